@@ -144,7 +144,7 @@ struct CollectionInfo {
     std::uint16_t indexer_set_slot = no_slot;
 };
 
-struct ValidityState; // runtime/host_state.h
+struct PyHostState; // runtime/host_state.h
 
 // A class, struct, interface or static class, or the wrapper of a collection. The type object
 // comes first, so Py_TYPE(self) leads here in one step; the engine fills the object's slots when
@@ -174,7 +174,7 @@ struct ClassBinding {
     const MixedMethod* mixed_methods = nullptr; // ended by an empty record
     Protocol protocol = Protocol::none;
     const CollectionInfo* collection = nullptr;
-    ValidityState* state = nullptr; // made by the engine at first use
+    PyHostState* state = nullptr; // made by the engine at first use
 };
 
 // How an enum's values are made and read.
@@ -197,7 +197,7 @@ struct EnumBinding {
     PyMethodDef* methods; // KORVAN_ENUM_METHODS
     ClassBinding* outer = nullptr;
     PyObject* type = nullptr; // made when the namespace is built
-    ValidityState* state = nullptr;
+    PyHostState* state = nullptr;
 };
 
 // A Python namespace module. All lists end with null and are sorted by short name.

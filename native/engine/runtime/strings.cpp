@@ -1,0 +1,154 @@
+#include "runtime/strings.h"
+
+#include "runtime/identifiers.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <new>
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+constexpr int utf16_little_endian = -1;
+// No handler of this name exists, so an unpaired surrogate surfaces as LookupError.
+constexpr const char* no_handler = "";
+
+PyObject* decode(const char* data, Py_ssize_t code_units) {
+    int order = utf16_little_endian;
+    return PyUnicode_DecodeUTF16(data, code_units * 2, no_handler, &order);
+}
+
+// A str as UTF-16 with a byte order mark in front, or null with an error in the words of `char`.
+PyObject* encode_for_char(PyObject* object) {
+    if (!PyUnicode_Check(object)) {
+        PyErr_Format(PyExc_TypeError, "can't build Char from '%s'", type_name_of(object));
+        return nullptr;
+    }
+    Ref encoded = Ref::steal(PyUnicode_AsUTF16String(object));
+    if (!encoded) {
+        if (PyErr_Occurred() == nullptr) {
+            PyErr_SetString(PyExc_TypeError, "cannot convert unicode object to byte string");
+        }
+        return nullptr;
+    }
+    if (!PyBytes_Check(encoded.get())) {
+        PyErr_Format(PyExc_TypeError, "converted string must be bytes-like object, not '%s'",
+                     type_name_of(encoded.get()));
+        return nullptr;
+    }
+    return encoded.release();
+}
+
+} // namespace
+
+int fn_conv_py_string_to_clr_string(PyObject* object, PyStringArg* out) {
+    if (object == Py_None) {
+        out->length = -1;
+        return 1;
+    }
+    if (!PyUnicode_Check(object)) {
+        PyErr_Format(PyExc_TypeError, "can't build String from '%s'", type_name_of(object));
+        return 0;
+    }
+    return fn_conv_py_string_to_clr_string_value(object, out);
+}
+
+int fn_conv_py_string_to_clr_string_value(PyObject* object, PyStringArg* out) {
+    const int kind = PyUnicode_KIND(object);
+    if (kind != PyUnicode_1BYTE_KIND && kind != PyUnicode_2BYTE_KIND &&
+        kind != PyUnicode_4BYTE_KIND) {
+        PyErr_Format(PyExc_TypeError, "unknown unicode encoding '%i'", kind);
+        return 0;
+    }
+    out->data = PyUnicode_DATA(object);
+    out->char_size = kind;
+    out->length = static_cast<std::int32_t>(PyUnicode_GET_LENGTH(object));
+    return 1;
+}
+
+int fn_read_py_string(PyObject* object, PyStringArg* out) {
+    return fn_conv_py_string_to_clr_string_value(object, out);
+}
+
+int fn_conv_py_strorpath_to_clr_string(PyObject* object, PyEphStrArg* out) {
+    out->owner = nullptr;
+    if (object == Py_None) {
+        out->text.length = -1;
+        return 1;
+    }
+    if (PyUnicode_Check(object)) {
+        return fn_conv_py_string_to_clr_string_value(object, &out->text);
+    }
+    Ref text;
+    if (!PyUnicode_FSDecoder(object, text.out()) ||
+        !fn_conv_py_string_to_clr_string_value(text.get(), &out->text)) {
+        return 0;
+    }
+    out->owner = text.release();
+    return 1;
+}
+
+PyObject* fn_conv_clr_string_to_py_string_value(const char* data, long length) {
+    return decode(data, length);
+}
+
+PyObject* fn_conv_clr_string_to_py_string(const char* data, int length) {
+    return fn_conv_clr_string_to_py_string_value(data, length);
+}
+
+PyObject* fn_conv_clr_string_to_py_unraisable(const char* data, int length) {
+    PyObject* text = fn_conv_clr_string_to_py_string_value(data, length);
+    if (text == nullptr && PyErr_Occurred() != nullptr) {
+        PyErr_WriteUnraisable(PyWrpIdTraceBack_FormatExceptionWarning);
+    }
+    return text;
+}
+
+void* fn_create_u16_buffer(const char16_t* data, int length) {
+    if (data == nullptr && length != 0) {
+        throw std::logic_error("fn_create_u16_buffer: no characters");
+    }
+    void* holder = std::malloc(sizeof(std::u16string));
+    if (holder == nullptr) {
+        throw std::bad_alloc();
+    }
+    return new (holder) std::u16string(length == 0 ? u"" : data, static_cast<size_t>(length));
+}
+
+int fn_conv_py_string_to_clr_char(PyObject* object, unsigned short* out) {
+    const Ref encoded = Ref::steal(encode_for_char(object));
+    if (!encoded) {
+        return 0;
+    }
+    if (PyBytes_GET_SIZE(encoded.get()) != 4) { // the byte order mark and one unit
+        PyErr_SetString(PyExc_TypeError, "string must contain one UTF-16 code unit");
+        return 0;
+    }
+    std::memcpy(out, PyBytes_AS_STRING(encoded.get()) + 2, sizeof(*out));
+    return 1;
+}
+
+PyObject* fn_conv_clr_char_to_py_string(unsigned short code_unit) {
+    return decode(reinterpret_cast<const char*>(&code_unit), 1);
+}
+
+PyObject* fn_write_py_char(int code_unit) {
+    return fn_conv_clr_char_to_py_string(static_cast<unsigned short>(code_unit & 0xFFFF));
+}
+
+int fn_clbk_ucol_get_unicode_bytes(PyObject* object, PyObject** keep, int* length, void** data) {
+    Ref encoded = Ref::steal(encode_for_char(object));
+    if (!encoded) {
+        return 0;
+    }
+    *length = static_cast<int>((PyBytes_GET_SIZE(encoded.get()) - 2) / 2);
+    char* bytes = PyBytes_AsString(encoded.get());
+    if (bytes == nullptr) {
+        return 0;
+    }
+    // The managed reader counts on this offset: behind the mark and the first unit.
+    *data = bytes + 4;
+    *keep = encoded.release();
+    return 1;
+}
