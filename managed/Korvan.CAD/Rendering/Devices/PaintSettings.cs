@@ -1,0 +1,27 @@
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Geometry;
+
+namespace Korvan.CAD.Rendering.Devices;
+
+/// <summary>How one list is put on one surface.</summary>
+internal readonly record struct PaintSettings
+{
+    /// <summary>Drawing units to device units; the device's y runs down.</summary>
+    internal required Affine2 ToDevice { get; init; }
+
+    /// <summary>Device units in a millimetre of the page.</summary>
+    internal required double UnitsPerMillimetre { get; init; }
+
+    /// <summary>The thinnest line, in device units.</summary>
+    internal double Hairline { get; init; }
+
+    /// <summary>All line weights are multiplied by this.</summary>
+    internal double LineScale { get; init; }
+
+    internal Rgba Background { get; init; }
+
+    internal bool PaintBackground { get; init; }
+
+    /// <summary>Shapes and text without grey edges.</summary>
+    internal bool Sharp { get; init; }
+}

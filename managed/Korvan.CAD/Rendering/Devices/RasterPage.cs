@@ -1,0 +1,108 @@
+using System;
+using System.IO;
+using Korvan.CAD.Rendering.Native;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Devices;
+
+/// <summary>A page as pixels: four bytes each, blue first, alpha multiplied in.</summary>
+internal sealed unsafe class RasterPage : IDisposable
+{
+    internal const int LargestSide = 32_000;
+    internal const long MostPixels = 400_000_000;
+
+    private nint surface;
+
+    private RasterPage(int width, int height)
+    {
+        NativeLibraries.Require();
+        Width = width;
+        Height = height;
+        surface = Cairo.ImageSurfaceCreate(CairoFormat.Argb32, width, height);
+        Cairo.Check(Cairo.SurfaceStatus(surface), $"making a picture of {width} × {height} pixels");
+    }
+
+    internal int Width { get; }
+
+    internal int Height { get; }
+
+    /// <summary>Says why a size cannot be had, or null when it can.</summary>
+    internal static string? Refuse(double width, double height)
+    {
+        if (!(width >= 1 && height >= 1))
+        {
+            return $"A picture of {width:0.##} × {height:0.##} pixels has no area; give a page of at least one pixel.";
+        }
+
+        if (width > LargestSide || height > LargestSide || width * height > MostPixels)
+        {
+            return $"A picture of {width:0} × {height:0} pixels is too large: " +
+                $"at most {LargestSide} pixels on a side and {MostPixels} in all; give a smaller page.";
+        }
+
+        return null;
+    }
+
+    internal static RasterPage Render(TextEngine engine, Page page)
+    {
+        if (Refuse(page.Width, page.Height) is string reason)
+        {
+            throw new RenderException(reason);
+        }
+
+        var raster = new RasterPage((int)Math.Round(page.Width), (int)Math.Round(page.Height));
+        nint cr = Cairo.Create(raster.surface);
+        try
+        {
+            CairoPainter.Paint(cr, engine, page.List, page.Settings);
+            Cairo.SurfaceFlush(raster.surface);
+            return raster;
+        }
+        catch
+        {
+            raster.Dispose();
+            throw;
+        }
+        finally
+        {
+            Cairo.Destroy(cr);
+        }
+    }
+
+    /// <summary>The pixels of one line of the picture.</summary>
+    internal ReadOnlySpan<byte> Row(int y)
+    {
+        ObjectDisposedException.ThrowIf(surface == 0, this);
+        ArgumentOutOfRangeException.ThrowIfGreaterThanOrEqual((uint)y, (uint)Height, nameof(y));
+        byte* data = Cairo.ImageSurfaceGetData(surface);
+        return new ReadOnlySpan<byte>(data + ((long)y * Cairo.ImageSurfaceGetStride(surface)), Width * 4);
+    }
+
+    internal byte[] CopyPixels()
+    {
+        var pixels = new byte[(long)Width * Height * 4];
+        for (int y = 0; y < Height; y++)
+        {
+            Row(y).CopyTo(pixels.AsSpan(y * Width * 4));
+        }
+
+        return pixels;
+    }
+
+    internal void WritePng(Stream output)
+    {
+        using var sink = new StreamSink(output);
+        int status = Cairo.SurfaceWriteToPng(surface, StreamSink.Callback, sink.Closure);
+        sink.Complete();
+        Cairo.Check(status, "writing a PNG picture");
+    }
+
+    public void Dispose()
+    {
+        if (surface != 0)
+        {
+            Cairo.SurfaceDestroy(surface);
+            surface = 0;
+        }
+    }
+}

@@ -1,0 +1,10 @@
+using System.Collections.Generic;
+using Korvan.CAD.Rendering.Geometry;
+
+namespace Korvan.CAD.Rendering.Hatch;
+
+/// <summary>
+/// One family of parallel lines of a pattern, scaled and turned already: a line through the base point, the offset
+/// to the next one, and dash lengths (positive ink, negative gap, zero a dot; none for a continuous line).
+/// </summary>
+internal readonly record struct HatchLine(double Angle, Vec2 Base, Vec2 Offset, IReadOnlyList<double> Dashes);

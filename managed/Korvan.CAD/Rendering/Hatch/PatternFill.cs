@@ -1,0 +1,158 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.Rendering.Geometry;
+
+namespace Korvan.CAD.Rendering.Hatch;
+
+/// <summary>
+/// Cuts pattern lines to an even-odd area. Each edge of the area adds one crossing to each line that it crosses, so
+/// the work is that of the crossings, however many lines and edges there are.
+/// </summary>
+internal sealed class PatternFill
+{
+    /// <summary>Segments and crossings that one hatch may ask for; past it the hatch is shown as a tint.</summary>
+    internal const int MostSegments = 1_000_000;
+
+    private readonly List<(int Line, double At)> crossings = [];
+    private readonly PathBuffer target;
+    private int segments;
+
+    private PatternFill(PathBuffer target) => this.target = target;
+
+    /// <summary>
+    /// Adds the lines of the pattern to <paramref name="target"/>, in the coordinates of the rings. Returns false,
+    /// with the target in no useful state, when the pattern is too dense to be drawn line by line.
+    /// </summary>
+    internal static bool TryFill(IReadOnlyList<Vec2[]> rings, IReadOnlyList<HatchLine> lines, PathBuffer target)
+    {
+        var fill = new PatternFill(target);
+        foreach (HatchLine line in lines)
+        {
+            if (!fill.TryAdd(rings, line))
+            {
+                return false;
+            }
+        }
+
+        return true;
+    }
+
+    private bool TryAdd(IReadOnlyList<Vec2[]> rings, in HatchLine line)
+    {
+        Vec2 along = Vec2.Polar(line.Angle);
+        double spacing = Vec2.Dot(line.Offset, along.Left);
+        if (!double.IsFinite(spacing) || Math.Abs(spacing) < 1e-12)
+        {
+            return spacing == 0 || double.IsNaN(spacing);
+        }
+
+        crossings.Clear();
+        foreach (Vec2[] ring in rings)
+        {
+            if (!TryCross(ring, line.Base, along, spacing))
+            {
+                return false;
+            }
+        }
+
+        crossings.Sort();
+        double shift = Vec2.Dot(line.Offset, along);
+        for (int i = 0; i + 1 < crossings.Count; i += 2)
+        {
+            (int index, double from) = crossings[i];
+            (int other, double to) = crossings[i + 1];
+            if (index != other)
+            {
+                // A crossing lost to rounding: skip it and pair the rest of this line anew.
+                i--;
+                continue;
+            }
+
+            Vec2 origin = line.Base + (along.Left * (index * spacing)) + (along * (index * shift));
+            if (!TryDash(origin, along, from - (index * shift), to - (index * shift), line.Dashes))
+            {
+                return false;
+            }
+        }
+
+        return true;
+    }
+
+    // Edges are half open in the direction across the lines, so that a vertex on a line counts once.
+    private bool TryCross(Vec2[] ring, Vec2 origin, Vec2 along, double spacing)
+    {
+        Vec2 a = ring[^1] - origin;
+        double rowA = Vec2.Dot(a, along.Left) / spacing;
+        foreach (Vec2 point in ring)
+        {
+            Vec2 b = point - origin;
+            double rowB = Vec2.Dot(b, along.Left) / spacing;
+            double first = Math.Ceiling(Math.Min(rowA, rowB));
+            double last = Math.Ceiling(Math.Max(rowA, rowB)) - 1;
+            if (!(last - first < MostSegments) || Math.Abs(first) > int.MaxValue || Math.Abs(last) > int.MaxValue)
+            {
+                return false;
+            }
+
+            double ta = Vec2.Dot(a, along);
+            double slope = rowB == rowA ? 0 : (Vec2.Dot(b, along) - ta) / (rowB - rowA);
+            for (int row = (int)first; row <= (int)last; row++)
+            {
+                crossings.Add((row, ta + ((row - rowA) * slope)));
+            }
+
+            if (crossings.Count > 2 * MostSegments)
+            {
+                return false;
+            }
+
+            (a, rowA) = (b, rowB);
+        }
+
+        return true;
+    }
+
+    private bool TryDash(Vec2 origin, Vec2 along, double from, double to, IReadOnlyList<double> dashes)
+    {
+        double period = 0;
+        foreach (double dash in dashes)
+        {
+            period += Math.Abs(dash);
+        }
+
+        if (dashes.Count == 0 || !(period > 0))
+        {
+            return TryLine(origin, along, from, to);
+        }
+
+        if (!((to - from) / period * dashes.Count < MostSegments))
+        {
+            return false;
+        }
+
+        double at = Math.Floor(from / period) * period;
+        while (at < to)
+        {
+            foreach (double dash in dashes)
+            {
+                double next = at + Math.Abs(dash);
+                bool visible = dash > 0 ? next > from && at < to : dash == 0 && at >= from && at <= to;
+                if (visible && !TryLine(origin, along, Math.Max(at, from), Math.Min(next, to)))
+                {
+                    return false;
+                }
+
+                at = next;
+            }
+        }
+
+        return true;
+    }
+
+    private bool TryLine(Vec2 origin, Vec2 along, double from, double to)
+    {
+        target.MoveTo(origin + (along * from));
+        target.LineTo(origin + (along * to));
+        return ++segments <= MostSegments;
+    }
+}

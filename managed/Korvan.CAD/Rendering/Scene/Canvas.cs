@@ -1,0 +1,216 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Rendering.Hatch;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>
+/// Puts strokes, fills, hatches and text of one page into its list. It knows pens and geometry, but no entity and
+/// no table of the drawing.
+/// </summary>
+internal sealed class Canvas
+{
+    private const int MostPatternTexts = 5_000;
+    private const double DashesPerPathLimit = 100_000;
+
+    internal Canvas(DrawingList list, TextEngine engine)
+    {
+        List = list;
+        Engine = engine;
+    }
+
+    internal DrawingList List { get; }
+
+    internal TextEngine Engine { get; }
+
+    /// <summary>The face of a text style, for texts inside line types.</summary>
+    internal Func<string, FontSpec> StyleFont { get; set; } = static _ => FontSpec.Default;
+
+    /// <summary>Scratch for one path; whoever draws clears it first.</summary>
+    internal PathBuffer Path { get; } = new();
+
+    internal PathBuffer NewPath()
+    {
+        Path.Clear();
+        return Path;
+    }
+
+    internal void Stroke(in Pen pen) => Stroke(Path, pen);
+
+    /// <summary>Strokes with the line type of the pen; a path shorter than one period is drawn continuous.</summary>
+    internal void Stroke(PathBuffer path, in Pen pen)
+    {
+        var style = new StrokeStyle { Color = pen.Color, LineWeight = pen.LineWeight, Dash = -1, Layer = pen.Layer };
+        double period = (pen.Pattern?.Period ?? 0) * pen.PatternScale;
+        if (pen.Pattern == null || !(period > 0) || !double.IsFinite(period))
+        {
+            List.Stroke(path, style);
+            return;
+        }
+
+        double length = PathMeasure.Length(path);
+        if (length >= period && length / period * pen.Pattern.Lengths.Length < DashesPerPathLimit)
+        {
+            style.Dash = DashIndex(pen);
+            style.DashOffset = (float)AlignedOffset(path, pen, length, period);
+            if (pen.Pattern.Texts.Count > 0)
+            {
+                PatternTexts(path, pen, period, style.DashOffset);
+            }
+        }
+
+        List.Stroke(path, style);
+    }
+
+    /// <summary>Thin bars, as under text: continuous, of a width in drawing units.</summary>
+    internal void Bar(Vec2 from, Vec2 to, double thickness, Rgba color, int layer)
+    {
+        Vec2 half = (to - from).Unit().Left * (thickness / 2);
+        PathBuffer path = NewPath();
+        path.MoveTo(from + half);
+        path.LineTo(to + half);
+        path.LineTo(to - half);
+        path.LineTo(from - half);
+        path.Close();
+        List.Fill(path, color, layer, evenOdd: false);
+    }
+
+    internal void Fill(in Pen pen, bool evenOdd) => List.Fill(Path, pen.Color, pen.Layer, evenOdd);
+
+    internal void FillLoops(List<HatchLoop> loops, in Pen pen, Gradient? gradient)
+    {
+        PathBuffer path = NewPath();
+        foreach (HatchLoop loop in loops)
+        {
+            path.Append(loop.Path);
+            path.Close();
+        }
+
+        List.Fill(path, pen.Color, pen.Layer, evenOdd: true, gradient);
+    }
+
+    /// <summary>Draws a pattern in the loops, or a tint of a quarter of the colour where it is too dense for lines.</summary>
+    internal void FillPattern(List<HatchLoop> loops, IReadOnlyList<HatchLine> lines, in Pen pen)
+    {
+        var rings = new List<Vec2[]>(loops.Count);
+        foreach (HatchLoop loop in loops)
+        {
+            rings.Add(loop.Ring);
+        }
+
+        PathBuffer path = NewPath();
+        if (PatternFill.TryFill(rings, lines, path))
+        {
+            List.Stroke(path, new StrokeStyle { Color = pen.Color, LineWeight = pen.LineWeight, Dash = -1, Layer = pen.Layer });
+            return;
+        }
+
+        Pen tint = pen;
+        tint.Color = pen.Color.WithAlpha((byte)(pen.Color.A / 4));
+        FillLoops(loops, tint, null);
+    }
+
+    /// <summary>One run at a place: the matrix maps the run's ems to the page.</summary>
+    internal void Text(string text, int font, in Affine2 matrix, double letterSpacing, Rgba color, int layer)
+    {
+        double advance = Engine.Advance(font, text, letterSpacing);
+        double cap = Engine.CapRatio(font);
+        Bounds2 box = Bounds2.Empty;
+        for (int corner = 0; corner < 4; corner++)
+        {
+            Vec2 p = matrix.Point((corner & 1) * advance, (corner >> 1) * cap);
+            box.Add(p.X, p.Y);
+        }
+
+        if (text.AsSpan().Trim().Length > 0)
+        {
+            List.Text(new TextRun(text, font, matrix, letterSpacing), color, layer, box);
+        }
+    }
+
+    private int DashIndex(in Pen pen)
+    {
+        double[] lengths = pen.Pattern!.Lengths;
+        Span<double> scaled = stackalloc double[LinePattern.MostElements];
+        for (int i = 0; i < lengths.Length; i++)
+        {
+            scaled[i] = lengths[i] * pen.PatternScale;
+        }
+
+        return List.Dash(scaled[..lengths.Length]);
+    }
+
+    /// <summary>
+    /// Open lines begin and end with ink: what is left over after whole periods is shared by both ends, as far as
+    /// the first dash allows.
+    /// </summary>
+    private static double AlignedOffset(PathBuffer path, in Pen pen, double length, double period)
+    {
+        if (path.Verbs[^1] == PathVerb.Close || path.Verbs.Length != 2)
+        {
+            return 0;
+        }
+
+        double dash = pen.Pattern!.Lengths[0] * pen.PatternScale;
+        double rest = length - (Math.Floor((length - dash) / period) * period) - dash;
+        double shown = (dash + rest) / 2;
+        return shown <= dash ? dash - shown : 0;
+    }
+
+    private void PatternTexts(PathBuffer path, in Pen pen, double period, double offset)
+    {
+        foreach (PatternText text in pen.Pattern!.Texts)
+        {
+            var walk = new TextWalk(this, pen, text, period, ((text.At * pen.PatternScale) - offset) % period);
+            PathMeasure.ForEachChord(path, ref walk, static (ref TextWalk w, Vec2 a, Vec2 b) => w.Advance(a, b));
+        }
+    }
+
+    private struct TextWalk
+    {
+        private readonly Canvas canvas;
+        private readonly Pen pen;
+        private readonly PatternText text;
+        private readonly double period;
+        private readonly int font;
+        private double next;
+        private double walked;
+        private int count;
+
+        internal TextWalk(Canvas canvas, in Pen pen, in PatternText text, double period, double first)
+        {
+            this.canvas = canvas;
+            this.pen = pen;
+            this.text = text;
+            this.period = period;
+            font = canvas.Engine.Font(canvas.StyleFont(text.Style));
+            next = first < 0 ? first + period : first;
+        }
+
+        internal void Advance(Vec2 from, Vec2 to)
+        {
+            double length = (to - from).Length;
+            for (; next <= walked + length && count < MostPatternTexts; next += period, count++)
+            {
+                Vec2 direction = (to - from).Unit();
+                Place(from + (direction * (next - walked)), direction);
+            }
+
+            walked += length;
+        }
+
+        private readonly void Place(Vec2 at, Vec2 direction)
+        {
+            double scale = pen.PatternScale;
+            double em = text.Height * scale / canvas.Engine.CapRatio(font);
+            Vec2 origin = at + (direction * (text.OffsetX * scale)) + (direction.Left * (text.OffsetY * scale));
+            double angle = Math.Atan2(direction.Y, direction.X) + text.Rotation;
+            (double sin, double cos) = Math.SinCos(angle);
+            var matrix = new Affine2(cos * em, sin * em, -sin * em, cos * em, origin.X, origin.Y);
+            canvas.Text(text.Text, font, matrix, 0, pen.Color, pen.Layer);
+        }
+    }
+}

@@ -1,0 +1,87 @@
+using System;
+using System.Collections.Generic;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>A text that a complex line type repeats, placed at a distance from the start of the pattern.</summary>
+internal readonly record struct PatternText(double At, string Text, string Style, double Height, double Rotation, double OffsetX, double OffsetY);
+
+/// <summary>
+/// A line type at scale 1: lengths that alternate between ink and gap, beginning with ink. The definition's signed
+/// list (positive ink, negative gap, zero a dot) is brought into that form once.
+/// </summary>
+internal sealed class LinePattern
+{
+    internal const int MostElements = 64;
+
+    private LinePattern(double[] lengths, PatternText[] texts)
+    {
+        Lengths = lengths;
+        Texts = texts;
+        foreach (double length in lengths)
+        {
+            Period += length;
+        }
+    }
+
+    internal double[] Lengths { get; }
+
+    internal IReadOnlyList<PatternText> Texts { get; }
+
+    internal double Period { get; }
+
+    /// <summary>Null for a continuous line and for definitions that show nothing but ink.</summary>
+    internal static LinePattern? Create(IReadOnlyList<double> elements, PatternText[]? texts = null)
+    {
+        var lengths = new List<double>(elements.Count + 2);
+        foreach (double element in elements)
+        {
+            if (!double.IsFinite(element) || lengths.Count >= MostElements - 2)
+            {
+                return null;
+            }
+
+            bool isGap = element < 0;
+            bool gapIsNext = (lengths.Count & 1) == 1;
+            if (isGap == gapIsNext)
+            {
+                lengths.Add(Math.Abs(element));
+            }
+            else if (lengths.Count == 0)
+            {
+                // A pattern that opens with a gap: the ink of no length would be a dot, so the gap moves to the end.
+                return Create(Rotate(elements), texts);
+            }
+            else
+            {
+                lengths[^1] += Math.Abs(element);
+            }
+        }
+
+        if ((lengths.Count & 1) == 1 && lengths.Count > 1)
+        {
+            lengths[0] += lengths[^1];
+            lengths.RemoveAt(lengths.Count - 1);
+        }
+
+        var pattern = new LinePattern(lengths.ToArray(), texts ?? []);
+        return lengths.Count >= 2 && pattern.Period > 0 ? pattern : null;
+    }
+
+    private static List<double> Rotate(IReadOnlyList<double> elements)
+    {
+        var rotated = new List<double>(elements.Count);
+        int first = 0;
+        while (first < elements.Count && elements[first] < 0)
+        {
+            first++;
+        }
+
+        for (int i = 0; first < elements.Count && i < elements.Count; i++)
+        {
+            rotated.Add(elements[(first + i) % elements.Count]);
+        }
+
+        return rotated;
+    }
+}

@@ -1,0 +1,62 @@
+using System;
+using Korvan.CAD.Rendering.Geometry;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>Lengths along a path, for patterns that follow it.</summary>
+internal static class PathMeasure
+{
+    private const int CurveSteps = 8;
+
+    /// <summary>Calls back for each chord with its ends; curves are cut into a fixed few.</summary>
+    internal static void ForEachChord<TState>(PathBuffer path, ref TState state, ChordAction<TState> action)
+    {
+        ReadOnlySpan<double> c = path.Coords;
+        Vec2 current = default;
+        Vec2 start = default;
+        int at = 0;
+        foreach (PathVerb verb in path.Verbs)
+        {
+            switch (verb)
+            {
+                case PathVerb.Move:
+                    current = start = new Vec2(c[at], c[at + 1]);
+                    at += 2;
+                    break;
+                case PathVerb.Line:
+                    Step(new Vec2(c[at], c[at + 1]), ref current, ref state, action);
+                    at += 2;
+                    break;
+                case PathVerb.Curve:
+                    Vec2 p0 = current;
+                    for (int i = 1; i <= CurveSteps; i++)
+                    {
+                        Vec2 p = Cubic.At(
+                            p0, new Vec2(c[at], c[at + 1]), new Vec2(c[at + 2], c[at + 3]), new Vec2(c[at + 4], c[at + 5]), (double)i / CurveSteps);
+                        Step(p, ref current, ref state, action);
+                    }
+
+                    at += 6;
+                    break;
+                default:
+                    Step(start, ref current, ref state, action);
+                    break;
+            }
+        }
+    }
+
+    internal static double Length(PathBuffer path)
+    {
+        double length = 0;
+        ForEachChord(path, ref length, static (ref double sum, Vec2 a, Vec2 b) => sum += (b - a).Length);
+        return length;
+    }
+
+    private static void Step<TState>(Vec2 to, ref Vec2 current, ref TState state, ChordAction<TState> action)
+    {
+        action(ref state, current, to);
+        current = to;
+    }
+}
+
+internal delegate void ChordAction<TState>(ref TState state, Vec2 from, Vec2 to);

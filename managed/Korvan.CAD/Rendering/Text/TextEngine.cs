@@ -1,0 +1,197 @@
+using System;
+using System.Collections.Generic;
+using System.Text;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Native;
+
+namespace Korvan.CAD.Rendering.Text;
+
+/// <summary>
+/// Measures and shows runs of text through pango. Fonts are shaped unhinted at one large size, so that what is
+/// measured in ems holds for every size and device. An engine belongs to one thread.
+/// </summary>
+internal sealed unsafe class TextEngine : IDisposable
+{
+    /// <summary>The size in device units at which everything is shaped; cairo's matrix brings it to the real one.</summary>
+    private const double EmSize = 256;
+    private const int BoldWeight = 700;
+    private const int NormalWeight = 400;
+    private const int ItalicStyle = 2;
+    private const int HintNone = 1;
+    private const int HintMetricsOff = 1;
+    private const int MostCachedAdvances = 50_000;
+    private const double UsualCapRatio = 0.7;
+
+    private readonly List<nint> descriptions = [];
+    private readonly List<double> capRatios = [];
+    private readonly Dictionary<FontSpec, int> fonts = [];
+    private readonly Dictionary<(int Font, string Text, double Spacing), double> advances = [];
+    private nint fontMap;
+    private nint context;
+    private nint layout;
+    private int currentFont = -1;
+    private string? currentText;
+    private double currentSpacing;
+
+    internal TextEngine()
+    {
+        NativeLibraries.Require();
+        fontMap = Pango.CairoFontMapNew();
+        context = Pango.FontMapCreateContext(fontMap);
+        Pango.CairoContextSetResolution(context, 72);
+        Pango.ContextSetRoundGlyphPositions(context, 0);
+        nint options = Cairo.FontOptionsCreate();
+        Cairo.FontOptionsSetHintStyle(options, HintNone);
+        Cairo.FontOptionsSetHintMetrics(options, HintMetricsOff);
+        Cairo.FontOptionsSetAntialias(options, CairoAntialias.Gray);
+        Pango.CairoContextSetFontOptions(context, options);
+        Cairo.FontOptionsDestroy(options);
+        layout = Pango.LayoutNew(context);
+        Pango.LayoutSetSingleParagraphMode(layout, 1);
+        Pango.LayoutSetAutoDir(layout, 1);
+    }
+
+    /// <summary>Characters that no installed font could show, over all runs measured or shown.</summary>
+    internal int UnknownGlyphs { get; private set; }
+
+    internal int Font(FontSpec spec)
+    {
+        if (!fonts.TryGetValue(spec, out int index))
+        {
+            index = descriptions.Count;
+            descriptions.Add(Describe(spec));
+            fonts.Add(spec, index);
+            capRatios.Add(MeasureCapRatio(index));
+        }
+
+        return index;
+    }
+
+    /// <summary>Height of a capital letter as a part of the em: drawings give the first, fonts are scaled by the second.</summary>
+    internal double CapRatio(int font) => capRatios[font];
+
+    /// <summary>How far the pen moves over the text, in ems.</summary>
+    internal double Advance(int font, string text, double letterSpacing = 0)
+    {
+        if (text.Length == 0)
+        {
+            return 0;
+        }
+
+        var key = (font, text, letterSpacing);
+        if (!advances.TryGetValue(key, out double advance))
+        {
+            PangoRectangle logical;
+            nint line = Shape(font, text, letterSpacing);
+            UnknownGlyphs += Pango.LayoutGetUnknownGlyphsCount(layout);
+            Pango.LayoutLineGetExtents(line, null, &logical);
+            advance = logical.Width / (Pango.Scale * EmSize);
+            if (advances.Count >= MostCachedAdvances)
+            {
+                advances.Clear();
+            }
+
+            advances.Add(key, advance);
+        }
+
+        return advance;
+    }
+
+    /// <summary>Shows a run with its baseline along the x axis of the current matrix, one em to a unit, y down.</summary>
+    internal void Show(nint cr, in TextRun run)
+    {
+        nint line = Shape(run.Font, run.Text, run.LetterSpacing);
+        var scale = new CairoMatrix { Xx = 1 / EmSize, Yy = 1 / EmSize };
+        Cairo.Transform(cr, &scale);
+        Cairo.MoveTo(cr, 0, 0);
+        Pango.CairoShowLayoutLine(cr, line);
+        Cairo.NewPath(cr);
+    }
+
+    public void Dispose()
+    {
+        foreach (nint description in descriptions)
+        {
+            Pango.FontDescriptionFree(description);
+        }
+
+        descriptions.Clear();
+        Release(ref layout);
+        Release(ref context);
+        Release(ref fontMap);
+    }
+
+    private static void Release(ref nint instance)
+    {
+        if (instance != 0)
+        {
+            Pango.Unref(instance);
+            instance = 0;
+        }
+    }
+
+    private static nint Describe(FontSpec spec)
+    {
+        nint description = Pango.FontDescriptionNew();
+        Pango.FontDescriptionSetFamily(description, spec.Family);
+        Pango.FontDescriptionSetWeight(description, spec.Bold ? BoldWeight : NormalWeight);
+        Pango.FontDescriptionSetStyle(description, spec.Italic ? ItalicStyle : 0);
+        Pango.FontDescriptionSetAbsoluteSize(description, EmSize * Pango.Scale);
+        return description;
+    }
+
+    private double MeasureCapRatio(int font)
+    {
+        PangoRectangle ink;
+        Pango.LayoutLineGetExtents(Shape(font, "H", 0), &ink, null);
+        double ratio = -ink.Y / (Pango.Scale * EmSize);
+        return ratio is > 0.2 and < 2 ? ratio : UsualCapRatio;
+    }
+
+    private nint Shape(int font, string text, double letterSpacing)
+    {
+        if (font != currentFont)
+        {
+            Pango.LayoutSetFontDescription(layout, descriptions[font]);
+            currentFont = font;
+        }
+
+        if (letterSpacing != currentSpacing)
+        {
+            SetSpacing(letterSpacing);
+        }
+
+        if (!ReferenceEquals(text, currentText))
+        {
+            SetText(text);
+        }
+
+        return Pango.LayoutGetLine(layout, 0);
+    }
+
+    private void SetSpacing(double ems)
+    {
+        nint list = Pango.AttrListNew();
+        if (ems != 0)
+        {
+            Pango.AttrListInsert(list, Pango.AttrLetterSpacingNew((int)Math.Round(ems * EmSize * Pango.Scale)));
+        }
+
+        Pango.LayoutSetAttributes(layout, list);
+        Pango.AttrListUnref(list);
+        currentSpacing = ems;
+    }
+
+    private void SetText(string text)
+    {
+        int most = Encoding.UTF8.GetMaxByteCount(text.Length);
+        Span<byte> utf8 = most <= 1024 ? stackalloc byte[most] : new byte[most];
+        int length = Encoding.UTF8.GetBytes(text, utf8);
+        fixed (byte* bytes = utf8)
+        {
+            Pango.LayoutSetText(layout, bytes, length);
+        }
+
+        currentText = text;
+    }
+}

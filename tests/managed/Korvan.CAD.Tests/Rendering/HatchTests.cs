@@ -1,0 +1,111 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Rendering.Hatch;
+using Xunit;
+
+namespace Korvan.CAD.Tests.Rendering;
+
+public class HatchTests
+{
+    [Fact]
+    public void Lines_are_cut_at_islands_and_spaced_by_their_offset()
+    {
+        List<(Vec2 From, Vec2 To)> lines = Fill([Square(0, 0, 10), Square(4, 4, 2)], new HatchLine(0, new Vec2(0, 0.5), new Vec2(0, 1), []));
+        Assert.Equal(12, lines.Count); // ten rows, two of them cut in two
+        Assert.Equal(100 - 4, TotalLength(lines), 9);
+        Assert.Contains(lines, l => l is { From: { X: 0, Y: 4.5 }, To: { X: 4 } });
+    }
+
+    [Fact]
+    public void Dashes_start_at_the_base_point_and_shift_with_each_row()
+    {
+        List<(Vec2 From, Vec2 To)> lines = Fill([Square(0, 0, 8)], new HatchLine(0, new Vec2(0, 1), new Vec2(1, 2), [2, -2]));
+        Assert.Contains((new Vec2(0, 1), new Vec2(2, 1)), lines);
+        Assert.Contains((new Vec2(1, 3), new Vec2(3, 3)), lines);
+        Assert.Contains((new Vec2(0, 7), new Vec2(1, 7)), lines); // cut by the boundary
+        Assert.Equal(16, TotalLength(lines), 9);
+    }
+
+    [Fact]
+    public void Turned_lines_cover_the_area_in_proportion()
+    {
+        List<(Vec2 From, Vec2 To)> lines = Fill(
+            [Square(-50, -50, 100)], new HatchLine(Math.PI / 6, new Vec2(3, 7), Vec2.Polar(2 * Math.PI / 3, 0.25), []));
+        Assert.InRange(TotalLength(lines), 39900, 40100);
+    }
+
+    [Fact]
+    public void Dots_are_lines_of_no_length()
+    {
+        List<(Vec2 From, Vec2 To)> lines = Fill([Square(0, 0, 4)], new HatchLine(0, new Vec2(0.5, 0.5), new Vec2(0, 1), [0, -1]));
+        Assert.Equal(16, lines.Count);
+        Assert.Equal(0, TotalLength(lines));
+    }
+
+    [Theory]
+    [InlineData(1e-7, 0)] // rows without end
+    [InlineData(1, 1e-7)] // dashes without end
+    public void Patterns_of_millions_of_lines_are_refused(double spacing, double dash)
+    {
+        double[] dashes = dash > 0 ? [dash, -dash] : [];
+        Assert.False(PatternFill.TryFill([Square(0, 0, 10)], [new HatchLine(0, default, new Vec2(0, spacing), dashes)], new PathBuffer()));
+    }
+
+    [Theory]
+    [InlineData(HatchStyle.Normal, 3)]
+    [InlineData(HatchStyle.Outer, 2)]
+    [InlineData(HatchStyle.Ignore, 1)]
+    public void Styles_choose_loops_by_nesting(object style, int count)
+    {
+        List<HatchLoop> loops = [Loop(2, 2, 6), Loop(0, 0, 10), Loop(4, 4, 2)];
+        Assert.Equal(count, HatchLoops.Select(loops, (HatchStyle)style).Count);
+    }
+
+    [Fact]
+    public void Loops_side_by_side_do_not_nest()
+    {
+        List<HatchLoop> loops = [Loop(0, 0, 2), Loop(2, 0, 2), Loop(4, 0, 2)];
+        Assert.Equal(3, HatchLoops.Select(loops, HatchStyle.Ignore).Count);
+    }
+
+    private static Vec2[] Square(double x, double y, double side) =>
+        [new(x, y), new(x + side, y), new(x + side, y + side), new(x, y + side)];
+
+    private static HatchLoop Loop(double x, double y, double side)
+    {
+        var path = new PathBuffer();
+        foreach (Vec2 p in Square(x, y, side))
+        {
+            path.LineTo(p);
+        }
+
+        path.Close();
+        return new HatchLoop(path, 0.01);
+    }
+
+    private static List<(Vec2 From, Vec2 To)> Fill(Vec2[][] rings, HatchLine line)
+    {
+        var path = new PathBuffer();
+        Assert.True(PatternFill.TryFill(rings, [line], path));
+        var lines = new List<(Vec2, Vec2)>();
+        ReadOnlySpan<double> c = path.Coords;
+        for (int i = 0; i < c.Length; i += 4)
+        {
+            lines.Add((new Vec2(c[i], c[i + 1]), new Vec2(c[i + 2], c[i + 3])));
+        }
+
+        return lines;
+    }
+
+    private static double TotalLength(List<(Vec2 From, Vec2 To)> lines)
+    {
+        double total = 0;
+        foreach ((Vec2 from, Vec2 to) in lines)
+        {
+            total += (to - from).Length;
+        }
+
+        return total;
+    }
+}
