@@ -1,0 +1,121 @@
+namespace Korvan.WrpGen.Interop;
+
+/// <summary>
+/// Operations on the items of a Python list or sequence: statuses become exceptions, values cross
+/// as variants one way and as finished objects, which the callback consumes, the other.
+/// </summary>
+internal static unsafe class PyItemAccess
+{
+    private const int Error = -1;
+    private const int IndexError = -2;
+
+    internal static object? GetFromList(nint list, int index)
+    {
+        VariantArg variant = default;
+        Check(PyCollectionApi.ListGet(list, index, &variant));
+        return Variants.ReadItem(&variant);
+    }
+
+    internal static object? GetFromSequence(nint sequence, int index)
+    {
+        VariantArg variant = default;
+        Check(PyCollectionApi.SequenceGet(sequence, index, &variant));
+        try
+        {
+            return Variants.ReadItem(&variant);
+        }
+        finally
+        {
+            ReleaseItem(&variant);
+        }
+    }
+
+    internal static void Set(nint list, int index, object? value) =>
+        Check(PyCollectionApi.ListSet(list, index, NewObject(value)));
+
+    internal static int Add(nint list, object? value) =>
+        Checked(PyCollectionApi.ListAdd(list, NewObject(value))) - 1;
+
+    internal static void Insert(nint list, int index, object? value) =>
+        Check(PyCollectionApi.ListInsert(list, index, NewObject(value)));
+
+    internal static void RemoveAt(nint list, int index) => Check(PyCollectionApi.RemoveAt(list, index));
+
+    internal static void Clear(nint list) => Check(PyCollectionApi.Clear(list));
+
+    internal static bool ListContains(nint list, object? value) =>
+        Checked(PyCollectionApi.ListContains(list, NewObject(value))) != 0;
+
+    internal static int ListIndexOf(nint list, object? value) =>
+        Found(PyCollectionApi.ListIndexOf(list, NewObject(value)));
+
+    // A comparison that raised counts as a match there, and leaves its error pending.
+    internal static bool SequenceContains(nint sequence, object? value)
+    {
+        int status = PyCollectionApi.SequenceContains(sequence, NewObject(value));
+        ThrowIfPending();
+        return Checked(status) != 0;
+    }
+
+    internal static int SequenceIndexOf(nint sequence, object? value)
+    {
+        int index = PyCollectionApi.SequenceIndexOf(sequence, NewObject(value));
+        ThrowIfPending();
+        return Found(index);
+    }
+
+    internal static int Checked(int status)
+    {
+        if (status == Error)
+        {
+            Boundary.ThrowPythonError();
+        }
+        return status;
+    }
+
+    private static void Check(int status)
+    {
+        if (status == IndexError)
+        {
+            Boundary.ThrowIndexError();
+        }
+        Checked(status);
+    }
+
+    private static int Found(int index)
+    {
+        if (index < -1)
+        {
+            Boundary.ThrowPythonError();
+        }
+        return index;
+    }
+
+    private static void ThrowIfPending()
+    {
+        if (Boundary.TakePythonError() is { } text)
+        {
+            throw new PythonException(text);
+        }
+    }
+
+    private static nint NewObject(object? value)
+    {
+        nint result = PyWriter.Write(value);
+        if (result == 0)
+        {
+            Boundary.ThrowPythonError();
+        }
+        return result;
+    }
+
+    // The sequence callback hands over a reference to the item. A record of a wrapped object holds
+    // its handle instead, so that this reference alone can't be given back.
+    private static void ReleaseItem(VariantArg* variant)
+    {
+        if ((VariantKind)variant->Kind >= VariantKind.String)
+        {
+            PyObjects.DecRef(variant->Value);
+        }
+    }
+}

@@ -1,0 +1,139 @@
+using System;
+using System.Collections;
+using System.Collections.Generic;
+using System.IO;
+using System.Linq;
+
+namespace Korvan.WrpGen.Interop;
+
+/// <summary>A managed face of a Python object that came in as an argument.</summary>
+public interface IPyAdapter
+{
+    /// <summary>The Python object, borrowed.</summary>
+    nint PyObject { get; }
+
+    /// <summary>Brings what is buffered to the Python object.</summary>
+    void Complete();
+
+    /// <summary>Ends the adapter's use of the Python object.</summary>
+    void End();
+}
+
+/// <summary>
+/// The adapters of one call. An argument of a method lends its Python object for the length of the
+/// call alone; what a constructor or a setter takes is kept, and holds a reference of its own.
+/// </summary>
+public unsafe struct PyScope
+{
+    private readonly bool _keeps;
+    private IPyAdapter? _first;
+    private List<IPyAdapter>? _others;
+
+    private PyScope(bool keeps) => _keeps = keeps;
+
+    /// <summary>For arguments of a method.</summary>
+    public static PyScope Lending() => new(keeps: false);
+
+    /// <summary>For what outlives the call.</summary>
+    public static PyScope Keeping() => new(keeps: true);
+
+    public Stream? Stream(VariantArg* argument) => FromPython(argument)
+        ? Adopt(new PyStream(Hold(argument->Value), isBuffered: !_keeps))
+        : Handles.Object<Stream>(argument->Value);
+
+    public IEnumerable? AnyIterable(VariantArg* argument) => FromPython(argument)
+        ? Adopt(new PyIterable(Hold(argument->Value)))
+        : Handles.Object<IEnumerable>(argument->Value);
+
+    public ICollection? AnyCollection(VariantArg* argument) => FromPython(argument)
+        ? Adopt(new PyCollection(Hold(argument->Value)))
+        : Handles.Object<ICollection>(argument->Value);
+
+    public IList? AnyList(VariantArg* argument) => (ReferenceKind)argument->Kind switch
+    {
+        ReferenceKind.Python => Adopt(new PyList(Hold(argument->Value))),
+        ReferenceKind.Sequence => Adopt(new PySequence(Hold(argument->Value))),
+        _ => Handles.Object<IList>(argument->Value),
+    };
+
+    public IEnumerable<T>? Iterable<T>(VariantArg* argument) => FromPython(argument)
+        ? Adopt(new PyIterable<T>(Hold(argument->Value)))
+        : Handles.Object<IEnumerable<T>>(argument->Value);
+
+    public ICollection<T>? Collection<T>(VariantArg* argument) => FromPython(argument)
+        ? Adopt(ItemsOf<T>(argument))
+        : Handles.Object<ICollection<T>>(argument->Value);
+
+    public IReadOnlyCollection<T>? ReadOnlyCollection<T>(VariantArg* argument) => FromPython(argument)
+        ? Adopt(ItemsOf<T>(argument))
+        : Handles.Object<IReadOnlyCollection<T>>(argument->Value);
+
+    public IList<T>? ItemList<T>(VariantArg* argument) => FromPython(argument)
+        ? Adopt(ItemsOf<T>(argument))
+        : Handles.Object<IList<T>>(argument->Value);
+
+    public IReadOnlyList<T>? ReadOnlyList<T>(VariantArg* argument) => FromPython(argument)
+        ? Adopt(ItemsOf<T>(argument))
+        : Handles.Object<IReadOnlyList<T>>(argument->Value);
+
+    /// <summary>A concrete list is no interface: items from Python are copied into a new one.</summary>
+    public List<T>? ListOf<T>(VariantArg* argument) => FromPython(argument)
+        ? [.. ItemsOf<T>(argument)]
+        : Handles.Object<List<T>>(argument->Value);
+
+    public T[]? ArrayOf<T>(VariantArg* argument) => FromPython(argument)
+        ? ItemsOf<T>(argument).ToArray()
+        : Handles.Object<T[]>(argument->Value);
+
+    /// <summary>Any value for a parameter of the universal object type.</summary>
+    public object? Any(VariantArg* argument) => Variants.Read(argument, ref this);
+
+    /// <summary>Brings what the adapters buffer to Python. Belongs behind the call that used them.</summary>
+    public readonly void Complete()
+    {
+        _first?.Complete();
+        foreach (IPyAdapter adapter in Others)
+        {
+            adapter.Complete();
+        }
+    }
+
+    /// <summary>Ends lent adapters; kept ones live on.</summary>
+    public readonly void End()
+    {
+        if (_keeps)
+        {
+            return;
+        }
+        _first?.End();
+        foreach (IPyAdapter adapter in Others)
+        {
+            adapter.End();
+        }
+    }
+
+    internal T Adopt<T>(T adapter) where T : IPyAdapter
+    {
+        if (_first is null)
+        {
+            _first = adapter;
+        }
+        else
+        {
+            (_others ??= []).Add(adapter);
+        }
+        return adapter;
+    }
+
+    internal readonly PyReference Hold(nint value) =>
+        _keeps ? PyReference.Kept(value) : PyReference.Lent(value);
+
+    private readonly ReadOnlySpan<IPyAdapter> Others =>
+        System.Runtime.InteropServices.CollectionsMarshal.AsSpan(_others);
+
+    private static bool FromPython(VariantArg* argument) =>
+        (ReferenceKind)argument->Kind >= ReferenceKind.Python;
+
+    private readonly PyItems<T> ItemsOf<T>(VariantArg* argument) =>
+        new(Hold(argument->Value), isList: (ReferenceKind)argument->Kind == ReferenceKind.Python);
+}
