@@ -49,6 +49,7 @@
 #include "bindings/results.h"
 #include "bindings/tables.h"
 #include "generic/element_ops.h"
+#include "generic/interop.h"
 
 #define KORVAN_METHOD(name, record)                                                                \
     {name, reinterpret_cast<PyCFunction>(method_thunk<record>), METH_VARARGS | METH_KEYWORDS,      \
@@ -67,13 +68,6 @@
         {"__exit__", wrpPye_bltp_idisposable_exit, METH_VARARGS, nullptr}
 #define KORVAN_GET_TYPE_OF_OBJECT {"get_type", wrapClrObject_get_type, METH_NOARGS, nullptr}
 #define KORVAN_GET_TYPE_OF_STRUCT {"get_type", wrapClrStruct_get_type, METH_NOARGS, nullptr}
-#define KORVAN_CAST_METHODS(binding)                                                               \
-    {"_type_of", type_of_thunk<binding>, METH_NOARGS | METH_STATIC, nullptr},                      \
-        {"_cast_to", cast_to_thunk<binding>, METH_O | METH_STATIC, nullptr},                       \
-        {"_cast_from", cast_from, METH_O, nullptr},                                                \
-        {"_reinterpret_obj", reinterpret_obj_thunk<binding>, METH_O | METH_STATIC, nullptr},       \
-        {"_cast_as", cast_as_thunk<binding>, METH_O | METH_STATIC, nullptr},                       \
-        {"_is_assignable", is_assignable_thunk<binding>, METH_O | METH_STATIC, nullptr}
 #define KORVAN_ENUM_METHODS(binding)                                                               \
     {"_type_of", enum_type_of_thunk<binding>, METH_NOARGS | METH_STATIC, nullptr},                 \
         {"_cast_to", enum_cast_to_thunk<binding>, METH_O | METH_STATIC, nullptr},                  \

@@ -132,14 +132,31 @@ enum class Protocol : std::uint8_t {
 
 struct ElementOps; // generic/element_ops.h: conversions of one element shape
 
-// A collection's element and the hosts that serve it.
+// A collection's element and the hosts that serve it. A host's delegates stand in the order that
+// generic/collection_layout.h fixes for its kind. Example, for the wrapper of List<CadEntityBase>
+// (its own host is the list host; hosts of constituents that no type needs are still emitted):
+//   static const CollectionInfo collection_<H> = {
+//       .element = &element_ops<arg::object, ret::object>, .element_type = &class_..._CadEntityBase,
+//       .iterator = &iter_<H>, .iterable_host = &PyHost_gn_Iterable_<H>,
+//       .list_host = &PyHost_gn_List_<H>};
+//   constinit ClassBinding list_<H> = {.name = "korvan.cad._wrpgen._generic._ListWrapper_<H>",
+//       .short_name = "_ListWrapper_<H>", .what = "List", .kind = ClassKind::object,
+//       .host = &PyHost_gn_List_<H>, .first_cast_slot = 21, .methods = ...,
+//       .protocol = Protocol::list, .collection = &collection_<H>};
+// `what` is "List" for List, IList, ICol and the read-only kinds, "Array", "IEnumerable",
+// "IEnumerator". List and Array wrappers are of ClassKind::object (cast group TypeOf, CastTo,
+// ReInterpretObj, CastAs, IsAssignable), the interfaces of ClassKind::interface_. Their method
+// tables hold KORVAN_WRAPPER_METHODS(binding) alone (and {}). A bound class that implements
+// IEnumerable, ICollection or IList without element type has .collection = &any_iterable_info,
+// &any_collection_info or &any_list_info (generic/interop.h) and the protocol to match.
 struct CollectionInfo {
-    const ElementOps* element; // null: elements cross as variants (non-generic collections)
-    const void* element_type; // ClassBinding or EnumBinding of the element, or null
-    ClassBinding* iterator; // the wrapper that GetEnumerator's result becomes
-    HostRecord* iterable_host; // GetEnumerator
-    HostRecord* collection_host; // ICol or IRoCol (SqLength, ...); null where list_host has it
-    HostRecord* list_host; // List, Array, IList, IRoList, or the indexer's own host
+    const ElementOps* element = nullptr; // null: elements cross as variants
+    const void* element_type = nullptr; // ClassBinding or EnumBinding of the element
+    ClassBinding* iterator = nullptr; // the wrapper that GetEnumerator's result becomes
+    HostRecord* iterator_host = nullptr; // MoveNext: only for Protocol::iterator
+    HostRecord* iterable_host = nullptr; // GetEnumerator
+    HostRecord* collection_host = nullptr; // ICol or IRoCol; null where list_host has it all
+    HostRecord* list_host = nullptr; // List, Array, IList, IRoList, or the indexer's own host
     std::uint16_t indexer_slot = no_slot; // Protocol::indexer: btp_SqGetItem
     std::uint16_t indexer_set_slot = no_slot;
 };
@@ -151,13 +168,15 @@ struct PyHostState; // runtime/host_state.h
 // the namespace is built.
 struct ClassBinding {
     PyTypeObject type = {};
-    const char* name; // dotted Python name
-    const char* short_name; // managed simple name, as refusals print it
-    const char16_t* managed_name; // full managed name; null: not in the registry
+    const char* name = nullptr; // dotted Python name; null: the short name below the module's
+    const char* short_name; // managed simple name: the name in the module
+    const char* what = nullptr; // what refusals call it; null: the short name
+    const char16_t* managed_name = nullptr; // full managed name; null: not in the registry
     ClassKind kind;
     HostRecord* host;
-    std::uint16_t first_cast_slot; // index of btp_TypeOf
+    std::uint16_t first_cast_slot; // index of the first btp_ cast delegate
     bool has_cast_from = false;
+    bool assignable_first = false; // btp_IsAssignable stands ahead of btp_TypeOf
     bool is_disposable = false; // referenced: the IDisposable wrapper
     ClassBinding* base = nullptr;
     ClassBinding* outer = nullptr; // of a nested type

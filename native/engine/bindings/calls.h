@@ -1,0 +1,30 @@
+// bindings/calls.h: argument parsing, overload groups and constructors.
+#ifndef KORVAN_BINDINGS_CALLS_H
+#define KORVAN_BINDINGS_CALLS_H
+
+#include "bindings/tables.h"
+
+// A parsing converter with the binding that it needs.
+using CellConverter = int (*)(PyObject* object, void* cell, const void* type);
+
+// Converts the arguments into the leg's cells. False leaves the error of the parser, or of the
+// first converter that refused, pending.
+bool parse_arguments(const Leg& leg, const CellConverter* converters, void* const* cells,
+                     const CallArguments& arguments);
+
+// A method or overload group. When no leg fits: TypeError whose argument is a list of one text a
+// leg; a group of one leg raises that leg's own error.
+PyObject* call_method(const Method& method, PyObject* self, PyObject* args, PyObject* kwargs);
+int call_constructors(const Method& constructors, PyObject* self, PyObject* args,
+                      PyObject* kwargs);
+
+template <const Method& M> PyObject* method_thunk(PyObject* self, PyObject* args, PyObject* kwargs) {
+    return call_method(M, self, args, kwargs);
+}
+
+PyObject* call_without_arguments(const Method& method, PyObject* self);
+template <const Method& M> PyObject* method_noargs_thunk(PyObject* self, PyObject*) {
+    return call_without_arguments(M, self);
+}
+
+#endif

@@ -1,0 +1,85 @@
+// bindings/legs.h: one overload as a template over its result and argument policies.
+#ifndef KORVAN_BINDINGS_LEGS_H
+#define KORVAN_BINDINGS_LEGS_H
+
+#include "bindings/arguments.h"
+#include "bindings/calls.h"
+#include "bindings/results.h"
+#include "host/exchange_host.h"
+
+namespace leg_detail {
+
+template <class... Args> struct Frame {
+    std::tuple<typename Args::cell...> cells;
+
+    bool parse(const Leg& leg, const CallArguments& arguments) {
+        return parse(leg, arguments, std::index_sequence_for<Args...>());
+    }
+    auto natives() { return natives(std::index_sequence_for<Args...>()); }
+
+private:
+    template <size_t... I>
+    bool parse(const Leg& leg, const CallArguments& arguments, std::index_sequence<I...>) {
+        static constexpr CellConverter converters[] = {arg::convert_cell<Args>..., nullptr};
+        void* const addresses[] = {&std::get<I>(cells)..., nullptr};
+        return parse_arguments(leg, converters, addresses, arguments);
+    }
+    template <size_t... I> auto natives(std::index_sequence<I...>) {
+        return std::tuple_cat(Args::pass(std::get<I>(cells))...);
+    }
+};
+
+} // namespace leg_detail
+
+template <class Ret, class... Args>
+LegOutcome call(const Leg& leg, PyObject* self, const CallArguments& arguments, PyObject** result) {
+    leg_detail::Frame<Args...> frame;
+    if (!frame.parse(leg, arguments)) {
+        return LegOutcome::misfit;
+    }
+    void* function = reinterpret_cast<void*>(host_slot<void()>(*leg.host, leg.slot));
+    *result = std::apply(
+        [&](auto... natives) {
+            return Ret::invoke(function, leg.result_type, clr_handle(self), natives...);
+        },
+        frame.natives());
+    return *result != nullptr ? LegOutcome::done : LegOutcome::failed;
+}
+
+template <class Ret, class... Args>
+LegOutcome call_static(const Leg& leg, PyObject*, const CallArguments& arguments,
+                       PyObject** result) {
+    leg_detail::Frame<Args...> frame;
+    if (!frame.parse(leg, arguments)) {
+        return LegOutcome::misfit;
+    }
+    void* function = reinterpret_cast<void*>(host_slot<void()>(*leg.host, leg.slot));
+    *result = std::apply(
+        [&](auto... natives) { return Ret::invoke(function, leg.result_type, natives...); },
+        frame.natives());
+    return *result != nullptr ? LegOutcome::done : LegOutcome::failed;
+}
+
+// The handle is stored before the error test: what a failing constructor returned is given back
+// when the wrapper is deallocated.
+template <class... Args>
+LegOutcome construct(const Leg& leg, PyObject* self, const CallArguments& arguments, PyObject**) {
+    leg_detail::Frame<Args...> frame;
+    if (!frame.parse(leg, arguments)) {
+        return LegOutcome::misfit;
+    }
+    void* function = reinterpret_cast<void*>(host_slot<void()>(*leg.host, leg.slot));
+    void*& handle = reinterpret_cast<PyClrObject*>(self)->handle;
+    void* const replaced = handle;
+    handle = std::apply(
+        [&](auto... natives) {
+            return reinterpret_cast<void* (*)(decltype(natives)...)>(function)(natives...);
+        },
+        frame.natives());
+    if (replaced != nullptr) { // __init__ called again on a finished object
+        ExchangeHost::get_instance().free_instance(replaced);
+    }
+    return PyErr_Occurred() == nullptr ? LegOutcome::done : LegOutcome::failed;
+}
+
+#endif
