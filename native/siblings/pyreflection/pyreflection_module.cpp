@@ -1,0 +1,130 @@
+// korvan.pyreflection: managed types, objects and enum values as Python objects.
+//
+// The module is imported ahead of the runtime's start and attaches to the runtime when the first
+// handle is wrapped, through an interop assembly of its own.
+#include "module/capsules.h"
+#include "module/version_attributes.h"
+#include "runtime/callbacks.h"
+#include "runtime/failures.h"
+#include "runtime/identifiers.h"
+#include "runtime/markers.h"
+#include "runtime/wrapped_objects.h"
+
+namespace {
+
+PyObject* empty_wrapper(PyTypeObject* type, PyObject* args, PyObject* kwargs) {
+    PyObject* object = PyType_GenericNew(type, args, kwargs);
+    if (object != nullptr) {
+        reinterpret_cast<PyClrObject*>(object)->handle = nullptr;
+    }
+    return object;
+}
+
+PyMethodDef methods[] = {{"get_type", wrapClrObject_get_type, METH_NOARGS,
+                          "The managed type of this object."},
+                         {}};
+
+constexpr PyTypeObject make_type(const char* name, const char* doc) {
+    return {
+        .ob_base = PyVarObject_HEAD_INIT(nullptr, 0).tp_name = name,
+        .tp_basicsize = sizeof(PyClrObject),
+        .tp_dealloc = wrapClrObject_tp_dealloc,
+        .tp_repr = wrapClrObject_str,
+        .tp_hash = wrapClrObject_hash,
+        .tp_flags = 0,
+        .tp_doc = doc,
+        .tp_richcompare = wrapClrObject_tp_richcompare,
+        .tp_methods = methods,
+        .tp_init = wrapClrObject_tp_init_fault,
+        .tp_alloc = PyType_GenericAlloc,
+        .tp_new = empty_wrapper,
+    };
+}
+
+PyTypeObject type_type = make_type("korvan.pyreflection.Type", "A managed type.");
+PyTypeObject object_type = make_type("korvan.pyreflection.Object", "Any managed object.");
+PyTypeObject enum_type = make_type("korvan.pyreflection.Enum", "A value of a managed enum, boxed.");
+
+bool attach() {
+    static bool is_attached = false;
+    if (!is_attached) {
+        is_attached = initialize_clr_host("", "WrpInterop.Korvan.PyReflection", false, "korvan",
+                                          "pyreflection") == 0;
+    }
+    return is_attached;
+}
+
+PyObject* wrap(void* handle, PyTypeObject* type) {
+    if (handle == nullptr) {
+        Py_RETURN_NONE;
+    }
+    return attach() ? fn_py_clr_type_generic_new(handle, type) : nullptr;
+}
+
+PyObject* wrap_type(void* handle) { return wrap(handle, &type_type); }
+PyObject* wrap_object(void* handle) { return wrap(handle, &object_type); }
+PyObject* wrap_enum(void* handle) { return wrap(handle, &enum_type); }
+
+// The handle of an instance of exactly this type: non-zero on success, no error otherwise.
+int unwrap(PyObject* object, void** handle, const PyTypeObject* type) {
+    if (Py_TYPE(object) != type || clr_handle(object) == nullptr) {
+        return 0;
+    }
+    *handle = clr_handle(object);
+    return 1;
+}
+
+int unwrap_type(PyObject* object, void** handle) { return unwrap(object, handle, &type_type); }
+int unwrap_object(PyObject* object, void** handle) {
+    return fn_conv_py_obj_to_clr_refobj_not_null_handle(object, handle) && *handle != nullptr;
+}
+int unwrap_enum(PyObject* object, void** handle) { return unwrap(object, handle, &enum_type); }
+
+int refuse(const char* what, PyObject* object) {
+    PyErr_Format(PyExc_TypeError, "can't build %s value from '%s'", what, type_name_of(object));
+    return 0;
+}
+int parse_type(PyObject* object, void* out) {
+    return unwrap_type(object, static_cast<void**>(out)) ? 1 : refuse("Type", object);
+}
+int parse_object(PyObject* object, void* out) {
+    return unwrap_object(object, static_cast<void**>(out)) ? 1 : refuse("Object", object);
+}
+int parse_enum(PyObject* object, void* out) {
+    return unwrap_enum(object, static_cast<void**>(out)) ? 1 : refuse("Enum", object);
+}
+
+template <class Function> void* pointer(Function* function) {
+    return reinterpret_cast<void*>(function);
+}
+
+// Each table: parsing converter, wrapper, handle extractor.
+void* type_api[] = {pointer(parse_type), pointer(wrap_type), pointer(unwrap_type)};
+void* object_api[] = {pointer(parse_object), pointer(wrap_object), pointer(unwrap_object)};
+void* enum_api[] = {pointer(parse_enum), pointer(wrap_enum), pointer(unwrap_enum)};
+
+PyModuleDef definition = {PyModuleDef_HEAD_INIT, "korvan.pyreflection", nullptr, -1, nullptr,
+                          nullptr,               nullptr,               nullptr, nullptr};
+
+bool add_wrapper(PyObject* module, PyTypeObject* type) {
+    return PyModule_AddType(module, type) == 0 && fn_set_obj_type_host_markattr(type) &&
+           fn_set_castable_type_markattr(type, Py_None);
+}
+
+} // namespace
+
+PyMODINIT_FUNC PyInit_pyreflection() {
+    fn_intern_identifiers();
+    wrpPyl_convcaps_clr_to_py_94F50081_Type = wrap_type;
+    Ref module = Ref::steal(PyModule_Create(&definition));
+    if (!module || !add_wrapper(module.get(), &type_type) ||
+        !add_wrapper(module.get(), &object_type) || !add_wrapper(module.get(), &enum_type) ||
+        !add_capsule(module.get(), "korvan.pyreflection._C_APIT_Type", type_api) ||
+        !add_capsule(module.get(), "korvan.pyreflection._C_APIT_Object", object_api) ||
+        !add_capsule(module.get(), "korvan.pyreflection._C_APIT_Enum", enum_api) ||
+        add_version_attributes(module.get(), "korvan.pyreflection._ModuleVersionType",
+                               {25, 3, 0, 0, "25.3.0.0"}, {22, 6, 0, 0, "22.6.0.0"}) != 0) {
+        return nullptr;
+    }
+    return module.release();
+}
