@@ -1,0 +1,87 @@
+# The managed half: the library, the generator, what it generates, and the interop assemblies.
+find_program(DOTNET dotnet REQUIRED)
+set(KORVAN_DOTNET_ARTIFACTS "${CMAKE_SOURCE_DIR}/build/dotnet")
+set(KORVAN_GENERATED "${CMAKE_BINARY_DIR}/generated")
+set(KORVAN_DOTNET_FLAGS -c Release -v quiet -nologo -p:ArtifactsPath=${KORVAN_DOTNET_ARTIFACTS})
+
+# Every source of a managed project; a new file makes the build configure again.
+function(korvan_managed_sources out)
+  set(all)
+  foreach(folder ${ARGN})
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS
+      "${folder}/*.cs" "${folder}/*.csproj" "${folder}/*.props" "${folder}/*.targets")
+    list(APPEND all ${sources})
+  endforeach()
+  list(APPEND all "${CMAKE_SOURCE_DIR}/Directory.Build.props" "${CMAKE_SOURCE_DIR}/global.json")
+  set(${out} ${all} PARENT_SCOPE)
+endfunction()
+
+# Builds a project; `stamp` is written when its output may have changed.
+function(korvan_dotnet_build stamp project)
+  cmake_parse_arguments(arg "" "COMMENT" "SOURCES;FLAGS" ${ARGN})
+  add_custom_command(
+    OUTPUT "${stamp}"
+    COMMAND "${DOTNET}" build "${project}" ${KORVAN_DOTNET_FLAGS} ${arg_FLAGS}
+    COMMAND "${CMAKE_COMMAND}" -E touch "${stamp}"
+    DEPENDS ${arg_SOURCES} JOB_POOL dotnet COMMENT "${arg_COMMENT}" VERBATIM)
+endfunction()
+
+# Publishes an interop assembly, compiled ahead of time, into a folder.
+function(korvan_dotnet_publish stamp project folder)
+  cmake_parse_arguments(arg "" "COMMENT" "SOURCES;FLAGS" ${ARGN})
+  add_custom_command(
+    OUTPUT "${stamp}"
+    COMMAND "${DOTNET}" publish "${project}" ${KORVAN_DOTNET_FLAGS} ${arg_FLAGS} -o "${folder}"
+    COMMAND "${CMAKE_COMMAND}" -E touch "${stamp}"
+    DEPENDS ${arg_SOURCES} JOB_POOL dotnet COMMENT "${arg_COMMENT}" VERBATIM)
+endfunction()
+
+# Runs the generator over a library and folds its native units into a fixed number of sources, so
+# that the list of sources is known before the generator runs.
+function(korvan_generate name)
+  cmake_parse_arguments(arg "" "ASSEMBLY;ROOT;INTEROP;SHARDS" "DEPENDS" ${ARGN})
+  set(folder "${KORVAN_GENERATED}/${name}")
+  set(shards)
+  math(EXPR last "${arg_SHARDS} - 1")
+  foreach(i RANGE ${last})
+    list(APPEND shards "${folder}/shards/shard_${i}.cpp")
+  endforeach()
+  add_custom_command(
+    OUTPUT "${folder}/generated.stamp" ${shards}
+    COMMAND "${DOTNET}" "${KORVAN_DOTNET_ARTIFACTS}/bin/Korvan.WrpGen/release/Korvan.WrpGen.dll"
+      --assembly "${arg_ASSEMBLY}" --root "${arg_ROOT}" --interop "${arg_INTEROP}"
+      --cpp "${folder}/cpp" --csharp "${folder}/csharp" --stubs "${folder}/stubs"
+      --docs "${folder}/docs" --report "${folder}/left-out.txt"
+    COMMAND "${CMAKE_COMMAND}" -DUNITS=${folder}/cpp -DSHARDS=${folder}/shards -DCOUNT=${arg_SHARDS}
+      -P "${CMAKE_SOURCE_DIR}/cmake/WriteShards.cmake"
+    COMMAND "${CMAKE_COMMAND}" -E touch "${folder}/generated.stamp"
+    DEPENDS ${arg_DEPENDS} "${KORVAN_STAMPS}/generator" "${CMAKE_SOURCE_DIR}/cmake/WriteShards.cmake"
+    COMMENT "Generating the bindings of ${arg_ROOT}" VERBATIM)
+  add_custom_target(generate_${name} DEPENDS "${folder}/generated.stamp" ${shards})
+  set(${name}_shards ${shards} PARENT_SCOPE)
+endfunction()
+
+set(KORVAN_STAMPS "${CMAKE_BINARY_DIR}/stamps")
+file(MAKE_DIRECTORY "${KORVAN_STAMPS}")
+set(managed "${CMAKE_SOURCE_DIR}/managed")
+
+korvan_managed_sources(library_sources "${managed}/Korvan.CAD")
+file(GLOB_RECURSE codec_sources CONFIGURE_DEPENDS "${managed}/Korvan.CAD.CodecGen/*.cs*")
+korvan_dotnet_build("${KORVAN_STAMPS}/library" "${managed}/Korvan.CAD"
+  SOURCES ${library_sources} ${codec_sources} COMMENT "Building the drawing library")
+
+korvan_managed_sources(generator_sources "${managed}/Korvan.WrpGen")
+korvan_dotnet_build("${KORVAN_STAMPS}/generator" "${managed}/Korvan.WrpGen"
+  SOURCES ${generator_sources} COMMENT "Building the generator")
+
+korvan_generate(cad
+  ASSEMBLY "${KORVAN_DOTNET_ARTIFACTS}/bin/Korvan.CAD/release_linux-x64/Korvan.CAD.dll"
+  ROOT "Korvan.CAD=korvan.cad" INTEROP WrpInterop.Korvan.CAD SHARDS 6
+  DEPENDS "${KORVAN_STAMPS}/library")
+
+Python_add_library(cad MODULE WITH_SOABI
+  native/cad/cad_module.cpp native/cad/dependencies.cpp native/cad/packaging_hook.cpp
+  ${cad_shards})
+target_include_directories(cad PRIVATE "${KORVAN_GENERATED}/cad/cpp")
+target_link_libraries(cad PRIVATE korvan_engine)
+add_dependencies(cad generate_cad)
