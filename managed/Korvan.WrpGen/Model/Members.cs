@@ -1,0 +1,63 @@
+using System.Collections.Generic;
+using System.Linq;
+
+namespace Korvan.WrpGen.Model;
+
+/// <summary>A parameter of a bound method or constructor.</summary>
+public sealed record ParameterModel(string PythonName, ValueUse Value, Passing Passing);
+
+/// <summary>One overload: a method or a constructor.</summary>
+public sealed record MethodModel(string ManagedName, string PythonName, bool IsStatic)
+{
+    public required TypeModel Owner { get; init; }
+
+    public required IReadOnlyList<ParameterModel> Parameters { get; init; }
+
+    public required ValueUse Result { get; init; }
+
+    public required DocText Doc { get; init; }
+
+    /// <summary>Its number within its managed name, which is the order of tries.</summary>
+    public int Number { get; set; }
+
+    public bool IsConstructor => ManagedName == ".ctor";
+
+    public string Delegate => IsConstructor
+        ? $"ctor_{Number:000}_{Owner.Name}"
+        : $"call_{Number:000}_{ManagedName}";
+
+    /// <summary>Whether a call of the one can't be told from a call of the other in C#.</summary>
+    public bool HidesSameSignature(MethodModel other) =>
+        ManagedName == other.ManagedName &&
+        Parameters.Select(p => p.Value.CSharpName).SequenceEqual(other.Parameters.Select(p => p.Value.CSharpName));
+}
+
+/// <summary>An instance or static property or field.</summary>
+public sealed record PropertyModel(string ManagedName, string PythonName, bool IsStatic)
+{
+    public required TypeModel Owner { get; init; }
+
+    public required ValueUse Value { get; init; }
+
+    public required bool CanWrite { get; init; }
+
+    public required DocText Doc { get; init; }
+
+    public string Getter => (IsStatic ? "getsa_" : "get_") + ManagedName;
+
+    public string Setter => (IsStatic ? "setsa_" : "set_") + ManagedName;
+}
+
+/// <summary>A this[int].</summary>
+public sealed record IndexerModel(ValueUse Value, bool CanWrite);
+
+public sealed record EnumMemberModel(string PythonName, long Bits, DocText Doc);
+
+/// <summary>An interface that a class implements.</summary>
+public sealed record InterfaceUse(TypeModel Interface, bool IsExplicit);
+
+/// <summary>What the XML documentation says of a type or member.</summary>
+public sealed record DocText(string Summary, IReadOnlyDictionary<string, string> Parameters, string Returns)
+{
+    public static DocText None { get; } = new("", new Dictionary<string, string>(), "");
+}

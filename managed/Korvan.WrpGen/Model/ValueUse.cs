@@ -1,0 +1,25 @@
+namespace Korvan.WrpGen.Model;
+
+/// <summary>A managed type as some member uses it.</summary>
+/// <param name="Kind">How it crosses.</param>
+/// <param name="ManagedName">Its full managed name, of which the element hash is taken.</param>
+/// <param name="CSharpName">Its name in C# source.</param>
+public sealed record ValueUse(ValueKind Kind, string ManagedName, string CSharpName)
+{
+    /// <summary>The bound type of an enum, class, struct or interface.</summary>
+    public TypeModel? Bound { get; init; }
+
+    /// <summary>The element of a collection, the value of a nullable.</summary>
+    public ValueUse? Element { get; init; }
+
+    /// <summary>May be null by declaration; counts for the Python type alone.</summary>
+    public bool IsOptional { get; init; }
+
+    /// <summary>Value types, which pass as bits and have a nullable form.</summary>
+    public bool IsValueType => Kind is ValueKind.Enum or ValueKind.Struct or ValueKind.DateTime
+        or ValueKind.DateTimeOffset or ValueKind.TimeSpan or ValueKind.Guid or ValueKind.Decimal
+        or (>= ValueKind.Bool and <= ValueKind.Char);
+
+    /// <summary>A closed generic collection or an array.</summary>
+    public bool IsTypedCollection => Kind is >= ValueKind.Array and <= ValueKind.IReadOnlyList;
+}

@@ -1,0 +1,64 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using Korvan.WrpGen.Model;
+
+namespace Korvan.WrpGen.Reading;
+
+/// <summary>Finds the collection protocol that a class serves, typed before untyped, richest first.</summary>
+internal static class ProtocolReader
+{
+    private const string Generic = "System.Collections.Generic.";
+
+    private static readonly (string Interface, CollectionProtocol Protocol)[] s_typed =
+    [
+        (Generic + "IList`1", CollectionProtocol.List),
+        (Generic + "ICollection`1", CollectionProtocol.Collection),
+        (Generic + "IReadOnlyList`1", CollectionProtocol.ReadOnlyList),
+        (Generic + "IReadOnlyCollection`1", CollectionProtocol.ReadOnlyCollection),
+        (Generic + "IEnumerable`1", CollectionProtocol.Iterable),
+    ];
+
+    private static readonly (string Interface, CollectionProtocol Protocol)[] s_untyped =
+    [
+        ("System.Collections.IList", CollectionProtocol.List),
+        ("System.Collections.ICollection", CollectionProtocol.Collection),
+        ("System.Collections.IEnumerable", CollectionProtocol.Iterable),
+    ];
+
+    // What the engine gives a type of the protocol, so that a managed member of that name is not needed.
+    private static readonly HashSet<string> s_served =
+    [
+        "append", "insert", "extend", "remove", "pop", "clear", "index", "count", "sort", "reverse", "copy",
+        "contains", "length",
+    ];
+
+    private static readonly HashSet<string> s_plumbing =
+    [
+        "GetEnumerator", "CopyTo", "IsSynchronized", "SyncRoot", "IsReadOnly", "IsFixedSize",
+    ];
+
+    public static void Read(Type type, TypeModel model, ValueReader values)
+    {
+        foreach ((string name, CollectionProtocol protocol) in s_typed)
+        {
+            foreach (Type one in type.GetInterfaces().Where(i => i.IsConstructedGenericType))
+            {
+                if (one.GetGenericTypeDefinition().FullName == name &&
+                    values.ReadElement(one.GetGenericArguments()[0], out _) is { } element)
+                {
+                    model.Protocol = protocol;
+                    model.ProtocolElement = element;
+                    return;
+                }
+            }
+        }
+        model.Protocol = s_untyped.FirstOrDefault(pair => type.HasInterface(pair.Interface)).Protocol;
+    }
+
+    /// <summary>Whether the protocol stands in for a managed member.</summary>
+    public static bool Serves(TypeModel model, string managedName, string pythonName) =>
+        model.Protocol is not (CollectionProtocol.None or CollectionProtocol.Indexer) &&
+        (s_plumbing.Contains(managedName) ||
+         (model.Protocol != CollectionProtocol.Iterable && s_served.Contains(pythonName)));
+}

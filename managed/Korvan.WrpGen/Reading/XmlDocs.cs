@@ -1,0 +1,128 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using System.Linq;
+using System.Text;
+using System.Xml.Linq;
+using Korvan.WrpGen.Model;
+using Korvan.WrpGen.Naming;
+
+namespace Korvan.WrpGen.Reading;
+
+/// <summary>The library's XML documentation, with references worded as Python names.</summary>
+internal sealed class XmlDocs
+{
+    private readonly Dictionary<string, XElement> _members = [];
+
+    public static XmlDocs Load(string? path)
+    {
+        var docs = new XmlDocs();
+        if (path is null || !File.Exists(path))
+        {
+            return docs;
+        }
+        foreach (XElement member in XDocument.Load(path).Descendants("member"))
+        {
+            docs._members[member.Attribute("name")!.Value] = member;
+        }
+        return docs;
+    }
+
+    public DocText Of(string id)
+    {
+        if (!_members.TryGetValue(id, out XElement? member))
+        {
+            return DocText.None;
+        }
+        var parameters = member.Elements("param").ToDictionary(
+            parameter => PythonName.Lower(parameter.Attribute("name")!.Value), Text);
+        string summary = Join(Text(member.Element("summary")), Text(member.Element("remarks")));
+        return new DocText(summary, parameters, Text(member.Element("returns") ?? member.Element("value")));
+    }
+
+    private static string Join(string summary, string remarks) =>
+        remarks.Length == 0 ? summary : summary.Length == 0 ? remarks : $"{summary}\n\n{remarks}";
+
+    private static string Text(XElement? element)
+    {
+        if (element is null)
+        {
+            return "";
+        }
+        var text = new StringBuilder();
+        Append(text, element);
+        string[] paragraphs = text.ToString().Split("\n\n", StringSplitOptions.RemoveEmptyEntries);
+        return string.Join("\n\n", paragraphs.Select(Fold).Where(paragraph => paragraph.Length > 0));
+    }
+
+    private static string Fold(string text) =>
+        string.Join(' ', text.Split((char[]?)null, StringSplitOptions.RemoveEmptyEntries));
+
+    private static void Append(StringBuilder text, XElement element)
+    {
+        foreach (XNode node in element.Nodes())
+        {
+            switch (node)
+            {
+                case XText plain:
+                    text.Append(plain.Value.Replace("\n", " "));
+                    break;
+                case XElement { Name.LocalName: "para" or "p" } paragraph:
+                    text.Append("\n\n");
+                    Append(text, paragraph);
+                    text.Append("\n\n");
+                    break;
+                case XElement child:
+                    AppendInline(text, child);
+                    break;
+            }
+        }
+    }
+
+    private static void AppendInline(StringBuilder text, XElement child)
+    {
+        switch (child.Name.LocalName)
+        {
+            case "see" or "seealso" when child.Attribute("cref") is { } target:
+                text.Append('`').Append(PythonTarget(target.Value)).Append('`');
+                break;
+            case "see" when child.Attribute("langword") is { } word:
+                text.Append('`').Append(PythonWord(word.Value)).Append('`');
+                break;
+            case "paramref":
+                text.Append('`').Append(PythonName.Lower(child.Attribute("name")!.Value)).Append('`');
+                break;
+            case "c":
+                text.Append('`').Append(child.Value).Append('`');
+                break;
+            default:
+                Append(text, child);
+                break;
+        }
+    }
+
+    private static string PythonWord(string word) => word switch
+    {
+        "null" => "None",
+        "true" => "True",
+        "false" => "False",
+        _ => word,
+    };
+
+    // T:Korvan.CAD.Image is Image; P:Korvan.CAD.Image.Width is Image.width.
+    private static string PythonTarget(string cref)
+    {
+        string name = cref.Split('(')[0];
+        string[] parts = name[(name.IndexOf(':') + 1)..].Split('.');
+        string last = parts[^1];
+        string owner = parts.Length > 1 ? parts[^2] + "." : "";
+        return name[0] switch
+        {
+            'P' => owner + PythonName.Lower(last),
+            'F' => owner + PythonName.Upper(last),
+            'M' when last == "#ctor" => parts[^2],
+            'M' => owner + PythonName.Lower(last),
+            _ => last,
+        };
+    }
+}
