@@ -1,0 +1,35 @@
+using System;
+using System.Globalization;
+
+namespace Korvan.CAD.FileFormats.Cad;
+
+/// <summary>A tag of a drawing file: a group code and the text of its value.</summary>
+public class CadCodeValue
+{
+    /// <summary>Creates a tag.</summary>
+    /// <param name="attribute">The group code.</param>
+    /// <param name="value">The text of the value.</param>
+    public CadCodeValue(int attribute, string value)
+    {
+        ArgumentNullException.ThrowIfNull(value);
+        Attribute = attribute;
+        Value = value;
+    }
+
+    /// <summary>Gets or sets the group code.</summary>
+    public int Attribute { get; set; }
+
+    /// <summary>Gets or sets the text of the value.</summary>
+    public string Value { get; set; }
+
+    /// <summary>Gives the value as a number.</summary>
+    /// <exception cref="FormatException">The text is no number.</exception>
+    public double GetDoubleValue() => double.Parse(Value, NumberStyles.Float, CultureInfo.InvariantCulture);
+
+    /// <summary>Gives the value as a whole number.</summary>
+    /// <exception cref="FormatException">The text is no whole number.</exception>
+    public int GetIntValue() => int.Parse(Value, NumberStyles.Integer, CultureInfo.InvariantCulture);
+
+    /// <inheritdoc/>
+    public override string ToString() => $"{Attribute}: {Value}";
+}

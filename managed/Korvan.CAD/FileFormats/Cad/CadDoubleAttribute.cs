@@ -1,0 +1,12 @@
+namespace Korvan.CAD.FileFormats.Cad;
+
+/// <summary>States that a property is a number with a fraction.</summary>
+public sealed class CadDoubleAttribute : CadPropertyAttribute
+{
+    /// <summary>Creates the statement.</summary>
+    /// <param name="code">The group code.</param>
+    public CadDoubleAttribute(int code)
+        : base(code)
+    {
+    }
+}

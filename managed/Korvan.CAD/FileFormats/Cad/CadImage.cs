@@ -1,0 +1,181 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering;
+
+namespace Korvan.CAD.FileFormats.Cad;
+
+/// <summary>A drawing. Its lists are live: what is added, removed or changed is what is drawn and saved.</summary>
+public partial class CadImage : Image
+{
+    /// <summary>Creates an empty drawing of release 2018 with the usual tables.</summary>
+    public CadImage()
+        : this(DrawingSeed.Standard)
+    {
+    }
+
+    internal CadImage(DrawingSeed seed)
+    {
+        ModelSpace = new CadBlockEntity { Name = BlockNames.ModelSpace, NameAgain = BlockNames.ModelSpace };
+        PaperSpace = new CadBlockEntity { Name = BlockNames.PaperSpace, NameAgain = BlockNames.PaperSpace };
+        if (seed == DrawingSeed.Standard)
+        {
+            StandardDrawing.Fill(this);
+        }
+    }
+
+    /// <summary>Gets the variables of the drawing.</summary>
+    public CadHeader Header { get; } = new();
+
+    /// <summary>Gets the entities of model space, in drawing order.</summary>
+    public List<CadEntityBase> Entities => ModelSpace.Entities;
+
+    /// <summary>Gets the entities of the active sheet of paper, in drawing order.</summary>
+    public List<CadEntityBase> PaperSpaceEntities => PaperSpace.Entities;
+
+    /// <summary>Gets the blocks by name. Model space is *Model_Space, the active sheet *Paper_Space.</summary>
+    public CadBlockDictionary BlockEntities { get; } = new();
+
+    /// <summary>Gets the block records.</summary>
+    public CadBlockRecordList BlockRecords { get; } = new();
+
+    /// <summary>Gets the layers.</summary>
+    public CadLayersList Layers { get; } = new();
+
+    /// <summary>Gets the line types.</summary>
+    public CadLineTypesDictionary LineTypes { get; } = new();
+
+    /// <summary>Gets the text styles and shape files.</summary>
+    public CadStylesList Styles { get; } = new();
+
+    /// <summary>Gets the dimension styles.</summary>
+    public CadDimensionDictionary DimensionStyles { get; } = new();
+
+    /// <summary>Gets the named views.</summary>
+    public CadViewList Views { get; } = new();
+
+    /// <summary>Gets the parts of the screen.</summary>
+    public CadVportList ViewPorts { get; } = new();
+
+    /// <summary>Gets the named coordinate systems.</summary>
+    public CadUcsList UCSs { get; } = new();
+
+    /// <summary>Gets the programs that attached data.</summary>
+    public CadAppIdDictionary AppIdTables { get; } = new();
+
+    /// <summary>Gets the classes that programs added.</summary>
+    public CadClassList ClassEntities { get; } = new();
+
+    /// <summary>Gets the layouts: the model first, then the sheets of paper in the order of their tabs. Drawings up
+    /// to release 14 have none in their files; they get a model and a sheet.</summary>
+    public CadLayoutDictionary Layouts { get; } = new();
+
+    /// <summary>Gets the objects that are not drawn: dictionaries, layouts, styles and the like.</summary>
+    public List<CadObjectBase> Objects { get; } = [];
+
+    /// <summary>Gets the preview picture, a bitmap without its file header; empty for none.</summary>
+    public byte[] ThumbnailImage { get; internal set; } = [];
+
+    /// <summary>Gets how many entities are of a type that the library does not know. They survive loading and saving
+    /// unchanged.</summary>
+    public int UnknownEntityCount => CountUnknownEntities();
+
+    /// <summary>Gets how many objects that are not drawn are of a type that the library does not know. They survive
+    /// loading and saving unchanged.</summary>
+    public int UnknownObjectCount => Objects.FindAll(static item => item is RawObject).Count;
+
+    /// <summary>Gets the release that the drawing was read from or is saved as.</summary>
+    public CadAcadVersion Version => Header.AcadVersion;
+
+    /// <inheritdoc/>
+    public override UnitType UnitType => DrawingUnits.FromInsUnits(Header.InsUnits) is var unit
+        && unit == UnitType.Unitless ? UnitlessDefaultUnitType : unit;
+
+    /// <summary>Gets the smallest coordinates of the entities of model space, in world coordinates; the origin in an
+    /// empty drawing.</summary>
+    public Cad3DPoint MinPoint => Extents().Min;
+
+    /// <summary>Gets the largest coordinates of the entities of model space, in world coordinates; the origin in an
+    /// empty drawing.</summary>
+    public Cad3DPoint MaxPoint => Extents().Max;
+
+    /// <inheritdoc/>
+    public override int Width => DrawingExtents.ToWhole(MinPoint.X, MaxPoint.X);
+
+    /// <inheritdoc/>
+    public override int Height => DrawingExtents.ToWhole(MinPoint.Y, MaxPoint.Y);
+
+    /// <inheritdoc/>
+    public override int Depth => DrawingExtents.ToWhole(MinPoint.Z, MaxPoint.Z);
+
+    /// <inheritdoc/>
+    public override bool IsCached => true;
+
+    internal CadBlockEntity ModelSpace { get; set; }
+
+    internal CadBlockEntity PaperSpace { get; set; }
+
+    /// <summary>Gets sections that nobody interprets, in the order of the file.</summary>
+    internal List<RawSection> RawSections { get; } = [];
+
+    /// <inheritdoc/>
+    public override void CacheData() => VerifyNotDisposed();
+
+    /// <summary>Adds an entity to model space.</summary>
+    /// <param name="entity">The entity; it belongs to this drawing from now on.</param>
+    public void AddEntity(CadEntityBase entity)
+    {
+        ArgumentNullException.ThrowIfNull(entity);
+        Entities.Add(entity);
+    }
+
+    /// <summary>Removes an entity from model space.</summary>
+    /// <param name="entity">The entity.</param>
+    /// <returns>Whether it was there.</returns>
+    public bool RemoveEntity(CadEntityBase entity) => Entities.Remove(entity);
+
+    /// <inheritdoc/>
+    public override string[] GetStrings() => DrawingStrings.Collect(this);
+
+    /// <inheritdoc/>
+    internal override bool SupportsExport(ImageOptionsBase options)
+    {
+        return options is DxfOptions or PdfOptions or SvgOptions or PngOptions;
+    }
+
+    /// <inheritdoc/>
+    internal override void Export(ImageOptionsBase options, Stream stream)
+    {
+        if (options is DxfOptions dxf)
+        {
+            DxfSaver.Save(this, dxf, stream);
+            return;
+        }
+
+        options.VerifyHonoured();
+        DrawingExporter.Export(this, options, stream);
+    }
+
+    /// <inheritdoc/>
+    internal override void SaveData(Stream stream) => DxfSaver.Save(this, new DxfOptions(), stream);
+
+    private (Cad3DPoint Min, Cad3DPoint Max) Extents() => DrawingExtents.OfModel(this);
+
+    private int CountUnknownEntities()
+    {
+        int count = PaperSpace.Entities.FindAll(static entity => entity is RawEntity).Count;
+        count += ModelSpace.Entities.FindAll(static entity => entity is RawEntity).Count;
+        foreach (CadBlockEntity block in BlockEntities)
+        {
+            count += block == ModelSpace || block == PaperSpace
+                ? 0
+                : block.Entities.FindAll(static entity => entity is RawEntity).Count;
+        }
+
+        return count;
+    }
+}

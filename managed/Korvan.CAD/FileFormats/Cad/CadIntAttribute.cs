@@ -1,0 +1,12 @@
+namespace Korvan.CAD.FileFormats.Cad;
+
+/// <summary>States that a property is a 32-bit whole number or an enum.</summary>
+public sealed class CadIntAttribute : CadPropertyAttribute
+{
+    /// <summary>Creates the statement.</summary>
+    /// <param name="code">The group code.</param>
+    public CadIntAttribute(int code)
+        : base(code)
+    {
+    }
+}

@@ -1,0 +1,59 @@
+using System.Collections;
+using System.Collections.Generic;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad;
+
+/// <summary>The layers of a drawing.</summary>
+public class CadLayersList : IEnumerable<CadLayerTable>
+{
+    private readonly NamedObjects<CadLayerTable> _items = new(static item => item.Name);
+
+    internal CadLayersList()
+    {
+    }
+
+    /// <summary>Gets how many there are.</summary>
+    public int Count => _items.Items.Count;
+
+    /// <summary>Gets the names, in order.</summary>
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+
+    internal List<CadLayerTable> Items => _items.Items;
+
+    /// <summary>Gets a layer by its place, from 0.</summary>
+    /// <param name="index">The place.</param>
+    public CadLayerTable this[int index] => _items.Items[index];
+
+    /// <summary>Gets a layer by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadLayerTable this[string name] => Find(name)
+        ?? throw new CadException($"The drawing has no layer called '{name}'.");
+
+    /// <summary>Finds a layer; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What was found, or nothing.</returns>
+    public CadLayerTable? Find(string name) => _items.Find(name);
+
+    /// <summary>Tells whether there is a layer of a name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    public bool Contains(string name) => _items.Find(name) is not null;
+
+    /// <summary>Adds a layer.</summary>
+    /// <param name="item">What is added.</param>
+    public void Add(CadLayerTable item) => _items.Add(item);
+
+    /// <summary>Removes a layer.</summary>
+    /// <param name="item">What is removed.</param>
+    /// <returns>Whether it was there.</returns>
+    public bool Remove(CadLayerTable item) => _items.Remove(item);
+
+    /// <summary>Gives all, in order.</summary>
+    public IEnumerator<CadLayerTable> GetEnumerator() => _items.Items.GetEnumerator();
+
+    /// <inheritdoc/>
+    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+}

@@ -1,0 +1,12 @@
+namespace Korvan.CAD.FileFormats.Cad;
+
+/// <summary>States that a property is a 64-bit whole number.</summary>
+public sealed class CadLongAttribute : CadPropertyAttribute
+{
+    /// <summary>Creates the statement.</summary>
+    /// <param name="code">The group code.</param>
+    public CadLongAttribute(int code)
+        : base(code)
+    {
+    }
+}

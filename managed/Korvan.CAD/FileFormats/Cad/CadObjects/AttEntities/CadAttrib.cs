@@ -1,0 +1,55 @@
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
+
+/// <summary>The value of an attribute of a block insertion.</summary>
+[CadObject("ATTRIB", Subclass = "AcDbAttribute")]
+public partial class CadAttrib : CadText
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadAttrib()
+    {
+    }
+
+    /// <summary>Gets or sets the tag, which names the attribute definition. Group code 2.</summary>
+    [CadString(2)]
+    public string DefinitionTagString { get; set; } = "";
+
+    /// <summary>Gets or sets properties: 1 invisible, 2 constant, 4 to be verified, 8 preset; added up. Group
+    /// code 70.</summary>
+    [CadShort(70)]
+    public short AttFlags { get; set; }
+
+    /// <summary>Gets or sets the greatest number of letters; 0 for any. Group code 73.</summary>
+    [CadShort(73, Optional = true)]
+    public short FieldLength { get; set; }
+
+    /// <summary>Gets or sets whether the place within the block is locked. Group code 280.</summary>
+    public bool LockPosition { get; set; }
+
+    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    {
+        // The vertical alignment of an attribute has a code of its own: 73 is the field length here.
+        if (code == 74)
+        {
+            VerticalAlignment = tags.GetShort();
+            taken = true;
+        }
+        else if (code == 280)
+        {
+            // The version stands before the tag, the lock behind it.
+            LockPosition = DefinitionTagString.Length > 0 && tags.GetShort() != 0;
+            taken = true;
+        }
+    }
+
+    partial void OnWriteCodes(DxfTagWriter writer)
+    {
+        writer.WriteOptional(74, VerticalAlignment, 0);
+        if (writer.Release >= 2010)
+        {
+            writer.Write(280, LockPosition ? 1 : 0);
+        }
+    }
+}

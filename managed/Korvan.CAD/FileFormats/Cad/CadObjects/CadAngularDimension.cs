@@ -1,0 +1,26 @@
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>A dimension of the angle between two points as seen from a third.</summary>
+[CadObject("DIMENSION", Subclass = "AcDb3PointAngularDimension")]
+public partial class CadAngularDimension : CadDimensionBase
+{
+    /// <summary>Gets or sets the first point, in world coordinates. Group code 13, 23, 33.</summary>
+    [Cad3DPoint(13)]
+    public Cad3DPoint FirstPoint { get; set; } = new();
+
+    /// <summary>Gets or sets the second point, in world coordinates. Group code 14, 24, 34.</summary>
+    [Cad3DPoint(14)]
+    public Cad3DPoint SecondPoint { get; set; } = new();
+
+    /// <summary>Gets or sets the vertex of the angle, in world coordinates. Group code 15, 25, 35.</summary>
+    [Cad3DPoint(15)]
+    public Cad3DPoint ThirdPoint { get; set; } = new();
+
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadAngularDimension()
+    {
+        TypeOfDimension = (short)CadDimensionType.Angular3Point;
+    }
+}

@@ -1,0 +1,80 @@
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>What dimensions have in common.</summary>
+[CadObject("DIMENSION", Subclass = "AcDbDimension")]
+public abstract partial class CadDimensionBase : CadEntityBase
+{
+    internal CadDimensionBase()
+    {
+    }
+
+    /// <summary>Gets or sets the version of the object. Group code 280.</summary>
+    [CadShort(280, Optional = true, Since = 2010)]
+    public short Version { get; set; }
+
+    /// <summary>Gets or sets the name of the block that holds the picture of the dimension; empty when there is none
+    /// yet. Group code 2.</summary>
+    [CadString(2, Optional = true)]
+    public string BlockName { get; set; } = "";
+
+    /// <summary>Gets or sets the point that the dimension line is defined by, in world coordinates. Group code 10,
+    /// 20, 30.</summary>
+    [Cad3DPoint(10)]
+    public Cad3DPoint DefinitionPoint { get; set; } = new();
+
+    /// <summary>Gets or sets the middle of the text, in object coordinates. Group code 11, 21, 31.</summary>
+    [Cad3DPoint(11)]
+    public Cad3DPoint MiddleOfTextPoint { get; set; } = new();
+
+    /// <summary>Gets or sets the insertion point of the block of repeated dimensions, in object coordinates. Group
+    /// code 12, 22, 32.</summary>
+    [Cad3DPoint(12, Optional = true)]
+    public Cad3DPoint InsertionPoint { get; set; } = new();
+
+    /// <summary>Gets or sets the kind and flags of the dimension; see CadDimensionType. Group code 70.</summary>
+    [CadShort(70)]
+    public short TypeOfDimension { get; set; }
+
+    /// <summary>Gets or sets which point of the text stands at its place. Group code 71.</summary>
+    [CadShort(71, Optional = true)]
+    public CadAttachmentPoint AttachmentPoint { get; set; } = CadAttachmentPoint.MiddleCenter;
+
+    /// <summary>Gets or sets how the distance of text lines is measured. Group code 72.</summary>
+    [CadShort(72, Optional = true)]
+    public CadLineSpacing LineSpacingStyle { get; set; } = CadLineSpacing.AtLeast;
+
+    /// <summary>Gets or sets the distance of text lines as a part of the usual. Group code 41.</summary>
+    [CadDouble(41, Optional = true)]
+    public double LineSpacingFactor { get; set; } = 1;
+
+    /// <summary>Gets or sets the measured length, or the angle in radians. Group code 42.</summary>
+    [CadDouble(42, Optional = true)]
+    public double ActualMeasurement { get; set; }
+
+    /// <summary>Gets or sets the text; empty or "&lt;&gt;" for the measurement, a blank for none. Group code
+    /// 1.</summary>
+    [CadString(1, Optional = true)]
+    public string Text { get; set; } = "";
+
+    /// <summary>Gets or sets the direction of the text against the usual, in degrees. Group code 53.</summary>
+    [CadDouble(53, Optional = true)]
+    public double TextRotation { get; set; }
+
+    /// <summary>Gets or sets the negative of the angle of the horizontal direction, in degrees. Group code
+    /// 51.</summary>
+    [CadDouble(51, Optional = true)]
+    public double HorizontalDirection { get; set; }
+
+    /// <summary>Gets or sets the unit normal of the plane of the dimension. Group code 210, 220, 230.</summary>
+    [Cad3DPoint(210, Optional = true)]
+    public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
+
+    /// <summary>Gets or sets the name of the dimension style. Group code 3.</summary>
+    [CadString(3)]
+    public string StyleName { get; set; } = "STANDARD";
+
+    /// <summary>Gets the kind of the dimension without its flags.</summary>
+    public CadDimensionType DimensionType => (CadDimensionType)(TypeOfDimension & 7);
+}

@@ -1,0 +1,66 @@
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>An insertion of a block, or a grid of insertions.</summary>
+[CadObject("INSERT", Subclass = "AcDbBlockReference")]
+public partial class CadInsertObject : CadEntityBase
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadInsertObject()
+    {
+    }
+
+    /// <summary>Gets or sets the name of the block. Group code 2.</summary>
+    [CadString(2)]
+    public string Name { get; set; } = "";
+
+    /// <summary>Gets or sets the place of the block's base point, in object coordinates. Group code 10, 20,
+    /// 30.</summary>
+    [Cad3DPoint(10)]
+    public Cad3DPoint InsertionPoint { get; set; } = new();
+
+    /// <summary>Gets or sets the scale along X. Group code 41.</summary>
+    [CadDouble(41, Optional = true)]
+    public double ScaleX { get; set; } = 1;
+
+    /// <summary>Gets or sets the scale along Y. Group code 42.</summary>
+    [CadDouble(42, Optional = true)]
+    public double ScaleY { get; set; } = 1;
+
+    /// <summary>Gets or sets the scale along Z. Group code 43.</summary>
+    [CadDouble(43, Optional = true)]
+    public double ScaleZ { get; set; } = 1;
+
+    /// <summary>Gets or sets the rotation, in degrees. Group code 50.</summary>
+    [CadDouble(50, Optional = true)]
+    public double RotationAngle { get; set; }
+
+    /// <summary>Gets or sets the number of columns. Group code 70.</summary>
+    [CadShort(70, Optional = true)]
+    public short ColumnCount { get; set; } = 1;
+
+    /// <summary>Gets or sets the number of rows. Group code 71.</summary>
+    [CadShort(71, Optional = true)]
+    public short RowCount { get; set; } = 1;
+
+    /// <summary>Gets or sets the distance of columns. Group code 44.</summary>
+    [CadDouble(44, Optional = true)]
+    public double ColumnSpacing { get; set; }
+
+    /// <summary>Gets or sets the distance of rows. Group code 45.</summary>
+    [CadDouble(45, Optional = true)]
+    public double RowSpacing { get; set; }
+
+    /// <summary>Gets or sets the unit normal of the plane that the insertion point is in. Group code 210, 220,
+    /// 230.</summary>
+    [Cad3DPoint(210, Optional = true)]
+    public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
+
+    /// <summary>Gets the attributes of the insertion. The list is live.</summary>
+    public List<CadAttrib> Attributes { get; } = [];
+
+    /// <summary>Gets or sets the entity that ends the attributes; nothing when there are none.</summary>
+    public CadSeqend? Seqend { get; set; }
+}

@@ -1,0 +1,75 @@
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>A layout: the model, or a sheet of paper with views of it.</summary>
+[CadObject("LAYOUT", Subclass = "AcDbLayout")]
+public partial class CadLayout : CadPlotSettings
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadLayout()
+    {
+    }
+
+    /// <summary>Gets or sets the name that its tab shows. Group code 1.</summary>
+    [CadString(1)]
+    public string LayoutName { get; set; } = "";
+
+    /// <summary>Gets or sets properties of the layout. Group code 70.</summary>
+    [CadInt(70)]
+    public CadLayoutControlFlag ControlFlags { get; set; } = CadLayoutControlFlag.PsltScale;
+
+    /// <summary>Gets or sets the place of the tab; 0 is the model. Group code 71.</summary>
+    [CadInt(71)]
+    public int TabOrder { get; set; }
+
+    /// <summary>Gets or sets the lower left limit. Group code 10, 20.</summary>
+    [Cad2DPoint(10)]
+    public Cad2DPoint MinLimits { get; set; } = new();
+
+    /// <summary>Gets or sets the upper right limit. Group code 11, 21.</summary>
+    [Cad2DPoint(11)]
+    public Cad2DPoint MaxLimits { get; set; } = new(12, 9);
+
+    /// <summary>Gets or sets the base point of the drawing as a block. Group code 12, 22, 32.</summary>
+    [Cad3DPoint(12)]
+    public Cad3DPoint InsertionBasePoint { get; set; } = new();
+
+    /// <summary>Gets or sets the smallest coordinates of its entities. Group code 14, 24, 34.</summary>
+    [Cad3DPoint(14)]
+    public Cad3DPoint MinExtents { get; set; } = new();
+
+    /// <summary>Gets or sets the largest coordinates of its entities. Group code 15, 25, 35.</summary>
+    [Cad3DPoint(15)]
+    public Cad3DPoint MaxExtents { get; set; } = new();
+
+    /// <summary>Gets or sets the elevation. Group code 146.</summary>
+    [CadDouble(146)]
+    public double Elevation { get; set; }
+
+    /// <summary>Gets or sets the origin of the coordinate system. Group code 13, 23, 33.</summary>
+    [Cad3DPoint(13)]
+    public Cad3DPoint UcsOrigin { get; set; } = new();
+
+    /// <summary>Gets or sets the X axis of the coordinate system. Group code 16, 26, 36.</summary>
+    [Cad3DPoint(16)]
+    public Cad3DPoint UcsXAxis { get; set; } = new(1, 0, 0);
+
+    /// <summary>Gets or sets the Y axis of the coordinate system. Group code 17, 27, 37.</summary>
+    [Cad3DPoint(17)]
+    public Cad3DPoint UcsYAxis { get; set; } = new(0, 1, 0);
+
+    /// <summary>Gets or sets the orthographic direction of the coordinate system. Group code 76.</summary>
+    [CadShort(76)]
+    public CadLayoutUcsOrthographicType UcsOrthographicType { get; set; }
+
+    /// <summary>Gets or sets the handle of the block record that owns the entities, in hexadecimal. Group code
+    /// 330.</summary>
+    [CadString(330, Optional = true)]
+    public string BlockTableRecordHandle { get; set; } = "";
+
+    /// <summary>Gets or sets the handle of the viewport that was active last, in hexadecimal. Group code
+    /// 331.</summary>
+    [CadString(331, Optional = true)]
+    public string LastActiveViewportHandle { get; set; } = "";
+}

@@ -1,0 +1,109 @@
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>A line with an arrowhead that leads to an annotation.</summary>
+[CadObject("LEADER", Subclass = "AcDbLeader")]
+public partial class CadLeader : CadEntityBase
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadLeader()
+    {
+    }
+
+    /// <summary>Gets or sets the name of the dimension style. Group code 3.</summary>
+    [CadString(3)]
+    public string DimensionStyleName { get; set; } = "STANDARD";
+
+    /// <summary>Gets or sets whether there is an arrowhead: 0 no, 1 yes. Group code 71.</summary>
+    [CadShort(71)]
+    public short ArrowheadFlag { get; set; } = 1;
+
+    /// <summary>Gets or sets the form of the line: 0 straight pieces, 1 a spline. Group code 72.</summary>
+    [CadShort(72)]
+    public short PathType { get; set; }
+
+    /// <summary>Gets or sets what it leads to: 0 a text, 1 a tolerance, 2 an insertion, 3 nothing. Group code
+    /// 73.</summary>
+    [CadShort(73)]
+    public short AnnotationType { get; set; } = 3;
+
+    /// <summary>Gets or sets whether the hook line runs against the horizontal direction (0) or along it (1). Group
+    /// code 74.</summary>
+    [CadShort(74)]
+    public short HookLineDirection { get; set; }
+
+    /// <summary>Gets or sets whether there is a hook line. Group code 75.</summary>
+    [CadShort(75)]
+    public short HookLineFlag { get; set; }
+
+    /// <summary>Gets or sets the height of the annotation's text. Group code 40.</summary>
+    [CadDouble(40, Optional = true)]
+    public double TextHeight { get; set; }
+
+    /// <summary>Gets or sets the width of the annotation's text. Group code 41.</summary>
+    [CadDouble(41, Optional = true)]
+    public double TextWidth { get; set; }
+
+    /// <summary>Gets the vertices from the arrowhead on, in world coordinates. Group codes 10, 20, 30.</summary>
+    public List<Cad3DPoint> Coordinates { get; } = [];
+
+    /// <summary>Gets or sets the number of the colour to use where dimension style or block say "by block". Group
+    /// code 77.</summary>
+    [CadShort(77, Optional = true)]
+    public short ColorToUse { get; set; }
+
+    /// <summary>Gets or sets the handle of the annotation in hexadecimal; empty for none. Group code 340.</summary>
+    [CadString(340, Optional = true)]
+    public string AnnotationHandle { get; set; } = "";
+
+    /// <summary>Gets or sets the unit normal of the plane of the leader. Group codes 210, 220, 230.</summary>
+    [Cad3DPoint(210, Optional = true)]
+    public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
+
+    /// <summary>Gets or sets the horizontal direction. Group codes 211, 221, 231.</summary>
+    [Cad3DPoint(211, Optional = true)]
+    public Cad3DPoint HorizontalDirection { get; set; } = new(1, 0, 0);
+
+    /// <summary>Gets or sets the offset of the last vertex from the insertion point of the block. Group codes 212,
+    /// 222, 232.</summary>
+    [Cad3DPoint(212, Optional = true)]
+    public Cad3DPoint LastVertexOffsetFromBlock { get; set; } = new();
+
+    /// <summary>Gets or sets the offset of the last vertex from the place of the annotation. Group codes 213, 223,
+    /// 233.</summary>
+    [Cad3DPoint(213, Optional = true)]
+    public Cad3DPoint LastVertexOffsetFromAnnotation { get; set; } = new();
+
+    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    {
+        switch (code)
+        {
+            case 10:
+                Coordinates.Add(new Cad3DPoint(tags.GetDouble(), 0, 0));
+                break;
+            case 20 when Coordinates.Count > 0:
+                Coordinates[^1].Y = tags.GetDouble();
+                break;
+            case 30 when Coordinates.Count > 0:
+                Coordinates[^1].Z = tags.GetDouble();
+                break;
+            case 76:
+                break;
+            default:
+                return;
+        }
+
+        taken = true;
+    }
+
+    partial void OnWriteCodes(DxfTagWriter writer)
+    {
+        writer.Write(76, Coordinates.Count);
+        foreach (Cad3DPoint point in Coordinates)
+        {
+            writer.Write(10, point);
+        }
+    }
+}

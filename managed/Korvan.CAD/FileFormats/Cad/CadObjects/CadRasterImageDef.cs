@@ -1,0 +1,35 @@
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>The picture file behind picture entities.</summary>
+[CadObject("IMAGEDEF", Subclass = "AcDbRasterImageDef")]
+public partial class CadRasterImageDef : CadObjectBase
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadRasterImageDef()
+    {
+    }
+
+    /// <summary>Gets or sets the version of the object. Group code 90.</summary>
+    [CadInt(90)]
+    public int ClassVersion { get; set; }
+
+    /// <summary>Gets or sets the path of the file, as the drawing states it. Group code 1.</summary>
+    [CadString(1)]
+    public string FileName { get; set; } = "";
+
+    /// <summary>Gets or sets the width and height in pixels. Group code 10, 20.</summary>
+    [Cad2DPoint(10)]
+    public Cad2DPoint ImageSize { get; set; } = new();
+
+    /// <summary>Gets or sets the default size of a pixel, in drawing units. Group code 11, 21.</summary>
+    [Cad2DPoint(11)]
+    public Cad2DPoint PixelSize { get; set; } = new(1, 1);
+
+    /// <summary>Gets or sets whether the picture is shown: 0 no, 1 yes. Group code 280.</summary>
+    [CadShort(280)]
+    public short IsLoaded { get; set; } = 1;
+
+    /// <summary>Gets or sets the unit of resolution: 0 none, 2 centimetre, 5 inch. Group code 281.</summary>
+    [CadShort(281)]
+    public short ResolutionUnits { get; set; }
+}

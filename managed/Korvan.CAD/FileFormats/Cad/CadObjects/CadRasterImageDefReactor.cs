@@ -1,0 +1,19 @@
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>Tells a picture entity that its picture changed.</summary>
+[CadObject("IMAGEDEF_REACTOR", Subclass = "AcDbRasterImageDefReactor")]
+public partial class CadRasterImageDefReactor : CadObjectBase
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadRasterImageDefReactor()
+    {
+    }
+
+    /// <summary>Gets or sets the version of the object. Group code 90.</summary>
+    [CadInt(90)]
+    public int ClassVersion { get; set; }
+
+    /// <summary>Gets or sets the handle of the picture entity in hexadecimal. Group code 330.</summary>
+    [CadString(330, Optional = true)]
+    public string AssociatedImageHandle { get; set; } = "";
+}

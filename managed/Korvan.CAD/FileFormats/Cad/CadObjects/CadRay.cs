@@ -1,0 +1,11 @@
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>A line that runs on for ever from its start.</summary>
+[CadObject("RAY", Subclass = "AcDbRay")]
+public partial class CadRay : CadBaseInfinityEntity
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadRay()
+    {
+    }
+}

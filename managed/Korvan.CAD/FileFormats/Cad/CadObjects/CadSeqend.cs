@@ -1,0 +1,11 @@
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>Ends the vertices of a polyline or the attributes of an insertion.</summary>
+[CadObject("SEQEND")]
+public partial class CadSeqend : CadEntityBase
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadSeqend()
+    {
+    }
+}

@@ -1,0 +1,35 @@
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>A symbol of a shape file.</summary>
+[CadObject("SHAPE", Subclass = "AcDbShape")]
+public partial class CadShape : CadExtrudedEntityBase
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadShape()
+    {
+    }
+
+    /// <summary>Gets or sets the insertion point, in world coordinates. Group code 10, 20, 30.</summary>
+    [Cad3DPoint(10)]
+    public Cad3DPoint InsertionPoint { get; set; } = new();
+
+    /// <summary>Gets or sets the height. Group code 40.</summary>
+    [CadDouble(40)]
+    public double Size { get; set; } = 1;
+
+    /// <summary>Gets or sets the name of the shape. Group code 2.</summary>
+    [CadString(2)]
+    public string ShapeName { get; set; } = "";
+
+    /// <summary>Gets or sets the rotation, in degrees. Group code 50.</summary>
+    [CadDouble(50, Optional = true)]
+    public double RotationAngle { get; set; }
+
+    /// <summary>Gets or sets the scale along X. Group code 41.</summary>
+    [CadDouble(41, Optional = true)]
+    public double ScaleX { get; set; } = 1;
+
+    /// <summary>Gets or sets the slant, in degrees. Group code 51.</summary>
+    [CadDouble(51, Optional = true)]
+    public double ObliqueAngle { get; set; }
+}

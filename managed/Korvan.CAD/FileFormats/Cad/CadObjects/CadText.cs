@@ -1,0 +1,77 @@
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>A text in a single line.</summary>
+[CadObject("TEXT", Subclass = "AcDbText")]
+public partial class CadText : CadExtrudedEntityBase
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadText()
+    {
+    }
+
+    /// <summary>Gets or sets the start of the base line, in object coordinates. It counts when both alignments are 0.
+    /// Group code 10, 20, 30.</summary>
+    [Cad3DPoint(10)]
+    public Cad3DPoint FirstAlignment { get; set; } = new();
+
+    /// <summary>Gets or sets the height of capital letters. Group code 40.</summary>
+    [CadDouble(40)]
+    public double TextHeight { get; set; } = 1;
+
+    /// <summary>Gets or sets the text, with %% codes. Group code 1.</summary>
+    [CadString(1)]
+    public string DefaultValue { get; set; } = "";
+
+    /// <summary>Gets or sets the direction of the base line, in degrees. Group code 50.</summary>
+    [CadDouble(50, Optional = true)]
+    public double TextRotation { get; set; }
+
+    /// <summary>Gets or sets the width of letters relative to the font. Group code 41.</summary>
+    [CadDouble(41, Optional = true)]
+    public double ScaleX { get; set; } = 1;
+
+    /// <summary>Gets or sets the slant of letters, in degrees. Group code 51.</summary>
+    [CadDouble(51, Optional = true)]
+    public double ObliqueAngle { get; set; }
+
+    /// <summary>Gets or sets the name of the text style. Group code 7.</summary>
+    [CadString(7, Optional = true)]
+    public string StyleType { get; set; } = "STANDARD";
+
+    /// <summary>Gets or sets how letters are mirrored: 2 left to right, 4 upside down. Group code 71.</summary>
+    [CadShort(71, Optional = true)]
+    public short TextGenerationFlags { get; set; }
+
+    /// <summary>Gets or sets the horizontal alignment: 0 left, 1 centre, 2 right, 3 aligned, 4 middle, 5 fit. Group
+    /// code 72.</summary>
+    [CadShort(72, Optional = true)]
+    public short HorizontalAlignment { get; set; }
+
+    /// <summary>Gets or sets the point that the alignment refers to, in object coordinates. It counts when either
+    /// alignment is not 0. Group codes 11, 21, 31.</summary>
+    [Cad3DPoint(11, Optional = true)]
+    public Cad3DPoint SecondAlignment { get; set; } = new();
+
+    /// <summary>Gets or sets the vertical alignment: 0 base line, 1 bottom, 2 middle, 3 top. Group code 73.</summary>
+    public short VerticalAlignment { get; set; }
+
+    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    {
+        if (code == 73)
+        {
+            VerticalAlignment = tags.GetShort();
+            taken = true;
+        }
+    }
+
+    partial void OnWriteCodes(DxfTagWriter writer)
+    {
+        if (GetType() == typeof(CadText))
+        {
+            writer.WriteSubclass("AcDbText");
+            writer.WriteOptional(73, VerticalAlignment, 0);
+        }
+    }
+}

@@ -1,0 +1,148 @@
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>A window of a paper sheet that shows the model.</summary>
+[CadObject("VIEWPORT", Subclass = "AcDbViewport")]
+public partial class CadViewport : CadEntityBase
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadViewport()
+    {
+    }
+
+    /// <summary>Gets or sets the centre, in paper coordinates. Group code 10, 20, 30.</summary>
+    [Cad3DPoint(10)]
+    public Cad3DPoint CenterPoint { get; set; } = new();
+
+    /// <summary>Gets or sets the width in paper units. Group code 40.</summary>
+    [CadDouble(40)]
+    public double Width { get; set; }
+
+    /// <summary>Gets or sets the height in paper units. Group code 41.</summary>
+    [CadDouble(41)]
+    public double Height { get; set; }
+
+    /// <summary>Gets or sets whether it is on: 0 off, -1 on but not active, else its place in the stack. Group code
+    /// 68.</summary>
+    [CadShort(68)]
+    public short ViewportStatus { get; set; } = 1;
+
+    /// <summary>Gets or sets the number of the viewport; 1 is the sheet itself. Group code 69.</summary>
+    [CadShort(69)]
+    public short ViewportId { get; set; }
+
+    /// <summary>Gets or sets the centre of the view, in display coordinates. Group code 12, 22.</summary>
+    [Cad2DPoint(12)]
+    public Cad2DPoint ViewCenter { get; set; } = new();
+
+    /// <summary>Gets or sets the base of the snap grid. Group code 13, 23.</summary>
+    [Cad2DPoint(13, Optional = true)]
+    public Cad2DPoint SnapBase { get; set; } = new();
+
+    /// <summary>Gets or sets the distances of the snap grid. Group code 14, 24.</summary>
+    [Cad2DPoint(14, Optional = true)]
+    public Cad2DPoint SnapSpacing { get; set; } = new(0.5, 0.5);
+
+    /// <summary>Gets or sets the distances of the grid. Group code 15, 25.</summary>
+    [Cad2DPoint(15, Optional = true)]
+    public Cad2DPoint GridSpacing { get; set; } = new(0.5, 0.5);
+
+    /// <summary>Gets or sets the direction from the target to the eye, in world coordinates. Group code 16, 26,
+    /// 36.</summary>
+    [Cad3DPoint(16)]
+    public Cad3DPoint ViewDirection { get; set; } = new(0, 0, 1);
+
+    /// <summary>Gets or sets the point looked at, in world coordinates. Group code 17, 27, 37.</summary>
+    [Cad3DPoint(17)]
+    public Cad3DPoint ViewTarget { get; set; } = new();
+
+    /// <summary>Gets or sets the focal length in perspective. Group code 42.</summary>
+    [CadDouble(42)]
+    public double LensLength { get; set; } = 50;
+
+    /// <summary>Gets or sets the front clipping plane. Group code 43.</summary>
+    [CadDouble(43, Optional = true)]
+    public double FrontClipPlaneZ { get; set; }
+
+    /// <summary>Gets or sets the back clipping plane. Group code 44.</summary>
+    [CadDouble(44, Optional = true)]
+    public double BackClipPlaneZ { get; set; }
+
+    /// <summary>Gets or sets the height of the view, in units of the model. Group code 45.</summary>
+    [CadDouble(45)]
+    public double ViewHeight { get; set; } = 1;
+
+    /// <summary>Gets or sets the angle of the snap grid, in degrees. Group code 50.</summary>
+    [CadDouble(50, Optional = true)]
+    public double SnapAngle { get; set; }
+
+    /// <summary>Gets or sets how far the view is turned, in degrees. Group code 51.</summary>
+    [CadDouble(51, Optional = true)]
+    public double ViewTwistAngle { get; set; }
+
+    /// <summary>Gets or sets how finely circles are drawn. Group code 72.</summary>
+    [CadShort(72, Optional = true)]
+    public short CircleZoomPercent { get; set; } = 100;
+
+    /// <summary>Gets the handles of the layers that are frozen in this viewport, in hexadecimal. Group code
+    /// 331.</summary>
+    public List<string> FrozenLayers { get; } = [];
+
+    /// <summary>Gets or sets bits: 1 perspective, 2 front and 4 back clipping, 512 UCS icon at the origin, 16384
+    /// locked, 65536 clipped by a shape, 131072 off. Group code 90.</summary>
+    [CadInt(90, Since = 2000)]
+    public int StatusFlags { get; set; } = 32864;
+
+    /// <summary>Gets or sets the handle of the entity that clips the viewport, in hexadecimal; empty for none.
+    /// Group code 340.</summary>
+    [CadString(340, Optional = true)]
+    public string ClippingBoundaryHandle { get; set; } = "";
+
+    /// <summary>Gets or sets the name of the plot style sheet. Group code 1.</summary>
+    [CadString(1)]
+    public string PlotStyleSheet { get; set; } = "";
+
+    /// <summary>Gets or sets how it is drawn: 0 as lines, 2 with hidden lines left out, 3 to 6 shaded. Group code
+    /// 281.</summary>
+    [CadShort(281)]
+    public short RenderMode { get; set; }
+
+    /// <summary>Gets or sets whether each viewport has its own coordinate system. Group code 71.</summary>
+    [CadShort(71)]
+    public short UcsPerViewport { get; set; }
+
+    /// <summary>Gets or sets whether the coordinate system icon stands at the origin. Group code 74.</summary>
+    [CadShort(74)]
+    public short UcsIconAtOrigin { get; set; }
+
+    /// <summary>Gets or sets the origin of the coordinate system. Group codes 110, 120, 130.</summary>
+    [Cad3DPoint(110)]
+    public Cad3DPoint UcsOrigin { get; set; } = new();
+
+    /// <summary>Gets or sets the X axis of the coordinate system. Group codes 111, 121, 131.</summary>
+    [Cad3DPoint(111)]
+    public Cad3DPoint UcsXAxis { get; set; } = new(1, 0, 0);
+
+    /// <summary>Gets or sets the Y axis of the coordinate system. Group codes 112, 122, 132.</summary>
+    [Cad3DPoint(112)]
+    public Cad3DPoint UcsYAxis { get; set; } = new(0, 1, 0);
+
+    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    {
+        if (code is 331 or 341)
+        {
+            FrozenLayers.Add(tags.GetString());
+            taken = true;
+        }
+    }
+
+    partial void OnWriteCodes(DxfTagWriter writer)
+    {
+        foreach (string layer in FrozenLayers)
+        {
+            writer.Write(331, layer);
+        }
+    }
+}

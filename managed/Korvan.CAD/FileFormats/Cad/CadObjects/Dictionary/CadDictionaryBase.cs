@@ -1,0 +1,119 @@
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
+
+/// <summary>Objects by names.</summary>
+public abstract partial class CadDictionaryBase : CadObjectBase
+{
+    internal CadDictionaryBase()
+    {
+    }
+
+    private readonly List<string> _names = [];
+    private readonly List<ulong> _handles = [];
+
+    /// <summary>Gets or sets whether the dictionary owns its objects: 0 no, 1 yes. Group code 280.</summary>
+    public short HardOwnerFlag { get; set; }
+
+    /// <summary>Gets or sets what happens to entries that exist when drawings are merged. Group code 281.</summary>
+    public short DuplicateRecordCloning { get; set; } = 1;
+
+    /// <summary>Gets how many entries there are.</summary>
+    public int Count => _names.Count;
+
+    /// <summary>Gets the names of the entries, in order. Group code 3.</summary>
+    public string[] Names => [.. _names];
+
+    /// <summary>Gets the codes of the entries' handles as they stood in the file: 350 or 360.</summary>
+    internal int HandleCode { get; set; } = 350;
+
+    /// <summary>Gives the handle of an entry in hexadecimal, or an empty text where there is none of this
+    /// name.</summary>
+    /// <param name="name">The name; upper and lower case are the same.</param>
+    public string GetHandle(string name) => TryGet(name, out ulong handle) ? HandleText.Format(handle) : "";
+
+    /// <summary>Adds an entry or changes the one of this name.</summary>
+    /// <param name="name">The name.</param>
+    /// <param name="handle">The handle of the object in hexadecimal.</param>
+    public void Set(string name, string handle) => Set(name, HandleText.Parse(handle));
+
+    /// <summary>Removes an entry.</summary>
+    /// <param name="name">The name; upper and lower case are the same.</param>
+    /// <returns>Whether there was one.</returns>
+    public bool Remove(string name)
+    {
+        int index = IndexOf(name);
+        if (index >= 0)
+        {
+            _names.RemoveAt(index);
+            _handles.RemoveAt(index);
+        }
+
+        return index >= 0;
+    }
+
+    internal bool TryGet(string name, out ulong handle)
+    {
+        int index = IndexOf(name);
+        handle = index >= 0 ? _handles[index] : 0;
+        return index >= 0;
+    }
+
+    internal void Set(string name, ulong handle)
+    {
+        int index = IndexOf(name);
+        if (index >= 0)
+        {
+            _handles[index] = handle;
+            return;
+        }
+
+        _names.Add(name);
+        _handles.Add(handle);
+    }
+
+    internal bool ReadEntry(int code, DxfTagReader tags)
+    {
+        switch (code)
+        {
+            case 3:
+                _names.Add(tags.GetString());
+                _handles.Add(0);
+                return true;
+            case 350 or 360 when _names.Count > 0:
+                HandleCode = code;
+                _handles[^1] = tags.GetHandle();
+                return true;
+            case 280:
+                HardOwnerFlag = tags.GetShort();
+                return true;
+            case 281:
+                DuplicateRecordCloning = tags.GetShort();
+                return true;
+            default:
+                return false;
+        }
+    }
+
+    internal void WriteEntries(DxfTagWriter writer)
+    {
+        if (writer.Release >= 2000)
+        {
+            writer.WriteOptional(280, HardOwnerFlag, 0);
+            writer.Write(281, DuplicateRecordCloning);
+        }
+
+        for (int i = 0; i < _names.Count; i++)
+        {
+            writer.Write(3, _names[i]);
+            writer.WriteHandle(HandleCode, _handles[i]);
+        }
+    }
+
+    private int IndexOf(string name)
+    {
+        return _names.FindIndex(known => string.Equals(known, name, System.StringComparison.OrdinalIgnoreCase));
+    }
+}

@@ -1,0 +1,14 @@
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
+
+/// <summary>A vertex of a polyline in space.</summary>
+[CadObject("VERTEX", Subclass = "AcDb3dPolylineVertex")]
+public partial class Cad3DVertex : CadVertexBase
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public Cad3DVertex()
+    {
+        VertexFlags = 32;
+    }
+}

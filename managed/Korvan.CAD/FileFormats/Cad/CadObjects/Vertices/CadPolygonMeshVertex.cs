@@ -1,0 +1,15 @@
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
+
+/// <summary>A vertex of a mesh.</summary>
+[CadObject("VERTEX", Subclass = "AcDbPolygonMeshVertex")]
+public partial class CadPolygonMeshVertex : CadVertexBase
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadPolygonMeshVertex()
+    {
+        VertexFlags = 64;
+    }
+}

@@ -1,0 +1,14 @@
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
+
+/// <summary>A vertex of a mesh of faces.</summary>
+[CadObject("VERTEX", Subclass = "AcDbPolyFaceMeshVertex")]
+public partial class CadVertexPolyFaceMesh : CadVertexBase
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadVertexPolyFaceMesh()
+    {
+        VertexFlags = 192;
+    }
+}

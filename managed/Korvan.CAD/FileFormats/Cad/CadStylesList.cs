@@ -1,0 +1,59 @@
+using System.Collections;
+using System.Collections.Generic;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad;
+
+/// <summary>The text styles of a drawing.</summary>
+public class CadStylesList : IEnumerable<CadStyleTableObject>
+{
+    private readonly NamedObjects<CadStyleTableObject> _items = new(static item => item.Name);
+
+    internal CadStylesList()
+    {
+    }
+
+    /// <summary>Gets how many there are.</summary>
+    public int Count => _items.Items.Count;
+
+    /// <summary>Gets the names, in order.</summary>
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+
+    internal List<CadStyleTableObject> Items => _items.Items;
+
+    /// <summary>Gets a text style by its place, from 0.</summary>
+    /// <param name="index">The place.</param>
+    public CadStyleTableObject this[int index] => _items.Items[index];
+
+    /// <summary>Gets a text style by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadStyleTableObject this[string name] => Find(name)
+        ?? throw new CadException($"The drawing has no text style called '{name}'.");
+
+    /// <summary>Finds a text style; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What was found, or nothing.</returns>
+    public CadStyleTableObject? Find(string name) => _items.Find(name);
+
+    /// <summary>Tells whether there is a text style of a name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    public bool Contains(string name) => _items.Find(name) is not null;
+
+    /// <summary>Adds a text style.</summary>
+    /// <param name="item">What is added.</param>
+    public void Add(CadStyleTableObject item) => _items.Add(item);
+
+    /// <summary>Removes a text style.</summary>
+    /// <param name="item">What is removed.</param>
+    /// <returns>Whether it was there.</returns>
+    public bool Remove(CadStyleTableObject item) => _items.Remove(item);
+
+    /// <summary>Gives all, in order.</summary>
+    public IEnumerator<CadStyleTableObject> GetEnumerator() => _items.Items.GetEnumerator();
+
+    /// <inheritdoc/>
+    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+}

@@ -1,0 +1,14 @@
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
+namespace Korvan.CAD.FileFormats.Cad.CadTables;
+
+/// <summary>A program that may attach extended data.</summary>
+[CadObject("APPID", Subclass = "AcDbRegAppTableRecord")]
+public partial class CadAppIdTableObject : CadSymbolTableGroupCodes
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadAppIdTableObject()
+    {
+    }
+}

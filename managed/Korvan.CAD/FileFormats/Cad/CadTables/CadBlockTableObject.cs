@@ -1,0 +1,35 @@
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad.CadTables;
+
+/// <summary>The record of a block: it owns the entities of the block.</summary>
+[CadObject("BLOCK_RECORD", Subclass = "AcDbBlockTableRecord")]
+public partial class CadBlockTableObject : CadSymbolTableGroupCodes
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadBlockTableObject()
+    {
+    }
+
+    /// <summary>Gets or sets the handle of the layout that shows the block in hexadecimal; empty or 0 for none. Group
+    /// code 340.</summary>
+    [CadString(340, Optional = true, Since = 2000)]
+    public string LayoutHandle { get; set; } = "";
+
+    /// <summary>Gets or sets the unit of insertion, as in $INSUNITS. Group code 70.</summary>
+    [CadShort(70, Optional = true, Since = 2007)]
+    public short Units { get; set; }
+
+    /// <summary>Gets or sets whether insertions may be exploded. Group code 280.</summary>
+    [CadShort(280, Optional = true, Since = 2007)]
+    public short Explodability { get; set; } = 1;
+
+    /// <summary>Gets or sets whether insertions are scaled alike in all directions. Group code 281.</summary>
+    [CadShort(281, Optional = true, Since = 2007)]
+    public short Scalability { get; set; }
+
+    /// <inheritdoc/>
+    internal override void WriteNameAndFlags(DxfTagWriter writer) => writer.Write(2, Name);
+}

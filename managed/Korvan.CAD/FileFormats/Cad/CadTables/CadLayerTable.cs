@@ -1,0 +1,76 @@
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
+namespace Korvan.CAD.FileFormats.Cad.CadTables;
+
+/// <summary>A layer.</summary>
+[CadObject("LAYER", Subclass = "AcDbLayerTableRecord")]
+public partial class CadLayerTable : CadSymbolTableGroupCodes
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadLayerTable()
+    {
+    }
+
+    /// <summary>Gets or sets the number of the colour, 1 to 255; negative while the layer is off. Group code
+    /// 62.</summary>
+    [CadShort(62)]
+    public short ColorId { get; set; } = 7;
+
+    /// <summary>Gets or sets the colour as 0xRRGGBB, which goes before the number; -1 for none. Group code
+    /// 420.</summary>
+    [CadInt(420, Optional = true, Since = 2004)]
+    public int ColorValue { get; set; } = -1;
+
+    /// <summary>Gets or sets the name of the colour in its book; empty for none. Group code 430.</summary>
+    [CadString(430, Optional = true, Since = 2004)]
+    public string ColorName { get; set; } = "";
+
+    /// <summary>Gets or sets the name of the line type. Group code 6.</summary>
+    [CadString(6)]
+    public string LineTypeName { get; set; } = "CONTINUOUS";
+
+    /// <summary>Gets or sets whether the layer is plotted: 0 no, 1 yes. Group code 290.</summary>
+    [CadShort(290, Optional = true, Since = 2000)]
+    public short PlotFlag { get; set; } = 1;
+
+    /// <summary>Gets or sets the line weight in hundredths of a millimetre; -3 the default. Group code 370.</summary>
+    [CadShort(370, Optional = true, Since = 2000)]
+    public short LineWeight { get; set; } = -3;
+
+    /// <summary>Gets or sets the handle of the plot style in hexadecimal. Group code 390.</summary>
+    [CadString(390, Optional = true, Since = 2000)]
+    public string PlotStyleHandle { get; set; } = "";
+
+    /// <summary>Gets or sets the handle of the material in hexadecimal. Group code 347.</summary>
+    [CadString(347, Optional = true, Since = 2007)]
+    public string MaterialHandle { get; set; } = "";
+
+    /// <summary>Gets or sets whether the layer is switched on. Group code 62.</summary>
+    public bool IsOn
+    {
+        get => ColorId >= 0;
+        set => ColorId = (short)(value == IsOn ? ColorId : -ColorId);
+    }
+
+    /// <summary>Gets or sets whether the layer is frozen. Group code 70, bit 1.</summary>
+    public bool IsFrozen
+    {
+        get => (Flags & 1) != 0;
+        set => Flags = (short)(value ? Flags | 1 : Flags & ~1);
+    }
+
+    /// <summary>Gets or sets whether the layer is locked. Group code 70, bit 4.</summary>
+    public bool IsLocked
+    {
+        get => (Flags & 4) != 0;
+        set => Flags = (short)(value ? Flags | 4 : Flags & ~4);
+    }
+
+    /// <summary>Gets or sets whether the layer is plotted. Group code 290.</summary>
+    public bool IsPlottable
+    {
+        get => PlotFlag != 0;
+        set => PlotFlag = (short)(value ? 1 : 0);
+    }
+}

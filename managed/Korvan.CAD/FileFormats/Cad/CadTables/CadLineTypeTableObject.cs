@@ -1,0 +1,88 @@
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad.CadTables;
+
+/// <summary>A line type.</summary>
+[CadObject("LTYPE", Subclass = "AcDbLinetypeTableRecord")]
+public partial class CadLineTypeTableObject : CadSymbolTableGroupCodes
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadLineTypeTableObject()
+    {
+    }
+
+    /// <summary>Gets or sets the description. Group code 3.</summary>
+    [CadString(3)]
+    public string Description { get; set; } = "";
+
+    /// <summary>Gets the lengths of the pattern in drawing units: above 0 a dash, below 0 a gap, 0 a dot. Empty for
+    /// a solid line. The list is live. Group code 49.</summary>
+    public List<double> Pattern { get; } = [];
+
+    /// <summary>Gets or sets the length of the whole pattern, in drawing units. Group code 40.</summary>
+    public double PatternLength { get; set; }
+
+    /// <summary>Gets whether the pattern has letters or shapes in it.</summary>
+    public bool IsComplex => ComplexTags.Count > 0;
+
+    /// <summary>Gets the tags of letters and shapes, with the number of the element that each follows.</summary>
+    internal List<(int Element, CadCodeValue Tag)> ComplexTags { get; } = [];
+
+    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    {
+        taken = true;
+        switch (code)
+        {
+            case 49:
+                Pattern.Add(tags.GetDouble());
+                break;
+            case 40:
+                PatternLength = tags.GetDouble();
+                break;
+            case 72 or 73:
+                break;
+            case 74 when tags.GetInt() == 0:
+                break;
+            case 74 or 75 or 340 or 46 or 50 or 44 or 45 or 9:
+                ComplexTags.Add((Pattern.Count, tags.ToCodeValue()));
+                break;
+            default:
+                taken = false;
+                break;
+        }
+    }
+
+    partial void OnWriteCodes(DxfTagWriter writer)
+    {
+        writer.Write(72, 65);
+        writer.Write(73, Pattern.Count);
+        writer.Write(40, PatternLength);
+        for (int i = 0; i < Pattern.Count; i++)
+        {
+            writer.Write(49, Pattern[i]);
+            WriteElement(writer, i + 1);
+        }
+    }
+
+    private void WriteElement(DxfTagWriter writer, int element)
+    {
+        bool plain = true;
+        foreach ((int of, CadCodeValue tag) in ComplexTags)
+        {
+            if (of == element)
+            {
+                writer.Write(tag);
+                plain = false;
+            }
+        }
+
+        if (plain && writer.HasSubclasses)
+        {
+            writer.Write(74, 0);
+        }
+    }
+}

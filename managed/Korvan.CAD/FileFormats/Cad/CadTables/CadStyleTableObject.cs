@@ -1,0 +1,62 @@
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
+namespace Korvan.CAD.FileFormats.Cad.CadTables;
+
+/// <summary>A text style.</summary>
+[CadObject("STYLE", Subclass = "AcDbTextStyleTableRecord")]
+public partial class CadStyleTableObject : CadSymbolTableGroupCodes
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadStyleTableObject()
+    {
+    }
+
+    /// <summary>Gets or sets the fixed height; 0 for none. Group code 40.</summary>
+    [CadDouble(40)]
+    public double TextHeight { get; set; }
+
+    /// <summary>Gets or sets the width of letters relative to the font. Group code 41.</summary>
+    [CadDouble(41)]
+    public double WidthFactor { get; set; } = 1;
+
+    /// <summary>Gets or sets the slant of letters, in degrees. Group code 50.</summary>
+    [CadDouble(50)]
+    public double ObliqueAngle { get; set; }
+
+    /// <summary>Gets or sets how letters are mirrored: 2 left to right, 4 upside down. Group code 71.</summary>
+    [CadShort(71)]
+    public short TextGenerationFlag { get; set; }
+
+    /// <summary>Gets or sets the height used last. Group code 42.</summary>
+    [CadDouble(42)]
+    public double LastHeight { get; set; } = 0.2;
+
+    /// <summary>Gets or sets the file name of the font. Group code 3.</summary>
+    [CadString(3)]
+    public string PrimaryFontName { get; set; } = "txt";
+
+    /// <summary>Gets or sets the file name of the font for East Asian letters; empty for none. Group code
+    /// 4.</summary>
+    [CadString(4)]
+    public string BigFontName { get; set; } = "";
+
+    /// <summary>Gets or sets the family of a TrueType font, from the extended data of ACAD; empty for none.</summary>
+    public string FontFamily
+    {
+        get => XdataOrNull?.Find("ACAD")?.Data.Find(static tag => tag.Attribute == 1000)?.Value ?? "";
+        set
+        {
+            CadXdata? xdata = XdataContainer.Find("ACAD");
+            if (xdata is null)
+            {
+                xdata = new CadXdata("ACAD");
+                XdataContainer.XdataEntities.Add(xdata);
+            }
+
+            xdata.Data.Clear();
+            xdata.Data.Add(new CadCodeValue(1000, value));
+            xdata.Data.Add(new CadCodeValue(1071, "0"));
+        }
+    }
+}

@@ -1,0 +1,55 @@
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
+namespace Korvan.CAD.FileFormats.Cad.CadTables;
+
+/// <summary>A named view.</summary>
+[CadObject("VIEW", Subclass = "AcDbViewTableRecord")]
+public partial class CadViewTableObject : CadSymbolTableGroupCodes
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadViewTableObject()
+    {
+    }
+
+    /// <summary>Gets or sets the height of the view, in display coordinates. Group code 40.</summary>
+    [CadDouble(40)]
+    public double ViewHeight { get; set; } = 1;
+
+    /// <summary>Gets or sets the centre, in display coordinates. Group code 10, 20.</summary>
+    [Cad2DPoint(10)]
+    public Cad2DPoint ViewCenter { get; set; } = new();
+
+    /// <summary>Gets or sets the width of the view, in display coordinates. Group code 41.</summary>
+    [CadDouble(41)]
+    public double ViewWidth { get; set; } = 1;
+
+    /// <summary>Gets or sets the direction from the target to the eye, in world coordinates. Group code 11, 21,
+    /// 31.</summary>
+    [Cad3DPoint(11)]
+    public Cad3DPoint ViewDirection { get; set; } = new(0, 0, 1);
+
+    /// <summary>Gets or sets the point looked at, in world coordinates. Group code 12, 22, 32.</summary>
+    [Cad3DPoint(12)]
+    public Cad3DPoint TargetPoint { get; set; } = new();
+
+    /// <summary>Gets or sets the focal length in perspective. Group code 42.</summary>
+    [CadDouble(42)]
+    public double LensLength { get; set; } = 50;
+
+    /// <summary>Gets or sets the front clipping plane. Group code 43.</summary>
+    [CadDouble(43)]
+    public double FrontClippingPlane { get; set; }
+
+    /// <summary>Gets or sets the back clipping plane. Group code 44.</summary>
+    [CadDouble(44)]
+    public double BackClippingPlane { get; set; }
+
+    /// <summary>Gets or sets how far the view is turned, in degrees. Group code 50.</summary>
+    [CadDouble(50)]
+    public double TwistAngle { get; set; }
+
+    /// <summary>Gets or sets bits: 1 perspective, 2 front and 4 back clipping. Group code 71.</summary>
+    [CadShort(71)]
+    public short ViewMode { get; set; }
+}

@@ -1,0 +1,83 @@
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
+namespace Korvan.CAD.FileFormats.Cad.CadTables;
+
+/// <summary>A part of the screen with a view of the model.</summary>
+[CadObject("VPORT", Subclass = "AcDbViewportTableRecord")]
+public partial class CadVportTableObject : CadSymbolTableGroupCodes
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadVportTableObject()
+    {
+    }
+
+    /// <summary>Gets or sets the lower left corner, as part of the screen. Group code 10, 20.</summary>
+    [Cad2DPoint(10)]
+    public Cad2DPoint LowerLeft { get; set; } = new();
+
+    /// <summary>Gets or sets the upper right corner, as part of the screen. Group code 11, 21.</summary>
+    [Cad2DPoint(11)]
+    public Cad2DPoint UpperRight { get; set; } = new(1, 1);
+
+    /// <summary>Gets or sets the centre of the view, in display coordinates. Group code 12, 22.</summary>
+    [Cad2DPoint(12)]
+    public Cad2DPoint ViewCenter { get; set; } = new();
+
+    /// <summary>Gets or sets the base of the snap grid. Group code 13, 23.</summary>
+    [Cad2DPoint(13)]
+    public Cad2DPoint SnapBasePoint { get; set; } = new();
+
+    /// <summary>Gets or sets the distances of the snap grid. Group code 14, 24.</summary>
+    [Cad2DPoint(14)]
+    public Cad2DPoint SnapSpacing { get; set; } = new(0.5, 0.5);
+
+    /// <summary>Gets or sets the distances of the grid. Group code 15, 25.</summary>
+    [Cad2DPoint(15)]
+    public Cad2DPoint GridSpacing { get; set; } = new(0.5, 0.5);
+
+    /// <summary>Gets or sets the direction from the target to the eye, in world coordinates. Group code 16, 26,
+    /// 36.</summary>
+    [Cad3DPoint(16)]
+    public Cad3DPoint ViewDirection { get; set; } = new(0, 0, 1);
+
+    /// <summary>Gets or sets the point looked at, in world coordinates. Group code 17, 27, 37.</summary>
+    [Cad3DPoint(17)]
+    public Cad3DPoint ViewTarget { get; set; } = new();
+
+    /// <summary>Gets or sets the height of the view. Group code 40.</summary>
+    [CadDouble(40)]
+    public double ViewHeight { get; set; } = 1;
+
+    /// <summary>Gets or sets width to height of the view. Group code 41.</summary>
+    [CadDouble(41)]
+    public double ViewAspectRatio { get; set; } = 1;
+
+    /// <summary>Gets or sets the focal length in perspective. Group code 42.</summary>
+    [CadDouble(42)]
+    public double LensLength { get; set; } = 50;
+
+    /// <summary>Gets or sets the front clipping plane. Group code 43.</summary>
+    [CadDouble(43)]
+    public double FrontClippingPlane { get; set; }
+
+    /// <summary>Gets or sets the back clipping plane. Group code 44.</summary>
+    [CadDouble(44)]
+    public double BackClippingPlane { get; set; }
+
+    /// <summary>Gets or sets the angle of the snap grid, in degrees. Group code 50.</summary>
+    [CadDouble(50)]
+    public double SnapRotationAngle { get; set; }
+
+    /// <summary>Gets or sets how far the view is turned, in degrees. Group code 51.</summary>
+    [CadDouble(51)]
+    public double ViewTwistAngle { get; set; }
+
+    /// <summary>Gets or sets bits: 1 perspective, 2 front and 4 back clipping. Group code 71.</summary>
+    [CadShort(71)]
+    public short ViewMode { get; set; }
+
+    /// <summary>Gets or sets how finely circles are drawn. Group code 72.</summary>
+    [CadShort(72)]
+    public short CircleSides { get; set; } = 1000;
+}

@@ -1,0 +1,59 @@
+using System.Collections;
+using System.Collections.Generic;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad;
+
+/// <summary>The named coordinate systems of a drawing.</summary>
+public class CadUcsList : IEnumerable<CadUcsTableObject>
+{
+    private readonly NamedObjects<CadUcsTableObject> _items = new(static item => item.Name);
+
+    internal CadUcsList()
+    {
+    }
+
+    /// <summary>Gets how many there are.</summary>
+    public int Count => _items.Items.Count;
+
+    /// <summary>Gets the names, in order.</summary>
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+
+    internal List<CadUcsTableObject> Items => _items.Items;
+
+    /// <summary>Gets a coordinate system by its place, from 0.</summary>
+    /// <param name="index">The place.</param>
+    public CadUcsTableObject this[int index] => _items.Items[index];
+
+    /// <summary>Gets a coordinate system by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadUcsTableObject this[string name] => Find(name)
+        ?? throw new CadException($"The drawing has no coordinate system called '{name}'.");
+
+    /// <summary>Finds a coordinate system; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What was found, or nothing.</returns>
+    public CadUcsTableObject? Find(string name) => _items.Find(name);
+
+    /// <summary>Tells whether there is a coordinate system of a name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    public bool Contains(string name) => _items.Find(name) is not null;
+
+    /// <summary>Adds a coordinate system.</summary>
+    /// <param name="item">What is added.</param>
+    public void Add(CadUcsTableObject item) => _items.Add(item);
+
+    /// <summary>Removes a coordinate system.</summary>
+    /// <param name="item">What is removed.</param>
+    /// <returns>Whether it was there.</returns>
+    public bool Remove(CadUcsTableObject item) => _items.Remove(item);
+
+    /// <summary>Gives all, in order.</summary>
+    public IEnumerator<CadUcsTableObject> GetEnumerator() => _items.Items.GetEnumerator();
+
+    /// <inheritdoc/>
+    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+}

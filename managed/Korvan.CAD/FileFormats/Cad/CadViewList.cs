@@ -1,0 +1,59 @@
+using System.Collections;
+using System.Collections.Generic;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad;
+
+/// <summary>The named views of a drawing.</summary>
+public class CadViewList : IEnumerable<CadViewTableObject>
+{
+    private readonly NamedObjects<CadViewTableObject> _items = new(static item => item.Name);
+
+    internal CadViewList()
+    {
+    }
+
+    /// <summary>Gets how many there are.</summary>
+    public int Count => _items.Items.Count;
+
+    /// <summary>Gets the names, in order.</summary>
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+
+    internal List<CadViewTableObject> Items => _items.Items;
+
+    /// <summary>Gets a view by its place, from 0.</summary>
+    /// <param name="index">The place.</param>
+    public CadViewTableObject this[int index] => _items.Items[index];
+
+    /// <summary>Gets a view by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadViewTableObject this[string name] => Find(name)
+        ?? throw new CadException($"The drawing has no view called '{name}'.");
+
+    /// <summary>Finds a view; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What was found, or nothing.</returns>
+    public CadViewTableObject? Find(string name) => _items.Find(name);
+
+    /// <summary>Tells whether there is a view of a name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    public bool Contains(string name) => _items.Find(name) is not null;
+
+    /// <summary>Adds a view.</summary>
+    /// <param name="item">What is added.</param>
+    public void Add(CadViewTableObject item) => _items.Add(item);
+
+    /// <summary>Removes a view.</summary>
+    /// <param name="item">What is removed.</param>
+    /// <returns>Whether it was there.</returns>
+    public bool Remove(CadViewTableObject item) => _items.Remove(item);
+
+    /// <summary>Gives all, in order.</summary>
+    public IEnumerator<CadViewTableObject> GetEnumerator() => _items.Items.GetEnumerator();
+
+    /// <inheritdoc/>
+    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+}

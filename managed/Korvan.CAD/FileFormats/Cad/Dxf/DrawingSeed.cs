@@ -1,0 +1,11 @@
+namespace Korvan.CAD.FileFormats.Cad.Dxf;
+
+/// <summary>What a drawing begins with.</summary>
+internal enum DrawingSeed
+{
+    /// <summary>Tables, layouts and variables that every drawing has.</summary>
+    Standard,
+
+    /// <summary>Nothing: a reader adds everything.</summary>
+    Blank,
+}

@@ -1,0 +1,91 @@
+using System;
+using System.Globalization;
+using System.Text;
+
+namespace Korvan.CAD.FileFormats.Cad.Dxf;
+
+/// <content>Texts: code pages, escapes, and one string for one name however often it stands in the file.</content>
+internal sealed partial class DxfTagReader
+{
+    private const int PoolSize = 1024;
+    private const int LongestPooled = 40;
+
+    private readonly (int Start, int Length, string Text)[] _pool = new (int, int, string)[PoolSize];
+
+    /// <summary>Gets or sets the encoding of texts that are not plain ASCII.</summary>
+    internal Encoding Encoding { get; set; } = Encoding.Latin1;
+
+    /// <summary>Gives the value as a text.</summary>
+    internal string GetString()
+    {
+        if (IsBinary && !BinaryTags.IsText(Code))
+        {
+            return ValueText();
+        }
+
+        ReadOnlySpan<byte> bytes = Value;
+        return bytes.Length <= LongestPooled ? Pooled(bytes) : Decode(bytes);
+    }
+
+    /// <summary>Gives the value as a name: without blanks at its ends.</summary>
+    internal string GetName()
+    {
+        ReadOnlySpan<byte> bytes = Value;
+        if (bytes.Length > 0 && (bytes[0] == ' ' || bytes[^1] == ' '))
+        {
+            return GetString().Trim();
+        }
+
+        return GetString();
+    }
+
+    /// <summary>Gives the value as it would stand in a text file.</summary>
+    internal string ValueText()
+    {
+        if (!IsBinary || BinaryTags.IsText(Code))
+        {
+            return IsBinary || Value.Length > LongestPooled ? Decode(Value) : Pooled(Value);
+        }
+
+        if (BinaryTags.HasBinaryValue(Code))
+        {
+            return Convert.ToHexString(Value);
+        }
+
+        return BinaryTags.IsDouble(Code)
+            ? BinaryTags.ToDouble(Code, Value).ToString("R", CultureInfo.InvariantCulture)
+            : BinaryTags.ToLong(Code, Value).ToString(CultureInfo.InvariantCulture);
+    }
+
+    private string Pooled(ReadOnlySpan<byte> bytes)
+    {
+        if (bytes.IsEmpty)
+        {
+            return "";
+        }
+
+        uint hash = 2166136261;
+        foreach (byte value in bytes)
+        {
+            hash = (hash ^ value) * 16777619;
+        }
+
+        ref (int Start, int Length, string Text) entry = ref _pool[(hash ^ (hash >> 15)) % PoolSize];
+        if (entry.Length != bytes.Length || !_data.AsSpan(entry.Start, entry.Length).SequenceEqual(bytes))
+        {
+            entry = (_start, bytes.Length, Decode(bytes));
+        }
+
+        return entry.Text;
+    }
+
+    private string Decode(ReadOnlySpan<byte> bytes)
+    {
+        if (Ascii.IsValid(bytes) && !TextEscapes.MayHaveEscapes(bytes))
+        {
+            return Encoding.ASCII.GetString(bytes);
+        }
+
+        return TextEscapes.Decode(Encoding.GetString(bytes));
+    }
+}

@@ -1,0 +1,308 @@
+using System;
+using System.Buffers.Text;
+using System.Collections.Generic;
+using System.Globalization;
+using Korvan.CAD.CadExceptions;
+
+namespace Korvan.CAD.FileFormats.Cad.Dxf;
+
+/// <summary>
+/// Reads the tags of an interchange file, text or binary, from memory. A tag is a group code and a value; the value
+/// stays a slice of the file until it is asked for in one of its types.
+/// </summary>
+internal sealed partial class DxfTagReader
+{
+    private readonly byte[] _data;
+    private readonly string _fileName;
+    private readonly BinaryLayout _binary;
+    private int _position;
+    private int _start;
+    private int _length;
+    private int _line;
+    private int _tagOffset;
+    private bool _unread;
+
+    internal DxfTagReader(byte[] data, string fileName)
+    {
+        _data = data;
+        _fileName = fileName;
+        _binary = BinaryTags.Detect(data);
+        _position = _binary == BinaryLayout.None ? SkipByteOrderMark(data) : BinaryTags.Sentinel.Length;
+    }
+
+    /// <summary>Gets the group code of the current tag.</summary>
+    internal int Code { get; private set; }
+
+    /// <summary>Gets the marker that the current tag stands behind, or nothing before the first one.</summary>
+    internal string? Subclass { get; private set; }
+
+    /// <summary>Gets or sets what was wrong with objects that were left out; nothing when damage is not forgiven.
+    /// </summary>
+    internal List<string>? Errors { get; set; }
+
+    /// <summary>Gets whether the file is binary.</summary>
+    internal bool IsBinary => _binary != BinaryLayout.None;
+
+    /// <summary>Gets how many bytes follow the current tag.</summary>
+    internal int Remaining => _data.Length - _position;
+
+    /// <summary>Gets the number of the line that the current tag begins on, from 1.</summary>
+    internal int Line => _line;
+
+    /// <summary>Gets the bytes of the current value.</summary>
+    internal ReadOnlySpan<byte> Value => _data.AsSpan(_start, _length);
+
+    /// <summary>Goes on to the next tag; comments are passed over.</summary>
+    /// <returns>Whether there is one.</returns>
+    internal bool Next()
+    {
+        if (_unread)
+        {
+            _unread = false;
+            return true;
+        }
+
+        do
+        {
+            if (!(IsBinary ? NextBinary() : NextText()))
+            {
+                return false;
+            }
+        }
+        while (Code == 999);
+        return true;
+    }
+
+    /// <summary>Makes <see cref="Next"/> give the current tag again.</summary>
+    internal void Unread() => _unread = true;
+
+    /// <summary>Tells whether the current tag stands behind a marker; old files have no markers.</summary>
+    internal bool InSubclass(string name) => Subclass is null || Subclass == name;
+
+    internal void EnterSubclass(string? name) => Subclass = name;
+
+    internal bool ValueIs(ReadOnlySpan<byte> text) => Trimmed().SequenceEqual(text);
+
+    /// <summary>Looks for a code in the rest of the current object without leaving the place.</summary>
+    /// <returns>Its value as a whole number, or nothing.</returns>
+    internal int? Peek(int code)
+    {
+        (int position, int start, int length, int line, int offset, int current) =
+            (_position, _start, _length, _line, _tagOffset, Code);
+        bool unread = _unread;
+        int? found = null;
+        while (found is null && Next() && Code != 0)
+        {
+            found = Code == code ? GetInt() : null;
+        }
+
+        (_position, _start, _length, _line, _tagOffset, Code) = (position, start, length, line, offset, current);
+        _unread = unread;
+        return found;
+    }
+
+    internal double GetDouble()
+    {
+        double value;
+        if (IsBinary)
+        {
+            value = BinaryTags.ToDouble(Code, Value);
+        }
+        else if (!FastDouble.TryParse(Trimmed(), out value))
+        {
+            throw NotANumber("number");
+        }
+
+        return double.IsFinite(value) ? value : throw Fail($"group code {Code} has the value {ValueText()}; "
+            + "a finite number was expected");
+    }
+
+    internal int GetInt()
+    {
+        long value = GetLong();
+        return unchecked((int)value);
+    }
+
+    internal short GetShort() => unchecked((short)GetLong());
+
+    internal long GetLong()
+    {
+        if (IsBinary)
+        {
+            return BinaryTags.ToLong(Code, Value);
+        }
+
+        ReadOnlySpan<byte> text = Trimmed();
+        if (Utf8Parser.TryParse(text, out long value, out int used) && used == text.Length)
+        {
+            return value;
+        }
+
+        // Some programs write whole numbers with a fraction of zero or a sign.
+        return FastDouble.TryParse(text, out double number) && Math.Abs(number) < 9e18
+            ? (long)number
+            : throw NotANumber("whole number");
+    }
+
+    /// <summary>Reads how many parts follow; a count that the rest of the file cannot hold is damage.</summary>
+    internal int GetCount()
+    {
+        const int smallestTag = 4;
+        long count = GetLong();
+        return count >= 0 && count <= (Remaining / (IsBinary ? 2 : smallestTag)) + 1
+            ? (int)count
+            : throw Fail($"group code {Code} announces {count} parts, but only {Remaining} bytes follow");
+    }
+
+    internal ulong GetHandle()
+    {
+        ReadOnlySpan<byte> text = Trimmed();
+        if (Utf8Parser.TryParse(text, out ulong value, out int used, 'X') && used == text.Length)
+        {
+            return value;
+        }
+
+        return text.IsEmpty ? 0UL : throw Fail($"group code {Code} has the value '{ValueText()}'; a handle, which is a "
+            + "hexadecimal number, was expected");
+    }
+
+    internal byte[] AppendBinary(byte[] before)
+    {
+        byte[] chunk;
+        try
+        {
+            chunk = BinaryTags.HasBinaryValue(Code) && IsBinary
+                ? Value.ToArray()
+                : Convert.FromHexString(ValueText().Trim());
+        }
+        catch (FormatException)
+        {
+            throw Fail($"group code {Code} holds bytes that are not written in pairs of hexadecimal digits");
+        }
+
+        return [.. before, .. chunk];
+    }
+
+    /// <summary>Gives the current tag as it stands in the file.</summary>
+    internal CadCodeValue ToCodeValue() => new(Code, ValueText());
+
+    /// <summary>Describes damage at the current tag.</summary>
+    internal ImageLoadException Fail(string cause)
+    {
+        string place = IsBinary
+            ? $"byte {_tagOffset.ToString(CultureInfo.InvariantCulture)}"
+            : $"line {_line.ToString(CultureInfo.InvariantCulture)}";
+        return new ImageLoadException($"'{_fileName}', {place}: {cause}.");
+    }
+
+    private static int SkipByteOrderMark(byte[] data)
+    {
+        return data.AsSpan().StartsWith("\uFEFF"u8) ? 3 : 0;
+    }
+
+    private bool NextText()
+    {
+        _tagOffset = _position;
+        if (_position >= _data.Length)
+        {
+            return false;
+        }
+
+        _line += _line == 0 ? 1 : 2;
+        (int start, int length) = TakeLine();
+        if (!TryParseCode(_data.AsSpan(start, length), out int code))
+        {
+            return EndOrBadCode(start, length);
+        }
+
+        Code = code;
+        if (_position >= _data.Length)
+        {
+            throw Fail($"the file ends behind group code {code}; its value was expected");
+        }
+
+        (_start, _length) = TakeLine();
+        return true;
+    }
+
+    private bool EndOrBadCode(int start, int length)
+    {
+        ReadOnlySpan<byte> text = _data.AsSpan(start, length);
+        if (text.Trim(" \t\0\u001a"u8).IsEmpty && _data.AsSpan(_position).Trim(" \t\0\r\n\u001a"u8).IsEmpty)
+        {
+            _position = _data.Length;
+            return false;
+        }
+
+        (_start, _length) = (start, Math.Min(length, 40));
+        throw Fail($"'{ValueText()}' is no group code; a whole number was expected");
+    }
+
+    private (int Start, int Length) TakeLine()
+    {
+        int start = _position;
+        int length = _data.AsSpan(start).IndexOfAny((byte)'\n', (byte)'\r');
+        if (length < 0)
+        {
+            _position = _data.Length;
+            return (start, _data.Length - start);
+        }
+
+        int end = start + length;
+        bool pair = _data[end] == '\r' && end + 1 < _data.Length && _data[end + 1] == '\n';
+        _position = end + (pair ? 2 : 1);
+        return (start, length);
+    }
+
+    private static bool TryParseCode(ReadOnlySpan<byte> line, out int code)
+    {
+        code = 0;
+        int index = 0;
+        while (index < line.Length && line[index] is (byte)' ' or (byte)'\t')
+        {
+            index++;
+        }
+
+        bool negative = index < line.Length && line[index] == '-';
+        index += negative ? 1 : 0;
+        int first = index;
+        while (index < line.Length && index - first < 6 && (uint)(line[index] - '0') <= 9)
+        {
+            code = (code * 10) + (line[index++] - '0');
+        }
+
+        code = negative ? -code : code;
+        return index > first && line[index..].Trim(" \t"u8).IsEmpty;
+    }
+
+    private bool NextBinary()
+    {
+        _tagOffset = _position;
+        if (_position >= _data.Length)
+        {
+            return false;
+        }
+
+        if (!BinaryTags.TryTake(_data, _binary, ref _position, out int code, out _start, out _length))
+        {
+            _position = _data.Length;
+            throw Fail("the file ends within a tag");
+        }
+
+        Code = code;
+        return true;
+    }
+
+    private ReadOnlySpan<byte> Trimmed()
+    {
+        ReadOnlySpan<byte> text = Value;
+        return text.Length > 0 && (text[0] <= ' ' || text[^1] <= ' ') ? text.Trim(" \t\0"u8) : text;
+    }
+
+    private ImageLoadException NotANumber(string kind)
+    {
+        return Fail($"group code {Code} has the value '{Shortened(ValueText())}'; a {kind} was expected");
+    }
+
+    private static string Shortened(string text) => text.Length > 60 ? text[..60] + "…" : text;
+}

@@ -1,0 +1,219 @@
+using System;
+using System.Buffers.Text;
+using System.Collections.Generic;
+using System.Globalization;
+using System.IO;
+using System.Text;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
+namespace Korvan.CAD.FileFormats.Cad.Dxf;
+
+/// <summary>Writes the tags of a text interchange file.</summary>
+internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release)
+{
+    private const int ChunkLength = 250;
+
+    private readonly byte[] _buffer = new byte[1 << 16];
+    private int _used;
+
+    /// <summary>Gets the release that is written, as a year.</summary>
+    internal int Release { get; } = release;
+
+    /// <summary>Gets or sets what is being written, for messages.</summary>
+    internal string Subject { get; set; } = "the drawing";
+
+    internal bool HasSubclasses => Release >= 1994;
+
+    internal void Write(int code, string value)
+    {
+        WriteCode(code);
+        WriteText(value);
+        EndLine();
+    }
+
+    internal void Write(int code, int value) => Write(code, (long)value);
+
+    internal void Write(int code, long value)
+    {
+        WriteCode(code);
+        Reserve(24);
+        Utf8Formatter.TryFormat(value, _buffer.AsSpan(_used), out int count);
+        _used += count;
+        EndLine();
+    }
+
+    internal void Write(int code, double value)
+    {
+        if (!double.IsFinite(value))
+        {
+            throw new ImageSaveException($"{Subject} has the value {value} for group code {code}; "
+                + "only finite numbers can be written.");
+        }
+
+        WriteCode(code);
+        Reserve(40);
+        Span<byte> target = _buffer.AsSpan(_used);
+        value.TryFormat(target, out int count, "R", CultureInfo.InvariantCulture);
+        if (target[..count].IndexOfAny((byte)'.', (byte)'E') < 0)
+        {
+            target[count++] = (byte)'.';
+            target[count++] = (byte)'0';
+        }
+
+        _used += count;
+        EndLine();
+    }
+
+    internal void Write(int code, Cad3DPoint point)
+    {
+        Write(code, point.X);
+        Write(code + 10, point.Y);
+        Write(code + 20, point.Z);
+    }
+
+    internal void Write(int code, Cad2DPoint point)
+    {
+        Write(code, point.X);
+        Write(code + 10, point.Y);
+    }
+
+    internal void Write(int code, byte[] bytes)
+    {
+        const int chunk = 127;
+        for (int start = 0; start < bytes.Length; start += chunk)
+        {
+            Write(code, Convert.ToHexString(bytes.AsSpan(start, Math.Min(chunk, bytes.Length - start))));
+        }
+    }
+
+    internal void Write(CadCodeValue value) => Write(value.Attribute, value.Value);
+
+    internal void WriteHandle(int code, ulong handle) => Write(code, HandleText.Format(handle));
+
+    internal void WriteOptional(int code, int value, int initial)
+    {
+        if (value != initial)
+        {
+            Write(code, value);
+        }
+    }
+
+    internal void WriteSubclass(string name)
+    {
+        if (HasSubclasses)
+        {
+            Write(100, name);
+        }
+    }
+
+    /// <summary>Writes lines of any length: the first piece of each under code 1, the others under code 3.</summary>
+    internal void WriteChunks(IEnumerable<string> lines)
+    {
+        foreach (string line in lines)
+        {
+            int start = 0;
+            do
+            {
+                int length = Math.Min(ChunkLength, line.Length - start);
+                Write(start == 0 ? 1 : 3, line.Substring(start, length));
+                start += length;
+            }
+            while (start < line.Length);
+        }
+    }
+
+    /// <summary>Writes a long text: full pieces under one code, the last under another.</summary>
+    internal void WriteLongText(int pieceCode, int lastCode, string text)
+    {
+        int start = 0;
+        while (text.Length - start > ChunkLength)
+        {
+            int length = char.IsHighSurrogate(text[start + ChunkLength - 1]) ? ChunkLength - 1 : ChunkLength;
+            Write(pieceCode, text.Substring(start, length));
+            start += length;
+        }
+
+        Write(lastCode, text[start..]);
+    }
+
+    /// <summary>Writes the tags of an object that nobody interprets and that stood behind a marker.</summary>
+    internal void WriteKept(CadBaseObject source, string? subclass)
+    {
+        foreach (KeptTag tag in source.Kept ?? [])
+        {
+            if (tag.Subclass == subclass)
+            {
+                Write(tag.Value);
+            }
+        }
+    }
+
+    internal void Flush()
+    {
+        stream.Write(_buffer, 0, _used);
+        _used = 0;
+        stream.Flush();
+    }
+
+    private void WriteCode(int code)
+    {
+        Reserve(16);
+        if (code is >= 0 and < 10)
+        {
+            _buffer[_used++] = (byte)' ';
+        }
+
+        if (code is >= 0 and < 100)
+        {
+            _buffer[_used++] = (byte)' ';
+        }
+
+        Utf8Formatter.TryFormat(code, _buffer.AsSpan(_used), out int count);
+        _used += count;
+        EndLine();
+    }
+
+    private void WriteText(string value)
+    {
+        string text = Escaped(TextEscapes.Encode(value, encoding));
+        int most = encoding.GetMaxByteCount(text.Length);
+        if (most > _buffer.Length - 16)
+        {
+            Flush();
+            stream.Write(encoding.GetBytes(text));
+            return;
+        }
+
+        Reserve(most);
+        _used += encoding.GetBytes(text, _buffer.AsSpan(_used));
+    }
+
+    // A line break would end the value: control characters are a caret and a letter.
+    private static string Escaped(string text)
+    {
+        if (text.AsSpan().IndexOfAny('\r', '\n') < 0)
+        {
+            return text;
+        }
+
+        return text.Replace("\r\n", "^J", StringComparison.Ordinal).Replace("\n", "^J", StringComparison.Ordinal)
+            .Replace("\r", "^M", StringComparison.Ordinal);
+    }
+
+    private void EndLine()
+    {
+        Reserve(2);
+        _buffer[_used++] = (byte)'\r';
+        _buffer[_used++] = (byte)'\n';
+    }
+
+    private void Reserve(int count)
+    {
+        if (_buffer.Length - _used < count)
+        {
+            stream.Write(_buffer, 0, _used);
+            _used = 0;
+        }
+    }
+}

@@ -1,0 +1,48 @@
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
+namespace Korvan.CAD.FileFormats.Cad.Dxf;
+
+/// <summary>Points that repeat one group code: each X begins a point.</summary>
+internal static class PointLists
+{
+    internal static bool TryRead(int code, int first, List<Cad3DPoint> points, DxfTagReader tags)
+    {
+        if (code == first)
+        {
+            points.Add(new Cad3DPoint(tags.GetDouble(), 0, 0));
+        }
+        else if (code == first + 10 && points.Count > 0)
+        {
+            points[^1].Y = tags.GetDouble();
+        }
+        else if (code == first + 20 && points.Count > 0)
+        {
+            points[^1].Z = tags.GetDouble();
+        }
+        else
+        {
+            return false;
+        }
+
+        return true;
+    }
+
+    internal static bool TryRead(int code, int first, List<Cad2DPoint> points, DxfTagReader tags)
+    {
+        if (code == first)
+        {
+            points.Add(new Cad2DPoint(tags.GetDouble(), 0));
+        }
+        else if (code == first + 10 && points.Count > 0)
+        {
+            points[^1].Y = tags.GetDouble();
+        }
+        else
+        {
+            return false;
+        }
+
+        return true;
+    }
+}

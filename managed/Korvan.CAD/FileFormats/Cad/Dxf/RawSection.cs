@@ -1,0 +1,11 @@
+using System.Collections.Generic;
+
+namespace Korvan.CAD.FileFormats.Cad.Dxf;
+
+/// <summary>A section that nobody interprets, without the tags that begin and end it.</summary>
+internal sealed class RawSection(string name)
+{
+    internal string Name { get; } = name;
+
+    internal List<CadCodeValue> Tags { get; } = [];
+}

@@ -1,0 +1,144 @@
+using System;
+using System.Text;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats;
+
+/// <summary>Tells formats apart by their first bytes.</summary>
+internal static class FormatDetector
+{
+    /// <summary>How many bytes are enough.</summary>
+    internal const int HeadLength = 4096;
+
+    internal static bool CanRead(FileFormat format)
+    {
+        return format is >= FileFormat.DxfCadR010 and <= FileFormat.DxfCadR2013;
+    }
+
+    internal static FileFormat Detect(ReadOnlySpan<byte> head)
+    {
+        if (head.Length == 0)
+        {
+            return FileFormat.Undefined;
+        }
+
+        FileFormat signed = BySignature(head);
+        if (signed != FileFormat.Undefined)
+        {
+            return signed;
+        }
+
+        return LooksLikeDxf(head) ? DxfFormat(head) : ByText(head);
+    }
+
+    private static FileFormat BySignature(ReadOnlySpan<byte> head)
+    {
+        ReadOnlySpan<byte> riff = "RIFF"u8;
+        return head switch
+        {
+            _ when head.StartsWith(BinaryTags.Sentinel) => DxfFormat(head),
+            _ when head.StartsWith("AC10"u8) && head.Length > 6 => DwgFormat(head),
+            _ when head.StartsWith("AC1."u8) => FileFormat.CadR1_4,
+            _ when head.StartsWith("AC2."u8) => FileFormat.CadR2_10,
+            _ when head.StartsWith("%PDF-"u8) => FileFormat.Pdf,
+            _ when head.StartsWith("\u0089PNG"u8) || head.StartsWith((ReadOnlySpan<byte>)[0x89, 0x50, 0x4E, 0x47])
+                => FileFormat.Png,
+            _ when head.StartsWith((ReadOnlySpan<byte>)[0xFF, 0xD8, 0xFF]) => FileFormat.Jpeg,
+            _ when head.StartsWith("GIF8"u8) => FileFormat.Gif,
+            _ when head.StartsWith("BM"u8) && head.Length > 14 => FileFormat.Bmp,
+            _ when head.StartsWith((ReadOnlySpan<byte>)[0x49, 0x49, 0x2A, 0]) => FileFormat.Tiff,
+            _ when head.StartsWith((ReadOnlySpan<byte>)[0x4D, 0x4D, 0, 0x2A]) => FileFormat.Tiff,
+            _ when head.StartsWith("8BPS"u8) => FileFormat.Psd,
+            _ when head.StartsWith(riff) && head.Length > 12 && head[8..12].SequenceEqual("WEBP"u8) => FileFormat.Webp,
+            _ when head.StartsWith("glTF"u8) => FileFormat.Glb,
+            _ when head.StartsWith("(DWF V"u8) => FileFormat.Dwf,
+            _ when head.StartsWith("Kaydara FBX Binary"u8) => FileFormat.Fbx,
+            _ when head.StartsWith("U3D\0"u8) => FileFormat.U3D,
+            _ when head.StartsWith("DRACO"u8) => FileFormat.Draco,
+            _ when head.StartsWith("AutoCAD DXB"u8) => FileFormat.Dxb,
+            _ => FileFormat.Undefined,
+        };
+    }
+
+    private static FileFormat ByText(ReadOnlySpan<byte> head)
+    {
+        return head switch
+        {
+            _ when head.StartsWith("solid "u8) => FileFormat.Stl,
+            _ when head.StartsWith("ISO-10303-21"u8) => StepFormat(head),
+            _ when head.IndexOf("<svg"u8) >= 0 => FileFormat.Svg,
+            _ when head.IndexOf("<COLLADA"u8) >= 0 => FileFormat.Collada,
+            _ => FileFormat.Undefined,
+        };
+    }
+
+    private static FileFormat StepFormat(ReadOnlySpan<byte> head)
+    {
+        if (head.IndexOf("IFC4"u8) >= 0)
+        {
+            return FileFormat.IFC4;
+        }
+
+        return head.IndexOf("IFC2X3"u8) >= 0 ? FileFormat.IFC2X3 : FileFormat.Stp;
+    }
+
+    private static FileFormat DwgFormat(ReadOnlySpan<byte> head) => Encoding.ASCII.GetString(head[..6]) switch
+    {
+        "AC1001" => FileFormat.CadR2_22,
+        "AC1002" => FileFormat.CadR2_5,
+        "AC1003" => FileFormat.CadR2_6,
+        "AC1004" => FileFormat.CadR9,
+        "AC1006" => FileFormat.CadR010,
+        "AC1009" => FileFormat.CadR011_012,
+        "AC1012" => FileFormat.CadR013,
+        "AC1014" => FileFormat.CadR014,
+        "AC1015" => FileFormat.CadR2000,
+        "AC1018" => FileFormat.CadR2004,
+        "AC1021" => FileFormat.CadR2007,
+        "AC1024" => FileFormat.CadR2010,
+        "AC1027" => FileFormat.CadR2013,
+        "AC1032" => FileFormat.CadR2018,
+        _ => FileFormat.Undefined,
+    };
+
+    // A text interchange file begins with group code 0 and SECTION, perhaps after comments.
+    private static bool LooksLikeDxf(ReadOnlySpan<byte> head)
+    {
+        ReadOnlySpan<byte> rest = head.StartsWith("\uFEFF"u8) ? head[3..] : head;
+        while (true)
+        {
+            ReadOnlySpan<byte> code = TakeLine(ref rest).Trim(" \t"u8);
+            ReadOnlySpan<byte> value = TakeLine(ref rest).Trim(" \t"u8);
+            if (!code.SequenceEqual("999"u8))
+            {
+                return code.SequenceEqual("0"u8) && (value.SequenceEqual("SECTION"u8) || value.SequenceEqual("EOF"u8));
+            }
+        }
+    }
+
+    private static ReadOnlySpan<byte> TakeLine(ref ReadOnlySpan<byte> rest)
+    {
+        int end = rest.IndexOfAny((byte)'\r', (byte)'\n');
+        if (end < 0)
+        {
+            ReadOnlySpan<byte> last = rest;
+            rest = [];
+            return last;
+        }
+
+        ReadOnlySpan<byte> line = rest[..end];
+        bool pair = rest[end] == '\r' && end + 1 < rest.Length && rest[end + 1] == '\n';
+        rest = rest[(end + (pair ? 2 : 1))..];
+        return line;
+    }
+
+    private static FileFormat DxfFormat(ReadOnlySpan<byte> head)
+    {
+        int variable = head.IndexOf("$ACADVER"u8);
+        int code = variable < 0 ? -1 : head[variable..].IndexOf("AC1"u8);
+        return code < 0 || variable + code + 6 > head.Length
+            ? FileFormat.DxfCadR012
+            : DxfRelease.ToFileFormat(DxfRelease.Parse(Encoding.ASCII.GetString(head.Slice(variable + code, 6))));
+    }
+}

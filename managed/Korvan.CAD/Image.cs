@@ -1,0 +1,196 @@
+using System;
+using System.IO;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.ImageOptions;
+
+namespace Korvan.CAD;
+
+/// <summary>What was read from a file: the base of the drawing and image classes of all formats.</summary>
+public abstract partial class Image : DataStreamSupporter
+{
+    internal Image()
+    {
+    }
+
+    /// <summary>Gets the rectangle of the content from the origin, in whole units of <see cref="UnitType"/>.</summary>
+    public Rectangle Bounds => new(0, 0, Width, Height);
+
+    /// <summary>Gets the image that holds this one as a page or frame, or nothing.</summary>
+    public Image? Container { get; internal set; }
+
+    /// <summary>Gets the extent along Y in whole units, rounded up.</summary>
+    public abstract int Height { get; }
+
+    /// <summary>Gets the extent along Z in whole units, rounded up; 0 for what is flat.</summary>
+    public virtual int Depth => 0;
+
+    /// <summary>Gets or sets the colours that pixels are numbers of; nothing where pixels are colours and for
+    /// vector drawings.</summary>
+    public IColorPalette? Palette { get; set; }
+
+    /// <summary>Gets width and height in whole units.</summary>
+    public Size Size => new(Width, Height);
+
+    /// <summary>Gets the extent along X in whole units, rounded up.</summary>
+    public abstract int Width { get; }
+
+    /// <summary>Gets the unit of length of the content; <see cref="ImageOptions.UnitType.Unitless"/> when the file
+    /// states none.</summary>
+    public virtual UnitType UnitType => UnitType.Unitless;
+
+    /// <summary>Gets or sets the unit that is assumed where the file states none.</summary>
+    public UnitType UnitlessDefaultUnitType { get; set; } = UnitType.Unitless;
+
+    /// <summary>Gets the options that the image was read with.</summary>
+    internal LoadOptions LoadOptions { get; set; } = new();
+
+    /// <summary>Gets the path that the image was read from, or nothing.</summary>
+    internal string? FilePath { get; set; }
+
+    /// <summary>Reads a file; the format is found from the content.</summary>
+    /// <param name="filePath">The path of the file.</param>
+    /// <param name="loadOptions">How to read it.</param>
+    /// <exception cref="ImageLoadException">The file is missing, damaged or of a format that has no reader.</exception>
+    public static Image Load(string filePath, LoadOptions loadOptions)
+    {
+        return ImageLoader.Load(filePath, loadOptions);
+    }
+
+    /// <summary>Reads a file; the format is found from the content.</summary>
+    /// <param name="filePath">The path of the file.</param>
+    /// <exception cref="ImageLoadException">The file is missing, damaged or of a format that has no reader.</exception>
+    public static Image Load(string filePath) => Load(filePath, new LoadOptions());
+
+    /// <summary>Reads a stream from its position to its end.</summary>
+    /// <param name="stream">The stream.</param>
+    /// <param name="loadOptions">How to read it.</param>
+    /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
+    public static Image Load(Stream stream, LoadOptions loadOptions)
+    {
+        return ImageLoader.Load(stream, null, loadOptions);
+    }
+
+    /// <summary>Reads a stream from its position to its end.</summary>
+    /// <param name="stream">The stream.</param>
+    /// <param name="fileName">The name that stands in messages, and whose folder is searched for files that the
+    /// drawing refers to.</param>
+    /// <param name="loadOptions">How to read it.</param>
+    /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
+    public static Image Load(Stream stream, string fileName, LoadOptions loadOptions)
+    {
+        return ImageLoader.Load(stream, fileName, loadOptions);
+    }
+
+    /// <summary>Reads a stream from its position to its end.</summary>
+    /// <param name="stream">The stream.</param>
+    /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
+    public static Image Load(Stream stream) => Load(stream, new LoadOptions());
+
+    /// <summary>Tells from the first bytes whether a file is of a format that can be read.</summary>
+    /// <param name="filePath">The path of the file. A file that is missing cannot be read.</param>
+    public static bool CanLoad(string filePath) => ImageLoader.CanLoad(filePath);
+
+    /// <summary>Tells from the first bytes whether a file is of a format that can be read.</summary>
+    /// <param name="filePath">The path of the file. A file that is missing cannot be read.</param>
+    /// <param name="loadOptions">How it would be read.</param>
+    public static bool CanLoad(string filePath, LoadOptions loadOptions)
+    {
+        ArgumentNullException.ThrowIfNull(loadOptions);
+        return ImageLoader.CanLoad(filePath);
+    }
+
+    /// <summary>Tells from the next bytes whether a stream is of a format that can be read. The position of a
+    /// stream that can seek is kept.</summary>
+    /// <param name="stream">The stream.</param>
+    public static bool CanLoad(Stream stream) => ImageLoader.CanLoad(stream);
+
+    /// <summary>Tells from the next bytes whether a stream is of a format that can be read. The position of a
+    /// stream that can seek is kept.</summary>
+    /// <param name="stream">The stream.</param>
+    /// <param name="loadOptions">How it would be read.</param>
+    public static bool CanLoad(Stream stream, LoadOptions loadOptions)
+    {
+        ArgumentNullException.ThrowIfNull(loadOptions);
+        return ImageLoader.CanLoad(stream);
+    }
+
+    /// <summary>Finds the format of a file from its content.</summary>
+    /// <param name="filePath">The path of the file.</param>
+    /// <returns>The format, or <see cref="FileFormat.Undefined"/>. Drawing interchange files of releases newer than
+    /// 2013 count as <see cref="FileFormat.DxfCadR2013"/>.</returns>
+    /// <exception cref="ImageLoadException">The file is missing or cannot be opened.</exception>
+    public static FileFormat GetFileFormat(string filePath) => ImageLoader.GetFileFormat(filePath);
+
+    /// <summary>Finds the format of a stream from its content. The position of a stream that can seek is
+    /// kept.</summary>
+    /// <param name="stream">The stream.</param>
+    /// <returns>The format, or <see cref="FileFormat.Undefined"/>.</returns>
+    public static FileFormat GetFileFormat(Stream stream) => ImageLoader.GetFileFormat(stream);
+
+    /// <summary>Writes the image in its own format over the file or stream that it was read from.</summary>
+    /// <exception cref="ImageSaveException">It was made in memory, so that there is no such place; or writing
+    /// failed.</exception>
+    public void Save()
+    {
+        VerifyNotDisposed();
+        if (FilePath is not null && DataStreamContainer is null)
+        {
+            Save(FilePath);
+            return;
+        }
+
+        Stream stream = DataStreamContainer?.Stream
+            ?? throw new ImageSaveException("The drawing has no file of its own yet; use save(file_path).");
+        ImageSaver.Replace(stream, SaveData);
+    }
+
+    /// <summary>Writes the image to a file in the format that the options stand for.</summary>
+    /// <param name="filePath">The path of the file. A file that exists is replaced only when writing succeeds.</param>
+    /// <param name="options">The options; their class tells the format.</param>
+    /// <exception cref="ImageSaveException">Writing failed, or this image has no way into that format.</exception>
+    public void Save(string filePath, ImageOptionsBase options)
+    {
+        VerifyNotDisposed();
+        ArgumentNullException.ThrowIfNull(options);
+        VerifyCanSave(options);
+        AtomicFile.Write(filePath, true, stream => Export(options, stream));
+    }
+
+    /// <summary>Writes the image to a stream in the format that the options stand for.</summary>
+    /// <param name="stream">The stream to write to, from its position on; it stays open.</param>
+    /// <param name="optionsBase">The options; their class tells the format.</param>
+    /// <exception cref="ImageSaveException">Writing failed, or this image has no way into that format.</exception>
+    public void Save(Stream stream, ImageOptionsBase optionsBase)
+    {
+        VerifyNotDisposed();
+        ArgumentNullException.ThrowIfNull(stream);
+        ArgumentNullException.ThrowIfNull(optionsBase);
+        VerifyCanSave(optionsBase);
+        Export(optionsBase, stream);
+    }
+
+    /// <summary>Tells whether the image can be written in the format that the options stand for.</summary>
+    /// <param name="options">The options.</param>
+    public bool CanSave(ImageOptionsBase options)
+    {
+        ArgumentNullException.ThrowIfNull(options);
+        return SupportsExport(options);
+    }
+
+    /// <summary>Gives the texts of the content, in drawing order and without formatting codes.</summary>
+    public virtual string[] GetStrings() => [];
+
+    internal abstract bool SupportsExport(ImageOptionsBase options);
+
+    internal abstract void Export(ImageOptionsBase options, Stream stream);
+
+    private void VerifyCanSave(ImageOptionsBase options)
+    {
+        if (!SupportsExport(options))
+        {
+            throw new ImageSaveException(
+                $"{GetType().Name} cannot be saved with {options.GetType().Name}; pass DxfOptions, PdfOptions, "
+                + "SvgOptions or PngOptions.");
+        }
+    }
+}

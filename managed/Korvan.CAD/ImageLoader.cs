@@ -1,0 +1,128 @@
+using System;
+using System.IO;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD;
+
+/// <summary>Finds the format of a file and the reader for it.</summary>
+internal static class ImageLoader
+{
+    internal static Image Load(string filePath, LoadOptions loadOptions)
+    {
+        ArgumentNullException.ThrowIfNull(loadOptions);
+        byte[] data = ReadFile(filePath);
+        Image image = Read(data, filePath, loadOptions);
+        image.FilePath = Path.GetFullPath(filePath);
+        return image;
+    }
+
+    internal static Image Load(Stream stream, string? fileName, LoadOptions loadOptions)
+    {
+        ArgumentNullException.ThrowIfNull(stream);
+        ArgumentNullException.ThrowIfNull(loadOptions);
+        byte[] data = ReadStream(stream);
+        Image image = Read(data, fileName ?? "stream", loadOptions);
+        image.DataStreamContainer = new StreamContainer(stream, loadOptions.UnloadOnDispose);
+        image.FilePath = fileName is null ? null : Path.GetFullPath(fileName);
+        return image;
+    }
+
+    internal static bool CanLoad(string filePath)
+    {
+        return File.Exists(filePath) && FormatDetector.CanRead(FormatDetector.Detect(ReadHead(filePath)));
+    }
+
+    internal static bool CanLoad(Stream stream) => FormatDetector.CanRead(GetFileFormat(stream));
+
+    internal static FileFormat GetFileFormat(string filePath)
+    {
+        VerifyFile(filePath);
+        return FormatDetector.Detect(ReadHead(filePath));
+    }
+
+    internal static FileFormat GetFileFormat(Stream stream)
+    {
+        ArgumentNullException.ThrowIfNull(stream);
+        long position = stream.CanSeek ? stream.Position : 0;
+        byte[] head = new byte[FormatDetector.HeadLength];
+        int count = stream.ReadAtLeast(head, head.Length, false);
+        if (stream.CanSeek)
+        {
+            stream.Position = position;
+        }
+
+        return FormatDetector.Detect(head.AsSpan(0, count));
+    }
+
+    private static Image Read(byte[] data, string name, LoadOptions options)
+    {
+        if (data.Length == 0)
+        {
+            throw new ImageLoadException($"'{name}' is empty; a drawing was expected.");
+        }
+
+        FileFormat format = FormatDetector.Detect(data.AsSpan(0, Math.Min(data.Length, FormatDetector.HeadLength)));
+        if (!FormatDetector.CanRead(format))
+        {
+            string what = format == FileFormat.Undefined
+                ? "is of no known format; its first bytes are not those of a drawing interchange file"
+                : $"is of format {format}, which cannot be read yet";
+            throw new ImageLoadException($"'{name}' {what}. Drawing interchange files (DXF) can be read.");
+        }
+
+        Image image = new DxfReader(data, name, options).Read();
+        image.LoadOptions = options;
+        return image;
+    }
+
+    private static byte[] ReadFile(string filePath)
+    {
+        VerifyFile(filePath);
+        try
+        {
+            return File.ReadAllBytes(filePath);
+        }
+        catch (Exception e) when (e is IOException or UnauthorizedAccessException)
+        {
+            throw new ImageLoadException($"'{filePath}' could not be read: {e.Message}", e);
+        }
+    }
+
+    private static byte[] ReadHead(string filePath)
+    {
+        try
+        {
+            using FileStream stream = new(filePath, FileMode.Open, FileAccess.Read, FileShare.ReadWrite, 1);
+            byte[] head = new byte[FormatDetector.HeadLength];
+            int count = stream.ReadAtLeast(head, head.Length, false);
+            return head[..count];
+        }
+        catch (Exception e) when (e is IOException or UnauthorizedAccessException)
+        {
+            throw new ImageLoadException($"'{filePath}' could not be read: {e.Message}", e);
+        }
+    }
+
+    private static byte[] ReadStream(Stream stream)
+    {
+        using MemoryStream copy = new();
+        stream.CopyTo(copy, 1 << 16);
+        return copy.Length == copy.Capacity ? copy.GetBuffer() : copy.ToArray();
+    }
+
+    private static void VerifyFile(string filePath)
+    {
+        ArgumentNullException.ThrowIfNull(filePath);
+        if (Directory.Exists(filePath))
+        {
+            throw new ImageLoadException($"'{filePath}' is a folder; name a file in it.");
+        }
+
+        if (!File.Exists(filePath))
+        {
+            throw new ImageLoadException($"'{filePath}' does not exist.");
+        }
+    }
+}

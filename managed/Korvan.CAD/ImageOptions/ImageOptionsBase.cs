@@ -1,0 +1,67 @@
+using System;
+using Korvan.CAD.CadExceptions;
+
+namespace Korvan.CAD.ImageOptions;
+
+/// <summary>How an image is written: the base of the option classes of all output formats.</summary>
+public abstract class ImageOptionsBase : DisposableObject
+{
+    private int _timeout;
+
+    internal ImageOptionsBase(FileFormat targetFormat)
+    {
+        TargetFormat = targetFormat;
+    }
+
+    /// <summary>Gets the format that these options write.</summary>
+    public FileFormat TargetFormat { get; }
+
+    /// <summary>Gets or sets how the drawing is put into the output. Only
+    /// <see cref="CadOutputMode.Render"/> is written so far.</summary>
+    public CadOutputMode OutputMode { get; set; } = CadOutputMode.Render;
+
+    /// <summary>Gets or sets the names of the layers to draw; empty for all. Upper and lower case are the
+    /// same.</summary>
+    public string[] Layers { get; set; } = [];
+
+    /// <summary>Gets or sets the resolution of the output, for formats that have one; nothing for the default of the
+    /// format.</summary>
+    public ResolutionSetting? ResolutionSettings { get; set; }
+
+    /// <summary>Gets or sets how a vector drawing is drawn; nothing for the defaults of
+    /// <see cref="CadRasterizationOptions"/>.</summary>
+    public VectorRasterizationOptions? VectorRasterizationOptions { get; set; }
+
+    /// <summary>Gets or sets after how many milliseconds the export gives up with
+    /// <see cref="OperationInterruptedException"/>; 0 for never.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is negative.</exception>
+    public int Timeout
+    {
+        get => _timeout;
+        set
+        {
+            ArgumentOutOfRangeException.ThrowIfNegative(value);
+            _timeout = value;
+        }
+    }
+
+    /// <summary>Gets or sets a text that is drawn across every page; empty for none.</summary>
+    public string UserWatermarkText { get; set; } = "";
+
+    /// <summary>Gets or sets the colour of <see cref="UserWatermarkText"/>.</summary>
+    public Color UserWatermarkColor { get; set; } = Color.FromArgb(64, Color.Gray);
+
+    /// <summary>Raises an error for the first option that is set and that the output would not honour.</summary>
+    internal virtual void VerifyHonoured()
+    {
+        if (OutputMode != CadOutputMode.Render)
+        {
+            throw NotHonoured(nameof(OutputMode), "leave it at Render");
+        }
+    }
+
+    private protected ImageSaveException NotHonoured(string option, string advice)
+    {
+        return new ImageSaveException($"{GetType().Name}.{option} cannot be honoured in this output; {advice}.");
+    }
+}

@@ -1,0 +1,34 @@
+using System.Collections.Generic;
+
+namespace Korvan.CAD;
+
+/// <summary>How a file or stream is read.</summary>
+public class LoadOptions
+{
+    /// <summary>Creates options with their defaults.</summary>
+    public LoadOptions()
+    {
+    }
+
+    /// <summary>Gets the folders that hold fonts of the drawing. Empty by default.</summary>
+    public List<string> CustomFontFolders { get; } = [];
+
+    /// <summary>Gets or sets the order in which <see cref="CustomFontFolders"/> and the fonts of the system are
+    /// searched.</summary>
+    public CustomFontFolderOptions CustomFontFolderOptions { get; set; }
+
+    /// <summary>Gets or sets the code page that texts are read in. <see cref="CodePages.Default"/> takes the one
+    /// that the drawing states; other values help with drawings that state a wrong one.</summary>
+    public CodePages SpecifiedEncoding { get; set; }
+
+    /// <summary>Gets or sets whether disposing the image also closes the stream it was read from. A stream that the
+    /// caller opened stays open by default.</summary>
+    public bool UnloadOnDispose { get; set; }
+
+    /// <summary>Gets or sets whether reading goes on after damage in one object: the object is left out, what
+    /// was wrong is added to <see cref="Errors"/>. By default damage ends the load.</summary>
+    public bool IgnoreErrors { get; set; }
+
+    /// <summary>Gets what was wrong with the file, one message for each object left out.</summary>
+    public List<string> Errors { get; } = [];
+}

@@ -1,0 +1,89 @@
+using System;
+
+namespace Korvan.CAD;
+
+/// <summary>A rectangle with sides along the axes; Y grows downwards.</summary>
+public struct Rectangle : IEquatable<Rectangle>
+{
+    /// <summary>Creates a rectangle from its corner and its sides.</summary>
+    /// <param name="x">The left side.</param>
+    /// <param name="y">The upper side.</param>
+    /// <param name="width">The width.</param>
+    /// <param name="height">The height.</param>
+    public Rectangle(int x, int y, int width, int height)
+    {
+        X = x;
+        Y = y;
+        Width = width;
+        Height = height;
+    }
+
+    /// <summary>Creates a rectangle from its corner and its size.</summary>
+    /// <param name="location">The upper left corner.</param>
+    /// <param name="size">Width and height.</param>
+    public Rectangle(Point location, Size size)
+        : this(location.X, location.Y, size.Width, size.Height)
+    {
+    }
+
+    /// <summary>Gets the rectangle without size at the origin.</summary>
+    public static Rectangle Empty => default;
+
+    /// <summary>Gets or sets the left side.</summary>
+    public int X { get; set; }
+
+    /// <summary>Gets or sets the upper side.</summary>
+    public int Y { get; set; }
+
+    /// <summary>Gets or sets the width.</summary>
+    public int Width { get; set; }
+
+    /// <summary>Gets or sets the height.</summary>
+    public int Height { get; set; }
+
+    /// <summary>Gets the left side.</summary>
+    public readonly int Left => X;
+
+    /// <summary>Gets the upper side.</summary>
+    public readonly int Top => Y;
+
+    /// <summary>Gets the right side.</summary>
+    public readonly int Right => X + Width;
+
+    /// <summary>Gets the lower side.</summary>
+    public readonly int Bottom => Y + Height;
+
+    /// <summary>Gets the upper left corner.</summary>
+    public readonly Point Location => new(X, Y);
+
+    /// <summary>Gets width and height.</summary>
+    public readonly Size Size => new(Width, Height);
+
+    /// <summary>Gets whether position and size are zero.</summary>
+    public readonly bool IsEmpty => X == 0 && Y == 0 && Width == 0 && Height == 0;
+
+    /// <summary>Compares two rectangles part by part.</summary>
+    public static bool operator ==(Rectangle left, Rectangle right) => left.Equals(right);
+
+    /// <summary>Compares two rectangles part by part.</summary>
+    public static bool operator !=(Rectangle left, Rectangle right) => !left.Equals(right);
+
+    /// <summary>Tells whether position and size are the same.</summary>
+    /// <param name="other">The rectangle to compare with.</param>
+    public readonly bool Equals(Rectangle other)
+    {
+        return X == other.X && Y == other.Y && Width == other.Width && Height == other.Height;
+    }
+
+    /// <inheritdoc/>
+    public override readonly bool Equals(object? obj) => obj is Rectangle other && Equals(other);
+
+    /// <inheritdoc/>
+    public override readonly int GetHashCode() => HashCode.Combine(X, Y, Width, Height);
+
+    /// <inheritdoc/>
+    public override readonly string ToString()
+    {
+        return FormattableString.Invariant($"Rectangle({X}, {Y}, {Width}, {Height})");
+    }
+}

@@ -1,0 +1,20 @@
+using System.IO;
+
+namespace Korvan.CAD.Sources;
+
+/// <summary>A file that is created anew; what stood there before is lost.</summary>
+public class FileCreateSource : FileSource
+{
+    /// <summary>Creates the source; the file is created when it is asked for.</summary>
+    /// <param name="filePath">The path of the file.</param>
+    public FileCreateSource(string filePath)
+        : base(filePath)
+    {
+    }
+
+    /// <inheritdoc/>
+    public override StreamContainer GetStreamContainer()
+    {
+        return new FileStreamContainer(FilePath, FileMode.Create, FileAccess.ReadWrite);
+    }
+}

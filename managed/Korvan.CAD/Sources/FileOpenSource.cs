@@ -1,0 +1,20 @@
+using System.IO;
+
+namespace Korvan.CAD.Sources;
+
+/// <summary>A file that exists, opened for reading.</summary>
+public class FileOpenSource : FileSource
+{
+    /// <summary>Creates the source; the file is opened when it is asked for.</summary>
+    /// <param name="filePath">The path of the file.</param>
+    public FileOpenSource(string filePath)
+        : base(filePath)
+    {
+    }
+
+    /// <inheritdoc/>
+    public override StreamContainer GetStreamContainer()
+    {
+        return new FileStreamContainer(FilePath, FileMode.Open, FileAccess.Read);
+    }
+}

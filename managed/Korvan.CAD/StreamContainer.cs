@@ -1,0 +1,82 @@
+using System;
+using System.IO;
+
+namespace Korvan.CAD;
+
+/// <summary>A stream together with the question of who closes it.</summary>
+public class StreamContainer : DisposableObject
+{
+    /// <summary>Creates a container that leaves the stream open.</summary>
+    /// <param name="stream">The stream to hold.</param>
+    public StreamContainer(Stream stream)
+        : this(stream, false)
+    {
+    }
+
+    /// <summary>Creates a container.</summary>
+    /// <param name="stream">The stream to hold.</param>
+    /// <param name="disposeStream">Whether disposing the container closes the stream.</param>
+    public StreamContainer(Stream stream, bool disposeStream)
+    {
+        ArgumentNullException.ThrowIfNull(stream);
+        Stream = stream;
+        IsStreamDisposedOnClose = disposeStream;
+    }
+
+    /// <summary>Gets the stream.</summary>
+    public Stream Stream { get; }
+
+    /// <summary>Gets whether disposing the container closes the stream.</summary>
+    public bool IsStreamDisposedOnClose { get; }
+
+    /// <summary>Gets whether the stream can be read.</summary>
+    public bool CanRead => Stream.CanRead;
+
+    /// <summary>Gets whether the stream can be written.</summary>
+    public bool CanWrite => Stream.CanWrite;
+
+    /// <summary>Gets whether the stream has a position that can be set.</summary>
+    public bool CanSeek => Stream.CanSeek;
+
+    /// <summary>Gets the length in bytes.</summary>
+    public long Length => Stream.Length;
+
+    /// <summary>Gets or sets the place of the next read or write, in bytes from the start.</summary>
+    public long Position
+    {
+        get => Stream.Position;
+        set => Stream.Position = value;
+    }
+
+    /// <summary>Passes buffered bytes on.</summary>
+    public void Flush() => Stream.Flush();
+
+    /// <summary>Gives the whole content from the start; the position of a stream that can seek is kept.</summary>
+    public byte[] ToBytes()
+    {
+        VerifyNotDisposed();
+        long position = CanSeek ? Stream.Position : 0;
+        if (CanSeek)
+        {
+            Stream.Position = 0;
+        }
+
+        using MemoryStream copy = new();
+        Stream.CopyTo(copy);
+        if (CanSeek)
+        {
+            Stream.Position = position;
+        }
+
+        return copy.ToArray();
+    }
+
+    /// <inheritdoc/>
+    internal override void ReleaseManagedResources()
+    {
+        if (IsStreamDisposedOnClose)
+        {
+            Stream.Dispose();
+        }
+    }
+}
