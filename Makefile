@@ -1,0 +1,62 @@
+# Thin doors to CMake and dotnet. Everything that is built lands in build/.
+#
+#   make            build the package
+#   make demo       convert examples/drawings into build/demo
+#   make test       everything there is, under ctest
+#   make bench      measurements beside hand-written baselines
+#   make wheel      the package as a wheel, in build/dist
+#   make format     put the sources into the house format
+#   make lint       the format and clang-tidy's opinion
+#   make clean      forget what was built
+#
+# PYTHON=<path> names the CPython 3.12 to build for; else it is looked for on the path, then in pyenv.
+
+PRESET ?= release
+BUILD := build/$(PRESET)
+# MSBuild leaves servers behind that outlive the build and hold its pipes open.
+export MSBUILDDISABLENODEREUSE := 1
+export DOTNET_CLI_TELEMETRY_OPTOUT := 1
+export DOTNET_NOLOGO := 1
+
+.PHONY: build demo test bench wheel format lint clean packages
+
+build: packages $(BUILD)/build.ninja
+	@cmake --build --preset $(PRESET)
+
+packages:
+	@tools/ensure-packages.sh build run
+
+$(BUILD)/build.ninja: CMakePresets.json | packages
+	@tools/check-dotnet.sh
+	@python=$$(tools/find-python.sh) && cmake --preset $(PRESET) -DPython_EXECUTABLE="$$python"
+
+demo: build
+	@build/python examples/convert.py
+
+test: test_packages build
+	@ctest --preset $(PRESET)
+
+bench: bench_packages build
+	@cmake --build --preset $(PRESET) --target bench_modules
+	@build/python bench/run.py --modules $(BUILD)/bench
+
+wheel: build
+	@build/python tools/make_wheel.py --package $(BUILD)/package --out build/dist
+
+.PHONY: test_packages bench_packages lint_packages
+test_packages:
+	@tools/ensure-packages.sh test
+bench_packages:
+	@tools/ensure-packages.sh bench
+lint_packages:
+	@tools/ensure-packages.sh lint
+
+format: lint_packages
+	@tools/format.sh
+
+lint: lint_packages $(BUILD)/build.ninja
+	@tools/format.sh --check
+	@tools/lint.sh $(BUILD)
+
+clean:
+	@rm -rf build
