@@ -2,6 +2,7 @@
 #include "bindings/modules.h"
 #include "cad/dependencies.h"
 #include "cad/packaging_hook.h"
+#include "module/family.h"
 #include "module/version_attributes.h"
 #include "runtime/callbacks.h"
 #include "runtime/failures.h"
@@ -43,7 +44,7 @@ PyMODINIT_FUNC PyInit_cad() {
     if (wrpPyl_ciap_821C260C_cad() < 0) {
         return fail(load_error::linked_modules);
     }
-    if (import_pygc() < 0) {
+    if (!import_pygc("korvan.cad")) {
         return fail(load_error::pygc);
     }
     // A host that can't start ends the process: nothing usable could be left behind.
