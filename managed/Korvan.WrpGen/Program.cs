@@ -2,6 +2,7 @@ using System;
 using System.IO;
 using System.Linq;
 using Korvan.WrpGen.Emit;
+using Korvan.WrpGen.Emit.Cpp;
 using Korvan.WrpGen.Emit.CSharp;
 using Korvan.WrpGen.Model;
 using Korvan.WrpGen.Reading;
@@ -28,7 +29,8 @@ internal static class Program
     {
         BindingModel model = LibraryReader.Read(options.Assembly, options.Xml, options.Root, options.Interop);
         int changed =
-            Write(options.CSharp, folder => CSharpEmitter.Write(model, folder));
+            Write(options.CSharp, folder => CSharpEmitter.Write(model, folder)) +
+            Write(options.Cpp, folder => CppEmitter.Write(model, folder));
         if (options.Report is { } report)
         {
             File.WriteAllLines(report, model.LeftOut.Select(one => $"{one.Member}: {one.Reason}"));
