@@ -1,15 +1,101 @@
+using System;
+using System.Collections.Generic;
 using System.IO;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.Scene;
+using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering;
 
-/// <summary>Draws a drawing into a page format.</summary>
+/// <summary>Writes a drawing as pages or pixels. Every failure is an <see cref="ImageSaveException"/> that says why.</summary>
 internal static class DrawingExporter
 {
+    private const double PointsPerInch = 72;
+    private const double PixelsPerInch = 96;
+
     internal static void Export(CadImage image, ImageOptionsBase options, Stream output)
     {
-        throw new ImageSaveException($"No exporter is built in for {options.GetType().Name}.");
+        ArgumentNullException.ThrowIfNull(image);
+        ArgumentNullException.ThrowIfNull(options);
+        ArgumentNullException.ThrowIfNull(output);
+        Guard(() =>
+        {
+            switch (options)
+            {
+                case PdfOptions pdf:
+                    WritePdf(image, pdf, output);
+                    break;
+                case SvgOptions:
+                    WriteSvg(image, options, output);
+                    break;
+                case PngOptions png:
+                    WritePng(image, png, output);
+                    break;
+                default:
+                    throw new RenderException($"Drawings are not rendered to {options.TargetFormat}.");
+            }
+        });
+    }
+
+    /// <summary>The pixels of the one page that the options ask for, for formats that have their own encoder.</summary>
+    internal static RasterPage Rasterize(CadImage image, ImageOptionsBase options)
+    {
+        RasterPage? result = null;
+        Guard(() => result = RasterizeSingle(image, options));
+        return result!;
+    }
+
+    private static void WritePdf(CadImage image, PdfOptions options, Stream output)
+    {
+        using var engine = new TextEngine();
+        var pages = new PageSource(image, options, engine, DeviceKind.Points, PointsPerInch);
+        DocumentInfo info = DocumentInfoReader.Read(image, options);
+        VectorDocument.WritePdf(output, engine, pages.Pages(), info);
+    }
+
+    private static void WriteSvg(CadImage image, ImageOptionsBase options, Stream output)
+    {
+        using var engine = new TextEngine();
+        var pages = new PageSource(image, options, engine, DeviceKind.UserUnits, PixelsPerInch);
+        VectorDocument.WriteSvg(output, engine, pages.SinglePage());
+    }
+
+    private static void WritePng(CadImage image, PngOptions options, Stream output)
+    {
+        using RasterPage page = RasterizeSingle(image, options);
+        PngEncoder.Write(page, output, options.CompressionLevel, Resolution(options));
+    }
+
+    private static RasterPage RasterizeSingle(CadImage image, ImageOptionsBase options)
+    {
+        using var engine = new TextEngine();
+        var pages = new PageSource(image, options, engine, DeviceKind.Pixels, Resolution(options));
+        return RasterPage.Render(engine, pages.SinglePage());
+    }
+
+    private static double Resolution(ImageOptionsBase options) =>
+        options.ResolutionSettings is { HorizontalResolution: > 0 } set ? set.HorizontalResolution : PixelsPerInch;
+
+    private static void Guard(Action export)
+    {
+        try
+        {
+            export();
+        }
+        catch (RenderException e)
+        {
+            throw new ImageSaveException(e.Message, e.InnerException);
+        }
+        catch (IOException e)
+        {
+            throw new ImageSaveException(e.Message, e);
+        }
+        catch (OutOfMemoryException e)
+        {
+            throw new ImageSaveException("The drawing needs more memory than there is to be rendered.", e);
+        }
     }
 }

@@ -41,7 +41,17 @@ internal sealed unsafe class CairoPainter
         scale = Math.Sqrt(Math.Abs(map.Determinant));
     }
 
-    internal static void Paint(nint cr, TextEngine engine, DrawingList list, in PaintSettings settings)
+    /// <summary>Paints a page with its background and what lies over it.</summary>
+    internal static void Paint(nint cr, TextEngine engine, Page page)
+    {
+        Paint(cr, engine, page.List, page.Settings);
+        if (page.Overlay != null)
+        {
+            Paint(cr, engine, page.Overlay, page.Settings with { ToDevice = Affine2.Identity, PaintBackground = false, Clip = null });
+        }
+    }
+
+    private static void Paint(nint cr, TextEngine engine, DrawingList list, in PaintSettings settings)
     {
         var painter = new CairoPainter(cr, engine, list, settings);
         Cairo.Save(cr);
@@ -63,7 +73,15 @@ internal sealed unsafe class CairoPainter
             Cairo.Paint(cr);
         }
 
-        Cairo.SetLineCap(cr, CairoLineCap.Round);
+        if (settings.Clip is Bounds2 clip)
+        {
+            Vec2 a = map.Point(clip.MinX, clip.MinY);
+            Vec2 b = map.Point(clip.MaxX, clip.MaxY);
+            Cairo.Rectangle(cr, Math.Min(a.X, b.X), Math.Min(a.Y, b.Y), Math.Abs(b.X - a.X), Math.Abs(b.Y - a.Y));
+            Cairo.Clip(cr);
+        }
+
+        Cairo.SetLineCap(cr, (CairoLineCap)settings.Caps);
         Cairo.SetLineJoin(cr, CairoLineJoin.Round);
         if (settings.Sharp)
         {

@@ -3,7 +3,11 @@ using Korvan.CAD.Rendering.DisplayList;
 namespace Korvan.CAD.Rendering.Devices;
 
 /// <summary>One page ready for a document: its size in device units and what is painted on it.</summary>
-internal sealed record Page(string Name, double Width, double Height, DrawingList List, PaintSettings Settings);
+internal sealed record Page(string Name, double Width, double Height, DrawingList List, PaintSettings Settings)
+{
+    /// <summary>What is drawn over the page, in device units.</summary>
+    internal DrawingList? Overlay { get; init; }
+}
 
 /// <summary>What a document says of itself.</summary>
 internal readonly record struct DocumentInfo(string? Title, string? Author, string? Subject, string? Keywords)

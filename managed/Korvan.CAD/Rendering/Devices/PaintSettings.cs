@@ -3,6 +3,14 @@ using Korvan.CAD.Rendering.Geometry;
 
 namespace Korvan.CAD.Rendering.Devices;
 
+/// <summary>How open lines end.</summary>
+internal enum LineCaps
+{
+    Butt = 0,
+    Round = 1,
+    Square = 2,
+}
+
 /// <summary>How one list is put on one surface.</summary>
 internal readonly record struct PaintSettings
 {
@@ -24,4 +32,9 @@ internal readonly record struct PaintSettings
 
     /// <summary>Shapes and text without grey edges.</summary>
     internal bool Sharp { get; init; }
+
+    internal LineCaps Caps { get; init; }
+
+    /// <summary>The part of the drawing that may show, in drawing units; null for all of it.</summary>
+    internal Bounds2? Clip { get; init; }
 }

@@ -1,5 +1,4 @@
 using System;
-using System.IO;
 using Korvan.CAD.Rendering.Native;
 using Korvan.CAD.Rendering.Text;
 
@@ -54,7 +53,7 @@ internal sealed unsafe class RasterPage : IDisposable
         nint cr = Cairo.Create(raster.surface);
         try
         {
-            CairoPainter.Paint(cr, engine, page.List, page.Settings);
+            CairoPainter.Paint(cr, engine, page);
             Cairo.SurfaceFlush(raster.surface);
             return raster;
         }
@@ -87,14 +86,6 @@ internal sealed unsafe class RasterPage : IDisposable
         }
 
         return pixels;
-    }
-
-    internal void WritePng(Stream output)
-    {
-        using var sink = new StreamSink(output);
-        int status = Cairo.SurfaceWriteToPng(surface, StreamSink.Callback, sink.Closure);
-        sink.Complete();
-        Cairo.Check(status, "writing a PNG picture");
     }
 
     public void Dispose()

@@ -32,7 +32,7 @@ internal static unsafe class VectorDocument
                 }
 
                 Cairo.PdfSurfaceSetPageLabel(surface, page.Name);
-                CairoPainter.Paint(cr, engine, page.List, page.Settings);
+                CairoPainter.Paint(cr, engine, page);
                 Cairo.ShowPage(cr);
                 sink.Rethrow();
                 Cairo.Check(Cairo.Status(cr), $"writing the page \"{page.Name}\"");
@@ -54,7 +54,7 @@ internal static unsafe class VectorDocument
         try
         {
             Cairo.SvgSurfaceSetDocumentUnit(surface, SvgUnitPixel);
-            CairoPainter.Paint(cr, engine, page.List, page.Settings);
+            CairoPainter.Paint(cr, engine, page);
             Cairo.ShowPage(cr);
             Finish(surface, sink, "SVG");
         }

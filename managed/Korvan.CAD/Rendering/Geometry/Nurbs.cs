@@ -64,6 +64,8 @@ internal sealed class Nurbs
         return curve.Last > curve.First ? curve : null;
     }
 
+    internal Vec3 Start => At(First);
+
     internal Vec3 At(double t) => Evaluate(t, out _);
 
     /// <summary>Draws the whole curve; <paramref name="tolerance"/> is in the curve's own units.</summary>

@@ -101,16 +101,35 @@ internal sealed class PathBuffer
         }
     }
 
-    internal void Append(PathBuffer other)
+    /// <summary>Adds another path through a map; its plane lies at the local z <paramref name="elevation"/>.</summary>
+    internal void AppendMapped(PathBuffer other, in Affine3 map, double elevation)
     {
-        Reserve(other.verbCount, other.coordCount);
-        other.Verbs.CopyTo(verbs.AsSpan(verbCount));
-        other.Coords.CopyTo(coords.AsSpan(coordCount));
-        verbCount += other.verbCount;
-        coordCount += other.coordCount;
-        current = other.current;
-        start = other.start;
-        bounds.Add(other.bounds);
+        ReadOnlySpan<double> c = other.Coords;
+        int at = 0;
+        foreach (PathVerb verb in other.Verbs)
+        {
+            switch (verb)
+            {
+                case PathVerb.Move:
+                    MoveTo(map.Project(c[at], c[at + 1], elevation));
+                    at += 2;
+                    break;
+                case PathVerb.Line:
+                    LineTo(map.Project(c[at], c[at + 1], elevation));
+                    at += 2;
+                    break;
+                case PathVerb.Curve:
+                    CurveTo(
+                        map.Project(c[at], c[at + 1], elevation),
+                        map.Project(c[at + 2], c[at + 3], elevation),
+                        map.Project(c[at + 4], c[at + 5], elevation));
+                    at += 6;
+                    break;
+                default:
+                    Close();
+                    break;
+            }
+        }
     }
 
     private void Put(Vec2 p)

@@ -16,6 +16,9 @@ internal enum HatchStyle
     Ignore = 2,
 }
 
+/// <summary>Where the plane of a hatch lies: the map to the page, and the hatch's own z.</summary>
+internal readonly record struct HatchPlane(Affine3 Map, double Elevation);
+
 /// <summary>One closed loop of a boundary, with its curves and flattened.</summary>
 internal sealed class HatchLoop
 {

@@ -172,6 +172,9 @@ internal static unsafe partial class Cairo
     internal static partial nint PdfSurfaceCreate(
         delegate* unmanaged[Cdecl]<nint, byte*, uint, int> write, nint closure, double width, double height);
 
+    [LibraryImport(Library, EntryPoint = "cairo_pdf_surface_restrict_to_version")]
+    internal static partial void PdfSurfaceRestrictToVersion(nint surface, int version);
+
     [LibraryImport(Library, EntryPoint = "cairo_pdf_surface_set_size")]
     internal static partial void PdfSurfaceSetSize(nint surface, double width, double height);
 
@@ -187,10 +190,6 @@ internal static unsafe partial class Cairo
 
     [LibraryImport(Library, EntryPoint = "cairo_svg_surface_set_document_unit")]
     internal static partial void SvgSurfaceSetDocumentUnit(nint surface, int unit);
-
-    [LibraryImport(Library, EntryPoint = "cairo_surface_write_to_png_stream")]
-    internal static partial int SurfaceWriteToPng(
-        nint surface, delegate* unmanaged[Cdecl]<nint, byte*, uint, int> write, nint closure);
 
     [LibraryImport(Library, EntryPoint = "cairo_font_options_create")]
     internal static partial nint FontOptionsCreate();

@@ -80,12 +80,13 @@ internal sealed class Canvas
 
     internal void Fill(in Pen pen, bool evenOdd) => List.Fill(Path, pen.Color, pen.Layer, evenOdd);
 
-    internal void FillLoops(List<HatchLoop> loops, in Pen pen, Gradient? gradient)
+    /// <summary>Fills loops that are given in their own plane.</summary>
+    internal void FillLoops(List<HatchLoop> loops, in HatchPlane plane, in Pen pen, Gradient? gradient)
     {
         PathBuffer path = NewPath();
         foreach (HatchLoop loop in loops)
         {
-            path.Append(loop.Path);
+            path.AppendMapped(loop.Path, plane.Map, plane.Elevation);
             path.Close();
         }
 
@@ -93,7 +94,7 @@ internal sealed class Canvas
     }
 
     /// <summary>Draws a pattern in the loops, or a tint of a quarter of the colour where it is too dense for lines.</summary>
-    internal void FillPattern(List<HatchLoop> loops, IReadOnlyList<HatchLine> lines, in Pen pen)
+    internal void FillPattern(List<HatchLoop> loops, IReadOnlyList<HatchLine> lines, in HatchPlane plane, in Pen pen)
     {
         var rings = new List<Vec2[]>(loops.Count);
         foreach (HatchLoop loop in loops)
@@ -101,16 +102,18 @@ internal sealed class Canvas
             rings.Add(loop.Ring);
         }
 
-        PathBuffer path = NewPath();
-        if (PatternFill.TryFill(rings, lines, path))
+        var local = new PathBuffer();
+        if (PatternFill.TryFill(rings, lines, local))
         {
+            PathBuffer path = NewPath();
+            path.AppendMapped(local, plane.Map, plane.Elevation);
             List.Stroke(path, new StrokeStyle { Color = pen.Color, LineWeight = pen.LineWeight, Dash = -1, Layer = pen.Layer });
             return;
         }
 
         Pen tint = pen;
         tint.Color = pen.Color.WithAlpha((byte)(pen.Color.A / 4));
-        FillLoops(loops, tint, null);
+        FillLoops(loops, plane, tint, null);
     }
 
     /// <summary>One run at a place: the matrix maps the run's ems to the page.</summary>

@@ -50,7 +50,7 @@ internal sealed class LinePattern
             else if (lengths.Count == 0)
             {
                 // A pattern that opens with a gap: the ink of no length would be a dot, so the gap moves to the end.
-                return Create(Rotate(elements), texts);
+                return Create(Rotate(elements, out double moved), Moved(texts, moved));
             }
             else
             {
@@ -68,13 +68,17 @@ internal sealed class LinePattern
         return lengths.Count >= 2 && pattern.Period > 0 ? pattern : null;
     }
 
-    private static List<double> Rotate(IReadOnlyList<double> elements)
+    private static PatternText[]? Moved(PatternText[]? texts, double by) =>
+        texts == null ? null : Array.ConvertAll(texts, t => t with { At = t.At - by });
+
+    private static List<double> Rotate(IReadOnlyList<double> elements, out double moved)
     {
         var rotated = new List<double>(elements.Count);
         int first = 0;
+        moved = 0;
         while (first < elements.Count && elements[first] < 0)
         {
-            first++;
+            moved -= elements[first++];
         }
 
         for (int i = 0; first < elements.Count && i < elements.Count; i++)

@@ -1,0 +1,42 @@
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Geometry;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>What entities of a block inherit from the reference that draws it.</summary>
+internal sealed record BlockContext
+{
+    /// <summary>From the block's coordinates to the page.</summary>
+    internal required Affine3 Map { get; init; }
+
+    internal BlockContext? Parent { get; init; }
+
+    internal string BlockName { get; init; } = string.Empty;
+
+    internal int Depth { get; init; }
+
+    /// <summary>The layer that stands in for layer 0 inside of blocks.</summary>
+    internal LayerInfo? Layer { get; init; }
+
+    /// <summary>The reference's own pen, for everything that is "by block".</summary>
+    internal Pen ByBlock { get; init; }
+
+    /// <summary>Set inside of a viewport: layers frozen there.</summary>
+    internal ViewportScope? Viewport { get; init; }
+
+    internal bool IsInside(string block)
+    {
+        for (BlockContext? c = this; c != null; c = c.Parent)
+        {
+            if (string.Equals(c.BlockName, block, System.StringComparison.OrdinalIgnoreCase))
+            {
+                return true;
+            }
+        }
+
+        return false;
+    }
+}
+
+/// <summary>What a viewport changes for the model that it shows.</summary>
+internal sealed record ViewportScope(System.Collections.Generic.IReadOnlySet<string> FrozenLayers, double PatternScale);

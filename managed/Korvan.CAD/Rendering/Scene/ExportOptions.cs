@@ -1,0 +1,157 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Geometry;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>The public options, brought into the terms of scene and page.</summary>
+internal sealed class ExportOptions
+{
+    private const double MillimetresPerInch = 25.4;
+    private const double UsualPageMillimetres = 420;
+    private const double UsualPixels = 1600;
+    private const double UsualBorderShare = 0.02;
+
+    private readonly ImageOptionsBase options;
+    private readonly VectorRasterizationOptions? vector;
+    private readonly CadRasterizationOptions? cad;
+    private readonly DeviceKind device;
+    private readonly double unitsPerInch;
+
+    internal ExportOptions(ImageOptionsBase options, DeviceKind device, double unitsPerInch)
+    {
+        this.options = options;
+        this.device = device;
+        this.unitsPerInch = unitsPerInch;
+        vector = options.VectorRasterizationOptions;
+        cad = vector as CadRasterizationOptions;
+    }
+
+    internal IReadOnlyList<string> Layouts => cad?.Layouts ?? [];
+
+    internal bool FitEachLayout => cad?.AutomaticLayoutsScaling ?? true;
+
+    internal bool WholeLayoutContent => cad?.ExportAllLayoutContent ?? false;
+
+    internal bool AsBitmap => vector?.ContentAsBitmap ?? false;
+
+    internal Rgba Background => vector == null ? Rgba.White : ToRgba(vector.BackgroundColor);
+
+    /// <summary>Paper is white of itself; pixels have to be painted.</summary>
+    internal bool PaintBackground => device == DeviceKind.Pixels || (vector?.EmbedBackground ?? false);
+
+    internal bool Sharp => vector?.GraphicsOptions?.SmoothingMode is SmoothingMode.None or SmoothingMode.HighSpeed
+        || cad?.Quality is { Arc: RasterizationQualityValue.Low, Text: RasterizationQualityValue.Low };
+
+    internal string Watermark => options.UserWatermarkText;
+
+    internal Rgba WatermarkColor => ToRgba(options.UserWatermarkColor);
+
+    internal double UnitsPerMillimetre => unitsPerInch / MillimetresPerInch;
+
+    internal LineCaps Caps => cad?.PenOptions?.StartCap switch
+    {
+        LineCap.Flat => LineCaps.Butt,
+        LineCap.Square => LineCaps.Square,
+        _ => LineCaps.Round,
+    };
+
+    internal RenderStyle Style()
+    {
+        bool single = cad != null && cad.DrawType == CadDrawTypeMode.UseDrawColor;
+        return new RenderStyle
+        {
+            Background = Background,
+            SingleColor = single ? ToRgba(cad!.DrawColor) : null,
+            Layers = LayerFilter(),
+            AsPlotted = cad != null && cad.VisibilityMode == VisibilityMode.AsPrint,
+            LineTypeScale = vector is { LineScale: > 0 } ? vector.LineScale : 1,
+            ModelView = cad?.ObserverPoint is ObserverPoint eye
+                ? ViewTransform.Turned(eye.RotationAngleX, eye.RotationAngleY, eye.RotationAngleZ)
+                : Affine3.Identity,
+            Checkpoint = Deadline(),
+        };
+    }
+
+    internal PageRequest Request()
+    {
+        double unit = UnitScale();
+        double usual = device == DeviceKind.Pixels ? UsualPixels : UsualPageMillimetres * UnitsPerMillimetre;
+        double border = vector == null ? usual * UsualBorderShare : 0;
+        Margins? margins = vector?.Margins;
+        double borderX = border + ((vector?.BorderX ?? 0) * unit);
+        double borderY = border + ((vector?.BorderY ?? 0) * unit);
+        return new PageRequest
+        {
+            Width = (vector?.PageWidth ?? 0) * unit,
+            Height = (vector?.PageHeight ?? 0) * unit,
+            Left = borderX + ((margins?.Left ?? 0) * unit),
+            Right = borderX + ((margins?.Right ?? 0) * unit),
+            Top = borderY + ((margins?.Top ?? 0) * unit),
+            Bottom = borderY + ((margins?.Bottom ?? 0) * unit),
+            Fit = Fit(),
+            UnitScale = unit,
+            Zoom = (cad?.Zoom ?? 1) * (vector is { RelativeScale: > 0 } ? vector.RelativeScale : 1),
+            Shift = vector == null ? default : new Vec2(vector.RelativePosition.X, vector.RelativePosition.Y),
+            UnitsPerMillimetre = UnitsPerMillimetre,
+            UsualSide = usual,
+        };
+    }
+
+    private FitMode Fit()
+    {
+        if (cad == null)
+        {
+            return FitMode.Fill;
+        }
+
+        return cad.NoScaling || cad.ScaleMethod == ScaleType.None
+            ? FitMode.None
+            : cad.ScaleMethod == ScaleType.ShrinkToFit ? FitMode.Shrink : FitMode.Fill;
+    }
+
+    /// <summary>Device units in a unit of the page: rasters count pixels, page formats may state a unit of length.</summary>
+    private double UnitScale()
+    {
+        double? millimetres = device == DeviceKind.Pixels || vector == null ? null : LengthUnits.Millimetres(vector.UnitType);
+        return millimetres is double mm ? mm * UnitsPerMillimetre : 1;
+    }
+
+    private HashSet<string>? LayerFilter()
+    {
+        if (options.Layers.Length == 0 && (cad == null || cad.Layers.Length == 0))
+        {
+            return null;
+        }
+
+        var names = new HashSet<string>(options.Layers, StringComparer.OrdinalIgnoreCase);
+        names.UnionWith(cad?.Layers ?? []);
+        return names;
+    }
+
+    private Action? Deadline()
+    {
+        if (options.Timeout <= 0)
+        {
+            return null;
+        }
+
+        long end = Environment.TickCount64 + options.Timeout;
+        return () =>
+        {
+            if (Environment.TickCount64 > end)
+            {
+                throw new OperationInterruptedException(
+                    $"The export was not done after {options.Timeout} milliseconds, the time that its options allow.");
+            }
+        };
+    }
+
+    private static Rgba ToRgba(Color color) => color.IsEmpty ? new Rgba(255, 255, 255, 0) : new Rgba(color.R, color.G, color.B, color.A);
+}

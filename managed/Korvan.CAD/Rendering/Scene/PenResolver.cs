@@ -1,0 +1,146 @@
+using System;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.Rendering.DisplayList;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>
+/// Settles colour, line weight, line type, transparency and visibility of an entity. Inside of blocks layer 0 stands
+/// for the layer of the reference, and "by block" for the reference's own value; both go on through nested blocks.
+/// </summary>
+internal sealed class PenResolver
+{
+    internal const short ByLayerWeight = -1;
+    internal const short ByBlockWeight = -2;
+    internal const short DefaultWeight = -3;
+    private const float DefaultMillimetres = 0.25f;
+    private const string ByLayer = "BYLAYER";
+    private const string ByBlock = "BYBLOCK";
+    private const int TransparencyByBlock = 0x01000000;
+    private const int TransparencyValue = 0x02000000;
+
+    private readonly SceneTables tables;
+    private readonly RenderStyle style;
+    private readonly DrawingList list;
+    private string? lastLayerName;
+    private LayerInfo? lastLayer;
+
+    internal PenResolver(SceneTables tables, RenderStyle style, DrawingList list)
+    {
+        this.tables = tables;
+        this.style = style;
+        this.list = list;
+    }
+
+    /// <summary>The layer whose properties hold for the entity.</summary>
+    internal LayerInfo LayerOf(CadEntityBase entity, BlockContext context)
+    {
+        string name = entity.LayerName;
+        if (context.Layer != null && name == "0")
+        {
+            return context.Layer;
+        }
+
+        if (!ReferenceEquals(name, lastLayerName))
+        {
+            lastLayer = tables.Layer(name);
+            lastLayerName = name;
+        }
+
+        return lastLayer!;
+    }
+
+    internal bool IsVisible(LayerInfo layer, BlockContext context)
+    {
+        bool shown = !layer.IsOff && !IsFrozen(layer, context) && (layer.IsPlotted || !style.AsPlotted);
+        return shown && (style.Layers == null || style.Layers.Contains(layer.Name));
+    }
+
+    /// <summary>A frozen layer hides the whole of a reference; one that is merely off hides what lies on it.</summary>
+    internal bool IsFrozen(LayerInfo layer, BlockContext context) =>
+        layer.IsFrozen || (context.Viewport != null && context.Viewport.FrozenLayers.Contains(layer.Name));
+
+    internal Pen PenOf(CadEntityBase entity, LayerInfo layer, BlockContext context)
+    {
+        Rgba color = ColorOf(new DrawingColor(entity.ColorId, entity.ColorValue), layer, context);
+        return new Pen
+        {
+            Color = color.WithAlpha(AlphaOf(entity, layer, context)),
+            LineWeight = WeightOf(entity.LineWeight, layer, context),
+            Pattern = PatternOf(entity.LineTypeName, layer, context),
+            PatternScale = PatternScale(entity.LinetypeScale, context),
+            Layer = list.Layer(layer.Name),
+        };
+    }
+
+    internal Rgba ColorOf(DrawingColor color, LayerInfo layer, BlockContext context)
+    {
+        if (style.SingleColor is Rgba single)
+        {
+            return single;
+        }
+
+        if (color.TrueColor >= 0)
+        {
+            return Rgba.FromRgb(color.TrueColor);
+        }
+
+        return color.Index switch
+        {
+            AciPalette.ByLayer when layer.Color.TrueColor >= 0 => Rgba.FromRgb(layer.Color.TrueColor),
+            AciPalette.ByLayer => AciPalette.Color(Math.Abs(layer.Color.Index), style.Background),
+            AciPalette.ByBlock => context.Parent == null ? AciPalette.Color(AciPalette.Contrast, style.Background) : context.ByBlock.Color.WithAlpha(255),
+            _ => AciPalette.Color(Math.Abs(color.Index), style.Background),
+        };
+    }
+
+    internal LinePattern? PatternOf(string name, LayerInfo layer, BlockContext context)
+    {
+        if (name.Equals(ByBlock, StringComparison.OrdinalIgnoreCase))
+        {
+            return context.Parent == null ? null : context.ByBlock.Pattern;
+        }
+
+        string used = name.Length == 0 || name.Equals(ByLayer, StringComparison.OrdinalIgnoreCase) ? layer.LineType : name;
+        return tables.LineTypes.TryGetValue(used, out LinePattern? pattern) ? pattern : null;
+    }
+
+    internal double PatternScale(double entityScale, BlockContext context)
+    {
+        double own = entityScale > 0 ? entityScale : 1;
+        double scale = tables.Settings.LinetypeScale * own * style.LineTypeScale;
+        return context.Viewport == null ? scale : scale * context.Viewport.PatternScale;
+    }
+
+    private float WeightOf(short weight, LayerInfo layer, BlockContext context)
+    {
+        if (!tables.Settings.ShowLineWeights && !style.AsPlotted)
+        {
+            return 0;
+        }
+
+        short used = weight == ByLayerWeight ? layer.LineWeight : weight;
+        if (used == ByBlockWeight)
+        {
+            return context.Parent == null ? DefaultMillimetres : context.ByBlock.LineWeight;
+        }
+
+        return used < 0 ? DefaultMillimetres : used / 100f;
+    }
+
+    private byte AlphaOf(CadEntityBase entity, LayerInfo layer, BlockContext context)
+    {
+        int value = entity.Transparency;
+        if ((value & TransparencyValue) != 0)
+        {
+            return (byte)value;
+        }
+
+        if ((value & TransparencyByBlock) != 0)
+        {
+            return context.Parent == null ? (byte)255 : context.ByBlock.Color.A;
+        }
+
+        return (byte)Math.Round(layer.Opacity * 255);
+    }
+}

@@ -1,0 +1,29 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Geometry;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>The choices of a caller that change what is put into the list.</summary>
+internal sealed record RenderStyle
+{
+    internal Rgba Background { get; init; } = Rgba.White;
+
+    /// <summary>Everything in this colour, or null for the objects' own.</summary>
+    internal Rgba? SingleColor { get; init; }
+
+    /// <summary>Layers to draw; null for all.</summary>
+    internal IReadOnlySet<string>? Layers { get; init; }
+
+    /// <summary>Leaves out layers that are not plotted, and shows line weights whatever the screen does.</summary>
+    internal bool AsPlotted { get; init; }
+
+    internal double LineTypeScale { get; init; } = 1;
+
+    /// <summary>From world coordinates of the model to the plane that is drawn.</summary>
+    internal Affine3 ModelView { get; init; } = Affine3.Identity;
+
+    /// <summary>Called now and then; throws when the time is up.</summary>
+    internal Action? Checkpoint { get; init; }
+}

@@ -1,0 +1,118 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <content>Leaders with their arrow heads and feature control frames.</content>
+internal sealed partial class SceneBuilder
+{
+    private const string CellBreak = "%%v";
+    private const int SplinePath = 1;
+
+    private void DrawLeader(CadLeader leader, in Pen pen, BlockContext context)
+    {
+        if (leader.Coordinates.Count < 2)
+        {
+            return;
+        }
+
+        List<Vec3> points = leader.Coordinates.ConvertAll(V);
+        DimStyleInfo dim = tables.DimStyle(leader.DimensionStyleName);
+        double arrow = dim.ArrowSize * dim.Scale;
+        bool hasArrow = leader.ArrowheadFlag != 0 && arrow > 0 && (points[1] - points[0]).Length > 2 * arrow;
+        Vec3 tip = points[0];
+        Vec3 along = (points[1] - tip).Unit();
+        if (hasArrow && leader.PathType != SplinePath)
+        {
+            points[0] = tip + (along * arrow);
+        }
+
+        var path = new PathPen(canvas.NewPath(), context.Map);
+        if (leader.PathType == SplinePath)
+        {
+            FitSpline.Draw(path, points, null, null, closed: false);
+        }
+        else
+        {
+            points.ForEach(path.LineTo);
+        }
+
+        canvas.Stroke(pen);
+        if (hasArrow)
+        {
+            DrawArrowHead(tip, along, arrow, V(leader.ExtrusionDirection), pen, context);
+        }
+    }
+
+    /// <summary>A closed, filled head that is three times as long as it is wide.</summary>
+    private void DrawArrowHead(Vec3 tip, Vec3 along, double length, Vec3 normal, in Pen pen, BlockContext context)
+    {
+        Vec3 across = Vec3.Cross(normal, along).Unit() * (length / 6);
+        Vec3 foot = tip + (along * length);
+        var path = new PathPen(canvas.NewPath(), context.Map);
+        path.MoveTo(tip);
+        path.LineTo(foot + across);
+        path.LineTo(foot - across);
+        path.Close();
+        canvas.Fill(pen, evenOdd: false);
+    }
+
+    /// <summary>A frame of rows of cells, its left edge centred on the insertion point for the first row.</summary>
+    private void DrawTolerance(CadTolerance tolerance, in Pen pen, BlockContext context)
+    {
+        DimStyleInfo dim = tables.DimStyle(tolerance.DimensionStyleName);
+        double height = (dim.TextHeight > 0 ? dim.TextHeight : tables.Settings.TextSize) * dim.Scale;
+        StyleInfo used = tables.Style(dim.TextStyle);
+        Vec3 normal = V(tolerance.ExtrusionDirection).Unit();
+        Vec3 x = V(tolerance.DirectionVector).Unit();
+        var plane = new Affine3(x, Vec3.Cross(normal, x), normal, V(tolerance.InsertionPoint));
+        Affine3 map = context.Map * plane;
+        double top = height;
+        foreach (string row in tolerance.VisualRepresentation.Replace("^J", "\n").Split('\n'))
+        {
+            if (row.Length > 0)
+            {
+                DrawToleranceRow(row, top, height, used, map, pen);
+                top -= 2 * height;
+            }
+        }
+    }
+
+    private void DrawToleranceRow(string row, double top, double height, StyleInfo used, in Affine3 map, in Pen pen)
+    {
+        var start = new MTextFormat(
+            used.Font, height, used.WidthFactor, 0, 1, default, StackAlign.Baseline, false, false, false, used.IsToleranceFont);
+        double left = 0;
+        double pad = height / 2;
+        foreach (string cell in row.Split(CellBreak))
+        {
+            // Empty cells at the end are compartments that the frame does not have.
+            if (cell.Length == 0)
+            {
+                continue;
+            }
+
+            MTextLayout layout = MTextLayout.Create(canvas.Engine, MTextParser.Parse(cell, start), new MTextFrame(0, 4, 1, true), height);
+            double width = Math.Max(2 * height, layout.Box.Right - layout.Box.Left + (2 * pad));
+            AddBox(map, left, top - (2 * height), left + width, top);
+            canvas.Stroke(pen);
+            double inset = (width - (layout.Box.Right - layout.Box.Left)) / 2;
+            Affine3 at = map * Affine3.Translation(new Vec3(left + inset, top - height, 0));
+            TextPainter.Draw(canvas, layout, at, pen, static _ => default);
+            left += width;
+        }
+    }
+
+    private void AddBox(in Affine3 map, double left, double bottom, double right, double top)
+    {
+        var path = new PathPen(canvas.NewPath(), map);
+        path.MoveTo(new Vec2(left, bottom));
+        path.LineTo(new Vec2(right, bottom));
+        path.LineTo(new Vec2(right, top));
+        path.LineTo(new Vec2(left, top));
+        path.Close();
+    }
+}

@@ -1,0 +1,127 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <content>Sheets of paper and the windows in them that show the model.</content>
+internal sealed partial class SceneBuilder
+{
+    private const int SheetViewport = 1;
+    private const int ViewportOff = 0x20000;
+    private const int ClippedByShape = 0x10000;
+
+    /// <summary>The list of a sheet: first what its viewports show, then what is drawn on the paper itself.</summary>
+    internal static DrawingList BuildLayout(
+        SceneTables tables, RenderStyle style, TextEngine engine, BlockInfo sheet, BlockInfo model)
+    {
+        var builder = new SceneBuilder(tables, style, engine, new DrawingList());
+        var context = new BlockContext { Map = Affine3.Identity };
+        foreach (CadViewport viewport in sheet.Entities.OfType<CadViewport>())
+        {
+            builder.DrawViewport(viewport, sheet, model, context);
+        }
+
+        builder.DrawSpace(sheet, context);
+        builder.FinishInfinite();
+        return builder.List;
+    }
+
+    private void DrawViewport(CadViewport viewport, BlockInfo sheet, BlockInfo model, BlockContext context)
+    {
+        ViewportView view = ViewportView.Read(viewport);
+        bool off = viewport.ViewportStatus == 0 || (viewport.StatusFlags & ViewportOff) != 0;
+        if (viewport.ViewportId == SheetViewport || off || !view.IsUsable || !(viewport.Width > 0 && viewport.Height > 0))
+        {
+            return;
+        }
+
+        LayerInfo layer = pens.LayerOf(viewport, context);
+        Vec2 center = V(viewport.CenterPoint).Xy;
+        Affine3 map = ViewTransform.Viewport(
+            view.Target, view.Direction, view.Twist, view.Center, view.Height, center, viewport.Height);
+        var scope = new ViewportScope(
+            FrozenNames(viewport, view), tables.Settings.PaperLinetypeScale ? 1 : viewport.Height / view.Height);
+        AddViewportOutline(viewport, sheet, context);
+        List.PushClip(canvas.Path, evenOdd: true);
+        DrawSpace(model, new BlockContext { Map = map, Viewport = scope });
+        List.PopClip();
+        if (pens.IsVisible(layer, context))
+        {
+            AddViewportOutline(viewport, sheet, context);
+            canvas.Stroke(pens.PenOf(viewport, layer, context));
+        }
+    }
+
+    private HashSet<string> FrozenNames(CadViewport viewport, ViewportView view)
+    {
+        var names = new HashSet<string>(view.FrozenNames, StringComparer.OrdinalIgnoreCase);
+        if (viewport.FrozenLayers.Count > 0)
+        {
+            var handles = new HashSet<string>(viewport.FrozenLayers, StringComparer.OrdinalIgnoreCase);
+            names.UnionWith(tables.Layers.Values.Where(l => handles.Contains(l.Handle)).Select(l => l.Name));
+        }
+
+        return names;
+    }
+
+    private void AddViewportOutline(CadViewport viewport, BlockInfo sheet, BlockContext context)
+    {
+        canvas.NewPath();
+        if ((viewport.StatusFlags & ClippedByShape) != 0 && viewport.ClippingBoundaryHandle.Length > 0)
+        {
+            CadEntityBase? shape = sheet.Entities.FirstOrDefault(
+                e => string.Equals(e.ObjectHandle, viewport.ClippingBoundaryHandle, StringComparison.OrdinalIgnoreCase));
+            if (shape != null && TryAddShape(shape, context) && !canvas.Path.Bounds.IsEmpty)
+            {
+                return;
+            }
+        }
+
+        Vec2 c = V(viewport.CenterPoint).Xy;
+        canvas.NewPath();
+        AddBox(
+            context.Map,
+            c.X - (viewport.Width / 2),
+            c.Y - (viewport.Height / 2),
+            c.X + (viewport.Width / 2),
+            c.Y + (viewport.Height / 2));
+    }
+
+    /// <summary>Adds the closed outline of an entity that may bound a viewport.</summary>
+    private bool TryAddShape(CadEntityBase shape, BlockContext context)
+    {
+        switch (shape)
+        {
+            case CadLwPolyline polyline:
+                ReadVertices(polyline);
+                var flat = new PathPen(canvas.Path, InObject(context, polyline.ExtrusionDirection), polyline.Elevation);
+                AddVertices(flat, System.Runtime.InteropServices.CollectionsMarshal.AsSpan(vertices), closed: true);
+                return true;
+            case CadPolyline polyline:
+                var corners = polyline.Vertices.ConvertAll(v => V(v.LocationPoint).Xy);
+                AddPolygon(new PathPen(canvas.Path, InObject(context, polyline.ExtrusionDirection)), corners);
+                return true;
+            case CadCircle circle and not CadArc:
+                new PathPen(canvas.Path, InObject(context, circle.ExtrusionDirection)).Circle(V(circle.CenterPoint).Xy, circle.Radius);
+                return true;
+            case CadEllipse ellipse:
+                Vec3 major = V(ellipse.MajorEndPoint);
+                Vec3 minor = Vec3.Cross(V(ellipse.ExtrusionDirection).Unit(), major) * ellipse.AxisRatio;
+                var path = new PathPen(canvas.Path, context.Map);
+                path.MoveTo(V(ellipse.CenterPoint) + major);
+                path.EllipseTo(V(ellipse.CenterPoint), major, minor, 0, 2 * Math.PI);
+                return true;
+            case CadSpline spline:
+                AddSpline(new PathPen(canvas.Path, context.Map), spline);
+                return true;
+            default:
+                return false;
+        }
+    }
+}

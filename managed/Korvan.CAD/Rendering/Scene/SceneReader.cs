@@ -1,0 +1,160 @@
+using System;
+using System.Collections.Generic;
+using System.Globalization;
+using System.Linq;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
+using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.Geometry;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>Makes a scene of a drawing: its tables by name, its blocks, and its layouts with their sheets.</summary>
+internal static class SceneReader
+{
+    private const double MillimetresPerInch = 25.4;
+
+    internal static DrawingScene Read(CadImage image)
+    {
+        var tables = new SceneTables { Settings = Settings(image) };
+        ReadTables(image, tables);
+        Dictionary<ulong, Dictionary<ulong, ulong>> orders = SortTables.Read(image.Objects);
+        var recordHandles = new Dictionary<string, ulong>(StringComparer.OrdinalIgnoreCase);
+        foreach (CadBlockTableObject record in image.BlockRecords)
+        {
+            recordHandles.TryAdd(record.Name, record.Handle);
+        }
+
+        foreach (CadBlockEntity block in image.BlockEntities)
+        {
+            tables.Blocks.TryAdd(block.Name, Block(block, recordHandles, orders));
+        }
+
+        BlockInfo model = Block(image.ModelSpace, recordHandles, orders);
+        return new DrawingScene(tables, model, Layouts(image, tables, model, Block(image.PaperSpace, recordHandles, orders)));
+    }
+
+    private static void ReadTables(CadImage image, SceneTables tables)
+    {
+        var styleNames = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
+        foreach (CadStyleTableObject text in image.Styles)
+        {
+            tables.Styles.TryAdd(text.Name, TableReader.Style(text));
+            styleNames.TryAdd(text.ObjectHandle, text.Name);
+        }
+
+        foreach (CadLayerTable layer in image.Layers)
+        {
+            tables.Layers.TryAdd(layer.Name, TableReader.Layer(layer));
+        }
+
+        foreach (CadLineTypeTableObject type in image.LineTypes)
+        {
+            tables.LineTypes.TryAdd(type.Name, TableReader.LineType(type, styleNames));
+        }
+
+        double overall = image.Header.Contains("$DIMSCALE") ? image.Header.GetDouble("$DIMSCALE") : 1;
+        foreach (CadDimensionStyleTable dim in image.DimensionStyles)
+        {
+            string text = styleNames.TryGetValue(dim.Dimtxsty, out string? name) ? name : image.Header.CurrentTextStyle;
+            tables.DimStyles.TryAdd(dim.Name, TableReader.DimStyle(dim, overall > 0 ? overall : 1, text));
+        }
+
+        foreach (CadMLineStyleObject multi in image.Objects.OfType<CadMLineStyleObject>())
+        {
+            List<MlineElement> elements = multi.Elements.ConvertAll(
+                e => new MlineElement(e.Offset, new DrawingColor(e.ColorId, e.ColorValue), e.LineTypeName));
+            tables.MlineStyles.TryAdd(multi.StyleName, new MlineStyle(elements, multi.Flags, new DrawingColor(multi.FillColorId)));
+        }
+    }
+
+    private static SceneSettings Settings(CadImage image)
+    {
+        CadHeader header = image.Header;
+        CadWipeoutVariables? wipeout = image.Objects.OfType<CadWipeoutVariables>().FirstOrDefault();
+        return new SceneSettings
+        {
+            LinetypeScale = header.LtScale > 0 ? header.LtScale : 1,
+            PaperLinetypeScale = header.PsLtScale != 0,
+            PointMode = header.PdMode,
+            PointSize = header.PdSize,
+            FillMode = header.FillMode != 0 || !header.Contains("$FILLMODE"),
+            AttributeMode = header.Contains("$ATTMODE") ? header.AttMode : 1,
+            ShowLineWeights = header.LwDisplay != 0 || !header.Contains("$LWDISPLAY"),
+            TextSize = header.TextSize > 0 ? header.TextSize : 2.5,
+            WipeoutFrames = wipeout != null && wipeout.DisplayFrame != 0,
+        };
+    }
+
+    private static BlockInfo Block(
+        CadBlockEntity block, Dictionary<string, ulong> recordHandles, Dictionary<ulong, Dictionary<ulong, ulong>> orders)
+    {
+        Dictionary<ulong, ulong>? order = null;
+        if (recordHandles.TryGetValue(block.Name, out ulong handle))
+        {
+            orders.TryGetValue(handle, out order);
+        }
+
+        var origin = new Vec3(block.BasePoint.X, block.BasePoint.Y, block.BasePoint.Z);
+        return new BlockInfo(block.Name, origin, block.Entities) { IsExternal = block.IsExternalReference, DrawOrder = order };
+    }
+
+    private static List<LayoutInfo> Layouts(CadImage image, SceneTables tables, BlockInfo model, BlockInfo paper)
+    {
+        var names = image.BlockRecords.ToLookup(r => r.ObjectHandle, r => r.Name, StringComparer.OrdinalIgnoreCase);
+        var layouts = new List<LayoutInfo>();
+        foreach (CadLayout layout in image.Layouts)
+        {
+            string? block = names[layout.BlockTableRecordHandle].FirstOrDefault();
+            bool isModel = string.Equals(layout.LayoutName, DrawingScene.ModelName, StringComparison.OrdinalIgnoreCase)
+                || string.Equals(block, model.Name, StringComparison.OrdinalIgnoreCase);
+            BlockInfo content = isModel ? model : block != null && tables.Blocks.TryGetValue(block, out BlockInfo? own) ? own : paper;
+            layouts.Add(new LayoutInfo(layout.LayoutName, content, isModel, isModel ? null : Sheet(layout)));
+        }
+
+        if (!layouts.Exists(l => l.IsModel))
+        {
+            layouts.Insert(0, new LayoutInfo(DrawingScene.ModelName, model, true, null));
+        }
+
+        return layouts;
+    }
+
+    /// <summary>
+    /// The rectangle of the paper in layout units. The origin of a layout is the lower left corner of what the
+    /// plotter can print; the paper reaches past it by the margins, and may be turned.
+    /// </summary>
+    private static PaperSheet? Sheet(CadLayout layout)
+    {
+        double width = layout.PaperWidth;
+        double height = layout.PaperHeight;
+        if (!(width > 0 && height > 0) || !double.IsFinite(width + height))
+        {
+            return null;
+        }
+
+        (double left, double bottom) = (layout.LeftMargin, layout.BottomMargin);
+        switch (layout.PlotRotation)
+        {
+            case CadPlotRotation.Counterclockwise90Degrees:
+                (width, height, left, bottom) = (height, width, layout.TopMargin, layout.LeftMargin);
+                break;
+            case CadPlotRotation.UpsideDown:
+                (left, bottom) = (layout.RightMargin, layout.TopMargin);
+                break;
+            case CadPlotRotation.Clockwise90Degrees:
+                (width, height, left, bottom) = (height, width, layout.BottomMargin, layout.RightMargin);
+                break;
+        }
+
+        double unit = layout.PaperUnits == CadPlotPaperUnits.Inches ? 1 / MillimetresPerInch : 1;
+        bool scaled = layout.ScaleNumerator > 0 && layout.ScaleDenominator > 0;
+        double k = unit * (scaled ? layout.ScaleDenominator / layout.ScaleNumerator : 1);
+        double x = (-left - layout.PlotOriginX) * k;
+        double y = (-bottom - layout.PlotOriginY) * k;
+        return new PaperSheet(Bounds2.Of(x, y, x + (width * k), y + (height * k)), width, height);
+    }
+}

@@ -1,0 +1,118 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>A colour as the drawing states it, before blocks, layers and the background have had their say.</summary>
+internal readonly record struct DrawingColor(int Index, int TrueColor = -1);
+
+/// <summary>A layer, reduced to what drawing asks of it.</summary>
+internal sealed record LayerInfo(string Name)
+{
+    internal string Handle { get; init; } = string.Empty;
+
+    internal DrawingColor Color { get; init; } = new(AciPalette.Contrast);
+
+    internal string LineType { get; init; } = string.Empty;
+
+    internal short LineWeight { get; init; } = PenResolver.DefaultWeight;
+
+    internal double Opacity { get; init; } = 1;
+
+    internal bool IsOff { get; init; }
+
+    internal bool IsFrozen { get; init; }
+
+    internal bool IsPlotted { get; init; } = true;
+}
+
+/// <summary>A text style, its font already resolved.</summary>
+internal sealed record StyleInfo(FontSpec Font, double FixedHeight, double WidthFactor, double ObliqueDegrees, bool IsToleranceFont)
+{
+    internal static readonly StyleInfo Default = new(FontSpec.Default, 0, 1, 0, false);
+}
+
+/// <summary>What leaders and tolerance frames take from a dimension style.</summary>
+internal readonly record struct DimStyleInfo(double ArrowSize, double TextHeight, double TextGap, double Scale, string TextStyle)
+{
+    internal static readonly DimStyleInfo Default = new(0.18, 0.18, 0.09, 1, string.Empty);
+}
+
+/// <summary>One line of a multi-line style.</summary>
+internal readonly record struct MlineElement(double Offset, DrawingColor Color, string LineType);
+
+internal sealed record MlineStyle(IReadOnlyList<MlineElement> Elements, int Flags, DrawingColor FillColor);
+
+/// <summary>A block, or the block of a layout.</summary>
+internal sealed record BlockInfo(string Name, Vec3 Base, IReadOnlyList<CadEntityBase> Entities)
+{
+    internal bool IsExternal { get; init; }
+
+    /// <summary>Sort keys by entity handle, where the draw order differs from the order in the file.</summary>
+    internal IReadOnlyDictionary<ulong, ulong>? DrawOrder { get; init; }
+}
+
+/// <summary>The variables of the drawing that change how it looks.</summary>
+internal sealed record SceneSettings
+{
+    internal double LinetypeScale { get; init; } = 1;
+
+    internal bool PaperLinetypeScale { get; init; } = true;
+
+    internal int PointMode { get; init; }
+
+    internal double PointSize { get; init; }
+
+    internal bool FillMode { get; init; } = true;
+
+    /// <summary>0 hides all attributes, 1 respects their own flags, 2 shows all.</summary>
+    internal int AttributeMode { get; init; } = 1;
+
+    internal bool ShowLineWeights { get; init; }
+
+    internal bool ShowSplineFrames { get; init; }
+
+    internal double TextSize { get; init; } = 2.5;
+
+    /// <summary>Whether and how the frames of images and wipeouts show.</summary>
+    internal bool ImageFrames { get; init; } = true;
+
+    internal bool WipeoutFrames { get; init; }
+}
+
+/// <summary>Everything of a drawing that entities refer to by name, ready for lookup.</summary>
+internal sealed class SceneTables
+{
+    internal Dictionary<string, LayerInfo> Layers { get; } = new(StringComparer.OrdinalIgnoreCase);
+
+    internal Dictionary<string, LinePattern?> LineTypes { get; } = new(StringComparer.OrdinalIgnoreCase);
+
+    internal Dictionary<string, StyleInfo> Styles { get; } = new(StringComparer.OrdinalIgnoreCase);
+
+    internal Dictionary<string, DimStyleInfo> DimStyles { get; } = new(StringComparer.OrdinalIgnoreCase);
+
+    internal Dictionary<string, MlineStyle> MlineStyles { get; } = new(StringComparer.OrdinalIgnoreCase);
+
+    internal Dictionary<string, BlockInfo> Blocks { get; } = new(StringComparer.OrdinalIgnoreCase);
+
+    internal SceneSettings Settings { get; set; } = new();
+
+    internal LayerInfo Layer(string name) => Layers.TryGetValue(name, out LayerInfo? layer) ? layer : AddLayer(name);
+
+    internal StyleInfo Style(string name) => Styles.TryGetValue(name, out StyleInfo? style) ? style : StyleInfo.Default;
+
+    internal DimStyleInfo DimStyle(string name) =>
+        DimStyles.TryGetValue(name, out DimStyleInfo style) ? style : DimStyleInfo.Default;
+
+    // Files may name layers that their table lacks; such a layer has the defaults of a new one.
+    private LayerInfo AddLayer(string name)
+    {
+        var layer = new LayerInfo(name);
+        Layers.Add(name, layer);
+        return layer;
+    }
+}

@@ -1,0 +1,232 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using Korvan.CAD.Rendering;
+using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Rendering.Scene;
+using Korvan.CAD.Rendering.Text;
+using Xunit;
+
+namespace Korvan.CAD.Tests.Rendering;
+
+public class DeviceTests
+{
+    private static readonly Rgba Red = new(255, 0, 0);
+    private static readonly Rgba Blue = new(0, 0, 255);
+
+    [Fact]
+    public void Shapes_show_at_their_places_in_their_colours()
+    {
+        var list = new DrawingList();
+        list.Fill(Box(10, 10, 40, 40), Red, 0, evenOdd: false);
+        list.Stroke(Line(0, 80, 100, 80), new StrokeStyle { Color = Blue, LineWeight = 2, Dash = -1 });
+        using RasterPage page = Render(list);
+        Assert.Equal(Red, At(page, 25, 25));
+        Assert.Equal(Blue, At(page, 50, 80));
+        Assert.Equal(Rgba.White, At(page, 50, 60));
+        Assert.Equal(Rgba.White, At(page, 25, 75 - 0)); // the drawing's y runs up, not down
+    }
+
+    [Fact]
+    public void Dashes_leave_gaps_and_tiny_ones_melt()
+    {
+        var list = new DrawingList();
+        list.Stroke(Line(0, 20, 100, 20), new StrokeStyle { Color = Red, LineWeight = 1, Dash = list.Dash([20, 20]) });
+        list.Stroke(Line(0, 60, 100, 60), new StrokeStyle { Color = Red, LineWeight = 1, Dash = list.Dash([0.01, 0.01]) });
+        using RasterPage page = Render(list);
+        Assert.Equal(Red, At(page, 10, 20));
+        Assert.Equal(Rgba.White, At(page, 30, 20));
+        Assert.Equal(Red, At(page, 30, 60));
+    }
+
+    [Fact]
+    public void Clips_hold_until_they_are_popped_and_bound_the_extents()
+    {
+        var list = new DrawingList();
+        list.PushClip(Box(0, 0, 50, 100), evenOdd: true);
+        list.Fill(Box(20, 20, 80, 40), Red, 0, evenOdd: false);
+        list.PopClip();
+        list.Fill(Box(60, 60, 70, 70), Blue, 0, evenOdd: false);
+        Assert.Equal((20.0, 70.0), (list.Bounds.MinX, list.Bounds.MaxX));
+        using RasterPage page = Render(list);
+        Assert.Equal(Red, At(page, 40, 30));
+        Assert.Equal(Rgba.White, At(page, 60, 30));
+        Assert.Equal(Blue, At(page, 65, 65));
+    }
+
+    [Fact]
+    public void Gradients_run_from_one_colour_to_the_other()
+    {
+        var list = new DrawingList();
+        PathBuffer box = Box(0, 0, 100, 100);
+        var gradient = new Gradient(false, 0, 0, new Affine2(50, 0, 0, 50, 50, 50), [new(0, Red), new(1, Blue)]);
+        list.Fill(box, Red, 0, evenOdd: true, gradient);
+        using RasterPage page = Render(list);
+        Assert.True(At(page, 5, 50).R > 230);
+        Assert.True(At(page, 95, 50).B > 230);
+        Assert.InRange(At(page, 50, 50).R, 110, 145);
+    }
+
+    [Fact]
+    public void Paths_that_are_not_finite_are_left_out()
+    {
+        var list = new DrawingList();
+        list.Stroke(Line(0, 0, double.NaN, 5), default);
+        list.Stroke(Line(0, 0, double.PositiveInfinity, 5), default);
+        Assert.True(list.Items.IsEmpty);
+        Assert.True(list.Bounds.IsEmpty);
+    }
+
+    [Fact]
+    public void Text_stands_on_its_baseline_with_capitals_of_the_asked_height()
+    {
+        using var engine = new TextEngine();
+        var list = new DrawingList();
+        var canvas = new Canvas(list, engine);
+        var line = new SingleLine { Text = "HHHH", Font = FontSpec.Default, First = new Vec3(10, 20, 0), Height = 40, WidthFactor = 1 };
+        TextPainter.Draw(canvas, line, Affine3.Identity, new Pen { Color = Rgba.Black });
+        using RasterPage page = Render(list, engine);
+        (int low, int high) = InkRows(page);
+        Assert.InRange(low, 20, 21);
+        Assert.InRange(high, 58, 60);
+    }
+
+    [Theory]
+    [InlineData(HorizontalAlign.Left, 0, 10, 20)]
+    [InlineData(HorizontalAlign.Right, 0, -30, 20)]
+    [InlineData(HorizontalAlign.Fit, 0, 10, 90)] // fills the way between its points
+    [InlineData(HorizontalAlign.Center, 3, -10, 70)]
+    public void Justified_text_is_placed_by_its_points(object align, int vertical, double left, double right)
+    {
+        using var engine = new TextEngine();
+        var list = new DrawingList();
+        int font = engine.Font(FontSpec.Default);
+        double width = engine.Advance(font, "text") * 10 / engine.CapRatio(font);
+        var line = new SingleLine
+        {
+            Text = "text",
+            Font = FontSpec.Default,
+            First = new Vec3(10, 50, 0),
+            Second = new Vec3((HorizontalAlign)align == HorizontalAlign.Fit ? 90 : 10, 50, 0),
+            Height = 10,
+            Horizontal = (HorizontalAlign)align,
+            Vertical = (VerticalAlign)vertical,
+        };
+        TextPainter.Draw(new Canvas(list, engine), line, Affine3.Identity, new Pen { Color = Rgba.Black });
+        double expected = (HorizontalAlign)align switch
+        {
+            HorizontalAlign.Right => 10 - width,
+            HorizontalAlign.Center => 10 - (width / 2),
+            _ => left,
+        };
+        Assert.Equal(expected, list.Bounds.MinX, 6);
+        Assert.Equal((HorizontalAlign)align == HorizontalAlign.Fit ? right : expected + width, list.Bounds.MaxX, 6);
+        Assert.Equal(vertical == 3 ? 40 : 50, list.Bounds.MinY, 6);
+    }
+
+    [Fact]
+    public void Png_is_read_by_others_with_size_resolution_and_transparency()
+    {
+        Tools.Require("identify");
+        var list = new DrawingList();
+        list.Fill(Box(0, 0, 50, 50), Red.WithAlpha(128), 0, evenOdd: false);
+        using RasterPage page = Render(list, null, new Rgba(0, 0, 0, 0));
+        string file = Tools.TempFile(".png");
+        using (FileStream output = File.Create(file))
+        {
+            PngEncoder.Write(page, output, 9, 200);
+        }
+
+        Assert.Equal("100x100 200", Tools.Run("identify", "-units", "PixelsPerInch", "-format", "%wx%h %[fx:round(resolution.x)]", file));
+        Assert.Equal("srgba(255,0,0,0.5", Tools.Run("convert", file, "-format", "%[pixel:p{10,90}]", "info:")[..17]);
+    }
+
+    [Fact]
+    public void Streams_that_fail_bring_their_own_error_back()
+    {
+        using var engine = new TextEngine();
+        var list = new DrawingList();
+        for (int i = 0; i < 20_000; i++)
+        {
+            list.Stroke(Line(i % 97, i % 89, i % 83, i % 79), new StrokeStyle { Color = Red, LineWeight = i % 7, Dash = -1 });
+        }
+
+        var failed = Assert.Throws<IOException>(
+            () => VectorDocument.WritePdf(new FullStream(), engine, [PageOf(list, Rgba.White)], default));
+        Assert.Contains("disk is full", failed.Message);
+    }
+
+    [Theory]
+    [InlineData(100_000, 100)]
+    [InlineData(30_000, 30_000)]
+    [InlineData(0.4, 100)]
+    [InlineData(double.NaN, 100)]
+    public void Pictures_that_memory_cannot_hold_are_refused(double width, double height) =>
+        Assert.NotNull(RasterPage.Refuse(width, height));
+
+    internal static Page PageOf(DrawingList list, Rgba background) => new("test", 100, 100, list, new PaintSettings
+    {
+        ToDevice = new Affine2(1, 0, 0, -1, 0, 100),
+        UnitsPerMillimetre = 4,
+        LineScale = 1,
+        Hairline = 1,
+        Background = background,
+        PaintBackground = background.A > 0,
+        Caps = LineCaps.Butt,
+    });
+
+    private static PathBuffer Box(double x0, double y0, double x1, double y1)
+    {
+        var path = new PathBuffer();
+        path.MoveTo(new Vec2(x0, y0));
+        path.LineTo(new Vec2(x1, y0));
+        path.LineTo(new Vec2(x1, y1));
+        path.LineTo(new Vec2(x0, y1));
+        path.Close();
+        return path;
+    }
+
+    private static PathBuffer Line(double x0, double y0, double x1, double y1)
+    {
+        var path = new PathBuffer();
+        path.MoveTo(new Vec2(x0, y0));
+        path.LineTo(new Vec2(x1, y1));
+        return path;
+    }
+
+    private static RasterPage Render(DrawingList list, TextEngine? shared = null, Rgba? background = null)
+    {
+        using TextEngine? own = shared == null ? new TextEngine() : null;
+        return RasterPage.Render(shared ?? own!, PageOf(list, background ?? Rgba.White));
+    }
+
+    /// <summary>The colour at a place of the drawing.</summary>
+    private static Rgba At(RasterPage page, int x, int y)
+    {
+        ReadOnlySpan<byte> pixel = page.Row(99 - y).Slice(x * 4, 4);
+        return new Rgba(pixel[2], pixel[1], pixel[0], pixel[3]);
+    }
+
+    private static (int Low, int High) InkRows(RasterPage page)
+    {
+        var rows = new List<int>();
+        for (int y = 0; y < 100; y++)
+        {
+            if (page.Row(99 - y).IndexOfAnyInRange((byte)0, (byte)100) >= 0)
+            {
+                rows.Add(y);
+            }
+        }
+
+        return (rows[0], rows[^1]);
+    }
+
+    private sealed class FullStream : MemoryStream
+    {
+        public override void Write(byte[] buffer, int offset, int count) => throw new IOException("the disk is full");
+
+        public override void Write(ReadOnlySpan<byte> buffer) => throw new IOException("the disk is full");
+    }
+}
