@@ -2,7 +2,7 @@
 find_program(DOTNET dotnet REQUIRED)
 set(KORVAN_DOTNET_ARTIFACTS "${CMAKE_SOURCE_DIR}/build/dotnet")
 set(KORVAN_GENERATED "${CMAKE_BINARY_DIR}/generated")
-set(KORVAN_DOTNET_FLAGS -c Release -v quiet -nologo -p:ArtifactsPath=${KORVAN_DOTNET_ARTIFACTS})
+set(KORVAN_DOTNET_FLAGS -c Release --verbosity quiet --artifacts-path "${KORVAN_DOTNET_ARTIFACTS}")
 
 # Every source of a managed project; a new file makes the build configure again.
 function(korvan_managed_sources out)
@@ -19,9 +19,10 @@ endfunction()
 # Builds a project; `stamp` is written when its output may have changed.
 function(korvan_dotnet_build stamp project)
   cmake_parse_arguments(arg "" "COMMENT" "SOURCES;FLAGS" ${ARGN})
+  get_filename_component(name "${project}" NAME)
   add_custom_command(
     OUTPUT "${stamp}"
-    COMMAND "${DOTNET}" build "${project}" ${KORVAN_DOTNET_FLAGS} ${arg_FLAGS}
+    COMMAND "${DOTNET}" build "${project}/${name}.csproj" ${KORVAN_DOTNET_FLAGS} ${arg_FLAGS}
     COMMAND "${CMAKE_COMMAND}" -E touch "${stamp}"
     DEPENDS ${arg_SOURCES} JOB_POOL dotnet COMMENT "${arg_COMMENT}" VERBATIM)
 endfunction()
@@ -29,9 +30,10 @@ endfunction()
 # Publishes an interop assembly, compiled ahead of time, into a folder.
 function(korvan_dotnet_publish stamp project folder)
   cmake_parse_arguments(arg "" "COMMENT" "SOURCES;FLAGS" ${ARGN})
+  get_filename_component(name "${project}" NAME)
   add_custom_command(
     OUTPUT "${stamp}"
-    COMMAND "${DOTNET}" publish "${project}" ${KORVAN_DOTNET_FLAGS} ${arg_FLAGS} -o "${folder}"
+    COMMAND "${DOTNET}" publish "${project}/${name}.csproj" ${KORVAN_DOTNET_FLAGS} ${arg_FLAGS} -o "${folder}"
     COMMAND "${CMAKE_COMMAND}" -E touch "${stamp}"
     DEPENDS ${arg_SOURCES} JOB_POOL dotnet COMMENT "${arg_COMMENT}" VERBATIM)
 endfunction()

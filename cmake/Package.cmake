@@ -6,7 +6,7 @@ korvan_managed_sources(interop_sources "${managed}/WrpInterop.Korvan.CAD")
 korvan_dotnet_publish("${KORVAN_STAMPS}/interop_cad" "${managed}/WrpInterop.Korvan.CAD"
   "${KORVAN_ASSEMBLIES}/cad"
   SOURCES ${interop_sources} "${KORVAN_STAMPS}/library" "${KORVAN_GENERATED}/cad/generated.stamp"
-  FLAGS "-p:GeneratedDir=${KORVAN_GENERATED}/cad/csharp"
+  FLAGS "--property:GeneratedDir=${KORVAN_GENERATED}/cad/csharp"
   COMMENT "Compiling the managed interop of korvan.cad ahead of time")
 korvan_dotnet_publish("${KORVAN_STAMPS}/interop_pyreflection"
   "${managed}/WrpInterop.Korvan.PyReflection" "${KORVAN_ASSEMBLIES}/pyreflection"

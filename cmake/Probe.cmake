@@ -13,7 +13,7 @@ korvan_generate(probe
 korvan_dotnet_publish("${KORVAN_STAMPS}/interop_probe" "${probe}/WrpInterop.Korvan.Probe"
   "${KORVAN_TESTING}/assemblies/probe"
   SOURCES ${interop_sources} "${KORVAN_STAMPS}/probe" "${KORVAN_GENERATED}/probe/generated.stamp"
-  FLAGS "-p:GeneratedDir=${KORVAN_GENERATED}/probe/csharp"
+  FLAGS "--property:GeneratedDir=${KORVAN_GENERATED}/probe/csharp"
   COMMENT "Compiling the managed interop of korvan.probe ahead of time")
 
 Python_add_library(probe MODULE WITH_SOABI "${probe}/native/probe_module.cpp" ${probe_shards})
