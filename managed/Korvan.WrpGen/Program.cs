@@ -4,6 +4,8 @@ using System.Linq;
 using Korvan.WrpGen.Emit;
 using Korvan.WrpGen.Emit.Cpp;
 using Korvan.WrpGen.Emit.CSharp;
+using Korvan.WrpGen.Emit.Docs;
+using Korvan.WrpGen.Emit.Stubs;
 using Korvan.WrpGen.Model;
 using Korvan.WrpGen.Reading;
 
@@ -30,7 +32,9 @@ internal static class Program
         BindingModel model = LibraryReader.Read(options.Assembly, options.Xml, options.Root, options.Interop);
         int changed =
             Write(options.CSharp, folder => CSharpEmitter.Write(model, folder)) +
-            Write(options.Cpp, folder => CppEmitter.Write(model, folder));
+            Write(options.Cpp, folder => CppEmitter.Write(model, folder)) +
+            Write(options.Stubs, folder => StubEmitter.Write(model, folder)) +
+            Write(options.Docs, folder => DocsEmitter.Write(model, folder));
         if (options.Report is { } report)
         {
             File.WriteAllLines(report, model.LeftOut.Select(one => $"{one.Member}: {one.Reason}"));

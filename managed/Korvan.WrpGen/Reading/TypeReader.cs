@@ -46,6 +46,10 @@ internal sealed class TypeReader(
         {
             ReadMethods(level);
         }
+        foreach (EventInfo one in type.GetEvents(Declared).InOrder())
+        {
+            Leave(one.Name, "an event can't call Python");
+        }
         Number(model.Constructors);
         Number(model.Methods);
     }

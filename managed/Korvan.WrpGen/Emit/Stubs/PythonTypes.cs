@@ -1,0 +1,104 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using Korvan.WrpGen.Model;
+using Korvan.WrpGen.Naming;
+
+namespace Korvan.WrpGen.Emit.Stubs;
+
+/// <summary>Type hints: what a parameter accepts and what a result is.</summary>
+/// <param name="module">The module in which the hint stands.</param>
+/// <param name="shadowed">Names that the class around the hint gives another meaning.</param>
+internal sealed class PythonTypes(string module, IReadOnlySet<string> shadowed)
+{
+    /// <summary>The modules that hints of this module spoke of.</summary>
+    public SortedSet<string> Imports { get; init; } = new(StringComparer.Ordinal);
+
+    public string Parameter(ParameterModel parameter) => parameter.Passing == Passing.In
+        ? Accepted(parameter.Value)
+        : $"{Builtin("list")}[{Result(parameter.Value)}]";
+
+    /// <summary>What a parameter or a setter takes.</summary>
+    public string Accepted(ValueUse value) => Optional(value, value.Kind switch
+    {
+        ValueKind.Bytes => "collections.abc.Buffer",
+        ValueKind.DateTime => "datetime.datetime | datetime.date | datetime.time",
+        ValueKind.DateTimeOffset => "datetime.datetime | datetime.time",
+        ValueKind.Nullable => $"{Accepted(value.Element!)} | None",
+        ValueKind.Array or ValueKind.List or ValueKind.IList or ValueKind.IReadOnlyList =>
+            $"collections.abc.Sequence[{Accepted(value.Element!)}]",
+        ValueKind.ICollection or ValueKind.IReadOnlyCollection =>
+            $"collections.abc.Collection[{Accepted(value.Element!)}]",
+        ValueKind.AnyList => "collections.abc.Sequence[typing.Any]",
+        ValueKind.AnyCollection => "collections.abc.Collection[typing.Any]",
+        _ => Plain(value),
+    });
+
+    /// <summary>What a result or a getter gives.</summary>
+    public string Result(ValueUse value) => Optional(value, value.Kind switch
+    {
+        ValueKind.Void => "None",
+        ValueKind.Bytes => Builtin("bytearray"),
+        ValueKind.DateTime or ValueKind.DateTimeOffset => "datetime.datetime",
+        ValueKind.Nullable => $"{Result(value.Element!)} | None",
+        ValueKind.Array => View("ArrayView", value),
+        ValueKind.List or ValueKind.IList => View("ListView", value),
+        ValueKind.IReadOnlyList => View("ReadOnlyListView", value),
+        ValueKind.ICollection => View("CollectionView", value),
+        ValueKind.IReadOnlyCollection => View("ReadOnlyCollectionView", value),
+        ValueKind.AnyList => Support("ListView[typing.Any]"),
+        ValueKind.AnyCollection => Support("ReadOnlyCollectionView[typing.Any]"),
+        _ => Plain(value),
+    });
+
+    /// <summary>A class of the support module.</summary>
+    public string Support(string name)
+    {
+        string root = string.Join('.', module.Split('.').Take(2));
+        Imports.Add(root + "._typing");
+        return $"{root}._typing.{name}";
+    }
+
+    /// <summary>A bound type, by its simple name in its own module.</summary>
+    public string Name(TypeModel type)
+    {
+        if (type.Module == module)
+        {
+            return type.QualifiedName;
+        }
+        if (type.Module.Split('.').Any(PythonName.IsKeyword))
+        {
+            return "typing.Any";
+        }
+        Imports.Add(type.Module);
+        return type.PythonName;
+    }
+
+    /// <summary>A builtin, also where a member of that name hides it.</summary>
+    public string Builtin(string name) => shadowed.Contains(name) ? $"builtins.{name}" : name;
+
+    private string Plain(ValueUse value) => value.Kind switch
+    {
+        ValueKind.Bool => Builtin("bool"),
+        ValueKind.Single or ValueKind.Double => Builtin("float"),
+        ValueKind.Char or ValueKind.String => Builtin("str"),
+        ValueKind.Object => "typing.Any",
+        ValueKind.Stream => "typing.BinaryIO",
+        ValueKind.TimeSpan => "datetime.timedelta",
+        ValueKind.Guid => "uuid.UUID",
+        ValueKind.Decimal => "decimal.Decimal",
+        ValueKind.Version => $"{Builtin("tuple")}[{Builtin("int")}, ...]",
+        ValueKind.IEnumerable => $"collections.abc.Iterable[{Result(value.Element!)}]",
+        ValueKind.AnyEnumerable => "collections.abc.Iterable[typing.Any]",
+        ValueKind.Enum or ValueKind.Class or ValueKind.Struct or ValueKind.Interface => Name(value.Bound!),
+        _ => Builtin("int"),
+    };
+
+    private string View(string view, ValueUse value) => Support($"{view}[{Result(value.Element!)}]");
+
+    private static string Optional(ValueUse value, string hint) =>
+        value.IsOptional && value.Kind is not (ValueKind.Void or ValueKind.Object) && !value.IsValueType &&
+        value.Kind != ValueKind.Nullable
+            ? $"{hint} | None"
+            : hint;
+}

@@ -1,0 +1,235 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using Korvan.WrpGen.Model;
+using Korvan.WrpGen.Naming;
+
+namespace Korvan.WrpGen.Emit.Stubs;
+
+/// <summary>Writes the stub of one type, with those nested in it.</summary>
+internal sealed class StubTypeWriter
+{
+    private readonly CodeWriter _writer;
+    private readonly TypeModel _type;
+    private readonly ILookup<TypeModel?, TypeModel> _nested;
+    private readonly IReadOnlyList<MethodGroup> _groups;
+    private readonly IReadOnlyList<PropertyModel> _properties;
+    private readonly PythonTypes _types;
+
+    private StubTypeWriter(
+        CodeWriter writer, TypeModel type, ILookup<TypeModel?, TypeModel> nested, SortedSet<string> imports)
+    {
+        _writer = writer;
+        _type = type;
+        _nested = nested;
+        _groups = MethodGroup.Of(type);
+        _properties = MethodGroup.PropertiesOf(type);
+        HashSet<string> names =
+        [
+            .. _groups.Select(group => group.PythonName),
+            .. _properties.Concat(type.StaticProperties).Select(property => property.PythonName),
+        ];
+        _types = new PythonTypes(type.Module, names) { Imports = imports };
+    }
+
+    public static void Write(
+        CodeWriter writer, TypeModel type, ILookup<TypeModel?, TypeModel> nested, SortedSet<string> imports)
+    {
+        var stub = new StubTypeWriter(writer, type, nested, imports);
+        if (type.Kind == BoundKind.Enum)
+        {
+            stub.WriteEnum();
+        }
+        else
+        {
+            stub.WriteClass();
+        }
+    }
+
+    private void WriteEnum()
+    {
+        _writer.Line($"class {_type.Name}(enum.{(_type.IsIntegerEnum ? "IntEnum" : "IntFlag")}):");
+        _writer.Indented(() =>
+        {
+            Docstring.Write(_writer, _type.Doc);
+            foreach (EnumMemberModel member in _type.EnumMembers)
+            {
+                bool isUnsigned = _type.Underlying!.Kind == ValueKind.UInt64;
+                _writer.Line($"{member.PythonName} = {(isUnsigned ? ((ulong)member.Bits).ToString() : member.Bits)}");
+                Docstring.Write(_writer, member.Doc);
+            }
+            if (_type.EnumMembers.Count == 0)
+            {
+                _writer.Line("...");
+            }
+        });
+        _writer.Line();
+    }
+
+    private void WriteClass()
+    {
+        _writer.Line($"class {_type.Name}({string.Join(", ", Bases())}):");
+        _writer.Indented(() =>
+        {
+            Docstring.Write(_writer, _type.Doc);
+            foreach (TypeModel nested in _nested[_type])
+            {
+                Write(_writer, nested, _nested, _types.Imports);
+            }
+            WriteStaticValues();
+            WriteConstructors();
+            WriteDisposal();
+            WriteIndexer();
+            foreach (PropertyModel property in _properties)
+            {
+                WriteProperty(property);
+            }
+            foreach (IGrouping<string, MethodGroup> name in _groups.GroupBy(group => group.PythonName))
+            {
+                WriteMethods([.. name]);
+            }
+            WriteStaticSetters();
+            _writer.Line("...");
+        });
+        _writer.Line();
+    }
+
+    private IEnumerable<string> Bases()
+    {
+        yield return _type.Base is { } bound && _type.Kind == BoundKind.Class
+            ? _types.Name(bound)
+            : _types.Support("BoundObject");
+        string item = _type.ProtocolElement is { } element ? _types.Result(element) : "typing.Any";
+        string? view = _type.Protocol switch
+        {
+            CollectionProtocol.List => "ListView",
+            CollectionProtocol.Collection => _type.ProtocolElement is null ? "ReadOnlyCollectionView" : "CollectionView",
+            CollectionProtocol.ReadOnlyCollection => "ReadOnlyCollectionView",
+            CollectionProtocol.ReadOnlyList => "ReadOnlyListView",
+            CollectionProtocol.Iterable => "IterableView",
+            _ => null,
+        };
+        if (view is not null && _type.Base?.Protocol != _type.Protocol)
+        {
+            yield return _types.Support($"{view}[{item}]");
+        }
+    }
+
+    private void WriteStaticValues()
+    {
+        foreach (PropertyModel value in _type.StaticProperties)
+        {
+            _writer.Line($"{value.PythonName}: typing.ClassVar[{_types.Result(value.Value)}]");
+            Docstring.Write(_writer, value.Doc);
+        }
+    }
+
+    private void WriteConstructors()
+    {
+        foreach (MethodModel constructor in _type.Constructors)
+        {
+            WriteFunction("__init__", constructor, "None", _type.Constructors.Count > 1);
+        }
+    }
+
+    private void WriteDisposal()
+    {
+        if (_type.IsDisposable && _type.Base is not { IsDisposable: true })
+        {
+            _writer.Line("def __enter__(self) -> typing.Self: ...");
+            _writer.Line("def __exit__(self, *details: object) -> None: ...");
+        }
+    }
+
+    private void WriteIndexer()
+    {
+        if (_type.Indexer is not { } indexer)
+        {
+            return;
+        }
+        string index = _types.Builtin("int");
+        _writer.Line($"def __getitem__(self, index: {index}, /) -> {_types.Result(indexer.Value)}: ...");
+        if (indexer.CanWrite)
+        {
+            _writer.Line(
+                $"def __setitem__(self, index: {index}, value: {_types.Accepted(indexer.Value)}, /) -> None: ...");
+        }
+    }
+
+    private void WriteProperty(PropertyModel property)
+    {
+        string name = property.PythonName;
+        if (PythonName.IsKeyword(name))
+        {
+            _writer.Line($"# {name}: {_types.Result(property.Value)} (by getattr: the name is a keyword)");
+            return;
+        }
+        _writer.Line($"@{_types.Builtin("property")}");
+        WriteHead($"def {name}(self) -> {_types.Result(property.Value)}:", property.Doc);
+        if (property.CanWrite)
+        {
+            _writer.Line($"@{name}.setter");
+            _writer.Line($"def {name}(self, value: {_types.Accepted(property.Value)}) -> None: ...");
+        }
+    }
+
+    private void WriteMethods(IReadOnlyList<MethodGroup> forms)
+    {
+        MethodGroup main = forms[0];
+        if (PythonName.IsKeyword(main.PythonName))
+        {
+            _writer.Line($"# {main.PythonName}(...) (by getattr: the name is a keyword)");
+            return;
+        }
+        foreach (MethodModel leg in main.Legs)
+        {
+            WriteFunction(main.PythonName, leg, _types.Result(leg.Result), main.Legs.Count > 1);
+        }
+        foreach (MethodModel leg in forms.Skip(1).SelectMany(form => form.Legs))
+        {
+            string parameters = string.Join(", ", leg.Parameters.Select(Parameter));
+            _writer.Line($"# on the class: {main.PythonName}({parameters}) -> {_types.Result(leg.Result)}");
+        }
+    }
+
+    private void WriteStaticSetters()
+    {
+        foreach (PropertyModel value in _type.StaticProperties.Where(property => property.CanWrite))
+        {
+            _writer.Line($"@{_types.Builtin("staticmethod")}");
+            _writer.Line($"def set_{value.PythonName}(value: {_types.Accepted(value.Value)}, /) -> None: ...");
+        }
+    }
+
+    private void WriteFunction(string name, MethodModel leg, string result, bool isOverload)
+    {
+        if (isOverload)
+        {
+            _writer.Line("@typing.overload");
+        }
+        if (leg.IsStatic)
+        {
+            _writer.Line($"@{_types.Builtin("staticmethod")}");
+        }
+        IEnumerable<string> parameters = leg.Parameters.Select(Parameter);
+        string list = string.Join(", ", leg.IsStatic ? parameters : parameters.Prepend("self"));
+        WriteHead($"def {name}({list}) -> {result}:", leg.Doc);
+    }
+
+    private string Parameter(ParameterModel parameter)
+    {
+        string name = PythonName.IsKeyword(parameter.PythonName) ? parameter.PythonName + "_" : parameter.PythonName;
+        return $"{name}: {_types.Parameter(parameter)}";
+    }
+
+    private void WriteHead(string head, DocText doc)
+    {
+        if (Docstring.IsEmpty(doc))
+        {
+            _writer.Line(head + " ...");
+            return;
+        }
+        _writer.Line(head);
+        _writer.Indented(() => Docstring.Write(_writer, doc));
+    }
+}
