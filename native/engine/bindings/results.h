@@ -80,6 +80,10 @@ template <class T> using enumeration = value<T, make_enumeration<T>>;
 
 // A record that the delegate fills through its last argument.
 template <class Record, PyObject* (*Make)(const Record&, PyTypeObject*)> struct out_record {
+    using native = Record;
+    static PyObject* make(const Record& record, const void* type) {
+        return Make(record, type_object(type));
+    }
     template <class... Native>
     static PyObject* invoke(void* function, const void* type, Native... natives) {
         Record record{};

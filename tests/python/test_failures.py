@@ -1,0 +1,84 @@
+"""Failures that cross: managed exceptions in Python, Python exceptions through managed code."""
+
+from __future__ import annotations
+
+import io
+import unittest
+
+from korvan import probe
+
+
+class ManagedFailures(unittest.TestCase):
+    def test_type_and_message_come_back(self) -> None:
+        rows = [
+            ("System.InvalidOperationException", "plain"),
+            ("System.ArgumentException", "\u00fc \U0001f600"),
+            ("System.IO.IOException", ""),
+        ]
+        for name, message in rows:
+            with self.subTest(name), self.assertRaises(RuntimeError) as caught:
+                probe.Echo().fail(name, message)
+            self.assertEqual(str(caught.exception), f"Proxy error({name.split('.')[-1]}): {message}")
+
+    def test_inner_exceptions_are_told(self) -> None:
+        with self.assertRaises(RuntimeError) as caught:
+            probe.Failing(False).nested()
+        for word in ("InvalidOperationException", "outer", "inner", "innermost"):
+            self.assertIn(word, str(caught.exception))
+        with self.assertRaisesRegex(RuntimeError, "the root cause"):
+            probe.Echo().fail_deep(200, "the root cause")
+
+    def test_getters_and_setters_fail_alike(self) -> None:
+        failing = probe.Failing(False)
+        with self.assertRaisesRegex(RuntimeError, r"InvalidDataException\): can't be read"):
+            failing.value
+        with self.assertRaisesRegex(RuntimeError, r"ArgumentException\): can't be written"):
+            failing.value = 1
+
+    def test_the_next_call_is_clean(self) -> None:
+        echo = probe.Echo()
+        for _ in range(100):
+            with self.assertRaises(RuntimeError):
+                echo.fail("System.Exception", "x")
+            echo.text = "fine"
+            self.assertEqual(echo.text, "fine")
+
+
+class BrokenStream(io.RawIOBase):
+    """A stream that answers and then raises."""
+
+    def readable(self) -> bool:
+        return True
+
+    def writable(self) -> bool:
+        return True
+
+    def seekable(self) -> bool:
+        return False
+
+    def readinto(self, buffer: object) -> int:
+        raise ValueError("the tape is torn")
+
+    def write(self, data: object) -> int:
+        raise ValueError("the disk is full")
+
+
+class PythonFailures(unittest.TestCase):
+    def test_a_stream_that_raises_comes_back_with_its_text(self) -> None:
+        with self.assertRaisesRegex(RuntimeError, "Proxy error.*ValueError: the tape is torn"):
+            probe.Echo().read_all(BrokenStream())
+        with self.assertRaisesRegex(RuntimeError, "Proxy error.*ValueError: the disk is full"):
+            probe.Echo().write_all(BrokenStream(), b"data")
+
+    def test_streams_are_read_and_written_whole(self) -> None:
+        data = bytes(range(256)) * 1000
+        self.assertEqual(probe.Echo().read_all(io.BytesIO(data)), data)
+        target = io.BytesIO()
+        probe.Echo().write_all(target, data)
+        self.assertEqual(target.getvalue(), data)
+        with self.assertRaisesRegex(TypeError, "can't build Stream from 'str'"):
+            probe.Echo().read_all("text")
+
+
+if __name__ == "__main__":
+    unittest.main()
