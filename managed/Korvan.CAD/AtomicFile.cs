@@ -59,7 +59,7 @@ internal static class AtomicFile
     // A link is kept and the file it leads to is replaced.
     private static string ResolveLinks(string path)
     {
-        return File.ResolveLinkTarget(path, true)?.FullName ?? path;
+        return File.Exists(path) ? File.ResolveLinkTarget(path, true)?.FullName ?? path : path;
     }
 
     private static void KeepMode(string target, string beside)

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.IO;
+using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
@@ -119,6 +120,15 @@ public partial class CadImage : Image
 
     internal CadBlockEntity PaperSpace { get; set; }
 
+    /// <summary>Gets or sets whether the file has a block for model space; old ones need not.</summary>
+    internal bool ModelSpaceInFile { get; set; }
+
+    /// <summary>Gets or sets whether the file has a block for paper space; old ones need not.</summary>
+    internal bool PaperSpaceInFile { get; set; }
+
+    /// <summary>Gets what stands before the records of each table.</summary>
+    internal Dictionary<string, CadTableHead> TableHeads { get; } = [];
+
     /// <summary>Gets sections that nobody interprets, in the order of the file.</summary>
     internal List<RawSection> RawSections { get; } = [];
 
@@ -137,6 +147,16 @@ public partial class CadImage : Image
     /// <param name="entity">The entity.</param>
     /// <returns>Whether it was there.</returns>
     public bool RemoveEntity(CadEntityBase entity) => Entities.Remove(entity);
+
+    /// <summary>Gives the entities of a layout, in drawing order. The list is live.</summary>
+    /// <param name="layoutName">The name of the layout; upper and lower case are the same.</param>
+    /// <exception cref="CadException">There is no such layout, or its block is missing.</exception>
+    public List<CadEntityBase> GetLayoutEntities(string layoutName)
+    {
+        CadLayout layout = Layouts[layoutName];
+        return BlockOf(layout)?.Entities
+            ?? throw new CadException($"The block of the layout '{layoutName}' is missing.");
+    }
 
     /// <inheritdoc/>
     public override string[] GetStrings() => DrawingStrings.Collect(this);
@@ -162,6 +182,9 @@ public partial class CadImage : Image
 
     /// <inheritdoc/>
     internal override void SaveData(Stream stream) => DxfSaver.Save(this, new DxfOptions(), stream);
+
+    /// <summary>Finds the block that holds the entities of a layout.</summary>
+    internal CadBlockEntity? BlockOf(CadLayout layout) => DrawingLinks.BlockOf(this, layout);
 
     private (Cad3DPoint Min, Cad3DPoint Max) Extents() => DrawingExtents.OfModel(this);
 

@@ -67,6 +67,9 @@ public abstract partial class CadBaseObject
     /// <returns>Whether the tag means something to the class.</returns>
     internal virtual bool ReadCode(int code, DxfTagReader tags) => false;
 
+    /// <summary>Gives the marker that is written for a class; some objects have another one at times.</summary>
+    internal virtual string MarkerFor(string subclass) => subclass;
+
     internal virtual void WriteCodes(DxfTagWriter writer)
     {
     }

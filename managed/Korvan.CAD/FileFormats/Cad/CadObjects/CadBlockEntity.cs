@@ -45,4 +45,7 @@ public partial class CadBlockEntity : CadEntityBase
 
     /// <summary>Gets or sets what ends the block in files.</summary>
     internal CadEndBlock End { get; set; } = new();
+
+    /// <summary>Gets or sets the layout that was added with this block and has no handle yet.</summary>
+    internal CadLayout? Layout { get; set; }
 }

@@ -1,5 +1,6 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
+using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -63,4 +64,27 @@ public partial class CadInsertObject : CadEntityBase
 
     /// <summary>Gets or sets the entity that ends the attributes; nothing when there are none.</summary>
     public CadSeqend? Seqend { get; set; }
+
+    /// <summary>Gets whether the insertion is a grid of more than one.</summary>
+    public bool IsGrid => ColumnCount > 1 || RowCount > 1;
+
+    /// <summary>The marker of a single insertion.</summary>
+    internal const string SingleMarker = "AcDbBlockReference";
+
+    /// <summary>The marker of a grid; its codes are the same.</summary>
+    internal const string GridMarker = "AcDbMInsertBlock";
+
+    /// <inheritdoc/>
+    internal override string MarkerFor(string subclass)
+    {
+        return subclass == SingleMarker && IsGrid ? GridMarker : subclass;
+    }
+
+    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    {
+        // Attributes follow or not: the list tells.
+        taken = code == 66;
+    }
+
+    partial void OnWriteCodes(DxfTagWriter writer) => writer.WriteOptional(66, Attributes.Count > 0 ? 1 : 0, 0);
 }

@@ -1,3 +1,4 @@
+using System.Text;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -83,4 +84,24 @@ public partial class CadMText : CadEntityBase
     /// it. Group code 421.</summary>
     [CadInt(421, Optional = true, Since = 2004)]
     public int BackgroundColor { get; set; } = -1;
+
+    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    {
+        if (code is not (1 or 3))
+        {
+            return;
+        }
+
+        taken = true;
+        StringBuilder text = new(Text);
+        do
+        {
+            text.Append(tags.GetString());
+        }
+        while (tags.Next() && tags.Code is 1 or 3);
+        tags.Unread();
+        Text = text.ToString();
+    }
+
+    partial void OnWriteCodes(DxfTagWriter writer) => writer.WriteLongText(3, 1, Text);
 }

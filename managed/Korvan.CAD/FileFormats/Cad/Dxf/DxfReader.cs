@@ -1,13 +1,259 @@
+using System.Collections.Generic;
+using System.Text;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
-/// <summary>Reads interchange files.</summary>
-internal sealed class DxfReader(byte[] data, string fileName, LoadOptions options)
+/// <summary>Reads interchange files: the sections, and what they hold.</summary>
+internal sealed partial class DxfReader
 {
-    private readonly DxfTagReader _tags = new(data, fileName);
+    private readonly DxfTagReader _tags;
+    private readonly DxfObjectReader _objects;
+    private readonly LoadOptions _options;
+    private readonly DxfImage _image = new(DrawingSeed.Blank);
+    private bool _hasEntities;
+
+    internal DxfReader(byte[] data, string fileName, LoadOptions options)
+    {
+        _tags = new DxfTagReader(data, fileName);
+        _objects = new DxfObjectReader(_tags);
+        _options = options;
+        if (options.SpecifiedEncoding != CodePages.Default)
+        {
+            _tags.Encoding = DwgCodePage.Get((int)options.SpecifiedEncoding);
+        }
+    }
 
     internal DxfImage Read()
     {
-        _tags.Errors = options.Errors;
-        return new DxfImage(DrawingSeed.Blank);
+        try
+        {
+            ReadSections();
+        }
+        catch (ImageLoadException e) when (_options.IgnoreErrors)
+        {
+            _options.Errors.Add(e.Message);
+        }
+
+        DrawingLinks.Complete(_image);
+        return _image;
+    }
+
+    private void ReadSections()
+    {
+        while (_tags.Next())
+        {
+            if (_tags.Code == 9)
+            {
+                // Some programs close the section of variables too early.
+                ReadVariables();
+            }
+            else if (_tags.Code == 0 && _tags.ValueIs("EOF"u8))
+            {
+                return;
+            }
+            else if (_tags.Code == 0 && _tags.ValueIs("SECTION"u8))
+            {
+                ReadSection();
+            }
+            else if (_tags.Code != 0 || !_tags.ValueIs("ENDSEC"u8))
+            {
+                throw _tags.Fail($"group code {_tags.Code} with the value '{_tags.ValueText()}' stands between sections; "
+                    + "0 SECTION or 0 EOF was expected");
+            }
+        }
+
+        if (!_hasEntities)
+        {
+            throw _tags.Fail("the file ends before its section ENTITIES; it has been cut off");
+        }
+    }
+
+    private void ReadSection()
+    {
+        int line = _tags.Line;
+        if (!_tags.Next() || _tags.Code != 2)
+        {
+            throw _tags.Fail("a section has no name; group code 2 was expected");
+        }
+
+        string name = _tags.GetName();
+        switch (name)
+        {
+            case "HEADER":
+                ReadHeader();
+                break;
+            case "CLASSES":
+                ReadClasses();
+                break;
+            case "TABLES":
+                ReadTables();
+                break;
+            case "BLOCKS":
+                ReadBlocks();
+                break;
+            case "ENTITIES":
+                ReadEntities();
+                _hasEntities = true;
+                break;
+            case "OBJECTS":
+                ReadObjects();
+                break;
+            case "THUMBNAILIMAGE":
+                ReadThumbnail();
+                break;
+            default:
+                ReadRawSection(name);
+                break;
+        }
+
+        VerifyEnd(name, line);
+    }
+
+    private void VerifyEnd(string name, int line)
+    {
+        if (!_tags.Next())
+        {
+            throw _tags.Fail($"the section {name}, which begins on line {line}, never ends; 0 ENDSEC was expected");
+        }
+
+        if (_tags.Code != 0 || !_tags.ValueIs("ENDSEC"u8))
+        {
+            throw _tags.Fail($"group code {_tags.Code} with the value '{_tags.ValueText()}' stands in the section "
+                + $"{name}, where 0 ENDSEC was expected");
+        }
+    }
+
+    /// <summary>Goes on to the next object of a section.</summary>
+    /// <returns>Its name, or nothing at the end of the section.</returns>
+    private string? NextObject()
+    {
+        while (_tags.Next())
+        {
+            if (_tags.Code != 0)
+            {
+                throw _tags.Fail($"group code {_tags.Code} stands where group code 0 and the name of an object were "
+                    + "expected");
+            }
+
+            string name = _tags.GetName();
+            if (name is "ENDSEC" or "EOF" or "SECTION")
+            {
+                _tags.Unread();
+                return null;
+            }
+
+            return name;
+        }
+
+        return null;
+    }
+
+    private void ReadHeader()
+    {
+        if (_tags.Next())
+        {
+            ReadVariables();
+        }
+    }
+
+    /// <summary>Reads variables from the current tag on.</summary>
+    private void ReadVariables()
+    {
+        List<CadCodeValue>? values = null;
+        string name = "";
+        for (bool more = true; more && _tags.Code != 0; more = _tags.Next())
+        {
+            if (_tags.Code == 9)
+            {
+                name = _tags.GetName();
+                values = _image.Header.TagsOf(name);
+                values.Clear();
+            }
+            else if (values is not null)
+            {
+                values.Add(_tags.ToCodeValue());
+                ChooseEncoding(name);
+            }
+        }
+
+        _tags.Unread();
+    }
+
+    private void ChooseEncoding(string variable)
+    {
+        if (_options.SpecifiedEncoding != CodePages.Default || variable is not ("$ACADVER" or "$DWGCODEPAGE"))
+        {
+            return;
+        }
+
+        string page = _image.Header.CodePage;
+        Encoding stated = DwgCodePage.Get(page.Length > 0 ? page : DwgCodePage.DefaultName);
+        bool unicode = _image.Header.AcadVersion >= CadAcadVersion.AC1021;
+        _tags.Encoding = unicode ? new UTF8Encoding(false) : stated;
+        _tags.Fallback = stated;
+    }
+
+    private void ReadClasses()
+    {
+        while (NextObject() is not null)
+        {
+            CadClassEntity added = new();
+            while (_tags.Next() && _tags.Code != 0)
+            {
+                added.ReadCode(_tags);
+            }
+
+            _tags.Unread();
+            _image.ClassEntities.Add(added);
+        }
+    }
+
+    private void ReadThumbnail()
+    {
+        List<byte[]> chunks = [];
+        while (_tags.Next() && _tags.Code != 0)
+        {
+            if (_tags.Code == 310)
+            {
+                chunks.Add(_tags.AppendBinary([]));
+            }
+        }
+
+        _tags.Unread();
+        byte[] picture = new byte[TotalLength(chunks)];
+        int place = 0;
+        foreach (byte[] chunk in chunks)
+        {
+            chunk.CopyTo(picture, place);
+            place += chunk.Length;
+        }
+
+        _image.ThumbnailImage = picture;
+    }
+
+    private static int TotalLength(List<byte[]> chunks)
+    {
+        int length = 0;
+        foreach (byte[] chunk in chunks)
+        {
+            length += chunk.Length;
+        }
+
+        return length;
+    }
+
+    private void ReadRawSection(string name)
+    {
+        RawSection section = new(name);
+        while (_tags.Next() && !(_tags.Code == 0 && (_tags.ValueIs("ENDSEC"u8) || _tags.ValueIs("EOF"u8))))
+        {
+            section.Tags.Add(_tags.ToCodeValue());
+        }
+
+        _tags.Unread();
+        _image.RawSections.Add(section);
     }
 }

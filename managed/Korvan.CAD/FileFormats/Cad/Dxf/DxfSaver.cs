@@ -1,14 +1,237 @@
+using System.Collections.Generic;
 using System.IO;
+using System.Text;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
-/// <summary>Writes drawings as interchange files.</summary>
-internal static class DxfSaver
+/// <summary>Writes drawings as text interchange files.</summary>
+internal sealed class DxfSaver
 {
+    private const int BitmapChunk = 127;
+
+    private readonly CadImage _image;
+    private readonly CadAcadVersion _version;
+    private readonly DxfTagWriter _writer;
+    private readonly DxfObjectWriter _objects;
+
+    private DxfSaver(CadImage image, CadAcadVersion version, Stream stream)
+    {
+        _image = image;
+        _version = version;
+        bool unicode = version >= CadAcadVersion.AC1021;
+        string page = image.Header.CodePage;
+        Encoding encoding = unicode
+            ? new UTF8Encoding(false)
+            : DwgCodePage.Get(page.Length > 0 ? page : DwgCodePage.DefaultName);
+        _writer = new DxfTagWriter(stream, encoding, DxfRelease.Year(version));
+        _objects = new DxfObjectWriter(_writer);
+    }
+
     internal static void Save(CadImage image, DxfOptions options, Stream stream)
     {
-        throw new ImageSaveException($"{image} cannot be written with {options} to {stream}.");
+        options.VerifyHonoured();
+        CadAcadVersion version = ChooseVersion(image, options.Version);
+        DrawingIntegrity.Prepare(image, DxfRelease.Year(version));
+        new DxfSaver(image, version, stream).Write();
+    }
+
+    private static CadAcadVersion ChooseVersion(CadImage image, DxfOutputVersion wanted)
+    {
+        CadAcadVersion present = image.Version;
+        CadAcadVersion chosen = wanted == DxfOutputVersion.Original ? present : DxfRelease.From(wanted);
+        if (DxfRelease.Year(chosen) == DxfRelease.Year(present))
+        {
+            return chosen == CadAcadVersion.None ? present : chosen;
+        }
+
+        if (present < CadAcadVersion.AC1015 || chosen < CadAcadVersion.AC1015)
+        {
+            throw new ImageSaveException($"A drawing of release {present} cannot be written as {chosen}: objects are "
+                + "carried over between releases 2000 and later only. Leave DxfOptions.Version at Original.");
+        }
+
+        VerifyBodies(image, chosen);
+        return chosen;
+    }
+
+    // From release 2013 on the data of bodies stands in a section that earlier releases do not know.
+    private static void VerifyBodies(CadImage image, CadAcadVersion chosen)
+    {
+        if (chosen >= CadAcadVersion.AC1027)
+        {
+            return;
+        }
+
+        foreach (CadBlockEntity block in image.BlockEntities)
+        {
+            if (block.Entities.Exists(static entity => entity is CadObjectWithAcisData { AcisData.Count: 0 }))
+            {
+                throw new ImageSaveException($"The drawing has bodies in the form of release 2013, which release {chosen} "
+                    + "does not know. Write release 2013 or later.");
+            }
+        }
+    }
+
+    private void Write()
+    {
+        WriteHeader();
+        if (_writer.HasSubclasses)
+        {
+            WriteClasses();
+        }
+
+        WriteTables();
+        WriteBlocks();
+        WriteEntities();
+        if (_writer.HasSubclasses)
+        {
+            WriteObjects();
+        }
+
+        foreach (RawSection section in _image.RawSections)
+        {
+            BeginSection(section.Name);
+            section.Tags.ForEach(_writer.Write);
+            EndSection();
+        }
+
+        WriteThumbnail();
+        _writer.Write(0, "EOF");
+        _writer.Flush();
+    }
+
+    private void BeginSection(string name)
+    {
+        _writer.Write(0, "SECTION");
+        _writer.Write(2, name);
+    }
+
+    private void EndSection() => _writer.Write(0, "ENDSEC");
+
+    private void WriteHeader()
+    {
+        BeginSection("HEADER");
+        foreach (string name in _image.Header.VariableNames)
+        {
+            if (HeaderVariables.Since(name) > _writer.Release)
+            {
+                continue;
+            }
+
+            _writer.Write(9, name);
+            if (name == "$ACADVER")
+            {
+                _writer.Write(1, _version.ToString());
+                continue;
+            }
+
+            _image.Header.TagsOf(name).ForEach(_writer.Write);
+        }
+
+        EndSection();
+    }
+
+    private void WriteClasses()
+    {
+        BeginSection("CLASSES");
+        foreach (CadClassEntity item in _image.ClassEntities)
+        {
+            _writer.Write(0, "CLASS");
+            item.WriteCodes(_writer);
+        }
+
+        EndSection();
+    }
+
+    private void WriteTables()
+    {
+        BeginSection("TABLES");
+        foreach (string name in TableRecords.Names)
+        {
+            if (name == "BLOCK_RECORD" && !_writer.HasSubclasses)
+            {
+                continue;
+            }
+
+            IReadOnlyList<CadSymbolTableGroupCodes> records = TableRecords.Of(_image, name);
+            _image.TableHeads.TryGetValue(name, out CadTableHead? head);
+            if (head is null && records.Count == 0 && !_writer.HasSubclasses)
+            {
+                continue;
+            }
+
+            _objects.WriteTableHead(head ?? new CadTableHead { Name = name }, records.Count);
+            foreach (CadSymbolTableGroupCodes record in records)
+            {
+                _objects.Write(record);
+            }
+
+            _writer.Write(0, "ENDTAB");
+        }
+
+        EndSection();
+    }
+
+    private void WriteBlocks()
+    {
+        BeginSection("BLOCKS");
+        foreach (CadBlockEntity block in _image.BlockEntities)
+        {
+            bool model = block == _image.ModelSpace;
+            bool paper = block == _image.PaperSpace;
+            if (!_writer.HasSubclasses && ((model && !_image.ModelSpaceInFile) || (paper && !_image.PaperSpaceInFile)))
+            {
+                continue;
+            }
+
+            _objects.Write(block);
+            if (!model && !paper)
+            {
+                block.Entities.ForEach(_objects.WriteEntity);
+            }
+
+            _objects.Write(block.End);
+        }
+
+        EndSection();
+    }
+
+    private void WriteEntities()
+    {
+        BeginSection("ENTITIES");
+        _image.ModelSpace.Entities.ForEach(_objects.WriteEntity);
+        _image.PaperSpace.Entities.ForEach(_objects.WriteEntity);
+        EndSection();
+    }
+
+    private void WriteObjects()
+    {
+        BeginSection("OBJECTS");
+        _image.Objects.ForEach(_objects.Write);
+        EndSection();
+    }
+
+    private void WriteThumbnail()
+    {
+        byte[] picture = _image.ThumbnailImage;
+        if (picture.Length == 0)
+        {
+            return;
+        }
+
+        BeginSection("THUMBNAILIMAGE");
+        _writer.Write(90, picture.Length);
+        for (int start = 0; start < picture.Length; start += BitmapChunk)
+        {
+            int length = System.Math.Min(BitmapChunk, picture.Length - start);
+            _writer.Write(310, System.Convert.ToHexString(picture, start, length));
+        }
+
+        EndSection();
     }
 }

@@ -1,6 +1,7 @@
 using System;
 using System.Globalization;
 using System.Text;
+using System.Text.Unicode;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -13,7 +14,10 @@ internal sealed partial class DxfTagReader
     private readonly (int Start, int Length, string Text)[] _pool = new (int, int, string)[PoolSize];
 
     /// <summary>Gets or sets the encoding of texts that are not plain ASCII.</summary>
-    internal Encoding Encoding { get; set; } = Encoding.Latin1;
+    internal Encoding Encoding { get; set; } = DwgCodePage.Get(DwgCodePage.DefaultName);
+
+    /// <summary>Gets or sets the encoding of texts in a drawing of UTF-8 that are not UTF-8.</summary>
+    internal Encoding Fallback { get; set; } = Encoding.Latin1;
 
     /// <summary>Gives the value as a text.</summary>
     internal string GetString()
@@ -86,6 +90,7 @@ internal sealed partial class DxfTagReader
             return Encoding.ASCII.GetString(bytes);
         }
 
-        return TextEscapes.Decode(Encoding.GetString(bytes));
+        bool damaged = Encoding is UTF8Encoding && !Utf8.IsValid(bytes);
+        return TextEscapes.Decode((damaged ? Fallback : Encoding).GetString(bytes));
     }
 }

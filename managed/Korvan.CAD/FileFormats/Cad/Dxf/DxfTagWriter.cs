@@ -15,6 +15,7 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
     private const int ChunkLength = 250;
 
     private readonly byte[] _buffer = new byte[1 << 16];
+    private readonly List<string?> _keptFor = [];
     private int _used;
 
     /// <summary>Gets the release that is written, as a year.</summary>
@@ -140,7 +141,13 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
     /// <summary>Writes the tags of an object that nobody interprets and that stood behind a marker.</summary>
     internal void WriteKept(CadBaseObject source, string? subclass)
     {
-        foreach (KeptTag tag in source.Kept ?? [])
+        if (source.Kept is null || HasWritten(subclass))
+        {
+            return;
+        }
+
+        _keptFor.Add(subclass);
+        foreach (KeptTag tag in source.Kept)
         {
             if (tag.Subclass == subclass)
             {
@@ -148,6 +155,12 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
             }
         }
     }
+
+    /// <summary>Forgets which markers the object before had.</summary>
+    internal void BeginObject() => _keptFor.Clear();
+
+    /// <summary>Tells whether the tags that nobody interprets have been written for a marker of this object.</summary>
+    internal bool HasWritten(string? subclass) => _keptFor.Contains(subclass);
 
     internal void Flush()
     {

@@ -1,0 +1,267 @@
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
+using Korvan.CAD.FileFormats.Cad.CadTables;
+
+namespace Korvan.CAD.FileFormats.Cad.Dxf;
+
+/// <summary>Reads one object: what all have in common, and through its codec what is its own.</summary>
+internal sealed class DxfObjectReader(DxfTagReader tags)
+{
+    internal CadEntityBase ReadEntity(string name)
+    {
+        CadEntityBase entity = Create(name);
+        ReadBody(entity);
+        switch (entity)
+        {
+            case CadPolylineBase polyline:
+                ReadVertices(polyline);
+                break;
+            case CadInsertObject insert:
+                ReadAttributes(insert);
+                break;
+        }
+
+        return entity;
+    }
+
+    internal void ReadBody(CadBaseObject target)
+    {
+        tags.EnterSubclass(null);
+        while (tags.Next())
+        {
+            int code = tags.Code;
+            if (code == 0)
+            {
+                break;
+            }
+
+            if (!ReadCommon(code, target) && !target.ReadCode(code, tags))
+            {
+                target.Keep(tags.Subclass, tags.ToCodeValue());
+            }
+        }
+
+        tags.Unread();
+    }
+
+    private static bool IsRaw(CadBaseObject target) => target is RawEntity or RawObject;
+
+    private bool ReadCommon(int code, CadBaseObject target)
+    {
+        if (code is > 5 and < 100)
+        {
+            return false;
+        }
+
+        switch (code)
+        {
+            case 5 when tags.Subclass is null && target is not CadDimensionStyleTable:
+            case 105 when target is CadDimensionStyleTable:
+                target.Handle = tags.GetHandle();
+                return true;
+            case 100:
+                EnterSubclass(target);
+                return true;
+            case 330 when tags.Subclass is null && target is CadOwnedObjectBase owned:
+                owned.Owner = tags.GetHandle();
+                return true;
+            case 101 or 102 when target is CadXRecord && tags.Subclass is not null:
+                return false;
+            case 101:
+                ReadEmbedded(target);
+                return true;
+            case 102:
+                ReadGroup(target);
+                return true;
+            case >= 1000:
+                return ReadXdata(target);
+            default:
+                return false;
+        }
+    }
+
+    private void EnterSubclass(CadBaseObject target)
+    {
+        string name = tags.GetName();
+        if (IsRaw(target) && !(target is RawEntity && tags.Subclass is null && name == "AcDbEntity"))
+        {
+            ReadVerbatim(target);
+            return;
+        }
+
+        tags.EnterSubclass(name == CadInsertObject.GridMarker ? CadInsertObject.SingleMarker : name);
+    }
+
+    private void ReadVerbatim(CadBaseObject target)
+    {
+        do
+        {
+            target.Keep(KeptTag.Verbatim, tags.ToCodeValue());
+        }
+        while (tags.Next() && tags.Code is not 0 and < 1000);
+        tags.EnterSubclass(KeptTag.Verbatim);
+        tags.Unread();
+    }
+
+    private void ReadEmbedded(CadBaseObject target)
+    {
+        List<CadCodeValue> embedded = target.Embedded ??= [];
+        do
+        {
+            embedded.Add(tags.ToCodeValue());
+        }
+        while (tags.Next() && tags.Code is not 0 and < 1000);
+        tags.Unread();
+    }
+
+    private void ReadGroup(CadBaseObject target)
+    {
+        string name = tags.GetName();
+        if (tags.Subclass is not null || !name.StartsWith('{'))
+        {
+            KeepGroup(target, name);
+            return;
+        }
+
+        CadApplicationCodes group = new(name[1..]);
+        target.ApplicationCodesContainer.ApplicationCodes.Add(group);
+        while (tags.Next() && tags.Code is not 0 and not 102)
+        {
+            group.Codes.Add(tags.ToCodeValue());
+        }
+
+        UnreadUnlessGroupEnd();
+    }
+
+    private void KeepGroup(CadBaseObject target, string name)
+    {
+        target.Keep(tags.Subclass, tags.ToCodeValue());
+        if (!name.StartsWith('{'))
+        {
+            return;
+        }
+
+        while (tags.Next() && tags.Code != 0)
+        {
+            target.Keep(tags.Subclass, tags.ToCodeValue());
+            if (tags.Code == 102)
+            {
+                return;
+            }
+        }
+
+        tags.Unread();
+    }
+
+    private void UnreadUnlessGroupEnd()
+    {
+        if (tags.Code != 102)
+        {
+            tags.Unread();
+        }
+    }
+
+    private bool ReadXdata(CadBaseObject target)
+    {
+        List<CadXdata> all = target.XdataContainer.XdataEntities;
+        if (tags.Code == 1001)
+        {
+            all.Add(new CadXdata(tags.GetName()));
+            return true;
+        }
+
+        if (all.Count == 0)
+        {
+            return false;
+        }
+
+        all[^1].Data.Add(tags.ToCodeValue());
+        return true;
+    }
+
+    private CadEntityBase Create(string name) => name switch
+    {
+        "POLYLINE" => CreatePolyline(tags.Peek(70) ?? 0),
+        "VERTEX" => new Cad2DVertex(),
+        "DIMENSION" => CreateDimension(tags.Peek(70) ?? 0),
+        _ => DxfTypeTable.CreateEntity(name) ?? new RawEntity(name),
+    };
+
+    private static CadPolylineBase CreatePolyline(int flags) => (CadPolylineFlag)flags switch
+    {
+        var flag when (flag & CadPolylineFlag.PolyfaceMesh) != 0 => new CadPolyFaceMesh(),
+        var flag when (flag & CadPolylineFlag.PolygonMesh) != 0 => new CadPolygonMesh(),
+        var flag when (flag & CadPolylineFlag.Polyline3D) != 0 => new CadPolyline3D(),
+        _ => new CadPolyline(),
+    };
+
+    private static CadDimensionBase CreateDimension(int type) => (CadDimensionType)(type & 7) switch
+    {
+        CadDimensionType.Aligned => new CadAlignedDimension(),
+        CadDimensionType.Angular => new Cad2LineAngularDimension(),
+        CadDimensionType.Diameter => new CadDiametricDimension(),
+        CadDimensionType.Radius => new CadRadialDimension(),
+        CadDimensionType.Angular3Point => new CadAngularDimension(),
+        CadDimensionType.Ordinate => new CadDimensionOrdinate(),
+        _ => new CadRotatedDimension(),
+    };
+
+    private void ReadVertices(CadPolylineBase polyline)
+    {
+        while (tags.Next())
+        {
+            if (tags.Code == 0 && tags.ValueIs("VERTEX"u8))
+            {
+                CadVertexBase vertex = polyline.CreateVertex(tags.Peek(70) ?? 0);
+                ReadBody(vertex);
+                polyline.Vertices.Add(vertex);
+            }
+            else
+            {
+                polyline.Seqend = ReadSeqend();
+                return;
+            }
+        }
+    }
+
+    private void ReadAttributes(CadInsertObject insert)
+    {
+        while (tags.Next())
+        {
+            if (tags.Code == 0 && tags.ValueIs("ATTRIB"u8))
+            {
+                CadAttrib attribute = new();
+                ReadBody(attribute);
+                insert.Attributes.Add(attribute);
+            }
+            else
+            {
+                // Without attributes a SEQEND that follows is nobody's; it is read like any entity.
+                insert.Seqend = insert.Attributes.Count > 0 ? ReadSeqend() : Decline();
+                return;
+            }
+        }
+    }
+
+    private CadSeqend? ReadSeqend()
+    {
+        if (tags.Code != 0 || !tags.ValueIs("SEQEND"u8))
+        {
+            return Decline();
+        }
+
+        CadSeqend end = new();
+        ReadBody(end);
+        return end;
+    }
+
+    private CadSeqend? Decline()
+    {
+        tags.Unread();
+        return null;
+    }
+}

@@ -1,0 +1,125 @@
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
+using Korvan.CAD.FileFormats.Cad.CadTables;
+
+namespace Korvan.CAD.FileFormats.Cad.Dxf;
+
+/// <summary>Writes one object: what all have in common, and through its codec what is its own.</summary>
+internal sealed class DxfObjectWriter(DxfTagWriter writer)
+{
+    internal void WriteEntity(CadEntityBase entity)
+    {
+        Write(entity);
+        switch (entity)
+        {
+            case CadPolylineBase polyline:
+                polyline.Vertices.ForEach(Write);
+                WriteSeqend(polyline.Seqend);
+                break;
+            case CadInsertObject { Attributes.Count: > 0 } insert:
+                insert.Attributes.ForEach(Write);
+                WriteSeqend(insert.Seqend);
+                break;
+        }
+    }
+
+    internal void Write(CadBaseObject item)
+    {
+        Begin(item);
+        item.WriteCodes(writer);
+        WriteRest(item);
+    }
+
+    internal void WriteTableHead(CadTableHead head, int count)
+    {
+        writer.Subject = $"the table {head.Name}";
+        writer.BeginObject();
+        writer.Write(0, "TABLE");
+        writer.Write(2, head.Name);
+        WriteIdentity(head);
+        writer.WriteSubclass("AcDbSymbolTable");
+        writer.Write(70, count);
+        writer.WriteKept(head, "AcDbSymbolTable");
+        if (head.Name == "DIMSTYLE" && writer.Release >= 2000)
+        {
+            // Only the marker tells readers that this table is the one with a list of handles.
+            writer.WriteSubclass("AcDbDimStyleTable");
+            writer.WriteKept(head, "AcDbDimStyleTable");
+        }
+
+        WriteRest(head);
+    }
+
+    private void WriteSeqend(CadSeqend? end)
+    {
+        if (end is not null)
+        {
+            Write(end);
+        }
+    }
+
+    private void Begin(CadBaseObject item)
+    {
+        writer.Subject = item.Handle == 0 ? item.DxfName : $"{item.DxfName} {HandleText.Format(item.Handle)}";
+        writer.BeginObject();
+        writer.Write(0, item.DxfName);
+        WriteIdentity(item);
+        if (writer.HasSubclasses)
+        {
+            writer.WriteKept(item, null);
+        }
+    }
+
+    private void WriteIdentity(CadBaseObject item)
+    {
+        if (item.Handle != 0)
+        {
+            writer.WriteHandle(item is CadDimensionStyleTable ? 105 : 5, item.Handle);
+        }
+
+        foreach (CadApplicationCodes group in item.ApplicationCodesOrNull?.ApplicationCodes ?? [])
+        {
+            writer.Write(102, "{" + group.ApplicationName);
+            group.Codes.ForEach(writer.Write);
+            writer.Write(102, "}");
+        }
+
+        if (item is CadOwnedObjectBase owned && writer.HasSubclasses && (owned.Owner != 0 || writer.Release >= 2000))
+        {
+            writer.WriteHandle(330, owned.Owner);
+        }
+    }
+
+    private void WriteRest(CadBaseObject item)
+    {
+        WriteKeptElsewhere(item);
+        item.Embedded?.ForEach(writer.Write);
+        foreach (CadXdata xdata in item.XdataOrNull?.XdataEntities ?? [])
+        {
+            writer.Write(1001, xdata.RegisteredApplicationName);
+            xdata.Data.ForEach(writer.Write);
+        }
+    }
+
+    // Tags behind markers that the class does not know follow with their markers.
+    private void WriteKeptElsewhere(CadBaseObject item)
+    {
+        string? marker = null;
+        foreach (KeptTag tag in item.Kept ?? [])
+        {
+            if (writer.HasWritten(tag.Subclass))
+            {
+                continue;
+            }
+
+            if (tag.Subclass != marker && tag.Subclass is not (null or KeptTag.Verbatim))
+            {
+                writer.WriteSubclass(tag.Subclass);
+                marker = tag.Subclass;
+            }
+
+            writer.Write(tag.Value);
+        }
+    }
+}

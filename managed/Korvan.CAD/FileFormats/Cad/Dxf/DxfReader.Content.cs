@@ -1,0 +1,164 @@
+using System.Collections.Generic;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadTables;
+
+namespace Korvan.CAD.FileFormats.Cad.Dxf;
+
+/// <content>Tables, blocks, entities and objects.</content>
+internal sealed partial class DxfReader
+{
+    private void ReadTables()
+    {
+        while (NextObject() is { } name)
+        {
+            if (name == "TABLE")
+            {
+                ReadTable();
+            }
+            else if (name != "ENDTAB")
+            {
+                throw _tags.Fail($"'{name}' stands between tables; 0 TABLE was expected");
+            }
+        }
+    }
+
+    private void ReadTable()
+    {
+        CadTableHead head = new();
+        _objects.ReadBody(head);
+        _image.TableHeads[head.Name] = head;
+        while (NextObject() is { } name && name != "ENDTAB")
+        {
+            CadSymbolTableGroupCodes? record = DxfTypeTable.CreateTableRecord(name);
+            if (record is null)
+            {
+                throw _tags.Fail($"'{name}' is no record of a table; 0 ENDTAB was expected");
+            }
+
+            if (TryRead(record))
+            {
+                TableRecords.Add(_image, record);
+            }
+        }
+    }
+
+    private void ReadBlocks()
+    {
+        CadBlockEntity? block = null;
+        while (NextObject() is { } name)
+        {
+            switch (name)
+            {
+                case "BLOCK":
+                    block = new CadBlockEntity();
+                    _objects.ReadBody(block);
+                    AddBlock(block);
+                    break;
+                case "ENDBLK":
+                    CadEndBlock end = block?.End ?? new CadEndBlock();
+                    _objects.ReadBody(end);
+                    block = null;
+                    break;
+                default:
+                    ReadEntity(name, (block ?? throw OutsideBlock(name)).Entities);
+                    break;
+            }
+        }
+    }
+
+    private ImageLoadException OutsideBlock(string name)
+    {
+        return _tags.Fail($"the entity {name} stands outside of a block; 0 BLOCK was expected");
+    }
+
+    private void AddBlock(CadBlockEntity block)
+    {
+        if (BlockNames.IsModelSpace(block.Name) && !_image.ModelSpaceInFile)
+        {
+            block.Entities.AddRange(_image.ModelSpace.Entities);
+            _image.ModelSpace = block;
+            _image.ModelSpaceInFile = true;
+        }
+        else if (BlockNames.IsActivePaperSpace(block.Name) && !_image.PaperSpaceInFile)
+        {
+            block.Entities.AddRange(_image.PaperSpace.Entities);
+            _image.PaperSpace = block;
+            _image.PaperSpaceInFile = true;
+        }
+
+        _image.BlockEntities.Add(block);
+    }
+
+    private void ReadEntities()
+    {
+        List<CadEntityBase> pending = [];
+        while (NextObject() is { } name)
+        {
+            ReadEntity(name, pending);
+            foreach (CadEntityBase entity in pending)
+            {
+                bool paper = entity.SpaceMode == CadEntitySpaceMode.PaperSpace;
+                (paper ? _image.PaperSpace : _image.ModelSpace).Entities.Add(entity);
+            }
+
+            pending.Clear();
+        }
+    }
+
+    private void ReadEntity(string name, List<CadEntityBase> target)
+    {
+        CadEntityBase? entity = null;
+        try
+        {
+            entity = _objects.ReadEntity(name);
+        }
+        catch (ImageLoadException e) when (_options.IgnoreErrors)
+        {
+            LeaveOut(e);
+        }
+
+        if (entity is not null)
+        {
+            target.Add(entity);
+        }
+    }
+
+    private void ReadObjects()
+    {
+        while (NextObject() is { } name)
+        {
+            CadObjectBase item = DxfTypeTable.CreateObject(name) ?? new RawObject(name);
+            if (TryRead(item))
+            {
+                _image.Objects.Add(item);
+            }
+        }
+    }
+
+    private bool TryRead(CadBaseObject item)
+    {
+        try
+        {
+            _objects.ReadBody(item);
+            return true;
+        }
+        catch (ImageLoadException e) when (_options.IgnoreErrors)
+        {
+            LeaveOut(e);
+            return false;
+        }
+    }
+
+    // The tags of a damaged object are passed over; what follows it is read as usual.
+    private void LeaveOut(ImageLoadException failure)
+    {
+        _options.Errors.Add(failure.Message);
+        while (_tags.Next() && _tags.Code != 0)
+        {
+        }
+
+        _tags.Unread();
+    }
+}
