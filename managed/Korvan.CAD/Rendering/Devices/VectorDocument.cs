@@ -8,7 +8,7 @@ namespace Korvan.CAD.Rendering.Devices;
 /// <summary>Writes pages as PDF (many) or SVG (one); device units are points and pixels of 1/96 inch.</summary>
 internal static unsafe class VectorDocument
 {
-    private const int SvgUnitPixel = 5;
+    private const int SvgUnitPixel = 3;
 
     internal static void WritePdf(Stream output, TextEngine engine, IEnumerable<Page> pages, in DocumentInfo info)
     {

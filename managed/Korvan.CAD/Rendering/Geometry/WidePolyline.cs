@@ -33,13 +33,16 @@ internal static class WidePolyline
         List<Band> bands = Bands(vertices, closed);
         for (int i = 0; i < bands.Count; i++)
         {
-            Band band = bands[i];
             int next = i + 1 < bands.Count ? i + 1 : closed ? 0 : -1;
             if (next >= 0 && next != i)
             {
-                Join(pen, band, bands[next]);
+                Join(pen, bands[i], bands[next]);
             }
+        }
 
+        // Only now: a closing mitre moves the start of the first band.
+        foreach (Band band in bands)
+        {
             band.Draw(pen);
         }
     }

@@ -16,6 +16,8 @@ internal sealed class Canvas
     private const int MostPatternTexts = 5_000;
     private const double DashesPerPathLimit = 100_000;
 
+    private readonly PathBuffer aligned = new();
+
     internal Canvas(DrawingList list, TextEngine engine)
     {
         List = list;
@@ -55,7 +57,8 @@ internal sealed class Canvas
         if (length >= period && length / period * pen.Pattern.Lengths.Length < DashesPerPathLimit)
         {
             style.Dash = DashIndex(pen);
-            style.DashOffset = (float)AlignedOffset(path, pen, length, period);
+            path = Aligned(path, pen, length, period, out double offset);
+            style.DashOffset = (float)offset;
             if (pen.Pattern.Texts.Count > 0)
             {
                 PatternTexts(path, pen, period, style.DashOffset);
@@ -147,20 +150,38 @@ internal sealed class Canvas
     }
 
     /// <summary>
-    /// Open lines begin and end with ink: what is left over after whole periods is shared by both ends, as far as
-    /// the first dash allows.
+    /// A straight line begins and ends with ink. What whole periods leave over shortens the outer dashes by the same
+    /// part, as long as half of each remains; else it lengthens them, by two ends that are drawn on their own.
     /// </summary>
-    private static double AlignedOffset(PathBuffer path, in Pen pen, double length, double period)
+    private PathBuffer Aligned(PathBuffer path, in Pen pen, double length, double period, out double offset)
     {
-        if (path.Verbs[^1] == PathVerb.Close || path.Verbs.Length != 2)
+        offset = 0;
+        bool isLine = path.Verbs.Length == 2 && path.Verbs[1] == PathVerb.Line;
+        double dash = pen.Pattern!.Lengths[0] * pen.PatternScale;
+        double gap = period - dash;
+        double rest = length - (Math.Floor((length - dash) / period) * period) - dash;
+        if (!isLine || !(rest > 0) || dash <= 0)
         {
-            return 0;
+            return path;
         }
 
-        double dash = pen.Pattern!.Lengths[0] * pen.PatternScale;
-        double rest = length - (Math.Floor((length - dash) / period) * period) - dash;
-        double shown = (dash + rest) / 2;
-        return shown <= dash ? dash - shown : 0;
+        if (rest >= gap)
+        {
+            offset = (dash - rest + gap) / 2;
+            return path;
+        }
+
+        Vec2 from = new(path.Coords[0], path.Coords[1]);
+        Vec2 to = new(path.Coords[2], path.Coords[3]);
+        Vec2 end = (to - from) * (rest / 2 / length);
+        aligned.Clear();
+        aligned.MoveTo(from);
+        aligned.LineTo(from + end);
+        aligned.MoveTo(from + end);
+        aligned.LineTo(to - end);
+        aligned.MoveTo(to - end);
+        aligned.LineTo(to);
+        return aligned;
     }
 
     private void PatternTexts(PathBuffer path, in Pen pen, double period, double offset)

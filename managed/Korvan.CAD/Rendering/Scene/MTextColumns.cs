@@ -6,8 +6,8 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 namespace Korvan.CAD.Rendering.Scene;
 
 /// <summary>
-/// The columns of multi-line text. Drawings before 2018 keep them in extended data between two named marks, as pairs
-/// of a group code and its value.
+/// The columns of multi-line text. Release 2018 keeps them in an object embedded in the entity, older ones in extended
+/// data between two named marks, as pairs of a group code and its value.
 /// </summary>
 internal readonly record struct MTextColumns(int Count, double Width, double Gutter, double Height)
 {
@@ -17,8 +17,22 @@ internal readonly record struct MTextColumns(int Count, double Width, double Gut
 
     internal static MTextColumns Read(CadMText text)
     {
+        if (text.Embedded is { } embedded)
+        {
+            return ReadEmbedded(embedded);
+        }
+
         CadXdata? data = text.XdataOrNull?.Find("ACAD");
         return data == null ? default : Read(data.Data);
+    }
+
+    private static MTextColumns ReadEmbedded(List<CadCodeValue> tags)
+    {
+        double Of(int code) => tags.Find(t => t.Attribute == code) is { } tag ? Number(tag) : 0;
+        double count = Of(72);
+        double height = Of(46);
+        bool hasColumns = Of(71) != 0 && count is > 0 and < MostColumns && Of(44) > 0;
+        return hasColumns ? new MTextColumns((int)count, Of(44), Of(45), height > 0 ? height : Of(41)) : default;
     }
 
     private static MTextColumns Read(List<CadCodeValue> tags)

@@ -30,6 +30,9 @@ internal sealed class MTextLayout
     private const double BaselineDistance = 5.0 / 3.0;
     private const double DefaultTab = 4;
 
+    /// <summary>What of a stack's height above the baseline counts as letter height: the gap above it is part of it.</summary>
+    private const double StackShare = 0.75;
+
     private readonly TextEngine engine;
     private readonly MTextFrame frame;
     private readonly double height;
@@ -125,9 +128,21 @@ internal sealed class MTextLayout
         {
             line.Add(piece);
             line.NoteHeight(piece.Token.Format.Height, onlyIfEmpty: false);
+            line.Rise = Math.Max(line.Rise, Rise(piece.Token));
         }
 
         return end;
+    }
+
+    /// <summary>How far a stack reaches above the baseline; letters reach no further than their own height.</summary>
+    private static double Rise(in MTextToken token)
+    {
+        if (token.Kind != MTextTokenKind.Stack || token.Divider == '#')
+        {
+            return 0;
+        }
+
+        return token.Format.Height * (token.Format.Align == StackAlign.Baseline ? 2.5 : 1.75);
     }
 
     private LinePiece Measure(MTextToken token)
@@ -180,7 +195,7 @@ internal sealed class MTextLayout
         foreach (Line line in lines)
         {
             double tallest = line.Height > 0 ? line.Height : height;
-            double advance = BaselineDistance * frame.LineSpacing * (frame.ExactSpacing ? height : tallest);
+            double advance = BaselineDistance * frame.LineSpacing * (frame.ExactSpacing ? height : Math.Max(tallest, line.Rise * StackShare));
             bool columnFull = frame.ColumnHeight > 0 && columns < frame.ColumnCount && -(baseline - advance) > frame.ColumnHeight;
             if (!top && columnFull)
             {
@@ -272,6 +287,8 @@ internal sealed class MTextLayout
         internal double Width { get; private set; }
 
         internal double Height { get; set; }
+
+        internal double Rise { get; set; }
 
         internal double X { get; set; }
 

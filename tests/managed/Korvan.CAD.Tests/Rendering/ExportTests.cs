@@ -1,0 +1,134 @@
+using System;
+using System.IO;
+using System.Linq;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Pdf;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering;
+using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.Geometry;
+using Xunit;
+
+namespace Korvan.CAD.Tests.Rendering;
+
+public class ExportTests
+{
+    [Fact]
+    public void Pdf_has_a_page_for_each_layout_in_the_asked_order_with_real_text()
+    {
+        CadImage drawing = Picture.Drawing(Text("MODELTEXT"));
+        CadLayout sheet = Picture.Sheet(drawing);
+        (sheet.PaperWidth, sheet.PaperHeight) = (297, 210);
+        drawing.PaperSpaceEntities.Add(Text("SHEETTEXT"));
+        var options = new PdfOptions
+        {
+            VectorRasterizationOptions = new CadRasterizationOptions { Layouts = [sheet.LayoutName, "Model"] },
+            PdfDocumentInfo = new PdfDocumentInfo { Title = "Plan \u00c4", Author = "Someone" },
+        };
+        string file = Picture.SaveTo(drawing, options, ".pdf");
+        string info = Tools.Run("pdfinfo", "-f", "1", "-l", "2", file);
+        Assert.Contains("Plan \u00c4", info);
+        Assert.Matches(@"Pages:\s+2", info);
+        Assert.Matches(@"Page\s+1 size:\s+841\.89 x 595\.276", info);
+        Assert.Contains("SHEETTEXT", Tools.Run("pdftotext", "-f", "1", "-l", "1", file, "-"));
+        Assert.Contains("MODELTEXT", Tools.Run("pdftotext", "-f", "2", "-l", "2", file, "-"));
+        Assert.All(Tools.Run("pdffonts", file).Split('\n').Skip(2).Where(l => l.Length > 0), l => Assert.Contains("yes yes", l));
+    }
+
+    [Theory]
+    [InlineData(UnitType.Millimeter, 420, 297, "1190.55 x 841.89")]
+    [InlineData(UnitType.Inch, 11, 8.5, "792 x 612")]
+    [InlineData(UnitType.Unitless, 1600, 1000, "1600 x 1000")]
+    public void Page_sizes_are_in_their_unit(UnitType unit, float width, float height, string expected)
+    {
+        var raster = new CadRasterizationOptions { PageWidth = width, PageHeight = height, UnitType = unit };
+        string file = Picture.SaveTo(Picture.Drawing(Text("X")), new PdfOptions { VectorRasterizationOptions = raster }, ".pdf");
+        Assert.Contains(expected, Tools.Run("pdfinfo", file));
+    }
+
+    [Fact]
+    public void Svg_is_well_formed_and_shows_the_same_in_another_renderer()
+    {
+        var raster = new CadRasterizationOptions { PageWidth = 100, PageHeight = 100 };
+        CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 100, 1), Picture.Square(20, 20, 30, 5), Text("x"));
+        string file = Picture.SaveTo(drawing, new SvgOptions { VectorRasterizationOptions = raster }, ".svg");
+        Tools.Run("xmllint", "--noout", file);
+        string png = Tools.TempFile(".png");
+        Tools.Run("rsvg-convert", "-o", png, file);
+        Assert.Contains("100x100", Tools.Run("identify", png));
+        Assert.Equal("srgb(0,0,255)", Tools.Run("convert", png, "-format", "%[pixel:p{40,60}]", "info:"));
+        Assert.Equal("srgb(255,0,0)", Tools.Run("convert", png, "-format", "%[pixel:p{80,20}]", "info:"));
+    }
+
+    [Fact]
+    public void Content_as_bitmap_and_watermarks_reach_the_page()
+    {
+        var raster = new CadRasterizationOptions { PageWidth = 200, PageHeight = 200, ContentAsBitmap = true };
+        CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 100, 1), Text("NOTEXT"));
+        var options = new PdfOptions { VectorRasterizationOptions = raster, UserWatermarkText = "DRAFT" };
+        string file = Picture.SaveTo(drawing, options, ".pdf");
+        string text = Tools.Run("pdftotext", "-raw", file, "-");
+        Assert.DoesNotContain("NOTEXT", text);
+        Assert.Equal("DRAFT", string.Concat(text.Where(char.IsLetter)));
+        Assert.Contains("image", Tools.Run("pdfimages", "-list", file));
+    }
+
+    [Fact]
+    public void Fit_modes_scale_as_their_names_say()
+    {
+        Bounds2 extents = Bounds2.Of(0, 0, 10, 10);
+        PageRequest Request(FitMode fit) => new()
+        {
+            Width = 100, Height = 50, Fit = fit, UnitScale = 1, Zoom = 1, UnitsPerMillimetre = 1, UsualSide = 420,
+        };
+        Assert.Equal(5, PageLayout.Create(Request(FitMode.Fill), extents, null).Scale);
+        Assert.Equal(1, PageLayout.Create(Request(FitMode.Shrink), extents, null).Scale);
+        Assert.Equal(0.5, PageLayout.Create(Request(FitMode.Shrink), Bounds2.Of(0, 0, 100, 100), null).Scale);
+        Assert.Equal(1, PageLayout.Create(Request(FitMode.None), Bounds2.Of(0, 0, 100, 100), null).Scale);
+        PageLayout bordered = PageLayout.Create(Request(FitMode.Fill) with { Left = 50, Zoom = 0.5 }, extents, null);
+        Assert.Equal(2.5, bordered.Scale);
+        Assert.Equal(new Vec2(75, 25), bordered.ToDevice.Point(5, 5)); // centred in what the border leaves
+    }
+
+    [Fact]
+    public void Drawings_without_size_still_get_a_page()
+    {
+        foreach (CadImage drawing in new[] { Picture.Drawing(), Picture.Drawing(new CadPoint()), Picture.Drawing(Horizontal(5)) })
+        {
+            string file = Picture.SaveTo(drawing, new PdfOptions(), ".pdf");
+            Assert.Matches(@"Pages:\s+1", Tools.Run("pdfinfo", file));
+        }
+    }
+
+    [Fact]
+    public void What_cannot_be_a_page_is_refused_with_its_reason()
+    {
+        CadImage wide = Picture.Drawing(Horizontal(1e9));
+        Refused(wide, new PdfOptions { VectorRasterizationOptions = new CadRasterizationOptions { NoScaling = true } }, "too large");
+        Refused(wide, new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = 90_000, PageHeight = 10 } }, "too large");
+        Refused(Picture.Drawing(Horizontal(1e308), Horizontal(-1e308)), new PngOptions(), "not finite");
+        var borders = new CadRasterizationOptions { PageWidth = 10, PageHeight = 10, BorderX = 8 };
+        Refused(wide, new PngOptions { VectorRasterizationOptions = borders }, "no room");
+        Refused(wide, new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { Layouts = ["Nope"] } }, "\"Nope\"");
+    }
+
+    [Fact]
+    public void Coordinates_that_are_not_numbers_do_not_reach_the_page()
+    {
+        CadImage drawing = Picture.Drawing(Horizontal(double.NaN), Horizontal(double.PositiveInfinity), Picture.Square(0, 0, 50, 1));
+        using Picture picture = Picture.Of(drawing);
+        Assert.Equal(255, picture[20, 20].R);
+    }
+
+    private static void Refused(CadImage drawing, ImageOptionsBase options, string reason)
+    {
+        var refused = Assert.Throws<ImageSaveException>(() => DrawingExporter.Export(drawing, options, Stream.Null));
+        Assert.Contains(reason, refused.Message);
+    }
+
+    private static CadText Text(string text) => new() { DefaultValue = text, TextHeight = 10, FirstAlignment = new Cad3DPoint(20, 20, 0) };
+
+    private static CadLine Horizontal(double length) => new() { SecondPoint = new Cad3DPoint(length, 0, 0) };
+}
