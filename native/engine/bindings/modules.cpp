@@ -209,12 +209,20 @@ bool add_child(PyObject* module, const char* module_name, Ref child, const char*
     return true;
 }
 
+// The interop wrappers get their full names ahead of all types: these name them as interfaces.
+void name_interop_wrappers(const char* root) {
+    for (auto* wrapper = interop_wrappers(); *wrapper != nullptr; ++wrapper) {
+        (*wrapper)->name = keep(std::string(root) + "._wrpgen._interop." + (*wrapper)->short_name);
+    }
+}
+
 PyObject* build_module(const ModuleRecord& record, PyModuleDef& definition, bool is_root) {
     Ref module = Ref::steal(create_module(definition));
     if (!module) {
         return nullptr;
     }
     if (is_root) {
+        name_interop_wrappers(record.name);
         if (fn_ready_descriptor_types(record.name) != 0 ||
             PyShModule_AddType(module.get(), &wrpPye_tyds_FFFFFFFF_FieldDescr,
                                "_FieldDescrType") != 0 ||
@@ -237,9 +245,6 @@ PyObject* build_module(const ModuleRecord& record, PyModuleDef& definition, bool
 PyObject* build_wrapper_module(const std::string& name, ClassBinding* const* wrappers) {
     Ref module = Ref::steal(create_module(*new_definition(keep(name))));
     for (auto* wrapper = wrappers; module && *wrapper != nullptr; ++wrapper) {
-        if ((*wrapper)->name == nullptr) {
-            (*wrapper)->name = keep(name + "." + (*wrapper)->short_name);
-        }
         if (!ready_class(**wrapper)) {
             return nullptr;
         }

@@ -49,8 +49,8 @@ internal static class CppValues
     /// <summary>Both ways of an element of a typed collection; null while the engine lacks one.</summary>
     public static string? ElementOps(ValueUse element)
     {
-        // An item's result is one native word; records would need a form of their own.
-        bool isWord = CSharp.CSharpValues.RecordType(element) is null;
+        // An item's result is one native word, or an interface's record of two; others have no form yet.
+        bool isWord = CSharp.CSharpValues.RecordType(element) is null || element.Kind == ValueKind.Interface;
         return isWord && Argument(element) is { } argument && Result(element) is { } result
             ? $"&element_ops<{argument}, {result}>"
             : null;
