@@ -29,12 +29,12 @@ internal static class CppValues
     /// <summary>The policy of an argument; null while the engine lacks it.</summary>
     public static string? Argument(ValueUse value) => Known(value.Kind == ValueKind.Nullable
         ? Wrap("arg::nullable", Argument(value.Element!))
-        : "arg::" + ArgumentName(value));
+        : HasWrapper(value) ? "arg::" + ArgumentName(value) : null);
 
     /// <summary>The policy of a result; null while the engine lacks it.</summary>
     public static string? Result(ValueUse value) => Known(value.Kind == ValueKind.Nullable
         ? Wrap("ret::nullable", Result(value.Element!))
-        : "ret::" + ResultName(value));
+        : HasWrapper(value) ? "ret::" + ResultName(value) : null);
 
     /// <summary>The binding that a converter of the value reads; null for none.</summary>
     public static string? Binding(ValueUse value) => value.Kind switch
@@ -66,6 +66,10 @@ internal static class CppValues
         ValueKind.IReadOnlyCollection => "irocol",
         _ => "irolist",
     };
+
+    // A typed collection is wrapped by a type of its own, which there is if its element can be carried.
+    private static bool HasWrapper(ValueUse value) =>
+        !value.IsTypedCollection || ElementOps(value.Element!) is not null;
 
     private static string? Pair(string policy, ValueUse value) =>
         Known(policy) is not null && Argument(value) is { } argument && Result(value) is { } result
