@@ -125,7 +125,7 @@ internal static class CodecWriter
         text.AppendLine("        base.WriteCodes(writer);");
         if (model.Subclass is not null)
         {
-            text.AppendLine($"        writer.WriteSubclass(MarkerFor(\"{model.Subclass}\"));");
+            text.AppendLine($"        WriteMarker(writer, \"{model.Subclass}\");");
         }
 
         if (model.Kind == "CadSymbolTableGroupCodes")

@@ -67,8 +67,8 @@ public abstract partial class CadBaseObject
     /// <returns>Whether the tag means something to the class.</returns>
     internal virtual bool ReadCode(int code, DxfTagReader tags) => false;
 
-    /// <summary>Gives the marker that is written for a class; some objects have another one at times.</summary>
-    internal virtual string MarkerFor(string subclass) => subclass;
+    /// <summary>Writes what stands before the codes of a class.</summary>
+    internal virtual void WriteMarker(DxfTagWriter writer, string subclass) => writer.WriteSubclass(subclass);
 
     internal virtual void WriteCodes(DxfTagWriter writer)
     {

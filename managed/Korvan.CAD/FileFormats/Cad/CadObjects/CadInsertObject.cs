@@ -75,9 +75,9 @@ public partial class CadInsertObject : CadEntityBase
     internal const string GridMarker = "AcDbMInsertBlock";
 
     /// <inheritdoc/>
-    internal override string MarkerFor(string subclass)
+    internal override void WriteMarker(DxfTagWriter writer, string subclass)
     {
-        return subclass == SingleMarker && IsGrid ? GridMarker : subclass;
+        base.WriteMarker(writer, subclass == SingleMarker && IsGrid ? GridMarker : subclass);
     }
 
     partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)

@@ -38,6 +38,11 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
 
     internal void WriteAcis(DxfTagWriter writer)
     {
+        if (writer.Release < 2013 || AcisData.Count > 0)
+        {
+            writer.Write(70, ModelerFormatVersion);
+        }
+
         writer.WriteChunks(AcisData);
     }
 }

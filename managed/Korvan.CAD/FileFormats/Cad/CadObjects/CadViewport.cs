@@ -34,56 +34,56 @@ public partial class CadViewport : CadEntityBase
     public short ViewportId { get; set; }
 
     /// <summary>Gets or sets the centre of the view, in display coordinates. Group code 12, 22.</summary>
-    [Cad2DPoint(12)]
+    [Cad2DPoint(12, Since = 2000)]
     public Cad2DPoint ViewCenter { get; set; } = new();
 
     /// <summary>Gets or sets the base of the snap grid. Group code 13, 23.</summary>
-    [Cad2DPoint(13, Optional = true)]
+    [Cad2DPoint(13, Since = 2000)]
     public Cad2DPoint SnapBase { get; set; } = new();
 
     /// <summary>Gets or sets the distances of the snap grid. Group code 14, 24.</summary>
-    [Cad2DPoint(14, Optional = true)]
+    [Cad2DPoint(14, Since = 2000)]
     public Cad2DPoint SnapSpacing { get; set; } = new(0.5, 0.5);
 
     /// <summary>Gets or sets the distances of the grid. Group code 15, 25.</summary>
-    [Cad2DPoint(15, Optional = true)]
+    [Cad2DPoint(15, Since = 2000)]
     public Cad2DPoint GridSpacing { get; set; } = new(0.5, 0.5);
 
     /// <summary>Gets or sets the direction from the target to the eye, in world coordinates. Group code 16, 26,
     /// 36.</summary>
-    [Cad3DPoint(16)]
+    [Cad3DPoint(16, Since = 2000)]
     public Cad3DPoint ViewDirection { get; set; } = new(0, 0, 1);
 
     /// <summary>Gets or sets the point looked at, in world coordinates. Group code 17, 27, 37.</summary>
-    [Cad3DPoint(17)]
+    [Cad3DPoint(17, Since = 2000)]
     public Cad3DPoint ViewTarget { get; set; } = new();
 
     /// <summary>Gets or sets the focal length in perspective. Group code 42.</summary>
-    [CadDouble(42)]
+    [CadDouble(42, Since = 2000)]
     public double LensLength { get; set; } = 50;
 
     /// <summary>Gets or sets the front clipping plane. Group code 43.</summary>
-    [CadDouble(43, Optional = true)]
+    [CadDouble(43, Since = 2000)]
     public double FrontClipPlaneZ { get; set; }
 
     /// <summary>Gets or sets the back clipping plane. Group code 44.</summary>
-    [CadDouble(44, Optional = true)]
+    [CadDouble(44, Since = 2000)]
     public double BackClipPlaneZ { get; set; }
 
     /// <summary>Gets or sets the height of the view, in units of the model. Group code 45.</summary>
-    [CadDouble(45)]
+    [CadDouble(45, Since = 2000)]
     public double ViewHeight { get; set; } = 1;
 
     /// <summary>Gets or sets the angle of the snap grid, in degrees. Group code 50.</summary>
-    [CadDouble(50, Optional = true)]
+    [CadDouble(50, Since = 2000)]
     public double SnapAngle { get; set; }
 
     /// <summary>Gets or sets how far the view is turned, in degrees. Group code 51.</summary>
-    [CadDouble(51, Optional = true)]
+    [CadDouble(51, Since = 2000)]
     public double ViewTwistAngle { get; set; }
 
     /// <summary>Gets or sets how finely circles are drawn. Group code 72.</summary>
-    [CadShort(72, Optional = true)]
+    [CadShort(72, Since = 2000)]
     public short CircleZoomPercent { get; set; } = 100;
 
     /// <summary>Gets the handles of the layers that are frozen in this viewport, in hexadecimal. Group code
@@ -101,32 +101,32 @@ public partial class CadViewport : CadEntityBase
     public string ClippingBoundaryHandle { get; set; } = "";
 
     /// <summary>Gets or sets the name of the plot style sheet. Group code 1.</summary>
-    [CadString(1)]
+    [CadString(1, Since = 2000)]
     public string PlotStyleSheet { get; set; } = "";
 
     /// <summary>Gets or sets how it is drawn: 0 as lines, 2 with hidden lines left out, 3 to 6 shaded. Group code
     /// 281.</summary>
-    [CadShort(281)]
+    [CadShort(281, Since = 2000)]
     public short RenderMode { get; set; }
 
     /// <summary>Gets or sets whether each viewport has its own coordinate system. Group code 71.</summary>
-    [CadShort(71)]
+    [CadShort(71, Since = 2000)]
     public short UcsPerViewport { get; set; }
 
     /// <summary>Gets or sets whether the coordinate system icon stands at the origin. Group code 74.</summary>
-    [CadShort(74)]
+    [CadShort(74, Since = 2000)]
     public short UcsIconAtOrigin { get; set; }
 
     /// <summary>Gets or sets the origin of the coordinate system. Group codes 110, 120, 130.</summary>
-    [Cad3DPoint(110)]
+    [Cad3DPoint(110, Since = 2000)]
     public Cad3DPoint UcsOrigin { get; set; } = new();
 
     /// <summary>Gets or sets the X axis of the coordinate system. Group codes 111, 121, 131.</summary>
-    [Cad3DPoint(111)]
+    [Cad3DPoint(111, Since = 2000)]
     public Cad3DPoint UcsXAxis { get; set; } = new(1, 0, 0);
 
     /// <summary>Gets or sets the Y axis of the coordinate system. Group codes 112, 122, 132.</summary>
-    [Cad3DPoint(112)]
+    [Cad3DPoint(112, Since = 2000)]
     public Cad3DPoint UcsYAxis { get; set; } = new(0, 1, 0);
 
     partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
@@ -140,6 +140,11 @@ public partial class CadViewport : CadEntityBase
 
     partial void OnWriteCodes(DxfTagWriter writer)
     {
+        if (writer.Release < 2000)
+        {
+            return;
+        }
+
         foreach (string layer in FrozenLayers)
         {
             writer.Write(331, layer);

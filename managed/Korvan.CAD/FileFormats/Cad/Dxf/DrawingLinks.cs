@@ -28,6 +28,7 @@ internal static class DrawingLinks
         }
 
         AddMissingLayouts(image);
+        image.PaperSpace.Entities.ForEach(ViewportXdata.Apply);
     }
 
     /// <summary>Finds the block that holds the entities of a layout.</summary>

@@ -99,9 +99,9 @@ public abstract partial class CadDictionaryBase : CadObjectBase
 
     internal void WriteEntries(DxfTagWriter writer)
     {
+        writer.WriteOptional(280, HardOwnerFlag, 0);
         if (writer.Release >= 2000)
         {
-            writer.WriteOptional(280, HardOwnerFlag, 0);
             writer.Write(281, DuplicateRecordCloning);
         }
 

@@ -12,16 +12,16 @@ public abstract partial class CadPolylineBase : CadExtrudedEntityBase
     {
     }
 
-    /// <summary>Gets or sets whether vertices follow. Group code 66.</summary>
-    [CadShort(66, Optional = true)]
+    /// <summary>Gets or sets whether vertices follow; always 1. Group code 66.</summary>
+    [CadShort(66)]
     public short AttributesFlag { get; set; } = 1;
 
     /// <summary>Gets or sets the elevation of a flat polyline in Z; X and Y are 0. Group code 10, 20, 30.</summary>
-    [Cad3DPoint(10, Optional = true)]
+    [Cad3DPoint(10)]
     public Cad3DPoint Elevation { get; set; } = new();
 
     /// <summary>Gets or sets properties of the polyline. Group code 70.</summary>
-    [CadShort(70)]
+    [CadShort(70, Optional = true)]
     public CadPolylineFlag Flag { get; set; }
 
     /// <summary>Gets or sets the start width of pieces that state none. Group code 40.</summary>

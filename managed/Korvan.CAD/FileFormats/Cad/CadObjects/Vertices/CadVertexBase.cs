@@ -1,9 +1,9 @@
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 
 /// <summary>What vertices have in common.</summary>
-[CadObject("VERTEX", Subclass = "AcDbVertex")]
 public abstract partial class CadVertexBase : CadEntityBase
 {
     internal CadVertexBase()
@@ -36,4 +36,15 @@ public abstract partial class CadVertexBase : CadEntityBase
     /// <summary>Gets or sets the tangent for curve fitting, in degrees. Group code 50.</summary>
     [CadDouble(50, Optional = true)]
     public double CurveFitTangent { get; set; }
+
+    /// <inheritdoc/>
+    internal override void WriteMarker(DxfTagWriter writer, string subclass)
+    {
+        if (subclass != "AcDbEntity" && this is not CadFaceRecord)
+        {
+            writer.WriteSubclass("AcDbVertex");
+        }
+
+        base.WriteMarker(writer, subclass);
+    }
 }
