@@ -52,7 +52,7 @@ internal sealed class PenResolver
 
     internal bool IsVisible(LayerInfo layer, BlockContext context)
     {
-        bool shown = !layer.IsOff && !IsFrozen(layer, context) && (layer.IsPlotted || !style.AsPlotted);
+        bool shown = !layer.IsOff && !layer.IsReserved && !IsFrozen(layer, context) && (layer.IsPlotted || !style.AsPlotted);
         return shown && (style.Layers == null || style.Layers.Contains(layer.Name));
     }
 

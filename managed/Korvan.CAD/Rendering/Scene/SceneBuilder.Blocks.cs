@@ -26,9 +26,20 @@ internal sealed partial class SceneBuilder
         else
         {
             List.Skip(block == null ? "INSERT of a missing block" : "INSERT of an external drawing");
+            DrawAttributes(insert, default, pen, context);
+        }
+    }
+
+    /// <summary>Attributes stand where they are in the first cell, and move along with the others.</summary>
+    private void DrawAttributes(CadInsertObject insert, Vec3 cell, in Pen pen, BlockContext context)
+    {
+        BlockContext owner = context with { ByBlock = pen, Parent = context.Parent ?? context };
+        if (cell != default)
+        {
+            Affine3 turn = Ocs.ToWorld(V(insert.ExtrusionDirection)) * Affine3.RotationZ(Radians(insert.RotationAngle));
+            owner = owner with { Map = context.Map * Affine3.Translation(turn.Vector(cell)) };
         }
 
-        BlockContext owner = context with { ByBlock = pen, Parent = context.Parent ?? context };
         foreach (CadAttrib attribute in insert.Attributes)
         {
             Draw(attribute, owner);
@@ -52,8 +63,9 @@ internal sealed partial class SceneBuilder
         {
             for (long column = 0; column < columns; column++)
             {
-                Affine3 cell = Affine3.Translation(new Vec3(column * insert.ColumnSpacing, row * insert.RowSpacing, 0));
-                DrawBlock(block, placed * cell * inner, layer, pen, context);
+                var cell = new Vec3(column * insert.ColumnSpacing, row * insert.RowSpacing, 0);
+                DrawBlock(block, placed * Affine3.Translation(cell) * inner, layer, pen, context);
+                DrawAttributes(insert, cell, pen, context);
             }
         }
     }

@@ -104,7 +104,10 @@ internal sealed partial class SceneBuilder
     private Rgba InlineColorOf(InlineColor color, LayerInfo layer, BlockContext context) =>
         pens.ColorOf(color.IsTrueColor ? new DrawingColor(0, color.Value) : new DrawingColor(color.Value), layer, context);
 
-    /// <summary>The text's own axes: its direction vector where it has one, else the turned x axis of its plane.</summary>
+    /// <summary>
+    /// The text's own axes: its direction vector where it has one, else the turned x axis of the world, which holds
+    /// even for text that is seen from below; only a plane that stands on that axis asks for its object axes.
+    /// </summary>
     private static Affine3 MTextPlane(CadMText text)
     {
         Affine3 ocs = Ocs.ToWorld(V(text.ExtrusionDirection));
@@ -112,7 +115,12 @@ internal sealed partial class SceneBuilder
         if (direction == default || !direction.IsFinite)
         {
             (double sin, double cos) = Math.SinCos(Radians(text.TextRotation));
-            direction = (ocs.AxisX * cos) + (ocs.AxisY * sin);
+            direction = new Vec3(cos, sin, 0);
+        }
+
+        if (Vec3.Cross(ocs.AxisZ, direction).Length < 1e-9 * direction.Length)
+        {
+            direction = ocs.AxisX;
         }
 
         Vec3 x = direction.Unit();

@@ -28,6 +28,9 @@ internal sealed record LayerInfo(string Name)
     internal bool IsFrozen { get; init; }
 
     internal bool IsPlotted { get; init; } = true;
+
+    /// <summary>The layer of definition points, which show on no output at all.</summary>
+    internal bool IsReserved => Name.Equals("DEFPOINTS", StringComparison.OrdinalIgnoreCase);
 }
 
 /// <summary>A text style, its font already resolved.</summary>

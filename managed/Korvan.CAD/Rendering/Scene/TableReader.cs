@@ -24,7 +24,7 @@ internal static class TableReader
         LineWeight = layer.LineWeight,
         IsOff = !layer.IsOn,
         IsFrozen = layer.IsFrozen,
-        IsPlotted = layer.IsPlottable && !layer.Name.Equals("DEFPOINTS", StringComparison.OrdinalIgnoreCase),
+        IsPlotted = layer.IsPlottable,
         Opacity = Opacity(layer),
     };
 
