@@ -1,0 +1,154 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using System.Linq;
+using Korvan.WrpGen.Interop;
+using Xunit;
+
+namespace Korvan.WrpGen.Tests.Runtime;
+
+[Collection(nameof(FakePython))]
+public unsafe class AdapterTests
+{
+    private static VariantArg Argument(object value, ReferenceKind kind = ReferenceKind.Python) =>
+        new() { Kind = (int)kind, Value = FakePython.New(value) };
+
+    [Fact]
+    public void ALentObjectIsOfNoUseAfterItsCall()
+    {
+        VariantArg argument = Argument(new List<object> { 1, 2 });
+        PyScope scope = PyScope.Lending();
+        IList<int> items = scope.ItemList<int>(&argument)!;
+        Assert.Equal([1, 2], items);
+        Assert.Equal(1, FakePython.At(argument.Value).References);
+        scope.End();
+        Assert.Throws<ObjectDisposedException>(() => items.Count);
+    }
+
+    [Fact]
+    public void AKeptObjectOutlivesItsCall()
+    {
+        VariantArg argument = Argument(new List<object> { 1 });
+        PyScope scope = PyScope.Keeping();
+        IList<int> items = scope.ItemList<int>(&argument)!;
+        scope.End();
+        items.Add(7);
+        Assert.Equal([1, 7], (List<object>)FakePython.ValueOf(argument.Value)!);
+        Assert.Equal(2, FakePython.At(argument.Value).References);
+        GC.KeepAlive(items);
+    }
+
+    [Fact]
+    public void AKeptObjectIsReleasedOnlyByACallFromPython()
+    {
+        VariantArg argument = Argument(new List<object>());
+        Keep(&argument);
+        GC.Collect();
+        GC.WaitForPendingFinalizers();
+        Assert.Equal(2, FakePython.At(argument.Value).References);
+        KeptPyReference.ReleaseDead();
+        Assert.Equal(1, FakePython.At(argument.Value).References);
+
+        [System.Runtime.CompilerServices.MethodImpl(System.Runtime.CompilerServices.MethodImplOptions.NoInlining)]
+        static void Keep(VariantArg* argument)
+        {
+            PyScope scope = PyScope.Keeping();
+            Assert.NotNull(scope.AnyIterable(argument));
+        }
+    }
+
+    [Fact]
+    public void ConcreteListsAndArraysAreCopies()
+    {
+        VariantArg argument = Argument(new List<object> { 3, 4 });
+        PyScope scope = PyScope.Lending();
+        List<int> list = scope.ListOf<int>(&argument)!;
+        int[] array = scope.ArrayOf<int>(&argument)!;
+        scope.End();
+        Assert.Equal([3, 4], list);
+        Assert.Equal([3, 4], array);
+    }
+
+    [Fact]
+    public void AnIteratorThatRaisesEndsTheWalkWithItsText()
+    {
+        VariantArg argument = Argument(new List<object> { 1, new Exception("ValueError: third") });
+        PyScope scope = PyScope.Lending();
+        IEnumerable<int> items = scope.Iterable<int>(&argument)!;
+        Assert.Equal("ValueError: third", Assert.Throws<PythonException>(() => items.Sum()).Message);
+    }
+
+    [Fact]
+    public void AnIndexOutOfRangeIsTold()
+    {
+        VariantArg argument = Argument(new List<object>());
+        PyScope scope = PyScope.Lending();
+        IList<int> items = scope.ItemList<int>(&argument)!;
+        Assert.Throws<ArgumentOutOfRangeException>(() => items[0]);
+    }
+
+    [Fact]
+    public void WhatCameFromPythonGoesHomeAsItself()
+    {
+        VariantArg argument = Argument(new List<object>());
+        PyScope scope = PyScope.Lending();
+        object adapter = scope.AnyIterable(&argument)!;
+        PyCollectionArg result;
+        References.WriteAny(adapter, &result);
+        Assert.Equal((int)CollectionKind.Python, result.Kind);
+        Assert.Equal(argument.Value, result.Handle);
+        Assert.Equal(1, FakePython.At(argument.Value).References); // the native side adds its own
+        Assert.Equal(argument.Value, PyWriter.Write(adapter));
+        Assert.Equal(2, FakePython.At(argument.Value).References);
+    }
+
+    [Fact]
+    public void AStreamCrossesOnceABlock()
+    {
+        var file = new MemoryStream();
+        VariantArg argument = Argument(file);
+        PyScope scope = PyScope.Lending();
+        Stream stream = scope.Stream(&argument)!;
+        FakePython.FileCalls = 0;
+        for (int i = 0; i < 200_000; i++)
+        {
+            stream.WriteByte((byte)i);
+        }
+        scope.Complete();
+        Assert.InRange(FakePython.FileCalls, 1, 5);
+        Assert.Equal(200_000, file.Length);
+        scope.End();
+        Assert.Throws<ObjectDisposedException>(() => stream.WriteByte(0));
+    }
+
+    [Fact]
+    public void ReadingAheadIsTakenBackAtTheEndOfTheCall()
+    {
+        var file = new MemoryStream(new byte[1000]);
+        VariantArg argument = Argument(file);
+        PyScope scope = PyScope.Lending();
+        scope.Stream(&argument)!.ReadExactly(new byte[10]);
+        scope.Complete();
+        scope.End();
+        Assert.Equal(10, file.Position);
+    }
+
+    [Theory]
+    [InlineData(1)] // more than was asked for
+    [InlineData(-2000)] // less than nothing
+    public void AStreamThatLiesIsCaught(int lie)
+    {
+        VariantArg argument = Argument(new MemoryStream(new byte[1000]));
+        PyScope scope = PyScope.Keeping();
+        Stream stream = scope.Stream(&argument)!;
+        FakePython.FileLie = lie;
+        try
+        {
+            Assert.Throws<IOException>(() => stream.ReadExactly(new byte[1000]));
+        }
+        finally
+        {
+            FakePython.FileLie = 0;
+        }
+    }
+}
