@@ -42,8 +42,7 @@ public class CadRasterizationOptions : VectorRasterizationOptions
     /// same.</summary>
     public string[] Layers { get; set; } = [];
 
-    /// <summary>Gets or sets the names of the layouts to draw, in order; empty for the active layout, which is
-    /// "Model" in most drawings.</summary>
+    /// <summary>Gets or sets the names of the layouts to draw, in order; empty for the model.</summary>
     public string[] Layouts { get; set; } = [];
 
     /// <summary>Gets or sets which colours are used. Every object's own by default.</summary>

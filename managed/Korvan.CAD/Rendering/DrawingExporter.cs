@@ -50,6 +50,11 @@ internal static class DrawingExporter
 
     private static void WritePdf(CadImage image, PdfOptions options, Stream output)
     {
+        if (options.CorePdfOptions is { Compliance: not PdfCompliance.Pdf15 } document)
+        {
+            throw new RenderException($"Pages are written as PDF 1.5, not as {document.Compliance}; leave Compliance at Pdf15.");
+        }
+
         using var engine = new TextEngine();
         var pages = new PageSource(image, options, engine, DeviceKind.Points, PointsPerInch);
         DocumentInfo info = DocumentInfoReader.Read(image, options);

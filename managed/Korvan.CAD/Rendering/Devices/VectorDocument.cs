@@ -9,6 +9,7 @@ namespace Korvan.CAD.Rendering.Devices;
 internal static unsafe class VectorDocument
 {
     private const int SvgUnitPixel = 3;
+    private const int PdfVersion15 = 1;
 
     internal static void WritePdf(Stream output, TextEngine engine, IEnumerable<Page> pages, in DocumentInfo info)
     {
@@ -23,6 +24,7 @@ internal static unsafe class VectorDocument
                 {
                     surface = Cairo.PdfSurfaceCreate(StreamSink.Callback, sink.Closure, page.Width, page.Height);
                     Cairo.Check(Cairo.SurfaceStatus(surface), "starting a PDF document");
+                    Cairo.PdfSurfaceRestrictToVersion(surface, PdfVersion15);
                     Describe(surface, info);
                     cr = Cairo.Create(surface);
                 }

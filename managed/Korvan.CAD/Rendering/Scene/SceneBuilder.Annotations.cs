@@ -83,8 +83,7 @@ internal sealed partial class SceneBuilder
 
     private void DrawToleranceRow(string row, double top, double height, StyleInfo used, in Affine3 map, in Pen pen)
     {
-        var start = new MTextFormat(
-            used.Font, height, used.WidthFactor, 0, 1, default, StackAlign.Baseline, false, false, false, used.IsToleranceFont);
+        MTextFormat start = StartFormat(used, height);
         double left = 0;
         double pad = height / 2;
         foreach (string cell in row.Split(CellBreak))

@@ -82,8 +82,7 @@ internal sealed partial class SceneBuilder
     {
         StyleInfo used = tables.Style(text.TextStyleName);
         double height = text.InitialTextHeight > 0 ? text.InitialTextHeight : tables.Settings.TextSize;
-        var start = new MTextFormat(
-            used.Font, height, used.WidthFactor, used.ObliqueDegrees, 1, default, StackAlign.Baseline, false, false, false, used.IsToleranceFont);
+        MTextFormat start = StartFormat(used, height);
         double spacing = text.LineSpacingFactor is > 0 and < 100 ? text.LineSpacingFactor : 1;
         MTextColumns columns = MTextColumns.Read(text);
         var frame = new MTextFrame(
@@ -100,6 +99,9 @@ internal sealed partial class SceneBuilder
         DrawBackground(text, layout, height, map, pen, layer, context);
         TextPainter.Draw(canvas, layout, map, pen, color => InlineColorOf(color, layer, context));
     }
+
+    private static MTextFormat StartFormat(StyleInfo style, double height) => new(
+        style.Font, height, style.WidthFactor, style.ObliqueDegrees, 1, default, StackAlign.Baseline, false, false, false, style.IsToleranceFont);
 
     private Rgba InlineColorOf(InlineColor color, LayerInfo layer, BlockContext context) =>
         pens.ColorOf(color.IsTrueColor ? new DrawingColor(0, color.Value) : new DrawingColor(color.Value), layer, context);

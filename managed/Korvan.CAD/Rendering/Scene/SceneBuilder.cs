@@ -178,7 +178,7 @@ internal sealed partial class SceneBuilder
             case CadViewport:
                 break;
             default:
-                List.Skip(entity.TypeNameText);
+                DrawRaw(entity, pen, layer, context);
                 break;
         }
     }

@@ -30,7 +30,12 @@ internal static class SceneReader
 
         foreach (CadBlockEntity block in image.BlockEntities)
         {
-            tables.Blocks.TryAdd(block.Name, Block(block, recordHandles, orders));
+            BlockInfo info = Block(block, recordHandles, orders);
+            tables.Blocks.TryAdd(block.Name, info);
+            if (recordHandles.TryGetValue(block.Name, out ulong record))
+            {
+                tables.BlocksByRecord.TryAdd(record, info);
+            }
         }
 
         BlockInfo model = Block(image.ModelSpace, recordHandles, orders);
@@ -42,7 +47,9 @@ internal static class SceneReader
         var styleNames = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
         foreach (CadStyleTableObject text in image.Styles)
         {
-            tables.Styles.TryAdd(text.Name, TableReader.Style(text));
+            StyleInfo style = TableReader.Style(text);
+            tables.Styles.TryAdd(text.Name, style);
+            tables.StylesByHandle.TryAdd(text.Handle, style);
             styleNames.TryAdd(text.ObjectHandle, text.Name);
         }
 

@@ -102,6 +102,11 @@ internal sealed class SceneTables
 
     internal Dictionary<string, BlockInfo> Blocks { get; } = new(StringComparer.OrdinalIgnoreCase);
 
+    /// <summary>Styles and blocks by the handle of their record, as some entities refer to them.</summary>
+    internal Dictionary<ulong, StyleInfo> StylesByHandle { get; } = [];
+
+    internal Dictionary<ulong, BlockInfo> BlocksByRecord { get; } = [];
+
     internal SceneSettings Settings { get; set; } = new();
 
     internal LayerInfo Layer(string name) => Layers.TryGetValue(name, out LayerInfo? layer) ? layer : AddLayer(name);

@@ -162,7 +162,8 @@ public class SceneTests
         };
         CadImage drawing = Picture.Drawing(line);
         drawing.LineTypes.Add(dashed);
-        using Picture picture = Picture.Of(drawing, o => o.PenOptions = new PenOptions { StartCap = LineCap.Flat });
+        using Picture picture = Picture.Of(
+            drawing, o => (o.PenOptions, o.VisibilityMode) = (new PenOptions { StartCap = LineCap.Flat }, VisibilityMode.AsPrint));
         Assert.Equal(Red, picture[10, 50]);
         Assert.Equal(Rgba.White, picture[20, 50]);
         Assert.Equal(Red, picture[90, 50]); // begins and ends with ink
