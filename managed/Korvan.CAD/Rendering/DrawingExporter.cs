@@ -28,8 +28,8 @@ internal static class DrawingExporter
                 case PdfOptions pdf:
                     WritePdf(image, pdf, output);
                     break;
-                case SvgOptions:
-                    WriteSvg(image, options, output);
+                case SvgOptions svg:
+                    WriteSvg(image, svg, output);
                     break;
                 case PngOptions png:
                     WritePng(image, png, output);
@@ -61,11 +61,19 @@ internal static class DrawingExporter
         VectorDocument.WritePdf(output, engine, pages.Pages(), info);
     }
 
-    private static void WriteSvg(CadImage image, ImageOptionsBase options, Stream output)
+    private static void WriteSvg(CadImage image, SvgOptions options, Stream output)
     {
         using var engine = new TextEngine();
         var pages = new PageSource(image, options, engine, DeviceKind.UserUnits, PixelsPerInch);
-        VectorDocument.WriteSvg(output, engine, pages.SinglePage());
+        Page page = pages.SinglePage();
+        if (options.TextAsShapes || options.VectorRasterizationOptions is { ContentAsBitmap: true })
+        {
+            VectorDocument.WriteSvg(output, engine, page);
+        }
+        else
+        {
+            SvgTextDocument.Write(output, engine, page);
+        }
     }
 
     private static void WritePng(CadImage image, PngOptions options, Stream output)
@@ -76,7 +84,8 @@ internal static class DrawingExporter
 
     private static RasterPage RasterizeSingle(CadImage image, ImageOptionsBase options)
     {
-        using var engine = new TextEngine();
+        TextRenderingHint hint = options.VectorRasterizationOptions?.GraphicsOptions?.TextRenderingHint ?? TextRenderingHint.SystemDefault;
+        using var engine = new TextEngine(hint is TextRenderingHint.SingleBitPerPixel or TextRenderingHint.SingleBitPerPixelGridFit);
         var pages = new PageSource(image, options, engine, DeviceKind.Pixels, Resolution(options));
         return RasterPage.Render(engine, pages.SinglePage());
     }

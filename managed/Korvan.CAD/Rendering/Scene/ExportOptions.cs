@@ -33,6 +33,25 @@ internal sealed class ExportOptions
         cad = vector as CadRasterizationOptions;
     }
 
+    /// <summary>Throws for an option that is set but that drawing would not follow.</summary>
+    internal void Verify()
+    {
+        if (cad == null)
+        {
+            return;
+        }
+
+        if (cad.ShxFonts.Length > 0)
+        {
+            throw new RenderException("Compiled shape fonts are not read, installed outline fonts stand in for them; leave ShxFonts empty.");
+        }
+
+        if (cad.RenderMode3D != RenderMode3D.Wireframe)
+        {
+            throw new RenderException($"Bodies are drawn by their edges, not as {cad.RenderMode3D}; leave RenderMode3D at Wireframe.");
+        }
+    }
+
     internal IReadOnlyList<string> Layouts => cad?.Layouts ?? [];
 
     internal bool FitEachLayout => cad?.AutomaticLayoutsScaling ?? true;

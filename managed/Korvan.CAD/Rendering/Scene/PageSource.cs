@@ -32,6 +32,7 @@ internal sealed class PageSource
         this.engine = engine;
         this.device = device;
         this.options = new ExportOptions(options, device, unitsPerInch);
+        this.options.Verify();
         format = options.TargetFormat.ToString();
         scene = SceneReader.Read(image);
         layouts = scene.Choose(this.options.Layouts);

@@ -23,6 +23,7 @@ internal sealed unsafe class TextEngine : IDisposable
     private const double UsualCapRatio = 0.7;
 
     private readonly List<nint> descriptions = [];
+    private readonly List<FontSpec> specs = [];
     private readonly List<double> capRatios = [];
     private readonly Dictionary<FontSpec, int> fonts = [];
     private readonly Dictionary<(int Font, string Text, double Spacing), double> advances = [];
@@ -33,7 +34,8 @@ internal sealed unsafe class TextEngine : IDisposable
     private string? currentText;
     private double currentSpacing;
 
-    internal TextEngine()
+    /// <summary>An engine; sharp ones draw letters without grey edges.</summary>
+    internal TextEngine(bool sharp = false)
     {
         NativeLibraries.Require();
         fontMap = Pango.CairoFontMapNew();
@@ -43,7 +45,7 @@ internal sealed unsafe class TextEngine : IDisposable
         nint options = Cairo.FontOptionsCreate();
         Cairo.FontOptionsSetHintStyle(options, HintNone);
         Cairo.FontOptionsSetHintMetrics(options, HintMetricsOff);
-        Cairo.FontOptionsSetAntialias(options, CairoAntialias.Gray);
+        Cairo.FontOptionsSetAntialias(options, sharp ? CairoAntialias.None : CairoAntialias.Gray);
         Pango.CairoContextSetFontOptions(context, options);
         Cairo.FontOptionsDestroy(options);
         layout = Pango.LayoutNew(context);
@@ -60,12 +62,15 @@ internal sealed unsafe class TextEngine : IDisposable
         {
             index = descriptions.Count;
             descriptions.Add(Describe(spec));
+            specs.Add(spec);
             fonts.Add(spec, index);
             capRatios.Add(MeasureCapRatio(index));
         }
 
         return index;
     }
+
+    internal FontSpec SpecOf(int font) => specs[font];
 
     /// <summary>Height of a capital letter as a part of the em: drawings give the first, fonts are scaled by the second.</summary>
     internal double CapRatio(int font) => capRatios[font];

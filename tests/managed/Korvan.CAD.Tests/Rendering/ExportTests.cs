@@ -49,6 +49,25 @@ public class ExportTests
     }
 
     [Fact]
+    public void Svg_can_keep_text_as_text_at_the_same_place()
+    {
+        CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 100, 3), Text("A<B & \u00c4"));
+        string[] pictures = new string[2];
+        for (int i = 0; i < 2; i++)
+        {
+            var raster = new CadRasterizationOptions { PageWidth = 200, PageHeight = 200 };
+            string file = Picture.SaveTo(drawing, new SvgOptions { TextAsShapes = i == 0, VectorRasterizationOptions = raster }, ".svg");
+            Tools.Run("xmllint", "--noout", file);
+            Assert.Equal(i == 1, File.ReadAllText(file).Contains(">A&lt;B &amp; \u00c4</text>"));
+            pictures[i] = Tools.TempFile(".png");
+            Tools.Run("rsvg-convert", "-o", pictures[i], file);
+        }
+
+        string difference = Tools.Run("convert", pictures[0], pictures[1], "-metric", "RMSE", "-compare", "-format", "%[distortion]", "info:");
+        Assert.InRange(double.Parse(difference, System.Globalization.CultureInfo.InvariantCulture), 0, 0.05);
+    }
+
+    [Fact]
     public void Svg_is_well_formed_and_shows_the_same_in_another_renderer()
     {
         var raster = new CadRasterizationOptions { PageWidth = 100, PageHeight = 100 };
@@ -112,6 +131,9 @@ public class ExportTests
         var borders = new CadRasterizationOptions { PageWidth = 10, PageHeight = 10, BorderX = 8 };
         Refused(wide, new PngOptions { VectorRasterizationOptions = borders }, "no room");
         Refused(wide, new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { Layouts = ["Nope"] } }, "\"Nope\"");
+        Refused(wide, new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { Layouts = ["Model", "Model"] } }, "one page");
+        Refused(wide, new PdfOptions { CorePdfOptions = new PdfDocumentOptions { Compliance = PdfCompliance.PdfA1b } }, "PdfA1b");
+        Refused(wide, new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { ShxFonts = ["a.shx"] } }, "ShxFonts");
     }
 
     [Fact]
