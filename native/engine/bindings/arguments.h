@@ -8,8 +8,11 @@
 #include "bindings/classes.h"
 #include "bindings/enums.h"
 #include "generic/collection_arguments.h"
+#include "generic/interop.h"
 #include "generic/stream_argument.h"
 #include "runtime/buffers.h"
+#include "runtime/dates.h"
+#include "runtime/decimals.h"
 #include "runtime/numbers.h"
 #include "runtime/strings.h"
 #include "runtime/variant.h"
@@ -37,6 +40,24 @@ using uint64 = scalar<unsigned long, fn_conv_py_ulong_to_clr_uint64>;
 using float32 = scalar<float, fn_conv_py_float_to_clr_float>;
 using float64 = scalar<double, fn_conv_py_float_to_clr_double>;
 using char16 = scalar<unsigned short, fn_conv_py_string_to_clr_char>;
+
+using datetime = scalar<long, fn_conv_py_datetime_to_clr_datetime>;
+using timespan = scalar<long, fn_conv_py_datetimedelta_to_clr_timespan>;
+
+// Some words that cross by their address.
+template <class Word, int Count, int (*Convert)(PyObject*, Word*)> struct words {
+    struct cell {
+        Word value[Count] = {};
+    };
+    static int convert(PyObject* object, cell* out, const void*) {
+        return Convert(object, out->value);
+    }
+    static std::tuple<const Word*> pass(cell& words) { return {words.value}; }
+};
+
+using datetimeoffset = words<long, 2, fn_conv_py_datetime_to_clr_datetimeoffset>;
+using decimal = words<unsigned int, 4, fn_conv_py_decimal_to_clr_decimal>;
+using guid = words<unsigned char, 16, fn_conv_py_uuid_to_clr_guid>;
 
 // A record that crosses by its address.
 template <class Record, int (*Convert)(PyObject*, Record*, const void*)> struct record {
@@ -94,10 +115,15 @@ inline int convert_stream(PyObject* object, VariantArg* out, const void*) {
     return wrpPye_conv_py_to_clr_stream(object, out);
 }
 
+inline int convert_version(PyObject* object, PySysVersionArg* out, const void*) {
+    return fn_conv_py_tuple_to_clr_version(object, out);
+}
+
 using structure = record<VariantArg, convert_structure>;
 using interface_ = record<VariantArg, convert_interface>;
 using variant = record<VariantArg, convert_variant>;
 using stream = record<VariantArg, convert_stream>;
+using version = record<PySysVersionArg, convert_version>;
 
 template <CollectionParameter Kind>
 int convert_collection(PyObject* object, VariantArg* out, const void* type) {
@@ -110,6 +136,19 @@ using icol = record<VariantArg, convert_collection<CollectionParameter::collecti
 using ilist = record<VariantArg, convert_collection<CollectionParameter::list>>;
 using irocol = record<VariantArg, convert_collection<CollectionParameter::collection>>;
 using irolist = record<VariantArg, convert_collection<CollectionParameter::list>>;
+
+template <ClassBinding& Wrapper, CollectionParameter Kind>
+int convert_any_collection(PyObject* object, VariantArg* out, const void*) {
+    return conv_py_to_clr_collection(object, out, &Wrapper, Kind);
+}
+using any_iterable =
+    record<VariantArg,
+           convert_any_collection<wrpPye_tyds_IterableWrapper, CollectionParameter::iterable>>;
+using any_collection =
+    record<VariantArg,
+           convert_any_collection<wrpPye_tyds_IColWrapper, CollectionParameter::collection>>;
+using any_list = record<
+    VariantArg, convert_any_collection<wrpPye_tyds_IListWrapper, CollectionParameter::list>>;
 
 template <class T> struct enumeration {
     using cell = T;
@@ -139,6 +178,61 @@ template <class Inner> struct nullable {
     static auto pass(cell& value) {
         return std::tuple_cat(std::tuple<int>(value.has_value), Inner::pass(value.value));
     }
+};
+
+// A ref parameter: in Python a list, empty or holding a default, whose first item is replaced. What
+// the delegate gave out and no list took over is given back.
+template <class In, class Ret> struct by_ref {
+    struct cell {
+        PyObject* list = nullptr; // borrowed from the arguments
+        typename In::cell in{};
+        typename Ret::native out{};
+        bool is_delivered = false;
+
+        cell() = default;
+        cell(const cell&) = delete;
+        cell& operator=(const cell&) = delete;
+        ~cell() {
+            if (!is_delivered) {
+                Ret::discard(out);
+            }
+        }
+    };
+    static int convert(PyObject* object, cell* out, const void* type) {
+        struct Target {
+            cell* target;
+            const void* type;
+        } target{out, type};
+        PyParamByRef record{nullptr,
+                            [](PyObject* item, void* destination) {
+                                const auto* inner = static_cast<Target*>(destination);
+                                return In::convert(item, &inner->target->in, inner->type);
+                            },
+                            &target};
+        const int converted = fn_conv_py_parbyref_to_clr_parbyref(object, &record);
+        out->list = record.list;
+        return converted;
+    }
+    static auto pass(cell& value) {
+        return std::tuple_cat(In::pass(value.in), std::tuple<typename Ret::native*>(&value.out));
+    }
+    // After the call: the value goes into the list. False with an error.
+    static bool deliver(cell& value, const void* type) {
+        value.is_delivered = true; // the converter takes it over even when it fails
+        PyObject* object = Ret::make(value.out, type);
+        return object != nullptr && fn_push_parbyref_outvalue(value.list, object) == 0;
+    }
+};
+
+// An out parameter: as ref, but nothing goes in.
+template <class In, class Ret> struct out : by_ref<In, Ret> {
+    using cell = typename by_ref<In, Ret>::cell;
+    static std::tuple<typename Ret::native*> pass(cell& value) { return {&value.out}; }
+};
+
+template <class Policy>
+concept Output = requires(typename Policy::cell& cell, const void* type) {
+    Policy::deliver(cell, type);
 };
 
 // Type-erased for the parser.

@@ -16,6 +16,8 @@ template <class... Args> struct Frame {
         return parse(leg, arguments, std::index_sequence_for<Args...>());
     }
     auto natives() { return natives(std::index_sequence_for<Args...>()); }
+    // Gives the values of ref and out parameters to their lists. False with an error.
+    bool deliver(const Leg& leg) { return deliver(leg, std::index_sequence_for<Args...>()); }
 
 private:
     template <size_t... I>
@@ -24,10 +26,33 @@ private:
         void* const addresses[] = {&std::get<I>(cells)..., nullptr};
         return parse_arguments(leg, converters, addresses, arguments);
     }
+    template <size_t... I> bool deliver([[maybe_unused]] const Leg& leg, std::index_sequence<I...>) {
+        return (deliver_one<Args>(std::get<I>(cells), leg.parameters[I].type) && ...);
+    }
+    template <class Arg>
+    static bool deliver_one([[maybe_unused]] typename Arg::cell& cell,
+                            [[maybe_unused]] const void* type) {
+        if constexpr (arg::Output<Arg>) {
+            return Arg::deliver(cell, type);
+        } else {
+            return true;
+        }
+    }
     template <size_t... I> auto natives(std::index_sequence<I...>) {
         return std::tuple_cat(Args::pass(std::get<I>(cells))...);
     }
 };
+
+template <class Frame> LegOutcome finish(Frame& frame, const Leg& leg, PyObject** result) {
+    if (*result == nullptr) {
+        return LegOutcome::failed;
+    }
+    if (!frame.deliver(leg)) {
+        Py_CLEAR(*result);
+        return LegOutcome::failed;
+    }
+    return LegOutcome::done;
+}
 
 } // namespace leg_detail
 
@@ -43,7 +68,7 @@ LegOutcome call(const Leg& leg, PyObject* self, const CallArguments& arguments, 
             return Ret::invoke(function, leg.result_type, clr_handle(self), natives...);
         },
         frame.natives());
-    return *result != nullptr ? LegOutcome::done : LegOutcome::failed;
+    return leg_detail::finish(frame, leg, result);
 }
 
 template <class Ret, class... Args>
@@ -57,7 +82,7 @@ LegOutcome call_static(const Leg& leg, PyObject*, const CallArguments& arguments
     *result = std::apply(
         [&](auto... natives) { return Ret::invoke(function, leg.result_type, natives...); },
         frame.natives());
-    return *result != nullptr ? LegOutcome::done : LegOutcome::failed;
+    return leg_detail::finish(frame, leg, result);
 }
 
 // The handle is stored before the error test: what a failing constructor returned is given back

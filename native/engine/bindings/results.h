@@ -7,6 +7,10 @@
 
 #include "bindings/classes.h"
 #include "bindings/enums.h"
+#include "generic/interop.h"
+#include "host/exchange_host.h"
+#include "runtime/dates.h"
+#include "runtime/decimals.h"
 #include "runtime/strings.h"
 #include "runtime/types_map.h"
 #include "runtime/variant.h"
@@ -28,10 +32,16 @@ struct none {
     }
 };
 
-// A value returned directly. `Make` gives the Python object.
-template <class T, PyObject* (*Make)(T, const void*)> struct value {
+template <class T> void keep_nothing(T) {}
+
+// A value returned directly. `Make` gives the Python object and takes the value over; `Discard`
+// gives back a value that nothing took over.
+template <class T, PyObject* (*Make)(T, const void*), void (*Discard)(T) = keep_nothing<T>>
+struct value {
     using native = T;
+    static constexpr bool is_record = false;
     static PyObject* make(T result, const void* type) { return Make(result, type); }
+    static void discard(T result) { Discard(result); }
     template <class... Native>
     static PyObject* invoke(void* function, const void* type, Native... natives) {
         const T result = reinterpret_cast<T (*)(Native...)>(function)(natives...);
@@ -57,6 +67,15 @@ inline PyObject* make_finished(void* result, const void*) { return static_cast<P
 inline PyObject* make_object(void* result, const void* type) {
     return fn_conv_clr_clsobj_to_py_clsobj(result, type_object(type));
 }
+inline void discard_finished(void* result) { Py_XDECREF(static_cast<PyObject*>(result)); }
+inline void discard_handle(void* result) {
+    if (result != nullptr) {
+        ExchangeHost::get_instance().free_instance(result);
+    }
+}
+inline PyObject* make_timespan(long result, const void*) {
+    return fn_conv_clr_timespan_to_py_datetimedelta(result);
+}
 template <class T> PyObject* make_enumeration(T result, const void* type) {
     return conv_clr_to_py_enum(result, *static_cast<EnumBinding*>(const_cast<void*>(type)));
 }
@@ -73,17 +92,18 @@ using uint64 = value<unsigned long, make_unsigned<unsigned long>>;
 using float32 = value<float, make_float<float>>;
 using float64 = value<double, make_float<double>>;
 using char16 = value<unsigned short, make_char>;
-using finished = value<void*, make_finished>;
-using object = value<void*, make_object>;
-using array = value<void*, make_object>;
+using finished = value<void*, make_finished, discard_finished>;
+using object = value<void*, make_object, discard_handle>;
+using array = value<void*, make_object, discard_handle>;
+using timespan = value<long, make_timespan>;
 template <class T> using enumeration = value<T, make_enumeration<T>>;
 
 // A record that the delegate fills through its last argument.
-template <class Record, PyObject* (*Make)(const Record&, PyTypeObject*)> struct out_record {
+template <class Record, PyObject* (*Make)(Record&, const void*)> struct out_record {
     using native = Record;
-    static PyObject* make(const Record& record, const void* type) {
-        return Make(record, type_object(type));
-    }
+    static constexpr bool is_record = true;
+    static PyObject* make(Record record, const void* type) { return Make(record, type); }
+    static void discard(const Record&) {}
     template <class... Native>
     static PyObject* invoke(void* function, const void* type, Native... natives) {
         Record record{};
@@ -91,23 +111,74 @@ template <class Record, PyObject* (*Make)(const Record&, PyTypeObject*)> struct 
         if (PyErr_Occurred() != nullptr) {
             return nullptr;
         }
-        return Make(record, type_object(type));
+        return Make(record, type);
     }
 };
 
-using interface_ = out_record<PyObjectOutArg, fn_conv_clr_ifcimpl_to_py_ifcimpl>;
-using collection = out_record<PyCollectionArg, fn_conv_clr_btpobj_to_py_btpobj>;
-using interface_collection =
-    out_record<PyCollectionArg, fn_conv_clr_ifcimpl_to_py_ifcimpl_wps>;
+struct Ticks {
+    long value[2]; // ticks and, for a local time or an offset form, the offset
+};
+struct Decimal {
+    unsigned int words[4];
+};
+struct Guid {
+    unsigned char bytes[16];
+};
 
-// The value and, through the last argument, whether there is one.
+inline PyObject* make_interface(PyObjectOutArg& result, const void* type) {
+    return fn_conv_clr_ifcimpl_to_py_ifcimpl(result, type_object(type));
+}
+inline PyObject* make_collection(PyCollectionArg& result, const void* type) {
+    return fn_conv_clr_btpobj_to_py_btpobj(result, type_object(type));
+}
+inline PyObject* make_interface_collection(PyCollectionArg& result, const void* type) {
+    return fn_conv_clr_ifcimpl_to_py_ifcimpl_wps(result, type_object(type));
+}
+template <ClassBinding& Wrapper> PyObject* make_any(PyCollectionArg& result, const void*) {
+    return fn_conv_clr_ifcimpl_to_py_ifcimpl_wps(result, &Wrapper.type);
+}
+inline PyObject* make_datetime(Ticks& result, const void*) {
+    return fn_conv_clr_datetime_to_py_datetime(result.value);
+}
+inline PyObject* make_datetimeoffset(Ticks& result, const void*) {
+    return fn_conv_clr_datetimeoffset_to_py_datetime(result.value);
+}
+inline PyObject* make_decimal(Decimal& result, const void*) {
+    return fn_conv_clr_decimal_to_py_decimal(result.words);
+}
+inline PyObject* make_guid(Guid& result, const void*) {
+    return fn_conv_clr_guid_to_py_uuid(result.bytes);
+}
+inline PyObject* make_version(PySysVersionArg& result, const void*) {
+    return fn_conv_clr_version_to_py_tuple(result);
+}
+
+using interface_ = out_record<PyObjectOutArg, make_interface>;
+using collection = out_record<PyCollectionArg, make_collection>;
+using interface_collection = out_record<PyCollectionArg, make_interface_collection>;
+using any_iterable = out_record<PyCollectionArg, make_any<wrpPye_tyds_IterableWrapper>>;
+using any_collection = out_record<PyCollectionArg, make_any<wrpPye_tyds_IColWrapper>>;
+using any_list = out_record<PyCollectionArg, make_any<wrpPye_tyds_IListWrapper>>;
+using datetime = out_record<Ticks, make_datetime>;
+using datetimeoffset = out_record<Ticks, make_datetimeoffset>;
+using decimal = out_record<Decimal, make_decimal>;
+using guid = out_record<Guid, make_guid>;
+using version = out_record<PySysVersionArg, make_version>;
+
+// Whether there is a value comes through `int* has_value`: behind all else for a value returned
+// directly, ahead of the record for one that fills a record.
 template <class Inner> struct nullable {
     template <class... Native>
     static PyObject* invoke(void* function, const void* type, Native... natives) {
-        using T = typename Inner::native;
+        typename Inner::native result{};
         int has_value = 0;
-        const T result =
-            reinterpret_cast<T (*)(Native..., int*)>(function)(natives..., &has_value);
+        if constexpr (Inner::is_record) {
+            reinterpret_cast<void (*)(Native..., int*, typename Inner::native*)>(function)(
+                natives..., &has_value, &result);
+        } else {
+            result = reinterpret_cast<typename Inner::native (*)(Native..., int*)>(function)(
+                natives..., &has_value);
+        }
         if (PyErr_Occurred() != nullptr) {
             return nullptr;
         }

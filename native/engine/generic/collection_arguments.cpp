@@ -48,6 +48,12 @@ int conv_py_to_clr_collection(PyObject* object, VariantArg* out, ClassBinding* w
         out->value = clr_handle(object);
         return 1;
     }
+    if (fn_is_this_module_clr_instance(object, &out->kind) &&
+        fn_contains_additional_ifc_markattr(object, &wrapper->type)) {
+        out->value = clr_handle(object);
+        return 1;
+    }
+    out->kind = KORVAN_REF_OBJECT;
     if (fn_conv_py_obj_to_clr_gen_not_null_handle(object, out)) {
         const int fits = wrapper_fits(*wrapper, out);
         if (fits != 0) {

@@ -4,6 +4,8 @@
 #include "host/host_environment.h"
 #include "host/object_host.h"
 #include "runtime/buffers.h"
+#include "runtime/dates.h"
+#include "runtime/decimals.h"
 #include "runtime/exception_bridge.h"
 #include "runtime/numbers.h"
 #include "runtime/strings.h"

@@ -257,26 +257,3 @@ PyObject* fn_conv_clr_version_to_py_tuple(const PySysVersionArg& version) {
     }
     return tuple.release();
 }
-
-static int refuse(const char* value) {
-    PyErr_Format(PyExc_TypeError, "%s values are not carried by this version of the bridge", value);
-    return 0;
-}
-
-int fn_read_py_decimal(PyObject*, unsigned int*) { return refuse("decimal"); }
-int fn_read_py_decimal_tuple(PyObject*, unsigned int*) { return refuse("decimal"); }
-int fn_read_py_vers_datetime(PyObject*, long*) { return refuse("datetime"); }
-int fn_read_py_vers_date(PyObject*, long*) { return refuse("date"); }
-int fn_read_py_vers_time(PyObject*, long*) { return refuse("time"); }
-int fn_read_py_datetimedelta(PyObject*, long*) { return refuse("timedelta"); }
-
-static PyObject* refuse_result(const char* value) {
-    refuse(value);
-    return nullptr;
-}
-
-PyObject* fn_write_py_decimal(const unsigned int*) { return refuse_result("decimal"); }
-PyObject* fn_write_py_date_time(const long*) { return refuse_result("datetime"); }
-PyObject* fn_write_py_date_time_offset(const long*) { return refuse_result("datetime"); }
-PyObject* fn_write_py_datetimedelta(long) { return refuse_result("timedelta"); }
-PyObject* fn_write_py_timezone(const char16_t*, int, long) { return refuse_result("timezone"); }

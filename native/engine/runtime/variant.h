@@ -38,18 +38,4 @@ PyObject* fn_conv_clr_version_to_py_tuple(const PySysVersionArg& version);
 void fn_read_py_guid(PyObject* object, unsigned char* out);
 PyObject* fn_write_py_guid(const void* bytes);
 
-// Slots for dates and decimals. This version of the bridge does not carry these values: each
-// raises TypeError and names the value that it was asked for.
-int fn_read_py_decimal(PyObject* object, unsigned int* out);
-int fn_read_py_decimal_tuple(PyObject* object, unsigned int* out);
-int fn_read_py_vers_datetime(PyObject* object, long* out);
-int fn_read_py_vers_date(PyObject* object, long* out);
-int fn_read_py_vers_time(PyObject* object, long* out);
-int fn_read_py_datetimedelta(PyObject* object, long* out);
-PyObject* fn_write_py_decimal(const unsigned int* parts);
-PyObject* fn_write_py_date_time(const long* ticks);
-PyObject* fn_write_py_date_time_offset(const long* ticks);
-PyObject* fn_write_py_datetimedelta(long ticks);
-PyObject* fn_write_py_timezone(const char16_t* name, int name_length, long offset);
-
 #endif

@@ -12,10 +12,7 @@ internal static class CppValues
     // the native tables; its delegate stands and waits.
     private static readonly HashSet<string> s_missing =
     [
-        "arg::any_iterable", "arg::any_collection", "arg::any_list", "arg::datetime", "arg::timespan", "arg::guid",
-        "arg::decimal", "arg::version", "arg::datetimeoffset", "arg::by_ref", "arg::out",
-        "ret::stream", "ret::any_iterable", "ret::any_collection", "ret::any_list", "ret::datetime",
-        "ret::timespan", "ret::guid", "ret::version", "ret::decimal", "ret::datetimeoffset",
+        "ret::stream",
     ];
 
     /// <summary>The policy of a parameter; null while the engine lacks it.</summary>
