@@ -66,7 +66,7 @@ internal static class DrawingExporter
         using var engine = new TextEngine();
         var pages = new PageSource(image, options, engine, DeviceKind.UserUnits, PixelsPerInch);
         Page page = pages.SinglePage();
-        if (options.TextAsShapes || options.VectorRasterizationOptions is { ContentAsBitmap: true })
+        if (options.TextAsShapes)
         {
             VectorDocument.WriteSvg(output, engine, page);
         }

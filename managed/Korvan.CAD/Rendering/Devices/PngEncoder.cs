@@ -16,13 +16,19 @@ internal static class PngEncoder
     private const double InchesPerMetre = 1 / 0.0254;
     private static readonly uint[] CrcTable = BuildCrcTable();
 
-    internal static void Write(RasterPage page, Stream output, int compressionLevel, double pixelsPerInch)
+    /// <summary>One line of pixels: blue first, alpha multiplied in.</summary>
+    internal delegate ReadOnlySpan<byte> PixelRow(int y);
+
+    internal static void Write(RasterPage page, Stream output, int compressionLevel, double pixelsPerInch) =>
+        Write(page.Width, page.Height, page.Row, output, compressionLevel, pixelsPerInch);
+
+    internal static void Write(int width, int height, PixelRow rows, Stream output, int compressionLevel, double pixelsPerInch)
     {
-        bool opaque = IsOpaque(page);
+        bool opaque = IsOpaque(height, rows);
         output.Write([0x89, (byte)'P', (byte)'N', (byte)'G', 0x0d, 0x0a, 0x1a, 0x0a]);
         Span<byte> header = stackalloc byte[13];
-        BinaryPrimitives.WriteInt32BigEndian(header, page.Width);
-        BinaryPrimitives.WriteInt32BigEndian(header[4..], page.Height);
+        BinaryPrimitives.WriteInt32BigEndian(header, width);
+        BinaryPrimitives.WriteInt32BigEndian(header[4..], height);
         header[8] = 8;
         header[9] = (byte)(opaque ? 2 : 6);
         header[10] = header[11] = header[12] = 0;
@@ -34,22 +40,22 @@ internal static class PngEncoder
         BinaryPrimitives.WriteInt32BigEndian(density[4..], perMetre);
         density[8] = 1;
         WriteChunk(output, "pHYs"u8, density);
-        WriteRows(page, output, compressionLevel, opaque ? 3 : 4);
+        WriteRows(width, height, rows, output, compressionLevel, opaque ? 3 : 4);
         WriteChunk(output, "IEND"u8, []);
     }
 
-    private static void WriteRows(RasterPage page, Stream output, int level, int channels)
+    private static void WriteRows(int width, int height, PixelRow rows, Stream output, int level, int channels)
     {
         using var chunks = new ChunkStream(output);
         using (var zlib = new ZLibStream(chunks, new ZLibCompressionOptions { CompressionLevel = level }, leaveOpen: true))
         {
-            var row = new byte[page.Width * channels];
+            var row = new byte[width * channels];
             var above = new byte[row.Length];
             var line = new byte[row.Length + 1];
             line[0] = UpFilter;
-            for (int y = 0; y < page.Height; y++)
+            for (int y = 0; y < height; y++)
             {
-                Convert(page.Row(y), row, channels);
+                Convert(rows(y), row, channels);
                 for (int i = 0; i < row.Length; i++)
                 {
                     line[i + 1] = (byte)(row[i] - above[i]);
@@ -86,11 +92,11 @@ internal static class PngEncoder
         _ => (byte)Math.Min(255, ((value * 255) + (alpha / 2)) / alpha),
     };
 
-    private static bool IsOpaque(RasterPage page)
+    private static bool IsOpaque(int height, PixelRow rows)
     {
-        for (int y = 0; y < page.Height; y++)
+        for (int y = 0; y < height; y++)
         {
-            ReadOnlySpan<byte> row = page.Row(y);
+            ReadOnlySpan<byte> row = rows(y);
             for (int i = 3; i < row.Length; i += 4)
             {
                 if (row[i] != 255)

@@ -100,6 +100,9 @@ internal sealed class SvgTextDocument
                 case DisplayKind.Text:
                     WriteText(item);
                     break;
+                case DisplayKind.Image:
+                    WriteImage(list.ImageOf(item));
+                    break;
                 case DisplayKind.PushClip:
                     string id = "k" + nextId++;
                     string rule = item.EvenOdd ? " clip-rule=\"evenodd\"" : string.Empty;
@@ -180,6 +183,15 @@ internal sealed class SvgTextDocument
         writer.Write($" textLength=\"{N(length)}\" lengthAdjust=\"spacingAndGlyphs\" fill=\"{Rgb(item.Color)}\"{Opacity("fill-opacity", item.Color)}>");
         writer.Write(Escape(run.Text));
         writer.Write("</text>\n");
+    }
+
+    private void WriteImage(PlacedImage image)
+    {
+        using var png = new MemoryStream();
+        PngEncoder.Write(image.Width, image.Height, y => image.Pixels.AsSpan(y * image.Width * 4, image.Width * 4), png, 6, 96);
+        Affine2 matrix = map * image.Matrix * new Affine2(1, 0, 0, -1, 0, 1);
+        writer.Write($"<image width=\"1\" height=\"1\" preserveAspectRatio=\"none\" transform=\"{Matrix(matrix)}\" opacity=\"{N(image.Opacity)}\" ");
+        writer.Write($"href=\"data:image/png;base64,{Convert.ToBase64String(png.GetBuffer(), 0, (int)png.Length)}\"/>\n");
     }
 
     private static string Matrix(in Affine2 m)

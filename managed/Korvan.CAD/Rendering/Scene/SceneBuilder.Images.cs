@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
+using Korvan.CAD.Rendering.DisplayList;
 using Korvan.CAD.Rendering.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -9,6 +10,7 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <content>Wipeouts, frames of pictures, and lines without end.</content>
 internal sealed partial class SceneBuilder
 {
+    private const int ShowsImage = 1;
     private const int UsesClipping = 4;
 
     private void DrawWipeout(CadWipeoutBase wipeout, in Pen pen, BlockContext context)
@@ -23,16 +25,39 @@ internal sealed partial class SceneBuilder
         }
     }
 
-    private void DrawImageFrame(CadRasterImage image, in Pen pen, BlockContext context)
+    private void DrawImage(CadRasterImage image, in Pen pen, BlockContext context)
     {
-        List.Skip(image.TypeNameText + " content");
+        bool clipped = image.ClippingState != 0 && (image.DisplayFlags & UsesClipping) != 0;
+        List<Cad2DPoint> boundary = clipped ? image.ClipBoundaryVertices : [];
+        Picture? picture = (image.DisplayFlags & ShowsImage) == 0 ? null : tables.Pictures.Find(image.ImageDefReference);
+        if (picture == null)
+        {
+            List.Skip(image.TypeNameText + " whose file is not there");
+        }
+        else
+        {
+            AddImageOutline(image.InsertionPoint, image.VectorU, image.VectorV, image.ImageSize, boundary, context);
+            Bounds2 extent = canvas.Path.Bounds;
+            List.PushClip(canvas.Path, evenOdd: true);
+            List.Image(Placed(picture, image, context), pen.Layer, extent);
+            List.PopClip();
+        }
+
         if (tables.Settings.ImageFrames)
         {
-            bool clipped = image.ClippingState != 0 && (image.DisplayFlags & UsesClipping) != 0;
-            List<Cad2DPoint> boundary = clipped ? image.ClipBoundaryVertices : [];
             AddImageOutline(image.InsertionPoint, image.VectorU, image.VectorV, image.ImageSize, boundary, context);
             canvas.Stroke(pen);
         }
+    }
+
+    private static PlacedImage Placed(Picture picture, CadRasterImage image, BlockContext context)
+    {
+        Vec3 across = context.Map.Vector(V(image.VectorU) * image.ImageSize.X);
+        Vec3 up = context.Map.Vector(V(image.VectorV) * image.ImageSize.Y);
+        Vec2 origin = context.Map.Project(V(image.InsertionPoint));
+        var matrix = new Affine2(across.X, across.Y, up.X, up.Y, origin.X, origin.Y);
+        double opacity = 1 - (Math.Clamp((int)image.Fade, 0, 100) / 100.0);
+        return new PlacedImage(picture.Width, picture.Height, picture.Pixels, matrix, opacity);
     }
 
     /// <summary>

@@ -167,7 +167,7 @@ internal sealed partial class SceneBuilder
                 DrawWipeout(wipeout, pen, context);
                 break;
             case CadRasterImage image:
-                DrawImageFrame(image, pen, context);
+                DrawImage(image, pen, context);
                 break;
             case CadRay ray:
                 DrawInfinite(V(ray.FirstPoint), V(ray.UnitDirection), bothWays: false, pen, context);

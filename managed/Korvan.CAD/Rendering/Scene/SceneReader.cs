@@ -19,7 +19,7 @@ internal static class SceneReader
 
     internal static DrawingScene Read(CadImage image)
     {
-        var tables = new SceneTables { Settings = Settings(image) };
+        var tables = new SceneTables { Settings = Settings(image), Pictures = PictureFiles.Of(image) };
         ReadTables(image, tables);
         Dictionary<ulong, Dictionary<ulong, ulong>> orders = SortTables.Read(image.Objects);
         var recordHandles = new Dictionary<string, ulong>(StringComparer.OrdinalIgnoreCase);

@@ -107,6 +107,9 @@ internal sealed class SceneTables
 
     internal Dictionary<ulong, BlockInfo> BlocksByRecord { get; } = [];
 
+    /// <summary>The pictures that images show, by the handle of their definition.</summary>
+    internal PictureFiles Pictures { get; set; } = PictureFiles.None;
+
     internal SceneSettings Settings { get; set; } = new();
 
     internal LayerInfo Layer(string name) => Layers.TryGetValue(name, out LayerInfo? layer) ? layer : AddLayer(name);

@@ -1,3 +1,4 @@
+using System.IO;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -6,6 +7,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.DisplayList;
 using Korvan.CAD.Rendering.Scene;
 using Xunit;
@@ -210,6 +212,33 @@ public class SceneTests
         Assert.Equal(Red, picture[30, 30]); // model (1005, 1005) at twice its size
         Assert.Equal(Rgba.White, picture[70, 30]);
         Assert.Equal(Rgba.White, picture[90, 30]);
+    }
+
+    [Theory]
+    [InlineData("red.png", true)]
+    [InlineData("C:\\elsewhere\\red.png", true)] // found by its name beside the drawing
+    [InlineData("../red.png", false)] // outside of the drawing's folder
+    [InlineData("absent.png", false)]
+    public void Pictures_are_looked_for_in_the_folder_of_the_drawing_alone(string file, bool shown)
+    {
+        string folder = Directory.CreateTempSubdirectory("korvan-").FullName;
+        string inner = Directory.CreateDirectory(Path.Combine(folder, "drawings")).FullName;
+        string target = Path.Combine(file.StartsWith("..", System.StringComparison.Ordinal) ? folder : inner, "red.png");
+        using (FileStream png = File.Create(target))
+        {
+            PngEncoder.Write(2, 2, _ => [0, 0, 255, 255, 0, 0, 255, 255], png, 6, 96);
+        }
+
+        var image = new CadRasterImage
+        {
+            InsertionPoint = new Cad3DPoint(20, 20, 0), VectorU = new Cad3DPoint(10, 0, 0), VectorV = new Cad3DPoint(0, 10, 0),
+            ImageSize = new Cad2DPoint(2, 2), ImageDefReference = "77",
+        };
+        CadImage drawing = Picture.Drawing(image);
+        drawing.FilePath = Path.Combine(inner, "plan.dxf");
+        drawing.Objects.Add(new CadRasterImageDef { FileName = file, ObjectHandle = "77" });
+        using Picture picture = Picture.Of(drawing);
+        Assert.Equal(shown ? Red : Rgba.White, picture[30, 30]);
     }
 
     private static int Distance(Rgba a, Rgba b) =>

@@ -1,0 +1,117 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using System.Linq;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.Native;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>Decoded pixels: blue first, alpha multiplied in.</summary>
+internal sealed record Picture(int Width, int Height, byte[] Pixels);
+
+/// <summary>
+/// The files that a drawing's images name. Only files in the drawing's own folder, or below it, are opened: a path
+/// that leads elsewhere is tried by its file name alone.
+/// </summary>
+internal sealed class PictureFiles
+{
+    internal static readonly PictureFiles None = new(null, []);
+
+    private readonly string? folder;
+    private readonly Dictionary<string, string> names;
+    private readonly Dictionary<string, Picture?> loaded = new(StringComparer.Ordinal);
+
+    private PictureFiles(string? folder, Dictionary<string, string> names)
+    {
+        this.folder = folder;
+        this.names = names;
+    }
+
+    internal static PictureFiles Of(CadImage image)
+    {
+        string? folder = image.FilePath is null ? null : Path.GetDirectoryName(Path.GetFullPath(image.FilePath));
+        var names = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
+        foreach (CadRasterImageDef definition in image.Objects.OfType<CadRasterImageDef>())
+        {
+            names.TryAdd(definition.ObjectHandle, definition.FileName);
+        }
+
+        return new PictureFiles(folder, names);
+    }
+
+    /// <summary>The picture of a definition, or null when its file is absent, elsewhere, or of no kind that is read.</summary>
+    internal Picture? Find(string definition)
+    {
+        if (folder == null || !names.TryGetValue(definition, out string? name) || Locate(name) is not string file)
+        {
+            return null;
+        }
+
+        if (!loaded.TryGetValue(file, out Picture? picture))
+        {
+            picture = Load(file);
+            loaded.Add(file, picture);
+        }
+
+        return picture;
+    }
+
+    private string? Locate(string name)
+    {
+        string relative = name.Replace('\\', '/');
+        bool elsewhere = relative.StartsWith('/') || relative.Contains(':') || relative.Split('/').Contains("..");
+        string bare = relative[(relative.LastIndexOf('/') + 1)..];
+        foreach (string candidate in elsewhere ? [bare] : new[] { relative, bare })
+        {
+            string full = Path.GetFullPath(Path.Combine(folder!, candidate));
+            if (candidate.Length > 0 && full.StartsWith(folder + Path.DirectorySeparatorChar, StringComparison.Ordinal) && File.Exists(full))
+            {
+                return full;
+            }
+        }
+
+        return null;
+    }
+
+    private static unsafe Picture? Load(string file)
+    {
+        nint surface = Cairo.ImageSurfaceCreateFromPng(file);
+        try
+        {
+            if (Cairo.SurfaceStatus(surface) != 0)
+            {
+                return null;
+            }
+
+            int width = Cairo.ImageSurfaceGetWidth(surface);
+            int height = Cairo.ImageSurfaceGetHeight(surface);
+            CairoFormat format = Cairo.ImageSurfaceGetFormat(surface);
+            if (format is not (CairoFormat.Argb32 or CairoFormat.Rgb24) || RasterPage.Refuse(width, height) != null)
+            {
+                return null;
+            }
+
+            var pixels = new byte[(long)width * height * 4];
+            byte* data = Cairo.ImageSurfaceGetData(surface);
+            int stride = Cairo.ImageSurfaceGetStride(surface);
+            for (int y = 0; y < height; y++)
+            {
+                new ReadOnlySpan<byte>(data + ((long)y * stride), width * 4).CopyTo(pixels.AsSpan(y * width * 4));
+            }
+
+            for (int i = 3; format == CairoFormat.Rgb24 && i < pixels.Length; i += 4)
+            {
+                pixels[i] = 255;
+            }
+
+            return new Picture(width, height, pixels);
+        }
+        finally
+        {
+            Cairo.SurfaceDestroy(surface);
+        }
+    }
+}
