@@ -20,7 +20,8 @@ SIZES = (10_000, 50_000, 200_000)
 COMPARED_SIZE = 50_000
 FASTER_AIM = 20.0
 MEMORY_AIM = 0.5
-FEWER_ROUNDS, ROUNDS = 3, 7
+# Long enough for the runtime to compile its last version of the reader.
+SECONDS = 2.0
 
 
 @dataclass(frozen=True)
@@ -34,21 +35,21 @@ class Load:
     entities: int
 
 
-def _run(interpreter: str, script: str, path: Path, rounds: int, environment: dict[str, str]) -> Load:
-    command = [interpreter, str(HERE / script), str(path), str(rounds)]
+def _run(interpreter: str, script: str, path: Path, environment: dict[str, str]) -> Load:
+    command = [interpreter, str(HERE / script), str(path), str(SECONDS)]
     result = subprocess.run(command, env=environment, check=True, capture_output=True, text=True)
     return Load(**json.loads(result.stdout.splitlines()[-1]))
 
 
-def _ours(path: Path, rounds: int = ROUNDS) -> Load:
+def _ours(path: Path) -> Load:
     environment = {key: value for key, value in os.environ.items() if key != "PYTHONDONTWRITEBYTECODE"}
-    return _run(sys.executable, "load_ours.py", path, rounds, environment)
+    return _run(sys.executable, "load_ours.py", path, environment)
 
 
-def _reference(path: Path, rounds: int = FEWER_ROUNDS) -> Load:
+def _reference(path: Path) -> Load:
     # Another Python: nothing of ours may reach it.
     environment = {key: value for key, value in os.environ.items() if not key.startswith("PYTHON")}
-    return _run(SYSTEM_PYTHON, "load_reference.py", path, rounds, environment)
+    return _run(SYSTEM_PYTHON, "load_reference.py", path, environment)
 
 
 def _mib(kib: int) -> str:

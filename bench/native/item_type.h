@@ -32,13 +32,16 @@ template <class Backend> struct ItemType {
     }
 
     static PyObject* construct(PyTypeObject* cls, PyObject* args, PyObject*) {
-        int number = 0;
-        if (!PyArg_ParseTuple(args, "|i", &number)) {
-            return nullptr;
+        long number = 0;
+        if (PyTuple_GET_SIZE(args) != 0) {
+            number = PyLong_AsLong(PyTuple_GET_ITEM(args, 0));
+            if (number == -1 && PyErr_Occurred() != nullptr) {
+                return nullptr;
+            }
         }
         PyObject* const self = cls->tp_alloc(cls, 0);
         if (self != nullptr) {
-            Backend::open(state(self), number);
+            Backend::open(state(self), static_cast<int>(number));
         }
         return self;
     }

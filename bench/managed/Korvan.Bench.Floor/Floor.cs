@@ -10,9 +10,9 @@ public sealed class Item(int number)
 
     public double Real { get; set; } = 0.5;
 
-    public string Text { get; } = "layer";
+    public string Text => "layer";
 
-    public byte[] Blob { get; set; } = [];
+    public byte[]? Blob { get; set; }
 
     public bool CanTake(Item other) => Number == other.Number;
 }
