@@ -48,8 +48,23 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         ["System.Collections.Generic.IReadOnlyList`1"] = ValueKind.IReadOnlyList,
     };
 
-    /// <summary>Null with a reason when the type can't be carried.</summary>
-    public ValueUse? Read(Type type, bool isOptional, out string reason)
+    /// <summary>Null with a reason when the type can't be carried that way.</summary>
+    public ValueUse? Read(Type type, Crossing crossing, bool isOptional, out string reason)
+    {
+        if (Read(type, isOptional, out reason) is not { } value)
+        {
+            return null;
+        }
+        ValueUse plain = value.Kind == ValueKind.Nullable ? value.Element! : value;
+        if (EngineSupport.Carries(plain.Kind, crossing))
+        {
+            return value;
+        }
+        reason = $"{value.ManagedName} can't be carried as {(crossing == Crossing.Argument ? "an argument" : "a result")} yet";
+        return null;
+    }
+
+    private ValueUse? Read(Type type, bool isOptional, out string reason)
     {
         reason = "";
         if (type.IsArray)
@@ -77,12 +92,13 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         return null;
     }
 
-    /// <summary>An element of a collection: everything but what has no single form on the wire.</summary>
+    /// <summary>An element of a collection crosses both ways.</summary>
     public ValueUse? ReadElement(Type type, out string reason)
     {
-        ValueUse? element = Read(type, isOptional: false, out reason);
-        if (element?.Kind is null or not (ValueKind.Nullable or ValueKind.Stream or ValueKind.Version
-            or ValueKind.Decimal or ValueKind.DateTimeOffset or (>= ValueKind.List and <= ValueKind.AnyList)))
+        ValueUse? element = Read(type, Crossing.Argument, isOptional: false, out reason) is null
+            ? null
+            : Read(type, Crossing.Result, isOptional: false, out reason);
+        if (element is null || EngineSupport.CarriesElement(element.Kind))
         {
             return element;
         }

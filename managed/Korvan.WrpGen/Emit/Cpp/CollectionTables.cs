@@ -8,28 +8,26 @@ namespace Korvan.WrpGen.Emit.Cpp;
 /// <summary>How a bound class that is a collection refers to the records that serve it.</summary>
 internal static class CollectionTables
 {
-    /// <summary>The protocol's name in the engine; null for none, or when its element can't be carried.</summary>
-    public static string? ProtocolOf(TypeModel type) => IsServed(type)
-        ? type.Protocol switch
-        {
-            CollectionProtocol.Iterable => "iterable",
-            CollectionProtocol.Collection => "collection",
-            CollectionProtocol.ReadOnlyCollection => "read_only_collection",
-            CollectionProtocol.ReadOnlyList => "read_only_list",
-            CollectionProtocol.List => "list",
-            CollectionProtocol.Indexer => "indexer",
-            _ => null,
-        }
-        : null;
+    /// <summary>The protocol's name in the engine; null for none.</summary>
+    public static string? ProtocolOf(TypeModel type) => type.Protocol switch
+    {
+        CollectionProtocol.Iterable => "iterable",
+        CollectionProtocol.Collection => "collection",
+        CollectionProtocol.ReadOnlyCollection => "read_only_collection",
+        CollectionProtocol.ReadOnlyList => "read_only_list",
+        CollectionProtocol.List => "list",
+        CollectionProtocol.Indexer => "indexer",
+        _ => null,
+    };
 
     /// <summary>The initializer of the type's own CollectionInfo; null where it has none.</summary>
     public static string? InfoOf(TypeModel type)
     {
-        if (type.ProtocolElement is not { } element || !IsServed(type))
+        if (type.ProtocolElement is not { } element)
         {
             return null;
         }
-        string ops = CppValues.ElementOps(element)!;
+        string ops = CppValues.ElementOps(element);
         string binding = CppValues.Binding(element) is { } found ? $" .element_type = {found}," : "";
         if (type.Protocol == CollectionProtocol.Indexer)
         {
@@ -62,7 +60,7 @@ internal static class CollectionTables
     /// <summary>All wrappers of collection interfaces that a class implements.</summary>
     public static IEnumerable<string> InterfacesOf(BindingModel model, TypeModel type)
     {
-        if (type.ProtocolElement is not { } element || type.Protocol == CollectionProtocol.Indexer || !IsServed(type))
+        if (type.ProtocolElement is not { } element || type.Protocol == CollectionProtocol.Indexer)
         {
             return UntypedInterfacesOf(type);
         }
@@ -70,9 +68,6 @@ internal static class CollectionTables
         return Implemented(type.Protocol).Where(use.Has)
             .Select(kind => $"&{CppValues.WrapperPrefix(kind)}_{use.Hash}");
     }
-
-    private static bool IsServed(TypeModel type) =>
-        type.ProtocolElement is null || CppValues.ElementOps(type.ProtocolElement) is not null;
 
     private static ValueKind[] Implemented(CollectionProtocol protocol) => protocol switch
     {

@@ -159,7 +159,6 @@ public static class CppEmitter
         writer.Line($"#include \"{FileOf(model.RootModule)}.h\"");
         writer.Line($"#include \"{GenericsFileOf(model)}.h\"").Line();
         IEnumerable<string> generics = model.Elements
-            .Where(use => CppValues.ElementOps(use.Element) is not null)
             .SelectMany(GenericUnitWriter.Symbols)
             .Select(symbol => "&" + symbol);
         WriteList(writer, "ClassBinding", "generics", generics);

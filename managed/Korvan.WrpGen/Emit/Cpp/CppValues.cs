@@ -8,30 +8,23 @@ namespace Korvan.WrpGen.Emit.Cpp;
 /// <summary>The table of policies: which template of the engine carries each kind of value.</summary>
 internal static class CppValues
 {
-    // Policies that the engine has by name but not by body yet. A member that needs one is left out of
-    // the native tables; its delegate stands and waits.
-    private static readonly HashSet<string> s_missing =
-    [
-        "ret::stream",
-    ];
-
-    /// <summary>The policy of a parameter; null while the engine lacks it.</summary>
-    public static string? Argument(ParameterModel parameter) => parameter.Passing switch
+    /// <summary>The policy of a parameter.</summary>
+    public static string Argument(ParameterModel parameter) => parameter.Passing switch
     {
-        Passing.Ref => Pair("arg::by_ref", parameter.Value),
-        Passing.Out => Pair("arg::out", parameter.Value),
+        Passing.Ref => $"arg::by_ref<{Argument(parameter.Value)}, {Result(parameter.Value)}>",
+        Passing.Out => $"arg::out<{Argument(parameter.Value)}, {Result(parameter.Value)}>",
         _ => Argument(parameter.Value),
     };
 
-    /// <summary>The policy of an argument; null while the engine lacks it.</summary>
-    public static string? Argument(ValueUse value) => Known(value.Kind == ValueKind.Nullable
-        ? Wrap("arg::nullable", Argument(value.Element!))
-        : HasWrapper(value) ? "arg::" + ArgumentName(value) : null);
+    /// <summary>The policy of an argument.</summary>
+    public static string Argument(ValueUse value) => value.Kind == ValueKind.Nullable
+        ? $"arg::nullable<{Argument(value.Element!)}>"
+        : "arg::" + ArgumentName(value);
 
-    /// <summary>The policy of a result; null while the engine lacks it.</summary>
-    public static string? Result(ValueUse value) => Known(value.Kind == ValueKind.Nullable
-        ? Wrap("ret::nullable", Result(value.Element!))
-        : HasWrapper(value) ? "ret::" + ResultName(value) : null);
+    /// <summary>The policy of a result.</summary>
+    public static string Result(ValueUse value) => value.Kind == ValueKind.Nullable
+        ? $"ret::nullable<{Result(value.Element!)}>"
+        : "ret::" + ResultName(value);
 
     /// <summary>The binding that a converter of the value reads; null for none.</summary>
     public static string? Binding(ValueUse value) => value.Kind switch
@@ -43,15 +36,8 @@ internal static class CppValues
         _ => null,
     };
 
-    /// <summary>Both ways of an element of a typed collection; null while the engine lacks one.</summary>
-    public static string? ElementOps(ValueUse element)
-    {
-        // An item's result is one native word, or an interface's record of two; others have no form yet.
-        bool isWord = CSharp.CSharpValues.RecordType(element) is null || element.Kind == ValueKind.Interface;
-        return isWord && Argument(element) is { } argument && Result(element) is { } result
-            ? $"&element_ops<{argument}, {result}>"
-            : null;
-    }
+    /// <summary>Both ways of an element of a typed collection.</summary>
+    public static string ElementOps(ValueUse element) => $"&element_ops<{Argument(element)}, {Result(element)}>";
 
     public static string WrapperPrefix(ValueKind kind) => kind switch
     {
@@ -63,20 +49,6 @@ internal static class CppValues
         ValueKind.IReadOnlyCollection => "irocol",
         _ => "irolist",
     };
-
-    // A typed collection is wrapped by a type of its own, which there is if its element can be carried.
-    private static bool HasWrapper(ValueUse value) =>
-        !value.IsTypedCollection || ElementOps(value.Element!) is not null;
-
-    private static string? Pair(string policy, ValueUse value) =>
-        Known(policy) is not null && Argument(value) is { } argument && Result(value) is { } result
-            ? $"{policy}<{argument}, {result}>"
-            : null;
-
-    private static string? Wrap(string policy, string? inner) => inner is null ? null : $"{policy}<{inner}>";
-
-    private static string? Known(string? policy) =>
-        policy is null || s_missing.Contains(policy) ? null : policy;
 
     private static string ArgumentName(ValueUse value) => value.Kind switch
     {

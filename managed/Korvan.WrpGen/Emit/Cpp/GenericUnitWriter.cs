@@ -45,12 +45,9 @@ internal sealed class GenericUnitWriter(BindingModel model, CodeWriter writer)
             HostWriter.Write(writer, $"PyHost_gn_{host.Kind}_{use.Hash}",
                 $"Korvan.WrpGen.Generic.{host.ClassPrefix}_{use.Hash}", host.Delegates);
         }
-        if (CppValues.ElementOps(use.Element) is { } ops)
+        foreach (Wrapper wrapper in WrappersOf(use))
         {
-            foreach (Wrapper wrapper in WrappersOf(use))
-            {
-                WriteWrapper(use, wrapper, ops);
-            }
+            WriteWrapper(use, wrapper, CppValues.ElementOps(use.Element));
         }
         writer.Line();
     }

@@ -6,7 +6,7 @@ namespace Korvan.WrpGen.Emit.Cpp;
 /// <summary>Writes a host record: the delegates of one managed class, in the order of binding.</summary>
 internal static class HostWriter
 {
-    private const int NamesPerLine = 6;
+    private const int NamesPerLine = 4;
 
     public static void Write(CodeWriter writer, string name, string managedClass, IEnumerable<string> delegates)
     {
@@ -24,7 +24,7 @@ internal static class HostWriter
             }
         });
         writer.Line($"constinit HostRecord {name} = {{");
-        writer.Indented(() => writer.Line(
-            $"\"{managedClass}\", delegates_{symbol}, slots_{symbol}, {names.Length}}};"));
+        writer.Indented(() => writer.Line($"\"{managedClass}\",")
+            .Line($"delegates_{symbol}, slots_{symbol}, {names.Length}}};"));
     }
 }

@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 using System.Linq;
 using Korvan.WrpGen.Model;
@@ -7,12 +8,13 @@ namespace Korvan.WrpGen.Emit.Cpp;
 /// <summary>Writes the tables of one class, struct or interface.</summary>
 internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, TypeModel type)
 {
+    private const int ParametersPerLine = 4;
+
     private readonly string _symbol = type.Symbol;
     private readonly List<string> _methodRows = [];
     private readonly List<string> _mixedRows = [];
     private readonly List<string> _getsetRows = [];
     private readonly List<string> _staticRows = [];
-    private bool _hasConstructors;
 
     public void Write()
     {
@@ -34,15 +36,17 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
 
     private void WriteConstructors()
     {
-        var group = new MethodGroup("ctor", IsStatic: false, type.Constructors);
-        _hasConstructors = WriteGroup($"{_symbol}_ctor", group) > 0;
+        if (type.Constructors.Count > 0)
+        {
+            WriteGroup($"{_symbol}_ctor", new MethodGroup("ctor", IsStatic: false, type.Constructors));
+        }
     }
 
     private void WriteMethods()
     {
         foreach (IGrouping<string, MethodGroup> name in MethodGroup.Of(type).GroupBy(group => group.PythonName))
         {
-            string[] rows = [.. name.Select(WriteForm).OfType<string>()];
+            string[] rows = [.. name.Select(WriteForm)];
             if (rows.Length < 2)
             {
                 _methodRows.AddRange(rows);
@@ -55,61 +59,54 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
         }
     }
 
-    // The row for the method table; null when no leg can be carried.
-    private string? WriteForm(MethodGroup group)
+    // Writes the tables of a method and gives the row of the method table that names them.
+    private string WriteForm(MethodGroup group)
     {
         string name = $"{_symbol}_{(group.IsStatic ? "static_" : "")}{group.PythonName}";
-        int legs = WriteGroup(name, group);
-        if (legs == 0)
-        {
-            return null;
-        }
+        WriteGroup(name, group);
         bool takesNothing = group.Legs.Count == 1 && group.Legs[0].Parameters.Count == 0;
         string macro = (group.IsStatic ? "KORVAN_METHOD_STATIC" : "KORVAN_METHOD") + (takesNothing ? "_NOARGS" : "");
         return $"{macro}(\"{group.PythonName}\", method_{name})";
     }
 
-    private int WriteGroup(string name, MethodGroup group)
+    private void WriteGroup(string name, MethodGroup group)
     {
-        var rows = new List<string>();
-        foreach (MethodModel leg in group.Legs)
-        {
-            if (WriteLeg($"parameters_{name}_{rows.Count:000}", leg) is { } row)
-            {
-                rows.Add(row);
-            }
-        }
-        if (rows.Count > 0)
-        {
-            writer.Line($"static const Leg legs_{name}[] = {{");
-            writer.Indented(() => rows.ForEach(row => writer.Line(row + ",")));
-            writer.Line("};");
-            string isStatic = group.IsStatic ? ", true" : "";
-            writer.Line($"static const Method method_{name} = {{&class_{_symbol}, legs_{name}, {rows.Count}{isStatic}}};");
-        }
-        return rows.Count;
+        string[] rows = [.. group.Legs.Select((leg, at) => WriteLeg($"parameters_{name}_{at:000}", leg))];
+        writer.Line($"static const Leg legs_{name}[] = {{");
+        writer.Indented(() => Array.ForEach(rows, row => writer.Line(row + ",")));
+        writer.Line("};");
+        string isStatic = group.IsStatic ? ", true" : "";
+        writer.Line($"static const Method method_{name} = {{&class_{_symbol}, legs_{name}, {rows.Length}{isStatic}}};");
     }
 
-    private string? WriteLeg(string parameters, MethodModel leg)
+    private string WriteLeg(string parameters, MethodModel leg)
     {
-        string?[] policies = [.. leg.Parameters.Select(CppValues.Argument)];
-        string? result = CppValues.Result(leg.Result);
-        if (result is null || policies.Contains(null))
-        {
-            return null;
-        }
+        IEnumerable<string> policies = leg.Parameters.Select(CppValues.Argument);
         string call = leg.IsConstructor ? "construct" : leg.IsStatic ? "call_static" : "call";
-        IEnumerable<string?> arguments = leg.IsConstructor ? policies : policies.Prepend(result);
+        IEnumerable<string> arguments = leg.IsConstructor ? policies : policies.Prepend(CppValues.Result(leg.Result));
         string table = "nullptr";
         if (leg.Parameters.Count > 0)
         {
             table = parameters;
-            writer.Line($"static const Parameter {parameters}[] = {{{string.Join(", ", leg.Parameters.Select(Row))}}};");
+            WriteParameters(parameters, leg.Parameters);
         }
         int slot = leg.Owner.SlotOf(leg.Delegate);
         string resultType = CppValues.Binding(leg.Result) ?? "nullptr";
         return $"{{&PyHost_cs_{leg.Owner.Symbol}, {slot}, {leg.Parameters.Count}, {table}, {resultType}, " +
             $"{call}<{string.Join(", ", arguments)}>}}";
+    }
+
+    private void WriteParameters(string name, IReadOnlyList<ParameterModel> parameters)
+    {
+        writer.Line($"static const Parameter {name}[] = {{");
+        writer.Indented(() =>
+        {
+            foreach (ParameterModel[] line in parameters.Chunk(ParametersPerLine))
+            {
+                writer.Line(string.Join(", ", line.Select(Row)) + ",");
+            }
+        });
+        writer.Line("};");
     }
 
     private static string Row(ParameterModel parameter) => CppValues.Binding(parameter.Value) is { } binding
@@ -130,19 +127,15 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
 
     private void WriteProperty(PropertyModel property, List<string> rows)
     {
-        if (CppValues.Result(property.Value) is not { } result)
-        {
-            return;
-        }
-        string? argument = property.CanWrite ? CppValues.Argument(property.Value) : null;
+        string result = CppValues.Result(property.Value);
         string name = $"property_{_symbol}_{property.PythonName}";
         TypeModel owner = property.Owner;
-        string slots = $"{owner.SlotOf(property.Getter)}, {(argument is null ? "no_slot" : owner.SlotOf(property.Setter))}";
+        string slots = $"{owner.SlotOf(property.Getter)}, {(property.CanWrite ? owner.SlotOf(property.Setter) : "no_slot")}";
         string guard = property.IsStatic ? $", &class_{_symbol}" : "";
         writer.Line($"static const Property {name} = {{&PyHost_cs_{owner.Symbol}, {slots}, " +
             $"{CppValues.Binding(property.Value) ?? "nullptr"}{guard}}};");
         string get = property.IsStatic ? $"get_static<{result}>" : $"get<{result}>";
-        string set = argument is null || property.IsStatic ? "nullptr" : $"set<{argument}>";
+        string set = property.CanWrite && !property.IsStatic ? $"set<{CppValues.Argument(property.Value)}>" : "nullptr";
         rows.Add($"{{\"{property.PythonName}\", {get}, {set}, nullptr, closure({name})}}");
     }
 
@@ -150,11 +143,9 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
     {
         IEnumerable<string> setters =
             from property in type.StaticProperties
-            where property.CanWrite && CppValues.Result(property.Value) is not null
-            let argument = CppValues.Argument(property.Value)
-            where argument is not null
+            where property.CanWrite
             select $"KORVAN_STATIC_SETTER(\"set_{property.PythonName}\", " +
-                $"property_{_symbol}_{property.PythonName}, {argument})";
+                $"property_{_symbol}_{property.PythonName}, {CppValues.Argument(property.Value)})";
         bool opens = type.IsDisposable && type.Base is not { IsDisposable: true };
         WriteTable("PyMethodDef", $"wrpPy_tymd_{_symbol}",
         [
@@ -253,7 +244,7 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
         yield return When(type.Outer is not null, $".outer = &class_{type.Outer?.Symbol}");
         yield return $".methods = wrpPy_tymd_{_symbol}";
         yield return When(_getsetRows.Count > 0, $".getset = wrpPy_typd_{_symbol}");
-        yield return When(_hasConstructors, $".constructors = &method_{_symbol}_ctor");
+        yield return When(type.Constructors.Count > 0, $".constructors = &method_{_symbol}_ctor");
         yield return When(hasInterfaces, $".additional_interfaces = additional_{_symbol}");
         yield return When(hasImplicit, $".implicit_interfaces = implicit_{_symbol}");
         yield return When(
