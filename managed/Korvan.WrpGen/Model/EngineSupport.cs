@@ -15,27 +15,15 @@ public enum Crossing
 /// </summary>
 public static class EngineSupport
 {
-    private static readonly HashSet<ValueKind> s_waitingArguments =
-    [
-        ValueKind.AnyEnumerable, ValueKind.AnyCollection, ValueKind.AnyList, ValueKind.DateTime,
-        ValueKind.DateTimeOffset, ValueKind.TimeSpan, ValueKind.Guid, ValueKind.Decimal, ValueKind.Version,
-    ];
+    private static readonly HashSet<ValueKind> s_waitingArguments = [];
 
-    private static readonly HashSet<ValueKind> s_waitingResults =
-    [
-        .. s_waitingArguments, ValueKind.Stream,
-    ];
-
-    /// <summary>Whether ref and out parameters are carried.</summary>
-    public static bool CarriesReferences => false;
+    private static readonly HashSet<ValueKind> s_waitingResults = [ValueKind.Stream];
 
     public static bool Carries(ValueKind kind, Crossing crossing) =>
         !(crossing == Crossing.Argument ? s_waitingArguments : s_waitingResults).Contains(kind);
 
-    /// <summary>
-    /// Elements of typed collections cross both ways as one native word; an interface has a record of two.
-    /// </summary>
+    /// <summary>Elements of typed collections have one form each way; collections in collections have none,
+    /// but for arrays.</summary>
     public static bool CarriesElement(ValueKind kind) => kind is
-        not (ValueKind.Nullable or ValueKind.Stream or ValueKind.DateTime or ValueKind.DateTimeOffset
-            or ValueKind.Guid or ValueKind.Decimal or ValueKind.Version or (>= ValueKind.List and <= ValueKind.AnyList));
+        not (ValueKind.Nullable or ValueKind.Stream or (>= ValueKind.List and <= ValueKind.AnyList));
 }

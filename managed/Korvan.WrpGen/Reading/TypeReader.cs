@@ -284,11 +284,6 @@ internal sealed class TypeReader(
                 Leave(Signature(method), reason);
                 return;
             }
-            if (passing != Passing.In && !EngineSupport.CarriesReferences)
-            {
-                Leave(Signature(method), "ref and out parameters can't be carried yet");
-                return;
-            }
             if (passing != Passing.In && !CanPassByReference(value))
             {
                 Leave(Signature(method), $"a {value.Kind} can't be passed by reference");

@@ -94,7 +94,7 @@ internal static class CSharpValues
     /// <summary>The record that a result fills; null for results that are one native word.</summary>
     public static string? RecordType(ValueUse value) => value.Kind switch
     {
-        ValueKind.Interface => "global::Korvan.WrpGen.Interop.PyObjectOutArg",
+        ValueKind.Interface => "PyObjectOutArg",
         ValueKind.DateTime or ValueKind.DateTimeOffset => "PyDateTimeOut",
         ValueKind.Guid => "global::System.Guid",
         ValueKind.Decimal => "PyDecimalArg",

@@ -139,9 +139,13 @@ internal sealed class GenericWriter
     private string ApiType(GenericHost host)
     {
         const string Space = "global::Korvan.WrpGen.Generic.";
-        string native = $"{_element}, {Pass(_in)}, {_out}, {Codec(_use.Element)}";
+        // An alias is read before the names that other directives bring in.
+        string result = CSharpValues.RecordType(_use.Element)?.StartsWith("Py") == true
+            ? "global::Korvan.WrpGen.Interop." + _out
+            : _out;
+        string native = $"{_element}, {Pass(_in)}, {result}, {Codec(_use.Element)}";
         string list = $"{Space}ListApi<{TargetType(host)}, {_element}, ";
-        string tail = $", {Pass(_in)}, {_out}, {Codec(_use.Element)}>";
+        string tail = $", {Pass(_in)}, {result}, {Codec(_use.Element)}>";
         return host.Kind switch
         {
             "Iter" => $"{Space}EnumeratorApi<{native}>",
@@ -179,6 +183,9 @@ internal sealed class GenericWriter
             ValueKind.Interface => $"InterfaceCodec<{element.CSharpName}>",
             ValueKind.Array => $"ArrayCodec<{element.Element!.CSharpName}>",
             ValueKind.DateTime => "DateTimeCodec",
+            ValueKind.DateTimeOffset => "DateTimeOffsetCodec",
+            ValueKind.Decimal => "DecimalCodec",
+            ValueKind.Version => "VersionCodec",
             ValueKind.TimeSpan => "TimeSpanCodec",
             ValueKind.Guid => "GuidCodec",
             _ => $"ValueCodec<{element.CSharpName}>",

@@ -129,6 +129,45 @@ public readonly unsafe struct DateTimeCodec : ICodec<DateTime, long, PyDateTimeO
     }
 }
 
+/// <summary>In: the address of two words. Out: the two words.</summary>
+public readonly unsafe struct DateTimeOffsetCodec : ICodec<DateTimeOffset, nint, PyDateTimeOut>
+{
+    public static DateTimeOffset Read(nint value) => PyValues.ReadDateTimeOffset((PyDateTimeOut*)value);
+
+    public static PyDateTimeOut Write(DateTimeOffset value)
+    {
+        PyDateTimeOut result;
+        PyValues.WriteDateTimeOffset(value, &result);
+        return result;
+    }
+}
+
+/// <summary>In: the address of four words. Out: the four words.</summary>
+public readonly unsafe struct DecimalCodec : ICodec<decimal, nint, PyDecimalArg>
+{
+    public static decimal Read(nint value) => PyValues.ReadDecimal((PyDecimalArg*)value);
+
+    public static PyDecimalArg Write(decimal value)
+    {
+        PyDecimalArg result;
+        PyValues.WriteDecimal(value, &result);
+        return result;
+    }
+}
+
+/// <summary>Records both ways.</summary>
+public readonly unsafe struct VersionCodec : ICodec<Version?, nint, PySysVersionArg>
+{
+    public static Version? Read(nint value) => PyValues.ReadVersion((PySysVersionArg*)value);
+
+    public static PySysVersionArg Write(Version? value)
+    {
+        PySysVersionArg result;
+        PyValues.WriteVersion(value, &result);
+        return result;
+    }
+}
+
 public readonly struct TimeSpanCodec : ICodec<TimeSpan, long, long>
 {
     public static TimeSpan Read(long value) => new(value);
