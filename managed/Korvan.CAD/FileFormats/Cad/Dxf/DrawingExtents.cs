@@ -1,7 +1,7 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Geometry;
+using Korvan.CAD.Rendering.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -32,7 +32,7 @@ internal sealed class DrawingExtents(CadImage image)
                     AddInsert(insert, extents);
                     break;
                 case CadDimensionBase { BlockName.Length: > 0 } dimension:
-                    extents.Add(BlockExtents(dimension.BlockName), static (x, y, z) => (x, y, z));
+                    extents.Add(BlockExtents(dimension.BlockName), static point => point);
                     break;
                 default:
                     EntityExtents.Add(entity, extents);
@@ -50,20 +50,20 @@ internal sealed class DrawingExtents(CadImage image)
             return;
         }
 
-        ObjectCoordinates system = new(insert.ExtrusionDirection);
+        Affine3 system = EntityExtents.SystemOf(insert.ExtrusionDirection);
         (double sin, double cos) = Math.SinCos(insert.RotationAngle * Math.PI / 180);
         Cad3DPoint origin = definition.BasePoint;
         foreach ((double column, double row) in Corners(insert))
         {
-            extents.Add(block, (x, y, z) =>
+            extents.Add(block, point =>
             {
-                double u = ((x - origin.X) * insert.ScaleX) + column;
-                double v = ((y - origin.Y) * insert.ScaleY) + row;
-                double w = (z - origin.Z) * insert.ScaleZ;
-                return system.ToWorld(
+                double u = ((point.X - origin.X) * insert.ScaleX) + column;
+                double v = ((point.Y - origin.Y) * insert.ScaleY) + row;
+                double w = (point.Z - origin.Z) * insert.ScaleZ;
+                return system.Point(new Vec3(
                     insert.InsertionPoint.X + (u * cos) - (v * sin),
                     insert.InsertionPoint.Y + (u * sin) + (v * cos),
-                    insert.InsertionPoint.Z + w);
+                    insert.InsertionPoint.Z + w));
             });
         }
     }
@@ -88,14 +88,15 @@ internal sealed class DrawingExtents(CadImage image)
             return known;
         }
 
-        // Entered before its content: a block that inserts itself adds nothing more.
+        // Nothing stands for the block until it is measured: one that inserts itself adds nothing more.
+        _blocks.Add(name, new Extents());
         Extents extents = new();
-        _blocks.Add(name, extents);
         if (image.BlockEntities.Find(name) is { } block)
         {
             AddAll(block.Entities, extents);
         }
 
+        _blocks[name] = extents;
         return extents;
     }
 }

@@ -21,6 +21,7 @@ internal sealed partial class DxfTagReader
     private int _line;
     private int _tagOffset;
     private bool _unread;
+    private bool _ended;
 
     internal DxfTagReader(byte[] data, string fileName)
     {
@@ -66,6 +67,7 @@ internal sealed partial class DxfTagReader
         {
             if (!(IsBinary ? NextBinary() : NextText()))
             {
+                _ended = true;
                 return false;
             }
         }
@@ -73,8 +75,9 @@ internal sealed partial class DxfTagReader
         return true;
     }
 
-    /// <summary>Makes <see cref="Next"/> give the current tag again.</summary>
-    internal void Unread() => _unread = true;
+    /// <summary>Makes <see cref="Next"/> give the current tag again; behind the last tag there is none to give.
+    /// </summary>
+    internal void Unread() => _unread = !_ended;
 
     /// <summary>Tells whether the current tag stands behind a marker; old files have no markers.</summary>
     internal bool InSubclass(string name) => Subclass is null || Subclass == name;
@@ -90,6 +93,7 @@ internal sealed partial class DxfTagReader
         (int position, int start, int length, int line, int offset, int current) =
             (_position, _start, _length, _line, _tagOffset, Code);
         bool unread = _unread;
+        bool ended = _ended;
         int? found = null;
         while (found is null && Next() && Code != 0)
         {
@@ -98,6 +102,7 @@ internal sealed partial class DxfTagReader
 
         (_position, _start, _length, _line, _tagOffset, Code) = (position, start, length, line, offset, current);
         _unread = unread;
+        _ended = ended;
         return found;
     }
 

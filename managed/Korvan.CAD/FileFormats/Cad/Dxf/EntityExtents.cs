@@ -5,7 +5,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
-using Korvan.CAD.FileFormats.Cad.Geometry;
+using Korvan.CAD.Rendering.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -56,6 +56,8 @@ internal static class EntityExtents
         }
     }
 
+    internal static Affine3 SystemOf(Cad3DPoint normal) => Ocs.ToWorld(new Vec3(normal.X, normal.Y, normal.Z));
+
     private static void AddOthers(CadEntityBase entity, Extents extents)
     {
         switch (entity)
@@ -99,12 +101,12 @@ internal static class EntityExtents
 
     private static void AddRing(CadCircle circle, double start, double sweep, Extents extents)
     {
-        ObjectCoordinates system = new(circle.ExtrusionDirection);
+        Affine3 system = SystemOf(circle.ExtrusionDirection);
         Cad3DPoint center = circle.CenterPoint;
         foreach (double angle in Angles(start, sweep))
         {
             (double sin, double cos) = Math.SinCos(angle);
-            extents.Add(system.ToWorld(center.X + (circle.Radius * cos), center.Y + (circle.Radius * sin), center.Z));
+            extents.Add(system.Point(new Vec3(center.X + (circle.Radius * cos), center.Y + (circle.Radius * sin), center.Z)));
         }
     }
 
@@ -123,8 +125,8 @@ internal static class EntityExtents
     private static void AddEllipse(CadEllipse ellipse, Extents extents)
     {
         Cad3DPoint major = ellipse.MajorEndPoint;
-        ObjectCoordinates plane = new(ellipse.ExtrusionDirection);
-        (double nx, double ny, double nz) = plane.ZAxis;
+        Affine3 plane = SystemOf(ellipse.ExtrusionDirection);
+        (double nx, double ny, double nz) = plane.AxisZ;
         double ratio = ellipse.AxisRatio;
         (double X, double Y, double Z) minor = (
             ratio * ((ny * major.Z) - (nz * major.Y)),
@@ -145,7 +147,7 @@ internal static class EntityExtents
 
     private static void AddLwPolyline(CadLwPolyline polyline, Extents extents)
     {
-        ObjectCoordinates system = new(polyline.ExtrusionDirection);
+        Affine3 system = SystemOf(polyline.ExtrusionDirection);
         int count = polyline.Coordinates.Count;
         for (int i = 0; i < count; i++)
         {
@@ -159,7 +161,7 @@ internal static class EntityExtents
     private static void AddPolyline(CadPolylineBase polyline, Extents extents)
     {
         bool flat = polyline is CadPolyline;
-        ObjectCoordinates system = new(flat ? polyline.ExtrusionDirection : new Cad3DPoint(0, 0, 1));
+        Affine3 system = flat ? SystemOf(polyline.ExtrusionDirection) : Affine3.Identity;
         int count = polyline.Vertices.Count;
         for (int i = 0; i < count; i++)
         {
@@ -179,10 +181,10 @@ internal static class EntityExtents
 
     // A bulge is the tangent of a quarter of the arc's angle.
     private static void AddPiece(
-        ObjectCoordinates system, (double X, double Y) from, (double X, double Y) to, double bulge, double z,
+        Affine3 system, (double X, double Y) from, (double X, double Y) to, double bulge, double z,
         Extents extents)
     {
-        extents.Add(system.ToWorld(from.X, from.Y, z));
+        extents.Add(system.Point(new Vec3(from.X, from.Y, z)));
         if (bulge == 0 || from == to)
         {
             return;
@@ -196,28 +198,28 @@ internal static class EntityExtents
         foreach (double angle in Angles(Math.Atan2(begin.Y - y, begin.X - x), 4 * Math.Atan(Math.Abs(bulge))))
         {
             (double sin, double cos) = Math.SinCos(angle);
-            extents.Add(system.ToWorld(x + (radius * cos), y + (radius * sin), z));
+            extents.Add(system.Point(new Vec3(x + (radius * cos), y + (radius * sin), z)));
         }
     }
 
     private static void AddFlat(CadExtrudedEntityBase entity, Cad3DPoint[] points, Extents extents)
     {
-        ObjectCoordinates system = new(entity.ExtrusionDirection);
+        Affine3 system = SystemOf(entity.ExtrusionDirection);
         foreach (Cad3DPoint point in points)
         {
-            extents.Add(system.ToWorld(point.X, point.Y, point.Z));
+            extents.Add(system.Point(new Vec3(point.X, point.Y, point.Z)));
         }
     }
 
     private static void AddHatch(CadHatch hatch, Extents extents)
     {
-        ObjectCoordinates system = new(hatch.ExtrusionDirection);
+        Affine3 system = SystemOf(hatch.ExtrusionDirection);
         double z = hatch.ElevationPoint.Z;
         foreach (CadHatchBoundaryPathContainer container in hatch.BoundaryPaths)
         {
             foreach ((double x, double y) in OutlinePoints(container.BoundaryPath))
             {
-                extents.Add(system.ToWorld(x, y, z));
+                extents.Add(system.Point(new Vec3(x, y, z)));
             }
         }
     }

@@ -1,7 +1,8 @@
 using System;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.Rendering.Geometry;
 
-namespace Korvan.CAD.FileFormats.Cad.Geometry;
+namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
 /// <summary>A box that grows with the points put into it.</summary>
 internal sealed class Extents
@@ -19,7 +20,7 @@ internal sealed class Extents
 
     internal Cad3DPoint Max => IsEmpty ? new Cad3DPoint() : new Cad3DPoint(_maxX, _maxY, _maxZ);
 
-    internal void Add((double X, double Y, double Z) point) => Add(point.X, point.Y, point.Z);
+    internal void Add(Vec3 point) => Add(point.X, point.Y, point.Z);
 
     internal void Add(Cad3DPoint point) => Add(point.X, point.Y, point.Z);
 
@@ -34,7 +35,7 @@ internal sealed class Extents
     }
 
     /// <summary>Adds the corners of another box, each moved by a transformation.</summary>
-    internal void Add(Extents box, Func<double, double, double, (double X, double Y, double Z)> move)
+    internal void Add(Extents box, Func<Vec3, Vec3> move)
     {
         if (box.IsEmpty)
         {
@@ -43,10 +44,10 @@ internal sealed class Extents
 
         for (int corner = 0; corner < 8; corner++)
         {
-            Add(move(
+            Add(move(new Vec3(
                 (corner & 1) == 0 ? box._minX : box._maxX,
                 (corner & 2) == 0 ? box._minY : box._maxY,
-                (corner & 4) == 0 ? box._minZ : box._maxZ));
+                (corner & 4) == 0 ? box._minZ : box._maxZ)));
         }
     }
 }
