@@ -13,8 +13,9 @@
 
 PRESET ?= release
 BUILD := build/$(PRESET)
-# MSBuild leaves servers behind that outlive the build and hold its pipes open.
+# A build leaves no servers behind: they would outlive it, hold its pipes open, and mix with other builds.
 export MSBUILDDISABLENODEREUSE := 1
+export UseSharedCompilation := false
 export DOTNET_CLI_TELEMETRY_OPTOUT := 1
 export DOTNET_NOLOGO := 1
 
