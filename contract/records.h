@@ -58,6 +58,21 @@ struct PySysVersionArg {
     std::int32_t parts[4];
 };
 
+// A moment on its way out: the clock reading with its kind in the two top bits, and the offset from
+// UTC, which is read for a local time alone. A DateTimeOffset has this form in both directions.
+struct PyDateTimeOut {
+    std::int64_t ticks;
+    std::int64_t offset;
+};
+
+// A decimal: 96 bits of mantissa, then the scale in bits 16 to 23 and the sign in bit 31.
+struct PyDecimalArg {
+    std::uint32_t low;
+    std::uint32_t middle;
+    std::uint32_t high;
+    std::uint32_t flags;
+};
+
 #define KORVAN_RECORD(record, size)                                                                \
     static_assert(sizeof(record) == (size) && std::is_standard_layout_v<record> &&                 \
                   std::is_trivially_copyable_v<record>)
@@ -71,6 +86,7 @@ KORVAN_FIELD(PyStringArg, length, 0);
 KORVAN_FIELD(PyStringArg, char_size, 4);
 KORVAN_FIELD(PyStringArg, data, 8);
 KORVAN_RECORD(PyEphStrArg, 24);
+KORVAN_FIELD(PyEphStrArg, text, 0);
 KORVAN_FIELD(PyEphStrArg, owner, 16);
 KORVAN_RECORD(PyBytesArg, 16);
 KORVAN_FIELD(PyBytesArg, acquired, 0);
@@ -84,7 +100,16 @@ KORVAN_FIELD(PyCollectionArg, kind, 0);
 KORVAN_FIELD(PyCollectionArg, handle, 8);
 KORVAN_FIELD(PyCollectionArg, type_key, 16);
 KORVAN_RECORD(PySysVersionArg, 20);
+KORVAN_FIELD(PySysVersionArg, count, 0);
 KORVAN_FIELD(PySysVersionArg, parts, 4);
+KORVAN_RECORD(PyDateTimeOut, 16);
+KORVAN_FIELD(PyDateTimeOut, ticks, 0);
+KORVAN_FIELD(PyDateTimeOut, offset, 8);
+KORVAN_RECORD(PyDecimalArg, 16);
+KORVAN_FIELD(PyDecimalArg, low, 0);
+KORVAN_FIELD(PyDecimalArg, middle, 4);
+KORVAN_FIELD(PyDecimalArg, high, 8);
+KORVAN_FIELD(PyDecimalArg, flags, 12);
 
 #undef KORVAN_RECORD
 #undef KORVAN_FIELD

@@ -115,12 +115,6 @@ template <class Record, PyObject* (*Make)(Record&, const void*)> struct out_reco
     }
 };
 
-struct Ticks {
-    long value[2]; // ticks and, for a local time or an offset form, the offset
-};
-struct Decimal {
-    unsigned int words[4];
-};
 struct Guid {
     unsigned char bytes[16];
 };
@@ -137,14 +131,14 @@ inline PyObject* make_interface_collection(PyCollectionArg& result, const void* 
 template <ClassBinding& Wrapper> PyObject* make_any(PyCollectionArg& result, const void*) {
     return fn_conv_clr_ifcimpl_to_py_ifcimpl_wps(result, &Wrapper.type);
 }
-inline PyObject* make_datetime(Ticks& result, const void*) {
-    return fn_conv_clr_datetime_to_py_datetime(result.value);
+inline PyObject* make_datetime(PyDateTimeOut& result, const void*) {
+    return fn_conv_clr_datetime_to_py_datetime(&result.ticks);
 }
-inline PyObject* make_datetimeoffset(Ticks& result, const void*) {
-    return fn_conv_clr_datetimeoffset_to_py_datetime(result.value);
+inline PyObject* make_datetimeoffset(PyDateTimeOut& result, const void*) {
+    return fn_conv_clr_datetimeoffset_to_py_datetime(&result.ticks);
 }
-inline PyObject* make_decimal(Decimal& result, const void*) {
-    return fn_conv_clr_decimal_to_py_decimal(result.words);
+inline PyObject* make_decimal(PyDecimalArg& result, const void*) {
+    return fn_conv_clr_decimal_to_py_decimal(&result.low);
 }
 inline PyObject* make_guid(Guid& result, const void*) {
     return fn_conv_clr_guid_to_py_uuid(result.bytes);
@@ -159,9 +153,9 @@ using interface_collection = out_record<PyCollectionArg, make_interface_collecti
 using any_iterable = out_record<PyCollectionArg, make_any<wrpPye_tyds_IterableWrapper>>;
 using any_collection = out_record<PyCollectionArg, make_any<wrpPye_tyds_IColWrapper>>;
 using any_list = out_record<PyCollectionArg, make_any<wrpPye_tyds_IListWrapper>>;
-using datetime = out_record<Ticks, make_datetime>;
-using datetimeoffset = out_record<Ticks, make_datetimeoffset>;
-using decimal = out_record<Decimal, make_decimal>;
+using datetime = out_record<PyDateTimeOut, make_datetime>;
+using datetimeoffset = out_record<PyDateTimeOut, make_datetimeoffset>;
+using decimal = out_record<PyDecimalArg, make_decimal>;
 using guid = out_record<Guid, make_guid>;
 using version = out_record<PySysVersionArg, make_version>;
 
