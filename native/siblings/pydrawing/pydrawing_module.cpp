@@ -34,7 +34,8 @@ template <class Value> PyObject* value_compare(PyObject* self, PyObject* other, 
     if (Py_TYPE(self) != Py_TYPE(other) || (op != Py_EQ && op != Py_NE)) {
         Py_RETURN_NOTIMPLEMENTED;
     }
-    const bool same =
+    // By their bytes, as they are hashed.
+    const bool same = // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison)
         std::memcmp(&value_of<Value>(self), &value_of<Value>(other), sizeof(Value)) == 0;
     return PyBool_FromLong(same == (op == Py_EQ));
 }
