@@ -261,7 +261,8 @@ internal sealed class TypeReader(
                 continue;
             }
             Type result = method.ReturnType.IsByRef ? method.ReturnType.GetElementType()! : method.ReturnType;
-            if (values.Read(result, Crossing.Result, Nullability.MayBe(method.ReturnParameter), out string reason) is not { } value)
+            bool isOptional = Nullability.MayBe(method.ReturnParameter);
+            if (values.Read(result, Crossing.Result, isOptional, out string reason) is not { } value)
             {
                 Leave(Signature(method), reason);
                 continue;

@@ -60,7 +60,8 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         {
             return value;
         }
-        reason = $"{value.ManagedName} can't be carried as {(crossing == Crossing.Argument ? "an argument" : "a result")} yet";
+        string form = crossing == Crossing.Argument ? "an argument" : "a result";
+        reason = $"{value.ManagedName} can't be carried as {form} yet";
         return null;
     }
 

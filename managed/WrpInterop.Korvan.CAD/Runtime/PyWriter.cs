@@ -32,7 +32,8 @@ public static unsafe class PyWriter
         TypeCode.UInt32 => ((delegate* unmanaged<uint, nint>)PyTables.Write[3])(Convert.ToUInt32(value)),
         TypeCode.Int64 => WriteLong(4, Convert.ToInt64(value)),
         TypeCode.UInt64 => ((delegate* unmanaged<ulong, nint>)PyTables.Write[5])(Convert.ToUInt64(value)),
-        TypeCode.Single or TypeCode.Double => ((delegate* unmanaged<double, nint>)PyTables.Write[6])(Convert.ToDouble(value)),
+        TypeCode.Single or TypeCode.Double =>
+            ((delegate* unmanaged<double, nint>)PyTables.Write[6])(Convert.ToDouble(value)),
         TypeCode.Decimal => WriteDecimal((decimal)value),
         TypeCode.DateTime => WriteDateTime((DateTime)value),
         _ => WriteStruct(value),

@@ -30,7 +30,8 @@ internal static class ProbeModel
         "WrpInterop.Korvan.Probe");
 
     /// <summary>What an emitter writes, file by file.</summary>
-    public static SortedDictionary<string, string> Emit(Action<BindingModel, OutputFolder> emit, BindingModel? model = null)
+    public static SortedDictionary<string, string> Emit(
+        Action<BindingModel, OutputFolder> emit, BindingModel? model = null)
     {
         string folder = Directory.CreateTempSubdirectory("korvan-wrpgen-").FullName;
         try

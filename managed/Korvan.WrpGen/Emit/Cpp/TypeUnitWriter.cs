@@ -19,7 +19,8 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
     public void Write()
     {
         writer.Line($"// {type.ManagedName}");
-        HostWriter.Write(writer, $"PyHost_cs_{_symbol}", $"{type.WrapperNamespace}.{type.WrapperClass}", type.Delegates);
+        string managedClass = $"{type.WrapperNamespace}.{type.WrapperClass}";
+        HostWriter.Write(writer, $"PyHost_cs_{_symbol}", managedClass, type.Delegates);
         WriteConstructors();
         WriteMethods();
         WriteProperties();
@@ -130,7 +131,8 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
         string result = CppValues.Result(property.Value);
         string name = $"property_{_symbol}_{property.PythonName}";
         TypeModel owner = property.Owner;
-        string slots = $"{owner.SlotOf(property.Getter)}, {(property.CanWrite ? owner.SlotOf(property.Setter) : "no_slot")}";
+        string setSlot = property.CanWrite ? owner.SlotOf(property.Setter).ToString() : "no_slot";
+        string slots = $"{owner.SlotOf(property.Getter)}, {setSlot}";
         string guard = property.IsStatic ? $", &class_{_symbol}" : "";
         writer.Line($"static const Property {name} = {{&PyHost_cs_{owner.Symbol}, {slots}, " +
             $"{CppValues.Binding(property.Value) ?? "nullptr"}{guard}}};");
@@ -254,8 +256,9 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
         if (CollectionTables.ProtocolOf(type) is { } protocol)
         {
             yield return $".protocol = Protocol::{protocol}";
-            string own = $"&collection_{_symbol}";
-            yield return $".collection = {(CollectionTables.InfoOf(type) is null ? CollectionTables.SharedInfoOf(type) : own)}";
+            bool isShared = CollectionTables.InfoOf(type) is null;
+            string info = isShared ? CollectionTables.SharedInfoOf(type) : $"&collection_{_symbol}";
+            yield return $".collection = {info}";
         }
     }
 

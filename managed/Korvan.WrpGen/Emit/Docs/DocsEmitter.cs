@@ -94,7 +94,8 @@ public static class DocsEmitter
             ", ", method.Parameters.Select(parameter => $"{parameter.PythonName}: {types.Parameter(parameter)}"));
         string result = method.IsConstructor ? "" : $" -> {types.Result(method.Result)}";
         string form = method.IsStatic ? "static " : "";
-        writer.Line($"- `{form}{method.PythonName}({parameters}){result}` {method.Doc.Summary.Replace("\n", " ")}".TrimEnd());
+        string summary = method.Doc.Summary.Replace("\n", " ");
+        writer.Line($"- `{form}{method.PythonName}({parameters}){result}` {summary}".TrimEnd());
         foreach ((string name, string text) in method.Doc.Parameters)
         {
             writer.Line($"  - `{name}`: {text}");

@@ -103,7 +103,8 @@ internal sealed class StubTypeWriter
         string? view = _type.Protocol switch
         {
             CollectionProtocol.List => "ListView",
-            CollectionProtocol.Collection => _type.ProtocolElement is null ? "ReadOnlyCollectionView" : "CollectionView",
+            CollectionProtocol.Collection when _type.ProtocolElement is not null => "CollectionView",
+            CollectionProtocol.Collection => "ReadOnlyCollectionView",
             CollectionProtocol.ReadOnlyCollection => "ReadOnlyCollectionView",
             CollectionProtocol.ReadOnlyList => "ReadOnlyListView",
             CollectionProtocol.Iterable => "IterableView",

@@ -27,16 +27,17 @@ public sealed class PyIterable<T>(PyReference reference) : PyIterable(reference)
 /// <summary>A Python iterator. Ends with the collection's end, an error or <see cref="Dispose"/>.</summary>
 internal sealed unsafe class PyIterator<T> : IEnumerator<T>
 {
-    private nint _iterator;
+    private KeptPyReference? _iterator;
     private T _current = default!;
 
     internal PyIterator(nint iterable)
     {
-        _iterator = PyCollectionApi.GetIterator(iterable);
-        if (_iterator == 0)
+        nint iterator = PyCollectionApi.GetIterator(iterable);
+        if (iterator == 0)
         {
             Boundary.ThrowPythonError();
         }
+        _iterator = KeptPyReference.Taking(iterator);
     }
 
     public T Current => _current;
@@ -47,13 +48,13 @@ internal sealed unsafe class PyIterator<T> : IEnumerator<T>
     {
         const int Item = 0;
         const int End = 1;
-        if (_iterator == 0)
+        if (_iterator is null)
         {
             return false;
         }
         nint keep = 0;
         VariantArg variant = default;
-        int status = PyCollectionApi.Next(_iterator, &keep, &variant);
+        int status = PyCollectionApi.Next(_iterator.Value, &keep, &variant);
         if (status == Item)
         {
             _current = Take(keep, &variant);
@@ -69,14 +70,10 @@ internal sealed unsafe class PyIterator<T> : IEnumerator<T>
 
     public void Reset() => throw new NotSupportedException();
 
-    // Non-generic enumeration in a foreach disposes too; an abandoned iterator loses a reference.
     public void Dispose()
     {
-        if (_iterator != 0)
-        {
-            PyObjects.DecRef(_iterator);
-            _iterator = 0;
-        }
+        _iterator?.Release();
+        _iterator = null;
     }
 
     private static T Take(nint keep, VariantArg* variant)

@@ -25,7 +25,7 @@ public class PyReference
 
     internal static PyReference Lent(nint value) => new(value);
 
-    internal static PyReference Kept(nint value) => new KeptPyReference(value);
+    internal static PyReference Kept(nint value) => KeptPyReference.Of(value);
 
     /// <summary>Forgets a lent object.</summary>
     internal void End() => _value = 0;
@@ -45,12 +45,32 @@ internal sealed class KeptPyReference : PyReference
     private static readonly ConcurrentQueue<nint> s_dead = new();
     private static volatile bool s_anyDead;
 
-    internal KeptPyReference(nint value) : base(value) => PyObjects.IncRef(value);
+    private KeptPyReference(nint value) : base(value)
+    {
+    }
 
     ~KeptPyReference()
     {
         s_dead.Enqueue(Value);
         s_anyDead = true;
+    }
+
+    /// <summary>Keeps a borrowed object.</summary>
+    internal static KeptPyReference Of(nint value)
+    {
+        PyObjects.IncRef(value);
+        return new KeptPyReference(value);
+    }
+
+    /// <summary>Keeps an object whose reference is handed over.</summary>
+    internal static KeptPyReference Taking(nint value) => new(value);
+
+    /// <summary>Gives the object back at once.</summary>
+    internal void Release()
+    {
+        GC.SuppressFinalize(this);
+        PyObjects.DecRef(Value);
+        End();
     }
 
     internal static void ReleaseDead()

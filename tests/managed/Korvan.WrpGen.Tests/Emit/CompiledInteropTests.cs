@@ -32,9 +32,10 @@ public class CompiledInteropTests
         Assert.True(exported.Length > 500);
         Assert.All(exported, method =>
         {
-            Assert.True(IsBlittable(method.ReturnType), $"{method.DeclaringType}.{method.Name} returns {method.ReturnType}");
+            string name = $"{method.DeclaringType}.{method.Name}";
+            Assert.True(IsBlittable(method.ReturnType), $"{name} returns {method.ReturnType}");
             Assert.All(method.GetParameters(), parameter =>
-                Assert.True(IsBlittable(parameter.ParameterType), $"{method.DeclaringType}.{method.Name}({parameter})"));
+                Assert.True(IsBlittable(parameter.ParameterType), $"{name}({parameter})"));
         });
     }
 
@@ -62,8 +63,8 @@ public class CompiledInteropTests
 
     [Theory]
     [InlineData("ExchangeHost", "GetTypeName SetExceptionCallback SetCatchAndClearErrorCallback " +
-        "SetU16StrBuilderCallback SetPyUnraisableStrBuilderCallback SetPyStrBuilderCallback SetPyBytesBuilderCallback " +
-        "SetPyObjApiCallbacks SetPyStaticCallbacks SetPyGenericCallbacks FreePendingArgs FreeInstance InitServices " +
+        "SetU16StrBuilderCallback SetPyUnraisableStrBuilderCallback SetPyStrBuilderCallback " +
+        "SetPyBytesBuilderCallback SetPyObjApiCallbacks SetPyStaticCallbacks SetPyGenericCallbacks FreePendingArgs FreeInstance InitServices " +
         "BoxStcTarget")]
     [InlineData("ObjectHost", "ToStringOfObj ToStringOfStc GetHashOfObj GetHashOfStc IsEqualsOfObj IsEqualsOfStc " +
         "IsTypeOf GetTypeName GetObjType GetStcType Dispose")]
@@ -90,8 +91,9 @@ public class CompiledInteropTests
     // Structs of two words return in registers, and have no reference in them.
     private static bool IsBlittable(Type type) =>
         s_words.Contains(type) || type.IsPointer ||
-        (type.IsValueType && !type.IsPrimitive && !type.IsEnum && type.GetFields(
-            BindingFlags.Instance | BindingFlags.Public | BindingFlags.NonPublic).All(field => IsBlittable(field.FieldType)));
+        (type.IsValueType && !type.IsPrimitive && !type.IsEnum && type
+            .GetFields(BindingFlags.Instance | BindingFlags.Public | BindingFlags.NonPublic)
+            .All(field => IsBlittable(field.FieldType)));
 
     private static Assembly Compile()
     {
@@ -108,7 +110,8 @@ public class CompiledInteropTests
             sources.Select(source => CSharpSyntaxTree.ParseText(source, parsing)),
             references.Where(IsManaged).Select(path => MetadataReference.CreateFromFile(path)),
             new CSharpCompilationOptions(
-                OutputKind.DynamicallyLinkedLibrary, allowUnsafe: true, nullableContextOptions: NullableContextOptions.Enable));
+                OutputKind.DynamicallyLinkedLibrary, allowUnsafe: true,
+                nullableContextOptions: NullableContextOptions.Enable));
         using var image = new MemoryStream();
         var result = compilation.Emit(image);
         Assert.Empty(result.Diagnostics.Where(diagnostic => diagnostic.Severity >= DiagnosticSeverity.Warning));

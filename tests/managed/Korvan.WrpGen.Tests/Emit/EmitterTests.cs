@@ -33,7 +33,8 @@ public class EmitterTests
         string text = ProbeModel.Emit(CppEmitter.Write)["PyM_korvan_probe.cpp"];
         string head = $"// Korvan.Probe.{type}\n";
         int start = text.IndexOf(head, System.StringComparison.Ordinal);
-        Snapshot.Matches($"{type}.cpp.txt", text[start..text.IndexOf("\n\n", start, System.StringComparison.Ordinal)] + "\n");
+        int end = text.IndexOf("\n\n", start, System.StringComparison.Ordinal);
+        Snapshot.Matches($"{type}.cpp.txt", text[start..end] + "\n");
     }
 
     [Fact]

@@ -11,7 +11,8 @@ public class FailureTests
     [Fact]
     public void AFailureIsItsTypeAndItsMessages()
     {
-        var failure = new InvalidOperationException("outer", new FormatException("inner", new ArgumentException("core")));
+        var inner = new FormatException("inner", new ArgumentException("core"));
+        var failure = new InvalidOperationException("outer", inner);
         Assert.Equal(-1, Boundary.Failed(failure));
         Assert.Equal(
             ("InvalidOperationException", "outer ---> FormatException: inner ---> ArgumentException: core"),

@@ -19,7 +19,8 @@ public partial class RecordTests
         .Select(match => new object[] { match.Groups[1].Value, int.Parse(match.Groups[2].Value) });
 
     public static IEnumerable<object[]> Offsets => Matches(Field())
-        .Select(match => new object[] { match.Groups[1].Value, match.Groups[2].Value, int.Parse(match.Groups[3].Value) });
+        .Select(match => match.Groups)
+        .Select(parts => new object[] { parts[1].Value, parts[2].Value, int.Parse(parts[3].Value) });
 
     [Theory]
     [MemberData(nameof(Sizes))]
