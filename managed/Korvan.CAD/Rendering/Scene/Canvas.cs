@@ -57,11 +57,11 @@ internal sealed class Canvas
         if (length >= period && length / period * pen.Pattern.Lengths.Length < DashesPerPathLimit)
         {
             style.Dash = DashIndex(pen);
-            path = Aligned(path, pen, length, period, out double offset);
+            path = Aligned(path, pen, length, period, out double offset, out double lead);
             style.DashOffset = (float)offset;
             if (pen.Pattern.Texts.Count > 0)
             {
-                PatternTexts(path, pen, period, style.DashOffset);
+                PatternTexts(path, pen, period, offset - lead);
             }
         }
 
@@ -153,9 +153,10 @@ internal sealed class Canvas
     /// A straight line begins and ends with ink. What whole periods leave over shortens the outer dashes by the same
     /// part, as long as half of each remains; else it lengthens them, by two ends that are drawn on their own.
     /// </summary>
-    private PathBuffer Aligned(PathBuffer path, in Pen pen, double length, double period, out double offset)
+    private PathBuffer Aligned(PathBuffer path, in Pen pen, double length, double period, out double offset, out double lead)
     {
         offset = 0;
+        lead = 0;
         bool isLine = path.Verbs.Length == 2 && path.Verbs[1] == PathVerb.Line;
         double dash = pen.Pattern!.Lengths[0] * pen.PatternScale;
         double gap = period - dash;
@@ -173,7 +174,8 @@ internal sealed class Canvas
 
         Vec2 from = new(path.Coords[0], path.Coords[1]);
         Vec2 to = new(path.Coords[2], path.Coords[3]);
-        Vec2 end = (to - from) * (rest / 2 / length);
+        lead = rest / 2;
+        Vec2 end = (to - from) * (lead / length);
         aligned.Clear();
         aligned.MoveTo(from);
         aligned.LineTo(from + end);

@@ -22,11 +22,14 @@ internal sealed class PenResolver
     private readonly SceneTables tables;
     private readonly RenderStyle style;
     private readonly DrawingList list;
+    private readonly bool showWeights;
     private string? lastLayerName;
     private LayerInfo? lastLayer;
 
-    internal PenResolver(SceneTables tables, RenderStyle style, DrawingList list)
+    /// <summary>A resolver; sheets of paper and plots show line weights, the model only where the screen does.</summary>
+    internal PenResolver(SceneTables tables, RenderStyle style, DrawingList list, bool onPaper)
     {
+        showWeights = onPaper || style.AsPlotted || tables.Settings.ShowLineWeights;
         this.tables = tables;
         this.style = style;
         this.list = list;
@@ -114,7 +117,7 @@ internal sealed class PenResolver
 
     private float WeightOf(short weight, LayerInfo layer, BlockContext context)
     {
-        if (!tables.Settings.ShowLineWeights && !style.AsPlotted)
+        if (!showWeights)
         {
             return 0;
         }

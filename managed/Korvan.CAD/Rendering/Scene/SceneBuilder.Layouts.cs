@@ -20,7 +20,7 @@ internal sealed partial class SceneBuilder
     internal static DrawingList BuildLayout(
         SceneTables tables, RenderStyle style, TextEngine engine, BlockInfo sheet, BlockInfo model)
     {
-        var builder = new SceneBuilder(tables, style, engine, new DrawingList());
+        var builder = new SceneBuilder(tables, style, engine, onPaper: true);
         var context = new BlockContext { Map = Affine3.Identity };
         foreach (CadViewport viewport in sheet.Entities.OfType<CadViewport>())
         {

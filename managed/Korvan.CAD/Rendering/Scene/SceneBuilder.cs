@@ -27,12 +27,12 @@ internal sealed partial class SceneBuilder
     private readonly List<Action> infinite = [];
     private int drawn;
 
-    private SceneBuilder(SceneTables tables, RenderStyle style, TextEngine engine, DrawingList list)
+    private SceneBuilder(SceneTables tables, RenderStyle style, TextEngine engine, bool onPaper)
     {
         this.tables = tables;
         this.style = style;
-        canvas = new Canvas(list, engine) { StyleFont = name => tables.Style(name).Font };
-        pens = new PenResolver(tables, style, list);
+        canvas = new Canvas(new DrawingList(), engine) { StyleFont = name => tables.Style(name).Font };
+        pens = new PenResolver(tables, style, canvas.List, onPaper);
     }
 
     private DrawingList List => canvas.List;
@@ -40,7 +40,7 @@ internal sealed partial class SceneBuilder
     /// <summary>The list of the model, in the plane that the style looks at.</summary>
     internal static DrawingList BuildModel(SceneTables tables, RenderStyle style, TextEngine engine, BlockInfo model)
     {
-        var builder = new SceneBuilder(tables, style, engine, new DrawingList());
+        var builder = new SceneBuilder(tables, style, engine, onPaper: false);
         builder.DrawSpace(model, new BlockContext { Map = style.ModelView });
         builder.FinishInfinite();
         return builder.List;
