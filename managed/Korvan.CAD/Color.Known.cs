@@ -425,7 +425,8 @@ public readonly partial struct Color
     /// <summary>Gets yellow green, #9ACD32.</summary>
     public static Color YellowGreen => new(0xFF9ACD32);
 
-    /// <summary>The names that <see cref="Name"/> gives and <see cref="FromName"/> takes; of two names of one value the first.</summary>
+    /// <summary>The names that <see cref="Name"/> gives and <see cref="FromName"/> takes; of two names of one value
+    /// the first.</summary>
     private static readonly (string Name, uint Argb)[] KnownNames =
     [
         ("Transparent", 0x00FFFFFF),

@@ -24,7 +24,7 @@ public abstract class DataStreamSupporter : DisposableObject
         SaveData(stream);
     }
 
-    /// <summary>Writes the data to a file, which must not exist yet or is replaced.</summary>
+    /// <summary>Writes the data to a file, in the format it was read from.</summary>
     /// <param name="filePath">The path of the file. A file that exists is replaced only when writing succeeds.</param>
     public virtual void Save(string filePath) => Save(filePath, true);
 

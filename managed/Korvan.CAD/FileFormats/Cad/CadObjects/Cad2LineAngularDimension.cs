@@ -6,19 +6,19 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadObject("DIMENSION", Subclass = "AcDb2LineAngularDimension")]
 public partial class Cad2LineAngularDimension : CadDimensionBase
 {
-    /// <summary>Gets or sets the start of the first line, in world coordinates. Group code 13, 23, 33.</summary>
+    /// <summary>Gets or sets the start of the first line, in world coordinates. Group codes 13, 23, 33.</summary>
     [Cad3DPoint(13)]
     public Cad3DPoint FirstPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the end of the first line, in world coordinates. Group code 14, 24, 34.</summary>
+    /// <summary>Gets or sets the end of the first line, in world coordinates. Group codes 14, 24, 34.</summary>
     [Cad3DPoint(14)]
     public Cad3DPoint SecondPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the start of the second line, in world coordinates. Group code 15, 25, 35.</summary>
+    /// <summary>Gets or sets the start of the second line, in world coordinates. Group codes 15, 25, 35.</summary>
     [Cad3DPoint(15)]
     public Cad3DPoint ThirdPoint { get; set; } = new();
 
-    /// <summary>Gets or sets a point of the dimension arc, in object coordinates. Group code 16, 26, 36.</summary>
+    /// <summary>Gets or sets a point of the dimension arc, in object coordinates. Group codes 16, 26, 36.</summary>
     [Cad3DPoint(16)]
     public Cad3DPoint ArcPoint { get; set; } = new();
 

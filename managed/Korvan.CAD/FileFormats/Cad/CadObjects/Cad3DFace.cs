@@ -9,19 +9,19 @@ public partial class Cad3DFace : CadEntityBase
     {
     }
 
-    /// <summary>Gets or sets the first corner, in world coordinates. Group code 10, 20, 30.</summary>
+    /// <summary>Gets or sets the first corner, in world coordinates. Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint FirstPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the second corner, in world coordinates. Group code 11, 21, 31.</summary>
+    /// <summary>Gets or sets the second corner, in world coordinates. Group codes 11, 21, 31.</summary>
     [Cad3DPoint(11)]
     public Cad3DPoint SecondPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the third corner, in world coordinates. Group code 12, 22, 32.</summary>
+    /// <summary>Gets or sets the third corner, in world coordinates. Group codes 12, 22, 32.</summary>
     [Cad3DPoint(12)]
     public Cad3DPoint ThirdPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the fourth corner, in world coordinates; the third again in a triangle. Group code 13,
+    /// <summary>Gets or sets the fourth corner, in world coordinates; the third again in a triangle. Group codes 13,
     /// 23, 33.</summary>
     [Cad3DPoint(13)]
     public Cad3DPoint FourthPoint { get; set; } = new();

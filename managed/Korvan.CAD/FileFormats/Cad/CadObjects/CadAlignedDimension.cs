@@ -6,12 +6,12 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadObject("DIMENSION", Subclass = "AcDbAlignedDimension")]
 public partial class CadAlignedDimension : CadDimensionBase
 {
-    /// <summary>Gets or sets the start of the first extension line, in world coordinates. Group code 13, 23,
+    /// <summary>Gets or sets the start of the first extension line, in world coordinates. Group codes 13, 23,
     /// 33.</summary>
     [Cad3DPoint(13)]
     public Cad3DPoint FirstExtensionPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the start of the second extension line, in world coordinates. Group code 14, 24,
+    /// <summary>Gets or sets the start of the second extension line, in world coordinates. Group codes 14, 24,
     /// 34.</summary>
     [Cad3DPoint(14)]
     public Cad3DPoint SecondExtensionPoint { get; set; } = new();

@@ -6,15 +6,15 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadObject("DIMENSION", Subclass = "AcDb3PointAngularDimension")]
 public partial class CadAngularDimension : CadDimensionBase
 {
-    /// <summary>Gets or sets the first point, in world coordinates. Group code 13, 23, 33.</summary>
+    /// <summary>Gets or sets the first point, in world coordinates. Group codes 13, 23, 33.</summary>
     [Cad3DPoint(13)]
     public Cad3DPoint FirstPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the second point, in world coordinates. Group code 14, 24, 34.</summary>
+    /// <summary>Gets or sets the second point, in world coordinates. Group codes 14, 24, 34.</summary>
     [Cad3DPoint(14)]
     public Cad3DPoint SecondPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the vertex of the angle, in world coordinates. Group code 15, 25, 35.</summary>
+    /// <summary>Gets or sets the vertex of the angle, in world coordinates. Group codes 15, 25, 35.</summary>
     [Cad3DPoint(15)]
     public Cad3DPoint ThirdPoint { get; set; } = new();
 

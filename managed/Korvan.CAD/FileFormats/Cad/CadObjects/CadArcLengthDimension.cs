@@ -6,17 +6,17 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadObject("ARC_DIMENSION", Subclass = "AcDbArcDimension")]
 public partial class CadArcLengthDimension : CadDimensionBase
 {
-    /// <summary>Gets or sets the start of the first extension line, in world coordinates. Group code 13, 23,
+    /// <summary>Gets or sets the start of the first extension line, in world coordinates. Group codes 13, 23,
     /// 33.</summary>
     [Cad3DPoint(13)]
     public Cad3DPoint FirstExtensionPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the start of the second extension line, in world coordinates. Group code 14, 24,
+    /// <summary>Gets or sets the start of the second extension line, in world coordinates. Group codes 14, 24,
     /// 34.</summary>
     [Cad3DPoint(14)]
     public Cad3DPoint SecondExtensionPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the centre of the arc, in world coordinates. Group code 15, 25, 35.</summary>
+    /// <summary>Gets or sets the centre of the arc, in world coordinates. Group codes 15, 25, 35.</summary>
     [Cad3DPoint(15)]
     public Cad3DPoint ArcCenter { get; set; } = new();
 
@@ -36,11 +36,11 @@ public partial class CadArcLengthDimension : CadDimensionBase
     [CadShort(71, Optional = true)]
     public short HasLeader { get; set; }
 
-    /// <summary>Gets or sets the start of the leader, in world coordinates. Group code 16, 26, 36.</summary>
+    /// <summary>Gets or sets the start of the leader, in world coordinates. Group codes 16, 26, 36.</summary>
     [Cad3DPoint(16, Optional = true)]
     public Cad3DPoint LeaderStart { get; set; } = new();
 
-    /// <summary>Gets or sets the end of the leader, in world coordinates. Group code 17, 27, 37.</summary>
+    /// <summary>Gets or sets the end of the leader, in world coordinates. Group codes 17, 27, 37.</summary>
     [Cad3DPoint(17, Optional = true)]
     public Cad3DPoint LeaderEnd { get; set; } = new();
 

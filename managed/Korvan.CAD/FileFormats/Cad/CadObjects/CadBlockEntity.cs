@@ -21,7 +21,7 @@ public partial class CadBlockEntity : CadEntityBase
     [CadShort(70)]
     public short Flags { get; set; }
 
-    /// <summary>Gets or sets the point that is placed at the insertion point. Group code 10, 20, 30.</summary>
+    /// <summary>Gets or sets the point that is placed at the insertion point. Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint BasePoint { get; set; } = new();
 

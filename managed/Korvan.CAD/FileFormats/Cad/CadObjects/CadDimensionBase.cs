@@ -19,12 +19,12 @@ public abstract partial class CadDimensionBase : CadEntityBase
     [CadString(2, Optional = true)]
     public string BlockName { get; set; } = "";
 
-    /// <summary>Gets or sets the point that the dimension line is defined by, in world coordinates. Group code 10,
+    /// <summary>Gets or sets the point that the dimension line is defined by, in world coordinates. Group codes 10,
     /// 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint DefinitionPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the middle of the text, in object coordinates. Group code 11, 21, 31.</summary>
+    /// <summary>Gets or sets the middle of the text, in object coordinates. Group codes 11, 21, 31.</summary>
     [Cad3DPoint(11)]
     public Cad3DPoint MiddleOfTextPoint { get; set; } = new();
 
@@ -67,7 +67,7 @@ public abstract partial class CadDimensionBase : CadEntityBase
     [CadDouble(51, Optional = true)]
     public double HorizontalDirection { get; set; }
 
-    /// <summary>Gets or sets the unit normal of the plane of the dimension. Group code 210, 220, 230.</summary>
+    /// <summary>Gets or sets the unit normal of the plane of the dimension. Group codes 210, 220, 230.</summary>
     [Cad3DPoint(210, Optional = true)]
     public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
 

@@ -6,12 +6,12 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadObject("DIMENSION", Subclass = "AcDbOrdinateDimension")]
 public partial class CadDimensionOrdinate : CadDimensionBase
 {
-    /// <summary>Gets or sets the point whose coordinate is shown, in world coordinates. Group code 13, 23,
+    /// <summary>Gets or sets the point whose coordinate is shown, in world coordinates. Group codes 13, 23,
     /// 33.</summary>
     [Cad3DPoint(13)]
     public Cad3DPoint FeaturePoint { get; set; } = new();
 
-    /// <summary>Gets or sets the end of the leader, in world coordinates. Group code 14, 24, 34.</summary>
+    /// <summary>Gets or sets the end of the leader, in world coordinates. Group codes 14, 24, 34.</summary>
     [Cad3DPoint(14)]
     public Cad3DPoint LeaderEndPoint { get; set; } = new();
 

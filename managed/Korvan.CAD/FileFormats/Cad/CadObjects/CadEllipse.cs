@@ -9,15 +9,15 @@ public partial class CadEllipse : CadEntityBase
     {
     }
 
-    /// <summary>Gets or sets the centre, in world coordinates. Group code 10, 20, 30.</summary>
+    /// <summary>Gets or sets the centre, in world coordinates. Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint CenterPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the end of the major axis, relative to the centre. Group code 11, 21, 31.</summary>
+    /// <summary>Gets or sets the end of the major axis, relative to the centre. Group codes 11, 21, 31.</summary>
     [Cad3DPoint(11)]
     public Cad3DPoint MajorEndPoint { get; set; } = new(1, 0, 0);
 
-    /// <summary>Gets or sets the unit normal of the plane of the ellipse. Group code 210, 220, 230.</summary>
+    /// <summary>Gets or sets the unit normal of the plane of the ellipse. Group codes 210, 220, 230.</summary>
     [Cad3DPoint(210, Optional = true)]
     public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
 

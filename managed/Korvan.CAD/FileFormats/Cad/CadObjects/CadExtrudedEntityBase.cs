@@ -14,7 +14,7 @@ public abstract partial class CadExtrudedEntityBase : CadEntityBase
     public double Thickness { get; set; }
 
     /// <summary>Gets or sets the unit normal of the plane that the coordinates of the entity are in (its object
-    /// coordinate system). Group code 210, 220, 230.</summary>
+    /// coordinate system). Group codes 210, 220, 230.</summary>
     [Cad3DPoint(210, Optional = true)]
     public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
 }

@@ -19,15 +19,15 @@ public partial class CadHelix : CadSpline
     [CadInt(91)]
     public int MaintenanceReleaseNumber { get; set; } = 63;
 
-    /// <summary>Gets or sets the foot of the axis, in world coordinates. Group code 10, 20, 30.</summary>
+    /// <summary>Gets or sets the foot of the axis, in world coordinates. Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint AxisBasePoint { get; set; } = new();
 
-    /// <summary>Gets or sets the start of the curve, in world coordinates. Group code 11, 21, 31.</summary>
+    /// <summary>Gets or sets the start of the curve, in world coordinates. Group codes 11, 21, 31.</summary>
     [Cad3DPoint(11)]
     public Cad3DPoint StartPoint { get; set; } = new(1, 0, 0);
 
-    /// <summary>Gets or sets the direction of the axis. Group code 12, 22, 32.</summary>
+    /// <summary>Gets or sets the direction of the axis. Group codes 12, 22, 32.</summary>
     [Cad3DPoint(12)]
     public Cad3DPoint AxisVector { get; set; } = new(0, 0, 1);
 

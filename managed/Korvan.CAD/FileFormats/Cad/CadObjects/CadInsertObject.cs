@@ -17,7 +17,7 @@ public partial class CadInsertObject : CadEntityBase
     [CadString(2)]
     public string Name { get; set; } = "";
 
-    /// <summary>Gets or sets the place of the block's base point, in object coordinates. Group code 10, 20,
+    /// <summary>Gets or sets the place of the block's base point, in object coordinates. Group codes 10, 20,
     /// 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint InsertionPoint { get; set; } = new();
@@ -54,7 +54,7 @@ public partial class CadInsertObject : CadEntityBase
     [CadDouble(45, Optional = true)]
     public double RowSpacing { get; set; }
 
-    /// <summary>Gets or sets the unit normal of the plane that the insertion point is in. Group code 210, 220,
+    /// <summary>Gets or sets the unit normal of the plane that the insertion point is in. Group codes 210, 220,
     /// 230.</summary>
     [Cad3DPoint(210, Optional = true)]
     public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);

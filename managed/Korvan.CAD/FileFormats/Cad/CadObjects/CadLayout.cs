@@ -23,23 +23,23 @@ public partial class CadLayout : CadPlotSettings
     [CadInt(71)]
     public int TabOrder { get; set; }
 
-    /// <summary>Gets or sets the lower left limit. Group code 10, 20.</summary>
+    /// <summary>Gets or sets the lower left limit. Group codes 10, 20.</summary>
     [Cad2DPoint(10)]
     public Cad2DPoint MinLimits { get; set; } = new();
 
-    /// <summary>Gets or sets the upper right limit. Group code 11, 21.</summary>
+    /// <summary>Gets or sets the upper right limit. Group codes 11, 21.</summary>
     [Cad2DPoint(11)]
     public Cad2DPoint MaxLimits { get; set; } = new(12, 9);
 
-    /// <summary>Gets or sets the base point of the drawing as a block. Group code 12, 22, 32.</summary>
+    /// <summary>Gets or sets the base point of the drawing as a block. Group codes 12, 22, 32.</summary>
     [Cad3DPoint(12)]
     public Cad3DPoint InsertionBasePoint { get; set; } = new();
 
-    /// <summary>Gets or sets the smallest coordinates of its entities. Group code 14, 24, 34.</summary>
+    /// <summary>Gets or sets the smallest coordinates of its entities. Group codes 14, 24, 34.</summary>
     [Cad3DPoint(14)]
     public Cad3DPoint MinExtents { get; set; } = new();
 
-    /// <summary>Gets or sets the largest coordinates of its entities. Group code 15, 25, 35.</summary>
+    /// <summary>Gets or sets the largest coordinates of its entities. Group codes 15, 25, 35.</summary>
     [Cad3DPoint(15)]
     public Cad3DPoint MaxExtents { get; set; } = new();
 
@@ -47,15 +47,15 @@ public partial class CadLayout : CadPlotSettings
     [CadDouble(146)]
     public double Elevation { get; set; }
 
-    /// <summary>Gets or sets the origin of the coordinate system. Group code 13, 23, 33.</summary>
+    /// <summary>Gets or sets the origin of the coordinate system. Group codes 13, 23, 33.</summary>
     [Cad3DPoint(13)]
     public Cad3DPoint UcsOrigin { get; set; } = new();
 
-    /// <summary>Gets or sets the X axis of the coordinate system. Group code 16, 26, 36.</summary>
+    /// <summary>Gets or sets the X axis of the coordinate system. Group codes 16, 26, 36.</summary>
     [Cad3DPoint(16)]
     public Cad3DPoint UcsXAxis { get; set; } = new(1, 0, 0);
 
-    /// <summary>Gets or sets the Y axis of the coordinate system. Group code 17, 27, 37.</summary>
+    /// <summary>Gets or sets the Y axis of the coordinate system. Group codes 17, 27, 37.</summary>
     [Cad3DPoint(17)]
     public Cad3DPoint UcsYAxis { get; set; } = new(0, 1, 0);
 

@@ -11,11 +11,11 @@ public partial class CadLine : CadExtrudedEntityBase
     {
     }
 
-    /// <summary>Gets or sets the start point, in world coordinates. Group code 10, 20, 30.</summary>
+    /// <summary>Gets or sets the start point, in world coordinates. Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint FirstPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the end point, in world coordinates. Group code 11, 21, 31.</summary>
+    /// <summary>Gets or sets the end point, in world coordinates. Group codes 11, 21, 31.</summary>
     [Cad3DPoint(11)]
     public Cad3DPoint SecondPoint { get; set; } = new();
 }

@@ -13,7 +13,7 @@ public partial class CadMText : CadEntityBase
     {
     }
 
-    /// <summary>Gets or sets the insertion point, in world coordinates. Group code 10, 20, 30.</summary>
+    /// <summary>Gets or sets the insertion point, in world coordinates. Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint InsertionPoint { get; set; } = new();
 

@@ -38,11 +38,11 @@ public partial class CadMultiLine : CadEntityBase
     [CadShort(73)]
     public short ElementCount { get; set; } = 2;
 
-    /// <summary>Gets or sets the start point, in world coordinates. Group code 10, 20, 30.</summary>
+    /// <summary>Gets or sets the start point, in world coordinates. Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint StartPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the unit normal of the plane of the multiline. Group code 210, 220, 230.</summary>
+    /// <summary>Gets or sets the unit normal of the plane of the multiline. Group codes 210, 220, 230.</summary>
     [Cad3DPoint(210)]
     public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
 

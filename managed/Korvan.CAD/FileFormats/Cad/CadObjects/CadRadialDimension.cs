@@ -6,7 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadObject("DIMENSION", Subclass = "AcDbRadialDimension")]
 public partial class CadRadialDimension : CadDimensionBase
 {
-    /// <summary>Gets or sets a point of the circle, in world coordinates. Group code 15, 25, 35.</summary>
+    /// <summary>Gets or sets a point of the circle, in world coordinates. Group codes 15, 25, 35.</summary>
     [Cad3DPoint(15)]
     public Cad3DPoint ChordPoint { get; set; } = new();
 

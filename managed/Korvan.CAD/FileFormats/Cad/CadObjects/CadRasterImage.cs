@@ -16,19 +16,19 @@ public partial class CadRasterImage : CadEntityBase
     [CadInt(90)]
     public int ClassVersion { get; set; }
 
-    /// <summary>Gets or sets the lower left corner, in world coordinates. Group code 10, 20, 30.</summary>
+    /// <summary>Gets or sets the lower left corner, in world coordinates. Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint InsertionPoint { get; set; } = new();
 
-    /// <summary>Gets or sets one pixel along the lower side, in world coordinates. Group code 11, 21, 31.</summary>
+    /// <summary>Gets or sets one pixel along the lower side, in world coordinates. Group codes 11, 21, 31.</summary>
     [Cad3DPoint(11)]
     public Cad3DPoint VectorU { get; set; } = new(1, 0, 0);
 
-    /// <summary>Gets or sets one pixel along the left side, in world coordinates. Group code 12, 22, 32.</summary>
+    /// <summary>Gets or sets one pixel along the left side, in world coordinates. Group codes 12, 22, 32.</summary>
     [Cad3DPoint(12)]
     public Cad3DPoint VectorV { get; set; } = new(0, 1, 0);
 
-    /// <summary>Gets or sets the width and height in pixels. Group code 13, 23.</summary>
+    /// <summary>Gets or sets the width and height in pixels. Group codes 13, 23.</summary>
     [Cad2DPoint(13)]
     public Cad2DPoint ImageSize { get; set; } = new(1, 1);
 

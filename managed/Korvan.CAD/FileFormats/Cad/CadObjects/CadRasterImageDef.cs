@@ -17,11 +17,11 @@ public partial class CadRasterImageDef : CadObjectBase
     [CadString(1)]
     public string FileName { get; set; } = "";
 
-    /// <summary>Gets or sets the width and height in pixels. Group code 10, 20.</summary>
+    /// <summary>Gets or sets the width and height in pixels. Group codes 10, 20.</summary>
     [Cad2DPoint(10)]
     public Cad2DPoint ImageSize { get; set; } = new();
 
-    /// <summary>Gets or sets the default size of a pixel, in drawing units. Group code 11, 21.</summary>
+    /// <summary>Gets or sets the default size of a pixel, in drawing units. Group codes 11, 21.</summary>
     [Cad2DPoint(11)]
     public Cad2DPoint PixelSize { get; set; } = new(1, 1);
 

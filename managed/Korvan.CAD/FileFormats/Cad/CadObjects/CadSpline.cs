@@ -85,7 +85,8 @@ public partial class CadSpline : CadEntityBase
                 Weights.Add(tags.GetDouble());
                 break;
             default:
-                taken = PointLists.TryRead(code, 10, ControlPoints, tags) || PointLists.TryRead(code, 11, FitPoints, tags);
+                taken = PointLists.TryRead(code, 10, ControlPoints, tags)
+                    || PointLists.TryRead(code, 11, FitPoints, tags);
                 break;
         }
     }

@@ -12,7 +12,7 @@ public partial class CadText : CadExtrudedEntityBase
     }
 
     /// <summary>Gets or sets the start of the base line, in object coordinates. It counts when both alignments are 0.
-    /// Group code 10, 20, 30.</summary>
+    /// Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint FirstAlignment { get; set; } = new();
 

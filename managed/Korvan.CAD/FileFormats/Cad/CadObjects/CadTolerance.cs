@@ -13,7 +13,7 @@ public partial class CadTolerance : CadEntityBase
     [CadString(3)]
     public string DimensionStyleName { get; set; } = "STANDARD";
 
-    /// <summary>Gets or sets the insertion point, in world coordinates. Group code 10, 20, 30.</summary>
+    /// <summary>Gets or sets the insertion point, in world coordinates. Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint InsertionPoint { get; set; } = new();
 
@@ -21,11 +21,11 @@ public partial class CadTolerance : CadEntityBase
     [CadString(1)]
     public string VisualRepresentation { get; set; } = "";
 
-    /// <summary>Gets or sets the unit normal of the plane of the frame. Group code 210, 220, 230.</summary>
+    /// <summary>Gets or sets the unit normal of the plane of the frame. Group codes 210, 220, 230.</summary>
     [Cad3DPoint(210, Optional = true)]
     public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
 
-    /// <summary>Gets or sets the direction of the frame, in world coordinates. Group code 11, 21, 31.</summary>
+    /// <summary>Gets or sets the direction of the frame, in world coordinates. Group codes 11, 21, 31.</summary>
     [Cad3DPoint(11)]
     public Cad3DPoint DirectionVector { get; set; } = new(1, 0, 0);
 }

@@ -12,7 +12,7 @@ public partial class CadViewport : CadEntityBase
     {
     }
 
-    /// <summary>Gets or sets the centre, in paper coordinates. Group code 10, 20, 30.</summary>
+    /// <summary>Gets or sets the centre, in paper coordinates. Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint CenterPoint { get; set; } = new();
 
@@ -33,28 +33,28 @@ public partial class CadViewport : CadEntityBase
     [CadShort(69)]
     public short ViewportId { get; set; }
 
-    /// <summary>Gets or sets the centre of the view, in display coordinates. Group code 12, 22.</summary>
+    /// <summary>Gets or sets the centre of the view, in display coordinates. Group codes 12, 22.</summary>
     [Cad2DPoint(12, Since = 2000)]
     public Cad2DPoint ViewCenter { get; set; } = new();
 
-    /// <summary>Gets or sets the base of the snap grid. Group code 13, 23.</summary>
+    /// <summary>Gets or sets the base of the snap grid. Group codes 13, 23.</summary>
     [Cad2DPoint(13, Since = 2000)]
     public Cad2DPoint SnapBase { get; set; } = new();
 
-    /// <summary>Gets or sets the distances of the snap grid. Group code 14, 24.</summary>
+    /// <summary>Gets or sets the distances of the snap grid. Group codes 14, 24.</summary>
     [Cad2DPoint(14, Since = 2000)]
     public Cad2DPoint SnapSpacing { get; set; } = new(0.5, 0.5);
 
-    /// <summary>Gets or sets the distances of the grid. Group code 15, 25.</summary>
+    /// <summary>Gets or sets the distances of the grid. Group codes 15, 25.</summary>
     [Cad2DPoint(15, Since = 2000)]
     public Cad2DPoint GridSpacing { get; set; } = new(0.5, 0.5);
 
-    /// <summary>Gets or sets the direction from the target to the eye, in world coordinates. Group code 16, 26,
+    /// <summary>Gets or sets the direction from the target to the eye, in world coordinates. Group codes 16, 26,
     /// 36.</summary>
     [Cad3DPoint(16, Since = 2000)]
     public Cad3DPoint ViewDirection { get; set; } = new(0, 0, 1);
 
-    /// <summary>Gets or sets the point looked at, in world coordinates. Group code 17, 27, 37.</summary>
+    /// <summary>Gets or sets the point looked at, in world coordinates. Group codes 17, 27, 37.</summary>
     [Cad3DPoint(17, Since = 2000)]
     public Cad3DPoint ViewTarget { get; set; } = new();
 

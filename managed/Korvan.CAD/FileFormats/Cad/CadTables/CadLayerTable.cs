@@ -53,14 +53,14 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
         set => ColorId = (short)(value == IsOn ? ColorId : -ColorId);
     }
 
-    /// <summary>Gets or sets whether the layer is frozen. Group code 70, bit 1.</summary>
+    /// <summary>Gets or sets whether the layer is frozen. Group codes 70, bit 1.</summary>
     public bool IsFrozen
     {
         get => (Flags & 1) != 0;
         set => Flags = (short)(value ? Flags | 1 : Flags & ~1);
     }
 
-    /// <summary>Gets or sets whether the layer is locked. Group code 70, bit 4.</summary>
+    /// <summary>Gets or sets whether the layer is locked. Group codes 70, bit 4.</summary>
     public bool IsLocked
     {
         get => (Flags & 4) != 0;

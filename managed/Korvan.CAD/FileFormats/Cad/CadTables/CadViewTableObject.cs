@@ -16,7 +16,7 @@ public partial class CadViewTableObject : CadSymbolTableGroupCodes
     [CadDouble(40)]
     public double ViewHeight { get; set; } = 1;
 
-    /// <summary>Gets or sets the centre, in display coordinates. Group code 10, 20.</summary>
+    /// <summary>Gets or sets the centre, in display coordinates. Group codes 10, 20.</summary>
     [Cad2DPoint(10)]
     public Cad2DPoint ViewCenter { get; set; } = new();
 
@@ -24,12 +24,12 @@ public partial class CadViewTableObject : CadSymbolTableGroupCodes
     [CadDouble(41)]
     public double ViewWidth { get; set; } = 1;
 
-    /// <summary>Gets or sets the direction from the target to the eye, in world coordinates. Group code 11, 21,
+    /// <summary>Gets or sets the direction from the target to the eye, in world coordinates. Group codes 11, 21,
     /// 31.</summary>
     [Cad3DPoint(11)]
     public Cad3DPoint ViewDirection { get; set; } = new(0, 0, 1);
 
-    /// <summary>Gets or sets the point looked at, in world coordinates. Group code 12, 22, 32.</summary>
+    /// <summary>Gets or sets the point looked at, in world coordinates. Group codes 12, 22, 32.</summary>
     [Cad3DPoint(12)]
     public Cad3DPoint TargetPoint { get; set; } = new();
 

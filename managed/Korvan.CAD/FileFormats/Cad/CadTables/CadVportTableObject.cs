@@ -12,36 +12,36 @@ public partial class CadVportTableObject : CadSymbolTableGroupCodes
     {
     }
 
-    /// <summary>Gets or sets the lower left corner, as part of the screen. Group code 10, 20.</summary>
+    /// <summary>Gets or sets the lower left corner, as part of the screen. Group codes 10, 20.</summary>
     [Cad2DPoint(10)]
     public Cad2DPoint LowerLeft { get; set; } = new();
 
-    /// <summary>Gets or sets the upper right corner, as part of the screen. Group code 11, 21.</summary>
+    /// <summary>Gets or sets the upper right corner, as part of the screen. Group codes 11, 21.</summary>
     [Cad2DPoint(11)]
     public Cad2DPoint UpperRight { get; set; } = new(1, 1);
 
-    /// <summary>Gets or sets the centre of the view, in display coordinates. Group code 12, 22.</summary>
+    /// <summary>Gets or sets the centre of the view, in display coordinates. Group codes 12, 22.</summary>
     [Cad2DPoint(12)]
     public Cad2DPoint ViewCenter { get; set; } = new();
 
-    /// <summary>Gets or sets the base of the snap grid. Group code 13, 23.</summary>
+    /// <summary>Gets or sets the base of the snap grid. Group codes 13, 23.</summary>
     [Cad2DPoint(13)]
     public Cad2DPoint SnapBasePoint { get; set; } = new();
 
-    /// <summary>Gets or sets the distances of the snap grid. Group code 14, 24.</summary>
+    /// <summary>Gets or sets the distances of the snap grid. Group codes 14, 24.</summary>
     [Cad2DPoint(14)]
     public Cad2DPoint SnapSpacing { get; set; } = new(0.5, 0.5);
 
-    /// <summary>Gets or sets the distances of the grid. Group code 15, 25.</summary>
+    /// <summary>Gets or sets the distances of the grid. Group codes 15, 25.</summary>
     [Cad2DPoint(15)]
     public Cad2DPoint GridSpacing { get; set; } = new(0.5, 0.5);
 
-    /// <summary>Gets or sets the direction from the target to the eye, in world coordinates. Group code 16, 26,
+    /// <summary>Gets or sets the direction from the target to the eye, in world coordinates. Group codes 16, 26,
     /// 36.</summary>
     [Cad3DPoint(16)]
     public Cad3DPoint ViewDirection { get; set; } = new(0, 0, 1);
 
-    /// <summary>Gets or sets the point looked at, in world coordinates. Group code 17, 27, 37.</summary>
+    /// <summary>Gets or sets the point looked at, in world coordinates. Group codes 17, 27, 37.</summary>
     [Cad3DPoint(17)]
     public Cad3DPoint ViewTarget { get; set; } = new();
 

@@ -52,10 +52,13 @@ internal static class DwgCodePage
         }
 
         ReadOnlySpan<char> digits = name.AsSpan(start);
-        if (name.StartsWith("ISO8859", StringComparison.Ordinal) || name.StartsWith("ISO-8859", StringComparison.Ordinal))
+        if (name.StartsWith("ISO8859", StringComparison.Ordinal)
+            || name.StartsWith("ISO-8859", StringComparison.Ordinal))
         {
             digits = digits.StartsWith("8859") ? digits[4..] : digits;
-            return int.TryParse(digits, NumberStyles.None, CultureInfo.InvariantCulture, out int part) ? 28590 + part : 1252;
+            return int.TryParse(digits, NumberStyles.None, CultureInfo.InvariantCulture, out int part)
+                ? 28590 + part
+                : 1252;
         }
 
         return int.TryParse(digits, NumberStyles.None, CultureInfo.InvariantCulture, out int number) ? number : 1252;

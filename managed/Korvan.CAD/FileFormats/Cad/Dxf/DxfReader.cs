@@ -60,8 +60,8 @@ internal sealed partial class DxfReader
             }
             else if (_tags.Code != 0 || !_tags.ValueIs("ENDSEC"u8))
             {
-                throw _tags.Fail($"group code {_tags.Code} with the value '{_tags.ValueText()}' stands between sections; "
-                    + "0 SECTION or 0 EOF was expected");
+                throw _tags.Fail($"group code {_tags.Code} with the value '{_tags.ValueText()}' stands between "
+                    + "sections; 0 SECTION or 0 EOF was expected");
             }
         }
 

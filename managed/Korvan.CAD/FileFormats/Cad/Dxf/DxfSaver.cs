@@ -71,8 +71,8 @@ internal sealed class DxfSaver
         {
             if (block.Entities.Exists(static entity => entity is CadObjectWithAcisData { AcisData.Count: 0 }))
             {
-                throw new ImageSaveException($"The drawing has bodies in the form of release 2013, which release {chosen} "
-                    + "does not know. Write release 2013 or later.");
+                throw new ImageSaveException("The drawing has bodies in the form of release 2013, which release "
+                    + $"{chosen} does not know. Write release 2013 or later.");
             }
         }
     }

@@ -106,7 +106,8 @@ internal static class EntityExtents
         foreach (double angle in Angles(start, sweep))
         {
             (double sin, double cos) = Math.SinCos(angle);
-            extents.Add(system.Point(new Vec3(center.X + (circle.Radius * cos), center.Y + (circle.Radius * sin), center.Z)));
+            Vec3 point = new(center.X + (circle.Radius * cos), center.Y + (circle.Radius * sin), center.Z);
+            extents.Add(system.Point(point));
         }
     }
 
@@ -154,7 +155,8 @@ internal static class EntityExtents
             Cad2DPoint from = polyline.Coordinates[i];
             bool hasPiece = i + 1 < count || polyline.IsClosed;
             Cad2DPoint to = polyline.Coordinates[(i + 1) % count];
-            AddPiece(system, (from.X, from.Y), (to.X, to.Y), hasPiece ? polyline.BulgeAt(i) : 0, polyline.Elevation, extents);
+            double bulge = hasPiece ? polyline.BulgeAt(i) : 0;
+            AddPiece(system, (from.X, from.Y), (to.X, to.Y), bulge, polyline.Elevation, extents);
         }
     }
 
@@ -245,7 +247,11 @@ internal static class EntityExtents
 
     private static (double X, double Y)[] EdgePoints(ICadBoundaryPathEntity edge) => edge switch
     {
-        CadBoundaryPathLine line => [(line.FirstPoint.X, line.FirstPoint.Y), (line.SecondPoint.X, line.SecondPoint.Y)],
+        CadBoundaryPathLine line =>
+        [
+            (line.FirstPoint.X, line.FirstPoint.Y),
+            (line.SecondPoint.X, line.SecondPoint.Y),
+        ],
         CadBoundaryPathCircularArc arc =>
         [
             (arc.CenterPoint.X - arc.Radius, arc.CenterPoint.Y - arc.Radius),

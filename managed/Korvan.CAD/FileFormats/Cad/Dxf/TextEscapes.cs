@@ -70,18 +70,23 @@ internal static class TextEscapes
         letter = null;
         length = 0;
         if (text.Length >= 7 && text[1] == 'U' && text[2] == '+'
-            && ushort.TryParse(text[3..7], NumberStyles.AllowHexSpecifier, CultureInfo.InvariantCulture, out ushort unit))
+            && TryHex(text[3..7], out ushort unit))
         {
             letter = ((char)unit).ToString();
             length = 7;
         }
         else if (text.Length >= 8 && text[1] == 'M' && text[2] == '+' && text[3] is >= '1' and <= '5'
-            && ushort.TryParse(text[4..8], NumberStyles.AllowHexSpecifier, CultureInfo.InvariantCulture, out ushort pair))
+            && TryHex(text[4..8], out ushort pair))
         {
             letter = DwgCodePage.Get(MultiBytePages[text[3] - '1']).GetString([(byte)(pair >> 8), (byte)pair]);
             length = 8;
         }
 
         return letter is not null;
+    }
+
+    private static bool TryHex(ReadOnlySpan<char> text, out ushort value)
+    {
+        return ushort.TryParse(text, NumberStyles.AllowHexSpecifier, CultureInfo.InvariantCulture, out value);
     }
 }

@@ -20,10 +20,12 @@ public class CadBoundaryPathCircularArc : ICadBoundaryPathEntity
     /// <summary>Gets or sets the radius. Group code 40.</summary>
     public double Radius { get; set; }
 
-    /// <summary>Gets or sets the start angle, in degrees; measured clockwise where the arc runs clockwise. Group code 50.</summary>
+    /// <summary>Gets or sets the start angle, in degrees; measured clockwise where the arc runs clockwise. Group code
+    /// 50.</summary>
     public double StartAngle { get; set; }
 
-    /// <summary>Gets or sets the end angle, in degrees; measured clockwise where the arc runs clockwise. Group code 51.</summary>
+    /// <summary>Gets or sets the end angle, in degrees; measured clockwise where the arc runs clockwise. Group code
+    /// 51.</summary>
     public double EndAngle { get; set; } = 360;
 
     /// <summary>Gets or sets whether the arc runs counterclockwise. Group code 73.</summary>

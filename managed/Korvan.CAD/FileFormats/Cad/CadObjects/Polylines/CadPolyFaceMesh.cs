@@ -15,5 +15,8 @@ public partial class CadPolyFaceMesh : CadPolylineBase
     }
 
     /// <inheritdoc/>
-    internal override CadVertexBase CreateVertex(int flags) => (flags & 64) != 0 ? new CadVertexPolyFaceMesh() : new CadFaceRecord();
+    internal override CadVertexBase CreateVertex(int flags)
+    {
+        return (flags & 64) != 0 ? new CadVertexPolyFaceMesh() : new CadFaceRecord();
+    }
 }

@@ -16,7 +16,7 @@ public abstract partial class CadPolylineBase : CadExtrudedEntityBase
     [CadShort(66)]
     public short AttributesFlag { get; set; } = 1;
 
-    /// <summary>Gets or sets the elevation of a flat polyline in Z; X and Y are 0. Group code 10, 20, 30.</summary>
+    /// <summary>Gets or sets the elevation of a flat polyline in Z; X and Y are 0. Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint Elevation { get; set; } = new();
 

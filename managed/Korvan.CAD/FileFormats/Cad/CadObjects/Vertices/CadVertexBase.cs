@@ -11,7 +11,7 @@ public abstract partial class CadVertexBase : CadEntityBase
     }
 
     /// <summary>Gets or sets the place; in object coordinates for a flat polyline, otherwise in world coordinates.
-    /// Group code 10, 20, 30.</summary>
+    /// Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint LocationPoint { get; set; } = new();
 
