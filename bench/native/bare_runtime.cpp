@@ -45,26 +45,34 @@ PyObject* start(PyObject*, PyObject* args) {
                           "System.Globalization.PredefinedCulturesOnly",
                           "System.GC.Concurrent",
                           "System.Runtime.TieredPGO"};
-    const char* values[] = {"",     paths, paths, paths, "UseLatestBehaviorWhenTFMNotSpecified",
+    const char* values[] = {"",     paths,   paths,   paths, "UseLatestBehaviorWhenTFMNotSpecified",
                             "true", "false", "false", "0"};
     static_assert(std::size(keys) == std::size(values));
     void* host = nullptr;
     unsigned int domain = 0;
-    int status = initialize("/proc/self/exe", "BenchDomain", static_cast<int>(std::size(keys)), keys,
-                            values, &host, &domain);
+    int status = initialize("/proc/self/exe", "BenchDomain", static_cast<int>(std::size(keys)),
+                            keys, values, &host, &domain);
     if (status != 0) {
         return raise_status("coreclr_initialize", status);
     }
     int (*answer)() = nullptr;
     status = create_delegate(host, domain, "Korvan.Bench.Floor", "Korvan.Bench.Floor", "Answer",
                              reinterpret_cast<void**>(&answer));
-    return status == 0 ? PyLong_FromLong(answer()) : raise_status("coreclr_create_delegate", status);
+    return status == 0 ? PyLong_FromLong(answer())
+                       : raise_status("coreclr_create_delegate", status);
 }
 
 PyMethodDef functions[] = {{"start", start, METH_VARARGS, nullptr}, {}};
 
-PyModuleDef definition = {PyModuleDef_HEAD_INIT, "bare_runtime", nullptr, -1,     functions,
-                          nullptr,               nullptr,        nullptr, nullptr};
+PyModuleDef definition = {PyModuleDef_HEAD_INIT,
+                          "bare_runtime",
+                          nullptr,
+                          -1,
+                          functions,
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          nullptr};
 
 } // namespace
 

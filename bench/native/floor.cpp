@@ -67,17 +67,23 @@ template <class Function> Export to(const char* name, Function& slot) {
 
 bool bind_exports(CreateDelegate create_delegate) {
     const Export exports[] = {
-        to("New", managed.new_item),           to("ItemAt", managed.item_at),
-        to("Free", managed.free_item),         to("GetNumber", managed.get_number),
-        to("GetReal", managed.get_real),       to("SetReal", managed.set_real),
-        to("GetText", managed.get_text),       to("SetBlob", managed.set_blob),
-        to("CanTake", managed.can_take),       to("PickNumber", managed.pick_number),
-        to("PickReal", managed.pick_real),     to("Fail", managed.fail),
+        to("New", managed.new_item),
+        to("ItemAt", managed.item_at),
+        to("Free", managed.free_item),
+        to("GetNumber", managed.get_number),
+        to("GetReal", managed.get_real),
+        to("SetReal", managed.set_real),
+        to("GetText", managed.get_text),
+        to("SetBlob", managed.set_blob),
+        to("CanTake", managed.can_take),
+        to("PickNumber", managed.pick_number),
+        to("PickReal", managed.pick_real),
+        to("Fail", managed.fail),
         to("SetCallbacks", managed.set_callbacks),
     };
     for (const Export& wanted : exports) {
-        const int status = create_delegate("Korvan.Bench.Floor", "Korvan.Bench.Floor", wanted.name,
-                                           wanted.slot);
+        const int status =
+            create_delegate("Korvan.Bench.Floor", "Korvan.Bench.Floor", wanted.name, wanted.slot);
         if (status != 0) {
             PyErr_Format(PyExc_RuntimeError, "Korvan.Bench.Floor.%s was not found: 0x%x",
                          wanted.name, status);
@@ -109,8 +115,8 @@ PyObject* bind(PyObject*, PyObject* path) {
 
 PyMethodDef functions[] = {{"bind", bind, METH_O, nullptr}, {}};
 
-PyModuleDef definition = {PyModuleDef_HEAD_INIT, "floor", nullptr, -1,     functions,
-                          nullptr,               nullptr, nullptr, nullptr};
+PyModuleDef definition = {
+    PyModuleDef_HEAD_INIT, "floor", nullptr, -1, functions, nullptr, nullptr, nullptr, nullptr};
 
 } // namespace
 

@@ -130,10 +130,7 @@ template <class Backend> struct ItemType {
     }
 
     static int ready(PyObject* module) {
-        return PyType_Ready(&iterator_type) == 0 &&
-                       PyModule_AddType(module, &type) == 0
-                   ? 0
-                   : -1;
+        return PyType_Ready(&iterator_type) == 0 && PyModule_AddType(module, &type) == 0 ? 0 : -1;
     }
 
     static inline PyGetSetDef properties[] = {{"number", get_number, nullptr, nullptr, nullptr},

@@ -44,8 +44,8 @@ struct PlainBackend {
     static void fail(State&) { PyErr_SetString(PyExc_RuntimeError, "can't be read"); }
 };
 
-PyModuleDef definition = {PyModuleDef_HEAD_INIT, "plain", nullptr, -1,     nullptr,
-                          nullptr,               nullptr, nullptr, nullptr};
+PyModuleDef definition = {
+    PyModuleDef_HEAD_INIT, "plain", nullptr, -1, nullptr, nullptr, nullptr, nullptr, nullptr};
 
 } // namespace
 

@@ -16,14 +16,20 @@ static constexpr const char* doc_get_pyinstaller_hook_dirs =
     "Function required by PyInstaller. Returns paths to module\n"
     "PyInstaller hooks. Not intended to be called explicitly.\n\n";
 
-static PyMethodDef wrpPy_mlmd_821C260C_cad[] = {
-    {"get_pyinstaller_hook_dirs", wrpPy_bltp_FFFFFFFF_get_pyinstaller_hook_dirs, METH_NOARGS,
-     doc_get_pyinstaller_hook_dirs},
-    {}};
+static PyMethodDef wrpPy_mlmd_821C260C_cad[] = {{"get_pyinstaller_hook_dirs",
+                                                 wrpPy_bltp_FFFFFFFF_get_pyinstaller_hook_dirs,
+                                                 METH_NOARGS, doc_get_pyinstaller_hook_dirs},
+                                                {}};
 
-static PyModuleDef wrpPy_mlds_821C260C_cad = {
-    PyModuleDef_HEAD_INIT, "korvan.cad", nullptr, -1, wrpPy_mlmd_821C260C_cad,
-    nullptr,               nullptr,      nullptr, nullptr};
+static PyModuleDef wrpPy_mlds_821C260C_cad = {PyModuleDef_HEAD_INIT,
+                                              "korvan.cad",
+                                              nullptr,
+                                              -1,
+                                              wrpPy_mlmd_821C260C_cad,
+                                              nullptr,
+                                              nullptr,
+                                              nullptr,
+                                              nullptr};
 
 static PyObject* wrpPy_bltp_FFFFFFFF_get_pyinstaller_hook_dirs(PyObject*, PyObject*) {
     static const char* names[] = {"cad", "pydrawing", "pyreflection", "pygc", "pycore"};

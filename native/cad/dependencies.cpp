@@ -8,8 +8,8 @@ ValueWrapper wrpPyl_convcaps_clr_to_py_A6FFC60D_Color = nullptr;
 ValueWrapper wrpPyl_convcaps_clr_to_py_E41B503E_RectangleF = nullptr;
 
 static bool import_pydrawing() {
-    const Ref module = Ref::steal(PyShImport_ImportRefModule("korvan.cad", "korvan.pydrawing",
-                                                             RefVer_pydrawin_BDCFE46E));
+    const Ref module = Ref::steal(
+        PyShImport_ImportRefModule("korvan.cad", "korvan.pydrawing", RefVer_pydrawin_BDCFE46E));
     return module &&
            read_capsule("korvan.pydrawing._C_APITV1_Color",
                         {capsule_slot(0, wrpPyl_convcaps_py_to_clr_A6FFC60D_Color),

@@ -16,8 +16,8 @@ PyObject* fn_get_pyinstaller_hook_dirs(PyModuleDef* module_def, const char** nam
         PyShlErr_UnableToImportModule("os.path");
         return nullptr;
     }
-    const Ref directory = Ref::steal(
-        PyObject_CallMethodOneArg(os_path.get(), PyWrpIdOsPath_DirName, filename.get()));
+    const Ref directory =
+        Ref::steal(PyObject_CallMethodOneArg(os_path.get(), PyWrpIdOsPath_DirName, filename.get()));
     const Ref join = Ref::steal(PyObject_GetAttr(os_path.get(), PyWrpIdOsPath_Join));
     const Ref hook = Ref::steal(PyUnicode_FromString(hook_dir));
     Ref folders = Ref::steal(PyList_New(count + 1));

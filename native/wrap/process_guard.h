@@ -31,8 +31,8 @@ public:
     ScopedSignalDispositions& operator=(const ScopedSignalDispositions&) = delete;
 
 private:
-    static constexpr int signals[] = {SIGINT, SIGQUIT, SIGTERM, SIGCHLD, SIGCONT, SIGPIPE,
-                                      SIGTSTP, SIGTTIN, SIGTTOU, SIGHUP, SIGWINCH};
+    static constexpr int signals[] = {SIGINT,  SIGQUIT, SIGTERM, SIGCHLD, SIGCONT, SIGPIPE,
+                                      SIGTSTP, SIGTTIN, SIGTTOU, SIGHUP,  SIGWINCH};
     struct sigaction m_before[sizeof(signals) / sizeof(signals[0])];
 };
 

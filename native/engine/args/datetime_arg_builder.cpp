@@ -2,10 +2,8 @@
 
 namespace {
 
-constexpr int m_days_to_month365[] = {0,   31,  59,  90,  120, 151, 181,
-                                      212, 243, 273, 304, 334, 365};
-constexpr int m_days_to_month366[] = {0,   31,  60,  91,  121, 152, 182,
-                                      213, 244, 274, 305, 335, 366};
+constexpr int m_days_to_month365[] = {0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365};
+constexpr int m_days_to_month366[] = {0, 31, 60, 91, 121, 152, 182, 213, 244, 274, 305, 335, 366};
 constexpr long days_in_400_years = 146097;
 constexpr long days_in_100_years = 36524;
 constexpr long days_in_4_years = 1461;
@@ -41,7 +39,7 @@ bool DateTimeArgBuilder::to_ticks_non_kind(long& out) const {
 
 void DateTimeArgBuilder::add_shift(long& value) const {
     value = static_cast<long>(static_cast<unsigned long>(value) |
-                              static_cast<unsigned long>(kind) << 62);
+                              (static_cast<unsigned long>(kind) << 62));
 }
 
 bool DateTimeArgBuilder::to_ticks(long& out) const {
@@ -54,8 +52,7 @@ bool DateTimeArgBuilder::to_ticks(long& out) const {
 
 bool DateTimeArgBuilder::to_utc_ticks(long offset, long& out) const {
     long local = 0;
-    if (!to_ticks_non_kind(local) || local < offset ||
-        local - offset > ticks::largest_datetime) {
+    if (!to_ticks_non_kind(local) || local < offset || local - offset > ticks::largest_datetime) {
         return false;
     }
     out = local - offset;

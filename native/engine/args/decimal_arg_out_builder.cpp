@@ -102,8 +102,8 @@ bool DecimalArgOutBuilder::end_accept_decimal() {
         }
         exponent = 0;
     }
-    target[3] = static_cast<std::uint32_t>(sign) << 31 |
-                static_cast<std::uint32_t>(-exponent) << 16;
+    target[3] =
+        (static_cast<std::uint32_t>(sign) << 31) | (static_cast<std::uint32_t>(-exponent) << 16);
     return true;
 }
 

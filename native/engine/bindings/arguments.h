@@ -147,8 +147,8 @@ using any_iterable =
 using any_collection =
     record<VariantArg,
            convert_any_collection<wrpPye_tyds_IColWrapper, CollectionParameter::collection>>;
-using any_list = record<
-    VariantArg, convert_any_collection<wrpPye_tyds_IListWrapper, CollectionParameter::list>>;
+using any_list =
+    record<VariantArg, convert_any_collection<wrpPye_tyds_IListWrapper, CollectionParameter::list>>;
 
 template <class T> struct enumeration {
     using cell = T;

@@ -51,6 +51,8 @@
 #include "generic/element_ops.h"
 #include "generic/interop.h"
 
+// Rows of tables; the formatter would take them for blocks of statements.
+// clang-format off
 #define KORVAN_METHOD(name, record)                                                                \
     {name, reinterpret_cast<PyCFunction>(method_thunk<record>), METH_VARARGS | METH_KEYWORDS,      \
      nullptr}
@@ -78,6 +80,7 @@
         {"_is_assignable", enum_is_assignable_thunk<binding>, METH_O | METH_STATIC, nullptr},      \
         {"get_type", enum_get_type_thunk<binding>, METH_NOARGS, nullptr},                          \
         {}
+// clang-format on
 // The methods of a collection wrapper or of a bound class with that protocol come from the engine:
 // it appends them to tp_dict by ClassBinding::protocol; the generator emits nothing for them.
 

@@ -95,8 +95,7 @@ LegOutcome try_legs(const Method& method, PyObject* self, const CallArguments& a
     }
     PyObject* misfits[max_arity * 2];
     for (int i = 0; i < method.count; ++i) {
-        const LegOutcome outcome =
-            method.legs[i].call(method.legs[i], self, arguments, result);
+        const LegOutcome outcome = method.legs[i].call(method.legs[i], self, arguments, result);
         if (outcome != LegOutcome::misfit) {
             for (int kept = 0; kept < i; ++kept) {
                 Py_XDECREF(misfits[kept]);

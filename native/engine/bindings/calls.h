@@ -15,10 +15,10 @@ bool parse_arguments(const Leg& leg, const CellConverter* converters, void* cons
 // A method or overload group. When no leg fits: TypeError whose argument is a list of one text a
 // leg; a group of one leg raises that leg's own error.
 PyObject* call_method(const Method& method, PyObject* self, PyObject* args, PyObject* kwargs);
-int call_constructors(const Method& constructors, PyObject* self, PyObject* args,
-                      PyObject* kwargs);
+int call_constructors(const Method& constructors, PyObject* self, PyObject* args, PyObject* kwargs);
 
-template <const Method& M> PyObject* method_thunk(PyObject* self, PyObject* args, PyObject* kwargs) {
+template <const Method& M>
+PyObject* method_thunk(PyObject* self, PyObject* args, PyObject* kwargs) {
     return call_method(M, self, args, kwargs);
 }
 

@@ -236,9 +236,9 @@ PyObject* enum_cast(EnumBinding& binding, PyObject* value, bool as_form) {
         return nullptr;
     }
     VariantArg record{};
-    const int extracted =
-        as_form ? fn_conv_py_obj_to_clr_refobj_not_null_handle(value, &record.value)
-                : fn_conv_py_obj_to_clr_gen_handle(value, &record);
+    const int extracted = as_form
+                              ? fn_conv_py_obj_to_clr_refobj_not_null_handle(value, &record.value)
+                              : fn_conv_py_obj_to_clr_gen_handle(value, &record);
     if (!extracted) {
         return cast_failed();
     }
@@ -263,8 +263,8 @@ PyObject* enum_reinterpret_obj(EnumBinding& binding, PyObject* value) {
     }
     return with_storage(binding, [&]<class T>(T*) -> PyObject* {
         T out = 0;
-        const auto delegate = reinterpret_cast<int (*)(void*, T*)>(
-            enum_delegate(binding, enum_slot_reinterpret_obj));
+        const auto delegate =
+            reinterpret_cast<int (*)(void*, T*)>(enum_delegate(binding, enum_slot_reinterpret_obj));
         if (status_means_error(delegate(handle, &out))) {
             return nullptr;
         }
@@ -287,7 +287,8 @@ PyObject* enum_is_assignable(EnumBinding& binding, PyObject* value) {
 }
 
 PyObject* enum_as_uni_enum(EnumBinding& binding, PyObject* self) {
-    return with_member(binding, self, enum_slot_as_uni_enum, wrpPyl_convcaps_clr_to_py_0705CA7C_Enum);
+    return with_member(binding, self, enum_slot_as_uni_enum,
+                       wrpPyl_convcaps_clr_to_py_0705CA7C_Enum);
 }
 
 PyObject* enum_get_type(EnumBinding& binding, PyObject* self) {

@@ -54,6 +54,8 @@ template <EnumBinding& B> PyObject* enum_get_type_thunk(PyObject* self, PyObject
     return enum_get_type(B, self);
 }
 
+// Rows of tables; the formatter would take them for blocks of statements.
+// clang-format off
 #define KORVAN_CAST_METHODS(binding)                                                               \
     {"_type_of", type_of_thunk<binding>, METH_NOARGS | METH_STATIC, nullptr},                      \
         {"_cast_to", cast_to_thunk<binding>, METH_O | METH_STATIC, nullptr},                       \
@@ -64,5 +66,6 @@ template <EnumBinding& B> PyObject* enum_get_type_thunk(PyObject* self, PyObject
 // All that the table of a collection wrapper holds; its protocol's methods come from the engine.
 #define KORVAN_WRAPPER_METHODS(binding)                                                            \
     {"get_type", wrapClrObject_get_type, METH_NOARGS, nullptr}, KORVAN_CAST_METHODS(binding)
+// clang-format on
 
 #endif

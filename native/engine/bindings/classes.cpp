@@ -137,8 +137,8 @@ std::uint16_t cast_slot(const ClassBinding& binding, CastDelegate delegate) {
 }
 
 int is_assignable_handle(ClassBinding& binding, void* handle) {
-    const auto ask = host_slot<int(void*)>(*binding.host,
-                                           cast_slot(binding, CastDelegate::is_assignable));
+    const auto ask =
+        host_slot<int(void*)>(*binding.host, cast_slot(binding, CastDelegate::is_assignable));
     const int answer = ask(handle);
     return PyErr_Occurred() != nullptr ? -1 : answer != 0;
 }

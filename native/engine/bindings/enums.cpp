@@ -18,9 +18,8 @@ PyObject* member_value(const EnumBinding& binding, const EnumMember& member) {
 PyObject* member_list(const EnumBinding& binding) {
     Ref members = Ref::steal(PyTuple_New(binding.count));
     for (int i = 0; members && i < binding.count; ++i) {
-        PyObject* pair =
-            Py_BuildValue("(NN)", PyUnicode_FromString(binding.members[i].name),
-                          member_value(binding, binding.members[i]));
+        PyObject* pair = Py_BuildValue("(NN)", PyUnicode_FromString(binding.members[i].name),
+                                       member_value(binding, binding.members[i]));
         if (pair == nullptr) {
             return nullptr;
         }
@@ -30,9 +29,9 @@ PyObject* member_list(const EnumBinding& binding) {
 }
 
 PyObject* create_type(const EnumBinding& binding) {
-    const Ref family = Ref::steal(PyShImport_ImportType(
-        "enum", binding.kind == EnumKind::integer ? PyWrpIdTypeName_IntEnum
-                                                  : PyWrpIdTypeName_IntFlag));
+    const Ref family = Ref::steal(PyShImport_ImportType("enum", binding.kind == EnumKind::integer
+                                                                    ? PyWrpIdTypeName_IntEnum
+                                                                    : PyWrpIdTypeName_IntFlag));
     if (!family) {
         return nullptr;
     }

@@ -26,7 +26,8 @@ private:
         void* const addresses[] = {&std::get<I>(cells)..., nullptr};
         return parse_arguments(leg, converters, addresses, arguments);
     }
-    template <size_t... I> bool deliver([[maybe_unused]] const Leg& leg, std::index_sequence<I...>) {
+    template <size_t... I>
+    bool deliver([[maybe_unused]] const Leg& leg, std::index_sequence<I...>) {
         return (deliver_one<Args>(std::get<I>(cells), leg.parameters[I].type) && ...);
     }
     template <class Arg>

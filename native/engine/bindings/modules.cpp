@@ -30,8 +30,8 @@ PyObject* create_module(PyModuleDef& definition) {
 
 PyModuleDef* new_definition(const char* name) {
     static PyMethodDef no_methods[] = {{}};
-    return new PyModuleDef{PyModuleDef_HEAD_INIT, name, nullptr, -1, no_methods,
-                           nullptr, nullptr, nullptr, nullptr};
+    return new PyModuleDef{
+        PyModuleDef_HEAD_INIT, name, nullptr, -1, no_methods, nullptr, nullptr, nullptr, nullptr};
 }
 
 bool fail_type(int code, const ClassBinding& binding) {
@@ -224,8 +224,8 @@ PyObject* build_module(const ModuleRecord& record, PyModuleDef& definition, bool
     if (is_root) {
         name_interop_wrappers(record.name);
         if (fn_ready_descriptor_types(record.name) != 0 ||
-            PyShModule_AddType(module.get(), &wrpPye_tyds_FFFFFFFF_FieldDescr,
-                               "_FieldDescrType") != 0 ||
+            PyShModule_AddType(module.get(), &wrpPye_tyds_FFFFFFFF_FieldDescr, "_FieldDescrType") !=
+                0 ||
             PyShModule_AddType(module.get(), &wrpPye_tyds_FFFFFFFF_MixMethodDescr,
                                "_MixMethodDescrType") != 0) {
             return nullptr;
@@ -237,7 +237,8 @@ PyObject* build_module(const ModuleRecord& record, PyModuleDef& definition, bool
             return nullptr;
         }
     }
-    const bool done = add_types(module.get(), record) && add_package_attributes(module.get(), record);
+    const bool done =
+        add_types(module.get(), record) && add_package_attributes(module.get(), record);
     return done ? module.release() : nullptr;
 }
 

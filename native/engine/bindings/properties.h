@@ -53,8 +53,7 @@ template <class Arg> int set(PyObject* self, PyObject* value, void* closure) {
 }
 
 // The static method set_<name>: a descriptor can't take an assignment through the class.
-template <const Property& P, class Arg>
-PyObject* static_setter_thunk(PyObject*, PyObject* value) {
+template <const Property& P, class Arg> PyObject* static_setter_thunk(PyObject*, PyObject* value) {
     if (!guard(*P.owner) || !property_detail::assign<Arg>(P, value)) {
         return nullptr;
     }

@@ -136,8 +136,8 @@ struct ElementOps; // generic/element_ops.h: conversions of one element shape
 // generic/collection_layout.h fixes for its kind. Example, for the wrapper of List<CadEntityBase>
 // (its own host is the list host; hosts of constituents that no type needs are still emitted):
 //   static const CollectionInfo collection_<H> = {
-//       .element = &element_ops<arg::object, ret::object>, .element_type = &class_..._CadEntityBase,
-//       .iterator = &iter_<H>, .iterable_host = &PyHost_gn_Iterable_<H>,
+//       .element = &element_ops<arg::object, ret::object>, .element_type =
+//       &class_..._CadEntityBase, .iterator = &iter_<H>, .iterable_host = &PyHost_gn_Iterable_<H>,
 //       .list_host = &PyHost_gn_List_<H>};
 //   constinit ClassBinding list_<H> = {.name = "korvan.cad._wrpgen._generic._ListWrapper_<H>",
 //       .short_name = "_ListWrapper_<H>", .what = "List", .kind = ClassKind::object,

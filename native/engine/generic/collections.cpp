@@ -69,7 +69,8 @@ bool is_int32(Py_ssize_t index) {
 }
 
 int length_of(const Collection& collection) {
-    const auto function = reinterpret_cast<int (*)(void*)>(collection.delegate(collection.layout.length));
+    const auto function =
+        reinterpret_cast<int (*)(void*)>(collection.delegate(collection.layout.length));
     const int length = function(collection.handle);
     return PyErr_Occurred() != nullptr ? -1 : length;
 }
@@ -90,8 +91,8 @@ PyObject* iterator_next(PyObject* self) {
     const Collection collection = collection_of(self);
     void* function = reinterpret_cast<void*>(host_slot<void()>(*collection.info.iterator_host, 0));
     PyObject* item = nullptr;
-    const int status = collection.ops.move_next(function, collection.handle,
-                                                collection.info.element_type, &item);
+    const int status =
+        collection.ops.move_next(function, collection.handle, collection.info.element_type, &item);
     if (status == KORVAN_END) {
         PyErr_SetNone(PyExc_StopIteration);
     }
@@ -129,9 +130,9 @@ PyObject* items_between(const Collection& collection, Py_ssize_t start, Py_ssize
     Ref items = Ref::steal(PyList_New(count > 0 ? count : 0));
     void* const function = collection.delegate(collection.layout.get_item_no_check);
     for (Py_ssize_t i = 0; items && i < count; ++i) {
-        PyObject* item = collection.ops.get_item_no_check(
-            function, collection.handle, static_cast<int>(start + i * step),
-            collection.info.element_type);
+        PyObject* item = collection.ops.get_item_no_check(function, collection.handle,
+                                                          static_cast<int>(start + i * step),
+                                                          collection.info.element_type);
         if (item == nullptr) {
             return nullptr;
         }
@@ -221,10 +222,10 @@ PyObject* index(PyObject* self, PyObject* args) {
         return nullptr;
     }
     const Py_ssize_t given = PyTuple_GET_SIZE(args);
-    const int found = collection.ops.index_by(
-        collection.delegate(collection.layout.index_by), collection.handle, given >= 2,
-        static_cast<int>(start), given >= 3, static_cast<int>(stop), value,
-        collection.info.element_type);
+    const int found =
+        collection.ops.index_by(collection.delegate(collection.layout.index_by), collection.handle,
+                                given >= 2, static_cast<int>(start), given >= 3,
+                                static_cast<int>(stop), value, collection.info.element_type);
     if (PyErr_Occurred() != nullptr) {
         return nullptr;
     }
@@ -323,10 +324,9 @@ PyObject* pop(PyObject* self, PyObject* args) {
     }
     const Collection collection = collection_of(self);
     PyObject* item = nullptr;
-    const int status = collection.ops.pop(collection.delegate(collection.layout.pop),
-                                          collection.handle, static_cast<int>(given),
-                                          static_cast<int>(position),
-                                          collection.info.element_type, &item);
+    const int status = collection.ops.pop(
+        collection.delegate(collection.layout.pop), collection.handle, static_cast<int>(given),
+        static_cast<int>(position), collection.info.element_type, &item);
     if (status == KORVAN_END) {
         PyErr_SetString(PyExc_IndexError, "pop from empty list");
     } else if (status == KORVAN_OUT_OF_RANGE) {
@@ -410,9 +410,8 @@ PySequenceMethods indexed_sequence = {
     .sq_length = sq_length, .sq_item = sq_item, .sq_contains = sq_contains};
 PyMappingMethods sized_mapping = {.mp_length = sq_length};
 PyMappingMethods read_mapping = {.mp_length = sq_length, .mp_subscript = mp_subscript};
-PyMappingMethods write_mapping = {.mp_length = sq_length,
-                                  .mp_subscript = mp_subscript,
-                                  .mp_ass_subscript = mp_ass_subscript};
+PyMappingMethods write_mapping = {
+    .mp_length = sq_length, .mp_subscript = mp_subscript, .mp_ass_subscript = mp_ass_subscript};
 
 // ---- this[int] alone -------------------------------------------------------------------------
 
@@ -421,8 +420,7 @@ PyObject* indexer_item(PyObject* self, Py_ssize_t index) {
     if (!is_int32(index)) {
         return nullptr;
     }
-    void* function =
-        reinterpret_cast<void*>(host_slot<void()>(*info.list_host, info.indexer_slot));
+    void* function = reinterpret_cast<void*>(host_slot<void()>(*info.list_host, info.indexer_slot));
     PyObject* item = nullptr;
     const int status = info.element->get_item(function, clr_handle(self), static_cast<int>(index),
                                               info.element_type, &item);

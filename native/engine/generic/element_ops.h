@@ -45,8 +45,8 @@ int deliver(int status, native_of<Ret> item, const void* type, PyObject** out) {
 template <class Ret>
 int get_item(void* function, void* self, int index, const void* type, PyObject** out) {
     native_of<Ret> item{};
-    const int status = reinterpret_cast<int (*)(void*, int, native_of<Ret>*)>(function)(
-        self, index, &item);
+    const int status =
+        reinterpret_cast<int (*)(void*, int, native_of<Ret>*)>(function)(self, index, &item);
     return deliver<Ret>(status, item, type, out);
 }
 
@@ -127,8 +127,7 @@ int pop(void* function, void* self, int has_index, int index, const void* type, 
 
 template <class Ret> int move_next(void* function, void* self, const void* type, PyObject** out) {
     native_of<Ret> item{};
-    const int status =
-        reinterpret_cast<int (*)(void*, native_of<Ret>*)>(function)(self, &item);
+    const int status = reinterpret_cast<int (*)(void*, native_of<Ret>*)>(function)(self, &item);
     return deliver<Ret>(status, item, type, out);
 }
 
@@ -136,10 +135,10 @@ template <class Ret> int move_next(void* function, void* self, const void* type,
 
 template <class Arg, class Ret>
 inline constexpr ElementOps element_ops = {
-    element_detail::get_item<Ret>, element_detail::get_item_no_check<Ret>,
-    element_detail::set_item<Arg>, element_detail::add<Arg>,
-    element_detail::insert<Arg>,   element_detail::ask<Arg>,
-    element_detail::index_by<Arg>, element_detail::pop<Ret>,
+    element_detail::get_item<Ret>,  element_detail::get_item_no_check<Ret>,
+    element_detail::set_item<Arg>,  element_detail::add<Arg>,
+    element_detail::insert<Arg>,    element_detail::ask<Arg>,
+    element_detail::index_by<Arg>,  element_detail::pop<Ret>,
     element_detail::move_next<Ret>,
 };
 

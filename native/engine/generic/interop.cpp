@@ -24,11 +24,10 @@ HostRecord iterable_host = {"Korvan.WrpGen.Interop.SiApiEnumerable",
                             iterable_slots, 6};
 
 void* collection_slots[9];
-HostRecord collection_host = {
-    "Korvan.WrpGen.Interop.SiApiCntCollection",
-    "SqLength\0SqContains\0CountOf\0CreateInstanceFromPyList\0"
-    "CreateInstanceFromPyIterable\0" KORVAN_CAST_DELEGATES,
-    collection_slots, 9};
+HostRecord collection_host = {"Korvan.WrpGen.Interop.SiApiCntCollection",
+                              "SqLength\0SqContains\0CountOf\0CreateInstanceFromPyList\0"
+                              "CreateInstanceFromPyIterable\0" KORVAN_CAST_DELEGATES,
+                              collection_slots, 9};
 
 void* list_slots[25];
 HostRecord list_host = {
@@ -137,7 +136,7 @@ constinit ClassBinding wrpPye_tyds_IListWrapper = {
 
 ClassBinding* const* interop_wrappers() {
     static ClassBinding* const wrappers[] = {
-        &wrpPye_tyds_IDisposableWrapper, &wrpPye_tyds_IterWrapper, &wrpPye_tyds_IterableWrapper,
+        &wrpPye_tyds_IDisposableWrapper, &wrpPye_tyds_IterWrapper,  &wrpPye_tyds_IterableWrapper,
         &wrpPye_tyds_IColWrapper,        &wrpPye_tyds_IListWrapper, nullptr};
     return wrappers;
 }

@@ -13,8 +13,7 @@ public:
     ~DynamicLibrary();
 
     // Uses the library if the process has it under this full path, else loads it.
-    static bool try_load(const std::string& path, const std::string& name,
-                         DynamicLibrary& library);
+    static bool try_load(const std::string& path, const std::string& name, DynamicLibrary& library);
     // Throws std::runtime_error("DynamicLibrary::load").
     static DynamicLibrary load(const std::string& path, const std::string& name);
 

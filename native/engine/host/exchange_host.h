@@ -20,7 +20,9 @@ public:
     // A std::u16string made through the UTF-16 builder; the holder goes back with free().
     void* get_type_name(void* handle) const { return m_get_type_name(handle); }
     void set_exception_callback(void* callback) const { m_set_exception(callback); }
-    void set_catch_and_clear_error_callback(void* callback) const { m_set_catch_and_clear(callback); }
+    void set_catch_and_clear_error_callback(void* callback) const {
+        m_set_catch_and_clear(callback);
+    }
     void set_u16_bytes_builder_callback(void* callback) const { m_set_u16_builder(callback); }
     void set_py_str_builder_callback(void* callback) const { m_set_py_str_builder(callback); }
     void set_py_unraisable_str_builder(void* callback) const { m_set_unraisable_builder(callback); }

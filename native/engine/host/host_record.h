@@ -30,8 +30,7 @@ inline bool host_is_not_valid(HostRecord& host) {
 
 // The delegate in a slot, typed. Binds on first use; a slot of an invalid host is never asked for,
 // because every way to an instance passes the type's guard.
-template <class Function>
-inline Function* host_slot(HostRecord& host, std::uint16_t slot) {
+template <class Function> inline Function* host_slot(HostRecord& host, std::uint16_t slot) {
     if (__builtin_expect(host.state == HostBinding::unbound, 0)) {
         bind_host(host);
     }

@@ -18,12 +18,20 @@ public:
     const std::string& error_msg() const { return m_error_msg; }
 
     // 1 when *out_text holds a new Python string.
-    int to_string_of_obj(void* handle, void** out_text) const { return m_str_obj(handle, out_text); }
-    int to_string_of_stc(void* handle, void** out_text) const { return m_str_stc(handle, out_text); }
+    int to_string_of_obj(void* handle, void** out_text) const {
+        return m_str_obj(handle, out_text);
+    }
+    int to_string_of_stc(void* handle, void** out_text) const {
+        return m_str_stc(handle, out_text);
+    }
     int get_hash_code_of_obj(void* handle) const { return m_hash_obj(handle); }
     int get_hash_code_of_stc(void* handle) const { return m_hash_stc(handle); }
-    bool equals_of_obj(void* handle, VariantArg* other) const { return m_eq_obj(handle, other) != 0; }
-    bool equals_of_stc(void* handle, VariantArg* other) const { return m_eq_stc(handle, other) != 0; }
+    bool equals_of_obj(void* handle, VariantArg* other) const {
+        return m_eq_obj(handle, other) != 0;
+    }
+    bool equals_of_stc(void* handle, VariantArg* other) const {
+        return m_eq_stc(handle, other) != 0;
+    }
     int is_type_of(void* handle, VariantArg* type) const { return m_is_type_of(handle, type); }
     int get_type_name(VariantArg* object, void** out_text) const {
         return m_get_type_name(object, out_text);

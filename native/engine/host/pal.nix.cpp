@@ -57,9 +57,7 @@ std::string get_entry_point_exe() {
     return length < 0 ? std::string() : std::string(buffer, static_cast<size_t>(length));
 }
 
-void* load_library(const std::string& path) {
-    return dlopen(path.c_str(), RTLD_NOW | RTLD_GLOBAL);
-}
+void* load_library(const std::string& path) { return dlopen(path.c_str(), RTLD_NOW | RTLD_GLOBAL); }
 
 void free_library(void* handle) { dlclose(handle); }
 

@@ -5,7 +5,7 @@
 #include <string>
 
 // A null name leaves its place empty and ends the text there.
-std::string missing_method_error_message(const char* assembly, const char* type,
-                                         const char* method, int error);
+std::string missing_method_error_message(const char* assembly, const char* type, const char* method,
+                                         int error);
 
 #endif

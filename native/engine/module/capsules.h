@@ -9,7 +9,8 @@
 // Adds the capsule under the last part of its dotted name. `name` and `table` live for ever.
 inline bool add_capsule(PyObject* module, const char* name, void** table) {
     const Ref capsule = Ref::steal(PyCapsule_New(table, name, nullptr));
-    return capsule && PyModule_AddObjectRef(module, std::strrchr(name, '.') + 1, capsule.get()) == 0;
+    return capsule &&
+           PyModule_AddObjectRef(module, std::strrchr(name, '.') + 1, capsule.get()) == 0;
 }
 
 #endif

@@ -21,8 +21,8 @@ bool read_capsule(const char* name, const CapsuleSlot* slots, int count) {
 }
 
 bool import_pyreflection(const char* self_name) {
-    const Ref module = Ref::steal(PyShImport_ImportRefModule(self_name, "korvan.pyreflection",
-                                                             RefVer_pyreflec_D2D13F94));
+    const Ref module = Ref::steal(
+        PyShImport_ImportRefModule(self_name, "korvan.pyreflection", RefVer_pyreflec_D2D13F94));
     return module &&
            read_capsule("korvan.pyreflection._C_APIT_Type",
                         {capsule_slot(1, wrpPyl_convcaps_clr_to_py_94F50081_Type),
@@ -37,6 +37,5 @@ bool import_pyreflection(const char* self_name) {
 bool import_pygc(const char* self_name) {
     const Ref module =
         Ref::steal(PyShImport_ImportRefModule(self_name, "korvan.pygc", RefVer_pygc_E169B802));
-    return module &&
-           read_capsule("korvan.pygc._C_APIF", {capsule_slot(0, PyShCastOpResult_New)});
+    return module && read_capsule("korvan.pygc._C_APIF", {capsule_slot(0, PyShCastOpResult_New)});
 }

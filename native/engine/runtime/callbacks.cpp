@@ -22,7 +22,6 @@ template <class Function> void* slot(Function* function) {
     return reinterpret_cast<void*>(function);
 }
 
-
 // The slots of all tables in a row, and where each table begins.
 void* all_slots[] = {
 #define KORVAN_SLOT(table, function) slot(function),
@@ -35,14 +34,10 @@ enum SlotIndex {
 };
 
 void** tables[] = {
-    &all_slots[index_of_fn_read_py_string],
-    &all_slots[index_of_fn_write_py_tpo],
-    &all_slots[index_of_fn_get_sizeof_py_byffer],
-    &all_slots[index_of_fn_try_write_py_tpo],
-    &all_slots[index_of_fn_clbk_iter_next],
-    &all_slots[index_of_fn_clbk_ucol_list_length],
-    &all_slots[index_of_fn_clbk_olist_get_item],
-    &all_slots[index_of_fn_clbk_oseq_get_item],
+    &all_slots[index_of_fn_read_py_string],       &all_slots[index_of_fn_write_py_tpo],
+    &all_slots[index_of_fn_get_sizeof_py_byffer], &all_slots[index_of_fn_try_write_py_tpo],
+    &all_slots[index_of_fn_clbk_iter_next],       &all_slots[index_of_fn_clbk_ucol_list_length],
+    &all_slots[index_of_fn_clbk_olist_get_item],  &all_slots[index_of_fn_clbk_oseq_get_item],
     &all_slots[index_of_fn_clbk_rawio_write],
 };
 

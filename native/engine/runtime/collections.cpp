@@ -88,7 +88,7 @@ int fn_clbk_ucol_remove_at(PyObject* object, int index) {
 
 int fn_clbk_ucol_clear(PyObject* object) {
     return Ref::steal(PyObject_CallMethodNoArgs(object, PyWrpIdList_Clear)) ? KORVAN_CB_OK
-                                                                             : KORVAN_CB_ERROR;
+                                                                            : KORVAN_CB_ERROR;
 }
 
 PyObject* fn_clbk_ucol_get_enumerator(PyObject* object) {

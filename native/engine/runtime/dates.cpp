@@ -204,9 +204,9 @@ int fn_conv_py_datetimedelta_to_clr_timespan_value(PyObject* object, long* out) 
 }
 
 PyObject* create_py_datetime_from_zone(const DateTimeArgBuilder& builder, PyObject* zone) {
-    const Ref arguments = Ref::steal(
-        Py_BuildValue("iiiiiiiO", builder.year, builder.month, builder.day, builder.hour,
-                      builder.minute, builder.second, builder.microsecond, zone));
+    const Ref arguments =
+        Ref::steal(Py_BuildValue("iiiiiiiO", builder.year, builder.month, builder.day, builder.hour,
+                                 builder.minute, builder.second, builder.microsecond, zone));
     const Ref type = Ref::steal(PyShImport_ImportType("datetime", PyWrpIdTypeName_DateTime));
     return arguments && type ? PyObject_Call(type.get(), arguments.get(), nullptr) : nullptr;
 }
@@ -235,8 +235,7 @@ PyObject* fn_conv_clr_datetime_to_py_datetime(const long* value) {
         return create_py_datetime_from_tz_ticks(builder, value[1]);
     }
     const Ref type = Ref::steal(PyShImport_ImportType("datetime", PyWrpIdTypeName_TimeZone));
-    const Ref utc =
-        Ref::steal(type ? PyObject_GetAttr(type.get(), PyWrpIdDateTime_Utc) : nullptr);
+    const Ref utc = Ref::steal(type ? PyObject_GetAttr(type.get(), PyWrpIdDateTime_Utc) : nullptr);
     return utc ? create_py_datetime_from_zone(builder, utc.get()) : nullptr;
 }
 
@@ -308,9 +307,9 @@ PyObject* fn_write_py_timezone(const char16_t* name, int name_length, long offse
     if (delta == nullptr) {
         return nullptr;
     }
-    PyObject* text = name_length == -1
-                         ? Py_None
-                         : fn_conv_clr_string_to_py_string(reinterpret_cast<const char*>(name),
-                                                           name_length);
+    PyObject* text =
+        name_length == -1
+            ? Py_None
+            : fn_conv_clr_string_to_py_string(reinterpret_cast<const char*>(name), name_length);
     return text != nullptr ? PyObject_CallFunctionObjArgs(type, delta, text, nullptr) : nullptr;
 }

@@ -70,7 +70,8 @@ bool is_non_convertable_py_decimal(PyObject* exponent, const char* type_name) {
         PyErr_Format(PyExc_TypeError, "unknown exponent type '%s'", type_name_of(exponent));
     } else if ((PyUnicode_CompareWithASCIIString(exponent, "F") == 0)) {
         PyErr_Format(PyExc_OverflowError, "value too large for .Net '%s'", type_name);
-    } else if ((PyUnicode_CompareWithASCIIString(exponent, "n") == 0) || (PyUnicode_CompareWithASCIIString(exponent, "N") == 0)) {
+    } else if ((PyUnicode_CompareWithASCIIString(exponent, "n") == 0) ||
+               (PyUnicode_CompareWithASCIIString(exponent, "N") == 0)) {
         PyErr_SetString(PyExc_OverflowError, "value is not a number");
     } else {
         PyErr_Format(PyExc_TypeError, "can't build '%s' from exponent value '%U'", type_name,

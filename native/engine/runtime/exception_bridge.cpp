@@ -24,15 +24,14 @@ PyObject* format_by_traceback(const SavedError& error) {
         return nullptr;
     }
     const bool has_traceback = error.traceback != nullptr;
-    const Ref format = Ref::steal(PyObject_GetAttr(
-        module.get(), has_traceback ? PyWrpIdTraceBack_FormatException
-                                    : PyWrpIdTraceBack_FormatExceptionOnly));
+    const Ref format = Ref::steal(
+        PyObject_GetAttr(module.get(), has_traceback ? PyWrpIdTraceBack_FormatException
+                                                     : PyWrpIdTraceBack_FormatExceptionOnly));
     if (!format || !PyCallable_Check(format.get())) {
         return nullptr;
     }
     const Ref lines = Ref::steal(PyObject_CallFunctionObjArgs(
-        format.get(), error.type, error.value, has_traceback ? error.traceback : nullptr,
-        nullptr));
+        format.get(), error.type, error.value, has_traceback ? error.traceback : nullptr, nullptr));
     return lines ? PyUnicode_Join(PyWrpIdStr_Empty, lines.get()) : nullptr;
 }
 

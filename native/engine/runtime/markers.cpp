@@ -57,8 +57,8 @@ bool fn_set_any_ifcs_markattr(PyTypeObject* type, PyObject* key, int count, va_l
 bool fn_set_additional_ifcs_markattr(PyTypeObject* type, int count, ...) {
     va_list interfaces;
     va_start(interfaces, count);
-    const bool done = fn_set_any_ifcs_markattr(type, PyWrpIdMarkattr_AdditionalInterfaces, count,
-                                               interfaces);
+    const bool done =
+        fn_set_any_ifcs_markattr(type, PyWrpIdMarkattr_AdditionalInterfaces, count, interfaces);
     va_end(interfaces);
     return done;
 }

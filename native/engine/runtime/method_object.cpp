@@ -1,6 +1,6 @@
 // The callable that the method descriptors hand out.
-#include "runtime/descriptors.h"
 #include "runtime/method_object.h"
+#include "runtime/descriptors.h"
 
 namespace {
 
@@ -53,8 +53,8 @@ PyObject* unbound_self(const PyShCMethodObject* method, PyObject* args) {
 
 PyObject* call_with_keywords(const PyMethodDef* def, PyObject* self, PyObject* args,
                              PyObject* kwargs) {
-    return reinterpret_cast<PyCFunctionWithKeywords>(
-        reinterpret_cast<void (*)()>(def->ml_meth))(self, args, kwargs);
+    return reinterpret_cast<PyCFunctionWithKeywords>(reinterpret_cast<void (*)()>(def->ml_meth))(
+        self, args, kwargs);
 }
 
 PyObject* wrpPye_tpsb_cmethod_tp_call_with_args_linked(PyObject* self, PyObject* args,
@@ -160,9 +160,8 @@ PyObject* wrpPye_tpsb_cmethod_tp_repr(PyObject* self) {
 
 Py_hash_t wrpPye_tpsb_cmethod_tp_hash(PyObject* self) {
     const PyShCMethodObject* method = as_method(self);
-    const Py_hash_t hash =
-        _Py_HashPointer(method->m_self) ^
-        _Py_HashPointer(reinterpret_cast<const void*>(method->m_ml->ml_meth));
+    const Py_hash_t hash = _Py_HashPointer(method->m_self) ^
+                           _Py_HashPointer(reinterpret_cast<const void*>(method->m_ml->ml_meth));
     return hash == -1 ? -2 : hash;
 }
 

@@ -23,14 +23,12 @@ namespace {
 bool is_integer(PyObject* object) {
     const int answer = PyShLong_Check(object);
     if (answer == 0) {
-        PyErr_Format(PyExc_TypeError, "integer argument expected, got '%s'",
-                     type_name_of(object));
+        PyErr_Format(PyExc_TypeError, "integer argument expected, got '%s'", type_name_of(object));
     }
     return answer > 0;
 }
 
-template <class Narrow>
-int convert_signed(PyObject* object, Narrow* out, const char* range_words) {
+template <class Narrow> int convert_signed(PyObject* object, Narrow* out, const char* range_words) {
     if (!is_integer(object)) {
         return 0;
     }
@@ -110,8 +108,7 @@ int fn_conv_py_ulong_to_clr_uint64(PyObject* object, unsigned long* out) {
 
 int fn_conv_py_float_to_clr_double(PyObject* object, double* out) {
     if (!PyFloat_Check(object)) {
-        PyErr_Format(PyExc_TypeError, "numeric argument expected, got '%s'",
-                     type_name_of(object));
+        PyErr_Format(PyExc_TypeError, "numeric argument expected, got '%s'", type_name_of(object));
         return 0;
     }
     const double value = PyFloat_AsDouble(object);

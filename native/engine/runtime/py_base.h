@@ -18,9 +18,7 @@ struct PyClrObject {
     void* handle; // null from tp_new until a value is stored
 };
 
-inline void* clr_handle(PyObject* object) {
-    return reinterpret_cast<PyClrObject*>(object)->handle;
-}
+inline void* clr_handle(PyObject* object) { return reinterpret_cast<PyClrObject*>(object)->handle; }
 
 // An owned reference. A bare PyObject* borrows.
 class Ref {

@@ -116,8 +116,8 @@ PyObject* fn_create_shlbuffer_view(void* memory, long length, int read_only) {
 }
 
 int fn_clbk_rawio_write(PyObject* stream, const unsigned char* data, int count) {
-    return count_of(Ref::steal(call_with_view(stream, PyWrpIdRawIo_Write,
-                                              const_cast<unsigned char*>(data), count, 1)));
+    return count_of(Ref::steal(
+        call_with_view(stream, PyWrpIdRawIo_Write, const_cast<unsigned char*>(data), count, 1)));
 }
 
 int fn_clbk_rawio_write_byte(PyObject* stream, int byte) {
@@ -131,8 +131,7 @@ int fn_clbk_rawio_read(PyObject* stream, unsigned char* data, int count) {
 
 int fn_clbk_rawio_readbyte(PyObject* stream) {
     unsigned char byte = 0;
-    const Ref result =
-        Ref::steal(call_with_view(stream, PyWrpIdRawIo_ReadInto, &byte, 1, 0));
+    const Ref result = Ref::steal(call_with_view(stream, PyWrpIdRawIo_ReadInto, &byte, 1, 0));
     if (!result) {
         return -2;
     }
@@ -178,15 +177,9 @@ void fn_clbk_rawio_close(PyObject* stream) {
     pending.restore();
 }
 
-int fn_clbk_rawio_readable(PyObject* stream) {
-    return ask_if_open(stream, PyWrpIdRawIo_Readable);
-}
-int fn_clbk_rawio_writable(PyObject* stream) {
-    return ask_if_open(stream, PyWrpIdRawIo_Writable);
-}
-int fn_clbk_rawio_seekable(PyObject* stream) {
-    return ask_if_open(stream, PyWrpIdRawIo_Seekable);
-}
+int fn_clbk_rawio_readable(PyObject* stream) { return ask_if_open(stream, PyWrpIdRawIo_Readable); }
+int fn_clbk_rawio_writable(PyObject* stream) { return ask_if_open(stream, PyWrpIdRawIo_Writable); }
+int fn_clbk_rawio_seekable(PyObject* stream) { return ask_if_open(stream, PyWrpIdRawIo_Seekable); }
 
 long fn_clbk_rawio_tell(PyObject* stream) {
     return position_of(Ref::steal(PyObject_CallMethodNoArgs(stream, PyWrpIdRawIo_Tell)));

@@ -129,9 +129,8 @@ PyObject* fn_conv_clr_btpobj_to_py_btpobj(const PyCollectionArg& result, PyTypeO
     if (result.handle == nullptr) {
         Py_RETURN_NONE;
     }
-    PyTypeObject* found = result.kind == KORVAN_COL_EXACT
-                              ? find_weakly(result.handle, result.type_key)
-                              : nullptr;
+    PyTypeObject* found =
+        result.kind == KORVAN_COL_EXACT ? find_weakly(result.handle, result.type_key) : nullptr;
     return fn_py_clr_type_generic_new(result.handle, found != nullptr ? found : declared);
 }
 

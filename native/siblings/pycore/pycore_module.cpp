@@ -34,8 +34,8 @@ void stream_dealloc(PyObject* self) {
 int stream_init(PyObject* self, PyObject* args, PyObject* kwargs) {
     static const char* keywords[] = {"buffer", nullptr};
     PyObject* buffer = nullptr;
-    if (!PyArg_ParseTupleAndKeywords(args, kwargs, "O:BytesAsStream",
-                                     const_cast<char**>(keywords), &buffer)) {
+    if (!PyArg_ParseTupleAndKeywords(args, kwargs, "O:BytesAsStream", const_cast<char**>(keywords),
+                                     &buffer)) {
         return -1;
     }
     BytesAsStream* stream = as_stream(self);
@@ -170,8 +170,15 @@ PyTypeObject stream_type = {
     .tp_new = PyType_GenericNew,
 };
 
-PyModuleDef definition = {PyModuleDef_HEAD_INIT, "korvan.pycore", nullptr, -1, nullptr,
-                          nullptr,               nullptr,         nullptr, nullptr};
+PyModuleDef definition = {PyModuleDef_HEAD_INIT,
+                          "korvan.pycore",
+                          nullptr,
+                          -1,
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          nullptr};
 
 } // namespace
 

@@ -65,12 +65,11 @@ int color_init(PyObject* self, PyObject* args, PyObject* kwargs) {
     return 0;
 }
 
-PyGetSetDef color_getset[] = {
-    {"a", channel_getter<24>, nullptr, "Opacity, 0 to 255.", nullptr},
-    {"r", channel_getter<16>, nullptr, "Red, 0 to 255.", nullptr},
-    {"g", channel_getter<8>, nullptr, "Green, 0 to 255.", nullptr},
-    {"b", channel_getter<0>, nullptr, "Blue, 0 to 255.", nullptr},
-    {}};
+PyGetSetDef color_getset[] = {{"a", channel_getter<24>, nullptr, "Opacity, 0 to 255.", nullptr},
+                              {"r", channel_getter<16>, nullptr, "Red, 0 to 255.", nullptr},
+                              {"g", channel_getter<8>, nullptr, "Green, 0 to 255.", nullptr},
+                              {"b", channel_getter<0>, nullptr, "Blue, 0 to 255.", nullptr},
+                              {}};
 
 PyTypeObject color_type = {
     .ob_base = PyVarObject_HEAD_INIT(nullptr, 0).tp_name = "korvan.pydrawing.Color",
@@ -128,10 +127,10 @@ PyTypeObject rectangle_type = {
 
 // ---- capsules --------------------------------------------------------------------------------
 
-template <class Value> int parse(PyObject* object, void* out, PyTypeObject& type, const char* name) {
+template <class Value>
+int parse(PyObject* object, void* out, PyTypeObject& type, const char* name) {
     if (Py_TYPE(object) != &type) {
-        PyErr_Format(PyExc_TypeError, "can't build %s value from '%s'", name,
-                     type_name_of(object));
+        PyErr_Format(PyExc_TypeError, "can't build %s value from '%s'", name, type_name_of(object));
         return 0;
     }
     *static_cast<Value*>(out) = value_of<Value>(object);
@@ -159,8 +158,15 @@ void* color_api[] = {reinterpret_cast<void*>(parse_color), reinterpret_cast<void
 void* rectangle_api[] = {reinterpret_cast<void*>(parse_rectangle),
                          reinterpret_cast<void*>(wrap_rectangle)};
 
-PyModuleDef definition = {PyModuleDef_HEAD_INIT, "korvan.pydrawing", nullptr, -1, nullptr,
-                          nullptr,               nullptr,            nullptr, nullptr};
+PyModuleDef definition = {PyModuleDef_HEAD_INIT,
+                          "korvan.pydrawing",
+                          nullptr,
+                          -1,
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          nullptr};
 
 } // namespace
 

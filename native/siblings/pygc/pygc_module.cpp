@@ -69,8 +69,8 @@ PyObject* PyShCastOpResult_New(int status, PyObject* value) {
 
 void* api_table[] = {reinterpret_cast<void*>(PyShCastOpResult_New)};
 
-PyModuleDef definition = {PyModuleDef_HEAD_INIT, "korvan.pygc", nullptr, -1, nullptr,
-                          nullptr,               nullptr,       nullptr, nullptr};
+PyModuleDef definition = {
+    PyModuleDef_HEAD_INIT, "korvan.pygc", nullptr, -1, nullptr, nullptr, nullptr, nullptr, nullptr};
 
 } // namespace
 

@@ -20,9 +20,8 @@ PyObject* empty_wrapper(PyTypeObject* type, PyObject* args, PyObject* kwargs) {
     return object;
 }
 
-PyMethodDef methods[] = {{"get_type", wrapClrObject_get_type, METH_NOARGS,
-                          "The managed type of this object."},
-                         {}};
+PyMethodDef methods[] = {
+    {"get_type", wrapClrObject_get_type, METH_NOARGS, "The managed type of this object."}, {}};
 
 constexpr PyTypeObject make_type(const char* name, const char* doc) {
     return {
@@ -103,8 +102,15 @@ void* type_api[] = {pointer(parse_type), pointer(wrap_type), pointer(unwrap_type
 void* object_api[] = {pointer(parse_object), pointer(wrap_object), pointer(unwrap_object)};
 void* enum_api[] = {pointer(parse_enum), pointer(wrap_enum), pointer(unwrap_enum)};
 
-PyModuleDef definition = {PyModuleDef_HEAD_INIT, "korvan.pyreflection", nullptr, -1, nullptr,
-                          nullptr,               nullptr,               nullptr, nullptr};
+PyModuleDef definition = {PyModuleDef_HEAD_INIT,
+                          "korvan.pyreflection",
+                          nullptr,
+                          -1,
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          nullptr};
 
 bool add_wrapper(PyObject* module, PyTypeObject* type) {
     return PyModule_AddType(module, type) == 0 && fn_set_obj_type_host_markattr(type) &&

@@ -35,8 +35,8 @@ struct Installation {
     }
 
     template <class Function> Function* scripted(const char* name) const {
-        void* library = dlopen((runtime + "/libkorvan.embed.coreclrwrap.so").c_str(),
-                               RTLD_NOW | RTLD_GLOBAL);
+        void* library =
+            dlopen((runtime + "/libkorvan.embed.coreclrwrap.so").c_str(), RTLD_NOW | RTLD_GLOBAL);
         return reinterpret_cast<Function*>(dlsym(library, name));
     }
 };
@@ -57,8 +57,8 @@ TEST(Host, HandsTheFivePropertiesToTheRuntimeOnce) {
             const Installation installation;
             HostEnvironment& host = installation.start();
             expect_in_child(&installation.start() == &host, "second instance");
-            const std::string folders = (installation.root / "assemblies/cad") + ":" +
-                                        installation.runtime;
+            const std::string folders =
+                (installation.root / "assemblies/cad") + ":" + installation.runtime;
             expect_in_child(
                 installation.scripted<const char*()>("scripted_wrap_properties")() ==
                     "TRUSTED_PLATFORM_ASSEMBLIES=\nAPP_PATHS=" + folders +
