@@ -10,13 +10,6 @@ public class LoadOptions
     {
     }
 
-    /// <summary>Gets the folders that hold fonts of the drawing. Empty by default.</summary>
-    public List<string> CustomFontFolders { get; } = [];
-
-    /// <summary>Gets or sets the order in which <see cref="CustomFontFolders"/> and the fonts of the system are
-    /// searched.</summary>
-    public CustomFontFolderOptions CustomFontFolderOptions { get; set; }
-
     /// <summary>Gets or sets the code page that texts are read in. <see cref="CodePages.Default"/> takes the one
     /// that the drawing states; other values help with drawings that state a wrong one.</summary>
     public CodePages SpecifiedEncoding { get; set; }

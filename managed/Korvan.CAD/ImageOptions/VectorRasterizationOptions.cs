@@ -8,7 +8,6 @@ public abstract class VectorRasterizationOptions : DisposableObject
 {
     private float _pageWidth;
     private float _pageHeight;
-    private float _pageDepth;
 
     internal VectorRasterizationOptions()
     {
@@ -40,13 +39,6 @@ public abstract class VectorRasterizationOptions : DisposableObject
     {
         get => _pageWidth;
         set => _pageWidth = Length(value);
-    }
-
-    /// <summary>Gets or sets the depth of the page for formats in space; 0 for the depth of the drawing.</summary>
-    public float PageDepth
-    {
-        get => _pageDepth;
-        set => _pageDepth = Length(value);
     }
 
     /// <summary>Gets or sets <see cref="PageWidth"/> and <see cref="PageHeight"/> together.</summary>
