@@ -186,7 +186,7 @@ class Process(unittest.TestCase):
             try:
                 signal.raise_signal(signal.SIGINT)
             except KeyboardInterrupt:
-                print("interrupted")
+                print("interrupted", flush=True)
             signal.raise_signal(signal.SIGTERM)
             """
         )
