@@ -157,7 +157,10 @@ TEST(Text, IsLentInItsOwnWidthAndDecodedStrictly) {
     const struct {
         const char* literal;
         int length, width;
-    } rows[] = {{"''", 0, 1}, {"'e'", 1, 1}, {"'\\u00e9'", 1, 1}, {"'\\u20ac'", 1, 2},
+    } rows[] = {{"''", 0, 1},
+                {"'e'", 1, 1},
+                {"'\\u00e9'", 1, 1},
+                {"'\\u20ac'", 1, 2},
                 {"'\\U0001f600'", 1, 4}};
     for (const auto& row : rows) {
         const Ref text = evaluate(row.literal);
@@ -167,10 +170,10 @@ TEST(Text, IsLentInItsOwnWidthAndDecodedStrictly) {
         EXPECT_EQ(out.data, PyUnicode_DATA(text.get())) << "no copy";
     }
     const char16_t pair[] = {0xD83D, 0xDE00, 0xFEFF};
-    EXPECT_EQ(text_of(Ref::steal(fn_conv_clr_string_to_py_string(
-                                     reinterpret_cast<const char*>(pair), 3))
-                          .get()),
-              "'\U0001f600\\ufeff'");
+    EXPECT_EQ(
+        text_of(Ref::steal(fn_conv_clr_string_to_py_string(reinterpret_cast<const char*>(pair), 3))
+                    .get()),
+        "'\U0001f600\\ufeff'");
     EXPECT_EQ(fn_conv_clr_string_to_py_string(reinterpret_cast<const char*>(pair), 1), nullptr);
     EXPECT_EQ(take_error(), "LookupError: unknown error handler name ''");
 
@@ -203,8 +206,9 @@ TEST(Markers, AnswerForTheExactTypeAndNeverRaise) {
     int kind = 42;
     EXPECT_FALSE(fn_is_instance_has_host_markattr(object.get(), &kind));
     EXPECT_EQ(kind, 42);
-    const Ref marked = run("class Marked:\n    _korvan_clr_host = ...\n    _implicit_interfaces = 5\n"
-                           "class Derived(Marked): pass\nresult = (Marked(), Derived())");
+    const Ref marked =
+        run("class Marked:\n    _korvan_clr_host = ...\n    _implicit_interfaces = 5\n"
+            "class Derived(Marked): pass\nresult = (Marked(), Derived())");
     PyObject* instance = PyTuple_GET_ITEM(marked.get(), 0);
     EXPECT_TRUE(fn_is_instance_has_host_markattr(instance, &kind));
     EXPECT_EQ(kind, KORVAN_REF_STRUCT);

@@ -82,10 +82,14 @@ TEST(VersionGate, LetsPassExactlyWhatLiesBetweenThresholdAndVersion) {
     } rows[] = {
         {{24, 5, 3, 0}, {24, 5, 3, 0}, nullptr},
         {{25, 1, 0, 0}, {22, 6, 0, 0}, nullptr},
-        {{24, 5, 2, 9}, {22, 6, 0, 0}, "that is lower than the referenced version of that module "
-                                       "('24.5.3.0')"},
-        {{25, 0, 0, 0}, {24, 5, 3, 1}, "is not compatible with the referenced vesion of the module "
-                                       "('24.5.3.0')"},
+        {{24, 5, 2, 9},
+         {22, 6, 0, 0},
+         "that is lower than the referenced version of that module "
+         "('24.5.3.0')"},
+        {{25, 0, 0, 0},
+         {24, 5, 3, 1},
+         "is not compatible with the referenced vesion of the module "
+         "('24.5.3.0')"},
     };
     const Ref module = run("import sys, types\nresult = sys.modules['sibling'] = "
                            "types.ModuleType('sibling')");

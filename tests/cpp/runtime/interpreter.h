@@ -11,8 +11,8 @@
 inline Ref run(const std::string& statements) {
     const Ref globals = Ref::steal(PyDict_New());
     PyDict_SetItemString(globals.get(), "__builtins__", PyEval_GetBuiltins());
-    const Ref done = Ref::steal(
-        PyRun_String(statements.c_str(), Py_file_input, globals.get(), globals.get()));
+    const Ref done =
+        Ref::steal(PyRun_String(statements.c_str(), Py_file_input, globals.get(), globals.get()));
     if (!done) {
         PyErr_Print();
         ADD_FAILURE() << statements;
