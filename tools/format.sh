@@ -4,11 +4,16 @@
 set -eu
 
 cd "$(dirname "$0")/.."
-cpp=$(git ls-files -- 'native/*.cpp' 'native/*.h' 'contract/*.h' 'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h')
-
-# shellcheck disable=SC2086 # one argument a file; no path of ours has a space
+check=
+dry_run=-i
 if [ "${1:-}" = --check ]; then
-    clang-format --dry-run -Werror $cpp
-else
-    clang-format -i $cpp
+    check=--verify-no-changes
+    dry_run="--dry-run -Werror"
 fi
+
+# shellcheck disable=SC2046,SC2086 # one argument a file; no path of ours has a space
+clang-format $dry_run $(git ls-files -- 'native/*.cpp' 'native/*.h' 'contract/*.h' \
+    'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h')
+for folder in managed tests/managed tests/fixtures bench/managed; do
+    dotnet format whitespace --folder "$folder" $check
+done

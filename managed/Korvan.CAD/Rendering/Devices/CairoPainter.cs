@@ -335,6 +335,11 @@ internal sealed unsafe class CairoPainter
 
     private static CairoMatrix ToCairo(in Affine2 m) => new()
     {
-        Xx = m.Xx, Yx = m.Yx, Xy = m.Xy, Yy = m.Yy, X0 = m.X0, Y0 = m.Y0,
+        Xx = m.Xx,
+        Yx = m.Yx,
+        Xy = m.Xy,
+        Yy = m.Yy,
+        X0 = m.X0,
+        Y0 = m.Y0,
     };
 }

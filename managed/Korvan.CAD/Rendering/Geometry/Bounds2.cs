@@ -31,7 +31,10 @@ internal struct Bounds2
 
     internal static Bounds2 Of(double x0, double y0, double x1, double y1) => new()
     {
-        MinX = Math.Min(x0, x1), MinY = Math.Min(y0, y1), MaxX = Math.Max(x0, x1), MaxY = Math.Max(y0, y1),
+        MinX = Math.Min(x0, x1),
+        MinY = Math.Min(y0, y1),
+        MaxX = Math.Max(x0, x1),
+        MaxY = Math.Max(y0, y1),
     };
 
     internal readonly bool Contains(double x, double y) => x >= MinX && x <= MaxX && y >= MinY && y <= MaxY;

@@ -16,7 +16,11 @@ internal static class TextCodes
 {
     private static readonly Dictionary<char, int> MultibytePages = new()
     {
-        ['1'] = 932, ['2'] = 950, ['3'] = 949, ['4'] = 1361, ['5'] = 936,
+        ['1'] = 932,
+        ['2'] = 950,
+        ['3'] = 949,
+        ['4'] = 1361,
+        ['5'] = 936,
     };
 
     internal static List<TextPiece> Parse(string text)

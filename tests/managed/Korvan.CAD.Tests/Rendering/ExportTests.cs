@@ -100,7 +100,13 @@ public class ExportTests
         Bounds2 extents = Bounds2.Of(0, 0, 10, 10);
         PageRequest Request(FitMode fit) => new()
         {
-            Width = 100, Height = 50, Fit = fit, UnitScale = 1, Zoom = 1, UnitsPerMillimetre = 1, UsualSide = 420,
+            Width = 100,
+            Height = 50,
+            Fit = fit,
+            UnitScale = 1,
+            Zoom = 1,
+            UnitsPerMillimetre = 1,
+            UsualSide = 420,
         };
         Assert.Equal(5, PageLayout.Create(Request(FitMode.Fill), extents, null).Scale);
         Assert.Equal(1, PageLayout.Create(Request(FitMode.Shrink), extents, null).Scale);

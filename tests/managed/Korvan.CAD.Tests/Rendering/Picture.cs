@@ -60,7 +60,10 @@ internal sealed class Picture : IDisposable
 
     internal static CadInsertObject Insert(string block, double x = 0, double y = 0, short color = 256, string layer = "0") => new()
     {
-        Name = block, InsertionPoint = new Cad3DPoint(x, y, 0), ColorId = color, LayerName = layer,
+        Name = block,
+        InsertionPoint = new Cad3DPoint(x, y, 0),
+        ColorId = color,
+        LayerName = layer,
     };
 
     internal static CadBlockEntity AddBlock(CadImage drawing, string name, params CadEntityBase[] entities)

@@ -138,7 +138,11 @@ public class SceneTests
         var upper = new CadBoundaryPathCircularArc { CenterPoint = new Cad2DPoint(50, 50), Radius = 30, StartAngle = 0, EndAngle = 180 };
         var lower = new CadBoundaryPathCircularArc
         {
-            CenterPoint = new Cad2DPoint(50, 50), Radius = 30, StartAngle = 0, EndAngle = 180, CounterClockwise = false,
+            CenterPoint = new Cad2DPoint(50, 50),
+            Radius = 30,
+            StartAngle = 0,
+            EndAngle = 180,
+            CounterClockwise = false,
         };
         var path = new CadEdgeBoundaryPath();
         path.Edges.Add(upper);
@@ -159,8 +163,12 @@ public class SceneTests
         dashed.Pattern.AddRange([5, -5]);
         var line = new CadLine
         {
-            FirstPoint = new Cad3DPoint(5, 50, 0), SecondPoint = new Cad3DPoint(95, 50, 0), ColorId = 1, LineTypeName = "gaps",
-            LinetypeScale = 2, LineWeight = 211,
+            FirstPoint = new Cad3DPoint(5, 50, 0),
+            SecondPoint = new Cad3DPoint(95, 50, 0),
+            ColorId = 1,
+            LineTypeName = "gaps",
+            LinetypeScale = 2,
+            LineWeight = 211,
         };
         CadImage drawing = Picture.Drawing(line);
         drawing.LineTypes.Add(dashed);
@@ -203,8 +211,12 @@ public class SceneTests
         (sheet.PaperWidth, sheet.PaperHeight, sheet.LeftMargin, sheet.BottomMargin) = (100, 100, 0, 0);
         var viewport = new CadViewport
         {
-            ViewportId = 2, CenterPoint = new Cad3DPoint(50, 50, 0), Width = 60, Height = 60,
-            ViewHeight = 30, ViewCenter = new Cad2DPoint(1015, 1015),
+            ViewportId = 2,
+            CenterPoint = new Cad3DPoint(50, 50, 0),
+            Width = 60,
+            Height = 60,
+            ViewHeight = 30,
+            ViewCenter = new Cad2DPoint(1015, 1015),
         };
         viewport.FrozenLayers.Add("ABC");
         drawing.PaperSpaceEntities.Add(viewport);
@@ -231,8 +243,11 @@ public class SceneTests
 
         var image = new CadRasterImage
         {
-            InsertionPoint = new Cad3DPoint(20, 20, 0), VectorU = new Cad3DPoint(10, 0, 0), VectorV = new Cad3DPoint(0, 10, 0),
-            ImageSize = new Cad2DPoint(2, 2), ImageDefReference = "77",
+            InsertionPoint = new Cad3DPoint(20, 20, 0),
+            VectorU = new Cad3DPoint(10, 0, 0),
+            VectorV = new Cad3DPoint(0, 10, 0),
+            ImageSize = new Cad2DPoint(2, 2),
+            ImageDefReference = "77",
         };
         CadImage drawing = Picture.Drawing(image);
         drawing.FilePath = Path.Combine(inner, "plan.dxf");

@@ -53,8 +53,13 @@ public class SheetTests
         drawing.PaperSpaceEntities.Add(circle);
         drawing.PaperSpaceEntities.Add(new CadViewport
         {
-            ViewportId = 2, CenterPoint = new Cad3DPoint(50, 50, 0), Width = 80, Height = 80, ViewHeight = 80,
-            StatusFlags = 0x10000, ClippingBoundaryHandle = "F1",
+            ViewportId = 2,
+            CenterPoint = new Cad3DPoint(50, 50, 0),
+            Width = 80,
+            Height = 80,
+            ViewHeight = 80,
+            StatusFlags = 0x10000,
+            ClippingBoundaryHandle = "F1",
         });
         using Picture picture = Picture.Of(drawing, o => o.Layouts = [sheet.LayoutName]);
         Assert.Equal(255, picture[50, 60].R);
@@ -140,7 +145,10 @@ public class SheetTests
         // Seen from below, without a direction of its own: the world's x still leads, and y runs down.
         CadImage drawing = Picture.Drawing(new CadMText
         {
-            Text = "W", InitialTextHeight = 10, ExtrusionDirection = new Cad3DPoint(0, 0, -1), InsertionPoint = new Cad3DPoint(20, 20, 0),
+            Text = "W",
+            InitialTextHeight = 10,
+            ExtrusionDirection = new Cad3DPoint(0, 0, -1),
+            InsertionPoint = new Cad3DPoint(20, 20, 0),
         });
         DrawingScene scene = SceneReader.Read(drawing);
         using var engine = new TextEngine();

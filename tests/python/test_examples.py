@@ -1,0 +1,74 @@
+"""The example programs and the tutorial's code run as they stand."""
+
+from __future__ import annotations
+
+import re
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+import korvan.cad
+from korvan.cad.fileformats.cad import CadImage
+
+ROOT = Path(__file__).resolve().parent.parent.parent
+EXAMPLES = ROOT / "examples"
+DRAWINGS = EXAMPLES / "drawings"
+
+
+def run(*arguments: str, cwd: Path) -> subprocess.CompletedProcess[str]:
+    """Runs this interpreter."""
+    return subprocess.run(
+        [sys.executable, *arguments], cwd=cwd, capture_output=True, text=True, timeout=120, check=False
+    )
+
+
+def circles(path: Path) -> int:
+    """How many circles lie in model space."""
+    with korvan.cad.Image.load(str(path)) as image:
+        entities = CadImage._cast_to(image).value.entities
+        return sum(1 for entity in entities if entity.type_name_text == "CIRCLE")
+
+
+class Examples(unittest.TestCase):
+    def setUp(self) -> None:
+        self._folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self._folder.cleanup)
+        self.out = Path(self._folder.name)
+
+    def test_the_converter_writes_every_drawing_in_every_format(self) -> None:
+        done = run(str(EXAMPLES / "convert.py"), "--out", str(self.out), cwd=self.out)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        wanted = {path.stem + suffix for path in DRAWINGS.glob("*.dxf") for suffix in (".pdf", ".svg", ".png")}
+        self.assertEqual({path.name for path in self.out.iterdir()}, wanted)
+        self.assertEqual([line for line in done.stdout.splitlines() if "failed" in line], [])
+
+    def test_the_converter_goes_on_after_a_bad_file_and_says_so(self) -> None:
+        bad = self.out / "bad.dxf"
+        bad.write_text("no drawing")
+        good = DRAWINGS / "heating_schematic.dxf"
+        done = run(str(EXAMPLES / "convert.py"), "--out", str(self.out / "o"), str(bad), str(good), cwd=self.out)
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("bad.dxf", done.stderr)
+        self.assertTrue((self.out / "o" / "heating_schematic.pdf").exists())
+
+    def test_the_walk_saves_its_change(self) -> None:
+        done = run(str(EXAMPLES / "walk_entities.py"), str(DRAWINGS / "site_plan.dxf"), str(self.out), cwd=self.out)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertEqual(circles(self.out / "site_plan_changed.dxf"), circles(DRAWINGS / "site_plan.dxf") + 1)
+        self.assertTrue((self.out / "site_plan_changed.pdf").exists())
+
+    def test_the_tutorial_runs(self) -> None:
+        text = (ROOT / "docs" / "tutorial.md").read_text(encoding="utf-8")
+        code = "\n".join(re.findall(r"```python\n(.*?)```", text, re.DOTALL))
+        (self.out / "examples").symlink_to(EXAMPLES)
+        (self.out / "build").mkdir()
+        done = run("-c", code, cwd=self.out)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertIn("['Model', 'Site 1:500', 'Plot 1']", done.stdout)
+        self.assertTrue((self.out / "build" / "sheets.pdf").exists())
+
+
+if __name__ == "__main__":
+    unittest.main()
