@@ -9,15 +9,13 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
 
-/// <summary>Drawings of other programs, where they are at hand: the folder stands in KORVAN_DRAWINGS.</summary>
+/// <summary>Drawings of other programs, where they stand beside the checkout.</summary>
 public class RealDrawingTests
 {
-    private static readonly string? Folder = Environment.GetEnvironmentVariable("KORVAN_DRAWINGS");
-
     public static TheoryData<string> Files()
     {
         var data = new TheoryData<string>();
-        IEnumerable<string> files = Folder == null ? [] : Directory.EnumerateFiles(Path.Combine(Folder, "dxf"), "*.dxf*");
+        IEnumerable<string> files = SharedDrawings.Root is null ? [] : SharedDrawings.AllDxf();
         foreach (string file in files.Order(StringComparer.Ordinal).DefaultIfEmpty("none at hand"))
         {
             data.Add(Path.GetFileName(file));
@@ -26,11 +24,11 @@ public class RealDrawingTests
         return data;
     }
 
-    [WhereDrawingsAre]
+    [DrawingTheory]
     [MemberData(nameof(Files))]
     public void Every_layout_becomes_a_page_that_others_read(string name)
     {
-        using var drawing = (CadImage)Image.Load(Path.Combine(Folder!, "dxf", name));
+        using var drawing = (CadImage)Image.Load(SharedDrawings.Dxf(name));
         string[] layouts = [.. drawing.Layouts.Names];
         var raster = new CadRasterizationOptions { Layouts = layouts };
         string pdf = Picture.SaveTo(drawing, new PdfOptions { VectorRasterizationOptions = raster }, ".pdf");
@@ -41,16 +39,5 @@ public class RealDrawingTests
         using var output = new MemoryStream();
         DrawingExporter.Export(drawing, new PngOptions(), output);
         Assert.True(output.Length > 100);
-    }
-
-    private sealed class WhereDrawingsAreAttribute : TheoryAttribute
-    {
-        public WhereDrawingsAreAttribute()
-        {
-            if (Folder == null)
-            {
-                Skip = "KORVAN_DRAWINGS names no folder of drawings.";
-            }
-        }
     }
 }
