@@ -12,8 +12,16 @@ public static unsafe class PyValues
     {
         < 0 => null,
         0 => [],
-        int length => new ReadOnlySpan<byte>(bytes->Data, length).ToArray(),
+        int length => Copy(bytes->Data, length),
     };
+
+    // Every byte is written at once, so a large array need not be zeroed first.
+    private static byte[] Copy(void* data, int length)
+    {
+        byte[] copy = GC.AllocateUninitializedArray<byte>(length);
+        new ReadOnlySpan<byte>(data, length).CopyTo(copy);
+        return copy;
+    }
 
     /// <summary>A new reference to a bytearray, or to None for null.</summary>
     public static nint WriteBytes(byte[]? bytes)

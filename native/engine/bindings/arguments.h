@@ -13,6 +13,7 @@
 #include "runtime/buffers.h"
 #include "runtime/dates.h"
 #include "runtime/decimals.h"
+#include "runtime/markers.h"
 #include "runtime/numbers.h"
 #include "runtime/strings.h"
 #include "runtime/variant.h"
@@ -21,25 +22,37 @@
 
 namespace arg {
 
+// Refusals that the type alone decides; a converter that is asked instead refuses the same.
+inline bool is_no_integer(PyObject* object) { return !PyLong_Check(object); }
+inline bool is_no_float(PyObject* object) { return !PyFloat_Check(object); }
+inline bool is_no_bool(PyObject* object) { return !PyBool_Check(object); }
+inline bool is_no_text(PyObject* object) { return !PyUnicode_Check(object); }
+
 // A value whose converter needs no binding and that passes as it lies in its cell.
-template <class Cell, int (*Convert)(PyObject*, Cell*), class Native = Cell> struct scalar {
+template <class Cell, int (*Convert)(PyObject*, Cell*), class Native = Cell,
+          bool (*Refuses)(PyObject*) = nullptr>
+struct scalar {
     using cell = Cell;
+    static bool refuses(PyObject* object, const void*) {
+        return Refuses != nullptr && Refuses(object);
+    }
     static int convert(PyObject* object, cell* out, const void*) { return Convert(object, out); }
     static std::tuple<Native> pass(cell& value) { return {static_cast<Native>(value)}; }
 };
 
-using boolean = scalar<bool, fn_conv_py_bool_to_clr_bool, std::uint8_t>;
-using int8 = scalar<signed char, fn_conv_py_long_to_clr_int8>;
-using uint8 = scalar<unsigned char, fn_conv_py_ulong_to_clr_uint8>;
-using int16 = scalar<short, fn_conv_py_long_to_clr_int16>;
-using uint16 = scalar<unsigned short, fn_conv_py_ulong_to_clr_uint16>;
-using int32 = scalar<int, fn_conv_py_long_to_clr_int32>;
-using uint32 = scalar<unsigned int, fn_conv_py_ulong_to_clr_uint32>;
-using int64 = scalar<long, fn_conv_py_long_to_clr_int64>;
-using uint64 = scalar<unsigned long, fn_conv_py_ulong_to_clr_uint64>;
-using float32 = scalar<float, fn_conv_py_float_to_clr_float>;
-using float64 = scalar<double, fn_conv_py_float_to_clr_double>;
-using char16 = scalar<unsigned short, fn_conv_py_string_to_clr_char>;
+using boolean = scalar<bool, fn_conv_py_bool_to_clr_bool, std::uint8_t, is_no_bool>;
+using int8 = scalar<signed char, fn_conv_py_long_to_clr_int8, signed char, is_no_integer>;
+using uint8 = scalar<unsigned char, fn_conv_py_ulong_to_clr_uint8, unsigned char, is_no_integer>;
+using int16 = scalar<short, fn_conv_py_long_to_clr_int16, short, is_no_integer>;
+using uint16 =
+    scalar<unsigned short, fn_conv_py_ulong_to_clr_uint16, unsigned short, is_no_integer>;
+using int32 = scalar<int, fn_conv_py_long_to_clr_int32, int, is_no_integer>;
+using uint32 = scalar<unsigned int, fn_conv_py_ulong_to_clr_uint32, unsigned int, is_no_integer>;
+using int64 = scalar<long, fn_conv_py_long_to_clr_int64, long, is_no_integer>;
+using uint64 = scalar<unsigned long, fn_conv_py_ulong_to_clr_uint64, unsigned long, is_no_integer>;
+using float32 = scalar<float, fn_conv_py_float_to_clr_float, float, is_no_float>;
+using float64 = scalar<double, fn_conv_py_float_to_clr_double, double, is_no_float>;
+using char16 = scalar<unsigned short, fn_conv_py_string_to_clr_char, unsigned short, is_no_text>;
 
 using datetime = scalar<long, fn_conv_py_datetime_to_clr_datetime>;
 using timespan = scalar<long, fn_conv_py_datetimedelta_to_clr_timespan>;
@@ -74,6 +87,9 @@ struct string {
     struct cell : PyStringArg {
         cell() : PyStringArg{-1, 0, nullptr} {}
     };
+    static bool refuses(PyObject* object, const void*) {
+        return object != Py_None && !PyUnicode_Check(object);
+    }
     static int convert(PyObject* object, cell* out, const void*) {
         return fn_conv_py_string_to_clr_string(object, out);
     }
@@ -96,6 +112,9 @@ struct object {
     struct cell {
         void* handle = nullptr;
     };
+    static bool refuses(PyObject* object, const void*) {
+        return object != Py_None && !fn_is_refobj_has_host_markattr(object);
+    }
     static int convert(PyObject* object, cell* out, const void* type) {
         return conv_py_to_clr_class(object, &out->handle, binding_of(type));
     }
@@ -152,6 +171,7 @@ using any_list =
 
 template <class T> struct enumeration {
     using cell = T;
+    static bool refuses(PyObject* object, const void*) { return !PyLong_Check(object); }
     static int convert(PyObject* object, cell* out, const void* type) {
         return conv_py_to_clr_enum(object, out,
                                    *static_cast<EnumBinding*>(const_cast<void*>(type)));
@@ -234,6 +254,15 @@ template <class Policy>
 concept Output = requires(typename Policy::cell& cell, const void* type) {
     Policy::deliver(cell, type);
 };
+
+// Whether a policy refuses an argument for its type, without an error.
+template <class Policy> bool surely_refuses(PyObject* object, const void* type) {
+    if constexpr (requires { Policy::refuses(object, type); }) {
+        return Policy::refuses(object, type);
+    } else {
+        return false;
+    }
+}
 
 // Type-erased for the parser.
 template <class Policy> int convert_cell(PyObject* object, void* cell, const void* type) {

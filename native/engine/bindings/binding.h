@@ -54,11 +54,20 @@
 // Rows of tables; the formatter would take them for blocks of statements.
 // clang-format off
 #define KORVAN_METHOD(name, record)                                                                \
-    {name, reinterpret_cast<PyCFunction>(method_thunk<record>), METH_VARARGS | METH_KEYWORDS,      \
+    {name, reinterpret_cast<PyCFunction>(method_thunk<record>), METH_FASTCALL | METH_KEYWORDS,     \
      nullptr}
 #define KORVAN_METHOD_STATIC(name, record)                                                         \
     {name, reinterpret_cast<PyCFunction>(method_thunk<record>),                                    \
+     METH_FASTCALL | METH_KEYWORDS | METH_STATIC, nullptr}
+// The two forms of a mixed method, which its descriptor calls with a tuple and a dict.
+#define KORVAN_MIXED(name, record)                                                                 \
+    {name, reinterpret_cast<PyCFunction>(mixed_thunk<record>), METH_VARARGS | METH_KEYWORDS,       \
+     nullptr}
+#define KORVAN_MIXED_STATIC(name, record)                                                          \
+    {name, reinterpret_cast<PyCFunction>(mixed_thunk<record>),                                     \
      METH_VARARGS | METH_KEYWORDS | METH_STATIC, nullptr}
+#define KORVAN_MIXED_NOARGS KORVAN_METHOD_NOARGS
+#define KORVAN_MIXED_STATIC_NOARGS KORVAN_METHOD_STATIC_NOARGS
 #define KORVAN_METHOD_NOARGS(name, record)                                                         \
     {name, method_noargs_thunk<record>, METH_NOARGS, nullptr}
 #define KORVAN_METHOD_STATIC_NOARGS(name, record)                                                  \

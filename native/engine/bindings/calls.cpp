@@ -3,13 +3,13 @@
 #include "bindings/classes.h"
 
 #include <array>
-#include <string>
 #include <tuple>
 #include <utility>
 
 namespace {
 
 constexpr int max_arity = 24;
+constexpr int max_legs = 48;
 
 // What stands behind an O& unit: the converter, its destination and its binding.
 struct BoundCell {
@@ -48,20 +48,54 @@ constexpr std::array<UnitParser, sizeof...(N)> unit_parsers(std::index_sequence<
 }
 constexpr auto parsers = unit_parsers(std::make_index_sequence<max_arity + 1>());
 
+// The positional arguments as a tuple, new where the call came without one.
+Ref positional_tuple(const CallArguments& arguments) {
+    if (arguments.tuple != nullptr) {
+        return Ref::borrow(arguments.tuple);
+    }
+    Ref tuple = Ref::steal(PyTuple_New(arguments.count));
+    for (Py_ssize_t i = 0; tuple && i < arguments.count; ++i) {
+        PyTuple_SET_ITEM(tuple.get(), i, Py_NewRef(arguments.items[i]));
+    }
+    return tuple;
+}
+
+// The keywords as a dict; null where there are none. False with an error.
+bool keyword_dict(const CallArguments& arguments, Ref& dict) {
+    if (arguments.names == nullptr) {
+        dict = Ref::borrow(arguments.keywords);
+        return true;
+    }
+    dict = Ref::steal(PyDict_New());
+    for (Py_ssize_t i = 0; dict && i < PyTuple_GET_SIZE(arguments.names); ++i) {
+        if (PyDict_SetItem(dict.get(), PyTuple_GET_ITEM(arguments.names, i),
+                           arguments.items[arguments.count + i]) != 0) {
+            return false;
+        }
+    }
+    return static_cast<bool>(dict);
+}
+
 // The interpreter's own parser, which has the words for whatever does not fit and knows keywords.
 bool parse_by_interpreter(const Leg& leg, const CellConverter* converters, void* const* cells,
                           const CallArguments& arguments) {
-    std::string format;
+    const Ref positional = positional_tuple(arguments);
+    Ref keyword_values;
+    if (!positional || !keyword_dict(arguments, keyword_values)) {
+        return false;
+    }
+    char format[2 * max_arity + 1];
     char* keywords[max_arity + 1];
     BoundCell bound[max_arity];
     for (int i = 0; i < leg.arity; ++i) {
-        format += "O&";
+        format[2 * i] = 'O';
+        format[2 * i + 1] = '&';
         keywords[i] = const_cast<char*>(leg.parameters[i].keyword);
         bound[i] = {converters[i], cells[i], leg.parameters[i].type};
     }
+    format[2 * leg.arity] = '\0';
     keywords[leg.arity] = nullptr;
-    return parsers[leg.arity](arguments.positional, arguments.keywords, format.c_str(), keywords,
-                              bound);
+    return parsers[leg.arity](positional.get(), keyword_values.get(), format, keywords, bound);
 }
 
 // The texts of the legs that did not fit, one each, as the argument of a TypeError.
@@ -88,60 +122,78 @@ PyObject* take_error_value() {
     return error;
 }
 
-LegOutcome try_legs(const Method& method, PyObject* self, const CallArguments& arguments,
+// The error of a leg that had been passed over quietly.
+PyObject* word_misfit(const Leg& leg, PyObject* self, CallArguments arguments) {
+    arguments.is_quiet = false;
+    PyObject* never_made = nullptr;
+    leg.call(leg, self, arguments, &never_made);
+    return take_error_value();
+}
+
+LegOutcome try_legs(const Method& method, PyObject* self, CallArguments& arguments,
                     PyObject** result) {
     if (method.count == 1) {
         return method.legs[0].call(method.legs[0], self, arguments, result);
     }
-    PyObject* misfits[max_arity * 2];
+    PyObject* misfits[max_legs] = {};
+    arguments.is_quiet = true;
     for (int i = 0; i < method.count; ++i) {
         const LegOutcome outcome = method.legs[i].call(method.legs[i], self, arguments, result);
-        if (outcome != LegOutcome::misfit) {
+        if (outcome == LegOutcome::failed || outcome == LegOutcome::done) {
             for (int kept = 0; kept < i; ++kept) {
                 Py_XDECREF(misfits[kept]);
             }
             return outcome;
         }
-        misfits[i] = take_error_value();
+        misfits[i] = outcome == LegOutcome::misfit ? take_error_value() : nullptr;
+    }
+    for (int i = 0; i < method.count; ++i) {
+        if (misfits[i] == nullptr) {
+            misfits[i] = word_misfit(method.legs[i], self, arguments);
+        }
     }
     raise_misfits(misfits, method.count);
     return LegOutcome::failed;
+}
+
+CallArguments arguments_of(PyObject* args, PyObject* kwargs) {
+    return {.items = reinterpret_cast<PyTupleObject*>(args)->ob_item,
+            .count = PyTuple_GET_SIZE(args),
+            .tuple = args,
+            .keywords = kwargs};
 }
 
 } // namespace
 
 bool parse_arguments(const Leg& leg, const CellConverter* converters, void* const* cells,
                      const CallArguments& arguments) {
-    const bool positional_only =
-        arguments.keywords == nullptr || PyDict_GET_SIZE(arguments.keywords) == 0;
-    if (!positional_only || PyTuple_GET_SIZE(arguments.positional) != leg.arity) {
+    if (arguments.has_keywords() || arguments.count != leg.arity) {
         return parse_by_interpreter(leg, converters, cells, arguments);
     }
     for (int i = 0; i < leg.arity; ++i) {
-        PyObject* argument = PyTuple_GET_ITEM(arguments.positional, i);
-        if (converters[i](argument, cells[i], leg.parameters[i].type) != 1) {
+        if (converters[i](arguments.items[i], cells[i], leg.parameters[i].type) != 1) {
             return false;
         }
     }
     return true;
 }
 
-PyObject* call_method(const Method& method, PyObject* self, PyObject* args, PyObject* kwargs) {
+PyObject* call_method(const Method& method, PyObject* self, CallArguments arguments) {
     if (method.is_static && !guard(*method.owner)) {
         return nullptr;
     }
     PyObject* result = nullptr;
-    const LegOutcome outcome = try_legs(method, self, {args, kwargs}, &result);
+    const LegOutcome outcome = try_legs(method, self, arguments, &result);
     return outcome == LegOutcome::done ? result : nullptr;
 }
 
-PyObject* call_without_arguments(const Method& method, PyObject* self) {
-    static PyObject* const empty = PyTuple_New(0);
-    return call_method(method, self, empty, nullptr);
+PyObject* call_mixed(const Method& method, PyObject* self, PyObject* args, PyObject* kwargs) {
+    return call_method(method, self, arguments_of(args, kwargs));
 }
 
 int call_constructors(const Method& constructors, PyObject* self, PyObject* args,
                       PyObject* kwargs) {
     PyObject* none = nullptr;
-    return try_legs(constructors, self, {args, kwargs}, &none) == LegOutcome::done ? 0 : -1;
+    CallArguments arguments = arguments_of(args, kwargs);
+    return try_legs(constructors, self, arguments, &none) == LegOutcome::done ? 0 : -1;
 }

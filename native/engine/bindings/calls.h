@@ -14,17 +14,21 @@ bool parse_arguments(const Leg& leg, const CellConverter* converters, void* cons
 
 // A method or overload group. When no leg fits: TypeError whose argument is a list of one text a
 // leg; a group of one leg raises that leg's own error.
-PyObject* call_method(const Method& method, PyObject* self, PyObject* args, PyObject* kwargs);
+PyObject* call_method(const Method& method, PyObject* self, CallArguments arguments);
 int call_constructors(const Method& constructors, PyObject* self, PyObject* args, PyObject* kwargs);
+PyObject* call_mixed(const Method& method, PyObject* self, PyObject* args, PyObject* kwargs);
 
 template <const Method& M>
-PyObject* method_thunk(PyObject* self, PyObject* args, PyObject* kwargs) {
-    return call_method(M, self, args, kwargs);
+PyObject* method_thunk(PyObject* self, PyObject* const* items, Py_ssize_t count, PyObject* names) {
+    return call_method(M, self, {.items = items, .count = count, .names = names});
 }
 
-PyObject* call_without_arguments(const Method& method, PyObject* self);
+template <const Method& M> PyObject* mixed_thunk(PyObject* self, PyObject* args, PyObject* kwargs) {
+    return call_mixed(M, self, args, kwargs);
+}
+
 template <const Method& M> PyObject* method_noargs_thunk(PyObject* self, PyObject*) {
-    return call_without_arguments(M, self);
+    return call_method(M, self, {.items = nullptr, .count = 0});
 }
 
 #endif

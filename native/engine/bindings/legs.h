@@ -44,6 +44,30 @@ private:
     }
 };
 
+// Whether the arguments can't fit, told by their number and their types alone.
+template <class... Args, size_t... I>
+bool surely_misfits([[maybe_unused]] const Leg& leg, const CallArguments& arguments,
+                    std::index_sequence<I...>) {
+    if (arguments.has_keywords()) {
+        return false;
+    }
+    return arguments.count != sizeof...(Args) ||
+           (arg::surely_refuses<Args>(arguments.items[I], leg.parameters[I].type) || ...);
+}
+
+// Parses into the frame, or says what became of it.
+template <class... Args>
+bool fits(Frame<Args...>& frame, const Leg& leg, const CallArguments& arguments,
+          LegOutcome& outcome) {
+    if (arguments.is_quiet &&
+        surely_misfits<Args...>(leg, arguments, std::index_sequence_for<Args...>())) {
+        outcome = LegOutcome::quiet_misfit;
+        return false;
+    }
+    outcome = LegOutcome::misfit;
+    return frame.parse(leg, arguments);
+}
+
 template <class Frame> LegOutcome finish(Frame& frame, const Leg& leg, PyObject** result) {
     if (*result == nullptr) {
         return LegOutcome::failed;
@@ -60,8 +84,9 @@ template <class Frame> LegOutcome finish(Frame& frame, const Leg& leg, PyObject*
 template <class Ret, class... Args>
 LegOutcome call(const Leg& leg, PyObject* self, const CallArguments& arguments, PyObject** result) {
     leg_detail::Frame<Args...> frame;
-    if (!frame.parse(leg, arguments)) {
-        return LegOutcome::misfit;
+    LegOutcome outcome;
+    if (!leg_detail::fits(frame, leg, arguments, outcome)) {
+        return outcome;
     }
     void* function = reinterpret_cast<void*>(host_slot<void()>(*leg.host, leg.slot));
     *result = std::apply(
@@ -76,8 +101,9 @@ template <class Ret, class... Args>
 LegOutcome call_static(const Leg& leg, PyObject*, const CallArguments& arguments,
                        PyObject** result) {
     leg_detail::Frame<Args...> frame;
-    if (!frame.parse(leg, arguments)) {
-        return LegOutcome::misfit;
+    LegOutcome outcome;
+    if (!leg_detail::fits(frame, leg, arguments, outcome)) {
+        return outcome;
     }
     void* function = reinterpret_cast<void*>(host_slot<void()>(*leg.host, leg.slot));
     *result = std::apply(
@@ -91,8 +117,9 @@ LegOutcome call_static(const Leg& leg, PyObject*, const CallArguments& arguments
 template <class... Args>
 LegOutcome construct(const Leg& leg, PyObject* self, const CallArguments& arguments, PyObject**) {
     leg_detail::Frame<Args...> frame;
-    if (!frame.parse(leg, arguments)) {
-        return LegOutcome::misfit;
+    LegOutcome outcome;
+    if (!leg_detail::fits(frame, leg, arguments, outcome)) {
+        return outcome;
     }
     void* function = reinterpret_cast<void*>(host_slot<void()>(*leg.host, leg.slot));
     void*& handle = reinterpret_cast<PyClrObject*>(self)->handle;

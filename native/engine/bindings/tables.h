@@ -67,14 +67,24 @@ struct Parameter {
     const void* type = nullptr;
 };
 
-// The arguments of one Python call, in the one of two forms that CPython hands over.
+// The arguments of one Python call. The positional ones stand in a row; keywords come as a dict, or
+// as names whose values follow the positional ones.
 struct CallArguments {
-    PyObject* positional; // tuple, borrowed
-    PyObject* keywords; // dict or null, borrowed
+    PyObject* const* items; // borrowed
+    Py_ssize_t count; // positional
+    PyObject* tuple = nullptr; // the positional ones once more, if the caller had them so
+    PyObject* keywords = nullptr; // dict or null
+    PyObject* names = nullptr; // tuple or null
+    // The first pass over an overload group: a leg that can't fit says so without wording why.
+    bool is_quiet = false;
+
+    bool has_keywords() const {
+        return (keywords != nullptr && PyDict_GET_SIZE(keywords) != 0) || names != nullptr;
+    }
 };
 
-// What became of one leg of an overload group.
-enum class LegOutcome { misfit, failed, done };
+// What became of one leg of an overload group. A quiet misfit leaves no error behind.
+enum class LegOutcome { quiet_misfit, misfit, failed, done };
 
 // One overload. `call` parses the arguments and, if they fit, makes the one indirect call.
 // On a misfit the parser's error is pending; `*result` is written only when done.

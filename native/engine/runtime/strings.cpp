@@ -19,6 +19,44 @@ PyObject* decode(const char* data, Py_ssize_t code_units) {
     return PyUnicode_DecodeUTF16(data, code_units * 2, no_handler, &order);
 }
 
+template <class Unit> void narrow(const char16_t* units, Py_ssize_t count, void* out) {
+    for (Py_ssize_t i = 0; i < count; ++i) {
+        static_cast<Unit*>(out)[i] = static_cast<Unit>(units[i]);
+    }
+}
+
+bool has_surrogate(const char16_t* units, Py_ssize_t count) {
+    bool found = false;
+    for (Py_ssize_t i = 0; i < count; ++i) {
+        found |= (units[i] & 0xF800) == 0xD800;
+    }
+    return found;
+}
+
+// Text without surrogates is copied straight into a new str of the width that it needs; the
+// decoder's general machinery takes several times as long for short text.
+PyObject* decode_text(const char16_t* units, Py_ssize_t count) {
+    char16_t bits = 0;
+    for (Py_ssize_t i = 0; i < count; ++i) {
+        bits |= units[i];
+    }
+    if (count < 2 || (bits >= 0xD800 && has_surrogate(units, count))) {
+        return decode(reinterpret_cast<const char*>(units), count);
+    }
+    // The bits in use tell the width: 7, 8 or 16 of them, whatever the largest character is.
+    const Py_UCS4 widest = bits < 0x80 ? 0x7F : (bits < 0x100 ? 0xFF : 0xFFFF);
+    PyObject* text = PyUnicode_New(count, widest);
+    if (text == nullptr) {
+        return nullptr;
+    }
+    if (widest == 0xFFFF) {
+        narrow<Py_UCS2>(units, count, PyUnicode_2BYTE_DATA(text));
+    } else {
+        narrow<Py_UCS1>(units, count, PyUnicode_1BYTE_DATA(text));
+    }
+    return text;
+}
+
 // A str as UTF-16 with a byte order mark in front, or null with an error in the words of `char`.
 PyObject* encode_for_char(PyObject* object) {
     if (!PyUnicode_Check(object)) {
@@ -90,7 +128,7 @@ int fn_conv_py_strorpath_to_clr_string(PyObject* object, PyEphStrArg* out) {
 }
 
 PyObject* fn_conv_clr_string_to_py_string_value(const char* data, long length) {
-    return decode(data, length);
+    return decode_text(reinterpret_cast<const char16_t*>(data), length);
 }
 
 PyObject* fn_conv_clr_string_to_py_string(const char* data, int length) {

@@ -47,7 +47,8 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
     {
         foreach (IGrouping<string, MethodGroup> name in MethodGroup.Of(type).GroupBy(group => group.PythonName))
         {
-            string[] rows = [.. name.Select(WriteForm)];
+            string row = name.Count() == 1 ? "KORVAN_METHOD" : "KORVAN_MIXED";
+            string[] rows = [.. name.Select(group => WriteForm(group, row))];
             if (rows.Length < 2)
             {
                 _methodRows.AddRange(rows);
@@ -61,12 +62,12 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
     }
 
     // Writes the tables of a method and gives the row of the method table that names them.
-    private string WriteForm(MethodGroup group)
+    private string WriteForm(MethodGroup group, string row)
     {
         string name = $"{_symbol}_{(group.IsStatic ? "static_" : "")}{group.PythonName}";
         WriteGroup(name, group);
         bool takesNothing = group.Legs.Count == 1 && group.Legs[0].Parameters.Count == 0;
-        string macro = (group.IsStatic ? "KORVAN_METHOD_STATIC" : "KORVAN_METHOD") + (takesNothing ? "_NOARGS" : "");
+        string macro = row + (group.IsStatic ? "_STATIC" : "") + (takesNothing ? "_NOARGS" : "");
         return $"{macro}(\"{group.PythonName}\", method_{name})";
     }
 
