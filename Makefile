@@ -3,6 +3,7 @@
 #   make            build the package
 #   make demo       convert examples/drawings into build/demo
 #   make test       everything there is, under ctest
+#   make sanitize   the native units under the address and undefined-behaviour sanitizers
 #   make bench      measurements beside hand-written baselines
 #   make wheel      the package as a wheel, in build/dist
 #   make format     put the sources into the house format
@@ -19,7 +20,7 @@ export UseSharedCompilation := false
 export DOTNET_CLI_TELEMETRY_OPTOUT := 1
 export DOTNET_NOLOGO := 1
 
-.PHONY: build demo test bench wheel format lint clean packages
+.PHONY: build demo test sanitize bench wheel format lint clean packages
 
 build: packages $(BUILD)/build.ninja
 	@cmake --build --preset $(PRESET)
@@ -36,6 +37,11 @@ demo: build
 
 test: test_packages build
 	@ctest --preset $(PRESET)
+
+sanitize: test_packages packages
+	@python=$$(tools/find-python.sh) && cmake --preset asan -DPython_EXECUTABLE="$$python" >/dev/null
+	@cmake --build --preset asan
+	@ctest --preset asan
 
 bench: bench_packages build
 	@cmake --build --preset $(PRESET) --target bench_modules

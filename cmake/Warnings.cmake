@@ -7,7 +7,8 @@ target_compile_options(korvan_options INTERFACE
 target_include_directories(korvan_options INTERFACE
   "${CMAKE_SOURCE_DIR}" "${CMAKE_SOURCE_DIR}/native" "${CMAKE_SOURCE_DIR}/native/engine")
 if(KORVAN_SANITIZE)
-  target_compile_options(korvan_options INTERFACE -fsanitize=${KORVAN_SANITIZE} -fno-omit-frame-pointer)
+  target_compile_options(korvan_options INTERFACE -fsanitize=${KORVAN_SANITIZE}
+    -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(korvan_options INTERFACE -fsanitize=${KORVAN_SANITIZE})
 endif()
 if(KORVAN_COVERAGE)

@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import io
 import unittest
+from collections.abc import Iterator
 
 from korvan import probe
 
@@ -69,6 +70,58 @@ class PythonFailures(unittest.TestCase):
             probe.Echo().read_all(BrokenStream())
         with self.assertRaisesRegex(RuntimeError, "(?s)Proxy error.*ValueError: the disk is full"):
             probe.Echo().write_all(BrokenStream(), b"data")
+
+    def test_a_stream_that_lies_about_its_counts_is_found_out(self) -> None:
+        class Lying(BrokenStream):
+            def __init__(self, answer: object) -> None:
+                super().__init__()
+                self.answer = answer
+
+            def readinto(self, buffer: object) -> object:  # type: ignore[override]
+                return self.answer
+
+            def write(self, data: object) -> object:  # type: ignore[override]
+                return self.answer
+
+        for answer in (2**31 - 1, 10_000_000, -5, 2**40, "many", 1.5):
+            with self.subTest(answer=answer):
+                with self.assertRaisesRegex(RuntimeError, "Proxy error"):
+                    probe.Echo().read_all(Lying(answer))
+                with self.assertRaisesRegex(RuntimeError, "Proxy error"):
+                    probe.Echo().write_all(Lying(answer), b"data")
+        self.assertEqual(probe.Echo().read_all(Lying(0)), b"")
+
+    def test_collections_that_change_while_they_are_walked_end(self) -> None:
+        class Shrinking(list):  # type: ignore[type-arg]
+            def __getitem__(self, index: object) -> object:
+                self.pop()
+                return super().__getitem__(0)
+
+        items = [1, 2, 3, 4, 5, 6]
+
+        def shrinking() -> Iterator[int]:
+            for item in items:
+                items.pop()
+                yield item
+
+        self.assertEqual(probe.Echo().sum(shrinking()), 6.0)
+        try:
+            probe.Echo().join(Shrinking("abcdef"), "-")
+        except RuntimeError as error:
+            self.assertIn("Proxy error", str(error))
+        endless = iter(int, 1)
+        taken = 0
+
+        def bounded() -> Iterator[int]:
+            nonlocal taken
+            for item in endless:
+                taken += 1
+                if taken > 100_000:
+                    raise StopAsyncIteration("enough")
+                yield item
+
+        with self.assertRaisesRegex(RuntimeError, "enough"):
+            probe.Echo().sum(bounded())
 
     def test_streams_are_read_and_written_whole(self) -> None:
         data = bytes(range(256)) * 1000

@@ -106,6 +106,20 @@ class TextValues(unittest.TestCase):
         echo.text = "\ud800"
         self.assertRaises(LookupError, lambda: echo.text)
 
+    def test_huge_text_and_buffers_come_back_whole(self) -> None:
+        echo = probe.Echo()
+        text = "\u20ac0123456789" * (100_000_000 // 11)
+        echo.text = text
+        self.assertEqual(echo.text, text)
+        blob = bytes(100_000_000)
+        echo.blob = blob
+        self.assertEqual(len(echo.blob), len(blob))
+        released = memoryview(b"abc")
+        released.release()
+        with self.assertRaises(BufferError):
+            echo.blob = released
+        self.assertEqual(len(echo.blob), len(blob), "a refused value changes nothing")
+
     def test_bytes_come_back_as_a_new_bytearray(self) -> None:
         echo = probe.Echo()
         for blob in (b"", b"abc", bytearray(b"abc"), memoryview(b"abc"), bytes(1 << 20)):
