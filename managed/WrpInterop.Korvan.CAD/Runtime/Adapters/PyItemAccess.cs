@@ -30,8 +30,18 @@ internal static unsafe class PyItemAccess
         }
     }
 
-    internal static void Set(nint list, int index, object? value) =>
-        Check(PyCollectionApi.ListSet(list, index, NewObject(value)));
+    internal static void Set(nint list, int index, object? value)
+    {
+        nint item = NewObject(value);
+        // The callback releases the value twice when it fails; the second reference is for that.
+        PyObjects.IncRef(item);
+        int status = PyCollectionApi.ListSet(list, index, item);
+        if (status == 0)
+        {
+            PyObjects.DecRef(item);
+        }
+        Check(status);
+    }
 
     internal static int Add(nint list, object? value) =>
         Checked(PyCollectionApi.ListAdd(list, NewObject(value))) - 1;
