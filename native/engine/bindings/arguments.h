@@ -179,6 +179,16 @@ template <class T> struct enumeration {
     static std::tuple<T> pass(cell& value) { return {value}; }
 };
 
+// What an inner converter behind a record of its own writes to, and the binding that it needs.
+template <class Inner> struct Target {
+    typename Inner::cell* cell;
+    const void* type;
+};
+template <class Inner> int convert_target(PyObject* object, void* destination) {
+    const auto* target = static_cast<Target<Inner>*>(destination);
+    return Inner::convert(object, target->cell, target->type);
+}
+
 // A nullable value type crosses as a flag and the value.
 template <class Inner> struct nullable {
     struct cell {
@@ -186,14 +196,11 @@ template <class Inner> struct nullable {
         typename Inner::cell value{};
     };
     static int convert(PyObject* object, cell* out, const void* type) {
-        if (object == Py_None) {
-            return 1;
-        }
-        if (Inner::convert(object, &out->value, type) != 1) {
-            return 0;
-        }
-        out->has_value = 1;
-        return 1;
+        Target<Inner> target{&out->value, type};
+        PyNullableArg record{0, convert_target<Inner>, &target};
+        const int converted = fn_conv_py_nullable_to_clr_nullable(object, &record);
+        out->has_value = record.has_value;
+        return converted;
     }
     static auto pass(cell& value) {
         return std::tuple_cat(std::tuple<int>(value.has_value), Inner::pass(value.value));
@@ -219,16 +226,8 @@ template <class In, class Ret> struct by_ref {
         }
     };
     static int convert(PyObject* object, cell* out, const void* type) {
-        struct Target {
-            cell* target;
-            const void* type;
-        } target{out, type};
-        PyParamByRef record{nullptr,
-                            [](PyObject* item, void* destination) {
-                                const auto* inner = static_cast<Target*>(destination);
-                                return In::convert(item, &inner->target->in, inner->type);
-                            },
-                            &target};
+        Target<In> target{&out->in, type};
+        PyParamByRef record{nullptr, convert_target<In>, &target};
         const int converted = fn_conv_py_parbyref_to_clr_parbyref(object, &record);
         out->list = record.list;
         return converted;

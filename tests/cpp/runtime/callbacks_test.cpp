@@ -1,5 +1,6 @@
 // The slots that the managed side calls: statuses, references, and what stays pending.
 #include "interpreter.h"
+#include "runtime/arg_stacks.h"
 #include "runtime/buffers.h"
 #include "runtime/callbacks.h"
 #include "runtime/dates.h"
@@ -199,6 +200,24 @@ TEST(Paths, AreTextByTheFileSystemsRules) {
     PyEphStrArg out{};
     EXPECT_EQ(fn_conv_py_strorpath_to_clr_string(evaluate("5").get(), &out), 0);
     EXPECT_EQ(take_error().find("TypeError: "), 0u);
+}
+
+TEST(FrameStacks, ReleaseWhatWasNotHandedOver) {
+    const Ref kept = evaluate("object()");
+    const Ref dropped = evaluate("object()");
+    {
+        PyTrPyObjStack<3> stack;
+        *stack[0] = Py_NewRef(kept.get());
+        *stack[1] = Py_NewRef(dropped.get());
+        ++stack; // the first is handed over
+        PyEphStrArgBuilder path;
+        path.owner = Py_NewRef(dropped.get());
+        PyInterimArgBuilder interim;
+        interim.value = Py_NewRef(dropped.get());
+    }
+    EXPECT_EQ(Py_REFCNT(kept.get()), 2);
+    EXPECT_EQ(Py_REFCNT(dropped.get()), 1);
+    Py_DECREF(kept.get());
 }
 
 TEST(Markers, AnswerForTheExactTypeAndNeverRaise) {
