@@ -17,7 +17,7 @@ public static class EngineSupport
 {
     private static readonly HashSet<ValueKind> s_waitingArguments = [];
 
-    private static readonly HashSet<ValueKind> s_waitingResults = [ValueKind.Stream];
+    private static readonly HashSet<ValueKind> s_waitingResults = [];
 
     public static bool Carries(ValueKind kind, Crossing crossing) =>
         !(crossing == Crossing.Argument ? s_waitingArguments : s_waitingResults).Contains(kind);
@@ -25,5 +25,5 @@ public static class EngineSupport
     /// <summary>Elements of typed collections have one form each way; collections in collections have none,
     /// but for arrays.</summary>
     public static bool CarriesElement(ValueKind kind) => kind is
-        not (ValueKind.Nullable or ValueKind.Stream or (>= ValueKind.List and <= ValueKind.AnyList));
+        not (ValueKind.Nullable or ValueKind.Stream or (>= ValueKind.List and <= ValueKind.AnyReadOnlyCollectionBase));
 }

@@ -41,6 +41,10 @@ public enum ValueKind
     AnyEnumerable,
     AnyCollection,
     AnyList,
+    AnyArray,
+    AnyArrayList,
+    AnyCollectionBase,
+    AnyReadOnlyCollectionBase,
 }
 
 /// <summary>Which way a parameter carries its value.</summary>

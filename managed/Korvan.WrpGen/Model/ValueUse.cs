@@ -22,4 +22,7 @@ public sealed record ValueUse(ValueKind Kind, string ManagedName, string CSharpN
 
     /// <summary>A closed generic collection or an array.</summary>
     public bool IsTypedCollection => Kind is >= ValueKind.Array and <= ValueKind.IReadOnlyList;
+
+    /// <summary>A collection of the framework's whose items are any values.</summary>
+    public bool IsUntypedCollection => Kind is >= ValueKind.AnyEnumerable and <= ValueKind.AnyReadOnlyCollectionBase;
 }

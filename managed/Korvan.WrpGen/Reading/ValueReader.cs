@@ -35,6 +35,10 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         ["System.Collections.IEnumerable"] = ValueKind.AnyEnumerable,
         ["System.Collections.ICollection"] = ValueKind.AnyCollection,
         ["System.Collections.IList"] = ValueKind.AnyList,
+        ["System.Array"] = ValueKind.AnyArray,
+        ["System.Collections.ArrayList"] = ValueKind.AnyArrayList,
+        ["System.Collections.CollectionBase"] = ValueKind.AnyCollectionBase,
+        ["System.Collections.ReadOnlyCollectionBase"] = ValueKind.AnyReadOnlyCollectionBase,
     };
 
     private static readonly Dictionary<string, ValueKind> s_generic = new()

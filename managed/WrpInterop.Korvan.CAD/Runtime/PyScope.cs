@@ -56,6 +56,23 @@ public unsafe struct PyScope
         _ => Handles.Object<IList>(argument->Value),
     };
 
+    /// <summary>The framework's classes are no interfaces: items from Python are copied.</summary>
+    public Array? AnyArray(VariantArg* argument) => FromPython(argument)
+        ? CopyOf(argument).ToArray()
+        : Handles.Object<Array>(argument->Value);
+
+    public ArrayList? AnyArrayList(VariantArg* argument) => FromPython(argument)
+        ? CopyOf(argument)
+        : Handles.Object<ArrayList>(argument->Value);
+
+    public CollectionBase? AnyCollectionBase(VariantArg* argument) => FromPython(argument)
+        ? throw new NotSupportedException($"A Python object can't stand in for {nameof(CollectionBase)}.")
+        : Handles.Object<CollectionBase>(argument->Value);
+
+    public ReadOnlyCollectionBase? AnyReadOnlyCollectionBase(VariantArg* argument) => FromPython(argument)
+        ? throw new NotSupportedException($"A Python object can't stand in for {nameof(ReadOnlyCollectionBase)}.")
+        : Handles.Object<ReadOnlyCollectionBase>(argument->Value);
+
     public IEnumerable<T>? Iterable<T>(VariantArg* argument) => FromPython(argument)
         ? Adopt(new PyIterable<T>(Hold(argument->Value)))
         : Handles.Object<IEnumerable<T>>(argument->Value);
@@ -133,6 +150,8 @@ public unsafe struct PyScope
 
     private static bool FromPython(VariantArg* argument) =>
         (ReferenceKind)argument->Kind >= ReferenceKind.Python;
+
+    private readonly ArrayList CopyOf(VariantArg* argument) => new(new PyCollection(Hold(argument->Value)));
 
     private readonly PyItems<T> ItemsOf<T>(VariantArg* argument) =>
         new(Hold(argument->Value), isList: (ReferenceKind)argument->Kind == ReferenceKind.Python);

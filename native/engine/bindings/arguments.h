@@ -168,6 +168,18 @@ using any_collection =
            convert_any_collection<wrpPye_tyds_IColWrapper, CollectionParameter::collection>>;
 using any_list =
     record<VariantArg, convert_any_collection<wrpPye_tyds_IListWrapper, CollectionParameter::list>>;
+using any_array =
+    record<VariantArg,
+           convert_any_collection<wrpPye_tyds_ArrayWrapper, CollectionParameter::array>>;
+using any_arraylist =
+    record<VariantArg,
+           convert_any_collection<wrpPye_tyds_ArrListWrapper, CollectionParameter::list>>;
+using any_collectionbase =
+    record<VariantArg,
+           convert_any_collection<wrpPye_tyds_ColBaseWrapper, CollectionParameter::list>>;
+using any_readonlycollectionbase =
+    record<VariantArg,
+           convert_any_collection<wrpPye_tyds_RoColBaseWrapper, CollectionParameter::list>>;
 
 template <class T> struct enumeration {
     using cell = T;

@@ -14,6 +14,8 @@
 //   arg::array [t] arg::list [t] arg::iterable [t] arg::icol [t] arg::ilist [t] arg::irocol [t]
 //   arg::irolist [t]                 generic collections; type is the wrapper's ClassBinding
 //   arg::any_iterable any_collection any_list    non-generic IEnumerable, ICollection, IList
+//   arg::any_array any_arraylist any_collectionbase any_readonlycollectionbase
+//                                    Array, ArrayList, CollectionBase, ReadOnlyCollectionBase
 //   arg::nullable<Policy> [t as the inner policy]
 //   arg::variant                     object
 //   arg::datetime timespan guid decimal version datetimeoffset
@@ -29,7 +31,8 @@
 //   ret::collection [t]              List<T> and other concrete generics: PyCollectionArg* last
 //   ret::interface_collection [t]    IEnumerable<T>, IList<T>, ...: PyCollectionArg* last
 //   ret::stream                      PyCollectionArg* last
-//   ret::any_iterable any_collection any_list    PyCollectionArg* last
+//   ret::any_iterable any_collection any_list any_array any_arraylist any_collectionbase
+//   ret::any_readonlycollectionbase  PyCollectionArg* last
 //   ret::datetime timespan guid version decimal datetimeoffset
 //   ret::nullable<Policy>            int* has_value last
 //

@@ -29,8 +29,11 @@ void* class_delegate(ClassBinding& binding, CastDelegate delegate) {
     return reinterpret_cast<void*>(host_slot<void()>(*binding.host, cast_slot(binding, delegate)));
 }
 
-// Whether handles of this kind of type cross bare; the others cross in a record.
-bool takes_bare_handle(const ClassBinding& binding) { return binding.kind == ClassKind::object; }
+// Whether handles of this kind of type cross bare; the others cross in a record, and so do those of
+// the framework wrappers, whatever their kind.
+bool takes_bare_handle(const ClassBinding& binding) {
+    return binding.kind == ClassKind::object && binding.assignable_slot == no_slot;
+}
 
 PyObject* raise_no_object(PyObject* value) {
     return PyErr_Format(PyExc_TypeError,

@@ -119,10 +119,9 @@ std::uint16_t cast_slot(const ClassBinding& binding, CastDelegate delegate) {
     // Classes: TypeOf, CastTo, [CastFrom,] ReInterpretObj, CastAs, IsAssignable.
     // Interfaces: TypeOf, CastTo, CastAs, IsAssignable.
     const bool is_interface = binding.kind == ClassKind::interface_;
-    if (binding.assignable_first && delegate == CastDelegate::is_assignable) {
-        return binding.first_cast_slot;
+    if (binding.assignable_slot != no_slot && delegate == CastDelegate::is_assignable) {
+        return binding.assignable_slot;
     }
-    const int first = binding.first_cast_slot + (binding.assignable_first ? 1 : 0);
     const int after_cast_to = binding.has_cast_from ? 1 : 0;
     int offset = 0;
     switch (delegate) {
@@ -133,7 +132,7 @@ std::uint16_t cast_slot(const ClassBinding& binding, CastDelegate delegate) {
     case CastDelegate::cast_as: offset = is_interface ? 2 : 3 + after_cast_to; break;
     case CastDelegate::is_assignable: offset = is_interface ? 3 : 4 + after_cast_to; break;
     }
-    return static_cast<std::uint16_t>(first + offset);
+    return static_cast<std::uint16_t>(binding.first_cast_slot + offset);
 }
 
 int is_assignable_handle(ClassBinding& binding, void* handle) {

@@ -259,12 +259,20 @@ PyObject* build_wrapper_module(const std::string& name, ClassBinding* const* wra
 }
 
 PyObject* build_interop_module(const std::string& name) {
-    Ref module = Ref::steal(build_wrapper_module(name, interop_wrappers()));
-    if (!module ||
-        PyShModule_AddType(module.get(), &wrpPye_tyds_ShlBufferView, "_ShlBufferView") != 0) {
-        return nullptr;
+    Ref module = Ref::steal(create_module(*new_definition(keep(name))));
+    for (auto* wrapper = interop_wrappers(); module && *wrapper != nullptr; ++wrapper) {
+        // The view of managed memory comes ahead of the streams.
+        if (*wrapper == &wrpPye_tyds_StreamWrapper &&
+            PyShModule_AddType(module.get(), &wrpPye_tyds_ShlBufferView, "_ShlBufferView") != 0) {
+            return nullptr;
+        }
+        if (!ready_class(**wrapper) || !add_class(module.get(), name.c_str(), **wrapper)) {
+            return nullptr;
+        }
     }
     fn_clbk_ilist_type = &wrpPye_tyds_IListWrapper.type;
+    fn_clbk_arrlist_type = &wrpPye_tyds_ArrListWrapper.type;
+    fn_clbk_array_type = &wrpPye_tyds_ArrayWrapper.type;
     return module.release();
 }
 

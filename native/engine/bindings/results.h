@@ -131,6 +131,12 @@ inline PyObject* make_interface_collection(PyCollectionArg& result, const void* 
 template <ClassBinding& Wrapper> PyObject* make_any(PyCollectionArg& result, const void*) {
     return fn_conv_clr_ifcimpl_to_py_ifcimpl_wps(result, &Wrapper.type);
 }
+template <ClassBinding& Wrapper> PyObject* make_framework(PyCollectionArg& result, const void*) {
+    return fn_conv_clr_btpobj_to_py_btpobj(result, &Wrapper.type);
+}
+inline PyObject* make_stream(PyCollectionArg& result, const void*) {
+    return fn_conv_clr_absobj_to_py_absobj(result, &wrpPye_tyds_StreamWrapper.type);
+}
 inline PyObject* make_datetime(PyDateTimeOut& result, const void*) {
     return fn_conv_clr_datetime_to_py_datetime(&result.ticks);
 }
@@ -153,6 +159,12 @@ using interface_collection = out_record<PyCollectionArg, make_interface_collecti
 using any_iterable = out_record<PyCollectionArg, make_any<wrpPye_tyds_IterableWrapper>>;
 using any_collection = out_record<PyCollectionArg, make_any<wrpPye_tyds_IColWrapper>>;
 using any_list = out_record<PyCollectionArg, make_any<wrpPye_tyds_IListWrapper>>;
+using any_array = out_record<PyCollectionArg, make_framework<wrpPye_tyds_ArrayWrapper>>;
+using any_arraylist = out_record<PyCollectionArg, make_framework<wrpPye_tyds_ArrListWrapper>>;
+using any_collectionbase = out_record<PyCollectionArg, make_framework<wrpPye_tyds_ColBaseWrapper>>;
+using any_readonlycollectionbase =
+    out_record<PyCollectionArg, make_framework<wrpPye_tyds_RoColBaseWrapper>>;
+using stream = out_record<PyCollectionArg, make_stream>;
 using datetime = out_record<PyDateTimeOut, make_datetime>;
 using datetimeoffset = out_record<PyDateTimeOut, make_datetimeoffset>;
 using decimal = out_record<PyDecimalArg, make_decimal>;

@@ -138,9 +138,11 @@ enum class Protocol : std::uint8_t {
     read_only_collection,
     read_only_list,
     indexer, // this[int] alone: __getitem__ and, with a set delegate, __setitem__
+    stream, // the stream wrapper: lines, and a flag in each instance
 };
 
 struct ElementOps; // generic/element_ops.h: conversions of one element shape
+struct CollectionLayout; // generic/collection_layout.h
 
 // A collection's element and the hosts that serve it. A host's delegates stand in the order that
 // generic/collection_layout.h fixes for its kind. Example, for the wrapper of List<CadEntityBase>
@@ -169,6 +171,7 @@ struct CollectionInfo {
     HostRecord* list_host = nullptr; // List, Array, IList, IRoList, or the indexer's own host
     std::uint16_t indexer_slot = no_slot; // Protocol::indexer: btp_SqGetItem
     std::uint16_t indexer_set_slot = no_slot;
+    const CollectionLayout* layout = nullptr; // null: what protocol and element imply
 };
 
 struct PyHostState; // runtime/host_state.h
@@ -184,9 +187,10 @@ struct ClassBinding {
     const char16_t* managed_name = nullptr; // full managed name; null: not in the registry
     ClassKind kind;
     HostRecord* host;
-    std::uint16_t first_cast_slot; // index of the first btp_ cast delegate
+    std::uint16_t first_cast_slot; // of btp_TypeOf, which the other casts follow
     bool has_cast_from = false;
-    bool assignable_first = false; // btp_IsAssignable stands ahead of btp_TypeOf
+    // The framework wrappers bind btp_IsAssignable ahead of the other casts; else no_slot.
+    std::uint16_t assignable_slot = no_slot;
     bool is_disposable = false; // referenced: the IDisposable wrapper
     ClassBinding* base = nullptr;
     ClassBinding* outer = nullptr; // of a nested type

@@ -22,8 +22,7 @@ bool accepts_python_object(PyObject* object, CollectionParameter parameter, std:
         return true;
     }
     *kind = KORVAN_REF_SEQUENCE;
-    const PySequenceMethods* sequence = Py_TYPE(object)->tp_as_sequence;
-    return PySequence_Check(object) && sequence != nullptr && sequence->sq_length != nullptr;
+    return PyShlObject_IsSizedSequence(object);
 }
 
 // 1 fits, 0 does not, -1 with an error.

@@ -14,8 +14,11 @@ struct CollectionSlot {
 };
 
 struct CollectionLayout {
-    CollectionSlot length, contains, count_of, get_item, get_item_no_check, set_item, add, insert,
-        remove, remove_at, pop, clear, reverse, sort, index_by;
+    CollectionSlot length, contains, count_of, get_item, get_item_no_check, set_item,
+        set_item_no_check, set_items, add, insert, remove, remove_at, remove_items, pop, clear,
+        inplace_concat, inplace_repeat, reverse, sort, index_by, ensure_capacity;
+    // remove_items takes a block of neighbours by its lowest index, not by its highest.
+    bool removes_blocks_by_lowest = false;
 };
 
 namespace layout {
@@ -23,9 +26,9 @@ namespace layout {
 constexpr CollectionSlot in_list(std::uint16_t index) { return {true, index}; }
 constexpr CollectionSlot in_collection(std::uint16_t index) { return {false, index}; }
 
-// List: SqLength Add Remove Clear SqContains SqGetItem SqGetItemNoCheck SqSetItem SqSetItemNoChek
-// Insert RemoveAt Pop SqInplaceConcat SqInplaceRepeat MpSetItems MpRemoveItems Reverse Sort IndexBy
-// CountOf EnsureCapacity
+// List and ArrayList: SqLength Add Remove Clear SqContains SqGetItem SqGetItemNoCheck SqSetItem
+// SqSetItemNoChek Insert RemoveAt Pop SqInplaceConcat SqInplaceRepeat MpSetItems MpRemoveItems
+// Reverse Sort IndexBy CountOf EnsureCapacity
 constexpr CollectionLayout generic_list = {
     .length = in_list(0),
     .contains = in_list(4),
@@ -33,26 +36,40 @@ constexpr CollectionLayout generic_list = {
     .get_item = in_list(5),
     .get_item_no_check = in_list(6),
     .set_item = in_list(7),
+    .set_item_no_check = in_list(8),
+    .set_items = in_list(14),
     .add = in_list(1),
     .insert = in_list(9),
     .remove = in_list(2),
     .remove_at = in_list(10),
+    .remove_items = in_list(15),
     .pop = in_list(11),
     .clear = in_list(3),
+    .inplace_concat = in_list(12),
+    .inplace_repeat = in_list(13),
     .reverse = in_list(16),
     .sort = in_list(17),
     .index_by = in_list(18),
+    .ensure_capacity = in_list(20),
 };
 
-// Array: SqLength SqContains SqGetItem SqGetItemNoCheck SqSetItem SqSetItemNoChek MpSetItems
-// Reverse Sort IndexBy CountOf
-constexpr CollectionLayout generic_array = {
+constexpr CollectionLayout blocks_by_lowest(CollectionLayout layout) {
+    layout.removes_blocks_by_lowest = true;
+    return layout;
+}
+constexpr CollectionLayout array_list = blocks_by_lowest(generic_list);
+
+// Array, with and without element type: SqLength SqContains SqGetItem SqGetItemNoCheck SqSetItem
+// SqSetItemNoChek MpSetItems Reverse Sort IndexBy CountOf
+constexpr CollectionLayout array = {
     .length = in_list(0),
     .contains = in_list(1),
     .count_of = in_list(10),
     .get_item = in_list(2),
     .get_item_no_check = in_list(3),
     .set_item = in_list(4),
+    .set_item_no_check = in_list(5),
+    .set_items = in_list(6),
     .reverse = in_list(7),
     .sort = in_list(8),
     .index_by = in_list(9),
@@ -66,6 +83,8 @@ constexpr CollectionLayout generic_collection = {
     .add = in_collection(1),
     .remove = in_collection(2),
     .clear = in_collection(3),
+    .inplace_concat = in_collection(4),
+    .inplace_repeat = in_collection(5),
 };
 
 // IList: SqGetItem SqGetItemNoCheck SqSetItem SqSetItemNoChek Insert RemoveAt Pop SqInplaceConcat
@@ -77,12 +96,17 @@ constexpr CollectionLayout generic_ilist = {
     .get_item = in_list(0),
     .get_item_no_check = in_list(1),
     .set_item = in_list(2),
+    .set_item_no_check = in_list(3),
+    .set_items = in_list(9),
     .add = in_collection(1),
     .insert = in_list(4),
     .remove = in_collection(2),
     .remove_at = in_list(5),
+    .remove_items = in_list(10),
     .pop = in_list(6),
     .clear = in_collection(3),
+    .inplace_concat = in_list(7),
+    .inplace_repeat = in_list(8),
     .reverse = in_list(11),
     .sort = in_list(12),
     .index_by = in_list(13),
@@ -90,7 +114,10 @@ constexpr CollectionLayout generic_ilist = {
 
 // IRoCol: SqLength SqContains CountOf
 constexpr CollectionLayout read_only_collection = {
-    .length = in_collection(0), .contains = in_collection(1), .count_of = in_collection(2)};
+    .length = in_collection(0),
+    .contains = in_collection(1),
+    .count_of = in_collection(2),
+};
 
 // IRoList: SqGetItem SqGetItemNoCheck SqContains IndexBy CountOf; the length from IRoCol.
 constexpr CollectionLayout read_only_list = {
@@ -102,9 +129,11 @@ constexpr CollectionLayout read_only_list = {
     .index_by = in_list(3),
 };
 
-// The framework's ICollection and IList, whose values cross as variants.
-constexpr CollectionLayout any_collection = {
-    .length = in_collection(0), .contains = in_collection(1), .count_of = in_collection(2)};
+// The framework's ICollection, which has no operations of change, and IList: SqGetItem
+// SqGetItemNoCheck SqSetItem SqSetItemNoCheck Add Insert Remove RemoveAt Pop Clear SqInplaceConcat
+// SqInplaceRepeat MpSetItems MpRemoveItems Reverse Sort IndexBy SqContains CountOf; the length from
+// ICollection. Values cross as variants.
+constexpr CollectionLayout any_collection = read_only_collection;
 constexpr CollectionLayout any_list = {
     .length = in_collection(0),
     .contains = in_list(17),
@@ -112,16 +141,22 @@ constexpr CollectionLayout any_list = {
     .get_item = in_list(0),
     .get_item_no_check = in_list(1),
     .set_item = in_list(2),
+    .set_item_no_check = in_list(3),
+    .set_items = in_list(12),
     .add = in_list(4),
     .insert = in_list(5),
     .remove = in_list(6),
     .remove_at = in_list(7),
+    .remove_items = in_list(13),
     .pop = in_list(8),
     .clear = in_list(9),
+    .inplace_concat = in_list(10),
+    .inplace_repeat = in_list(11),
     .reverse = in_list(14),
     .sort = in_list(15),
     .index_by = in_list(16),
 };
+
 constexpr CollectionLayout nothing = {};
 
 } // namespace layout

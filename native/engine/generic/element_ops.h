@@ -14,12 +14,14 @@ struct ElementOps {
     int (*get_item)(void* function, void* self, int index, const void* type, PyObject** out);
     PyObject* (*get_item_no_check)(void* function, void* self, int index, const void* type);
     int (*set_item)(void* function, void* self, int index, PyObject* value, const void* type);
+    bool (*set_item_no_check)(void* function, void* self, int index, PyObject* value,
+                              const void* type);
     bool (*add)(void* function, void* self, PyObject* value, const void* type);
-    bool (*insert)(void* function, void* self, int index, PyObject* value, const void* type);
+    // These two read their own Python arguments, as the element comes between plain ones.
+    bool (*insert)(void* function, void* self, PyObject* args, const void* type);
+    int (*index_by)(void* function, void* self, PyObject* args, const void* type);
     // contains, remove, count_of: (handle, value)
     int (*ask)(void* function, void* self, PyObject* value, const void* type);
-    int (*index_by)(void* function, void* self, int has_start, int start, int has_stop, int stop,
-                    PyObject* value, const void* type);
     int (*pop)(void* function, void* self, int has_index, int index, const void* type,
                PyObject** out);
     int (*move_next)(void* function, void* self, const void* type, PyObject** out);
@@ -57,6 +59,17 @@ PyObject* get_item_no_check(void* function, void* self, int index, const void* t
     return PyErr_Occurred() != nullptr ? nullptr : Ret::make(item, type);
 }
 
+// Calls the delegate with `leading` arguments and what the element in its cell passes.
+template <class Result, class Arg, class... Leading>
+Result call_with_cell(void* function, typename Arg::cell& cell, Leading... leading) {
+    return std::apply(
+        [&](auto... natives) {
+            return reinterpret_cast<Result (*)(Leading..., decltype(natives)...)>(function)(
+                leading..., natives...);
+        },
+        Arg::pass(cell));
+}
+
 // Converts `value` and calls the delegate with `leading` arguments ahead of it.
 template <class Arg, class Result, class... Leading>
 bool call_with(void* function, PyObject* value, const void* type, Result* result,
@@ -65,12 +78,7 @@ bool call_with(void* function, PyObject* value, const void* type, Result* result
     if (Arg::convert(value, &cell, type) != 1) {
         return false;
     }
-    *result = std::apply(
-        [&](auto... natives) {
-            return reinterpret_cast<Result (*)(Leading..., decltype(natives)...)>(function)(
-                leading..., natives...);
-        },
-        Arg::pass(cell));
+    *result = call_with_cell<Result, Arg>(function, cell, leading...);
     return PyErr_Occurred() == nullptr;
 }
 
@@ -80,12 +88,7 @@ bool call_void_with(void* function, PyObject* value, const void* type, Leading..
     if (Arg::convert(value, &cell, type) != 1) {
         return false;
     }
-    std::apply(
-        [&](auto... natives) {
-            reinterpret_cast<void (*)(Leading..., decltype(natives)...)>(function)(leading...,
-                                                                                   natives...);
-        },
-        Arg::pass(cell));
+    call_with_cell<void, Arg>(function, cell, leading...);
     return PyErr_Occurred() == nullptr;
 }
 
@@ -95,13 +98,13 @@ int set_item(void* function, void* self, int index, PyObject* value, const void*
     return call_with<Arg>(function, value, type, &status, self, index) ? status : KORVAN_FAILED;
 }
 
-template <class Arg> bool add(void* function, void* self, PyObject* value, const void* type) {
-    return call_void_with<Arg>(function, value, type, self);
+template <class Arg>
+bool set_item_no_check(void* function, void* self, int index, PyObject* value, const void* type) {
+    return call_void_with<Arg>(function, value, type, self, index);
 }
 
-template <class Arg>
-bool insert(void* function, void* self, int index, PyObject* value, const void* type) {
-    return call_void_with<Arg>(function, value, type, self, index);
+template <class Arg> bool add(void* function, void* self, PyObject* value, const void* type) {
+    return call_void_with<Arg>(function, value, type, self);
 }
 
 template <class Arg> int ask(void* function, void* self, PyObject* value, const void* type) {
@@ -109,12 +112,38 @@ template <class Arg> int ask(void* function, void* self, PyObject* value, const 
     return call_with<Arg>(function, value, type, &answer, self) ? answer : KORVAN_FAILED;
 }
 
-template <class Arg>
-int index_by(void* function, void* self, int has_start, int start, int has_stop, int stop,
-             PyObject* value, const void* type) {
-    int index = -1;
-    call_with<Arg>(function, value, type, &index, self, has_start, start, has_stop, stop);
-    return index;
+// An element among the arguments that "O&" reads.
+template <class Arg> struct ParsedElement {
+    const void* type;
+    typename Arg::cell cell{};
+    static int parse(PyObject* object, void* element) {
+        auto* self = static_cast<ParsedElement*>(element);
+        return Arg::convert(object, &self->cell, self->type) == 1;
+    }
+};
+
+template <class Arg> bool insert(void* function, void* self, PyObject* args, const void* type) {
+    ParsedElement<Arg> element{type};
+    Py_ssize_t index = 0;
+    if (!PyArg_ParseTuple(args, "nO&", &index, ParsedElement<Arg>::parse, &element) ||
+        !is_int32_index(index)) {
+        return false;
+    }
+    call_with_cell<void, Arg>(function, element.cell, self, static_cast<int>(index));
+    return PyErr_Occurred() == nullptr;
+}
+
+template <class Arg> int index_by(void* function, void* self, PyObject* args, const void* type) {
+    ParsedElement<Arg> element{type};
+    Py_ssize_t start = 0, stop = 0;
+    if (!PyArg_ParseTuple(args, "O&|nn", ParsedElement<Arg>::parse, &element, &start, &stop) ||
+        !is_int32_index(start) || !is_int32_index(stop)) {
+        return -1;
+    }
+    const Py_ssize_t given = PyTuple_GET_SIZE(args);
+    return call_with_cell<int, Arg>(function, element.cell, self, static_cast<int>(given >= 2),
+                                    static_cast<int>(start), static_cast<int>(given >= 3),
+                                    static_cast<int>(stop));
 }
 
 template <class Ret>
@@ -135,11 +164,11 @@ template <class Ret> int move_next(void* function, void* self, const void* type,
 
 template <class Arg, class Ret>
 inline constexpr ElementOps element_ops = {
-    element_detail::get_item<Ret>,  element_detail::get_item_no_check<Ret>,
-    element_detail::set_item<Arg>,  element_detail::add<Arg>,
-    element_detail::insert<Arg>,    element_detail::ask<Arg>,
-    element_detail::index_by<Arg>,  element_detail::pop<Ret>,
-    element_detail::move_next<Ret>,
+    element_detail::get_item<Ret>, element_detail::get_item_no_check<Ret>,
+    element_detail::set_item<Arg>, element_detail::set_item_no_check<Arg>,
+    element_detail::add<Arg>,      element_detail::insert<Arg>,
+    element_detail::index_by<Arg>, element_detail::ask<Arg>,
+    element_detail::pop<Ret>,      element_detail::move_next<Ret>,
 };
 
 #endif

@@ -1,4 +1,4 @@
-// generic/interop.h: wrappers of the framework's own collection and disposal interfaces.
+// generic/interop.h: wrappers of the framework's own collections, streams and disposal.
 //
 // Values cross these as variants; the typed wrappers of generic collections are generated.
 #ifndef KORVAN_GENERIC_INTEROP_H
@@ -11,6 +11,11 @@ extern ClassBinding wrpPye_tyds_IterWrapper;
 extern ClassBinding wrpPye_tyds_IterableWrapper;
 extern ClassBinding wrpPye_tyds_IColWrapper;
 extern ClassBinding wrpPye_tyds_IListWrapper;
+extern ClassBinding wrpPye_tyds_RoColBaseWrapper;
+extern ClassBinding wrpPye_tyds_ColBaseWrapper;
+extern ClassBinding wrpPye_tyds_ArrayWrapper;
+extern ClassBinding wrpPye_tyds_ArrListWrapper;
+extern ClassBinding wrpPye_tyds_StreamWrapper;
 
 // In the order in which the module readies them; ended by null.
 ClassBinding* const* interop_wrappers();

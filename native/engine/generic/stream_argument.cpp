@@ -1,19 +1,12 @@
 #include "generic/stream_argument.h"
 
-#include "host/host_record.h"
+#include "bindings/classes.h"
+#include "generic/stream_wrapper.h"
 #include "runtime/identifiers.h"
 #include "runtime/imports.h"
 #include "runtime/wrapped_objects.h"
 
 namespace {
-
-void* stream_slots[16];
-HostRecord stream_host = {
-    "Korvan.WrpGen.Interop.SiApiStream",
-    "CanRead\0CanSeek\0CanWrite\0Length\0Position\0Close\0Flush\0Read\0Seek\0SetLength\0Write\0"
-    "btp_IsAssignable\0btp_TypeOf\0btp_CastTo\0btp_ReInterpretObj\0btp_CastAs\0",
-    stream_slots, 16};
-constexpr std::uint16_t is_assignable_slot = 11;
 
 struct StreamClass {
     const char* module;
@@ -37,15 +30,6 @@ int is_python_stream(PyObject* object) {
     return 0;
 }
 
-int wrapper_fits(void* handle) {
-    if (host_is_not_valid(stream_host)) {
-        PyErr_SetString(PyExc_TypeError, stream_host.error->c_str());
-        return -1;
-    }
-    const int fits = host_slot<int(void*)>(stream_host, is_assignable_slot)(handle);
-    return PyErr_Occurred() != nullptr ? -1 : fits != 0;
-}
-
 } // namespace
 
 int wrpPye_conv_py_to_clr_stream(PyObject* object, VariantArg* out) {
@@ -54,9 +38,16 @@ int wrpPye_conv_py_to_clr_stream(PyObject* object, VariantArg* out) {
     if (object == Py_None) {
         return 1;
     }
+    if (PyObject_TypeCheck(object, &wrpPye_tyds_StreamWrapper.type)) {
+        out->value = clr_handle(object);
+        return 1;
+    }
     int fits = 0;
     if (fn_conv_py_obj_to_clr_refobj_not_null_handle(object, &out->value)) {
-        fits = wrapper_fits(out->value);
+        if (!guard(wrpPye_tyds_StreamWrapper)) {
+            return 0;
+        }
+        fits = is_assignable_handle(wrpPye_tyds_StreamWrapper, out->value);
     } else {
         fits = is_python_stream(object);
         out->kind = KORVAN_REF_PYTHON;

@@ -12,7 +12,6 @@
 namespace {
 
 constexpr Py_ssize_t int32_max = std::numeric_limits<int>::max();
-constexpr Py_ssize_t int32_min = std::numeric_limits<int>::min();
 
 int int32_length(Py_ssize_t length) {
     if (length > int32_max) {
@@ -25,14 +24,6 @@ int int32_length(Py_ssize_t length) {
 
 int index_status() {
     return PyErr_ExceptionMatches(PyExc_IndexError) ? KORVAN_CB_INDEX_ERROR : KORVAN_CB_ERROR;
-}
-
-bool is_int32_index(Py_ssize_t index, Py_ssize_t printed) {
-    if (index >= int32_min && index <= int32_max) {
-        return true;
-    }
-    PyErr_Format(PyExc_OverflowError, "the index (%zi) is out of the INT32 range", printed);
-    return false;
 }
 
 void raise_if_item_is_null() {
@@ -168,7 +159,7 @@ int fn_clbk_olist_index_of(PyObject* list, PyObject* value) {
         return -1;
     }
     Py_ssize_t index = 0;
-    if (!fn_conv_py_obj_to_ssize_t(position.get(), &index) || !is_int32_index(index, index)) {
+    if (!fn_conv_py_obj_to_ssize_t(position.get(), &index) || !is_int32_index(index)) {
         return -2;
     }
     return static_cast<int>(index);

@@ -129,3 +129,8 @@ bool PyShlObject_HasLength(PyObject* object) {
 bool PyShlObject_HasIter(PyObject* object) {
     return Py_TYPE(object)->tp_iter != nullptr || PySequence_Check(object);
 }
+
+bool PyShlObject_IsSizedSequence(PyObject* object) {
+    const PySequenceMethods* sequence = Py_TYPE(object)->tp_as_sequence;
+    return PySequence_Check(object) && sequence != nullptr && sequence->sq_length != nullptr;
+}

@@ -33,5 +33,7 @@ bool fn_contains_implicit_ifc_markattr(PyTypeObject* type, PyTypeObject* interfa
 // What a Python object offers as a collection.
 bool PyShlObject_HasLength(PyObject* object);
 bool PyShlObject_HasIter(PyObject* object);
+// A sequence whose length can be asked.
+bool PyShlObject_IsSizedSequence(PyObject* object);
 
 #endif

@@ -156,6 +156,14 @@ int fn_conv_py_optional_to_ssize_t(PyObject* args, Py_ssize_t* out) {
     return item == Py_None ? 1 : fn_conv_py_obj_to_ssize_t(item, out);
 }
 
+bool is_int32_index(Py_ssize_t index, Py_ssize_t printed) {
+    if (index >= std::numeric_limits<int>::min() && index <= std::numeric_limits<int>::max()) {
+        return true;
+    }
+    PyErr_Format(PyExc_OverflowError, "the index (%zi) is out of the INT32 range", printed);
+    return false;
+}
+
 int fn_read_py_vers_long(PyObject* object, unsigned long* out) {
     const long value = PyLong_AsLong(object);
     if (value >= std::numeric_limits<int>::min() && value <= std::numeric_limits<int>::max() &&

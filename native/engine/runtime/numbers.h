@@ -28,6 +28,10 @@ int fn_conv_py_obj_to_ssize_t(PyObject* object, Py_ssize_t* out);
 // Item 0 of `args`; None leaves *out as it was.
 int fn_conv_py_optional_to_ssize_t(PyObject* args, Py_ssize_t* out);
 
+// Managed indices have 32 bits. False with OverflowError, which shows `printed`.
+bool is_int32_index(Py_ssize_t index, Py_ssize_t printed);
+inline bool is_int32_index(Py_ssize_t index) { return is_int32_index(index, index); }
+
 // Callback slots. fn_read_py_vers_long: 1 fits int32, 2 fits int64, 3 fits uint64, 0 error.
 int fn_read_py_vers_long(PyObject* object, unsigned long* out);
 int fn_read_py_double(PyObject* object, double* out);

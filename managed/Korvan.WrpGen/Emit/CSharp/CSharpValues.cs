@@ -38,15 +38,14 @@ internal static class CSharpValues
         ValueKind.Version => $"PyValues.ReadVersion({name})",
         ValueKind.Nullable => $"{name}_has != 0 ? ({value.CSharpName}){Operand(value.Element!, name)} : null",
         ValueKind.AnyEnumerable => $"scope.AnyIterable({name})",
-        ValueKind.AnyCollection => $"scope.AnyCollection({name})",
-        ValueKind.AnyList => $"scope.AnyList({name})",
+        _ when value.IsUntypedCollection => $"scope.{value.Kind}({name})",
         _ when value.IsTypedCollection => $"scope.{ScopeMethod(value.Kind)}<{value.Element!.CSharpName}>({name})",
         _ => name,
     };
 
     /// <summary>Whether an argument may bring a Python object that an adapter has to stand for.</summary>
-    public static bool NeedsScope(ValueUse value) => value.Kind is ValueKind.Object or ValueKind.Stream
-        or ValueKind.AnyEnumerable or ValueKind.AnyCollection or ValueKind.AnyList || value.IsTypedCollection;
+    public static bool NeedsScope(ValueUse value) =>
+        value.Kind is ValueKind.Object or ValueKind.Stream || value.IsTypedCollection || value.IsUntypedCollection;
 
     /// <summary>What a delegate returns for a result; void where a record is filled instead.</summary>
     public static string ReturnType(ValueUse value) => value.Kind switch
@@ -100,9 +99,8 @@ internal static class CSharpValues
         ValueKind.Decimal => "PyDecimalArg",
         ValueKind.Version => "PySysVersionArg",
         ValueKind.Array => null,
-        ValueKind.Stream or ValueKind.AnyEnumerable or ValueKind.AnyCollection or ValueKind.AnyList =>
-            "PyCollectionArg",
-        _ => value.IsTypedCollection ? "PyCollectionArg" : null,
+        ValueKind.Stream => "PyCollectionArg",
+        _ => value.IsTypedCollection || value.IsUntypedCollection ? "PyCollectionArg" : null,
     };
 
     /// <summary>The native type of a value that is one word.</summary>
@@ -142,7 +140,7 @@ internal static class CSharpValues
         ValueKind.Decimal => $"PyValues.WriteDecimal({expression}, {target})",
         ValueKind.Version => $"PyValues.WriteVersion({expression}, {target})",
         ValueKind.Interface => $"References.Write({expression}, {target})",
-        ValueKind.List => $"References.WriteExact({expression}, {target})",
+        ValueKind.List or >= ValueKind.AnyArray => $"References.WriteExact({expression}, {target})",
         _ => $"References.WriteAny({expression}, {target})",
     };
 

@@ -77,6 +77,10 @@ internal sealed class GenericUnitWriter(BindingModel model, CodeWriter writer)
             writer.Line($".kind = ClassKind::{(wrapper.IsConcrete ? "object" : "interface_")},");
             writer.Line($".host = &PyHost_gn_{wrapper.Host.Kind}_{use.Hash},");
             writer.Line($".first_cast_slot = {wrapper.Host.Operations.Count},");
+            if (wrapper.Host == GenericHost.Array)
+            {
+                writer.Line(".base = &wrpPye_tyds_ArrayWrapper,");
+            }
             writer.Line($".methods = methods_{symbol},");
             writer.Line($".additional_interfaces = interfaces_{symbol},");
             writer.Line($".implicit_interfaces = interfaces_{symbol},");

@@ -29,7 +29,7 @@ internal sealed class PythonTypes(string module, IReadOnlySet<string> shadowed)
             $"collections.abc.Sequence[{Accepted(value.Element!)}]",
         ValueKind.ICollection or ValueKind.IReadOnlyCollection =>
             $"collections.abc.Collection[{Accepted(value.Element!)}]",
-        ValueKind.AnyList => "collections.abc.Sequence[typing.Any]",
+        ValueKind.AnyList or >= ValueKind.AnyArray => "collections.abc.Sequence[typing.Any]",
         ValueKind.AnyCollection => "collections.abc.Collection[typing.Any]",
         _ => Plain(value),
     });
@@ -46,8 +46,10 @@ internal sealed class PythonTypes(string module, IReadOnlySet<string> shadowed)
         ValueKind.IReadOnlyList => View("ReadOnlyListView", value),
         ValueKind.ICollection => View("CollectionView", value),
         ValueKind.IReadOnlyCollection => View("ReadOnlyCollectionView", value),
-        ValueKind.AnyList => Support("ListView[typing.Any]"),
-        ValueKind.AnyCollection => Support("ReadOnlyCollectionView[typing.Any]"),
+        ValueKind.AnyList or ValueKind.AnyArrayList or ValueKind.AnyCollectionBase => Support("ListView[typing.Any]"),
+        ValueKind.AnyCollection or ValueKind.AnyReadOnlyCollectionBase =>
+            Support("ReadOnlyCollectionView[typing.Any]"),
+        ValueKind.AnyArray => Support("ArrayView[typing.Any]"),
         _ => Plain(value),
     });
 
