@@ -3,8 +3,293 @@
 from __future__ import annotations
 
 import unittest
+from collections.abc import Callable, Iterable
+from typing import Any
 
 from korvan import probe
+
+ITEMS = [3, 1, 2, 5, 3]
+
+
+def array() -> Any:
+    collections = probe.Collections()
+    collections.numbers = ITEMS
+    return collections.numbers
+
+
+def any_array() -> Any:
+    collections = probe.LooseCollections()
+    collections.fixed = ITEMS
+    return collections.fixed
+
+
+def filled(make: Callable[[], Any]) -> Callable[[], Any]:
+    def filled_one() -> Any:
+        made = make()
+        made.clear()
+        made.extend(ITEMS)
+        return made
+
+    return filled_one
+
+
+ARRAYS = {"T[]": array, "Array": any_array}
+LISTS = {
+    "List<T>": filled(lambda: probe.Collections().counts),
+    "IList<T>": filled(lambda: probe.Collections().editable),
+    "class: IList<T>": filled(probe.NumberList),
+    "class: IList": filled(probe.LooseList),
+    "ArrayList": filled(lambda: probe.LooseCollections().growing),
+    "CollectionBase": filled(lambda: probe.LooseCollections().based),
+}
+
+# What a list of Python's does alike, down to the class of an error.
+READING: list[Callable[[Any], Any]] = [
+    len,
+    list,
+    lambda a: (a[0], a[-1], a[4], a[-5]),
+    lambda a: a[5],
+    lambda a: a[-6],
+    lambda a: [a[1:3], a[::2], a[::-1], a[3:1], a[-2:], a[:100], a[4:0:-2], a[::100]],
+    lambda a: a[::0],
+    lambda a: a["x"],
+    lambda a: (a + [9], a + []),
+    lambda a: (a * 2, 2 * a, a * 0, a * -1),
+    lambda a: (a.copy(), a.count(3), a.count(9), 3 in a, 9 in a),
+    lambda a: (a.index(3), a.index(3, 1), a.index(3, -1), a.index(2, 0, 3)),
+    lambda a: a.index(3, 1, 4),
+    lambda a: a.index(9),
+]
+WRITING: list[Callable[[Any], Any]] = [
+    lambda a: a.__setitem__(1, 7),
+    lambda a: a.__setitem__(-1, 7),
+    lambda a: a.__setitem__(5, 7),
+    lambda a: a.__setitem__(slice(None, None, 2), [7, 8, 9]),
+    lambda a: a.__setitem__(slice(3, 0, -1), (7, 8, 9)),
+    lambda a: a.__setitem__(slice(1, 3), range(7, 9)),
+    lambda a: a.__setitem__(slice(0, None, 2), [1]),
+    lambda a: a.sort(),
+    lambda a: a.sort(key=None, reverse=True),
+    lambda a: a.reverse(),
+]
+GROWING: list[Callable[[Any], Any]] = [
+    lambda a: a.append(7),
+    lambda a: [a.insert(i, 7) for i in (0, 2, -1, 100, -100)],
+    lambda a: a.extend([7, 8]),
+    lambda a: a.extend((7, 8)),
+    lambda a: a.extend(range(3)),
+    lambda a: a.extend(n for n in (7, 8)),
+    lambda a: a.extend({7: 1}),
+    lambda a: a.extend(a),
+    lambda a: a.__iadd__([7]) is a,
+    lambda a: a.__imul__(3) is a,
+    lambda a: a.__imul__(-1) is a,
+    lambda a: [a.pop(), a.pop(0), a.pop(-2)],
+    lambda a: a.pop(5),
+    lambda a: (a.clear(), a.pop()),
+    lambda a: a.remove(3),
+    lambda a: a.remove(9),
+    lambda a: a.__delitem__(1),
+    lambda a: a.__delitem__(-6),
+    *(
+        lambda a, key=key: a.__delitem__(key)
+        for key in (slice(1, 3), slice(None, None, 2), slice(3, 0, -1), slice(4, None, -2),
+                    slice(5, 5), slice(None), slice(0, 1, 9))
+    ),
+]
+
+
+def outcome(operation: Callable[[Any], Any], target: Any) -> tuple[Any, list[Any]]:
+    """The result or the error's class, and the items afterwards."""
+    try:
+        result = operation(target)
+    except Exception as error:
+        result = type(error)
+    return (None if result is target else result), list(target)
+
+
+class ListProtocol(unittest.TestCase):
+    def check(self, makers: dict[str, Callable[[], Any]],
+              operations: Iterable[Callable[[Any], Any]]) -> None:
+        for number, operation in enumerate(operations):
+            expected = outcome(operation, list(ITEMS))
+            for name, make in makers.items():
+                with self.subTest(name=name, operation=number):
+                    self.assertEqual(outcome(operation, make()), expected)
+
+    def test_all_read_as_a_list(self) -> None:
+        self.check({**ARRAYS, **LISTS}, READING)
+
+    def test_all_replace_items_as_a_list(self) -> None:
+        self.check({**ARRAYS, **LISTS}, WRITING)
+
+    def test_lists_grow_and_shrink_as_a_list(self) -> None:
+        self.check(LISTS, GROWING)
+
+    def test_lists_differ_where_they_mean_to(self) -> None:
+        for name, make in LISTS.items():
+            with self.subTest(name=name):
+                items = make()
+                with self.assertRaisesRegex(ValueError, "size 1 to extended slice of size 2"):
+                    items[1:3] = [7]
+                with self.assertRaisesRegex(TypeError, "must assign iterable to extended slice"):
+                    items[1:3] = (n for n in (7, 8))
+                with self.assertRaisesRegex(ValueError, "custom sorting key is not supported"):
+                    items.sort(key=len)
+                with self.assertRaisesRegex(ValueError, "argument must be iterable or sequence"):
+                    items + 1
+                with self.assertRaisesRegex(ValueError, "argument must be iterable or sequence"):
+                    items.extend(1)
+                self.assertEqual(list(items), ITEMS)
+                self.assertEqual(items.pop(None), 3)
+                self.assertEqual([items + other for other in ((7,), range(7, 8), {7: 1})],
+                                 [[*items, 7]] * 3)
+
+    def test_indices_have_32_bits(self) -> None:
+        words = r"the index \(2147483648\) is out of the INT32 range"
+        items = LISTS["List<T>"]()
+        for operation in (lambda: items[2**31], lambda: items.insert(2**31, 1),
+                          lambda: items.pop(2**31), lambda: items.index(1, 2**31),
+                          lambda: items.index(1, 0, 2**31), lambda: items.__delitem__(2**31)):
+            with self.assertRaisesRegex(OverflowError, words):
+                operation()
+        with self.assertRaisesRegex(OverflowError, r"the value of 'count' \(2147483648\) is out"):
+            items *= 2**31
+        # The element is read first.
+        with self.assertRaisesRegex(TypeError, "integer argument expected, got 'str'"):
+            items.insert(2**31, "x")
+        with self.assertRaisesRegex(IndexError, "cannot fit 'int' into an index-sized integer"):
+            items[2**70]
+
+    def test_a_wrapper_is_taken_whole_or_item_by_item(self) -> None:
+        items = LISTS["List<T>"]()
+        items.extend(LISTS["ArrayList"]())
+        items[:5] = LISTS["CollectionBase"]()
+        items += ARRAYS["T[]"]()
+        self.assertEqual(list(items), ITEMS * 3)
+        with self.assertRaisesRegex(TypeError, "integer argument expected"):
+            items.extend(probe.Collections().words)
+        with self.assertRaisesRegex(TypeError, "integer argument expected"):
+            items[:2] = probe.Collections().words
+        self.assertEqual(list(items), ITEMS * 3)
+        # What fits is appended up to what does not, as from a Python list.
+        mixed = probe.LooseList()
+        mixed.extend([8, "two"])
+        with self.assertRaisesRegex(TypeError, "integer argument expected"):
+            items.extend(mixed)
+        self.assertEqual(list(items), ITEMS * 3 + [8])
+
+    def test_slices_are_deleted_from_the_highest_index_down(self) -> None:
+        watched = filled(probe.WatchedList)()
+        del watched[::2]
+        self.assertEqual((watched.log, list(watched)), ("-4-2-0", [1, 5]))
+
+    def test_an_array_keeps_its_length(self) -> None:
+        for name, make in ARRAYS.items():
+            with self.subTest(name=name):
+                items = make()
+                for key in (0, 100, slice(0, 1), slice(100, 200)):
+                    with self.assertRaisesRegex(ValueError, "elements removing not supported"):
+                        del items[key]
+                for method in ("append", "insert", "extend", "remove", "pop", "clear"):
+                    self.assertFalse(hasattr(items, method))
+                items += [1]
+                self.assertEqual((type(items), items), (list, [*ITEMS, 1]))
+                items = make()
+                items *= 2
+                self.assertEqual((type(items), items), (list, ITEMS * 2))
+
+
+class CountedCollections(unittest.TestCase):
+    def test_they_are_walked_as_they_have_no_index(self) -> None:
+        for name, bag in (("IReadOnlyCollection<T>", probe.Collections().bag),
+                          ("ReadOnlyCollectionBase", probe.LooseCollections().sealed),
+                          ("class: ICollection", probe.LooseBag()),
+                          ("ICollection<T>", probe.Collections().names)):
+            with self.subTest(name=name):
+                items = list(bag)
+                self.assertEqual((bag + items, bag * 2, bag.copy()),
+                                 (items + items, items * 2, items))
+                self.assertEqual((len(bag), bag.length, bag.count(items[0])),
+                                 (len(items), len(items), items.count(items[0])))
+                with self.assertRaises(TypeError):
+                    bag[0]
+                with self.assertRaisesRegex(ValueError, "argument must be iterable or sequence"):
+                    bag + 1
+
+    def test_a_false_length_is_found_out(self) -> None:
+        lying = probe.LooseCollections().lying
+        for operation in (lying.copy, lambda: lying + [], lambda: lying * 2):
+            with self.assertRaisesRegex(ValueError, "argument must be iterable or sequence"):
+                operation()
+
+    def test_a_typed_collection_grows(self) -> None:
+        names = probe.Collections().names
+        names += ("y", "z")
+        names.extend(probe.Collections().words)
+        self.assertEqual(sorted(names), ["one", "two", "x", "y", "z"])
+
+
+class FrameworkWrappers(unittest.TestCase):
+    def test_each_has_its_interfaces_and_no_python_base(self) -> None:
+        holder = probe.LooseCollections()
+        walk, count, index = "_IterableWrapper", "_IColWrapper", "_IListWrapper"
+        for name, wrapper, interfaces in (
+            ("fixed", "_ArrayWrapper", {walk, count, index}),
+            ("growing", "_ArrListWrapper", {walk, count, index}),
+            ("based", "_ColBaseWrapper", {walk, count, index}),
+            ("sealed", "_RoColBaseWrapper", {walk, count}),
+        ):
+            kind = type(getattr(holder, name))
+            self.assertEqual((kind.__name__, kind.__bases__), (wrapper, (object,)))
+            for marker in ("_additional_interfaces", "_implicit_interfaces"):
+                self.assertEqual({each.__name__ for each in getattr(kind, marker)}, interfaces)
+            with self.assertRaisesRegex(TypeError, "type has no available constructor"):
+                kind()
+        self.assertEqual(list(vars(probe._wrpgen._interop))[-11:], [
+            "_IDisposableWrapper", "_IterWrapper", walk, count, index, "_RoColBaseWrapper",
+            "_ColBaseWrapper", "_ArrayWrapper", "_ArrListWrapper", "_ShlBufferView",
+            "_StreamWrapper"])
+        self.assertIs(type(array()).__base__, type(holder.fixed))
+
+    def test_casts_ask_the_managed_object(self) -> None:
+        growing = probe.LooseCollections().growing
+        kind = type(growing)
+        loose = probe.LooseList()
+        self.assertEqual((kind._is_assignable(growing), kind._is_assignable(loose),
+                          kind._is_assignable(1)), (True, False, False))
+        for cast in (kind._cast_to, kind._cast_as):
+            self.assertEqual(cast(growing).value, growing)
+            self.assertFalse(cast(loose))
+        self.assertIs(type(kind._reinterpret_obj(growing)), kind)
+        as_list = probe._wrpgen._interop._IListWrapper._cast_to(growing).value
+        as_list.append(9)
+        self.assertEqual(growing[-1], 9)
+
+    def test_items_that_are_collections_keep_their_kind(self) -> None:
+        holder = probe.LooseCollections()
+        outer = probe.LooseList()
+        outer.extend([holder.growing, array(), holder.based])
+        self.assertEqual([type(item).__name__ for item in outer],
+                         ["_ArrListWrapper", "_ArrayWrapper", "_IListWrapper"])
+
+    def test_parameters_take_wrappers_lists_and_sequences(self) -> None:
+        holder = probe.LooseCollections()
+        for name in ("fixed", "growing"):
+            for value in ([1, 2], (1, 2), range(1, 3)):
+                setattr(holder, name, value)
+                self.assertEqual(list(getattr(holder, name)), [1, 2])
+            setattr(holder, name, None)
+            self.assertIsNone(getattr(holder, name))
+        holder.fixed = array()
+        self.assertEqual(list(holder.fixed), ITEMS)
+        for name, what in (("fixed", "Array"), ("growing", "ArrayList"),
+                           ("based", "CollectionBase"), ("sealed", "ReadOnlyCollectionBase")):
+            for value in (5, iter([]), probe.LooseList(), probe.Pair(1.0, 2.0)):
+                with self.assertRaisesRegex(TypeError, f"can't build {what} value from"):
+                    setattr(holder, name, value)
+        with self.assertRaisesRegex(Exception, "can't stand in for CollectionBase"):
+            holder.based = [1]
 
 
 class TypedCollections(unittest.TestCase):

@@ -44,10 +44,9 @@ PyObject* none_or_error();
 // 0, or -1 with an error, for the status of an operation at an index.
 int result_of_status(int status);
 
-// Gives `take` each item of a list, a tuple, a sequence or an iterable. `reserve` hears their number
-// ahead where it is known. False with an error.
-template <class Reserve, class Take>
-bool take_items(PyObject* items, Reserve reserve, Take take) {
+// Gives `take` each item of a list, a tuple, a sequence or an iterable. `reserve` hears their
+// number ahead where it is known. False with an error.
+template <class Reserve, class Take> bool take_items(PyObject* items, Reserve reserve, Take take) {
     if (PyList_CheckExact(items) || PyTuple_CheckExact(items)) {
         const Ref fast = Ref::steal(PySequence_Fast(items, "argument must be iterable"));
         if (!fast || !reserve(PySequence_Fast_GET_SIZE(fast.get()))) {

@@ -29,9 +29,8 @@ int indexer_assign(PyObject* self, Py_ssize_t index, PyObject* value) {
     }
     void* function =
         reinterpret_cast<void*>(host_slot<void()>(*info.list_host, info.indexer_set_slot));
-    return result_of_status(info.element->set_item(function, clr_handle(self),
-                                                   static_cast<int>(index), value,
-                                                   info.element_type));
+    return result_of_status(info.element->set_item(
+        function, clr_handle(self), static_cast<int>(index), value, info.element_type));
 }
 
 } // namespace collection

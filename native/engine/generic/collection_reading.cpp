@@ -151,7 +151,8 @@ PyObject* index(PyObject* self, PyObject* args) {
 PyObject* concat(PyObject* self, PyObject* other) {
     Ref items = all_items(self, true);
     const auto append = [&](PyObject* item) { return PyList_Append(items.get(), item) == 0; };
-    const bool done = items && take_items(other, [](Py_ssize_t) { return true; }, append);
+    const bool done = items && take_items(
+                                   other, [](Py_ssize_t) { return true; }, append);
     return done ? items.release() : nullptr;
 }
 

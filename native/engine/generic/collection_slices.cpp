@@ -92,9 +92,9 @@ int set_from_wrapper(const Collection& collection, const Slice& slice, PyObject*
     if (!read_wrapper(value, &record)) {
         return 0;
     }
-    const int handled = collection.call<int>(
-        collection.layout.set_items, &record, static_cast<int>(slice.start),
-        static_cast<int>(slice.count), static_cast<int>(slice.step));
+    const int handled =
+        collection.call<int>(collection.layout.set_items, &record, static_cast<int>(slice.start),
+                             static_cast<int>(slice.count), static_cast<int>(slice.step));
     return PyErr_Occurred() != nullptr ? -1 : handled == 1;
 }
 
@@ -122,9 +122,8 @@ int assign_slice(const Collection& collection, const Slice& slice, PyObject* val
     if (handled != 0) {
         return handled > 0 ? 0 : -1;
     }
-    return set_each(collection, slice, [value](Py_ssize_t i) {
-        return Ref::steal(PySequence_GetItem(value, i));
-    });
+    return set_each(collection, slice,
+                    [value](Py_ssize_t i) { return Ref::steal(PySequence_GetItem(value, i)); });
 }
 
 } // namespace

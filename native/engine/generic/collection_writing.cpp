@@ -81,9 +81,8 @@ PyObject* append(PyObject* self, PyObject* value) {
 
 PyObject* insert(PyObject* self, PyObject* args) {
     const Collection collection = collection_of(self);
-    const bool done =
-        collection.ops.insert(collection.delegate(collection.layout.insert), collection.handle,
-                              args, collection.info.element_type);
+    const bool done = collection.ops.insert(collection.delegate(collection.layout.insert),
+                                            collection.handle, args, collection.info.element_type);
     return done ? none_or_error() : nullptr;
 }
 
@@ -107,9 +106,8 @@ PyObject* inplace_repeat(PyObject* self, Py_ssize_t count) {
 
 PyObject* remove(PyObject* self, PyObject* value) {
     const Collection collection = collection_of(self);
-    const int removed =
-        collection.ops.ask(collection.delegate(collection.layout.remove), collection.handle, value,
-                           collection.info.element_type);
+    const int removed = collection.ops.ask(collection.delegate(collection.layout.remove),
+                                           collection.handle, value, collection.info.element_type);
     if (PyErr_Occurred() == nullptr && removed == 0) {
         PyErr_SetString(PyExc_ValueError, "list.remove(x): x not in list");
     }

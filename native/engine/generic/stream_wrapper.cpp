@@ -129,8 +129,7 @@ PyObject* stream_truncate(PyObject* self, PyObject* args) {
     if (!read_size(args, "truncate", &size) || !check_open(self)) {
         return nullptr;
     }
-    const bool at_position =
-        PyTuple_GET_SIZE(args) == 0 || PyTuple_GET_ITEM(args, 0) == Py_None;
+    const bool at_position = PyTuple_GET_SIZE(args) == 0 || PyTuple_GET_ITEM(args, 0) == Py_None;
     return long_or_null(call_stream<long>(self, StreamSlot::set_length,
                                           static_cast<int>(at_position), static_cast<long>(size)));
 }
@@ -199,8 +198,8 @@ PyObject* stream_readlines(PyObject* self, PyObject* args) {
         return nullptr;
     }
     const bool done =
-        hint < 1 ? static_cast<bool>(Ref::steal(
-                       PyObject_CallMethodOneArg(lines.get(), PyWrpIdList_Extend, self)))
+        hint < 1 ? static_cast<bool>(
+                       Ref::steal(PyObject_CallMethodOneArg(lines.get(), PyWrpIdList_Extend, self)))
                  : read_some_lines(self, hint, lines.get());
     return done ? lines.release() : nullptr;
 }
@@ -249,8 +248,8 @@ PyObject* stream_readinto(PyObject* self, PyObject* object) {
     Py_ssize_t total = 0;
     while (total < buffer.view.len) {
         const Py_ssize_t wanted = std::min(buffer.view.len - total, largest_transfer);
-        const int count = call_stream<int>(
-            self, StreamSlot::read, static_cast<void*>(data + total), static_cast<int>(wanted));
+        const int count = call_stream<int>(self, StreamSlot::read, static_cast<void*>(data + total),
+                                           static_cast<int>(wanted));
         if (PyErr_Occurred() != nullptr) {
             return nullptr;
         }
@@ -297,28 +296,27 @@ PyObject* stream_writelines(PyObject* self, PyObject* lines) {
 
 // ---- tables ----------------------------------------------------------------------------------
 
-PyMethodDef stream_methods[] = {
-    {"close", stream_close, METH_NOARGS, nullptr},
-    {"flush", stream_flush, METH_NOARGS, nullptr},
-    {"readable", ask<StreamSlot::can_read>, METH_NOARGS, nullptr},
-    {"seekable", ask<StreamSlot::can_seek>, METH_NOARGS, nullptr},
-    {"writable", ask<StreamSlot::can_write>, METH_NOARGS, nullptr},
-    {"tell", stream_tell, METH_NOARGS, nullptr},
-    {"seek", stream_seek, METH_VARARGS, nullptr},
-    {"truncate", stream_truncate, METH_VARARGS, nullptr},
-    {"write", stream_write, METH_O, nullptr},
-    {"writelines", stream_writelines, METH_O, nullptr},
-    {"readline", stream_readline, METH_VARARGS, nullptr},
-    {"readlines", stream_readlines, METH_VARARGS, nullptr},
-    {"readinto", stream_readinto, METH_O, nullptr},
-    {"read", stream_read, METH_VARARGS, nullptr},
-    {"readall", stream_readall, METH_NOARGS, nullptr},
-    {"fileno", stream_fileno, METH_NOARGS, nullptr},
-    {"isatty", stream_isatty, METH_NOARGS, nullptr},
-    {"__enter__", wrpPye_bltp_idisposable_enter, METH_NOARGS, nullptr},
-    {"__exit__", stream_exit, METH_VARARGS, nullptr},
-    KORVAN_WRAPPER_METHODS(wrpPye_tyds_StreamWrapper),
-    {}};
+PyMethodDef stream_methods[] = {{"close", stream_close, METH_NOARGS, nullptr},
+                                {"flush", stream_flush, METH_NOARGS, nullptr},
+                                {"readable", ask<StreamSlot::can_read>, METH_NOARGS, nullptr},
+                                {"seekable", ask<StreamSlot::can_seek>, METH_NOARGS, nullptr},
+                                {"writable", ask<StreamSlot::can_write>, METH_NOARGS, nullptr},
+                                {"tell", stream_tell, METH_NOARGS, nullptr},
+                                {"seek", stream_seek, METH_VARARGS, nullptr},
+                                {"truncate", stream_truncate, METH_VARARGS, nullptr},
+                                {"write", stream_write, METH_O, nullptr},
+                                {"writelines", stream_writelines, METH_O, nullptr},
+                                {"readline", stream_readline, METH_VARARGS, nullptr},
+                                {"readlines", stream_readlines, METH_VARARGS, nullptr},
+                                {"readinto", stream_readinto, METH_O, nullptr},
+                                {"read", stream_read, METH_VARARGS, nullptr},
+                                {"readall", stream_readall, METH_NOARGS, nullptr},
+                                {"fileno", stream_fileno, METH_NOARGS, nullptr},
+                                {"isatty", stream_isatty, METH_NOARGS, nullptr},
+                                {"__enter__", wrpPye_bltp_idisposable_enter, METH_NOARGS, nullptr},
+                                {"__exit__", stream_exit, METH_VARARGS, nullptr},
+                                KORVAN_WRAPPER_METHODS(wrpPye_tyds_StreamWrapper),
+                                {}};
 
 PyGetSetDef stream_getset[] = {{"closed", stream_closed, nullptr, nullptr, nullptr}, {}};
 
