@@ -22,6 +22,10 @@ echo.peer = probe.Echo()
 echo.face = echo
 echo.blob = b"bytes"
 collections = probe.Collections()
+boxes = collections.boxes
+words = collections.words
+loose = probe.LooseList()
+stream = probe.Streams.open(b"first\nsecond\n" * 200)
 
 
 def assign(name: str, value: object) -> Callable[[], None]:
@@ -70,6 +74,17 @@ CLEAN: dict[str, Callable[[], object]] = {
     "lists walked": lambda: echo.join([1, "two", 3.5], "-"),
     "iterables walked": lambda: echo.sum(iter((1, 2, 3))),
     "typed lists walked": lambda: list(collections.boxes),
+    "lists made of views": lambda: [boxes[::-1], boxes + [None], boxes * 3, boxes.copy()],
+    "slices assigned": lambda: boxes.__setitem__(slice(0, 2), list(boxes)),
+    "slices taken whole": lambda: boxes.__setitem__(slice(0, 2), boxes),
+    "growing and shrinking": lambda: (words.extend(words), words.extend(iter("ab")),
+                                      words.__delitem__(slice(2, None))),
+    "refused items": refused(lambda: words.__setitem__(slice(0, 1), [1])),
+    "untyped items": lambda: (loose.extend([1, "two", boxes]), list(loose), loose.clear()),
+    "lines of a stream": lambda: (stream.seek(0), list(stream), stream.seek(0), stream.readline(3)),
+    "blocks of a stream": lambda: (stream.seek(0), stream.read(), stream.readinto(bytearray(9)),
+                                   stream.seek(0), stream.write(b"first")),
+    "streams": lambda: probe.Streams.open(b"x").close(),
     "casts": lambda: probe.Echo._cast_to(echo.face),
     "failed casts": lambda: probe.Box._cast_to(echo),
     "types": lambda: echo.get_type(),

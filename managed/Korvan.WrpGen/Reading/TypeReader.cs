@@ -110,7 +110,7 @@ internal sealed class TypeReader(
         {
             if (method.Name is "op_Explicit" or "op_Implicit" &&
                 method.GetParameters()[0].ParameterType.FullName == type.FullName &&
-                values.Read(method.ReturnType, Crossing.Result, isOptional: false, out _) is { } target)
+                values.Read(method.ReturnType, isOptional: false, out _) is { } target)
             {
                 model.Conversions.Add(target.CSharpName);
             }
@@ -194,8 +194,7 @@ internal sealed class TypeReader(
             return;
         }
         Type plain = valueType.IsByRef ? valueType.GetElementType()! : valueType;
-        if (values.Read(plain, Crossing.Result, Nullability.MayBe(member), out string reason) is not { } value ||
-            (canWrite && values.Read(plain, Crossing.Argument, isOptional: false, out reason) is null))
+        if (values.Read(plain, Nullability.MayBe(member), out string reason) is not { } value)
         {
             Leave(member.Name, reason);
             return;
@@ -262,7 +261,7 @@ internal sealed class TypeReader(
             }
             Type result = method.ReturnType.IsByRef ? method.ReturnType.GetElementType()! : method.ReturnType;
             bool isOptional = Nullability.MayBe(method.ReturnParameter);
-            if (values.Read(result, Crossing.Result, isOptional, out string reason) is not { } value)
+            if (values.Read(result, isOptional, out string reason) is not { } value)
             {
                 Leave(Signature(method), reason);
                 continue;
@@ -280,7 +279,7 @@ internal sealed class TypeReader(
             Type plain = parameter.ParameterType.IsByRef
                 ? parameter.ParameterType.GetElementType()!
                 : parameter.ParameterType;
-            if (values.Read(plain, Crossing.Argument, Nullability.MayBe(parameter), out string reason) is not { } value)
+            if (values.Read(plain, Nullability.MayBe(parameter), out string reason) is not { } value)
             {
                 Leave(Signature(method), reason);
                 return;

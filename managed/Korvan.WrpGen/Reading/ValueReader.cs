@@ -52,24 +52,8 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         ["System.Collections.Generic.IReadOnlyList`1"] = ValueKind.IReadOnlyList,
     };
 
-    /// <summary>Null with a reason when the type can't be carried that way.</summary>
-    public ValueUse? Read(Type type, Crossing crossing, bool isOptional, out string reason)
-    {
-        if (Read(type, isOptional, out reason) is not { } value)
-        {
-            return null;
-        }
-        ValueUse plain = value.Kind == ValueKind.Nullable ? value.Element! : value;
-        if (EngineSupport.Carries(plain.Kind, crossing))
-        {
-            return value;
-        }
-        string form = crossing == Crossing.Argument ? "an argument" : "a result";
-        reason = $"{value.ManagedName} can't be carried as {form} yet";
-        return null;
-    }
-
-    private ValueUse? Read(Type type, bool isOptional, out string reason)
+    /// <summary>Null with a reason when the type can't be carried.</summary>
+    public ValueUse? Read(Type type, bool isOptional, out string reason)
     {
         reason = "";
         if (type.IsArray)
@@ -97,13 +81,16 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         return null;
     }
 
-    /// <summary>An element of a collection crosses both ways.</summary>
+    /// <summary>Elements of typed collections have one form each way; collections in collections have none, but
+    /// for arrays.</summary>
     public ValueUse? ReadElement(Type type, out string reason)
     {
-        ValueUse? element = Read(type, Crossing.Argument, isOptional: false, out reason) is null
-            ? null
-            : Read(type, Crossing.Result, isOptional: false, out reason);
-        if (element is null || EngineSupport.CarriesElement(element.Kind))
+        if (Read(type, isOptional: false, out reason) is not { } element)
+        {
+            return null;
+        }
+        if (element.Kind is not (ValueKind.Nullable or ValueKind.Stream or
+            (>= ValueKind.List and <= ValueKind.AnyReadOnlyCollectionBase)))
         {
             return element;
         }

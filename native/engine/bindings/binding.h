@@ -39,9 +39,6 @@
 // Legs:        call<Ret, Args...>   call_static<Ret, Args...>   construct<Args...>
 // Getters:     get<Ret>, get_static<Ret>        closure(property)
 // Setters:     set<Arg>, KORVAN_STATIC_SETTER
-//
-// A policy that is not defined in those headers yet is not to be emitted: the generator's list of
-// value kinds says which are.
 #ifndef KORVAN_BINDINGS_BINDING_H
 #define KORVAN_BINDINGS_BINDING_H
 

@@ -130,7 +130,14 @@ public static unsafe partial class ListApi<TList, T, TAccess, TIn, TOut, TCodec>
     private static bool TryTakeItems(VariantArg* value, out List<T> items)
     {
         items = [];
-        if (Handles.Target(value->Value) is not IEnumerable source)
+        object? target = Handles.Target(value->Value);
+        // The runtime takes an array of int for one of uint, whose numbers are other ones.
+        if (target is IEnumerable<T> same && (target is not Array || target.GetType() == typeof(T[])))
+        {
+            items.AddRange(same);
+            return true;
+        }
+        if (target is not IEnumerable source)
         {
             return false;
         }
