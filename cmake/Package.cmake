@@ -43,6 +43,7 @@ add_custom_target(package_files ALL DEPENDS
   "${KORVAN_STAMPS}/runtime" "${KORVAN_STAMPS}/interop_cad" "${KORVAN_STAMPS}/interop_pyreflection"
   "${KORVAN_STAMPS}/package" cad pycore pydrawing pygc pyreflection korvan.embed.coreclrwrap)
 
-configure_file("${CMAKE_SOURCE_DIR}/tools/python.in" "${CMAKE_SOURCE_DIR}/build/python" @ONLY
+configure_file("${CMAKE_SOURCE_DIR}/tools/python.in" "${CMAKE_BINARY_DIR}/python" @ONLY
   FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
                    WORLD_READ WORLD_EXECUTE)
+configure_file("${CMAKE_SOURCE_DIR}/tools/python-door.sh" "${CMAKE_SOURCE_DIR}/build/python" COPYONLY)
