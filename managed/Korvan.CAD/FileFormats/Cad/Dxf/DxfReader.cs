@@ -162,36 +162,46 @@ internal sealed partial class DxfReader
     /// <summary>Reads variables from the current tag on.</summary>
     private void ReadVariables()
     {
+        _tags.Unread();
+        ChooseEncoding();
         List<CadCodeValue>? values = null;
-        string name = "";
-        for (bool more = true; more && _tags.Code != 0; more = _tags.Next())
+        for (bool more = _tags.Next(); more && _tags.Code != 0; more = _tags.Next())
         {
             if (_tags.Code == 9)
             {
-                name = _tags.GetName();
-                values = _image.Header.TagsOf(name);
+                values = _image.Header.TagsOf(_tags.GetName());
                 values.Clear();
             }
             else if (values is not null)
             {
                 values.Add(_tags.ToCodeValue());
-                ChooseEncoding(name);
             }
         }
 
         _tags.Unread();
     }
 
-    private void ChooseEncoding(string variable)
+    // Release and code page hold for all variables, those before them included.
+    private void ChooseEncoding()
     {
-        if (_options.SpecifiedEncoding != CodePages.Default || variable is not ("$ACADVER" or "$DWGCODEPAGE"))
+        if (_options.SpecifiedEncoding != CodePages.Default)
         {
             return;
         }
 
+        string release = _image.Header.AcadVersion.ToString();
         string page = _image.Header.CodePage;
-        Encoding stated = DwgCodePage.Get(page.Length > 0 ? page : DwgCodePage.DefaultName);
-        bool unicode = _image.Header.AcadVersion >= CadAcadVersion.AC1021;
+        string variable = "";
+        _tags.LookAhead(() =>
+        {
+            string text = _tags.Code == 9 || variable is "$ACADVER" or "$DWGCODEPAGE" ? _tags.GetName() : "";
+            variable = _tags.Code == 9 ? text : variable;
+            release = variable == "$ACADVER" ? text : release;
+            page = variable == "$DWGCODEPAGE" ? text : page;
+            return true;
+        });
+        Encoding stated = DwgCodePage.Get(page.StartsWith('$') || page.Length == 0 ? DwgCodePage.DefaultName : page);
+        bool unicode = DxfRelease.Parse(release) >= CadAcadVersion.AC1021;
         _tags.Encoding = unicode ? new UTF8Encoding(false) : stated;
         _tags.Fallback = stated;
     }

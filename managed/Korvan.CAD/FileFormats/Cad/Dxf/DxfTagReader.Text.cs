@@ -13,8 +13,19 @@ internal sealed partial class DxfTagReader
 
     private readonly (int Start, int Length, string Text)[] _pool = new (int, int, string)[PoolSize];
 
+    private Encoding _encoding = DwgCodePage.Get(DwgCodePage.DefaultName);
+
     /// <summary>Gets or sets the encoding of texts that are not plain ASCII.</summary>
-    internal Encoding Encoding { get; set; } = DwgCodePage.Get(DwgCodePage.DefaultName);
+    internal Encoding Encoding
+    {
+        get => _encoding;
+        set
+        {
+            // Texts that were read before would be given again as they were.
+            _encoding = value;
+            Array.Clear(_pool);
+        }
+    }
 
     /// <summary>Gets or sets the encoding of texts in a drawing of UTF-8 that are not UTF-8.</summary>
     internal Encoding Fallback { get; set; } = Encoding.Latin1;

@@ -90,20 +90,24 @@ internal sealed partial class DxfTagReader
     /// <returns>Its value as a whole number, or nothing.</returns>
     internal int? Peek(int code)
     {
+        int? found = null;
+        LookAhead(() => (found = Code == code ? GetInt() : null) is null);
+        return found;
+    }
+
+    /// <summary>Goes over the rest of the current object and comes back.</summary>
+    /// <param name="go">What is done at each tag; tells whether to go on.</param>
+    internal void LookAhead(Func<bool> go)
+    {
         (int position, int start, int length, int line, int offset, int current) =
             (_position, _start, _length, _line, _tagOffset, Code);
-        bool unread = _unread;
-        bool ended = _ended;
-        int? found = null;
-        while (found is null && Next() && Code != 0)
+        (bool unread, bool ended) = (_unread, _ended);
+        while (Next() && Code != 0 && go())
         {
-            found = Code == code ? GetInt() : null;
         }
 
         (_position, _start, _length, _line, _tagOffset, Code) = (position, start, length, line, offset, current);
-        _unread = unread;
-        _ended = ended;
-        return found;
+        (_unread, _ended) = (unread, ended);
     }
 
     internal double GetDouble()
