@@ -172,6 +172,10 @@ class ListProtocol(unittest.TestCase):
         with self.assertRaisesRegex(TypeError, "integer argument expected"):
             items[:2] = probe.Collections().words
         self.assertEqual(list(items), ITEMS * 3)
+        # The runtime would take an array of uint for one of int.
+        for collection in (items, LISTS["IList<T>"]()):
+            with self.assertRaises(OverflowError):
+                collection.extend(probe.Collections().unsigned)
         # What fits is appended up to what does not, as from a Python list.
         mixed = probe.LooseList()
         mixed.extend([8, "two"])
@@ -216,6 +220,14 @@ class CountedCollections(unittest.TestCase):
                     bag[0]
                 with self.assertRaisesRegex(ValueError, "argument must be iterable or sequence"):
                     bag + 1
+
+    def test_iterators_are_disposed_and_apart(self) -> None:
+        words = probe.Collections().words
+        with iter(words) as first:
+            self.assertIs(iter(first), first)
+            self.assertEqual((next(first), next(iter(words)), next(first)), ("one", "one", "two"))
+            with self.assertRaises(StopIteration):
+                next(first)
 
     def test_a_false_length_is_found_out(self) -> None:
         lying = probe.LooseCollections().lying

@@ -158,9 +158,10 @@ struct CollectionLayout; // generic/collection_layout.h
 // `what` is "List" for List, IList, ICol and the read-only kinds, "Array", "IEnumerable",
 // "IEnumerator". List and Array wrappers are of ClassKind::object (cast group TypeOf, CastTo,
 // ReInterpretObj, CastAs, IsAssignable), the interfaces of ClassKind::interface_. Their method
-// tables hold KORVAN_WRAPPER_METHODS(binding) alone (and {}). A bound class that implements
-// IEnumerable, ICollection or IList without element type has .collection = &any_iterable_info,
-// &any_collection_info or &any_list_info (generic/interop.h) and the protocol to match.
+// tables hold KORVAN_WRAPPER_METHODS(binding) (and {}), those of iterators KORVAN_ENTER_EXIT too.
+// A bound class that implements IEnumerable, ICollection or IList without element type has
+// .collection = &any_iterable_info, &any_collection_info or &any_list_info (generic/interop.h)
+// and the protocol to match.
 struct CollectionInfo {
     const ElementOps* element = nullptr; // null: elements cross as variants
     const void* element_type = nullptr; // ClassBinding or EnumBinding of the element

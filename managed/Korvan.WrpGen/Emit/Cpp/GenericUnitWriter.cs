@@ -62,7 +62,8 @@ internal sealed class GenericUnitWriter(BindingModel model, CodeWriter writer)
         string walk = wrapper == s_iterator
             ? ""
             : $" .iterator = &iter_{use.Hash}, .iterable_host = &PyHost_gn_Iterable_{use.Hash},";
-        writer.Line($"static PyMethodDef methods_{symbol}[] = {{KORVAN_WRAPPER_METHODS({symbol}), {{}}}};");
+        string dispose = wrapper == s_iterator ? "KORVAN_ENTER_EXIT, " : "";
+        writer.Line($"static PyMethodDef methods_{symbol}[] = {{{dispose}KORVAN_WRAPPER_METHODS({symbol}), {{}}}};");
         writer.Line($"static ClassBinding* const interfaces_{symbol}[] = " +
             $"{CppValues.PointerList(Interfaces(use, wrapper))};");
         // An iterator names its own host behind the members that it leaves out.

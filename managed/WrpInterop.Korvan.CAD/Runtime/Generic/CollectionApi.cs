@@ -111,7 +111,7 @@ public static unsafe class CntCollectionApi<T, TIn, TOut, TCodec>
         try
         {
             ICollection<T> collection = Handles.Self<ICollection<T>>(handle);
-            if (Handles.Target(other->Value) is not IEnumerable<T> items)
+            if (ManagedItems.Of<T>(Handles.Target(other->Value)) is not { } items)
             {
                 return 0;
             }
@@ -207,6 +207,15 @@ public static unsafe class ReadOnlyCollectionApi<T, TIn, TOut, TCodec>
             return Boundary.Failed(e);
         }
     }
+}
+
+/// <summary>Managed collections taken over whole.</summary>
+internal static class ManagedItems
+{
+    /// <summary>The items; null when the target is not of such items. An array of uint is not one of int, though
+    /// the runtime would take it for one.</summary>
+    internal static IEnumerable<T>? Of<T>(object? target) =>
+        typeof(T).IsValueType && target is Array && target.GetType() != typeof(T[]) ? null : target as IEnumerable<T>;
 }
 
 /// <summary>What only a <see cref="List{T}"/> can do.</summary>

@@ -131,8 +131,7 @@ public static unsafe partial class ListApi<TList, T, TAccess, TIn, TOut, TCodec>
     {
         items = [];
         object? target = Handles.Target(value->Value);
-        // The runtime takes an array of int for one of uint, whose numbers are other ones.
-        if (target is IEnumerable<T> same && (target is not Array || target.GetType() == typeof(T[])))
+        if (ManagedItems.Of<T>(target) is { } same)
         {
             items.AddRange(same);
             return true;
