@@ -8,10 +8,10 @@ korvan_dotnet_publish("${KORVAN_STAMPS}/interop_cad" "${managed}/WrpInterop.Korv
   SOURCES ${interop_sources} "${KORVAN_STAMPS}/library" "${KORVAN_GENERATED}/cad/generated.stamp"
   FLAGS "--property:GeneratedDir=${KORVAN_GENERATED}/cad/csharp"
   COMMENT "Compiling the managed interop of korvan.cad ahead of time")
+korvan_managed_sources(reflection_sources "${managed}/WrpInterop.Korvan.PyReflection")
 korvan_dotnet_publish("${KORVAN_STAMPS}/interop_pyreflection"
   "${managed}/WrpInterop.Korvan.PyReflection" "${KORVAN_ASSEMBLIES}/pyreflection"
-  SOURCES ${interop_sources}
-    "${managed}/WrpInterop.Korvan.PyReflection/WrpInterop.Korvan.PyReflection.csproj"
+  SOURCES ${interop_sources} ${reflection_sources}
   COMMENT "Compiling the managed interop of korvan.pyreflection ahead of time")
 
 # The runtime: the newest installed shared framework of the version that we build for.

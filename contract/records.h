@@ -73,6 +73,20 @@ struct PyDecimalArg {
     std::uint32_t flags;
 };
 
+// The colour of korvan.pydrawing: opacity, red, green and blue from the highest byte down.
+struct ShlColorObject {
+    std::uint32_t argb;
+    std::int32_t is_set; // 0: the colour that was never set, which is not transparent black
+};
+
+// The rectangle of korvan.pydrawing, in single precision.
+struct ShlRectangleFObject {
+    float x;
+    float y;
+    float width;
+    float height;
+};
+
 #define KORVAN_RECORD(record, size)                                                                \
     static_assert(sizeof(record) == (size) && std::is_standard_layout_v<record> &&                 \
                   std::is_trivially_copyable_v<record>)
@@ -110,6 +124,14 @@ KORVAN_FIELD(PyDecimalArg, low, 0);
 KORVAN_FIELD(PyDecimalArg, middle, 4);
 KORVAN_FIELD(PyDecimalArg, high, 8);
 KORVAN_FIELD(PyDecimalArg, flags, 12);
+KORVAN_RECORD(ShlColorObject, 8);
+KORVAN_FIELD(ShlColorObject, argb, 0);
+KORVAN_FIELD(ShlColorObject, is_set, 4);
+KORVAN_RECORD(ShlRectangleFObject, 16);
+KORVAN_FIELD(ShlRectangleFObject, x, 0);
+KORVAN_FIELD(ShlRectangleFObject, y, 4);
+KORVAN_FIELD(ShlRectangleFObject, width, 8);
+KORVAN_FIELD(ShlRectangleFObject, height, 12);
 
 #undef KORVAN_RECORD
 #undef KORVAN_FIELD

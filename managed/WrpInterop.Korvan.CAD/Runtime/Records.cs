@@ -82,6 +82,24 @@ public struct PyDecimalArg
     [FieldOffset(12)] public int Flags;
 }
 
+/// <summary>The colour of korvan.pydrawing: opacity, red, green and blue from the highest byte down.</summary>
+[StructLayout(LayoutKind.Explicit, Size = 8)]
+public struct ShlColorObject
+{
+    [FieldOffset(0)] public uint Argb;
+    [FieldOffset(4)] public int IsSet;
+}
+
+/// <summary>The rectangle of korvan.pydrawing.</summary>
+[StructLayout(LayoutKind.Explicit, Size = 16)]
+public struct ShlRectangleFObject
+{
+    [FieldOffset(0)] public float X;
+    [FieldOffset(4)] public float Y;
+    [FieldOffset(8)] public float Width;
+    [FieldOffset(12)] public float Height;
+}
+
 /// <summary><see cref="VariantArg.Kind"/> of a typed parameter.</summary>
 public enum ReferenceKind
 {

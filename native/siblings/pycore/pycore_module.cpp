@@ -38,11 +38,13 @@ int stream_init(PyObject* self, PyObject* args, PyObject* kwargs) {
                                      &buffer)) {
         return -1;
     }
-    BytesAsStream* stream = as_stream(self);
-    release(stream);
-    if (PyObject_GetBuffer(buffer, &stream->view, PyBUF_SIMPLE) != 0) {
+    Py_buffer view;
+    if (PyObject_GetBuffer(buffer, &view, PyBUF_SIMPLE) != 0) {
         return -1;
     }
+    BytesAsStream* stream = as_stream(self);
+    release(stream);
+    stream->view = view;
     stream->has_view = true;
     stream->is_closed = false;
     stream->position = 0;
@@ -62,7 +64,8 @@ Py_ssize_t rest(const BytesAsStream* stream) {
 }
 
 const char* here(const BytesAsStream* stream) {
-    return static_cast<const char*>(stream->view.buf) + stream->position;
+    const Py_ssize_t position = std::min(stream->position, stream->view.len);
+    return static_cast<const char*>(stream->view.buf) + position;
 }
 
 PyObject* stream_read(PyObject* self, PyObject* args) {
@@ -84,11 +87,21 @@ PyObject* stream_read(PyObject* self, PyObject* args) {
 PyObject* stream_readinto(PyObject* self, PyObject* target) {
     BytesAsStream* stream = as_stream(self);
     Py_buffer view;
-    if (!is_open(stream) || PyObject_GetBuffer(target, &view, PyBUF_WRITABLE) != 0) {
+    if (PyObject_GetBuffer(target, &view, PyBUF_WRITABLE) != 0) {
+        if (PyErr_ExceptionMatches(PyExc_BufferError)) {
+            PyErr_Format(PyExc_TypeError, "readinto() takes a writable buffer, not '%s'",
+                         type_name_of(target));
+        }
+        return nullptr;
+    }
+    // Asked last: the target's own code may have closed the stream.
+    if (!is_open(stream)) {
+        PyBuffer_Release(&view);
         return nullptr;
     }
     const Py_ssize_t count = std::min(view.len, rest(stream));
-    std::memcpy(view.buf, here(stream), static_cast<size_t>(count));
+    // The target may be the memory that the stream reads from.
+    std::memmove(view.buf, here(stream), static_cast<size_t>(count));
     stream->position += count;
     PyBuffer_Release(&view);
     return PyLong_FromSsize_t(count);
@@ -107,6 +120,10 @@ PyObject* stream_seek(PyObject* self, PyObject* args) {
     }
     if (offset < -bases[whence]) {
         return PyErr_Format(PyExc_ValueError, "negative seek value %zd", bases[whence] + offset);
+    }
+    if (offset > PY_SSIZE_T_MAX - bases[whence]) {
+        PyErr_SetString(PyExc_OverflowError, "seek value too large");
+        return nullptr;
     }
     stream->position = bases[whence] + offset;
     return PyLong_FromSsize_t(stream->position);
@@ -134,8 +151,12 @@ PyObject* stream_close(PyObject* self, PyObject*) {
     Py_RETURN_NONE;
 }
 
-PyObject* stream_flush(PyObject*, PyObject*) { Py_RETURN_NONE; }
-PyObject* stream_enter(PyObject* self, PyObject*) { return Py_NewRef(self); }
+PyObject* stream_flush(PyObject* self, PyObject*) {
+    return is_open(as_stream(self)) ? Py_NewRef(Py_None) : nullptr;
+}
+PyObject* stream_enter(PyObject* self, PyObject*) {
+    return is_open(as_stream(self)) ? Py_NewRef(self) : nullptr;
+}
 
 PyObject* closed_getter(PyObject* self, void*) {
     return PyBool_FromLong(as_stream(self)->is_closed || !as_stream(self)->has_view);

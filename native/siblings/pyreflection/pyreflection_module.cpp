@@ -4,65 +4,13 @@
 // handle is wrapped, through an interop assembly of its own.
 #include "module/capsules.h"
 #include "module/version_attributes.h"
-#include "runtime/callbacks.h"
+#include "pyreflection/reflection.h"
 #include "runtime/failures.h"
 #include "runtime/identifiers.h"
 #include "runtime/markers.h"
 #include "runtime/wrapped_objects.h"
 
 namespace {
-
-PyObject* empty_wrapper(PyTypeObject* type, PyObject* args, PyObject* kwargs) {
-    PyObject* object = PyType_GenericNew(type, args, kwargs);
-    if (object != nullptr) {
-        reinterpret_cast<PyClrObject*>(object)->handle = nullptr;
-    }
-    return object;
-}
-
-PyMethodDef methods[] = {
-    {"get_type", wrapClrObject_get_type, METH_NOARGS, "The managed type of this object."}, {}};
-
-constexpr PyTypeObject make_type(const char* name, const char* doc) {
-    return {
-        .ob_base = PyVarObject_HEAD_INIT(nullptr, 0).tp_name = name,
-        .tp_basicsize = sizeof(PyClrObject),
-        .tp_dealloc = wrapClrObject_tp_dealloc,
-        .tp_repr = wrapClrObject_str,
-        .tp_hash = wrapClrObject_hash,
-        .tp_flags = 0,
-        .tp_doc = doc,
-        .tp_richcompare = wrapClrObject_tp_richcompare,
-        .tp_methods = methods,
-        .tp_init = wrapClrObject_tp_init_fault,
-        .tp_alloc = PyType_GenericAlloc,
-        .tp_new = empty_wrapper,
-    };
-}
-
-PyTypeObject type_type = make_type("korvan.pyreflection.Type", "A managed type.");
-PyTypeObject object_type = make_type("korvan.pyreflection.Object", "Any managed object.");
-PyTypeObject enum_type = make_type("korvan.pyreflection.Enum", "A value of a managed enum, boxed.");
-
-bool attach() {
-    static bool is_attached = false;
-    if (!is_attached) {
-        is_attached = initialize_clr_host("", "WrpInterop.Korvan.PyReflection", false, "korvan",
-                                          "pyreflection") == 0;
-    }
-    return is_attached;
-}
-
-PyObject* wrap(void* handle, PyTypeObject* type) {
-    if (handle == nullptr) {
-        Py_RETURN_NONE;
-    }
-    return attach() ? fn_py_clr_type_generic_new(handle, type) : nullptr;
-}
-
-PyObject* wrap_type(void* handle) { return wrap(handle, &type_type); }
-PyObject* wrap_object(void* handle) { return wrap(handle, &object_type); }
-PyObject* wrap_enum(void* handle) { return wrap(handle, &enum_type); }
 
 // The handle of an instance of exactly this type: non-zero on success, no error otherwise.
 int unwrap(PyObject* object, void** handle, const PyTypeObject* type) {
