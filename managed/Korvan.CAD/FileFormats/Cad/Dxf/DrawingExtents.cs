@@ -8,7 +8,12 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// <summary>The space that the entities of a drawing take.</summary>
 internal sealed class DrawingExtents(CadImage image)
 {
+    // Blocks within blocks multiply; beyond this many entities their boxes have to do.
+    private const int MostTurned = 1 << 18;
+
     private readonly Dictionary<string, Extents> _blocks = new(StringComparer.OrdinalIgnoreCase);
+    private readonly HashSet<string> _open = new(StringComparer.OrdinalIgnoreCase);
+    private int _turned;
 
     internal static (Cad3DPoint Min, Cad3DPoint Max) OfModel(CadImage image)
     {
@@ -32,7 +37,7 @@ internal sealed class DrawingExtents(CadImage image)
                     AddInsert(insert, extents);
                     break;
                 case CadDimensionBase { BlockName.Length: > 0 } dimension:
-                    extents.Add(BlockExtents(dimension.BlockName), static point => point);
+                    AddBlock(dimension.BlockName, extents.Map, extents);
                     break;
                 default:
                     EntityExtents.Add(entity, extents);
@@ -43,29 +48,52 @@ internal sealed class DrawingExtents(CadImage image)
 
     private void AddInsert(CadInsertObject insert, Extents extents)
     {
-        Extents block = BlockExtents(insert.Name);
-        CadBlockEntity? definition = image.BlockEntities.Find(insert.Name);
-        if (definition is null || block.IsEmpty)
+        if (image.BlockEntities.Find(insert.Name) is not { } block)
         {
             return;
         }
 
-        Affine3 system = EntityExtents.SystemOf(insert.ExtrusionDirection);
-        (double sin, double cos) = Math.SinCos(insert.RotationAngle * Math.PI / 180);
-        Cad3DPoint origin = definition.BasePoint;
+        (Cad3DPoint place, Cad3DPoint origin) = (insert.InsertionPoint, block.BasePoint);
+        Affine3 placed = extents.Map * EntityExtents.SystemOf(insert.ExtrusionDirection)
+            * Affine3.Translation(new Vec3(place.X, place.Y, place.Z))
+            * Affine3.RotationZ(insert.RotationAngle * Math.PI / 180);
+        Affine3 inner = Affine3.Scaling(insert.ScaleX, insert.ScaleY, insert.ScaleZ)
+            * Affine3.Translation(new Vec3(-origin.X, -origin.Y, -origin.Z));
         foreach ((double column, double row) in Corners(insert))
         {
-            extents.Add(block, point =>
-            {
-                double u = ((point.X - origin.X) * insert.ScaleX) + column;
-                double v = ((point.Y - origin.Y) * insert.ScaleY) + row;
-                double w = (point.Z - origin.Z) * insert.ScaleZ;
-                return system.Point(new Vec3(
-                    insert.InsertionPoint.X + (u * cos) - (v * sin),
-                    insert.InsertionPoint.Y + (u * sin) + (v * cos),
-                    insert.InsertionPoint.Z + w));
-            });
+            AddBlock(insert.Name, placed * Affine3.Translation(new Vec3(column, row, 0)) * inner, extents);
         }
+    }
+
+    // A box that is turned askew is larger than what it holds: then the entities themselves are turned.
+    private void AddBlock(string name, Affine3 map, Extents extents)
+    {
+        if (image.BlockEntities.Find(name) is not { } block)
+        {
+            return;
+        }
+
+        bool boxed = IsUpright(map) || _turned > MostTurned || !_open.Add(name);
+        if (boxed)
+        {
+            extents.Add(BlockExtents(name), map);
+            return;
+        }
+
+        Affine3 outer = extents.Map;
+        extents.Map = map;
+        _turned += block.Entities.Count;
+        AddAll(block.Entities, extents);
+        extents.Map = outer;
+        _open.Remove(name);
+    }
+
+    private static bool IsUpright(Affine3 map) => IsAlongAxis(map.AxisX) && IsAlongAxis(map.AxisY) && IsAlongAxis(map.AxisZ);
+
+    private static bool IsAlongAxis(Vec3 way)
+    {
+        double longest = Math.Max(Math.Abs(way.X), Math.Max(Math.Abs(way.Y), Math.Abs(way.Z)));
+        return Math.Abs(way.X) + Math.Abs(way.Y) + Math.Abs(way.Z) - longest <= 1e-12 * longest;
     }
 
     private static IEnumerable<(double Column, double Row)> Corners(CadInsertObject insert)

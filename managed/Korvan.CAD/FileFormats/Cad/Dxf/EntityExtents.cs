@@ -39,7 +39,7 @@ internal static class EntityExtents
                 AddPolyline(polyline, extents);
                 break;
             case CadSpline spline:
-                (spline.ControlPoints.Count > 0 ? spline.ControlPoints : spline.FitPoints).ForEach(extents.Add);
+                AddSpline(spline, extents);
                 break;
             case CadSolid solid:
                 AddFlat(solid, [solid.FirstPoint, solid.SecondPoint, solid.ThirdPoint, solid.FourthPoint], extents);
@@ -63,7 +63,8 @@ internal static class EntityExtents
         switch (entity)
         {
             case CadText text:
-                AddFlat(text, [text.FirstAlignment], extents);
+                bool aligned = text.HorizontalAlignment != 0 || text.VerticalAlignment != 0;
+                AddFlat(text, [aligned ? text.SecondAlignment : text.FirstAlignment], extents);
                 break;
             case CadMText text:
                 extents.Add(text.InsertionPoint);
@@ -95,56 +96,61 @@ internal static class EntityExtents
     private static void AddArc(CadArc arc, Extents extents)
     {
         double start = arc.StartAngle * Math.PI / 180;
-        double sweep = (arc.EndAngle * Math.PI / 180) - start;
-        AddRing(arc, start, sweep <= 0 ? sweep + Math.Tau : sweep, extents);
+        AddRing(arc, start, Sweep(start, arc.EndAngle * Math.PI / 180), extents);
     }
 
     private static void AddRing(CadCircle circle, double start, double sweep, Extents extents)
     {
         Affine3 system = SystemOf(circle.ExtrusionDirection);
-        Cad3DPoint center = circle.CenterPoint;
-        foreach (double angle in Angles(start, sweep))
-        {
-            (double sin, double cos) = Math.SinCos(angle);
-            Vec3 point = new(center.X + (circle.Radius * cos), center.Y + (circle.Radius * sin), center.Z);
-            extents.Add(system.Point(point));
-        }
+        Vec3 center = system.Point(ToVector(circle.CenterPoint));
+        extents.AddArc(center, system.AxisX * circle.Radius, system.AxisY * circle.Radius, start, sweep);
     }
 
-    // The ends and every quarter between them, so that the box of a circle in its plane is exact.
-    private static IEnumerable<double> Angles(double start, double sweep)
+    // Anticlockwise from one angle to the other; equal angles are the whole way round.
+    private static double Sweep(double start, double end)
     {
-        yield return start;
-        yield return start + sweep;
-        double first = Math.Ceiling(start / (Math.PI / 2)) * (Math.PI / 2);
-        for (double angle = first; angle < start + sweep; angle += Math.PI / 2)
-        {
-            yield return angle;
-        }
+        double sweep = end - start;
+        sweep -= Math.Floor(sweep / Math.Tau) * Math.Tau;
+        return sweep < 1e-12 ? Math.Tau : sweep;
     }
 
     private static void AddEllipse(CadEllipse ellipse, Extents extents)
     {
-        Cad3DPoint major = ellipse.MajorEndPoint;
-        Affine3 plane = SystemOf(ellipse.ExtrusionDirection);
-        (double nx, double ny, double nz) = plane.AxisZ;
-        double ratio = ellipse.AxisRatio;
-        (double X, double Y, double Z) minor = (
-            ratio * ((ny * major.Z) - (nz * major.Y)),
-            ratio * ((nz * major.X) - (nx * major.Z)),
-            ratio * ((nx * major.Y) - (ny * major.X)));
-        const int steps = 64;
-        double sweep = ellipse.EndAngle - ellipse.StartAngle;
-        sweep = sweep <= 0 ? sweep + Math.Tau : sweep;
-        for (int i = 0; i <= steps; i++)
+        Vec3 major = ToVector(ellipse.MajorEndPoint);
+        Vec3 minor = Vec3.Cross(SystemOf(ellipse.ExtrusionDirection).AxisZ, major) * ellipse.AxisRatio;
+        double sweep = Sweep(ellipse.StartAngle, ellipse.EndAngle);
+        extents.AddArc(ToVector(ellipse.CenterPoint), major, minor, ellipse.StartAngle, sweep);
+    }
+
+    private static void AddSpline(CadSpline spline, Extents extents)
+    {
+        List<Vec3> control = spline.ControlPoints.ConvertAll(ToVector);
+        List<Vec3> fit = spline.FitPoints.ConvertAll(ToVector);
+        if (Nurbs.Create(spline.Degree, spline.KnotValues, control, spline.Weights) is { } curve)
         {
-            (double sin, double cos) = Math.SinCos(ellipse.StartAngle + (sweep * i / steps));
-            extents.Add(
-                ellipse.CenterPoint.X + (major.X * cos) + (minor.X * sin),
-                ellipse.CenterPoint.Y + (major.Y * cos) + (minor.Y * sin),
-                ellipse.CenterPoint.Z + (major.Z * cos) + (minor.Z * sin));
+            extents.AddPath(pen => curve.Draw(pen, Tolerance(control)));
+        }
+        else if (fit.Count > 1)
+        {
+            (Vec3 start, Vec3 end) = (ToVector(spline.StartTangent), ToVector(spline.EndTangent));
+            extents.AddPath(pen => FitSpline.Draw(pen, fit, start, end, spline.IsClosed));
+        }
+        else
+        {
+            control.ForEach(extents.Add);
+            fit.ForEach(extents.Add);
         }
     }
+
+    private static double Tolerance(List<Vec3> points)
+    {
+        const double share = 1e-6;
+        double size = 0;
+        points.ForEach(point => size = Math.Max(size, (point - points[0]).Length));
+        return Math.Max(size * share, 1e-9);
+    }
+
+    private static Vec3 ToVector(Cad3DPoint point) => new(point.X, point.Y, point.Z);
 
     private static void AddLwPolyline(CadLwPolyline polyline, Extents extents)
     {
@@ -164,43 +170,33 @@ internal static class EntityExtents
     {
         bool flat = polyline is CadPolyline;
         Affine3 system = flat ? SystemOf(polyline.ExtrusionDirection) : Affine3.Identity;
-        int count = polyline.Vertices.Count;
-        for (int i = 0; i < count; i++)
+        List<CadVertexBase> drawn = polyline.Vertices.FindAll(static vertex => IsDrawn(vertex));
+        for (int i = 0; i < drawn.Count; i++)
         {
-            CadVertexBase vertex = polyline.Vertices[i];
-            Cad3DPoint from = vertex.LocationPoint;
-            if (vertex is CadFaceRecord)
-            {
-                continue;
-            }
-
-            bool hasPiece = i + 1 < count || polyline.IsClosed;
-            Cad3DPoint to = polyline.Vertices[(i + 1) % count].LocationPoint;
+            bool hasPiece = i + 1 < drawn.Count || polyline.IsClosed;
+            Cad3DPoint from = drawn[i].LocationPoint;
+            Cad3DPoint to = drawn[(i + 1) % drawn.Count].LocationPoint;
             double z = flat ? polyline.Elevation.Z : from.Z;
-            AddPiece(system, (from.X, from.Y), (to.X, to.Y), flat && hasPiece ? vertex.Bulge : 0, z, extents);
+            AddPiece(system, (from.X, from.Y), (to.X, to.Y), flat && hasPiece ? drawn[i].Bulge : 0, z, extents);
         }
     }
 
-    // A bulge is the tangent of a quarter of the arc's angle.
+    // Faces have no place of their own, and the frame of a spline is not drawn.
+    private static bool IsDrawn(CadVertexBase vertex)
+    {
+        const int splineFrame = 16;
+        return vertex is not CadFaceRecord && (vertex.VertexFlags & splineFrame) == 0;
+    }
+
     private static void AddPiece(
         Affine3 system, (double X, double Y) from, (double X, double Y) to, double bulge, double z,
         Extents extents)
     {
         extents.Add(system.Point(new Vec3(from.X, from.Y, z)));
-        if (bulge == 0 || from == to)
+        if (BulgeArc.TryCreate(new Vec2(from.X, from.Y), new Vec2(to.X, to.Y), bulge, out BulgeArc arc))
         {
-            return;
-        }
-
-        (double dx, double dy) = (to.X - from.X, to.Y - from.Y);
-        double factor = (1 - (bulge * bulge)) / (4 * bulge);
-        (double x, double y) = (((from.X + to.X) / 2) - (dy * factor), ((from.Y + to.Y) / 2) + (dx * factor));
-        double radius = Math.Sqrt(((from.X - x) * (from.X - x)) + ((from.Y - y) * (from.Y - y)));
-        (double X, double Y) begin = bulge > 0 ? from : to;
-        foreach (double angle in Angles(Math.Atan2(begin.Y - y, begin.X - x), 4 * Math.Atan(Math.Abs(bulge))))
-        {
-            (double sin, double cos) = Math.SinCos(angle);
-            extents.Add(system.Point(new Vec3(x + (radius * cos), y + (radius * sin), z)));
+            Vec3 center = system.Point(new Vec3(arc.Center.X, arc.Center.Y, z));
+            extents.AddArc(center, system.AxisX * arc.Radius, system.AxisY * arc.Radius, arc.Start, arc.Sweep);
         }
     }
 
@@ -219,52 +215,78 @@ internal static class EntityExtents
         double z = hatch.ElevationPoint.Z;
         foreach (CadHatchBoundaryPathContainer container in hatch.BoundaryPaths)
         {
-            foreach ((double x, double y) in OutlinePoints(container.BoundaryPath))
+            if (container.BoundaryPath is CadPolylineBoundaryPath outline)
             {
-                extents.Add(system.Point(new Vec3(x, y, z)));
+                AddOutline(outline, system, z, extents);
+            }
+
+            foreach (ICadBoundaryPathEntity edge in (container.BoundaryPath as CadEdgeBoundaryPath)?.Edges ?? [])
+            {
+                AddEdge(edge, system * Affine3.Translation(new Vec3(0, 0, z)), extents);
             }
         }
     }
 
-    private static IEnumerable<(double X, double Y)> OutlinePoints(ICadBoundaryPath path)
+    private static void AddOutline(CadPolylineBoundaryPath outline, Affine3 system, double z, Extents extents)
     {
-        if (path is CadPolylineBoundaryPath polyline)
+        int count = outline.Vertices.Count;
+        for (int i = 0; i < count; i++)
         {
-            foreach (Cad2DPoint vertex in polyline.Vertices)
-            {
-                yield return (vertex.X, vertex.Y);
-            }
-        }
-
-        foreach (ICadBoundaryPathEntity edge in (path as CadEdgeBoundaryPath)?.Edges ?? [])
-        {
-            foreach ((double, double) point in EdgePoints(edge))
-            {
-                yield return point;
-            }
+            (Cad2DPoint from, Cad2DPoint to) = (outline.Vertices[i], outline.Vertices[(i + 1) % count]);
+            double bulge = i < outline.Bulges.Count ? outline.Bulges[i] : 0;
+            AddPiece(system, (from.X, from.Y), (to.X, to.Y), bulge, z, extents);
         }
     }
 
-    private static (double X, double Y)[] EdgePoints(ICadBoundaryPathEntity edge) => edge switch
+    private static void AddEdge(ICadBoundaryPathEntity edge, Affine3 plane, Extents extents)
     {
-        CadBoundaryPathLine line =>
-        [
-            (line.FirstPoint.X, line.FirstPoint.Y),
-            (line.SecondPoint.X, line.SecondPoint.Y),
-        ],
-        CadBoundaryPathCircularArc arc =>
-        [
-            (arc.CenterPoint.X - arc.Radius, arc.CenterPoint.Y - arc.Radius),
-            (arc.CenterPoint.X + arc.Radius, arc.CenterPoint.Y + arc.Radius),
-        ],
-        CadBoundaryPathCircularEllipse ellipse =>
-        [
-            (ellipse.CenterPoint.X - ellipse.MajorEndPoint.X, ellipse.CenterPoint.Y - ellipse.MajorEndPoint.Y),
-            (ellipse.CenterPoint.X + ellipse.MajorEndPoint.X, ellipse.CenterPoint.Y + ellipse.MajorEndPoint.Y),
-        ],
-        CadBoundaryPathSpline spline => [.. spline.ControlPoints.ConvertAll(static point => (point.X, point.Y))],
-        _ => [],
-    };
+        switch (edge)
+        {
+            case CadBoundaryPathLine line:
+                extents.Add(plane.Point(ToVector(line.FirstPoint)));
+                extents.Add(plane.Point(ToVector(line.SecondPoint)));
+                break;
+            case CadBoundaryPathCircularArc arc:
+                Vec3 radius = new(arc.Radius, 0, 0);
+                (double, double, bool) round = (arc.StartAngle, arc.EndAngle, arc.CounterClockwise);
+                AddEdgeArc(plane, arc.CenterPoint, radius, 1, round, extents);
+                break;
+            case CadBoundaryPathCircularEllipse oval:
+                Vec3 major = ToVector(oval.MajorEndPoint);
+                (double, double, bool) angles = (oval.StartAngle, oval.EndAngle, oval.CounterClockwise);
+                AddEdgeArc(plane, oval.CenterPoint, major, oval.AxisRatio, angles, extents);
+                break;
+            case CadBoundaryPathSpline spline:
+                AddEdgeSpline(spline, plane, extents);
+                break;
+        }
+    }
+
+    // Edges that run clockwise measure their angles clockwise.
+    private static void AddEdgeArc(
+        Affine3 plane, Cad2DPoint center, Vec3 major, double ratio, (double Start, double End, bool Anticlockwise) angles,
+        Extents extents)
+    {
+        double sign = angles.Anticlockwise ? 1 : -1;
+        double start = angles.Start * Math.PI / 180;
+        double sweep = Sweep(start, angles.End * Math.PI / 180);
+        Vec3 minor = Vec3.Cross(Vec3.UnitZ, major) * ratio;
+        extents.AddArc(plane.Point(ToVector(center)), plane.Vector(major), plane.Vector(minor), start * sign, sweep * sign);
+    }
+
+    private static void AddEdgeSpline(CadBoundaryPathSpline spline, Affine3 plane, Extents extents)
+    {
+        List<Vec3> control = spline.ControlPoints.ConvertAll(point => plane.Point(ToVector(point)));
+        if (Nurbs.Create(spline.Degree, spline.KnotValues, control, spline.Weights) is { } curve)
+        {
+            extents.AddPath(pen => curve.Draw(pen, Tolerance(control)));
+            return;
+        }
+
+        control.ForEach(extents.Add);
+    }
+
+    private static Vec3 ToVector(Cad2DPoint point) => new(point.X, point.Y, 0);
 
     private static void AddPicture(Cad3DPoint corner, Cad3DPoint u, Cad3DPoint v, Cad2DPoint size, Extents extents)
     {
@@ -272,10 +294,7 @@ internal static class EntityExtents
         {
             double across = (i & 1) * size.X;
             double up = (i >> 1) * size.Y;
-            extents.Add(
-                corner.X + (u.X * across) + (v.X * up),
-                corner.Y + (u.Y * across) + (v.Y * up),
-                corner.Z + (u.Z * across) + (v.Z * up));
+            extents.Add(ToVector(corner) + (ToVector(u) * across) + (ToVector(v) * up));
         }
     }
 }

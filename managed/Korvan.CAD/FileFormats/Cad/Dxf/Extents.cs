@@ -20,22 +20,49 @@ internal sealed class Extents
 
     internal Cad3DPoint Max => IsEmpty ? new Cad3DPoint() : new Cad3DPoint(_maxX, _maxY, _maxZ);
 
-    internal void Add(Vec3 point) => Add(point.X, point.Y, point.Z);
+    /// <summary>Gets or sets what moves the points before they are put into the box.</summary>
+    internal Affine3 Map { get; set; } = Affine3.Identity;
 
-    internal void Add(Cad3DPoint point) => Add(point.X, point.Y, point.Z);
+    internal void Add(Vec3 point) => Put(Map.Point(point));
 
-    internal void Add(double x, double y, double z)
+    internal void Add(Cad3DPoint point) => Put(Map.Point(new Vec3(point.X, point.Y, point.Z)));
+
+    /// <summary>Adds a piece of an ellipse: its ends, and where it turns back along X, Y or Z.</summary>
+    /// <param name="center">The centre.</param>
+    /// <param name="u">The way from the centre to the point of angle 0.</param>
+    /// <param name="v">The way from the centre to the point of a quarter.</param>
+    /// <param name="start">The parameter of the start, in radians.</param>
+    /// <param name="sweep">How far it runs; either way.</param>
+    internal void AddArc(Vec3 center, Vec3 u, Vec3 v, double start, double sweep)
     {
-        _minX = Math.Min(_minX, x);
-        _minY = Math.Min(_minY, y);
-        _minZ = Math.Min(_minZ, z);
-        _maxX = Math.Max(_maxX, x);
-        _maxY = Math.Max(_maxY, y);
-        _maxZ = Math.Max(_maxZ, z);
+        (center, u, v) = (Map.Point(center), Map.Vector(u), Map.Vector(v));
+        PutArcPoint(center, u, v, start);
+        PutArcPoint(center, u, v, start + sweep);
+        double first = Math.Min(start, start + sweep);
+        foreach (double turn in (double[])[Math.Atan2(v.X, u.X), Math.Atan2(v.Y, u.Y), Math.Atan2(v.Z, u.Z)])
+        {
+            double angle = turn + (Math.Ceiling((first - turn) / Math.PI) * Math.PI);
+            for (; angle < first + Math.Abs(sweep); angle += Math.PI)
+            {
+                PutArcPoint(center, u, v, angle);
+            }
+        }
     }
 
-    /// <summary>Adds the corners of another box, each moved by a transformation.</summary>
-    internal void Add(Extents box, Func<Vec3, Vec3> move)
+    /// <summary>Adds what a pen draws.</summary>
+    internal void AddPath(Action<PathPen> draw)
+    {
+        Bounds2 front = Draw(draw, Map);
+        Bounds2 side = Draw(draw, new Affine3(Vec3.UnitZ, Vec3.UnitY, Vec3.UnitX, default) * Map);
+        if (!front.IsEmpty)
+        {
+            Put(new Vec3(front.MinX, front.MinY, side.MinX));
+            Put(new Vec3(front.MaxX, front.MaxY, side.MaxX));
+        }
+    }
+
+    /// <summary>Adds the corners of another box, each moved by a transformation of its own.</summary>
+    internal void Add(Extents box, Affine3 map)
     {
         if (box.IsEmpty)
         {
@@ -44,10 +71,34 @@ internal sealed class Extents
 
         for (int corner = 0; corner < 8; corner++)
         {
-            Add(move(new Vec3(
+            Put(map.Point(new Vec3(
                 (corner & 1) == 0 ? box._minX : box._maxX,
                 (corner & 2) == 0 ? box._minY : box._maxY,
                 (corner & 4) == 0 ? box._minZ : box._maxZ)));
         }
+    }
+
+    private static Bounds2 Draw(Action<PathPen> draw, Affine3 map)
+    {
+        PathBuffer path = new();
+        draw(new PathPen(path, map));
+        return path.Bounds;
+    }
+
+    private void PutArcPoint(Vec3 center, Vec3 u, Vec3 v, double angle)
+    {
+        (double sin, double cos) = Math.SinCos(angle);
+        Put(center + (u * cos) + (v * sin));
+    }
+
+    private void Put(Vec3 point)
+    {
+        (double x, double y, double z) = point;
+        _minX = Math.Min(_minX, x);
+        _minY = Math.Min(_minY, y);
+        _minZ = Math.Min(_minZ, z);
+        _maxX = Math.Max(_maxX, x);
+        _maxY = Math.Max(_maxY, y);
+        _maxZ = Math.Max(_maxZ, z);
     }
 }
