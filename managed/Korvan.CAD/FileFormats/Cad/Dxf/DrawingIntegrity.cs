@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
@@ -11,6 +12,7 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// <summary>Completes a drawing before it is saved: records, handles and owners of what was added.</summary>
 internal static class DrawingIntegrity
 {
+    private const string LayoutDictionary = "ACAD_LAYOUT";
     private const int WithRecords = 1994;
     private const int WithOwners = 2000;
 
@@ -18,6 +20,8 @@ internal static class DrawingIntegrity
     {
         MarkSpaces(image);
         AddLayers(image);
+        AddApplications(image);
+        RenameBlocks(image);
         if (release >= WithRecords)
         {
             AddBlockRecords(image);
@@ -26,6 +30,7 @@ internal static class DrawingIntegrity
 
         if (release >= WithOwners)
         {
+            RemoveLayouts(image);
             AddLayouts(image);
         }
 
@@ -57,8 +62,44 @@ internal static class DrawingIntegrity
         }
     }
 
+    // Programs refuse extended data of an application that the table does not know.
+    private static void AddApplications(CadImage image)
+    {
+        HashSet<string> names = new(StringComparer.OrdinalIgnoreCase);
+        foreach (CadBaseObject item in DrawingWalk.All(image))
+        {
+            item.XdataOrNull?.XdataEntities.ForEach(data => names.Add(data.RegisteredApplicationName));
+        }
+
+        foreach (string name in names.Where(name => !image.AppIdTables.Contains(name)))
+        {
+            image.AppIdTables.Add(new CadAppIdTableObject { Name = name });
+        }
+    }
+
+    // The name of a block stands in three places, of which one is its property.
+    private static void RenameBlocks(CadImage image)
+    {
+        foreach (CadBlockEntity block in image.BlockEntities)
+        {
+            bool same = string.Equals(block.NameAgain, block.Name, StringComparison.OrdinalIgnoreCase);
+            block.NameAgain = same || block.NameAgain.Length == 0 ? block.NameAgain : block.Name;
+            if (block.Owner == 0 || image.BlockRecords.Contains(block.Name))
+            {
+                continue;
+            }
+
+            if (image.BlockRecords.Items.Find(record => record.Handle == block.Owner) is { } record
+                && !image.BlockEntities.Contains(record.Name))
+            {
+                record.Name = block.Name;
+            }
+        }
+    }
+
     private static void AddBlockRecords(CadImage image)
     {
+        image.BlockRecords.Items.RemoveAll(record => !image.BlockEntities.Contains(record.Name));
         foreach (CadBlockEntity block in image.BlockEntities)
         {
             if (!image.BlockRecords.Contains(block.Name))
@@ -98,6 +139,28 @@ internal static class DrawingIntegrity
         }
     }
 
+    // What was taken from the list of layouts goes with its block and its entry in the dictionary.
+    private static void RemoveLayouts(CadImage image)
+    {
+        foreach (CadLayout layout in image.Objects.OfType<CadLayout>().Except(image.Layouts).ToList())
+        {
+            image.Objects.Remove(layout);
+            CadDictionaryBase? dictionary = NamedDictionary(image, LayoutDictionary);
+            dictionary?.RemoveHandle(layout.Handle);
+            CadBlockEntity? block = DrawingLinks.BlockOf(image, layout);
+            if (block is null || block == image.ModelSpace || block == image.PaperSpace)
+            {
+                continue;
+            }
+
+            image.BlockEntities.Remove(block);
+            if (image.BlockRecords.Find(block.Name) is { } record)
+            {
+                image.BlockRecords.Remove(record);
+            }
+        }
+    }
+
     private static void AddSheet(CadImage image, CadLayout layout)
     {
         int number = 0;
@@ -129,6 +192,12 @@ internal static class DrawingIntegrity
 
     private static void LinkLayouts(CadImage image)
     {
+        CadDictionaryBase? names = NamedDictionary(image, LayoutDictionary);
+        foreach (CadLayout layout in image.Layouts)
+        {
+            names?.Rename(layout.Handle, layout.LayoutName);
+        }
+
         foreach (CadBlockEntity block in image.BlockEntities)
         {
             if (block.Layout is not { } layout || image.BlockRecords.Find(block.Name) is not { } record)
@@ -139,7 +208,7 @@ internal static class DrawingIntegrity
             layout.BlockTableRecordHandle = record.ObjectHandle;
             record.LayoutHandle = layout.ObjectHandle;
             block.Layout = null;
-            if (NamedDictionary(image, "ACAD_LAYOUT") is { } dictionary)
+            if (NamedDictionary(image, LayoutDictionary) is { } dictionary)
             {
                 dictionary.Set(layout.LayoutName, layout.Handle);
                 layout.Owner = dictionary.Handle;

@@ -74,6 +74,25 @@ public abstract partial class CadDictionaryBase : CadObjectBase
         _handles.Add(handle);
     }
 
+    /// <summary>Gives the entry of an object another name.</summary>
+    internal void Rename(ulong handle, string name)
+    {
+        int index = handle == 0 ? -1 : _handles.IndexOf(handle);
+        if (index >= 0)
+        {
+            _names[index] = name;
+        }
+    }
+
+    internal void RemoveHandle(ulong handle)
+    {
+        int index = handle == 0 ? -1 : _handles.IndexOf(handle);
+        if (index >= 0)
+        {
+            Remove(_names[index]);
+        }
+    }
+
     internal bool ReadEntry(int code, DxfTagReader tags)
     {
         switch (code)
