@@ -128,9 +128,9 @@ PyObject* enum_repr(PyObject* self) {
         Ref::steal(type ? read_text(type.get(), type_host, type_full_name) : nullptr);
     const Ref text = Ref::steal(type_text ? wrapClrObject_str(self) : nullptr);
     const Ref value = Ref::steal(text ? enum_integer(self) : nullptr);
-    return value ? PyUnicode_FromFormat("<Enum %U.%U: %S>", type_text.get(), text.get(),
-                                        value.get())
-                 : nullptr;
+    return value
+               ? PyUnicode_FromFormat("<Enum %U.%U: %S>", type_text.get(), text.get(), value.get())
+               : nullptr;
 }
 
 PyGetSetDef enum_getset[] = {
