@@ -110,6 +110,11 @@ internal static class FormatDetector
         {
             ReadOnlySpan<byte> code = TakeLine(ref rest).Trim(" \t"u8);
             ReadOnlySpan<byte> value = TakeLine(ref rest).Trim(" \t"u8);
+            if (rest.IsEmpty && head.Length == HeadLength && head.TrimStart(" \t"u8).StartsWith("999"u8))
+            {
+                return true; // comments alone, as far as can be seen
+            }
+
             if (!code.SequenceEqual("999"u8))
             {
                 return code.SequenceEqual("0"u8) && (value.SequenceEqual("SECTION"u8) || value.SequenceEqual("EOF"u8));
