@@ -54,6 +54,11 @@ def wheel_file() -> str:
     return f"Wheel-Version: 1.0\nGenerator: korvan make_wheel\nRoot-Is-Purelib: false\nTag: {TAG}\n"
 
 
+def entry_points() -> str:
+    """entry_points.txt: where PyInstaller asks for the folders of the package's hooks."""
+    return "[pyinstaller40]\nhook-dirs = korvan.cad:get_pyinstaller_hook_dirs\n"
+
+
 def stripped(path: Path, scratch: Path) -> bytes:
     """The bytes of a file; of our own libraries without their debug symbols."""
     is_ours = path.suffix == ".so" and ("cpython" in path.name or "coreclrwrap" in path.name)
@@ -103,6 +108,7 @@ def make(package: Path, out: Path) -> Path:
                 wheel.add(path.relative_to(package).as_posix(), stripped(path, Path(scratch)), mode)
     wheel.add(f"{info}/METADATA", metadata(version).encode())
     wheel.add(f"{info}/WHEEL", wheel_file().encode())
+    wheel.add(f"{info}/entry_points.txt", entry_points().encode())
     wheel.add(f"{info}/licenses/LICENSE", (ROOT / "LICENSE").read_bytes())
     wheel.close()
     return target

@@ -1,5 +1,6 @@
 #include "runtime/descriptors.h"
 
+#include "runtime/failures.h"
 #include "runtime/method_object.h"
 
 #include <cstring>
@@ -195,6 +196,7 @@ int fn_ready_descriptor_types(const char* module_name) {
         // Type names live as long as their types: for the whole process.
         entry.type->tp_name = strdup((std::string(module_name) + "." + entry.name).c_str());
         if (PyType_Ready(entry.type) != 0) {
+            PyShlErr_TypeInitializationInternalError(load_error::ready_type, entry.type->tp_name);
             return -1;
         }
     }

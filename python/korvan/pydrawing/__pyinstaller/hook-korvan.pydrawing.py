@@ -1,0 +1,5 @@
+"""PyInstaller hook: korvan.pydrawing is its extension alone."""
+
+datas: list[tuple[str, str]] = []
+binaries: list[tuple[str, str]] = []
+hiddenimports: list[str] = []

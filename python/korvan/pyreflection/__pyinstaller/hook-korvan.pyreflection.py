@@ -1,0 +1,6 @@
+"""PyInstaller hook: the managed half of korvan.pyreflection."""
+
+from korvan.__pyinstaller import collect
+
+datas, binaries = collect("assemblies/pyreflection")
+hiddenimports = ["traceback"]
