@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
@@ -103,7 +104,7 @@ internal static class DrawingExporter
         {
             throw new ImageSaveException(e.Message, e.InnerException);
         }
-        catch (IOException e)
+        catch (Exception e) when (e is IOException or CadException)
         {
             throw new ImageSaveException(e.Message, e);
         }
