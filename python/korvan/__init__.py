@@ -84,6 +84,9 @@ class _NamespaceFinder:
             return None
         if len(parts) == 2:
             spec = PathFinder.find_spec(name, path)
+            if spec is not None and spec.origin is None:
+                # A folder of stubs or hooks alone: its extension is not there.
+                raise ModuleNotFoundError(f"No module named {name!r}", name=name)
             if spec is not None and spec.origin is not None and spec.origin.endswith(".so"):
                 _prepare_environment()
             return spec
