@@ -6,6 +6,7 @@ import copy
 import ctypes
 import io
 import pickle
+import sys
 import unittest
 
 import korvan.cad
@@ -168,6 +169,26 @@ class Reflection(unittest.TestCase):
                 **{"NETCORE_WRAPPER_ASSEMBLY_DIR_korvan": str(package.package / "assemblies")},
             )
         self.assertEqual(done.stdout.split(), ["True", "True", "1"], done.stderr)
+
+
+class Leaks(unittest.TestCase):
+    def test_repeated_use_leaves_nothing_behind(self) -> None:
+        type_, value = probe.Cube._type_of(), probe.Choice.THIRD._as_uni_enum()
+        bodies = (
+            lambda: (type_.full_name, type_.is_enum, repr(type_), type_.base_type, hash(type_)),
+            lambda: (value.name, value.value, repr(value), int(value), value == value.get_type()),
+            lambda: (Color("Tomato") == Color(1, 2, 3), repr(Color(5)), Color().__reduce__()),
+            lambda: (RectangleF(1, 2, 3, 4).contains(1, 2), repr(RectangleF()), hash(RectangleF())),
+            lambda: pycore.BytesAsStream(b"abc").read(),
+            lambda: repr(probe.Cube._cast_to(None)),
+        )
+        for body in bodies:
+            for rounds in (100, 2000):
+                before = sys.getallocatedblocks()
+                for _ in range(rounds):
+                    body()
+                grown = sys.getallocatedblocks() - before
+            self.assertLess(grown, 64)
 
 
 class Casts(unittest.TestCase):
