@@ -139,7 +139,7 @@ PyObject* color_new(PyTypeObject*, PyObject* args, PyObject* kwargs) {
     if (count == 0 && !named) {
         return box_value(color_type, ShlColorObject{});
     }
-    PyObject* color = count == 1 && !named ? color_from_one(r) : nullptr;
+    PyObject* color = count == 1 && !named ? color_from_one(PyTuple_GET_ITEM(args, 0)) : nullptr;
     if (color == nullptr && PyErr_Occurred() == nullptr) {
         PyErr_SetString(PyExc_TypeError,
                         "Color() takes a name, a number, or r, g and b with or without a");
