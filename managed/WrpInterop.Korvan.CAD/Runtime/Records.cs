@@ -140,7 +140,7 @@ public enum CollectionKind
 }
 
 /// <summary>What a delegate with a status of its own answers.</summary>
-public static class Status
+public static unsafe class Status
 {
     public const int Failed = -1;
     public const int CastNo = 0;
@@ -148,4 +148,8 @@ public static class Status
     public const int Item = 0;
     public const int End = 1;
     public const int OutOfRange = 2;
+
+    /// <summary>The status of an item that was read: one that Python has no type for leaves its error pending.</summary>
+    public static int OfItem(int status, nint* result) =>
+        status == Item && *result == 0 ? Failed : status;
 }

@@ -19,7 +19,7 @@ public static unsafe class SiApiArray
 
     [UnmanagedCallersOnly]
     public static int SqGetItem(nint handle, int index, nint* result) =>
-        Finished(Api.SqGetItem(handle, index, result), result);
+        Status.OfItem(Api.SqGetItem(handle, index, result), result);
 
     [UnmanagedCallersOnly]
     public static nint SqGetItemNoCheck(nint handle, int index) =>
@@ -80,8 +80,4 @@ public static unsafe class SiApiArray
     [UnmanagedCallersOnly]
     public static int btp_ReInterpretObj(nint handle, nint* result) =>
         Casts.ReinterpretReference<Array>(handle, result);
-
-    // An item that Python has no type for leaves its error pending.
-    private static int Finished(int status, nint* result) =>
-        status == Status.Item && *result == 0 ? Status.Failed : status;
 }

@@ -32,7 +32,7 @@ public static unsafe class SiApiArrayList
 
     [UnmanagedCallersOnly]
     public static int SqGetItem(nint handle, int index, nint* result) =>
-        Finished(Api.SqGetItem(handle, index, result), result);
+        Status.OfItem(Api.SqGetItem(handle, index, result), result);
 
     [UnmanagedCallersOnly]
     public static nint SqGetItemNoCheck(nint handle, int index) =>
@@ -56,7 +56,7 @@ public static unsafe class SiApiArrayList
 
     [UnmanagedCallersOnly]
     public static int Pop(nint handle, int hasIndex, int index, nint* result) =>
-        Finished(Api.Pop(handle, hasIndex, index, result), result);
+        Status.OfItem(Api.Pop(handle, hasIndex, index, result), result);
 
     [UnmanagedCallersOnly]
     public static int SqInplaceConcat(nint handle, VariantArg* other) =>
@@ -131,8 +131,4 @@ public static unsafe class SiApiArrayList
     [UnmanagedCallersOnly]
     public static int btp_ReInterpretObj(nint handle, nint* result) =>
         Casts.ReinterpretReference<ArrayList>(handle, result);
-
-    // An item that Python has no type for leaves its error pending.
-    private static int Finished(int status, nint* result) =>
-        status == Status.Item && *result == 0 ? Status.Failed : status;
 }

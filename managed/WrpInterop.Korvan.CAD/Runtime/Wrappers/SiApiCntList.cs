@@ -11,7 +11,7 @@ public static unsafe class SiApiCntList
 {
     [UnmanagedCallersOnly]
     public static int SqGetItem(nint handle, int index, nint* result) =>
-        Finished(Api.SqGetItem(handle, index, result), result);
+        Status.OfItem(Api.SqGetItem(handle, index, result), result);
 
     [UnmanagedCallersOnly]
     public static nint SqGetItemNoCheck(nint handle, int index) =>
@@ -43,7 +43,7 @@ public static unsafe class SiApiCntList
 
     [UnmanagedCallersOnly]
     public static int Pop(nint handle, int hasIndex, int index, nint* result) =>
-        Finished(Api.Pop(handle, hasIndex, index, result), result);
+        Status.OfItem(Api.Pop(handle, hasIndex, index, result), result);
 
     [UnmanagedCallersOnly]
     public static void Clear(nint handle) =>
@@ -108,8 +108,4 @@ public static unsafe class SiApiCntList
     [UnmanagedCallersOnly]
     public static int btp_CastAs(nint value, nint* result) =>
         Casts.AsReference<IList>(value, result);
-
-    // An item that Python has no type for leaves its error pending.
-    private static int Finished(int status, nint* result) =>
-        status == Status.Item && *result == 0 ? Status.Failed : status;
 }
