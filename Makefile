@@ -5,6 +5,7 @@
 #   make test       everything there is, under ctest
 #   make sanitize   the native units under the address and undefined-behaviour sanitizers
 #   make bench      measurements beside hand-written baselines
+#   make catalogue  which of the types of CATALOGUE=<table> stand, module by module
 #   make wheel      the package as a wheel, in build/dist
 #   make format     put the sources into the house format
 #   make lint       the format and clang-tidy's opinion
@@ -13,6 +14,7 @@
 # PYTHON=<path> names the CPython 3.12 to build for; else it is looked for on the path, then in pyenv.
 
 PRESET ?= release
+CATALOGUE ?= ../shared/catalogue.tsv
 BUILD := build/$(PRESET)
 # A build leaves no servers behind: they would outlive it, hold its pipes open, and mix with other builds.
 export MSBUILDDISABLENODEREUSE := 1
@@ -20,7 +22,7 @@ export UseSharedCompilation := false
 export DOTNET_CLI_TELEMETRY_OPTOUT := 1
 export DOTNET_NOLOGO := 1
 
-.PHONY: build demo test sanitize bench wheel format lint clean packages
+.PHONY: build demo test sanitize bench catalogue wheel format lint clean packages
 
 build: packages $(BUILD)/build.ninja
 	@cmake --build --preset $(PRESET)
@@ -46,6 +48,9 @@ sanitize: test_packages packages
 bench: bench_packages build
 	@cmake --build --preset $(PRESET) --target bench_modules
 	@build/python bench/run.py --modules $(BUILD)/bench
+
+catalogue: build
+	@build/python tools/catalogue.py $(CATALOGUE)
 
 wheel: build
 	@build/python tools/make_wheel.py --package $(BUILD)/package --out build/dist
