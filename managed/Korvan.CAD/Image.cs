@@ -1,5 +1,7 @@
 using System;
+using System.Collections.Generic;
 using System.IO;
+using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.ImageOptions;
 
@@ -182,15 +184,18 @@ public abstract partial class Image : DataStreamSupporter
 
     internal abstract bool SupportsExport(ImageOptionsBase options);
 
+    /// <summary>Gets the classes of options that <see cref="SupportsExport"/> says yes to.</summary>
+    internal abstract IEnumerable<Type> ExportOptionTypes { get; }
+
     internal abstract void Export(ImageOptionsBase options, Stream stream);
 
     private void VerifyCanSave(ImageOptionsBase options)
     {
         if (!SupportsExport(options))
         {
+            string[] names = [.. ExportOptionTypes.Select(static type => type.Name).Order(StringComparer.Ordinal)];
             throw new ImageSaveException(
-                $"{GetType().Name} cannot be saved with {options.GetType().Name}; pass DxfOptions, PdfOptions, "
-                + "SvgOptions or PngOptions.");
+                $"{GetType().Name} cannot be saved with {options.GetType().Name}; pass {string.Join(", ", names)}.");
         }
     }
 }

@@ -17,28 +17,30 @@ internal static class DrawingExporter
     private const double PointsPerInch = 72;
     private const double PixelsPerInch = 96;
 
+    /// <summary>What writes a drawing with the options of a class.</summary>
+    private static readonly Dictionary<Type, Action<CadImage, ImageOptionsBase, Stream>> Writers = new()
+    {
+        [typeof(PdfOptions)] = (image, options, output) => WritePdf(image, (PdfOptions)options, output),
+        [typeof(PngOptions)] = (image, options, output) => WritePng(image, (PngOptions)options, output),
+        [typeof(SvgOptions)] = (image, options, output) => WriteSvg(image, (SvgOptions)options, output),
+    };
+
+    /// <summary>The classes of options that a drawing is written with.</summary>
+    internal static IReadOnlyCollection<Type> OptionTypes => Writers.Keys;
+
+    internal static bool Writes(ImageOptionsBase options) => Writers.ContainsKey(options.GetType());
+
     internal static void Export(CadImage image, ImageOptionsBase options, Stream output)
     {
         ArgumentNullException.ThrowIfNull(image);
         ArgumentNullException.ThrowIfNull(options);
         ArgumentNullException.ThrowIfNull(output);
-        Guard(() =>
+        if (!Writers.TryGetValue(options.GetType(), out Action<CadImage, ImageOptionsBase, Stream>? write))
         {
-            switch (options)
-            {
-                case PdfOptions pdf:
-                    WritePdf(image, pdf, output);
-                    break;
-                case SvgOptions svg:
-                    WriteSvg(image, svg, output);
-                    break;
-                case PngOptions png:
-                    WritePng(image, png, output);
-                    break;
-                default:
-                    throw new RenderException($"Drawings are not rendered to {options.TargetFormat}.");
-            }
-        });
+            throw new ImageSaveException($"Drawings are not written with {options.GetType().Name}.");
+        }
+
+        Guard(() => write(image, options, output));
     }
 
     /// <summary>The pixels of the one page that the options ask for, for formats that have their own encoder.</summary>

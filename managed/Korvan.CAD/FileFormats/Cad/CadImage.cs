@@ -164,8 +164,11 @@ public partial class CadImage : Image
     /// <inheritdoc/>
     internal override bool SupportsExport(ImageOptionsBase options)
     {
-        return options is DxfOptions or PdfOptions or SvgOptions or PngOptions;
+        return options is DxfOptions || DrawingExporter.Writes(options);
     }
+
+    /// <inheritdoc/>
+    internal override IEnumerable<Type> ExportOptionTypes => [typeof(DxfOptions), .. DrawingExporter.OptionTypes];
 
     /// <inheritdoc/>
     internal override void Export(ImageOptionsBase options, Stream stream)
