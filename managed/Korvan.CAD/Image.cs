@@ -2,8 +2,10 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using Korvan.CAD.Annotations;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.WatermarkGuard;
 
 namespace Korvan.CAD;
 
@@ -42,6 +44,12 @@ public abstract partial class Image : DataStreamSupporter
 
     /// <summary>Gets or sets the unit that is assumed where the file states none.</summary>
     public UnitType UnitlessDefaultUnitType { get; set; } = UnitType.Unitless;
+
+    /// <summary>Gets the annotations; nothing for images of formats that have none.</summary>
+    public virtual IAnnotationService? AnnotationService => null;
+
+    /// <summary>Gets the hidden marks; nothing for images of formats that have none.</summary>
+    public virtual IWatermarkGuardService? WatermarkGuardService => null;
 
     /// <summary>Gets the options that the image was read with.</summary>
     internal LoadOptions LoadOptions { get; set; } = new();
@@ -195,7 +203,8 @@ public abstract partial class Image : DataStreamSupporter
         {
             string[] names = [.. ExportOptionTypes.Select(static type => type.Name).Order(StringComparer.Ordinal)];
             throw new ImageSaveException(
-                $"{GetType().Name} cannot be saved with {options.GetType().Name}; pass {string.Join(", ", names)}.");
+                $"{GetType().Name} cannot be saved with {options.GetType().Name}: it is not written as {options.TargetFormat}; "
+                + $"pass {string.Join(", ", names)}.");
         }
     }
 }

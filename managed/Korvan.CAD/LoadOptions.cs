@@ -14,6 +14,17 @@ public class LoadOptions
     /// that the drawing states; other values help with drawings that state a wrong one.</summary>
     public CodePages SpecifiedEncoding { get; set; }
 
+    /// <summary>Gets or sets the code page of the double bytes in sequences <c>\M+nXXXX</c>.
+    /// <see cref="MifCodePages.Undefined"/> takes the one whose digit n stands in the sequence; other values help with
+    /// drawings whose digits are wrong.</summary>
+    public MifCodePages SpecifiedMifEncoding { get; set; }
+
+    /// <summary>Gets or sets whether sequences for single letters are also read where they are damaged: the letter
+    /// after the backslash in lower case, the backslash doubled, fewer than four digits in <c>\U+XXXX</c>, no code page
+    /// in <c>\M+XXXX</c> (then <see cref="SpecifiedMifEncoding"/> has to be set). By default such sequences stay in the
+    /// text as they are.</summary>
+    public bool RecoverMalformedCifMif { get; set; }
+
     /// <summary>Gets or sets whether disposing the image also closes the stream it was read from. A stream that the
     /// caller opened stays open by default.</summary>
     public bool UnloadOnDispose { get; set; }

@@ -3,7 +3,7 @@ using System;
 namespace Korvan.CAD;
 
 /// <summary>A rectangle with sides along the axes; Y grows downwards.</summary>
-public struct Rectangle : IEquatable<Rectangle>
+public partial struct Rectangle : IEquatable<Rectangle>
 {
     /// <summary>Creates a rectangle from its corner and its sides.</summary>
     /// <param name="x">The left side.</param>

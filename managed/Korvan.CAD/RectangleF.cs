@@ -3,7 +3,7 @@ using System;
 namespace Korvan.CAD;
 
 /// <summary>A rectangle with sides along the axes; Y grows downwards.</summary>
-public struct RectangleF : IEquatable<RectangleF>
+public partial struct RectangleF : IEquatable<RectangleF>
 {
     /// <summary>Creates a rectangle from its corner and its sides.</summary>
     /// <param name="x">The left side.</param>

@@ -48,6 +48,12 @@ public class StreamContainer : DisposableObject
         set => Stream.Position = value;
     }
 
+    /// <summary>Moves the place of the next read or write.</summary>
+    /// <param name="offset">How far, in bytes.</param>
+    /// <param name="origin">From where that is counted.</param>
+    /// <returns>The new place, in bytes from the start.</returns>
+    public long Seek(long offset, SeekOrigin origin) => Stream.Seek(offset, (System.IO.SeekOrigin)origin);
+
     /// <summary>Passes buffered bytes on.</summary>
     public void Flush() => Stream.Flush();
 

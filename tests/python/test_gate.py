@@ -175,9 +175,9 @@ class Host(unittest.TestCase):
 
 MODULE = "ImportError: Module initialization internal error ({}) <{}>"
 TYPE = "ImportError: Type initialization internal error ({}) <{}>"
-ENUM = "korvan.cad.fileformats.cad.cadconsts.CadAcadVersion"
-ARC = "korvan.cad.fileformats.cad.cadobjects.hatch.CadBoundaryPathCircularArc"
-FIRST = "korvan.cad.cadexceptions.imageformats"
+ENUM = "korvan.cad.annotations.AnnotationDirection"
+NOTE = "korvan.cad.annotations.AnnotationEntity"
+FIRST = "korvan.cad.annotations"
 
 # The call of CPython's that fails, the code of the import, and the causes below it.
 FAULTS = [
@@ -195,19 +195,19 @@ FAULTS = [
     ("PyModule_Create2 korvan.cad._wrpgen._interop", -1005,
      [MODULE.format(-1003, "korvan.cad._wrpgen._interop")]),
     ("PyDict_SetItemString _as_uni_enum", -1006,
-     [TYPE.format(-1013, ENUM), TYPE.format(-1020, "CadAcadVersion,_as_uni_enum")]),
+     [TYPE.format(-1013, ENUM), TYPE.format(-1020, "AnnotationDirection,_as_uni_enum")]),
     ("PyModule_AddObjectRef Color", -1006, [TYPE.format(-1014, "korvan.cad,korvan.cad.Color")]),
     ("PyType_Ready korvan.cad.Color", -1006, [TYPE.format(-1015, "korvan.cad.Color")]),
     ("PyType_Ready korvan.cad._FieldDescrType", -1006,
      [TYPE.format(-1015, "korvan.cad._FieldDescrType")]),
     ("PyType_Ready korvan.cad._wrpgen._interop._StreamWrapper", -1005,
      [TYPE.format(-1015, "korvan.cad._wrpgen._interop._StreamWrapper")]),
-    ("PyDict_SetItem _korvan_clr_host", -1006, [TYPE.format(-1016, FIRST + ".CadException")]),
-    ("PyDict_SetItem _additional_interfaces", -1006, [TYPE.format(-1017, ARC)]),
-    ("PyDict_SetItem _implicit_interfaces", -1006, [TYPE.format(-1018, ARC)]),
+    ("PyDict_SetItem _korvan_clr_host", -1006, [TYPE.format(-1016, NOTE)]),
+    ("PyDict_SetItem _additional_interfaces", -1006, [TYPE.format(-1017, NOTE)]),
+    ("PyDict_SetItem _implicit_interfaces", -1006, [TYPE.format(-1018, NOTE)]),
     ("PyDict_SetItemString alice_blue", -1006, [TYPE.format(-1020, "korvan.cad.Color,alice_blue")]),
     ("PyDict_SetItem _korvan_clr_castable_obj", -1006,
-     [TYPE.format(-1021, FIRST + ".CadException")]),
+     [TYPE.format(-1013, ENUM), TYPE.format(-1021, "AnnotationDirection")]),
     ("PyModule_AddObjectRef __package__", -1006, [MODULE.format(-1022, FIRST)]),
     ("PyModule_AddObjectRef __path__", -1006, [MODULE.format(-1022, "korvan.cad.cadexceptions")]),
 ]

@@ -55,7 +55,7 @@ class Start(unittest.TestCase):
             from korvan.cad.fileformats.cad import CadImage
             import korvan.cad as cad
             print(cad.VERSION, repr(cad.VERSION), cad.VERSION > cad._BACKWARD_COMPATIBILITY_THRESHOLD)
-            print(cad.__package__, cad.imageoptions.__package__, cad.fileformats.__path__)
+            print(cad.__package__, cad.sources.__package__, cad.fileformats.__path__)
             print(cad.imageoptions is korvan.cad.imageoptions, len(cad.get_pyinstaller_hook_dirs()))
             """
         )

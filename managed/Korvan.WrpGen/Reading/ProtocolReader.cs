@@ -33,6 +33,9 @@ internal static class ProtocolReader
         "contains", "length",
     ];
 
+    // The framework's ICollection changes nothing, so a class over it keeps its own ways to.
+    private static readonly HashSet<string> s_servedLooking = ["count", "copy", "contains", "length"];
+
     private static readonly HashSet<string> s_plumbing =
     [
         "GetEnumerator", "CopyTo", "IsSynchronized", "SyncRoot", "IsReadOnly", "IsFixedSize",
@@ -60,5 +63,8 @@ internal static class ProtocolReader
     public static bool Serves(TypeModel model, string managedName, string pythonName) =>
         model.Protocol is not (CollectionProtocol.None or CollectionProtocol.Indexer) &&
         (s_plumbing.Contains(managedName) ||
-         (model.Protocol != CollectionProtocol.Iterable && s_served.Contains(pythonName)));
+         (model.Protocol != CollectionProtocol.Iterable && ServedBy(model).Contains(pythonName)));
+
+    private static HashSet<string> ServedBy(TypeModel model) =>
+        model.Protocol == CollectionProtocol.Collection && model.ProtocolElement is null ? s_servedLooking : s_served;
 }

@@ -1,4 +1,3 @@
-using System.Collections;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadTables;
@@ -7,19 +6,23 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>The programs that attached data to a drawing.</summary>
-public class CadAppIdDictionary : IEnumerable<CadAppIdTableObject>
+public class CadAppIdDictionary : NonGenericDictionary
 {
-    private readonly NamedObjects<CadAppIdTableObject> _items = new(static item => item.Name);
+    private readonly NamedObjects<CadAppIdTableObject> _items;
 
     internal CadAppIdDictionary()
+        : this(new NamedObjects<CadAppIdTableObject>("application"))
     {
     }
 
-    /// <summary>Gets how many there are.</summary>
-    public int Count => _items.Items.Count;
+    private CadAppIdDictionary(NamedObjects<CadAppIdTableObject> items)
+        : base(new NamedEntries<CadAppIdTableObject>(items))
+    {
+        _items = items;
+    }
 
     /// <summary>Gets the names, in order.</summary>
-    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Key)];
 
     internal List<CadAppIdTableObject> Items => _items.Items;
 
@@ -52,8 +55,5 @@ public class CadAppIdDictionary : IEnumerable<CadAppIdTableObject>
     public bool Remove(CadAppIdTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
-    public IEnumerator<CadAppIdTableObject> GetEnumerator() => _items.Items.GetEnumerator();
-
-    /// <inheritdoc/>
-    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+    public List<CadAppIdTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

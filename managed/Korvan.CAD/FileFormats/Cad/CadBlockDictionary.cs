@@ -1,4 +1,3 @@
-using System.Collections;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -7,19 +6,23 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>The blocks of a drawing, model and paper space among them.</summary>
-public class CadBlockDictionary : IEnumerable<CadBlockEntity>
+public class CadBlockDictionary : NonGenericDictionary
 {
-    private readonly NamedObjects<CadBlockEntity> _items = new(static item => item.Name);
+    private readonly NamedObjects<CadBlockEntity> _items;
 
     internal CadBlockDictionary()
+        : this(new NamedObjects<CadBlockEntity>("block"))
     {
     }
 
-    /// <summary>Gets how many there are.</summary>
-    public int Count => _items.Items.Count;
+    private CadBlockDictionary(NamedObjects<CadBlockEntity> items)
+        : base(new NamedEntries<CadBlockEntity>(items))
+    {
+        _items = items;
+    }
 
     /// <summary>Gets the names, in order.</summary>
-    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Key)];
 
     internal List<CadBlockEntity> Items => _items.Items;
 
@@ -52,8 +55,5 @@ public class CadBlockDictionary : IEnumerable<CadBlockEntity>
     public bool Remove(CadBlockEntity item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
-    public IEnumerator<CadBlockEntity> GetEnumerator() => _items.Items.GetEnumerator();
-
-    /// <inheritdoc/>
-    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+    public List<CadBlockEntity>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -1,4 +1,3 @@
-using System.Collections;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadTables;
@@ -7,19 +6,23 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>The block records of a drawing; releases up to 12 have none.</summary>
-public class CadBlockRecordList : IEnumerable<CadBlockTableObject>
+public class CadBlockRecordList : NonGenericList
 {
-    private readonly NamedObjects<CadBlockTableObject> _items = new(static item => item.Name);
+    private readonly NamedObjects<CadBlockTableObject> _items;
 
     internal CadBlockRecordList()
+        : this(new NamedObjects<CadBlockTableObject>("block record"))
     {
     }
 
-    /// <summary>Gets how many there are.</summary>
-    public int Count => _items.Items.Count;
+    private CadBlockRecordList(NamedObjects<CadBlockTableObject> items)
+        : base(items)
+    {
+        _items = items;
+    }
 
     /// <summary>Gets the names, in order.</summary>
-    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Key)];
 
     internal List<CadBlockTableObject> Items => _items.Items;
 
@@ -52,8 +55,5 @@ public class CadBlockRecordList : IEnumerable<CadBlockTableObject>
     public bool Remove(CadBlockTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
-    public IEnumerator<CadBlockTableObject> GetEnumerator() => _items.Items.GetEnumerator();
-
-    /// <inheritdoc/>
-    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+    public List<CadBlockTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

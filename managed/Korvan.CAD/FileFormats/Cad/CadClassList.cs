@@ -1,4 +1,3 @@
-using System.Collections;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -7,19 +6,23 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>The classes that programs added to a drawing.</summary>
-public class CadClassList : IEnumerable<CadClassEntity>
+public class CadClassList : NonGenericList
 {
-    private readonly NamedObjects<CadClassEntity> _items = new(static item => item.DxfRecordName);
+    private readonly NamedObjects<CadClassEntity> _items;
 
     internal CadClassList()
+        : this(new NamedObjects<CadClassEntity>("class"))
     {
     }
 
-    /// <summary>Gets how many there are.</summary>
-    public int Count => _items.Items.Count;
+    private CadClassList(NamedObjects<CadClassEntity> items)
+        : base(items)
+    {
+        _items = items;
+    }
 
     /// <summary>Gets the names, in order.</summary>
-    public string[] Names => [.. _items.Items.ConvertAll(static item => item.DxfRecordName)];
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Key)];
 
     internal List<CadClassEntity> Items => _items.Items;
 
@@ -52,8 +55,5 @@ public class CadClassList : IEnumerable<CadClassEntity>
     public bool Remove(CadClassEntity item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
-    public IEnumerator<CadClassEntity> GetEnumerator() => _items.Items.GetEnumerator();
-
-    /// <inheritdoc/>
-    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+    public List<CadClassEntity>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

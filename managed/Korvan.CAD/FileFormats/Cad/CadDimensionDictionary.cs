@@ -1,4 +1,3 @@
-using System.Collections;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadTables;
@@ -7,19 +6,23 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>The dimension styles of a drawing.</summary>
-public class CadDimensionDictionary : IEnumerable<CadDimensionStyleTable>
+public class CadDimensionDictionary : NonGenericDictionary
 {
-    private readonly NamedObjects<CadDimensionStyleTable> _items = new(static item => item.Name);
+    private readonly NamedObjects<CadDimensionStyleTable> _items;
 
     internal CadDimensionDictionary()
+        : this(new NamedObjects<CadDimensionStyleTable>("dimension style"))
     {
     }
 
-    /// <summary>Gets how many there are.</summary>
-    public int Count => _items.Items.Count;
+    private CadDimensionDictionary(NamedObjects<CadDimensionStyleTable> items)
+        : base(new NamedEntries<CadDimensionStyleTable>(items))
+    {
+        _items = items;
+    }
 
     /// <summary>Gets the names, in order.</summary>
-    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Key)];
 
     internal List<CadDimensionStyleTable> Items => _items.Items;
 
@@ -52,8 +55,5 @@ public class CadDimensionDictionary : IEnumerable<CadDimensionStyleTable>
     public bool Remove(CadDimensionStyleTable item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
-    public IEnumerator<CadDimensionStyleTable> GetEnumerator() => _items.Items.GetEnumerator();
-
-    /// <inheritdoc/>
-    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+    public List<CadDimensionStyleTable>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -1,12 +1,15 @@
 using System;
 using System.Collections.Generic;
 using System.IO;
+using Korvan.CAD.Annotations;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
+using Korvan.CAD.Rendering.Mesh;
+using Korvan.CAD.WatermarkGuard;
 
 namespace Korvan.CAD.FileFormats.Cad;
 
@@ -116,6 +119,12 @@ public partial class CadImage : Image
     /// <inheritdoc/>
     public override bool IsCached => true;
 
+    /// <inheritdoc/>
+    public override IAnnotationService AnnotationService => new DrawingAnnotations(this);
+
+    /// <inheritdoc/>
+    public override IWatermarkGuardService WatermarkGuardService => new DrawingWatermark(this);
+
     internal CadBlockEntity ModelSpace { get; set; }
 
     internal CadBlockEntity PaperSpace { get; set; }
@@ -156,6 +165,22 @@ public partial class CadImage : Image
         CadLayout layout = Layouts[layoutName];
         return BlockOf(layout)?.Entities
             ?? throw new CadException($"The block of the layout '{layoutName}' is missing.");
+    }
+
+    /// <summary>Gives the faces of the visible entities of model space in world coordinates: faces, meshes and solids,
+    /// and what has a thickness. References to blocks are followed.</summary>
+    /// <exception cref="CadException">A block contains itself, or there are more than 50 million faces.</exception>
+    public DrawingEntity3D[] GetEntities3D()
+    {
+        VerifyNotDisposed();
+        try
+        {
+            return [.. MeshScene.Collect(this, null).ConvertAll(static part => new DrawingEntity3D(part))];
+        }
+        catch (RenderException e)
+        {
+            throw new CadException(e.Message, e);
+        }
     }
 
     /// <inheritdoc/>

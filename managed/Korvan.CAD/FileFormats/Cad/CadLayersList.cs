@@ -1,4 +1,3 @@
-using System.Collections;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadTables;
@@ -7,19 +6,23 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>The layers of a drawing.</summary>
-public class CadLayersList : IEnumerable<CadLayerTable>
+public class CadLayersList : NonGenericList
 {
-    private readonly NamedObjects<CadLayerTable> _items = new(static item => item.Name);
+    private readonly NamedObjects<CadLayerTable> _items;
 
     internal CadLayersList()
+        : this(new NamedObjects<CadLayerTable>("layer"))
     {
     }
 
-    /// <summary>Gets how many there are.</summary>
-    public int Count => _items.Items.Count;
+    private CadLayersList(NamedObjects<CadLayerTable> items)
+        : base(items)
+    {
+        _items = items;
+    }
 
     /// <summary>Gets the names, in order.</summary>
-    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Key)];
 
     internal List<CadLayerTable> Items => _items.Items;
 
@@ -52,8 +55,5 @@ public class CadLayersList : IEnumerable<CadLayerTable>
     public bool Remove(CadLayerTable item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
-    public IEnumerator<CadLayerTable> GetEnumerator() => _items.Items.GetEnumerator();
-
-    /// <inheritdoc/>
-    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+    public List<CadLayerTable>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

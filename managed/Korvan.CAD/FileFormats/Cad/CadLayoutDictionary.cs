@@ -1,4 +1,3 @@
-using System.Collections;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -7,19 +6,23 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>The layouts of a drawing: the model and sheets of paper.</summary>
-public class CadLayoutDictionary : IEnumerable<CadLayout>
+public class CadLayoutDictionary : NonGenericDictionary
 {
-    private readonly NamedObjects<CadLayout> _items = new(static item => item.LayoutName);
+    private readonly NamedObjects<CadLayout> _items;
 
     internal CadLayoutDictionary()
+        : this(new NamedObjects<CadLayout>("layout"))
     {
     }
 
-    /// <summary>Gets how many there are.</summary>
-    public int Count => _items.Items.Count;
+    private CadLayoutDictionary(NamedObjects<CadLayout> items)
+        : base(new NamedEntries<CadLayout>(items))
+    {
+        _items = items;
+    }
 
     /// <summary>Gets the names, in order.</summary>
-    public string[] Names => [.. _items.Items.ConvertAll(static item => item.LayoutName)];
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Key)];
 
     internal List<CadLayout> Items => _items.Items;
 
@@ -52,8 +55,5 @@ public class CadLayoutDictionary : IEnumerable<CadLayout>
     public bool Remove(CadLayout item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
-    public IEnumerator<CadLayout> GetEnumerator() => _items.Items.GetEnumerator();
-
-    /// <inheritdoc/>
-    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+    public List<CadLayout>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

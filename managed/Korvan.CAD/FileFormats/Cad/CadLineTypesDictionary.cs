@@ -1,4 +1,3 @@
-using System.Collections;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadTables;
@@ -7,19 +6,23 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>The line types of a drawing.</summary>
-public class CadLineTypesDictionary : IEnumerable<CadLineTypeTableObject>
+public class CadLineTypesDictionary : NonGenericDictionary
 {
-    private readonly NamedObjects<CadLineTypeTableObject> _items = new(static item => item.Name);
+    private readonly NamedObjects<CadLineTypeTableObject> _items;
 
     internal CadLineTypesDictionary()
+        : this(new NamedObjects<CadLineTypeTableObject>("line type"))
     {
     }
 
-    /// <summary>Gets how many there are.</summary>
-    public int Count => _items.Items.Count;
+    private CadLineTypesDictionary(NamedObjects<CadLineTypeTableObject> items)
+        : base(new NamedEntries<CadLineTypeTableObject>(items))
+    {
+        _items = items;
+    }
 
     /// <summary>Gets the names, in order.</summary>
-    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Key)];
 
     internal List<CadLineTypeTableObject> Items => _items.Items;
 
@@ -52,8 +55,5 @@ public class CadLineTypesDictionary : IEnumerable<CadLineTypeTableObject>
     public bool Remove(CadLineTypeTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
-    public IEnumerator<CadLineTypeTableObject> GetEnumerator() => _items.Items.GetEnumerator();
-
-    /// <inheritdoc/>
-    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+    public List<CadLineTypeTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

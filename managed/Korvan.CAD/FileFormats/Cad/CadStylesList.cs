@@ -1,4 +1,3 @@
-using System.Collections;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadTables;
@@ -7,19 +6,23 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>The text styles of a drawing.</summary>
-public class CadStylesList : IEnumerable<CadStyleTableObject>
+public class CadStylesList : NonGenericList
 {
-    private readonly NamedObjects<CadStyleTableObject> _items = new(static item => item.Name);
+    private readonly NamedObjects<CadStyleTableObject> _items;
 
     internal CadStylesList()
+        : this(new NamedObjects<CadStyleTableObject>("text style"))
     {
     }
 
-    /// <summary>Gets how many there are.</summary>
-    public int Count => _items.Items.Count;
+    private CadStylesList(NamedObjects<CadStyleTableObject> items)
+        : base(items)
+    {
+        _items = items;
+    }
 
     /// <summary>Gets the names, in order.</summary>
-    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Key)];
 
     internal List<CadStyleTableObject> Items => _items.Items;
 
@@ -52,8 +55,5 @@ public class CadStylesList : IEnumerable<CadStyleTableObject>
     public bool Remove(CadStyleTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
-    public IEnumerator<CadStyleTableObject> GetEnumerator() => _items.Items.GetEnumerator();
-
-    /// <inheritdoc/>
-    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+    public List<CadStyleTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -1,4 +1,3 @@
-using System.Collections;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadTables;
@@ -7,19 +6,23 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>The named coordinate systems of a drawing.</summary>
-public class CadUcsList : IEnumerable<CadUcsTableObject>
+public class CadUcsList : NonGenericList
 {
-    private readonly NamedObjects<CadUcsTableObject> _items = new(static item => item.Name);
+    private readonly NamedObjects<CadUcsTableObject> _items;
 
     internal CadUcsList()
+        : this(new NamedObjects<CadUcsTableObject>("coordinate system"))
     {
     }
 
-    /// <summary>Gets how many there are.</summary>
-    public int Count => _items.Items.Count;
+    private CadUcsList(NamedObjects<CadUcsTableObject> items)
+        : base(items)
+    {
+        _items = items;
+    }
 
     /// <summary>Gets the names, in order.</summary>
-    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Key)];
 
     internal List<CadUcsTableObject> Items => _items.Items;
 
@@ -52,8 +55,5 @@ public class CadUcsList : IEnumerable<CadUcsTableObject>
     public bool Remove(CadUcsTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
-    public IEnumerator<CadUcsTableObject> GetEnumerator() => _items.Items.GetEnumerator();
-
-    /// <inheritdoc/>
-    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+    public List<CadUcsTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -1,4 +1,3 @@
-using System.Collections;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadTables;
@@ -7,19 +6,23 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>The named views of a drawing.</summary>
-public class CadViewList : IEnumerable<CadViewTableObject>
+public class CadViewList : NonGenericList
 {
-    private readonly NamedObjects<CadViewTableObject> _items = new(static item => item.Name);
+    private readonly NamedObjects<CadViewTableObject> _items;
 
     internal CadViewList()
+        : this(new NamedObjects<CadViewTableObject>("view"))
     {
     }
 
-    /// <summary>Gets how many there are.</summary>
-    public int Count => _items.Items.Count;
+    private CadViewList(NamedObjects<CadViewTableObject> items)
+        : base(items)
+    {
+        _items = items;
+    }
 
     /// <summary>Gets the names, in order.</summary>
-    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Key)];
 
     internal List<CadViewTableObject> Items => _items.Items;
 
@@ -52,8 +55,5 @@ public class CadViewList : IEnumerable<CadViewTableObject>
     public bool Remove(CadViewTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
-    public IEnumerator<CadViewTableObject> GetEnumerator() => _items.Items.GetEnumerator();
-
-    /// <inheritdoc/>
-    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+    public List<CadViewTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

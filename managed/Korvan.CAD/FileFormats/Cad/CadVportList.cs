@@ -1,4 +1,3 @@
-using System.Collections;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadTables;
@@ -7,19 +6,23 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>The screen parts of a drawing; several may have one name.</summary>
-public class CadVportList : IEnumerable<CadVportTableObject>
+public class CadVportList : NonGenericList
 {
-    private readonly NamedObjects<CadVportTableObject> _items = new(static item => item.Name);
+    private readonly NamedObjects<CadVportTableObject> _items;
 
     internal CadVportList()
+        : this(new NamedObjects<CadVportTableObject>("screen part"))
     {
     }
 
-    /// <summary>Gets how many there are.</summary>
-    public int Count => _items.Items.Count;
+    private CadVportList(NamedObjects<CadVportTableObject> items)
+        : base(items)
+    {
+        _items = items;
+    }
 
     /// <summary>Gets the names, in order.</summary>
-    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Name)];
+    public string[] Names => [.. _items.Items.ConvertAll(static item => item.Key)];
 
     internal List<CadVportTableObject> Items => _items.Items;
 
@@ -52,8 +55,5 @@ public class CadVportList : IEnumerable<CadVportTableObject>
     public bool Remove(CadVportTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
-    public IEnumerator<CadVportTableObject> GetEnumerator() => _items.Items.GetEnumerator();
-
-    /// <inheritdoc/>
-    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+    public List<CadVportTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -196,7 +196,7 @@ internal static class PngEncoder
 
         public override int Read(byte[] data, int offset, int count) => throw new NotSupportedException();
 
-        public override long Seek(long offset, SeekOrigin origin) => throw new NotSupportedException();
+        public override long Seek(long offset, System.IO.SeekOrigin origin) => throw new NotSupportedException();
 
         public override void SetLength(long value) => throw new NotSupportedException();
     }

@@ -28,9 +28,9 @@ internal sealed class Nurbs
         rational = Array.Exists(weights, w => Math.Abs(w - weights[0]) > 1e-12 * Math.Abs(weights[0]));
     }
 
-    private double First => knots[degree];
+    internal double First => knots[degree];
 
-    private double Last => knots[points.Length];
+    internal double Last => knots[points.Length];
 
     /// <summary>Returns null for data that do not make a curve: too few points, falling knots, weights of no sign.</summary>
     internal static Nurbs? Create(int degree, IReadOnlyList<double> knots, IReadOnlyList<Vec3> points, IReadOnlyList<double>? weights)

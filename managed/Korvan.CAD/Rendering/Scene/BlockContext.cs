@@ -24,6 +24,18 @@ internal sealed record BlockContext
     /// <summary>Set inside of a viewport: layers frozen there.</summary>
     internal ViewportScope? Viewport { get; init; }
 
+    /// <summary>What the entities of a block inherit that is drawn from here.</summary>
+    internal BlockContext Inside(BlockInfo block, in Affine3 map, LayerInfo layer, in Pen pen) => new()
+    {
+        Map = map,
+        Parent = this,
+        BlockName = block.Name,
+        Depth = Depth + 1,
+        Layer = layer,
+        ByBlock = pen,
+        Viewport = Viewport,
+    };
+
     internal bool IsInside(string block)
     {
         for (BlockContext? c = this; c != null; c = c.Parent)

@@ -8,9 +8,6 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <content>Block references, their arrays and attributes, and dimensions, which are blocks of their own.</content>
 internal sealed partial class SceneBuilder
 {
-    private const int DeepestNesting = 64;
-    private const long MostCells = 1_000_000;
-
     private void DrawInsert(CadInsertObject insert, LayerInfo layer, BlockContext context)
     {
         if (pens.IsFrozen(layer, context) || (style.AsPlotted && !layer.IsPlotted))
@@ -48,58 +45,25 @@ internal sealed partial class SceneBuilder
 
     private void DrawCells(CadInsertObject insert, BlockInfo block, LayerInfo layer, in Pen pen, BlockContext context)
     {
-        long columns = Math.Max(1, (int)insert.ColumnCount);
-        long rows = Math.Max(1, (int)insert.RowCount);
-        if (columns * rows > MostCells)
+        foreach ((Vec3 cell, Affine3 map) in BlockCells.Of(insert, block, context))
         {
-            throw new RenderException(
-                $"A reference to the block \"{insert.Name}\" repeats it {columns} × {rows} times; at most {MostCells} cells can be drawn.");
-        }
-
-        Affine3 ocs = InObject(context, insert.ExtrusionDirection);
-        Affine3 placed = ocs * Affine3.Translation(V(insert.InsertionPoint)) * Affine3.RotationZ(Radians(insert.RotationAngle));
-        Affine3 inner = Affine3.Scaling(NotZero(insert.ScaleX), NotZero(insert.ScaleY), NotZero(insert.ScaleZ)) * Affine3.Translation(-block.Base);
-        for (long row = 0; row < rows; row++)
-        {
-            for (long column = 0; column < columns; column++)
-            {
-                var cell = new Vec3(column * insert.ColumnSpacing, row * insert.RowSpacing, 0);
-                DrawBlock(block, placed * Affine3.Translation(cell) * inner, layer, pen, context);
-                DrawAttributes(insert, cell, pen, context);
-            }
+            DrawBlock(block, map, layer, pen, context);
+            DrawAttributes(insert, cell, pen, context);
         }
     }
 
-    private static double NotZero(double scale) => scale == 0 ? 1 : scale;
+    private static double NotZero(double scale) => BlockCells.NotZero(scale);
 
     private void DrawBlock(BlockInfo block, in Affine3 map, LayerInfo layer, in Pen pen, BlockContext context)
     {
-        if (context.IsInside(block.Name))
-        {
-            throw new RenderException($"The block \"{block.Name}\" contains a reference to itself, so it has no end.");
-        }
-
-        if (context.Depth >= DeepestNesting)
-        {
-            throw new RenderException($"The block \"{block.Name}\" is nested more than {DeepestNesting} levels deep.");
-        }
-
+        BlockCells.VerifyNesting(block, context);
         if (!map.IsFinite)
         {
             List.Skip("INSERT that is not finite");
             return;
         }
 
-        DrawSpace(block, new BlockContext
-        {
-            Map = map,
-            Parent = context,
-            BlockName = block.Name,
-            Depth = context.Depth + 1,
-            Layer = layer,
-            ByBlock = pen,
-            Viewport = context.Viewport,
-        });
+        DrawSpace(block, context.Inside(block, map, layer, pen));
     }
 
     private void DrawDimension(CadDimensionBase dimension, LayerInfo layer, BlockContext context)

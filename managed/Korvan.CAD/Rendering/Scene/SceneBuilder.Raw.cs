@@ -149,51 +149,15 @@ internal sealed partial class SceneBuilder
         DrawBlock(block, context.Map * placed * Affine3.Translation(-block.Base), layer, pen, context);
     }
 
-    /// <summary>The cage of a subdivision mesh: its vertices, then faces as counts followed by indexes.</summary>
     private void DrawSubdivisionMesh(TagCursor tags, in Pen pen, BlockContext context)
     {
-        var points = new List<Vec3>();
-        var faces = new List<int>();
-        bool inFaces = false;
-        while (tags.Next())
-        {
-            switch (tags.Code)
-            {
-                case 10 when !inFaces:
-                    points.Add(tags.Point());
-                    break;
-                case 93:
-                    inFaces = true;
-                    break;
-                case 94:
-                    inFaces = false;
-                    break;
-                case 90 when inFaces:
-                    faces.Add(tags.Integer);
-                    break;
-            }
-        }
-
         var path = new PathPen(canvas.NewPath(), context.Map);
-        for (int i = 0; i < faces.Count && faces[i] > 1 && i + faces[i] < faces.Count; i += faces[i] + 1)
+        foreach (Vec3[] face in SubdivisionCage.Read(tags).Faces())
         {
-            for (int k = 0; k <= faces[i]; k++)
+            path.MoveTo(face[^1]);
+            foreach (Vec3 corner in face)
             {
-                int index = faces[i + 1 + (k % faces[i])];
-                if (index < 0 || index >= points.Count)
-                {
-                    List.Skip("MESH with missing vertices");
-                    return;
-                }
-
-                if (k == 0)
-                {
-                    path.MoveTo(points[index]);
-                }
-                else
-                {
-                    path.LineTo(points[index]);
-                }
+                path.LineTo(corner);
             }
         }
 

@@ -111,7 +111,7 @@ internal static class SceneReader
 
     private static List<LayoutInfo> Layouts(CadImage image, SceneTables tables, BlockInfo model, BlockInfo paper)
     {
-        var names = image.BlockRecords.ToLookup(r => r.ObjectHandle, r => r.Name, StringComparer.OrdinalIgnoreCase);
+        var names = image.BlockRecords.Items.ToLookup(r => r.ObjectHandle, r => r.Name, StringComparer.OrdinalIgnoreCase);
         var layouts = new List<LayoutInfo>();
         foreach (CadLayout layout in image.Layouts)
         {

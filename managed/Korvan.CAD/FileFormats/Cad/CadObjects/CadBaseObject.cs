@@ -6,7 +6,7 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>What every object of a drawing has: a handle, extended data, and whatever else stood in the file.</summary>
-public abstract partial class CadBaseObject
+public abstract partial class CadBaseObject : IKeyedObject
 {
     private CadXdataContainer? _xdata;
     private CadApplicationCodesContainer? _applicationCodes;
@@ -23,6 +23,10 @@ public abstract partial class CadBaseObject
         get => Handle == 0 ? "" : Handle.ToString("X", CultureInfo.InvariantCulture);
         set => Handle = HandleText.Parse(value);
     }
+
+    /// <summary>Gets what the object is found by among its like: its name in a table of named objects, otherwise its
+    /// handle.</summary>
+    public virtual string Key => ObjectHandle;
 
     /// <summary>Gets the extended data that programs attached, group codes from 1000 on.</summary>
     public CadXdataContainer XdataContainer => _xdata ??= new CadXdataContainer();

@@ -12,6 +12,9 @@ public partial class CadBlockEntity : CadEntityBase
     {
     }
 
+    /// <inheritdoc/>
+    public override string Key => Name;
+
     /// <summary>Gets or sets the name. Group code 2.</summary>
     [CadString(2)]
     public string Name { get; set; } = "";

@@ -4,12 +4,15 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A class of objects that a program added to the drawing.</summary>
-public class CadClassEntity
+public class CadClassEntity : IKeyedObject
 {
     /// <summary>Creates a class without names.</summary>
     public CadClassEntity()
     {
     }
+
+    /// <summary>Gets what the class is found by: the name of its records.</summary>
+    public string Key => DxfRecordName;
 
     /// <summary>Gets or sets the name that objects have in files. Group code 1.</summary>
     public string DxfRecordName { get; set; } = "";

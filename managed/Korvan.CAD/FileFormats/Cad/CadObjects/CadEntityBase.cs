@@ -1,11 +1,16 @@
+using Korvan.CAD.Annotations;
+using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.Measurement;
+using Korvan.CAD.Primitives;
+using Korvan.CAD.Rendering.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>Something that is drawn.</summary>
 [CadObject("", Subclass = "AcDbEntity")]
-public abstract partial class CadEntityBase : CadOwnedObjectBase
+public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEntity, IAnnotateable
 {
     internal CadEntityBase()
     {
@@ -16,6 +21,9 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase
 
     /// <summary>Gets the type as files name it, group code 0.</summary>
     public string TypeNameText => DxfName;
+
+    /// <summary>Gets the handle, which names the entity within its drawing.</summary>
+    public string UniqueId => ObjectHandle;
 
     /// <summary>Gets or sets the space that the entity lies in. Group code 67.</summary>
     [CadShort(67, Optional = true)]
@@ -78,4 +86,25 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase
     /// <summary>Gets or sets the shadows of the entity. Group code 284.</summary>
     [CadShort(284, Optional = true, Since = 2007)]
     public CadShadowMode ShadowMode { get; set; }
+
+    /// <summary>Gives the point that an annotation points to: the middle of the entity, in world coordinates.</summary>
+    /// <exception cref="CadException">The entity takes no room of its own, as a line without end.</exception>
+    public virtual Point3D GetAnnotationPoint()
+    {
+        Extents extents = new();
+        EntityExtents.Add(this, extents);
+        if (extents.IsEmpty)
+        {
+            throw new CadException($"An entity of the type {TypeNameText} has no middle; annotate a point instead.");
+        }
+
+        (Cad3DPoint min, Cad3DPoint max) = (extents.Min, extents.Max);
+        return new Point3D((min.X + max.X) / 2, (min.Y + max.Y) / 2, (min.Z + max.Z) / 2);
+    }
+
+    /// <inheritdoc/>
+    public double? GetLength() => EntityMeasure.Length(this);
+
+    /// <inheritdoc/>
+    public double? GetArea() => EntityMeasure.Area(this);
 }

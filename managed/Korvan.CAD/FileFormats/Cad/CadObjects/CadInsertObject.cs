@@ -1,6 +1,8 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.Primitives;
+using Korvan.CAD.Rendering.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -78,6 +80,13 @@ public partial class CadInsertObject : CadEntityBase
     internal override void WriteMarker(DxfTagWriter writer, string subclass)
     {
         base.WriteMarker(writer, subclass == SingleMarker && IsGrid ? GridMarker : subclass);
+    }
+
+    /// <inheritdoc/>
+    public override Point3D GetAnnotationPoint()
+    {
+        Vec3 place = EntityExtents.SystemOf(ExtrusionDirection).Point(new Vec3(InsertionPoint.X, InsertionPoint.Y, InsertionPoint.Z));
+        return new Point3D(place.X, place.Y, place.Z);
     }
 
     partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)

@@ -11,6 +11,9 @@ public partial class CadLayout : CadPlotSettings
     {
     }
 
+    /// <inheritdoc/>
+    public override string Key => LayoutName;
+
     /// <summary>Gets or sets the name that its tab shows. Group code 1.</summary>
     [CadString(1)]
     public string LayoutName { get; set; } = "";

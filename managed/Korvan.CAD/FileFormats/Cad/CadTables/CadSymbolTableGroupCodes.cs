@@ -10,6 +10,9 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
     {
     }
 
+    /// <inheritdoc/>
+    public override string Key => Name;
+
     /// <summary>Gets or sets the name. Group code 2.</summary>
     public string Name { get; set; } = "";
 

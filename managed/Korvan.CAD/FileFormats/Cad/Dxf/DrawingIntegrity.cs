@@ -142,7 +142,7 @@ internal static class DrawingIntegrity
     // What was taken from the list of layouts goes with its block and its entry in the dictionary.
     private static void RemoveLayouts(CadImage image)
     {
-        foreach (CadLayout layout in image.Objects.OfType<CadLayout>().Except(image.Layouts).ToList())
+        foreach (CadLayout layout in image.Objects.OfType<CadLayout>().Except(image.Layouts.Items).ToList())
         {
             image.Objects.Remove(layout);
             CadDictionaryBase? dictionary = NamedDictionary(image, LayoutDictionary);

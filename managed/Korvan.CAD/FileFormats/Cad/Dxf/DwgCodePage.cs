@@ -21,8 +21,22 @@ internal static class DwgCodePage
     /// Western European.</summary>
     internal static Encoding Get(string name)
     {
+        int number = Number(name);
+        try
+        {
+            return number == 65001 ? new UTF8Encoding(false) : Get(number);
+        }
+        catch (Exception e) when (e is ArgumentException or NotSupportedException)
+        {
+            return Get(1252);
+        }
+    }
+
+    /// <summary>Finds the number of the code page of a name.</summary>
+    internal static int Number(string name)
+    {
         string upper = name.Trim().ToUpperInvariant();
-        int number = upper switch
+        return upper switch
         {
             "UTF-8" or "UTF8" => 65001,
             "ASCII" or "" => 1252,
@@ -33,14 +47,6 @@ internal static class DwgCodePage
             "GB2312" => 936,
             _ => TrailingNumber(upper),
         };
-        try
-        {
-            return number == 65001 ? new UTF8Encoding(false) : Get(number);
-        }
-        catch (Exception e) when (e is ArgumentException or NotSupportedException)
-        {
-            return Get(1252);
-        }
     }
 
     private static int TrailingNumber(string name)

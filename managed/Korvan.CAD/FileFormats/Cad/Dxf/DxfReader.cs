@@ -20,6 +20,11 @@ internal sealed partial class DxfReader
         _tags = new DxfTagReader(data, fileName);
         _objects = new DxfObjectReader(_tags);
         _options = options;
+        if (options.SpecifiedMifEncoding != MifCodePages.Undefined || options.RecoverMalformedCifMif)
+        {
+            _tags.Escapes = new TextEscapes(options.SpecifiedMifEncoding, options.RecoverMalformedCifMif);
+        }
+
         if (options.SpecifiedEncoding != CodePages.Default)
         {
             _tags.Encoding = DwgCodePage.Get((int)options.SpecifiedEncoding);

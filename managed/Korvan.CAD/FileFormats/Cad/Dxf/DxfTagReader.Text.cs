@@ -30,6 +30,9 @@ internal sealed partial class DxfTagReader
     /// <summary>Gets or sets the encoding of texts in a drawing of UTF-8 that are not UTF-8.</summary>
     internal Encoding Fallback { get; set; } = Encoding.Latin1;
 
+    /// <summary>Gets or sets how sequences for single letters are read.</summary>
+    internal TextEscapes Escapes { get; set; } = TextEscapes.Standard;
+
     /// <summary>Gives the value as a text.</summary>
     internal string GetString()
     {
@@ -96,12 +99,12 @@ internal sealed partial class DxfTagReader
 
     private string Decode(ReadOnlySpan<byte> bytes)
     {
-        if (Ascii.IsValid(bytes) && !TextEscapes.MayHaveEscapes(bytes))
+        if (Ascii.IsValid(bytes) && !Escapes.MayHaveEscapes(bytes))
         {
             return Encoding.ASCII.GetString(bytes);
         }
 
         bool damaged = Encoding is UTF8Encoding && !Utf8.IsValid(bytes);
-        return TextEscapes.Decode((damaged ? Fallback : Encoding).GetString(bytes));
+        return Escapes.Decode((damaged ? Fallback : Encoding).GetString(bytes));
     }
 }

@@ -14,6 +14,7 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
 {
     private const int ChunkLength = 250;
 
+    private readonly Encoding _encoding = TextEscapes.Escaping(encoding);
     private readonly byte[] _buffer = new byte[1 << 16];
     private readonly List<string?> _keptFor = [];
     private int _used;
@@ -189,17 +190,17 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
 
     private void WriteText(string value)
     {
-        string text = Escaped(TextEscapes.Encode(value, encoding));
-        int most = encoding.GetMaxByteCount(text.Length);
+        string text = Escaped(value);
+        int most = _encoding.GetMaxByteCount(text.Length);
         if (most > _buffer.Length - 16)
         {
             Flush();
-            stream.Write(encoding.GetBytes(text));
+            stream.Write(_encoding.GetBytes(text));
             return;
         }
 
         Reserve(most);
-        _used += encoding.GetBytes(text, _buffer.AsSpan(_used));
+        _used += _encoding.GetBytes(text, _buffer.AsSpan(_used));
     }
 
     // A line break would end the value: control characters are a caret and a letter.

@@ -1,5 +1,5 @@
 using System;
-using System.Globalization;
+using System.Collections.Concurrent;
 using System.Text;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
@@ -8,16 +8,24 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// Letters that a code page lacks: <c>\U+XXXX</c> is one UTF-16 unit, <c>\M+nXXXX</c> a double byte of one of five
 /// East Asian code pages.
 /// </summary>
-internal static class TextEscapes
+/// <param name="page">The code page of all double bytes, whatever their digit says.</param>
+/// <param name="recover">Whether damaged sequences are read as what they were meant to be.</param>
+internal sealed class TextEscapes(MifCodePages page, bool recover)
 {
-    private static readonly int[] MultiBytePages = [932, 950, 949, 1361, 936];
+    /// <summary>Whole sequences, in the code pages that they name.</summary>
+    internal static readonly TextEscapes Standard = new(MifCodePages.Undefined, false);
 
-    internal static bool MayHaveEscapes(ReadOnlySpan<byte> text)
+    private static readonly ConcurrentDictionary<int, Encoding> Escapings = new();
+
+    private readonly MifCodePageDecoder _decoder = new(page);
+
+    internal bool MayHaveEscapes(ReadOnlySpan<byte> text)
     {
-        return text.IndexOf("\\U+"u8) >= 0 || text.IndexOf("\\M+"u8) >= 0;
+        return text.IndexOf("\\U+"u8) >= 0 || text.IndexOf("\\M+"u8) >= 0
+            || (recover && (text.IndexOf("\\u+"u8) >= 0 || text.IndexOf("\\m+"u8) >= 0));
     }
 
-    internal static string Decode(string text)
+    internal string Decode(string text)
     {
         int next = text.IndexOf('\\');
         if (next < 0)
@@ -39,54 +47,85 @@ internal static class TextEscapes
         return result.Append(text, done, text.Length - done).ToString();
     }
 
-    /// <summary>Replaces letters that an encoding lacks.</summary>
-    internal static string Encode(string text, Encoding encoding)
+    /// <summary>The encoding, which writes letters that it lacks as sequences.</summary>
+    internal static Encoding Escaping(Encoding encoding)
     {
-        if (Ascii.IsValid(text) || encoding is UTF8Encoding)
-        {
-            return text;
-        }
-
-        StringBuilder result = new(text.Length + 16);
-        Span<byte> bytes = stackalloc byte[16];
-        Span<char> back = stackalloc char[16];
-        foreach (char letter in text)
-        {
-            bool fits = letter < 128;
-            if (!fits && !char.IsSurrogate(letter))
-            {
-                int count = encoding.GetBytes([letter], bytes);
-                fits = encoding.GetChars(bytes[..count], back) == 1 && back[0] == letter;
-            }
-
-            _ = fits ? result.Append(letter) : result.Append(CultureInfo.InvariantCulture, $"\\U+{(int)letter:X4}");
-        }
-
-        return result.ToString();
+        return encoding is UTF8Encoding
+            ? encoding
+            : Escapings.GetOrAdd(encoding.CodePage, static number => WithFallback(DwgCodePage.Get(number)));
     }
 
-    private static bool TryTake(ReadOnlySpan<char> text, out string? letter, out int length)
+    private static Encoding WithFallback(Encoding encoding)
+    {
+        var result = (Encoding)encoding.Clone();
+        result.EncoderFallback = new CifReplacingEncoderFallback();
+        return result;
+    }
+
+    private bool TryTake(ReadOnlySpan<char> text, out string? letter, out int length)
+    {
+        if (TryTakeWhole(text, out letter, out length) || !recover)
+        {
+            return letter is not null;
+        }
+
+        // "\\U+00E9": the first backslash goes, too.
+        if (text is ['\\', '\\', ..] && TryTakeWhole(text[1..], out letter, out length))
+        {
+            length++;
+            return true;
+        }
+
+        return TryTakeDamaged(text, out letter, out length);
+    }
+
+    private bool TryTakeWhole(ReadOnlySpan<char> text, out string? letter, out int length)
     {
         letter = null;
         length = 0;
-        if (text.Length >= 7 && text[1] == 'U' && text[2] == '+'
-            && TryHex(text[3..7], out ushort unit))
+        if (text is ['\\', 'U', '+', ..] && text.Length >= 7 && MifCodePageDecoder.TryBytes(text[3..7], out ushort unit))
         {
             letter = ((char)unit).ToString();
             length = 7;
         }
-        else if (text.Length >= 8 && text[1] == 'M' && text[2] == '+' && text[3] is >= '1' and <= '5'
-            && TryHex(text[4..8], out ushort pair))
+        else if (text is ['\\', 'M', '+', ..] && _decoder.TryDecode(text, out letter))
         {
-            letter = DwgCodePage.Get(MultiBytePages[text[3] - '1']).GetString([(byte)(pair >> 8), (byte)pair]);
-            length = 8;
+            length = MifCodePageDecoder.SequenceLength;
         }
 
         return letter is not null;
     }
 
-    private static bool TryHex(ReadOnlySpan<char> text, out ushort value)
+    private bool TryTakeDamaged(ReadOnlySpan<char> text, out string? letter, out int length)
     {
-        return ushort.TryParse(text, NumberStyles.AllowHexSpecifier, CultureInfo.InvariantCulture, out value);
+        letter = null;
+        length = 0;
+        if (text is not ['\\', 'U' or 'u' or 'M' or 'm', '+', ..])
+        {
+            return false;
+        }
+
+        int digits = 0;
+        while (digits < 5 && 3 + digits < text.Length && char.IsAsciiHexDigit(text[3 + digits]))
+        {
+            digits++;
+        }
+
+        if (text[1] is 'U' or 'u')
+        {
+            digits = Math.Min(digits, 4);
+            letter = digits > 0 && MifCodePageDecoder.TryBytes(text.Slice(3, digits), out ushort unit) ? ((char)unit).ToString() : null;
+        }
+        else if (digits == 5)
+        {
+            _decoder.TryDecode(text, out letter);
+        }
+        else if (digits == 4 && page != MifCodePages.Undefined && MifCodePageDecoder.TryBytes(text.Slice(3, 4), out ushort pair))
+        {
+            letter = MifCodePageDecoder.Letters(page, pair);
+        }
+
+        length = 3 + digits;
+        return letter is not null;
     }
 }

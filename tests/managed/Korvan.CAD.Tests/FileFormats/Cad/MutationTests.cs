@@ -123,6 +123,6 @@ public class MutationTests
         return DxfText.Save(image).Replace("\r\n", "\n");
     }
 
-    private static string Count(CadImage image) => string.Join(' ', image.BlockEntities.SelectMany(block => block.Entities).GroupBy(entity => entity.TypeNameText)
+    private static string Count(CadImage image) => string.Join(' ', image.BlockEntities.Items.SelectMany(block => block.Entities).GroupBy(entity => entity.TypeNameText)
         .OrderBy(group => group.Key, StringComparer.Ordinal).Select(group => $"{group.Key}:{group.Count()}"));
 }

@@ -80,7 +80,7 @@ public class RealDrawingTests
     [DrawingFact]
     public void Polylines_have_their_vertices_in_place()
     {
-        CadPolylineBase[] polylines = [.. Load("lwg__example_2018.dxf").BlockEntities
+        CadPolylineBase[] polylines = [.. Load("lwg__example_2018.dxf").BlockEntities.Items
             .SelectMany(block => block.Entities).OfType<CadPolylineBase>()];
         Assert.NotEmpty(polylines);
         Assert.All(polylines, polyline => Assert.Contains(polyline.Vertices, vertex => !vertex.LocationPoint.Is(0, 0, 0)));
@@ -110,7 +110,7 @@ public class RealDrawingTests
 
     private static string Count(CadImage image)
     {
-        IEnumerable<string> names = image.BlockEntities.SelectMany(block => block.Entities).Select(entity => entity.TypeNameText);
+        IEnumerable<string> names = image.BlockEntities.Items.SelectMany(block => block.Entities).Select(entity => entity.TypeNameText);
         return string.Join(' ', names.GroupBy(name => name).OrderBy(group => group.Key, System.StringComparer.Ordinal)
             .Select(group => $"{group.Key}:{group.Count()}"));
     }

@@ -34,7 +34,7 @@ public class StructureTests
         Assert.False(layers.Remove(a));
         Assert.False(layers.Contains("beta"));
         Assert.Equal(2, layers.Count);
-        Assert.Equal(layers.Names, layers.Select(layer => layer.Name));
+        Assert.Equal(layers.Names, layers.Items.Select(layer => layer.Name));
         Assert.Contains("'Beta'", Assert.Throws<CadException>(() => layers["Beta"]).Message);
         Assert.Throws<ArgumentOutOfRangeException>(() => layers[2]);
         Assert.Throws<ArgumentNullException>(() => layers.Add(null!));

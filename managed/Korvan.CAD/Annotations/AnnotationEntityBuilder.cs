@@ -1,0 +1,145 @@
+using System;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.Primitives;
+
+namespace Korvan.CAD.Annotations;
+
+/// <summary>Makes annotations. Each step gives the builder itself, so that steps can be written one behind the
+/// other.</summary>
+public class AnnotationEntityBuilder
+{
+    private readonly string _text;
+    private Point3D? _point;
+    private string _target = "";
+    private AnnotationDirection _direction;
+    private double _height = 2.5;
+    private double? _distance;
+    private string _layer = "0";
+    private short _color = 256;
+
+    /// <summary>Begins an annotation.</summary>
+    /// <param name="text">What it says; lines are parted by line feeds.</param>
+    public AnnotationEntityBuilder(string text)
+    {
+        ArgumentException.ThrowIfNullOrWhiteSpace(text);
+        _text = text;
+    }
+
+    /// <summary>Lets the annotation speak of an entity; its arrow points to it.</summary>
+    /// <param name="target">The entity.</param>
+    public AnnotationEntityBuilder SetTarget(IAnnotateable target)
+    {
+        ArgumentNullException.ThrowIfNull(target);
+        _target = target.UniqueId;
+        _point = target.GetAnnotationPoint();
+        return this;
+    }
+
+    /// <summary>Sets the point that the arrow points to.</summary>
+    /// <param name="point">The point, in world coordinates.</param>
+    public AnnotationEntityBuilder SetPoint(Point3D point)
+    {
+        ArgumentNullException.ThrowIfNull(point);
+        _point = point;
+        return this;
+    }
+
+    /// <summary>Sets where the text stands, seen from the point.</summary>
+    /// <param name="direction">The side, or two of them for a corner.</param>
+    public AnnotationEntityBuilder SetDirection(AnnotationDirection direction)
+    {
+        _direction = direction;
+        return this;
+    }
+
+    /// <summary>Sets the height of the letters. 2.5 by default.</summary>
+    /// <param name="height">The height in drawing units, above 0.</param>
+    public AnnotationEntityBuilder SetTextHeight(double height)
+    {
+        _height = Positive(height, nameof(height));
+        return this;
+    }
+
+    /// <summary>Sets how far the text stands from the point. Six times the height of the letters by default.</summary>
+    /// <param name="distance">The distance in drawing units, above 0.</param>
+    public AnnotationEntityBuilder SetDistance(double distance)
+    {
+        _distance = Positive(distance, nameof(distance));
+        return this;
+    }
+
+    /// <summary>Sets the layer of text and arrow. "0" by default.</summary>
+    /// <param name="layerName">The name of the layer; it is added to the drawing when that is saved.</param>
+    public AnnotationEntityBuilder SetLayer(string layerName)
+    {
+        ArgumentException.ThrowIfNullOrWhiteSpace(layerName);
+        _layer = layerName;
+        return this;
+    }
+
+    /// <summary>Sets the colour of text and arrow. That of the layer by default.</summary>
+    /// <param name="colorId">The number of the colour: 1 to 255, 256 by layer.</param>
+    public AnnotationEntityBuilder SetColorId(short colorId)
+    {
+        _color = colorId;
+        return this;
+    }
+
+    /// <summary>Makes the annotation.</summary>
+    /// <exception cref="InvalidOperationException">Neither a target nor a point was set.</exception>
+    public AnnotationEntity Build()
+    {
+        Point3D tip = _point ?? throw new InvalidOperationException(
+            "The annotation points to nothing; set a target or a point before it is built.");
+        var mark = new AnnotationMark(Guid.NewGuid().ToString("N"), _target, _direction);
+        (double x, double y) = Side();
+        double distance = _distance ?? (6 * _height);
+        var end = new Cad3DPoint(tip.X + (x * distance), tip.Y + (y * distance), tip.Z);
+        return new AnnotationEntity(Note(end, x, y), Leader(tip, end), mark);
+    }
+
+    private static double Positive(double value, string name)
+    {
+        return double.IsFinite(value) && value > 0
+            ? value
+            : throw new ArgumentOutOfRangeException(name, value, "A length is a finite number above 0.");
+    }
+
+    /// <summary>The direction from the point to the text, of length 1.</summary>
+    private (double X, double Y) Side()
+    {
+        double x = Sign(AnnotationDirection.Right) - Sign(AnnotationDirection.Left);
+        double y = Sign(AnnotationDirection.Above) - Sign(AnnotationDirection.Below);
+        (x, y) = x == 0 && y == 0 ? (1, 1) : (x, y);
+        double length = Math.Sqrt((x * x) + (y * y));
+        return (x / length, y / length);
+    }
+
+    private int Sign(AnnotationDirection side) => (_direction & side) != 0 ? 1 : 0;
+
+    /// <summary>The text hangs by the side or corner that is nearest to the point.</summary>
+    private CadMText Note(Cad3DPoint at, double x, double y)
+    {
+        int column = x > 0 ? 0 : x < 0 ? 2 : 1;
+        int row = y < 0 ? 0 : y > 0 ? 2 : 1;
+        double gap = 0.4 * _height;
+        return new CadMText
+        {
+            Text = AnnotationText.Escape(_text),
+            InsertionPoint = new Cad3DPoint(at.X + (Math.Sign(x) * gap), at.Y + (Math.Sign(y) * gap), at.Z),
+            InitialTextHeight = _height,
+            AttachmentPoint = (CadAttachmentPoint)((3 * row) + column + 1),
+            LayerName = _layer,
+            ColorId = _color,
+        };
+    }
+
+    private CadLeader Leader(Point3D tip, Cad3DPoint end)
+    {
+        var leader = new CadLeader { LayerName = _layer, ColorId = _color, TextHeight = _height };
+        leader.Coordinates.Add(new Cad3DPoint(tip.X, tip.Y, tip.Z));
+        leader.Coordinates.Add(end);
+        return leader;
+    }
+}

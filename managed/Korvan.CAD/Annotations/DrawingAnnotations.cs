@@ -1,0 +1,82 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
+namespace Korvan.CAD.Annotations;
+
+/// <summary>The annotations among the entities of model space: multi-line texts and leaders that carry a mark.</summary>
+internal sealed class DrawingAnnotations(CadImage image) : IAnnotationService
+{
+    public int Count => GetAnnotations().Length;
+
+    public AnnotationEntity[] GetAnnotations()
+    {
+        Dictionary<string, CadLeader> leaders = [];
+        foreach (CadLeader leader in image.Entities.OfType<CadLeader>())
+        {
+            if (AnnotationMark.Of(leader) is { } mark)
+            {
+                leaders.TryAdd(mark.Id, leader);
+            }
+        }
+
+        List<AnnotationEntity> found = [];
+        foreach (CadMText note in image.Entities.OfType<CadMText>())
+        {
+            if (AnnotationMark.Of(note) is { } mark)
+            {
+                found.Add(new AnnotationEntity(note, leaders.GetValueOrDefault(mark.Id), mark));
+            }
+        }
+
+        return [.. found];
+    }
+
+    public AnnotationEntity[] GetAnnotationsOf(IAnnotateable target)
+    {
+        ArgumentNullException.ThrowIfNull(target);
+        return target.UniqueId.Length == 0
+            ? []
+            : [.. GetAnnotations().Where(one => string.Equals(one.TargetId, target.UniqueId, StringComparison.OrdinalIgnoreCase))];
+    }
+
+    public void Add(AnnotationEntity annotation)
+    {
+        ArgumentNullException.ThrowIfNull(annotation);
+        if (AnnotationMark.Of(annotation.Note) is not null)
+        {
+            throw new DataMissmatchError("The annotation stands in a drawing already; build another one.");
+        }
+
+        annotation.Mark.Put(annotation.Note);
+        if (annotation.Leader is { } leader)
+        {
+            annotation.Mark.Put(leader);
+            image.Entities.Add(leader);
+        }
+
+        image.Entities.Add(annotation.Note);
+    }
+
+    public bool Remove(AnnotationEntity annotation)
+    {
+        ArgumentNullException.ThrowIfNull(annotation);
+        if (annotation.Leader is { } leader)
+        {
+            image.Entities.Remove(leader);
+        }
+
+        return image.Entities.Remove(annotation.Note);
+    }
+
+    public void Clear()
+    {
+        foreach (AnnotationEntity annotation in GetAnnotations())
+        {
+            Remove(annotation);
+        }
+    }
+}

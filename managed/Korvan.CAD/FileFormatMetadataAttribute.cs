@@ -1,0 +1,36 @@
+using System;
+using Korvan.CAD.FileFormats;
+
+namespace Korvan.CAD;
+
+/// <summary>Says of a format what its files are called and what kind of content they have.</summary>
+[AttributeUsage(AttributeTargets.Field)]
+public sealed class FileFormatMetadataAttribute : Attribute
+{
+    /// <summary>Creates the attribute.</summary>
+    /// <param name="name">The name of the format.</param>
+    /// <param name="family">The family that it belongs to.</param>
+    /// <param name="category">The kind of content.</param>
+    /// <param name="extensions">The endings of file names, with their point, the usual one first.</param>
+    public FileFormatMetadataAttribute(
+        string name, FileFormatFamily family, FileFormatCategory category, params string[] extensions)
+    {
+        ArgumentNullException.ThrowIfNull(extensions);
+        Name = name;
+        Family = family;
+        Category = category;
+        Extensions = extensions;
+    }
+
+    /// <summary>Gets the name of the format.</summary>
+    public string Name { get; }
+
+    /// <summary>Gets the family that the format belongs to.</summary>
+    public FileFormatFamily Family { get; }
+
+    /// <summary>Gets the kind of content.</summary>
+    public FileFormatCategory Category { get; }
+
+    /// <summary>Gets the endings of file names, with their point, the usual one first.</summary>
+    public string[] Extensions { get; }
+}

@@ -1,0 +1,81 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using System.Reflection;
+
+namespace Korvan.CAD.FileFormats;
+
+/// <summary>What is known of a file format, and what the library does with its files.</summary>
+public class FileFormatInfo
+{
+    private static readonly Lazy<Dictionary<FileFormat, FileFormatInfo>> Known = new(ReadAll);
+
+    private readonly FileFormatMetadataAttribute _metadata;
+
+    private FileFormatInfo(FileFormat format, FileFormatMetadataAttribute metadata)
+    {
+        Format = format;
+        _metadata = metadata;
+    }
+
+    /// <summary>Gets the format.</summary>
+    public FileFormat Format { get; }
+
+    /// <summary>Gets the name of the format.</summary>
+    public string Name => _metadata.Name;
+
+    /// <summary>Gets the family that the format belongs to.</summary>
+    public FileFormatFamily Family => _metadata.Family;
+
+    /// <summary>Gets the kind of content.</summary>
+    public FileFormatCategory Category => _metadata.Category;
+
+    /// <summary>Gets the endings of file names, with their point, the usual one first.</summary>
+    public string[] Extensions => [.. _metadata.Extensions];
+
+    /// <summary>Gets whether files of the format can be loaded.</summary>
+    public bool CanLoad => SupportedFileFormats.Input.Contains(Format);
+
+    /// <summary>Gets whether files of the format can be written.</summary>
+    public bool CanSave => SupportedFileFormats.Output.Contains(Format);
+
+    internal static IEnumerable<FileFormatInfo> All => Known.Value.Values;
+
+    /// <summary>Gives what is known of a format.</summary>
+    /// <param name="format">The format.</param>
+    /// <exception cref="ArgumentOutOfRangeException">It is <see cref="FileFormat.Undefined"/>,
+    /// <see cref="FileFormat.Custom"/>, or no format at all.</exception>
+    public static FileFormatInfo Get(FileFormat format)
+    {
+        return Known.Value.TryGetValue(format, out FileFormatInfo? info)
+            ? info
+            : throw new ArgumentOutOfRangeException(nameof(format), format, "This is no format that files have.");
+    }
+
+    /// <summary>Gives the formats whose files have names with an ending, in the order of their numbers.</summary>
+    /// <param name="extension">The ending, with or without its point; upper and lower case are the same.</param>
+    public static FileFormatInfo[] FindByExtension(string extension)
+    {
+        ArgumentNullException.ThrowIfNull(extension);
+        string wanted = extension.StartsWith('.') ? extension : "." + extension;
+        return [.. All.Where(info => info._metadata.Extensions.Contains(wanted, StringComparer.OrdinalIgnoreCase))];
+    }
+
+    /// <inheritdoc/>
+    public override string ToString() => $"{Name} ({string.Join(", ", _metadata.Extensions)})";
+
+    private static Dictionary<FileFormat, FileFormatInfo> ReadAll()
+    {
+        Dictionary<FileFormat, FileFormatInfo> all = [];
+        foreach (FileFormat format in Enum.GetValues<FileFormat>())
+        {
+            FieldInfo member = typeof(FileFormat).GetField(format.ToString())!;
+            if (member.GetCustomAttribute<FileFormatMetadataAttribute>() is { } metadata)
+            {
+                all.Add(format, new FileFormatInfo(format, metadata));
+            }
+        }
+
+        return all;
+    }
+}

@@ -1,0 +1,17 @@
+using Korvan.CAD.Binding;
+
+namespace Korvan.CAD.ImageOptions;
+
+/// <summary>How the digest of a signed document is made.</summary>
+[PythonEnum(EnumKind.Flag)]
+public enum PdfDigitalSignatureHashAlgorithmCore
+{
+    /// <summary>SHA-256.</summary>
+    Sha256 = 0,
+
+    /// <summary>SHA-384.</summary>
+    Sha384 = 1,
+
+    /// <summary>SHA-512.</summary>
+    Sha512 = 2,
+}

@@ -1,0 +1,94 @@
+using System;
+using Korvan.CAD.CadExceptions;
+
+namespace Korvan.CAD.ImageOptions;
+
+/// <summary>How much room an encoded picture may take, and which qualities are tried for it: the best quality that
+/// keeps to the limit is the one that is written.</summary>
+public class RdOptimizerSettings
+{
+    private double _bppMax = 4;
+    private int _minQuality = 10;
+    private int _maxQuality = 95;
+
+    /// <summary>Creates settings with their defaults.</summary>
+    public RdOptimizerSettings()
+    {
+    }
+
+    /// <summary>Gets or sets the most bits for a pixel, above 0. 4 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is not above 0.</exception>
+    public double BppMax
+    {
+        get => _bppMax;
+        set
+        {
+            if (!(value > 0) || !double.IsFinite(value))
+            {
+                throw new ArgumentOutOfRangeException(nameof(value), value, "The bits for a pixel are a finite number above 0.");
+            }
+
+            _bppMax = value;
+        }
+    }
+
+    /// <summary>Gets or sets the lowest quality that is acceptable, 1 to 100. 10 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is not 1 to 100.</exception>
+    public int MinQuality
+    {
+        get => _minQuality;
+        set => _minQuality = Quality(value);
+    }
+
+    /// <summary>Gets or sets the highest quality that is worth its room, 1 to 100. 95 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is not 1 to 100.</exception>
+    public int MaxQuality
+    {
+        get => _maxQuality;
+        set => _maxQuality = Quality(value);
+    }
+
+    /// <summary>Finds the best encoding that keeps to the limit, by halving the range of qualities.</summary>
+    /// <param name="pixels">How many pixels the picture has.</param>
+    /// <param name="encode">Encodes the picture in a quality.</param>
+    /// <exception cref="RdOptimizationError">Even the lowest quality takes more room.</exception>
+    internal byte[] Optimize(long pixels, Func<int, byte[]> encode)
+    {
+        if (MinQuality > MaxQuality)
+        {
+            throw new RdOptimizationError($"The lowest quality, {MinQuality}, lies above the highest, {MaxQuality}.");
+        }
+
+        double most = BppMax * pixels / 8;
+        byte[]? best = null;
+        int low = MinQuality;
+        int high = MaxQuality;
+        int smallest = int.MaxValue;
+        while (low <= high)
+        {
+            int quality = (low + high) / 2;
+            byte[] tried = encode(quality);
+            smallest = Math.Min(smallest, tried.Length);
+            if (tried.Length <= most)
+            {
+                best = tried;
+                low = quality + 1;
+            }
+            else
+            {
+                high = quality - 1;
+            }
+        }
+
+        return best ?? throw new RdOptimizationError(
+            $"At quality {MinQuality} the picture takes {8.0 * smallest / pixels:0.##} bits for a pixel; "
+            + $"{BppMax:0.##} are allowed.");
+    }
+
+    private static int Quality(int value)
+    {
+        ArgumentOutOfRangeException.ThrowIfLessThan(value, 1);
+        ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 100);
+        return value;
+    }
+}

@@ -1,0 +1,69 @@
+using System;
+
+namespace Korvan.CAD.Primitives;
+
+/// <summary>A point in the plane, in double precision.</summary>
+public class Point2D : IEquatable<Point2D>
+{
+    /// <summary>Creates the origin.</summary>
+    public Point2D()
+    {
+    }
+
+    /// <summary>Creates a point.</summary>
+    /// <param name="x">The abscissa.</param>
+    /// <param name="y">The ordinate.</param>
+    public Point2D(double x, double y)
+    {
+        X = x;
+        Y = y;
+    }
+
+    /// <summary>Gets or sets the abscissa.</summary>
+    public double X { get; set; }
+
+    /// <summary>Gets or sets the ordinate.</summary>
+    public double Y { get; set; }
+
+    /// <summary>Gives how far two points lie apart.</summary>
+    /// <param name="a">One point.</param>
+    /// <param name="b">The other.</param>
+    public static double Distance(Point2D a, Point2D b)
+    {
+        ArgumentNullException.ThrowIfNull(a);
+        ArgumentNullException.ThrowIfNull(b);
+        double dx = b.X - a.X;
+        double dy = b.Y - a.Y;
+        return Math.Sqrt((dx * dx) + (dy * dy));
+    }
+
+    /// <summary>Gives how far another point lies away.</summary>
+    /// <param name="other">The other point.</param>
+    public double Distance(Point2D other) => Distance(this, other);
+
+    /// <summary>Gives the point between this one and another.</summary>
+    /// <param name="other">The other point.</param>
+    /// <param name="part">How far towards it: 0 is here, 1 is there.</param>
+    public Point2D Between(Point2D other, double part)
+    {
+        ArgumentNullException.ThrowIfNull(other);
+        return new Point2D(X + ((other.X - X) * part), Y + ((other.Y - Y) * part));
+    }
+
+    /// <summary>Gives the point in space.</summary>
+    /// <param name="z">The elevation.</param>
+    public Point3D ToPoint3D(double z) => new(X, Y, z);
+
+    /// <summary>Tells whether another point has the same coordinates.</summary>
+    /// <param name="other">The other point.</param>
+    public bool Equals(Point2D? other) => other is not null && X == other.X && Y == other.Y;
+
+    /// <inheritdoc/>
+    public override bool Equals(object? obj) => Equals(obj as Point2D);
+
+    /// <inheritdoc/>
+    public override int GetHashCode() => HashCode.Combine(X, Y);
+
+    /// <inheritdoc/>
+    public override string ToString() => FormattableString.Invariant($"Point2D({X}, {Y})");
+}

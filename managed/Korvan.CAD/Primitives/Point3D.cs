@@ -1,0 +1,74 @@
+using System;
+
+namespace Korvan.CAD.Primitives;
+
+/// <summary>A point in space, in double precision.</summary>
+public class Point3D : IEquatable<Point3D>
+{
+    /// <summary>Creates the origin.</summary>
+    public Point3D()
+    {
+    }
+
+    /// <summary>Creates a point.</summary>
+    /// <param name="x">The abscissa.</param>
+    /// <param name="y">The ordinate.</param>
+    /// <param name="z">The elevation.</param>
+    public Point3D(double x, double y, double z)
+    {
+        X = x;
+        Y = y;
+        Z = z;
+    }
+
+    /// <summary>Gets or sets the abscissa.</summary>
+    public double X { get; set; }
+
+    /// <summary>Gets or sets the ordinate.</summary>
+    public double Y { get; set; }
+
+    /// <summary>Gets or sets the elevation.</summary>
+    public double Z { get; set; }
+
+    /// <summary>Gives how far two points lie apart.</summary>
+    /// <param name="a">One point.</param>
+    /// <param name="b">The other.</param>
+    public static double Distance(Point3D a, Point3D b)
+    {
+        ArgumentNullException.ThrowIfNull(a);
+        ArgumentNullException.ThrowIfNull(b);
+        double dx = b.X - a.X;
+        double dy = b.Y - a.Y;
+        double dz = b.Z - a.Z;
+        return Math.Sqrt((dx * dx) + (dy * dy) + (dz * dz));
+    }
+
+    /// <summary>Gives how far another point lies away.</summary>
+    /// <param name="other">The other point.</param>
+    public double Distance(Point3D other) => Distance(this, other);
+
+    /// <summary>Gives the point between this one and another.</summary>
+    /// <param name="other">The other point.</param>
+    /// <param name="part">How far towards it: 0 is here, 1 is there.</param>
+    public Point3D Between(Point3D other, double part)
+    {
+        ArgumentNullException.ThrowIfNull(other);
+        return new Point3D(X + ((other.X - X) * part), Y + ((other.Y - Y) * part), Z + ((other.Z - Z) * part));
+    }
+
+    /// <summary>Gives the point above or below in the plane of X and Y.</summary>
+    public Point2D ToPoint2D() => new(X, Y);
+
+    /// <summary>Tells whether another point has the same coordinates.</summary>
+    /// <param name="other">The other point.</param>
+    public bool Equals(Point3D? other) => other is not null && X == other.X && Y == other.Y && Z == other.Z;
+
+    /// <inheritdoc/>
+    public override bool Equals(object? obj) => Equals(obj as Point3D);
+
+    /// <inheritdoc/>
+    public override int GetHashCode() => HashCode.Combine(X, Y, Z);
+
+    /// <inheritdoc/>
+    public override string ToString() => FormattableString.Invariant($"Point3D({X}, {Y}, {Z})");
+}

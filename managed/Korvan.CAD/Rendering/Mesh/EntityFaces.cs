@@ -1,0 +1,263 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
+using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Rendering.Scene;
+
+namespace Korvan.CAD.Rendering.Mesh;
+
+/// <summary>The faces of one entity. An entity without faces, or whose corners are missing, adds none.</summary>
+internal static class EntityFaces
+{
+    private const int CircleSides = 64;
+    private const int SplineFrameVertex = 16;
+    private const int PolyfacePoint = 64;
+
+    internal static void Add(CadEntityBase entity, in Affine3 map, MeshPart part)
+    {
+        switch (entity)
+        {
+            case Cad3DFace f:
+                Mapped(part, map, [V(f.FirstPoint), V(f.SecondPoint), V(f.ThirdPoint), V(f.FourthPoint)]);
+                break;
+            case CadSolid s:
+                Prism(part, s, map, [V(s.FirstPoint), V(s.SecondPoint), V(s.FourthPoint), V(s.ThirdPoint)]);
+                break;
+            case CadTrace t:
+                Prism(part, t, map, [V(t.FirstPoint), V(t.SecondPoint), V(t.FourthPoint), V(t.ThirdPoint)]);
+                break;
+            case CadPolyFaceMesh mesh:
+                Polyface(part, mesh, map);
+                break;
+            case CadPolygonMesh mesh:
+                Net(part, mesh, map);
+                break;
+            case CadPolyline3D:
+                break;
+            case CadExtrudedEntityBase { Thickness: not 0 } thick:
+                Thick(part, thick, map);
+                break;
+            case { TypeNameText: "MESH" }:
+                Subdivision(part, new TagCursor(entity.UnknownCodes), map);
+                break;
+        }
+    }
+
+    private static Vec3 V(Cad3DPoint p) => new(p.X, p.Y, p.Z);
+
+    private static void Mapped(MeshPart part, in Affine3 map, ReadOnlySpan<Vec3> corners)
+    {
+        Span<Vec3> mapped = corners.Length <= 64 ? stackalloc Vec3[corners.Length] : new Vec3[corners.Length];
+        for (int i = 0; i < corners.Length; i++)
+        {
+            mapped[i] = map.Point(corners[i]);
+            if (!mapped[i].IsFinite)
+            {
+                return;
+            }
+        }
+
+        part.Face(mapped);
+    }
+
+    private static Affine3 InObject(CadExtrudedEntityBase entity, in Affine3 map) => map * Ocs.ToWorld(V(entity.ExtrusionDirection));
+
+    /// <summary>A flat face, or with a thickness two of them and the walls between.</summary>
+    private static void Prism(MeshPart part, CadExtrudedEntityBase entity, in Affine3 map, Vec3[] ring)
+    {
+        Affine3 ocs = InObject(entity, map);
+        if (entity.Thickness == 0)
+        {
+            Mapped(part, ocs, ring);
+            return;
+        }
+
+        Vec3 up = Vec3.UnitZ * entity.Thickness;
+        Vec3[] bottom = [.. ring];
+        Array.Reverse(bottom);
+        Mapped(part, ocs, bottom);
+        Mapped(part, ocs, Array.ConvertAll(ring, p => p + up));
+        Walls(part, ocs, ring, closed: true, up);
+    }
+
+    private static void Walls(MeshPart part, in Affine3 ocs, IReadOnlyList<Vec3> line, bool closed, Vec3 up)
+    {
+        int count = closed ? line.Count : line.Count - 1;
+        for (int i = 0; i < count; i++)
+        {
+            Vec3 a = line[i];
+            Vec3 b = line[(i + 1) % line.Count];
+            Mapped(part, ocs, [a, b, b + up, a + up]);
+        }
+    }
+
+    /// <summary>Lines become walls; a circle becomes a drum with its two lids.</summary>
+    private static void Thick(MeshPart part, CadExtrudedEntityBase entity, in Affine3 map)
+    {
+        Affine3 ocs = InObject(entity, map);
+        Vec3 up = Vec3.UnitZ * entity.Thickness;
+        switch (entity)
+        {
+            case CadArc arc:
+                double sweep = (arc.EndAngle - arc.StartAngle) % 360;
+                sweep = sweep <= 0 ? sweep + 360 : sweep;
+                Walls(part, ocs, Arc(V(arc.CenterPoint), arc.Radius, arc.StartAngle, sweep), closed: false, up);
+                break;
+            case CadCircle circle:
+                List<Vec3> ring = Arc(V(circle.CenterPoint), circle.Radius, 0, 360);
+                ring.RemoveAt(ring.Count - 1);
+                Prism(part, circle, map, [.. ring]);
+                break;
+            case CadLwPolyline polyline:
+                Walls(part, ocs, Line(polyline), polyline.IsClosed, up);
+                break;
+            case CadPolyline polyline:
+                Walls(part, ocs, Line(polyline), polyline.IsClosed, up);
+                break;
+            case CadLine line:
+
+                // The ends of a line stand in world coordinates; only its thickness follows the normal.
+                Walls(part, map, [V(line.FirstPoint), V(line.SecondPoint)], closed: false, V(line.ExtrusionDirection).Unit() * line.Thickness);
+                break;
+        }
+    }
+
+    private static List<Vec3> Arc(Vec3 center, double radius, double startDegrees, double sweepDegrees)
+    {
+        List<Vec3> points = [];
+        int steps = Math.Max(2, (int)Math.Ceiling(CircleSides * sweepDegrees / 360));
+        for (int i = 0; i <= steps; i++)
+        {
+            (double sin, double cos) = Math.SinCos((startDegrees + (sweepDegrees * i / steps)) * Math.PI / 180);
+            points.Add(center + new Vec3(radius * cos, radius * sin, 0));
+        }
+
+        return points;
+    }
+
+    private static List<Vec3> Line(CadLwPolyline polyline)
+    {
+        List<(Vec2 At, double Bulge)> vertices = [];
+        for (int i = 0; i < polyline.Coordinates.Count; i++)
+        {
+            vertices.Add((new Vec2(polyline.Coordinates[i].X, polyline.Coordinates[i].Y), polyline.BulgeAt(i)));
+        }
+
+        return Line(vertices, polyline.IsClosed, polyline.Elevation);
+    }
+
+    private static List<Vec3> Line(CadPolyline polyline)
+    {
+        List<(Vec2 At, double Bulge)> vertices = [];
+        foreach (CadVertexBase vertex in polyline.Vertices)
+        {
+            if ((vertex.VertexFlags & SplineFrameVertex) == 0)
+            {
+                vertices.Add((V(vertex.LocationPoint).Xy, vertex.Bulge));
+            }
+        }
+
+        return Line(vertices, polyline.IsClosed, polyline.Elevation.Z);
+    }
+
+    /// <summary>The vertices, and points on the arcs between them.</summary>
+    private static List<Vec3> Line(List<(Vec2 At, double Bulge)> vertices, bool closed, double elevation)
+    {
+        List<Vec3> points = [];
+        for (int i = 0; i < vertices.Count; i++)
+        {
+            (Vec2 from, double bulge) = vertices[i];
+            points.Add(new Vec3(from.X, from.Y, elevation));
+            bool last = i + 1 == vertices.Count;
+            if ((!last || closed) && BulgeArc.TryCreate(from, vertices[(i + 1) % vertices.Count].At, bulge, out BulgeArc arc))
+            {
+                int steps = Math.Max(2, (int)Math.Ceiling(CircleSides * Math.Abs(arc.Sweep) / Math.Tau));
+                for (int k = 1; k < steps; k++)
+                {
+                    Vec2 p = arc.At((double)k / steps);
+                    points.Add(new Vec3(p.X, p.Y, elevation));
+                }
+            }
+        }
+
+        return points;
+    }
+
+    private static void Polyface(MeshPart part, CadPolyFaceMesh mesh, in Affine3 map)
+    {
+        List<Vec3> points = [];
+        foreach (CadVertexBase vertex in mesh.Vertices)
+        {
+            if ((vertex.VertexFlags & PolyfacePoint) != 0)
+            {
+                points.Add(V(vertex.LocationPoint));
+            }
+        }
+
+        Span<Vec3> corners = stackalloc Vec3[4];
+        foreach (CadVertexBase vertex in mesh.Vertices)
+        {
+            if (vertex is CadFaceRecord face)
+            {
+                Mapped(part, map, corners[..Corners(points, face, corners)]);
+            }
+        }
+    }
+
+    // Indexes count from one; a negative one only hides an edge.
+    private static int Corners(List<Vec3> points, CadFaceRecord face, Span<Vec3> corners)
+    {
+        int count = 0;
+        foreach (int index in (ReadOnlySpan<int>)[face.VertexIndex1, face.VertexIndex2, face.VertexIndex3, face.VertexIndex4])
+        {
+            int at = Math.Abs(index) - 1;
+            if (at >= 0 && at < points.Count)
+            {
+                corners[count++] = points[at];
+            }
+        }
+
+        return count;
+    }
+
+    private static void Net(MeshPart part, CadPolygonMesh mesh, in Affine3 map)
+    {
+        bool smooth = (mesh.Flag & CadPolylineFlag.SplineFit) != 0 && mesh.SurfaceMDensity > 1 && mesh.SurfaceNDensity > 1;
+        int m = smooth ? mesh.SurfaceMDensity : mesh.MeshMVertexCount;
+        int n = smooth ? mesh.SurfaceNDensity : mesh.MeshNVertexCount;
+        List<CadVertexBase> points = smooth
+            ? mesh.Vertices.FindAll(v => (v.VertexFlags & SplineFrameVertex) == 0)
+            : mesh.Vertices;
+        if (m < 2 || n < 2 || (long)m * n > points.Count)
+        {
+            return;
+        }
+
+        int rows = mesh.IsClosed ? m : m - 1;
+        int columns = (mesh.Flag & CadPolylineFlag.ClosedN) != 0 ? n : n - 1;
+        for (int row = 0; row < rows; row++)
+        {
+            for (int column = 0; column < columns; column++)
+            {
+                int below = (row + 1) % m;
+                int right = (column + 1) % n;
+                Mapped(part, map, [At(row, column), At(below, column), At(below, right), At(row, right)]);
+            }
+        }
+
+        Vec3 At(int row, int column) => V(points[(row * n) + column].LocationPoint);
+    }
+
+    /// <summary>The cage of a subdivision mesh: its vertices, then faces as counts followed by indexes.</summary>
+    private static void Subdivision(MeshPart part, TagCursor tags, in Affine3 map)
+    {
+        SubdivisionCage cage = SubdivisionCage.Read(tags);
+        foreach (Vec3[] face in cage.Faces())
+        {
+            Mapped(part, map, face);
+        }
+    }
+}
