@@ -72,18 +72,29 @@ file(GLOB_RECURSE codec_sources CONFIGURE_DEPENDS "${managed}/Korvan.CAD.CodecGe
 korvan_dotnet_build("${KORVAN_STAMPS}/library" "${managed}/Korvan.CAD"
   SOURCES ${library_sources} ${codec_sources} COMMENT "Building the drawing library")
 
+# The classes of the schemas build on the library's reference assembly, which changes less often.
+korvan_managed_sources(schema_sources "${managed}/Korvan.CAD.Schemas" "${managed}/Korvan.CAD.SchemaGen")
+file(GLOB schema_tables CONFIGURE_DEPENDS "${managed}/Korvan.CAD.Schemas/Tables/*.table")
+korvan_dotnet_build("${KORVAN_STAMPS}/schemas" "${managed}/Korvan.CAD.Schemas"
+  SOURCES ${schema_sources} ${schema_tables} "${KORVAN_STAMPS}/library"
+  COMMENT "Building the classes of the schemas")
+
 korvan_managed_sources(generator_sources "${managed}/Korvan.WrpGen")
 korvan_dotnet_build("${KORVAN_STAMPS}/generator" "${managed}/Korvan.WrpGen"
   SOURCES ${generator_sources} COMMENT "Building the generator")
 
+set(library_folder "${KORVAN_DOTNET_ARTIFACTS}/bin/Korvan.CAD/release_linux-x64")
+set(schema_folder "${KORVAN_DOTNET_ARTIFACTS}/bin/Korvan.CAD.Schemas/release_linux-x64")
 korvan_generate(cad
-  ASSEMBLY "${KORVAN_DOTNET_ARTIFACTS}/bin/Korvan.CAD/release_linux-x64/Korvan.CAD.dll"
-  ROOT "Korvan.CAD=korvan.cad" INTEROP WrpInterop.Korvan.CAD SHARDS 6
-  DEPENDS "${KORVAN_STAMPS}/library")
+  ASSEMBLY "${library_folder}/Korvan.CAD.dll:${schema_folder}/Korvan.CAD.Schemas.dll"
+  ROOT "Korvan.CAD=korvan.cad" INTEROP WrpInterop.Korvan.CAD SHARDS 16
+  DEPENDS "${KORVAN_STAMPS}/library" "${KORVAN_STAMPS}/schemas")
 
 Python_add_library(cad MODULE WITH_SOABI
   native/cad/cad_module.cpp native/cad/dependencies.cpp native/cad/packaging_hook.cpp
   ${cad_shards})
+# Tables have nothing to step through, and their debug information would outweigh the module.
+set_source_files_properties(${cad_shards} PROPERTIES COMPILE_OPTIONS "-g0")
 target_include_directories(cad PRIVATE "${KORVAN_GENERATED}/cad/cpp")
 target_link_libraries(cad PRIVATE korvan_engine)
 add_dependencies(cad generate_cad)

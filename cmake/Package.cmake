@@ -5,7 +5,8 @@ set(KORVAN_ASSEMBLIES "${KORVAN_PACKAGE}/assemblies")
 korvan_managed_sources(interop_sources "${managed}/WrpInterop.Korvan.CAD")
 korvan_dotnet_publish("${KORVAN_STAMPS}/interop_cad" "${managed}/WrpInterop.Korvan.CAD"
   "${KORVAN_ASSEMBLIES}/cad"
-  SOURCES ${interop_sources} "${KORVAN_STAMPS}/library" "${KORVAN_GENERATED}/cad/generated.stamp"
+  SOURCES ${interop_sources} "${KORVAN_STAMPS}/library" "${KORVAN_STAMPS}/schemas"
+    "${KORVAN_GENERATED}/cad/generated.stamp"
   FLAGS "--property:GeneratedDir=${KORVAN_GENERATED}/cad/csharp"
   COMMENT "Compiling the managed interop of korvan.cad ahead of time")
 korvan_managed_sources(reflection_sources "${managed}/WrpInterop.Korvan.PyReflection")

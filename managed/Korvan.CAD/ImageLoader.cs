@@ -3,6 +3,7 @@ using System.IO;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Ifc.Model;
 
 namespace Korvan.CAD;
 
@@ -69,10 +70,12 @@ internal static class ImageLoader
             string what = format == FileFormat.Undefined
                 ? "is of no known format; its first bytes are not those of a drawing interchange file"
                 : $"is of format {format}, which cannot be read yet";
-            throw new ImageLoadException($"'{name}' {what}. Drawing interchange files (DXF) can be read.");
+            throw new ImageLoadException($"'{name}' {what}. Drawing interchange files (DXF) and building models (IFC) can be read.");
         }
 
-        Image image = new DxfReader(data, name, options).Read();
+        Image image = format is FileFormat.IFC2X3 or FileFormat.IFC4
+            ? new IfcReader(data, name, options).Read()
+            : new DxfReader(data, name, options).Read();
         image.LoadOptions = options;
         return image;
     }

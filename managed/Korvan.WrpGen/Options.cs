@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.IO;
 using Korvan.WrpGen.Naming;
 
 namespace Korvan.WrpGen;
@@ -9,8 +10,10 @@ public sealed class Options
 {
     private readonly Dictionary<string, string> _values = [];
 
-    public string Assembly => Required("assembly");
+    /// <summary>The assemblies to bind, separated as paths are. Those behind the first may build on it.</summary>
+    public string[] Assemblies => Required("assembly").Split(Path.PathSeparator);
 
+    /// <summary>The documentation of the first assembly; null for the file beside it.</summary>
     public string? Xml => Optional("xml");
 
     public RootMap Root => RootMap.Parse(Required("root"));

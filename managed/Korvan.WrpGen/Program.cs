@@ -29,7 +29,7 @@ internal static class Program
 
     private static void Run(Options options)
     {
-        BindingModel model = LibraryReader.Read(options.Assembly, options.Xml, options.Root, options.Interop);
+        BindingModel model = LibraryReader.Read(options.Assemblies, options.Xml, options.Root, options.Interop);
         int changed =
             Write(options.CSharp, folder => CSharpEmitter.Write(model, folder)) +
             Write(options.Cpp, folder => CppEmitter.Write(model, folder)) +

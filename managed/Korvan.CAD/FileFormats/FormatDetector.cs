@@ -13,7 +13,8 @@ internal static class FormatDetector
 
     internal static bool CanRead(FileFormat format)
     {
-        return format is >= FileFormat.DxfCadR010 and <= FileFormat.DxfCadR2013;
+        return format is (>= FileFormat.DxfCadR010 and <= FileFormat.DxfCadR2013)
+            or FileFormat.IFC2X3 or FileFormat.IFC4;
     }
 
     internal static FileFormat Detect(ReadOnlySpan<byte> head)

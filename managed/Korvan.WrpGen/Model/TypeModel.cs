@@ -51,6 +51,9 @@ public sealed class TypeModel
 
     public bool IsAbstract { get; init; }
 
+    /// <summary>Whether results declared as this class appear as the class that the object is of.</summary>
+    public bool ShowsMostDerived { get; init; }
+
     public DocText Doc { get; set; } = DocText.None;
 
     public List<MethodModel> Constructors { get; } = [];

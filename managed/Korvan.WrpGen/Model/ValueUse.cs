@@ -15,6 +15,9 @@ public sealed record ValueUse(ValueKind Kind, string ManagedName, string CSharpN
     /// <summary>May be null by declaration; counts for the Python type alone.</summary>
     public bool IsOptional { get; init; }
 
+    /// <summary>A class whose results cross with their exact type. Elements of collections do not.</summary>
+    public bool IsMostDerived { get; init; }
+
     /// <summary>Value types, which pass as bits and have a nullable form.</summary>
     public bool IsValueType => Kind is ValueKind.Enum or ValueKind.Struct or ValueKind.DateTime
         or ValueKind.DateTimeOffset or ValueKind.TimeSpan or ValueKind.Guid or ValueKind.Decimal

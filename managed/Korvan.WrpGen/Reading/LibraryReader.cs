@@ -23,25 +23,30 @@ public sealed class LibraryReader
         _docs = docs;
     }
 
-    public static BindingModel Read(string assemblyPath, string? xmlPath, RootMap root, string interopAssembly)
+    public static BindingModel Read(string assemblyPath, string? xmlPath, RootMap root, string interopAssembly) =>
+        Read([assemblyPath], xmlPath, root, interopAssembly);
+
+    /// <summary>Reads several assemblies as one library.</summary>
+    public static BindingModel Read(
+        IReadOnlyList<string> assemblyPaths, string? xmlPath, RootMap root, string interopAssembly)
     {
-        string folder = Path.GetDirectoryName(Path.GetFullPath(assemblyPath))!;
         string runtime = Path.GetDirectoryName(typeof(object).Assembly.Location)!;
-        string[] files =
-        [
-            .. Directory.GetFiles(folder, "*.dll"),
-            .. Directory.GetFiles(runtime, "*.dll"),
-        ];
+        IEnumerable<string> folders =
+            assemblyPaths.Select(path => Path.GetDirectoryName(Path.GetFullPath(path))!).Append(runtime);
+        IEnumerable<string> files = folders.SelectMany(folder => Directory.GetFiles(folder, "*.dll"));
         IEnumerable<string> distinct = files.DistinctBy(Path.GetFileName, StringComparer.OrdinalIgnoreCase);
         using var context = new MetadataLoadContext(new PathAssemblyResolver(distinct));
-        Assembly assembly = context.LoadFromAssemblyPath(Path.GetFullPath(assemblyPath));
-        string xml = xmlPath ?? Path.ChangeExtension(assemblyPath, ".xml");
-        return new LibraryReader(root, XmlDocs.Load(xml)).Read(assembly, interopAssembly);
+        Assembly[] assemblies =
+            [.. assemblyPaths.Select(path => context.LoadFromAssemblyPath(Path.GetFullPath(path)))];
+        IEnumerable<string> xmls = assemblyPaths.Select(
+            (path, at) => at == 0 && xmlPath is not null ? xmlPath : Path.ChangeExtension(path, ".xml"));
+        return new LibraryReader(root, XmlDocs.Load(xmls)).Read(assemblies, interopAssembly);
     }
 
-    private BindingModel Read(Assembly assembly, string interopAssembly)
+    private BindingModel Read(IEnumerable<Assembly> assemblies, string interopAssembly)
     {
-        foreach (Type type in assembly.GetTypes().Where(IsBindable).OrderBy(Key, StringComparer.Ordinal))
+        IEnumerable<Type> all = assemblies.SelectMany(assembly => assembly.GetTypes());
+        foreach (Type type in all.Where(IsBindable).OrderBy(Key, StringComparer.Ordinal))
         {
             _types[type.FullName!] = type;
             _bound[type.FullName!] = Declare(type);
@@ -99,6 +104,7 @@ public sealed class LibraryReader
             QualifiedName = outer is null ? type.Name : $"{outer.QualifiedName}.{type.Name}",
             Outer = outer,
             IsAbstract = type.IsAbstract,
+            ShowsMostDerived = type.ShowsMostDerived(),
             Doc = _docs.Of(DocId.Of(type)),
         };
     }

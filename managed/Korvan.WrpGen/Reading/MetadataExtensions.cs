@@ -21,6 +21,19 @@ internal static class MetadataExtensions
         member.Find("ObsoleteAttribute") is { } data &&
         data.ConstructorArguments.Any(argument => argument.Value is true);
 
+    /// <summary>Whether results declared as this class appear as the class that the object is of.</summary>
+    public static bool ShowsMostDerived(this Type type)
+    {
+        for (Type? level = type; level is not null; level = level.BaseType)
+        {
+            if (level.Has("PythonMostDerivedAttribute"))
+            {
+                return true;
+            }
+        }
+        return false;
+    }
+
     public static bool IsStaticClass(this Type type) => type.IsClass && type.IsAbstract && type.IsSealed;
 
     public static bool IsDelegate(this Type type) => type.BaseType?.FullName == "System.MulticastDelegate";

@@ -92,7 +92,7 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         if (element.Kind is not (ValueKind.Nullable or ValueKind.Stream or
             (>= ValueKind.List and <= ValueKind.AnyReadOnlyCollectionBase)))
         {
-            return element;
+            return element with { IsMostDerived = false };
         }
         reason = $"{type.ManagedName()} is no element type that a collection wrapper carries";
         return null;
@@ -140,7 +140,12 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
             BoundKind.Enum => ValueKind.Enum,
             _ => ValueKind.Class,
         };
-        return reason.Length > 0 ? null : Use(kind, type) with { Bound = model, IsOptional = isOptional };
+        return reason.Length > 0 ? null : Use(kind, type) with
+        {
+            Bound = model,
+            IsOptional = isOptional,
+            IsMostDerived = kind == ValueKind.Class && model.ShowsMostDerived,
+        };
     }
 
     private static ValueUse Use(ValueKind kind, Type type) => new(kind, type.ManagedName(), type.CSharpName());

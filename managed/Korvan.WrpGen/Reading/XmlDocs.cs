@@ -14,14 +14,10 @@ internal sealed class XmlDocs
 {
     private readonly Dictionary<string, XElement> _members = [];
 
-    public static XmlDocs Load(string? path)
+    public static XmlDocs Load(IEnumerable<string> paths)
     {
         var docs = new XmlDocs();
-        if (path is null || !File.Exists(path))
-        {
-            return docs;
-        }
-        foreach (XElement member in XDocument.Load(path).Descendants("member"))
+        foreach (XElement member in paths.Where(File.Exists).SelectMany(path => XDocument.Load(path).Descendants("member")))
         {
             docs._members[member.Attribute("name")!.Value] = member;
         }

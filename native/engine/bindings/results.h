@@ -156,6 +156,7 @@ inline PyObject* make_version(PySysVersionArg& result, const void*) {
 using interface_ = out_record<PyObjectOutArg, make_interface>;
 using collection = out_record<PyCollectionArg, make_collection>;
 using interface_collection = out_record<PyCollectionArg, make_interface_collection>;
+using most_derived = collection; // an object of a bound class, as the class that it is of
 using any_iterable = out_record<PyCollectionArg, make_any<wrpPye_tyds_IterableWrapper>>;
 using any_collection = out_record<PyCollectionArg, make_any<wrpPye_tyds_IColWrapper>>;
 using any_list = out_record<PyCollectionArg, make_any<wrpPye_tyds_IListWrapper>>;

@@ -94,6 +94,7 @@ internal static class CSharpValues
     public static string? RecordType(ValueUse value) => value.Kind switch
     {
         ValueKind.Interface => "PyObjectOutArg",
+        ValueKind.Class when value.IsMostDerived => "PyCollectionArg",
         ValueKind.DateTime or ValueKind.DateTimeOffset => "PyDateTimeOut",
         ValueKind.Guid => "global::System.Guid",
         ValueKind.Decimal => "PyDecimalArg",
@@ -140,7 +141,7 @@ internal static class CSharpValues
         ValueKind.Decimal => $"PyValues.WriteDecimal({expression}, {target})",
         ValueKind.Version => $"PyValues.WriteVersion({expression}, {target})",
         ValueKind.Interface => $"References.Write({expression}, {target})",
-        ValueKind.List or >= ValueKind.AnyArray => $"References.WriteExact({expression}, {target})",
+        ValueKind.Class or ValueKind.List or >= ValueKind.AnyArray => $"References.WriteExact({expression}, {target})",
         _ => $"References.WriteAny({expression}, {target})",
     };
 

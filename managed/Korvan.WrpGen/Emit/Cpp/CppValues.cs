@@ -65,6 +65,7 @@ internal static class CppValues
     {
         ValueKind.Void => "none",
         ValueKind.String or ValueKind.Bytes or ValueKind.Object => "finished",
+        ValueKind.Class when value.IsMostDerived => "most_derived",
         ValueKind.Class or ValueKind.Struct => "object",
         ValueKind.Array => "array",
         ValueKind.List => "collection",

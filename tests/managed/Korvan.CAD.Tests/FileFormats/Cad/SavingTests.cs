@@ -45,7 +45,7 @@ public sealed class SavingTests : IDisposable
     [Theory]
     [InlineData("%PDF-1.7\n", FileFormat.Pdf)]
     [InlineData("solid cube\nfacet", FileFormat.Stl)]
-    [InlineData("ISO-10303-21;\nHEADER;\nFILE_SCHEMA(('IFC2X3'));", FileFormat.IFC2X3)]
+    [InlineData("ISO-10303-21;\nHEADER;\nFILE_SCHEMA(('AUTOMOTIVE_DESIGN'));", FileFormat.Stp)]
     [InlineData("<?xml version=\"1.0\"?><svg xmlns=\"x\"/>", FileFormat.Svg)]
     [InlineData("AC1018\0\0\0", FileFormat.CadR2004)]
     [InlineData("0\nSECTIONS\n", FileFormat.Undefined)]

@@ -1,0 +1,11 @@
+namespace Korvan.CAD.FileFormats.Ifc.Header;
+
+/// <summary>A record of the header of a file.</summary>
+public interface IIfcHeaderItem
+{
+    /// <summary>Gets the name of the record, such as FILE_NAME.</summary>
+    string RecordName { get; }
+
+    /// <summary>Gives the record as it is written.</summary>
+    string ToText();
+}

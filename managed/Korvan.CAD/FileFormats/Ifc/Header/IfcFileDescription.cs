@@ -1,0 +1,25 @@
+using System.Collections.Generic;
+
+namespace Korvan.CAD.FileFormats.Ifc.Header;
+
+/// <summary>FILE_DESCRIPTION: what the file is about (ISO 10303-21, 8.2.1).</summary>
+public sealed class IfcFileDescription : IIfcHeaderItem
+{
+    internal IfcFileDescription(object?[] values)
+    {
+        Description = HeaderText.Texts(values, 0);
+        ImplementationLevel = HeaderText.Text(values, 1);
+    }
+
+    /// <inheritdoc/>
+    public string RecordName => "FILE_DESCRIPTION";
+
+    /// <summary>Gets the lines of the description; model views stand here as ViewDefinition [...].</summary>
+    public List<string> Description { get; }
+
+    /// <summary>Gets or sets the version of the notation and its conformance class, such as 2;1.</summary>
+    public string ImplementationLevel { get; set; }
+
+    /// <inheritdoc/>
+    public string ToText() => HeaderText.Record(RecordName, Description, ImplementationLevel);
+}

@@ -1,0 +1,118 @@
+using System;
+using System.Collections;
+using System.Collections.Generic;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.FileFormats.Ifc.Model;
+using Korvan.CAD.FileFormats.Ifc.Schema;
+
+namespace Korvan.CAD.FileFormats.Ifc;
+
+/// <content>What the properties of the classes of an edition are made of: an attribute by its place in the record.</content>
+public abstract partial class IfcEntityBase
+{
+    private object?[]? _values;
+
+    /// <summary>Gets or sets which attributes differ from the file, one bit for each.</summary>
+    internal ulong Changed { get; set; }
+
+    /// <summary>Gets the values as they are kept: what the parser gives, or what took its place.</summary>
+    internal object?[] Values => _values ??= Model is { } model && Record >= 0
+        ? model.ReadValues(this)
+        : new object?[Class.Attributes.Length];
+
+    /// <summary>Takes a list that was changed for a changed attribute.</summary>
+    internal void NoteChange(int at)
+    {
+        Changed |= 1UL << at;
+        Model?.NoteChange(this);
+    }
+
+    /// <summary>Gives the values back that were decoded, so that they are read anew. Changes keep them.</summary>
+    internal void Forget() => _values = Changed == 0 && Record >= 0 ? null : _values;
+
+    /// <summary>Gives a text.</summary>
+    /// <param name="at">The place of the attribute.</param>
+    protected string? TextAt(int at) => Present(at) as string;
+
+    /// <summary>Gives a real number.</summary>
+    /// <param name="at">The place of the attribute.</param>
+    protected double? RealAt(int at) => Present(at) as double?;
+
+    /// <summary>Gives an integer.</summary>
+    /// <param name="at">The place of the attribute.</param>
+    protected long? IntegerAt(int at) => Present(at) as long?;
+
+    /// <summary>Gives a truth value; nothing where it is unknown.</summary>
+    /// <param name="at">The place of the attribute.</param>
+    protected bool? BooleanAt(int at) => Present(at) as bool?;
+
+    /// <summary>Gives bits in whole bytes.</summary>
+    /// <param name="at">The place of the attribute.</param>
+    protected byte[]? BinaryAt(int at) => Present(at) as byte[];
+
+    /// <summary>Gives the value of an item of an enumeration; the first has 1.</summary>
+    /// <param name="at">The place of the attribute.</param>
+    protected int? EnumerationAt(int at)
+    {
+        return Present(at) is string item
+            ? 1 + Array.IndexOf(Class.Schema.ItemsOf(EnumerationName(at)), item)
+            : null;
+    }
+
+    /// <summary>Gives an entity.</summary>
+    /// <param name="at">The place of the attribute.</param>
+    protected IfcEntityBase? EntityAt(int at) => Present(at) as IfcEntityBase;
+
+    /// <summary>Gives a value of a select type.</summary>
+    /// <param name="at">The place of the attribute.</param>
+    protected IfcSelect? SelectAt(int at) => Present(at) as IfcSelect;
+
+    /// <summary>Gives a list. Changes of it are changes of the attribute.</summary>
+    /// <param name="at">The place of the attribute.</param>
+    protected IList? ListAt(int at) => Present(at) as IfcCollection;
+
+    /// <summary>Sets an attribute.</summary>
+    /// <param name="at">The place of the attribute.</param>
+    /// <param name="value">A value of its type, or nothing. A list is copied.</param>
+    protected void Put(int at, object? value)
+    {
+        object? admitted = IfcAdmission.Admit(this, at, value);
+        Values[at] = admitted;
+        NoteChange(at);
+        Model?.NoteReferences(this, admitted);
+    }
+
+    /// <summary>Sets an attribute to an item of an enumeration.</summary>
+    /// <param name="at">The place of the attribute.</param>
+    /// <param name="value">The value of the item, or nothing.</param>
+    protected void PutEnumeration(int at, int? value)
+    {
+        if (value is not { } number)
+        {
+            Put(at, null);
+            return;
+        }
+
+        string[] items = Class.Schema.ItemsOf(EnumerationName(at));
+        Put(at, number >= 1 && number <= items.Length
+            ? items[number - 1]
+            : throw new IfcImageException($"{Describe(at)}: {number} is none of its {items.Length} items."));
+    }
+
+    /// <summary>Gives the instances that refer to this one through an attribute.</summary>
+    /// <param name="at">The number of the inverse attribute.</param>
+    protected IReadOnlyList<IIfcEntity> InverseAt(int at)
+    {
+        IfcInverseInfo info = Class.Inverses[at];
+        return Model?.References.Inverse(this, info) ?? [];
+    }
+
+    /// <summary>Gives the one instance that refers to this one through an attribute.</summary>
+    /// <param name="at">The number of the inverse attribute.</param>
+    protected IfcEntityBase? SingleInverseAt(int at) =>
+        InverseAt(at) is { Count: > 0 } all ? (IfcEntityBase)all[0] : null;
+
+    private object? Present(int at) => IfcPresentation.Present(this, at);
+
+    private string EnumerationName(int at) => IfcSlot.Of(Class, at).EnumerationName();
+}

@@ -1,0 +1,168 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using System.Linq;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.FileFormats.Ifc.Header;
+using Korvan.CAD.FileFormats.Ifc.Model;
+using Korvan.CAD.FileFormats.Ifc.Schema;
+using Korvan.CAD.ImageOptions;
+
+namespace Korvan.CAD.FileFormats.Ifc;
+
+/// <summary>A building model. Its instances are made from the file when they are asked for, and an instance that is
+/// asked for twice is the same object. What is changed, added or removed is what is saved; all else is written back
+/// byte by byte.</summary>
+public sealed class IfcImage : Image
+{
+    private const string NoGeometry =
+        "The geometry of a building model is not evaluated yet: it has no extents and is not drawn.";
+
+    private readonly bool _isPacked;
+
+    internal IfcImage(IfcModel model, IfcHeader header, bool isPacked)
+    {
+        Model = model;
+        Header = header;
+        _isPacked = isPacked;
+    }
+
+    /// <summary>Gets the header of the file.</summary>
+    public IfcHeader Header { get; }
+
+    /// <summary>Gets the edition of the schema.</summary>
+    public IfcVersion Version => Model.Schema.Version;
+
+    /// <summary>Gets all instances, those of the file first in its order. The list stays as it is when instances are
+    /// added or removed.</summary>
+    public IReadOnlyList<IIfcEntity> Entities
+    {
+        get
+        {
+            VerifyNotDisposed();
+            return Model.Entities;
+        }
+    }
+
+    /// <summary>Gets the extent along X.</summary>
+    /// <exception cref="IfcImageException">Always: the geometry is not evaluated.</exception>
+    public override int Width => throw new IfcImageException(NoGeometry);
+
+    /// <summary>Gets the extent along Y.</summary>
+    /// <exception cref="IfcImageException">Always: the geometry is not evaluated.</exception>
+    public override int Height => throw new IfcImageException(NoGeometry);
+
+    /// <summary>Gets the extent along Z.</summary>
+    /// <exception cref="IfcImageException">Always: the geometry is not evaluated.</exception>
+    public override int Depth => throw new IfcImageException(NoGeometry);
+
+    /// <summary>Gets the unit of length that the project states for its whole.</summary>
+    public override UnitType UnitType => IfcUnits.LengthUnit(Model) is var unit && unit == UnitType.Unitless
+        ? UnitlessDefaultUnitType
+        : unit;
+
+    /// <inheritdoc/>
+    public override bool IsCached => true;
+
+    internal IfcModel Model { get; }
+
+    /// <inheritdoc/>
+    internal override IEnumerable<Type> ExportOptionTypes => [typeof(IfcOptions)];
+
+    /// <inheritdoc/>
+    public override void CacheData() => VerifyNotDisposed();
+
+    /// <summary>Gives the instance of a number.</summary>
+    /// <param name="instanceId">The number behind the # sign.</param>
+    /// <returns>The instance, or nothing.</returns>
+    public IIfcEntity? GetEntity(long instanceId)
+    {
+        VerifyNotDisposed();
+        return Model.Find(instanceId);
+    }
+
+    /// <summary>Gives the instance of a global identifier. The first few searches go through the file, further ones
+    /// through a table.</summary>
+    /// <param name="globalId">The identifier, 22 characters.</param>
+    /// <returns>The instance, or nothing.</returns>
+    public IIfcEntity? GetEntityByGlobalId(string globalId)
+    {
+        VerifyNotDisposed();
+        ArgumentNullException.ThrowIfNull(globalId);
+        return Model.FindGlobalId(globalId);
+    }
+
+    /// <summary>Gives the instances of an entity and of all that are derived from it.</summary>
+    /// <param name="entityName">The name in the schema, in any case, with or without the edition behind it.</param>
+    /// <exception cref="IfcImageException">The schema has no such entity.</exception>
+    public IReadOnlyList<IIfcEntity> GetEntitiesOfType(string entityName) => GetEntitiesOfType(entityName, false);
+
+    /// <summary>Gives the instances of an entity, in the order of the file.</summary>
+    /// <param name="entityName">The name in the schema, in any case, with or without the edition behind it.</param>
+    /// <param name="isExact">Whether entities that are derived from it are left out.</param>
+    /// <exception cref="IfcImageException">The schema has no such entity.</exception>
+    public IReadOnlyList<IIfcEntity> GetEntitiesOfType(string entityName, bool isExact)
+    {
+        VerifyNotDisposed();
+        ArgumentNullException.ThrowIfNull(entityName);
+        IfcClass found = Model.Schema.FindClassOrType(entityName)
+            ?? throw new IfcImageException($"The schema {Model.Schema.Table.Name} has no entity '{entityName}'.");
+        return Model.OfClass(found, isExact);
+    }
+
+    /// <summary>Adds an instance that was made in memory, and those it refers to that belong to no model. They get the
+    /// numbers behind the largest one.</summary>
+    /// <param name="entity">The instance.</param>
+    /// <exception cref="IfcImageException">It belongs to a model, or is of another edition.</exception>
+    public void AddEntity(IIfcEntity entity)
+    {
+        VerifyNotDisposed();
+        IfcEntityBase one = Own(entity);
+        if (one.Model is not null)
+        {
+            throw new IfcImageException($"{one.DescribePlace()}it belongs to a model already.");
+        }
+
+        Model.Add(one);
+    }
+
+    /// <summary>Removes an instance that no other refers to.</summary>
+    /// <param name="entity">The instance.</param>
+    /// <exception cref="IfcImageException">It is not of this model, or others refer to it.</exception>
+    public void RemoveEntity(IIfcEntity entity)
+    {
+        VerifyNotDisposed();
+        IfcEntityBase one = Own(entity);
+        if (one.Model != Model)
+        {
+            throw new IfcImageException($"{one.DescribePlace()}it does not belong to this model.");
+        }
+
+        Model.Remove(one);
+    }
+
+    /// <summary>Gives the texts that the model shows: those of its text literals.</summary>
+    public override string[] GetStrings() =>
+    [
+        .. GetEntitiesOfType("IfcTextLiteral").Select(one => one.GetAttribute("Literal")).OfType<string>(),
+    ];
+
+    /// <inheritdoc/>
+    internal override bool SupportsExport(ImageOptionsBase options) => options is IfcOptions;
+
+    /// <inheritdoc/>
+    internal override void Export(ImageOptionsBase options, Stream stream)
+    {
+        options.VerifyHonoured();
+        IfcSaver.Save(Model, Header, ((IfcOptions)options).IsPacked, stream);
+    }
+
+    /// <inheritdoc/>
+    internal override void SaveData(Stream stream) => IfcSaver.Save(Model, Header, _isPacked, stream);
+
+    private static IfcEntityBase Own(IIfcEntity entity)
+    {
+        ArgumentNullException.ThrowIfNull(entity);
+        return entity as IfcEntityBase ?? throw new IfcImageException($"A {entity.GetType().Name} is no entity.");
+    }
+}

@@ -1,0 +1,31 @@
+using System;
+using System.Collections;
+using System.Collections.Generic;
+
+namespace Korvan.CAD.FileFormats.Ifc.Model;
+
+/// <summary>Instances of a model as they were when the list was asked for; each is made when it is looked at.</summary>
+/// <param name="model">The model.</param>
+/// <param name="records">The records; nothing for those from 0 on.</param>
+/// <param name="count">How many records.</param>
+/// <param name="added">Instances that are not in the file.</param>
+internal sealed class IfcEntityList(
+    IfcModel model, int[]? records, int count, IReadOnlyList<IfcEntityBase> added) : IReadOnlyList<IIfcEntity>
+{
+    public int Count => count + added.Count;
+
+    public IIfcEntity this[int index] =>
+        (uint)index >= (uint)Count ? throw new ArgumentOutOfRangeException(nameof(index))
+        : index >= count ? added[index - count]
+        : model.Instance(records is null ? index : records[index]);
+
+    public IEnumerator<IIfcEntity> GetEnumerator()
+    {
+        for (int i = 0; i < Count; i++)
+        {
+            yield return this[i];
+        }
+    }
+
+    IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
+}

@@ -1,0 +1,263 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using System.Text;
+using System.Threading;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.FileFormats.Ifc.Schema;
+using Korvan.CAD.FileFormats.StepText;
+
+namespace Korvan.CAD.FileFormats.Ifc.Model;
+
+/// <summary>The instances of a file: each is made from its record once, when it is asked for; and what was changed,
+/// added and removed since.</summary>
+internal sealed class IfcModel
+{
+    private readonly IfcIdMap _ids;
+    private readonly SortedSet<int> _removed = [];
+    private readonly List<IfcEntityBase> _added = [];
+    private readonly Dictionary<long, IfcEntityBase> _addedById = [];
+    private readonly HashSet<IfcEntityBase> _changed = [];
+    private IfcEntityBase?[]? _instances;
+    private IfcClassIndex? _classes;
+    private IfcGlobalIds? _globalIds;
+    private IfcReferences? _references;
+    private int[]? _kept;
+    private long _largestId;
+
+    internal IfcModel(StepFile file, IfcSchema schema, IfcIdMap ids)
+    {
+        File = file;
+        Schema = schema;
+        _ids = ids;
+        _largestId = ids.Largest;
+    }
+
+    internal StepFile File { get; }
+
+    internal IfcSchema Schema { get; }
+
+    internal IfcReferences References => _references ??= new IfcReferences(this);
+
+    /// <summary>Gets the records that are no longer part of the model, in the order of the file.</summary>
+    internal SortedSet<int> Removed => _removed;
+
+    /// <summary>Gets the instances that are not in the file.</summary>
+    internal IReadOnlyList<IfcEntityBase> Added => _added;
+
+    /// <summary>Gets the instances of the file whose attributes were changed.</summary>
+    internal IReadOnlyCollection<IfcEntityBase> Changed => _changed;
+
+    internal IfcEntityList Entities => new(this, Kept(), File.Index.Count - _removed.Count, [.. _added]);
+
+    /// <summary>Gives the record of an instance, or -1; removed ones count.</summary>
+    internal int RecordOf(long id) => _ids.Find(id);
+
+    internal IfcEntityBase? Find(long id)
+    {
+        int record = _ids.Find(id);
+        return record >= 0 && !_removed.Contains(record) ? Instance(record) : _addedById.GetValueOrDefault(id);
+    }
+
+    internal IfcEntityBase Instance(int record)
+    {
+        IfcEntityBase?[] all = _instances ??= new IfcEntityBase?[File.Index.Count];
+        return all[record] ?? Make(all, record);
+    }
+
+    /// <summary>Gives the instance of a record if it was asked for before.</summary>
+    internal IfcEntityBase? Known(int record) => _instances?[record];
+
+    internal IfcEntityList OfClass(IfcClass one, bool isExact)
+    {
+        _classes ??= new IfcClassIndex(File.Index.Keywords, Schema.Classes.Count);
+        int[] records = _classes.Records(one, isExact);
+        if (_removed.Count > 0)
+        {
+            records = Array.FindAll(records, record => !_removed.Contains(record));
+        }
+
+        IfcEntityBase[] added = [.. _added.Where(item => isExact ? item.Class == one : item.Class.IsA(one))];
+        return new IfcEntityList(this, records, records.Length, added);
+    }
+
+    internal IfcEntityBase? FindGlobalId(string globalId) => (_globalIds ??= new IfcGlobalIds(this)).Find(globalId);
+
+    /// <summary>Reads the attributes of an instance.</summary>
+    /// <exception cref="IfcImageException">The record has values that are none.</exception>
+    internal object?[] ReadValues(IfcEntityBase entity)
+    {
+        int record = entity.Record;
+        if (entity.Class.Number < 0)
+        {
+            return [];
+        }
+
+        try
+        {
+            StepParser parser = new(File.Data.AsSpan(0, File.Index.Ends[record]), BodyStart(record));
+            parser.Keyword();
+            return parser.List();
+        }
+        catch (StepException e)
+        {
+            throw new IfcImageException($"{entity.DescribePlace()}{e.Message}.", e);
+        }
+    }
+
+    internal ReadOnlySpan<byte> Bytes(int record) =>
+        File.Data.AsSpan(File.Index.Starts[record]..File.Index.Ends[record]);
+
+    /// <summary>Gives the place of a record's first attribute, counted from its # sign.</summary>
+    internal int FirstAttribute(int record)
+    {
+        StepParser parser = new(File.Data, BodyStart(record));
+        parser.Keyword();
+        parser.Expect('(');
+        return parser.At - File.Index.Starts[record];
+    }
+
+    internal string TextOf(int record) => Encoding.Latin1.GetString(Bytes(record));
+
+    internal int LineOf(int record) => StepCharacters.LineOf(File.Data, File.Index.Starts[record]);
+
+    internal void NoteChange(IfcEntityBase entity)
+    {
+        if (entity.Record >= 0)
+        {
+            _changed.Add(entity);
+        }
+    }
+
+    /// <summary>Takes over what a value refers to, and remembers who refers to it.</summary>
+    internal void NoteReferences(IfcEntityBase owner, object? value)
+    {
+        foreach (IfcEntityBase target in IfcReferences.Entities(value, this))
+        {
+            if (target.Model is null)
+            {
+                Add(target);
+            }
+
+            References.NoteAdded(target, owner);
+        }
+    }
+
+    /// <summary>Adds an instance, and those it refers to that belong to no model yet.</summary>
+    internal void Add(IfcEntityBase entity)
+    {
+        Stack<IfcEntityBase> open = new([entity]);
+        while (open.TryPop(out IfcEntityBase? one))
+        {
+            if (one.Model is null)
+            {
+                Take(one);
+                foreach (IfcEntityBase target in one.Values.SelectMany(value => IfcReferences.Entities(value, this)))
+                {
+                    References.NoteAdded(target, one);
+                    open.Push(target);
+                }
+            }
+        }
+    }
+
+    /// <summary>Removes an instance that nothing refers to.</summary>
+    internal void Remove(IfcEntityBase entity)
+    {
+        if (entity.Referrers is { Count: > 0 } referrers)
+        {
+            const int Shown = 5;
+            string names = string.Join(", ", referrers.Take(Shown).Select(one => $"#{one.InstanceId}={one.EntityName}"));
+            string more = referrers.Count > Shown ? $" and {referrers.Count - Shown} more" : string.Empty;
+            throw new IfcImageException(
+                $"{entity.DescribePlace()}it is not removed, because {names}{more} refer to it; change these first.");
+        }
+
+        if (entity.Record >= 0)
+        {
+            _removed.Add(entity.Record);
+            _changed.Remove(entity);
+            _kept = null;
+        }
+        else
+        {
+            _added.Remove(entity);
+            _addedById.Remove(entity.InstanceId);
+        }
+
+        Detach(entity);
+    }
+
+    // What was removed can be added again, as one that was made in memory.
+    private static void Detach(IfcEntityBase entity)
+    {
+        _ = entity.Values;
+        for (int i = 0; i < entity.Class.Attributes.Length; i++)
+        {
+            _ = IfcPresentation.Present(entity, i);
+        }
+
+        entity.Model = null;
+        entity.Record = -1;
+        entity.InstanceId = 0;
+    }
+
+    private void Take(IfcEntityBase entity)
+    {
+        if (entity.Class.Schema != Schema)
+        {
+            throw new IfcImageException($"{entity.GetType().Name} is not of the model's edition, {Schema.Table.Name}.");
+        }
+
+        entity.Model = this;
+        entity.InstanceId = ++_largestId;
+        _added.Add(entity);
+        _addedById.Add(entity.InstanceId, entity);
+    }
+
+    private IfcEntityBase Make(IfcEntityBase?[] all, int record)
+    {
+        short number = File.Index.Keywords[record];
+        IfcEntityBase made = number >= 0
+            ? Schema.Create(Schema.Classes[number])
+            : new OpaqueEntity(Schema, OpaqueName(record));
+        if (number >= 0)
+        {
+            made.Class = Schema.Classes[number];
+        }
+
+        made.Model = this;
+        made.Record = record;
+        made.InstanceId = File.Index.Ids[record];
+        return Interlocked.CompareExchange(ref all[record], made, null) ?? made;
+    }
+
+    private string OpaqueName(int record)
+    {
+        StepParser parser = new(File.Data, BodyStart(record));
+        return parser.Keyword() is { Length: > 0 } keyword ? keyword : "(several entities)";
+    }
+
+    // The place behind the equals sign.
+    private int BodyStart(int record)
+    {
+        int start = File.Index.Starts[record];
+        while (File.Data[start] != '=')
+        {
+            start++;
+        }
+
+        return start + 1;
+    }
+
+    // The records that were not removed; nothing for all.
+    private int[]? Kept()
+    {
+        if (_removed.Count == 0)
+        {
+            return null;
+        }
+
+        return _kept ??= [.. Enumerable.Range(0, File.Index.Count).Where(record => !_removed.Contains(record))];
+    }
+}

@@ -1,0 +1,79 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using System.IO.Compression;
+using System.Linq;
+using System.Text;
+using Korvan.CAD.FileFormats.Ifc.Header;
+
+namespace Korvan.CAD.FileFormats.Ifc.Model;
+
+/// <summary>Writes a model: the bytes of its file, with the records that were changed in their places, without those
+/// that were removed, and with those that were added at the end of the data.</summary>
+internal static class IfcSaver
+{
+    internal static void Save(IfcModel model, IfcHeader header, bool isPacked, Stream target)
+    {
+        List<(int Start, int End, byte[] Text)> changes = Changes(model, header);
+        if (!isPacked)
+        {
+            Write(model.File.Data, changes, target);
+            return;
+        }
+
+        using ZipArchive archive = new(target, ZipArchiveMode.Create, true);
+        using Stream entry = archive.CreateEntry("model.ifc").Open();
+        Write(model.File.Data, changes, entry);
+    }
+
+    // All texts are made before the first byte is written: what cannot be written is found in time.
+    private static List<(int Start, int End, byte[] Text)> Changes(IfcModel model, IfcHeader header)
+    {
+        List<(int Start, int End, byte[] Text)> changes = [];
+        foreach ((StepText.StepHeaderRecord record, string text) in header.Changes())
+        {
+            changes.Add((record.Start, record.End, Encoding.Latin1.GetBytes(text)));
+        }
+
+        changes.AddRange(model.File.Damaged.Select(one => (one.Start, one.End, Array.Empty<byte>())));
+        foreach (int record in model.Removed)
+        {
+            changes.Add((model.File.Index.Starts[record], model.File.Index.Ends[record], []));
+        }
+
+        StringBuilder line = new();
+        foreach (IfcEntityBase entity in model.Changed)
+        {
+            int record = entity.Record;
+            changes.Add((model.File.Index.Starts[record], model.File.Index.Ends[record], Record(entity, line)));
+        }
+
+        int end = model.File.DataEnd;
+        foreach (IfcEntityBase entity in model.Added)
+        {
+            changes.Add((end, end, [.. Record(entity, line), (byte)'\n']));
+        }
+
+        return [.. changes.OrderBy(one => one.Start).ThenBy(one => one.End)];
+    }
+
+    private static byte[] Record(IfcEntityBase entity, StringBuilder line)
+    {
+        line.Clear();
+        IfcRecordWriter.Write(entity, line, false);
+        return Encoding.Latin1.GetBytes(line.ToString());
+    }
+
+    private static void Write(byte[] data, List<(int Start, int End, byte[] Text)> changes, Stream target)
+    {
+        int at = 0;
+        foreach ((int start, int end, byte[] text) in changes)
+        {
+            target.Write(data, at, start - at);
+            target.Write(text);
+            at = end;
+        }
+
+        target.Write(data, at, data.Length - at);
+    }
+}

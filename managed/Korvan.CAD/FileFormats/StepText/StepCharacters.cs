@@ -1,0 +1,52 @@
+using System;
+using System.Buffers;
+
+namespace Korvan.CAD.FileFormats.StepText;
+
+/// <summary>Classes of bytes, and what may stand between tokens.</summary>
+internal static class StepCharacters
+{
+    /// <summary>Gets the bytes that a walk over references has to look at.</summary>
+    internal static SearchValues<byte> Marks { get; } = SearchValues.Create("#'(),/"u8);
+
+    internal static bool IsDigit(byte one) => (uint)(one - '0') <= 9;
+
+    internal static bool IsLetter(byte one) => (uint)((one | 0x20) - 'a') <= 'z' - 'a' || one == '_';
+
+    internal static bool IsKeyword(byte one) => IsLetter(one) || IsDigit(one) || one is (byte)'-' or (byte)'!';
+
+    internal static bool IsSpace(byte one) => one <= ' ';
+
+    /// <summary>Gives the place of the next token, behind spaces and comments; the length at the end.</summary>
+    /// <exception cref="StepException">A comment has no end.</exception>
+    internal static int Skip(ReadOnlySpan<byte> data, int at)
+    {
+        while ((uint)at < (uint)data.Length)
+        {
+            byte one = data[at];
+            if (IsSpace(one))
+            {
+                at++;
+            }
+            else if (one == '/' && at + 1 < data.Length && data[at + 1] == '*')
+            {
+                int end = data[(at + 2)..].IndexOf("*/"u8);
+                at = end >= 0 ? at + end + 4 : throw new StepException(at, "a comment has no end");
+            }
+            else
+            {
+                break;
+            }
+        }
+
+        return at;
+    }
+
+    /// <summary>Counts the lines up to a place, from 1. A line ends with LF, CR or both.</summary>
+    internal static int LineOf(ReadOnlySpan<byte> data, int at)
+    {
+        ReadOnlySpan<byte> before = data[..Math.Min(at, data.Length)];
+        int feeds = before.Count((byte)'\n');
+        return 1 + (feeds > 0 ? feeds : before.Count((byte)'\r'));
+    }
+}
