@@ -65,9 +65,16 @@ internal static class ImageLoader
         }
 
         FileFormat format = FormatDetector.Detect(data.AsSpan(0, Math.Min(data.Length, FormatDetector.HeadLength)));
+        if (format == FileFormat.Stp)
+        {
+            format = FormatDetector.StepFormat(data); // the header may be longer than what is looked at first
+        }
+
         if (!FormatDetector.CanRead(format))
         {
-            string what = format == FileFormat.Undefined
+            string what = FormatDetector.IsIfcXml(data)
+                ? "is a building model in XML (ifcXML), which cannot be read yet"
+                : format == FileFormat.Undefined
                 ? "is of no known format; its first bytes are not those of a drawing interchange file"
                 : $"is of format {format}, which cannot be read yet";
             throw new ImageLoadException($"'{name}' {what}. Drawing interchange files (DXF) and building models (IFC) can be read.");

@@ -1,4 +1,7 @@
 using System;
+using System.Buffers.Binary;
+using System.IO;
+using System.IO.Compression;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dxf;
@@ -58,6 +61,7 @@ internal static class FormatDetector
             _ when head.StartsWith("U3D\0"u8) => FileFormat.U3D,
             _ when head.StartsWith("DRACO"u8) => FileFormat.Draco,
             _ when head.StartsWith("AutoCAD DXB"u8) => FileFormat.Dxb,
+            _ when head.StartsWith("PK\u0003\u0004"u8) => ZipFormat(head),
             _ => FileFormat.Undefined,
         };
     }
@@ -67,21 +71,73 @@ internal static class FormatDetector
         return head switch
         {
             _ when head.StartsWith("solid "u8) => FileFormat.Stl,
-            _ when head.StartsWith("ISO-10303-21"u8) => StepFormat(head),
+            _ when head.TrimStart("\uFEFF \t\r\n"u8).StartsWith("ISO-10303-21"u8) => StepFormat(head),
             _ when head.IndexOf("<svg"u8) >= 0 => FileFormat.Svg,
             _ when head.IndexOf("<COLLADA"u8) >= 0 => FileFormat.Collada,
             _ => FileFormat.Undefined,
         };
     }
 
-    private static FileFormat StepFormat(ReadOnlySpan<byte> head)
+    /// <summary>Tells a building model in XML, which has a namespace of its own and no number among the formats.</summary>
+    internal static bool IsIfcXml(ReadOnlySpan<byte> data)
     {
-        if (head.IndexOf("IFC4"u8) >= 0)
+        ReadOnlySpan<byte> head = data[..Math.Min(data.Length, HeadLength)];
+        return head.IndexOf("ifcXML"u8) >= 0 && head.IndexOf((byte)'<') >= 0;
+    }
+
+    /// <summary>Tells the format of a file of ISO 10303-21 by the schema that its header names.</summary>
+    internal static FileFormat StepFormat(ReadOnlySpan<byte> data)
+    {
+        int schema = data.IndexOf("FILE_SCHEMA"u8);
+        int name = schema < 0 ? -1 : data[schema..].IndexOf((byte)'\'');
+        ReadOnlySpan<byte> stated = name < 0 ? [] : data[(schema + name + 1)..];
+        return stated.StartsWith("IFC2"u8) ? FileFormat.IFC2X3
+            : stated.StartsWith("IFC"u8) ? FileFormat.IFC4
+            : FileFormat.Stp;
+    }
+
+    // A packed file is told by the beginning of its first entry.
+    private static FileFormat ZipFormat(ReadOnlySpan<byte> head)
+    {
+        const int FixedLength = 30;
+        if (head.Length < FixedLength)
         {
-            return FileFormat.IFC4;
+            return FileFormat.Undefined;
         }
 
-        return head.IndexOf("IFC2X3"u8) >= 0 ? FileFormat.IFC2X3 : FileFormat.Stp;
+        int method = BinaryPrimitives.ReadUInt16LittleEndian(head[8..]);
+        int nameLength = BinaryPrimitives.ReadUInt16LittleEndian(head[26..]);
+        int start = FixedLength + nameLength + BinaryPrimitives.ReadUInt16LittleEndian(head[28..]);
+        ReadOnlySpan<byte> name = head[FixedLength..Math.Min(head.Length, FixedLength + nameLength)];
+        bool isModel = name.EndsWith(".ifc"u8) || name.EndsWith(".IFC"u8);
+        if (!isModel || start >= head.Length)
+        {
+            return FileFormat.Undefined;
+        }
+
+        FileFormat format = StepFormat(method == 0 ? head[start..] : Inflate(head[start..]));
+        return format == FileFormat.Stp ? FileFormat.IFC4 : format;
+    }
+
+    // As much as there is: the head ends somewhere within.
+    private static byte[] Inflate(ReadOnlySpan<byte> packed)
+    {
+        byte[] content = new byte[HeadLength];
+        int count = 0;
+        try
+        {
+            using DeflateStream stream = new(new MemoryStream(packed.ToArray()), CompressionMode.Decompress);
+            for (int read = 1; read > 0 && count < content.Length; count += read)
+            {
+                read = stream.Read(content, count, content.Length - count);
+            }
+        }
+        catch (InvalidDataException)
+        {
+            return content[..count];
+        }
+
+        return content[..count];
     }
 
     private static FileFormat DwgFormat(ReadOnlySpan<byte> head) => Encoding.ASCII.GetString(head[..6]) switch

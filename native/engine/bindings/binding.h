@@ -29,7 +29,7 @@
 //   ret::interface_ [t]              PyObjectOutArg* last
 //   ret::array [t]                   a handle, wrapped as the array wrapper
 //   ret::collection [t]              List<T> and other concrete generics: PyCollectionArg* last
-//   ret::most_derived [t]            an object whose Python type is that of its exact class: the same
+//   ret::most_derived [t]            an object, shown as its exact class: PyCollectionArg* last
 //   ret::interface_collection [t]    IEnumerable<T>, IList<T>, ...: PyCollectionArg* last
 //   ret::stream                      PyCollectionArg* last
 //   ret::any_iterable any_collection any_list any_array any_arraylist any_collectionbase

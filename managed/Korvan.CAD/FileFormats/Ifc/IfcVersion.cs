@@ -7,11 +7,11 @@ namespace Korvan.CAD.FileFormats.Ifc;
 public enum IfcVersion
 {
     /// <summary>IFC2X3, of 2006.</summary>
-    Ifc2X3 = 1,
+    IFC2X3 = 1,
 
     /// <summary>IFC4, ISO 16739:2013, with its addenda.</summary>
-    Ifc4 = 2,
+    IFC4 = 2,
 
     /// <summary>IFC4X3, ISO 16739-1:2024.</summary>
-    Ifc4X3 = 4,
+    IFC4X3 = 4,
 }

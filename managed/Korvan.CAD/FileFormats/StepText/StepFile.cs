@@ -60,8 +60,8 @@ internal sealed class StepFile
                 switch (word)
                 {
                     case "DATA":
-                        at = DataSection(SkipParameters(parser), keywords, arities);
                         hasData = true;
+                        at = DataSection(SkipParameters(parser), keywords, arities);
                         break;
                     case "END-ISO-10303-21":
                         Finish(hasData, at);

@@ -19,17 +19,17 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
     // Addenda and corrigenda keep the layout of their edition.
     private static readonly Dictionary<string, IfcVersion> s_schemas = new(StringComparer.OrdinalIgnoreCase)
     {
-        ["IFC2X3"] = IfcVersion.Ifc2X3,
-        ["IFC2X3_FINAL"] = IfcVersion.Ifc2X3,
-        ["IFC2X3_TC1"] = IfcVersion.Ifc2X3,
-        ["IFC4"] = IfcVersion.Ifc4,
-        ["IFC4_ADD1"] = IfcVersion.Ifc4,
-        ["IFC4_ADD2"] = IfcVersion.Ifc4,
-        ["IFC4_ADD2_TC1"] = IfcVersion.Ifc4,
-        ["IFC4X3"] = IfcVersion.Ifc4X3,
-        ["IFC4X3_TC1"] = IfcVersion.Ifc4X3,
-        ["IFC4X3_ADD1"] = IfcVersion.Ifc4X3,
-        ["IFC4X3_ADD2"] = IfcVersion.Ifc4X3,
+        ["IFC2X3"] = IfcVersion.IFC2X3,
+        ["IFC2X3_FINAL"] = IfcVersion.IFC2X3,
+        ["IFC2X3_TC1"] = IfcVersion.IFC2X3,
+        ["IFC4"] = IfcVersion.IFC4,
+        ["IFC4_ADD1"] = IfcVersion.IFC4,
+        ["IFC4_ADD2"] = IfcVersion.IFC4,
+        ["IFC4_ADD2_TC1"] = IfcVersion.IFC4,
+        ["IFC4X3"] = IfcVersion.IFC4X3,
+        ["IFC4X3_TC1"] = IfcVersion.IFC4X3,
+        ["IFC4X3_ADD1"] = IfcVersion.IFC4X3,
+        ["IFC4X3_ADD2"] = IfcVersion.IFC4X3,
     };
 
     private readonly List<StepError> _errors = [];

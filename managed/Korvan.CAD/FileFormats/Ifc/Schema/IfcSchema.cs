@@ -14,9 +14,9 @@ internal sealed class IfcSchema
     private const string AssemblyName = "Korvan.CAD.Schemas";
     private const string Root = "Korvan.CAD.FileFormats.Ifc.";
 
-    private static readonly Lazy<IfcSchema> s_ifc2X3 = new(() => new IfcSchema(IfcVersion.Ifc2X3, "2X3"));
-    private static readonly Lazy<IfcSchema> s_ifc4 = new(() => new IfcSchema(IfcVersion.Ifc4, "4"));
-    private static readonly Lazy<IfcSchema> s_ifc4X3 = new(() => new IfcSchema(IfcVersion.Ifc4X3, "4X3"));
+    private static readonly Lazy<IfcSchema> s_ifc2X3 = new(() => new IfcSchema(IfcVersion.IFC2X3, "2X3"));
+    private static readonly Lazy<IfcSchema> s_ifc4 = new(() => new IfcSchema(IfcVersion.IFC4, "4"));
+    private static readonly Lazy<IfcSchema> s_ifc4X3 = new(() => new IfcSchema(IfcVersion.IFC4X3, "4X3"));
     private static readonly ConcurrentDictionary<Type, IfcClass> s_classes = new();
 
     private readonly string _suffix;
@@ -56,8 +56,8 @@ internal sealed class IfcSchema
 
     internal static IfcSchema Of(IfcVersion version) => version switch
     {
-        IfcVersion.Ifc2X3 => s_ifc2X3.Value,
-        IfcVersion.Ifc4 => s_ifc4.Value,
+        IfcVersion.IFC2X3 => s_ifc2X3.Value,
+        IfcVersion.IFC4 => s_ifc4.Value,
         _ => s_ifc4X3.Value,
     };
 
@@ -65,9 +65,9 @@ internal sealed class IfcSchema
     internal static IfcSchema Of(Type type)
     {
         string space = type.Namespace ?? string.Empty;
-        return space.Contains(".Ifc2x3.", StringComparison.Ordinal) ? Of(IfcVersion.Ifc2X3)
-            : space.Contains(".Ifc4.", StringComparison.Ordinal) ? Of(IfcVersion.Ifc4)
-            : Of(IfcVersion.Ifc4X3);
+        return space.Contains(".Ifc2x3.", StringComparison.Ordinal) ? Of(IfcVersion.IFC2X3)
+            : space.Contains(".Ifc4.", StringComparison.Ordinal) ? Of(IfcVersion.IFC4)
+            : Of(IfcVersion.IFC4X3);
     }
 
     /// <summary>Gives the class of a managed entity type.</summary>
@@ -118,7 +118,7 @@ internal sealed class IfcSchema
 
     private Type TypeOf(string kind, string name)
     {
-        string edition = Version == IfcVersion.Ifc2X3 ? "Ifc2x3" : Version == IfcVersion.Ifc4 ? "Ifc4" : "Ifc4x3";
+        string edition = Version == IfcVersion.IFC2X3 ? "Ifc2x3" : Version == IfcVersion.IFC4 ? "Ifc4" : "Ifc4x3";
         return _assembly.GetType($"{Root}{edition}.{kind}.{name}{_suffix}", true)!;
     }
 
