@@ -4,6 +4,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Ifc.Model;
+using Korvan.CAD.Raster;
 
 namespace Korvan.CAD;
 
@@ -77,12 +78,15 @@ internal static class ImageLoader
                 : format == FileFormat.Undefined
                 ? "is of no known format; its first bytes are not those of a drawing interchange file"
                 : $"is of format {format}, which cannot be read yet";
-            throw new ImageLoadException($"'{name}' {what}. Drawing interchange files (DXF) and building models (IFC) can be read.");
+            throw new ImageLoadException($"'{name}' {what}. Drawing interchange files (DXF), building models (IFC) and the usual pictures can be read.");
         }
 
-        Image image = format is FileFormat.IFC2X3 or FileFormat.IFC4
-            ? new IfcReader(data, name, options).Read()
-            : new DxfReader(data, name, options).Read();
+        Image image = format switch
+        {
+            FileFormat.IFC2X3 or FileFormat.IFC4 => new IfcReader(data, name, options).Read(),
+            _ when RasterLoader.CanRead(format) => RasterLoader.Load(data, name, format, options),
+            _ => new DxfReader(data, name, options).Read(),
+        };
         image.LoadOptions = options;
         return image;
     }

@@ -5,6 +5,7 @@ using System.IO.Compression;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.Raster;
 
 namespace Korvan.CAD.FileFormats;
 
@@ -17,7 +18,7 @@ internal static class FormatDetector
     internal static bool CanRead(FileFormat format)
     {
         return format is (>= FileFormat.DxfCadR010 and <= FileFormat.DxfCadR2013)
-            or FileFormat.IFC2X3 or FileFormat.IFC4;
+            or FileFormat.IFC2X3 or FileFormat.IFC4 || RasterLoader.CanRead(format);
     }
 
     internal static FileFormat Detect(ReadOnlySpan<byte> head)
@@ -53,8 +54,11 @@ internal static class FormatDetector
             _ when head.StartsWith("BM"u8) && head.Length > 14 => FileFormat.Bmp,
             _ when head.StartsWith((ReadOnlySpan<byte>)[0x49, 0x49, 0x2A, 0]) => FileFormat.Tiff,
             _ when head.StartsWith((ReadOnlySpan<byte>)[0x4D, 0x4D, 0, 0x2A]) => FileFormat.Tiff,
+            _ when head.StartsWith((ReadOnlySpan<byte>)[0xFF, 0x4F, 0xFF, 0x51]) => FileFormat.Jpeg2000,
+            _ when head.StartsWith("\0\0\0\fjP  \r\n"u8) => FileFormat.Jpeg2000,
             _ when head.StartsWith("8BPS"u8) => FileFormat.Psd,
             _ when head.StartsWith(riff) && head.Length > 12 && head[8..12].SequenceEqual("WEBP"u8) => FileFormat.Webp,
+            _ when head.Length > 132 && head[128..132].SequenceEqual("DICM"u8) => FileFormat.Dicom,
             _ when head.StartsWith("glTF"u8) => FileFormat.Glb,
             _ when head.StartsWith("(DWF V"u8) => FileFormat.Dwf,
             _ when head.StartsWith("Kaydara FBX Binary"u8) => FileFormat.Fbx,

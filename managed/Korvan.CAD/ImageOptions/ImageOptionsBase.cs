@@ -24,6 +24,10 @@ public abstract class ImageOptionsBase : DisposableObject
     /// same.</summary>
     public string[] Layers { get; set; } = [];
 
+    /// <summary>Gets or sets the colours that pixels become numbers of, for formats and options that have a palette;
+    /// nothing for colours that are chosen for the picture.</summary>
+    public IColorPalette? Palette { get; set; }
+
     /// <summary>Gets or sets the resolution of the output, for formats that have one; nothing for the default of the
     /// format.</summary>
     public ResolutionSetting? ResolutionSettings { get; set; }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.FileFormats.Png;
 
 namespace Korvan.CAD.ImageOptions;
 
@@ -6,6 +7,7 @@ namespace Korvan.CAD.ImageOptions;
 public class PngOptions : ImageOptionsBase
 {
     private int _compressionLevel = 6;
+    private int _bitDepth = 8;
 
     /// <summary>Creates options with their defaults.</summary>
     public PngOptions()
@@ -24,4 +26,32 @@ public class PngOptions : ImageOptionsBase
             _compressionLevel = value;
         }
     }
+
+    /// <summary>Gets or sets what pixels store. By default colours with opacity; a picture that is opaque all over is
+    /// written without. Where opacity is not stored, it is laid over white.</summary>
+    public PngColorType ColorType { get; set; } = PngColorType.TruecolorWithAlpha;
+
+    /// <summary>Gets or sets the bits of a sample: 1, 2, 4 or 8 for grey and palettes, otherwise 8.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is none of these.</exception>
+    public int BitDepth
+    {
+        get => _bitDepth;
+        set
+        {
+            if (value is not (1 or 2 or 4 or 8))
+            {
+                throw new ArgumentOutOfRangeException(nameof(value), value, "A sample has 1, 2, 4 or 8 bits.");
+            }
+
+            _bitDepth = value;
+        }
+    }
+
+    /// <summary>Gets or sets what of each line is stored. Drawings become smallest with
+    /// <see cref="PngFilterType.Up"/>, the default; photographs with <see cref="PngFilterType.Adaptive"/>. Pictures
+    /// with a palette are written without a filter.</summary>
+    public PngFilterType FilterType { get; set; } = PngFilterType.Up;
+
+    /// <summary>Gets or sets how colours are brought to a palette.</summary>
+    public DitheringMethods Dithering { get; set; }
 }

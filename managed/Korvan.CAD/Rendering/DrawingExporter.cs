@@ -1,10 +1,12 @@
 using System;
 using System.Collections.Generic;
 using System.IO;
+using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Raster;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
@@ -18,12 +20,12 @@ internal static class DrawingExporter
     private const double PixelsPerInch = 96;
 
     /// <summary>What writes a drawing with the options of a class.</summary>
-    private static readonly Dictionary<Type, Action<CadImage, ImageOptionsBase, Stream>> Writers = new()
-    {
-        [typeof(PdfOptions)] = (image, options, output) => WritePdf(image, (PdfOptions)options, output),
-        [typeof(PngOptions)] = (image, options, output) => WritePng(image, (PngOptions)options, output),
-        [typeof(SvgOptions)] = (image, options, output) => WriteSvg(image, (SvgOptions)options, output),
-    };
+    private static readonly Dictionary<Type, Action<CadImage, ImageOptionsBase, Stream>> Writers =
+        new(RasterSaver.OptionTypes.Select(static type => KeyValuePair.Create<Type, Action<CadImage, ImageOptionsBase, Stream>>(type, WritePixels)))
+        {
+            [typeof(PdfOptions)] = (image, options, output) => WritePdf(image, (PdfOptions)options, output),
+            [typeof(SvgOptions)] = (image, options, output) => WriteSvg(image, (SvgOptions)options, output),
+        };
 
     /// <summary>The classes of options that a drawing is written with.</summary>
     internal static IReadOnlyCollection<Type> OptionTypes => Writers.Keys;
@@ -79,21 +81,26 @@ internal static class DrawingExporter
         }
     }
 
-    private static void WritePng(CadImage image, PngOptions options, Stream output)
+    private static void WritePixels(CadImage image, ImageOptionsBase options, Stream output)
     {
-        using RasterPage page = RasterizeSingle(image, options);
-        PngEncoder.Write(page, output, options.CompressionLevel, Resolution(options));
+        using var pages = new DrawingPages(image, options);
+        RasterSaver.Write(pages, options, output);
     }
 
     private static RasterPage RasterizeSingle(CadImage image, ImageOptionsBase options)
     {
-        TextRenderingHint hint = options.VectorRasterizationOptions?.GraphicsOptions?.TextRenderingHint ?? TextRenderingHint.SystemDefault;
-        using var engine = new TextEngine(hint is TextRenderingHint.SingleBitPerPixel or TextRenderingHint.SingleBitPerPixelGridFit);
+        using TextEngine engine = PixelTextEngine(options);
         var pages = new PageSource(image, options, engine, DeviceKind.Pixels, Resolution(options));
         return RasterPage.Render(engine, pages.SinglePage());
     }
 
-    private static double Resolution(ImageOptionsBase options) =>
+    internal static TextEngine PixelTextEngine(ImageOptionsBase options)
+    {
+        TextRenderingHint? hint = options.VectorRasterizationOptions?.GraphicsOptions?.TextRenderingHint;
+        return new TextEngine(hint is TextRenderingHint.SingleBitPerPixel or TextRenderingHint.SingleBitPerPixelGridFit);
+    }
+
+    internal static double Resolution(ImageOptionsBase options) =>
         options.ResolutionSettings is { HorizontalResolution: > 0 } set ? set.HorizontalResolution : PixelsPerInch;
 
     private static void Guard(Action export)
@@ -106,7 +113,7 @@ internal static class DrawingExporter
         {
             throw new ImageSaveException(e.Message, e.InnerException);
         }
-        catch (Exception e) when (e is IOException or CadException)
+        catch (Exception e) when (e is IOException or CadException or LimitMemoryException)
         {
             throw new ImageSaveException(e.Message, e);
         }

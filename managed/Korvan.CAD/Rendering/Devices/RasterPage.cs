@@ -1,4 +1,6 @@
 using System;
+using Korvan.CAD.Raster;
+using Korvan.CAD.Raster.Codecs;
 using Korvan.CAD.Rendering.Native;
 using Korvan.CAD.Rendering.Text;
 
@@ -75,6 +77,21 @@ internal sealed unsafe class RasterPage : IDisposable
         ArgumentOutOfRangeException.ThrowIfGreaterThanOrEqual((uint)y, (uint)Height, nameof(y));
         byte* data = Cairo.ImageSurfaceGetData(surface);
         return new ReadOnlySpan<byte>(data + ((long)y * Cairo.ImageSurfaceGetStride(surface)), Width * 4);
+    }
+
+    /// <summary>Gives the pixels with alpha no longer multiplied in; they own this page from now on.</summary>
+    internal PixelGrid ToGrid()
+    {
+        var grid = new PixelGrid((int*)Cairo.ImageSurfaceGetData(surface), Width, Height, this);
+        for (int y = 0; y < Height; y++)
+        {
+            foreach (ref int pixel in grid.Row(y))
+            {
+                pixel = (pixel & PixelGrid.Opaque) == PixelGrid.Opaque ? pixel : BitPacking.Plain(pixel);
+            }
+        }
+
+        return grid;
     }
 
     internal byte[] CopyPixels()

@@ -47,6 +47,11 @@ internal sealed class PageSource
         }
     }
 
+    /// <summary>The names of the layouts that are pages.</summary>
+    internal List<string> Titles => layouts.ConvertAll(static layout => layout.Name);
+
+    internal Page PageAt(int index) => Create(layouts[index]);
+
     internal Page SinglePage()
     {
         if (layouts.Count > 1)

@@ -1,0 +1,127 @@
+using System;
+using System.IO;
+using System.Threading;
+using Korvan.CAD.CadExceptions;
+
+namespace Korvan.CAD;
+
+/// <summary>Where the pixels of all images of this process are kept, and how much they may take.</summary>
+public static class Cache
+{
+    private const long DefaultMemory = 1L << 30;
+    private const long DefaultDisk = 8L << 30;
+
+    private static readonly Lock Gate = new();
+    private static string folder = Path.GetTempPath();
+    private static long memoryLimit = DefaultMemory;
+    private static long diskLimit = DefaultDisk;
+    private static long memoryUsed;
+    private static long diskUsed;
+
+    /// <summary>Gets or sets where pixels are kept. Images that exist stay where they are.</summary>
+    public static CacheType CacheType { get; set; }
+
+    /// <summary>Gets or sets the folder of the files; the system's folder for temporary files by default. The files
+    /// have no names that other programs could open, and vanish with the image or the process.</summary>
+    /// <exception cref="FrameworkException">There is no such folder.</exception>
+    public static string CacheFolder
+    {
+        get => folder;
+        set
+        {
+            ArgumentException.ThrowIfNullOrEmpty(value);
+            if (!Directory.Exists(value))
+            {
+                throw new FrameworkException($"The cache folder '{value}' does not exist; create it first.");
+            }
+
+            folder = value;
+        }
+    }
+
+    /// <summary>Gets or sets how many bytes the pixels of all images may take in memory; 0 for no limit. 1 GiB by
+    /// default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is negative.</exception>
+    public static long MaxMemoryForCache
+    {
+        get => memoryLimit;
+        set
+        {
+            ArgumentOutOfRangeException.ThrowIfNegative(value);
+            memoryLimit = value;
+        }
+    }
+
+    /// <summary>Gets or sets how many bytes the pixels of all images may take on disk; 0 for no limit. 8 GiB by
+    /// default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is negative.</exception>
+    public static long MaxDiskSpaceForCache
+    {
+        get => diskLimit;
+        set
+        {
+            ArgumentOutOfRangeException.ThrowIfNegative(value);
+            diskLimit = value;
+        }
+    }
+
+    /// <summary>Gets or sets whether an image that is cropped moves into a place of its exact size at once. By default
+    /// it keeps its place, and the free rest with it, until it is disposed or resized.</summary>
+    public static bool ExactReallocateOnly { get; set; }
+
+    /// <summary>Gets how many bytes the pixels of all images take in memory now.</summary>
+    public static long AllocatedMemoryBytesCount => Interlocked.Read(ref memoryUsed);
+
+    /// <summary>Gets how many bytes the pixels of all images take on disk now.</summary>
+    public static long AllocatedDiskBytesCount => Interlocked.Read(ref diskUsed);
+
+    /// <summary>Sets everything back to what it is at the start of the process.</summary>
+    public static void SetDefaults()
+    {
+        CacheType = CacheType.Auto;
+        CacheFolder = Path.GetTempPath();
+        MaxMemoryForCache = DefaultMemory;
+        MaxDiskSpaceForCache = DefaultDisk;
+        ExactReallocateOnly = false;
+    }
+
+    /// <summary>Books a place for pixels; the answer tells whether it is to be on disk.</summary>
+    internal static bool Book(long bytes)
+    {
+        lock (Gate)
+        {
+            bool fits = memoryLimit == 0 || memoryUsed + bytes <= memoryLimit;
+            bool onDisk = CacheType == CacheType.CacheOnDiskOnly || (CacheType == CacheType.Auto && !fits);
+            if (onDisk ? diskLimit != 0 && diskUsed + bytes > diskLimit : !fits)
+            {
+                string place = onDisk ? $"on disk would pass Cache.{nameof(MaxDiskSpaceForCache)}"
+                    : $"in memory would pass Cache.{nameof(MaxMemoryForCache)}";
+                throw new LimitMemoryException($"{bytes} bytes for pixels {place} ({(onDisk ? diskLimit : memoryLimit)} bytes,"
+                    + $" {(onDisk ? diskUsed : memoryUsed)} of them taken); dispose images or raise the limit.");
+            }
+
+            Add(bytes, onDisk);
+            return onDisk;
+        }
+    }
+
+    internal static void Release(long bytes, bool onDisk)
+    {
+        lock (Gate)
+        {
+            Add(-bytes, onDisk);
+        }
+    }
+
+    private static void Add(long bytes, bool onDisk)
+    {
+        if (onDisk)
+        {
+            diskUsed += bytes;
+        }
+        else
+        {
+            memoryUsed += bytes;
+        }
+    }
+}

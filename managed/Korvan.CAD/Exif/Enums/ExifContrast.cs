@@ -1,0 +1,17 @@
+using Korvan.CAD.Binding;
+
+namespace Korvan.CAD.Exif.Enums;
+
+/// <summary>The contrast that the camera applied.</summary>
+[PythonEnum(EnumKind.Integer)]
+public enum ExifContrast
+{
+    /// <summary>Normal.</summary>
+    Normal = 0,
+
+    /// <summary>Soft.</summary>
+    Low = 1,
+
+    /// <summary>Hard.</summary>
+    High = 2,
+}

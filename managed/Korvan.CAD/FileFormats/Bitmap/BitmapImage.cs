@@ -1,0 +1,12 @@
+using Korvan.CAD.Raster;
+
+namespace Korvan.CAD.FileFormats.Bitmap;
+
+/// <summary>A picture that was read from a Windows bitmap.</summary>
+public class BitmapImage : RasterCachedImage
+{
+    internal BitmapImage(DecodedFile file)
+        : base(file)
+    {
+    }
+}

@@ -1,0 +1,35 @@
+using System;
+
+namespace Korvan.CAD.FileFormats.Dicom;
+
+/// <summary>How the pixels of a DICOM file are stored.</summary>
+public class Compression
+{
+    private int _quality = 90;
+
+    /// <summary>Creates plain storage.</summary>
+    public Compression()
+    {
+    }
+
+    /// <summary>Creates a way of storage.</summary>
+    /// <param name="type">The kind.</param>
+    public Compression(CompressionType type) => Type = type;
+
+    /// <summary>Gets or sets the kind.</summary>
+    public CompressionType Type { get; set; }
+
+    /// <summary>Gets or sets the quality of JPEG, 1 to 100; the other kinds keep every pixel exactly. 90 by
+    /// default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    public int Quality
+    {
+        get => _quality;
+        set
+        {
+            ArgumentOutOfRangeException.ThrowIfLessThan(value, 1);
+            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 100);
+            _quality = value;
+        }
+    }
+}

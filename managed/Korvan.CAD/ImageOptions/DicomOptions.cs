@@ -1,0 +1,22 @@
+using Korvan.CAD.FileFormats.Dicom;
+
+namespace Korvan.CAD.ImageOptions;
+
+/// <summary>Writes DICOM secondary capture files, one frame for each page. Opacity is laid over white.</summary>
+public class DicomOptions : ImageOptionsBase
+{
+    /// <summary>Creates options with their defaults.</summary>
+    public DicomOptions()
+        : base(FileFormat.Dicom)
+    {
+    }
+
+    /// <summary>Gets or sets the samples of a pixel.</summary>
+    public ColorType ColorType { get; set; } = ColorType.Rgb24Bit;
+
+    /// <summary>Gets or sets how pixels are stored; plain by default.</summary>
+    public Compression Compression { get; set; } = new();
+
+    /// <summary>Gets or sets which pages are written; nothing for all of them.</summary>
+    public MultiPageOptions? MultiPageOptions { get; set; }
+}

@@ -1,0 +1,38 @@
+using System;
+using Korvan.CAD.FileFormats.Jpeg;
+
+namespace Korvan.CAD.ImageOptions;
+
+/// <summary>Writes JPEG files. Opacity is laid over white.</summary>
+public class JpegOptions : ImageOptionsBase
+{
+    private int _quality = 90;
+
+    /// <summary>Creates options with their defaults.</summary>
+    public JpegOptions()
+        : base(FileFormat.Jpeg)
+    {
+    }
+
+    /// <summary>Gets or sets the quality, 1 (smallest) to 100. From 90 on colours keep their full resolution. 90 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    public int Quality
+    {
+        get => _quality;
+        set
+        {
+            ArgumentOutOfRangeException.ThrowIfLessThan(value, 1);
+            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 100);
+            _quality = value;
+        }
+    }
+
+    /// <summary>Gets or sets the order in which the picture is stored.</summary>
+    public JpegCompressionMode CompressionType { get; set; }
+
+    /// <summary>Gets or sets which colours are stored.</summary>
+    public JpegCompressionColorMode ColorType { get; set; } = JpegCompressionColorMode.YCbCr;
+
+    /// <summary>Gets or sets a text that is stored beside the picture; empty for none.</summary>
+    public string Comment { get; set; } = "";
+}

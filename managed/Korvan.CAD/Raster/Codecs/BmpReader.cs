@@ -1,0 +1,273 @@
+using System;
+using System.Buffers.Binary;
+using System.Numerics;
+using Korvan.CAD.CadExceptions.Compressors;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.FileFormats.Bmp;
+
+namespace Korvan.CAD.Raster.Codecs;
+
+/// <summary>
+/// Reads device-independent bitmaps: heads of OS/2 1 and of Windows up to version 5; 1, 2, 4, 8, 16, 24 and 32 bits a
+/// pixel, masks, and run lengths.
+/// </summary>
+internal sealed class BmpReader
+{
+    private const int FileHead = 14;
+    private const double MetresPerInch = 0.0254;
+
+    private readonly RasterSource source;
+    private readonly int headSize;
+    private readonly int width;
+    private readonly int height;
+    private readonly bool topDown;
+    private readonly int bits;
+    private readonly BitmapCompression compression;
+    private readonly uint[] masks = new uint[4];
+    private int[] palette = [];
+
+    private BmpReader(RasterSource source)
+    {
+        this.source = source;
+        ReadOnlySpan<byte> data = source.Data;
+        headSize = Number(FileHead);
+        if (headSize is not (12 or 40 or 52 or 56 or 64 or 108 or 124) || data.Length < FileHead + headSize)
+        {
+            throw Damaged($"its head says that it has {headSize} bytes");
+        }
+
+        bool old = headSize == 12;
+        width = old ? Short(18) : Number(18);
+        int rows = old ? Short(20) : Number(22);
+        topDown = rows < 0;
+        height = rows == int.MinValue ? 0 : Math.Abs(rows);
+        bits = old ? Short(24) : Short(28);
+        compression = old ? BitmapCompression.Rgb : (BitmapCompression)Number(30);
+        if (width < 1 || height < 1)
+        {
+            throw Damaged($"it says that it has {width} × {rows} pixels");
+        }
+
+        PixelGrid.Verify(width, height);
+        VerifyKind();
+    }
+
+    internal static DecodedFile Read(RasterSource source)
+    {
+        if (source.Data.Length < FileHead + 12)
+        {
+            throw new BmpImageException($"'{source.Name}' ends after {source.Data.Length} bytes, before the head of a bitmap.");
+        }
+
+        var reader = new BmpReader(source);
+        return new DecodedFile { Format = FileFormat.Bmp, Frames = [reader.Frame()] };
+    }
+
+    private DecodedFrame Frame()
+    {
+        int offset = Number(10);
+        int tables = ReadTables();
+        if (offset < FileHead + headSize || offset > source.Data.Length)
+        {
+            offset = Math.Min(tables, source.Data.Length);
+        }
+
+        ReadOnlySpan<byte> data = source.Data.AsSpan(offset);
+        bool density = headSize >= 40;
+        bool runs = compression is BitmapCompression.Rle8 or BitmapCompression.Rle4;
+        return new DecodedFrame
+        {
+            Pixels = runs ? FromRuns(data) : FromRows(data),
+            BitsPerPixel = bits,
+            HorizontalResolution = density ? Math.Max(0, Number(38)) * MetresPerInch : 0,
+            VerticalResolution = density ? Math.Max(0, Number(42)) * MetresPerInch : 0,
+            Palette = bits <= 8 ? new ColorPalette(palette) : null,
+        };
+    }
+
+    private void VerifyKind()
+    {
+        bool known = (compression, bits) switch
+        {
+            (BitmapCompression.Rgb, 1 or 2 or 4 or 8 or 16 or 24 or 32) => true,
+            (BitmapCompression.Rle8, 8) => !topDown,
+            (BitmapCompression.Rle4, 4) => !topDown,
+            (BitmapCompression.Bitfields or BitmapCompression.AlphaBitfields, 16 or 32) => true,
+            _ => false,
+        };
+        if (!known)
+        {
+            string name = Enum.IsDefined(compression) ? compression.ToString() : $"0x{(int)compression:X}";
+            throw new BmpImageException($"'{source.Name}' stores {bits} bits a pixel with compression {name}, which is not read.");
+        }
+    }
+
+    /// <summary>Reads masks and palette; gives where they end.</summary>
+    private int ReadTables()
+    {
+        int at = FileHead + headSize;
+        if (bits is 16 or 32)
+        {
+            uint[] usual = bits == 16 ? [0x7C00, 0x3E0, 0x1F, 0] : [0xFF0000, 0xFF00, 0xFF, 0];
+            usual.CopyTo(masks, 0);
+            int count = compression switch { BitmapCompression.Bitfields => headSize >= 56 ? 4 : 3, BitmapCompression.AlphaBitfields => 4, _ => 0 };
+            for (int i = 0; i < count; i++)
+            {
+                masks[i] = (uint)Number(54 + (4 * i));
+            }
+
+            return headSize == 40 ? at + (4 * count) : at;
+        }
+
+        if (bits > 8)
+        {
+            return at;
+        }
+
+        int entry = headSize == 12 ? 3 : 4;
+        int stated = headSize == 12 ? 0 : Number(46);
+        int colors = stated is > 0 and <= 256 ? Math.Min(stated, 1 << bits) : 1 << bits;
+        colors = Math.Min(colors, (source.Data.Length - at) / entry);
+        palette = new int[1 << bits];
+        palette.AsSpan().Fill(PixelGrid.Opaque); // a number past the colours is black
+        for (int i = 0; i < colors; i++)
+        {
+            ReadOnlySpan<byte> color = source.Data.AsSpan(at + (i * entry));
+            palette[i] = PixelGrid.Opaque | (color[2] << 16) | (color[1] << 8) | color[0];
+        }
+
+        return at + (colors * entry);
+    }
+
+    private PixelGrid FromRuns(ReadOnlySpan<byte> data)
+    {
+        // A pair of bytes makes at most 255 pixels, and a jump may leave any number of them out.
+        var indices = new byte[(long)width * height];
+        try
+        {
+            BmpRunLengths.Unpack(data, indices, width, height, compression == BitmapCompression.Rle4);
+        }
+        catch (RleCompressorException e) when (!source.Lenient)
+        {
+            throw new BmpImageException($"The picture of '{source.Name}' is damaged.", e);
+        }
+        catch (RleCompressorException)
+        {
+            // What was read so far is shown.
+        }
+
+        var pixels = new PixelGrid(width, height);
+        for (int y = 0; y < height; y++)
+        {
+            Span<int> row = pixels.Row(y);
+            for (int x = 0; x < width; x++)
+            {
+                row[x] = palette[indices[(y * width) + x]];
+            }
+        }
+
+        return pixels;
+    }
+
+    private PixelGrid FromRows(ReadOnlySpan<byte> data)
+    {
+        long rowBytes = (((long)width * bits) + 31) / 32 * 4;
+        long needed = (rowBytes * (height - 1)) + ((((long)width * bits) + 7) / 8);
+        if (data.Length < needed && !source.Lenient)
+        {
+            throw Damaged($"{width} × {height} pixels of {bits} bits need {needed} bytes, but {data.Length} are left");
+        }
+
+        var pixels = new PixelGrid(width, height);
+        bool opacity = false;
+        for (int y = 0; y < height && (y + 1) * rowBytes <= data.Length + rowBytes - 1; y++)
+        {
+            int start = (int)(y * rowBytes);
+            ReadOnlySpan<byte> from = data[start..Math.Min(data.Length, (int)(start + rowBytes))];
+            if (from.Length * 8L < (long)width * bits)
+            {
+                break;
+            }
+
+            Span<int> to = pixels.Row(topDown ? y : height - 1 - y);
+            opacity |= Unpack(from, to);
+        }
+
+        if (bits >= 16 && !opacity)
+        {
+            MakeOpaque(pixels);
+        }
+
+        return pixels;
+    }
+
+    /// <summary>Unpacks a row; tells whether any pixel has an opacity above 0.</summary>
+    private bool Unpack(ReadOnlySpan<byte> from, Span<int> to)
+    {
+        if (bits == 24)
+        {
+            for (int x = 0; x < to.Length; x++)
+            {
+                to[x] = PixelGrid.Opaque | (from[(3 * x) + 2] << 16) | (from[(3 * x) + 1] << 8) | from[3 * x];
+            }
+
+            return true;
+        }
+
+        int any = 0;
+        for (int x = 0; x < to.Length; x++)
+        {
+            to[x] = bits switch
+            {
+                16 => Masked(BinaryPrimitives.ReadUInt16LittleEndian(from[(2 * x)..])),
+                32 => Masked(BinaryPrimitives.ReadUInt32LittleEndian(from[(4 * x)..])),
+                _ => palette[BitPacking.Value(from, x, bits)],
+            };
+            any |= to[x];
+        }
+
+        return (any & PixelGrid.Opaque) != 0;
+    }
+
+    private int Masked(uint value)
+    {
+        return (Channel(value, masks[3]) << 24) | (Channel(value, masks[0]) << 16)
+            | (Channel(value, masks[1]) << 8) | Channel(value, masks[2]);
+    }
+
+    private static int Channel(uint value, uint mask)
+    {
+        if (mask == 0)
+        {
+            return 0;
+        }
+
+        int shift = BitOperations.TrailingZeroCount(mask);
+        return (int)(((ulong)((value & mask) >> shift) * 255) / (mask >> shift));
+    }
+
+    // Many programs leave the fourth byte at 0 and mean opaque pixels.
+    private static void MakeOpaque(PixelGrid pixels)
+    {
+        for (int y = 0; y < pixels.Height; y++)
+        {
+            foreach (ref int pixel in pixels.Row(y))
+            {
+                pixel |= PixelGrid.Opaque;
+            }
+        }
+    }
+
+    private int Number(int at) => BinaryPrimitives.ReadInt32LittleEndian(Take(at, 4));
+
+    private int Short(int at) => BinaryPrimitives.ReadUInt16LittleEndian(Take(at, 2));
+
+    private ReadOnlySpan<byte> Take(int at, int count)
+    {
+        return at + count <= source.Data.Length
+            ? source.Data.AsSpan(at, count)
+            : throw Damaged($"it ends after {source.Data.Length} bytes, inside of its head");
+    }
+
+    private BmpImageException Damaged(string why) => new($"'{source.Name}' is no bitmap that can be read: {why}.");
+}

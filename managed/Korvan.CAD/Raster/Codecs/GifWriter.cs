@@ -1,0 +1,197 @@
+using System;
+using System.Buffers.Binary;
+using System.Collections.Generic;
+using System.IO;
+using System.Runtime.CompilerServices;
+using System.Runtime.InteropServices;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Raster.Colors;
+using Korvan.CAD.Raster.Native;
+
+namespace Korvan.CAD.Raster.Codecs;
+
+/// <summary>Writes GIF 89a: one palette for all frames, each as large as the whole picture.</summary>
+internal sealed unsafe class GifWriter
+{
+    private const int LargestSide = 65_535;
+    private static readonly (int First, int Step)[] InterlacePasses = [(0, 8), (4, 8), (2, 4), (1, 2)];
+
+    private readonly GifOptions options;
+    private readonly Gif.File* gif;
+    private readonly int[] palette;
+    private readonly int transparent;
+
+    private GifWriter(GifOptions options, Gif.File* gif, int[] palette)
+    {
+        this.options = options;
+        this.gif = gif;
+        this.palette = palette;
+        transparent = Array.FindIndex(palette, static color => (color >>> 24) < 128);
+    }
+
+    internal static void Write(IRasterPages pages, GifOptions options, Stream output)
+    {
+        Gif.Require();
+        List<int> chosen = PageChoice.Of(pages, options.MultiPageOptions);
+        using RasterPageData first = Render(pages, chosen[0], options);
+        int[] palette = Palette(pages, chosen, first, options);
+        using var bridge = new StreamBridge(output);
+        int error;
+        Gif.File* gif = Gif.OpenWrite(bridge.Closure, &Write, &error);
+        Gif.ColorMap* map = Map(palette);
+        try
+        {
+            Gif.SetVersion(gif, true);
+            var writer = new GifWriter(options, gif, palette);
+            writer.Verify(Gif.PutScreen(gif, first.Pixels.Width, first.Pixels.Height, 8, 0, map));
+            if (chosen.Count > 1)
+            {
+                writer.WriteLoop();
+            }
+
+            writer.WriteFrames(pages, chosen, first);
+        }
+        catch (GifImageException) when (bridge.Failure != null)
+        {
+            bridge.Rethrow();
+        }
+        finally
+        {
+            Gif.FreeMap(map);
+            Gif.CloseWrite(gif, &error);
+        }
+
+        bridge.Rethrow();
+    }
+
+    private static RasterPageData Render(IRasterPages pages, int index, GifOptions options)
+    {
+        RasterPageData page = PageChoice.Render(pages, index, options.MultiPageOptions);
+        for (int y = 0; y < page.Pixels.Height; y++)
+        {
+            foreach (ref int pixel in page.Pixels.Row(y))
+            {
+                pixel = (pixel >>> 24) < 128 ? 0 : PixelGrid.Over(pixel, -1);
+            }
+        }
+
+        return page;
+    }
+
+    private static int[] Palette(IRasterPages pages, List<int> chosen, RasterPageData first, GifOptions options)
+    {
+        if (options.Palette != null)
+        {
+            return PaletteChoice.Given(options.Palette, 256);
+        }
+
+        var colors = new ColorCount();
+        colors.Add(first.Pixels);
+        for (int i = 1; i < chosen.Count; i++)
+        {
+            using RasterPageData page = Render(pages, chosen[i], options);
+            colors.Add(page.Pixels);
+        }
+
+        return Quantizer.Choose(colors, options.MaxColors, options.PaletteMethod);
+    }
+
+    /// <summary>A colour table of the next power of two.</summary>
+    private static Gif.ColorMap* Map(int[] palette)
+    {
+        int size = 2;
+        while (size < palette.Length)
+        {
+            size *= 2;
+        }
+
+        byte* rgb = stackalloc byte[size * 3];
+        for (int i = 0; i < palette.Length; i++)
+        {
+            (rgb[3 * i], rgb[(3 * i) + 1], rgb[(3 * i) + 2]) = ((byte)(palette[i] >> 16), (byte)(palette[i] >> 8), (byte)palette[i]);
+        }
+
+        return Gif.MakeMap(size, rgb);
+    }
+
+    private void WriteFrames(IRasterPages pages, List<int> chosen, RasterPageData first)
+    {
+        WriteFrame(first.Pixels, chosen.Count);
+        for (int i = 1; i < chosen.Count; i++)
+        {
+            using RasterPageData page = Render(pages, chosen[i], options);
+            if (page.Pixels.Width > first.Pixels.Width || page.Pixels.Height > first.Pixels.Height)
+            {
+                throw new GifImageException($"Page {chosen[i]} is larger ({page.Pixels.Width} × {page.Pixels.Height} pixels)"
+                    + $" than the first ({first.Pixels.Width} × {first.Pixels.Height}); give all pages one size.");
+            }
+
+            WriteFrame(page.Pixels, chosen.Count);
+        }
+    }
+
+    private void WriteFrame(PixelGrid pixels, int frames)
+    {
+        if (pixels.Width > LargestSide || pixels.Height > LargestSide)
+        {
+            throw new GifImageException($"A GIF holds at most {LargestSide} pixels on a side.");
+        }
+
+        WriteControl(frames);
+        Verify(Gif.PutImage(gif, 0, 0, pixels.Width, pixels.Height, options.Interlaced, null));
+        byte[] indices = IndexedRows.Of(pixels, palette, options.Dithering);
+        fixed (byte* start = indices)
+        {
+            foreach ((int from, int step) in options.Interlaced ? InterlacePasses : [(0, 1)])
+            {
+                for (int y = from; y < pixels.Height; y += step)
+                {
+                    Verify(Gif.PutLine(gif, start + ((long)y * pixels.Width), pixels.Width));
+                }
+            }
+        }
+    }
+
+    // The graphic control extension: what happens to a frame, how long it stays, which number is not drawn.
+    private void WriteControl(int frames)
+    {
+        if (frames == 1 && transparent < 0)
+        {
+            return;
+        }
+
+        const int toBackground = 2;
+        byte* data = stackalloc byte[4];
+        data[0] = (byte)(((frames > 1 ? toBackground : 0) << 2) | (transparent >= 0 ? 1 : 0));
+        BinaryPrimitives.WriteUInt16LittleEndian(new Span<byte>(data + 1, 2), (ushort)(frames > 1 ? options.FrameTime / 10 : 0));
+        data[3] = (byte)Math.Max(0, transparent);
+        Verify(Gif.PutExtension(gif, Gif.GraphicsExtension, 4, data));
+    }
+
+    // The application extension that all programs take for the number of repetitions.
+    private void WriteLoop()
+    {
+        fixed (byte* name = "NETSCAPE2.0"u8)
+        {
+            byte* data = stackalloc byte[3];
+            data[0] = 1;
+            BinaryPrimitives.WriteUInt16LittleEndian(new Span<byte>(data + 1, 2), (ushort)options.LoopCount);
+            Verify(Gif.PutLeader(gif, Gif.ApplicationExtension));
+            Verify(Gif.PutBlock(gif, 11, name));
+            Verify(Gif.PutBlock(gif, 3, data));
+            Verify(Gif.PutTrailer(gif));
+        }
+    }
+
+    private void Verify(int result)
+    {
+        if (result != Gif.Ok)
+        {
+            throw new GifImageException($"The picture could not be written: {Gif.Error(gif->Error)}.");
+        }
+    }
+
+    [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
+    private static int Write(Gif.File* gif, byte* data, int count) => (int)StreamBridge.Of(gif->User).Write(data, count);
+}

@@ -1,0 +1,85 @@
+using System;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.Raster.Native;
+
+namespace Korvan.CAD.Raster.Codecs;
+
+/// <summary>Puts the planes of a decoded JPEG 2000 together: any depth, sign and subsampling.</summary>
+internal static unsafe class Jpeg2000Planes
+{
+    internal static PixelGrid ToPixels(OpenJpeg.ImageHead* image, RasterSource source, out int bitsPerPixel)
+    {
+        int count = (int)image->ComponentCount;
+        bitsPerPixel = 0;
+        for (int i = 0; i < count; i++)
+        {
+            Verify(image->Components[i], source);
+            bitsPerPixel += (int)image->Components[i].Precision;
+        }
+
+        bool inks = image->Colors == OpenJpeg.ColorCmyk && count >= 4;
+        int colors = inks ? 4 : count >= 3 ? 3 : 1;
+        var pixels = new PixelGrid(checked((int)(image->X1 - image->X0)), checked((int)(image->Y1 - image->Y0)));
+        var samples = new int[colors + 1];
+        for (int y = 0; y < pixels.Height; y++)
+        {
+            Span<int> row = pixels.Row(y);
+            for (int x = 0; x < row.Length; x++)
+            {
+                samples[colors] = 255;
+                for (int c = 0; c < Math.Min(count, colors + 1); c++)
+                {
+                    samples[c] = Sample(image->Components[c], x, y);
+                }
+
+                row[x] = Pixel(samples, inks, image->Colors);
+            }
+        }
+
+        return pixels;
+    }
+
+    private static int Pixel(ReadOnlySpan<int> s, bool inks, int colors)
+    {
+        int alpha = s[^1] << 24;
+        if (inks)
+        {
+            return (CmykColor.FromStored(s[0] | (s[1] << 8) | (s[2] << 16) | (s[3] << 24)).ToArgb32() & 0xFFFFFF) | alpha;
+        }
+
+        if (s.Length < 4)
+        {
+            return alpha | (s[0] * 0x010101);
+        }
+
+        return colors == OpenJpeg.ColorYcc
+            ? alpha | FromYcc(s[0], s[1] - 128, s[2] - 128)
+            : alpha | (s[0] << 16) | (s[1] << 8) | s[2];
+    }
+
+    // ITU-R BT.601 with full ranges.
+    private static int FromYcc(int y, int cb, int cr)
+    {
+        static int Part(double value) => (int)Math.Clamp(Math.Round(value), 0, 255);
+        return (Part(y + (1.402 * cr)) << 16) | (Part(y - (0.344136 * cb) - (0.714136 * cr)) << 8) | Part(y + (1.772 * cb));
+    }
+
+    private static int Sample(in OpenJpeg.Component plane, int x, int y)
+    {
+        int column = Math.Min((int)(x / plane.Dx), (int)plane.Width - 1);
+        int row = Math.Min((int)(y / plane.Dy), (int)plane.Height - 1);
+        long value = plane.Data[((long)row * plane.Width) + column];
+        int bits = (int)plane.Precision;
+        value += plane.Signed != 0 ? 1L << (bits - 1) : 0;
+        long most = (1L << bits) - 1;
+        return (int)(Math.Clamp(value, 0, most) * 255 / most);
+    }
+
+    private static void Verify(in OpenJpeg.Component plane, RasterSource source)
+    {
+        if (plane.Data == null || plane.Width == 0 || plane.Height == 0 || plane.Dx == 0 || plane.Dy == 0 || plane.Precision is 0 or > 31)
+        {
+            throw new Jpeg2000Exception($"A plane of '{source.Name}' has no samples.");
+        }
+    }
+}

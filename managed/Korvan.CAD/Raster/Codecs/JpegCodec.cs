@@ -1,0 +1,132 @@
+using System;
+using System.Buffers.Binary;
+using System.IO;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.FileFormats.Jpeg;
+using Korvan.CAD.Raster.Native;
+
+namespace Korvan.CAD.Raster.Codecs;
+
+/// <summary>Compresses and decompresses JPEG; what stands beside the picture is the matter of <see cref="JpegSegments"/>.</summary>
+internal static unsafe class JpegCodec
+{
+    private const int LargestSide = 65_500;
+
+    /// <summary>A block of 8 × 8 takes a bit at the least, so a byte is at most 512 pixels.</summary>
+    private const long MostPixelsPerByte = 512;
+
+    /// <summary>Compresses opaque pixels.</summary>
+    internal static byte[] Compress(PixelGrid pixels, JpegCompressionColorMode colors, int quality, bool progressive)
+    {
+        TurboJpeg.Require();
+        if (pixels.Width > LargestSide || pixels.Height > LargestSide)
+        {
+            throw new JpegException($"A JPEG holds at most {LargestSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
+        }
+
+        (TurboJpeg.PixelLayout layout, TurboJpeg.Subsampling subsampling) = colors switch
+        {
+            JpegCompressionColorMode.Grayscale => (TurboJpeg.PixelLayout.Bgrx, TurboJpeg.Subsampling.Gray),
+            JpegCompressionColorMode.Ycck => (TurboJpeg.PixelLayout.Cmyk, TurboJpeg.Subsampling.None),
+            _ => (TurboJpeg.PixelLayout.Bgrx, quality >= 90 ? TurboJpeg.Subsampling.None : TurboJpeg.Subsampling.Quarter),
+        };
+        using PixelGrid? inks = colors == JpegCompressionColorMode.Ycck ? Inks(pixels) : null;
+        byte* jpeg = null;
+        nuint size = 0;
+        nint handle = TurboJpeg.InitCompress();
+        try
+        {
+            int flags = progressive ? TurboJpeg.FlagProgressive : 0;
+            byte* source = (inks ?? pixels).Pointer;
+            if (TurboJpeg.Compress(handle, source, pixels.Width, 0, pixels.Height, layout, &jpeg, &size, subsampling, quality, flags) != 0)
+            {
+                throw new JpegException($"The picture could not be compressed: {TurboJpeg.Error(handle)}.");
+            }
+
+            return new ReadOnlySpan<byte>(jpeg, checked((int)size)).ToArray();
+        }
+        finally
+        {
+            TurboJpeg.Free(jpeg);
+            TurboJpeg.Destroy(handle);
+        }
+    }
+
+    /// <summary>The pixels of a JPEG; <paramref name="bitsPerPixel"/> tells whether it stored grey, colours or inks.</summary>
+    internal static PixelGrid Decompress(RasterSource source, ReadOnlySpan<byte> data, out int bitsPerPixel)
+    {
+        TurboJpeg.Require();
+        nint handle = TurboJpeg.InitDecompress();
+        try
+        {
+            fixed (byte* start = data)
+            {
+                return Decompress(handle, source, start, data.Length, out bitsPerPixel);
+            }
+        }
+        finally
+        {
+            TurboJpeg.Destroy(handle);
+        }
+    }
+
+    private static PixelGrid Decompress(nint handle, RasterSource source, byte* data, int length, out int bitsPerPixel)
+    {
+        int width, height, subsampling, colors;
+        if (TurboJpeg.ReadHeader(handle, data, (nuint)length, &width, &height, &subsampling, &colors) != 0)
+        {
+            throw new JpegException($"'{source.Name}' is no JPEG that can be read: {TurboJpeg.Error(handle)}.");
+        }
+
+        if ((long)width * height > length * MostPixelsPerByte)
+        {
+            throw new JpegException($"'{source.Name}' claims {width} × {height} pixels, which its {length} bytes cannot hold.");
+        }
+
+        bool inks = (TurboJpeg.Colors)colors is TurboJpeg.Colors.Cmyk or TurboJpeg.Colors.Ycck;
+        bitsPerPixel = inks ? 32 : (TurboJpeg.Colors)colors == TurboJpeg.Colors.Gray ? 8 : 24;
+        var pixels = new PixelGrid(width, height);
+        int flags = TurboJpeg.FlagLimitScans | (source.Lenient ? 0 : TurboJpeg.FlagStopOnWarning);
+        TurboJpeg.PixelLayout layout = inks ? TurboJpeg.PixelLayout.Cmyk : TurboJpeg.PixelLayout.Bgra;
+        if (TurboJpeg.Decompress(handle, data, (nuint)length, pixels.Pointer, width, 0, height, layout, flags) != 0 && !source.Lenient)
+        {
+            pixels.Dispose();
+            throw new JpegException($"The picture of '{source.Name}' is damaged: {TurboJpeg.Error(handle)}.");
+        }
+
+        if (inks)
+        {
+            FromInks(pixels);
+        }
+
+        return pixels;
+    }
+
+    /// <summary>Colours as inks in the inverted form that programs for print write.</summary>
+    private static PixelGrid Inks(PixelGrid pixels)
+    {
+        var inks = new PixelGrid(pixels.Width, pixels.Height);
+        for (int y = 0; y < pixels.Height; y++)
+        {
+            Span<int> to = inks.Row(y);
+            ReadOnlySpan<int> from = pixels.Row(y);
+            for (int x = 0; x < to.Length; x++)
+            {
+                to[x] = ~CmykColor.FromArgb32(from[x]).ToStored();
+            }
+        }
+
+        return inks;
+    }
+
+    private static void FromInks(PixelGrid pixels)
+    {
+        for (int y = 0; y < pixels.Height; y++)
+        {
+            foreach (ref int pixel in pixels.Row(y))
+            {
+                pixel = CmykColor.FromStored(~pixel).ToArgb32();
+            }
+        }
+    }
+}

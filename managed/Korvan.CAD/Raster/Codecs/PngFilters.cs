@@ -1,0 +1,84 @@
+using System;
+using Korvan.CAD.FileFormats.Png;
+
+namespace Korvan.CAD.Raster.Codecs;
+
+/// <summary>Turns rows of a PNG into differences (ISO/IEC 15948, clause 9).</summary>
+internal sealed class PngFilters(int rowBytes, int pixelBytes)
+{
+    private readonly byte[][] lines = [new byte[rowBytes + 1], new byte[rowBytes + 1]];
+    private byte[] row = new byte[rowBytes];
+    private byte[] above = new byte[rowBytes];
+
+    /// <summary>The row that comes next; its owner fills it.</summary>
+    internal Span<byte> Row => row;
+
+    /// <summary>Gives the filtered row with the number of its filter before it.</summary>
+    internal ReadOnlySpan<byte> Apply(PngFilterType filter)
+    {
+        byte[] best = lines[0];
+        if (filter != PngFilterType.Adaptive)
+        {
+            Fill(best, filter);
+        }
+        else
+        {
+            best = Adaptive();
+        }
+
+        (row, above) = (above, row);
+        return best;
+    }
+
+    private byte[] Adaptive()
+    {
+        byte[] best = lines[0];
+        byte[] trial = lines[1];
+        long least = long.MaxValue;
+        for (PngFilterType filter = PngFilterType.None; filter <= PngFilterType.Paeth; filter++)
+        {
+            Fill(trial, filter);
+            long sum = 0;
+            foreach (byte difference in trial.AsSpan(1))
+            {
+                sum += Math.Abs((int)(sbyte)difference);
+            }
+
+            if (sum < least)
+            {
+                least = sum;
+                (best, trial) = (trial, best);
+            }
+        }
+
+        return best;
+    }
+
+    private void Fill(byte[] line, PngFilterType filter)
+    {
+        line[0] = (byte)filter;
+        for (int i = 0; i < row.Length; i++)
+        {
+            int left = i >= pixelBytes ? row[i - pixelBytes] : 0;
+            int corner = i >= pixelBytes ? above[i - pixelBytes] : 0;
+            int guess = filter switch
+            {
+                PngFilterType.Sub => left,
+                PngFilterType.Up => above[i],
+                PngFilterType.Average => (left + above[i]) / 2,
+                PngFilterType.Paeth => Paeth(left, above[i], corner),
+                _ => 0,
+            };
+            line[i + 1] = (byte)(row[i] - guess);
+        }
+    }
+
+    private static int Paeth(int left, int up, int corner)
+    {
+        int guess = left + up - corner;
+        int toLeft = Math.Abs(guess - left);
+        int toUp = Math.Abs(guess - up);
+        int toCorner = Math.Abs(guess - corner);
+        return toLeft <= toUp && toLeft <= toCorner ? left : toUp <= toCorner ? up : corner;
+    }
+}

@@ -1,0 +1,144 @@
+using System;
+using System.Buffers.Binary;
+using System.Collections.Generic;
+using Korvan.CAD.CadExceptions.Compressors;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.Raster.Native;
+
+namespace Korvan.CAD.Raster.Codecs;
+
+/// <summary>Reads PNG: the pixels through libpng, what stands beside them from the chunks.</summary>
+internal static unsafe class PngReader
+{
+    /// <summary>Deflate makes at most 1032 bytes of one, each of up to eight pixels.</summary>
+    private const long MostPixelsPerByte = 1032 * 8;
+
+    private const double MetresPerInch = 0.0254;
+
+    internal static DecodedFile Read(RasterSource source)
+    {
+        Png.Require();
+        Dictionary<string, byte[]> chunks = Chunks(source.Bytes);
+        PixelGrid pixels = Pixels(source);
+        (double x, double y) = Density(chunks);
+        byte[] head = chunks["IHDR"];
+        int samples = head[9] switch { 2 => 3, 4 => 2, 6 => 4, _ => 1 };
+        return new DecodedFile
+        {
+            Format = FileFormat.Png,
+            Frames =
+            [
+                new DecodedFrame
+                {
+                    Pixels = pixels,
+                    BitsPerPixel = samples * head[8],
+                    HorizontalResolution = x,
+                    VerticalResolution = y,
+                    Palette = head[9] == 3 ? Palette(chunks) : null,
+                },
+            ],
+        };
+    }
+
+    private static PixelGrid Pixels(RasterSource source)
+    {
+        Png.State image = default;
+        image.Version = Png.Version;
+        fixed (byte* data = source.Data)
+        {
+            if (Png.Begin(&image, data, (nuint)source.Data.Length) == 0)
+            {
+                throw Failure(source, image.Text());
+            }
+
+            if ((long)image.Width * image.Height > source.Data.Length * MostPixelsPerByte)
+            {
+                Png.Free(&image);
+                throw new PngImageException($"'{source.Name}' claims {image.Width} × {image.Height} pixels,"
+                    + $" which its {source.Data.Length} bytes cannot hold.");
+            }
+
+            PixelGrid? pixels = null;
+            try
+            {
+                pixels = new PixelGrid(checked((int)image.Width), checked((int)image.Height));
+                image.Format = Png.FormatBgra;
+                if (Png.Finish(&image, null, pixels.Pointer, pixels.Width * 4, null) == 0)
+                {
+                    throw Failure(source, image.Text());
+                }
+
+                return pixels;
+            }
+            catch
+            {
+                pixels?.Dispose();
+                Png.Free(&image);
+                throw;
+            }
+        }
+    }
+
+    private static PngImageException Failure(RasterSource source, string reason)
+    {
+        bool deflate = reason.Contains("IDAT", StringComparison.Ordinal) || reason.Contains("deflate", StringComparison.Ordinal);
+        return new PngImageException($"'{source.Name}' is damaged: {reason}.", deflate ? new DeflateCompressorException(reason) : null);
+    }
+
+    // The first of each kind; libpng has the last word on whether the file is whole.
+    private static Dictionary<string, byte[]> Chunks(ReadOnlySpan<byte> data)
+    {
+        var chunks = new Dictionary<string, byte[]> { ["IHDR"] = new byte[13] };
+        int at = 8;
+        while (at + 12 <= data.Length)
+        {
+            int length = BinaryPrimitives.ReadInt32BigEndian(data[at..]);
+            if (length < 0 || length > data.Length - at - 12)
+            {
+                break;
+            }
+
+            string type = System.Text.Encoding.Latin1.GetString(data.Slice(at + 4, 4));
+            if (type == "IHDR" && length == 13)
+            {
+                chunks[type] = data.Slice(at + 8, length).ToArray();
+            }
+            else if (type is "pHYs" or "PLTE" or "tRNS")
+            {
+                chunks.TryAdd(type, data.Slice(at + 8, length).ToArray());
+            }
+
+            at += length + 12;
+        }
+
+        return chunks;
+    }
+
+    private static (double X, double Y) Density(Dictionary<string, byte[]> chunks)
+    {
+        if (!chunks.TryGetValue("pHYs", out byte[]? data) || data.Length != 9 || data[8] != 1)
+        {
+            return default;
+        }
+
+        return (BinaryPrimitives.ReadUInt32BigEndian(data) * MetresPerInch, BinaryPrimitives.ReadUInt32BigEndian(data.AsSpan(4)) * MetresPerInch);
+    }
+
+    private static ColorPalette? Palette(Dictionary<string, byte[]> chunks)
+    {
+        if (!chunks.TryGetValue("PLTE", out byte[]? data) || data.Length < 3)
+        {
+            return null;
+        }
+
+        byte[] opacity = chunks.GetValueOrDefault("tRNS", []);
+        var colors = new int[data.Length / 3];
+        for (int i = 0; i < colors.Length; i++)
+        {
+            int alpha = i < opacity.Length ? opacity[i] : 255;
+            colors[i] = (alpha << 24) | (data[3 * i] << 16) | (data[(3 * i) + 1] << 8) | data[(3 * i) + 2];
+        }
+
+        return new ColorPalette(colors);
+    }
+}

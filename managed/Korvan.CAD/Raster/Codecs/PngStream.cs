@@ -1,0 +1,162 @@
+using System;
+using System.Buffers.Binary;
+using System.IO;
+using System.IO.Compression;
+using Korvan.CAD.FileFormats.Png;
+
+namespace Korvan.CAD.Raster.Codecs;
+
+/// <summary>What is said of a PNG before its rows.</summary>
+internal readonly record struct PngHead(int Width, int Height, int BitDepth, PngColorType ColorType)
+{
+    internal int BitsPerPixel => BitDepth * ColorType switch
+    {
+        PngColorType.Truecolor => 3,
+        PngColorType.TruecolorWithAlpha => 4,
+        PngColorType.GrayscaleWithAlpha => 2,
+        _ => 1,
+    };
+
+    internal int RowBytes => checked((int)((((long)Width * BitsPerPixel) + 7) / 8));
+}
+
+/// <summary>Puts a portable network graphic (ISO/IEC 15948) together out of packed rows.</summary>
+internal static class PngStream
+{
+    private const int IdatSize = 256 * 1024;
+    private const double InchesPerMetre = 1 / 0.0254;
+    private static readonly uint[] CrcTable = BuildCrcTable();
+
+    /// <summary>Puts one row in the form of the head into the buffer.</summary>
+    internal delegate void PackRow(int y, Span<byte> row);
+
+    internal static void Begin(Stream output, in PngHead head, double horizontal, double vertical)
+    {
+        output.Write([0x89, (byte)'P', (byte)'N', (byte)'G', 0x0d, 0x0a, 0x1a, 0x0a]);
+        Span<byte> header = stackalloc byte[13];
+        BinaryPrimitives.WriteInt32BigEndian(header, head.Width);
+        BinaryPrimitives.WriteInt32BigEndian(header[4..], head.Height);
+        header[8] = (byte)head.BitDepth;
+        header[9] = (byte)head.ColorType;
+        header[10] = header[11] = header[12] = 0;
+        WriteChunk(output, "IHDR"u8, header);
+
+        Span<byte> density = stackalloc byte[9];
+        BinaryPrimitives.WriteInt32BigEndian(density, PerMetre(horizontal));
+        BinaryPrimitives.WriteInt32BigEndian(density[4..], PerMetre(vertical));
+        density[8] = 1;
+        WriteChunk(output, "pHYs"u8, density);
+    }
+
+    internal static void WriteRows(Stream output, in PngHead head, PngFilterType filter, int level, PackRow pack)
+    {
+        using var chunks = new ChunkStream(output);
+        using (var zlib = new ZLibStream(chunks, new ZLibCompressionOptions { CompressionLevel = level }, leaveOpen: true))
+        {
+            var filters = new PngFilters(head.RowBytes, Math.Max(1, head.BitsPerPixel / 8));
+            for (int y = 0; y < head.Height; y++)
+            {
+                pack(y, filters.Row);
+                zlib.Write(filters.Apply(filter));
+            }
+        }
+
+        chunks.Flush();
+    }
+
+    internal static void End(Stream output) => WriteChunk(output, "IEND"u8, []);
+
+    private static int PerMetre(double pixelsPerInch) => (int)Math.Round(Math.Min(pixelsPerInch * InchesPerMetre, int.MaxValue));
+
+    internal static void WriteChunk(Stream output, ReadOnlySpan<byte> type, ReadOnlySpan<byte> data)
+    {
+        Span<byte> word = stackalloc byte[4];
+        BinaryPrimitives.WriteInt32BigEndian(word, data.Length);
+        output.Write(word);
+        output.Write(type);
+        output.Write(data);
+        uint crc = Crc(Crc(0xffffffff, type), data) ^ 0xffffffff;
+        BinaryPrimitives.WriteUInt32BigEndian(word, crc);
+        output.Write(word);
+    }
+
+    private static uint Crc(uint crc, ReadOnlySpan<byte> data)
+    {
+        foreach (byte b in data)
+        {
+            crc = CrcTable[(crc ^ b) & 0xff] ^ (crc >> 8);
+        }
+
+        return crc;
+    }
+
+    private static uint[] BuildCrcTable()
+    {
+        var table = new uint[256];
+        for (uint n = 0; n < 256; n++)
+        {
+            uint c = n;
+            for (int k = 0; k < 8; k++)
+            {
+                c = (c & 1) != 0 ? 0xedb88320 ^ (c >> 1) : c >> 1;
+            }
+
+            table[n] = c;
+        }
+
+        return table;
+    }
+
+    /// <summary>Cuts the compressed data into chunks of one size.</summary>
+    private sealed class ChunkStream(Stream output) : Stream
+    {
+        private readonly byte[] buffer = new byte[IdatSize];
+        private int used;
+
+        public override bool CanRead => false;
+
+        public override bool CanSeek => false;
+
+        public override bool CanWrite => true;
+
+        public override long Length => throw new NotSupportedException();
+
+        public override long Position
+        {
+            get => throw new NotSupportedException();
+            set => throw new NotSupportedException();
+        }
+
+        public override void Write(byte[] data, int offset, int count) => Write(data.AsSpan(offset, count));
+
+        public override void Write(ReadOnlySpan<byte> data)
+        {
+            while (data.Length > 0)
+            {
+                int take = Math.Min(data.Length, buffer.Length - used);
+                data[..take].CopyTo(buffer.AsSpan(used));
+                used += take;
+                data = data[take..];
+                if (used == buffer.Length)
+                {
+                    Flush();
+                }
+            }
+        }
+
+        public override void Flush()
+        {
+            if (used > 0)
+            {
+                WriteChunk(output, "IDAT"u8, buffer.AsSpan(0, used));
+                used = 0;
+            }
+        }
+
+        public override int Read(byte[] data, int offset, int count) => throw new NotSupportedException();
+
+        public override long Seek(long offset, System.IO.SeekOrigin origin) => throw new NotSupportedException();
+
+        public override void SetLength(long value) => throw new NotSupportedException();
+    }
+}

@@ -1,0 +1,62 @@
+using System;
+using System.IO;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Raster.Native;
+
+namespace Korvan.CAD.Raster.Codecs;
+
+/// <summary>Reads and writes WebP.</summary>
+internal static unsafe class WebPCodec
+{
+    internal static void Write(PixelGrid pixels, WebPOptions options, Stream output)
+    {
+        WebP.Require();
+        if (pixels.Width > WebP.LargestSide || pixels.Height > WebP.LargestSide)
+        {
+            throw new ImageSaveException(
+                $"A WebP holds at most {WebP.LargestSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
+        }
+
+        byte* data = null;
+        int stride = pixels.Width * 4;
+        nuint size = options.Lossless
+            ? WebP.EncodeLossless(pixels.Pointer, pixels.Width, pixels.Height, stride, &data)
+            : WebP.EncodeBgra(pixels.Pointer, pixels.Width, pixels.Height, stride, options.Quality, &data);
+        try
+        {
+            if (size == 0)
+            {
+                throw new ImageSaveException("The picture could not be compressed as WebP.");
+            }
+
+            output.Write(new ReadOnlySpan<byte>(data, checked((int)size)));
+        }
+        finally
+        {
+            WebP.Free(data);
+        }
+    }
+
+    internal static DecodedFile Read(RasterSource source)
+    {
+        WebP.Require();
+        fixed (byte* data = source.Data)
+        {
+            int width, height;
+            if (WebP.GetInfo(data, (nuint)source.Data.Length, &width, &height) == 0)
+            {
+                throw new ImageLoadException($"'{source.Name}' is no WebP with one picture that can be read.");
+            }
+
+            var pixels = new PixelGrid(width, height);
+            if (WebP.DecodeBgra(data, (nuint)source.Data.Length, pixels.Pointer, (nuint)(pixels.Count * 4), width * 4) == null)
+            {
+                pixels.Dispose();
+                throw new ImageLoadException($"The picture of '{source.Name}' is damaged or cut off.");
+            }
+
+            return new DecodedFile { Format = FileFormat.Webp, Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = 32 }] };
+        }
+    }
+}

@@ -1,0 +1,62 @@
+using System;
+using System.Collections.Generic;
+
+namespace Korvan.CAD.Raster.Colors;
+
+/// <summary>How often colours occur; past a limit of colours their last bits are left out.</summary>
+internal sealed class ColorCount
+{
+    private const int MostColors = 1 << 18;
+
+    private readonly Dictionary<int, long> counts = [];
+    private int mask = -1;
+    private int dropped;
+
+    internal IReadOnlyDictionary<int, long> Counts => counts;
+
+    internal void Add(PixelGrid pixels)
+    {
+        for (int y = 0; y < pixels.Height; y++)
+        {
+            Add(pixels.Row(y));
+        }
+    }
+
+    internal void Add(ReadOnlySpan<int> pixels)
+    {
+        for (int start = 0; start < pixels.Length;)
+        {
+            int end = start + 1;
+            while (end < pixels.Length && pixels[end] == pixels[start])
+            {
+                end++;
+            }
+
+            AddColor(pixels[start], end - start);
+            start = end;
+        }
+    }
+
+    private void AddColor(int argb, long times)
+    {
+        int key = ((uint)argb >> 24) == 0 ? 0 : argb & mask;
+        counts[key] = counts.GetValueOrDefault(key) + times;
+        if (counts.Count > MostColors)
+        {
+            Coarsen();
+        }
+    }
+
+    // Each round leaves one more bit of each channel out; 2^18 colours of four bits a channel cannot be passed.
+    private void Coarsen()
+    {
+        dropped++;
+        mask = unchecked((int)(0x01010101u * (byte)(255 << dropped)));
+        var old = new List<KeyValuePair<int, long>>(counts);
+        counts.Clear();
+        foreach ((int key, long count) in old)
+        {
+            counts[key & mask] = counts.GetValueOrDefault(key & mask) + count;
+        }
+    }
+}

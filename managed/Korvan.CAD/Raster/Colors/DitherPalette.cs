@@ -1,0 +1,19 @@
+using System;
+
+namespace Korvan.CAD.Raster.Colors;
+
+/// <summary>The palette that a picture is dithered to.</summary>
+internal static class DitherPalette
+{
+    internal static int[] For(PixelGrid pixels, int bits, IColorPalette? given)
+    {
+        if (bits is < 1 or > 8)
+        {
+            throw new ArgumentOutOfRangeException(nameof(bits), bits, "The number of a colour takes 1 to 8 bits.");
+        }
+
+        return given == null && bits == 1
+            ? [PixelGrid.Opaque, -1]
+            : PaletteChoice.For(pixels, given, 1 << bits, ColorQuantizationMethod.MedianCut);
+    }
+}

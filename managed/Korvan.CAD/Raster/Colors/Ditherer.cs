@@ -1,0 +1,145 @@
+using System;
+
+namespace Korvan.CAD.Raster.Colors;
+
+/// <summary>Maps pixels to the colours of a palette, with a pattern that keeps the mean of a place.</summary>
+internal static class Ditherer
+{
+    // B. Bayer, "An optimum method for two-level rendition of continuous-tone pictures", 1973.
+    private static readonly byte[] Bayer =
+    [
+        0, 32, 8, 40, 2, 34, 10, 42, 48, 16, 56, 24, 50, 18, 58, 26, 12, 44, 4, 36, 14, 46, 6, 38, 60, 28, 52, 20, 62, 30, 54, 22,
+        3, 35, 11, 43, 1, 33, 9, 41, 51, 19, 59, 27, 49, 17, 57, 25, 15, 47, 7, 39, 13, 45, 5, 37, 63, 31, 55, 23, 61, 29, 53, 21,
+    ];
+
+    // Offsets from the pixel, and how many parts of the error go there.
+    private static readonly (int X, int Y, int Parts)[] FloydSteinberg = [(1, 0, 7), (-1, 1, 3), (0, 1, 5), (1, 1, 1)];
+
+    private static readonly (int X, int Y, int Parts)[] Atkinson =
+        [(1, 0, 1), (2, 0, 1), (-1, 1, 1), (0, 1, 1), (1, 1, 1), (0, 2, 1)];
+
+    private static readonly (int X, int Y, int Parts)[] Jarvis =
+    [
+        (1, 0, 7), (2, 0, 5), (-2, 1, 3), (-1, 1, 5), (0, 1, 7), (1, 1, 5), (2, 1, 3),
+        (-2, 2, 1), (-1, 2, 3), (0, 2, 5), (1, 2, 3), (2, 2, 1),
+    ];
+
+    /// <summary>Takes the numbers of a row; rows come from the top down.</summary>
+    internal delegate void IndexRow(int y, ReadOnlySpan<byte> indices);
+
+    internal static void Map(PixelGrid pixels, int[] palette, DitheringMethods how, IndexRow take)
+    {
+        bool serpentine = (how & DitheringMethods.Serpentine) != 0;
+        DitheringMethod method = (how & DitheringMethods.ErrorDiffusion) != 0 ? DitheringMethod.FloydSteinberg
+            : (how & DitheringMethods.Ordered) != 0 ? DitheringMethod.Ordered : DitheringMethod.Threshold;
+        Map(pixels, palette, method, serpentine, take);
+    }
+
+    internal static void Map(PixelGrid pixels, int[] palette, DitheringMethod method, bool serpentine, IndexRow take)
+    {
+        switch (method)
+        {
+            case DitheringMethod.FloydSteinberg:
+                Diffuse(pixels, palette, FloydSteinberg, 16, serpentine, take);
+                break;
+            case DitheringMethod.Atkinson:
+                Diffuse(pixels, palette, Atkinson, 8, serpentine, take);
+                break;
+            case DitheringMethod.JarvisJudiceNinke:
+                Diffuse(pixels, palette, Jarvis, 48, serpentine, take);
+                break;
+            default:
+                Direct(pixels, palette, method == DitheringMethod.Ordered, take);
+                break;
+        }
+    }
+
+    /// <summary>Gives pixels the nearest colours of a palette in their place.</summary>
+    internal static void Apply(PixelGrid pixels, int[] palette, DitheringMethod method)
+    {
+        Map(pixels, palette, method, false, (y, indices) =>
+        {
+            Span<int> row = pixels.Row(y);
+            for (int x = 0; x < row.Length; x++)
+            {
+                row[x] = palette[indices[x]];
+            }
+        });
+    }
+
+    private static void Direct(PixelGrid pixels, int[] palette, bool ordered, IndexRow take)
+    {
+        var lookup = new PaletteLookup(palette, ColorCompareMethod.Euclidean);
+        int step = ordered ? (int)(255 / Math.Max(1, Math.Cbrt(palette.Length) - 1)) : 0;
+        var indices = new byte[pixels.Width];
+        for (int y = 0; y < pixels.Height; y++)
+        {
+            ReadOnlySpan<int> row = pixels.Row(y);
+            for (int x = 0; x < row.Length; x++)
+            {
+                int shift = ordered ? ((Bayer[((y & 7) << 3) | (x & 7)] * 2) - 63) * step / 128 : 0;
+                indices[x] = (byte)lookup.Nearest(shift == 0 ? row[x] : Shifted(row[x], shift));
+            }
+
+            take(y, indices);
+        }
+    }
+
+    private static int Shifted(int argb, int by)
+    {
+        int Part(int shift) => Math.Clamp(((argb >> shift) & 255) + by, 0, 255) << shift;
+        return (argb & PixelGrid.Opaque) | Part(16) | Part(8) | Part(0);
+    }
+
+    private static void Diffuse(
+        PixelGrid pixels, int[] palette, (int X, int Y, int Parts)[] spread, int parts, bool serpentine, IndexRow take)
+    {
+        const int margin = 2;
+        var lookup = new PaletteLookup(palette, ColorCompareMethod.Euclidean);
+        int width = pixels.Width;
+        var indices = new byte[width];
+        int[][] errors = [new int[(width + (2 * margin)) * 3], new int[(width + (2 * margin)) * 3], new int[(width + (2 * margin)) * 3]];
+        for (int y = 0; y < pixels.Height; y++)
+        {
+            bool back = serpentine && (y & 1) != 0;
+            ReadOnlySpan<int> row = pixels.Row(y);
+            for (int i = 0; i < width; i++)
+            {
+                int x = back ? width - 1 - i : i;
+                Span<int> own = errors[0].AsSpan((x + margin) * 3, 3);
+                int wanted = Wanted(row[x], own, parts);
+                int index = lookup.Nearest(wanted);
+                indices[x] = (byte)index;
+                for (int channel = 0; channel < 3; channel++)
+                {
+                    int error = ((wanted >> (8 * channel)) & 255) - ((palette[index] >> (8 * channel)) & 255);
+                    foreach ((int dx, int dy, int share) in spread)
+                    {
+                        errors[dy][((x + margin + (back ? -dx : dx)) * 3) + channel] += error * share;
+                    }
+                }
+            }
+
+            take(y, indices);
+            Array.Clear(errors[0]);
+            errors = [errors[1], errors[2], errors[0]];
+        }
+    }
+
+    private static int Wanted(int argb, ReadOnlySpan<int> errors, int parts)
+    {
+        if (((uint)argb >> 24) == 0)
+        {
+            return 0;
+        }
+
+        int result = argb & PixelGrid.Opaque;
+        for (int channel = 0; channel < 3; channel++)
+        {
+            int value = ((argb >> (8 * channel)) & 255) + (errors[channel] / parts);
+            result |= Math.Clamp(value, 0, 255) << (8 * channel);
+        }
+
+        return result;
+    }
+}

@@ -1,0 +1,126 @@
+using System;
+using System.Collections.Generic;
+
+namespace Korvan.CAD.Raster.Colors;
+
+/// <summary>Merges colours in a tree by their leading bits, the rarest and deepest first.</summary>
+internal static class OctreeQuantizer
+{
+    private const int Depth = 7;
+
+    internal static int[] Choose(KeyValuePair<int, long>[] colors, int most)
+    {
+        var root = new Node();
+        var levels = new List<Node>[Depth + 1];
+        for (int i = 0; i <= Depth; i++)
+        {
+            levels[i] = [];
+        }
+
+        foreach ((int color, long count) in colors)
+        {
+            Insert(root, color, count, levels);
+        }
+
+        int leaves = levels[Depth].Count;
+        for (int level = Depth - 1; level >= 0 && leaves > most; level--)
+        {
+            levels[level].Sort(static (a, b) => a.Count.CompareTo(b.Count));
+            foreach (Node node in levels[level])
+            {
+                if (leaves <= most)
+                {
+                    break;
+                }
+
+                leaves -= node.Merge() - 1;
+            }
+        }
+
+        List<int> chosen = [];
+        Collect(root, chosen);
+        chosen.Sort();
+        return [.. chosen];
+    }
+
+    private static void Insert(Node root, int color, long count, List<Node>[] levels)
+    {
+        Node node = root;
+        node.Add(color, count);
+        for (int level = 0; level <= Depth; level++)
+        {
+            int bit = 7 - level;
+            int index = (((color >> (16 + bit)) & 1) << 2) | (((color >> (8 + bit)) & 1) << 1) | ((color >> bit) & 1);
+            ref Node? child = ref node.Children[index];
+            if (child == null)
+            {
+                child = new Node();
+                levels[level].Add(child);
+            }
+
+            node = child;
+            node.Add(color, count);
+        }
+    }
+
+    private static void Collect(Node node, List<int> chosen)
+    {
+        bool leaf = true;
+        foreach (Node? child in node.Children)
+        {
+            if (child != null)
+            {
+                leaf = false;
+                Collect(child, chosen);
+            }
+        }
+
+        if (leaf)
+        {
+            chosen.Add(node.Mean());
+        }
+    }
+
+    private sealed class Node
+    {
+        private readonly long[] sums = new long[4];
+
+        internal Node?[] Children { get; } = new Node?[8];
+
+        internal long Count { get; private set; }
+
+        internal void Add(int color, long count)
+        {
+            for (int i = 0; i < 4; i++)
+            {
+                sums[i] += ((color >> (8 * i)) & 255) * count;
+            }
+
+            Count += count;
+        }
+
+        /// <summary>Becomes a leaf; gives how many leaves were under it, which all are leaves by now.</summary>
+        internal int Merge()
+        {
+            int under = 0;
+            foreach (Node? child in Children)
+            {
+                under += child == null ? 0 : 1;
+            }
+
+            Array.Clear(Children);
+            return under;
+        }
+
+        internal int Mean()
+        {
+            int mean = 0;
+            for (int i = 0; i < 4; i++)
+            {
+                mean |= (int)((sums[i] + (Count / 2)) / Count) << (8 * i);
+            }
+
+            return mean;
+        }
+    }
+}

@@ -1,0 +1,71 @@
+using System;
+
+namespace Korvan.CAD.Raster.Colors;
+
+/// <summary>Finds the nearest colour of a palette; what was found is remembered, as pictures repeat their colours.</summary>
+internal sealed class PaletteLookup
+{
+    private const int Slots = 1 << 14;
+
+    private readonly int[] entries;
+    private readonly ColorCompareMethod method;
+    private readonly int[] keys = new int[Slots];
+    private readonly int[] found = new int[Slots];
+
+    internal PaletteLookup(int[] entries, ColorCompareMethod method)
+    {
+        this.entries = entries;
+        this.method = method;
+        found.AsSpan().Fill(-1);
+    }
+
+    internal int Nearest(int argb)
+    {
+        int slot = (int)((uint)(argb * -1640531527) >> 18);
+        if (found[slot] < 0 || keys[slot] != argb)
+        {
+            keys[slot] = argb;
+            found[slot] = Search(argb);
+        }
+
+        return found[slot];
+    }
+
+    private int Search(int argb)
+    {
+        int best = 0;
+        long least = long.MaxValue;
+        for (int i = 0; i < entries.Length && least > 0; i++)
+        {
+            long distance = Distance(argb, entries[i], method);
+            if (distance < least)
+            {
+                (best, least) = (i, distance);
+            }
+        }
+
+        return best;
+    }
+
+    internal static long Distance(int one, int other, ColorCompareMethod method)
+    {
+        int a = (int)((uint)one >> 24) - (int)((uint)other >> 24);
+        if (((uint)one >> 24) == 0 && ((uint)other >> 24) == 0)
+        {
+            return 0; // what cannot be seen has no colour
+        }
+
+        int redSum = ((one >> 16) & 255) + ((other >> 16) & 255);
+        int r = ((one >> 16) & 255) - ((other >> 16) & 255);
+        int g = ((one >> 8) & 255) - ((other >> 8) & 255);
+        int b = (one & 255) - (other & 255);
+        long opacity = (long)a * a * 3;
+        return method switch
+        {
+            ColorCompareMethod.Luminance => opacity + Math.Abs(PixelGrid.Luma(one) - PixelGrid.Luma(other)),
+            ColorCompareMethod.Weighted =>
+                opacity + ((((1024 + redSum) * r * r) + (2048 * g * g) + ((1534 - redSum) * b * b)) >> 9),
+            _ => opacity + (r * r) + (g * g) + (b * b),
+        };
+    }
+}

@@ -1,0 +1,149 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+
+namespace Korvan.CAD.Raster.Colors;
+
+/// <summary>Chooses the colours of a palette for a picture.</summary>
+internal static class Quantizer
+{
+    internal static int[] Choose(ColorCount colors, int most, ColorQuantizationMethod method)
+    {
+        if (colors.Counts.Count <= most)
+        {
+            return [.. colors.Counts.Keys.OrderBy(static color => (uint)color)];
+        }
+
+        // A transparent pixel takes one entry whatever the method, or it would be mixed into colours.
+        bool transparent = colors.Counts.ContainsKey(0);
+        KeyValuePair<int, long>[] visible = [.. colors.Counts.Where(static c => c.Key != 0).OrderBy(static c => (uint)c.Key)];
+        int room = transparent ? most - 1 : most;
+        int[] chosen = method switch
+        {
+            ColorQuantizationMethod.Popularity =>
+                [.. visible.OrderByDescending(static c => c.Value).Take(room).Select(static c => c.Key)],
+            ColorQuantizationMethod.Octree => OctreeQuantizer.Choose(visible, room),
+            ColorQuantizationMethod.Uniform => Uniform(room),
+            _ => MedianCut(visible, room),
+        };
+        return transparent ? [0, .. chosen] : chosen;
+    }
+
+    /// <summary>A lattice of as many levels as fit, green with the most.</summary>
+    internal static int[] Uniform(int most)
+    {
+        int red = Math.Max(1, (int)Math.Cbrt(most + 0.5));
+        int blue = red;
+        int green = red;
+        green = Math.Max(1, most / (red * blue));
+        red = Math.Max(red, most / (green * blue));
+        var colors = new List<int>(red * green * blue);
+        for (int i = 0; i < red * green * blue; i++)
+        {
+            int r = Level(i / (green * blue), red);
+            int g = Level(i / blue % green, green);
+            colors.Add(PixelGrid.Opaque | (r << 16) | (g << 8) | Level(i % blue, blue));
+        }
+
+        return [.. colors];
+    }
+
+    private static int Level(int index, int count) => count == 1 ? 128 : index * 255 / (count - 1);
+
+    private static int[] MedianCut(KeyValuePair<int, long>[] colors, int most)
+    {
+        var boxes = new PriorityQueue<ColorBox, double>();
+        void Enqueue(ColorBox box) => boxes.Enqueue(box, -box.Urgency);
+        Enqueue(new ColorBox(colors));
+        while (boxes.Count < most && boxes.Peek().CanBeCut)
+        {
+            (ColorBox low, ColorBox high) = boxes.Dequeue().Cut();
+            Enqueue(low);
+            Enqueue(high);
+        }
+
+        return [.. boxes.UnorderedItems.Select(static item => item.Element.Mean()).OrderBy(static color => (uint)color)];
+    }
+
+    /// <summary>Some colours, with the channel in which they differ most.</summary>
+    private readonly struct ColorBox
+    {
+        private readonly ArraySegment<KeyValuePair<int, long>> colors;
+        private readonly int shift;
+        private readonly int range;
+        private readonly long total;
+
+        internal ColorBox(ArraySegment<KeyValuePair<int, long>> colors)
+        {
+            this.colors = colors;
+            total = 0;
+            foreach (KeyValuePair<int, long> color in colors)
+            {
+                total += color.Value;
+            }
+
+            (shift, range) = (0, -1);
+            foreach (int candidate in (ReadOnlySpan<int>)[8, 16, 0, 24])
+            {
+                int spread = Spread(colors, candidate);
+                if (spread > range)
+                {
+                    (shift, range) = (candidate, spread);
+                }
+            }
+        }
+
+        internal bool CanBeCut => colors.Count > 1;
+
+        internal double Urgency => CanBeCut ? range * Math.Sqrt(total) : 0;
+
+        internal (ColorBox Low, ColorBox High) Cut()
+        {
+            int by = shift;
+            Array.Sort(colors.Array!, colors.Offset, colors.Count, Comparer<KeyValuePair<int, long>>.Create(
+                (a, b) => ((a.Key >> by) & 255).CompareTo((b.Key >> by) & 255)));
+            long half = 0;
+            int at = 0;
+            while (at < colors.Count - 1 && (at == 0 || half + colors[at].Value <= total / 2))
+            {
+                half += colors[at++].Value;
+            }
+
+            return (new ColorBox(colors.Slice(0, at)), new ColorBox(colors.Slice(at)));
+        }
+
+        internal int Mean()
+        {
+            Span<long> sums = stackalloc long[4];
+            foreach ((int color, long count) in colors)
+            {
+                for (int channel = 0; channel < 4; channel++)
+                {
+                    sums[channel] += ((color >> (8 * channel)) & 255) * count;
+                }
+            }
+
+            int mean = 0;
+            for (int channel = 0; channel < 4; channel++)
+            {
+                mean |= (int)((sums[channel] + (total / 2)) / total) << (8 * channel);
+            }
+
+            return mean;
+        }
+
+        private static int Spread(ArraySegment<KeyValuePair<int, long>> colors, int shift)
+        {
+            int low = 255;
+            int high = 0;
+            foreach (KeyValuePair<int, long> color in colors)
+            {
+                int value = (color.Key >> shift) & 255;
+                low = Math.Min(low, value);
+                high = Math.Max(high, value);
+            }
+
+            return high - low;
+        }
+    }
+}

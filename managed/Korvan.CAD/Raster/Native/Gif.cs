@@ -1,0 +1,132 @@
+using System.Runtime.InteropServices;
+
+namespace Korvan.CAD.Raster.Native;
+
+/// <summary>The part of giflib (gif_lib.h, version 5) that is called.</summary>
+internal static unsafe partial class Gif
+{
+    internal const int Ok = 1;
+    internal const int GraphicsExtension = 0xF9;
+    internal const int ApplicationExtension = 0xFF;
+
+    private const string Library = "libgif.so.7";
+
+    internal enum Record
+    {
+        Undefined = 0,
+        ScreenDescriptor = 1,
+        Image = 2,
+        Extension = 3,
+        Terminate = 4,
+    }
+
+    internal static void Require() => SharedLibrary.Require(Library, "libgif7");
+
+    [LibraryImport(Library, EntryPoint = "DGifOpen")]
+    internal static partial File* OpenRead(nint user, delegate* unmanaged[Cdecl]<File*, byte*, int, int> read, int* error);
+
+    [LibraryImport(Library, EntryPoint = "DGifCloseFile")]
+    internal static partial int CloseRead(File* gif, int* error);
+
+    [LibraryImport(Library, EntryPoint = "DGifGetRecordType")]
+    internal static partial int GetRecord(File* gif, Record* type);
+
+    [LibraryImport(Library, EntryPoint = "DGifGetImageDesc")]
+    internal static partial int GetImage(File* gif);
+
+    [LibraryImport(Library, EntryPoint = "DGifGetLine")]
+    internal static partial int GetLine(File* gif, byte* line, int length);
+
+    [LibraryImport(Library, EntryPoint = "DGifGetExtension")]
+    internal static partial int GetExtension(File* gif, int* code, byte** block);
+
+    [LibraryImport(Library, EntryPoint = "DGifGetExtensionNext")]
+    internal static partial int GetExtensionNext(File* gif, byte** block);
+
+    [LibraryImport(Library, EntryPoint = "EGifOpen")]
+    internal static partial File* OpenWrite(nint user, delegate* unmanaged[Cdecl]<File*, byte*, int, int> write, int* error);
+
+    [LibraryImport(Library, EntryPoint = "EGifCloseFile")]
+    internal static partial int CloseWrite(File* gif, int* error);
+
+    [LibraryImport(Library, EntryPoint = "EGifSetGifVersion")]
+    internal static partial void SetVersion(File* gif, [MarshalAs(UnmanagedType.U1)] bool gif89);
+
+    [LibraryImport(Library, EntryPoint = "EGifPutScreenDesc")]
+    internal static partial int PutScreen(File* gif, int width, int height, int resolution, int background, ColorMap* map);
+
+    [LibraryImport(Library, EntryPoint = "EGifPutImageDesc")]
+    internal static partial int PutImage(
+        File* gif, int left, int top, int width, int height, [MarshalAs(UnmanagedType.U1)] bool interlace, ColorMap* map);
+
+    [LibraryImport(Library, EntryPoint = "EGifPutLine")]
+    internal static partial int PutLine(File* gif, byte* line, int length);
+
+    [LibraryImport(Library, EntryPoint = "EGifPutExtension")]
+    internal static partial int PutExtension(File* gif, int code, int length, byte* data);
+
+    [LibraryImport(Library, EntryPoint = "EGifPutExtensionLeader")]
+    internal static partial int PutLeader(File* gif, int code);
+
+    [LibraryImport(Library, EntryPoint = "EGifPutExtensionBlock")]
+    internal static partial int PutBlock(File* gif, int length, byte* data);
+
+    [LibraryImport(Library, EntryPoint = "EGifPutExtensionTrailer")]
+    internal static partial int PutTrailer(File* gif);
+
+    [LibraryImport(Library, EntryPoint = "GifMakeMapObject")]
+    internal static partial ColorMap* MakeMap(int count, byte* rgb);
+
+    [LibraryImport(Library, EntryPoint = "GifFreeMapObject")]
+    internal static partial void FreeMap(ColorMap* map);
+
+    [LibraryImport(Library, EntryPoint = "GifErrorString")]
+    private static partial nint ErrorString(int code);
+
+    internal static string Error(int code) => Marshal.PtrToStringUTF8(ErrorString(code)) ?? $"failure {code}";
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal struct ColorMap
+    {
+        public int Count;
+        public int BitsPerPixel;
+        public byte Sorted;
+        public byte* Colors;
+    }
+
+    [StructLayout(LayoutKind.Sequential)]
+    internal struct ImageDescription
+    {
+        public int Left;
+        public int Top;
+        public int Width;
+        public int Height;
+        public byte Interlace;
+        public ColorMap* Map;
+    }
+
+    [StructLayout(LayoutKind.Explicit)]
+    internal struct File
+    {
+        [FieldOffset(0)]
+        public int Width;
+
+        [FieldOffset(4)]
+        public int Height;
+
+        [FieldOffset(12)]
+        public int Background;
+
+        [FieldOffset(24)]
+        public ColorMap* Map;
+
+        [FieldOffset(40)]
+        public ImageDescription Image;
+
+        [FieldOffset(96)]
+        public int Error;
+
+        [FieldOffset(104)]
+        public nint User;
+    }
+}

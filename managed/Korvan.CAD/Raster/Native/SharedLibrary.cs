@@ -1,0 +1,21 @@
+using System.Collections.Concurrent;
+using System.Runtime.InteropServices;
+using Korvan.CAD.CadExceptions;
+
+namespace Korvan.CAD.Raster.Native;
+
+/// <summary>Looks for a codec's shared library before its first call, so that a missing one is named with its cure.</summary>
+internal static class SharedLibrary
+{
+    private static readonly ConcurrentDictionary<string, bool> Found = new();
+
+    internal static void Require(string file, string package)
+    {
+        if (!Found.GetOrAdd(file, static name => NativeLibrary.TryLoad(name, out _)))
+        {
+            Found.TryRemove(file, out _);
+            throw new FrameworkException($"This format needs the shared library {file}, which could not be loaded. "
+                + $"On Debian and Ubuntu it comes with the package {package}.");
+        }
+    }
+}

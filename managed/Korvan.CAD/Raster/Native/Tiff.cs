@@ -1,0 +1,144 @@
+using System;
+using System.Runtime.InteropServices;
+
+namespace Korvan.CAD.Raster.Native;
+
+/// <summary>The part of libtiff (tiffio.h, version 4.5) that is called.</summary>
+internal static unsafe partial class Tiff
+{
+    private const string Library = "libtiff.so.6";
+
+    internal static void Require() => SharedLibrary.Require(Library, "libtiff6");
+
+    [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsAlloc")]
+    internal static partial nint AllocOptions();
+
+    [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsFree")]
+    internal static partial void FreeOptions(nint options);
+
+    [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsSetMaxSingleMemAlloc")]
+    internal static partial void LimitMemory(nint options, nint bytes);
+
+    [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsSetErrorHandlerExtR")]
+    internal static partial void SetErrorHandler(
+        nint options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler, nint user);
+
+    [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsSetWarningHandlerExtR")]
+    internal static partial void SetWarningHandler(
+        nint options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler, nint user);
+
+    [LibraryImport(Library, EntryPoint = "TIFFClientOpenExt", StringMarshalling = StringMarshalling.Utf8)]
+    internal static partial nint Open(
+        string name, string mode, nint user, delegate* unmanaged[Cdecl]<nint, byte*, nint, nint> read,
+        delegate* unmanaged[Cdecl]<nint, byte*, nint, nint> write, delegate* unmanaged[Cdecl]<nint, ulong, int, ulong> seek,
+        delegate* unmanaged[Cdecl]<nint, int> close, delegate* unmanaged[Cdecl]<nint, ulong> size,
+        delegate* unmanaged[Cdecl]<nint, byte**, ulong*, int> map, delegate* unmanaged[Cdecl]<nint, byte*, ulong, void> unmap,
+        nint options);
+
+    [LibraryImport(Library, EntryPoint = "TIFFClose")]
+    internal static partial void Close(nint tiff);
+
+    [LibraryImport(Library, EntryPoint = "TIFFVSetField")]
+    private static partial int SetField(nint tiff, uint tag, ArgumentList* list);
+
+    [LibraryImport(Library, EntryPoint = "TIFFVGetFieldDefaulted")]
+    private static partial int GetField(nint tiff, uint tag, ArgumentList* list);
+
+    [LibraryImport(Library, EntryPoint = "TIFFWriteEncodedStrip")]
+    internal static partial nint WriteStrip(nint tiff, uint strip, byte* data, nint size);
+
+    [LibraryImport(Library, EntryPoint = "TIFFWriteDirectory")]
+    internal static partial int WriteDirectory(nint tiff);
+
+    [LibraryImport(Library, EntryPoint = "TIFFReadDirectory")]
+    internal static partial int ReadDirectory(nint tiff);
+
+    [LibraryImport(Library, EntryPoint = "TIFFIsCODECConfigured")]
+    internal static partial int HasCodec(ushort scheme);
+
+    [LibraryImport(Library, EntryPoint = "TIFFRGBAImageOK")]
+    internal static partial int CanBecomeRgba(nint tiff, byte* message);
+
+    [LibraryImport(Library, EntryPoint = "TIFFReadRGBAImageOriented")]
+    internal static partial int ReadRgba(nint tiff, uint width, uint height, uint* raster, int orientation, int stopOnError);
+
+    [LibraryImport("libc", EntryPoint = "vsnprintf")]
+    private static partial int Format(byte* buffer, nuint size, byte* format, nint arguments);
+
+    /// <summary>Sets a field whose arguments are integers, each as wide as a register.</summary>
+    internal static bool Set(nint tiff, int tag, ReadOnlySpan<long> arguments)
+    {
+        fixed (long* start = arguments)
+        {
+            ArgumentList list = ArgumentList.Over(start);
+            return SetField(tiff, (uint)tag, &list) == 1;
+        }
+    }
+
+    internal static bool Set(nint tiff, int tag, long value) => Set(tiff, tag, [value]);
+
+    internal static bool SetReal(nint tiff, int tag, double value) => Set(tiff, tag, BitConverter.DoubleToInt64Bits(value));
+
+    internal static bool SetText(nint tiff, int tag, string value)
+    {
+        nint text = Marshal.StringToCoTaskMemUTF8(value);
+        bool done = Set(tiff, tag, text); // libtiff copies it
+        Marshal.FreeCoTaskMem(text);
+        return done;
+    }
+
+    /// <summary>Gets a field of at most 32 bits; the default where the file has none, 0 where there is no default.</summary>
+    internal static uint GetNumber(nint tiff, int tag)
+    {
+        ulong value = 0;
+        nint place = (nint)(&value);
+        ArgumentList list = ArgumentList.Over(&place);
+        return GetField(tiff, (uint)tag, &list) == 1 ? (uint)value : 0;
+    }
+
+    internal static float GetReal(nint tiff, int tag)
+    {
+        float value = 0;
+        nint place = (nint)(&value);
+        ArgumentList list = ArgumentList.Over(&place);
+        return GetField(tiff, (uint)tag, &list) == 1 ? value : 0;
+    }
+
+    internal static string GetText(nint tiff, int tag)
+    {
+        nint value = 0;
+        nint place = (nint)(&value);
+        ArgumentList list = ArgumentList.Over(&place);
+        return GetField(tiff, (uint)tag, &list) == 1 ? Marshal.PtrToStringUTF8(value) ?? "" : "";
+    }
+
+    /// <summary>Puts the text of an error together.</summary>
+    internal static string Message(byte* format, nint arguments)
+    {
+        byte* text = stackalloc byte[512];
+        Format(text, 512, format, arguments);
+        return Marshal.PtrToStringUTF8((nint)text) ?? "";
+    }
+
+    /// <summary>
+    /// A va_list all of whose arguments stand in memory, each in eight bytes: what a C function of variable arguments
+    /// hands on under the System V ABI of x86-64, section 3.5.7. The functions of that kind cannot be called from here
+    /// themselves.
+    /// </summary>
+    [StructLayout(LayoutKind.Sequential)]
+    private struct ArgumentList
+    {
+        private uint integersUsed;
+        private uint realsUsed;
+        private void* inMemory;
+        private void* inRegisters;
+
+        internal static ArgumentList Over(void* arguments) => new()
+        {
+            integersUsed = 48, // both past the last register
+            realsUsed = 176,
+            inMemory = arguments,
+            inRegisters = null,
+        };
+    }
+}

@@ -1,0 +1,96 @@
+using System;
+
+namespace Korvan.CAD.Raster.Operations;
+
+/// <summary>Turns and mirrors pictures.</summary>
+internal static class Turns
+{
+    /// <summary>Quarter turns clockwise first, then the mirroring from left to right.</summary>
+    internal static PixelGrid Turn(PixelGrid from, RotateFlipType type)
+    {
+        int quarters = (int)type & 3;
+        bool mirror = ((int)type & 4) != 0;
+        bool swap = (quarters & 1) != 0;
+        var to = swap ? new PixelGrid(from.Height, from.Width) : new PixelGrid(from.Width, from.Height);
+        for (int y = 0; y < to.Height; y++)
+        {
+            Span<int> row = to.Row(y);
+            if (swap)
+            {
+                Column(from, quarters == 1 ? y : from.Width - 1 - y, row);
+            }
+            else
+            {
+                from.Row(quarters == 0 ? y : from.Height - 1 - y).CopyTo(row);
+            }
+
+            if (mirror != (quarters is 1 or 2))
+            {
+                row.Reverse();
+            }
+        }
+
+        return to;
+    }
+
+    private static void Column(PixelGrid from, int x, Span<int> to)
+    {
+        for (int i = 0; i < to.Length; i++)
+        {
+            to[i] = from.Row(i)[x];
+        }
+    }
+
+    /// <summary>Turns clockwise by any angle in degrees, into a picture as large as the turned one or as before.</summary>
+    internal static PixelGrid Rotate(PixelGrid from, double degrees, bool grow, int background)
+    {
+        (double sin, double cos) = Math.SinCos(degrees * Math.PI / 180);
+        int width = grow ? Bound(from.Width, from.Height, cos, sin) : from.Width;
+        int height = grow ? Bound(from.Width, from.Height, sin, cos) : from.Height;
+        var to = new PixelGrid(width, height);
+        for (int y = 0; y < height; y++)
+        {
+            Span<int> row = to.Row(y);
+            double dy = y + 0.5 - (height / 2.0);
+            for (int x = 0; x < width; x++)
+            {
+                double dx = x + 0.5 - (width / 2.0);
+                double sourceX = (cos * dx) + (sin * dy) + (from.Width / 2.0) - 0.5;
+                double sourceY = (cos * dy) - (sin * dx) + (from.Height / 2.0) - 0.5;
+                row[x] = Sample(from, sourceX, sourceY, background);
+            }
+        }
+
+        return to;
+    }
+
+    private static int Bound(int width, int height, double along, double across) =>
+        (int)Math.Max(1, Math.Ceiling((width * Math.Abs(along)) + (height * Math.Abs(across)) - 1e-6));
+
+    private static int Sample(PixelGrid from, double x, double y, int background)
+    {
+        int left = (int)Math.Floor(x);
+        int top = (int)Math.Floor(y);
+        if (left < -1 || top < -1 || left >= from.Width || top >= from.Height)
+        {
+            return background;
+        }
+
+        int across = (int)((x - left) * 256);
+        int down = (int)((y - top) * 256);
+        int upper = Mix(At(from, left, top, background), At(from, left + 1, top, background), across);
+        int lower = Mix(At(from, left, top + 1, background), At(from, left + 1, top + 1, background), across);
+        return Mix(upper, lower, down);
+    }
+
+    private static int At(PixelGrid from, int x, int y, int background) =>
+        (uint)x < (uint)from.Width && (uint)y < (uint)from.Height ? from.Row(y)[x] : background;
+
+    // Two channels at a time: their sums do not touch.
+    private static int Mix(int one, int other, int share)
+    {
+        uint low = (((uint)one & 0xFF00FF) * (uint)(256 - share)) + (((uint)other & 0xFF00FF) * (uint)share);
+        uint high = ((((uint)one >> 8) & 0xFF00FF) * (uint)(256 - share)) + ((((uint)other >> 8) & 0xFF00FF) * (uint)share);
+        return (int)(((low >> 8) & 0xFF00FF) | (high & 0xFF00FF00));
+    }
+}

@@ -1,0 +1,15 @@
+namespace Korvan.CAD.Raster;
+
+/// <summary>A picture read from a file of any format that has no class of its own.</summary>
+internal sealed class RasterFileImage : RasterCachedImage
+{
+    internal RasterFileImage(DecodedFile file)
+        : base(file)
+    {
+    }
+
+    internal RasterFileImage(DecodedFile file, int index)
+        : base(file, index)
+    {
+    }
+}

@@ -1,0 +1,97 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.ImageOptions;
+
+namespace Korvan.CAD.Raster;
+
+/// <summary>Pages that can be had as pixels, one at a time: layouts of a drawing, frames of a picture.</summary>
+internal interface IRasterPages
+{
+    /// <summary>Gets the names of the pages; a page without one has an empty name.</summary>
+    IReadOnlyList<string> Titles { get; }
+
+    /// <summary>Gives the pixels of a page; the caller may change them and disposes them.</summary>
+    RasterPageData Render(int index);
+}
+
+/// <summary>The pixels of a page, with pixels an inch.</summary>
+internal sealed record RasterPageData(PixelGrid Pixels, double HorizontalResolution, double VerticalResolution) : IDisposable
+{
+    public void Dispose() => Pixels.Dispose();
+}
+
+/// <summary>The pages that options choose.</summary>
+internal static class PageChoice
+{
+    internal static int Single(IRasterPages pages, FileFormat format)
+    {
+        if (pages.Titles.Count != 1)
+        {
+            throw new ImageSaveException(
+                $"A {format} file holds one page, but there are {pages.Titles.Count} pages; name one of them.");
+        }
+
+        return 0;
+    }
+
+    internal static List<int> Of(IRasterPages pages, MultiPageOptions? options)
+    {
+        int count = pages.Titles.Count;
+        List<int> chosen = options?.Mode switch
+        {
+            MultiPageMode.Pages => [.. options.Pages],
+            MultiPageMode.Titles => [.. options.PageTitles.Select(title => Find(pages, title))],
+            MultiPageMode.Range when options.FirstPage >= 0 && (uint)options.PageCount <= (uint)(count - options.FirstPage) =>
+                [.. Enumerable.Range(options.FirstPage, options.PageCount)],
+            MultiPageMode.Range => throw new ImageSaveException(
+                $"There are {count} pages; {options.PageCount} of them from {options.FirstPage} on do not exist."),
+            _ => [.. Enumerable.Range(0, count)],
+        };
+        foreach (int page in chosen)
+        {
+            if ((uint)page >= (uint)count)
+            {
+                throw new ImageSaveException($"There is no page {page}; pages are numbered 0 to {count - 1}.");
+            }
+        }
+
+        return chosen.Count > 0 ? chosen : throw new ImageSaveException("The options choose no page at all; a file needs one.");
+    }
+
+    /// <summary>Renders a page and cuts it to the area of the options.</summary>
+    internal static RasterPageData Render(IRasterPages pages, int index, MultiPageOptions? options)
+    {
+        RasterPageData page = pages.Render(index);
+        if (options == null || options.ExportArea.IsEmpty)
+        {
+            return page;
+        }
+
+        Rectangle area = options.ExportArea;
+        if (area.X < 0 || area.Y < 0 || area.Width < 1 || area.Height < 1
+            || area.Width > page.Pixels.Width - area.X || area.Height > page.Pixels.Height - area.Y)
+        {
+            string size = $"{page.Pixels.Width} × {page.Pixels.Height}";
+            page.Dispose();
+            throw new ImageSaveException($"The export area {area} does not lie on page {index} of {size} pixels.");
+        }
+
+        page.Pixels.CropInPlace(area);
+        return page;
+    }
+
+    private static int Find(IRasterPages pages, string title)
+    {
+        for (int i = 0; i < pages.Titles.Count; i++)
+        {
+            if (string.Equals(pages.Titles[i], title, StringComparison.OrdinalIgnoreCase))
+            {
+                return i;
+            }
+        }
+
+        throw new ImageSaveException($"No page is called \"{title}\"; there are: {string.Join(", ", pages.Titles)}.");
+    }
+}

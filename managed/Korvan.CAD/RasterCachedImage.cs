@@ -1,0 +1,128 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.Raster;
+
+namespace Korvan.CAD;
+
+/// <summary>A picture all of whose pixels are kept in the place that <see cref="Cache"/> gives.</summary>
+public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader, IPartialPixelLoader, IPartialRawDataLoader
+{
+    private readonly DecodedFile _file;
+    private readonly int _index;
+    private readonly List<RasterImage> _pages = [];
+    private PixelGrid _pixels;
+
+    internal RasterCachedImage(DecodedFile file)
+        : this(file, 0)
+    {
+        _pages.Add(this);
+        for (int i = 1; i < file.Frames.Count; i++)
+        {
+            _pages.Add(new RasterFileImage(file, i) { Container = this });
+        }
+    }
+
+    /// <summary>Creates a page of a file, which has no pages of its own.</summary>
+    private protected RasterCachedImage(DecodedFile file, int index)
+    {
+        (_file, _index) = (file, index);
+        DecodedFrame frame = file.Frames[index];
+        _pixels = frame.Pixels;
+        Palette = frame.Palette;
+        HorizontalResolution = frame.HorizontalResolution > 0 ? frame.HorizontalResolution : HorizontalResolution;
+        VerticalResolution = frame.VerticalResolution > 0 ? frame.VerticalResolution : VerticalResolution;
+    }
+
+    /// <inheritdoc/>
+    public override FileFormat FileFormat => _file.Format;
+
+    /// <inheritdoc/>
+    public override int BitsPerPixel => _file.Frames[_index].BitsPerPixel;
+
+    /// <inheritdoc/>
+    public override int PageCount => Math.Max(1, _pages.Count);
+
+    /// <inheritdoc/>
+    public override string PageTitle => _file.Frames[_index].Title;
+
+    /// <inheritdoc/>
+    public override bool IsCached => true;
+
+    internal override PixelGrid Pixels => _pixels;
+
+    /// <inheritdoc/>
+    public override void CacheData() => VerifyNotDisposed();
+
+    /// <inheritdoc/>
+    public override RasterImage GetPage(int index)
+    {
+        if ((uint)index >= (uint)PageCount)
+        {
+            throw new ArgumentOutOfRangeException(nameof(index), index, $"The image has {PageCount} pages, from 0 on.");
+        }
+
+        return _pages.Count == 0 ? this : _pages[index];
+    }
+
+    /// <inheritdoc/>
+    public override void Crop(Rectangle rectangle)
+    {
+        VerifyNotDisposed();
+        VerifyInside(rectangle);
+        if (Cache.ExactReallocateOnly)
+        {
+            Replace(_pixels.Copy(rectangle));
+        }
+        else
+        {
+            _pixels.CropInPlace(rectangle);
+        }
+    }
+
+    /// <inheritdoc/>
+    public override void Dither(DitheringMethod ditheringMethod, int bitsCount, IColorPalette? customPalette)
+    {
+        VerifyNotDisposed();
+        int[] palette = Raster.Colors.DitherPalette.For(_pixels, bitsCount, customPalette);
+        Raster.Colors.Ditherer.Apply(_pixels, palette, ditheringMethod);
+        Palette = new ColorPalette(palette);
+    }
+
+    /// <summary>Takes a block of pixels into the picture.</summary>
+    /// <param name="pixelsRectangle">The block.</param>
+    /// <param name="pixels">Its pixels as 32-bit numbers, row by row.</param>
+    public void Process(Rectangle pixelsRectangle, int[] pixels) => SaveArgb32Pixels(pixelsRectangle, pixels);
+
+    /// <summary>Takes a block of pixels into the picture.</summary>
+    /// <param name="pixelsRectangle">The block.</param>
+    /// <param name="pixels">Its pixels, row by row.</param>
+    public void ProcessColors(Rectangle pixelsRectangle, Color[] pixels) => SavePixels(pixelsRectangle, pixels);
+
+    /// <summary>Takes a block of pixels into the picture.</summary>
+    /// <param name="dataRectangle">The block.</param>
+    /// <param name="data">Its bytes, row by row.</param>
+    /// <param name="settings">What the bytes mean.</param>
+    public void ProcessRawData(Rectangle dataRectangle, byte[] data, RawDataSettings settings) =>
+        SaveRawData(data, dataRectangle, settings);
+
+    internal override void Replace(PixelGrid pixels)
+    {
+        PixelGrid old = _pixels;
+        _pixels = pixels;
+        old.Dispose();
+    }
+
+    internal override void ReleaseManagedResources()
+    {
+        _pixels.Dispose();
+        foreach (RasterImage page in _pages)
+        {
+            if (page != this)
+            {
+                page.Dispose();
+            }
+        }
+
+        base.ReleaseManagedResources();
+    }
+}

@@ -1,0 +1,111 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using System.Linq;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Raster;
+
+namespace Korvan.CAD;
+
+/// <summary>A picture of pixels. Pixels are colours of 8 bits each for red, green, blue and opacity, whatever the file
+/// stored; rows run from the top down.</summary>
+public abstract partial class RasterImage
+    : Image, IRasterImageArgb32PixelLoader, IRasterImagePixelLoader, IRasterImageRawDataLoader
+{
+    private const double UsualResolution = 96;
+
+    internal RasterImage()
+    {
+    }
+
+    /// <summary>Gets the format of the file that the picture was read from.</summary>
+    public abstract FileFormat FileFormat { get; }
+
+    /// <summary>Gets how many bits the file had for a pixel.</summary>
+    public abstract int BitsPerPixel { get; }
+
+    /// <summary>Gets how many pictures the file holds: pages, or frames of an animation.</summary>
+    public abstract int PageCount { get; }
+
+    /// <summary>Gets the name of the page in its file; empty for none.</summary>
+    public abstract string PageTitle { get; }
+
+    /// <summary>Gets or sets the pixels an inch along X, above 0; 96 where the file states none.</summary>
+    public double HorizontalResolution { get; private protected set; } = UsualResolution;
+
+    /// <summary>Gets or sets the pixels an inch along Y, above 0; 96 where the file states none.</summary>
+    public double VerticalResolution { get; private protected set; } = UsualResolution;
+
+    /// <summary>Gets whether any pixel is less than opaque.</summary>
+    public bool HasAlpha => !Pixels.IsOpaque();
+
+    /// <inheritdoc/>
+    public override int Width => Pixels.Width;
+
+    /// <inheritdoc/>
+    public override int Height => Pixels.Height;
+
+    /// <inheritdoc/>
+    public RawDataSettings RawDataSettings => new(PixelDataFormat.Rgb32Bpp, Width);
+
+    /// <inheritdoc/>
+    public bool IsRawDataAvailable => !Disposed;
+
+    internal abstract PixelGrid Pixels { get; }
+
+    /// <summary>Gives a page or frame. It belongs to this image and lives as long.</summary>
+    /// <param name="index">Its number, from 0.</param>
+    /// <exception cref="ArgumentOutOfRangeException">There is no such page.</exception>
+    public abstract RasterImage GetPage(int index);
+
+    /// <summary>Sets how many pixels an inch of paper has; pixels do not change.</summary>
+    /// <param name="dpiX">Pixels an inch along X, above 0.</param>
+    /// <param name="dpiY">Pixels an inch along Y, above 0.</param>
+    public void SetResolution(double dpiX, double dpiY)
+    {
+        var verified = new ResolutionSetting(dpiX, dpiY);
+        (HorizontalResolution, VerticalResolution) = (verified.HorizontalResolution, verified.VerticalResolution);
+    }
+
+    /// <inheritdoc/>
+    internal override bool SupportsExport(ImageOptionsBase options) => RasterSaver.Supports(options);
+
+    /// <inheritdoc/>
+    internal override IEnumerable<Type> ExportOptionTypes => RasterSaver.OptionTypes;
+
+    /// <inheritdoc/>
+    internal override void Export(ImageOptionsBase options, Stream stream)
+    {
+        options.VerifyHonoured();
+        try
+        {
+            RasterSaver.Write(new Frames(this, options, RasterSaver.HoldsPages(options)), options, stream);
+        }
+        catch (IOException e)
+        {
+            throw new ImageSaveException(e.Message, e);
+        }
+    }
+
+    /// <inheritdoc/>
+    internal override void SaveData(Stream stream)
+    {
+        Export(OwnOptions.Of(FileFormat) ?? throw new ImageSaveException($"{FileFormat} is not written; pass options."), stream);
+    }
+
+    /// <summary>Copies of the pages; a single picture where the format has no pages.</summary>
+    private sealed class Frames(RasterImage image, ImageOptionsBase options, bool all) : IRasterPages
+    {
+        public IReadOnlyList<string> Titles { get; } =
+            [.. Enumerable.Range(0, all ? image.PageCount : 1).Select(i => all ? image.GetPage(i).PageTitle : image.PageTitle)];
+
+        public RasterPageData Render(int index)
+        {
+            RasterImage page = all ? image.GetPage(index) : image;
+            ResolutionSetting? set = options.ResolutionSettings;
+            return new RasterPageData(
+                page.Pixels.Copy(), set?.HorizontalResolution ?? page.HorizontalResolution, set?.VerticalResolution ?? page.VerticalResolution);
+        }
+    }
+}
