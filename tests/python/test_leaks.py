@@ -117,9 +117,7 @@ class Leaks(unittest.TestCase):
                 # The smaller of two: a cache that fills once is no leak.
                 grown = min(grown_blocks(body, ROUNDS), grown_blocks(body, ROUNDS))
                 self.assertLess(grown, SLACK)
-                # A type's handle goes over to another module, which counts and frees it itself.
-                if name != "types":
-                    self.assertEqual(probe._live_handles(), handles)
+                self.assertEqual(probe._live_handles(), handles)
         self.assertLess(echo.live() - live, SLACK, "managed objects")
         self.assertLess(resident_kib() - memory, 40_000, "the collectors' own play is less")
 
