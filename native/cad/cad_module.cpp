@@ -54,7 +54,8 @@ PyMODINIT_FUNC PyInit_cad() {
         return fail(load_error::pygc);
     }
     // A host that can't start ends the process: nothing usable could be left behind.
-    if (initialize_clr_host("", "WrpInterop.Korvan.CAD", false, "korvan", "cad") < 0) {
+    if (initialize_clr_host("", "WrpInterop.Korvan.CAD", false, "korvan", "cad",
+                            bound_tree.generic_callbacks) < 0) {
         return fail(load_error::hosts);
     }
     Ref module = Ref::steal(wrpPy_mlit_821C260C_cad());

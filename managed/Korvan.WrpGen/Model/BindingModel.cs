@@ -5,12 +5,35 @@ using Korvan.WrpGen.Naming;
 
 namespace Korvan.WrpGen.Model;
 
-/// <summary>The kinds of typed collection wrappers, one for each declared collection type.</summary>
-public sealed record ElementUse(ValueUse Element, IReadOnlyList<ValueKind> Kinds)
+/// <summary>An element type of typed collections.</summary>
+/// <param name="Kinds">The kinds of wrappers, one for each declared collection type.</param>
+/// <param name="Inputs">Those as which members take a collection, maybe a Python one.</param>
+public sealed record ElementUse(
+    ValueUse Element, IReadOnlyList<ValueKind> Kinds, IReadOnlyList<ValueKind> Inputs)
 {
     public string Hash => field ??= TypeHash.Of(Element.ManagedName);
 
     public bool Has(ValueKind kind) => Kinds.Contains(kind);
+
+    /// <summary>How managed code may change a Python list that it was given.</summary>
+    public PyListUse ListUse => Inputs.Contains(ValueKind.IList) ? PyListUse.Edit
+        : Inputs.Contains(ValueKind.ICollection) ? PyListUse.Collection
+        : PyListUse.Read;
+
+    /// <summary>Python lists and sequences come in; a buffer can't lie in a record that is only read.</summary>
+    public bool ReadsLists => Element.Kind != ValueKind.Bytes && Inputs.Any(kind => kind != ValueKind.IEnumerable);
+
+    /// <summary>Python iterables come in.</summary>
+    public bool ReadsIterators => Element.Kind != ValueKind.Bytes && Inputs.Any(kind =>
+        kind is ValueKind.IEnumerable or ValueKind.ICollection or ValueKind.IReadOnlyCollection);
+}
+
+/// <summary>Which slots the tables of an element have behind the reading one.</summary>
+public enum PyListUse
+{
+    Read,
+    Collection,
+    Edit,
 }
 
 /// <summary>A Python namespace module.</summary>
@@ -44,6 +67,9 @@ public sealed class BindingModel
 
     /// <summary>Every module, parents first.</summary>
     public IEnumerable<ModuleModel> Modules => Walk(RootModule);
+
+    /// <summary>Where the callback tables of each element stand.</summary>
+    public CallbackPositions Callbacks => field ??= new CallbackPositions(Elements);
 
     public ElementUse ElementOf(ValueUse element) =>
         Elements.First(use => use.Element.ManagedName == element.ManagedName);

@@ -10,45 +10,67 @@ internal static class ElementCollector
 {
     public static IReadOnlyList<ElementUse> Collect(IEnumerable<TypeModel> types)
     {
-        var elements = new SortedDictionary<string, (ValueUse Element, SortedSet<ValueKind> Kinds)>(
-            StringComparer.Ordinal);
+        var elements = new SortedDictionary<string, Entry>(StringComparer.Ordinal);
         foreach (TypeModel type in types)
         {
-            foreach (ValueUse value in ValuesOf(type))
+            foreach (ValueUse value in ResultsOf(type))
             {
-                Add(value);
+                Add(value, isInput: false);
+            }
+            foreach (ValueUse value in InputsOf(type))
+            {
+                Add(value, isInput: true);
             }
             if (type.ProtocolElement is { } element && type.Protocol != CollectionProtocol.Indexer)
             {
-                AddKind(element, KindOf(type.Protocol));
+                EntryOf(element).Kinds.Add(KindOf(type.Protocol));
             }
         }
-        return [.. elements.Values.Select(pair => new ElementUse(pair.Element, [.. pair.Kinds]))];
+        return [.. elements.Values.Select(entry => new ElementUse(entry.Element, [.. entry.Kinds], [.. entry.Inputs]))];
 
-        void Add(ValueUse value)
+        void Add(ValueUse value, bool isInput)
         {
-            if (value.IsTypedCollection)
+            if (!value.IsTypedCollection)
             {
-                AddKind(value.Element!, value.Kind);
-                Add(value.Element!);
+                return;
             }
+            Entry entry = EntryOf(value.Element!);
+            entry.Kinds.Add(value.Kind);
+            if (isInput)
+            {
+                entry.Inputs.Add(value.Kind);
+            }
+            Add(value.Element!, isInput);
         }
 
-        void AddKind(ValueUse element, ValueKind kind)
+        Entry EntryOf(ValueUse element)
         {
-            if (!elements.TryGetValue(element.ManagedName, out var entry))
+            if (!elements.TryGetValue(element.ManagedName, out Entry? entry))
             {
-                entry = elements[element.ManagedName] = (element with { IsOptional = false }, []);
+                entry = elements[element.ManagedName] = new Entry(element with { IsOptional = false });
             }
-            entry.Kinds.Add(kind);
+            return entry;
         }
     }
 
-    private static IEnumerable<ValueUse> ValuesOf(TypeModel type) =>
+    private sealed record Entry(ValueUse Element)
+    {
+        public SortedSet<ValueKind> Kinds { get; } = [];
+
+        public SortedSet<ValueKind> Inputs { get; } = [];
+    }
+
+    private static IEnumerable<ValueUse> ResultsOf(TypeModel type) =>
     [
-        .. type.Constructors.Concat(type.Methods).SelectMany(method => method.Parameters.Select(p => p.Value)),
         .. type.Methods.Select(method => method.Result),
         .. type.Properties.Concat(type.StaticProperties).Select(property => property.Value),
+    ];
+
+    private static IEnumerable<ValueUse> InputsOf(TypeModel type) =>
+    [
+        .. type.Constructors.Concat(type.Methods).SelectMany(method => method.Parameters.Select(p => p.Value)),
+        .. type.Properties.Concat(type.StaticProperties)
+            .Where(property => property.CanWrite).Select(property => property.Value),
     ];
 
     private static ValueKind KindOf(CollectionProtocol protocol) => protocol switch

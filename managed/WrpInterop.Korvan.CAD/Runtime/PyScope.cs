@@ -2,7 +2,7 @@ using System;
 using System.Collections;
 using System.Collections.Generic;
 using System.IO;
-using System.Linq;
+using Korvan.WrpGen.Generic;
 
 namespace Korvan.WrpGen.Interop;
 
@@ -73,33 +73,34 @@ public unsafe struct PyScope
         ? throw new NotSupportedException($"A Python object can't stand in for {nameof(ReadOnlyCollectionBase)}.")
         : Handles.Object<ReadOnlyCollectionBase>(argument->Value);
 
-    public IEnumerable<T>? Iterable<T>(VariantArg* argument) => FromPython(argument)
-        ? Adopt(new PyIterable<T>(Hold(argument->Value)))
+    public IEnumerable<T>? Iterable<T>(VariantArg* argument, PyElement<T> element) => FromPython(argument)
+        ? Adopt(new PyIterable<T>(Hold(argument->Value), element))
         : Handles.Object<IEnumerable<T>>(argument->Value);
 
-    public ICollection<T>? Collection<T>(VariantArg* argument) => FromPython(argument)
-        ? Adopt(ItemsOf<T>(argument))
+    public ICollection<T>? Collection<T>(VariantArg* argument, PyElement<T> element) => FromPython(argument)
+        ? Adopt(ItemsOf(argument, element, PyItemsKind.Collection))
         : Handles.Object<ICollection<T>>(argument->Value);
 
-    public IReadOnlyCollection<T>? ReadOnlyCollection<T>(VariantArg* argument) => FromPython(argument)
-        ? Adopt(ItemsOf<T>(argument))
-        : Handles.Object<IReadOnlyCollection<T>>(argument->Value);
+    public IReadOnlyCollection<T>? ReadOnlyCollection<T>(VariantArg* argument, PyElement<T> element) =>
+        FromPython(argument)
+            ? Adopt(ItemsOf(argument, element, PyItemsKind.Collection))
+            : Handles.Object<IReadOnlyCollection<T>>(argument->Value);
 
-    public IList<T>? ItemList<T>(VariantArg* argument) => FromPython(argument)
-        ? Adopt(ItemsOf<T>(argument))
+    public IList<T>? ItemList<T>(VariantArg* argument, PyElement<T> element) => FromPython(argument)
+        ? Adopt(ItemsOf(argument, element))
         : Handles.Object<IList<T>>(argument->Value);
 
-    public IReadOnlyList<T>? ReadOnlyList<T>(VariantArg* argument) => FromPython(argument)
-        ? Adopt(ItemsOf<T>(argument))
+    public IReadOnlyList<T>? ReadOnlyList<T>(VariantArg* argument, PyElement<T> element) => FromPython(argument)
+        ? Adopt(ItemsOf(argument, element))
         : Handles.Object<IReadOnlyList<T>>(argument->Value);
 
     /// <summary>A concrete list is no interface: items from Python are copied into a new one.</summary>
-    public List<T>? ListOf<T>(VariantArg* argument) => FromPython(argument)
-        ? [.. ItemsOf<T>(argument)]
+    public List<T>? ListOf<T>(VariantArg* argument, PyElement<T> element) => FromPython(argument)
+        ? ItemsOf(argument, element).ToList()
         : Handles.Object<List<T>>(argument->Value);
 
-    public T[]? ArrayOf<T>(VariantArg* argument) => FromPython(argument)
-        ? ItemsOf<T>(argument).ToArray()
+    public T[]? ArrayOf<T>(VariantArg* argument, PyElement<T> element) => FromPython(argument)
+        ? ItemsOf(argument, element).ToList().ToArray()
         : Handles.Object<T[]>(argument->Value);
 
     /// <summary>Any value for a parameter of the universal object type.</summary>
@@ -153,6 +154,10 @@ public unsafe struct PyScope
 
     private readonly ArrayList CopyOf(VariantArg* argument) => new(new PyCollection(Hold(argument->Value)));
 
-    private readonly PyItems<T> ItemsOf<T>(VariantArg* argument) =>
-        new(Hold(argument->Value), isList: (ReferenceKind)argument->Kind == ReferenceKind.Python);
+    private readonly PyItems<T> ItemsOf<T>(
+        VariantArg* argument, PyElement<T> element, PyItemsKind other = PyItemsKind.Sequence) =>
+        new(
+            Hold(argument->Value),
+            (ReferenceKind)argument->Kind == ReferenceKind.Python ? PyItemsKind.List : other,
+            element);
 }

@@ -151,9 +151,9 @@ int convert_collection(PyObject* object, VariantArg* out, const void* type) {
 using array = record<VariantArg, convert_collection<CollectionParameter::array>>;
 using list = record<VariantArg, convert_collection<CollectionParameter::list>>;
 using iterable = record<VariantArg, convert_collection<CollectionParameter::iterable>>;
-using icol = record<VariantArg, convert_collection<CollectionParameter::collection>>;
+using icol = record<VariantArg, convert_collection<CollectionParameter::typed_collection>>;
 using ilist = record<VariantArg, convert_collection<CollectionParameter::list>>;
-using irocol = record<VariantArg, convert_collection<CollectionParameter::collection>>;
+using irocol = record<VariantArg, convert_collection<CollectionParameter::typed_collection>>;
 using irolist = record<VariantArg, convert_collection<CollectionParameter::list>>;
 
 template <ClassBinding& Wrapper, CollectionParameter Kind>

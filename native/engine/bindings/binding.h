@@ -51,6 +51,7 @@
 #include "bindings/tables.h"
 #include "generic/element_ops.h"
 #include "generic/interop.h"
+#include "generic/python_collections.h"
 
 // Rows of tables; the formatter would take them for blocks of statements.
 // clang-format off

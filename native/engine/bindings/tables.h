@@ -248,6 +248,7 @@ struct ModuleRecord {
 struct BoundTree {
     const ModuleRecord* root;
     ClassBinding* const* generics; // every collection wrapper of the _generic module, null-ended
+    const void* const* generic_callbacks; // see generic/python_collections.h
 };
 
 #endif

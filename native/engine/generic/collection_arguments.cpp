@@ -17,12 +17,15 @@ bool accepts_python_object(PyObject* object, CollectionParameter parameter, std:
         return PyShlObject_HasLength(object) && PyShlObject_HasIter(object);
     default: break;
     }
+    // Only a list can be written to, and its typed callbacks know it for one.
     if (PyList_Check(object)) {
         *kind = KORVAN_REF_PYTHON;
         return true;
     }
     *kind = KORVAN_REF_SEQUENCE;
-    return PyShlObject_IsSizedSequence(object);
+    return parameter == CollectionParameter::typed_collection
+               ? PyShlObject_HasLength(object) && PyShlObject_HasIter(object)
+               : PyShlObject_IsSizedSequence(object);
 }
 
 // 1 fits, 0 does not, -1 with an error.

@@ -4,7 +4,7 @@
 
 #include "bindings/tables.h"
 
-enum class CollectionParameter { array, list, iterable, collection };
+enum class CollectionParameter { array, list, iterable, collection, typed_collection };
 
 // A wrapper crosses by its handle; a Python list, sequence or iterable crosses as itself, borrowed,
 // and the managed side reads it through the callbacks.

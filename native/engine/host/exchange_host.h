@@ -29,7 +29,7 @@ public:
     void set_py_bytes_builder_callback(void* callback) const { m_set_py_bytes_builder(callback); }
     void set_py_obj_api_callbacks(void** table) const { m_set_obj_api(table); }
     void set_py_static_callbacks(void*** table) const { m_set_static(table); }
-    void set_py_generic_callbacks(void*** table) const { m_set_generic(table); }
+    void set_py_generic_callbacks(const void* const* table) const { m_set_generic(table); }
     void free_pending_args(VariantArg* args, int count) const { m_free_pending_args(args, count); }
     void free_instance(void* handle) const { m_free_instance(handle); }
     void free_struct(void* handle) const { m_free_struct(handle); }
@@ -52,7 +52,7 @@ private:
     Setter m_set_py_bytes_builder = nullptr;
     void (*m_set_obj_api)(void**) = nullptr;
     void (*m_set_static)(void***) = nullptr;
-    void (*m_set_generic)(void***) = nullptr;
+    void (*m_set_generic)(const void* const*) = nullptr;
     void (*m_free_pending_args)(VariantArg*, int) = nullptr;
     void (*m_free_instance)(void*) = nullptr;
     void (*m_free_struct)(void*) = nullptr; // the same managed method as above, bound by itself

@@ -41,7 +41,7 @@ void** tables[] = {
     &all_slots[index_of_fn_clbk_rawio_write],
 };
 
-void** generic_tables[] = {nullptr};
+const void* const* generic_tables = nullptr;
 
 bool fail(const std::string& message) {
     PyErr_SetString(PyExc_TypeError, message.c_str());
@@ -72,10 +72,12 @@ void* m_py_obj_api_callbacks[3] = {slot(fn_get_py_none), slot(fn_xinc_ref), slot
 
 void*** get_all_py_wrapper_callbacks() { return tables; }
 
-void*** get_all_pygn_generic_callbacks() { return generic_tables; }
+const void* const* get_all_pygn_generic_callbacks() { return generic_tables; }
 
 int initialize_clr_host(const char* host_tag, const char* assembly_name, bool is_debug,
-                        const char* env_suffix, const char* product_tag) {
+                        const char* env_suffix, const char* product_tag,
+                        const void* const* generic_callbacks) {
+    generic_tables = generic_callbacks;
     HostEnvironment::instance(host_tag, is_debug, env_suffix, product_tag, nullptr, nullptr);
     if (!bind_exchange_host(assembly_name)) {
         return -1;

@@ -7,13 +7,15 @@
 extern void* m_py_obj_api_callbacks[3];
 // Nine tables in contract order.
 void*** get_all_py_wrapper_callbacks();
-// The typed tables of generic collections; ended by null.
-void*** get_all_pygn_generic_callbacks();
+// The typed tables of generic collections, in the order of the element list.
+const void* const* get_all_pygn_generic_callbacks();
 
 // Starts the runtime, binds the exchange host, registers every callback, calls InitServices and
 // binds the object host. 0, or -1 with a Python exception. Throws when the host can't start.
+// `generic_callbacks` are those of the module's bound tree.
 int initialize_clr_host(const char* host_tag, const char* assembly_name, bool is_debug,
-                        const char* env_suffix, const char* product_tag);
+                        const char* env_suffix, const char* product_tag,
+                        const void* const* generic_callbacks = nullptr);
 
 PyObject* fn_get_py_none();
 void fn_xinc_ref(PyObject* object);

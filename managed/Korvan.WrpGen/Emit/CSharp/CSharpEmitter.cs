@@ -34,7 +34,7 @@ public static class CSharpEmitter
         }
         foreach (ElementUse element in model.Elements)
         {
-            folder.Write($"Generic/SiApi_{element.Hash}.cs", GenericWriter.Write(element));
+            folder.Write($"Generic/SiApi_{element.Hash}.cs", GenericWriter.Write(element, model.Callbacks));
         }
         folder.RemoveStale(".cs");
     }

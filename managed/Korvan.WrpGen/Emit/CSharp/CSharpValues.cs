@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using Korvan.WrpGen.Model;
+using Korvan.WrpGen.Naming;
 
 namespace Korvan.WrpGen.Emit.CSharp;
 
@@ -39,7 +40,8 @@ internal static class CSharpValues
         ValueKind.Nullable => $"{name}_has != 0 ? ({value.CSharpName}){Operand(value.Element!, name)} : null",
         ValueKind.AnyEnumerable => $"scope.AnyIterable({name})",
         _ when value.IsUntypedCollection => $"scope.{value.Kind}({name})",
-        _ when value.IsTypedCollection => $"scope.{ScopeMethod(value.Kind)}<{value.Element!.CSharpName}>({name})",
+        _ when value.IsTypedCollection => $"scope.{ScopeMethod(value.Kind)}({name}, " +
+            $"global::Korvan.WrpGen.Generic.{ElementClass(value.Element!)}.Element)",
         _ => name,
     };
 
@@ -160,6 +162,9 @@ internal static class CSharpValues
 
     private static string Operand(string expression) =>
         expression.Contains(' ') ? $"({expression})" : expression;
+
+    /// <summary>The class that says how Python's collections of an element are read.</summary>
+    public static string ElementClass(ValueUse element) => $"PyElement_{TypeHash.Of(element.ManagedName)}";
 
     private static string ScopeMethod(ValueKind kind) => kind switch
     {

@@ -7,23 +7,27 @@ namespace Korvan.WrpGen.Emit.CSharp;
 /// <summary>Writes the classes behind the typed collections of one element type: lists of one-liners.</summary>
 internal sealed class GenericWriter
 {
+    private const string Space = "global::Korvan.WrpGen.Generic.";
+
     private readonly ElementUse _use;
+    private readonly CallbackPositions _callbacks;
     private readonly string _element;
     private readonly string _in;
     private readonly string _out;
     private readonly CodeWriter _writer = new();
 
-    private GenericWriter(ElementUse use)
+    private GenericWriter(ElementUse use, CallbackPositions callbacks)
     {
         _use = use;
+        _callbacks = callbacks;
         _element = use.Element.CSharpName;
         _in = InType(use.Element);
         _out = CSharpValues.RecordType(use.Element) ?? CSharpValues.NativeType(use.Element);
     }
 
-    public static string Write(ElementUse use)
+    public static string Write(ElementUse use, CallbackPositions callbacks)
     {
-        var writer = new GenericWriter(use);
+        var writer = new GenericWriter(use, callbacks);
         writer.Write();
         return writer._writer.ToString();
     }
@@ -37,10 +41,30 @@ internal sealed class GenericWriter
             _writer.Line($"using {host.Kind}Api = {ApiType(host)};");
         }
         _writer.Line().Line("namespace Korvan.WrpGen.Generic;").Line();
+        WriteElement();
         foreach (GenericHost host in hosts)
         {
             WriteHost(host);
         }
+    }
+
+    // How Python's collections of this element are read and written.
+    private void WriteElement()
+    {
+        string values = $"{_element}, {Pass(_in)}, {Native()}, {Codec(_use.Element)}";
+        string[] positions =
+        [
+            .. new[] { CallbackTable.List, CallbackTable.Iterator, CallbackTable.Sequence }
+                .Select(table => _callbacks.Of(table, _use).ToString(System.Globalization.CultureInfo.InvariantCulture)),
+            $"PyListUse.{_use.ListUse}",
+            _in.EndsWith('*') ? "true" : "false",
+        ];
+        string made = _use.ReadsLists || _use.ReadsIterators
+            ? $"new TypedElement<{values}>({string.Join(", ", positions)})"
+            : $"UntypedElement<{_element}>.Instance";
+        _writer.Block($"public readonly struct {CSharpValues.ElementClass(_use.Element)} : IElementSource<{_element}>",
+            () => _writer.Line($"public static PyElement<{_element}> Element {{ get; }} = {made};"));
+        _writer.Line();
     }
 
     private void WriteHost(GenericHost host)
@@ -136,13 +160,14 @@ internal sealed class GenericWriter
         _ => $"global::System.Collections.Generic.IReadOnlyList<{_element}>",
     };
 
+    // An alias is read before the names that other directives bring in.
+    private string Native() => CSharpValues.RecordType(_use.Element)?.StartsWith("Py") == true
+        ? "global::Korvan.WrpGen.Interop." + _out
+        : _out;
+
     private string ApiType(GenericHost host)
     {
-        const string Space = "global::Korvan.WrpGen.Generic.";
-        // An alias is read before the names that other directives bring in.
-        string result = CSharpValues.RecordType(_use.Element)?.StartsWith("Py") == true
-            ? "global::Korvan.WrpGen.Interop." + _out
-            : _out;
+        string result = Native();
         string native = $"{_element}, {Pass(_in)}, {result}, {Codec(_use.Element)}";
         string list = $"{Space}ListApi<{TargetType(host)}, {_element}, ";
         string tail = $", {Pass(_in)}, {result}, {Codec(_use.Element)}>";
@@ -167,10 +192,8 @@ internal sealed class GenericWriter
         return parameter[..parameter.IndexOf(' ')];
     }
 
-    private static string Codec(ValueUse element)
-    {
-        const string Space = "global::Korvan.WrpGen.Generic.";
-        return Space + element.Kind switch
+    private static string Codec(ValueUse element) =>
+        Space + element.Kind switch
         {
             ValueKind.Bool => "BoolCodec",
             ValueKind.Char => "CharCodec",
@@ -181,7 +204,8 @@ internal sealed class GenericWriter
             ValueKind.Class => $"ClassCodec<{element.CSharpName}>",
             ValueKind.Struct => $"StructCodec<{element.CSharpName}>",
             ValueKind.Interface => $"InterfaceCodec<{element.CSharpName}>",
-            ValueKind.Array => $"ArrayCodec<{element.Element!.CSharpName}>",
+            ValueKind.Array => $"ArrayCodec<{element.Element!.CSharpName}, " +
+                $"{Space}{CSharpValues.ElementClass(element.Element)}>",
             ValueKind.DateTime => "DateTimeCodec",
             ValueKind.DateTimeOffset => "DateTimeOffsetCodec",
             ValueKind.Decimal => "DecimalCodec",
@@ -190,5 +214,4 @@ internal sealed class GenericWriter
             ValueKind.Guid => "GuidCodec",
             _ => $"ValueCodec<{element.CSharpName}>",
         };
-    }
 }

@@ -131,6 +131,7 @@ public static class CppEmitter
                     writer.Line($"extern ClassBinding {symbol};");
                 }
             }
+            writer.Line($"extern const void* const {GenericUnitWriter.AllCallbacks}[];");
         });
         return writer.ToString();
     }
@@ -149,6 +150,7 @@ public static class CppEmitter
         {
             generics.Write(use);
         }
+        generics.WriteCallbacks();
         return writer.ToString();
     }
 
@@ -163,7 +165,8 @@ public static class CppEmitter
             .Select(symbol => "&" + symbol);
         WriteList(writer, "ClassBinding", "generics", generics);
         writer.Line($"extern const BoundTree bound_tree;");
-        writer.Line($"const BoundTree bound_tree = {{&module_{SymbolOf(model.RootModule)}, generics}};");
+        writer.Line($"const BoundTree bound_tree = {{&module_{SymbolOf(model.RootModule)}, generics, " +
+            $"{GenericUnitWriter.AllCallbacks}}};");
         return writer.ToString();
     }
 

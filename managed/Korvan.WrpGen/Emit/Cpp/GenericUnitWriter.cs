@@ -8,6 +8,9 @@ namespace Korvan.WrpGen.Emit.Cpp;
 /// <summary>Writes the wrappers of typed collections: hosts and bindings of every element type.</summary>
 internal sealed class GenericUnitWriter(BindingModel model, CodeWriter writer)
 {
+    /// <summary>Every typed callback table, by position.</summary>
+    public const string AllCallbacks = "m_all_py_generic_callbacks";
+
     private sealed record Wrapper(
         string Prefix, string Name, string What, GenericHost Host, string Protocol, string Hosts, bool IsConcrete);
 
@@ -50,6 +53,48 @@ internal sealed class GenericUnitWriter(BindingModel model, CodeWriter writer)
             WriteWrapper(use, wrapper, CppValues.ElementOps(use.Element));
         }
         writer.Line();
+    }
+
+    /// <summary>Writes the callback tables of every element that Python collections bring in.</summary>
+    public void WriteCallbacks()
+    {
+        foreach ((CallbackTable table, ElementUse use) in model.Callbacks.Ordered)
+        {
+            writer.Line($"static constexpr {TableType(table, use)} {TableName(table, use)};");
+        }
+        writer.Line($"const void* const {AllCallbacks}[] = {{");
+        writer.Indented(() =>
+        {
+            foreach ((CallbackTable table, ElementUse use) in model.Callbacks.Ordered)
+            {
+                writer.Line($"&{TableName(table, use)},");
+            }
+            writer.Line("nullptr");
+        });
+        writer.Line("};");
+    }
+
+    private static string TableName(CallbackTable table, ElementUse use) => table switch
+    {
+        CallbackTable.List => $"m_pygn_pylist_{use.Hash}_callbacks",
+        CallbackTable.Iterator => $"m_pygn_pyiter_{use.Hash}_callbacks",
+        _ => $"m_pygn_pyseq_{use.Hash}_callbacks",
+    };
+
+    private static string TableType(CallbackTable table, ElementUse use)
+    {
+        string argument = CppValues.Argument(use.Element);
+        string type = CppValues.Binding(use.Element) ?? "nullptr";
+        bool writes = table != CallbackTable.Iterator && use.ListUse != PyListUse.Read;
+        string name = table switch
+        {
+            CallbackTable.List => "PyList",
+            CallbackTable.Iterator => "PyIter",
+            _ => "PySeq",
+        };
+        return writes
+            ? $"{name}{use.ListUse}Table<{argument}, {CppValues.Result(use.Element)}, {type}>"
+            : $"{name}Table<{argument}, {type}>";
     }
 
     private static IEnumerable<Wrapper> WrappersOf(ElementUse use) =>

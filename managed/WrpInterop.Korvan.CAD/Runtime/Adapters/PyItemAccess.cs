@@ -7,27 +7,45 @@ namespace Korvan.WrpGen.Interop;
 internal static unsafe class PyItemAccess
 {
     private const int Error = -1;
-    private const int IndexError = -2;
+    internal const int IndexError = -2;
 
     internal static object? GetFromList(nint list, int index)
     {
-        VariantArg variant = default;
-        Check(PyCollectionApi.ListGet(list, index, &variant));
-        return Variants.ReadItem(&variant);
+        Check(TryGetFromList(list, index, out object? item));
+        return item;
     }
 
     internal static object? GetFromSequence(nint sequence, int index)
     {
+        Check(TryGetFromSequence(sequence, index, out object? item));
+        return item;
+    }
+
+    internal static int TryGetFromList(nint list, int index, out object? item)
+    {
         VariantArg variant = default;
-        Check(PyCollectionApi.SequenceGet(sequence, index, &variant));
-        try
+        int status = PyCollectionApi.ListGet(list, index, &variant);
+        item = status == 0 ? Variants.ReadItem(&variant) : null;
+        return status;
+    }
+
+    internal static int TryGetFromSequence(nint sequence, int index, out object? item)
+    {
+        VariantArg variant = default;
+        item = null;
+        int status = PyCollectionApi.SequenceGet(sequence, index, &variant);
+        if (status == 0)
         {
-            return Variants.ReadItem(&variant);
+            try
+            {
+                item = Variants.ReadItem(&variant);
+            }
+            finally
+            {
+                ReleaseItem(&variant);
+            }
         }
-        finally
-        {
-            ReleaseItem(&variant);
-        }
+        return status;
     }
 
     internal static void Set(nint list, int index, object? value)
@@ -83,7 +101,7 @@ internal static unsafe class PyItemAccess
         return status;
     }
 
-    private static void Check(int status)
+    internal static void Check(int status)
     {
         if (status == IndexError)
         {
@@ -92,7 +110,7 @@ internal static unsafe class PyItemAccess
         Checked(status);
     }
 
-    private static int Found(int index)
+    internal static int Found(int index)
     {
         if (index < -1)
         {
@@ -101,7 +119,7 @@ internal static unsafe class PyItemAccess
         return index;
     }
 
-    private static void ThrowIfPending()
+    internal static void ThrowIfPending()
     {
         if (Boundary.TakePythonError() is { } text)
         {

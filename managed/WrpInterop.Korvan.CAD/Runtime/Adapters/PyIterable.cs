@@ -1,6 +1,7 @@
 using System;
 using System.Collections;
 using System.Collections.Generic;
+using Korvan.WrpGen.Generic;
 
 namespace Korvan.WrpGen.Interop;
 
@@ -9,7 +10,7 @@ public class PyIterable(PyReference reference) : IEnumerable, IPyAdapter
 {
     public nint PyObject => reference.Value;
 
-    public IEnumerator GetEnumerator() => new PyIterator<object?>(PyObject);
+    public IEnumerator GetEnumerator() => new PyIterator<object?>(PyObject, UntypedElement<object?>.Instance);
 
     void IPyAdapter.Complete()
     {
@@ -18,19 +19,21 @@ public class PyIterable(PyReference reference) : IEnumerable, IPyAdapter
     void IPyAdapter.End() => reference.End();
 }
 
-/// <summary>Any Python object that can be iterated, its items fitted to one type.</summary>
-public sealed class PyIterable<T>(PyReference reference) : PyIterable(reference), IEnumerable<T>
+/// <summary>Any Python object that can be iterated, its items read as one type.</summary>
+internal sealed class PyIterable<T>(PyReference reference, PyElement<T> element)
+    : PyIterable(reference), IEnumerable<T>
 {
-    IEnumerator<T> IEnumerable<T>.GetEnumerator() => new PyIterator<T>(PyObject);
+    IEnumerator<T> IEnumerable<T>.GetEnumerator() => new PyIterator<T>(PyObject, element);
 }
 
 /// <summary>A Python iterator. Ends with the collection's end, an error or <see cref="Dispose"/>.</summary>
-internal sealed unsafe class PyIterator<T> : IEnumerator<T>
+internal sealed class PyIterator<T> : IEnumerator<T>
 {
+    private readonly PyElement<T> _element;
     private KeptPyReference? _iterator;
     private T _current = default!;
 
-    internal PyIterator(nint iterable)
+    internal PyIterator(nint iterable, PyElement<T> element)
     {
         nint iterator = PyCollectionApi.GetIterator(iterable);
         if (iterator == 0)
@@ -38,6 +41,7 @@ internal sealed unsafe class PyIterator<T> : IEnumerator<T>
             Boundary.ThrowPythonError();
         }
         _iterator = KeptPyReference.Taking(iterator);
+        _element = element;
     }
 
     public T Current => _current;
@@ -52,12 +56,10 @@ internal sealed unsafe class PyIterator<T> : IEnumerator<T>
         {
             return false;
         }
-        nint keep = 0;
-        VariantArg variant = default;
-        int status = PyCollectionApi.Next(_iterator.Value, &keep, &variant);
+        int status = _element.Next(_iterator.Value, out T item);
         if (status == Item)
         {
-            _current = Take(keep, &variant);
+            _current = item;
             return true;
         }
         Dispose();
@@ -74,17 +76,5 @@ internal sealed unsafe class PyIterator<T> : IEnumerator<T>
     {
         _iterator?.Release();
         _iterator = null;
-    }
-
-    private static T Take(nint keep, VariantArg* variant)
-    {
-        try
-        {
-            return Items<T>.Fit(Variants.ReadItem(variant));
-        }
-        finally
-        {
-            PyObjects.DecRef(keep);
-        }
     }
 }

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using Korvan.WrpGen.Generic;
 using Korvan.WrpGen.Interop;
 using Xunit;
 
@@ -18,7 +19,7 @@ public unsafe class AdapterTests
     {
         VariantArg argument = Argument(new List<object> { 1, 2 });
         PyScope scope = PyScope.Lending();
-        IList<int> items = scope.ItemList<int>(&argument)!;
+        IList<int> items = scope.ItemList(&argument, UntypedElement<int>.Instance)!;
         Assert.Equal([1, 2], items);
         Assert.Equal(1, FakePython.At(argument.Value).References);
         scope.End();
@@ -30,7 +31,7 @@ public unsafe class AdapterTests
     {
         VariantArg argument = Argument(new List<object> { 1 });
         PyScope scope = PyScope.Keeping();
-        IList<int> items = scope.ItemList<int>(&argument)!;
+        IList<int> items = scope.ItemList(&argument, UntypedElement<int>.Instance)!;
         scope.End();
         items.Add(7);
         Assert.Equal([1, 7], (List<object>)FakePython.ValueOf(argument.Value)!);
@@ -62,8 +63,8 @@ public unsafe class AdapterTests
     {
         VariantArg argument = Argument(new List<object> { 3, 4 });
         PyScope scope = PyScope.Lending();
-        List<int> list = scope.ListOf<int>(&argument)!;
-        int[] array = scope.ArrayOf<int>(&argument)!;
+        List<int> list = scope.ListOf(&argument, UntypedElement<int>.Instance)!;
+        int[] array = scope.ArrayOf(&argument, UntypedElement<int>.Instance)!;
         scope.End();
         Assert.Equal([3, 4], list);
         Assert.Equal([3, 4], array);
@@ -74,7 +75,7 @@ public unsafe class AdapterTests
     {
         VariantArg argument = Argument(new List<object> { 1, new Exception("ValueError: third") });
         PyScope scope = PyScope.Lending();
-        IEnumerable<int> items = scope.Iterable<int>(&argument)!;
+        IEnumerable<int> items = scope.Iterable(&argument, UntypedElement<int>.Instance)!;
         Assert.Equal("ValueError: third", Assert.Throws<PythonException>(() => items.Sum()).Message);
     }
 
@@ -83,7 +84,7 @@ public unsafe class AdapterTests
     {
         VariantArg argument = Argument(new List<object>());
         PyScope scope = PyScope.Lending();
-        IList<int> items = scope.ItemList<int>(&argument)!;
+        IList<int> items = scope.ItemList(&argument, UntypedElement<int>.Instance)!;
         Assert.Throws<ArgumentOutOfRangeException>(() => items[0]);
     }
 

@@ -65,8 +65,8 @@ public sealed unsafe class FakePython
         PyTables.Read = Table(0, 0, (nint)(delegate* unmanaged<nint, ulong*, int>)&ReadLong);
         PyTables.Write = Table(0, 0, (nint)(delegate* unmanaged<int, nint>)&WriteInt);
         PyTables.Iterator = Table((nint)(delegate* unmanaged<nint, nint*, VariantArg*, int>)&Next);
-        PyTables.Collection = Table(0, 0, 0, 0, 0, 0, (nint)(delegate* unmanaged<nint, nint>)&GetIterator,
-            (nint)(delegate* unmanaged<nint, int>)&Length);
+        PyTables.Collection = Table((nint)(delegate* unmanaged<nint, int>)&Length, 0, 0, 0, 0, 0,
+            (nint)(delegate* unmanaged<nint, nint>)&GetIterator, (nint)(delegate* unmanaged<nint, int>)&Length);
         PyTables.List = Table((nint)(delegate* unmanaged<nint, int, VariantArg*, int>)&ListGet, 0,
             (nint)(delegate* unmanaged<nint, nint, int>)&ListAdd);
         PyTables.RawIO = Table((nint)(delegate* unmanaged<nint, byte*, int, int>)&FileWrite, 0,
