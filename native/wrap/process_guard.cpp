@@ -18,6 +18,10 @@ constexpr Variable variables[] = {
     {"DOTNET_EnableWriteXorExecute", "0"},
     // No debugger pipes in the temp folder, and no thread that serves them.
     {"DOTNET_EnableDiagnostics", "0"},
+    // Compiled code that uses the upper halves of vector registers leaves them in use when it calls
+    // back into Python. All code there that was built for plain x86-64 then pays for a switch of
+    // states at each instruction on a float, ten times what the crossing costs.
+    {"DOTNET_PreferredVectorBitWidth", "128"},
 };
 
 } // namespace

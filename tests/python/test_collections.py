@@ -2,6 +2,8 @@
 
 from __future__ import annotations
 
+import datetime as dt
+import io
 import unittest
 from collections.abc import Callable, Iterable
 from typing import Any
@@ -365,8 +367,102 @@ class TypedCollections(unittest.TestCase):
         self.assertEqual(target, [1, 2])
         with self.assertRaisesRegex(TypeError, "can't build List value from 'int'"):
             collections.sum_list(3)
-        with self.assertRaises(RuntimeError):
-            collections.sum_array([1, "two"])
+
+    def test_an_item_is_refused_where_it_is_read_in_its_converters_words(self) -> None:
+        collections = probe.Collections
+        for call, words in (
+            (lambda: collections.sum_array([1, "two"]), "integer argument expected, got 'str'"),
+            (lambda: collections.sum_array((1, 2**31)), "out of the INT32 range"),
+            (lambda: collections.sum_list([0.5, 1]), "numeric argument expected, got 'int'"),
+            (lambda: collections.sum_iterable(iter([1, None])), "integer argument expected, got 'NoneType'"),
+            (lambda: collections.count_boxes([probe.Box(), "x"]), "can't build Box value from 'str'"),
+            (lambda: collections.join_read_only(["a", 1]), "can't build String from 'int'"),
+            (lambda: collections.sum_table([[1], 2]), "can't build IEnumerable value from 'int'"),
+        ):
+            with self.subTest(words), self.assertRaisesRegex(RuntimeError, words):
+                call()
+
+    def test_managed_code_changes_a_python_list_through_typed_slots(self) -> None:
+        words = ["one", "two"]
+        self.assertTrue(probe.Collections.move(words, "one", "three"))
+        self.assertFalse(probe.Collections.move(words, "none", "four"))
+        self.assertEqual(words, ["two", "three", "four"])
+        boxes = [probe.Box("a")]
+        self.assertEqual(probe.Collections.edit(boxes), "2 2 True False")
+        self.assertEqual([box.label for box in boxes], ["new", "set"])
+        self.assertEqual(probe.Collections.place((4, 5, 6), 6), 2)
+        self.assertEqual(probe.Collections.place([4, 5], 6), -1)
+        for fixed in (("a",), {"a"}, {"a": 1}):
+            with self.assertRaisesRegex(RuntimeError, "no list can't be changed"):
+                probe.Collections.move(fixed, "a", "b")
+
+    def test_a_list_is_walked_as_python_would_when_it_changes(self) -> None:
+        class Zone(dt.tzinfo):
+            """Runs code while an item is converted."""
+
+            def __init__(self, change: Callable[[], object]) -> None:
+                self.change = change
+
+            def utcoffset(self, when: object) -> dt.timedelta:
+                self.change()
+                return dt.timedelta(0)
+
+        shrinking: list[object] = [dt.datetime(2024, 1, 1, tzinfo=Zone(lambda: shrinking.clear())), None]
+        collections = probe.Collections()
+        collections.moments = shrinking
+        self.assertEqual((len(collections.moments), shrinking), (1, []))
+        growing: list[object] = [dt.datetime(2024, 1, 1, tzinfo=Zone(
+            lambda: len(growing) < 5 and growing.append(dt.date(2024, 1, 2))))]
+        collections.moments = growing
+        self.assertEqual(len(collections.moments), 2)
+        growing.clear()  # the collector does not see cycles through a datetime
+
+        class Lazy:
+            """A sequence with fewer items than it says."""
+
+            def __len__(self) -> int:
+                return 9
+
+            def __getitem__(self, index: int) -> int:
+                if index == 3:
+                    raise IndexError(index)
+                return index
+
+        self.assertEqual(probe.Collections.sum_array(Lazy()), 3)
+
+    def test_collections_and_streams_are_elements(self) -> None:
+        collections = probe.Collections()
+        self.assertEqual([list(row) for row in collections.table], [[1], [2, 3]])
+        collections.table.append([4, 5])
+        collections.table[0].append(9)
+        self.assertEqual([row.copy() for row in collections.table], [[1, 9], [2, 3], [4, 5]])
+        collections.table = [[1], (2, 3)]
+        self.assertEqual([list(row) for row in collections.table], [[1], [2, 3]])
+        self.assertEqual(probe.Collections.sum_table([[1, 2], range(3), iter((4,))]), 10)
+        collections.pages.append(["c"])
+        self.assertEqual([list(page) for page in collections.pages], [["a", "b"], ["c"]])
+        self.assertEqual(collections.tapes[0].read(), b"\1\2")
+        target = io.BytesIO()
+        collections.tapes.append(target)
+        self.assertIs(collections.tapes[1], target)
+
+    def test_iterators_and_disposables_cross_both_ways(self) -> None:
+        items = iter([1, 2, 3, 4])
+        self.assertEqual(probe.Collections.sum_next(items, 2), 3)
+        self.assertEqual(list(items), [3, 4], "only what was asked for is taken")
+        self.assertEqual(probe.Collections.join_next(iter((1, "a", None))), "1|a|")
+        self.assertEqual(list(probe.Collections.countdown(3)), [2, 1, 0])
+        self.assertEqual(probe.Collections.sum_next(probe.Collections.countdown(4), 2), 5)
+        self.assertEqual(list(probe.Collections.mixture()), [1, "two", None])
+        self.assertEqual(probe.Collections.join_next(probe.Collections.mixture()), "1|two|")
+        with self.assertRaisesRegex(TypeError, "can't build IEnumerator value from 'list'"):
+            probe.Collections.sum_next([1], 1)
+        collections = probe.Collections()
+        with collections.resource as resource:
+            self.assertTrue(resource)
+        probe.Collections.release(collections.resource)
+        with self.assertRaisesRegex(TypeError, "can't build IDisposable value from '_io.BytesIO'"):
+            probe.Collections.release(io.BytesIO())
 
     def test_a_bound_class_that_is_a_collection_behaves_as_one(self) -> None:
         self.assertEqual(list(probe.Countdown(3)), [3, 2, 1])
@@ -383,6 +479,35 @@ class TypedCollections(unittest.TestCase):
         self.assertEqual(loose.title, "loose")
         self.assertEqual(len(probe.LooseBag()), 3)
         self.assertEqual(list(probe.LooseBag()), ["a", "b", "a"])
+
+
+class Shelves(unittest.TestCase):
+    def test_each_kind_reads_and_writes(self) -> None:
+        shelf = probe.Shelf()
+        for name, value in (("numbers", [5, 4]), ("words", ["x", "yz"]), ("weights", [1.5, 2.5]),
+                            ("pairs", [probe.Pair(5.0, 6.0)]), ("choices", list(probe.Choice)),
+                            ("echoes", [probe.Echo(), probe.Echo()])):
+            for form in (value, tuple(value)):
+                with self.subTest(name=name, form=type(form).__name__):
+                    setattr(shelf, name, form)
+                    view = getattr(shelf, name)
+                    self.assertEqual((list(view), view[-1], view[::-1]), (value, value[-1], value[::-1]))
+        shelf.limit = 4
+        self.assertEqual(list(shelf.counting), [0, 1, 2, 3])
+        self.assertEqual(list(shelf.names), ["a", "b", "c"])
+        self.assertEqual((list(shelf.loose), list(shelf.plain)), ([1, "two", 3.5], [1, "two"]))
+        shelf.tape.write(b"tape")
+        self.assertEqual((shelf.tape.seek(1), shelf.tape.read()), (1, b"ape"))
+
+    def test_methods_take_lists_sequences_and_views(self) -> None:
+        shelf = probe.Shelf()
+        self.assertEqual((shelf.sum_numbers([1, 2]), shelf.sum_numbers(range(4)), shelf.sum_numbers(shelf.numbers)),
+                         (3, 6, 6))
+        self.assertEqual(shelf.join_words(word for word in "ab"), "a b")
+        self.assertEqual(shelf.sum_weights((0.5, 2.0)), 2.5)
+        self.assertEqual(list(shelf.reversed([1, 2, 3])), [3, 2, 1])
+        with self.assertRaisesRegex(TypeError, "can't build List value from 'generator'"):
+            shelf.sum_numbers(n for n in (1, 2))
 
 
 if __name__ == "__main__":

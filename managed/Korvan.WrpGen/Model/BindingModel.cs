@@ -21,11 +21,13 @@ public sealed record ElementUse(
         : PyListUse.Read;
 
     /// <summary>Python lists and sequences come in; a buffer can't lie in a record that is only read.</summary>
-    public bool ReadsLists => Element.Kind != ValueKind.Bytes && Inputs.Any(kind => kind != ValueKind.IEnumerable);
+    public bool ReadsLists => Element.Kind != ValueKind.Bytes &&
+        Inputs.Any(kind => kind is not (ValueKind.IEnumerable or ValueKind.IEnumerator));
 
     /// <summary>Python iterables come in.</summary>
     public bool ReadsIterators => Element.Kind != ValueKind.Bytes && Inputs.Any(kind =>
-        kind is ValueKind.IEnumerable or ValueKind.ICollection or ValueKind.IReadOnlyCollection);
+        kind is ValueKind.IEnumerable or ValueKind.IEnumerator or ValueKind.ICollection
+            or ValueKind.IReadOnlyCollection);
 }
 
 /// <summary>Which slots the tables of an element have behind the reading one.</summary>

@@ -23,9 +23,10 @@ public sealed record ValueUse(ValueKind Kind, string ManagedName, string CSharpN
         or ValueKind.DateTimeOffset or ValueKind.TimeSpan or ValueKind.Guid or ValueKind.Decimal
         or (>= ValueKind.Bool and <= ValueKind.Char);
 
-    /// <summary>A closed generic collection or an array.</summary>
-    public bool IsTypedCollection => Kind is >= ValueKind.Array and <= ValueKind.IReadOnlyList;
+    /// <summary>A closed generic collection, an array or a generic iterator.</summary>
+    public bool IsTypedCollection => Kind is >= ValueKind.Array and <= ValueKind.IEnumerator;
 
-    /// <summary>A collection of the framework's whose items are any values.</summary>
-    public bool IsUntypedCollection => Kind is >= ValueKind.AnyEnumerable and <= ValueKind.AnyReadOnlyCollectionBase;
+    /// <summary>A framework's own collection, whose items are any values, or another of its interfaces that has a
+    /// wrapper.</summary>
+    public bool IsUntypedCollection => Kind is >= ValueKind.AnyDisposable and <= ValueKind.AnyReadOnlyCollectionBase;
 }

@@ -32,6 +32,8 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         ["System.Guid"] = ValueKind.Guid,
         ["System.Decimal"] = ValueKind.Decimal,
         ["System.Version"] = ValueKind.Version,
+        ["System.IDisposable"] = ValueKind.AnyDisposable,
+        ["System.Collections.IEnumerator"] = ValueKind.AnyEnumerator,
         ["System.Collections.IEnumerable"] = ValueKind.AnyEnumerable,
         ["System.Collections.ICollection"] = ValueKind.AnyCollection,
         ["System.Collections.IList"] = ValueKind.AnyList,
@@ -50,6 +52,7 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         ["System.Collections.Generic.IList`1"] = ValueKind.IList,
         ["System.Collections.Generic.IReadOnlyCollection`1"] = ValueKind.IReadOnlyCollection,
         ["System.Collections.Generic.IReadOnlyList`1"] = ValueKind.IReadOnlyList,
+        ["System.Collections.Generic.IEnumerator`1"] = ValueKind.IEnumerator,
     };
 
     /// <summary>Null with a reason when the type can't be carried.</summary>
@@ -81,16 +84,15 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         return null;
     }
 
-    /// <summary>Elements of typed collections have one form each way; collections in collections have none, but
-    /// for arrays.</summary>
+    /// <summary>Elements of typed collections have one form each way. Those that are collections have element types
+    /// themselves, down to a depth at which nothing real is left.</summary>
     public ValueUse? ReadElement(Type type, out string reason)
     {
         if (Read(type, isOptional: false, out reason) is not { } element)
         {
             return null;
         }
-        if (element.Kind is not (ValueKind.Nullable or ValueKind.Stream or
-            (>= ValueKind.List and <= ValueKind.AnyReadOnlyCollectionBase)))
+        if (element.Kind is not (ValueKind.Nullable or ValueKind.IEnumerator) && !element.IsUntypedCollection)
         {
             return element with { IsMostDerived = false };
         }

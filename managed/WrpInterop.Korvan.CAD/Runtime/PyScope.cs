@@ -41,6 +41,17 @@ public unsafe struct PyScope
         ? Adopt(new PyStream(Hold(argument->Value), isBuffered: !_keeps))
         : Handles.Object<Stream>(argument->Value);
 
+    /// <summary>Python's context managers don't stand in: only what is managed comes.</summary>
+    public IDisposable? AnyDisposable(VariantArg* argument) => References.Read<IDisposable>(argument);
+
+    public IEnumerator? AnyEnumerator(VariantArg* argument) => FromPython(argument)
+        ? Adopt(new PyIterator<object?>(Hold(argument->Value), UntypedElement<object?>.Instance))
+        : Handles.Object<IEnumerator>(argument->Value);
+
+    public IEnumerator<T>? Iterator<T>(VariantArg* argument, PyElement<T> element) => FromPython(argument)
+        ? Adopt(new PyIterator<T>(Hold(argument->Value), element))
+        : Handles.Object<IEnumerator<T>>(argument->Value);
+
     public IEnumerable? AnyIterable(VariantArg* argument) => FromPython(argument)
         ? Adopt(new PyIterable(Hold(argument->Value)))
         : Handles.Object<IEnumerable>(argument->Value);

@@ -156,10 +156,18 @@ using ilist = record<VariantArg, convert_collection<CollectionParameter::list>>;
 using irocol = record<VariantArg, convert_collection<CollectionParameter::typed_collection>>;
 using irolist = record<VariantArg, convert_collection<CollectionParameter::list>>;
 
+using iter = record<VariantArg, convert_collection<CollectionParameter::iterator>>;
+
 template <ClassBinding& Wrapper, CollectionParameter Kind>
 int convert_any_collection(PyObject* object, VariantArg* out, const void*) {
     return conv_py_to_clr_collection(object, out, &Wrapper, Kind);
 }
+using any_disposable =
+    record<VariantArg,
+           convert_any_collection<wrpPye_tyds_IDisposableWrapper, CollectionParameter::wrapper>>;
+using any_enumerator =
+    record<VariantArg,
+           convert_any_collection<wrpPye_tyds_IterWrapper, CollectionParameter::iterator>>;
 using any_iterable =
     record<VariantArg,
            convert_any_collection<wrpPye_tyds_IterableWrapper, CollectionParameter::iterable>>;

@@ -12,8 +12,9 @@
 //                                    unsigned char, signed char, unsigned int, long, unsigned long
 //   arg::stream                      System.IO.Stream
 //   arg::array [t] arg::list [t] arg::iterable [t] arg::icol [t] arg::ilist [t] arg::irocol [t]
-//   arg::irolist [t]                 generic collections; type is the wrapper's ClassBinding
+//   arg::irolist [t] arg::iter [t]   generic collections; type is the wrapper's ClassBinding
 //   arg::any_iterable any_collection any_list    non-generic IEnumerable, ICollection, IList
+//   arg::any_disposable any_enumerator           IDisposable, non-generic IEnumerator
 //   arg::any_array any_arraylist any_collectionbase any_readonlycollectionbase
 //                                    Array, ArrayList, CollectionBase, ReadOnlyCollectionBase
 //   arg::nullable<Policy> [t as the inner policy]
@@ -32,6 +33,7 @@
 //   ret::most_derived [t]            an object, shown as its exact class: PyCollectionArg* last
 //   ret::interface_collection [t]    IEnumerable<T>, IList<T>, ...: PyCollectionArg* last
 //   ret::stream                      PyCollectionArg* last
+//   ret::any_disposable any_enumerator
 //   ret::any_iterable any_collection any_list any_array any_arraylist any_collectionbase
 //   ret::any_readonlycollectionbase  PyCollectionArg* last
 //   ret::datetime timespan guid version decimal datetimeoffset

@@ -30,6 +30,7 @@ struct Collection {
 // The binding whose protocol serves the object: its type's, or a base's.
 const ClassBinding& binding_with_protocol(PyObject* self);
 const CollectionLayout& layout_of(const ClassBinding& binding);
+const ElementOps& ops_of(const CollectionInfo& info);
 Collection collection_of(PyObject* self);
 
 // -1 with an error.

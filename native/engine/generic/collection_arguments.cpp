@@ -12,6 +12,8 @@ bool accepts_python_object(PyObject* object, CollectionParameter parameter, std:
     case CollectionParameter::iterable:
         *kind = KORVAN_REF_PYTHON;
         return PyShlObject_HasIter(object);
+    case CollectionParameter::iterator: *kind = KORVAN_REF_PYTHON; return PyIter_Check(object) != 0;
+    case CollectionParameter::wrapper: return false;
     case CollectionParameter::collection:
         *kind = KORVAN_REF_PYTHON;
         return PyShlObject_HasLength(object) && PyShlObject_HasIter(object);

@@ -4,7 +4,15 @@
 
 #include "bindings/tables.h"
 
-enum class CollectionParameter { array, list, iterable, collection, typed_collection };
+enum class CollectionParameter {
+    array,
+    list,
+    iterable,
+    iterator,
+    collection,
+    typed_collection,
+    wrapper, // no Python object stands in
+};
 
 // A wrapper crosses by its handle; a Python list, sequence or iterable crosses as itself, borrowed,
 // and the managed side reads it through the callbacks.

@@ -88,11 +88,10 @@ PyObject* iter(PyObject* self) {
 }
 
 PyObject* iterator_next(PyObject* self) {
-    const Collection collection = collection_of(self);
-    void* function = reinterpret_cast<void*>(host_slot<void()>(*collection.info.iterator_host, 0));
+    const CollectionInfo& info = *binding_with_protocol(self).collection;
+    void* function = reinterpret_cast<void*>(host_slot<void()>(*info.iterator_host, 0));
     PyObject* item = nullptr;
-    const int status =
-        collection.ops.move_next(function, collection.handle, collection.info.element_type, &item);
+    const int status = ops_of(info).move_next(function, clr_handle(self), info.element_type, &item);
     if (status == KORVAN_END) {
         PyErr_SetNone(PyExc_StopIteration);
     }

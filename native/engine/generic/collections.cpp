@@ -122,11 +122,13 @@ const ClassBinding& binding_with_protocol(PyObject* self) {
     return *binding;
 }
 
+const ElementOps& ops_of(const CollectionInfo& info) {
+    return info.element != nullptr ? *info.element : variant_ops;
+}
+
 Collection collection_of(PyObject* self) {
     const ClassBinding& binding = binding_with_protocol(self);
-    const CollectionInfo& info = *binding.collection;
-    return {info, layout_of(binding), info.element != nullptr ? *info.element : variant_ops,
-            clr_handle(self)};
+    return {*binding.collection, layout_of(binding), ops_of(*binding.collection), clr_handle(self)};
 }
 
 int length_of(const Collection& collection) {

@@ -31,12 +31,10 @@ namespace element_detail {
 
 template <class Ret> using native_of = typename Ret::native;
 
-// Makes `*out` of an item that the delegate delivered with `status`.
+// Makes `*out` of an item that the delegate delivered with `status`. A status tells of a failure by
+// itself: what these delegates cost is too little to ask for a pending error, too.
 template <class Ret>
 int deliver(int status, native_of<Ret> item, const void* type, PyObject** out) {
-    if (PyErr_Occurred() != nullptr) {
-        return KORVAN_FAILED;
-    }
     if (status == KORVAN_ITEM) {
         *out = Ret::make(item, type);
         return *out != nullptr ? KORVAN_ITEM : KORVAN_FAILED;

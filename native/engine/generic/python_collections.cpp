@@ -67,7 +67,7 @@ int sequence_get(PyObject* sequence, int index, PyObject** keep, Converter conve
         return failed_at_index();
     }
     return convert_kept(std::move(item), keep, convert, element, type) ? KORVAN_CB_OK
-                                                                        : KORVAN_CB_ERROR;
+                                                                       : KORVAN_CB_ERROR;
 }
 
 int iterator_next(PyObject* iterator, PyObject** keep, Converter convert, void* element,

@@ -13,7 +13,8 @@ namespace python_collection {
 
 using Converter = int (*)(PyObject*, void* element, const void* type);
 
-// To managed code: 0 and the element, or a status. `keep` gets the item, which the element may view.
+// To managed code: 0 and the element, or a status. `keep` gets the item, which the element may
+// view.
 int list_get(PyObject* list, int index, Converter convert, void* element, const void* type);
 int sequence_get(PyObject* sequence, int index, PyObject** keep, Converter convert, void* element,
                  const void* type);
@@ -51,9 +52,12 @@ template <class Arg, auto Type> struct Reader {
 
 template <class Ret, auto Type> struct Writer {
     using Element = typename Ret::native;
-    static PyObject* make(Element value) { return Ret::make(value, static_cast<const void*>(Type)); }
+    static PyObject* make(Element value) {
+        return Ret::make(value, static_cast<const void*>(Type));
+    }
 
-    template <int (*Operation)(PyObject*, PyObject*)> static int with(PyObject* list, Element value) {
+    template <int (*Operation)(PyObject*, PyObject*)>
+    static int with(PyObject* list, Element value) {
         return Operation(list, make(value));
     }
     template <int (*Operation)(PyObject*, int, PyObject*)>
@@ -84,8 +88,8 @@ template <class Arg, class Ret, auto Type> struct PyListCollectionTable : PyList
     using Write = python_collection::Writer<Ret, Type>;
     using With = int (*)(PyObject*, typename Write::Element);
     With add = Write::template with<python_collection::list_add>;
-    int (*insert)(PyObject*, int, typename Write::Element) =
-        Write::template at<python_collection::list_insert>;
+    int (*insert)(PyObject*, int,
+                  typename Write::Element) = Write::template at<python_collection::list_insert>;
     With remove = Write::template with<python_collection::list_remove>;
     With contains = Write::template with<python_collection::list_contains>;
 };

@@ -175,6 +175,7 @@ internal static class CSharpValues
         ValueKind.IList => "ItemList",
         ValueKind.IReadOnlyCollection => "ReadOnlyCollection",
         ValueKind.IReadOnlyList => "ReadOnlyList",
+        ValueKind.IEnumerator => "Iterator",
         _ => throw new ArgumentOutOfRangeException(nameof(kind)),
     };
 }

@@ -204,7 +204,8 @@ internal sealed class GenericWriter
             ValueKind.Class => $"ClassCodec<{element.CSharpName}>",
             ValueKind.Struct => $"StructCodec<{element.CSharpName}>",
             ValueKind.Interface => $"InterfaceCodec<{element.CSharpName}>",
-            ValueKind.Array => $"ArrayCodec<{element.Element!.CSharpName}, " +
+            ValueKind.Stream => "StreamCodec",
+            _ when element.IsTypedCollection => $"{element.Kind}Codec<{element.Element!.CSharpName}, " +
                 $"{Space}{CSharpValues.ElementClass(element.Element)}>",
             ValueKind.DateTime => "DateTimeCodec",
             ValueKind.DateTimeOffset => "DateTimeOffsetCodec",

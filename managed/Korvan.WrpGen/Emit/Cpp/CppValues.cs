@@ -47,6 +47,7 @@ internal static class CppValues
         ValueKind.ICollection => "icol",
         ValueKind.IList => "ilist",
         ValueKind.IReadOnlyCollection => "irocol",
+        ValueKind.IEnumerator => "iter",
         _ => "irolist",
     };
 

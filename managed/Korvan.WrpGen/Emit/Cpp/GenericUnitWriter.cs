@@ -98,7 +98,7 @@ internal sealed class GenericUnitWriter(BindingModel model, CodeWriter writer)
     }
 
     private static IEnumerable<Wrapper> WrappersOf(ElementUse use) =>
-        use.Kinds.Select(kind => s_wrappers[kind]).Prepend(s_iterator);
+        use.Kinds.Where(kind => kind != ValueKind.IEnumerator).Select(kind => s_wrappers[kind]).Prepend(s_iterator);
 
     private void WriteWrapper(ElementUse use, Wrapper wrapper, string ops)
     {

@@ -92,6 +92,9 @@ internal sealed class PythonTypes(string module, IReadOnlySet<string> shadowed)
         ValueKind.Version => $"{Builtin("tuple")}[{Builtin("int")}, ...]",
         ValueKind.IEnumerable => $"collections.abc.Iterable[{Result(value.Element!)}]",
         ValueKind.AnyEnumerable => "collections.abc.Iterable[typing.Any]",
+        ValueKind.IEnumerator => $"collections.abc.Iterator[{Result(value.Element!)}]",
+        ValueKind.AnyEnumerator => "collections.abc.Iterator[typing.Any]",
+        ValueKind.AnyDisposable => "contextlib.AbstractContextManager[typing.Any]",
         ValueKind.Enum or ValueKind.Class or ValueKind.Struct or ValueKind.Interface => Name(value.Bound!),
         _ => Builtin("int"),
     };

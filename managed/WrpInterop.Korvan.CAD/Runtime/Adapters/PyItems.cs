@@ -68,7 +68,7 @@ internal sealed class PyItems<T>(PyReference reference, PyItemsKind kind, PyElem
     }
 
     public IEnumerator<T> GetEnumerator() =>
-        kind == PyItemsKind.Collection ? new PyIterator<T>(PyObject, element) : ByIndex();
+        kind == PyItemsKind.Collection ? PyIterator<T>.Over(PyObject, element) : ByIndex();
 
     IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
 

@@ -10,7 +10,7 @@ public class PyIterable(PyReference reference) : IEnumerable, IPyAdapter
 {
     public nint PyObject => reference.Value;
 
-    public IEnumerator GetEnumerator() => new PyIterator<object?>(PyObject, UntypedElement<object?>.Instance);
+    public IEnumerator GetEnumerator() => PyIterator<object?>.Over(PyObject, UntypedElement<object?>.Instance);
 
     void IPyAdapter.Complete()
     {
@@ -23,40 +23,42 @@ public class PyIterable(PyReference reference) : IEnumerable, IPyAdapter
 internal sealed class PyIterable<T>(PyReference reference, PyElement<T> element)
     : PyIterable(reference), IEnumerable<T>
 {
-    IEnumerator<T> IEnumerable<T>.GetEnumerator() => new PyIterator<T>(PyObject, element);
+    IEnumerator<T> IEnumerable<T>.GetEnumerator() => PyIterator<T>.Over(PyObject, element);
 }
 
 /// <summary>A Python iterator. Ends with the collection's end, an error or <see cref="Dispose"/>.</summary>
-internal sealed class PyIterator<T> : IEnumerator<T>
+/// <param name="iterator">An own reference, or one lent for a call.</param>
+internal sealed class PyIterator<T>(PyReference iterator, PyElement<T> element) : IEnumerator<T>, IPyAdapter
 {
-    private readonly PyElement<T> _element;
-    private KeptPyReference? _iterator;
+    private bool _isOver;
     private T _current = default!;
 
-    internal PyIterator(nint iterable, PyElement<T> element)
+    public T Current => _current;
+
+    object? IEnumerator.Current => _current;
+
+    public nint PyObject => iterator.Value;
+
+    /// <summary>Asks an iterable for an iterator.</summary>
+    internal static PyIterator<T> Over(nint iterable, PyElement<T> element)
     {
         nint iterator = PyCollectionApi.GetIterator(iterable);
         if (iterator == 0)
         {
             Boundary.ThrowPythonError();
         }
-        _iterator = KeptPyReference.Taking(iterator);
-        _element = element;
+        return new PyIterator<T>(KeptPyReference.Taking(iterator), element);
     }
-
-    public T Current => _current;
-
-    object? IEnumerator.Current => _current;
 
     public bool MoveNext()
     {
         const int Item = 0;
         const int End = 1;
-        if (_iterator is null)
+        if (_isOver)
         {
             return false;
         }
-        int status = _element.Next(_iterator.Value, out T item);
+        int status = element.Next(iterator.Value, out T item);
         if (status == Item)
         {
             _current = item;
@@ -74,7 +76,16 @@ internal sealed class PyIterator<T> : IEnumerator<T>
 
     public void Dispose()
     {
-        _iterator?.Release();
-        _iterator = null;
+        if (!_isOver)
+        {
+            _isOver = true;
+            (iterator as KeptPyReference)?.Release();
+        }
     }
+
+    void IPyAdapter.Complete()
+    {
+    }
+
+    void IPyAdapter.End() => iterator.End();
 }

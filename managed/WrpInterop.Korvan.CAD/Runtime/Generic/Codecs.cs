@@ -105,19 +105,6 @@ public readonly unsafe struct InterfaceCodec<T> : ICodec<T?, nint, PyObjectOutAr
     }
 }
 
-/// <summary>Arrays as elements. In: a <see cref="VariantArg"/>'s address. Out: a handle.</summary>
-public readonly unsafe struct ArrayCodec<T, TSource> : ICodec<T[]?, nint, nint>
-    where TSource : IElementSource<T>
-{
-    public static T[]? Read(nint value)
-    {
-        PyScope kept = PyScope.Keeping();
-        return kept.ArrayOf((VariantArg*)value, TSource.Element);
-    }
-
-    public static nint Write(T[]? value) => Handles.New(value);
-}
-
 public readonly unsafe struct DateTimeCodec : ICodec<DateTime, long, PyDateTimeOut>
 {
     public static DateTime Read(long value) => PyValues.ReadDateTime(value);

@@ -1,6 +1,7 @@
 using System;
 using System.Collections;
 using System.Collections.Generic;
+using System.Runtime.CompilerServices;
 using System.Linq;
 using Korvan.WrpGen.Interop;
 
@@ -35,7 +36,8 @@ public static unsafe class EnumeratorApi<T, TIn, TOut, TCodec>
     {
         try
         {
-            IEnumerator<T> enumerator = Handles.Self<IEnumerator<T>>(handle);
+            // The wrapper's type vouches for the object's; asking again would cost as much as the step.
+            var enumerator = Unsafe.As<IEnumerator<T>>(Handles.Self<object>(handle));
             if (!enumerator.MoveNext())
             {
                 return Status.End;
