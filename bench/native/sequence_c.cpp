@@ -141,8 +141,15 @@ PyObject* sum(PyObject*, PyObject* list) {
 }
 
 PyMethodDef functions[] = {{"sum", sum, METH_O, nullptr}, {}};
-PyModuleDef definition = {
-    PyModuleDef_HEAD_INIT, "sequence_c", nullptr, -1, functions, nullptr, nullptr, nullptr, nullptr};
+PyModuleDef definition = {PyModuleDef_HEAD_INIT,
+                          "sequence_c",
+                          nullptr,
+                          -1,
+                          functions,
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          nullptr};
 
 } // namespace
 

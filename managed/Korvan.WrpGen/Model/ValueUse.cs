@@ -15,7 +15,7 @@ public sealed record ValueUse(ValueKind Kind, string ManagedName, string CSharpN
     /// <summary>May be null by declaration; counts for the Python type alone.</summary>
     public bool IsOptional { get; init; }
 
-    /// <summary>A class whose results cross with their exact type. Elements of collections do not.</summary>
+    /// <summary>A class whose results cross with their exact type.</summary>
     public bool IsMostDerived { get; init; }
 
     /// <summary>Value types, which pass as bits and have a nullable form.</summary>

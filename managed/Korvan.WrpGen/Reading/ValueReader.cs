@@ -94,7 +94,7 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         }
         if (element.Kind is not (ValueKind.Nullable or ValueKind.IEnumerator) && !element.IsUntypedCollection)
         {
-            return element with { IsMostDerived = false };
+            return element;
         }
         reason = $"{type.ManagedName()} is no element type that a collection wrapper carries";
         return null;

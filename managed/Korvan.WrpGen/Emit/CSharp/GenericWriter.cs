@@ -201,6 +201,7 @@ internal sealed class GenericWriter
             ValueKind.Bytes => "BytesCodec",
             ValueKind.Object => "ObjectCodec",
             ValueKind.Enum => $"EnumCodec<{element.CSharpName}, {CSharpValues.NativeType(element)}>",
+            ValueKind.Class when element.IsMostDerived => $"DerivedCodec<{element.CSharpName}>",
             ValueKind.Class => $"ClassCodec<{element.CSharpName}>",
             ValueKind.Struct => $"StructCodec<{element.CSharpName}>",
             ValueKind.Interface => $"InterfaceCodec<{element.CSharpName}>",

@@ -4,7 +4,15 @@ using Korvan.WrpGen.Interop;
 
 namespace Korvan.WrpGen.Generic;
 
-// Collections and streams as elements of collections. In: a VariantArg's address, of which a Python object is kept.
+// Elements whose Python type is chosen by the object, and collections and streams as elements. In: a VariantArg's address, of which a Python object is kept.
+
+/// <summary>In: a handle. Out: a handle with its exact type.</summary>
+public readonly struct DerivedCodec<T> : ICodec<T?, nint, PyCollectionArg> where T : class
+{
+    public static T? Read(nint value) => Handles.Object<T>(value);
+
+    public static PyCollectionArg Write(T? value) => Collections.Exact(value);
+}
 
 /// <summary>Out: a handle.</summary>
 public readonly unsafe struct ArrayCodec<T, TSource> : ICodec<T[]?, nint, nint>
