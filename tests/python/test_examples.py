@@ -59,6 +59,22 @@ class Examples(unittest.TestCase):
         self.assertEqual(circles(self.out / "site_plan_changed.dxf"), circles(DRAWINGS / "site_plan.dxf") + 1)
         self.assertTrue((self.out / "site_plan_changed.pdf").exists())
 
+    def test_the_walk_through_a_building_model_adds_what_is_missing(self) -> None:
+        changed = self.out / "changed.ifc"
+        source = DRAWINGS / "garden_house.ifc"
+        done = run(str(EXAMPLES / "walk_ifc.py"), str(source), str(changed), cwd=self.out)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        for line in ("Loft, elevation 2600.0", "  IfcWall Wall south W1", "FireRating = REI 30", "GrossVolume = 0.9"):
+            self.assertIn(line, done.stdout)
+        self.assertEqual(changed.read_text().count("IFCLABEL('not stated')"), 4)
+
+    def test_the_first_look_at_a_building_model_runs(self) -> None:
+        text = (ROOT / "README.md").read_text(encoding="utf-8").split("## An IFC model")[1]
+        code = re.search(r"```python\n(.*?)```", text, re.DOTALL).group(1)
+        done = run("-c", "import korvan.cad\n" + code, cwd=ROOT)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertIn("Gable west W6 Qto_WallBaseQuantities", done.stdout)
+
     def test_the_tutorial_runs(self) -> None:
         text = (ROOT / "docs" / "tutorial.md").read_text(encoding="utf-8")
         code = "\n".join(re.findall(r"```python\n(.*?)```", text, re.DOTALL))

@@ -289,7 +289,7 @@ class Refusals(unittest.TestCase):
     def test_values_of_the_wrong_type_are_named_when_they_are_read(self) -> None:
         wall = load("#1=IFCWALL(5.,#1,$,$,$,$,$,$,.ROUND.);\n").get_entity(1)
         for attribute, message in (
-            ("global_id", "line 8, #1=IFCWALL: attribute GlobalId, a IfcGloballyUniqueId: .*5 stands there"),
+            ("global_id", "line 8, #1=IFCWALL: attribute GlobalId of type IfcGloballyUniqueId: .*5 stands there"),
             ("owner_history", "IfcOwnerHistory was expected, an IfcWall stands there"),
             ("predefined_type", "IfcWallTypeEnum was expected, .ROUND. stands there"),
         ):

@@ -27,9 +27,6 @@ public abstract partial class IfcEntityBase
         Model?.NoteChange(this);
     }
 
-    /// <summary>Gives the values back that were decoded, so that they are read anew. Changes keep them.</summary>
-    internal void Forget() => _values = Changed == 0 && Record >= 0 ? null : _values;
-
     /// <summary>Gives a text.</summary>
     /// <param name="at">The place of the attribute.</param>
     protected string? TextAt(int at) => Present(at) as string;

@@ -102,7 +102,7 @@ public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
     internal string Describe(int attribute)
     {
         IfcAttributeInfo info = Class.Attributes[attribute];
-        return $"{DescribePlace()}attribute {info.Name}, a {info.Form.Describe()}";
+        return $"{DescribePlace()}attribute {info.Name} of type {info.Form.Describe()}";
     }
 
     /// <summary>Names the instance for a message.</summary>

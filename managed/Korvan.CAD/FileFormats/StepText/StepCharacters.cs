@@ -1,14 +1,10 @@
 using System;
-using System.Buffers;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
 /// <summary>Classes of bytes, and what may stand between tokens.</summary>
 internal static class StepCharacters
 {
-    /// <summary>Gets the bytes that a walk over references has to look at.</summary>
-    internal static SearchValues<byte> Marks { get; } = SearchValues.Create("#'(),/"u8);
-
     internal static bool IsDigit(byte one) => (uint)(one - '0') <= 9;
 
     internal static bool IsLetter(byte one) => (uint)((one | 0x20) - 'a') <= 'z' - 'a' || one == '_';

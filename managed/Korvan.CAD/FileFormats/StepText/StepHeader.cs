@@ -13,8 +13,6 @@ internal sealed record StepHeaderRecord(string Keyword, object?[] Values, int St
 /// <summary>Reads what stands ahead of the data: ISO 10303-21, 8.</summary>
 internal static class StepHeader
 {
-    internal static ReadOnlySpan<byte> Magic => "ISO-10303-21;"u8;
-
     /// <summary>Reads the header section.</summary>
     /// <param name="data">The file.</param>
     /// <param name="end">The place behind the section.</param>

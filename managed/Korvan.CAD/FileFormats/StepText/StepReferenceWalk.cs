@@ -5,6 +5,9 @@ namespace Korvan.CAD.FileFormats.StepText;
 /// <summary>Walks over the references in a record that was verified, with the attribute that each is in.</summary>
 internal ref struct StepReferenceWalk
 {
+    // What a walk looks at comes ahead of digits and letters.
+    private const byte LastMark = (byte)'/';
+
     private readonly ReadOnlySpan<byte> _data;
     private int _at;
     private int _depth;
@@ -28,40 +31,51 @@ internal ref struct StepReferenceWalk
     /// <summary>Goes to the next reference.</summary>
     internal bool MoveNext()
     {
-        while (true)
+        while ((uint)_at < (uint)_data.Length)
         {
-            int length = _data[_at..].IndexOfAny(StepCharacters.Marks);
-            if (length < 0)
+            byte one = _data[_at];
+            if (one > LastMark)
             {
-                return false;
+                _at++;
+                continue;
             }
 
-            _at += length;
-            switch (_data[_at])
+            switch (one)
             {
                 case (byte)'#':
                     ReadId();
                     return true;
                 case (byte)'\'':
-                    _at += 2 + _data[(_at + 1)..].IndexOf((byte)'\'');
-                    break;
+                    SkipText();
+                    continue;
                 case (byte)'(':
                     _depth++;
-                    _at++;
                     break;
                 case (byte)')':
                     _depth--;
-                    _at++;
                     break;
                 case (byte)',':
                     Attribute += _depth == 1 ? 1 : 0;
-                    _at++;
                     break;
-                default:
-                    _at = StepCharacters.Skip(_data, _at) is var next && next > _at ? next : _at + 1;
+                case (byte)'/':
+                    _at = Math.Max(StepCharacters.Skip(_data, _at) - 1, _at);
                     break;
             }
+
+            _at++;
         }
+
+        return false;
+    }
+
+    // A doubled apostrophe is read as the end of one text and the beginning of the next.
+    private void SkipText()
+    {
+        for (_at++; (uint)_at < (uint)_data.Length && _data[_at] != '\''; _at++)
+        {
+        }
+
+        _at++;
     }
 
     private void ReadId()

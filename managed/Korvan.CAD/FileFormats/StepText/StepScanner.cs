@@ -10,6 +10,9 @@ namespace Korvan.CAD.FileFormats.StepText;
 /// </summary>
 internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arities)
 {
+    // Room for as many as there may be, taken at once, costs less than room that grows.
+    private const int BytesOfShortRecord = 44;
+
     private readonly List<StepError> _errors = [];
     private readonly List<(int Start, int End)> _damaged = [];
     private readonly StepIndex _index = new();
@@ -30,6 +33,7 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
     internal void Scan(int start, int limit)
     {
         _at = start;
+        _index.Reserve((limit - start) / BytesOfShortRecord);
         while (true)
         {
             try
@@ -248,14 +252,17 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
         int start = _at++;
         while (true)
         {
-            int length = data.AsSpan(_at).IndexOf((byte)'\'');
-            if (length < 0)
+            while ((uint)_at < (uint)data.Length && data[_at] != '\'')
+            {
+                _at++;
+            }
+
+            if (++_at > data.Length)
             {
                 throw new StepException(start, "a text has no end");
             }
 
-            _at += length + 1;
-            if (_at >= data.Length || data[_at] != '\'')
+            if (_at == data.Length || data[_at] != '\'')
             {
                 return;
             }

@@ -17,7 +17,7 @@ internal static class IfcAdmission
         IfcAttributeInfo info = owner.Class.Attributes[attribute];
         if (info.IsDerived)
         {
-            throw new IfcImageException($"{owner.Describe(attribute)}, follows from other attributes and is not set.");
+            throw new IfcImageException($"{owner.Describe(attribute)} follows from other attributes and is not set.");
         }
 
         if (value is null)

@@ -45,7 +45,7 @@ internal static class IfcRecordWriter
         }
         else if (value is null && !info.IsOptional && !isDraft)
         {
-            throw new IfcImageException($"{entity.Describe(attribute)}, is mandatory and not set.");
+            throw new IfcImageException($"{entity.Describe(attribute)} is mandatory and not set.");
         }
         else
         {

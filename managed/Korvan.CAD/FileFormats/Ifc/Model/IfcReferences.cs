@@ -45,14 +45,30 @@ internal sealed class IfcReferences(IfcModel model)
 
     private IfcEntityList Find(IfcEntityBase target, IfcInverseInfo? info)
     {
-        SortedSet<int> records = [];
+        List<int> records = [];
+        List<IfcEntityBase> added = [];
         if (target.Record >= 0)
         {
             AddFromFile(target, info, records);
         }
 
-        List<IfcEntityBase> added = [];
-        foreach (IfcEntityBase referrer in _later.GetValueOrDefault(target) ?? [])
+        if (_later.TryGetValue(target, out HashSet<IfcEntityBase>? later))
+        {
+            AddLater(target, info, later, records, added);
+        }
+
+        int[] found = Distinct(records);
+        return new IfcEntityList(model, found, found.Length, added);
+    }
+
+    private void AddLater(
+        IfcEntityBase target,
+        IfcInverseInfo? info,
+        HashSet<IfcEntityBase> referrers,
+        List<int> records,
+        List<IfcEntityBase> added)
+    {
+        foreach (IfcEntityBase referrer in referrers)
         {
             if (referrer.Model != model || !Refers(referrer, target, info))
             {
@@ -70,10 +86,9 @@ internal sealed class IfcReferences(IfcModel model)
         }
 
         added.Sort(static (a, b) => a.InstanceId.CompareTo(b.InstanceId));
-        return new IfcEntityList(model, [.. records], records.Count, added);
     }
 
-    private void AddFromFile(IfcEntityBase target, IfcInverseInfo? info, SortedSet<int> records)
+    private void AddFromFile(IfcEntityBase target, IfcInverseInfo? info, List<int> records)
     {
         int[] starts = _starts ??= Gather();
         for (int i = starts[target.Record]; i < starts[target.Record + 1]; i++)
@@ -85,6 +100,23 @@ internal sealed class IfcReferences(IfcModel model)
                 records.Add(referrer);
             }
         }
+    }
+
+    // In the order of the file; who refers twice counts once.
+    private static int[] Distinct(List<int> records)
+    {
+        int[] all = [.. records];
+        Array.Sort(all);
+        int count = 0;
+        for (int i = 0; i < all.Length; i++)
+        {
+            if (count == 0 || all[count - 1] != all[i])
+            {
+                all[count++] = all[i];
+            }
+        }
+
+        return all[..count];
     }
 
     private bool Fits(int record, byte attribute, IfcInverseInfo info)
