@@ -1,5 +1,6 @@
 using System;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Rendering;
 
 namespace Korvan.CAD.ImageOptions;
 
@@ -54,6 +55,12 @@ public abstract class ImageOptionsBase : DisposableObject
 
     /// <summary>Gets or sets the colour of <see cref="UserWatermarkText"/>.</summary>
     public Color UserWatermarkColor { get; set; } = Color.FromArgb(64, Color.Gray);
+
+    /// <summary>Gets what became of the last export with these options; nothing before the first.</summary>
+    public CadRenderResult? RenderResult { get; internal set; }
+
+    /// <summary>Gets or sets what the export that runs could not draw.</summary>
+    internal RenderNotes Notes { get; set; } = new();
 
     /// <summary>Raises an error for the first option that is set and that the output would not honour.</summary>
     internal virtual void VerifyHonoured()

@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Diagnostics;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
@@ -8,6 +9,7 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.Mesh;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 
@@ -23,8 +25,15 @@ internal static class DrawingExporter
     private static readonly Dictionary<Type, Action<CadImage, ImageOptionsBase, Stream>> Writers =
         new(RasterSaver.OptionTypes.Select(static type => KeyValuePair.Create<Type, Action<CadImage, ImageOptionsBase, Stream>>(type, WritePixels)))
         {
+            [typeof(EmfOptions)] = (image, options, output) => WritePage(image, options, output, EmfDocument.Write, (EmfOptions)options),
+            [typeof(GlbOptions)] = (image, options, output) => MeshExporter.WriteGltf(image, (GlbOptions)options, output),
+            [typeof(GltfOptions)] = (image, options, output) => MeshExporter.WriteGltf(image, (GltfOptions)options, output),
+            [typeof(Html5Options)] = (image, options, output) => WriteHtml(image, (Html5Options)options, output),
+            [typeof(ObjOptions)] = (image, options, output) => MeshExporter.WriteObj(image, (ObjOptions)options, output),
             [typeof(PdfOptions)] = (image, options, output) => WritePdf(image, (PdfOptions)options, output),
+            [typeof(StlOptions)] = (image, options, output) => MeshExporter.WriteStl(image, (StlOptions)options, output),
             [typeof(SvgOptions)] = (image, options, output) => WriteSvg(image, (SvgOptions)options, output),
+            [typeof(WmfOptions)] = (image, options, output) => WritePage(image, options, output, WmfDocument.Write, (WmfOptions)options),
         };
 
     /// <summary>The classes of options that a drawing is written with.</summary>
@@ -42,7 +51,10 @@ internal static class DrawingExporter
             throw new ImageSaveException($"Drawings are not written with {options.GetType().Name}.");
         }
 
+        long start = Stopwatch.GetTimestamp();
+        options.Notes = new RenderNotes();
         Guard(() => write(image, options, output));
+        options.RenderResult = new CadRenderResult(options.Notes.Results(), Stopwatch.GetElapsedTime(start));
     }
 
     /// <summary>The pixels of the one page that the options ask for, for formats that have their own encoder.</summary>
@@ -79,6 +91,22 @@ internal static class DrawingExporter
         {
             SvgTextDocument.Write(output, engine, page);
         }
+    }
+
+    /// <summary>Writes the one page that the options ask for, in points.</summary>
+    private static void WritePage<T>(
+        CadImage image, ImageOptionsBase options, Stream output, Action<Stream, TextEngine, Page, T> write, T own)
+    {
+        using var engine = new TextEngine();
+        var pages = new PageSource(image, options, engine, DeviceKind.Points, PointsPerInch);
+        write(output, engine, pages.SinglePage(), own);
+    }
+
+    private static void WriteHtml(CadImage image, Html5Options options, Stream output)
+    {
+        using var engine = new TextEngine();
+        var pages = new PageSource(image, options, engine, DeviceKind.UserUnits, PixelsPerInch);
+        HtmlCanvasDocument.Write(output, engine, pages.SinglePage(), options);
     }
 
     private static void WritePixels(CadImage image, ImageOptionsBase options, Stream output)

@@ -14,6 +14,9 @@ internal sealed class DrawingList
     /// <summary>Coordinates that a list may hold (1.2 GB): past it a drawing is a bomb of nested arrays, not a page.</summary>
     internal const int MostCoords = 150_000_000;
 
+    /// <summary>How the kinds of skipped things end that lack a file.</summary>
+    internal const string MissingFile = " whose file is not there";
+
     private readonly List<TextRun> texts = [];
     private readonly List<Gradient> gradients = [];
     private readonly List<PlacedImage> images = [];

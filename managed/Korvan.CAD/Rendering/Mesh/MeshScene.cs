@@ -50,7 +50,7 @@ internal sealed class MeshScene
         {
             if (!merged.TryGetValue((part.Layer, part.Color), out MeshPart? target))
             {
-                target = new MeshPart(part.Handle, part.TypeName, part.Layer, part.Color);
+                target = new MeshPart("", part.Layer, part.Layer, part.Color);
                 merged.Add((part.Layer, part.Color), target);
                 result.Add(target);
             }

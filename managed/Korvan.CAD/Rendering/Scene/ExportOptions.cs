@@ -52,6 +52,8 @@ internal sealed class ExportOptions
         }
     }
 
+    internal RenderNotes Notes => options.Notes;
+
     internal IReadOnlyList<string> Layouts => cad?.Layouts ?? [];
 
     internal bool FitEachLayout => cad?.AutomaticLayoutsScaling ?? true;

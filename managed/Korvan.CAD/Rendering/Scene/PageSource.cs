@@ -76,6 +76,8 @@ internal sealed class PageSource
             sheet = new PaperSheet(all, all.Width * grow, all.Height * grow);
         }
 
+        options.Notes.AddSkipped(list);
+        options.Notes.SetGlyphs(engine);
         PageLayout place = PageLayout.Create(options.Request(), list.Bounds, sheet, sharedScale);
         if (!options.FitEachLayout)
         {

@@ -32,7 +32,7 @@ internal sealed partial class SceneBuilder
         Picture? picture = (image.DisplayFlags & ShowsImage) == 0 ? null : tables.Pictures.Find(image.ImageDefReference);
         if (picture == null)
         {
-            List.Skip(image.TypeNameText + " whose file is not there");
+            List.Skip(image.TypeNameText + DrawingList.MissingFile);
         }
         else
         {

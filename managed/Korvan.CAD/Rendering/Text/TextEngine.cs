@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.Text;
 using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Geometry;
 using Korvan.CAD.Rendering.Native;
 
 namespace Korvan.CAD.Rendering.Text;
@@ -30,6 +31,7 @@ internal sealed unsafe class TextEngine : IDisposable
     private nint fontMap;
     private nint context;
     private nint layout;
+    private nint outliner;
     private int currentFont = -1;
     private string? currentText;
     private double currentSpacing;
@@ -113,8 +115,31 @@ internal sealed unsafe class TextEngine : IDisposable
         Cairo.NewPath(cr);
     }
 
+    /// <summary>Adds the outlines of a run; the matrix maps its ems, y up from the baseline.</summary>
+    internal void AddOutline(in TextRun run, in Affine2 matrix, PathBuffer target)
+    {
+        nint line = Shape(run.Font, run.Text, run.LetterSpacing);
+        if (outliner == 0)
+        {
+            nint surface = Cairo.ImageSurfaceCreate(CairoFormat.Argb32, 1, 1);
+            outliner = Cairo.Create(surface);
+            Cairo.SurfaceDestroy(surface);
+        }
+
+        Cairo.NewPath(outliner);
+        Cairo.MoveTo(outliner, 0, 0);
+        Pango.CairoLayoutLinePath(outliner, line);
+        CairoPaths.Append(outliner, matrix * new Affine2(1 / EmSize, 0, 0, -1 / EmSize, 0, 0), target);
+    }
+
     public void Dispose()
     {
+        if (outliner != 0)
+        {
+            Cairo.Destroy(outliner);
+            outliner = 0;
+        }
+
         foreach (nint description in descriptions)
         {
             Pango.FontDescriptionFree(description);

@@ -1,0 +1,278 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using System.Text;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Devices;
+
+/// <summary>Writes a page as an enhanced metafile ([MS-EMF]: Enhanced Metafile Format). Logical and device units are
+/// 0.01 mm.</summary>
+internal sealed class EmfDocument : MetafilePlayer
+{
+    private const double UnitsPerPoint = 2540 / 72.0;
+    private const int FontUnits = 1000;
+    private const int MostHandles = 60_000;
+
+    private readonly EmfRecords _records = new();
+    private readonly Dictionary<(EmfObject Kind, uint Color, int Size, string Face), int> _handles = [];
+    private readonly Stack<(int Pen, int Brush)> _saved = new();
+    private readonly List<int> _points = [];
+    private readonly bool _textAsShapes;
+    private int _coord;
+    private (int Pen, int Brush) _selected;
+    private bool? _evenOdd;
+
+    private EmfDocument(TextEngine engine, Page page, EmfOptions options)
+        : base(engine, page, options.Notes, UnitsPerPoint)
+    {
+        _textAsShapes = options.TextAsShapes;
+    }
+
+    private enum EmfObject
+    {
+        Pen,
+        Brush,
+        Font,
+    }
+
+    internal static void Write(Stream output, TextEngine engine, Page page, EmfOptions options)
+    {
+        var document = new EmfDocument(engine, page, options);
+        document.Start();
+        document.Play();
+        document._records.Finish(output, (int)Math.Ceiling(document.Width), (int)Math.Ceiling(document.Height), document._handles.Count + 1, page.Name);
+    }
+
+    protected override void Line(PathBuffer path, Rgba color, double width)
+    {
+        SelectPen(color, width);
+        if (path.Verbs.Contains(PathVerb.Close))
+        {
+            AddPath(path);
+            _records.Add(EmfRecord.StrokePath, _records.Everything);
+            return;
+        }
+
+        // Open lines have records of their own, which are shorter, and which no reader takes for closed.
+        _coord = 0;
+        foreach (Range piece in OpenPieces(path))
+        {
+            AddOpenLine(path, piece);
+        }
+    }
+
+    protected override void Area(PathBuffer path, Rgba color, bool evenOdd)
+    {
+        SelectBrush(color);
+        SetFillMode(evenOdd);
+        AddPath(path);
+        _records.Add(EmfRecord.FillPath, _records.Everything);
+    }
+
+    protected override void PushClip(PathBuffer path, bool evenOdd)
+    {
+        const int and = 1;
+        _saved.Push(_selected);
+        _records.Add(EmfRecord.SaveDC);
+        SetFillMode(evenOdd);
+        AddPath(path);
+        _records.Add(EmfRecord.SelectClipPath, and);
+    }
+
+    protected override void PopClip()
+    {
+        _records.Add(EmfRecord.RestoreDC, -1);
+        _selected = _saved.Pop();
+        _evenOdd = null;
+    }
+
+    protected override void Text(in TextRun run, in Affine2 matrix, Rgba color)
+    {
+        if (_textAsShapes)
+        {
+            Outline(run, matrix, color);
+            return;
+        }
+
+        FontSpec font = Engine.SpecOf(run.Font);
+        SelectFont(font);
+        _records.Add(EmfRecord.SetTextColor, (int)ColorRef(Opaque(color)));
+        SetTransform(matrix * new Affine2(1.0 / FontUnits, 0, 0, -1.0 / FontUnits, 0, 0));
+        _records.AddText(run.Text, Advances(run));
+        ResetTransform();
+    }
+
+    protected override void Image(PlacedImage image, in Affine2 matrix)
+    {
+        SetTransform(matrix * new Affine2(1.0 / FontUnits, 0, 0, -1.0 / FontUnits, 0, 1));
+        _records.AddPicture(image.Width, image.Height, BottomUp(image), FontUnits);
+        ResetTransform();
+    }
+
+    private static uint ColorRef(Rgba color) => (uint)(color.R | (color.G << 8) | (color.B << 16));
+
+    private static int Round(double value) => (int)Math.Round(Math.Clamp(value, -1e8, 1e8));
+
+    private void Start()
+    {
+        const int advanced = 2, transparent = 1, baseline = 24, textMode = 1;
+        _records.Begin();
+        _records.Add(EmfRecord.SetGraphicsMode, advanced);
+        _records.Add(EmfRecord.SetMapMode, textMode);
+        _records.Add(EmfRecord.SetBkMode, transparent);
+        _records.Add(EmfRecord.SetTextAlign, baseline);
+    }
+
+    private void SetTransform(in Affine2 m) => _records.AddTransform(m);
+
+    private void ResetTransform() => _records.AddTransform(Affine2.Identity);
+
+    private void SetFillMode(bool evenOdd)
+    {
+        if (_evenOdd != evenOdd)
+        {
+            _records.Add(EmfRecord.SetPolyFillMode, evenOdd ? 1 : 2);
+            _evenOdd = evenOdd;
+        }
+    }
+
+    private void SelectPen(Rgba color, double width)
+    {
+        const int geometric = 0x10000;
+        int size = Math.Max(1, Round(width));
+        int cap = Settings.Caps switch { LineCaps.Butt => 0x200, LineCaps.Square => 0x100, _ => 0 };
+        int handle = Handle((EmfObject.Pen, ColorRef(color), size, ""), at => _records.AddPen(at, geometric | cap, size, ColorRef(color)));
+        if (handle != _selected.Pen)
+        {
+            _records.Add(EmfRecord.SelectObject, handle);
+            _selected.Pen = handle;
+        }
+    }
+
+    private void SelectBrush(Rgba color)
+    {
+        int handle = Handle(
+            (EmfObject.Brush, ColorRef(color), 0, ""), at => _records.Add(EmfRecord.CreateBrushIndirect, at, 0, (int)ColorRef(color), 0));
+        if (handle != _selected.Brush)
+        {
+            _records.Add(EmfRecord.SelectObject, handle);
+            _selected.Brush = handle;
+        }
+    }
+
+    private void SelectFont(FontSpec font)
+    {
+        string family = font.Family.Split(',')[0].Trim();
+        int look = (font.Bold ? 1 : 0) | (font.Italic ? 2 : 0);
+        int handle = Handle((EmfObject.Font, (uint)look, 0, family), at => _records.AddFont(at, -FontUnits, font.Bold, font.Italic, family));
+        _records.Add(EmfRecord.SelectObject, handle);
+    }
+
+    private int Handle((EmfObject Kind, uint Color, int Size, string Face) key, Action<int> create)
+    {
+        if (!_handles.TryGetValue(key, out int handle))
+        {
+            if (_handles.Count >= MostHandles)
+            {
+                throw new RenderException($"The page needs more than {MostHandles} pens, brushes and fonts; an enhanced metafile holds no more.");
+            }
+
+            handle = _handles.Count + 1;
+            _handles.Add(key, handle);
+            create(handle);
+        }
+
+        return handle;
+    }
+
+    /// <summary>The width of each letter as laid out, so that another font keeps to it.</summary>
+    private int[] Advances(in TextRun run)
+    {
+        var widths = new int[run.Text.Length];
+        int before = 0;
+        for (int i = 0; i < widths.Length; i++)
+        {
+            bool pair = char.IsHighSurrogate(run.Text[i]) && i + 1 < widths.Length;
+            int until = pair ? before : Round(Engine.Advance(run.Font, run.Text[..(i + 1)], run.LetterSpacing) * FontUnits);
+            widths[i] = until - before;
+            before = until;
+        }
+
+        return widths;
+    }
+
+    /// <summary>The verbs of each subpath.</summary>
+    private static List<Range> OpenPieces(PathBuffer path)
+    {
+        List<Range> pieces = [];
+        int start = 0;
+        for (int i = 1; i <= path.Verbs.Length; i++)
+        {
+            if (i == path.Verbs.Length || path.Verbs[i] == PathVerb.Move)
+            {
+                pieces.Add(start..i);
+                start = i;
+            }
+        }
+
+        return pieces;
+    }
+
+    private void AddOpenLine(PathBuffer path, Range piece)
+    {
+        ReadOnlySpan<PathVerb> verbs = path.Verbs[piece];
+        bool curved = verbs.Contains(PathVerb.Curve);
+        _points.Clear();
+        foreach (PathVerb verb in verbs)
+        {
+            // Among curves a line is one, too: its guiding points are its ends.
+            int at = _coord;
+            _coord += verb == PathVerb.Curve ? 6 : 2;
+            if (curved && verb == PathVerb.Line)
+            {
+                _points.AddRange([_points[^2], _points[^1], Round(path.Coords[at]), Round(path.Coords[at + 1])]);
+            }
+
+            foreach (double value in path.Coords[at.._coord])
+            {
+                _points.Add(Round(value));
+            }
+        }
+
+        _records.AddPoints(curved ? EmfRecord.PolyBezier : EmfRecord.Polyline, _points);
+    }
+
+    private void AddPath(PathBuffer path)
+    {
+        _records.Add(EmfRecord.BeginPath);
+        ReadOnlySpan<double> c = path.Coords;
+        int at = 0;
+        foreach (PathVerb verb in path.Verbs)
+        {
+            switch (verb)
+            {
+                case PathVerb.Move:
+                    _records.Add(EmfRecord.MoveTo, Round(c[at]), Round(c[at + 1]));
+                    at += 2;
+                    break;
+                case PathVerb.Line:
+                    _records.Add(EmfRecord.LineTo, Round(c[at]), Round(c[at + 1]));
+                    at += 2;
+                    break;
+                case PathVerb.Curve:
+                    _records.AddCurve(c.Slice(at, 6), Round);
+                    at += 6;
+                    break;
+                default:
+                    _records.Add(EmfRecord.CloseFigure);
+                    break;
+            }
+        }
+
+        _records.Add(EmfRecord.EndPath);
+    }
+}

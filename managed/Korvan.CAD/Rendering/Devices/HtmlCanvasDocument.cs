@@ -1,0 +1,172 @@
+using System;
+using System.Globalization;
+using System.IO;
+using System.Text;
+using System.Text.Encodings.Web;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Devices;
+
+/// <summary>
+/// Writes a page as a canvas and the script that draws on it (HTML Living Standard, 4.12.5). The script defines a
+/// function for each kind of item and calls it once for each item, so that it stays short.
+/// </summary>
+internal sealed class HtmlCanvasDocument : PagePlayer
+{
+    /// <summary>What the calls below mean. Texts are stretched to the width that they were laid out with, as the reader
+    /// may lack their font; pictures are decoded before anything is drawn, so that the order holds.</summary>
+    private const string Functions = """
+        const p = d => new Path2D(d);
+        const s = (d, color, width, dash, offset) => {
+          g.strokeStyle = color; g.lineWidth = width; g.setLineDash(dash); g.lineDashOffset = offset; g.stroke(p(d));
+        };
+        const f = (d, color, rule) => { g.fillStyle = color; g.fill(p(d), rule); };
+        const q = (d, matrix, rule, radial, x, y, stops) => {
+          g.save(); g.clip(p(d), rule); g.transform(...matrix);
+          const paint = radial ? g.createRadialGradient(x, y, 0, 0, 0, 1) : g.createLinearGradient(-1, 0, 1, 0);
+          for (const [at, color] of stops) paint.addColorStop(at, color);
+          const far = 1e5; g.fillStyle = paint; g.fillRect(-far, -far, 2 * far, 2 * far); g.restore();
+        };
+        const t = (text, matrix, font, width, color) => {
+          g.save(); g.transform(...matrix); g.font = font; g.fillStyle = color;
+          const own = g.measureText(text).width; if (own > 0) g.scale(width / own, 1);
+          g.fillText(text, 0, 0); g.restore();
+        };
+        const i = (n, matrix, opacity) => {
+          g.save(); g.transform(...matrix); g.globalAlpha = opacity; g.drawImage(pictures[n], 0, 0, 1, 1); g.restore();
+        };
+        const c = (d, rule) => { g.save(); g.clip(p(d), rule); };
+        const r = () => g.restore();
+
+        """;
+
+    private const double FontSize = 100;
+
+    private readonly Html5Options _options;
+    private readonly StringBuilder _calls = new();
+    private readonly StringBuilder _pictures = new();
+    private readonly StringBuilder _data = new();
+    private int _pictureCount;
+
+    private HtmlCanvasDocument(TextEngine engine, Page page, Html5Options options)
+        : base(engine, page, options.Notes)
+    {
+        _options = options;
+    }
+
+    internal static void Write(Stream output, TextEngine engine, Page page, Html5Options options)
+    {
+        string id = options.CanvasTagId;
+        if (id.Length == 0 || !Array.TrueForAll(id.ToCharArray(), letter => char.IsAsciiLetterOrDigit(letter) || letter is '-' or '_'))
+        {
+            throw new RenderException($"'{id}' is no name for a canvas; it consists of letters, digits, '-' and '_'.");
+        }
+
+        var document = new HtmlCanvasDocument(engine, page, options);
+        document.Play();
+        using var writer = new StreamWriter(output, new UTF8Encoding(false), 64 * 1024, leaveOpen: true);
+        document.Write(writer);
+    }
+
+    protected override void Stroke(PathBuffer path, in DeviceStroke stroke)
+    {
+        string dash = stroke.Dash is null ? "[]" : $"[{string.Join(',', Array.ConvertAll(stroke.Dash, N))}]";
+        _calls.Append($"s(\"{Data(path)}\",\"{Css(stroke.Color)}\",{N(stroke.Width)},{dash},{N(stroke.DashOffset)});\n");
+    }
+
+    protected override void Fill(PathBuffer path, Rgba color, bool evenOdd) =>
+        _calls.Append($"f(\"{Data(path)}\",\"{Css(color)}\",\"{Rule(evenOdd)}\");\n");
+
+    protected override void FillGradient(PathBuffer path, Gradient gradient, in Affine2 matrix, bool evenOdd)
+    {
+        string stops = string.Join(',', Array.ConvertAll(gradient.Stops, stop => $"[{N(stop.Offset)},\"{Css(stop.Color)}\"]"));
+        _calls.Append($"q(\"{Data(path)}\",{Matrix(matrix)},\"{Rule(evenOdd)}\",{(gradient.Radial ? "true" : "false")},");
+        _calls.Append($"{N(gradient.FocusX)},{N(gradient.FocusY)},[{stops}]);\n");
+    }
+
+    protected override void Text(in TextRun run, in Affine2 matrix, Rgba color)
+    {
+        if (_options.TextAsShapes)
+        {
+            Outline(run, matrix, color);
+            return;
+        }
+
+        // One unit of the run is an em, y up; the canvas' y runs down.
+        Affine2 letters = matrix * new Affine2(1 / FontSize, 0, 0, -1 / FontSize, 0, 0);
+        FontSpec font = Engine.SpecOf(run.Font);
+        string family = string.Join(',', Array.ConvertAll(font.Family.Split(','), name => $"'{name.Trim().Replace("'", string.Empty)}'"));
+        string look = (font.Italic ? "italic " : "") + (font.Bold ? "bold " : "");
+        double width = Engine.Advance(run.Font, run.Text, run.LetterSpacing) * FontSize;
+        _calls.Append($"t({Quoted(run.Text)},{Matrix(letters)},{Quoted($"{look}{FontSize}px {family}")},{N(width)},\"{Css(color)}\");\n");
+    }
+
+    protected override void Image(PlacedImage image, in Affine2 matrix)
+    {
+        using var png = new MemoryStream();
+        PngEncoder.Write(image.Width, image.Height, y => image.Pixels.AsSpan(y * image.Width * 4, image.Width * 4), png, 6, 96);
+        _pictures.Append($"\"data:image/png;base64,{Convert.ToBase64String(png.GetBuffer(), 0, (int)png.Length)}\",\n");
+        _calls.Append($"i({_pictureCount++},{Matrix(matrix * new Affine2(1, 0, 0, -1, 0, 1))},{N(image.Opacity)});\n");
+    }
+
+    protected override void PushClip(PathBuffer path, bool evenOdd) => _calls.Append($"c(\"{Data(path)}\",\"{Rule(evenOdd)}\");\n");
+
+    protected override void PopClip() => _calls.Append("r();\n");
+
+    private static string N(double value) => Math.Round(value, 3).ToString("0.###", CultureInfo.InvariantCulture);
+
+    private static string Rule(bool evenOdd) => evenOdd ? "evenodd" : "nonzero";
+
+    private static string Css(Rgba color) => color.A == 255
+        ? $"#{color.R:x2}{color.G:x2}{color.B:x2}"
+        : $"#{color.R:x2}{color.G:x2}{color.B:x2}{color.A:x2}";
+
+    private static string Matrix(in Affine2 m)
+    {
+        static string P(double value) => value.ToString("G9", CultureInfo.InvariantCulture);
+        return $"[{P(m.Xx)},{P(m.Yx)},{P(m.Xy)},{P(m.Yy)},{P(m.X0)},{P(m.Y0)}]";
+    }
+
+    /// <summary>The default encoder escapes markup, so that no text ends the script.</summary>
+    private static string Quoted(string text) => $"\"{JavaScriptEncoder.Default.Encode(text)}\"";
+
+    private void Write(StreamWriter writer)
+    {
+        string title = HtmlEncoder.Default.Encode(Name);
+        writer.Write(_options.FullHtmlPage
+            ? $"<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\"/>\n<title>{title}</title>\n</head>\n<body>\n" : "");
+        writer.Write($"<canvas id=\"{_options.CanvasTagId}\" width=\"{N(Math.Ceiling(Width))}\" height=\"{N(Math.Ceiling(Height))}\"></canvas>\n");
+        writer.Write("<script>\n(async () => {\n");
+        writer.Write($"const g = document.getElementById(\"{_options.CanvasTagId}\").getContext(\"2d\");\n");
+        writer.Write("const pictures = await Promise.all([\n");
+        writer.Write(_pictures);
+        writer.Write("].map(async source => { const picture = new Image(); picture.src = source; await picture.decode(); return picture; }));\n");
+        writer.Write(Functions);
+        string cap = Settings.Caps switch { LineCaps.Butt => "butt", LineCaps.Square => "square", _ => "round" };
+        writer.Write($"g.lineCap = \"{cap}\"; g.lineJoin = \"round\";\n");
+        writer.Write(_calls);
+        writer.Write("})();\n</script>\n");
+        writer.Write(_options.FullHtmlPage ? "</body>\n</html>\n" : "");
+    }
+
+    private StringBuilder Data(PathBuffer path)
+    {
+        _data.Clear();
+        ReadOnlySpan<double> c = path.Coords;
+        int at = 0;
+        foreach (PathVerb verb in path.Verbs)
+        {
+            int numbers = verb switch { PathVerb.Curve => 6, PathVerb.Close => 0, _ => 2 };
+            _data.Append(verb switch { PathVerb.Move => 'M', PathVerb.Line => 'L', PathVerb.Curve => 'C', _ => 'Z' });
+            for (int i = 0; i < numbers; i++, at++)
+            {
+                _data.Append(i == 0 ? "" : " ").Append(N(c[at]));
+            }
+        }
+
+        return _data;
+    }
+}

@@ -1,0 +1,63 @@
+using System;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Devices;
+
+/// <summary>What metafiles have in common: opaque colours, lines without phase, pictures without transparency.</summary>
+internal abstract class MetafilePlayer : PagePlayer
+{
+    private readonly PathBuffer _dashes = new();
+    private readonly double _tolerance;
+
+    protected MetafilePlayer(TextEngine engine, Page page, RenderNotes notes, double scale)
+        : base(engine, page, notes, scale)
+    {
+        _tolerance = 0.01 * page.Settings.UnitsPerMillimetre * scale;
+    }
+
+    /// <summary>How far a chord may lie from its curve, in device units.</summary>
+    protected double Tolerance => _tolerance;
+
+    protected sealed override void Stroke(PathBuffer path, in DeviceStroke stroke)
+    {
+        Rgba color = Opaque(stroke.Color);
+        bool cut = stroke.Dash is not null && DashCutter.Cut(path, stroke.Dash, stroke.DashOffset, Tolerance, _dashes);
+        Line(cut ? _dashes : path, color, stroke.Width);
+    }
+
+    protected sealed override void Fill(PathBuffer path, Rgba color, bool evenOdd) => Area(path, Opaque(color), evenOdd);
+
+    protected abstract void Line(PathBuffer path, Rgba color, double width);
+
+    protected abstract void Area(PathBuffer path, Rgba color, bool evenOdd);
+
+    /// <summary>The pixels without transparency, on the colour of the page: three bytes each, blue first, the lowest
+    /// line first, lines filled up to whole words.</summary>
+    protected byte[] BottomUp(PlacedImage image)
+    {
+        Rgba paper = Settings.Background;
+        int stride = ((image.Width * 3) + 3) / 4 * 4;
+        byte[] rows = new byte[(long)stride * image.Height];
+        for (int y = 0; y < image.Height; y++)
+        {
+            Span<byte> row = rows.AsSpan((image.Height - 1 - y) * stride, image.Width * 3);
+            ReadOnlySpan<byte> source = image.Pixels.AsSpan(y * image.Width * 4, image.Width * 4);
+            for (int x = 0; x < image.Width; x++)
+            {
+                ReadOnlySpan<byte> pixel = source.Slice(x * 4, 4);
+                double rest = 1 - (pixel[3] / 255.0 * image.Opacity);
+                row[x * 3] = Over(pixel[0], paper.B, image.Opacity, rest);
+                row[(x * 3) + 1] = Over(pixel[1], paper.G, image.Opacity, rest);
+                row[(x * 3) + 2] = Over(pixel[2], paper.R, image.Opacity, rest);
+            }
+        }
+
+        return rows;
+    }
+
+    // The pixels have their opacity multiplied in.
+    private static byte Over(byte part, byte paper, double opacity, double rest) =>
+        (byte)Math.Clamp(Math.Round((part * opacity) + (paper * rest)), 0, 255);
+}

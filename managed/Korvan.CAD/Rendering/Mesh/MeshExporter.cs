@@ -1,0 +1,59 @@
+using System.Collections.Generic;
+using System.IO;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Rendering.Scene;
+
+namespace Korvan.CAD.Rendering.Mesh;
+
+/// <summary>Writes the faces of a drawing in formats that hold nothing else.</summary>
+internal static class MeshExporter
+{
+    internal static void WriteStl(CadImage image, StlOptions options, Stream output)
+    {
+        List<MeshPart> parts = Collect(image, options);
+        if (options.Binary)
+        {
+            StlWriter.WriteBinary(parts, output);
+        }
+        else
+        {
+            StlWriter.WriteText(parts, output);
+        }
+    }
+
+    internal static void WriteObj(CadImage image, ObjOptions options, Stream output) =>
+        ObjWriter.Write(MeshScene.MergeLayers(Collect(image, options)), options.Precision, output);
+
+    internal static void WriteGltf(CadImage image, GlbGltfOptionsBase options, Stream output)
+    {
+        List<MeshPart> parts = Collect(image, options);
+        double metres = (LengthUnits.Millimetres(image.UnitType) ?? 1000) / 1000;
+        var writer = new GltfWriter(options.MergeLayers ? MeshScene.MergeLayers(parts) : parts, options.DoubleSided, metres);
+        if (options is GltfOptions text)
+        {
+            writer.WriteText(output, text.Indented);
+        }
+        else
+        {
+            writer.WriteBinary(output);
+        }
+    }
+
+    private static List<MeshPart> Collect(CadImage image, ImageOptionsBase options)
+    {
+        List<MeshPart> parts = MeshScene.Collect(image, options);
+        if (parts.Count == 0)
+        {
+            throw new RenderException(
+                $"The drawing has no faces that show, and a file of the format {options.TargetFormat} holds nothing else: "
+                + "neither faces, meshes and solids nor anything that has a thickness.");
+        }
+
+        return parts;
+    }
+
+    /// <summary>The unit normal of a triangle; zero for one without area.</summary>
+    internal static Vec3 Normal(Vec3 a, Vec3 b, Vec3 c) => Vec3.Cross(b - a, c - a).Unit();
+}

@@ -1,0 +1,46 @@
+using System.Collections.Generic;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering;
+
+/// <summary>What an export could not draw as it is, each thing once, with how often it was met.</summary>
+internal sealed class RenderNotes
+{
+    private readonly Dictionary<(RenderErrorCode Code, string What), int> _counts = [];
+    private int _missingGlyphs;
+
+    internal void Add(RenderErrorCode code, string what, int count = 1)
+    {
+        _counts[(code, what)] = _counts.GetValueOrDefault((code, what)) + count;
+    }
+
+    internal void AddSkipped(DrawingList list)
+    {
+        foreach ((string kind, int count) in list.Skipped)
+        {
+            bool picture = kind.EndsWith(DrawingList.MissingFile, System.StringComparison.Ordinal);
+            Add(picture ? RenderErrorCode.MissingPicture : RenderErrorCode.EntityNotDrawn, kind, count);
+        }
+    }
+
+    /// <summary>The engine counts over all its pages.</summary>
+    internal void SetGlyphs(TextEngine engine) => _missingGlyphs = engine.UnknownGlyphs;
+
+    internal List<RenderResult> Results()
+    {
+        List<RenderResult> results = [];
+        foreach (((RenderErrorCode code, string what), int count) in _counts)
+        {
+            results.Add(new RenderResult(code, $"{what} ({count})"));
+        }
+
+        if (_missingGlyphs > 0)
+        {
+            results.Add(new RenderResult(RenderErrorCode.MissingGlyph, $"letters that no font has ({_missingGlyphs})"));
+        }
+
+        return results;
+    }
+}
