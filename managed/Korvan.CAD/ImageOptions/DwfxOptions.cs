@@ -1,6 +1,6 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Writes a published drawing whose pages are fixed pages (ECMA-388), one for each layout.</summary>
+/// <summary>Says how a published drawing is written whose pages are fixed pages (ECMA-388).</summary>
 public class DwfxOptions : ImageOptionsBase, ITextAsShapesOptions
 {
     /// <summary>Creates options with their defaults.</summary>

@@ -25,6 +25,7 @@ internal static class DrawingExporter
     private static readonly Dictionary<Type, Action<CadImage, ImageOptionsBase, Stream>> Writers =
         new(RasterSaver.OptionTypes.Select(static type => KeyValuePair.Create<Type, Action<CadImage, ImageOptionsBase, Stream>>(type, WritePixels)))
         {
+            [typeof(CgmOptions)] = (image, options, output) => WritePage(image, options, output, CgmDocument.Write, (CgmOptions)options),
             [typeof(EmfOptions)] = (image, options, output) => WritePage(image, options, output, EmfDocument.Write, (EmfOptions)options),
             [typeof(GlbOptions)] = (image, options, output) => MeshExporter.WriteGltf(image, (GlbOptions)options, output),
             [typeof(GltfOptions)] = (image, options, output) => MeshExporter.WriteGltf(image, (GltfOptions)options, output),

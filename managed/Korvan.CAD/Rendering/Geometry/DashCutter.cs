@@ -81,9 +81,9 @@ internal static class DashCutter
                 _place = (_place + 1) % _lengths.Length;
                 _left = _lengths[_place];
                 _down = false;
-                if (dashes > MostDashes)
+                if (dashes > MostDashes || (done >= length && _left > 0))
                 {
-                    return false;
+                    return dashes <= MostDashes;
                 }
             }
         }

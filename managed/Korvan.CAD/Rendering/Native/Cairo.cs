@@ -33,6 +33,9 @@ internal static unsafe partial class Cairo
 {
     internal const string Library = "libcairo.so.2";
 
+    /// <summary>Surfaces with colour and transparency.</summary>
+    internal const int ContentColorAlpha = 0x3000;
+
     [LibraryImport(Library, EntryPoint = "cairo_create")]
     internal static partial nint Create(nint surface);
 
@@ -158,6 +161,10 @@ internal static unsafe partial class Cairo
 
     [LibraryImport(Library, EntryPoint = "cairo_surface_mark_dirty")]
     internal static partial void SurfaceMarkDirty(nint surface);
+
+    /// <summary>Makes a surface that keeps what is drawn; without a rectangle it has no end.</summary>
+    [LibraryImport(Library, EntryPoint = "cairo_recording_surface_create")]
+    internal static partial nint RecordingSurfaceCreate(int content, double* extents);
 
     [LibraryImport(Library, EntryPoint = "cairo_image_surface_create")]
     internal static partial nint ImageSurfaceCreate(CairoFormat format, int width, int height);

@@ -121,7 +121,8 @@ internal sealed unsafe class TextEngine : IDisposable
         nint line = Shape(run.Font, run.Text, run.LetterSpacing);
         if (outliner == 0)
         {
-            nint surface = Cairo.ImageSurfaceCreate(CairoFormat.Argb32, 1, 1);
+            // A surface with an end would lose the letters beyond it, even from a path.
+            nint surface = Cairo.RecordingSurfaceCreate(Cairo.ContentColorAlpha, null);
             outliner = Cairo.Create(surface);
             Cairo.SurfaceDestroy(surface);
         }
