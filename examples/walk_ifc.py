@@ -11,15 +11,17 @@ from __future__ import annotations
 import sys
 from collections.abc import Iterator
 from pathlib import Path
+from typing import Any
 
 import korvan.cad
-from korvan.cad.fileformats.ifc import IfcImage, IIfcEntity
+from korvan.cad.fileformats.ifc import IfcImage
 
 ROOT = Path(__file__).resolve().parent.parent
 MODEL = ROOT / "examples" / "drawings" / "garden_house.ifc"
 
 
-def definitions(element: IIfcEntity) -> Iterator[IIfcEntity]:
+# Instances come as their own class, IfcWall2X3 or IfcWall4; what all editions share is asked for by name.
+def definitions(element: Any) -> Iterator[Any]:
     """The property sets and quantities of an element."""
     for relation in element.is_defined_by:
         if relation.is_a("IfcRelDefinesByProperties"):
@@ -28,7 +30,7 @@ def definitions(element: IIfcEntity) -> Iterator[IIfcEntity]:
             yield getattr(definition, "value", definition)
 
 
-def values(definition: IIfcEntity) -> Iterator[tuple[str, object]]:
+def values(definition: Any) -> Iterator[tuple[str, object]]:
     """Names and values of a set of properties or quantities."""
     if definition.is_a("IfcPropertySet"):
         for item in definition.has_properties:

@@ -74,7 +74,7 @@ internal static class ImageLoader
         if (!FormatDetector.CanRead(format))
         {
             string what = FormatDetector.IsIfcXml(data)
-                ? "is a building model in XML (ifcXML), which cannot be read yet"
+                ? "is a building model in XML (ifcXML) of an edition other than IFC2X3, which cannot be read yet"
                 : format == FileFormat.Undefined
                 ? "is of no known format; its first bytes are not those of a drawing interchange file"
                 : $"is of format {format}, which cannot be read yet";

@@ -8,6 +8,7 @@ import tempfile
 import unittest
 import zipfile
 from pathlib import Path
+from xml.etree import ElementTree
 
 from drawings import SHARED, needs_shared
 from korvan import cad
@@ -188,6 +189,26 @@ class Walking(unittest.TestCase):
                 for entity in model.entities:
                     for index in range(len(entity.attribute_names)):
                         entity.get_attribute(index)
+
+
+    @needs_shared
+    def test_a_model_in_xml_is_what_another_reader_finds_in_it(self) -> None:
+        path = MODELS / "xbime__4walls1floorSite.ifcxml"
+        model = narrow(cad.Image.load(str(path)))
+        (uos,) = (one for one in ElementTree.parse(path).getroot() if one.tag.endswith("uos"))
+        instances = [one for one in uos.iter() if one.get("id") and one is not uos]
+        self.assertEqual(len(model.entities), len(instances))
+        for element in instances:
+            entity = model.get_entity(int(element.get("id")[1:]))
+            self.assertEqual(entity.entity_name, element.tag.split("}")[1])
+            for child in element:
+                value = entity.get_attribute(child.tag.split("}")[1])
+                if len(child) == 0 and isinstance(value, str):
+                    self.assertIn(value, (child.text or "", (child.text or "").upper()))
+                elif len(child) == 1 and hasattr(value, "instance_id"):
+                    self.assertEqual(value.instance_id, int((child[0].get("ref") or child[0].get("id"))[1:]))
+                elif isinstance(value, float):
+                    self.assertEqual(value, float(child.text))
 
 
 class Editing(unittest.TestCase):

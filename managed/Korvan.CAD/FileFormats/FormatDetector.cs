@@ -76,18 +76,22 @@ internal static class FormatDetector
         {
             _ when head.StartsWith("solid "u8) => FileFormat.Stl,
             _ when head.TrimStart("\uFEFF \t\r\n"u8).StartsWith("ISO-10303-21"u8) => StepFormat(head),
+            _ when IsIfc2X3Xml(head) => FileFormat.IFC2X3,
             _ when head.IndexOf("<svg"u8) >= 0 => FileFormat.Svg,
             _ when head.IndexOf("<COLLADA"u8) >= 0 => FileFormat.Collada,
             _ => FileFormat.Undefined,
         };
     }
 
-    /// <summary>Tells a building model in XML, which has a namespace of its own and no number among the formats.</summary>
+    /// <summary>Tells a building model in XML of whatever edition.</summary>
     internal static bool IsIfcXml(ReadOnlySpan<byte> data)
     {
-        ReadOnlySpan<byte> head = data[..Math.Min(data.Length, HeadLength)];
-        return head.IndexOf("ifcXML"u8) >= 0 && head.IndexOf((byte)'<') >= 0;
+        ReadOnlySpan<byte> head = data[..Math.Min(data.Length, HeadLength)].TrimStart("\uFEFF \t\r\n"u8);
+        return head.StartsWith("<"u8) && (head.IndexOf("ifcXML"u8) >= 0 || head.IndexOf("iso_10303_28"u8) >= 0);
     }
+
+    private static bool IsIfc2X3Xml(ReadOnlySpan<byte> head) =>
+        IsIfcXml(head) && head.IndexOf("iso_10303_28"u8) >= 0 && head.IndexOf("ifcXML/IFC2x3"u8) >= 0;
 
     /// <summary>Tells the format of a file of ISO 10303-21 by the schema that its header names.</summary>
     internal static FileFormat StepFormat(ReadOnlySpan<byte> data)

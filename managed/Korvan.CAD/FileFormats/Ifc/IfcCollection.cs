@@ -66,9 +66,8 @@ public sealed class IfcCollection : IList
 
         set
         {
-            object? admitted = Admit(value);
-            _items[index] = admitted;
-            Note(admitted);
+            _items[index] = Admit(value);
+            NoteChange();
         }
     }
 
@@ -86,9 +85,8 @@ public sealed class IfcCollection : IList
     /// <param name="value">The value.</param>
     public void Insert(int index, object? value)
     {
-        object? admitted = Admit(value);
-        _items.Insert(index, admitted);
-        Note(admitted);
+        _items.Insert(index, Admit(value));
+        NoteChange();
     }
 
     /// <summary>Removes all values.</summary>
@@ -96,7 +94,7 @@ public sealed class IfcCollection : IList
     {
         VerifyWritable();
         _items.Clear();
-        Note(null);
+        NoteChange();
     }
 
     /// <summary>Removes the value at a place.</summary>
@@ -105,7 +103,7 @@ public sealed class IfcCollection : IList
     {
         VerifyWritable();
         _items.RemoveAt(index);
-        Note(null);
+        NoteChange();
     }
 
     /// <summary>Removes the first value that equals another; none is no error.</summary>
@@ -162,7 +160,9 @@ public sealed class IfcCollection : IList
     private object? Admit(object? value)
     {
         VerifyWritable();
-        return IfcAdmission.Admit(_owner!, _slot, value);
+        object? admitted = IfcAdmission.Admit(_owner!, _slot, value);
+        _owner!.Model?.NoteReferences(_owner, admitted);
+        return admitted;
     }
 
     private void VerifyWritable()
@@ -173,9 +173,5 @@ public sealed class IfcCollection : IList
         }
     }
 
-    private void Note(object? admitted)
-    {
-        _owner!.NoteChange(_slot.Attribute);
-        _owner.Model?.NoteReferences(_owner, admitted);
-    }
+    private void NoteChange() => _owner!.NoteChange(_slot.Attribute);
 }

@@ -74,9 +74,9 @@ public abstract partial class IfcEntityBase
     protected void Put(int at, object? value)
     {
         object? admitted = IfcAdmission.Admit(this, at, value);
+        Model?.NoteReferences(this, admitted); // may refuse what the value refers to
         Values[at] = admitted;
         NoteChange(at);
-        Model?.NoteReferences(this, admitted);
     }
 
     /// <summary>Sets an attribute to an item of an enumeration.</summary>

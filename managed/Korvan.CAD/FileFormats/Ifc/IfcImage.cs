@@ -18,13 +18,13 @@ public sealed class IfcImage : Image
     private const string NoGeometry =
         "The geometry of a building model is not evaluated yet: it has no extents and is not drawn.";
 
-    private readonly bool _isPacked;
+    private readonly IfcFileForm _form;
 
-    internal IfcImage(IfcModel model, IfcHeader header, bool isPacked)
+    internal IfcImage(IfcModel model, IfcHeader header, IfcFileForm form)
     {
         Model = model;
         Header = header;
-        _isPacked = isPacked;
+        _form = form;
     }
 
     /// <summary>Gets the header of the file.</summary>
@@ -158,7 +158,15 @@ public sealed class IfcImage : Image
     }
 
     /// <inheritdoc/>
-    internal override void SaveData(Stream stream) => IfcSaver.Save(Model, Header, _isPacked, stream);
+    internal override void SaveData(Stream stream)
+    {
+        if (_form == IfcFileForm.Xml)
+        {
+            throw new IfcImageException("Models are not written as XML (ifcXML); save with IfcOptions, which writes STEP.");
+        }
+
+        IfcSaver.Save(Model, Header, _form == IfcFileForm.Packed, stream);
+    }
 
     private static IfcEntityBase Own(IIfcEntity entity)
     {

@@ -144,19 +144,31 @@ internal sealed class IfcModel
     }
 
     /// <summary>Adds an instance, and those it refers to that belong to no model yet.</summary>
+    /// <exception cref="IfcImageException">One of them is of another edition, or refers to another model.</exception>
     internal void Add(IfcEntityBase entity)
     {
-        Stack<IfcEntityBase> open = new([entity]);
-        while (open.TryPop(out IfcEntityBase? one))
+        VerifyEdition(entity);
+        // All are looked at before the first one is taken.
+        List<IfcEntityBase> free = [entity];
+        HashSet<IfcEntityBase> seen = [entity];
+        for (int i = 0; i < free.Count; i++)
         {
-            if (one.Model is null)
+            foreach (IfcEntityBase target in Targets(free[i]))
             {
-                Take(one);
-                foreach (IfcEntityBase target in one.Values.SelectMany(value => IfcReferences.Entities(value, this)))
+                VerifyTarget(free[i], target);
+                if (target.Model is null && seen.Add(target))
                 {
-                    References.NoteAdded(target, one);
-                    open.Push(target);
+                    free.Add(target);
                 }
+            }
+        }
+
+        free.ForEach(Take);
+        foreach (IfcEntityBase one in free)
+        {
+            foreach (IfcEntityBase target in Targets(one))
+            {
+                References.NoteAdded(target, one);
             }
         }
     }
@@ -188,13 +200,34 @@ internal sealed class IfcModel
         Detach(entity);
     }
 
-    // What was removed can be added again, as one that was made in memory.
+    private static IEnumerable<IfcEntityBase> Targets(IfcEntityBase entity) =>
+        entity.Values.SelectMany(value => IfcReferences.Entities(value, entity.Model));
+
+    private void VerifyTarget(IfcEntityBase owner, IfcEntityBase target)
+    {
+        if (target.Model is { } other && other != this)
+        {
+            throw new IfcImageException(
+                $"{owner.DescribePlace()}it refers to #{target.InstanceId}={target.EntityName} of another model.");
+        }
+
+        VerifyEdition(target);
+    }
+
+    private void VerifyEdition(IfcEntityBase entity)
+    {
+        if (entity.Class.Schema != Schema)
+        {
+            throw new IfcImageException($"{entity.GetType().Name} is not of the model's edition, {Schema.Table.Name}.");
+        }
+    }
+
+    // What was removed can be added again, as one that was made in memory: numbers become the instances themselves.
     private static void Detach(IfcEntityBase entity)
     {
-        _ = entity.Values;
         for (int i = 0; i < entity.Class.Attributes.Length; i++)
         {
-            _ = IfcPresentation.Present(entity, i);
+            Resolve(IfcPresentation.Present(entity, i));
         }
 
         entity.Model = null;
@@ -202,13 +235,16 @@ internal sealed class IfcModel
         entity.InstanceId = 0;
     }
 
+    private static void Resolve(object? value)
+    {
+        foreach (object? item in value as IfcCollection ?? (System.Collections.IEnumerable)Array.Empty<object>())
+        {
+            Resolve(item);
+        }
+    }
+
     private void Take(IfcEntityBase entity)
     {
-        if (entity.Class.Schema != Schema)
-        {
-            throw new IfcImageException($"{entity.GetType().Name} is not of the model's edition, {Schema.Table.Name}.");
-        }
-
         entity.Model = this;
         entity.InstanceId = ++_largestId;
         _added.Add(entity);

@@ -7,6 +7,7 @@ using System.Threading.Tasks;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Ifc.Header;
 using Korvan.CAD.FileFormats.Ifc.Schema;
+using Korvan.CAD.FileFormats.Ifc.Xml;
 using Korvan.CAD.FileFormats.StepText;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
@@ -33,6 +34,7 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
     };
 
     private readonly List<StepError> _errors = [];
+    private bool _isTranslated;
 
     /// <summary>Reads the file.</summary>
     /// <exception cref="ImageLoadException">It is damaged, and damage is not to be ignored.</exception>
@@ -42,6 +44,13 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         if (isPacked)
         {
             data = Unpack(out name);
+        }
+
+        bool isXml = FormatDetector.IsIfcXml(data);
+        if (isXml)
+        {
+            data = new IfcXmlTranslator(name, options).Translate(data);
+            _isTranslated = true;
         }
 
         StepFile file = Open(out int start);
@@ -54,7 +63,8 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         VerifyIds(file, ids);
         VerifyReferences(file, ids);
         Report();
-        return new IfcImage(new IfcModel(file, schema, ids), header, isPacked);
+        IfcFileForm form = isPacked ? IfcFileForm.Packed : isXml ? IfcFileForm.Xml : IfcFileForm.Plain;
+        return new IfcImage(new IfcModel(file, schema, ids), header, form);
     }
 
     private StepFile Open(out int start)
@@ -143,7 +153,8 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
     private string Word(StepError error)
     {
         string instance = error.Id > 0 ? $", #{error.Id}" : string.Empty;
-        return $"'{name}', line {StepCharacters.LineOf(data, error.Offset)}{instance}: {error.Message}.";
+        string line = _isTranslated ? string.Empty : $", line {StepCharacters.LineOf(data, error.Offset)}";
+        return $"'{name}'{line}{instance}: {error.Message}.";
     }
 
     private byte[] Unpack(out string entryName)

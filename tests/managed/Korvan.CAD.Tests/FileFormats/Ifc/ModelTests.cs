@@ -103,6 +103,10 @@ public class ModelTests
         var foreign = (IfcLocalPlacement4)IfcText.Load(Placements).GetEntity(1)!;
         Assert.Throws<IfcImageException>(() => placement.PlacementRelTo = foreign);
         Assert.Throws<IfcImageException>(() => image.AddEntity(foreign));
+        IfcLocalPlacement4 free = new() { PlacementRelTo = foreign };
+        Assert.Throws<IfcImageException>(() => image.AddEntity(free));
+        Assert.Throws<IfcImageException>(() => placement.PlacementRelTo = free);
+        Assert.Equal((1L, 5), (placement.PlacementRelTo!.InstanceId, image.Entities.Count));
         Assert.Throws<IfcImageException>(() => image.AddEntity(new CAD.FileFormats.Ifc.Ifc2x3.Entities.IfcWall2X3()));
         Assert.Throws<IfcImageException>(
             () => new IfcValue4(new CAD.FileFormats.Ifc.Ifc2x3.Types.IfcLabel2X3("x")));

@@ -1,0 +1,37 @@
+using System;
+using System.Collections.Generic;
+using System.Globalization;
+
+namespace Korvan.CAD.FileFormats.Ifc.Xml;
+
+/// <summary>Numbers for the identifiers of elements: i12 is 12, any other gets a number above those.</summary>
+internal sealed class IfcXmlIds
+{
+    private const long Largest = 999_999_999;
+
+    private readonly Dictionary<string, long> _others = new(StringComparer.Ordinal);
+    private long _last = Largest;
+
+    /// <summary>Gives the number of an identifier; of none, one that no other has.</summary>
+    internal long NumberOf(string? id)
+    {
+        if (id is null)
+        {
+            return ++_last;
+        }
+
+        ReadOnlySpan<char> digits = id.StartsWith('i') ? id.AsSpan(1) : default;
+        if (long.TryParse(digits, NumberStyles.None, CultureInfo.InvariantCulture, out long number)
+            && number is > 0 and <= Largest && digits[0] != '0')
+        {
+            return number;
+        }
+
+        if (!_others.TryGetValue(id, out number))
+        {
+            _others[id] = number = ++_last;
+        }
+
+        return number;
+    }
+}

@@ -1,0 +1,67 @@
+using System;
+using System.Collections.Generic;
+using System.Globalization;
+using System.Linq;
+using System.Text;
+using System.Xml.Linq;
+using Korvan.CAD.FileFormats.Ifc.Schema;
+using Korvan.CAD.FileFormats.StepText;
+
+namespace Korvan.CAD.FileFormats.Ifc.Xml;
+
+/// <summary>Simple values of elements in the notation of records.</summary>
+internal static class IfcXmlValues
+{
+    /// <summary>Writes a value; nothing for a text that is none of its shape.</summary>
+    internal static string? Write(SchemaShape shape, string text)
+    {
+        string plain = text.Trim();
+        return shape switch
+        {
+            SchemaShape.Text => Written(target => StepStrings.Encode(text, target)),
+            SchemaShape.Real => Real(plain),
+            SchemaShape.Integer => long.TryParse(plain, NumberStyles.AllowLeadingSign, CultureInfo.InvariantCulture, out long whole)
+                ? whole.ToString(CultureInfo.InvariantCulture)
+                : null,
+            SchemaShape.Boolean or SchemaShape.Logical => plain switch
+            {
+                "true" or "1" => ".T.",
+                "false" or "0" => ".F.",
+                "unknown" when shape == SchemaShape.Logical => ".U.",
+                _ => null,
+            },
+            SchemaShape.Enumeration => plain.Length > 0 && plain.All(IsNameCharacter)
+                ? $".{plain.ToUpperInvariant()}."
+                : null,
+            SchemaShape.Binary => plain.All(char.IsAsciiHexDigit) ? $"\"0{plain.ToUpperInvariant()}\"" : null,
+            _ => null,
+        };
+    }
+
+    /// <summary>Gives the elements of a list by their positions, where these are stated.</summary>
+    internal static IEnumerable<XElement> InOrder(XElement list)
+    {
+        return list.Elements().OrderBy(static element =>
+            int.TryParse(element.Attribute("pos")?.Value, NumberStyles.None, CultureInfo.InvariantCulture, out int at)
+                ? at
+                : int.MaxValue);
+    }
+
+    private static string? Real(string text)
+    {
+        const NumberStyles Style =
+            NumberStyles.AllowLeadingSign | NumberStyles.AllowDecimalPoint | NumberStyles.AllowExponent;
+        return double.TryParse(text, Style, CultureInfo.InvariantCulture, out double value) && double.IsFinite(value)
+            ? Written(target => StepNumbers.WriteReal(value, target))
+            : null;
+    }
+
+    private static bool IsNameCharacter(char one) => char.IsAsciiLetterOrDigit(one) || one == '_';
+
+    private static string Written(Action<StringBuilder> write)
+    {
+        StringBuilder text = new();
+        write(text);
+        return text.ToString();
+    }
+}
