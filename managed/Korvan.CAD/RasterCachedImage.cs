@@ -29,6 +29,7 @@ public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader
         DecodedFrame frame = file.Frames[index];
         _pixels = frame.Pixels;
         Palette = frame.Palette;
+        (ExifData, XmpData) = (file.Exif, file.Xmp);
         HorizontalResolution = frame.HorizontalResolution > 0 ? frame.HorizontalResolution : HorizontalResolution;
         VerticalResolution = frame.VerticalResolution > 0 ? frame.VerticalResolution : VerticalResolution;
     }

@@ -129,6 +129,20 @@ public abstract partial class RasterImage
         InBands(rectangle, band => partialRawDataLoader.ProcessRawData(band, LoadRawData(band, settings), settings));
     }
 
+    /// <summary>Lets a processor change all pixels, in bands of whole rows.</summary>
+    /// <param name="processor">What changes them, for example a <see cref="TransparencySupporter"/>.</param>
+    public void ApplyProcessor(IBufferProcessor processor)
+    {
+        ArgumentNullException.ThrowIfNull(processor);
+        var settings = new RawDataSettings(PixelDataFormat.Rgb32Bpp, Width);
+        InBands(Bounds, band =>
+        {
+            byte[] pixels = LoadRawData(band, settings);
+            processor.ProcessBuffer(pixels, pixels.Length);
+            SaveRawData(pixels, band, settings);
+        });
+    }
+
     private protected void VerifyInside(Rectangle area)
     {
         VerifyNotDisposed();

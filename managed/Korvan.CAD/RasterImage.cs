@@ -3,6 +3,7 @@ using System.Collections.Generic;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Exif;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
 
@@ -51,6 +52,12 @@ public abstract partial class RasterImage
 
     /// <inheritdoc/>
     public bool IsRawDataAvailable => !Disposed;
+
+    /// <summary>Gets or sets what the camera says of the picture; nothing where the file holds no such data.</summary>
+    public ExifData? ExifData { get; set; }
+
+    /// <summary>Gets or sets metadata as properties; nothing where the file holds none.</summary>
+    public XmpPacketWrapper? XmpData { get; set; }
 
     internal abstract PixelGrid Pixels { get; }
 
@@ -105,7 +112,11 @@ public abstract partial class RasterImage
             RasterImage page = all ? image.GetPage(index) : image;
             ResolutionSetting? set = options.ResolutionSettings;
             return new RasterPageData(
-                page.Pixels.Copy(), set?.HorizontalResolution ?? page.HorizontalResolution, set?.VerticalResolution ?? page.VerticalResolution);
+                page.Pixels.Copy(), set?.HorizontalResolution ?? page.HorizontalResolution, set?.VerticalResolution ?? page.VerticalResolution)
+            {
+                Exif = image.ExifData,
+                Xmp = image.XmpData,
+            };
         }
     }
 }

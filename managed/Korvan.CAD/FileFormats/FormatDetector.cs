@@ -54,6 +54,8 @@ internal static class FormatDetector
             _ when head.StartsWith("BM"u8) && head.Length > 14 => FileFormat.Bmp,
             _ when head.StartsWith((ReadOnlySpan<byte>)[0x49, 0x49, 0x2A, 0]) => FileFormat.Tiff,
             _ when head.StartsWith((ReadOnlySpan<byte>)[0x4D, 0x4D, 0, 0x2A]) => FileFormat.Tiff,
+            _ when head.StartsWith((ReadOnlySpan<byte>)[0x49, 0x49, 0x2B, 0]) => FileFormat.Tiff,
+            _ when head.StartsWith((ReadOnlySpan<byte>)[0x4D, 0x4D, 0, 0x2B]) => FileFormat.Tiff,
             _ when head.StartsWith((ReadOnlySpan<byte>)[0xFF, 0x4F, 0xFF, 0x51]) => FileFormat.Jpeg2000,
             _ when head.StartsWith("\0\0\0\fjP  \r\n"u8) => FileFormat.Jpeg2000,
             _ when head.StartsWith("8BPS"u8) => FileFormat.Psd,

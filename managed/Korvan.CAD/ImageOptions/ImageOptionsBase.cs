@@ -29,6 +29,10 @@ public abstract class ImageOptionsBase : DisposableObject
     /// nothing for colours that are chosen for the picture.</summary>
     public IColorPalette? Palette { get; set; }
 
+    /// <summary>Gets or sets metadata that is stored beside the picture: in JPEG, PNG, TIFF and PSD. Nothing keeps
+    /// what a picture was loaded with.</summary>
+    public XmpPacketWrapper? XmpData { get; set; }
+
     /// <summary>Gets or sets the resolution of the output, for formats that have one; nothing for the default of the
     /// format.</summary>
     public ResolutionSetting? ResolutionSettings { get; set; }
@@ -62,12 +66,20 @@ public abstract class ImageOptionsBase : DisposableObject
     /// <summary>Gets or sets what the export that runs could not draw.</summary>
     internal RenderNotes Notes { get; set; } = new();
 
+    /// <summary>Gets whether the format has a place for <see cref="XmpData"/>.</summary>
+    internal virtual bool HoldsXmp => false;
+
     /// <summary>Raises an error for the first option that is set and that the output would not honour.</summary>
     internal virtual void VerifyHonoured()
     {
         if (OutputMode != CadOutputMode.Render)
         {
             throw NotHonoured(nameof(OutputMode), "leave it at Render");
+        }
+
+        if (XmpData != null && !HoldsXmp)
+        {
+            throw NotHonoured(nameof(XmpData), "JPEG, PNG, TIFF and PSD hold such data");
         }
     }
 

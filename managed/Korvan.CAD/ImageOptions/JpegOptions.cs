@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Exif;
 using Korvan.CAD.FileFormats.Jpeg;
 
 namespace Korvan.CAD.ImageOptions;
@@ -35,4 +36,12 @@ public class JpegOptions : ImageOptionsBase
 
     /// <summary>Gets or sets a text that is stored beside the picture; empty for none.</summary>
     public string Comment { get; set; } = "";
+
+    /// <summary>Gets or sets what the camera says of the picture; nothing keeps what a picture was loaded with.</summary>
+    public JpegExifData? ExifData { get; set; }
+
+    /// <summary>Gets or sets the density of pixels; nothing takes the resolution of the page.</summary>
+    public JFIFData? Jfif { get; set; }
+
+    internal override bool HoldsXmp => true;
 }

@@ -54,4 +54,6 @@ public class PngOptions : ImageOptionsBase
 
     /// <summary>Gets or sets how colours are brought to a palette.</summary>
     public DitheringMethods Dithering { get; set; }
+
+    internal override bool HoldsXmp => true;
 }

@@ -11,9 +11,14 @@ public class PsdOptions : ImageOptionsBase
     {
     }
 
-    /// <summary>Gets or sets the colour mode: grey, red-green-blue or inks.</summary>
+    /// <summary>Gets or sets the colour mode: grey, palette, red-green-blue or inks.</summary>
     public ColorModes ColorMode { get; set; } = ColorModes.Rgb;
 
     /// <summary>Gets or sets how the picture is stored: plain or as run lengths.</summary>
     public CompressionMethod CompressionMethod { get; set; } = CompressionMethod.Rle;
+
+    /// <summary>Gets or sets blocks that are stored beside the picture.</summary>
+    public ResourceBlock[] Resources { get; set; } = [];
+
+    internal override bool HoldsXmp => true;
 }

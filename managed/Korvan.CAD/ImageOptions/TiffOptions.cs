@@ -129,4 +129,6 @@ public class TiffOptions : ImageOptionsBase
 
     /// <summary>Tells why the combination cannot be written.</summary>
     public TiffOptionsError Validate() => TiffPresets.Validate(this);
+
+    internal override bool HoldsXmp => true;
 }

@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.Exif;
 
 namespace Korvan.CAD.Raster;
 
@@ -29,6 +30,10 @@ internal sealed class DecodedFile
     internal required FileFormat Format { get; init; }
 
     internal required List<DecodedFrame> Frames { get; init; }
+
+    internal ExifData? Exif { get; init; }
+
+    internal XmpPacketWrapper? Xmp { get; init; }
 }
 
 /// <summary>The bytes of a file, and the name that messages call it by.</summary>

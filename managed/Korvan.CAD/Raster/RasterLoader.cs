@@ -12,10 +12,12 @@ internal static class RasterLoader
     private static readonly Dictionary<FileFormat, Func<RasterSource, DecodedFile>> Readers = new()
     {
         [FileFormat.Bmp] = BmpReader.Read,
+        [FileFormat.Dicom] = DicomReader.Read,
         [FileFormat.Gif] = GifReader.Read,
         [FileFormat.Jpeg] = JpegReader.Read,
         [FileFormat.Jpeg2000] = Jpeg2000Codec.Read,
         [FileFormat.Png] = PngReader.Read,
+        [FileFormat.Psd] = PsdReader.Read,
         [FileFormat.Tiff] = TiffReader.Read,
         [FileFormat.Webp] = WebPCodec.Read,
     };

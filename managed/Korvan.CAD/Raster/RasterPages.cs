@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Exif;
 using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.Raster;
@@ -19,6 +20,11 @@ internal interface IRasterPages
 /// <summary>The pixels of a page, with pixels an inch.</summary>
 internal sealed record RasterPageData(PixelGrid Pixels, double HorizontalResolution, double VerticalResolution) : IDisposable
 {
+    /// <summary>What the source says of itself; options may say otherwise.</summary>
+    internal ExifData? Exif { get; init; }
+
+    internal XmpPacketWrapper? Xmp { get; init; }
+
     public void Dispose() => Pixels.Dispose();
 }
 

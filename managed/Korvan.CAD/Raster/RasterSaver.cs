@@ -21,16 +21,18 @@ internal static class RasterSaver
         [typeof(BmpOptions)] = static (page, options, output) => BmpWriter.Write(page, (BmpOptions)options, output),
         [typeof(JpegOptions)] = static (page, options, output) => WriteJpeg(page, (JpegOptions)options, output),
         [typeof(Jpeg2000Options)] = static (page, options, output) => Jpeg2000Codec.Write(page.Pixels, (Jpeg2000Options)options, output),
+        [typeof(PsdOptions)] = static (page, options, output) => PsdWriter.Write(page, (PsdOptions)options, output),
         [typeof(WebPOptions)] = static (page, options, output) => WebPCodec.Write(page.Pixels, (WebPOptions)options, output),
     };
 
     /// <summary>The classes of options that pixels are written with.</summary>
-    internal static IReadOnlyCollection<Type> OptionTypes { get; } = [.. SinglePageWriters.Keys, typeof(GifOptions), typeof(TiffOptions)];
+    internal static IReadOnlyCollection<Type> OptionTypes { get; } =
+        [.. SinglePageWriters.Keys, typeof(DicomOptions), typeof(GifOptions), typeof(TiffOptions)];
 
     internal static bool Supports(ImageOptionsBase options) => OptionTypes.Contains(options.GetType());
 
     /// <summary>Tells whether the format holds several pages.</summary>
-    internal static bool HoldsPages(ImageOptionsBase options) => options is TiffOptions or GifOptions;
+    internal static bool HoldsPages(ImageOptionsBase options) => options is TiffOptions or GifOptions or DicomOptions;
 
     internal static void Write(IRasterPages pages, ImageOptionsBase options, Stream output)
     {
@@ -45,6 +47,9 @@ internal static class RasterSaver
         {
             case TiffOptions tiff:
                 Seekable(output, target => TiffWriter.Write(pages, tiff, target));
+                break;
+            case DicomOptions dicom:
+                DicomWriter.Write(pages, dicom, output);
                 break;
             case GifOptions gif:
                 GifWriter.Write(pages, gif, output);

@@ -99,7 +99,7 @@ internal sealed unsafe class GifReader
             return true;
         }
 
-        if (source.Lenient && frames.Count > 0)
+        if (source.Lenient && (frames.Count > 0 || canvas != null))
         {
             return false;
         }

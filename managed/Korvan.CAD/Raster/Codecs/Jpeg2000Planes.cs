@@ -58,7 +58,7 @@ internal static unsafe class Jpeg2000Planes
     }
 
     // ITU-R BT.601 with full ranges.
-    private static int FromYcc(int y, int cb, int cr)
+    internal static int FromYcc(int y, int cb, int cr)
     {
         static int Part(double value) => (int)Math.Clamp(Math.Round(value), 0, 255);
         return (Part(y + (1.402 * cr)) << 16) | (Part(y - (0.344136 * cb) - (0.714136 * cr)) << 8) | Part(y + (1.772 * cb));

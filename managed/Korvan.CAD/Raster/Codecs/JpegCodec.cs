@@ -52,8 +52,9 @@ internal static unsafe class JpegCodec
         }
     }
 
-    /// <summary>The pixels of a JPEG; <paramref name="bitsPerPixel"/> tells whether it stored grey, colours or inks.</summary>
-    internal static PixelGrid Decompress(RasterSource source, ReadOnlySpan<byte> data, out int bitsPerPixel)
+    /// <summary>The pixels of a JPEG; <paramref name="bitsPerPixel"/> tells whether it stored grey, colours or inks,
+    /// which programs for print store inverted.</summary>
+    internal static PixelGrid Decompress(RasterSource source, ReadOnlySpan<byte> data, bool inverted, out int bitsPerPixel)
     {
         TurboJpeg.Require();
         nint handle = TurboJpeg.InitDecompress();
@@ -61,7 +62,7 @@ internal static unsafe class JpegCodec
         {
             fixed (byte* start = data)
             {
-                return Decompress(handle, source, start, data.Length, out bitsPerPixel);
+                return Decompress(handle, source, start, data.Length, inverted, out bitsPerPixel);
             }
         }
         finally
@@ -70,7 +71,8 @@ internal static unsafe class JpegCodec
         }
     }
 
-    private static PixelGrid Decompress(nint handle, RasterSource source, byte* data, int length, out int bitsPerPixel)
+    private static PixelGrid Decompress(
+        nint handle, RasterSource source, byte* data, int length, bool inverted, out int bitsPerPixel)
     {
         int width, height, subsampling, colors;
         if (TurboJpeg.ReadHeader(handle, data, (nuint)length, &width, &height, &subsampling, &colors) != 0)
@@ -96,7 +98,7 @@ internal static unsafe class JpegCodec
 
         if (inks)
         {
-            FromInks(pixels);
+            FromInks(pixels, inverted);
         }
 
         return pixels;
@@ -119,13 +121,13 @@ internal static unsafe class JpegCodec
         return inks;
     }
 
-    private static void FromInks(PixelGrid pixels)
+    private static void FromInks(PixelGrid pixels, bool inverted)
     {
         for (int y = 0; y < pixels.Height; y++)
         {
             foreach (ref int pixel in pixels.Row(y))
             {
-                pixel = CmykColor.FromStored(~pixel).ToArgb32();
+                pixel = CmykColor.FromStored(inverted ? ~pixel : pixel).ToArgb32();
             }
         }
     }

@@ -1,6 +1,7 @@
 using System;
-using System.Buffers.Binary;
 using System.Collections.Generic;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.Exif;
 using Korvan.CAD.FileFormats.Jpeg;
 
 namespace Korvan.CAD.Raster.Codecs;
@@ -11,22 +12,29 @@ internal static class JpegReader
     internal static DecodedFile Read(RasterSource source)
     {
         List<JpegSegment> segments = JpegSegments.Read(source.Bytes);
-        PixelGrid pixels = JpegCodec.Decompress(source, source.Bytes, out int bits);
-        (double x, double y) = Density(segments);
-        var frame = new DecodedFrame { Pixels = pixels, BitsPerPixel = bits, HorizontalResolution = x, VerticalResolution = y };
-        return new DecodedFile { Format = FileFormat.Jpeg, Frames = [frame] };
+        bool inverted = !JpegSegments.Find(segments, JpegSegments.App14, "Adobe"u8).IsEmpty;
+        PixelGrid pixels = JpegCodec.Decompress(source, source.Bytes, inverted, out int bits);
+        ReadOnlySpan<byte> head = JpegSegments.Find(segments, JpegSegments.App0, []);
+        (double x, double y) = JFIFData.Read(head)?.PerInch() ?? default;
+        return new DecodedFile
+        {
+            Format = FileFormat.Jpeg,
+            Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = bits, HorizontalResolution = x, VerticalResolution = y }],
+            Exif = ReadExif(JpegSegments.Find(segments, JpegSegments.App1, JpegSegments.ExifMark)),
+            Xmp = XmpPacketWrapper.TryRead(JpegSegments.Find(segments, JpegSegments.App1, JpegSegments.XmpMark)),
+        };
     }
 
-    private static (double X, double Y) Density(List<JpegSegment> segments)
+    /// <summary>Reads what a camera says; nothing where it is damaged, as a picture can do without.</summary>
+    internal static JpegExifData? ReadExif(ReadOnlySpan<byte> data)
     {
-        int at = segments.FindIndex(static s => s.Marker == JpegSegments.App0 && s.Data.AsSpan().StartsWith("JFIF\0"u8) && s.Data.Length >= 12);
-        if (at < 0)
+        try
         {
-            return default;
+            return data.IsEmpty ? null : new JpegExifData(data.ToArray());
         }
-
-        ReadOnlySpan<byte> data = segments[at].Data;
-        double per = (JfifDensityUnits)data[7] switch { JfifDensityUnits.PixelsPerInch => 1, JfifDensityUnits.PixelsPerCm => 2.54, _ => 0 };
-        return (BinaryPrimitives.ReadUInt16BigEndian(data[8..]) * per, BinaryPrimitives.ReadUInt16BigEndian(data[10..]) * per);
+        catch (TiffImageException)
+        {
+            return null;
+        }
     }
 }

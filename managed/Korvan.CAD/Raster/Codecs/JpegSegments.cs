@@ -16,7 +16,28 @@ internal static class JpegSegments
     internal const byte App1 = 0xE1;
     internal const byte Comment = 0xFE;
     internal const int MostBytes = 65_533;
+    internal const byte App14 = 0xEE;
     private const byte StartOfScan = 0xDA;
+
+    /// <summary>What an APP1 of Exif begins with.</summary>
+    internal static ReadOnlySpan<byte> ExifMark => "Exif\0\0"u8;
+
+    /// <summary>What an APP1 of XMP begins with.</summary>
+    internal static ReadOnlySpan<byte> XmpMark => "http://ns.adobe.com/xap/1.0/\0"u8;
+
+    /// <summary>The content of the first segment that begins with a mark, without the mark; empty for none.</summary>
+    internal static ReadOnlySpan<byte> Find(List<JpegSegment> segments, byte marker, ReadOnlySpan<byte> mark)
+    {
+        foreach (JpegSegment segment in segments)
+        {
+            if (segment.Marker == marker && segment.Data.AsSpan().StartsWith(mark))
+            {
+                return segment.Data.AsSpan(mark.Length);
+            }
+        }
+
+        return [];
+    }
 
     /// <summary>What stands before the first scan; reading stops at what is no segment.</summary>
     internal static List<JpegSegment> Read(ReadOnlySpan<byte> jpeg)

@@ -1,8 +1,7 @@
-using System;
-using System.Buffers.Binary;
 using System.Collections.Generic;
 using System.IO;
 using System.Text;
+using Korvan.CAD.Exif;
 using Korvan.CAD.FileFormats.Jpeg;
 using Korvan.CAD.ImageOptions;
 
@@ -23,7 +22,17 @@ internal static class JpegWriter
         // JFIF knows grey and Y'CbCr only; files of inks have the segment of their own that the codec writes.
         if (options.ColorType != JpegCompressionColorMode.Ycck)
         {
-            yield return new JpegSegment(JpegSegments.App0, Jfif(page));
+            yield return new JpegSegment(JpegSegments.App0, (options.Jfif ?? JFIFData.Of(page.HorizontalResolution, page.VerticalResolution)).Write());
+        }
+
+        if ((options.ExifData ?? page.Exif) is ExifData exif)
+        {
+            yield return new JpegSegment(JpegSegments.App1, [.. JpegSegments.ExifMark, .. exif.SerializeData()]);
+        }
+
+        if ((options.XmpData ?? page.Xmp) is XmpPacketWrapper xmp)
+        {
+            yield return new JpegSegment(JpegSegments.App1, [.. JpegSegments.XmpMark, .. xmp.ToBytes()]);
         }
 
         if (options.Comment.Length > 0)
@@ -31,14 +40,4 @@ internal static class JpegWriter
             yield return new JpegSegment(JpegSegments.Comment, Encoding.UTF8.GetBytes(options.Comment));
         }
     }
-
-    private static byte[] Jfif(RasterPageData page)
-    {
-        byte[] data = [.. "JFIF\0"u8, 1, 2, (byte)JfifDensityUnits.PixelsPerInch, 0, 0, 0, 0, 0, 0];
-        BinaryPrimitives.WriteUInt16BigEndian(data.AsSpan(8), Density(page.HorizontalResolution));
-        BinaryPrimitives.WriteUInt16BigEndian(data.AsSpan(10), Density(page.VerticalResolution));
-        return data;
-    }
-
-    private static ushort Density(double pixelsPerInch) => (ushort)Math.Clamp(Math.Round(pixelsPerInch), 1, ushort.MaxValue);
 }

@@ -26,6 +26,8 @@ internal static unsafe class PngReader
         return new DecodedFile
         {
             Format = FileFormat.Png,
+            Exif = JpegReader.ReadExif(chunks.GetValueOrDefault("eXIf")),
+            Xmp = XmpPacketWrapper.TryRead(chunks.GetValueOrDefault("iTXt")),
             Frames =
             [
                 new DecodedFrame
@@ -63,6 +65,7 @@ internal static unsafe class PngReader
             {
                 pixels = new PixelGrid(checked((int)image.Width), checked((int)image.Height));
                 image.Format = Png.FormatBgra;
+                image.Flags |= Png.SixteenBitsAreSrgb; // without a gamma they would be taken for linear light
                 if (Png.Finish(&image, null, pixels.Pointer, pixels.Width * 4, null) == 0)
                 {
                     throw Failure(source, image.Text());
@@ -103,9 +106,13 @@ internal static unsafe class PngReader
             {
                 chunks[type] = data.Slice(at + 8, length).ToArray();
             }
-            else if (type is "pHYs" or "PLTE" or "tRNS")
+            else if (type is "pHYs" or "PLTE" or "tRNS" or "eXIf")
             {
                 chunks.TryAdd(type, data.Slice(at + 8, length).ToArray());
+            }
+            else if (type == "iTXt" && data.Slice(at + 8, length).StartsWith(PngStream.XmpMark))
+            {
+                chunks.TryAdd(type, data.Slice(at + 8, length)[PngStream.XmpMark.Length..].ToArray());
             }
 
             at += length + 12;

@@ -27,6 +27,9 @@ internal static class PngStream
     private const double InchesPerMetre = 1 / 0.0254;
     private static readonly uint[] CrcTable = BuildCrcTable();
 
+    /// <summary>What an international text chunk of XMP begins with: its keyword, no compression, no language.</summary>
+    internal static ReadOnlySpan<byte> XmpMark => "XML:com.adobe.xmp\0\0\0\0\0"u8;
+
     /// <summary>Puts one row in the form of the head into the buffer.</summary>
     internal delegate void PackRow(int y, Span<byte> row);
 

@@ -22,6 +22,7 @@ internal static class PngWriter
         }
 
         PngStream.Begin(output, head, page.HorizontalResolution, page.VerticalResolution);
+        WriteMetadata(page, options, output);
         if (head.ColorType == PngColorType.IndexedColor)
         {
             WriteIndexed(pixels, head, options, output);
@@ -32,6 +33,19 @@ internal static class PngWriter
         }
 
         PngStream.End(output);
+    }
+
+    private static void WriteMetadata(RasterPageData page, PngOptions options, Stream output)
+    {
+        if ((options.XmpData ?? page.Xmp) is XmpPacketWrapper xmp)
+        {
+            PngStream.WriteChunk(output, "iTXt"u8, [.. PngStream.XmpMark, .. xmp.ToBytes()]);
+        }
+
+        if (page.Exif != null)
+        {
+            PngStream.WriteChunk(output, "eXIf"u8, page.Exif.SerializeData());
+        }
     }
 
     private static PngHead Head(PixelGrid pixels, PngOptions options)

@@ -4,6 +4,7 @@ using System.IO;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.CadExceptions.Compressors;
 using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.Exif;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.Raster.Native;
 
@@ -35,7 +36,8 @@ internal static unsafe class TiffReader
             throw;
         }
 
-        return new DecodedFile { Format = FileFormat.Tiff, Frames = frames };
+        (ExifData? exif, XmpPacketWrapper? xmp) = TiffMetadata.Read(source.Data);
+        return new DecodedFile { Format = FileFormat.Tiff, Frames = frames, Exif = exif, Xmp = xmp };
     }
 
     private static DecodedFrame ReadPage(TiffHandle tiff, RasterSource source, ref long total)

@@ -64,6 +64,11 @@ internal sealed unsafe class TiffWriter
             pixels.Flatten(White);
         }
 
+        if (bits < 8 && options.Photometric != TiffPhotometrics.Palette)
+        {
+            Operations.Tones.Grayscale(pixels); // black and white are told apart by lightness
+        }
+
         int[]? palette = Palette(pixels);
         int rowBytes = checked((int)((((long)pixels.Width * bits * samples) + 7) / 8));
         int rows = options.RowsPerStrip > 0 ? Math.Min(options.RowsPerStrip, pixels.Height) : Math.Max(1, StripBytes / rowBytes);
@@ -129,6 +134,7 @@ internal sealed unsafe class TiffWriter
             SetColorMap(palette!);
         }
 
+        SetXmp(options.XmpData ?? page.Xmp);
         SetText(TiffTags.PageName, title);
         SetText(TiffTags.Artist, options.Artist);
         SetText(TiffTags.Copyright, options.Copyright);
@@ -136,6 +142,20 @@ internal sealed unsafe class TiffWriter
         SetText(TiffTags.DocumentName, options.DocumentName);
         SetText(TiffTags.ImageDescription, options.ImageDescription);
         SetText(TiffTags.Software, options.SoftwareType);
+    }
+
+    private void SetXmp(XmpPacketWrapper? xmp)
+    {
+        if (xmp == null)
+        {
+            return;
+        }
+
+        byte[] data = xmp.ToBytes();
+        fixed (byte* start = data)
+        {
+            Set(TiffTags.Xmp, data.Length, (nint)start);
+        }
     }
 
     private void SetCompression(bool jpegColors)

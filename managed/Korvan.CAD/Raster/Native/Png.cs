@@ -6,6 +6,7 @@ namespace Korvan.CAD.Raster.Native;
 internal static unsafe partial class Png
 {
     internal const uint Version = 1;
+    internal const uint SixteenBitsAreSrgb = 0x04;
     internal const uint FormatBgra = 0x01 | 0x02 | 0x10;
 
     private const string Library = "libpng16.so.16";

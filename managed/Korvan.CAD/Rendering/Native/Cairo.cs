@@ -169,18 +169,6 @@ internal static unsafe partial class Cairo
     [LibraryImport(Library, EntryPoint = "cairo_image_surface_create")]
     internal static partial nint ImageSurfaceCreate(CairoFormat format, int width, int height);
 
-    [LibraryImport(Library, EntryPoint = "cairo_image_surface_create_from_png", StringMarshalling = StringMarshalling.Utf8)]
-    internal static partial nint ImageSurfaceCreateFromPng(string file);
-
-    [LibraryImport(Library, EntryPoint = "cairo_image_surface_get_format")]
-    internal static partial CairoFormat ImageSurfaceGetFormat(nint surface);
-
-    [LibraryImport(Library, EntryPoint = "cairo_image_surface_get_width")]
-    internal static partial int ImageSurfaceGetWidth(nint surface);
-
-    [LibraryImport(Library, EntryPoint = "cairo_image_surface_get_height")]
-    internal static partial int ImageSurfaceGetHeight(nint surface);
-
     [LibraryImport(Library, EntryPoint = "cairo_image_surface_get_data")]
     internal static partial byte* ImageSurfaceGetData(nint surface);
 

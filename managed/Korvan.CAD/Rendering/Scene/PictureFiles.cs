@@ -2,10 +2,13 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using System.Runtime.InteropServices;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.Rendering.Native;
+using Korvan.CAD.Raster;
+using Korvan.CAD.Raster.Codecs;
 
 namespace Korvan.CAD.Rendering.Scene;
 
@@ -76,42 +79,43 @@ internal sealed class PictureFiles
         return null;
     }
 
-    private static unsafe Picture? Load(string file)
+    private static Picture? Load(string file)
     {
-        nint surface = Cairo.ImageSurfaceCreateFromPng(file);
         try
         {
-            if (Cairo.SurfaceStatus(surface) != 0)
+            byte[] data = File.ReadAllBytes(file);
+            FileFormat format = FormatDetector.Detect(data.AsSpan(0, Math.Min(data.Length, FormatDetector.HeadLength)));
+            if (!RasterLoader.CanRead(format))
             {
                 return null;
             }
 
-            int width = Cairo.ImageSurfaceGetWidth(surface);
-            int height = Cairo.ImageSurfaceGetHeight(surface);
-            CairoFormat format = Cairo.ImageSurfaceGetFormat(surface);
-            if (format is not (CairoFormat.Argb32 or CairoFormat.Rgb24) || RasterPage.Refuse(width, height) != null)
-            {
-                return null;
-            }
-
-            var pixels = new byte[(long)width * height * 4];
-            byte* data = Cairo.ImageSurfaceGetData(surface);
-            int stride = Cairo.ImageSurfaceGetStride(surface);
-            for (int y = 0; y < height; y++)
-            {
-                new ReadOnlySpan<byte>(data + ((long)y * stride), width * 4).CopyTo(pixels.AsSpan(y * width * 4));
-            }
-
-            for (int i = 3; format == CairoFormat.Rgb24 && i < pixels.Length; i += 4)
-            {
-                pixels[i] = 255;
-            }
-
-            return new Picture(width, height, pixels);
+            DecodedFile decoded = RasterLoader.Decode(data, file, format, lenient: true);
+            Picture picture = Multiplied(decoded.Frames[0].Pixels);
+            decoded.Frames.ForEach(static frame => frame.Dispose());
+            return picture;
         }
-        finally
+        catch (Exception e) when (e is IOException or UnauthorizedAccessException or FrameworkException)
         {
-            Cairo.SurfaceDestroy(surface);
+            return null; // a drawing is drawn without the pictures that are damaged
         }
+    }
+
+    private static Picture Multiplied(PixelGrid pixels)
+    {
+        var bytes = new byte[checked((int)(pixels.Count * 4))];
+        for (int y = 0; y < pixels.Height; y++)
+        {
+            Span<int> row = pixels.Row(y);
+            foreach (ref int pixel in row)
+            {
+                int alpha = pixel >>> 24;
+                pixel = alpha == 255 ? pixel : BitPacking.Multiplied(pixel, alpha);
+            }
+
+            MemoryMarshal.AsBytes(row).CopyTo(bytes.AsSpan(y * pixels.Width * 4));
+        }
+
+        return new Picture(pixels.Width, pixels.Height, bytes);
     }
 }

@@ -1,0 +1,35 @@
+using System;
+
+namespace Korvan.CAD.FileFormats.Psd.Resources;
+
+/// <summary>The block of metadata as properties, number 1060.</summary>
+public class XmpResouce : ResourceBlock
+{
+    internal const int Number = 1060;
+
+    private XmpPacketWrapper _xmpData;
+
+    /// <summary>Creates a block.</summary>
+    /// <param name="xmpData">The metadata.</param>
+    public XmpResouce(XmpPacketWrapper xmpData)
+        : base(Number)
+    {
+        ArgumentNullException.ThrowIfNull(xmpData);
+        _xmpData = xmpData;
+    }
+
+    /// <summary>Gets or sets the metadata.</summary>
+    public XmpPacketWrapper XmpData
+    {
+        get => _xmpData;
+        set
+        {
+            ArgumentNullException.ThrowIfNull(value);
+            _xmpData = value;
+            Change();
+        }
+    }
+
+    /// <inheritdoc/>
+    public override byte[] ToBytes() => _xmpData.ToBytes();
+}

@@ -1,0 +1,140 @@
+using System;
+using System.Buffers.Binary;
+using System.IO;
+using System.Text;
+using Korvan.CAD.FileFormats.Tiff.Enums;
+
+namespace Korvan.CAD.FileFormats.Tiff.FileManagement;
+
+/// <summary>Writes numbers of a TIFF or Exif block in its order of bytes.</summary>
+public class TiffStreamWriter
+{
+    private readonly Stream _stream;
+
+    /// <summary>Creates a writer.</summary>
+    /// <param name="stream">Where bytes go, from its position on.</param>
+    /// <param name="byteOrder">The order of bytes in numbers.</param>
+    public TiffStreamWriter(Stream stream, TiffByteOrder byteOrder)
+    {
+        ArgumentNullException.ThrowIfNull(stream);
+        _stream = stream;
+        ByteOrder = byteOrder;
+    }
+
+    /// <summary>Gets the order of bytes in numbers.</summary>
+    public TiffByteOrder ByteOrder { get; }
+
+    /// <summary>Gets how many bytes were written by this writer.</summary>
+    public long Written { get; private set; }
+
+    private bool Big => ByteOrder == TiffByteOrder.BigEndian;
+
+    /// <summary>Writes bytes as they are.</summary>
+    /// <param name="data">The bytes.</param>
+    public void Write(byte[] data)
+    {
+        ArgumentNullException.ThrowIfNull(data);
+        Put(data);
+    }
+
+    /// <summary>Writes a number of 8 bits.</summary>
+    /// <param name="value">The number.</param>
+    public void WriteByte(byte value) => Put([value]);
+
+    /// <summary>Writes an unsigned number of 16 bits.</summary>
+    /// <param name="value">The number, 0 to 65535.</param>
+    public void WriteUShort(int value)
+    {
+        Span<byte> data = stackalloc byte[2];
+        ushort number = checked((ushort)value);
+        if (Big)
+        {
+            BinaryPrimitives.WriteUInt16BigEndian(data, number);
+        }
+        else
+        {
+            BinaryPrimitives.WriteUInt16LittleEndian(data, number);
+        }
+
+        Put(data);
+    }
+
+    /// <summary>Writes a signed number of 16 bits.</summary>
+    /// <param name="value">The number, -32768 to 32767.</param>
+    public void WriteSShort(int value) => WriteUShort((ushort)checked((short)value));
+
+    /// <summary>Writes an unsigned number of 32 bits.</summary>
+    /// <param name="value">The number, 0 to 4294967295.</param>
+    public void WriteULong(long value)
+    {
+        Span<byte> data = stackalloc byte[4];
+        uint number = checked((uint)value);
+        if (Big)
+        {
+            BinaryPrimitives.WriteUInt32BigEndian(data, number);
+        }
+        else
+        {
+            BinaryPrimitives.WriteUInt32LittleEndian(data, number);
+        }
+
+        Put(data);
+    }
+
+    /// <summary>Writes a signed number of 32 bits.</summary>
+    /// <param name="value">The number.</param>
+    public void WriteSLong(int value) => WriteULong(unchecked((uint)value));
+
+    /// <summary>Writes a floating point number of 32 bits.</summary>
+    /// <param name="value">The number.</param>
+    public void WriteFloat(float value) => WriteSLong(BitConverter.SingleToInt32Bits(value));
+
+    /// <summary>Writes a floating point number of 64 bits.</summary>
+    /// <param name="value">The number.</param>
+    public void WriteDouble(double value)
+    {
+        Span<byte> data = stackalloc byte[8];
+        if (Big)
+        {
+            BinaryPrimitives.WriteDoubleBigEndian(data, value);
+        }
+        else
+        {
+            BinaryPrimitives.WriteDoubleLittleEndian(data, value);
+        }
+
+        Put(data);
+    }
+
+    /// <summary>Writes two unsigned numbers of 32 bits.</summary>
+    /// <param name="value">The numbers.</param>
+    public void WriteRational(TiffRational value)
+    {
+        ArgumentNullException.ThrowIfNull(value);
+        WriteULong(value.Numerator);
+        WriteULong(value.Denominator);
+    }
+
+    /// <summary>Writes two signed numbers of 32 bits.</summary>
+    /// <param name="value">The numbers.</param>
+    public void WriteSRational(TiffSRational value)
+    {
+        ArgumentNullException.ThrowIfNull(value);
+        WriteSLong(value.Numerator);
+        WriteSLong(value.Denominator);
+    }
+
+    /// <summary>Writes a text and its zero byte.</summary>
+    /// <param name="value">The text.</param>
+    public void WriteText(string value)
+    {
+        Put(Encoding.UTF8.GetBytes(value));
+        WriteByte(0);
+    }
+
+    private void Put(ReadOnlySpan<byte> data)
+    {
+        _stream.Write(data);
+        Written += data.Length;
+    }
+}

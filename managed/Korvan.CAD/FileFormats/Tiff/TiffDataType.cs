@@ -1,0 +1,35 @@
+using System;
+using Korvan.CAD.FileFormats.Tiff.Enums;
+using Korvan.CAD.FileFormats.Tiff.FileManagement;
+
+namespace Korvan.CAD.FileFormats.Tiff;
+
+/// <summary>A field of a directory: its number and its values.</summary>
+public abstract class TiffDataType
+{
+    internal TiffDataType(int tagId)
+    {
+        ArgumentOutOfRangeException.ThrowIfNegative(tagId);
+        ArgumentOutOfRangeException.ThrowIfGreaterThan(tagId, ushort.MaxValue);
+        TagId = tagId;
+    }
+
+    /// <summary>Gets the number of the field, 0 to 65535.</summary>
+    public int TagId { get; }
+
+    /// <summary>Gets the type of the values.</summary>
+    public abstract TiffDataTypes TagType { get; }
+
+    /// <summary>Gets how many values there are.</summary>
+    public abstract int Count { get; }
+
+    /// <summary>Gets how many bytes a value takes.</summary>
+    public abstract int ElementSize { get; }
+
+    /// <summary>Gets how many bytes the values take.</summary>
+    public long DataSize => (long)Count * ElementSize;
+
+    internal abstract void Read(TiffStreamReader reader, long position, int count);
+
+    internal abstract void Write(TiffStreamWriter writer);
+}

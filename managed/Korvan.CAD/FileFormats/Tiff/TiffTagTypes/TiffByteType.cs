@@ -1,0 +1,54 @@
+using System;
+using Korvan.CAD.FileFormats.Tiff.Enums;
+using Korvan.CAD.FileFormats.Tiff.FileManagement;
+
+namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
+
+/// <summary>A field of unsigned numbers of 8 bits.</summary>
+public class TiffByteType : TiffCommonArrayType
+{
+    private byte[] _values = [];
+
+    /// <summary>Creates a field without values.</summary>
+    /// <param name="tagId">The number of the field.</param>
+    public TiffByteType(int tagId)
+        : base(tagId)
+    {
+    }
+
+    /// <summary>Creates a field.</summary>
+    /// <param name="tagId">The number of the field.</param>
+    /// <param name="values">Its bytes.</param>
+    public TiffByteType(int tagId, byte[] values)
+        : base(tagId)
+    {
+        Values = values;
+    }
+
+    /// <summary>Gets or sets the bytes.</summary>
+    public byte[] Values
+    {
+        get => _values;
+        set
+        {
+            ArgumentNullException.ThrowIfNull(value);
+            _values = value;
+        }
+    }
+
+    /// <inheritdoc/>
+    public override TiffDataTypes TagType => TiffDataTypes.Byte;
+
+    /// <inheritdoc/>
+    public override int Count => _values.Length;
+
+    /// <inheritdoc/>
+    public override int ElementSize => 1;
+
+    /// <inheritdoc/>
+    public override double[] ToDoubles() => Array.ConvertAll(_values, static v => (double)v);
+
+    internal override void Read(TiffStreamReader reader, long position, int count) => _values = reader.ReadBytes(position, count);
+
+    internal override void Write(TiffStreamWriter writer) => writer.Write(_values);
+}

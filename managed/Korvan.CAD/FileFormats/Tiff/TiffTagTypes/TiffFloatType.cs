@@ -1,0 +1,66 @@
+using Korvan.CAD.FileFormats.Tiff.Enums;
+using Korvan.CAD.FileFormats.Tiff.FileManagement;
+
+namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
+
+/// <summary>A field of floating point numbers of 32 bits.</summary>
+public class TiffFloatType : TiffCommonArrayType
+{
+    private float[] _values = [];
+
+    /// <summary>Creates a field without values.</summary>
+    /// <param name="tagId">The number of the field.</param>
+    public TiffFloatType(int tagId)
+        : base(tagId)
+    {
+    }
+
+    /// <summary>Creates a field.</summary>
+    /// <param name="tagId">The number of the field.</param>
+    /// <param name="values">Its values.</param>
+    public TiffFloatType(int tagId, float[] values)
+        : base(tagId)
+    {
+        Values = values;
+    }
+
+    /// <summary>Gets or sets the values.</summary>
+    public float[] Values
+    {
+        get => _values;
+        set
+        {
+            System.ArgumentNullException.ThrowIfNull(value);
+            _values = value;
+        }
+    }
+
+    /// <inheritdoc/>
+    public override TiffDataTypes TagType => TiffDataTypes.Float;
+
+    /// <inheritdoc/>
+    public override int Count => _values.Length;
+
+    /// <inheritdoc/>
+    public override int ElementSize => 4;
+
+    /// <inheritdoc/>
+    public override double[] ToDoubles() => System.Array.ConvertAll(_values, static v => (double)v);
+
+    internal override void Read(TiffStreamReader reader, long position, int count)
+    {
+        _values = new float[count];
+        for (int i = 0; i < count; i++)
+        {
+            _values[i] = reader.ReadFloat(position + (4L * i));
+        }
+    }
+
+    internal override void Write(TiffStreamWriter writer)
+    {
+        foreach (float value in _values)
+        {
+            writer.WriteFloat(value);
+        }
+    }
+}

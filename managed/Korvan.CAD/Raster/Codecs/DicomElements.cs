@@ -1,0 +1,87 @@
+using System;
+using System.Buffers.Binary;
+using System.IO;
+using System.Numerics;
+using System.Text;
+
+namespace Korvan.CAD.Raster.Codecs;
+
+/// <summary>Writes data elements in the explicit form, lowest byte first (DICOM PS3.5, section 7).</summary>
+internal sealed class DicomElements(Stream output)
+{
+    internal void Text(uint tag, string type, string value)
+    {
+        byte[] data = Encoding.ASCII.GetBytes(value);
+        bool odd = (data.Length & 1) != 0;
+        Head(tag, type, data.Length + (odd ? 1 : 0));
+        output.Write(data);
+        if (odd)
+        {
+            output.WriteByte((byte)(type == "UI" ? 0 : ' '));
+        }
+    }
+
+    internal void Word(uint tag, int value)
+    {
+        Head(tag, "US", 2);
+        Span<byte> data = stackalloc byte[2];
+        BinaryPrimitives.WriteUInt16LittleEndian(data, (ushort)value);
+        output.Write(data);
+    }
+
+    internal void Bytes(uint tag, string type, ReadOnlySpan<byte> data)
+    {
+        Head(tag, type, data.Length + (data.Length & 1));
+        output.Write(data);
+        Even(data.Length);
+    }
+
+    /// <summary>The head of an element whose value follows; a length of all ones is not defined.</summary>
+    internal void Head(uint tag, string type, long length)
+    {
+        bool wide = type is "OB" or "OW" or "UT" or "SQ";
+        Span<byte> head = stackalloc byte[wide ? 12 : 8];
+        Tag(head, tag);
+        Encoding.ASCII.GetBytes(type, head[4..]);
+        if (wide)
+        {
+            head[6..8].Clear();
+            BinaryPrimitives.WriteUInt32LittleEndian(head[8..], (uint)length);
+        }
+        else
+        {
+            BinaryPrimitives.WriteUInt16LittleEndian(head[6..], checked((ushort)length));
+        }
+
+        output.Write(head);
+    }
+
+    /// <summary>An item of a sequence, or one of its end marks.</summary>
+    internal void Item(uint tag, ReadOnlySpan<byte> data)
+    {
+        Span<byte> head = stackalloc byte[8];
+        Tag(head, tag);
+        BinaryPrimitives.WriteUInt32LittleEndian(head[4..], (uint)(data.Length + (data.Length & 1)));
+        output.Write(head);
+        output.Write(data);
+        Even(data.Length);
+    }
+
+    internal void Even(long length)
+    {
+        if ((length & 1) != 0)
+        {
+            output.WriteByte(0);
+        }
+    }
+
+    /// <summary>A new identifier that needs no registration: a UUID as a number below 2.25 (PS3.5, annex B.2).</summary>
+    internal static string NewIdentifier() =>
+        "2.25." + new BigInteger(Guid.NewGuid().ToByteArray(), isUnsigned: true).ToString(System.Globalization.CultureInfo.InvariantCulture);
+
+    private static void Tag(Span<byte> to, uint tag)
+    {
+        BinaryPrimitives.WriteUInt16LittleEndian(to, (ushort)(tag >> 16));
+        BinaryPrimitives.WriteUInt16LittleEndian(to[2..], (ushort)tag);
+    }
+}

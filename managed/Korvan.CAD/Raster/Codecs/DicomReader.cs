@@ -1,0 +1,225 @@
+using System;
+using System.Buffers.Binary;
+using System.Collections.Generic;
+using System.Globalization;
+using System.Text;
+using Korvan.CAD.CadExceptions;
+
+namespace Korvan.CAD.Raster.Codecs;
+
+/// <summary>Reads the data elements of a DICOM file up to its pixels (PS3.5 and PS3.10).</summary>
+internal sealed class DicomReader
+{
+    private const int Preamble = 132;
+    private const int DeepestSequence = 16;
+    private const int LongestText = 1024;
+
+    private readonly RasterSource source;
+    private readonly Dictionary<uint, byte[]> values = [];
+    private int at = Preamble;
+    private bool implicitTypes;
+
+    private DicomReader(RasterSource source) => this.source = source;
+
+    internal string Name => source.Name;
+
+    internal RasterSource Source => source;
+
+    /// <summary>The bytes of plain pixels.</summary>
+    internal ReadOnlyMemory<byte> PlainPixels { get; private set; }
+
+    /// <summary>The pieces of compressed pixels, without the table of places.</summary>
+    internal List<ReadOnlyMemory<byte>>? Fragments { get; private set; }
+
+    internal string Syntax => Text(DicomTags.TransferSyntax);
+
+    internal static DecodedFile Read(RasterSource source)
+    {
+        var reader = new DicomReader(source);
+        reader.ReadElements();
+        return new DecodedFile { Format = FileFormat.Dicom, Frames = DicomPicture.Frames(reader) };
+    }
+
+    internal string Text(uint tag) =>
+        values.TryGetValue(tag, out byte[]? data) ? Encoding.ASCII.GetString(data).TrimEnd('\0', ' ') : "";
+
+    internal int Number(uint tag, int missing) =>
+        values.TryGetValue(tag, out byte[]? data) && data.Length >= 2 ? BinaryPrimitives.ReadUInt16LittleEndian(data) : missing;
+
+    /// <summary>The first number of a text of decimal numbers.</summary>
+    internal double Real(uint tag, double missing)
+    {
+        string first = Text(tag).Split('\\')[0].Trim();
+        return double.TryParse(first, NumberStyles.Float, CultureInfo.InvariantCulture, out double value) && double.IsFinite(value)
+            ? value
+            : missing;
+    }
+
+    internal ImageLoadException Damaged(string why) => new($"'{source.Name}' is no DICOM file that can be read: {why}.");
+
+    private void ReadElements()
+    {
+        while (at < source.Data.Length)
+        {
+            uint tag = Tag(at);
+            if (tag >> 16 > 2 && !implicitTypes && !values.ContainsKey(0))
+            {
+                Begin();
+            }
+
+            (string type, uint length) = Head();
+            if (tag == DicomTags.PixelData)
+            {
+                ReadPixels(length);
+                return;
+            }
+
+            ReadValue(tag, type, length);
+        }
+
+        throw Damaged("it holds no pixels");
+    }
+
+    // The group of the file itself always states types; the rest does as the transfer syntax says.
+    private void Begin()
+    {
+        values[0] = [];
+        implicitTypes = Syntax == DicomTags.ImplicitLittleEndian;
+        if (!DicomPicture.Reads(Syntax))
+        {
+            throw new ImageLoadException($"'{source.Name}' has the transfer syntax '{Syntax}', which is not read.");
+        }
+    }
+
+    private (string Type, uint Length) Head()
+    {
+        ReadOnlySpan<byte> head = Take(at, 8);
+        if (implicitTypes && Tag(at) >> 16 > 2)
+        {
+            at += 8;
+            return ("UN", BinaryPrimitives.ReadUInt32LittleEndian(head[4..]));
+        }
+
+        string type = Encoding.ASCII.GetString(head[4..6]);
+        if (type is "OB" or "OW" or "OF" or "OD" or "OL" or "OV" or "SQ" or "UN" or "UT" or "UC" or "UR" or "SV" or "UV")
+        {
+            uint length = BinaryPrimitives.ReadUInt32LittleEndian(Take(at + 8, 4));
+            at += 12;
+            return (type, length);
+        }
+
+        at += 8;
+        return (type, BinaryPrimitives.ReadUInt16LittleEndian(head[6..]));
+    }
+
+    private void ReadValue(uint tag, string type, uint length)
+    {
+        if (length == DicomTags.UndefinedLength)
+        {
+            SkipSequence(0);
+            return;
+        }
+
+        ReadOnlySpan<byte> data = Take(at, length);
+        at += (int)length;
+        if (type != "SQ" && length <= LongestText && tag >> 16 is 2 or 0x28)
+        {
+            values[tag] = data.ToArray();
+        }
+    }
+
+    private void SkipSequence(int depth)
+    {
+        if (depth > DeepestSequence)
+        {
+            throw Damaged($"its sequences are nested more than {DeepestSequence} deep");
+        }
+
+        while (true)
+        {
+            uint tag = Tag(at);
+            uint length = BinaryPrimitives.ReadUInt32LittleEndian(Take(at + 4, 4));
+            at += 8;
+            if (tag == DicomTags.SequenceEnd)
+            {
+                return;
+            }
+
+            if (tag != DicomTags.Item)
+            {
+                throw Damaged($"an item of a sequence was expected at {at - 8}");
+            }
+
+            if (length == DicomTags.UndefinedLength)
+            {
+                SkipItem(depth);
+                continue;
+            }
+
+            Take(at, length);
+            at += (int)length;
+        }
+    }
+
+    private void SkipItem(int depth)
+    {
+        while (Tag(at) != DicomTags.ItemEnd)
+        {
+            (_, uint length) = Head();
+            if (length == DicomTags.UndefinedLength)
+            {
+                SkipSequence(depth + 1);
+                continue;
+            }
+
+            Take(at, length);
+            at += (int)length;
+        }
+
+        at += 8;
+    }
+
+    private void ReadPixels(uint length)
+    {
+        if (length != DicomTags.UndefinedLength)
+        {
+            int there = source.Data.Length - at;
+            if (length > there && !source.Lenient)
+            {
+                throw Damaged($"{length} bytes of pixels are announced, but {there} are left");
+            }
+
+            PlainPixels = source.Data.AsMemory(at, (int)Math.Min(length, there));
+            return;
+        }
+
+        Fragments = [];
+        while (Tag(at) == DicomTags.Item)
+        {
+            uint size = BinaryPrimitives.ReadUInt32LittleEndian(Take(at + 4, 4));
+            Take(at + 8, size);
+            Fragments.Add(source.Data.AsMemory(at + 8, (int)size));
+            at += 8 + (int)size;
+        }
+
+        if (Fragments.Count < 2)
+        {
+            throw Damaged("its compressed pixels have no frames");
+        }
+
+        Fragments.RemoveAt(0);
+    }
+
+    private uint Tag(int place)
+    {
+        ReadOnlySpan<byte> data = Take(place, 4);
+        return ((uint)BinaryPrimitives.ReadUInt16LittleEndian(data) << 16) | BinaryPrimitives.ReadUInt16LittleEndian(data[2..]);
+    }
+
+    private ReadOnlySpan<byte> Take(long place, uint count)
+    {
+        return place + count <= source.Data.Length
+            ? source.Data.AsSpan((int)place, (int)count)
+            : throw Damaged($"it ends after {source.Data.Length} bytes, inside of a data element");
+    }
+}

@@ -1,0 +1,181 @@
+using System;
+using System.Buffers.Binary;
+using System.Collections.Generic;
+using System.IO;
+using System.Linq;
+using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.FileFormats.Psd;
+using Korvan.CAD.FileFormats.Psd.Resources;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Raster.Colors;
+
+namespace Korvan.CAD.Raster.Codecs;
+
+/// <summary>Writes PSD files of version 1 that hold the merged picture, 8 bits a channel.</summary>
+internal static class PsdWriter
+{
+    private const int LargestSide = 30_000;
+    private const int White = -1;
+
+    internal static void Write(RasterPageData page, PsdOptions options, Stream output)
+    {
+        PixelGrid pixels = page.Pixels;
+        if (pixels.Width > LargestSide || pixels.Height > LargestSide)
+        {
+            throw new PsdImageException($"A PSD holds at most {LargestSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
+        }
+
+        if (options.CompressionMethod is not (CompressionMethod.Raw or CompressionMethod.Rle))
+        {
+            throw new PsdImageException($"Merged pictures are written Raw or Rle, not {options.CompressionMethod}.");
+        }
+
+        if (options.ColorMode is not (ColorModes.Rgb or ColorModes.Grayscale or ColorModes.Cmyk or ColorModes.Indexed))
+        {
+            throw new PsdImageException($"PSD files are written as Rgb, Grayscale, Cmyk or Indexed, not as {options.ColorMode}.");
+        }
+
+        bool alpha = options.ColorMode == ColorModes.Rgb && !pixels.IsOpaque();
+        if (!alpha)
+        {
+            pixels.Flatten(White);
+        }
+
+        int[] palette = options.ColorMode == ColorModes.Indexed
+            ? PaletteChoice.For(pixels, options.Palette, 256, ColorQuantizationMethod.MedianCut) : [];
+        List<byte[]> planes = Planes(pixels, options.ColorMode, alpha, palette);
+        WriteHead(output, pixels, planes.Count, options.ColorMode);
+        WritePalette(output, palette);
+        WriteResources(output, page, options);
+        Number(output, 0); // no layers
+        WritePlanes(output, planes, pixels.Width, options.CompressionMethod);
+    }
+
+    private static List<byte[]> Planes(PixelGrid pixels, ColorModes mode, bool alpha, int[] palette)
+    {
+        return mode switch
+        {
+            ColorModes.Indexed => [IndexedRows.Of(pixels, palette, DitheringMethods.None)],
+            ColorModes.Grayscale => [Plane(pixels, static p => PixelGrid.Luma(p))],
+
+            // Inks are stored inverted.
+            ColorModes.Cmyk =>
+            [
+                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).C), Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).M),
+                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).Y), Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).K),
+            ],
+            _ =>
+            [
+                Plane(pixels, static p => p >> 16), Plane(pixels, static p => p >> 8), Plane(pixels, static p => p),
+                .. alpha ? [Plane(pixels, static p => p >>> 24)] : Array.Empty<byte[]>(),
+            ],
+        };
+    }
+
+    private static byte[] Plane(PixelGrid pixels, Func<int, int> sample)
+    {
+        var plane = new byte[pixels.Count];
+        for (int y = 0, at = 0; y < pixels.Height; y++)
+        {
+            foreach (int pixel in pixels.Row(y))
+            {
+                plane[at++] = (byte)sample(pixel);
+            }
+        }
+
+        return plane;
+    }
+
+    private static void WriteHead(Stream output, PixelGrid pixels, int channels, ColorModes mode)
+    {
+        var head = new byte[26];
+        "8BPS"u8.CopyTo(head);
+        BinaryPrimitives.WriteInt16BigEndian(head.AsSpan(4), 1);
+        BinaryPrimitives.WriteInt16BigEndian(head.AsSpan(12), (short)channels);
+        BinaryPrimitives.WriteInt32BigEndian(head.AsSpan(14), pixels.Height);
+        BinaryPrimitives.WriteInt32BigEndian(head.AsSpan(18), pixels.Width);
+        BinaryPrimitives.WriteInt16BigEndian(head.AsSpan(22), 8);
+        BinaryPrimitives.WriteInt16BigEndian(head.AsSpan(24), (short)mode);
+        output.Write(head);
+    }
+
+    private static void WritePalette(Stream output, int[] palette)
+    {
+        if (palette.Length == 0)
+        {
+            Number(output, 0);
+            return;
+        }
+
+        byte[] table = new PsdPalette(palette, -1).GetRawEntries();
+        Number(output, table.Length);
+        output.Write(table);
+    }
+
+    private static void WriteResources(Stream output, RasterPageData page, PsdOptions options)
+    {
+        List<ResourceBlock> blocks = [new UnknownResource(PsdResources.ResolutionInfo, Resolution(page)), .. options.Resources];
+        if ((options.XmpData ?? page.Xmp) is XmpPacketWrapper xmp && !blocks.OfType<XmpResouce>().Any())
+        {
+            blocks.Add(new XmpResouce(xmp));
+        }
+
+        using var section = new MemoryStream();
+        foreach (ResourceBlock block in blocks)
+        {
+            PsdResources.Write(section, block);
+        }
+
+        Number(output, (int)section.Length);
+        section.WriteTo(output);
+    }
+
+    // Fixed point numbers of pixels an inch, each with the units to show them in: inches.
+    private static byte[] Resolution(RasterPageData page)
+    {
+        var data = new byte[16];
+        BinaryPrimitives.WriteInt32BigEndian(data, (int)Math.Min(int.MaxValue, page.HorizontalResolution * 65536));
+        BinaryPrimitives.WriteInt16BigEndian(data.AsSpan(4), 1);
+        BinaryPrimitives.WriteInt16BigEndian(data.AsSpan(6), 1);
+        BinaryPrimitives.WriteInt32BigEndian(data.AsSpan(8), (int)Math.Min(int.MaxValue, page.VerticalResolution * 65536));
+        BinaryPrimitives.WriteInt16BigEndian(data.AsSpan(12), 1);
+        BinaryPrimitives.WriteInt16BigEndian(data.AsSpan(14), 1);
+        return data;
+    }
+
+    private static void WritePlanes(Stream output, List<byte[]> planes, int width, CompressionMethod method)
+    {
+        Short(output, (int)method);
+        if (method == CompressionMethod.Raw)
+        {
+            planes.ForEach(plane => output.Write(plane));
+            return;
+        }
+
+        // The lengths of all packed rows stand before the rows.
+        List<byte> packed = [];
+        foreach (byte[] plane in planes)
+        {
+            for (int start = 0; start < plane.Length; start += width)
+            {
+                int before = packed.Count;
+                PackBits.Pack(plane.AsSpan(start, width), packed);
+                Short(output, packed.Count - before);
+            }
+        }
+
+        output.Write(System.Runtime.InteropServices.CollectionsMarshal.AsSpan(packed));
+    }
+
+    private static void Short(Stream output, int value)
+    {
+        output.WriteByte((byte)(value >> 8));
+        output.WriteByte((byte)value);
+    }
+
+    private static void Number(Stream output, int value)
+    {
+        Short(output, value >> 16);
+        Short(output, value);
+    }
+}

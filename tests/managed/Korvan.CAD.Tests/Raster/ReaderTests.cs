@@ -1,0 +1,120 @@
+using System.IO;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Bitmap;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Tests.Rendering;
+using Xunit;
+
+namespace Korvan.CAD.Tests.Raster;
+
+/// <summary>Files that another program wrote give the pixels that it reads from them.</summary>
+public class ReaderTests
+{
+    // A drawing of its own with edges, gradients and transparency, in the forms that programs write.
+    private static readonly string[] Source =
+        ["-size", "53x37", "gradient:red-blue", "-depth", "8", "-fill", "yellow", "-draw", "circle 25,18 25,8", "-fill", "black", "-draw", "line 0,0 52,36"];
+
+    [Theory]
+    [InlineData("bmp", 0)]
+    [InlineData("bmp -type bilevel", 0)]
+    [InlineData("bmp -colors 13 -type palette -define bmp:subtype=RGB", 0)]
+    [InlineData("bmp -colors 200 -type palette -compress RLE", 0)]
+    [InlineData("bmp -define bmp:subtype=RGB565", 8)]
+    [InlineData("bmp -alpha set -transparent yellow", 0)]
+    [InlineData("bmp2", 0)]
+    [InlineData("bmp3 -type truecolor", 0)]
+    [InlineData("png -interlace PNG", 0)]
+    [InlineData("png -depth 16 -strip", 1)]
+    [InlineData("png -colors 5 -type palette -transparent yellow", 0)]
+    [InlineData("png -type GrayscaleAlpha -alpha set", 1)]
+    [InlineData("gif -colors 30", 0)]
+    [InlineData("gif -interlace GIF -transparent yellow", 0)]
+    [InlineData("webp -define webp:lossless=true -alpha set -transparent yellow", 0)]
+    [InlineData("webp -quality 70", 2)]
+    [InlineData("jpg -quality 92", 2)]
+    [InlineData("jpg -interlace JPEG -sampling-factor 4:2:2", 2)]
+    [InlineData("jpg -colorspace Gray", 1)]
+    [InlineData("jpg -colorspace CMYK -quality 98", 6)]
+    [InlineData("jp2 -quality 100", 1)]
+    [InlineData("tiff -compress LZW", 0)]
+    [InlineData("tiff -compress Zip -define tiff:tile-geometry=16x16", 0)]
+    [InlineData("tiff -compress JPEG -quality 90", 20)]
+    [InlineData("tiff -compress Group4 -type bilevel", 0)]
+    [InlineData("tiff -compress None -depth 16", 1)]
+    [InlineData("tiff -interlace plane -alpha set -transparent yellow", 0)]
+    [InlineData("tiff -colors 20 -type palette -define tiff:endian=msb", 1)]
+    [InlineData("tiff64", 0)]
+    [InlineData("psd -alpha off", 0)]
+    [InlineData("psd -alpha off -compress None -colorspace Gray", 0)]
+    public void Pixels_are_those_that_the_writer_meant(string form, int most)
+    {
+        string[] words = form.Split(' ');
+        string file = Tools.TempFile("." + words[0].TrimEnd('2', '3', '4', '6'));
+        Tools.Run("convert", [.. Source, .. words[1..], (words[0] == "jp2" ? "jp2" : words[0]) + ":" + file]);
+        using RasterCachedImage image = Samples.Load(file);
+        Assert.Equal((53, 37), (image.Width, image.Height));
+        Assert.InRange(Samples.LargestDifference(image, file, "[0]"), 0, most);
+        File.Delete(file);
+    }
+
+    [Fact]
+    public void Frames_of_an_animation_are_seen_as_a_player_shows_them()
+    {
+        string file = Tools.TempFile(".gif");
+        string[] words = ["-page 40x30+0+0 -size 40x30 -dispose none xc:white", "-page +5+5 -size 10x10 -dispose previous xc:red",
+            "-page +20+15 -size 12x8 -dispose background xc:blue", "-page +0+21 -size 9x9 -dispose none xc:lime"];
+        Tools.Run("convert", [.. string.Join(' ', words).Split(' '), file]);
+        using RasterCachedImage image = Samples.Load(file);
+        Assert.Equal(4, image.PageCount);
+        string whole = Tools.TempFile(".gif");
+        Tools.Run("convert", file, "-coalesce", whole);
+        for (int i = 0; i < 4; i++)
+        {
+            Assert.Equal(0, Samples.LargestDifference(image.GetPage(i), whole, $"[{i}]"));
+        }
+    }
+
+    [Fact]
+    public void Bitmaps_have_a_class_of_their_own_and_names_do_not_matter()
+    {
+        using var made = Samples.Colors();
+        string file = Samples.Save(made, new BmpOptions { BitsPerPixel = 4, ResolutionSettings = new ResolutionSetting(254, 127) }, ".jpg");
+        using var image = Assert.IsType<BitmapImage>(Image.Load(file));
+        Assert.Equal((4, 16, 254.0, 127.0), (image.BitsPerPixel, image.Palette!.EntriesCount, image.HorizontalResolution, image.VerticalResolution));
+        Assert.Equal(FileFormat.Bmp, Image.GetFileFormat(file));
+        using FileStream stream = File.OpenRead(file);
+        using Image streamed = Image.Load(stream);
+        Assert.Equal(image.Width, streamed.Width);
+        image.Save();
+        Assert.Equal("61x43", Tools.Run("identify", "-format", "%wx%h", file));
+    }
+
+    [Theory]
+    [InlineData(".jpg")]
+    [InlineData(".tif")]
+    [InlineData(".bmp")]
+    public void Pictures_that_a_drawing_refers_to_are_drawn(string extension)
+    {
+        string folder = Directory.CreateTempSubdirectory("korvan").FullName;
+        using var picture = Samples.Of(32, 32, (x, y) => Samples.Rgb(250, 0, 0));
+        ImageOptionsBase options = extension switch { ".jpg" => new JpegOptions(), ".tif" => new TiffOptions(), _ => new BmpOptions() };
+        picture.Save(Path.Combine(folder, "photo" + extension), options);
+        CadImage drawing = Picture.Drawing(new CadRasterImage
+        {
+            ImageDefReference = "77",
+            ImageSize = new Cad2DPoint(32, 32),
+            VectorU = new Cad3DPoint(1, 0, 0),
+            VectorV = new Cad3DPoint(0, 1, 0),
+            InsertionPoint = new Cad3DPoint(20, 20, 0),
+            DisplayFlags = 1,
+        });
+        drawing.Objects.Add(new CadRasterImageDef { FileName = "photo" + extension, ObjectHandle = "77" });
+        drawing.FilePath = Path.Combine(folder, "plan.dxf");
+        using Picture page = Picture.Of(drawing);
+        Assert.InRange(page[36, 36].R, 240, 255);
+        Assert.InRange(page[36, 36].G, 0, 10);
+        Directory.Delete(folder, true);
+    }
+}
