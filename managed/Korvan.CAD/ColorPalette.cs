@@ -17,16 +17,12 @@ public class ColorPalette : IColorPalette
     public ColorPalette(int[] argb32Entries)
     {
         ArgumentNullException.ThrowIfNull(argb32Entries);
-        _entries = (int[])Verified(argb32Entries.Length, argb32Entries).Clone();
-    }
+        if (argb32Entries.Length is < 1 or > 65536)
+        {
+            throw new ArgumentException($"A palette has 1 to 65536 colours, not {argb32Entries.Length}.");
+        }
 
-    /// <summary>Creates a palette.</summary>
-    /// <param name="colors">The colours; 1 to 65536 of them.</param>
-    /// <exception cref="ArgumentException">There are no colours, or too many.</exception>
-    public ColorPalette(Color[] colors)
-    {
-        ArgumentNullException.ThrowIfNull(colors);
-        _entries = Array.ConvertAll(Verified(colors.Length, colors), static color => color.ToArgb());
+        _entries = (int[])argb32Entries.Clone();
     }
 
     /// <summary>Gets or sets how the nearest colour is found.</summary>
@@ -52,6 +48,15 @@ public class ColorPalette : IColorPalette
     /// <inheritdoc/>
     public bool IsCompactPalette => new HashSet<int>(_entries).Count == _entries.Length;
 
+    /// <summary>Creates a palette.</summary>
+    /// <param name="colors">The colours; 1 to 65536 of them.</param>
+    /// <exception cref="ArgumentException">There are no colours, or too many.</exception>
+    public static ColorPalette FromColors(Color[] colors)
+    {
+        ArgumentNullException.ThrowIfNull(colors);
+        return new ColorPalette(Array.ConvertAll(colors, static color => color.ToArgb()));
+    }
+
     /// <inheritdoc/>
     public int GetNearestColorIndex(int argb32Color) =>
         (_lookup ??= new PaletteLookup(_entries, _compareMethod)).Nearest(argb32Color);
@@ -72,14 +77,4 @@ public class ColorPalette : IColorPalette
 
     /// <inheritdoc/>
     public Color GetColor(int index) => Color.FromArgb(GetArgb32Color(index));
-
-    private static T[] Verified<T>(int count, T[] entries)
-    {
-        if (count is < 1 or > 65536)
-        {
-            throw new ArgumentException($"A palette has 1 to 65536 colours, not {count}.");
-        }
-
-        return entries;
-    }
 }

@@ -5,27 +5,12 @@ namespace Korvan.CAD.ImageOptions;
 /// <summary>Which pages of a source with several are written: layouts of a drawing, frames of a picture.</summary>
 public class MultiPageOptions
 {
+    private int[] _pages = [];
+    private string[] _pageTitles = [];
+
     /// <summary>Creates options that take all pages.</summary>
     public MultiPageOptions()
     {
-    }
-
-    /// <summary>Creates options that take some pages.</summary>
-    /// <param name="pages">Their numbers, from 0.</param>
-    public MultiPageOptions(int[] pages)
-    {
-        ArgumentNullException.ThrowIfNull(pages);
-        Pages = pages;
-        Mode = MultiPageMode.Pages;
-    }
-
-    /// <summary>Creates options that take some pages.</summary>
-    /// <param name="pageTitles">Their names; upper and lower case are the same.</param>
-    public MultiPageOptions(string[] pageTitles)
-    {
-        ArgumentNullException.ThrowIfNull(pageTitles);
-        PageTitles = pageTitles;
-        Mode = MultiPageMode.Titles;
     }
 
     /// <summary>Creates options that take an interval of pages.</summary>
@@ -41,11 +26,31 @@ public class MultiPageOptions
     /// <summary>Gets or sets by what pages are chosen.</summary>
     public MultiPageMode Mode { get; set; }
 
-    /// <summary>Gets or sets the numbers of the pages, from 0; for <see cref="MultiPageMode.Pages"/>.</summary>
-    public int[] Pages { get; set; } = [];
+    /// <summary>Gets or sets the numbers of the pages, from 0. Setting them sets <see cref="Mode"/> to
+    /// <see cref="MultiPageMode.Pages"/>.</summary>
+    public int[] Pages
+    {
+        get => _pages;
+        set
+        {
+            ArgumentNullException.ThrowIfNull(value);
+            _pages = value;
+            Mode = MultiPageMode.Pages;
+        }
+    }
 
-    /// <summary>Gets or sets the names of the pages; for <see cref="MultiPageMode.Titles"/>.</summary>
-    public string[] PageTitles { get; set; } = [];
+    /// <summary>Gets or sets the names of the pages; upper and lower case are the same. Setting them sets
+    /// <see cref="Mode"/> to <see cref="MultiPageMode.Titles"/>.</summary>
+    public string[] PageTitles
+    {
+        get => _pageTitles;
+        set
+        {
+            ArgumentNullException.ThrowIfNull(value);
+            _pageTitles = value;
+            Mode = MultiPageMode.Titles;
+        }
+    }
 
     /// <summary>Gets or sets the number of the first page, from 0; for <see cref="MultiPageMode.Range"/>.</summary>
     public int FirstPage { get; set; }

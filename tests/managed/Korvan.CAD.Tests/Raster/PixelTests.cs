@@ -183,11 +183,11 @@ public class PixelTests
     [Fact]
     public void Nearest_colours_follow_the_measure()
     {
-        var palette = new ColorPalette([Color.Red, Color.Lime, Color.FromArgb(76, 76, 76)]);
+        var palette = ColorPalette.FromColors([Color.Red, Color.Lime, Color.FromArgb(76, 76, 76)]);
         Assert.Equal(0, palette.GetNearestColorIndex(Color.FromArgb(200, 40, 40)));
         palette.CompareMethod = ColorCompareMethod.Luminance;
         Assert.Equal(0, palette.GetNearestColorIndex(Color.FromArgb(0, 0, 255)));
-        Assert.Equal(2, new ColorPalette([Color.Transparent, Color.White, Color.Black]).GetNearestColorIndex(Color.FromArgb(30, 20, 10)));
+        Assert.Equal(2, ColorPalette.FromColors([Color.Transparent, Color.White, Color.Black]).GetNearestColorIndex(Color.FromArgb(30, 20, 10)));
         Assert.Throws<ArgumentException>(() => new ColorPalette(Array.Empty<int>()));
     }
 

@@ -132,14 +132,14 @@ public class WriterTests
         Assert.Equal("50 50 ", Tools.Run("identify", "-format", "%T ", gif));
         Assert.Equal(0, Samples.LargestDifference(pages.GetPage(1), gif, "[1]"));
 
-        var only = new TiffOptions { VectorRasterizationOptions = raster, MultiPageOptions = new MultiPageOptions([sheet.LayoutName.ToUpperInvariant()]) };
+        var only = new TiffOptions { VectorRasterizationOptions = raster, MultiPageOptions = new MultiPageOptions { PageTitles = [sheet.LayoutName.ToUpperInvariant()] } };
         only.MultiPageOptions.ExportArea = new Rectangle(10, 10, 20, 15);
         using RasterCachedImage part = Samples.Load(Samples.Save(drawing, only, ".tif"));
         Assert.Equal((1, 20, 15), (part.PageCount, part.Width, part.Height));
         Refused<ImageSaveException>(drawing, new JpegOptions { VectorRasterizationOptions = raster }, "one page");
-        only.MultiPageOptions = new MultiPageOptions([2]);
+        only.MultiPageOptions = new MultiPageOptions { Pages = [2] };
         Refused<ImageSaveException>(drawing, only, "no page 2");
-        only.MultiPageOptions = new MultiPageOptions(["Attic"]);
+        only.MultiPageOptions = new MultiPageOptions { PageTitles = ["Attic"] };
         Refused<ImageSaveException>(drawing, only, "Attic");
     }
 
