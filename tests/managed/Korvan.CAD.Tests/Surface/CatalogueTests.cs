@@ -19,7 +19,7 @@ public class CatalogueTests
         List<string> wrong = [];
         foreach (Type type in PublicTypes)
         {
-            string name = $"{type.Namespace!.ToLowerInvariant()}.{type.FullName![(type.Namespace.Length + 1)..].Replace('+', '.')}";
+            string name = NameOf(type);
             if (catalogue.GetValueOrDefault(name) != Kind(type) && name != "korvan.cad.disposableobject")
             {
                 wrong.Add($"{name} ({Kind(type)}, catalogue: {catalogue.GetValueOrDefault(name, "missing")})");
@@ -35,7 +35,7 @@ public class CatalogueTests
         Dictionary<string, string> kinds = Rows().Where(row => row[1] == "enum").ToDictionary(row => $"{row[0]}.{row[2]}", row => row[3]);
         foreach (Type type in PublicTypes.Where(type => type.IsEnum))
         {
-            string expected = kinds[$"{type.Namespace!.ToLowerInvariant()}.{type.Name}"];
+            string expected = kinds[NameOf(type)];
             EnumKind? stated = type.GetCustomAttribute<PythonEnumAttribute>()?.Kind;
             Assert.True((stated == EnumKind.Flag ? "IntFlag" : "IntEnum") == expected, $"{type.Name} is {expected}");
         }
@@ -62,6 +62,9 @@ public class CatalogueTests
     }
 
     private static IEnumerable<string[]> Rows() => File.ReadLines(SharedDrawings.Catalogue!).Skip(1).Select(line => line.Split('\t'));
+
+    private static string NameOf(Type type) =>
+        $"{type.Namespace!.ToLowerInvariant()}.{type.FullName![(type.Namespace.Length + 1)..].Replace('+', '.')}";
 
     private static string Kind(Type type) => type switch
     {
