@@ -3,10 +3,11 @@
 from __future__ import annotations
 
 import gc
+import sys
 import unittest
 import weakref
 
-from korvan import probe
+from korvan import cad, probe
 
 
 class Wrappers(unittest.TestCase):
@@ -66,6 +67,31 @@ class Wrappers(unittest.TestCase):
         with self.assertRaisesRegex(RuntimeError, "no equality"):
             failing == probe.Failing(False)
         self.assertEqual(failing, failing, "the same wrapper is equal without asking")
+
+    def test_repr_keeps_the_exception_that_is_handled(self) -> None:
+        seen = []
+        try:
+            1 / 0
+        except ZeroDivisionError:
+            try:
+                repr(probe.Failing(False))
+            except RuntimeError as error:
+                seen.append(type(error.__context__))
+            seen.append(sys.exc_info()[0])
+        self.assertEqual(seen, [ZeroDivisionError, ZeroDivisionError])
+
+    def test_an_object_without_text_is_shown_as_python_would(self) -> None:
+        for bound in (probe.Echo, probe.Pair):
+            empty = bound.__new__(bound)
+            self.assertEqual(repr(empty), f"<{bound.__module__}.{bound.__name__} object at {hex(id(empty))}>")
+            with self.assertRaisesRegex(RuntimeError, "never constructed"):
+                hash(empty)
+
+    def test_a_dynamic_result_of_an_unbound_class_is_refused_and_given_back(self) -> None:
+        handles = probe._live_handles()
+        with self.assertRaisesRegex(TypeError, "^unknown wrapper type$"):
+            probe.Echo().same(probe.Echo._type_of())
+        self.assertEqual(probe._live_handles(), handles)
 
 
 class Interfaces(unittest.TestCase):
@@ -132,6 +158,93 @@ class Casts(unittest.TestCase):
         with self.assertRaisesRegex(TypeError, "got a int object"):
             probe.Echo._reinterpret_obj(1)
         self.assertEqual(probe.Echo._reinterpret_obj(probe.Echo()).signed32, 0)
+
+
+class Descriptors(unittest.TestCase):
+    """What an enum's cast methods, mixed methods and static values are found by."""
+
+    def test_a_name_with_two_forms_is_static_on_the_class_and_bound_on_an_instance(self) -> None:
+        mixed = probe.Mixed()
+        self.assertIs(probe.Mixed.inflate, probe.Mixed.inflate)
+        self.assertIsNot(mixed.inflate, mixed.inflate)
+        self.assertEqual((probe.Mixed.inflate(mixed, 2), probe.Mixed.inflate(None, 2), mixed.inflate(2)),
+                         ("something 2", "nothing 2", 3))
+
+    def test_methods_compare_by_instance_and_function_and_can_be_referred_to_weakly(self) -> None:
+        first = probe.Choice.FIRST
+        self.assertEqual(first.get_type, first.get_type)
+        self.assertEqual(hash(first.get_type), hash(first.get_type))
+        self.assertNotEqual(first.get_type, probe.Choice.SECOND.get_type)
+        self.assertNotEqual(first.get_type, first._as_uni_enum)
+        self.assertNotEqual(first.get_type, probe.Echo().get_type)
+        with self.assertRaises(TypeError):
+            first.get_type < first.get_type
+        method = first.get_type
+        self.assertIs(weakref.ref(method)(), method)
+        self.assertIs(probe.Choice._type_of, first._type_of)
+
+    def test_they_show_what_they_are_of(self) -> None:
+        first = probe.Choice.FIRST
+        address = hex(id(first))
+        for shown, text in (
+            (first.get_type, f"<extension method get_type of Choice object at {address}>"),
+            (vars(probe.Choice)["get_type"], "<method 'get_type' of 'Choice' objects>"),
+            (vars(probe.Choice)["_type_of"], "<method '_type_of' of 'Choice' objects>"),
+            (vars(probe.Mixed)["inflate"], "<method 'inflate' of 'korvan.probe.Mixed' objects>"),
+            (vars(probe.Settings)["LIMIT"], "<attribute 'LIMIT' of 'korvan.probe.Settings' objects>"),
+        ):
+            self.assertEqual(repr(shown), text)
+            self.assertIsNone(shown.__doc__)
+        repr(probe.Choice.get_type)  # without an instance
+
+    def test_misuse_is_refused_in_a_fixed_order(self) -> None:
+        choice, first = probe.Choice, probe.Choice.FIRST
+        unfit = "descriptor '{}' for '{}' objects doesn't apply to a 'int' object"
+        for call, words in (
+            (lambda: choice._cast_to(), "_cast_to() takes exactly one argument (0 given)"),
+            (lambda: choice._cast_to(1, 2, a=1), "_cast_to() takes exactly one argument (2 given)"),
+            (lambda: choice._cast_to(1, a=1), "_cast_to() takes no keyword arguments"),
+            (lambda: choice._type_of(1, a=1), "_type_of() takes no arguments (1 given)"),
+            (lambda: first.get_type(a=1), "get_type() takes no keyword arguments"),
+            (lambda: choice.get_type(), "unbound method get_type() needs a 'self' argument"),
+            (lambda: choice.get_type(1, 2, a=1), unfit.format("get_type", "Choice")),
+            (lambda: choice.get_type(first, 2, a=1), "get_type() takes no arguments (1 given)"),
+            (lambda: choice.get_type(first, a=1), "get_type() takes no keyword arguments"),
+            (lambda: choice._cast_from(), "unbound method _cast_from() needs a 'self' argument"),
+            (lambda: choice._cast_from(1), unfit.format("_cast_from", "Choice")),
+            (lambda: choice._cast_from(first), "_cast_from() takes exactly one argument (0 given)"),
+            (lambda: choice._cast_from(first, 1, a=1), "_cast_from() takes no keyword arguments"),
+        ):
+            with self.subTest(words), self.assertRaises(TypeError) as caught:
+                call()
+            self.assertEqual(str(caught.exception), words)
+        self.assertEqual(choice.get_type(first), first.get_type())
+        self.assertFalse(choice._cast_from(first, 1))
+
+    def test_access_by_hand_checks_type_and_instance(self) -> None:
+        needs = "descriptor '{}' needs a type, not '{}', as arg 2"
+        for owner, name, asks_instance in ((probe.Choice, "_type_of", False), (probe.Choice, "get_type", True),
+                                           (probe.Mixed, "inflate", True), (probe.Settings, "LIMIT", False)):
+            get = vars(owner)[name].__get__
+            rows = [((None, 5), needs.format(name, "int"))]
+            if asks_instance:
+                unfit = f"descriptor '{name}' for '"
+                rows += [((1,), unfit), ((1, int), unfit)]
+            else:
+                rows += [((1,), needs.format(name, "NoneType")), ((1, 5), needs.format(name, "int"))]
+            for arguments, words in rows:
+                with self.subTest(name=name, arguments=arguments), self.assertRaises(TypeError) as caught:
+                    get(*arguments)
+                self.assertIn(words, str(caught.exception))
+            self.assertTrue(get(None, owner))
+
+    def test_a_static_value_is_read_alike_everywhere_and_never_assigned(self) -> None:
+        color = cad.Color.from_argb(1, 2, 3)
+        self.assertEqual(color.alice_blue, cad.Color.alice_blue)
+        with self.assertRaises(AttributeError):
+            color.alice_blue = color
+        with self.assertRaises(TypeError):
+            probe.Settings.LIMIT = 1
 
 
 class Markers(unittest.TestCase):

@@ -87,12 +87,14 @@ template <class Record> PyObject* descr_doc(PyObject* self, void*) {
     return doc_or_none(Definition<Record>::doc(as<Record>(self)));
 }
 
+// There is no type where __get__ is called with an instance alone.
 template <class Record> bool accepts_type(PyObject* self, PyObject* type) {
-    if (PyType_Check(type)) {
+    if (type != nullptr && PyType_Check(type)) {
         return true;
     }
     PyErr_Format(PyExc_TypeError, "descriptor '%s' needs a type, not '%s', as arg 2",
-                 Definition<Record>::name(as<Record>(self)), type_name_of(type));
+                 Definition<Record>::name(as<Record>(self)),
+                 type_name_of(type != nullptr ? type : Py_None));
     return false;
 }
 
