@@ -2,11 +2,17 @@
 
 from __future__ import annotations
 
+import gzip
 import io
+import os
+import shutil
 import tempfile
 import unittest
+import zipfile
+from contextlib import ExitStack
 from typing import Any
 
+from file_objects import SOURCES, TARGETS, OneWay
 from korvan import probe
 
 TEXT = b"first\nsecond\n\nlast"
@@ -212,6 +218,45 @@ class StreamArguments(unittest.TestCase):
             with self.assertRaisesRegex(TypeError, "can't build Stream from"):
                 Streams.same(value)
 
+    def test_every_kind_is_read_to_its_end_and_left_open(self) -> None:
+        content = os.urandom(300_000)
+        for name, source in SOURCES.items():
+            with self.subTest(name), ExitStack() as stack:
+                file = source(content, stack)
+                self.assertEqual(probe.Echo().read_all(file), content)
+                self.assertFalse(file.closed)
+
+    def test_every_kind_takes_what_is_written_in_pieces(self) -> None:
+        content = os.urandom(30_000)
+        for name, target in TARGETS.items():
+            with self.subTest(name), ExitStack() as stack:
+                file, taken = target(stack)
+                Streams.copy_to(Streams.open_slow(content), file)
+                self.assertFalse(file.closed)
+                self.assertEqual(taken(), content)
+
+    def test_small_pieces_cross_in_large_blocks(self) -> None:
+        class Counting(io.BytesIO):
+            calls = 0
+
+            def write(self, data: Any) -> int:
+                self.calls += 1
+                return super().write(data)
+
+            def readinto(self, target: Any) -> int:
+                self.calls += 1
+                return super().readinto(target)
+
+        size = 20_000_000
+        file = Counting()
+        Streams.pour(file, size)
+        self.assertEqual(len(file.getvalue()), size)
+        self.assertLess(file.calls, 400)
+        file.seek(0)
+        file.calls = 0
+        self.assertEqual(Streams.drain(file), size)
+        self.assertLess(file.calls, 400)
+
     def test_the_wrapper_is_a_wrapper_like_the_others(self) -> None:
         stream = Streams.open(TEXT)
         kind = type(stream)
@@ -227,6 +272,108 @@ class StreamArguments(unittest.TestCase):
         self.assertIs(kind.__repr__, object.__repr__)
         with self.assertRaisesRegex(TypeError, "type has no available constructor"):
             kind()
+
+
+class FailingFileObjects(unittest.TestCase):
+    """What fails in the middle loses nothing of what went before."""
+
+    def test_what_was_written_before_a_failure_arrives_and_once(self) -> None:
+        class Torn(OneWay):
+            def readinto(self, target: Any) -> int:
+                if self.position >= 3000:
+                    raise OSError("torn")
+                return super().readinto(target)
+
+        class Full(OneWay):
+            def write(self, data: Any) -> int:
+                if len(self.taken) >= 3000:
+                    raise OSError("full")
+                return super().write(data)
+
+        content = os.urandom(300_000)
+        memory = io.BytesIO()
+        with self.assertRaisesRegex(RuntimeError, "OSError: torn"):
+            Streams.copy_to(Torn(content), memory)
+        self.assertEqual(memory.getvalue(), content[:3000])
+        full = Full()
+        with self.assertRaisesRegex(RuntimeError, "OSError: full"):
+            Streams.copy_to(Streams.open_slow(content), full)
+        self.assertEqual(full.taken, content[:3000])
+
+    def test_a_failed_call_leaves_the_position_where_reading_stopped(self) -> None:
+        class Full(OneWay):
+            def write(self, data: Any) -> int:
+                raise OSError("full")
+
+        source = io.BytesIO(b"x" * 1_000_000)
+        self.assertEqual((Streams.first_byte(source), source.tell()), (ord("x"), 1))
+        with self.assertRaisesRegex(RuntimeError, "OSError: full"):
+            Streams.copy_to(source, Full())
+        # The target's block is full and one piece of the next is read; a whole block is read ahead.
+        self.assertLess(source.tell(), 400_000)
+
+    def test_a_stream_that_does_not_block_is_no_stream_at_its_end(self) -> None:
+        reading, writing = os.pipe()
+        for end in (reading, writing):
+            os.set_blocking(end, False)
+        with open(reading, "rb", buffering=0) as source, open(writing, "wb", buffering=0) as target:
+            target.write(b"begun")
+            with self.assertRaisesRegex(RuntimeError, "no bytes are available for reading"):
+                probe.Echo().read_all(source)
+            with self.assertRaisesRegex(RuntimeError, "no bytes are available for reading"):
+                Streams.first_byte(source)
+            content = os.urandom(1_000_000)
+            with self.assertRaisesRegex(RuntimeError, "takes no more bytes"):
+                probe.Echo().write_all(target, content)
+            target.close()
+            taken = source.readall()
+            self.assertGreater(len(taken), 4000)
+            self.assertTrue(content.startswith(taken))
+
+    def test_what_a_stream_can_not_do_is_named(self) -> None:
+        closed = io.BytesIO(b"x")
+        closed.close()
+        with open(os.devnull, "wb") as write_only, open(os.devnull, "rb") as read_only:
+            for call, words in (
+                (lambda: probe.Echo().read_all(closed), "closed"),
+                (lambda: probe.Echo().write_all(closed, b"x"), "closed"),
+                (lambda: probe.Echo().read_all(write_only), "does not support reading"),
+                (lambda: probe.Echo().write_all(read_only, b"x"), "does not support writing"),
+            ):
+                with self.subTest(words), self.assertRaisesRegex(RuntimeError, words):
+                    call()
+
+
+class ManagedStreamsInPython(unittest.TestCase):
+    def test_the_buffers_of_python_work_over_them(self) -> None:
+        reader = io.BufferedReader(Streams.open(TEXT))
+        self.assertEqual((reader.readline(), reader.peek(3)[:3], reader.read(3), reader.tell()),
+                         (b"first\n", b"sec", b"sec", 9))
+        self.assertEqual((reader.seek(-4, 2), reader.read(), reader.seek(0), list(reader)),
+                         (len(TEXT) - 4, b"last", 0, TEXT.splitlines(keepends=True)))
+        reader.close()
+        self.assertTrue(reader.raw.closed)
+        with io.TextIOWrapper(io.BufferedReader(Streams.open("\u20ac\r\nb".encode())), "utf-8") as text:
+            self.assertEqual(text.readlines(), ["\u20ac\n", "b"])
+        stream = Streams.open(TEXT)
+        edited = io.BufferedRandom(stream)
+        self.assertEqual((edited.read(2), edited.write(b"XX"), edited.seek(0), edited.read()),
+                         (b"fi", 2, 0, b"fiXX" + TEXT[4:]))
+        edited.detach()
+        self.assertEqual((stream.seek(0), stream.read(4)), (0, b"fiXX"))
+
+    def test_the_library_reads_and_writes_them_as_files(self) -> None:
+        content = os.urandom(200_000)
+        memory, stream = io.BytesIO(), Streams.open(b"")
+        shutil.copyfileobj(Streams.open(content), memory)
+        shutil.copyfileobj(io.BytesIO(content), stream)
+        self.assertEqual((memory.getvalue(), stream.seek(0), stream.read()), (content, 0, content))
+        packed = Streams.open(b"")
+        with zipfile.ZipFile(packed, "w", zipfile.ZIP_DEFLATED) as archive:
+            archive.writestr("a", content)
+        packed.seek(0)
+        self.assertEqual(zipfile.ZipFile(packed).read("a"), content)
+        self.assertEqual(gzip.GzipFile(fileobj=Streams.open(gzip.compress(content))).read(), content)
 
 
 if __name__ == "__main__":

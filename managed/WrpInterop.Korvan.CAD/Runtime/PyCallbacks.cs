@@ -187,8 +187,14 @@ internal static unsafe class PyRawIO
     internal static int Write(nint file, byte* data, int count) =>
         ((delegate* unmanaged<nint, byte*, int, int>)PyTables.RawIO[0])(file, data, count);
 
+    internal static int WriteByte(nint file, int value) =>
+        ((delegate* unmanaged<nint, int, int>)PyTables.RawIO[1])(file, value);
+
     internal static int Read(nint file, byte* data, int count) =>
         ((delegate* unmanaged<nint, byte*, int, int>)PyTables.RawIO[2])(file, data, count);
+
+    /// <summary>The byte; -1: the end; -2: an error, and that is also what a stream gives that has none yet.</summary>
+    internal static int ReadByte(nint file) => ((delegate* unmanaged<nint, int>)PyTables.RawIO[3])(file);
 
     internal static long Seek(nint file, long offset, int whence) =>
         ((delegate* unmanaged<nint, long, int, long>)PyTables.RawIO[4])(file, offset, whence);

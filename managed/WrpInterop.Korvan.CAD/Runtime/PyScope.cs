@@ -15,6 +15,11 @@ public interface IPyAdapter
     /// <summary>Brings what is buffered to the Python object.</summary>
     void Complete();
 
+    /// <summary>The same behind a failure of the call, which goes before any of its own.</summary>
+    void Abandon()
+    {
+    }
+
     /// <summary>Ends the adapter's use of the Python object.</summary>
     void End();
 }
@@ -125,6 +130,17 @@ public unsafe struct PyScope
         {
             adapter.Complete();
         }
+    }
+
+    /// <summary>Makes a Python error of the call's failure, with what the adapters hold brought home before.</summary>
+    public readonly void Fail(Exception exception)
+    {
+        _first?.Abandon();
+        foreach (IPyAdapter adapter in Others)
+        {
+            adapter.Abandon();
+        }
+        Boundary.Fail(exception);
     }
 
     /// <summary>Ends lent adapters; kept ones live on.</summary>

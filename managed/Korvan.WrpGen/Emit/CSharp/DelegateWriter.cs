@@ -176,9 +176,10 @@ internal sealed class DelegateWriter(CodeWriter writer, TypeModel type)
                 writer.Line("PyScope scope = PyScope.Lending();");
             }
             writer.Block("try", body);
+            string fail = lends ? "scope.Fail(e);" : "Boundary.Fail(e);";
             writer.Line(result == "void"
-                ? "catch (Exception e) { Boundary.Fail(e); }"
-                : "catch (Exception e) { Boundary.Fail(e); return default; }");
+                ? $"catch (Exception e) {{ {fail} }}"
+                : $"catch (Exception e) {{ {fail} return default; }}");
             if (lends)
             {
                 writer.Line("finally { scope.End(); }");

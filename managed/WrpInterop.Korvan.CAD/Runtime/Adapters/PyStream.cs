@@ -12,15 +12,17 @@ public sealed class PyStream : Stream, IPyAdapter
     private const int BlockSize = 64 * 1024;
 
     private readonly PyReference _reference;
+    private readonly PyRawStream _raw;
     private readonly Stream _target;
     private bool _isClosed;
+    private bool _isSettled;
 
     internal PyStream(PyReference reference, bool isBuffered)
     {
         _reference = reference;
-        var raw = new PyRawStream(reference);
+        _raw = new PyRawStream(reference);
         // Reading ahead of what can't go back would lose bytes.
-        _target = isBuffered && (raw.CanSeek || !raw.CanRead) ? new BufferedStream(raw, BlockSize) : raw;
+        _target = isBuffered && (_raw.CanSeek || !_raw.CanRead) ? new BufferedStream(_raw, BlockSize) : _raw;
     }
 
     public nint PyObject => _reference.Value;
@@ -69,9 +71,27 @@ public sealed class PyStream : Stream, IPyAdapter
     void IPyAdapter.Complete()
     {
         // Flushing also brings the Python position back from what was read ahead.
-        if (!_isClosed && _target is BufferedStream)
+        if (!_isClosed && !_isSettled && _target is BufferedStream)
         {
+            _isSettled = true;
             _target.Flush();
+        }
+    }
+
+    void IPyAdapter.Abandon()
+    {
+        // What a Python stream took a part of before it failed would reach it twice.
+        if (_raw.HasFailed)
+        {
+            return;
+        }
+        try
+        {
+            ((IPyAdapter)this).Complete();
+        }
+        catch (Exception)
+        {
+            // The failure that ended the call says more.
         }
     }
 
@@ -98,10 +118,15 @@ internal sealed unsafe class PyRawStream(PyReference reference) : Stream
     private const int Failure = -1;
     private const int NotSeekable = -2;
     private const int Closed = -3;
+    private const int EndOfStream = -1;
+    private const int NoByte = -2;
 
     private bool? _canRead;
     private bool? _canSeek;
     private bool? _canWrite;
+
+    /// <summary>Gets a value indicating whether the Python stream failed once.</summary>
+    internal bool HasFailed { get; private set; }
 
     public override bool CanRead => _canRead ??= Answer(PyRawIO.Readable(reference.Value));
 
@@ -148,8 +173,30 @@ internal sealed unsafe class PyRawStream(PyReference reference) : Stream
         }
         fixed (byte* start = buffer)
         {
-            return Counted(PyRawIO.Read(reference.Value, start, buffer.Length), buffer.Length);
+            int count = Counted(PyRawIO.Read(reference.Value, start, buffer.Length), buffer.Length);
+            if (count > 0)
+            {
+                return count;
+            }
         }
+        // The end, or a stream that does not block and has nothing yet: a single byte tells them apart.
+        int next = ReadByte();
+        if (next == EndOfStream)
+        {
+            return 0;
+        }
+        buffer[0] = (byte)next;
+        return 1;
+    }
+
+    public override int ReadByte()
+    {
+        int next = PyRawIO.ReadByte(reference.Value);
+        if (next == NoByte)
+        {
+            Checked(Failure);
+        }
+        return next;
     }
 
     public override long Seek(long offset, SeekOrigin origin) =>
@@ -174,15 +221,12 @@ internal sealed unsafe class PyRawStream(PyReference reference) : Stream
             for (int written = 0; written < buffer.Length;)
             {
                 int left = buffer.Length - written;
-                int count = Counted(PyRawIO.Write(reference.Value, start + written, left), left);
-                if (count == 0)
-                {
-                    throw new IOException("The Python stream takes no more bytes.");
-                }
-                written += count;
+                written += Taken(PyRawIO.Write(reference.Value, start + written, left), left);
             }
         }
     }
+
+    public override void WriteByte(byte value) => Taken(PyRawIO.WriteByte(reference.Value, value), 1);
 
     protected override void Dispose(bool disposing)
     {
@@ -193,22 +237,32 @@ internal sealed unsafe class PyRawStream(PyReference reference) : Stream
         base.Dispose(disposing);
     }
 
-    private static bool Answer(int status) => Checked(status) != 0;
+    private bool Answer(int status) => Checked(status) != 0;
 
-    private static long Checked(long status)
+    private long Checked(long status)
     {
         if (status == Failure)
         {
+            HasFailed = true;
             Boundary.ThrowPythonError();
         }
         return status;
     }
 
-    private static int Counted(int count, int most)
+    private int Counted(int count, int most)
     {
         Checked(count);
         return (uint)count <= (uint)most
             ? count
-            : throw new IOException($"The Python stream speaks of {count} bytes where {most} were asked for.");
+            : throw Failed($"The Python stream speaks of {count} bytes where {most} were asked for.");
+    }
+
+    private int Taken(int count, int most) =>
+        Counted(count, most) > 0 ? count : throw Failed("The Python stream takes no more bytes.");
+
+    private IOException Failed(string message)
+    {
+        HasFailed = true;
+        return new IOException(message);
     }
 }
