@@ -61,6 +61,18 @@ READING: list[Callable[[Any], Any]] = [
     lambda a: (a.index(3), a.index(3, 1), a.index(3, -1), a.index(2, 0, 3)),
     lambda a: a.index(3, 1, 4),
     lambda a: a.index(9),
+    lambda a: (list(reversed(a)), sorted(a), sum(a), min(a), max(a), list(zip(a, a)), [*a], bool(a)),
+    lambda a: [a[-2**70 : 2**70], a[2**70:], a[::2**70], a[:: -(2**70)], a[2**70 :: -1]],
+    lambda a: a[2**70],
+    lambda a: (a[True], a[slice(None, None, None)]),
+    *(
+        lambda a, misuse=misuse: misuse(a)
+        for misuse in (
+            lambda a: a[1.0], lambda a: a[None], lambda a: a["x":], lambda a: a[0, 1], lambda a: a.index(),
+            lambda a: a.index(3, None), lambda a: a.index(3, 1, 2, 3), lambda a: a.count(), lambda a: a.count(1, 2),
+            lambda a: a.copy(1), lambda a: a * "x", lambda a: a * 1.0, lambda a: a * a, lambda a: a * 2**70,
+        )
+    ),
 ]
 WRITING: list[Callable[[Any], Any]] = [
     lambda a: a.__setitem__(1, 7),
@@ -73,7 +85,28 @@ WRITING: list[Callable[[Any], Any]] = [
     lambda a: a.sort(),
     lambda a: a.sort(key=None, reverse=True),
     lambda a: a.reverse(),
+    lambda a: a.__setitem__(slice(None), a),
+    lambda a: a.__setitem__(slice(None, None, -1), a),
+    lambda a: a.__setitem__(slice(5, 5), []),
+    lambda a: a.__setitem__(slice(None, None, 2**70), [7]),
+    lambda a: a.sort(reverse="yes"),
+    *(
+        lambda a, misuse=misuse: misuse(a)
+        for misuse in (
+            lambda a: a.__setitem__(None, 1), lambda a: a.__setitem__(1.0, 1), lambda a: a.__setitem__(2**70, 1),
+            lambda a: a.__setitem__(slice(None, None, 0), []), lambda a: a.__setitem__(slice("x", None), []),
+            lambda a: a.__setitem__(slice(None, None, 2), 5), lambda a: a.sort(up=True),
+            lambda a: a.reverse(1),
+        )
+    ),
 ]
+
+
+def breaking_off() -> Iterable[int]:
+    yield from (7, 8)
+    raise KeyError("broken off")
+
+
 GROWING: list[Callable[[Any], Any]] = [
     lambda a: a.append(7),
     lambda a: [a.insert(i, 7) for i in (0, 2, -1, 100, -100)],
@@ -91,6 +124,22 @@ GROWING: list[Callable[[Any], Any]] = [
     lambda a: (a.clear(), a.pop()),
     lambda a: a.remove(3),
     lambda a: a.remove(9),
+    lambda a: a.__imul__(0) is a,
+    lambda a: a.extend(breaking_off()),
+    lambda a: a.__iadd__(breaking_off()),
+    lambda a: (a.insert(True, 7), a.insert(-1, 7)),
+    *(
+        lambda a, misuse=misuse: misuse(a)
+        for misuse in (
+            lambda a: a.insert(), lambda a: a.insert(0), lambda a: a.insert("x", 1), lambda a: a.insert(0, 1, 2),
+            lambda a: a.append(), lambda a: a.append(1, 2), lambda a: a.extend(), lambda a: a.pop("x"),
+            lambda a: a.pop(0, 1), lambda a: a.pop(index=0), lambda a: a.clear(1), lambda a: a.remove(),
+            lambda a: a.__imul__("x"), lambda a: a.__delitem__(None), lambda a: a.__delitem__(1.0),
+            lambda a: a.__delitem__(2**70), lambda a: a.__delitem__(slice("x", None)),
+        )
+    ),
+    lambda a: a.__delitem__(slice(None, None, 2**70)),
+    lambda a: a.__delitem__(slice(-2**70, 2**70)),
     lambda a: a.__delitem__(1),
     lambda a: a.__delitem__(-6),
     *(
@@ -146,6 +195,17 @@ class ListProtocol(unittest.TestCase):
                 self.assertEqual(items.pop(None), 3)
                 self.assertEqual([items + other for other in ((7,), range(7, 8), {7: 1})],
                                  [[*items, 7]] * 3)
+
+    def test_a_change_under_a_walk_is_told(self) -> None:
+        for name, make in LISTS.items():
+            with self.subTest(name=name):
+                items = make()
+                walk = iter(items)
+                self.assertEqual(next(walk), ITEMS[0])
+                items.append(7)
+                with self.assertRaisesRegex(RuntimeError, "Collection was modified"):
+                    next(walk)
+                self.assertEqual(list(items), [*ITEMS, 7])
 
     def test_indices_have_32_bits(self) -> None:
         words = r"the index \(2147483648\) is out of the INT32 range"

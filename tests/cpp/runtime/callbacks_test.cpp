@@ -235,5 +235,30 @@ TEST(Markers, AnswerForTheExactTypeAndNeverRaise) {
     EXPECT_FALSE(fn_is_instance_has_host_markattr(PyTuple_GET_ITEM(marked.get(), 1), &kind))
         << "markers are not inherited";
     EXPECT_FALSE(fn_contains_implicit_ifc_markattr(Py_TYPE(instance), &PyLong_Type));
+    EXPECT_FALSE(fn_has_external_ancestor_markattr(instance, &PyLong_Type));
+    EXPECT_TRUE(fn_set_external_ancestor_markattr(Py_TYPE(instance), &PyLong_Type));
+    EXPECT_TRUE(fn_set_additional_ifcs_markattr(Py_TYPE(instance), 1, &PyFloat_Type));
+    EXPECT_TRUE(fn_has_external_ancestor_markattr(instance, &PyLong_Type));
+    EXPECT_FALSE(fn_has_external_ancestor_markattr(instance, &PyFloat_Type));
+    EXPECT_TRUE(fn_contains_additional_ifc_markattr(instance, &PyFloat_Type));
+    EXPECT_FALSE(fn_contains_additional_ifc_markattr(instance, &PyLong_Type));
     EXPECT_EQ(take_error(), "");
+}
+
+TEST(TypesMap, RemembersMissesInItsWeakHalfAlone) {
+    PyWrpTypesMap map;
+    PyTypeObject* found = &PyFloat_Type;
+    EXPECT_FALSE(map.find(u"Korvan.Absent", found));
+    EXPECT_EQ(found, &PyFloat_Type) << "a miss writes nothing";
+    map.reserve(100);
+    map.add(u"Korvan.Number", &PyLong_Type);
+    map.add(7L, &PyLong_Type);
+    EXPECT_TRUE(map.find(u"Korvan.Number", found) && found == &PyLong_Type);
+    EXPECT_TRUE(map.find(7L, found));
+    EXPECT_FALSE(map.find_weak(7L, found));
+    map.add_weak(8L, nullptr);
+    EXPECT_TRUE(map.find_weak(8L, found) && found == nullptr) << "known to have no binding";
+    EXPECT_FALSE(map.find(8L, found));
+    map.add_weak(8L, &PyFloat_Type);
+    EXPECT_TRUE(map.find_weak(8L, found) && found == &PyFloat_Type);
 }

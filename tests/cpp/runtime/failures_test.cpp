@@ -110,6 +110,51 @@ TEST(VersionGate, LetsPassExactlyWhatLiesBetweenThresholdAndVersion) {
     EXPECT_NE(take_error().find("does not have 'VERSION' attribute"), std::string::npos);
 }
 
+TEST(Imports, FollowNamesAndTellWhereTheyEnd) {
+    const Ref module = run("import sys, types\nresult = sys.modules['nest'] = "
+                           "types.ModuleType('nest')\n"
+                           "class Outer:\n    class Inner: pass\n    number = 5\n"
+                           "result.Outer = Outer\nresult.number = 5");
+    const auto name = [](const char* text) { return Ref::steal(PyUnicode_FromString(text)); };
+    const Ref outer = name("Outer"), inner = name("Inner"), number = name("number");
+    const Ref found =
+        Ref::steal(PyShImport_ImportTypeExV("nest", 2, outer.get(), inner.get()));
+    ASSERT_TRUE(found) << take_error();
+    EXPECT_STREQ(reinterpret_cast<PyTypeObject*>(found.get())->tp_name, "Inner");
+    const Ref first = Ref::steal(PyShImport_ImportTypeExV("nest", 1, outer.get(), inner.get()));
+    EXPECT_STREQ(reinterpret_cast<PyTypeObject*>(first.get())->tp_name, "Outer");
+
+    EXPECT_EQ(PyShImport_ImportTypeExV("nest", 2, outer.get(), outer.get()), nullptr);
+    EXPECT_EQ(take_error(),
+              "ImportError: type does not contain nested type Outer <- AttributeError: type object "
+              "'Outer' has no attribute 'Outer'");
+    EXPECT_EQ(PyShImport_ImportTypeExV("nest", 2, outer.get(), number.get()), nullptr);
+    EXPECT_EQ(take_error(), "TypeError: Attribute must be type object, not 'int'");
+    EXPECT_EQ(PyShImport_ImportTypeEx("nest", number.get()), nullptr);
+    EXPECT_EQ(take_error(), "TypeError: Attribute must be type object, not 'int'");
+    EXPECT_EQ(PyShImport_ImportType("nest", inner.get()), nullptr);
+    EXPECT_EQ(take_error(),
+              "ImportError: Unable to import the specified type Inner from the module nest. The "
+              "type not found or errors occurred while initializing it. <- AttributeError: module "
+              "'nest' has no attribute 'Inner'");
+    EXPECT_EQ(PyShImport_ImportType("no_nest", inner.get()), nullptr);
+    EXPECT_EQ(take_error(),
+              "ImportError: Unable to import the specified module no_nest. The module not found or "
+              "errors occurred while initializing it. <- ModuleNotFoundError: No module named "
+              "'no_nest'");
+}
+
+TEST(LoadFailures, NameAnEnumOverItsText) {
+    PyShlErr_EnumTypeInitialization("no host", "Choice");
+    EXPECT_EQ(take_error(),
+              "ImportError: enum type 'Choice' is not initialized <- TypeError: no host");
+    PyErr_SetString(PyExc_OSError, "first");
+    PyShlErr_ChainOrFormat(PyExc_ImportError, "over it");
+    EXPECT_EQ(take_error(), "ImportError: over it <- OSError: first");
+    PyShlErr_ChainOrFormat(PyExc_ImportError, "alone");
+    EXPECT_EQ(take_error(), "ImportError: alone");
+}
+
 TEST(ExceptionBridge, WordsManagedFailures) {
     on_clr_exception(PyUnicode_FromString("IOException"), PyUnicode_FromString("no disk"));
     EXPECT_EQ(take_error(), "RuntimeError: Proxy error(IOException): no disk");
