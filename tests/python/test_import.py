@@ -18,6 +18,16 @@ except BaseException as error:
         error = error.__cause__
 """
 
+ANSWERS = """
+from korvan import probe
+WRAPPERS = [kind for name, kind in vars(probe._wrpgen._interop).items() if name.endswith("Wrapper")]
+for call in ({lines},):
+    try:
+        print(call())
+    except TypeError as error:
+        print(error, '|', error.__cause__)
+"""
+
 
 class Start(unittest.TestCase):
     def test_the_trace_shows_the_start_step_by_step(self) -> None:
@@ -128,6 +138,60 @@ class FailedStart(unittest.TestCase):
         self.assertEqual(own, f"{words} | None")
         self.assertEqual(derived, f"one or more refereced type is not initialized | {words}")
         self.assertEqual(rest, "0 Box")
+
+    def failing(self, code: str, host: str, method: str) -> list[list[str]]:
+        """Each line of the code with what becomes of it: a value, 'own' or 'reference'."""
+        with ScriptedRuntime(f"fail {host} {method} 7") as runtime:
+            done = run(ANSWERS.format(lines=code), **runtime.environment)
+        self.assertEqual(done.returncode, 0, done.stderr)
+        words = (f"While initializing the host for the '{host} (Assembly=WrpInterop.Korvan.Probe)' type, "
+                 f"an error occurred - Method '{method}' not found (error=7)")
+        chained = f"one or more refereced type is not initialized | {words}"
+        outcomes = {f"{words} | None": "own", chained: "reference"}
+        return [outcomes.get(line, line) for line in done.stdout.splitlines()]
+
+    def test_a_wrapper_of_the_framework_fails_with_those_that_it_builds_on(self) -> None:
+        code = "*[lambda kind=kind: str(kind._type_of()) and 'fine' for kind in WRAPPERS]"
+        names = ["IDisposable", "Iter", "Iterable", "ICol", "IList", "RoColBase", "ColBase", "Array", "ArrList", "Stream"]
+        for host, method, own, dependent in (
+            ("SiApiEnumerable", "GetEnumerator", "Iterable",
+             ("ICol", "IList", "RoColBase", "ColBase", "Array", "ArrList")),
+            ("SiApiCntCollection", "SqLength", "ICol", ("IList", "RoColBase", "ColBase")),
+            ("SiApiCntList", "Clear", "IList", ("ColBase",)),
+            ("SiApiArray", "Sort", "Array", ()),
+            ("SiApiStream", "Write", "Stream", ()),
+            ("SiApiDisposable", "btp_CastAs", "IDisposable", ()),
+        ):
+            with self.subTest(host):
+                outcomes = self.failing(code, f"Korvan.WrpGen.Interop.{host}", method)
+                expected = {name: "fine" for name in names} | {name: "reference" for name in dependent} | {own: "own"}
+                self.assertEqual(outcomes, [expected[name] for name in names])
+
+    def test_what_is_made_of_several_hosts_fails_as_a_whole(self) -> None:
+        collections = """
+            lambda: list(probe.Collections().numbers), lambda: list(probe.Collections().editable),
+            lambda: len(probe.Collections().editable), lambda: probe.NumberList().append(1),
+            lambda: list(probe.Collections().counts), lambda: list(probe.Collections().bag),
+            lambda: probe.Collections.sum_iterable([1, 2]), probe._live_handles"""
+        shapes = """
+            lambda: probe.Shapes.hidden().name, lambda: probe.Shapes.hidden().area, lambda: probe.Shapes.open().name,
+            lambda: probe.Shapes.name_of(probe.OpenShape()), probe._live_handles"""
+        number = type_hash("System.Int32")
+        face = "WrpNs_Korvan.WrpNs_Probe.WrpCs_IFace_" + type_hash("Korvan.Probe.IFace")
+        own, reference = "own", "reference"
+        for code, host, method, expected in (
+            (collections, f"Korvan.WrpGen.Generic.SiApiEnumerable_{number}", "GetEnumerator",
+             [reference, reference, reference, reference, reference, reference, "3", "0"]),
+            (collections, f"Korvan.WrpGen.Generic.SiApiCntCollection_{number}", "SqLength",
+             ["[1, 2, 3]", reference, reference, reference, "[]", "[4, 5]", "3", "0"]),
+            (collections, f"Korvan.WrpGen.Generic.SiApiCntList_{number}", "SqGetItem",
+             ["[1, 2, 3]", own, own, reference, "[]", "[4, 5]", "3", "0"]),
+            (collections, f"Korvan.WrpGen.Generic.SiApiEnumerator_{number}", "MoveNext",
+             [own, own, "2", "None", own, own, "3", "0"]),
+            (shapes, face, "get_Name", [reference, reference, "open", "open", "0"]),
+        ):
+            with self.subTest(host):
+                self.assertEqual(self.failing(code, host, method), expected)
 
     def test_a_package_that_lost_a_part_names_it(self) -> None:
         rows = [

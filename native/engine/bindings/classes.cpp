@@ -13,19 +13,46 @@ bool reference_is_not_valid(ClassBinding* reference, std::string& message) {
     return reference != nullptr && class_is_not_valid(*reference, message);
 }
 
+bool any_is_not_valid(ClassBinding* const* references, std::string& message) {
+    for (; references != nullptr && *references != nullptr; ++references) {
+        if (reference_is_not_valid(*references, message)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// A collection is made of the functions of several hosts, an interface of those of its bases.
+bool constituent_is_not_valid(const ClassBinding& binding, std::string& message) {
+    if (binding.kind == ClassKind::interface_ && binding.collection == nullptr) {
+        return any_is_not_valid(binding.additional_interfaces, message);
+    }
+    if (binding.collection == nullptr) {
+        return false;
+    }
+    const CollectionInfo& info = *binding.collection;
+    for (HostRecord* host : {info.list_host, info.collection_host, info.iterable_host}) {
+        if (host != nullptr && host_is_not_valid(*host)) {
+            message = *host->error;
+            return true;
+        }
+    }
+    return false;
+}
+
 PyHostState* build_state(ClassBinding& binding) {
     auto* state = new PyHostState;
+    std::string& message = state->message;
     if (host_is_not_valid(*binding.host)) {
         state->is_not_valid = true;
-        state->message = *binding.host->error;
+        message = *binding.host->error;
         return state;
     }
-    bool invalid = binding.is_disposable &&
-                   reference_is_not_valid(&wrpPye_tyds_IDisposableWrapper, state->message);
-    for (auto* reference = binding.references; !invalid && reference && *reference; ++reference) {
-        invalid = reference_is_not_valid(*reference, state->message);
-    }
-    invalid = invalid || reference_is_not_valid(binding.base, state->message);
+    const bool invalid = (binding.is_disposable &&
+                          reference_is_not_valid(&wrpPye_tyds_IDisposableWrapper, message)) ||
+                         any_is_not_valid(binding.references, message) ||
+                         constituent_is_not_valid(binding, message) ||
+                         reference_is_not_valid(binding.base, message);
     state->is_not_valid = invalid;
     state->reference_not_valid = invalid;
     return state;
