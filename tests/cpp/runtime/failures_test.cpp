@@ -117,8 +117,7 @@ TEST(Imports, FollowNamesAndTellWhereTheyEnd) {
                            "result.Outer = Outer\nresult.number = 5");
     const auto name = [](const char* text) { return Ref::steal(PyUnicode_FromString(text)); };
     const Ref outer = name("Outer"), inner = name("Inner"), number = name("number");
-    const Ref found =
-        Ref::steal(PyShImport_ImportTypeExV("nest", 2, outer.get(), inner.get()));
+    const Ref found = Ref::steal(PyShImport_ImportTypeExV("nest", 2, outer.get(), inner.get()));
     ASSERT_TRUE(found) << take_error();
     EXPECT_STREQ(reinterpret_cast<PyTypeObject*>(found.get())->tp_name, "Inner");
     const Ref first = Ref::steal(PyShImport_ImportTypeExV("nest", 1, outer.get(), inner.get()));
