@@ -32,6 +32,15 @@ def rasterization(width: float = 400.0, height: float = 300.0) -> CadRasterizati
     return options
 
 
+def stroke_and_face() -> cad.Image:
+    """A drawing with something for each format: some hold strokes, some hold faces alone."""
+    corners = ((0, 0, 0), (10, 0, 0), (10, 5, 3), (0, 5, 3))
+    values = {10 * axis + number: corner[axis - 1] for number, corner in enumerate(corners) for axis in (1, 2, 3)}
+    face = "\n".join(f"{code}\n{value}" for code, value in values.items())
+    text = f"0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n5\n0\n3DFACE\n8\n0\n{face}\n"
+    return cad.Image.load(io.BytesIO(f"{text}0\nENDSEC\n0\nEOF\n".encode()))
+
+
 class Loading(unittest.TestCase):
     def test_a_drawing_is_an_image_and_is_narrowed_by_a_cast(self) -> None:
         image = cad.Image.load(PLAN)
@@ -176,12 +185,11 @@ class Saving(unittest.TestCase):
                 options = kind()
                 if image.can_save(options):
                     if name != "DxfOptions":
-                        options.vector_rasterization_options = rasterization(80.0, 60.0)
+                        options.vector_rasterization_options = rasterization()
                     yield name, options
 
     def test_a_stream_gets_the_same_bytes_as_a_file_in_every_format(self) -> None:
-        image = cad.Image.load(PLAN)
-        names = []
+        image, names = stroke_and_face(), []
         for name, options in self.formats(image):
             names.append(name)
             by_path = self.folder / name
