@@ -37,12 +37,4 @@ internal static class StepCharacters
 
         return at;
     }
-
-    /// <summary>Counts the lines up to a place, from 1. A line ends with LF, CR or both.</summary>
-    internal static int LineOf(ReadOnlySpan<byte> data, int at)
-    {
-        ReadOnlySpan<byte> before = data[..Math.Min(at, data.Length)];
-        int feeds = before.Count((byte)'\n');
-        return 1 + (feeds > 0 ? feeds : before.Count((byte)'\r'));
-    }
 }

@@ -12,9 +12,10 @@ internal sealed class StepFile
 {
     private const int LeastPiece = 1 << 20;
 
-    private readonly List<StepError> _errors = [];
+    private readonly StepErrors _errors = new();
     private readonly List<(int Start, int End)> _damaged = [];
     private readonly List<StepIndex> _parts = [];
+    private bool _isInData;
 
     private StepFile(byte[] data, List<StepHeaderRecord> header)
     {
@@ -28,8 +29,8 @@ internal sealed class StepFile
 
     internal StepIndex Index { get; private set; } = new();
 
-    /// <summary>Gets the damage that was found, in the order of the file.</summary>
-    internal List<StepError> Errors => _errors;
+    /// <summary>Gets the damage that was found.</summary>
+    internal StepErrors Errors => _errors;
 
     /// <summary>Gets the places of records that are left out because of damage.</summary>
     internal List<(int Start, int End)> Damaged => _damaged;
@@ -37,6 +38,12 @@ internal sealed class StepFile
     /// <summary>Gets the place of the word that ends the last section of data, ahead of which records can be
     /// added.</summary>
     internal int DataEnd { get; private set; }
+
+    /// <summary>Gets what is missing at the end of the file.</summary>
+    internal string Tail { get; private set; } = string.Empty;
+
+    /// <summary>Gets whether there is no data, or so much is damaged that not all was looked at.</summary>
+    internal bool IsHopeless { get; private set; }
 
     /// <summary>Reads the header.</summary>
     /// <exception cref="StepException">It is not there, or damaged.</exception>
@@ -60,8 +67,9 @@ internal sealed class StepFile
                 switch (word)
                 {
                     case "DATA":
+                        int begin = SkipParameters(parser);
                         hasData = true;
-                        at = DataSection(SkipParameters(parser), keywords, arities);
+                        at = DataSection(begin, keywords, arities);
                         break;
                     case "END-ISO-10303-21":
                         Finish(hasData, at);
@@ -78,6 +86,9 @@ internal sealed class StepFile
         catch (StepException e)
         {
             _errors.Add(new StepError(e.Offset, 0, e.Message));
+            at = _isInData ? DataEnd : at;
+            _damaged.Add((at, Data.Length));
+            Tail = (_isInData ? "ENDSEC;\n" : string.Empty) + "END-ISO-10303-21;\n";
             Finish(hasData, at);
         }
     }
@@ -87,6 +98,7 @@ internal sealed class StepFile
         if (!hasData)
         {
             _errors.Add(new StepError(at, 0, "there is no section of data"));
+            IsHopeless = true;
         }
 
         DataEnd = DataEnd > 0 ? DataEnd : at;
@@ -114,6 +126,7 @@ internal sealed class StepFile
     // Gives the place behind the section.
     private int DataSection(int start, KeywordTable keywords, int[] arities)
     {
+        _isInData = true;
         int at = ScanPieces(start, keywords, arities);
         DataEnd = at;
         StepParser parser = new(Data, at);
@@ -124,6 +137,7 @@ internal sealed class StepFile
         }
 
         parser.Expect(';');
+        _isInData = false;
         return parser.At;
     }
 
@@ -164,8 +178,9 @@ internal sealed class StepFile
     private void Accept(StepScanner scanner)
     {
         _parts.Add(scanner.Index);
-        _errors.AddRange(scanner.Errors);
+        _errors.Add(scanner.Errors);
         _damaged.AddRange(scanner.Damaged);
+        IsHopeless |= scanner.IsHopeless;
     }
 
     // The last one is the end of the file.

@@ -13,12 +13,16 @@ internal sealed record StepHeaderRecord(string Keyword, object?[] Values, int St
 /// <summary>Reads what stands ahead of the data: ISO 10303-21, 8.</summary>
 internal static class StepHeader
 {
+    // A few kilobytes are usual.
+    private const int MostBytes = 1 << 24;
+
     /// <summary>Reads the header section.</summary>
     /// <param name="data">The file.</param>
     /// <param name="end">The place behind the section.</param>
     /// <exception cref="StepException">It is not there, or damaged.</exception>
     internal static List<StepHeaderRecord> Read(ReadOnlySpan<byte> data, out int end)
     {
+        data = data[..Math.Min(data.Length, MostBytes)];
         int at = data.StartsWith("\uFEFF"u8) ? 3 : 0;
         at = Word(data, StepCharacters.Skip(data, at), "ISO-10303-21");
         at = Word(data, at, "HEADER");

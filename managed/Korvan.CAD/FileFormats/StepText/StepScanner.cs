@@ -13,7 +13,9 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
     // Room for as many as there may be, taken at once, costs less than room that grows.
     private const int BytesOfShortRecord = 44;
 
-    private readonly List<StepError> _errors = [];
+    private const int MostDamaged = 10_000;
+
+    private readonly StepErrors _errors = new();
     private readonly List<(int Start, int End)> _damaged = [];
     private readonly StepIndex _index = new();
     private int _at;
@@ -21,10 +23,13 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
 
     internal StepIndex Index => _index;
 
-    internal IReadOnlyList<StepError> Errors => _errors;
+    internal StepErrors Errors => _errors;
 
     /// <summary>Gets the places of what was left out because of damage.</summary>
     internal IReadOnlyList<(int Start, int End)> Damaged => _damaged;
+
+    /// <summary>Gets whether so much is damaged that the scan gave up.</summary>
+    internal bool IsHopeless => _damaged.Count >= MostDamaged;
 
     /// <summary>Gets where the scan ended: at the first record that it left to others, or what is no record.</summary>
     internal int At => _at;
@@ -351,6 +356,8 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
         int start = _recordStart;
         _errors.Add(new StepError(from, IdAt(start), error.Message));
         int at = Math.Max(_at, start + 1);
+        // A comment without end takes all that follows with it.
+        at = data.AsSpan(from).StartsWith("/*"u8) ? data.Length : at;
         while (true)
         {
             int next = at < data.Length ? data.AsSpan(at).IndexOfAny("\r\n"u8) : -1;
@@ -362,14 +369,16 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
 
             at += next + 1;
             ReadOnlySpan<byte> line = data.AsSpan(at).TrimStart(" \t\r\n"u8);
+            at = data.Length - line.Length;
             if (BeginsRecord(line) || line.StartsWith("ENDSEC"u8))
             {
-                _at = data.Length - line.Length;
+                _at = at;
                 break;
             }
         }
 
         _damaged.Add((start, _at));
+        _at = IsHopeless ? data.Length : _at;
     }
 
     private static bool BeginsRecord(ReadOnlySpan<byte> line)

@@ -14,6 +14,7 @@ namespace Korvan.CAD.FileFormats.Ifc.Model;
 internal sealed class IfcModel
 {
     private readonly IfcIdMap _ids;
+    private readonly StepLines _lines;
     private readonly SortedSet<int> _removed = [];
     private readonly List<IfcEntityBase> _added = [];
     private readonly Dictionary<long, IfcEntityBase> _addedById = [];
@@ -30,6 +31,7 @@ internal sealed class IfcModel
         File = file;
         Schema = schema;
         _ids = ids;
+        _lines = new StepLines(file.Data);
         _largestId = ids.Largest;
     }
 
@@ -119,7 +121,7 @@ internal sealed class IfcModel
 
     internal string TextOf(int record) => Encoding.Latin1.GetString(Bytes(record));
 
-    internal int LineOf(int record) => StepCharacters.LineOf(File.Data, File.Index.Starts[record]);
+    internal int LineOf(int record) => _lines.LineOf(File.Index.Starts[record]);
 
     internal void NoteChange(IfcEntityBase entity)
     {

@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Globalization;
 using System.IO;
 using System.IO.Compression;
 using System.Linq;
@@ -16,6 +17,7 @@ namespace Korvan.CAD.FileFormats.Ifc.Model;
 internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
 {
     private const long LargestPacked = 2_000_000_000;
+    private const int MostPackedRatio = 1100;
 
     // Addenda and corrigenda keep the layout of their edition.
     private static readonly Dictionary<string, IfcVersion> s_schemas = new(StringComparer.OrdinalIgnoreCase)
@@ -33,7 +35,8 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         ["IFC4X3_ADD2"] = IfcVersion.IFC4X3,
     };
 
-    private readonly List<StepError> _errors = [];
+    private readonly StepErrors _errors = new();
+    private StepLines? _lines;
     private bool _isTranslated;
 
     /// <summary>Reads the file.</summary>
@@ -58,11 +61,11 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         IfcSchema schema = IfcSchema.Of(FindVersion(header));
         int[] arities = [.. schema.Classes.Select(one => one.IsAbstract ? -1 : one.Attributes.Length)];
         file.ScanData(start, new KeywordTable([.. schema.Classes.Select(one => one.Keyword)]), arities);
-        _errors.AddRange(file.Errors);
+        _errors.Add(file.Errors);
         IfcIdMap ids = new(file.Index.Ids);
         VerifyIds(file, ids);
         VerifyReferences(file, ids);
-        Report();
+        Report(file);
         IfcFileForm form = isPacked ? IfcFileForm.Packed : isXml ? IfcFileForm.Xml : IfcFileForm.Plain;
         return new IfcImage(new IfcModel(file, schema, ids), header, form);
     }
@@ -94,67 +97,78 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         ReadOnlySpan<long> all = file.Index.Ids;
         for (int i = 0; i < all.Length; i++)
         {
-            if (ids.Find(all[i]) != i)
+            if (ids.Find(all[i]) is var other && other != i)
             {
-                int other = StepCharacters.LineOf(data, file.Index.Starts[ids.Find(all[i])]);
-                _errors.Add(new StepError(
-                    file.Index.Starts[i], all[i], $"its number is used again in line {other}"));
+                int place = file.Index.Starts[other];
+                _errors.Add(new StepError(file.Index.Starts[i], all[i], "its number is used again in line ", place));
             }
         }
     }
 
     private void VerifyReferences(StepFile file, IfcIdMap ids)
     {
-        const int Block = 4096;
+        const int Block = 1 << 16;
         int blocks = (file.Index.Count + Block - 1) / Block;
-        List<StepError>?[] found = new List<StepError>?[blocks];
+        StepErrors[] found = new StepErrors[blocks];
         Parallel.For(0, blocks, i =>
         {
+            found[i] = new StepErrors();
             int end = Math.Min(file.Index.Count, (i + 1) * Block);
             for (int record = i * Block; record < end; record++)
             {
-                VerifyReferences(file, ids, record, ref found[i]);
+                VerifyReferences(file, ids, record, found[i]);
             }
         });
-        _errors.AddRange(found.Where(one => one is not null).SelectMany(one => one!));
+        foreach (StepErrors errors in found)
+        {
+            _errors.Add(errors);
+        }
     }
 
-    private static void VerifyReferences(StepFile file, IfcIdMap ids, int record, ref List<StepError>? errors)
+    private static void VerifyReferences(StepFile file, IfcIdMap ids, int record, StepErrors errors)
     {
         int start = file.Index.Starts[record];
         StepReferenceWalk walk = new(file.Data.AsSpan(start..file.Index.Ends[record]));
         while (walk.MoveNext())
         {
-            if (ids.Find(walk.Id) < 0)
+            if (ids.Find(walk.Id) >= 0)
             {
-                string message = $"it refers to #{walk.Id}, which does not exist";
-                (errors ??= []).Add(new StepError(start, file.Index.Ids[record], message));
+                continue;
             }
+
+            if (errors.IsFull)
+            {
+                errors.CountOne();
+                continue;
+            }
+
+            string message = $"it refers to #{walk.Id}, which does not exist";
+            errors.Add(new StepError(start, file.Index.Ids[record], message));
         }
     }
 
-    private void Report()
+    private void Report(StepFile file)
     {
-        const int MostErrors = 10_000;
-        _errors.Sort(static (a, b) => a.Offset.CompareTo(b.Offset));
-        if (_errors.Count > 0 && !options.IgnoreErrors)
+        if (_errors.Count > 0 && (!options.IgnoreErrors || file.IsHopeless))
         {
             string more = _errors.Count > 1 ? $" There are {_errors.Count - 1} more errors." : string.Empty;
-            throw new ImageLoadException(Word(_errors[0]) + more);
+            throw new ImageLoadException(Word(_errors.Kept.First()) + more);
         }
 
-        options.Errors.AddRange(_errors.Take(MostErrors).Select(Word));
-        if (_errors.Count > MostErrors)
+        options.Errors.AddRange(_errors.Kept.Select(Word));
+        if (_errors.Count > _errors.KeptCount)
         {
-            options.Errors.Add($"'{name}': there are {_errors.Count - MostErrors} more errors.");
+            options.Errors.Add($"'{name}': there are {_errors.Count - _errors.KeptCount} more errors.");
         }
     }
 
     private string Word(StepError error)
     {
+        StepLines lines = _lines ??= new StepLines(data);
         string instance = error.Id > 0 ? $", #{error.Id}" : string.Empty;
-        string line = _isTranslated ? string.Empty : $", line {StepCharacters.LineOf(data, error.Offset)}";
-        return $"'{name}'{line}{instance}: {error.Message}.";
+        string line = _isTranslated ? string.Empty : $", line {lines.LineOf(error.Offset)}";
+        string other = error.Other >= 0 ? lines.LineOf(error.Other).ToString(CultureInfo.InvariantCulture) : string.Empty;
+        return $"'{name}'{line}{instance}: {error.Message}{other}.";
     }
 
     private byte[] Unpack(out string entryName)
@@ -181,10 +195,11 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
     // The stated size bounds what is read: a file that unpacks to more is damaged.
     private byte[] Unpack(ZipArchiveEntry entry)
     {
-        if (entry.Length is < 1 or > LargestPacked)
+        // What states more than packing can yield does not get the memory that it states.
+        if (entry.Length is < 1 or > LargestPacked || entry.Length / MostPackedRatio > entry.CompressedLength)
         {
-            throw new ImageLoadException($"'{name}': '{entry.FullName}' has {entry.Length} bytes; up to "
-                + $"{LargestPacked} can be read.");
+            throw new ImageLoadException($"'{name}': '{entry.FullName}' has {entry.Length} bytes in "
+                + $"{entry.CompressedLength} packed ones; up to {LargestPacked} can be read.");
         }
 
         using Stream stream = entry.Open();

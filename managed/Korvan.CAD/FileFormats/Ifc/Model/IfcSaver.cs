@@ -54,6 +54,12 @@ internal static class IfcSaver
             changes.Add((end, end, [.. Record(entity, line), (byte)'\n']));
         }
 
+        if (model.File.Tail is { Length: > 0 } tail)
+        {
+            int last = model.File.Data.Length;
+            changes.Add((last, last, Encoding.Latin1.GetBytes(tail)));
+        }
+
         return [.. changes.OrderBy(one => one.Start).ThenBy(one => one.End)];
     }
 

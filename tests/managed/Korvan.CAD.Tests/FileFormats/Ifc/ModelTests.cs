@@ -184,6 +184,23 @@ public class ModelTests
         Assert.Contains(message, Assert.IsType<ImageLoadException>(failure).Message, StringComparison.Ordinal);
     }
 
+    [Fact]
+    public void Errors_without_number_are_counted_and_not_kept()
+    {
+        StringBuilder records = new();
+        for (int i = 0; i < 300_000; i++)
+        {
+            records.Append("#1=IFCLOCALPLACEMENT(#7,#8);\n");
+        }
+
+        LoadOptions options = new() { IgnoreErrors = true };
+        IfcImage image = IfcText.Load(records.ToString(), options);
+        Assert.Equal(300_000, image.Entities.Count);
+        Assert.Equal(10_001, options.Errors.Count);
+        Assert.Equal("'test.ifc', line 8, #1: its number is used again in line 300007.", options.Errors[0]);
+        Assert.Equal("'test.ifc': there are 889999 more errors.", options.Errors[^1]);
+    }
+
     [Theory]
     [InlineData(1)]
     [InlineData(2)]

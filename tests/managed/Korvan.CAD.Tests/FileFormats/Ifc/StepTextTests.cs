@@ -125,6 +125,41 @@ public class StepTextTests
     }
 
     [Fact]
+    public void What_is_damaged_throughout_is_refused_in_any_case()
+    {
+        string noise = string.Concat(Enumerable.Repeat("#5=(\n", 200_000));
+        LoadOptions options = new() { IgnoreErrors = true };
+        Assert.Throws<ImageLoadException>(() => IfcText.Load(noise, options));
+    }
+
+    [Fact]
+    public void What_is_left_of_a_cut_file_is_saved_as_a_whole_one()
+    {
+        string text = IfcText.File("#1=IFCDIRECTION((1.,0.));\n/* # */#2=IFCDIRECTION((0.,1.));\n");
+        for (int length = text.IndexOf("DATA;", StringComparison.Ordinal) + 5; length < text.Length - 1; length++)
+        {
+            IfcImage image = IfcText.LoadFile(text[..length], new LoadOptions { IgnoreErrors = true });
+            image.AddEntity(new IfcDirection4 { DirectionRatios = new[] { 2.0, 0 } });
+            IfcImage again = IfcText.LoadFile(IfcText.Saved(image));
+            Assert.Equal(image.Entities.Select(one => one.ToString()), again.Entities.Select(one => one.ToString()));
+        }
+    }
+
+    [Theory]
+    [InlineData("#5=(\n", "\n")] // blank lines behind damage
+    [InlineData("", "#5=/*\n")] // comments without end, one in another
+    [InlineData("#5=IFCWALL(", "'")]
+    [InlineData("#5=IFCWALL(", "1,")]
+    public void Damage_costs_time_in_line_with_its_size(string start, string repeated)
+    {
+        LoadOptions options = new() { IgnoreErrors = true };
+        string noise = start + string.Concat(Enumerable.Repeat(repeated, 1_500_000)) + "\n";
+        IfcImage image = IfcText.Load("#1=IFCDIRECTION((1.,0.));\n" + noise + "#2=IFCDIRECTION((0.,1.));\n", options);
+        Assert.Equal(1, image.Entities[0].InstanceId);
+        Assert.NotEmpty(options.Errors);
+    }
+
+    [Fact]
     public void Pieces_that_begin_within_a_text_are_found_out()
     {
         // Texts that look like the beginnings of records, wherever the file is cut for its threads.
