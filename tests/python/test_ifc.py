@@ -297,6 +297,7 @@ class Refusals(unittest.TestCase):
                 options.ignore_errors = True
                 model = load(SMALL + data.replace("#1", "#10"), options)
                 self.assertGreater(len(options.errors), 0)
+                self.assertTrue(all(str(one).startswith(f"#{one.instance_id}=") for one in model.entities))
                 self.assertEqual(model.get_entity(2).name, "Wänd")
 
     def test_unknown_schemas_and_uses_are_named(self) -> None:

@@ -80,7 +80,7 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
             keyword = keywords.Find(word);
             keyword = keyword >= 0 ? keyword : keywords.Find(Encoding.ASCII.GetBytes(Text(word).ToUpperInvariant()));
             int count = Parameters();
-            VerifyRecord(keyword, word, count, start, id);
+            keyword = Verified(keyword, word, count, start, id);
         }
         else
         {
@@ -109,21 +109,22 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
         return _at > start + 1 && id > 0 ? id : throw new StepException(start, "an instance has no number above 0");
     }
 
-    private void VerifyRecord(short keyword, ReadOnlySpan<byte> word, int count, int start, long id)
+    // Gives the keyword; -1 for one of which there can be no instance.
+    private short Verified(short keyword, ReadOnlySpan<byte> word, int count, int start, long id)
     {
-        if (keyword < 0)
+        int arity = keyword < 0 ? -1 : arities[keyword];
+        if (arity < 0)
         {
-            _errors.Add(new StepError(start, id, $"the schema has no entity {Text(word)}"));
+            string message = keyword < 0
+                ? $"the schema has no entity {Text(word)}"
+                : $"{Text(word)} is abstract and has no instances of its own";
+            _errors.Add(new StepError(start, id, message));
+            return -1;
         }
-        else if (arities[keyword] < 0)
-        {
-            _errors.Add(new StepError(start, id, $"{Text(word)} is abstract and has no instances of its own"));
-        }
-        else if (count != arities[keyword])
-        {
-            string message = $"{Text(word)} has {arities[keyword]} attributes, {count} are given";
-            throw new StepException(start, message);
-        }
+
+        return count == arity
+            ? keyword
+            : throw new StepException(start, $"{Text(word)} has {arity} attributes, {count} are given");
     }
 
     // Several partial records in brackets: #1=(A(1)B(2));
