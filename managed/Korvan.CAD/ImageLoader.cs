@@ -5,6 +5,7 @@ using Korvan.CAD.FileFormats;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Ifc.Model;
 using Korvan.CAD.Raster;
+using Korvan.CAD.Raster.Vectorizing;
 
 namespace Korvan.CAD;
 
@@ -84,11 +85,24 @@ internal static class ImageLoader
         Image image = format switch
         {
             FileFormat.IFC2X3 or FileFormat.IFC4 => new IfcReader(data, name, options).Read(),
-            _ when RasterLoader.CanRead(format) => RasterLoader.Load(data, name, format, options),
+            _ when RasterLoader.CanRead(format) => Vectorized(RasterLoader.Load(data, name, format, options), options),
             _ => new DxfReader(data, name, options).Read(),
         };
         image.LoadOptions = options;
         return image;
+    }
+
+    private static Image Vectorized(Image picture, LoadOptions options)
+    {
+        if (picture is not RasterImage raster || options.VectorizationOptions is not { Method: not VectorizationMethod.None } how)
+        {
+            return picture;
+        }
+
+        using (picture)
+        {
+            return Vectorizer.Trace(raster, how);
+        }
     }
 
     private static byte[] ReadFile(string filePath)

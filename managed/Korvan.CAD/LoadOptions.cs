@@ -25,6 +25,17 @@ public class LoadOptions
     /// text as they are.</summary>
     public bool RecoverMalformedCifMif { get; set; }
 
+    /// <summary>Gets or sets folders whose fonts the drawing is drawn with, beside those of the system. Empty by
+    /// default.</summary>
+    public string[] CustomFontFolders { get; set; } = [];
+
+    /// <summary>Gets or sets how the fonts of <see cref="CustomFontFolders"/> are used.</summary>
+    public CustomFontFolderOptions CustomFontFolderOptions { get; set; }
+
+    /// <summary>Gets or sets how a picture is loaded as a drawing of lines and areas; nothing to load it as a picture.
+    /// Files that are drawings do not heed it.</summary>
+    public VectorizationOptions? VectorizationOptions { get; set; }
+
     /// <summary>Gets or sets whether disposing the image also closes the stream it was read from. A stream that the
     /// caller opened stays open by default.</summary>
     public bool UnloadOnDispose { get; set; }

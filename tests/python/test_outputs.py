@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import base64
 import io
 import re
 import tempfile
@@ -11,6 +12,7 @@ from pathlib import Path
 import cgm
 from drawings import EXAMPLES, SHARED, Png, needs_shared, needs_tools, tool
 from korvan import cad
+from korvan.cad import CustomFontFolderOptions
 from korvan.cad.fileformats.cad import CadImage
 from korvan.cad.fileformats.cad.cadobjects import (
     Cad2DPoint,
@@ -35,8 +37,10 @@ from korvan.cad.imageoptions import (
     PngOptions,
     RenderErrorCode,
     StlOptions,
+    SvgOptions,
     WmfOptions,
 )
+from korvan.cad.imageoptions.svgoptionsparameters import FontStoreType, SvgColorMode
 
 RECORDER = Path(__file__).resolve().parents[1] / "fixtures" / "canvas" / "record.js"
 SIZE = (640, 480)
@@ -188,6 +192,87 @@ class Pages(Outputs):
         failures = options.render_result.failures
         self.assertEqual({one.render_code for one in failures}, {RenderErrorCode.ENTITY_NOT_DRAWN})
         self.assertRegex(failures[0].message, r"3DSOLID.*\(\d+\)")
+
+
+def with_text(text: str, font_file: str) -> io.BytesIO:
+    """A drawing of one text whose style names a font file."""
+    drawing = CadImage()
+    drawing.styles[0].primary_font_name = font_file
+    entity = CadText()
+    (entity.default_value, entity.text_height, entity.style_type) = (text, 10.0, drawing.styles[0].name)
+    drawing.add_entity(entity)
+    content = io.BytesIO()
+    drawing.save(content)
+    content.seek(0)
+    return content
+
+
+@needs_tools("fc-match")
+class Fonts(Outputs):
+    def setUp(self) -> None:
+        super().setUp()
+        (self.folder / "fonts" / "more").mkdir(parents=True)
+        for family, name in (("DejaVu Serif", "myown.ttf"), ("DejaVu Sans Mono", "more/mono.ttf")):
+            file = tool("fc-match", "-f", "%{file}", family)
+            (self.folder / "fonts" / name).write_bytes(Path(file).read_bytes())
+
+    def fonts_of(self, font_file: str, folders: list[str], how: CustomFontFolderOptions) -> str:
+        options = cad.LoadOptions()
+        (options.custom_font_folders, options.custom_font_folder_options) = (folders, how)
+        image = cad.Image.load(with_text("Hamburg", font_file), options)
+        path = str(self.folder / "page.pdf")
+        image.save(path, PdfOptions())
+        return tool("pdffonts", path)
+
+    @needs_tools("pdffonts")
+    def test_texts_are_drawn_with_the_fonts_of_custom_folders(self) -> None:
+        fonts, how = str(self.folder / "fonts"), CustomFontFolderOptions
+        rows = [  # the font of the style, the folders, how they are used, the font that is drawn with
+            ("myown.ttf", [], how.NONE, "LiberationSans"),
+            ("myown.ttf", [fonts], how.NONE, "DejaVuSerif"),
+            ("mono.ttf", [fonts], how.NONE, "LiberationSans"),
+            ("mono.ttf", [fonts], how.INCLUDE_SUBFOLDERS, "DejaVuSansMono"),
+            ("arial.ttf", [fonts], how.IGNORE_SYSTEM_FONTS, "DejaVuSerif"),
+        ]
+        for font_file, folders, used, expected in rows:
+            with self.subTest(font_file, used=used):
+                self.assertIn(f"+{expected} ", self.fonts_of(font_file, folders, used))
+
+    def test_folders_that_are_missing_or_empty_are_named(self) -> None:
+        (self.folder / "empty").mkdir()
+        for name, words in (("nowhere", "does not exist"), ("empty", "no fonts in the custom folders")):
+            with self.assertRaisesRegex(RuntimeError, f"ImageSaveException.*{words}"):
+                self.fonts_of("myown.ttf", [str(self.folder / name)], CustomFontFolderOptions.NONE)
+
+    @needs_tools("xmllint")
+    def test_a_scalable_graphic_carries_its_fonts_or_keeps_them_beside_it(self) -> None:
+        options = SvgOptions()
+        options.text_as_shapes = False
+        (options.font_store_type, image) = (FontStoreType.EMBEDDED, cad.Image.load(with_text("Hamburg", "arial.ttf")))
+        path = self.folder / "page.svg"
+        image.save(str(path), options)
+        tool("xmllint", "--noout", str(path))
+        carried = re.search(r"@font-face\{font-family:'Arial';src:url\('data:font/ttf;base64,([^']+)'", path.read_text("utf-8"))
+        self.assertTrue(base64.b64decode(carried[1]).startswith(b"\0\1\0\0"))
+        options.store_resources_in(str(self.folder / "res"), "res")
+        image.save(str(path), options)
+        stored = re.search(r"src:url\('res/([^']+)'\)", path.read_text("utf-8"))
+        self.assertEqual((self.folder / "res" / stored[1]).read_bytes(), base64.b64decode(carried[1]))
+        options.text_as_shapes = True
+        with self.assertRaisesRegex(RuntimeError, "outlines need no fonts"):
+            image.save(str(path), options)
+
+    def test_the_colours_of_a_scalable_graphic_can_be_grey_or_black(self) -> None:
+        def colors(mode: SvgColorMode) -> set[str]:
+            options = SvgOptions()
+            (options.color_type, options.text_as_shapes) = (mode, False)
+            content = Path(self.write("page.svg", options)).read_text("utf-8")
+            return set(re.findall(r"(?:stroke|fill|stop-color)=\"#([0-9a-f]{6})\"", content))
+
+        self.assertTrue(any(len({c[:2], c[2:4], c[4:]}) > 1 for c in colors(SvgColorMode.RGB)))
+        gray = colors(SvgColorMode.GRAYSCALE)
+        self.assertTrue(len(gray) > 3 and all(c[:2] == c[2:4] == c[4:] for c in gray))
+        self.assertLessEqual(colors(SvgColorMode.BLACK_AND_WHITE), {"000000", "ffffff"})
 
 
 class Meshes(Outputs):

@@ -4,20 +4,23 @@ from __future__ import annotations
 
 import io
 import math
+import struct
 import subprocess
 import sys
 import tempfile
 import unittest
 from pathlib import Path
 
+from drawings import EXAMPLES
 from korvan import cad
-from korvan.cad import CodePages, FileFormat, MatrixOrder, MifCodePages
+from korvan.cad import CodePages, FileFormat, MatrixOrder, MifCodePages, VectorizationMethod
 from korvan.cad.annotations import AnnotationDirection, AnnotationEntityBuilder, IAnnotateable
 from korvan.cad.fileformats import FileFormatFamily, FileFormatInfo, SupportedFileFormats
 from korvan.cad.fileformats.cad import CadImage
 from korvan.cad.fileformats.cad.cadobjects import Cad2DPoint, Cad3DPoint, CadCircle, CadLwPolyline, CadText
 from korvan.cad.fileformats.cad.cadtables import CadLayerTable
-from korvan.cad.imageoptions import DwgOptions
+from korvan.cad.fileformats.cad.cadobjects.hatch import CadHatch
+from korvan.cad.imageoptions import DwgOptions, UnitType
 from korvan.cad.measurement import IMeasurableEntity
 from korvan.cad.primitives import Point2D, Point3D
 from korvan.cad.timeprovision import TimeProvisionType
@@ -292,6 +295,60 @@ class Entities(unittest.TestCase):
         self.assertEqual((again.annotation_service.count, len(again.entities)), (0, 1))
         with self.assertRaisesRegex(RuntimeError, "points to nothing"):
             AnnotationEntityBuilder("x").build()
+
+
+def picture(rows: list[str]) -> io.BytesIO:
+    """A bitmap of 254 pixels an inch, so that a pixel is 0.1 mm; # is black."""
+    stride = (len(rows[0]) * 3 + 3) // 4 * 4
+    lines = [b"".join(b"\0\0\0" if cell == "#" else b"\xff\xff\xff" for cell in row).ljust(stride, b"\0") for row in reversed(rows)]
+    head = struct.pack("<2sIHHIIiiHHIIiiII", b"BM", 54 + stride * len(rows), 0, 0, 54,
+                       40, len(rows[0]), len(rows), 1, 24, 0, stride * len(rows), 10_000, 10_000, 0, 0)
+    return io.BytesIO(head + b"".join(lines))
+
+
+class Tracing(unittest.TestCase):
+    def trace(self, rows: list[str], method: VectorizationMethod, **settings: object) -> CadImage:
+        options = cad.LoadOptions()
+        options.vectorization_options = cad.VectorizationOptions()
+        options.vectorization_options.method = method
+        for name, value in settings.items():
+            part, _, setting = name.partition("__")
+            setattr(getattr(options.vectorization_options, part), setting, value)
+        return CadImage._cast_to(cad.Image.load(picture(rows), options)).value
+
+    def test_outlines_run_around_what_is_dark_and_around_its_holes(self) -> None:
+        ring = ["........", ".######.", ".#....#.", ".#....#.", ".######.", "......#.", "........"]
+        drawing = self.trace(ring, VectorizationMethod.CONTOUR, contour_options__tolerance=0.0, contour_options__fill=True)
+        outer, hole, hatch = drawing.entities
+        measured = [IMeasurableEntity._cast_to(one).value.get_area() for one in (outer, hole)]
+        self.assertAlmostEqual(measured[0], 0.25)  # 24 pixels of the ring and its hole, and the one below
+        self.assertAlmostEqual(measured[1], 0.08)
+        self.assertEqual(len(CadHatch._cast_to(hatch).value.boundary_paths), 2)
+        corners = [(round(p.x, 6), round(p.y, 6)) for p in CadLwPolyline._cast_to(hole).value.coordinates]
+        self.assertEqual(set(corners), {(0.2, 0.3), (0.2, 0.5), (0.6, 0.3), (0.6, 0.5)})
+        self.assertEqual(drawing.unit_type, UnitType.MILLIMETER)
+
+    def test_specks_are_left_out_and_corners_join(self) -> None:
+        steps = ["#....", ".#...", "..#..", "....#"]
+        self.assertEqual(len(self.trace(steps, VectorizationMethod.CONTOUR, contour_options__minimum_area=0).entities), 2)
+        self.assertEqual(len(self.trace(steps, VectorizationMethod.CONTOUR, contour_options__minimum_area=2).entities), 1)
+
+    def test_strokes_become_lines_with_their_weight(self) -> None:
+        bar = ["." * 60] * 5 + ["....." + "#" * 50 + "....."] * 5 + ["." * 60] * 5
+        line, = self.trace(bar, VectorizationMethod.PAPER_TO_CAD).entities
+        length = IMeasurableEntity._cast_to(line).value.get_length()
+        self.assertAlmostEqual(length, 5.0, delta=0.7)  # thinning takes from the ends
+        self.assertEqual(line.line_weight, 50)
+        self.assertEqual({round(p.y, 2) for p in CadLwPolyline._cast_to(line).value.coordinates}, {0.75})
+
+    def test_a_drawing_stays_a_drawing_and_a_picture_without_a_method_a_picture(self) -> None:
+        options = cad.LoadOptions()
+        options.vectorization_options = cad.VectorizationOptions()
+        self.assertTrue(CadImage._is_assignable(cad.Image.load(str(EXAMPLES / "site_plan.dxf"), options)))
+        options.vectorization_options.method = VectorizationMethod.NONE
+        self.assertTrue(cad.RasterImage._is_assignable(cad.Image.load(picture(["#."]), options)))
+        with self.assertRaisesRegex(RuntimeError, "1 to 255"):
+            options.vectorization_options.threshold = 0
 
 
 class Watermarks(unittest.TestCase):

@@ -59,6 +59,14 @@ internal static class RasterSaver
         }
     }
 
+    /// <summary>Writes pixels in a format that holds one page, at the usual resolution.</summary>
+    internal static void Write(PixelGrid pixels, ImageOptionsBase options, Stream output)
+    {
+        const double usual = 96;
+        using var page = new RasterPageData(pixels.Copy(), usual, usual);
+        SinglePageWriters[options.GetType()](page, options, output);
+    }
+
     /// <summary>Hands a stream on that can be read and sought from its first byte, as some formats are written.</summary>
     internal static void Seekable(Stream output, Action<Stream> write)
     {

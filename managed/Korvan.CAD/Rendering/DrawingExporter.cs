@@ -66,6 +66,9 @@ internal static class DrawingExporter
         return result!;
     }
 
+    /// <summary>An engine with the fonts that the drawing was loaded with.</summary>
+    private static TextEngine NewEngine(CadImage image, bool sharp = false) => new(sharp, FontFolders.Of(image.LoadOptions));
+
     private static void WritePdf(CadImage image, PdfOptions options, Stream output)
     {
         if (options.CorePdfOptions is { Compliance: not PdfCompliance.Pdf15 } document)
@@ -73,7 +76,7 @@ internal static class DrawingExporter
             throw new RenderException($"Pages are written as PDF 1.5, not as {document.Compliance}; leave Compliance at Pdf15.");
         }
 
-        using var engine = new TextEngine();
+        using TextEngine engine = NewEngine(image);
         var pages = new PageSource(image, options, engine, DeviceKind.Points, PointsPerInch);
         DocumentInfo info = DocumentInfoReader.Read(image, options);
         VectorDocument.WritePdf(output, engine, pages.Pages(), info);
@@ -81,7 +84,7 @@ internal static class DrawingExporter
 
     private static void WriteSvg(CadImage image, SvgOptions options, Stream output)
     {
-        using var engine = new TextEngine();
+        using TextEngine engine = NewEngine(image);
         var pages = new PageSource(image, options, engine, DeviceKind.UserUnits, PixelsPerInch);
         Page page = pages.SinglePage();
         if (options.TextAsShapes)
@@ -90,7 +93,7 @@ internal static class DrawingExporter
         }
         else
         {
-            SvgTextDocument.Write(output, engine, page);
+            SvgTextDocument.Write(output, engine, page, options);
         }
     }
 
@@ -98,14 +101,14 @@ internal static class DrawingExporter
     private static void WritePage<T>(
         CadImage image, ImageOptionsBase options, Stream output, Action<Stream, TextEngine, Page, T> write, T own)
     {
-        using var engine = new TextEngine();
+        using TextEngine engine = NewEngine(image);
         var pages = new PageSource(image, options, engine, DeviceKind.Points, PointsPerInch);
         write(output, engine, pages.SinglePage(), own);
     }
 
     private static void WriteHtml(CadImage image, Html5Options options, Stream output)
     {
-        using var engine = new TextEngine();
+        using TextEngine engine = NewEngine(image);
         var pages = new PageSource(image, options, engine, DeviceKind.UserUnits, PixelsPerInch);
         HtmlCanvasDocument.Write(output, engine, pages.SinglePage(), options);
     }
@@ -118,15 +121,15 @@ internal static class DrawingExporter
 
     private static RasterPage RasterizeSingle(CadImage image, ImageOptionsBase options)
     {
-        using TextEngine engine = PixelTextEngine(options);
+        using TextEngine engine = PixelTextEngine(image, options);
         var pages = new PageSource(image, options, engine, DeviceKind.Pixels, Resolution(options));
         return RasterPage.Render(engine, pages.SinglePage());
     }
 
-    internal static TextEngine PixelTextEngine(ImageOptionsBase options)
+    internal static TextEngine PixelTextEngine(CadImage image, ImageOptionsBase options)
     {
         TextRenderingHint? hint = options.VectorRasterizationOptions?.GraphicsOptions?.TextRenderingHint;
-        return new TextEngine(hint is TextRenderingHint.SingleBitPerPixel or TextRenderingHint.SingleBitPerPixelGridFit);
+        return NewEngine(image, hint is TextRenderingHint.SingleBitPerPixel or TextRenderingHint.SingleBitPerPixelGridFit);
     }
 
     internal static double Resolution(ImageOptionsBase options) =>

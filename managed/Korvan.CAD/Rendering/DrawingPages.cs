@@ -19,7 +19,7 @@ internal sealed class DrawingPages : IRasterPages, IDisposable
 
     internal DrawingPages(CadImage image, ImageOptionsBase options)
     {
-        engine = DrawingExporter.PixelTextEngine(options);
+        engine = DrawingExporter.PixelTextEngine(image, options);
         horizontal = DrawingExporter.Resolution(options);
         vertical = options.ResolutionSettings?.VerticalResolution ?? horizontal;
         pages = new PageSource(image, options, engine, DeviceKind.Pixels, horizontal);

@@ -2,6 +2,7 @@ using System;
 using System.Globalization;
 using System.IO;
 using System.Text;
+using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.DisplayList;
 using Korvan.CAD.Rendering.Geometry;
 using Korvan.CAD.Rendering.Text;
@@ -19,14 +20,16 @@ internal sealed class SvgTextDocument
 
     private readonly StreamWriter writer;
     private readonly TextEngine engine;
+    private readonly SvgResources resources;
     private readonly StringBuilder path = new();
     private DrawingList list;
     private PaintSettings settings;
     private Affine2 map;
     private int nextId;
 
-    private SvgTextDocument(StreamWriter writer, TextEngine engine, Page page)
+    private SvgTextDocument(StreamWriter writer, TextEngine engine, Page page, SvgResources resources)
     {
+        this.resources = resources;
         this.writer = writer;
         this.engine = engine;
         list = page.List;
@@ -34,10 +37,10 @@ internal sealed class SvgTextDocument
         map = settings.ToDevice;
     }
 
-    internal static void Write(Stream output, TextEngine engine, Page page)
+    internal static void Write(Stream output, TextEngine engine, Page page, SvgOptions options)
     {
         using var writer = new StreamWriter(output, new UTF8Encoding(false), 64 * 1024, leaveOpen: true);
-        new SvgTextDocument(writer, engine, page).WritePage(page);
+        new SvgTextDocument(writer, engine, page, new SvgResources(options)).WritePage(page);
     }
 
     private static string N(double value) => Math.Round(value, 3).ToString("0.###", CultureInfo.InvariantCulture);
@@ -53,6 +56,7 @@ internal sealed class SvgTextDocument
         string height = N(page.Height);
         writer.Write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
         writer.Write($"<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"{width}\" height=\"{height}\" viewBox=\"0 0 {width} {height}\">\n");
+        writer.Write(resources.FontFaces(page.Overlay is null ? [page.List] : [page.List, page.Overlay], engine));
         if (settings.PaintBackground)
         {
             writer.Write($"<rect width=\"{width}\" height=\"{height}\" fill=\"{Rgb(settings.Background)}\"{Opacity("fill-opacity", settings.Background)}/>\n");
@@ -187,11 +191,9 @@ internal sealed class SvgTextDocument
 
     private void WriteImage(PlacedImage image)
     {
-        using var png = new MemoryStream();
-        PngEncoder.Write(image.Width, image.Height, y => image.Pixels.AsSpan(y * image.Width * 4, image.Width * 4), png, 6, 96);
         Affine2 matrix = map * image.Matrix * new Affine2(1, 0, 0, -1, 0, 1);
         writer.Write($"<image width=\"1\" height=\"1\" preserveAspectRatio=\"none\" transform=\"{Matrix(matrix)}\" opacity=\"{N(image.Opacity)}\" ");
-        writer.Write($"href=\"data:image/png;base64,{Convert.ToBase64String(png.GetBuffer(), 0, (int)png.Length)}\"/>\n");
+        writer.Write($"href=\"{Escape(resources.Address(image))}\"/>\n");
     }
 
     private static string Matrix(in Affine2 m)

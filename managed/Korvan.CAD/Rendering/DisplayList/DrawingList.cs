@@ -33,6 +33,9 @@ internal sealed class DrawingList
     private int coordCount;
     private Bounds2 bounds = Bounds2.Empty;
 
+    /// <summary>What becomes of every colour that is drawn with; null to keep them.</summary>
+    internal Func<Rgba, Rgba>? Ink { get; init; }
+
     internal ReadOnlySpan<DisplayItem> Items => items.AsSpan(0, itemCount);
 
     internal IReadOnlyList<string> Layers => layers;
@@ -111,7 +114,9 @@ internal sealed class DrawingList
         if (gradient != null)
         {
             items[index].Extra = gradients.Count;
-            gradients.Add(gradient);
+            gradients.Add(Ink is null
+                ? gradient
+                : gradient with { Stops = Array.ConvertAll(gradient.Stops, stop => stop with { Color = Ink(stop.Color) }) });
         }
     }
 
@@ -136,7 +141,19 @@ internal sealed class DrawingList
 
         ref DisplayItem item = ref NewItem(DisplayKind.Image, default, layer);
         item.Extra = images.Count;
-        images.Add(image);
+        images.Add(Ink is null ? image : Inked(image));
+    }
+
+    private PlacedImage Inked(PlacedImage image)
+    {
+        byte[] pixels = [.. image.Pixels];
+        for (int i = 0; i < pixels.Length; i += 4)
+        {
+            Rgba color = Ink!(new Rgba(pixels[i + 2], pixels[i + 1], pixels[i], 255));
+            (pixels[i], pixels[i + 1], pixels[i + 2]) = (color.B, color.G, color.R);
+        }
+
+        return image with { Pixels = pixels };
     }
 
     /// <summary>Everything up to the matching pop shows only inside the path.</summary>
@@ -189,7 +206,7 @@ internal sealed class DrawingList
         }
 
         ref DisplayItem item = ref items[itemCount++];
-        item = new DisplayItem { Kind = kind, Color = color, Layer = layer, Dash = -1, Extra = -1 };
+        item = new DisplayItem { Kind = kind, Color = Ink?.Invoke(color) ?? color, Layer = layer, Dash = -1, Extra = -1 };
         return ref item;
     }
 

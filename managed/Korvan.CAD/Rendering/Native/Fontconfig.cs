@@ -41,21 +41,74 @@ internal static unsafe partial class Fontconfig
     [LibraryImport(Library, EntryPoint = "FcPatternGetString", StringMarshalling = StringMarshalling.Utf8)]
     private static partial int PatternGetString(nint pattern, string name, int n, out nint value);
 
-    [LibraryImport(Library, EntryPoint = "FcConfigAppFontAddDir", StringMarshalling = StringMarshalling.Utf8)]
-    private static partial int ConfigAppFontAddDir(nint config, string folder);
+    [LibraryImport(Library, EntryPoint = "FcConfigAppFontAddFile", StringMarshalling = StringMarshalling.Utf8)]
+    private static partial int ConfigAppFontAddFile(nint config, string file);
 
-    /// <summary>Makes the fonts of one more folder known to the process.</summary>
-    internal static bool AddFolder(string folder) => ConfigAppFontAddDir(0, folder) != 0;
+    [LibraryImport(Library, EntryPoint = "FcConfigCreate")]
+    private static partial nint ConfigCreate();
 
-    /// <summary>Every installed font as file name (lower case, no folder) and family name.</summary>
-    internal static List<(string File, string Family)> ListFonts()
+    [LibraryImport(Library, EntryPoint = "FcInitLoadConfigAndFonts")]
+    private static partial nint InitLoadConfigAndFonts();
+
+    [LibraryImport(Library, EntryPoint = "FcConfigDestroy")]
+    internal static partial void ConfigDestroy(nint config);
+
+    [LibraryImport(Library, EntryPoint = "FcPatternAddString", StringMarshalling = StringMarshalling.Utf8)]
+    private static partial int PatternAddString(nint pattern, string name, string value);
+
+    [LibraryImport(Library, EntryPoint = "FcPatternAddInteger", StringMarshalling = StringMarshalling.Utf8)]
+    private static partial int PatternAddInteger(nint pattern, string name, int value);
+
+    [LibraryImport(Library, EntryPoint = "FcConfigSubstitute")]
+    private static partial int ConfigSubstitute(nint config, nint pattern, int kind);
+
+    [LibraryImport(Library, EntryPoint = "FcDefaultSubstitute")]
+    private static partial void DefaultSubstitute(nint pattern);
+
+    [LibraryImport(Library, EntryPoint = "FcFontMatch")]
+    private static partial nint FontMatch(nint config, nint pattern, out int result);
+
+    /// <summary>Fonts that are known beside each other: those of the system, unless they are left out, and more.</summary>
+    internal static nint NewConfig(bool withSystem) => withSystem ? InitLoadConfigAndFonts() : ConfigCreate();
+
+    /// <summary>Makes one more font file known; false for what is no font.</summary>
+    internal static bool AddFile(nint config, string file) => ConfigAppFontAddFile(config, file) != 0;
+
+    /// <summary>The file of the font that stands in for the families of a list, or null when there is no font.</summary>
+    internal static string? FileOf(nint config, string families, bool bold, bool italic)
+    {
+        const int boldWeight = 200, regularWeight = 80, italicSlant = 100;
+        nint pattern = PatternCreate();
+        foreach (string family in families.Split(',', System.StringSplitOptions.TrimEntries))
+        {
+            PatternAddString(pattern, "family", family);
+        }
+
+        PatternAddInteger(pattern, "weight", bold ? boldWeight : regularWeight);
+        PatternAddInteger(pattern, "slant", italic ? italicSlant : 0);
+        ConfigSubstitute(config, pattern, 0);
+        DefaultSubstitute(pattern);
+        nint match = FontMatch(config, pattern, out _);
+        string? file = match == 0 ? null : GetString(match, "file");
+        PatternDestroy(pattern);
+        if (match != 0)
+        {
+            PatternDestroy(match);
+        }
+
+        return file;
+    }
+
+    /// <summary>Every font of a configuration (0 for that of the system) as file name (lower case, no folder) and family
+    /// name.</summary>
+    internal static List<(string File, string Family)> ListFonts(nint config = 0)
     {
         var result = new List<(string, string)>();
         nint pattern = PatternCreate();
         nint objects = ObjectSetCreate();
         ObjectSetAdd(objects, "file");
         ObjectSetAdd(objects, "family");
-        FontSet* set = FontList(0, pattern, objects);
+        FontSet* set = FontList(config, pattern, objects);
         for (int i = 0; set != null && i < set->Count; i++)
         {
             string? file = GetString(set->Fonts[i], "file");

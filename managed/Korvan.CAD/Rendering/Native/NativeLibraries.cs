@@ -12,6 +12,7 @@ internal static class NativeLibraries
         (Pango.ObjectLibrary, "libglib2.0-0"),
         (Pango.Library, "libpango-1.0-0"),
         (Pango.CairoLibrary, "libpangocairo-1.0-0"),
+        (Pango.FreeTypeLibrary, "libpangoft2-1.0-0"),
     ];
 
     private static volatile bool found;

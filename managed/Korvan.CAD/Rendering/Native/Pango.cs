@@ -17,6 +17,7 @@ internal static unsafe partial class Pango
 {
     internal const string Library = "libpango-1.0.so.0";
     internal const string CairoLibrary = "libpangocairo-1.0.so.0";
+    internal const string FreeTypeLibrary = "libpangoft2-1.0.so.0";
     internal const string ObjectLibrary = "libgobject-2.0.so.0";
     internal const int Scale = 1024;
 
@@ -25,6 +26,9 @@ internal static unsafe partial class Pango
 
     [LibraryImport(CairoLibrary, EntryPoint = "pango_cairo_font_map_new")]
     internal static partial nint CairoFontMapNew();
+
+    [LibraryImport(FreeTypeLibrary, EntryPoint = "pango_fc_font_map_set_config")]
+    internal static partial void FcFontMapSetConfig(nint fontMap, nint config);
 
     [LibraryImport(CairoLibrary, EntryPoint = "pango_cairo_context_set_font_options")]
     internal static partial void CairoContextSetFontOptions(nint context, nint options);

@@ -4,6 +4,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.ImageOptions.SvgOptionsParameters;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.DisplayList;
 using Korvan.CAD.Rendering.Geometry;
@@ -89,6 +90,7 @@ internal sealed class ExportOptions
         return new RenderStyle
         {
             Background = Background,
+            Ink = Ink,
             SingleColor = single ? ToRgba(cad!.DrawColor) : null,
             Layers = LayerFilter(),
             AsPlotted = cad != null && cad.VisibilityMode == VisibilityMode.AsPrint,
@@ -99,6 +101,15 @@ internal sealed class ExportOptions
             Checkpoint = Deadline(),
         };
     }
+
+    internal Func<Rgba, Rgba>? Ink => (options as SvgOptions)?.ColorType switch
+    {
+        SvgColorMode.Grayscale => static color => Gray(color, color.Luma),
+        SvgColorMode.BlackAndWhite => color => Gray(color, color.Luma >= Background.Luma ? (byte)255 : (byte)0),
+        _ => null,
+    };
+
+    private static Rgba Gray(Rgba color, byte tone) => new(tone, tone, tone, color.A);
 
     internal PageRequest Request()
     {

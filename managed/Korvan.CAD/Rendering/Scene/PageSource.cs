@@ -124,7 +124,7 @@ internal sealed class PageSource
             return null;
         }
 
-        var list = new DrawingList();
+        var list = new DrawingList { Ink = options.Ink };
         int font = engine.Font(FontSpec.Default with { Bold = true });
         double diagonal = Math.Sqrt((place.Width * place.Width) + (place.Height * place.Height));
         double advance = Math.Max(0.1, engine.Advance(font, options.Watermark));

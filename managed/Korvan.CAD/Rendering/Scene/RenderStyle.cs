@@ -13,6 +13,9 @@ internal sealed record RenderStyle
     /// <summary>Everything in this colour, or null for the objects' own.</summary>
     internal Rgba? SingleColor { get; init; }
 
+    /// <summary>What becomes of every colour in the end; null to keep them.</summary>
+    internal Func<Rgba, Rgba>? Ink { get; init; }
+
     /// <summary>Layers to draw; null for all.</summary>
     internal IReadOnlySet<string>? Layers { get; init; }
 

@@ -31,7 +31,7 @@ internal sealed partial class SceneBuilder
     {
         this.tables = tables;
         this.style = style;
-        canvas = new Canvas(new DrawingList(), engine) { StyleFont = name => tables.Style(name).Font };
+        canvas = new Canvas(new DrawingList { Ink = style.Ink }, engine) { StyleFont = name => tables.Style(name).Font };
         pens = new PenResolver(tables, style, canvas.List, onPaper);
     }
 

@@ -28,6 +28,7 @@ internal sealed unsafe class TextEngine : IDisposable
     private readonly List<double> capRatios = [];
     private readonly Dictionary<FontSpec, int> fonts = [];
     private readonly Dictionary<(int Font, string Text, double Spacing), double> advances = [];
+    private readonly FontFolders? folders;
     private nint fontMap;
     private nint context;
     private nint layout;
@@ -36,11 +37,18 @@ internal sealed unsafe class TextEngine : IDisposable
     private string? currentText;
     private double currentSpacing;
 
-    /// <summary>An engine; sharp ones draw letters without grey edges.</summary>
-    internal TextEngine(bool sharp = false)
+    /// <summary>An engine; sharp ones draw letters without grey edges. Fonts of other folders than those of the system
+    /// are taken over, and released with the engine.</summary>
+    internal TextEngine(bool sharp = false, FontFolders? folders = null)
     {
         NativeLibraries.Require();
+        this.folders = folders;
         fontMap = Pango.CairoFontMapNew();
+        if (folders is not null)
+        {
+            Pango.FcFontMapSetConfig(fontMap, folders.Config);
+        }
+
         context = Pango.FontMapCreateContext(fontMap);
         Pango.CairoContextSetResolution(context, 72);
         Pango.ContextSetRoundGlyphPositions(context, 0);
@@ -150,6 +158,14 @@ internal sealed unsafe class TextEngine : IDisposable
         Release(ref layout);
         Release(ref context);
         Release(ref fontMap);
+        folders?.Dispose();
+    }
+
+    /// <summary>The file of the font that is used for a face, or null when there is no font at all.</summary>
+    internal string? FileOf(int font)
+    {
+        FontSpec spec = specs[font];
+        return Fontconfig.FileOf(folders?.Config ?? 0, folders?.Resolve(spec.Family) ?? spec.Family, spec.Bold, spec.Italic);
     }
 
     private static void Release(ref nint instance)
@@ -161,10 +177,10 @@ internal sealed unsafe class TextEngine : IDisposable
         }
     }
 
-    private static nint Describe(FontSpec spec)
+    private nint Describe(FontSpec spec)
     {
         nint description = Pango.FontDescriptionNew();
-        Pango.FontDescriptionSetFamily(description, spec.Family);
+        Pango.FontDescriptionSetFamily(description, folders?.Resolve(spec.Family) ?? spec.Family);
         Pango.FontDescriptionSetWeight(description, spec.Bold ? BoldWeight : NormalWeight);
         Pango.FontDescriptionSetStyle(description, spec.Italic ? ItalicStyle : 0);
         Pango.FontDescriptionSetAbsoluteSize(description, EmSize * Pango.Scale);

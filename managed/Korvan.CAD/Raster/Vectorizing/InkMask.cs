@@ -1,0 +1,57 @@
+using System;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Raster.Operations;
+
+namespace Korvan.CAD.Raster.Vectorizing;
+
+/// <summary>Which pixels of a picture are dark, with a frame of light ones, so that every pixel has neighbours.</summary>
+internal sealed class InkMask
+{
+    private const long MostPixels = 200_000_000;
+    private const int Paper = -1;
+
+    private readonly byte[] _cells;
+
+    private InkMask(int width, int height)
+    {
+        Width = width;
+        Height = height;
+        Stride = width + 2;
+        _cells = new byte[Stride * (height + 2)];
+    }
+
+    internal int Width { get; }
+
+    internal int Height { get; }
+
+    /// <summary>Cells from one line to the next.</summary>
+    internal int Stride { get; }
+
+    /// <summary>1 for dark pixels; line by line, the frame included.</summary>
+    internal Span<byte> Cells => _cells;
+
+    internal static InkMask Of(PixelGrid pixels, int threshold)
+    {
+        if ((long)(pixels.Width + 2) * (pixels.Height + 2) > MostPixels)
+        {
+            throw new LimitMemoryException(
+                $"A picture of {pixels.Width} × {pixels.Height} pixels is too large to be traced; at most {MostPixels} pixels are.");
+        }
+
+        int least = threshold < 0 ? Binarization.OtsuThreshold(pixels) : threshold;
+        var mask = new InkMask(pixels.Width, pixels.Height);
+        for (int y = 0; y < pixels.Height; y++)
+        {
+            ReadOnlySpan<int> row = pixels.Row(y);
+            Span<byte> cells = mask.Cells.Slice(mask.At(0, y), row.Length);
+            for (int x = 0; x < row.Length; x++)
+            {
+                cells[x] = PixelGrid.Luma(PixelGrid.Over(row[x], Paper)) < least ? (byte)1 : (byte)0;
+            }
+        }
+
+        return mask;
+    }
+
+    internal int At(int x, int y) => ((y + 1) * Stride) + x + 1;
+}

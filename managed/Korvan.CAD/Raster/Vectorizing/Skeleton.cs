@@ -1,0 +1,235 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.Rendering.Geometry;
+
+namespace Korvan.CAD.Raster.Vectorizing;
+
+/// <summary>A stroke: points in the middle of pixels, y down, and its mean width in pixels.</summary>
+internal sealed record TracedStroke(List<Vec2> Points, double Width, bool IsClosed);
+
+/// <summary>
+/// Thins strokes to lines of one pixel (T. Y. Zhang and C. Y. Suen, A fast parallel algorithm for thinning digital
+/// patterns, 1984) and follows these from end to end and from junction to junction.
+/// </summary>
+internal sealed class Skeleton
+{
+    private const int MostRounds = 200;
+
+    private readonly InkMask _mask;
+    private readonly int[] _around;
+    private readonly ushort[] _depth;
+    private readonly HashSet<(int, int)> _walked = [];
+
+    private Skeleton(InkMask mask)
+    {
+        _mask = mask;
+        int s = mask.Stride;
+        _around = [-s, -s + 1, 1, s + 1, s, s - 1, -1, -s - 1];
+        _depth = Depths(mask);
+    }
+
+    /// <summary>The strokes; spurs with a free end that are shorter than what is asked for are left out. The mask is
+    /// used up.</summary>
+    internal static List<TracedStroke> Trace(InkMask mask, double leastSpur)
+    {
+        var skeleton = new Skeleton(mask);
+        skeleton.Thin();
+        return skeleton.Follow(leastSpur);
+    }
+
+    /// <summary>How many steps each dark pixel lies from the next light one (chessboard distance, two passes).</summary>
+    private static ushort[] Depths(InkMask mask)
+    {
+        ReadOnlySpan<byte> cells = mask.Cells;
+        var depth = new ushort[cells.Length];
+        int s = mask.Stride;
+        for (int i = s + 1; i < cells.Length - s - 1; i++)
+        {
+            int nearest = Math.Min(Math.Min(depth[i - 1], depth[i - s]), Math.Min(depth[i - s - 1], depth[i - s + 1]));
+            depth[i] = cells[i] == 0 ? (ushort)0 : (ushort)Math.Min(nearest + 1, ushort.MaxValue);
+        }
+
+        for (int i = cells.Length - s - 2; i > s; i--)
+        {
+            int nearest = Math.Min(Math.Min(depth[i + 1], depth[i + s]), Math.Min(depth[i + s + 1], depth[i + s - 1]));
+            depth[i] = (ushort)Math.Min(depth[i], cells[i] == 0 ? 0 : nearest + 1);
+        }
+
+        return depth;
+    }
+
+    private void Thin()
+    {
+        Span<byte> cells = _mask.Cells;
+        List<int> ink = [];
+        for (int i = 0; i < cells.Length; i++)
+        {
+            if (cells[i] != 0)
+            {
+                ink.Add(i);
+            }
+        }
+
+        List<int> gone = [];
+        for (int round = 0; round < MostRounds; round++)
+        {
+            int before = ink.Count;
+            for (int phase = 0; phase < 2; phase++)
+            {
+                gone.Clear();
+                foreach (int cell in ink)
+                {
+                    if (CanGo(cells, cell, phase))
+                    {
+                        gone.Add(cell);
+                    }
+                }
+
+                foreach (int cell in gone)
+                {
+                    cells[cell] = 0;
+                }
+
+                ink.RemoveAll(cell => _mask.Cells[cell] == 0);
+            }
+
+            if (ink.Count == before)
+            {
+                return;
+            }
+        }
+    }
+
+    /// <summary>The conditions of the method: neighbours p2 to p9 run clockwise from above.</summary>
+    private bool CanGo(ReadOnlySpan<byte> cells, int cell, int phase)
+    {
+        int count = 0;
+        int changes = 0;
+        for (int i = 0; i < 8; i++)
+        {
+            int here = cells[cell + _around[i]];
+            count += here;
+            changes += here == 0 && cells[cell + _around[(i + 1) % 8]] == 1 ? 1 : 0;
+        }
+
+        if (count is < 2 or > 6 || changes != 1)
+        {
+            return false;
+        }
+
+        int up = cells[cell + _around[0]], right = cells[cell + _around[2]], down = cells[cell + _around[4]], left = cells[cell + _around[6]];
+        return phase == 0
+            ? up * right * down == 0 && right * down * left == 0
+            : up * right * left == 0 && up * down * left == 0;
+    }
+
+    private List<TracedStroke> Follow(double leastSpur)
+    {
+        List<TracedStroke> strokes = [];
+        Span<byte> cells = _mask.Cells;
+        for (int pass = 0; pass < 2; pass++)
+        {
+            for (int i = 0; i < cells.Length; i++)
+            {
+                // Ends and junctions first; what is left then are rings.
+                while (cells[i] == 1 && (pass == 1 || Neighbours(i) != 2) && Walk(i) is { } line)
+                {
+                    bool free = !line.IsClosed && (line.StartsFree || line.EndsFree);
+                    if (!free || Length(line.Cells) >= leastSpur)
+                    {
+                        strokes.Add(Stroke(line.Cells, line.IsClosed));
+                    }
+                }
+            }
+        }
+
+        return strokes;
+    }
+
+    private int Neighbours(int cell)
+    {
+        int count = 0;
+        foreach (int step in _around)
+        {
+            count += _mask.Cells[cell + step] != 0 && !IsShortcut(cell, step) ? 1 : 0;
+        }
+
+        return count;
+    }
+
+    /// <summary>A diagonal beside a straight neighbour of both ends says nothing new.</summary>
+    private bool IsShortcut(int cell, int step)
+    {
+        int s = _mask.Stride;
+        foreach ((int diagonal, int across, int along) in (ReadOnlySpan<(int, int, int)>)[(-s + 1, 1, -s), (s + 1, 1, s), (s - 1, -1, s), (-s - 1, -1, -s)])
+        {
+            if (step == diagonal)
+            {
+                return _mask.Cells[cell + across] != 0 || _mask.Cells[cell + along] != 0;
+            }
+        }
+
+        return false;
+    }
+
+    private sealed record Way(List<int> Cells, bool IsClosed, bool StartsFree, bool EndsFree);
+
+    /// <summary>Follows one way that was not walked yet; null when there is none from here.</summary>
+    private Way? Walk(int start)
+    {
+        List<int> line = [start];
+        int next = Unwalked(start);
+        while (next >= 0)
+        {
+            _walked.Add((Math.Min(line[^1], next), Math.Max(line[^1], next)));
+            line.Add(next);
+            next = next == start || Neighbours(next) != 2 ? -1 : Unwalked(next);
+        }
+
+        return line.Count < 2 ? null : new Way(line, line[^1] == start, Neighbours(start) == 1, Neighbours(line[^1]) == 1);
+    }
+
+    private int Unwalked(int cell)
+    {
+        foreach (int step in _around)
+        {
+            int next = cell + step;
+            if (_mask.Cells[next] != 0 && !IsShortcut(cell, step) && !_walked.Contains((Math.Min(cell, next), Math.Max(cell, next))))
+            {
+                return next;
+            }
+        }
+
+        return -1;
+    }
+
+    private double Length(List<int> cells)
+    {
+        double length = 0;
+        for (int i = 1; i < cells.Count; i++)
+        {
+            int step = Math.Abs(cells[i] - cells[i - 1]);
+            length += step == 1 || step == _mask.Stride ? 1 : Math.Sqrt(2);
+        }
+
+        return length;
+    }
+
+    private TracedStroke Stroke(List<int> cells, bool closed)
+    {
+        double depths = 0;
+        List<Vec2> points = new(cells.Count);
+        foreach (int cell in cells)
+        {
+            depths += _depth[cell];
+            points.Add(new Vec2((cell % _mask.Stride) - 0.5, (cell / _mask.Stride) - 0.5));
+        }
+
+        if (closed)
+        {
+            points.RemoveAt(points.Count - 1);
+        }
+
+        return new TracedStroke(points, Math.Max(1, (2 * depths / cells.Count) - 1), closed);
+    }
+}

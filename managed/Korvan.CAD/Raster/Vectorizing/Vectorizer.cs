@@ -1,0 +1,103 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
+using Korvan.CAD.Rendering.Geometry;
+
+namespace Korvan.CAD.Raster.Vectorizing;
+
+/// <summary>Makes a drawing of a picture.</summary>
+internal sealed class Vectorizer
+{
+    private const double MillimetresPerInch = 25.4;
+    private const double UsualResolution = 96;
+    private const int Millimetres = 4;
+
+    /// <summary>The line weights that drawings can have, in hundredths of a millimetre.</summary>
+    private static readonly short[] Weights =
+        [0, 5, 9, 13, 15, 18, 20, 25, 30, 35, 40, 50, 53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211];
+
+    private readonly VectorizationOptions _options;
+    private readonly DxfImage _drawing = new();
+    private readonly double _unit;
+    private readonly int _height;
+
+    private Vectorizer(RasterImage picture, VectorizationOptions options)
+    {
+        _options = options;
+        double resolution = options.DotsPerInch > 0 ? options.DotsPerInch : picture.HorizontalResolution;
+        _unit = MillimetresPerInch / (resolution > 0 ? resolution : UsualResolution);
+        _height = picture.Height;
+        _drawing.Header.InsUnits = Millimetres;
+    }
+
+    internal static DxfImage Trace(RasterImage picture, VectorizationOptions options)
+    {
+        var tracer = new Vectorizer(picture, options);
+        if ((options.Method & VectorizationMethod.Contour) != 0)
+        {
+            tracer.AddContours(InkMask.Of(picture.Pixels, options.Threshold));
+        }
+
+        if ((options.Method & VectorizationMethod.PaperToCad) != 0)
+        {
+            tracer.AddStrokes(InkMask.Of(picture.Pixels, options.Threshold));
+        }
+
+        return tracer._drawing;
+    }
+
+    private void AddContours(InkMask mask)
+    {
+        ContourOptions options = _options.ContourOptions;
+        var hatch = new CadHatch { LayerName = _options.LayerName };
+        foreach (List<Vec2> contour in ContourTracer.Trace(mask))
+        {
+            if (Math.Abs(Polygons.SignedArea(contour.ToArray())) < options.MinimumArea)
+            {
+                continue;
+            }
+
+            List<Cad2DPoint> points = Simplifier.Ring(contour, options.Tolerance).ConvertAll(Placed);
+            Add(points, closed: true, weight: -1);
+            hatch.BoundaryPaths.Add(Boundary(points));
+        }
+
+        if (options.Fill && hatch.BoundaryPaths.Count > 0)
+        {
+            _drawing.AddEntity(hatch);
+        }
+    }
+
+    private void AddStrokes(InkMask mask)
+    {
+        PaperToCadOptions options = _options.PaperToCadOptions;
+        foreach (TracedStroke stroke in Skeleton.Trace(mask, options.MinimumLength))
+        {
+            List<Vec2> line = stroke.IsClosed ? Simplifier.Ring(stroke.Points, options.Tolerance) : Simplifier.Open(stroke.Points, options.Tolerance);
+            double hundredths = stroke.Width * _unit * 100;
+            short weight = Weights.MinBy(one => Math.Abs(one - hundredths));
+            Add(line.ConvertAll(Placed), stroke.IsClosed, options.KeepLineWeights ? weight : (short)-1);
+        }
+    }
+
+    private Cad2DPoint Placed(Vec2 p) => new(p.X * _unit, (_height - p.Y) * _unit);
+
+    private void Add(List<Cad2DPoint> points, bool closed, short weight)
+    {
+        var line = new CadLwPolyline { LayerName = _options.LayerName, LineWeight = weight };
+        line.Flag = closed ? CadLwPolylineFlag.Closed : CadLwPolylineFlag.None;
+        line.Coordinates.AddRange(points);
+        _drawing.AddEntity(line);
+    }
+
+    private static CadHatchBoundaryPathContainer Boundary(List<Cad2DPoint> points)
+    {
+        var path = new CadPolylineBoundaryPath();
+        path.Vertices.AddRange(points.ConvertAll(p => new Cad2DPoint(p.X, p.Y)));
+        return new CadHatchBoundaryPathContainer(path) { PathTypeFlag = CadBoundaryPathTypeFlag.Polyline };
+    }
+}

@@ -1,0 +1,103 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using Korvan.CAD.Rendering.Native;
+
+namespace Korvan.CAD.Rendering.Text;
+
+/// <summary>Fonts of folders that a caller names. They are known to one text engine alone, not to the process.</summary>
+internal sealed class FontFolders : IDisposable
+{
+    private static readonly EnumerationOptions TopOnly = new() { IgnoreInaccessible = true };
+    private static readonly EnumerationOptions WholeTree = new() { IgnoreInaccessible = true, RecurseSubdirectories = true, MaxRecursionDepth = 32 };
+
+    private readonly Dictionary<string, string> _families = new(StringComparer.OrdinalIgnoreCase);
+
+    private FontFolders(bool withSystem)
+    {
+        Config = Fontconfig.NewConfig(withSystem);
+    }
+
+    /// <summary>Gets the fonts that an engine knows, as fontconfig has them.</summary>
+    internal nint Config { get; private set; }
+
+    /// <summary>The fonts that the options name, or null when they name no folder.</summary>
+    internal static FontFolders? Of(LoadOptions options)
+    {
+        NativeLibraries.Require();
+        if (options.CustomFontFolders.Length == 0)
+        {
+            return null;
+        }
+
+        var folders = new FontFolders((options.CustomFontFolderOptions & CustomFontFolderOptions.IgnoreSystemFonts) == 0);
+        try
+        {
+            folders.Fill(options);
+            return folders;
+        }
+        catch
+        {
+            folders.Dispose();
+            throw;
+        }
+    }
+
+    /// <summary>A list of families; where the first is the name of a file of the folders, its family instead.</summary>
+    internal string Resolve(string families)
+    {
+        int end = families.IndexOf(',', StringComparison.Ordinal);
+        string first = end < 0 ? families : families[..end];
+        return _families.TryGetValue(first.Trim(), out string? family) ? family + "," + families : families;
+    }
+
+    public void Dispose()
+    {
+        if (Config != 0)
+        {
+            Fontconfig.ConfigDestroy(Config);
+            Config = 0;
+        }
+    }
+
+    private void Fill(LoadOptions options)
+    {
+        bool deep = (options.CustomFontFolderOptions & CustomFontFolderOptions.IncludeSubfolders) != 0;
+        HashSet<string> files = new(StringComparer.OrdinalIgnoreCase);
+        foreach (string folder in options.CustomFontFolders)
+        {
+            AddFolder(folder, deep ? WholeTree : TopOnly, files);
+        }
+
+        if (files.Count == 0)
+        {
+            throw new RenderException(
+                $"There are no fonts in the custom folders {string.Join(", ", options.CustomFontFolders)}"
+                + (deep ? "." : "; folders within them are searched with IncludeSubfolders."));
+        }
+
+        foreach ((string file, string family) in Fontconfig.ListFonts(Config))
+        {
+            if (files.Contains(file))
+            {
+                _families.TryAdd(Path.GetFileNameWithoutExtension(file), family);
+            }
+        }
+    }
+
+    private void AddFolder(string folder, EnumerationOptions search, HashSet<string> files)
+    {
+        if (!Directory.Exists(folder))
+        {
+            throw new RenderException($"The custom folder of fonts '{folder}' does not exist.");
+        }
+
+        foreach (string file in Directory.EnumerateFiles(folder, "*", search))
+        {
+            if (Path.GetExtension(file).ToLowerInvariant() is ".ttf" or ".otf" or ".ttc" or ".pfb" && Fontconfig.AddFile(Config, file))
+            {
+                files.Add(Path.GetFileName(file));
+            }
+        }
+    }
+}
