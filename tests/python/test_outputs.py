@@ -32,9 +32,13 @@ from korvan.cad.imageoptions import (
     GltfOptions,
     Html5Options,
     ImageOptionsBase,
+    JpegOptions,
     ObjOptions,
+    PdfDigitalSignatureDetailsCore,
+    PdfDocumentOptions,
     PdfOptions,
     PngOptions,
+    RdOptimizerSettings,
     RenderErrorCode,
     StlOptions,
     SvgOptions,
@@ -177,6 +181,32 @@ class Pages(Outputs):
         options.text_as_shapes = True
         page = Path(self.write("page.html", options, drawing)).read_text(encoding="utf-8")
         self.assertEqual(page.count("Z"), 600)  # each letter is a ring with a hole
+
+    @needs_tools("openssl", "pdfsig")
+    def test_a_portable_document_is_signed_with_a_certificate(self) -> None:
+        key, cert, pfx = (str(self.folder / name) for name in ("key.pem", "cert.pem", "office.pfx"))
+        tool("openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "9", "-subj", "/CN=Office", "-keyout", key, "-out", cert)
+        tool("openssl", "pkcs12", "-export", "-inkey", key, "-in", cert, "-passout", "pass:open", "-out", pfx)
+        options = PdfOptions()
+        options.core_pdf_options = PdfDocumentOptions()
+        for details in (PdfDigitalSignatureDetailsCore(pfx, "open"), PdfDigitalSignatureDetailsCore(Path(pfx).read_bytes(), "open")):
+            options.core_pdf_options.digital_signature_details = details
+            report = tool("pdfsig", "-nocert", self.write("page.pdf", options))
+            self.assertIn("Signature is Valid", report)
+            self.assertIn("Common Name: Office", report)
+
+    def test_the_best_quality_is_found_for_the_room_that_a_picture_may_take(self) -> None:
+        options = on_page(JpegOptions())
+        sizes = []
+        for most in (0.6, 1.2, 100.0):
+            options.rd_opt_settings = RdOptimizerSettings()
+            options.rd_opt_settings.bpp_max = most
+            sizes.append(Path(self.write("page.jpg", options)).stat().st_size)
+            self.assertLessEqual(sizes[-1] * 8, most * SIZE[0] * SIZE[1] + 8 * 1000)  # heads are beside the pixels
+        self.assertEqual(sizes, sorted(set(sizes)))
+        options.rd_opt_settings.bpp_max = 0.01
+        with self.assertRaisesRegex(RuntimeError, "At quality 10 the picture takes"):
+            self.write("page.jpg", options)
 
     def test_what_was_not_drawn_is_told(self) -> None:
         options = PdfOptions()

@@ -28,6 +28,10 @@ public class JpegOptions : ImageOptionsBase
         }
     }
 
+    /// <summary>Gets or sets how much room the picture may take: the best quality that keeps to it goes before
+    /// <see cref="Quality"/>. Nothing by default.</summary>
+    public RdOptimizerSettings? RdOptSettings { get; set; }
+
     /// <summary>Gets or sets the order in which the picture is stored.</summary>
     public JpegCompressionMode CompressionType { get; set; }
 

@@ -6,6 +6,7 @@ using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Pdf;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Rendering.Devices;
@@ -79,7 +80,15 @@ internal static class DrawingExporter
         using TextEngine engine = NewEngine(image);
         var pages = new PageSource(image, options, engine, DeviceKind.Points, PointsPerInch);
         DocumentInfo info = DocumentInfoReader.Read(image, options);
-        VectorDocument.WritePdf(output, engine, pages.Pages(), info);
+        if (options.CorePdfOptions?.DigitalSignatureDetails is not { } signature)
+        {
+            VectorDocument.WritePdf(output, engine, pages.Pages(), info);
+            return;
+        }
+
+        using var unsigned = new MemoryStream();
+        VectorDocument.WritePdf(unsigned, engine, pages.Pages(), info);
+        PdfSigner.Write(unsigned.ToArray(), signature, output);
     }
 
     private static void WriteSvg(CadImage image, SvgOptions options, Stream output)

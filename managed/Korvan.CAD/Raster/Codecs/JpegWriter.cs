@@ -13,7 +13,8 @@ internal static class JpegWriter
     internal static void Write(RasterPageData page, JpegOptions options, Stream output)
     {
         bool progressive = options.CompressionType == JpegCompressionMode.Progressive;
-        byte[] jpeg = JpegCodec.Compress(page.Pixels, options.ColorType, options.Quality, progressive);
+        byte[] Compress(int quality) => JpegCodec.Compress(page.Pixels, options.ColorType, quality, progressive);
+        byte[] jpeg = options.RdOptSettings?.Optimize(page.Pixels.Count, Compress) ?? Compress(options.Quality);
         JpegSegments.Write(jpeg, Segments(page, options), output);
     }
 
