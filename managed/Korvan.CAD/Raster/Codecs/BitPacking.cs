@@ -1,4 +1,5 @@
 using System;
+using System.Runtime.Intrinsics;
 
 namespace Korvan.CAD.Raster.Codecs;
 
@@ -48,7 +49,8 @@ internal static class BitPacking
     /// <summary>Red, green and blue, with opacity where there are four samples; perhaps multiplied by it.</summary>
     internal static void Rgb(ReadOnlySpan<int> pixels, Span<byte> row, int samples, bool multiplied = false)
     {
-        for (int i = 0, o = 0; i < pixels.Length; i++, o += samples)
+        int done = multiplied ? 0 : RgbInBlocks(pixels, row, samples);
+        for (int i = done, o = done * samples; i < pixels.Length; i++, o += samples)
         {
             int pixel = pixels[i];
             int alpha = pixel >>> 24;
@@ -65,6 +67,22 @@ internal static class BitPacking
                 row[o + 3] = (byte)alpha;
             }
         }
+    }
+
+    /// <summary>Packs four pixels at once, as long as sixteen bytes of the row are left; gives how many were packed.</summary>
+    private static int RgbInBlocks(ReadOnlySpan<int> pixels, Span<byte> row, int samples)
+    {
+        Vector128<byte> order = samples == 4
+            ? Vector128.Create((byte)2, 1, 0, 3, 6, 5, 4, 7, 10, 9, 8, 11, 14, 13, 12, 15)
+            : Vector128.Create((byte)2, 1, 0, 6, 5, 4, 10, 9, 8, 14, 13, 12, 255, 255, 255, 255);
+        int i = 0;
+        for (; i + 4 <= pixels.Length && (i * samples) + 16 <= row.Length; i += 4)
+        {
+            Vector128<byte> block = Vector128.Create(pixels[i..]).AsByte();
+            Vector128.Shuffle(block, order).CopyTo(row[(i * samples)..]);
+        }
+
+        return i;
     }
 
     /// <summary>Cyan, magenta, yellow and black.</summary>
