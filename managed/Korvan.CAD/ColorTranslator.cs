@@ -26,7 +26,8 @@ public static class ColorTranslator
             digits = string.Concat(Array.ConvertAll(digits.ToCharArray(), static c => new string(c, 2)));
         }
 
-        if (digits.Length is not (6 or 8) || !uint.TryParse(digits, NumberStyles.AllowHexSpecifier, CultureInfo.InvariantCulture, out uint value))
+        bool isNumber = uint.TryParse(digits, NumberStyles.AllowHexSpecifier, CultureInfo.InvariantCulture, out uint value);
+        if (digits.Length is not (6 or 8) || !isNumber)
         {
             throw new FrameworkException($"'{htmlColor}' is no colour; a number sign and 3, 4, 6 or 8 hexadecimal digits make one.");
         }

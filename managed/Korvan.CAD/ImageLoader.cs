@@ -79,7 +79,8 @@ internal static class ImageLoader
                 : format == FileFormat.Undefined
                 ? "is of no known format; its first bytes are not those of a drawing interchange file"
                 : $"is of format {format}, which cannot be read yet";
-            throw new ImageLoadException($"'{name}' {what}. Drawing interchange files (DXF), building models (IFC) and the usual pictures can be read.");
+            throw new ImageLoadException(
+                $"'{name}' {what}. Drawing interchange files (DXF), building models (IFC) and the usual pictures can be read.");
         }
 
         Image image = format switch

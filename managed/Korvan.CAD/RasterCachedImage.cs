@@ -85,6 +85,11 @@ public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader
     {
         VerifyNotDisposed();
         int[] palette = Raster.Colors.DitherPalette.For(_pixels, bitsCount, customPalette);
+        if (Array.TrueForAll(palette, PixelGrid.IsGray))
+        {
+            Raster.Operations.Tones.Grayscale(_pixels); // lightness decides, not the mean of red, green and blue
+        }
+
         Raster.Colors.Ditherer.Apply(_pixels, palette, ditheringMethod);
         Palette = new ColorPalette(palette);
     }

@@ -46,7 +46,8 @@ public abstract partial class RasterImage
         Replace(Resampler.Resize(Pixels, newWidth, newHeight, settings.Mode, settings.BackgroundColor.ToArgb()));
         if (settings.EntriesCount > 0)
         {
-            IColorPalette palette = ColorPaletteHelper.GetCloseImagePalette(this, settings.EntriesCount, settings.ColorQuantizationMethod);
+            IColorPalette palette = ColorPaletteHelper.GetCloseImagePalette(
+                this, settings.EntriesCount, settings.ColorQuantizationMethod);
             Raster.Colors.Ditherer.Apply(Pixels, palette.Argb32Entries, DitheringMethod.Threshold);
             Palette = palette;
         }

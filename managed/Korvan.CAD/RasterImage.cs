@@ -111,8 +111,9 @@ public abstract partial class RasterImage
         {
             RasterImage page = all ? image.GetPage(index) : image;
             ResolutionSetting? set = options.ResolutionSettings;
-            return new RasterPageData(
-                page.Pixels.Copy(), set?.HorizontalResolution ?? page.HorizontalResolution, set?.VerticalResolution ?? page.VerticalResolution)
+            double across = set?.HorizontalResolution ?? page.HorizontalResolution;
+            double down = set?.VerticalResolution ?? page.VerticalResolution;
+            return new RasterPageData(page.Pixels.Copy(), across, down)
             {
                 Exif = image.ExifData,
                 Xmp = image.XmpData,

@@ -1,5 +1,6 @@
 using System;
 using System.Buffers.Binary;
+using System.Runtime.InteropServices;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Raster.Codecs;
 
@@ -60,12 +61,15 @@ internal class ColorConverters : IColorConverter
             PixelFormat.Grayscale => Gray(format),
             PixelFormat.Cmyk => new(format, FromInks, BitPacking.Inks),
             PixelFormat.Rgb when format.BitsPerPixel < 24 => Words(format),
-            PixelFormat.Rgb => new(format, static (row, pixels) => FromRgb(row, pixels, 3), static (pixels, row) => BitPacking.Rgb(pixels, row, 3)),
+            PixelFormat.Rgb => new(
+                format,
+                static (row, pixels) => FromRgb(row, pixels, 3),
+                static (pixels, row) => BitPacking.Rgb(pixels, row, 3)),
             PixelFormat.Bgr => new(format, FromBgr, ToBgr),
             PixelFormat.Bgr | PixelFormat.Alpha => new(
                 format,
-                static (row, pixels) => row[..(pixels.Length * 4)].CopyTo(System.Runtime.InteropServices.MemoryMarshal.AsBytes(pixels)),
-                static (pixels, row) => System.Runtime.InteropServices.MemoryMarshal.AsBytes(pixels).CopyTo(row)),
+                static (row, pixels) => row[..(pixels.Length * 4)].CopyTo(MemoryMarshal.AsBytes(pixels)),
+                static (pixels, row) => MemoryMarshal.AsBytes(pixels).CopyTo(row)),
             _ => new(format, static (row, pixels) => FromRgb(row, pixels, 4), static (pixels, row) => BitPacking.Rgb(pixels, row, 4)),
         };
     }
@@ -79,7 +83,8 @@ internal class ColorConverters : IColorConverter
 
         if (palette.EntriesCount > 1 << format.BitsPerPixel)
         {
-            throw new FrameworkException($"The palette has {palette.EntriesCount} colours; {format} numbers {1 << format.BitsPerPixel}.");
+            throw new FrameworkException(
+                $"The palette has {palette.EntriesCount} colours; {format} numbers {1 << format.BitsPerPixel}.");
         }
 
         return new IndexedConverter(format, palette);

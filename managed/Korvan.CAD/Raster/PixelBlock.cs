@@ -51,7 +51,8 @@ internal sealed unsafe class PixelBlock : IDisposable
         var stream = new FileStream(path, FileMode.CreateNew, FileAccess.ReadWrite, FileShare.None, 1, FileOptions.DeleteOnClose);
         File.Delete(path);
         stream.SetLength(bytes);
-        file = MemoryMappedFile.CreateFromFile(stream, null, bytes, MemoryMappedFileAccess.ReadWrite, HandleInheritability.None, false);
+        file = MemoryMappedFile.CreateFromFile(
+            stream, null, bytes, MemoryMappedFileAccess.ReadWrite, HandleInheritability.None, false);
         view = file.CreateViewAccessor(0, bytes);
         byte* start = null;
         view.SafeMemoryMappedViewHandle.AcquirePointer(ref start);

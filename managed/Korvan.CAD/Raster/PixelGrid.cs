@@ -121,13 +121,15 @@ internal sealed unsafe class PixelGrid : IDisposable
         return true;
     }
 
+    internal static bool IsGray(int argb) => (byte)argb == (byte)(argb >> 8) && (byte)argb == (byte)(argb >> 16);
+
     internal bool IsGray()
     {
         for (int y = 0; y < Height; y++)
         {
             foreach (int pixel in Row(y))
             {
-                if ((byte)pixel != (byte)(pixel >> 8) || (byte)pixel != (byte)(pixel >> 16))
+                if (!IsGray(pixel))
                 {
                     return false;
                 }

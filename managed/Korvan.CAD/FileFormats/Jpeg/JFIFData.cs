@@ -61,7 +61,12 @@ public class JFIFData
     /// <summary>Pixels an inch; 0 where the units say nothing of size.</summary>
     internal (double X, double Y) PerInch()
     {
-        double factor = DensityUnits switch { JfifDensityUnits.PixelsPerInch => 1, JfifDensityUnits.PixelsPerCm => CentimetresPerInch, _ => 0 };
+        double factor = DensityUnits switch
+        {
+            JfifDensityUnits.PixelsPerInch => 1,
+            JfifDensityUnits.PixelsPerCm => CentimetresPerInch,
+            _ => 0,
+        };
         return (XDensity * factor, YDensity * factor);
     }
 

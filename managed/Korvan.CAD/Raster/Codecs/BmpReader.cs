@@ -110,7 +110,12 @@ internal sealed class BmpReader
         {
             uint[] usual = bits == 16 ? [0x7C00, 0x3E0, 0x1F, 0] : [0xFF0000, 0xFF00, 0xFF, 0];
             usual.CopyTo(masks, 0);
-            int count = compression switch { BitmapCompression.Bitfields => headSize >= 56 ? 4 : 3, BitmapCompression.AlphaBitfields => 4, _ => 0 };
+            int count = compression switch
+            {
+                BitmapCompression.Bitfields => headSize >= 56 ? 4 : 3,
+                BitmapCompression.AlphaBitfields => 4,
+                _ => 0,
+            };
             for (int i = 0; i < count; i++)
             {
                 masks[i] = (uint)Number(54 + (4 * i));

@@ -76,8 +76,8 @@ internal static class BmpWriter
         BinaryPrimitives.WriteInt16LittleEndian(to[14..], (short)bits);
         BinaryPrimitives.WriteInt32LittleEndian(to[16..], (int)(bits == 32 ? BitmapCompression.Bitfields : compression));
         BinaryPrimitives.WriteUInt32LittleEndian(to[20..], (uint)size);
-        BinaryPrimitives.WriteInt32LittleEndian(to[24..], (int)Math.Min(int.MaxValue, Math.Round(page.HorizontalResolution * InchesPerMetre)));
-        BinaryPrimitives.WriteInt32LittleEndian(to[28..], (int)Math.Min(int.MaxValue, Math.Round(page.VerticalResolution * InchesPerMetre)));
+        BinaryPrimitives.WriteInt32LittleEndian(to[24..], PerMetre(page.HorizontalResolution));
+        BinaryPrimitives.WriteInt32LittleEndian(to[28..], PerMetre(page.VerticalResolution));
         BinaryPrimitives.WriteInt32LittleEndian(to[32..], palette.Length);
         if (bits == 32)
         {
@@ -95,6 +95,8 @@ internal static class BmpWriter
 
         output.Write(data);
     }
+
+    private static int PerMetre(double pixelsPerInch) => (int)Math.Min(int.MaxValue, Math.Round(pixelsPerInch * InchesPerMetre));
 
     // Rows stand from the bottom up.
     private static void WriteRows(PixelGrid pixels, int bits, int[] palette, DitheringMethods how, int rowBytes, Stream output)

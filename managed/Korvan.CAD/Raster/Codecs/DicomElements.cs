@@ -1,5 +1,6 @@
 using System;
 using System.Buffers.Binary;
+using System.Globalization;
 using System.IO;
 using System.Numerics;
 using System.Text;
@@ -76,8 +77,11 @@ internal sealed class DicomElements(Stream output)
     }
 
     /// <summary>A new identifier that needs no registration: a UUID as a number below 2.25 (PS3.5, annex B.2).</summary>
-    internal static string NewIdentifier() =>
-        "2.25." + new BigInteger(Guid.NewGuid().ToByteArray(), isUnsigned: true).ToString(System.Globalization.CultureInfo.InvariantCulture);
+    internal static string NewIdentifier()
+    {
+        var number = new BigInteger(Guid.NewGuid().ToByteArray(), isUnsigned: true);
+        return "2.25." + number.ToString(CultureInfo.InvariantCulture);
+    }
 
     private static void Tag(Span<byte> to, uint tag)
     {

@@ -43,7 +43,8 @@ internal sealed class DicomPicture
     internal static List<DecodedFrame> Frames(DicomReader file)
     {
         var picture = new DicomPicture(file);
-        int count = int.TryParse(file.Text(DicomTags.NumberOfFrames), NumberStyles.Integer, CultureInfo.InvariantCulture, out int stated) ? stated : 1;
+        string text = file.Text(DicomTags.NumberOfFrames);
+        int count = int.TryParse(text, NumberStyles.Integer, CultureInfo.InvariantCulture, out int stated) ? stated : 1;
         if (count < 1 || count > MostFrames || (file.Fragments != null && count > file.Fragments.Count))
         {
             throw file.Damaged($"{count} frames are announced");
@@ -103,10 +104,11 @@ internal sealed class DicomPicture
         };
     }
 
-    private static double PerInch(string millimetres) =>
-        double.TryParse(millimetres.Trim(), NumberStyles.Float, CultureInfo.InvariantCulture, out double size) && size > 0 && double.IsFinite(size)
-            ? MillimetresPerInch / size
-            : 0;
+    private static double PerInch(string millimetres)
+    {
+        bool stated = double.TryParse(millimetres.Trim(), NumberStyles.Float, CultureInfo.InvariantCulture, out double size);
+        return stated && size > 0 && double.IsFinite(size) ? MillimetresPerInch / size : 0;
+    }
 
     private PixelGrid Pixels(int index, int count)
     {

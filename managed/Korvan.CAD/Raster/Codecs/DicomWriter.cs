@@ -216,7 +216,8 @@ internal sealed class DicomWriter
 
     private void WriteRows(PixelGrid pixels, Stream output)
     {
-        PixelDataFormat format = color ? PixelDataFormat.Rgb24Bpp : bits == 16 ? PixelDataFormat.Grayscale16Bpp : PixelDataFormat.Grayscale8Bpp;
+        PixelDataFormat gray = bits == 16 ? PixelDataFormat.Grayscale16Bpp : PixelDataFormat.Grayscale8Bpp;
+        PixelDataFormat format = color ? PixelDataFormat.Rgb24Bpp : gray;
         ColorConverters converter = ColorConverters.Create(format, null);
         var row = new byte[format.RowBytes(pixels.Width)];
         for (int y = 0; y < pixels.Height; y++)

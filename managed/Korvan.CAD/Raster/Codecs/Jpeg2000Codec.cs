@@ -133,7 +133,8 @@ internal static unsafe class Jpeg2000Codec
             components[i] = new() { Dx = 1, Dy = 1, Width = (uint)pixels.Width, Height = (uint)pixels.Height, Precision = 8 };
         }
 
-        OpenJpeg.ImageHead* image = OpenJpeg.CreateImage((uint)count, components, colors == 1 ? OpenJpeg.ColorGray : OpenJpeg.ColorRgb);
+        int space = colors == 1 ? OpenJpeg.ColorGray : OpenJpeg.ColorRgb;
+        OpenJpeg.ImageHead* image = OpenJpeg.CreateImage((uint)count, components, space);
         if (image == null)
         {
             throw new OutOfMemoryException();

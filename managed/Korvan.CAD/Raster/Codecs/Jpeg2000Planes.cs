@@ -77,7 +77,8 @@ internal static unsafe class Jpeg2000Planes
 
     private static void Verify(in OpenJpeg.Component plane, RasterSource source)
     {
-        if (plane.Data == null || plane.Width == 0 || plane.Height == 0 || plane.Dx == 0 || plane.Dy == 0 || plane.Precision is 0 or > 31)
+        bool empty = plane.Data == null || plane.Width == 0 || plane.Height == 0;
+        if (empty || plane.Dx == 0 || plane.Dy == 0 || plane.Precision is 0 or > 31)
         {
             throw new Jpeg2000Exception($"A plane of '{source.Name}' has no samples.");
         }

@@ -38,7 +38,8 @@ internal static unsafe class JpegCodec
         {
             int flags = progressive ? TurboJpeg.FlagProgressive : 0;
             byte* source = (inks ?? pixels).Pointer;
-            if (TurboJpeg.Compress(handle, source, pixels.Width, 0, pixels.Height, layout, &jpeg, &size, subsampling, quality, flags) != 0)
+            (int width, int height) = (pixels.Width, pixels.Height);
+            if (TurboJpeg.Compress(handle, source, width, 0, height, layout, &jpeg, &size, subsampling, quality, flags) != 0)
             {
                 throw new JpegException($"The picture could not be compressed: {TurboJpeg.Error(handle)}.");
             }

@@ -23,7 +23,8 @@ internal static class JpegWriter
         // JFIF knows grey and Y'CbCr only; files of inks have the segment of their own that the codec writes.
         if (options.ColorType != JpegCompressionColorMode.Ycck)
         {
-            yield return new JpegSegment(JpegSegments.App0, (options.Jfif ?? JFIFData.Of(page.HorizontalResolution, page.VerticalResolution)).Write());
+            JFIFData head = options.Jfif ?? JFIFData.Of(page.HorizontalResolution, page.VerticalResolution);
+            yield return new JpegSegment(JpegSegments.App0, head.Write());
         }
 
         if ((options.ExifData ?? page.Exif) is ExifData exif)

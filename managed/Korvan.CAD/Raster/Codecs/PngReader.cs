@@ -85,7 +85,8 @@ internal static unsafe class PngReader
     private static PngImageException Failure(RasterSource source, string reason)
     {
         bool deflate = reason.Contains("IDAT", StringComparison.Ordinal) || reason.Contains("deflate", StringComparison.Ordinal);
-        return new PngImageException($"'{source.Name}' is damaged: {reason}.", deflate ? new DeflateCompressorException(reason) : null);
+        DeflateCompressorException? inner = deflate ? new DeflateCompressorException(reason) : null;
+        return new PngImageException($"'{source.Name}' is damaged: {reason}.", inner);
     }
 
     // The first of each kind; libpng has the last word on whether the file is whole.
@@ -128,7 +129,9 @@ internal static unsafe class PngReader
             return default;
         }
 
-        return (BinaryPrimitives.ReadUInt32BigEndian(data) * MetresPerInch, BinaryPrimitives.ReadUInt32BigEndian(data.AsSpan(4)) * MetresPerInch);
+        uint across = BinaryPrimitives.ReadUInt32BigEndian(data);
+        uint down = BinaryPrimitives.ReadUInt32BigEndian(data.AsSpan(4));
+        return (across * MetresPerInch, down * MetresPerInch);
     }
 
     private static ColorPalette? Palette(Dictionary<string, byte[]> chunks)

@@ -94,7 +94,9 @@ internal static class PngWriter
         var opacity = new byte[palette.Length];
         for (int i = 0; i < palette.Length; i++)
         {
-            (colors[3 * i], colors[(3 * i) + 1], colors[(3 * i) + 2]) = ((byte)(palette[i] >> 16), (byte)(palette[i] >> 8), (byte)palette[i]);
+            colors[3 * i] = (byte)(palette[i] >> 16);
+            colors[(3 * i) + 1] = (byte)(palette[i] >> 8);
+            colors[(3 * i) + 2] = (byte)palette[i];
             opacity[i] = (byte)(palette[i] >>> 24);
         }
 

@@ -88,7 +88,8 @@ internal sealed class PsdReader
         };
         if (!form.Known || channels < form.Needed)
         {
-            throw new PsdImageException($"'{source.Name}' is of mode {mode} with {channels} channels of {depth} bits, which is not read.");
+            throw new PsdImageException(
+                $"'{source.Name}' is of mode {mode} with {channels} channels of {depth} bits, which is not read.");
         }
     }
 
@@ -143,7 +144,8 @@ internal sealed class PsdReader
         int method = data.Length < 2 ? -1 : BinaryPrimitives.ReadUInt16BigEndian(data);
         if (method is not ((int)CompressionMethod.Raw or (int)CompressionMethod.Rle))
         {
-            throw new PsdImageException($"The merged picture of '{source.Name}' is missing or compressed by method {method}, which is not read.");
+            throw new PsdImageException(
+                $"The merged picture of '{source.Name}' is missing or compressed by method {method}, which is not read.");
         }
 
         var rows = new PsdRows(data[2..], method == (int)CompressionMethod.Rle, channels, height, RowBytes);

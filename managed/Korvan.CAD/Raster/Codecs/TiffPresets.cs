@@ -54,7 +54,13 @@ internal static class TiffPresets
             return TiffOptionsError.BitsPerSampleNotSupported;
         }
 
-        if (!(oneSample ? bits.Length == 1 : options.Photometric == TiffPhotometrics.Separated ? bits.Length == 4 : bits.Length is 3 or 4))
+        bool matches = options.Photometric switch
+        {
+            TiffPhotometrics.Separated => bits.Length == 4,
+            TiffPhotometrics.Rgb => bits.Length is 3 or 4,
+            _ => bits.Length == 1,
+        };
+        if (!matches)
         {
             return TiffOptionsError.BitsPerSampleMismatch;
         }
@@ -71,7 +77,8 @@ internal static class TiffPresets
     internal static bool IsFax(TiffCompressions compression) =>
         compression is TiffCompressions.CcittRle or TiffCompressions.CcittFax3 or TiffCompressions.CcittFax4;
 
-    private static TiffOptionsError ValidateCompression(TiffCompressions compression, bool gray, int[] bits, TiffPhotometrics photometric)
+    private static TiffOptionsError ValidateCompression(
+        TiffCompressions compression, bool gray, int[] bits, TiffPhotometrics photometric)
     {
         if (IsFax(compression) && !(gray && bits[0] == 1))
         {

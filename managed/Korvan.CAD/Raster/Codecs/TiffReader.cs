@@ -61,7 +61,9 @@ internal static unsafe class TiffReader
         try
         {
             int orientation = (int)TiffOrientations.TopLeft;
-            bool done = Tiff.ReadRgba(tiff.Value, (uint)width, (uint)height, (uint*)pixels.Pointer, orientation, source.Lenient ? 0 : 1) == 1;
+            var raster = (uint*)pixels.Pointer;
+            int stop = source.Lenient ? 0 : 1;
+            bool done = Tiff.ReadRgba(tiff.Value, (uint)width, (uint)height, raster, orientation, stop) == 1;
             if (!done && !source.Lenient)
             {
                 throw Damaged(tiff, source);

@@ -77,8 +77,14 @@ internal static class Ditherer
             ReadOnlySpan<int> row = pixels.Row(y);
             for (int x = 0; x < row.Length; x++)
             {
-                int shift = ordered ? ((Bayer[((y & 7) << 3) | (x & 7)] * 2) - 63) * step / 128 : 0;
-                indices[x] = (byte)lookup.Nearest(shift == 0 ? row[x] : Shifted(row[x], shift));
+                int index = lookup.Nearest(row[x]);
+                if (ordered && palette[index] != row[x])
+                {
+                    int shift = ((Bayer[((y & 7) << 3) | (x & 7)] * 2) - 63) * step / 128;
+                    index = lookup.Nearest(Shifted(row[x], shift));
+                }
+
+                indices[x] = (byte)index;
             }
 
             take(y, indices);
@@ -98,7 +104,8 @@ internal static class Ditherer
         var lookup = new PaletteLookup(palette, ColorCompareMethod.Euclidean);
         int width = pixels.Width;
         var indices = new byte[width];
-        int[][] errors = [new int[(width + (2 * margin)) * 3], new int[(width + (2 * margin)) * 3], new int[(width + (2 * margin)) * 3]];
+        int size = (width + (2 * margin)) * 3;
+        int[][] errors = [new int[size], new int[size], new int[size]];
         for (int y = 0; y < pixels.Height; y++)
         {
             bool back = serpentine && (y & 1) != 0;

@@ -30,7 +30,7 @@ internal static class Tones
     {
         Each(pixels, pixel =>
         {
-            bool gray = (byte)pixel == (byte)(pixel >> 8) && (byte)pixel == (byte)(pixel >> 16);
+            bool gray = PixelGrid.IsGray(pixel);
             bool skip = (flag == ColorMatrixFlag.SkipGrays && gray) || (flag == ColorMatrixFlag.AltGrays && !gray);
             return skip ? pixel : Multiply(pixel, matrix);
         });
@@ -82,7 +82,8 @@ internal static class Tones
         {
             foreach (ref int pixel in pixels.Row(y))
             {
-                pixel = (pixel & PixelGrid.Opaque) | (red[(byte)(pixel >> 16)] << 16) | (green[(byte)(pixel >> 8)] << 8) | blue[(byte)pixel];
+                int warm = (red[(byte)(pixel >> 16)] << 16) | (green[(byte)(pixel >> 8)] << 8);
+                pixel = (pixel & PixelGrid.Opaque) | warm | blue[(byte)pixel];
             }
         }
     }

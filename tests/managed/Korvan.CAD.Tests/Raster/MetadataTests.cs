@@ -40,7 +40,11 @@ public class MetadataTests
         exif.ThumbnailData = File.ReadAllBytes(Samples.Save(image, new JpegOptions { Quality = 20 }, ".jpg"));
         string file = Samples.Save(image, new JpegOptions { ExifData = exif }, ".jpg");
         string text = Tools.Run("exiv2", "-pt", file);
-        foreach (string expected in new[] { "Korvan", "One \u00c4", "right, top", "1/250 s", "F5.6", "Yes, auto", "Manual", "South", "33deg 51' 54\"", "Below sea level", "58 m" })
+        string[] lines =
+        [
+            "Korvan", "One \u00c4", "right, top", "1/250 s", "F5.6", "Yes, auto", "Manual", "South", "33deg 51' 54\"", "Below sea level", "58 m",
+        ];
+        foreach (string expected in lines)
         {
             Assert.Contains(expected, text);
         }

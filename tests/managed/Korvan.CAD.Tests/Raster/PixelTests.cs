@@ -28,7 +28,8 @@ public class PixelTests
         Assert.Equal((White, White), (image.GetArgb32Pixel(3, 5), image.GetArgb32Pixel(6, 6)));
         Assert.NotEqual(White, image.GetArgb32Pixel(7, 6));
         Assert.Throws<ArgumentException>(() => image.SaveArgb32Pixels(block, new int[7]));
-        foreach (var outside in new[] { new Rectangle(-1, 0, 1, 1), new Rectangle(60, 0, 2, 1), new Rectangle(0, 0, 0, 1), new Rectangle(1, 1, int.MaxValue, 1) })
+        Rectangle[] outsides = [new(-1, 0, 1, 1), new(60, 0, 2, 1), new(0, 0, 0, 1), new(1, 1, int.MaxValue, 1)];
+        foreach (Rectangle outside in outsides)
         {
             Assert.Throws<ArgumentOutOfRangeException>(() => image.LoadArgb32Pixels(outside));
         }
@@ -177,7 +178,9 @@ public class PixelTests
         shared.AddImage(few);
         image.LoadPartialArgb32Pixels(new Rectangle(0, 0, 1, 1), shared);
         Assert.Contains(image.GetArgb32Pixel(0, 0), shared.CreatePalette(16).Argb32Entries);
-        Assert.Equal((2, 16, 252), (ColorPaletteHelper.CreateMonochrome().EntriesCount, ColorPaletteHelper.Create4Bit().EntriesCount, ColorPaletteHelper.Create8Bit().EntriesCount));
+        Assert.Equal(2, ColorPaletteHelper.CreateMonochrome().EntriesCount);
+        Assert.Equal(16, ColorPaletteHelper.Create4Bit().EntriesCount);
+        Assert.Equal(252, ColorPaletteHelper.Create8Bit().EntriesCount);
     }
 
     [Fact]

@@ -44,7 +44,9 @@ internal static class Samples
     /// <summary>The mean difference of two files, 0 to 1, as ImageMagick sees them.</summary>
     internal static double Difference(string file, string other)
     {
-        string text = Tools.Run("convert", file, "-colorspace", "sRGB", "-alpha", "off", other, "-alpha", "off", "-metric", "RMSE", "-compare", "-format", "%[distortion]", "info:");
+        string[] first = [file, "-colorspace", "sRGB", "-alpha", "off"];
+        string[] second = [other, "-alpha", "off", "-metric", "RMSE", "-compare", "-format", "%[distortion]", "info:"];
+        string text = Tools.Run("convert", [.. first, .. second]);
         return double.Parse(text, CultureInfo.InvariantCulture);
     }
 
