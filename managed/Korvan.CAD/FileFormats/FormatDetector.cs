@@ -101,9 +101,8 @@ internal static class FormatDetector
         int schema = data.IndexOf("FILE_SCHEMA"u8);
         int name = schema < 0 ? -1 : data[schema..].IndexOf((byte)'\'');
         ReadOnlySpan<byte> stated = name < 0 ? [] : data[(schema + name + 1)..];
-        return stated.StartsWith("IFC2"u8) ? FileFormat.IFC2X3
-            : stated.StartsWith("IFC"u8) ? FileFormat.IFC4
-            : FileFormat.Stp;
+        bool isModel = stated.Length > 3 && Ascii.EqualsIgnoreCase(stated[..3], "IFC"u8);
+        return !isModel ? FileFormat.Stp : stated[3] == '2' ? FileFormat.IFC2X3 : FileFormat.IFC4;
     }
 
     // A packed file is told by the beginning of its first entry.

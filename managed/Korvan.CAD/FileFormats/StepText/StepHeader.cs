@@ -24,7 +24,7 @@ internal static class StepHeader
     {
         data = data[..Math.Min(data.Length, MostBytes)];
         int at = data.StartsWith("\uFEFF"u8) ? 3 : 0;
-        at = Word(data, StepCharacters.Skip(data, at), "ISO-10303-21");
+        at = Word(data, at, "ISO-10303-21");
         at = Word(data, at, "HEADER");
         List<StepHeaderRecord> records = [];
         while (true)
@@ -54,6 +54,7 @@ internal static class StepHeader
     // Steps over a word and its semicolon.
     private static int Word(ReadOnlySpan<byte> data, int at, string word)
     {
+        at = StepCharacters.Skip(data, at);
         StepParser parser = new(data, at);
         if (parser.Keyword() != word)
         {
