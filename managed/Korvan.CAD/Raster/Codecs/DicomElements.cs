@@ -79,7 +79,9 @@ internal sealed class DicomElements(Stream output)
     /// <summary>A new identifier that needs no registration: a UUID as a number below 2.25 (PS3.5, annex B.2).</summary>
     internal static string NewIdentifier()
     {
-        var number = new BigInteger(Guid.NewGuid().ToByteArray(), isUnsigned: true);
+        byte[] identifier = Guid.NewGuid().ToByteArray(bigEndian: true);
+        identifier[0] |= 0x80; // always 39 digits, so that files of one picture have one size
+        var number = new BigInteger(identifier, isUnsigned: true, isBigEndian: true);
         return "2.25." + number.ToString(CultureInfo.InvariantCulture);
     }
 
