@@ -58,6 +58,7 @@ wheel: build
 .PHONY: test_packages bench_packages lint_packages
 test_packages:
 	@tools/ensure-packages.sh test
+	@tools/ensure-type-checker.sh
 bench_packages:
 	@tools/ensure-packages.sh bench
 lint_packages:

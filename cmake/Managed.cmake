@@ -9,7 +9,8 @@ function(korvan_managed_sources out)
   set(all)
   foreach(folder ${ARGN})
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS
-      "${folder}/*.cs" "${folder}/*.csproj" "${folder}/*.props" "${folder}/*.targets")
+      "${folder}/*.cs" "${folder}/*.csproj" "${folder}/*.props" "${folder}/*.targets"
+      "${folder}/*.pyi")
     list(APPEND all ${sources})
   endforeach()
   list(APPEND all "${CMAKE_SOURCE_DIR}/Directory.Build.props" "${CMAKE_SOURCE_DIR}/global.json")

@@ -122,7 +122,7 @@ def relative(path: Path) -> Path:
 
 
 def main() -> int:
-    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser = argparse.ArgumentParser(description=(__doc__ or "").partition("\n")[0])
     parser.add_argument("drawings", nargs="*", type=Path, help="drawings to convert")
     parser.add_argument("--out", type=Path, default=ROOT / "build" / "demo", help="where to write")
     arguments = parser.parse_args()

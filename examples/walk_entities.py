@@ -11,6 +11,7 @@ from __future__ import annotations
 import math
 import sys
 from collections import Counter
+from collections.abc import Iterable
 from pathlib import Path
 
 import korvan.cad
@@ -46,7 +47,7 @@ def report(drawing: CadImage) -> None:
     print(f"the lines are {total:.1f} units long together")
 
 
-def first_text(entities: list[CadEntityBase]) -> CadText | None:
+def first_text(entities: Iterable[CadEntityBase]) -> CadText | None:
     """The first single-line text, if there is one."""
     for entity in entities:
         if text := CadText._cast_to(entity):

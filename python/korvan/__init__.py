@@ -13,7 +13,13 @@ from importlib.machinery import ModuleSpec, PathFinder
 from pathlib import Path
 from pkgutil import extend_path
 from types import ModuleType
-from typing import Sequence
+
+TYPE_CHECKING = False  # the typing module costs more to import than this package
+if TYPE_CHECKING:
+    from collections.abc import Sequence
+    from importlib.abc import Loader as _Loader
+else:
+    _Loader = object
 
 __path__ = extend_path(__path__, __name__)
 
@@ -97,7 +103,7 @@ class _NamespaceFinder:
         return ModuleSpec(name, _NamespaceLoader(module), is_package=hasattr(module, "__path__"))
 
 
-class _NamespaceLoader:
+class _NamespaceLoader(_Loader):
     """Hands over a module that exists already."""
 
     def __init__(self, module: ModuleType) -> None:

@@ -120,13 +120,18 @@ internal sealed class StubTypeWriter
     {
         foreach (PropertyModel value in _type.StaticProperties)
         {
-            _writer.Line($"{value.PythonName}: typing.ClassVar[{_types.Result(value.Value)}]");
+            _writer.Line($"{value.PythonName}: typing.Final[{_types.Result(value.Value)}]");
             Docstring.Write(_writer, value.Doc);
         }
     }
 
     private void WriteConstructors()
     {
+        if (_type.Constructors.Count == 0)
+        {
+            // No value has this type, so a checker finds every call.
+            _writer.Line("def __init__(self, *, no_constructor: typing.Never) -> None: ...");
+        }
         foreach (MethodModel constructor in _type.Constructors)
         {
             WriteFunction("__init__", constructor, "None", _type.Constructors.Count > 1);
@@ -214,7 +219,9 @@ internal sealed class StubTypeWriter
         }
         IEnumerable<string> parameters = leg.Parameters.Select(Parameter);
         string list = string.Join(", ", leg.IsStatic ? parameters : parameters.Prepend("self"));
-        WriteHead($"def {name}({list}) -> {result}:", leg.Doc);
+        // Legs that a base declares stand behind those of the class itself, as they are tried.
+        string note = isOverload && leg.Owner != _type ? "  # type: ignore[override]" : "";
+        WriteHead($"def {name}({list}) -> {result}:", leg.Doc, note);
     }
 
     private string Parameter(ParameterModel parameter)
@@ -223,14 +230,14 @@ internal sealed class StubTypeWriter
         return $"{name}: {_types.Parameter(parameter)}";
     }
 
-    private void WriteHead(string head, DocText doc)
+    private void WriteHead(string head, DocText doc, string note = "")
     {
         if (Docstring.IsEmpty(doc))
         {
-            _writer.Line(head + " ...");
+            _writer.Line(head + " ..." + note);
             return;
         }
-        _writer.Line(head);
+        _writer.Line(head + note);
         _writer.Indented(() => Docstring.Write(_writer, doc));
     }
 }
