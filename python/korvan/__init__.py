@@ -10,8 +10,6 @@ from __future__ import annotations
 import os
 import sys
 from importlib.machinery import ModuleSpec, PathFinder
-from pathlib import Path
-from pkgutil import extend_path
 from types import ModuleType
 
 TYPE_CHECKING = False  # the typing module costs more to import than this package
@@ -21,9 +19,14 @@ if TYPE_CHECKING:
 else:
     _Loader = object
 
-__path__ = extend_path(__path__, __name__)
+# Modules of the family that are installed elsewhere belong to this package, too.
+__path__ += [
+    folder
+    for folder in (os.path.join(entry, __name__) for entry in sys.path)
+    if folder not in __path__ and os.path.isdir(folder)
+]
 
-_HERE = Path(__file__).resolve().parent
+_HERE = os.path.dirname(os.path.realpath(__file__))
 _RUNTIME_VARIABLE = "NETCORE_WRAPPER_NETCORE_DIR_korvan"
 _ASSEMBLY_VARIABLE = "NETCORE_WRAPPER_ASSEMBLY_DIR_korvan"
 _WRAP_LIBRARY = "libkorvan.embed.coreclrwrap.so"
@@ -38,26 +41,29 @@ _RUNTIME_FILES = (
     "System.Collections.dll",
 )
 _ASSEMBLIES = {
-    "cad": ("WrpInterop.Korvan.CAD.dll", "Korvan.CAD.dll"),
+    "cad": ("WrpInterop.Korvan.CAD.dll", "Korvan.CAD.dll", "Korvan.CAD.Schemas.dll"),
     "pyreflection": ("WrpInterop.Korvan.PyReflection.dll",),
 }
 
 
-def _check_own_runtime(folder: Path) -> None:
-    versions = sorted(folder.glob("netcore*.*"))
+def _check_own_runtime(folder: str) -> None:
+    names = os.listdir(folder) if os.path.isdir(folder) else []
+    versions = sorted(name for name in names if name.startswith("netcore") and "." in name)
     if not versions:
         raise ImportError(f"korvan: the runtime folder {folder}/netcore<major>.<minor> is missing")
     for version in versions:
         for name in _RUNTIME_FILES:
-            if not (version / name).is_file():
-                raise ImportError(f"korvan: the package lost the runtime file {version / name}")
+            path = os.path.join(folder, version, name)
+            if not os.path.isfile(path):
+                raise ImportError(f"korvan: the package lost the runtime file {path}")
 
 
-def _check_own_assemblies(folder: Path) -> None:
+def _check_own_assemblies(folder: str) -> None:
     for product, names in _ASSEMBLIES.items():
         for name in names:
-            if not (folder / product / name).is_file():
-                raise ImportError(f"korvan: the package lost the assembly {folder / product / name}")
+            path = os.path.join(folder, product, name)
+            if not os.path.isfile(path):
+                raise ImportError(f"korvan: the package lost the assembly {path}")
 
 
 def _prepare_environment() -> None:
@@ -67,11 +73,13 @@ def _prepare_environment() -> None:
     variable that the user set is the user's: what it names is not judged.
     """
     if not os.environ.get(_RUNTIME_VARIABLE):
-        _check_own_runtime(_HERE / "netcore")
-        os.environ[_RUNTIME_VARIABLE] = str(_HERE / "netcore")
+        runtime = os.path.join(_HERE, "netcore")
+        _check_own_runtime(runtime)
+        os.environ[_RUNTIME_VARIABLE] = runtime
     if not os.environ.get(_ASSEMBLY_VARIABLE):
-        _check_own_assemblies(_HERE / "assemblies")
-        os.environ[_ASSEMBLY_VARIABLE] = str(_HERE / "assemblies")
+        assemblies = os.path.join(_HERE, "assemblies")
+        _check_own_assemblies(assemblies)
+        os.environ[_ASSEMBLY_VARIABLE] = assemblies
 
 
 class _NamespaceFinder:

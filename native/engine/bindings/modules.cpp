@@ -278,11 +278,31 @@ PyObject* build_interop_module(const std::string& name) {
 
 } // namespace
 
+namespace {
+
+// Thousands of types are made and none is given up: each run of the collector would walk them all
+// for nothing.
+struct CollectorPause {
+    bool was_enabled = PyGC_Disable() != 0;
+    CollectorPause() = default;
+    CollectorPause(const CollectorPause&) = delete;
+    CollectorPause& operator=(const CollectorPause&) = delete;
+    ~CollectorPause() {
+        if (was_enabled) {
+            PyGC_Enable();
+        }
+    }
+};
+
+} // namespace
+
 PyObject* build_namespace_tree(const ModuleRecord& root, PyModuleDef& root_definition) {
+    const CollectorPause pause;
     return build_module(root, root_definition, true);
 }
 
 PyObject* wrpPye_mlit_FFFFFFFF_common_wrappers(PyObject* module, const BoundTree& tree) {
+    const CollectorPause pause;
     const std::string name = std::string(PyModule_GetName(module)) + "._wrpgen";
     const char* kept_name = keep(name);
     PyObject* wrappers = create_module(*new_definition(kept_name));
