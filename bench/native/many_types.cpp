@@ -44,8 +44,15 @@ PyObject* make(PyObject* module, PyObject* argument) {
 }
 
 PyMethodDef functions[] = {{"make", make, METH_O, nullptr}, {}};
-PyModuleDef definition = {
-    PyModuleDef_HEAD_INIT, "many_types", nullptr, -1, functions, nullptr, nullptr, nullptr, nullptr};
+PyModuleDef definition = {PyModuleDef_HEAD_INIT,
+                          "many_types",
+                          nullptr,
+                          -1,
+                          functions,
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          nullptr};
 
 } // namespace
 

@@ -4,7 +4,7 @@ from __future__ import annotations
 
 import unittest
 
-from korvan import probe
+from korvan import probe, pydrawing
 
 
 def set_attribute(target: object, name: str, value: object) -> None:
@@ -199,6 +199,31 @@ class StructValues(unittest.TestCase):
         self.assertEqual(hash(one), hash(other))
         self.assertNotEqual(one, probe.Pair(1.0, 3.0))
         self.assertEqual(repr(one), "(1, 2)")
+
+
+class DrawingValues(unittest.TestCase):
+    def test_a_colour_of_the_sibling_crosses_both_ways(self) -> None:
+        drawn = probe.Drawn()
+        self.assertEqual(drawn.ink, pydrawing.Color.from_argb(1, 2, 3, 4))
+        self.assertIs(type(drawn.ink), pydrawing.Color)
+        drawn.ink = pydrawing.Color.from_argb(0xFF, 0, 0, 0x80)
+        self.assertEqual(probe.Drawn.tell(drawn.ink), "FF000080")
+        self.assertEqual(probe.Drawn.tell(pydrawing.Color()), "none")
+        for value in (5, None, "red", (1, 2, 3)):
+            with self.assertRaisesRegex(TypeError, "can't build Color value from"):
+                drawn.ink = value
+        self.assertIsNone(drawn.paper)
+        drawn.paper = pydrawing.Color.from_argb(9, 9, 9)
+        self.assertEqual(drawn.paper, pydrawing.Color.from_argb(9, 9, 9))
+        drawn.paper = None
+        self.assertIsNone(drawn.paper)
+
+    def test_a_rectangle_of_the_sibling_only_comes_out(self) -> None:
+        drawn = probe.Drawn()
+        self.assertEqual(drawn.frame, pydrawing.RectangleF(1.0, 2.0, 3.5, 4.0))
+        with self.assertRaises(AttributeError):
+            drawn.moved = drawn.frame
+        self.assertFalse(hasattr(drawn, "area"))
 
 
 if __name__ == "__main__":

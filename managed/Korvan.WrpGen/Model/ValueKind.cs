@@ -30,6 +30,8 @@ public enum ValueKind
     Guid,
     Decimal,
     Version,
+    DrawingColor,
+    DrawingRectangle,
     Nullable,
     Array,
     List,

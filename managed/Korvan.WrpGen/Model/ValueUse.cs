@@ -21,7 +21,11 @@ public sealed record ValueUse(ValueKind Kind, string ManagedName, string CSharpN
     /// <summary>Value types, which pass as bits and have a nullable form.</summary>
     public bool IsValueType => Kind is ValueKind.Enum or ValueKind.Struct or ValueKind.DateTime
         or ValueKind.DateTimeOffset or ValueKind.TimeSpan or ValueKind.Guid or ValueKind.Decimal
+        or ValueKind.DrawingColor or ValueKind.DrawingRectangle
         or (>= ValueKind.Bool and <= ValueKind.Char);
+
+    /// <summary>Comes to Python, but can't be given to managed code: the sibling that has the type offers no way.</summary>
+    public bool IsResultOnly => Kind == ValueKind.DrawingRectangle || (Element?.IsResultOnly ?? false);
 
     /// <summary>A closed generic collection, an array or a generic iterator.</summary>
     public bool IsTypedCollection => Kind is >= ValueKind.Array and <= ValueKind.IEnumerator;

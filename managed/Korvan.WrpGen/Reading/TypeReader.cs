@@ -208,7 +208,7 @@ internal sealed class TypeReader(
         {
             Owner = model,
             Value = value,
-            CanWrite = canWrite && !valueType.IsByRef,
+            CanWrite = canWrite && !valueType.IsByRef && !value.IsResultOnly,
             Doc = docs.Of(docId),
         });
     }
@@ -282,6 +282,11 @@ internal sealed class TypeReader(
             if (values.Read(plain, Nullability.MayBe(parameter), out string reason) is not { } value)
             {
                 Leave(Signature(method), reason);
+                return;
+            }
+            if (value.IsResultOnly)
+            {
+                Leave(Signature(method), $"{plain.ManagedName()} comes to Python, but can't be given");
                 return;
             }
             if (passing != Passing.In && !CanPassByReference(value))

@@ -32,6 +32,8 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         ["System.Guid"] = ValueKind.Guid,
         ["System.Decimal"] = ValueKind.Decimal,
         ["System.Version"] = ValueKind.Version,
+        ["System.Drawing.Color"] = ValueKind.DrawingColor,
+        ["System.Drawing.RectangleF"] = ValueKind.DrawingRectangle,
         ["System.IDisposable"] = ValueKind.AnyDisposable,
         ["System.Collections.IEnumerator"] = ValueKind.AnyEnumerator,
         ["System.Collections.IEnumerable"] = ValueKind.AnyEnumerable,
@@ -92,7 +94,8 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         {
             return null;
         }
-        if (element.Kind is not (ValueKind.Nullable or ValueKind.IEnumerator) && !element.IsUntypedCollection)
+        if (element.Kind is not (ValueKind.Nullable or ValueKind.IEnumerator or ValueKind.DrawingColor
+            or ValueKind.DrawingRectangle) && !element.IsUntypedCollection)
         {
             return element;
         }

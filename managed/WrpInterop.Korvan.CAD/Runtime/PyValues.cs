@@ -1,4 +1,5 @@
 using System;
+using System.Drawing;
 
 namespace Korvan.WrpGen.Interop;
 
@@ -67,6 +68,15 @@ public static unsafe class PyValues
 
     public static void WriteDecimal(decimal value, PyDecimalArg* result) =>
         decimal.GetBits(value, new Span<int>(result, 4));
+
+    public static Color ReadColor(ShlColorObject* color) =>
+        color->IsSet == 0 ? Color.Empty : Color.FromArgb((int)color->Argb);
+
+    public static void WriteColor(Color value, ShlColorObject* result) =>
+        *result = new ShlColorObject { Argb = (uint)value.ToArgb(), IsSet = value.IsEmpty ? 0 : 1 };
+
+    public static void WriteRectangle(RectangleF value, ShlRectangleFObject* result) =>
+        *result = new ShlRectangleFObject { X = value.X, Y = value.Y, Width = value.Width, Height = value.Height };
 
     public static Version? ReadVersion(PySysVersionArg* version) => version->Count switch
     {

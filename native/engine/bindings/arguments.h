@@ -13,6 +13,7 @@
 #include "runtime/buffers.h"
 #include "runtime/dates.h"
 #include "runtime/decimals.h"
+#include "runtime/drawing_values.h"
 #include "runtime/markers.h"
 #include "runtime/numbers.h"
 #include "runtime/strings.h"
@@ -134,6 +135,10 @@ inline int convert_stream(PyObject* object, VariantArg* out, const void*) {
     return wrpPye_conv_py_to_clr_stream(object, out);
 }
 
+inline int convert_color(PyObject* object, ShlColorObject* out, const void*) {
+    return wrpPyl_convcaps_py_to_clr_A6FFC60D_Color(object, out);
+}
+
 inline int convert_version(PyObject* object, PySysVersionArg* out, const void*) {
     return fn_conv_py_tuple_to_clr_version(object, out);
 }
@@ -143,6 +148,7 @@ using interface_ = record<VariantArg, convert_interface>;
 using variant = record<VariantArg, convert_variant>;
 using stream = record<VariantArg, convert_stream>;
 using version = record<PySysVersionArg, convert_version>;
+using drawing_color = record<ShlColorObject, convert_color>;
 
 template <CollectionParameter Kind>
 int convert_collection(PyObject* object, VariantArg* out, const void* type) {

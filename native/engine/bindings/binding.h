@@ -20,6 +20,7 @@
 //   arg::nullable<Policy> [t as the inner policy]
 //   arg::variant                     object
 //   arg::datetime timespan guid decimal version datetimeoffset
+//   arg::drawing_color               korvan.pydrawing's Color
 //   arg::by_ref<Policy, Ret>, arg::out<Policy, Ret>    ref and out parameters
 //
 // Result policies (results.h), for methods and getters alike:
@@ -37,6 +38,7 @@
 //   ret::any_iterable any_collection any_list any_array any_arraylist any_collectionbase
 //   ret::any_readonlycollectionbase  PyCollectionArg* last
 //   ret::datetime timespan guid version decimal datetimeoffset
+//   ret::drawing_color drawing_rectangle         korvan.pydrawing's Color and RectangleF
 //   ret::nullable<Policy>            int* has_value last
 //
 // Legs:        call<Ret, Args...>   call_static<Ret, Args...>   construct<Args...>

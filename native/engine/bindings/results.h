@@ -11,6 +11,7 @@
 #include "host/exchange_host.h"
 #include "runtime/dates.h"
 #include "runtime/decimals.h"
+#include "runtime/drawing_values.h"
 #include "runtime/strings.h"
 #include "runtime/types_map.h"
 #include "runtime/variant.h"
@@ -153,6 +154,13 @@ inline PyObject* make_version(PySysVersionArg& result, const void*) {
     return fn_conv_clr_version_to_py_tuple(result);
 }
 
+inline PyObject* make_drawing_color(ShlColorObject& result, const void*) {
+    return wrpPyl_convcaps_clr_to_py_A6FFC60D_Color(&result);
+}
+inline PyObject* make_drawing_rectangle(ShlRectangleFObject& result, const void*) {
+    return wrpPyl_convcaps_clr_to_py_E41B503E_RectangleF(&result);
+}
+
 using interface_ = out_record<PyObjectOutArg, make_interface>;
 using collection = out_record<PyCollectionArg, make_collection>;
 using interface_collection = out_record<PyCollectionArg, make_interface_collection>;
@@ -173,6 +181,8 @@ using datetimeoffset = out_record<PyDateTimeOut, make_datetimeoffset>;
 using decimal = out_record<PyDecimalArg, make_decimal>;
 using guid = out_record<Guid, make_guid>;
 using version = out_record<PySysVersionArg, make_version>;
+using drawing_color = out_record<ShlColorObject, make_drawing_color>;
+using drawing_rectangle = out_record<ShlRectangleFObject, make_drawing_rectangle>;
 
 // Whether there is a value comes through `int* has_value`: behind all else for a value returned
 // directly, ahead of the record for one that fills a record.

@@ -1,5 +1,6 @@
 #include "module/family.h"
 
+#include "runtime/drawing_values.h"
 #include "runtime/failures.h"
 #include "runtime/imports.h"
 #include "runtime/wrapped_objects.h"
@@ -18,6 +19,17 @@ bool read_capsule(const char* name, const CapsuleSlot* slots, int count) {
         *slots[i].target = table[slots[i].index];
     }
     return true;
+}
+
+bool import_pydrawing(const char* self_name) {
+    const Ref module = Ref::steal(
+        PyShImport_ImportRefModule(self_name, "korvan.pydrawing", RefVer_pydrawin_BDCFE46E));
+    return module &&
+           read_capsule("korvan.pydrawing._C_APITV1_Color",
+                        {capsule_slot(0, wrpPyl_convcaps_py_to_clr_A6FFC60D_Color),
+                         capsule_slot(1, wrpPyl_convcaps_clr_to_py_A6FFC60D_Color)}) &&
+           read_capsule("korvan.pydrawing._C_APITV1_RectangleF",
+                        {capsule_slot(1, wrpPyl_convcaps_clr_to_py_E41B503E_RectangleF)});
 }
 
 bool import_pyreflection(const char* self_name) {

@@ -24,6 +24,7 @@ template <int N> bool read_capsule(const char* name, const CapsuleSlot (&slots)[
 }
 
 // Each passes the version gate and reads the capsules. False with an exception.
+bool import_pydrawing(const char* self_name);
 bool import_pyreflection(const char* self_name);
 bool import_pygc(const char* self_name);
 

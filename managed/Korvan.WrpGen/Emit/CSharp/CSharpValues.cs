@@ -37,6 +37,7 @@ internal static class CSharpValues
         ValueKind.Guid => $"PyValues.ReadGuid({name})",
         ValueKind.Decimal => $"PyValues.ReadDecimal({name})",
         ValueKind.Version => $"PyValues.ReadVersion({name})",
+        ValueKind.DrawingColor => $"PyValues.ReadColor({name})",
         ValueKind.Nullable => $"{name}_has != 0 ? ({value.CSharpName}){Operand(value.Element!, name)} : null",
         ValueKind.AnyEnumerable => $"scope.AnyIterable({name})",
         _ when value.IsUntypedCollection => $"scope.{value.Kind}({name})",
@@ -101,6 +102,8 @@ internal static class CSharpValues
         ValueKind.Guid => "global::System.Guid",
         ValueKind.Decimal => "PyDecimalArg",
         ValueKind.Version => "PySysVersionArg",
+        ValueKind.DrawingColor => "ShlColorObject",
+        ValueKind.DrawingRectangle => "ShlRectangleFObject",
         ValueKind.Array => null,
         ValueKind.Stream => "PyCollectionArg",
         _ => value.IsTypedCollection || value.IsUntypedCollection ? "PyCollectionArg" : null,
@@ -132,6 +135,7 @@ internal static class CSharpValues
         ValueKind.Guid => "byte*",
         ValueKind.Decimal => "PyDecimalArg*",
         ValueKind.Version => "PySysVersionArg*",
+        ValueKind.DrawingColor => "ShlColorObject*",
         _ => NeedsScope(value) ? "VariantArg*" : NativeType(value),
     };
 
@@ -142,6 +146,8 @@ internal static class CSharpValues
         ValueKind.Guid => $"PyValues.WriteGuid({expression}, {target})",
         ValueKind.Decimal => $"PyValues.WriteDecimal({expression}, {target})",
         ValueKind.Version => $"PyValues.WriteVersion({expression}, {target})",
+        ValueKind.DrawingColor => $"PyValues.WriteColor({expression}, {target})",
+        ValueKind.DrawingRectangle => $"PyValues.WriteRectangle({expression}, {target})",
         ValueKind.Interface => $"References.Write({expression}, {target})",
         ValueKind.Class or ValueKind.List or >= ValueKind.AnyArray => $"References.WriteExact({expression}, {target})",
         _ => $"References.WriteAny({expression}, {target})",

@@ -90,6 +90,8 @@ internal static class CppValues
         ValueKind.Char => "char16",
         ValueKind.Enum => $"enumeration<{EnumType(value.Bound!)}>",
         ValueKind.Interface => "interface_",
+        ValueKind.DrawingColor => "drawing_color",
+        ValueKind.DrawingRectangle => "drawing_rectangle",
         ValueKind.AnyEnumerable => "any_iterable",
         _ => value.Kind.ToString().Replace("Any", "any_").ToLowerInvariant(),
     };

@@ -89,6 +89,8 @@ internal sealed class PythonTypes(string module, IReadOnlySet<string> shadowed)
         ValueKind.TimeSpan => "datetime.timedelta",
         ValueKind.Guid => "uuid.UUID",
         ValueKind.Decimal => "decimal.Decimal",
+        ValueKind.DrawingColor => Drawing("Color"),
+        ValueKind.DrawingRectangle => Drawing("RectangleF"),
         ValueKind.Version => $"{Builtin("tuple")}[{Builtin("int")}, ...]",
         ValueKind.IEnumerable => $"collections.abc.Iterable[{Result(value.Element!)}]",
         ValueKind.AnyEnumerable => "collections.abc.Iterable[typing.Any]",
@@ -98,6 +100,12 @@ internal sealed class PythonTypes(string module, IReadOnlySet<string> shadowed)
         ValueKind.Enum or ValueKind.Class or ValueKind.Struct or ValueKind.Interface => Name(value.Bound!),
         _ => Builtin("int"),
     };
+
+    private string Drawing(string name)
+    {
+        Imports.Add("korvan.pydrawing");
+        return "korvan.pydrawing." + name;
+    }
 
     private string View(string view, ValueUse value) => Support($"{view}[{Result(value.Element!)}]");
 
