@@ -9,7 +9,7 @@ says so, and the changed model is saved there; all else in the file stays as it 
 from __future__ import annotations
 
 import sys
-from collections.abc import Iterator
+from collections.abc import Iterable, Iterator
 from pathlib import Path
 from typing import Any
 
@@ -20,7 +20,11 @@ ROOT = Path(__file__).resolve().parent.parent
 MODEL = ROOT / "examples" / "drawings" / "garden_house.ifc"
 
 
-# Instances come as their own class, IfcWall2X3 or IfcWall4; what all editions share is asked for by name.
+def instances(model: IfcImage, entity: str) -> Iterable[Any]:
+    """All of an entity. They come as their own class, IfcWall2X3 or IfcWall4; here, what all editions share is used."""
+    return model.get_entities_of_type(entity)
+
+
 def definitions(element: Any) -> Iterator[Any]:
     """The property sets and quantities of an element."""
     for relation in element.is_defined_by:
@@ -45,7 +49,7 @@ def values(definition: Any) -> Iterator[tuple[str, object]]:
 def report(model: IfcImage) -> None:
     """Prints storeys, walls, properties and quantities."""
     print(f"{model.header.file_name.name}: {model.version.name}, {len(model.entities)} instances")
-    for storey in model.get_entities_of_type("IfcBuildingStorey"):
+    for storey in instances(model, "IfcBuildingStorey"):
         print(f"{storey.name}, elevation {storey.elevation}")
         for relation in storey.contains_elements:
             for element in relation.related_elements:
@@ -60,7 +64,7 @@ def add_missing_ratings(model: IfcImage) -> int:
     from korvan.cad.fileformats.ifc.ifc4 import entities, types
 
     count = 0
-    for wall in model.get_entities_of_type("IfcWall"):
+    for wall in instances(model, "IfcWall"):
         for common in definitions(wall):
             if common.name != "Pset_WallCommon" or "FireRating" in dict(values(common)):
                 continue

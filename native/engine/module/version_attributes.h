@@ -12,8 +12,8 @@ struct VersionNumbers {
     const char* view;
 };
 
-// Adds _ModuleVersionType, VERSION and _BACKWARD_COMPATIBILITY_THRESHOLD. 0, or the code of what
-// failed, with an exception pending.
+// Adds _ModuleVersionType, VERSION and _BACKWARD_COMPATIBILITY_THRESHOLD, and hangs the finished
+// module on its package. 0, or the code of what failed, with an exception pending.
 int add_version_attributes(PyObject* module, const char* type_name, const VersionNumbers& version,
                            const VersionNumbers& threshold);
 

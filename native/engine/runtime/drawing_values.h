@@ -1,4 +1,5 @@
-// runtime/drawing_values.h: colours and rectangles of korvan.pydrawing, which are Python values there.
+// runtime/drawing_values.h: colours and rectangles of korvan.pydrawing, which are Python values
+// there.
 #ifndef KORVAN_RUNTIME_DRAWING_VALUES_H
 #define KORVAN_RUNTIME_DRAWING_VALUES_H
 

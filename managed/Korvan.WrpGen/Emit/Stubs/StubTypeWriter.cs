@@ -96,9 +96,16 @@ internal sealed class StubTypeWriter
 
     private IEnumerable<string> Bases()
     {
-        yield return _type.Base is { } bound && _type.Kind == BoundKind.Class
-            ? _types.Name(bound)
-            : _types.Support("BoundObject");
+        TypeModel? bound = _type.Kind == BoundKind.Class ? _type.Base : null;
+        TypeModel[] interfaces = [.. OwnInterfaces(bound)];
+        if (bound is not null || interfaces.Length == 0)
+        {
+            yield return bound is null ? _types.Support("BoundObject") : _types.Name(bound);
+        }
+        foreach (TypeModel one in interfaces)
+        {
+            yield return _types.Name(one);
+        }
         string item = _type.ProtocolElement is { } element ? _types.Result(element) : "typing.Any";
         string? view = _type.Protocol switch
         {
@@ -114,6 +121,16 @@ internal sealed class StubTypeWriter
         {
             yield return _types.Support($"{view}[{item}]");
         }
+    }
+
+    // A parameter of an interface takes what implements it. At run time the types have no such bases: only a checker
+    // needs them. Those that another one brings along are left out.
+    private IEnumerable<TypeModel> OwnInterfaces(TypeModel? bound)
+    {
+        TypeModel[] all = [.. _type.Interfaces.Select(use => use.Interface)];
+        return all.Where(one =>
+            bound?.Interfaces.Any(use => use.Interface == one) != true &&
+            !all.Any(other => other.Interfaces.Any(use => use.Interface == one)));
     }
 
     private void WriteStaticValues()
