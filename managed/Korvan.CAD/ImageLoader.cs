@@ -1,6 +1,7 @@
 using System;
 using System.IO;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Ifc.Model;
@@ -79,8 +80,9 @@ internal static class ImageLoader
                 : format == FileFormat.Undefined
                 ? "is of no known format; its first bytes are not those of a drawing interchange file"
                 : $"is of format {format}, which cannot be read yet";
-            throw new ImageLoadException(
-                $"'{name}' {what}. Drawing interchange files (DXF), building models (IFC) and the usual pictures can be read.");
+            string message = $"'{name}' {what}. Drawing interchange files (DXF), building models (IFC) and the usual " +
+                "pictures can be read.";
+            throw format == FileFormat.Iges ? new IgesImageException(message) : new ImageLoadException(message);
         }
 
         Image image = format switch

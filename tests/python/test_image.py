@@ -114,6 +114,7 @@ class BadInput(unittest.TestCase):
             ("empty", "", "empty"),
             ("no drawing", "hello\nworld\n" * 20, "no known format"),
             ("binary", bytes(range(256)) * 8, "no known format"),
+            ("IGES", "\n".join(f"{'':72}S{number:7}" for number in range(1, 9)), "IgesImageException"),
             ("cut", self.plan[: len(self.plan) // 2], "line"),
             ("code", self.plan.replace("\n  0\nENDSEC", "\nxx\nENDSEC", 1), "'xx'"),
             ("no end", "0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n1.0\n", "ENTITIES"),

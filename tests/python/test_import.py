@@ -79,6 +79,25 @@ class Start(unittest.TestCase):
             done.stderr,
         )
 
+    def test_namespaces_are_packages_and_leaves_one_named_by_a_keyword(self) -> None:
+        done = run("""
+            import importlib, sys
+            import korvan.probe.inner.deep as deep
+            from korvan.probe.inner import Holder
+            keyword = importlib.import_module("korvan.probe.inner.import")
+            from korvan.probe import inner
+            print(keyword is getattr(inner, "import"), sys.modules["korvan.probe.inner.import"] is keyword)
+            print(inner.__package__, inner.__path__, keyword.__package__, hasattr(keyword, "__path__"))
+            print(isinstance(keyword.Reader().read(), deep.Leaf), Holder.__name__)
+            try:
+                importlib.import_module("korvan.probe.inner.nothing")
+            except ModuleNotFoundError as error:
+                print(error.name)
+            """)
+        self.assertEqual(done.stdout.splitlines(), [
+            "True True", "korvan.probe.inner [] korvan.probe.inner False", "True Holder", "korvan.probe.inner.nothing",
+        ], done.stderr)
+
     def test_two_modules_share_one_runtime(self) -> None:
         done = run(
             """

@@ -77,12 +77,23 @@ internal static class FormatDetector
         return head switch
         {
             _ when head.StartsWith("solid "u8) => FileFormat.Stl,
+            _ when IsIges(head) => FileFormat.Iges,
             _ when head.TrimStart("\uFEFF \t\r\n"u8).StartsWith("ISO-10303-21"u8) => StepFormat(head),
             _ when IsIfc2X3Xml(head) => FileFormat.IFC2X3,
             _ when head.IndexOf("<svg"u8) >= 0 => FileFormat.Svg,
             _ when head.IndexOf("<COLLADA"u8) >= 0 => FileFormat.Collada,
             _ => FileFormat.Undefined,
         };
+    }
+
+    // Records of 80 characters: the 73rd names the section, the others behind it count; the first section is "S"
+    // (IGES 5.3, 2.2.1).
+    private static bool IsIges(ReadOnlySpan<byte> head)
+    {
+        const int Section = 72;
+        const int RecordLength = 80;
+        return head.Length >= RecordLength && head[Section] == 'S' &&
+            head[(Section + 1)..RecordLength].TrimStart(" 0"u8).SequenceEqual("1"u8);
     }
 
     /// <summary>Tells a building model in XML of whatever edition.</summary>
