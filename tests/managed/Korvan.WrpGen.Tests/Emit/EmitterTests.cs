@@ -44,7 +44,7 @@ public class EmitterTests
         Assert.Equal(
             [
                 "korvan/probe/__init__.pyi", "korvan/probe/_typing.pyi", "korvan/probe/inner/__init__.pyi",
-                "korvan/probe/inner/deep/__init__.pyi",
+                "korvan/probe/inner/deep/__init__.pyi", "korvan/probe/inner/import/__init__.pyi",
             ],
             stubs.Keys);
         Snapshot.Matches("inner.pyi.txt", stubs["korvan/probe/inner/__init__.pyi"]);
