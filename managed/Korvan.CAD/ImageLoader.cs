@@ -139,7 +139,7 @@ internal static class ImageLoader
     private static byte[] ReadStream(Stream stream)
     {
         using MemoryStream copy = new();
-        stream.CopyTo(copy, 1 << 16);
+        stream.CopyTo(copy, 1 << 18); // a crossing a block, where the stream is Python's
         return copy.Length == copy.Capacity ? copy.GetBuffer() : copy.ToArray();
     }
 

@@ -110,7 +110,7 @@ def grown_blocks(body: Callable[[], object], rounds: int) -> int:
 
 class Leaks(unittest.TestCase):
     def test_conversions_leave_nothing_behind(self) -> None:
-        live, memory = echo.live(), resident_kib()
+        live = echo.live()
         for name, body in CLEAN.items():
             with self.subTest(name):
                 handles = probe._live_handles()
@@ -119,7 +119,11 @@ class Leaks(unittest.TestCase):
                 self.assertLess(grown, SLACK)
                 self.assertEqual(probe._live_handles(), handles)
         self.assertLess(echo.live() - live, SLACK, "managed objects")
-        self.assertLess(resident_kib() - memory, 40_000, "the collectors' own play is less")
+        # By now the managed collector has as much room as it wants; all of it once more takes none.
+        memory = resident_kib()
+        for body in CLEAN.values():
+            grown_blocks(body, ROUNDS)
+        self.assertLess(resident_kib() - memory, 20_000, "KiB of the process")
 
     def test_a_view_stays_behind_for_each_block_that_a_stream_was_given(self) -> None:
         # By contract: the stream may have kept it.

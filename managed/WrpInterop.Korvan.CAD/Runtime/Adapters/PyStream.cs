@@ -9,20 +9,37 @@ namespace Korvan.WrpGen.Interop;
 /// </summary>
 public sealed class PyStream : Stream, IPyAdapter
 {
-    private const int BlockSize = 64 * 1024;
+    private const int BlockSize = 256 * 1024;
+
+    // The block of a call that is over serves the next one: blocks of this size are dear to allocate. Calls run one at
+    // a time, under the interpreter lock; one within another makes its own.
+    private static BufferedStream? s_spare;
 
     private readonly PyReference _reference;
     private readonly PyRawStream _raw;
     private readonly Stream _target;
     private bool _isClosed;
     private bool _isSettled;
+    private bool _isClean;
 
     internal PyStream(PyReference reference, bool isBuffered)
     {
         _reference = reference;
         _raw = new PyRawStream(reference);
         // Reading ahead of what can't go back would lose bytes.
-        _target = isBuffered && (_raw.CanSeek || !_raw.CanRead) ? new BufferedStream(_raw, BlockSize) : _raw;
+        if (!isBuffered || (!_raw.CanSeek && _raw.CanRead))
+        {
+            _target = _raw;
+            return;
+        }
+        BufferedStream? spare = s_spare;
+        s_spare = null;
+        if (spare?.UnderlyingStream is PyRawStream kept)
+        {
+            kept.Retarget(_raw);
+            _raw = kept;
+        }
+        _target = spare ?? new BufferedStream(_raw, BlockSize);
     }
 
     public nint PyObject => _reference.Value;
@@ -75,6 +92,7 @@ public sealed class PyStream : Stream, IPyAdapter
         {
             _isSettled = true;
             _target.Flush();
+            _isClean = true;
         }
     }
 
@@ -97,6 +115,11 @@ public sealed class PyStream : Stream, IPyAdapter
 
     void IPyAdapter.End()
     {
+        if (_isClean && !_isClosed && _target is BufferedStream buffered)
+        {
+            _raw.Retarget(null);
+            s_spare = buffered;
+        }
         _isClosed = true;
         _reference.End();
     }
@@ -125,20 +148,36 @@ internal sealed unsafe class PyRawStream(PyReference reference) : Stream
     private bool? _canSeek;
     private bool? _canWrite;
 
+    private PyReference? _reference = reference;
+
+    private nint File => _reference is { } file
+        ? file.Value
+        : throw new ObjectDisposedException(nameof(PyStream));
+
     /// <summary>Gets a value indicating whether the Python stream failed once.</summary>
     internal bool HasFailed { get; private set; }
 
-    public override bool CanRead => _canRead ??= Answer(PyRawIO.Readable(reference.Value));
+    /// <summary>Takes over the file object of another stream and what it answered; null for none.</summary>
+    internal void Retarget(PyRawStream? other)
+    {
+        _reference = other?._reference;
+        _canRead = other?._canRead;
+        _canSeek = other?._canSeek;
+        _canWrite = other?._canWrite;
+        HasFailed = false;
+    }
 
-    public override bool CanSeek => _canSeek ??= Answer(PyRawIO.Seekable(reference.Value));
+    public override bool CanRead => _canRead ??= Answer(PyRawIO.Readable(File));
 
-    public override bool CanWrite => _canWrite ??= Answer(PyRawIO.Writable(reference.Value));
+    public override bool CanSeek => _canSeek ??= Answer(PyRawIO.Seekable(File));
+
+    public override bool CanWrite => _canWrite ??= Answer(PyRawIO.Writable(File));
 
     public override long Length
     {
         get
         {
-            long length = PyRawIO.Length(reference.Value);
+            long length = PyRawIO.Length(File);
             switch (length)
             {
                 case Closed:
@@ -153,11 +192,11 @@ internal sealed unsafe class PyRawStream(PyReference reference) : Stream
 
     public override long Position
     {
-        get => Checked(PyRawIO.Tell(reference.Value));
+        get => Checked(PyRawIO.Tell(File));
         set => Seek(value, SeekOrigin.Begin);
     }
 
-    public override void Flush() => Checked(PyRawIO.Flush(reference.Value));
+    public override void Flush() => Checked(PyRawIO.Flush(File));
 
     public override int Read(byte[] buffer, int offset, int count)
     {
@@ -173,7 +212,7 @@ internal sealed unsafe class PyRawStream(PyReference reference) : Stream
         }
         fixed (byte* start = buffer)
         {
-            int count = Counted(PyRawIO.Read(reference.Value, start, buffer.Length), buffer.Length);
+            int count = Counted(PyRawIO.Read(File, start, buffer.Length), buffer.Length);
             if (count > 0)
             {
                 return count;
@@ -191,7 +230,7 @@ internal sealed unsafe class PyRawStream(PyReference reference) : Stream
 
     public override int ReadByte()
     {
-        int next = PyRawIO.ReadByte(reference.Value);
+        int next = PyRawIO.ReadByte(File);
         if (next == NoByte)
         {
             Checked(Failure);
@@ -200,12 +239,12 @@ internal sealed unsafe class PyRawStream(PyReference reference) : Stream
     }
 
     public override long Seek(long offset, SeekOrigin origin) =>
-        Checked(PyRawIO.Seek(reference.Value, offset, (int)origin));
+        Checked(PyRawIO.Seek(File, offset, (int)origin));
 
     public override void SetLength(long value)
     {
         ArgumentOutOfRangeException.ThrowIfNegative(value);
-        Checked(PyRawIO.Truncate(reference.Value, value));
+        Checked(PyRawIO.Truncate(File, value));
     }
 
     public override void Write(byte[] buffer, int offset, int count)
@@ -221,18 +260,18 @@ internal sealed unsafe class PyRawStream(PyReference reference) : Stream
             for (int written = 0; written < buffer.Length;)
             {
                 int left = buffer.Length - written;
-                written += Taken(PyRawIO.Write(reference.Value, start + written, left), left);
+                written += Taken(PyRawIO.Write(File, start + written, left), left);
             }
         }
     }
 
-    public override void WriteByte(byte value) => Taken(PyRawIO.WriteByte(reference.Value, value), 1);
+    public override void WriteByte(byte value) => Taken(PyRawIO.WriteByte(File, value), 1);
 
     protected override void Dispose(bool disposing)
     {
         if (disposing)
         {
-            PyRawIO.Close(reference.Value);
+            PyRawIO.Close(File);
         }
         base.Dispose(disposing);
     }
