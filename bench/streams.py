@@ -30,6 +30,15 @@ class Counting(io.RawIOBase):
     def writable(self) -> bool:
         return True
 
+    def seekable(self) -> bool:
+        return True
+
+    def seek(self, offset: int, whence: int = 0) -> int:
+        return self.below.seek(offset, whence)
+
+    def tell(self) -> int:
+        return self.below.tell()
+
     def readinto(self, buffer: memoryview) -> int:
         self.calls += 1
         return self.below.readinto(buffer)
