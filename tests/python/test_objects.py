@@ -258,5 +258,19 @@ class Markers(unittest.TestCase):
         self.assertEqual(probe.HiddenShape.__dict__["_implicit_interfaces"], set())
 
 
+class MostDerived(unittest.TestCase):
+    def test_results_and_items_come_as_the_class_that_they_are_of(self) -> None:
+        wheel = probe.Part.make(True)
+        self.assertEqual((type(wheel), type(probe.Part.make(False)), wheel.spokes), (probe.Wheel, probe.Part, 8))
+        part = probe.Part()
+        self.assertIsNone(part.inner)
+        part.inner = wheel
+        self.assertEqual((type(part.inner), part.inner), (probe.Wheel, wheel))
+        part.parts.extend([probe.Part(), wheel, wheel])
+        for items in (list(part.parts), part.parts[:], part.parts.copy(), [part.parts[i] for i in range(3)]):
+            self.assertEqual([type(item) for item in items], [probe.Part, probe.Wheel, probe.Wheel])
+        self.assertIs(type(part.parts.pop()), probe.Wheel)
+
+
 if __name__ == "__main__":
     unittest.main()
