@@ -84,6 +84,11 @@ public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader
     public override void Dither(DitheringMethod ditheringMethod, int bitsCount, IColorPalette? customPalette)
     {
         VerifyNotDisposed();
+        if (!Enum.IsDefined(ditheringMethod))
+        {
+            throw new ArgumentOutOfRangeException(nameof(ditheringMethod), ditheringMethod, "There is no such pattern.");
+        }
+
         int[] palette = Raster.Colors.DitherPalette.For(_pixels, bitsCount, customPalette);
         if (Array.TrueForAll(palette, PixelGrid.IsGray))
         {

@@ -68,12 +68,11 @@ public abstract partial class RasterImage
     public void RotateFlip(RotateFlipType rotateFlipType)
     {
         VerifyNotDisposed();
+        Replace(Turns.Turn(Pixels, rotateFlipType));
         if (((int)rotateFlipType & 1) != 0)
         {
             (HorizontalResolution, VerticalResolution) = (VerticalResolution, HorizontalResolution);
         }
-
-        Replace(Turns.Turn(Pixels, rotateFlipType));
     }
 
     /// <summary>Turns clockwise around the middle; the picture becomes as large as the turned one.</summary>
@@ -190,6 +189,11 @@ public abstract partial class RasterImage
         if (matrix.Length != 25 || !Array.TrueForAll(matrix, float.IsFinite))
         {
             throw new ArgumentException($"A colour matrix has 25 finite numbers; {matrix.Length} were given.", nameof(matrix));
+        }
+
+        if (!Enum.IsDefined(flag))
+        {
+            throw new ArgumentOutOfRangeException(nameof(flag), flag, "There is no such choice of colours.");
         }
 
         Tones.Matrix(Pixels, matrix, flag);

@@ -204,13 +204,15 @@ public partial class ExifData
         }
 
         ArgumentOutOfRangeException.ThrowIfGreaterThan(Math.Abs(value), most, nameof(value));
-        double size = Math.Abs(value);
-        double minutes = (size - Math.Floor(size)) * 60;
+
+        // Rounded as a whole, so that no part becomes 60.
+        const long second = 100_000;
+        long size = (long)Math.Round(Math.Abs(value) * 3600 * second);
         GpsTags.Directory.Set(new TiffRationalType((int)angle,
         [
-            new TiffRational((long)size, 1),
-            new TiffRational((long)minutes, 1),
-            new TiffRational((long)Math.Round((minutes - Math.Floor(minutes)) * 60 * 100_000), 100_000),
+            new TiffRational(size / (3600 * second), 1),
+            new TiffRational(size / (60 * second) % 60, 1),
+            new TiffRational(size % (60 * second), second),
         ]));
         GpsTags.SetText(reference, value < 0 ? negative : positive);
     }

@@ -67,7 +67,7 @@ public class TiffDataTypeController
     /// <param name="property">The number of the field.</param>
     public double[] GetNumbers(ExifProperties property) => (GetTag(property) as TiffCommonArrayType)?.ToDoubles() ?? [];
 
-    /// <summary>Sets a number in the type that the field has, or 16 bits where it is new.</summary>
+    /// <summary>Sets a number in the type that the field has, or 16 bits where it is new or too large for that.</summary>
     /// <param name="property">The number of the field.</param>
     /// <param name="value">The number, 0 to 65535.</param>
     public void SetNumber(ExifProperties property, int value)
@@ -75,8 +75,8 @@ public class TiffDataTypeController
         Directory.Set(GetTag(property)?.TagType switch
         {
             TiffDataTypes.Long => new TiffLongType((int)property, [value]),
-            TiffDataTypes.Byte => new TiffByteType((int)property, [checked((byte)value)]),
-            TiffDataTypes.Undefined => new TiffUndefinedType((int)property, [checked((byte)value)]),
+            TiffDataTypes.Byte when value is >= 0 and <= 255 => new TiffByteType((int)property, [(byte)value]),
+            TiffDataTypes.Undefined when value is >= 0 and <= 255 => new TiffUndefinedType((int)property, [(byte)value]),
             _ => new TiffShortType((int)property, [value]),
         });
     }

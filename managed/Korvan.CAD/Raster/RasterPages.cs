@@ -49,7 +49,7 @@ internal static class PageChoice
         {
             MultiPageMode.Pages => [.. options.Pages],
             MultiPageMode.Titles => [.. options.PageTitles.Select(title => Find(pages, title))],
-            MultiPageMode.Range when options.FirstPage >= 0 && (uint)options.PageCount <= (uint)(count - options.FirstPage) =>
+            MultiPageMode.Range when (uint)options.FirstPage <= (uint)count && (uint)options.PageCount <= (uint)(count - options.FirstPage) =>
                 [.. Enumerable.Range(options.FirstPage, options.PageCount)],
             MultiPageMode.Range => throw new ImageSaveException(
                 $"There are {count} pages; {options.PageCount} of them from {options.FirstPage} on do not exist."),

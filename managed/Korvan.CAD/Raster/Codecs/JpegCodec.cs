@@ -81,6 +81,11 @@ internal static unsafe class JpegCodec
             throw new JpegException($"'{source.Name}' is no JPEG that can be read: {TurboJpeg.Error(handle)}.");
         }
 
+        if (width < 1 || height < 1)
+        {
+            throw new JpegException($"'{source.Name}' is no JPEG that can be read: it ends before the head of a picture.");
+        }
+
         if ((long)width * height > length * MostPixelsPerByte)
         {
             throw new JpegException($"'{source.Name}' claims {width} × {height} pixels, which its {length} bytes cannot hold.");

@@ -11,6 +11,8 @@ namespace Korvan.CAD.Raster.Codecs;
 internal static unsafe class PngReader
 {
     /// <summary>Deflate makes at most 1032 bytes of one, each of up to eight pixels.</summary>
+    private const int DepthAt = 24;
+    private const int InterlaceAt = 28;
     private const long MostPixelsPerByte = 1032 * 8;
 
     private const double MetresPerInch = 0.0254;
@@ -44,6 +46,12 @@ internal static unsafe class PngReader
 
     private static PixelGrid Pixels(RasterSource source)
     {
+        // libpng's reader for memory gives wrong pixels for these.
+        if (source.Data.Length > InterlaceAt && source.Data[DepthAt] == 16 && source.Data[InterlaceAt] != 0)
+        {
+            throw new PngImageException($"'{source.Name}' stores 16 bits a sample and is interlaced, which is not read.");
+        }
+
         Png.State image = default;
         image.Version = Png.Version;
         fixed (byte* data = source.Data)

@@ -60,16 +60,13 @@ internal static unsafe class TiffReader
         var pixels = new PixelGrid((int)width, (int)height);
         try
         {
-            int orientation = (int)TiffOrientations.TopLeft;
-            var raster = (uint*)pixels.Pointer;
-            int stop = source.Lenient ? 0 : 1;
-            bool done = Tiff.ReadRgba(tiff.Value, (uint)width, (uint)height, raster, orientation, stop) == 1;
+            bool plain = TiffPlainRows.Fits(tiff.Value, pixels.Width);
+            bool done = plain ? TiffPlainRows.Read(tiff.Value, pixels) : ReadMultiplied(tiff, source, pixels);
             if (!done && !source.Lenient)
             {
                 throw Damaged(tiff, source);
             }
 
-            ToPlain(pixels);
             return Frame(tiff, pixels);
         }
         catch
@@ -77,6 +74,16 @@ internal static unsafe class TiffReader
             pixels.Dispose();
             throw;
         }
+    }
+
+    private static bool ReadMultiplied(TiffHandle tiff, RasterSource source, PixelGrid pixels)
+    {
+        int orientation = (int)TiffOrientations.TopLeft;
+        var raster = (uint*)pixels.Pointer;
+        int stop = source.Lenient ? 0 : 1;
+        bool done = Tiff.ReadRgba(tiff.Value, (uint)pixels.Width, (uint)pixels.Height, raster, orientation, stop) == 1;
+        ToPlain(pixels);
+        return done;
     }
 
     private static void VerifyConvertible(TiffHandle tiff, RasterSource source)

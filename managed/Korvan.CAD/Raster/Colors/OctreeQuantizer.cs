@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Linq;
 
 namespace Korvan.CAD.Raster.Colors;
 
@@ -37,10 +38,12 @@ internal static class OctreeQuantizer
             }
         }
 
-        List<int> chosen = [];
+        List<Node> chosen = [];
         Collect(root, chosen);
-        chosen.Sort();
-        return [.. chosen];
+        Join(chosen, most);
+        int[] means = [.. chosen.ConvertAll(static node => node.Mean())];
+        Array.Sort(means);
+        return means;
     }
 
     private static void Insert(Node root, int color, long count, List<Node>[] levels)
@@ -63,7 +66,21 @@ internal static class OctreeQuantizer
         }
     }
 
-    private static void Collect(Node node, List<int> chosen)
+    // The first level has eight branches; fewer colours are reached by joining the rarest with its neighbour.
+    private static void Join(List<Node> chosen, int most)
+    {
+        while (chosen.Count > most)
+        {
+            chosen.Sort(static (a, b) => a.Count.CompareTo(b.Count));
+            Node rarest = chosen[0];
+            chosen.RemoveAt(0);
+            int color = rarest.Mean();
+            Node? nearest = chosen.MinBy(node => PaletteLookup.Distance(color, node.Mean(), ColorCompareMethod.Euclidean));
+            nearest!.Absorb(rarest);
+        }
+    }
+
+    private static void Collect(Node node, List<Node> chosen)
     {
         bool leaf = true;
         foreach (Node? child in node.Children)
@@ -77,7 +94,7 @@ internal static class OctreeQuantizer
 
         if (leaf)
         {
-            chosen.Add(node.Mean());
+            chosen.Add(node);
         }
     }
 
@@ -97,6 +114,16 @@ internal static class OctreeQuantizer
             }
 
             Count += count;
+        }
+
+        internal void Absorb(Node other)
+        {
+            for (int i = 0; i < 4; i++)
+            {
+                sums[i] += other.sums[i];
+            }
+
+            Count += other.Count;
         }
 
         /// <summary>Becomes a leaf; gives how many leaves were under it, which all are leaves by now.</summary>

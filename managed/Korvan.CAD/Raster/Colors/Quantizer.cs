@@ -24,7 +24,8 @@ internal static class Quantizer
                 [.. visible.OrderByDescending(static c => c.Value).Take(room).Select(static c => c.Key)],
             ColorQuantizationMethod.Octree => OctreeQuantizer.Choose(visible, room),
             ColorQuantizationMethod.Uniform => Uniform(room),
-            _ => MedianCut(visible, room),
+            ColorQuantizationMethod.MedianCut => MedianCut(visible, room),
+            _ => throw new ArgumentOutOfRangeException(nameof(method), method, "There is no such way to choose colours."),
         };
         return transparent ? [0, .. chosen] : chosen;
     }

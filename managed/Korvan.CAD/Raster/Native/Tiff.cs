@@ -62,6 +62,15 @@ internal static unsafe partial class Tiff
     [LibraryImport(Library, EntryPoint = "TIFFReadRGBAImageOriented")]
     internal static partial int ReadRgba(nint tiff, uint width, uint height, uint* raster, int orientation, int stopOnError);
 
+    [LibraryImport(Library, EntryPoint = "TIFFReadScanline")]
+    internal static partial int ReadScanline(nint tiff, byte* row, uint y, ushort sample);
+
+    [LibraryImport(Library, EntryPoint = "TIFFScanlineSize")]
+    internal static partial nint ScanlineSize(nint tiff);
+
+    [LibraryImport(Library, EntryPoint = "TIFFIsTiled")]
+    internal static partial int IsTiled(nint tiff);
+
     [LibraryImport("libc", EntryPoint = "vsnprintf")]
     private static partial int Format(byte* buffer, nuint size, byte* format, nint arguments);
 
@@ -94,6 +103,17 @@ internal static unsafe partial class Tiff
         nint place = (nint)(&value);
         ArgumentList list = ArgumentList.Over(&place);
         return GetField(tiff, (uint)tag, &list) == 1 ? (uint)value : 0;
+    }
+
+    /// <summary>Gets what the first sample past the colour means; -1 where there is none.</summary>
+    internal static int FirstExtraSample(nint tiff)
+    {
+        ulong count = 0;
+        ushort* meanings = null;
+        nint* places = stackalloc nint[2];
+        (places[0], places[1]) = ((nint)(&count), (nint)(&meanings));
+        ArgumentList list = ArgumentList.Over(places);
+        return GetField(tiff, (uint)FileFormats.Tiff.Enums.TiffTags.ExtraSamples, &list) == 1 && (ushort)count > 0 ? meanings[0] : -1;
     }
 
     internal static float GetReal(nint tiff, int tag)

@@ -62,10 +62,12 @@ internal static class Filters
                 sums.Clear();
                 for (int k = 0; k < weights.Length; k++)
                 {
-                    Add(sums, At(from, x + ((k - half) * stepX), y + ((k - half) * stepY)), weights[k]);
+                    int pixel = At(from, x + ((k - half) * stepX), y + ((k - half) * stepY));
+                    double seen = weights[k] * (pixel >>> 24);
+                    Add(sums, pixel | PixelGrid.Opaque, seen);
                 }
 
-                row[x] = Pack(sums);
+                row[x] = Plain(sums);
             }
         }
 
@@ -193,6 +195,19 @@ internal static class Filters
         sums[1] += ((pixel >> 8) & 255) * weight;
         sums[2] += ((pixel >> 16) & 255) * weight;
         sums[3] += (pixel >>> 24) * weight;
+    }
+
+    // Colours were counted by their opacity, or what is invisible would show at edges.
+    private static int Plain(Span<double> sums)
+    {
+        double seen = sums[3] / 255;
+        for (int c = 0; c < 3; c++)
+        {
+            sums[c] = seen > 0 ? sums[c] / seen : 0;
+        }
+
+        sums[3] = seen;
+        return Pack(sums);
     }
 
     private static int Pack(ReadOnlySpan<double> sums)

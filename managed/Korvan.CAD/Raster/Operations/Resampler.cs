@@ -123,7 +123,7 @@ internal static class Resampler
                 continue;
             }
 
-            Vector4 plain = (value * (255 / Math.Clamp(value.W, 1, 255))) + new Vector4(0.5f);
+            Vector4 plain = (value * (255 / Math.Clamp(value.W, 0.5f, 255))) + new Vector4(0.5f);
             plain = Vector4.Clamp(plain, Vector4.Zero, new Vector4(255));
             to[x] = (alpha << 24) | ((int)plain.Z << 16) | ((int)plain.Y << 8) | (int)plain.X;
         }

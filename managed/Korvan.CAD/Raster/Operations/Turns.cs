@@ -5,9 +5,16 @@ namespace Korvan.CAD.Raster.Operations;
 /// <summary>Turns and mirrors pictures.</summary>
 internal static class Turns
 {
+    private const uint Half = 0x800080; // of both channels, so that sums are rounded
+
     /// <summary>Quarter turns clockwise first, then the mirroring from left to right.</summary>
     internal static PixelGrid Turn(PixelGrid from, RotateFlipType type)
     {
+        if ((uint)type > 7)
+        {
+            throw new ArgumentOutOfRangeException(nameof(type), type, "There is no such turn.");
+        }
+
         int quarters = (int)type & 3;
         bool mirror = ((int)type & 4) != 0;
         bool swap = (quarters & 1) != 0;
@@ -76,21 +83,49 @@ internal static class Turns
             return background;
         }
 
-        int across = (int)((x - left) * 256);
-        int down = (int)((y - top) * 256);
-        int upper = Mix(At(from, left, top, background), At(from, left + 1, top, background), across);
-        int lower = Mix(At(from, left, top + 1, background), At(from, left + 1, top + 1, background), across);
-        return Mix(upper, lower, down);
+        // Rounded, or angles whose sine is only nearly 0 would mix in a neighbour.
+        int across = (int)Math.Round((x - left) * 256);
+        int down = (int)Math.Round((y - top) * 256);
+        int a = At(from, left, top, background);
+        int b = At(from, left + 1, top, background);
+        int c = At(from, left, top + 1, background);
+        int d = At(from, left + 1, top + 1, background);
+        return (a & b & c & d & PixelGrid.Opaque) == PixelGrid.Opaque
+            ? Mix(Mix(a, b, across), Mix(c, d, across), down)
+            : MixByOpacity([a, b, c, d], [(256 - across) * (256 - down), across * (256 - down), (256 - across) * down, across * down]);
     }
 
     private static int At(PixelGrid from, int x, int y, int background) =>
         (uint)x < (uint)from.Width && (uint)y < (uint)from.Height ? from.Row(y)[x] : background;
 
+    // Colours count by their opacity, or what is invisible would show at edges.
+    private static int MixByOpacity(ReadOnlySpan<int> pixels, ReadOnlySpan<int> shares)
+    {
+        Span<double> sums = stackalloc double[4];
+        for (int i = 0; i < pixels.Length; i++)
+        {
+            double seen = (double)(pixels[i] >>> 24) * shares[i];
+            sums[3] += seen;
+            for (int channel = 0; channel < 3; channel++)
+            {
+                sums[channel] += ((pixels[i] >> (8 * channel)) & 255) * seen;
+            }
+        }
+
+        int result = (int)Math.Round(sums[3] / 65536) << 24;
+        for (int channel = 0; channel < 3 && result != 0; channel++)
+        {
+            result |= (int)Math.Round(sums[channel] / sums[3]) << (8 * channel);
+        }
+
+        return result;
+    }
+
     // Two channels at a time: their sums do not touch.
     private static int Mix(int one, int other, int share)
     {
-        uint low = (((uint)one & 0xFF00FF) * (uint)(256 - share)) + (((uint)other & 0xFF00FF) * (uint)share);
-        uint high = ((((uint)one >> 8) & 0xFF00FF) * (uint)(256 - share)) + ((((uint)other >> 8) & 0xFF00FF) * (uint)share);
+        uint low = (((uint)one & 0xFF00FF) * (uint)(256 - share)) + (((uint)other & 0xFF00FF) * (uint)share) + Half;
+        uint high = ((((uint)one >> 8) & 0xFF00FF) * (uint)(256 - share)) + ((((uint)other >> 8) & 0xFF00FF) * (uint)share) + Half;
         return (int)(((low >> 8) & 0xFF00FF) | (high & 0xFF00FF00));
     }
 }
