@@ -3,17 +3,21 @@
 from __future__ import annotations
 
 import io
+import math
 import subprocess
 import tempfile
 import unittest
 from pathlib import Path
+from typing import BinaryIO
 
 from drawings import EXAMPLES
 from korvan import cad
 from korvan.cad.exif import JpegExifData
+from korvan.cad.exif.enums import ExifOrientation
 from korvan.cad.fileformats.bitmap import BitmapImage
 from korvan.cad.fileformats.bmp import BitmapCompression
 from korvan.cad.fileformats.jpeg import JpegCompressionMode
+from korvan.cad.fileformats.tiff import TiffRational
 from korvan.cad.fileformats.tiff.enums import TiffCompressions, TiffExpectedFormat
 from korvan.cad.imageoptions import (
     BmpOptions,
@@ -42,15 +46,15 @@ def page(options: ImageOptionsBase, width: float = 300.0) -> ImageOptionsBase:
     return options
 
 
-def drawn(options: ImageOptionsBase) -> io.BytesIO:
+def drawn(options: ImageOptionsBase, width: float = 300.0) -> io.BytesIO:
     target = io.BytesIO()
     with cad.Image.load(PLAN) as plan:
-        plan.save(target, page(options))
+        plan.save(target, page(options, width))
     target.seek(0)
     return target
 
 
-def load(source: io.BytesIO) -> cad.RasterImage:
+def load(source: BinaryIO) -> cad.RasterImage:
     return cad.RasterImage._cast_to(cad.Image.load(source)).value
 
 
@@ -167,6 +171,111 @@ class Settings(unittest.TestCase):
             cad.Cache.set_cache_type(1)
         with self.assertRaisesRegex(TypeError, "type has no available constructor"):
             cad.Cache()
+
+
+class Surface(unittest.TestCase):
+    """What Python sees: types of results, enums, wrong arguments and streams."""
+
+    def setUp(self) -> None:
+        self.image = load(drawn(PngOptions(), 60.0))
+
+    def test_results_have_the_types_of_their_declarations(self) -> None:
+        image = self.image
+        expected = (
+            (image.width, int), (image.horizontal_resolution, float), (image.has_alpha, bool), (image.page_count, int),
+            (image.page_title, str), (image.file_format, cad.FileFormat), (image.bounds, cad.Rectangle),
+            (image.get_pixel(0, 0), cad.Color), (image.get_argb_32_pixel(0, 0), int), (image.raw_data_settings, cad.RawDataSettings),
+        )
+        for value, kind in expected:
+            self.assertIsInstance(value, kind)
+        self.assertIsNone(image.exif_data)
+        self.assertIsNone(image.xmp_data)
+        self.assertEqual([type(pixel) for pixel in image.load_pixels(cad.Rectangle(0, 0, 2, 1))], [cad.Color] * 2)
+        self.assertEqual(image.raw_data_settings.pixel_data_format, cad.PixelDataFormat.rgb_32_bpp)
+        self.assertEqual(list(cad.PixelDataFormat.rgb_16_bpp565.channel_bits), [5, 6, 5])
+
+    def test_wrong_arguments_change_nothing(self) -> None:
+        image, block = self.image, cad.Rectangle(0, 0, 2, 2)
+        before = list(image.load_argb_32_pixels(image.bounds))
+        wrong_types = (
+            lambda: image.get_pixel("0", 0), lambda: image.get_pixel(0), lambda: image.get_pixel(0.5, 0),
+            lambda: image.set_pixel(0, 0, "red"), lambda: image.rotate_flip("up"),
+            lambda: image.load_raw_data(block, None, 1), lambda: image.resize(5, 5, "lanczos"), lambda: image.filter(3, None),
+        )
+        for number, call in enumerate(wrong_types):
+            with self.subTest(number), self.assertRaises(TypeError):
+                call()
+        wrong_values = (
+            (lambda: image.save_argb_32_pixels(block, [0] * 3), "4|2 × 2"), (lambda: image.get_pixel(-1, 0), "does not lie"),
+            (lambda: image.resize(0, 5), "no area"), (lambda: image.crop(cad.Rectangle(50, 0, 20, 1)), "does not lie"),
+            (lambda: image.get_page(1), "1 pages"), (lambda: image.set_resolution(0.0, 1.0), "ArgumentOutOfRange"),
+            (lambda: image.adjust_gamma(-1.0), "above 0"), (lambda: image.filter(cad.ImageFilterType.BOX, 4), "odd"),
+            (lambda: image.save_raw_data(b"123", block, cad.RawDataSettings(cad.PixelDataFormat.rgb_24_bpp, 2)), "need 12"),
+            (lambda: image.save_argb_32_pixels(block, ["a"] * 4), "TypeError: integer argument expected"),
+            (lambda: image.dither(cad.DitheringMethod.ORDERED, 9), "1 to 8"),
+        )
+        for number, (call, why) in enumerate(wrong_values):
+            with self.subTest(number), self.assertRaisesRegex(RuntimeError, why):
+                call()
+        with self.assertRaises((OverflowError, TypeError)):
+            image.get_pixel(1 << 40, 0)
+        self.assertEqual(list(image.load_argb_32_pixels(image.bounds)), before)
+
+    def test_turns_are_permutations_whose_names_agree(self) -> None:
+        kind = cad.RotateFlipType
+        self.assertEqual(kind.ROTATE_180_FLIP_X, kind.ROTATE_NONE_FLIP_Y)
+        self.image.resize(4, 3, cad.ResizeType.NEAREST_NEIGHBOUR)
+        self.image.save_argb_32_pixels(self.image.bounds, list(range(12)))
+        order = ((kind.ROTATE_90_FLIP_NONE, [8, 4, 0, 9, 5, 1, 10, 6, 2, 11, 7, 3]),
+                 (kind.ROTATE_90_FLIP_NONE, list(range(11, -1, -1))), (kind.ROTATE_NONE_FLIP_X, [8, 9, 10, 11, 4, 5, 6, 7, 0, 1, 2, 3]),
+                 (kind.ROTATE_NONE_FLIP_Y, list(range(12))))
+        for turn, expected in order:
+            self.image.rotate_flip(turn)
+            self.assertEqual(list(self.image.load_argb_32_pixels(self.image.bounds)), expected)
+
+    def test_pictures_go_through_streams_of_python(self) -> None:
+        expected = list(self.image.load_argb_32_pixels(self.image.bounds))
+        with tempfile.TemporaryDirectory() as folder:
+            path = Path(folder, "picture.any")
+            for options in (PngOptions(), TiffOptions(), BmpOptions(), WebPOptions(), PsdOptions(), DicomOptions()):
+                with self.subTest(type(options).__name__):
+                    with path.open("wb") as file:
+                        self.image.save(file, options)
+                    with path.open("rb") as file:
+                        self.assertEqual(list(load(file).load_argb_32_pixels(self.image.bounds)), expected)
+                    self.assertEqual(cad.Image.get_file_format(str(path)), options.target_format)
+                    self.assertTrue(cad.Image.can_load(str(path)))
+            path.write_bytes(b"BM" + bytes(60))
+            with self.assertRaisesRegex(RuntimeError, r"BmpImageException.*picture\.any"):
+                cad.Image.load(str(path))
+        with self.assertRaises(TypeError):
+            cad.Image.load(io.StringIO("BM"))
+
+    def test_pixels_of_a_closed_picture_are_gone(self) -> None:
+        with self.image as image:
+            image.grayscale()
+        for call in (lambda: image.get_pixel(0, 0), image.grayscale, lambda: image.load_pixels(cad.Rectangle(0, 0, 1, 1))):
+            with self.assertRaisesRegex(RuntimeError, "ObjectDisposedException"):
+                call()
+
+    def test_fields_of_a_camera_hold_values_of_python(self) -> None:
+        exif = JpegExifData()
+        self.assertIsNone(exif.exposure_time)
+        self.assertTrue(math.isnan(exif.gps_latitude))
+        exif.exposure_time = TiffRational(1, 4_000_000_000)
+        exif.gps_latitude = -89.9999999999
+        exif.thumbnail_data = b"\xff\xd8\xff\xd9"
+        exif.orientation = ExifOrientation.LEFT_BOTTOM
+        back = JpegExifData(bytes(exif.serialize_data()))
+        self.assertEqual((back.exposure_time.numerator, back.exposure_time.denominator), (1, 4_000_000_000))
+        self.assertAlmostEqual(back.gps_latitude, -90, 6)
+        self.assertEqual((bytes(back.thumbnail_data), back.orientation), (b"\xff\xd8\xff\xd9", ExifOrientation.LEFT_BOTTOM))
+        with self.assertRaisesRegex(RuntimeError, "JpegException"):
+            exif.thumbnail_data = b"none"
+        with self.assertRaises(TypeError):
+            exif.make = 5
+        with self.assertRaisesRegex(RuntimeError, "TiffImageException"):
+            JpegExifData(b"II*")
 
 
 class Metadata(unittest.TestCase):
