@@ -27,7 +27,7 @@ public struct Vector2F : IEquatable<Vector2F>
     public readonly bool IsEmpty => X == 0 && Y == 0;
 
     /// <summary>Gets the Euclidean length.</summary>
-    public readonly float Length => MathF.Sqrt((X * X) + (Y * Y));
+    public readonly float Length => (float)Math.Sqrt(((double)X * X) + ((double)Y * Y));
 
     /// <summary>Compares two values part by part.</summary>
     public static bool operator ==(Vector2F left, Vector2F right) => left.Equals(right);

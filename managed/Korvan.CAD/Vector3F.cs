@@ -32,7 +32,10 @@ public struct Vector3F : IEquatable<Vector3F>
     public readonly bool IsEmpty => this == Empty;
 
     /// <summary>Gets the Euclidean length.</summary>
-    public readonly float Length => MathF.Sqrt((X * X) + (Y * Y) + (Z * Z));
+    public readonly float Length => (float)Size;
+
+    // In double precision, where squares of all numbers have room.
+    private readonly double Size => Math.Sqrt(((double)X * X) + ((double)Y * Y) + ((double)Z * Z));
 
     /// <summary>Gets a part by its place, from 0.</summary>
     /// <param name="index">The place, 0 to 2.</param>
@@ -72,10 +75,10 @@ public struct Vector3F : IEquatable<Vector3F>
     /// <exception cref="InvalidOperationException">The length is 0, so that there is no direction.</exception>
     public readonly Vector3F Normalize()
     {
-        float length = Length;
+        double length = Size;
         return length == 0
             ? throw new InvalidOperationException("A vector of length 0 has no direction.")
-            : new Vector3F(X / length, Y / length, Z / length);
+            : new Vector3F((float)(X / length), (float)(Y / length), (float)(Z / length));
     }
 
     /// <summary>Tells whether all parts are the same.</summary>

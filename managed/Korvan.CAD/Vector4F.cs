@@ -37,7 +37,10 @@ public struct Vector4F : IEquatable<Vector4F>
     public readonly bool IsEmpty => this == Empty;
 
     /// <summary>Gets the Euclidean length.</summary>
-    public readonly float Length => MathF.Sqrt((X * X) + (Y * Y) + (Z * Z) + (W * W));
+    public readonly float Length => (float)Size;
+
+    // In double precision, where squares of all numbers have room.
+    private readonly double Size => Math.Sqrt(((double)X * X) + ((double)Y * Y) + ((double)Z * Z) + ((double)W * W));
 
     /// <summary>Gets a part by its place, from 0.</summary>
     /// <param name="index">The place, 0 to 3.</param>
@@ -76,10 +79,10 @@ public struct Vector4F : IEquatable<Vector4F>
     /// <exception cref="InvalidOperationException">The length is 0, so that there is no direction.</exception>
     public readonly Vector4F Normalize()
     {
-        float length = Length;
+        double length = Size;
         return length == 0
             ? throw new InvalidOperationException("A vector of length 0 has no direction.")
-            : new Vector4F(X / length, Y / length, Z / length, W / length);
+            : new Vector4F((float)(X / length), (float)(Y / length), (float)(Z / length), (float)(W / length));
     }
 
     /// <summary>Tells whether all parts are the same.</summary>

@@ -1,6 +1,7 @@
 using System;
 using System.Collections;
 using System.Collections.Generic;
+using System.Globalization;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Ifc.Model;
 
@@ -66,6 +67,7 @@ public sealed class IfcCollection : IList
 
         set
         {
+            VerifyPlace(index, _items.Count - 1);
             _items[index] = Admit(value);
             NoteChange();
         }
@@ -85,6 +87,7 @@ public sealed class IfcCollection : IList
     /// <param name="value">The value.</param>
     public void Insert(int index, object? value)
     {
+        VerifyPlace(index, _items.Count);
         _items.Insert(index, Admit(value));
         NoteChange();
     }
@@ -127,7 +130,8 @@ public sealed class IfcCollection : IList
     {
         for (int i = 0; i < _items.Count; i++)
         {
-            if (Equals(this[i], value) || (value is int number && Equals(this[i], (long)number)))
+            object? item = this[i];
+            if (Equals(item, value) || (value is int or long && Equals(item, Widened(value, item))))
             {
                 return i;
             }
@@ -154,6 +158,23 @@ public sealed class IfcCollection : IList
         for (int i = 0; i < _items.Count; i++)
         {
             yield return this[i];
+        }
+    }
+
+    // A whole number in the type of what it is compared with.
+    private static object Widened(object value, object? item)
+    {
+        long whole = Convert.ToInt64(value, CultureInfo.InvariantCulture);
+        return item is double ? (double)whole : whole;
+    }
+
+    // Admitting a value may add instances to the model, so the place is looked at before.
+    private void VerifyPlace(int index, int last)
+    {
+        VerifyWritable();
+        if (index < 0 || index > last)
+        {
+            throw new ArgumentOutOfRangeException(nameof(index), index, $"The list has {_items.Count} values.");
         }
     }
 

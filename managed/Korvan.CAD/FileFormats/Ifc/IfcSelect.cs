@@ -1,6 +1,7 @@
 using System;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Ifc.Schema;
+using Korvan.CAD.FileFormats.StepText;
 
 namespace Korvan.CAD.FileFormats.Ifc;
 
@@ -50,12 +51,16 @@ public abstract class IfcSelect : IIfcSelect
     /// <inheritdoc/>
     public override string ToString() => Entity is null ? $"{TypeName}({Value})" : Entity.ToString()!;
 
+    /// <summary>Gets the value as it was read, which tells more than what is shown: bits beyond whole bytes.</summary>
+    internal StepTyped? Raw { get; private set; }
+
     /// <summary>Makes a select of what was read.</summary>
-    internal static IfcSelect Make(Type type, string typeName, object? value)
+    internal static IfcSelect Make(Type type, string typeName, object? value, StepTyped? raw)
     {
         var made = (IfcSelect)System.Runtime.CompilerServices.RuntimeHelpers.GetUninitializedObject(type);
         made.TypeName = typeName;
         made.Value = value;
+        made.Raw = raw;
         return made;
     }
 

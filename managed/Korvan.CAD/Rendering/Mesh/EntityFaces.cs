@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Linq;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
@@ -60,10 +61,37 @@ internal static class EntityFaces
             }
         }
 
+        if (IsMirror(map))
+        {
+            mapped.Reverse(); // what looked outwards still does
+        }
+
         part.Face(mapped);
     }
 
+    private static bool IsMirror(in Affine3 map) => Vec3.Dot(Vec3.Cross(map.AxisX, map.AxisY), map.AxisZ) < 0;
+
     private static Affine3 InObject(CadExtrudedEntityBase entity, in Affine3 map) => map * Ocs.ToWorld(V(entity.ExtrusionDirection));
+
+    /// <summary>The ring at the lower end of its thickness, turned so that its walls look outwards.</summary>
+    private static (Vec3[] Ring, Vec3 Up) Outwards(IEnumerable<Vec3> ring, double thickness)
+    {
+        Vec3 down = Vec3.UnitZ * Math.Min(0, thickness);
+        Vec3[] corners = [.. ring.Select(p => p + down)];
+        double area = 0;
+        for (int i = 0; i < corners.Length; i++)
+        {
+            Vec3 next = corners[(i + 1) % corners.Length];
+            area += ((corners[i].X - corners[0].X) * (next.Y - corners[0].Y)) - ((corners[i].Y - corners[0].Y) * (next.X - corners[0].X));
+        }
+
+        if (area < 0)
+        {
+            Array.Reverse(corners);
+        }
+
+        return (corners, Vec3.UnitZ * Math.Abs(thickness));
+    }
 
     /// <summary>A flat face, or with a thickness two of them and the walls between.</summary>
     private static void Prism(MeshPart part, CadExtrudedEntityBase entity, in Affine3 map, Vec3[] ring)
@@ -75,12 +103,12 @@ internal static class EntityFaces
             return;
         }
 
-        Vec3 up = Vec3.UnitZ * entity.Thickness;
-        Vec3[] bottom = [.. ring];
+        (Vec3[] sides, Vec3 up) = Outwards(ring, entity.Thickness);
+        Vec3[] bottom = [.. sides];
         Array.Reverse(bottom);
         Mapped(part, ocs, bottom);
-        Mapped(part, ocs, Array.ConvertAll(ring, p => p + up));
-        Walls(part, ocs, ring, closed: true, up);
+        Mapped(part, ocs, Array.ConvertAll(sides, p => p + up));
+        Walls(part, ocs, sides, closed: true, up);
     }
 
     private static void Walls(MeshPart part, in Affine3 ocs, IReadOnlyList<Vec3> line, bool closed, Vec3 up)
@@ -92,6 +120,12 @@ internal static class EntityFaces
             Vec3 b = line[(i + 1) % line.Count];
             Mapped(part, ocs, [a, b, b + up, a + up]);
         }
+    }
+
+    private static void Fence(MeshPart part, in Affine3 ocs, List<Vec3> line, bool closed, double thickness)
+    {
+        (Vec3[] corners, Vec3 up) = closed ? Outwards(line, thickness) : ([.. line], Vec3.UnitZ * thickness);
+        Walls(part, ocs, corners, closed, up);
     }
 
     /// <summary>Lines become walls; a circle becomes a drum with its two lids.</summary>
@@ -112,10 +146,10 @@ internal static class EntityFaces
                 Prism(part, circle, map, [.. ring]);
                 break;
             case CadLwPolyline polyline:
-                Walls(part, ocs, Line(polyline), polyline.IsClosed, up);
+                Fence(part, ocs, Line(polyline), polyline.IsClosed, polyline.Thickness);
                 break;
             case CadPolyline polyline:
-                Walls(part, ocs, Line(polyline), polyline.IsClosed, up);
+                Fence(part, ocs, Line(polyline), polyline.IsClosed, polyline.Thickness);
                 break;
             case CadLine line:
 

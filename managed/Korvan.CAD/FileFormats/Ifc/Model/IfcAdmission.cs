@@ -102,7 +102,7 @@ internal static class IfcAdmission
             VerifyModel(owner, entity);
         }
 
-        return value.GetType() == type ? (IfcSelect)value : IfcSelect.Make(type, name, content);
+        return value.GetType() == type ? (IfcSelect)value : IfcSelect.Make(type, name, content, (value as IfcSelect)?.Raw);
     }
 
     private static IfcCollection List(IfcEntityBase owner, in IfcSlot slot, IEnumerable items)

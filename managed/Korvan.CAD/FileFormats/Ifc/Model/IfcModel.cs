@@ -134,25 +134,21 @@ internal sealed class IfcModel
     /// <summary>Takes over what a value refers to, and remembers who refers to it.</summary>
     internal void NoteReferences(IfcEntityBase owner, object? value)
     {
-        foreach (IfcEntityBase target in IfcReferences.Entities(value, this))
-        {
-            if (target.Model is null)
-            {
-                Add(target);
-            }
-
-            References.NoteAdded(target, owner);
-        }
+        List<IfcEntityBase> targets = [.. IfcReferences.Entities(value, this)];
+        Add(targets.FindAll(target => target.Model is null));
+        targets.ForEach(target => References.NoteAdded(target, owner));
     }
 
     /// <summary>Adds an instance, and those it refers to that belong to no model yet.</summary>
     /// <exception cref="IfcImageException">One of them is of another edition, or refers to another model.</exception>
-    internal void Add(IfcEntityBase entity)
+    internal void Add(IfcEntityBase entity) => Add([entity]);
+
+    private void Add(List<IfcEntityBase> entities)
     {
-        VerifyEdition(entity);
+        entities.ForEach(VerifyEdition);
         // All are looked at before the first one is taken.
-        List<IfcEntityBase> free = [entity];
-        HashSet<IfcEntityBase> seen = [entity];
+        HashSet<IfcEntityBase> seen = [];
+        List<IfcEntityBase> free = entities.FindAll(seen.Add);
         for (int i = 0; i < free.Count; i++)
         {
             foreach (IfcEntityBase target in Targets(free[i]))
@@ -178,7 +174,8 @@ internal sealed class IfcModel
     /// <summary>Removes an instance that nothing refers to.</summary>
     internal void Remove(IfcEntityBase entity)
     {
-        if (entity.Referrers is { Count: > 0 } referrers)
+        List<IIfcEntity> referrers = [.. entity.Referrers.Where(one => one != entity)];
+        if (referrers.Count > 0)
         {
             const int Shown = 5;
             string names = string.Join(", ", referrers.Take(Shown).Select(one => $"#{one.InstanceId}={one.EntityName}"));
@@ -187,19 +184,20 @@ internal sealed class IfcModel
                 $"{entity.DescribePlace()}it is not removed, because {names}{more} refer to it; change these first.");
         }
 
-        if (entity.Record >= 0)
+        int record = entity.Record;
+        long id = entity.InstanceId;
+        Detach(entity); // first, for it reads values by their numbers
+        if (record >= 0)
         {
-            _removed.Add(entity.Record);
+            _removed.Add(record);
             _changed.Remove(entity);
             _kept = null;
         }
         else
         {
             _added.Remove(entity);
-            _addedById.Remove(entity.InstanceId);
+            _addedById.Remove(id);
         }
-
-        Detach(entity);
     }
 
     private static IEnumerable<IfcEntityBase> Targets(IfcEntityBase entity) =>
@@ -218,6 +216,11 @@ internal sealed class IfcModel
 
     private void VerifyEdition(IfcEntityBase entity)
     {
+        if (entity is OpaqueEntity)
+        {
+            throw new IfcImageException($"{entity.DescribePlace()}its attributes are not known, so it cannot be added.");
+        }
+
         if (entity.Class.Schema != Schema)
         {
             throw new IfcImageException($"{entity.GetType().Name} is not of the model's edition, {Schema.Table.Name}.");
@@ -229,7 +232,15 @@ internal sealed class IfcModel
     {
         for (int i = 0; i < entity.Class.Attributes.Length; i++)
         {
-            Resolve(IfcPresentation.Present(entity, i));
+            try
+            {
+                Resolve(IfcPresentation.Present(entity, i));
+            }
+            catch (IfcImageException)
+            {
+                // What is not of its type means nothing outside of its file.
+                entity.Values[i] = null;
+            }
         }
 
         entity.Model = null;

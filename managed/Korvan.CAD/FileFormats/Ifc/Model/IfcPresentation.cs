@@ -117,11 +117,11 @@ internal static class IfcPresentation
         if (raw is StepTyped typed && slot.Schema.TypeNameOf(typed.Keyword) is { } name
             && slot.Schema.Admits(slot.Form.Name, name))
         {
-            return IfcSelect.Make(type, name, Inner(owner, slot, name, typed.Value));
+            return IfcSelect.Make(type, name, Inner(owner, slot, name, typed.Value), typed);
         }
 
         return Resolve(owner, raw) is { } entity && slot.Schema.Admits(slot.Form.Name, entity.Class.Name)
-            ? IfcSelect.Make(type, entity.Class.Name, entity)
+            ? IfcSelect.Make(type, entity.Class.Name, entity, null)
             : throw Wrong(owner, slot, raw);
     }
 

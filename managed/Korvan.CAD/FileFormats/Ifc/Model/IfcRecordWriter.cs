@@ -115,6 +115,12 @@ internal static class IfcRecordWriter
             return;
         }
 
+        if (select.Raw is { } raw)
+        {
+            Write(owner, slot, raw, target);
+            return;
+        }
+
         IfcSlot inner = IfcSlot.Of(slot.Schema, select.TypeName, slot.Attribute);
         target.Append(select.TypeName.ToUpperInvariant()).Append('(');
         Write(owner, inner, IfcAdmission.Admit(owner, inner, select.Value), target);
