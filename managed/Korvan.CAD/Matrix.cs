@@ -159,6 +159,11 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
     public void RotateAt(float angle, PointF point, MatrixOrder order)
     {
         (double sin, double cos) = Math.SinCos(angle * Math.PI / 180);
+        if (angle % 90 == 0)
+        {
+            (sin, cos) = (Math.Round(sin), Math.Round(cos)); // quarter turns leave no remainders
+        }
+
         var turn = new Affine2(cos, sin, -sin, cos, 0, 0);
         Add(new Affine2(1, 0, 0, 1, point.X, point.Y) * turn * new Affine2(1, 0, 0, 1, -point.X, -point.Y), order);
     }
