@@ -75,27 +75,27 @@ public class QueryTests
     [InlineData("IFCDIRECTION", "a '(' is missing")]
     [InlineData("IFCDIRECTION()", "IFCDIRECTION has 1 attributes, 0 are given")]
     [InlineData("IFCDIRECTION((1.,0.),$)", "IFCDIRECTION has 1 attributes, 2 are given")]
-    [InlineData("IFCDIRECTION((#))", "number")]
+    [InlineData("IFCDIRECTION((#))", "a reference has no number")]
     [InlineData("IFCDIRECTION((#0))", "it refers to #0, which does not exist")]
-    [InlineData("IFCDIRECTION((#x))", "number")]
+    [InlineData("IFCDIRECTION((#x))", "a reference has no number")]
     [InlineData("IFCDIRECTION((#77))", "it refers to #77, which does not exist")]
-    [InlineData("IFCDIRECTION((#99999999999999999999))", "beyond all bounds|does not exist|number")]
-    [InlineData("IFCDIRECTION((.T))", "enumeration|'.'|.")]
-    [InlineData("IFCDIRECTION((..))", "enumeration|.")]
-    [InlineData("IFCDIRECTION((\"0G\"))", "binary|hexadecimal")]
-    [InlineData("IFCDIRECTION((\"\"))", "binary|bits")]
-    [InlineData("IFCDIRECTION((\"4FF\"))", "binary|bits")]
-    [InlineData("IFCDIRECTION((1.E))", "number")]
+    [InlineData("IFCDIRECTION((#99999999999999999999))", "which does not exist")]
+    [InlineData("IFCDIRECTION((.T))", "an item of an enumeration has no second point")]
+    [InlineData("IFCDIRECTION((..))", "an item of an enumeration has no second point")]
+    [InlineData("IFCDIRECTION((\"0G\"))", "digits that are not hexadecimal")]
+    [InlineData("IFCDIRECTION((\"\"))", "no count of unused bits")]
+    [InlineData("IFCDIRECTION((\"4FF\"))", "no count of unused bits")]
+    [InlineData("IFCDIRECTION((1.E))", "'1.E' is no value")]
     [InlineData("IFCDIRECTION((-))", "no value can begin with '-'")]
-    [InlineData("IFCDIRECTION((1.2.3))", "number|missing")]
-    [InlineData("IFCDIRECTION((1.E999))", "number")]
-    [InlineData("IFCDIRECTION((IFCREAL(1.))", "missing")]
-    [InlineData("IFCDIRECTION((IFCREAL 1.))", "no value|missing")]
+    [InlineData("IFCDIRECTION((1.2.3))", "'1.2.3' is no value")]
+    [InlineData("IFCDIRECTION((1.E999))", "'1.E999' is no value")]
+    [InlineData("IFCDIRECTION((IFCREAL(1.))", "a ',' or ')' is missing")]
+    [InlineData("IFCDIRECTION((IFCREAL 1.))", "a '(' is missing")]
     [InlineData("IFCDIRECTION((@))", "no value can begin with '@'")]
     [InlineData("IFCNOTHING((1.))", "the schema has no entity IFCNOTHING")]
     [InlineData("IFCCURVE()", "IFCCURVE is abstract")]
-    [InlineData("=IFCDIRECTION((1.,0.))", "missing|expected|keyword|name")]
-    [InlineData("5", "missing|expected|keyword|name")]
+    [InlineData("=IFCDIRECTION((1.,0.))", "a '(' is missing")]
+    [InlineData("5", "a '(' is missing")]
     public void Damaged_records_are_named_by_line_and_number_or_when_they_are_read(string body, string message)
     {
         string records = $"\n\n#7=IFCDIRECTION((0.,1.));\n\n#5={body};\n#8=IFCDIRECTION((1.,1.));\n";
@@ -106,12 +106,13 @@ public class QueryTests
             refused = Assert.Throws<CadExceptions.ImageFormats.IfcImageException>(
                 () => ((IList)IfcText.Load(records).GetEntity(5)!.GetAttribute(0)!).Cast<object>().Count());
             Assert.Contains("line 12, #5=IFCDIRECTION: ", refused.Message, StringComparison.Ordinal);
+            Assert.Contains(message, refused.Message, StringComparison.Ordinal);
             return;
         }
 
         Assert.IsType<ImageLoadException>(refused);
         Assert.Contains("'test.ifc', line 12, #5: ", refused.Message, StringComparison.Ordinal);
-        Assert.True(message.Split('|').Any(refused.Message.Contains), refused.Message);
+        Assert.Contains(message, refused.Message, StringComparison.Ordinal);
 
         LoadOptions options = new() { IgnoreErrors = true };
         IfcImage image = IfcText.Load(records, options);

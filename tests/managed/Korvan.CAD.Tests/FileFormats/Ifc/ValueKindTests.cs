@@ -64,7 +64,7 @@ public class ValueKindTests
     }
 
     [Theory]
-    [InlineData("Name", 5, "the text|IfcLabel was expected, not 5")]
+    [InlineData("Name", 5, "IfcLabel was expected, not 5")]
     [InlineData("Name", true, "IfcLabel was expected")]
     [InlineData("Roles", "x", "was expected, not the text 'x'")]
     [InlineData("Roles", new object[] { "x" }, "IfcActorRole was expected")]
@@ -75,7 +75,7 @@ public class ValueKindTests
         string before = IfcText.Saved(image);
         IfcImageException failure = Assert.Throws<IfcImageException>(() => image.GetEntity(1)!.SetAttribute(attribute, value));
         Assert.Contains("line 8, #1=IFCORGANIZATION: attribute " + attribute, failure.Message, StringComparison.Ordinal);
-        Assert.Contains(message.Split('|')[^1], failure.Message, StringComparison.Ordinal);
+        Assert.Contains(message, failure.Message, StringComparison.Ordinal);
         Assert.Equal(before, IfcText.Saved(image));
         Assert.Single(image.GetEntity(2)!.Referrers);
     }
