@@ -32,7 +32,8 @@ public sealed class PyStream : Stream, IPyAdapter
             _target = _raw;
             return;
         }
-        BufferedStream? spare = s_spare;
+        // A closed file is told by the block that is made for it.
+        BufferedStream? spare = _raw.CanRead || _raw.CanWrite ? s_spare : null;
         s_spare = null;
         if (spare?.UnderlyingStream is PyRawStream kept)
         {
