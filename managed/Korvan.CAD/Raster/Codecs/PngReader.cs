@@ -46,7 +46,7 @@ internal static unsafe class PngReader
 
     private static PixelGrid Pixels(RasterSource source)
     {
-        // libpng's reader for memory gives wrong pixels for these.
+        // As we call libpng, these come out with wrong pixels; refused until it is known why.
         if (source.Data.Length > InterlaceAt && source.Data[DepthAt] == 16 && source.Data[InterlaceAt] != 0)
         {
             throw new PngImageException($"'{source.Name}' stores 16 bits a sample and is interlaced, which is not read.");
