@@ -1,0 +1,40 @@
+using System;
+
+namespace Korvan.CAD.FileFormats.Cgm.Classes;
+
+/// <summary>A point in the coordinates of a picture (VDC).</summary>
+public sealed class CgmPoint : IEquatable<CgmPoint>
+{
+    /// <summary>Creates the point at the origin.</summary>
+    public CgmPoint()
+    {
+    }
+
+    /// <summary>Creates a point.</summary>
+    /// <param name="x">The abscissa.</param>
+    /// <param name="y">The ordinate.</param>
+    public CgmPoint(double x, double y)
+    {
+        X = x;
+        Y = y;
+    }
+
+    /// <summary>Gets the abscissa.</summary>
+    public double X { get; }
+
+    /// <summary>Gets the ordinate.</summary>
+    public double Y { get; }
+
+    /// <summary>Tells whether both points lie at the same place.</summary>
+    /// <param name="other">The point to compare with.</param>
+    public bool Equals(CgmPoint? other) => other is not null && X == other.X && Y == other.Y;
+
+    /// <inheritdoc/>
+    public override bool Equals(object? obj) => Equals(obj as CgmPoint);
+
+    /// <inheritdoc/>
+    public override int GetHashCode() => HashCode.Combine(X, Y);
+
+    /// <inheritdoc/>
+    public override string ToString() => FormattableString.Invariant($"({X}, {Y})");
+}

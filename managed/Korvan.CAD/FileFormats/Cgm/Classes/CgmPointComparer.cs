@@ -1,0 +1,43 @@
+using System;
+using System.Collections.Generic;
+
+namespace Korvan.CAD.FileFormats.Cgm.Classes;
+
+/// <summary>Compares points up to a distance that does not count.</summary>
+public sealed class CgmPointComparer
+{
+    /// <summary>Creates a comparer for which only equal coordinates are equal.</summary>
+    public CgmPointComparer()
+    {
+    }
+
+    /// <summary>Creates a comparer.</summary>
+    /// <param name="tolerance">The largest difference of coordinates that counts as none; not negative.</param>
+    public CgmPointComparer(double tolerance)
+    {
+        ArgumentOutOfRangeException.ThrowIfNegative(tolerance);
+        Tolerance = tolerance;
+    }
+
+    /// <summary>Gets the largest difference of coordinates that counts as none.</summary>
+    public double Tolerance { get; }
+
+    /// <summary>Orders points by their abscissas, those of the same one by their ordinates.</summary>
+    /// <param name="first">A point.</param>
+    /// <param name="second">Another point.</param>
+    /// <returns>-1, 0 or 1, as the first comes before the second, is the same or comes behind it.</returns>
+    public int Compare(CgmPoint first, CgmPoint second)
+    {
+        ArgumentNullException.ThrowIfNull(first);
+        ArgumentNullException.ThrowIfNull(second);
+        int byX = Order(first.X - second.X);
+        return byX != 0 ? byX : Order(first.Y - second.Y);
+    }
+
+    /// <summary>Tells whether two points lie at the same place.</summary>
+    /// <param name="first">A point.</param>
+    /// <param name="second">Another point.</param>
+    public bool AreEqual(CgmPoint first, CgmPoint second) => Compare(first, second) == 0;
+
+    private int Order(double difference) => Math.Abs(difference) <= Tolerance ? 0 : Math.Sign(difference);
+}

@@ -1,0 +1,33 @@
+using System;
+
+namespace Korvan.CAD.FileFormats.Cgm.Classes;
+
+/// <summary>A point on the surface of a device.</summary>
+public sealed class ViewportPoint
+{
+    /// <summary>Creates the point at the lower left corner of the surface.</summary>
+    public ViewportPoint()
+        : this(new VC(), new VC())
+    {
+    }
+
+    /// <summary>Creates a point.</summary>
+    /// <param name="first">The abscissa.</param>
+    /// <param name="second">The ordinate.</param>
+    public ViewportPoint(VC first, VC second)
+    {
+        ArgumentNullException.ThrowIfNull(first);
+        ArgumentNullException.ThrowIfNull(second);
+        First = first;
+        Second = second;
+    }
+
+    /// <summary>Gets the abscissa.</summary>
+    public VC First { get; }
+
+    /// <summary>Gets the ordinate.</summary>
+    public VC Second { get; }
+
+    /// <inheritdoc/>
+    public override string ToString() => $"({First}, {Second})";
+}

@@ -1,0 +1,77 @@
+using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+
+namespace Korvan.CAD.FileFormats.Cgm.Coding;
+
+/// <summary>
+/// What earlier elements say of how later ones are coded. Reader and writer each have one and show every command to it,
+/// so both always agree. The values it begins with are the defaults of ISO/IEC 8632-3 and 8632-1.
+/// </summary>
+internal sealed class CodingState
+{
+    /// <summary>Gets or sets how many bits an integer has: 8, 16, 24 or 32.</summary>
+    internal int IntegerBits { get; set; } = 16;
+
+    internal Precision Real { get; set; } = Precision.Fixed32;
+
+    internal int IndexBits { get; set; } = 16;
+
+    internal int NameBits { get; set; } = 16;
+
+    /// <summary>Gets or sets how many bits one component of a direct colour has.</summary>
+    internal int ColorBits { get; set; } = 8;
+
+    internal int ColorIndexBits { get; set; } = 8;
+
+    internal ColourModel.Model ColorModel { get; set; } = ColourModel.Model.Rgb;
+
+    /// <summary>Gets or sets the components that stand for no light; three, or four for CMYK.</summary>
+    internal double[] ColorLow { get; set; } = [0, 0, 0, 0];
+
+    /// <summary>Gets or sets the components that stand for full light.</summary>
+    internal double[] ColorHigh { get; set; } = [255, 255, 255, 255];
+
+    internal VdcType.Type VdcType { get; set; } = Commands.VdcType.Type.Integer;
+
+    internal DeviceViewportSpecificationMode.Mode ViewportMode { get; set; }
+
+    /// <summary>Gets or sets what pictures and the replacement of defaults change; it begins anew with each picture.</summary>
+    internal PictureCoding Picture { get; set; } = new();
+
+    /// <summary>Gets or sets what each picture begins with.</summary>
+    internal PictureCoding Defaults { get; set; } = new();
+
+    /// <summary>Gets or sets whether elements are read or written that replace defaults: they count for the pictures
+    /// that follow.</summary>
+    internal bool ReplacesDefaults { get; set; }
+
+    /// <summary>Gets the settings that elements change at this place.</summary>
+    internal PictureCoding Current => ReplacesDefaults ? Defaults : Picture;
+
+    internal bool HasIndexedColors => Current.ColorSelection == ColourSelectionMode.Type.Indexed;
+
+    internal bool HasRealCoordinates => VdcType == Commands.VdcType.Type.Real;
+
+    internal int ColorComponents => ColorModel == ColourModel.Model.Cmyk ? 4 : 3;
+
+    /// <summary>Forgets what the last picture changed.</summary>
+    internal void BeginPicture() => Picture = Defaults with { };
+}
+
+/// <summary>How parameters are coded that a picture may have its own way for.</summary>
+internal sealed record PictureCoding
+{
+    internal ColourSelectionMode.Type ColorSelection { get; set; } = ColourSelectionMode.Type.Indexed;
+
+    internal SpecificationMode LineWidthMode { get; set; } = SpecificationMode.Scaled;
+
+    internal SpecificationMode MarkerSizeMode { get; set; } = SpecificationMode.Scaled;
+
+    internal SpecificationMode EdgeWidthMode { get; set; } = SpecificationMode.Scaled;
+
+    internal SpecificationMode InteriorStyleMode { get; set; } = SpecificationMode.Scaled;
+
+    internal int VdcIntegerBits { get; set; } = 16;
+
+    internal Precision VdcReal { get; set; } = Precision.Fixed32;
+}

@@ -1,0 +1,26 @@
+using Korvan.CAD.FileFormats.Cgm.Enums;
+
+namespace Korvan.CAD.FileFormats.Cgm.Commands;
+
+/// <summary>Which element of the metafile a command is.</summary>
+public sealed class CommandConstructorArguments
+{
+    /// <summary>Names an element.</summary>
+    /// <param name="elementClass">The class of the element.</param>
+    /// <param name="elementId">The number of the element in its class, 0 to 127.</param>
+    public CommandConstructorArguments(ClassCode elementClass, int elementId)
+    {
+        System.ArgumentOutOfRangeException.ThrowIfNegative((int)elementClass);
+        System.ArgumentOutOfRangeException.ThrowIfGreaterThan((int)elementClass, 15);
+        System.ArgumentOutOfRangeException.ThrowIfNegative(elementId);
+        System.ArgumentOutOfRangeException.ThrowIfGreaterThan(elementId, 127);
+        ElementClass = elementClass;
+        ElementId = elementId;
+    }
+
+    /// <summary>Gets the class of the element.</summary>
+    public ClassCode ElementClass { get; }
+
+    /// <summary>Gets the number of the element in its class.</summary>
+    public int ElementId { get; }
+}

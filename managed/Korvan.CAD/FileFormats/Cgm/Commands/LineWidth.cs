@@ -1,0 +1,19 @@
+using Korvan.CAD.FileFormats.Cgm.Coding;
+using Korvan.CAD.FileFormats.Cgm.Elements;
+
+namespace Korvan.CAD.FileFormats.Cgm.Commands;
+
+/// <summary>The width of lines.</summary>
+public sealed class LineWidth : Command
+{
+    /// <summary>Creates the width 1.</summary>
+    public LineWidth()
+        : base(Enums.ClassCode.AttributeElement, (int)AttributeElement.LineWidth)
+    {
+    }
+
+    /// <summary>Gets or sets the width, not negative, in what <see cref="LineWidthSpecificationMode"/> says.</summary>
+    public double Width { get; set; } = 1;
+
+    internal override void Exchange(ParameterExchange x) => Width = x.Size(Width, x.State.Current.LineWidthMode);
+}

@@ -1,0 +1,17 @@
+using Korvan.CAD.Binding;
+
+namespace Korvan.CAD.FileFormats.Cgm.Enums;
+
+/// <summary>What of a wide line, a marker or an edge is cut at the border of the clip rectangle.</summary>
+[PythonEnum(EnumKind.Integer)]
+public enum ClippingMode
+{
+    /// <summary>The line without its width.</summary>
+    Locus = 0,
+
+    /// <summary>What is drawn.</summary>
+    Shape = 1,
+
+    /// <summary>First the line without its width, then what is drawn.</summary>
+    LocusThenShape = 2,
+}
