@@ -12,7 +12,7 @@ public sealed class LineWidth : Command
     {
     }
 
-    /// <summary>Gets or sets the width, not negative, in what <see cref="LineWidthSpecificationMode"/> says.</summary>
+    /// <summary>Gets or sets the width, not negative, in what the mode of the picture says.</summary>
     public double Width { get; set; } = 1;
 
     internal override void Exchange(ParameterExchange x) => Width = x.Size(Width, x.State.Current.LineWidthMode);

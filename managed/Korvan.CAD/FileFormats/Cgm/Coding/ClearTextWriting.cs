@@ -1,0 +1,8 @@
+using System;
+
+namespace Korvan.CAD.FileFormats.Cgm.Coding;
+
+internal static class ClearTextWriting
+{
+    internal static ParameterExchange Of(IClearTextWriter writer) => throw new NotImplementedException(); // TODO
+}

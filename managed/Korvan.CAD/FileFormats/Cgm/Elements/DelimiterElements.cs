@@ -1,0 +1,46 @@
+using System;
+using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+
+namespace Korvan.CAD.FileFormats.Cgm.Elements;
+
+/// <summary>Where metafile, pictures and their parts begin and end.</summary>
+public static class DelimiterElements
+{
+    internal static readonly ElementEntry[] Table =
+    [
+        // TODO new((int)DelimiterElement.BeginMetafile, "BEGMF", static () => new BeginMetafile()),
+        // TODO new((int)DelimiterElement.EndMetafile, "ENDMF", static () => new EndMetafile()),
+        // TODO new((int)DelimiterElement.BeginPicture, "BEGPIC", static () => new BeginPicture()),
+        // TODO new((int)DelimiterElement.BeginPictureBody, "BEGPICBODY", static () => new BeginPictureBody()),
+        // TODO new((int)DelimiterElement.EndPicture, "ENDPIC", static () => new EndPicture()),
+        // TODO new((int)DelimiterElement.BeginSegment, "BEGSEG", static () => new BeginSegment()),
+        // TODO new((int)DelimiterElement.EndSegment, "ENDSEG", static () => new EndSegment()),
+        // TODO new((int)DelimiterElement.BeginFigure, "BEGFIGURE", static () => new BeginFigure()),
+        // TODO new((int)DelimiterElement.EndFigure, "ENDFIGURE", static () => new EndFigure()),
+        // TODO new((int)DelimiterElement.BeginProtectionRegion, "BEGPROTREGION", static () => new BeginProtectionRegion()),
+        // TODO new((int)DelimiterElement.EndProtectionRegion, "ENDPROTREGION", static () => new EndProtectionRegion()),
+        // TODO new((int)DelimiterElement.BeginCompoundLine, "BEGCOMPOLINE", static () => new BeginCompoundLine()),
+        // TODO new((int)DelimiterElement.EndCompoundLine, "ENDCOMPOLINE", static () => new EndCompoundLine()),
+        // TODO new((int)DelimiterElement.BeginCompoundTextPath, "BEGCOMPOTEXTPATH", static () => new BeginCompoundTextPath()),
+        // TODO new((int)DelimiterElement.EndCompoundTextPath, "ENDCOMPOTEXTPATH", static () => new EndCompoundTextPath()),
+        // TODO new((int)DelimiterElement.BeginTileArray, "BEGTILEARRAY", static () => new BeginTileArray()),
+        // TODO new((int)DelimiterElement.EndTileArray, "ENDTILEARRAY", static () => new EndTileArray()),
+        // TODO new((int)DelimiterElement.BeginApplicationStructure, "BEGAPS", static () => new BeginApplicationStructure()),
+        // TODO new((int)DelimiterElement.BeginApplicationStructureBody, "BEGAPSBODY", static () => new BeginApplicationStructureBody()),
+        // TODO new((int)DelimiterElement.EndApplicationStructure, "ENDAPS", static () => new EndApplicationStructure()),
+    ];
+
+    /// <summary>Gives a new command for an element, without parameters yet.</summary>
+    /// <param name="element">The element.</param>
+    /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
+    public static Command CreateCommand(DelimiterElement element) => Entry(element).Create();
+
+    /// <summary>Gives the word that stands for an element in clear text.</summary>
+    /// <param name="element">The element.</param>
+    /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
+    public static string GetKeyword(DelimiterElement element) => Entry(element).Keyword;
+
+    private static ElementEntry Entry(DelimiterElement element) =>
+        ElementTables.Find(ClassCode.DelimiterElement, (int)element) ?? throw new ArgumentOutOfRangeException(nameof(element));
+}

@@ -1,0 +1,50 @@
+using System;
+using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+
+namespace Korvan.CAD.FileFormats.Cgm.Elements;
+
+/// <summary>What holds for the whole metafile.</summary>
+public static class MetaFileDescriptorElements
+{
+    internal static readonly ElementEntry[] Table =
+    [
+        // TODO new((int)MetaFileDescriptorElement.MetafileVersion, "MFVERSION", static () => new MetafileVersion()),
+        // TODO new((int)MetaFileDescriptorElement.MetafileDescription, "MFDESC", static () => new MetafileDescription()),
+        new((int)MetaFileDescriptorElement.VdcType, "VDCTYPE", static () => new VdcType()),
+        // TODO new((int)MetaFileDescriptorElement.IntegerPrecision, "INTEGERPREC", static () => new IntegerPrecision()),
+        // TODO new((int)MetaFileDescriptorElement.RealPrecision, "REALPREC", static () => new RealPrecision()),
+        // TODO new((int)MetaFileDescriptorElement.IndexPrecision, "INDEXPREC", static () => new IndexPrecision()),
+        // TODO new((int)MetaFileDescriptorElement.ColourPrecision, "COLRPREC", static () => new ColourPrecision()),
+        // TODO new((int)MetaFileDescriptorElement.ColourIndexPrecision, "COLRINDEXPREC", static () => new ColourIndexPrecision()),
+        // TODO new((int)MetaFileDescriptorElement.MaximumColourIndex, "MAXCOLRINDEX", static () => new MaximumColourIndex()),
+        // TODO new((int)MetaFileDescriptorElement.ColourValueExtent, "COLRVALUEEXT", static () => new ColourValueExtent()),
+        // TODO new((int)MetaFileDescriptorElement.MetafileElementList, "MFELEMLIST", static () => new MetafileElementList()),
+        // TODO new((int)MetaFileDescriptorElement.MetafileDefaultsReplacement, "BEGMFDEFAULTS", static () => new MetafileDefaultsReplacement()),
+        // TODO new((int)MetaFileDescriptorElement.FontList, "FONTLIST", static () => new FontList()),
+        // TODO new((int)MetaFileDescriptorElement.CharacterSetList, "CHARSETLIST", static () => new CharacterSetList()),
+        // TODO new((int)MetaFileDescriptorElement.CharacterCodingAnnouncer, "CHARCODING", static () => new CharacterCodingAnnouncer()),
+        // TODO new((int)MetaFileDescriptorElement.NamePrecision, "NAMEPREC", static () => new NamePrecision()),
+        // TODO new((int)MetaFileDescriptorElement.MaximumVdcExtent, "MAXVDCEXT", static () => new MaximumVdcExtent()),
+        // TODO new((int)MetaFileDescriptorElement.SegmentPriorityExtend, "SEGPRIEXT", static () => new SegmentPriorityExtend()),
+        new((int)MetaFileDescriptorElement.ColourModel, "COLRMODEL", static () => new ColourModel()),
+        // TODO new((int)MetaFileDescriptorElement.ColourCalibration, "COLRCALIB", static () => new ColourCalibration()),
+        // TODO new((int)MetaFileDescriptorElement.FontProperties, "FONTPROP", static () => new FontProperties()),
+        // TODO new((int)MetaFileDescriptorElement.GlyphMapping, "GLYPHMAP", static () => new GlyphMapping()),
+        // TODO new((int)MetaFileDescriptorElement.SymbolLibraryList, "SYMBOLLIBLIST", static () => new SymbolLibraryList()),
+        // TODO new((int)MetaFileDescriptorElement.PictureDirectory, "PICDIR", static () => new PictureDirectory()),
+    ];
+
+    /// <summary>Gives a new command for an element, without parameters yet.</summary>
+    /// <param name="element">The element.</param>
+    /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
+    public static Command CreateCommand(MetaFileDescriptorElement element) => Entry(element).Create();
+
+    /// <summary>Gives the word that stands for an element in clear text.</summary>
+    /// <param name="element">The element.</param>
+    /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
+    public static string GetKeyword(MetaFileDescriptorElement element) => Entry(element).Keyword;
+
+    private static ElementEntry Entry(MetaFileDescriptorElement element) =>
+        ElementTables.Find(ClassCode.MetaFileDescriptorElement, (int)element) ?? throw new ArgumentOutOfRangeException(nameof(element));
+}

@@ -1,0 +1,46 @@
+using System;
+using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+
+namespace Korvan.CAD.FileFormats.Cgm.Elements;
+
+/// <summary>What holds for a whole picture.</summary>
+public static class PictureDescriptorElements
+{
+    internal static readonly ElementEntry[] Table =
+    [
+        // TODO new((int)PictureDescriptorElement.ScalingMode, "SCALEMODE", static () => new ScalingMode()),
+        new((int)PictureDescriptorElement.ColourSelectionMode, "COLRMODE", static () => new ColourSelectionMode()),
+        // TODO new((int)PictureDescriptorElement.LineWidthSpecificationMode, "LINEWIDTHMODE", static () => new LineWidthSpecificationMode()),
+        // TODO new((int)PictureDescriptorElement.MarkerSizeSpecificationMode, "MARKERSIZEMODE", static () => new MarkerSizeSpecificationMode()),
+        // TODO new((int)PictureDescriptorElement.EdgeWidthSpecificationMode, "EDGEWIDTHMODE", static () => new EdgeWidthSpecificationMode()),
+        // TODO new((int)PictureDescriptorElement.VdcExtent, "VDCEXT", static () => new VdcExtent()),
+        // TODO new((int)PictureDescriptorElement.BackgroundColour, "BACKCOLR", static () => new BackgroundColour()),
+        // TODO new((int)PictureDescriptorElement.DeviceViewport, "DEVVP", static () => new DeviceViewport()),
+        new((int)PictureDescriptorElement.DeviceViewportSpecificationMode, "DEVVPMODE", static () => new DeviceViewportSpecificationMode()),
+        // TODO new((int)PictureDescriptorElement.DeviceViewportMapping, "DEVVPMAP", static () => new DeviceViewportMapping()),
+        // TODO new((int)PictureDescriptorElement.LineRepresentation, "LINEREP", static () => new LineRepresentation()),
+        // TODO new((int)PictureDescriptorElement.MarkerRepresentation, "MARKERREP", static () => new MarkerRepresentation()),
+        // TODO new((int)PictureDescriptorElement.TextRepresentation, "TEXTREP", static () => new TextRepresentation()),
+        // TODO new((int)PictureDescriptorElement.FillRepresentation, "FILLREP", static () => new FillRepresentation()),
+        // TODO new((int)PictureDescriptorElement.EdgeRepresentation, "EDGEREP", static () => new EdgeRepresentation()),
+        // TODO new((int)PictureDescriptorElement.InteriorStyleSpecificationMode, "INTSTYLEMODE", static () => new InteriorStyleSpecificationMode()),
+        // TODO new((int)PictureDescriptorElement.LineAndEdgeTypeDefinition, "LINEEDGETYPEDEF", static () => new LineAndEdgeTypeDefinition()),
+        // TODO new((int)PictureDescriptorElement.HatchStyleDefinition, "HATCHSTYLEDEF", static () => new HatchStyleDefinition()),
+        // TODO new((int)PictureDescriptorElement.GeometricPatternDefinition, "GEOPATDEF", static () => new GeometricPatternDefinition()),
+        // TODO new((int)PictureDescriptorElement.ApplicationStructureDirectory, "APSDIR", static () => new ApplicationStructureDirectory()),
+    ];
+
+    /// <summary>Gives a new command for an element, without parameters yet.</summary>
+    /// <param name="element">The element.</param>
+    /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
+    public static Command CreateCommand(PictureDescriptorElement element) => Entry(element).Create();
+
+    /// <summary>Gives the word that stands for an element in clear text.</summary>
+    /// <param name="element">The element.</param>
+    /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
+    public static string GetKeyword(PictureDescriptorElement element) => Entry(element).Keyword;
+
+    private static ElementEntry Entry(PictureDescriptorElement element) =>
+        ElementTables.Find(ClassCode.PictureDescriptorElement, (int)element) ?? throw new ArgumentOutOfRangeException(nameof(element));
+}

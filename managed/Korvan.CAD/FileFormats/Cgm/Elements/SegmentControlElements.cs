@@ -1,0 +1,33 @@
+using System;
+using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+
+namespace Korvan.CAD.FileFormats.Cgm.Elements;
+
+/// <summary>Parts that are stored and drawn again.</summary>
+public static class SegmentControlElements
+{
+    internal static readonly ElementEntry[] Table =
+    [
+        // TODO new((int)SegmentControlElement.CopySegment, "COPYSEG", static () => new CopySegment()),
+        // TODO new((int)SegmentControlElement.InheritanceFilter, "INHFILTER", static () => new InheritanceFilter()),
+        // TODO new((int)SegmentControlElement.ClipInheritance, "CLIPINH", static () => new ClipInheritance()),
+        // TODO new((int)SegmentControlElement.SegmentTransformation, "SEGTRAN", static () => new SegmentTransformation()),
+        // TODO new((int)SegmentControlElement.SegmentHighlighting, "SEGHIGHL", static () => new SegmentHighlighting()),
+        // TODO new((int)SegmentControlElement.SegmentDisplayPriority, "SEGDISPPRI", static () => new SegmentDisplayPriority()),
+        // TODO new((int)SegmentControlElement.SegmentPickPriority, "SEGPICKPRI", static () => new SegmentPickPriority()),
+    ];
+
+    /// <summary>Gives a new command for an element, without parameters yet.</summary>
+    /// <param name="element">The element.</param>
+    /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
+    public static Command CreateCommand(SegmentControlElement element) => Entry(element).Create();
+
+    /// <summary>Gives the word that stands for an element in clear text.</summary>
+    /// <param name="element">The element.</param>
+    /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
+    public static string GetKeyword(SegmentControlElement element) => Entry(element).Keyword;
+
+    private static ElementEntry Entry(SegmentControlElement element) =>
+        ElementTables.Find(ClassCode.SegmentControlElement, (int)element) ?? throw new ArgumentOutOfRangeException(nameof(element));
+}
