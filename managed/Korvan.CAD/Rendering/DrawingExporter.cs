@@ -23,36 +23,41 @@ internal static class DrawingExporter
     private const double PixelsPerInch = 96;
 
     /// <summary>What writes a drawing with the options of a class.</summary>
-    private static readonly Dictionary<Type, Action<CadImage, ImageOptionsBase, Stream>> Writers =
-        new(RasterSaver.OptionTypes.Select(static type => KeyValuePair.Create<Type, Action<CadImage, ImageOptionsBase, Stream>>(type, WritePixels)))
+    private static readonly Dictionary<Type, Action<Image, ImageOptionsBase, Stream>> Writers =
+        new(RasterSaver.OptionTypes.Select(static type => KeyValuePair.Create<Type, Action<Image, ImageOptionsBase, Stream>>(type, WritePixels)))
         {
             [typeof(CgmOptions)] = (image, options, output) => WritePage(image, options, output, CgmDocument.Write, (CgmOptions)options),
             [typeof(EmfOptions)] = (image, options, output) => WritePage(image, options, output, EmfDocument.Write, (EmfOptions)options),
-            [typeof(GlbOptions)] = (image, options, output) => MeshExporter.WriteGltf(image, (GlbOptions)options, output),
-            [typeof(GltfOptions)] = (image, options, output) => MeshExporter.WriteGltf(image, (GltfOptions)options, output),
             [typeof(Html5Options)] = (image, options, output) => WriteHtml(image, (Html5Options)options, output),
-            [typeof(ObjOptions)] = (image, options, output) => MeshExporter.WriteObj(image, (ObjOptions)options, output),
             [typeof(PdfOptions)] = (image, options, output) => WritePdf(image, (PdfOptions)options, output),
-            [typeof(StlOptions)] = (image, options, output) => MeshExporter.WriteStl(image, (StlOptions)options, output),
             [typeof(SvgOptions)] = (image, options, output) => WriteSvg(image, (SvgOptions)options, output),
             [typeof(WmfOptions)] = (image, options, output) => WritePage(image, options, output, WmfDocument.Write, (WmfOptions)options),
         };
 
+    /// <summary>What writes the bodies of a drawing; an image without bodies has no way into these.</summary>
+    private static readonly Dictionary<Type, Action<Image, ImageOptionsBase, Stream>> BodyWriters = new()
+    {
+        [typeof(GlbOptions)] = (image, options, output) => MeshExporter.WriteGltf((CadImage)image, (GlbOptions)options, output),
+        [typeof(GltfOptions)] = (image, options, output) => MeshExporter.WriteGltf((CadImage)image, (GltfOptions)options, output),
+        [typeof(ObjOptions)] = (image, options, output) => MeshExporter.WriteObj((CadImage)image, (ObjOptions)options, output),
+        [typeof(StlOptions)] = (image, options, output) => MeshExporter.WriteStl((CadImage)image, (StlOptions)options, output),
+    };
+
+    /// <summary>The classes of options that pages are written with.</summary>
+    internal static IReadOnlyCollection<Type> PageOptionTypes => Writers.Keys;
+
     /// <summary>The classes of options that a drawing is written with.</summary>
-    internal static IReadOnlyCollection<Type> OptionTypes => Writers.Keys;
+    internal static IReadOnlyCollection<Type> OptionTypes => [.. Writers.Keys, .. BodyWriters.Keys];
 
-    internal static bool Writes(ImageOptionsBase options) => Writers.ContainsKey(options.GetType());
+    internal static bool Writes(Image image, ImageOptionsBase options) => WriterFor(image, options) is not null;
 
-    internal static void Export(CadImage image, ImageOptionsBase options, Stream output)
+    internal static void Export(Image image, ImageOptionsBase options, Stream output)
     {
         ArgumentNullException.ThrowIfNull(image);
         ArgumentNullException.ThrowIfNull(options);
         ArgumentNullException.ThrowIfNull(output);
-        if (!Writers.TryGetValue(options.GetType(), out Action<CadImage, ImageOptionsBase, Stream>? write))
-        {
-            throw new ImageSaveException($"Drawings are not written with {options.GetType().Name}.");
-        }
-
+        Action<Image, ImageOptionsBase, Stream> write = WriterFor(image, options)
+            ?? throw new ImageSaveException($"{image.GetType().Name} is not written with {options.GetType().Name}.");
         long start = Stopwatch.GetTimestamp();
         options.Notes = new RenderNotes();
         Guard(() => write(image, options, output));
@@ -60,17 +65,21 @@ internal static class DrawingExporter
     }
 
     /// <summary>The pixels of the one page that the options ask for, for formats that have their own encoder.</summary>
-    internal static RasterPage Rasterize(CadImage image, ImageOptionsBase options)
+    internal static RasterPage Rasterize(Image image, ImageOptionsBase options)
     {
         RasterPage? result = null;
         Guard(() => result = RasterizeSingle(image, options));
         return result!;
     }
 
-    /// <summary>An engine with the fonts that the drawing was loaded with.</summary>
-    private static TextEngine NewEngine(CadImage image, bool sharp = false) => new(sharp, FontFolders.Of(image.LoadOptions));
+    private static Action<Image, ImageOptionsBase, Stream>? WriterFor(Image image, ImageOptionsBase options) =>
+        Writers.GetValueOrDefault(options.GetType())
+        ?? (image is CadImage ? BodyWriters.GetValueOrDefault(options.GetType()) : null);
 
-    private static void WritePdf(CadImage image, PdfOptions options, Stream output)
+    /// <summary>An engine with the fonts that the drawing was loaded with.</summary>
+    private static TextEngine NewEngine(Image image, bool sharp = false) => new(sharp, FontFolders.Of(image.LoadOptions));
+
+    private static void WritePdf(Image image, PdfOptions options, Stream output)
     {
         if (options.CorePdfOptions is { Compliance: not PdfCompliance.Pdf15 } document)
         {
@@ -78,8 +87,8 @@ internal static class DrawingExporter
         }
 
         using TextEngine engine = NewEngine(image);
-        var pages = new PageSource(image, options, engine, DeviceKind.Points, PointsPerInch);
-        DocumentInfo info = DocumentInfoReader.Read(image, options);
+        var pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.Points, PointsPerInch);
+        DocumentInfo info = DocumentInfoReader.Read(options);
         if (options.CorePdfOptions?.DigitalSignatureDetails is not { } signature)
         {
             VectorDocument.WritePdf(output, engine, pages.Pages(), info);
@@ -91,10 +100,10 @@ internal static class DrawingExporter
         PdfSigner.Write(unsigned.ToArray(), signature, output);
     }
 
-    private static void WriteSvg(CadImage image, SvgOptions options, Stream output)
+    private static void WriteSvg(Image image, SvgOptions options, Stream output)
     {
         using TextEngine engine = NewEngine(image);
-        var pages = new PageSource(image, options, engine, DeviceKind.UserUnits, PixelsPerInch);
+        var pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.UserUnits, PixelsPerInch);
         Page page = pages.SinglePage();
         if (options.TextAsShapes)
         {
@@ -108,34 +117,34 @@ internal static class DrawingExporter
 
     /// <summary>Writes the one page that the options ask for, in points.</summary>
     private static void WritePage<T>(
-        CadImage image, ImageOptionsBase options, Stream output, Action<Stream, TextEngine, Page, T> write, T own)
+        Image image, ImageOptionsBase options, Stream output, Action<Stream, TextEngine, Page, T> write, T own)
     {
         using TextEngine engine = NewEngine(image);
-        var pages = new PageSource(image, options, engine, DeviceKind.Points, PointsPerInch);
+        var pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.Points, PointsPerInch);
         write(output, engine, pages.SinglePage(), own);
     }
 
-    private static void WriteHtml(CadImage image, Html5Options options, Stream output)
+    private static void WriteHtml(Image image, Html5Options options, Stream output)
     {
         using TextEngine engine = NewEngine(image);
-        var pages = new PageSource(image, options, engine, DeviceKind.UserUnits, PixelsPerInch);
+        var pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.UserUnits, PixelsPerInch);
         HtmlCanvasDocument.Write(output, engine, pages.SinglePage(), options);
     }
 
-    private static void WritePixels(CadImage image, ImageOptionsBase options, Stream output)
+    private static void WritePixels(Image image, ImageOptionsBase options, Stream output)
     {
         using var pages = new DrawingPages(image, options);
         RasterSaver.Write(pages, options, output);
     }
 
-    private static RasterPage RasterizeSingle(CadImage image, ImageOptionsBase options)
+    private static RasterPage RasterizeSingle(Image image, ImageOptionsBase options)
     {
         using TextEngine engine = PixelTextEngine(image, options);
-        var pages = new PageSource(image, options, engine, DeviceKind.Pixels, Resolution(options));
+        var pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.Pixels, Resolution(options));
         return RasterPage.Render(engine, pages.SinglePage());
     }
 
-    internal static TextEngine PixelTextEngine(CadImage image, ImageOptionsBase options)
+    internal static TextEngine PixelTextEngine(Image image, ImageOptionsBase options)
     {
         TextRenderingHint? hint = options.VectorRasterizationOptions?.GraphicsOptions?.TextRenderingHint;
         return NewEngine(image, hint is TextRenderingHint.SingleBitPerPixel or TextRenderingHint.SingleBitPerPixelGridFit);

@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Rendering.Devices;
@@ -17,12 +16,12 @@ internal sealed class DrawingPages : IRasterPages, IDisposable
     private readonly double horizontal;
     private readonly double vertical;
 
-    internal DrawingPages(CadImage image, ImageOptionsBase options)
+    internal DrawingPages(Image image, ImageOptionsBase options)
     {
         engine = DrawingExporter.PixelTextEngine(image, options);
         horizontal = DrawingExporter.Resolution(options);
         vertical = options.ResolutionSettings?.VerticalResolution ?? horizontal;
-        pages = new PageSource(image, options, engine, DeviceKind.Pixels, horizontal);
+        pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.Pixels, horizontal);
         Titles = pages.Titles;
     }
 

@@ -9,12 +9,13 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Mesh;
+using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.WatermarkGuard;
 
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>A drawing. Its lists are live: what is added, removed or changed is what is drawn and saved.</summary>
-public partial class CadImage : Image
+public partial class CadImage : Image, IVectorImage
 {
     /// <summary>Creates an empty drawing of release 2018 with the usual tables.</summary>
     public CadImage()
@@ -189,7 +190,7 @@ public partial class CadImage : Image
     /// <inheritdoc/>
     internal override bool SupportsExport(ImageOptionsBase options)
     {
-        return options is DxfOptions || DrawingExporter.Writes(options);
+        return options is DxfOptions || DrawingExporter.Writes(this, options);
     }
 
     /// <inheritdoc/>
@@ -210,6 +211,9 @@ public partial class CadImage : Image
 
     /// <inheritdoc/>
     internal override void SaveData(Stream stream) => DxfSaver.Save(this, new DxfOptions(), stream);
+
+    /// <inheritdoc/>
+    VectorScene IVectorImage.OpenScene() => SceneReader.Read(this);
 
     /// <summary>Finds the block that holds the entities of a layout.</summary>
     internal CadBlockEntity? BlockOf(CadLayout layout) => DrawingLinks.BlockOf(this, layout);

@@ -28,6 +28,7 @@ internal sealed unsafe class CairoPainter
     private Rgba color;
     private bool hasColor;
     private double lineWidth = -1;
+    private LineLook? look;
     private int dash = -1;
     private double dashOffset;
 
@@ -81,8 +82,6 @@ internal sealed unsafe class CairoPainter
             Cairo.Clip(cr);
         }
 
-        Cairo.SetLineCap(cr, (CairoLineCap)settings.Caps);
-        Cairo.SetLineJoin(cr, CairoLineJoin.Round);
         if (settings.Sharp)
         {
             Cairo.SetAntialias(cr, CairoAntialias.None);
@@ -119,15 +118,29 @@ internal sealed unsafe class CairoPainter
     {
         Trace(item);
         SetColor(item.Color);
-        double width = Math.Max(item.LineWeight * settings.LineScale * settings.UnitsPerMillimetre, settings.Hairline);
+        double width = settings.WidthOf(item);
         if (width != lineWidth)
         {
             Cairo.SetLineWidth(cr, width);
             lineWidth = width;
         }
 
+        SetLook(list.LookOf(item) ?? settings.Look);
         SetDash(item);
         Cairo.Stroke(cr);
+    }
+
+    private void SetLook(LineLook value)
+    {
+        if (look == value)
+        {
+            return;
+        }
+
+        Cairo.SetLineCap(cr, (CairoLineCap)value.Cap);
+        Cairo.SetLineJoin(cr, (CairoLineJoin)value.Join);
+        Cairo.SetMiterLimit(cr, value.MiterLimit);
+        look = value;
     }
 
     private void SetDash(in DisplayItem item)
@@ -257,6 +270,11 @@ internal sealed unsafe class CairoPainter
         CairoMatrix matrix = ToCairo(map * image.Matrix * toUnit);
         Cairo.Transform(cr, &matrix);
         Cairo.SetSourceSurface(cr, surface, 0, 0);
+        if (image.Sharp)
+        {
+            Cairo.PatternSetFilter(Cairo.GetSource(cr), CairoFilter.Nearest);
+        }
+
         Cairo.PaintWithAlpha(cr, image.Opacity);
         Cairo.Restore(cr);
         Cairo.SurfaceDestroy(surface);
@@ -329,6 +347,7 @@ internal sealed unsafe class CairoPainter
     {
         hasColor = false;
         lineWidth = -1;
+        look = null;
         dash = int.MaxValue;
         ClearDash();
     }

@@ -19,6 +19,7 @@ internal sealed class CgmDocument : MetafilePlayer
     private const double LongestSide = 32_000;
     private const double MillimetresPerPoint = 25.4 / 72;
     private const int MostPoints = 16_000;
+    private const int SameForDashes = 1;
 
     private readonly CgmOptions _options;
     private readonly CgmWriter _body;
@@ -27,6 +28,7 @@ internal sealed class CgmDocument : MetafilePlayer
     private readonly double _unitsPerPoint;
     private readonly PathBuffer _letters = new();
     private (Rgba Color, int Width) _line = (default, -1);
+    private LineLook _look;
     private Rgba? _fill;
 
     private CgmDocument(TextEngine engine, Page page, CgmOptions options, double unitsPerPoint)
@@ -34,6 +36,7 @@ internal sealed class CgmDocument : MetafilePlayer
     {
         _options = options;
         _unitsPerPoint = unitsPerPoint;
+        _look = page.Settings.Look;
         _body = NewWriter();
     }
 
@@ -49,7 +52,7 @@ internal sealed class CgmDocument : MetafilePlayer
         tail.CopyTo(output);
     }
 
-    protected override void Line(PathBuffer path, Rgba color, double width)
+    protected override void Line(PathBuffer path, Rgba color, double width, LineLook look)
     {
         int size = Math.Max(1, (int)Math.Round(width));
         if (_line != (color, size))
@@ -57,6 +60,13 @@ internal sealed class CgmDocument : MetafilePlayer
             Put(_body, CgmElement.LineColor, w => w.Color(color));
             Put(_body, CgmElement.LineWidth, w => w.Length(size));
             _line = (color, size);
+        }
+
+        if (_look != look)
+        {
+            Put(_body, CgmElement.LineCap, w => Array.ForEach([CapIndex(look), SameForDashes], w.Integer));
+            Put(_body, CgmElement.LineJoin, w => w.Integer(JoinIndex(look)));
+            _look = look;
         }
 
         foreach (FlatLine line in FlatLine.Of(path, Tolerance))
@@ -111,7 +121,7 @@ internal sealed class CgmDocument : MetafilePlayer
         {
             _letters.Clear();
             Engine.AddOutline(run, matrix, _letters);
-            Line(_letters, Opaque(color), 1);
+            Line(_letters, Opaque(color), 1, _look);
             return;
         }
 
@@ -161,6 +171,10 @@ internal sealed class CgmDocument : MetafilePlayer
     }
 
     private static int Round(double value) => (int)Math.Round(Math.Clamp(value, short.MinValue, short.MaxValue));
+
+    private static int CapIndex(LineLook look) => look.Cap switch { LineCaps.Butt => 2, LineCaps.Square => 4, _ => 3 };
+
+    private static int JoinIndex(LineLook look) => look.Join switch { LineJoins.Miter => 2, LineJoins.Bevel => 4, _ => 3 };
 
     private static void Put(CgmWriter writer, CgmElement element, Action<CgmWriter>? parameters = null)
     {
@@ -295,9 +309,7 @@ internal sealed class CgmDocument : MetafilePlayer
         Put(head, CgmElement.Background, w => w.Color(Settings.Background));
         Put(head, CgmElement.BeginPictureBody);
         Put(head, CgmElement.InteriorStyle, w => w.Enumeration(1, "SOLID"));
-        int cap = Settings.Caps switch { LineCaps.Butt => 2, LineCaps.Square => 4, _ => 3 };
-        const int sameForDashes = 1, round = 3;
-        Put(head, CgmElement.LineCap, w => Array.ForEach([cap, sameForDashes], w.Integer));
-        Put(head, CgmElement.LineJoin, w => w.Integer(round));
+        Put(head, CgmElement.LineCap, w => Array.ForEach([CapIndex(Settings.Look), SameForDashes], w.Integer));
+        Put(head, CgmElement.LineJoin, w => w.Integer(JoinIndex(Settings.Look)));
     }
 }

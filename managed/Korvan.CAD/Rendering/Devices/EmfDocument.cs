@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Globalization;
 using System.IO;
 using System.Text;
 using Korvan.CAD.ImageOptions;
@@ -47,9 +48,9 @@ internal sealed class EmfDocument : MetafilePlayer
         document._records.Finish(output, (int)Math.Ceiling(document.Width), (int)Math.Ceiling(document.Height), document._handles.Count + 1, page.Name);
     }
 
-    protected override void Line(PathBuffer path, Rgba color, double width)
+    protected override void Line(PathBuffer path, Rgba color, double width, LineLook look)
     {
-        SelectPen(color, width);
+        SelectPen(color, width, look);
         if (path.Verbs.Contains(PathVerb.Close))
         {
             AddPath(path);
@@ -140,12 +141,12 @@ internal sealed class EmfDocument : MetafilePlayer
         }
     }
 
-    private void SelectPen(Rgba color, double width)
+    private void SelectPen(Rgba color, double width, LineLook look)
     {
         const int geometric = 0x10000;
         int size = Math.Max(1, Round(width));
-        int cap = Settings.Caps switch { LineCaps.Butt => 0x200, LineCaps.Square => 0x100, _ => 0 };
-        int handle = Handle((EmfObject.Pen, ColorRef(color), size, ""), at => _records.AddPen(at, geometric | cap, size, ColorRef(color)));
+        int style = geometric | PenEnds(look);
+        int handle = Handle((EmfObject.Pen, ColorRef(color), size, style.ToString(CultureInfo.InvariantCulture)), at => _records.AddPen(at, style, size, ColorRef(color)));
         if (handle != _selected.Pen)
         {
             _records.Add(EmfRecord.SelectObject, handle);

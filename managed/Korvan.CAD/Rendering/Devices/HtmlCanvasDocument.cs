@@ -1,4 +1,5 @@
 using System;
+using System.Collections.Generic;
 using System.Globalization;
 using System.IO;
 using System.Text;
@@ -23,6 +24,7 @@ internal sealed class HtmlCanvasDocument : PagePlayer
         const s = (d, color, width, dash, offset) => {
           g.strokeStyle = color; g.lineWidth = width; g.setLineDash(dash); g.lineDashOffset = offset; g.stroke(p(d));
         };
+        const l = (cap, join, limit) => { g.lineCap = cap; g.lineJoin = join; g.miterLimit = limit; };
         const f = (d, color, rule) => { g.fillStyle = color; g.fill(p(d), rule); };
         const q = (d, matrix, rule, radial, x, y, stops) => {
           g.save(); g.clip(p(d), rule); g.transform(...matrix);
@@ -35,8 +37,8 @@ internal sealed class HtmlCanvasDocument : PagePlayer
           const own = g.measureText(text).width; if (own > 0) g.scale(width / own, 1);
           g.fillText(text, 0, 0); g.restore();
         };
-        const i = (n, matrix, opacity) => {
-          g.save(); g.transform(...matrix); g.globalAlpha = opacity; g.drawImage(pictures[n], 0, 0, 1, 1); g.restore();
+        const i = (n, matrix, opacity, smooth) => {
+          g.save(); g.transform(...matrix); g.globalAlpha = opacity; g.imageSmoothingEnabled = smooth; g.drawImage(pictures[n], 0, 0, 1, 1); g.restore();
         };
         const c = (d, rule) => { g.save(); g.clip(p(d), rule); };
         const r = () => g.restore();
@@ -45,11 +47,16 @@ internal sealed class HtmlCanvasDocument : PagePlayer
 
     private const double FontSize = 100;
 
+    /// <summary>No line has this, so that the first one states its own.</summary>
+    private static readonly LineLook NoLook = new((LineCaps)(-1), default);
+
     private readonly Html5Options _options;
     private readonly StringBuilder _calls = new();
     private readonly StringBuilder _pictures = new();
     private readonly StringBuilder _data = new();
+    private readonly Stack<LineLook> _saved = new();
     private int _pictureCount;
+    private LineLook _look = NoLook;
 
     private HtmlCanvasDocument(TextEngine engine, Page page, Html5Options options)
         : base(engine, page, options.Notes)
@@ -73,6 +80,12 @@ internal sealed class HtmlCanvasDocument : PagePlayer
 
     protected override void Stroke(PathBuffer path, in DeviceStroke stroke)
     {
+        if (_look != stroke.Look)
+        {
+            _look = stroke.Look;
+            _calls.Append($"l(\"{_look.CapWord}\",\"{_look.JoinWord}\",{N(_look.MiterLimit)});\n");
+        }
+
         string dash = stroke.Dash is null ? "[]" : $"[{string.Join(',', Array.ConvertAll(stroke.Dash, N))}]";
         _calls.Append($"s(\"{Data(path)}\",\"{Css(stroke.Color)}\",{N(stroke.Width)},{dash},{N(stroke.DashOffset)});\n");
     }
@@ -109,12 +122,20 @@ internal sealed class HtmlCanvasDocument : PagePlayer
         using var png = new MemoryStream();
         PngEncoder.Write(image.Width, image.Height, y => image.Pixels.AsSpan(y * image.Width * 4, image.Width * 4), png, 6, 96);
         _pictures.Append($"\"data:image/png;base64,{Convert.ToBase64String(png.GetBuffer(), 0, (int)png.Length)}\",\n");
-        _calls.Append($"i({_pictureCount++},{Matrix(matrix * new Affine2(1, 0, 0, -1, 0, 1))},{N(image.Opacity)});\n");
+        _calls.Append($"i({_pictureCount++},{Matrix(matrix * new Affine2(1, 0, 0, -1, 0, 1))},{N(image.Opacity)},{(image.Sharp ? "false" : "true")});\n");
     }
 
-    protected override void PushClip(PathBuffer path, bool evenOdd) => _calls.Append($"c(\"{Data(path)}\",\"{Rule(evenOdd)}\");\n");
+    protected override void PushClip(PathBuffer path, bool evenOdd)
+    {
+        _saved.Push(_look);
+        _calls.Append($"c(\"{Data(path)}\",\"{Rule(evenOdd)}\");\n");
+    }
 
-    protected override void PopClip() => _calls.Append("r();\n");
+    protected override void PopClip()
+    {
+        _look = _saved.Pop();
+        _calls.Append("r();\n");
+    }
 
     private static string N(double value) => Math.Round(value, 3).ToString("0.###", CultureInfo.InvariantCulture);
 
@@ -145,8 +166,6 @@ internal sealed class HtmlCanvasDocument : PagePlayer
         writer.Write(_pictures);
         writer.Write("].map(async source => { const picture = new Image(); picture.src = source; await picture.decode(); return picture; }));\n");
         writer.Write(Functions);
-        string cap = Settings.Caps switch { LineCaps.Butt => "butt", LineCaps.Square => "square", _ => "round" };
-        writer.Write($"g.lineCap = \"{cap}\"; g.lineJoin = \"round\";\n");
         writer.Write(_calls);
         writer.Write("})();\n</script>\n");
         writer.Write(_options.FullHtmlPage ? "</body>\n</html>\n" : "");

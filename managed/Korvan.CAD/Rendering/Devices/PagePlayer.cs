@@ -7,7 +7,7 @@ using Korvan.CAD.Rendering.Text;
 namespace Korvan.CAD.Rendering.Devices;
 
 /// <summary>How a line is drawn, in device units.</summary>
-internal readonly record struct DeviceStroke(Rgba Color, double Width, double[]? Dash, double DashOffset);
+internal readonly record struct DeviceStroke(Rgba Color, double Width, double[]? Dash, double DashOffset, LineLook Look);
 
 /// <summary>
 /// Goes through a page and hands its items on in device units, for formats that have primitives of their own. What a
@@ -203,10 +203,11 @@ internal abstract class PagePlayer
 
     private DeviceStroke StrokeOf(in DisplayItem item)
     {
-        double width = Math.Max(item.LineWeight * Settings.LineScale * Settings.UnitsPerMillimetre, Settings.Hairline) * _scale;
+        double width = Settings.WidthOf(item) * _scale;
+        LineLook look = _list.LookOf(item) ?? Settings.Look;
         if (item.Dash < 0)
         {
-            return new DeviceStroke(item.Color, width, null, 0);
+            return new DeviceStroke(item.Color, width, null, 0, look);
         }
 
         double scale = Math.Sqrt(Math.Abs(_map.Determinant));
@@ -214,8 +215,8 @@ internal abstract class PagePlayer
         double[] lengths = Array.ConvertAll(_list.DashOf(item), length => length * scale);
         Array.ForEach(lengths, length => period += length);
         return period < ShortestPeriod * _scale
-            ? new DeviceStroke(item.Color, width, null, 0)
-            : new DeviceStroke(item.Color, width, lengths, item.DashOffset * scale);
+            ? new DeviceStroke(item.Color, width, null, 0, look)
+            : new DeviceStroke(item.Color, width, lengths, item.DashOffset * scale, look);
     }
 
     private PathBuffer Trace(in DisplayItem item)

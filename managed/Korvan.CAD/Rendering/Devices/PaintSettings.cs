@@ -1,15 +1,8 @@
+using System;
 using Korvan.CAD.Rendering.DisplayList;
 using Korvan.CAD.Rendering.Geometry;
 
 namespace Korvan.CAD.Rendering.Devices;
-
-/// <summary>How open lines end.</summary>
-internal enum LineCaps
-{
-    Butt = 0,
-    Round = 1,
-    Square = 2,
-}
 
 /// <summary>How one list is put on one surface.</summary>
 internal readonly record struct PaintSettings
@@ -37,4 +30,14 @@ internal readonly record struct PaintSettings
 
     /// <summary>The part of the drawing that may show, in drawing units; null for all of it.</summary>
     internal Bounds2? Clip { get; init; }
+
+    /// <summary>Ends and joins of lines that have none of their own.</summary>
+    internal LineLook Look => new(Caps, LineJoins.Round);
+
+    /// <summary>The width of a line in device units.</summary>
+    internal double WidthOf(in DisplayItem item)
+    {
+        double unit = item.WeightInUnits ? Math.Sqrt(Math.Abs(ToDevice.Determinant)) : LineScale * UnitsPerMillimetre;
+        return Math.Max(item.LineWeight * unit, Hairline);
+    }
 }

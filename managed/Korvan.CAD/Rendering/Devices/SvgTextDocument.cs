@@ -62,8 +62,7 @@ internal sealed class SvgTextDocument
             writer.Write($"<rect width=\"{width}\" height=\"{height}\" fill=\"{Rgb(settings.Background)}\"{Opacity("fill-opacity", settings.Background)}/>\n");
         }
 
-        string cap = settings.Caps switch { LineCaps.Butt => "butt", LineCaps.Square => "square", _ => "round" };
-        writer.Write($"<g stroke-linecap=\"{cap}\" stroke-linejoin=\"round\" fill=\"none\"{OpenClip()}>\n");
+        writer.Write($"<g stroke-linecap=\"{settings.Look.CapWord}\" stroke-linejoin=\"round\" fill=\"none\"{OpenClip()}>\n");
         WriteItems();
         writer.Write("</g>\n");
         if (page.Overlay != null)
@@ -121,8 +120,14 @@ internal sealed class SvgTextDocument
 
     private void WriteStroke(in DisplayItem item)
     {
-        double width = Math.Max(item.LineWeight * settings.LineScale * settings.UnitsPerMillimetre, settings.Hairline);
+        double width = settings.WidthOf(item);
         writer.Write($"<path d=\"{PathOf(item)}\" stroke=\"{Rgb(item.Color)}\" stroke-width=\"{N(width)}\"{Opacity("stroke-opacity", item.Color)}");
+        if (list.LookOf(item) is LineLook look)
+        {
+            writer.Write($" stroke-linecap=\"{look.CapWord}\" stroke-linejoin=\"{look.JoinWord}\"");
+            writer.Write(look.Join == LineJoins.Miter ? $" stroke-miterlimit=\"{N(look.MiterLimit)}\"" : "");
+        }
+
         if (item.Dash >= 0)
         {
             WriteDash(list.DashOf(item), item.DashOffset);
@@ -192,7 +197,7 @@ internal sealed class SvgTextDocument
     private void WriteImage(PlacedImage image)
     {
         Affine2 matrix = map * image.Matrix * new Affine2(1, 0, 0, -1, 0, 1);
-        writer.Write($"<image width=\"1\" height=\"1\" preserveAspectRatio=\"none\" transform=\"{Matrix(matrix)}\" opacity=\"{N(image.Opacity)}\" ");
+        writer.Write($"<image width=\"1\" height=\"1\" preserveAspectRatio=\"none\"{(image.Sharp ? " image-rendering=\"pixelated\"" : "")} transform=\"{Matrix(matrix)}\" opacity=\"{N(image.Opacity)}\" ");
         writer.Write($"href=\"{Escape(resources.Address(image))}\"/>\n");
     }
 

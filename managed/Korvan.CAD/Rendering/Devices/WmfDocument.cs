@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Globalization;
 using System.IO;
 
 using Korvan.CAD.ImageOptions;
@@ -41,9 +42,9 @@ internal sealed class WmfDocument : MetafilePlayer
         document._records.Finish(output, (short)document.Width, (short)document.Height, unitsPerPoint * 72, document._handles.Count);
     }
 
-    protected override void Line(PathBuffer path, Rgba color, double width)
+    protected override void Line(PathBuffer path, Rgba color, double width, LineLook look)
     {
-        Select(ref _selected.Pen, Pen(color, width));
+        Select(ref _selected.Pen, Pen(color, width, look));
         foreach (FlatLine line in FlatLine.Of(path, Tolerance))
         {
             // A line of many points is cut into several that share their ends.
@@ -177,11 +178,11 @@ internal sealed class WmfDocument : MetafilePlayer
         }
     }
 
-    private int Pen(Rgba color, double width)
+    private int Pen(Rgba color, double width, LineLook look)
     {
         int size = Math.Max(1, (int)Math.Round(width));
-        int cap = Settings.Caps switch { LineCaps.Butt => 0x200, LineCaps.Square => 0x100, _ => 0 };
-        return Handle((0, ColorRef(color), size, ""), () => _records.AddPen((short)cap, Round(size), ColorRef(color)));
+        int ends = PenEnds(look);
+        return Handle((0, ColorRef(color), size, ends.ToString(CultureInfo.InvariantCulture)), () => _records.AddPen((short)ends, Round(size), ColorRef(color)));
     }
 
     private int NoPen()

@@ -25,8 +25,14 @@ internal struct DisplayItem
     internal int VerbCount;
     internal int FirstCoord;
 
-    /// <summary>In millimetres on the page; 0 is the thinnest line that the device has.</summary>
+    /// <summary>In millimetres on the page, or in drawing units; 0 is the thinnest line that the device has.</summary>
     internal float LineWeight;
+
+    /// <summary>Whether the line weight is in drawing units and grows with them.</summary>
+    internal bool WeightInUnits;
+
+    /// <summary>Index into the table of line looks, or 0 for that of the page.</summary>
+    internal int Look;
 
     /// <summary>Index into the table of dash patterns, or -1 for a continuous line.</summary>
     internal int Dash;
@@ -40,11 +46,41 @@ internal struct DisplayItem
     internal int Extra;
 }
 
+/// <summary>How open lines end.</summary>
+internal enum LineCaps
+{
+    Butt = 0,
+    Round = 1,
+    Square = 2,
+}
+
+/// <summary>How the pieces of a line meet.</summary>
+internal enum LineJoins
+{
+    Miter = 0,
+    Round = 1,
+    Bevel = 2,
+}
+
+/// <summary>Ends and joins of a line. Longer points than the limit, in line widths, are cut.</summary>
+internal readonly record struct LineLook(LineCaps Cap, LineJoins Join, double MiterLimit = LineLook.UsualMiterLimit)
+{
+    internal const double UsualMiterLimit = 10;
+
+    /// <summary>The word that SVG and the canvas of HTML have for the ends.</summary>
+    internal string CapWord => Cap switch { LineCaps.Butt => "butt", LineCaps.Square => "square", _ => "round" };
+
+    /// <summary>The word that SVG and the canvas of HTML have for the joins.</summary>
+    internal string JoinWord => Join switch { LineJoins.Miter => "miter", LineJoins.Bevel => "bevel", _ => "round" };
+}
+
 /// <summary>What a stroke looks like.</summary>
 internal struct StrokeStyle
 {
     internal Rgba Color;
     internal float LineWeight;
+    internal bool WeightInUnits;
+    internal int Look;
     internal int Dash;
     internal float DashOffset;
     internal int Layer;
@@ -62,4 +98,8 @@ internal readonly record struct GradientStop(double Offset, Rgba Color);
 internal sealed record Gradient(bool Radial, double FocusX, double FocusY, Affine2 Matrix, GradientStop[] Stops);
 
 /// <summary>Pixels (premultiplied, blue first) with a map from the unit square, y up, to drawing units.</summary>
-internal sealed record PlacedImage(int Width, int Height, byte[] Pixels, Affine2 Matrix, double Opacity);
+internal sealed record PlacedImage(int Width, int Height, byte[] Pixels, Affine2 Matrix, double Opacity)
+{
+    /// <summary>Whether pixels are cells with sharp borders, however large they are drawn.</summary>
+    internal bool Sharp { get; init; }
+}

@@ -25,6 +25,7 @@ internal sealed class DrawingList
     private readonly List<double[]> dashes = [];
     private readonly Dictionary<string, int> dashIndex = [];
     private readonly List<Bounds2> clips = [];
+    private readonly List<LineLook> looks = [];
     private DisplayItem[] items = new DisplayItem[256];
     private PathVerb[] verbs = new PathVerb[1024];
     private double[] coords = new double[4096];
@@ -54,6 +55,8 @@ internal sealed class DrawingList
     internal ReadOnlySpan<double> CoordsOf(in DisplayItem item) => coords.AsSpan(item.FirstCoord);
 
     internal double[] DashOf(in DisplayItem item) => dashes[item.Dash];
+
+    internal LineLook? LookOf(in DisplayItem item) => item.Look > 0 ? looks[item.Look - 1] : null;
 
     internal TextRun TextOf(in DisplayItem item) => texts[item.Extra];
 
@@ -87,6 +90,19 @@ internal sealed class DrawingList
         return index;
     }
 
+    /// <summary>Keeps one copy of each look.</summary>
+    internal int Look(LineLook look)
+    {
+        int index = looks.IndexOf(look);
+        if (index < 0)
+        {
+            index = looks.Count;
+            looks.Add(look);
+        }
+
+        return index + 1;
+    }
+
     internal void Skip(string kind) =>
         Skipped[kind] = Skipped.TryGetValue(kind, out int count) ? count + 1 : 1;
 
@@ -99,6 +115,8 @@ internal sealed class DrawingList
 
         ref DisplayItem item = ref items[index];
         item.LineWeight = style.LineWeight;
+        item.WeightInUnits = style.WeightInUnits;
+        item.Look = style.Look;
         item.Dash = style.Dash;
         item.DashOffset = style.DashOffset;
     }

@@ -9,6 +9,8 @@ internal enum CairoFillRule { Winding = 0, EvenOdd = 1 }
 
 internal enum CairoLineCap { Butt = 0, Round = 1, Square = 2 }
 
+internal enum CairoFilter { Fast = 0, Good = 1, Best = 2, Nearest = 3 }
+
 internal enum CairoLineJoin { Miter = 0, Round = 1, Bevel = 2 }
 
 internal enum CairoAntialias { Default = 0, None = 1, Gray = 2, Fast = 4, Good = 5, Best = 6 }
@@ -118,6 +120,15 @@ internal static unsafe partial class Cairo
 
     [LibraryImport(Library, EntryPoint = "cairo_set_line_join")]
     internal static partial void SetLineJoin(nint cr, CairoLineJoin join);
+
+    [LibraryImport(Library, EntryPoint = "cairo_set_miter_limit")]
+    internal static partial void SetMiterLimit(nint cr, double limit);
+
+    [LibraryImport(Library, EntryPoint = "cairo_get_source")]
+    internal static partial nint GetSource(nint cr);
+
+    [LibraryImport(Library, EntryPoint = "cairo_pattern_set_filter")]
+    internal static partial void PatternSetFilter(nint pattern, CairoFilter filter);
 
     [LibraryImport(Library, EntryPoint = "cairo_set_dash")]
     internal static partial void SetDash(nint cr, double* dashes, int count, double offset);

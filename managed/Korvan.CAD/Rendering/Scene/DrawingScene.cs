@@ -1,4 +1,3 @@
-using System;
 using System.Collections.Generic;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.DisplayList;
@@ -7,48 +6,28 @@ using Korvan.CAD.Rendering.Text;
 namespace Korvan.CAD.Rendering.Scene;
 
 /// <summary>A layout that can be drawn: the model, or a sheet of paper.</summary>
-internal sealed record LayoutInfo(string Name, BlockInfo Block, bool IsModel, PaperSheet? Sheet);
+internal sealed record LayoutInfo(string Name, BlockInfo Block, bool IsModel, PaperSheet? Sheet) : ScenePage(Name, Sheet);
 
 /// <summary>A drawing as the renderer sees it: tables for lookup and layouts in their order.</summary>
-internal sealed record DrawingScene(SceneTables Tables, BlockInfo Model, IReadOnlyList<LayoutInfo> Layouts)
+internal sealed class DrawingScene(SceneTables tables, BlockInfo model, IReadOnlyList<LayoutInfo> layouts) : VectorScene
 {
     internal const string ModelName = "Model";
 
-    /// <summary>The layouts of the given names, in their order; the model when there are none.</summary>
-    internal List<LayoutInfo> Choose(IReadOnlyList<string> names)
+    internal SceneTables Tables => tables;
+
+    internal BlockInfo Model => model;
+
+    internal IReadOnlyList<LayoutInfo> Layouts => layouts;
+
+    internal override IReadOnlyList<ScenePage> Pages => layouts;
+
+    protected override IReadOnlyList<string> UsualPages => [ModelName];
+
+    internal override DrawingList Build(ScenePage page, RenderStyle style, TextEngine engine)
     {
-        var chosen = new List<LayoutInfo>();
-        foreach (string name in names.Count == 0 ? [ModelName] : names)
-        {
-            chosen.Add(Find(name) ?? throw new RenderException(
-                $"The drawing has no layout \"{name}\"; it has {string.Join(", ", NamesInQuotes())}."));
-        }
-
-        return chosen;
-    }
-
-    internal DrawingList Build(LayoutInfo layout, RenderStyle style, TextEngine engine) => layout.IsModel
-        ? SceneBuilder.BuildModel(Tables, style, engine, Model)
-        : SceneBuilder.BuildLayout(Tables, style, engine, layout.Block, Model);
-
-    private LayoutInfo? Find(string name)
-    {
-        foreach (LayoutInfo layout in Layouts)
-        {
-            if (string.Equals(layout.Name, name, StringComparison.OrdinalIgnoreCase))
-            {
-                return layout;
-            }
-        }
-
-        return null;
-    }
-
-    private IEnumerable<string> NamesInQuotes()
-    {
-        foreach (LayoutInfo layout in Layouts)
-        {
-            yield return "\"" + layout.Name + "\"";
-        }
+        var layout = (LayoutInfo)page;
+        return layout.IsModel
+            ? SceneBuilder.BuildModel(Tables, style, engine, Model)
+            : SceneBuilder.BuildLayout(Tables, style, engine, layout.Block, Model);
     }
 }

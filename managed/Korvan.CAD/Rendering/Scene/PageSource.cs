@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.DisplayList;
@@ -19,28 +18,28 @@ internal sealed class PageSource
     private const double BitmapPerInch = 300;
     private const double MostBitmapPixels = 60_000_000;
 
-    private readonly DrawingScene scene;
+    private readonly VectorScene scene;
     private readonly ExportOptions options;
     private readonly TextEngine engine;
     private readonly DeviceKind device;
-    private readonly List<LayoutInfo> layouts;
+    private readonly List<ScenePage> layouts;
     private readonly string format;
     private double? sharedScale;
 
-    internal PageSource(CadImage image, ImageOptionsBase options, TextEngine engine, DeviceKind device, double unitsPerInch)
+    internal PageSource(IVectorImage image, ImageOptionsBase options, TextEngine engine, DeviceKind device, double unitsPerInch)
     {
         this.engine = engine;
         this.device = device;
         this.options = new ExportOptions(options, device, unitsPerInch);
         this.options.Verify();
         format = options.TargetFormat.ToString();
-        scene = SceneReader.Read(image);
+        scene = image.OpenScene();
         layouts = scene.Choose(this.options.Layouts);
     }
 
     internal IEnumerable<Page> Pages()
     {
-        foreach (LayoutInfo layout in layouts)
+        foreach (ScenePage layout in layouts)
         {
             Page page = Create(layout);
             yield return options.AsBitmap && device != DeviceKind.Pixels ? AsBitmap(page) : page;
@@ -64,7 +63,7 @@ internal sealed class PageSource
         return options.AsBitmap && device != DeviceKind.Pixels ? AsBitmap(page) : page;
     }
 
-    private Page Create(LayoutInfo layout)
+    private Page Create(ScenePage layout)
     {
         DrawingList list = scene.Build(layout, options.Style(), engine);
         PaperSheet? sheet = layout.Sheet;

@@ -42,6 +42,51 @@ public class DeviceTests
     }
 
     [Fact]
+    public void Lines_have_widths_of_the_drawing_and_ends_and_joins_of_their_own()
+    {
+        // A millimetre of the page is 4 pixels; the list is drawn at twice its size.
+        var list = new DrawingList();
+        int square = list.Look(new LineLook(LineCaps.Square, LineJoins.Miter));
+        int butt = list.Look(new LineLook(LineCaps.Butt, LineJoins.Bevel));
+        Assert.Equal(square, list.Look(new LineLook(LineCaps.Square, LineJoins.Miter)));
+        var corner = new PathBuffer();
+        corner.MoveTo(new Vec2(5, 5));
+        corner.LineTo(new Vec2(20, 5));
+        corner.LineTo(new Vec2(20, 20));
+        list.Stroke(corner, new StrokeStyle { Color = Red, LineWeight = 4, WeightInUnits = true, Look = square, Dash = -1 });
+        corner.Clear();
+        corner.MoveTo(new Vec2(30, 5));
+        corner.LineTo(new Vec2(45, 5));
+        corner.LineTo(new Vec2(45, 20));
+        list.Stroke(corner, new StrokeStyle { Color = Blue, LineWeight = 2, Look = butt, Dash = -1 });
+        using var engine = new TextEngine();
+        Page once = PageOf(list, Rgba.White);
+        using RasterPage page = RasterPage.Render(engine, once with { Settings = once.Settings with { ToDevice = new Affine2(2, 0, 0, -2, 0, 100) } });
+        Assert.Equal(Red, At(page, 20, 13)); // 4 units are 8 pixels
+        Assert.Equal(Rgba.White, At(page, 20, 15));
+        Assert.Equal(Red, At(page, 7, 10)); // beyond the end by half the width
+        Assert.Equal(Red, At(page, 42, 7)); // the point of the corner
+        Assert.Equal(Blue, At(page, 75, 13)); // 2 mm are 8 pixels, whatever the scale
+        Assert.Equal(Rgba.White, At(page, 57, 10));
+        Assert.Equal(Rgba.White, At(page, 93, 6)); // the corner is cut
+    }
+
+    [Fact]
+    public void Cells_of_a_sharp_picture_keep_their_borders()
+    {
+        byte[] pixels = [0, 0, 255, 255, 255, 0, 0, 255];
+        foreach (bool sharp in new[] { true, false })
+        {
+            var list = new DrawingList();
+            var place = new Affine2(100, 0, 0, 100, 0, 0);
+            list.Image(new PlacedImage(2, 1, pixels, place, 1) { Sharp = sharp }, 0, Bounds2.Of(0, 0, 100, 100));
+            using RasterPage page = Render(list);
+            Assert.Equal(sharp, At(page, 45, 50) == Red);
+            Assert.Equal(sharp, At(page, 55, 50) == Blue);
+        }
+    }
+
+    [Fact]
     public void Clips_hold_until_they_are_popped_and_bound_the_extents()
     {
         var list = new DrawingList();

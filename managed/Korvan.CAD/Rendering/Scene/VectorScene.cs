@@ -1,0 +1,42 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>Something of a vector image that makes a page of its own.</summary>
+internal record ScenePage(string Name, PaperSheet? Sheet);
+
+/// <summary>A vector image as the renderer sees it: pages with names, each of which becomes a display list.</summary>
+internal abstract class VectorScene
+{
+    internal abstract IReadOnlyList<ScenePage> Pages { get; }
+
+    /// <summary>The pages that are drawn when none is asked for.</summary>
+    protected abstract IReadOnlyList<string> UsualPages { get; }
+
+    internal abstract DrawingList Build(ScenePage page, RenderStyle style, TextEngine engine);
+
+    /// <summary>The pages of the given names, in their order.</summary>
+    internal List<ScenePage> Choose(IReadOnlyList<string> names)
+    {
+        var chosen = new List<ScenePage>();
+        foreach (string name in names.Count == 0 ? UsualPages : names)
+        {
+            chosen.Add(Pages.FirstOrDefault(page => string.Equals(page.Name, name, StringComparison.OrdinalIgnoreCase))
+                ?? throw new RenderException(
+                    $"The drawing has no layout \"{name}\"; it has {string.Join(", ", Pages.Select(static page => $"\"{page.Name}\""))}."));
+        }
+
+        return chosen;
+    }
+}
+
+/// <summary>An image that is drawn from lines, areas and texts.</summary>
+internal interface IVectorImage
+{
+    VectorScene OpenScene();
+}
