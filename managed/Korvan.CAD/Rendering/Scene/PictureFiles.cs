@@ -2,18 +2,11 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
-using System.Runtime.InteropServices;
 using Korvan.CAD.CadExceptions;
-using Korvan.CAD.FileFormats;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.Raster;
-using Korvan.CAD.Raster.Codecs;
 
 namespace Korvan.CAD.Rendering.Scene;
-
-/// <summary>Decoded pixels: blue first, alpha multiplied in.</summary>
-internal sealed record Picture(int Width, int Height, byte[] Pixels);
 
 /// <summary>
 /// The files that a drawing's images name. Only files in the drawing's own folder, or below it, are opened: a path
@@ -84,38 +77,11 @@ internal sealed class PictureFiles
         try
         {
             byte[] data = File.ReadAllBytes(file);
-            FileFormat format = FormatDetector.Detect(data.AsSpan(0, Math.Min(data.Length, FormatDetector.HeadLength)));
-            if (!RasterLoader.CanRead(format))
-            {
-                return null;
-            }
-
-            DecodedFile decoded = RasterLoader.Decode(data, file, format, lenient: true);
-            Picture picture = Multiplied(decoded.Frames[0].Pixels);
-            decoded.Frames.ForEach(static frame => frame.Dispose());
-            return picture;
+            return Picture.Decode(data, file);
         }
         catch (Exception e) when (e is IOException or UnauthorizedAccessException or FrameworkException)
         {
             return null; // a drawing is drawn without the pictures that are damaged
         }
-    }
-
-    private static Picture Multiplied(PixelGrid pixels)
-    {
-        var bytes = new byte[checked((int)(pixels.Count * 4))];
-        for (int y = 0; y < pixels.Height; y++)
-        {
-            Span<int> row = pixels.Row(y);
-            foreach (ref int pixel in row)
-            {
-                int alpha = pixel >>> 24;
-                pixel = alpha == 255 ? pixel : BitPacking.Multiplied(pixel, alpha);
-            }
-
-            MemoryMarshal.AsBytes(row).CopyTo(bytes.AsSpan(y * pixels.Width * 4));
-        }
-
-        return new Picture(pixels.Width, pixels.Height, bytes);
     }
 }

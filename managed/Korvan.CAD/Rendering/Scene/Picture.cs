@@ -1,0 +1,45 @@
+using System;
+using System.Runtime.InteropServices;
+using Korvan.CAD.FileFormats;
+using Korvan.CAD.Raster;
+using Korvan.CAD.Raster.Codecs;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>Decoded pixels: blue first, alpha multiplied in.</summary>
+internal sealed record Picture(int Width, int Height, byte[] Pixels)
+{
+    /// <summary>The first picture of a file of pixels, as far as it can be read; null for a format that has no reader.</summary>
+    internal static Picture? Decode(byte[] data, string name)
+    {
+        FileFormat format = FormatDetector.Detect(data.AsSpan(0, Math.Min(data.Length, FormatDetector.HeadLength)));
+        if (!RasterLoader.CanRead(format))
+        {
+            return null;
+        }
+
+        DecodedFile decoded = RasterLoader.Decode(data, name, format, lenient: true);
+        Picture picture = From(decoded.Frames[0].Pixels);
+        decoded.Frames.ForEach(static frame => frame.Dispose());
+        return picture;
+    }
+
+    /// <summary>Copies pixels; those of the grid have their opacity multiplied in from then on.</summary>
+    internal static Picture From(PixelGrid pixels)
+    {
+        var bytes = new byte[checked((int)(pixels.Count * 4))];
+        for (int y = 0; y < pixels.Height; y++)
+        {
+            Span<int> row = pixels.Row(y);
+            foreach (ref int pixel in row)
+            {
+                int alpha = pixel >>> 24;
+                pixel = alpha == 255 ? pixel : BitPacking.Multiplied(pixel, alpha);
+            }
+
+            MemoryMarshal.AsBytes(row).CopyTo(bytes.AsSpan(y * pixels.Width * 4));
+        }
+
+        return new Picture(pixels.Width, pixels.Height, bytes);
+    }
+}
