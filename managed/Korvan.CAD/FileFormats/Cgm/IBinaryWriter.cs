@@ -6,6 +6,9 @@ namespace Korvan.CAD.FileFormats.Cgm;
 /// (ISO/IEC 8632-3, clause 6).</summary>
 public interface IBinaryWriter
 {
+    /// <summary>Gets how many bytes of parameters were written; lines of cells begin at even ones.</summary>
+    int Position { get; }
+
     /// <summary>Writes a whole number.</summary>
     /// <param name="value">The number.</param>
     void WriteInteger(int value);
@@ -45,6 +48,10 @@ public interface IBinaryWriter
     /// <summary>Writes a colour by its components.</summary>
     /// <param name="value">The colour.</param>
     void WriteDirectColor(CgmColor value);
+
+    /// <summary>Writes one component of a colour as it shall stand in the file.</summary>
+    /// <param name="value">The number.</param>
+    void WriteColorComponent(long value);
 
     /// <summary>Writes a text.</summary>
     /// <param name="value">The text.</param>
