@@ -68,7 +68,14 @@ internal abstract class ParameterExchange(CodingState state)
     /// <summary>VC: a coordinate of the device's surface.</summary>
     internal abstract VC ViewportCoordinate(VC? value);
 
-    /// <summary>BS: bits in groups of 16, up to the end of the element.</summary>
+    /// <summary>UI8, UI16, UI32: a number without sign; clear text has no width for it.</summary>
+    internal abstract long Unsigned(long value, int bits);
+
+    /// <summary>Gets, while clear text is read, whether a text in quotes comes next. Lists of points that binary files
+    /// count end there.</summary>
+    internal abstract bool IsAtText { get; }
+
+    /// <summary>BS: bits in groups of 16, to the end of the element.</summary>
     internal abstract byte[] Bits(byte[]? value);
 
     /// <summary>How many bits signed numbers have; clear text tells it by the smallest and the largest number.</summary>
@@ -119,6 +126,22 @@ internal abstract class ParameterExchange(CodingState state)
     /// <summary>An index whose values have names.</summary>
     internal T Index<T>(T value)
         where T : unmanaged, Enum => FromNumber<T>(Index(ToNumber(value)));
+
+    /// <summary>A real number that binary files hold as a floating one even while others are fixed (ISO/IEC 8632-3, 8.4):
+    /// the scale factors of pictures.</summary>
+    internal double FloatingReal(double value)
+    {
+        Precision real = State.Real;
+        State.Real = real == Precision.Floating64 ? real : Precision.Floating32;
+        try
+        {
+            return Real(value);
+        }
+        finally
+        {
+            State.Real = real;
+        }
+    }
 
     internal bool Flag(bool value) => Enumeration(value ? 1 : 0, OffOn) != 0;
 
