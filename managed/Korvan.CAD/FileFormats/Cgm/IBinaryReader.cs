@@ -27,6 +27,10 @@ public interface IBinaryReader
     /// <summary>Gives the number of one of a few values.</summary>
     int ReadEnumeration();
 
+    /// <summary>Gives a number without sign.</summary>
+    /// <param name="bits">Its bits: 8, 16, 24 or 32.</param>
+    long ReadUnsigned(int bits);
+
     /// <summary>Gives a real number.</summary>
     double ReadReal();
 

@@ -29,6 +29,11 @@ public interface IBinaryWriter
     /// <param name="value">The number.</param>
     void WriteEnumeration(int value);
 
+    /// <summary>Writes a number without sign.</summary>
+    /// <param name="value">The number.</param>
+    /// <param name="bits">Its bits: 8, 16, 24 or 32.</param>
+    void WriteUnsigned(long value, int bits);
+
     /// <summary>Writes a real number.</summary>
     /// <param name="value">The number.</param>
     void WriteReal(double value);

@@ -10,6 +10,11 @@ namespace Korvan.CAD.FileFormats.Cgm.Coding;
 /// </summary>
 internal sealed class CodingState
 {
+    internal const long MostRunCells = 1 << 28;
+
+    /// <summary>Gets or sets how many more cells runs may make.</summary>
+    internal long RunCellsLeft { get; set; } = MostRunCells;
+
     /// <summary>Gets or sets how many bits an integer has: 8, 16, 24 or 32.</summary>
     internal int IntegerBits { get; set; } = 16;
 

@@ -71,6 +71,12 @@ internal abstract class ParameterExchange(CodingState state)
     /// <summary>UI8, UI16, UI32: a number without sign; clear text has no width for it.</summary>
     internal abstract long Unsigned(long value, int bits);
 
+    /// <summary>IF8, IF16, IF32: a number with sign; clear text has no width for it.</summary>
+    internal abstract int Signed(int value, int bits);
+
+    /// <summary>E: one of a few values that have no words.</summary>
+    internal abstract int BareEnumeration(int value);
+
     /// <summary>Gets, while clear text is read, whether a text in quotes comes next. Lists of points that binary files
     /// count end there.</summary>
     internal abstract bool IsAtText { get; }
