@@ -53,6 +53,9 @@ internal abstract class ParameterExchange(CodingState state)
     /// <summary>CD: a colour by its components.</summary>
     internal abstract CgmColor DirectColor(CgmColor? value);
 
+    /// <summary>CCO: one component of a direct colour, as the number that the file holds.</summary>
+    internal abstract long ColorComponent(long value);
+
     /// <summary>S, SF: a text.</summary>
     internal abstract string String(string? value);
 
@@ -65,11 +68,14 @@ internal abstract class ParameterExchange(CodingState state)
     /// <summary>VC: a coordinate of the device's surface.</summary>
     internal abstract VC ViewportCoordinate(VC? value);
 
-    /// <summary>CCO: one component of a direct colour as the file holds it, not brought to any range.</summary>
-    internal abstract int ColorComponent(int value);
-
     /// <summary>UI8, UI16, UI32: a number without sign; clear text has no width for it.</summary>
     internal abstract long Unsigned(long value, int bits);
+
+    /// <summary>IF8, IF16, IF32: a number with sign; clear text has no width for it.</summary>
+    internal abstract int Signed(int value, int bits);
+
+    /// <summary>E: one of a few values that have no words.</summary>
+    internal abstract int BareEnumeration(int value);
 
     /// <summary>Gets, while clear text is read, whether a text in quotes comes next. Lists of points that binary files
     /// count end there.</summary>
@@ -83,6 +89,10 @@ internal abstract class ParameterExchange(CodingState state)
 
     /// <summary>How many bits unsigned numbers have; clear text tells it by the largest number.</summary>
     internal abstract int UnsignedBits(int value);
+
+    /// <summary>How many bits the colours of cells have, 0 for as many as those of the metafile; clear text tells it by
+    /// the largest number.</summary>
+    internal abstract int LocalBits(int value);
 
     /// <summary>How real numbers are coded; clear text tells the smallest, the largest and the count of digits.</summary>
     internal abstract Precision RealForm(Precision value);
@@ -171,7 +181,11 @@ internal abstract class ParameterExchange(CodingState state)
             return Rest(values, one);
         }
 
-        ArgumentOutOfRangeException.ThrowIfNegative(count);
+        if (count < 0)
+        {
+            throw new CgmDataException($"{count} items are announced");
+        }
+
         var read = new List<T>(Math.Min(count, 4096));
         while (read.Count < count)
         {
@@ -187,7 +201,7 @@ internal abstract class ParameterExchange(CodingState state)
     }
 
     /// <summary>Points up to the end of the element.</summary>
-    internal List<CgmPoint> Points(List<CgmPoint> values) => Rest(values, static (x, point) => x.Point(point));
+    internal virtual List<CgmPoint> Points(List<CgmPoint> values) => Rest(values, static (x, point) => x.Point(point));
 
     private static readonly string[] OffOn = ["OFF", "ON"];
 
