@@ -78,6 +78,8 @@ internal sealed class CodingState
         (IntegerBits, Real, IndexBits, NameBits) = (fresh.IntegerBits, fresh.Real, fresh.IndexBits, fresh.NameBits);
         (ColorBits, ColorIndexBits, ColorModel) = (fresh.ColorBits, fresh.ColorIndexBits, fresh.ColorModel);
         (ColorLow, ColorHigh) = (fresh.ColorLow, fresh.ColorHigh);
+        (ColorScale, ColorOffset) = (fresh.ColorScale, fresh.ColorOffset);
+        CharacterSets = fresh.CharacterSets;
         (VdcType, ViewportMode) = (fresh.VdcType, fresh.ViewportMode);
         (Picture, Defaults) = (fresh.Picture, fresh.Defaults);
     }

@@ -10,7 +10,9 @@ public sealed class ApplicationStructureAttribute : Command
 {
     /// <summary>Creates the element with its defaults.</summary>
     public ApplicationStructureAttribute()
-        : base(ClassCode.ApplicationStructureDescriptorElement, (int)ApplicationStructureDescriptorElement.ApplicationStructureAttribute)
+        : base(
+            ClassCode.ApplicationStructureDescriptorElement,
+            (int)ApplicationStructureDescriptorElement.ApplicationStructureAttribute)
     {
     }
 

@@ -66,7 +66,7 @@ public sealed class ApplicationStructureDirectory : Command
         /// <summary>Gets or sets the name of the structure.</summary>
         public string Identifier { get; set; } = "";
 
-        /// <summary>Gets or sets where the structure begins, in bytes from the beginning of the picture; not negative.</summary>
+        /// <summary>Gets or sets where the structure begins, in bytes; not negative.</summary>
         public long Location { get; set; }
     }
 }

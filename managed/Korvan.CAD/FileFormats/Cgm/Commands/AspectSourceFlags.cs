@@ -123,7 +123,8 @@ public sealed class AspectSourceFlags : Command
     /// <summary>Gets or sets the flags.</summary>
     public List<AspectSourceFlagsInfo> Infos { get; set; } = [];
 
-    internal override void Exchange(ParameterExchange x) => Infos = x.Rest(Infos, static (y, info) => ExchangeOne(y, info));
+    internal override void Exchange(ParameterExchange x) =>
+        Infos = x.Rest(Infos, static (y, info) => ExchangeOne(y, info));
 
     private static AspectSourceFlagsInfo ExchangeOne(ParameterExchange x, AspectSourceFlagsInfo? info)
     {

@@ -1,3 +1,4 @@
+using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -11,4 +12,6 @@ public sealed class CharacterSetIndex : GenericIndexCommand
         : base(ClassCode.AttributeElement, (int)AttributeElement.CharacterSetIndex)
     {
     }
+
+    internal override void Apply(CodingState state) => state.Current.CharacterSet = Index;
 }

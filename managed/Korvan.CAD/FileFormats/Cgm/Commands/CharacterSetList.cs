@@ -1,4 +1,5 @@
 using System.Collections.Generic;
+using System.Linq;
 using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
@@ -61,6 +62,9 @@ public sealed class CharacterSetList : Command
             x.String(Designations[i]);
         }
     }
+
+    internal override void Apply(CodingState state) =>
+        state.CharacterSets = [.. Types.Zip(Designations, static (type, tail) => ((int)type, tail))];
 
     private void Read(ParameterExchange x)
     {

@@ -14,14 +14,14 @@ public sealed class ClipIndicator : Command
     }
 
     /// <summary>Creates the element with its parameters.</summary>
-    /// <param name="isClipping">Whether it is.</param>
+    /// <param name="isClipping">Whether drawing is cut.</param>
     public ClipIndicator(bool isClipping)
         : this()
     {
         IsClipping = isClipping;
     }
 
-    /// <summary>Gets or sets whether it is.</summary>
+    /// <summary>Gets or sets whether drawing is cut.</summary>
     public bool IsClipping { get; set; } = true;
 
     internal override void Exchange(ParameterExchange x) => IsClipping = x.Flag(IsClipping);

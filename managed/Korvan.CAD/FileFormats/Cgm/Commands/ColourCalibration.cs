@@ -75,7 +75,7 @@ public sealed class ColourCalibration : Command
     private static List<int> Components(ParameterExchange x, List<int> values, int count)
     {
         Require(x, values.Count, count);
-        return x.Counted(values, count, static (y, value) => y.ColorComponent(value));
+        return x.Counted(values, count, static (y, value) => (int)y.ColorComponent(value));
     }
 
     private static (List<int> Components, List<double> Values) Table(
@@ -92,7 +92,7 @@ public sealed class ColourCalibration : Command
                 throw new CgmDataException($"{count} entries are announced, but only {i} are there");
             }
 
-            readComponents.Add(x.ColorComponent(x.IsReading ? 0 : components[i]));
+            readComponents.Add((int)x.ColorComponent(x.IsReading ? 0 : components[i]));
             readValues.Add(x.Real(x.IsReading ? 0 : values[i]));
         }
 

@@ -17,7 +17,7 @@ public sealed class ColourPrecision : Command
     public int Precision { get; set; } = 8;
 
     internal override void Exchange(ParameterExchange x) =>
-        Precision = PrecisionRules.Check(x, x.UnsignedBits(Precision), PrecisionRules.Bytes);
+        Precision = PrecisionRules.Exchange(x, Precision, PrecisionRules.Bytes, x.UnsignedBits);
 
     internal override void Apply(CodingState state) => state.ColorBits = Precision;
 }

@@ -17,10 +17,10 @@ public sealed class ColourValueExtent : Command
     }
 
     /// <summary>Gets or sets the components of no light, three, or four for CMYK. RGB and CMYK only.</summary>
-    public List<int> Minimum { get; set; } = [0, 0, 0];
+    public List<long> Minimum { get; set; } = [0, 0, 0];
 
     /// <summary>Gets or sets the components of full light, as many as for no light. RGB and CMYK only.</summary>
-    public List<int> Maximum { get; set; } = [255, 255, 255];
+    public List<long> Maximum { get; set; } = [255, 255, 255];
 
     /// <summary>Gets or sets the factors of the three components. Other models only.</summary>
     public List<double> Scales { get; set; } = [1, 1, 1];
@@ -37,16 +37,21 @@ public sealed class ColourValueExtent : Command
             return;
         }
 
+        if (!x.IsReading && (Scales.Count != 3 || Offsets.Count != 3))
+        {
+            throw new CgmDataException(
+                $"three factors and offsets are needed, {Scales.Count} and {Offsets.Count} are there");
+        }
+
         var scales = new List<double>();
         var offsets = new List<double>();
         for (int i = 0; i < 3; i++)
         {
-            scales.Add(x.Real(Scales.Count > i ? Scales[i] : 1));
-            offsets.Add(x.Real(Offsets.Count > i ? Offsets[i] : 0));
+            scales.Add(x.Real(x.IsReading ? 0 : Scales[i]));
+            offsets.Add(x.Real(x.IsReading ? 0 : Offsets[i]));
         }
 
-        Scales = scales;
-        Offsets = offsets;
+        (Scales, Offsets) = (scales, offsets);
     }
 
     internal override void Apply(CodingState state)
@@ -56,14 +61,14 @@ public sealed class ColourValueExtent : Command
             state.ColorLow = Bounds(Minimum, 0);
             state.ColorHigh = Bounds(Maximum, 255);
         }
-        else if (state.ColorModel == ColourModel.Model.RgbRelated && Scales.Count == 3 && !Scales.Contains(0))
+        else
         {
-            state.ColorLow = [.. Enumerable.Range(0, 3).Select(i => -Offsets[i] / Scales[i]), 0];
-            state.ColorHigh = [.. Enumerable.Range(0, 3).Select(i => (1 - Offsets[i]) / Scales[i]), 255];
+            state.ColorScale = [.. Scales];
+            state.ColorOffset = [.. Offsets];
         }
     }
 
-    private static List<int> Components(ParameterExchange x, List<int> values, int count)
+    private static List<long> Components(ParameterExchange x, List<long> values, int count)
     {
         if (!x.IsReading && values.Count != count)
         {
@@ -73,6 +78,6 @@ public sealed class ColourValueExtent : Command
         return x.Counted(values, count, static (y, value) => y.ColorComponent(value));
     }
 
-    private static double[] Bounds(List<int> values, double missing) =>
+    private static double[] Bounds(List<long> values, double missing) =>
         [.. Enumerable.Range(0, 4).Select(i => i < values.Count ? values[i] : missing)];
 }

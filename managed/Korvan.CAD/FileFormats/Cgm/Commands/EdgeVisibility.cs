@@ -14,14 +14,14 @@ public sealed class EdgeVisibility : Command
     }
 
     /// <summary>Creates the element with its parameters.</summary>
-    /// <param name="isVisible">Whether they have.</param>
+    /// <param name="isVisible">Whether areas have edges.</param>
     public EdgeVisibility(bool isVisible)
         : this()
     {
         IsVisible = isVisible;
     }
 
-    /// <summary>Gets or sets whether they have.</summary>
+    /// <summary>Gets or sets whether areas have edges.</summary>
     public bool IsVisible { get; set; }
 
     internal override void Exchange(ParameterExchange x) => IsVisible = x.Flag(IsVisible);

@@ -17,5 +17,6 @@ public sealed class FontList : Command
     /// <summary>Gets or sets the names.</summary>
     public List<string> Fonts { get; set; } = [];
 
-    internal override void Exchange(ParameterExchange x) => Fonts = x.Rest(Fonts, static (y, text) => y.String(text));
+    internal override void Exchange(ParameterExchange x) =>
+        Fonts = x.Rest(Fonts, static (y, text) => y.String(text));
 }

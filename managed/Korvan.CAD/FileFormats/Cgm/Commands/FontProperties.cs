@@ -19,7 +19,8 @@ public sealed class FontProperties : Command
     /// <summary>Gets or sets the properties.</summary>
     public List<FontInfo> Infos { get; set; } = [];
 
-    internal override void Exchange(ParameterExchange x) => Infos = x.Rest(Infos, static (y, info) => ExchangeOne(y, info));
+    internal override void Exchange(ParameterExchange x) =>
+        Infos = x.Rest(Infos, static (y, info) => ExchangeOne(y, info));
 
     private static FontInfo ExchangeOne(ParameterExchange x, FontInfo? info)
     {

@@ -17,7 +17,7 @@ public sealed class IntegerPrecision : Command
     public int Precision { get; set; } = 16;
 
     internal override void Exchange(ParameterExchange x) =>
-        Precision = PrecisionRules.Check(x, x.SignedBits(Precision), PrecisionRules.Bytes);
+        Precision = PrecisionRules.Exchange(x, Precision, PrecisionRules.Bytes, x.SignedBits);
 
     internal override void Apply(CodingState state) => state.IntegerBits = Precision;
 }

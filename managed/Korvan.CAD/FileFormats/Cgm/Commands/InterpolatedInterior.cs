@@ -35,7 +35,8 @@ public sealed class InterpolatedInterior : Command
         int scalars = Style == 1 ? 2 : 4;
         if (!x.IsReading && ReferenceGeometry.Count != scalars)
         {
-            throw new CgmDataException($"style {Style} needs {scalars} numbers of reference, {ReferenceGeometry.Count} are there");
+            throw new CgmDataException(
+                $"style {Style} needs {scalars} numbers of reference, {ReferenceGeometry.Count} are there");
         }
 
         ReferenceGeometry = x.Counted(ReferenceGeometry, scalars, (y, value) => y.Size(value, mode));

@@ -69,7 +69,8 @@ public sealed class MetafileElementList : Command
         }
 
         string[] numbers = word.Split(',');
-        return numbers.Length == 2 && int.TryParse(numbers[0], out int elementClass) && int.TryParse(numbers[1], out int id)
+        int id = 0;
+        return numbers.Length == 2 && int.TryParse(numbers[0], out int elementClass) && int.TryParse(numbers[1], out id)
             ? (elementClass, id)
             : throw new CgmDataException($"no element has the word '{word}'");
     }

@@ -17,7 +17,7 @@ public sealed class NamePrecision : Command
     public int Precision { get; set; } = 16;
 
     internal override void Exchange(ParameterExchange x) =>
-        Precision = PrecisionRules.Check(x, x.SignedBits(Precision), PrecisionRules.Bytes);
+        Precision = PrecisionRules.Exchange(x, Precision, PrecisionRules.Bytes, x.SignedBits);
 
     internal override void Apply(CodingState state) => state.NameBits = Precision;
 }

@@ -67,11 +67,12 @@ public sealed class PictureDirectory : Command
         /// <summary>Gets or sets the name of the picture.</summary>
         public string Identifier { get; set; } = "";
 
-        /// <summary>Gets or sets where the picture begins, in bytes from the beginning of the metafile; not negative.</summary>
+        /// <summary>Gets or sets where the picture begins, in bytes from the beginning of the
+        /// metafile; not negative.</summary>
         public long Location { get; set; }
 
-        /// <summary>Gets or sets where the directory of its application structures begins, in bytes from the beginning of
-        /// the metafile; 0 without one.</summary>
+        /// <summary>Gets or sets where the directory of its application structures begins, in bytes from the
+        /// beginning of the metafile; 0 without one.</summary>
         public long Directory { get; set; }
     }
 }

@@ -16,10 +16,11 @@ public abstract class RealPrecisionBase : Command
 
     internal override void Exchange(ParameterExchange x)
     {
-        Value = x.RealForm(Value);
         if (!System.Enum.IsDefined(Value))
         {
             throw new CgmDataException($"there is no precision {(int)Value} of real numbers");
         }
+
+        Value = x.RealForm(Value);
     }
 }

@@ -17,5 +17,6 @@ public sealed class SymbolLibraryList : Command
     /// <summary>Gets or sets the names.</summary>
     public List<string> Libraries { get; set; } = [];
 
-    internal override void Exchange(ParameterExchange x) => Libraries = x.Rest(Libraries, static (y, text) => y.String(text));
+    internal override void Exchange(ParameterExchange x) =>
+        Libraries = x.Rest(Libraries, static (y, text) => y.String(text));
 }

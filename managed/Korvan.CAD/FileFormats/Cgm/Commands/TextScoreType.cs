@@ -17,7 +17,8 @@ public sealed class TextScoreType : Command
     /// <summary>Gets or sets the lines that are turned on or off.</summary>
     public List<TSInfo> Infos { get; set; } = [];
 
-    internal override void Exchange(ParameterExchange x) => Infos = x.Rest(Infos, static (y, info) => ExchangeOne(y, info));
+    internal override void Exchange(ParameterExchange x) =>
+        Infos = x.Rest(Infos, static (y, info) => ExchangeOne(y, info));
 
     private static TSInfo ExchangeOne(ParameterExchange x, TSInfo? info)
     {
@@ -35,8 +36,8 @@ public sealed class TextScoreType : Command
         {
         }
 
-        /// <summary>Gets or sets where the line is: 1 below the text, 2 above it, 3 through it, 4 at its right, 5 at its
-        /// left (kendot); negative numbers are private.</summary>
+        /// <summary>Gets or sets where the line is: 1 to the right of the text, 2 to its left, 3 through it, 4 marks at
+        /// each character; negative numbers are private.</summary>
         public int Type { get; set; } = 1;
 
         /// <summary>Gets or sets whether the line is drawn.</summary>

@@ -13,7 +13,7 @@ public sealed class Transparency : Command
     {
     }
 
-    /// <summary>Gets or sets whether they do; if not, they have the auxiliary colour.</summary>
+    /// <summary>Gets or sets whether they do; if not, gaps have the auxiliary colour.</summary>
     public bool IsTransparent { get; set; } = true;
 
     internal override void Exchange(ParameterExchange x) => IsTransparent = x.Flag(IsTransparent);

@@ -17,7 +17,7 @@ public sealed class VdcIntegerPrecision : Command
     public int Precision { get; set; } = 16;
 
     internal override void Exchange(ParameterExchange x) =>
-        Precision = PrecisionRules.Check(x, x.SignedBits(Precision), PrecisionRules.Coordinates);
+        Precision = PrecisionRules.Exchange(x, Precision, PrecisionRules.Coordinates, x.SignedBits);
 
     internal override void Apply(CodingState state) => state.Current.VdcIntegerBits = Precision;
 }
