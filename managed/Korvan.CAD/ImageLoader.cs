@@ -108,7 +108,7 @@ internal static class ImageLoader
         }
     }
 
-    private static byte[] ReadFile(string filePath)
+    internal static byte[] ReadFile(string filePath)
     {
         VerifyFile(filePath);
         try
@@ -136,7 +136,7 @@ internal static class ImageLoader
         }
     }
 
-    private static byte[] ReadStream(Stream stream)
+    internal static byte[] ReadStream(Stream stream)
     {
         using MemoryStream copy = new();
         stream.CopyTo(copy, 1 << 18); // a crossing a block, where the stream is Python's

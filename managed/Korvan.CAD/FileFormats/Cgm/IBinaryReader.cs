@@ -9,6 +9,9 @@ public interface IBinaryReader
     /// <summary>Gets whether the element has more parameters.</summary>
     bool HasMore { get; }
 
+    /// <summary>Gets how many bytes of the parameters were read; lines of cells begin at even ones.</summary>
+    int Position { get; }
+
     /// <summary>Gives a whole number.</summary>
     int ReadInteger();
 
@@ -24,6 +27,10 @@ public interface IBinaryReader
     /// <summary>Gives the number of one of a few values.</summary>
     int ReadEnumeration();
 
+    /// <summary>Gives a number without sign.</summary>
+    /// <param name="bits">Its bits: 8, 16, 24 or 32.</param>
+    long ReadUnsigned(int bits);
+
     /// <summary>Gives a real number.</summary>
     double ReadReal();
 
@@ -38,6 +45,9 @@ public interface IBinaryReader
 
     /// <summary>Gives a colour by its components.</summary>
     CgmColor ReadDirectColor();
+
+    /// <summary>Gives one component of a colour as it stands in the file.</summary>
+    long ReadColorComponent();
 
     /// <summary>Gives a text.</summary>
     string ReadString();

@@ -6,6 +6,9 @@ namespace Korvan.CAD.FileFormats.Cgm;
 /// (ISO/IEC 8632-3, clause 6).</summary>
 public interface IBinaryWriter
 {
+    /// <summary>Gets how many bytes of parameters were written; lines of cells begin at even ones.</summary>
+    int Position { get; }
+
     /// <summary>Writes a whole number.</summary>
     /// <param name="value">The number.</param>
     void WriteInteger(int value);
@@ -26,6 +29,11 @@ public interface IBinaryWriter
     /// <param name="value">The number.</param>
     void WriteEnumeration(int value);
 
+    /// <summary>Writes a number without sign.</summary>
+    /// <param name="value">The number.</param>
+    /// <param name="bits">Its bits: 8, 16, 24 or 32.</param>
+    void WriteUnsigned(long value, int bits);
+
     /// <summary>Writes a real number.</summary>
     /// <param name="value">The number.</param>
     void WriteReal(double value);
@@ -45,6 +53,10 @@ public interface IBinaryWriter
     /// <summary>Writes a colour by its components.</summary>
     /// <param name="value">The colour.</param>
     void WriteDirectColor(CgmColor value);
+
+    /// <summary>Writes one component of a colour as it shall stand in the file.</summary>
+    /// <param name="value">The number.</param>
+    void WriteColorComponent(long value);
 
     /// <summary>Writes a text.</summary>
     /// <param name="value">The text.</param>

@@ -1,3 +1,4 @@
+using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -9,6 +10,11 @@ namespace Korvan.CAD.FileFormats.Cgm.Coding;
 /// </summary>
 internal sealed class CodingState
 {
+    internal const long MostRunCells = 1 << 28;
+
+    /// <summary>Gets or sets how many more cells runs may make.</summary>
+    internal long RunCellsLeft { get; set; } = MostRunCells;
+
     /// <summary>Gets or sets how many bits an integer has: 8, 16, 24 or 32.</summary>
     internal int IntegerBits { get; set; } = 16;
 
@@ -30,6 +36,17 @@ internal sealed class CodingState
 
     /// <summary>Gets or sets the components that stand for full light.</summary>
     internal double[] ColorHigh { get; set; } = [255, 255, 255, 255];
+
+    /// <summary>Gets or sets what the components of CIE colours and of RGB-related ones are multiplied with; the default
+    /// leads 8 bits to the usual ranges of L*a*b*.</summary>
+    internal double[] ColorScale { get; set; } = [100 / 255.0, 1, 1];
+
+    /// <summary>Gets or sets what is added to the multiplied components.</summary>
+    internal double[] ColorOffset { get; set; } = [0, -128, -128];
+
+    /// <summary>Gets or sets the sets of characters that texts choose from by numbers, counted from 1: what kind each
+    /// is (4 for a complete code), and the end of the sequence that designates it.</summary>
+    internal IReadOnlyList<(int Kind, string Tail)> CharacterSets { get; set; } = [];
 
     internal VdcType.Type VdcType { get; set; } = Commands.VdcType.Type.Integer;
 
@@ -54,6 +71,19 @@ internal sealed class CodingState
 
     internal int ColorComponents => ColorModel == ColourModel.Model.Cmyk ? 4 : 3;
 
+    /// <summary>Forgets what a metafile before this one in the same file changed.</summary>
+    internal void BeginMetafile()
+    {
+        var fresh = new CodingState();
+        (IntegerBits, Real, IndexBits, NameBits) = (fresh.IntegerBits, fresh.Real, fresh.IndexBits, fresh.NameBits);
+        (ColorBits, ColorIndexBits, ColorModel) = (fresh.ColorBits, fresh.ColorIndexBits, fresh.ColorModel);
+        (ColorLow, ColorHigh) = (fresh.ColorLow, fresh.ColorHigh);
+        (ColorScale, ColorOffset) = (fresh.ColorScale, fresh.ColorOffset);
+        CharacterSets = fresh.CharacterSets;
+        (VdcType, ViewportMode) = (fresh.VdcType, fresh.ViewportMode);
+        (Picture, Defaults) = (fresh.Picture, fresh.Defaults);
+    }
+
     /// <summary>Forgets what the last picture changed.</summary>
     internal void BeginPicture() => Picture = Defaults with { };
 }
@@ -70,6 +100,10 @@ internal sealed record PictureCoding
     internal SpecificationMode EdgeWidthMode { get; set; } = SpecificationMode.Scaled;
 
     internal SpecificationMode InteriorStyleMode { get; set; } = SpecificationMode.Scaled;
+
+    internal int CharacterSet { get; set; } = 1;
+
+    internal int AlternateCharacterSet { get; set; } = 1;
 
     internal int VdcIntegerBits { get; set; } = 16;
 

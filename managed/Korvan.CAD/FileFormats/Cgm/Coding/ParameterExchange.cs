@@ -53,6 +53,9 @@ internal abstract class ParameterExchange(CodingState state)
     /// <summary>CD: a colour by its components.</summary>
     internal abstract CgmColor DirectColor(CgmColor? value);
 
+    /// <summary>CCO: one component of a direct colour, as the number that the file holds.</summary>
+    internal abstract long ColorComponent(long value);
+
     /// <summary>S, SF: a text.</summary>
     internal abstract string String(string? value);
 
@@ -65,7 +68,20 @@ internal abstract class ParameterExchange(CodingState state)
     /// <summary>VC: a coordinate of the device's surface.</summary>
     internal abstract VC ViewportCoordinate(VC? value);
 
-    /// <summary>BS: bits in groups of 16.</summary>
+    /// <summary>UI8, UI16, UI32: a number without sign; clear text has no width for it.</summary>
+    internal abstract long Unsigned(long value, int bits);
+
+    /// <summary>IF8, IF16, IF32: a number with sign; clear text has no width for it.</summary>
+    internal abstract int Signed(int value, int bits);
+
+    /// <summary>E: one of a few values that have no words.</summary>
+    internal abstract int BareEnumeration(int value);
+
+    /// <summary>Gets, while clear text is read, whether a text in quotes comes next. Lists of points that binary files
+    /// count end there.</summary>
+    internal abstract bool IsAtText { get; }
+
+    /// <summary>BS: bits in groups of 16, to the end of the element.</summary>
     internal abstract byte[] Bits(byte[]? value);
 
     /// <summary>How many bits signed numbers have; clear text tells it by the smallest and the largest number.</summary>
@@ -73,6 +89,10 @@ internal abstract class ParameterExchange(CodingState state)
 
     /// <summary>How many bits unsigned numbers have; clear text tells it by the largest number.</summary>
     internal abstract int UnsignedBits(int value);
+
+    /// <summary>How many bits the colours of cells have, 0 for as many as those of the metafile; clear text tells it by
+    /// the largest number.</summary>
+    internal abstract int LocalBits(int value);
 
     /// <summary>How real numbers are coded; clear text tells the smallest, the largest and the count of digits.</summary>
     internal abstract Precision RealForm(Precision value);
@@ -113,6 +133,22 @@ internal abstract class ParameterExchange(CodingState state)
     internal T Index<T>(T value)
         where T : unmanaged, Enum => FromNumber<T>(Index(ToNumber(value)));
 
+    /// <summary>A real number that binary files hold as a floating one even while others are fixed (ISO/IEC 8632-3, 8.4):
+    /// the scale factors of pictures.</summary>
+    internal double FloatingReal(double value)
+    {
+        Precision real = State.Real;
+        State.Real = real == Precision.Floating64 ? real : Precision.Floating32;
+        try
+        {
+            return Real(value);
+        }
+        finally
+        {
+            State.Real = real;
+        }
+    }
+
     internal bool Flag(bool value) => Enumeration(value ? 1 : 0, OffOn) != 0;
 
     /// <summary>Items up to the end of the element.</summary>
@@ -145,7 +181,11 @@ internal abstract class ParameterExchange(CodingState state)
             return Rest(values, one);
         }
 
-        ArgumentOutOfRangeException.ThrowIfNegative(count);
+        if (count < 0)
+        {
+            throw new CgmDataException($"{count} items are announced");
+        }
+
         var read = new List<T>(Math.Min(count, 4096));
         while (read.Count < count)
         {
@@ -161,7 +201,7 @@ internal abstract class ParameterExchange(CodingState state)
     }
 
     /// <summary>Points up to the end of the element.</summary>
-    internal List<CgmPoint> Points(List<CgmPoint> values) => Rest(values, static (x, point) => x.Point(point));
+    internal virtual List<CgmPoint> Points(List<CgmPoint> values) => Rest(values, static (x, point) => x.Point(point));
 
     private static readonly string[] OffOn = ["OFF", "ON"];
 

@@ -39,7 +39,7 @@ public sealed class DeviceViewportSpecificationMode : Command
     internal override void Exchange(ParameterExchange x)
     {
         Value = x.Enumeration(Value, Words);
-        ScaleFactor = x.Real(ScaleFactor);
+        ScaleFactor = x.FloatingReal(ScaleFactor);
     }
 
     internal override void Apply(CodingState state) => state.ViewportMode = Value;

@@ -1,0 +1,89 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using System.Linq;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.FileFormats.Cgm.Elements;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+using Korvan.CAD.FileFormats.Cgm.Import;
+
+namespace Korvan.CAD.FileFormats.Cgm;
+
+/// <summary>A computer graphics metafile as the list of its commands (ISO/IEC 8632:1999).</summary>
+public sealed class CgmFile
+{
+    private IReadOnlyList<Message> _messages = [];
+
+    /// <summary>Creates a metafile without commands.</summary>
+    public CgmFile()
+    {
+    }
+
+    /// <summary>Gets the commands in their order. A whole metafile begins with BEGMF and ends with ENDMF.</summary>
+    public List<Command> Commands { get; } = [];
+
+    /// <summary>Gets what was noticed when the file was read; of very many messages the first thousand.</summary>
+    public IReadOnlyList<Message> Messages => _messages;
+
+    /// <summary>Gets the encoding that the file was read from; binary for one that was not read.</summary>
+    public CgmFileFormat Encoding { get; private set; }
+
+    /// <summary>Reads a file of either encoding, perhaps packed by gzip.</summary>
+    /// <param name="filePath">The file.</param>
+    /// <exception cref="ImageLoadException">The file is missing, damaged, or no metafile.</exception>
+    public static CgmFile Load(string filePath) => Load(filePath, false);
+
+    /// <summary>Reads a file of either encoding, perhaps packed by gzip.</summary>
+    /// <param name="filePath">The file.</param>
+    /// <param name="ignoreErrors">Whether damaged elements are left out and told in <see cref="Messages"/>.</param>
+    /// <exception cref="ImageLoadException">The file is missing, no metafile, or damaged and damage is not
+    /// ignored.</exception>
+    public static CgmFile Load(string filePath, bool ignoreErrors) =>
+        Load(ImageLoader.ReadFile(filePath), filePath, new LoadOptions { IgnoreErrors = ignoreErrors });
+
+    /// <summary>Reads a stream of either encoding, perhaps packed by gzip, to its end.</summary>
+    /// <param name="stream">The stream; it stays open.</param>
+    /// <exception cref="ImageLoadException">What it holds is damaged or no metafile.</exception>
+    public static CgmFile Load(Stream stream) => Load(stream, false);
+
+    /// <summary>Reads a stream of either encoding, perhaps packed by gzip, to its end.</summary>
+    /// <param name="stream">The stream; it stays open.</param>
+    /// <param name="ignoreErrors">Whether damaged elements are left out and told in <see cref="Messages"/>.</param>
+    /// <exception cref="ImageLoadException">What it holds is no metafile, or damaged and damage is not ignored.</exception>
+    public static CgmFile Load(Stream stream, bool ignoreErrors)
+    {
+        ArgumentNullException.ThrowIfNull(stream);
+        return Load(ImageLoader.ReadStream(stream), "stream", new LoadOptions { IgnoreErrors = ignoreErrors });
+    }
+
+    /// <summary>Reads a metafile; what is wrong with it is added to the errors of the options.</summary>
+    internal static CgmFile Load(byte[] data, string name, LoadOptions options)
+    {
+        byte[] content = CgmSource.Unpack(data, name);
+        var file = new CgmFile { Encoding = CgmSource.FindEncoding(content, name) };
+        if (file.Encoding == CgmFileFormat.Binary)
+        {
+            file.ReadBinary(content, name, options.IgnoreErrors);
+        }
+        else
+        {
+            throw new ImageLoadException($"'{name}' is a clear text metafile, which cannot be read yet.");
+        }
+
+        options.Errors.AddRange(file._messages.Where(one => one.Severity == Severity.Error).Select(one => $"'{name}', {one.Text}."));
+        return file;
+    }
+
+    private void ReadBinary(byte[] data, string name, bool ignoreErrors)
+    {
+        using var reader = new DefaultBinaryReader(new MemoryStream(data, false), DefaultCommandFactory.Instance, name);
+        reader.IgnoreErrors = ignoreErrors;
+        while (reader.ReadCommand() is Command command)
+        {
+            Commands.Add(command);
+        }
+
+        _messages = reader.Messages;
+    }
+}

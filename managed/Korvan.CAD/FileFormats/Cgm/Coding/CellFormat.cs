@@ -1,0 +1,48 @@
+using System;
+
+namespace Korvan.CAD.FileFormats.Cgm.Coding;
+
+/// <summary>How many cells there are and how the colour of one is coded.</summary>
+/// <param name="Width">Cells in a line.</param>
+/// <param name="Height">Lines.</param>
+/// <param name="Bits">Bits of an index, or of one component of a colour.</param>
+/// <param name="Components">1 for indexes, else how many components a colour has.</param>
+/// <param name="IsLocal">Whether the precision is not that of the metafile.</param>
+internal readonly record struct CellFormat(int Width, int Height, int Bits, int Components, bool IsLocal)
+{
+    internal const int RunLength = 0, Packed = 1;
+
+    /// <summary>One array of numbers holds no more.</summary>
+    private const long MostCells = 1 << 28;
+
+    internal static readonly string[] Modes = ["run length", "packed"];
+
+    private static readonly int[] Precisions = [1, 2, 4, 8, 16, 24, 32];
+
+    internal bool IsIndexed => Components == 1;
+
+    internal int BitsPerCell => Bits * Components;
+
+    internal long BytesPerLine => (((long)Width * BitsPerCell) + 7) / 8;
+
+    internal int Count => Width * Height;
+
+    /// <summary>Gives the format that an element states.</summary>
+    /// <exception cref="CgmDataException">There cannot be such cells.</exception>
+    internal static CellFormat Of(CodingState state, int width, int height, int precision)
+    {
+        if (width <= 0 || height <= 0 || (long)width * height > MostCells)
+        {
+            throw new CgmDataException($"there are {width} by {height} cells; each has to be positive, their product up to {MostCells}");
+        }
+
+        if (precision != 0 && Array.IndexOf(Precisions, precision) < 0)
+        {
+            throw new CgmDataException($"the precision of the cells is {precision}; 0, 1, 2, 4, 8, 16, 24 and 32 exist");
+        }
+
+        int usual = state.HasIndexedColors ? state.ColorIndexBits : state.ColorBits;
+        int components = state.HasIndexedColors ? 1 : state.ColorComponents;
+        return new CellFormat(width, height, precision == 0 ? usual : precision, components, precision != 0 && precision != usual);
+    }
+}

@@ -1,0 +1,154 @@
+using System;
+using System.Collections.Generic;
+using System.Text;
+
+namespace Korvan.CAD.FileFormats.Cgm.Coding;
+
+/// <summary>
+/// Leads from the bytes of texts to letters and back. The set of characters that the metafile has selected counts;
+/// sequences of ISO/IEC 2022 inside of a text lead to Unicode and back. Without either, bytes are Latin-1.
+/// </summary>
+internal static class TextCoding
+{
+    private const byte Escape = 0x1B;
+    private const int Set96 = 1, CompleteCode = 4;
+
+    private static readonly UTF8Encoding s_utf8 = new(false, true);
+    private static readonly UnicodeEncoding s_utf16 = new(true, false, true);
+
+    // The complete codes by the ends of their sequences ESC % F and ESC % / F (register of ISO/IEC 2375).
+    private static readonly Dictionary<string, Encoding> s_complete = new()
+    {
+        ["G"] = s_utf8, ["/G"] = s_utf8, ["/H"] = s_utf8, ["/I"] = s_utf8,
+        ["/@"] = s_utf16, ["/C"] = s_utf16, ["/E"] = s_utf16, ["/J"] = s_utf16, ["/K"] = s_utf16, ["/L"] = s_utf16,
+    };
+
+    // The right halves of ISO/IEC 8859 by the final letters of their sequences.
+    private static readonly Dictionary<string, int> s_rightHalves = new()
+    {
+        ["A"] = 28591, ["B"] = 28592, ["C"] = 28593, ["D"] = 28594, ["L"] = 28595, ["G"] = 28596, ["F"] = 28597,
+        ["H"] = 28598, ["M"] = 28599, ["b"] = 28605,
+    };
+
+    internal static string Decode(ReadOnlySpan<byte> bytes, CodingState state)
+    {
+        Encoding selected = Selected(state);
+        if (selected is UnicodeEncoding || bytes.IndexOf(Escape) < 0)
+        {
+            return Decode(bytes, selected);
+        }
+
+        var text = new StringBuilder();
+        Encoding current = selected;
+        while (bytes.Length > 0)
+        {
+            int end = NextSequence(bytes, current);
+            text.Append(Decode(bytes[..end], current));
+            bytes = bytes[end..];
+            bytes = bytes[SkipSequence(bytes, selected, ref current)..];
+        }
+
+        return text.ToString();
+    }
+
+    internal static byte[] Encode(string text, CodingState state)
+    {
+        Encoding selected = Selected(state);
+        try
+        {
+            byte[] bytes = Strict(selected).GetBytes(text);
+            return bytes;
+        }
+        catch (EncoderFallbackException)
+        {
+            return EncodeAsUnicode(text);
+        }
+    }
+
+    private static byte[] EncodeAsUnicode(string text)
+    {
+        try
+        {
+            return [.. "\u001b%G"u8, .. s_utf8.GetBytes(text), .. "\u001b%@"u8];
+        }
+        catch (EncoderFallbackException)
+        {
+            throw new CgmDataException("a text has half of a letter that takes two codes (a lone surrogate)");
+        }
+    }
+
+    private static Encoding Strict(Encoding encoding)
+    {
+        return ReferenceEquals(encoding, s_utf8) || ReferenceEquals(encoding, s_utf16)
+            ? encoding
+            : Encoding.GetEncoding(encoding.CodePage, EncoderFallback.ExceptionFallback, DecoderFallback.ReplacementFallback);
+    }
+
+    private static Encoding Selected(CodingState state)
+    {
+        IReadOnlyList<(int Kind, string Tail)> sets = state.CharacterSets;
+        if (sets.Count == 0)
+        {
+            return Encoding.Latin1;
+        }
+
+        (int kind, string tail) = At(sets, state.Current.CharacterSet);
+        if (kind == CompleteCode && s_complete.TryGetValue(tail, out Encoding? complete))
+        {
+            return complete;
+        }
+
+        (kind, tail) = At(sets, state.Current.AlternateCharacterSet);
+        return kind == Set96 && s_rightHalves.TryGetValue(tail, out int page) ? Page(page) : Encoding.Latin1;
+    }
+
+    private static (int Kind, string Tail) At(IReadOnlyList<(int Kind, string Tail)> sets, int number) =>
+        number >= 1 && number <= sets.Count ? sets[number - 1] : (-1, "");
+
+    private static Encoding Page(int page) =>
+        page == Encoding.Latin1.CodePage ? Encoding.Latin1 : CodePagesEncodingProvider.Instance.GetEncoding(page) ?? Encoding.Latin1;
+
+    private static string Decode(ReadOnlySpan<byte> bytes, Encoding encoding)
+    {
+        try
+        {
+            return encoding.GetString(bytes);
+        }
+        catch (DecoderFallbackException)
+        {
+            return Encoding.Latin1.GetString(bytes);
+        }
+    }
+
+    // In UTF-16 the sequence has two bytes a letter, too.
+    private static int NextSequence(ReadOnlySpan<byte> bytes, Encoding current)
+    {
+        int end = current is UnicodeEncoding ? bytes.IndexOf((ReadOnlySpan<byte>)[0, Escape, 0, (byte)'%']) : bytes.IndexOf(Escape);
+        return end < 0 ? bytes.Length : end;
+    }
+
+    private static int SkipSequence(ReadOnlySpan<byte> bytes, Encoding selected, ref Encoding current)
+    {
+        int step = current is UnicodeEncoding ? 2 : 1;
+        int at = step;
+        var tail = new StringBuilder();
+        for (; at < bytes.Length; at += step)
+        {
+            char letter = (char)bytes[at + step - 1 < bytes.Length ? at + step - 1 : at];
+            tail.Append(letter);
+            if (letter is < ' ' or > '/')
+            {
+                at += step;
+                break;
+            }
+        }
+
+        string sequence = tail.ToString();
+        if (sequence.StartsWith('%'))
+        {
+            current = s_complete.GetValueOrDefault(sequence[1..], selected);
+        }
+
+        return Math.Min(at, bytes.Length);
+    }
+}

@@ -1,0 +1,17 @@
+using System;
+using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.FileFormats.Cgm.Elements;
+
+namespace Korvan.CAD.FileFormats.Cgm.Import;
+
+/// <summary>Makes the commands of all elements of the standard.</summary>
+internal sealed class DefaultCommandFactory : ICommandFactory
+{
+    internal static readonly DefaultCommandFactory Instance = new();
+
+    public Command CreateCommand(CommandConstructorArguments arguments)
+    {
+        ArgumentNullException.ThrowIfNull(arguments);
+        return ElementTables.Find(arguments.ElementClass, arguments.ElementId)?.Create() ?? new UnknownCommand(arguments);
+    }
+}
