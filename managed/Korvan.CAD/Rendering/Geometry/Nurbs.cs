@@ -76,10 +76,25 @@ internal sealed class Nurbs
             pen.MoveTo(At(First));
         }
 
+        DrawSpans(pen, tolerance, First, Last);
+    }
+
+    /// <summary>Draws the part between two parameters; all of it when they enclose no part.</summary>
+    internal void Draw(in PathPen pen, double tolerance, double from, double to)
+    {
+        from = Math.Max(from, First);
+        to = Math.Min(to, Last);
+        (from, to) = to > from ? (from, to) : (First, Last);
+        pen.MoveTo(At(from));
+        DrawSpans(pen, tolerance, from, to);
+    }
+
+    private void DrawSpans(in PathPen pen, double tolerance, double from, double to)
+    {
         for (int i = degree; i < points.Length; i++)
         {
-            double a = knots[i];
-            double b = knots[i + 1];
+            double a = Math.Max(knots[i], from);
+            double b = Math.Min(knots[i + 1], to);
             if (b > a)
             {
                 DrawSpan(pen, a, b, i, tolerance);

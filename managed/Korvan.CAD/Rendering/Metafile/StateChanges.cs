@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.Rendering.DisplayList;
+using LineCapElement = Korvan.CAD.FileFormats.Cgm.Commands.LineCap;
 
 namespace Korvan.CAD.Rendering.Metafile;
 
@@ -84,7 +85,7 @@ internal static class StateChanges
         On<LineType>(c, static (s, x) => s.Paint.Line.Type = x.Type);
         On<LineWidth>(c, static (s, x) => s.Paint.Line.Width = x.Width);
         On<LineColour>(c, static (s, x) => s.Paint.Line.Color = x.Color);
-        On<LineCap>(c, static (s, x) => s.Paint.Line.Cap = x.Cap);
+        On<LineCapElement>(c, static (s, x) => s.Paint.Line.Cap = x.Cap);
         On<LineJoin>(c, static (s, x) => s.Paint.Line.Join = x.Join);
         On<LineTypeInitialOffset>(c, static (s, x) => s.Paint.Line.DashOffset = x.Offset);
         On<EdgeBundleIndex>(c, static (s, x) => s.Paint.Edge.Bundle = x.Index);

@@ -21,7 +21,7 @@ internal sealed class DrawingScene(SceneTables tables, BlockInfo model, IReadOnl
 
     internal override IReadOnlyList<ScenePage> Pages => layouts;
 
-    protected override IReadOnlyList<string> UsualPages => [ModelName];
+    protected override IReadOnlyList<ScenePage> UsualPages => Choose([ModelName]);
 
     internal override DrawingList Build(ScenePage page, RenderStyle style, TextEngine engine)
     {

@@ -16,7 +16,7 @@ internal abstract class VectorScene
     internal abstract IReadOnlyList<ScenePage> Pages { get; }
 
     /// <summary>The pages that are drawn when none is asked for.</summary>
-    protected abstract IReadOnlyList<string> UsualPages { get; }
+    protected abstract IReadOnlyList<ScenePage> UsualPages { get; }
 
     internal abstract DrawingList Build(ScenePage page, RenderStyle style, TextEngine engine);
 
@@ -24,7 +24,12 @@ internal abstract class VectorScene
     internal List<ScenePage> Choose(IReadOnlyList<string> names)
     {
         var chosen = new List<ScenePage>();
-        foreach (string name in names.Count == 0 ? UsualPages : names)
+        if (names.Count == 0)
+        {
+            return [.. UsualPages];
+        }
+
+        foreach (string name in names)
         {
             chosen.Add(Pages.FirstOrDefault(page => string.Equals(page.Name, name, StringComparison.OrdinalIgnoreCase))
                 ?? throw new RenderException(

@@ -1,0 +1,119 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cgm.Classes;
+using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Rendering.Scene;
+
+namespace Korvan.CAD.Rendering.Metafile;
+
+/// <content>Pictures of cells, whole or in tiles.</content>
+internal sealed partial class CgmInterpreter
+{
+    /// <summary>Cells of one tile; a picture of more is refused rather than allocated.</summary>
+    private const long MostCells = 100_000_000;
+
+    private BeginTileArray? _tiles;
+    private int _nextTile;
+
+    private static void AddCells(Dictionary<Type, Action<CgmInterpreter, Command>> d)
+    {
+        On<CellArray>(d, static (i, x) => i.DrawCells(x));
+        On<BeginTileArray>(d, static (i, x) => (i._tiles, i._nextTile) = (x, 0));
+        On<BitonalTile>(d, static (i, x) => i.DrawTile(x, picture => TilePictures.Bitonal(picture, i.ColorOf(x.Background), i.ColorOf(x.Foreground))));
+        On<Tile>(d, static (i, x) => i.DrawTile(x, picture => TilePictures.Coloured(picture)));
+        On<EndTileArray>(d, static (i, x) => i._tiles = null);
+    }
+
+    /// <summary>The colour of a cell: an index, or components of their own.</summary>
+    private Rgba CellColor(int cell, bool isIndexed)
+    {
+        Rgba color = isIndexed ? TableColor(cell) : new Rgba((byte)(cell >> 16), (byte)(cell >> 8), (byte)cell);
+        return Paint.TransparentCell is CgmColor clear && ColorOf(clear) == color ? color.WithAlpha(0) : color;
+    }
+
+    private void DrawCells(CellArray x)
+    {
+        if (x.CellsPerLine < 1 || x.LineCount < 1 || x.Cells.Length < (long)x.CellsPerLine * x.LineCount)
+        {
+            Skip("cell array without all its cells");
+            return;
+        }
+
+        bool isIndexed = x.IsIndexed;
+        Picture cells = TilePictures.FromCells(x.Cells, x.CellsPerLine, x.LineCount, cell => CellColor(cell, isIndexed));
+        (Vec2 p, Vec2 q, Vec2 r) = (_map.Point(V(x.FirstCorner)), _map.Point(V(x.OppositeCorner)), _map.Point(V(x.LineEnd)));
+        Vec2 along = r - p;
+        Vec2 up = r - q;
+        Vec2 origin = p - up;
+        Place(cells, new Affine2(along.X, along.Y, up.X, up.Y, origin.X, origin.Y));
+    }
+
+    private void DrawTile(TileElement tile, Func<PackedTile, Picture?> unpack)
+    {
+        if (_tiles is not BeginTileArray array)
+        {
+            Skip("tile outside of an array");
+            return;
+        }
+
+        int column = _nextTile % Math.Max(1, array.TilesInPathDirection);
+        int row = _nextTile / Math.Max(1, array.TilesInPathDirection);
+        _nextTile++;
+        var packed = new PackedTile(tile.Compression, tile.Data, array.CellsPerTileInPathDirection, array.CellsPerTileInLineDirection)
+        {
+            RowPadding = tile.RowPadding,
+        };
+        bool fits = packed.Width > 0 && packed.Height > 0 && (long)packed.Width * packed.Height <= MostCells;
+        Picture? cells = fits ? unpack(packed) : null;
+        if (cells is null)
+        {
+            Skip($"tile packed as {tile.Compression}");
+            return;
+        }
+
+        Place(cells, TileMap(array, column, row));
+    }
+
+    /// <summary>Where a tile lies: it begins at its column and row of cells, less those that lie before the image.</summary>
+    private Affine2 TileMap(BeginTileArray array, int column, int row)
+    {
+        Vec2 path = Turned(array.CellPathDirection) * array.CellSizeInPathDirection;
+        Vec2 line = Turned(array.CellPathDirection + array.LineProgressionDirection) * array.CellSizeInLineDirection;
+        double firstCell = ((double)column * array.CellsPerTileInPathDirection) - array.ImageOffsetInPathDirection;
+        double firstLine = ((double)row * array.CellsPerTileInLineDirection) - array.ImageOffsetInLineDirection;
+        Vec2 start = _map.Point(V(array.Position) + (path * firstCell) + (line * firstLine));
+        Vec2 along = _map.Point(path * array.CellsPerTileInPathDirection) - _map.Point(default);
+        Vec2 down = _map.Point(line * array.CellsPerTileInLineDirection) - _map.Point(default);
+        Vec2 origin = start + down;
+        return new Affine2(along.X, along.Y, -down.X, -down.Y, origin.X, origin.Y);
+    }
+
+    private static Vec2 Turned(int degrees) => (degrees % 360) switch
+    {
+        0 => new Vec2(1, 0),
+        90 => new Vec2(0, 1),
+        180 => new Vec2(-1, 0),
+        _ => new Vec2(0, -1),
+    };
+
+    private void Place(Picture cells, in Affine2 place)
+    {
+        EnsureClip();
+        List.Image(new PlacedImage(cells.Width, cells.Height, cells.Pixels, place, 1) { Sharp = true }, _layer, BoundsOf(place));
+    }
+
+    private static Bounds2 BoundsOf(in Affine2 place)
+    {
+        Bounds2 box = Bounds2.Empty;
+        for (int corner = 0; corner < 4; corner++)
+        {
+            Vec2 p = place.Point(corner & 1, corner >> 1);
+            box.Add(p.X, p.Y);
+        }
+
+        return box;
+    }
+}

@@ -1,0 +1,123 @@
+using System;
+using System.Collections.Generic;
+using System.Globalization;
+using Korvan.CAD.FileFormats.Cgm;
+using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.Rendering.Scene;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Metafile;
+
+/// <summary>A picture of a metafile: its elements from the first behind its name up to its end.</summary>
+internal sealed record MetafilePicture(string Name, int First, int End, PictureState State, PictureFrame Frame)
+    : ScenePage(Name, Frame.Sheet);
+
+/// <summary>A metafile as the renderer sees it: its pictures are its pages.</summary>
+internal sealed class MetafileScene : VectorScene
+{
+    private readonly IReadOnlyList<Command> _commands;
+    private readonly List<MetafilePicture> _pictures = [];
+    private readonly HashSet<string> _names = new(StringComparer.OrdinalIgnoreCase);
+
+    internal MetafileScene(CgmFile file)
+    {
+        _commands = file.Commands;
+        var defaults = new PictureState();
+        int at = ReadHead(defaults);
+        while (at < _commands.Count)
+        {
+            at = ReadPicture(defaults, at);
+        }
+    }
+
+    internal override IReadOnlyList<ScenePage> Pages => _pictures;
+
+    internal IReadOnlyList<MetafilePicture> Pictures => _pictures;
+
+    /// <summary>Segments that all pictures may draw, by their names.</summary>
+    internal Dictionary<int, Segment> Segments { get; } = [];
+
+    protected override IReadOnlyList<ScenePage> UsualPages => _pictures;
+
+    internal override DrawingList Build(ScenePage page, RenderStyle style, TextEngine engine)
+    {
+        var picture = (MetafilePicture)page;
+        var list = new DrawingList { Ink = style.Ink };
+        new CgmInterpreter(this, picture, style, new Canvas(list, engine)).Run();
+        return list;
+    }
+
+    internal Command CommandAt(int index) => _commands[index];
+
+    /// <summary>Reads what stands before the first picture; gives the place of that.</summary>
+    private int ReadHead(PictureState defaults)
+    {
+        int segment = -1;
+        for (int at = 0; at < _commands.Count; at++)
+        {
+            switch (_commands[at])
+            {
+                case BeginPicture:
+                    return at;
+                case BeginSegment begin:
+                    segment = begin.Identifier;
+                    Segments[segment] = new Segment(at + 1, at + 1);
+                    break;
+                case EndSegment when segment >= 0:
+                    Segments[segment] = Segments[segment] with { End = at };
+                    segment = -1;
+                    break;
+                case MetafileDefaultsReplacement replacement:
+                    replacement.Commands.ForEach(command => StateChanges.Apply(defaults, command));
+                    break;
+                case Command command when segment < 0:
+                    StateChanges.Apply(defaults, command);
+                    break;
+            }
+        }
+
+        return _commands.Count;
+    }
+
+    private int ReadPicture(PictureState defaults, int begin)
+    {
+        PictureState state = defaults.Clone();
+        string name = ((BeginPicture)_commands[begin]).Identifier;
+        int at = begin + 1;
+        for (; at < _commands.Count && _commands[at] is not (BeginPictureBody or EndPicture or BeginPicture); at++)
+        {
+            StateChanges.Apply(state, _commands[at]);
+        }
+
+        int first = at;
+        while (at < _commands.Count && _commands[at] is not (EndPicture or BeginPicture))
+        {
+            at++;
+        }
+
+        _pictures.Add(new MetafilePicture(NewName(name), first, at, state, PictureFrame.Of(state)));
+        while (at < _commands.Count && _commands[at] is not BeginPicture)
+        {
+            at++;
+        }
+
+        return at;
+    }
+
+    /// <summary>Pictures are called by their names, which files may leave empty or use twice.</summary>
+    private string NewName(string name)
+    {
+        string wanted = name.Length > 0 ? name : "Picture " + (_pictures.Count + 1).ToString(CultureInfo.InvariantCulture);
+        string free = wanted;
+        for (int i = _pictures.Count + 1; !_names.Add(free); i++)
+        {
+            free = $"{wanted} ({i.ToString(CultureInfo.InvariantCulture)})";
+        }
+
+        return free;
+    }
+}
+
+/// <summary>A stored part of a metafile: its elements, and how it is moved where it is drawn.</summary>
+internal readonly record struct Segment(int First, int End);
