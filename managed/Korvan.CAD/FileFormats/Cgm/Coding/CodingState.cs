@@ -71,6 +71,19 @@ internal sealed class CodingState
 
     internal int ColorComponents => ColorModel == ColourModel.Model.Cmyk ? 4 : 3;
 
+    /// <summary>Forgets what a metafile before this one in the same file changed.</summary>
+    internal void BeginMetafile()
+    {
+        var fresh = new CodingState();
+        (IntegerBits, Real, IndexBits, NameBits) = (fresh.IntegerBits, fresh.Real, fresh.IndexBits, fresh.NameBits);
+        (ColorBits, ColorIndexBits, ColorModel) = (fresh.ColorBits, fresh.ColorIndexBits, fresh.ColorModel);
+        (ColorLow, ColorHigh) = (fresh.ColorLow, fresh.ColorHigh);
+        (ColorScale, ColorOffset) = (fresh.ColorScale, fresh.ColorOffset);
+        CharacterSets = fresh.CharacterSets;
+        (VdcType, ViewportMode) = (fresh.VdcType, fresh.ViewportMode);
+        (Picture, Defaults) = (fresh.Picture, fresh.Defaults);
+    }
+
     /// <summary>Forgets what the last picture changed.</summary>
     internal void BeginPicture() => Picture = Defaults with { };
 }

@@ -9,7 +9,7 @@ public static class ApplicationStructureDescriptorElements
 {
     internal static readonly ElementEntry[] Table =
     [
-        // TODO new((int)ApplicationStructureDescriptorElement.ApplicationStructureAttribute, "APSATTR", static () => new ApplicationStructureAttribute()),
+        new((int)ApplicationStructureDescriptorElement.ApplicationStructureAttribute, "APSATTR", static () => new ApplicationStructureAttribute()),
     ];
 
     /// <summary>Gives a new command for an element, without parameters yet.</summary>

@@ -9,22 +9,22 @@ public static class ControlElements
 {
     internal static readonly ElementEntry[] Table =
     [
-        // TODO new((int)ControlElement.VdcIntegerPrecision, "VDCINTEGERPREC", static () => new VdcIntegerPrecision()),
-        // TODO new((int)ControlElement.VdcRealPrecision, "VDCREALPREC", static () => new VdcRealPrecision()),
-        // TODO new((int)ControlElement.AuxiliaryColour, "AUXCOLR", static () => new AuxiliaryColour()),
-        // TODO new((int)ControlElement.Transparency, "TRANSPARENCY", static () => new Transparency()),
-        // TODO new((int)ControlElement.ClipRectangle, "CLIPRECT", static () => new ClipRectangle()),
-        // TODO new((int)ControlElement.ClipIndicator, "CLIP", static () => new ClipIndicator()),
-        // TODO new((int)ControlElement.LineClipping, "LINECLIPMODE", static () => new LineClipping()),
-        // TODO new((int)ControlElement.MarkerClipping, "MARKERCLIPMODE", static () => new MarkerClipping()),
-        // TODO new((int)ControlElement.EdgeClipping, "EDGECLIPMODE", static () => new EdgeClipping()),
-        // TODO new((int)ControlElement.NewRegion, "NEWREGION", static () => new NewRegion()),
-        // TODO new((int)ControlElement.SavePrimitiveContext, "SAVEPRIMCONT", static () => new SavePrimitiveContext()),
-        // TODO new((int)ControlElement.RestorePrimitiveContext, "RESPRIMCONT", static () => new RestorePrimitiveContext()),
-        // TODO new((int)ControlElement.ProtectionRegionIndicator, "PROTREGION", static () => new ProtectionRegionIndicator()),
-        // TODO new((int)ControlElement.GeneralizedTextPathMode, "GENTEXTPATHMODE", static () => new GeneralizedTextPathMode()),
-        // TODO new((int)ControlElement.MitreLimit, "MITRELIMIT", static () => new MitreLimit()),
-        // TODO new((int)ControlElement.TransparentCellColour, "TRANSPCELLCOLR", static () => new TransparentCellColour()),
+        new((int)ControlElement.VdcIntegerPrecision, "VDCINTEGERPREC", static () => new VdcIntegerPrecision()),
+        new((int)ControlElement.VdcRealPrecision, "VDCREALPREC", static () => new VdcRealPrecision()),
+        new((int)ControlElement.AuxiliaryColour, "AUXCOLR", static () => new AuxiliaryColour()),
+        new((int)ControlElement.Transparency, "TRANSPARENCY", static () => new Transparency()),
+        new((int)ControlElement.ClipRectangle, "CLIPRECT", static () => new ClipRectangle()),
+        new((int)ControlElement.ClipIndicator, "CLIP", static () => new ClipIndicator()),
+        new((int)ControlElement.LineClipping, "LINECLIPMODE", static () => new LineClipping()),
+        new((int)ControlElement.MarkerClipping, "MARKERCLIPMODE", static () => new MarkerClipping()),
+        new((int)ControlElement.EdgeClipping, "EDGECLIPMODE", static () => new EdgeClipping()),
+        new((int)ControlElement.NewRegion, "NEWREGION", static () => new NewRegion()),
+        new((int)ControlElement.SavePrimitiveContext, "SAVEPRIMCONT", static () => new SavePrimitiveContext()),
+        new((int)ControlElement.RestorePrimitiveContext, "RESPRIMCONT", static () => new RestorePrimitiveContext()),
+        new((int)ControlElement.ProtectionRegionIndicator, "PROTREGION", static () => new ProtectionRegionIndicator()),
+        new((int)ControlElement.GeneralizedTextPathMode, "GENTEXTPATHMODE", static () => new GeneralizedTextPathMode()),
+        new((int)ControlElement.MitreLimit, "MITRELIMIT", static () => new MitreLimit()),
+        new((int)ControlElement.TransparentCellColour, "TRANSPCELLCOLR", static () => new TransparentCellColour()),
     ];
 
     /// <summary>Gives a new command for an element, without parameters yet.</summary>

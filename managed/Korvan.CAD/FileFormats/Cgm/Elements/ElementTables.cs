@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Linq;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -14,7 +15,8 @@ internal static class ElementTables
     private static readonly ElementEntry[][] Tables =
     [
         DelimiterElements.Table, MetaFileDescriptorElements.Table, PictureDescriptorElements.Table, ControlElements.Table,
-        GraphicalPrimitiveElements.Table, AttributeElements.Table, [],
+        GraphicalPrimitiveElements.Table, AttributeElements.Table,
+        [new(1, "ESCAPE", static () => new Escape())],
         ExternalElements.Table, SegmentControlElements.Table, ApplicationStructureDescriptorElements.Table,
     ];
 
@@ -49,7 +51,7 @@ internal static class ElementTables
         var words = new Dictionary<string, ElementEntry>(StringComparer.OrdinalIgnoreCase);
         foreach (ElementEntry[] table in Tables)
         {
-            foreach (ElementEntry entry in table)
+            foreach (ElementEntry entry in table.Where(static entry => entry.Keyword.Length > 0))
             {
                 words.Add(entry.Keyword, entry);
             }

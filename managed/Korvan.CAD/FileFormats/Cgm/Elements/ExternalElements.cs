@@ -9,8 +9,8 @@ public static class ExternalElements
 {
     internal static readonly ElementEntry[] Table =
     [
-        // TODO new((int)ExternalElement.MessageCommand, "MESSAGE", static () => new MessageCommand()),
-        // TODO new((int)ExternalElement.ApplicationData, "APPLDATA", static () => new ApplicationData()),
+        new((int)ExternalElement.MessageCommand, "MESSAGE", static () => new MessageCommand()),
+        new((int)ExternalElement.ApplicationData, "APPLDATA", static () => new ApplicationData()),
     ];
 
     /// <summary>Gives a new command for an element, without parameters yet.</summary>

@@ -9,13 +9,13 @@ public static class SegmentControlElements
 {
     internal static readonly ElementEntry[] Table =
     [
-        // TODO new((int)SegmentControlElement.CopySegment, "COPYSEG", static () => new CopySegment()),
-        // TODO new((int)SegmentControlElement.InheritanceFilter, "INHFILTER", static () => new InheritanceFilter()),
-        // TODO new((int)SegmentControlElement.ClipInheritance, "CLIPINH", static () => new ClipInheritance()),
-        // TODO new((int)SegmentControlElement.SegmentTransformation, "SEGTRAN", static () => new SegmentTransformation()),
-        // TODO new((int)SegmentControlElement.SegmentHighlighting, "SEGHIGHL", static () => new SegmentHighlighting()),
-        // TODO new((int)SegmentControlElement.SegmentDisplayPriority, "SEGDISPPRI", static () => new SegmentDisplayPriority()),
-        // TODO new((int)SegmentControlElement.SegmentPickPriority, "SEGPICKPRI", static () => new SegmentPickPriority()),
+        new((int)SegmentControlElement.CopySegment, "COPYSEG", static () => new CopySegment()),
+        new((int)SegmentControlElement.InheritanceFilter, "INHFILTER", static () => new InheritanceFilter()),
+        new((int)SegmentControlElement.ClipInheritance, "CLIPINH", static () => new ClipInheritance()),
+        new((int)SegmentControlElement.SegmentTransformation, "SEGTRAN", static () => new SegmentTransformation()),
+        new((int)SegmentControlElement.SegmentHighlighting, "SEGHIGHL", static () => new SegmentHighlighting()),
+        new((int)SegmentControlElement.SegmentDisplayPriority, "SEGDISPPRI", static () => new SegmentDisplayPriority()),
+        new((int)SegmentControlElement.SegmentPickPriority, "SEGPICKPRI", static () => new SegmentPickPriority()),
     ];
 
     /// <summary>Gives a new command for an element, without parameters yet.</summary>

@@ -1,0 +1,24 @@
+using Korvan.CAD.FileFormats.Cgm.Coding;
+using Korvan.CAD.FileFormats.Cgm.Elements;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+
+namespace Korvan.CAD.FileFormats.Cgm.Commands;
+
+/// <summary>An area bounded by an arc of a circle through three points.</summary>
+public sealed class CircularArc3PointClose : CircularArc3Point
+{
+    /// <summary>Creates the element with its defaults.</summary>
+    public CircularArc3PointClose()
+        : base((int)GraphicalPrimitiveElement.CircularArc3PointClose)
+    {
+    }
+
+    /// <summary>Gets or sets how the arc becomes an area.</summary>
+    public ClosureType Closure { get; set; }
+
+    internal override void Exchange(ParameterExchange x)
+    {
+        base.Exchange(x);
+        Closure = x.Enumeration(Closure, SharedWords.Closure);
+    }
+}

@@ -1,0 +1,41 @@
+using System;
+using Korvan.CAD.FileFormats.Cgm.Classes;
+using Korvan.CAD.FileFormats.Cgm.Coding;
+using Korvan.CAD.FileFormats.Cgm.Elements;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+
+namespace Korvan.CAD.FileFormats.Cgm.Commands;
+
+/// <summary>The rectangle that drawing is cut at.</summary>
+public sealed class ClipRectangle : Command
+{
+    /// <summary>Creates the default extent of pictures.</summary>
+    public ClipRectangle()
+        : base(ClassCode.ControlElement, (int)ControlElement.ClipRectangle)
+    {
+    }
+
+    /// <summary>Creates the element with its parameters.</summary>
+    /// <param name="firstCorner">The corner that is seen at the lower left.</param>
+    /// <param name="secondCorner">The corner that is seen at the upper right.</param>
+    public ClipRectangle(CgmPoint firstCorner, CgmPoint secondCorner)
+        : this()
+    {
+        ArgumentNullException.ThrowIfNull(firstCorner);
+        ArgumentNullException.ThrowIfNull(secondCorner);
+        FirstCorner = firstCorner;
+        SecondCorner = secondCorner;
+    }
+
+    /// <summary>Gets or sets the corner that is seen at the lower left.</summary>
+    public CgmPoint FirstCorner { get; set; } = new();
+
+    /// <summary>Gets or sets the corner that is seen at the upper right.</summary>
+    public CgmPoint SecondCorner { get; set; } = new(32767, 32767);
+
+    internal override void Exchange(ParameterExchange x)
+    {
+        FirstCorner = x.Point(FirstCorner);
+        SecondCorner = x.Point(SecondCorner);
+    }
+}

@@ -1,0 +1,25 @@
+using System;
+using Korvan.CAD.FileFormats.Cgm.Classes;
+using Korvan.CAD.FileFormats.Cgm.Elements;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+
+namespace Korvan.CAD.FileFormats.Cgm.Commands;
+
+/// <summary>The colour of edges.</summary>
+public sealed class EdgeColour : ColourCommand
+{
+    /// <summary>Creates the number 1 of the colour table.</summary>
+    public EdgeColour()
+        : base(ClassCode.AttributeElement, (int)AttributeElement.EdgeColour)
+    {
+    }
+
+    /// <summary>Creates a colour.</summary>
+    /// <param name="color">The colour.</param>
+    public EdgeColour(CgmColor color)
+        : this()
+    {
+        ArgumentNullException.ThrowIfNull(color);
+        Color = color;
+    }
+}

@@ -1,0 +1,40 @@
+using Korvan.CAD.FileFormats.Cgm.Classes;
+using Korvan.CAD.FileFormats.Cgm.Coding;
+using Korvan.CAD.FileFormats.Cgm.Elements;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+
+namespace Korvan.CAD.FileFormats.Cgm.Commands;
+
+/// <summary>A bundle of attributes of areas.</summary>
+public sealed class FillRepresentation : Command
+{
+    /// <summary>Creates the element with its defaults.</summary>
+    public FillRepresentation()
+        : base(ClassCode.PictureDescriptorElement, (int)PictureDescriptorElement.FillRepresentation)
+    {
+    }
+
+    /// <summary>Gets or sets the index of the bundle, from 1.</summary>
+    public int BundleIndex { get; set; } = 1;
+
+    /// <summary>Gets or sets how areas are filled.</summary>
+    public InteriorStyle.Style Style { get; set; }
+
+    /// <summary>Gets or sets the colour.</summary>
+    public CgmColor Color { get; set; } = new(1);
+
+    /// <summary>Gets or sets the hatch.</summary>
+    public HatchIndex.HatchType Hatch { get; set; } = HatchIndex.HatchType.Horizontal;
+
+    /// <summary>Gets or sets the index of the pattern, from 1.</summary>
+    public int PatternIndex { get; set; } = 1;
+
+    internal override void Exchange(ParameterExchange x)
+    {
+        BundleIndex = x.Index(BundleIndex);
+        Style = x.Enumeration(Style, InteriorStyle.Words);
+        Color = x.Color(Color);
+        Hatch = x.Index(Hatch);
+        PatternIndex = x.Index(PatternIndex);
+    }
+}

@@ -1,0 +1,48 @@
+using Korvan.CAD.FileFormats.Cgm.Classes;
+using Korvan.CAD.FileFormats.Cgm.Coding;
+using Korvan.CAD.FileFormats.Cgm.Elements;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+
+namespace Korvan.CAD.FileFormats.Cgm.Commands;
+
+/// <summary>An arc of a hyperbola.</summary>
+public sealed class HyperbolicArc : Command
+{
+    /// <summary>Creates the element with its defaults.</summary>
+    public HyperbolicArc()
+        : base(ClassCode.GraphicalPrimitiveElement, (int)GraphicalPrimitiveElement.HyperbolicArc)
+    {
+    }
+
+    /// <summary>Gets or sets the centre.</summary>
+    public CgmPoint Centre { get; set; } = new();
+
+    /// <summary>Gets or sets the end of the transverse radius.</summary>
+    public CgmPoint TransverseRadiusEnd { get; set; } = new();
+
+    /// <summary>Gets or sets the end of the conjugate radius.</summary>
+    public CgmPoint ConjugateRadiusEnd { get; set; } = new();
+
+    /// <summary>Gets or sets the abscissa of the direction from the centre to the beginning.</summary>
+    public double StartX { get; set; } = 1;
+
+    /// <summary>Gets or sets the ordinate of that direction.</summary>
+    public double StartY { get; set; }
+
+    /// <summary>Gets or sets the abscissa of the direction from the centre to the end.</summary>
+    public double EndX { get; set; } = 1;
+
+    /// <summary>Gets or sets the ordinate of that direction.</summary>
+    public double EndY { get; set; }
+
+    internal override void Exchange(ParameterExchange x)
+    {
+        Centre = x.Point(Centre);
+        TransverseRadiusEnd = x.Point(TransverseRadiusEnd);
+        ConjugateRadiusEnd = x.Point(ConjugateRadiusEnd);
+        StartX = x.Vdc(StartX);
+        StartY = x.Vdc(StartY);
+        EndX = x.Vdc(EndX);
+        EndY = x.Vdc(EndY);
+    }
+}

@@ -1,0 +1,23 @@
+using Korvan.CAD.FileFormats.Cgm.Coding;
+using Korvan.CAD.FileFormats.Cgm.Elements;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+
+namespace Korvan.CAD.FileFormats.Cgm.Commands;
+
+/// <summary>The width of names, which are numbers.</summary>
+public sealed class NamePrecision : Command
+{
+    /// <summary>Creates the element with its default.</summary>
+    public NamePrecision()
+        : base(ClassCode.MetaFileDescriptorElement, (int)MetaFileDescriptorElement.NamePrecision)
+    {
+    }
+
+    /// <summary>Gets or sets how many bits a name has in a binary file: 8, 16, 24 or 32.</summary>
+    public int Precision { get; set; } = 16;
+
+    internal override void Exchange(ParameterExchange x) =>
+        Precision = PrecisionRules.Exchange(x, Precision, PrecisionRules.Bytes, x.SignedBits);
+
+    internal override void Apply(CodingState state) => state.NameBits = Precision;
+}

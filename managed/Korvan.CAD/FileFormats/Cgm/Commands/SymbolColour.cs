@@ -1,0 +1,25 @@
+using System;
+using Korvan.CAD.FileFormats.Cgm.Classes;
+using Korvan.CAD.FileFormats.Cgm.Elements;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+
+namespace Korvan.CAD.FileFormats.Cgm.Commands;
+
+/// <summary>The colour of symbols.</summary>
+public sealed class SymbolColour : ColourCommand
+{
+    /// <summary>Creates the number 1 of the colour table.</summary>
+    public SymbolColour()
+        : base(ClassCode.AttributeElement, (int)AttributeElement.SymbolColour)
+    {
+    }
+
+    /// <summary>Creates a colour.</summary>
+    /// <param name="color">The colour.</param>
+    public SymbolColour(CgmColor color)
+        : this()
+    {
+        ArgumentNullException.ThrowIfNull(color);
+        Color = color;
+    }
+}
