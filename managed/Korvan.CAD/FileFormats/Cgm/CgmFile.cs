@@ -29,6 +29,12 @@ public sealed class CgmFile
     /// <summary>Gets the encoding that the file was read from; binary for one that was not read.</summary>
     public CgmFileFormat Encoding { get; private set; }
 
+    /// <summary>Gets the name that the metafile gives itself; empty where it has none.</summary>
+    public string Name => Commands.OfType<BeginMetafile>().FirstOrDefault()?.Identifier ?? "";
+
+    /// <summary>Gets the names of the pictures in their order.</summary>
+    public string[] PictureNames => [.. Commands.OfType<BeginPicture>().Select(one => one.Identifier)];
+
     /// <summary>Reads a file of either encoding, perhaps packed by gzip.</summary>
     /// <param name="filePath">The file.</param>
     /// <exception cref="ImageLoadException">The file is missing, damaged, or no metafile.</exception>
