@@ -1,8 +1,116 @@
 using System;
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cgm.Classes;
+using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.FileFormats.Cgm.Export;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
 
-internal static class BinaryWriting
+/// <summary>Hands the parameters of commands to a binary writer.</summary>
+internal sealed class BinaryWriting(IBinaryWriter writer, CodingState state) : ParameterExchange(state)
 {
-    internal static ParameterExchange Of(IBinaryWriter writer) => throw new NotImplementedException(); // TODO
+    internal override bool IsReading => false;
+
+    internal override bool IsClearText => false;
+
+    internal override bool HasMore => false;
+
+    internal override bool IsAtText => false;
+
+    /// <summary>Gives the exchange of a writer. One that is not ours keeps the precisions to itself; then those that a
+    /// metafile begins with hold for what depends on them.</summary>
+    internal static ParameterExchange Of(IBinaryWriter writer) =>
+        writer is DefaultBinaryWriter ours ? ours.Exchange : new BinaryWriting(writer, new CodingState());
+
+    internal override int Integer(int value) => Put(value, writer.WriteInteger);
+
+    internal override int Index(int value) => Put(value, writer.WriteIndex);
+
+    internal override int Name(int value) => Put(value, writer.WriteName);
+
+    internal override int ColorIndex(int value) => Put(value, writer.WriteColorIndex);
+
+    internal override int BareEnumeration(int value) => Put(value, writer.WriteEnumeration);
+
+    internal override int Enumeration(int value, string[] words)
+    {
+        return (uint)value < (uint)words.Length
+            ? BareEnumeration(value)
+            : throw new CgmDataException($"the value {value} is none of 0 to {words.Length - 1} ({string.Join(", ", words)})");
+    }
+
+    internal override double Real(double value) => Put(value, writer.WriteReal);
+
+    internal override double Vdc(double value) => Put(value, writer.WriteVdc);
+
+    internal override CgmPoint Point(CgmPoint? value) => Put(Needed(value, "a point"), writer.WritePoint);
+
+    internal override CgmColor DirectColor(CgmColor? value) => Put(Needed(value, "a colour"), writer.WriteDirectColor);
+
+    internal override long ColorComponent(long value) => Put(value, writer.WriteColorComponent);
+
+    internal override string String(string? value) => Put(Needed(value, "a text"), writer.WriteString);
+
+    internal override byte[] Data(byte[]? value) => Put(Needed(value, "data"), writer.WriteData);
+
+    internal override StructuredDataRecord Record(StructuredDataRecord? value) => Put(Needed(value, "a record"), writer.WriteStructuredData);
+
+    internal override VC ViewportCoordinate(VC? value) => Put(Needed(value, "a coordinate"), writer.WriteViewportCoordinate);
+
+    internal override byte[] Bits(byte[]? value) => Put(Needed(value, "bits"), writer.WriteBytes);
+
+    internal override int SignedBits(int value) => Put(value, writer.WriteInteger);
+
+    internal override int UnsignedBits(int value) => Put(value, writer.WriteInteger);
+
+    internal override int LocalBits(int value) => Put(value, writer.WriteInteger);
+
+    internal override long Unsigned(long value, int bits)
+    {
+        writer.WriteUnsigned(value, bits);
+        return value;
+    }
+
+    internal override int Signed(int value, int bits)
+    {
+        NumberRange.Verify(value, NumberRange.Signed(bits), bits);
+        writer.WriteUnsigned(value & ((1L << bits) - 1), bits);
+        return value;
+    }
+
+    internal override Precision RealForm(Precision value)
+    {
+        RealForms.Entry form = RealForms.Of(value);
+        writer.WriteEnumeration(form.Form);
+        writer.WriteInteger(form.Whole);
+        writer.WriteInteger(form.Fraction);
+        return value;
+    }
+
+    internal override int[] Cells(int[]? value, int width, int height, int precision, bool withMode)
+    {
+        var format = CellFormat.Of(State, width, height, precision);
+        var encoder = new CellEncoder(State, format, Needed(value, "the array of cells"));
+        bool isPacked = !withMode || !encoder.IsShorterInRuns;
+        if (withMode)
+        {
+            writer.WriteEnumeration(isPacked ? CellFormat.Packed : CellFormat.RunLength);
+        }
+
+        writer.WriteBytes(encoder.Encode(isPacked, writer.Position & 1));
+        return value!;
+    }
+
+    internal override List<Command> Commands(List<Command> value)
+    {
+        return writer is DefaultBinaryWriter ours
+            ? Put(value, ours.WriteInner)
+            : throw new CgmDataException("elements inside of elements are written by DefaultBinaryWriter alone");
+    }
+
+    private static T Put<T>(T value, Action<T> write)
+    {
+        write(value);
+        return value;
+    }
 }

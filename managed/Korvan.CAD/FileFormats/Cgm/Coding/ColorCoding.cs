@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
@@ -78,6 +79,24 @@ internal sealed class ColorCoding
         {
             components[i] = _factors[i] == 0 ? 0 : (long)Math.Round((parts[i] - _offsets[i]) / _factors[i]);
         }
+    }
+
+    /// <summary>Gives the components of a colour of a command.</summary>
+    /// <exception cref="CgmDataException">It is one of the table, or translucent.</exception>
+    internal void FromColor(CgmColor color, Span<long> components)
+    {
+        ArgumentNullException.ThrowIfNull(color);
+        if (color.IsIndexed)
+        {
+            throw new CgmDataException($"{color} is one of the table, but the colours here are direct (COLRMODE)");
+        }
+
+        if (color.Color.A != byte.MaxValue)
+        {
+            throw new CgmDataException($"the colour {color.Color.Name} is translucent; metafiles have opaque ones alone");
+        }
+
+        FromArgb(color.Color.ToArgb(), components);
     }
 
     internal static int Pack(double red, double green, double blue) => (0xFF << 24) | (Byte(red) << 16) | (Byte(green) << 8) | Byte(blue);

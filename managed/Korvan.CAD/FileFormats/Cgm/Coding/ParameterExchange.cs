@@ -118,6 +118,11 @@ internal abstract class ParameterExchange(CodingState state)
             return DirectColor(value);
         }
 
+        if (!IsReading && !Needed(value, "a colour").IsIndexed)
+        {
+            throw new CgmDataException($"{value} stands for itself, but the colours here are those of the table (COLRMODE)");
+        }
+
         int index = ColorIndex(value?.Index ?? 0);
         return IsReading || value is null ? new CgmColor(index) : value;
     }
@@ -202,6 +207,10 @@ internal abstract class ParameterExchange(CodingState state)
 
     /// <summary>Points up to the end of the element.</summary>
     internal virtual List<CgmPoint> Points(List<CgmPoint> values) => Rest(values, static (x, point) => x.Point(point));
+
+    /// <summary>Gives a value that has to be there to be written.</summary>
+    protected static T Needed<T>(T? value, string what)
+        where T : class => value ?? throw new CgmDataException($"{what} is missing");
 
     private static readonly string[] OffOn = ["OFF", "ON"];
 

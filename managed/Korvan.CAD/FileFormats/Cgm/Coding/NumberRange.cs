@@ -1,0 +1,31 @@
+using System;
+using System.Globalization;
+
+namespace Korvan.CAD.FileFormats.Cgm.Coding;
+
+/// <summary>The ranges of numbers by their bits: what lies outside is refused, never cut.</summary>
+internal static class NumberRange
+{
+    internal static (long Lowest, long Highest) Signed(int bits) => (-(1L << (bits - 1)), (1L << (bits - 1)) - 1);
+
+    internal static (long Lowest, long Highest) Unsigned(int bits) => (0, (1L << bits) - 1);
+
+    internal static void Verify(long value, (long Lowest, long Highest) range, int bits)
+    {
+        if (value < range.Lowest || value > range.Highest)
+        {
+            throw new CgmDataException($"the number {value} does not fit into {bits} bits, which hold {range.Lowest} to {range.Highest}");
+        }
+    }
+
+    /// <summary>Gives a coordinate as the whole number that it is.</summary>
+    internal static int Whole(double value)
+    {
+        return value == Math.Floor(value) && value is >= int.MinValue and <= int.MaxValue
+            ? (int)value
+            : throw new CgmDataException(string.Create(CultureInfo.InvariantCulture, $"the coordinate {value} is not whole or too large, while VDCTYPE says INTEGER"));
+    }
+
+    internal static double Finite(double value) =>
+        double.IsFinite(value) ? value : throw new CgmDataException("a real number is infinite or no number");
+}
