@@ -4,6 +4,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Ifc.Model;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Raster.Vectorizing;
@@ -80,14 +81,15 @@ internal static class ImageLoader
                 : format == FileFormat.Undefined
                 ? "is of no known format; its first bytes are not those of a drawing interchange file"
                 : $"is of format {format}, which cannot be read yet";
-            string message = $"'{name}' {what}. Drawing interchange files (DXF), building models (IFC) and the usual " +
-                "pictures can be read.";
+            string message = $"'{name}' {what}. Drawing interchange files (DXF), building models (IFC), " +
+                "metafiles (CGM) and the usual pictures can be read.";
             throw format == FileFormat.Iges ? new IgesImageException(message) : new ImageLoadException(message);
         }
 
         Image image = format switch
         {
             FileFormat.IFC2X3 or FileFormat.IFC4 => new IfcReader(data, name, options).Read(),
+            FileFormat.Cgm => new CgmImage(CgmFile.Load(data, name, options)),
             _ when RasterLoader.CanRead(format) => Vectorized(RasterLoader.Load(data, name, format, options), options),
             _ => new DxfReader(data, name, options).Read(),
         };

@@ -18,7 +18,7 @@ internal static class FormatDetector
     internal static bool CanRead(FileFormat format)
     {
         return format is (>= FileFormat.DxfCadR010 and <= FileFormat.DxfCadR2013)
-            or FileFormat.IFC2X3 or FileFormat.IFC4 || RasterLoader.CanRead(format);
+            or FileFormat.IFC2X3 or FileFormat.IFC4 or FileFormat.Cgm || RasterLoader.CanRead(format);
     }
 
     internal static FileFormat Detect(ReadOnlySpan<byte> head)

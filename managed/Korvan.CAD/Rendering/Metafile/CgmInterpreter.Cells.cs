@@ -28,9 +28,9 @@ internal sealed partial class CgmInterpreter
     }
 
     /// <summary>The colour of a cell: an index, or components of their own.</summary>
-    private Rgba CellColor(int cell, bool isIndexed)
+    private Rgba CellColor(int cell)
     {
-        Rgba color = isIndexed ? TableColor(cell) : new Rgba((byte)(cell >> 16), (byte)(cell >> 8), (byte)cell);
+        Rgba color = _state.HasDirectColors ? new Rgba((byte)(cell >> 16), (byte)(cell >> 8), (byte)cell) : TableColor(cell);
         return Paint.TransparentCell is CgmColor clear && ColorOf(clear) == color ? color.WithAlpha(0) : color;
     }
 
@@ -42,8 +42,7 @@ internal sealed partial class CgmInterpreter
             return;
         }
 
-        bool isIndexed = x.IsIndexed;
-        Picture cells = TilePictures.FromCells(x.Cells, x.CellsPerLine, x.LineCount, cell => CellColor(cell, isIndexed));
+        Picture cells = TilePictures.FromCells(x.Cells, x.CellsPerLine, x.LineCount, CellColor);
         (Vec2 p, Vec2 q, Vec2 r) = (_map.Point(V(x.FirstCorner)), _map.Point(V(x.OppositeCorner)), _map.Point(V(x.LineEnd)));
         Vec2 along = r - p;
         Vec2 up = r - q;

@@ -93,6 +93,7 @@ internal sealed class PictureState
     internal DeviceViewport? Viewport;
     internal DeviceViewportSpecificationMode? ViewportMode;
     internal bool HasRealCoordinates;
+    internal bool HasDirectColors;
     internal SpecificationMode LineWidthMode = SpecificationMode.Scaled;
     internal SpecificationMode EdgeWidthMode = SpecificationMode.Scaled;
     internal SpecificationMode MarkerSizeMode = SpecificationMode.Scaled;

@@ -40,6 +40,7 @@ internal static class StateChanges
     private static void AddPicture(Dictionary<Type, Action<PictureState, Command>> c)
     {
         On<VdcType>(c, static (s, x) => s.HasRealCoordinates = x.Value == VdcType.Type.Real);
+        On<ColourSelectionMode>(c, static (s, x) => s.HasDirectColors = x.Value == ColourSelectionMode.Type.Direct);
         On<VdcExtent>(c, static (s, x) => s.Extent = x);
         On<ScalingMode>(c, static (s, x) => s.Scaling = x);
         On<BackgroundColour>(c, static (s, x) => s.Background = x.Color);

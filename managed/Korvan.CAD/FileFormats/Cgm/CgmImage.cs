@@ -1,0 +1,128 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using System.Linq;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cgm.Classes;
+using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering;
+using Korvan.CAD.Rendering.Metafile;
+using Korvan.CAD.Rendering.Scene;
+
+namespace Korvan.CAD.FileFormats.Cgm;
+
+/// <summary>A computer graphics metafile (ISO/IEC 8632) that is drawn and converted. Its commands are live: what is added,
+/// removed or changed is what is drawn and saved.</summary>
+public sealed class CgmImage : Image, IVectorImage
+{
+    /// <summary>Creates a metafile with one empty picture, whose coordinates run from (0, 0) to (1000, 1000) and whose
+    /// colours stand for themselves. What is drawn goes behind its <see cref="BeginPictureBody"/>.</summary>
+    public CgmImage()
+        : this(NewFile())
+    {
+    }
+
+    /// <summary>Creates an image of a metafile.</summary>
+    /// <param name="file">The metafile; it belongs to this image from now on.</param>
+    public CgmImage(CgmFile file)
+    {
+        ArgumentNullException.ThrowIfNull(file);
+        File = file;
+    }
+
+    /// <summary>Gets the metafile with its commands.</summary>
+    public CgmFile File { get; }
+
+    /// <summary>Gets the names of the pictures, in their order; each is a page. Pictures without a name, and those whose
+    /// name was there before, have names made up by their numbers.</summary>
+    public string[] PictureNames => [.. Scene().Pictures.Select(static picture => picture.Name)];
+
+    /// <inheritdoc/>
+    public override int Width => Extent(static frame => frame.Region.Width);
+
+    /// <inheritdoc/>
+    public override int Height => Extent(static frame => frame.Region.Height);
+
+    /// <summary>Gets the unit of the first picture's size: millimetres where the file states them.</summary>
+    public override UnitType UnitType => FirstFrame() is { MillimetresPerUnit: not null } ? UnitType.Millimeter : UnitlessDefaultUnitType;
+
+    /// <inheritdoc/>
+    public override bool IsCached => true;
+
+    /// <inheritdoc/>
+    internal override IEnumerable<Type> ExportOptionTypes => DrawingExporter.PageOptionTypes;
+
+    /// <inheritdoc/>
+    public override void CacheData() => VerifyNotDisposed();
+
+    /// <summary>Gives the texts of all pictures, in the order of drawing, with what they look like.</summary>
+    public TextInformation[] GetTexts()
+    {
+        VerifyNotDisposed();
+        return [.. MetafileTexts.Collect(File)];
+    }
+
+    /// <inheritdoc/>
+    public override string[] GetStrings() => [.. MetafileTexts.Collect(File).Select(static text => text.Text)];
+
+    /// <inheritdoc/>
+    VectorScene IVectorImage.OpenScene() => Scene() is { Pictures.Count: > 0 } scene
+        ? scene
+        : throw new RenderException("The metafile has no picture that could be drawn.");
+
+    /// <inheritdoc/>
+    internal override bool SupportsExport(ImageOptionsBase options) => DrawingExporter.Writes(this, options);
+
+    /// <summary>Draws the metafile. Another metafile is made command by command, unless its options ask for a page.</summary>
+    internal override void Export(ImageOptionsBase options, Stream stream)
+    {
+        options.VerifyHonoured();
+        if (options is CgmOptions { TextAsLines: false, VectorRasterizationOptions: null, UserWatermarkText: "" } own)
+        {
+            File.Save(stream, own.Encoding);
+            return;
+        }
+
+        DrawingExporter.Export(this, options, stream);
+    }
+
+    /// <inheritdoc/>
+    internal override void SaveData(Stream stream) => File.Save(stream, File.Encoding);
+
+    private static CgmFile NewFile()
+    {
+        const int side = 1000;
+        var file = new CgmFile();
+        file.Commands.AddRange(
+        [
+            new BeginMetafile("drawing"),
+            new MetafileVersion(3),
+            new MetafileElementList(),
+            new VdcType { Value = VdcType.Type.Real },
+            new RealPrecision { Value = Precision.Floating32 },
+            new BeginPicture("drawing"),
+            new ColourSelectionMode { Value = ColourSelectionMode.Type.Direct },
+            new VdcExtent(new CgmPoint(0, 0), new CgmPoint(side, side)),
+            new VdcRealPrecision { Value = Precision.Floating32 },
+            new BeginPictureBody(),
+            new EndPicture(),
+            new EndMetafile(),
+        ]);
+        return file;
+    }
+
+    private MetafileScene Scene()
+    {
+        VerifyNotDisposed();
+        return new MetafileScene(File);
+    }
+
+    private PictureFrame? FirstFrame() => Scene().Pictures is [MetafilePicture first, ..] ? first.Frame : null;
+
+    private int Extent(Func<PictureFrame, double> of)
+    {
+        double size = FirstFrame() is PictureFrame frame ? of(frame) * (frame.MillimetresPerUnit ?? 1) : 0;
+        return (int)Math.Min(int.MaxValue, Math.Ceiling(size - 1e-9));
+    }
+}
