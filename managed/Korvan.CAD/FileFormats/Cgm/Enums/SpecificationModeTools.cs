@@ -5,7 +5,7 @@ namespace Korvan.CAD.FileFormats.Cgm.Enums;
 /// <summary>Leads from the numbers and words of files to modes.</summary>
 public static class SpecificationModeTools
 {
-    internal static readonly string[] Words = ["ABSTRACT", "SCALED", "FRACTIONAL", "MM"];
+    internal static readonly string[] Words = ["ABS", "SCALED", "FRACTIONAL", "MM"];
 
     /// <summary>Gives the mode of a number in a binary file.</summary>
     /// <param name="mode">The number, 0 to 3.</param>
