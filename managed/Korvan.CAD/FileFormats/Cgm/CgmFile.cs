@@ -3,9 +3,10 @@ using System.Collections.Generic;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
-using Korvan.CAD.FileFormats.Cgm.Elements;
 using Korvan.CAD.FileFormats.Cgm.Enums;
+using Korvan.CAD.FileFormats.Cgm.Export;
 using Korvan.CAD.FileFormats.Cgm.Import;
 
 namespace Korvan.CAD.FileFormats.Cgm;
@@ -28,6 +29,12 @@ public sealed class CgmFile
 
     /// <summary>Gets the encoding that the file was read from; binary for one that was not read.</summary>
     public CgmFileFormat Encoding { get; private set; }
+
+    /// <summary>Gets the name that the metafile gives itself; empty where it has none.</summary>
+    public string Name => Commands.OfType<BeginMetafile>().FirstOrDefault()?.Identifier ?? "";
+
+    /// <summary>Gets the names of the pictures in their order.</summary>
+    public string[] PictureNames => [.. Commands.OfType<BeginPicture>().Select(one => one.Identifier)];
 
     /// <summary>Reads a file of either encoding, perhaps packed by gzip.</summary>
     /// <param name="filePath">The file.</param>
@@ -57,6 +64,24 @@ public sealed class CgmFile
         return Load(ImageLoader.ReadStream(stream), "stream", new LoadOptions { IgnoreErrors = ignoreErrors });
     }
 
+    /// <summary>Writes the commands to a file, which appears whole or not at all.</summary>
+    /// <param name="filePath">The file; one that exists is replaced.</param>
+    /// <param name="format">The encoding.</param>
+    /// <exception cref="ImageSaveException">A command cannot be written, or the file cannot.</exception>
+    public void Save(string filePath, CgmFileFormat format) => AtomicFile.Write(filePath, true, stream => Write(stream, format));
+
+    /// <summary>Writes the commands to a stream.</summary>
+    /// <param name="stream">The stream; it stays open.</param>
+    /// <param name="format">The encoding.</param>
+    /// <exception cref="ImageSaveException">A command cannot be written; then nothing is.</exception>
+    public void Save(Stream stream, CgmFileFormat format)
+    {
+        ArgumentNullException.ThrowIfNull(stream);
+        using var content = new MemoryStream();
+        Write(content, format);
+        content.WriteTo(stream);
+    }
+
     /// <summary>Reads a metafile; what is wrong with it is added to the errors of the options.</summary>
     internal static CgmFile Load(byte[] data, string name, LoadOptions options)
     {
@@ -68,17 +93,48 @@ public sealed class CgmFile
         }
         else
         {
-            throw new ImageLoadException($"'{name}' is a clear text metafile, which cannot be read yet.");
+            file.ReadClearText(content, name, options.IgnoreErrors);
         }
 
         options.Errors.AddRange(file._messages.Where(one => one.Severity == Severity.Error).Select(one => $"'{name}', {one.Text}."));
         return file;
     }
 
+    private void Write(Stream stream, CgmFileFormat format)
+    {
+        if (Commands.FirstOrDefault() is not BeginMetafile || Commands[^1] is not EndMetafile)
+        {
+            throw new ImageSaveException("A metafile begins with BeginMetafile and ends with EndMetafile; the commands do not.");
+        }
+
+        switch (format)
+        {
+            case CgmFileFormat.Binary:
+                Commands.ForEach(new DefaultBinaryWriter(stream).WriteCommand);
+                break;
+            case CgmFileFormat.ClearText:
+                Commands.ForEach(new DefaultClearTextWriter(stream).WriteCommand);
+                break;
+            default:
+                throw new ArgumentOutOfRangeException(nameof(format), format, "Binary and ClearText are the encodings that can be written.");
+        }
+    }
+
     private void ReadBinary(byte[] data, string name, bool ignoreErrors)
     {
         using var reader = new DefaultBinaryReader(new MemoryStream(data, false), DefaultCommandFactory.Instance, name);
         reader.IgnoreErrors = ignoreErrors;
+        while (reader.ReadCommand() is Command command)
+        {
+            Commands.Add(command);
+        }
+
+        _messages = reader.Messages;
+    }
+
+    private void ReadClearText(byte[] data, string name, bool ignoreErrors)
+    {
+        var reader = new ClearTextReader(data, name, ignoreErrors);
         while (reader.ReadCommand() is Command command)
         {
             Commands.Add(command);

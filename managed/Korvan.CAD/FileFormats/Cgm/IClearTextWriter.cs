@@ -40,6 +40,10 @@ public interface IClearTextWriter
     /// <param name="value">The text.</param>
     void WriteString(string value);
 
+    /// <summary>Writes bytes as a text in quotes.</summary>
+    /// <param name="value">The bytes.</param>
+    void WriteData(byte[] value);
+
     /// <summary>Writes values with their types.</summary>
     /// <param name="value">The values.</param>
     void WriteStructuredData(StructuredDataRecord value);

@@ -1,0 +1,229 @@
+using System;
+using System.Buffers;
+using System.Globalization;
+using System.IO;
+using System.Text;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cgm.Classes;
+using Korvan.CAD.FileFormats.Cgm.Coding;
+using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.FileFormats.Cgm.Import;
+
+namespace Korvan.CAD.FileFormats.Cgm.Export;
+
+/// <summary>
+/// Writes commands as a clear text metafile (ISO/IEC 8632-4), in lines of at most 80 letters as far as single texts
+/// allow. Real numbers have as many digits as lead back to the same number.
+/// </summary>
+public sealed class DefaultClearTextWriter : IClearTextWriter
+{
+    private const int LongestLine = 80;
+
+    private readonly Stream _stream;
+    private readonly bool _breaksLines;
+    private readonly ArrayBufferWriter<byte> _text = new();
+    private int _column;
+    private long _count;
+    private bool _isInner;
+
+    /// <summary>Creates a writer to a stream.</summary>
+    /// <param name="stream">The stream; it stays open.</param>
+    public DefaultClearTextWriter(Stream stream)
+        : this(stream, new CodingState(), true)
+    {
+        ArgumentNullException.ThrowIfNull(stream);
+    }
+
+    private DefaultClearTextWriter(Stream stream, CodingState state, bool breaksLines)
+    {
+        _stream = stream;
+        _breaksLines = breaksLines;
+        State = state;
+        Exchange = new ClearTextWriting(this, state);
+    }
+
+    internal CodingState State { get; }
+
+    internal ParameterExchange Exchange { get; }
+
+    /// <summary>Writes one element in lines of its own. Elements without operation have no form in clear text and are
+    /// left out.</summary>
+    /// <param name="command">Its command.</param>
+    /// <exception cref="ImageSaveException">A parameter cannot be written; nothing of the element was.</exception>
+    public void WriteCommand(Command command)
+    {
+        ArgumentNullException.ThrowIfNull(command);
+        _text.ResetWrittenCount();
+        _column = 0;
+        try
+        {
+            Write(command);
+        }
+        catch (Exception e) when (e is CgmDataException or ArgumentException)
+        {
+            (State.ReplacesDefaults, _isInner) = (false, false);
+            string place = MessageLog.Place("command", _count, command.ElementClass, command.ElementId);
+            throw new ImageSaveException($"{place}: {e.Message}.", e);
+        }
+
+        _stream.Write(_text.WrittenSpan);
+        _count++;
+    }
+
+    /// <inheritdoc/>
+    public void BeginElement(string keyword)
+    {
+        ArgumentException.ThrowIfNullOrEmpty(keyword);
+        Put(Encoding.ASCII.GetBytes(keyword));
+    }
+
+    /// <inheritdoc/>
+    public void EndElement()
+    {
+        _text.Write(";\n"u8);
+        _column = 0;
+    }
+
+    /// <inheritdoc/>
+    public void WriteInteger(int value) => PutFormatted(value);
+
+    /// <inheritdoc/>
+    public void WriteWord(string value)
+    {
+        ArgumentException.ThrowIfNullOrEmpty(value);
+        Put(Encoding.ASCII.GetBytes(value));
+    }
+
+    /// <inheritdoc/>
+    public void WriteReal(double value) => Put(Encoding.ASCII.GetBytes(Real(value)));
+
+    /// <inheritdoc/>
+    public void WriteVdc(double value) => Put(Encoding.ASCII.GetBytes(Coordinate(value)));
+
+    /// <inheritdoc/>
+    public void WritePoint(CgmPoint value)
+    {
+        ArgumentNullException.ThrowIfNull(value);
+        Put(Encoding.ASCII.GetBytes($"({Coordinate(value.X)},{Coordinate(value.Y)})"));
+    }
+
+    /// <inheritdoc/>
+    public void WriteDirectColor(CgmColor value)
+    {
+        Span<long> components = stackalloc long[State.ColorComponents];
+        new ColorCoding(State).FromColor(value, components);
+        foreach (long component in components)
+        {
+            PutFormatted(component);
+        }
+    }
+
+    /// <inheritdoc/>
+    public void WriteString(string value)
+    {
+        ArgumentNullException.ThrowIfNull(value);
+        PutText(TextCoding.Encode(value, State), (byte)'\'');
+    }
+
+    /// <inheritdoc/>
+    public void WriteData(byte[] value)
+    {
+        ArgumentNullException.ThrowIfNull(value);
+        PutText(value, (byte)'\'');
+    }
+
+    /// <inheritdoc/>
+    public void WriteStructuredData(StructuredDataRecord value)
+    {
+        ArgumentNullException.ThrowIfNull(value);
+        var inner = new DefaultClearTextWriter(_stream, State, false);
+        StructuredDataCoding.Write(inner.Exchange, value);
+        PutText(inner._text.WrittenSpan, (byte)'"');
+    }
+
+    /// <summary>Writes an element that stands between the beginning and the end of another.</summary>
+    internal void WriteInner(Command command)
+    {
+        if (_isInner)
+        {
+            throw new CgmDataException("it stands inside of an element of its kind");
+        }
+
+        _isInner = true;
+        Write(command);
+        _isInner = false;
+    }
+
+    private static string Real(double value)
+    {
+        string text = NumberRange.Finite(value).ToString("R", CultureInfo.InvariantCulture);
+        return text.AsSpan().IndexOfAny('.', 'E') < 0 ? text + ".0" : text;
+    }
+
+    private string Coordinate(double value)
+    {
+        return State.HasRealCoordinates ? Real(value) : NumberRange.Whole(value).ToString(CultureInfo.InvariantCulture);
+    }
+
+    private void Write(Command command)
+    {
+        if (command is UnknownCommand unknown)
+        {
+            WriteUnknown(unknown);
+        }
+        else if (command.Keyword.Length > 0)
+        {
+            command.WriteAsClearText(this);
+            command.Apply(State);
+        }
+    }
+
+    private void WriteUnknown(UnknownCommand command)
+    {
+        if (command.Source.Length == 0)
+        {
+            throw new CgmDataException("the element is known of a binary file alone, so it cannot be written as clear text");
+        }
+
+        _text.Write(Encoding.Latin1.GetBytes(command.Source));
+        EndElement();
+    }
+
+    private void PutFormatted(long value)
+    {
+        Span<byte> digits = stackalloc byte[20];
+        value.TryFormat(digits, out int count, default, CultureInfo.InvariantCulture);
+        Put(digits[..count]);
+    }
+
+    private void PutText(ReadOnlySpan<byte> text, byte quote)
+    {
+        byte[] quoted = new byte[text.Length + text.Count(quote) + 2];
+        quoted[0] = quoted[^1] = quote;
+        int at = 1;
+        foreach (byte letter in text)
+        {
+            quoted[at++] = letter;
+            if (letter == quote)
+            {
+                quoted[at++] = quote;
+            }
+        }
+
+        Put(quoted);
+    }
+
+    // The semicolon of the element has to fit behind its last parameter, too.
+    private void Put(ReadOnlySpan<byte> item)
+    {
+        if (_column > 0)
+        {
+            bool isFull = _breaksLines && _column + item.Length + 2 > LongestLine;
+            _text.Write(isFull ? "\n "u8 : " "u8);
+            _column = isFull ? 1 : _column + 1;
+        }
+
+        _text.Write(item);
+        _column += item.Length;
+    }
+}
