@@ -86,5 +86,5 @@ internal static class StructuredDataCoding
     private static long Long(object? value) => Convert.ToInt64(value ?? 0);
 
     // Numbers of 32 bits without sign are doubles where an int does not hold them.
-    private static object Fit(long value) => value is >= int.MinValue and <= int.MaxValue ? (int)value : (double)value;
+    private static object Fit(long value) => value is >= int.MinValue and <= int.MaxValue ? (object)(int)value : (double)value;
 }

@@ -1,5 +1,5 @@
+using System;
 using System.Collections.Generic;
-using System.Linq;
 using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
@@ -12,19 +12,16 @@ public sealed class AspectSourceFlags : Command
 {
     private static readonly string[] ValueWords = ["INDIV", "BNDLD"];
 
-    private static readonly string[] SingleWords =
-    [
-        "LINETYPEASF", "LINEWIDTHASF", "LINECOLRASF", "MARKERTYPEASF", "MARKERSIZEASF", "MARKERCOLRASF", "TEXTFONTASF",
-        "TEXTPRECASF", "CHAREXPASF", "CHARSPACEASF", "TEXTCOLRASF", "INTSTYLEASF", "FILLCOLRASF", "HATCHINDEXASF",
-        "PATINDEXASF", "EDGETYPEASF", "EDGEWIDTHASF", "EDGECOLRASF",
-    ];
-
-    private static readonly string[] GroupWords = ["ALLEDGE", "ALLFILL", "ALLTEXT", "ALLMARKER", "ALLLINE", "ALL"];
-
+    /// <summary>The words of all types, in the order of their numbers.</summary>
     private static readonly string[] TypeWords =
     [
-        .. SingleWords, .. Enumerable.Repeat("", (int)ASFType.AllEdge - SingleWords.Length), .. GroupWords,
+        "LINETYPEASF", "LINEWIDTHASF", "LINECOLRASF", "MARKERTYPEASF", "MARKERSIZEASF", "MARKERCOLRASF",
+        "TEXTFONTASF", "TEXTPRECASF", "CHAREXPASF", "CHARSPACEASF", "TEXTCOLRASF", "INTSTYLEASF", "FILLCOLRASF",
+        "HATCHINDEXASF", "PATINDEXASF", "EDGETYPEASF", "EDGEWIDTHASF", "EDGECOLRASF", "ALLEDGE", "ALLFILL",
+        "ALLTEXT", "ALLMARKER", "ALLLINE", "ALL",
     ];
+
+    private static readonly ASFType[] Types = Enum.GetValues<ASFType>();
 
     /// <summary>Creates the element without flags.</summary>
     public AspectSourceFlags()
@@ -128,10 +125,25 @@ public sealed class AspectSourceFlags : Command
 
     private static AspectSourceFlagsInfo ExchangeOne(ParameterExchange x, AspectSourceFlagsInfo? info)
     {
-        ASFType type = x.Enumeration(info?.Type ?? default, TypeWords);
+        ASFType type = ExchangeType(x, info?.Type ?? default);
         ASFValue value = x.Enumeration(info?.Value ?? default, ValueWords);
         return info ?? new AspectSourceFlagsInfo(type, value);
     }
+
+    private static ASFType ExchangeType(ParameterExchange x, ASFType type)
+    {
+        if (!x.IsReading)
+        {
+            Verify(type);
+        }
+
+        return x.IsClearText
+            ? Types[x.Enumeration(Array.IndexOf(Types, type), TypeWords)]
+            : Verify((ASFType)x.BareEnumeration((int)type));
+    }
+
+    private static ASFType Verify(ASFType type) =>
+        Array.IndexOf(Types, type) >= 0 ? type : throw new CgmDataException($"no attribute has the flag {(int)type}");
 
     /// <summary>One flag.</summary>
     public sealed class AspectSourceFlagsInfo
