@@ -11,15 +11,29 @@ public abstract class CapCommand : Command
     {
     }
 
-    /// <summary>Gets or sets how lines end.</summary>
-    public LineCapIndicator Cap { get; set; } = LineCapIndicator.Unspecified;
+    /// <summary>Gets or sets the number of how lines end; negative ones are private.</summary>
+    public int CapIndex { get; set; } = 1;
 
-    /// <summary>Gets or sets how dashes end.</summary>
-    public DashCapIndicator DashCap { get; set; } = DashCapIndicator.Unspecified;
+    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    public LineCapIndicator Cap
+    {
+        get => (LineCapIndicator)CapIndex;
+        set => CapIndex = (int)value;
+    }
+
+    /// <summary>Gets or sets the number of how dashes end; negative ones are private.</summary>
+    public int DashCapIndex { get; set; } = 1;
+
+    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    public DashCapIndicator DashCap
+    {
+        get => (DashCapIndicator)DashCapIndex;
+        set => DashCapIndex = (int)value;
+    }
 
     internal override void Exchange(ParameterExchange x)
     {
-        Cap = x.Index(Cap);
-        DashCap = x.Index(DashCap);
+        CapIndex = x.Index(CapIndex);
+        DashCapIndex = x.Index(DashCapIndex);
     }
 }

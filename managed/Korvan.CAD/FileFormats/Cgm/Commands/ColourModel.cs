@@ -37,7 +37,14 @@ public sealed class ColourModel : Command
     /// <summary>Gets or sets the model.</summary>
     public Model Value { get; set; } = Model.Rgb;
 
-    internal override void Exchange(ParameterExchange x) => Value = x.Index(Value);
+    internal override void Exchange(ParameterExchange x)
+    {
+        Value = x.Index(Value);
+        if (!System.Enum.IsDefined(Value))
+        {
+            throw new CgmDataException($"there is no colour model {(int)Value}");
+        }
+    }
 
     internal override void Apply(CodingState state) => state.ColorModel = Value;
 }

@@ -11,8 +11,15 @@ public abstract class DashTypeCommand : Command
     {
     }
 
-    /// <summary>Gets or sets the dashes; negative numbers are private or defined by the picture.</summary>
-    public DashType Type { get; set; } = DashType.Solid;
+    /// <summary>Gets or sets the number of the dashes; negative ones are private or defined by the picture.</summary>
+    public int Index { get; set; } = 1;
 
-    internal override void Exchange(ParameterExchange x) => Type = x.Index(Type);
+    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    public DashType Type
+    {
+        get => (DashType)Index;
+        set => Index = (int)value;
+    }
+
+    internal override void Exchange(ParameterExchange x) => Index = x.Index(Index);
 }

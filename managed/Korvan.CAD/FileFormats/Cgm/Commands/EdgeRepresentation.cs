@@ -17,8 +17,15 @@ public sealed class EdgeRepresentation : Command
     /// <summary>Gets or sets the index of the bundle, from 1.</summary>
     public int BundleIndex { get; set; } = 1;
 
-    /// <summary>Gets or sets the dashes.</summary>
-    public DashType Type { get; set; } = DashType.Solid;
+    /// <summary>Gets or sets the number of the dashes; negative ones are private or defined by the picture.</summary>
+    public int TypeIndex { get; set; } = 1;
+
+    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    public DashType Type
+    {
+        get => (DashType)TypeIndex;
+        set => TypeIndex = (int)value;
+    }
 
     /// <summary>Gets or sets the width, in what the mode of the picture says.</summary>
     public double Width { get; set; } = 1;
@@ -29,7 +36,7 @@ public sealed class EdgeRepresentation : Command
     internal override void Exchange(ParameterExchange x)
     {
         BundleIndex = x.Index(BundleIndex);
-        Type = x.Index(Type);
+        TypeIndex = x.Index(TypeIndex);
         Width = x.Size(Width, x.State.Current.EdgeWidthMode);
         Color = x.Color(Color);
     }

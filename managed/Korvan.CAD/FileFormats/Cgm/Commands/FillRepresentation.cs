@@ -23,8 +23,16 @@ public sealed class FillRepresentation : Command
     /// <summary>Gets or sets the colour.</summary>
     public CgmColor Color { get; set; } = new(1);
 
-    /// <summary>Gets or sets the hatch.</summary>
-    public HatchIndex.HatchType Hatch { get; set; } = HatchIndex.HatchType.Horizontal;
+    /// <summary>Gets or sets the number of the hatch; negative ones are private or defined by the
+    /// picture.</summary>
+    public int HatchNumber { get; set; } = 1;
+
+    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    public HatchIndex.HatchType Hatch
+    {
+        get => (HatchIndex.HatchType)HatchNumber;
+        set => HatchNumber = (int)value;
+    }
 
     /// <summary>Gets or sets the index of the pattern, from 1.</summary>
     public int PatternIndex { get; set; } = 1;
@@ -34,7 +42,7 @@ public sealed class FillRepresentation : Command
         BundleIndex = x.Index(BundleIndex);
         Style = x.Enumeration(Style, InteriorStyle.Words);
         Color = x.Color(Color);
-        Hatch = x.Index(Hatch);
+        HatchNumber = x.Index(HatchNumber);
         PatternIndex = x.Index(PatternIndex);
     }
 }

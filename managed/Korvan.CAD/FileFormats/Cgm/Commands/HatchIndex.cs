@@ -37,8 +37,15 @@ public sealed class HatchIndex : Command
         PositiveNegativeCross = 6,
     }
 
-    /// <summary>Gets or sets the hatch; negative numbers are private or defined by the picture.</summary>
-    public HatchType Value { get; set; } = HatchType.Horizontal;
+    /// <summary>Gets or sets the number of the hatch; negative ones are private or defined by the picture.</summary>
+    public int Index { get; set; } = 1;
 
-    internal override void Exchange(ParameterExchange x) => Value = x.Index(Value);
+    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    public HatchType Value
+    {
+        get => (HatchType)Index;
+        set => Index = (int)value;
+    }
+
+    internal override void Exchange(ParameterExchange x) => Index = x.Index(Index);
 }

@@ -29,7 +29,9 @@ public sealed class HatchStyleDefinition : Command
     }
 
     /// <summary>Gets or sets the number that areas call the hatch by; negative.</summary>
-    public HatchIndex.HatchType Hatch { get; set; } = (HatchIndex.HatchType)(-1);
+    public int HatchNumber { get; set; } = -1;
+
+    internal HatchIndex.HatchType Hatch => (HatchIndex.HatchType)HatchNumber;
 
     /// <summary>Gets or sets whether there are two directions.</summary>
     public HatchStyle Style { get; set; }
@@ -52,13 +54,13 @@ public sealed class HatchStyleDefinition : Command
     /// <summary>Gets or sets the distances from line to line, relative to each other.</summary>
     public List<int> GapWidths { get; set; } = [1];
 
-    /// <summary>Gets or sets the dashes of the lines, as many as gaps.</summary>
-    public List<DashType> LineTypes { get; set; } = [DashType.Solid];
+    /// <summary>Gets or sets the numbers of the dashes of the lines, as many as gaps.</summary>
+    public List<int> LineTypes { get; set; } = [1];
 
     internal override void Exchange(ParameterExchange x)
     {
         SpecificationMode mode = x.State.Current.InteriorStyleMode;
-        Hatch = x.Index(Hatch);
+        HatchNumber = x.Index(HatchNumber);
         Style = x.Enumeration(Style, Words);
         FirstDirectionX = x.Size(FirstDirectionX, mode);
         FirstDirectionY = x.Size(FirstDirectionY, mode);

@@ -11,8 +11,15 @@ public abstract class JoinCommand : Command
     {
     }
 
-    /// <summary>Gets or sets how pieces meet.</summary>
-    public JoinIndicator Join { get; set; } = JoinIndicator.Unspecified;
+    /// <summary>Gets or sets the number of how pieces meet; negative ones are private.</summary>
+    public int Index { get; set; } = 1;
 
-    internal override void Exchange(ParameterExchange x) => Join = x.Index(Join);
+    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    public JoinIndicator Join
+    {
+        get => (JoinIndicator)Index;
+        set => Index = (int)value;
+    }
+
+    internal override void Exchange(ParameterExchange x) => Index = x.Index(Index);
 }

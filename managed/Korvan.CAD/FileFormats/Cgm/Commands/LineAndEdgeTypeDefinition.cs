@@ -15,7 +15,9 @@ public sealed class LineAndEdgeTypeDefinition : Command
     }
 
     /// <summary>Gets or sets the number that lines and edges call the dashes by; negative.</summary>
-    public DashType Type { get; set; } = (DashType)(-1);
+    public int TypeIndex { get; set; } = -1;
+
+    internal DashType Type => (DashType)TypeIndex;
 
     /// <summary>Gets or sets the length after which the dashes repeat, as widths of lines are told.</summary>
     public double RepeatLength { get; set; } = 1;
@@ -25,7 +27,7 @@ public sealed class LineAndEdgeTypeDefinition : Command
 
     internal override void Exchange(ParameterExchange x)
     {
-        Type = x.Index(Type);
+        TypeIndex = x.Index(TypeIndex);
         RepeatLength = x.Size(RepeatLength, x.State.Current.LineWidthMode);
         Elements = x.Rest(Elements, static (y, length) => y.Integer(length));
     }

@@ -17,8 +17,15 @@ public sealed class MarkerRepresentation : Command
     /// <summary>Gets or sets the index of the bundle, from 1.</summary>
     public int BundleIndex { get; set; } = 1;
 
-    /// <summary>Gets or sets the shape.</summary>
-    public MarkerType.Type Type { get; set; } = MarkerType.Type.Asterisk;
+    /// <summary>Gets or sets the number of the shape; negative ones are private.</summary>
+    public int TypeIndex { get; set; } = 3;
+
+    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    public MarkerType.Type Type
+    {
+        get => (MarkerType.Type)TypeIndex;
+        set => TypeIndex = (int)value;
+    }
 
     /// <summary>Gets or sets the size, in what the mode of the picture says.</summary>
     public double Size { get; set; } = 1;
@@ -29,7 +36,7 @@ public sealed class MarkerRepresentation : Command
     internal override void Exchange(ParameterExchange x)
     {
         BundleIndex = x.Index(BundleIndex);
-        Type = x.Index(Type);
+        TypeIndex = x.Index(TypeIndex);
         Size = x.Size(Size, x.State.Current.MarkerSizeMode);
         Color = x.Color(Color);
     }

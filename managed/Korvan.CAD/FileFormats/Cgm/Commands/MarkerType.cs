@@ -34,8 +34,15 @@ public sealed class MarkerType : Command
         Cross = 5,
     }
 
-    /// <summary>Gets or sets the shape; negative numbers are private.</summary>
-    public Type Value { get; set; } = Type.Asterisk;
+    /// <summary>Gets or sets the number of the shape; negative ones are private.</summary>
+    public int Index { get; set; } = 3;
 
-    internal override void Exchange(ParameterExchange x) => Value = x.Index(Value);
+    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    public Type Value
+    {
+        get => (Type)Index;
+        set => Index = (int)value;
+    }
+
+    internal override void Exchange(ParameterExchange x) => Index = x.Index(Index);
 }

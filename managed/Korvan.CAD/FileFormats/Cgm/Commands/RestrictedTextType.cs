@@ -37,8 +37,15 @@ public sealed class RestrictedTextType : Command
         Justified = 6,
     }
 
-    /// <summary>Gets or sets how.</summary>
-    public Type Value { get; set; } = Type.Basic;
+    /// <summary>Gets or sets the number of the way to fit; negative ones are private.</summary>
+    public int Index { get; set; } = 1;
 
-    internal override void Exchange(ParameterExchange x) => Value = x.Index(Value);
+    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    public Type Value
+    {
+        get => (Type)Index;
+        set => Index = (int)value;
+    }
+
+    internal override void Exchange(ParameterExchange x) => Index = x.Index(Index);
 }

@@ -12,8 +12,15 @@ public abstract class TileElement : Command
     {
     }
 
-    /// <summary>Gets or sets how the cells are packed.</summary>
-    public CompressionType Compression { get; set; } = CompressionType.Bitmap;
+    /// <summary>Gets or sets the number of how the cells are packed; negative ones are private.</summary>
+    public int CompressionIndex { get; set; } = 5;
+
+    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    public CompressionType Compression
+    {
+        get => (CompressionType)CompressionIndex;
+        set => CompressionIndex = (int)value;
+    }
 
     /// <summary>Gets or sets to how many bits each line is filled up, 0 for none.</summary>
     public int RowPadding { get; set; }
@@ -26,7 +33,7 @@ public abstract class TileElement : Command
 
     internal override void Exchange(ParameterExchange x)
     {
-        Compression = x.Index(Compression);
+        CompressionIndex = x.Index(CompressionIndex);
         RowPadding = x.Integer(RowPadding);
         ExchangeColors(x);
         Parameters = x.Record(Parameters);

@@ -120,12 +120,12 @@ internal static class CommandSamples
             Hatch = HatchIndex.HatchType.NegativeSlope, PatternIndex = 5,
         },
         new EdgeRepresentation { BundleIndex = 2, Type = DashType.DashDotDot, Width = 0.5, Color = Indexed },
-        new LineAndEdgeTypeDefinition { Type = (DashType)(-2), RepeatLength = 4.5, Elements = [3, 1, 2, 1] },
+        new LineAndEdgeTypeDefinition { TypeIndex = -2, RepeatLength = 4.5, Elements = [3, 1, 2, 1] },
         new HatchStyleDefinition
         {
-            Hatch = (HatchIndex.HatchType)(-2), Style = HatchStyleDefinition.HatchStyle.CrossHatch, FirstDirectionX = 2,
+            HatchNumber = -2, Style = HatchStyleDefinition.HatchStyle.CrossHatch, FirstDirectionX = 2,
             FirstDirectionY = 3, SecondDirectionX = 4, SecondDirectionY = 5, CycleLength = 6, GapWidths = [7, 8],
-            LineTypes = [DashType.Dash, DashType.Dot],
+            LineTypes = [2, 3],
         },
         new GeometricPatternDefinition { PatternIndex = 2, SegmentIdentifier = 3, FirstCorner = At(4, 5), SecondCorner = At(6, 7) },
         new ApplicationStructureDirectory
@@ -236,7 +236,7 @@ internal static class CommandSamples
         new MarkerSize(2.5),
         new MarkerColour(Indexed),
         new EdgeBundleIndex { Index = 2 },
-        new EdgeType { Type = (DashType)(-7) },
+        new EdgeType { Index = -7 },
         new EdgeWidth(2.5),
         new EdgeColour(Indexed),
         new EdgeVisibility(true),
