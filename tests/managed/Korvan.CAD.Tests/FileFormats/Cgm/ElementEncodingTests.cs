@@ -146,6 +146,15 @@ public class ElementEncodingTests
     }
 
     [Fact]
+    public void What_has_no_word_is_no_clear_text()
+    {
+        var stream = new MemoryStream();
+        var writer = new DefaultClearTextWriter(stream);
+        Assert.Throws<InvalidOperationException>(() => new NoOp().WriteAsClearText(writer));
+        Assert.Equal(0, stream.Length);
+    }
+
+    [Fact]
     public void Modes_and_precisions_change_how_later_elements_are_coded()
     {
         var stream = new MemoryStream();
