@@ -5,6 +5,7 @@ using System.IO.Compression;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cgm.Import;
 using Korvan.CAD.Raster;
 
 namespace Korvan.CAD.FileFormats;
@@ -68,6 +69,8 @@ internal static class FormatDetector
             _ when head.StartsWith("DRACO"u8) => FileFormat.Draco,
             _ when head.StartsWith("AutoCAD DXB"u8) => FileFormat.Dxb,
             _ when head.StartsWith("PK\u0003\u0004"u8) => ZipFormat(head),
+            _ when CgmSource.IsPacked(head) => GzipFormat(head),
+            _ when CgmSource.IsBinary(head) => FileFormat.Cgm,
             _ => FileFormat.Undefined,
         };
     }
@@ -80,6 +83,7 @@ internal static class FormatDetector
             _ when IsIges(head) => FileFormat.Iges,
             _ when head.TrimStart("\uFEFF \t\r\n"u8).StartsWith("ISO-10303-21"u8) => StepFormat(head),
             _ when IsIfc2X3Xml(head) => FileFormat.IFC2X3,
+            _ when CgmSource.IsClearText(head) => FileFormat.Cgm,
             _ when head.IndexOf("<svg"u8) >= 0 => FileFormat.Svg,
             _ when head.IndexOf("<COLLADA"u8) >= 0 => FileFormat.Collada,
             _ => FileFormat.Undefined,
@@ -135,18 +139,25 @@ internal static class FormatDetector
             return FileFormat.Undefined;
         }
 
-        FileFormat format = StepFormat(method == 0 ? head[start..] : Inflate(head[start..]));
+        FileFormat format = StepFormat(method == 0 ? head[start..] : Inflate(head[start..], false));
         return format == FileFormat.Stp ? FileFormat.IFC4 : format;
     }
 
+    private static FileFormat GzipFormat(ReadOnlySpan<byte> head)
+    {
+        byte[] content = Inflate(head, true);
+        return CgmSource.IsBinary(content) || CgmSource.IsClearText(content) ? FileFormat.Cgm : FileFormat.Undefined;
+    }
+
     // As much as there is: the head ends somewhere within.
-    private static byte[] Inflate(ReadOnlySpan<byte> packed)
+    private static byte[] Inflate(ReadOnlySpan<byte> packed, bool isGzip)
     {
         byte[] content = new byte[HeadLength];
         int count = 0;
         try
         {
-            using DeflateStream stream = new(new MemoryStream(packed.ToArray()), CompressionMode.Decompress);
+            MemoryStream source = new(packed.ToArray());
+            using Stream stream = isGzip ? new GZipStream(source, CompressionMode.Decompress) : new DeflateStream(source, CompressionMode.Decompress);
             for (int read = 1; read > 0 && count < content.Length; count += read)
             {
                 read = stream.Read(content, count, content.Length - count);

@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Globalization;
 using System.Text;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
@@ -56,13 +57,31 @@ internal static class TextCoding
         Encoding selected = Selected(state);
         try
         {
-            byte[] bytes = Strict(selected).GetBytes(text);
-            return bytes;
+            return Strict(selected).GetBytes(text);
         }
         catch (EncoderFallbackException)
         {
             return EncodeAsUnicode(text);
         }
+    }
+
+    // Some programs write the columns and rows of the code table, as in "4/2" for B.
+    private static string FromColumnsAndRows(string text)
+    {
+        var letters = new StringBuilder();
+        foreach (string one in text.Split(' ', StringSplitOptions.RemoveEmptyEntries))
+        {
+            string[] parts = one.Split('/');
+            if (parts.Length != 2 || !byte.TryParse(parts[0], NumberStyles.None, CultureInfo.InvariantCulture, out byte column)
+                || !byte.TryParse(parts[1], NumberStyles.None, CultureInfo.InvariantCulture, out byte row) || column > 15 || row > 15)
+            {
+                return text;
+            }
+
+            letters.Append((char)((column << 4) | row));
+        }
+
+        return letters.ToString();
     }
 
     private static byte[] EncodeAsUnicode(string text)
@@ -103,7 +122,7 @@ internal static class TextCoding
     }
 
     private static (int Kind, string Tail) At(IReadOnlyList<(int Kind, string Tail)> sets, int number) =>
-        number >= 1 && number <= sets.Count ? sets[number - 1] : (-1, "");
+        number >= 1 && number <= sets.Count ? (sets[number - 1].Kind, FromColumnsAndRows(sets[number - 1].Tail)) : (-1, "");
 
     private static Encoding Page(int page) =>
         page == Encoding.Latin1.CodePage ? Encoding.Latin1 : CodePagesEncodingProvider.Instance.GetEncoding(page) ?? Encoding.Latin1;
