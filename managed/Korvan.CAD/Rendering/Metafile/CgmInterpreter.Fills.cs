@@ -86,7 +86,7 @@ internal sealed partial class CgmInterpreter
         {
             fill.Style = IsBundled(ASF.InteriorStyle) ? bundle.Style : fill.Style;
             fill.Color = IsBundled(ASF.FillColour) ? bundle.Color : fill.Color;
-            fill.Hatch = IsBundled(ASF.HatchIndex) ? (int)bundle.Hatch : fill.Hatch;
+            fill.Hatch = IsBundled(ASF.HatchIndex) ? bundle.HatchNumber : fill.Hatch;
             fill.Pattern = IsBundled(ASF.PatternIndex) ? bundle.PatternIndex : fill.Pattern;
         }
 

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.Rendering.DisplayList;
 using Korvan.CAD.Rendering.Geometry;
 
@@ -23,10 +24,10 @@ internal sealed partial class CgmInterpreter
     /// <summary>What an application structure hides and puts back.</summary>
     private readonly record struct Structure(PaintState? Inherited, int Layer, bool IsShown);
 
-    private bool IsShown => _structures.Count == 0 || _structures.Peek().IsShown;
+    /// <summary>Whether what is drawn here is shown; what lies in no layer is hidden when only some are asked for.</summary>
+    private bool IsShown => _structures.Count == 0 ? _style.Layers is null : _structures.Peek().IsShown;
 
-    private static bool IsStructure(Command command) =>
-        command is BeginApplicationStructure or EndApplicationStructure or ApplicationStructureAttribute;
+    private static bool Draws(Command command) => command.ElementClass == ClassCode.GraphicalPrimitiveElement || command is CopySegment;
 
     private static void AddStructure(Dictionary<Type, Action<CgmInterpreter, Command>> d)
     {
@@ -135,8 +136,7 @@ internal sealed partial class CgmInterpreter
     {
         Structure own = _structures.Pop();
         _layer = List.Layer(name);
-        bool outer = IsShown;
-        _structures.Push(own with { IsShown = outer && (_style.Layers?.Contains(name) ?? true) });
+        _structures.Push(own with { IsShown = _style.Layers?.Contains(name) ?? true });
     }
 
     private void SetAttribute(ApplicationStructureAttribute attribute)

@@ -103,7 +103,7 @@ internal sealed partial class CgmInterpreter
         {
             StateChanges.Apply(_state, command);
         }
-        else if (IsShown || IsStructure(command))
+        else if (IsShown || !Draws(command))
         {
             draw(this, command);
         }

@@ -75,8 +75,8 @@ internal static class StateChanges
         On<TextRepresentation>(c, static (s, x) => s.TextBundles[x.BundleIndex] = x);
         On<FillRepresentation>(c, static (s, x) => s.FillBundles[x.BundleIndex] = x);
         On<PatternTable>(c, static (s, x) => s.Patterns[x.Index] = x);
-        On<HatchStyleDefinition>(c, static (s, x) => s.Hatches[(int)x.Hatch] = x);
-        On<LineAndEdgeTypeDefinition>(c, static (s, x) => s.LineTypes[(int)x.Type] = x);
+        On<HatchStyleDefinition>(c, static (s, x) => s.Hatches[x.HatchNumber] = x);
+        On<LineAndEdgeTypeDefinition>(c, static (s, x) => s.LineTypes[x.TypeIndex] = x);
         On<AspectSourceFlags>(c, static (s, x) => SetSources(s.Paint, x));
     }
 
@@ -98,7 +98,7 @@ internal static class StateChanges
         On<EdgeTypeInitialOffset>(c, static (s, x) => s.Paint.Edge.DashOffset = x.Offset);
         On<EdgeVisibility>(c, static (s, x) => s.Paint.EdgeIsVisible = x.IsVisible);
         On<MarkerBundleIndex>(c, static (s, x) => s.Paint.Marker.Bundle = x.Index);
-        On<MarkerType>(c, static (s, x) => s.Paint.Marker.Type = (int)x.Value);
+        On<MarkerType>(c, static (s, x) => s.Paint.Marker.Type = x.Index);
         On<MarkerSize>(c, static (s, x) => s.Paint.Marker.Size = x.Size);
         On<MarkerColour>(c, static (s, x) => s.Paint.Marker.Color = x.Color);
     }
@@ -122,7 +122,7 @@ internal static class StateChanges
         On<FillBundleIndex>(c, static (s, x) => s.Paint.Fill.Bundle = x.Index);
         On<InteriorStyle>(c, static (s, x) => s.Paint.Fill.Style = x.Value);
         On<FillColour>(c, static (s, x) => s.Paint.Fill.Color = x.Color);
-        On<HatchIndex>(c, static (s, x) => s.Paint.Fill.Hatch = (int)x.Value);
+        On<HatchIndex>(c, static (s, x) => s.Paint.Fill.Hatch = x.Index);
         On<PatternIndex>(c, static (s, x) => s.Paint.Fill.Pattern = x.Index);
         On<FillReferencePoint>(c, static (s, x) => s.Paint.Fill.Reference = x.Point);
         On<PatternSize>(c, static (s, x) => s.Paint.Fill.PatternSize = x);

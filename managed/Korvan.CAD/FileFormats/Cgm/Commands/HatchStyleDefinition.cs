@@ -31,8 +31,6 @@ public sealed class HatchStyleDefinition : Command
     /// <summary>Gets or sets the number that areas call the hatch by; negative.</summary>
     public int HatchNumber { get; set; } = -1;
 
-    internal HatchIndex.HatchType Hatch => (HatchIndex.HatchType)HatchNumber;
-
     /// <summary>Gets or sets whether there are two directions.</summary>
     public HatchStyle Style { get; set; }
 

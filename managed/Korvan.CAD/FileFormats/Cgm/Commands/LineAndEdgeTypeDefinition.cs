@@ -17,8 +17,6 @@ public sealed class LineAndEdgeTypeDefinition : Command
     /// <summary>Gets or sets the number that lines and edges call the dashes by; negative.</summary>
     public int TypeIndex { get; set; } = -1;
 
-    internal DashType Type => (DashType)TypeIndex;
-
     /// <summary>Gets or sets the length after which the dashes repeat, as widths of lines are told.</summary>
     public double RepeatLength { get; set; } = 1;
 
