@@ -52,9 +52,15 @@ public abstract class Command
 
     /// <summary>Writes the word of the element, its parameters and the semicolon.</summary>
     /// <param name="writer">What takes the words.</param>
+    /// <exception cref="InvalidOperationException">Clear text has no word for the element.</exception>
     public void WriteAsClearText(IClearTextWriter writer)
     {
         ArgumentNullException.ThrowIfNull(writer);
+        if (Keyword.Length == 0)
+        {
+            throw new InvalidOperationException($"Clear text has no word for the element {(int)ElementClass}, {ElementId}.");
+        }
+
         writer.BeginElement(Keyword);
         Exchange(ClearTextWriting.Of(writer));
         writer.EndElement();
