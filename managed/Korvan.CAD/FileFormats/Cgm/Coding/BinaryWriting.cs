@@ -22,13 +22,25 @@ internal sealed class BinaryWriting(IBinaryWriter writer, CodingState state) : P
     internal static ParameterExchange Of(IBinaryWriter writer) =>
         writer is DefaultBinaryWriter ours ? ours.Exchange : new BinaryWriting(writer, new CodingState());
 
-    internal override int Integer(int value) => Put(value, writer.WriteInteger);
+    internal override int Integer(int value)
+    {
+        writer.WriteInteger(value);
+        return value;
+    }
 
-    internal override int Index(int value) => Put(value, writer.WriteIndex);
+    internal override int Index(int value)
+    {
+        writer.WriteIndex(value);
+        return value;
+    }
 
     internal override int Name(int value) => Put(value, writer.WriteName);
 
-    internal override int ColorIndex(int value) => Put(value, writer.WriteColorIndex);
+    internal override int ColorIndex(int value)
+    {
+        writer.WriteColorIndex(value);
+        return value;
+    }
 
     internal override int BareEnumeration(int value) => Put(value, writer.WriteEnumeration);
 
@@ -39,11 +51,23 @@ internal sealed class BinaryWriting(IBinaryWriter writer, CodingState state) : P
             : throw new CgmDataException($"the value {value} is none of 0 to {words.Length - 1} ({string.Join(", ", words)})");
     }
 
-    internal override double Real(double value) => Put(value, writer.WriteReal);
+    internal override double Real(double value)
+    {
+        writer.WriteReal(value);
+        return value;
+    }
 
-    internal override double Vdc(double value) => Put(value, writer.WriteVdc);
+    internal override double Vdc(double value)
+    {
+        writer.WriteVdc(value);
+        return value;
+    }
 
-    internal override CgmPoint Point(CgmPoint? value) => Put(Needed(value, "a point"), writer.WritePoint);
+    internal override CgmPoint Point(CgmPoint? value)
+    {
+        writer.WritePoint(Needed(value, "a point"));
+        return value!;
+    }
 
     internal override CgmColor DirectColor(CgmColor? value) => Put(Needed(value, "a colour"), writer.WriteDirectColor);
 

@@ -21,7 +21,11 @@ internal sealed class ClearTextWriting(IClearTextWriter writer, CodingState stat
     internal static ParameterExchange Of(IClearTextWriter writer) =>
         writer is Export.DefaultClearTextWriter ours ? ours.Exchange : new ClearTextWriting(writer, new CodingState());
 
-    internal override int Integer(int value) => Put(value, writer.WriteInteger);
+    internal override int Integer(int value)
+    {
+        writer.WriteInteger(value);
+        return value;
+    }
 
     internal override int Index(int value) => Integer(value);
 
@@ -42,11 +46,23 @@ internal sealed class ClearTextWriting(IClearTextWriter writer, CodingState stat
         return value;
     }
 
-    internal override double Real(double value) => Put(value, writer.WriteReal);
+    internal override double Real(double value)
+    {
+        writer.WriteReal(value);
+        return value;
+    }
 
-    internal override double Vdc(double value) => Put(value, writer.WriteVdc);
+    internal override double Vdc(double value)
+    {
+        writer.WriteVdc(value);
+        return value;
+    }
 
-    internal override CgmPoint Point(CgmPoint? value) => Put(Needed(value, "a point"), writer.WritePoint);
+    internal override CgmPoint Point(CgmPoint? value)
+    {
+        writer.WritePoint(Needed(value, "a point"));
+        return value!;
+    }
 
     internal override CgmColor DirectColor(CgmColor? value) => Put(Needed(value, "a colour"), writer.WriteDirectColor);
 

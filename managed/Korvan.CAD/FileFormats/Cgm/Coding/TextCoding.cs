@@ -14,22 +14,16 @@ internal static class TextCoding
     private const byte Escape = 0x1B;
     private const int Set96 = 1, CompleteCode = 4;
 
+    // The final letters of the sequences that designate the right halves of ISO/IEC 8859-1, -2 and so on.
+    private const string RightHalves = "ABCDLGFHM";
+    private const int FirstRightHalf = 28591;
+
     private static readonly UTF8Encoding s_utf8 = new(false, true);
     private static readonly UnicodeEncoding s_utf16 = new(true, false, true);
 
     // The complete codes by the ends of their sequences ESC % F and ESC % / F (register of ISO/IEC 2375).
-    private static readonly Dictionary<string, Encoding> s_complete = new()
-    {
-        ["G"] = s_utf8, ["/G"] = s_utf8, ["/H"] = s_utf8, ["/I"] = s_utf8,
-        ["/@"] = s_utf16, ["/C"] = s_utf16, ["/E"] = s_utf16, ["/J"] = s_utf16, ["/K"] = s_utf16, ["/L"] = s_utf16,
-    };
-
-    // The right halves of ISO/IEC 8859 by the final letters of their sequences.
-    private static readonly Dictionary<string, int> s_rightHalves = new()
-    {
-        ["A"] = 28591, ["B"] = 28592, ["C"] = 28593, ["D"] = 28594, ["L"] = 28595, ["G"] = 28596, ["F"] = 28597,
-        ["H"] = 28598, ["M"] = 28599, ["b"] = 28605,
-    };
+    private static readonly string[] s_utf8Codes = ["G", "/G", "/H", "/I"];
+    private static readonly string[] s_utf16Codes = ["/@", "/C", "/E", "/J", "/K", "/L"];
 
     internal static string Decode(ReadOnlySpan<byte> bytes, CodingState state)
     {
@@ -112,20 +106,21 @@ internal static class TextCoding
         }
 
         (int kind, string tail) = At(sets, state.Current.CharacterSet);
-        if (kind == CompleteCode && s_complete.TryGetValue(tail, out Encoding? complete))
+        if (kind == CompleteCode && Complete(tail) is Encoding complete)
         {
             return complete;
         }
 
         (kind, tail) = At(sets, state.Current.AlternateCharacterSet);
-        return kind == Set96 && s_rightHalves.TryGetValue(tail, out int page) ? Page(page) : Encoding.Latin1;
+        int half = kind == Set96 && tail.Length == 1 ? RightHalves.IndexOf(tail[0]) : -1;
+        return half > 0 ? CodePagesEncodingProvider.Instance.GetEncoding(FirstRightHalf + half) ?? Encoding.Latin1 : Encoding.Latin1;
     }
 
     private static (int Kind, string Tail) At(IReadOnlyList<(int Kind, string Tail)> sets, int number) =>
         number >= 1 && number <= sets.Count ? (sets[number - 1].Kind, FromColumnsAndRows(sets[number - 1].Tail)) : (-1, "");
 
-    private static Encoding Page(int page) =>
-        page == Encoding.Latin1.CodePage ? Encoding.Latin1 : CodePagesEncodingProvider.Instance.GetEncoding(page) ?? Encoding.Latin1;
+    private static Encoding? Complete(string tail) =>
+        Array.IndexOf(s_utf8Codes, tail) >= 0 ? s_utf8 : Array.IndexOf(s_utf16Codes, tail) >= 0 ? s_utf16 : null;
 
     private static string Decode(ReadOnlySpan<byte> bytes, Encoding encoding)
     {
@@ -165,7 +160,7 @@ internal static class TextCoding
         string sequence = tail.ToString();
         if (sequence.StartsWith('%'))
         {
-            current = s_complete.GetValueOrDefault(sequence[1..], selected);
+            current = Complete(sequence[1..]) ?? selected;
         }
 
         return Math.Min(at, bytes.Length);
