@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import base64
 import struct
+from collections.abc import Iterator
 from html import escape
 
 LINE, RESTRICTED_TEXT, POLYGON_SET, CELL_ARRAY = (4, 1), (4, 5), (4, 8), (4, 9)
@@ -78,11 +79,24 @@ def to_svg(data: bytes) -> str:
     return "\n".join(out) + "</svg>"
 
 
+def runs(body: bytes, wide: int, high: int) -> Iterator[bytes]:
+    """Lines of cells that are told by counts and colours; each begins at an even byte."""
+    at = 0
+    for _ in range(high):
+        row = b""
+        while len(row) < wide * 3:
+            row += body[at + 2 : at + 5] * int.from_bytes(body[at : at + 2], "big")
+            at += 5
+        yield row
+        at += at % 2
+
+
 def picture(body: bytes, page: int) -> str:
     """A cell array that stands upright, as a bitmap."""
-    x0, y0, x1, y1, _, _, wide, high, _, _ = words(body[:20])
+    x0, y0, x1, y1, _, _, wide, high, _, packed = words(body[:20])
     stride = wide * 3 + wide % 2
-    rows = [body[20 + y * stride : 20 + y * stride + wide * 3] for y in range(high)]
+    rows = ([body[20 + y * stride : 20 + y * stride + wide * 3] for y in range(high)] if packed
+            else list(runs(body[20:], wide, high)))
     pixels = b"".join(b"".join(row[i : i + 3][::-1] for i in range(0, len(row), 3)) + bytes(-wide * 3 % 4)
                       for row in reversed(rows))
     head = struct.pack("<2sIHHIIiiHHIIiiII", b"BM", 54 + len(pixels), 0, 0, 54, 40, wide, high, 1, 24, 0, len(pixels), 0, 0, 0, 0)

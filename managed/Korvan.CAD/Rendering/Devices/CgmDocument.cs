@@ -1,7 +1,12 @@
 using System;
 using System.Collections.Generic;
 using System.IO;
+using System.Linq;
 using Korvan.CAD.FileFormats.Cgm;
+using Korvan.CAD.FileFormats.Cgm.Classes;
+using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.FileFormats.Cgm.Enums;
+using Korvan.CAD.FileFormats.Cgm.Export;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.DisplayList;
 using Korvan.CAD.Rendering.Geometry;
@@ -19,10 +24,11 @@ internal sealed class CgmDocument : MetafilePlayer
     private const double LongestSide = 32_000;
     private const double MillimetresPerPoint = 25.4 / 72;
     private const int MostPoints = 16_000;
-    private const int SameForDashes = 1;
 
     private readonly CgmOptions _options;
-    private readonly CgmWriter _body;
+    private readonly MemoryStream _content = new();
+    private readonly Action<Command> _put;
+    private readonly long _bodyStart;
     private readonly List<string> _fonts = [];
     private readonly Stack<Bounds2> _clips = new();
     private readonly double _unitsPerPoint;
@@ -36,20 +42,24 @@ internal sealed class CgmDocument : MetafilePlayer
     {
         _options = options;
         _unitsPerPoint = unitsPerPoint;
-        _look = page.Settings.Look;
-        _body = NewWriter();
+        _look = Settings.Look;
+
+        // The fonts of the head are known when the body is written. So a head is written before each of both, and the
+        // one before the body is dropped: it says how the body is coded.
+        _put = NewWriter(_content);
+        WriteHead(_put);
+        _bodyStart = _content.Length;
     }
 
     internal static void Write(Stream output, TextEngine engine, Page page, CgmOptions options)
     {
         var document = new CgmDocument(engine, page, options, LongestSide / Math.Max(page.Width, page.Height));
         document.Play();
-        document.WriteHead(output);
-        document._body.CopyTo(output);
-        CgmWriter tail = document.NewWriter();
-        Put(tail, CgmElement.EndPicture);
-        Put(tail, CgmElement.EndMetafile);
-        tail.CopyTo(output);
+        document._put(new EndPicture());
+        document._put(new EndMetafile());
+        document.WriteHead(document.NewWriter(output));
+        document._content.Position = document._bodyStart;
+        document._content.CopyTo(output);
     }
 
     protected override void Line(PathBuffer path, Rgba color, double width, LineLook look)
@@ -57,15 +67,14 @@ internal sealed class CgmDocument : MetafilePlayer
         int size = Math.Max(1, (int)Math.Round(width));
         if (_line != (color, size))
         {
-            Put(_body, CgmElement.LineColor, w => w.Color(color));
-            Put(_body, CgmElement.LineWidth, w => w.Length(size));
+            _put(new LineColour(Direct(color)));
+            _put(new LineWidth(size));
             _line = (color, size);
         }
 
         if (_look != look)
         {
-            Put(_body, CgmElement.LineCap, w => Array.ForEach([CapIndex(look), SameForDashes], w.Integer));
-            Put(_body, CgmElement.LineJoin, w => w.Integer(JoinIndex(look)));
+            PutLook(_put, look);
             _look = look;
         }
 
@@ -74,20 +83,14 @@ internal sealed class CgmDocument : MetafilePlayer
             // A line of many points is cut into several that share their ends.
             for (int first = 0; first + 1 < line.Points.Length; first += MostPoints - 1)
             {
-                Put(_body, CgmElement.Line, w =>
-                {
-                    foreach (Vec2 point in line.Points.AsSpan(first, Math.Min(MostPoints, line.Points.Length - first)))
-                    {
-                        Point(w, point);
-                    }
-                });
+                Vec2[] points = line.Points[first..Math.Min(line.Points.Length, first + MostPoints)];
+                _put(new Polyline { Points = [.. points.Select(Point)] });
             }
         }
     }
 
     protected override void Area(PathBuffer path, Rgba color, bool evenOdd)
     {
-        const int invisible = 0, closeInvisible = 2;
         List<FlatLine> rings = FlatLine.Of(path, Tolerance);
         if (rings.Count == 0)
         {
@@ -96,23 +99,22 @@ internal sealed class CgmDocument : MetafilePlayer
 
         if (_fill != color)
         {
-            Put(_body, CgmElement.FillColor, w => w.Color(color));
+            _put(new FillColour(Direct(color)));
             _fill = color;
         }
 
-        Put(_body, CgmElement.PolygonSet, w =>
+        var set = new PolygonSet();
+        foreach (FlatLine ring in rings)
         {
-            foreach (FlatLine ring in rings)
+            int count = ring.Closed ? ring.Points.Length - 1 : ring.Points.Length;
+            for (int i = 0; i < count; i++)
             {
-                int count = ring.Closed ? ring.Points.Length - 1 : ring.Points.Length;
-                for (int i = 0; i < count; i++)
-                {
-                    Point(w, ring.Points[i]);
-                    bool last = i + 1 == count;
-                    w.Enumeration(last ? closeInvisible : invisible, last ? "CLOSEINVIS" : "INVIS");
-                }
+                set.Points.Add(Point(ring.Points[i]));
+                set.Flags.Add(i + 1 == count ? PolygonSet.EdgeFlag.CloseInvisible : PolygonSet.EdgeFlag.Invisible);
             }
-        });
+        }
+
+        _put(set);
     }
 
     protected override void Text(in TextRun run, in Affine2 matrix, Rgba color)
@@ -125,7 +127,7 @@ internal sealed class CgmDocument : MetafilePlayer
             return;
         }
 
-        if (!CgmWriter.CanEncode(run.Text))
+        if (!CanEncode(run.Text))
         {
             Outline(run, matrix, color);
             return;
@@ -137,18 +139,14 @@ internal sealed class CgmDocument : MetafilePlayer
     protected override void Image(PlacedImage image, in Affine2 matrix)
     {
         // Three corners: where the first pixel begins, the far end, and the end of the first line.
-        Vec2 first = matrix.Point(0, 1);
-        Vec2 far = matrix.Point(1, 0);
-        Vec2 end = matrix.Point(1, 1);
-        Put(_body, CgmElement.CellArray, w =>
+        _put(new CellArray
         {
-            Point(w, first);
-            Point(w, far);
-            Point(w, end);
-            w.Integer(image.Width);
-            w.Integer(image.Height);
-            w.Integer(0);
-            w.Cells(TopDown(image), image.Width, image.Height);
+            FirstCorner = Point(matrix.Point(0, 1)),
+            OppositeCorner = Point(matrix.Point(1, 0)),
+            LineEnd = Point(matrix.Point(1, 1)),
+            CellsPerLine = image.Width,
+            LineCount = image.Height,
+            Cells = TopDown(image),
         });
     }
 
@@ -172,33 +170,24 @@ internal sealed class CgmDocument : MetafilePlayer
 
     private static int Round(double value) => (int)Math.Round(Math.Clamp(value, short.MinValue, short.MaxValue));
 
-    private static int CapIndex(LineLook look) => look.Cap switch { LineCaps.Butt => 2, LineCaps.Square => 4, _ => 3 };
+    // Interpreters of texts beyond Latin-1 are rare; those texts are drawn as shapes.
+    private static bool CanEncode(string text) => text.All(static letter => letter <= 0xFF);
 
-    private static int JoinIndex(LineLook look) => look.Join switch { LineJoins.Miter => 2, LineJoins.Bevel => 4, _ => 3 };
+    private static CgmColor Direct(Rgba color) => new(Color.FromArgb(color.R, color.G, color.B));
 
-    private static void Put(CgmWriter writer, CgmElement element, Action<CgmWriter>? parameters = null)
-    {
-        writer.Begin(element);
-        parameters?.Invoke(writer);
-        writer.End();
-    }
+    private Action<Command> NewWriter(Stream stream) =>
+        _options.Encoding == CgmFileFormat.ClearText ? new DefaultClearTextWriter(stream).WriteCommand : new DefaultBinaryWriter(stream).WriteCommand;
 
-    private CgmWriter NewWriter() => _options.Encoding == CgmFileFormat.ClearText ? new CgmTextWriter() : new CgmBinaryWriter();
-
-    private void Point(CgmWriter writer, Vec2 p) => writer.Point(Round(p.X), Round(Height - p.Y));
+    private CgmPoint Point(Vec2 p) => new(Round(p.X), Round(Height - p.Y));
 
     private void ClipTo(Bounds2? box)
     {
         if (box is Bounds2 region)
         {
-            Put(_body, CgmElement.ClipRectangle, w =>
-            {
-                w.Point(Round(region.MinX), Round(Height - region.MaxY));
-                w.Point(Round(region.MaxX), Round(Height - region.MinY));
-            });
+            _put(new ClipRectangle(Point(new Vec2(region.MinX, region.MaxY)), Point(new Vec2(region.MaxX, region.MinY))));
         }
 
-        Put(_body, CgmElement.Clip, w => w.Enumeration(box is null ? 0 : 1, box is null ? "OFF" : "ON"));
+        _put(new ClipIndicator(box is not null));
     }
 
     private void WriteText(in TextRun run, in Affine2 matrix, Rgba color)
@@ -217,99 +206,93 @@ internal sealed class CgmDocument : MetafilePlayer
         double up = Math.Sqrt((map.Xy * map.Xy) + (map.Yy * map.Yy));
         double across = Math.Sqrt((map.Xx * map.Xx) + (map.Yx * map.Yx));
         double width = Engine.Advance(run.Font, text, run.LetterSpacing) * across;
-        Put(_body, CgmElement.TextFont, w => w.Integer(font + 1));
-        Put(_body, CgmElement.TextColor, w => w.Color(color));
-        Put(_body, CgmElement.CharacterHeight, w => w.Length(Math.Max(1, Round(cap * up))));
-        Put(_body, CgmElement.CharacterOrientation, w =>
-        {
-            // Only the directions count; their y runs up.
-            Direction(w, map.Xy / up, -map.Yy / up);
-            Direction(w, map.Xx / across, -map.Yx / across);
-        });
-        Put(_body, CgmElement.RestrictedText, w =>
-        {
-            w.Length(Math.Max(1, Round(width)));
-            w.Length(Math.Max(1, Round(cap * up)));
-            Point(w, map.Point(0, 0));
-            w.Enumeration(1, "FINAL");
-            w.String(text);
-        });
-    }
+        _put(new TextFontIndex { Index = font + 1 });
+        _put(new TextColour(Direct(color)));
+        _put(new CharacterHeight(Math.Max(1, Round(cap * up))));
 
-    private static void Direction(CgmWriter writer, double x, double y)
-    {
+        // Only the directions and the proportion of the lengths count; their y runs up.
         const int length = 10_000;
-        writer.Integer(Round(x * length));
-        writer.Integer(Round(y * length));
+        double unit = length / Math.Max(up, across);
+        _put(new CharacterOrientation
+        {
+            UpX = Round(unit * map.Xy),
+            UpY = Round(unit * -map.Yy),
+            BaseX = Round(unit * map.Xx),
+            BaseY = Round(unit * -map.Yx),
+        });
+        _put(new RestrictedText
+        {
+            ExtentWidth = Math.Max(1, Round(width)),
+            ExtentHeight = Math.Max(1, Round(cap * up)),
+            Position = Point(map.Point(0, 0)),
+            Content = text,
+        });
     }
 
-    /// <summary>The pixels on the colour of the page, red first, the upper line first.</summary>
-    private byte[] TopDown(PlacedImage image)
+    /// <summary>The pixels on the colour of the page, the upper line first.</summary>
+    private int[] TopDown(PlacedImage image)
     {
         byte[] rows = BottomUp(image);
         int stride = rows.Length / image.Height;
-        byte[] pixels = new byte[image.Width * image.Height * 3];
+        int[] pixels = new int[image.Width * image.Height];
         for (int y = 0; y < image.Height; y++)
         {
             ReadOnlySpan<byte> row = rows.AsSpan((image.Height - 1 - y) * stride, image.Width * 3);
-            Span<byte> target = pixels.AsSpan(y * image.Width * 3, image.Width * 3);
-            for (int x = 0; x < row.Length; x += 3)
+            for (int x = 0; x < image.Width; x++)
             {
-                (target[x], target[x + 1], target[x + 2]) = (row[x + 2], row[x + 1], row[x]);
+                pixels[(y * image.Width) + x] = (0xFF << 24) | (row[(3 * x) + 2] << 16) | (row[(3 * x) + 1] << 8) | row[3 * x];
             }
         }
 
         return pixels;
     }
 
-    private void WriteHead(Stream output)
+    private void WriteHead(Action<Command> put)
     {
-        const int version = 3, drawingPlus = 1;
-        string name = CgmWriter.CanEncode(Name) ? Name : "page";
-        CgmWriter head = NewWriter();
-        Put(head, CgmElement.BeginMetafile, w => w.String(name));
-        Put(head, CgmElement.Version, w => w.Integer(version));
-        Put(head, CgmElement.Description, w => w.String("korvan.cad"));
-        Put(head, CgmElement.VdcType, w => w.Enumeration(0, "INTEGER"));
-        if (_options.Encoding == CgmFileFormat.Binary)
-        {
-            // Reals are of single precision: floating, 9 bits of exponent with the sign, 23 of fraction.
-            Put(head, CgmElement.RealPrecision, w => Array.ForEach([0, 9, 23], w.Integer));
-            Put(head, CgmElement.Elements, w => Array.ForEach([1, -1, drawingPlus], w.Integer));
-        }
-        else
-        {
-            Put(head, CgmElement.Elements, w => w.String("DRAWINGPLUS"));
-        }
-
+        const int version = 3;
+        string name = CanEncode(Name) ? Name : "page";
+        put(new BeginMetafile(name));
+        put(new MetafileVersion(version));
+        put(new MetafileDescription("korvan.cad"));
+        put(new VdcType { Value = VdcType.Type.Integer });
+        put(new RealPrecision { Value = Precision.Floating32 });
+        put(new MetafileElementList { Elements = ["DRAWINGPLUS"] });
         if (_fonts.Count > 0)
         {
-            Put(head, CgmElement.FontList, w => _fonts.ForEach(w.String));
+            put(new FontList { Fonts = _fonts });
         }
 
-        WritePictureHead(head, name);
-        head.CopyTo(output);
+        WritePictureHead(put, name);
     }
 
-    private void WritePictureHead(CgmWriter head, string name)
+    private void WritePictureHead(Action<Command> put, string name)
     {
-        Put(head, CgmElement.BeginPicture, w => w.String(name));
-        Put(head, CgmElement.ScaleMode, w =>
+        put(new BeginPicture(name));
+        put(new ScalingMode { Value = ScalingMode.Mode.Metric, MetricScaleFactor = MillimetresPerPoint / _unitsPerPoint });
+        put(new ColourSelectionMode { Value = ColourSelectionMode.Type.Direct });
+        put(new LineWidthSpecificationMode { Value = SpecificationMode.Absolute });
+        put(new VdcExtent(new CgmPoint(), new CgmPoint(Round(Width), Round(Height))));
+        put(new BackgroundColour(Direct(Settings.Background)));
+        put(new BeginPictureBody());
+        put(new InteriorStyle { Value = InteriorStyle.Style.Solid });
+        PutLook(put, Settings.Look);
+    }
+
+    private static void PutLook(Action<Command> put, LineLook look)
+    {
+        LineCapIndicator cap = look.Cap switch
         {
-            w.Enumeration(1, "METRIC");
-            w.Real(MillimetresPerPoint / _unitsPerPoint);
-        });
-        Put(head, CgmElement.ColorMode, w => w.Enumeration(1, "DIRECT"));
-        Put(head, CgmElement.LineWidthMode, w => w.Enumeration(0, "ABSTRACT"));
-        Put(head, CgmElement.VdcExtent, w =>
+            LineCaps.Butt => LineCapIndicator.Butt,
+            LineCaps.Square => LineCapIndicator.ProjectingSquare,
+            _ => LineCapIndicator.Round,
+        };
+        JoinIndicator join = look.Join switch
         {
-            w.Point(0, 0);
-            w.Point(Round(Width), Round(Height));
-        });
-        Put(head, CgmElement.Background, w => w.Color(Settings.Background));
-        Put(head, CgmElement.BeginPictureBody);
-        Put(head, CgmElement.InteriorStyle, w => w.Enumeration(1, "SOLID"));
-        Put(head, CgmElement.LineCap, w => Array.ForEach([CapIndex(Settings.Look), SameForDashes], w.Integer));
-        Put(head, CgmElement.LineJoin, w => w.Integer(JoinIndex(Settings.Look)));
+            LineJoins.Miter => JoinIndicator.Mitre,
+            LineJoins.Bevel => JoinIndicator.Bevel,
+            _ => JoinIndicator.Round,
+        };
+        put(new FileFormats.Cgm.Commands.LineCap { Cap = cap });
+        put(new LineJoin { Join = join });
     }
 }
