@@ -11,6 +11,7 @@ from pathlib import Path
 
 import korvan.cad
 from korvan.cad.fileformats.cad import CadImage
+from korvan.cad.fileformats.cgm import CgmFile, CgmFileFormat
 
 ROOT = Path(__file__).resolve().parent.parent.parent
 EXAMPLES = ROOT / "examples"
@@ -68,12 +69,26 @@ class Examples(unittest.TestCase):
             self.assertIn(line, done.stdout)
         self.assertEqual(changed.read_text().count("IFCLABEL('not stated')"), 4)
 
-    def test_the_first_look_at_a_building_model_runs(self) -> None:
-        text = (ROOT / "README.md").read_text(encoding="utf-8").split("## An IFC model")[1]
+    def first_look(self, heading: str) -> str:
+        """Runs the first code below a heading of the README; gives what it prints."""
+        (self.out / "examples").symlink_to(EXAMPLES)
+        (self.out / "build").mkdir()
+        text = (ROOT / "README.md").read_text(encoding="utf-8").split(heading)[1]
         code = re.search(r"```python\n(.*?)```", text, re.DOTALL).group(1)
-        done = run("-c", "import korvan.cad\n" + code, cwd=ROOT)
+        done = run("-c", "import korvan.cad\n" + code, cwd=self.out)
         self.assertEqual(done.returncode, 0, done.stderr)
-        self.assertIn("Gable west W6 Qto_WallBaseQuantities", done.stdout)
+        return done.stdout
+
+    def test_the_first_look_at_a_building_model_runs(self) -> None:
+        self.assertIn("Gable west W6 Qto_WallBaseQuantities", self.first_look("## An IFC model"))
+
+    def test_the_first_look_at_a_metafile_runs(self) -> None:
+        printed = self.first_look("## A metafile")
+        self.assertIn("Gate valve DN 50 Helvetica-Bold (126.0, 12.0)", printed)
+        self.assertIn("7 changes of the fill colour", printed)
+        before = CgmFile.load(str(DRAWINGS / "gate_valve.cgm"))
+        after = CgmFile.load(str(self.out / "build" / "gate_valve.cgm"))
+        self.assertEqual((after.encoding, len(after.commands)), (CgmFileFormat.BINARY, len(before.commands) + 1))
 
     def test_the_tutorial_runs(self) -> None:
         text = (ROOT / "docs" / "tutorial.md").read_text(encoding="utf-8")
