@@ -85,20 +85,20 @@ class Metafiles(unittest.TestCase):
 
     @needs_tools("graph")
     def test_the_files_of_another_plotter_are_the_same_in_each_form(self) -> None:
-        seen = set()
+        titles = ["Title", "0.0", "0.5", "1.0", "1.5", "2.0", "2.5", "3.0", "0", "1", "2", "3", "4", "5"]
         for version in "1", "3":
+            paths = set()
             for encoding in "binary", "clear_text":
                 data = plot("-L", "Title", CGM_MAX_VERSION=version, CGM_ENCODING=encoding)
                 with cad.Image.load(io.BytesIO(data)) as image, cad.Image.load(io.BytesIO(gzip.compress(data))) as packed:
-                    seen.add(tuple(image.get_strings()))
-                    self.assertEqual(list(image.get_strings()), list(packed.get_strings()))
+                    self.assertEqual((list(image.get_strings()), list(packed.get_strings())), (titles, titles))
                     options = SvgOptions()
                     out = io.BytesIO()
                     image.save(out, options)
                     self.assertTrue(options.render_result.is_render_complete, options.render_result.failures)
-                    seen.add(out.getvalue().count(b"<path"))
-        self.assertEqual(len(seen), 2, seen)
-        self.assertIn(("Title", "0.0", "0.5", "1.0", "1.5", "2.0", "2.5", "3.0", "0", "1", "2", "3", "4", "5"), seen)
+                    paths.add(out.getvalue().count(b"<path"))
+            self.assertEqual(len(paths), 1, paths)
+            self.assertGreater(paths.pop(), 50)
 
     @needs_tools("pdftotext", "pdfinfo")
     def test_a_page_has_the_size_and_the_texts_of_its_picture(self) -> None:

@@ -227,13 +227,22 @@ public class MetafileTests
         using MetafilePage page = Of(
             new CellArray
             {
-                FirstCorner = P(10, 90), OppositeCorner = P(50, 50), LineEnd = P(50, 90), CellsPerLine = 2, LineCount = 2,
+                FirstCorner = P(10, 90),
+                OppositeCorner = P(50, 50),
+                LineEnd = P(50, 90),
+                CellsPerLine = 2,
+                LineCount = 2,
                 Cells = [0xFF0000, 0x00FF00, 0x0000FF, 0],
             },
             new TransparentCellColour { IsActive = true, Color = C(Green) },
             new CellArray
             {
-                FirstCorner = P(60, 10), OppositeCorner = P(90, 40), LineEnd = P(60, 40), CellsPerLine = 2, LineCount = 1, Cells = [0xFF0000, 0x00FF00],
+                FirstCorner = P(60, 10),
+                OppositeCorner = P(90, 40),
+                LineEnd = P(60, 40),
+                CellsPerLine = 2,
+                LineCount = 1,
+                Cells = [0xFF0000, 0x00FF00],
             });
         Assert.Equal(Red, page[20, 80]);
         Assert.Equal(Green, page[40, 80]);
@@ -250,8 +259,15 @@ public class MetafileTests
         byte[] t6 = [0b00100110, 0b10100010, 0b11111111, 0b11111110, 0b00000000, 0b00010000, 0b00000001];
         var array = new BeginTileArray
         {
-            Position = P(10, 90), TilesInPathDirection = 2, TilesInLineDirection = 1, CellsPerTileInPathDirection = 8, CellsPerTileInLineDirection = 8,
-            CellSizeInPathDirection = 5, CellSizeInLineDirection = 5, ImageCellsInPathDirection = 16, ImageCellsInLineDirection = 8,
+            Position = P(10, 90),
+            TilesInPathDirection = 2,
+            TilesInLineDirection = 1,
+            CellsPerTileInPathDirection = 8,
+            CellsPerTileInLineDirection = 8,
+            CellSizeInPathDirection = 5,
+            CellSizeInLineDirection = 5,
+            ImageCellsInPathDirection = 16,
+            ImageCellsInLineDirection = 8,
         };
         BitonalTile Tile(CompressionType type, byte[] data) =>
             new() { Compression = type, RowPadding = 8, Background = C(Green), Foreground = C(Red), Data = data };

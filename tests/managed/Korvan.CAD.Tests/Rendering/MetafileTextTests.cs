@@ -100,7 +100,11 @@ public class MetafileTextTests
 
     private static RestrictedText Restricted(string content, double width, double height) => new()
     {
-        Position = P(50, 50), Content = content, ExtentWidth = width, ExtentHeight = height, Final = AppendText.FinalType.Final,
+        Position = P(50, 50),
+        Content = content,
+        ExtentWidth = width,
+        ExtentHeight = height,
+        Final = AppendText.FinalType.Final,
     };
 
     private static (int X0, int Y0, int X1, int Y1) InkOf(params Command[] body)
