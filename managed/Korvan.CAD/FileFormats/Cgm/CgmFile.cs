@@ -11,7 +11,8 @@ using Korvan.CAD.FileFormats.Cgm.Import;
 
 namespace Korvan.CAD.FileFormats.Cgm;
 
-/// <summary>A computer graphics metafile as the list of its commands (ISO/IEC 8632:1999).</summary>
+/// <summary>A computer graphics metafile as the list of its commands (ISO/IEC 8632:1999). Direct colours are sRGB of 8
+/// bits a component, whatever the model and precision of the file.</summary>
 public sealed class CgmFile
 {
     private IReadOnlyList<Message> _messages = [];

@@ -60,15 +60,13 @@ internal sealed class ClearTextScanner(byte[] data)
         return ClearTextToken.End;
     }
 
-    /// <summary>Counts the line of a place from 1; places have to come in order to be found fast.</summary>
+    /// <summary>Tells the line of a place, counted from 1. Only what lies between it and the place asked for before is
+    /// looked at.</summary>
     internal int LineOf(int position)
     {
-        if (position < _countedTo)
-        {
-            (_countedTo, _line) = (0, 1);
-        }
-
-        _line += data.AsSpan(_countedTo, position - _countedTo).Count((byte)'\n');
+        (int start, int end) = (Math.Min(position, _countedTo), Math.Max(position, _countedTo));
+        int lines = data.AsSpan(start, end - start).Count((byte)'\n');
+        _line += position >= _countedTo ? lines : -lines;
         _countedTo = position;
         return _line;
     }

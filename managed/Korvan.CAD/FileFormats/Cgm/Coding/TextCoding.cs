@@ -92,9 +92,13 @@ internal static class TextCoding
 
     private static Encoding Strict(Encoding encoding)
     {
-        return ReferenceEquals(encoding, s_utf8) || ReferenceEquals(encoding, s_utf16)
-            ? encoding
-            : Encoding.GetEncoding(encoding.CodePage, EncoderFallback.ExceptionFallback, DecoderFallback.ReplacementFallback);
+        if (ReferenceEquals(encoding, s_utf8) || ReferenceEquals(encoding, s_utf16))
+        {
+            return encoding;
+        }
+
+        (EncoderFallback refuse, DecoderFallback replace) = (EncoderFallback.ExceptionFallback, DecoderFallback.ReplacementFallback);
+        return CodePagesEncodingProvider.Instance.GetEncoding(encoding.CodePage, refuse, replace) ?? Encoding.GetEncoding(encoding.CodePage, refuse, replace);
     }
 
     private static Encoding Selected(CodingState state)

@@ -88,6 +88,22 @@ public class BinaryWriterTests
         }
     }
 
+    [Theory]
+    [InlineData("B", CharacterSetList.Type.Graphic96, "Łódź é", 6)] // ISO/IEC 8859-2 has each of the letters in a byte
+    [InlineData("4/6", CharacterSetList.Type.Graphic96, "αβγ", 3)]
+    [InlineData("B", CharacterSetList.Type.Graphic96, "αβγ", 12)] // which it has not: UTF-8 between two sequences
+    [InlineData("/I", CharacterSetList.Type.CompleteCode, "αβγ", 6)]
+    [InlineData("/L", CharacterSetList.Type.CompleteCode, "αβγ", 6)]
+    public void Texts_are_written_in_their_character_set(string designation, CharacterSetList.Type type, string text, int bytes)
+    {
+        Command[] commands = [new CharacterSetList { Types = [type], Designations = [designation] }, new BeginPicture(text)];
+        byte[] written = Save(commands, CgmFileFormat.Binary);
+        int padding = (1 + bytes) % 2, end = Hex(End).Length;
+        Assert.Equal(bytes, written[written.Length - end - padding - bytes - 1]);
+        Assert.Equal([text], Load(written).PictureNames);
+        Assert.Equal([text], Load(Save(commands, CgmFileFormat.ClearText)).PictureNames);
+    }
+
     private static Polyline Line(params double[] numbers) =>
         new() { Points = [.. numbers.Chunk(2).Select(pair => new CgmPoint(pair[0], pair[1]))] };
 
