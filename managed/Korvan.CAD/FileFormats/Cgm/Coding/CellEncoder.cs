@@ -102,6 +102,16 @@ internal sealed class CellEncoder
             return;
         }
 
+        if (_format is { IsIndexed: true, Bits: 8 } && line.IndexOfAnyExceptInRange(0, byte.MaxValue) < 0)
+        {
+            foreach (int cell in line)
+            {
+                bits.WriteByte((byte)cell);
+            }
+
+            return;
+        }
+
         foreach (int cell in line)
         {
             WriteColor(bits, cell);

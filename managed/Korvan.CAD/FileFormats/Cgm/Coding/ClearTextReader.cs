@@ -171,7 +171,7 @@ internal sealed class ClearTextReader
         }
 
         string place = MessageLog.Place("line", _scanner.LineOf(start), element.ElementClass, element.ElementId, keyword);
-        throw new ImageLoadException($"'{_name}', {place}: {e.Message}.", e);
+        throw new ImageLoadException($"'{_name}', {place}: {e.Message}.");
     }
 
     private void Note(Severity severity, int start, CommandConstructorArguments element, string keyword, string text)
