@@ -26,12 +26,14 @@ internal sealed class CellEncoder
         _isPlain = format is { Bits: 8, Components: 3 } && state.ColorModel == ColourModel.Model.Rgb && HasPlainExtent(state, format);
     }
 
+    /// <summary>Gets whether runs are worth it: few programs read other cells than packed ones.</summary>
     internal bool IsShorterInRuns
     {
         get
         {
-            long bits = (_integerBits + _format.BitsPerCell) * CountRuns();
-            return bits + (_format.Height * 8L) < _format.BytesPerLine * 8 * _format.Height;
+            const int worth = 8;
+            long bits = ((_integerBits + _format.BitsPerCell) * CountRuns()) + (_format.Height * 8L);
+            return bits * worth < _format.BytesPerLine * 8 * _format.Height;
         }
     }
 
