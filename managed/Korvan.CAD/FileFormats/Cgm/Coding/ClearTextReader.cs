@@ -77,7 +77,8 @@ internal sealed class ClearTextReader
     private static ElementEntry? Find(string keyword, out bool isIncremental)
     {
         ElementEntry? entry = ElementTables.Find(keyword);
-        isIncremental = entry is null && keyword.StartsWith(Incremental, StringComparison.OrdinalIgnoreCase) && s_incremental.Contains(keyword[Incremental.Length..]);
+        isIncremental = entry is null && keyword.StartsWith(Incremental, StringComparison.OrdinalIgnoreCase)
+            && s_incremental.Contains(keyword[Incremental.Length..]);
         return isIncremental ? ElementTables.Find(keyword[Incremental.Length..]) : entry;
     }
 

@@ -296,7 +296,8 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
         double limit = Math.Pow(2, (2 * fractionBits) - 1);
         if (scaled < -limit || scaled >= limit)
         {
-            throw new CgmDataException(FormattableString.Invariant($"the real number {value} does not fit into {fractionBits} bits and {fractionBits} of fraction; REALPREC or VDCREALPREC can give more"));
+            throw new CgmDataException(FormattableString.Invariant(
+                $"the real number {value} does not fit into {fractionBits} bits and {fractionBits} of fraction; REALPREC or VDCREALPREC can give more"));
         }
 
         WriteBits((long)scaled, 2 * fractionBits);
