@@ -69,7 +69,7 @@ public sealed class CgmFile
     /// <param name="filePath">The file; one that exists is replaced.</param>
     /// <param name="format">The encoding.</param>
     /// <exception cref="ImageSaveException">A command cannot be written, or the file cannot.</exception>
-    public void Save(string filePath, CgmFileFormat format) => AtomicFile.Write(filePath, true, stream => Write(stream, format));
+    public void Save(string filePath, CgmFileFormat format) => AtomicFile.Write(filePath, true, stream => Write(stream, format, filePath));
 
     /// <summary>Writes the commands to a stream.</summary>
     /// <param name="stream">The stream; it stays open.</param>
@@ -79,7 +79,7 @@ public sealed class CgmFile
     {
         ArgumentNullException.ThrowIfNull(stream);
         using var content = new MemoryStream();
-        Write(content, format);
+        Write(content, format, "stream");
         content.WriteTo(stream);
     }
 
@@ -101,24 +101,20 @@ public sealed class CgmFile
         return file;
     }
 
-    private void Write(Stream stream, CgmFileFormat format)
+    private void Write(Stream stream, CgmFileFormat format, string name)
     {
         if (Commands.FirstOrDefault() is not BeginMetafile || Commands[^1] is not EndMetafile)
         {
-            throw new ImageSaveException("A metafile begins with BeginMetafile and ends with EndMetafile; the commands do not.");
+            throw new ImageSaveException($"'{name}': a metafile begins with BeginMetafile and ends with EndMetafile; the commands do not.");
         }
 
-        switch (format)
+        Action<Command> write = format switch
         {
-            case CgmFileFormat.Binary:
-                Commands.ForEach(new DefaultBinaryWriter(stream).WriteCommand);
-                break;
-            case CgmFileFormat.ClearText:
-                Commands.ForEach(new DefaultClearTextWriter(stream).WriteCommand);
-                break;
-            default:
-                throw new ArgumentOutOfRangeException(nameof(format), format, "Binary and ClearText are the encodings that can be written.");
-        }
+            CgmFileFormat.Binary => new DefaultBinaryWriter(stream, name).WriteCommand,
+            CgmFileFormat.ClearText => new DefaultClearTextWriter(stream, name).WriteCommand,
+            _ => throw new ArgumentOutOfRangeException(nameof(format), format, "Binary and ClearText are the encodings that can be written."),
+        };
+        Commands.ForEach(write);
     }
 
     private void ReadBinary(byte[] data, string name, bool ignoreErrors)

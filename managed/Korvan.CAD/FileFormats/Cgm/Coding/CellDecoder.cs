@@ -9,8 +9,10 @@ namespace Korvan.CAD.FileFormats.Cgm.Coding;
 internal sealed class CellDecoder(CodingState state, CellFormat format)
 {
     private readonly ColorCoding _colors = new(state, format);
-    private readonly int[]? _bytes = format.Bits <= 8 && format.Components == 3 && state.ColorModel == Commands.ColourModel.Model.Rgb
-        ? ByteTable(new ColorCoding(state, format), format.Bits) : null;
+
+    // What each byte stands for in each part of a colour; for RGB of 8 bits, which most cells are.
+    private readonly int[]? _bytes = format is { Bits: 8, Components: 3 } && state.ColorModel == Commands.ColourModel.Model.Rgb
+        ? ByteTable(new ColorCoding(state, format)) : null;
 
     /// <param name="data">The bytes of the cells.</param>
     /// <param name="skew">1 if they begin at an odd byte of the element.</param>
@@ -34,9 +36,9 @@ internal sealed class CellDecoder(CodingState state, CellFormat format)
         return DecodeRuns(data, skew);
     }
 
-    private static int[] ByteTable(ColorCoding colors, int bits)
+    private static int[] ByteTable(ColorCoding colors)
     {
-        int[] table = new int[1 << bits];
+        int[] table = new int[256];
         for (int i = 0; i < table.Length; i++)
         {
             table[i] = colors.ToArgb([i, i, i]) & 0xFFFFFF;
@@ -49,7 +51,8 @@ internal sealed class CellDecoder(CodingState state, CellFormat format)
     {
         if (there < needed)
         {
-            throw new CgmDataException($"{format.Width} by {format.Height} cells of {format.BitsPerCell} bits take {needed} bytes at least, but {there} are there");
+            throw new CgmDataException(
+                $"{format.Width} by {format.Height} cells of {format.BitsPerCell} bits take {needed} bytes at least, but {there} are there");
         }
     }
 
@@ -79,7 +82,7 @@ internal sealed class CellDecoder(CodingState state, CellFormat format)
                 cells[x] = line[x];
             }
         }
-        else if (_bytes is { Length: 256 } table)
+        else if (_bytes is int[] table)
         {
             for (int x = 0, at = 0; x < cells.Length; x++, at += 3)
             {

@@ -26,12 +26,14 @@ internal sealed class CellEncoder
         _isPlain = format is { Bits: 8, Components: 3 } && state.ColorModel == ColourModel.Model.Rgb && HasPlainExtent(state, format);
     }
 
+    /// <summary>Gets whether runs are worth it: few programs read other cells than packed ones.</summary>
     internal bool IsShorterInRuns
     {
         get
         {
-            long bits = (_integerBits + _format.BitsPerCell) * CountRuns();
-            return bits + (_format.Height * 8L) < _format.BytesPerLine * 8 * _format.Height;
+            const int worth = 8;
+            long bits = ((_integerBits + _format.BitsPerCell) * CountRuns()) + (_format.Height * 8L);
+            return bits * worth < _format.BytesPerLine * 8 * _format.Height;
         }
     }
 
@@ -96,6 +98,16 @@ internal sealed class CellEncoder
             {
                 bits.WriteByte((byte)(cell >> 16));
                 bits.WriteByte((byte)(cell >> 8));
+                bits.WriteByte((byte)cell);
+            }
+
+            return;
+        }
+
+        if (_format is { IsIndexed: true, Bits: 8 } && line.IndexOfAnyExceptInRange(0, byte.MaxValue) < 0)
+        {
+            foreach (int cell in line)
+            {
                 bits.WriteByte((byte)cell);
             }
 

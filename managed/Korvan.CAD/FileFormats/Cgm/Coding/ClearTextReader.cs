@@ -77,7 +77,8 @@ internal sealed class ClearTextReader
     private static ElementEntry? Find(string keyword, out bool isIncremental)
     {
         ElementEntry? entry = ElementTables.Find(keyword);
-        isIncremental = entry is null && keyword.StartsWith(Incremental, StringComparison.OrdinalIgnoreCase) && s_incremental.Contains(keyword[Incremental.Length..]);
+        isIncremental = entry is null && keyword.StartsWith(Incremental, StringComparison.OrdinalIgnoreCase)
+            && s_incremental.Contains(keyword[Incremental.Length..]);
         return isIncremental ? ElementTables.Find(keyword[Incremental.Length..]) : entry;
     }
 
@@ -171,7 +172,7 @@ internal sealed class ClearTextReader
         }
 
         string place = MessageLog.Place("line", _scanner.LineOf(start), element.ElementClass, element.ElementId, keyword);
-        throw new ImageLoadException($"'{_name}', {place}: {e.Message}.", e);
+        throw new ImageLoadException($"'{_name}', {place}: {e.Message}.");
     }
 
     private void Note(Severity severity, int start, CommandConstructorArguments element, string keyword, string text)

@@ -113,7 +113,8 @@ internal sealed class ClearTextReading(ClearTextScanner scanner, CodingState sta
     {
         (double lowest, double highest) = (scanner.ReadReal(), scanner.ReadReal());
         int bits = Array.Find(s_precisions, one => lowest >= NumberRange.Signed(one).Lowest && highest <= NumberRange.Signed(one).Highest);
-        return bits == 0 ? throw new CgmDataException(string.Create(CultureInfo.InvariantCulture, $"numbers from {lowest} to {highest} take more than 32 bits")) : bits;
+        return bits > 0 ? bits : throw new CgmDataException(
+            string.Create(CultureInfo.InvariantCulture, $"numbers from {lowest} to {highest} take more than 32 bits"));
     }
 
     internal override int UnsignedBits(int value) => FindBits(s_precisions);
@@ -161,7 +162,8 @@ internal sealed class ClearTextReading(ClearTextScanner scanner, CodingState sta
     {
         double highest = scanner.ReadReal();
         int at = Array.FindIndex(choices, one => highest <= NumberRange.Unsigned(one).Highest);
-        return at < 0 ? throw new CgmDataException(string.Create(CultureInfo.InvariantCulture, $"numbers up to {highest} take more than 32 bits")) : choices[at];
+        return at >= 0 ? choices[at] : throw new CgmDataException(
+            string.Create(CultureInfo.InvariantCulture, $"numbers up to {highest} take more than 32 bits"));
     }
 
     private long Whole(long lowest, long highest)

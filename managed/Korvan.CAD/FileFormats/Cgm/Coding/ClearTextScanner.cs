@@ -20,8 +20,6 @@ internal enum ClearTextToken
 /// </summary>
 internal sealed class ClearTextScanner(byte[] data)
 {
-    private const int LongestNumber = 400;
-
     // 1: parts words; 2: ends an element; 3: begins a text or a comment.
     private static readonly byte[] s_kinds = Kinds();
 
@@ -76,8 +74,15 @@ internal sealed class ClearTextScanner(byte[] data)
     internal long ReadInteger()
     {
         ReadOnlySpan<byte> word = TakeWord();
-        return TryParse(word, out long value) ? value
-            : double.TryParse(word, NumberStyles.Float, CultureInfo.InvariantCulture, out double real) && real == Math.Floor(real) && Math.Abs(real) < long.MaxValue ? (long)real
+        if (TryParse(word, out long value))
+        {
+            return value;
+        }
+
+        // "1E3" is whole, too.
+        bool isNumber = double.TryParse(word, NumberStyles.Float, CultureInfo.InvariantCulture, out double real);
+        return isNumber && real == Math.Floor(real) && Math.Abs(real) < long.MaxValue
+            ? (long)real
             : throw new CgmDataException($"'{Shown(word)}' is no whole number");
     }
 
@@ -225,7 +230,7 @@ internal sealed class ClearTextScanner(byte[] data)
             return word;
         }
 
-        byte[] clean = word.Length > LongestNumber ? throw new CgmDataException($"'{Shown(word)}' is too long for a word") : new byte[word.Length];
+        byte[] clean = new byte[word.Length];
         int count = 0;
         foreach (byte letter in word)
         {

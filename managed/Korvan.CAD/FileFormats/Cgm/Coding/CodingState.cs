@@ -10,7 +10,7 @@ namespace Korvan.CAD.FileFormats.Cgm.Coding;
 /// </summary>
 internal sealed class CodingState
 {
-    internal const long MostRunCells = 1 << 28;
+    internal const long MostRunCells = 1 << 27;
 
     /// <summary>Gets or sets how many more cells runs may make.</summary>
     internal long RunCellsLeft { get; set; } = MostRunCells;

@@ -23,7 +23,8 @@ internal static class NumberRange
     {
         return value == Math.Floor(value) && value is >= int.MinValue and <= int.MaxValue
             ? (int)value
-            : throw new CgmDataException(string.Create(CultureInfo.InvariantCulture, $"the coordinate {value} is not whole or too large, while VDCTYPE says INTEGER"));
+            : throw new CgmDataException(string.Create(
+                CultureInfo.InvariantCulture, $"the coordinate {value} is not whole or too large, while VDCTYPE says INTEGER"));
     }
 
     internal static double Finite(double value) =>

@@ -23,6 +23,7 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
     private const int MorePartsFlag = 0x8000;
 
     private readonly Stream _stream;
+    private readonly string _name;
     private readonly bool _isInner;
     private readonly ArrayBufferWriter<byte> _parameters = new();
     private readonly ArrayBufferWriter<byte> _element = new();
@@ -31,14 +32,20 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
     /// <summary>Creates a writer to a stream.</summary>
     /// <param name="stream">The stream; it stays open.</param>
     public DefaultBinaryWriter(Stream stream)
-        : this(stream, new CodingState(), false)
+        : this(stream, (stream as FileStream)?.Name ?? "stream")
+    {
+    }
+
+    internal DefaultBinaryWriter(Stream stream, string name)
+        : this(stream, name, new CodingState(), false)
     {
         ArgumentNullException.ThrowIfNull(stream);
     }
 
-    private DefaultBinaryWriter(Stream stream, CodingState state, bool isInner)
+    private DefaultBinaryWriter(Stream stream, string name, CodingState state, bool isInner)
     {
         _stream = stream;
+        _name = name;
         _isInner = isInner;
         State = state;
         Exchange = new BinaryWriting(this, state);
@@ -67,7 +74,7 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
         {
             State.ReplacesDefaults &= _isInner;
             string place = MessageLog.Place("command", _count, command.ElementClass, command.ElementId);
-            throw new ImageSaveException($"{place}: {e.Message}.", e);
+            throw new ImageSaveException($"'{_name}', {place}: {e.Message}.");
         }
 
         WriteElement(((int)command.ElementClass << 12) | (command.ElementId << 5));
@@ -180,7 +187,7 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
     public void WriteStructuredData(StructuredDataRecord value)
     {
         ArgumentNullException.ThrowIfNull(value);
-        var inner = new DefaultBinaryWriter(_stream, State, true);
+        var inner = new DefaultBinaryWriter(_stream, _name, State, true);
         StructuredDataCoding.Write(inner.Exchange, value);
         WriteData(inner._parameters.WrittenSpan.ToArray());
     }
@@ -197,7 +204,7 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
         }
 
         var content = new MemoryStream();
-        var inner = new DefaultBinaryWriter(content, State, true);
+        var inner = new DefaultBinaryWriter(content, _name, State, true);
         commands.ForEach(inner.WriteCommand);
         WriteBytes(content.ToArray());
     }
@@ -289,7 +296,8 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
         double limit = Math.Pow(2, (2 * fractionBits) - 1);
         if (scaled < -limit || scaled >= limit)
         {
-            throw new CgmDataException(FormattableString.Invariant($"the real number {value} does not fit into {fractionBits} bits and {fractionBits} of fraction; REALPREC or VDCREALPREC can give more"));
+            throw new CgmDataException(FormattableString.Invariant(
+                $"the real number {value} does not fit into {fractionBits} bits and {fractionBits} of fraction; REALPREC or VDCREALPREC can give more"));
         }
 
         WriteBits((long)scaled, 2 * fractionBits);

@@ -20,6 +20,7 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
     private const int LongestLine = 80;
 
     private readonly Stream _stream;
+    private readonly string _name;
     private readonly bool _breaksLines;
     private readonly ArrayBufferWriter<byte> _text = new();
     private int _column;
@@ -29,14 +30,20 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
     /// <summary>Creates a writer to a stream.</summary>
     /// <param name="stream">The stream; it stays open.</param>
     public DefaultClearTextWriter(Stream stream)
-        : this(stream, new CodingState(), true)
+        : this(stream, (stream as FileStream)?.Name ?? "stream")
+    {
+    }
+
+    internal DefaultClearTextWriter(Stream stream, string name)
+        : this(stream, name, new CodingState(), true)
     {
         ArgumentNullException.ThrowIfNull(stream);
     }
 
-    private DefaultClearTextWriter(Stream stream, CodingState state, bool breaksLines)
+    private DefaultClearTextWriter(Stream stream, string name, CodingState state, bool breaksLines)
     {
         _stream = stream;
+        _name = name;
         _breaksLines = breaksLines;
         State = state;
         Exchange = new ClearTextWriting(this, state);
@@ -63,7 +70,7 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
         {
             (State.ReplacesDefaults, _isInner) = (false, false);
             string place = MessageLog.Place("command", _count, command.ElementClass, command.ElementId);
-            throw new ImageSaveException($"{place}: {e.Message}.", e);
+            throw new ImageSaveException($"'{_name}', {place}: {e.Message}.");
         }
 
         _stream.Write(_text.WrittenSpan);
@@ -136,7 +143,7 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
     public void WriteStructuredData(StructuredDataRecord value)
     {
         ArgumentNullException.ThrowIfNull(value);
-        var inner = new DefaultClearTextWriter(_stream, State, false);
+        var inner = new DefaultClearTextWriter(_stream, _name, State, false);
         StructuredDataCoding.Write(inner.Exchange, value);
         PutText(inner._text.WrittenSpan, (byte)'"');
     }

@@ -10,7 +10,7 @@ namespace Korvan.CAD.FileFormats.Cgm.Import;
 /// <summary>Tells metafiles and their encodings by their first bytes, and unpacks those that gzip packed.</summary>
 internal static class CgmSource
 {
-    private const int LargestPacked = 1 << 30;
+    private const int LargestPacked = 1 << 29;
     private const int BeginMetafileWord = ((int)ClassCode.DelimiterElement << 12) | ((int)DelimiterElement.BeginMetafile << 5);
     private const int LengthBits = 0x1F;
     private const int LongForm = 31;

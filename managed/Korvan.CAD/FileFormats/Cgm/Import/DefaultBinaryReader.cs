@@ -216,7 +216,7 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
         if (!IgnoreErrors)
         {
             string place = MessageLog.Place(Unit, _elements.Start, (ClassCode)_elements.Class, _elements.Id);
-            throw new ImageLoadException($"'{_name}', {place}: {e.Message}.", e);
+            throw new ImageLoadException($"'{_name}', {place}: {e.Message}.");
         }
 
         Note(Severity.Error, e.Message);

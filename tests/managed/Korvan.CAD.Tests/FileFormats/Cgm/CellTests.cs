@@ -53,9 +53,9 @@ public class CellTests
     public void Cells_come_back_at_every_precision_in_both_encodings(int bits, bool isIndexed)
     {
         var random = new Random(bits + (isIndexed ? 100 : 0));
-        foreach ((int width, int height) in new[] { (1, 1), (7, 3), (8, 2), (33, 5) })
+        foreach ((int width, int height) in new[] { (1, 1), (7, 3), (8, 2), (33, 5), (500, 3) })
         {
-            foreach (int longest in new[] { 1, 20 })
+            foreach (int longest in new[] { 1, 2000 })
             {
                 int[] cells = Cells(random, width * height, bits == 0 ? 8 : bits, isIndexed, longest);
                 Command[] commands =
@@ -66,12 +66,22 @@ public class CellTests
                 ];
                 foreach (CgmFileFormat format in new[] { CgmFileFormat.Binary, CgmFileFormat.ClearText })
                 {
-                    List<Command> read = Load(Save(commands, format)).Commands;
+                    byte[] data = Save(commands, format);
+                    List<Command> read = Load(data).Commands;
                     Assert.Equal(cells, read.OfType<CellArray>().Single().Cells);
                     Assert.Equal(cells, read.OfType<PatternTable>().Single().Cells);
                 }
             }
         }
+    }
+
+    [Fact]
+    public void Long_runs_are_written_as_runs_and_others_packed()
+    {
+        byte[] one = Save([new CellArray { CellsPerLine = 4, LineCount = 2, Cells = [7, 7, 7, 7, 7, 7, 7, 7] }], CgmFileFormat.Binary);
+        Assert.EndsWith("0001" + "07070707" + "07070707" + End, Convert.ToHexString(one));
+        byte[] many = Save([new CellArray { CellsPerLine = 100, LineCount = 2, Cells = [.. Enumerable.Repeat(7, 150), .. Enumerable.Repeat(9, 50)] }], CgmFileFormat.Binary);
+        Assert.EndsWith("0000" + "006407" + "00" + "003207" + "003209" + End, Convert.ToHexString(many));
     }
 
     [Fact]

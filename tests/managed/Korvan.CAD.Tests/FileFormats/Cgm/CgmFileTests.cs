@@ -91,7 +91,7 @@ public sealed class CgmFileTests : IDisposable
         File.WriteAllText(path, "old");
         var file = new CgmFile();
         file.Commands.AddRange([new BeginMetafile("t"), new Polyline { Points = [new(1e9, 0)] }, new EndMetafile()]);
-        Assert.Throws<ImageSaveException>(() => file.Save(path, CgmFileFormat.Binary));
+        Assert.StartsWith($"'{path}', command 1, LINE (4, 1): ", Assert.Throws<ImageSaveException>(() => file.Save(path, CgmFileFormat.Binary)).Message);
         var stream = new MemoryStream();
         Assert.Throws<ImageSaveException>(() => file.Save(stream, CgmFileFormat.Binary));
         file.Commands.RemoveRange(1, 2);
