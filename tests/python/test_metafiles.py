@@ -16,8 +16,11 @@ from korvan import cad
 from korvan.cad.fileformats.cgm import CgmFile, CgmFileFormat, CgmImage
 from korvan.cad.fileformats.cgm.classes import CgmColor, CgmPoint, StructuredDataRecord
 from korvan.cad.fileformats.cgm.commands import (
+    BeginMetafile,
+    BeginPicture,
     BeginPictureBody,
     Command,
+    EndMetafile,
     EndPicture,
     FillColour,
     InteriorStyle,
@@ -28,7 +31,7 @@ from korvan.cad.fileformats.cgm.commands import (
 )
 from korvan.cad.fileformats.cgm.elements import DelimiterElement, DelimiterElements
 from korvan.cad.fileformats.cgm.enums import ClassCode, Severity
-from korvan.cad.fileformats.cgm.export import DefaultBinaryWriter
+from korvan.cad.fileformats.cgm.export import DefaultBinaryWriter, DefaultClearTextWriter
 from korvan.cad.imageoptions import CadRasterizationOptions, CgmOptions, PdfOptions, PngOptions, SvgOptions
 
 READING = importlib.import_module("korvan.cad.fileformats.cgm.import")
@@ -142,6 +145,15 @@ class Metafiles(unittest.TestCase):
             read.append(command)
         self.assertEqual([type(c) for c in read], [type(c) for c in CgmFile.load(str(VALVE)).commands])
         self.assertTrue(isinstance(reader.command_factory, READING.ICommandFactory))
+        line = bytes.fromhex("4028 0001 0002 0003 0004")
+        with READING.DefaultBinaryReader(io.BytesIO(bytes.fromhex("0022 0174") + line + bytes.fromhex("0040"))) as short:
+            self.assertEqual(short.read_command().identifier, "t")
+            command = short.read_command()
+            self.assertEqual((type(short.read_command()), short.read_command()), (EndMetafile, None))
+        for kind, expected in ((DefaultBinaryWriter, line), (DefaultClearTextWriter, b"LINE (1,2) (3,4);\n")):
+            stream = io.BytesIO()
+            kind(stream).write_command(command)
+            self.assertEqual(stream.getvalue(), expected)
         begin = DelimiterElements.create_command(DelimiterElement.BEGIN_PICTURE)
         self.assertEqual((begin.keyword, begin.element_class, begin.element_id), ("BEGPIC", ClassCode.DELIMITER_ELEMENT, 3))
 
@@ -157,6 +169,16 @@ class Metafiles(unittest.TestCase):
             self.assertEqual([(m.severity, m.position) for m in messages], [(Severity.ERROR, line)])
             self.assertEqual(len(options.errors), 1)
             self.assertEqual(len(image.get_strings()), 6)
+
+    def test_a_number_that_its_precision_cannot_hold_is_refused_by_place(self) -> None:
+        file = CgmFile()
+        line = Polyline()
+        line.points = [CgmPoint(40_000.0, 0.0)]
+        file.commands.extend([BeginMetafile("t"), BeginPicture("p"), BeginPictureBody(), line, EndPicture(), EndMetafile()])
+        path = self.folder / "wide.cgm"
+        with self.assertRaisesRegex(RuntimeError, r"command 3, LINE \(4, 1\): the number 40000 does not fit"):
+            file.save(str(path), CgmFileFormat.BINARY)
+        self.assertFalse(path.exists())
 
     def test_values_of_data_records_have_their_types(self) -> None:
         member = StructuredDataRecord.Member(StructuredDataRecord.StructuredDataType.TEXT, ["a", "b"])

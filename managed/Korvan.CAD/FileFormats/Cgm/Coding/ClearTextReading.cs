@@ -44,7 +44,19 @@ internal sealed class ClearTextReading(ClearTextScanner scanner, CodingState sta
     {
         string word = scanner.ReadWord();
         int number = Array.FindIndex(words, one => one.Equals(word, StringComparison.OrdinalIgnoreCase));
+        number = number >= 0 ? number : FindAlike(words, word);
         return number >= 0 ? number : throw new CgmDataException($"'{word}' is none of {string.Join(", ", words)}");
+    }
+
+    /// <summary>Writers shorten and lengthen words: one that begins another, or that another begins, stands for it, as long
+    /// as it does for no other.</summary>
+    private static int FindAlike(string[] words, string word)
+    {
+        const int shortest = 3;
+        bool IsAlike(string one) => Math.Min(one.Length, word.Length) >= shortest
+            && (one.StartsWith(word, StringComparison.OrdinalIgnoreCase) || word.StartsWith(one, StringComparison.OrdinalIgnoreCase));
+        int first = Array.FindIndex(words, IsAlike);
+        return first >= 0 && Array.FindLastIndex(words, IsAlike) == first ? first : -1;
     }
 
     internal override double Real(double value) => scanner.ReadReal();

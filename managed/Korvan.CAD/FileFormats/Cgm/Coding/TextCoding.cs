@@ -2,12 +2,14 @@ using System;
 using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
+using System.Text.Unicode;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
 
 /// <summary>
 /// Leads from the bytes of texts to letters and back. The set of characters that the metafile has selected counts;
-/// sequences of ISO/IEC 2022 inside of a text lead to Unicode and back. Without either, bytes are Latin-1.
+/// sequences of ISO/IEC 2022 inside of a text lead to Unicode and back. Without either, bytes are Latin-1, unless they are
+/// UTF-8.
 /// </summary>
 internal static class TextCoding
 {
@@ -30,7 +32,7 @@ internal static class TextCoding
         Encoding selected = Selected(state);
         if (selected is UnicodeEncoding || bytes.IndexOf(Escape) < 0)
         {
-            return Decode(bytes, selected);
+            return Decode(bytes, IsUtf8Unsaid(bytes, state) ? s_utf8 : selected);
         }
 
         var text = new StringBuilder();
@@ -51,13 +53,18 @@ internal static class TextCoding
         Encoding selected = Selected(state);
         try
         {
-            return Strict(selected).GetBytes(text);
+            byte[] bytes = Strict(selected).GetBytes(text);
+            return IsUtf8Unsaid(bytes, state) ? EncodeAsUnicode(text) : bytes;
         }
         catch (EncoderFallbackException)
         {
             return EncodeAsUnicode(text);
         }
     }
+
+    // Programs of today write UTF-8 and select nothing. Hardly a Latin-1 text is UTF-8 by chance.
+    private static bool IsUtf8Unsaid(ReadOnlySpan<byte> bytes, CodingState state) =>
+        state.CharacterSets.Count == 0 && !Ascii.IsValid(bytes) && Utf8.IsValid(bytes);
 
     // Some programs write the columns and rows of the code table, as in "4/2" for B.
     private static string FromColumnsAndRows(string text)

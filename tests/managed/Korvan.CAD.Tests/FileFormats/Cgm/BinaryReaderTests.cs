@@ -54,6 +54,8 @@ public class BinaryReaderTests
 
     [Theory]
     [InlineData("", "", "68 E9 6C", "hél")]
+    [InlineData("", "", "E4", "ä")] // Latin-1
+    [InlineData("", "", "CEB1", "α")] // UTF-8 that nothing has selected
     [InlineData("", "", "61 1B2547 CEB1 1B2540 E9", "aαé")] // to UTF-8 and back inside of a text
     [InlineData("", "", "1B252F4A 03B1", "α")] // to UTF-16
     [InlineData("11C4 0004 0147", "", "CEB1", "α")] // a complete code, "G": UTF-8

@@ -104,6 +104,16 @@ public class BinaryWriterTests
         Assert.Equal([text], Load(Save(commands, CgmFileFormat.ClearText)).PictureNames);
     }
 
+    [Fact]
+    public void Latin_texts_that_would_pass_for_utf8_are_written_so_that_they_do_not()
+    {
+        foreach (string text in new[] { "é", "Ã¤", "日本" })
+        {
+            Assert.Equal([text], Load(Save([new BeginPicture(text)], CgmFileFormat.Binary)).PictureNames);
+            Assert.Equal([text], Load(Save([new BeginPicture(text)], CgmFileFormat.ClearText)).PictureNames);
+        }
+    }
+
     private static Polyline Line(params double[] numbers) =>
         new() { Points = [.. numbers.Chunk(2).Select(pair => new CgmPoint(pair[0], pair[1]))] };
 

@@ -41,6 +41,15 @@ public class ClearTextTests
         Assert.Equal(PolygonSet.EdgeFlag.CloseVisible, set.Flags[^1]);
     }
 
+    [Fact]
+    public void Words_that_writers_shorten_are_understood_where_they_are_one_alone()
+    {
+        var flags = Assert.IsType<AspectSourceFlags>(Elements("ASF LINETYPE INDIV TEXTFONT BNDLD;").Single());
+        Assert.Equal(AspectSourceFlags.ASFType.TextFontIndex, flags.Infos[1].Type);
+        Assert.Equal(InteriorStyle.Style.Pattern, Assert.IsType<InteriorStyle>(Elements("INTSTYLE PATTERN;").Single()).Value);
+        Assert.Throws<ImageLoadException>(() => Elements("TEXTALIGN NORMHORIZ NORM 0 0; VDCTYPE RE;"));
+    }
+
     [Theory]
     [InlineData("'it''s'", "it's")]
     [InlineData("\"it's\"", "it's")]
