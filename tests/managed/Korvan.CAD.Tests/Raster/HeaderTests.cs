@@ -31,6 +31,7 @@ public class HeaderTests
         ["no padding at the end", Bmp(1, 2, 24, 0, [0, 0, 255, 0, 0, 255, 0]), new[] { Green, Red }],
         ["five bits each", Bmp(2, 1, 16, 0, [0x00, 0x7C, 0xE0, 0x03]), new[] { Red, Green }],
         ["masks of 565", Bmp(2, 1, 16, 3, [.. Masks(0xF800, 0x07E0, 0x1F), 0x00, 0xF8, 0xE0, 0x07]), new[] { Red, Green }],
+        ["levels of 32", Bmp(2, 1, 16, 0, [22, 0, 28, 0]), new[] { Samples.Rgb(0, 0, 181), Samples.Rgb(0, 0, 230) }],
         ["masks of 444", Bmp(2, 1, 16, 3, [.. Masks(0xF00, 0xF0, 0xF), 0x80, 0x08, 0x0F, 0x00]), new[] { Samples.Rgb(136, 136, 0), Blue }],
         ["masks the other way round", Bmp(1, 1, 32, 3, [.. Masks(0xFF, 0xFF00, 0xFF0000), 255, 0, 0, 0]), new[] { Red }],
         ["masks of ten bits", Bmp(1, 1, 32, 3, [.. Masks(0x3FF00000, 0xFFC00, 0x3FF), 0, 0, 0xF0, 0x3F]), new[] { Red }],
@@ -145,6 +146,8 @@ public class HeaderTests
         ("head.j2k", typeof(Jpeg2000Exception), "", () => [0xFF, 0x4F, 0xFF, 0x51, 0, 41]),
         ("head.jp2", typeof(Jpeg2000Exception), "", () => Saved(new Jpeg2000Options())[..60]),
         ("head.webp", typeof(ImageLoadException), "", () => [.. "RIFF"u8, 12, 0, 0, 0, .. "WEBPVP8L"u8, 0, 0, 0, 0]),
+        ("animation.webp", typeof(ImageLoadException), "animated",
+            () => [.. "RIFF"u8, 40, 0, 0, 0, .. "WEBPVP8X"u8, 10, 0, 0, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, .. "ANIM"u8, 6, 0, 0, 0, 0, 0, 0, 0, 0, 0]),
         ("cut.dcm", typeof(ImageLoadException), "", () => Saved(new DicomOptions())[..200]),
         ("pixels.dcm", typeof(ImageLoadException), "", () => Saved(new DicomOptions())[..^9]),
     ];
