@@ -10,8 +10,8 @@ using Korvan.CAD.FileFormats.Png;
 namespace Korvan.CAD.Raster.Codecs;
 
 /// <summary>
-/// Lays an interlaced PNG of 16 bits a sample out in one pass. Since CVE-2025-65018 was closed (1.6.51, and older ones of
-/// distributions), libpng's reader for memory copies whole rows of each pass over those of the passes before.
+/// Lays an interlaced PNG of 16 bits a sample out in one pass. libpng's reader for memory copies whole rows of each pass
+/// over those of the passes before when it makes 8 bits of 16, as its correction of CVE-2025-65018 does in Debian's 1.6.39.
 /// </summary>
 internal sealed class PngPasses
 {
