@@ -248,7 +248,8 @@ internal sealed class BmpReader
         }
 
         int shift = BitOperations.TrailingZeroCount(mask);
-        return (int)(((ulong)((value & mask) >> shift) * 255) / (mask >> shift));
+        ulong most = mask >> shift;
+        return (int)((((value & mask) >> shift) * 255ul + (most / 2)) / most);
     }
 
     // Many programs leave the fourth byte at 0 and mean opaque pixels.

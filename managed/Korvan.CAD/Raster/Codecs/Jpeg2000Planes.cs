@@ -72,7 +72,7 @@ internal static unsafe class Jpeg2000Planes
         int bits = (int)plane.Precision;
         value += plane.Signed != 0 ? 1L << (bits - 1) : 0;
         long most = (1L << bits) - 1;
-        return (int)(Math.Clamp(value, 0, most) * 255 / most);
+        return (int)(((Math.Clamp(value, 0, most) * 255) + (most / 2)) / most);
     }
 
     private static void Verify(in OpenJpeg.Component plane, RasterSource source)

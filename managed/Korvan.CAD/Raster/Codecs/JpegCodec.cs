@@ -75,8 +75,11 @@ internal static unsafe class JpegCodec
     private static PixelGrid Decompress(
         nint handle, RasterSource source, byte* data, int length, bool inverted, out int bitsPerPixel)
     {
-        int width, height, subsampling, colors;
-        if (TurboJpeg.ReadHeader(handle, data, (nuint)length, &width, &height, &subsampling, &colors) != 0)
+        int width = 0, height = 0, subsampling = 0, colors = -1;
+        int failure = TurboJpeg.ReadHeader(handle, data, (nuint)length, &width, &height, &subsampling, &colors);
+
+        // A way to thin planes out that has no name there is a failure, too, but can be decompressed.
+        if (failure != 0 && (subsampling >= 0 || colors < 0))
         {
             throw new JpegException($"'{source.Name}' is no JPEG that can be read: {TurboJpeg.Error(handle)}.");
         }

@@ -1,9 +1,10 @@
 using System;
+using System.IO;
 using Korvan.CAD.FileFormats.Png;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Turns rows of a PNG into differences (ISO/IEC 15948, clause 9).</summary>
+/// <summary>Turns rows of a PNG into differences, and back (ISO/IEC 15948, clause 9).</summary>
 internal sealed class PngFilters(int rowBytes, int pixelBytes)
 {
     private readonly byte[][] lines = [new byte[rowBytes + 1], new byte[rowBytes + 1]];
@@ -28,6 +29,22 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
 
         (row, above) = (above, row);
         return best;
+    }
+
+    /// <summary>Makes pixels of a filtered row again.</summary>
+    internal static void Undo(PngFilterType filter, Span<byte> row, ReadOnlySpan<byte> above, int pixelBytes)
+    {
+        if (filter is < PngFilterType.None or > PngFilterType.Paeth)
+        {
+            throw new InvalidDataException($"A row has the filter {(int)filter}, which does not exist.");
+        }
+
+        for (int i = 0; i < row.Length; i++)
+        {
+            int left = i >= pixelBytes ? row[i - pixelBytes] : 0;
+            int corner = i >= pixelBytes ? above[i - pixelBytes] : 0;
+            row[i] += (byte)Guess(filter, left, above[i], corner);
+        }
     }
 
     private byte[] Adaptive()
@@ -61,17 +78,18 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
         {
             int left = i >= pixelBytes ? row[i - pixelBytes] : 0;
             int corner = i >= pixelBytes ? above[i - pixelBytes] : 0;
-            int guess = filter switch
-            {
-                PngFilterType.Sub => left,
-                PngFilterType.Up => above[i],
-                PngFilterType.Average => (left + above[i]) / 2,
-                PngFilterType.Paeth => Paeth(left, above[i], corner),
-                _ => 0,
-            };
-            line[i + 1] = (byte)(row[i] - guess);
+            line[i + 1] = (byte)(row[i] - Guess(filter, left, above[i], corner));
         }
     }
+
+    private static int Guess(PngFilterType filter, int left, int up, int corner) => filter switch
+    {
+        PngFilterType.Sub => left,
+        PngFilterType.Up => up,
+        PngFilterType.Average => (left + up) / 2,
+        PngFilterType.Paeth => Paeth(left, up, corner),
+        _ => 0,
+    };
 
     private static int Paeth(int left, int up, int corner)
     {

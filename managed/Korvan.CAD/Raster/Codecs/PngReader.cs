@@ -11,8 +11,6 @@ namespace Korvan.CAD.Raster.Codecs;
 internal static unsafe class PngReader
 {
     /// <summary>Deflate makes at most 1032 bytes of one, each of up to eight pixels.</summary>
-    private const int DepthAt = 24;
-    private const int InterlaceAt = 28;
     private const long MostPixelsPerByte = 1032 * 8;
 
     private const double MetresPerInch = 0.0254;
@@ -46,17 +44,12 @@ internal static unsafe class PngReader
 
     private static PixelGrid Pixels(RasterSource source)
     {
-        // As we call libpng, these come out with wrong pixels; refused until it is known why.
-        if (source.Data.Length > InterlaceAt && source.Data[DepthAt] == 16 && source.Data[InterlaceAt] != 0)
-        {
-            throw new PngImageException($"'{source.Name}' stores 16 bits a sample and is interlaced, which is not read.");
-        }
-
+        byte[] file = PngPasses.Plain(source);
         Png.State image = default;
         image.Version = Png.Version;
-        fixed (byte* data = source.Data)
+        fixed (byte* data = file)
         {
-            if (Png.Begin(&image, data, (nuint)source.Data.Length) == 0)
+            if (Png.Begin(&image, data, (nuint)file.Length) == 0)
             {
                 throw Failure(source, image.Text());
             }

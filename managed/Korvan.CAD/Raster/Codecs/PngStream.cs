@@ -78,10 +78,12 @@ internal static class PngStream
         output.Write(word);
         output.Write(type);
         output.Write(data);
-        uint crc = Crc(Crc(0xffffffff, type), data) ^ 0xffffffff;
-        BinaryPrimitives.WriteUInt32BigEndian(word, crc);
+        BinaryPrimitives.WriteUInt32BigEndian(word, Sum(type, data));
         output.Write(word);
     }
+
+    /// <summary>The check sum of a chunk.</summary>
+    internal static uint Sum(ReadOnlySpan<byte> type, ReadOnlySpan<byte> data) => Crc(Crc(0xffffffff, type), data) ^ 0xffffffff;
 
     private static uint Crc(uint crc, ReadOnlySpan<byte> data)
     {

@@ -186,27 +186,34 @@ internal sealed class PsdReader
     private int UsedChannels() => mode switch
     {
         ColorModes.Rgb => Math.Min(channels, 4),
-        ColorModes.Cmyk => 4,
-        ColorModes.Grayscale => Math.Min(channels, 2),
+        ColorModes.Cmyk => Math.Min(channels, 5),
+        ColorModes.Grayscale or ColorModes.Duotone => Math.Min(channels, 2),
         _ => 1,
     };
 
     private void Combine(byte[][] planes, int[]? palette, Span<int> row)
     {
-        int step = depth == 16 ? 2 : 1;
+        int colors = mode == ColorModes.Cmyk ? 4 : mode == ColorModes.Rgb ? 3 : 1;
         for (int x = 0; x < row.Length; x++)
         {
-            int at = x * step;
+            int opacity = planes.Length > colors ? Sample(planes[colors], x) : 255;
+            int Level(int channel) => PsdMatte.Lift(Sample(planes[channel], x), opacity);
             row[x] = mode switch
             {
-                ColorModes.Bitmap => BitPacking.Value(planes[0], x, 1) == 0 ? -1 : PixelGrid.Opaque,
-                ColorModes.Indexed => palette![planes[0][x]],
-                ColorModes.Rgb => (planes.Length > 3 ? planes[3][at] << 24 : PixelGrid.Opaque)
-                    | (planes[0][at] << 16) | (planes[1][at] << 8) | planes[2][at],
-                ColorModes.Cmyk => CmykColor.FromStored(
-                    ~(planes[0][at] | (planes[1][at] << 8) | (planes[2][at] << 16) | (planes[3][at] << 24))).ToArgb32(),
-                _ => (planes.Length > 1 ? planes[1][at] << 24 : PixelGrid.Opaque) | (planes[0][at] * 0x010101),
+                ColorModes.Bitmap => Sample(planes[0], x) == 0 ? -1 : PixelGrid.Opaque,
+                ColorModes.Indexed => palette![Sample(planes[0], x)],
+                ColorModes.Rgb => (opacity << 24) | (Level(0) << 16) | (Level(1) << 8) | Level(2),
+                ColorModes.Cmyk => (opacity << 24) | (0xFFFFFF & CmykColor.FromStored(
+                    ~(Level(0) | (Level(1) << 8) | (Level(2) << 16) | (Level(3) << 24))).ToArgb32()),
+                _ => (opacity << 24) | (Level(0) * 0x010101),
             };
         }
     }
+
+    private int Sample(byte[] plane, int x) => depth switch
+    {
+        16 => ((BinaryPrimitives.ReadUInt16BigEndian(plane.AsSpan(2 * x)) * 255) + 32767) / 65535,
+        8 => plane[x],
+        _ => BitPacking.Value(plane, x, depth),
+    };
 }

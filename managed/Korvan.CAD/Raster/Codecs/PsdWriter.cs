@@ -66,11 +66,13 @@ internal static class PsdWriter
             ],
             _ =>
             [
-                Plane(pixels, static p => p >> 16), Plane(pixels, static p => p >> 8), Plane(pixels, static p => p),
+                Plane(pixels, static p => Laid(p, 16)), Plane(pixels, static p => Laid(p, 8)), Plane(pixels, static p => Laid(p, 0)),
                 .. alpha ? [Plane(pixels, static p => p >>> 24)] : Array.Empty<byte[]>(),
             ],
         };
     }
+
+    private static int Laid(int pixel, int shift) => PsdMatte.Lay((pixel >> shift) & 255, pixel >>> 24);
 
     private static byte[] Plane(PixelGrid pixels, Func<int, int> sample)
     {

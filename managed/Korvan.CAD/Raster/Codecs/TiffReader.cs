@@ -7,6 +7,7 @@ using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.Exif;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.Raster.Native;
+using Korvan.CAD.Raster.Operations;
 
 namespace Korvan.CAD.Raster.Codecs;
 
@@ -15,6 +16,18 @@ internal static unsafe class TiffReader
 {
     private const int MostPages = 10_000;
     private const int OpaqueBlack = PixelGrid.Opaque;
+
+    // What brings a page upright whose first row and column are stored on another side (TIFF 6.0, field Orientation).
+    private static readonly Dictionary<TiffOrientations, RotateFlipType> Turned = new()
+    {
+        [TiffOrientations.TopRight] = RotateFlipType.RotateNoneFlipX,
+        [TiffOrientations.BottomRight] = RotateFlipType.Rotate180FlipNone,
+        [TiffOrientations.BottomLeft] = RotateFlipType.RotateNoneFlipY,
+        [TiffOrientations.LeftTop] = RotateFlipType.Rotate90FlipX,
+        [TiffOrientations.RightTop] = RotateFlipType.Rotate90FlipNone,
+        [TiffOrientations.RightBottom] = RotateFlipType.Rotate270FlipX,
+        [TiffOrientations.LeftBottom] = RotateFlipType.Rotate270FlipNone,
+    };
 
     internal static DecodedFile Read(RasterSource source)
     {
@@ -56,18 +69,22 @@ internal static unsafe class TiffReader
             throw new LimitMemoryException($"The pages of '{source.Name}' have more than {PixelGrid.MostPixels} pixels in all.");
         }
 
-        VerifyConvertible(tiff, source);
+        var samples = new TiffSamples(tiff.Value);
+        if (!samples.Fits)
+        {
+            VerifyConvertible(tiff, source);
+        }
+
         var pixels = new PixelGrid((int)width, (int)height);
         try
         {
-            bool plain = TiffPlainRows.Fits(tiff.Value, pixels.Width);
-            bool done = plain ? TiffPlainRows.Read(tiff.Value, pixels) : ReadMultiplied(tiff, source, pixels);
+            bool done = samples.Fits ? samples.Read(pixels, source.Lenient) : ReadMultiplied(tiff, source, pixels);
             if (!done && !source.Lenient)
             {
                 throw Damaged(tiff, source);
             }
 
-            return Frame(tiff, pixels);
+            return Frame(tiff, Upright(tiff, pixels));
         }
         catch
         {
@@ -78,12 +95,26 @@ internal static unsafe class TiffReader
 
     private static bool ReadMultiplied(TiffHandle tiff, RasterSource source, PixelGrid pixels)
     {
-        int orientation = (int)TiffOrientations.TopLeft;
+        // Asked for the orientation that the file has, libtiff leaves rows and columns as they are.
+        int orientation = (int)Tiff.GetNumber(tiff.Value, (int)TiffTags.Orientation);
         var raster = (uint*)pixels.Pointer;
         int stop = source.Lenient ? 0 : 1;
         bool done = Tiff.ReadRgba(tiff.Value, (uint)pixels.Width, (uint)pixels.Height, raster, orientation, stop) == 1;
         ToPlain(pixels);
         return done;
+    }
+
+    private static PixelGrid Upright(TiffHandle tiff, PixelGrid pixels)
+    {
+        RotateFlipType turn = Turned.GetValueOrDefault((TiffOrientations)Tiff.GetNumber(tiff.Value, (int)TiffTags.Orientation));
+        if (turn == RotateFlipType.RotateNoneFlipNone)
+        {
+            return pixels;
+        }
+
+        PixelGrid turned = Turns.Turn(pixels, turn);
+        pixels.Dispose();
+        return turned;
     }
 
     private static void VerifyConvertible(TiffHandle tiff, RasterSource source)
@@ -132,12 +163,15 @@ internal static unsafe class TiffReader
         };
         uint bits = Tiff.GetNumber(tiff.Value, (int)TiffTags.BitsPerSample);
         uint samples = Tiff.GetNumber(tiff.Value, (int)TiffTags.SamplesPerPixel);
+        double x = Resolution(tiff, TiffTags.XResolution) * per;
+        double y = Resolution(tiff, TiffTags.YResolution) * per;
+        bool swapped = Tiff.GetNumber(tiff.Value, (int)TiffTags.Orientation) is >= (uint)TiffOrientations.LeftTop and <= (uint)TiffOrientations.LeftBottom;
         return new DecodedFrame
         {
             Pixels = pixels,
             BitsPerPixel = (int)Math.Min(bits * samples, 1024),
-            HorizontalResolution = Resolution(tiff, TiffTags.XResolution) * per,
-            VerticalResolution = Resolution(tiff, TiffTags.YResolution) * per,
+            HorizontalResolution = swapped ? y : x,
+            VerticalResolution = swapped ? x : y,
             Title = Tiff.GetText(tiff.Value, (int)TiffTags.PageName),
         };
     }

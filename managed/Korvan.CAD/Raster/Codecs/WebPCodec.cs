@@ -49,6 +49,11 @@ internal static unsafe class WebPCodec
                 throw new ImageLoadException($"'{source.Name}' is no WebP with one picture that can be read.");
             }
 
+            if (IsAnimation(source.Data))
+            {
+                throw new ImageLoadException($"'{source.Name}' is an animated WebP, which is not read.");
+            }
+
             var pixels = new PixelGrid(width, height);
             if (WebP.DecodeBgra(data, (nuint)source.Data.Length, pixels.Pointer, (nuint)(pixels.Count * 4), width * 4) == null)
             {
@@ -59,4 +64,7 @@ internal static unsafe class WebPCodec
             return new DecodedFile { Format = FileFormat.Webp, Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = 32 }] };
         }
     }
+
+    // A flag of the extended head (RFC 9649, section 2.7).
+    private static bool IsAnimation(ReadOnlySpan<byte> data) => data.Length > 20 && data[12..].StartsWith("VP8X"u8) && (data[20] & 2) != 0;
 }

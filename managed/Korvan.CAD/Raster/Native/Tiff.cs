@@ -62,8 +62,20 @@ internal static unsafe partial class Tiff
     [LibraryImport(Library, EntryPoint = "TIFFReadRGBAImageOriented")]
     internal static partial int ReadRgba(nint tiff, uint width, uint height, uint* raster, int orientation, int stopOnError);
 
-    [LibraryImport(Library, EntryPoint = "TIFFReadScanline")]
-    internal static partial int ReadScanline(nint tiff, byte* row, uint y, ushort sample);
+    [LibraryImport(Library, EntryPoint = "TIFFReadEncodedStrip")]
+    internal static partial nint ReadStrip(nint tiff, uint strip, byte* target, nint size);
+
+    [LibraryImport(Library, EntryPoint = "TIFFReadEncodedTile")]
+    internal static partial nint ReadTile(nint tiff, uint tile, byte* target, nint size);
+
+    [LibraryImport(Library, EntryPoint = "TIFFComputeStrip")]
+    internal static partial uint ComputeStrip(nint tiff, uint y, ushort plane);
+
+    [LibraryImport(Library, EntryPoint = "TIFFComputeTile")]
+    internal static partial uint ComputeTile(nint tiff, uint x, uint y, uint z, ushort plane);
+
+    [LibraryImport(Library, EntryPoint = "TIFFTileRowSize")]
+    internal static partial nint TileRowSize(nint tiff);
 
     [LibraryImport(Library, EntryPoint = "TIFFScanlineSize")]
     internal static partial nint ScanlineSize(nint tiff);
@@ -105,15 +117,44 @@ internal static unsafe partial class Tiff
         return GetField(tiff, (uint)tag, &list) == 1 ? (uint)value : 0;
     }
 
-    /// <summary>Gets what the first sample past the colour means; -1 where there is none.</summary>
-    internal static int FirstExtraSample(nint tiff)
+    /// <summary>Gets what each sample past the colour means.</summary>
+    internal static ushort[] ExtraSamples(nint tiff)
     {
         ulong count = 0;
         ushort* meanings = null;
         nint* places = stackalloc nint[2];
         (places[0], places[1]) = ((nint)(&count), (nint)(&meanings));
         ArgumentList list = ArgumentList.Over(places);
-        return GetField(tiff, (uint)FileFormats.Tiff.Enums.TiffTags.ExtraSamples, &list) == 1 && (ushort)count > 0 ? meanings[0] : -1;
+        bool there = GetField(tiff, (uint)FileFormats.Tiff.Enums.TiffTags.ExtraSamples, &list) == 1;
+        return there ? new ReadOnlySpan<ushort>(meanings, (ushort)count).ToArray() : [];
+    }
+
+    /// <summary>Gets the colours of a palette; entries that all are below 256 are of 8 bits, whatever the format says.</summary>
+    internal static int[] Palette(nint tiff, int count)
+    {
+        nint* tables = stackalloc nint[3];
+        nint* places = stackalloc nint[3];
+        (places[0], places[1], places[2]) = ((nint)tables, (nint)(tables + 1), (nint)(tables + 2));
+        ArgumentList list = ArgumentList.Over(places);
+        var colors = new int[count];
+        if (GetField(tiff, (uint)FileFormats.Tiff.Enums.TiffTags.ColorMap, &list) != 1)
+        {
+            return colors;
+        }
+
+        int all = 0;
+        for (int i = 0; i < 3 * count; i++)
+        {
+            all |= ((ushort*)tables[i % 3])[i / 3];
+        }
+
+        for (int i = 0; i < 3 * count; i++)
+        {
+            int value = ((ushort*)tables[i % 3])[i / 3];
+            colors[i / 3] = (colors[i / 3] << 8) | (all < 256 ? value : ((value * 255) + 32767) / 65535);
+        }
+
+        return colors;
     }
 
     internal static float GetReal(nint tiff, int tag)

@@ -25,6 +25,7 @@ public class CodecMatrixTests
         OnWhite = pixel => Samples.Rgb(Over(pixel, 16), Over(pixel, 8), Over(pixel, 0)),
         Gray = pixel => Level(Luma(OnWhite(pixel)), 255),
         Gray4 = pixel => Level(Luma(OnWhite(pixel)), 15),
+        OffPaper = pixel => (pixel & Samples.Rgb(0, 0, 0)) | (Lifted(pixel, 16) << 16) | (Lifted(pixel, 8) << 8) | Lifted(pixel, 0),
         Bit = pixel => Luma(OnWhite(pixel)) >= 128 ? -1 : Samples.Rgb(0, 0, 0);
 
     private static readonly (string Name, Func<ImageOptionsBase> Options, Func<int, int> Meaning, int Most, string Contents)[] Ways = [.. All()];
@@ -91,7 +92,7 @@ public class CodecMatrixTests
 
         foreach (CompressionMethod method in new[] { CompressionMethod.Raw, CompressionMethod.Rle })
         {
-            yield return ($"psd rgb {method}", () => new PsdOptions { CompressionMethod = method }, Same, 0, "alpha");
+            yield return ($"psd rgb {method}", () => new PsdOptions { CompressionMethod = method }, OffPaper, 1, "alpha");
             yield return ($"psd grey {method}", () => new PsdOptions { CompressionMethod = method, ColorMode = ColorModes.Grayscale }, Gray, 1, "noise");
             yield return ($"psd inks {method}", () => new PsdOptions { CompressionMethod = method, ColorMode = ColorModes.Cmyk }, OnWhite, 1, "alpha");
             yield return ($"psd palette {method}", () => new PsdOptions { CompressionMethod = method, ColorMode = ColorModes.Indexed }, Same, 0, "few 8");
@@ -267,6 +268,10 @@ public class CodecMatrixTests
 
     private static int Over(int pixel, int shift) =>
         (int)Math.Floor(((((pixel >> shift) & 255) * (pixel >>> 24)) + (255.0 * (255 - (pixel >>> 24))) + 127) / 255);
+
+    // What can be told of a colour that was laid on white.
+    private static int Lifted(int pixel, int shift) =>
+        (pixel >>> 24) == 0 ? 255 : (int)Math.Clamp(255 - Math.Round((255 - Over(pixel, shift)) * 255.0 / (pixel >>> 24)), 0, 255);
 
     private static int Luma(int pixel) =>
         (int)Math.Round((0.299 * ((pixel >> 16) & 255)) + (0.587 * ((pixel >> 8) & 255)) + (0.114 * (pixel & 255)));

@@ -1,3 +1,4 @@
+using System;
 using System.IO;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Bitmap;
@@ -27,6 +28,10 @@ public class ReaderTests
     [InlineData("bmp3 -type truecolor", 0)]
     [InlineData("png -interlace PNG", 0)]
     [InlineData("png -depth 16 -strip", 1)]
+    [InlineData("png -interlace PNG -define png:bit-depth=16 -define png:color-type=0 -colorspace Gray", 1)]
+    [InlineData("png -interlace PNG -define png:bit-depth=16 -define png:color-type=2 -define png:compression-filter=5", 1)]
+    [InlineData("png -interlace PNG -define png:bit-depth=16 -define png:color-type=4 -alpha set -transparent yellow", 1)]
+    [InlineData("png -interlace PNG -define png:bit-depth=16 -define png:color-type=6 -alpha set -transparent yellow", 1)]
     [InlineData("png -colors 5 -type palette -transparent yellow", 0)]
     [InlineData("png -type GrayscaleAlpha -alpha set", 1)]
     [InlineData("gif -colors 30", 0)]
@@ -35,6 +40,11 @@ public class ReaderTests
     [InlineData("webp -quality 70", 2)]
     [InlineData("jpg -quality 92", 2)]
     [InlineData("jpg -interlace JPEG -sampling-factor 4:2:2", 2)]
+    [InlineData("jpg -sampling-factor 4x2", 2)]
+    [InlineData("jpg -sampling-factor 1x4 -interlace JPEG", 2)]
+    [InlineData("jpg -sampling-factor 3x1", 2)]
+    [InlineData("jpg -sampling-factor 2x2,2x1,1x1 -quality 85", 2)]
+    [InlineData("jpg -colorspace CMYK -sampling-factor 2x2 -quality 80", 2)]
     [InlineData("jpg -colorspace Gray", 1)]
     [InlineData("jpg -colorspace CMYK -quality 98", 6)]
     [InlineData("jp2 -quality 100", 1)]
@@ -46,6 +56,12 @@ public class ReaderTests
     [InlineData("tiff -interlace plane -alpha set -transparent yellow", 0)]
     [InlineData("tiff -colors 20 -type palette -define tiff:endian=msb", 1)]
     [InlineData("tiff64", 0)]
+    [InlineData("tiff -colorspace Gray -define tiff:tile-geometry=16x16 -depth 16 -compress LZW", 1)]
+    [InlineData("tiff -colorspace Gray -depth 32 -compress Zip", 1)]
+    [InlineData("tiff -depth 32 -interlace plane -compress Zip", 1)]
+    [InlineData("tiff -colorspace CMYK -depth 16 -compress Zip", 1)]
+    [InlineData("tiff -colors 16 -type palette -define tiff:tile-geometry=16x16 -compress None", 1)]
+    [InlineData("psd -alpha off -depth 16 -colorspace CMYK", 1)]
     [InlineData("psd -alpha off", 0)]
     [InlineData("psd -alpha off -compress None -colorspace Gray", 0)]
     public void Pixels_are_those_that_the_writer_meant(string form, int most)
@@ -57,6 +73,59 @@ public class ReaderTests
         Assert.Equal((53, 37), (image.Width, image.Height));
         Assert.InRange(Samples.LargestDifference(image, file, "[0]"), 0, most);
         File.Delete(file);
+    }
+
+    [Theory]
+    [InlineData("-colorspace Gray")]
+    [InlineData("-colorspace Gray -depth 2")]
+    [InlineData("-colorspace Gray -depth 16")]
+    [InlineData("-colorspace Gray -depth 32")]
+    [InlineData("-colorspace CMYK")]
+    [InlineData("-colorspace CMYK -depth 16")]
+    [InlineData("-depth 8")]
+    [InlineData("-depth 16")]
+    [InlineData("-type PaletteAlpha -colors 20")]
+    public void Opacity_of_tiff_pages_is_told_from_colours(string form)
+    {
+        string[] layouts = ["", "-define tiff:tile-geometry=16x32", "-interlace plane", "-define tiff:endian=msb -define tiff:rows-per-strip=5"];
+        foreach (string meaning in new[] { "associated", "unassociated", "unspecified" })
+        {
+            if (meaning == "associated" && form.Contains("Palette", StringComparison.Ordinal))
+            {
+                continue; // nothing can be multiplied into numbers
+            }
+
+            foreach (string layout in layouts)
+            {
+                string file = Tools.TempFile(".tif");
+                string[] fade = ["-alpha", "set", "-channel", "A", "-fx", "(i+j)/90", "+channel"];
+                string words = $"{form} {layout} -compress LZW -define tiff:alpha={meaning}";
+                Tools.Run("convert", [.. Source, .. fade, .. words.Split(' ', StringSplitOptions.RemoveEmptyEntries), file]);
+                using RasterCachedImage image = Samples.Load(file);
+                Assert.True(Samples.LargestDifference(image, file, "[0]") <= 1, words);
+                File.Delete(file);
+            }
+        }
+    }
+
+    [Theory]
+    [InlineData("")]
+    [InlineData("-alpha set -channel A -evaluate set 50% +channel")]
+    [InlineData("-type bilevel -compress Group4")]
+    public void Tiff_pages_come_upright_whichever_corner_they_begin_in(string form)
+    {
+        foreach (string corner in new[] { "TopLeft", "TopRight", "BottomRight", "BottomLeft", "LeftTop", "RightTop", "RightBottom", "LeftBottom" })
+        {
+            string file = Tools.TempFile(".tif");
+            string upright = Tools.TempFile(".png");
+            string[] words = form.Split(' ', StringSplitOptions.RemoveEmptyEntries);
+            Tools.Run("convert", [.. Source, .. words, "-units", "PixelsPerInch", "-density", "72x144", "-orient", corner, file]);
+            Tools.Run("convert", file, "-auto-orient", upright);
+            using RasterCachedImage image = Samples.Load(file);
+            bool swapped = corner[0] is 'L' or 'R';
+            Assert.Equal(swapped ? (37, 53, 144.0, 72.0) : (53, 37, 72, 144), (image.Width, image.Height, image.HorizontalResolution, image.VerticalResolution));
+            Assert.True(Samples.LargestDifference(image, upright) <= 1, corner);
+        }
     }
 
     [Fact]

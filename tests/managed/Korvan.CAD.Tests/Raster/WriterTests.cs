@@ -182,6 +182,9 @@ public class WriterTests
 
         using RasterCachedImage flat = Samples.Load(Samples.Save(image, new TiffOptions(), ".tif"));
         Assert.Equal((255, 255, 85), (flat.GetPixel(0, 0).B, flat.GetPixel(10, 0).A, flat.GetPixel(10, 0).B));
+
+        // Programs that know of no opacity in the merged picture of a PSD see it on white, too.
+        Assert.InRange(Samples.LargestDifference(flat, Samples.Save(image, new PsdOptions(), ".psd"), "[0]"), 0, 1);
         using RasterCachedImage cut = Samples.Load(Samples.Save(image, new GifOptions(), ".gif"));
         Assert.Equal((0, 255), (cut.GetPixel(7, 0).A, cut.GetPixel(8, 0).A));
     }

@@ -1,0 +1,189 @@
+using System;
+using System.Buffers.Binary;
+using System.Linq;
+using System.Runtime.InteropServices;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Tiff.Enums;
+using Korvan.CAD.Raster.Native;
+
+namespace Korvan.CAD.Raster.Codecs;
+
+/// <summary>
+/// Makes pixels of the samples of a page, block by block: strips or tiles, planes beside or behind each other. It serves
+/// pages that libtiff's own conversion refuses, whose opacity it multiplies in, confuses with a colour or forgets, and grey
+/// of 16 bits, of which it mixes up the tiles at the right edge.
+/// </summary>
+internal sealed unsafe class TiffSamples
+{
+    private const int MostSamples = 32;
+    private const int Inks = 1;
+    private const uint Floats = 3;
+    private const int SmallestBuffer = 1024;
+
+    // What the conversion here is for: a photometric interpretation, how many samples make its colour, and how wide they may be.
+    private static readonly (TiffPhotometrics Kind, int Colors, int MostBits)[] Kinds =
+    [
+        (TiffPhotometrics.MinIsWhite, 1, 32), (TiffPhotometrics.MinIsBlack, 1, 32), (TiffPhotometrics.Rgb, 3, 32),
+        (TiffPhotometrics.Palette, 1, 16), (TiffPhotometrics.Separated, 4, 32),
+    ];
+
+    private readonly nint tiff;
+    private readonly int bits;
+    private readonly int samples;
+    private readonly int colors;
+    private readonly int mostBits;
+    private readonly TiffPhotometrics kind;
+    private readonly bool planar;
+    private readonly bool tiled;
+    private readonly int opacityAt = -1;
+    private readonly bool multiplied;
+    private readonly long most;
+    private int[] palette = [];
+
+    internal TiffSamples(nint tiff)
+    {
+        this.tiff = tiff;
+        bits = (int)Number(TiffTags.BitsPerSample);
+        samples = (int)Number(TiffTags.SamplesPerPixel);
+        kind = (TiffPhotometrics)Number(TiffTags.Photometric);
+        (_, colors, mostBits) = Kinds.FirstOrDefault(entry => entry.Kind == kind);
+        planar = Number(TiffTags.PlanarConfig) == 2 && samples > 1;
+        tiled = Tiff.IsTiled(tiff) != 0;
+        most = (1L << Math.Clamp(bits, 1, 32)) - 1;
+
+        // A sample whose meaning is not stated is taken for opacity, as most programs do, unless another states that it is that.
+        ushort[] extra = Tiff.ExtraSamples(tiff);
+        int at = Array.FindIndex(extra, static meaning => meaning != (int)TiffAlphaStorage.Unspecified);
+        if (extra.Length > 0)
+        {
+            opacityAt = colors + Math.Max(at, 0);
+            multiplied = at >= 0 && extra[at] == (int)TiffAlphaStorage.Associated;
+        }
+    }
+
+    /// <summary>Gets whether the page is to be read here.</summary>
+    internal bool Fits => colors > 0 && samples >= colors && samples <= MostSamples && opacityAt < samples
+        && bits is 1 or 2 or 4 or 8 or 16 or 32 && bits <= mostBits && Number(TiffTags.SampleFormat) != Floats
+        && Number(TiffTags.Compression) != (uint)TiffCompressions.OldJpeg
+        && (kind != TiffPhotometrics.Separated || Number(TiffTags.InkSet) == Inks)
+        && (opacityAt >= 0 || bits == 32 || (bits == 16 && kind is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette)) || HasSmallTiles);
+
+    // libtiff's conversion takes the size of its buffer for that of a plain tile, and refuses those that are smaller.
+    private bool HasSmallTiles => tiled && Number(TiffTags.Compression) == (uint)TiffCompressions.None
+        && Tiff.TileRowSize(tiff) * (long)Number(TiffTags.TileLength) < SmallestBuffer;
+
+    /// <summary>Gives whether all blocks could be read; what is missing stays empty, and the first one ends it if it shall.</summary>
+    internal bool Read(PixelGrid pixels, bool lenient)
+    {
+        palette = kind == TiffPhotometrics.Palette ? Tiff.Palette(tiff, 1 << bits) : [];
+        int width = tiled ? (int)Number(TiffTags.TileWidth) : pixels.Width;
+        int height = tiled ? (int)Number(TiffTags.TileLength) : (int)Math.Min(Number(TiffTags.RowsPerStrip), (uint)pixels.Height);
+        nint rowBytes = tiled ? Tiff.TileRowSize(tiff) : Tiff.ScanlineSize(tiff);
+        long needed = (((long)width * bits * (planar ? 1 : samples)) + 7) / 8;
+        if (width < 1 || height < 1 || rowBytes < needed)
+        {
+            return false;
+        }
+
+        if ((long)rowBytes * height > Array.MaxLength)
+        {
+            throw new LimitMemoryException($"A block of {width} × {height} pixels has more than {Array.MaxLength} bytes.");
+        }
+
+        var block = new Block(width, height, (int)rowBytes, [.. Enumerable.Range(0, planar ? samples : 1).Select(_ => new byte[rowBytes * height])]);
+        bool whole = true;
+        for (int top = 0; top < pixels.Height; top += height)
+        {
+            for (int left = 0; left < pixels.Width; left += width)
+            {
+                whole &= Fetch(block, left, top);
+                if (!whole && !lenient)
+                {
+                    return false;
+                }
+
+                Convert(block, pixels, left, top);
+            }
+        }
+
+        return whole;
+    }
+
+    private bool Fetch(Block block, int left, int top)
+    {
+        bool whole = true;
+        for (int plane = 0; plane < block.Planes.Length; plane++)
+        {
+            byte[] data = block.Planes[plane];
+            Array.Clear(data);
+            fixed (byte* start = data)
+            {
+                whole &= tiled
+                    ? Tiff.ReadTile(tiff, Tiff.ComputeTile(tiff, (uint)left, (uint)top, 0, (ushort)plane), start, data.Length) >= 0
+                    : Tiff.ReadStrip(tiff, Tiff.ComputeStrip(tiff, (uint)top, (ushort)plane), start, data.Length) >= 0;
+            }
+        }
+
+        return whole;
+    }
+
+    private void Convert(Block block, PixelGrid pixels, int left, int top)
+    {
+        Span<long> values = stackalloc long[5]; // of the colour, then opacity
+        for (int y = 0; y < Math.Min(block.Height, pixels.Height - top); y++)
+        {
+            Span<int> to = pixels.Row(top + y)[left..];
+            for (int x = 0; x < Math.Min(block.Width, to.Length); x++)
+            {
+                for (int c = 0; c < colors; c++)
+                {
+                    values[c] = Value(block, x, y, c);
+                }
+
+                values[4] = opacityAt < 0 ? most : Value(block, x, y, opacityAt);
+                to[x] = Pixel(values);
+            }
+        }
+    }
+
+    private long Value(Block block, int x, int y, int sample)
+    {
+        ReadOnlySpan<byte> row = block.Planes[planar ? sample : 0].AsSpan(y * block.RowBytes, block.RowBytes);
+        int at = planar ? x : (x * samples) + sample;
+        return bits switch
+        {
+            8 => row[at],
+            16 => MemoryMarshal.Read<ushort>(row[(at * 2)..]), // libtiff gives the byte order of the machine
+            32 => MemoryMarshal.Read<uint>(row[(at * 4)..]),
+            _ => BitPacking.Value(row, at, bits),
+        };
+    }
+
+    private int Pixel(ReadOnlySpan<long> values)
+    {
+        long opacity = values[4];
+        if (multiplied && opacity == 0)
+        {
+            return 0;
+        }
+
+        int Level(long value) => multiplied
+            ? (int)Math.Min(255, ((value * 255) + (opacity / 2)) / opacity)
+            : (int)(((value * 255) + (most / 2)) / most);
+        int color = kind switch
+        {
+            TiffPhotometrics.MinIsWhite => (255 - Level(values[0])) * 0x010101,
+            TiffPhotometrics.MinIsBlack => Level(values[0]) * 0x010101,
+            TiffPhotometrics.Palette => palette[(int)values[0]],
+            TiffPhotometrics.Separated => CmykColor.FromStored(
+                Level(values[0]) | (Level(values[1]) << 8) | (Level(values[2]) << 16) | (Level(values[3]) << 24)).ToArgb32(),
+            _ => (Level(values[0]) << 16) | (Level(values[1]) << 8) | Level(values[2]),
+        };
+        return (color & 0xFFFFFF) | ((int)(((opacity * 255) + (most / 2)) / most) << 24);
+    }
+
+    private uint Number(TiffTags tag) => Tiff.GetNumber(tiff, (int)tag);
+
+    /// <summary>A strip or a tile: one array of rows, or one for each plane.</summary>
+    private sealed record Block(int Width, int Height, int RowBytes, byte[][] Planes);
+}
