@@ -23,7 +23,7 @@ internal sealed partial class CgmInterpreter
         On<CellArray>(d, static (i, x) => i.DrawCells(x));
         On<BeginTileArray>(d, static (i, x) => (i._tiles, i._nextTile) = (x, 0));
         On<BitonalTile>(d, static (i, x) => i.DrawTile(x, picture => TilePictures.Bitonal(picture, i.ColorOf(x.Background), i.ColorOf(x.Foreground))));
-        On<Tile>(d, static (i, x) => i.DrawTile(x, picture => TilePictures.Coloured(picture)));
+        On<Tile>(d, static (i, x) => i.DrawTile(x, picture => TilePictures.Coloured(i.Packed(picture, x), i.CellColor)));
         On<EndTileArray>(d, static (i, x) => i._tiles = null);
     }
 
@@ -74,6 +74,12 @@ internal sealed partial class CgmInterpreter
         }
 
         Place(cells, TileMap(array, column, row));
+    }
+
+    private PackedTile Packed(in PackedTile tile, Tile own)
+    {
+        int usual = _state.HasDirectColors ? _state.ColorBits : _state.ColorIndexBits;
+        return tile with { Bits = own.CellPrecision > 0 ? own.CellPrecision : usual, Components = _state.HasDirectColors ? 3 : 1 };
     }
 
     /// <summary>Where a tile lies: it begins at its column and row of cells, less those that lie before the image.</summary>

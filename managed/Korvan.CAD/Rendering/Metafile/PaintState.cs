@@ -94,6 +94,10 @@ internal sealed class PictureState
     internal DeviceViewportSpecificationMode? ViewportMode;
     internal bool HasRealCoordinates;
     internal bool HasDirectColors;
+
+    /// <summary>Bits of a component, and of a number, where a tile states none of its own.</summary>
+    internal int ColorBits = 8;
+    internal int ColorIndexBits = 8;
     internal SpecificationMode LineWidthMode = SpecificationMode.Scaled;
     internal SpecificationMode EdgeWidthMode = SpecificationMode.Scaled;
     internal SpecificationMode MarkerSizeMode = SpecificationMode.Scaled;

@@ -41,6 +41,8 @@ internal static class StateChanges
     {
         On<VdcType>(c, static (s, x) => s.HasRealCoordinates = x.Value == VdcType.Type.Real);
         On<ColourSelectionMode>(c, static (s, x) => s.HasDirectColors = x.Value == ColourSelectionMode.Type.Direct);
+        On<ColourPrecision>(c, static (s, x) => s.ColorBits = x.Precision);
+        On<ColourIndexPrecision>(c, static (s, x) => s.ColorIndexBits = x.Precision);
         On<VdcExtent>(c, static (s, x) => s.Extent = x);
         On<ScalingMode>(c, static (s, x) => s.Scaling = x);
         On<BackgroundColour>(c, static (s, x) => s.Background = x.Color);

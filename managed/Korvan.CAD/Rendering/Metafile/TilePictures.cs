@@ -10,8 +10,11 @@ namespace Korvan.CAD.Rendering.Metafile;
 /// <summary>The packed cells of one tile, and what they mean.</summary>
 internal readonly record struct PackedTile(CompressionType Compression, byte[] Cells, int Width, int Height)
 {
-    /// <summary>Bits of one cell; 1 for a tile of two colours.</summary>
-    internal int Bits { get; init; }
+    /// <summary>Bits of a number, or of one component of a colour; 1 for a tile of two colours.</summary>
+    internal int Bits { get; init; } = 1;
+
+    /// <summary>3 where cells are colours, 1 where they are numbers.</summary>
+    internal int Components { get; init; } = 1;
 
     /// <summary>Each line fills a multiple of so many bits; 0 for lines that follow each other directly.</summary>
     internal int RowPadding { get; init; }
@@ -24,6 +27,7 @@ internal static class TilePictures
 {
     private const int HeaderLength = 8;
     private const int EntryLength = 12;
+    private const int LzwCompression = 5;
 
     /// <summary>Compression, photometric interpretation and options of a bitonal TIFF; 1 bits are black.</summary>
     private static (int Compression, int Options)? TiffKind(CompressionType type) => type switch
@@ -31,7 +35,7 @@ internal static class TilePictures
         CompressionType.T6 => (4, 0),
         CompressionType.T4OneDimensional => (3, 0),
         CompressionType.T4TwoDimensional => (3, 1),
-        CompressionType.Lzw => (5, 0),
+        CompressionType.Lzw => (LzwCompression, 0),
         _ => null,
     };
 
@@ -64,9 +68,29 @@ internal static class TilePictures
         return picture;
     }
 
-    /// <summary>The pixels of a tile that is a picture file in itself; null for any other.</summary>
-    internal static Picture? Coloured(in PackedTile tile) =>
-        tile.Compression is CompressionType.BaselineJpeg or CompressionType.Png ? Decoded(tile.Cells) : null;
+    /// <summary>The pixels of a tile of many colours: a picture file in itself, cells that are not packed, or cells of 8
+    /// bits packed by LZW. Null for any other.</summary>
+    internal static Picture? Coloured(in PackedTile tile, Func<int, Rgba> colorOf)
+    {
+        switch (tile.Compression)
+        {
+            case CompressionType.BaselineJpeg or CompressionType.Png:
+                return Decoded(tile.Cells);
+            case CompressionType.Bitmap:
+                return Unpacked(tile) is int[] cells ? FromCells(cells, tile.Width, tile.Height, colorOf) : null;
+            case CompressionType.Lzw when tile.Bits == 8 && Decoded(Tiff(tile, LzwCompression, 0)) is Picture picture:
+                int[] found = new int[tile.Width * tile.Height];
+                for (int i = 0; i < found.Length; i++)
+                {
+                    ReadOnlySpan<byte> pixel = picture.Pixels.AsSpan(i * 4, 4);
+                    found[i] = tile.Components == 1 ? pixel[0] : (pixel[2] << 16) | (pixel[1] << 8) | pixel[0];
+                }
+
+                return FromCells(found, tile.Width, tile.Height, colorOf);
+            default:
+                return null;
+        }
+    }
 
     /// <summary>Cells that have colours already, line by line.</summary>
     internal static Picture FromCells(ReadOnlySpan<int> cells, int width, int height, Func<int, Rgba> colorOf)
@@ -122,7 +146,45 @@ internal static class TilePictures
     private static long Stride(in PackedTile tile)
     {
         int unit = Math.Max(1, tile.RowPadding);
-        return ((long)tile.Width + unit - 1) / unit * unit;
+        return (((long)tile.Width * tile.Bits * tile.Components) + unit - 1) / unit * unit;
+    }
+
+    /// <summary>The cells one by one, components brought to 8 bits; null when they are not all there.</summary>
+    private static int[]? Unpacked(in PackedTile tile)
+    {
+        long stride = Stride(tile);
+        if (tile.Bits is < 1 or > 16 || (stride * (tile.Height - 1)) + ((long)tile.Width * tile.Bits * tile.Components) > tile.Cells.Length * 8L)
+        {
+            return null;
+        }
+
+        int[] cells = new int[tile.Width * tile.Height];
+        int most = (1 << tile.Bits) - 1;
+        for (int i = 0; i < cells.Length; i++)
+        {
+            long at = (i / tile.Width * stride) + ((long)(i % tile.Width) * tile.Bits * tile.Components);
+            int cell = 0;
+            for (int part = 0; part < tile.Components; part++)
+            {
+                int value = BitsAt(tile.Cells, at + (part * tile.Bits), tile.Bits);
+                cell = (cell << 8) | (tile.Components == 1 ? value : value * 255 / most);
+            }
+
+            cells[i] = cell;
+        }
+
+        return cells;
+    }
+
+    private static int BitsAt(byte[] bytes, long at, int count)
+    {
+        int value = 0;
+        for (int i = 0; i < count; i++, at++)
+        {
+            value = (value << 1) | ((bytes[at >> 3] >> (7 - (int)(at & 7))) & 1);
+        }
+
+        return value;
     }
 
     private static void Put(byte[] pixels, int at, Rgba color)
@@ -146,13 +208,14 @@ internal static class TilePictures
         }
     }
 
-    /// <summary>A TIFF of one bitonal strip (TIFF 6.0, sections 2 and 11; big-endian).</summary>
+    /// <summary>A TIFF of one strip (TIFF 6.0, sections 2, 11 and 13; big-endian).</summary>
     private static byte[] Tiff(in PackedTile tile, int compression, int options)
     {
-        const int whiteIsZero = 0, longType = 4;
+        const int whiteIsZero = 0, blackIsZero = 1, rgb = 2, longType = 4;
+        int photometric = tile.Components == 3 ? rgb : tile.Bits > 1 ? blackIsZero : whiteIsZero;
         (int Tag, int Value)[] entries =
         [
-            (256, tile.Width), (257, tile.Height), (258, 1), (259, compression), (262, whiteIsZero), (273, 0), (277, 1),
+            (256, tile.Width), (257, tile.Height), (258, tile.Bits), (259, compression), (262, photometric), (273, 0), (277, tile.Components),
             (278, tile.Height), (279, tile.Cells.Length), (292, options),
         ];
         int strip = HeaderLength + 2 + (entries.Length * EntryLength) + 4;

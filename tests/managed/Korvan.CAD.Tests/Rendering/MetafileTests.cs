@@ -282,6 +282,32 @@ public class MetafileTests
     }
 
     [Fact]
+    public void Tiles_of_many_colours_are_cells_or_packed_ones()
+    {
+        var array = new BeginTileArray
+        {
+            Position = P(0, 100),
+            CellsPerTileInPathDirection = 2,
+            CellsPerTileInLineDirection = 1,
+            CellSizeInPathDirection = 50,
+            CellSizeInLineDirection = 50,
+        };
+        Tile Tile(CompressionType type, int bits, params byte[] data) => new() { Compression = type, CellPrecision = bits, RowPadding = 8, Data = data };
+        using MetafilePage direct = Of(array, Tile(CompressionType.Bitmap, 4, 0xF0, 0x00, 0x0F), new EndTileArray());
+        Assert.Equal((Red, Blue), (direct[25, 75], direct[75, 75]));
+
+        // A clear code, the cells 4 and 5, and the end, each of nine bits (TIFF 6.0, section 13).
+        Tile packed = Tile(CompressionType.Lzw, 8, 0x80, 0x01, 0x00, 0xB0, 0x10);
+        var table = new ColourTable { StartIndex = 4, Colors = [C(Green), C(Blue)] };
+        using MetafilePage indexed = Of(Image([], [new ColourSelectionMode()], [table, array, packed, new EndTileArray()]));
+        Assert.Equal((Green, Blue), (indexed[25, 75], indexed[75, 75]));
+        using MetafilePage colours = Of(array, Tile(CompressionType.Lzw, 8, 0x80, 0x3F, 0xC0, 0x00, 0x00, 0x00, 0x01, 0xFF, 0x01), new EndTileArray());
+        Assert.Equal((Red, Blue), (colours[25, 75], colours[75, 75]));
+        using MetafilePage cut = Of(array, Tile(CompressionType.Bitmap, 8, 1, 2, 3), new EndTileArray());
+        Assert.Equal(Rgba.White, cut[25, 75]); // not all cells are there
+    }
+
+    [Fact]
     public void Clips_and_regions_hide_what_lies_outside()
     {
         using MetafilePage page = Of(
