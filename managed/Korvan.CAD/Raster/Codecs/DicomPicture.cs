@@ -1,5 +1,4 @@
 using System;
-using System.Buffers.Binary;
 using System.Collections.Generic;
 using System.Globalization;
 using Korvan.CAD.CadExceptions;
@@ -17,10 +16,9 @@ internal sealed class DicomPicture
     private readonly int height;
     private readonly int samples;
     private readonly int bits;
-    private readonly int stored;
-    private readonly bool signed;
     private readonly bool planar;
     private readonly string photometric;
+    private readonly Lazy<DicomTones> tones;
 
     private DicomPicture(DicomReader file)
     {
@@ -29,12 +27,16 @@ internal sealed class DicomPicture
         height = file.Number(DicomTags.Rows, 0);
         samples = file.Number(DicomTags.SamplesPerPixel, 1);
         bits = file.Number(DicomTags.BitsAllocated, 8);
-        stored = file.Number(DicomTags.BitsStored, bits);
-        signed = file.Number(DicomTags.PixelRepresentation, 0) == 1;
         planar = file.Number(DicomTags.PlanarConfiguration, 0) == 1;
         photometric = file.Text(DicomTags.Photometric);
+        tones = new Lazy<DicomTones>(() => DicomTones.Of(file, bits, photometric == "MONOCHROME1", AllSamples));
         Verify();
     }
+
+    /// <summary>Gets whether two pixels beside each other share their colour: two of lightness, then blue and red.</summary>
+    private bool HasPairs => photometric == "YBR_FULL_422" && file.Fragments == null;
+
+    private int FrameCount { get; set; }
 
     internal static bool Reads(string syntax) =>
         syntax is DicomTags.ImplicitLittleEndian or DicomTags.ExplicitLittleEndian or DicomTags.Rle or DicomTags.JpegBaseline
@@ -55,12 +57,13 @@ internal sealed class DicomPicture
             throw new LimitMemoryException($"The frames of '{file.Name}' have more than {PixelGrid.MostPixels} pixels in all.");
         }
 
+        picture.FrameCount = count;
         List<DecodedFrame> frames = [];
         try
         {
             for (int i = 0; i < count; i++)
             {
-                frames.Add(picture.Frame(i, count));
+                frames.Add(picture.Frame(i));
             }
         }
         catch
@@ -86,18 +89,20 @@ internal sealed class DicomPicture
             (3, 8) => photometric is "RGB" or "YBR_FULL" or "YBR_FULL_422" or "YBR_RCT" or "YBR_ICT",
             _ => false,
         };
-        if (!known || stored < 1 || stored > bits)
+        int stored = file.Number(DicomTags.BitsStored, bits);
+        int high = file.Number(DicomTags.HighBit, stored - 1);
+        if (!known || stored < 1 || stored > bits || high >= bits || high < stored - 1)
         {
-            throw new ImageLoadException($"'{file.Name}' has {samples} samples of {bits} bits of '{photometric}', which is not read.");
+            throw new ImageLoadException($"'{file.Name}' has {samples} samples of '{photometric}', {stored} of {bits} bits up to bit {high}, which is not read.");
         }
     }
 
-    private DecodedFrame Frame(int index, int count)
+    private DecodedFrame Frame(int index)
     {
         string[] spacing = file.Text(DicomTags.PixelSpacing).Split('\\');
         return new DecodedFrame
         {
-            Pixels = Pixels(index, count),
+            Pixels = Pixels(index),
             BitsPerPixel = samples * bits,
             HorizontalResolution = PerInch(spacing[^1]),
             VerticalResolution = PerInch(spacing[0]),
@@ -110,28 +115,53 @@ internal sealed class DicomPicture
         return stated && size > 0 && double.IsFinite(size) ? MillimetresPerInch / size : 0;
     }
 
-    private PixelGrid Pixels(int index, int count)
+    private PixelGrid Pixels(int index)
     {
-        if (file.Fragments == null)
+        if (file.Fragments == null || file.Syntax == DicomTags.Rle)
         {
-            return Plain(index);
+            return FromSamples(Samples(index), file.Fragments == null && planar);
         }
 
-        // One frame may stand in several pieces; of several frames each has its own.
-        byte[] data = count > 1 || file.Fragments.Count == 1 ? file.Fragments[index].ToArray() : Joined(file.Fragments);
-        PixelGrid pixels = file.Syntax switch
-        {
-            DicomTags.JpegBaseline => JpegCodec.Decompress(file.Source, data, false, out _),
-            DicomTags.Rle => FromSamples(DicomRle.Unpack(data, samples, bits / 8, (long)width * height), false),
-            _ => Jpeg2000Codec.Decode(file.Source, data, true, out _),
-        };
+        byte[] data = Fragment(index);
+        PixelGrid pixels = file.Syntax == DicomTags.JpegBaseline
+            ? JpegCodec.Decompress(file.Source, data, false, out _)
+            : Jpeg2000Codec.Decode(file.Source, data, true, out _);
         if (pixels.Width == width && pixels.Height == height)
         {
+            Invert(pixels);
             return pixels;
         }
 
         pixels.Dispose();
         throw file.Damaged($"frame {index} has another size than the file states");
+    }
+
+    // What codecs give of greys is not inverted yet.
+    private void Invert(PixelGrid pixels)
+    {
+        for (int y = 0; y < height && photometric == "MONOCHROME1"; y++)
+        {
+            foreach (ref int pixel in pixels.Row(y))
+            {
+                pixel ^= 0xFFFFFF;
+            }
+        }
+    }
+
+    // One frame may stand in several pieces; of several frames each has its own.
+    private byte[] Fragment(int index) =>
+        FrameCount > 1 || file.Fragments!.Count == 1 ? file.Fragments![index].ToArray() : Joined(file.Fragments);
+
+    private ReadOnlySpan<byte> Samples(int index) =>
+        file.Fragments == null ? Plain(index) : DicomRle.Unpack(Fragment(index), samples, bits / 8, (long)width * height);
+
+    // Shades that depend on what is there are to be the same in all frames.
+    private IEnumerable<byte[]> AllSamples()
+    {
+        for (int i = 0; i < FrameCount; i++)
+        {
+            yield return Samples(i).ToArray();
+        }
     }
 
     private static byte[] Joined(List<ReadOnlyMemory<byte>> pieces)
@@ -141,16 +171,16 @@ internal sealed class DicomPicture
         return [.. all];
     }
 
-    private PixelGrid Plain(int index)
+    private ReadOnlySpan<byte> Plain(int index)
     {
-        long size = (long)width * height * samples * (bits / 8);
+        long size = HasPairs ? (width + 1) / 2 * 4L * height : (long)width * height * samples * (bits / 8);
         long start = index * size;
         if (start + size > file.PlainPixels.Length)
         {
             throw file.Damaged($"frame {index} needs {size} bytes, but {Math.Max(0, file.PlainPixels.Length - start)} are left");
         }
 
-        return FromSamples(file.PlainPixels.Span.Slice((int)start, (int)size), planar);
+        return file.PlainPixels.Span.Slice((int)start, (int)size);
     }
 
     private PixelGrid FromSamples(ReadOnlySpan<byte> data, bool inPlanes)
@@ -158,15 +188,16 @@ internal sealed class DicomPicture
         var pixels = new PixelGrid(width, height);
         int plane = inPlanes ? width * height : 1;
         int step = inPlanes ? 1 : samples;
-        byte[]? tones = samples == 1 && bits == 16 ? Tones(data) : null;
+        int pairBytes = (width + 1) / 2 * 4;
         for (int y = 0, at = 0; y < height; y++)
         {
-            foreach (ref int pixel in pixels.Row(y))
+            Span<int> row = pixels.Row(y);
+            for (int x = 0; x < row.Length; x++, at++)
             {
-                pixel = samples == 3
-                    ? Color(data[at * step], data[(at * step) + plane], data[(at * step) + (2 * plane)])
-                    : PixelGrid.Opaque | (Tone(data, at, tones) * 0x010101);
-                at++;
+                int pair = (y * pairBytes) + (x / 2 * 4);
+                row[x] = samples == 1 ? tones.Value.Pixel(data, at)
+                    : HasPairs ? Color(data[pair + (x & 1)], data[pair + 2], data[pair + 3])
+                    : Color(data[at * step], data[(at * step) + plane], data[(at * step) + (2 * plane)]);
             }
         }
 
@@ -178,49 +209,5 @@ internal sealed class DicomPicture
         return photometric.StartsWith("YBR", StringComparison.Ordinal)
             ? PixelGrid.Opaque | Jpeg2000Planes.FromYcc(first, second - 128, third - 128)
             : PixelGrid.Opaque | (first << 16) | (second << 8) | third;
-    }
-
-    private int Tone(ReadOnlySpan<byte> data, int at, byte[]? tones)
-    {
-        int tone = tones != null ? tones[BinaryPrimitives.ReadUInt16LittleEndian(data[(2 * at)..])] : data[at] << (8 - stored);
-        return photometric == "MONOCHROME1" ? 255 - (byte)tone : (byte)tone;
-    }
-
-    /// <summary>Shades for all words: the window that the file states, or all values that it holds.</summary>
-    private byte[] Tones(ReadOnlySpan<byte> data)
-    {
-        double slope = file.Real(DicomTags.RescaleSlope, 1);
-        double intercept = file.Real(DicomTags.RescaleIntercept, 0);
-        double window = file.Real(DicomTags.WindowWidth, 0);
-        double center = file.Real(DicomTags.WindowCenter, 0);
-        (double low, double high) = window >= 1 ? (center - (window / 2), center + (window / 2)) : Range(data, slope, intercept);
-        var tones = new byte[65536];
-        for (int word = 0; word < tones.Length; word++)
-        {
-            double value = (Value(word) * slope) + intercept;
-            tones[word] = (byte)Math.Clamp(Math.Round((value - low) * 255 / Math.Max(1e-9, high - low)), 0, 255);
-        }
-
-        return tones;
-    }
-
-    private (double Low, double High) Range(ReadOnlySpan<byte> data, double slope, double intercept)
-    {
-        double low = double.MaxValue;
-        double high = double.MinValue;
-        for (int at = 0; at + 2 <= data.Length; at += 2)
-        {
-            double value = (Value(BinaryPrimitives.ReadUInt16LittleEndian(data[at..])) * slope) + intercept;
-            low = Math.Min(low, value);
-            high = Math.Max(high, value);
-        }
-
-        return (low, high);
-    }
-
-    private int Value(int word)
-    {
-        int value = word & ((1 << stored) - 1);
-        return signed && (value >> (stored - 1)) != 0 ? value - (1 << stored) : value;
     }
 }

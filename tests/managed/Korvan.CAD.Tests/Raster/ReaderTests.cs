@@ -1,5 +1,6 @@
 using System;
 using System.IO;
+using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Bitmap;
 using Korvan.CAD.FileFormats.Cad;
@@ -126,6 +127,39 @@ public class ReaderTests
             Assert.Equal(swapped ? (37, 53, 144.0, 72.0) : (53, 37, 72, 144), (image.Width, image.Height, image.HorizontalResolution, image.VerticalResolution));
             Assert.True(Samples.LargestDifference(image, upright) <= 1, corner);
         }
+    }
+
+    [Theory]
+    [InlineData("MONOCHROME2", 8, 8, 7, 0, "100/120")]
+    [InlineData("MONOCHROME2", 8, 8, 7, 1, "")]
+    [InlineData("MONOCHROME1", 8, 7, 6, 0, "")]
+    [InlineData("MONOCHROME2", 16, 12, 15, 0, "1000/500")]
+    [InlineData("MONOCHROME2", 16, 12, 11, 1, "40.5/401/-1024/2")]
+    [InlineData("MONOCHROME1", 16, 16, 15, 0, "30000/20000")]
+    [InlineData("YBR_FULL_422", 8, 8, 7, 0, "")]
+    public void Samples_of_dicom_files_are_seen_as_a_viewer_shows_them(string kind, int bits, int stored, int high, int signed, string window)
+    {
+        string data = Tools.TempFile(".raw");
+        string text = Tools.TempFile(".dump");
+        string file = Tools.TempFile(".dcm");
+        string shown = Tools.TempFile(".pnm");
+        int samples = kind[0] == 'Y' ? 3 : 1;
+        var bytes = new byte[14 * 9 * (samples == 3 ? 2 : bits / 8)];
+        new Random(bits + high).NextBytes(bytes);
+        File.WriteAllBytes(data, bytes);
+        string[] tags = ["1050", "1051", "1052", "1053"];
+        string[] numbers = window.Split('/', StringSplitOptions.RemoveEmptyEntries);
+        File.WriteAllLines(text,
+        [
+            "(0008,0016) UI =SecondaryCaptureImageStorage", "(0008,0018) UI [1.2.3.4]", $"(0028,0002) US {samples}", $"(0028,0004) CS [{kind}]",
+            "(0028,0006) US 0", "(0028,0010) US 9", "(0028,0011) US 14", $"(0028,0100) US {bits}", $"(0028,0101) US {stored}", $"(0028,0102) US {high}",
+            $"(0028,0103) US {signed}", .. numbers.Select((number, i) => $"(0028,{tags[i]}) DS [{number}]"),
+            $"(7fe0,0010) {(bits == 16 ? "OW" : "OB")} ={data}",
+        ]);
+        Tools.Run("dump2dcm", "+te", text, file);
+        Tools.Run("dcmj2pnm", ["--write-raw-pnm", .. window == "" ? Array.Empty<string>() : ["+Wi", "1"], file, shown]);
+        using RasterCachedImage image = Samples.Load(file);
+        Assert.InRange(Samples.LargestDifference(image, shown), 0, 2);
     }
 
     [Fact]
