@@ -159,6 +159,34 @@ class Pages(Outputs):
             svg.write_text(cgm.to_svg(path.read_bytes()), encoding="utf-8")
             self.assert_looks_as_pixels(drawing, self.rendered(str(svg)), 0.93)
 
+    def test_drawings_look_the_same_behind_a_graphics_metafile(self) -> None:
+        real = ("ezdxf__3_us_main", "ezdxf__ASCII_R12", "ezdxf__mtext_complex_inline_codes", "ezdxf__uncommon", "lwg__example_2018")
+        sources = [EXAMPLES / "floor_plan.dxf", EXAMPLES / "bearing_flange.dxf"]
+        sources += [path for name in real if (path := SHARED / "dxf" / f"{name}.dxf").exists()]
+        for source, encoding in zip(sources, [*CgmFileFormat] * len(sources)):
+            with self.subTest(source.name, encoding=encoding):
+                options = on_page(CgmOptions())
+                options.encoding = encoding
+                metafile = self.write("page.cgm", options, source)
+                before = tones(Path(self.write("before.png", on_page(PngOptions()), source)).read_bytes())
+                after = tones(Path(self.write("after.png", on_page(PngOptions()), Path(metafile))).read_bytes())
+                self.assertGreater(likeness(before, after), 0.99)
+
+    @needs_tools("rsvg-convert", "emf2svg-conv", "pdftoppm")
+    def test_a_graphics_metafile_becomes_pages_of_every_format(self) -> None:
+        valve = EXAMPLES / "gate_valve.cgm"
+        svg, picture = self.folder / "valve.svg", self.folder / "valve"
+        expected = tones(Path(self.write("valve.png", on_page(PngOptions()), valve)).read_bytes())
+        tool("emf2svg-conv", "-i", self.write("valve.emf", on_page(EmfOptions()), valve), "-o", str(svg))
+        self.assertGreater(likeness(expected, tones(self.rendered(str(svg)).read_bytes())), 0.93)
+        for as_shapes in (True, False):
+            options = on_page(SvgOptions())
+            options.text_as_shapes = as_shapes
+            self.assertGreater(likeness(expected, tones(self.rendered(self.write("valve.svg", options, valve)).read_bytes())), 0.97)
+        pdf = self.write("valve.pdf", on_page(PdfOptions()), valve)
+        tool("pdftoppm", "-r", "72", "-png", "-singlefile", pdf, str(picture))
+        self.assertGreater(likeness(expected, tones(picture.with_suffix(".png").read_bytes())), 0.97)
+
     def test_both_encodings_of_a_graphics_metafile_have_the_same_elements(self) -> None:
         as_lines = CgmOptions()
         as_lines.text_as_lines = True
