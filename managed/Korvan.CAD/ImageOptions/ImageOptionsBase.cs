@@ -7,6 +7,8 @@ namespace Korvan.CAD.ImageOptions;
 /// <summary>How an image is written: the base of the option classes of all output formats.</summary>
 public abstract class ImageOptionsBase : DisposableObject
 {
+    internal static readonly Color UsualWatermark = Color.FromArgb(64, Color.Gray);
+
     private int _timeout;
 
     internal ImageOptionsBase(FileFormat targetFormat)
@@ -58,7 +60,7 @@ public abstract class ImageOptionsBase : DisposableObject
     public string UserWatermarkText { get; set; } = "";
 
     /// <summary>Gets or sets the colour of <see cref="UserWatermarkText"/>.</summary>
-    public Color UserWatermarkColor { get; set; } = Color.FromArgb(64, Color.Gray);
+    public Color UserWatermarkColor { get; set; } = UsualWatermark;
 
     /// <summary>Gets what became of the last export with these options; nothing before the first.</summary>
     public CadRenderResult? RenderResult { get; internal set; }
@@ -69,21 +71,17 @@ public abstract class ImageOptionsBase : DisposableObject
     /// <summary>Gets whether the format has a place for <see cref="XmpData"/>.</summary>
     internal virtual bool HoldsXmp => false;
 
+    /// <summary>Gets whether the format has a place for the resolution of pixels.</summary>
+    internal virtual bool HoldsResolution => false;
+
+    /// <summary>Gets whether pixels, as these options write them, are numbers of colours.</summary>
+    internal virtual bool UsesPalette => false;
+
     /// <summary>Raises an error for the first option that is set and that the output would not honour.</summary>
-    internal virtual void VerifyHonoured()
-    {
-        if (OutputMode != CadOutputMode.Render)
-        {
-            throw NotHonoured(nameof(OutputMode), "leave it at Render");
-        }
+    /// <param name="kind">What the image becomes.</param>
+    internal virtual void VerifyHonoured(OutputKind kind) => OptionRules.Verify(this, kind);
 
-        if (XmpData != null && !HoldsXmp)
-        {
-            throw NotHonoured(nameof(XmpData), "JPEG, PNG, TIFF and PSD hold such data");
-        }
-    }
-
-    private protected ImageSaveException NotHonoured(string option, string advice)
+    internal ImageSaveException NotHonoured(string option, string advice)
     {
         return new ImageSaveException($"{GetType().Name}.{option} cannot be honoured in this output; {advice}.");
     }
