@@ -4,7 +4,8 @@ using Korvan.CAD.Rendering;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>How an image is written: the base of the option classes of all output formats.</summary>
+/// <summary>How an image is written: the base of the option classes of all output formats. An option that is set and that the
+/// format, or the kind of image, has no use for is refused by an <see cref="ImageSaveException"/> with its name.</summary>
 public abstract class ImageOptionsBase : DisposableObject
 {
     internal static readonly Color UsualWatermark = Color.FromArgb(64, Color.Gray);
@@ -35,8 +36,8 @@ public abstract class ImageOptionsBase : DisposableObject
     /// what a picture was loaded with.</summary>
     public XmpPacketWrapper? XmpData { get; set; }
 
-    /// <summary>Gets or sets the resolution of the output, for formats that have one; nothing for the default of the
-    /// format.</summary>
+    /// <summary>Gets or sets the resolution of pixels: those of a format that states one, those that lines and texts are drawn in,
+    /// and those of a page whose content is made a bitmap; nothing for the default of the format.</summary>
     public ResolutionSetting? ResolutionSettings { get; set; }
 
     /// <summary>Gets or sets how a vector drawing is drawn; nothing for the defaults of
@@ -62,7 +63,7 @@ public abstract class ImageOptionsBase : DisposableObject
     /// <summary>Gets or sets the colour of <see cref="UserWatermarkText"/>.</summary>
     public Color UserWatermarkColor { get; set; } = UsualWatermark;
 
-    /// <summary>Gets what became of the last export with these options; nothing before the first.</summary>
+    /// <summary>Gets what became of the last export with these options; nothing before the first, and after one that failed.</summary>
     public CadRenderResult? RenderResult { get; internal set; }
 
     /// <summary>Gets or sets what the export that runs could not draw.</summary>

@@ -17,12 +17,11 @@ public class MultiPageOptions
 
     /// <summary>Creates options that take an interval of pages.</summary>
     /// <param name="firstPage">The number of the first, from 0.</param>
-    /// <param name="pageCount">How many.</param>
+    /// <param name="pageCount">How many; 0 for all that follow.</param>
     public MultiPageOptions(int firstPage, int pageCount)
     {
         FirstPage = firstPage;
         PageCount = pageCount;
-        Mode = MultiPageMode.Range;
     }
 
     /// <summary>Gets or sets by what pages are chosen.</summary>

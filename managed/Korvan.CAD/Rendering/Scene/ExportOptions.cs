@@ -95,7 +95,7 @@ internal sealed class ExportOptions
                 RasterizationQualityValue.High => 256,
                 _ => RenderStyle.UsualCircleSides,
             },
-            LineTypeScale = vector is { LineScale: > 0 } ? vector.LineScale : 1,
+            LineTypeScale = vector?.LineScale ?? 1,
             ModelView = cad?.ObserverPoint is ObserverPoint eye
                 ? ViewTransform.Turned(eye.RotationAngleX, eye.RotationAngleY, eye.RotationAngleZ)
                 : Affine3.Identity,
@@ -130,7 +130,7 @@ internal sealed class ExportOptions
             Bottom = borderY + ((margins?.Bottom ?? 0) * unit),
             Fit = Fit(),
             UnitScale = unit,
-            Zoom = (cad?.Zoom ?? 1) * (vector is { RelativeScale: > 0 } ? vector.RelativeScale : 1),
+            Zoom = (cad?.Zoom ?? 1) * (vector?.RelativeScale ?? 1),
             Shift = vector == null ? default : new Vec2(vector.RelativePosition.X, vector.RelativePosition.Y),
             UnitsPerMillimetre = UnitsPerMillimetre,
             UsualSide = usual,
