@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Diagnostics;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.Annotations;
@@ -163,7 +164,7 @@ public abstract partial class Image : DataStreamSupporter
         VerifyNotDisposed();
         ArgumentNullException.ThrowIfNull(options);
         VerifyCanSave(options);
-        AtomicFile.Write(filePath, true, stream => Export(options, stream));
+        AtomicFile.Write(filePath, true, stream => ExportTimed(options, stream));
     }
 
     /// <summary>Writes the image to a stream in the format that the options stand for.</summary>
@@ -176,7 +177,7 @@ public abstract partial class Image : DataStreamSupporter
         ArgumentNullException.ThrowIfNull(stream);
         ArgumentNullException.ThrowIfNull(optionsBase);
         VerifyCanSave(optionsBase);
-        Export(optionsBase, stream);
+        ExportTimed(optionsBase, stream);
     }
 
     /// <summary>Tells whether the image can be written in the format that the options stand for.</summary>
@@ -196,6 +197,15 @@ public abstract partial class Image : DataStreamSupporter
     internal abstract IEnumerable<Type> ExportOptionTypes { get; }
 
     internal abstract void Export(ImageOptionsBase options, Stream stream);
+
+    /// <summary>Exports, and tells in the options what became of it; an exporter that leaves nothing out need not say so.</summary>
+    private void ExportTimed(ImageOptionsBase options, Stream stream)
+    {
+        long start = Stopwatch.GetTimestamp();
+        options.RenderResult = null;
+        Export(options, stream);
+        options.RenderResult ??= new CadRenderResult([], Stopwatch.GetElapsedTime(start));
+    }
 
     private void VerifyCanSave(ImageOptionsBase options)
     {

@@ -84,7 +84,7 @@ public abstract partial class RasterImage
     /// <inheritdoc/>
     internal override void Export(ImageOptionsBase options, Stream stream)
     {
-        options.VerifyHonoured();
+        options.VerifyHonoured(OutputKind.Picture);
         try
         {
             RasterSaver.Write(new Frames(this, options, RasterSaver.HoldsPages(options)), options, stream);

@@ -19,4 +19,18 @@ public class BmpOptions : ImageOptionsBase
 
     /// <summary>Gets or sets how colours are brought to a palette.</summary>
     public DitheringMethods Dithering { get; set; } = DitheringMethods.None;
+
+    internal override bool HoldsResolution => true;
+
+    internal override bool UsesPalette => BitsPerPixel <= 8;
+
+    /// <inheritdoc/>
+    internal override void VerifyHonoured(OutputKind kind)
+    {
+        base.VerifyHonoured(kind);
+        if (Dithering != DitheringMethods.None && !UsesPalette)
+        {
+            throw NotHonoured(nameof(Dithering), "choose 1, 4 or 8 BitsPerPixel, as other pixels keep their colours");
+        }
+    }
 }

@@ -4,7 +4,8 @@ using Korvan.CAD.FileFormats.Cad;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>How a drawing is drawn on pages.</summary>
+/// <summary>How a drawing is drawn on pages. Formats of faces follow layers, colours and the visibility of layers; what has no
+/// effect there, on a metafile or on a picture is refused by its name.</summary>
 public class CadRasterizationOptions : VectorRasterizationOptions
 {
     private float _zoom = 1;
@@ -61,10 +62,12 @@ public class CadRasterizationOptions : VectorRasterizationOptions
     /// <summary>Gets or sets whether content of a layout outside its paper is exported as well.</summary>
     public bool ExportAllLayoutContent { get; set; }
 
-    /// <summary>Gets or sets the paths of compiled shape fonts to use before those of the system.</summary>
+    /// <summary>Gets or sets the paths of compiled shape fonts to use before those of the system. Such fonts are not read yet:
+    /// setting any is refused.</summary>
     public string[] ShxFonts { get; set; } = [];
 
-    /// <summary>Gets or sets how bodies and faces in space are drawn.</summary>
+    /// <summary>Gets or sets how bodies and faces in space are drawn. Other modes than
+    /// <see cref="RenderMode3D.Wireframe"/> are refused so far.</summary>
     public RenderMode3D RenderMode3D { get; set; } = RenderMode3D.Wireframe;
 
     /// <summary>Gets or sets which layers count as visible.</summary>

@@ -19,4 +19,16 @@ public class DicomOptions : ImageOptionsBase
 
     /// <summary>Gets or sets which pages are written; nothing for all of them.</summary>
     public MultiPageOptions? MultiPageOptions { get; set; }
+
+    internal override bool HoldsResolution => true;
+
+    /// <inheritdoc/>
+    internal override void VerifyHonoured(OutputKind kind)
+    {
+        base.VerifyHonoured(kind);
+        if (Compression.Type != CompressionType.Jpeg && Compression.Quality != Compression.UsualQuality)
+        {
+            throw NotHonoured($"{nameof(Compression)}.{nameof(Compression.Quality)}", "set its Type to Jpeg, as every pixel is kept exactly otherwise");
+        }
+    }
 }

@@ -65,4 +65,6 @@ public class GifOptions : ImageOptionsBase
 
     /// <summary>Gets or sets which pages are written; nothing for all of them.</summary>
     public MultiPageOptions? MultiPageOptions { get; set; }
+
+    internal override bool UsesPalette => true;
 }

@@ -1,6 +1,7 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>How shapes, texts and pictures are smoothed.</summary>
+/// <summary>How shapes, texts and pictures are smoothed in pixels. Page formats leave that to whoever shows them and refuse it,
+/// unless <see cref="VectorRasterizationOptions.ContentAsBitmap"/> makes pixels of their content.</summary>
 public class GraphicsOptions
 {
     /// <summary>Creates options that leave smoothing to the device.</summary>

@@ -4,9 +4,12 @@ using Korvan.CAD.Rendering;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>How an image is written: the base of the option classes of all output formats.</summary>
+/// <summary>How an image is written: the base of the option classes of all output formats. An option that is set and that the
+/// format, or the kind of image, has no use for is refused by an <see cref="ImageSaveException"/> with its name.</summary>
 public abstract class ImageOptionsBase : DisposableObject
 {
+    internal static readonly Color UsualWatermark = Color.FromArgb(64, Color.Gray);
+
     private int _timeout;
 
     internal ImageOptionsBase(FileFormat targetFormat)
@@ -33,8 +36,8 @@ public abstract class ImageOptionsBase : DisposableObject
     /// what a picture was loaded with.</summary>
     public XmpPacketWrapper? XmpData { get; set; }
 
-    /// <summary>Gets or sets the resolution of the output, for formats that have one; nothing for the default of the
-    /// format.</summary>
+    /// <summary>Gets or sets the resolution of pixels: those of a format that states one, those that lines and texts are drawn in,
+    /// and those of a page whose content is made a bitmap; nothing for the default of the format.</summary>
     public ResolutionSetting? ResolutionSettings { get; set; }
 
     /// <summary>Gets or sets how a vector drawing is drawn; nothing for the defaults of
@@ -58,9 +61,9 @@ public abstract class ImageOptionsBase : DisposableObject
     public string UserWatermarkText { get; set; } = "";
 
     /// <summary>Gets or sets the colour of <see cref="UserWatermarkText"/>.</summary>
-    public Color UserWatermarkColor { get; set; } = Color.FromArgb(64, Color.Gray);
+    public Color UserWatermarkColor { get; set; } = UsualWatermark;
 
-    /// <summary>Gets what became of the last export with these options; nothing before the first.</summary>
+    /// <summary>Gets what became of the last export with these options; nothing before the first, and after one that failed.</summary>
     public CadRenderResult? RenderResult { get; internal set; }
 
     /// <summary>Gets or sets what the export that runs could not draw.</summary>
@@ -69,21 +72,17 @@ public abstract class ImageOptionsBase : DisposableObject
     /// <summary>Gets whether the format has a place for <see cref="XmpData"/>.</summary>
     internal virtual bool HoldsXmp => false;
 
+    /// <summary>Gets whether the format has a place for the resolution of pixels.</summary>
+    internal virtual bool HoldsResolution => false;
+
+    /// <summary>Gets whether pixels, as these options write them, are numbers of colours.</summary>
+    internal virtual bool UsesPalette => false;
+
     /// <summary>Raises an error for the first option that is set and that the output would not honour.</summary>
-    internal virtual void VerifyHonoured()
-    {
-        if (OutputMode != CadOutputMode.Render)
-        {
-            throw NotHonoured(nameof(OutputMode), "leave it at Render");
-        }
+    /// <param name="kind">What the image becomes.</param>
+    internal virtual void VerifyHonoured(OutputKind kind) => OptionRules.Verify(this, kind);
 
-        if (XmpData != null && !HoldsXmp)
-        {
-            throw NotHonoured(nameof(XmpData), "JPEG, PNG, TIFF and PSD hold such data");
-        }
-    }
-
-    private protected ImageSaveException NotHonoured(string option, string advice)
+    internal ImageSaveException NotHonoured(string option, string advice)
     {
         return new ImageSaveException($"{GetType().Name}.{option} cannot be honoured in this output; {advice}.");
     }

@@ -48,4 +48,21 @@ public class JpegOptions : ImageOptionsBase
     public JFIFData? Jfif { get; set; }
 
     internal override bool HoldsXmp => true;
+
+    internal override bool HoldsResolution => true;
+
+    /// <inheritdoc/>
+    internal override void VerifyHonoured(OutputKind kind)
+    {
+        base.VerifyHonoured(kind);
+        if (ColorType is JpegCompressionColorMode.Rgb or JpegCompressionColorMode.Cmyk)
+        {
+            throw NotHonoured(nameof(ColorType), $"{ColorType} is read, but not written; choose YCbCr, Ycck or Grayscale");
+        }
+
+        if (Jfif is not null && ColorType == JpegCompressionColorMode.Ycck)
+        {
+            throw NotHonoured(nameof(Jfif), "leave it out, as files of inks have a head of another kind");
+        }
+    }
 }

@@ -7,6 +7,8 @@ public class MultiPageOptions
 {
     private int[] _pages = [];
     private string[] _pageTitles = [];
+    private int _firstPage;
+    private int _pageCount;
 
     /// <summary>Creates options that take all pages.</summary>
     public MultiPageOptions()
@@ -15,12 +17,11 @@ public class MultiPageOptions
 
     /// <summary>Creates options that take an interval of pages.</summary>
     /// <param name="firstPage">The number of the first, from 0.</param>
-    /// <param name="pageCount">How many.</param>
+    /// <param name="pageCount">How many; 0 for all that follow.</param>
     public MultiPageOptions(int firstPage, int pageCount)
     {
         FirstPage = firstPage;
         PageCount = pageCount;
-        Mode = MultiPageMode.Range;
     }
 
     /// <summary>Gets or sets by what pages are chosen.</summary>
@@ -52,11 +53,29 @@ public class MultiPageOptions
         }
     }
 
-    /// <summary>Gets or sets the number of the first page, from 0; for <see cref="MultiPageMode.Range"/>.</summary>
-    public int FirstPage { get; set; }
+    /// <summary>Gets or sets the number of the first page of an interval, from 0. Setting it sets <see cref="Mode"/> to
+    /// <see cref="MultiPageMode.Range"/>.</summary>
+    public int FirstPage
+    {
+        get => _firstPage;
+        set
+        {
+            _firstPage = value;
+            Mode = MultiPageMode.Range;
+        }
+    }
 
-    /// <summary>Gets or sets how many pages; for <see cref="MultiPageMode.Range"/>.</summary>
-    public int PageCount { get; set; }
+    /// <summary>Gets or sets how many pages the interval has; 0 for all that follow. Setting it sets <see cref="Mode"/> to
+    /// <see cref="MultiPageMode.Range"/>.</summary>
+    public int PageCount
+    {
+        get => _pageCount;
+        set
+        {
+            _pageCount = value;
+            Mode = MultiPageMode.Range;
+        }
+    }
 
     /// <summary>Gets or sets the part of each page that is written, in pixels from the upper left corner; an empty one
     /// for all of it.</summary>

@@ -1,6 +1,7 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>How lines end.</summary>
+/// <summary>How lines end. Both ends of a line have one shape: different ones are refused, and so is
+/// <see cref="LineCap.Triangle"/>. Lines of metafiles say themselves how they end.</summary>
 public class PenOptions
 {
     /// <summary>Creates options with round ends.</summary>

@@ -56,4 +56,18 @@ public class PngOptions : ImageOptionsBase
     public DitheringMethods Dithering { get; set; }
 
     internal override bool HoldsXmp => true;
+
+    internal override bool HoldsResolution => true;
+
+    internal override bool UsesPalette => ColorType == PngColorType.IndexedColor;
+
+    /// <inheritdoc/>
+    internal override void VerifyHonoured(OutputKind kind)
+    {
+        base.VerifyHonoured(kind);
+        if (Dithering != DitheringMethods.None && !UsesPalette)
+        {
+            throw NotHonoured(nameof(Dithering), "set ColorType to IndexedColor, as other pixels keep their colours");
+        }
+    }
 }

@@ -21,4 +21,8 @@ public class PsdOptions : ImageOptionsBase
     public ResourceBlock[] Resources { get; set; } = [];
 
     internal override bool HoldsXmp => true;
+
+    internal override bool HoldsResolution => true;
+
+    internal override bool UsesPalette => ColorMode == ColorModes.Indexed;
 }

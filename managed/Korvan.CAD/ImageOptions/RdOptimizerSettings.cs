@@ -56,7 +56,7 @@ public class RdOptimizerSettings
     {
         if (MinQuality > MaxQuality)
         {
-            throw new RdOptimizationError($"The lowest quality, {MinQuality}, lies above the highest, {MaxQuality}.");
+            throw new RdOptimizationError($"MinQuality, {MinQuality}, lies above MaxQuality, {MaxQuality}.");
         }
 
         double most = BppMax * pixels / 8;
@@ -81,8 +81,8 @@ public class RdOptimizerSettings
         }
 
         return best ?? throw new RdOptimizationError(
-            $"At quality {MinQuality} the picture takes {8.0 * smallest / pixels:0.##} bits for a pixel; "
-            + $"{BppMax:0.##} are allowed.");
+            $"At MinQuality, {MinQuality}, the picture takes {8.0 * smallest / pixels:0.##} bits for a pixel; "
+            + $"BppMax allows {BppMax:0.##}.");
     }
 
     private static int Quality(int value)

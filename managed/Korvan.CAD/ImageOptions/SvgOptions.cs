@@ -45,9 +45,9 @@ public class SvgOptions : ImageOptionsBase, ITextAsShapesOptions
     }
 
     /// <inheritdoc/>
-    internal override void VerifyHonoured()
+    internal override void VerifyHonoured(OutputKind kind)
     {
-        base.VerifyHonoured();
+        base.VerifyHonoured(kind);
         if (TextAsShapes && FontStoreType != FontStoreType.Installed)
         {
             throw NotHonoured(nameof(FontStoreType), "set TextAsShapes to false, as outlines need no fonts");

@@ -7,8 +7,10 @@ namespace Korvan.CAD.ImageOptions;
 /// <summary>Writes TIFF 6.0, one page for each layout or frame.</summary>
 public class TiffOptions : ImageOptionsBase
 {
+    internal const int UsualQuality = 90;
+
     private int[] _bitsPerSample = [8, 8, 8];
-    private int _quality = 90;
+    private int _quality = UsualQuality;
 
     /// <summary>Creates options for colours of 24 bits, compressed with LZW.</summary>
     public TiffOptions()
@@ -131,4 +133,21 @@ public class TiffOptions : ImageOptionsBase
     public TiffOptionsError Validate() => TiffPresets.Validate(this);
 
     internal override bool HoldsXmp => true;
+
+    internal override bool HoldsResolution => true;
+
+    internal override bool UsesPalette => Photometric == TiffPhotometrics.Palette;
+
+    /// <inheritdoc/>
+    internal override void VerifyHonoured(OutputKind kind)
+    {
+        base.VerifyHonoured(kind);
+        foreach ((string name, bool isSet, bool isFollowed, string advice) in TiffPresets.Conditions(this))
+        {
+            if (isSet && !isFollowed)
+            {
+                throw NotHonoured(name, advice);
+            }
+        }
+    }
 }

@@ -8,6 +8,8 @@ public abstract class VectorRasterizationOptions : DisposableObject
 {
     private float _pageWidth;
     private float _pageHeight;
+    private double _lineScale = 1;
+    private double _relativeScale = 1;
 
     internal VectorRasterizationOptions()
     {
@@ -73,15 +75,29 @@ public abstract class VectorRasterizationOptions : DisposableObject
     /// <summary>Gets or sets how shapes and texts are smoothed; nothing for the defaults.</summary>
     public GraphicsOptions? GraphicsOptions { get; set; }
 
-    /// <summary>Gets or sets a factor on the lengths of line types. 1 by default.</summary>
-    public double LineScale { get; set; } = 1;
+    /// <summary>Gets or sets a factor on the lengths of line types, above 0. 1 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The factor is not above 0, or not finite.</exception>
+    public double LineScale
+    {
+        get => _lineScale;
+        set => _lineScale = Factor(value);
+    }
 
-    /// <summary>Gets or sets a factor on the size of the drawing on its page. 1 by default.</summary>
-    public double RelativeScale { get; set; } = 1;
+    /// <summary>Gets or sets a factor on the size of the drawing on its page, above 0. 1 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The factor is not above 0, or not finite.</exception>
+    public double RelativeScale
+    {
+        get => _relativeScale;
+        set => _relativeScale = Factor(value);
+    }
 
     /// <summary>Gets or sets how far the drawing is moved on its page, as parts of the page's width and height.
     /// </summary>
     public PointF RelativePosition { get; set; }
+
+    private static double Factor(double value) => double.IsFinite(value) && value > 0
+        ? value
+        : throw new ArgumentOutOfRangeException(nameof(value), value, "A factor is a finite number above 0.");
 
     private static float Length(float value)
     {

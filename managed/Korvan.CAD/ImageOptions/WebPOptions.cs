@@ -5,7 +5,9 @@ namespace Korvan.CAD.ImageOptions;
 /// <summary>Writes WebP.</summary>
 public class WebPOptions : ImageOptionsBase
 {
-    private float _quality = 80;
+    private const float UsualQuality = 80;
+
+    private float _quality = UsualQuality;
 
     /// <summary>Creates options with their defaults.</summary>
     public WebPOptions()
@@ -16,7 +18,7 @@ public class WebPOptions : ImageOptionsBase
     /// <summary>Gets or sets whether every visible pixel is kept exactly. True by default.</summary>
     public bool Lossless { get; set; } = true;
 
-    /// <summary>Gets or sets the quality of lossy compression, 0 to 100.</summary>
+    /// <summary>Gets or sets the quality of lossy compression, 0 to 100; for <see cref="Lossless"/> turned off. 80 by default.</summary>
     /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
     public float Quality
     {
@@ -26,6 +28,16 @@ public class WebPOptions : ImageOptionsBase
             ArgumentOutOfRangeException.ThrowIfLessThan(value, 0f);
             ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 100f);
             _quality = value;
+        }
+    }
+
+    /// <inheritdoc/>
+    internal override void VerifyHonoured(OutputKind kind)
+    {
+        base.VerifyHonoured(kind);
+        if (Lossless && Quality != UsualQuality)
+        {
+            throw NotHonoured(nameof(Quality), "set Lossless to false, as every pixel is kept exactly otherwise");
         }
     }
 }

@@ -50,9 +50,9 @@ internal static class PageChoice
             MultiPageMode.Pages => [.. options.Pages],
             MultiPageMode.Titles => [.. options.PageTitles.Select(title => Find(pages, title))],
             MultiPageMode.Range when (uint)options.FirstPage <= (uint)count && (uint)options.PageCount <= (uint)(count - options.FirstPage) =>
-                [.. Enumerable.Range(options.FirstPage, options.PageCount)],
+                [.. Enumerable.Range(options.FirstPage, options.PageCount > 0 ? options.PageCount : count - options.FirstPage)],
             MultiPageMode.Range => throw new ImageSaveException(
-                $"There are {count} pages; {options.PageCount} of them from {options.FirstPage} on do not exist."),
+                $"There are {count} pages; {options.PageCount} of them from {options.FirstPage} on do not exist, as PageCount and FirstPage ask."),
             _ => [.. Enumerable.Range(0, count)],
         };
         foreach (int page in chosen)
@@ -63,7 +63,7 @@ internal static class PageChoice
             }
         }
 
-        return chosen.Count > 0 ? chosen : throw new ImageSaveException("The options choose no page at all; a file needs one.");
+        return chosen.Count > 0 ? chosen : throw new ImageSaveException("The MultiPageOptions choose no page at all; a file needs one.");
     }
 
     /// <summary>Renders a page and cuts it to the area of the options.</summary>
@@ -81,7 +81,7 @@ internal static class PageChoice
         {
             string size = $"{page.Pixels.Width} × {page.Pixels.Height}";
             page.Dispose();
-            throw new ImageSaveException($"The export area {area} does not lie on page {index} of {size} pixels.");
+            throw new ImageSaveException($"The ExportArea {area} does not lie on page {index} of {size} pixels.");
         }
 
         page.Pixels.CropInPlace(area);
@@ -98,6 +98,7 @@ internal static class PageChoice
             }
         }
 
-        throw new ImageSaveException($"No page is called \"{title}\"; there are: {string.Join(", ", pages.Titles)}.");
+        throw new ImageSaveException(
+            $"No page is called \"{title}\", as PageTitles ask; there are: {string.Join(", ", pages.Titles)}.");
     }
 }

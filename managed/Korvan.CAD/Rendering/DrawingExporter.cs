@@ -49,6 +49,11 @@ internal static class DrawingExporter
     /// <summary>The classes of options that a drawing is written with.</summary>
     internal static IReadOnlyCollection<Type> OptionTypes => [.. Writers.Keys, .. BodyWriters.Keys];
 
+    /// <summary>What content of lines and texts becomes with the options.</summary>
+    internal static OutputKind KindOf(ImageOptionsBase options) =>
+        BodyWriters.ContainsKey(options.GetType()) ? OutputKind.Faces
+        : RasterSaver.Supports(options) ? OutputKind.Pixels : OutputKind.Page;
+
     internal static bool Writes(Image image, ImageOptionsBase options) => WriterFor(image, options) is not null;
 
     internal static void Export(Image image, ImageOptionsBase options, Stream output)
@@ -58,6 +63,7 @@ internal static class DrawingExporter
         ArgumentNullException.ThrowIfNull(output);
         Action<Image, ImageOptionsBase, Stream> write = WriterFor(image, options)
             ?? throw new ImageSaveException($"{image.GetType().Name} is not written with {options.GetType().Name}.");
+        options.VerifyHonoured(KindOf(options));
         long start = Stopwatch.GetTimestamp();
         options.Notes = new RenderNotes();
         Guard(() => write(image, options, output));
@@ -76,8 +82,9 @@ internal static class DrawingExporter
         Writers.GetValueOrDefault(options.GetType())
         ?? (image is CadImage ? BodyWriters.GetValueOrDefault(options.GetType()) : null);
 
-    /// <summary>An engine with the fonts that the drawing was loaded with.</summary>
-    private static TextEngine NewEngine(Image image, bool sharp = false) => new(sharp, FontFolders.Of(image.LoadOptions));
+    /// <summary>An engine with the fonts that the drawing was loaded with, and letters as the options ask for.</summary>
+    internal static TextEngine NewEngine(Image image, ImageOptionsBase options) =>
+        new(LetterLook.Of(options.VectorRasterizationOptions), FontFolders.Of(image.LoadOptions));
 
     private static void WritePdf(Image image, PdfOptions options, Stream output)
     {
@@ -86,7 +93,7 @@ internal static class DrawingExporter
             throw new RenderException($"Pages are written as PDF 1.5, not as {document.Compliance}; leave Compliance at Pdf15.");
         }
 
-        using TextEngine engine = NewEngine(image);
+        using TextEngine engine = NewEngine(image, options);
         var pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.Points, PointsPerInch);
         DocumentInfo info = DocumentInfoReader.Read(options);
         if (options.CorePdfOptions?.DigitalSignatureDetails is not { } signature)
@@ -102,7 +109,7 @@ internal static class DrawingExporter
 
     private static void WriteSvg(Image image, SvgOptions options, Stream output)
     {
-        using TextEngine engine = NewEngine(image);
+        using TextEngine engine = NewEngine(image, options);
         var pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.UserUnits, PixelsPerInch);
         Page page = pages.SinglePage();
         if (options.TextAsShapes)
@@ -119,14 +126,14 @@ internal static class DrawingExporter
     private static void WritePage<T>(
         Image image, ImageOptionsBase options, Stream output, Action<Stream, TextEngine, Page, T> write, T own)
     {
-        using TextEngine engine = NewEngine(image);
+        using TextEngine engine = NewEngine(image, options);
         var pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.Points, PointsPerInch);
         write(output, engine, pages.SinglePage(), own);
     }
 
     private static void WriteHtml(Image image, Html5Options options, Stream output)
     {
-        using TextEngine engine = NewEngine(image);
+        using TextEngine engine = NewEngine(image, options);
         var pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.UserUnits, PixelsPerInch);
         HtmlCanvasDocument.Write(output, engine, pages.SinglePage(), options);
     }
@@ -139,15 +146,9 @@ internal static class DrawingExporter
 
     private static RasterPage RasterizeSingle(Image image, ImageOptionsBase options)
     {
-        using TextEngine engine = PixelTextEngine(image, options);
+        using TextEngine engine = NewEngine(image, options);
         var pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.Pixels, Resolution(options));
         return RasterPage.Render(engine, pages.SinglePage());
-    }
-
-    internal static TextEngine PixelTextEngine(Image image, ImageOptionsBase options)
-    {
-        TextRenderingHint? hint = options.VectorRasterizationOptions?.GraphicsOptions?.TextRenderingHint;
-        return NewEngine(image, hint is TextRenderingHint.SingleBitPerPixel or TextRenderingHint.SingleBitPerPixelGridFit);
     }
 
     internal static double Resolution(ImageOptionsBase options) =>

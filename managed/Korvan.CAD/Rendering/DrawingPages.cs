@@ -18,7 +18,7 @@ internal sealed class DrawingPages : IRasterPages, IDisposable
 
     internal DrawingPages(Image image, ImageOptionsBase options)
     {
-        engine = DrawingExporter.PixelTextEngine(image, options);
+        engine = DrawingExporter.NewEngine(image, options);
         horizontal = DrawingExporter.Resolution(options);
         vertical = options.ResolutionSettings?.VerticalResolution ?? horizontal;
         pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.Pixels, horizontal);

@@ -205,7 +205,6 @@ public partial class CadImage : Image, IVectorImage
             return;
         }
 
-        options.VerifyHonoured();
         DrawingExporter.Export(this, options, stream);
     }
 

@@ -77,8 +77,9 @@ public sealed class CgmImage : Image, IVectorImage
     /// <summary>Draws the metafile. Another metafile is made command by command, unless its options ask for a page.</summary>
     internal override void Export(ImageOptionsBase options, Stream stream)
     {
-        options.VerifyHonoured();
-        if (options is CgmOptions { TextAsLines: false, VectorRasterizationOptions: null, UserWatermarkText: "" } own)
+        options.VerifyHonoured(DrawingExporter.KindOf(options));
+        OptionRules.VerifyMetafile(options);
+        if (options is CgmOptions { TextAsLines: false, VectorRasterizationOptions: null, UserWatermarkText: "", Layers: [] } own)
         {
             File.Save(stream, own.Encoding);
             return;

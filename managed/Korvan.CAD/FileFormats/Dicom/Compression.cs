@@ -5,7 +5,9 @@ namespace Korvan.CAD.FileFormats.Dicom;
 /// <summary>How the pixels of a DICOM file are stored.</summary>
 public class Compression
 {
-    private int _quality = 90;
+    internal const int UsualQuality = 90;
+
+    private int _quality = UsualQuality;
 
     /// <summary>Creates plain storage.</summary>
     public Compression()

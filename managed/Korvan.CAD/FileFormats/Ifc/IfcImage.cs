@@ -153,7 +153,7 @@ public sealed class IfcImage : Image
     /// <inheritdoc/>
     internal override void Export(ImageOptionsBase options, Stream stream)
     {
-        options.VerifyHonoured();
+        options.VerifyHonoured(OutputKind.Model);
         IfcSaver.Save(Model, Header, ((IfcOptions)options).IsPacked, stream);
     }
 

@@ -24,12 +24,12 @@ internal static class BmpWriter
         bool rle = options.Compression == BitmapCompression.Rle8;
         if (bits is not (1 or 4 or 8 or 24 or 32))
         {
-            throw new BmpImageException($"Bitmaps are written with 1, 4, 8, 24 or 32 bits a pixel, not {bits}.");
+            throw new BmpImageException($"Bitmaps are written with 1, 4, 8, 24 or 32 BitsPerPixel, not {bits}.");
         }
 
         if (options.Compression is not (BitmapCompression.Rgb or BitmapCompression.Rle8) || (rle && bits != 8))
         {
-            throw new BmpImageException($"Bitmaps of {bits} bits a pixel are not written with {options.Compression};"
+            throw new BmpImageException($"Bitmaps of {bits} bits a pixel are not written with the Compression {options.Compression};"
                 + " choose Rgb, or Rle8 with 8 bits.");
         }
 

@@ -83,7 +83,7 @@ internal sealed unsafe class GifWriter
     {
         if (options.Palette != null)
         {
-            return PaletteChoice.Given(options.Palette, 256);
+            return PaletteChoice.Given(options.Palette, options.MaxColors);
         }
 
         var colors = new ColorCount();

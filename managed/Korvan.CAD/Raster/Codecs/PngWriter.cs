@@ -59,7 +59,7 @@ internal static class PngWriter
         bool small = type is PngColorType.Grayscale or PngColorType.IndexedColor;
         if (options.BitDepth != 8 && !small)
         {
-            throw new PngImageException($"A PNG of {type} is written with 8 bits a sample, not {options.BitDepth}.");
+            throw new PngImageException($"A PNG of {type} is written with a BitDepth of 8 bits a sample, not {options.BitDepth}.");
         }
 
         return new PngHead(pixels.Width, pixels.Height, options.BitDepth, type);

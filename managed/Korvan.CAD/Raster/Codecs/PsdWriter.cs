@@ -27,12 +27,12 @@ internal static class PsdWriter
 
         if (options.CompressionMethod is not (CompressionMethod.Raw or CompressionMethod.Rle))
         {
-            throw new PsdImageException($"Merged pictures are written Raw or Rle, not {options.CompressionMethod}.");
+            throw new PsdImageException($"Merged pictures are written with the CompressionMethod Raw or Rle, not {options.CompressionMethod}.");
         }
 
         if (options.ColorMode is not (ColorModes.Rgb or ColorModes.Grayscale or ColorModes.Cmyk or ColorModes.Indexed))
         {
-            throw new PsdImageException($"PSD files are written as Rgb, Grayscale, Cmyk or Indexed, not as {options.ColorMode}.");
+            throw new PsdImageException($"PSD files are written with the ColorMode Rgb, Grayscale, Cmyk or Indexed, not {options.ColorMode}.");
         }
 
         bool alpha = options.ColorMode == ColorModes.Rgb && !pixels.IsOpaque();

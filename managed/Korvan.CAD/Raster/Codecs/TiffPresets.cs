@@ -1,4 +1,5 @@
 using System;
+using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.ImageOptions;
 
@@ -72,6 +73,23 @@ internal static class TiffPresets
         }
 
         return ValidateCompression(options.Compression, gray, bits, options.Photometric);
+    }
+
+    /// <summary>The options that hold for some combinations only: whether each is set, whether it is followed, and what
+    /// would be right.</summary>
+    internal static IEnumerable<(string Name, bool IsSet, bool IsFollowed, string Advice)> Conditions(TiffOptions options)
+    {
+        bool numbers = options.Photometric == TiffPhotometrics.Palette || options.BitsPerPixel < 8;
+        yield return (nameof(TiffOptions.Threshold), options.Threshold != TiffThresholds.NoDithering, numbers,
+            "choose a palette or fewer than 8 bits, as other pixels keep their colours");
+        yield return (nameof(TiffOptions.AlphaStorage), options.AlphaStorage != TiffAlphaStorage.Unassociated,
+            options.Photometric == TiffPhotometrics.Rgb && options.SamplesPerPixel == 4, "choose red, green, blue and a fourth sample");
+        yield return (nameof(TiffOptions.FillOrder), options.FillOrder != TiffFillOrders.Msb2Lsb, IsFax(options.Compression),
+            "choose a facsimile code");
+        yield return (nameof(TiffOptions.FaxT4Options), options.FaxT4Options != 0, options.Compression == TiffCompressions.CcittFax3,
+            "choose CcittFax3");
+        yield return (nameof(TiffOptions.CompressedQuality), options.CompressedQuality != TiffOptions.UsualQuality,
+            options.Compression == TiffCompressions.Jpeg, "choose Jpeg as compression");
     }
 
     internal static bool IsFax(TiffCompressions compression) =>

@@ -39,8 +39,8 @@ internal sealed unsafe class TiffWriter
         TiffOptionsError error = options.Validate();
         if (error != TiffOptionsError.NoError)
         {
-            throw new TiffImageException($"These options cannot be written: {error} (compression {options.Compression},"
-                + $" photometric {options.Photometric}, bits per sample {string.Join(' ', options.BitsPerSample)}).");
+            throw new TiffImageException($"These options cannot be written: {error} (Compression {options.Compression},"
+                + $" Photometric {options.Photometric}, BitsPerSample {string.Join(' ', options.BitsPerSample)}).");
         }
 
         List<int> chosen = PageChoice.Of(pages, options.MultiPageOptions);

@@ -1,4 +1,5 @@
 using System;
+using System.Collections.Generic;
 using Korvan.CAD.Rendering.DisplayList;
 using Korvan.CAD.Rendering.Geometry;
 using Korvan.CAD.Rendering.Native;
@@ -18,6 +19,18 @@ internal sealed unsafe class CairoPainter
     /// <summary>Far outside of any page; keeps coordinates inside cairo's fixed point range.</summary>
     private const double FarAway = 4_000_000;
     private const double SmallestText = 0.15;
+
+    /// <summary>That of cairo itself, in device units.</summary>
+    private const double UsualTolerance = 0.1;
+
+    private static readonly Dictionary<InterpolationMode, CairoFilter> Filters = new()
+    {
+        [InterpolationMode.Low] = CairoFilter.Fast,
+        [InterpolationMode.High] = CairoFilter.Best,
+        [InterpolationMode.Bilinear] = CairoFilter.Bilinear,
+        [InterpolationMode.Bicubic] = CairoFilter.Best,
+        [InterpolationMode.NearestNeighbor] = CairoFilter.Nearest,
+    };
 
     private readonly nint cr;
     private readonly TextEngine engine;
@@ -82,6 +95,7 @@ internal sealed unsafe class CairoPainter
             Cairo.Clip(cr);
         }
 
+        Cairo.SetTolerance(cr, UsualTolerance * settings.Coarseness);
         if (settings.Sharp)
         {
             Cairo.SetAntialias(cr, CairoAntialias.None);
@@ -248,7 +262,17 @@ internal sealed unsafe class CairoPainter
         matrix.Xy = -matrix.Xy;
         matrix.Yy = -matrix.Yy;
         Cairo.Transform(cr, &matrix);
-        engine.Show(cr, run);
+        if (settings.ExactText)
+        {
+            engine.Trace(cr, run);
+            Cairo.SetFillRule(cr, CairoFillRule.Winding);
+            Cairo.Fill(cr);
+        }
+        else
+        {
+            engine.Show(cr, run);
+        }
+
         Cairo.Restore(cr);
     }
 
@@ -270,7 +294,11 @@ internal sealed unsafe class CairoPainter
         CairoMatrix matrix = ToCairo(map * image.Matrix * toUnit);
         Cairo.Transform(cr, &matrix);
         Cairo.SetSourceSurface(cr, surface, 0, 0);
-        if (image.Sharp)
+        if (Filters.TryGetValue(settings.Interpolation, out CairoFilter filter))
+        {
+            Cairo.PatternSetFilter(Cairo.GetSource(cr), filter);
+        }
+        else if (image.Sharp)
         {
             Cairo.PatternSetFilter(Cairo.GetSource(cr), CairoFilter.Nearest);
         }

@@ -14,7 +14,7 @@ internal abstract class MetafilePlayer : PagePlayer
     protected MetafilePlayer(TextEngine engine, Page page, RenderNotes notes, double scale)
         : base(engine, page, notes, scale)
     {
-        _tolerance = 0.01 * page.Settings.UnitsPerMillimetre * scale;
+        _tolerance = 0.01 * page.Settings.UnitsPerMillimetre * scale * page.Settings.Coarseness;
     }
 
     /// <summary>How far a chord may lie from its curve, in device units.</summary>

@@ -7,6 +7,10 @@ namespace Korvan.CAD.Rendering.Devices;
 /// <summary>How one list is put on one surface.</summary>
 internal readonly record struct PaintSettings
 {
+    public PaintSettings()
+    {
+    }
+
     /// <summary>Drawing units to device units; the device's y runs down.</summary>
     internal required Affine2 ToDevice { get; init; }
 
@@ -27,6 +31,14 @@ internal readonly record struct PaintSettings
     internal bool Sharp { get; init; }
 
     internal LineCaps Caps { get; init; }
+
+    /// <summary>How far chords may lie from their curves, as a factor on what is usual.</summary>
+    internal double Coarseness { get; init; } = 1;
+
+    /// <summary>Texts are filled as exact outlines, not put down letter by letter on whole pixels.</summary>
+    internal bool ExactText { get; init; }
+
+    internal InterpolationMode Interpolation { get; init; }
 
     /// <summary>The part of the drawing that may show, in drawing units; null for all of it.</summary>
     internal Bounds2? Clip { get; init; }

@@ -13,11 +13,10 @@ namespace Korvan.CAD.Rendering.Mesh;
 /// <summary>The faces of one entity. An entity without faces, or whose corners are missing, adds none.</summary>
 internal static class EntityFaces
 {
-    private const int CircleSides = 64;
     private const int SplineFrameVertex = 16;
     private const int PolyfacePoint = 64;
 
-    internal static void Add(CadEntityBase entity, in Affine3 map, MeshPart part)
+    internal static void Add(CadEntityBase entity, in Affine3 map, MeshPart part, int circleSides)
     {
         switch (entity)
         {
@@ -39,7 +38,7 @@ internal static class EntityFaces
             case CadPolyline3D:
                 break;
             case CadExtrudedEntityBase { Thickness: not 0 } thick:
-                Thick(part, thick, map);
+                Thick(part, thick, map, circleSides);
                 break;
             case { TypeNameText: "MESH" }:
                 Subdivision(part, new TagCursor(entity.UnknownCodes), map);
@@ -129,7 +128,7 @@ internal static class EntityFaces
     }
 
     /// <summary>Lines become walls; a circle becomes a drum with its two lids.</summary>
-    private static void Thick(MeshPart part, CadExtrudedEntityBase entity, in Affine3 map)
+    private static void Thick(MeshPart part, CadExtrudedEntityBase entity, in Affine3 map, int sides)
     {
         Affine3 ocs = InObject(entity, map);
         Vec3 up = Vec3.UnitZ * entity.Thickness;
@@ -138,18 +137,18 @@ internal static class EntityFaces
             case CadArc arc:
                 double sweep = (arc.EndAngle - arc.StartAngle) % 360;
                 sweep = sweep <= 0 ? sweep + 360 : sweep;
-                Walls(part, ocs, Arc(V(arc.CenterPoint), arc.Radius, arc.StartAngle, sweep), closed: false, up);
+                Walls(part, ocs, Arc(V(arc.CenterPoint), arc.Radius, arc.StartAngle, sweep, sides), closed: false, up);
                 break;
             case CadCircle circle:
-                List<Vec3> ring = Arc(V(circle.CenterPoint), circle.Radius, 0, 360);
+                List<Vec3> ring = Arc(V(circle.CenterPoint), circle.Radius, 0, 360, sides);
                 ring.RemoveAt(ring.Count - 1);
                 Prism(part, circle, map, [.. ring]);
                 break;
             case CadLwPolyline polyline:
-                Fence(part, ocs, Line(polyline), polyline.IsClosed, polyline.Thickness);
+                Fence(part, ocs, Line(polyline, sides), polyline.IsClosed, polyline.Thickness);
                 break;
             case CadPolyline polyline:
-                Fence(part, ocs, Line(polyline), polyline.IsClosed, polyline.Thickness);
+                Fence(part, ocs, Line(polyline, sides), polyline.IsClosed, polyline.Thickness);
                 break;
             case CadLine line:
 
@@ -159,10 +158,10 @@ internal static class EntityFaces
         }
     }
 
-    private static List<Vec3> Arc(Vec3 center, double radius, double startDegrees, double sweepDegrees)
+    private static List<Vec3> Arc(Vec3 center, double radius, double startDegrees, double sweepDegrees, int sides)
     {
         List<Vec3> points = [];
-        int steps = Math.Max(2, (int)Math.Ceiling(CircleSides * sweepDegrees / 360));
+        int steps = Math.Max(2, (int)Math.Ceiling(sides * sweepDegrees / 360));
         for (int i = 0; i <= steps; i++)
         {
             (double sin, double cos) = Math.SinCos((startDegrees + (sweepDegrees * i / steps)) * Math.PI / 180);
@@ -172,7 +171,7 @@ internal static class EntityFaces
         return points;
     }
 
-    private static List<Vec3> Line(CadLwPolyline polyline)
+    private static List<Vec3> Line(CadLwPolyline polyline, int sides)
     {
         List<(Vec2 At, double Bulge)> vertices = [];
         for (int i = 0; i < polyline.Coordinates.Count; i++)
@@ -180,10 +179,10 @@ internal static class EntityFaces
             vertices.Add((new Vec2(polyline.Coordinates[i].X, polyline.Coordinates[i].Y), polyline.BulgeAt(i)));
         }
 
-        return Line(vertices, polyline.IsClosed, polyline.Elevation);
+        return Line(vertices, polyline.IsClosed, polyline.Elevation, sides);
     }
 
-    private static List<Vec3> Line(CadPolyline polyline)
+    private static List<Vec3> Line(CadPolyline polyline, int sides)
     {
         List<(Vec2 At, double Bulge)> vertices = [];
         foreach (CadVertexBase vertex in polyline.Vertices)
@@ -194,11 +193,11 @@ internal static class EntityFaces
             }
         }
 
-        return Line(vertices, polyline.IsClosed, polyline.Elevation.Z);
+        return Line(vertices, polyline.IsClosed, polyline.Elevation.Z, sides);
     }
 
     /// <summary>The vertices, and points on the arcs between them.</summary>
-    private static List<Vec3> Line(List<(Vec2 At, double Bulge)> vertices, bool closed, double elevation)
+    private static List<Vec3> Line(List<(Vec2 At, double Bulge)> vertices, bool closed, double elevation, int sides)
     {
         List<Vec3> points = [];
         for (int i = 0; i < vertices.Count; i++)
@@ -208,7 +207,7 @@ internal static class EntityFaces
             bool last = i + 1 == vertices.Count;
             if ((!last || closed) && BulgeArc.TryCreate(from, vertices[(i + 1) % vertices.Count].At, bulge, out BulgeArc arc))
             {
-                int steps = Math.Max(2, (int)Math.Ceiling(CircleSides * Math.Abs(arc.Sweep) / Math.Tau));
+                int steps = Math.Max(2, (int)Math.Ceiling(sides * Math.Abs(arc.Sweep) / Math.Tau));
                 for (int k = 1; k < steps; k++)
                 {
                     Vec2 p = arc.At((double)k / steps);

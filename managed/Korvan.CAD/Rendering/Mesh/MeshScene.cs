@@ -96,7 +96,7 @@ internal sealed class MeshScene
         }
 
         var part = new MeshPart(entity.ObjectHandle, entity.TypeNameText, layer.Name, _pens.PenOf(entity, layer, context).Color);
-        EntityFaces.Add(entity, context.Map, part);
+        EntityFaces.Add(entity, context.Map, part, _style.CircleSides);
         if (part.Triangles.Count == 0)
         {
             return;

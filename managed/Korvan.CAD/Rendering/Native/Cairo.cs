@@ -9,11 +9,11 @@ internal enum CairoFillRule { Winding = 0, EvenOdd = 1 }
 
 internal enum CairoLineCap { Butt = 0, Round = 1, Square = 2 }
 
-internal enum CairoFilter { Fast = 0, Good = 1, Best = 2, Nearest = 3 }
+internal enum CairoFilter { Fast = 0, Good = 1, Best = 2, Nearest = 3, Bilinear = 4 }
 
 internal enum CairoLineJoin { Miter = 0, Round = 1, Bevel = 2 }
 
-internal enum CairoAntialias { Default = 0, None = 1, Gray = 2, Fast = 4, Good = 5, Best = 6 }
+internal enum CairoAntialias { Default = 0, None = 1, Gray = 2, Subpixel = 3, Fast = 4, Good = 5, Best = 6 }
 
 internal enum CairoOperator { Clear = 0, Source = 1, Over = 2 }
 

@@ -34,25 +34,6 @@ internal sealed class ExportOptions
         cad = vector as CadRasterizationOptions;
     }
 
-    /// <summary>Throws for an option that is set but that drawing would not follow.</summary>
-    internal void Verify()
-    {
-        if (cad == null)
-        {
-            return;
-        }
-
-        if (cad.ShxFonts.Length > 0)
-        {
-            throw new RenderException("Compiled shape fonts are not read, installed outline fonts stand in for them; leave ShxFonts empty.");
-        }
-
-        if (cad.RenderMode3D != RenderMode3D.Wireframe)
-        {
-            throw new RenderException($"Bodies are drawn by their edges, not as {cad.RenderMode3D}; leave RenderMode3D at Wireframe.");
-        }
-    }
-
     internal RenderNotes Notes => options.Notes;
 
     internal IReadOnlyList<string> Layouts => cad?.Layouts ?? [];
@@ -68,8 +49,21 @@ internal sealed class ExportOptions
     /// <summary>Paper is white of itself; pixels have to be painted.</summary>
     internal bool PaintBackground => device == DeviceKind.Pixels || (vector?.EmbedBackground ?? false);
 
-    internal bool Sharp => vector?.GraphicsOptions?.SmoothingMode is SmoothingMode.None or SmoothingMode.HighSpeed
-        || cad?.Quality is { Arc: RasterizationQualityValue.Low, Text: RasterizationQualityValue.Low };
+    internal bool Sharp => vector?.GraphicsOptions?.SmoothingMode is SmoothingMode.None or SmoothingMode.HighSpeed;
+
+    internal double Coarseness => cad?.Quality.Arc switch
+    {
+        RasterizationQualityValue.Low => 10,
+        RasterizationQualityValue.High => 0.1,
+        _ => 1,
+    };
+
+    internal bool ExactText => cad?.Quality.Text == RasterizationQualityValue.High;
+
+    internal InterpolationMode Interpolation => vector?.GraphicsOptions?.InterpolationMode ?? InterpolationMode.Default;
+
+    /// <summary>Pixels an inch of a page whose content is a picture; nothing for what is usual.</summary>
+    internal double? BitmapResolution => options.ResolutionSettings?.HorizontalResolution;
 
     internal string Watermark => options.UserWatermarkText;
 
@@ -94,7 +88,14 @@ internal sealed class ExportOptions
             SingleColor = single ? ToRgba(cad!.DrawColor) : null,
             Layers = LayerFilter(),
             AsPlotted = cad != null && cad.VisibilityMode == VisibilityMode.AsPrint,
-            LineTypeScale = vector is { LineScale: > 0 } ? vector.LineScale : 1,
+            CoarseHatches = cad?.Quality.Hatch == RasterizationQualityValue.Low,
+            CircleSides = cad?.Quality.ObjectsPrecision switch
+            {
+                RasterizationQualityValue.Low => 16,
+                RasterizationQualityValue.High => 256,
+                _ => RenderStyle.UsualCircleSides,
+            },
+            LineTypeScale = vector?.LineScale ?? 1,
             ModelView = cad?.ObserverPoint is ObserverPoint eye
                 ? ViewTransform.Turned(eye.RotationAngleX, eye.RotationAngleY, eye.RotationAngleZ)
                 : Affine3.Identity,
@@ -129,7 +130,7 @@ internal sealed class ExportOptions
             Bottom = borderY + ((margins?.Bottom ?? 0) * unit),
             Fit = Fit(),
             UnitScale = unit,
-            Zoom = (cad?.Zoom ?? 1) * (vector is { RelativeScale: > 0 } ? vector.RelativeScale : 1),
+            Zoom = (cad?.Zoom ?? 1) * (vector?.RelativeScale ?? 1),
             Shift = vector == null ? default : new Vec2(vector.RelativePosition.X, vector.RelativePosition.Y),
             UnitsPerMillimetre = UnitsPerMillimetre,
             UsualSide = usual,

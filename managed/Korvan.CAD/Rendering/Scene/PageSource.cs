@@ -31,7 +31,6 @@ internal sealed class PageSource
         this.engine = engine;
         this.device = device;
         this.options = new ExportOptions(options, device, unitsPerInch);
-        this.options.Verify();
         format = options.TargetFormat.ToString();
         scene = image.OpenScene();
         layouts = scene.Choose(this.options.Layouts);
@@ -112,6 +111,9 @@ internal sealed class PageSource
         PaintBackground = options.PaintBackground,
         Sharp = options.Sharp,
         Caps = options.Caps,
+        Coarseness = options.Coarseness,
+        ExactText = options.ExactText && (device == DeviceKind.Pixels || options.AsBitmap),
+        Interpolation = options.Interpolation,
         Clip = clip,
     };
 
@@ -142,7 +144,7 @@ internal sealed class PageSource
     /// <summary>The page again, its content drawn into pixels that fill it.</summary>
     private Page AsBitmap(Page page)
     {
-        double perUnit = BitmapPerInch / (options.UnitsPerMillimetre * 25.4);
+        double perUnit = (options.BitmapResolution ?? BitmapPerInch) / (options.UnitsPerMillimetre * 25.4);
         double most = Math.Sqrt(MostBitmapPixels / (page.Width * page.Height));
         double k = Math.Min(perUnit, most);
         PaintSettings settings = page.Settings with
@@ -157,6 +159,6 @@ internal sealed class PageSource
         var place = new Affine2(page.Width, 0, 0, -page.Height, 0, page.Height);
         list.Image(
             new PlacedImage(raster.Width, raster.Height, raster.CopyPixels(), place, 1), -1, Bounds2.Of(0, 0, page.Width, page.Height));
-        return page with { List = list, Settings = page.Settings with { ToDevice = Affine2.Identity, Clip = null } };
+        return page with { List = list, Settings = page.Settings with { ToDevice = Affine2.Identity, Clip = null, Interpolation = InterpolationMode.Default } };
     }
 }

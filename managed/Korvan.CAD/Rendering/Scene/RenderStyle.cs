@@ -8,6 +8,8 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <summary>The choices of a caller that change what is put into the list.</summary>
 internal sealed record RenderStyle
 {
+    internal const int UsualCircleSides = 64;
+
     internal Rgba Background { get; init; } = Rgba.White;
 
     /// <summary>Everything in this colour, or null for the objects' own.</summary>
@@ -21,6 +23,12 @@ internal sealed record RenderStyle
 
     /// <summary>Leaves out layers that are not plotted, and shows line weights whatever the screen does.</summary>
     internal bool AsPlotted { get; init; }
+
+    /// <summary>Fills areas of a pattern evenly, in half its colour.</summary>
+    internal bool CoarseHatches { get; init; }
+
+    /// <summary>The chords that stand for a circle where curves become faces.</summary>
+    internal int CircleSides { get; init; } = UsualCircleSides;
 
     internal double LineTypeScale { get; init; } = 1;
 

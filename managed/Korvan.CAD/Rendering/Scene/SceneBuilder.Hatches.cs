@@ -35,6 +35,10 @@ internal sealed partial class SceneBuilder
         {
             canvas.FillLoops(loops, plane, pen, null);
         }
+        else if (style.CoarseHatches)
+        {
+            canvas.FillLoops(loops, plane, pen with { Color = pen.Color.WithAlpha((byte)(pen.Color.A / 2)) }, null);
+        }
         else
         {
             canvas.FillPattern(loops, Lines(hatch), plane, pen);

@@ -18,7 +18,6 @@ internal sealed unsafe class TextEngine : IDisposable
     private const int BoldWeight = 700;
     private const int NormalWeight = 400;
     private const int ItalicStyle = 2;
-    private const int HintNone = 1;
     private const int HintMetricsOff = 1;
     private const int MostCachedAdvances = 50_000;
     private const double UsualCapRatio = 0.7;
@@ -37,9 +36,9 @@ internal sealed unsafe class TextEngine : IDisposable
     private string? currentText;
     private double currentSpacing;
 
-    /// <summary>An engine; sharp ones draw letters without grey edges. Fonts of other folders than those of the system
-    /// are taken over, and released with the engine.</summary>
-    internal TextEngine(bool sharp = false, FontFolders? folders = null)
+    /// <summary>An engine. Fonts of other folders than those of the system are taken over, and released with the
+    /// engine.</summary>
+    internal TextEngine(LetterLook look = default, FontFolders? folders = null)
     {
         NativeLibraries.Require();
         this.folders = folders;
@@ -53,9 +52,9 @@ internal sealed unsafe class TextEngine : IDisposable
         Pango.CairoContextSetResolution(context, 72);
         Pango.ContextSetRoundGlyphPositions(context, 0);
         nint options = Cairo.FontOptionsCreate();
-        Cairo.FontOptionsSetHintStyle(options, HintNone);
+        Cairo.FontOptionsSetHintStyle(options, look.Hinting);
         Cairo.FontOptionsSetHintMetrics(options, HintMetricsOff);
-        Cairo.FontOptionsSetAntialias(options, sharp ? CairoAntialias.None : CairoAntialias.Gray);
+        Cairo.FontOptionsSetAntialias(options, look.Antialias);
         Pango.CairoContextSetFontOptions(context, options);
         Cairo.FontOptionsDestroy(options);
         layout = Pango.LayoutNew(context);
@@ -115,12 +114,21 @@ internal sealed unsafe class TextEngine : IDisposable
     /// <summary>Shows a run with its baseline along the x axis of the current matrix, one em to a unit, y down.</summary>
     internal void Show(nint cr, in TextRun run)
     {
+        Pango.CairoShowLayoutLine(cr, Start(cr, run));
+        Cairo.NewPath(cr);
+    }
+
+    /// <summary>Makes the outlines of a run the path, as <see cref="Show"/> would show them.</summary>
+    internal void Trace(nint cr, in TextRun run) => Pango.CairoLayoutLinePath(cr, Start(cr, run));
+
+    private nint Start(nint cr, in TextRun run)
+    {
         nint line = Shape(run.Font, run.Text, run.LetterSpacing);
         var scale = new CairoMatrix { Xx = 1 / EmSize, Yy = 1 / EmSize };
         Cairo.Transform(cr, &scale);
-        Cairo.MoveTo(cr, 0, 0);
-        Pango.CairoShowLayoutLine(cr, line);
         Cairo.NewPath(cr);
+        Cairo.MoveTo(cr, 0, 0);
+        return line;
     }
 
     /// <summary>Adds the outlines of a run; the matrix maps its ems, y up from the baseline.</summary>

@@ -103,9 +103,7 @@ public class CodecMatrixTests
         yield return ("webp opacity", () => new WebPOptions(), p => (p >>> 24) == 0 ? 0 : p, 0, "alpha");
         yield return ("jp2", () => new Jpeg2000Options(), Same, 0, "alpha");
         yield return ("j2k", () => new Jpeg2000Options { Codec = Jpeg2000Codec.J2K }, Same, 0, "noise");
-        yield return ("jpeg rgb", () => new JpegOptions { Quality = 100, ColorType = JpegCompressionColorMode.Rgb }, OnWhite, 4, "alpha");
         yield return ("jpeg grey", () => new JpegOptions { Quality = 100, ColorType = JpegCompressionColorMode.Grayscale }, Gray, 4, "noise");
-        yield return ("jpeg inks", () => new JpegOptions { Quality = 100, ColorType = JpegCompressionColorMode.Cmyk }, OnWhite, 8, "flat");
         foreach (JpegCompressionMode mode in Enum.GetValues<JpegCompressionMode>())
         {
             yield return ($"jpeg {mode}", () => new JpegOptions { Quality = 100, CompressionType = mode }, OnWhite, 6, "flat");

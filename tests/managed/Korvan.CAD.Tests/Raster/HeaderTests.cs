@@ -200,7 +200,7 @@ public class HeaderTests
         }
 
         foreach ((MultiPageOptions choice, int[] widths) in new[]
-            { (new MultiPageOptions(1, 2), new[] { 4, 12 }), (new MultiPageOptions { Pages = [2, 0, 2] }, [12, 10, 12]), (new MultiPageOptions(), [10, 4, 12]) })
+            { (new MultiPageOptions(1, 2), new[] { 4, 12 }), (new MultiPageOptions { FirstPage = 1 }, [4, 12]), (new MultiPageOptions { Pages = [2, 0, 2] }, [12, 10, 12]), (new MultiPageOptions(), [10, 4, 12]) })
         {
             using RasterCachedImage chosen = Samples.Load(Samples.Save(image, new TiffOptions { MultiPageOptions = choice }, ".tif"));
             Assert.Equal(widths, Enumerable.Range(0, chosen.PageCount).Select(i => chosen.GetPage(i).Width));
@@ -208,7 +208,7 @@ public class HeaderTests
 
         (MultiPageOptions Choice, string Why)[] refused =
         [
-            (new MultiPageOptions(2, 2), "2 of them from 2"), (new MultiPageOptions(-1, 1), "from -1"), (new MultiPageOptions(0, 0), "no page at all"),
+            (new MultiPageOptions(2, 2), "2 of them from 2"), (new MultiPageOptions(-1, 1), "from -1"), (new MultiPageOptions { Pages = [] }, "no page at all"),
             (new MultiPageOptions(int.MaxValue, int.MaxValue), "do not exist"), (new MultiPageOptions { Pages = [0, 3] }, "no page 3"),
             (new MultiPageOptions { ExportArea = new Rectangle(0, 0, 5, 5) }, "page 1"), (new MultiPageOptions { PageTitles = ["x"] }, "\"x\""),
         ];

@@ -83,7 +83,7 @@ public class WriterTests
     public void Black_and_white_pages_are_the_thresholded_picture(TiffExpectedFormat format, string compression)
     {
         using var image = Samples.Colors();
-        string file = Samples.Save(image, new TiffOptions(format) { FillOrder = TiffFillOrders.Lsb2Msb }, ".tif");
+        string file = Samples.Save(image, new TiffOptions(format) { FillOrder = format == TiffExpectedFormat.TiffLzwBw ? TiffFillOrders.Msb2Lsb : TiffFillOrders.Lsb2Msb }, ".tif");
         Assert.Contains(compression, Tools.Run("tiffinfo", file));
         image.BinarizeFixed(128);
         Assert.Equal(0, Samples.Difference(file, Samples.Save(image, new PngOptions(), ".png")));
@@ -153,7 +153,7 @@ public class WriterTests
     public void Medical_viewers_read_dicom(ColorType color, CompressionType compression, double most)
     {
         using var image = Samples.Colors();
-        string file = Samples.Save(image, new DicomOptions { ColorType = color, Compression = new Compression(compression) { Quality = 95 } }, ".dcm");
+        string file = Samples.Save(image, new DicomOptions { ColorType = color, Compression = new Compression(compression) { Quality = compression == CompressionType.Jpeg ? 95 : 90 } }, ".dcm");
         Tools.Run("dcmdump", file);
         string picture = Tools.TempFile(".pnm");
         Tools.Run("dcmj2pnm", ["--write-raw-pnm", .. color == ColorType.Grayscale16Bit ? new[] { "+Wi", "1" } : [], file, picture]);

@@ -34,7 +34,7 @@ internal sealed class DxfSaver
 
     internal static void Save(CadImage image, DxfOptions options, Stream stream)
     {
-        options.VerifyHonoured();
+        options.VerifyHonoured(OutputKind.Model);
         CadAcadVersion version = ChooseVersion(image, options.Version);
         DrawingIntegrity.Prepare(image, DxfRelease.Year(version));
         new DxfSaver(image, version, stream).Write();

@@ -1,0 +1,77 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using System.Reflection;
+using System.Text.RegularExpressions;
+using Korvan.CAD.ImageOptions;
+
+namespace Korvan.CAD.Tests.Options;
+
+/// <summary>A member that can be set, with the way to it from the object that is handed over.</summary>
+internal sealed class OptionMember
+{
+    private readonly PropertyInfo[] _way;
+
+    private OptionMember(Type root, PropertyInfo[] way)
+    {
+        Root = root;
+        _way = way;
+    }
+
+    internal Type Root { get; }
+
+    internal string Path => string.Join('.', _way.Select(static step => step.Name));
+
+    internal string HolderPath => string.Join('.', _way.SkipLast(1).Select(static step => step.Name));
+
+    internal PropertyInfo Property => _way[^1];
+
+    /// <summary>All members below a class that can be set, those of the objects it is made of in their place.</summary>
+    internal static IEnumerable<OptionMember> Of(Type root) => Walk(root, root, []);
+
+    /// <summary>Makes what the member stands in, where it is missing, and gives it.</summary>
+    internal object Holder(object root)
+    {
+        foreach (PropertyInfo step in _way.SkipLast(1))
+        {
+            object? next = step.GetValue(root);
+            if (next is null)
+            {
+                next = OptionValues.New(step.PropertyType);
+                step.SetValue(root, next);
+            }
+
+            root = next;
+        }
+
+        return root;
+    }
+
+    internal void Set(object root, object? value) =>
+        Property.SetValue(Holder(root), value, BindingFlags.DoNotWrapExceptions, null, null, null);
+
+    /// <summary>Tells whether a message names the member, or what it stands in.</summary>
+    internal bool IsNamedBy(string message) => _way.Any(step => Regex.IsMatch(message, $@"\b{step.Name}\b(?!\.\w)"));
+
+    public override string ToString() => $"{Root.Name}.{Path}";
+
+    private static IEnumerable<OptionMember> Walk(Type root, Type type, PropertyInfo[] way)
+    {
+        foreach (PropertyInfo property in type.GetProperties(BindingFlags.Public | BindingFlags.Instance))
+        {
+            PropertyInfo[] further = [.. way, property];
+            bool settable = property.SetMethod is { IsPublic: true };
+            if (OptionValues.IsGroup(property.PropertyType))
+            {
+                foreach (OptionMember inner in Walk(root, OptionValues.Concrete(property.PropertyType), further))
+                {
+                    yield return inner;
+                }
+            }
+            else if (settable && property.GetIndexParameters().Length == 0)
+            {
+                yield return new OptionMember(root, further);
+            }
+        }
+    }
+}
