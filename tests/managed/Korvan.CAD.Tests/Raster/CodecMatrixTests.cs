@@ -11,6 +11,7 @@ using Korvan.CAD.FileFormats.Png;
 using Korvan.CAD.FileFormats.Psd;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Tests.Rendering;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Raster;
@@ -55,6 +56,52 @@ public class CodecMatrixTests
             }
         }
     }
+
+    // ImageMagick reads no palette of a PSD, and gives those of bitmaps an opacity that it never set.
+    public static IEnumerable<object[]> Judged => Names.Where(static name =>
+        !((string)name[0]).StartsWith("psd palette", StringComparison.Ordinal) && name[0] is not ("bmp 1" or "bmp 4" or "bmp 8" or "bmp 8 runs" or "bmp 8 no runs"));
+
+    [Theory]
+    [MemberData(nameof(Judged))]
+    public void Another_program_reads_the_same_pixels(string name)
+    {
+        (_, Func<ImageOptionsBase> options, _, _, string contents) = Ways.Single(way => way.Name == name);
+        int[] pixels = Contents(contents, 31, 5);
+        using var image = Samples.Of(31, 5, (x, y) => pixels[(y * 31) + x]);
+        string file = Samples.Save(image, options(), name.StartsWith("j2k", StringComparison.Ordinal) ? ".j2k" : Extensions[options().TargetFormat]);
+        using RasterCachedImage back = Samples.Load(file);
+        if (back.FileFormat == FileFormat.Psd)
+        {
+            // It takes a fourth channel for a mask beside a picture that is on white already.
+            for (int i = 0; i < pixels.Length; i++)
+            {
+                back.SetArgb32Pixel(i % 31, i / 31, OnWhite(back.GetArgb32Pixel(i % 31, i / 31)));
+            }
+        }
+
+        string shown = file;
+        if (back.FileFormat == FileFormat.Dicom)
+        {
+            shown = Tools.TempFile(".pnm");
+            Tools.Run("dcmj2pnm", "--write-raw-pnm", file, shown);
+        }
+
+        Assert.InRange(Samples.LargestDifference(back, shown, "[0]"), 0, 1);
+        File.Delete(shown);
+    }
+
+    private static readonly Dictionary<FileFormat, string> Extensions = new()
+    {
+        [FileFormat.Bmp] = ".bmp",
+        [FileFormat.Dicom] = ".dcm",
+        [FileFormat.Gif] = ".gif",
+        [FileFormat.Jpeg] = ".jpg",
+        [FileFormat.Jpeg2000] = ".jp2",
+        [FileFormat.Png] = ".png",
+        [FileFormat.Psd] = ".psd",
+        [FileFormat.Tiff] = ".tif",
+        [FileFormat.Webp] = ".webp",
+    };
 
     private static IEnumerable<(string Name, Func<ImageOptionsBase> Options, Func<int, int> Meaning, int Most, string Contents)> All()
     {
