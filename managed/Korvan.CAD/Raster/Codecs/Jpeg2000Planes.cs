@@ -29,7 +29,7 @@ internal static unsafe class Jpeg2000Planes
                 samples[colors] = 255;
                 for (int c = 0; c < Math.Min(count, colors + 1); c++)
                 {
-                    samples[c] = Sample(image->Components[c], x, y);
+                    samples[c] = Sample(image->Components[c], image->X0 + x, image->Y0 + y);
                 }
 
                 row[x] = Pixel(samples, inks, image->Colors);
@@ -64,11 +64,12 @@ internal static unsafe class Jpeg2000Planes
         return (Part(y + (1.402 * cr)) << 16) | (Part(y - (0.344136 * cb) - (0.714136 * cr)) << 8) | Part(y + (1.772 * cb));
     }
 
-    private static int Sample(in OpenJpeg.Component plane, int x, int y)
+    // The place is one of the reference grid, on which the picture may begin anywhere.
+    private static int Sample(in OpenJpeg.Component plane, long x, long y)
     {
-        int column = Math.Min((int)(x / plane.Dx), (int)plane.Width - 1);
-        int row = Math.Min((int)(y / plane.Dy), (int)plane.Height - 1);
-        long value = plane.Data[((long)row * plane.Width) + column];
+        long column = Math.Clamp((x / plane.Dx) - plane.X0, 0, plane.Width - 1);
+        long row = Math.Clamp((y / plane.Dy) - plane.Y0, 0, plane.Height - 1);
+        long value = plane.Data[(row * plane.Width) + column];
         int bits = (int)plane.Precision;
         value += plane.Signed != 0 ? 1L << (bits - 1) : 0;
         long most = (1L << bits) - 1;

@@ -161,6 +161,12 @@ internal static unsafe partial class OpenJpeg
         [FieldOffset(12)]
         public uint Height;
 
+        [FieldOffset(16)]
+        public uint X0;
+
+        [FieldOffset(20)]
+        public uint Y0;
+
         [FieldOffset(24)]
         public uint Precision;
 

@@ -162,6 +162,25 @@ public class ReaderTests
         Assert.InRange(Samples.LargestDifference(image, shown), 0, 2);
     }
 
+    [Theory]
+    [InlineData("2x2", 864 * 2, "2,2")]
+    [InlineData("2x2", 864 * 2, "3,5")]
+    [InlineData("2x1", 1152 * 2, "1,0")]
+    public void Thinned_planes_of_jpeg_2000_lie_where_the_grid_puts_them(string thinned, int bytes, string origin)
+    {
+        string raw = Tools.TempFile(".raw");
+        string file = Tools.TempFile(".jp2");
+        string shown = Tools.TempFile(".png");
+        File.WriteAllBytes(raw, [.. Enumerable.Range(0, bytes).Select(i => (byte)((i * 5) + (i / 48 * 3)))]);
+        Tools.Run("opj_compress", "-i", raw, "-o", file, "-n", "3", "-d", origin, "-F", $"48,24,3,8,u@1x1:{thinned}:{thinned}");
+        Tools.Run("opj_decompress", "-i", file, "-o", shown);
+        using RasterCachedImage image = Samples.Load(file);
+
+        // Before an odd origin the other program has no colour for the first row and column.
+        image.Crop(new Rectangle(1, 1, 47, 23));
+        Assert.InRange(Samples.LargestDifference(image, shown, "[47x23+1+1]"), 0, 1);
+    }
+
     [Fact]
     public void Frames_of_an_animation_are_seen_as_a_player_shows_them()
     {
