@@ -117,7 +117,7 @@ public abstract partial class RasterImage
             {
                 Exif = image.ExifData,
                 Xmp = image.XmpData,
-            };
+            }.Turned(options.Rotation);
         }
     }
 }

@@ -24,6 +24,10 @@ public abstract class ImageOptionsBase : DisposableObject
     /// <see cref="CadOutputMode.Render"/> is written so far.</summary>
     public CadOutputMode OutputMode { get; set; } = CadOutputMode.Render;
 
+    /// <summary>Gets or sets how the pixels of each page are turned and mirrored before they are written; formats without
+    /// pixels refuse it. As they are by default.</summary>
+    public RotateFlipType Rotation { get; set; }
+
     /// <summary>Gets or sets the names of the layers to draw; empty for all. Upper and lower case are the
     /// same.</summary>
     public string[] Layers { get; set; } = [];

@@ -16,6 +16,8 @@ internal static class OptionRules
     private static readonly Rule<ImageOptionsBase>[] Common =
     [
         new(nameof(ImageOptionsBase.OutputMode), OutputKind.Model, static o => o.OutputMode != CadOutputMode.Render, "leave it at Render"),
+        new(nameof(ImageOptionsBase.Rotation), OutputKind.Pixels | OutputKind.Picture, static o => o.Rotation != RotateFlipType.RotateNoneFlipNone,
+            "pixels are turned, lines and texts are not; leave it at RotateNoneFlipNone, or write a format of pixels"),
         new(nameof(ImageOptionsBase.Layers), Colored, static o => o.Layers.Length > 0),
         new(nameof(ImageOptionsBase.Palette), Nothing, static o => o.Palette is not null && !o.UsesPalette,
             "only pixels that are numbers of colours have one; choose such a format and such a kind of pixels"),

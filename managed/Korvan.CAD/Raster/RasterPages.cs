@@ -4,6 +4,7 @@ using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Exif;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Raster.Operations;
 
 namespace Korvan.CAD.Raster;
 
@@ -24,6 +25,26 @@ internal sealed record RasterPageData(PixelGrid Pixels, double HorizontalResolut
     internal ExifData? Exif { get; init; }
 
     internal XmpPacketWrapper? Xmp { get; init; }
+
+    /// <summary>The page turned and mirrored; it stands in for this one, which ends.</summary>
+    internal RasterPageData Turned(RotateFlipType type)
+    {
+        if (type == RotateFlipType.RotateNoneFlipNone)
+        {
+            return this;
+        }
+
+        using (this)
+        {
+            bool swap = ((int)type & 1) != 0;
+            return this with
+            {
+                Pixels = Turns.Turn(Pixels, type),
+                HorizontalResolution = swap ? VerticalResolution : HorizontalResolution,
+                VerticalResolution = swap ? HorizontalResolution : VerticalResolution,
+            };
+        }
+    }
 
     public void Dispose() => Pixels.Dispose();
 }

@@ -15,6 +15,7 @@ internal sealed class DrawingPages : IRasterPages, IDisposable
     private readonly PageSource pages;
     private readonly double horizontal;
     private readonly double vertical;
+    private readonly RotateFlipType rotation;
 
     internal DrawingPages(Image image, ImageOptionsBase options)
     {
@@ -23,6 +24,7 @@ internal sealed class DrawingPages : IRasterPages, IDisposable
         vertical = options.ResolutionSettings?.VerticalResolution ?? horizontal;
         pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.Pixels, horizontal);
         Titles = pages.Titles;
+        rotation = options.Rotation;
     }
 
     public IReadOnlyList<string> Titles { get; }
@@ -30,7 +32,7 @@ internal sealed class DrawingPages : IRasterPages, IDisposable
     public RasterPageData Render(int index)
     {
         RasterPage page = RasterPage.Render(engine, pages.PageAt(index));
-        return new RasterPageData(page.ToGrid(), horizontal, vertical);
+        return new RasterPageData(page.ToGrid(), horizontal, vertical).Turned(rotation);
     }
 
     public void Dispose() => engine.Dispose();

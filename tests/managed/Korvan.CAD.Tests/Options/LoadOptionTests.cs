@@ -6,6 +6,7 @@ using System.Text;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Sources;
 using Korvan.CAD.Tests.FileFormats.Cad;
 using Korvan.CAD.Tests.Raster;
 using Xunit;
@@ -87,6 +88,28 @@ public class LoadOptionTests
         byte[] gray = image.LoadRawData(part, indexed);
         indexed.ColorPalette = ColorPaletteHelper.Create8Bit();
         Assert.NotEqual(gray, image.LoadRawData(part, indexed));
+    }
+
+    [Fact]
+    public void Sources_open_what_they_say()
+    {
+        string file = Path.Combine(Folder("sources"), "a.bin");
+        using (StreamContainer made = new FileCreateSource(file).GetStreamContainer())
+        {
+            made.Stream.Write([1, 2, 3]);
+        }
+
+        using (StreamContainer opened = new FileOpenSource(file).GetStreamContainer())
+        {
+            Assert.Equal((3, false), (opened.Stream.Length, opened.Stream.CanWrite));
+        }
+
+        foreach (bool close in new[] { false, true })
+        {
+            var stream = new MemoryStream();
+            new StreamSource(stream, close).GetStreamContainer().Dispose();
+            Assert.Equal(!close, stream.CanRead);
+        }
     }
 
     /// <summary>All that a caller sees of a file: its content, the errors, or why it could not be read or drawn.</summary>

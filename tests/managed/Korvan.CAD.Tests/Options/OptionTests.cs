@@ -7,6 +7,7 @@ using System.Text.RegularExpressions;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
+using Korvan.CAD.Tests.Raster;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Options;
@@ -14,6 +15,9 @@ namespace Korvan.CAD.Tests.Options;
 /// <summary>Every option changes what is written, or is refused by its name. None is passed over in silence.</summary>
 public partial class OptionTests
 {
+    private static readonly Lazy<Dictionary<string, HashSet<Type>>> Taken =
+        new(static () => OptionSamples.All.ToDictionary(static row => row.Key, static row => TakenBy(row.Value)));
+
     private enum Outcome
     {
         Same,
@@ -68,6 +72,29 @@ public partial class OptionTests
         }
     }
 
+    [Fact]
+    public void Pixels_are_turned_as_a_picture_is()
+    {
+        using var image = Samples.Colors(12, 7);
+        var options = new PngOptions { Rotation = RotateFlipType.Rotate90FlipX, ResolutionSettings = new ResolutionSetting(50, 100) };
+        using RasterCachedImage turned = Samples.Load(Samples.Save(image, options, ".png"));
+        image.RotateFlip(RotateFlipType.Rotate90FlipX);
+        Assert.Equal(image.LoadArgb32Pixels(image.Bounds), turned.LoadArgb32Pixels(turned.Bounds));
+        Assert.Equal((7, 12, 100.0), (turned.Width, turned.Height, Math.Round(turned.HorizontalResolution)));
+    }
+
+    [Fact]
+    public void Each_export_tells_what_became_of_it()
+    {
+        foreach (Func<Image> make in OptionSamples.All.Values)
+        {
+            using Image image = make();
+            ImageOptionsBase options = New(image.ExportOptionTypes.First());
+            image.Save(Stream.Null, options);
+            Assert.True(options.RenderResult!.IsRenderComplete, options.RenderResult.Message);
+        }
+    }
+
     private static string? Judge(Saver saver, string source, OptionMember member, object? value)
     {
         bool expected = OptionExpectations.IsSame(source, member, value);
@@ -88,10 +115,12 @@ public partial class OptionTests
 
     private static ImageOptionsBase New(Type type) => (ImageOptionsBase)Activator.CreateInstance(type)!;
 
-    private static bool Takes(string source, Type type)
+    private static bool Takes(string source, Type type) => Taken.Value[source].Contains(type);
+
+    private static HashSet<Type> TakenBy(Func<Image> make)
     {
-        using Image image = OptionSamples.All[source]();
-        return image.CanSave(New(type));
+        using Image image = make();
+        return [.. OptionTypes().Where(type => image.CanSave(New(type)))];
     }
 
     private static IEnumerable<Type> OptionTypes() =>
