@@ -203,7 +203,17 @@ public abstract partial class Image : DataStreamSupporter
     {
         long start = Stopwatch.GetTimestamp();
         options.RenderResult = null;
-        Export(options, stream);
+        if (options.Source is null)
+        {
+            Export(options, stream);
+        }
+        else
+        {
+            using var output = new MemoryStream();
+            Export(options, output);
+            ImageSaver.WriteTwice(output, stream, options.Source);
+        }
+
         options.RenderResult ??= new CadRenderResult([], Stopwatch.GetElapsedTime(start));
     }
 

@@ -44,6 +44,10 @@ public class LoadOptions
     /// was wrong is added to <see cref="Errors"/>. By default damage ends the load.</summary>
     public bool IgnoreErrors { get; set; }
 
+    /// <summary>Gets or sets the colour of pixels that a damaged BMP or PSD file does not hold, when <see cref="IgnoreErrors"/>
+    /// lets it load; empty for what each format has there: black, or nothing.</summary>
+    public Color DataBackgroundColor { get; set; }
+
     /// <summary>Gets what was wrong with the file, one message for each object left out.</summary>
     public List<string> Errors { get; } = [];
 }

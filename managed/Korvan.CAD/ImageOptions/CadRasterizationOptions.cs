@@ -66,6 +66,14 @@ public class CadRasterizationOptions : VectorRasterizationOptions
     /// setting any is refused.</summary>
     public string[] ShxFonts { get; set; } = [];
 
+    /// <summary>Gets or sets the code pages of the texts that compiled shape fonts draw. Such fonts are not read yet: setting any is
+    /// refused.</summary>
+    public CodePages[] ShxCodePages { get; set; } = [];
+
+    /// <summary>Gets or sets where a program lies that writes PDF. The library writes PDF by itself: setting any is
+    /// refused.</summary>
+    public string PdfProductLocation { get; set; } = "";
+
     /// <summary>Gets or sets how bodies and faces in space are drawn. Other modes than
     /// <see cref="RenderMode3D.Wireframe"/> are refused so far.</summary>
     public RenderMode3D RenderMode3D { get; set; } = RenderMode3D.Wireframe;

@@ -32,6 +32,17 @@ public abstract class ImageOptionsBase : DisposableObject
     /// same.</summary>
     public string[] Layers { get; set; } = [];
 
+    /// <summary>Gets or sets a second place that all that is written goes to, beside the file or stream that saving names;
+    /// nothing for none. It is opened when the output is whole.</summary>
+    public Source? Source { get; set; }
+
+    /// <summary>Gets or sets whether the page of a sheet shows the region that its content takes, instead of its paper, at the
+    /// scale of the paper. What has no paper always shows its content. Off by default.</summary>
+    public bool RenderToGraphicsBound { get; set; }
+
+    /// <summary>Gets or sets the path of a plotter configuration. Such files are not read yet: setting any is refused.</summary>
+    public string Pc3File { get; set; } = "";
+
     /// <summary>Gets or sets the colours that pixels become numbers of, for formats and options that have a palette;
     /// nothing for colours that are chosen for the picture.</summary>
     public IColorPalette? Palette { get; set; }

@@ -7,6 +7,7 @@ namespace Korvan.CAD.ImageOptions;
 public abstract class VectorRasterizationOptions : DisposableObject
 {
     private float _pageWidth;
+    private float _pageDepth;
     private float _pageHeight;
     private double _lineScale = 1;
     private double _relativeScale = 1;
@@ -52,6 +53,13 @@ public abstract class VectorRasterizationOptions : DisposableObject
             PageWidth = value.Width;
             PageHeight = value.Height;
         }
+    }
+
+    /// <summary>Gets or sets the extent of the page in depth. Pages are flat so far: anything but 0 is refused.</summary>
+    public float PageDepth
+    {
+        get => _pageDepth;
+        set => _pageDepth = Length(value);
     }
 
     /// <summary>Gets or sets the colour of the page. White by default.</summary>

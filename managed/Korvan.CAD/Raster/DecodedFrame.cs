@@ -39,5 +39,20 @@ internal sealed class DecodedFile
 /// <summary>The bytes of a file, and the name that messages call it by.</summary>
 internal sealed record RasterSource(byte[] Data, string Name, bool Lenient)
 {
+    /// <summary>The colour of pixels that the file does not hold; nothing for that of its format.</summary>
+    internal int? Background { get; init; }
+
+    /// <summary>Pixels to read into, which have the colour of those that may be missing.</summary>
+    internal PixelGrid NewGrid(int width, int height)
+    {
+        var pixels = new PixelGrid(width, height);
+        if (Lenient && Background is int color)
+        {
+            pixels.Fill(color);
+        }
+
+        return pixels;
+    }
+
     internal ReadOnlySpan<byte> Bytes => Data;
 }

@@ -24,11 +24,11 @@ internal static class RasterLoader
 
     internal static bool CanRead(FileFormat format) => Readers.ContainsKey(format);
 
-    internal static DecodedFile Decode(byte[] data, string name, FileFormat format, bool lenient)
+    internal static DecodedFile Decode(byte[] data, string name, FileFormat format, bool lenient, int? background = null)
     {
         try
         {
-            return Readers[format](new RasterSource(data, name, lenient));
+            return Readers[format](new RasterSource(data, name, lenient) { Background = background });
         }
         catch (ArgumentOutOfRangeException e)
         {
@@ -42,7 +42,7 @@ internal static class RasterLoader
 
     internal static Image Load(byte[] data, string name, FileFormat format, LoadOptions options)
     {
-        DecodedFile file = Decode(data, name, format, options.IgnoreErrors);
+        DecodedFile file = Decode(data, name, format, options.IgnoreErrors, options.DataBackgroundColor.IsEmpty ? null : options.DataBackgroundColor.ToArgb());
         return format == FileFormat.Bmp ? new BitmapImage(file) : new RasterFileImage(file);
     }
 }

@@ -79,7 +79,10 @@ public sealed class CgmImage : Image, IVectorImage
     {
         options.VerifyHonoured(DrawingExporter.KindOf(options));
         OptionRules.VerifyMetafile(options);
-        if (options is CgmOptions { TextAsLines: false, VectorRasterizationOptions: null, UserWatermarkText: "", Layers: [] } own)
+        if (options is CgmOptions
+            {
+                TextAsLines: false, VectorRasterizationOptions: null, UserWatermarkText: "", Layers: [], RenderToGraphicsBound: false,
+            } own)
         {
             File.Save(stream, own.Encoding);
             return;

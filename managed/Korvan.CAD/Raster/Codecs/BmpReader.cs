@@ -183,8 +183,9 @@ internal sealed class BmpReader
             throw Damaged($"{width} × {height} pixels of {bits} bits need {needed} bytes, but {data.Length} are left");
         }
 
-        var pixels = new PixelGrid(width, height);
+        PixelGrid pixels = source.NewGrid(width, height);
         bool opacity = false;
+        int read = 0;
         for (int y = 0; y < height && (y + 1) * rowBytes <= data.Length + rowBytes - 1; y++)
         {
             int start = (int)(y * rowBytes);
@@ -196,11 +197,15 @@ internal sealed class BmpReader
 
             Span<int> to = pixels.Row(topDown ? y : height - 1 - y);
             opacity |= Unpack(from, to);
+            read++;
         }
 
         if (bits >= 16 && !opacity)
         {
-            MakeOpaque(pixels);
+            for (int y = 0; y < read; y++)
+            {
+                MakeOpaque(pixels.Row(topDown ? y : height - 1 - y));
+            }
         }
 
         return pixels;
@@ -253,14 +258,11 @@ internal sealed class BmpReader
     }
 
     // Many programs leave the fourth byte at 0 and mean opaque pixels.
-    private static void MakeOpaque(PixelGrid pixels)
+    private static void MakeOpaque(Span<int> row)
     {
-        for (int y = 0; y < pixels.Height; y++)
+        foreach (ref int pixel in row)
         {
-            foreach (ref int pixel in pixels.Row(y))
-            {
-                pixel |= PixelGrid.Opaque;
-            }
+            pixel |= PixelGrid.Opaque;
         }
     }
 

@@ -156,7 +156,7 @@ internal sealed class PsdReader
             planes[c] = new byte[RowBytes];
         }
 
-        var pixels = new PixelGrid(width, height);
+        PixelGrid pixels = source.NewGrid(width, height);
         try
         {
             for (int y = 0; y < height; y++)

@@ -40,6 +40,8 @@ internal sealed class ExportOptions
 
     internal bool FitEachLayout => cad?.AutomaticLayoutsScaling ?? true;
 
+    internal bool ContentOnly => options.RenderToGraphicsBound;
+
     internal bool WholeLayoutContent => cad?.ExportAllLayoutContent ?? false;
 
     internal bool AsBitmap => vector?.ContentAsBitmap ?? false;

@@ -66,9 +66,9 @@ internal sealed class PageSource
     {
         DrawingList list = scene.Build(layout, options.Style(), engine);
         PaperSheet? sheet = layout.Sheet;
-        if (sheet is PaperSheet paper && options.WholeLayoutContent)
+        if (sheet is PaperSheet paper && (options.ContentOnly ? !list.Bounds.IsEmpty : options.WholeLayoutContent))
         {
-            Bounds2 all = paper.Region;
+            Bounds2 all = options.ContentOnly ? list.Bounds : paper.Region;
             all.Add(list.Bounds);
             double grow = paper.Region.Width > 0 ? paper.WidthMm / paper.Region.Width : 1;
             sheet = new PaperSheet(all, all.Width * grow, all.Height * grow);

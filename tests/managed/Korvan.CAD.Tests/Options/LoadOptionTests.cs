@@ -33,6 +33,7 @@ public class LoadOptionTests
         ["CustomFontFolders"] = (() => Letters, new[] { Folder("empty") }, Nothing),
         ["CustomFontFolderOptions"] = (() => Letters, CustomFontFolderOptions.IncludeSubfolders, static o => o.CustomFontFolders = [Path.GetDirectoryName(Fonts.Value)!]),
         ["UnloadOnDispose"] = (() => Letters, true, Nothing),
+        ["DataBackgroundColor"] = (() => Cut(new BmpOptions(), 0.7), Color.Black, static o => (o.IgnoreErrors, o.VectorizationOptions) = (true, new VectorizationOptions())),
         ["IgnoreErrors"] = (() => Broken, true, Nothing),
         ["VectorizationOptions.Method"] = (() => Scan.Value, VectorizationMethod.PaperToCad, Nothing),
         ["VectorizationOptions.Threshold"] = (() => Scan.Value, 250, Nothing),
@@ -112,6 +113,42 @@ public class LoadOptionTests
         }
     }
 
+    [Fact]
+    public void Pixels_that_a_cut_file_does_not_hold_have_the_colour_that_is_asked_for()
+    {
+        var background = Color.FromArgb(255, 10, 200, 30);
+        var options = new LoadOptions { IgnoreErrors = true, DataBackgroundColor = background };
+        foreach ((ImageOptionsBase format, double part) in new (ImageOptionsBase, double)[]
+        {
+            (new BmpOptions(), 0.7), (new PsdOptions(), 0.97),
+        })
+        {
+            using var image = (RasterImage)Image.Load(new MemoryStream(Cut(format, part)), options);
+            int missing = Enumerable.Range(0, image.Height).Count(y => image.GetArgb32Pixel(3, y) == background.ToArgb());
+            Assert.InRange(missing, 1, image.Height / 2);
+        }
+    }
+
+    [Fact]
+    public void Output_goes_to_the_source_of_the_options_too_or_nowhere()
+    {
+        using var image = Samples.Colors(5, 4);
+        string file = Path.Combine(Folder("second"), "copy.png");
+        using var first = new MemoryStream();
+        using var second = new MemoryStream();
+        image.Save(first, new PngOptions { Source = new FileCreateSource(file) });
+        Assert.Equal(first.ToArray(), File.ReadAllBytes(file));
+        image.Save(new MemoryStream(), new PngOptions { Source = new StreamSource(second) });
+        Assert.Equal(first.ToArray(), second.ToArray());
+        using var third = new MemoryStream();
+        foreach (Source refused in new Source[] { new FileOpenSource(file), new FileCreateSource(Path.Combine(file, "below")) })
+        {
+            Assert.Contains("of the options", Assert.Throws<ImageSaveException>(() => image.Save(third, new PngOptions { Source = refused })).Message);
+        }
+
+        Assert.Equal(0, third.Length);
+    }
+
     /// <summary>All that a caller sees of a file: its content, the errors, or why it could not be read or drawn.</summary>
     private static string Load(byte[] file, OptionMember member, Action<LoadOptions> change)
     {
@@ -166,6 +203,15 @@ public class LoadOptionTests
     /// <summary>Adaptive, the default, enlarges like this.</summary>
     private static bool IsSame(OptionMember member, object? value) =>
         member.Property.Name == nameof(ImageResizeSettings.Mode) && ResizeType.CatmullRom.Equals(value);
+
+    /// <summary>The first part of a picture's file.</summary>
+    private static byte[] Cut(ImageOptionsBase format, double part)
+    {
+        using var image = Samples.Colors(30, 40);
+        using var whole = new MemoryStream();
+        image.Save(whole, format);
+        return whole.ToArray()[..(int)(whole.Length * part)];
+    }
 
     private static byte[] Drawing(string text) =>
         Encoding.Latin1.GetBytes(DxfText.Drawing(0, "TEXT", 8, "0", 10, 1, 20, 2, 40, 3, 1, text));

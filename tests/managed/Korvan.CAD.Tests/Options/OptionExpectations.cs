@@ -38,6 +38,7 @@ internal static class OptionExpectations
         ("drawing", Paged + " PdfOptions", Vector + "AutomaticLayoutsScaling", With<ImageOptionsBase>(TwoLayouts)),
         (Lines, Drawn + " GlbOptions GltfOptions ObjOptions", Vector + "DrawColor", With<ImageOptionsBase>(static o => Drawing(o).DrawType = CadDrawTypeMode.UseDrawColor)),
         (Lines, Pages, Vector + "BackgroundColor", With<ImageOptionsBase>(static o => Drawing(o).EmbedBackground = true)),
+        ("drawing", Drawn, "RenderToGraphicsBound", With<ImageOptionsBase>(static o => Drawing(o).Layouts = ["Sheet"])),
         ("drawing", Drawn, Vector + "ExportAllLayoutContent", With<ImageOptionsBase>(static o => Drawing(o).Layouts = ["Sheet"])),
         ("drawing", Drawn, Vector + "PenOptions.StartCap", With<ImageOptionsBase>(static _ => { }, static (o, cap) => Drawing(o).PenOptions!.EndCap = (LineCap)cap!)),
         ("drawing", Drawn, Vector + "PenOptions.EndCap", With<ImageOptionsBase>(static _ => { }, static (o, cap) => Drawing(o).PenOptions!.StartCap = (LineCap)cap!)),
@@ -80,6 +81,7 @@ internal static class OptionExpectations
     /// <summary>Options that change nothing: source, classes, path, values, and why that is right.</summary>
     private static readonly (string Source, string Type, string Path, string Value, string Reason)[] Same =
     [
+        (Any, Any, "Source", Any, "the same goes to a second place"),
         (Lines, Any, "Timeout", Any, "the time is enough"),
         (Lines, OnePage, Vector + "AutomaticLayoutsScaling", Any, "a page alone shares its scale with no other"),
         (Lines, Pixels, Vector + "ContentAsBitmap", Any, "pixels are a bitmap already"),

@@ -13,6 +13,7 @@ using Korvan.CAD.FileFormats.Psd;
 using Korvan.CAD.FileFormats.Psd.Resources;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.ImageOptions.SvgOptionsParameters;
+using Korvan.CAD.Sources;
 
 namespace Korvan.CAD.Tests.Options;
 
@@ -72,6 +73,7 @@ internal static class OptionValues
         ["PageTitles"] = [new[] { "Nowhere" }],
         ["Quality"] = [20],
         ["RowsPerStrip"] = [5],
+        ["ShxCodePages"] = [new[] { CodePages.Cyrillic }],
         ["ShxFonts"] = [new[] { "simplex.shx" }],
         ["SigningTime"] = [new DateTime(2020, 1, 2, 3, 4, 5, DateTimeKind.Utc)],
         ["Timeout"] = [600_000],
@@ -92,6 +94,7 @@ internal static class OptionValues
         [typeof(SizeF)] = static _ => [new SizeF(150, 80)],
         [typeof(IColorPalette)] = static _ => [ColorPaletteHelper.Create4Bit()],
         [typeof(ISvgResourceKeeperCallback)] = static _ => [new Elsewhere()],
+        [typeof(Source)] = static _ => [new StreamSource()],
         [typeof(JpegExifData)] = static _ => [new JpegExifData { Artist = "words" }],
         [typeof(ResourceBlock[])] = static _ => [new ResourceBlock[] { new XmpResouce(Title()) }],
         [typeof(XmpPacketWrapper)] = static _ => [Title()],
