@@ -69,6 +69,12 @@ internal sealed partial class CgmInterpreter
 
     private void DrawPolygons(PolygonSet set)
     {
+        if (set.Flags.Count != set.Points.Count)
+        {
+            Skip("set of polygons without a flag for each point");
+            return;
+        }
+
         PathPen pen = NewPath();
         var edges = new PathBuffer();
         PathPen edge = PenOn(edges);

@@ -167,7 +167,7 @@ internal sealed partial class CgmInterpreter
     private void AddOwnHatch(List<HatchLine> lines, HatchStyleDefinition own, Vec2 origin, Vec2 direction)
     {
         double sum = 0;
-        own.GapWidths.ForEach(gap => sum += Math.Abs(gap));
+        own.GapWidths.ForEach(gap => sum += Math.Abs((double)gap));
         double cycle = Math.Abs(own.CycleLength) * (_state.InteriorMode switch
         {
             SpecificationMode.Absolute => 1,
@@ -185,7 +185,7 @@ internal sealed partial class CgmInterpreter
         foreach (int gap in own.GapWidths)
         {
             lines.Add(new HatchLine(Math.Atan2(along.Y, along.X), origin + (along.Left * at), along.Left * cycle, []));
-            at += Math.Abs(gap) / sum * cycle;
+            at += Math.Abs((double)gap) / sum * cycle;
         }
     }
 

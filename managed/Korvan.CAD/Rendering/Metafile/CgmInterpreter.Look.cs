@@ -186,7 +186,7 @@ internal sealed partial class CgmInterpreter
     {
         const int most = 64;
         double sum = 0;
-        own.Elements.ForEach(element => sum += Math.Abs(element));
+        own.Elements.ForEach(element => sum += Math.Abs((double)element));
         if (!(sum > 0) || own.Elements.Count > most)
         {
             return [];
@@ -199,7 +199,7 @@ internal sealed partial class CgmInterpreter
             SpecificationMode.Fractional => own.RepeatLength * Longest,
             _ => own.RepeatLength * Longest * UsualWidthShare,
         };
-        List<double> lengths = own.Elements.ConvertAll(element => Math.Abs(element) * Math.Abs(repeat) / sum);
+        List<double> lengths = own.Elements.ConvertAll(element => Math.Abs((double)element) * Math.Abs(repeat) / sum);
         if (lengths.Count % 2 == 1)
         {
             lengths.AddRange(lengths); // an odd count changes ink and gap with each round
