@@ -9,6 +9,9 @@ namespace Korvan.CAD.Rendering.Mesh;
 /// <summary>The faces of one entity: points in world coordinates, and triangles between them.</summary>
 internal sealed class MeshPart(string handle, string typeName, string layer, Rgba color)
 {
+    /// <summary>Formats of faces have numbers of single precision; what lies farther out could not be told in them.</summary>
+    private const double Farthest = 1e30;
+
     private readonly Dictionary<Vec3, int> _places = [];
 
     internal string Handle { get; } = handle;
@@ -24,9 +27,21 @@ internal sealed class MeshPart(string handle, string typeName, string layer, Rgb
     /// <summary>Places of corners, three for each triangle.</summary>
     internal List<int> Triangles { get; } = [];
 
+    /// <summary>Gets how many faces were left out because they lie too far out.</summary>
+    internal int LeftOut { get; private set; }
+
     /// <summary>Adds a flat or nearly flat face; corners that stand twice and faces without area are left out.</summary>
     internal void Face(ReadOnlySpan<Vec3> corners)
     {
+        foreach (Vec3 corner in corners)
+        {
+            if (!(Math.Abs(corner.X) < Farthest && Math.Abs(corner.Y) < Farthest && Math.Abs(corner.Z) < Farthest))
+            {
+                LeftOut++;
+                return;
+            }
+        }
+
         Span<int> places = corners.Length <= 64 ? stackalloc int[corners.Length] : new int[corners.Length];
         int count = 0;
         foreach (Vec3 corner in corners)

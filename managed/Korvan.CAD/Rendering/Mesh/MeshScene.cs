@@ -23,6 +23,7 @@ internal sealed class MeshScene
     private readonly List<MeshPart> _parts = [];
     private long _triangles;
     private int _seen;
+    private int _leftOut;
 
     private MeshScene(SceneTables tables, RenderStyle style)
     {
@@ -38,6 +39,11 @@ internal sealed class MeshScene
         DrawingScene scene = SceneReader.Read(image);
         var walk = new MeshScene(scene.Tables, style);
         walk.AddSpace(scene.Model, new BlockContext { Map = Affine3.Identity });
+        if (walk._leftOut > 0)
+        {
+            options?.Notes.Add(RenderErrorCode.EntityNotDrawn, "faces too far out for numbers of single precision", walk._leftOut);
+        }
+
         return walk._parts;
     }
 
@@ -97,6 +103,7 @@ internal sealed class MeshScene
 
         var part = new MeshPart(entity.ObjectHandle, entity.TypeNameText, layer.Name, _pens.PenOf(entity, layer, context).Color);
         EntityFaces.Add(entity, context.Map, part, _style.CircleSides);
+        _leftOut += part.LeftOut;
         if (part.Triangles.Count == 0)
         {
             return;

@@ -109,9 +109,8 @@ internal static class EntityExtents
     // Anticlockwise from one angle to the other; equal angles are the whole way round.
     private static double Sweep(double start, double end)
     {
-        double sweep = end - start;
-        sweep -= Math.Floor(sweep / Math.Tau) * Math.Tau;
-        return sweep < 1e-12 ? Math.Tau : sweep;
+        double sweep = Math.IEEERemainder(end - start, Math.Tau);
+        return sweep < 1e-12 ? sweep + Math.Tau : sweep;
     }
 
     private static void AddEllipse(CadEllipse ellipse, Extents extents)

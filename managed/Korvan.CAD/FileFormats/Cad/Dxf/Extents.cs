@@ -35,6 +35,13 @@ internal sealed class Extents
     /// <param name="sweep">How far it runs; either way.</param>
     internal void AddArc(Vec3 center, Vec3 u, Vec3 v, double start, double sweep)
     {
+        if (!double.IsFinite(start) || !double.IsFinite(sweep))
+        {
+            return;
+        }
+
+        // A number of turns changes nothing, and huge angles have no half turns between them.
+        (start, sweep) = (Math.IEEERemainder(start, Math.Tau), Math.Clamp(sweep, -Math.Tau, Math.Tau));
         (center, u, v) = (Map.Point(center), Map.Vector(u), Map.Vector(v));
         PutArcPoint(center, u, v, start);
         PutArcPoint(center, u, v, start + sweep);
