@@ -7,11 +7,16 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
 /// <summary>A B-spline curve.</summary>
-public sealed class NonUniformBSpline : Command
+public class NonUniformBSpline : Command
 {
     /// <summary>Creates a curve of the third degree without points.</summary>
     public NonUniformBSpline()
-        : base(ClassCode.GraphicalPrimitiveElement, (int)GraphicalPrimitiveElement.NonUniformBSpline)
+        : this((int)GraphicalPrimitiveElement.NonUniformBSpline)
+    {
+    }
+
+    private protected NonUniformBSpline(int elementId)
+        : base(ClassCode.GraphicalPrimitiveElement, elementId)
     {
     }
 
