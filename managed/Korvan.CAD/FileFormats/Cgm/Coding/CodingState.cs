@@ -99,7 +99,7 @@ internal sealed record PictureCoding
 
     internal SpecificationMode EdgeWidthMode { get; set; } = SpecificationMode.Scaled;
 
-    internal SpecificationMode InteriorStyleMode { get; set; } = SpecificationMode.Scaled;
+    internal SpecificationMode InteriorStyleMode { get; set; } = SpecificationMode.Absolute;
 
     internal int CharacterSet { get; set; } = 1;
 

@@ -53,6 +53,10 @@ public class ElementEncodingTests
         { new LineWidth(1.5), "5064 0001 8000", "LINEWIDTH 1.5;" },
         { new LineColour(new CgmColor(4)), "5081 04 00", "LINECOLR 4;" },
         { new InteriorStyle { Value = InteriorStyle.Style.Empty }, "52C2 0004", "INTSTYLE EMPTY;" },
+        {
+            // Without a mode for interiors their sizes are coordinates, as they were before there was one.
+            new PatternSize { HeightX = 0, HeightY = 2, WidthX = 3, WidthY = 0 }, "5428 0000 0002 0003 0000", "PATSIZE 0 2 3 0;"
+        },
         { new ColourTable(2, [Red]), "5444 02 FF0000", "COLRTABLE 2 255 0 0;" },
         {
             new AspectSourceFlags { Infos = [new(AspectSourceFlags.ASFType.All, AspectSourceFlags.ASFValue.Bundled)] },
