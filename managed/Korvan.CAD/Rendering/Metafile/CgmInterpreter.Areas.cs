@@ -51,18 +51,7 @@ internal sealed partial class CgmInterpreter
     private void DrawPolygon(List<CgmPoint> points)
     {
         PathPen pen = NewPath();
-        for (int i = 0; i < points.Count; i++)
-        {
-            if (i == 0)
-            {
-                pen.MoveTo(V(points[i]));
-            }
-            else
-            {
-                pen.LineTo(V(points[i]));
-            }
-        }
-
+        AddChain(pen, points.ConvertAll(V));
         pen.Close();
         EndArea(null);
     }

@@ -33,20 +33,23 @@ internal sealed partial class CgmInterpreter
 
     private void DrawLine(List<CgmPoint> points)
     {
-        PathPen pen = NewPath();
+        AddChain(NewPath(), points.ConvertAll(V));
+        EndLine();
+    }
+
+    private static void AddChain(in PathPen pen, IReadOnlyList<Vec2> points)
+    {
         for (int i = 0; i < points.Count; i++)
         {
             if (i == 0)
             {
-                pen.MoveTo(V(points[i]));
+                pen.MoveTo(points[i]);
             }
             else
             {
-                pen.LineTo(V(points[i]));
+                pen.LineTo(points[i]);
             }
         }
-
-        EndLine();
     }
 
     private void DrawPairs(List<CgmPoint> points)
@@ -193,11 +196,11 @@ internal sealed partial class CgmInterpreter
 
     private double MarkerSize(double? stated)
     {
-        double nominal = Longest * UsualSizeShare;
+        double nominal = Longest * PictureFrame.UsualSizeShare;
         double size = _state.MarkerSizeMode switch
         {
             SpecificationMode.Absolute => stated ?? nominal,
-            SpecificationMode.Fractional => (stated ?? UsualSizeShare) * Longest,
+            SpecificationMode.Fractional => (stated ?? PictureFrame.UsualSizeShare) * Longest,
             SpecificationMode.Millimetres when _picture.Frame.MillimetresPerUnit is double mm => (stated ?? 2.5) / mm,
             SpecificationMode.Millimetres => (stated ?? 2.5) / 2.5 * nominal,
             _ => (stated ?? 1) * nominal,

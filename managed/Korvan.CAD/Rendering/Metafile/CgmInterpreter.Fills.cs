@@ -109,22 +109,10 @@ internal sealed partial class CgmInterpreter
         }
 
         var rings = new List<HatchLoop>();
-        var loop = new PathBuffer();
         foreach (FlatLine line in FlatLine.Of(path, Longest * CurveTolerance * 10))
         {
-            loop = new PathBuffer();
-            for (int i = 0; i < line.Points.Length; i++)
-            {
-                if (i == 0)
-                {
-                    loop.MoveTo(line.Points[i]);
-                }
-                else
-                {
-                    loop.LineTo(line.Points[i]);
-                }
-            }
-
+            var loop = new PathBuffer();
+            AddChain(new PathPen(loop, Affine3.Identity), line.Points);
             loop.Close();
             rings.Add(new HatchLoop(loop, Longest * CurveTolerance));
         }
@@ -168,13 +156,7 @@ internal sealed partial class CgmInterpreter
     {
         double sum = 0;
         own.GapWidths.ForEach(gap => sum += Math.Abs((double)gap));
-        double cycle = Math.Abs(own.CycleLength) * (_state.InteriorMode switch
-        {
-            SpecificationMode.Absolute => 1,
-            SpecificationMode.Fractional => Longest,
-            SpecificationMode.Millimetres when _picture.Frame.MillimetresPerUnit is double mm => 1 / mm,
-            _ => Longest * UsualWidthShare,
-        }) * Scale;
+        double cycle = Math.Abs(own.CycleLength) * UnitOf(_state.InteriorMode, Longest * UsualWidthShare) * Scale;
         if (!(sum > 0) || !(cycle > 0) || direction.Length == 0)
         {
             return;
@@ -229,17 +211,11 @@ internal sealed partial class CgmInterpreter
     {
         if (Paint.Fill.PatternSize is not PatternSize size)
         {
-            double side = Longest * UsualSizeShare * 2;
+            double side = Longest * PictureFrame.UsualSizeShare * 2;
             return (_map.Point(side, 0) - _map.Point(0, 0), _map.Point(0, side) - _map.Point(0, 0));
         }
 
-        double unit = _state.InteriorMode switch
-        {
-            SpecificationMode.Fractional => Longest,
-            SpecificationMode.Millimetres when _picture.Frame.MillimetresPerUnit is double mm => 1 / mm,
-            SpecificationMode.Absolute => 1,
-            _ => 1,
-        };
+        double unit = UnitOf(_state.InteriorMode, Longest * UsualWidthShare);
         return (_map.Point(size.WidthX * unit, size.WidthY * unit) - _map.Point(0, 0), _map.Point(size.HeightX * unit, size.HeightY * unit) - _map.Point(0, 0));
     }
 
@@ -286,8 +262,9 @@ internal sealed partial class CgmInterpreter
         }
 
         List<double> g = gradient.ReferenceGeometry;
-        Vec2 first = g.Count >= 2 ? new Vec2(g[0], g[1]) : new Vec2(Longest, 0);
-        Vec2 second = gradient.Style == elliptical && g.Count >= 4 ? new Vec2(g[2], g[3]) : first.Left;
+        double unit = UnitOf(_state.InteriorMode, Longest * UsualWidthShare);
+        Vec2 first = g.Count >= 2 ? new Vec2(g[0], g[1]) * unit : new Vec2(Longest, 0);
+        Vec2 second = gradient.Style == elliptical && g.Count >= 4 ? new Vec2(g[2], g[3]) * unit : first.Left;
         Vec2 at = FillReference;
         Affine2 local = gradient.Style == elliptical
             ? new Affine2(first.X, first.Y, second.X, second.Y, at.X, at.Y)

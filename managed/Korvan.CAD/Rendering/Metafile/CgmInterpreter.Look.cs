@@ -18,7 +18,6 @@ internal sealed partial class CgmInterpreter
 
     /// <summary>Defaults of sizes are parts of the longer side of the picture (ISO/IEC 8632-1, clause 8).</summary>
     private const double UsualWidthShare = 0.001;
-    private const double UsualSizeShare = 0.01;
     private const double DashUnitShare = 1.0 / 600;
 
     /// <summary>Colours of numbers that no table gives: paper, ink, then what most writers mean.</summary>
@@ -39,6 +38,15 @@ internal sealed partial class CgmInterpreter
         [DashType.Center] = [12, 3, 4, 3],
         [DashType.Hidden] = [4, 2],
         [DashType.Phantom] = [14, 3, 4, 3, 4, 3],
+    };
+
+    /// <summary>Units of the picture in what a size counts; millimetres only where the picture has any.</summary>
+    private double UnitOf(SpecificationMode mode, double scaled) => mode switch
+    {
+        SpecificationMode.Absolute => 1,
+        SpecificationMode.Fractional => Longest,
+        SpecificationMode.Millimetres when _picture.Frame.MillimetresPerUnit is double mm => 1 / mm,
+        _ => scaled,
     };
 
     private bool IsBundled(ASF flag) => Paint.Bundled.Contains(flag);
@@ -192,13 +200,7 @@ internal sealed partial class CgmInterpreter
             return [];
         }
 
-        double repeat = _state.LineWidthMode switch
-        {
-            SpecificationMode.Absolute => own.RepeatLength,
-            SpecificationMode.Millimetres when _picture.Frame.MillimetresPerUnit is double mm => own.RepeatLength / mm,
-            SpecificationMode.Fractional => own.RepeatLength * Longest,
-            _ => own.RepeatLength * Longest * UsualWidthShare,
-        };
+        double repeat = own.RepeatLength * UnitOf(_state.LineWidthMode, Longest * UsualWidthShare);
         List<double> lengths = own.Elements.ConvertAll(element => Math.Abs((double)element) * Math.Abs(repeat) / sum);
         if (lengths.Count % 2 == 1)
         {

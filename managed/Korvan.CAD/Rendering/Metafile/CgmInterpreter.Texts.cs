@@ -47,7 +47,7 @@ internal sealed partial class CgmInterpreter
     private void BeginText(TextCommand text, Vec2 position, Vec2? box)
     {
         FinishText();
-        _text = new PendingText(position, TextLook(), box);
+        _text = new PendingText(position, _state.TextLook(), box);
         AddText(text);
     }
 
@@ -59,9 +59,9 @@ internal sealed partial class CgmInterpreter
             return;
         }
 
-        TextState look = TextLook();
-        int font = _canvas.Engine.Font(FontNames.Find(FontName(look.Font ?? 1)));
-        double height = Math.Abs(look.Height ?? Longest * UsualSizeShare);
+        TextState look = _state.TextLook();
+        int font = _canvas.Engine.Font(FontNames.Find(_state.FontName(look)));
+        double height = look.HeightIn(_picture.Frame);
         string content = Printable(text.Content);
         if (content.Length > 0 && height > 0)
         {
@@ -74,22 +74,6 @@ internal sealed partial class CgmInterpreter
             FinishText();
         }
     }
-
-    private TextState TextLook()
-    {
-        TextState look = Paint.Text;
-        if (_state.TextBundles.TryGetValue(look.Bundle, out TextRepresentation? bundle))
-        {
-            look.Font = IsBundled(AspectSourceFlags.ASFType.TextFontIndex) ? bundle.FontIndex : look.Font;
-            look.Expansion = IsBundled(AspectSourceFlags.ASFType.CharacterExpansionFactor) ? bundle.ExpansionFactor : look.Expansion;
-            look.Spacing = IsBundled(AspectSourceFlags.ASFType.CharacterSpacing) ? bundle.Spacing : look.Spacing;
-            look.Color = IsBundled(AspectSourceFlags.ASFType.TextColour) ? bundle.Color : look.Color;
-        }
-
-        return look;
-    }
-
-    private string FontName(int index) => index >= 1 && index <= _state.Fonts.Count ? _state.Fonts[index - 1] : "";
 
     private static string Printable(string content)
     {

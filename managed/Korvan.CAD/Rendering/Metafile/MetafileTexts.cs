@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Text;
 using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
@@ -10,8 +11,6 @@ namespace Korvan.CAD.Rendering.Metafile;
 /// <summary>Collects the texts of all pictures, without drawing them.</summary>
 internal static class MetafileTexts
 {
-    private const double UsualSizeShare = 0.01;
-
     internal static List<TextInformation> Collect(CgmFile file)
     {
         var scene = new MetafileScene(file);
@@ -28,18 +27,13 @@ internal static class MetafileTexts
                     RestrictedText text => text.Position,
                     _ => null,
                 };
-                if (position is not null)
+                if (position is null)
                 {
-                    texts.Add(Describe(((TextCommand)command).Content, position, state, picture));
-                }
-                else if (command is AppendText piece && texts.Count > 0)
-                {
-                    TextInformation last = texts[^1];
-                    texts[^1] = new TextInformation(last.Text + piece.Content, last.Position, last.Height, last.Angle, last.FontName);
+                    StateChanges.Apply(state, command);
                 }
                 else
                 {
-                    StateChanges.Apply(state, command);
+                    texts.Add(Describe(Content(scene, at, picture.End), position, state, picture.Frame));
                 }
             }
         }
@@ -47,15 +41,37 @@ internal static class MetafileTexts
         return texts;
     }
 
-    private static TextInformation Describe(string content, CgmPoint position, PictureState state, MetafilePicture picture)
+    /// <summary>The text that begins at a command, with the pieces that are appended up to its last one.</summary>
+    private static string Content(MetafileScene scene, int at, int end)
     {
-        TextState look = state.Paint.Text;
-        double height = Math.Abs(look.Height ?? picture.Frame.Longest * UsualSizeShare);
+        var piece = (TextCommand)scene.CommandAt(at);
+        if (piece.Final == AppendText.FinalType.Final)
+        {
+            return piece.Content;
+        }
+
+        var content = new StringBuilder(piece.Content);
+        for (at++; at < end && scene.CommandAt(at) is not (TextElement or RestrictedText); at++)
+        {
+            if (scene.CommandAt(at) is AppendText next)
+            {
+                content.Append(next.Content);
+                if (next.Final == AppendText.FinalType.Final)
+                {
+                    break;
+                }
+            }
+        }
+
+        return content.ToString();
+    }
+
+    private static TextInformation Describe(string content, CgmPoint position, PictureState state, in PictureFrame frame)
+    {
+        TextState look = state.TextLook();
         double angle = look.Orientation is CharacterOrientation turned
             ? Math.Atan2(turned.BaseY, turned.BaseX) * 180 / Math.PI
             : 0;
-        int font = look.Font ?? 1;
-        string name = font >= 1 && font <= state.Fonts.Count ? state.Fonts[font - 1] : "";
-        return new TextInformation(content, position, height, angle, name);
+        return new TextInformation(content, position, look.HeightIn(frame), angle, state.FontName(look));
     }
 }

@@ -42,6 +42,8 @@ internal struct TextState
     internal TextPath.Type Path;
     internal TextAlignment? Alignment;
     internal RestrictedTextType.Type Restriction;
+
+    internal readonly double HeightIn(in PictureFrame frame) => System.Math.Abs(Height ?? frame.Longest * PictureFrame.UsualSizeShare);
 }
 
 /// <summary>How areas are filled.</summary>
@@ -101,7 +103,7 @@ internal sealed class PictureState
     internal SpecificationMode LineWidthMode = SpecificationMode.Scaled;
     internal SpecificationMode EdgeWidthMode = SpecificationMode.Scaled;
     internal SpecificationMode MarkerSizeMode = SpecificationMode.Scaled;
-    internal SpecificationMode InteriorMode = SpecificationMode.Scaled;
+    internal SpecificationMode InteriorMode = SpecificationMode.Absolute;
 
     internal PaintState Paint { get; set; } = new();
 
@@ -124,6 +126,28 @@ internal sealed class PictureState
     internal Dictionary<int, HatchStyleDefinition> Hatches { get; private set; } = [];
 
     internal Dictionary<int, LineAndEdgeTypeDefinition> LineTypes { get; private set; } = [];
+
+    /// <summary>How texts look here, with what their bundle gives.</summary>
+    internal TextState TextLook()
+    {
+        TextState look = Paint.Text;
+        if (TextBundles.TryGetValue(look.Bundle, out TextRepresentation? bundle))
+        {
+            look.Font = Paint.Bundled.Contains(AspectSourceFlags.ASFType.TextFontIndex) ? bundle.FontIndex : look.Font;
+            look.Expansion = Paint.Bundled.Contains(AspectSourceFlags.ASFType.CharacterExpansionFactor) ? bundle.ExpansionFactor : look.Expansion;
+            look.Spacing = Paint.Bundled.Contains(AspectSourceFlags.ASFType.CharacterSpacing) ? bundle.Spacing : look.Spacing;
+            look.Color = Paint.Bundled.Contains(AspectSourceFlags.ASFType.TextColour) ? bundle.Color : look.Color;
+        }
+
+        return look;
+    }
+
+    /// <summary>The name that the file gives the font of a look; empty where it gives none.</summary>
+    internal string FontName(in TextState look)
+    {
+        int index = look.Font ?? 1;
+        return index >= 1 && index <= Fonts.Count ? Fonts[index - 1] : "";
+    }
 
     /// <summary>The state that a picture begins with: the defaults, and tables of its own.</summary>
     internal PictureState Clone()

@@ -13,6 +13,9 @@ namespace Korvan.CAD.Rendering.Metafile;
 /// </summary>
 internal readonly record struct PictureFrame(Bounds2 Region, Affine2 ToPage, double Longest, double? MillimetresPerUnit)
 {
+    /// <summary>Texts and markers without a size have this part of the longer side (ISO/IEC 8632-1, clause 8).</summary>
+    internal const double UsualSizeShare = 0.01;
+
     /// <summary>Sizes that no sheet has: past them a factor is taken for a mistake of its writer.</summary>
     private const double LeastMillimetres = 1;
     private const double MostMillimetres = 20_000;

@@ -82,6 +82,17 @@ public class MetafileTextTests
     }
 
     [Fact]
+    public void Texts_are_told_with_the_font_that_their_bundle_gives()
+    {
+        var flags = new AspectSourceFlags { Infos = [new(AspectSourceFlags.ASFType.AllText, AspectSourceFlags.ASFValue.Bundled)] };
+        CgmImage image = Image(
+            [new FontList { Fonts = ["Helvetica", "Courier"] }],
+            [new TextRepresentation { BundleIndex = 3, FontIndex = 2 }],
+            [flags, new TextBundleIndex { Index = 3 }, Text("first"), new TextBundleIndex { Index = 4 }, Text("second")]);
+        Assert.Equal([("first", "Courier"), ("second", "Helvetica")], System.Linq.Enumerable.Select(image.GetTexts(), text => (text.Text, text.FontName)));
+    }
+
+    [Fact]
     public void Fonts_are_found_by_the_names_of_writers()
     {
         Assert.Equal(("Times New Roman", true, true), Face("TIMES_BOLD_ITALIC"));
