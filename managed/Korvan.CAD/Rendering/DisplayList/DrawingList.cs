@@ -26,6 +26,7 @@ internal sealed class DrawingList
     private readonly Dictionary<string, int> dashIndex = [];
     private readonly List<Bounds2> clips = [];
     private readonly List<LineLook> looks = [];
+    private readonly Dictionary<LineLook, int> lookIndex = [];
     private DisplayItem[] items = new DisplayItem[256];
     private PathVerb[] verbs = new PathVerb[1024];
     private double[] coords = new double[4096];
@@ -93,14 +94,14 @@ internal sealed class DrawingList
     /// <summary>Keeps one copy of each look.</summary>
     internal int Look(LineLook look)
     {
-        int index = looks.IndexOf(look);
-        if (index < 0)
+        if (!lookIndex.TryGetValue(look, out int index))
         {
-            index = looks.Count;
             looks.Add(look);
+            index = looks.Count;
+            lookIndex.Add(look, index);
         }
 
-        return index + 1;
+        return index;
     }
 
     internal void Skip(string kind) =>
