@@ -22,12 +22,14 @@ public static unsafe class Casts
         }
     }
 
-    /// <summary>To a class or an interface. A null casts to null.</summary>
-    public static int ToReference<T>(VariantArg* value, nint* result) where T : class
+    /// <summary>Hands over an object that was found to be of the wanted type, or a null.</summary>
+    /// <remarks>The question itself stands in the generated code, where the type is a constant.</remarks>
+    public static int Deliver(object? target, nint* result)
     {
         try
         {
-            return Deliver<T>(Handles.Target(value->Value), result, acceptsNull: true);
+            *result = Handles.New(target);
+            return Status.CastDone;
         }
         catch (Exception e)
         {
@@ -35,18 +37,14 @@ public static unsafe class Casts
         }
     }
 
-    /// <summary>As a class or an interface; a null is none.</summary>
-    public static int AsReference<T>(nint handleOrRecord, nint* result) where T : class
-    {
-        try
-        {
-            return Deliver<T>(Handles.TargetOfEither(handleOrRecord), result, acceptsNull: false);
-        }
-        catch (Exception e)
-        {
-            return Boundary.Failed(e);
-        }
-    }
+    /// <summary>To a class or an interface of the framework. A null casts to null.</summary>
+    public static int ToReference<T>(VariantArg* value, nint* result) where T : class =>
+        Handles.Target(value->Value) is var target && target is null or T
+            ? Deliver(target, result) : Status.CastNo;
+
+    /// <summary>As a class or an interface of the framework; a null is none.</summary>
+    public static int AsReference<T>(nint handleOrRecord, nint* result) where T : class =>
+        Handles.TargetOfEither(handleOrRecord) is T target ? Deliver(target, result) : Status.CastNo;
 
     public static int ToStruct<T>(VariantArg* value, nint* result) where T : struct
     {
@@ -165,15 +163,5 @@ public static unsafe class Casts
     {
         *result = Handles.New(value);
         return value is null ? Status.CastNo : Status.CastDone;
-    }
-
-    private static int Deliver<T>(object? target, nint* result, bool acceptsNull) where T : class
-    {
-        if (target is not T && !(target is null && acceptsNull))
-        {
-            return Status.CastNo;
-        }
-        *result = Handles.New(target);
-        return Status.CastDone;
     }
 }

@@ -1,4 +1,5 @@
 using System;
+using System.Collections.Generic;
 using System.Diagnostics.CodeAnalysis;
 using System.Runtime.CompilerServices;
 using System.Runtime.InteropServices;
@@ -10,22 +11,24 @@ namespace Korvan.WrpGen.Interop;
 /// owns it, and <see cref="Free"/> ends it. A struct's handle holds the box of one copy.
 /// </summary>
 /// <remarks>
-/// A handle's lowest bit is set. Records are aligned, so a delegate that is called with a handle at
-/// one site and with a record's address at another can tell the two apart.
+/// A handle is the address of a reference in a pinned array, which is one load to follow and one store to give
+/// another target; the runtime's own handles cost several times that. As an address it means the same in each
+/// assembly of the process, whichever made it. Its lowest bit is set: records are aligned, so a delegate that is
+/// called with a handle at one site and with a record's address at another can tell the two apart.
 /// </remarks>
 public static unsafe class Handles
 {
     private const nint Mark = 1;
-
-    // As many as a loop over wrappers keeps in turn; more would only be memory set aside.
-    private const int MostSpare = 1024;
+    private const int ChunkSize = 1024;
 
     // All handles are made and freed under the interpreter lock: plain counting is exact.
     private static long s_live;
 
-    // The runtime takes five times as long to make and end a handle as to give one another target.
-    private static readonly nint[] s_spare = new nint[MostSpare];
-    private static int s_spareCount;
+    // The references live in arrays that stay for good; those not in use are on a stack, the last one freed on top.
+    private static List<object?[]>? s_chunks;
+    private static nint* s_spare;
+    private static nint* s_spareTop;
+    private static nint* s_spareEnd;
 
     /// <summary>How many handles are in Python's hands.</summary>
     public static long LiveCount => s_live;
@@ -54,20 +57,18 @@ public static unsafe class Handles
             return;
         }
         s_live--;
-        GCHandle ended = GCHandle.FromIntPtr(handle - Mark);
-        if (s_spareCount == MostSpare)
+        Unsafe.AsRef<object?>((void*)(handle - Mark)) = null;
+        if (s_spareTop == s_spareEnd)
         {
-            ended.Free();
-            return;
+            EnlargeSpare();
         }
-        ended.Target = null;
-        s_spare[s_spareCount++] = handle;
+        *s_spareTop++ = handle;
     }
 
     /// <summary>The object behind a handle; null for none.</summary>
     [MethodImpl(MethodImplOptions.AggressiveInlining)]
     public static object? Target(nint handle) =>
-        handle == 0 ? null : GCHandle.FromIntPtr(handle - Mark).Target;
+        handle == 0 ? null : Unsafe.AsRef<object?>((void*)(handle - Mark));
 
     /// <summary>An argument of reference type.</summary>
     [MethodImpl(MethodImplOptions.AggressiveInlining)]
@@ -81,7 +82,7 @@ public static unsafe class Handles
         {
             ThrowNoInstance(typeof(T));
         }
-        return (T)GCHandle.FromIntPtr(handle - Mark).Target!;
+        return (T)Unsafe.AsRef<object?>((void*)(handle - Mark))!;
     }
 
     /// <summary>The struct that a member is called on: its box itself, so that changes stay.</summary>
@@ -92,7 +93,7 @@ public static unsafe class Handles
         {
             ThrowNoInstance(typeof(T));
         }
-        return ref Unsafe.Unbox<T>(GCHandle.FromIntPtr(handle - Mark).Target!);
+        return ref Unsafe.Unbox<T>(Unsafe.AsRef<object?>((void*)(handle - Mark))!);
     }
 
     /// <summary>An argument of struct type: a copy of the value in the box.</summary>
@@ -103,7 +104,7 @@ public static unsafe class Handles
         {
             ThrowNoInstance(typeof(T));
         }
-        return (T)GCHandle.FromIntPtr(argument->Value - Mark).Target!;
+        return (T)Unsafe.AsRef<object?>((void*)(argument->Value - Mark))!;
     }
 
     /// <summary>The object behind a record of kind 0 or 1, or behind a bare handle.</summary>
@@ -117,14 +118,38 @@ public static unsafe class Handles
 
     private static nint NewOf(object target)
     {
-        if (s_spareCount == 0)
+        if (s_spareTop == s_spare)
         {
-            return GCHandle.ToIntPtr(GCHandle.Alloc(target)) | Mark;
+            AddChunk();
         }
-        nint handle = s_spare[--s_spareCount];
-        GCHandle spare = GCHandle.FromIntPtr(handle - Mark);
-        spare.Target = target;
+        nint handle = *--s_spareTop;
+        Unsafe.AsRef<object?>((void*)(handle - Mark)) = target;
         return handle;
+    }
+
+    private static void AddChunk()
+    {
+        object?[] chunk = GC.AllocateArray<object?>(ChunkSize, pinned: true);
+        (s_chunks ??= []).Add(chunk);
+        while (s_spareEnd - s_spareTop < ChunkSize)
+        {
+            EnlargeSpare();
+        }
+        var first = (nint)Unsafe.AsPointer(ref chunk[0]);
+        for (int at = ChunkSize - 1; at >= 0; at--)
+        {
+            *s_spareTop++ = (first + at * sizeof(nint)) | Mark;
+        }
+    }
+
+    // A handle may be freed in another assembly than the one that made it, so the stack may outgrow the chunks.
+    private static void EnlargeSpare()
+    {
+        nint count = (nint)(s_spareTop - s_spare);
+        nint capacity = nint.Max(ChunkSize, 2 * (nint)(s_spareEnd - s_spare));
+        s_spare = (nint*)NativeMemory.Realloc(s_spare, (nuint)(capacity * sizeof(nint)));
+        s_spareTop = s_spare + count;
+        s_spareEnd = s_spare + capacity;
     }
 
     [DoesNotReturn]

@@ -40,7 +40,9 @@ bool constituent_is_not_valid(const ClassBinding& binding, std::string& message)
     return false;
 }
 
-PyHostState* build_state(ClassBinding& binding) {
+} // namespace
+
+PyHostState* build_class_state(ClassBinding& binding) {
     auto* state = new PyHostState;
     std::string& message = state->message;
     if (host_is_not_valid(*binding.host)) {
@@ -58,15 +60,10 @@ PyHostState* build_state(ClassBinding& binding) {
     return state;
 }
 
-PyObject* class_tp_new(PyTypeObject* type, PyObject* args, PyObject* kwargs) {
-    if (!guard(*reinterpret_cast<ClassBinding*>(type))) {
-        return nullptr;
-    }
-    PyObject* object = PyType_GenericNew(type, args, kwargs);
-    if (object != nullptr) {
-        reinterpret_cast<PyClrObject*>(object)->handle = nullptr;
-    }
-    return object;
+namespace {
+
+PyObject* class_tp_new(PyTypeObject* type, PyObject*, PyObject*) {
+    return guard(*reinterpret_cast<ClassBinding*>(type)) ? fn_new_empty_wrapper(type) : nullptr;
 }
 
 int class_tp_init(PyObject* self, PyObject* args, PyObject* kwargs) {
@@ -81,13 +78,6 @@ void fill_identity_slots(PyTypeObject& type, bool is_struct) {
 }
 
 } // namespace
-
-const PyHostState& class_state(ClassBinding& binding) {
-    if (__builtin_expect(binding.state == nullptr, 0)) {
-        binding.state = build_state(binding);
-    }
-    return *binding.state;
-}
 
 bool class_is_not_valid(ClassBinding& binding, std::string& message) {
     // An interface has no references of its own: its host alone decides.

@@ -6,7 +6,13 @@
 #include "runtime/host_state.h"
 
 // Whether the type can be used, found out at first use: its own host, then the types it refers to.
-const PyHostState& class_state(ClassBinding& binding);
+PyHostState* build_class_state(ClassBinding& binding);
+inline const PyHostState& class_state(ClassBinding& binding) {
+    if (__builtin_expect(binding.state == nullptr, 0)) {
+        binding.state = build_class_state(binding);
+    }
+    return *binding.state;
+}
 // The same for types that refer to this one: writes the message when true.
 bool class_is_not_valid(ClassBinding& binding, std::string& message);
 const PyHostState& enum_state(EnumBinding& binding);

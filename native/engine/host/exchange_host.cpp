@@ -5,11 +5,6 @@
 
 static constexpr const char* type_name = "Korvan.WrpGen.Interop.ExchangeHost";
 
-ExchangeHost& ExchangeHost::get_instance() {
-    static ExchangeHost host;
-    return host;
-}
-
 bool ExchangeHost::set_method_ptr(const HostEnvironment& environment, const char* method,
                                   void** slot) {
     const int result = environment.try_create_delegate(m_assembly_name, type_name, method, slot);

@@ -10,7 +10,10 @@ class HostEnvironment;
 
 class ExchangeHost {
 public:
-    static ExchangeHost& get_instance();
+    static ExchangeHost& get_instance() {
+        static ExchangeHost host;
+        return host;
+    }
 
     // Binds everything in the fixed order; false at the first method that is missing.
     bool initialize(const char* assembly_name);

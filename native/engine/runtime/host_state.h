@@ -10,7 +10,15 @@ struct PyHostState {
     std::string message;
 };
 
+void fn_raise_not_valid(const PyHostState& state);
+
 // Raises what the state says, if anything. Returns whether the type is unusable.
-bool fn_raise_if_not_valid(const PyHostState& state);
+inline bool fn_raise_if_not_valid(const PyHostState& state) {
+    if (__builtin_expect(!state.is_not_valid, 1)) {
+        return false;
+    }
+    fn_raise_not_valid(state);
+    return true;
+}
 
 #endif

@@ -12,6 +12,38 @@ HandleExtractor wrpPyl_trancaps_py_to_clr_81609274_Object = nullptr;
 TypeConverter wrpPyl_convcaps_clr_to_py_0705CA7C_Enum = nullptr;
 CastOpResultNew PyShCastOpResult_New = nullptr;
 
+namespace {
+
+// Wrappers come and go by the million and are all of one size: the memory of the last ones that
+// went is kept in a chain through their handles.
+constexpr int most_spare = 256;
+PyClrObject* spare_wrappers = nullptr;
+int spare_count = 0;
+
+void release_memory(PyObject* self) {
+    const PyTypeObject* type = Py_TYPE(self);
+    if (spare_count == most_spare || type->tp_basicsize != sizeof(PyClrObject)) {
+        type->tp_free(self);
+        return;
+    }
+    auto* wrapper = reinterpret_cast<PyClrObject*>(self);
+    wrapper->handle = spare_wrappers;
+    spare_wrappers = wrapper;
+    ++spare_count;
+}
+
+} // namespace
+
+PyObject* fn_new_empty_wrapper(PyTypeObject* type) {
+    if (spare_wrappers == nullptr || type->tp_basicsize != sizeof(PyClrObject)) {
+        return type->tp_alloc(type, 0); // the handle is null, as all memory from there
+    }
+    PyClrObject* wrapper = spare_wrappers;
+    spare_wrappers = static_cast<PyClrObject*>(std::exchange(wrapper->handle, nullptr));
+    --spare_count;
+    return PyObject_Init(reinterpret_cast<PyObject*>(wrapper), type);
+}
+
 PyObject* fn_py_clr_type_generic_new(void* handle, PyTypeObject* type) {
     PyObject* object = type->tp_new(type, nullptr, nullptr);
     if (object == nullptr) {
@@ -27,7 +59,7 @@ void wrapClrObject_tp_dealloc(PyObject* self) {
     if (handle != nullptr) {
         ExchangeHost::get_instance().free_instance(std::exchange(handle, nullptr));
     }
-    Py_TYPE(self)->tp_free(self);
+    release_memory(self);
 }
 
 void wrapClrStruct_tp_dealloc(PyObject* self) {
@@ -35,7 +67,7 @@ void wrapClrStruct_tp_dealloc(PyObject* self) {
     if (handle != nullptr) {
         ExchangeHost::get_instance().free_struct(std::exchange(handle, nullptr));
     }
-    Py_TYPE(self)->tp_free(self);
+    release_memory(self);
 }
 
 namespace {
@@ -156,7 +188,7 @@ bool fn_is_this_module_clr_instance(PyObject* object, int* kind) {
 }
 
 int fn_conv_py_obj_to_clr_refobj_not_null_handle(PyObject* object, void** handle) {
-    if (!fn_is_refobj_has_host_markattr(object)) {
+    if (!fn_is_this_module_clr_object(object) && !fn_is_refobj_has_host_markattr(object)) {
         return 0;
     }
     *handle = clr_handle(object);
@@ -164,7 +196,9 @@ int fn_conv_py_obj_to_clr_refobj_not_null_handle(PyObject* object, void** handle
 }
 
 int fn_conv_py_obj_to_clr_gen_not_null_handle(PyObject* object, VariantArg* out) {
-    if (!fn_is_instance_has_host_markattr(object, &out->kind)) {
+    // This module's own types need no look into their dictionary.
+    if (!fn_is_this_module_clr_instance(object, &out->kind) &&
+        !fn_is_instance_has_host_markattr(object, &out->kind)) {
         return 0;
     }
     out->value = clr_handle(object);

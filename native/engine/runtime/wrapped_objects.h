@@ -4,6 +4,8 @@
 
 #include "runtime/py_base.h"
 
+// A wrapper without a handle: the whole of what a type's tp_new does behind its guard.
+PyObject* fn_new_empty_wrapper(PyTypeObject* type);
 // A wrapper of exactly `type`, which takes the handle over; on failure the handle is released.
 PyObject* fn_py_clr_type_generic_new(void* handle, PyTypeObject* type);
 

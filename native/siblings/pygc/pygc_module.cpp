@@ -3,7 +3,11 @@
 #include "module/version_attributes.h"
 #include "runtime/identifiers.h"
 
+#include <cstddef>
+
 namespace {
+
+extern PyTypeObject result_type;
 
 struct CastResult {
     PyObject_HEAD
@@ -13,9 +17,31 @@ struct CastResult {
 
 CastResult* as_result(PyObject* object) { return reinterpret_cast<CastResult*>(object); }
 
+// A loop over casts makes and drops one a step: the memory of the last ones is kept, in a chain
+// through their values.
+constexpr int most_spare = 16;
+CastResult* spare_results = nullptr;
+int spare_count = 0;
+
 void result_dealloc(PyObject* self) {
     Py_XDECREF(as_result(self)->value);
-    Py_TYPE(self)->tp_free(self);
+    if (spare_count == most_spare) {
+        PyObject_Free(self);
+        return;
+    }
+    as_result(self)->value = reinterpret_cast<PyObject*>(spare_results);
+    spare_results = as_result(self);
+    ++spare_count;
+}
+
+PyObject* allocate_result() {
+    if (spare_results == nullptr) {
+        return reinterpret_cast<PyObject*>(PyObject_New(CastResult, &result_type));
+    }
+    CastResult* result = spare_results;
+    spare_results = reinterpret_cast<CastResult*>(result->value);
+    --spare_count;
+    return PyObject_Init(reinterpret_cast<PyObject*>(result), &result_type);
 }
 
 PyObject* result_repr(PyObject* self) {
@@ -35,13 +61,12 @@ PyObject* result_item(PyObject* self, Py_ssize_t index) {
     }
 }
 
-PyObject* status_getter(PyObject* self, void*) { return PyLong_FromLong(as_result(self)->status); }
-PyObject* value_getter(PyObject* self, void*) { return Py_NewRef(as_result(self)->value); }
-
-PyGetSetDef result_getset[] = {
-    {"status", status_getter, nullptr, "What the managed cast answered: 0 not cast.", nullptr},
-    {"value", value_getter, nullptr, "The object as the wanted type, or None.", nullptr},
-    {}};
+// Members, not getters: the interpreter reads them without a call.
+PyMemberDef result_members[] = {{"status", Py_T_INT, offsetof(CastResult, status), Py_READONLY,
+                                 "What the managed cast answered: 0 not cast."},
+                                {"value", Py_T_OBJECT_EX, offsetof(CastResult, value), Py_READONLY,
+                                 "The object as the wanted type, or None."},
+                                {}};
 PyNumberMethods result_number = {.nb_bool = result_bool};
 PySequenceMethods result_sequence = {.sq_length = result_length, .sq_item = result_item};
 
@@ -54,17 +79,17 @@ PyTypeObject result_type = {
     .tp_as_sequence = &result_sequence,
     .tp_flags = Py_TPFLAGS_DEFAULT | Py_TPFLAGS_DISALLOW_INSTANTIATION,
     .tp_doc = "The result of a cast: true when it succeeded, and unpacks to (status, value).",
-    .tp_getset = result_getset,
+    .tp_members = result_members,
 };
 
 // Takes its own reference to `value`, which may be null.
 PyObject* PyShCastOpResult_New(int status, PyObject* value) {
-    auto* result = PyObject_New(CastResult, &result_type);
+    PyObject* result = allocate_result();
     if (result != nullptr) {
-        result->status = status;
-        result->value = Py_NewRef(value != nullptr ? value : Py_None);
+        as_result(result)->status = status;
+        as_result(result)->value = Py_NewRef(value != nullptr ? value : Py_None);
     }
-    return reinterpret_cast<PyObject*>(result);
+    return result;
 }
 
 void* api_table[] = {reinterpret_cast<void*>(PyShCastOpResult_New)};

@@ -176,7 +176,7 @@ PyObject* wrap(void* handle, PyTypeObject& type) {
     if (handle == nullptr) {
         Py_RETURN_NONE;
     }
-    PyObject* object = attach() ? type.tp_alloc(&type, 0) : nullptr;
+    PyObject* object = attach() ? fn_new_empty_wrapper(&type) : nullptr;
     if (object != nullptr) {
         reinterpret_cast<PyClrObject*>(object)->handle = handle;
     }

@@ -26,15 +26,15 @@ internal sealed class CastWriter(CodeWriter writer, DelegateWriter delegates, Ty
                 WriteIsAssignable();
                 break;
             case BoundKind.Interface:
-                Record("btp_CastTo", $"Casts.ToReference<{_name}>(value, result)");
-                Record("btp_CastAs", $"Casts.AsReference<{_name}>((nint)value, result)");
+                WriteReferenceCast("btp_CastTo", "VariantArg* value", "Handles.Target(value->Value)", "null or ");
+                WriteReferenceCast("btp_CastAs", "VariantArg* value", "Handles.TargetOfEither((nint)value)", "");
                 WriteIsAssignable();
                 break;
             default:
-                Record("btp_CastTo", $"Casts.ToReference<{_name}>(value, result)");
+                WriteReferenceCast("btp_CastTo", "VariantArg* value", "Handles.Target(value->Value)", "null or ");
                 WriteCastFrom();
                 Handle("btp_ReInterpretObj", $"Casts.ReinterpretReference<{_name}>(handle, result)");
-                Handle("btp_CastAs", $"Casts.AsReference<{_name}>(handle, result)");
+                WriteReferenceCast("btp_CastAs", "nint handle", "Handles.TargetOfEither(handle)", "");
                 WriteIsAssignable();
                 break;
         }
@@ -85,6 +85,12 @@ internal sealed class CastWriter(CodeWriter writer, DelegateWriter delegates, Ty
         });
         writer.Line();
     }
+
+    // The test of the type stands here, not in a generic method: of a constant it is a comparison of two words.
+    // Only btp_CastTo takes a null, and hands over one.
+    private void WriteReferenceCast(string name, string parameter, string target, string orNull) =>
+        delegates.Forward(name, "int", [parameter, "nint* result"],
+            $"{target} is var target && target is {orNull}{_name} ? Casts.Deliver(target, result) : Status.CastNo");
 
     private void Record(string name, string call) =>
         delegates.Forward(name, "int", ["VariantArg* value", "nint* result"], call);

@@ -14,7 +14,7 @@ public static unsafe class EnumerableApi<T>
     {
         try
         {
-            References.Write(Handles.Self<IEnumerable<T>>(handle).GetEnumerator(), result);
+            References.Write(Walk(Handles.Self<IEnumerable<T>>(handle)), result);
             return Status.Item;
         }
         catch (Exception e)
@@ -22,6 +22,11 @@ public static unsafe class EnumerableApi<T>
             return Boundary.Failed(e);
         }
     }
+
+    private static IEnumerator<T> Walk(IEnumerable<T> items) =>
+        !typeof(T).IsValueType && items.GetType() == typeof(List<T>)
+            ? new ListCursor<T>(Unsafe.As<List<T>>(items))
+            : items.GetEnumerator();
 }
 
 /// <summary>The bodies of the delegates of <see cref="IEnumerator{T}"/>.</summary>
