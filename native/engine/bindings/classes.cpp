@@ -71,10 +71,25 @@ int class_tp_init(PyObject* self, PyObject* args, PyObject* kwargs) {
     return call_constructors(*binding->constructors, self, args, kwargs);
 }
 
-void fill_identity_slots(PyTypeObject& type, bool is_struct) {
+// A slot that would be the same as the base's is left to be inherited: each one that is set takes
+// up to six objects in the type's dictionary, for thousands of types.
+void fill_instance_slots(ClassBinding& binding) {
+    PyTypeObject& type = binding.type;
+    const bool is_struct = binding.kind == ClassKind::structure;
+    const bool has_constructors = binding.constructors != nullptr;
     type.tp_dealloc = is_struct ? wrapClrStruct_tp_dealloc : wrapClrObject_tp_dealloc;
+    if (binding.base == nullptr || has_constructors != (binding.base->constructors != nullptr)) {
+        type.tp_init = has_constructors ? class_tp_init : wrapClrObject_tp_init_fault;
+    }
+    if (binding.base != nullptr) {
+        return;
+    }
+    type.tp_new = class_tp_new;
     type.tp_hash = is_struct ? wrapClrStruct_hash : wrapClrObject_hash;
     type.tp_richcompare = is_struct ? wrapClrStruct_tp_richcompare : wrapClrObject_tp_richcompare;
+    if (binding.managed_name != nullptr) {
+        type.tp_repr = is_struct ? wrapClrStruct_str : wrapClrObject_str;
+    }
 }
 
 } // namespace
@@ -116,19 +131,13 @@ void prepare_class(ClassBinding& binding) {
         prepare_class(*binding.base);
         type.tp_base = &binding.base->type;
     }
-    const bool is_struct = binding.kind == ClassKind::structure;
     Py_SET_REFCNT(reinterpret_cast<PyObject*>(&type), 1);
     type.tp_name = binding.name;
     type.tp_basicsize = sizeof(PyClrObject);
-    fill_identity_slots(type, is_struct);
-    if (binding.managed_name != nullptr) {
-        type.tp_repr = is_struct ? wrapClrStruct_str : wrapClrObject_str;
-    }
+    fill_instance_slots(binding);
     type.tp_methods = binding.methods;
     type.tp_getset = binding.getset;
     type.tp_alloc = PyType_GenericAlloc;
-    type.tp_new = class_tp_new;
-    type.tp_init = binding.constructors != nullptr ? class_tp_init : wrapClrObject_tp_init_fault;
     fill_protocol_slots(binding);
 }
 

@@ -2,6 +2,7 @@
 
 #include "bindings/classes.h"
 #include "bindings/enums.h"
+#include "bindings/finishing.h"
 #include "generic/collections.h"
 #include "generic/interop.h"
 #include "runtime/callbacks.h"
@@ -316,6 +317,9 @@ PyObject* wrpPye_mlit_FFFFFFFF_common_wrappers(PyObject* module, const BoundTree
                   "_interop") &&
         add_child(wrappers, kept_name,
                   Ref::steal(build_wrapper_module(name + "._generic", tree.generics)), "_generic");
+    if (done) {
+        finish_types(tree, interop_wrappers());
+    }
     return done ? wrappers : nullptr;
 }
 
