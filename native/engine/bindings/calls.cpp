@@ -76,28 +76,6 @@ bool keyword_dict(const CallArguments& arguments, Ref& dict) {
     return static_cast<bool>(dict);
 }
 
-// The interpreter's own parser, which has the words for whatever does not fit and knows keywords.
-bool parse_by_interpreter(const Leg& leg, const CellConverter* converters, void* const* cells,
-                          const CallArguments& arguments) {
-    const Ref positional = positional_tuple(arguments);
-    Ref keyword_values;
-    if (!positional || !keyword_dict(arguments, keyword_values)) {
-        return false;
-    }
-    char format[2 * max_arity + 1];
-    char* keywords[max_arity + 1];
-    BoundCell bound[max_arity];
-    for (int i = 0; i < leg.arity; ++i) {
-        format[2 * i] = 'O';
-        format[2 * i + 1] = '&';
-        keywords[i] = const_cast<char*>(leg.parameters[i].keyword);
-        bound[i] = {converters[i], cells[i], leg.parameters[i].type};
-    }
-    format[2 * leg.arity] = '\0';
-    keywords[leg.arity] = nullptr;
-    return parsers[leg.arity](positional.get(), keyword_values.get(), format, keywords, bound);
-}
-
 // The texts of the legs that did not fit, one each, as the argument of a TypeError.
 void raise_misfits(PyObject* const* values, int count) {
     const Ref texts = Ref::steal(PyList_New(count));
@@ -130,11 +108,17 @@ PyObject* word_misfit(const Leg& leg, PyObject* self, CallArguments arguments) {
     return take_error_value();
 }
 
+CallArguments arguments_of(PyObject* args, PyObject* kwargs) {
+    return {.items = reinterpret_cast<PyTupleObject*>(args)->ob_item,
+            .count = PyTuple_GET_SIZE(args),
+            .tuple = args,
+            .keywords = kwargs};
+}
+
+} // namespace
+
 LegOutcome try_legs(const Method& method, PyObject* self, CallArguments& arguments,
                     PyObject** result) {
-    if (method.count == 1) {
-        return method.legs[0].call(method.legs[0], self, arguments, result);
-    }
     PyObject* misfits[max_legs] = {};
     arguments.is_quiet = true;
     for (int i = 0; i < method.count; ++i) {
@@ -156,35 +140,27 @@ LegOutcome try_legs(const Method& method, PyObject* self, CallArguments& argumen
     return LegOutcome::failed;
 }
 
-CallArguments arguments_of(PyObject* args, PyObject* kwargs) {
-    return {.items = reinterpret_cast<PyTupleObject*>(args)->ob_item,
-            .count = PyTuple_GET_SIZE(args),
-            .tuple = args,
-            .keywords = kwargs};
-}
-
-} // namespace
-
+// By the interpreter's own parser, which has the words for whatever does not fit and knows
+// keywords.
 bool parse_arguments(const Leg& leg, const CellConverter* converters, void* const* cells,
                      const CallArguments& arguments) {
-    if (arguments.has_keywords() || arguments.count != leg.arity) {
-        return parse_by_interpreter(leg, converters, cells, arguments);
+    const Ref positional = positional_tuple(arguments);
+    Ref keyword_values;
+    if (!positional || !keyword_dict(arguments, keyword_values)) {
+        return false;
     }
+    char format[2 * max_arity + 1];
+    char* keywords[max_arity + 1];
+    BoundCell bound[max_arity];
     for (int i = 0; i < leg.arity; ++i) {
-        if (converters[i](arguments.items[i], cells[i], leg.parameters[i].type) != 1) {
-            return false;
-        }
+        format[2 * i] = 'O';
+        format[2 * i + 1] = '&';
+        keywords[i] = const_cast<char*>(leg.parameters[i].keyword);
+        bound[i] = {converters[i], cells[i], leg.parameters[i].type};
     }
-    return true;
-}
-
-PyObject* call_method(const Method& method, PyObject* self, CallArguments arguments) {
-    if (method.is_static && !guard(*method.owner)) {
-        return nullptr;
-    }
-    PyObject* result = nullptr;
-    const LegOutcome outcome = try_legs(method, self, arguments, &result);
-    return outcome == LegOutcome::done ? result : nullptr;
+    format[2 * leg.arity] = '\0';
+    keywords[leg.arity] = nullptr;
+    return parsers[leg.arity](positional.get(), keyword_values.get(), format, keywords, bound);
 }
 
 PyObject* call_mixed(const Method& method, PyObject* self, PyObject* args, PyObject* kwargs) {
@@ -195,5 +171,9 @@ int call_constructors(const Method& constructors, PyObject* self, PyObject* args
                       PyObject* kwargs) {
     PyObject* none = nullptr;
     CallArguments arguments = arguments_of(args, kwargs);
-    return try_legs(constructors, self, arguments, &none) == LegOutcome::done ? 0 : -1;
+    const LegOutcome outcome =
+        constructors.count == 1
+            ? constructors.legs[0].call(constructors.legs[0], self, arguments, &none)
+            : try_legs(constructors, self, arguments, &none);
+    return outcome == LegOutcome::done ? 0 : -1;
 }

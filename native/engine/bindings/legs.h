@@ -22,6 +22,11 @@ template <class... Args> struct Frame {
 private:
     template <size_t... I>
     bool parse(const Leg& leg, const CallArguments& arguments, std::index_sequence<I...>) {
+        if (!arguments.has_keywords() && arguments.count == Py_ssize_t{sizeof...(Args)}) {
+            return ((Args::convert(arguments.items[I], &std::get<I>(cells),
+                                   leg.parameters[I].type) == 1) &&
+                    ...);
+        }
         static constexpr CellConverter converters[] = {arg::convert_cell<Args>..., nullptr};
         void* const addresses[] = {&std::get<I>(cells)..., nullptr};
         return parse_arguments(leg, converters, addresses, arguments);
