@@ -67,6 +67,14 @@ struct DirectoryCloser {
     void operator()(DIR* directory) const { closedir(directory); }
 };
 
+// The one that never runs managed code. It is busy for ever when a program has closed its pipe.
+constexpr const char* signal_thread = "(.NET SigHandler)";
+
+bool is_runtimes(const char* name) {
+    return std::strncmp(name, "(.NET ", 6) == 0 &&
+           std::strncmp(name, signal_thread, std::strlen(signal_thread)) != 0;
+}
+
 // Whether a thread of this process is the runtime's and not asleep: "12 (.NET Finalizer) S ...".
 bool is_busy(const char* thread) {
     char path[64];
@@ -80,8 +88,7 @@ bool is_busy(const char* thread) {
     close(file);
     const char* name = length > 0 ? std::strchr(line, '(') : nullptr;
     const char* name_end = name != nullptr ? std::strrchr(name, ')') : nullptr;
-    return name_end != nullptr && name_end[1] == ' ' && name_end[2] != 'S' &&
-           std::strncmp(name, "(.NET ", 6) == 0;
+    return name_end != nullptr && name_end[1] == ' ' && name_end[2] != 'S' && is_runtimes(name);
 }
 
 bool any_is_busy() {
