@@ -21,9 +21,15 @@ string(REGEX MATCHALL "Microsoft.NETCore.App 10\\.0\\.[0-9]+ \\[[^\n]*\\]" runti
 list(GET runtimes -1 runtime)
 string(REGEX REPLACE "Microsoft.NETCore.App ([0-9.]+) \\[(.*)\\]" "\\2/\\1" runtime_folder "${runtime}")
 set(runtime_target "${KORVAN_PACKAGE}/netcore/netcore10.0")
+# For debuggers, other hosts and other collectors. The tracing provider is tried at each start, where its library is
+# installed it brings threads of its own.
+set(runtime_unused libcoreclrtraceptprovider.so libmscordaccore.so libmscordbi.so libclrgc.so libclrgcexp.so
+  libhostpolicy.so createdump)
+list(TRANSFORM runtime_unused PREPEND "${runtime_target}/")
 add_custom_command(
   OUTPUT "${KORVAN_STAMPS}/runtime"
   COMMAND "${CMAKE_COMMAND}" -E copy_directory "${runtime_folder}" "${runtime_target}"
+  COMMAND "${CMAKE_COMMAND}" -E rm -f ${runtime_unused}
   COMMAND "${CMAKE_COMMAND}" -E touch "${KORVAN_STAMPS}/runtime"
   COMMENT "Copying the runtime from ${runtime_folder}" VERBATIM)
 set_target_properties(korvan.embed.coreclrwrap PROPERTIES

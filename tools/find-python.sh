@@ -25,5 +25,6 @@ done
 for candidate in "${PYENV_ROOT:-$HOME/.pyenv}"/versions/3.12.*/bin/python3.12; do
     [ -x "$candidate" ] && is_wanted "$candidate" && { resolve "$candidate"; exit 0; }
 done
-echo "no CPython 3.12 with headers found" >&2
+echo "No CPython 3.12 with headers was found, on the path or in pyenv. Name one: make PYTHON=/path/to/python3.12;" \
+    "or install one: pyenv install 3.12" >&2
 exit 1

@@ -1,6 +1,7 @@
 #include "wrap/coreclr_wrap.h"
 
 #include "contract/status.h"
+#include "wrap/fork_guard.h"
 #include "wrap/process_guard.h"
 
 #include <dlfcn.h>
@@ -81,6 +82,7 @@ int coreclr_wrap_initialize(const char* exe_path, const char* app_domain_name, i
     if (status == 0) {
         runtime.is_up = true;
         runtime.owner = getpid();
+        korvan::guard_forks();
     }
     return status;
 }

@@ -22,7 +22,8 @@ private:
 
 // The dispositions that the interpreter gave these signals; the runtime replaces them while it
 // starts. SIGSEGV and its kin stay the runtime's: it turns faults of managed code into exceptions
-// and passes all others on to the handler that was there before.
+// and passes all others on to the handler that was there before. So does SIGRTMIN, by which it
+// stops its threads: no handler of Python's can stand there.
 class ScopedSignalDispositions {
 public:
     ScopedSignalDispositions();
@@ -31,8 +32,8 @@ public:
     ScopedSignalDispositions& operator=(const ScopedSignalDispositions&) = delete;
 
 private:
-    static constexpr int signals[] = {SIGINT,  SIGQUIT, SIGTERM, SIGCHLD, SIGCONT, SIGPIPE,
-                                      SIGTSTP, SIGTTIN, SIGTTOU, SIGHUP,  SIGWINCH};
+    static constexpr int signals[] = {SIGINT,  SIGQUIT, SIGTERM, SIGCHLD, SIGCONT,  SIGPIPE,
+                                      SIGTSTP, SIGTTIN, SIGTTOU, SIGHUP,  SIGWINCH, SIGTRAP};
     struct sigaction m_before[sizeof(signals) / sizeof(signals[0])];
 };
 

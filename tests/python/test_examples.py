@@ -69,35 +69,34 @@ class Examples(unittest.TestCase):
             self.assertIn(line, done.stdout)
         self.assertEqual(changed.read_text().count("IFCLABEL('not stated')"), 4)
 
-    def first_look(self, heading: str) -> str:
-        """Runs the first code below a heading of the README; gives what it prints."""
+    def run_snippets(self, page: str) -> str:
+        """Runs the Python of a page, one block after the other; gives what it prints."""
         (self.out / "examples").symlink_to(EXAMPLES)
         (self.out / "build").mkdir()
-        text = (ROOT / "README.md").read_text(encoding="utf-8").split(heading)[1]
-        code = re.search(r"```python\n(.*?)```", text, re.DOTALL).group(1)
-        done = run("-c", "import korvan.cad\n" + code, cwd=self.out)
+        text = (ROOT / page).read_text(encoding="utf-8")
+        done = run("-c", "\n".join(re.findall(r"```python\n(.*?)```", text, re.DOTALL)), cwd=self.out)
         self.assertEqual(done.returncode, 0, done.stderr)
         return done.stdout
 
-    def test_the_first_look_at_a_building_model_runs(self) -> None:
-        self.assertIn("Gable west W6 Qto_WallBaseQuantities", self.first_look("## An IFC model"))
-
-    def test_the_first_look_at_a_metafile_runs(self) -> None:
-        printed = self.first_look("## A metafile")
-        self.assertIn("Gate valve DN 50 Helvetica-Bold (126.0, 12.0)", printed)
-        self.assertIn("7 changes of the fill colour", printed)
+    def test_the_readme_runs(self) -> None:
+        printed = self.run_snippets("README.md")
+        for line in ("OLD off", "Gable west W6 Qto_WallBaseQuantities", "Gate valve DN 50 Helvetica-Bold (126.0, 12.0)",
+                     "7 changes of the fill colour"):
+            self.assertIn(line, printed)
+        self.assertEqual(circles(self.out / "build" / "changed.dxf"), circles(DRAWINGS / "site_plan.dxf") + 1)
         before = CgmFile.load(str(DRAWINGS / "gate_valve.cgm"))
         after = CgmFile.load(str(self.out / "build" / "gate_valve.cgm"))
         self.assertEqual((after.encoding, len(after.commands)), (CgmFileFormat.BINARY, len(before.commands) + 1))
 
+    def test_the_readme_names_the_packages_that_the_build_installs(self) -> None:
+        lines = (ROOT / "README.md").read_text(encoding="utf-8").replace("\\\n", " ").splitlines()
+        named = [set(line.split()[4:]) for line in lines if line.startswith("sudo apt-get install ")]
+        listed = [line.split() for line in (ROOT / "tools" / "debian-packages.txt").read_text().splitlines() if line]
+        self.assertEqual(named, [{row[1] for row in listed if row[0] == group} for group in ("build", "run")])
+
     def test_the_tutorial_runs(self) -> None:
-        text = (ROOT / "docs" / "tutorial.md").read_text(encoding="utf-8")
-        code = "\n".join(re.findall(r"```python\n(.*?)```", text, re.DOTALL))
-        (self.out / "examples").symlink_to(EXAMPLES)
-        (self.out / "build").mkdir()
-        done = run("-c", code, cwd=self.out)
-        self.assertEqual(done.returncode, 0, done.stderr)
-        self.assertIn("['Model', 'Site 1:500', 'Plot 1']", done.stdout)
+        printed = self.run_snippets("docs/tutorial.md")
+        self.assertIn("['Model', 'Site 1:500', 'Plot 1']", printed)
         self.assertTrue((self.out / "build" / "sheets.pdf").exists())
 
 

@@ -198,6 +198,7 @@ FAULTS = [
      [TYPE.format(-1013, ENUM), TYPE.format(-1020, "AnnotationDirection,_as_uni_enum")]),
     ("PyModule_AddObjectRef Color", -1006, [TYPE.format(-1014, "korvan.cad,korvan.cad.Color")]),
     ("PyType_Ready korvan.cad.Color", -1006, [TYPE.format(-1015, "korvan.cad.Color")]),
+    ("PyType_Ready korvan.cad.Image", -1006, [TYPE.format(-1015, "korvan.cad.Image")]),
     ("PyType_Ready korvan.cad._FieldDescrType", -1006,
      [TYPE.format(-1015, "korvan.cad._FieldDescrType")]),
     ("PyType_Ready korvan.cad._wrpgen._interop._StreamWrapper", -1005,

@@ -105,15 +105,37 @@ CHILDREN = [
             raise SystemExit(3 if box.label == "own" else 1)
         print(os.waitstatus_to_exitcode(os.waitpid(child, 0)[1]), box.label)
         """, "3 own"),
+    case("a forked child draws and loads, in threads, too, whatever threads its parent has", """
+        import os, threading, workers
+        stop, ready = threading.Event(), threading.Barrier(9)
+        def live():
+            workers.convert(0)
+            ready.wait()
+            stop.wait()
+        for _ in range(8): threading.Thread(target=live).start()
+        ready.wait()
+        workers.convert(1)  # which loads in pieces, side by side
+        child = os.fork()
+        if child == 0:
+            result = workers.convert_in_threads(20)
+            grandchild = os.fork()
+            if grandchild == 0:
+                os._exit(3 if workers.convert_in_threads(8) == result == "same" else 1)
+            os._exit(os.waitstatus_to_exitcode(os.waitpid(grandchild, 0)[1]))
+        print(os.waitstatus_to_exitcode(os.waitpid(child, 0)[1]))
+        stop.set()
+        """, "3", 0, "DeprecationWarning: This process"),
     *(case(f"workers of multiprocessing by {method}", f"""
         import multiprocessing, workers
-        from korvan import probe
+        from korvan import cad, probe
         probe.Echo()
+        expected = [workers.convert(number) for number in range(28)]
         context = multiprocessing.get_context({method!r})
+        context.set_forkserver_preload(["korvan.cad", "korvan.probe", "workers"])
         with context.Pool(2) as pool:
-            print(pool.map(workers.work, range(4)))
+            print(pool.map(workers.work, range(4)), pool.map(workers.convert, range(28), chunksize=1) == expected)
         print(workers.work(9))
-        """, "[(True, '0:3.0'), (True, '1:4.0'), (True, '2:5.0'), (True, '3:6.0')]\n(True, '9:12.0')")
+        """, "[(True, '0:3.0'), (True, '1:4.0'), (True, '2:5.0'), (True, '3:6.0')] True\n(True, '9:12.0')")
       for method in ("fork", "spawn", "forkserver")),
     case("subprocesses run and are waited for", """
         import asyncio, subprocess, sys

@@ -25,6 +25,7 @@ internal sealed record WatermarkSeal(string Text, DateTime? Time)
             throw new ArgumentException($"The text of a watermark has 1 to {MostText} bytes of UTF-8, not {letters.Length}.", nameof(text));
         }
 
+        OpenSsl.Require();
         byte[] plain = [.. TimeBytes(time), .. letters];
         byte[] seal = new byte[HeadLength + plain.Length];
         RandomNumberGenerator.Fill(seal.AsSpan(0, SaltLength + NonceLength));
@@ -41,6 +42,7 @@ internal sealed record WatermarkSeal(string Text, DateTime? Time)
             return null;
         }
 
+        OpenSsl.Require();
         byte[] plain = new byte[seal.Length - HeadLength];
         using AesGcm cipher = Cipher(seal, password);
         try

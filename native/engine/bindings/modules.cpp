@@ -40,7 +40,12 @@ bool fail_type(int code, const ClassBinding& binding) {
     return false;
 }
 
+// The base comes first: where CPython readies it on the way and fails, it takes the type between
+// for ready when it is asked again.
 bool ready_class(ClassBinding& binding) {
+    if (binding.base != nullptr && !ready_class(*binding.base)) {
+        return false;
+    }
     prepare_class(binding);
     if (PyType_Ready(&binding.type) != 0) {
         return fail_type(load_error::ready_type, binding);

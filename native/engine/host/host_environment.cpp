@@ -39,6 +39,15 @@ HostEnvironment& HostEnvironment::instance(const char* host_tag, bool is_debug,
     return host;
 }
 
+bool HostEnvironment::join_running() {
+    std::string folder;
+    if (!pal::get_loaded_library_folder(wrap_release, folder)) {
+        return false;
+    }
+    instance("", false, nullptr, "", folder.c_str(), folder.c_str());
+    return true;
+}
+
 HostEnvironment::~HostEnvironment() { try_shutdown_default_app_domain(); }
 
 void HostEnvironment::initialize(const char* /*host_tag*/, bool is_debug, const char* env_suffix,

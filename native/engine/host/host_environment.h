@@ -24,6 +24,10 @@ public:
                                      const char* product_tag, const char* netcore_dir,
                                      const char* assembly_dir);
 
+    // Joins the runtime that another module of the process started, whatever the environment says
+    // by now. False if there is none; throws as above.
+    static bool join_running();
+
     HostEnvironment(const HostEnvironment&) = delete;
     HostEnvironment& operator=(const HostEnvironment&) = delete;
     ~HostEnvironment();

@@ -32,6 +32,8 @@ void free_library(void* handle);
 void* get_symbol(void* handle, const char* name);
 // Finds a library that is in the process already; loads nothing.
 bool get_module(const std::string& path, void** handle);
+// The folder from which a library of this file name was loaded; false if none was.
+bool get_loaded_library_folder(const std::string& file, std::string& folder);
 
 // Appends the subdirectories of `directory` (their `debug` children when asked): pydrawing last,
 // the others each at the front.

@@ -9,6 +9,7 @@
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fstream>
+#include <link.h>
 #include <memory>
 #include <sstream>
 #include <unistd.h>
@@ -66,6 +67,23 @@ void* get_symbol(void* handle, const char* name) { return dlsym(handle, name); }
 bool get_module(const std::string& path, void** handle) {
     *handle = dlopen(path.c_str(), RTLD_NOW | RTLD_NOLOAD);
     return *handle != nullptr;
+}
+
+bool get_loaded_library_folder(const std::string& file, std::string& folder) {
+    struct Search {
+        std::string ending;
+        std::string& folder;
+    } search = {'/' + file, folder};
+    const auto visit = [](dl_phdr_info* library, size_t, void* data) {
+        auto& wanted = *static_cast<Search*>(data);
+        const std::string path = library->dlpi_name;
+        if (!path.ends_with(wanted.ending)) {
+            return 0;
+        }
+        wanted.folder = path_get_directory(path);
+        return 1;
+    };
+    return dl_iterate_phdr(visit, &search) != 0;
 }
 
 namespace {

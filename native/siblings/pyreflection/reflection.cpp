@@ -1,8 +1,11 @@
 #include "pyreflection/reflection.h"
 
+#include "host/host_environment.h"
 #include "host/host_record.h"
 #include "runtime/callbacks.h"
 #include "runtime/wrapped_objects.h"
+
+#include <exception>
 
 namespace {
 
@@ -162,13 +165,24 @@ constexpr PyTypeObject make_type(const char* name, const char* doc, reprfunc rep
     };
 }
 
+// By now a runtime is up. A host that can't be had is an error of the call at hand.
+bool join_runtime() {
+    try {
+        if (HostEnvironment::join_running()) {
+            return initialize_clr_host("", "WrpInterop.Korvan.PyReflection", false, "korvan",
+                                       "pyreflection") == 0;
+        }
+        PyErr_SetString(PyExc_RuntimeError, "no managed runtime is running");
+    } catch (const std::exception& error) {
+        PyErr_Format(PyExc_RuntimeError, "the managed runtime can't be joined: %s", error.what());
+    }
+    return false;
+}
+
 // Once, when the first handle arrives: the module is imported ahead of the runtime's start.
 bool attach() {
     static bool is_attached = false;
-    if (!is_attached) {
-        is_attached = initialize_clr_host("", "WrpInterop.Korvan.PyReflection", false, "korvan",
-                                          "pyreflection") == 0;
-    }
+    is_attached = is_attached || join_runtime();
     return is_attached;
 }
 

@@ -91,6 +91,21 @@ TEST(Host, AttachesWhereTheLibraryIsLoadedAlready) {
         testing::ExitedWithCode(0), "");
 }
 
+TEST(Host, JoinsTheRuntimeOfTheProcessWhateverTheEnvironmentSays) {
+    EXPECT_EXIT(
+        {
+            const Installation installation;
+            unsetenv("NETCORE_WRAPPER_NETCORE_DIR_korvan");
+            unsetenv("NETCORE_WRAPPER_ASSEMBLY_DIR_korvan");
+            expect_in_child(!HostEnvironment::join_running(), "nothing to join");
+            const auto count = installation.scripted<int(const char*)>("scripted_wrap_count");
+            expect_in_child(HostEnvironment::join_running(), "joined");
+            expect_in_child(count("load") == 0 && count("is_domain_initialized") == 1, "no start");
+            _exit(0);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
 // Nothing catches what the start throws: the process ends with the reason on standard error.
 static void start_with_script(const char* script) noexcept {
     const Installation installation;

@@ -45,6 +45,7 @@ internal sealed partial class PdfSigner
 
     internal static void Write(byte[] document, PdfDigitalSignatureDetailsCore details, Stream output)
     {
+        OpenSsl.Require();
         try
         {
             using X509Certificate2 certificate = Certificate(details);

@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using System.Threading.Tasks;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
@@ -145,7 +144,7 @@ internal sealed class StepFile
     {
         int[] starts = PieceStarts(start);
         StepScanner[] scanners = new StepScanner[starts.Length - 1];
-        Parallel.For(0, scanners.Length, i =>
+        ForkedProcess.RunPieces(scanners.Length, i =>
         {
             scanners[i] = new StepScanner(Data, keywords, arities);
             scanners[i].Scan(starts[i], starts[i + 1]);

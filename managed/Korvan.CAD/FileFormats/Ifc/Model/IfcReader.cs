@@ -4,7 +4,6 @@ using System.Globalization;
 using System.IO;
 using System.IO.Compression;
 using System.Linq;
-using System.Threading.Tasks;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Ifc.Header;
 using Korvan.CAD.FileFormats.Ifc.Schema;
@@ -110,7 +109,7 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         const int Block = 1 << 16;
         int blocks = (file.Index.Count + Block - 1) / Block;
         StepErrors[] found = new StepErrors[blocks];
-        Parallel.For(0, blocks, i =>
+        ForkedProcess.RunPieces(blocks, i =>
         {
             found[i] = new StepErrors();
             int end = Math.Min(file.Index.Count, (i + 1) * Block);

@@ -1,0 +1,86 @@
+using System;
+using System.IO;
+using System.Runtime.InteropServices;
+using System.Text;
+using Microsoft.Win32.SafeHandles;
+
+namespace Korvan.CAD;
+
+/// <summary>
+/// Names of files that are no UTF-8, which .NET cannot open. Python hands them over with an unpaired surrogate, U+DC80
+/// to U+DCFF, for each byte that is no text.
+/// </summary>
+internal static unsafe partial class OddFileName
+{
+    private const int ReadOnly = 0;
+    private const int CloseOnExec = 0x80000;
+
+    /// <summary>Tells whether a name stands for such bytes.</summary>
+    internal static bool Is(string path)
+    {
+        for (int i = path.AsSpan().IndexOfAnyInRange('\uD800', '\uDFFF'); i >= 0 && i < path.Length; i++)
+        {
+            if (char.IsSurrogatePair(path, i))
+            {
+                i++;
+            }
+            else if (char.IsSurrogate(path[i]))
+            {
+                return true;
+            }
+        }
+
+        return false;
+    }
+
+    /// <summary>Opens a file by whatever name.</summary>
+    internal static FileStream OpenToRead(string path)
+    {
+        return Is(path)
+            ? new FileStream(OpenByBytes(path), FileAccess.Read, 1)
+            : new FileStream(path, FileMode.Open, FileAccess.Read, FileShare.ReadWrite, 1);
+    }
+
+    private static SafeFileHandle OpenByBytes(string path)
+    {
+        if (path.Contains('\0', StringComparison.Ordinal))
+        {
+            throw new IOException("a NUL is part of no file's name");
+        }
+
+        fixed (byte* name = Bytes(path))
+        {
+            int file = Open(name, ReadOnly | CloseOnExec, 0);
+            return file >= 0 ? new SafeFileHandle(file, true) : throw new IOException(Marshal.GetLastPInvokeErrorMessage());
+        }
+    }
+
+    // With a NUL behind them.
+    private static byte[] Bytes(string path)
+    {
+        using MemoryStream bytes = new();
+        Span<byte> unit = stackalloc byte[4];
+        for (int i = 0; i < path.Length; i++)
+        {
+            if (path[i] is >= '\uDC80' and <= '\uDCFF')
+            {
+                bytes.WriteByte((byte)path[i]);
+                continue;
+            }
+
+            if (!Rune.TryGetRuneAt(path, i, out Rune rune))
+            {
+                throw new IOException("the name stands for no bytes");
+            }
+
+            bytes.Write(unit[..rune.EncodeToUtf8(unit)]);
+            i += rune.Utf16SequenceLength - 1;
+        }
+
+        bytes.WriteByte(0);
+        return bytes.ToArray();
+    }
+
+    [LibraryImport("libc", EntryPoint = "open", SetLastError = true)]
+    private static partial int Open(byte* path, int flags, uint mode);
+}

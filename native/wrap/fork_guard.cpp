@@ -1,0 +1,125 @@
+#include "wrap/fork_guard.h"
+
+#include "wrap/thread_stacks.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <dirent.h>
+#include <fcntl.h>
+#include <memory>
+#include <pthread.h>
+#include <unistd.h>
+
+namespace korvan {
+
+namespace {
+
+// Where stacks can't be taken from glibc: it reuses one for any request from a quarter of its size
+// up to all of it. A child asks for a little less than a quarter; each further generation for a
+// page more than its parent's threads have: too much for the stacks of those, still too little for
+// the oldest.
+constexpr std::size_t below_quarter = std::size_t{64} * 1024;
+constexpr std::size_t least_stack = std::size_t{256} * 1024;
+constexpr std::size_t page = 4096;
+
+std::size_t first_stack = 0; // the default of the process that started the runtime
+std::size_t generation = 0;
+
+std::size_t default_stack() {
+    pthread_attr_t attributes;
+    std::size_t size = 0;
+    if (pthread_getattr_default_np(&attributes) == 0) {
+        pthread_attr_getstacksize(&attributes, &size);
+        pthread_attr_destroy(&attributes);
+    }
+    return size;
+}
+
+void set_default_stack(std::size_t size) {
+    pthread_attr_t attributes;
+    if (pthread_getattr_default_np(&attributes) == 0) {
+        pthread_attr_setstacksize(&attributes, size);
+        pthread_setattr_default_np(&attributes);
+        pthread_attr_destroy(&attributes);
+    }
+}
+
+void avoid_cached_stacks() {
+    const std::size_t base = first_stack / 4 - below_quarter;
+    const std::size_t size = base + page * (generation - 1);
+    if (first_stack / 4 > below_quarter && base >= least_stack && size < first_stack / 4) {
+        set_default_stack(size);
+    }
+}
+
+void after_fork_in_child() {
+    ++generation;
+    if (!abandon_cached_stacks()) {
+        avoid_cached_stacks();
+    }
+}
+
+// ---- the runtime's threads -------------------------------------------------------------------
+
+struct DirectoryCloser {
+    void operator()(DIR* directory) const { closedir(directory); }
+};
+
+// The one that never runs managed code. It is busy for ever when a program has closed its pipe.
+constexpr const char* signal_thread = "(.NET SigHandler)";
+
+bool is_runtimes(const char* name) {
+    return std::strncmp(name, "(.NET ", 6) == 0 &&
+           std::strncmp(name, signal_thread, std::strlen(signal_thread)) != 0;
+}
+
+// Whether a thread of this process is the runtime's and not asleep: "12 (.NET Finalizer) S ...".
+bool is_busy(const char* thread) {
+    char path[64];
+    std::snprintf(path, sizeof(path), "/proc/self/task/%.20s/stat", thread);
+    const int file = open(path, O_RDONLY | O_CLOEXEC);
+    if (file < 0) {
+        return false;
+    }
+    char line[64] = {};
+    const ssize_t length = read(file, line, sizeof(line) - 1);
+    close(file);
+    const char* name = length > 0 ? std::strchr(line, '(') : nullptr;
+    const char* name_end = name != nullptr ? std::strrchr(name, ')') : nullptr;
+    return name_end != nullptr && name_end[1] == ' ' && name_end[2] != 'S' && is_runtimes(name);
+}
+
+bool any_is_busy() {
+    const std::unique_ptr<DIR, DirectoryCloser> threads(opendir("/proc/self/task"));
+    if (!threads) {
+        return false;
+    }
+    while (const dirent* entry = readdir(threads.get())) {
+        if (entry->d_name[0] != '.' && is_busy(entry->d_name)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// They compile in the background or end a piece of work, which is a matter of milliseconds.
+// What takes longer than this must not hold up a fork.
+void before_fork() {
+    constexpr timespec pause = {0, 500'000};
+    for (int waited = 0; waited < 2000 && any_is_busy(); ++waited) {
+        nanosleep(&pause, nullptr);
+    }
+}
+
+} // namespace
+
+void guard_forks() {
+    if (first_stack == 0) {
+        first_stack = default_stack();
+        pthread_atfork(before_fork, nullptr, after_fork_in_child);
+    }
+}
+
+} // namespace korvan
