@@ -39,6 +39,11 @@ public sealed record PropertyModel(string ManagedName, string PythonName, bool I
 
     public required ValueUse Value { get; init; }
 
+    /// <summary>What an assignment takes: the same type, but maybe with or without null.</summary>
+    public ValueUse Given => field ??= Value with { IsOptional = TakesNull };
+
+    public required bool TakesNull { get; init; }
+
     public required bool CanWrite { get; init; }
 
     public required DocText Doc { get; init; }

@@ -208,6 +208,7 @@ internal sealed class TypeReader(
         {
             Owner = model,
             Value = value,
+            TakesNull = Nullability.MayBeSet(member),
             CanWrite = canWrite && !valueType.IsByRef && !value.IsResultOnly,
             Doc = docs.Of(docId),
         });

@@ -192,7 +192,7 @@ internal sealed class StubTypeWriter
         if (property.CanWrite)
         {
             _writer.Line($"@{name}.setter");
-            _writer.Line($"def {name}(self, value: {_types.Accepted(property.Value)}) -> None: ...");
+            _writer.Line($"def {name}(self, value: {_types.Accepted(property.Given)}) -> None: ...");
         }
     }
 
@@ -220,7 +220,7 @@ internal sealed class StubTypeWriter
         foreach (PropertyModel value in _type.StaticProperties.Where(property => property.CanWrite))
         {
             _writer.Line($"@{_types.Builtin("staticmethod")}");
-            _writer.Line($"def set_{value.PythonName}(value: {_types.Accepted(value.Value)}, /) -> None: ...");
+            _writer.Line($"def set_{value.PythonName}(value: {_types.Accepted(value.Given)}, /) -> None: ...");
         }
     }
 
