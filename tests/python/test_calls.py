@@ -2,9 +2,33 @@
 
 from __future__ import annotations
 
+import inspect
 import unittest
 
 from korvan import probe
+
+
+class Help(unittest.TestCase):
+    def test_a_method_of_one_form_has_a_signature(self) -> None:
+        rows = [
+            (probe.Shape.scale, "(self, /, factor)", "Scales by one factor.\n\n:param factor: The factor for both directions.\n"
+             ":returns: The form that was taken."),
+            (probe.Echo.join, "(self, /, items, separator)", ""),
+            (probe.Closable.dispose, "(self, /)", ""),
+            (probe.Strict.join, "(items, separator, end)", ""),
+        ]
+        for method, signature, doc in rows:
+            with self.subTest(method=method):
+                self.assertEqual((str(inspect.signature(method)), method.__doc__ or ""), (signature, doc))
+
+    def test_forms_are_told_in_the_order_of_tries(self) -> None:
+        doc = probe.Box.scale.__doc__
+        heads = [line for line in doc.splitlines() if line.startswith("scale(")]
+        self.assertEqual(heads, ["scale(x: float, y: float) -> str", "scale(times: int) -> str",
+                                 "scale(factor: float) -> str"])
+        self.assertIn("    Scales by one factor.", doc)
+        self.assertEqual(probe.Mixed().inflate.__doc__, "inflate(by: int) -> int")
+        self.assertTrue(probe.Mixed.inflate.__doc__.startswith("inflate(target: Mixed | None, by: int)"))
 
 
 class Overloads(unittest.TestCase):

@@ -29,11 +29,28 @@ class ManagedFailures(unittest.TestCase):
         with self.assertRaisesRegex(RuntimeError, "the root cause"):
             probe.Echo().fail_deep(200, "the root cause")
 
+    def test_arguments_are_told_by_their_python_names(self) -> None:
+        refuse = probe.Strict.refuse
+        rows = [
+            (lambda: refuse(0, None), "wanted_width must not be None."),
+            (lambda: refuse(1, 3), "wanted_width: It has to be even."),
+            (lambda: refuse(2, 3), "The wanted_width has to be even."),
+            (lambda: refuse(3, 3), "No name."),
+            (lambda: refuse(4, 3), "outer ---> ArgumentException: wanted_width: inner"),
+            (lambda: setattr(strict(), "page_width", -1), "page_width ('-1') must be a non-negative value."),
+            (lambda: setattr(probe.Failing(False), "value", 1), "value: can't be written"),
+            (lambda: refuse(9, "caf\udce9\U0001f600\ud83d"), "'caf\\udce9\U0001f600\\ud83d' is not there."),
+        ]
+        for call, message in rows:
+            with self.subTest(message), self.assertRaises(RuntimeError) as caught:
+                call()
+            self.assertEqual(str(caught.exception).partition("): ")[2], message)
+
     def test_getters_and_setters_fail_alike(self) -> None:
         failing = probe.Failing(False)
         with self.assertRaisesRegex(RuntimeError, r"InvalidDataException\): can't be read"):
             failing.value
-        with self.assertRaisesRegex(RuntimeError, r"ArgumentException\): can't be written"):
+        with self.assertRaisesRegex(RuntimeError, r"ArgumentException\): value: can't be written"):
             failing.value = 1
 
     def test_the_next_call_is_clean(self) -> None:
@@ -131,6 +148,37 @@ class PythonFailures(unittest.TestCase):
         self.assertEqual(target.getvalue(), data)
         with self.assertRaisesRegex(TypeError, "can't build Stream from 'str'"):
             probe.Echo().read_all("text")
+
+
+def strict() -> probe.Strict:
+    return probe.Strict("title", probe.Box())
+
+
+class RequiredValues(unittest.TestCase):
+    def test_none_is_refused_where_it_is_given(self) -> None:
+        one = strict()
+        values = ("text", "box", "blob", "face", "anything", "stream", "release", "row", "boxes", "numbers", "walked",
+                  "loose", "answer")
+        rows = [(lambda name=name: setattr(one, name, None), f"Strict.{name}") for name in values]
+        rows += [
+            (lambda: probe.Strict(None, probe.Box()), "Strict: title"),
+            (lambda: probe.Strict("title", box=None), "Strict: box"),
+            (lambda: probe.Strict.join(None, "-", None), "Strict.join: items"),
+            (lambda: probe.Strict.join([1], None, None), "Strict.join: separator"),
+            (lambda: probe.Strict.set_folder(None), "Strict.folder"),
+        ]
+        before = [getattr(one, name) for name in values[:3]]
+        for call, place in rows:
+            with self.subTest(place), self.assertRaises(RuntimeError) as caught:
+                call()
+            self.assertEqual(str(caught.exception), f"Proxy error(ArgumentNullException): {place} must not be None.")
+        self.assertEqual([getattr(one, name) for name in values[:3]], before)
+
+    def test_none_is_taken_where_it_is_declared(self) -> None:
+        one = strict()
+        one.name = None
+        self.assertEqual((one.name, one.answer), ("unnamed", None))
+        self.assertEqual(probe.Strict.join([1, 2], "-", None), "1-2")
 
 
 if __name__ == "__main__":

@@ -1,18 +1,23 @@
-"""The stubs, judged by a type checker: examples pass, right use has the right types, wrong use is found."""
+"""The stubs: held against the live types, and judged by a type checker with right and wrong programs."""
 
 from __future__ import annotations
 
+import ast
+import enum
 import json
 import os
 import shutil
 import subprocess
 import tempfile
 import textwrap
+import types
 import unittest
+from collections.abc import Iterable
 from pathlib import Path
 from typing import Any
 
 import korvan
+import korvan.cad
 
 ROOT = Path(__file__).resolve().parents[2]
 PACKAGE = Path(korvan.__file__).resolve().parent
@@ -21,13 +26,15 @@ CHECKER = ROOT / "build" / "npm" / "node_modules" / "pyright" / "index.js"
 PREPARED = """
     import io
     import korvan.cad
-    from korvan.cad import Color, Image, LoadOptions
+    from korvan.cad import Color, ColorPalette, FileFormat, IColorPalette, Image, LoadOptions, Rectangle
     from korvan.cad.fileformats.cad import CadImage
     from korvan.cad.fileformats.cad.cadobjects import CadCircle, CadLine
     from korvan.cad.imageoptions import CadRasterizationOptions, PdfOptions
     image = Image.load("plan.dxf")
     drawing = CadImage._cast_to(image).value
     raster = CadRasterizationOptions()
+    rect = Rectangle(0, 0, 1, 1)
+    palette = ColorPalette([1])
 """
 # An expression and the type that it has.
 TYPES = {
@@ -42,6 +49,17 @@ TYPES = {
     "Color.red": "Color",
     "Image.get_file_format('x')": "FileFormat",
     "bool(CadCircle._cast_to(image))": "bool",
+    "[layer for layer in drawing.layers]": "list[CadLayerTable]",
+    "drawing.block_entities.copy()": "list[CadBlockEntity]",
+    "[*drawing.layouts]": "list[CadLayout]",
+    "drawing.layers[0]": "CadLayerTable",
+    "FileFormat.PDF.get_type()": "Type",
+    "FileFormat.PDF._as_uni_enum()": "Enum",
+    "FileFormat._cast_to(1).value": "FileFormat",
+    "Rectangle.intersect(rect, rect)": "Rectangle",
+    "rect.intersect(rect)": "None",
+    "korvan.cad.VERSION.major": "int",
+    "korvan.cad.get_pyinstaller_hook_dirs()": "list[str]",
 }
 # A statement that fails when it runs, and the rule that finds it before.
 MISTAKES = {
@@ -54,8 +72,24 @@ MISTAKES = {
     "Color.red = Color.blue": "reportAttributeAccessIssue",
     "drawing.entities.push(CadLine())": "reportAttributeAccessIssue",
     "drawing.add_entity(5)": "reportArgumentType",
+    "drawing.layers.append(CadLine())": "reportArgumentType",
+    "raster.layers = 'TREE'": "reportAttributeAccessIssue",
+    "raster.layers = None": "reportAttributeAccessIssue",
+    "CadLine().first_point = None": "reportAttributeAccessIssue",
+    "rect.intersect(rect, rect)": "reportCallIssue",
+    "wanted: IColorPalette = palette": "reportAssignmentType",
     "Image()": "reportCallIssue",  # the last: nothing behind it is reached
 }
+# Statements that are right, and that the strictest check has nothing to say of.
+RIGHT = (
+    "raster.layers = ['TREE']",
+    "raster.layers = ('TREE',)",
+    "raster.layouts = drawing.layouts.names",
+    "PdfOptions().palette = palette",
+    "print(isinstance(palette, IColorPalette))",
+    "print(Rectangle.inflate(rect, 1, 2).width)",
+    "larger: Rectangle = Rectangle.intersect(rect, rect)",
+)
 
 
 def check(mode: str, *sources: Path) -> list[dict[str, Any]]:
@@ -82,9 +116,94 @@ def told(findings: list[dict[str, Any]]) -> list[str]:
     return [f"{Path(one['file']).name}:{one['range']['start']['line'] + 1}: {one['message']}" for one in findings]
 
 
+def defined(body: Iterable[ast.stmt]) -> dict[str, ast.stmt]:
+    """What a module or class of a stub defines, by name."""
+    names: dict[str, ast.stmt] = {}
+    for one in body:
+        match one:
+            case ast.FunctionDef(name=name) | ast.ClassDef(name=name):
+                names[name] = one
+            case ast.Assign(targets=[ast.Name(id=name)]) | ast.AnnAssign(target=ast.Name(id=name)):
+                names[name] = one
+            case ast.ImportFrom():
+                names |= {alias.asname or alias.name: one for alias in one.names}
+    return names
+
+
+def is_own(name: str) -> bool:
+    """Whether a name of a stub stands for something that is there when a program runs."""
+    return not (name.startswith("__") or name.startswith("_Implements") or name.endswith(("OnInstance", "OnClass")))
+
+
+class Live(unittest.TestCase):
+    """All types and modules against their stubs, both ways."""
+
+    # Kept by the engine and the enum module in the dictionaries of types.
+    PLUMBING = {"_korvan_clr_host", "_korvan_clr_castable_obj", "_additional_interfaces", "_implicit_interfaces"}
+
+    def setUp(self) -> None:
+        self.classes: dict[str, ast.ClassDef] = {}
+        self.modules: dict[str, dict[str, ast.stmt]] = {}
+        for path in PACKAGE.glob("cad/**/*.pyi"):
+            folder = path.parent if path.name == "__init__.pyi" else path.with_suffix("")
+            module = ".".join(("korvan", *folder.relative_to(PACKAGE).parts))
+            self.modules[module] = defined(ast.parse(path.read_text(encoding="utf-8")).body)
+            self.add_classes(module, self.modules[module])
+
+    def add_classes(self, place: str, names: dict[str, ast.stmt]) -> None:
+        for name, one in names.items():
+            if isinstance(one, ast.ClassDef):
+                self.classes[f"{place}.{name}"] = one
+                self.add_classes(f"{place}.{name}", defined(one.body))
+
+    def members(self, name: str) -> set[str]:
+        """What a class of a stub has, by itself and by its bases."""
+        module = next(name[:at] for at in range(len(name), 0, -1) if name[:at] in self.modules)
+        found = set(defined(self.classes[name].body))
+        for base in self.classes[name].bases:
+            text = ast.unparse(base).partition("[")[0]
+            if text == "collections.abc.Sequence":
+                found |= {"index", "count"}
+            for place in (text, f"{module}.{text}"):
+                found |= self.members(place) if place in self.classes else set()
+        return {member for member in found if is_own(member)}
+
+    def test_every_type_has_what_its_stub_says_and_nothing_else(self) -> None:
+        seen: set[str] = set()
+
+        def look(owner: object, place: str) -> None:
+            if isinstance(owner, types.ModuleType):
+                # Not for users, and not to be written: the wrappers of collections, a module called as a keyword is.
+                there = {name for name in vars(owner) if is_own(name)} - {"_wrpgen", "import"}
+                self.assertEqual({name for name in self.modules[place] if is_own(name)}, there, place)
+            for name, one in vars(owner).items():
+                full = f"{place}.{name}"
+                if isinstance(one, types.ModuleType) and full in self.modules:
+                    look(one, full)
+                elif isinstance(one, type) and full in self.classes:
+                    seen.add(full)
+                    self.compare(one, full)
+                    look(one, full)
+
+        look(korvan.cad, "korvan.cad")
+        self.assertEqual({name for name in self.classes if is_own(name.rpartition(".")[2])} - seen,
+                         {name for name in self.classes if name.startswith("korvan.cad._typing.")})
+
+    def compare(self, live: type, name: str) -> None:
+        if isinstance(live, enum.EnumType):
+            members = {key: ast.literal_eval(one.value) for key, one in defined(self.classes[name].body).items()
+                       if isinstance(one, ast.Assign)}
+            self.assertEqual(list(members.items()), [(key, int(one)) for key, one in live.__members__.items()], name)
+            methods = {key for key, one in vars(live).items() if type(one).__name__.endswith("DescrType")}
+            self.assertEqual(self.members(name), members.keys() | methods, name)
+        else:
+            there = {member for member in set(dir(live)) - set(dir(object)) if is_own(member)}
+            self.assertEqual(self.members(name), there - self.PLUMBING, name)
+
+
 @unittest.skipUnless(CHECKER.exists() and shutil.which("node"), "the type checker is not installed: `make test` does")
 class Stubs(unittest.TestCase):
-    def check_program(self, lines: list[str]) -> dict[int, list[dict[str, Any]]]:
+    def check_program(self, lines: Iterable[str], mode: str = "standard") -> dict[int, list[dict[str, Any]]]:
         """The findings in a program of those lines, by the line's number."""
         prepared = textwrap.dedent(PREPARED)
         with tempfile.TemporaryDirectory() as folder:
@@ -92,7 +211,7 @@ class Stubs(unittest.TestCase):
             program.write_text(prepared + "\n".join(lines) + "\n", encoding="utf-8")
             first = prepared.count("\n")
             findings: dict[int, list[dict[str, Any]]] = {}
-            for one in check("standard", program):
+            for one in check(mode, program):
                 findings.setdefault(one["range"]["start"]["line"] - first, []).append(one)
             return findings
 
@@ -107,6 +226,10 @@ class Stubs(unittest.TestCase):
         for at, (expression, name) in enumerate(TYPES.items()):
             with self.subTest(expression):
                 self.assertEqual(findings[at][0]["message"], f'Type of "{expression}" is "{name}"')
+
+    def test_right_programs_pass(self) -> None:
+        findings = self.check_program(RIGHT, "strict")
+        self.assertEqual({RIGHT[at]: told(ones) for at, ones in findings.items() if at >= 0}, {})
 
     def test_mistakes_are_found(self) -> None:
         findings = self.check_program(list(MISTAKES))

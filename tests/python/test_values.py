@@ -2,6 +2,8 @@
 
 from __future__ import annotations
 
+import copy
+import pickle
 import unittest
 
 from korvan import probe, pydrawing
@@ -177,6 +179,28 @@ class EnumValues(unittest.TestCase):
         self.assertEqual(probe.ShortSigned.ROTATE_90_FLIP_NONE, 5)
         self.assertEqual(probe.ShortUnsigned.S_RGB, 0)
         self.assertEqual(probe.LongUnsigned.RLE8, 8)
+
+    def test_values_beyond_the_storage_fail_in_the_words_of_its_width(self) -> None:
+        signed, unsigned = "Python int too large to convert to C long", "Python int too large to convert to C unsigned long"
+        rows = [
+            (probe.Options(2**63), signed), (probe.WordUnsigned(2**64), unsigned),
+            (probe.LongSigned(2**63), "int too big to convert"), (probe.LongUnsigned(2**64), "int too big to convert"),
+        ]
+        for value, words in rows:
+            for call in (value.get_type, value._as_uni_enum):
+                with self.subTest(value), self.assertRaisesRegex(OverflowError, f"^{words}$"):
+                    call()
+        self.assertEqual(int(probe.LongUnsigned(2**63 + 8)._as_uni_enum()), 2**63 + 8)
+
+    def test_members_pass_through_pickles_and_copies(self) -> None:
+        members = [*probe.Choice, probe.Options.A | probe.Options.C, probe.LongUnsigned.TOP, probe.Cube.Colour.GREEN,
+                   probe.TinySigned.LOW]
+        for protocol in range(pickle.HIGHEST_PROTOCOL + 1):
+            found = pickle.loads(pickle.dumps(members, protocol))
+            self.assertEqual([(type(one), one) for one in found], [(type(one), one) for one in members])
+        for member in probe.Choice:
+            self.assertIs(pickle.loads(pickle.dumps(member)), member)
+            self.assertIs(copy.deepcopy(copy.copy(member)), member)
 
 
 class StructValues(unittest.TestCase):

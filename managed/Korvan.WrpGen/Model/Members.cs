@@ -39,6 +39,11 @@ public sealed record PropertyModel(string ManagedName, string PythonName, bool I
 
     public required ValueUse Value { get; init; }
 
+    /// <summary>What an assignment takes: the same type, but maybe with or without null.</summary>
+    public ValueUse Given => field ??= Value with { IsOptional = TakesNull };
+
+    public required bool TakesNull { get; init; }
+
     public required bool CanWrite { get; init; }
 
     public required DocText Doc { get; init; }
@@ -60,4 +65,24 @@ public sealed record InterfaceUse(TypeModel Interface, bool IsExplicit);
 public sealed record DocText(string Summary, IReadOnlyDictionary<string, string> Parameters, string Returns)
 {
     public static DocText None { get; } = new("", new Dictionary<string, string>(), "");
+
+    /// <summary>The managed exceptions by their names, and when they are thrown.</summary>
+    public IReadOnlyList<KeyValuePair<string, string>> Raises { get; init; } = [];
+
+    public bool IsEmpty => Summary.Length == 0 && Returns.Length == 0 && Parameters.Count == 0 && Raises.Count == 0;
+
+    /// <summary>This, with what it leaves unsaid taken from another.</summary>
+    public DocText Over(DocText other) => new(
+        Summary.Length > 0 ? Summary : other.Summary,
+        other.Parameters.Where(pair => !Parameters.ContainsKey(pair.Key)).Concat(Parameters).ToDictionary(),
+        Returns.Length > 0 ? Returns : other.Returns)
+    {
+        Raises = [.. Raises, .. other.Raises.Where(one => !Raises.Any(own => own.Key == one.Key))],
+    };
+
+    /// <summary>This, for a member with those parameters.</summary>
+    public DocText For(IEnumerable<string> parameters) => this with
+    {
+        Parameters = parameters.Where(Parameters.ContainsKey).ToDictionary(name => name, name => Parameters[name]),
+    };
 }

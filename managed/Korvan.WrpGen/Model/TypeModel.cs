@@ -73,6 +73,12 @@ public sealed class TypeModel
     /// <summary>The element of the protocol; null for items that cross as variants.</summary>
     public ValueUse? ProtocolElement { get; set; }
 
+    /// <summary>What a walk gives, where the protocol is one without an element type.</summary>
+    public ValueUse? WalkedItem { get; set; }
+
+    /// <summary>Serves a protocol without an element type, which classes derived from it have.</summary>
+    public bool LeavesItemOpen { get; set; }
+
     public bool IsDisposable { get; set; }
 
     /// <summary>Types that explicit or implicit conversions of this type lead to.</summary>

@@ -12,8 +12,11 @@ public sealed record ValueUse(ValueKind Kind, string ManagedName, string CSharpN
     /// <summary>The element of a collection, the value of a nullable.</summary>
     public ValueUse? Element { get; init; }
 
-    /// <summary>May be null by declaration; counts for the Python type alone.</summary>
+    /// <summary>May be null by declaration.</summary>
     public bool IsOptional { get; init; }
+
+    /// <summary>Has a null, which Python's None becomes.</summary>
+    public bool IsReference => !IsValueType && Kind is not (ValueKind.Void or ValueKind.Nullable);
 
     /// <summary>A class whose results cross with their exact type.</summary>
     public bool IsMostDerived { get; init; }

@@ -6,7 +6,7 @@ using System.Text;
 namespace Korvan.WrpGen.Naming;
 
 /// <summary>The one rule by which a managed identifier becomes a Python one.</summary>
-public static class PythonName
+internal static class PythonName
 {
     // Names that were fixed before the rule was, and stay.
     private static readonly Dictionary<string, string> s_fixed = new()

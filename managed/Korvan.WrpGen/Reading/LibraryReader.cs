@@ -56,6 +56,10 @@ public sealed class LibraryReader
         {
             new TypeReader(_types[name], model, _bound, values, _docs, _leftOut).Read();
         }
+        foreach (TypeModel model in _bound.Values.Where(one => one.WalkedItem is not null))
+        {
+            LeaveItemOpen(model);
+        }
         TypeModel[] types = [.. _bound.Values];
         return new BindingModel
         {
@@ -66,6 +70,14 @@ public sealed class LibraryReader
             Elements = ElementCollector.Collect(types),
             LeftOut = [.. _leftOut.OrderBy(one => one.Member, StringComparer.Ordinal)],
         };
+    }
+
+    private static void LeaveItemOpen(TypeModel model)
+    {
+        for (TypeModel? level = model.Base; level is { WalkedItem: null, ProtocolElement: null }; level = level.Base)
+        {
+            level.LeavesItemOpen = level.Protocol != CollectionProtocol.None;
+        }
     }
 
     // Nested types behind their outer ones.
@@ -105,7 +117,7 @@ public sealed class LibraryReader
             Outer = outer,
             IsAbstract = type.IsAbstract,
             ShowsMostDerived = type.ShowsMostDerived(),
-            Doc = _docs.Of(DocId.Of(type)),
+            Doc = _docs.Of(DocId.Of(type), type.BaseType is null ? [] : [DocId.Of(type.BaseType)]),
         };
     }
 

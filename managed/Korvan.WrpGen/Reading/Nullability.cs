@@ -8,17 +8,29 @@ namespace Korvan.WrpGen.Reading;
 /// <summary>Whether a reference may be null by its declaration, read from the compiler's own marks.</summary>
 internal static class Nullability
 {
-    private const byte MayBeNull = 2;
+    // Code that was compiled without the marks promises nothing.
+    private const byte NeverNull = 1;
 
-    public static bool MayBe(ParameterInfo parameter) =>
-        Flag(parameter.GetCustomAttributesData(), "NullableAttribute") is { } flag
-            ? flag == MayBeNull
-            : ContextOf(parameter.Member) == MayBeNull;
+    public static bool MayBe(ParameterInfo parameter) => IsWritten(
+        parameter.GetCustomAttributesData(),
+        (Flag(parameter.GetCustomAttributesData(), "NullableAttribute") ?? ContextOf(parameter.Member)) != NeverNull);
 
-    public static bool MayBe(MemberInfo member) =>
-        Flag(member.GetCustomAttributesData(), "NullableAttribute") is { } flag
-            ? flag == MayBeNull
-            : ContextOf(member is PropertyInfo property ? property.GetMethod ?? member : member) == MayBeNull;
+    public static bool MayBe(MemberInfo member)
+    {
+        MemberInfo around = member is PropertyInfo property ? property.GetMethod ?? member : member;
+        return (Flag(member.GetCustomAttributesData(), "NullableAttribute") ?? ContextOf(around)) != NeverNull;
+    }
+
+    /// <summary>Whether null may be assigned, which can be more or less than what is read.</summary>
+    public static bool MayBeSet(MemberInfo member) => member is PropertyInfo { SetMethod: { } setter }
+        ? MayBe(setter.GetParameters()[^1])
+        : IsWritten(member.GetCustomAttributesData(), MayBe(member));
+
+    private static bool IsWritten(IEnumerable<CustomAttributeData> attributes, bool declared)
+    {
+        string[] names = [.. attributes.Select(one => one.AttributeType.Name)];
+        return names.Contains("AllowNullAttribute") || (declared && !names.Contains("DisallowNullAttribute"));
+    }
 
     private static byte ContextOf(MemberInfo? member)
     {

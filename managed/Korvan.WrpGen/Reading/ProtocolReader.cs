@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
+using System.Reflection;
 using Korvan.WrpGen.Model;
 
 namespace Korvan.WrpGen.Reading;
@@ -57,6 +58,17 @@ internal static class ProtocolReader
             }
         }
         model.Protocol = s_untyped.FirstOrDefault(pair => type.HasInterface(pair.Interface)).Protocol;
+        model.WalkedItem = WalkedItem(type, values);
+    }
+
+    // As a loop in C# finds it: by an enumerator of its own, whatever the interfaces are.
+    private static ValueUse? WalkedItem(Type type, ValueReader values)
+    {
+        MethodInfo? walk = type.GetMethod("GetEnumerator", BindingFlags.Public | BindingFlags.Instance, []);
+        PropertyInfo? current = walk?.ReturnType.GetProperty("Current");
+        return current is null || current.PropertyType.FullName == "System.Object"
+            ? null
+            : values.ReadElement(current.PropertyType, out _);
     }
 
     /// <summary>Whether the protocol stands in for a managed member.</summary>

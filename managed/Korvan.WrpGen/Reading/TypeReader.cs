@@ -208,8 +208,9 @@ internal sealed class TypeReader(
         {
             Owner = model,
             Value = value,
+            TakesNull = Nullability.MayBeSet(member),
             CanWrite = canWrite && !valueType.IsByRef && !value.IsResultOnly,
-            Doc = docs.Of(docId),
+            Doc = docs.Of(docId, Elsewhere(member.DeclaringType!, docId)),
         });
     }
 
@@ -302,8 +303,22 @@ internal sealed class TypeReader(
             Owner = model,
             Parameters = parameters,
             Result = result,
-            Doc = docs.Of(DocId.Of(method)),
+            Doc = docs.Of(DocId.Of(method), Elsewhere(method.DeclaringType!, DocId.Of(method)))
+                .For(parameters.Select(parameter => parameter.PythonName)),
         });
+    }
+
+    // The members that one overrides or implements, by the names of their documentation.
+    private static IEnumerable<string> Elsewhere(Type declaring, string docId)
+    {
+        for (Type? level = declaring.BaseType; level is not null; level = level.BaseType)
+        {
+            yield return DocId.In(level, declaring, docId);
+        }
+        foreach (Type one in declaring.GetInterfaces().OrderBy(i => i.FullName, StringComparer.Ordinal))
+        {
+            yield return DocId.In(one, declaring, docId);
+        }
     }
 
     private static Passing PassingOf(ParameterInfo parameter) =>

@@ -24,16 +24,37 @@ internal sealed class XmlDocs
         return docs;
     }
 
-    public DocText Of(string id)
+    public DocText Of(string id) => Of(id, []);
+
+    /// <summary>The documentation of a member. What it leaves unsaid is taken from where it points to, or else from the
+    /// first of those members that it stands for.</summary>
+    public DocText Of(string id, IEnumerable<string> inherited)
     {
-        if (!_members.TryGetValue(id, out XElement? member))
+        XElement? member = _members.GetValueOrDefault(id);
+        DocText own = member is null ? DocText.None : Read(member);
+        XElement? pointer = member?.Element("inheritdoc");
+        if (member is not null && pointer is null)
         {
-            return DocText.None;
+            return own;
         }
+        IEnumerable<string> sources = pointer?.Attribute("cref") is { } target ? [target.Value] : inherited;
+        return own.Over(sources.Where(source => source != id).Select(source => Of(source, []))
+            .FirstOrDefault(text => !text.IsEmpty, DocText.None));
+    }
+
+    private static DocText Read(XElement member)
+    {
         var parameters = member.Elements("param").ToDictionary(
             parameter => PythonName.Lower(parameter.Attribute("name")!.Value), Text);
         string summary = Join(Text(member.Element("summary")), Text(member.Element("remarks")));
-        return new DocText(summary, parameters, Text(member.Element("returns") ?? member.Element("value")));
+        return new DocText(summary, parameters, Text(member.Element("returns") ?? member.Element("value")))
+        {
+            Raises =
+            [
+                .. member.Elements("exception").Select(one =>
+                    KeyValuePair.Create(one.Attribute("cref")!.Value.Split('.')[^1], Text(one))),
+            ],
+        };
     }
 
     private static string Join(string summary, string remarks) =>

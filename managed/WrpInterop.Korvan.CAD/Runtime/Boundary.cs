@@ -64,9 +64,9 @@ public static unsafe class Boundary
     {
         if (exception.InnerException is null)
         {
-            return exception.Message;
+            return FailureText.Of(exception);
         }
-        var text = new StringBuilder(exception.Message);
+        var text = new StringBuilder(FailureText.Of(exception));
         int depth = 0;
         Exception last = exception;
         for (Exception? inner = exception.InnerException; inner is not null; inner = inner.InnerException)
@@ -86,7 +86,7 @@ public static unsafe class Boundary
     }
 
     private static void AppendInner(StringBuilder text, Exception inner) =>
-        text.Append(" ---> ").Append(inner.GetType().Name).Append(": ").Append(inner.Message);
+        text.Append(" ---> ").Append(inner.GetType().Name).Append(": ").Append(FailureText.Of(inner));
 
     // What can't be decoded is reported aside and printed as unknown: the error at hand comes first.
     private static nint NewString(string text)

@@ -59,25 +59,25 @@
 
 // Rows of tables; the formatter would take them for blocks of statements.
 // clang-format off
-#define KORVAN_METHOD(name, record)                                                                \
+#define KORVAN_METHOD(name, record, doc)                                                           \
     {name, reinterpret_cast<PyCFunction>(method_thunk<record>), METH_FASTCALL | METH_KEYWORDS,     \
-     nullptr}
-#define KORVAN_METHOD_STATIC(name, record)                                                         \
+     doc}
+#define KORVAN_METHOD_STATIC(name, record, doc)                                                    \
     {name, reinterpret_cast<PyCFunction>(method_thunk<record>),                                    \
-     METH_FASTCALL | METH_KEYWORDS | METH_STATIC, nullptr}
+     METH_FASTCALL | METH_KEYWORDS | METH_STATIC, doc}
 // The two forms of a mixed method, which its descriptor calls with a tuple and a dict.
-#define KORVAN_MIXED(name, record)                                                                 \
+#define KORVAN_MIXED(name, record, doc)                                                            \
     {name, reinterpret_cast<PyCFunction>(mixed_thunk<record>), METH_VARARGS | METH_KEYWORDS,       \
-     nullptr}
-#define KORVAN_MIXED_STATIC(name, record)                                                          \
+     doc}
+#define KORVAN_MIXED_STATIC(name, record, doc)                                                     \
     {name, reinterpret_cast<PyCFunction>(mixed_thunk<record>),                                     \
-     METH_VARARGS | METH_KEYWORDS | METH_STATIC, nullptr}
+     METH_VARARGS | METH_KEYWORDS | METH_STATIC, doc}
 #define KORVAN_MIXED_NOARGS KORVAN_METHOD_NOARGS
 #define KORVAN_MIXED_STATIC_NOARGS KORVAN_METHOD_STATIC_NOARGS
-#define KORVAN_METHOD_NOARGS(name, record)                                                         \
-    {name, method_noargs_thunk<record>, METH_NOARGS, nullptr}
-#define KORVAN_METHOD_STATIC_NOARGS(name, record)                                                  \
-    {name, method_noargs_thunk<record>, METH_NOARGS | METH_STATIC, nullptr}
+#define KORVAN_METHOD_NOARGS(name, record, doc)                                                    \
+    {name, method_noargs_thunk<record>, METH_NOARGS, doc}
+#define KORVAN_METHOD_STATIC_NOARGS(name, record, doc)                                             \
+    {name, method_noargs_thunk<record>, METH_NOARGS | METH_STATIC, doc}
 #define KORVAN_STATIC_SETTER(name, property, policy)                                               \
     {name, static_setter_thunk<property, policy>, METH_O | METH_STATIC, nullptr}
 #define KORVAN_ENTER_EXIT                                                                          \

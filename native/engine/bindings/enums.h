@@ -26,13 +26,14 @@ template <class T> PyObject* conv_clr_to_py_enum(T value, const EnumBinding& bin
     return integer != nullptr ? enum_member_of(integer, binding) : nullptr;
 }
 
+// The width decides which function reads the value, and so the words of an overflow.
 template <class T> int enum_integer(PyObject* object, T* out) {
+    constexpr bool is_wide = sizeof(T) == sizeof(long long);
     if constexpr (std::is_unsigned_v<T>) {
-        const unsigned long long value = PyLong_AsUnsignedLongLong(object);
-        *out = static_cast<T>(value);
+        *out = static_cast<T>(is_wide ? PyLong_AsUnsignedLongLong(object)
+                                      : PyLong_AsUnsignedLong(object));
     } else {
-        const long long value = PyLong_AsLongLong(object);
-        *out = static_cast<T>(value);
+        *out = static_cast<T>(is_wide ? PyLong_AsLongLong(object) : PyLong_AsLong(object));
     }
     return PyErr_Occurred() == nullptr ? 1 : 0;
 }

@@ -3,6 +3,7 @@
 #include "bindings/classes.h"
 #include "bindings/enums.h"
 #include "bindings/finishing.h"
+#include "bindings/pickling.h"
 #include "generic/collections.h"
 #include "generic/interop.h"
 #include "runtime/callbacks.h"
@@ -304,7 +305,8 @@ struct CollectorPause {
 
 PyObject* build_namespace_tree(const ModuleRecord& root, PyModuleDef& root_definition) {
     const CollectorPause pause;
-    return build_module(root, root_definition, true);
+    Ref module = Ref::steal(build_module(root, root_definition, true));
+    return module && make_enums_picklable(root) ? module.release() : nullptr;
 }
 
 PyObject* wrpPye_mlit_FFFFFFFF_common_wrappers(PyObject* module, const BoundTree& tree) {

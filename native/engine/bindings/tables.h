@@ -27,10 +27,10 @@
 //       &class_CFECF7E6_Matrix, legs_CFECF7E6_Matrix_scale, 2};
 //
 //   static PyMethodDef wrpPy_tymd_CFECF7E6_Matrix[] = {
-//       KORVAN_METHOD("scale", method_CFECF7E6_Matrix_scale),
-//       KORVAN_METHOD_NOARGS("get_elements", method_CFECF7E6_Matrix_get_elements),
-//       KORVAN_METHOD_STATIC("create", method_CFECF7E6_Matrix_create),
-//       KORVAN_METHOD_STATIC_NOARGS("identity", method_CFECF7E6_Matrix_identity),
+//       KORVAN_METHOD("scale", method_CFECF7E6_Matrix_scale, "..."),
+//       KORVAN_METHOD_NOARGS("get_elements", method_CFECF7E6_Matrix_get_elements, "..."),
+//       KORVAN_METHOD_STATIC("create", method_CFECF7E6_Matrix_create, "..."),
+//       KORVAN_METHOD_STATIC_NOARGS("identity", method_CFECF7E6_Matrix_identity, "..."),
 //       KORVAN_GET_TYPE_OF_OBJECT,          // KORVAN_GET_TYPE_OF_STRUCT for a struct
 //       KORVAN_STATIC_SETTER("set_cache_folder", property_..., arg::string),
 //       KORVAN_CAST_METHODS(class_CFECF7E6_Matrix),

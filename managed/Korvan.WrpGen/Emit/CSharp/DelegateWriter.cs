@@ -45,7 +45,8 @@ internal sealed class DelegateWriter(CodeWriter writer, TypeModel type)
             {
                 writer.Line("PyScope scope = PyScope.Keeping();");
             }
-            string value = CSharpValues.Read(property.Value, "value");
+            string place = $"{type.QualifiedName}.{property.PythonName}";
+            string value = CSharpValues.ReadGiven(property.Given, "value", place);
             writer.Line($"{Target(property)}.{Escape(property.ManagedName)} = {value};");
         });
     }
@@ -157,13 +158,16 @@ internal sealed class DelegateWriter(CodeWriter writer, TypeModel type)
         }
     }
 
-    private static string Arguments(MethodModel method) =>
-        string.Join(", ", method.Parameters.Select((parameter, at) => parameter.Passing switch
+    private string Arguments(MethodModel method)
+    {
+        string called = method.IsConstructor ? type.QualifiedName : $"{type.QualifiedName}.{method.PythonName}";
+        return string.Join(", ", method.Parameters.Select((parameter, at) => parameter.Passing switch
         {
             Passing.Ref => $"ref v{at}",
             Passing.Out => $"out v{at}",
-            _ => CSharpValues.Read(parameter.Value, $"a{at}"),
+            _ => CSharpValues.ReadGiven(parameter.Value, $"a{at}", $"{called}: {parameter.PythonName}"),
         }));
+    }
 
     private void Export(
         string name, string result, IEnumerable<string> parameters, System.Action body, bool lends = false)

@@ -68,7 +68,8 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
         WriteGroup(name, group);
         bool takesNothing = group.Legs.Count == 1 && group.Legs[0].Parameters.Count == 0;
         string macro = row + (group.IsStatic ? "_STATIC" : "") + (takesNothing ? "_NOARGS" : "");
-        return $"{macro}(\"{group.PythonName}\", method_{name})";
+        string doc = MethodDocs.Literal(type, group, isMixed: row == "KORVAN_MIXED");
+        return $"{macro}(\"{group.PythonName}\", method_{name}, {doc})";
     }
 
     private void WriteGroup(string name, MethodGroup group)

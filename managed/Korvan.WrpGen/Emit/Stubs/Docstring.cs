@@ -10,12 +10,9 @@ internal static class Docstring
 {
     private const int Width = 88;
 
-    public static bool IsEmpty(DocText doc) =>
-        doc.Summary.Length == 0 && doc.Returns.Length == 0 && doc.Parameters.Count == 0;
-
     public static void Write(CodeWriter writer, DocText doc)
     {
-        if (IsEmpty(doc))
+        if (doc.IsEmpty)
         {
             return;
         }
@@ -33,7 +30,8 @@ internal static class Docstring
         writer.Line("\"\"\"");
     }
 
-    private static IEnumerable<string> Lines(DocText doc)
+    /// <summary>The lines of a docstring: the paragraphs, then the list of fields.</summary>
+    public static IEnumerable<string> Lines(DocText doc)
     {
         bool first = true;
         foreach (string paragraph in doc.Summary.Split("\n\n").Where(text => text.Length > 0))
@@ -48,23 +46,24 @@ internal static class Docstring
                 yield return line;
             }
         }
-        foreach ((string name, string text) in doc.Parameters)
+        string[] fields = [.. Fields(doc)];
+        if (!first && fields.Length > 0)
         {
-            if (!first)
-            {
-                yield return "";
-            }
-            first = false;
-            foreach (string line in Fold($":param {name}: {text}", "    "))
-            {
-                yield return line;
-            }
+            yield return "";
         }
-        foreach (string line in doc.Returns.Length == 0 ? [] : Fold($":returns: {doc.Returns}", "    "))
+        foreach (string line in fields.SelectMany(field => Fold(field, "    ")))
         {
             yield return line;
         }
     }
+
+    // Every managed exception arrives as a RuntimeError that names it.
+    private static IEnumerable<string> Fields(DocText doc) =>
+    [
+        .. doc.Parameters.Select(parameter => $":param {parameter.Key}: {parameter.Value}"),
+        .. doc.Returns.Length == 0 ? (IEnumerable<string>)[] : [$":returns: {doc.Returns}"],
+        .. doc.Raises.Select(one => $":raises RuntimeError: {one.Key}: {one.Value}"),
+    ];
 
     private static IEnumerable<string> Fold(string text, string hanging)
     {

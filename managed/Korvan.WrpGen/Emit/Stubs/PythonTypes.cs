@@ -26,11 +26,16 @@ internal sealed class PythonTypes(string module, IReadOnlySet<string> shadowed)
         ValueKind.DateTimeOffset => "datetime.datetime | datetime.time",
         ValueKind.Nullable => $"{Accepted(value.Element!)} | None",
         ValueKind.Array or ValueKind.List or ValueKind.IList or ValueKind.IReadOnlyList =>
-            $"collections.abc.Sequence[{Accepted(value.Element!)}]",
+            value.Element!.Kind == ValueKind.String
+                ? Support("TextSequence")
+                : $"collections.abc.Sequence[{Accepted(value.Element!)}]",
         ValueKind.ICollection or ValueKind.IReadOnlyCollection =>
             $"collections.abc.Collection[{Accepted(value.Element!)}]",
         ValueKind.AnyList or >= ValueKind.AnyArray => "collections.abc.Sequence[typing.Any]",
         ValueKind.AnyCollection => "collections.abc.Collection[typing.Any]",
+        ValueKind.IEnumerable => $"collections.abc.Iterable[{Accepted(value.Element!)}]",
+        ValueKind.IEnumerator => $"collections.abc.Iterator[{Accepted(value.Element!)}]",
+        ValueKind.Interface => Implementers(value.Bound!),
         _ => Plain(value),
     });
 
@@ -76,6 +81,23 @@ internal sealed class PythonTypes(string module, IReadOnlySet<string> shadowed)
         return type.PythonName;
     }
 
+    /// <summary>The base that all classes have which a parameter of an interface takes.</summary>
+    public string Implementers(TypeModel type)
+    {
+        string name = Name(type);
+        return name == "typing.Any" ? name : name[..^type.Name.Length] + ImplementersName(type);
+    }
+
+    public static string ImplementersName(TypeModel type) => "_Implements" + type.Name;
+
+    /// <summary>The arguments of a view: what an item comes as, and what may become one where that is more.</summary>
+    public string Item(ValueUse element)
+    {
+        string result = Result(element);
+        string accepted = Accepted(element);
+        return accepted == result ? result : $"{result}, {accepted}";
+    }
+
     /// <summary>A builtin, also where a member of that name hides it.</summary>
     public string Builtin(string name) => shadowed.Contains(name) ? $"builtins.{name}" : name;
 
@@ -107,7 +129,7 @@ internal sealed class PythonTypes(string module, IReadOnlySet<string> shadowed)
         return "korvan.pydrawing." + name;
     }
 
-    private string View(string view, ValueUse value) => Support($"{view}[{Result(value.Element!)}]");
+    private string View(string view, ValueUse value) => Support($"{view}[{Item(value.Element!)}]");
 
     private static string Optional(ValueUse value, string hint) =>
         value.IsOptional && value.Kind is not (ValueKind.Void or ValueKind.Object) && !value.IsValueType &&

@@ -17,15 +17,16 @@ public static class StubEmitter
     {
         foreach (ModuleModel module in model.Modules)
         {
-            folder.Write(PathOf(module.Name) + "/__init__.pyi", Module(module));
+            string own = module == model.RootModule ? Resource("_root.pyi") : "";
+            folder.Write(PathOf(module.Name) + "/__init__.pyi", Module(module, own));
         }
-        folder.Write(PathOf(model.RootModule.Name) + "/_typing.pyi", Support());
+        folder.Write(PathOf(model.RootModule.Name) + "/_typing.pyi", $"{Note}\n{Resource("_typing.pyi")}");
         folder.RemoveStale(".pyi");
     }
 
     private static string PathOf(string module) => module.Replace('.', '/');
 
-    private static string Module(ModuleModel module)
+    private static string Module(ModuleModel module, string own)
     {
         var body = new CodeWriter();
         var imports = new SortedSet<string>(StringComparer.Ordinal);
@@ -45,13 +46,13 @@ public static class StubEmitter
         {
             head.Line($"from . import {child.ShortName} as {child.ShortName}");
         }
-        return head.Line() + body.ToString();
+        return head.Line() + own + body.ToString();
     }
 
-    private static string Support()
+    private static string Resource(string name)
     {
-        using Stream resource = typeof(StubEmitter).Assembly.GetManifestResourceStream("_typing.pyi")!;
+        using Stream resource = typeof(StubEmitter).Assembly.GetManifestResourceStream(name)!;
         using var reader = new StreamReader(resource);
-        return $"{Note}\n{reader.ReadToEnd()}";
+        return reader.ReadToEnd();
     }
 }

@@ -48,7 +48,8 @@ internal sealed class StubTypeWriter
 
     private void WriteEnum()
     {
-        _writer.Line($"class {_type.Name}(enum.{(_type.IsIntegerEnum ? "IntEnum" : "IntFlag")}):");
+        string family = _type.IsIntegerEnum ? "IntEnum" : "IntFlag";
+        _writer.Line($"class {_type.Name}({_types.Support("BoundEnum")}, enum.{family}):");
         _writer.Indented(() =>
         {
             Docstring.Write(_writer, _type.Doc);
@@ -68,6 +69,10 @@ internal sealed class StubTypeWriter
 
     private void WriteClass()
     {
+        if (_type.Kind == BoundKind.Interface)
+        {
+            WriteImplementers();
+        }
         _writer.Line($"class {_type.Name}({string.Join(", ", Bases())}):");
         _writer.Indented(() =>
         {
@@ -97,16 +102,14 @@ internal sealed class StubTypeWriter
     private IEnumerable<string> Bases()
     {
         TypeModel? bound = _type.Kind == BoundKind.Class ? _type.Base : null;
-        TypeModel[] interfaces = [.. OwnInterfaces(bound)];
-        if (bound is not null || interfaces.Length == 0)
+        string item = ItemOf(_type);
+        yield return bound is null ? _types.Support("BoundObject")
+            : bound.LeavesItemOpen ? $"{_types.Name(bound)}[{item}]"
+            : _types.Name(bound);
+        foreach (TypeModel one in _type.Kind == BoundKind.Interface ? [_type] : OwnInterfaces(bound))
         {
-            yield return bound is null ? _types.Support("BoundObject") : _types.Name(bound);
+            yield return _types.Implementers(one);
         }
-        foreach (TypeModel one in interfaces)
-        {
-            yield return _types.Name(one);
-        }
-        string item = _type.ProtocolElement is { } element ? _types.Result(element) : "typing.Any";
         string? view = _type.Protocol switch
         {
             CollectionProtocol.List => "ListView",
@@ -123,8 +126,22 @@ internal sealed class StubTypeWriter
         }
     }
 
-    // A parameter of an interface takes what implements it. At run time the types have no such bases: only a checker
-    // needs them. Those that another one brings along are left out.
+    private string ItemOf(TypeModel type) =>
+        type.ProtocolElement is { } element ? _types.Item(element)
+        : type.WalkedItem is { } walked ? _types.Item(walked)
+        : type.LeavesItemOpen ? _types.Support("Item")
+        : "typing.Any";
+
+    // At run time no type derives from an interface: it is only that parameters take what implements it.
+    private void WriteImplementers()
+    {
+        string bases = string.Join(", ", OwnInterfaces(null).Select(_types.Implementers));
+        _writer.Line($"class {PythonTypes.ImplementersName(_type)}{(bases.Length > 0 ? $"({bases})" : "")}:");
+        _writer.Indented(() => _writer.Line($"\"\"\"What a parameter takes that is declared as {_type.Name}.\"\"\""));
+        _writer.Line();
+    }
+
+    // Those that another one brings along are left out.
     private IEnumerable<TypeModel> OwnInterfaces(TypeModel? bound)
     {
         TypeModel[] all = [.. _type.Interfaces.Select(use => use.Interface)];
@@ -192,7 +209,7 @@ internal sealed class StubTypeWriter
         if (property.CanWrite)
         {
             _writer.Line($"@{name}.setter");
-            _writer.Line($"def {name}(self, value: {_types.Accepted(property.Value)}) -> None: ...");
+            _writer.Line($"def {name}(self, value: {_types.Accepted(property.Given)}) -> None: ...");
         }
     }
 
@@ -204,15 +221,34 @@ internal sealed class StubTypeWriter
             _writer.Line($"# {main.PythonName}(...) (by getattr: the name is a keyword)");
             return;
         }
+        if (forms.Count > 1)
+        {
+            WriteMixed(main.PythonName, forms);
+            return;
+        }
         foreach (MethodModel leg in main.Legs)
         {
             WriteFunction(main.PythonName, leg, _types.Result(leg.Result), main.Legs.Count > 1);
         }
-        foreach (MethodModel leg in forms.Skip(1).SelectMany(form => form.Legs))
+    }
+
+    // One name is a method of instances and another one of the class.
+    private void WriteMixed(string name, IReadOnlyList<MethodGroup> forms)
+    {
+        string stem = "_" + string.Concat(name.Split('_').Select(word => char.ToUpperInvariant(word[0]) + word[1..]));
+        foreach (MethodGroup form in forms)
         {
-            string parameters = string.Join(", ", leg.Parameters.Select(Parameter));
-            _writer.Line($"# on the class: {main.PythonName}({parameters}) -> {_types.Result(leg.Result)}");
+            _writer.Line($"class {stem}{(form.IsStatic ? "OnClass" : "OnInstance")}(typing.Protocol):");
+            _writer.Indented(() =>
+            {
+                foreach (MethodModel leg in form.Legs)
+                {
+                    WriteFunction("__call__", leg, _types.Result(leg.Result), form.Legs.Count > 1, hasSelf: true);
+                }
+            });
         }
+        string mixed = _types.Support("MixedMethod");
+        _writer.Line($"{name}: {mixed}[{stem}OnInstance, {stem}OnClass]");
     }
 
     private void WriteStaticSetters()
@@ -220,22 +256,23 @@ internal sealed class StubTypeWriter
         foreach (PropertyModel value in _type.StaticProperties.Where(property => property.CanWrite))
         {
             _writer.Line($"@{_types.Builtin("staticmethod")}");
-            _writer.Line($"def set_{value.PythonName}(value: {_types.Accepted(value.Value)}, /) -> None: ...");
+            _writer.Line($"def set_{value.PythonName}(value: {_types.Accepted(value.Given)}, /) -> None: ...");
         }
     }
 
-    private void WriteFunction(string name, MethodModel leg, string result, bool isOverload)
+    private void WriteFunction(string name, MethodModel leg, string result, bool isOverload, bool hasSelf = false)
     {
+        hasSelf |= !leg.IsStatic;
         if (isOverload)
         {
             _writer.Line("@typing.overload");
         }
-        if (leg.IsStatic)
+        if (!hasSelf)
         {
             _writer.Line($"@{_types.Builtin("staticmethod")}");
         }
         IEnumerable<string> parameters = leg.Parameters.Select(Parameter);
-        string list = string.Join(", ", leg.IsStatic ? parameters : parameters.Prepend("self"));
+        string list = string.Join(", ", hasSelf ? parameters.Prepend("self") : parameters);
         // Legs that a base declares stand behind those of the class itself, as they are tried.
         string note = isOverload && leg.Owner != _type ? "  # type: ignore[override]" : "";
         WriteHead($"def {name}({list}) -> {result}:", leg.Doc, note);
@@ -249,7 +286,7 @@ internal sealed class StubTypeWriter
 
     private void WriteHead(string head, DocText doc, string note = "")
     {
-        if (Docstring.IsEmpty(doc))
+        if (doc.IsEmpty)
         {
             _writer.Line(head + " ..." + note);
             return;

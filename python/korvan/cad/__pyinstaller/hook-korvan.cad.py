@@ -8,6 +8,8 @@ hiddenimports = [
     "korvan.pyreflection",
     "korvan.pygc",
     "korvan.pycore",
+    "korvan._pickling",
+    "copyreg",
     "datetime",
     "decimal",
     "enum",

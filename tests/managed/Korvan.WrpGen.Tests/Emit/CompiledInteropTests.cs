@@ -97,8 +97,10 @@ public class CompiledInteropTests
 
     private static Assembly Compile()
     {
-        string runtime = Path.Combine(ProbeModel.RepositoryRoot, "managed", "WrpInterop.Korvan.CAD", "Runtime");
+        string managed = Path.Combine(ProbeModel.RepositoryRoot, "managed");
+        string runtime = Path.Combine(managed, "WrpInterop.Korvan.CAD", "Runtime");
         IEnumerable<string> sources = Directory.GetFiles(runtime, "*.cs", SearchOption.AllDirectories)
+            .Append(Path.Combine(managed, "Korvan.WrpGen", "Naming", "PythonName.cs"))
             .Order(StringComparer.Ordinal).Select(File.ReadAllText)
             .Concat(ProbeModel.Emit(CSharpEmitter.Write).Values);
         var parsing = new CSharpParseOptions(LanguageVersion.Preview);

@@ -1,0 +1,63 @@
+using System.Collections.Generic;
+using System.Linq;
+using System.Text;
+using Korvan.WrpGen.Emit.Stubs;
+using Korvan.WrpGen.Model;
+using Korvan.WrpGen.Naming;
+
+namespace Korvan.WrpGen.Emit.Cpp;
+
+/// <summary>
+/// What help() shows of a method. One form has a signature that the interpreter reads; several are told one by one,
+/// in the order of tries.
+/// </summary>
+internal static class MethodDocs
+{
+    private static readonly HashSet<string> s_shadowed = [];
+
+    /// <summary>A C string literal.</summary>
+    public static string Literal(TypeModel type, MethodGroup group, bool isMixed)
+    {
+        MethodModel first = group.Legs[0];
+        bool hasSignature = !isMixed && group.Legs.Count == 1 &&
+            !first.Parameters.Any(parameter => PythonName.IsKeyword(parameter.PythonName));
+        return Quote(hasSignature ? Signature(group, first) : Forms(type, group));
+    }
+
+    // The notation that inspect.signature takes apart.
+    private static string Signature(MethodGroup group, MethodModel leg)
+    {
+        IEnumerable<string> names = leg.Parameters.Select(parameter => parameter.PythonName);
+        string list = string.Join(", ", group.IsStatic ? names : names.Prepend("$self"));
+        return $"{group.PythonName}({list})\n--\n\n{string.Join('\n', Docstring.Lines(leg.Doc))}";
+    }
+
+    private static string Forms(TypeModel type, MethodGroup group)
+    {
+        var types = new PythonTypes(type.Module, s_shadowed);
+        IEnumerable<string> forms = group.Legs.Select(leg =>
+        {
+            string parameters = string.Join(
+                ", ", leg.Parameters.Select(parameter => $"{parameter.PythonName}: {types.Parameter(parameter)}"));
+            string head = $"{group.PythonName}({parameters}) -> {types.Result(leg.Result)}";
+            return string.Join('\n', Docstring.Lines(leg.Doc).Select(line => line.Length > 0 ? "    " + line : line).Prepend(head));
+        });
+        return string.Join("\n\n", forms);
+    }
+
+    private static string Quote(string text)
+    {
+        var literal = new StringBuilder("\"");
+        foreach (char c in text)
+        {
+            literal.Append(c switch
+            {
+                '\n' => "\\n",
+                '"' => "\\\"",
+                '\\' => "\\\\",
+                _ => c.ToString(),
+            });
+        }
+        return literal.Append('"').ToString();
+    }
+}

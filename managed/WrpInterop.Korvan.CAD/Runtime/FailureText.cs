@@ -1,0 +1,102 @@
+using System;
+using System.Diagnostics;
+using System.Text;
+using Korvan.WrpGen.Naming;
+
+namespace Korvan.WrpGen.Interop;
+
+/// <summary>
+/// What an exception says, to somebody who knows arguments and properties by their Python names. The framework adds
+/// an argument's managed name and its value behind the message; in a setter the name is no more than "value".
+/// </summary>
+internal static class FailureText
+{
+    private const string SetterArgument = "value";
+    private const string NoValue = "Value cannot be null.";
+
+    // How the names of exported setters begin.
+    private static readonly string[] s_setters = ["set_", "setsa_"];
+
+    public static string Of(Exception exception)
+    {
+        if (exception is not ArgumentException argument)
+        {
+            return WithoutLoneSurrogates(exception.Message);
+        }
+        string text = WithoutTails(argument);
+        string? name = argument.ParamName;
+        if (string.IsNullOrEmpty(name) || Array.Exists(name.ToCharArray(), c => !char.IsAsciiLetterOrDigit(c)))
+        {
+            return WithoutLoneSurrogates(text);
+        }
+        string known = (name == SetterArgument ? PropertyOf(exception) : null) ?? PythonName.Lower(name);
+        return WithoutLoneSurrogates(
+            text == NoValue ? $"{known} must not be None."
+            : text.StartsWith($"{name} (", StringComparison.Ordinal) ? known + text[name.Length..]
+            : HasWord(text, known) ? text
+            : $"{known}: {text}");
+    }
+
+    private static string WithoutTails(ArgumentException argument)
+    {
+        string text = argument.Message;
+        if (argument is ArgumentOutOfRangeException { ActualValue: { } actual })
+        {
+            text = Before(text, $"{Environment.NewLine}Actual value was {actual}.");
+        }
+        return Before(text, $" (Parameter '{argument.ParamName}')");
+    }
+
+    private static string Before(string text, string tail) =>
+        text.EndsWith(tail, StringComparison.Ordinal) ? text[..^tail.Length] : text;
+
+    // The outermost frame of an exception is the exported function that caught it.
+    private static string? PropertyOf(Exception exception)
+    {
+        string? name = new StackTrace(exception, fNeedFileInfo: false) is { FrameCount: > 0 and int count } trace
+            ? trace.GetFrame(count - 1)?.GetMethod()?.Name
+            : null;
+        string? prefix = name is null ? null : Array.Find(s_setters, one => name.StartsWith(one, StringComparison.Ordinal));
+        return prefix is null ? null : PythonName.Lower(name![prefix.Length..]);
+    }
+
+    private static bool HasWord(string text, string word)
+    {
+        for (int at = text.IndexOf(word, StringComparison.Ordinal); at >= 0;
+            at = text.IndexOf(word, at + 1, StringComparison.Ordinal))
+        {
+            if (!IsLetter(text, at - 1) && !IsLetter(text, at + word.Length))
+            {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    private static bool IsLetter(string text, int at) =>
+        at >= 0 && at < text.Length && (char.IsLetterOrDigit(text[at]) || text[at] == '_');
+
+    // Half a pair can't be decoded: one would take the whole message along.
+    private static string WithoutLoneSurrogates(string text)
+    {
+        StringBuilder? escaped = null;
+        for (int at = 0; at < text.Length; at++)
+        {
+            if (!char.IsSurrogate(text[at]))
+            {
+                escaped?.Append(text[at]);
+            }
+            else if (at + 1 < text.Length && char.IsSurrogatePair(text[at], text[at + 1]))
+            {
+                escaped?.Append(text, at, 2);
+                at++;
+            }
+            else
+            {
+                escaped ??= new StringBuilder(text, 0, at, text.Length + 8);
+                escaped.Append($"\\u{(int)text[at]:x4}");
+            }
+        }
+        return escaped?.ToString() ?? text;
+    }
+}
