@@ -152,6 +152,13 @@ public static unsafe class Handles
         s_spareEnd = s_spare + capacity;
     }
 
+    /// <summary>Stands where there is no instance to call a member on.</summary>
+    public static object Missing<T>()
+    {
+        ThrowNoInstance(typeof(T));
+        return null;
+    }
+
     [DoesNotReturn]
     private static void ThrowNoInstance(Type type) =>
         throw new InvalidOperationException($"The {type.Name} object was never constructed.");

@@ -26,7 +26,8 @@ internal static class CSharpValues
         ValueKind.Enum => $"({value.CSharpName}){name}",
         ValueKind.String => $"PyText.Read({name})",
         ValueKind.Bytes => $"PyValues.ReadBytes({name})",
-        ValueKind.Class => $"Handles.Object<{value.CSharpName}>({name})",
+        // A cast to a constant type: a generic method would look its type up.
+        ValueKind.Class => $"(({value.CSharpName})Handles.Target({name}))",
         ValueKind.Struct => $"Handles.Struct<{value.CSharpName}>({name})",
         ValueKind.Interface => $"References.Read<{value.CSharpName}>({name})",
         ValueKind.Object => $"scope.Any({name})",

@@ -215,7 +215,7 @@ internal sealed class DelegateWriter(CodeWriter writer, TypeModel type)
 
     private string Target() => type.Kind == BoundKind.Struct
         ? $"Handles.SelfStruct<{type.CSharpName}>(self)"
-        : $"Handles.Self<{type.CSharpName}>(self)";
+        : $"(({type.CSharpName})(Handles.Target(self) ?? Handles.Missing<{type.CSharpName}>()))";
 
     private ValueUse Self() => new(
         type.Kind == BoundKind.Struct ? ValueKind.Struct : ValueKind.Class, type.ManagedName, type.CSharpName);
