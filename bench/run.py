@@ -1,6 +1,6 @@
 """Runs the measurements and prints their tables: `make bench`.
 
-    build/python bench/run.py --modules build/release/bench [imports] [calls] [objects] [sequences] [streams] [values] [loading] [models] [pictures]
+    build/python bench/run.py --modules build/release/bench [imports] [calls] [objects] [sequences] [streams] [values] [loading] [walking] [models] [pictures]
 """
 
 from __future__ import annotations
@@ -11,7 +11,7 @@ import sys
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
-SUBJECTS = ("imports", "calls", "objects", "sequences", "streams", "values", "loading", "models", "pictures")
+SUBJECTS = ("imports", "calls", "objects", "sequences", "streams", "values", "loading", "walking", "models", "pictures")
 
 
 def main() -> int:

@@ -207,6 +207,20 @@ class ListProtocol(unittest.TestCase):
                     next(walk)
                 self.assertEqual(list(items), [*ITEMS, 7])
 
+    def test_a_walk_over_objects_gives_each_once_and_tells_a_change(self) -> None:
+        boxes = probe.Collections().boxes
+        boxes.clear()
+        for at in range(20):
+            boxes.append(probe.Box(str(at)))
+        self.assertEqual([box.label for box in boxes], [str(at) for at in range(20)])
+        walk = iter(boxes)
+        kept = [next(walk) for _ in range(18)]
+        boxes.append(None)
+        with self.assertRaisesRegex(RuntimeError, "Collection was modified"):
+            next(walk)
+        self.assertEqual([box.label for box in kept], [str(at) for at in range(18)])
+        self.assertIsNone(list(boxes)[-1])
+
     def test_indices_have_32_bits(self) -> None:
         words = r"the index \(2147483648\) is out of the INT32 range"
         items = LISTS["List<T>"]()

@@ -98,6 +98,19 @@ class Start(unittest.TestCase):
             "True True", "korvan.probe.inner [] korvan.probe.inner False", "True Holder", "korvan.probe.inner.nothing",
         ], done.stderr)
 
+    def test_the_types_are_no_burden_on_the_collector(self) -> None:
+        done = run(
+            """
+            import gc
+            before = len(gc.get_objects())
+            import korvan.cad
+            types = sum(isinstance(value, type) for value in vars(korvan.cad).values())
+            grown = len(gc.get_objects()) - before
+            print(types > 50, grown < 10_000 or grown)
+            """
+        )
+        self.assertEqual(done.stdout.split(), ["True", "True"], done.stderr)
+
     def test_two_modules_share_one_runtime(self) -> None:
         done = run(
             """

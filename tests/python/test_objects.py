@@ -129,6 +129,18 @@ class Casts(unittest.TestCase):
         self.assertFalse(probe.Box._cast_to("no wrapper"))
         self.assertFalse(probe.Box._cast_as(None))
 
+    def test_a_cast_result_outlives_what_it_was_made_of(self) -> None:
+        echo = probe.Echo()
+        echo.face = echo
+        results = [probe.Echo._cast_to(echo.face) for _ in range(600)] + [probe.Box._cast_to(echo)]
+        values = [result.value for result in results]
+        del results
+        made = [probe.Echo() for _ in range(600)]  # these take the memory of what has gone
+        self.assertEqual(values, [echo] * 600 + [None])
+        self.assertNotIn(echo, made)
+        with self.assertRaises(AttributeError):
+            probe.Echo._cast_to(echo).value = None
+
     def test_assignability_is_asked_of_the_managed_side(self) -> None:
         cube = probe.Cube(1)
         self.assertTrue(probe.Shape._is_assignable(cube))

@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import copy
 import pickle
+import random
 import unittest
 
 from korvan import probe, pydrawing
@@ -100,6 +101,17 @@ class TextValues(unittest.TestCase):
         echo = probe.Echo()
         rows = ["", "plain", "\u00e9t\u00e9", "\u20ac \u6f22", "\U0001f600 x", "a\0b", "x" * 100_000]
         for text in rows + [None]:
+            echo.text = text
+            self.assertEqual(echo.text, text)
+
+    def test_short_text_is_never_taken_for_another(self) -> None:
+        # Short strings are kept for the next time: alike at both ends, they differ in the middle or in length.
+        echo = probe.Echo()
+        alike = ["aaaaaaaa" + "x" * n + "aaaaaaaa"[: 8 - n] for n in range(9)]
+        rows = alike + ["\u20ac" * n for n in range(1, 18)] + ["a", "a\0", "a\0\0", "\0", "\0a", "x" * 16, "x" * 17]
+        random.seed(7)
+        rows += ["".join(random.choices("ab\u20ac\U0001f600", k=random.randrange(1, 17))) for _ in range(2000)]
+        for text in rows * 2:
             echo.text = text
             self.assertEqual(echo.text, text)
 

@@ -78,6 +78,37 @@ PyObject* encode_for_char(PyObject* object) {
     return encoded.release();
 }
 
+// Names of layers, styles and line types come again and again: the Python strings of the last
+// short ones are kept. Each row has room for one.
+constexpr int most_cached_units = 16;
+constexpr int cache_bits = 7;
+struct CachedText {
+    char16_t units[most_cached_units];
+    int length;
+    PyObject* text; // owned
+};
+CachedText cached_texts[1 << cache_bits];
+
+template <class Word> std::uint64_t word_at(const char* data) {
+    Word word;
+    std::memcpy(&word, data, sizeof(word));
+    return word;
+}
+
+// By the first units and the last ones, which overlap in a text of less than eight.
+size_t cache_row(const char* data, int length) {
+    const char* end = data + static_cast<size_t>(length) * sizeof(char16_t);
+    std::uint64_t mixed = static_cast<std::uint64_t>(length);
+    if (length >= 4) {
+        mixed += word_at<std::uint64_t>(data) ^ (word_at<std::uint64_t>(end - 8) * 31);
+    } else if (length >= 2) {
+        mixed += word_at<std::uint32_t>(data) ^ (word_at<std::uint32_t>(end - 4) * 31);
+    } else {
+        mixed += word_at<std::uint16_t>(data);
+    }
+    return (mixed * 0x9E3779B97F4A7C15) >> (64 - cache_bits);
+}
+
 } // namespace
 
 int fn_conv_py_string_to_clr_string(PyObject* object, PyStringArg* out) {
@@ -132,7 +163,21 @@ PyObject* fn_conv_clr_string_to_py_string_value(const char* data, long length) {
 }
 
 PyObject* fn_conv_clr_string_to_py_string(const char* data, int length) {
-    return fn_conv_clr_string_to_py_string_value(data, length);
+    if (length < 1 || length > most_cached_units) {
+        return fn_conv_clr_string_to_py_string_value(data, length);
+    }
+    CachedText& row = cached_texts[cache_row(data, length)];
+    const size_t size = static_cast<size_t>(length) * sizeof(char16_t);
+    if (row.length == length && std::memcmp(row.units, data, size) == 0) {
+        return Py_NewRef(row.text);
+    }
+    PyObject* text = fn_conv_clr_string_to_py_string_value(data, length);
+    if (text != nullptr) {
+        row.length = length;
+        std::memcpy(row.units, data, size);
+        Py_XSETREF(row.text, Py_NewRef(text));
+    }
+    return text;
 }
 
 PyObject* fn_conv_clr_string_to_py_unraisable(const char* data, int length) {

@@ -17,6 +17,9 @@ public sealed unsafe class ListCursor<T>(List<T> list) : IEnumerator<T>
     private const int Ahead = 6;
     private const int CacheLine = 64;
 
+    // An object and what was made with it, such as the points of a line, which lie behind it.
+    private const int Fetched = 6 * CacheLine;
+
     private List<T>.Enumerator _items = list.GetEnumerator();
     private int _next;
 
@@ -31,8 +34,10 @@ public sealed unsafe class ListCursor<T>(List<T> list) : IEnumerator<T>
         {
             // The address may be out of date when it is used: fetching from anywhere does no harm.
             nint address = Unsafe.As<T, nint>(ref CollectionsMarshal.AsSpan(list)[ahead]);
-            Sse.Prefetch0((void*)address);
-            Sse.Prefetch0((void*)(address + CacheLine));
+            for (nint line = address; line < address + Fetched; line += CacheLine)
+            {
+                Sse.Prefetch0((void*)line);
+            }
         }
         return _items.MoveNext();
     }
