@@ -84,7 +84,9 @@ public sealed class PixelDataFormat : IEquatable<PixelDataFormat>
     /// <exception cref="FrameworkException">The form needs a palette, or its palette is too large.</exception>
     public IColorConverter CreateConverter(IColorPalette? palette) => ColorConverters.Create(this, palette);
 
-    /// <inheritdoc/>
+    /// <summary>Tells whether another form has the same pixel format and the same bits in each channel.</summary>
+    /// <param name="other">The other form.</param>
+    /// <returns>Whether it is the same.</returns>
     public bool Equals(PixelDataFormat? other) =>
         other is not null && PixelFormat == other.PixelFormat && _channelBits.AsSpan().SequenceEqual(other._channelBits);
 

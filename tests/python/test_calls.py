@@ -16,6 +16,7 @@ class Help(unittest.TestCase):
             (probe.Echo.join, "(self, /, items, separator)", ""),
             (probe.Closable.dispose, "(self, /)", ""),
             (probe.Strict.join, "(items, separator, end)", ""),
+            (probe.Strict.set_folder, "(value, /)", "Gets or sets where things are kept."),
         ]
         for method, signature, doc in rows:
             with self.subTest(method=method):

@@ -198,15 +198,14 @@ class Descriptors(unittest.TestCase):
     def test_they_show_what_they_are_of(self) -> None:
         first = probe.Choice.FIRST
         address = hex(id(first))
-        for shown, text in (
-            (first.get_type, f"<extension method get_type of Choice object at {address}>"),
-            (vars(probe.Choice)["get_type"], "<method 'get_type' of 'Choice' objects>"),
-            (vars(probe.Choice)["_type_of"], "<method '_type_of' of 'Choice' objects>"),
-            (vars(probe.Mixed)["inflate"], "<method 'inflate' of 'korvan.probe.Mixed' objects>"),
-            (vars(probe.Settings)["LIMIT"], "<attribute 'LIMIT' of 'korvan.probe.Settings' objects>"),
+        for shown, text, doc in (
+            (first.get_type, f"<extension method get_type of Choice object at {address}>", None),
+            (vars(probe.Choice)["get_type"], "<method 'get_type' of 'Choice' objects>", None),
+            (vars(probe.Choice)["_type_of"], "<method '_type_of' of 'Choice' objects>", None),
+            (vars(probe.Mixed)["inflate"], "<method 'inflate' of 'korvan.probe.Mixed' objects>", "inflate(by: int) -> int"),
+            (vars(probe.Settings)["LIMIT"], "<attribute 'LIMIT' of 'korvan.probe.Settings' objects>", None),
         ):
-            self.assertEqual(repr(shown), text)
-            self.assertIsNone(shown.__doc__)
+            self.assertEqual((repr(shown), shown.__doc__), (text, doc))
         repr(probe.Choice.get_type)  # without an instance
 
     def test_misuse_is_refused_in_a_fixed_order(self) -> None:

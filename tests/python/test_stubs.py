@@ -189,6 +189,38 @@ class Live(unittest.TestCase):
         self.assertEqual({name for name in self.classes if is_own(name.rpartition(".")[2])} - seen,
                          {name for name in self.classes if name.startswith("korvan.cad._typing.")})
 
+    def test_none_is_refused_by_name_where_the_stubs_do_not_take_it(self) -> None:
+        names = {live: name for name in self.classes if (live := self.find(name)) is not None}
+        tried: set[tuple[type, str]] = set()
+        for live in names:
+            if isinstance(live, enum.EnumType):
+                continue
+            try:
+                instance = live()
+            except (TypeError, RuntimeError):
+                continue  # it is made by others, or of something
+            for owner in live.__mro__[:-1]:
+                for member in self.strict_setters(names[owner]):
+                    if (owner, member) not in tried:
+                        tried.add((owner, member))
+                        with self.assertRaises((TypeError, RuntimeError), msg=f"{names[owner]}.{member}") as caught:
+                            setattr(instance, member, None)
+                        if isinstance(caught.exception, RuntimeError):
+                            self.assertRegex(str(caught.exception), rf"\b{owner.__name__}\.{member} must not be None\.$")
+        self.assertGreater(len(tried), 1000)
+
+    def strict_setters(self, name: str) -> list[str]:
+        return [member for member, one in defined(self.classes[name].body).items()
+                if isinstance(one, ast.FunctionDef) and any(ast.unparse(by).endswith(".setter") for by in one.decorator_list)
+                and "None" not in ast.unparse(one.args.args[1].annotation or one)]
+
+    def find(self, name: str) -> type | None:
+        """The live type of a stub's class; None for what the stubs have for themselves."""
+        found: object = korvan
+        for part in name.split(".")[1:]:
+            found = getattr(found, part, None)
+        return found if isinstance(found, type) else None
+
     def compare(self, live: type, name: str) -> None:
         if isinstance(live, enum.EnumType):
             members = {key: ast.literal_eval(one.value) for key, one in defined(self.classes[name].body).items()

@@ -78,8 +78,8 @@
     {name, method_noargs_thunk<record>, METH_NOARGS, doc}
 #define KORVAN_METHOD_STATIC_NOARGS(name, record, doc)                                             \
     {name, method_noargs_thunk<record>, METH_NOARGS | METH_STATIC, doc}
-#define KORVAN_STATIC_SETTER(name, property, policy)                                               \
-    {name, static_setter_thunk<property, policy>, METH_O | METH_STATIC, nullptr}
+#define KORVAN_STATIC_SETTER(name, property, policy, doc)                                          \
+    {name, static_setter_thunk<property, policy>, METH_O | METH_STATIC, doc}
 #define KORVAN_ENTER_EXIT                                                                          \
     {"__enter__", wrpPye_bltp_idisposable_enter, METH_NOARGS, nullptr},                            \
         {"__exit__", wrpPye_bltp_idisposable_exit, METH_VARARGS, nullptr}

@@ -32,7 +32,7 @@
 //       KORVAN_METHOD_STATIC("create", method_CFECF7E6_Matrix_create, "..."),
 //       KORVAN_METHOD_STATIC_NOARGS("identity", method_CFECF7E6_Matrix_identity, "..."),
 //       KORVAN_GET_TYPE_OF_OBJECT,          // KORVAN_GET_TYPE_OF_STRUCT for a struct
-//       KORVAN_STATIC_SETTER("set_cache_folder", property_..., arg::string),
+//       KORVAN_STATIC_SETTER("set_cache_folder", property_..., arg::string, "..."),
 //       KORVAN_CAST_METHODS(class_CFECF7E6_Matrix),
 //       {}};
 //

@@ -24,6 +24,10 @@ internal static class MethodDocs
         return Quote(hasSignature ? Signature(group, first) : Forms(type, group));
     }
 
+    /// <summary>As a C string literal, the text of the function that sets a static property.</summary>
+    public static string Literal(PropertyModel property) =>
+        Quote($"set_{property.PythonName}(value, /)\n--\n\n{string.Join('\n', Docstring.Lines(property.Doc))}");
+
     // The notation that inspect.signature takes apart.
     private static string Signature(MethodGroup group, MethodModel leg)
     {

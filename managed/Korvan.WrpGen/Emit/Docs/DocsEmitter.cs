@@ -1,111 +1,57 @@
 using System.Collections.Generic;
 using System.Linq;
-using Korvan.WrpGen.Emit.Stubs;
 using Korvan.WrpGen.Model;
 
 namespace Korvan.WrpGen.Emit.Docs;
 
-/// <summary>Writes the API reference: a Markdown page for each namespace module, and an index.</summary>
+/// <summary>
+/// Writes the API reference in Markdown: an index of modules, a folder for each with an index of its types, and a page
+/// for each type.
+/// </summary>
 public static class DocsEmitter
 {
     public static void Write(BindingModel model, OutputFolder folder)
     {
-        ModuleModel[] modules = [.. model.Modules.Where(module => module.Types.Count > 0)];
+        var links = new DocsLinks(model);
+        ILookup<TypeModel?, TypeModel> heirs = model.Types.ToLookup(type => type.Base);
+        ILookup<TypeModel?, TypeModel> nested = model.Types.ToLookup(type => type.Outer);
         var index = new CodeWriter();
         index.Line($"# {model.RootModule.Name}").Line();
-        foreach (ModuleModel module in modules)
+        foreach (ModuleModel module in model.Modules.Where(module => module.Types.Count > 0))
         {
-            index.Line($"- [{module.Name}]({module.Name}.md): {module.Types.Count} types");
-            folder.Write(module.Name + ".md", Page(module));
+            index.Line($"- [{module.Name}]({module.Name}/index.md): {module.Types.Count} types");
+            folder.Write($"{module.Name}/index.md", Index(module, links));
+            foreach (TypeModel type in module.Types)
+            {
+                folder.Write(DocsLinks.PageOf(type), new TypePage(type, links, [.. heirs[type]], [.. nested[type]]).Write());
+            }
         }
         folder.Write("index.md", index.ToString());
         folder.RemoveStale(".md");
     }
 
-    private static string Page(ModuleModel module)
+    private static string Index(ModuleModel module, DocsLinks links)
     {
         var writer = new CodeWriter();
-        writer.Line($"# {module.Name}").Line();
-        foreach (TypeModel type in module.Types)
+        writer.Line($"# {module.Name}").Line().Line("All modules: [index](../index.md).").Line();
+        foreach ((string title, IEnumerable<TypeModel> types) in Kinds(module).Where(kind => kind.Types.Any()))
         {
-            writer.Line($"## {type.QualifiedName}").Line();
-            writer.Line($"{Describe(type)}{(type.Doc.Summary.Length > 0 ? " " + type.Doc.Summary : "")}").Line();
-            if (type.Kind == BoundKind.Enum)
+            writer.Line($"## {title}").Line().Line("| | |").Line("|---|---|");
+            foreach (TypeModel type in types)
             {
-                WriteMembers(writer, type);
+                string summary = links.Text(type.Doc.Summary.Split("\n\n")[0]).Replace("|", "\\|");
+                writer.Line($"| {DocsLinks.To(type)} | {summary} |");
             }
-            else
-            {
-                WriteType(writer, type);
-            }
+            writer.Line();
         }
         return writer.ToString();
     }
 
-    private static string Describe(TypeModel type) => type.Kind switch
-    {
-        BoundKind.Enum => type.IsIntegerEnum ? "`IntEnum`." : "`IntFlag`.",
-        BoundKind.Interface => "Interface.",
-        BoundKind.Struct => "Value type.",
-        BoundKind.StaticClass => "Functions and values; no instances.",
-        _ when type.Base is { } bound => $"Class over `{bound.PythonName}`.",
-        _ => "Class.",
-    };
-
-    private static void WriteMembers(CodeWriter writer, TypeModel type)
-    {
-        writer.Line("| Member | Value | |").Line("|---|---|---|");
-        foreach (EnumMemberModel member in type.EnumMembers)
-        {
-            writer.Line($"| `{member.PythonName}` | {member.Bits} | {Cell(member.Doc.Summary)} |");
-        }
-        writer.Line();
-    }
-
-    private static void WriteType(CodeWriter writer, TypeModel type)
-    {
-        var types = new PythonTypes(type.Module, new HashSet<string>());
-        MethodModel[] methods =
-        [
-            .. type.Constructors,
-            .. MethodGroup.Of(type).SelectMany(group => group.Legs),
-        ];
-        PropertyModel[] properties = [.. MethodGroup.PropertiesOf(type), .. type.StaticProperties];
-        if (properties.Length > 0)
-        {
-            writer.Line("| Property | Type | |").Line("|---|---|---|");
-            foreach (PropertyModel property in properties)
-            {
-                string access = property.CanWrite ? "" : "Read-only. ";
-                string hint = types.Result(property.Value).Replace("|", "\\|");
-                writer.Line($"| `{property.PythonName}` | `{hint}` | {access}{Cell(property.Doc.Summary)} |");
-            }
-            writer.Line();
-        }
-        foreach (MethodModel method in methods)
-        {
-            WriteMethod(writer, types, method);
-        }
-    }
-
-    private static void WriteMethod(CodeWriter writer, PythonTypes types, MethodModel method)
-    {
-        string parameters = string.Join(
-            ", ", method.Parameters.Select(parameter => $"{parameter.PythonName}: {types.Parameter(parameter)}"));
-        string result = method.IsConstructor ? "" : $" -> {types.Result(method.Result)}";
-        string form = method.IsStatic ? "static " : "";
-        string summary = method.Doc.Summary.Replace("\n", " ");
-        writer.Line($"- `{form}{method.PythonName}({parameters}){result}` {summary}".TrimEnd());
-        foreach ((string name, string text) in method.Doc.Parameters)
-        {
-            writer.Line($"  - `{name}`: {text}");
-        }
-        if (method.Doc.Returns.Length > 0)
-        {
-            writer.Line($"  - returns {method.Doc.Returns}");
-        }
-        writer.Line();
-    }
-
-    private static string Cell(string text) => text.Replace("\n", " ").Replace("|", "\\|");
+    private static IEnumerable<(string Title, IEnumerable<TypeModel> Types)> Kinds(ModuleModel module) =>
+    [
+        ("Classes", module.Types.Where(type => type.Kind is BoundKind.Class or BoundKind.StaticClass)),
+        ("Value types", module.Types.Where(type => type.Kind == BoundKind.Struct)),
+        ("Interfaces", module.Types.Where(type => type.Kind == BoundKind.Interface)),
+        ("Enumerations", module.Types.Where(type => type.Kind == BoundKind.Enum)),
+    ];
 }

@@ -256,7 +256,7 @@ internal sealed class StubTypeWriter
         foreach (PropertyModel value in _type.StaticProperties.Where(property => property.CanWrite))
         {
             _writer.Line($"@{_types.Builtin("staticmethod")}");
-            _writer.Line($"def set_{value.PythonName}(value: {_types.Accepted(value.Given)}, /) -> None: ...");
+            WriteHead($"def set_{value.PythonName}(value: {_types.Accepted(value.Given)}, /) -> None:", value.Doc);
         }
     }
 

@@ -1,6 +1,7 @@
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using System.Text.RegularExpressions;
 using Korvan.WrpGen.Emit;
 using Korvan.WrpGen.Emit.Cpp;
 using Korvan.WrpGen.Emit.CSharp;
@@ -11,7 +12,7 @@ using Xunit;
 
 namespace Korvan.WrpGen.Tests.Emit;
 
-public class EmitterTests
+public partial class EmitterTests
 {
     [Theory]
     [InlineData("Shapes")]
@@ -53,6 +54,8 @@ public class EmitterTests
     [Theory]
     [InlineData("Mixed")]
     [InlineData("NumberList")]
+    [InlineData("IShape")]
+    [InlineData("BoxRow")]
     [InlineData("Cube")]
     [InlineData("Box")]
     public void StubsOfTypes(string type)
@@ -65,9 +68,18 @@ public class EmitterTests
     public void ApiPages()
     {
         SortedDictionary<string, string> pages = ProbeModel.Emit(DocsEmitter.Write);
-        Snapshot.Matches("inner.md.txt", pages["korvan.probe.inner.md"]);
-        Assert.Contains("korvan.probe.inner.deep.md", pages["index.md"]);
+        Snapshot.Matches("Holder.md.txt", pages["korvan.probe.inner/Holder.md"]);
+        Snapshot.Matches("Box.md.txt", pages["korvan.probe/Box.md"]);
+        foreach ((string page, string text) in pages)
+        {
+            Assert.All(LinkTarget().Matches(text).Select(match => match.Groups[1].Value), target => Assert.True(
+                pages.ContainsKey(Path.GetRelativePath("/", Path.GetFullPath(target, "/" + Path.GetDirectoryName(page)))),
+                $"{page} leads to {target}, which is not there"));
+        }
     }
+
+    [GeneratedRegex(@"\]\(([^#)]+)\)")]
+    private static partial Regex LinkTarget();
 
     [Fact]
     public void TwoRunsWriteTheSame()

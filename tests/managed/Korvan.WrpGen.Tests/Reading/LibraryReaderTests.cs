@@ -54,6 +54,22 @@ public class LibraryReaderTests
             scale.Legs.Select(leg => $"{leg.Owner.Name}.{leg.Delegate}"));
     }
 
+    [Theory]
+    [InlineData("OpenShape", "name", "What it is called.")] // by an interface, without a word of its own
+    [InlineData("Wheel", "spokes", "How many rods hold the rim.")] // by a base class, behind inheritdoc
+    [InlineData("Wheel", "maker", "Its own words.")]
+    public void DocumentationIsInheritedUnlessThereIsSome(string type, string property, string summary) =>
+        Assert.Equal(summary, ProbeModel.Type(type).Properties.Single(one => one.PythonName == property).Doc.Summary);
+
+    [Fact]
+    public void APointerIsFollowedAndAddsToWhatIsThere()
+    {
+        DocText doc = ProbeModel.Type("Box").Methods.First(method => method.PythonName == "scale").Doc;
+        Assert.Equal(("Scales by one factor.", "The form that was taken."), (doc.Summary, doc.Returns));
+        Assert.Equal([new("ArgumentException", "A factor is no number.")], doc.Raises);
+        Assert.Empty(doc.Parameters); // those of the other member are not its own
+    }
+
     [Fact]
     public void OverridesAreLeftToTheTypeThatExposesThem()
     {
