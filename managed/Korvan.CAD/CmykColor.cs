@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -95,7 +96,7 @@ public readonly struct CmykColor : IEquatable<CmykColor>
     {
         if ((uint)value > 255)
         {
-            throw new ArgumentOutOfRangeException(name, value, "An ink is 0 to 255.");
+            throw Verify.OutOfRange(name, value, "An ink is 0 to 255.");
         }
 
         return (byte)value;

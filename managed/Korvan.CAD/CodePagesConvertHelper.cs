@@ -1,5 +1,6 @@
 using System;
 using System.Text;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD;
@@ -12,7 +13,7 @@ public static class CodePagesConvertHelper
     /// <returns>The code page, or <see cref="CodePages.Default"/> for one that <see cref="CodePages"/> lacks.</returns>
     public static CodePages FromName(string name)
     {
-        ArgumentNullException.ThrowIfNull(name);
+        Verify.NotNull(name);
         var page = (CodePages)DwgCodePage.Number(name);
         return Enum.IsDefined(page) ? page : CodePages.Default;
     }
@@ -46,7 +47,7 @@ public static class CodePagesConvertHelper
     /// <exception cref="ArgumentOutOfRangeException">There is no such code page.</exception>
     public static byte[] Encode(string text, CodePages codePage)
     {
-        ArgumentNullException.ThrowIfNull(text);
+        Verify.NotNull(text);
         return TextEscapes.Escaping(DwgCodePage.Get(Number(codePage))).GetBytes(text);
     }
 
@@ -57,7 +58,7 @@ public static class CodePagesConvertHelper
     /// <exception cref="ArgumentOutOfRangeException">There is no such code page.</exception>
     public static string Decode(byte[] bytes, CodePages codePage)
     {
-        ArgumentNullException.ThrowIfNull(bytes);
+        Verify.NotNull(bytes);
         return TextEscapes.Standard.Decode(DwgCodePage.Get(Number(codePage)).GetString(bytes));
     }
 
@@ -65,7 +66,7 @@ public static class CodePagesConvertHelper
     {
         if (!Enum.IsDefined(codePage))
         {
-            throw new ArgumentOutOfRangeException(nameof(codePage), codePage, "No code page has this number.");
+            throw Verify.OutOfRange(nameof(codePage), codePage, "No code page has this number.");
         }
 
         return codePage == CodePages.Default ? DwgCodePage.Number(DwgCodePage.DefaultName) : (int)codePage;

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
@@ -118,7 +119,7 @@ public readonly partial struct Color : IEquatable<Color>
     {
         if ((uint)value > 255)
         {
-            throw new ArgumentOutOfRangeException(name, value, "A part of a colour is 0 to 255.");
+            throw Verify.OutOfRange(name, value, "A part of a colour is 0 to 255.");
         }
 
         return (uint)value;

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Raster.Colors;
 
@@ -44,7 +45,7 @@ public static class ColorPaletteHelper
     /// <param name="method">How they are chosen.</param>
     public static IColorPalette GetCloseImagePalette(RasterImage image, int entriesCount, ColorQuantizationMethod method)
     {
-        ArgumentNullException.ThrowIfNull(image);
+        Verify.NotNull(image);
         return new ColorPalette(PaletteChoice.For(image.Pixels, null, Verified(entriesCount), method));
     }
 
@@ -52,7 +53,7 @@ public static class ColorPaletteHelper
     /// <param name="palette">The palette.</param>
     public static bool HasTransparentColors(IColorPalette palette)
     {
-        ArgumentNullException.ThrowIfNull(palette);
+        Verify.NotNull(palette);
         return Array.Exists(palette.Argb32Entries, static color => (color >>> 24) != 255);
     }
 
@@ -69,8 +70,7 @@ public static class ColorPaletteHelper
 
     private static int Verified(int entriesCount)
     {
-        ArgumentOutOfRangeException.ThrowIfLessThan(entriesCount, 2);
-        ArgumentOutOfRangeException.ThrowIfGreaterThan(entriesCount, 256);
+        Verify.InRange(entriesCount, 2, 256);
         return entriesCount;
     }
 }

@@ -1,5 +1,6 @@
 using System;
 using System.Globalization;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
@@ -13,7 +14,7 @@ public static class ColorTranslator
     /// <exception cref="FrameworkException">It is no colour.</exception>
     public static Color FromHtml(string htmlColor)
     {
-        ArgumentNullException.ThrowIfNull(htmlColor);
+        Verify.NotNull(htmlColor);
         string text = htmlColor.Trim();
         if (!text.StartsWith('#'))
         {

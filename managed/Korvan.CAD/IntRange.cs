@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -20,7 +21,7 @@ public class IntRange : IEquatable<IntRange>
     {
         if (end < begin)
         {
-            throw new ArgumentOutOfRangeException(nameof(end), end, $"A range that begins with {begin} cannot end with {end}.");
+            throw Verify.OutOfRange(nameof(end), end, $"A range that begins with {begin} cannot end with {end}.");
         }
 
         Begin = begin;
@@ -44,7 +45,7 @@ public class IntRange : IEquatable<IntRange>
     /// <param name="other">The other range.</param>
     public IntRange? Intersect(IntRange other)
     {
-        ArgumentNullException.ThrowIfNull(other);
+        Verify.NotNull(other);
         int begin = Math.Max(Begin, other.Begin);
         int end = Math.Min(End, other.End);
         return begin <= end ? new IntRange(begin, end) : null;

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Rendering.Geometry;
 
@@ -34,7 +35,7 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
     /// <exception cref="DataMissmatchError">There are not three points, or the rectangle has no area.</exception>
     public Matrix(RectangleF rect, PointF[] points)
     {
-        ArgumentNullException.ThrowIfNull(points);
+        Verify.NotNull(points);
         if (points.Length != 3)
         {
             throw new DataMissmatchError($"A parallelogram is given by three corners, not by {points.Length}.");
@@ -113,7 +114,7 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
     /// <param name="order">Whether it is done before or after this one.</param>
     public void Multiply(Matrix matrix, MatrixOrder order)
     {
-        ArgumentNullException.ThrowIfNull(matrix);
+        Verify.NotNull(matrix);
         Add(matrix._map, order);
     }
 
@@ -219,7 +220,7 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
 
     private static PointF[] ToFloat(Point[] points)
     {
-        ArgumentNullException.ThrowIfNull(points);
+        Verify.NotNull(points);
         return Array.ConvertAll(points, p => new PointF(p.X, p.Y));
     }
 

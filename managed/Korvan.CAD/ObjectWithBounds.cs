@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.Primitives;
 
 namespace Korvan.CAD;
@@ -32,7 +33,7 @@ public abstract class ObjectWithBounds : IObjectWithBounds
     /// <param name="point">The point.</param>
     public bool ContainsPoint(Point3D point)
     {
-        ArgumentNullException.ThrowIfNull(point);
+        Verify.NotNull(point);
         (Point3D min, Point3D max) = (MinPoint, MaxPoint);
         return point.X >= min.X && point.X <= max.X && point.Y >= min.Y && point.Y <= max.Y
             && point.Z >= min.Z && point.Z <= max.Z;
@@ -42,7 +43,7 @@ public abstract class ObjectWithBounds : IObjectWithBounds
     /// <param name="other">The other thing.</param>
     public bool BoundsIntersect(IObjectWithBounds other)
     {
-        ArgumentNullException.ThrowIfNull(other);
+        Verify.NotNull(other);
         (Point3D min, Point3D max) = (MinPoint, MaxPoint);
         (Point3D from, Point3D to) = (other.MinPoint, other.MaxPoint);
         return from.X <= max.X && to.X >= min.X && from.Y <= max.Y && to.Y >= min.Y && from.Z <= max.Z && to.Z >= min.Z;

@@ -17,10 +17,10 @@ public struct PointF : IEquatable<PointF>
     /// <summary>Gets the value whose parts are zero.</summary>
     public static PointF Empty => default;
 
-    /// <summary>Gets or sets: the abscissa.</summary>
+    /// <summary>Gets or sets the abscissa.</summary>
     public float X { get; set; }
 
-    /// <summary>Gets or sets: the ordinate.</summary>
+    /// <summary>Gets or sets the ordinate.</summary>
     public float Y { get; set; }
 
     /// <summary>Gets whether both parts are zero.</summary>

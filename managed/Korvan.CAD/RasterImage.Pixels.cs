@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.Raster;
 
 namespace Korvan.CAD;
@@ -57,7 +58,7 @@ public abstract partial class RasterImage
     /// <param name="pixels">Its pixels as 32-bit numbers, row by row.</param>
     public void SaveArgb32Pixels(Rectangle rectangle, int[] pixels)
     {
-        ArgumentNullException.ThrowIfNull(pixels);
+        Verify.NotNull(pixels);
         VerifyInside(rectangle);
         VerifyCount(rectangle, pixels.Length);
         for (int y = 0; y < rectangle.Height; y++)
@@ -75,7 +76,7 @@ public abstract partial class RasterImage
     /// <param name="pixels">Its colours, row by row.</param>
     public void SavePixels(Rectangle rectangle, Color[] pixels)
     {
-        ArgumentNullException.ThrowIfNull(pixels);
+        Verify.NotNull(pixels);
         SaveArgb32Pixels(rectangle, Array.ConvertAll(pixels, static color => color.ToArgb()));
     }
 
@@ -84,7 +85,7 @@ public abstract partial class RasterImage
     /// <param name="settings">The form: channels, bits, and bytes of a row.</param>
     public byte[] LoadRawData(Rectangle rectangle, RawDataSettings settings)
     {
-        ArgumentNullException.ThrowIfNull(settings);
+        Verify.NotNull(settings);
         VerifyInside(rectangle);
         return RawData.Pack(Pixels, rectangle, settings);
     }
@@ -95,8 +96,8 @@ public abstract partial class RasterImage
     /// <param name="settings">The form: channels, bits, and bytes of a row.</param>
     public void SaveRawData(byte[] data, Rectangle rectangle, RawDataSettings settings)
     {
-        ArgumentNullException.ThrowIfNull(data);
-        ArgumentNullException.ThrowIfNull(settings);
+        Verify.NotNull(data);
+        Verify.NotNull(settings);
         VerifyInside(rectangle);
         RawData.Unpack(data, Pixels, rectangle, settings);
     }
@@ -106,7 +107,7 @@ public abstract partial class RasterImage
     /// <param name="partialPixelLoader">What takes the bands, for example another image.</param>
     public void LoadPartialArgb32Pixels(Rectangle rectangle, IPartialArgb32PixelLoader partialPixelLoader)
     {
-        ArgumentNullException.ThrowIfNull(partialPixelLoader);
+        Verify.NotNull(partialPixelLoader);
         InBands(rectangle, band => partialPixelLoader.Process(band, LoadArgb32Pixels(band)));
     }
 
@@ -115,7 +116,7 @@ public abstract partial class RasterImage
     /// <param name="partialPixelLoader">What takes the bands, for example another image.</param>
     public void LoadPartialPixels(Rectangle rectangle, IPartialPixelLoader partialPixelLoader)
     {
-        ArgumentNullException.ThrowIfNull(partialPixelLoader);
+        Verify.NotNull(partialPixelLoader);
         InBands(rectangle, band => partialPixelLoader.ProcessColors(band, LoadPixels(band)));
     }
 
@@ -125,7 +126,7 @@ public abstract partial class RasterImage
     /// <param name="partialRawDataLoader">What takes the bands, for example another image.</param>
     public void LoadPartialRawData(Rectangle rectangle, RawDataSettings settings, IPartialRawDataLoader partialRawDataLoader)
     {
-        ArgumentNullException.ThrowIfNull(partialRawDataLoader);
+        Verify.NotNull(partialRawDataLoader);
         InBands(rectangle, band => partialRawDataLoader.ProcessRawData(band, LoadRawData(band, settings), settings));
     }
 
@@ -133,7 +134,7 @@ public abstract partial class RasterImage
     /// <param name="processor">What changes them, for example a <see cref="TransparencySupporter"/>.</param>
     public void ApplyProcessor(IBufferProcessor processor)
     {
-        ArgumentNullException.ThrowIfNull(processor);
+        Verify.NotNull(processor);
         var settings = new RawDataSettings(PixelDataFormat.Rgb32Bpp, Width);
         InBands(Bounds, band =>
         {
@@ -151,7 +152,7 @@ public abstract partial class RasterImage
             || area.Width > pixels.Width - area.X || area.Height > pixels.Height - area.Y)
         {
             throw new ArgumentOutOfRangeException(
-                nameof(area), $"{area} does not lie in a picture of {pixels.Width} × {pixels.Height} pixels.");
+                null, $"{area} does not lie in a picture of {pixels.Width} × {pixels.Height} pixels.");
         }
     }
 

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Exif;
 using Korvan.CAD.ImageOptions;
@@ -85,20 +86,19 @@ public abstract partial class RasterImage
     internal override void Export(ImageOptionsBase options, Stream stream)
     {
         options.VerifyHonoured(OutputKind.Picture);
-        try
-        {
-            RasterSaver.Write(new Frames(this, options, RasterSaver.HoldsPages(options)), options, stream);
-        }
-        catch (IOException e)
-        {
-            throw new ImageSaveException(e.Message, e);
-        }
+        RasterSaver.Write(new Frames(this, options, RasterSaver.HoldsPages(options)), options, stream);
     }
+
+    /// <inheritdoc/>
+    internal override string Content => $"{Width} × {Height} pixels";
+
+    /// <inheritdoc/>
+    internal override FileFormat OwnFormat => FileFormat;
 
     /// <inheritdoc/>
     internal override void SaveData(Stream stream)
     {
-        Export(OwnOptions.Of(FileFormat) ?? throw new ImageSaveException($"{FileFormat} is not written; pass options."), stream);
+        Export(OwnOptions.Of(FileFormat) ?? throw new ImageSaveException($"{Verify.NameOf(FileFormat)} is not written; pass options."), stream);
     }
 
     /// <summary>Copies of the pages; a single picture where the format has no pages.</summary>

@@ -1,5 +1,6 @@
 using System;
 using System.IO;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -18,7 +19,7 @@ public class StreamContainer : DisposableObject
     /// <param name="disposeStream">Whether disposing the container closes the stream.</param>
     public StreamContainer(Stream stream, bool disposeStream)
     {
-        ArgumentNullException.ThrowIfNull(stream);
+        Verify.NotNull(stream);
         Stream = stream;
         IsStreamDisposedOnClose = disposeStream;
     }
@@ -46,6 +47,13 @@ public class StreamContainer : DisposableObject
     {
         get => Stream.Position;
         set => Stream.Position = value;
+    }
+
+    /// <summary>Gives the stream in a container.</summary>
+    public static explicit operator Stream(StreamContainer container)
+    {
+        Verify.NotNull(container);
+        return container.Stream;
     }
 
     /// <summary>Moves the place of the next read or write.</summary>

@@ -17,10 +17,10 @@ public struct Vector2F : IEquatable<Vector2F>
     /// <summary>Gets the value whose parts are zero.</summary>
     public static Vector2F Empty => default;
 
-    /// <summary>Gets or sets: the part along X.</summary>
+    /// <summary>Gets or sets the part along X.</summary>
     public float X { get; set; }
 
-    /// <summary>Gets or sets: the part along Y.</summary>
+    /// <summary>Gets or sets the part along Y.</summary>
     public float Y { get; set; }
 
     /// <summary>Gets whether both parts are zero.</summary>

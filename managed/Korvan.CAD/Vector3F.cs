@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -45,7 +46,7 @@ public struct Vector3F : IEquatable<Vector3F>
         0 => X,
         1 => Y,
         2 => Z,
-        _ => throw new ArgumentOutOfRangeException(nameof(index), index, "A Vector3F has 3 parts."),
+        _ => throw Verify.OutOfRange(nameof(index), index, "A Vector3F has 3 parts."),
     };
 
     /// <summary>Compares two vectors part by part.</summary>

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -51,7 +52,7 @@ public struct Vector4F : IEquatable<Vector4F>
         1 => Y,
         2 => Z,
         3 => W,
-        _ => throw new ArgumentOutOfRangeException(nameof(index), index, "A Vector4F has 4 parts."),
+        _ => throw Verify.OutOfRange(nameof(index), index, "A Vector4F has 4 parts."),
     };
 
     /// <summary>Compares two vectors part by part.</summary>

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.Primitives;
@@ -22,7 +23,7 @@ public class AnnotationEntityBuilder
     /// <param name="text">What it says; lines are parted by line feeds.</param>
     public AnnotationEntityBuilder(string text)
     {
-        ArgumentException.ThrowIfNullOrWhiteSpace(text);
+        Verify.NotBlank(text);
         _text = text;
     }
 
@@ -30,7 +31,7 @@ public class AnnotationEntityBuilder
     /// <param name="target">The entity.</param>
     public AnnotationEntityBuilder SetTarget(IAnnotateable target)
     {
-        ArgumentNullException.ThrowIfNull(target);
+        Verify.NotNull(target);
         _target = target.UniqueId;
         _point = target.GetAnnotationPoint();
         return this;
@@ -40,7 +41,7 @@ public class AnnotationEntityBuilder
     /// <param name="point">The point, in world coordinates.</param>
     public AnnotationEntityBuilder SetPoint(Point3D point)
     {
-        ArgumentNullException.ThrowIfNull(point);
+        Verify.NotNull(point);
         _point = point;
         return this;
     }
@@ -73,7 +74,7 @@ public class AnnotationEntityBuilder
     /// <param name="layerName">The name of the layer; it is added to the drawing when that is saved.</param>
     public AnnotationEntityBuilder SetLayer(string layerName)
     {
-        ArgumentException.ThrowIfNullOrWhiteSpace(layerName);
+        Verify.NotBlank(layerName);
         _layer = layerName;
         return this;
     }
@@ -103,7 +104,7 @@ public class AnnotationEntityBuilder
     {
         return double.IsFinite(value) && value > 0
             ? value
-            : throw new ArgumentOutOfRangeException(name, value, "A length is a finite number above 0.");
+            : throw Verify.OutOfRange(name, value, "A length is a finite number above 0.");
     }
 
     /// <summary>The direction from the point to the text, of length 1.</summary>

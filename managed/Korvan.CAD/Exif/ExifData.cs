@@ -1,5 +1,6 @@
 using System;
 using System.IO;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.Exif.Enums;
 using Korvan.CAD.FileFormats.Tiff;
@@ -27,7 +28,7 @@ public partial class ExifData
     public ExifData(byte[] data)
         : this()
     {
-        ArgumentNullException.ThrowIfNull(data);
+        Verify.NotNull(data);
         TiffStreamReader reader = Open(data);
         ByteOrder = reader.ByteOrder;
         TiffExifIfd common = TiffExifIfd.Read(reader, reader.ReadULong(4));
@@ -203,7 +204,7 @@ public partial class ExifData
             return;
         }
 
-        ArgumentOutOfRangeException.ThrowIfGreaterThan(Math.Abs(value), most, nameof(value));
+        Verify.InRange(value, -most, most, angle.ToString());
 
         // Rounded as a whole, so that no part becomes 60.
         const long second = 100_000;

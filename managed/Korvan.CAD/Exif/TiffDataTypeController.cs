@@ -1,5 +1,6 @@
 using System;
 using System.Globalization;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
@@ -19,7 +20,7 @@ public class TiffDataTypeController
     /// <param name="directory">The directory; it is changed in place.</param>
     public TiffDataTypeController(TiffExifIfd directory)
     {
-        ArgumentNullException.ThrowIfNull(directory);
+        Verify.NotNull(directory);
         Directory = directory;
     }
 
@@ -44,7 +45,7 @@ public class TiffDataTypeController
     /// <param name="value">The text.</param>
     public void SetText(ExifProperties property, string value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         if (value.Length == 0)
         {
             Remove(property);
@@ -114,7 +115,7 @@ public class TiffDataTypeController
     /// <param name="value">The bytes.</param>
     public void SetBytes(ExifProperties property, byte[] value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         if (value.Length == 0)
         {
             Remove(property);

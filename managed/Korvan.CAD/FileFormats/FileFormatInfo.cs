@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.Linq;
 using System.Reflection;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats;
 
@@ -49,14 +50,14 @@ public class FileFormatInfo
     {
         return Known.Value.TryGetValue(format, out FileFormatInfo? info)
             ? info
-            : throw new ArgumentOutOfRangeException(nameof(format), format, "This is no format that files have.");
+            : throw Verify.OutOfRange(nameof(format), format, "This is no format that files have.");
     }
 
     /// <summary>Gives the formats whose files have names with an ending, in the order of their numbers.</summary>
     /// <param name="extension">The ending, with or without its point; upper and lower case are the same.</param>
     public static FileFormatInfo[] FindByExtension(string extension)
     {
-        ArgumentNullException.ThrowIfNull(extension);
+        Verify.NotNull(extension);
         string wanted = extension.StartsWith('.') ? extension : "." + extension;
         return [.. All.Where(info => info._metadata.Extensions.Contains(wanted, StringComparer.OrdinalIgnoreCase))];
     }

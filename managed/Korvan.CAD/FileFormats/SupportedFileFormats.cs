@@ -24,7 +24,7 @@ public static class SupportedFileFormats
         HashSet<FileFormat> formats = [];
         foreach (Type type in DrawingExporter.OptionTypes)
         {
-            formats.Add(((ImageOptionsBase)Activator.CreateInstance(type)!).TargetFormat);
+            formats.Add(ImageSaver.FormatOf(type));
         }
 
         foreach (DxfOutputVersion version in Enum.GetValues<DxfOutputVersion>().Where(static v => v != DxfOutputVersion.Original))

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Primitives;
 
@@ -30,8 +31,8 @@ public class Point2D : IEquatable<Point2D>
     /// <param name="b">The other.</param>
     public static double Distance(Point2D a, Point2D b)
     {
-        ArgumentNullException.ThrowIfNull(a);
-        ArgumentNullException.ThrowIfNull(b);
+        Verify.NotNull(a);
+        Verify.NotNull(b);
         double dx = b.X - a.X;
         double dy = b.Y - a.Y;
         return Math.Sqrt((dx * dx) + (dy * dy));
@@ -46,7 +47,7 @@ public class Point2D : IEquatable<Point2D>
     /// <param name="part">How far towards it: 0 is here, 1 is there.</param>
     public Point2D Between(Point2D other, double part)
     {
-        ArgumentNullException.ThrowIfNull(other);
+        Verify.NotNull(other);
         return new Point2D(X + ((other.X - X) * part), Y + ((other.Y - Y) * part));
     }
 

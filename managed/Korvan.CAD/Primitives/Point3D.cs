@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Primitives;
 
@@ -35,8 +36,8 @@ public class Point3D : IEquatable<Point3D>
     /// <param name="b">The other.</param>
     public static double Distance(Point3D a, Point3D b)
     {
-        ArgumentNullException.ThrowIfNull(a);
-        ArgumentNullException.ThrowIfNull(b);
+        Verify.NotNull(a);
+        Verify.NotNull(b);
         double dx = b.X - a.X;
         double dy = b.Y - a.Y;
         double dz = b.Z - a.Z;
@@ -52,7 +53,7 @@ public class Point3D : IEquatable<Point3D>
     /// <param name="part">How far towards it: 0 is here, 1 is there.</param>
     public Point3D Between(Point3D other, double part)
     {
-        ArgumentNullException.ThrowIfNull(other);
+        Verify.NotNull(other);
         return new Point3D(X + ((other.X - X) * part), Y + ((other.Y - Y) * part), Z + ((other.Z - Z) * part));
     }
 

@@ -33,7 +33,13 @@ public class CadAppIdDictionary : NonGenericDictionary
     /// <summary>Gets an application by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadAppIdTableObject this[string name] => Find(name)
+    public CadAppIdTableObject this[string name] => Get(name);
+
+    /// <summary>Gives an application by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadAppIdTableObject Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no application called '{name}'.");
 
     /// <summary>Finds an application; upper and lower case are the same.</summary>

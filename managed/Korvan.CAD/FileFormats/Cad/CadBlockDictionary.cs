@@ -33,7 +33,13 @@ public class CadBlockDictionary : NonGenericDictionary
     /// <summary>Gets a block by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadBlockEntity this[string name] => Find(name)
+    public CadBlockEntity this[string name] => Get(name);
+
+    /// <summary>Gives a block by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadBlockEntity Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no block called '{name}'.");
 
     /// <summary>Finds a block; upper and lower case are the same.</summary>

@@ -1,5 +1,6 @@
 using System;
 using System.Globalization;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cad;
 
@@ -11,7 +12,7 @@ public class CadCodeValue
     /// <param name="value">The text of the value.</param>
     public CadCodeValue(int attribute, string value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         Attribute = attribute;
         Value = value;
     }

@@ -33,7 +33,13 @@ public class CadVportList : NonGenericList
     /// <summary>Gets a screen part by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadVportTableObject this[string name] => Find(name)
+    public CadVportTableObject this[string name] => Get(name);
+
+    /// <summary>Gives a screen part by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadVportTableObject Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no screen part called '{name}'.");
 
     /// <summary>Finds a screen part; upper and lower case are the same.</summary>

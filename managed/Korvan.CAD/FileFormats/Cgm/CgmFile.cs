@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
@@ -61,8 +62,8 @@ public sealed class CgmFile
     /// <exception cref="ImageLoadException">What it holds is no metafile, or damaged and damage is not ignored.</exception>
     public static CgmFile Load(Stream stream, bool ignoreErrors)
     {
-        ArgumentNullException.ThrowIfNull(stream);
-        return Load(ImageLoader.ReadStream(stream), "stream", new LoadOptions { IgnoreErrors = ignoreErrors });
+        Verify.NotNull(stream);
+        return Load(ImageLoader.ReadStream(stream, "stream"), "stream", new LoadOptions { IgnoreErrors = ignoreErrors });
     }
 
     /// <summary>Writes the commands to a file, which appears whole or not at all.</summary>
@@ -77,7 +78,7 @@ public sealed class CgmFile
     /// <exception cref="ImageSaveException">A command cannot be written; then nothing is.</exception>
     public void Save(Stream stream, CgmFileFormat format)
     {
-        ArgumentNullException.ThrowIfNull(stream);
+        Verify.NotNull(stream);
         using var content = new MemoryStream();
         Write(content, format, "stream");
         content.WriteTo(stream);
@@ -112,7 +113,7 @@ public sealed class CgmFile
         {
             CgmFileFormat.Binary => new DefaultBinaryWriter(stream, name).WriteCommand,
             CgmFileFormat.ClearText => new DefaultClearTextWriter(stream, name).WriteCommand,
-            _ => throw new ArgumentOutOfRangeException(nameof(format), format, "Binary and ClearText are the encodings that can be written."),
+            _ => throw Verify.OutOfRange(nameof(format), format, "Binary and ClearText are the encodings that can be written."),
         };
         Commands.ForEach(write);
     }

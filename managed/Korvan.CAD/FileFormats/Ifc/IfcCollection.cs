@@ -2,6 +2,7 @@ using System;
 using System.Collections;
 using System.Collections.Generic;
 using System.Globalization;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Ifc.Model;
 
@@ -20,7 +21,7 @@ public sealed class IfcCollection : IList
     /// <param name="values">The values.</param>
     public IfcCollection(IEnumerable values)
     {
-        ArgumentNullException.ThrowIfNull(values);
+        Verify.NotNull(values);
         _items = [.. System.Linq.Enumerable.Cast<object?>(values)];
     }
 
@@ -145,7 +146,7 @@ public sealed class IfcCollection : IList
     /// <param name="index">The place of the first value in it.</param>
     public void CopyTo(Array array, int index)
     {
-        ArgumentNullException.ThrowIfNull(array);
+        Verify.NotNull(array);
         for (int i = 0; i < _items.Count; i++)
         {
             array.SetValue(this[i], index + i);
@@ -174,7 +175,7 @@ public sealed class IfcCollection : IList
         VerifyWritable();
         if (index < 0 || index > last)
         {
-            throw new ArgumentOutOfRangeException(nameof(index), index, $"The list has {_items.Count} values.");
+            throw Verify.OutOfRange(nameof(index), index, $"The list has {_items.Count} values.");
         }
     }
 

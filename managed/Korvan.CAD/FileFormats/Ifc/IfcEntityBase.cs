@@ -51,7 +51,7 @@ public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
     /// <inheritdoc/>
     public bool IsA(string entityName)
     {
-        System.ArgumentNullException.ThrowIfNull(entityName);
+        Verify.NotNull(entityName);
         return Class.Schema.FindClassOrType(entityName) is { } other && Class.IsA(other);
     }
 
@@ -78,7 +78,7 @@ public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
     /// <inheritdoc/>
     public IReadOnlyList<IIfcEntity> GetInverse(string name)
     {
-        System.ArgumentNullException.ThrowIfNull(name);
+        Verify.NotNull(name);
         int at = Class.InverseNumber(name);
         return at >= 0
             ? InverseAt(at)
@@ -114,7 +114,7 @@ public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
 
     private int NumberOf(string name)
     {
-        System.ArgumentNullException.ThrowIfNull(name);
+        Verify.NotNull(name);
         int at = Class.AttributeNumber(name);
         return at >= 0
             ? at

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Ifc.Header;
 using Korvan.CAD.FileFormats.Ifc.Model;
@@ -88,7 +89,7 @@ public sealed class IfcImage : Image
     public IIfcEntity? GetEntityByGlobalId(string globalId)
     {
         VerifyNotDisposed();
-        ArgumentNullException.ThrowIfNull(globalId);
+        Verify.NotNull(globalId);
         return Model.FindGlobalId(globalId);
     }
 
@@ -104,7 +105,7 @@ public sealed class IfcImage : Image
     public IReadOnlyList<IIfcEntity> GetEntitiesOfType(string entityName, bool isExact)
     {
         VerifyNotDisposed();
-        ArgumentNullException.ThrowIfNull(entityName);
+        Verify.NotNull(entityName);
         IfcClass found = Model.Schema.FindClassOrType(entityName)
             ?? throw new IfcImageException($"The schema {Model.Schema.Table.Name} has no entity '{entityName}'.");
         return Model.OfClass(found, isExact);
@@ -158,6 +159,12 @@ public sealed class IfcImage : Image
     }
 
     /// <inheritdoc/>
+    internal override string Content => $"{Version} with {Model.Entities.Count} instances";
+
+    /// <inheritdoc/>
+    internal override FileFormat OwnFormat => Version == IfcVersion.IFC2X3 ? FileFormat.IFC2X3 : FileFormat.IFC4;
+
+    /// <inheritdoc/>
     internal override void SaveData(Stream stream)
     {
         if (_form == IfcFileForm.Xml)
@@ -168,9 +175,20 @@ public sealed class IfcImage : Image
         IfcSaver.Save(Model, Header, _form == IfcFileForm.Packed, stream);
     }
 
+    // The ending tells the two forms of the notation apart.
+    internal override Action<Stream> OwnWriter(string filePath)
+    {
+        Action<Stream> write = base.OwnWriter(filePath);
+        string ending = Path.GetExtension(filePath);
+        bool isPacked = ending.Equals(".ifczip", StringComparison.OrdinalIgnoreCase);
+        return _form != IfcFileForm.Xml && (isPacked || ending.Equals(".ifc", StringComparison.OrdinalIgnoreCase))
+            ? stream => IfcSaver.Save(Model, Header, isPacked, stream)
+            : write;
+    }
+
     private static IfcEntityBase Own(IIfcEntity entity)
     {
-        ArgumentNullException.ThrowIfNull(entity);
+        Verify.NotNull(entity);
         return entity as IfcEntityBase ?? throw new IfcImageException($"A {entity.GetType().Name} is no entity.");
     }
 }

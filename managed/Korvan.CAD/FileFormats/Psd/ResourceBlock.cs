@@ -37,10 +37,10 @@ public abstract class ResourceBlock
         get => _name;
         set
         {
-            ArgumentNullException.ThrowIfNull(value);
+            Verify.NotNull(value);
             if (System.Text.Encoding.UTF8.GetByteCount(value) > 255)
             {
-                throw new ArgumentException("The name of a resource has at most 255 bytes.", nameof(value));
+                throw new ArgumentException("The name of a resource has at most 255 bytes.");
             }
 
             _name = value;
@@ -66,7 +66,7 @@ public abstract class ResourceBlock
     /// <exception cref="PsdImageResourceException">A block is damaged.</exception>
     public static ResourceBlock[] ReadAll(Stream stream)
     {
-        ArgumentNullException.ThrowIfNull(stream);
+        Verify.NotNull(stream);
         using var copy = new MemoryStream();
         stream.CopyTo(copy);
         return PsdResources.Of(copy.ToArray(), "stream");

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Tiff.FileManagement;
 using Korvan.CAD.FileFormats.Tiff.InstanceFactory;
@@ -39,7 +40,7 @@ public class TiffExifIfd
     /// <exception cref="TiffImageException">The directory or values of it lie outside of the block.</exception>
     public static TiffExifIfd Read(TiffStreamReader reader, long offset)
     {
-        ArgumentNullException.ThrowIfNull(reader);
+        Verify.NotNull(reader);
         int count = reader.ReadUShort(offset);
         var directory = new TiffExifIfd();
         long left = reader.Length * MostSharing;
@@ -64,7 +65,7 @@ public class TiffExifIfd
     /// <param name="tag">The field.</param>
     public void Set(TiffDataType tag)
     {
-        ArgumentNullException.ThrowIfNull(tag);
+        Verify.NotNull(tag);
         _tags[tag.TagId] = tag;
     }
 

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff;
 
@@ -31,7 +32,7 @@ public class TiffRational : IEquatable<TiffRational>
     {
         if (!(value >= 0 && value <= int.MaxValue))
         {
-            throw new ArgumentOutOfRangeException(nameof(value), value, "The number has no place in a fraction of 32 bits.");
+            throw Verify.OutOfRange("number", value, "It has no place in a fraction of 32 bits.");
         }
 
         (long numerator, long denominator) = Fractions.Nearest(value, Precision, int.MaxValue);
@@ -54,8 +55,7 @@ public class TiffRational : IEquatable<TiffRational>
 
     private static long Verified(long value, string name)
     {
-        ArgumentOutOfRangeException.ThrowIfNegative(value, name);
-        ArgumentOutOfRangeException.ThrowIfGreaterThan(value, uint.MaxValue, name);
+        Verify.InRange(value, 0, uint.MaxValue, name);
         return value;
     }
 }

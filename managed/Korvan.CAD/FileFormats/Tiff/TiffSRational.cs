@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff;
 
@@ -31,7 +32,7 @@ public class TiffSRational : IEquatable<TiffSRational>
     {
         if (!(value >= -int.MaxValue && value <= int.MaxValue))
         {
-            throw new ArgumentOutOfRangeException(nameof(value), value, "The number has no place in a fraction of 32 bits.");
+            throw Verify.OutOfRange("number", value, "It has no place in a fraction of 32 bits.");
         }
 
         (long numerator, long denominator) = Fractions.Nearest(value, Precision, int.MaxValue);

@@ -43,7 +43,7 @@ public class FontStoringArgs
         }
         catch (System.Exception e) when (e is IOException or System.UnauthorizedAccessException)
         {
-            throw new ImageSaveException($"The font '{SourceFontFileName}' could not be read: {e.Message}", e);
+            throw new ImageSaveException($"The font '{SourceFontFileName}' could not be read: {e.Message}");
         }
     }
 }

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Globalization;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dxf;
@@ -93,8 +94,8 @@ public partial class CadHeader
     /// <param name="value">The text of the value.</param>
     public void SetTag(string name, int groupCode, string value)
     {
-        ArgumentException.ThrowIfNullOrEmpty(name);
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotEmpty(name);
+        Verify.NotNull(value);
         Set(name, groupCode, value);
     }
 
@@ -103,7 +104,7 @@ public partial class CadHeader
     /// <param name="point">The value.</param>
     public void SetPoint(string name, Cad3DPoint point)
     {
-        ArgumentNullException.ThrowIfNull(point);
+        Verify.NotNull(point);
         List<CadCodeValue> tags = TagsOf(name);
         bool flat = tags.Count == 2;
         tags.Clear();

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
 
@@ -11,7 +12,7 @@ public sealed class CgmColor : IEquatable<CgmColor>
     /// <param name="index">The number in the colour table, not negative.</param>
     public CgmColor(int index)
     {
-        ArgumentOutOfRangeException.ThrowIfNegative(index);
+        Verify.NotNegative(index);
         Index = index;
     }
 

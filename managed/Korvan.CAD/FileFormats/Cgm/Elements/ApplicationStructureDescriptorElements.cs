@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -23,5 +24,5 @@ public static class ApplicationStructureDescriptorElements
     public static string GetKeyword(ApplicationStructureDescriptorElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(ApplicationStructureDescriptorElement element) =>
-        ElementTables.Find(ClassCode.ApplicationStructureDescriptorElement, (int)element) ?? throw new ArgumentOutOfRangeException(nameof(element));
+        ElementTables.Find(ClassCode.ApplicationStructureDescriptorElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
 }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -73,5 +74,5 @@ public static class AttributeElements
     public static string GetKeyword(AttributeElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(AttributeElement element) =>
-        ElementTables.Find(ClassCode.AttributeElement, (int)element) ?? throw new ArgumentOutOfRangeException(nameof(element));
+        ElementTables.Find(ClassCode.AttributeElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
 }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -24,5 +25,5 @@ public static class ExternalElements
     public static string GetKeyword(ExternalElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(ExternalElement element) =>
-        ElementTables.Find(ClassCode.ExternalElement, (int)element) ?? throw new ArgumentOutOfRangeException(nameof(element));
+        ElementTables.Find(ClassCode.ExternalElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
 }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -51,5 +52,5 @@ public static class GraphicalPrimitiveElements
     public static string GetKeyword(GraphicalPrimitiveElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(GraphicalPrimitiveElement element) =>
-        ElementTables.Find(ClassCode.GraphicalPrimitiveElement, (int)element) ?? throw new ArgumentOutOfRangeException(nameof(element));
+        ElementTables.Find(ClassCode.GraphicalPrimitiveElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
 }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -42,5 +43,5 @@ public static class PictureDescriptorElements
     public static string GetKeyword(PictureDescriptorElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(PictureDescriptorElement element) =>
-        ElementTables.Find(ClassCode.PictureDescriptorElement, (int)element) ?? throw new ArgumentOutOfRangeException(nameof(element));
+        ElementTables.Find(ClassCode.PictureDescriptorElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
 }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -29,5 +30,5 @@ public static class SegmentControlElements
     public static string GetKeyword(SegmentControlElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(SegmentControlElement element) =>
-        ElementTables.Find(ClassCode.SegmentControlElement, (int)element) ?? throw new ArgumentOutOfRangeException(nameof(element));
+        ElementTables.Find(ClassCode.SegmentControlElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
 }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -12,8 +13,7 @@ public static class SpecificationModeTools
     /// <exception cref="ArgumentOutOfRangeException">There is no such mode.</exception>
     public static SpecificationMode GetMode(int mode)
     {
-        ArgumentOutOfRangeException.ThrowIfNegative(mode);
-        ArgumentOutOfRangeException.ThrowIfGreaterThanOrEqual(mode, Words.Length);
+        Verify.InRange(mode, 0, Words.Length - 1);
         return (SpecificationMode)mode;
     }
 

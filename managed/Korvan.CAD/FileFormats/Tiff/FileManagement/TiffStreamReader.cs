@@ -2,6 +2,7 @@ using System;
 using System.Buffers.Binary;
 using System.IO;
 using System.Text;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 
@@ -18,7 +19,7 @@ public class TiffStreamReader
     /// <param name="byteOrder">The order of bytes in numbers.</param>
     public TiffStreamReader(byte[] data, TiffByteOrder byteOrder)
     {
-        ArgumentNullException.ThrowIfNull(data);
+        Verify.NotNull(data);
         _data = data;
         ByteOrder = byteOrder;
     }
@@ -115,7 +116,7 @@ public class TiffStreamReader
 
     private static byte[] ReadAll(Stream stream)
     {
-        ArgumentNullException.ThrowIfNull(stream);
+        Verify.NotNull(stream);
         using var copy = new MemoryStream();
         stream.CopyTo(copy);
         return copy.ToArray();

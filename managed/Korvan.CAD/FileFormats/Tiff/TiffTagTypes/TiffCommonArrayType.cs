@@ -1,5 +1,6 @@
 using System;
 using System.Globalization;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
@@ -25,8 +26,7 @@ public abstract class TiffCommonArrayType : TiffDataType
     {
         foreach (int value in values)
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, low, nameof(values));
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, high, nameof(values));
+            Verify.InRange(value, low, high, nameof(values));
         }
     }
 
@@ -34,8 +34,7 @@ public abstract class TiffCommonArrayType : TiffDataType
     {
         foreach (long value in values)
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, low, nameof(values));
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, high, nameof(values));
+            Verify.InRange(value, low, high, nameof(values));
         }
     }
 }
