@@ -50,10 +50,12 @@ public readonly struct CmykColor : IEquatable<CmykColor>
     public static CmykColor FromColor(Color color) => FromArgb32(color.ToArgb());
 
     /// <summary>Gives the opaque colour that the inks make on white paper, without regard to real inks.</summary>
+    /// <returns>The opaque colour that the inks make on white paper, without regard to real inks.</returns>
     public Color ToColor() => Color.FromArgb(ToArgb32());
 
     /// <summary>Tells whether both colours have the same inks.</summary>
     /// <param name="other">The colour to compare with.</param>
+    /// <returns>Whether both colours have the same inks.</returns>
     public bool Equals(CmykColor other) => C == other.C && M == other.M && Y == other.Y && K == other.K;
 
     /// <inheritdoc/>

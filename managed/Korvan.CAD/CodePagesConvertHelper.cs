@@ -20,6 +20,7 @@ public static class CodePagesConvertHelper
 
     /// <summary>Gives the name that drawings have for a code page.</summary>
     /// <param name="codePage">The code page; <see cref="CodePages.Default"/> is that of drawings that state none.</param>
+    /// <returns>The name that drawings have for a code page.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such code page.</exception>
     public static string ToName(CodePages codePage) => codePage switch
     {
@@ -44,6 +45,7 @@ public static class CodePagesConvertHelper
     /// <summary>Gives the bytes of a text. Letters that the code page lacks become <c>\U+XXXX</c>.</summary>
     /// <param name="text">The text.</param>
     /// <param name="codePage">The code page.</param>
+    /// <returns>The bytes of a text.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such code page.</exception>
     public static byte[] Encode(string text, CodePages codePage)
     {
@@ -55,6 +57,7 @@ public static class CodePagesConvertHelper
     /// stand for.</summary>
     /// <param name="bytes">The bytes.</param>
     /// <param name="codePage">The code page.</param>
+    /// <returns>The text of bytes.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such code page.</exception>
     public static string Decode(byte[] bytes, CodePages codePage)
     {

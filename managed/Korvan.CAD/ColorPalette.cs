@@ -51,6 +51,7 @@ public class ColorPalette : IColorPalette
 
     /// <summary>Creates a palette.</summary>
     /// <param name="colors">The colours; 1 to 65536 of them.</param>
+    /// <returns>A palette.</returns>
     /// <exception cref="ArgumentException">There are no colours, or too many.</exception>
     public static ColorPalette FromColors(Color[] colors)
     {

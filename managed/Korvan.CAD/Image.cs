@@ -66,6 +66,7 @@ public abstract partial class Image : DataStreamSupporter
     /// <summary>Reads a file; the format is found from the content.</summary>
     /// <param name="filePath">The path of the file.</param>
     /// <param name="loadOptions">How to read it.</param>
+    /// <returns>A file.</returns>
     /// <exception cref="ImageLoadException">The file is missing, damaged or of a format that has no reader.</exception>
     public static Image Load(string filePath, LoadOptions loadOptions)
     {
@@ -74,6 +75,7 @@ public abstract partial class Image : DataStreamSupporter
 
     /// <summary>Reads a file; the format is found from the content.</summary>
     /// <param name="filePath">The path of the file.</param>
+    /// <returns>A file.</returns>
     /// <exception cref="ImageLoadException">The file is missing, damaged or of a format that has no reader.</exception>
     public static Image Load(string filePath) => Load(filePath, new LoadOptions());
 
@@ -81,6 +83,7 @@ public abstract partial class Image : DataStreamSupporter
     /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/> until
     /// it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
     /// <param name="loadOptions">How to read it.</param>
+    /// <returns>A stream from its position to its end.</returns>
     /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
     public static Image Load([PythonKept] Stream stream, LoadOptions loadOptions)
     {
@@ -93,6 +96,7 @@ public abstract partial class Image : DataStreamSupporter
     /// <param name="fileName">The name that stands in messages, and whose folder is searched for files that the
     /// drawing refers to.</param>
     /// <param name="loadOptions">How to read it.</param>
+    /// <returns>A stream from its position to its end.</returns>
     /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
     public static Image Load([PythonKept] Stream stream, string fileName, LoadOptions loadOptions)
     {
@@ -102,16 +106,19 @@ public abstract partial class Image : DataStreamSupporter
     /// <summary>Reads a stream from its position to its end.</summary>
     /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/> until
     /// it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
+    /// <returns>A stream from its position to its end.</returns>
     /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
     public static Image Load([PythonKept] Stream stream) => Load(stream, new LoadOptions());
 
     /// <summary>Tells from the first bytes whether a file is of a format that can be read.</summary>
     /// <param name="filePath">The path of the file. A file that is missing cannot be read.</param>
+    /// <returns>Whether there is a reader for it.</returns>
     public static bool CanLoad(string filePath) => ImageLoader.CanLoad(filePath);
 
     /// <summary>Tells from the first bytes whether a file is of a format that can be read.</summary>
     /// <param name="filePath">The path of the file. A file that is missing cannot be read.</param>
     /// <param name="loadOptions">How it would be read.</param>
+    /// <returns>Whether there is a reader for it.</returns>
     public static bool CanLoad(string filePath, LoadOptions loadOptions)
     {
         Verify.NotNull(loadOptions);
@@ -121,12 +128,14 @@ public abstract partial class Image : DataStreamSupporter
     /// <summary>Tells from the next bytes whether a stream is of a format that can be read. The position of a
     /// stream that can seek is kept.</summary>
     /// <param name="stream">The stream.</param>
+    /// <returns>Whether there is a reader for it.</returns>
     public static bool CanLoad(Stream stream) => ImageLoader.CanLoad(stream);
 
     /// <summary>Tells from the next bytes whether a stream is of a format that can be read. The position of a
     /// stream that can seek is kept.</summary>
     /// <param name="stream">The stream.</param>
     /// <param name="loadOptions">How it would be read.</param>
+    /// <returns>Whether there is a reader for it.</returns>
     public static bool CanLoad(Stream stream, LoadOptions loadOptions)
     {
         Verify.NotNull(loadOptions);
@@ -193,6 +202,7 @@ public abstract partial class Image : DataStreamSupporter
 
     /// <summary>Tells whether the image can be written in the format that the options stand for.</summary>
     /// <param name="options">The options.</param>
+    /// <returns>Whether the image can be written in the format that the options stand for.</returns>
     public bool CanSave(ImageOptionsBase options)
     {
         Verify.NotNull(options);
@@ -200,9 +210,11 @@ public abstract partial class Image : DataStreamSupporter
     }
 
     /// <summary>Gives the texts of the content, in drawing order and without formatting codes.</summary>
+    /// <returns>The texts of the content, in drawing order and without formatting codes.</returns>
     public virtual string[] GetStrings() => [];
 
     /// <summary>Gives what the image is and where it came from in one line.</summary>
+    /// <returns>What the image is and where it came from in one line.</returns>
     public override string ToString()
     {
         string name = GetType().Name;

@@ -39,10 +39,12 @@ public class IntRange : IEquatable<IntRange>
 
     /// <summary>Tells whether a number lies in the range.</summary>
     /// <param name="value">The number.</param>
+    /// <returns>Whether a number lies in the range.</returns>
     public bool Contains(int value) => value >= Begin && value <= End;
 
     /// <summary>Gives the part that another range shares; nothing when they have no number in common.</summary>
     /// <param name="other">The other range.</param>
+    /// <returns>The part that another range shares.</returns>
     public IntRange? Intersect(IntRange other)
     {
         Verify.NotNull(other);
@@ -52,6 +54,7 @@ public class IntRange : IEquatable<IntRange>
     }
 
     /// <summary>Gives all numbers, in order.</summary>
+    /// <returns>All numbers, in order.</returns>
     /// <exception cref="InvalidOperationException">There are more than 16 million.</exception>
     public int[] ToArray()
     {
@@ -72,6 +75,7 @@ public class IntRange : IEquatable<IntRange>
 
     /// <summary>Tells whether another range has the same numbers.</summary>
     /// <param name="other">The other range.</param>
+    /// <returns>Whether another range has the same numbers.</returns>
     public bool Equals(IntRange? other) => other is not null && Begin == other.Begin && End == other.End;
 
     /// <inheritdoc/>

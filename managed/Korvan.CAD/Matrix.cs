@@ -86,12 +86,14 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
     public float Determinant => (float)_map.Determinant;
 
     /// <summary>Gives the six numbers: m11, m12, m21, m22, dx, dy.</summary>
+    /// <returns>The six numbers.</returns>
     public float[] GetElements()
     {
         return [(float)_map.Xx, (float)_map.Yx, (float)_map.Xy, (float)_map.Yy, (float)_map.X0, (float)_map.Y0];
     }
 
     /// <summary>Gives a matrix of the same numbers.</summary>
+    /// <returns>A matrix of the same numbers.</returns>
     public Matrix Clone() => new(_map);
 
     /// <summary>Makes this the map that leaves everything where it is.</summary>
@@ -187,10 +189,12 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
 
     /// <summary>Gives where points go.</summary>
     /// <param name="points">The points.</param>
+    /// <returns>Where points go.</returns>
     public PointF[] TransformPoints(PointF[] points) => Array.ConvertAll(points, p => Moved(p.X, p.Y, 1));
 
     /// <summary>Gives where points go, rounded to whole numbers.</summary>
     /// <param name="points">The points.</param>
+    /// <returns>Where points go, rounded to whole numbers.</returns>
     public Point[] TransformPoints(Point[] points) => Array.ConvertAll(points, p =>
     {
         PointF moved = Moved(p.X, p.Y, 1);
@@ -199,10 +203,12 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
 
     /// <summary>Gives what becomes of directions: the map without its move.</summary>
     /// <param name="vectors">The directions.</param>
+    /// <returns>What becomes of directions.</returns>
     public PointF[] TransformVectors(PointF[] vectors) => Array.ConvertAll(vectors, p => Moved(p.X, p.Y, 0));
 
     /// <summary>Tells whether another map has the same numbers.</summary>
     /// <param name="other">The other map.</param>
+    /// <returns>Whether another map has the same numbers.</returns>
     public bool Equals(Matrix? other) => other is not null && _map == other._map;
 
     /// <inheritdoc/>

@@ -40,6 +40,7 @@ public class MifCodePageDecoder
 
     /// <summary>Tells whether a text may hold sequences.</summary>
     /// <param name="text">The text.</param>
+    /// <returns>Whether a text may hold sequences.</returns>
     public static bool HasSequences(string text)
     {
         Verify.NotNull(text);

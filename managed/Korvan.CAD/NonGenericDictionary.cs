@@ -69,6 +69,7 @@ public class NonGenericDictionary : IDictionary
 
     /// <summary>Tells whether there is an object of a key.</summary>
     /// <param name="key">The key.</param>
+    /// <returns>Whether there is an object of a key.</returns>
     public bool ContainsKey(object key) => _entries.Contains(key);
 
     /// <summary>Adds an object under a key that no other has.</summary>

@@ -31,6 +31,7 @@ public abstract class ObjectWithBounds : IObjectWithBounds
 
     /// <summary>Tells whether a point lies in the room or on its sides.</summary>
     /// <param name="point">The point.</param>
+    /// <returns>Whether a point lies in the room or on its sides.</returns>
     public bool ContainsPoint(Point3D point)
     {
         Verify.NotNull(point);
@@ -41,6 +42,7 @@ public abstract class ObjectWithBounds : IObjectWithBounds
 
     /// <summary>Tells whether the room touches that of something else.</summary>
     /// <param name="other">The other thing.</param>
+    /// <returns>Whether the room touches that of something else.</returns>
     public bool BoundsIntersect(IObjectWithBounds other)
     {
         Verify.NotNull(other);

@@ -40,6 +40,7 @@ public struct Point : IEquatable<Point>
 
     /// <summary>Tells whether both parts are the same.</summary>
     /// <param name="other">The value to compare with.</param>
+    /// <returns>Whether both parts are the same.</returns>
     public readonly bool Equals(Point other) => X == other.X && Y == other.Y;
 
     /// <inheritdoc/>

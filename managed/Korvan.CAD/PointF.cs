@@ -34,6 +34,7 @@ public struct PointF : IEquatable<PointF>
 
     /// <summary>Tells whether both parts are the same.</summary>
     /// <param name="other">The value to compare with.</param>
+    /// <returns>Whether both parts are the same.</returns>
     public readonly bool Equals(PointF other) => X == other.X && Y == other.Y;
 
     /// <inheritdoc/>

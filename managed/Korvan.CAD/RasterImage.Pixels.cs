@@ -12,6 +12,7 @@ public abstract partial class RasterImage
     /// <summary>Gives the colour of a pixel.</summary>
     /// <param name="x">Its column, from 0 at the left.</param>
     /// <param name="y">Its row, from 0 at the top.</param>
+    /// <returns>The colour of a pixel.</returns>
     public Color GetPixel(int x, int y) => Color.FromArgb(GetArgb32Pixel(x, y));
 
     /// <summary>Sets the colour of a pixel.</summary>
@@ -23,6 +24,7 @@ public abstract partial class RasterImage
     /// <summary>Gives a pixel as a number: opacity, red, green, blue from the highest byte on.</summary>
     /// <param name="x">Its column, from 0 at the left.</param>
     /// <param name="y">Its row, from 0 at the top.</param>
+    /// <returns>A pixel as a number.</returns>
     public int GetArgb32Pixel(int x, int y)
     {
         VerifyInside(new Rectangle(x, y, 1, 1));
@@ -41,6 +43,7 @@ public abstract partial class RasterImage
 
     /// <summary>Gives a block of pixels as 32-bit numbers, row by row.</summary>
     /// <param name="rectangle">The block.</param>
+    /// <returns>A block of pixels as 32-bit numbers, row by row.</returns>
     public int[] LoadArgb32Pixels(Rectangle rectangle)
     {
         VerifyInside(rectangle);
@@ -69,6 +72,7 @@ public abstract partial class RasterImage
 
     /// <summary>Gives a block of pixels as colours, row by row.</summary>
     /// <param name="rectangle">The block.</param>
+    /// <returns>A block of pixels as colours, row by row.</returns>
     public Color[] LoadPixels(Rectangle rectangle) => Array.ConvertAll(LoadArgb32Pixels(rectangle), Color.FromArgb);
 
     /// <summary>Sets a block of pixels.</summary>
@@ -83,6 +87,7 @@ public abstract partial class RasterImage
     /// <summary>Gives a block of pixels as bytes, row by row, in the form that the settings state.</summary>
     /// <param name="rectangle">The block.</param>
     /// <param name="settings">The form: channels, bits, and bytes of a row.</param>
+    /// <returns>A block of pixels as bytes, row by row, in the form that the settings state.</returns>
     public byte[] LoadRawData(Rectangle rectangle, RawDataSettings settings)
     {
         Verify.NotNull(settings);

@@ -64,6 +64,7 @@ public abstract partial class RasterImage
 
     /// <summary>Gives a page or frame. It belongs to this image and lives as long.</summary>
     /// <param name="index">Its number, from 0.</param>
+    /// <returns>A page or frame.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such page.</exception>
     public abstract RasterImage GetPage(int index);
 

@@ -27,5 +27,6 @@ public class RawDataSettings
     public IColorPalette? ColorPalette { get; set; }
 
     /// <summary>Gives what turns single rows into colours, and back.</summary>
+    /// <returns>What turns single rows into colours, and back.</returns>
     public IColorConverter CreateColorConverter() => PixelDataFormat.CreateConverter(ColorPalette);
 }

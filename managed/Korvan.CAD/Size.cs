@@ -47,6 +47,7 @@ public struct Size : IEquatable<Size>
 
     /// <summary>Tells whether both parts are the same.</summary>
     /// <param name="other">The value to compare with.</param>
+    /// <returns>Whether both parts are the same.</returns>
     public readonly bool Equals(Size other) => Width == other.Width && Height == other.Height;
 
     /// <inheritdoc/>

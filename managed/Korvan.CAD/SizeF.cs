@@ -37,6 +37,7 @@ public struct SizeF : IEquatable<SizeF>
 
     /// <summary>Tells whether both parts are the same.</summary>
     /// <param name="other">The value to compare with.</param>
+    /// <returns>Whether both parts are the same.</returns>
     public readonly bool Equals(SizeF other) => Width == other.Width && Height == other.Height;
 
     /// <inheritdoc/>

@@ -66,6 +66,7 @@ public class StreamContainer : DisposableObject
     public void Flush() => Stream.Flush();
 
     /// <summary>Gives the whole content from the start; the position of a stream that can seek is kept.</summary>
+    /// <returns>The whole content from the start.</returns>
     public byte[] ToBytes()
     {
         VerifyNotDisposed();

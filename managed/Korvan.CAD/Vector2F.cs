@@ -37,6 +37,7 @@ public struct Vector2F : IEquatable<Vector2F>
 
     /// <summary>Tells whether both parts are the same.</summary>
     /// <param name="other">The value to compare with.</param>
+    /// <returns>Whether both parts are the same.</returns>
     public readonly bool Equals(Vector2F other) => X == other.X && Y == other.Y;
 
     /// <inheritdoc/>

@@ -61,11 +61,13 @@ public class XmpPacketWrapper
     /// <summary>Gives a property; of several values the first. Nothing where it is missing.</summary>
     /// <param name="namespaceUri">Its namespace, for example <c>http://purl.org/dc/elements/1.1/</c>.</param>
     /// <param name="name">Its name, for example <c>title</c>.</param>
+    /// <returns>A property.</returns>
     public string? GetValue(string namespaceUri, string name) => GetValues(namespaceUri, name).FirstOrDefault();
 
     /// <summary>Gives the values of a property; none where it is missing.</summary>
     /// <param name="namespaceUri">Its namespace.</param>
     /// <param name="name">Its name.</param>
+    /// <returns>The values of a property.</returns>
     public string[] GetValues(string namespaceUri, string name)
     {
         XName full = Name(namespaceUri, name);
@@ -135,6 +137,7 @@ public class XmpPacketWrapper
     }
 
     /// <summary>Gives the packet as text, without its processing instructions.</summary>
+    /// <returns>The packet as text, without its processing instructions.</returns>
     public string ToXml()
     {
         var meta = new XElement(Meta + "xmpmeta", new XAttribute(XNamespace.Xmlns + "x", Meta.NamespaceName), _root);
@@ -142,6 +145,7 @@ public class XmpPacketWrapper
     }
 
     /// <summary>Gives the packet as it stands in files: UTF-8, between its processing instructions.</summary>
+    /// <returns>The packet as it stands in files.</returns>
     public byte[] ToBytes() => Encoding.UTF8.GetBytes($"{PacketBegin}\n{ToXml()}\n{PacketEnd}");
 
     /// <inheritdoc/>

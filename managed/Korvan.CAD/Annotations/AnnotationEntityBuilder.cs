@@ -29,6 +29,7 @@ public class AnnotationEntityBuilder
 
     /// <summary>Lets the annotation speak of an entity; its arrow points to it.</summary>
     /// <param name="target">The entity.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetTarget(IAnnotateable target)
     {
         Verify.NotNull(target);
@@ -39,6 +40,7 @@ public class AnnotationEntityBuilder
 
     /// <summary>Sets the point that the arrow points to.</summary>
     /// <param name="point">The point, in world coordinates.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetPoint(Point3D point)
     {
         Verify.NotNull(point);
@@ -48,6 +50,7 @@ public class AnnotationEntityBuilder
 
     /// <summary>Sets where the text stands, seen from the point.</summary>
     /// <param name="direction">The side, or two of them for a corner.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetDirection(AnnotationDirection direction)
     {
         _direction = direction;
@@ -56,6 +59,7 @@ public class AnnotationEntityBuilder
 
     /// <summary>Sets the height of the letters. 2.5 by default.</summary>
     /// <param name="height">The height in drawing units, above 0.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetTextHeight(double height)
     {
         _height = Positive(height, nameof(height));
@@ -64,6 +68,7 @@ public class AnnotationEntityBuilder
 
     /// <summary>Sets how far the text stands from the point. Six times the height of the letters by default.</summary>
     /// <param name="distance">The distance in drawing units, above 0.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetDistance(double distance)
     {
         _distance = Positive(distance, nameof(distance));
@@ -72,6 +77,7 @@ public class AnnotationEntityBuilder
 
     /// <summary>Sets the layer of text and arrow. "0" by default.</summary>
     /// <param name="layerName">The name of the layer; it is added to the drawing when that is saved.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetLayer(string layerName)
     {
         Verify.NotBlank(layerName);
@@ -81,6 +87,7 @@ public class AnnotationEntityBuilder
 
     /// <summary>Sets the colour of text and arrow. That of the layer by default.</summary>
     /// <param name="colorId">The number of the colour: 1 to 255, 256 by layer.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetColorId(short colorId)
     {
         _color = colorId;
@@ -88,6 +95,7 @@ public class AnnotationEntityBuilder
     }
 
     /// <summary>Makes the annotation.</summary>
+    /// <returns>The annotation.</returns>
     /// <exception cref="InvalidOperationException">Neither a target nor a point was set.</exception>
     public AnnotationEntity Build()
     {

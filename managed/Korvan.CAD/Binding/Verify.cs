@@ -23,6 +23,20 @@ internal static class Verify
         }
     }
 
+    /// <summary>Refuses an array that is missing, or that lacks an item.</summary>
+    internal static void NoneIsNull<T>(
+        [NotNull] T[]? argument,
+        [CallerArgumentExpression(nameof(argument))] string name = "",
+        [CallerMemberName] string member = "")
+        where T : class
+    {
+        NotNull(argument, name, member);
+        if (Array.IndexOf(argument, null) is var at and >= 0)
+        {
+            throw new ArgumentNullException(null, $"{Shown(name, member)} cannot hold None; item {at} is.");
+        }
+    }
+
     internal static void NotEmpty(
         [NotNull] string? argument,
         [CallerArgumentExpression(nameof(argument))] string name = "",

@@ -103,6 +103,7 @@ public partial class ExifData
     }
 
     /// <summary>Gives the block as it stands in a file, from its mark of byte order on.</summary>
+    /// <returns>The block as it stands in a file, from its mark of byte order on.</returns>
     public byte[] SerializeData()
     {
         // Places of the directories follow from their sizes, so pointers are set before anything is written.

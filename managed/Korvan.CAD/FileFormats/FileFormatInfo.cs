@@ -44,6 +44,7 @@ public class FileFormatInfo
 
     /// <summary>Gives what is known of a format.</summary>
     /// <param name="format">The format.</param>
+    /// <returns>What is known of a format.</returns>
     /// <exception cref="ArgumentOutOfRangeException">It is <see cref="FileFormat.Undefined"/>,
     /// <see cref="FileFormat.Custom"/>, or no format at all.</exception>
     public static FileFormatInfo Get(FileFormat format)
@@ -55,6 +56,7 @@ public class FileFormatInfo
 
     /// <summary>Gives the formats whose files have names with an ending, in the order of their numbers.</summary>
     /// <param name="extension">The ending, with or without its point; upper and lower case are the same.</param>
+    /// <returns>The formats whose files have names with an ending, in the order of their numbers.</returns>
     public static FileFormatInfo[] FindByExtension(string extension)
     {
         Verify.NotNull(extension);

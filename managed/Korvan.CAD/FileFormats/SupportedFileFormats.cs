@@ -56,6 +56,7 @@ public static class SupportedFileFormats
 
         /// <summary>Tells whether files of a format can be loaded.</summary>
         /// <param name="format">The format.</param>
+        /// <returns>Whether files of a format can be loaded.</returns>
         public static bool Contains(FileFormat format) => Loaded.Value.Contains(format);
     }
 
@@ -70,6 +71,7 @@ public static class SupportedFileFormats
 
         /// <summary>Tells whether files of a format can be written.</summary>
         /// <param name="format">The format.</param>
+        /// <returns>Whether files of a format can be written.</returns>
         public static bool Contains(FileFormat format) => Written.Value.Contains(format);
     }
 }

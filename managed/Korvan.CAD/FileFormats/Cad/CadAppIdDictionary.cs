@@ -49,6 +49,7 @@ public class CadAppIdDictionary : NonGenericDictionary
 
     /// <summary>Tells whether there is an application of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is an application of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds an application.</summary>
@@ -61,5 +62,6 @@ public class CadAppIdDictionary : NonGenericDictionary
     public bool Remove(CadAppIdTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadAppIdTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -49,6 +49,7 @@ public class CadBlockRecordList : NonGenericList
 
     /// <summary>Tells whether there is a block record of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a block record of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a block record.</summary>
@@ -61,5 +62,6 @@ public class CadBlockRecordList : NonGenericList
     public bool Remove(CadBlockTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadBlockTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

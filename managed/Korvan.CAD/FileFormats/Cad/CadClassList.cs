@@ -49,6 +49,7 @@ public class CadClassList : NonGenericList
 
     /// <summary>Tells whether there is a class of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a class of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a class.</summary>
@@ -61,5 +62,6 @@ public class CadClassList : NonGenericList
     public bool Remove(CadClassEntity item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadClassEntity>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -49,6 +49,7 @@ public class CadDimensionDictionary : NonGenericDictionary
 
     /// <summary>Tells whether there is a dimension style of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a dimension style of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a dimension style.</summary>
@@ -61,5 +62,6 @@ public class CadDimensionDictionary : NonGenericDictionary
     public bool Remove(CadDimensionStyleTable item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadDimensionStyleTable>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -49,6 +49,7 @@ public class CadLineTypesDictionary : NonGenericDictionary
 
     /// <summary>Tells whether there is a line type of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a line type of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a line type.</summary>
@@ -61,5 +62,6 @@ public class CadLineTypesDictionary : NonGenericDictionary
     public bool Remove(CadLineTypeTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadLineTypeTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

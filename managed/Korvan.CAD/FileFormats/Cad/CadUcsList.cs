@@ -49,6 +49,7 @@ public class CadUcsList : NonGenericList
 
     /// <summary>Tells whether there is a coordinate system of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a coordinate system of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a coordinate system.</summary>
@@ -61,5 +62,6 @@ public class CadUcsList : NonGenericList
     public bool Remove(CadUcsTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadUcsTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

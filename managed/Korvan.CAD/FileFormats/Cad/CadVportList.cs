@@ -49,6 +49,7 @@ public class CadVportList : NonGenericList
 
     /// <summary>Tells whether there is a screen part of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a screen part of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a screen part.</summary>
@@ -61,5 +62,6 @@ public class CadVportList : NonGenericList
     public bool Remove(CadVportTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadVportTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -40,12 +40,14 @@ public sealed class CgmFile
 
     /// <summary>Reads a file of either encoding, perhaps packed by gzip.</summary>
     /// <param name="filePath">The file.</param>
+    /// <returns>A file of either encoding, perhaps packed by gzip.</returns>
     /// <exception cref="ImageLoadException">The file is missing, damaged, or no metafile.</exception>
     public static CgmFile Load(string filePath) => Load(filePath, false);
 
     /// <summary>Reads a file of either encoding, perhaps packed by gzip.</summary>
     /// <param name="filePath">The file.</param>
     /// <param name="ignoreErrors">Whether damaged elements are left out and told in <see cref="Messages"/>.</param>
+    /// <returns>A file of either encoding, perhaps packed by gzip.</returns>
     /// <exception cref="ImageLoadException">The file is missing, no metafile, or damaged and damage is not
     /// ignored.</exception>
     public static CgmFile Load(string filePath, bool ignoreErrors) =>
@@ -53,12 +55,14 @@ public sealed class CgmFile
 
     /// <summary>Reads a stream of either encoding, perhaps packed by gzip, to its end.</summary>
     /// <param name="stream">The stream; it stays open.</param>
+    /// <returns>A stream of either encoding, perhaps packed by gzip, to its end.</returns>
     /// <exception cref="ImageLoadException">What it holds is damaged or no metafile.</exception>
     public static CgmFile Load(Stream stream) => Load(stream, false);
 
     /// <summary>Reads a stream of either encoding, perhaps packed by gzip, to its end.</summary>
     /// <param name="stream">The stream; it stays open.</param>
     /// <param name="ignoreErrors">Whether damaged elements are left out and told in <see cref="Messages"/>.</param>
+    /// <returns>A stream of either encoding, perhaps packed by gzip, to its end.</returns>
     /// <exception cref="ImageLoadException">What it holds is no metafile, or damaged and damage is not ignored.</exception>
     public static CgmFile Load(Stream stream, bool ignoreErrors)
     {

@@ -58,6 +58,7 @@ public sealed class CgmImage : Image, IVectorImage
     public override void CacheData() => VerifyNotDisposed();
 
     /// <summary>Gives the texts of all pictures, in the order of drawing, with what they look like.</summary>
+    /// <returns>The texts of all pictures, in the order of drawing, with what they look like.</returns>
     public TextInformation[] GetTexts()
     {
         VerifyNotDisposed();

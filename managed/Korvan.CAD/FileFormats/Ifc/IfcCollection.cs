@@ -123,10 +123,12 @@ public sealed class IfcCollection : IList
 
     /// <summary>Tells whether a value is there.</summary>
     /// <param name="value">The value.</param>
+    /// <returns>Whether a value is there.</returns>
     public bool Contains(object? value) => IndexOf(value) >= 0;
 
     /// <summary>Finds the first place of a value; -1 for none.</summary>
     /// <param name="value">The value.</param>
+    /// <returns>The first place of a value.</returns>
     public int IndexOf(object? value)
     {
         for (int i = 0; i < _items.Count; i++)

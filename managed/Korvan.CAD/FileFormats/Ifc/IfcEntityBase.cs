@@ -86,6 +86,7 @@ public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
     }
 
     /// <summary>Gives the record as it stands in the file, or as it would be written.</summary>
+    /// <returns>The record as it stands in the file, or as it would be written.</returns>
     public override string ToString()
     {
         if (Model is { } model && Record >= 0 && Changed == 0)

@@ -95,12 +95,14 @@ public sealed class IfcImage : Image
 
     /// <summary>Gives the instances of an entity and of all that are derived from it.</summary>
     /// <param name="entityName">The name in the schema, in any case, with or without the edition behind it.</param>
+    /// <returns>The instances of an entity and of all that are derived from it.</returns>
     /// <exception cref="IfcImageException">The schema has no such entity.</exception>
     public IReadOnlyList<IIfcEntity> GetEntitiesOfType(string entityName) => GetEntitiesOfType(entityName, false);
 
     /// <summary>Gives the instances of an entity, in the order of the file.</summary>
     /// <param name="entityName">The name in the schema, in any case, with or without the edition behind it.</param>
     /// <param name="isExact">Whether entities that are derived from it are left out.</param>
+    /// <returns>The instances of an entity, in the order of the file.</returns>
     /// <exception cref="IfcImageException">The schema has no such entity.</exception>
     public IReadOnlyList<IIfcEntity> GetEntitiesOfType(string entityName, bool isExact)
     {
@@ -143,6 +145,7 @@ public sealed class IfcImage : Image
     }
 
     /// <summary>Gives the texts that the model shows: those of its text literals.</summary>
+    /// <returns>The texts that the model shows.</returns>
     public override string[] GetStrings() =>
     [
         .. GetEntitiesOfType("IfcTextLiteral").Select(one => one.GetAttribute("Literal")).OfType<string>(),

@@ -56,12 +56,14 @@ public abstract class ResourceBlock
 
     /// <summary>Reads the blocks of a PSD.</summary>
     /// <param name="filePath">The path of the file.</param>
+    /// <returns>The blocks of a PSD.</returns>
     /// <exception cref="PsdImageException">The file is no PSD.</exception>
     /// <exception cref="PsdImageResourceException">A block is damaged.</exception>
     public static ResourceBlock[] ReadAll(string filePath) => PsdResources.Of(File.ReadAllBytes(filePath), filePath);
 
     /// <summary>Reads the blocks of a PSD.</summary>
     /// <param name="stream">The stream, read from its position on.</param>
+    /// <returns>The blocks of a PSD.</returns>
     /// <exception cref="PsdImageException">The stream is no PSD.</exception>
     /// <exception cref="PsdImageResourceException">A block is damaged.</exception>
     public static ResourceBlock[] ReadAll(Stream stream)
@@ -73,6 +75,7 @@ public abstract class ResourceBlock
     }
 
     /// <summary>Gives the content as it stands in the file.</summary>
+    /// <returns>The content as it stands in the file.</returns>
     public abstract byte[] ToBytes();
 
     internal void MarkRead(string name) => (_name, State) = (name, ResourceBlockState.Unchanged);

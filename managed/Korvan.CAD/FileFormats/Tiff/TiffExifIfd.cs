@@ -37,6 +37,7 @@ public class TiffExifIfd
     /// <summary>Reads a directory.</summary>
     /// <param name="reader">What reads the block.</param>
     /// <param name="offset">The place of the directory in it.</param>
+    /// <returns>A directory.</returns>
     /// <exception cref="TiffImageException">The directory or values of it lie outside of the block.</exception>
     public static TiffExifIfd Read(TiffStreamReader reader, long offset)
     {
@@ -59,6 +60,7 @@ public class TiffExifIfd
 
     /// <summary>Gives a field, or nothing.</summary>
     /// <param name="tagId">Its number.</param>
+    /// <returns>A field, or nothing.</returns>
     public TiffDataType? Get(int tagId) => _tags.GetValueOrDefault(tagId);
 
     /// <summary>Adds a field, or replaces that of the same number.</summary>

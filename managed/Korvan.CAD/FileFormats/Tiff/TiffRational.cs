@@ -28,6 +28,7 @@ public class TiffRational : IEquatable<TiffRational>
 
     /// <summary>Makes the fraction nearest to a number, by continued fractions.</summary>
     /// <param name="value">The number, finite and in the range of the parts.</param>
+    /// <returns>The fraction nearest to a number, by continued fractions.</returns>
     public static TiffRational FromDouble(double value)
     {
         if (!(value >= 0 && value <= int.MaxValue))
@@ -41,6 +42,7 @@ public class TiffRational : IEquatable<TiffRational>
 
     /// <summary>Tells whether both parts are the same.</summary>
     /// <param name="other">The fraction to compare with.</param>
+    /// <returns>Whether both parts are the same.</returns>
     public bool Equals(TiffRational? other) =>
         other is not null && Numerator == other.Numerator && Denominator == other.Denominator;
 

@@ -28,6 +28,7 @@ public class TiffSRational : IEquatable<TiffSRational>
 
     /// <summary>Makes the fraction nearest to a number, by continued fractions.</summary>
     /// <param name="value">The number, finite and in the range of the parts.</param>
+    /// <returns>The fraction nearest to a number, by continued fractions.</returns>
     public static TiffSRational FromDouble(double value)
     {
         if (!(value >= -int.MaxValue && value <= int.MaxValue))
@@ -41,6 +42,7 @@ public class TiffSRational : IEquatable<TiffSRational>
 
     /// <summary>Tells whether both parts are the same.</summary>
     /// <param name="other">The fraction to compare with.</param>
+    /// <returns>Whether both parts are the same.</returns>
     public bool Equals(TiffSRational? other) =>
         other is not null && Numerator == other.Numerator && Denominator == other.Denominator;
 

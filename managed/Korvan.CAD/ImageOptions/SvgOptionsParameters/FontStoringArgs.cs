@@ -34,6 +34,7 @@ public class FontStoringArgs
     public string FontFileUri { get; set; } = "";
 
     /// <summary>Gives the content of the font file.</summary>
+    /// <returns>The content of the font file.</returns>
     /// <exception cref="ImageSaveException">The file is gone or cannot be read.</exception>
     public byte[] GetFontData()
     {

@@ -19,7 +19,7 @@ internal static class LayerChoice
         string[] own = (options.VectorRasterizationOptions as CadRasterizationOptions)?.Layers ?? [];
         return options.Layers.Length + own.Length == 0
             ? null
-            : new HashSet<string>([.. options.Layers, .. own], StringComparer.OrdinalIgnoreCase);
+            : new HashSet<string>(options.Layers.Concat(own).Select(static name => name ?? ""), StringComparer.OrdinalIgnoreCase);
     }
 
     /// <summary>Notes names that no layer of the drawing has; where none of them has one, nothing would be drawn, and

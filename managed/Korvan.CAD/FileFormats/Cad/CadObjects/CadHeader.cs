@@ -31,6 +31,7 @@ public partial class CadHeader
 
     /// <summary>Tells whether the drawing states a variable.</summary>
     /// <param name="name">The name, as in $LTSCALE; upper and lower case are the same.</param>
+    /// <returns>Whether the drawing states a variable.</returns>
     public bool Contains(string name) => _values.ContainsKey(name);
 
     /// <summary>Gives a variable as a number.</summary>
@@ -81,6 +82,7 @@ public partial class CadHeader
 
     /// <summary>Gives the tags of a variable. The list is live: changes change the drawing.</summary>
     /// <param name="name">The name; upper and lower case are the same.</param>
+    /// <returns>The tags of a variable.</returns>
     /// <exception cref="CadException">The drawing does not state it.</exception>
     public List<CadCodeValue> GetTags(string name)
     {

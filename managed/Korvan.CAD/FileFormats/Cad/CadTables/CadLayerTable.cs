@@ -28,6 +28,7 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
     private protected override void VerifyName(string name) => SymbolNames.VerifyLayer(name);
 
     /// <summary>Gives the name and state of the layer in one line.</summary>
+    /// <returns>The name and state of the layer in one line.</returns>
     public override string ToString() =>
         $"{base.ToString()}, colour {StoredColor}{(IsOn ? "" : ", off")}{(IsFrozen ? ", frozen" : "")}{(IsLocked ? ", locked" : "")}";
 

@@ -35,6 +35,7 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
     public short Flags { get; set; }
 
     /// <summary>Gives the kind and name of the record in one line.</summary>
+    /// <returns>The kind and name of the record in one line.</returns>
     public override string ToString() => $"{DxfName} {Name}";
 
     /// <summary>Takes a name over as it stands in a file.</summary>

@@ -35,6 +35,7 @@ public sealed class CgmColor : IEquatable<CgmColor>
 
     /// <summary>Tells whether both colours are said in the same way.</summary>
     /// <param name="other">The colour to compare with.</param>
+    /// <returns>Whether both colours are said in the same way.</returns>
     public bool Equals(CgmColor? other) => other is not null && Index == other.Index && Color.ToArgb() == other.Color.ToArgb();
 
     /// <inheritdoc/>

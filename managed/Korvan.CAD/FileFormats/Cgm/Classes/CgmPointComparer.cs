@@ -38,6 +38,7 @@ public sealed class CgmPointComparer
     /// <summary>Tells whether two points lie at the same place.</summary>
     /// <param name="first">A point.</param>
     /// <param name="second">Another point.</param>
+    /// <returns>Whether two points lie at the same place.</returns>
     public bool AreEqual(CgmPoint first, CgmPoint second) => Compare(first, second) == 0;
 
     private int Order(double difference) => Math.Abs(difference) <= Tolerance ? 0 : Math.Sign(difference);

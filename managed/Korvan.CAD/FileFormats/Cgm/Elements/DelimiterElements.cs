@@ -35,11 +35,13 @@ public static class DelimiterElements
 
     /// <summary>Gives a new command for an element, without parameters yet.</summary>
     /// <param name="element">The element.</param>
+    /// <returns>A new command for an element, without parameters yet.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
     public static Command CreateCommand(DelimiterElement element) => Entry(element).Create();
 
     /// <summary>Gives the word that stands for an element in clear text.</summary>
     /// <param name="element">The element.</param>
+    /// <returns>The word that stands for an element in clear text.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
     public static string GetKeyword(DelimiterElement element) => Entry(element).Keyword;
 

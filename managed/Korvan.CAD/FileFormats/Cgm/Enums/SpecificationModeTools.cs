@@ -10,6 +10,7 @@ public static class SpecificationModeTools
 
     /// <summary>Gives the mode of a number in a binary file.</summary>
     /// <param name="mode">The number, 0 to 3.</param>
+    /// <returns>The mode of a number in a binary file.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such mode.</exception>
     public static SpecificationMode GetMode(int mode)
     {
@@ -19,6 +20,7 @@ public static class SpecificationModeTools
 
     /// <summary>Gives the word of a mode in a clear text file.</summary>
     /// <param name="mode">The mode.</param>
+    /// <returns>The word of a mode in a clear text file.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such mode.</exception>
     public static string GetWord(SpecificationMode mode) => Words[(int)GetMode((int)mode)];
 }

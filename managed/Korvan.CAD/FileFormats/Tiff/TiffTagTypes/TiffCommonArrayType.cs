@@ -13,6 +13,7 @@ public abstract class TiffCommonArrayType : TiffDataType
     }
 
     /// <summary>Gives the values as floating point numbers, whatever their type.</summary>
+    /// <returns>The values as floating point numbers, whatever their type.</returns>
     public abstract double[] ToDoubles();
 
     /// <inheritdoc/>

@@ -31,7 +31,7 @@ public class TiffRationalType : TiffCommonArrayType
         get => _values;
         set
         {
-            Verify.NotNull(value);
+            Verify.NoneIsNull(value);
             _values = value;
         }
     }

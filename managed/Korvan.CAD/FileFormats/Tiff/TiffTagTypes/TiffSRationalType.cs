@@ -31,7 +31,7 @@ public class TiffSRationalType : TiffCommonArrayType
         get => _values;
         set
         {
-            Verify.NotNull(value);
+            Verify.NoneIsNull(value);
             _values = value;
         }
     }
