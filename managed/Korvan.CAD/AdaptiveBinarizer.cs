@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.Raster.Operations;
 
 namespace Korvan.CAD;
@@ -32,8 +33,7 @@ public class AdaptiveBinarizer : IImagePreprocessor
         get => _windowSize;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, 3);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 10_000);
+            Verify.InRange(value, 3, 10_000);
             _windowSize = value;
         }
     }
@@ -47,7 +47,7 @@ public class AdaptiveBinarizer : IImagePreprocessor
         {
             if (!(value >= 0 && value <= 1))
             {
-                throw new ArgumentOutOfRangeException(nameof(value), value, "The difference is 0 to 1.");
+                throw Verify.OutOfRange(nameof(value), value, "The difference is 0 to 1.");
             }
 
             _brightnessDifference = value;
@@ -57,7 +57,7 @@ public class AdaptiveBinarizer : IImagePreprocessor
     /// <inheritdoc/>
     public void Process(RasterImage image)
     {
-        ArgumentNullException.ThrowIfNull(image);
+        Verify.NotNull(image);
         image.Replace(Binarization.Adaptive(image.Pixels, WindowSize, BrightnessDifference));
     }
 }

@@ -1,49 +1,58 @@
 using System;
+using System.Globalization;
 using System.IO;
+using System.Net.Sockets;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
+using Microsoft.Win32.SafeHandles;
 
 namespace Korvan.CAD;
 
 /// <summary>
-/// Files that appear whole or not at all: written beside their place under a name of their own, then renamed.
+/// Files that appear whole or not at all: written without a name, or beside their place under one of their own, then
+/// put in place. What is no regular file is never replaced: finished output goes into it.
 /// </summary>
 internal static class AtomicFile
 {
-    internal static void Write(string filePath, bool overWrite, Action<Stream> write)
-    {
-        ArgumentException.ThrowIfNullOrEmpty(filePath);
-        string target = ResolveLinks(Path.GetFullPath(filePath));
-        VerifyTarget(filePath, target, overWrite);
-        string beside = $"{target}.{Guid.NewGuid():N}.part";
-        try
-        {
-            using (FileStream stream = new(beside, FileMode.CreateNew, FileAccess.ReadWrite, FileShare.None, 1 << 16))
-            {
-                KeepMode(target, beside);
-                write(stream);
-            }
+    private const string PartSuffix = ".part";
+    private const int BufferSize = 1 << 16;
 
-            File.Move(beside, target, overWrite);
-        }
-        catch (Exception e) when (e is IOException or UnauthorizedAccessException)
-        {
-            File.Delete(beside);
-            throw new ImageSaveException($"'{filePath}' could not be written: {e.Message}", e);
-        }
-        catch
-        {
-            File.Delete(beside);
-            throw;
-        }
-    }
+    private static readonly string[] DescriptorFolders = ["/dev/fd/", "/proc/self/fd/"];
 
-    private static void VerifyTarget(string filePath, string target, bool overWrite)
+    /// <summary>Writes a file.</summary>
+    /// <param name="filePath">Its path.</param>
+    /// <param name="overWrite">Whether a file that is there may be replaced.</param>
+    /// <param name="write">Writes the content.</param>
+    /// <param name="avoidName">Whether the file stays without a name until it is whole, where its file system has such
+    /// files.</param>
+    internal static void Write(string filePath, bool overWrite, Action<Stream> write, bool avoidName = true)
     {
-        if (Directory.Exists(target))
+        Verify.NotEmpty(filePath);
+        string target = Path.GetFullPath(filePath);
+        PosixFile.Kind kind = PosixFile.KindOf(target);
+        if (kind == PosixFile.Kind.Folder)
         {
             throw new ImageSaveException($"'{filePath}' is a folder; name a file in it.");
         }
 
+        if (DescriptorOf(target) is { } descriptor)
+        {
+            WriteInto(filePath, write, data => PosixFile.Write(descriptor, data));
+        }
+        else if (kind is not (PosixFile.Kind.Absent or PosixFile.Kind.Regular))
+        {
+            WriteInto(filePath, write, data => WriteSpecial(target, kind, data));
+        }
+        else
+        {
+            string file = ResolveLinks(target);
+            VerifyPlace(filePath, file, overWrite);
+            WriteWhole(PartFile.Open(file, filePath, avoidName), overWrite, write);
+        }
+    }
+
+    private static void VerifyPlace(string filePath, string target, bool overWrite)
+    {
         string? folder = Path.GetDirectoryName(target);
         if (folder is not null && !Directory.Exists(folder))
         {
@@ -52,21 +61,225 @@ internal static class AtomicFile
 
         if (!overWrite && File.Exists(target))
         {
-            throw new ImageSaveException($"'{filePath}' exists already; pass overWrite = true to replace it.");
+            throw ExistsAlready(filePath);
         }
+    }
+
+    // The output is whole before its first byte goes where it cannot be taken back.
+    private static void WriteInto(string filePath, Action<Stream> write, SpanAction put)
+    {
+        using MemoryStream output = new();
+        write(output);
+        try
+        {
+            put(output.GetBuffer().AsSpan(0, (int)output.Length));
+        }
+        catch (Exception e) when (IsOfTarget(e) || e is SocketException)
+        {
+            throw NotWritten(filePath, e.Message);
+        }
+    }
+
+    private static void WriteSpecial(string target, PosixFile.Kind kind, ReadOnlySpan<byte> data)
+    {
+        if (kind == PosixFile.Kind.Socket)
+        {
+            using var socket = new Socket(AddressFamily.Unix, SocketType.Stream, ProtocolType.Unspecified);
+            socket.Connect(new UnixDomainSocketEndPoint(target));
+            using var connection = new NetworkStream(socket);
+            connection.Write(data);
+            return;
+        }
+
+        using SafeFileHandle file = PosixFile.OpenToWrite(target);
+        PosixFile.Write((int)file.DangerousGetHandle(), data);
+    }
+
+    private static void WriteWhole(PartFile part, bool overWrite, Action<Stream> write)
+    {
+        try
+        {
+            using (part.Stream)
+            {
+                KeepMode(part.Target, part.Stream.SafeFileHandle);
+                write(part.Stream);
+                part.Stream.Flush();
+                part.Name(overWrite);
+            }
+
+            part.MoveIntoPlace(overWrite);
+        }
+        catch (Exception e) when (IsOfTarget(e))
+        {
+            part.Remove();
+            throw NotWritten(part.Shown, part.WithoutName(e.Message));
+        }
+        catch
+        {
+            part.Remove();
+            throw;
+        }
+    }
+
+    // The standard streams, and files that are open already, get the output at their own place.
+    private static int? DescriptorOf(string path)
+    {
+        for (int links = 0; links < 8; links++)
+        {
+            foreach (string folder in DescriptorFolders)
+            {
+                if (path.StartsWith(folder, StringComparison.Ordinal)
+                    && int.TryParse(path.AsSpan(folder.Length), NumberStyles.None, CultureInfo.InvariantCulture, out int number))
+                {
+                    return number;
+                }
+            }
+
+            string? next = new FileInfo(path).LinkTarget;
+            if (next is null)
+            {
+                return null;
+            }
+
+            path = Path.GetFullPath(next, Path.GetDirectoryName(path)!);
+        }
+
+        return null;
     }
 
     // A link is kept and the file it leads to is replaced.
     private static string ResolveLinks(string path)
     {
-        return File.Exists(path) ? File.ResolveLinkTarget(path, true)?.FullName ?? path : path;
+        return new FileInfo(path).LinkTarget is null ? path : File.ResolveLinkTarget(path, true)!.FullName;
     }
 
-    private static void KeepMode(string target, string beside)
+    private static void KeepMode(string target, SafeFileHandle part)
     {
         if (!OperatingSystem.IsWindows() && File.Exists(target))
         {
-            File.SetUnixFileMode(beside, File.GetUnixFileMode(target));
+            File.SetUnixFileMode(part, File.GetUnixFileMode(target));
+        }
+    }
+
+    private static bool IsOfTarget(Exception e) => e is IOException or UnauthorizedAccessException;
+
+    // The reason is part of the message: as an inner exception it would be told twice.
+    private static ImageSaveException NotWritten(string filePath, string why) => new($"'{filePath}' could not be written: {why}");
+
+    private static ImageSaveException ExistsAlready(string filePath) =>
+        new($"'{filePath}' exists already; pass over_write=True to replace it.");
+
+    private delegate void SpanAction(ReadOnlySpan<byte> data);
+
+    /// <summary>What becomes a file.</summary>
+    private sealed class PartFile
+    {
+        private string? _name;
+
+        private PartFile(string target, string shown, string? name, FileStream stream)
+        {
+            Target = target;
+            Shown = shown;
+            _name = name;
+            Stream = stream;
+        }
+
+        /// <summary>Gets the path of the file that it becomes.</summary>
+        internal string Target { get; }
+
+        /// <summary>Gets that path as the program gave it.</summary>
+        internal string Shown { get; }
+
+        internal FileStream Stream { get; }
+
+        internal static PartFile Open(string target, string shown, bool avoidName)
+        {
+            if (avoidName && PosixFile.OpenUnnamed(Path.GetDirectoryName(target)!) is { } file)
+            {
+                if (PosixFile.CanName(file))
+                {
+                    return new PartFile(target, shown, null, new FileStream(file, FileAccess.ReadWrite, BufferSize));
+                }
+
+                file.Dispose();
+            }
+
+            RemoveForgotten(target);
+            string name = NewName(target);
+            try
+            {
+                return new PartFile(
+                    target, shown, name, new FileStream(name, FileMode.CreateNew, FileAccess.ReadWrite, FileShare.None, BufferSize));
+            }
+            catch (Exception e) when (IsOfTarget(e))
+            {
+                throw NotWritten(shown, e.Message.Replace(name, shown, StringComparison.Ordinal));
+            }
+        }
+
+        /// <summary>Gives a file without a name its own where nothing stands in the way, else one to move it by.</summary>
+        internal void Name(bool overWrite)
+        {
+            if (_name is not null || PosixFile.TryName(Stream.SafeFileHandle, Target))
+            {
+                return;
+            }
+
+            if (!overWrite)
+            {
+                throw ExistsAlready(Shown);
+            }
+
+            string name = NewName(Target);
+            PosixFile.TryName(Stream.SafeFileHandle, name);
+            _name = name;
+        }
+
+        internal void MoveIntoPlace(bool overWrite)
+        {
+            if (_name is not null)
+            {
+                File.Move(_name, Target, overWrite);
+            }
+        }
+
+        internal void Remove()
+        {
+            if (_name is not null)
+            {
+                File.Delete(_name);
+            }
+        }
+
+        /// <summary>A message of the system's, with the file's name in place of the one that it has meanwhile.</summary>
+        internal string WithoutName(string message) =>
+            _name is null ? message : message.Replace(_name, Shown, StringComparison.Ordinal);
+
+        private static string NewName(string target) => $"{target}.{Guid.NewGuid():N}{PartSuffix}";
+
+        // What a process that was ended left. A file that is being written is locked.
+        private static void RemoveForgotten(string target)
+        {
+            const int UniqueLength = 32;
+            string folder = Path.GetDirectoryName(target)!;
+            string start = Path.GetFileName(target) + ".";
+            foreach (string path in Directory.EnumerateFiles(folder, "*" + PartSuffix))
+            {
+                string name = Path.GetFileName(path);
+                if (name.Length != start.Length + UniqueLength + PartSuffix.Length || !name.StartsWith(start, StringComparison.Ordinal))
+                {
+                    continue;
+                }
+
+                try
+                {
+                    using var unused = new FileStream(path, FileMode.Open, FileAccess.ReadWrite, FileShare.None, 1, FileOptions.DeleteOnClose);
+                }
+                catch (Exception e) when (IsOfTarget(e))
+                {
+                    // Somebody writes it.
+                }
+            }
         }
     }
 }

@@ -1,6 +1,7 @@
 using System;
 using System.IO;
 using System.Threading;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
@@ -29,7 +30,7 @@ public static class Cache
         get => folder;
         set
         {
-            ArgumentException.ThrowIfNullOrEmpty(value);
+            Verify.NotEmpty(value);
             if (!Directory.Exists(value))
             {
                 throw new FrameworkException($"The cache folder '{value}' does not exist; create it first.");
@@ -47,7 +48,7 @@ public static class Cache
         get => memoryLimit;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfNegative(value);
+            Verify.NotNegative(value);
             memoryLimit = value;
         }
     }
@@ -60,7 +61,7 @@ public static class Cache
         get => diskLimit;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfNegative(value);
+            Verify.NotNegative(value);
             diskLimit = value;
         }
     }

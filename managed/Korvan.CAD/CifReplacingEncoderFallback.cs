@@ -16,6 +16,7 @@ public class CifReplacingEncoderFallback : EncoderFallback
     public override int MaxCharCount => 2 * CifReplacingEncoderFallbackBuffer.SequenceLength;
 
     /// <summary>Makes what writes the sequences, one letter after the other.</summary>
+    /// <returns>What writes the sequences, one letter after the other.</returns>
     public override CifReplacingEncoderFallbackBuffer CreateFallbackBuffer() => new();
 
     /// <inheritdoc/>

@@ -45,6 +45,7 @@ public class CifReplacingEncoderFallbackBuffer : EncoderFallbackBuffer
     }
 
     /// <summary>Gives the next letter; the zero letter when none is left.</summary>
+    /// <returns>The next letter.</returns>
     public override char GetNextChar() => _next < _length ? _text[_next++] : '\0';
 
     /// <summary>Goes back by one letter.</summary>

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -49,10 +50,12 @@ public readonly struct CmykColor : IEquatable<CmykColor>
     public static CmykColor FromColor(Color color) => FromArgb32(color.ToArgb());
 
     /// <summary>Gives the opaque colour that the inks make on white paper, without regard to real inks.</summary>
+    /// <returns>The opaque colour that the inks make on white paper, without regard to real inks.</returns>
     public Color ToColor() => Color.FromArgb(ToArgb32());
 
     /// <summary>Tells whether both colours have the same inks.</summary>
     /// <param name="other">The colour to compare with.</param>
+    /// <returns>Whether both colours have the same inks.</returns>
     public bool Equals(CmykColor other) => C == other.C && M == other.M && Y == other.Y && K == other.K;
 
     /// <inheritdoc/>
@@ -95,7 +98,7 @@ public readonly struct CmykColor : IEquatable<CmykColor>
     {
         if ((uint)value > 255)
         {
-            throw new ArgumentOutOfRangeException(name, value, "An ink is 0 to 255.");
+            throw Verify.OutOfRange(name, value, "An ink is 0 to 255.");
         }
 
         return (byte)value;

@@ -1,5 +1,6 @@
 using System;
 using System.Text;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD;
@@ -12,13 +13,14 @@ public static class CodePagesConvertHelper
     /// <returns>The code page, or <see cref="CodePages.Default"/> for one that <see cref="CodePages"/> lacks.</returns>
     public static CodePages FromName(string name)
     {
-        ArgumentNullException.ThrowIfNull(name);
+        Verify.NotNull(name);
         var page = (CodePages)DwgCodePage.Number(name);
         return Enum.IsDefined(page) ? page : CodePages.Default;
     }
 
     /// <summary>Gives the name that drawings have for a code page.</summary>
     /// <param name="codePage">The code page; <see cref="CodePages.Default"/> is that of drawings that state none.</param>
+    /// <returns>The name that drawings have for a code page.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such code page.</exception>
     public static string ToName(CodePages codePage) => codePage switch
     {
@@ -43,10 +45,11 @@ public static class CodePagesConvertHelper
     /// <summary>Gives the bytes of a text. Letters that the code page lacks become <c>\U+XXXX</c>.</summary>
     /// <param name="text">The text.</param>
     /// <param name="codePage">The code page.</param>
+    /// <returns>The bytes of a text.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such code page.</exception>
     public static byte[] Encode(string text, CodePages codePage)
     {
-        ArgumentNullException.ThrowIfNull(text);
+        Verify.NotNull(text);
         return TextEscapes.Escaping(DwgCodePage.Get(Number(codePage))).GetBytes(text);
     }
 
@@ -54,10 +57,11 @@ public static class CodePagesConvertHelper
     /// stand for.</summary>
     /// <param name="bytes">The bytes.</param>
     /// <param name="codePage">The code page.</param>
+    /// <returns>The text of bytes.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such code page.</exception>
     public static string Decode(byte[] bytes, CodePages codePage)
     {
-        ArgumentNullException.ThrowIfNull(bytes);
+        Verify.NotNull(bytes);
         return TextEscapes.Standard.Decode(DwgCodePage.Get(Number(codePage)).GetString(bytes));
     }
 
@@ -65,7 +69,7 @@ public static class CodePagesConvertHelper
     {
         if (!Enum.IsDefined(codePage))
         {
-            throw new ArgumentOutOfRangeException(nameof(codePage), codePage, "No code page has this number.");
+            throw Verify.OutOfRange(nameof(codePage), codePage, "No code page has this number.");
         }
 
         return codePage == CodePages.Default ? DwgCodePage.Number(DwgCodePage.DefaultName) : (int)codePage;

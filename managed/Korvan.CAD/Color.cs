@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
@@ -47,11 +48,13 @@ public readonly partial struct Color : IEquatable<Color>
 
     /// <summary>Makes a colour from a number whose bytes are opacity, red, green and blue, the highest first.</summary>
     /// <param name="argb">The number.</param>
+    /// <returns>A colour from a number whose bytes are opacity, red, green and blue, the highest first.</returns>
     public static Color FromArgb(int argb) => new(unchecked((uint)argb));
 
     /// <summary>Makes a colour with another opacity.</summary>
     /// <param name="alpha">The opacity, 0 to 255.</param>
     /// <param name="baseColor">The colour whose red, green and blue are taken.</param>
+    /// <returns>A colour with another opacity.</returns>
     public static Color FromArgb(int alpha, Color baseColor)
     {
         return new Color((Part(alpha, nameof(alpha)) << 24) | (baseColor._argb & 0xFFFFFF));
@@ -61,6 +64,7 @@ public readonly partial struct Color : IEquatable<Color>
     /// <param name="red">The red part, 0 to 255.</param>
     /// <param name="green">The green part, 0 to 255.</param>
     /// <param name="blue">The blue part, 0 to 255.</param>
+    /// <returns>An opaque colour.</returns>
     public static Color FromArgb(int red, int green, int blue) => FromArgb(255, red, green, blue);
 
     /// <summary>Makes a colour from its four parts.</summary>
@@ -68,6 +72,7 @@ public readonly partial struct Color : IEquatable<Color>
     /// <param name="red">The red part, 0 to 255.</param>
     /// <param name="green">The green part, 0 to 255.</param>
     /// <param name="blue">The blue part, 0 to 255.</param>
+    /// <returns>A colour from its four parts.</returns>
     public static Color FromArgb(int alpha, int red, int green, int blue)
     {
         return new Color(
@@ -77,6 +82,7 @@ public readonly partial struct Color : IEquatable<Color>
 
     /// <summary>Finds a well-known colour; upper and lower case are the same.</summary>
     /// <param name="name">The name, as in <c>"MidnightBlue"</c>.</param>
+    /// <returns>A well-known colour.</returns>
     /// <exception cref="FrameworkException">No colour has this name.</exception>
     public static Color FromName(string name)
     {
@@ -92,10 +98,12 @@ public readonly partial struct Color : IEquatable<Color>
     }
 
     /// <summary>Gives the colour as a number whose bytes are opacity, red, green and blue, the highest first.</summary>
+    /// <returns>The colour as a number whose bytes are opacity, red, green and blue, the highest first.</returns>
     public int ToArgb() => unchecked((int)_argb);
 
     /// <summary>Gives the lightness of the colour, 0 (black) to 1 (white).</summary>
     /// <remarks>The mean of the largest and the smallest part, as in the HSL model.</remarks>
+    /// <returns>The lightness of the colour, 0 (black) to 1 (white).</returns>
     public float GetBrightness()
     {
         return (Math.Max(R, Math.Max(G, B)) + Math.Min(R, Math.Min(G, B))) / 510f;
@@ -103,6 +111,7 @@ public readonly partial struct Color : IEquatable<Color>
 
     /// <summary>Tells whether both colours have the same parts and are both set.</summary>
     /// <param name="other">The colour to compare with.</param>
+    /// <returns>Whether both colours have the same parts and are both set.</returns>
     public bool Equals(Color other) => _argb == other._argb && _isSet == other._isSet;
 
     /// <inheritdoc/>
@@ -118,7 +127,7 @@ public readonly partial struct Color : IEquatable<Color>
     {
         if ((uint)value > 255)
         {
-            throw new ArgumentOutOfRangeException(name, value, "A part of a colour is 0 to 255.");
+            throw Verify.OutOfRange(name, value, "A part of a colour is 0 to 255.");
         }
 
         return (uint)value;

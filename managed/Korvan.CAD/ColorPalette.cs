@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.Binding;
 using Korvan.CAD.Raster.Colors;
 
 namespace Korvan.CAD;
@@ -16,7 +17,7 @@ public class ColorPalette : IColorPalette
     /// <exception cref="ArgumentException">There are no colours, or too many.</exception>
     public ColorPalette(int[] argb32Entries)
     {
-        ArgumentNullException.ThrowIfNull(argb32Entries);
+        Verify.NotNull(argb32Entries);
         if (argb32Entries.Length is < 1 or > 65536)
         {
             throw new ArgumentException($"A palette has 1 to 65536 colours, not {argb32Entries.Length}.");
@@ -50,10 +51,11 @@ public class ColorPalette : IColorPalette
 
     /// <summary>Creates a palette.</summary>
     /// <param name="colors">The colours; 1 to 65536 of them.</param>
+    /// <returns>A palette.</returns>
     /// <exception cref="ArgumentException">There are no colours, or too many.</exception>
     public static ColorPalette FromColors(Color[] colors)
     {
-        ArgumentNullException.ThrowIfNull(colors);
+        Verify.NotNull(colors);
         return new ColorPalette(Array.ConvertAll(colors, static color => color.ToArgb()));
     }
 
@@ -69,7 +71,7 @@ public class ColorPalette : IColorPalette
     {
         if ((uint)index >= (uint)_entries.Length)
         {
-            throw new ArgumentOutOfRangeException(nameof(index), index, $"The palette has {_entries.Length} colours, from 0 on.");
+            throw Verify.OutOfRange(nameof(index), index, $"The palette has {_entries.Length} colours, from 0 on.");
         }
 
         return _entries[index];

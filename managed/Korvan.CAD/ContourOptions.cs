@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -30,7 +31,7 @@ public class ContourOptions
         get => _minimumArea;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfNegative(value);
+            Verify.NotNegative(value);
             _minimumArea = value;
         }
     }

@@ -1,4 +1,7 @@
+using System;
 using System.IO;
+using Korvan.CAD.Binding;
+using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
 
@@ -15,17 +18,24 @@ public abstract class DataStreamSupporter : DisposableObject
     /// <summary>Reads all data that has not been read yet.</summary>
     public abstract void CacheData();
 
+    /// <summary>Writes the data over the file or stream that it was read from, in the format it was read from.</summary>
+    /// <exception cref="ImageSaveException">It was made in memory, so that there is no such place; or writing
+    /// failed.</exception>
+    public void Save() => SaveOver();
+
     /// <summary>Writes the data to a stream, in the format it was read from.</summary>
     /// <param name="stream">The stream to write to, from its position on; it stays open.</param>
     public virtual void Save(Stream stream)
     {
         VerifyNotDisposed();
-        System.ArgumentNullException.ThrowIfNull(stream);
-        SaveData(stream);
+        Verify.NotNull(stream);
+        ImageSaver.WriteTo(stream, SaveData);
     }
 
     /// <summary>Writes the data to a file, in the format it was read from.</summary>
-    /// <param name="filePath">The path of the file. A file that exists is replaced only when writing succeeds.</param>
+    /// <param name="filePath">The path of the file. A file that exists is replaced only when writing succeeds; a device or
+    /// a FIFO gets the output. An ending that stands for another format is refused.</param>
+    /// <exception cref="ImageSaveException">Writing failed, or the name has the ending of another format.</exception>
     public virtual void Save(string filePath) => Save(filePath, true);
 
     /// <summary>Writes the data to a file.</summary>
@@ -34,11 +44,20 @@ public abstract class DataStreamSupporter : DisposableObject
     public virtual void Save(string filePath, bool overWrite)
     {
         VerifyNotDisposed();
-        AtomicFile.Write(filePath, overWrite, SaveData);
+        Verify.NotEmpty(filePath);
+        Action<Stream> write = OwnWriter(filePath);
+        AtomicFile.Write(filePath, overWrite, write);
     }
 
     /// <summary>Writes the data in its own format.</summary>
     internal abstract void SaveData(Stream stream);
+
+    /// <summary>Writes the data where it was read from.</summary>
+    internal abstract void SaveOver();
+
+    /// <summary>Gives what writes the data into a file of this name.</summary>
+    /// <exception cref="ImageSaveException">The name has the ending of another format.</exception>
+    internal virtual Action<Stream> OwnWriter(string filePath) => SaveData;
 
     /// <inheritdoc/>
     internal override void ReleaseManagedResources()

@@ -1,4 +1,5 @@
 using System;
+using System.Diagnostics.CodeAnalysis;
 
 namespace Korvan.CAD;
 
@@ -27,6 +28,13 @@ public abstract class DisposableObject : IDisposable
 
     internal void VerifyNotDisposed()
     {
-        ObjectDisposedException.ThrowIf(Disposed, this);
+        if (Disposed)
+        {
+            ThrowDisposed();
+        }
     }
+
+    [DoesNotReturn]
+    private void ThrowDisposed() =>
+        throw new ObjectDisposedException(null, $"This {GetType().Name} has been disposed and is of no use any more.");
 }

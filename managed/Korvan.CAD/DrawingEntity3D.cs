@@ -45,9 +45,11 @@ public class DrawingEntity3D : ObjectWithBounds, IMeasurableEntity
     public override Point3D MaxPoint { get; }
 
     /// <summary>Gives nothing: faces have an area, but no length.</summary>
+    /// <returns>Nothing.</returns>
     public double? GetLength() => null;
 
     /// <summary>Gives the area of all faces.</summary>
+    /// <returns>The area of all faces.</returns>
     public double? GetArea()
     {
         double area = 0;

@@ -5,7 +5,7 @@ namespace Korvan.CAD;
 
 /// <summary>The file formats that the library tells apart.</summary>
 [PythonEnum(EnumKind.Flag)]
-public enum FileFormat
+public enum FileFormat : ulong
 {
     /// <summary>No format is stated or the content was not recognised.</summary>
     Undefined = 0,

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats;
 
 namespace Korvan.CAD;
@@ -15,7 +16,7 @@ public sealed class FileFormatMetadataAttribute : Attribute
     public FileFormatMetadataAttribute(
         string name, FileFormatFamily family, FileFormatCategory category, params string[] extensions)
     {
-        ArgumentNullException.ThrowIfNull(extensions);
+        Verify.NotNull(extensions);
         Name = name;
         Family = family;
         Category = category;

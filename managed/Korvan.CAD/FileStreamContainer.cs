@@ -1,4 +1,5 @@
 using System.IO;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -9,6 +10,13 @@ public class FileStreamContainer : StreamContainer
         : base(new FileStream(filePath, mode, access, FileShare.Read), true)
     {
         FilePath = filePath;
+    }
+
+    /// <summary>Gives the stream of the file in a container.</summary>
+    public static explicit operator Stream(FileStreamContainer container)
+    {
+        Verify.NotNull(container);
+        return container.Stream;
     }
 
     /// <summary>Gets the path that the file was opened with.</summary>

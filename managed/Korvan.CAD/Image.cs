@@ -4,7 +4,9 @@ using System.Diagnostics;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.Annotations;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.WatermarkGuard;
 
@@ -55,12 +57,16 @@ public abstract partial class Image : DataStreamSupporter
     /// <summary>Gets the options that the image was read with.</summary>
     internal LoadOptions LoadOptions { get; set; } = new();
 
+    /// <summary>Gets where in its stream the image begins, in bytes from the start.</summary>
+    internal long DataStart { get; set; }
+
     /// <summary>Gets the path that the image was read from, or nothing.</summary>
     internal string? FilePath { get; set; }
 
     /// <summary>Reads a file; the format is found from the content.</summary>
     /// <param name="filePath">The path of the file.</param>
     /// <param name="loadOptions">How to read it.</param>
+    /// <returns>A file.</returns>
     /// <exception cref="ImageLoadException">The file is missing, damaged or of a format that has no reader.</exception>
     public static Image Load(string filePath, LoadOptions loadOptions)
     {
@@ -69,59 +75,70 @@ public abstract partial class Image : DataStreamSupporter
 
     /// <summary>Reads a file; the format is found from the content.</summary>
     /// <param name="filePath">The path of the file.</param>
+    /// <returns>A file.</returns>
     /// <exception cref="ImageLoadException">The file is missing, damaged or of a format that has no reader.</exception>
     public static Image Load(string filePath) => Load(filePath, new LoadOptions());
 
     /// <summary>Reads a stream from its position to its end.</summary>
-    /// <param name="stream">The stream.</param>
+    /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/> until
+    /// it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
     /// <param name="loadOptions">How to read it.</param>
+    /// <returns>A stream from its position to its end.</returns>
     /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
-    public static Image Load(Stream stream, LoadOptions loadOptions)
+    public static Image Load([PythonKept] Stream stream, LoadOptions loadOptions)
     {
         return ImageLoader.Load(stream, null, loadOptions);
     }
 
     /// <summary>Reads a stream from its position to its end.</summary>
-    /// <param name="stream">The stream.</param>
+    /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/> until
+    /// it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
     /// <param name="fileName">The name that stands in messages, and whose folder is searched for files that the
     /// drawing refers to.</param>
     /// <param name="loadOptions">How to read it.</param>
+    /// <returns>A stream from its position to its end.</returns>
     /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
-    public static Image Load(Stream stream, string fileName, LoadOptions loadOptions)
+    public static Image Load([PythonKept] Stream stream, string fileName, LoadOptions loadOptions)
     {
         return ImageLoader.Load(stream, fileName, loadOptions);
     }
 
     /// <summary>Reads a stream from its position to its end.</summary>
-    /// <param name="stream">The stream.</param>
+    /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/> until
+    /// it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
+    /// <returns>A stream from its position to its end.</returns>
     /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
-    public static Image Load(Stream stream) => Load(stream, new LoadOptions());
+    public static Image Load([PythonKept] Stream stream) => Load(stream, new LoadOptions());
 
     /// <summary>Tells from the first bytes whether a file is of a format that can be read.</summary>
     /// <param name="filePath">The path of the file. A file that is missing cannot be read.</param>
+    /// <returns>Whether there is a reader for it.</returns>
     public static bool CanLoad(string filePath) => ImageLoader.CanLoad(filePath);
 
     /// <summary>Tells from the first bytes whether a file is of a format that can be read.</summary>
     /// <param name="filePath">The path of the file. A file that is missing cannot be read.</param>
     /// <param name="loadOptions">How it would be read.</param>
+    /// <returns>Whether there is a reader for it.</returns>
     public static bool CanLoad(string filePath, LoadOptions loadOptions)
     {
-        ArgumentNullException.ThrowIfNull(loadOptions);
+        Verify.NotNull(loadOptions);
         return ImageLoader.CanLoad(filePath);
     }
 
     /// <summary>Tells from the next bytes whether a stream is of a format that can be read. The position of a
     /// stream that can seek is kept.</summary>
     /// <param name="stream">The stream.</param>
+    /// <returns>Whether there is a reader for it.</returns>
     public static bool CanLoad(Stream stream) => ImageLoader.CanLoad(stream);
 
     /// <summary>Tells from the next bytes whether a stream is of a format that can be read. The position of a
     /// stream that can seek is kept.</summary>
     /// <param name="stream">The stream.</param>
     /// <param name="loadOptions">How it would be read.</param>
+    /// <returns>Whether there is a reader for it.</returns>
     public static bool CanLoad(Stream stream, LoadOptions loadOptions)
     {
-        ArgumentNullException.ThrowIfNull(loadOptions);
+        Verify.NotNull(loadOptions);
         return ImageLoader.CanLoad(stream);
     }
 
@@ -141,18 +158,21 @@ public abstract partial class Image : DataStreamSupporter
     /// <summary>Writes the image in its own format over the file or stream that it was read from.</summary>
     /// <exception cref="ImageSaveException">It was made in memory, so that there is no such place; or writing
     /// failed.</exception>
-    public void Save()
+    public new void Save() => SaveOver();
+
+    /// <inheritdoc/>
+    internal override void SaveOver()
     {
         VerifyNotDisposed();
         if (FilePath is not null && DataStreamContainer is null)
         {
-            Save(FilePath);
+            AtomicFile.Write(FilePath, true, SaveData);
             return;
         }
 
         Stream stream = DataStreamContainer?.Stream
-            ?? throw new ImageSaveException("The drawing has no file of its own yet; use save(file_path).");
-        ImageSaver.Replace(stream, SaveData);
+            ?? throw new ImageSaveException("The image has no file of its own yet; use save(file_path).");
+        ImageSaver.Replace(stream, DataStart, SaveData);
     }
 
     /// <summary>Writes the image to a file in the format that the options stand for.</summary>
@@ -162,7 +182,7 @@ public abstract partial class Image : DataStreamSupporter
     public void Save(string filePath, ImageOptionsBase options)
     {
         VerifyNotDisposed();
-        ArgumentNullException.ThrowIfNull(options);
+        Verify.NotNull(options);
         VerifyCanSave(options);
         AtomicFile.Write(filePath, true, stream => ExportTimed(options, stream));
     }
@@ -174,22 +194,41 @@ public abstract partial class Image : DataStreamSupporter
     public void Save(Stream stream, ImageOptionsBase optionsBase)
     {
         VerifyNotDisposed();
-        ArgumentNullException.ThrowIfNull(stream);
-        ArgumentNullException.ThrowIfNull(optionsBase);
+        Verify.NotNull(stream);
+        Verify.NotNull(optionsBase);
         VerifyCanSave(optionsBase);
-        ExportTimed(optionsBase, stream);
+        ImageSaver.WriteTo(stream, output => ExportTimed(optionsBase, output));
     }
 
     /// <summary>Tells whether the image can be written in the format that the options stand for.</summary>
     /// <param name="options">The options.</param>
+    /// <returns>Whether the image can be written in the format that the options stand for.</returns>
     public bool CanSave(ImageOptionsBase options)
     {
-        ArgumentNullException.ThrowIfNull(options);
+        Verify.NotNull(options);
         return SupportsExport(options);
     }
 
     /// <summary>Gives the texts of the content, in drawing order and without formatting codes.</summary>
+    /// <returns>The texts of the content, in drawing order and without formatting codes.</returns>
     public virtual string[] GetStrings() => [];
+
+    /// <summary>Gives what the image is and where it came from in one line.</summary>
+    /// <returns>What the image is and where it came from in one line.</returns>
+    public override string ToString()
+    {
+        string name = GetType().Name;
+        if (Disposed)
+        {
+            return $"{name}, disposed";
+        }
+
+        string from = FilePath is not null ? $" from '{FilePath}'" : DataStreamContainer is not null ? " from a stream" : "";
+        return $"{name} of {Content}{from}";
+    }
+
+    /// <summary>Gets in a few words what the image holds.</summary>
+    internal abstract string Content { get; }
 
     internal abstract bool SupportsExport(ImageOptionsBase options);
 
@@ -197,6 +236,25 @@ public abstract partial class Image : DataStreamSupporter
     internal abstract IEnumerable<Type> ExportOptionTypes { get; }
 
     internal abstract void Export(ImageOptionsBase options, Stream stream);
+
+    /// <summary>Gets the format that is written without options.</summary>
+    internal abstract FileFormat OwnFormat { get; }
+
+    /// <inheritdoc/>
+    internal override Action<Stream> OwnWriter(string filePath)
+    {
+        FileFormatInfo[] meant = Path.GetExtension(filePath) is { Length: > 1 } ending ? FileFormatInfo.FindByExtension(ending) : [];
+        if (meant.Length == 0 || Array.Exists(meant, info => info.Format == OwnFormat))
+        {
+            return SaveData;
+        }
+
+        string[] classes = [.. ExportOptionTypes
+            .Where(type => Array.Exists(meant, info => info.Format == ImageSaver.FormatOf(type))).Select(static type => type.Name)];
+        throw new ImageSaveException($"'{filePath}' has the ending of {meant[0].Name}, but without options the image is written as "
+            + $"{FileFormatInfo.Get(OwnFormat).Name}; "
+            + (classes.Length > 0 ? $"pass {string.Join(" or ", classes)}." : "it cannot be written in that format."));
+    }
 
     /// <summary>Exports, and tells in the options what became of it; an exporter that leaves nothing out need not say so.</summary>
     private void ExportTimed(ImageOptionsBase options, Stream stream)
@@ -223,7 +281,7 @@ public abstract partial class Image : DataStreamSupporter
         {
             string[] names = [.. ExportOptionTypes.Select(static type => type.Name).Order(StringComparer.Ordinal)];
             throw new ImageSaveException(
-                $"{GetType().Name} cannot be saved with {options.GetType().Name}: it is not written as {options.TargetFormat}; "
+                $"{GetType().Name} cannot be saved with {options.GetType().Name}: it is not written as {Verify.NameOf(options.TargetFormat)}; "
                 + $"pass {string.Join(", ", names)}.");
         }
     }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -25,7 +26,7 @@ public class ImageResizeSettings
         {
             if (value is not (0 or (>= 2 and <= 256)))
             {
-                throw new ArgumentOutOfRangeException(nameof(value), value, "The number of colours is 0, or 2 to 256.");
+                throw Verify.OutOfRange(nameof(value), value, "The number of colours is 0, or 2 to 256.");
             }
 
             _entriesCount = value;

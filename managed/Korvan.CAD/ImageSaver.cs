@@ -1,28 +1,53 @@
 using System;
 using System.IO;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD;
 
 /// <summary>Writing of output that is whole in memory.</summary>
 internal static class ImageSaver
 {
-    // The new content is complete before the first old byte is touched.
-    internal static void Replace(Stream stream, Action<Stream> write)
+    /// <summary>Writes over the rest of a stream; the new content is complete before the first old byte is touched.</summary>
+    internal static void Replace(Stream stream, long start, Action<Stream> write)
     {
         if (!stream.CanSeek || !stream.CanWrite)
         {
-            throw new ImageSaveException("The stream that the drawing was read from cannot be written; "
+            throw new ImageSaveException("The stream that the image was read from is closed, or cannot be written or cannot seek; "
                 + "use save(file_path) or save(stream).");
         }
 
         using MemoryStream content = new();
         write(content);
-        stream.Position = 0;
-        content.WriteTo(stream);
-        stream.SetLength(content.Length);
-        stream.Flush();
+        WriteTo(stream, target =>
+        {
+            target.Position = start;
+            content.WriteTo(target);
+            target.SetLength(start + content.Length);
+            target.Flush();
+        });
     }
+
+    /// <summary>Writes to a stream that a program gave.</summary>
+    internal static void WriteTo(Stream stream, Action<Stream> write)
+    {
+        if (!stream.CanWrite)
+        {
+            throw new ImageSaveException("The stream cannot be written: it is closed or was not opened for writing.");
+        }
+
+        try
+        {
+            write(stream);
+        }
+        catch (Exception e) when (e is IOException or UnauthorizedAccessException)
+        {
+            throw new ImageSaveException($"The stream could not be written: {e.Message}");
+        }
+    }
+
+    /// <summary>Gives the format that options of a class write.</summary>
+    internal static FileFormat FormatOf(Type options) => ((ImageOptionsBase)Activator.CreateInstance(options)!).TargetFormat;
 
     /// <summary>Writes finished output to both places; the second is open before the first byte is written.</summary>
     internal static void WriteTwice(MemoryStream output, Stream first, Source second)
@@ -42,7 +67,7 @@ internal static class ImageSaver
         }
         catch (Exception e) when (e is IOException or UnauthorizedAccessException)
         {
-            throw new ImageSaveException($"The output could not be written to the source of the options: {e.Message}", e);
+            throw new ImageSaveException($"The output could not be written to the source of the options: {e.Message}");
         }
     }
 }

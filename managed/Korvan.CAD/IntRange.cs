@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -20,7 +21,7 @@ public class IntRange : IEquatable<IntRange>
     {
         if (end < begin)
         {
-            throw new ArgumentOutOfRangeException(nameof(end), end, $"A range that begins with {begin} cannot end with {end}.");
+            throw Verify.OutOfRange(nameof(end), end, $"A range that begins with {begin} cannot end with {end}.");
         }
 
         Begin = begin;
@@ -38,19 +39,22 @@ public class IntRange : IEquatable<IntRange>
 
     /// <summary>Tells whether a number lies in the range.</summary>
     /// <param name="value">The number.</param>
+    /// <returns>Whether a number lies in the range.</returns>
     public bool Contains(int value) => value >= Begin && value <= End;
 
     /// <summary>Gives the part that another range shares; nothing when they have no number in common.</summary>
     /// <param name="other">The other range.</param>
+    /// <returns>The part that another range shares.</returns>
     public IntRange? Intersect(IntRange other)
     {
-        ArgumentNullException.ThrowIfNull(other);
+        Verify.NotNull(other);
         int begin = Math.Max(Begin, other.Begin);
         int end = Math.Min(End, other.End);
         return begin <= end ? new IntRange(begin, end) : null;
     }
 
     /// <summary>Gives all numbers, in order.</summary>
+    /// <returns>All numbers, in order.</returns>
     /// <exception cref="InvalidOperationException">There are more than 16 million.</exception>
     public int[] ToArray()
     {
@@ -71,6 +75,7 @@ public class IntRange : IEquatable<IntRange>
 
     /// <summary>Tells whether another range has the same numbers.</summary>
     /// <param name="other">The other range.</param>
+    /// <returns>Whether another range has the same numbers.</returns>
     public bool Equals(IntRange? other) => other is not null && Begin == other.Begin && End == other.End;
 
     /// <inheritdoc/>

@@ -6,6 +6,9 @@ namespace Korvan.CAD;
 [PythonEnum(EnumKind.Integer)]
 public enum InterpolationMode
 {
+    /// <summary>No mode at all.</summary>
+    Invalid = -1,
+
     /// <summary>As the device does by itself.</summary>
     Default = 0,
 

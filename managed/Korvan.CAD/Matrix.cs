@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Rendering.Geometry;
 
@@ -34,7 +35,7 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
     /// <exception cref="DataMissmatchError">There are not three points, or the rectangle has no area.</exception>
     public Matrix(RectangleF rect, PointF[] points)
     {
-        ArgumentNullException.ThrowIfNull(points);
+        Verify.NotNull(points);
         if (points.Length != 3)
         {
             throw new DataMissmatchError($"A parallelogram is given by three corners, not by {points.Length}.");
@@ -85,12 +86,14 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
     public float Determinant => (float)_map.Determinant;
 
     /// <summary>Gives the six numbers: m11, m12, m21, m22, dx, dy.</summary>
+    /// <returns>The six numbers.</returns>
     public float[] GetElements()
     {
         return [(float)_map.Xx, (float)_map.Yx, (float)_map.Xy, (float)_map.Yy, (float)_map.X0, (float)_map.Y0];
     }
 
     /// <summary>Gives a matrix of the same numbers.</summary>
+    /// <returns>A matrix of the same numbers.</returns>
     public Matrix Clone() => new(_map);
 
     /// <summary>Makes this the map that leaves everything where it is.</summary>
@@ -113,7 +116,7 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
     /// <param name="order">Whether it is done before or after this one.</param>
     public void Multiply(Matrix matrix, MatrixOrder order)
     {
-        ArgumentNullException.ThrowIfNull(matrix);
+        Verify.NotNull(matrix);
         Add(matrix._map, order);
     }
 
@@ -186,10 +189,12 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
 
     /// <summary>Gives where points go.</summary>
     /// <param name="points">The points.</param>
+    /// <returns>Where points go.</returns>
     public PointF[] TransformPoints(PointF[] points) => Array.ConvertAll(points, p => Moved(p.X, p.Y, 1));
 
     /// <summary>Gives where points go, rounded to whole numbers.</summary>
     /// <param name="points">The points.</param>
+    /// <returns>Where points go, rounded to whole numbers.</returns>
     public Point[] TransformPoints(Point[] points) => Array.ConvertAll(points, p =>
     {
         PointF moved = Moved(p.X, p.Y, 1);
@@ -198,10 +203,12 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
 
     /// <summary>Gives what becomes of directions: the map without its move.</summary>
     /// <param name="vectors">The directions.</param>
+    /// <returns>What becomes of directions.</returns>
     public PointF[] TransformVectors(PointF[] vectors) => Array.ConvertAll(vectors, p => Moved(p.X, p.Y, 0));
 
     /// <summary>Tells whether another map has the same numbers.</summary>
     /// <param name="other">The other map.</param>
+    /// <returns>Whether another map has the same numbers.</returns>
     public bool Equals(Matrix? other) => other is not null && _map == other._map;
 
     /// <inheritdoc/>
@@ -219,7 +226,7 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
 
     private static PointF[] ToFloat(Point[] points)
     {
-        ArgumentNullException.ThrowIfNull(points);
+        Verify.NotNull(points);
         return Array.ConvertAll(points, p => new PointF(p.X, p.Y));
     }
 

@@ -1,6 +1,7 @@
 using System;
 using System.Globalization;
 using System.Text;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD;
@@ -28,7 +29,7 @@ public class MifCodePageDecoder
     {
         if (!Enum.IsDefined(codePage))
         {
-            throw new ArgumentOutOfRangeException(nameof(codePage), codePage, "The code pages are 1 to 5.");
+            throw Verify.OutOfRange(nameof(codePage), codePage, "The code pages are 1 to 5.");
         }
 
         CodePage = codePage;
@@ -39,9 +40,10 @@ public class MifCodePageDecoder
 
     /// <summary>Tells whether a text may hold sequences.</summary>
     /// <param name="text">The text.</param>
+    /// <returns>Whether a text may hold sequences.</returns>
     public static bool HasSequences(string text)
     {
-        ArgumentNullException.ThrowIfNull(text);
+        Verify.NotNull(text);
         return text.Contains("\\M+", StringComparison.Ordinal);
     }
 
@@ -49,7 +51,7 @@ public class MifCodePageDecoder
     /// <param name="text">The text.</param>
     public string Decode(string text)
     {
-        ArgumentNullException.ThrowIfNull(text);
+        Verify.NotNull(text);
         StringBuilder result = new(text.Length);
         int done = 0;
         for (int next = text.IndexOf("\\M+", StringComparison.Ordinal); next >= 0;

@@ -69,7 +69,17 @@ public class NonGenericDictionary : IDictionary
 
     /// <summary>Tells whether there is an object of a key.</summary>
     /// <param name="key">The key.</param>
+    /// <returns>Whether there is an object of a key.</returns>
     public bool ContainsKey(object key) => _entries.Contains(key);
+
+    /// <summary>Adds an object under a key that no other has.</summary>
+    /// <param name="key">The key.</param>
+    /// <param name="value">The object.</param>
+    public void Add(object key, object? value) => _entries.Add(key, value);
+
+    /// <summary>Takes out the object of a key, if there is one.</summary>
+    /// <param name="key">The key.</param>
+    public void Remove(object key) => _entries.Remove(key);
 
     /// <summary>Puts an object under a key, in place of the one that is there.</summary>
     /// <param name="key">The key.</param>

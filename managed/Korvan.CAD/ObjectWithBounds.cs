@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.Primitives;
 
 namespace Korvan.CAD;
@@ -30,9 +31,10 @@ public abstract class ObjectWithBounds : IObjectWithBounds
 
     /// <summary>Tells whether a point lies in the room or on its sides.</summary>
     /// <param name="point">The point.</param>
+    /// <returns>Whether a point lies in the room or on its sides.</returns>
     public bool ContainsPoint(Point3D point)
     {
-        ArgumentNullException.ThrowIfNull(point);
+        Verify.NotNull(point);
         (Point3D min, Point3D max) = (MinPoint, MaxPoint);
         return point.X >= min.X && point.X <= max.X && point.Y >= min.Y && point.Y <= max.Y
             && point.Z >= min.Z && point.Z <= max.Z;
@@ -40,9 +42,10 @@ public abstract class ObjectWithBounds : IObjectWithBounds
 
     /// <summary>Tells whether the room touches that of something else.</summary>
     /// <param name="other">The other thing.</param>
+    /// <returns>Whether the room touches that of something else.</returns>
     public bool BoundsIntersect(IObjectWithBounds other)
     {
-        ArgumentNullException.ThrowIfNull(other);
+        Verify.NotNull(other);
         (Point3D min, Point3D max) = (MinPoint, MaxPoint);
         (Point3D from, Point3D to) = (other.MinPoint, other.MaxPoint);
         return from.X <= max.X && to.X >= min.X && from.Y <= max.Y && to.Y >= min.Y && from.Z <= max.Z && to.Z >= min.Z;

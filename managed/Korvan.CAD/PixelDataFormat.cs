@@ -81,6 +81,7 @@ public sealed class PixelDataFormat : IEquatable<PixelDataFormat>
 
     /// <summary>Gives what turns rows of this form into colours, and back.</summary>
     /// <param name="palette">The colours that pixels are numbers of; nothing for forms without a palette.</param>
+    /// <returns>What turns rows of this form into colours, and back.</returns>
     /// <exception cref="FrameworkException">The form needs a palette, or its palette is too large.</exception>
     public IColorConverter CreateConverter(IColorPalette? palette) => ColorConverters.Create(this, palette);
 

@@ -17,10 +17,10 @@ public struct Point : IEquatable<Point>
     /// <summary>Gets the value whose parts are zero.</summary>
     public static Point Empty => default;
 
-    /// <summary>Gets or sets: the abscissa.</summary>
+    /// <summary>Gets or sets the abscissa.</summary>
     public int X { get; set; }
 
-    /// <summary>Gets or sets: the ordinate.</summary>
+    /// <summary>Gets or sets the ordinate.</summary>
     public int Y { get; set; }
 
     /// <summary>Gets whether both parts are zero.</summary>
@@ -32,8 +32,15 @@ public struct Point : IEquatable<Point>
     /// <summary>Compares two values part by part.</summary>
     public static bool operator !=(Point left, Point right) => !left.Equals(right);
 
+    /// <summary>Gives the same point with coordinates that can have fractions.</summary>
+    public static explicit operator PointF(Point value) => new(value.X, value.Y);
+
+    /// <summary>Gives the coordinates as a width and a height.</summary>
+    public static explicit operator Size(Point value) => new(value);
+
     /// <summary>Tells whether both parts are the same.</summary>
     /// <param name="other">The value to compare with.</param>
+    /// <returns>Whether both parts are the same.</returns>
     public readonly bool Equals(Point other) => X == other.X && Y == other.Y;
 
     /// <inheritdoc/>

@@ -17,10 +17,10 @@ public struct PointF : IEquatable<PointF>
     /// <summary>Gets the value whose parts are zero.</summary>
     public static PointF Empty => default;
 
-    /// <summary>Gets or sets: the abscissa.</summary>
+    /// <summary>Gets or sets the abscissa.</summary>
     public float X { get; set; }
 
-    /// <summary>Gets or sets: the ordinate.</summary>
+    /// <summary>Gets or sets the ordinate.</summary>
     public float Y { get; set; }
 
     /// <summary>Gets whether both parts are zero.</summary>
@@ -34,6 +34,7 @@ public struct PointF : IEquatable<PointF>
 
     /// <summary>Tells whether both parts are the same.</summary>
     /// <param name="other">The value to compare with.</param>
+    /// <returns>Whether both parts are the same.</returns>
     public readonly bool Equals(PointF other) => X == other.X && Y == other.Y;
 
     /// <inheritdoc/>

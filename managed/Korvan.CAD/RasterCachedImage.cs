@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.Binding;
 using Korvan.CAD.Raster;
 
 namespace Korvan.CAD;
@@ -59,7 +60,7 @@ public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader
     {
         if ((uint)index >= (uint)PageCount)
         {
-            throw new ArgumentOutOfRangeException(nameof(index), index, $"The image has {PageCount} pages, from 0 on.");
+            throw Verify.OutOfRange(nameof(index), index, $"The image has {PageCount} pages, from 0 on.");
         }
 
         return _pages.Count == 0 ? this : _pages[index];
@@ -86,7 +87,7 @@ public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader
         VerifyNotDisposed();
         if (!Enum.IsDefined(ditheringMethod))
         {
-            throw new ArgumentOutOfRangeException(nameof(ditheringMethod), ditheringMethod, "There is no such pattern.");
+            throw Verify.OutOfRange(nameof(ditheringMethod), ditheringMethod, "There is no such pattern.");
         }
 
         int[] palette = Raster.Colors.DitherPalette.For(_pixels, bitsCount, customPalette);

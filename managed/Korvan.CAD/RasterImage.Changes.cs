@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Raster.Operations;
 
@@ -42,7 +43,7 @@ public abstract partial class RasterImage
     public void Resize(int newWidth, int newHeight, ImageResizeSettings settings)
     {
         VerifyNotDisposed();
-        ArgumentNullException.ThrowIfNull(settings);
+        Verify.NotNull(settings);
         Replace(Resampler.Resize(Pixels, newWidth, newHeight, settings.Mode, settings.BackgroundColor.ToArgb()));
         if (settings.EntriesCount > 0)
         {
@@ -89,7 +90,7 @@ public abstract partial class RasterImage
         VerifyNotDisposed();
         if (!float.IsFinite(angle))
         {
-            throw new ArgumentOutOfRangeException(nameof(angle), angle, "An angle is a finite number.");
+            throw Verify.OutOfRange(nameof(angle), angle, "An angle is a finite number.");
         }
 
         Replace(Turns.Rotate(Pixels, angle, resizeProportionally, backgroundColor.ToArgb()));
@@ -153,7 +154,7 @@ public abstract partial class RasterImage
         {
             if (!float.IsFinite(gamma) || gamma <= 0)
             {
-                throw new ArgumentOutOfRangeException(nameof(gammaRed), gamma, "A gamma is a finite number above 0.");
+                throw Verify.OutOfRange("gamma", gamma, "A gamma is a finite number above 0.");
             }
         }
 
@@ -165,7 +166,7 @@ public abstract partial class RasterImage
     public void AdjustBrightness(int brightness)
     {
         VerifyNotDisposed();
-        Verify(brightness, -255, 255, nameof(brightness));
+        Verify.InRange(brightness, -255, 255);
         Tones.Brightness(Pixels, brightness);
     }
 
@@ -174,7 +175,7 @@ public abstract partial class RasterImage
     public void AdjustContrast(float contrast)
     {
         VerifyNotDisposed();
-        Verify(contrast, -100, 100, nameof(contrast));
+        Verify.InRange(contrast, -100, 100);
         Tones.Contrast(Pixels, contrast);
     }
 
@@ -185,15 +186,15 @@ public abstract partial class RasterImage
     public void ApplyColorMatrix(float[] matrix, ColorMatrixFlag flag)
     {
         VerifyNotDisposed();
-        ArgumentNullException.ThrowIfNull(matrix);
+        Verify.NotNull(matrix);
         if (matrix.Length != 25 || !Array.TrueForAll(matrix, float.IsFinite))
         {
-            throw new ArgumentException($"A colour matrix has 25 finite numbers; {matrix.Length} were given.", nameof(matrix));
+            throw new ArgumentException($"A colour matrix has 25 finite numbers; {matrix.Length} were given.");
         }
 
         if (!Enum.IsDefined(flag))
         {
-            throw new ArgumentOutOfRangeException(nameof(flag), flag, "There is no such choice of colours.");
+            throw Verify.OutOfRange(nameof(flag), flag, "There is no such choice of colours.");
         }
 
         Tones.Matrix(Pixels, matrix, flag);
@@ -206,10 +207,10 @@ public abstract partial class RasterImage
     public void Filter(ImageFilterType filterType, int size)
     {
         VerifyNotDisposed();
-        Verify(size, 3, LargestFilter, nameof(size));
+        Verify.InRange(size, 3, LargestFilter);
         if (size % 2 == 0)
         {
-            throw new ArgumentOutOfRangeException(nameof(size), size, "The side of a filter is an odd number of pixels.");
+            throw Verify.OutOfRange(nameof(size), size, "The side of a filter is an odd number of pixels.");
         }
 
         Replace(Filters.Apply(Pixels, filterType, size));
@@ -217,12 +218,4 @@ public abstract partial class RasterImage
 
     /// <summary>Takes other pixels in the place of these.</summary>
     internal abstract void Replace(PixelGrid pixels);
-
-    private static void Verify(double value, double low, double high, string name)
-    {
-        if (!(value >= low && value <= high))
-        {
-            throw new ArgumentOutOfRangeException(name, value, $"The number is to be {low} to {high}.");
-        }
-    }
 }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.Raster;
 
 namespace Korvan.CAD;
@@ -11,6 +12,7 @@ public abstract partial class RasterImage
     /// <summary>Gives the colour of a pixel.</summary>
     /// <param name="x">Its column, from 0 at the left.</param>
     /// <param name="y">Its row, from 0 at the top.</param>
+    /// <returns>The colour of a pixel.</returns>
     public Color GetPixel(int x, int y) => Color.FromArgb(GetArgb32Pixel(x, y));
 
     /// <summary>Sets the colour of a pixel.</summary>
@@ -22,6 +24,7 @@ public abstract partial class RasterImage
     /// <summary>Gives a pixel as a number: opacity, red, green, blue from the highest byte on.</summary>
     /// <param name="x">Its column, from 0 at the left.</param>
     /// <param name="y">Its row, from 0 at the top.</param>
+    /// <returns>A pixel as a number.</returns>
     public int GetArgb32Pixel(int x, int y)
     {
         VerifyInside(new Rectangle(x, y, 1, 1));
@@ -40,6 +43,7 @@ public abstract partial class RasterImage
 
     /// <summary>Gives a block of pixels as 32-bit numbers, row by row.</summary>
     /// <param name="rectangle">The block.</param>
+    /// <returns>A block of pixels as 32-bit numbers, row by row.</returns>
     public int[] LoadArgb32Pixels(Rectangle rectangle)
     {
         VerifyInside(rectangle);
@@ -57,7 +61,7 @@ public abstract partial class RasterImage
     /// <param name="pixels">Its pixels as 32-bit numbers, row by row.</param>
     public void SaveArgb32Pixels(Rectangle rectangle, int[] pixels)
     {
-        ArgumentNullException.ThrowIfNull(pixels);
+        Verify.NotNull(pixels);
         VerifyInside(rectangle);
         VerifyCount(rectangle, pixels.Length);
         for (int y = 0; y < rectangle.Height; y++)
@@ -68,6 +72,7 @@ public abstract partial class RasterImage
 
     /// <summary>Gives a block of pixels as colours, row by row.</summary>
     /// <param name="rectangle">The block.</param>
+    /// <returns>A block of pixels as colours, row by row.</returns>
     public Color[] LoadPixels(Rectangle rectangle) => Array.ConvertAll(LoadArgb32Pixels(rectangle), Color.FromArgb);
 
     /// <summary>Sets a block of pixels.</summary>
@@ -75,16 +80,17 @@ public abstract partial class RasterImage
     /// <param name="pixels">Its colours, row by row.</param>
     public void SavePixels(Rectangle rectangle, Color[] pixels)
     {
-        ArgumentNullException.ThrowIfNull(pixels);
+        Verify.NotNull(pixels);
         SaveArgb32Pixels(rectangle, Array.ConvertAll(pixels, static color => color.ToArgb()));
     }
 
     /// <summary>Gives a block of pixels as bytes, row by row, in the form that the settings state.</summary>
     /// <param name="rectangle">The block.</param>
     /// <param name="settings">The form: channels, bits, and bytes of a row.</param>
+    /// <returns>A block of pixels as bytes, row by row, in the form that the settings state.</returns>
     public byte[] LoadRawData(Rectangle rectangle, RawDataSettings settings)
     {
-        ArgumentNullException.ThrowIfNull(settings);
+        Verify.NotNull(settings);
         VerifyInside(rectangle);
         return RawData.Pack(Pixels, rectangle, settings);
     }
@@ -95,8 +101,8 @@ public abstract partial class RasterImage
     /// <param name="settings">The form: channels, bits, and bytes of a row.</param>
     public void SaveRawData(byte[] data, Rectangle rectangle, RawDataSettings settings)
     {
-        ArgumentNullException.ThrowIfNull(data);
-        ArgumentNullException.ThrowIfNull(settings);
+        Verify.NotNull(data);
+        Verify.NotNull(settings);
         VerifyInside(rectangle);
         RawData.Unpack(data, Pixels, rectangle, settings);
     }
@@ -106,7 +112,7 @@ public abstract partial class RasterImage
     /// <param name="partialPixelLoader">What takes the bands, for example another image.</param>
     public void LoadPartialArgb32Pixels(Rectangle rectangle, IPartialArgb32PixelLoader partialPixelLoader)
     {
-        ArgumentNullException.ThrowIfNull(partialPixelLoader);
+        Verify.NotNull(partialPixelLoader);
         InBands(rectangle, band => partialPixelLoader.Process(band, LoadArgb32Pixels(band)));
     }
 
@@ -115,7 +121,7 @@ public abstract partial class RasterImage
     /// <param name="partialPixelLoader">What takes the bands, for example another image.</param>
     public void LoadPartialPixels(Rectangle rectangle, IPartialPixelLoader partialPixelLoader)
     {
-        ArgumentNullException.ThrowIfNull(partialPixelLoader);
+        Verify.NotNull(partialPixelLoader);
         InBands(rectangle, band => partialPixelLoader.ProcessColors(band, LoadPixels(band)));
     }
 
@@ -125,7 +131,7 @@ public abstract partial class RasterImage
     /// <param name="partialRawDataLoader">What takes the bands, for example another image.</param>
     public void LoadPartialRawData(Rectangle rectangle, RawDataSettings settings, IPartialRawDataLoader partialRawDataLoader)
     {
-        ArgumentNullException.ThrowIfNull(partialRawDataLoader);
+        Verify.NotNull(partialRawDataLoader);
         InBands(rectangle, band => partialRawDataLoader.ProcessRawData(band, LoadRawData(band, settings), settings));
     }
 
@@ -133,7 +139,7 @@ public abstract partial class RasterImage
     /// <param name="processor">What changes them, for example a <see cref="TransparencySupporter"/>.</param>
     public void ApplyProcessor(IBufferProcessor processor)
     {
-        ArgumentNullException.ThrowIfNull(processor);
+        Verify.NotNull(processor);
         var settings = new RawDataSettings(PixelDataFormat.Rgb32Bpp, Width);
         InBands(Bounds, band =>
         {
@@ -151,7 +157,7 @@ public abstract partial class RasterImage
             || area.Width > pixels.Width - area.X || area.Height > pixels.Height - area.Y)
         {
             throw new ArgumentOutOfRangeException(
-                nameof(area), $"{area} does not lie in a picture of {pixels.Width} × {pixels.Height} pixels.");
+                null, $"{area} does not lie in a picture of {pixels.Width} × {pixels.Height} pixels.");
         }
     }
 

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Exif;
 using Korvan.CAD.ImageOptions;
@@ -63,6 +64,7 @@ public abstract partial class RasterImage
 
     /// <summary>Gives a page or frame. It belongs to this image and lives as long.</summary>
     /// <param name="index">Its number, from 0.</param>
+    /// <returns>A page or frame.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such page.</exception>
     public abstract RasterImage GetPage(int index);
 
@@ -85,20 +87,19 @@ public abstract partial class RasterImage
     internal override void Export(ImageOptionsBase options, Stream stream)
     {
         options.VerifyHonoured(OutputKind.Picture);
-        try
-        {
-            RasterSaver.Write(new Frames(this, options, RasterSaver.HoldsPages(options)), options, stream);
-        }
-        catch (IOException e)
-        {
-            throw new ImageSaveException(e.Message, e);
-        }
+        RasterSaver.Write(new Frames(this, options, RasterSaver.HoldsPages(options)), options, stream);
     }
+
+    /// <inheritdoc/>
+    internal override string Content => $"{Width} × {Height} pixels";
+
+    /// <inheritdoc/>
+    internal override FileFormat OwnFormat => FileFormat;
 
     /// <inheritdoc/>
     internal override void SaveData(Stream stream)
     {
-        Export(OwnOptions.Of(FileFormat) ?? throw new ImageSaveException($"{FileFormat} is not written; pass options."), stream);
+        Export(OwnOptions.Of(FileFormat) ?? throw new ImageSaveException($"{Verify.NameOf(FileFormat)} is not written; pass options."), stream);
     }
 
     /// <summary>Copies of the pages; a single picture where the format has no pages.</summary>

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -10,8 +11,8 @@ public class RawDataSettings
     /// <param name="width">How many pixels a row has.</param>
     public RawDataSettings(PixelDataFormat pixelDataFormat, int width)
     {
-        ArgumentNullException.ThrowIfNull(pixelDataFormat);
-        ArgumentOutOfRangeException.ThrowIfLessThan(width, 1);
+        Verify.NotNull(pixelDataFormat);
+        Verify.NotBelow(width, 1);
         PixelDataFormat = pixelDataFormat;
         LineSize = pixelDataFormat.RowBytes(width);
     }
@@ -26,5 +27,6 @@ public class RawDataSettings
     public IColorPalette? ColorPalette { get; set; }
 
     /// <summary>Gives what turns single rows into colours, and back.</summary>
+    /// <returns>What turns single rows into colours, and back.</returns>
     public IColorConverter CreateColorConverter() => PixelDataFormat.CreateConverter(ColorPalette);
 }

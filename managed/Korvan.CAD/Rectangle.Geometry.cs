@@ -10,6 +10,7 @@ public partial struct Rectangle
     /// <param name="top">The upper side.</param>
     /// <param name="right">The right side.</param>
     /// <param name="bottom">The lower side.</param>
+    /// <returns>A rectangle from its four sides.</returns>
     public static Rectangle FromLeftTopRightBottom(int left, int top, int right, int bottom)
     {
         return new Rectangle(left, top, right - left, bottom - top);
@@ -19,6 +20,7 @@ public partial struct Rectangle
     /// <param name="rect">The rectangle to start from; it stays as it is.</param>
     /// <param name="x">How far the left and the right side are moved out; below 0 they are moved in.</param>
     /// <param name="y">How far the upper and the lower side are moved out.</param>
+    /// <returns>A rectangle that is larger on all sides.</returns>
     public static Rectangle Inflate(Rectangle rect, int x, int y)
     {
         rect.Inflate(x, y);
@@ -28,6 +30,7 @@ public partial struct Rectangle
     /// <summary>Gives the part that two rectangles share; <see cref="Empty"/> when they do not meet.</summary>
     /// <param name="a">One rectangle.</param>
     /// <param name="b">The other.</param>
+    /// <returns>The part that two rectangles share.</returns>
     public static Rectangle Intersect(Rectangle a, Rectangle b)
     {
         a.Intersect(b);
@@ -37,6 +40,7 @@ public partial struct Rectangle
     /// <summary>Gives the smallest rectangle that holds two others.</summary>
     /// <param name="a">One rectangle.</param>
     /// <param name="b">The other.</param>
+    /// <returns>The smallest rectangle that holds two others.</returns>
     public static Rectangle Union(Rectangle a, Rectangle b)
     {
         return FromLeftTopRightBottom(
@@ -88,6 +92,7 @@ public partial struct Rectangle
     /// <summary>Tells whether a point lies inside; the left and the upper side belong to the rectangle, the right and
     /// the lower do not.</summary>
     /// <param name="point">The point.</param>
+    /// <returns>Whether a point lies inside.</returns>
     public readonly bool Contains(Point point)
     {
         return point.X >= Left && point.X < Right && point.Y >= Top && point.Y < Bottom;
@@ -95,6 +100,7 @@ public partial struct Rectangle
 
     /// <summary>Tells whether another rectangle lies wholly inside.</summary>
     /// <param name="rect">The other rectangle.</param>
+    /// <returns>Whether another rectangle lies wholly inside.</returns>
     public readonly bool Contains(Rectangle rect)
     {
         return rect.Left >= Left && rect.Right <= Right && rect.Top >= Top && rect.Bottom <= Bottom;
@@ -102,6 +108,7 @@ public partial struct Rectangle
 
     /// <summary>Tells whether there is a place that lies in both rectangles.</summary>
     /// <param name="rect">The other rectangle.</param>
+    /// <returns>Whether there is a place that lies in both rectangles.</returns>
     public readonly bool IntersectsWith(Rectangle rect)
     {
         return rect.Left < Right && Left < rect.Right && rect.Top < Bottom && Top < rect.Bottom;

@@ -70,6 +70,7 @@ public partial struct Rectangle : IEquatable<Rectangle>
 
     /// <summary>Tells whether position and size are the same.</summary>
     /// <param name="other">The rectangle to compare with.</param>
+    /// <returns>Whether position and size are the same.</returns>
     public readonly bool Equals(Rectangle other)
     {
         return X == other.X && Y == other.Y && Width == other.Width && Height == other.Height;

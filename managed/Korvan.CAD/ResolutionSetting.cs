@@ -1,4 +1,6 @@
 using System;
+using System.Runtime.CompilerServices;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -36,11 +38,11 @@ public class ResolutionSetting
         set => _vertical = Verified(value);
     }
 
-    private static double Verified(double value)
+    private static double Verified(double value, [CallerMemberName] string member = "")
     {
         if (!double.IsFinite(value) || value <= 0)
         {
-            throw new ArgumentOutOfRangeException(nameof(value), value, "A resolution is a finite number above 0.");
+            throw Verify.OutOfRange(member, value, "A resolution is a finite number above 0.");
         }
 
         return value;

@@ -17,10 +17,10 @@ public struct SizeF : IEquatable<SizeF>
     /// <summary>Gets the value whose parts are zero.</summary>
     public static SizeF Empty => default;
 
-    /// <summary>Gets or sets: the width.</summary>
+    /// <summary>Gets or sets the width.</summary>
     public float Width { get; set; }
 
-    /// <summary>Gets or sets: the height.</summary>
+    /// <summary>Gets or sets the height.</summary>
     public float Height { get; set; }
 
     /// <summary>Gets whether both parts are zero.</summary>
@@ -32,8 +32,12 @@ public struct SizeF : IEquatable<SizeF>
     /// <summary>Compares two values part by part.</summary>
     public static bool operator !=(SizeF left, SizeF right) => !left.Equals(right);
 
+    /// <summary>Gives the sides as coordinates.</summary>
+    public static explicit operator PointF(SizeF value) => new(value.Width, value.Height);
+
     /// <summary>Tells whether both parts are the same.</summary>
     /// <param name="other">The value to compare with.</param>
+    /// <returns>Whether both parts are the same.</returns>
     public readonly bool Equals(SizeF other) => Width == other.Width && Height == other.Height;
 
     /// <inheritdoc/>

@@ -1,5 +1,6 @@
 using System;
 using System.IO;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -18,7 +19,7 @@ public class StreamContainer : DisposableObject
     /// <param name="disposeStream">Whether disposing the container closes the stream.</param>
     public StreamContainer(Stream stream, bool disposeStream)
     {
-        ArgumentNullException.ThrowIfNull(stream);
+        Verify.NotNull(stream);
         Stream = stream;
         IsStreamDisposedOnClose = disposeStream;
     }
@@ -48,6 +49,13 @@ public class StreamContainer : DisposableObject
         set => Stream.Position = value;
     }
 
+    /// <summary>Gives the stream in a container.</summary>
+    public static explicit operator Stream(StreamContainer container)
+    {
+        Verify.NotNull(container);
+        return container.Stream;
+    }
+
     /// <summary>Moves the place of the next read or write.</summary>
     /// <param name="offset">How far, in bytes.</param>
     /// <param name="origin">From where that is counted.</param>
@@ -58,6 +66,7 @@ public class StreamContainer : DisposableObject
     public void Flush() => Stream.Flush();
 
     /// <summary>Gives the whole content from the start; the position of a stream that can seek is kept.</summary>
+    /// <returns>The whole content from the start.</returns>
     public byte[] ToBytes()
     {
         VerifyNotDisposed();

@@ -1,5 +1,6 @@
 using System;
 using System.Buffers.Binary;
+using Korvan.CAD.Binding;
 using Korvan.CAD.Raster;
 
 namespace Korvan.CAD;
@@ -39,17 +40,16 @@ public class TransparencySupporter : IAdvancedBufferProcessor
     /// <inheritdoc/>
     public void ProcessBuffer(byte[] buffer, int processedLength)
     {
-        ArgumentNullException.ThrowIfNull(buffer);
-        ArgumentOutOfRangeException.ThrowIfNegative(processedLength);
-        ArgumentOutOfRangeException.ThrowIfGreaterThan(processedLength, buffer.Length);
+        Verify.NotNull(buffer);
+        Verify.InRange(processedLength, 0, buffer.Length);
         Change(buffer.AsSpan(0, processedLength));
     }
 
     /// <inheritdoc/>
     public void ProcessBlock(byte[] buffer, Rectangle rectangle, int stride)
     {
-        ArgumentNullException.ThrowIfNull(buffer);
-        ArgumentOutOfRangeException.ThrowIfNegative(stride);
+        Verify.NotNull(buffer);
+        Verify.NotNegative(stride);
         for (int y = 0; y < rectangle.Height; y++)
         {
             Change(buffer.AsSpan(((rectangle.Y + y) * stride) + (rectangle.X * 4), rectangle.Width * 4));

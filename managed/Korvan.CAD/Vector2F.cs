@@ -17,10 +17,10 @@ public struct Vector2F : IEquatable<Vector2F>
     /// <summary>Gets the value whose parts are zero.</summary>
     public static Vector2F Empty => default;
 
-    /// <summary>Gets or sets: the part along X.</summary>
+    /// <summary>Gets or sets the part along X.</summary>
     public float X { get; set; }
 
-    /// <summary>Gets or sets: the part along Y.</summary>
+    /// <summary>Gets or sets the part along Y.</summary>
     public float Y { get; set; }
 
     /// <summary>Gets whether both parts are zero.</summary>
@@ -37,6 +37,7 @@ public struct Vector2F : IEquatable<Vector2F>
 
     /// <summary>Tells whether both parts are the same.</summary>
     /// <param name="other">The value to compare with.</param>
+    /// <returns>Whether both parts are the same.</returns>
     public readonly bool Equals(Vector2F other) => X == other.X && Y == other.Y;
 
     /// <inheritdoc/>

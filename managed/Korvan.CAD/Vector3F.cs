@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -45,7 +46,7 @@ public struct Vector3F : IEquatable<Vector3F>
         0 => X,
         1 => Y,
         2 => Z,
-        _ => throw new ArgumentOutOfRangeException(nameof(index), index, "A Vector3F has 3 parts."),
+        _ => throw Verify.OutOfRange(nameof(index), index, "A Vector3F has 3 parts."),
     };
 
     /// <summary>Compares two vectors part by part.</summary>
@@ -57,11 +58,13 @@ public struct Vector3F : IEquatable<Vector3F>
     /// <summary>Gives the sum of the products of the parts.</summary>
     /// <param name="a">One vector.</param>
     /// <param name="b">The other.</param>
+    /// <returns>The sum of the products of the parts.</returns>
     public static float Dot(Vector3F a, Vector3F b) => (a.X * b.X) + (a.Y * b.Y) + (a.Z * b.Z);
 
     /// <summary>Gives the vector that stands upright on two others, right-handed.</summary>
     /// <param name="a">One vector.</param>
     /// <param name="b">The other.</param>
+    /// <returns>The vector that stands upright on two others, right-handed.</returns>
     public static Vector3F Cross(Vector3F a, Vector3F b)
     {
         return new Vector3F((a.Y * b.Z) - (a.Z * b.Y), (a.Z * b.X) - (a.X * b.Z), (a.X * b.Y) - (a.Y * b.X));
@@ -69,9 +72,11 @@ public struct Vector3F : IEquatable<Vector3F>
 
     /// <summary>Gives the vector with a fourth, homogeneous, part: 1 for a place, 0 for a direction.</summary>
     /// <param name="w">The fourth part.</param>
+    /// <returns>The vector with a fourth, homogeneous, part.</returns>
     public readonly Vector4F ToVector4F(float w) => new(X, Y, Z, w);
 
     /// <summary>Gives the vector of the same direction and of length 1.</summary>
+    /// <returns>The vector of the same direction and of length 1.</returns>
     /// <exception cref="InvalidOperationException">The length is 0, so that there is no direction.</exception>
     public readonly Vector3F Normalize()
     {
@@ -83,6 +88,7 @@ public struct Vector3F : IEquatable<Vector3F>
 
     /// <summary>Tells whether all parts are the same.</summary>
     /// <param name="other">The vector to compare with.</param>
+    /// <returns>Whether all parts are the same.</returns>
     public readonly bool Equals(Vector3F other) => X == other.X && Y == other.Y && Z == other.Z;
 
     /// <inheritdoc/>

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -51,7 +52,7 @@ public struct Vector4F : IEquatable<Vector4F>
         1 => Y,
         2 => Z,
         3 => W,
-        _ => throw new ArgumentOutOfRangeException(nameof(index), index, "A Vector4F has 4 parts."),
+        _ => throw Verify.OutOfRange(nameof(index), index, "A Vector4F has 4 parts."),
     };
 
     /// <summary>Compares two vectors part by part.</summary>
@@ -63,10 +64,12 @@ public struct Vector4F : IEquatable<Vector4F>
     /// <summary>Gives the sum of the products of the parts.</summary>
     /// <param name="a">One vector.</param>
     /// <param name="b">The other.</param>
+    /// <returns>The sum of the products of the parts.</returns>
     public static float Dot(Vector4F a, Vector4F b) => (a.X * b.X) + (a.Y * b.Y) + (a.Z * b.Z) + (a.W * b.W);
 
     /// <summary>Gives the place that the homogeneous coordinates stand for: the first three parts by the
     /// fourth.</summary>
+    /// <returns>The place that the homogeneous coordinates stand for.</returns>
     /// <exception cref="InvalidOperationException">The fourth part is 0: a direction is no place.</exception>
     public readonly Vector3F ToVector3F()
     {
@@ -76,6 +79,7 @@ public struct Vector4F : IEquatable<Vector4F>
     }
 
     /// <summary>Gives the vector of the same direction and of length 1.</summary>
+    /// <returns>The vector of the same direction and of length 1.</returns>
     /// <exception cref="InvalidOperationException">The length is 0, so that there is no direction.</exception>
     public readonly Vector4F Normalize()
     {
@@ -87,6 +91,7 @@ public struct Vector4F : IEquatable<Vector4F>
 
     /// <summary>Tells whether all parts are the same.</summary>
     /// <param name="other">The vector to compare with.</param>
+    /// <returns>Whether all parts are the same.</returns>
     public readonly bool Equals(Vector4F other) => X == other.X && Y == other.Y && Z == other.Z && W == other.W;
 
     /// <inheritdoc/>

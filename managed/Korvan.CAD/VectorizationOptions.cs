@@ -1,4 +1,6 @@
 using System;
+using System.Runtime.CompilerServices;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
@@ -26,7 +28,7 @@ public class VectorizationOptions
         {
             if (value is not -1 and (< 1 or > 255))
             {
-                throw new ArgumentOutOfRangeException(nameof(value), value, "A threshold is 1 to 255, or -1 to find it.");
+                throw Verify.OutOfRange(nameof(value), value, "A threshold is 1 to 255, or -1 to find it.");
             }
 
             _threshold = value;
@@ -50,10 +52,10 @@ public class VectorizationOptions
     /// <summary>Gets how strokes become lines.</summary>
     public PaperToCadOptions PaperToCadOptions { get; } = new();
 
-    internal static double NotNegative(double value)
+    internal static double NotNegative(double value, [CallerMemberName] string member = "")
     {
         return double.IsFinite(value) && value >= 0
             ? value
-            : throw new ArgumentOutOfRangeException(nameof(value), value, "A finite number that is not below 0 was expected.");
+            : throw Verify.OutOfRange(member, value, "A finite number that is not below 0 was expected.");
     }
 }

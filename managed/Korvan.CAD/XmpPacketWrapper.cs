@@ -5,6 +5,7 @@ using System.Linq;
 using System.Text;
 using System.Xml;
 using System.Xml.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
@@ -42,7 +43,7 @@ public class XmpPacketWrapper
     /// <exception cref="XmpException">The text is not well formed, or holds no RDF.</exception>
     public XmpPacketWrapper(string xml)
     {
-        ArgumentNullException.ThrowIfNull(xml);
+        Verify.NotNull(xml);
         XElement? root = Parse(xml).DescendantsAndSelf(Rdf + "RDF").FirstOrDefault();
         _root = root ?? throw new XmpException("The packet holds no element rdf:RDF.");
     }
@@ -60,11 +61,13 @@ public class XmpPacketWrapper
     /// <summary>Gives a property; of several values the first. Nothing where it is missing.</summary>
     /// <param name="namespaceUri">Its namespace, for example <c>http://purl.org/dc/elements/1.1/</c>.</param>
     /// <param name="name">Its name, for example <c>title</c>.</param>
+    /// <returns>A property.</returns>
     public string? GetValue(string namespaceUri, string name) => GetValues(namespaceUri, name).FirstOrDefault();
 
     /// <summary>Gives the values of a property; none where it is missing.</summary>
     /// <param name="namespaceUri">Its namespace.</param>
     /// <param name="name">Its name.</param>
+    /// <returns>The values of a property.</returns>
     public string[] GetValues(string namespaceUri, string name)
     {
         XName full = Name(namespaceUri, name);
@@ -91,7 +94,7 @@ public class XmpPacketWrapper
     /// <param name="value">The value.</param>
     public void SetValue(string namespaceUri, string name, string value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         Put(namespaceUri, name, Verified(value));
     }
 
@@ -101,7 +104,7 @@ public class XmpPacketWrapper
     /// <param name="values">The values.</param>
     public void SetValues(string namespaceUri, string name, string[] values)
     {
-        ArgumentNullException.ThrowIfNull(values);
+        Verify.NotNull(values);
         Put(namespaceUri, name, new XElement(Rdf + "Seq", values.Select(static value => new XElement(Rdf + "li", Verified(value)))));
     }
 
@@ -111,7 +114,7 @@ public class XmpPacketWrapper
     /// <param name="text">The text.</param>
     public void SetLocalizedText(string namespaceUri, string name, string text)
     {
-        ArgumentNullException.ThrowIfNull(text);
+        Verify.NotNull(text);
         var item = new XElement(Rdf + "li", new XAttribute(Xml + "lang", "x-default"), Verified(text));
         Put(namespaceUri, name, new XElement(Rdf + "Alt", item));
     }
@@ -134,6 +137,7 @@ public class XmpPacketWrapper
     }
 
     /// <summary>Gives the packet as text, without its processing instructions.</summary>
+    /// <returns>The packet as text, without its processing instructions.</returns>
     public string ToXml()
     {
         var meta = new XElement(Meta + "xmpmeta", new XAttribute(XNamespace.Xmlns + "x", Meta.NamespaceName), _root);
@@ -141,6 +145,7 @@ public class XmpPacketWrapper
     }
 
     /// <summary>Gives the packet as it stands in files: UTF-8, between its processing instructions.</summary>
+    /// <returns>The packet as it stands in files.</returns>
     public byte[] ToBytes() => Encoding.UTF8.GetBytes($"{PacketBegin}\n{ToXml()}\n{PacketEnd}");
 
     /// <inheritdoc/>
@@ -174,7 +179,7 @@ public class XmpPacketWrapper
         }
         catch (XmlException e)
         {
-            throw new XmpException($"The packet is not well formed: {e.Message}", e);
+            throw new XmpException($"The packet is not well formed: {e.Message}");
         }
     }
 
@@ -199,15 +204,15 @@ public class XmpPacketWrapper
 
     private static XName Name(string namespaceUri, string name)
     {
-        ArgumentException.ThrowIfNullOrEmpty(namespaceUri);
-        ArgumentException.ThrowIfNullOrEmpty(name);
+        Verify.NotEmpty(namespaceUri);
+        Verify.NotEmpty(name);
         try
         {
             return XName.Get(XmlConvert.VerifyNCName(name), namespaceUri);
         }
         catch (XmlException e)
         {
-            throw new XmpException($"'{name}' cannot name a property: {e.Message}", e);
+            throw new XmpException($"'{name}' cannot name a property: {e.Message}");
         }
     }
 
@@ -219,7 +224,7 @@ public class XmpPacketWrapper
         }
         catch (XmlException e)
         {
-            throw new XmpException($"A value holds a character that XML cannot hold: {e.Message}", e);
+            throw new XmpException($"A value holds a character that XML cannot hold: {e.Message}");
         }
     }
 }

@@ -231,7 +231,7 @@ class Formats(unittest.TestCase):
     def test_a_format_without_writer_is_refused_by_name(self) -> None:
         drawing = CadImage()
         self.assertFalse(drawing.can_save(DwgOptions()))
-        with self.assertRaisesRegex(RuntimeError, "DwgOptions: it is not written as CadR2018.*PdfOptions"):
+        with self.assertRaisesRegex(RuntimeError, "DwgOptions: it is not written as CAD_R2018.*PdfOptions"):
             drawing.save(io.BytesIO(), DwgOptions())
 
     def test_the_build_tells_its_version(self) -> None:

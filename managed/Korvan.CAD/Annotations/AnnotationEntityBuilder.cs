@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.Primitives;
@@ -22,15 +23,16 @@ public class AnnotationEntityBuilder
     /// <param name="text">What it says; lines are parted by line feeds.</param>
     public AnnotationEntityBuilder(string text)
     {
-        ArgumentException.ThrowIfNullOrWhiteSpace(text);
+        Verify.NotBlank(text);
         _text = text;
     }
 
     /// <summary>Lets the annotation speak of an entity; its arrow points to it.</summary>
     /// <param name="target">The entity.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetTarget(IAnnotateable target)
     {
-        ArgumentNullException.ThrowIfNull(target);
+        Verify.NotNull(target);
         _target = target.UniqueId;
         _point = target.GetAnnotationPoint();
         return this;
@@ -38,15 +40,17 @@ public class AnnotationEntityBuilder
 
     /// <summary>Sets the point that the arrow points to.</summary>
     /// <param name="point">The point, in world coordinates.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetPoint(Point3D point)
     {
-        ArgumentNullException.ThrowIfNull(point);
+        Verify.NotNull(point);
         _point = point;
         return this;
     }
 
     /// <summary>Sets where the text stands, seen from the point.</summary>
     /// <param name="direction">The side, or two of them for a corner.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetDirection(AnnotationDirection direction)
     {
         _direction = direction;
@@ -55,6 +59,7 @@ public class AnnotationEntityBuilder
 
     /// <summary>Sets the height of the letters. 2.5 by default.</summary>
     /// <param name="height">The height in drawing units, above 0.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetTextHeight(double height)
     {
         _height = Positive(height, nameof(height));
@@ -63,6 +68,7 @@ public class AnnotationEntityBuilder
 
     /// <summary>Sets how far the text stands from the point. Six times the height of the letters by default.</summary>
     /// <param name="distance">The distance in drawing units, above 0.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetDistance(double distance)
     {
         _distance = Positive(distance, nameof(distance));
@@ -71,15 +77,17 @@ public class AnnotationEntityBuilder
 
     /// <summary>Sets the layer of text and arrow. "0" by default.</summary>
     /// <param name="layerName">The name of the layer; it is added to the drawing when that is saved.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetLayer(string layerName)
     {
-        ArgumentException.ThrowIfNullOrWhiteSpace(layerName);
+        Verify.NotBlank(layerName);
         _layer = layerName;
         return this;
     }
 
     /// <summary>Sets the colour of text and arrow. That of the layer by default.</summary>
     /// <param name="colorId">The number of the colour: 1 to 255, 256 by layer.</param>
+    /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetColorId(short colorId)
     {
         _color = colorId;
@@ -87,6 +95,7 @@ public class AnnotationEntityBuilder
     }
 
     /// <summary>Makes the annotation.</summary>
+    /// <returns>The annotation.</returns>
     /// <exception cref="InvalidOperationException">Neither a target nor a point was set.</exception>
     public AnnotationEntity Build()
     {
@@ -103,7 +112,7 @@ public class AnnotationEntityBuilder
     {
         return double.IsFinite(value) && value > 0
             ? value
-            : throw new ArgumentOutOfRangeException(name, value, "A length is a finite number above 0.");
+            : throw Verify.OutOfRange(name, value, "A length is a finite number above 0.");
     }
 
     /// <summary>The direction from the point to the text, of length 1.</summary>

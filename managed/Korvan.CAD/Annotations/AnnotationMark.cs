@@ -26,7 +26,7 @@ internal sealed record AnnotationMark(string Id, string TargetId, AnnotationDire
 
     internal void Put(CadEntityBase entity)
     {
-        List<CadXdata> all = entity.XdataContainer.XdataEntities;
+        IList<CadXdata> all = entity.XdataContainer.XdataEntities;
         all.RemoveAll(static data => data.RegisteredApplicationName == Application);
         var data = new CadXdata(Application);
         data.Data.Add(new CadCodeValue(Text, Id));

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -37,7 +38,7 @@ internal sealed class DrawingAnnotations(CadImage image) : IAnnotationService
 
     public AnnotationEntity[] GetAnnotationsOf(IAnnotateable target)
     {
-        ArgumentNullException.ThrowIfNull(target);
+        Verify.NotNull(target);
         return target.UniqueId.Length == 0
             ? []
             : [.. GetAnnotations().Where(one => string.Equals(one.TargetId, target.UniqueId, StringComparison.OrdinalIgnoreCase))];
@@ -45,7 +46,7 @@ internal sealed class DrawingAnnotations(CadImage image) : IAnnotationService
 
     public void Add(AnnotationEntity annotation)
     {
-        ArgumentNullException.ThrowIfNull(annotation);
+        Verify.NotNull(annotation);
         if (AnnotationMark.Of(annotation.Note) is not null)
         {
             throw new DataMissmatchError("The annotation stands in a drawing already; build another one.");
@@ -63,7 +64,7 @@ internal sealed class DrawingAnnotations(CadImage image) : IAnnotationService
 
     public bool Remove(AnnotationEntity annotation)
     {
-        ArgumentNullException.ThrowIfNull(annotation);
+        Verify.NotNull(annotation);
         if (annotation.Leader is { } leader)
         {
             image.Entities.Remove(leader);

@@ -12,6 +12,9 @@ public class FrameworkException : Exception
     {
     }
 
+    /// <summary>Gets what failed, where, and what would be right.</summary>
+    public new string Message => base.Message;
+
     /// <summary>Creates the exception with a message and the failure behind it.</summary>
     /// <param name="message">What failed, where, and what would be right.</param>
     /// <param name="innerException">The failure that led here.</param>

@@ -1,5 +1,6 @@
 using System;
 using System.IO;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.Exif.Enums;
 using Korvan.CAD.FileFormats.Tiff;
@@ -27,7 +28,7 @@ public partial class ExifData
     public ExifData(byte[] data)
         : this()
     {
-        ArgumentNullException.ThrowIfNull(data);
+        Verify.NotNull(data);
         TiffStreamReader reader = Open(data);
         ByteOrder = reader.ByteOrder;
         TiffExifIfd common = TiffExifIfd.Read(reader, reader.ReadULong(4));
@@ -102,6 +103,7 @@ public partial class ExifData
     }
 
     /// <summary>Gives the block as it stands in a file, from its mark of byte order on.</summary>
+    /// <returns>The block as it stands in a file, from its mark of byte order on.</returns>
     public byte[] SerializeData()
     {
         // Places of the directories follow from their sizes, so pointers are set before anything is written.
@@ -203,7 +205,7 @@ public partial class ExifData
             return;
         }
 
-        ArgumentOutOfRangeException.ThrowIfGreaterThan(Math.Abs(value), most, nameof(value));
+        Verify.InRange(value, -most, most, angle.ToString());
 
         // Rounded as a whole, so that no part becomes 60.
         const long second = 100_000;

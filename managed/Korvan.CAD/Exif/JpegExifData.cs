@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Tiff;
 using Korvan.CAD.FileFormats.Tiff.Enums;
@@ -32,7 +33,7 @@ public class JpegExifData : ExifData
         get => _thumbnail;
         set
         {
-            ArgumentNullException.ThrowIfNull(value);
+            Verify.NotNull(value);
             if (value.Length > 0 && !value.AsSpan().StartsWith((ReadOnlySpan<byte>)[0xFF, 0xD8, 0xFF]))
             {
                 throw new JpegException("The small picture of Exif data is a JPEG file; these bytes are none.");

@@ -1,5 +1,6 @@
 using System;
 using System.Globalization;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
@@ -19,7 +20,7 @@ public class TiffDataTypeController
     /// <param name="directory">The directory; it is changed in place.</param>
     public TiffDataTypeController(TiffExifIfd directory)
     {
-        ArgumentNullException.ThrowIfNull(directory);
+        Verify.NotNull(directory);
         Directory = directory;
     }
 
@@ -28,6 +29,7 @@ public class TiffDataTypeController
 
     /// <summary>Gives a field, or nothing.</summary>
     /// <param name="property">Its number.</param>
+    /// <returns>A field, or nothing.</returns>
     public TiffDataType? GetTag(ExifProperties property) => Directory.Get((int)property);
 
     /// <summary>Takes a field out.</summary>
@@ -37,6 +39,7 @@ public class TiffDataTypeController
 
     /// <summary>Gives a text; empty where there is none.</summary>
     /// <param name="property">The number of the field.</param>
+    /// <returns>A text.</returns>
     public string GetText(ExifProperties property) => (GetTag(property) as TiffASCIIType)?.Text ?? "";
 
     /// <summary>Sets a text; an empty one takes the field out.</summary>
@@ -44,7 +47,7 @@ public class TiffDataTypeController
     /// <param name="value">The text.</param>
     public void SetText(ExifProperties property, string value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         if (value.Length == 0)
         {
             Remove(property);
@@ -57,6 +60,7 @@ public class TiffDataTypeController
     /// <summary>Gives the first number of a field, whatever its type.</summary>
     /// <param name="property">The number of the field.</param>
     /// <param name="defaultValue">What is given where there is none.</param>
+    /// <returns>The first number of a field, whatever its type.</returns>
     public double GetNumber(ExifProperties property, double defaultValue)
     {
         double[] values = GetNumbers(property);
@@ -65,6 +69,7 @@ public class TiffDataTypeController
 
     /// <summary>Gives the numbers of a field, whatever their type; none where the field is missing or a text.</summary>
     /// <param name="property">The number of the field.</param>
+    /// <returns>The numbers of a field, whatever their type.</returns>
     public double[] GetNumbers(ExifProperties property) => (GetTag(property) as TiffCommonArrayType)?.ToDoubles() ?? [];
 
     /// <summary>Sets a number in the type that the field has, or 16 bits where it is new or too large for that.</summary>
@@ -83,6 +88,7 @@ public class TiffDataTypeController
 
     /// <summary>Gives the first fraction of a field, or nothing.</summary>
     /// <param name="property">The number of the field.</param>
+    /// <returns>The first fraction of a field, or nothing.</returns>
     public TiffRational? GetRational(ExifProperties property) =>
         GetTag(property) is TiffRationalType { Count: > 0 } field ? field.Values[0] : null;
 
@@ -102,6 +108,7 @@ public class TiffDataTypeController
 
     /// <summary>Gives the bytes of a field; none where it is missing or holds larger numbers.</summary>
     /// <param name="property">The number of the field.</param>
+    /// <returns>The bytes of a field.</returns>
     public byte[] GetBytes(ExifProperties property) => GetTag(property) switch
     {
         TiffUndefinedType field => field.Values,
@@ -114,7 +121,7 @@ public class TiffDataTypeController
     /// <param name="value">The bytes.</param>
     public void SetBytes(ExifProperties property, byte[] value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         if (value.Length == 0)
         {
             Remove(property);

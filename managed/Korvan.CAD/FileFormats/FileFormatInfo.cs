@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.Linq;
 using System.Reflection;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats;
 
@@ -43,20 +44,22 @@ public class FileFormatInfo
 
     /// <summary>Gives what is known of a format.</summary>
     /// <param name="format">The format.</param>
+    /// <returns>What is known of a format.</returns>
     /// <exception cref="ArgumentOutOfRangeException">It is <see cref="FileFormat.Undefined"/>,
     /// <see cref="FileFormat.Custom"/>, or no format at all.</exception>
     public static FileFormatInfo Get(FileFormat format)
     {
         return Known.Value.TryGetValue(format, out FileFormatInfo? info)
             ? info
-            : throw new ArgumentOutOfRangeException(nameof(format), format, "This is no format that files have.");
+            : throw Verify.OutOfRange(nameof(format), format, "This is no format that files have.");
     }
 
     /// <summary>Gives the formats whose files have names with an ending, in the order of their numbers.</summary>
     /// <param name="extension">The ending, with or without its point; upper and lower case are the same.</param>
+    /// <returns>The formats whose files have names with an ending, in the order of their numbers.</returns>
     public static FileFormatInfo[] FindByExtension(string extension)
     {
-        ArgumentNullException.ThrowIfNull(extension);
+        Verify.NotNull(extension);
         string wanted = extension.StartsWith('.') ? extension : "." + extension;
         return [.. All.Where(info => info._metadata.Extensions.Contains(wanted, StringComparer.OrdinalIgnoreCase))];
     }

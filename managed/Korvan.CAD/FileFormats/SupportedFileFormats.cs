@@ -24,7 +24,7 @@ public static class SupportedFileFormats
         HashSet<FileFormat> formats = [];
         foreach (Type type in DrawingExporter.OptionTypes)
         {
-            formats.Add(((ImageOptionsBase)Activator.CreateInstance(type)!).TargetFormat);
+            formats.Add(ImageSaver.FormatOf(type));
         }
 
         foreach (DxfOutputVersion version in Enum.GetValues<DxfOutputVersion>().Where(static v => v != DxfOutputVersion.Original))
@@ -56,6 +56,7 @@ public static class SupportedFileFormats
 
         /// <summary>Tells whether files of a format can be loaded.</summary>
         /// <param name="format">The format.</param>
+        /// <returns>Whether files of a format can be loaded.</returns>
         public static bool Contains(FileFormat format) => Loaded.Value.Contains(format);
     }
 
@@ -70,6 +71,7 @@ public static class SupportedFileFormats
 
         /// <summary>Tells whether files of a format can be written.</summary>
         /// <param name="format">The format.</param>
+        /// <returns>Whether files of a format can be written.</returns>
         public static bool Contains(FileFormat format) => Written.Value.Contains(format);
     }
 }

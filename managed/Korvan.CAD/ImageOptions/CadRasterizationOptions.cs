@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats;
 using Korvan.CAD.FileFormats.Cad;
 
@@ -23,7 +24,7 @@ public class CadRasterizationOptions : VectorRasterizationOptions
         {
             if (!float.IsFinite(value) || value <= 0)
             {
-                throw new ArgumentOutOfRangeException(nameof(value), value, "A zoom is a finite number above 0.");
+                throw Verify.OutOfRange(nameof(value), value, "A zoom is a finite number above 0.");
             }
 
             _zoom = value;

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
@@ -21,8 +22,7 @@ public class DracoOptions : ImageOptionsBase
         get => _compressionLevel;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, 0);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 10);
+            Verify.InRange(value, 0, 10);
             _compressionLevel = value;
         }
     }
@@ -34,8 +34,7 @@ public class DracoOptions : ImageOptionsBase
         get => _positionBits;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, 1);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 30);
+            Verify.InRange(value, 1, 30);
             _positionBits = value;
         }
     }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
@@ -22,8 +23,7 @@ public class GifOptions : ImageOptionsBase
         get => _maxColors;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, 2);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 256);
+            Verify.InRange(value, 2, 256);
             _maxColors = value;
         }
     }
@@ -44,8 +44,7 @@ public class GifOptions : ImageOptionsBase
         get => _frameTime;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, 0);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 655350);
+            Verify.InRange(value, 0, 655350);
             _frameTime = value;
         }
     }
@@ -57,8 +56,7 @@ public class GifOptions : ImageOptionsBase
         get => _loopCount;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, 0);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 65535);
+            Verify.InRange(value, 0, 65535);
             _loopCount = value;
         }
     }

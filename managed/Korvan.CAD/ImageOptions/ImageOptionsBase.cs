@@ -1,6 +1,9 @@
 using System;
+using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Rendering;
+using Korvan.WrpGen.Naming;
 
 namespace Korvan.CAD.ImageOptions;
 
@@ -67,7 +70,7 @@ public abstract class ImageOptionsBase : DisposableObject
         get => _timeout;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfNegative(value);
+            Verify.NotNegative(value);
             _timeout = value;
         }
     }
@@ -99,6 +102,7 @@ public abstract class ImageOptionsBase : DisposableObject
 
     internal ImageSaveException NotHonoured(string option, string advice)
     {
-        return new ImageSaveException($"{GetType().Name}.{option} cannot be honoured in this output; {advice}.");
+        string path = string.Join('.', option.Split('.').Select(PythonName.Lower));
+        return new ImageSaveException($"{GetType().Name}.{path} cannot be honoured in this output; {advice}.");
     }
 }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Jpeg2000;
 
 namespace Korvan.CAD.ImageOptions;
@@ -27,8 +28,7 @@ public class Jpeg2000Options : ImageOptionsBase
         get => _compressionRatio;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, 1f);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 1000f);
+            Verify.InRange(value, 1f, 1000f);
             _compressionRatio = value;
         }
     }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.Exif;
 using Korvan.CAD.FileFormats.Jpeg;
 
@@ -22,8 +23,7 @@ public class JpegOptions : ImageOptionsBase
         get => _quality;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, 1);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 100);
+            Verify.InRange(value, 1, 100);
             _quality = value;
         }
     }
@@ -57,7 +57,7 @@ public class JpegOptions : ImageOptionsBase
         base.VerifyHonoured(kind);
         if (ColorType is JpegCompressionColorMode.Rgb or JpegCompressionColorMode.Cmyk)
         {
-            throw NotHonoured(nameof(ColorType), $"{ColorType} is read, but not written; choose YCbCr, Ycck or Grayscale");
+            throw NotHonoured(nameof(ColorType), $"{Verify.NameOf(ColorType)} is read, but not written; choose Y_CB_CR, YCCK or GRAYSCALE");
         }
 
         if (Jfif is not null && ColorType == JpegCompressionColorMode.Ycck)

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
@@ -34,7 +35,7 @@ public class MultiPageOptions
         get => _pages;
         set
         {
-            ArgumentNullException.ThrowIfNull(value);
+            Verify.NotNull(value);
             _pages = value;
             Mode = MultiPageMode.Pages;
         }
@@ -47,7 +48,7 @@ public class MultiPageOptions
         get => _pageTitles;
         set
         {
-            ArgumentNullException.ThrowIfNull(value);
+            Verify.NotNull(value);
             _pageTitles = value;
             Mode = MultiPageMode.Titles;
         }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
@@ -20,8 +21,7 @@ public class ObjOptions : ImageOptionsBase
         get => _precision;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, 0);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 15);
+            Verify.InRange(value, 0, 15);
             _precision = value;
         }
     }

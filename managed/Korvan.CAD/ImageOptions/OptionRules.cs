@@ -15,9 +15,9 @@ internal static class OptionRules
 
     private static readonly Rule<ImageOptionsBase>[] Common =
     [
-        new(nameof(ImageOptionsBase.OutputMode), OutputKind.Model, static o => o.OutputMode != CadOutputMode.Render, "leave it at Render"),
+        new(nameof(ImageOptionsBase.OutputMode), OutputKind.Model, static o => o.OutputMode != CadOutputMode.Render, "leave it at RENDER"),
         new(nameof(ImageOptionsBase.Rotation), OutputKind.Pixels | OutputKind.Picture, static o => o.Rotation != RotateFlipType.RotateNoneFlipNone,
-            "pixels are turned, lines and texts are not; leave it at RotateNoneFlipNone, or write a format of pixels"),
+            "pixels are turned, lines and texts are not; leave it at ROTATE_NONE_FLIP_NONE, or write a format of pixels"),
         new(nameof(ImageOptionsBase.Layers), Colored, static o => o.Layers.Length > 0),
         new(nameof(ImageOptionsBase.Palette), Nothing, static o => o.Palette is not null && !o.UsesPalette,
             "only pixels that are numbers of colours have one; choose such a format and such a kind of pixels"),
@@ -31,14 +31,14 @@ internal static class OptionRules
             "the format has no place for two resolutions; set both to one number"),
         new(nameof(ImageOptionsBase.ResolutionSettings), OutputKind.Pixels | OutputKind.Picture,
             static o => o.ResolutionSettings is not null && o.VectorRasterizationOptions is not { ContentAsBitmap: true },
-            "lines and texts have no resolution; set ContentAsBitmap for pixels in a page"),
+            "lines and texts have no resolution; set content_as_bitmap for pixels in a page"),
         new(nameof(ImageOptionsBase.ResolutionSettings), OutputKind.Pixels | OutputKind.Picture,
             static o => o.ResolutionSettings is { } r && r.HorizontalResolution != r.VerticalResolution,
             "the pixels in a page are square; set both resolutions to one number"),
         new(nameof(ImageOptionsBase.VectorRasterizationOptions), Colored, static o => o.VectorRasterizationOptions is not null),
         new(nameof(ImageOptionsBase.RenderToGraphicsBound), Drawn, static o => o.RenderToGraphicsBound),
         new(nameof(ImageOptionsBase.Pc3File), Nothing, static o => !string.IsNullOrEmpty(o.Pc3File),
-            "plotter configurations are not read; set sizes and pens in VectorRasterizationOptions"),
+            "plotter configurations are not read; set sizes and pens in vector_rasterization_options"),
         new(nameof(ImageOptionsBase.Timeout), Colored, static o => o.Timeout != 0),
         new(nameof(ImageOptionsBase.UserWatermarkText), Drawn, static o => o.UserWatermarkText.Length > 0),
         new(nameof(ImageOptionsBase.UserWatermarkColor), Drawn, static o => o.UserWatermarkColor != ImageOptionsBase.UsualWatermark),
@@ -62,9 +62,9 @@ internal static class OptionRules
         new(nameof(CadRasterizationOptions.Zoom), Drawn, static o => o.Zoom != 1),
         new(nameof(CadRasterizationOptions.PenOptions), Drawn, static o => o.PenOptions is not (null or { StartCap: LineCap.Round, EndCap: LineCap.Round })),
         new($"{nameof(CadRasterizationOptions.PenOptions)}.{nameof(PenOptions.EndCap)}", Nothing,
-            static o => o.PenOptions is { } pen && pen.StartCap != pen.EndCap, "both ends of a line have one shape; set StartCap to the same"),
+            static o => o.PenOptions is { } pen && pen.StartCap != pen.EndCap, "both ends of a line have one shape; set start_cap to the same"),
         new($"{nameof(CadRasterizationOptions.PenOptions)}.{nameof(PenOptions.StartCap)}", Nothing,
-            static o => o.PenOptions is { StartCap: not (LineCap.Flat or LineCap.Square or LineCap.Round) }, "lines end Flat, Square or Round"),
+            static o => o.PenOptions is { StartCap: not (LineCap.Flat or LineCap.Square or LineCap.Round) }, "lines end FLAT, SQUARE or ROUND"),
         new(nameof(CadRasterizationOptions.ObserverPoint), Drawn,
             static o => o.ObserverPoint is not (null or { RotationAngleX: 0, RotationAngleY: 0, RotationAngleZ: 0 })),
         new(nameof(CadRasterizationOptions.AutomaticLayoutsScaling), Drawn, static o => !o.AutomaticLayoutsScaling),
@@ -79,7 +79,7 @@ internal static class OptionRules
         new(nameof(CadRasterizationOptions.PdfProductLocation), Nothing, static o => !string.IsNullOrEmpty(o.PdfProductLocation),
             "the library writes PDF by itself; leave it empty"),
         new(nameof(CadRasterizationOptions.RenderMode3D), Nothing, static o => o.RenderMode3D != RenderMode3D.Wireframe,
-            "bodies are drawn by their edges; leave it at Wireframe"),
+            "bodies are drawn by their edges; leave it at WIREFRAME"),
         .. Graphics(), .. Quality(),
     ];
 
@@ -129,13 +129,15 @@ internal static class OptionRules
     private static IEnumerable<Rule<CadRasterizationOptions>> Graphics()
     {
         const string name = nameof(CadRasterizationOptions.GraphicsOptions);
-        const string advice = "who shows the page smooths its lines and texts; set ContentAsBitmap for pixels in a page";
+        const string advice = "who shows the page smooths its lines and texts; set content_as_bitmap for pixels in a page";
         return
         [
             new($"{name}.{nameof(GraphicsOptions.SmoothingMode)}", OutputKind.Pixels,
                 static o => o.GraphicsOptions is { SmoothingMode: not SmoothingMode.Default } && !o.ContentAsBitmap, advice),
             new($"{name}.{nameof(GraphicsOptions.TextRenderingHint)}", OutputKind.Pixels,
                 static o => o.GraphicsOptions is { TextRenderingHint: not TextRenderingHint.SystemDefault } && !o.ContentAsBitmap, advice),
+            new($"{name}.{nameof(GraphicsOptions.InterpolationMode)}", Nothing,
+                static o => o.GraphicsOptions is { InterpolationMode: InterpolationMode.Invalid }, "INVALID is no mode; choose one of the others"),
             new($"{name}.{nameof(GraphicsOptions.InterpolationMode)}", OutputKind.Pixels,
                 static o => o.GraphicsOptions is { InterpolationMode: not InterpolationMode.Default } && !o.ContentAsBitmap, advice),
         ];
@@ -151,9 +153,9 @@ internal static class OptionRules
             new($"{name}.{nameof(RasterizationQuality.Hatch)}", Drawn, static o => o.Quality.Hatch != medium),
             new($"{name}.{nameof(RasterizationQuality.Arc)}", Drawn, static o => o.Quality.Arc != medium),
             new($"{name}.{nameof(RasterizationQuality.Ole)}", Nothing, static o => o.Quality.Ole != medium,
-                "embedded documents are not drawn; leave it at Medium"),
+                "embedded documents are not drawn; leave it at MEDIUM"),
             new($"{name}.{nameof(RasterizationQuality.ObjectsPrecision)}", OutputKind.Faces, static o => o.Quality.ObjectsPrecision != medium,
-                "bodies are drawn by edges that the drawing holds; leave it at Medium, or write a format of faces"),
+                "bodies are drawn by edges that the drawing holds; leave it at MEDIUM, or write a format of faces"),
             new($"{name}.{nameof(RasterizationQuality.TextThicknessNormalization)}", Nothing, static o => o.Quality.TextThicknessNormalization,
                 "texts are drawn with outline fonts, whose strokes have no width of their own; leave it off"),
         ];

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
@@ -11,8 +12,8 @@ public class PdfDigitalSignatureDetailsCore
     /// <param name="password">The password of the file; empty for none.</param>
     public PdfDigitalSignatureDetailsCore(string certificatePath, string password)
     {
-        ArgumentException.ThrowIfNullOrWhiteSpace(certificatePath);
-        ArgumentNullException.ThrowIfNull(password);
+        Verify.NotBlank(certificatePath);
+        Verify.NotNull(password);
         CertificatePath = certificatePath;
         Password = password;
     }
@@ -22,8 +23,8 @@ public class PdfDigitalSignatureDetailsCore
     /// <param name="password">The password of the content; empty for none.</param>
     public PdfDigitalSignatureDetailsCore(byte[] certificateData, string password)
     {
-        ArgumentNullException.ThrowIfNull(certificateData);
-        ArgumentNullException.ThrowIfNull(password);
+        Verify.NotNull(certificateData);
+        Verify.NotNull(password);
         CertificateData = certificateData;
         Password = password;
     }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Png;
 
 namespace Korvan.CAD.ImageOptions;
@@ -21,8 +22,7 @@ public class PngOptions : ImageOptionsBase
         get => _compressionLevel;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfNegative(value);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 9);
+            Verify.InRange(value, 0, 9);
             _compressionLevel = value;
         }
     }
@@ -40,7 +40,7 @@ public class PngOptions : ImageOptionsBase
         {
             if (value is not (1 or 2 or 4 or 8))
             {
-                throw new ArgumentOutOfRangeException(nameof(value), value, "A sample has 1, 2, 4 or 8 bits.");
+                throw Verify.OutOfRange(nameof(value), value, "A sample has 1, 2, 4 or 8 bits.");
             }
 
             _bitDepth = value;
@@ -67,7 +67,7 @@ public class PngOptions : ImageOptionsBase
         base.VerifyHonoured(kind);
         if (Dithering != DitheringMethods.None && !UsesPalette)
         {
-            throw NotHonoured(nameof(Dithering), "set ColorType to IndexedColor, as other pixels keep their colours");
+            throw NotHonoured(nameof(Dithering), "set color_type to INDEXED_COLOR, as other pixels keep their colours");
         }
     }
 }

@@ -1,4 +1,6 @@
 using System;
+using System.Runtime.CompilerServices;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD.ImageOptions;
@@ -25,7 +27,7 @@ public class RdOptimizerSettings
         {
             if (!(value > 0) || !double.IsFinite(value))
             {
-                throw new ArgumentOutOfRangeException(nameof(value), value, "The bits for a pixel are a finite number above 0.");
+                throw Verify.OutOfRange(nameof(value), value, "The bits for a pixel are a finite number above 0.");
             }
 
             _bppMax = value;
@@ -56,7 +58,7 @@ public class RdOptimizerSettings
     {
         if (MinQuality > MaxQuality)
         {
-            throw new RdOptimizationError($"MinQuality, {MinQuality}, lies above MaxQuality, {MaxQuality}.");
+            throw new RdOptimizationError($"min_quality, {MinQuality}, lies above max_quality, {MaxQuality}.");
         }
 
         double most = BppMax * pixels / 8;
@@ -81,14 +83,13 @@ public class RdOptimizerSettings
         }
 
         return best ?? throw new RdOptimizationError(
-            $"At MinQuality, {MinQuality}, the picture takes {8.0 * smallest / pixels:0.##} bits for a pixel; "
-            + $"BppMax allows {BppMax:0.##}.");
+            $"At min_quality, {MinQuality}, the picture takes {8.0 * smallest / pixels:0.##} bits for a pixel; "
+            + $"bpp_max allows {BppMax:0.##}.");
     }
 
-    private static int Quality(int value)
+    private static int Quality(int value, [CallerMemberName] string member = "")
     {
-        ArgumentOutOfRangeException.ThrowIfLessThan(value, 1);
-        ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 100);
+        Verify.InRange(value, 1, 100, member);
         return value;
     }
 }

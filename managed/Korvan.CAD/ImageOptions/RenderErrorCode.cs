@@ -26,4 +26,7 @@ public enum RenderErrorCode
 
     /// <summary>The format clips by rectangles only: the box around a region stands in for it.</summary>
     ClipApproximated = 32,
+
+    /// <summary>A layer that the options name is not in the drawing.</summary>
+    LayerNotFound = 64,
 }

@@ -1,5 +1,6 @@
 using System;
 using System.IO;
+using Korvan.CAD.Binding;
 using Korvan.CAD.ImageOptions.SvgOptionsParameters;
 
 namespace Korvan.CAD.ImageOptions;
@@ -38,8 +39,8 @@ public class SvgOptions : ImageOptionsBase, ITextAsShapesOptions
     /// where the document stands in the folder.</param>
     public void StoreResourcesIn(string folder, string uri)
     {
-        ArgumentException.ThrowIfNullOrWhiteSpace(folder);
-        ArgumentNullException.ThrowIfNull(uri);
+        Verify.NotBlank(folder);
+        Verify.NotNull(uri);
         Callback = new FolderResourceKeeper(Path.GetFullPath(folder), uri);
         FontStoreType = FontStoreType.Stream;
     }
@@ -50,17 +51,17 @@ public class SvgOptions : ImageOptionsBase, ITextAsShapesOptions
         base.VerifyHonoured(kind);
         if (TextAsShapes && FontStoreType != FontStoreType.Installed)
         {
-            throw NotHonoured(nameof(FontStoreType), "set TextAsShapes to false, as outlines need no fonts");
+            throw NotHonoured(nameof(FontStoreType), "set text_as_shapes to False, as outlines need no fonts");
         }
 
         if (TextAsShapes && (Callback is not null || ImageType != SvgImageType.Png))
         {
-            throw NotHonoured(Callback is not null ? nameof(Callback) : nameof(ImageType), "set TextAsShapes to false");
+            throw NotHonoured(Callback is not null ? nameof(Callback) : nameof(ImageType), "set text_as_shapes to False");
         }
 
         if (FontStoreType == FontStoreType.Stream && Callback is null)
         {
-            throw NotHonoured(nameof(FontStoreType), "name a folder with StoreResourcesIn");
+            throw NotHonoured(nameof(FontStoreType), "name a folder with store_resources_in");
         }
     }
 }

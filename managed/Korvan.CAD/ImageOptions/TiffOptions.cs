@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.Raster.Codecs;
 
@@ -42,7 +43,7 @@ public class TiffOptions : ImageOptionsBase
         get => (int[])_bitsPerSample.Clone();
         set
         {
-            ArgumentNullException.ThrowIfNull(value);
+            Verify.NotNull(value);
             _bitsPerSample = (int[])value.Clone();
         }
     }
@@ -75,8 +76,7 @@ public class TiffOptions : ImageOptionsBase
         get => _quality;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, 1);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 100);
+            Verify.InRange(value, 1, 100);
             _quality = value;
         }
     }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
@@ -20,8 +21,7 @@ public class U3dOptions : ImageOptionsBase
         get => _positionQuality;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, 1);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 1000);
+            Verify.InRange(value, 1, 1000);
             _positionQuality = value;
         }
     }

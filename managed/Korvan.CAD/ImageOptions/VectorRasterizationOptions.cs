@@ -1,4 +1,6 @@
 using System;
+using System.Runtime.CompilerServices;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats;
 
 namespace Korvan.CAD.ImageOptions;
@@ -103,15 +105,15 @@ public abstract class VectorRasterizationOptions : DisposableObject
     /// </summary>
     public PointF RelativePosition { get; set; }
 
-    private static double Factor(double value) => double.IsFinite(value) && value > 0
+    private static double Factor(double value, [CallerMemberName] string member = "") => double.IsFinite(value) && value > 0
         ? value
-        : throw new ArgumentOutOfRangeException(nameof(value), value, "A factor is a finite number above 0.");
+        : throw Verify.OutOfRange(member, value, "A factor is a finite number above 0.");
 
-    private static float Length(float value)
+    private static float Length(float value, [CallerMemberName] string member = "")
     {
         if (!float.IsFinite(value) || value < 0)
         {
-            throw new ArgumentOutOfRangeException(nameof(value), value, "A length of a page is finite and not below 0.");
+            throw Verify.OutOfRange(member, value, "A length of a page is finite and not below 0.");
         }
 
         return value;

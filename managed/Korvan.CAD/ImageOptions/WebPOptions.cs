@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
@@ -25,8 +26,7 @@ public class WebPOptions : ImageOptionsBase
         get => _quality;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, 0f);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 100f);
+            Verify.InRange(value, 0f, 100f);
             _quality = value;
         }
     }
@@ -37,7 +37,7 @@ public class WebPOptions : ImageOptionsBase
         base.VerifyHonoured(kind);
         if (Lossless && Quality != UsualQuality)
         {
-            throw NotHonoured(nameof(Quality), "set Lossless to false, as every pixel is kept exactly otherwise");
+            throw NotHonoured(nameof(Quality), "set lossless to False, as every pixel is kept exactly otherwise");
         }
     }
 }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.Raster.Colors;
 
 namespace Korvan.CAD.PaletteHelper;
@@ -23,7 +24,7 @@ public class AdjustPalette : IPartialArgb32PixelLoader
     /// <param name="image">The picture.</param>
     public void AddImage(RasterImage image)
     {
-        ArgumentNullException.ThrowIfNull(image);
+        Verify.NotNull(image);
         _colors.Add(image.Pixels);
     }
 
@@ -32,7 +33,7 @@ public class AdjustPalette : IPartialArgb32PixelLoader
     /// <param name="pixels">Its pixels as 32-bit numbers.</param>
     public void Process(Rectangle pixelsRectangle, int[] pixels)
     {
-        ArgumentNullException.ThrowIfNull(pixels);
+        Verify.NotNull(pixels);
         _colors.Add(pixels);
     }
 
@@ -41,8 +42,7 @@ public class AdjustPalette : IPartialArgb32PixelLoader
     /// <exception cref="InvalidOperationException">Nothing was counted.</exception>
     public IColorPalette CreatePalette(int entriesCount)
     {
-        ArgumentOutOfRangeException.ThrowIfLessThan(entriesCount, 2);
-        ArgumentOutOfRangeException.ThrowIfGreaterThan(entriesCount, 256);
+        Verify.InRange(entriesCount, 2, 256);
         if (ColorsCount == 0)
         {
             throw new InvalidOperationException("No colours were counted; add a picture first.");

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Primitives;
 
@@ -33,10 +34,11 @@ public class Point3D : IEquatable<Point3D>
     /// <summary>Gives how far two points lie apart.</summary>
     /// <param name="a">One point.</param>
     /// <param name="b">The other.</param>
+    /// <returns>How far two points lie apart.</returns>
     public static double Distance(Point3D a, Point3D b)
     {
-        ArgumentNullException.ThrowIfNull(a);
-        ArgumentNullException.ThrowIfNull(b);
+        Verify.NotNull(a);
+        Verify.NotNull(b);
         double dx = b.X - a.X;
         double dy = b.Y - a.Y;
         double dz = b.Z - a.Z;
@@ -45,22 +47,26 @@ public class Point3D : IEquatable<Point3D>
 
     /// <summary>Gives how far another point lies away.</summary>
     /// <param name="other">The other point.</param>
+    /// <returns>How far another point lies away.</returns>
     public double Distance(Point3D other) => Distance(this, other);
 
     /// <summary>Gives the point between this one and another.</summary>
     /// <param name="other">The other point.</param>
     /// <param name="part">How far towards it: 0 is here, 1 is there.</param>
+    /// <returns>The point between this one and another.</returns>
     public Point3D Between(Point3D other, double part)
     {
-        ArgumentNullException.ThrowIfNull(other);
+        Verify.NotNull(other);
         return new Point3D(X + ((other.X - X) * part), Y + ((other.Y - Y) * part), Z + ((other.Z - Z) * part));
     }
 
     /// <summary>Gives the point above or below in the plane of X and Y.</summary>
+    /// <returns>The point above or below in the plane of X and Y.</returns>
     public Point2D ToPoint2D() => new(X, Y);
 
     /// <summary>Tells whether another point has the same coordinates.</summary>
     /// <param name="other">The other point.</param>
+    /// <returns>Whether another point has the same coordinates.</returns>
     public bool Equals(Point3D? other) => other is not null && X == other.X && Y == other.Y && Z == other.Z;
 
     /// <inheritdoc/>

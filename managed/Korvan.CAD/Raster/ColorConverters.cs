@@ -1,6 +1,7 @@
 using System;
 using System.Buffers.Binary;
 using System.Runtime.InteropServices;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Raster.Codecs;
 
@@ -27,8 +28,8 @@ internal class ColorConverters : IColorConverter
 
     public int[] ToArgb32(byte[] rawData, int pixelCount)
     {
-        ArgumentNullException.ThrowIfNull(rawData);
-        ArgumentOutOfRangeException.ThrowIfNegative(pixelCount);
+        Verify.NotNull(rawData);
+        Verify.NotNegative(pixelCount);
         if (rawData.Length < DataFormat.RowBytes(pixelCount))
         {
             throw new ArgumentException($"{pixelCount} pixels of {DataFormat} need {DataFormat.RowBytes(pixelCount)} bytes;"
@@ -42,7 +43,7 @@ internal class ColorConverters : IColorConverter
 
     public byte[] FromArgb32(int[] argb32Pixels)
     {
-        ArgumentNullException.ThrowIfNull(argb32Pixels);
+        Verify.NotNull(argb32Pixels);
         var row = new byte[DataFormat.RowBytes(argb32Pixels.Length)];
         Pack(argb32Pixels, row);
         return row;

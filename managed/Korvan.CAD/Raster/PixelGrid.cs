@@ -56,7 +56,7 @@ internal sealed unsafe class PixelGrid : IDisposable
     {
         if (width < 1 || height < 1)
         {
-            throw new ArgumentOutOfRangeException(nameof(width), $"A picture of {width} × {height} pixels has no area.");
+            throw new ArgumentOutOfRangeException(null, $"A picture of {width} × {height} pixels has no area.");
         }
 
         if (width > LargestSide || height > LargestSide || width * height > MostPixels)

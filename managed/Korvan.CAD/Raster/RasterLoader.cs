@@ -32,7 +32,7 @@ internal static class RasterLoader
         }
         catch (ArgumentOutOfRangeException e)
         {
-            throw new ImageLoadException($"'{name}' is damaged: {e.Message}", e);
+            throw new ImageLoadException($"'{name}' is damaged: {e.Message}");
         }
         catch (OutOfMemoryException e)
         {

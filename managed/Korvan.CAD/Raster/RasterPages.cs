@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Exif;
 using Korvan.CAD.ImageOptions;
@@ -57,7 +58,7 @@ internal static class PageChoice
         if (pages.Titles.Count != 1)
         {
             throw new ImageSaveException(
-                $"A {format} file holds one page, but there are {pages.Titles.Count} pages; name one of them.");
+                $"A {Verify.NameOf(format)} file holds one page, but there are {pages.Titles.Count} pages; name one of them.");
         }
 
         return 0;
@@ -84,7 +85,7 @@ internal static class PageChoice
             }
         }
 
-        return chosen.Count > 0 ? chosen : throw new ImageSaveException("The MultiPageOptions choose no page at all; a file needs one.");
+        return chosen.Count > 0 ? chosen : throw new ImageSaveException("The multi_page_options choose no page at all; a file needs one.");
     }
 
     /// <summary>Renders a page and cuts it to the area of the options.</summary>
@@ -102,7 +103,7 @@ internal static class PageChoice
         {
             string size = $"{page.Pixels.Width} × {page.Pixels.Height}";
             page.Dispose();
-            throw new ImageSaveException($"The ExportArea {area} does not lie on page {index} of {size} pixels.");
+            throw new ImageSaveException($"The export_area {area} does not lie on page {index} of {size} pixels.");
         }
 
         page.Pixels.CropInPlace(area);
@@ -120,6 +121,6 @@ internal static class PageChoice
         }
 
         throw new ImageSaveException(
-            $"No page is called \"{title}\", as PageTitles ask; there are: {string.Join(", ", pages.Titles)}.");
+            $"No page is called \"{title}\", as page_titles ask; there are: {string.Join(", ", pages.Titles)}.");
     }
 }

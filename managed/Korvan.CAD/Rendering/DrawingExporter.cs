@@ -3,6 +3,7 @@ using System.Collections.Generic;
 using System.Diagnostics;
 using System.IO;
 using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad;
@@ -16,7 +17,8 @@ using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering;
 
-/// <summary>Writes a drawing as pages or pixels. Every failure is an <see cref="ImageSaveException"/> that says why.</summary>
+/// <summary>Writes a drawing as pages or pixels. Every failure is an <see cref="ImageSaveException"/> that says why, but those of
+/// the stream that is written to.</summary>
 internal static class DrawingExporter
 {
     private const double PointsPerInch = 72;
@@ -58,15 +60,23 @@ internal static class DrawingExporter
 
     internal static void Export(Image image, ImageOptionsBase options, Stream output)
     {
-        ArgumentNullException.ThrowIfNull(image);
-        ArgumentNullException.ThrowIfNull(options);
-        ArgumentNullException.ThrowIfNull(output);
+        Verify.NotNull(image);
+        Verify.NotNull(options);
+        Verify.NotNull(output);
         Action<Image, ImageOptionsBase, Stream> write = WriterFor(image, options)
             ?? throw new ImageSaveException($"{image.GetType().Name} is not written with {options.GetType().Name}.");
         options.VerifyHonoured(KindOf(options));
         long start = Stopwatch.GetTimestamp();
         options.Notes = new RenderNotes();
-        Guard(() => write(image, options, output));
+        Guard(() =>
+        {
+            if (image is CadImage drawing)
+            {
+                LayerChoice.Verify(drawing, options);
+            }
+
+            write(image, options, output);
+        });
         options.RenderResult = new CadRenderResult(options.Notes.Results(), Stopwatch.GetElapsedTime(start));
     }
 
@@ -90,7 +100,7 @@ internal static class DrawingExporter
     {
         if (options.CorePdfOptions is { Compliance: not PdfCompliance.Pdf15 } document)
         {
-            throw new RenderException($"Pages are written as PDF 1.5, not as {document.Compliance}; leave Compliance at Pdf15.");
+            throw new RenderException($"Pages are written as PDF 1.5, not as {Verify.NameOf(document.Compliance)}; leave compliance at PDF15.");
         }
 
         using TextEngine engine = NewEngine(image, options);
@@ -164,13 +174,13 @@ internal static class DrawingExporter
         {
             throw new ImageSaveException(e.Message, e.InnerException);
         }
-        catch (Exception e) when (e is IOException or CadException or LimitMemoryException)
+        catch (Exception e) when (e is CadException or LimitMemoryException)
         {
-            throw new ImageSaveException(e.Message, e);
+            throw new ImageSaveException(e.Message);
         }
-        catch (OutOfMemoryException e)
+        catch (OutOfMemoryException)
         {
-            throw new ImageSaveException("The drawing needs more memory than there is to be rendered.", e);
+            throw new ImageSaveException("The drawing needs more memory than there is to be rendered.");
         }
     }
 }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Sources;
 
@@ -7,7 +8,7 @@ public abstract class FileSource : Source
 {
     internal FileSource(string filePath)
     {
-        ArgumentException.ThrowIfNullOrEmpty(filePath);
+        Verify.NotEmpty(filePath);
         FilePath = filePath;
     }
 

@@ -1,5 +1,6 @@
 using System;
 using System.IO;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Sources;
 
@@ -24,7 +25,7 @@ public class StreamSource : Source
     /// <param name="disposeStream">Whether the stream is closed after use.</param>
     public StreamSource(Stream stream, bool disposeStream)
     {
-        ArgumentNullException.ThrowIfNull(stream);
+        Verify.NotNull(stream);
         Stream = stream;
         DisposeStream = disposeStream;
     }

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.Linq;
 using System.Text;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.TimeProvision;
@@ -31,7 +32,7 @@ internal sealed class DrawingWatermark(CadImage image) : IWatermarkGuardService
 
     public void Embed(string text, string password, TimeProvisionType time)
     {
-        ArgumentNullException.ThrowIfNull(text);
+        Verify.NotNull(text);
         byte[] seal = WatermarkSeal.Close(text, password, time);
         foreach (CadBaseObject host in Hosts())
         {
@@ -43,7 +44,7 @@ internal sealed class DrawingWatermark(CadImage image) : IWatermarkGuardService
 
     public WatermarkingStatus Validate(string text, string password)
     {
-        ArgumentNullException.ThrowIfNull(text);
+        Verify.NotNull(text);
         WatermarkingStatus status = Status;
         if (status == WatermarkingStatus.None)
         {

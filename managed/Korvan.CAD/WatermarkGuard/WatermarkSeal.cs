@@ -2,6 +2,7 @@ using System;
 using System.Buffers.Binary;
 using System.Security.Cryptography;
 using System.Text;
+using Korvan.CAD.Binding;
 using Korvan.CAD.TimeProvision;
 
 namespace Korvan.CAD.WatermarkGuard;
@@ -22,7 +23,7 @@ internal sealed record WatermarkSeal(string Text, DateTime? Time)
         byte[] letters = Encoding.UTF8.GetBytes(text);
         if (letters.Length is 0 or > MostText)
         {
-            throw new ArgumentException($"The text of a watermark has 1 to {MostText} bytes of UTF-8, not {letters.Length}.", nameof(text));
+            throw new ArgumentException($"The text of a watermark has 1 to {MostText} bytes of UTF-8, not {letters.Length}.");
         }
 
         OpenSsl.Require();
@@ -61,7 +62,7 @@ internal sealed record WatermarkSeal(string Text, DateTime? Time)
 
     private static AesGcm Cipher(byte[] seal, string password)
     {
-        ArgumentException.ThrowIfNullOrEmpty(password);
+        Verify.NotEmpty(password);
         byte[] key = Rfc2898DeriveBytes.Pbkdf2(password, seal.AsSpan(0, SaltLength), Iterations, HashAlgorithmName.SHA256, 32);
         return new AesGcm(key, TagLength);
     }
@@ -75,7 +76,7 @@ internal sealed record WatermarkSeal(string Text, DateTime? Time)
             TimeProvisionType.None => 0,
             TimeProvisionType.Utc => DateTime.UtcNow.Ticks,
             TimeProvisionType.Local => DateTime.Now.Ticks,
-            _ => throw new ArgumentOutOfRangeException(nameof(time), time, "One clock states the time, or none."),
+            _ => throw Verify.OutOfRange(nameof(time), time, "One clock states the time, or none."),
         };
         BinaryPrimitives.WriteInt64LittleEndian(bytes.AsSpan(1), ticks);
         return bytes;

@@ -21,6 +21,9 @@ public sealed record ValueUse(ValueKind Kind, string ManagedName, string CSharpN
     /// <summary>A class whose results cross with their exact type.</summary>
     public bool IsMostDerived { get; init; }
 
+    /// <summary>A stream that the callee holds on to when it has returned.</summary>
+    public bool IsKept { get; init; }
+
     /// <summary>Value types, which pass as bits and have a nullable form.</summary>
     public bool IsValueType => Kind is ValueKind.Enum or ValueKind.Struct or ValueKind.DateTime
         or ValueKind.DateTimeOffset or ValueKind.TimeSpan or ValueKind.Guid or ValueKind.Decimal

@@ -285,6 +285,10 @@ internal sealed class TypeReader(
                 Leave(Signature(method), reason);
                 return;
             }
+            if (parameter.GetCustomAttributesData().Any(data => data.AttributeType.Name == "PythonKeptAttribute"))
+            {
+                value = value with { IsKept = true };
+            }
             if (value.IsResultOnly)
             {
                 Leave(Signature(method), $"{plain.ManagedName()} comes to Python, but can't be given");

@@ -46,6 +46,12 @@ public unsafe struct PyScope
         ? Adopt(new PyStream(Hold(argument->Value), isBuffered: !_keeps))
         : Handles.Object<Stream>(argument->Value);
 
+    /// <summary>A stream that stays of use after the call, which is not buffered therefore. A call that fails has not
+    /// kept it.</summary>
+    public Stream? KeptStream(VariantArg* argument) => FromPython(argument)
+        ? Adopt(new PyStream(PyReference.Kept(argument->Value), isBuffered: false, isKept: true))
+        : Handles.Object<Stream>(argument->Value);
+
     /// <summary>Python's context managers don't stand in: only what is managed comes.</summary>
     public IDisposable? AnyDisposable(VariantArg* argument) => References.Read<IDisposable>(argument);
 

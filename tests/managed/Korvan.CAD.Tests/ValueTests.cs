@@ -89,7 +89,7 @@ public class ValueTests
             System.Globalization.CultureInfo.CurrentCulture = new System.Globalization.CultureInfo(string.Empty) { NumberFormat = comma };
             Assert.Equal("RectangleF(-0.5, 1.5, 2, 3)", new RectangleF(-0.5f, 1.5f, 2, 3).ToString());
             CadImage image = new();
-            image.AddEntity(new Korvan.CAD.FileFormats.Cad.CadObjects.CadCircle { Radius = -1.5, ColorId = -3 });
+            image.AddEntity(new Korvan.CAD.FileFormats.Cad.CadObjects.CadCircle { Radius = -1.5, LineWeight = -3 });
             string saved = FileFormats.Cad.DxfText.Save(image);
             Assert.Contains("\n-1.5\r", saved);
             Assert.Contains("\n-3\r", saved);

@@ -33,7 +33,13 @@ public class CadAppIdDictionary : NonGenericDictionary
     /// <summary>Gets an application by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadAppIdTableObject this[string name] => Find(name)
+    public CadAppIdTableObject this[string name] => Get(name);
+
+    /// <summary>Gives an application by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadAppIdTableObject Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no application called '{name}'.");
 
     /// <summary>Finds an application; upper and lower case are the same.</summary>
@@ -43,6 +49,7 @@ public class CadAppIdDictionary : NonGenericDictionary
 
     /// <summary>Tells whether there is an application of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is an application of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds an application.</summary>
@@ -55,5 +62,6 @@ public class CadAppIdDictionary : NonGenericDictionary
     public bool Remove(CadAppIdTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadAppIdTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -33,7 +33,13 @@ public class CadBlockDictionary : NonGenericDictionary
     /// <summary>Gets a block by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadBlockEntity this[string name] => Find(name)
+    public CadBlockEntity this[string name] => Get(name);
+
+    /// <summary>Gives a block by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadBlockEntity Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no block called '{name}'.");
 
     /// <summary>Finds a block; upper and lower case are the same.</summary>
@@ -43,6 +49,7 @@ public class CadBlockDictionary : NonGenericDictionary
 
     /// <summary>Tells whether there is a block of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a block of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a block.</summary>
@@ -55,5 +62,6 @@ public class CadBlockDictionary : NonGenericDictionary
     public bool Remove(CadBlockEntity item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadBlockEntity>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -33,7 +33,13 @@ public class CadClassList : NonGenericList
     /// <summary>Gets a class by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadClassEntity this[string name] => Find(name)
+    public CadClassEntity this[string name] => Get(name);
+
+    /// <summary>Gives a class by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadClassEntity Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no class called '{name}'.");
 
     /// <summary>Finds a class; upper and lower case are the same.</summary>
@@ -43,6 +49,7 @@ public class CadClassList : NonGenericList
 
     /// <summary>Tells whether there is a class of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a class of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a class.</summary>
@@ -55,5 +62,6 @@ public class CadClassList : NonGenericList
     public bool Remove(CadClassEntity item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadClassEntity>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -1,5 +1,6 @@
 using System;
 using System.Globalization;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cad;
 
@@ -11,7 +12,7 @@ public class CadCodeValue
     /// <param name="value">The text of the value.</param>
     public CadCodeValue(int attribute, string value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         Attribute = attribute;
         Value = value;
     }
@@ -23,10 +24,12 @@ public class CadCodeValue
     public string Value { get; set; }
 
     /// <summary>Gives the value as a number.</summary>
+    /// <returns>The value as a number.</returns>
     /// <exception cref="FormatException">The text is no number.</exception>
     public double GetDoubleValue() => double.Parse(Value, NumberStyles.Float, CultureInfo.InvariantCulture);
 
     /// <summary>Gives the value as a whole number.</summary>
+    /// <returns>The value as a whole number.</returns>
     /// <exception cref="FormatException">The text is no whole number.</exception>
     public int GetIntValue() => int.Parse(Value, NumberStyles.Integer, CultureInfo.InvariantCulture);
 

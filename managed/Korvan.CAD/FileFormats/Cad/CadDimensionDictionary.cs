@@ -33,7 +33,13 @@ public class CadDimensionDictionary : NonGenericDictionary
     /// <summary>Gets a dimension style by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadDimensionStyleTable this[string name] => Find(name)
+    public CadDimensionStyleTable this[string name] => Get(name);
+
+    /// <summary>Gives a dimension style by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadDimensionStyleTable Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no dimension style called '{name}'.");
 
     /// <summary>Finds a dimension style; upper and lower case are the same.</summary>
@@ -43,6 +49,7 @@ public class CadDimensionDictionary : NonGenericDictionary
 
     /// <summary>Tells whether there is a dimension style of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a dimension style of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a dimension style.</summary>
@@ -55,5 +62,6 @@ public class CadDimensionDictionary : NonGenericDictionary
     public bool Remove(CadDimensionStyleTable item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadDimensionStyleTable>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

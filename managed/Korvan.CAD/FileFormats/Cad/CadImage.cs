@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using Korvan.CAD.Annotations;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -17,6 +18,21 @@ namespace Korvan.CAD.FileFormats.Cad;
 /// <summary>A drawing. Its lists are live: what is added, removed or changed is what is drawn and saved.</summary>
 public partial class CadImage : Image, IVectorImage
 {
+    private readonly CadHeader _header = new();
+    private readonly CadBlockDictionary _blockEntities = new();
+    private readonly CadBlockRecordList _blockRecords = new();
+    private readonly CadLayersList _layers = new();
+    private readonly CadLineTypesDictionary _lineTypes = new();
+    private readonly CadStylesList _styles = new();
+    private readonly CadDimensionDictionary _dimensionStyles = new();
+    private readonly CadViewList _views = new();
+    private readonly CadVportList _viewPorts = new();
+    private readonly CadUcsList _ucss = new();
+    private readonly CadAppIdDictionary _appIdTables = new();
+    private readonly CadClassList _classEntities = new();
+    private readonly CadLayoutDictionary _layouts = new();
+    private readonly CheckedList<CadObjectBase> _objects = new("objects");
+
     /// <summary>Creates an empty drawing of release 2018 with the usual tables.</summary>
     public CadImage()
         : this(DrawingSeed.Standard)
@@ -34,53 +50,53 @@ public partial class CadImage : Image, IVectorImage
     }
 
     /// <summary>Gets the variables of the drawing.</summary>
-    public CadHeader Header { get; } = new();
+    public CadHeader Header => Part(_header);
 
     /// <summary>Gets the entities of model space, in drawing order.</summary>
-    public List<CadEntityBase> Entities => ModelSpace.Entities;
+    public IList<CadEntityBase> Entities => Part(ModelSpace.Entities);
 
     /// <summary>Gets the entities of the active sheet of paper, in drawing order.</summary>
-    public List<CadEntityBase> PaperSpaceEntities => PaperSpace.Entities;
+    public IList<CadEntityBase> PaperSpaceEntities => Part(PaperSpace.Entities);
 
     /// <summary>Gets the blocks by name. Model space is *Model_Space, the active sheet *Paper_Space.</summary>
-    public CadBlockDictionary BlockEntities { get; } = new();
+    public CadBlockDictionary BlockEntities => Part(_blockEntities);
 
     /// <summary>Gets the block records.</summary>
-    public CadBlockRecordList BlockRecords { get; } = new();
+    public CadBlockRecordList BlockRecords => Part(_blockRecords);
 
     /// <summary>Gets the layers.</summary>
-    public CadLayersList Layers { get; } = new();
+    public CadLayersList Layers => Part(_layers);
 
     /// <summary>Gets the line types.</summary>
-    public CadLineTypesDictionary LineTypes { get; } = new();
+    public CadLineTypesDictionary LineTypes => Part(_lineTypes);
 
     /// <summary>Gets the text styles and shape files.</summary>
-    public CadStylesList Styles { get; } = new();
+    public CadStylesList Styles => Part(_styles);
 
     /// <summary>Gets the dimension styles.</summary>
-    public CadDimensionDictionary DimensionStyles { get; } = new();
+    public CadDimensionDictionary DimensionStyles => Part(_dimensionStyles);
 
     /// <summary>Gets the named views.</summary>
-    public CadViewList Views { get; } = new();
+    public CadViewList Views => Part(_views);
 
     /// <summary>Gets the parts of the screen.</summary>
-    public CadVportList ViewPorts { get; } = new();
+    public CadVportList ViewPorts => Part(_viewPorts);
 
     /// <summary>Gets the named coordinate systems.</summary>
-    public CadUcsList UCSs { get; } = new();
+    public CadUcsList UCSs => Part(_ucss);
 
     /// <summary>Gets the programs that attached data.</summary>
-    public CadAppIdDictionary AppIdTables { get; } = new();
+    public CadAppIdDictionary AppIdTables => Part(_appIdTables);
 
     /// <summary>Gets the classes that programs added.</summary>
-    public CadClassList ClassEntities { get; } = new();
+    public CadClassList ClassEntities => Part(_classEntities);
 
     /// <summary>Gets the layouts: the model first, then the sheets of paper in the order of their tabs. Drawings up
     /// to release 14 have none in their files; they get a model and a sheet.</summary>
-    public CadLayoutDictionary Layouts { get; } = new();
+    public CadLayoutDictionary Layouts => Part(_layouts);
 
     /// <summary>Gets the objects that are not drawn: dictionaries, layouts, styles and the like.</summary>
-    public List<CadObjectBase> Objects { get; } = [];
+    public IList<CadObjectBase> Objects => Part(_objects);
 
     /// <summary>Gets the preview picture, a bitmap without its file header; empty for none.</summary>
     public byte[] ThumbnailImage { get; internal set; } = [];
@@ -146,10 +162,12 @@ public partial class CadImage : Image, IVectorImage
     public override void CacheData() => VerifyNotDisposed();
 
     /// <summary>Adds an entity to model space.</summary>
-    /// <param name="entity">The entity; it belongs to this drawing from now on.</param>
+    /// <param name="entity">The entity; it belongs to this drawing from now on. To add one that is in a drawing already,
+    /// add its <see cref="CadEntityBase.Clone"/>.</param>
+    /// <exception cref="CadException">The entity is in a list of entities already.</exception>
     public void AddEntity(CadEntityBase entity)
     {
-        ArgumentNullException.ThrowIfNull(entity);
+        Verify.NotNull(entity);
         Entities.Add(entity);
     }
 
@@ -160,8 +178,9 @@ public partial class CadImage : Image, IVectorImage
 
     /// <summary>Gives the entities of a layout, in drawing order. The list is live.</summary>
     /// <param name="layoutName">The name of the layout; upper and lower case are the same.</param>
+    /// <returns>The entities of a layout, in drawing order.</returns>
     /// <exception cref="CadException">There is no such layout, or its block is missing.</exception>
-    public List<CadEntityBase> GetLayoutEntities(string layoutName)
+    public IList<CadEntityBase> GetLayoutEntities(string layoutName)
     {
         CadLayout layout = Layouts[layoutName];
         return BlockOf(layout)?.Entities
@@ -170,6 +189,7 @@ public partial class CadImage : Image, IVectorImage
 
     /// <summary>Gives the faces of the visible entities of model space in world coordinates: faces, meshes and solids,
     /// and what has a thickness. References to blocks are followed.</summary>
+    /// <returns>The faces of the visible entities of model space in world coordinates.</returns>
     /// <exception cref="CadException">A block contains itself, or there are more than 50 million faces.</exception>
     public DrawingEntity3D[] GetEntities3D()
     {
@@ -209,6 +229,12 @@ public partial class CadImage : Image, IVectorImage
     }
 
     /// <inheritdoc/>
+    internal override string Content => $"release {Version}, {Entities.Count} in model space";
+
+    /// <inheritdoc/>
+    internal override FileFormat OwnFormat => DxfRelease.ToFileFormat(Version);
+
+    /// <inheritdoc/>
     internal override void SaveData(Stream stream) => DxfSaver.Save(this, new DxfOptions(), stream);
 
     /// <inheritdoc/>
@@ -216,6 +242,13 @@ public partial class CadImage : Image, IVectorImage
 
     /// <summary>Finds the block that holds the entities of a layout.</summary>
     internal CadBlockEntity? BlockOf(CadLayout layout) => DrawingLinks.BlockOf(this, layout);
+
+    // A disposed drawing has no parts any more.
+    private T Part<T>(T part)
+    {
+        VerifyNotDisposed();
+        return part;
+    }
 
     private (Cad3DPoint Min, Cad3DPoint Max) Extents() => DrawingExtents.OfModel(this);
 

@@ -33,7 +33,13 @@ public class CadLayersList : NonGenericList
     /// <summary>Gets a layer by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadLayerTable this[string name] => Find(name)
+    public CadLayerTable this[string name] => Get(name);
+
+    /// <summary>Gives a layer by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadLayerTable Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no layer called '{name}'.");
 
     /// <summary>Finds a layer; upper and lower case are the same.</summary>
@@ -43,6 +49,7 @@ public class CadLayersList : NonGenericList
 
     /// <summary>Tells whether there is a layer of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a layer of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a layer.</summary>
@@ -55,5 +62,6 @@ public class CadLayersList : NonGenericList
     public bool Remove(CadLayerTable item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadLayerTable>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -33,7 +33,13 @@ public class CadLayoutDictionary : NonGenericDictionary
     /// <summary>Gets a layout by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadLayout this[string name] => Find(name)
+    public CadLayout this[string name] => Get(name);
+
+    /// <summary>Gives a layout by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadLayout Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no layout called '{name}'.");
 
     /// <summary>Finds a layout; upper and lower case are the same.</summary>
@@ -43,6 +49,7 @@ public class CadLayoutDictionary : NonGenericDictionary
 
     /// <summary>Tells whether there is a layout of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a layout of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a layout.</summary>
@@ -55,5 +62,6 @@ public class CadLayoutDictionary : NonGenericDictionary
     public bool Remove(CadLayout item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadLayout>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -33,7 +33,13 @@ public class CadLineTypesDictionary : NonGenericDictionary
     /// <summary>Gets a line type by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadLineTypeTableObject this[string name] => Find(name)
+    public CadLineTypeTableObject this[string name] => Get(name);
+
+    /// <summary>Gives a line type by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadLineTypeTableObject Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no line type called '{name}'.");
 
     /// <summary>Finds a line type; upper and lower case are the same.</summary>
@@ -43,6 +49,7 @@ public class CadLineTypesDictionary : NonGenericDictionary
 
     /// <summary>Tells whether there is a line type of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a line type of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a line type.</summary>
@@ -55,5 +62,6 @@ public class CadLineTypesDictionary : NonGenericDictionary
     public bool Remove(CadLineTypeTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadLineTypeTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -33,7 +33,13 @@ public class CadStylesList : NonGenericList
     /// <summary>Gets a text style by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadStyleTableObject this[string name] => Find(name)
+    public CadStyleTableObject this[string name] => Get(name);
+
+    /// <summary>Gives a text style by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadStyleTableObject Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no text style called '{name}'.");
 
     /// <summary>Finds a text style; upper and lower case are the same.</summary>
@@ -43,6 +49,7 @@ public class CadStylesList : NonGenericList
 
     /// <summary>Tells whether there is a text style of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a text style of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a text style.</summary>
@@ -55,5 +62,6 @@ public class CadStylesList : NonGenericList
     public bool Remove(CadStyleTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadStyleTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -33,7 +33,13 @@ public class CadUcsList : NonGenericList
     /// <summary>Gets a coordinate system by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadUcsTableObject this[string name] => Find(name)
+    public CadUcsTableObject this[string name] => Get(name);
+
+    /// <summary>Gives a coordinate system by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadUcsTableObject Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no coordinate system called '{name}'.");
 
     /// <summary>Finds a coordinate system; upper and lower case are the same.</summary>
@@ -43,6 +49,7 @@ public class CadUcsList : NonGenericList
 
     /// <summary>Tells whether there is a coordinate system of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a coordinate system of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a coordinate system.</summary>
@@ -55,5 +62,6 @@ public class CadUcsList : NonGenericList
     public bool Remove(CadUcsTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadUcsTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

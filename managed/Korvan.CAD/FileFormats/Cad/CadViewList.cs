@@ -33,7 +33,13 @@ public class CadViewList : NonGenericList
     /// <summary>Gets a view by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadViewTableObject this[string name] => Find(name)
+    public CadViewTableObject this[string name] => Get(name);
+
+    /// <summary>Gives a view by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadViewTableObject Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no view called '{name}'.");
 
     /// <summary>Finds a view; upper and lower case are the same.</summary>
@@ -43,6 +49,7 @@ public class CadViewList : NonGenericList
 
     /// <summary>Tells whether there is a view of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a view of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a view.</summary>
@@ -55,5 +62,6 @@ public class CadViewList : NonGenericList
     public bool Remove(CadViewTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadViewTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

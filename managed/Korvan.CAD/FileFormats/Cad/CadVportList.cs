@@ -33,7 +33,13 @@ public class CadVportList : NonGenericList
     /// <summary>Gets a screen part by its name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
     /// <exception cref="CadException">There is none of this name.</exception>
-    public CadVportTableObject this[string name] => Find(name)
+    public CadVportTableObject this[string name] => Get(name);
+
+    /// <summary>Gives a screen part by its name; upper and lower case are the same.</summary>
+    /// <param name="name">The name.</param>
+    /// <returns>What has this name. <see cref="Find"/> gives nothing where there is none.</returns>
+    /// <exception cref="CadException">There is none of this name.</exception>
+    public CadVportTableObject Get(string name) => Find(name)
         ?? throw new CadException($"The drawing has no screen part called '{name}'.");
 
     /// <summary>Finds a screen part; upper and lower case are the same.</summary>
@@ -43,6 +49,7 @@ public class CadVportList : NonGenericList
 
     /// <summary>Tells whether there is a screen part of a name; upper and lower case are the same.</summary>
     /// <param name="name">The name.</param>
+    /// <returns>Whether there is a screen part of a name.</returns>
     public bool Contains(string name) => _items.Find(name) is not null;
 
     /// <summary>Adds a screen part.</summary>
@@ -55,5 +62,6 @@ public class CadVportList : NonGenericList
     public bool Remove(CadVportTableObject item) => _items.Remove(item);
 
     /// <summary>Gives all, in order.</summary>
+    /// <returns>All, in order.</returns>
     public List<CadVportTableObject>.Enumerator GetEnumerator() => _items.Items.GetEnumerator();
 }

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
@@ -39,12 +40,14 @@ public sealed class CgmFile
 
     /// <summary>Reads a file of either encoding, perhaps packed by gzip.</summary>
     /// <param name="filePath">The file.</param>
+    /// <returns>A file of either encoding, perhaps packed by gzip.</returns>
     /// <exception cref="ImageLoadException">The file is missing, damaged, or no metafile.</exception>
     public static CgmFile Load(string filePath) => Load(filePath, false);
 
     /// <summary>Reads a file of either encoding, perhaps packed by gzip.</summary>
     /// <param name="filePath">The file.</param>
     /// <param name="ignoreErrors">Whether damaged elements are left out and told in <see cref="Messages"/>.</param>
+    /// <returns>A file of either encoding, perhaps packed by gzip.</returns>
     /// <exception cref="ImageLoadException">The file is missing, no metafile, or damaged and damage is not
     /// ignored.</exception>
     public static CgmFile Load(string filePath, bool ignoreErrors) =>
@@ -52,17 +55,19 @@ public sealed class CgmFile
 
     /// <summary>Reads a stream of either encoding, perhaps packed by gzip, to its end.</summary>
     /// <param name="stream">The stream; it stays open.</param>
+    /// <returns>A stream of either encoding, perhaps packed by gzip, to its end.</returns>
     /// <exception cref="ImageLoadException">What it holds is damaged or no metafile.</exception>
     public static CgmFile Load(Stream stream) => Load(stream, false);
 
     /// <summary>Reads a stream of either encoding, perhaps packed by gzip, to its end.</summary>
     /// <param name="stream">The stream; it stays open.</param>
     /// <param name="ignoreErrors">Whether damaged elements are left out and told in <see cref="Messages"/>.</param>
+    /// <returns>A stream of either encoding, perhaps packed by gzip, to its end.</returns>
     /// <exception cref="ImageLoadException">What it holds is no metafile, or damaged and damage is not ignored.</exception>
     public static CgmFile Load(Stream stream, bool ignoreErrors)
     {
-        ArgumentNullException.ThrowIfNull(stream);
-        return Load(ImageLoader.ReadStream(stream), "stream", new LoadOptions { IgnoreErrors = ignoreErrors });
+        Verify.NotNull(stream);
+        return Load(ImageLoader.ReadStream(stream, "stream"), "stream", new LoadOptions { IgnoreErrors = ignoreErrors });
     }
 
     /// <summary>Writes the commands to a file, which appears whole or not at all.</summary>
@@ -77,7 +82,7 @@ public sealed class CgmFile
     /// <exception cref="ImageSaveException">A command cannot be written; then nothing is.</exception>
     public void Save(Stream stream, CgmFileFormat format)
     {
-        ArgumentNullException.ThrowIfNull(stream);
+        Verify.NotNull(stream);
         using var content = new MemoryStream();
         Write(content, format, "stream");
         content.WriteTo(stream);
@@ -112,7 +117,7 @@ public sealed class CgmFile
         {
             CgmFileFormat.Binary => new DefaultBinaryWriter(stream, name).WriteCommand,
             CgmFileFormat.ClearText => new DefaultClearTextWriter(stream, name).WriteCommand,
-            _ => throw new ArgumentOutOfRangeException(nameof(format), format, "Binary and ClearText are the encodings that can be written."),
+            _ => throw Verify.OutOfRange(nameof(format), format, "Binary and ClearText are the encodings that can be written."),
         };
         Commands.ForEach(write);
     }

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
@@ -27,7 +28,7 @@ public sealed class CgmImage : Image, IVectorImage
     /// <param name="file">The metafile; it belongs to this image from now on.</param>
     public CgmImage(CgmFile file)
     {
-        ArgumentNullException.ThrowIfNull(file);
+        Verify.NotNull(file);
         File = file;
     }
 
@@ -57,6 +58,7 @@ public sealed class CgmImage : Image, IVectorImage
     public override void CacheData() => VerifyNotDisposed();
 
     /// <summary>Gives the texts of all pictures, in the order of drawing, with what they look like.</summary>
+    /// <returns>The texts of all pictures, in the order of drawing, with what they look like.</returns>
     public TextInformation[] GetTexts()
     {
         VerifyNotDisposed();
@@ -90,6 +92,12 @@ public sealed class CgmImage : Image, IVectorImage
 
         DrawingExporter.Export(this, options, stream);
     }
+
+    /// <inheritdoc/>
+    internal override string Content => $"{File.Commands.Count} commands";
+
+    /// <inheritdoc/>
+    internal override FileFormat OwnFormat => FileFormat.Cgm;
 
     /// <inheritdoc/>
     internal override void SaveData(Stream stream) => File.Save(stream, File.Encoding);

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Dicom;
 
@@ -29,8 +30,7 @@ public class Compression
         get => _quality;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, 1);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 100);
+            Verify.InRange(value, 1, 100);
             _quality = value;
         }
     }

@@ -2,6 +2,7 @@ using System;
 using System.Collections;
 using System.Collections.Generic;
 using System.Globalization;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Ifc.Model;
 
@@ -20,7 +21,7 @@ public sealed class IfcCollection : IList
     /// <param name="values">The values.</param>
     public IfcCollection(IEnumerable values)
     {
-        ArgumentNullException.ThrowIfNull(values);
+        Verify.NotNull(values);
         _items = [.. System.Linq.Enumerable.Cast<object?>(values)];
     }
 
@@ -122,10 +123,12 @@ public sealed class IfcCollection : IList
 
     /// <summary>Tells whether a value is there.</summary>
     /// <param name="value">The value.</param>
+    /// <returns>Whether a value is there.</returns>
     public bool Contains(object? value) => IndexOf(value) >= 0;
 
     /// <summary>Finds the first place of a value; -1 for none.</summary>
     /// <param name="value">The value.</param>
+    /// <returns>The first place of a value.</returns>
     public int IndexOf(object? value)
     {
         for (int i = 0; i < _items.Count; i++)
@@ -145,7 +148,7 @@ public sealed class IfcCollection : IList
     /// <param name="index">The place of the first value in it.</param>
     public void CopyTo(Array array, int index)
     {
-        ArgumentNullException.ThrowIfNull(array);
+        Verify.NotNull(array);
         for (int i = 0; i < _items.Count; i++)
         {
             array.SetValue(this[i], index + i);
@@ -174,7 +177,7 @@ public sealed class IfcCollection : IList
         VerifyWritable();
         if (index < 0 || index > last)
         {
-            throw new ArgumentOutOfRangeException(nameof(index), index, $"The list has {_items.Count} values.");
+            throw Verify.OutOfRange(nameof(index), index, $"The list has {_items.Count} values.");
         }
     }
 

@@ -51,7 +51,7 @@ public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
     /// <inheritdoc/>
     public bool IsA(string entityName)
     {
-        System.ArgumentNullException.ThrowIfNull(entityName);
+        Verify.NotNull(entityName);
         return Class.Schema.FindClassOrType(entityName) is { } other && Class.IsA(other);
     }
 
@@ -78,7 +78,7 @@ public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
     /// <inheritdoc/>
     public IReadOnlyList<IIfcEntity> GetInverse(string name)
     {
-        System.ArgumentNullException.ThrowIfNull(name);
+        Verify.NotNull(name);
         int at = Class.InverseNumber(name);
         return at >= 0
             ? InverseAt(at)
@@ -86,6 +86,7 @@ public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
     }
 
     /// <summary>Gives the record as it stands in the file, or as it would be written.</summary>
+    /// <returns>The record as it stands in the file, or as it would be written.</returns>
     public override string ToString()
     {
         if (Model is { } model && Record >= 0 && Changed == 0)
@@ -114,7 +115,7 @@ public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
 
     private int NumberOf(string name)
     {
-        System.ArgumentNullException.ThrowIfNull(name);
+        Verify.NotNull(name);
         int at = Class.AttributeNumber(name);
         return at >= 0
             ? at

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Ifc.Header;
 using Korvan.CAD.FileFormats.Ifc.Model;
@@ -88,23 +89,25 @@ public sealed class IfcImage : Image
     public IIfcEntity? GetEntityByGlobalId(string globalId)
     {
         VerifyNotDisposed();
-        ArgumentNullException.ThrowIfNull(globalId);
+        Verify.NotNull(globalId);
         return Model.FindGlobalId(globalId);
     }
 
     /// <summary>Gives the instances of an entity and of all that are derived from it.</summary>
     /// <param name="entityName">The name in the schema, in any case, with or without the edition behind it.</param>
+    /// <returns>The instances of an entity and of all that are derived from it.</returns>
     /// <exception cref="IfcImageException">The schema has no such entity.</exception>
     public IReadOnlyList<IIfcEntity> GetEntitiesOfType(string entityName) => GetEntitiesOfType(entityName, false);
 
     /// <summary>Gives the instances of an entity, in the order of the file.</summary>
     /// <param name="entityName">The name in the schema, in any case, with or without the edition behind it.</param>
     /// <param name="isExact">Whether entities that are derived from it are left out.</param>
+    /// <returns>The instances of an entity, in the order of the file.</returns>
     /// <exception cref="IfcImageException">The schema has no such entity.</exception>
     public IReadOnlyList<IIfcEntity> GetEntitiesOfType(string entityName, bool isExact)
     {
         VerifyNotDisposed();
-        ArgumentNullException.ThrowIfNull(entityName);
+        Verify.NotNull(entityName);
         IfcClass found = Model.Schema.FindClassOrType(entityName)
             ?? throw new IfcImageException($"The schema {Model.Schema.Table.Name} has no entity '{entityName}'.");
         return Model.OfClass(found, isExact);
@@ -142,6 +145,7 @@ public sealed class IfcImage : Image
     }
 
     /// <summary>Gives the texts that the model shows: those of its text literals.</summary>
+    /// <returns>The texts that the model shows.</returns>
     public override string[] GetStrings() =>
     [
         .. GetEntitiesOfType("IfcTextLiteral").Select(one => one.GetAttribute("Literal")).OfType<string>(),
@@ -158,6 +162,12 @@ public sealed class IfcImage : Image
     }
 
     /// <inheritdoc/>
+    internal override string Content => $"{Version} with {Model.Entities.Count} instances";
+
+    /// <inheritdoc/>
+    internal override FileFormat OwnFormat => Version == IfcVersion.IFC2X3 ? FileFormat.IFC2X3 : FileFormat.IFC4;
+
+    /// <inheritdoc/>
     internal override void SaveData(Stream stream)
     {
         if (_form == IfcFileForm.Xml)
@@ -168,9 +178,20 @@ public sealed class IfcImage : Image
         IfcSaver.Save(Model, Header, _form == IfcFileForm.Packed, stream);
     }
 
+    // The ending tells the two forms of the notation apart.
+    internal override Action<Stream> OwnWriter(string filePath)
+    {
+        Action<Stream> write = base.OwnWriter(filePath);
+        string ending = Path.GetExtension(filePath);
+        bool isPacked = ending.Equals(".ifczip", StringComparison.OrdinalIgnoreCase);
+        return _form != IfcFileForm.Xml && (isPacked || ending.Equals(".ifc", StringComparison.OrdinalIgnoreCase))
+            ? stream => IfcSaver.Save(Model, Header, isPacked, stream)
+            : write;
+    }
+
     private static IfcEntityBase Own(IIfcEntity entity)
     {
-        ArgumentNullException.ThrowIfNull(entity);
+        Verify.NotNull(entity);
         return entity as IfcEntityBase ?? throw new IfcImageException($"A {entity.GetType().Name} is no entity.");
     }
 }

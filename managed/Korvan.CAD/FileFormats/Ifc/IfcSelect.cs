@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Ifc.Schema;
 using Korvan.CAD.FileFormats.StepText;
@@ -14,7 +15,7 @@ public abstract class IfcSelect : IIfcSelect
     /// <exception cref="IfcImageException">The select type does not admit it.</exception>
     protected IfcSelect(IIfcType value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         VerifyMember(value.TypeName);
         if (IfcSchema.Of(value.GetType()) != IfcSchema.Of(GetType()))
         {

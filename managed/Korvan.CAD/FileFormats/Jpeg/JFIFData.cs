@@ -1,5 +1,7 @@
 using System;
 using System.Buffers.Binary;
+using System.Runtime.CompilerServices;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Jpeg;
 
@@ -78,10 +80,9 @@ public class JFIFData
         return data;
     }
 
-    private static int Verified(int value)
+    private static int Verified(int value, [CallerMemberName] string member = "")
     {
-        ArgumentOutOfRangeException.ThrowIfLessThan(value, 1);
-        ArgumentOutOfRangeException.ThrowIfGreaterThan(value, ushort.MaxValue);
+        Verify.InRange(value, 1, ushort.MaxValue, member);
         return value;
     }
 }

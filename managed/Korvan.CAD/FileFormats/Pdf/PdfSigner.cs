@@ -53,7 +53,7 @@ internal sealed partial class PdfSigner
         }
         catch (CryptographicException e)
         {
-            throw new RenderException($"The document could not be signed: {e.Message}", e);
+            throw new RenderException($"The document could not be signed: {e.Message}");
         }
     }
 

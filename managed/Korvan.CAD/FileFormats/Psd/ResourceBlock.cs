@@ -37,10 +37,10 @@ public abstract class ResourceBlock
         get => _name;
         set
         {
-            ArgumentNullException.ThrowIfNull(value);
+            Verify.NotNull(value);
             if (System.Text.Encoding.UTF8.GetByteCount(value) > 255)
             {
-                throw new ArgumentException("The name of a resource has at most 255 bytes.", nameof(value));
+                throw new ArgumentException("The name of a resource has at most 255 bytes.");
             }
 
             _name = value;
@@ -56,23 +56,26 @@ public abstract class ResourceBlock
 
     /// <summary>Reads the blocks of a PSD.</summary>
     /// <param name="filePath">The path of the file.</param>
+    /// <returns>The blocks of a PSD.</returns>
     /// <exception cref="PsdImageException">The file is no PSD.</exception>
     /// <exception cref="PsdImageResourceException">A block is damaged.</exception>
     public static ResourceBlock[] ReadAll(string filePath) => PsdResources.Of(File.ReadAllBytes(filePath), filePath);
 
     /// <summary>Reads the blocks of a PSD.</summary>
     /// <param name="stream">The stream, read from its position on.</param>
+    /// <returns>The blocks of a PSD.</returns>
     /// <exception cref="PsdImageException">The stream is no PSD.</exception>
     /// <exception cref="PsdImageResourceException">A block is damaged.</exception>
     public static ResourceBlock[] ReadAll(Stream stream)
     {
-        ArgumentNullException.ThrowIfNull(stream);
+        Verify.NotNull(stream);
         using var copy = new MemoryStream();
         stream.CopyTo(copy);
         return PsdResources.Of(copy.ToArray(), "stream");
     }
 
     /// <summary>Gives the content as it stands in the file.</summary>
+    /// <returns>The content as it stands in the file.</returns>
     public abstract byte[] ToBytes();
 
     internal void MarkRead(string name) => (_name, State) = (name, ResourceBlockState.Unchanged);

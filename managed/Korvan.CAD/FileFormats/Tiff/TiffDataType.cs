@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
@@ -9,8 +10,7 @@ public abstract class TiffDataType
 {
     internal TiffDataType(int tagId)
     {
-        ArgumentOutOfRangeException.ThrowIfNegative(tagId);
-        ArgumentOutOfRangeException.ThrowIfGreaterThan(tagId, ushort.MaxValue);
+        Verify.InRange(tagId, 0, ushort.MaxValue);
         TagId = tagId;
     }
 

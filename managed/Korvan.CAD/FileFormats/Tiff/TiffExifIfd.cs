@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Tiff.FileManagement;
 using Korvan.CAD.FileFormats.Tiff.InstanceFactory;
@@ -36,10 +37,11 @@ public class TiffExifIfd
     /// <summary>Reads a directory.</summary>
     /// <param name="reader">What reads the block.</param>
     /// <param name="offset">The place of the directory in it.</param>
+    /// <returns>A directory.</returns>
     /// <exception cref="TiffImageException">The directory or values of it lie outside of the block.</exception>
     public static TiffExifIfd Read(TiffStreamReader reader, long offset)
     {
-        ArgumentNullException.ThrowIfNull(reader);
+        Verify.NotNull(reader);
         int count = reader.ReadUShort(offset);
         var directory = new TiffExifIfd();
         long left = reader.Length * MostSharing;
@@ -58,13 +60,14 @@ public class TiffExifIfd
 
     /// <summary>Gives a field, or nothing.</summary>
     /// <param name="tagId">Its number.</param>
+    /// <returns>A field, or nothing.</returns>
     public TiffDataType? Get(int tagId) => _tags.GetValueOrDefault(tagId);
 
     /// <summary>Adds a field, or replaces that of the same number.</summary>
     /// <param name="tag">The field.</param>
     public void Set(TiffDataType tag)
     {
-        ArgumentNullException.ThrowIfNull(tag);
+        Verify.NotNull(tag);
         _tags[tag.TagId] = tag;
     }
 

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff;
 
@@ -27,11 +28,12 @@ public class TiffRational : IEquatable<TiffRational>
 
     /// <summary>Makes the fraction nearest to a number, by continued fractions.</summary>
     /// <param name="value">The number, finite and in the range of the parts.</param>
+    /// <returns>The fraction nearest to a number, by continued fractions.</returns>
     public static TiffRational FromDouble(double value)
     {
         if (!(value >= 0 && value <= int.MaxValue))
         {
-            throw new ArgumentOutOfRangeException(nameof(value), value, "The number has no place in a fraction of 32 bits.");
+            throw Verify.OutOfRange("number", value, "It has no place in a fraction of 32 bits.");
         }
 
         (long numerator, long denominator) = Fractions.Nearest(value, Precision, int.MaxValue);
@@ -40,6 +42,7 @@ public class TiffRational : IEquatable<TiffRational>
 
     /// <summary>Tells whether both parts are the same.</summary>
     /// <param name="other">The fraction to compare with.</param>
+    /// <returns>Whether both parts are the same.</returns>
     public bool Equals(TiffRational? other) =>
         other is not null && Numerator == other.Numerator && Denominator == other.Denominator;
 
@@ -54,8 +57,7 @@ public class TiffRational : IEquatable<TiffRational>
 
     private static long Verified(long value, string name)
     {
-        ArgumentOutOfRangeException.ThrowIfNegative(value, name);
-        ArgumentOutOfRangeException.ThrowIfGreaterThan(value, uint.MaxValue, name);
+        Verify.InRange(value, 0, uint.MaxValue, name);
         return value;
     }
 }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff;
 
@@ -27,11 +28,12 @@ public class TiffSRational : IEquatable<TiffSRational>
 
     /// <summary>Makes the fraction nearest to a number, by continued fractions.</summary>
     /// <param name="value">The number, finite and in the range of the parts.</param>
+    /// <returns>The fraction nearest to a number, by continued fractions.</returns>
     public static TiffSRational FromDouble(double value)
     {
         if (!(value >= -int.MaxValue && value <= int.MaxValue))
         {
-            throw new ArgumentOutOfRangeException(nameof(value), value, "The number has no place in a fraction of 32 bits.");
+            throw Verify.OutOfRange("number", value, "It has no place in a fraction of 32 bits.");
         }
 
         (long numerator, long denominator) = Fractions.Nearest(value, Precision, int.MaxValue);
@@ -40,6 +42,7 @@ public class TiffSRational : IEquatable<TiffSRational>
 
     /// <summary>Tells whether both parts are the same.</summary>
     /// <param name="other">The fraction to compare with.</param>
+    /// <returns>Whether both parts are the same.</returns>
     public bool Equals(TiffSRational? other) =>
         other is not null && Numerator == other.Numerator && Denominator == other.Denominator;
 

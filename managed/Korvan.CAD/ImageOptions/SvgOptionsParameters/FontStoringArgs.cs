@@ -34,6 +34,7 @@ public class FontStoringArgs
     public string FontFileUri { get; set; } = "";
 
     /// <summary>Gives the content of the font file.</summary>
+    /// <returns>The content of the font file.</returns>
     /// <exception cref="ImageSaveException">The file is gone or cannot be read.</exception>
     public byte[] GetFontData()
     {
@@ -43,7 +44,7 @@ public class FontStoringArgs
         }
         catch (System.Exception e) when (e is IOException or System.UnauthorizedAccessException)
         {
-            throw new ImageSaveException($"The font '{SourceFontFileName}' could not be read: {e.Message}", e);
+            throw new ImageSaveException($"The font '{SourceFontFileName}' could not be read: {e.Message}");
         }
     }
 }

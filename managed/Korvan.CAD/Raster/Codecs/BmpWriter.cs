@@ -2,6 +2,7 @@ using System;
 using System.Buffers.Binary;
 using System.Collections.Generic;
 using System.IO;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Bmp;
 using Korvan.CAD.ImageOptions;
@@ -24,13 +25,13 @@ internal static class BmpWriter
         bool rle = options.Compression == BitmapCompression.Rle8;
         if (bits is not (1 or 4 or 8 or 24 or 32))
         {
-            throw new BmpImageException($"Bitmaps are written with 1, 4, 8, 24 or 32 BitsPerPixel, not {bits}.");
+            throw new BmpImageException($"Bitmaps are written with 1, 4, 8, 24 or 32 for bits_per_pixel, not {bits}.");
         }
 
         if (options.Compression is not (BitmapCompression.Rgb or BitmapCompression.Rle8) || (rle && bits != 8))
         {
-            throw new BmpImageException($"Bitmaps of {bits} bits a pixel are not written with the Compression {options.Compression};"
-                + " choose Rgb, or Rle8 with 8 bits.");
+            throw new BmpImageException($"Bitmaps of {bits} bits a pixel are not written with the compression {Verify.NameOf(options.Compression)};"
+                + " choose RGB, or RLE8 with 8 bits.");
         }
 
         if (bits != 32)

@@ -2,11 +2,12 @@ using System;
 using System.Collections.Generic;
 using System.Globalization;
 using System.IO;
+using J2K = Korvan.CAD.FileFormats.Jpeg2000.Jpeg2000Codec;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Dicom;
 using Korvan.CAD.FileFormats.Jpeg;
 using Korvan.CAD.ImageOptions;
-using J2K = Korvan.CAD.FileFormats.Jpeg2000.Jpeg2000Codec;
 
 namespace Korvan.CAD.Raster.Codecs;
 
@@ -28,7 +29,7 @@ internal sealed class DicomWriter
         bits = options.ColorType == ColorType.Grayscale16Bit ? 16 : 8;
         if (bits == 16 && options.Compression.Type is not (CompressionType.None or CompressionType.Rle))
         {
-            throw new ImageSaveException($"Samples of 16 bits are stored plain or as run lengths, not as {options.Compression.Type}.");
+            throw new ImageSaveException($"Samples of 16 bits are stored plain or as run lengths, not as {Verify.NameOf(options.Compression.Type)}.");
         }
     }
 

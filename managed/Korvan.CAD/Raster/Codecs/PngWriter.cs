@@ -1,5 +1,6 @@
 using System;
 using System.IO;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Png;
 using Korvan.CAD.ImageOptions;
@@ -59,7 +60,7 @@ internal static class PngWriter
         bool small = type is PngColorType.Grayscale or PngColorType.IndexedColor;
         if (options.BitDepth != 8 && !small)
         {
-            throw new PngImageException($"A PNG of {type} is written with a BitDepth of 8 bits a sample, not {options.BitDepth}.");
+            throw new PngImageException($"A PNG of {Verify.NameOf(type)} is written with a bit_depth of 8 bits a sample, not {options.BitDepth}.");
         }
 
         return new PngHead(pixels.Width, pixels.Height, options.BitDepth, type);

@@ -87,9 +87,9 @@ internal static class TiffPresets
         yield return (nameof(TiffOptions.FillOrder), options.FillOrder != TiffFillOrders.Msb2Lsb, IsFax(options.Compression),
             "choose a facsimile code");
         yield return (nameof(TiffOptions.FaxT4Options), options.FaxT4Options != 0, options.Compression == TiffCompressions.CcittFax3,
-            "choose CcittFax3");
+            "choose CCITT_FAX3");
         yield return (nameof(TiffOptions.CompressedQuality), options.CompressedQuality != TiffOptions.UsualQuality,
-            options.Compression == TiffCompressions.Jpeg, "choose Jpeg as compression");
+            options.Compression == TiffCompressions.Jpeg, "choose JPEG as compression");
     }
 
     internal static bool IsFax(TiffCompressions compression) =>

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Raster.Colors;
 
@@ -9,7 +10,7 @@ internal static class DitherPalette
     {
         if (bits is < 1 or > 8)
         {
-            throw new ArgumentOutOfRangeException(nameof(bits), bits, "The number of a colour takes 1 to 8 bits.");
+            throw Verify.OutOfRange(nameof(bits), bits, "The number of a colour takes 1 to 8 bits.");
         }
 
         return given == null && bits == 1

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Raster.Colors;
 
@@ -25,7 +26,7 @@ internal static class Quantizer
             ColorQuantizationMethod.Octree => OctreeQuantizer.Choose(visible, room),
             ColorQuantizationMethod.Uniform => Uniform(room),
             ColorQuantizationMethod.MedianCut => MedianCut(visible, room),
-            _ => throw new ArgumentOutOfRangeException(nameof(method), method, "There is no such way to choose colours."),
+            _ => throw Verify.OutOfRange(nameof(method), method, "There is no such way to choose colours."),
         };
         return transparent ? [0, .. chosen] : chosen;
     }

@@ -1,5 +1,6 @@
 using System;
 using System.IO;
+using System.Runtime.ExceptionServices;
 using System.Runtime.InteropServices;
 
 namespace Korvan.CAD.Raster.Native;
@@ -34,7 +35,7 @@ internal sealed unsafe class StreamBridge : IDisposable
     {
         if (Failure != null)
         {
-            throw new IOException("The stream failed while the picture was written: " + Failure.Message, Failure);
+            ExceptionDispatchInfo.Throw(Failure);
         }
     }
 

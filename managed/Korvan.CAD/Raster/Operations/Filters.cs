@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Raster.Operations;
 
@@ -13,7 +14,7 @@ internal static class Filters
         ImageFilterType.Sharpen => Sharpen(from, size),
         ImageFilterType.Edges => Edges(from),
         ImageFilterType.Emboss => Square(from, [-2, -1, 0, -1, 1, 1, 0, 1, 2], 0),
-        _ => throw new ArgumentOutOfRangeException(nameof(type), type, "There is no such filter."),
+        _ => throw Verify.OutOfRange(nameof(type), type, "There is no such filter."),
     };
 
     private static double[] Uniform(int size)

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Raster.Operations;
 
@@ -63,7 +64,7 @@ internal sealed class ResizeKernel
         ResizeType.Mitchell => (Cubic(1 / 3.0, 1 / 3.0), 2),
         ResizeType.Lanczos => (Lanczos, 3),
         ResizeType.Adaptive => Shape(Adapted(from, to), from, to),
-        _ => throw new ArgumentOutOfRangeException(nameof(type), type, "There is no such way of resizing."),
+        _ => throw Verify.OutOfRange(nameof(type), type, "There is no such way of resizing."),
     };
 
     private static ResizeType Adapted(int from, int to) =>

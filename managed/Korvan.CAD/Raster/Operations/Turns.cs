@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Raster.Operations;
 
@@ -12,7 +13,7 @@ internal static class Turns
     {
         if ((uint)type > 7)
         {
-            throw new ArgumentOutOfRangeException(nameof(type), type, "There is no such turn.");
+            throw Verify.OutOfRange(nameof(type), type, "There is no such turn.");
         }
 
         int quarters = (int)type & 3;

@@ -261,7 +261,7 @@ internal static class EntityFaces
         bool smooth = (mesh.Flag & CadPolylineFlag.SplineFit) != 0 && mesh.SurfaceMDensity > 1 && mesh.SurfaceNDensity > 1;
         int m = smooth ? mesh.SurfaceMDensity : mesh.MeshMVertexCount;
         int n = smooth ? mesh.SurfaceNDensity : mesh.MeshNVertexCount;
-        List<CadVertexBase> points = smooth
+        IList<CadVertexBase> points = smooth
             ? mesh.Vertices.FindAll(v => (v.VertexFlags & SplineFrameVertex) == 0)
             : mesh.Vertices;
         if (m < 2 || n < 2 || (long)m * n > points.Count)

@@ -1,5 +1,6 @@
 using System.Collections.Generic;
 using System.IO;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Geometry;
@@ -47,7 +48,7 @@ internal static class MeshExporter
         if (parts.Count == 0)
         {
             throw new RenderException(
-                $"The drawing has no faces that show, and a file of the format {options.TargetFormat} holds nothing else: "
+                $"The drawing has no faces that show, and a file of the format {Verify.NameOf(options.TargetFormat)} holds nothing else: "
                 + "neither faces, meshes and solids nor anything that has a thickness.");
         }
 

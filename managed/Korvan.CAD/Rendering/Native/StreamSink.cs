@@ -1,6 +1,7 @@
 using System;
 using System.IO;
 using System.Runtime.CompilerServices;
+using System.Runtime.ExceptionServices;
 using System.Runtime.InteropServices;
 
 namespace Korvan.CAD.Rendering.Native;
@@ -46,7 +47,7 @@ internal sealed unsafe class StreamSink : IDisposable
     {
         if (failure != null)
         {
-            throw new IOException("The output stream failed while the drawing was written: " + failure.Message, failure);
+            ExceptionDispatchInfo.Throw(failure);
         }
     }
 

@@ -88,7 +88,7 @@ internal sealed class ExportOptions
             Background = Background,
             Ink = Ink,
             SingleColor = single ? ToRgba(cad!.DrawColor) : null,
-            Layers = LayerFilter(),
+            Layers = LayerChoice.Of(options),
             AsPlotted = cad != null && cad.VisibilityMode == VisibilityMode.AsPrint,
             CoarseHatches = cad?.Quality.Hatch == RasterizationQualityValue.Low,
             CircleSides = cad?.Quality.ObjectsPrecision switch
@@ -156,18 +156,6 @@ internal sealed class ExportOptions
     {
         double? millimetres = device == DeviceKind.Pixels || vector == null ? null : LengthUnits.Millimetres(vector.UnitType);
         return millimetres is double mm ? mm * UnitsPerMillimetre : 1;
-    }
-
-    private HashSet<string>? LayerFilter()
-    {
-        if (options.Layers.Length == 0 && (cad == null || cad.Layers.Length == 0))
-        {
-            return null;
-        }
-
-        var names = new HashSet<string>(options.Layers, StringComparer.OrdinalIgnoreCase);
-        names.UnionWith(cad?.Layers ?? []);
-        return names;
     }
 
     private Action? Deadline()

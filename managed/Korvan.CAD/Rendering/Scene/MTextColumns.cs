@@ -23,7 +23,7 @@ internal readonly record struct MTextColumns(int Count, double Width, double Gut
         }
 
         CadXdata? data = text.XdataOrNull?.Find("ACAD");
-        return data == null ? default : Read(data.Data);
+        return data == null ? default : Read(data.Data.ItemsOf());
     }
 
     private static MTextColumns ReadEmbedded(List<CadCodeValue> tags)

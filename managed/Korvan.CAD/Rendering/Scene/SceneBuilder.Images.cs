@@ -28,7 +28,7 @@ internal sealed partial class SceneBuilder
     private void DrawImage(CadRasterImage image, in Pen pen, BlockContext context)
     {
         bool clipped = image.ClippingState != 0 && (image.DisplayFlags & UsesClipping) != 0;
-        List<Cad2DPoint> boundary = clipped ? image.ClipBoundaryVertices : [];
+        IList<Cad2DPoint> boundary = clipped ? image.ClipBoundaryVertices : [];
         Picture? picture = (image.DisplayFlags & ShowsImage) == 0 ? null : tables.Pictures.Find(image.ImageDefReference);
         if (picture == null)
         {
@@ -65,7 +65,7 @@ internal sealed partial class SceneBuilder
     /// row. Two points are corners of a rectangle, more are a polygon, none the whole image.
     /// </summary>
     private void AddImageOutline(
-        Cad3DPoint origin, Cad3DPoint u, Cad3DPoint v, Cad2DPoint size, List<Cad2DPoint> boundary, BlockContext context)
+        Cad3DPoint origin, Cad3DPoint u, Cad3DPoint v, Cad2DPoint size, IList<Cad2DPoint> boundary, BlockContext context)
     {
         var pixels = new Affine3(V(u), -V(v), Vec3.UnitZ, V(origin) + (V(v) * size.Y));
         var path = new PathPen(canvas.NewPath(), context.Map * pixels);

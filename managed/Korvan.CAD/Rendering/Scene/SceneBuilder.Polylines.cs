@@ -199,7 +199,7 @@ internal sealed partial class SceneBuilder
         bool smooth = (mesh.Flag & CadPolylineFlag.SplineFit) != 0 && mesh.SurfaceMDensity > 1 && mesh.SurfaceNDensity > 1;
         int m = smooth ? mesh.SurfaceMDensity : mesh.MeshMVertexCount;
         int n = smooth ? mesh.SurfaceNDensity : mesh.MeshNVertexCount;
-        List<CadVertexBase> points = smooth
+        IList<CadVertexBase> points = smooth
             ? mesh.Vertices.FindAll(v => (v.VertexFlags & SplineFrameVertex) == 0)
             : mesh.Vertices;
         if (m < 1 || n < 1 || (long)m * n > points.Count)
@@ -222,7 +222,7 @@ internal sealed partial class SceneBuilder
         canvas.Stroke(pen);
     }
 
-    private static void AddRow(in PathPen path, List<CadVertexBase> points, int first, int step, int count, bool closed)
+    private static void AddRow(in PathPen path, IList<CadVertexBase> points, int first, int step, int count, bool closed)
     {
         path.MoveTo(V(points[first].LocationPoint));
         for (int i = 1; i < count; i++)

@@ -31,7 +31,7 @@ internal static class CSharpValues
         ValueKind.Struct => $"Handles.Struct<{value.CSharpName}>({name})",
         ValueKind.Interface => $"References.Read<{value.CSharpName}>({name})",
         ValueKind.Object => $"scope.Any({name})",
-        ValueKind.Stream => $"scope.Stream({name})",
+        ValueKind.Stream => value.IsKept ? $"scope.KeptStream({name})" : $"scope.Stream({name})",
         ValueKind.DateTime => $"PyValues.ReadDateTime({name})",
         ValueKind.DateTimeOffset => $"PyValues.ReadDateTimeOffset({name})",
         ValueKind.TimeSpan => $"new global::System.TimeSpan({name})",

@@ -18,22 +18,23 @@ public sealed class PyStream : Stream, IPyAdapter
     private readonly PyReference _reference;
     private readonly PyRawStream _raw;
     private readonly Stream _target;
+    private readonly bool _isKept;
     private bool _isClosed;
     private bool _isSettled;
     private bool _isClean;
 
-    internal PyStream(PyReference reference, bool isBuffered)
+    internal PyStream(PyReference reference, bool isBuffered, bool isKept = false)
     {
         _reference = reference;
+        _isKept = isKept;
         _raw = new PyRawStream(reference);
-        // Reading ahead of what can't go back would lose bytes.
-        if (!isBuffered || (!_raw.CanSeek && _raw.CanRead))
+        // Reading ahead of what can't go back would lose bytes. A closed file has no use for a block.
+        if (!isBuffered || (!_raw.CanSeek && _raw.CanRead) || (!_raw.CanRead && !_raw.CanWrite))
         {
             _target = _raw;
             return;
         }
-        // A closed file is told by the block that is made for it.
-        BufferedStream? spare = _raw.CanRead || _raw.CanWrite ? s_spare : null;
+        BufferedStream? spare = s_spare;
         s_spare = null;
         if (spare?.UnderlyingStream is PyRawStream kept)
         {
@@ -99,6 +100,12 @@ public sealed class PyStream : Stream, IPyAdapter
 
     void IPyAdapter.Abandon()
     {
+        if (_isKept)
+        {
+            _isClosed = true;
+            (_reference as KeptPyReference)?.Release();
+            return;
+        }
         // What a Python stream took a part of before it failed would reach it twice.
         if (_raw.HasFailed)
         {
@@ -116,6 +123,10 @@ public sealed class PyStream : Stream, IPyAdapter
 
     void IPyAdapter.End()
     {
+        if (_isKept)
+        {
+            return;
+        }
         if (_isClean && !_isClosed && _target is BufferedStream buffered)
         {
             _raw.Retarget(null);

@@ -24,8 +24,18 @@ public static unsafe class SiApiCntCollection
     [UnmanagedCallersOnly]
     public static int SqContains(nint handle, VariantArg* value)
     {
-        int count = Count(handle, value);
-        return count > 0 ? 1 : count;
+        try
+        {
+            // A dictionary is asked for its keys as well, as Python's are.
+            object? wanted = Variants.ReadItem(value);
+            return wanted is string key && Handles.Self<ICollection>(handle) is IDictionary entries && entries.Contains(key)
+                ? 1
+                : Math.Sign(Count(handle, value));
+        }
+        catch (Exception e)
+        {
+            return Boundary.Failed(e);
+        }
     }
 
     [UnmanagedCallersOnly]

@@ -1,3 +1,4 @@
+using System;
 using System.Collections;
 using System.Runtime.InteropServices;
 using Api = Korvan.WrpGen.Generic.ListApi<
@@ -78,8 +79,18 @@ public static unsafe class SiApiCntList
         Api.IndexBy(handle, hasStart, start, hasStop, stop, (nint)value);
 
     [UnmanagedCallersOnly]
-    public static int SqContains(nint handle, VariantArg* value) =>
-        Api.SqContains(handle, (nint)value);
+    public static int SqContains(nint handle, VariantArg* value)
+    {
+        try
+        {
+            // The list's own answer: one of named objects knows them by their names, too.
+            return Handles.Self<IList>(handle).Contains(Variants.ReadItem(value)) ? 1 : 0;
+        }
+        catch (Exception e)
+        {
+            return Boundary.Failed(e);
+        }
+    }
 
     [UnmanagedCallersOnly]
     public static int CountOf(nint handle, VariantArg* value) =>

@@ -76,6 +76,7 @@ internal static class OptionExpectations
         (Vector + "ScaleMethod", "None"),
         (Vector + "PenOptions.StartCap", "Triangle"),
         (Vector + "PenOptions.EndCap", "Triangle"),
+        (Vector + "GraphicsOptions.InterpolationMode", "Invalid"),
     ];
 
     /// <summary>Options that change nothing: source, classes, path, values, and why that is right.</summary>

@@ -4,6 +4,7 @@ using System.Linq;
 using System.Reflection;
 using System.Text.RegularExpressions;
 using Korvan.CAD.ImageOptions;
+using Korvan.WrpGen.Naming;
 
 namespace Korvan.CAD.Tests.Options;
 
@@ -51,7 +52,7 @@ internal sealed class OptionMember
         Property.SetValue(Holder(root), value, BindingFlags.DoNotWrapExceptions, null, null, null);
 
     /// <summary>Tells whether a message names the member, or what it stands in.</summary>
-    internal bool IsNamedBy(string message) => _way.Any(step => Regex.IsMatch(message, $@"\b{step.Name}\b(?!\.\w)"));
+    internal bool IsNamedBy(string message) => _way.Any(step => Regex.IsMatch(message, $@"\b{PythonName.Lower(step.Name)}\b(?!\.\w)"));
 
     public override string ToString() => $"{Root.Name}.{Path}";
 

@@ -41,7 +41,7 @@ public class EntityChaosTests
         {
             CadEntityBase[] entities = [.. Enumerable.Range(0, EntitiesInADrawing).Select(_ => Any(random))];
             using CadImage drawing = Picture.Drawing(entities);
-            Picture.AddBlock(drawing, "block", entities[0]);
+            Picture.AddBlock(drawing, "block", Any(random));
             ImageOptionsBase options = Outputs[i % Outputs.Length];
             if (options is not (DxfOptions or GlbOptions or StlOptions))
             {

@@ -41,7 +41,7 @@ internal sealed class Picture : IDisposable
         var drawing = new CadImage();
         foreach (CadEntityBase entity in entities)
         {
-            drawing.AddEntity(entity);
+            drawing.AddEntity(entity.Home is null ? entity : entity.Clone());
         }
 
         return drawing;

@@ -16,5 +16,5 @@ public class CadApplicationCodes
     public string ApplicationName { get; set; }
 
     /// <summary>Gets the tags of the group. The list is live.</summary>
-    public List<CadCodeValue> Codes { get; } = [];
+    public IList<CadCodeValue> Codes { get; } = new CheckedList<CadCodeValue>("codes");
 }

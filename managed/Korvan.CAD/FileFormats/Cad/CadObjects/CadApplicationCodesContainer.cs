@@ -12,7 +12,7 @@ public class CadApplicationCodesContainer
     }
 
     /// <summary>Gets the groups. The list is live.</summary>
-    public List<CadApplicationCodes> ApplicationCodes { get; } = [];
+    public IList<CadApplicationCodes> ApplicationCodes { get; } = new CheckedList<CadApplicationCodes>("application_codes");
 
     /// <summary>Finds a group.</summary>
     /// <param name="applicationName">Its name, as in ACAD_XDICTIONARY.</param>

@@ -10,6 +10,7 @@ public partial class CadBlockEntity : CadEntityBase
     /// <summary>Creates the object with its defaults.</summary>
     public CadBlockEntity()
     {
+        Entities = new EntityList<CadEntityBase>("entities", this);
     }
 
     /// <inheritdoc/>
@@ -41,7 +42,7 @@ public partial class CadBlockEntity : CadEntityBase
     public string Description { get; set; } = "";
 
     /// <summary>Gets the entities of the block in drawing order. The list is live.</summary>
-    public List<CadEntityBase> Entities { get; internal set; } = [];
+    public IList<CadEntityBase> Entities { get; }
 
     /// <summary>Gets whether the content stands in another file.</summary>
     public bool IsExternalReference => (Flags & 4) != 0;

@@ -1,4 +1,6 @@
+using System;
 using Korvan.CAD.Annotations;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dxf;
@@ -12,6 +14,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadObject("", Subclass = "AcDbEntity")]
 public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEntity, IAnnotateable
 {
+    private const short AciByBlock = 0;
+    private const short AciByLayer = 256;
+
     internal CadEntityBase()
     {
     }
@@ -34,8 +39,17 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEnt
     public string LayoutTabName { get; set; } = "";
 
     /// <summary>Gets or sets the name of the layer. Group code 8.</summary>
-    [CadString(8)]
-    public string LayerName { get; set; } = "0";
+    /// <exception cref="CadException">The name has a character that layers cannot have in their names.</exception>
+    public string LayerName
+    {
+        get => StoredLayer;
+        set
+        {
+            Verify.NotNull(value);
+            SymbolNames.VerifyLayer(value);
+            StoredLayer = value;
+        }
+    }
 
     /// <summary>Gets or sets the name of the line type; "BYLAYER" and "BYBLOCK" take it from there. Group
     /// code 6.</summary>
@@ -48,8 +62,16 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEnt
     public string Material { get; set; } = "";
 
     /// <summary>Gets or sets the number of the colour: 1 to 255, 256 by layer, 0 by block. Group code 62.</summary>
-    [CadShort(62, Optional = true)]
-    public short ColorId { get; set; } = 256;
+    /// <exception cref="ArgumentOutOfRangeException">The number is not 0 to 256.</exception>
+    public short ColorId
+    {
+        get => StoredColor;
+        set
+        {
+            Verify.InRange(value, AciByBlock, AciByLayer);
+            StoredColor = value;
+        }
+    }
 
     /// <summary>Gets or sets the line weight in hundredths of a millimetre; -1 by layer, -2 by block, -3 the
     /// default. Group code 370.</summary>
@@ -87,7 +109,34 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEnt
     [CadShort(284, Optional = true, Since = 2007)]
     public CadShadowMode ShadowMode { get; set; }
 
+    /// <summary>Gets or sets the name of the layer as it stands in the file, whatever it is.</summary>
+    [CadString(8)]
+    internal string StoredLayer { get; set; } = "0";
+
+    /// <summary>Gets or sets the number of the colour as it stands in the file, whatever it is.</summary>
+    [CadShort(62, Optional = true)]
+    internal short StoredColor { get; set; } = 256;
+
+    /// <summary>Gets or sets the list that the entity is in.</summary>
+    internal IEntityList? Home { get; set; }
+
+    /// <summary>Gets or sets how often it stands there: once, but for moments.</summary>
+    internal int Places { get; set; }
+
+    /// <summary>Makes a copy that belongs to no drawing and has no handle yet, with copies of vertices and attributes. What it
+    /// names, as layers, blocks and styles, stays with the drawing; layers that a drawing lacks are added when it is saved.
+    /// </summary>
+    /// <returns>An entity of the same class.</returns>
+    /// <exception cref="CadException">The entity holds values that drawings cannot hold, as numbers that are not
+    /// finite.</exception>
+    public CadEntityBase Clone() => EntityCopy.Of(this);
+
+    /// <summary>Gives what the entity is, its layer and its place in one line.</summary>
+    /// <returns>What the entity is, its layer and its place in one line.</returns>
+    public override string ToString() => EntityText.Of(this);
+
     /// <summary>Gives the point that an annotation points to: the middle of the entity, in world coordinates.</summary>
+    /// <returns>The point that an annotation points to.</returns>
     /// <exception cref="CadException">The entity takes no room of its own, as a line without end.</exception>
     public virtual Point3D GetAnnotationPoint()
     {

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Globalization;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dxf;
@@ -30,6 +31,7 @@ public partial class CadHeader
 
     /// <summary>Tells whether the drawing states a variable.</summary>
     /// <param name="name">The name, as in $LTSCALE; upper and lower case are the same.</param>
+    /// <returns>Whether the drawing states a variable.</returns>
     public bool Contains(string name) => _values.ContainsKey(name);
 
     /// <summary>Gives a variable as a number.</summary>
@@ -80,6 +82,7 @@ public partial class CadHeader
 
     /// <summary>Gives the tags of a variable. The list is live: changes change the drawing.</summary>
     /// <param name="name">The name; upper and lower case are the same.</param>
+    /// <returns>The tags of a variable.</returns>
     /// <exception cref="CadException">The drawing does not state it.</exception>
     public List<CadCodeValue> GetTags(string name)
     {
@@ -93,8 +96,8 @@ public partial class CadHeader
     /// <param name="value">The text of the value.</param>
     public void SetTag(string name, int groupCode, string value)
     {
-        ArgumentException.ThrowIfNullOrEmpty(name);
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotEmpty(name);
+        Verify.NotNull(value);
         Set(name, groupCode, value);
     }
 
@@ -103,7 +106,7 @@ public partial class CadHeader
     /// <param name="point">The value.</param>
     public void SetPoint(string name, Cad3DPoint point)
     {
-        ArgumentNullException.ThrowIfNull(point);
+        Verify.NotNull(point);
         List<CadCodeValue> tags = TagsOf(name);
         bool flat = tags.Count == 2;
         tags.Clear();

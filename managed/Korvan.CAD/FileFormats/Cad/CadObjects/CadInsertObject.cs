@@ -13,6 +13,7 @@ public partial class CadInsertObject : CadEntityBase
     /// <summary>Creates the object with its defaults.</summary>
     public CadInsertObject()
     {
+        Attributes = new EntityList<CadAttrib>("attributes", this);
     }
 
     /// <summary>Gets or sets the name of the block. Group code 2.</summary>
@@ -62,7 +63,7 @@ public partial class CadInsertObject : CadEntityBase
     public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
 
     /// <summary>Gets the attributes of the insertion. The list is live.</summary>
-    public List<CadAttrib> Attributes { get; } = [];
+    public IList<CadAttrib> Attributes { get; }
 
     /// <summary>Gets or sets the entity that ends the attributes; nothing when there are none.</summary>
     public CadSeqend? Seqend { get; set; }

@@ -47,7 +47,7 @@ public partial class CadLeader : CadEntityBase
     public double TextWidth { get; set; }
 
     /// <summary>Gets the vertices from the arrowhead on, in world coordinates. Group codes 10, 20, 30.</summary>
-    public List<Cad3DPoint> Coordinates { get; } = [];
+    public IList<Cad3DPoint> Coordinates { get; } = new CheckedList<Cad3DPoint>("coordinates");
 
     /// <summary>Gets or sets the number of the colour to use where dimension style or block say "by block". Group
     /// code 77.</summary>

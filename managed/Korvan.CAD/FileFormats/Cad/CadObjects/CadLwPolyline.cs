@@ -26,7 +26,7 @@ public partial class CadLwPolyline : CadExtrudedEntityBase
     public double Elevation { get; set; }
 
     /// <summary>Gets the vertices, in object coordinates. The list is live. Group codes 10, 20.</summary>
-    public List<Cad2DPoint> Coordinates { get; } = [];
+    public IList<Cad2DPoint> Coordinates { get; } = new CheckedList<Cad2DPoint>("coordinates");
 
     /// <summary>Gets the bulges of the pieces that begin at the vertices: the tangent of a quarter of the arc's
     /// angle, 0 for a straight piece, negative clockwise. Vertices beyond the end of the list have 0. The list is

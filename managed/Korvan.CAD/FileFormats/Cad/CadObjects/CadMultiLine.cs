@@ -47,7 +47,7 @@ public partial class CadMultiLine : CadEntityBase
     public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
 
     /// <summary>Gets the vertices. The list is live.</summary>
-    public List<CadMultiLineVectorBlock> Vertices { get; } = [];
+    public IList<CadMultiLineVectorBlock> Vertices { get; } = new CheckedList<CadMultiLineVectorBlock>("vertices");
 
     partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
     {

@@ -68,7 +68,7 @@ public partial class CadRasterImage : CadEntityBase
 
     /// <summary>Gets the clipping boundary in pixels, from the upper left corner and half a pixel outwards. Group
     /// codes 14, 24.</summary>
-    public List<Cad2DPoint> ClipBoundaryVertices { get; } = [];
+    public IList<Cad2DPoint> ClipBoundaryVertices { get; } = new CheckedList<Cad2DPoint>("clip_boundary_vertices");
 
     /// <summary>Gets or sets which side of the boundary is shown: 0 the inside, 1 the outside. Group code
     /// 290.</summary>

@@ -55,11 +55,11 @@ public partial class CadSpline : CadEntityBase
     public List<double> Weights { get; } = [];
 
     /// <summary>Gets the control points, in world coordinates. The list is live. Group codes 10, 20, 30.</summary>
-    public List<Cad3DPoint> ControlPoints { get; } = [];
+    public IList<Cad3DPoint> ControlPoints { get; } = new CheckedList<Cad3DPoint>("control_points");
 
     /// <summary>Gets the points that the curve runs through, in world coordinates. The list is live. Group codes 11,
     /// 21, 31.</summary>
-    public List<Cad3DPoint> FitPoints { get; } = [];
+    public IList<Cad3DPoint> FitPoints { get; } = new CheckedList<Cad3DPoint>("fit_points");
 
     /// <summary>Gets whether the curve is closed.</summary>
     public bool IsClosed => (Flag & 1) != 0;

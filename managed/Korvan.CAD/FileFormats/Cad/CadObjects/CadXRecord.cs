@@ -13,7 +13,7 @@ public partial class CadXRecord : CadObjectBase
     }
 
     /// <summary>Gets the tags, group codes 1 to 369. The list is live.</summary>
-    public List<CadCodeValue> Data { get; } = [];
+    public IList<CadCodeValue> Data { get; } = new CheckedList<CadCodeValue>("data");
 
     partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
     {

@@ -16,5 +16,5 @@ public class CadXdata
     public string RegisteredApplicationName { get; set; }
 
     /// <summary>Gets the tags, group codes 1000 to 1071. The list is live.</summary>
-    public List<CadCodeValue> Data { get; } = [];
+    public IList<CadCodeValue> Data { get; } = new CheckedList<CadCodeValue>("data");
 }

@@ -12,7 +12,7 @@ public class CadXdataContainer
     }
 
     /// <summary>Gets the extended data of each program. The list is live.</summary>
-    public List<CadXdata> XdataEntities { get; } = [];
+    public IList<CadXdata> XdataEntities { get; } = new CheckedList<CadXdata>("xdata_entities");
 
     /// <summary>Finds the extended data of a program.</summary>
     /// <param name="registeredApplicationName">The name of the program; upper and lower case are the same.</param>

@@ -1,5 +1,8 @@
+using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -7,15 +10,44 @@ namespace Korvan.CAD.FileFormats.Cad.CadTables;
 [CadObject("LAYER", Subclass = "AcDbLayerTableRecord")]
 public partial class CadLayerTable : CadSymbolTableGroupCodes
 {
+    private const int LastColor = 255;
+
     /// <summary>Creates the object with its defaults.</summary>
     public CadLayerTable()
     {
     }
 
+    /// <summary>Makes a layer of a name that stands in a file, whatever it is.</summary>
+    internal static CadLayerTable Stored(string name)
+    {
+        CadLayerTable layer = new();
+        layer.StoreName(name);
+        return layer;
+    }
+
+    private protected override void VerifyName(string name) => SymbolNames.VerifyLayer(name);
+
+    /// <summary>Gives the name and state of the layer in one line.</summary>
+    /// <returns>The name and state of the layer in one line.</returns>
+    public override string ToString() =>
+        $"{base.ToString()}, colour {StoredColor}{(IsOn ? "" : ", off")}{(IsFrozen ? ", frozen" : "")}{(IsLocked ? ", locked" : "")}";
+
     /// <summary>Gets or sets the number of the colour, 1 to 255; negative while the layer is off. Group code
     /// 62.</summary>
-    [CadShort(62)]
-    public short ColorId { get; set; } = 7;
+    /// <exception cref="ArgumentOutOfRangeException">The number is 0, or beyond 255 or -255.</exception>
+    public short ColorId
+    {
+        get => StoredColor;
+        set
+        {
+            if (value == 0 || Math.Abs((int)value) > LastColor)
+            {
+                throw Verify.OutOfRange(nameof(value), value, "It has to be 1 to 255, or the negative of that.");
+            }
+
+            StoredColor = value;
+        }
+    }
 
     /// <summary>Gets or sets the colour as 0xRRGGBB, which goes before the number; -1 for none. Group code
     /// 420.</summary>
@@ -46,11 +78,15 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
     [CadString(347, Optional = true, Since = 2007)]
     public string MaterialHandle { get; set; } = "";
 
+    /// <summary>Gets or sets the number of the colour as it stands in the file, whatever it is.</summary>
+    [CadShort(62)]
+    internal short StoredColor { get; set; } = 7;
+
     /// <summary>Gets or sets whether the layer is switched on. Group code 62.</summary>
     public bool IsOn
     {
-        get => ColorId >= 0;
-        set => ColorId = (short)(value == IsOn ? ColorId : -ColorId);
+        get => StoredColor >= 0;
+        set => StoredColor = (short)(value == IsOn ? StoredColor : -StoredColor);
     }
 
     /// <summary>Gets or sets whether the layer is frozen. Group codes 70, bit 1.</summary>

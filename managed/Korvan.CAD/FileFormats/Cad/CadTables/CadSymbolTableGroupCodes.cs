@@ -1,3 +1,5 @@
+using Korvan.CAD.Binding;
+using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -6,6 +8,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadTables;
 /// <summary>A record of a symbol table: something with a name that entities refer to.</summary>
 public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
 {
+    private string _name = "";
+
     internal CadSymbolTableGroupCodes()
     {
     }
@@ -14,11 +18,33 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
     public override string Key => Name;
 
     /// <summary>Gets or sets the name. Group code 2.</summary>
-    public string Name { get; set; } = "";
+    /// <exception cref="CadException">The name has a character that such a record cannot have in its name.</exception>
+    public string Name
+    {
+        get => _name;
+        set
+        {
+            Verify.NotNull(value);
+            VerifyName(value);
+            _name = value;
+        }
+    }
 
     /// <summary>Gets or sets properties of the record: 1 frozen layer, 4 locked layer or vertical style, 16 and 32 of
     /// external references, 64 in use. Group code 70.</summary>
     public short Flags { get; set; }
+
+    /// <summary>Gives the kind and name of the record in one line.</summary>
+    /// <returns>The kind and name of the record in one line.</returns>
+    public override string ToString() => $"{DxfName} {Name}";
+
+    /// <summary>Takes a name over as it stands in a file.</summary>
+    private protected void StoreName(string name) => _name = name;
+
+    /// <summary>Refuses a name that such a record cannot have; files are read whatever names are in them.</summary>
+    private protected virtual void VerifyName(string name)
+    {
+    }
 
     /// <inheritdoc/>
     internal override bool ReadCode(int code, DxfTagReader tags)
@@ -26,7 +52,7 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
         switch (code)
         {
             case 2:
-                Name = tags.GetName();
+                _name = tags.GetName();
                 return true;
             case 70:
                 Flags = tags.GetShort();

@@ -18,7 +18,7 @@ internal sealed class DrawingExtents(CadImage image)
     internal static (Cad3DPoint Min, Cad3DPoint Max) OfModel(CadImage image)
     {
         Extents extents = new();
-        new DrawingExtents(image).AddAll(image.Entities, extents);
+        new DrawingExtents(image).AddAll(image.Entities.ItemsOf(), extents);
         return (extents.Min, extents.Max);
     }
 
@@ -83,7 +83,7 @@ internal sealed class DrawingExtents(CadImage image)
         Affine3 outer = extents.Map;
         extents.Map = map;
         _turned += block.Entities.Count;
-        AddAll(block.Entities, extents);
+        AddAll(block.Entities.ItemsOf(), extents);
         extents.Map = outer;
         _open.Remove(name);
     }
@@ -121,7 +121,7 @@ internal sealed class DrawingExtents(CadImage image)
         Extents extents = new();
         if (image.BlockEntities.Find(name) is { } block)
         {
-            AddAll(block.Entities, extents);
+            AddAll(block.Entities.ItemsOf(), extents);
         }
 
         _blocks[name] = extents;

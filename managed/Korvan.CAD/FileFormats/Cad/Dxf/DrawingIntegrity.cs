@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
+using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
@@ -18,6 +19,7 @@ internal static class DrawingIntegrity
 
     internal static void Prepare(CadImage image, int release)
     {
+        VerifyPlaces(image);
         MarkSpaces(image);
         AddLayers(image);
         AddApplications(image);
@@ -43,6 +45,15 @@ internal static class DrawingIntegrity
         }
     }
 
+    // An entity that was put in the place of another may stand in its own as well.
+    private static void VerifyPlaces(CadImage image)
+    {
+        if (DrawingWalk.Entities(image).FirstOrDefault(static entity => entity.Places > 1) is { } entity)
+        {
+            throw new ImageSaveException($"{entity} stands {entity.Places} times in its block; put a clone() of it there instead.");
+        }
+    }
+
     private static void MarkSpaces(CadImage image)
     {
         image.ModelSpace.Entities.ForEach(static entity => entity.SpaceMode = CadEntitySpaceMode.ModelSpace);
@@ -57,7 +68,7 @@ internal static class DrawingIntegrity
         {
             if (seen.Add(entity.LayerName) && entity.LayerName.Length > 0 && !image.Layers.Contains(entity.LayerName))
             {
-                image.Layers.Add(new CadLayerTable { Name = entity.LayerName });
+                image.Layers.Add(CadLayerTable.Stored(entity.LayerName));
             }
         }
     }

@@ -10,15 +10,15 @@ internal static class DrawingStrings
     internal static string[] Collect(CadImage image)
     {
         List<string> texts = [];
-        AddAll(image.ModelSpace.Entities, texts);
-        AddAll(image.PaperSpace.Entities, texts);
+        AddAll(image.ModelSpace.Entities.ItemsOf(), texts);
+        AddAll(image.PaperSpace.Entities.ItemsOf(), texts);
         foreach (CadBlockEntity block in image.BlockEntities)
         {
             // Blocks of dimensions repeat the texts of the dimensions.
             bool ofDimension = block.Name.StartsWith("*D", System.StringComparison.OrdinalIgnoreCase);
             if (block != image.ModelSpace && block != image.PaperSpace && !ofDimension)
             {
-                AddAll(block.Entities, texts);
+                AddAll(block.Entities.ItemsOf(), texts);
             }
         }
 

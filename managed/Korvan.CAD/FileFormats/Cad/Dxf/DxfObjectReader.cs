@@ -11,9 +11,11 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// <summary>Reads one object: what all have in common, and through its codec what is its own.</summary>
 internal sealed class DxfObjectReader(DxfTagReader tags)
 {
-    internal CadEntityBase ReadEntity(string name)
+    internal CadEntityBase ReadEntity(string name) => ReadEntity(Create(name));
+
+    /// <summary>Reads into an entity that was made for it.</summary>
+    internal CadEntityBase ReadEntity(CadEntityBase entity)
     {
-        CadEntityBase entity = Create(name);
         ReadBody(entity);
         switch (entity)
         {
@@ -167,7 +169,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
 
     private bool ReadXdata(CadBaseObject target)
     {
-        List<CadXdata> all = target.XdataContainer.XdataEntities;
+        IList<CadXdata> all = target.XdataContainer.XdataEntities;
         if (tags.Code == 1001)
         {
             all.Add(new CadXdata(tags.GetName()));

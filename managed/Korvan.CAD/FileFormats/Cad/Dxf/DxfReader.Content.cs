@@ -77,18 +77,25 @@ internal sealed partial class DxfReader
     {
         if (BlockNames.IsModelSpace(block.Name) && !_image.ModelSpaceInFile)
         {
-            block.Entities.AddRange(_image.ModelSpace.Entities);
+            TakeOver(_image.ModelSpace, block);
             _image.ModelSpace = block;
             _image.ModelSpaceInFile = true;
         }
         else if (BlockNames.IsActivePaperSpace(block.Name) && !_image.PaperSpaceInFile)
         {
-            block.Entities.AddRange(_image.PaperSpace.Entities);
+            TakeOver(_image.PaperSpace, block);
             _image.PaperSpace = block;
             _image.PaperSpaceInFile = true;
         }
 
         _image.BlockEntities.Add(block);
+    }
+
+    private static void TakeOver(CadBlockEntity from, CadBlockEntity to)
+    {
+        List<CadEntityBase> entities = [.. from.Entities];
+        from.Entities.Clear();
+        to.Entities.AddRange(entities);
     }
 
     private void ReadEntities()
@@ -107,7 +114,7 @@ internal sealed partial class DxfReader
         }
     }
 
-    private void ReadEntity(string name, List<CadEntityBase> target)
+    private void ReadEntity(string name, IList<CadEntityBase> target)
     {
         CadEntityBase? entity = null;
         try

@@ -52,7 +52,7 @@ internal sealed class DxfSaver
         if (present < CadAcadVersion.AC1015 || chosen < CadAcadVersion.AC1015)
         {
             throw new ImageSaveException($"A drawing of release {present} cannot be written as {chosen}: objects are "
-                + "carried over between releases 2000 and later only. Leave DxfOptions.Version at Original.");
+                + "carried over between releases 2000 and later only. Leave DxfOptions.version at ORIGINAL.");
         }
 
         VerifyBodies(image, chosen);

@@ -1,5 +1,6 @@
 using System;
 using System.Globalization;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -8,7 +9,7 @@ internal static class HandleText
 {
     internal static ulong Parse(string text)
     {
-        ArgumentNullException.ThrowIfNull(text);
+        Verify.NotNull(text);
         if (text.Length == 0)
         {
             return 0;

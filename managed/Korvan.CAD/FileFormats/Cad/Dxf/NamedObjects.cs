@@ -1,6 +1,7 @@
 using System;
 using System.Collections;
 using System.Collections.Generic;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
@@ -79,7 +80,7 @@ internal sealed class NamedObjects<T>(string what) : IList
 
     internal void Add(T item)
     {
-        ArgumentNullException.ThrowIfNull(item);
+        Verify.NotNull(item);
         Items.Add(item);
         _byName.TryAdd(item.Key, item);
     }
@@ -92,7 +93,7 @@ internal sealed class NamedObjects<T>(string what) : IList
 
     internal T? Find(string name)
     {
-        ArgumentNullException.ThrowIfNull(name);
+        Verify.NotNull(name);
         if (_byName.TryGetValue(name, out T? known) && Matches(known, name))
         {
             return known;

@@ -6,7 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// <summary>Points that repeat one group code: each X begins a point.</summary>
 internal static class PointLists
 {
-    internal static bool TryRead(int code, int first, List<Cad3DPoint> points, DxfTagReader tags)
+    internal static bool TryRead(int code, int first, IList<Cad3DPoint> points, DxfTagReader tags)
     {
         if (code == first)
         {
@@ -28,7 +28,7 @@ internal static class PointLists
         return true;
     }
 
-    internal static bool TryRead(int code, int first, List<Cad2DPoint> points, DxfTagReader tags)
+    internal static bool TryRead(int code, int first, IList<Cad2DPoint> points, DxfTagReader tags)
     {
         if (code == first)
         {

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
 
@@ -11,7 +12,7 @@ public sealed class CgmColor : IEquatable<CgmColor>
     /// <param name="index">The number in the colour table, not negative.</param>
     public CgmColor(int index)
     {
-        ArgumentOutOfRangeException.ThrowIfNegative(index);
+        Verify.NotNegative(index);
         Index = index;
     }
 
@@ -34,6 +35,7 @@ public sealed class CgmColor : IEquatable<CgmColor>
 
     /// <summary>Tells whether both colours are said in the same way.</summary>
     /// <param name="other">The colour to compare with.</param>
+    /// <returns>Whether both colours are said in the same way.</returns>
     public bool Equals(CgmColor? other) => other is not null && Index == other.Index && Color.ToArgb() == other.Color.ToArgb();
 
     /// <inheritdoc/>

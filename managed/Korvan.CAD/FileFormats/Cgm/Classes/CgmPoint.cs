@@ -27,6 +27,7 @@ public sealed class CgmPoint : IEquatable<CgmPoint>
 
     /// <summary>Tells whether both points lie at the same place.</summary>
     /// <param name="other">The point to compare with.</param>
+    /// <returns>Whether both points lie at the same place.</returns>
     public bool Equals(CgmPoint? other) => other is not null && X == other.X && Y == other.Y;
 
     /// <inheritdoc/>

@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
 
@@ -15,7 +16,7 @@ public sealed class CgmPointComparer
     /// <param name="tolerance">The largest difference of coordinates that counts as none; not negative.</param>
     public CgmPointComparer(double tolerance)
     {
-        ArgumentOutOfRangeException.ThrowIfNegative(tolerance);
+        Verify.NotNegative(tolerance);
         Tolerance = tolerance;
     }
 
@@ -28,8 +29,8 @@ public sealed class CgmPointComparer
     /// <returns>-1, 0 or 1, as the first comes before the second, is the same or comes behind it.</returns>
     public int Compare(CgmPoint first, CgmPoint second)
     {
-        ArgumentNullException.ThrowIfNull(first);
-        ArgumentNullException.ThrowIfNull(second);
+        Verify.NotNull(first);
+        Verify.NotNull(second);
         int byX = Order(first.X - second.X);
         return byX != 0 ? byX : Order(first.Y - second.Y);
     }
@@ -37,6 +38,7 @@ public sealed class CgmPointComparer
     /// <summary>Tells whether two points lie at the same place.</summary>
     /// <param name="first">A point.</param>
     /// <param name="second">Another point.</param>
+    /// <returns>Whether two points lie at the same place.</returns>
     public bool AreEqual(CgmPoint first, CgmPoint second) => Compare(first, second) == 0;
 
     private int Order(double difference) => Math.Abs(difference) <= Tolerance ? 0 : Math.Sign(difference);

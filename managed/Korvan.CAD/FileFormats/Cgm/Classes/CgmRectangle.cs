@@ -45,6 +45,7 @@ public struct CgmRectangle : IEquatable<CgmRectangle>
 
     /// <summary>Tells whether both corners are the same.</summary>
     /// <param name="other">The rectangle to compare with.</param>
+    /// <returns>Whether both corners are the same.</returns>
     public readonly bool Equals(CgmRectangle other) => X1 == other.X1 && Y1 == other.Y1 && X2 == other.X2 && Y2 == other.Y2;
 
     /// <inheritdoc/>

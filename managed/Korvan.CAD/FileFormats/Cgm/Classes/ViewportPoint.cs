@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
 
@@ -16,8 +17,8 @@ public sealed class ViewportPoint
     /// <param name="second">The ordinate.</param>
     public ViewportPoint(VC first, VC second)
     {
-        ArgumentNullException.ThrowIfNull(first);
-        ArgumentNullException.ThrowIfNull(second);
+        Verify.NotNull(first);
+        Verify.NotNull(second);
         First = first;
         Second = second;
     }

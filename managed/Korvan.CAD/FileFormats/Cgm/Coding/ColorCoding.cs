@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 
@@ -85,7 +86,7 @@ internal sealed class ColorCoding
     /// <exception cref="CgmDataException">It is one of the table, or translucent.</exception>
     internal void FromColor(CgmColor color, Span<long> components)
     {
-        ArgumentNullException.ThrowIfNull(color);
+        Verify.NotNull(color);
         if (color.IsIndexed)
         {
             throw new CgmDataException($"{color} is one of the table, but the colours here are direct (COLRMODE)");

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
@@ -20,7 +21,7 @@ public sealed class BackgroundColour : Command
     public BackgroundColour(CgmColor color)
         : this()
     {
-        ArgumentNullException.ThrowIfNull(color);
+        Verify.NotNull(color);
         Color = color;
     }
 

@@ -23,8 +23,8 @@ public sealed class BeginApplicationStructure : Command
     public BeginApplicationStructure(string identifier, string structureType)
         : this()
     {
-        ArgumentNullException.ThrowIfNull(identifier);
-        ArgumentNullException.ThrowIfNull(structureType);
+        Verify.NotNull(identifier);
+        Verify.NotNull(structureType);
         Identifier = identifier;
         StructureType = structureType;
     }

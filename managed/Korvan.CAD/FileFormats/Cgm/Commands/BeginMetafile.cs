@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
 using Korvan.CAD.FileFormats.Cgm.Enums;
@@ -19,7 +20,7 @@ public sealed class BeginMetafile : Command
     public BeginMetafile(string identifier)
         : this()
     {
-        ArgumentNullException.ThrowIfNull(identifier);
+        Verify.NotNull(identifier);
         Identifier = identifier;
     }
 

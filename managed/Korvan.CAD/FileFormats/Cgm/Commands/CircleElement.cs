@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
@@ -21,7 +22,7 @@ public sealed class CircleElement : Command
     public CircleElement(CgmPoint centre, double radius)
         : this()
     {
-        ArgumentNullException.ThrowIfNull(centre);
+        Verify.NotNull(centre);
         Centre = centre;
         Radius = radius;
     }

@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
@@ -22,7 +23,7 @@ public sealed class ColourTable : Command
     public ColourTable(int startIndex, List<CgmColor> colors)
         : this()
     {
-        ArgumentNullException.ThrowIfNull(colors);
+        Verify.NotNull(colors);
         StartIndex = startIndex;
         Colors = colors;
     }

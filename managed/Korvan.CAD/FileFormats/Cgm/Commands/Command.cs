@@ -38,7 +38,7 @@ public abstract class Command
     /// <param name="reader">What stands at the first parameter of this element.</param>
     public void ReadFromBinary(IBinaryReader reader)
     {
-        ArgumentNullException.ThrowIfNull(reader);
+        Verify.NotNull(reader);
         Exchange(BinaryReading.Of(reader));
     }
 
@@ -46,7 +46,7 @@ public abstract class Command
     /// <param name="writer">What takes the parameters of this element.</param>
     public void WriteAsBinary(IBinaryWriter writer)
     {
-        ArgumentNullException.ThrowIfNull(writer);
+        Verify.NotNull(writer);
         Exchange(BinaryWriting.Of(writer));
     }
 
@@ -55,7 +55,7 @@ public abstract class Command
     /// <exception cref="InvalidOperationException">Clear text has no word for the element.</exception>
     public void WriteAsClearText(IClearTextWriter writer)
     {
-        ArgumentNullException.ThrowIfNull(writer);
+        Verify.NotNull(writer);
         if (Keyword.Length == 0)
         {
             throw new InvalidOperationException($"Clear text has no word for the element {(int)ElementClass}, {ElementId}.");

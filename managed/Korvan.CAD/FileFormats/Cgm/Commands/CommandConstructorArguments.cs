@@ -1,3 +1,4 @@
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
@@ -10,10 +11,8 @@ public sealed class CommandConstructorArguments
     /// <param name="elementId">The number of the element in its class, 0 to 127.</param>
     public CommandConstructorArguments(ClassCode elementClass, int elementId)
     {
-        System.ArgumentOutOfRangeException.ThrowIfNegative((int)elementClass);
-        System.ArgumentOutOfRangeException.ThrowIfGreaterThan((int)elementClass, 15);
-        System.ArgumentOutOfRangeException.ThrowIfNegative(elementId);
-        System.ArgumentOutOfRangeException.ThrowIfGreaterThan(elementId, 127);
+        Verify.InRange((int)elementClass, 0, 15);
+        Verify.InRange(elementId, 0, 127);
         ElementClass = elementClass;
         ElementId = elementId;
     }

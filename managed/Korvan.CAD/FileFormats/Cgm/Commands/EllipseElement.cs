@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
@@ -22,9 +23,9 @@ public sealed class EllipseElement : Command
     public EllipseElement(CgmPoint centre, CgmPoint firstRadiusEnd, CgmPoint secondRadiusEnd)
         : this()
     {
-        ArgumentNullException.ThrowIfNull(centre);
-        ArgumentNullException.ThrowIfNull(firstRadiusEnd);
-        ArgumentNullException.ThrowIfNull(secondRadiusEnd);
+        Verify.NotNull(centre);
+        Verify.NotNull(firstRadiusEnd);
+        Verify.NotNull(secondRadiusEnd);
         Centre = centre;
         FirstRadiusEnd = firstRadiusEnd;
         SecondRadiusEnd = secondRadiusEnd;

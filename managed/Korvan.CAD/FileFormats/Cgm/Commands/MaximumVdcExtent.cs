@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
@@ -21,8 +22,8 @@ public sealed class MaximumVdcExtent : Command
     public MaximumVdcExtent(CgmPoint firstCorner, CgmPoint secondCorner)
         : this()
     {
-        ArgumentNullException.ThrowIfNull(firstCorner);
-        ArgumentNullException.ThrowIfNull(secondCorner);
+        Verify.NotNull(firstCorner);
+        Verify.NotNull(secondCorner);
         FirstCorner = firstCorner;
         SecondCorner = secondCorner;
     }

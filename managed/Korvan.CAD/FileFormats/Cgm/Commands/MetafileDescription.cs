@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
 using Korvan.CAD.FileFormats.Cgm.Enums;
@@ -19,7 +20,7 @@ public sealed class MetafileDescription : Command
     public MetafileDescription(string description)
         : this()
     {
-        ArgumentNullException.ThrowIfNull(description);
+        Verify.NotNull(description);
         Description = description;
     }
 

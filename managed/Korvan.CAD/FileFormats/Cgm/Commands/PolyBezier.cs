@@ -23,6 +23,7 @@ public sealed class PolyBezier : Command
     public List<CgmPoint> Points { get; set; } = [];
 
     /// <summary>Gives the curves; points that are left over make none.</summary>
+    /// <returns>The curves.</returns>
     public List<BezierCurve> GetCurves()
     {
         var curves = new List<BezierCurve>();

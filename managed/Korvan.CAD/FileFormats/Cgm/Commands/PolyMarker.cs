@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
@@ -21,7 +22,7 @@ public sealed class PolyMarker : Command
     public PolyMarker(List<CgmPoint> points)
         : this()
     {
-        ArgumentNullException.ThrowIfNull(points);
+        Verify.NotNull(points);
         Points = points;
     }
 

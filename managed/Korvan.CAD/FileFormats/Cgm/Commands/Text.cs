@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
@@ -21,8 +22,8 @@ public sealed class Text : TextCommand
     public Text(CgmPoint position, string content)
         : this()
     {
-        ArgumentNullException.ThrowIfNull(position);
-        ArgumentNullException.ThrowIfNull(content);
+        Verify.NotNull(position);
+        Verify.NotNull(content);
         Position = position;
         Content = content;
     }

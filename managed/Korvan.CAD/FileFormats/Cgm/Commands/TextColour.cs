@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Elements;
 using Korvan.CAD.FileFormats.Cgm.Enums;
@@ -19,7 +20,7 @@ public sealed class TextColour : ColourCommand
     public TextColour(CgmColor color)
         : this()
     {
-        ArgumentNullException.ThrowIfNull(color);
+        Verify.NotNull(color);
         Color = color;
     }
 }

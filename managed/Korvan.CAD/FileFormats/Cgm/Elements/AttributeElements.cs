@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -64,14 +65,16 @@ public static class AttributeElements
 
     /// <summary>Gives a new command for an element, without parameters yet.</summary>
     /// <param name="element">The element.</param>
+    /// <returns>A new command for an element, without parameters yet.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
     public static Command CreateCommand(AttributeElement element) => Entry(element).Create();
 
     /// <summary>Gives the word that stands for an element in clear text.</summary>
     /// <param name="element">The element.</param>
+    /// <returns>The word that stands for an element in clear text.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
     public static string GetKeyword(AttributeElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(AttributeElement element) =>
-        ElementTables.Find(ClassCode.AttributeElement, (int)element) ?? throw new ArgumentOutOfRangeException(nameof(element));
+        ElementTables.Find(ClassCode.AttributeElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
 }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -20,14 +21,16 @@ public static class SegmentControlElements
 
     /// <summary>Gives a new command for an element, without parameters yet.</summary>
     /// <param name="element">The element.</param>
+    /// <returns>A new command for an element, without parameters yet.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
     public static Command CreateCommand(SegmentControlElement element) => Entry(element).Create();
 
     /// <summary>Gives the word that stands for an element in clear text.</summary>
     /// <param name="element">The element.</param>
+    /// <returns>The word that stands for an element in clear text.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such element.</exception>
     public static string GetKeyword(SegmentControlElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(SegmentControlElement element) =>
-        ElementTables.Find(ClassCode.SegmentControlElement, (int)element) ?? throw new ArgumentOutOfRangeException(nameof(element));
+        ElementTables.Find(ClassCode.SegmentControlElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
 }

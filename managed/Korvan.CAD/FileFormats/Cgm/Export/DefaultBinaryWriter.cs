@@ -3,6 +3,7 @@ using System.Buffers;
 using System.Buffers.Binary;
 using System.Collections.Generic;
 using System.IO;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Coding;
@@ -39,7 +40,7 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
     internal DefaultBinaryWriter(Stream stream, string name)
         : this(stream, name, new CodingState(), false)
     {
-        ArgumentNullException.ThrowIfNull(stream);
+        Verify.NotNull(stream);
     }
 
     private DefaultBinaryWriter(Stream stream, string name, CodingState state, bool isInner)
@@ -63,7 +64,7 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
     /// <exception cref="ImageSaveException">A parameter cannot be written; nothing of the element was.</exception>
     public void WriteCommand(Command command)
     {
-        ArgumentNullException.ThrowIfNull(command);
+        Verify.NotNull(command);
         _parameters.ResetWrittenCount();
         try
         {
@@ -122,7 +123,7 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
     /// <inheritdoc/>
     public void WriteViewportCoordinate(VC value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         if (State.ViewportMode == DeviceViewportSpecificationMode.Mode.FractionOfDrawingSurface)
         {
             WriteReal(value.Value);
@@ -136,7 +137,7 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
     /// <inheritdoc/>
     public void WritePoint(CgmPoint value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         WriteVdc(value.X);
         WriteVdc(value.Y);
     }
@@ -158,14 +159,14 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
     /// <inheritdoc/>
     public void WriteString(string value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         WriteData(TextCoding.Encode(value, State));
     }
 
     /// <inheritdoc/>
     public void WriteData(byte[] value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         const int longForm = 255;
         if (value.Length < longForm)
         {
@@ -186,7 +187,7 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
     /// <inheritdoc/>
     public void WriteStructuredData(StructuredDataRecord value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         var inner = new DefaultBinaryWriter(_stream, _name, State, true);
         StructuredDataCoding.Write(inner.Exchange, value);
         WriteData(inner._parameters.WrittenSpan.ToArray());

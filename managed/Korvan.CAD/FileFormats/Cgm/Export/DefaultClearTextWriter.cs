@@ -3,6 +3,7 @@ using System.Buffers;
 using System.Globalization;
 using System.IO;
 using System.Text;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Coding;
@@ -37,7 +38,7 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
     internal DefaultClearTextWriter(Stream stream, string name)
         : this(stream, name, new CodingState(), true)
     {
-        ArgumentNullException.ThrowIfNull(stream);
+        Verify.NotNull(stream);
     }
 
     private DefaultClearTextWriter(Stream stream, string name, CodingState state, bool breaksLines)
@@ -59,7 +60,7 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
     /// <exception cref="ImageSaveException">A parameter cannot be written; nothing of the element was.</exception>
     public void WriteCommand(Command command)
     {
-        ArgumentNullException.ThrowIfNull(command);
+        Verify.NotNull(command);
         _text.ResetWrittenCount();
         _column = 0;
         try
@@ -80,7 +81,7 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
     /// <inheritdoc/>
     public void BeginElement(string keyword)
     {
-        ArgumentException.ThrowIfNullOrEmpty(keyword);
+        Verify.NotEmpty(keyword);
         Put(Encoding.ASCII.GetBytes(keyword));
     }
 
@@ -97,7 +98,7 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
     /// <inheritdoc/>
     public void WriteWord(string value)
     {
-        ArgumentException.ThrowIfNullOrEmpty(value);
+        Verify.NotEmpty(value);
         Put(Encoding.ASCII.GetBytes(value));
     }
 
@@ -110,7 +111,7 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
     /// <inheritdoc/>
     public void WritePoint(CgmPoint value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         Put(Encoding.ASCII.GetBytes($"({Coordinate(value.X)},{Coordinate(value.Y)})"));
     }
 
@@ -128,21 +129,21 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
     /// <inheritdoc/>
     public void WriteString(string value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         PutText(TextCoding.Encode(value, State), (byte)'\'');
     }
 
     /// <inheritdoc/>
     public void WriteData(byte[] value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         PutText(value, (byte)'\'');
     }
 
     /// <inheritdoc/>
     public void WriteStructuredData(StructuredDataRecord value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         var inner = new DefaultClearTextWriter(_stream, _name, State, false);
         StructuredDataCoding.Write(inner.Exchange, value);
         PutText(inner._text.WrittenSpan, (byte)'"');

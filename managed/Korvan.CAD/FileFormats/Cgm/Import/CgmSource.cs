@@ -70,7 +70,7 @@ internal static class CgmSource
         }
         catch (InvalidDataException e)
         {
-            throw new ImageLoadException($"'{name}' is packed by gzip and damaged: {e.Message}", e);
+            throw new ImageLoadException($"'{name}' is packed by gzip and damaged: {e.Message}");
         }
     }
 

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.IO;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
@@ -39,8 +40,8 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
 
     internal DefaultBinaryReader(Stream stream, ICommandFactory commandFactory, string name)
     {
-        ArgumentNullException.ThrowIfNull(stream);
-        ArgumentNullException.ThrowIfNull(commandFactory);
+        Verify.NotNull(stream);
+        Verify.NotNull(commandFactory);
         _elements = new BinaryElements(stream, 0);
         _arguments = new CommandConstructorArguments?[16 << 7];
         _log = new MessageLog();

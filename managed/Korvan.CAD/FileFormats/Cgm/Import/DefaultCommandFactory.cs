@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Elements;
 
@@ -11,7 +12,7 @@ internal sealed class DefaultCommandFactory : ICommandFactory
 
     public Command CreateCommand(CommandConstructorArguments arguments)
     {
-        ArgumentNullException.ThrowIfNull(arguments);
+        Verify.NotNull(arguments);
         return ElementTables.Find(arguments.ElementClass, arguments.ElementId)?.Create() ?? new UnknownCommand(arguments);
     }
 }

@@ -1,6 +1,7 @@
 using System;
 using System.Collections;
 using System.Collections.Generic;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
@@ -15,7 +16,7 @@ internal sealed class IfcEntityList(
     public int Count => count + added.Count;
 
     public IIfcEntity this[int index] =>
-        (uint)index >= (uint)Count ? throw new ArgumentOutOfRangeException(nameof(index))
+        (uint)index >= (uint)Count ? throw Verify.OutOfRange(nameof(index), index, $"The list has {Count} instances.")
         : index >= count ? added[index - count]
         : model.Instance(records is null ? index : records[index]);
 

@@ -103,7 +103,7 @@ internal sealed class IfcModel
         }
         catch (StepException e)
         {
-            throw new IfcImageException($"{entity.DescribePlace()}{e.Message}.", e);
+            throw new IfcImageException($"{entity.DescribePlace()}{e.Message}.");
         }
     }
 

@@ -187,7 +187,7 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         }
         catch (InvalidDataException e)
         {
-            throw new ImageLoadException($"'{name}' is a damaged ZIP file: {e.Message}", e);
+            throw new ImageLoadException($"'{name}' is a damaged ZIP file: {e.Message}");
         }
     }
 

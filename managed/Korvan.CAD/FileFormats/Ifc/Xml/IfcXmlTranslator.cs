@@ -43,7 +43,7 @@ internal sealed class IfcXmlTranslator(string name, LoadOptions options)
         }
         catch (XmlException e)
         {
-            throw new ImageLoadException($"'{name}', line {e.LineNumber}: {e.Message}", e);
+            throw new ImageLoadException($"'{name}', line {e.LineNumber}: {e.Message}");
         }
 
         string text = _header.Text() + _records.ToString() + "ENDSEC;\nEND-ISO-10303-21;\n";

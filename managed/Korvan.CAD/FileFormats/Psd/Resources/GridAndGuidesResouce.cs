@@ -1,6 +1,8 @@
 using System;
 using System.Buffers.Binary;
 using System.Collections.Generic;
+using System.Runtime.CompilerServices;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 
 namespace Korvan.CAD.FileFormats.Psd.Resources;
@@ -112,14 +114,14 @@ public class GridAndGuidesResouce : ResourceBlock
         };
     }
 
-    private double[] Verified(double[] value)
+    private double[] Verified(double[] value, [CallerMemberName] string member = "")
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value, member);
         foreach (double guide in value)
         {
             if (!(Math.Abs(guide) < int.MaxValue / Steps))
             {
-                throw new ArgumentOutOfRangeException(nameof(value), guide, "A guide lies too far away to be stored.");
+                throw Verify.OutOfRange(member, guide, "A guide lies too far away to be stored.");
             }
         }
 

@@ -1,5 +1,6 @@
 using System;
 using System.Buffers.Binary;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Raster.Codecs;
@@ -50,7 +51,7 @@ public class ThumbnailResource : ResourceBlock
         get => (byte[])_jpegData.Clone();
         set
         {
-            ArgumentNullException.ThrowIfNull(value);
+            Verify.NotNull(value);
             using PixelGrid pixels = JpegCodec.Decompress(new RasterSource(value, "the small picture", false), value, true, out _);
             (Width, Height) = (pixels.Width, pixels.Height);
             _jpegData = (byte[])value.Clone();
@@ -87,9 +88,8 @@ public class ThumbnailResource : ResourceBlock
 
     private static byte[] Small(RasterImage image, int largestSide)
     {
-        ArgumentNullException.ThrowIfNull(image);
-        ArgumentOutOfRangeException.ThrowIfLessThan(largestSide, 1);
-        ArgumentOutOfRangeException.ThrowIfGreaterThan(largestSide, 1024);
+        Verify.NotNull(image);
+        Verify.InRange(largestSide, 1, 1024);
         double scale = Math.Min(1, (double)largestSide / Math.Max(image.Width, image.Height));
         int width = (int)Math.Max(1, Math.Round(image.Width * scale));
         int height = (int)Math.Max(1, Math.Round(image.Height * scale));

@@ -1,5 +1,6 @@
 using System;
 using System.Buffers.Binary;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 
 namespace Korvan.CAD.FileFormats.Psd.Resources;
@@ -26,8 +27,7 @@ public class TransparencyIndexResource : ResourceBlock
         get => _transparencyIndex;
         set
         {
-            ArgumentOutOfRangeException.ThrowIfNegative(value);
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, 255);
+            Verify.InRange(value, 0, 255);
             _transparencyIndex = value;
             Change();
         }

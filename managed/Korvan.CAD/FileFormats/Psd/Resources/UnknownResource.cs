@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Psd.Resources;
 
@@ -13,9 +14,8 @@ public class UnknownResource : ResourceBlock
     public UnknownResource(int id, byte[] data)
         : base(id)
     {
-        ArgumentOutOfRangeException.ThrowIfNegative(id);
-        ArgumentOutOfRangeException.ThrowIfGreaterThan(id, ushort.MaxValue);
-        ArgumentNullException.ThrowIfNull(data);
+        Verify.InRange(id, 0, ushort.MaxValue);
+        Verify.NotNull(data);
         _data = data;
     }
 
@@ -25,7 +25,7 @@ public class UnknownResource : ResourceBlock
         get => _data;
         set
         {
-            ArgumentNullException.ThrowIfNull(value);
+            Verify.NotNull(value);
             _data = value;
             Change();
         }

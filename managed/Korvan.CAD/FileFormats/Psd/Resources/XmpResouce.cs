@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Psd.Resources;
 
@@ -14,7 +15,7 @@ public class XmpResouce : ResourceBlock
     public XmpResouce(XmpPacketWrapper xmpData)
         : base(Number)
     {
-        ArgumentNullException.ThrowIfNull(xmpData);
+        Verify.NotNull(xmpData);
         _xmpData = xmpData;
     }
 
@@ -24,7 +25,7 @@ public class XmpResouce : ResourceBlock
         get => _xmpData;
         set
         {
-            ArgumentNullException.ThrowIfNull(value);
+            Verify.NotNull(value);
             _xmpData = value;
             Change();
         }

@@ -2,6 +2,7 @@ using System;
 using System.Buffers.Binary;
 using System.IO;
 using System.Text;
+using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 
@@ -18,7 +19,7 @@ public class TiffStreamReader
     /// <param name="byteOrder">The order of bytes in numbers.</param>
     public TiffStreamReader(byte[] data, TiffByteOrder byteOrder)
     {
-        ArgumentNullException.ThrowIfNull(data);
+        Verify.NotNull(data);
         _data = data;
         ByteOrder = byteOrder;
     }
@@ -42,15 +43,18 @@ public class TiffStreamReader
     /// <summary>Reads bytes.</summary>
     /// <param name="position">The place of the first.</param>
     /// <param name="count">How many.</param>
+    /// <returns>Bytes.</returns>
     /// <exception cref="TiffImageException">The block ends before.</exception>
     public byte[] ReadBytes(long position, int count) => Take(position, count).ToArray();
 
     /// <summary>Reads an unsigned number of 8 bits.</summary>
     /// <param name="position">Its place.</param>
+    /// <returns>An unsigned number of 8 bits.</returns>
     public byte ReadByte(long position) => Take(position, 1)[0];
 
     /// <summary>Reads an unsigned number of 16 bits.</summary>
     /// <param name="position">Its place.</param>
+    /// <returns>An unsigned number of 16 bits.</returns>
     public int ReadUShort(long position)
     {
         ReadOnlySpan<byte> data = Take(position, 2);
@@ -59,10 +63,12 @@ public class TiffStreamReader
 
     /// <summary>Reads a signed number of 16 bits.</summary>
     /// <param name="position">Its place.</param>
+    /// <returns>A signed number of 16 bits.</returns>
     public int ReadSShort(long position) => (short)ReadUShort(position);
 
     /// <summary>Reads an unsigned number of 32 bits.</summary>
     /// <param name="position">Its place.</param>
+    /// <returns>An unsigned number of 32 bits.</returns>
     public long ReadULong(long position)
     {
         ReadOnlySpan<byte> data = Take(position, 4);
@@ -71,14 +77,17 @@ public class TiffStreamReader
 
     /// <summary>Reads a signed number of 32 bits.</summary>
     /// <param name="position">Its place.</param>
+    /// <returns>A signed number of 32 bits.</returns>
     public int ReadSLong(long position) => unchecked((int)ReadULong(position));
 
     /// <summary>Reads a floating point number of 32 bits.</summary>
     /// <param name="position">Its place.</param>
+    /// <returns>A floating point number of 32 bits.</returns>
     public float ReadFloat(long position) => BitConverter.Int32BitsToSingle(ReadSLong(position));
 
     /// <summary>Reads a floating point number of 64 bits.</summary>
     /// <param name="position">Its place.</param>
+    /// <returns>A floating point number of 64 bits.</returns>
     public double ReadDouble(long position)
     {
         ReadOnlySpan<byte> data = Take(position, 8);
@@ -87,15 +96,18 @@ public class TiffStreamReader
 
     /// <summary>Reads two unsigned numbers of 32 bits.</summary>
     /// <param name="position">Their place.</param>
+    /// <returns>Two unsigned numbers of 32 bits.</returns>
     public TiffRational ReadRational(long position) => new(ReadULong(position), ReadULong(position + 4));
 
     /// <summary>Reads two signed numbers of 32 bits.</summary>
     /// <param name="position">Their place.</param>
+    /// <returns>Two signed numbers of 32 bits.</returns>
     public TiffSRational ReadSRational(long position) => new(ReadSLong(position), ReadSLong(position + 4));
 
     /// <summary>Reads a text up to its zero byte, or as long as it is.</summary>
     /// <param name="position">Its place.</param>
     /// <param name="count">How many bytes it may have.</param>
+    /// <returns>A text up to its zero byte, or as long as it is.</returns>
     public string ReadText(long position, int count)
     {
         ReadOnlySpan<byte> data = Take(position, count);
@@ -115,7 +127,7 @@ public class TiffStreamReader
 
     private static byte[] ReadAll(Stream stream)
     {
-        ArgumentNullException.ThrowIfNull(stream);
+        Verify.NotNull(stream);
         using var copy = new MemoryStream();
         stream.CopyTo(copy);
         return copy.ToArray();

@@ -2,6 +2,7 @@ using System;
 using System.Buffers.Binary;
 using System.IO;
 using System.Text;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 
 namespace Korvan.CAD.FileFormats.Tiff.FileManagement;
@@ -16,7 +17,7 @@ public class TiffStreamWriter
     /// <param name="byteOrder">The order of bytes in numbers.</param>
     public TiffStreamWriter(Stream stream, TiffByteOrder byteOrder)
     {
-        ArgumentNullException.ThrowIfNull(stream);
+        Verify.NotNull(stream);
         _stream = stream;
         ByteOrder = byteOrder;
     }
@@ -33,7 +34,7 @@ public class TiffStreamWriter
     /// <param name="data">The bytes.</param>
     public void Write(byte[] data)
     {
-        ArgumentNullException.ThrowIfNull(data);
+        Verify.NotNull(data);
         Put(data);
     }
 
@@ -110,7 +111,7 @@ public class TiffStreamWriter
     /// <param name="value">The numbers.</param>
     public void WriteRational(TiffRational value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         WriteULong(value.Numerator);
         WriteULong(value.Denominator);
     }
@@ -119,7 +120,7 @@ public class TiffStreamWriter
     /// <param name="value">The numbers.</param>
     public void WriteSRational(TiffSRational value)
     {
-        ArgumentNullException.ThrowIfNull(value);
+        Verify.NotNull(value);
         WriteSLong(value.Numerator);
         WriteSLong(value.Denominator);
     }

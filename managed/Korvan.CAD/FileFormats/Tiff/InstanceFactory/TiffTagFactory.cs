@@ -30,6 +30,7 @@ public static class TiffTagFactory
 
     /// <summary>Gives what makes fields of a type.</summary>
     /// <param name="tagType">The type.</param>
+    /// <returns>What makes fields of a type.</returns>
     /// <exception cref="TiffImageException">There is no such type.</exception>
     public static ITiffTagCreator GetCreator(TiffDataTypes tagType)
     {
@@ -41,6 +42,7 @@ public static class TiffTagFactory
     /// <summary>Makes a field without values.</summary>
     /// <param name="tagId">The number of the field, 0 to 65535.</param>
     /// <param name="tagType">The type of its values.</param>
+    /// <returns>A field without values.</returns>
     /// <exception cref="TiffImageException">There is no such type.</exception>
     public static TiffDataType CreateTag(int tagId, TiffDataTypes tagType) => GetCreator(tagType).CreateTag(tagId);
 

@@ -1,5 +1,6 @@
 using System;
 using System.Text;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
@@ -33,10 +34,10 @@ public class TiffASCIIType : TiffDataType
         get => _text;
         set
         {
-            ArgumentNullException.ThrowIfNull(value);
+            Verify.NotNull(value);
             if (value.Contains('\0'))
             {
-                throw new ArgumentException("A text of a field cannot hold a zero character.", nameof(value));
+                throw new ArgumentException("A text of a field cannot hold a zero character.");
             }
 
             _text = value;

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
@@ -31,7 +32,7 @@ public class TiffByteType : TiffCommonArrayType
         get => _values;
         set
         {
-            ArgumentNullException.ThrowIfNull(value);
+            Verify.NotNull(value);
             _values = value;
         }
     }

@@ -1,5 +1,6 @@
 using System;
 using System.Globalization;
+using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
@@ -12,6 +13,7 @@ public abstract class TiffCommonArrayType : TiffDataType
     }
 
     /// <summary>Gives the values as floating point numbers, whatever their type.</summary>
+    /// <returns>The values as floating point numbers, whatever their type.</returns>
     public abstract double[] ToDoubles();
 
     /// <inheritdoc/>
@@ -25,8 +27,7 @@ public abstract class TiffCommonArrayType : TiffDataType
     {
         foreach (int value in values)
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, low, nameof(values));
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, high, nameof(values));
+            Verify.InRange(value, low, high, nameof(values));
         }
     }
 
@@ -34,8 +35,7 @@ public abstract class TiffCommonArrayType : TiffDataType
     {
         foreach (long value in values)
         {
-            ArgumentOutOfRangeException.ThrowIfLessThan(value, low, nameof(values));
-            ArgumentOutOfRangeException.ThrowIfGreaterThan(value, high, nameof(values));
+            Verify.InRange(value, low, high, nameof(values));
         }
     }
 }

@@ -1,3 +1,4 @@
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
@@ -30,7 +31,7 @@ public class TiffDoubleType : TiffCommonArrayType
         get => _values;
         set
         {
-            System.ArgumentNullException.ThrowIfNull(value);
+            Verify.NotNull(value);
             _values = value;
         }
     }

@@ -1,3 +1,4 @@
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
@@ -30,7 +31,7 @@ public class TiffLongType : TiffCommonArrayType
         get => _values;
         set
         {
-            System.ArgumentNullException.ThrowIfNull(value);
+            Verify.NotNull(value);
             VerifyRange(value, 0, uint.MaxValue);
             _values = value;
         }

@@ -179,7 +179,7 @@ public class EditingTests
         CadImage image = new();
         ImageSaveException failure = Assert.Throws<ImageSaveException>(() =>
             image.Save(new MemoryStream(), new DxfOptions { UserWatermarkText = "draft" }));
-        Assert.Contains("DxfOptions.UserWatermarkText", failure.Message);
+        Assert.Contains("DxfOptions.user_watermark_text", failure.Message);
         Assert.True(image.CanSave(new DxfOptions()) && image.CanSave(new PdfOptions()));
         image.Dispose();
         Assert.True(image.Disposed);

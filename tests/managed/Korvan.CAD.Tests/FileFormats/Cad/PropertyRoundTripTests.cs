@@ -108,7 +108,7 @@ public class PropertyRoundTripTests
     private static void Add(CadImage image, CadSymbolTableGroupCodes record)
     {
         IEnumerable table = TableOf(image, record);
-        table.GetType().GetMethod("Add")!.Invoke(table, [record]);
+        table.GetType().GetMethod("Add", [record.GetType()])!.Invoke(table, [record]);
     }
 
     private static object? Find(CadImage image, CadSymbolTableGroupCodes record)
@@ -135,7 +135,7 @@ public class PropertyRoundTripTests
         .Where(property => !Derived.Contains(property.Name) && property.SetMethod is { IsPublic: true } && property.GetIndexParameters().Length == 0);
 
     private static IEnumerable<PropertyInfo> Lists(object item) => item.GetType().GetProperties()
-        .Where(property => property.PropertyType.IsGenericType && property.PropertyType.GetGenericTypeDefinition() == typeof(List<>));
+        .Where(property => property.PropertyType.IsGenericType && property.PropertyType.GetInterface(nameof(IEnumerable)) is not null);
 
     private static void Fill(object item)
     {

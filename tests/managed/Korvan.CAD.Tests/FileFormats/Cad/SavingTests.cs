@@ -87,7 +87,7 @@ public sealed class SavingTests : IDisposable
         string file = Path.Combine(_folder, "kept.dxf");
         image.Save(file, new PdfOptions());
         byte[] before = File.ReadAllBytes(file);
-        Assert.Contains("overWrite", Assert.Throws<ImageSaveException>(() => image.Save(file, false)).Message);
+        Assert.Contains("over_write=True", Assert.Throws<ImageSaveException>(() => image.Save(file, false)).Message);
         image.AddEntity(new CadCircle { Radius = double.PositiveInfinity });
         Assert.Contains("CIRCLE", Assert.Throws<ImageSaveException>(() => image.Save(file)).Message);
         Assert.Equal(before, File.ReadAllBytes(file));

@@ -66,7 +66,7 @@ public sealed class CgmFileTests : IDisposable
     [InlineData("302022", "character encoding")]
     [InlineData("1B25 20 42 302022", "character encoding")] // behind a sequence that chooses the coding
     [InlineData("89504E470D0A1A0A", "no metafile")]
-    [InlineData("", "no metafile")]
+    [InlineData("", "empty")]
     [InlineData("1F8B0800000000000003FFFFFF", "damaged")] // packed, but not by gzip
     public void Other_files_are_refused_by_name(string data, string cause)
     {

@@ -75,7 +75,7 @@ public class FileTests
         IfcImage image = IfcText.Load(Direction);
         Exception? failure = Record.Exception(
             () => image.Save(new MemoryStream(), new IfcOptions { Layers = ["walls"] }));
-        Assert.Contains("Layers", failure?.Message, StringComparison.Ordinal);
+        Assert.Contains("IfcOptions.layers", failure?.Message, StringComparison.Ordinal);
         Assert.Throws<IfcImageException>(() => image.Bounds);
     }
 

@@ -32,6 +32,7 @@ public abstract partial class CadDictionaryBase : CadObjectBase
     /// <summary>Gives the handle of an entry in hexadecimal, or an empty text where there is none of this
     /// name.</summary>
     /// <param name="name">The name; upper and lower case are the same.</param>
+    /// <returns>The handle of an entry in hexadecimal, or an empty text where there is none of this name.</returns>
     public string GetHandle(string name) => TryGet(name, out ulong handle) ? HandleText.Format(handle) : "";
 
     /// <summary>Adds an entry or changes the one of this name.</summary>

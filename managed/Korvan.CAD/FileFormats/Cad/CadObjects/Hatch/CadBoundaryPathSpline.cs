@@ -30,13 +30,13 @@ public class CadBoundaryPathSpline : ICadBoundaryPathEntity
     public List<double> KnotValues { get; } = [];
 
     /// <summary>Gets the control points, in object coordinates. The list is live. Group codes 10, 20.</summary>
-    public List<Cad2DPoint> ControlPoints { get; } = [];
+    public IList<Cad2DPoint> ControlPoints { get; } = new CheckedList<Cad2DPoint>("control_points");
 
     /// <summary>Gets the weights of the control points. The list is live. Group code 42.</summary>
     public List<double> Weights { get; } = [];
 
     /// <summary>Gets the points that the curve runs through. The list is live. Group codes 11, 21.</summary>
-    public List<Cad2DPoint> FitPoints { get; } = [];
+    public IList<Cad2DPoint> FitPoints { get; } = new CheckedList<Cad2DPoint>("fit_points");
 
     /// <summary>Gets or sets the tangent at the start. Group codes 12, 22.</summary>
     public Cad2DPoint StartTangent { get; set; } = new();

@@ -13,7 +13,7 @@ public class CadEdgeBoundaryPath : ICadBoundaryPath
     }
 
     /// <summary>Gets the edges in order. The list is live. Group code 72.</summary>
-    public List<ICadBoundaryPathEntity> Edges { get; } = [];
+    public IList<ICadBoundaryPathEntity> Edges { get; } = new CheckedList<ICadBoundaryPathEntity>("edges");
 
     bool ICadBoundaryPath.ReadCode(int code, DxfTagReader tags)
     {

@@ -89,13 +89,13 @@ public partial class CadHatch : CadEntityBase
     public List<int> GradientColors { get; } = [];
 
     /// <summary>Gets the outlines. The list is live. Group code 91.</summary>
-    public List<CadHatchBoundaryPathContainer> BoundaryPaths { get; } = [];
+    public IList<CadHatchBoundaryPathContainer> BoundaryPaths { get; } = new CheckedList<CadHatchBoundaryPathContainer>("boundary_paths");
 
     /// <summary>Gets the lines of the pattern. The list is live. Group code 78.</summary>
-    public List<CadHatchPatternData> PatternDefinitions { get; } = [];
+    public IList<CadHatchPatternData> PatternDefinitions { get; } = new CheckedList<CadHatchPatternData>("pattern_definitions");
 
     /// <summary>Gets points inside the areas. The list is live. Group code 98.</summary>
-    public List<Cad2DPoint> SeedPoints { get; } = [];
+    public IList<Cad2DPoint> SeedPoints { get; } = new CheckedList<Cad2DPoint>("seed_points");
 
     /// <summary>Gets the place and the number of the colour of each gradient colour. Group codes 463, 63.</summary>
     internal List<(double Place, short? ColorId)> GradientStops { get; } = [];

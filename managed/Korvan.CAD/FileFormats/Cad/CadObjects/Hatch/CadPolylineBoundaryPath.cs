@@ -15,7 +15,7 @@ public class CadPolylineBoundaryPath : ICadBoundaryPath
     public bool IsClosed { get; set; } = true;
 
     /// <summary>Gets the vertices, in object coordinates. The list is live. Group codes 10, 20.</summary>
-    public List<Cad2DPoint> Vertices { get; } = [];
+    public IList<Cad2DPoint> Vertices { get; } = new CheckedList<Cad2DPoint>("vertices");
 
     /// <summary>Gets the bulges of the pieces that begin at the vertices; empty where all are straight. The list is
     /// live. Group code 42.</summary>

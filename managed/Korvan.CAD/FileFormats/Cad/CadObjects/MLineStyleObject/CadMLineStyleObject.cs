@@ -39,7 +39,7 @@ public partial class CadMLineStyleObject : CadObjectBase
     public double EndAngle { get; set; } = 90;
 
     /// <summary>Gets the lines of the style. The list is live.</summary>
-    public List<CadMLineStyleElement> Elements { get; } = [];
+    public IList<CadMLineStyleElement> Elements { get; } = new CheckedList<CadMLineStyleElement>("elements");
 
     partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
     {

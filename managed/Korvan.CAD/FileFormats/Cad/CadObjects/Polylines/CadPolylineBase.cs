@@ -10,6 +10,7 @@ public abstract partial class CadPolylineBase : CadExtrudedEntityBase
 {
     internal CadPolylineBase()
     {
+        Vertices = new EntityList<CadVertexBase>("vertices", this);
     }
 
     /// <summary>Gets or sets whether vertices follow; always 1. Group code 66.</summary>
@@ -55,7 +56,7 @@ public abstract partial class CadPolylineBase : CadExtrudedEntityBase
     public short SurfaceType { get; set; }
 
     /// <summary>Gets the vertices. The list is live.</summary>
-    public List<CadVertexBase> Vertices { get; } = [];
+    public IList<CadVertexBase> Vertices { get; }
 
     /// <summary>Gets or sets the entity that ends the vertices.</summary>
     public CadSeqend? Seqend { get; set; }
