@@ -12,6 +12,7 @@ internal static class AtomicFile
     internal static void Write(string filePath, bool overWrite, Action<Stream> write)
     {
         ArgumentException.ThrowIfNullOrEmpty(filePath);
+        OddFileName.RefuseAsTarget(filePath);
         string target = ResolveLinks(Path.GetFullPath(filePath));
         VerifyTarget(filePath, target, overWrite);
         string beside = $"{target}.{Guid.NewGuid():N}.part";
