@@ -28,6 +28,7 @@ internal static class AtomicFile
     internal static void Write(string filePath, bool overWrite, Action<Stream> write, bool avoidName = true)
     {
         Verify.NotEmpty(filePath);
+        OddFileName.RefuseAsTarget(filePath);
         string target = Path.GetFullPath(filePath);
         PosixFile.Kind kind = PosixFile.KindOf(target);
         if (kind == PosixFile.Kind.Folder)

@@ -37,7 +37,7 @@ internal static partial class ForkedProcess
     }
 
     [ModuleInitializer]
-    [SuppressMessage("Usage", "CA2255", Justification = "The first use may be in the child: by then it is too late to ask.")]
+    [SuppressMessage("Usage", "CA2255", Justification = "The first use may be in the child: too late to ask.")]
     internal static void Remember() => s_owner = GetProcessId();
 
     [LibraryImport("libc", EntryPoint = "getpid")]

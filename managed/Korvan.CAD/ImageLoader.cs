@@ -39,7 +39,7 @@ internal static class ImageLoader
 
     internal static bool CanLoad(string filePath)
     {
-        return File.Exists(filePath) && FormatDetector.CanRead(FormatDetector.Detect(ReadHead(filePath)));
+        return OddFileName.Exists(filePath) && FormatDetector.CanRead(FormatDetector.Detect(ReadHead(filePath)));
     }
 
     internal static bool CanLoad(Stream stream) => FormatDetector.CanRead(GetFileFormat(stream));
@@ -135,7 +135,7 @@ internal static class ImageLoader
         VerifyFile(filePath);
         try
         {
-            using FileStream stream = new(filePath, FileMode.Open, FileAccess.Read, FileShare.ReadWrite, 1);
+            using FileStream stream = OddFileName.OpenToRead(filePath);
             return ReadStream(stream, filePath, verify);
         }
         catch (Exception e) when (e is IOException or UnauthorizedAccessException)
@@ -148,7 +148,7 @@ internal static class ImageLoader
     {
         try
         {
-            using FileStream stream = new(filePath, FileMode.Open, FileAccess.Read, FileShare.ReadWrite, 1);
+            using FileStream stream = OddFileName.OpenToRead(filePath);
             byte[] head = new byte[FormatDetector.HeadLength];
             int count = stream.ReadAtLeast(head, head.Length, false);
             return head[..count];
@@ -238,7 +238,7 @@ internal static class ImageLoader
             throw new ImageLoadException($"'{filePath}' is a folder; name a file in it.");
         }
 
-        if (!File.Exists(filePath))
+        if (!OddFileName.Exists(filePath))
         {
             throw new ImageLoadException($"'{filePath}' does not exist.");
         }

@@ -2,6 +2,7 @@ using System;
 using System.IO;
 using System.Runtime.InteropServices;
 using System.Text;
+using Korvan.CAD.CadExceptions;
 using Microsoft.Win32.SafeHandles;
 
 namespace Korvan.CAD;
@@ -33,6 +34,35 @@ internal static unsafe partial class OddFileName
         return false;
     }
 
+    /// <summary>Tells whether a file can be opened by whatever name.</summary>
+    internal static bool Exists(string path)
+    {
+        if (!Is(path))
+        {
+            return File.Exists(path);
+        }
+
+        try
+        {
+            using SafeFileHandle file = OpenByBytes(path);
+            return true;
+        }
+        catch (IOException)
+        {
+            return false;
+        }
+    }
+
+    /// <summary>Throws where a file of a name cannot be written: it would get another name.</summary>
+    internal static void RefuseAsTarget(string path)
+    {
+        if (Is(path))
+        {
+            throw new ImageSaveException(
+                $"'{path}' cannot be written by this name, which is no UTF-8; open the file in Python and pass that.");
+        }
+    }
+
     /// <summary>Opens a file by whatever name.</summary>
     internal static FileStream OpenToRead(string path)
     {
@@ -51,7 +81,9 @@ internal static unsafe partial class OddFileName
         fixed (byte* name = Bytes(path))
         {
             int file = Open(name, ReadOnly | CloseOnExec, 0);
-            return file >= 0 ? new SafeFileHandle(file, true) : throw new IOException(Marshal.GetLastPInvokeErrorMessage());
+            return file >= 0
+                ? new SafeFileHandle(file, true)
+                : throw new IOException(Marshal.GetLastPInvokeErrorMessage());
         }
     }
 

@@ -6,8 +6,8 @@ using Korvan.CAD.CadExceptions;
 namespace Korvan.CAD;
 
 /// <summary>
-/// Looks for the library behind <see cref="System.Security.Cryptography"/> before its first use: where there is none, the
-/// runtime ends the process.
+/// Looks for the library behind <see cref="System.Security.Cryptography"/> before its first use: where there is none,
+/// the runtime ends the process.
 /// </summary>
 internal static class OpenSsl
 {
@@ -19,8 +19,9 @@ internal static class OpenSsl
     {
         if (!Found.Value)
         {
-            throw new FrameworkException($"Signatures and sealed watermarks need the shared library {Files[0]}, which could not be "
-                + "loaded. On Debian and Ubuntu it comes with the package libssl3.");
+            throw new FrameworkException(
+                $"Signatures and sealed watermarks need the shared library {Files[0]}, which could not be loaded. "
+                + "On Debian and Ubuntu it comes with the package libssl3.");
         }
     }
 }

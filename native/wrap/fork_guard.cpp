@@ -61,21 +61,24 @@ void after_fork_in_child() {
     }
 }
 
-// ---- the runtime's threads -------------------------------------------------------------------
+// ---- the threads that are waited for ----------------------------------------------------------
 
 struct DirectoryCloser {
     void operator()(DIR* directory) const { closedir(directory); }
 };
 
-// The one that never runs managed code. It is busy for ever when a program has closed its pipe.
-constexpr const char* signal_thread = "(.NET SigHandler)";
-
-bool is_runtimes(const char* name) {
-    return std::strncmp(name, "(.NET ", 6) == 0 &&
-           std::strncmp(name, signal_thread, std::strlen(signal_thread)) != 0;
+bool begins_with(const char* text, const char* start) {
+    return std::strncmp(text, start, std::strlen(start)) == 0;
 }
 
-// Whether a thread of this process is the runtime's and not asleep: "12 (.NET Finalizer) S ...".
+// The runtime's threads, and those by which pango looks for fonts: they hold locks of glib's. The
+// one for signals never runs managed code, and is busy for ever when a program closed its pipe.
+bool is_waited_for(const char* name) {
+    return begins_with(name, "([pango]") ||
+           (begins_with(name, "(.NET ") && !begins_with(name, "(.NET SigHandler)"));
+}
+
+// Whether a thread of this process is one of them and not asleep: "12 (.NET Finalizer) S ...".
 bool is_busy(const char* thread) {
     char path[64];
     std::snprintf(path, sizeof(path), "/proc/self/task/%.20s/stat", thread);
@@ -88,7 +91,7 @@ bool is_busy(const char* thread) {
     close(file);
     const char* name = length > 0 ? std::strchr(line, '(') : nullptr;
     const char* name_end = name != nullptr ? std::strrchr(name, ')') : nullptr;
-    return name_end != nullptr && name_end[1] == ' ' && name_end[2] != 'S' && is_runtimes(name);
+    return name_end != nullptr && name_end[1] == ' ' && name_end[2] != 'S' && is_waited_for(name);
 }
 
 bool any_is_busy() {
@@ -104,12 +107,16 @@ bool any_is_busy() {
     return false;
 }
 
-// They compile in the background or end a piece of work, which is a matter of milliseconds.
-// What takes longer than this must not hold up a fork.
+// They compile in the background, or end a piece of work: a matter of milliseconds, or of seconds
+// on a machine that is busy itself. Twice asleep, since one may just go from one piece to the next.
 void before_fork() {
     constexpr timespec pause = {0, 500'000};
-    for (int waited = 0; waited < 2000 && any_is_busy(); ++waited) {
-        nanosleep(&pause, nullptr);
+    constexpr int longest_wait = 20'000; // pauses
+    for (int waited = 0, quiet = 0; waited < longest_wait && quiet < 2; ++waited) {
+        quiet = any_is_busy() ? 0 : quiet + 1;
+        if (quiet < 2) {
+            nanosleep(&pause, nullptr);
+        }
     }
 }
 

@@ -9,7 +9,10 @@ import unittest
 from collections.abc import Callable
 from pathlib import Path
 
+from korvan import cad
+
 from child import ASSEMBLY_VARIABLE, PACKAGE, RUNTIME_VARIABLE, WRAP_LIBRARY, LinkedPackage, run
+from drawings import EXAMPLES
 
 SCRIPTED_PYTHON = os.environ.get("KORVAN_SCRIPTED_PYTHON", "")
 SHOW = "import korvan.cad as c; print(c.Color.from_argb(1, 2, 3).r)"
@@ -53,7 +56,8 @@ def damage(package: LinkedPackage, change: Callable[[bytes], bytes]) -> None:
 class Folders(unittest.TestCase):
     def test_the_package_checks_the_runtime_that_the_host_takes(self) -> None:
         rows: list[tuple[str, Callable[[LinkedPackage], object], str]] = [
-            ("a newer one without the wrap library", lambda p: link_runtime(p, "netcore11.0", WRAP_LIBRARY), "imported 1"),
+            ("a newer one without the wrap library", lambda p: link_runtime(p, "netcore11.0", WRAP_LIBRARY),
+             "imported 1"),
             ("a copy put aside", lambda p: link_runtime(p, "netcore10.0.bak", "libcoreclr.so"), "imported 1"),
             ("a file of such a name", lambda p: (p.package / "netcore" / "netcore.txt").touch(), "imported 1"),
             ("an older one that lacks a file", lambda p: link_runtime(p, "netcore9.0", "libcoreclr.so"), "imported 1"),
@@ -126,10 +130,10 @@ class Variables(unittest.TestCase):
     def test_what_the_user_set_stands(self) -> None:
         with LinkedPackage() as package:
             runtime = str(package.package / "netcore")
-            done = package.run(SHOW + f"; import os; print(os.environ[{RUNTIME_VARIABLE!r}])", **{RUNTIME_VARIABLE: runtime})
-            self.assertEqual(done.stdout.split(), ["1", runtime], done.stderr)
-            done = package.run(SHOW + f"; import os; print(repr(os.environ[{RUNTIME_VARIABLE!r}]))", **{RUNTIME_VARIABLE: ""})
-            self.assertEqual(done.stdout.split(), ["1", "''"], done.stderr)
+            for value in (runtime, ""):
+                code = SHOW + f"; import os; print([os.environ[{RUNTIME_VARIABLE!r}]])"
+                done = package.run(code, **{RUNTIME_VARIABLE: value})
+                self.assertEqual(done.stdout.splitlines(), ["1", str([value])], done.stderr)
 
     def test_an_environment_that_is_cleared_later_stops_nothing(self) -> None:
         with LinkedPackage() as package:
@@ -188,6 +192,36 @@ class Interpreter(unittest.TestCase):
         self.assertEqual((done.stdout.strip(), done.returncode), ("trapped", 0), done.stderr)
 
 
+class Names(unittest.TestCase):
+    """Names of files that are no UTF-8, which Python hands on with an unpaired surrogate for each byte."""
+
+    def setUp(self) -> None:
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.name = os.fsdecode(os.fsencode(folder.name) + b"/na\xefve \xc3\xa9\xff.dxf")
+        shutil.copy(EXAMPLES / "floor_plan.dxf", self.name)
+
+    def test_they_are_loaded(self) -> None:
+        expected = cad.Image.get_file_format(str(EXAMPLES / "floor_plan.dxf"))
+        self.assertEqual((cad.Image.can_load(self.name), cad.Image.get_file_format(self.name)), (True, expected))
+        with cad.Image.load(self.name) as image:
+            self.assertGreater(image.width, 0)
+        self.assertFalse(cad.Image.can_load(self.name + "x"))
+
+    def test_they_are_shown_with_their_bytes_spelled_out(self) -> None:
+        other = "\ud800\U0001f600" + self.name + "x"
+        with self.assertRaisesRegex(RuntimeError, r"\\ud800\U0001f600.*na\\xefve é\\xff\.dxfx' does not exist"):
+            cad.Image.load(other)
+
+    def test_they_are_no_targets(self) -> None:
+        before = os.listdir(os.path.dirname(self.name))
+        with cad.Image.load(self.name) as image, self.assertRaisesRegex(RuntimeError, r"xff\.dxf' cannot be written"):
+            image.save(self.name)
+        self.assertEqual(os.listdir(os.path.dirname(self.name)), before)
+        with cad.Image.load(self.name) as image, open(self.name + ".new", "wb") as file:
+            image.save(file)
+
+
 @unittest.skipUnless(SCRIPTED_PYTHON, "the library to preload was not named")
 class Libraries(unittest.TestCase):
     def test_cryptography_without_its_library_is_an_error(self) -> None:
@@ -198,8 +232,8 @@ class Libraries(unittest.TestCase):
             except RuntimeError as error:
                 print(error)
             """
-        drawing = Path(__file__).resolve().parents[2] / "examples" / "drawings" / "floor_plan.dxf"
-        done = run(code.format(drawing=drawing), LD_PRELOAD=SCRIPTED_PYTHON, KORVAN_LOST_LIBRARY="libssl.so")
+        code = code.format(drawing=EXAMPLES / "floor_plan.dxf")
+        done = run(code, LD_PRELOAD=SCRIPTED_PYTHON, KORVAN_LOST_LIBRARY="libssl.so")
         self.assertIn("Proxy error(FrameworkException)", done.stdout, done.stderr)
         self.assertIn("package libssl3", done.stdout)
 
