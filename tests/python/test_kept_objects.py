@@ -10,6 +10,7 @@ import tempfile
 import unittest
 from collections.abc import Callable
 
+import child
 from korvan import probe
 from korvan.cad import ColorPalette, StreamContainer
 from korvan.cad.imageoptions import CadRasterizationOptions
@@ -165,6 +166,26 @@ class Kept(unittest.TestCase):
                     body()
                     highest = max(highest, resident_kib() - before)
                 self.assertLess(highest, 400 * MIB)
+
+    def test_a_forked_process_lets_go_as_well(self) -> None:
+        # It has none of the runtime's own threads.
+        done = child.run("""
+            import io, os, sys
+            from korvan import probe
+            def resident():
+                with open("/proc/self/statm") as status:
+                    return int(status.read().split()[1]) * 4096 // 2**20
+            streams = probe.Streams()
+            streams.held = io.BytesIO()
+            forked = os.fork()
+            if forked == 0:
+                before = resident()
+                for _ in range(1000):  # a gigabyte
+                    streams.held = io.BytesIO(b"x" * 1_000_000)
+                os._exit(resident() - before > 400)
+            print(os.waitstatus_to_exitcode(os.waitpid(forked, 0)[1]))
+            """)
+        self.assertEqual(done.stdout, "0\n", done.stderr)
 
     def test_what_is_in_use_stays(self) -> None:
         kept = []
