@@ -3,6 +3,7 @@
 #   make            build the package
 #   make demo       convert examples/drawings into build/demo
 #   make test       everything there is, under ctest
+#   make fuzz-calls hostile calls of every member for MINUTES=60, from SEED=1 on
 #   make sanitize   the native units under the address and undefined-behaviour sanitizers
 #   make bench      measurements beside hand-written baselines
 #   make catalogue  which of the types of CATALOGUE=<table> stand, module by module
@@ -15,6 +16,9 @@
 
 PRESET ?= release
 CATALOGUE ?= ../shared/catalogue.tsv
+SEED ?= 1
+ROUNDS ?= 20000
+MINUTES ?= 60
 BUILD := build/$(PRESET)
 # A build leaves no servers behind: they would outlive it, hold its pipes open, and mix with other builds.
 export MSBUILDDISABLENODEREUSE := 1
@@ -22,7 +26,7 @@ export UseSharedCompilation := false
 export DOTNET_CLI_TELEMETRY_OPTOUT := 1
 export DOTNET_NOLOGO := 1
 
-.PHONY: build demo test sanitize bench catalogue wheel format lint clean packages
+.PHONY: build demo test fuzz-calls sanitize bench catalogue wheel format lint clean packages
 
 build: packages $(BUILD)/build.ninja
 	@cmake --build --preset $(PRESET)
@@ -39,6 +43,9 @@ demo: build
 
 test: test_packages build
 	@ctest --preset $(PRESET)
+
+fuzz-calls: build
+	@build/python tests/python/hostile_calls.py --seed $(SEED) --rounds $(ROUNDS) --minutes $(MINUTES)
 
 sanitize: test_packages packages
 	@python=$$(tools/find-python.sh) && cmake --preset asan -DPython_EXECUTABLE="$$python" >/dev/null

@@ -13,6 +13,11 @@ from collections.abc import Callable
 
 from korvan import probe
 
+try:
+    import _testcapi
+except ImportError:
+    _testcapi = None
+
 ROUNDS = 10_000
 # Blocks that the interpreter itself may keep: free lists, interned names, a grown dictionary.
 SLACK = 64
@@ -124,6 +129,19 @@ class Leaks(unittest.TestCase):
         for body in CLEAN.values():
             grown_blocks(body, ROUNDS)
         self.assertLess(resident_kib() - memory, 20_000, "KiB of the process")
+
+    @unittest.skipUnless(_testcapi, "this Python has no module that lets allocations fail")
+    def test_a_handle_that_no_wrapper_takes_over_is_given_back(self) -> None:
+        handles = probe._live_handles()
+        for body in (echo.get_type, probe.Echo._type_of, lambda: echo.peer, probe.Shelf):
+            with self.subTest(body):
+                _testcapi.set_nomemory(0, 1)
+                try:
+                    with self.assertRaises(MemoryError):
+                        body()
+                finally:
+                    _testcapi.remove_mem_hooks()
+                self.assertEqual(probe._live_handles(), handles)
 
     def test_a_view_stays_behind_for_each_block_that_a_stream_was_given(self) -> None:
         # By contract: the stream may have kept it.

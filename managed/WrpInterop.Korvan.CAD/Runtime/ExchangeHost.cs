@@ -81,7 +81,7 @@ public static unsafe class ExchangeHost
         try
         {
             Handles.Free(handle);
-            KeptPyReference.ReleaseDead();
+            KeptReferences.Settle();
         }
         catch (Exception e)
         {

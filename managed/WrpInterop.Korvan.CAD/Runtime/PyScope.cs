@@ -31,10 +31,15 @@ public interface IPyAdapter
 public unsafe struct PyScope
 {
     private readonly bool _keeps;
+    private readonly PyReference? _collection;
     private IPyAdapter? _first;
     private List<IPyAdapter>? _others;
 
-    private PyScope(bool keeps) => _keeps = keeps;
+    private PyScope(bool keeps, PyReference? collection = null)
+    {
+        _keeps = keeps;
+        _collection = collection;
+    }
 
     /// <summary>For arguments of a method.</summary>
     public static PyScope Lending() => new(keeps: false);
@@ -42,8 +47,11 @@ public unsafe struct PyScope
     /// <summary>For what outlives the call.</summary>
     public static PyScope Keeping() => new(keeps: true);
 
+    /// <summary>For an item of a Python collection, which lives as long as what is made of the collection.</summary>
+    internal static PyScope ItemOf(PyReference collection) => new(keeps: true, collection);
+
     public Stream? Stream(VariantArg* argument) => FromPython(argument)
-        ? Adopt(new PyStream(Hold(argument->Value), isBuffered: !_keeps))
+        ? Adopt(new PyStream(Hold(argument->Value, isStream: true), isBuffered: !_keeps))
         : Handles.Object<Stream>(argument->Value);
 
     /// <summary>A stream that stays of use after the call, which is not buffered therefore. A call that fails has not
@@ -118,11 +126,11 @@ public unsafe struct PyScope
 
     /// <summary>A concrete list is no interface: items from Python are copied into a new one.</summary>
     public List<T>? ListOf<T>(VariantArg* argument, PyElement<T> element) => FromPython(argument)
-        ? ItemsOf(argument, element).ToList()
+        ? CopyOf(argument, element)
         : Handles.Object<List<T>>(argument->Value);
 
     public T[]? ArrayOf<T>(VariantArg* argument, PyElement<T> element) => FromPython(argument)
-        ? ItemsOf(argument, element).ToList().ToArray()
+        ? CopyOf(argument, element).ToArray()
         : Handles.Object<T[]>(argument->Value);
 
     /// <summary>Any value for a parameter of the universal object type.</summary>
@@ -138,7 +146,9 @@ public unsafe struct PyScope
         }
     }
 
-    /// <summary>Makes a Python error of the call's failure, with what the adapters hold brought home before.</summary>
+    /// <summary>
+    /// Makes a Python error of the call's failure, with what the adapters hold brought home before. Nothing is kept.
+    /// </summary>
     public readonly void Fail(Exception exception)
     {
         _first?.Abandon();
@@ -146,21 +156,18 @@ public unsafe struct PyScope
         {
             adapter.Abandon();
         }
+        EndAll();
         Boundary.Fail(exception);
     }
 
     /// <summary>Ends lent adapters; kept ones live on.</summary>
     public readonly void End()
     {
-        if (_keeps)
+        if (!_keeps)
         {
-            return;
+            EndAll();
         }
-        _first?.End();
-        foreach (IPyAdapter adapter in Others)
-        {
-            adapter.End();
-        }
+        KeptReferences.Settle();
     }
 
     internal T Adopt<T>(T adapter) where T : IPyAdapter
@@ -176,8 +183,14 @@ public unsafe struct PyScope
         return adapter;
     }
 
-    internal readonly PyReference Hold(nint value) =>
-        _keeps ? PyReference.Kept(value) : PyReference.Lent(value);
+    internal readonly PyReference Hold(nint value, bool isStream = false)
+    {
+        if (_collection is not null)
+        {
+            return _collection.HoldItem(value, isStream);
+        }
+        return _keeps ? PyReference.Kept(value, isStream) : PyReference.Lent(value);
+    }
 
     private readonly ReadOnlySpan<IPyAdapter> Others =>
         System.Runtime.InteropServices.CollectionsMarshal.AsSpan(_others);
@@ -185,12 +198,48 @@ public unsafe struct PyScope
     private static bool FromPython(VariantArg* argument) =>
         (ReferenceKind)argument->Kind >= ReferenceKind.Python;
 
-    private readonly ArrayList CopyOf(VariantArg* argument) => new(new PyCollection(Hold(argument->Value)));
+    private ArrayList CopyOf(VariantArg* argument)
+    {
+        PyReference source = HoldToCopy(argument->Value);
+        var copy = new ArrayList(Adopt(new PyCollection(source)));
+        EndCopied(source);
+        return copy;
+    }
+
+    private List<T> CopyOf<T>(VariantArg* argument, PyElement<T> element)
+    {
+        PyReference source = HoldToCopy(argument->Value);
+        List<T> copy = Adopt(ItemsOf(source, argument, element, PyItemsKind.Sequence)).ToList();
+        EndCopied(source);
+        return copy;
+    }
+
+    private readonly PyReference HoldToCopy(nint value) =>
+        _keeps && _collection is null ? PyReference.Copied(value) : Hold(value);
+
+    // What is made of its items needs the collection itself no longer, unless it ends with it.
+    private static void EndCopied(PyReference source)
+    {
+        if (source.KeepsItems)
+        {
+            source.End();
+        }
+    }
 
     private readonly PyItems<T> ItemsOf<T>(
         VariantArg* argument, PyElement<T> element, PyItemsKind other = PyItemsKind.Sequence) =>
-        new(
-            Hold(argument->Value),
-            (ReferenceKind)argument->Kind == ReferenceKind.Python ? PyItemsKind.List : other,
-            element);
+        ItemsOf(Hold(argument->Value), argument, element, other);
+
+    private static PyItems<T> ItemsOf<T>(
+        PyReference source, VariantArg* argument, PyElement<T> element, PyItemsKind other) =>
+        new(source, (ReferenceKind)argument->Kind == ReferenceKind.Python ? PyItemsKind.List : other, element);
+
+    private readonly void EndAll()
+    {
+        _first?.End();
+        foreach (IPyAdapter adapter in Others)
+        {
+            adapter.End();
+        }
+    }
 }

@@ -14,7 +14,8 @@ public static unsafe class PyText
         int length = text->Length;
         if (length <= 0)
         {
-            return length == NullLength ? null : "";
+            return length == 0 ? "" : length == NullLength ? null : throw new ArgumentException(
+                "A Python string of 2,147,483,648 characters or more is too long.");
         }
         return text->CharSize switch
         {

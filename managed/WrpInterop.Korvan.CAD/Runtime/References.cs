@@ -5,14 +5,22 @@ namespace Korvan.WrpGen.Interop;
 /// <summary>Results whose Python type is chosen by the object's exact type.</summary>
 public static unsafe class References
 {
-    /// <summary>An argument of interface type: an object or the box of a struct.</summary>
+    /// <summary>An argument of interface type: an object, or a box of its own of a struct.</summary>
     [MethodImpl(MethodImplOptions.AggressiveInlining)]
-    public static T? Read<T>(VariantArg* argument) where T : class => Handles.Object<T>(argument->Value);
+    public static T? Read<T>(VariantArg* argument) where T : class => (T?)Target(argument);
+
+    /// <summary>The object of a record of kind 0 or 1, or a copy of the struct.</summary>
+    [MethodImpl(MethodImplOptions.AggressiveInlining)]
+    internal static object? Target(VariantArg* argument)
+    {
+        object? target = Handles.Target(argument->Value);
+        return (ReferenceKind)argument->Kind == ReferenceKind.Struct ? RuntimeHelpers.GetObjectValue(target) : target;
+    }
 
     /// <summary>A result of interface type.</summary>
     public static void Write(object? value, PyObjectOutArg* result)
     {
-        result->Handle = Handles.New(value);
+        result->Handle = Handles.New(value is System.ValueType ? RuntimeHelpers.GetObjectValue(value) : value);
         result->TypeKey = value is null ? 0 : Handles.TypeKey(value);
     }
 

@@ -9,7 +9,25 @@ namespace Korvan.WrpGen.Interop;
 public static unsafe class Variants
 {
     /// <summary>The value. Python lists and tuples come as adapters that <paramref name="scope"/> owns.</summary>
-    public static object? Read(VariantArg* variant, ref PyScope scope)
+    public static object? Read(VariantArg* variant, ref PyScope scope) => (VariantKind)variant->Kind switch
+    {
+        VariantKind.List => scope.Adopt(new PyList(scope.Hold(variant->Value))),
+        VariantKind.Tuple => scope.Adopt(new PySequence(scope.Hold(variant->Value))),
+        _ => ReadValue(variant),
+    };
+
+    /// <summary>The value of an item, which may leave its place in the Python collection.</summary>
+    internal static object? ReadItem(VariantArg* variant, PyReference collection)
+    {
+        PyScope scope = PyScope.ItemOf(collection);
+        return Read(variant, ref scope);
+    }
+
+    /// <summary>Whether the reading of a value may run Python code, so that the value has to be held.</summary>
+    internal static bool MayRunPython(VariantArg* variant) =>
+        (VariantKind)variant->Kind is VariantKind.Buffer or (>= VariantKind.Decimal and <= VariantKind.Uuid);
+
+    private static object? ReadValue(VariantArg* variant)
     {
         nint value = variant->Value;
         return (VariantKind)variant->Kind switch
@@ -23,17 +41,8 @@ public static unsafe class Variants
             VariantKind.Bool => PyRead.Bool(value) != 0,
             VariantKind.Int => ReadInteger(value),
             VariantKind.Float => ReadDouble(value),
-            VariantKind.List => scope.Adopt(new PyList(scope.Hold(value))),
-            VariantKind.Tuple => scope.Adopt(new PySequence(scope.Hold(value))),
             _ => ReadOther((VariantKind)variant->Kind, value),
         };
-    }
-
-    /// <summary>The value of an item that outlives its place in a Python collection.</summary>
-    internal static object? ReadItem(VariantArg* variant)
-    {
-        PyScope kept = PyScope.Keeping();
-        return Read(variant, ref kept);
     }
 
     private static object ReadOther(VariantKind kind, nint value) => kind switch
@@ -151,6 +160,7 @@ public static unsafe class Variants
     {
         byte* bytes = stackalloc byte[16];
         PyRead.Guid(value, bytes);
+        PyItemAccess.ThrowIfPending();
         return PyValues.ReadGuid(bytes);
     }
 

@@ -52,7 +52,7 @@ bool DateTimeArgBuilder::to_ticks(long& out) const {
 
 bool DateTimeArgBuilder::to_utc_ticks(long offset, long& out) const {
     long local = 0;
-    if (!to_ticks_non_kind(local) || local < offset || local - offset > ticks::largest_datetime) {
+    if (!to_ticks_non_kind(local) || local < offset || offset < local - ticks::largest_datetime) {
         return false;
     }
     out = local - offset;

@@ -76,17 +76,30 @@ bool keyword_dict(const CallArguments& arguments, Ref& dict) {
     return static_cast<bool>(dict);
 }
 
-// The texts of the legs that did not fit, one each, as the argument of a TypeError.
-void raise_misfits(PyObject* const* values, int count) {
-    const Ref texts = Ref::steal(PyList_New(count));
-    for (int i = 0; i < count; ++i) {
-        PyObject* text = texts && values[i] != nullptr ? PyObject_Str(values[i]) : nullptr;
-        if (text != nullptr) {
-            PyList_SET_ITEM(texts.get(), i, text);
-        }
-        Py_XDECREF(values[i]);
+// An error's text, or what stands in for a text that can't be had. Null with an error.
+PyObject* text_of(PyObject* error) {
+    if (error == nullptr) {
+        return PyUnicode_FromString("<unknown>");
     }
-    if (texts) {
+    PyObject* text = PyObject_Str(error);
+    if (text == nullptr) {
+        PyErr_Clear();
+        text = PyUnicode_FromFormat("<unprintable %s object>", type_name_of(error));
+    }
+    return text;
+}
+
+// The texts of the legs that did not fit, one each, as the argument of a TypeError. Takes over the
+// errors.
+void raise_misfits(PyObject* const* errors, int count) {
+    const Ref texts = Ref::steal(PyList_New(0));
+    bool done = static_cast<bool>(texts);
+    for (int i = 0; i < count; ++i) {
+        const Ref error = Ref::steal(errors[i]);
+        const Ref text = Ref::steal(done ? text_of(error.get()) : nullptr);
+        done = text && PyList_Append(texts.get(), text.get()) == 0;
+    }
+    if (done) {
         PyErr_SetObject(PyExc_TypeError, texts.get());
     }
 }

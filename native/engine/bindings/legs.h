@@ -127,13 +127,13 @@ LegOutcome construct(const Leg& leg, PyObject* self, const CallArguments& argume
         return outcome;
     }
     void* function = reinterpret_cast<void*>(host_slot<void()>(*leg.host, leg.slot));
-    void*& handle = reinterpret_cast<PyClrObject*>(self)->handle;
-    void* const replaced = handle;
-    handle = std::apply(
+    void* const made = std::apply(
         [&](auto... natives) {
             return reinterpret_cast<void* (*)(decltype(natives)...)>(function)(natives...);
         },
         frame.natives());
+    // Only now: the constructor may call back into Python, which may call __init__ in between.
+    void* const replaced = std::exchange(reinterpret_cast<PyClrObject*>(self)->handle, made);
     if (replaced != nullptr) { // __init__ called again on a finished object
         ExchangeHost::get_instance().free_instance(replaced);
     }

@@ -24,9 +24,12 @@ template <class Ret> PyObject* get_static(PyObject*, void* closure) {
 
 namespace property_detail {
 
-// Converts `value` and calls the set delegate, behind `leading` arguments. False with an error.
-template <class Arg, class... Leading>
-bool assign(const Property& property, PyObject* value, Leading... leading) {
+template <class> using HandleOf = void*;
+
+// Converts `value` and calls the set delegate, behind the handles of `instance`, if there is one:
+// they are read last, since a converter may run Python code. False with an error.
+template <class Arg, class... Instance>
+bool assign(const Property& property, PyObject* value, Instance*... instance) {
     typename Arg::cell cell{};
     if (value == nullptr) {
         PyErr_SetString(PyExc_AttributeError, "a bound property can't be deleted");
@@ -38,8 +41,8 @@ bool assign(const Property& property, PyObject* value, Leading... leading) {
     void* function = property_slot(property, property.set_slot);
     std::apply(
         [&](auto... natives) {
-            reinterpret_cast<void (*)(Leading..., decltype(natives)...)>(function)(leading...,
-                                                                                   natives...);
+            reinterpret_cast<void (*)(HandleOf<Instance>..., decltype(natives)...)>(function)(
+                clr_handle(instance)..., natives...);
         },
         Arg::pass(cell));
     return PyErr_Occurred() == nullptr;
@@ -49,7 +52,7 @@ bool assign(const Property& property, PyObject* value, Leading... leading) {
 
 template <class Arg> int set(PyObject* self, PyObject* value, void* closure) {
     const auto& property = *static_cast<const Property*>(closure);
-    return property_detail::assign<Arg>(property, value, clr_handle(self)) ? 0 : -1;
+    return property_detail::assign<Arg>(property, value, self) ? 0 : -1;
 }
 
 // The static method set_<name>: a descriptor can't take an assignment through the class.

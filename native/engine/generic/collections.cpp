@@ -139,7 +139,7 @@ int length_of(const Collection& collection) {
 bool read_wrapper(PyObject* object, VariantArg* out) {
     *out = {};
     if (!fn_is_this_module_clr_instance(object, &out->kind) &&
-        !fn_is_instance_has_host_markattr(object, &out->kind)) {
+        !(is_static_type_of(object) && fn_is_instance_has_host_markattr(object, &out->kind))) {
         return false;
     }
     out->value = clr_handle(object);

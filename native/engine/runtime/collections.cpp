@@ -104,11 +104,19 @@ PyObject** fn_clbk_ucol_create_fast_longlist(long count, PyObject** out) {
 }
 
 int fn_clbk_olist_get_item(PyObject* list, int index, VariantArg* out) {
-    PyObject* item = PyList_GetItem(list, index);
-    if (item == nullptr) {
+    // Held, since a test of its class may run Python code that takes it off the list.
+    const Ref item = Ref::borrow(PyList_GetItem(list, index));
+    if (!item) {
         return index_status();
     }
-    return fn_conv_py_variant_to_clr_variant(item, out) ? KORVAN_CB_OK : KORVAN_CB_ERROR;
+    if (!fn_conv_py_variant_to_clr_variant(item.get(), out)) {
+        return KORVAN_CB_ERROR;
+    }
+    if (Py_REFCNT(item.get()) == 1) {
+        PyErr_SetString(PyExc_RuntimeError, "a list changed while its item was read");
+        return KORVAN_CB_ERROR;
+    }
+    return KORVAN_CB_OK;
 }
 
 int fn_clbk_olist_set_item(PyObject* list, int index, PyObject* value) {

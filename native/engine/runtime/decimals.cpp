@@ -6,12 +6,15 @@
 #include "runtime/imports.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
 constexpr long most_digits = 29;
 constexpr long largest_scale = 28;
 constexpr int group_digits = 9;
+// Far below anything with a digit above zero, and far enough above the end of 64 bits to add to.
+constexpr long smallest_exponent = std::numeric_limits<long>::min() / 2;
 
 int raise_too_large() {
     PyErr_SetString(PyExc_OverflowError, "value too large for .Net decimal");
@@ -21,7 +24,7 @@ int raise_too_large() {
 // Feeds the first `count` digits, nine at a time: nine fit one multiplication of 32 bits.
 void feed_digits(DecimalArgOutBuilder& builder, PyObject* digits, long count) {
     long begin = 0;
-    while (begin < count) {
+    while (begin < count && PyErr_Occurred() == nullptr) {
         const long end = std::min(begin + group_digits, count);
         builder.accept_decimal_mantissa(get_mantissa_group(digits, begin, end),
                                         static_cast<int>(end - begin));
@@ -30,8 +33,8 @@ void feed_digits(DecimalArgOutBuilder& builder, PyObject* digits, long count) {
 }
 
 // How many digits are read, and how the builder is to begin.
-void accept_digits(DecimalArgOutBuilder& builder, PyObject* digits, int sign, long exponent) {
-    long n = PyObject_Size(digits);
+void accept_digits(DecimalArgOutBuilder& builder, PyObject* digits, long n, int sign,
+                   long exponent) {
     int stop_digit = -1;
     if (exponent < -largest_scale) {
         if (n < -largest_scale - exponent) { // every digit lies below the last place
@@ -57,6 +60,9 @@ unsigned long get_mantissa_group(PyObject* digits, const long& begin, const long
     unsigned long value = 0;
     for (long i = begin; i < end; ++i) {
         const Ref digit = Ref::steal(PySequence_GetItem(digits, i));
+        if (!digit) {
+            break; // the error stays for the caller
+        }
         value = value * 10 + static_cast<unsigned long>(PyLong_AsLong(digit.get()));
     }
     return value;
@@ -83,23 +89,33 @@ bool is_non_convertable_py_decimal(PyObject* exponent, const char* type_name) {
 int fn_conv_py_decimal_tuple_to_clr_decimal(PyObject* tuple, unsigned int* out) {
     DecimalArgOutBuilder builder(out);
     const Ref exponent_object = Ref::steal(PyObject_GetAttr(tuple, PyWrpIdDecimal_Exponent));
-    if (is_non_convertable_py_decimal(exponent_object.get(), "Decimal")) {
+    if (!exponent_object || is_non_convertable_py_decimal(exponent_object.get(), "Decimal")) {
         return 0;
     }
-    const long exponent = PyLong_AsLongLong(exponent_object.get());
+    long exponent = PyLong_AsLongLong(exponent_object.get());
     if (exponent == -1 && PyErr_Occurred() != nullptr) {
         return 0;
     }
+    exponent = std::max(exponent, smallest_exponent);
     const Ref sign_object = Ref::steal(PyObject_GetAttr(tuple, PyWrpIdDecimal_Sign));
-    const int sign = static_cast<int>(PyLong_AsLong(sign_object.get()));
-    Ref digits = Ref::steal(PyObject_GetAttr(tuple, PyWrpIdDecimal_Digits));
-    const long n = PyObject_Size(digits.get());
+    const int sign = sign_object ? static_cast<int>(PyLong_AsLong(sign_object.get())) : 0;
+    Ref digits = Ref::steal(sign_object && PyErr_Occurred() == nullptr
+                                ? PyObject_GetAttr(tuple, PyWrpIdDecimal_Digits)
+                                : nullptr);
+    const long n = digits ? PyObject_Size(digits.get()) : -1;
+    if (n < 0) {
+        return 0;
+    }
     if (most_digits - n < exponent && n > 1) {
         digits.release(); // stays unreleased on this refusal, as the contract of the family has it
         return raise_too_large();
     }
-    accept_digits(builder, digits.get(), sign, exponent);
-    return builder.end_accept_decimal() ? 1 : raise_too_large();
+    accept_digits(builder, digits.get(), n, sign, exponent);
+    const bool fits = builder.end_accept_decimal();
+    if (PyErr_Occurred() != nullptr) { // of a digit that is none
+        return 0;
+    }
+    return fits ? 1 : raise_too_large();
 }
 
 int fn_conv_py_decimal_obj_to_clr_decimal(PyObject* object, unsigned int* out) {

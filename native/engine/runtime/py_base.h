@@ -20,6 +20,12 @@ struct PyClrObject {
 
 inline void* clr_handle(PyObject* object) { return reinterpret_cast<PyClrObject*>(object)->handle; }
 
+// Every wrapper's type is static. A class made in Python may carry the marker of one, but holds no
+// handle.
+inline bool is_static_type_of(PyObject* object) {
+    return (Py_TYPE(object)->tp_flags & Py_TPFLAGS_HEAPTYPE) == 0;
+}
+
 // An owned reference. A bare PyObject* borrows.
 class Ref {
 public:

@@ -58,9 +58,13 @@ int kind_of_number(PyObject* object) {
     return PyFloat_Check(object) ? KORVAN_VAR_FLOAT : -1;
 }
 
+// As above: -2 where the module can't be imported, as at the interpreter's end.
 int kind_of_date(PyObject* object) {
     if (PyDateTimeAPI == nullptr) {
         PyDateTime_IMPORT;
+        if (PyDateTimeAPI == nullptr) {
+            return -2;
+        }
     }
     if (PyDelta_Check(object)) {
         return KORVAN_VAR_TIMEDELTA;
@@ -92,7 +96,7 @@ int kind_of_container(PyObject* object) {
 // Whether the object wraps a managed one; a wrapper without a handle does not count.
 bool take_wrapper(PyObject* object, VariantArg* out) {
     if (!fn_is_this_module_clr_instance(object, &out->kind) &&
-        !fn_is_instance_has_host_markattr(object, &out->kind)) {
+        !(is_static_type_of(object) && fn_is_instance_has_host_markattr(object, &out->kind))) {
         return false;
     }
     if (clr_handle(object) == nullptr) {
@@ -108,14 +112,15 @@ bool take_wrapper(PyObject* object, VariantArg* out) {
 int fn_conv_py_variant_to_clr_variant(PyObject* object, VariantArg* out) {
     out->value = object;
     int kind = kind_of_number(object);
-    if (kind < 0) {
-        kind = kind_of_imported(object);
-        if (kind == -2) {
-            return 0;
+    for (const auto kind_of : {kind_of_imported, kind_of_date, kind_of_container}) {
+        if (kind != -1) {
+            break;
         }
+        kind = kind_of(object);
     }
-    kind = kind >= 0 ? kind : kind_of_date(object);
-    kind = kind >= 0 ? kind : kind_of_container(object);
+    if (kind == -2) {
+        return 0;
+    }
     if (kind >= 0) {
         out->kind = kind;
         return 1;
@@ -160,19 +165,35 @@ int fn_push_parbyref_outvalue(PyObject* list, PyObject* value) {
     return PyList_Append(list, value);
 }
 
-int fn_conv_py_uuid_to_clr_guid(PyObject* object, unsigned char* out) {
-    const Ref type = Ref::steal(PyShImport_ImportType("uuid", PyWrpIdTypeName_Uuid));
-    if (PyObject_IsInstance(object, type.get()) == 0) {
-        PyErr_Format(PyExc_TypeError, "can't build Guid from '%s'", type_name_of(object));
+static int raise_no_guid(PyObject* object) {
+    PyErr_Format(PyExc_TypeError, "can't build Guid from '%s'", type_name_of(object));
+    return 0;
+}
+
+// An object may call itself a UUID and have no such bytes.
+static int copy_guid(PyObject* object, unsigned char* out) {
+    constexpr Py_ssize_t size = 16;
+    const Ref bytes = Ref::steal(PyObject_GetAttr(object, PyWrpIdUuid_BytesLe));
+    if (!bytes) {
         return 0;
     }
-    fn_conv_py_uuid_to_clr_guid_value(object, out);
+    if (!PyBytes_Check(bytes.get()) || PyBytes_GET_SIZE(bytes.get()) != size) {
+        return raise_no_guid(object);
+    }
+    std::memcpy(out, PyBytes_AS_STRING(bytes.get()), size);
     return 1;
 }
 
+int fn_conv_py_uuid_to_clr_guid(PyObject* object, unsigned char* out) {
+    const int answer = is_instance_of(object, "uuid", PyWrpIdTypeName_Uuid);
+    if (answer == 0) {
+        return raise_no_guid(object);
+    }
+    return answer > 0 ? copy_guid(object, out) : 0;
+}
+
 void fn_conv_py_uuid_to_clr_guid_value(PyObject* object, unsigned char* out) {
-    const Ref bytes = Ref::steal(PyObject_GetAttr(object, PyWrpIdUuid_BytesLe));
-    std::memcpy(out, PyBytes_AS_STRING(bytes.get()), 16);
+    copy_guid(object, out);
 }
 
 PyObject* fn_conv_clr_guid_to_py_uuid(const void* bytes) {

@@ -188,7 +188,8 @@ bool fn_is_this_module_clr_instance(PyObject* object, int* kind) {
 }
 
 int fn_conv_py_obj_to_clr_refobj_not_null_handle(PyObject* object, void** handle) {
-    if (!fn_is_this_module_clr_object(object) && !fn_is_refobj_has_host_markattr(object)) {
+    if (!fn_is_this_module_clr_object(object) &&
+        !(is_static_type_of(object) && fn_is_refobj_has_host_markattr(object))) {
         return 0;
     }
     *handle = clr_handle(object);
@@ -198,7 +199,7 @@ int fn_conv_py_obj_to_clr_refobj_not_null_handle(PyObject* object, void** handle
 int fn_conv_py_obj_to_clr_gen_not_null_handle(PyObject* object, VariantArg* out) {
     // This module's own types need no look into their dictionary.
     if (!fn_is_this_module_clr_instance(object, &out->kind) &&
-        !fn_is_instance_has_host_markattr(object, &out->kind)) {
+        !(is_static_type_of(object) && fn_is_instance_has_host_markattr(object, &out->kind))) {
         return 0;
     }
     out->value = clr_handle(object);

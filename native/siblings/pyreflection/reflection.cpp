@@ -1,5 +1,6 @@
 #include "pyreflection/reflection.h"
 
+#include "host/exchange_host.h"
 #include "host/host_environment.h"
 #include "host/host_record.h"
 #include "runtime/callbacks.h"
@@ -190,10 +191,15 @@ PyObject* wrap(void* handle, PyTypeObject& type) {
     if (handle == nullptr) {
         Py_RETURN_NONE;
     }
-    PyObject* object = attach() ? fn_new_empty_wrapper(&type) : nullptr;
-    if (object != nullptr) {
-        reinterpret_cast<PyClrObject*>(object)->handle = handle;
+    if (!attach()) {
+        return nullptr; // nor is there a way to give the handle back
     }
+    PyObject* object = fn_new_empty_wrapper(&type);
+    if (object == nullptr) {
+        ExchangeHost::get_instance().free_instance(handle);
+        return nullptr;
+    }
+    reinterpret_cast<PyClrObject*>(object)->handle = handle;
     return object;
 }
 

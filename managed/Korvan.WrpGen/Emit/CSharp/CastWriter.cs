@@ -26,8 +26,9 @@ internal sealed class CastWriter(CodeWriter writer, DelegateWriter delegates, Ty
                 WriteIsAssignable();
                 break;
             case BoundKind.Interface:
-                WriteReferenceCast("btp_CastTo", "VariantArg* value", "Handles.Target(value->Value)", "null or ");
-                WriteReferenceCast("btp_CastAs", "VariantArg* value", "Handles.TargetOfEither((nint)value)", "");
+                // There may be a struct behind it, of which a cast gives a copy.
+                WriteReferenceCast("btp_CastTo", "VariantArg* value", "References.Target(value)", "null or ");
+                WriteReferenceCast("btp_CastAs", "VariantArg* value", "References.Target(value)", "");
                 WriteIsAssignable();
                 break;
             default:

@@ -9,6 +9,14 @@ internal sealed class DelegateWriter(CodeWriter writer, TypeModel type)
 {
     private const string Instance = "nint self";
 
+    // What becomes of Python objects behind a function's arguments: the names of the interop's own makers.
+    private enum Scope
+    {
+        None,
+        Lending,
+        Keeping,
+    }
+
     public void Constructor(MethodModel constructor)
     {
         ValueUse made = Self();
@@ -39,16 +47,13 @@ internal sealed class DelegateWriter(CodeWriter writer, TypeModel type)
     public void Setter(PropertyModel property)
     {
         IEnumerable<string> parameters = [.. Leading(property), .. CSharpValues.Arguments(property.Value, "value")];
+        Scope scope = CSharpValues.NeedsScope(property.Value) ? Scope.Keeping : Scope.None;
         Export(property.Setter, "void", parameters, () =>
         {
-            if (CSharpValues.NeedsScope(property.Value))
-            {
-                writer.Line("PyScope scope = PyScope.Keeping();");
-            }
             string place = $"{type.QualifiedName}.{property.PythonName}";
             string value = CSharpValues.ReadGiven(property.Given, "value", place);
             writer.Line($"{Target(property)}.{Escape(property.ManagedName)} = {value};");
-        });
+        }, scope);
     }
 
     /// <summary>The indexer's own failures are told from an index out of range by their type.</summary>
@@ -87,12 +92,8 @@ internal sealed class DelegateWriter(CodeWriter writer, TypeModel type)
         Export(method.Delegate, CSharpValues.ReturnType(result), parameters, () =>
         {
             Locals(method);
-            if (hasScope && keeps)
-            {
-                writer.Line("PyScope scope = PyScope.Keeping();");
-            }
             Body(method, result, call, hasScope && !keeps);
-        }, lends: hasScope && !keeps);
+        }, !hasScope ? Scope.None : keeps ? Scope.Keeping : Scope.Lending);
     }
 
     private void Body(MethodModel method, ValueUse result, string call, bool lends)
@@ -170,21 +171,21 @@ internal sealed class DelegateWriter(CodeWriter writer, TypeModel type)
     }
 
     private void Export(
-        string name, string result, IEnumerable<string> parameters, System.Action body, bool lends = false)
+        string name, string result, IEnumerable<string> parameters, System.Action body, Scope scope = Scope.None)
     {
         writer.Line("[UnmanagedCallersOnly]");
         writer.Block($"public static {result} {name}({string.Join(", ", parameters)})", () =>
         {
-            if (lends)
+            if (scope != Scope.None)
             {
-                writer.Line("PyScope scope = PyScope.Lending();");
+                writer.Line($"PyScope scope = PyScope.{scope}();");
             }
             writer.Block("try", body);
-            string fail = lends ? "scope.Fail(e);" : "Boundary.Fail(e);";
+            string fail = scope != Scope.None ? "scope.Fail(e);" : "Boundary.Fail(e);";
             writer.Line(result == "void"
                 ? $"catch (Exception e) {{ {fail} }}"
                 : $"catch (Exception e) {{ {fail} return default; }}");
-            if (lends)
+            if (scope != Scope.None)
             {
                 writer.Line("finally { scope.End(); }");
             }
@@ -197,14 +198,20 @@ internal sealed class DelegateWriter(CodeWriter writer, TypeModel type)
         writer.Line("[UnmanagedCallersOnly]");
         writer.Block($"public static int {name}({string.Join(", ", parameters)})", () =>
         {
-            if (statement.Contains("scope."))
+            bool keeps = statement.Contains("scope.");
+            if (keeps)
             {
                 writer.Line("PyScope scope = PyScope.Keeping();");
             }
             writer.Line($"try {{ {statement} return Status.Item; }}");
             writer.Line("catch (ArgumentOutOfRangeException) { return Status.OutOfRange; }");
             writer.Line("catch (IndexOutOfRangeException) { return Status.OutOfRange; }");
-            writer.Line("catch (Exception e) { return Boundary.Failed(e); }");
+            string failed = keeps ? "scope.Fail(e); return Status.Failed;" : "return Boundary.Failed(e);";
+            writer.Line($"catch (Exception e) {{ {failed} }}");
+            if (keeps)
+            {
+                writer.Line("finally { scope.End(); }");
+            }
         });
         writer.Line();
     }

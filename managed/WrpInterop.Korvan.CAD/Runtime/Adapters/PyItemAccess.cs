@@ -9,43 +9,66 @@ internal static unsafe class PyItemAccess
     private const int Error = -1;
     internal const int IndexError = -2;
 
-    internal static object? GetFromList(nint list, int index)
+    internal static object? GetFromList(PyReference list, int index)
     {
         Check(TryGetFromList(list, index, out object? item));
         return item;
     }
 
-    internal static object? GetFromSequence(nint sequence, int index)
+    internal static object? GetFromSequence(PyReference sequence, int index)
     {
         Check(TryGetFromSequence(sequence, index, out object? item));
         return item;
     }
 
-    internal static int TryGetFromList(nint list, int index, out object? item)
+    internal static int TryGetFromList(PyReference list, int index, out object? item)
     {
         VariantArg variant = default;
-        int status = PyCollectionApi.ListGet(list, index, &variant);
-        item = status == 0 ? Variants.ReadItem(&variant) : null;
+        int status = PyCollectionApi.ListGet(list.Value, index, &variant);
+        if (status == 0 && Variants.MayRunPython(&variant))
+        {
+            PyObjects.IncRef(variant.Value);
+            item = ReadHeld(&variant, list);
+            return status;
+        }
+        item = status == 0 ? Variants.ReadItem(&variant, list) : null;
         return status;
     }
 
-    internal static int TryGetFromSequence(nint sequence, int index, out object? item)
+    // The sequence callback hands over a reference to the item; a record of a wrapped one holds its handle instead.
+    internal static int TryGetFromSequence(PyReference sequence, int index, out object? item)
     {
         VariantArg variant = default;
         item = null;
-        int status = PyCollectionApi.SequenceGet(sequence, index, &variant);
-        if (status == 0)
+        int status = PyCollectionApi.SequenceGet(sequence.Value, index, &variant);
+        if (status != 0)
         {
-            try
-            {
-                item = Variants.ReadItem(&variant);
-            }
-            finally
-            {
-                ReleaseItem(&variant);
-            }
+            return status;
+        }
+        if ((VariantKind)variant.Kind >= VariantKind.String)
+        {
+            item = ReadHeld(&variant, sequence);
+            return status;
+        }
+        item = Variants.ReadItem(&variant, sequence);
+        if ((VariantKind)variant.Kind != VariantKind.None)
+        {
+            PyCursor.Release(sequence, index, variant.Value);
         }
         return status;
+    }
+
+    // Takes over a reference to the item.
+    private static object? ReadHeld(VariantArg* variant, PyReference collection)
+    {
+        try
+        {
+            return Variants.ReadItem(variant, collection);
+        }
+        finally
+        {
+            PyObjects.DecRef(variant->Value);
+        }
     }
 
     internal static void Set(nint list, int index, object? value)
@@ -135,15 +158,5 @@ internal static unsafe class PyItemAccess
             Boundary.ThrowPythonError();
         }
         return result;
-    }
-
-    // The sequence callback hands over a reference to the item. A record of a wrapped object holds
-    // its handle instead, so that this reference alone can't be given back.
-    private static void ReleaseItem(VariantArg* variant)
-    {
-        if ((VariantKind)variant->Kind >= VariantKind.String)
-        {
-            PyObjects.DecRef(variant->Value);
-        }
     }
 }

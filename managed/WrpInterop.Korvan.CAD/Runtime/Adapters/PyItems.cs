@@ -68,7 +68,7 @@ internal sealed class PyItems<T>(PyReference reference, PyItemsKind kind, PyElem
     }
 
     public IEnumerator<T> GetEnumerator() =>
-        kind == PyItemsKind.Collection ? PyIterator<T>.Over(PyObject, element) : ByIndex();
+        kind == PyItemsKind.Collection ? PyIterator<T>.Over(reference, element) : ByIndex();
 
     IEnumerator IEnumerable.GetEnumerator() => GetEnumerator();
 
@@ -107,8 +107,8 @@ internal sealed class PyItems<T>(PyReference reference, PyItemsKind kind, PyElem
     }
 
     private int Get(int index, out T item) => kind == PyItemsKind.List
-        ? element.Get(PyObject, index, out item)
-        : element.GetFromSequence(PyObject, index, out item);
+        ? element.Get(reference, index, out item)
+        : element.GetFromSequence(reference, index, out item);
 
     private nint Writable() => kind == PyItemsKind.List
         ? PyObject

@@ -10,7 +10,9 @@ public class PyIterable(PyReference reference) : IEnumerable, IPyAdapter
 {
     public nint PyObject => reference.Value;
 
-    public IEnumerator GetEnumerator() => PyIterator<object?>.Over(PyObject, UntypedElement<object?>.Instance);
+    private protected PyReference Reference => reference;
+
+    public IEnumerator GetEnumerator() => PyIterator<object?>.Over(reference, UntypedElement<object?>.Instance);
 
     void IPyAdapter.Complete()
     {
@@ -20,34 +22,46 @@ public class PyIterable(PyReference reference) : IEnumerable, IPyAdapter
 }
 
 /// <summary>Any Python object that can be iterated, its items read as one type.</summary>
-internal sealed class PyIterable<T>(PyReference reference, PyElement<T> element)
-    : PyIterable(reference), IEnumerable<T>
+internal sealed class PyIterable<T>(PyReference iterable, PyElement<T> element)
+    : PyIterable(iterable), IEnumerable<T>
 {
-    IEnumerator<T> IEnumerable<T>.GetEnumerator() => PyIterator<T>.Over(PyObject, element);
+    IEnumerator<T> IEnumerable<T>.GetEnumerator() => PyIterator<T>.Over(Reference, element);
 }
 
 /// <summary>A Python iterator. Ends with the collection's end, an error or <see cref="Dispose"/>.</summary>
-/// <param name="iterator">An own reference, or one lent for a call.</param>
-internal sealed class PyIterator<T>(PyReference iterator, PyElement<T> element) : IEnumerator<T>, IPyAdapter
+internal sealed class PyIterator<T> : IEnumerator<T>, IPyAdapter
 {
+    private readonly PyReference _iterator;
+    private readonly PyReference _collection;
+    private readonly PyElement<T> _element;
     private bool _isOver;
     private T _current = default!;
+
+    /// <param name="iterator">A reference of its own, or one lent for a call.</param>
+    /// <param name="element">What the items are read as.</param>
+    /// <param name="collection">What the items live as long as, unless it is the iterator.</param>
+    internal PyIterator(PyReference iterator, PyElement<T> element, PyReference? collection = null)
+    {
+        _iterator = iterator;
+        _element = element;
+        _collection = collection ?? iterator;
+    }
 
     public T Current => _current;
 
     object? IEnumerator.Current => _current;
 
-    public nint PyObject => iterator.Value;
+    public nint PyObject => _iterator.Value;
 
     /// <summary>Asks an iterable for an iterator.</summary>
-    internal static PyIterator<T> Over(nint iterable, PyElement<T> element)
+    internal static PyIterator<T> Over(PyReference iterable, PyElement<T> element)
     {
-        nint iterator = PyCollectionApi.GetIterator(iterable);
+        nint iterator = PyCollectionApi.GetIterator(iterable.Value);
         if (iterator == 0)
         {
             Boundary.ThrowPythonError();
         }
-        return new PyIterator<T>(KeptPyReference.Taking(iterator), element);
+        return new PyIterator<T>(KeptPyReference.Taking(iterator), element, iterable);
     }
 
     public bool MoveNext()
@@ -58,7 +72,7 @@ internal sealed class PyIterator<T>(PyReference iterator, PyElement<T> element) 
         {
             return false;
         }
-        int status = element.Next(iterator.Value, out T item);
+        int status = _element.Next(_iterator, _collection, out T item);
         if (status == Item)
         {
             _current = item;
@@ -79,7 +93,7 @@ internal sealed class PyIterator<T>(PyReference iterator, PyElement<T> element) 
         if (!_isOver)
         {
             _isOver = true;
-            (iterator as KeptPyReference)?.Release();
+            (_iterator as KeptPyReference)?.End();
         }
     }
 
@@ -87,5 +101,5 @@ internal sealed class PyIterator<T>(PyReference iterator, PyElement<T> element) 
     {
     }
 
-    void IPyAdapter.End() => iterator.End();
+    void IPyAdapter.End() => _iterator.End();
 }

@@ -27,7 +27,7 @@ public class PySequence(PyReference reference) : PyCollection(reference), IList
 {
     public virtual object? this[int index]
     {
-        get => PyItemAccess.GetFromSequence(PyObject, index);
+        get => PyItemAccess.GetFromSequence(Reference, index);
         set => throw ReadOnly();
     }
 
@@ -57,7 +57,7 @@ public sealed class PyList(PyReference reference) : PySequence(reference)
 {
     public override object? this[int index]
     {
-        get => PyItemAccess.GetFromList(PyObject, index);
+        get => PyItemAccess.GetFromList(Reference, index);
         set => PyItemAccess.Set(PyObject, index, value);
     }
 

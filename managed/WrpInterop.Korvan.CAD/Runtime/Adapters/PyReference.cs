@@ -1,6 +1,7 @@
 using System;
-using System.Collections.Concurrent;
+using System.Collections.Generic;
 using System.Diagnostics.CodeAnalysis;
+using System.Runtime.CompilerServices;
 
 namespace Korvan.WrpGen.Interop;
 
@@ -8,8 +9,13 @@ namespace Korvan.WrpGen.Interop;
 public class PyReference
 {
     private nint _value;
+    private List<PyReference>? _items;
 
-    private protected PyReference(nint value) => _value = value;
+    private protected PyReference(nint value, bool keepsItems)
+    {
+        _value = value;
+        KeepsItems = keepsItems;
+    }
 
     internal nint Value
     {
@@ -19,45 +25,86 @@ public class PyReference
             {
                 ThrowEnded();
             }
+            // What comes next calls Python, which may call back: a stack that ends there ends the process.
+            RuntimeHelpers.EnsureSufficientExecutionStack();
             return _value;
         }
     }
 
-    internal static PyReference Lent(nint value) => new(value);
+    /// <summary>Whether what is made of the collection's items may outlive the reference itself.</summary>
+    internal bool KeepsItems { get; }
 
-    internal static PyReference Kept(nint value) => KeptPyReference.Of(value);
+    /// <summary>0 once it has ended.</summary>
+    private protected nint ValueOrNull => _value;
 
-    /// <summary>Forgets a lent object.</summary>
-    internal void End() => _value = 0;
+    /// <summary>The place up to which a sequence was walked; null until one is.</summary>
+    internal PyCursor? Cursor { get; set; }
+
+    internal static PyReference Lent(nint value) => new(value, keepsItems: false);
+
+    /// <summary>Lends a collection that is only copied: what its items are made of outlives the call.</summary>
+    internal static PyReference Copied(nint value) => new(value, keepsItems: true);
+
+    internal static PyReference Kept(nint value, bool isStream = false) => KeptPyReference.Of(value, isStream);
+
+    /// <summary>Holds an item that is a Python object itself, for as long as what was read of it may be used.</summary>
+    internal PyReference HoldItem(nint value, bool isStream = false)
+    {
+        if (KeepsItems)
+        {
+            return Kept(value, isStream);
+        }
+        var item = new HeldPyReference(value);
+        (_items ??= []).Add(item);
+        return item;
+    }
+
+    /// <summary>Forgets a lent object, and gives back what was held of its items.</summary>
+    internal virtual void End()
+    {
+        _value = 0;
+        Cursor?.Dispose();
+        Cursor = null;
+        if (_items is { } items)
+        {
+            _items = null;
+            items.ForEach(static item => item.End());
+        }
+    }
 
     [DoesNotReturn]
     private static void ThrowEnded() => throw new ObjectDisposedException(
         null, "A Python object given to a method is of use only until that method returns.");
+
+    // An item may leave its collection before the call that reads it is over.
+    private sealed class HeldPyReference : PyReference
+    {
+        internal HeldPyReference(nint value) : base(value, keepsItems: false) => PyObjects.IncRef(value);
+
+        internal override void End()
+        {
+            nint value = ValueOrNull;
+            if (value != 0)
+            {
+                base.End();
+                PyObjects.DecRef(value);
+            }
+        }
+    }
 }
 
 /// <summary>A Python object that a managed object keeps, with a reference of its own.</summary>
-/// <remarks>
-/// The collector's threads must not touch Python. A kept reference that is found dead waits in a
-/// queue until the next call that Python makes.
-/// </remarks>
 internal sealed class KeptPyReference : PyReference
 {
-    private static readonly ConcurrentQueue<nint> s_dead = new();
-    private static volatile bool s_anyDead;
+    private KeptPyReference(nint value) : base(value, keepsItems: true) => KeptReferences.Add(this, value);
 
-    private KeptPyReference(nint value) : base(value)
-    {
-    }
-
-    ~KeptPyReference()
-    {
-        s_dead.Enqueue(Value);
-        s_anyDead = true;
-    }
+    /// <summary>Gets or sets the place among <see cref="KeptReferences"/>.</summary>
+    internal int Place { get; set; }
 
     /// <summary>Keeps a borrowed object.</summary>
-    internal static KeptPyReference Of(nint value)
+    internal static KeptPyReference Of(nint value, bool isStream = false)
     {
+        KeptReferences.Note(isStream);
         PyObjects.IncRef(value);
         return new KeptPyReference(value);
     }
@@ -66,26 +113,13 @@ internal sealed class KeptPyReference : PyReference
     internal static KeptPyReference Taking(nint value) => new(value);
 
     /// <summary>Gives the object back at once.</summary>
-    internal void Release()
+    internal override void End()
     {
-        GC.SuppressFinalize(this);
-        PyObjects.DecRef(Value);
-        End();
-    }
-
-    internal static void ReleaseDead()
-    {
-        if (s_anyDead)
+        nint value = ValueOrNull;
+        if (value != 0)
         {
-            ReleaseQueued();
-        }
-    }
-
-    private static void ReleaseQueued()
-    {
-        s_anyDead = false;
-        while (s_dead.TryDequeue(out nint value))
-        {
+            base.End();
+            KeptReferences.Remove(this);
             PyObjects.DecRef(value);
         }
     }

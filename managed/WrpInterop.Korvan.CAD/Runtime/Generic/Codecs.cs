@@ -65,13 +65,11 @@ public readonly unsafe struct BytesCodec : ICodec<byte[]?, nint, nint>
 }
 
 /// <summary>In: a dynamic <see cref="VariantArg"/>'s address. Out: a finished Python object.</summary>
-public readonly unsafe struct ObjectCodec : ICodec<object?, nint, nint>
+public readonly unsafe struct ObjectCodec : ICodec<object?, nint, nint>, IScopedCodec<object?>
 {
-    public static object? Read(nint value)
-    {
-        PyScope kept = PyScope.Keeping();
-        return kept.Any((VariantArg*)value);
-    }
+    public static object? Read(nint value) => ScopedCodec.Keep<object?, ObjectCodec>(value);
+
+    object? IScopedCodec<object?>.Read(VariantArg* value, ref PyScope scope) => scope.Any(value);
 
     public static nint Write(object? value) => PyWriter.Write(value);
 }

@@ -39,7 +39,7 @@ public static unsafe partial class ListApi<TList, T, TAccess, TIn, TOut, TCodec>
                 return;
             }
             List<T> items = Snapshot(list);
-            for (int i = 1; i < count; i++)
+            for (int i = 1; i < count && items.Count > 0; i++)
             {
                 Append(list, items);
             }
@@ -79,9 +79,10 @@ public static unsafe partial class ListApi<TList, T, TAccess, TIn, TOut, TCodec>
         try
         {
             TList list = Handles.Self<TList>(handle);
-            for (int i = 0; i < count; i++)
+            if (count > 0)
             {
-                TAccess.RemoveAt(list, start + (i * step));
+                // Of a single item, the step means nothing and may be anything.
+                TAccess.RemoveEach(list, start + ((count - 1) * step), count, count == 1 ? 1 : -step);
             }
         }
         catch (Exception e)

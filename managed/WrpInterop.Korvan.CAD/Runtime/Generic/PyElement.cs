@@ -16,13 +16,13 @@ public interface IElementSource<T>
 public abstract class PyElement<T>
 {
     /// <summary>0, -1 for an error, -2 for an index out of range.</summary>
-    internal abstract int Get(nint list, int index, out T item);
+    internal abstract int Get(PyReference list, int index, out T item);
 
     /// <summary>As <see cref="Get"/>, of any sequence.</summary>
-    internal abstract int GetFromSequence(nint sequence, int index, out T item);
+    internal abstract int GetFromSequence(PyReference sequence, int index, out T item);
 
-    /// <summary>0 an item, 1 the end, 2 an error.</summary>
-    internal abstract int Next(nint iterator, out T item);
+    /// <summary>0 an item, which lives as long as the collection, 1 the end, 2 an error.</summary>
+    internal abstract int Next(PyReference iterator, PyReference collection, out T item);
 
     internal virtual void Set(nint list, int index, T item) => PyItemAccess.Set(list, index, item);
 
@@ -55,31 +55,31 @@ public sealed class UntypedElement<T> : PyElement<T>
 {
     public static UntypedElement<T> Instance { get; } = new();
 
-    internal override int Get(nint list, int index, out T item)
+    internal override int Get(PyReference list, int index, out T item)
     {
         int status = PyItemAccess.TryGetFromList(list, index, out object? value);
         item = status == 0 ? Items<T>.Fit(value) : default!;
         return status;
     }
 
-    internal override int GetFromSequence(nint sequence, int index, out T item)
+    internal override int GetFromSequence(PyReference sequence, int index, out T item)
     {
         int status = PyItemAccess.TryGetFromSequence(sequence, index, out object? value);
         item = status == 0 ? Items<T>.Fit(value) : default!;
         return status;
     }
 
-    internal override unsafe int Next(nint iterator, out T item)
+    internal override unsafe int Next(PyReference iterator, PyReference collection, out T item)
     {
         nint keep = 0;
         VariantArg variant = default;
         item = default!;
-        int status = PyCollectionApi.Next(iterator, &keep, &variant);
+        int status = PyCollectionApi.Next(iterator.Value, &keep, &variant);
         if (status == 0)
         {
             try
             {
-                item = Items<T>.Fit(Variants.ReadItem(&variant));
+                item = Items<T>.Fit(Variants.ReadItem(&variant, collection));
             }
             finally
             {

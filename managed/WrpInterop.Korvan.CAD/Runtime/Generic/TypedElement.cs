@@ -34,22 +34,24 @@ public sealed unsafe class TypedElement<T, TIn, TOut, TCodec>(
     private readonly void** _iterator = TableAt(iterator);
     private readonly void** _sequence = TableAt(sequence);
 
+    private readonly IScopedCodec<T>? _scoped = default(TCodec) as IScopedCodec<T>;
+
     // The edit table has set_item between get_item and the slots that it shares with the collection table.
     private readonly int _add = use == PyListUse.Edit ? 2 : 1;
 
-    internal override int Get(nint list, int index, out T item)
+    internal override int Get(PyReference list, int index, out T item)
     {
         if (_list == null)
         {
             return UntypedElement<T>.Instance.Get(list, index, out item);
         }
         long* record = stackalloc long[RecordWords];
-        int status = ((delegate* unmanaged<nint, int, void*, int>)_list[0])(list, index, record);
-        item = status == 0 ? Read(record) : default!;
+        int status = ((delegate* unmanaged<nint, int, void*, int>)_list[0])(list.Value, index, record);
+        item = status == 0 ? Read(record, list) : default!;
         return status;
     }
 
-    internal override int GetFromSequence(nint sequence, int index, out T item)
+    internal override int GetFromSequence(PyReference sequence, int index, out T item)
     {
         if (_sequence == null)
         {
@@ -58,21 +60,21 @@ public sealed unsafe class TypedElement<T, TIn, TOut, TCodec>(
         long* record = stackalloc long[RecordWords];
         nint keep = 0;
         int status = ((delegate* unmanaged<nint, int, nint*, void*, int>)_sequence[0])(
-            sequence, index, &keep, record);
-        item = status == 0 ? ReadKept(record, keep) : default!;
+            sequence.Value, index, &keep, record);
+        item = status == 0 ? ReadKept(record, keep, sequence) : default!;
         return status;
     }
 
-    internal override int Next(nint iterator, out T item)
+    internal override int Next(PyReference iterator, PyReference collection, out T item)
     {
         if (_iterator == null)
         {
-            return UntypedElement<T>.Instance.Next(iterator, out item);
+            return UntypedElement<T>.Instance.Next(iterator, collection, out item);
         }
         long* record = stackalloc long[RecordWords];
         nint keep = 0;
-        int status = ((delegate* unmanaged<nint, nint*, void*, int>)_iterator[0])(iterator, &keep, record);
-        item = status == 0 ? ReadKept(record, keep) : default!;
+        int status = ((delegate* unmanaged<nint, nint*, void*, int>)_iterator[0])(iterator.Value, &keep, record);
+        item = status == 0 ? ReadKept(record, keep, collection) : default!;
         return status;
     }
 
@@ -146,18 +148,23 @@ public sealed unsafe class TypedElement<T, TIn, TOut, TCodec>(
     private static int Call(void* slot, nint collection, T item) =>
         ((delegate* unmanaged<nint, TOut, int>)slot)(collection, TCodec.Write(item));
 
-    private T Read(void* record)
+    private T Read(void* record, PyReference collection)
     {
+        if (_scoped is not null)
+        {
+            PyScope item = PyScope.ItemOf(collection);
+            return _scoped.Read((VariantArg*)record, ref item);
+        }
         nint address = (nint)record;
         return TCodec.Read(*(TIn*)(isRecord ? &address : record));
     }
 
     // What was read of an item may view it; the item is given back when that is over.
-    private T ReadKept(void* record, nint keep)
+    private T ReadKept(void* record, nint keep, PyReference collection)
     {
         try
         {
-            return Read(record);
+            return Read(record, collection);
         }
         finally
         {

@@ -61,14 +61,20 @@ public static unsafe class SiApiCntCollection
 
     private static int Count(nint handle, VariantArg* value)
     {
+        PyScope scope = PyScope.Lending();
         try
         {
-            object? wanted = Variants.ReadItem(value);
+            object? wanted = scope.Any(value);
             return Handles.Self<ICollection>(handle).Cast<object?>().Count(item => Equals(item, wanted));
         }
         catch (Exception e)
         {
-            return Boundary.Failed(e);
+            scope.Fail(e);
+            return Status.Failed;
+        }
+        finally
+        {
+            scope.End();
         }
     }
 }

@@ -47,7 +47,7 @@ public unsafe class AdapterTests
         GC.Collect();
         GC.WaitForPendingFinalizers();
         Assert.Equal(2, FakePython.At(argument.Value).References);
-        KeptPyReference.ReleaseDead();
+        KeptReferences.Settle();
         Assert.Equal(1, FakePython.At(argument.Value).References);
 
         [System.Runtime.CompilerServices.MethodImpl(System.Runtime.CompilerServices.MethodImplOptions.NoInlining)]
@@ -56,6 +56,40 @@ public unsafe class AdapterTests
             PyScope scope = PyScope.Keeping();
             Assert.NotNull(scope.AnyIterable(argument));
         }
+    }
+
+    [Fact]
+    public void WhatIsCopiedOrRefusedIsNotKept()
+    {
+        VariantArg items = Argument(new List<object> { 1, 2 });
+        VariantArg view = Argument(new List<object> { 1, 2 });
+        PyScope scope = PyScope.Keeping();
+        Assert.Equal([1, 2], scope.ListOf(&items, UntypedElement<int>.Instance)!);
+        Assert.Equal([1, 2], scope.AnyArray(&items)!.Cast<object>());
+        Assert.Equal(1, FakePython.At(items.Value).References);
+        IList<int> kept = scope.ItemList(&view, UntypedElement<int>.Instance)!;
+        Assert.Equal(2, FakePython.At(view.Value).References);
+        scope.Fail(new InvalidOperationException());
+        scope.End();
+        Assert.Equal(1, FakePython.At(view.Value).References);
+        Assert.Throws<ObjectDisposedException>(() => kept.Count);
+    }
+
+    [Fact]
+    public void AListInALentListEndsWithItsCallAndOneInACopyIsKept()
+    {
+        var inner = new List<object> { 7 };
+        VariantArg argument = Argument(new List<object> { inner });
+        PyScope lending = PyScope.Lending();
+        var lent = (PyList)lending.AnyList(&argument)![0]!;
+        Assert.Equal(7, lent[0]);
+        lending.End();
+        Assert.Throws<ObjectDisposedException>(() => lent.Count);
+        PyScope keeping = PyScope.Keeping();
+        var kept = (PyList)keeping.AnyArrayList(&argument)![0]!;
+        keeping.End();
+        Assert.Equal(7, kept[0]);
+        GC.KeepAlive(kept);
     }
 
     [Fact]

@@ -148,9 +148,12 @@ public sealed unsafe class FakePython
             return 2;
         }
         *keep = New(enumerator.Current);
-        *item = new VariantArg { Kind = (int)VariantKind.Int, Value = *keep };
+        *item = Variant(enumerator.Current, *keep);
         return 0;
     }
+
+    private static VariantArg Variant(object value, nint handle) =>
+        new() { Kind = (int)(value is List<object> ? VariantKind.List : VariantKind.Int), Value = handle };
 
     [UnmanagedCallersOnly]
     private static int ListGet(nint list, int index, VariantArg* item)
@@ -161,7 +164,7 @@ public sealed unsafe class FakePython
             PendingError = "IndexError";
             return -2;
         }
-        *item = new VariantArg { Kind = (int)VariantKind.Int, Value = New(items[index]) };
+        *item = Variant(items[index], New(items[index]));
         return 0;
     }
 

@@ -46,6 +46,13 @@ public unsafe class ValueTests
     }
 
     [Fact]
+    public void AStringOfMoreCharactersThanAnIntCountsIsRefused()
+    {
+        var argument = new PyStringArg { Length = int.MinValue };
+        Assert.Throws<ArgumentException>(() => PyText.Read(&argument));
+    }
+
+    [Fact]
     public void BytesTellNullFromEmpty()
     {
         var none = new PyBytesArg { Length = -1 };
