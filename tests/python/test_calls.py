@@ -11,8 +11,8 @@ from korvan import probe
 class Help(unittest.TestCase):
     def test_a_method_of_one_form_has_a_signature(self) -> None:
         rows = [
-            (probe.Shape.scale, "(self, /, factor)", "Scales by one factor.\n\n:param factor: The factor for both directions.\n"
-             ":returns: The form that was taken."),
+            (probe.Shape.scale, "(self, /, factor)", "Scales by one factor.\n\n"
+             ":param factor: The factor for both directions.\n:returns: The form that was taken."),
             (probe.Echo.join, "(self, /, items, separator)", ""),
             (probe.Closable.dispose, "(self, /)", ""),
             (probe.Strict.join, "(items, separator, end)", ""),

@@ -202,7 +202,8 @@ class Descriptors(unittest.TestCase):
             (first.get_type, f"<extension method get_type of Choice object at {address}>", None),
             (vars(probe.Choice)["get_type"], "<method 'get_type' of 'Choice' objects>", None),
             (vars(probe.Choice)["_type_of"], "<method '_type_of' of 'Choice' objects>", None),
-            (vars(probe.Mixed)["inflate"], "<method 'inflate' of 'korvan.probe.Mixed' objects>", "inflate(by: int) -> int"),
+            (vars(probe.Mixed)["inflate"], "<method 'inflate' of 'korvan.probe.Mixed' objects>",
+             "inflate(by: int) -> int"),
             (vars(probe.Settings)["LIMIT"], "<attribute 'LIMIT' of 'korvan.probe.Settings' objects>", None),
         ):
             self.assertEqual((repr(shown), shown.__doc__), (text, doc))

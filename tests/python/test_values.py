@@ -193,14 +193,15 @@ class EnumValues(unittest.TestCase):
         self.assertEqual(probe.LongUnsigned.RLE8, 8)
 
     def test_values_beyond_the_storage_fail_in_the_words_of_its_width(self) -> None:
-        signed, unsigned = "Python int too large to convert to C long", "Python int too large to convert to C unsigned long"
+        words = "Python int too large to convert to C"
+        signed, unsigned = f"{words} long", f"{words} unsigned long"
         rows = [
             (probe.Options(2**63), signed), (probe.WordUnsigned(2**64), unsigned),
             (probe.LongSigned(2**63), "int too big to convert"), (probe.LongUnsigned(2**64), "int too big to convert"),
         ]
-        for value, words in rows:
+        for value, message in rows:
             for call in (value.get_type, value._as_uni_enum):
-                with self.subTest(value), self.assertRaisesRegex(OverflowError, f"^{words}$"):
+                with self.subTest(value), self.assertRaisesRegex(OverflowError, f"^{message}$"):
                     call()
         self.assertEqual(int(probe.LongUnsigned(2**63 + 8)._as_uni_enum()), 2**63 + 8)
 

@@ -18,7 +18,8 @@ internal static class DocId
         $"M:{Name(method.DeclaringType!)}.{method.Name.Replace('.', '#')}{Parameters(method.GetParameters())}";
 
     /// <summary>The name that a member has where another type declares it.</summary>
-    public static string In(Type type, Type declaring, string id) => id[..2] + Name(type) + id[(2 + Name(declaring).Length)..];
+    public static string In(Type type, Type declaring, string id) =>
+        id[..2] + Name(type) + id[(2 + Name(declaring).Length)..];
 
     private static string Parameters(ParameterInfo[] parameters) => parameters.Length == 0
         ? ""

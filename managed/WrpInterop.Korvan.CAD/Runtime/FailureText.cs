@@ -53,11 +53,10 @@ internal static class FailureText
     // The outermost frame of an exception is the exported function that caught it.
     private static string? PropertyOf(Exception exception)
     {
-        string? name = new StackTrace(exception, fNeedFileInfo: false) is { FrameCount: > 0 and int count } trace
-            ? trace.GetFrame(count - 1)?.GetMethod()?.Name
-            : null;
-        string? prefix = name is null ? null : Array.Find(s_setters, one => name.StartsWith(one, StringComparison.Ordinal));
-        return prefix is null ? null : PythonName.Lower(name![prefix.Length..]);
+        var trace = new StackTrace(exception, fNeedFileInfo: false);
+        string name = trace.GetFrame(trace.FrameCount - 1)?.GetMethod()?.Name ?? "";
+        string? prefix = Array.Find(s_setters, one => name.StartsWith(one, StringComparison.Ordinal));
+        return prefix is null ? null : PythonName.Lower(name[prefix.Length..]);
     }
 
     private static bool HasWord(string text, string word)

@@ -44,7 +44,8 @@ internal static class MethodDocs
             string parameters = string.Join(
                 ", ", leg.Parameters.Select(parameter => $"{parameter.PythonName}: {types.Parameter(parameter)}"));
             string head = $"{group.PythonName}({parameters}) -> {types.Result(leg.Result)}";
-            return string.Join('\n', Docstring.Lines(leg.Doc).Select(line => line.Length > 0 ? "    " + line : line).Prepend(head));
+            IEnumerable<string> lines = Docstring.Lines(leg.Doc).Select(line => line.Length > 0 ? "    " + line : line);
+            return string.Join('\n', lines.Prepend(head));
         });
         return string.Join("\n\n", forms);
     }

@@ -149,7 +149,8 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
             from property in type.StaticProperties
             where property.CanWrite
             select $"KORVAN_STATIC_SETTER(\"set_{property.PythonName}\", " +
-                $"property_{_symbol}_{property.PythonName}, {CppValues.Argument(property.Value)}, {MethodDocs.Literal(property)})";
+                $"property_{_symbol}_{property.PythonName}, {CppValues.Argument(property.Value)}, " +
+                $"{MethodDocs.Literal(property)})";
         bool opens = type.IsDisposable && type.Base is not { IsDisposable: true };
         WriteTable("PyMethodDef", $"wrpPy_tymd_{_symbol}",
         [

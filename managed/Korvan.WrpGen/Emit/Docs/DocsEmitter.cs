@@ -23,7 +23,8 @@ public static class DocsEmitter
             folder.Write($"{module.Name}/index.md", Index(module, links));
             foreach (TypeModel type in module.Types)
             {
-                folder.Write(DocsLinks.PageOf(type), new TypePage(type, links, [.. heirs[type]], [.. nested[type]]).Write());
+                var page = new TypePage(type, links, [.. heirs[type]], [.. nested[type]]);
+                folder.Write(DocsLinks.PageOf(type), page.Write());
             }
         }
         folder.Write("index.md", index.ToString());

@@ -33,8 +33,6 @@ internal sealed partial class DocsLinks
 
     public string Accepted(ParameterModel parameter) => Linked(_types.Parameter(parameter));
 
-    public string Result(PropertyModel property) => Result(property.Value);
-
     /// <summary>A text in which names of types, and of their members, are links.</summary>
     public string Text(string text) => QuotedName().Replace(text, match =>
         _byShortName.TryGetValue(match.Groups["type"].Value, out TypeModel? type)

@@ -5,7 +5,8 @@ using Korvan.WrpGen.Model;
 namespace Korvan.WrpGen.Emit.Docs;
 
 /// <summary>Writes the page of one type: what it is, a list of contents, its members.</summary>
-internal sealed class TypePage(TypeModel type, DocsLinks links, IReadOnlyList<TypeModel> heirs, IReadOnlyList<TypeModel> nested)
+internal sealed class TypePage(
+    TypeModel type, DocsLinks links, IReadOnlyList<TypeModel> heirs, IReadOnlyList<TypeModel> nested)
 {
     private readonly CodeWriter _writer = new();
 
@@ -13,7 +14,10 @@ internal sealed class TypePage(TypeModel type, DocsLinks links, IReadOnlyList<Ty
     {
         PropertyModel[] properties = [.. MethodGroup.PropertiesOf(type), .. type.StaticProperties];
         IGrouping<string, MethodGroup>[] methods =
-            [.. MethodGroup.Of(type).GroupBy(group => group.PythonName).OrderBy(name => name.Key, System.StringComparer.Ordinal)];
+        [
+            .. MethodGroup.Of(type).GroupBy(group => group.PythonName)
+                .OrderBy(name => name.Key, System.StringComparer.Ordinal),
+        ];
         _writer.Line($"# {type.QualifiedName}").Line();
         _writer.Line($"In [{type.Module}](index.md). {Describe()}").Line();
         Paragraphs(type.Doc.Summary);
@@ -52,7 +56,8 @@ internal sealed class TypePage(TypeModel type, DocsLinks links, IReadOnlyList<Ty
         }
     }
 
-    private void Contents(IReadOnlyList<PropertyModel> properties, IReadOnlyList<IGrouping<string, MethodGroup>> methods)
+    private void Contents(
+        IReadOnlyList<PropertyModel> properties, IReadOnlyList<IGrouping<string, MethodGroup>> methods)
     {
         if (type.Constructors.Count > 0)
         {
@@ -60,11 +65,13 @@ internal sealed class TypePage(TypeModel type, DocsLinks links, IReadOnlyList<Ty
         }
         if (properties.Count > 0)
         {
-            _writer.Line($"- [Properties](#properties): {string.Join(", ", properties.Select(one => $"`{one.PythonName}`"))}");
+            IEnumerable<string> names = properties.Select(one => $"`{one.PythonName}`");
+            _writer.Line($"- [Properties](#properties): {string.Join(", ", names)}");
         }
         if (methods.Count > 0)
         {
-            _writer.Line($"- [Methods](#methods): {string.Join(", ", methods.Select(one => $"[`{one.Key}`](#{one.Key})"))}");
+            IEnumerable<string> names = methods.Select(one => $"[`{one.Key}`](#{one.Key})");
+            _writer.Line($"- [Methods](#methods): {string.Join(", ", names)}");
         }
         if (type.Constructors.Count + properties.Count + methods.Count > 0)
         {
@@ -95,7 +102,8 @@ internal sealed class TypePage(TypeModel type, DocsLinks links, IReadOnlyList<Ty
         foreach (PropertyModel property in properties)
         {
             string access = property.CanWrite ? "" : "Read-only. ";
-            _writer.Line($"| `{property.PythonName}` | {links.Result(property)} | {access}{Cell(property.Doc.Summary)} |");
+            string text = access + Cell(property.Doc.Summary);
+            _writer.Line($"| `{property.PythonName}` | {links.Result(property.Value)} | {text} |");
         }
         _writer.Line();
     }
@@ -125,10 +133,11 @@ internal sealed class TypePage(TypeModel type, DocsLinks links, IReadOnlyList<Ty
         string called = method.IsStatic ? $"{type.Name}.{name}" : name;
         _writer.Line($"**{called}**({string.Join(", ", parameters)}){result}").Line();
         Paragraphs(method.Doc.Summary);
+        string returns = method.Doc.Returns;
         string[] fields =
         [
             .. method.Doc.Parameters.Select(one => $"- `{one.Key}`: {links.Text(one.Value)}"),
-            .. method.Doc.Returns.Length == 0 ? (IEnumerable<string>)[] : [$"- result: {links.Text(method.Doc.Returns)}"],
+            .. returns.Length == 0 ? (IEnumerable<string>)[] : [$"- result: {links.Text(returns)}"],
             .. method.Doc.Raises.Select(one => $"- fails with {one.Key}: {links.Text(one.Value)}"),
         ];
         foreach (string field in fields)

@@ -72,8 +72,9 @@ public partial class EmitterTests
         Snapshot.Matches("Box.md.txt", pages["korvan.probe/Box.md"]);
         foreach ((string page, string text) in pages)
         {
+            string folder = "/" + Path.GetDirectoryName(page);
             Assert.All(LinkTarget().Matches(text).Select(match => match.Groups[1].Value), target => Assert.True(
-                pages.ContainsKey(Path.GetRelativePath("/", Path.GetFullPath(target, "/" + Path.GetDirectoryName(page)))),
+                pages.ContainsKey(Path.GetRelativePath("/", Path.GetFullPath(target, folder))),
                 $"{page} leads to {target}, which is not there"));
         }
     }
