@@ -208,14 +208,13 @@ class Names(unittest.TestCase):
             self.assertGreater(image.width, 0)
         self.assertFalse(cad.Image.can_load(self.name + "x"))
 
-    def test_they_are_shown_with_their_bytes_spelled_out(self) -> None:
-        other = "\ud800\U0001f600" + self.name + "x"
-        with self.assertRaisesRegex(RuntimeError, r"\\ud800\U0001f600.*na\\xefve é\\xff\.dxfx' does not exist"):
-            cad.Image.load(other)
+    def test_they_are_shown_as_python_spells_them(self) -> None:
+        with self.assertRaisesRegex(RuntimeError, r"na\\udcefve é\\udcff\.dxfx' does not exist"):
+            cad.Image.load(self.name + "x")
 
     def test_they_are_no_targets(self) -> None:
         before = os.listdir(os.path.dirname(self.name))
-        with cad.Image.load(self.name) as image, self.assertRaisesRegex(RuntimeError, r"xff\.dxf' cannot be written"):
+        with cad.Image.load(self.name) as image, self.assertRaisesRegex(RuntimeError, r"udcff\.dxf' cannot be written"):
             image.save(self.name)
         self.assertEqual(os.listdir(os.path.dirname(self.name)), before)
         with cad.Image.load(self.name) as image, open(self.name + ".new", "wb") as file:

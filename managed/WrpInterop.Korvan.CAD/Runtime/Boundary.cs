@@ -19,7 +19,7 @@ public static unsafe class Boundary
     public static void Fail(Exception exception)
     {
         nint name = NewString(exception.GetType().Name);
-        nint text = NewString(PyText.Escaped(Describe(exception)));
+        nint text = NewString(Describe(exception));
         PyHost.OnException(name, text);
     }
 

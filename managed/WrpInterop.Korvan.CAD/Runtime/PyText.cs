@@ -59,35 +59,6 @@ public static unsafe class PyText
         return result;
     }
 
-    /// <summary>The text with each unpaired surrogate spelled out. Names of files that are not UTF-8 hold such, one a
-    /// byte: \xef for the byte, \ud800 for any other.</summary>
-    public static string Escaped(string text)
-    {
-        int first = text.AsSpan().IndexOfAnyInRange('\uD800', '\uDFFF');
-        if (first < 0)
-        {
-            return text;
-        }
-        var result = new StringBuilder(text, 0, first, text.Length + 16);
-        for (int i = first; i < text.Length; i++)
-        {
-            char unit = text[i];
-            if (char.IsHighSurrogate(unit) && i + 1 < text.Length && char.IsLowSurrogate(text[i + 1]))
-            {
-                result.Append(unit).Append(text[++i]);
-            }
-            else if (char.IsSurrogate(unit))
-            {
-                result.Append(unit is >= '\uDC80' and <= '\uDCFF' ? $"\\x{unit - 0xDC00:x2}" : $"\\u{(int)unit:x4}");
-            }
-            else
-            {
-                result.Append(unit);
-            }
-        }
-        return result.ToString();
-    }
-
     [MethodImpl(MethodImplOptions.AggressiveInlining)]
     private static char* Append(char* at, uint codePoint)
     {
