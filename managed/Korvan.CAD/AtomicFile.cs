@@ -267,7 +267,8 @@ internal static class AtomicFile
             foreach (string path in Directory.EnumerateFiles(folder, "*" + PartSuffix))
             {
                 string name = Path.GetFileName(path);
-                if (name.Length != start.Length + UniqueLength + PartSuffix.Length || !name.StartsWith(start, StringComparison.Ordinal))
+                if (name.Length != start.Length + UniqueLength + PartSuffix.Length || !name.StartsWith(start, StringComparison.Ordinal)
+                    || !Guid.TryParseExact(name.AsSpan(start.Length, UniqueLength), "N", out _))
                 {
                     continue;
                 }

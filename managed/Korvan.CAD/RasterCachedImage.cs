@@ -50,7 +50,14 @@ public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader
     /// <inheritdoc/>
     public override bool IsCached => true;
 
-    internal override PixelGrid Pixels => _pixels;
+    internal override PixelGrid Pixels
+    {
+        get
+        {
+            VerifyNotDisposed();
+            return _pixels;
+        }
+    }
 
     /// <inheritdoc/>
     public override void CacheData() => VerifyNotDisposed();

@@ -11,6 +11,8 @@ from korvan.cad import DataStreamSupporter, FileFormat, InterpolationMode, Point
 from korvan.cad.cadexceptions import FrameworkException
 from korvan.cad.fileformats.cad import CadImage
 from korvan.cad.fileformats.cad.cadobjects import CadInsertObject, CadLine, CadLwPolyline
+from korvan.cad.fileformats.cgm import CgmImage
+from korvan.cad.fileformats.ifc import IfcImage
 from korvan.cad.imageoptions import CadRasterizationOptions, PdfOptions, PngOptions, RenderErrorCode
 
 PLAN = str(EXAMPLES / "site_plan.dxf")
@@ -87,6 +89,13 @@ class Model(unittest.TestCase):
         for part in ("entities", "layers", "layouts", "header", "min_point", "objects", "width"):
             with self.subTest(part), self.assertRaisesRegex(RuntimeError, "DxfImage has been disposed"):
                 getattr(self.drawing, part)
+
+        for name, kind, parts in (("gate_valve.cgm", CgmImage, ("file", "width")), ("garden_house.ifc", IfcImage, ("header", "entities"))):
+            image = cad.Image.load(str(EXAMPLES / name))
+            image.__exit__(None, None, None)
+            for part in parts:
+                with self.subTest(name, part=part), self.assertRaisesRegex(RuntimeError, "has been disposed"):
+                    getattr(kind._cast_to(image).value, part)
 
     def test_layers_that_are_not_there_are_told(self) -> None:
         known = self.drawing.layers.names[-1]

@@ -17,6 +17,8 @@ namespace Korvan.CAD.FileFormats.Cgm;
 /// removed or changed is what is drawn and saved.</summary>
 public sealed class CgmImage : Image, IVectorImage
 {
+    private readonly CgmFile _file;
+
     /// <summary>Creates a metafile with one empty picture, whose coordinates run from (0, 0) to (1000, 1000) and whose
     /// colours stand for themselves. What is drawn goes behind its <see cref="BeginPictureBody"/>.</summary>
     public CgmImage()
@@ -29,11 +31,18 @@ public sealed class CgmImage : Image, IVectorImage
     public CgmImage(CgmFile file)
     {
         Verify.NotNull(file);
-        File = file;
+        _file = file;
     }
 
     /// <summary>Gets the metafile with its commands.</summary>
-    public CgmFile File { get; }
+    public CgmFile File
+    {
+        get
+        {
+            VerifyNotDisposed();
+            return _file;
+        }
+    }
 
     /// <summary>Gets the names of the pictures, in their order; each is a page. Pictures without a name, and those whose
     /// name was there before, have names made up by their numbers.</summary>

@@ -19,17 +19,25 @@ public sealed class IfcImage : Image
     private const string NoGeometry =
         "The geometry of a building model is not evaluated yet: it has no extents and is not drawn.";
 
+    private readonly IfcHeader _header;
     private readonly IfcFileForm _form;
 
     internal IfcImage(IfcModel model, IfcHeader header, IfcFileForm form)
     {
         Model = model;
-        Header = header;
+        _header = header;
         _form = form;
     }
 
     /// <summary>Gets the header of the file.</summary>
-    public IfcHeader Header { get; }
+    public IfcHeader Header
+    {
+        get
+        {
+            VerifyNotDisposed();
+            return _header;
+        }
+    }
 
     /// <summary>Gets the edition of the schema.</summary>
     public IfcVersion Version => Model.Schema.Version;

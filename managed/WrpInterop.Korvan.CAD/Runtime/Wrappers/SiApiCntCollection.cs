@@ -21,30 +21,14 @@ public static unsafe class SiApiCntCollection
         }
     }
 
+    // A dictionary is asked for its keys as well, as Python's are.
     [UnmanagedCallersOnly]
-    public static int SqContains(nint handle, VariantArg* value)
-    {
-        PyScope scope = PyScope.Lending();
-        try
-        {
-            // A dictionary is asked for its keys as well, as Python's are.
-            object? wanted = scope.Any(value);
-            return wanted is string key && Handles.Self<ICollection>(handle) is IDictionary entries && entries.Contains(key)
-                ? 1
-                : Math.Sign(Count(handle, value));
-        }
-        catch (Exception e)
-        {
-            return Boundary.Failed(e);
-        }
-        finally
-        {
-            scope.End();
-        }
-    }
+    public static int SqContains(nint handle, VariantArg* value) => Ask(value, wanted =>
+        (wanted is string && Handles.Self<ICollection>(handle) is IDictionary entries && entries.Contains(wanted))
+        || Count(handle, wanted) > 0 ? 1 : 0);
 
     [UnmanagedCallersOnly]
-    public static int CountOf(nint handle, VariantArg* value) => Count(handle, value);
+    public static int CountOf(nint handle, VariantArg* value) => Ask(value, wanted => Count(handle, wanted));
 
     [UnmanagedCallersOnly]
     public static nint CreateInstanceFromPyList(nint value) => Proxies.NewList(value);
@@ -64,13 +48,13 @@ public static unsafe class SiApiCntCollection
     [UnmanagedCallersOnly]
     public static int btp_CastAs(nint value, nint* result) => Casts.AsReference<ICollection>(value, result);
 
-    private static int Count(nint handle, VariantArg* value)
+    /// <summary>Puts a question about a value from Python, which is lent for it.</summary>
+    internal static int Ask(VariantArg* value, Func<object?, int> question)
     {
         PyScope scope = PyScope.Lending();
         try
         {
-            object? wanted = scope.Any(value);
-            return Handles.Self<ICollection>(handle).Cast<object?>().Count(item => Equals(item, wanted));
+            return question(scope.Any(value));
         }
         catch (Exception e)
         {
@@ -82,4 +66,7 @@ public static unsafe class SiApiCntCollection
             scope.End();
         }
     }
+
+    private static int Count(nint handle, object? wanted) =>
+        Handles.Self<ICollection>(handle).Cast<object?>().Count(item => Equals(item, wanted));
 }

@@ -1,4 +1,3 @@
-using System;
 using System.Collections;
 using System.Runtime.InteropServices;
 using Api = Korvan.WrpGen.Generic.ListApi<
@@ -78,24 +77,10 @@ public static unsafe class SiApiCntList
     public static int IndexBy(nint handle, int hasStart, int start, int hasStop, int stop, VariantArg* value) =>
         Api.IndexBy(handle, hasStart, start, hasStop, stop, (nint)value);
 
+    // The list's own answer: one of named objects knows them by their names, too.
     [UnmanagedCallersOnly]
-    public static int SqContains(nint handle, VariantArg* value)
-    {
-        PyScope scope = PyScope.Lending();
-        try
-        {
-            // The list's own answer: one of named objects knows them by their names, too.
-            return Handles.Self<IList>(handle).Contains(scope.Any(value)) ? 1 : 0;
-        }
-        catch (Exception e)
-        {
-            return Boundary.Failed(e);
-        }
-        finally
-        {
-            scope.End();
-        }
-    }
+    public static int SqContains(nint handle, VariantArg* value) =>
+        SiApiCntCollection.Ask(value, wanted => Handles.Self<IList>(handle).Contains(wanted) ? 1 : 0);
 
     [UnmanagedCallersOnly]
     public static int CountOf(nint handle, VariantArg* value) =>

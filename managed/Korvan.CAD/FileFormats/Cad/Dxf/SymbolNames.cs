@@ -16,7 +16,7 @@ internal static class SymbolNames
         bool isReferred = bar > 0 && bar < name.Length - 1;
         for (int i = 0; i < name.Length; i++)
         {
-            if ((Reserved.Contains(name[i]) && !(isReferred && i == bar)) || char.IsControl(name[i]))
+            if ((Reserved.Contains(name[i]) && !(isReferred && i == bar)) || IsControl(name[i]))
             {
                 throw new CadException($"'{name}' cannot name a layer: it has {Shown(name[i])}; "
                     + "< > / \\ \" : ; ? * | = ` and control characters are reserved.");
@@ -24,5 +24,8 @@ internal static class SymbolNames
         }
     }
 
-    private static string Shown(char letter) => char.IsControl(letter) ? $"the control character {(int)letter}" : $"a '{letter}'";
+    private static string Shown(char letter) => IsControl(letter) ? $"the control character {(int)letter}" : $"a '{letter}'";
+
+    // Those that end a line or stand for nothing; letters beyond ASCII are texts like others.
+    private static bool IsControl(char letter) => char.IsAscii(letter) && char.IsControl(letter);
 }
