@@ -104,8 +104,8 @@ internal sealed class KeptPyReference : PyReference
     /// <summary>Keeps a borrowed object.</summary>
     internal static KeptPyReference Of(nint value, bool isStream = false)
     {
-        KeptReferences.Note(isStream);
         PyObjects.IncRef(value);
+        KeptReferences.Note(isStream);
         return new KeptPyReference(value);
     }
 
