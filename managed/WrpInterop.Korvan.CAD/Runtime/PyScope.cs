@@ -57,7 +57,7 @@ public unsafe struct PyScope
     /// <summary>A stream that stays of use after the call, which is not buffered therefore. A call that fails has not
     /// kept it.</summary>
     public Stream? KeptStream(VariantArg* argument) => FromPython(argument)
-        ? Adopt(new PyStream(PyReference.Kept(argument->Value), isBuffered: false, isKept: true))
+        ? Adopt(new PyStream(PyReference.Kept(argument->Value, isStream: true), isBuffered: false, isKept: true))
         : Handles.Object<Stream>(argument->Value);
 
     /// <summary>Python's context managers don't stand in: only what is managed comes.</summary>

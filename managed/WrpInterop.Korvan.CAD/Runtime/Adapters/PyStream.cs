@@ -103,7 +103,7 @@ public sealed class PyStream : Stream, IPyAdapter
         if (_isKept)
         {
             _isClosed = true;
-            (_reference as KeptPyReference)?.Release();
+            _reference.End();
             return;
         }
         // What a Python stream took a part of before it failed would reach it twice.

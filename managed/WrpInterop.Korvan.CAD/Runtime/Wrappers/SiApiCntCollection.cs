@@ -24,10 +24,11 @@ public static unsafe class SiApiCntCollection
     [UnmanagedCallersOnly]
     public static int SqContains(nint handle, VariantArg* value)
     {
+        PyScope scope = PyScope.Lending();
         try
         {
             // A dictionary is asked for its keys as well, as Python's are.
-            object? wanted = Variants.ReadItem(value);
+            object? wanted = scope.Any(value);
             return wanted is string key && Handles.Self<ICollection>(handle) is IDictionary entries && entries.Contains(key)
                 ? 1
                 : Math.Sign(Count(handle, value));
@@ -35,6 +36,10 @@ public static unsafe class SiApiCntCollection
         catch (Exception e)
         {
             return Boundary.Failed(e);
+        }
+        finally
+        {
+            scope.End();
         }
     }
 

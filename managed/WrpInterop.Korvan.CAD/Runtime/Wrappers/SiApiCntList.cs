@@ -81,14 +81,19 @@ public static unsafe class SiApiCntList
     [UnmanagedCallersOnly]
     public static int SqContains(nint handle, VariantArg* value)
     {
+        PyScope scope = PyScope.Lending();
         try
         {
             // The list's own answer: one of named objects knows them by their names, too.
-            return Handles.Self<IList>(handle).Contains(Variants.ReadItem(value)) ? 1 : 0;
+            return Handles.Self<IList>(handle).Contains(scope.Any(value)) ? 1 : 0;
         }
         catch (Exception e)
         {
             return Boundary.Failed(e);
+        }
+        finally
+        {
+            scope.End();
         }
     }
 
