@@ -202,13 +202,16 @@ CASES: dict[str, tuple[str, str]] = {
                 echo.join(Nested(), ",")
             except RuntimeError:
                 print("refused")
+        def shallow():
+            print(echo.join([1, "x"], ","))
         sys.setrecursionlimit(100000)
-        threading.stack_size(256 * 1024)
         sys.stderr.close()
-        thread = threading.Thread(target=run)
-        thread.start()
-        thread.join()
-        """, "refused"),
+        for size, target in (256, run), (128, shallow):
+            threading.stack_size(size * 1024)
+            thread = threading.Thread(target=target)
+            thread.start()
+            thread.join()
+        """, "refused\n1,x"),
 }
 
 

@@ -1,7 +1,6 @@
 using System;
 using System.Collections.Generic;
 using System.Diagnostics.CodeAnalysis;
-using System.Runtime.CompilerServices;
 
 namespace Korvan.WrpGen.Interop;
 
@@ -25,8 +24,7 @@ public class PyReference
             {
                 ThrowEnded();
             }
-            // What comes next calls Python, which may call back: a stack that ends there ends the process.
-            RuntimeHelpers.EnsureSufficientExecutionStack();
+            CallbackStack.Ensure();
             return _value;
         }
     }
