@@ -165,12 +165,17 @@ CASES: dict[str, tuple[str, str]] = {
         ident = uuid.uuid4()
         for name in "uuid", "datetime":
             sys.modules[name] = None
-        told(put("ident", ident))
-        told(put("anything", b"x"))
-        told(put("anything", "x"))
+        def named(call):
+            try:
+                call()
+            except ImportError as error:
+                print("ImportError", str(error).split(" The module")[0])
+        named(put("ident", ident))
+        named(put("anything", b"x"))
+        named(put("anything", "x"))
         """, """
-        ImportError Unable to import the specified module uuid. The module not found or errors occurred while initializing it.
-        ImportError Unable to import the specified module uuid. The module not found or errors occurred while initializing it.
+        ImportError Unable to import the specified module uuid.
+        ImportError Unable to import the specified module uuid.
         ImportError PyCapsule_Import could not import module "datetime"
         """),
     "conversions at the interpreter's end": ("""
