@@ -43,7 +43,8 @@ PAIR_SLOTS = {
     "==": lambda it, value: it == value, "!=": lambda it, value: it != value, "<": lambda it, value: it < value,
     "in": lambda it, value: value in it, "[]": lambda it, value: it[value], "+": lambda it, value: it + value,
     "del []": lambda it, value: it.__delitem__(value), "+=": lambda it, value: it.__iadd__(value),
-    "[] =": lambda it, value: it.__setitem__(value, value), "[:] =": lambda it, value: it.__setitem__(slice(0, 2), value),
+    "[] =": lambda it, value: it.__setitem__(value, value),
+    "[:] =": lambda it, value: it.__setitem__(slice(0, 2), value),
 }
 
 
@@ -85,7 +86,7 @@ class Caller:
         self.roots = self.open_drawings()
         self.pool: list[Any] = []
         self.values = Values(self.random, self.types, self.pool)
-        self.signatures = Signatures(self.random, self.types, lambda: [*self.pool, *self.roots])
+        self.signatures = Signatures(self.random, self.types, self.values, lambda: [*self.pool, *self.roots])
         self.probes = [type_ for type_ in self.types if type_.__module__.startswith("korvan.probe")]
 
     def arguments(self, type_: type, member: str) -> list[Any]:
@@ -154,8 +155,8 @@ class Caller:
     def target(self) -> Any:
         chance = self.random.random()
         if chance < 0.35 or not self.pool:
-            return self.random.choice(self.probes if chance < 0.1 else self.types)
-        return self.random.choice(self.roots if chance < 0.55 else self.pool)
+            return self.random.choice(self.probes if chance < 0.15 else self.types)
+        return self.random.choice(self.roots if chance < 0.6 else self.pool)
 
     def remember(self, value: Any) -> None:
         if len(self.pool) < 300:
@@ -212,7 +213,8 @@ def run_process(seed: int, rounds: int, most_seconds: float) -> str | None:
         work = Path(folder, "work")
         work.mkdir()
         # A size that was taken from a number is refused, not looked for in the machine's memory.
-        environment = {**os.environ, "PYTHONHASHSEED": "0", "PYTHONMALLOC": "debug", "DOTNET_GCHeapHardLimit": "0x50000000"}
+        environment = {
+            **os.environ, "PYTHONHASHSEED": "0", "PYTHONMALLOC": "debug", "DOTNET_GCHeapHardLimit": "0x50000000"}
         try:
             done = subprocess.run(command, cwd=work, env=environment, stdin=subprocess.DEVNULL, capture_output=True,
                                   text=True, errors="replace", timeout=most_seconds, check=False)

@@ -11,8 +11,12 @@ from random import Random
 from typing import Any
 
 import korvan
+from hostile_values import Values
+from korvan import probe
 
-PACKAGE = Path(korvan.__file__).resolve().parent
+# Where the stubs lie: those of the probe are not laid out as a package.
+STUBS = (Path(korvan.__file__).resolve().parents[1],
+         Path(probe.__file__).resolve().parents[2] / "generated" / "probe" / "stubs")
 
 Forms = dict[str, list[list[ast.expr | None]]]
 
@@ -32,7 +36,7 @@ def forms_of(node: ast.ClassDef) -> Forms:
 class Signatures:
     """Makes arguments that fit, of what is there or can be made."""
 
-    def __init__(self, random: Random, types: list[type], live: Callable[[], list[Any]]) -> None:
+    def __init__(self, random: Random, types: list[type], values: Values, live: Callable[[], list[Any]]) -> None:
         self._random = random
         self._live = live
         self._modules: dict[str, dict[str, Forms]] = {}
@@ -47,6 +51,9 @@ class Signatures:
             "bytes": lambda: b"\x89PNG" * random.randrange(4),
             "BinaryIO": lambda: io.BytesIO(b"  0\nEOF\n"),
             "None": lambda: None,
+            "Any": values.value,
+            "object": values.value,
+            **{name: lambda name=name: values.claiming(name) for name in values.CLAIMED},
         }
 
     def arguments(self, type_: type, member: str) -> list[Any] | None:
@@ -94,8 +101,9 @@ class Signatures:
         if not module.startswith("korvan."):
             return {}
         if module not in self._modules:
-            folder = PACKAGE.joinpath(*module.split(".")[1:])
-            stub = next((path for path in (folder / "__init__.pyi", folder.with_suffix(".pyi")) if path.exists()), None)
+            folders = [root.joinpath(*module.split(".")) for root in STUBS]
+            paths = [path for folder in folders for path in (folder / "__init__.pyi", folder.with_suffix(".pyi"))]
+            stub = next((path for path in paths if path.exists()), None)
             body = ast.parse(stub.read_text(encoding="utf-8")).body if stub else []
             self._modules[module] = {node.name: forms_of(node) for node in body if isinstance(node, ast.ClassDef)}
         return self._modules[module].get(type_.__qualname__, {})

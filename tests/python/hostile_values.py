@@ -28,13 +28,16 @@ CLAIMS = (uuid.UUID, decimal.Decimal, decimal.DecimalTuple, dt.datetime, dt.time
 class Values:
     """Makes values from one source of chance."""
 
+    # The types of Python that a parameter may name: of each, right ones, and what only claims to be one.
+    CLAIMED = ("UUID", "Decimal", "datetime", "timedelta")
+
     def __init__(self, random: Random, types: list[type], pool: list[Any]) -> None:
         self._random = random
         self._types = types
         self._pool = pool
         self._makers: tuple[tuple[int, Callable[[], Any]], ...] = (
             (4, self._plain), (4, self._number), (3, self._text), (2, self._buffer), (3, self._collection),
-            (6, self._live), (2, self._empty), (2, self._enum), (1, self._moment), (5, self._hostile),
+            (6, self._live), (2, self._empty), (2, self._enum), (1, self._moment), (9, self._hostile),
         )
         self._weights = [weight for weight, _ in self._makers]
 
@@ -44,11 +47,21 @@ class Values:
         (_, maker), = self._random.choices(self._makers, self._weights)
         return maker() if maker is not self._collection else self._collection(depth)
 
+    def claiming(self, name: str) -> Any:
+        type_, right = {
+            "UUID": (uuid.UUID, lambda: uuid.UUID(int=7)), "Decimal": (decimal.Decimal, lambda: decimal.Decimal("1.5")),
+            "datetime": (dt.datetime, self._moment), "timedelta": (dt.timedelta, lambda: dt.timedelta(1)),
+        }[name]
+        hostile = {"UUID": HostileUuid, "Decimal": HostileDecimal}.get(name, Raising)
+        return self._random.choice((right, right, self._hostile, lambda: hostile(self._random, self._pool),
+                                    lambda: Lying(self._random, self._pool, type_)))()
+
     def arguments(self) -> list[Any]:
         return [self.value() for _ in range(self._random.choice((0, 0, 1, 1, 1, 2, 2, 3, 4, 6)))]
 
     def _plain(self) -> Any:
-        return self._random.choice((None, True, False, 0, 1, "x", 1.5, ..., NotImplemented, object(), int, {}, {1: 2}, set()))
+        return self._random.choice((
+            None, True, False, 0, 1, "x", 1.5, ..., NotImplemented, object(), int, {}, {1: 2}, set()))
 
     def _number(self) -> Any:
         power = self._random.choice((7, 8, 15, 16, 31, 32, 53, 63, 64, 100))
@@ -68,8 +81,9 @@ class Values:
         released = memoryview(bytearray(data))
         released.release()
         return self._random.choice((
-            data, bytearray(data), memoryview(data)[::2], released, io.BytesIO(data), io.BufferedReader(io.BytesIO(data)),
-            io.StringIO("text"), LyingStream(self._random), LyingStream(self._random)))
+            data, bytearray(data), memoryview(data)[::2], released, io.BytesIO(data),
+            io.BufferedReader(io.BytesIO(data)), io.StringIO("text"), LyingStream(self._random),
+            LyingStream(self._random)))
 
     def _collection(self, depth: int = 0) -> Any:
         items = [self.value(depth + 1) for _ in range(self._random.choice((0, 1, 2, 3, 8)))]
@@ -94,7 +108,8 @@ class Values:
         zone = HostileZone(self._random)
         return self._random.choice((
             dt.datetime.max, dt.datetime.min, dt.date(2024, 2, 29), dt.timedelta.max, dt.timedelta.min, dt.time(23, 59),
-            dt.datetime(9999, 12, 31, tzinfo=zone), dt.time(1, tzinfo=zone), dt.datetime(1, 1, 1, tzinfo=dt.timezone.max)))
+            dt.datetime(9999, 12, 31, tzinfo=zone), dt.time(1, tzinfo=zone),
+            dt.datetime(1, 1, 1, tzinfo=dt.timezone.max)))
 
     def _hostile(self) -> Any:
         return self._random.choice((
@@ -113,10 +128,15 @@ class _Hostile:
 class Lying(_Hostile):
     """Says that it is of another class."""
 
-    __class__ = property(lambda self: self.random.choice(CLAIMS))  # type: ignore[assignment]
+    def __init__(self, random: Random, pool: list[Any], claim: type | None = None) -> None:
+        super().__init__(random, pool)
+        self.claim = claim or random.choice(CLAIMS)
+
+    __class__ = property(lambda self: self.claim)  # type: ignore[assignment]
 
     def __getattr__(self, name: str) -> Any:
-        if name in ("bytes_le", "exponent", "digits", "sign", "as_tuple", "tzinfo", "utcoffset", "closed"):
+        parts = ("bytes_le", "exponent", "digits", "sign", "as_tuple", "tzinfo", "utcoffset", "closed")
+        if name in parts and self.random.random() < 0.7:
             return self.random.choice((None, 1, b"short", "x", (1, 2), lambda: (0, (1,), 0), [self]))
         raise AttributeError(name)
 
@@ -176,6 +196,8 @@ class HostileUuid(uuid.UUID):
 
     @property
     def bytes_le(self) -> Any:
+        if self._choice is None:  # type: ignore[attr-defined]
+            raise KeyError("bytes")
         return self._choice  # type: ignore[attr-defined]
 
 
@@ -188,7 +210,8 @@ class HostileDecimal(decimal.Decimal):
         return made
 
     def as_tuple(self) -> Any:
-        return self.random.choice((None, (0, (1,), 0), decimal.DecimalTuple(0, (), 0), decimal.DecimalTuple(9, "x", -40)))
+        return self.random.choice((
+            None, (0, (1,), 0), decimal.DecimalTuple(0, (), 0), decimal.DecimalTuple(9, "x", -40)))
 
 
 class HostileZone(dt.tzinfo):

@@ -1,4 +1,4 @@
-"""Python objects given to managed ones: copied ones go home with the call, kept ones soon after their keeper is dead."""
+"""Python objects given to managed ones: copied ones go home with the call, kept ones soon after their keeper."""
 
 from __future__ import annotations
 

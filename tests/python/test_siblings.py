@@ -112,6 +112,14 @@ class Reflection(unittest.TestCase):
         self.assertEqual(value, probe.Pair(0.0, 0.0))
         self.assertEqual(probe.Pair._reinterpret_obj(value), probe.Pair(0.0, 0.0))
 
+    def test_a_struct_is_an_object_and_seen_as_one_it_is_a_copy(self) -> None:
+        pair = probe.Pair(1.0, 2.0)
+        seen = probe.Pair._reinterpret_obj(pair)
+        seen.x = 9.0
+        self.assertEqual((pair.x, seen.y), (1.0, 2.0))
+        with self.assertRaisesRegex(TypeError, "got a korvan.probe.Pair object"):
+            probe.Pair._reinterpret_obj(probe.Pair.__new__(probe.Pair))
+
     def test_no_instance_is_without_a_handle(self) -> None:
         for kind in (pyreflection.Type, pyreflection.Object, pyreflection.Enum, pygc.CastResult):
             self.assertRaisesRegex(TypeError, "cannot create", kind)

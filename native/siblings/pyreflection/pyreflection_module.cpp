@@ -22,8 +22,14 @@ int unwrap(PyObject* object, void** handle, const PyTypeObject* type) {
 }
 
 int unwrap_type(PyObject* object, void** handle) { return unwrap(object, handle, &type_type); }
+// Any wrapper: a struct is an object in its box.
 int unwrap_object(PyObject* object, void** handle) {
-    return fn_conv_py_obj_to_clr_refobj_not_null_handle(object, handle) && *handle != nullptr;
+    VariantArg record{};
+    if (!fn_conv_py_obj_to_clr_gen_not_null_handle(object, &record) || record.value == nullptr) {
+        return 0;
+    }
+    *handle = record.value;
+    return 1;
 }
 int unwrap_enum(PyObject* object, void** handle) { return unwrap(object, handle, &enum_type); }
 

@@ -1,7 +1,6 @@
 using System;
 using System.Collections.Generic;
 using System.Diagnostics.CodeAnalysis;
-using System.Runtime.CompilerServices;
 
 namespace Korvan.WrpGen.Interop;
 
@@ -25,8 +24,7 @@ public class PyReference
             {
                 ThrowEnded();
             }
-            // What comes next calls Python, which may call back: a stack that ends there ends the process.
-            RuntimeHelpers.EnsureSufficientExecutionStack();
+            CallbackStack.Ensure();
             return _value;
         }
     }
@@ -104,8 +102,8 @@ internal sealed class KeptPyReference : PyReference
     /// <summary>Keeps a borrowed object.</summary>
     internal static KeptPyReference Of(nint value, bool isStream = false)
     {
-        KeptReferences.Note(isStream);
         PyObjects.IncRef(value);
+        KeptReferences.Note(isStream);
         return new KeptPyReference(value);
     }
 
