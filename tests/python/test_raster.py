@@ -85,7 +85,7 @@ class Drawings(unittest.TestCase):
         self.assertIn("PageName: Model", info)
         options.compression = TiffCompressions.JPEG
         self.assertEqual(options.validate(), TiffOptionsError.COMPRESSION_NEEDS_FULL_SAMPLES)
-        with self.assertRaisesRegex(RuntimeError, "CompressionNeedsFullSamples"):
+        with self.assertRaisesRegex(RuntimeError, "COMPRESSION_NEEDS_FULL_SAMPLES"):
             drawn(options)
 
     def test_options_say_how_a_format_stores(self) -> None:
