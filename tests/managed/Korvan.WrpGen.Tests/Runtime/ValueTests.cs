@@ -48,8 +48,13 @@ public unsafe class ValueTests
     [Fact]
     public void AStringOfMoreCharactersThanAnIntCountsIsRefused()
     {
-        var argument = new PyStringArg { Length = int.MinValue };
-        Assert.Throws<ArgumentException>(() => PyText.Read(&argument));
+        Assert.Throws<ArgumentException>(Read);
+
+        static void Read()
+        {
+            var argument = new PyStringArg { Length = int.MinValue };
+            PyText.Read(&argument);
+        }
     }
 
     [Fact]
