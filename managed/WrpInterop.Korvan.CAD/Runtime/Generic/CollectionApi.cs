@@ -1,6 +1,7 @@
 using System;
 using System.Collections;
 using System.Collections.Generic;
+using System.Collections.ObjectModel;
 using System.Runtime.CompilerServices;
 using System.Linq;
 using Korvan.WrpGen.Interop;
@@ -23,10 +24,19 @@ public static unsafe class EnumerableApi<T>
         }
     }
 
-    private static IEnumerator<T> Walk(IEnumerable<T> items) =>
-        !typeof(T).IsValueType && items.GetType() == typeof(List<T>)
-            ? new ListCursor<T>(Unsafe.As<List<T>>(items))
-            : items.GetEnumerator();
+    private static IEnumerator<T> Walk(IEnumerable<T> items)
+    {
+        IEnumerator<T> walk = items.GetEnumerator();
+        if (typeof(T).IsValueType || walk.GetType() != typeof(List<T>.Enumerator))
+        {
+            return walk;
+        }
+        object list = items is Collection<T> collection ? Items(collection) : items;
+        return list.GetType() == typeof(List<T>) ? new ListCursor<T>(Unsafe.As<List<T>>(list)) : walk;
+    }
+
+    [UnsafeAccessor(UnsafeAccessorKind.Method, Name = "get_Items")]
+    private static extern IList<T> Items(Collection<T> collection);
 }
 
 /// <summary>The bodies of the delegates of <see cref="IEnumerator{T}"/>.</summary>
