@@ -37,7 +37,8 @@ ROWS = (
     Row("read a string", "echo.text", "item.text", 1.5),
     Row("write a double", "echo.float64 = 1.5", "item.real = 1.5", 1.5),
     Row("write an option (float)", "options.page_width = 1600.0", "item.real = 1.5", 1.5),
-    Row("method with one object", "image.can_save(png)", "item.can_take(other)", 2.0),
+    Row("method with one object", "echo.is_peer(peer)", "item.can_take(other)", 2.0),
+    Row("the same, that looks a class up", "image.can_save(png)", "item.can_take(other)", 2.0),
     Row("overload, second form taken", "echo.pick(1.5)", "item.pick(1.5)", 5.4, against_plain=True),
     Row("iterate managed objects, each", "for line in lines: pass", f"for one in Item.items({LIST_LENGTH}): pass",
         1.5, count=LIST_LENGTH),
@@ -50,12 +51,14 @@ ROWS = (
 def _our_names() -> dict[str, object]:
     echo = probe.Echo()
     echo.text = "layer"
+    echo.peer = probe.Echo()
     image = CadImage()
     for _ in range(LIST_LENGTH):
         image.add_entity(CadLine())
     return {
         "Margins": korvan.cad.imageoptions.Margins,
         "echo": echo,
+        "peer": echo.peer,
         "failing": probe.Failing(False),
         "options": CadRasterizationOptions(),
         "image": image,

@@ -121,6 +121,10 @@ class Geometry(unittest.TestCase):
         self.assertEqual((Point3D.distance(a, b), b.distance(a)), (7.0, 7.0))
         self.assertEqual(Point2D(0.0, 0.0).distance(Point2D(3.0, 4.0)), 5.0)
         self.assertEqual(a.between(b, 0.5), Point3D(1.0, 1.5, 3.0))
+        flat = Point2D(3.0, 4.0)
+        self.assertEqual((b.distance(Point2D(2.0, 0.0)), Point3D.distance(flat, Point2D(0.0, 0.0))), (3.0, 5.0))
+        self.assertNotEqual(Point3D(3.0, 4.0, 0.0), flat)
+        self.assertNotEqual(flat, Point3D(3.0, 4.0, 0.0))
 
     def test_ranges_hold_both_ends(self) -> None:
         pages = cad.IntRange(3, 5)

@@ -59,10 +59,11 @@ public class Point2D : IEquatable<Point2D>
     /// <returns>The point in space.</returns>
     public Point3D ToPoint3D(double z) => new(X, Y, z);
 
-    /// <summary>Tells whether another point has the same coordinates.</summary>
+    /// <summary>Tells whether another point has the same coordinates, in as many dimensions.</summary>
     /// <param name="other">The other point.</param>
     /// <returns>Whether another point has the same coordinates.</returns>
-    public bool Equals(Point2D? other) => other is not null && X == other.X && Y == other.Y;
+    public virtual bool Equals(Point2D? other) =>
+        other is not null && other.GetType() == GetType() && X == other.X && Y == other.Y;
 
     /// <inheritdoc/>
     public override bool Equals(object? obj) => Equals(obj as Point2D);

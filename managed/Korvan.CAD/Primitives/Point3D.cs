@@ -4,7 +4,7 @@ using Korvan.CAD.Binding;
 namespace Korvan.CAD.Primitives;
 
 /// <summary>A point in space, in double precision.</summary>
-public class Point3D : IEquatable<Point3D>
+public class Point3D : Point2D, IEquatable<Point3D>
 {
     /// <summary>Creates the origin.</summary>
     public Point3D()
@@ -16,17 +16,7 @@ public class Point3D : IEquatable<Point3D>
     /// <param name="y">The ordinate.</param>
     /// <param name="z">The elevation.</param>
     public Point3D(double x, double y, double z)
-    {
-        X = x;
-        Y = y;
-        Z = z;
-    }
-
-    /// <summary>Gets or sets the abscissa.</summary>
-    public double X { get; set; }
-
-    /// <summary>Gets or sets the ordinate.</summary>
-    public double Y { get; set; }
+        : base(x, y) => Z = z;
 
     /// <summary>Gets or sets the elevation.</summary>
     public double Z { get; set; }
@@ -68,6 +58,9 @@ public class Point3D : IEquatable<Point3D>
     /// <param name="other">The other point.</param>
     /// <returns>Whether another point has the same coordinates.</returns>
     public bool Equals(Point3D? other) => other is not null && X == other.X && Y == other.Y && Z == other.Z;
+
+    /// <inheritdoc/>
+    public override bool Equals(Point2D? other) => Equals(other as Point3D);
 
     /// <inheritdoc/>
     public override bool Equals(object? obj) => Equals(obj as Point3D);

@@ -14,6 +14,7 @@
 #include "runtime/types_map.h"
 
 #include <cstring>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -64,6 +65,20 @@ std::vector<PyTypeObject*> type_objects(ClassBinding* const* bindings, bool& rea
     return types;
 }
 
+// Thousands of types name the same few interfaces: what one of them was given serves the others.
+bool set_interfaces(PyTypeObject* type, PyObject* key, const std::vector<PyTypeObject*>& types) {
+    static std::map<std::vector<PyTypeObject*>, PyObject*> sets; // owned, for good
+    const auto known = sets.find(types);
+    if (known != sets.end()) {
+        return PyDict_SetItem(type->tp_dict, key, known->second) == 0;
+    }
+    if (!fn_set_ifcs_markattr(type, key, static_cast<int>(types.size()), types.data())) {
+        return false;
+    }
+    sets[types] = Py_XNewRef(PyDict_GetItem(type->tp_dict, key));
+    return true;
+}
+
 bool set_interface_markers(ClassBinding& binding) {
     if (binding.additional_interfaces == nullptr && binding.implicit_interfaces == nullptr) {
         return true;
@@ -74,12 +89,10 @@ bool set_interface_markers(ClassBinding& binding) {
     if (!ready) {
         return false;
     }
-    if (!fn_set_ifcs_markattr(&binding.type, PyWrpIdMarkattr_AdditionalInterfaces,
-                              static_cast<int>(additional.size()), additional.data())) {
+    if (!set_interfaces(&binding.type, PyWrpIdMarkattr_AdditionalInterfaces, additional)) {
         return fail_type(load_error::additional_interfaces, binding);
     }
-    if (!fn_set_ifcs_markattr(&binding.type, PyWrpIdMarkattr_ImplicitInterfaces,
-                              static_cast<int>(implicit.size()), implicit.data())) {
+    if (!set_interfaces(&binding.type, PyWrpIdMarkattr_ImplicitInterfaces, implicit)) {
         return fail_type(load_error::implicit_interfaces, binding);
     }
     return true;

@@ -50,7 +50,7 @@ internal static class CSharpValues
     /// <summary>As <see cref="Read"/>, where null is refused under the name that Python knows the place by.</summary>
     public static string ReadGiven(ValueUse value, string name, string place) =>
         value.IsReference && !value.IsOptional
-            ? $"Required.Of({Read(value, name)}, \"{place}\")"
+            ? $"({Read(value, name)} ?? throw Required.Missing(\"{place}\"))"
             : Read(value, name);
 
     /// <summary>Whether an argument may bring a Python object that an adapter has to stand for.</summary>
