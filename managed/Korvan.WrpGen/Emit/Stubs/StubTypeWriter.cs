@@ -235,7 +235,9 @@ internal sealed class StubTypeWriter
     // One name is a method of instances and another one of the class.
     private void WriteMixed(string name, IReadOnlyList<MethodGroup> forms)
     {
-        string stem = "_" + string.Concat(name.Split('_').Select(word => char.ToUpperInvariant(word[0]) + word[1..]));
+        // The type's name keeps the forms of a derived type apart from those of its base.
+        string words = string.Concat(name.Split('_').Select(word => char.ToUpperInvariant(word[0]) + word[1..]));
+        string stem = $"_{_type.Name}{words}";
         foreach (MethodGroup form in forms)
         {
             _writer.Line($"class {stem}{(form.IsStatic ? "OnClass" : "OnInstance")}(typing.Protocol):");
@@ -248,7 +250,8 @@ internal sealed class StubTypeWriter
             });
         }
         string mixed = _types.Support("MixedMethod");
-        _writer.Line($"{name}: {mixed}[{stem}OnInstance, {stem}OnClass]");
+        string note = forms.SelectMany(form => form.Legs).Any(leg => leg.Owner != _type) ? "  # type: ignore[override]" : "";
+        _writer.Line($"{name}: {mixed}[{stem}OnInstance, {stem}OnClass]{note}");
     }
 
     private void WriteStaticSetters()
