@@ -1,16 +1,15 @@
-"""Sums the lengths of a drawing's lines by layer, again and again, and prints the best time as one line of JSON."""
+"""Sums the lengths of a drawing's lines by layer."""
 
 from __future__ import annotations
 
-import json
 import math
-import sys
-import time
-from collections.abc import Iterable
+from collections.abc import Callable, Iterable
 
 import korvan.cad
 from korvan.cad.fileformats.cad import CadImage
 from korvan.cad.fileformats.cad.cadobjects import CadEntityBase, CadLine
+
+from walk_timing import main
 
 
 def lengths_by_layer(entities: Iterable[CadEntityBase]) -> dict[str, float]:
@@ -25,17 +24,10 @@ def lengths_by_layer(entities: Iterable[CadEntityBase]) -> dict[str, float]:
     return lengths
 
 
-def main() -> None:
-    path, seconds = sys.argv[1], float(sys.argv[2])
-    drawing = CadImage._cast_to(korvan.cad.Image.load(path)).value
-    entities = drawing.entities
-    best, end = float("inf"), time.perf_counter() + seconds
-    while time.perf_counter() < end:
-        start = time.process_time()
-        lengths = lengths_by_layer(entities)
-        best = min(best, time.process_time() - start)
-    print(json.dumps({"best": best, "lengths": {layer: round(length, 3) for layer, length in lengths.items()}}))
+def load(path: str) -> Callable[[], dict[str, float]]:
+    entities = CadImage._cast_to(korvan.cad.Image.load(path)).value.entities
+    return lambda: lengths_by_layer(entities)
 
 
 if __name__ == "__main__":
-    main()
+    main(load)

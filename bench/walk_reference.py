@@ -2,13 +2,12 @@
 
 from __future__ import annotations
 
-import json
 import math
-import sys
-import time
-from collections.abc import Iterable
+from collections.abc import Callable, Iterable
 
 import ezdxf
+
+from walk_timing import main
 
 
 def lengths_by_layer(entities: Iterable) -> dict[str, float]:
@@ -22,16 +21,10 @@ def lengths_by_layer(entities: Iterable) -> dict[str, float]:
     return lengths
 
 
-def main() -> None:
-    path, seconds = sys.argv[1], float(sys.argv[2])
+def load(path: str) -> Callable[[], dict[str, float]]:
     entities = ezdxf.readfile(path).modelspace()
-    best, end = float("inf"), time.perf_counter() + seconds
-    while time.perf_counter() < end:
-        start = time.process_time()
-        lengths = lengths_by_layer(entities)
-        best = min(best, time.process_time() - start)
-    print(json.dumps({"best": best, "lengths": {layer: round(length, 3) for layer, length in lengths.items()}}))
+    return lambda: lengths_by_layer(entities)
 
 
 if __name__ == "__main__":
-    main()
+    main(load)
