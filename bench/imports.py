@@ -18,7 +18,7 @@ from pathlib import Path
 from report import Table, duration, ratio, verdict
 
 ROUNDS = 11
-AIM = 1.5
+AIM = 1.2
 
 # Tells the enums of the tree, with their kinds and members, and the number of its other types.
 TELL = """
