@@ -27,9 +27,9 @@ class Model(unittest.TestCase):
         entities = self.drawing.entities
         count = len(entities)
         for what, refused, words in (
-            ("None", lambda: entities.append(None), "an item of entities cannot be None"),
-            ("an object", lambda: self.drawing.objects.insert(0, None), "an item of objects cannot be None"),
-            ("a vertex", lambda: CadLwPolyline().coordinates.append(None), "an item of coordinates cannot be None"),
+            ("None", lambda: entities.append(None), "an item of entities must not be None"),
+            ("an object", lambda: self.drawing.objects.insert(0, None), "an item of objects must not be None"),
+            ("a vertex", lambda: CadLwPolyline().coordinates.append(None), "an item of coordinates must not be None"),
             ("twice", lambda: self.drawing.add_entity(entities[0]), r"in this list already; add a clone\(\)"),
             ("in slices", lambda: entities.extend(entities[:2]), "in this list already"),
             ("elsewhere", lambda: CadImage().add_entity(entities[0]), r"belongs to BLOCK \*Model_Space.*clone\(\)"),

@@ -19,7 +19,7 @@ internal static class Verify
     {
         if (argument is null)
         {
-            throw new ArgumentNullException(null, $"{Shown(name, member)} cannot be None.");
+            throw new ArgumentNullException(null, $"{Shown(name, member)} must not be None.");
         }
     }
 
@@ -33,7 +33,7 @@ internal static class Verify
         NotNull(argument, name, member);
         if (Array.IndexOf(argument, null) is var at and >= 0)
         {
-            throw new ArgumentNullException(null, $"{Shown(name, member)} cannot hold None; item {at} is.");
+            throw new ArgumentNullException(null, $"{Shown(name, member)} must not hold None; item {at} is.");
         }
     }
 

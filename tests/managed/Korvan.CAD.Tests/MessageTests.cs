@@ -16,7 +16,7 @@ public sealed class MessageTests
         { static () => new CadRasterizationOptions { PageWidth = -5 }.ToString(), "page_width cannot be -5. A length of a page is finite and not below 0." },
         { static () => new CadRasterizationOptions { Zoom = float.NaN }.ToString(), "zoom cannot be NaN. A zoom is a finite number above 0." },
         { static () => new PdfOptions { Timeout = -1 }.ToString(), "timeout cannot be -1. It has to be 0 or more." },
-        { static () => Image.Load("a.dxf", null!), "load_options cannot be None." },
+        { static () => Image.Load("a.dxf", null!), "load_options must not be None." },
         { static () => Verify.NotBlank(" ", "fileName"), "file_name cannot be empty or blank." },
         { static () => throw Verify.OutOfRange("unitType", UnitType.Millimeter, "No."), "unit_type cannot be MILLIMETER. No." },
     };

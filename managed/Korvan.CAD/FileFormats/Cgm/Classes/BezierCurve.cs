@@ -12,10 +12,10 @@ public sealed class BezierCurve
     /// <param name="end">Where it ends.</param>
     public BezierCurve(CgmPoint start, CgmPoint firstControl, CgmPoint secondControl, CgmPoint end)
     {
-        Start = start ?? throw new ArgumentNullException(null, "start cannot be None.");
-        FirstControl = firstControl ?? throw new ArgumentNullException(null, "first_control cannot be None.");
-        SecondControl = secondControl ?? throw new ArgumentNullException(null, "second_control cannot be None.");
-        End = end ?? throw new ArgumentNullException(null, "end cannot be None.");
+        Start = start ?? throw new ArgumentNullException(null, "start must not be None.");
+        FirstControl = firstControl ?? throw new ArgumentNullException(null, "first_control must not be None.");
+        SecondControl = secondControl ?? throw new ArgumentNullException(null, "second_control must not be None.");
+        End = end ?? throw new ArgumentNullException(null, "end must not be None.");
     }
 
     /// <summary>Gets where the curve begins.</summary>

@@ -10,7 +10,7 @@ public sealed class UnknownCommand : Command
     /// <summary>Creates the command of an element.</summary>
     /// <param name="arguments">The element.</param>
     public UnknownCommand(CommandConstructorArguments arguments)
-        : base(arguments ?? throw new ArgumentNullException(null, "arguments cannot be None."))
+        : base(arguments ?? throw new ArgumentNullException(null, "arguments must not be None."))
     {
     }
 

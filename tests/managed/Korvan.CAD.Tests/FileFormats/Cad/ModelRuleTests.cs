@@ -28,7 +28,7 @@ public sealed class ModelRuleTests
         CadImage image = new();
         CadLine line = new();
         image.AddEntity(line);
-        Assert.Contains("an item of entities cannot be None", Assert.Throws<ArgumentNullException>(() => image.Entities.Add(null!)).Message);
+        Assert.Contains("an item of entities must not be None", Assert.Throws<ArgumentNullException>(() => image.Entities.Add(null!)).Message);
         Assert.Throws<ArgumentNullException>(() => image.Objects.Insert(0, null!));
         Assert.Throws<ArgumentNullException>(() => new CadLwPolyline().Coordinates.Add(null!));
         Assert.Contains("in this list already", Assert.Throws<CadException>(() => image.AddEntity(line)).Message);
