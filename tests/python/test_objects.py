@@ -125,6 +125,8 @@ class Casts(unittest.TestCase):
         self.assertEqual(status, 1)
         self.assertIs(type(value), probe.Echo)
         self.assertEqual(value, echo)
+        self.assertEqual(probe.Box()._cast_to(echo).status, 0, "an instance asks for its class")
+        self.assertEqual(echo._cast_to(echo).value, echo)
         self.assertFalse(probe.Box._cast_to(echo))
         self.assertFalse(probe.Box._cast_to("no wrapper"))
         self.assertFalse(probe.Box._cast_as(None))

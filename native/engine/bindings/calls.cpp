@@ -163,15 +163,16 @@ bool parse_arguments(const Leg& leg, const CellConverter* converters, void* cons
         return false;
     }
     char format[2 * max_arity + 1];
+    char* unit = format;
     char* keywords[max_arity + 1];
     BoundCell bound[max_arity];
     for (int i = 0; i < leg.arity; ++i) {
-        format[2 * i] = 'O';
-        format[2 * i + 1] = '&';
+        *unit++ = 'O';
+        *unit++ = '&';
         keywords[i] = const_cast<char*>(leg.parameters[i].keyword);
         bound[i] = {converters[i], cells[i], leg.parameters[i].type};
     }
-    format[2 * leg.arity] = '\0';
+    *unit = '\0';
     keywords[leg.arity] = nullptr;
     return parsers[leg.arity](positional.get(), keyword_values.get(), format, keywords, bound);
 }

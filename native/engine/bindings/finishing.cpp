@@ -62,36 +62,19 @@ void untrack_weak_list_of_subclasses(const PyTypeObject* type) {
 
 // A static method in a dictionary is bound anew at each read; the interpreter reads a function as
 // it is, from the call's own cache. To a caller both are the same.
-void unwrap_static_method(PyObject* dictionary, PyObject* name) {
-    PyObject* method = PyDict_GetItem(dictionary, name);
+void unwrap_static_method(PyObject* dictionary, const char* name) {
+    PyObject* method = PyDict_GetItemString(dictionary, name);
     if (method == nullptr || Py_TYPE(method) != &PyStaticMethod_Type) {
         return;
     }
     const Ref function = Ref::steal(PyObject_GetAttrString(method, "__func__"));
-    if (!function || PyDict_SetItem(dictionary, name, function.get()) != 0) {
+    if (!function || PyDict_SetItemString(dictionary, name, function.get()) != 0) {
         PyErr_Clear();
     }
 }
 
-struct CastNames {
-    Ref names[5];
-    CastNames() {
-        static constexpr const char* texts[] = {"_type_of", "_cast_to", "_reinterpret_obj",
-                                                "_cast_as", "_is_assignable"};
-        for (size_t i = 0; i < std::size(texts); ++i) {
-            names[i] = Ref::steal(PyUnicode_InternFromString(texts[i]));
-        }
-    }
-};
-
-void finish_class(ClassBinding& binding, const CastNames& casts) {
+void finish_class(ClassBinding& binding) {
     PyTypeObject& type = binding.type;
-    for (const Ref& name : casts.names) {
-        if (name) {
-            unwrap_static_method(type.tp_dict, name.get());
-        }
-    }
-    PyType_Modified(&type);
     untrack_dictionary(type.tp_dict);
     untrack_weak_list_of_subclasses(&type);
     untrack(type.tp_mro);
@@ -114,29 +97,37 @@ void finish_enum(const EnumBinding& binding) {
     untrack(binding.type);
 }
 
-void finish_module(const ModuleRecord& record, const CastNames& casts) {
+void finish_module(const ModuleRecord& record) {
     for (ModuleRecord* const* child = record.children; *child != nullptr; ++child) {
-        finish_module(**child, casts);
+        finish_module(**child);
     }
     for (ClassBinding* const* binding = record.classes; *binding != nullptr; ++binding) {
-        finish_class(**binding, casts);
+        finish_class(**binding);
     }
     for (EnumBinding* const* binding = record.enums; *binding != nullptr; ++binding) {
         finish_enum(**binding);
     }
 }
 
-void finish_wrappers(ClassBinding* const* wrappers, const CastNames& casts) {
+void finish_wrappers(ClassBinding* const* wrappers) {
     for (; *wrappers != nullptr; ++wrappers) {
-        finish_class(**wrappers, casts);
+        finish_class(**wrappers);
     }
 }
 
 } // namespace
 
+void unwrap_cast_methods(PyTypeObject& type) {
+    static constexpr const char* names[] = {"_type_of", "_cast_to", "_reinterpret_obj", "_cast_as",
+                                            "_is_assignable"};
+    for (const char* name : names) {
+        unwrap_static_method(type.tp_dict, name);
+    }
+    PyType_Modified(&type);
+}
+
 void finish_types(const BoundTree& tree, ClassBinding* const* interop_wrappers) {
-    const CastNames casts;
-    finish_module(*tree.root, casts);
-    finish_wrappers(tree.generics, casts);
-    finish_wrappers(interop_wrappers, casts);
+    finish_module(*tree.root);
+    finish_wrappers(tree.generics);
+    finish_wrappers(interop_wrappers);
 }

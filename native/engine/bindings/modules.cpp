@@ -48,10 +48,14 @@ bool ready_class(ClassBinding& binding) {
     if (binding.base != nullptr && !ready_class(*binding.base)) {
         return false;
     }
+    if (PyType_HasFeature(&binding.type, Py_TPFLAGS_READY)) {
+        return true;
+    }
     prepare_class(binding);
     if (PyType_Ready(&binding.type) != 0) {
         return fail_type(load_error::ready_type, binding);
     }
+    unwrap_cast_methods(binding.type);
     return true;
 }
 
