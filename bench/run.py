@@ -1,6 +1,6 @@
 """Runs the measurements and prints their tables: `make bench`.
 
-    build/python bench/run.py --modules build/release/bench [imports] [calls] [objects] [sequences] [streams] [values] [loading] [walking] [models] [pictures]
+    build/python bench/run.py --modules build/release/bench [subject ...]
 """
 
 from __future__ import annotations

@@ -130,7 +130,8 @@ internal static class AtomicFile
             foreach (string folder in DescriptorFolders)
             {
                 if (path.StartsWith(folder, StringComparison.Ordinal)
-                    && int.TryParse(path.AsSpan(folder.Length), NumberStyles.None, CultureInfo.InvariantCulture, out int number))
+                    && int.TryParse(
+                        path.AsSpan(folder.Length), NumberStyles.None, CultureInfo.InvariantCulture, out int number))
                 {
                     return number;
                 }
@@ -165,7 +166,8 @@ internal static class AtomicFile
     private static bool IsOfTarget(Exception e) => e is IOException or UnauthorizedAccessException;
 
     // The reason is part of the message: as an inner exception it would be told twice.
-    private static ImageSaveException NotWritten(string filePath, string why) => new($"'{filePath}' could not be written: {why}");
+    private static ImageSaveException NotWritten(string filePath, string why) =>
+        new($"'{filePath}' could not be written: {why}");
 
     private static ImageSaveException ExistsAlready(string filePath) =>
         new($"'{filePath}' exists already; pass over_write=True to replace it.");
@@ -210,7 +212,8 @@ internal static class AtomicFile
             try
             {
                 return new PartFile(
-                    target, shown, name, new FileStream(name, FileMode.CreateNew, FileAccess.ReadWrite, FileShare.None, BufferSize));
+                    target, shown, name,
+                    new FileStream(name, FileMode.CreateNew, FileAccess.ReadWrite, FileShare.None, BufferSize));
             }
             catch (Exception e) when (IsOfTarget(e))
             {
@@ -218,7 +221,8 @@ internal static class AtomicFile
             }
         }
 
-        /// <summary>Gives a file without a name its own where nothing stands in the way, else one to move it by.</summary>
+        /// <summary>Gives a file without a name its own where nothing stands in the way, else one to move it
+        /// by.</summary>
         internal void Name(bool overWrite)
         {
             if (_name is not null || PosixFile.TryName(Stream.SafeFileHandle, Target))
@@ -252,7 +256,8 @@ internal static class AtomicFile
             }
         }
 
-        /// <summary>A message of the system's, with the file's name in place of the one that it has meanwhile.</summary>
+        /// <summary>A message of the system's, with the file's name in place of the one that it has
+        /// meanwhile.</summary>
         internal string WithoutName(string message) =>
             _name is null ? message : message.Replace(_name, Shown, StringComparison.Ordinal);
 
@@ -267,7 +272,8 @@ internal static class AtomicFile
             foreach (string path in Directory.EnumerateFiles(folder, "*" + PartSuffix))
             {
                 string name = Path.GetFileName(path);
-                if (name.Length != start.Length + UniqueLength + PartSuffix.Length || !name.StartsWith(start, StringComparison.Ordinal)
+                if (name.Length != start.Length + UniqueLength + PartSuffix.Length
+                    || !name.StartsWith(start, StringComparison.Ordinal)
                     || !Guid.TryParseExact(name.AsSpan(start.Length, UniqueLength), "N", out _))
                 {
                     continue;
@@ -275,7 +281,8 @@ internal static class AtomicFile
 
                 try
                 {
-                    using var unused = new FileStream(path, FileMode.Open, FileAccess.ReadWrite, FileShare.None, 1, FileOptions.DeleteOnClose);
+                    using var unused = new FileStream(path, FileMode.Open, FileAccess.ReadWrite, FileShare.None, 1,
+                        FileOptions.DeleteOnClose);
                 }
                 catch (Exception e) when (IsOfTarget(e))
                 {

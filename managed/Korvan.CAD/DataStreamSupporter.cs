@@ -18,7 +18,8 @@ public abstract class DataStreamSupporter : DisposableObject
     /// <summary>Reads all data that has not been read yet.</summary>
     public abstract void CacheData();
 
-    /// <summary>Writes the data over the file or stream that it was read from, in the format it was read from.</summary>
+    /// <summary>Writes the data over the file or stream that it was read from, in the format it was read
+    /// from.</summary>
     /// <exception cref="ImageSaveException">It was made in memory, so that there is no such place; or writing
     /// failed.</exception>
     public void Save() => SaveOver();
@@ -33,8 +34,8 @@ public abstract class DataStreamSupporter : DisposableObject
     }
 
     /// <summary>Writes the data to a file, in the format it was read from.</summary>
-    /// <param name="filePath">The path of the file. A file that exists is replaced only when writing succeeds; a device or
-    /// a FIFO gets the output. An ending that stands for another format is refused.</param>
+    /// <param name="filePath">The path of the file. A file that exists is replaced only when writing succeeds; a device
+    /// or a FIFO gets the output. An ending that stands for another format is refused.</param>
     /// <exception cref="ImageSaveException">Writing failed, or the name has the ending of another format.</exception>
     public virtual void Save(string filePath) => Save(filePath, true);
 

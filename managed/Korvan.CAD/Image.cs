@@ -80,8 +80,8 @@ public abstract partial class Image : DataStreamSupporter
     public static Image Load(string filePath) => Load(filePath, new LoadOptions());
 
     /// <summary>Reads a stream from its position to its end.</summary>
-    /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/> until
-    /// it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
+    /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/>
+    /// until it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
     /// <param name="loadOptions">How to read it.</param>
     /// <returns>A stream from its position to its end.</returns>
     /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
@@ -91,8 +91,8 @@ public abstract partial class Image : DataStreamSupporter
     }
 
     /// <summary>Reads a stream from its position to its end.</summary>
-    /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/> until
-    /// it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
+    /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/>
+    /// until it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
     /// <param name="fileName">The name that stands in messages, and whose folder is searched for files that the
     /// drawing refers to.</param>
     /// <param name="loadOptions">How to read it.</param>
@@ -104,8 +104,8 @@ public abstract partial class Image : DataStreamSupporter
     }
 
     /// <summary>Reads a stream from its position to its end.</summary>
-    /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/> until
-    /// it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
+    /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/>
+    /// until it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
     /// <returns>A stream from its position to its end.</returns>
     /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
     public static Image Load([PythonKept] Stream stream) => Load(stream, new LoadOptions());
@@ -223,7 +223,8 @@ public abstract partial class Image : DataStreamSupporter
             return $"{name}, disposed";
         }
 
-        string from = FilePath is not null ? $" from '{FilePath}'" : DataStreamContainer is not null ? " from a stream" : "";
+        string from = FilePath is not null ? $" from '{FilePath}'" : DataStreamContainer is not null ? " from a stream"
+            : "";
         return $"{name} of {Content}{from}";
     }
 
@@ -243,15 +244,18 @@ public abstract partial class Image : DataStreamSupporter
     /// <inheritdoc/>
     internal override Action<Stream> OwnWriter(string filePath)
     {
-        FileFormatInfo[] meant = Path.GetExtension(filePath) is { Length: > 1 } ending ? FileFormatInfo.FindByExtension(ending) : [];
+        FileFormatInfo[] meant = Path.GetExtension(filePath) is { Length: > 1 } ending
+            ? FileFormatInfo.FindByExtension(ending) : [];
         if (meant.Length == 0 || Array.Exists(meant, info => info.Format == OwnFormat))
         {
             return SaveData;
         }
 
         string[] classes = [.. ExportOptionTypes
-            .Where(type => Array.Exists(meant, info => info.Format == ImageSaver.FormatOf(type))).Select(static type => type.Name)];
-        throw new ImageSaveException($"'{filePath}' has the ending of {meant[0].Name}, but without options the image is written as "
+            .Where(type => Array.Exists(meant, info => info.Format == ImageSaver.FormatOf(type)))
+            .Select(static type => type.Name)];
+        throw new ImageSaveException(
+            $"'{filePath}' has the ending of {meant[0].Name}, but without options the image is written as "
             + $"{FileFormatInfo.Get(OwnFormat).Name}; "
             + (classes.Length > 0 ? $"pass {string.Join(" or ", classes)}." : "it cannot be written in that format."));
     }
@@ -281,7 +285,8 @@ public abstract partial class Image : DataStreamSupporter
         {
             string[] names = [.. ExportOptionTypes.Select(static type => type.Name).Order(StringComparer.Ordinal)];
             throw new ImageSaveException(
-                $"{GetType().Name} cannot be saved with {options.GetType().Name}: it is not written as {Verify.NameOf(options.TargetFormat)}; "
+                $"{GetType().Name} cannot be saved with {options.GetType().Name}: it is not written as "
+                    + $"{Verify.NameOf(options.TargetFormat)}; "
                 + $"pass {string.Join(", ", names)}.");
         }
     }

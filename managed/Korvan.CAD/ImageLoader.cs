@@ -95,7 +95,8 @@ internal static class ImageLoader
     private static FileFormat FormatOf(byte[] data)
     {
         FileFormat format = FormatDetector.Detect(data.AsSpan(0, Math.Min(data.Length, FormatDetector.HeadLength)));
-        return format == FileFormat.Stp ? FormatDetector.StepFormat(data) : format; // the header may be longer than the head
+        return format == FileFormat.Stp ? FormatDetector.StepFormat(data)
+            : format; // the header may be longer than the head
     }
 
     // The first bytes tell what is not worth reading on. What names its schema behind them is asked again in the end.
@@ -211,7 +212,8 @@ internal static class ImageLoader
         if (length > Array.MaxLength)
         {
             throw new ImageLoadException(
-                $"'{name}' has {(length > Array.MaxLength + 1L ? $"{length}" : "more")} bytes; at most {Array.MaxLength} can be read.");
+                $"'{name}' has {(length > Array.MaxLength + 1L ? $"{length}" : "more")} bytes; at most "
+                    + $"{Array.MaxLength} can be read.");
         }
     }
 
@@ -226,7 +228,8 @@ internal static class ImageLoader
     private static string NothingToRead(Stream stream, string name)
     {
         return stream.CanSeek && stream.Position > 0
-            ? $"'{name}' has nothing behind its position, {stream.Position} bytes from the start; seek to where the drawing begins."
+            ? $"'{name}' has nothing behind its position, {stream.Position} bytes from the start; seek to where the "
+            + $"drawing begins."
             : $"'{name}' is empty; a drawing was expected.";
     }
 

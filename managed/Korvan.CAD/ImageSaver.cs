@@ -8,12 +8,14 @@ namespace Korvan.CAD;
 /// <summary>Writing of output that is whole in memory.</summary>
 internal static class ImageSaver
 {
-    /// <summary>Writes over the rest of a stream; the new content is complete before the first old byte is touched.</summary>
+    /// <summary>Writes over the rest of a stream; the new content is complete before the first old byte is
+    /// touched.</summary>
     internal static void Replace(Stream stream, long start, Action<Stream> write)
     {
         if (!stream.CanSeek || !stream.CanWrite)
         {
-            throw new ImageSaveException("The stream that the image was read from is closed, or cannot be written or cannot seek; "
+            throw new ImageSaveException(
+                "The stream that the image was read from is closed, or cannot be written or cannot seek; "
                 + "use save(file_path) or save(stream).");
         }
 
@@ -47,7 +49,8 @@ internal static class ImageSaver
     }
 
     /// <summary>Gives the format that options of a class write.</summary>
-    internal static FileFormat FormatOf(Type options) => ((ImageOptionsBase)Activator.CreateInstance(options)!).TargetFormat;
+    internal static FileFormat FormatOf(Type options) =>
+        ((ImageOptionsBase)Activator.CreateInstance(options)!).TargetFormat;
 
     /// <summary>Writes finished output to both places; the second is open before the first byte is written.</summary>
     internal static void WriteTwice(MemoryStream output, Stream first, Source second)

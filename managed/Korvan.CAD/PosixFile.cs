@@ -25,7 +25,7 @@ internal static unsafe partial class PosixFile
     private const uint KindRequested = 1; // STATX_TYPE
     private const int KindMask = 0xF000;
 
-    /// <summary>What stands behind a path; links are followed.</summary>
+    /// <summary>Gets the type of a file; symbolic links are followed.</summary>
     internal enum Kind
     {
         Absent = 0,

@@ -99,7 +99,8 @@ public abstract partial class RasterImage
     /// <inheritdoc/>
     internal override void SaveData(Stream stream)
     {
-        Export(OwnOptions.Of(FileFormat) ?? throw new ImageSaveException($"{Verify.NameOf(FileFormat)} is not written; pass options."), stream);
+        Export(OwnOptions.Of(FileFormat)
+            ?? throw new ImageSaveException($"{Verify.NameOf(FileFormat)} is not written; pass options."), stream);
     }
 
     /// <summary>Copies of the pages; a single picture where the format has no pages.</summary>

@@ -80,8 +80,10 @@ class Model(unittest.TestCase):
         line.second_point.x, line.second_point.y = 10.0, 5.0
         self.assertEqual(repr(line), "LINE on TREE from (0, 0, 0) to (10, 5, 0)")
         self.assertEqual(str(self.drawing.layouts.get("model")), "LAYOUT Model")
-        self.assertRegex(repr(self.image), rf"^DxfImage of release AC\d+, {len(self.drawing.entities)} in model space from '{PLAN}'$")
-        insert = next(CadInsertObject._cast_to(one).value for one in self.drawing.entities if CadInsertObject._is_assignable(one))
+        self.assertRegex(repr(self.image),
+                         rf"^DxfImage of release AC\d+, {len(self.drawing.entities)} in model space from '{PLAN}'$")
+        insert = next(CadInsertObject._cast_to(one).value for one in self.drawing.entities
+                      if CadInsertObject._is_assignable(one))
         self.assertRegex(repr(insert), rf"^INSERT on {insert.layer_name} of {insert.name} at ")
 
     def test_a_disposed_image_refuses_its_parts_as_well(self) -> None:
@@ -90,7 +92,8 @@ class Model(unittest.TestCase):
             with self.subTest(part), self.assertRaisesRegex(RuntimeError, "DxfImage has been disposed"):
                 getattr(self.drawing, part)
 
-        for name, kind, parts in (("gate_valve.cgm", CgmImage, ("file", "width")), ("garden_house.ifc", IfcImage, ("header", "entities"))):
+        for name, kind, parts in (("gate_valve.cgm", CgmImage, ("file", "width")),
+                                  ("garden_house.ifc", IfcImage, ("header", "entities"))):
             image = cad.Image.load(str(EXAMPLES / name))
             image.__exit__(None, None, None)
             for part in parts:
@@ -107,7 +110,8 @@ class Model(unittest.TestCase):
         raster.layers = [known, "nowhere"]
         self.image.save(io.BytesIO(), options)
         failures = [(one.render_code, one.message) for one in options.render_result.failures]
-        self.assertEqual(len([text for code, text in failures if code == RenderErrorCode.LAYER_NOT_FOUND and '"nowhere"' in text]), 1)
+        missing = [text for code, text in failures if code == RenderErrorCode.LAYER_NOT_FOUND and '"nowhere"' in text]
+        self.assertEqual(len(missing), 1)
         raster.layers = [known.lower()]
         self.image.save(io.BytesIO(), options)
         self.assertNotIn(RenderErrorCode.LAYER_NOT_FOUND, [one.render_code for one in options.render_result.failures])
@@ -118,7 +122,8 @@ class Model(unittest.TestCase):
         options = PdfOptions()
         options.vector_rasterization_options = raster = CadRasterizationOptions()
         raster.shx_fonts = ["a.shx"]
-        with self.assertRaisesRegex(RuntimeError, r"PdfOptions\.vector_rasterization_options\.shx_fonts cannot be honoured"):
+        words = r"PdfOptions\.vector_rasterization_options\.shx_fonts cannot be honoured"
+        with self.assertRaisesRegex(RuntimeError, words):
             self.image.save(io.BytesIO(), options)
 
 

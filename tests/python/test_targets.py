@@ -86,7 +86,8 @@ class Files(unittest.TestCase):
             cad.Image.load({PLAN!r}).save("/dev/stdout", PdfOptions())
             os.write(1, b" behind")
         """
-        piped = subprocess.run([sys.executable, "-c", textwrap.dedent(code)], capture_output=True, timeout=120, check=True)
+        piped = subprocess.run([sys.executable, "-c", textwrap.dedent(code)],
+                               capture_output=True, timeout=120, check=True)
         target = self.folder / "out"
         with target.open("wb") as file:
             subprocess.run([sys.executable, "-c", textwrap.dedent(code)], stdout=file, timeout=120, check=True)
@@ -109,7 +110,8 @@ class Files(unittest.TestCase):
             process.stdout.readline()
             opened = f"{self.folder}/"
             for _ in range(600):  # until the file is open
-                if any(opened in os.readlink(link) for link in Path(f"/proc/{process.pid}/fd").iterdir() if link.is_symlink()):
+                links = Path(f"/proc/{process.pid}/fd").iterdir()
+                if any(opened in os.readlink(link) for link in links if link.is_symlink()):
                     break
                 time.sleep(0.05)
             process.send_signal(signal.SIGTERM)
@@ -146,7 +148,8 @@ class Files(unittest.TestCase):
 
 class FailingStreams(unittest.TestCase):
     def formats(self, image: cad.Image) -> list[ImageOptionsBase]:
-        kinds = [kind for name, kind in vars(cad.imageoptions).items() if name.endswith("Options") and isinstance(kind, type)]
+        kinds = [kind for name, kind in vars(cad.imageoptions).items()
+                 if name.endswith("Options") and isinstance(kind, type)]
         options = [kind() for kind in kinds if issubclass(kind, ImageOptionsBase) and kind is not ImageOptionsBase]
         return [one for one in options if image.can_save(one)]
 
@@ -155,7 +158,8 @@ class FailingStreams(unittest.TestCase):
             def write(self, _: object) -> int:
                 raise OSError(FAULT)
 
-        corners = "".join(f"1{i}\n{x}\n2{i}\n{y}\n3{i}\n0\n" for i, (x, y) in enumerate(((0, 0), (9, 0), (9, 5), (0, 5))))
+        square = ((0, 0), (9, 0), (9, 5), (0, 5))
+        corners = "".join(f"1{i}\n{x}\n2{i}\n{y}\n3{i}\n0\n" for i, (x, y) in enumerate(square))
         face = f"0\nSECTION\n2\nENTITIES\n0\n3DFACE\n8\n0\n{corners}0\nENDSEC\n0\nEOF\n"
         image = cad.Image.load(io.BytesIO(face.encode()))
         formats = self.formats(image)

@@ -115,7 +115,8 @@ internal static class Verify
     internal static string NameOf<T>(T member)
         where T : struct, Enum => PythonName.Upper(member.ToString());
 
-    private static string Shown(string name, string member) => PythonName.Lower(name == SetterParameter ? member : name);
+    private static string Shown(string name, string member) =>
+        PythonName.Lower(name == SetterParameter ? member : name);
 
     private static string Text(object? argument) => argument switch
     {

@@ -30,7 +30,8 @@ public class BmpOptions : ImageOptionsBase
         base.VerifyHonoured(kind);
         if (Dithering != DitheringMethods.None && !UsesPalette)
         {
-            throw NotHonoured(nameof(Dithering), "choose 1, 4 or 8 for bits_per_pixel, as other pixels keep their colours");
+            throw NotHonoured(nameof(Dithering),
+                "choose 1, 4 or 8 for bits_per_pixel, as other pixels keep their colours");
         }
     }
 }

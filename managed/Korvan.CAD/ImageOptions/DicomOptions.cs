@@ -28,7 +28,8 @@ public class DicomOptions : ImageOptionsBase
         base.VerifyHonoured(kind);
         if (Compression.Type != CompressionType.Jpeg && Compression.Quality != Compression.UsualQuality)
         {
-            throw NotHonoured($"{nameof(Compression)}.{nameof(Compression.Quality)}", "set its type to JPEG, as every pixel is kept exactly otherwise");
+            throw NotHonoured($"{nameof(Compression)}.{nameof(Compression.Quality)}",
+                "set its type to JPEG, as every pixel is kept exactly otherwise");
         }
     }
 }

@@ -57,7 +57,8 @@ public class JpegOptions : ImageOptionsBase
         base.VerifyHonoured(kind);
         if (ColorType is JpegCompressionColorMode.Rgb or JpegCompressionColorMode.Cmyk)
         {
-            throw NotHonoured(nameof(ColorType), $"{Verify.NameOf(ColorType)} is read, but not written; choose Y_CB_CR, YCCK or GRAYSCALE");
+            throw NotHonoured(nameof(ColorType),
+                $"{Verify.NameOf(ColorType)} is read, but not written; choose Y_CB_CR, YCCK or GRAYSCALE");
         }
 
         if (Jfif is not null && ColorType == JpegCompressionColorMode.Ycck)

@@ -15,9 +15,11 @@ internal static class OptionRules
 
     private static readonly Rule<ImageOptionsBase>[] Common =
     [
-        new(nameof(ImageOptionsBase.OutputMode), OutputKind.Model, static o => o.OutputMode != CadOutputMode.Render, "leave it at RENDER"),
+        new(nameof(ImageOptionsBase.OutputMode), OutputKind.Model,
+            static o => o.OutputMode != CadOutputMode.Render, "leave it at RENDER"),
         new(nameof(ImageOptionsBase.Rotation), OutputKind.Pixels | OutputKind.Picture, static o => o.Rotation != RotateFlipType.RotateNoneFlipNone,
-            "pixels are turned, lines and texts are not; leave it at ROTATE_NONE_FLIP_NONE, or write a format of pixels"),
+            "pixels are turned, lines and texts are not; leave it at ROTATE_NONE_FLIP_NONE, or write a format of "
+                + "pixels"),
         new(nameof(ImageOptionsBase.Layers), Colored, static o => o.Layers.Length > 0),
         new(nameof(ImageOptionsBase.Palette), Nothing, static o => o.Palette is not null && !o.UsesPalette,
             "only pixels that are numbers of colours have one; choose such a format and such a kind of pixels"),
@@ -62,9 +64,11 @@ internal static class OptionRules
         new(nameof(CadRasterizationOptions.Zoom), Drawn, static o => o.Zoom != 1),
         new(nameof(CadRasterizationOptions.PenOptions), Drawn, static o => o.PenOptions is not (null or { StartCap: LineCap.Round, EndCap: LineCap.Round })),
         new($"{nameof(CadRasterizationOptions.PenOptions)}.{nameof(PenOptions.EndCap)}", Nothing,
-            static o => o.PenOptions is { } pen && pen.StartCap != pen.EndCap, "both ends of a line have one shape; set start_cap to the same"),
+            static o => o.PenOptions is { } pen && pen.StartCap != pen.EndCap,
+            "both ends of a line have one shape; set start_cap to the same"),
         new($"{nameof(CadRasterizationOptions.PenOptions)}.{nameof(PenOptions.StartCap)}", Nothing,
-            static o => o.PenOptions is { StartCap: not (LineCap.Flat or LineCap.Square or LineCap.Round) }, "lines end FLAT, SQUARE or ROUND"),
+            static o => o.PenOptions is { StartCap: not (LineCap.Flat or LineCap.Square or LineCap.Round) },
+            "lines end FLAT, SQUARE or ROUND"),
         new(nameof(CadRasterizationOptions.ObserverPoint), Drawn,
             static o => o.ObserverPoint is not (null or { RotationAngleX: 0, RotationAngleY: 0, RotationAngleZ: 0 })),
         new(nameof(CadRasterizationOptions.AutomaticLayoutsScaling), Drawn, static o => !o.AutomaticLayoutsScaling),
@@ -129,7 +133,8 @@ internal static class OptionRules
     private static IEnumerable<Rule<CadRasterizationOptions>> Graphics()
     {
         const string name = nameof(CadRasterizationOptions.GraphicsOptions);
-        const string advice = "who shows the page smooths its lines and texts; set content_as_bitmap for pixels in a page";
+        const string advice = "who shows the page smooths its lines and texts; set content_as_bitmap for pixels in a "
+            + "page";
         return
         [
             new($"{name}.{nameof(GraphicsOptions.SmoothingMode)}", OutputKind.Pixels,
@@ -137,7 +142,8 @@ internal static class OptionRules
             new($"{name}.{nameof(GraphicsOptions.TextRenderingHint)}", OutputKind.Pixels,
                 static o => o.GraphicsOptions is { TextRenderingHint: not TextRenderingHint.SystemDefault } && !o.ContentAsBitmap, advice),
             new($"{name}.{nameof(GraphicsOptions.InterpolationMode)}", Nothing,
-                static o => o.GraphicsOptions is { InterpolationMode: InterpolationMode.Invalid }, "INVALID is no mode; choose one of the others"),
+                static o => o.GraphicsOptions is { InterpolationMode: InterpolationMode.Invalid },
+                "INVALID is no mode; choose one of the others"),
             new($"{name}.{nameof(GraphicsOptions.InterpolationMode)}", OutputKind.Pixels,
                 static o => o.GraphicsOptions is { InterpolationMode: not InterpolationMode.Default } && !o.ContentAsBitmap, advice),
         ];

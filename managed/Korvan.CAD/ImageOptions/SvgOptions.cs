@@ -56,7 +56,8 @@ public class SvgOptions : ImageOptionsBase, ITextAsShapesOptions
 
         if (TextAsShapes && (Callback is not null || ImageType != SvgImageType.Png))
         {
-            throw NotHonoured(Callback is not null ? nameof(Callback) : nameof(ImageType), "set text_as_shapes to False");
+            throw NotHonoured(
+                Callback is not null ? nameof(Callback) : nameof(ImageType), "set text_as_shapes to False");
         }
 
         if (FontStoreType == FontStoreType.Stream && Callback is null)

@@ -105,7 +105,8 @@ public abstract class VectorRasterizationOptions : DisposableObject
     /// </summary>
     public PointF RelativePosition { get; set; }
 
-    private static double Factor(double value, [CallerMemberName] string member = "") => double.IsFinite(value) && value > 0
+    private static double Factor(double value, [CallerMemberName] string member = "") =>
+        double.IsFinite(value) && value > 0
         ? value
         : throw Verify.OutOfRange(member, value, "A factor is a finite number above 0.");
 

@@ -58,7 +58,8 @@ internal static class PageChoice
         if (pages.Titles.Count != 1)
         {
             throw new ImageSaveException(
-                $"A {Verify.NameOf(format)} file holds one page, but there are {pages.Titles.Count} pages; name one of them.");
+                $"A {Verify.NameOf(format)} file holds one page, but there are {pages.Titles.Count} pages; name one "
+                    + $"of them.");
         }
 
         return 0;
@@ -85,7 +86,8 @@ internal static class PageChoice
             }
         }
 
-        return chosen.Count > 0 ? chosen : throw new ImageSaveException("The multi_page_options choose no page at all; a file needs one.");
+        return chosen.Count > 0 ? chosen
+            : throw new ImageSaveException("The multi_page_options choose no page at all; a file needs one.");
     }
 
     /// <summary>Renders a page and cuts it to the area of the options.</summary>

@@ -17,8 +17,8 @@ using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering;
 
-/// <summary>Writes a drawing as pages or pixels. Every failure is an <see cref="ImageSaveException"/> that says why, but those of
-/// the stream that is written to.</summary>
+/// <summary>Writes a drawing as pages or pixels. Every failure is an <see cref="ImageSaveException"/> that says why,
+/// but those of the stream that is written to.</summary>
 internal static class DrawingExporter
 {
     private const double PointsPerInch = 72;
@@ -100,7 +100,9 @@ internal static class DrawingExporter
     {
         if (options.CorePdfOptions is { Compliance: not PdfCompliance.Pdf15 } document)
         {
-            throw new RenderException($"Pages are written as PDF 1.5, not as {Verify.NameOf(document.Compliance)}; leave compliance at PDF15.");
+            throw new RenderException(
+                $"Pages are written as PDF 1.5, not as {Verify.NameOf(document.Compliance)}; leave compliance at "
+                    + $"PDF15.");
         }
 
         using TextEngine engine = NewEngine(image, options);

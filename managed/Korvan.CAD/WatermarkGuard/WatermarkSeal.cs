@@ -23,7 +23,8 @@ internal sealed record WatermarkSeal(string Text, DateTime? Time)
         byte[] letters = Encoding.UTF8.GetBytes(text);
         if (letters.Length is 0 or > MostText)
         {
-            throw new ArgumentException($"The text of a watermark has 1 to {MostText} bytes of UTF-8, not {letters.Length}.");
+            throw new ArgumentException(
+                $"The text of a watermark has 1 to {MostText} bytes of UTF-8, not {letters.Length}.");
         }
 
         OpenSsl.Require();

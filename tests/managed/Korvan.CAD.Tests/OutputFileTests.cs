@@ -22,8 +22,10 @@ public sealed class OutputFileTests : IDisposable
         string path = Path.Combine(_folder, "a.txt");
         AtomicFile.Write(path, false, Put("one"), avoidName);
         File.SetUnixFileMode(path, UnixFileMode.UserRead | UnixFileMode.UserWrite);
-        Assert.Throws<InvalidOperationException>(() => AtomicFile.Write(path, true, static _ => throw new InvalidOperationException(), avoidName));
-        Assert.Contains("over_write=True", Assert.Throws<ImageSaveException>(() => AtomicFile.Write(path, false, Put("two"), avoidName)).Message);
+        Assert.Throws<InvalidOperationException>(() =>
+            AtomicFile.Write(path, true, static _ => throw new InvalidOperationException(), avoidName));
+        Assert.Contains("over_write=True",
+            Assert.Throws<ImageSaveException>(() => AtomicFile.Write(path, false, Put("two"), avoidName)).Message);
         Assert.Equal("one", File.ReadAllText(path));
         AtomicFile.Write(path, true, Put("two"), avoidName);
         Assert.Equal("two", File.ReadAllText(path));

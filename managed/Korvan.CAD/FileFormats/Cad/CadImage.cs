@@ -162,8 +162,8 @@ public partial class CadImage : Image, IVectorImage
     public override void CacheData() => VerifyNotDisposed();
 
     /// <summary>Adds an entity to model space.</summary>
-    /// <param name="entity">The entity; it belongs to this drawing from now on. To add one that is in a drawing already,
-    /// add its <see cref="CadEntityBase.Clone"/>.</param>
+    /// <param name="entity">The entity; it belongs to this drawing from now on. To add one that is in a drawing
+    /// already, add its <see cref="CadEntityBase.Clone"/>.</param>
     /// <exception cref="CadException">The entity is in a list of entities already.</exception>
     public void AddEntity(CadEntityBase entity)
     {

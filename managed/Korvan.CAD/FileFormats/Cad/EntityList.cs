@@ -4,7 +4,8 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 
 namespace Korvan.CAD.FileFormats.Cad;
 
-/// <summary>Entities that belong together. An entity stands in one place of one list: its handle names it there.</summary>
+/// <summary>Entities that belong together. An entity stands in one place of one list: its handle names it
+/// there.</summary>
 /// <param name="name">The property that holds the list.</param>
 /// <param name="owner">What the entities belong to.</param>
 internal sealed class EntityList<T>(string name, CadEntityBase owner) : CheckedList<T>(name), IEntityList
@@ -70,7 +71,9 @@ internal sealed class EntityList<T>(string name, CadEntityBase owner) : CheckedL
 
     private CadException Taken(T item) => item.Home == this
         ? new CadException($"{item} is in this list already; add a clone() of it to have it twice.")
-        : new CadException($"{item} belongs to {item.Home!.Owner.DxfName} {item.Home.Owner.Key}, in this or another drawing; take it out there first, or add a clone() of it.");
+        : new CadException(
+            $"{item} belongs to {item.Home!.Owner.DxfName} {item.Home.Owner.Key}, in this or another drawing; take "
+                + "it out there first, or add a clone() of it.");
 }
 
 /// <summary>Where an entity is.</summary>

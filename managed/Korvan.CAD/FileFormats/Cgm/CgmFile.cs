@@ -67,7 +67,8 @@ public sealed class CgmFile
     public static CgmFile Load(Stream stream, bool ignoreErrors)
     {
         Verify.NotNull(stream);
-        return Load(ImageLoader.ReadStream(stream, "stream"), "stream", new LoadOptions { IgnoreErrors = ignoreErrors });
+        return Load(ImageLoader.ReadStream(stream, "stream"), "stream",
+            new LoadOptions { IgnoreErrors = ignoreErrors });
     }
 
     /// <summary>Writes the commands to a file, which appears whole or not at all.</summary>
@@ -117,7 +118,8 @@ public sealed class CgmFile
         {
             CgmFileFormat.Binary => new DefaultBinaryWriter(stream, name).WriteCommand,
             CgmFileFormat.ClearText => new DefaultClearTextWriter(stream, name).WriteCommand,
-            _ => throw Verify.OutOfRange(nameof(format), format, "Binary and ClearText are the encodings that can be written."),
+            _ => throw Verify.OutOfRange(nameof(format), format,
+                "Binary and ClearText are the encodings that can be written."),
         };
         Commands.ForEach(write);
     }

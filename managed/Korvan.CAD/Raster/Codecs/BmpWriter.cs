@@ -30,7 +30,9 @@ internal static class BmpWriter
 
         if (options.Compression is not (BitmapCompression.Rgb or BitmapCompression.Rle8) || (rle && bits != 8))
         {
-            throw new BmpImageException($"Bitmaps of {bits} bits a pixel are not written with the compression {Verify.NameOf(options.Compression)};"
+            throw new BmpImageException(
+                $"Bitmaps of {bits} bits a pixel are not written with the compression "
+                    + $"{Verify.NameOf(options.Compression)};"
                 + " choose RGB, or RLE8 with 8 bits.");
         }
 

@@ -29,7 +29,9 @@ internal sealed class DicomWriter
         bits = options.ColorType == ColorType.Grayscale16Bit ? 16 : 8;
         if (bits == 16 && options.Compression.Type is not (CompressionType.None or CompressionType.Rle))
         {
-            throw new ImageSaveException($"Samples of 16 bits are stored plain or as run lengths, not as {Verify.NameOf(options.Compression.Type)}.");
+            throw new ImageSaveException(
+                $"Samples of 16 bits are stored plain or as run lengths, not as "
+                    + $"{Verify.NameOf(options.Compression.Type)}.");
         }
     }
 

@@ -60,7 +60,9 @@ internal static class PngWriter
         bool small = type is PngColorType.Grayscale or PngColorType.IndexedColor;
         if (options.BitDepth != 8 && !small)
         {
-            throw new PngImageException($"A PNG of {Verify.NameOf(type)} is written with a bit_depth of 8 bits a sample, not {options.BitDepth}.");
+            throw new PngImageException(
+                $"A PNG of {Verify.NameOf(type)} is written with a bit_depth of 8 bits a sample, not "
+                    + $"{options.BitDepth}.");
         }
 
         return new PngHead(pixels.Width, pixels.Height, options.BitDepth, type);

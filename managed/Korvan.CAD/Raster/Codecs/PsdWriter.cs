@@ -28,12 +28,16 @@ internal static class PsdWriter
 
         if (options.CompressionMethod is not (CompressionMethod.Raw or CompressionMethod.Rle))
         {
-            throw new PsdImageException($"Merged pictures are written with the compression_method RAW or RLE, not {Verify.NameOf(options.CompressionMethod)}.");
+            throw new PsdImageException(
+                $"Merged pictures are written with the compression_method RAW or RLE, not "
+                    + $"{Verify.NameOf(options.CompressionMethod)}.");
         }
 
         if (options.ColorMode is not (ColorModes.Rgb or ColorModes.Grayscale or ColorModes.Cmyk or ColorModes.Indexed))
         {
-            throw new PsdImageException($"PSD files are written with the color_mode RGB, GRAYSCALE, CMYK or INDEXED, not {Verify.NameOf(options.ColorMode)}.");
+            throw new PsdImageException(
+                $"PSD files are written with the color_mode RGB, GRAYSCALE, CMYK or INDEXED, not "
+                    + $"{Verify.NameOf(options.ColorMode)}.");
         }
 
         bool alpha = options.ColorMode == ColorModes.Rgb && !pixels.IsOpaque();

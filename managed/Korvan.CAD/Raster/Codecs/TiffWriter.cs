@@ -40,13 +40,17 @@ internal sealed unsafe class TiffWriter
         TiffOptionsError error = options.Validate();
         if (error != TiffOptionsError.NoError)
         {
-            throw new TiffImageException($"These options cannot be written: {Verify.NameOf(error)} (compression {Verify.NameOf(options.Compression)},"
-                + $" photometric {Verify.NameOf(options.Photometric)}, bits_per_sample {string.Join(' ', options.BitsPerSample)}).");
+            throw new TiffImageException(
+                $"These options cannot be written: {Verify.NameOf(error)} (compression "
+                    + $"{Verify.NameOf(options.Compression)},"
+                + $" photometric {Verify.NameOf(options.Photometric)}, bits_per_sample "
+                + $"{string.Join(' ', options.BitsPerSample)}).");
         }
 
         List<int> chosen = PageChoice.Of(pages, options.MultiPageOptions);
         using var tiff = new TiffHandle(output, "output", options.ByteOrder == TiffByteOrder.BigEndian ? "wb" : "wl");
-        tiff.Verify(Tiff.HasCodec((ushort)options.Compression) != 0, $"libtiff has no encoder for {Verify.NameOf(options.Compression)}");
+        tiff.Verify(Tiff.HasCodec((ushort)options.Compression) != 0,
+            $"libtiff has no encoder for {Verify.NameOf(options.Compression)}");
         var writer = new TiffWriter(options, tiff);
         for (int i = 0; i < chosen.Count; i++)
         {

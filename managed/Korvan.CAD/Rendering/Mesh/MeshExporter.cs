@@ -48,7 +48,8 @@ internal static class MeshExporter
         if (parts.Count == 0)
         {
             throw new RenderException(
-                $"The drawing has no faces that show, and a file of the format {Verify.NameOf(options.TargetFormat)} holds nothing else: "
+                $"The drawing has no faces that show, and a file of the format {Verify.NameOf(options.TargetFormat)} "
+                    + $"holds nothing else: "
                 + "neither faces, meshes and solids nor anything that has a thickness.");
         }
 

@@ -11,7 +11,7 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <summary>The layers that options name.</summary>
 internal static class LayerChoice
 {
-    private const int MostNamed = 3;
+    private const int MaxSuggestions = 3;
 
     /// <summary>Gives the names that are to be drawn; nothing for all.</summary>
     internal static HashSet<string>? Of(ImageOptionsBase options)
@@ -19,7 +19,8 @@ internal static class LayerChoice
         string[] own = (options.VectorRasterizationOptions as CadRasterizationOptions)?.Layers ?? [];
         return options.Layers.Length + own.Length == 0
             ? null
-            : new HashSet<string>(options.Layers.Concat(own).Select(static name => name ?? ""), StringComparer.OrdinalIgnoreCase);
+            : new HashSet<string>(
+                options.Layers.Concat(own).Select(static name => name ?? ""), StringComparer.OrdinalIgnoreCase);
     }
 
     /// <summary>Notes names that no layer of the drawing has; where none of them has one, nothing would be drawn, and
@@ -40,23 +41,27 @@ internal static class LayerChoice
         string[] missing = [.. wanted.Except(known, StringComparer.OrdinalIgnoreCase).Order(StringComparer.Ordinal)];
         if (missing.Length == wanted.Count)
         {
-            throw new RenderException($"The drawing has no layer {Quoted(missing)}; the nearest that layers may name {Nearest(missing[0], known)}.");
+            throw new RenderException(
+                $"The drawing has no layer {Quoted(missing)}; the nearest that layers may name "
+                    + $"{Nearest(missing[0], known)}.");
         }
 
         foreach (string name in missing)
         {
-            options.Notes.Add(RenderErrorCode.LayerNotFound, $"layer \"{name}\" was asked for, but the drawing has none of this name");
+            options.Notes.Add(RenderErrorCode.LayerNotFound,
+                $"layer \"{name}\" was asked for, but the drawing has none of this name");
         }
     }
 
     private static string Nearest(string name, HashSet<string> known)
     {
         string[] nearest = [.. known.OrderBy(one => Distance(one.ToUpperInvariant(), name.ToUpperInvariant()))
-            .ThenBy(static one => one, StringComparer.Ordinal).Take(MostNamed)];
+            .ThenBy(static one => one, StringComparer.Ordinal).Take(MaxSuggestions)];
         return nearest.Length == 1 ? $"is {Quoted(nearest)}" : $"are {Quoted(nearest)}";
     }
 
-    private static string Quoted(IEnumerable<string> names) => string.Join(", ", names.Select(static name => $"\"{name}\""));
+    private static string Quoted(IEnumerable<string> names) =>
+        string.Join(", ", names.Select(static name => $"\"{name}\""));
 
     /// <summary>How many letters have to be put in, left out or changed to come from one text to the other.</summary>
     private static int Distance(string from, string to)

@@ -65,7 +65,8 @@ internal sealed partial class SceneBuilder
     /// row. Two points are corners of a rectangle, more are a polygon, none the whole image.
     /// </summary>
     private void AddImageOutline(
-        Cad3DPoint origin, Cad3DPoint u, Cad3DPoint v, Cad2DPoint size, IList<Cad2DPoint> boundary, BlockContext context)
+        Cad3DPoint origin, Cad3DPoint u, Cad3DPoint v, Cad2DPoint size, IList<Cad2DPoint> boundary,
+            BlockContext context)
     {
         var pixels = new Affine3(V(u), -V(v), Vec3.UnitZ, V(origin) + (V(v) * size.Y));
         var path = new PathPen(canvas.NewPath(), context.Map * pixels);

@@ -222,7 +222,8 @@ internal sealed partial class SceneBuilder
         canvas.Stroke(pen);
     }
 
-    private static void AddRow(in PathPen path, IList<CadVertexBase> points, int first, int step, int count, bool closed)
+    private static void AddRow(in PathPen path, IList<CadVertexBase> points, int first, int step, int count,
+        bool closed)
     {
         path.MoveTo(V(points[first].LocationPoint));
         for (int i = 1; i < count; i++)

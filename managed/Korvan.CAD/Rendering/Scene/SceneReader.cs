@@ -106,7 +106,11 @@ internal static class SceneReader
         }
 
         var origin = new Vec3(block.BasePoint.X, block.BasePoint.Y, block.BasePoint.Z);
-        return new BlockInfo(block.Name, origin, block.Entities.ItemsOf()) { IsExternal = block.IsExternalReference, DrawOrder = order };
+        return new BlockInfo(block.Name, origin, block.Entities.ItemsOf())
+        {
+            IsExternal = block.IsExternalReference,
+            DrawOrder = order,
+        };
     }
 
     private static List<LayoutInfo> Layouts(CadImage image, SceneTables tables, BlockInfo model, BlockInfo paper)

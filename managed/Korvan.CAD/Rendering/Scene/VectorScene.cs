@@ -33,7 +33,8 @@ internal abstract class VectorScene
         {
             chosen.Add(Pages.FirstOrDefault(page => string.Equals(page.Name, name, StringComparison.OrdinalIgnoreCase))
                 ?? throw new RenderException(
-                    $"The drawing has no layout \"{name}\"; layouts may name {string.Join(", ", Pages.Select(static page => $"\"{page.Name}\""))}."));
+                    $"The drawing has no layout \"{name}\"; layouts may name "
+                        + $"{string.Join(", ", Pages.Select(static page => $"\"{page.Name}\""))}."));
         }
 
         return chosen;

@@ -18,7 +18,8 @@ internal sealed record ViewportView(Vec3 Target, Vec3 Direction, double Twist, V
     internal static ViewportView Read(CadViewport viewport)
     {
         CadXdata? data = viewport.XdataOrNull?.Find("ACAD");
-        if (data != null && data.Data.Exists(t => t.Value == Mark) && ReadExtended(data.Data.ItemsOf()) is ViewportView old)
+        if (data != null && data.Data.Exists(t => t.Value == Mark)
+            && ReadExtended(data.Data.ItemsOf()) is ViewportView old)
         {
             return old;
         }

@@ -250,7 +250,8 @@ internal sealed class StubTypeWriter
             });
         }
         string mixed = _types.Support("MixedMethod");
-        string note = forms.SelectMany(form => form.Legs).Any(leg => leg.Owner != _type) ? "  # type: ignore[override]" : "";
+        bool overrides = forms.SelectMany(form => form.Legs).Any(leg => leg.Owner != _type);
+        string note = overrides ? "  # type: ignore[override]" : "";
         _writer.Line($"{name}: {mixed}[{stem}OnInstance, {stem}OnClass]{note}");
     }
 

@@ -4,7 +4,8 @@ using System.Runtime.InteropServices;
 
 namespace Korvan.WrpGen.Interop;
 
-/// <summary>Room for calls into Python, which may call back: a stack that ends in one of them ends the process.</summary>
+/// <summary>Room for calls into Python, which may call back: a stack that ends in one of them ends the
+/// process.</summary>
 internal static unsafe class CallbackStack
 {
     private const nint RuntimeReserve = 128 * 1024;

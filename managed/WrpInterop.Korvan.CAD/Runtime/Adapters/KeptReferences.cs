@@ -21,7 +21,7 @@ internal static class KeptReferences
     private const int FewestOld = 256;
 
     // The size of the process is asked for each time so many were kept, or each time while it grows quickly.
-    private const int UsualInterval = 8;
+    private const int DefaultInterval = 8;
     private const long QuickGrowth = 8L << 20;
     private const long YoungGrowth = 64L << 20;
     private const long OldGrowth = 256L << 20;
@@ -122,7 +122,7 @@ internal static class KeptReferences
             s_sizeAtYoung = size;
             s_sizeAtOld = isOld ? size : s_sizeAtOld;
         }
-        s_keptUntilLook = isQuick ? 1 : UsualInterval;
+        s_keptUntilLook = isQuick ? 1 : DefaultInterval;
     }
 
     private static List<nint> TakeDead()

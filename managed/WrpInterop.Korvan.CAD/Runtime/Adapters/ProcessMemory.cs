@@ -8,7 +8,8 @@ internal static unsafe class ProcessMemory
 {
     private static bool s_knowsNoFree;
 
-    /// <summary>Bytes that are resident, without what the allocator has ready; 0 where the system does not tell.</summary>
+    /// <summary>Bytes that are resident, without what the allocator has ready; 0 where the system does not
+    /// tell.</summary>
     internal static long Used() => Resident() - Free();
 
     // What was freed stays with the allocator and serves again: the size of the process alone tells of its peak.

@@ -10,7 +10,7 @@ namespace Korvan.WrpGen.Generic;
 /// <remarks>
 /// Python spends some hundred nanoseconds on an item, which is as long as memory takes to deliver an object that no
 /// cache holds. So the objects of the next steps are asked for ahead: a walk over a large drawing then takes half the
-/// time. The list's own enumerator stands behind it, and refuses to go on where the list was changed.
+/// time. It wraps the list's own enumerator, which throws when the list was modified.
 /// </remarks>
 public sealed unsafe class ListCursor<T>(List<T> list) : IEnumerator<T>
 {

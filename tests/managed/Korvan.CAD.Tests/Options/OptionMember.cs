@@ -52,7 +52,8 @@ internal sealed class OptionMember
         Property.SetValue(Holder(root), value, BindingFlags.DoNotWrapExceptions, null, null, null);
 
     /// <summary>Tells whether a message names the member, or what it stands in.</summary>
-    internal bool IsNamedBy(string message) => _way.Any(step => Regex.IsMatch(message, $@"\b{PythonName.Lower(step.Name)}\b(?!\.\w)"));
+    internal bool IsNamedBy(string message) =>
+        _way.Any(step => Regex.IsMatch(message, $@"\b{PythonName.Lower(step.Name)}\b(?!\.\w)"));
 
     public override string ToString() => $"{Root.Name}.{Path}";
 

@@ -196,12 +196,14 @@ public class WriterTests
         Assert.Equal(TiffOptionsError.CompressionNeedsBilevel, new TiffOptions { Compression = TiffCompressions.CcittFax4 }.Validate());
         Assert.Equal(TiffOptionsError.BitsPerSampleMismatch, new TiffOptions { BitsPerSample = [8, 8] }.Validate());
         Assert.True(Enum.GetValues<TiffExpectedFormat>().All(format => new TiffOptions(format).IsValid));
-        Refused<TiffImageException>(image, new TiffOptions { Compression = TiffCompressions.OldJpeg }, "COMPRESSION_NOT_SUPPORTED");
+        Refused<TiffImageException>(image, new TiffOptions { Compression = TiffCompressions.OldJpeg },
+            "COMPRESSION_NOT_SUPPORTED");
         Refused<BmpImageException>(image, new BmpOptions { BitsPerPixel = 16 }, "not 16");
         Refused<BmpImageException>(image, new BmpOptions { Compression = BitmapCompression.Dxt1 }, "DXT1");
         Refused<PngImageException>(image, new PngOptions { BitDepth = 1 }, "8 bits");
         Refused<PsdImageException>(image, new PsdOptions { ColorMode = ColorModes.Lab }, "LAB");
-        Refused<PsdImageException>(image, new PsdOptions { CompressionMethod = CompressionMethod.ZipWithPrediction }, "ZIP_WITH_PREDICTION");
+        Refused<PsdImageException>(image, new PsdOptions { CompressionMethod = CompressionMethod.ZipWithPrediction },
+            "ZIP_WITH_PREDICTION");
         Refused<ImageSaveException>(image, new PdfOptions(), "cannot be saved");
         Refused<ImageSaveException>(image, new PngOptions { ColorType = PngColorType.IndexedColor, BitDepth = 1, Palette = ColorPaletteHelper.Create4Bit() }, "16 colours");
         Refused<ImageSaveException>(image, new WebPOptions { XmpData = new XmpPacketWrapper() }, "xmp_data");

@@ -138,8 +138,11 @@ public class ExportTests
         Refused(wide, new PngOptions { VectorRasterizationOptions = borders }, "no room");
         Refused(wide, new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { Layouts = ["Nope"] } }, "\"Nope\"");
         Refused(wide, new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { Layouts = ["Model", "Model"] } }, "one page");
-        Refused(wide, new PdfOptions { CorePdfOptions = new PdfDocumentOptions { Compliance = PdfCompliance.PdfA1b } }, "PDF_A1B");
-        Refused(wide, new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { ShxFonts = ["a.shx"] } }, "shx_fonts");
+        Refused(wide, new PdfOptions { CorePdfOptions = new PdfDocumentOptions { Compliance = PdfCompliance.PdfA1b } },
+            "PDF_A1B");
+        Refused(wide,
+            new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { ShxFonts = ["a.shx"] } },
+            "shx_fonts");
     }
 
     [Fact]

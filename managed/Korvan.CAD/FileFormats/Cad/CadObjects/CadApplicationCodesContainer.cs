@@ -12,7 +12,8 @@ public class CadApplicationCodesContainer
     }
 
     /// <summary>Gets the groups. The list is live.</summary>
-    public IList<CadApplicationCodes> ApplicationCodes { get; } = new CheckedList<CadApplicationCodes>("application_codes");
+    public IList<CadApplicationCodes> ApplicationCodes { get; } = new CheckedList<CadApplicationCodes>(
+        "application_codes");
 
     /// <summary>Finds a group.</summary>
     /// <param name="applicationName">Its name, as in ACAD_XDICTIONARY.</param>

@@ -123,8 +123,9 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEnt
     /// <summary>Gets or sets how often it stands there: once, but for moments.</summary>
     internal int Places { get; set; }
 
-    /// <summary>Makes a copy that belongs to no drawing and has no handle yet, with copies of vertices and attributes. What it
-    /// names, as layers, blocks and styles, stays with the drawing; layers that a drawing lacks are added when it is saved.
+    /// <summary>Makes a copy that belongs to no drawing and has no handle yet, with copies of vertices and attributes.
+    /// What it names, as layers, blocks and styles, stays with the drawing; layers that a drawing lacks are added when
+    /// it is saved.
     /// </summary>
     /// <returns>An entity of the same class.</returns>
     /// <exception cref="CadException">The entity holds values that drawings cannot hold, as numbers that are not

@@ -30,7 +30,8 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
     /// <summary>Gives the name and state of the layer in one line.</summary>
     /// <returns>The name and state of the layer in one line.</returns>
     public override string ToString() =>
-        $"{base.ToString()}, colour {StoredColor}{(IsOn ? "" : ", off")}{(IsFrozen ? ", frozen" : "")}{(IsLocked ? ", locked" : "")}";
+        $"{base.ToString()}, colour "
+            + $"{StoredColor}{(IsOn ? "" : ", off")}{(IsFrozen ? ", frozen" : "")}{(IsLocked ? ", locked" : "")}";
 
     /// <summary>Gets or sets the number of the colour, 1 to 255; negative while the layer is off. Group code
     /// 62.</summary>

@@ -50,7 +50,8 @@ internal static class DrawingIntegrity
     {
         if (DrawingWalk.Entities(image).FirstOrDefault(static entity => entity.Places > 1) is { } entity)
         {
-            throw new ImageSaveException($"{entity} stands {entity.Places} times in its block; put a clone() of it there instead.");
+            throw new ImageSaveException(
+                $"{entity} stands {entity.Places} times in its block; put a clone() of it there instead.");
         }
     }
 

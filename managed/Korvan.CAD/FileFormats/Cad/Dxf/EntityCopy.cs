@@ -6,7 +6,8 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
-/// <summary>Copies entities by what their codecs write and read, so that nothing lists properties a second time.</summary>
+/// <summary>Copies entities by what their codecs write and read, so that nothing lists properties a second
+/// time.</summary>
 internal static class EntityCopy
 {
     private const int Release = 2018;
@@ -44,14 +45,16 @@ internal static class EntityCopy
     }
 
     private static CadEntityBase New(CadEntityBase entity) =>
-        entity is RawEntity raw ? new RawEntity(raw.DxfName) : (CadEntityBase)Activator.CreateInstance(entity.GetType(), true)!;
+        entity is RawEntity raw ? new RawEntity(raw.DxfName)
+            : (CadEntityBase)Activator.CreateInstance(entity.GetType(), true)!;
 
     private static void Untie(CadEntityBase? copy)
     {
         if (copy is not null)
         {
             (copy.Handle, copy.Owner) = (0, 0);
-            copy.ApplicationCodesOrNull?.ApplicationCodes.RemoveAll(static group => Array.IndexOf(Ties, group.ApplicationName) >= 0);
+            copy.ApplicationCodesOrNull?.ApplicationCodes.RemoveAll(static group =>
+                Array.IndexOf(Ties, group.ApplicationName) >= 0);
         }
     }
 }

@@ -24,7 +24,8 @@ internal static class SymbolNames
         }
     }
 
-    private static string Shown(char letter) => IsControl(letter) ? $"the control character {(int)letter}" : $"a '{letter}'";
+    private static string Shown(char letter) => IsControl(letter) ? $"the control character {(int)letter}"
+        : $"a '{letter}'";
 
     // Those that end a line or stand for nothing; letters beyond ASCII are texts like others.
     private static bool IsControl(char letter) => char.IsAscii(letter) && char.IsControl(letter);

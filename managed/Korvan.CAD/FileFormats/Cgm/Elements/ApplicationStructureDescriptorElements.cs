@@ -1,5 +1,4 @@
 using System;
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -26,5 +25,5 @@ public static class ApplicationStructureDescriptorElements
     public static string GetKeyword(ApplicationStructureDescriptorElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(ApplicationStructureDescriptorElement element) =>
-        ElementTables.Find(ClassCode.ApplicationStructureDescriptorElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
+        ElementTables.Get(ClassCode.ApplicationStructureDescriptorElement, element);
 }

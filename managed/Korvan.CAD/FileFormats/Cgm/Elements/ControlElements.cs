@@ -1,5 +1,4 @@
 using System;
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -41,5 +40,5 @@ public static class ControlElements
     public static string GetKeyword(ControlElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(ControlElement element) =>
-        ElementTables.Find(ClassCode.ControlElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
+        ElementTables.Get(ClassCode.ControlElement, element);
 }

@@ -1,5 +1,4 @@
 using System;
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -46,5 +45,5 @@ public static class DelimiterElements
     public static string GetKeyword(DelimiterElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(DelimiterElement element) =>
-        ElementTables.Find(ClassCode.DelimiterElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
+        ElementTables.Get(ClassCode.DelimiterElement, element);
 }

@@ -1,6 +1,8 @@
 using System;
 using System.Collections.Generic;
+using System.Globalization;
 using System.Linq;
+using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -31,6 +33,12 @@ internal static class ElementTables
     }
 
     /// <summary>Finds an element by its word without regard to case.</summary>
+    /// <summary>Gets the entry of an element by its enumeration's value; throws where there is none.</summary>
+    internal static ElementEntry Get<T>(ClassCode elementClass, T element)
+        where T : struct, Enum =>
+        Find(elementClass, Convert.ToInt32(element, CultureInfo.InvariantCulture))
+        ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
+
     internal static ElementEntry? Find(string keyword) => ByWord.GetValueOrDefault(keyword);
 
     internal static string Keyword(ClassCode elementClass, int id) => Find(elementClass, id)?.Keyword ?? "";

@@ -1,5 +1,4 @@
 using System;
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -27,5 +26,5 @@ public static class ExternalElements
     public static string GetKeyword(ExternalElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(ExternalElement element) =>
-        ElementTables.Find(ClassCode.ExternalElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
+        ElementTables.Get(ClassCode.ExternalElement, element);
 }

@@ -1,5 +1,4 @@
 using System;
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -54,5 +53,5 @@ public static class GraphicalPrimitiveElements
     public static string GetKeyword(GraphicalPrimitiveElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(GraphicalPrimitiveElement element) =>
-        ElementTables.Find(ClassCode.GraphicalPrimitiveElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
+        ElementTables.Get(ClassCode.GraphicalPrimitiveElement, element);
 }

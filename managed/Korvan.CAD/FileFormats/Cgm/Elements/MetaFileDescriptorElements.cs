@@ -1,5 +1,4 @@
 using System;
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -49,5 +48,5 @@ public static class MetaFileDescriptorElements
     public static string GetKeyword(MetaFileDescriptorElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(MetaFileDescriptorElement element) =>
-        ElementTables.Find(ClassCode.MetaFileDescriptorElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
+        ElementTables.Get(ClassCode.MetaFileDescriptorElement, element);
 }

@@ -1,5 +1,4 @@
 using System;
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -45,5 +44,5 @@ public static class PictureDescriptorElements
     public static string GetKeyword(PictureDescriptorElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(PictureDescriptorElement element) =>
-        ElementTables.Find(ClassCode.PictureDescriptorElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
+        ElementTables.Get(ClassCode.PictureDescriptorElement, element);
 }

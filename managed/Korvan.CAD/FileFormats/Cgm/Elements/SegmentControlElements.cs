@@ -1,5 +1,4 @@
 using System;
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -32,5 +31,5 @@ public static class SegmentControlElements
     public static string GetKeyword(SegmentControlElement element) => Entry(element).Keyword;
 
     private static ElementEntry Entry(SegmentControlElement element) =>
-        ElementTables.Find(ClassCode.SegmentControlElement, (int)element) ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
+        ElementTables.Get(ClassCode.SegmentControlElement, element);
 }

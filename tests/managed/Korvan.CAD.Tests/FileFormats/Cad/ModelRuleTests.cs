@@ -20,7 +20,8 @@ namespace Korvan.CAD.Tests.FileFormats.Cad;
 /// <summary>What cannot be saved is refused where it is set; what stands in a file is kept.</summary>
 public sealed class ModelRuleTests
 {
-    public static TheoryData<string> AllDxf() => SharedDrawings.Root is null ? [] : [.. SharedDrawings.AllDxf().Select(static path => Path.GetFileName(path))];
+    public static TheoryData<string> AllDxf() => SharedDrawings.Root is null ? []
+        : [.. SharedDrawings.AllDxf().Select(static path => Path.GetFileName(path))];
 
     [Fact]
     public void Lists_refuse_nothing_and_what_stands_somewhere_already()
@@ -28,7 +29,8 @@ public sealed class ModelRuleTests
         CadImage image = new();
         CadLine line = new();
         image.AddEntity(line);
-        Assert.Contains("an item of entities must not be None", Assert.Throws<ArgumentNullException>(() => image.Entities.Add(null!)).Message);
+        Assert.Contains("an item of entities must not be None",
+            Assert.Throws<ArgumentNullException>(() => image.Entities.Add(null!)).Message);
         Assert.Throws<ArgumentNullException>(() => image.Objects.Insert(0, null!));
         Assert.Throws<ArgumentNullException>(() => new CadLwPolyline().Coordinates.Add(null!));
         Assert.Contains("in this list already", Assert.Throws<CadException>(() => image.AddEntity(line)).Message);
@@ -109,10 +111,13 @@ public sealed class ModelRuleTests
     {
         CadLine line = new() { ColorId = 256, LayerName = "xref|wall" };
         CadLayerTable layer = new() { Name = "wall", ColorId = -255 };
-        Assert.Equal("color_id cannot be 999. It has to be 0 to 256.", Assert.Throws<ArgumentOutOfRangeException>(() => line.ColorId = 999).Message);
-        Assert.StartsWith("color_id cannot be 0.", Assert.Throws<ArgumentOutOfRangeException>(() => layer.ColorId = 0).Message);
+        Assert.Equal("color_id cannot be 999. It has to be 0 to 256.",
+            Assert.Throws<ArgumentOutOfRangeException>(() => line.ColorId = 999).Message);
+        Assert.StartsWith("color_id cannot be 0.",
+            Assert.Throws<ArgumentOutOfRangeException>(() => layer.ColorId = 0).Message);
         Assert.Throws<ArgumentOutOfRangeException>(() => layer.ColorId = short.MinValue);
-        foreach (string name in new[] { "a<b>", "a:b", "a;b", "a?", "a*", "a=b", "a`", "a\"", "a\\b", "a/b", "a\nb", "|a", "a|b|c" })
+        foreach (string name in new[] { "a<b>", "a:b", "a;b", "a?", "a*", "a=b", "a`", "a\"", "a\\b", "a/b", "a\nb",
+            "|a", "a|b|c" })
         {
             Assert.Contains("cannot name a layer", Assert.Throws<CadException>(() => line.LayerName = name).Message);
             Assert.Throws<CadException>(() => layer.Name = name);
@@ -144,7 +149,8 @@ public sealed class ModelRuleTests
 
         image.Dispose();
         Assert.Equal("CadImage, disposed", image.ToString());
-        foreach (Func<object> part in new Func<object>[] { () => image.Entities, () => image.Layers, () => image.Header, () => image.MinPoint })
+        Func<object>[] parts = [() => image.Entities, () => image.Layers, () => image.Header, () => image.MinPoint];
+        foreach (Func<object> part in parts)
         {
             Assert.Contains("CadImage has been disposed", Assert.Throws<ObjectDisposedException>(part).Message);
         }

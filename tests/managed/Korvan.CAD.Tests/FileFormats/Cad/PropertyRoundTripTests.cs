@@ -135,7 +135,8 @@ public class PropertyRoundTripTests
         .Where(property => !Derived.Contains(property.Name) && property.SetMethod is { IsPublic: true } && property.GetIndexParameters().Length == 0);
 
     private static IEnumerable<PropertyInfo> Lists(object item) => item.GetType().GetProperties()
-        .Where(property => property.PropertyType.IsGenericType && property.PropertyType.GetInterface(nameof(IEnumerable)) is not null);
+        .Where(property => property.PropertyType.IsGenericType
+            && property.PropertyType.GetInterface(nameof(IEnumerable)) is not null);
 
     private static void Fill(object item)
     {

@@ -89,10 +89,12 @@ public partial class CadHatch : CadEntityBase
     public List<int> GradientColors { get; } = [];
 
     /// <summary>Gets the outlines. The list is live. Group code 91.</summary>
-    public IList<CadHatchBoundaryPathContainer> BoundaryPaths { get; } = new CheckedList<CadHatchBoundaryPathContainer>("boundary_paths");
+    public IList<CadHatchBoundaryPathContainer> BoundaryPaths { get; } = new CheckedList<CadHatchBoundaryPathContainer>(
+        "boundary_paths");
 
     /// <summary>Gets the lines of the pattern. The list is live. Group code 78.</summary>
-    public IList<CadHatchPatternData> PatternDefinitions { get; } = new CheckedList<CadHatchPatternData>("pattern_definitions");
+    public IList<CadHatchPatternData> PatternDefinitions { get; } = new CheckedList<CadHatchPatternData>(
+        "pattern_definitions");
 
     /// <summary>Gets points inside the areas. The list is live. Group code 98.</summary>
     public IList<Cad2DPoint> SeedPoints { get; } = new CheckedList<Cad2DPoint>("seed_points");
