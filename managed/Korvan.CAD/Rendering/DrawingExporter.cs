@@ -6,12 +6,14 @@ using System.Linq;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Pdf;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Mesh;
+using Korvan.CAD.Rendering.Pdf;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 

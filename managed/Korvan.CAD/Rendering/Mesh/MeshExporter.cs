@@ -1,9 +1,10 @@
 using System.Collections.Generic;
 using System.IO;
 using Korvan.CAD.Binding;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Rendering.Mesh;

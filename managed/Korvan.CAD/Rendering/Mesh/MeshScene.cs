@@ -4,8 +4,8 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Rendering.Mesh;

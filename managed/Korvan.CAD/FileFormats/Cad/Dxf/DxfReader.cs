@@ -1,8 +1,10 @@
 using System.Collections.Generic;
 using System.Text;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 

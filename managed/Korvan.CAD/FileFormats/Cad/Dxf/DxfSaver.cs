@@ -2,9 +2,11 @@ using System.Collections.Generic;
 using System.IO;
 using System.Text;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
