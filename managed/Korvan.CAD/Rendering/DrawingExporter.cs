@@ -41,10 +41,10 @@ internal static class DrawingExporter
     /// <summary>What writes the bodies of a drawing; an image without bodies has no way into these.</summary>
     private static readonly Dictionary<Type, Action<Image, ImageOptionsBase, Stream>> BodyWriters = new()
     {
-        [typeof(GlbOptions)] = (image, options, output) => MeshExporter.WriteGltf((CadImage)image, (GlbOptions)options, output),
-        [typeof(GltfOptions)] = (image, options, output) => MeshExporter.WriteGltf((CadImage)image, (GltfOptions)options, output),
-        [typeof(ObjOptions)] = (image, options, output) => MeshExporter.WriteObj((CadImage)image, (ObjOptions)options, output),
-        [typeof(StlOptions)] = (image, options, output) => MeshExporter.WriteStl((CadImage)image, (StlOptions)options, output),
+        [typeof(GlbOptions)] = (image, options, output) => MeshExporter.WriteGltf(((CadImage)image).Drawing, (GlbOptions)options, output),
+        [typeof(GltfOptions)] = (image, options, output) => MeshExporter.WriteGltf(((CadImage)image).Drawing, (GltfOptions)options, output),
+        [typeof(ObjOptions)] = (image, options, output) => MeshExporter.WriteObj(((CadImage)image).Drawing, (ObjOptions)options, output),
+        [typeof(StlOptions)] = (image, options, output) => MeshExporter.WriteStl(((CadImage)image).Drawing, (StlOptions)options, output),
     };
 
     /// <summary>The classes of options that pages are written with.</summary>
@@ -74,7 +74,7 @@ internal static class DrawingExporter
         {
             if (image is CadImage drawing)
             {
-                LayerChoice.Verify(drawing, options);
+                LayerChoice.Verify(drawing.Drawing, options);
             }
 
             write(image, options, output);

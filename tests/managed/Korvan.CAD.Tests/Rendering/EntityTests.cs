@@ -252,7 +252,7 @@ public class EntityTests
     private static DrawingList Build(CadImage drawing)
     {
         using var engine = new TextEngine();
-        DrawingScene scene = SceneReader.Read(drawing);
+        DrawingScene scene = SceneReader.Read(drawing.Drawing);
         return scene.Build(scene.Choose([])[0], new RenderStyle(), engine);
     }
 

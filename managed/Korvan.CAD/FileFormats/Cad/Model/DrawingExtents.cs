@@ -7,7 +7,7 @@ using Korvan.CAD.Geometry;
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
 /// <summary>The space that the entities of a drawing take.</summary>
-internal sealed class DrawingExtents(CadImage image)
+internal sealed class DrawingExtents(CadDrawing drawing)
 {
     // Blocks within blocks multiply; beyond this many entities their boxes have to do.
     private const int MostTurned = 1 << 18;
@@ -16,10 +16,10 @@ internal sealed class DrawingExtents(CadImage image)
     private readonly HashSet<string> _open = new(StringComparer.OrdinalIgnoreCase);
     private int _turned;
 
-    internal static (Cad3DPoint Min, Cad3DPoint Max) OfModel(CadImage image)
+    internal static (Cad3DPoint Min, Cad3DPoint Max) OfModel(CadDrawing drawing)
     {
         Extents extents = new();
-        new DrawingExtents(image).AddAll(image.Entities.ItemsOf(), extents);
+        new DrawingExtents(drawing).AddAll(drawing.Entities.ItemsOf(), extents);
         return (extents.Min, extents.Max);
     }
 
@@ -49,7 +49,7 @@ internal sealed class DrawingExtents(CadImage image)
 
     private void AddInsert(CadInsertObject insert, Extents extents)
     {
-        if (image.BlockEntities.Find(insert.Name) is not { } block)
+        if (drawing.BlockEntities.Find(insert.Name) is not { } block)
         {
             return;
         }
@@ -69,7 +69,7 @@ internal sealed class DrawingExtents(CadImage image)
     // A box that is turned askew is larger than what it holds: then the entities themselves are turned.
     private void AddBlock(string name, Affine3 map, Extents extents)
     {
-        if (image.BlockEntities.Find(name) is not { } block)
+        if (drawing.BlockEntities.Find(name) is not { } block)
         {
             return;
         }
@@ -120,7 +120,7 @@ internal sealed class DrawingExtents(CadImage image)
         // Nothing stands for the block until it is measured: one that inserts itself adds nothing more.
         _blocks.Add(name, new Extents());
         Extents extents = new();
-        if (image.BlockEntities.Find(name) is { } block)
+        if (drawing.BlockEntities.Find(name) is { } block)
         {
             AddAll(block.Entities.ItemsOf(), extents);
         }

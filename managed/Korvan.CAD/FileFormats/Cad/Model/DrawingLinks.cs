@@ -10,52 +10,52 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 /// <summary>What follows from the parts of a drawing once all are read.</summary>
 internal static class DrawingLinks
 {
-    internal static void Complete(CadImage image)
+    internal static void Complete(CadDrawing drawing)
     {
-        if (!image.BlockEntities.Contains(image.ModelSpace.Name))
+        if (!drawing.BlockEntities.Contains(drawing.ModelSpace.Name))
         {
-            image.BlockEntities.Items.Insert(0, image.ModelSpace);
+            drawing.BlockEntities.Items.Insert(0, drawing.ModelSpace);
         }
 
-        if (!image.BlockEntities.Contains(image.PaperSpace.Name))
+        if (!drawing.BlockEntities.Contains(drawing.PaperSpace.Name))
         {
-            image.BlockEntities.Items.Insert(1, image.PaperSpace);
+            drawing.BlockEntities.Items.Insert(1, drawing.PaperSpace);
         }
 
-        IEnumerable<CadLayout> layouts = image.Objects.OfType<CadLayout>().OrderBy(static layout => layout.TabOrder);
+        IEnumerable<CadLayout> layouts = drawing.Objects.OfType<CadLayout>().OrderBy(static layout => layout.TabOrder);
         foreach (CadLayout layout in layouts)
         {
-            image.Layouts.Add(layout);
+            drawing.Layouts.Add(layout);
         }
 
-        AddMissingLayouts(image);
-        image.PaperSpace.Entities.ForEach(ViewportXdata.Apply);
+        AddMissingLayouts(drawing);
+        drawing.PaperSpace.Entities.ForEach(ViewportXdata.Apply);
     }
 
     /// <summary>Finds the block that holds the entities of a layout.</summary>
-    internal static CadBlockEntity? BlockOf(CadImage image, CadLayout layout)
+    internal static CadBlockEntity? BlockOf(CadDrawing drawing, CadLayout layout)
     {
         if (string.Equals(layout.LayoutName, "Model", StringComparison.OrdinalIgnoreCase))
         {
-            return image.ModelSpace;
+            return drawing.ModelSpace;
         }
 
         if (!HandleText.TryParse(layout.BlockTableRecordHandle, out ulong handle) || handle == 0)
         {
-            return image.PaperSpace;
+            return drawing.PaperSpace;
         }
 
-        CadBlockTableObject? record = image.BlockRecords.Items.Find(candidate => candidate.Handle == handle);
-        return record is null ? null : image.BlockEntities.Find(record.Name);
+        CadBlockTableObject? record = drawing.BlockRecords.Items.Find(candidate => candidate.Handle == handle);
+        return record is null ? null : drawing.BlockEntities.Find(record.Name);
     }
 
     // Old drawings have a model and one sheet without saying so.
-    private static void AddMissingLayouts(CadImage image)
+    private static void AddMissingLayouts(CadDrawing drawing)
     {
-        if (image.Layouts.Count == 0)
+        if (drawing.Layouts.Count == 0)
         {
-            image.Layouts.Add(new CadLayout { LayoutName = "Model" });
-            image.Layouts.Add(new CadLayout { LayoutName = "Layout1", TabOrder = 1 });
+            drawing.Layouts.Add(new CadLayout { LayoutName = "Model" });
+            drawing.Layouts.Add(new CadLayout { LayoutName = "Layout1", TabOrder = 1 });
         }
     }
 }

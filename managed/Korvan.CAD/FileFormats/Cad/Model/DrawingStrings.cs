@@ -8,16 +8,16 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 /// <summary>The texts of a drawing: model space, sheets of paper, then what blocks hold.</summary>
 internal static class DrawingStrings
 {
-    internal static string[] Collect(CadImage image)
+    internal static string[] Collect(CadDrawing drawing)
     {
         List<string> texts = [];
-        AddAll(image.ModelSpace.Entities.ItemsOf(), texts);
-        AddAll(image.PaperSpace.Entities.ItemsOf(), texts);
-        foreach (CadBlockEntity block in image.BlockEntities)
+        AddAll(drawing.ModelSpace.Entities.ItemsOf(), texts);
+        AddAll(drawing.PaperSpace.Entities.ItemsOf(), texts);
+        foreach (CadBlockEntity block in drawing.BlockEntities)
         {
             // Blocks of dimensions repeat the texts of the dimensions.
             bool ofDimension = block.Name.StartsWith("*D", System.StringComparison.OrdinalIgnoreCase);
-            if (block != image.ModelSpace && block != image.PaperSpace && !ofDimension)
+            if (block != drawing.ModelSpace && block != drawing.PaperSpace && !ofDimension)
             {
                 AddAll(block.Entities.ItemsOf(), texts);
             }

@@ -9,9 +9,9 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 internal static class DrawingWalk
 {
     /// <summary>Gives the entities of all blocks, model and paper space among them, without their parts.</summary>
-    internal static IEnumerable<CadEntityBase> Entities(CadImage image)
+    internal static IEnumerable<CadEntityBase> Entities(CadDrawing drawing)
     {
-        foreach (CadBlockEntity block in image.BlockEntities)
+        foreach (CadBlockEntity block in drawing.BlockEntities)
         {
             foreach (CadEntityBase entity in block.Entities)
             {
@@ -21,22 +21,22 @@ internal static class DrawingWalk
     }
 
     /// <summary>Gives everything that has a handle.</summary>
-    internal static IEnumerable<CadBaseObject> All(CadImage image)
+    internal static IEnumerable<CadBaseObject> All(CadDrawing drawing)
     {
         foreach (string table in TableRecords.Names)
         {
-            if (image.TableHeads.TryGetValue(table, out CadTableHead? head))
+            if (drawing.TableHeads.TryGetValue(table, out CadTableHead? head))
             {
                 yield return head;
             }
 
-            foreach (CadBaseObject record in TableRecords.Of(image, table))
+            foreach (CadBaseObject record in TableRecords.Of(drawing, table))
             {
                 yield return record;
             }
         }
 
-        foreach (CadBlockEntity block in image.BlockEntities)
+        foreach (CadBlockEntity block in drawing.BlockEntities)
         {
             yield return block;
             yield return block.End;
@@ -50,7 +50,7 @@ internal static class DrawingWalk
             }
         }
 
-        foreach (CadObjectBase item in image.Objects)
+        foreach (CadObjectBase item in drawing.Objects)
         {
             yield return item;
         }

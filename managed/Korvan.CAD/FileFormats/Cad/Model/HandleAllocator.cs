@@ -8,12 +8,12 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 /// <summary>Gives handles to objects that have none, from $HANDSEED on.</summary>
 internal static class HandleAllocator
 {
-    internal static void Assign(CadImage image, bool required)
+    internal static void Assign(CadDrawing drawing, bool required)
     {
         HashSet<ulong> used = [];
         List<CadBaseObject> without = [];
         ulong next = 1;
-        foreach (CadBaseObject item in DrawingWalk.All(image))
+        foreach (CadBaseObject item in DrawingWalk.All(drawing))
         {
             // An object that took the handle of another gets one of its own.
             if (item.Handle == 0 || !used.Add(item.Handle))
@@ -30,7 +30,7 @@ internal static class HandleAllocator
             return;
         }
 
-        if (HandleText.TryParse(image.Header.HandSeed, out ulong seed))
+        if (HandleText.TryParse(drawing.Header.HandSeed, out ulong seed))
         {
             next = Math.Max(next, seed);
         }
@@ -40,6 +40,6 @@ internal static class HandleAllocator
             item.Handle = required || item is CadEntityBase ? next++ : 0;
         }
 
-        image.Header.HandSeed = HandleText.Format(next);
+        drawing.Header.HandSeed = HandleText.Format(next);
     }
 }

@@ -12,17 +12,17 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 /// <summary>What every new drawing holds: the least that programs expect of release 2018.</summary>
 internal static class StandardDrawing
 {
-    internal static void Fill(CadImage image)
+    internal static void Fill(CadDrawing drawing)
     {
-        AddVariables(image.Header);
-        image.ModelSpaceInFile = true;
-        image.PaperSpaceInFile = true;
-        image.BlockEntities.Add(image.ModelSpace);
-        image.BlockEntities.Add(image.PaperSpace);
-        AddTables(image);
-        AddObjects(image);
-        HandleAllocator.Assign(image, true);
-        LinkObjects(image);
+        AddVariables(drawing.Header);
+        drawing.ModelSpaceInFile = true;
+        drawing.PaperSpaceInFile = true;
+        drawing.BlockEntities.Add(drawing.ModelSpace);
+        drawing.BlockEntities.Add(drawing.PaperSpace);
+        AddTables(drawing);
+        AddObjects(drawing);
+        HandleAllocator.Assign(drawing, true);
+        LinkObjects(drawing);
     }
 
     private static void AddVariables(CadHeader header)
@@ -60,66 +60,66 @@ internal static class StandardDrawing
         header.TagsOf(name).Add(new CadCodeValue(20, y.ToString("R", CultureInfo.InvariantCulture)));
     }
 
-    private static void AddTables(CadImage image)
+    private static void AddTables(CadDrawing drawing)
     {
-        image.ViewPorts.Add(new CadVportTableObject { Name = "*Active", ViewHeight = 297, ViewAspectRatio = 1.41 });
+        drawing.ViewPorts.Add(new CadVportTableObject { Name = "*Active", ViewHeight = 297, ViewAspectRatio = 1.41 });
         foreach ((string name, string text) in new[] { ("ByBlock", ""), ("ByLayer", ""), ("Continuous", "Solid line") })
         {
-            image.LineTypes.Add(new CadLineTypeTableObject { Name = name, Description = text });
+            drawing.LineTypes.Add(new CadLineTypeTableObject { Name = name, Description = text });
         }
 
-        image.Layers.Add(new CadLayerTable { Name = "0", LineTypeName = "Continuous" });
-        image.Styles.Add(new CadStyleTableObject { Name = "Standard" });
-        image.AppIdTables.Add(new CadAppIdTableObject { Name = "ACAD" });
-        image.DimensionStyles.Add(new CadDimensionStyleTable { Name = "Standard" });
-        image.BlockRecords.Add(new CadBlockTableObject { Name = image.ModelSpace.Name });
-        image.BlockRecords.Add(new CadBlockTableObject { Name = image.PaperSpace.Name });
+        drawing.Layers.Add(new CadLayerTable { Name = "0", LineTypeName = "Continuous" });
+        drawing.Styles.Add(new CadStyleTableObject { Name = "Standard" });
+        drawing.AppIdTables.Add(new CadAppIdTableObject { Name = "ACAD" });
+        drawing.DimensionStyles.Add(new CadDimensionStyleTable { Name = "Standard" });
+        drawing.BlockRecords.Add(new CadBlockTableObject { Name = drawing.ModelSpace.Name });
+        drawing.BlockRecords.Add(new CadBlockTableObject { Name = drawing.PaperSpace.Name });
         foreach (string table in TableRecords.Names)
         {
-            image.TableHeads.Add(table, new CadTableHead { Name = table });
+            drawing.TableHeads.Add(table, new CadTableHead { Name = table });
         }
     }
 
-    private static void AddObjects(CadImage image)
+    private static void AddObjects(CadDrawing drawing)
     {
-        image.Objects.Add(new CadDictionary());
+        drawing.Objects.Add(new CadDictionary());
         foreach (string _ in Dictionaries)
         {
-            image.Objects.Add(new CadDictionary());
+            drawing.Objects.Add(new CadDictionary());
         }
 
         CadLayout model = new() { LayoutName = "Model", PlotFlags = CadPlotLayoutFlag.ModelType };
         CadLayout sheet = new() { LayoutName = "Layout1", TabOrder = 1, PaperWidth = 420, PaperHeight = 297 };
         foreach (CadLayout layout in new[] { model, sheet })
         {
-            image.Objects.Add(layout);
-            image.Layouts.Add(layout);
+            drawing.Objects.Add(layout);
+            drawing.Layouts.Add(layout);
         }
 
         CadMLineStyleObject lines = new() { StyleName = "STANDARD" };
         lines.Elements.Add(new CadMLineStyleElement { Offset = 0.5 });
         lines.Elements.Add(new CadMLineStyleElement { Offset = -0.5 });
-        image.Objects.Add(lines);
+        drawing.Objects.Add(lines);
     }
 
     private static readonly string[] Dictionaries = ["ACAD_GROUP", "ACAD_LAYOUT", "ACAD_MLINESTYLE"];
 
-    private static void LinkObjects(CadImage image)
+    private static void LinkObjects(CadDrawing drawing)
     {
-        CadDictionary root = (CadDictionary)image.Objects[0];
+        CadDictionary root = (CadDictionary)drawing.Objects[0];
         for (int i = 0; i < Dictionaries.Length; i++)
         {
-            CadDictionary named = (CadDictionary)image.Objects[i + 1];
+            CadDictionary named = (CadDictionary)drawing.Objects[i + 1];
             named.Owner = root.Handle;
             root.Set(Dictionaries[i], named.Handle);
         }
 
-        Own((CadDictionary)image.Objects[2], "Model", image.Layouts[0]);
-        Own((CadDictionary)image.Objects[2], "Layout1", image.Layouts[1]);
-        Own((CadDictionary)image.Objects[3], "STANDARD", image.Objects[^1]);
-        Show(image.Layouts[0], image.BlockRecords[0]);
-        Show(image.Layouts[1], image.BlockRecords[1]);
-        image.DimensionStyles[0].Dimtxsty = image.Styles[0].ObjectHandle;
+        Own((CadDictionary)drawing.Objects[2], "Model", drawing.Layouts[0]);
+        Own((CadDictionary)drawing.Objects[2], "Layout1", drawing.Layouts[1]);
+        Own((CadDictionary)drawing.Objects[3], "STANDARD", drawing.Objects[^1]);
+        Show(drawing.Layouts[0], drawing.BlockRecords[0]);
+        Show(drawing.Layouts[1], drawing.BlockRecords[1]);
+        drawing.DimensionStyles[0].Dimtxsty = drawing.Styles[0].ObjectHandle;
     }
 
     private static void Own(CadDictionary dictionary, string name, CadObjectBase item)

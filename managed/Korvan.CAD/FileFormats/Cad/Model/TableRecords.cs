@@ -11,50 +11,50 @@ internal static class TableRecords
     internal static readonly string[] Names =
         ["VPORT", "LTYPE", "LAYER", "STYLE", "VIEW", "UCS", "APPID", "DIMSTYLE", "BLOCK_RECORD"];
 
-    internal static void Add(CadImage image, CadSymbolTableGroupCodes record)
+    internal static void Add(CadDrawing drawing, CadSymbolTableGroupCodes record)
     {
         switch (record)
         {
             case CadLayerTable layer:
-                image.Layers.Add(layer);
+                drawing.Layers.Add(layer);
                 break;
             case CadLineTypeTableObject lineType:
-                image.LineTypes.Add(lineType);
+                drawing.LineTypes.Add(lineType);
                 break;
             case CadStyleTableObject style:
-                image.Styles.Add(style);
+                drawing.Styles.Add(style);
                 break;
             case CadDimensionStyleTable style:
-                image.DimensionStyles.Add(style);
+                drawing.DimensionStyles.Add(style);
                 break;
             case CadViewTableObject view:
-                image.Views.Add(view);
+                drawing.Views.Add(view);
                 break;
             case CadVportTableObject port:
-                image.ViewPorts.Add(port);
+                drawing.ViewPorts.Add(port);
                 break;
             case CadUcsTableObject ucs:
-                image.UCSs.Add(ucs);
+                drawing.UCSs.Add(ucs);
                 break;
             case CadAppIdTableObject application:
-                image.AppIdTables.Add(application);
+                drawing.AppIdTables.Add(application);
                 break;
             case CadBlockTableObject block:
-                image.BlockRecords.Add(block);
+                drawing.BlockRecords.Add(block);
                 break;
         }
     }
 
-    internal static IReadOnlyList<CadSymbolTableGroupCodes> Of(CadImage image, string name) => name switch
+    internal static IReadOnlyList<CadSymbolTableGroupCodes> Of(CadDrawing drawing, string name) => name switch
     {
-        "VPORT" => image.ViewPorts.Items,
-        "LTYPE" => image.LineTypes.Items,
-        "LAYER" => image.Layers.Items,
-        "STYLE" => image.Styles.Items,
-        "VIEW" => image.Views.Items,
-        "UCS" => image.UCSs.Items,
-        "APPID" => image.AppIdTables.Items,
-        "DIMSTYLE" => image.DimensionStyles.Items,
-        _ => image.BlockRecords.Items,
+        "VPORT" => drawing.ViewPorts.Items,
+        "LTYPE" => drawing.LineTypes.Items,
+        "LAYER" => drawing.Layers.Items,
+        "STYLE" => drawing.Styles.Items,
+        "VIEW" => drawing.Views.Items,
+        "UCS" => drawing.UCSs.Items,
+        "APPID" => drawing.AppIdTables.Items,
+        "DIMSTYLE" => drawing.DimensionStyles.Items,
+        _ => drawing.BlockRecords.Items,
     };
 }

@@ -78,7 +78,7 @@ public sealed class ModelRuleTests
         }
 
         using CadImage other = new();
-        foreach (CadEntityBase entity in DrawingWalk.Entities(image))
+        foreach (CadEntityBase entity in DrawingWalk.Entities(image.Drawing))
         {
             CadEntityBase clone = entity.Clone();
             Assert.Same(entity.GetType(), clone.GetType());

@@ -164,7 +164,7 @@ public class StructureTests
             CadImage image = (CadImage)Image.Load(file);
             image.AddEntity(new CadPoint());
             image.AddEntity(new CadInsertObject { Name = "NEW", Attributes = { new CadAttrib { DefinitionTagString = "T" } } });
-            List<ulong> handles = [.. DrawingWalk.All(DxfText.Reload(image)).Select(item => item.Handle).Where(handle => handle != 0)];
+            List<ulong> handles = [.. DrawingWalk.All(DxfText.Reload(image).Drawing).Select(item => item.Handle).Where(handle => handle != 0)];
             Assert.True(handles.Count == handles.Distinct().Count(), Path.GetFileName(file));
         }
     }
