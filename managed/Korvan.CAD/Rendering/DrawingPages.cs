@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Scene;
@@ -11,29 +10,29 @@ namespace Korvan.CAD.Rendering;
 /// <summary>The layouts that options choose, as pixels.</summary>
 internal sealed class DrawingPages : IRasterPages, IDisposable
 {
-    private readonly TextEngine engine;
-    private readonly PageSource pages;
-    private readonly double horizontal;
-    private readonly double vertical;
-    private readonly RotateFlipType rotation;
+    private readonly TextEngine _engine;
+    private readonly PageSource _pages;
+    private readonly double _horizontal;
+    private readonly double _vertical;
+    private readonly RotateFlipType _rotation;
 
-    internal DrawingPages(Image image, ImageOptionsBase options)
+    internal DrawingPages(VectorScene scene, ExportContext context)
     {
-        engine = DrawingExporter.NewEngine(image, options);
-        horizontal = DrawingExporter.Resolution(options);
-        vertical = options.ResolutionSettings?.VerticalResolution ?? horizontal;
-        pages = new PageSource((IVectorImage)image, options, engine, DeviceKind.Pixels, horizontal);
-        Titles = pages.Titles;
-        rotation = options.Rotation;
+        _engine = context.NewEngine();
+        _horizontal = context.Resolution;
+        _vertical = context.Options.ResolutionSettings?.VerticalResolution ?? _horizontal;
+        _pages = new PageSource(scene, context, _engine, DeviceKind.Pixels, _horizontal);
+        Titles = _pages.Titles;
+        _rotation = context.Options.Rotation;
     }
 
     public IReadOnlyList<string> Titles { get; }
 
     public RasterPageData Render(int index)
     {
-        RasterPage page = RasterPage.Render(engine, pages.PageAt(index));
-        return new RasterPageData(page.ToGrid(), horizontal, vertical).Turned(rotation);
+        RasterPage page = RasterPage.Render(_engine, _pages.PageAt(index));
+        return new RasterPageData(page.ToGrid(), _horizontal, _vertical).Turned(_rotation);
     }
 
-    public void Dispose() => engine.Dispose();
+    public void Dispose() => _engine.Dispose();
 }

@@ -2,9 +2,8 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
-using Korvan.CAD.Rendering.Native;
 
-namespace Korvan.CAD.Rendering.Text;
+namespace Korvan.CAD.FileFormats.Cad.Model;
 
 /// <summary>Leads from the font names of drawings to families that are installed.</summary>
 internal static class FontTable
@@ -76,6 +75,10 @@ internal static class FontTable
 
     private static readonly Lazy<Dictionary<string, string>> InstalledFiles = new(ReadInstalledFiles);
 
+    /// <summary>Gets or sets what lists the font files that are installed, with their families; the text engine knows
+    /// them.</summary>
+    internal static Func<IEnumerable<(string File, string Family)>> ListInstalled { get; set; } = static () => [];
+
     /// <summary>The symbol fonts in which small letters stand for geometric tolerance signs.</summary>
     internal static bool IsToleranceSymbolFont(string file) =>
         Stem(file) is "gdt" or "amgdt" or "amgdtans" or "gdt___";
@@ -146,7 +149,7 @@ internal static class FontTable
     private static Dictionary<string, string> ReadInstalledFiles()
     {
         var result = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
-        foreach ((string file, string family) in Fontconfig.ListFonts().OrderBy(f => f.File, StringComparer.Ordinal))
+        foreach ((string file, string family) in ListInstalled().OrderBy(f => f.File, StringComparer.Ordinal))
         {
             result.TryAdd(Path.GetFileNameWithoutExtension(file), family);
         }

@@ -1,8 +1,9 @@
 using System;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.ImageOptions;
 
-namespace Korvan.CAD.FileFormats.Cad.Dxf;
+namespace Korvan.CAD.FileFormats.Cad.Model;
 
 /// <summary>Releases of the format, by their codes and as years.</summary>
 internal static class DxfRelease

@@ -1,6 +1,7 @@
 using System.Text;
+using Korvan.CAD.Rendering.Text;
 
-namespace Korvan.CAD.Rendering.Text;
+namespace Korvan.CAD.FileFormats.Cad.Model;
 
 /// <summary>
 /// The signs of ISO 1101 that tolerance fonts keep under small letters, as characters that common text fonts
