@@ -53,7 +53,7 @@ public sealed partial class MetafileElementList : Command
             return x.Counted(Elements, static (y, keyword) => ExchangeOne(y, keyword));
         }
 
-        string keywords = x.String(string.Join(' ', Elements));
+        string keywords = x.String(string.Join(' ', ParameterExchange.Needed(Elements, "a list")));
         return [.. keywords.Split((char[]?)null, StringSplitOptions.RemoveEmptyEntries)];
     }
 
