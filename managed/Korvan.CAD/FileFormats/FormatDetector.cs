@@ -5,6 +5,7 @@ using System.IO.Compression;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Cgm.Import;
 using Korvan.CAD.Raster;
 
@@ -232,6 +233,6 @@ internal static class FormatDetector
         int code = variable < 0 ? -1 : head[variable..].IndexOf("AC1"u8);
         return code < 0 || variable + code + 6 > head.Length
             ? FileFormat.DxfCadR012
-            : DxfRelease.ToFileFormat(DxfRelease.Parse(Encoding.ASCII.GetString(head.Slice(variable + code, 6))));
+            : DxfRelease.ToFileFormat(DrawingRelease.Parse(Encoding.ASCII.GetString(head.Slice(variable + code, 6))));
     }
 }
