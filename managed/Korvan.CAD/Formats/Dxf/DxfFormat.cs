@@ -62,7 +62,7 @@ internal static class DxfFormat
         if (code >= 0 && variable + code + VersionLength <= start.Length)
         {
             return DxfRelease.ToFileFormat(
-                DxfRelease.Parse(Encoding.ASCII.GetString(start.Slice(variable + code, VersionLength))));
+                DrawingRelease.Parse(Encoding.ASCII.GetString(start.Slice(variable + code, VersionLength))));
         }
 
         // Files of the first releases have no header, or none that states the release.

@@ -42,7 +42,7 @@ internal sealed unsafe class TextEngine : IDisposable
     internal TextEngine(LetterLook look = default, FontFolders? folders = null)
     {
         NativeLibraries.Require();
-        FontTable.ListInstalled = Fontconfig.ListFonts;
+        FontTable.ListInstalled = static () => Fontconfig.ListFonts();
         this.folders = folders;
         fontMap = Pango.CairoFontMapNew();
         if (folders is not null)

@@ -9,6 +9,8 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// <summary>Writes one object: what all have in common, and through its codec what is its own.</summary>
 internal sealed class DxfObjectWriter(DxfTagWriter writer)
 {
+    private readonly DxfFieldWriter _fields = new(writer);
+
     internal void WriteEntity(CadEntityBase entity)
     {
         Write(entity);
@@ -28,7 +30,7 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
     internal void Write(CadBaseObject item)
     {
         Begin(item);
-        item.WriteCodes(writer);
+        item.Exchange(_fields);
         WriteRest(item);
     }
 
@@ -107,7 +109,7 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
     private void WriteKeptElsewhere(CadBaseObject item)
     {
         string? marker = null;
-        foreach (KeptTag tag in item.Kept ?? [])
+        foreach (KeptTag tag in item.KeptTags?.Tags ?? [])
         {
             if (writer.HasWritten(tag.Subclass))
             {

@@ -3,6 +3,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
@@ -32,7 +33,7 @@ internal sealed partial class DxfReader
         _drawing.TableHeads[head.Name] = head;
         while (NextObject() is { } name && name != "ENDTAB")
         {
-            CadSymbolTableGroupCodes? record = DxfTypeTable.CreateTableRecord(name);
+            CadSymbolTableGroupCodes? record = ObjectTypes.CreateTableRecord(name);
             if (record is null)
             {
                 throw _tags.Fail($"'{name}' is no record of a table; 0 ENDTAB was expected");
@@ -137,7 +138,7 @@ internal sealed partial class DxfReader
     {
         while (NextObject() is { } name)
         {
-            CadObjectBase item = DxfTypeTable.CreateObject(name) ?? new RawObject(name);
+            CadObjectBase item = ObjectTypes.CreateObject(name) ?? new RawObject(name);
             if (TryRead(item))
             {
                 _drawing.Objects.Add(item);

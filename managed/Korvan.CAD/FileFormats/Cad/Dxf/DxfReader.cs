@@ -208,7 +208,7 @@ internal sealed partial class DxfReader
             return true;
         });
         Encoding stated = DwgCodePage.Get(page.StartsWith('$') || page.Length == 0 ? DwgCodePage.DefaultName : page);
-        bool unicode = DxfRelease.Parse(release) >= CadAcadVersion.AC1021;
+        bool unicode = DrawingRelease.Parse(release) >= CadAcadVersion.AC1021;
         _tags.Encoding = unicode ? new UTF8Encoding(false) : stated;
         _tags.Fallback = stated;
     }
@@ -220,7 +220,7 @@ internal sealed partial class DxfReader
             CadClassEntity added = new();
             while (_tags.Next() && _tags.Code != 0)
             {
-                added.ReadCode(_tags);
+                added.ReadField(_tags);
             }
 
             _tags.Unread();
@@ -264,13 +264,13 @@ internal sealed partial class DxfReader
 
     private void ReadRawSection(string name)
     {
-        RawSection section = new(name);
+        KeptTags content = new();
         while (_tags.Next() && !(_tags.Code == 0 && (_tags.ValueIs("ENDSEC"u8) || _tags.ValueIs("EOF"u8))))
         {
-            section.Tags.Add(_tags.ToCodeValue());
+            content.Tags.Add(new KeptTag(null, _tags.ToCodeValue()));
         }
 
         _tags.Unread();
-        _drawing.RawSections.Add(section);
+        _drawing.RawSections.Add(new RawSection(name) { Content = content });
     }
 }

@@ -30,7 +30,7 @@ internal sealed class DxfSaver
         Encoding encoding = unicode
             ? new UTF8Encoding(false)
             : DwgCodePage.Get(page.Length > 0 ? page : DwgCodePage.DefaultName);
-        _writer = new DxfTagWriter(stream, encoding, DxfRelease.Year(version));
+        _writer = new DxfTagWriter(stream, encoding, DrawingRelease.Year(version));
         _objects = new DxfObjectWriter(_writer);
     }
 
@@ -38,7 +38,7 @@ internal sealed class DxfSaver
     {
         options.VerifyHonoured(OutputKind.Model);
         CadAcadVersion version = ChooseVersion(drawing, options.Version);
-        DrawingIntegrity.Prepare(drawing, DxfRelease.Year(version));
+        DrawingIntegrity.Prepare(drawing, DrawingRelease.Year(version));
         new DxfSaver(drawing, version, stream).Write();
     }
 
@@ -46,7 +46,7 @@ internal sealed class DxfSaver
     {
         CadAcadVersion present = drawing.Version;
         CadAcadVersion chosen = wanted == DxfOutputVersion.Original ? present : DxfRelease.From(wanted);
-        if (DxfRelease.Year(chosen) == DxfRelease.Year(present))
+        if (DrawingRelease.Year(chosen) == DrawingRelease.Year(present))
         {
             return chosen == CadAcadVersion.None ? present : chosen;
         }
@@ -97,9 +97,7 @@ internal sealed class DxfSaver
 
         foreach (RawSection section in _drawing.RawSections)
         {
-            BeginSection(section.Name);
-            section.Tags.ForEach(_writer.Write);
-            EndSection();
+            WriteRawSection(section);
         }
 
         WriteThumbnail();
@@ -140,11 +138,12 @@ internal sealed class DxfSaver
 
     private void WriteClasses()
     {
+        DxfFieldWriter fields = new(_writer);
         BeginSection("CLASSES");
         foreach (CadClassEntity item in _drawing.ClassEntities)
         {
             _writer.Write(0, "CLASS");
-            item.WriteCodes(_writer);
+            item.Exchange(fields);
         }
 
         EndSection();
@@ -215,6 +214,18 @@ internal sealed class DxfSaver
     {
         BeginSection("OBJECTS");
         _drawing.Objects.ForEach(_objects.Write);
+        EndSection();
+    }
+
+    private void WriteRawSection(RawSection section)
+    {
+        if (section.Content is not KeptTags content)
+        {
+            return;
+        }
+
+        BeginSection(section.Name);
+        content.Tags.ForEach(tag => _writer.Write(tag.Value));
         EndSection();
     }
 

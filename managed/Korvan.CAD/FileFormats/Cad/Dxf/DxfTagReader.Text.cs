@@ -36,7 +36,7 @@ internal sealed partial class DxfTagReader
     internal TextEscapes Escapes { get; set; } = TextEscapes.Standard;
 
     /// <summary>Gives the value as a text.</summary>
-    internal string GetString()
+    internal override string GetString()
     {
         if (IsBinary && !BinaryTags.IsText(Code))
         {
@@ -48,7 +48,7 @@ internal sealed partial class DxfTagReader
     }
 
     /// <summary>Gives the value as a name: without blanks at its ends.</summary>
-    internal string GetName()
+    internal override string GetName()
     {
         ReadOnlySpan<byte> bytes = Value;
         if (bytes.Length > 0 && (bytes[0] == ' ' || bytes[^1] == ' '))

@@ -1,5 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
@@ -10,12 +10,12 @@ internal sealed class CadTableHead : CadOwnedObjectBase
 
     internal override string DxfName => "TABLE";
 
-    internal override bool ReadCode(int code, DxfTagReader tags)
+    internal override bool ReadField(int code, FieldReader reader)
     {
         switch (code)
         {
             case 2:
-                Name = tags.GetName();
+                Name = reader.GetName();
                 return true;
             case 70:
                 // The number of records is counted when it is written.

@@ -5,7 +5,6 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;

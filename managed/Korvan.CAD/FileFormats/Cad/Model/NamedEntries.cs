@@ -2,7 +2,6 @@ using System;
 using System.Collections;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 

@@ -1,6 +1,5 @@
 using System.Buffers;
 using Korvan.CAD.CadExceptions.ImageFormats;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
