@@ -7,6 +7,7 @@ using Korvan.CAD.Formats.Pages;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.Export;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Input;
 

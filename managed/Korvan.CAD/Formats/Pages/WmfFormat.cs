@@ -1,6 +1,7 @@
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.Export;
 
 namespace Korvan.CAD.Formats.Pages;
 

@@ -5,6 +5,7 @@ using Korvan.CAD.Formats.Pages;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Rendering;
+using Korvan.CAD.Rendering.Export;
 
 namespace Korvan.CAD.Formats.Raster;
 

@@ -2,6 +2,7 @@ using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.Export;
 
 namespace Korvan.CAD.Tests.Rendering;
 

@@ -8,7 +8,7 @@ using Korvan.CAD.Rendering.Pdf;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 
-namespace Korvan.CAD.Rendering;
+namespace Korvan.CAD.Rendering.Export;
 
 /// <summary>Draws scenes onto pages and hands these to the writers of page formats.</summary>
 internal static class PageExporter

@@ -5,7 +5,7 @@ using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 
-namespace Korvan.CAD.Rendering;
+namespace Korvan.CAD.Rendering.Export;
 
 /// <summary>The layouts that options choose, as pixels.</summary>
 internal sealed class DrawingPages : IRasterPages, IDisposable
