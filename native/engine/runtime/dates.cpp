@@ -36,7 +36,7 @@ PyObject* new_delta(const TimeSpanArgBuilder& span) {
 
 UtcOffset offset_failed() { return {.failed = true}; }
 
-// The clock fields and the offset of an aware value; words of a missing zone otherwise.
+// The clock fields and the offset of an aware value; an error for a missing zone otherwise.
 int clock_and_offset(PyObject* object, void (*copy)(PyObject*, DateTimeArgBuilder&),
                      const char* what, long* out) {
     const UtcOffset offset = get_utc_offset(object);
