@@ -47,7 +47,7 @@ int indexer_assign(PyObject* self, Py_ssize_t index, PyObject* value);
 // A plain list of `count` items from `start` on, which are known to exist.
 PyObject* items_between(const Collection& collection, Py_ssize_t start, Py_ssize_t step,
                         Py_ssize_t count);
-// How an array refuses to lose an item.
+// The error for removing an item of an array.
 int refuse_removal();
 
 #endif

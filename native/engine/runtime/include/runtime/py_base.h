@@ -8,6 +8,7 @@
 #include "contract/records.h"
 #include "contract/status.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <utility>
 
@@ -17,6 +18,9 @@ struct PyClrObject {
     PyObject_HEAD
     void* handle; // null from tp_new until a value is stored
 };
+
+// Modules of other builds read it.
+static_assert(sizeof(PyClrObject) == 24 && offsetof(PyClrObject, handle) == 16);
 
 inline void* clr_handle(PyObject* object) { return reinterpret_cast<PyClrObject*>(object)->handle; }
 

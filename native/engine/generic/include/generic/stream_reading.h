@@ -21,8 +21,8 @@ enum class StreamSlot : std::uint16_t {
     type_of,
 };
 
-// The most that one managed transfer counts.
-constexpr Py_ssize_t largest_transfer = 0x7FFFFFFF;
+// The upper limit of one managed transfer.
+constexpr Py_ssize_t max_transfer = 0x7FFFFFFF;
 
 void* stream_delegate(StreamSlot slot);
 

@@ -9,7 +9,7 @@
 // Makes the Python type with its cast methods; a borrowed reference, or null with an error.
 PyObject* make_enum_type(EnumBinding& binding);
 
-// Whether the object is a member of the enum's type; the refusal is worded here.
+// Whether the object is a member of the enum's type; the error is raised here.
 bool is_enum_member(PyObject* object, const EnumBinding& binding);
 
 // The member of a value. A value with no member raises for an IntEnum and makes a composite for
@@ -26,7 +26,7 @@ template <class T> PyObject* conv_clr_to_py_enum(T value, const EnumBinding& bin
     return integer != nullptr ? enum_member_of(integer, binding) : nullptr;
 }
 
-// The width decides which function reads the value, and so the words of an overflow.
+// The width decides which function reads the value, and so the message of an overflow.
 template <class T> int enum_integer(PyObject* object, T* out) {
     constexpr bool is_wide = sizeof(T) == sizeof(long long);
     if constexpr (std::is_unsigned_v<T>) {

@@ -18,13 +18,13 @@
 //
 //   static const Parameter parameters_CFECF7E6_Matrix_000_scale[] = {
 //       {"scale_x"}, {"scale_y"}, {"order", &enum_3A5B6C7D_MatrixOrder}};
-//   static const Leg legs_CFECF7E6_Matrix_scale[] = {
+//   static const Overload overloads_CFECF7E6_Matrix_scale[] = {
 //       {&PyHost_cs_CFECF7E6_Matrix, 13, 3, parameters_CFECF7E6_Matrix_000_scale, nullptr,
 //        call<ret::none, arg::float32, arg::float32, arg::enumeration<int>>},
 //       {&PyHost_cs_CFECF7E6_Matrix, 14, 2, parameters_..., nullptr,
 //        call<ret::none, arg::float32, arg::float32>}};
 //   static const Method method_CFECF7E6_Matrix_scale = {
-//       &class_CFECF7E6_Matrix, legs_CFECF7E6_Matrix_scale, 2};
+//       &class_CFECF7E6_Matrix, overloads_CFECF7E6_Matrix_scale, 2};
 //
 //   static PyMethodDef wrpPy_tymd_CFECF7E6_Matrix[] = {
 //       KORVAN_METHOD("scale", method_CFECF7E6_Matrix_scale, "..."),
@@ -58,7 +58,7 @@
 
 struct ClassBinding;
 struct EnumBinding;
-struct Leg;
+struct Overload;
 
 // One parameter: its keyword, and the binding that its converter needs (ClassBinding for class,
 // struct, interface and collection parameters, EnumBinding for enums, else null).
@@ -75,7 +75,7 @@ struct CallArguments {
     PyObject* tuple = nullptr; // the positional ones once more, if the caller had them so
     PyObject* keywords = nullptr; // dict or null
     PyObject* names = nullptr; // tuple or null
-    // The first pass over an overload group: a leg that can't fit says so without wording why.
+    // The first pass over the overloads: one that can't fit says so without an error.
     bool is_quiet = false;
 
     bool has_keywords() const {
@@ -83,27 +83,28 @@ struct CallArguments {
     }
 };
 
-// What became of one leg of an overload group. A quiet misfit leaves no error behind.
-enum class LegOutcome { quiet_misfit, misfit, failed, done };
+// What became of one overload of an overload group. A quiet misfit leaves no error behind.
+enum class OverloadOutcome { quiet_misfit, misfit, failed, done };
 
 // One overload. `call` parses the arguments and, if they fit, makes the one indirect call.
 // On a misfit the parser's error is pending; `*result` is written only when done.
-using LegCall = LegOutcome (*)(const Leg& leg, PyObject* self, const CallArguments& arguments,
-                               PyObject** result);
+using OverloadCall = OverloadOutcome (*)(const Overload& overload, PyObject* self,
+                                         const CallArguments& arguments, PyObject** result);
 
-struct Leg {
-    HostRecord* host; // of the declaring class: an inherited leg names its base's host
+struct Overload {
+    HostRecord* host; // of the declaring class: an inherited overload names its base's host
     std::uint16_t slot;
     std::uint8_t arity;
     const Parameter* parameters;
     const void* result_type; // ClassBinding or EnumBinding of the result, or null
-    LegCall call;
+    OverloadCall call;
 };
 
-// A Python-visible method, constructor group or overload group: its legs in the order of tries.
+// A Python-visible method, constructor group or overload group: its overloads in the order of
+// tries.
 struct Method {
     ClassBinding* owner; // whose guard a static form runs
-    const Leg* legs;
+    const Overload* overloads;
     std::uint8_t count;
     bool is_static = false;
 };

@@ -41,7 +41,7 @@
 //   ret::drawing_color drawing_rectangle         korvan.pydrawing's Color and RectangleF
 //   ret::nullable<Policy>            int* has_value last
 //
-// Legs:        call<Ret, Args...>   call_static<Ret, Args...>   construct<Args...>
+// Overloads:        call<Ret, Args...>   call_static<Ret, Args...>   construct<Args...>
 // Getters:     get<Ret>, get_static<Ret>        closure(property)
 // Setters:     set<Arg>, KORVAN_STATIC_SETTER
 #ifndef KORVAN_BINDINGS_BINDING_H
@@ -49,7 +49,7 @@
 
 #include "bindings/arguments.h"
 #include "bindings/casts.h"
-#include "bindings/legs.h"
+#include "bindings/overloads.h"
 #include "bindings/properties.h"
 #include "bindings/results.h"
 #include "bindings/tables.h"

@@ -23,7 +23,7 @@
 
 namespace arg {
 
-// Refusals that the type alone decides; a converter that is asked instead refuses the same.
+// Rejections that the type alone decides; the converter would reject the same.
 inline bool is_no_integer(PyObject* object) { return !PyLong_Check(object); }
 inline bool is_no_float(PyObject* object) { return !PyFloat_Check(object); }
 inline bool is_no_bool(PyObject* object) { return !PyBool_Check(object); }
@@ -31,11 +31,11 @@ inline bool is_no_text(PyObject* object) { return !PyUnicode_Check(object); }
 
 // A value whose converter needs no binding and that passes as it lies in its cell.
 template <class Cell, int (*Convert)(PyObject*, Cell*), class Native = Cell,
-          bool (*Refuses)(PyObject*) = nullptr>
+          bool (*Rejects)(PyObject*) = nullptr>
 struct scalar {
     using cell = Cell;
-    static bool refuses(PyObject* object, const void*) {
-        return Refuses != nullptr && Refuses(object);
+    static bool rejects(PyObject* object, const void*) {
+        return Rejects != nullptr && Rejects(object);
     }
     static int convert(PyObject* object, cell* out, const void*) { return Convert(object, out); }
     static std::tuple<Native> pass(cell& value) { return {static_cast<Native>(value)}; }
@@ -88,7 +88,7 @@ struct string {
     struct cell : PyStringArg {
         cell() : PyStringArg{-1, 0, nullptr} {}
     };
-    static bool refuses(PyObject* object, const void*) {
+    static bool rejects(PyObject* object, const void*) {
         return object != Py_None && !PyUnicode_Check(object);
     }
     static int convert(PyObject* object, cell* out, const void*) {
@@ -113,7 +113,7 @@ struct object {
     struct cell {
         void* handle = nullptr;
     };
-    static bool refuses(PyObject* object, const void*) {
+    static bool rejects(PyObject* object, const void*) {
         return object != Py_None && !fn_is_refobj_has_host_markattr(object);
     }
     static int convert(PyObject* object, cell* out, const void* type) {
@@ -197,7 +197,7 @@ using any_readonlycollectionbase =
 
 template <class T> struct enumeration {
     using cell = T;
-    static bool refuses(PyObject* object, const void*) { return !PyLong_Check(object); }
+    static bool rejects(PyObject* object, const void*) { return !PyLong_Check(object); }
     static int convert(PyObject* object, cell* out, const void* type) {
         return conv_py_to_clr_enum(object, out,
                                    *static_cast<EnumBinding*>(const_cast<void*>(type)));
@@ -280,10 +280,10 @@ concept Output = requires(typename Policy::cell& cell, const void* type) {
     Policy::deliver(cell, type);
 };
 
-// Whether a policy refuses an argument for its type, without an error.
-template <class Policy> bool surely_refuses(PyObject* object, const void* type) {
-    if constexpr (requires { Policy::refuses(object, type); }) {
-        return Policy::refuses(object, type);
+// Whether a policy rejects an argument for its type, without an error.
+template <class Policy> bool surely_rejects(PyObject* object, const void* type) {
+    if constexpr (requires { Policy::rejects(object, type); }) {
+        return Policy::rejects(object, type);
     } else {
         return false;
     }

@@ -7,28 +7,28 @@
 // A parsing converter with the binding that it needs.
 using CellConverter = int (*)(PyObject* object, void* cell, const void* type);
 
-// Converts the arguments of a call with keywords, or with another number of them than the leg has
-// parameters, into the leg's cells. False leaves the error of the parser, or of the first converter
-// that refused, pending.
-bool parse_arguments(const Leg& leg, const CellConverter* converters, void* const* cells,
+// Converts the arguments of a call with keywords, or with another number of them than the overload
+// has parameters, into the overload's cells. False leaves the error of the parser, or of the first
+// converter that failed, pending.
+bool parse_arguments(const Overload& overload, const CellConverter* converters, void* const* cells,
                      const CallArguments& arguments);
 
-// Tries the legs of an overload group in order. When none fits: TypeError whose argument is a list
-// of one text a leg.
-LegOutcome try_legs(const Method& method, PyObject* self, CallArguments& arguments,
-                    PyObject** result);
+// Tries the overloads of a method in order. When none fits: TypeError whose argument is a list of
+// the overloads' messages.
+OverloadOutcome try_overloads(const Method& method, PyObject* self, CallArguments& arguments,
+                              PyObject** result);
 
-// A method or overload group. A group of one leg raises that leg's own error. Inline, since the
-// record is a constant where this is called: a single leg is then called without a look at it.
+// A method of a single overload raises that overload's own error. Inline, since the record is a
+// constant where this is called: a single overload is then called without reading it.
 inline PyObject* call_method(const Method& method, PyObject* self, CallArguments arguments) {
     if (method.is_static && !guard(*method.owner)) {
         return nullptr;
     }
     PyObject* result = nullptr;
-    const LegOutcome outcome = method.count == 1
-                                   ? method.legs[0].call(method.legs[0], self, arguments, &result)
-                                   : try_legs(method, self, arguments, &result);
-    return outcome == LegOutcome::done ? result : nullptr;
+    const OverloadOutcome outcome =
+        method.count == 1 ? method.overloads[0].call(method.overloads[0], self, arguments, &result)
+                          : try_overloads(method, self, arguments, &result);
+    return outcome == OverloadOutcome::done ? result : nullptr;
 }
 int call_constructors(const Method& constructors, PyObject* self, PyObject* args, PyObject* kwargs);
 PyObject* call_mixed(const Method& method, PyObject* self, PyObject* args, PyObject* kwargs);

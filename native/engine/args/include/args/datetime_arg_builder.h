@@ -11,7 +11,7 @@ constexpr long per_second = 10000000;
 constexpr long per_minute = 600000000;
 constexpr long per_hour = 36000000000;
 constexpr long per_day = 864000000000;
-constexpr long largest_datetime = 3155378975999999999;
+constexpr long max_datetime = 3155378975999999999;
 } // namespace ticks
 
 enum class DateTimeKind : std::int32_t { unspecified = 0, utc = 1, local = 2 };
