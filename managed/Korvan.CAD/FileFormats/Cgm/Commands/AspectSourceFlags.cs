@@ -5,104 +5,103 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>Which attributes are taken from bundles and which from their own elements.</summary>
-[CgmCommand(AttributeElement.AspectSourceFlags, "ASF",
-    Default = "the element without flags")]
+/// <summary>Which attributes come from bundles and which from their own elements.</summary>
+[CgmCommand(AttributeElement.AspectSourceFlags, "ASF", Default = "the element without flags")]
 public sealed partial class AspectSourceFlags : Command
 {
-    /// <summary>The attributes that have a flag, and groups of them.</summary>
+    /// <summary>The attributes that have an aspect source flag, and groups of them.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum ASFType
     {
-        /// <summary>The dashes of lines.</summary>
+        /// <summary>The line type.</summary>
         [CgmKeyword("LINETYPEASF")]
         LineType = 0,
 
-        /// <summary>The width of lines.</summary>
+        /// <summary>The line width.</summary>
         [CgmKeyword("LINEWIDTHASF")]
         LineWidth = 1,
 
-        /// <summary>The colour of lines.</summary>
+        /// <summary>The line colour.</summary>
         [CgmKeyword("LINECOLRASF")]
         LineColour = 2,
 
-        /// <summary>The shape of markers.</summary>
+        /// <summary>The marker type.</summary>
         [CgmKeyword("MARKERTYPEASF")]
         MarkerType = 3,
 
-        /// <summary>The size of markers.</summary>
+        /// <summary>The marker size.</summary>
         [CgmKeyword("MARKERSIZEASF")]
         MarkerSize = 4,
 
-        /// <summary>The colour of markers.</summary>
+        /// <summary>The marker colour.</summary>
         [CgmKeyword("MARKERCOLRASF")]
         MarkerColour = 5,
 
-        /// <summary>The font of texts.</summary>
+        /// <summary>The text font.</summary>
         [CgmKeyword("TEXTFONTASF")]
         TextFontIndex = 6,
 
-        /// <summary>How exactly texts are placed.</summary>
+        /// <summary>The text precision.</summary>
         [CgmKeyword("TEXTPRECASF")]
         TextPrecision = 7,
 
-        /// <summary>How wide characters are.</summary>
+        /// <summary>The character expansion factor.</summary>
         [CgmKeyword("CHAREXPASF")]
         CharacterExpansionFactor = 8,
 
-        /// <summary>The gap between characters.</summary>
+        /// <summary>The character spacing.</summary>
         [CgmKeyword("CHARSPACEASF")]
         CharacterSpacing = 9,
 
-        /// <summary>The colour of texts.</summary>
+        /// <summary>The text colour.</summary>
         [CgmKeyword("TEXTCOLRASF")]
         TextColour = 10,
 
-        /// <summary>How areas are filled.</summary>
+        /// <summary>The interior style.</summary>
         [CgmKeyword("INTSTYLEASF")]
         InteriorStyle = 11,
 
-        /// <summary>The colour of areas.</summary>
+        /// <summary>The fill colour.</summary>
         [CgmKeyword("FILLCOLRASF")]
         FillColour = 12,
 
-        /// <summary>The hatch of areas.</summary>
+        /// <summary>The hatch index.</summary>
         [CgmKeyword("HATCHINDEXASF")]
         HatchIndex = 13,
 
-        /// <summary>The pattern of areas.</summary>
+        /// <summary>The pattern index.</summary>
         [CgmKeyword("PATINDEXASF")]
         PatternIndex = 14,
 
-        /// <summary>The dashes of edges.</summary>
+        /// <summary>The edge type.</summary>
         [CgmKeyword("EDGETYPEASF")]
         EdgeType = 15,
 
-        /// <summary>The width of edges.</summary>
+        /// <summary>The edge width.</summary>
         [CgmKeyword("EDGEWIDTHASF")]
         EdgeWidth = 16,
 
-        /// <summary>The colour of edges.</summary>
+        /// <summary>The edge colour.</summary>
         [CgmKeyword("EDGECOLRASF")]
         EdgeColour = 17,
 
-        /// <summary>All attributes of edges.</summary>
+        /// <summary>All edge attributes.</summary>
         [CgmKeyword("ALLEDGE")]
         AllEdge = 506,
 
-        /// <summary>All attributes of areas.</summary>
+        /// <summary>All fill attributes.</summary>
         [CgmKeyword("ALLFILL")]
         AllFill = 507,
 
-        /// <summary>All attributes of texts.</summary>
+        /// <summary>All text attributes.</summary>
         [CgmKeyword("ALLTEXT")]
         AllText = 508,
 
-        /// <summary>All attributes of markers.</summary>
+        /// <summary>All marker attributes.</summary>
         [CgmKeyword("ALLMARKER")]
         AllMarker = 509,
 
-        /// <summary>All attributes of lines.</summary>
+        /// <summary>All line attributes.</summary>
         [CgmKeyword("ALLLINE")]
         AllLine = 510,
 
@@ -111,15 +110,15 @@ public sealed partial class AspectSourceFlags : Command
         All = 511,
     }
 
-    /// <summary>Where an attribute is taken from.</summary>
+    /// <summary>The source of an attribute.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum ASFValue
     {
-        /// <summary>From its own element.</summary>
+        /// <summary>Its own element.</summary>
         [CgmKeyword("INDIV")]
         Individual = 0,
 
-        /// <summary>From the bundle.</summary>
+        /// <summary>The bundle.</summary>
         [CgmKeyword("BNDLD")]
         Bundled = 1,
     }
@@ -131,7 +130,7 @@ public sealed partial class AspectSourceFlags : Command
     private List<AspectSourceFlagsInfo> ExchangeInfos(ParameterExchange x) =>
         x.Rest(Infos, static (y, info) => AspectSourceFlagsInfo.Exchange(y, info));
 
-    /// <summary>One flag.</summary>
+    /// <summary>One aspect source flag.</summary>
     public sealed class AspectSourceFlagsInfo
     {
         /// <summary>Creates a flag.</summary>
@@ -146,7 +145,7 @@ public sealed partial class AspectSourceFlags : Command
         /// <summary>Gets or sets the attribute.</summary>
         public ASFType Type { get; set; }
 
-        /// <summary>Gets or sets where it is taken from.</summary>
+        /// <summary>Gets or sets the source of the attribute.</summary>
         public ASFValue Value { get; set; }
 
         /// <inheritdoc/>

@@ -6,9 +6,8 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>Where the attributes of what a copied segment holds come from.</summary>
-[CgmCommand(SegmentControlElement.InheritanceFilter, "INHFILTER",
-    Default = "the element without attributes")]
+/// <summary>Which attributes a copied segment takes from itself and which from where it is copied.</summary>
+[CgmCommand(SegmentControlElement.InheritanceFilter, "INHFILTER", Default = "the element without attributes")]
 public sealed partial class InheritanceFilter : Command
 {
     private const int FirstSetting = (int)Filter.SymbolAttributes + 1;
@@ -21,7 +20,7 @@ public sealed partial class InheritanceFilter : Command
         [.. Enumerable.Range(0, FirstSetting + 2)],
         [.. EnumKeywords.InheritanceFilterFilter.Keywords, .. Settings.Keywords]);
 
-    /// <summary>The attributes that can be chosen, and groups of them.</summary>
+    /// <summary>The attributes that can be selected, and groups of them.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum Filter
     {
@@ -165,31 +164,31 @@ public sealed partial class InheritanceFilter : Command
         [CgmKeyword("TRANSPARENCY")]
         Transparency = 34,
 
-        /// <summary>All attributes of lines.</summary>
+        /// <summary>All line attributes.</summary>
         [CgmKeyword("LINEATTR")]
         LineAttributes = 35,
 
-        /// <summary>All attributes of markers.</summary>
+        /// <summary>All marker attributes.</summary>
         [CgmKeyword("MARKERATTR")]
         MarkerAttributes = 36,
 
-        /// <summary>What the characters of texts look like.</summary>
+        /// <summary>Text presentation and placement attributes.</summary>
         [CgmKeyword("TEXTPRESANDPLACEATTR")]
         TextPresentationAndPlacementAttributes = 37,
 
-        /// <summary>Size, direction and place of texts.</summary>
+        /// <summary>Text placement and orientation attributes.</summary>
         [CgmKeyword("TEXTPLACEANDORIATTR")]
         TextPlacementAndOrientationAttributes = 38,
 
-        /// <summary>All attributes of areas.</summary>
+        /// <summary>All fill attributes.</summary>
         [CgmKeyword("FILLATTR")]
         FillAttributes = 39,
 
-        /// <summary>All attributes of edges.</summary>
+        /// <summary>All edge attributes.</summary>
         [CgmKeyword("EDGEATTR")]
         EdgeAttributes = 40,
 
-        /// <summary>All attributes of patterns.</summary>
+        /// <summary>All pattern attributes.</summary>
         [CgmKeyword("PATATTR")]
         PatternAttributes = 41,
 
@@ -201,7 +200,7 @@ public sealed partial class InheritanceFilter : Command
         [CgmKeyword("PICKID")]
         PickIdentifier = 43,
 
-        /// <summary>All attributes and what controls output.</summary>
+        /// <summary>All attributes and output control.</summary>
         [CgmKeyword("ALLATTRCTRL")]
         AllAttributesAndControl = 44,
 
@@ -281,27 +280,27 @@ public sealed partial class InheritanceFilter : Command
         [CgmKeyword("EDGECOLRASF")]
         EdgeColourAsf = 63,
 
-        /// <summary>The source flags of lines.</summary>
+        /// <summary>The aspect source flags of lines.</summary>
         [CgmKeyword("LINEASF")]
         LineAsfs = 64,
 
-        /// <summary>The source flags of markers.</summary>
+        /// <summary>The aspect source flags of markers.</summary>
         [CgmKeyword("MARKERASF")]
         MarkerAsfs = 65,
 
-        /// <summary>The source flags of texts.</summary>
+        /// <summary>The aspect source flags of text.</summary>
         [CgmKeyword("TEXTASF")]
         TextAsfs = 66,
 
-        /// <summary>The source flags of areas.</summary>
+        /// <summary>The aspect source flags of fills.</summary>
         [CgmKeyword("FILLASF")]
         FillAsfs = 67,
 
-        /// <summary>The source flags of edges.</summary>
+        /// <summary>The aspect source flags of edges.</summary>
         [CgmKeyword("EDGEASF")]
         EdgeAsfs = 68,
 
-        /// <summary>All source flags.</summary>
+        /// <summary>All aspect source flags.</summary>
         [CgmKeyword("ALLASF")]
         AllAsfs = 69,
 
@@ -369,15 +368,15 @@ public sealed partial class InheritanceFilter : Command
         [CgmKeyword("SYMBOLORI")]
         SymbolOrientation = 85,
 
-        /// <summary>All attributes of symbols.</summary>
+        /// <summary>All symbol attributes.</summary>
         [CgmKeyword("SYMBOLATTR")]
         SymbolAttributes = 86,
     }
 
-    /// <summary>Gets or sets the attributes.</summary>
+    /// <summary>Gets or sets the selected attributes.</summary>
     public List<Filter> Filters { get; set; } = [];
 
-    /// <summary>Gets or sets whether they come from the segment; else they come from the place where it is
+    /// <summary>Gets or sets whether the selected attributes come from the segment, or else from the place where it is
     /// copied.</summary>
     public bool ComesFromSegment { get; set; } = true;
 

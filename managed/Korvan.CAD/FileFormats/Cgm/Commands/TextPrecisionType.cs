@@ -2,11 +2,11 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>How exactly texts are placed.</summary>
+/// <summary>How exactly text is placed.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TextPrecisionType
 {
-    /// <summary>The text as a whole.</summary>
+    /// <summary>The string as a whole.</summary>
     [CgmKeyword("STRING")]
     String = 0,
 
@@ -14,7 +14,7 @@ public enum TextPrecisionType
     [CgmKeyword("CHAR")]
     Character = 1,
 
-    /// <summary>Each character and its shape.</summary>
+    /// <summary>Each character and its outline.</summary>
     [CgmKeyword("STROKE")]
     Stroke = 2,
 }
