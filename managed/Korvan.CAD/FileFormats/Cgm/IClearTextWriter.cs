@@ -6,7 +6,7 @@ namespace Korvan.CAD.FileFormats.Cgm;
 public interface IClearTextWriter
 {
     /// <summary>Writes the keyword of an element.</summary>
-    /// <param name="keyword">The word.</param>
+    /// <param name="keyword">The keyword.</param>
     void BeginElement(string keyword);
 
     /// <summary>Writes the terminator of an element.</summary>
@@ -17,7 +17,7 @@ public interface IClearTextWriter
     void WriteInteger(int value);
 
     /// <summary>Writes a keyword or number as it is.</summary>
-    /// <param name="value">The word.</param>
+    /// <param name="value">The keyword or number.</param>
     void WriteWord(string value);
 
     /// <summary>Writes a real number.</summary>

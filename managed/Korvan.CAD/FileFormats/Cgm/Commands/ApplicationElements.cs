@@ -29,12 +29,10 @@ public sealed partial class MessageCommand : Command
     public enum ActionType
     {
         /// <summary>No response is needed.</summary>
-        [CgmKeyword("NOACTION")]
-        NoAction = 0,
+        [CgmKeyword("NOACTION")] NoAction = 0,
 
         /// <summary>The interpreter waits for a response.</summary>
-        [CgmKeyword("ACTION")]
-        Action = 1,
+        [CgmKeyword("ACTION")] Action = 1,
     }
 
     /// <summary>Gets or sets whether the operator has to respond.</summary>
@@ -81,16 +79,13 @@ public sealed partial class ApplicationStructureDirectory : Command
     public enum DataTypeSelector
     {
         /// <summary>Unsigned 8 bits.</summary>
-        [CgmKeyword("UI8")]
-        UInt8 = 0,
+        [CgmKeyword("UI8")] UInt8 = 0,
 
         /// <summary>Unsigned 16 bits.</summary>
-        [CgmKeyword("UI16")]
-        UInt16 = 1,
+        [CgmKeyword("UI16")] UInt16 = 1,
 
         /// <summary>Unsigned 32 bits.</summary>
-        [CgmKeyword("UI32")]
-        UInt32 = 2,
+        [CgmKeyword("UI32")] UInt32 = 2,
     }
 
     /// <summary>Gets or sets the data type of locations in binary files.</summary>

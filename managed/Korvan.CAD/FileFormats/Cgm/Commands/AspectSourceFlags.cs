@@ -14,100 +14,76 @@ public sealed partial class AspectSourceFlags : Command
     public enum ASFType
     {
         /// <summary>The line type.</summary>
-        [CgmKeyword("LINETYPEASF")]
-        LineType = 0,
+        [CgmKeyword("LINETYPEASF")] LineType = 0,
 
         /// <summary>The line width.</summary>
-        [CgmKeyword("LINEWIDTHASF")]
-        LineWidth = 1,
+        [CgmKeyword("LINEWIDTHASF")] LineWidth = 1,
 
         /// <summary>The line colour.</summary>
-        [CgmKeyword("LINECOLRASF")]
-        LineColour = 2,
+        [CgmKeyword("LINECOLRASF")] LineColour = 2,
 
         /// <summary>The marker type.</summary>
-        [CgmKeyword("MARKERTYPEASF")]
-        MarkerType = 3,
+        [CgmKeyword("MARKERTYPEASF")] MarkerType = 3,
 
         /// <summary>The marker size.</summary>
-        [CgmKeyword("MARKERSIZEASF")]
-        MarkerSize = 4,
+        [CgmKeyword("MARKERSIZEASF")] MarkerSize = 4,
 
         /// <summary>The marker colour.</summary>
-        [CgmKeyword("MARKERCOLRASF")]
-        MarkerColour = 5,
+        [CgmKeyword("MARKERCOLRASF")] MarkerColour = 5,
 
         /// <summary>The text font.</summary>
-        [CgmKeyword("TEXTFONTASF")]
-        TextFontIndex = 6,
+        [CgmKeyword("TEXTFONTASF")] TextFontIndex = 6,
 
         /// <summary>The text precision.</summary>
-        [CgmKeyword("TEXTPRECASF")]
-        TextPrecision = 7,
+        [CgmKeyword("TEXTPRECASF")] TextPrecision = 7,
 
         /// <summary>The character expansion factor.</summary>
-        [CgmKeyword("CHAREXPASF")]
-        CharacterExpansionFactor = 8,
+        [CgmKeyword("CHAREXPASF")] CharacterExpansionFactor = 8,
 
         /// <summary>The character spacing.</summary>
-        [CgmKeyword("CHARSPACEASF")]
-        CharacterSpacing = 9,
+        [CgmKeyword("CHARSPACEASF")] CharacterSpacing = 9,
 
         /// <summary>The text colour.</summary>
-        [CgmKeyword("TEXTCOLRASF")]
-        TextColour = 10,
+        [CgmKeyword("TEXTCOLRASF")] TextColour = 10,
 
         /// <summary>The interior style.</summary>
-        [CgmKeyword("INTSTYLEASF")]
-        InteriorStyle = 11,
+        [CgmKeyword("INTSTYLEASF")] InteriorStyle = 11,
 
         /// <summary>The fill colour.</summary>
-        [CgmKeyword("FILLCOLRASF")]
-        FillColour = 12,
+        [CgmKeyword("FILLCOLRASF")] FillColour = 12,
 
         /// <summary>The hatch index.</summary>
-        [CgmKeyword("HATCHINDEXASF")]
-        HatchIndex = 13,
+        [CgmKeyword("HATCHINDEXASF")] HatchIndex = 13,
 
         /// <summary>The pattern index.</summary>
-        [CgmKeyword("PATINDEXASF")]
-        PatternIndex = 14,
+        [CgmKeyword("PATINDEXASF")] PatternIndex = 14,
 
         /// <summary>The edge type.</summary>
-        [CgmKeyword("EDGETYPEASF")]
-        EdgeType = 15,
+        [CgmKeyword("EDGETYPEASF")] EdgeType = 15,
 
         /// <summary>The edge width.</summary>
-        [CgmKeyword("EDGEWIDTHASF")]
-        EdgeWidth = 16,
+        [CgmKeyword("EDGEWIDTHASF")] EdgeWidth = 16,
 
         /// <summary>The edge colour.</summary>
-        [CgmKeyword("EDGECOLRASF")]
-        EdgeColour = 17,
+        [CgmKeyword("EDGECOLRASF")] EdgeColour = 17,
 
         /// <summary>All edge attributes.</summary>
-        [CgmKeyword("ALLEDGE")]
-        AllEdge = 506,
+        [CgmKeyword("ALLEDGE")] AllEdge = 506,
 
         /// <summary>All fill attributes.</summary>
-        [CgmKeyword("ALLFILL")]
-        AllFill = 507,
+        [CgmKeyword("ALLFILL")] AllFill = 507,
 
         /// <summary>All text attributes.</summary>
-        [CgmKeyword("ALLTEXT")]
-        AllText = 508,
+        [CgmKeyword("ALLTEXT")] AllText = 508,
 
         /// <summary>All marker attributes.</summary>
-        [CgmKeyword("ALLMARKER")]
-        AllMarker = 509,
+        [CgmKeyword("ALLMARKER")] AllMarker = 509,
 
         /// <summary>All line attributes.</summary>
-        [CgmKeyword("ALLLINE")]
-        AllLine = 510,
+        [CgmKeyword("ALLLINE")] AllLine = 510,
 
         /// <summary>All attributes.</summary>
-        [CgmKeyword("ALL")]
-        All = 511,
+        [CgmKeyword("ALL")] All = 511,
     }
 
     /// <summary>The source of an attribute.</summary>
@@ -115,12 +91,10 @@ public sealed partial class AspectSourceFlags : Command
     public enum ASFValue
     {
         /// <summary>Its own element.</summary>
-        [CgmKeyword("INDIV")]
-        Individual = 0,
+        [CgmKeyword("INDIV")] Individual = 0,
 
         /// <summary>The bundle.</summary>
-        [CgmKeyword("BNDLD")]
-        Bundled = 1,
+        [CgmKeyword("BNDLD")] Bundled = 1,
     }
 
     /// <summary>Gets or sets the flags.</summary>

@@ -115,16 +115,13 @@ public sealed partial class GeneralizedTextPathMode : Command
     public enum TextPathMode
     {
         /// <summary>Text does not follow the path.</summary>
-        [CgmKeyword("OFF")]
-        Off = 0,
+        [CgmKeyword("OFF")] Off = 0,
 
         /// <summary>Characters are placed along the path and keep their orientation.</summary>
-        [CgmKeyword("NONTANGENTIAL")]
-        NonTangential = 1,
+        [CgmKeyword("NONTANGENTIAL")] NonTangential = 1,
 
         /// <summary>Characters are rotated with the tangent of the path.</summary>
-        [CgmKeyword("AXISTANGENTIAL")]
-        AxisTangential = 2,
+        [CgmKeyword("AXISTANGENTIAL")] AxisTangential = 2,
     }
 
     /// <summary>Gets or sets the mode.</summary>

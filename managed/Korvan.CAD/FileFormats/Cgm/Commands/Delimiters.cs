@@ -203,12 +203,10 @@ public sealed partial class BeginApplicationStructure : Command
     public enum InheritanceFlag
     {
         /// <summary>The state before the structure.</summary>
-        [CgmKeyword("STLIST")]
-        StateList = 0,
+        [CgmKeyword("STLIST")] StateList = 0,
 
         /// <summary>The structure around this one.</summary>
-        [CgmKeyword("APS")]
-        ApplicationStructure = 1,
+        [CgmKeyword("APS")] ApplicationStructure = 1,
     }
 
     /// <summary>Gets or sets the identifier, unique in its picture.</summary>

@@ -19,32 +19,25 @@ public sealed partial class InteriorStyle : Command
     public enum Style
     {
         /// <summary>Only the boundary is drawn, in the fill colour.</summary>
-        [CgmKeyword("HOLLOW")]
-        Hollow = 0,
+        [CgmKeyword("HOLLOW")] Hollow = 0,
 
         /// <summary>The fill colour.</summary>
-        [CgmKeyword("SOLID")]
-        Solid = 1,
+        [CgmKeyword("SOLID")] Solid = 1,
 
         /// <summary>A pattern of cells.</summary>
-        [CgmKeyword("PAT")]
-        Pattern = 2,
+        [CgmKeyword("PAT")] Pattern = 2,
 
         /// <summary>Hatch lines.</summary>
-        [CgmKeyword("HATCH")]
-        Hatch = 3,
+        [CgmKeyword("HATCH")] Hatch = 3,
 
         /// <summary>No interior.</summary>
-        [CgmKeyword("EMPTY")]
-        Empty = 4,
+        [CgmKeyword("EMPTY")] Empty = 4,
 
         /// <summary>A geometric pattern, drawn by a segment.</summary>
-        [CgmKeyword("GEOPAT")]
-        GeometricPattern = 5,
+        [CgmKeyword("GEOPAT")] GeometricPattern = 5,
 
         /// <summary>Interpolated colours, a gradient.</summary>
-        [CgmKeyword("INTERP")]
-        Interpolated = 6,
+        [CgmKeyword("INTERP")] Interpolated = 6,
     }
 
     /// <summary>Gets or sets the style.</summary>

@@ -25,20 +25,16 @@ public sealed partial class PolygonSet : Command
     public enum EdgeFlag
     {
         /// <summary>An invisible edge to the next point.</summary>
-        [CgmKeyword("INVIS")]
-        Invisible = 0,
+        [CgmKeyword("INVIS")] Invisible = 0,
 
         /// <summary>A visible edge to the next point.</summary>
-        [CgmKeyword("VIS")]
-        Visible = 1,
+        [CgmKeyword("VIS")] Visible = 1,
 
         /// <summary>An invisible edge to the first point of the polygon; the next point starts another.</summary>
-        [CgmKeyword("CLOSEINVIS")]
-        CloseInvisible = 2,
+        [CgmKeyword("CLOSEINVIS")] CloseInvisible = 2,
 
         /// <summary>A visible edge to the first point of the polygon; the next point starts another.</summary>
-        [CgmKeyword("CLOSEVIS")]
-        CloseVisible = 3,
+        [CgmKeyword("CLOSEVIS")] CloseVisible = 3,
     }
 
     /// <summary>Gets or sets the points.</summary>

@@ -148,16 +148,13 @@ public sealed partial class PictureDirectory : Command
     public enum Type
     {
         /// <summary>Unsigned 8 bits.</summary>
-        [CgmKeyword("UI8")]
-        UInt8 = 0,
+        [CgmKeyword("UI8")] UInt8 = 0,
 
         /// <summary>Unsigned 16 bits.</summary>
-        [CgmKeyword("UI16")]
-        UInt16 = 1,
+        [CgmKeyword("UI16")] UInt16 = 1,
 
         /// <summary>Unsigned 32 bits.</summary>
-        [CgmKeyword("UI32")]
-        UInt32 = 2,
+        [CgmKeyword("UI32")] UInt32 = 2,
     }
 
     /// <summary>Gets or sets the data type of locations in binary files.</summary>

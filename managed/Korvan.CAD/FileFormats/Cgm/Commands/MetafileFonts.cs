@@ -25,24 +25,19 @@ public sealed partial class CharacterSetList : Command
     public enum Type
     {
         /// <summary>94 characters, one byte each.</summary>
-        [CgmKeyword("STD94")]
-        Graphic94 = 0,
+        [CgmKeyword("STD94")] Graphic94 = 0,
 
         /// <summary>96 characters, one byte each.</summary>
-        [CgmKeyword("STD96")]
-        Graphic96 = 1,
+        [CgmKeyword("STD96")] Graphic96 = 1,
 
         /// <summary>Multi-byte characters of 94 codes a byte.</summary>
-        [CgmKeyword("STD94MULTIBYTE")]
-        Multibyte94 = 2,
+        [CgmKeyword("STD94MULTIBYTE")] Multibyte94 = 2,
 
         /// <summary>Multi-byte characters of 96 codes a byte.</summary>
-        [CgmKeyword("STD96MULTIBYTE")]
-        Multibyte96 = 3,
+        [CgmKeyword("STD96MULTIBYTE")] Multibyte96 = 3,
 
         /// <summary>A complete code such as UTF-8.</summary>
-        [CgmKeyword("COMPLETECODE")]
-        CompleteCode = 4,
+        [CgmKeyword("COMPLETECODE")] CompleteCode = 4,
     }
 
     /// <summary>Gets or sets the types of the sets.</summary>
@@ -72,20 +67,16 @@ public sealed partial class CharacterCodingAnnouncer : Command
     public enum Type
     {
         /// <summary>One 7-bit character set.</summary>
-        [CgmKeyword("BASIC7BIT")]
-        Basic7Bit = 0,
+        [CgmKeyword("BASIC7BIT")] Basic7Bit = 0,
 
         /// <summary>Two character sets, selected by the eighth bit.</summary>
-        [CgmKeyword("BASIC8BIT")]
-        Basic8Bit = 1,
+        [CgmKeyword("BASIC8BIT")] Basic8Bit = 1,
 
         /// <summary>Character sets switched by ISO/IEC 2022 sequences, 7 bits.</summary>
-        [CgmKeyword("EXTD7BIT")]
-        Extended7Bit = 2,
+        [CgmKeyword("EXTD7BIT")] Extended7Bit = 2,
 
         /// <summary>Character sets switched by ISO/IEC 2022 sequences, 8 bits.</summary>
-        [CgmKeyword("EXTD8BIT")]
-        Extended8Bit = 3,
+        [CgmKeyword("EXTD8BIT")] Extended8Bit = 3,
     }
 
     /// <summary>Gets or sets the technique.</summary>

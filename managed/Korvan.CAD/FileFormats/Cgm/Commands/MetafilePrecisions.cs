@@ -13,12 +13,10 @@ public sealed partial class VdcType : Command
     public enum Type
     {
         /// <summary>Integers.</summary>
-        [CgmKeyword("INTEGER")]
-        Integer = 0,
+        [CgmKeyword("INTEGER")] Integer = 0,
 
         /// <summary>Real numbers.</summary>
-        [CgmKeyword("REAL")]
-        Real = 1,
+        [CgmKeyword("REAL")] Real = 1,
     }
 
     /// <summary>Gets or sets the type.</summary>

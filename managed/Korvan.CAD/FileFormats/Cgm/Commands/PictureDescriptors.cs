@@ -14,12 +14,10 @@ public sealed partial class ScalingMode : Command
     public enum Mode
     {
         /// <summary>Coordinates have no size.</summary>
-        [CgmKeyword("ABSTRACT")]
-        Abstract = 0,
+        [CgmKeyword("ABSTRACT")] Abstract = 0,
 
         /// <summary>Coordinates are in millimetres, multiplied by a factor.</summary>
-        [CgmKeyword("METRIC")]
-        Metric = 1,
+        [CgmKeyword("METRIC")] Metric = 1,
     }
 
     /// <summary>Gets or sets the mode.</summary>
@@ -40,12 +38,10 @@ public sealed partial class ColourSelectionMode : Command
     public enum Type
     {
         /// <summary>By an index into the colour table.</summary>
-        [CgmKeyword("INDEXED")]
-        Indexed = 0,
+        [CgmKeyword("INDEXED")] Indexed = 0,
 
         /// <summary>By its components.</summary>
-        [CgmKeyword("DIRECT")]
-        Direct = 1,
+        [CgmKeyword("DIRECT")] Direct = 1,
     }
 
     /// <summary>Gets or sets the mode.</summary>
@@ -149,16 +145,13 @@ public sealed partial class DeviceViewportSpecificationMode : Command
     public enum Mode
     {
         /// <summary>Fractions of the drawing surface, 0 to 1.</summary>
-        [CgmKeyword("FRACTION")]
-        FractionOfDrawingSurface = 0,
+        [CgmKeyword("FRACTION")] FractionOfDrawingSurface = 0,
 
         /// <summary>Millimetres, multiplied by a factor.</summary>
-        [CgmKeyword("MM")]
-        MillimetresWithScaleFactor = 1,
+        [CgmKeyword("MM")] MillimetresWithScaleFactor = 1,
 
         /// <summary>Physical device coordinates.</summary>
-        [CgmKeyword("PHYDEVCOORD")]
-        PhysicalDeviceCoordinates = 2,
+        [CgmKeyword("PHYDEVCOORD")] PhysicalDeviceCoordinates = 2,
     }
 
     /// <summary>Gets or sets the unit.</summary>
@@ -182,12 +175,10 @@ public sealed partial class DeviceViewportMapping : Command
     public enum Isotropy
     {
         /// <summary>The picture fills the viewport.</summary>
-        [CgmKeyword("NOTFORCED")]
-        NotForced = 0,
+        [CgmKeyword("NOTFORCED")] NotForced = 0,
 
         /// <summary>The aspect ratio of the picture is kept.</summary>
-        [CgmKeyword("FORCED")]
-        Forced = 1,
+        [CgmKeyword("FORCED")] Forced = 1,
     }
 
     /// <summary>The horizontal alignments.</summary>
@@ -195,16 +186,13 @@ public sealed partial class DeviceViewportMapping : Command
     public enum Horizontalalignment
     {
         /// <summary>At the left.</summary>
-        [CgmKeyword("LEFT")]
-        Left = 0,
+        [CgmKeyword("LEFT")] Left = 0,
 
         /// <summary>Centred.</summary>
-        [CgmKeyword("CTR")]
-        Centre = 1,
+        [CgmKeyword("CTR")] Centre = 1,
 
         /// <summary>At the right.</summary>
-        [CgmKeyword("RIGHT")]
-        Right = 2,
+        [CgmKeyword("RIGHT")] Right = 2,
     }
 
     /// <summary>The vertical alignments.</summary>
@@ -212,16 +200,13 @@ public sealed partial class DeviceViewportMapping : Command
     public enum Verticalalignment
     {
         /// <summary>At the bottom.</summary>
-        [CgmKeyword("BOTTOM")]
-        Bottom = 0,
+        [CgmKeyword("BOTTOM")] Bottom = 0,
 
         /// <summary>Centred.</summary>
-        [CgmKeyword("CTR")]
-        Centre = 1,
+        [CgmKeyword("CTR")] Centre = 1,
 
         /// <summary>At the top.</summary>
-        [CgmKeyword("TOP")]
-        Top = 2,
+        [CgmKeyword("TOP")] Top = 2,
     }
 
     /// <summary>Gets or sets whether the aspect ratio is kept.</summary>

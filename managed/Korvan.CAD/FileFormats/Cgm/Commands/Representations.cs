@@ -167,12 +167,10 @@ public sealed partial class HatchStyleDefinition : Command
     public enum HatchStyle
     {
         /// <summary>Parallel lines.</summary>
-        [CgmKeyword("PARALLEL")]
-        Parallel = 0,
+        [CgmKeyword("PARALLEL")] Parallel = 0,
 
         /// <summary>Lines in two directions.</summary>
-        [CgmKeyword("CROSSHATCH")]
-        CrossHatch = 1,
+        [CgmKeyword("CROSSHATCH")] CrossHatch = 1,
     }
 
     /// <summary>Gets or sets the hatch index; negative.</summary>

@@ -50,12 +50,10 @@ public sealed partial class ClipInheritance : Command
     public enum Value
     {
         /// <summary>The clip region where the segment is copied.</summary>
-        [CgmKeyword("STLIST")]
-        StateList = 0,
+        [CgmKeyword("STLIST")] StateList = 0,
 
         /// <summary>The intersection of that one with the clip region of the segment.</summary>
-        [CgmKeyword("INTERSECTION")]
-        Intersection = 1,
+        [CgmKeyword("INTERSECTION")] Intersection = 1,
     }
 
     /// <summary>Gets or sets the clip region.</summary>
@@ -105,12 +103,10 @@ public sealed partial class SegmentHighlighting : Command
     public enum Highlighting
     {
         /// <summary>Not highlighted.</summary>
-        [CgmKeyword("NORMAL")]
-        Normal = 0,
+        [CgmKeyword("NORMAL")] Normal = 0,
 
         /// <summary>Highlighted.</summary>
-        [CgmKeyword("HIGHL")]
-        Highlighted = 1,
+        [CgmKeyword("HIGHL")] Highlighted = 1,
     }
 
     /// <summary>Gets or sets the name of the segment.</summary>

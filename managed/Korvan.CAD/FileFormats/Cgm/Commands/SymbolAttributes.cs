@@ -22,16 +22,13 @@ public sealed partial class SymbolSize : Command
     public enum ScaleIndicator
     {
         /// <summary>The height; the aspect ratio is kept.</summary>
-        [CgmKeyword("HEIGHT")]
-        Height = 0,
+        [CgmKeyword("HEIGHT")] Height = 0,
 
         /// <summary>The width; the aspect ratio is kept.</summary>
-        [CgmKeyword("WIDTH")]
-        Width = 1,
+        [CgmKeyword("WIDTH")] Width = 1,
 
         /// <summary>Both.</summary>
-        [CgmKeyword("BOTH")]
-        Both = 2,
+        [CgmKeyword("BOTH")] Both = 2,
     }
 
     /// <summary>Gets or sets which sizes scale the symbol.</summary>

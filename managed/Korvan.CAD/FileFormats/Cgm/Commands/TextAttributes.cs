@@ -87,20 +87,16 @@ public sealed partial class TextPath : Command
     public enum Type
     {
         /// <summary>To the right.</summary>
-        [CgmKeyword("RIGHT")]
-        Right = 0,
+        [CgmKeyword("RIGHT")] Right = 0,
 
         /// <summary>To the left.</summary>
-        [CgmKeyword("LEFT")]
-        Left = 1,
+        [CgmKeyword("LEFT")] Left = 1,
 
         /// <summary>Up.</summary>
-        [CgmKeyword("UP")]
-        Up = 2,
+        [CgmKeyword("UP")] Up = 2,
 
         /// <summary>Down.</summary>
-        [CgmKeyword("DOWN")]
-        Down = 3,
+        [CgmKeyword("DOWN")] Down = 3,
     }
 
     /// <summary>Gets or sets the direction, relative to the character orientation.</summary>
@@ -117,24 +113,19 @@ public sealed partial class TextAlignment : Command
     public enum HorizontalAlignmentType
     {
         /// <summary>The default of the text path.</summary>
-        [CgmKeyword("NORMHORIZ")]
-        Normal = 0,
+        [CgmKeyword("NORMHORIZ")] Normal = 0,
 
         /// <summary>The left end.</summary>
-        [CgmKeyword("LEFT")]
-        Left = 1,
+        [CgmKeyword("LEFT")] Left = 1,
 
         /// <summary>The centre.</summary>
-        [CgmKeyword("CTR")]
-        Centre = 2,
+        [CgmKeyword("CTR")] Centre = 2,
 
         /// <summary>The right end.</summary>
-        [CgmKeyword("RIGHT")]
-        Right = 3,
+        [CgmKeyword("RIGHT")] Right = 3,
 
         /// <summary>A fraction of the width.</summary>
-        [CgmKeyword("CONTHORIZ")]
-        Continuous = 4,
+        [CgmKeyword("CONTHORIZ")] Continuous = 4,
     }
 
     /// <summary>The vertical alignments.</summary>
@@ -142,32 +133,25 @@ public sealed partial class TextAlignment : Command
     public enum VerticalAlignmentType
     {
         /// <summary>The default of the text path.</summary>
-        [CgmKeyword("NORMVERT")]
-        Normal = 0,
+        [CgmKeyword("NORMVERT")] Normal = 0,
 
         /// <summary>The top line, of the highest glyph.</summary>
-        [CgmKeyword("TOP")]
-        Top = 1,
+        [CgmKeyword("TOP")] Top = 1,
 
         /// <summary>The cap line.</summary>
-        [CgmKeyword("CAP")]
-        Cap = 2,
+        [CgmKeyword("CAP")] Cap = 2,
 
         /// <summary>The half line, between cap line and base line.</summary>
-        [CgmKeyword("HALF")]
-        Half = 3,
+        [CgmKeyword("HALF")] Half = 3,
 
         /// <summary>The base line.</summary>
-        [CgmKeyword("BASE")]
-        Base = 4,
+        [CgmKeyword("BASE")] Base = 4,
 
         /// <summary>The bottom line, of the lowest glyph.</summary>
-        [CgmKeyword("BOTTOM")]
-        Bottom = 5,
+        [CgmKeyword("BOTTOM")] Bottom = 5,
 
         /// <summary>A fraction of the height.</summary>
-        [CgmKeyword("CONTVERT")]
-        Continuous = 6,
+        [CgmKeyword("CONTVERT")] Continuous = 6,
     }
 
     /// <summary>Gets or sets the horizontal alignment.</summary>

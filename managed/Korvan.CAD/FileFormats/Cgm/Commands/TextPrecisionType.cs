@@ -7,14 +7,11 @@ namespace Korvan.CAD.FileFormats.Cgm.Commands;
 public enum TextPrecisionType
 {
     /// <summary>The string as a whole.</summary>
-    [CgmKeyword("STRING")]
-    String = 0,
+    [CgmKeyword("STRING")] String = 0,
 
     /// <summary>Each character.</summary>
-    [CgmKeyword("CHAR")]
-    Character = 1,
+    [CgmKeyword("CHAR")] Character = 1,
 
     /// <summary>Each character and its outline.</summary>
-    [CgmKeyword("STROKE")]
-    Stroke = 2,
+    [CgmKeyword("STROKE")] Stroke = 2,
 }

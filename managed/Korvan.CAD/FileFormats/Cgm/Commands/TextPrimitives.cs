@@ -55,11 +55,9 @@ public sealed partial class AppendText : TextCommand
     public enum FinalType
     {
         /// <summary>More strings follow.</summary>
-        [CgmKeyword("NOTFINAL")]
-        NotFinal = 0,
+        [CgmKeyword("NOTFINAL")] NotFinal = 0,
 
         /// <summary>This is the last string.</summary>
-        [CgmKeyword("FINAL")]
-        Final = 1,
+        [CgmKeyword("FINAL")] Final = 1,
     }
 }

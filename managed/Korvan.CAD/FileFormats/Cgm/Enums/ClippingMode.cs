@@ -8,14 +8,11 @@ namespace Korvan.CAD.FileFormats.Cgm.Enums;
 public enum ClippingMode
 {
     /// <summary>Their mathematical locus is clipped.</summary>
-    [CgmKeyword("LOCUS")]
-    Locus = 0,
+    [CgmKeyword("LOCUS")] Locus = 0,
 
     /// <summary>Their drawn shape is clipped.</summary>
-    [CgmKeyword("SHAPE")]
-    Shape = 1,
+    [CgmKeyword("SHAPE")] Shape = 1,
 
     /// <summary>The locus is clipped, then the drawn shape.</summary>
-    [CgmKeyword("LOCUSTHENSHAPE")]
-    LocusThenShape = 2,
+    [CgmKeyword("LOCUSTHENSHAPE")] LocusThenShape = 2,
 }

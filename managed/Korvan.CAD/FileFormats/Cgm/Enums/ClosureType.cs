@@ -8,10 +8,8 @@ namespace Korvan.CAD.FileFormats.Cgm.Enums;
 public enum ClosureType
 {
     /// <summary>By lines from both ends to the centre, a sector.</summary>
-    [CgmKeyword("PIE")]
-    Pie = 0,
+    [CgmKeyword("PIE")] Pie = 0,
 
     /// <summary>By the chord between the ends, a segment.</summary>
-    [CgmKeyword("CHORD")]
-    Chord = 1,
+    [CgmKeyword("CHORD")] Chord = 1,
 }

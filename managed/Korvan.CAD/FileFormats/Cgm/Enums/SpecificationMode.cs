@@ -8,18 +8,14 @@ namespace Korvan.CAD.FileFormats.Cgm.Enums;
 public enum SpecificationMode
 {
     /// <summary>VDC.</summary>
-    [CgmKeyword("ABS")]
-    Absolute = 0,
+    [CgmKeyword("ABS")] Absolute = 0,
 
     /// <summary>Multiples of the nominal size of the device.</summary>
-    [CgmKeyword("SCALED")]
-    Scaled = 1,
+    [CgmKeyword("SCALED")] Scaled = 1,
 
     /// <summary>Fractions of the longer side of the VDC extent.</summary>
-    [CgmKeyword("FRACTIONAL")]
-    Fractional = 2,
+    [CgmKeyword("FRACTIONAL")] Fractional = 2,
 
     /// <summary>Millimetres.</summary>
-    [CgmKeyword("MM")]
-    Millimetres = 3,
+    [CgmKeyword("MM")] Millimetres = 3,
 }
