@@ -1,5 +1,6 @@
 using System.Linq;
 using Microsoft.CodeAnalysis;
+using Microsoft.CodeAnalysis.CSharp;
 using Microsoft.CodeAnalysis.CSharp.Syntax;
 
 namespace Korvan.CAD.CodecGen;
@@ -17,6 +18,10 @@ internal sealed class CadProperty
             .Select(argument => (int)argument.Value.Value!).FirstOrDefault();
         TypeName = symbol.Type.ToDisplayString(SymbolDisplayFormat.FullyQualifiedFormat);
         IsEnum = symbol.Type.TypeKind == TypeKind.Enum;
+        ElementType = (symbol.Type as INamedTypeSymbol)?.TypeArguments.FirstOrDefault()?.Name ?? "";
+        Count = attribute.NamedArguments.Where(argument => argument.Key == "Count")
+            .Select(argument => (int)argument.Value.Value!).FirstOrDefault();
+        Table = Kind == "CadName" ? $"global::{attribute.ConstructorArguments[1].ToCSharpString()}" : "";
         Initial = symbol.DeclaringSyntaxReferences.Select(reference => reference.GetSyntax())
             .OfType<PropertyDeclarationSyntax>().FirstOrDefault()?.Initializer?.Value.ToString();
     }
@@ -36,10 +41,38 @@ internal sealed class CadProperty
 
     public bool IsEnum { get; }
 
+    /// <summary>The type of the items of a list, as in <c>Double</c>.</summary>
+    public string ElementType { get; }
+
+    /// <summary>The group code of the number of items of a list; 0 where the format states none.</summary>
+    public int Count { get; }
+
+    /// <summary>The symbol table that a name refers to, as source text.</summary>
+    public string Table { get; }
+
     /// <summary>The text of the initial value.</summary>
     public string? Initial { get; }
 
     public bool IsPoint => Kind is "Cad2DPoint" or "Cad3DPoint";
+
+    public bool IsList => Kind == "CadList";
+
+    /// <summary>How many group codes one value takes: the coordinates of a point, otherwise one.</summary>
+    public int Axes => (IsList ? ElementType : Kind) switch
+    {
+        "Cad3DPoint" => 3,
+        "Cad2DPoint" => 2,
+        _ => 1,
+    };
+
+    /// <summary>What a handle means to its object, which the range of its group code tells.</summary>
+    public string HandleRole => Code switch
+    {
+        >= 330 and < 340 => "SoftPointer",
+        >= 350 and < 360 => "SoftOwner",
+        >= 360 and < 370 => "HardOwner",
+        _ => "HardPointer",
+    };
 
     public static CadProperty? From(IPropertySymbol symbol)
     {

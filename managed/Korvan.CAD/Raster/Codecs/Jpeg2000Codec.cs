@@ -5,6 +5,7 @@ using System.Runtime.InteropServices;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster.Native;
+using Korvan.CAD.Raster.Pixels;
 using J2K = Korvan.CAD.FileFormats.Jpeg2000.Jpeg2000Codec;
 
 namespace Korvan.CAD.Raster.Codecs;
@@ -16,7 +17,7 @@ internal static unsafe class Jpeg2000Codec
 
     internal static void Write(PixelGrid pixels, Jpeg2000Options options, Stream output)
     {
-        RasterSaver.Seekable(output, target =>
+        SeekableOutput.Write(output, target =>
             Encode(pixels, options.Codec, options.Irreversible, options.CompressionRatio, gray: pixels.IsGray(), target));
     }
 

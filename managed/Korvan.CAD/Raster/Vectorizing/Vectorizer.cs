@@ -5,7 +5,9 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Vectorizing;
 
@@ -21,30 +23,34 @@ internal sealed class Vectorizer
         [0, 5, 9, 13, 15, 18, 20, 25, 30, 35, 40, 50, 53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211];
 
     private readonly VectorizationOptions _options;
-    private readonly DxfImage _drawing = new();
+    private readonly CadDrawing _drawing = new(DrawingSeed.Standard);
     private readonly double _unit;
     private readonly int _height;
 
-    private Vectorizer(RasterImage picture, VectorizationOptions options)
+    private Vectorizer(PixelGrid pixels, double statedResolution, VectorizationOptions options)
     {
         _options = options;
-        double resolution = options.DotsPerInch > 0 ? options.DotsPerInch : picture.HorizontalResolution;
+        double resolution = options.DotsPerInch > 0 ? options.DotsPerInch : statedResolution;
         _unit = MillimetresPerInch / (resolution > 0 ? resolution : UsualResolution);
-        _height = picture.Height;
+        _height = pixels.Height;
         _drawing.Header.InsUnits = Millimetres;
     }
 
-    internal static DxfImage Trace(RasterImage picture, VectorizationOptions options)
+    /// <summary>Traces pixels.</summary>
+    /// <param name="pixels">The pixels.</param>
+    /// <param name="resolution">Pixels an inch, where the options state none.</param>
+    /// <param name="options">What is traced, and how.</param>
+    internal static CadDrawing Trace(PixelGrid pixels, double resolution, VectorizationOptions options)
     {
-        var tracer = new Vectorizer(picture, options);
+        var tracer = new Vectorizer(pixels, resolution, options);
         if ((options.Method & VectorizationMethod.Contour) != 0)
         {
-            tracer.AddContours(InkMask.Of(picture.Pixels, options.Threshold));
+            tracer.AddContours(InkMask.Of(pixels, options.Threshold));
         }
 
         if ((options.Method & VectorizationMethod.PaperToCad) != 0)
         {
-            tracer.AddStrokes(InkMask.Of(picture.Pixels, options.Threshold));
+            tracer.AddStrokes(InkMask.Of(pixels, options.Threshold));
         }
 
         return tracer._drawing;
@@ -68,7 +74,7 @@ internal sealed class Vectorizer
 
         if (options.Fill && hatch.BoundaryPaths.Count > 0)
         {
-            _drawing.AddEntity(hatch);
+            _drawing.Entities.Add(hatch);
         }
     }
 
@@ -91,7 +97,7 @@ internal sealed class Vectorizer
         var line = new CadLwPolyline { LayerName = _options.LayerName, LineWeight = weight };
         line.Flag = closed ? CadLwPolylineFlag.Closed : CadLwPolylineFlag.None;
         line.Coordinates.AddRange(points);
-        _drawing.AddEntity(line);
+        _drawing.Entities.Add(line);
     }
 
     private static CadHatchBoundaryPathContainer Boundary(List<Cad2DPoint> points)

@@ -2,10 +2,12 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Text;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.ImageOptions.SvgOptionsParameters;
 using Korvan.CAD.Raster;
-using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Raster.Pixels;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;
@@ -73,7 +75,7 @@ internal sealed class SvgResources(SvgOptions options)
     {
         using PixelGrid grid = ToGrid(image);
         using var output = new MemoryStream();
-        RasterSaver.Write(grid, encoder, output);
+        RasterCodecs.Write(grid, encoder, output);
         return output.ToArray();
     }
 

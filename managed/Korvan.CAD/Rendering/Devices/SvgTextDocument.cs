@@ -2,9 +2,10 @@ using System;
 using System.Globalization;
 using System.IO;
 using System.Text;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;

@@ -4,8 +4,8 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Rendering.Mesh;
@@ -33,15 +33,15 @@ internal sealed class MeshScene
     }
 
     /// <summary>The faces of each entity that has any, in drawing order.</summary>
-    internal static List<MeshPart> Collect(CadImage image, ImageOptionsBase? options)
+    internal static List<MeshPart> Collect(CadDrawing drawing, ExportContext? context)
     {
-        RenderStyle style = options is null ? new RenderStyle() : new ExportOptions(options, DeviceKind.UserUnits, 1).Style();
-        DrawingScene scene = SceneReader.Read(image);
+        RenderStyle style = context is null ? new RenderStyle() : new ExportOptions(context, DeviceKind.UserUnits, 1).Style();
+        DrawingScene scene = SceneReader.Read(drawing);
         var walk = new MeshScene(scene.Tables, style);
         walk.AddSpace(scene.Model, new BlockContext { Map = Affine3.Identity });
         if (walk._leftOut > 0)
         {
-            options?.Notes.Add(RenderErrorCode.EntityNotDrawn, "faces too far out for numbers of single precision", walk._leftOut);
+            context?.Notes.Add(RenderErrorCode.EntityNotDrawn, "faces too far out for numbers of single precision", walk._leftOut);
         }
 
         return walk._parts;

@@ -8,7 +8,7 @@ using Korvan.CAD.FileFormats.Pdf;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Geometry;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
@@ -155,7 +155,7 @@ public class ExportTests
 
     private static void Refused(CadImage drawing, ImageOptionsBase options, string reason)
     {
-        var refused = Assert.Throws<ImageSaveException>(() => DrawingExporter.Export(drawing, options, Stream.Null));
+        var refused = Assert.Throws<ImageSaveException>(() => drawing.Save(Stream.Null, options));
         Assert.Contains(reason, refused.Message);
     }
 

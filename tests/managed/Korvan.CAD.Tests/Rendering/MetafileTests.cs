@@ -5,7 +5,7 @@ using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.DisplayList;
 using Xunit;
 using LineCapElement = Korvan.CAD.FileFormats.Cgm.Commands.LineCap;
 using static Korvan.CAD.Tests.Rendering.MetafilePage;
@@ -382,7 +382,7 @@ public class MetafileTests
         using MetafilePage all = Of(image);
         Assert.Equal((Red, Rgba.White, Red), (all[5, 5], all[25, 5], all[45, 5]));
         var options = new PngOptions { Layers = ["walls"], VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = 100, PageHeight = 100 } };
-        using var walls = Korvan.CAD.Rendering.DrawingExporter.Rasterize(image, options);
+        using var walls = Rasterizer.Draw(image, options);
         Assert.Equal(0, walls.Row(95)[5 * 4]);
         Assert.Equal(255, walls.Row(95)[45 * 4]);
     }

@@ -1,3 +1,4 @@
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Xunit;
@@ -103,7 +104,7 @@ public class MetafileTextTests
 
     private static (string Family, bool Bold, bool Italic) Face(string name)
     {
-        Korvan.CAD.Rendering.Text.FontSpec spec = Korvan.CAD.Rendering.Metafile.FontNames.Find(name);
+        FontSpec spec = Korvan.CAD.Rendering.Metafile.FontNames.Find(name);
         return (spec.Family.Split(',')[0], spec.Bold, spec.Italic);
     }
 
@@ -120,7 +121,7 @@ public class MetafileTextTests
 
     private static (int X0, int Y0, int X1, int Y1) InkOf(params Command[] body)
     {
-        using MetafilePage page = Of([new TextColour { Color = C(CAD.Rendering.DisplayList.Rgba.Black) }, .. body]);
+        using MetafilePage page = Of([new TextColour { Color = C(CAD.DisplayList.Rgba.Black) }, .. body]);
         return page.Ink();
     }
 

@@ -13,7 +13,7 @@ using Korvan.CAD.FileFormats.Pdf;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.DisplayList;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
@@ -171,7 +171,7 @@ public class PageTests
     }
 
     private static RasterPage Render(CadImage drawing, CadRasterizationOptions raster) =>
-        DrawingExporter.Rasterize(drawing, new PngOptions { VectorRasterizationOptions = raster });
+        Rasterizer.Draw(drawing, new PngOptions { VectorRasterizationOptions = raster });
 
     private static Rgba At(RasterPage page, int x, int y)
     {

@@ -1,5 +1,5 @@
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -37,50 +37,50 @@ public class CadClassEntity : IKeyedObject
 
     internal List<CadCodeValue> Kept { get; } = [];
 
-    internal void ReadCode(DxfTagReader tags)
+    internal void ReadField(FieldReader reader)
     {
-        switch (tags.Code)
+        switch (reader.Code)
         {
             case 1:
-                DxfRecordName = tags.GetString();
+                DxfRecordName = reader.GetString();
                 break;
             case 2:
-                ClassName = tags.GetString();
+                ClassName = reader.GetString();
                 break;
             case 3:
-                ApplicationName = tags.GetString();
+                ApplicationName = reader.GetString();
                 break;
             case 90:
-                ProxyFlags = tags.GetInt();
+                ProxyFlags = reader.GetInt();
                 break;
             case 91:
-                InstanceCount = tags.GetInt();
+                InstanceCount = reader.GetInt();
                 break;
             case 280:
-                WasAProxy = tags.GetInt() != 0;
+                WasAProxy = reader.GetInt() != 0;
                 break;
             case 281:
-                IsEntity = tags.GetInt() != 0;
+                IsEntity = reader.GetInt() != 0;
                 break;
             default:
-                Kept.Add(tags.ToCodeValue());
+                Kept.Add(reader.ToCodeValue());
                 break;
         }
     }
 
-    internal void WriteCodes(DxfTagWriter writer)
+    internal void Exchange(ObjectExchange fields)
     {
-        writer.Write(1, DxfRecordName);
-        writer.Write(2, ClassName);
-        writer.Write(3, ApplicationName);
-        writer.Write(90, ProxyFlags);
-        if (writer.Release >= 2004)
+        DxfRecordName = fields.Text(1, DxfRecordName);
+        ClassName = fields.Text(2, ClassName);
+        ApplicationName = fields.Text(3, ApplicationName);
+        ProxyFlags = fields.Int32(90, ProxyFlags);
+        if (fields.Includes(2004, true))
         {
-            writer.Write(91, InstanceCount);
+            InstanceCount = fields.Int32(91, InstanceCount);
         }
 
-        writer.Write(280, WasAProxy ? 1 : 0);
-        writer.Write(281, IsEntity ? 1 : 0);
-        Kept.ForEach(writer.Write);
+        WasAProxy = fields.Bool(280, WasAProxy);
+        IsEntity = fields.Bool(281, IsEntity);
+        fields.Tags(Kept);
     }
 }

@@ -4,7 +4,7 @@ using System.Globalization;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -25,7 +25,7 @@ public partial class CadHeader
     /// <see cref="ImageOptions.DxfOptions.Version"/> does for one file. $ACADVER.</summary>
     public CadAcadVersion AcadVersion
     {
-        get => DxfRelease.Parse(GetString("$ACADVER"));
+        get => DrawingRelease.Parse(GetString("$ACADVER"));
         set => Set("$ACADVER", 1, value.ToString());
     }
 

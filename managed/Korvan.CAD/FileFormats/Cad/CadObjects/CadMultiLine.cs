@@ -1,6 +1,7 @@
 using System.Collections.Generic;
+using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -18,7 +19,7 @@ public partial class CadMultiLine : CadEntityBase
     public string StyleName { get; set; } = "STANDARD";
 
     /// <summary>Gets or sets the handle of the style in hexadecimal. Group code 340.</summary>
-    [CadString(340, Optional = true)]
+    [CadHandle(340, Optional = true)]
     public string StyleHandle { get; set; } = "";
 
     /// <summary>Gets or sets the factor on the offsets of the style. Group code 40.</summary>
@@ -49,97 +50,105 @@ public partial class CadMultiLine : CadEntityBase
     /// <summary>Gets the vertices. The list is live.</summary>
     public IList<CadMultiLineVectorBlock> Vertices { get; } = new CheckedList<CadMultiLineVectorBlock>("vertices");
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         taken = true;
         if (code == 72)
         {
-            Vertices.EnsureCapacity(tags.GetCount());
+            Vertices.EnsureCapacity(reader.GetCount());
         }
         else if (code == 11)
         {
             Vertices.Add(new CadMultiLineVectorBlock());
-            Vertices[^1].Location.X = tags.GetDouble();
+            Vertices[^1].Location.X = reader.GetDouble();
         }
         else
         {
-            taken = Vertices.Count > 0 && ReadVertex(code, Vertices[^1], tags);
+            taken = Vertices.Count > 0 && ReadVertex(code, Vertices[^1], reader);
         }
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        writer.Write(72, Vertices.Count);
-        foreach (CadMultiLineVectorBlock vertex in Vertices)
+        int count = fields.Count(72, Vertices.Count);
+        for (int i = 0; i < count; i++)
         {
-            writer.Write(11, vertex.Location);
-            writer.Write(12, vertex.Direction);
-            writer.Write(13, vertex.Miter);
-            for (int i = 0; i < vertex.ElementParameters.Count; i++)
+            CadMultiLineVectorBlock vertex = fields.Item(Vertices, i);
+            fields.Point(11, vertex.Location);
+            fields.Point(12, vertex.Direction);
+            fields.Point(13, vertex.Miter);
+            int elements = fields.Count(0, vertex.ElementParameters.Count);
+            for (int element = 0; element < elements; element++)
             {
-                WriteLengths(writer, 74, 41, vertex.ElementParameters[i]);
-                WriteLengths(writer, 75, 42, i < vertex.FillParameters.Count ? vertex.FillParameters[i] : []);
+                ExchangeLengths(fields, 74, 41, vertex.ElementParameters, element);
+                ExchangeLengths(fields, 75, 42, vertex.FillParameters, element);
             }
         }
     }
 
-    private static bool ReadVertex(int code, CadMultiLineVectorBlock vertex, DxfTagReader tags)
+    private static bool ReadVertex(int code, CadMultiLineVectorBlock vertex, FieldReader reader)
     {
         switch (code)
         {
             case 21:
-                vertex.Location.Y = tags.GetDouble();
+                vertex.Location.Y = reader.GetDouble();
                 return true;
             case 31:
-                vertex.Location.Z = tags.GetDouble();
+                vertex.Location.Z = reader.GetDouble();
                 return true;
             case 12:
-                vertex.Direction.X = tags.GetDouble();
+                vertex.Direction.X = reader.GetDouble();
                 return true;
             case 22:
-                vertex.Direction.Y = tags.GetDouble();
+                vertex.Direction.Y = reader.GetDouble();
                 return true;
             case 32:
-                vertex.Direction.Z = tags.GetDouble();
+                vertex.Direction.Z = reader.GetDouble();
                 return true;
             case 13:
-                vertex.Miter.X = tags.GetDouble();
+                vertex.Miter.X = reader.GetDouble();
                 return true;
             case 23:
-                vertex.Miter.Y = tags.GetDouble();
+                vertex.Miter.Y = reader.GetDouble();
                 return true;
             case 33:
-                vertex.Miter.Z = tags.GetDouble();
+                vertex.Miter.Z = reader.GetDouble();
                 return true;
             default:
-                return ReadLengths(code, vertex, tags);
+                return ReadLengths(code, vertex, reader);
         }
     }
 
-    private static bool ReadLengths(int code, CadMultiLineVectorBlock vertex, DxfTagReader tags)
+    private static bool ReadLengths(int code, CadMultiLineVectorBlock vertex, FieldReader reader)
     {
         switch (code)
         {
             case 74:
-                vertex.ElementParameters.Add(new List<double>(tags.GetCount()));
+                vertex.ElementParameters.Add(new List<double>(reader.GetCount()));
                 return true;
             case 75:
-                vertex.FillParameters.Add(new List<double>(tags.GetCount()));
+                vertex.FillParameters.Add(new List<double>(reader.GetCount()));
                 return true;
             case 41 when vertex.ElementParameters.Count > 0:
-                vertex.ElementParameters[^1].Add(tags.GetDouble());
+                vertex.ElementParameters[^1].Add(reader.GetDouble());
                 return true;
             case 42 when vertex.FillParameters.Count > 0:
-                vertex.FillParameters[^1].Add(tags.GetDouble());
+                vertex.FillParameters[^1].Add(reader.GetDouble());
                 return true;
             default:
                 return false;
         }
     }
 
-    private static void WriteLengths(DxfTagWriter writer, int countCode, int code, List<double> lengths)
+    private static void ExchangeLengths(
+        ObjectExchange fields, int countCode, int code, List<List<double>> all, int index)
     {
-        writer.Write(countCode, lengths.Count);
-        lengths.ForEach(length => writer.Write(code, length));
+        if (fields.IsReading)
+        {
+            all.Add([]);
+        }
+
+        List<double> lengths = index < all.Count ? all[index] : [];
+        fields.Items(code, lengths, fields.Count(countCode, lengths.Count));
     }
 }

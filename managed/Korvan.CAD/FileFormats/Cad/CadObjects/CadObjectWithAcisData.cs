@@ -1,5 +1,5 @@
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -18,31 +18,31 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
     /// <summary>Gets or sets the version of the modeler's text. Group code 70.</summary>
     public short ModelerFormatVersion { get; set; } = 1;
 
-    internal bool ReadAcis(int code, DxfTagReader tags)
+    internal bool ReadAcis(int code, FieldReader reader)
     {
         switch (code)
         {
             case 1:
-                AcisData.Add(tags.GetString());
+                AcisData.Add(reader.GetString());
                 return true;
             case 3 when AcisData.Count > 0:
-                AcisData[^1] += tags.GetString();
+                AcisData[^1] += reader.GetString();
                 return true;
-            case 70 when tags.Subclass is null or "AcDbModelerGeometry":
-                ModelerFormatVersion = tags.GetShort();
+            case 70 when reader.Subclass is null or "AcDbModelerGeometry":
+                ModelerFormatVersion = reader.GetShort();
                 return true;
             default:
                 return false;
         }
     }
 
-    internal void WriteAcis(DxfTagWriter writer)
+    internal void ExchangeAcis(ObjectExchange fields)
     {
-        if (writer.Release < 2013 || AcisData.Count > 0)
+        if (fields.Includes(0, fields.Release < 2013 || AcisData.Count > 0))
         {
-            writer.Write(70, ModelerFormatVersion);
+            ModelerFormatVersion = fields.Int16(70, ModelerFormatVersion);
         }
 
-        writer.WriteChunks(AcisData);
+        fields.Lines(AcisData);
     }
 }

@@ -1,4 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -134,6 +135,6 @@ public partial class CadPlotSettings : CadObjectBase
     public double PaperImageOriginY { get; set; }
 
     /// <summary>Gets or sets the handle of the visual style of shaded plots in hexadecimal. Group code 333.</summary>
-    [CadString(333, Optional = true, Since = 2007)]
+    [CadHandle(333, Optional = true, Since = 2007)]
     public string ShadePlotHandle { get; set; } = "";
 }

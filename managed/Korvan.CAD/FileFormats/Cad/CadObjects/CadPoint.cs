@@ -1,3 +1,5 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A point. How it is drawn is told by $PDMODE and $PDSIZE.</summary>
@@ -14,6 +16,6 @@ public partial class CadPoint : CadExtrudedEntityBase
     public Cad3DPoint CenterPoint { get; set; } = new();
 
     /// <summary>Gets or sets the angle of the X axis of the point symbol, in degrees. Group code 50.</summary>
-    [CadDouble(50, Optional = true)]
+    [CadAngle(50, Optional = true)]
     public double PointAngle { get; set; }
 }

@@ -1,3 +1,5 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>Tells a picture entity that its picture changed.</summary>
@@ -14,6 +16,6 @@ public partial class CadRasterImageDefReactor : CadObjectBase
     public int ClassVersion { get; set; }
 
     /// <summary>Gets or sets the handle of the picture entity in hexadecimal. Group code 330.</summary>
-    [CadString(330, Optional = true)]
+    [CadHandle(330, Optional = true)]
     public string AssociatedImageHandle { get; set; } = "";
 }

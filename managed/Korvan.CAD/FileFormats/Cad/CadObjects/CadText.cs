@@ -1,4 +1,4 @@
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -25,7 +25,7 @@ public partial class CadText : CadExtrudedEntityBase
     public string DefaultValue { get; set; } = "";
 
     /// <summary>Gets or sets the direction of the base line, in degrees. Group code 50.</summary>
-    [CadDouble(50, Optional = true)]
+    [CadAngle(50, Optional = true)]
     public double TextRotation { get; set; }
 
     /// <summary>Gets or sets the width of letters relative to the font. Group code 41.</summary>
@@ -33,11 +33,11 @@ public partial class CadText : CadExtrudedEntityBase
     public double ScaleX { get; set; } = 1;
 
     /// <summary>Gets or sets the slant of letters, in degrees. Group code 51.</summary>
-    [CadDouble(51, Optional = true)]
+    [CadAngle(51, Optional = true)]
     public double ObliqueAngle { get; set; }
 
     /// <summary>Gets or sets the name of the text style. Group code 7.</summary>
-    [CadString(7, Optional = true)]
+    [CadName(7, SymbolTable.Style, Optional = true)]
     public string StyleType { get; set; } = "STANDARD";
 
     /// <summary>Gets or sets how letters are mirrored: 2 left to right, 4 upside down. Group code 71.</summary>
@@ -57,21 +57,26 @@ public partial class CadText : CadExtrudedEntityBase
     /// <summary>Gets or sets the vertical alignment: 0 base line, 1 bottom, 2 middle, 3 top. Group code 73.</summary>
     public short VerticalAlignment { get; set; }
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         if (code == 73)
         {
-            VerticalAlignment = tags.GetShort();
+            VerticalAlignment = reader.GetShort();
             taken = true;
         }
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        if (GetType() == typeof(CadText))
+        if (GetType() != typeof(CadText))
         {
-            writer.WriteSubclass("AcDbText");
-            writer.WriteOptional(73, VerticalAlignment, 0);
+            return;
+        }
+
+        fields.BeginSubclass("AcDbText");
+        if (fields.Includes(0, VerticalAlignment != 0))
+        {
+            VerticalAlignment = fields.Int16(73, VerticalAlignment);
         }
     }
 }

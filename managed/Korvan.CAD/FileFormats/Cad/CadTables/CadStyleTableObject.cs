@@ -1,5 +1,6 @@
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -21,7 +22,7 @@ public partial class CadStyleTableObject : CadSymbolTableGroupCodes
     public double WidthFactor { get; set; } = 1;
 
     /// <summary>Gets or sets the slant of letters, in degrees. Group code 50.</summary>
-    [CadDouble(50)]
+    [CadAngle(50)]
     public double ObliqueAngle { get; set; }
 
     /// <summary>Gets or sets how letters are mirrored: 2 left to right, 4 upside down. Group code 71.</summary>

@@ -1,7 +1,7 @@
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -47,15 +47,15 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
     }
 
     /// <inheritdoc/>
-    internal override bool ReadCode(int code, DxfTagReader tags)
+    internal override bool ReadField(int code, FieldReader reader)
     {
         switch (code)
         {
             case 2:
-                _name = tags.GetName();
+                _name = reader.GetName();
                 return true;
             case 70:
-                Flags = tags.GetShort();
+                Flags = reader.GetShort();
                 return true;
             default:
                 return false;
@@ -63,15 +63,17 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
     }
 
     /// <inheritdoc/>
-    internal override void WriteCodes(DxfTagWriter writer)
+    internal override void Exchange(ObjectExchange fields)
     {
-        writer.WriteSubclass("AcDbSymbolTableRecord");
+        fields.BeginSubclass("AcDbSymbolTableRecord");
     }
 
     /// <summary>Writes what stands first behind the marker of the record.</summary>
-    internal virtual void WriteNameAndFlags(DxfTagWriter writer)
+    internal virtual void ExchangeNameAndFlags(ObjectExchange fields)
     {
-        writer.Write(2, Name);
-        writer.Write(70, Flags);
+        ExchangeName(fields);
+        Flags = fields.Int16(70, Flags);
     }
+
+    private protected void ExchangeName(ObjectExchange fields) => _name = fields.Text(2, _name);
 }

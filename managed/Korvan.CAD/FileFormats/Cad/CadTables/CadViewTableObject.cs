@@ -1,5 +1,6 @@
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -46,7 +47,7 @@ public partial class CadViewTableObject : CadSymbolTableGroupCodes
     public double BackClippingPlane { get; set; }
 
     /// <summary>Gets or sets how far the view is turned, in degrees. Group code 50.</summary>
-    [CadDouble(50)]
+    [CadAngle(50)]
     public double TwistAngle { get; set; }
 
     /// <summary>Gets or sets bits: 1 perspective, 2 front and 4 back clipping. Group code 71.</summary>

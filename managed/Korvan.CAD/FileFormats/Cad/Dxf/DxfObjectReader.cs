@@ -5,6 +5,8 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -41,13 +43,20 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
                 break;
             }
 
-            if (!ReadCommon(code, target) && !target.ReadCode(code, tags))
+            if (!ReadCommon(code, target) && !target.ReadField(code, tags))
             {
-                target.Keep(tags.Subclass, tags.ToCodeValue());
+                Keep(target, tags.Subclass);
             }
         }
 
         tags.Unread();
+    }
+
+    private static KeptTags KeptOf(CadBaseObject target) => (KeptTags)(target.Kept ??= new KeptTags());
+
+    private void Keep(CadBaseObject target, string? subclass)
+    {
+        KeptOf(target).Tags.Add(new KeptTag(subclass, tags.ToCodeValue()));
     }
 
     private static bool IsRaw(CadBaseObject target) => target is RawEntity or RawObject;
@@ -102,7 +111,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
     {
         do
         {
-            target.Keep(KeptTag.Verbatim, tags.ToCodeValue());
+            Keep(target, KeptTag.Verbatim);
         }
         while (tags.Next() && tags.Code is not 0 and < 1000);
         tags.EnterSubclass(KeptTag.Verbatim);
@@ -111,7 +120,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
 
     private void ReadEmbedded(CadBaseObject target)
     {
-        List<CadCodeValue> embedded = target.Embedded ??= [];
+        List<CadCodeValue> embedded = KeptOf(target).Embedded ??= [];
         do
         {
             embedded.Add(tags.ToCodeValue());
@@ -141,7 +150,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
 
     private void KeepGroup(CadBaseObject target, string name)
     {
-        target.Keep(tags.Subclass, tags.ToCodeValue());
+        Keep(target, tags.Subclass);
         if (!name.StartsWith('{'))
         {
             return;
@@ -149,7 +158,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
 
         while (tags.Next() && tags.Code != 0)
         {
-            target.Keep(tags.Subclass, tags.ToCodeValue());
+            Keep(target, tags.Subclass);
             if (tags.Code == 102)
             {
                 return;
@@ -190,7 +199,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
         "POLYLINE" => CreatePolyline(tags.Peek(70) ?? 0),
         "VERTEX" => new Cad2DVertex(),
         "DIMENSION" => CreateDimension(tags.Peek(70) ?? 0),
-        _ => DxfTypeTable.CreateEntity(name) ?? new RawEntity(name),
+        _ => ObjectTypes.CreateEntity(name) ?? new RawEntity(name),
     };
 
     private static CadPolylineBase CreatePolyline(int flags) => (CadPolylineFlag)flags switch

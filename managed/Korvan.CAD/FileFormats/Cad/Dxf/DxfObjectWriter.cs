@@ -2,12 +2,15 @@ using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
 /// <summary>Writes one object: what all have in common, and through its codec what is its own.</summary>
 internal sealed class DxfObjectWriter(DxfTagWriter writer)
 {
+    private readonly DxfFieldWriter _fields = new(writer);
+
     internal void WriteEntity(CadEntityBase entity)
     {
         Write(entity);
@@ -27,7 +30,7 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
     internal void Write(CadBaseObject item)
     {
         Begin(item);
-        item.WriteCodes(writer);
+        item.Exchange(_fields);
         WriteRest(item);
     }
 
@@ -106,7 +109,7 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
     private void WriteKeptElsewhere(CadBaseObject item)
     {
         string? marker = null;
-        foreach (KeptTag tag in item.Kept ?? [])
+        foreach (KeptTag tag in item.KeptTags?.Tags ?? [])
         {
             if (writer.HasWritten(tag.Subclass))
             {

@@ -2,6 +2,8 @@ using System;
 using System.Globalization;
 using System.Text;
 using System.Text.Unicode;
+using Korvan.CAD.Encodings;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -34,7 +36,7 @@ internal sealed partial class DxfTagReader
     internal TextEscapes Escapes { get; set; } = TextEscapes.Standard;
 
     /// <summary>Gives the value as a text.</summary>
-    internal string GetString()
+    internal override string GetString()
     {
         if (IsBinary && !BinaryTags.IsText(Code))
         {
@@ -46,7 +48,7 @@ internal sealed partial class DxfTagReader
     }
 
     /// <summary>Gives the value as a name: without blanks at its ends.</summary>
-    internal string GetName()
+    internal override string GetName()
     {
         ReadOnlySpan<byte> bytes = Value;
         if (bytes.Length > 0 && (bytes[0] == ' ' || bytes[^1] == ' '))

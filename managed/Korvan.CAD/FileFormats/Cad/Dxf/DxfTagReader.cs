@@ -1,8 +1,8 @@
 using System;
 using System.Buffers.Text;
-using System.Collections.Generic;
 using System.Globalization;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -10,7 +10,7 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// Reads the tags of an interchange file, text or binary, from memory. A tag is a group code and a value; the value
 /// stays a slice of the file until it is asked for in one of its types.
 /// </summary>
-internal sealed partial class DxfTagReader
+internal sealed partial class DxfTagReader : FieldReader
 {
     private readonly byte[] _data;
     private readonly string _fileName;
@@ -31,16 +31,6 @@ internal sealed partial class DxfTagReader
         _position = _binary == BinaryLayout.None ? SkipByteOrderMark(data) : BinaryTags.Sentinel.Length;
     }
 
-    /// <summary>Gets the group code of the current tag.</summary>
-    internal int Code { get; private set; }
-
-    /// <summary>Gets the marker that the current tag stands behind, or nothing before the first one.</summary>
-    internal string? Subclass { get; private set; }
-
-    /// <summary>Gets or sets what was wrong with objects that were left out; nothing when damage is not forgiven.
-    /// </summary>
-    internal List<string>? Errors { get; set; }
-
     /// <summary>Gets whether the file is binary.</summary>
     internal bool IsBinary => _binary != BinaryLayout.None;
 
@@ -55,7 +45,7 @@ internal sealed partial class DxfTagReader
 
     /// <summary>Goes on to the next tag; comments are passed over.</summary>
     /// <returns>Whether there is one.</returns>
-    internal bool Next()
+    internal override bool Next()
     {
         if (_unread)
         {
@@ -77,12 +67,7 @@ internal sealed partial class DxfTagReader
 
     /// <summary>Makes <see cref="Next"/> give the current tag again; behind the last tag there is none to give.
     /// </summary>
-    internal void Unread() => _unread = !_ended;
-
-    /// <summary>Tells whether the current tag stands behind a marker; old files have no markers.</summary>
-    internal bool InSubclass(string name) => Subclass is null || Subclass == name;
-
-    internal void EnterSubclass(string? name) => Subclass = name;
+    internal override void Unread() => _unread = !_ended;
 
     internal bool ValueIs(ReadOnlySpan<byte> text) => Trimmed().SequenceEqual(text);
 
@@ -110,7 +95,7 @@ internal sealed partial class DxfTagReader
         (_unread, _ended) = (unread, ended);
     }
 
-    internal double GetDouble()
+    internal override double GetDouble()
     {
         double value;
         if (IsBinary)
@@ -126,15 +111,17 @@ internal sealed partial class DxfTagReader
             + "a finite number was expected");
     }
 
-    internal int GetInt()
+    internal override double GetAngle() => GetDouble();
+
+    internal override int GetInt()
     {
         long value = GetLong();
         return unchecked((int)value);
     }
 
-    internal short GetShort() => unchecked((short)GetLong());
+    internal override short GetShort() => unchecked((short)GetLong());
 
-    internal long GetLong()
+    internal override long GetLong()
     {
         if (IsBinary)
         {
@@ -154,7 +141,7 @@ internal sealed partial class DxfTagReader
     }
 
     /// <summary>Reads how many parts follow; a count that the rest of the file cannot hold is damage.</summary>
-    internal int GetCount()
+    internal override int GetCount()
     {
         const int smallestTag = 4;
         long count = GetLong();
@@ -163,7 +150,7 @@ internal sealed partial class DxfTagReader
             : throw Fail($"group code {Code} announces {count} parts, but only {Remaining} bytes follow");
     }
 
-    internal ulong GetHandle()
+    internal override ulong GetHandle()
     {
         ReadOnlySpan<byte> text = Trimmed();
         if (Utf8Parser.TryParse(text, out ulong value, out int used, 'X') && used == text.Length)
@@ -175,7 +162,11 @@ internal sealed partial class DxfTagReader
             + "hexadecimal number, was expected");
     }
 
-    internal byte[] AppendBinary(byte[] before)
+    internal override string GetHandleText() => GetString();
+
+    internal override ImageLoadException BadValue(string cause) => Fail(cause);
+
+    internal override byte[] AppendBinary(byte[] before)
     {
         byte[] chunk;
         try
@@ -193,7 +184,7 @@ internal sealed partial class DxfTagReader
     }
 
     /// <summary>Gives the current tag as it stands in the file.</summary>
-    internal CadCodeValue ToCodeValue() => new(Code, ValueText());
+    internal override CadCodeValue ToCodeValue() => new(Code, ValueText());
 
     /// <summary>Describes damage at the current tag.</summary>
     internal ImageLoadException Fail(string cause)

@@ -5,7 +5,9 @@ using System.Globalization;
 using System.IO;
 using System.Text;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -142,13 +144,13 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
     /// <summary>Writes the tags of an object that nobody interprets and that stood behind a marker.</summary>
     internal void WriteKept(CadBaseObject source, string? subclass)
     {
-        if (source.Kept is null || HasWritten(subclass))
+        if (source.KeptTags is not { } kept || HasWritten(subclass))
         {
             return;
         }
 
         _keptFor.Add(subclass);
-        foreach (KeptTag tag in source.Kept)
+        foreach (KeptTag tag in kept.Tags)
         {
             if (tag.Subclass == subclass)
             {

@@ -1,5 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 
@@ -32,28 +32,32 @@ public partial class CadAttDef : CadText
     /// <summary>Gets or sets whether the place within the block is locked. Group code 280.</summary>
     public bool LockPosition { get; set; }
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         // The vertical alignment of an attribute has a code of its own: 73 is the field length here.
         if (code == 74)
         {
-            VerticalAlignment = tags.GetShort();
+            VerticalAlignment = reader.GetShort();
             taken = true;
         }
         else if (code == 280)
         {
             // The version stands before the tag, the lock behind it.
-            LockPosition = DefinitionTagString.Length > 0 && tags.GetShort() != 0;
+            LockPosition = DefinitionTagString.Length > 0 && reader.GetShort() != 0;
             taken = true;
         }
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        writer.WriteOptional(74, VerticalAlignment, 0);
-        if (writer.Release >= 2010)
+        if (fields.Includes(0, VerticalAlignment != 0))
         {
-            writer.Write(280, LockPosition ? 1 : 0);
+            VerticalAlignment = fields.Int16(74, VerticalAlignment);
+        }
+
+        if (fields.Includes(2010, true))
+        {
+            LockPosition = fields.Bool(280, LockPosition);
         }
     }
 }

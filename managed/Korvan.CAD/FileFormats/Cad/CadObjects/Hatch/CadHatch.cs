@@ -1,5 +1,6 @@
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.Collections;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
@@ -43,7 +44,7 @@ public partial class CadHatch : CadEntityBase
     public short PatternType { get; set; } = 1;
 
     /// <summary>Gets or sets the rotation of the pattern, in degrees. Group code 52.</summary>
-    [CadDouble(52)]
+    [CadAngle(52)]
     public double PatternAngle { get; set; }
 
     /// <summary>Gets or sets the scale or distance of the pattern. Group code 41.</summary>
@@ -102,30 +103,30 @@ public partial class CadHatch : CadEntityBase
     /// <summary>Gets the place and the number of the colour of each gradient colour. Group codes 463, 63.</summary>
     internal List<(double Place, short? ColorId)> GradientStops { get; } = [];
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         taken = true;
         switch (code)
         {
             case 91:
-                HatchCodec.ReadPaths(this, tags);
+                HatchFields.ReadPaths(this, reader);
                 break;
             case 78:
-                HatchCodec.ReadPattern(this, tags);
+                HatchFields.ReadPattern(this, reader);
                 break;
             case 98:
-                HatchCodec.ReadSeeds(this, tags);
+                HatchFields.ReadSeeds(this, reader);
                 break;
             case 451 or 453:
                 break;
             case 463:
-                GradientStops.Add((tags.GetDouble(), null));
+                GradientStops.Add((reader.GetDouble(), null));
                 break;
             case 63 when GradientStops.Count > 0:
-                GradientStops[^1] = (GradientStops[^1].Place, tags.GetShort());
+                GradientStops[^1] = (GradientStops[^1].Place, reader.GetShort());
                 break;
             case 421:
-                GradientColors.Add(tags.GetInt());
+                GradientColors.Add(reader.GetInt());
                 break;
             default:
                 taken = false;
@@ -133,5 +134,5 @@ public partial class CadHatch : CadEntityBase
         }
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer) => HatchCodec.Write(this, writer);
+    partial void OnExchange(ObjectExchange fields) => HatchFields.Exchange(this, fields);
 }

@@ -1,5 +1,6 @@
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.Collections;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
@@ -21,17 +22,17 @@ public class CadPolylineBoundaryPath : ICadBoundaryPath
     /// live. Group code 42.</summary>
     public List<double> Bulges { get; } = [];
 
-    bool ICadBoundaryPath.ReadCode(int code, DxfTagReader tags)
+    bool ICadBoundaryPath.ReadField(int code, FieldReader reader)
     {
         switch (code)
         {
             case 72:
                 break;
             case 73:
-                IsClosed = tags.GetInt() != 0;
+                IsClosed = reader.GetInt() != 0;
                 break;
             case 93:
-                Vertices.EnsureCapacity(tags.GetCount());
+                Vertices.EnsureCapacity(reader.GetCount());
                 break;
             case 42 when Vertices.Count > 0:
                 while (Bulges.Count < Vertices.Count - 1)
@@ -39,26 +40,26 @@ public class CadPolylineBoundaryPath : ICadBoundaryPath
                     Bulges.Add(0);
                 }
 
-                Bulges.Add(tags.GetDouble());
+                Bulges.Add(reader.GetDouble());
                 break;
             default:
-                return PointLists.TryRead(code, 10, Vertices, tags);
+                return FieldLists.TryRead(code, 10, Vertices, reader);
         }
 
         return true;
     }
 
-    void ICadBoundaryPath.WriteCodes(DxfTagWriter writer)
+    void ICadBoundaryPath.Exchange(ObjectExchange fields)
     {
-        writer.Write(72, Bulges.Count > 0 ? 1 : 0);
-        writer.Write(73, IsClosed ? 1 : 0);
-        writer.Write(93, Vertices.Count);
-        for (int i = 0; i < Vertices.Count; i++)
+        bool hasBulges = fields.Bool(72, Bulges.Count > 0);
+        IsClosed = fields.Bool(73, IsClosed);
+        int count = fields.Count(93, Vertices.Count);
+        for (int i = 0; i < count; i++)
         {
-            writer.Write(10, Vertices[i]);
-            if (Bulges.Count > 0)
+            fields.Point(10, fields.Item(Vertices, i));
+            if (hasBulges)
             {
-                writer.Write(42, i < Bulges.Count ? Bulges[i] : 0);
+                fields.ItemAt(42, Bulges, i, 0);
             }
         }
     }

@@ -1,6 +1,7 @@
 using System.Collections.Generic;
+using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 
@@ -27,21 +28,21 @@ public partial class CadMLineStyleObject : CadObjectBase
     public string Description { get; set; } = "";
 
     /// <summary>Gets or sets the number of the fill's colour. Group code 62.</summary>
-    [CadShort(62)]
+    [CadColor(62)]
     public short FillColorId { get; set; } = 256;
 
     /// <summary>Gets or sets the angle of the start, in degrees. Group code 51.</summary>
-    [CadDouble(51)]
+    [CadAngle(51)]
     public double StartAngle { get; set; } = 90;
 
     /// <summary>Gets or sets the angle of the end, in degrees. Group code 52.</summary>
-    [CadDouble(52)]
+    [CadAngle(52)]
     public double EndAngle { get; set; } = 90;
 
     /// <summary>Gets the lines of the style. The list is live.</summary>
     public IList<CadMLineStyleElement> Elements { get; } = new CheckedList<CadMLineStyleElement>("elements");
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         taken = true;
         switch (code)
@@ -49,16 +50,16 @@ public partial class CadMLineStyleObject : CadObjectBase
             case 71:
                 break;
             case 49:
-                Elements.Add(new CadMLineStyleElement { Offset = tags.GetDouble() });
+                Elements.Add(new CadMLineStyleElement { Offset = reader.GetDouble() });
                 break;
             case 62 when Elements.Count > 0:
-                Elements[^1].ColorId = tags.GetShort();
+                Elements[^1].ColorId = reader.GetShort();
                 break;
             case 420 when Elements.Count > 0:
-                Elements[^1].ColorValue = tags.GetInt();
+                Elements[^1].ColorValue = reader.GetInt();
                 break;
             case 6 when Elements.Count > 0:
-                Elements[^1].LineTypeName = tags.GetString();
+                Elements[^1].LineTypeName = reader.GetString();
                 break;
             default:
                 taken = false;
@@ -66,19 +67,20 @@ public partial class CadMLineStyleObject : CadObjectBase
         }
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        writer.Write(71, Elements.Count);
-        foreach (CadMLineStyleElement element in Elements)
+        int count = fields.Count(71, Elements.Count);
+        for (int i = 0; i < count; i++)
         {
-            writer.Write(49, element.Offset);
-            writer.Write(62, element.ColorId);
-            if (writer.Release >= 2004 && element.ColorValue >= 0)
+            CadMLineStyleElement element = fields.Item(Elements, i);
+            element.Offset = fields.Double(49, element.Offset);
+            element.ColorId = fields.Color(62, element.ColorId);
+            if (fields.Includes(2004, element.ColorValue >= 0))
             {
-                writer.Write(420, element.ColorValue);
+                element.ColorValue = fields.Int32(420, element.ColorValue);
             }
 
-            writer.Write(6, element.LineTypeName);
+            element.LineTypeName = fields.Name(6, SymbolTable.LineType, element.LineTypeName);
         }
     }
 }

@@ -1,5 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 
@@ -34,17 +34,17 @@ public abstract partial class CadVertexBase : CadEntityBase
     public short VertexFlags { get; set; }
 
     /// <summary>Gets or sets the tangent for curve fitting, in degrees. Group code 50.</summary>
-    [CadDouble(50, Optional = true)]
+    [CadAngle(50, Optional = true)]
     public double CurveFitTangent { get; set; }
 
     /// <inheritdoc/>
-    internal override void WriteMarker(DxfTagWriter writer, string subclass)
+    internal override void BeginSubclass(ObjectExchange fields, string subclass)
     {
         if (subclass != "AcDbEntity" && this is not CadFaceRecord)
         {
-            writer.WriteSubclass("AcDbVertex");
+            fields.BeginSubclass("AcDbVertex");
         }
 
-        base.WriteMarker(writer, subclass);
+        base.BeginSubclass(fields, subclass);
     }
 }

@@ -1,0 +1,9 @@
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
+namespace Korvan.CAD.FileFormats.Cad.Model;
+
+/// <summary>An object whose codes nobody interprets.</summary>
+internal sealed class RawObject(string dxfName) : CadObjectBase
+{
+    internal override string DxfName => dxfName;
+}

@@ -1,0 +1,17 @@
+using System.Collections.Generic;
+
+namespace Korvan.CAD.Formats.Detection;
+
+/// <summary>Formats of XML that are told apart by their root element, and neither read nor written.</summary>
+internal static class KnownTexts
+{
+    internal static IReadOnlyList<FormatRecord> Records { get; } =
+    [
+        new()
+        {
+            Name = "Collada",
+            Formats = [FileFormat.Collada],
+            Detect = static source => XmlRoot.Is(source, "COLLADA") ? FileFormat.Collada : FileFormat.Undefined,
+        },
+    ];
+}
