@@ -7,23 +7,23 @@ using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Rendering.Metafile;
 
-/// <summary>The packed cells of one tile, and what they mean.</summary>
+/// <summary>The compressed cells of one tile and their format.</summary>
 internal readonly record struct PackedTile(CompressionType Compression, byte[] Cells, int Width, int Height)
 {
-    /// <summary>Bits of a number, or of one component of a colour; 1 for a tile of two colours.</summary>
+    /// <summary>Bits of a colour index, or of a colour component; 1 for a bitonal tile.</summary>
     internal int Bits { get; init; } = 1;
 
-    /// <summary>3 where cells are colours, 1 where they are numbers.</summary>
+    /// <summary>3 for direct colours, 1 for colour indexes.</summary>
     internal int Components { get; init; } = 1;
 
-    /// <summary>Each line fills a multiple of so many bits; 0 for lines that follow each other directly.</summary>
+    /// <summary>Each row is padded to a multiple of so many bits; 0 for no padding.</summary>
     internal int RowPadding { get; init; }
 }
 
 /// <summary>
-/// Unpacks tiles. What facsimile machines and TIFF share is put into a TIFF of one strip and left to its library.
+/// Decompresses tiles. The compressions that TIFF shares are wrapped in a TIFF file of one strip and left to its codec.
 /// </summary>
-internal static class TilePictures
+internal static class TileImages
 {
     private const int HeaderLength = 8;
     private const int EntryLength = 12;
@@ -39,7 +39,7 @@ internal static class TilePictures
         _ => null,
     };
 
-    /// <summary>The pixels of a tile of two colours; null when its packing is not read or its data is damaged.</summary>
+    /// <summary>The pixels of a bitonal tile; null if it is damaged or its compression is not supported.</summary>
     internal static Picture? Bitonal(in PackedTile tile, Rgba background, Rgba foreground)
     {
         if (tile.Compression is CompressionType.NullBackground or CompressionType.NullForeground)
@@ -49,16 +49,16 @@ internal static class TilePictures
 
         if (tile.Compression == CompressionType.Bitmap)
         {
-            byte[] cells = tile.Cells;
-            return Painted(tile, Stride(tile), (bits, at) => (bits[at >> 3] & (0x80 >> (at & 7))) != 0, cells, background, foreground);
+            return Painted(tile, background, foreground);
         }
 
-        if (TiffKind(tile.Compression) is not (int, int) kind || Decoded(Tiff(tile, kind.Compression, kind.Options)) is not Picture picture)
+        if (TiffKind(tile.Compression) is not (int, int) kind
+            || Decoded(Tiff(tile, kind.Compression, kind.Options)) is not Picture picture)
         {
             return null;
         }
 
-        // The library gives black for the foreground and white for the rest.
+        // The codec returns black for the foreground and white for the background.
         byte[] pixels = picture.Pixels;
         for (int at = 0; at < pixels.Length; at += 4)
         {
@@ -68,8 +68,8 @@ internal static class TilePictures
         return picture;
     }
 
-    /// <summary>The pixels of a tile of many colours: a picture file in itself, cells that are not packed, or cells of 8
-    /// bits packed by LZW. Null for any other.</summary>
+    /// <summary>The pixels of a colour tile: an image file, uncompressed cells, or 8-bit cells of LZW. Null for any
+    /// other.</summary>
     internal static Picture? Coloured(in PackedTile tile, Func<int, Rgba> colorOf)
     {
         switch (tile.Compression)
@@ -92,7 +92,7 @@ internal static class TilePictures
         }
     }
 
-    /// <summary>Cells that have colours already, line by line.</summary>
+    /// <summary>The pixels of uncompressed cells, row by row.</summary>
     internal static Picture FromCells(ReadOnlySpan<int> cells, int width, int height, Func<int, Rgba> colorOf)
     {
         byte[] pixels = new byte[checked(width * height * 4)];
@@ -122,10 +122,10 @@ internal static class TilePictures
         return new Picture(tile.Width, tile.Height, pixels);
     }
 
-    private static Picture? Painted(
-        in PackedTile tile, long stride, Func<byte[], int, bool> isForeground, byte[] cells, Rgba background, Rgba foreground)
+    private static Picture? Painted(in PackedTile tile, Rgba background, Rgba foreground)
     {
-        if ((stride * (tile.Height - 1)) + tile.Width > cells.Length * 8L)
+        long stride = Stride(tile);
+        if ((stride * (tile.Height - 1)) + tile.Width > tile.Cells.Length * 8L)
         {
             return null;
         }
@@ -135,8 +135,9 @@ internal static class TilePictures
         {
             for (int x = 0; x < tile.Width; x++)
             {
-                bool ink = isForeground(cells, (int)((y * stride) + x));
-                Put(pixels, ((y * tile.Width) + x) * 4, ink ? foreground : background);
+                long at = (y * stride) + x;
+                bool isForeground = (tile.Cells[at >> 3] & (0x80 >> (int)(at & 7))) != 0;
+                Put(pixels, ((y * tile.Width) + x) * 4, isForeground ? foreground : background);
             }
         }
 
@@ -149,17 +150,18 @@ internal static class TilePictures
         return (((long)tile.Width * tile.Bits * tile.Components) + unit - 1) / unit * unit;
     }
 
-    /// <summary>The cells one by one, components brought to 8 bits; null when they are not all there.</summary>
+    /// <summary>The cells of an uncompressed tile, with components of 8 bits; null if some are missing.</summary>
     private static int[]? Unpacked(in PackedTile tile)
     {
         long stride = Stride(tile);
-        if (tile.Bits is < 1 or > 16 || (stride * (tile.Height - 1)) + ((long)tile.Width * tile.Bits * tile.Components) > tile.Cells.Length * 8L)
+        long lastRow = (long)tile.Width * tile.Bits * tile.Components;
+        if (tile.Bits is < 1 or > 16 || (stride * (tile.Height - 1)) + lastRow > tile.Cells.Length * 8L)
         {
             return null;
         }
 
         int[] cells = new int[tile.Width * tile.Height];
-        int most = (1 << tile.Bits) - 1;
+        int max = (1 << tile.Bits) - 1;
         for (int i = 0; i < cells.Length; i++)
         {
             long at = (i / tile.Width * stride) + ((long)(i % tile.Width) * tile.Bits * tile.Components);
@@ -167,7 +169,7 @@ internal static class TilePictures
             for (int part = 0; part < tile.Components; part++)
             {
                 int value = BitsAt(tile.Cells, at + (part * tile.Bits), tile.Bits);
-                cell = (cell << 8) | (tile.Components == 1 ? value : value * 255 / most);
+                cell = (cell << 8) | (tile.Components == 1 ? value : value * 255 / max);
             }
 
             cells[i] = cell;
@@ -189,7 +191,7 @@ internal static class TilePictures
 
     private static void Put(byte[] pixels, int at, Rgba color)
     {
-        // Alpha is multiplied in.
+        // Premultiplied by alpha.
         pixels[at] = (byte)(color.B * color.A / 255);
         pixels[at + 1] = (byte)(color.G * color.A / 255);
         pixels[at + 2] = (byte)(color.R * color.A / 255);
@@ -204,19 +206,19 @@ internal static class TilePictures
         }
         catch (FrameworkException)
         {
-            return null; // a picture is drawn without the tiles that are damaged
+            return null; // damaged tiles are left out
         }
     }
 
     /// <summary>A TIFF of one strip (TIFF 6.0, sections 2, 11 and 13; big-endian).</summary>
     private static byte[] Tiff(in PackedTile tile, int compression, int options)
     {
-        const int whiteIsZero = 0, blackIsZero = 1, rgb = 2, longType = 4;
-        int photometric = tile.Components == 3 ? rgb : tile.Bits > 1 ? blackIsZero : whiteIsZero;
+        const int WhiteIsZero = 0, BlackIsZero = 1, Rgb = 2, LongType = 4;
+        int photometric = tile.Components == 3 ? Rgb : tile.Bits > 1 ? BlackIsZero : WhiteIsZero;
         (int Tag, int Value)[] entries =
         [
-            (256, tile.Width), (257, tile.Height), (258, tile.Bits), (259, compression), (262, photometric), (273, 0), (277, tile.Components),
-            (278, tile.Height), (279, tile.Cells.Length), (292, options),
+            (256, tile.Width), (257, tile.Height), (258, tile.Bits), (259, compression), (262, photometric), (273, 0),
+            (277, tile.Components), (278, tile.Height), (279, tile.Cells.Length), (292, options),
         ];
         int strip = HeaderLength + 2 + (entries.Length * EntryLength) + 4;
         byte[] file = new byte[strip + tile.Cells.Length];
@@ -227,7 +229,7 @@ internal static class TilePictures
         {
             Span<byte> entry = file.AsSpan(HeaderLength + 2 + (i * EntryLength), EntryLength);
             BinaryPrimitives.WriteInt16BigEndian(entry, (short)entries[i].Tag);
-            BinaryPrimitives.WriteInt16BigEndian(entry[2..], longType);
+            BinaryPrimitives.WriteInt16BigEndian(entry[2..], LongType);
             BinaryPrimitives.WriteInt32BigEndian(entry[4..], 1);
             BinaryPrimitives.WriteInt32BigEndian(entry[8..], entries[i].Tag == 273 ? strip : entries[i].Value);
         }

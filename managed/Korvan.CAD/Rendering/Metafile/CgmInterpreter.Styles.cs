@@ -9,24 +9,25 @@ using ASF = Korvan.CAD.FileFormats.Cgm.Commands.AspectSourceFlags.ASFType;
 
 namespace Korvan.CAD.Rendering.Metafile;
 
-/// <content>Colours, widths and dashes: what state and bundles come to.</content>
+/// <content>Colours, widths and dash patterns, from the attributes and the bundles.</content>
 internal sealed partial class CgmInterpreter
 {
-    /// <summary>The width 1 of scaled widths: about a pixel of a screen.</summary>
+    /// <summary>The nominal width of scaled widths: about a pixel of a screen.</summary>
     private const double NominalWidthMm = 0.25;
-    private const double UsualWidthMm = 0.35;
+    private const double DefaultWidthMm = 0.35;
 
-    /// <summary>Defaults of sizes are parts of the longer side of the picture (ISO/IEC 8632-1, clause 8).</summary>
-    private const double UsualWidthShare = 0.001;
+    /// <summary>Defaults of sizes are fractions of the longer side of the picture (ISO/IEC 8632-1, clause 8).</summary>
+    private const double DefaultWidthShare = 0.001;
     private const double DashUnitShare = 1.0 / 600;
 
-    /// <summary>Colours of numbers that no table gives: paper, ink, then what most writers mean.</summary>
-    private static readonly Rgba[] UsualColors =
+    /// <summary>Colours of undefined indexes: background, foreground, then the common ones.</summary>
+    private static readonly Rgba[] DefaultColors =
     [
-        Rgba.White, Rgba.Black, new(255, 0, 0), new(0, 255, 0), new(0, 0, 255), new(255, 255, 0), new(255, 0, 255), new(0, 255, 255),
+        Rgba.White, Rgba.Black, new(255, 0, 0), new(0, 255, 0), new(0, 0, 255), new(255, 255, 0), new(255, 0, 255),
+        new(0, 255, 255),
     ];
 
-    /// <summary>Ink and gaps of the registered types of lines, in dash units.</summary>
+    /// <summary>Dashes and gaps of the registered line types, in dash units.</summary>
     private static readonly Dictionary<DashType, double[]> Dashes = new()
     {
         [DashType.Dash] = [6, 3],
@@ -40,11 +41,11 @@ internal sealed partial class CgmInterpreter
         [DashType.Phantom] = [14, 3, 4, 3, 4, 3],
     };
 
-    /// <summary>Units of the picture in what a size counts; millimetres only where the picture has any.</summary>
+    /// <summary>The unit of a size specification mode in VDC; millimetres only where the picture has a scale.</summary>
     private double UnitOf(SpecificationMode mode, double scaled) => mode switch
     {
         SpecificationMode.Absolute => 1,
-        SpecificationMode.Fractional => Longest,
+        SpecificationMode.Fractional => LongerSide,
         SpecificationMode.Millimetres when _picture.Frame.MillimetresPerUnit is double mm => 1 / mm,
         _ => scaled,
     };
@@ -78,25 +79,25 @@ internal sealed partial class CgmInterpreter
             return new Rgba(paper.Color.R, paper.Color.G, paper.Color.B);
         }
 
-        return index < UsualColors.Length ? UsualColors[index] : Rgba.Black;
+        return index < DefaultColors.Length ? DefaultColors[index] : Rgba.Black;
     }
 
     /// <summary>Strokes a path as a line or, with the attributes of edges, as the border of an area.</summary>
     private void Stroke(PathBuffer path, bool isEdge)
     {
         EnsureClip();
-        LineState line = isEdge ? EdgeLook() : LineLookNow();
+        LineState line = isEdge ? CurrentEdge() : CurrentLine();
         SpecificationMode mode = isEdge ? _state.EdgeWidthMode : _state.LineWidthMode;
         StrokeStyle style = Width(line.Width, mode);
         style.Color = ColorOf(line.Color);
         style.Layer = _layer;
-        style.Look = List.Look(LookOf(line));
+        style.Look = List.Look(StyleOf(line));
         style.Dash = DashOf(line, style, out double period);
         style.DashOffset = (float)(line.DashOffset * period);
         List.Stroke(path, style);
     }
 
-    private LineState LineLookNow()
+    private LineState CurrentLine()
     {
         LineState line = Paint.Line;
         if (_state.LineBundles.TryGetValue(line.Bundle, out LineRepresentation? bundle))
@@ -109,7 +110,7 @@ internal sealed partial class CgmInterpreter
         return line;
     }
 
-    private LineState EdgeLook()
+    private LineState CurrentEdge()
     {
         LineState edge = Paint.Edge;
         if (_state.EdgeBundles.TryGetValue(edge.Bundle, out EdgeRepresentation? bundle))
@@ -122,24 +123,32 @@ internal sealed partial class CgmInterpreter
         return edge;
     }
 
-    /// <summary>A width, as its mode counts it, for the page.</summary>
+    /// <summary>The stroke style of a width in the unit of its mode.</summary>
     private StrokeStyle Width(double? stated, SpecificationMode mode)
     {
-        double width = Math.Abs(stated ?? (mode == SpecificationMode.Scaled ? 1 : mode == SpecificationMode.Millimetres ? UsualWidthMm
-            : mode == SpecificationMode.Fractional ? UsualWidthShare : UsualWidthShare * Longest));
+        double width = Math.Abs(stated ?? DefaultWidth(mode));
         double? units = mode switch
         {
             SpecificationMode.Absolute => width,
-            SpecificationMode.Fractional => width * Longest,
+            SpecificationMode.Fractional => width * LongerSide,
             SpecificationMode.Millimetres when _picture.Frame.MillimetresPerUnit is double mm => width / mm,
             _ => null,
         };
+        double millimetres = mode == SpecificationMode.Scaled ? width * NominalWidthMm : width;
         return units is double length
             ? new StrokeStyle { LineWeight = (float)(length * Scale), WeightInUnits = true, Dash = -1 }
-            : new StrokeStyle { LineWeight = (float)(mode == SpecificationMode.Scaled ? width * NominalWidthMm : width), Dash = -1 };
+            : new StrokeStyle { LineWeight = (float)millimetres, Dash = -1 };
     }
 
-    private LineLook LookOf(in LineState line)
+    private double DefaultWidth(SpecificationMode mode) => mode switch
+    {
+        SpecificationMode.Scaled => 1,
+        SpecificationMode.Millimetres => DefaultWidthMm,
+        SpecificationMode.Fractional => DefaultWidthShare,
+        _ => DefaultWidthShare * LongerSide,
+    };
+
+    private LineLook StyleOf(in LineState line)
     {
         LineCaps cap = line.Cap switch
         {
@@ -164,7 +173,7 @@ internal sealed partial class CgmInterpreter
             return -1;
         }
 
-        double unit = Math.Max(Longest * DashUnitShare, style.WeightInUnits ? style.LineWeight / Scale : 0);
+        double unit = Math.Max(LongerSide * DashUnitShare, style.WeightInUnits ? style.LineWeight / Scale : 0);
         double[] lengths;
         if (_state.LineTypes.TryGetValue((int)type, out LineAndEdgeTypeDefinition? own))
         {
@@ -189,22 +198,22 @@ internal sealed partial class CgmInterpreter
         return period > 0 && double.IsFinite(period) ? List.Dash(lengths) : -1;
     }
 
-    /// <summary>The dashes of a definition in the picture: parts of its repeat length, ink and gap by turns.</summary>
+    /// <summary>The dash pattern of a definition in the picture: dashes and gaps as fractions of its length.</summary>
     private double[] OwnDashes(LineAndEdgeTypeDefinition own)
     {
-        const int most = 64;
+        const int MaxDashes = 64;
         double sum = 0;
         own.Elements.ForEach(element => sum += Math.Abs((double)element));
-        if (!(sum > 0) || own.Elements.Count > most)
+        if (!(sum > 0) || own.Elements.Count > MaxDashes)
         {
             return [];
         }
 
-        double repeat = own.RepeatLength * UnitOf(_state.LineWidthMode, Longest * UsualWidthShare);
+        double repeat = own.RepeatLength * UnitOf(_state.LineWidthMode, LongerSide * DefaultWidthShare);
         List<double> lengths = own.Elements.ConvertAll(element => Math.Abs((double)element) * Math.Abs(repeat) / sum);
         if (lengths.Count % 2 == 1)
         {
-            lengths.AddRange(lengths); // an odd count changes ink and gap with each round
+            lengths.AddRange(lengths); // an odd count swaps dashes and gaps in each repeat
         }
 
         return [.. lengths];
