@@ -40,8 +40,8 @@ internal static class EntityFaces
             case CadExtrudedEntityBase { Thickness: not 0 } thick:
                 Thick(part, thick, map, circleSides);
                 break;
-            case { TypeNameText: "MESH" }:
-                Subdivision(part, new TagCursor(entity.UnknownCodes), map);
+            case CadMesh mesh:
+                Subdivision(part, mesh, map);
                 break;
         }
     }
@@ -284,10 +284,10 @@ internal static class EntityFaces
         Vec3 At(int row, int column) => V(points[(row * n) + column].LocationPoint);
     }
 
-    /// <summary>The cage of a subdivision mesh: its vertices, then faces as counts followed by indexes.</summary>
-    private static void Subdivision(MeshPart part, TagCursor tags, in Affine3 map)
+    /// <summary>The faces of the control mesh of a subdivision mesh.</summary>
+    private static void Subdivision(MeshPart part, CadMesh mesh, in Affine3 map)
     {
-        SubdivisionCage cage = SubdivisionCage.Read(tags);
+        SubdivisionCage cage = SubdivisionCage.Read(mesh);
         foreach (Vec3[] face in cage.Faces())
         {
             Mapped(part, map, face);

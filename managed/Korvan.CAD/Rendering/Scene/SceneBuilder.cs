@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
@@ -73,7 +74,7 @@ internal sealed partial class SceneBuilder
             return;
         }
 
-        if (entity is CadInsertObject insert)
+        if (entity is CadInsertObject insert and not CadTableEntity)
         {
             DrawInsert(insert, layer, context);
             return;

@@ -198,6 +198,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
     {
         "POLYLINE" => CreatePolyline(tags.Peek(70) ?? 0),
         "VERTEX" => new Cad2DVertex(),
+        "MLEADER" => new CadMLeader(),
         "DIMENSION" => CreateDimension(tags.Peek(70) ?? 0),
         _ => ObjectTypes.CreateEntity(name) ?? new RawEntity(name),
     };

@@ -220,7 +220,10 @@ internal sealed partial class DxfReader
             CadClassEntity added = new();
             while (_tags.Next() && _tags.Code != 0)
             {
-                added.ReadField(_tags);
+                if (!added.ReadField(_tags.Code, _tags))
+                {
+                    added.Kept.Add(_tags.ToCodeValue());
+                }
             }
 
             _tags.Unread();
