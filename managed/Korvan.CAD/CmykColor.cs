@@ -1,5 +1,6 @@
 using System;
 using Korvan.CAD.Binding;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD;
 
@@ -86,7 +87,7 @@ public readonly struct CmykColor : IEquatable<CmykColor>
     {
         int white = 255 - K;
         int Part(int ink) => (((255 - ink) * white) + 127) / 255;
-        return Raster.PixelGrid.Opaque | (Part(C) << 16) | (Part(M) << 8) | Part(Y);
+        return Raster.Pixels.PixelGrid.Opaque | (Part(C) << 16) | (Part(M) << 8) | Part(Y);
     }
 
     /// <summary>The inks as four bytes, cyan first.</summary>

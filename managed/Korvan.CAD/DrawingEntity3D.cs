@@ -2,7 +2,7 @@ using System;
 using System.Linq;
 using Korvan.CAD.Measurement;
 using Korvan.CAD.Primitives;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Mesh;
 
 namespace Korvan.CAD;

@@ -46,7 +46,15 @@ public abstract partial class Image : DataStreamSupporter
     public virtual UnitType UnitType => UnitType.Unitless;
 
     /// <summary>Gets or sets the unit that is assumed where the file states none.</summary>
-    public UnitType UnitlessDefaultUnitType { get; set; } = UnitType.Unitless;
+    public UnitType UnitlessDefaultUnitType
+    {
+        get;
+        set
+        {
+            field = value;
+            OnDefaultUnitTypeChanged(value);
+        }
+    } = UnitType.Unitless;
 
     /// <summary>Gets the annotations; nothing for images of formats that have none.</summary>
     public virtual IAnnotationService? AnnotationService => null;
@@ -61,7 +69,7 @@ public abstract partial class Image : DataStreamSupporter
     internal long DataStart { get; set; }
 
     /// <summary>Gets the path that the image was read from, or nothing.</summary>
-    internal string? FilePath { get; set; }
+    internal virtual string? FilePath { get; set; }
 
     /// <summary>Reads a file; the format is found from the content.</summary>
     /// <param name="filePath">The path of the file.</param>
@@ -277,6 +285,10 @@ public abstract partial class Image : DataStreamSupporter
         }
 
         options.RenderResult ??= new CadRenderResult([], Stopwatch.GetElapsedTime(start));
+    }
+
+    private protected virtual void OnDefaultUnitTypeChanged(UnitType value)
+    {
     }
 
     private void VerifyCanSave(ImageOptionsBase options)

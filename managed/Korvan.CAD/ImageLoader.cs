@@ -4,6 +4,7 @@ using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats;
+using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Ifc.Model;
@@ -73,7 +74,7 @@ internal static class ImageLoader
             FileFormat.IFC2X3 or FileFormat.IFC4 => new IfcReader(data, name, options).Read(),
             FileFormat.Cgm => new CgmImage(CgmFile.Load(data, name, options)),
             _ when RasterLoader.CanRead(format) => Vectorized(RasterLoader.Load(data, name, format, options), options),
-            _ => new DxfReader(data, name, options).Read(),
+            _ => new DxfImage(new DxfReader(data, name, options).Read()),
         };
         image.LoadOptions = options;
         return image;
@@ -88,7 +89,7 @@ internal static class ImageLoader
 
         using (picture)
         {
-            return Vectorizer.Trace(raster, how);
+            return new DxfImage(Vectorizer.Trace(raster, how));
         }
     }
 

@@ -1,7 +1,7 @@
 using System;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD;
 

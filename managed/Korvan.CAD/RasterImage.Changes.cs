@@ -2,6 +2,7 @@ using System;
 using Korvan.CAD.Binding;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Raster.Operations;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD;
 

@@ -7,6 +7,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Exif;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD;
 

@@ -9,14 +9,14 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 namespace Korvan.CAD.Annotations;
 
 /// <summary>The annotations among the entities of model space: multi-line texts and leaders that carry a mark.</summary>
-internal sealed class DrawingAnnotations(CadImage image) : IAnnotationService
+internal sealed class DrawingAnnotations(CadDrawing drawing) : IAnnotationService
 {
     public int Count => GetAnnotations().Length;
 
     public AnnotationEntity[] GetAnnotations()
     {
         Dictionary<string, CadLeader> leaders = [];
-        foreach (CadLeader leader in image.Entities.OfType<CadLeader>())
+        foreach (CadLeader leader in drawing.Entities.OfType<CadLeader>())
         {
             if (AnnotationMark.Of(leader) is { } mark)
             {
@@ -25,7 +25,7 @@ internal sealed class DrawingAnnotations(CadImage image) : IAnnotationService
         }
 
         List<AnnotationEntity> found = [];
-        foreach (CadMText note in image.Entities.OfType<CadMText>())
+        foreach (CadMText note in drawing.Entities.OfType<CadMText>())
         {
             if (AnnotationMark.Of(note) is { } mark)
             {
@@ -56,10 +56,10 @@ internal sealed class DrawingAnnotations(CadImage image) : IAnnotationService
         if (annotation.Leader is { } leader)
         {
             annotation.Mark.Put(leader);
-            image.Entities.Add(leader);
+            drawing.Entities.Add(leader);
         }
 
-        image.Entities.Add(annotation.Note);
+        drawing.Entities.Add(annotation.Note);
     }
 
     public bool Remove(AnnotationEntity annotation)
@@ -67,10 +67,10 @@ internal sealed class DrawingAnnotations(CadImage image) : IAnnotationService
         Verify.NotNull(annotation);
         if (annotation.Leader is { } leader)
         {
-            image.Entities.Remove(leader);
+            drawing.Entities.Remove(leader);
         }
 
-        return image.Entities.Remove(annotation.Note);
+        return drawing.Entities.Remove(annotation.Note);
     }
 
     public void Clear()

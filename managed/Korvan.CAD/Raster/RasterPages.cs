@@ -6,6 +6,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Exif;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster.Operations;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster;
 

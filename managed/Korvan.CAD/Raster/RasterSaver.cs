@@ -5,6 +5,7 @@ using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster.Codecs;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster;
 

@@ -6,12 +6,14 @@ using System.Linq;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Pdf;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Mesh;
+using Korvan.CAD.Rendering.Pdf;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 
@@ -39,10 +41,10 @@ internal static class DrawingExporter
     /// <summary>What writes the bodies of a drawing; an image without bodies has no way into these.</summary>
     private static readonly Dictionary<Type, Action<Image, ImageOptionsBase, Stream>> BodyWriters = new()
     {
-        [typeof(GlbOptions)] = (image, options, output) => MeshExporter.WriteGltf((CadImage)image, (GlbOptions)options, output),
-        [typeof(GltfOptions)] = (image, options, output) => MeshExporter.WriteGltf((CadImage)image, (GltfOptions)options, output),
-        [typeof(ObjOptions)] = (image, options, output) => MeshExporter.WriteObj((CadImage)image, (ObjOptions)options, output),
-        [typeof(StlOptions)] = (image, options, output) => MeshExporter.WriteStl((CadImage)image, (StlOptions)options, output),
+        [typeof(GlbOptions)] = (image, options, output) => MeshExporter.WriteGltf(((CadImage)image).Drawing, (GlbOptions)options, output),
+        [typeof(GltfOptions)] = (image, options, output) => MeshExporter.WriteGltf(((CadImage)image).Drawing, (GltfOptions)options, output),
+        [typeof(ObjOptions)] = (image, options, output) => MeshExporter.WriteObj(((CadImage)image).Drawing, (ObjOptions)options, output),
+        [typeof(StlOptions)] = (image, options, output) => MeshExporter.WriteStl(((CadImage)image).Drawing, (StlOptions)options, output),
     };
 
     /// <summary>The classes of options that pages are written with.</summary>
@@ -72,7 +74,7 @@ internal static class DrawingExporter
         {
             if (image is CadImage drawing)
             {
-                LayerChoice.Verify(drawing, options);
+                LayerChoice.Verify(drawing.Drawing, options);
             }
 
             write(image, options, output);

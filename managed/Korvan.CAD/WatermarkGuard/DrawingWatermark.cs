@@ -10,7 +10,7 @@ using Korvan.CAD.TimeProvision;
 namespace Korvan.CAD.WatermarkGuard;
 
 /// <summary>The mark of a drawing, as extended data of records that every drawing has.</summary>
-internal sealed class DrawingWatermark(CadImage image) : IWatermarkGuardService
+internal sealed class DrawingWatermark(CadDrawing drawing) : IWatermarkGuardService
 {
     private const string Application = "KORVAN_WATERMARK";
     private const int BinaryChunk = 1004;
@@ -108,9 +108,9 @@ internal sealed class DrawingWatermark(CadImage image) : IWatermarkGuardService
     private List<CadBaseObject> Hosts()
     {
         List<CadBaseObject> hosts = [];
-        hosts.AddRange(image.Layers.Items.Take(1));
-        hosts.AddRange(image.Styles.Items.Take(1));
-        hosts.AddRange(image.LineTypes.Items.Take(1));
+        hosts.AddRange(drawing.Layers.Items.Take(1));
+        hosts.AddRange(drawing.Styles.Items.Take(1));
+        hosts.AddRange(drawing.LineTypes.Items.Take(1));
         return hosts.Count > 0
             ? hosts
             : throw new InvalidOperationException("The drawing has neither layers nor styles nor line types that could keep a watermark.");

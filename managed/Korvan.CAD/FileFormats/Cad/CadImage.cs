@@ -4,9 +4,12 @@ using System.IO;
 using Korvan.CAD.Annotations;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.Collections;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Mesh;
@@ -18,92 +21,74 @@ namespace Korvan.CAD.FileFormats.Cad;
 /// <summary>A drawing. Its lists are live: what is added, removed or changed is what is drawn and saved.</summary>
 public partial class CadImage : Image, IVectorImage
 {
-    private readonly CadHeader _header = new();
-    private readonly CadBlockDictionary _blockEntities = new();
-    private readonly CadBlockRecordList _blockRecords = new();
-    private readonly CadLayersList _layers = new();
-    private readonly CadLineTypesDictionary _lineTypes = new();
-    private readonly CadStylesList _styles = new();
-    private readonly CadDimensionDictionary _dimensionStyles = new();
-    private readonly CadViewList _views = new();
-    private readonly CadVportList _viewPorts = new();
-    private readonly CadUcsList _ucss = new();
-    private readonly CadAppIdDictionary _appIdTables = new();
-    private readonly CadClassList _classEntities = new();
-    private readonly CadLayoutDictionary _layouts = new();
-    private readonly CheckedList<CadObjectBase> _objects = new("objects");
+    private readonly CadDrawing _drawing;
 
-    /// <summary>Creates an empty drawing of release 2018 with the usual tables.</summary>
+    /// <summary>Creates an empty drawing of release 2018 with the standard tables.</summary>
     public CadImage()
-        : this(DrawingSeed.Standard)
+        : this(new CadDrawing(DrawingSeed.Standard))
     {
     }
 
-    internal CadImage(DrawingSeed seed)
+    internal CadImage(CadDrawing drawing)
     {
-        ModelSpace = new CadBlockEntity { Name = BlockNames.ModelSpace, NameAgain = BlockNames.ModelSpace };
-        PaperSpace = new CadBlockEntity { Name = BlockNames.PaperSpace, NameAgain = BlockNames.PaperSpace };
-        if (seed == DrawingSeed.Standard)
-        {
-            StandardDrawing.Fill(this);
-        }
+        _drawing = drawing;
     }
 
     /// <summary>Gets the variables of the drawing.</summary>
-    public CadHeader Header => Part(_header);
+    public CadHeader Header => Drawing.Header;
 
     /// <summary>Gets the entities of model space, in drawing order.</summary>
-    public IList<CadEntityBase> Entities => Part(ModelSpace.Entities);
+    public IList<CadEntityBase> Entities => Drawing.Entities;
 
     /// <summary>Gets the entities of the active sheet of paper, in drawing order.</summary>
-    public IList<CadEntityBase> PaperSpaceEntities => Part(PaperSpace.Entities);
+    public IList<CadEntityBase> PaperSpaceEntities => Drawing.PaperSpaceEntities;
 
     /// <summary>Gets the blocks by name. Model space is *Model_Space, the active sheet *Paper_Space.</summary>
-    public CadBlockDictionary BlockEntities => Part(_blockEntities);
+    public CadBlockDictionary BlockEntities => Drawing.BlockEntities;
 
     /// <summary>Gets the block records.</summary>
-    public CadBlockRecordList BlockRecords => Part(_blockRecords);
+    public CadBlockRecordList BlockRecords => Drawing.BlockRecords;
 
     /// <summary>Gets the layers.</summary>
-    public CadLayersList Layers => Part(_layers);
+    public CadLayersList Layers => Drawing.Layers;
 
     /// <summary>Gets the line types.</summary>
-    public CadLineTypesDictionary LineTypes => Part(_lineTypes);
+    public CadLineTypesDictionary LineTypes => Drawing.LineTypes;
 
     /// <summary>Gets the text styles and shape files.</summary>
-    public CadStylesList Styles => Part(_styles);
+    public CadStylesList Styles => Drawing.Styles;
 
     /// <summary>Gets the dimension styles.</summary>
-    public CadDimensionDictionary DimensionStyles => Part(_dimensionStyles);
+    public CadDimensionDictionary DimensionStyles => Drawing.DimensionStyles;
 
     /// <summary>Gets the named views.</summary>
-    public CadViewList Views => Part(_views);
+    public CadViewList Views => Drawing.Views;
 
     /// <summary>Gets the parts of the screen.</summary>
-    public CadVportList ViewPorts => Part(_viewPorts);
+    public CadVportList ViewPorts => Drawing.ViewPorts;
 
     /// <summary>Gets the named coordinate systems.</summary>
-    public CadUcsList UCSs => Part(_ucss);
+    public CadUcsList UCSs => Drawing.UCSs;
 
     /// <summary>Gets the programs that attached data.</summary>
-    public CadAppIdDictionary AppIdTables => Part(_appIdTables);
+    public CadAppIdDictionary AppIdTables => Drawing.AppIdTables;
 
     /// <summary>Gets the classes that programs added.</summary>
-    public CadClassList ClassEntities => Part(_classEntities);
+    public CadClassList ClassEntities => Drawing.ClassEntities;
 
     /// <summary>Gets the layouts: the model first, then the sheets of paper in the order of their tabs. Drawings up
     /// to release 14 have none in their files; they get a model and a sheet.</summary>
-    public CadLayoutDictionary Layouts => Part(_layouts);
+    public CadLayoutDictionary Layouts => Drawing.Layouts;
 
     /// <summary>Gets the objects that are not drawn: dictionaries, layouts, styles and the like.</summary>
-    public IList<CadObjectBase> Objects => Part(_objects);
+    public IList<CadObjectBase> Objects => Drawing.Objects;
 
-    /// <summary>Gets the preview picture, a bitmap without its file header; empty for none.</summary>
-    public byte[] ThumbnailImage { get; internal set; } = [];
+    /// <summary>Gets the preview image, a bitmap without its file header; empty for none.</summary>
+    public byte[] ThumbnailImage => _drawing.ThumbnailImage;
 
     /// <summary>Gets how many entities are of a type that the library does not know. They survive loading and saving
     /// unchanged.</summary>
-    public int UnknownEntityCount => CountUnknownEntities();
+    public int UnknownEntityCount => Drawing.UnknownEntityCount;
 
     /// <summary>Gets how many objects that are not drawn are of a type that the library does not know. They survive
     /// loading and saving unchanged.</summary>
@@ -113,8 +98,7 @@ public partial class CadImage : Image, IVectorImage
     public CadAcadVersion Version => Header.AcadVersion;
 
     /// <inheritdoc/>
-    public override UnitType UnitType => DrawingUnits.FromInsUnits(Header.InsUnits) is var unit
-        && unit == UnitType.Unitless ? UnitlessDefaultUnitType : unit;
+    public override UnitType UnitType => Drawing.UnitType;
 
     /// <summary>Gets the smallest coordinates of the entities of model space, in world coordinates; the origin in an
     /// empty drawing.</summary>
@@ -137,26 +121,20 @@ public partial class CadImage : Image, IVectorImage
     public override bool IsCached => true;
 
     /// <inheritdoc/>
-    public override IAnnotationService AnnotationService => new DrawingAnnotations(this);
+    public override IAnnotationService AnnotationService => new DrawingAnnotations(Drawing);
 
     /// <inheritdoc/>
-    public override IWatermarkGuardService WatermarkGuardService => new DrawingWatermark(this);
+    public override IWatermarkGuardService WatermarkGuardService => new DrawingWatermark(Drawing);
 
-    internal CadBlockEntity ModelSpace { get; set; }
-
-    internal CadBlockEntity PaperSpace { get; set; }
-
-    /// <summary>Gets or sets whether the file has a block for model space; old ones need not.</summary>
-    internal bool ModelSpaceInFile { get; set; }
-
-    /// <summary>Gets or sets whether the file has a block for paper space; old ones need not.</summary>
-    internal bool PaperSpaceInFile { get; set; }
-
-    /// <summary>Gets what stands before the records of each table.</summary>
-    internal Dictionary<string, CadTableHead> TableHeads { get; } = [];
-
-    /// <summary>Gets sections that nobody interprets, in the order of the file.</summary>
-    internal List<RawSection> RawSections { get; } = [];
+    /// <summary>Gets the data of the drawing. An image that was disposed has none any more.</summary>
+    internal CadDrawing Drawing
+    {
+        get
+        {
+            VerifyNotDisposed();
+            return _drawing;
+        }
+    }
 
     /// <inheritdoc/>
     public override void CacheData() => VerifyNotDisposed();
@@ -183,7 +161,7 @@ public partial class CadImage : Image, IVectorImage
     public IList<CadEntityBase> GetLayoutEntities(string layoutName)
     {
         CadLayout layout = Layouts[layoutName];
-        return BlockOf(layout)?.Entities
+        return DrawingLinks.BlockOf(Drawing, layout)?.Entities
             ?? throw new CadException($"The block of the layout '{layoutName}' is missing.");
     }
 
@@ -196,7 +174,7 @@ public partial class CadImage : Image, IVectorImage
         VerifyNotDisposed();
         try
         {
-            return [.. MeshScene.Collect(this, null).ConvertAll(static part => new DrawingEntity3D(part))];
+            return [.. MeshScene.Collect(Drawing, null).ConvertAll(static part => new DrawingEntity3D(part))];
         }
         catch (RenderException e)
         {
@@ -205,7 +183,10 @@ public partial class CadImage : Image, IVectorImage
     }
 
     /// <inheritdoc/>
-    public override string[] GetStrings() => DrawingStrings.Collect(this);
+    public override string[] GetStrings() => DrawingStrings.Collect(Drawing);
+
+    /// <inheritdoc/>
+    private protected override void OnDefaultUnitTypeChanged(UnitType value) => _drawing.DefaultUnitType = value;
 
     /// <inheritdoc/>
     internal override bool SupportsExport(ImageOptionsBase options)
@@ -221,11 +202,22 @@ public partial class CadImage : Image, IVectorImage
     {
         if (options is DxfOptions dxf)
         {
-            DxfSaver.Save(this, dxf, stream);
+            DxfSaver.Save(Drawing, dxf, stream);
             return;
         }
 
         DrawingExporter.Export(this, options, stream);
+    }
+
+    /// <inheritdoc/>
+    internal override string? FilePath
+    {
+        get => base.FilePath;
+        set
+        {
+            base.FilePath = value;
+            _drawing.Folder = value is null ? null : Path.GetDirectoryName(Path.GetFullPath(value));
+        }
     }
 
     /// <inheritdoc/>
@@ -235,34 +227,10 @@ public partial class CadImage : Image, IVectorImage
     internal override FileFormat OwnFormat => DxfRelease.ToFileFormat(Version);
 
     /// <inheritdoc/>
-    internal override void SaveData(Stream stream) => DxfSaver.Save(this, new DxfOptions(), stream);
+    internal override void SaveData(Stream stream) => DxfSaver.Save(Drawing, new DxfOptions(), stream);
 
     /// <inheritdoc/>
-    VectorScene IVectorImage.OpenScene() => SceneReader.Read(this);
+    VectorScene IVectorImage.OpenScene() => SceneReader.Read(Drawing);
 
-    /// <summary>Finds the block that holds the entities of a layout.</summary>
-    internal CadBlockEntity? BlockOf(CadLayout layout) => DrawingLinks.BlockOf(this, layout);
-
-    // A disposed drawing has no parts any more.
-    private T Part<T>(T part)
-    {
-        VerifyNotDisposed();
-        return part;
-    }
-
-    private (Cad3DPoint Min, Cad3DPoint Max) Extents() => DrawingExtents.OfModel(this);
-
-    private int CountUnknownEntities()
-    {
-        int count = PaperSpace.Entities.FindAll(static entity => entity is RawEntity).Count;
-        count += ModelSpace.Entities.FindAll(static entity => entity is RawEntity).Count;
-        foreach (CadBlockEntity block in BlockEntities)
-        {
-            count += block == ModelSpace || block == PaperSpace
-                ? 0
-                : block.Entities.FindAll(static entity => entity is RawEntity).Count;
-        }
-
-        return count;
-    }
+    private (Cad3DPoint Min, Cad3DPoint Max) Extents() => DrawingExtents.OfModel(Drawing);
 }

@@ -2,6 +2,7 @@ using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad;
 

@@ -1,5 +1,6 @@
 using System;
 using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 
 namespace Korvan.CAD.FileFormats.Cad;

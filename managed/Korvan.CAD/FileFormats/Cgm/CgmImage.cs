@@ -4,6 +4,7 @@ using System.IO;
 using System.Linq;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.ImageOptions;

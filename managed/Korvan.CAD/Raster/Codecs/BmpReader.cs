@@ -4,6 +4,7 @@ using System.Numerics;
 using Korvan.CAD.CadExceptions.Compressors;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Bmp;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

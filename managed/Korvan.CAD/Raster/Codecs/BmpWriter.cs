@@ -7,6 +7,7 @@ using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Bmp;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster.Colors;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

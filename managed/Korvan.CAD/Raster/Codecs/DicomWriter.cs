@@ -8,6 +8,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Dicom;
 using Korvan.CAD.FileFormats.Jpeg;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

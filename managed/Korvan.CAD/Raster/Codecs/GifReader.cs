@@ -8,6 +8,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.CadExceptions.Compressors;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.Raster.Native;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

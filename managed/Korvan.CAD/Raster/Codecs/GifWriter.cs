@@ -8,6 +8,7 @@ using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster.Colors;
 using Korvan.CAD.Raster.Native;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

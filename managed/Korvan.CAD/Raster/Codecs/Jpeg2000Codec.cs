@@ -5,6 +5,7 @@ using System.Runtime.InteropServices;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster.Native;
+using Korvan.CAD.Raster.Pixels;
 using J2K = Korvan.CAD.FileFormats.Jpeg2000.Jpeg2000Codec;
 
 namespace Korvan.CAD.Raster.Codecs;

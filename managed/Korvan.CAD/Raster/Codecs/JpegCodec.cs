@@ -4,6 +4,7 @@ using System.IO;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Jpeg;
 using Korvan.CAD.Raster.Native;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

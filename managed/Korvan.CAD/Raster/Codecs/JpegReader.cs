@@ -3,6 +3,7 @@ using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.Exif;
 using Korvan.CAD.FileFormats.Jpeg;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

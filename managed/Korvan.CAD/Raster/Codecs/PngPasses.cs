@@ -6,6 +6,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.CadExceptions.Compressors;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Png;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

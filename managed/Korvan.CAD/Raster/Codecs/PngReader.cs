@@ -4,6 +4,7 @@ using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.Compressors;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.Raster.Native;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

@@ -5,6 +5,7 @@ using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Png;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster.Colors;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

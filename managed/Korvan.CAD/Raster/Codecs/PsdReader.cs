@@ -4,6 +4,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Psd;
 using Korvan.CAD.FileFormats.Psd.Resources;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

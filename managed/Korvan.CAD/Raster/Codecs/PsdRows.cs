@@ -1,6 +1,7 @@
 using System;
 using System.Buffers.Binary;
 using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

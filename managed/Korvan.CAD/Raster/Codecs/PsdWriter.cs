@@ -9,6 +9,7 @@ using Korvan.CAD.FileFormats.Psd;
 using Korvan.CAD.FileFormats.Psd.Resources;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster.Colors;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

@@ -8,6 +8,7 @@ using Korvan.CAD.Exif;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.Raster.Native;
 using Korvan.CAD.Raster.Operations;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

@@ -5,6 +5,7 @@ using System.Runtime.InteropServices;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.Raster.Native;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

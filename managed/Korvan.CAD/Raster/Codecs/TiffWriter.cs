@@ -3,10 +3,12 @@ using System.Collections.Generic;
 using System.IO;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
+using Korvan.CAD.FileFormats.Tiff;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster.Colors;
 using Korvan.CAD.Raster.Native;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

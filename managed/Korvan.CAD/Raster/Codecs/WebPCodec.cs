@@ -3,6 +3,7 @@ using System.IO;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster.Native;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 

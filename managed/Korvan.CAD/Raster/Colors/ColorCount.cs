@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 

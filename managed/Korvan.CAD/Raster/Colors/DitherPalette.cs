@@ -1,5 +1,6 @@
 using System;
 using Korvan.CAD.Binding;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 

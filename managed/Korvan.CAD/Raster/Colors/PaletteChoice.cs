@@ -1,5 +1,6 @@
 using System;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 

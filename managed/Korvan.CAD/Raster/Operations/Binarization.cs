@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Operations;
 

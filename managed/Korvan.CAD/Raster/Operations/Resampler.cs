@@ -1,5 +1,6 @@
 using System;
 using System.Numerics;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Operations;
 

@@ -1,6 +1,7 @@
 using System;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Raster.Operations;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Vectorizing;
 

@@ -1,6 +1,6 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Raster.Vectorizing;
 

@@ -5,7 +5,8 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Raster.Vectorizing;
 
@@ -21,7 +22,7 @@ internal sealed class Vectorizer
         [0, 5, 9, 13, 15, 18, 20, 25, 30, 35, 40, 50, 53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211];
 
     private readonly VectorizationOptions _options;
-    private readonly DxfImage _drawing = new();
+    private readonly CadDrawing _drawing = new(DrawingSeed.Standard);
     private readonly double _unit;
     private readonly int _height;
 
@@ -34,7 +35,7 @@ internal sealed class Vectorizer
         _drawing.Header.InsUnits = Millimetres;
     }
 
-    internal static DxfImage Trace(RasterImage picture, VectorizationOptions options)
+    internal static CadDrawing Trace(RasterImage picture, VectorizationOptions options)
     {
         var tracer = new Vectorizer(picture, options);
         if ((options.Method & VectorizationMethod.Contour) != 0)
@@ -68,7 +69,7 @@ internal sealed class Vectorizer
 
         if (options.Fill && hatch.BoundaryPaths.Count > 0)
         {
-            _drawing.AddEntity(hatch);
+            _drawing.Entities.Add(hatch);
         }
     }
 
@@ -91,7 +92,7 @@ internal sealed class Vectorizer
         var line = new CadLwPolyline { LayerName = _options.LayerName, LineWeight = weight };
         line.Flag = closed ? CadLwPolylineFlag.Closed : CadLwPolylineFlag.None;
         line.Coordinates.AddRange(points);
-        _drawing.AddEntity(line);
+        _drawing.Entities.Add(line);
     }
 
     private static CadHatchBoundaryPathContainer Boundary(List<Cad2DPoint> points)

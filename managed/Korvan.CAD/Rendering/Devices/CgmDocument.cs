@@ -8,8 +8,8 @@ using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.FileFormats.Cgm.Export;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;

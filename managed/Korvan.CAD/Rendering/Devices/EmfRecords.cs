@@ -4,7 +4,8 @@ using System.Collections.Generic;
 using System.IO;
 using System.Runtime.InteropServices;
 using System.Text;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Devices;
 

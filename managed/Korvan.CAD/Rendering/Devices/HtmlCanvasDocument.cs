@@ -5,8 +5,8 @@ using System.IO;
 using System.Text;
 using System.Text.Encodings.Web;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;

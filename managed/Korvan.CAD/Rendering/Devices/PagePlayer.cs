@@ -1,7 +1,7 @@
 using System;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;

@@ -1,6 +1,6 @@
 using System;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Devices;
 

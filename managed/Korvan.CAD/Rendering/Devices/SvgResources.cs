@@ -5,7 +5,8 @@ using System.Text;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.ImageOptions.SvgOptionsParameters;
 using Korvan.CAD.Raster;
-using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Raster.Pixels;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;

@@ -2,8 +2,11 @@ using System;
 using System.Buffers.Binary;
 using System.IO;
 using System.Text;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.Dxf;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Devices;
 

@@ -1,9 +1,10 @@
 using System.Collections.Generic;
 using System.IO;
 using Korvan.CAD.Binding;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Rendering.Mesh;
@@ -11,9 +12,9 @@ namespace Korvan.CAD.Rendering.Mesh;
 /// <summary>Writes the faces of a drawing in formats that hold nothing else.</summary>
 internal static class MeshExporter
 {
-    internal static void WriteStl(CadImage image, StlOptions options, Stream output)
+    internal static void WriteStl(CadDrawing drawing, StlOptions options, Stream output)
     {
-        List<MeshPart> parts = Collect(image, options);
+        List<MeshPart> parts = Collect(drawing, options);
         if (options.Binary)
         {
             StlWriter.WriteBinary(parts, output);
@@ -24,13 +25,13 @@ internal static class MeshExporter
         }
     }
 
-    internal static void WriteObj(CadImage image, ObjOptions options, Stream output) =>
-        ObjWriter.Write(MeshScene.MergeLayers(Collect(image, options)), options.Precision, output);
+    internal static void WriteObj(CadDrawing drawing, ObjOptions options, Stream output) =>
+        ObjWriter.Write(MeshScene.MergeLayers(Collect(drawing, options)), options.Precision, output);
 
-    internal static void WriteGltf(CadImage image, GlbGltfOptionsBase options, Stream output)
+    internal static void WriteGltf(CadDrawing drawing, GlbGltfOptionsBase options, Stream output)
     {
-        List<MeshPart> parts = Collect(image, options);
-        double metres = (LengthUnits.Millimetres(image.UnitType) ?? 1000) / 1000;
+        List<MeshPart> parts = Collect(drawing, options);
+        double metres = (LengthUnits.Millimetres(drawing.UnitType) ?? 1000) / 1000;
         var writer = new GltfWriter(options.MergeLayers ? MeshScene.MergeLayers(parts) : parts, options.DoubleSided, metres);
         if (options is GltfOptions text)
         {
@@ -42,9 +43,9 @@ internal static class MeshExporter
         }
     }
 
-    private static List<MeshPart> Collect(CadImage image, ImageOptionsBase options)
+    private static List<MeshPart> Collect(CadDrawing drawing, ImageOptionsBase options)
     {
-        List<MeshPart> parts = MeshScene.Collect(image, options);
+        List<MeshPart> parts = MeshScene.Collect(drawing, options);
         if (parts.Count == 0)
         {
             throw new RenderException(

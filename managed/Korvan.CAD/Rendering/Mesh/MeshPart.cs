@@ -1,8 +1,8 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Mesh;
 

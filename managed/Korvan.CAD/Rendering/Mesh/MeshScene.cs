@@ -4,8 +4,8 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Rendering.Mesh;
@@ -33,10 +33,10 @@ internal sealed class MeshScene
     }
 
     /// <summary>The faces of each entity that has any, in drawing order.</summary>
-    internal static List<MeshPart> Collect(CadImage image, ImageOptionsBase? options)
+    internal static List<MeshPart> Collect(CadDrawing drawing, ImageOptionsBase? options)
     {
         RenderStyle style = options is null ? new RenderStyle() : new ExportOptions(options, DeviceKind.UserUnits, 1).Style();
-        DrawingScene scene = SceneReader.Read(image);
+        DrawingScene scene = SceneReader.Read(drawing);
         var walk = new MeshScene(scene.Tables, style);
         walk.AddSpace(scene.Model, new BlockContext { Map = Affine3.Identity });
         if (walk._leftOut > 0)

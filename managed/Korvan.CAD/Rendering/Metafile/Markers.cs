@@ -1,4 +1,4 @@
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Metafile;
 

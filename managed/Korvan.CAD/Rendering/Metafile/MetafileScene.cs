@@ -3,7 +3,7 @@ using System.Collections.Generic;
 using System.Globalization;
 using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Cgm.Commands;
-using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 

@@ -2,7 +2,7 @@ using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
-using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.DisplayList;
 
 namespace Korvan.CAD.Rendering.Metafile;
 

@@ -1,7 +1,7 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cgm.Commands;
-using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.DisplayList;
 using LineCapElement = Korvan.CAD.FileFormats.Cgm.Commands.LineCap;
 
 namespace Korvan.CAD.Rendering.Metafile;

@@ -1,5 +1,6 @@
 using System;
 using System.Runtime.InteropServices;
+using Korvan.CAD.DisplayList;
 
 namespace Korvan.CAD.Rendering.Native;
 

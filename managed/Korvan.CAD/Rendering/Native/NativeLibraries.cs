@@ -1,4 +1,5 @@
 using System.Runtime.InteropServices;
+using Korvan.CAD.DisplayList;
 
 namespace Korvan.CAD.Rendering.Native;
 

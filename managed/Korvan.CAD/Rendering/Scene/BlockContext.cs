@@ -1,5 +1,5 @@
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
 

@@ -1,7 +1,7 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Hatch;
 using Korvan.CAD.Rendering.Text;
 

@@ -6,8 +6,8 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.ImageOptions.SvgOptionsParameters;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
 

@@ -1,9 +1,11 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -25,17 +27,17 @@ internal static class LayerChoice
 
     /// <summary>Notes names that no layer of the drawing has; where none of them has one, nothing would be drawn, and
     /// that is refused.</summary>
-    internal static void Verify(CadImage image, ImageOptionsBase options)
+    internal static void Verify(CadDrawing drawing, ImageOptionsBase options)
     {
         if (Of(options) is not { } wanted)
         {
             return;
         }
 
-        var known = new HashSet<string>(image.Layers.Names, StringComparer.OrdinalIgnoreCase);
+        var known = new HashSet<string>(drawing.Layers.Names, StringComparer.OrdinalIgnoreCase);
         if (!wanted.IsSubsetOf(known))
         {
-            known.UnionWith(DrawingWalk.Entities(image).Select(static entity => entity.LayerName));
+            known.UnionWith(DrawingWalk.Entities(drawing).Select(static entity => entity.LayerName));
         }
 
         string[] missing = [.. wanted.Except(known, StringComparer.OrdinalIgnoreCase).Order(StringComparer.Ordinal)];

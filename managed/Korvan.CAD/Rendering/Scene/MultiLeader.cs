@@ -1,6 +1,6 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
 

@@ -2,8 +2,8 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;

@@ -1,5 +1,5 @@
 using System;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
 

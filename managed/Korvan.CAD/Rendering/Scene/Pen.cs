@@ -1,4 +1,4 @@
-using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.DisplayList;
 
 namespace Korvan.CAD.Rendering.Scene;
 

@@ -1,6 +1,6 @@
 using System;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.DisplayList;
 
 namespace Korvan.CAD.Rendering.Scene;
 

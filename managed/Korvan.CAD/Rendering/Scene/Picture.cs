@@ -3,6 +3,7 @@ using System.Runtime.InteropServices;
 using Korvan.CAD.FileFormats;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Raster.Codecs;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Rendering.Scene;
 

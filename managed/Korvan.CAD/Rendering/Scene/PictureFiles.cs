@@ -26,11 +26,11 @@ internal sealed class PictureFiles
         this.names = names;
     }
 
-    internal static PictureFiles Of(CadImage image)
+    internal static PictureFiles Of(CadDrawing drawing)
     {
-        string? folder = image.FilePath is null ? null : Path.GetDirectoryName(Path.GetFullPath(image.FilePath));
+        string? folder = drawing.Folder;
         var names = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
-        foreach (CadRasterImageDef definition in image.Objects.OfType<CadRasterImageDef>())
+        foreach (CadRasterImageDef definition in drawing.Objects.OfType<CadRasterImageDef>())
         {
             names.TryAdd(definition.ObjectHandle, definition.FileName);
         }

@@ -8,7 +8,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
 
@@ -17,18 +17,18 @@ internal static class SceneReader
 {
     private const double MillimetresPerInch = 25.4;
 
-    internal static DrawingScene Read(CadImage image)
+    internal static DrawingScene Read(CadDrawing drawing)
     {
-        var tables = new SceneTables { Settings = Settings(image), Pictures = PictureFiles.Of(image) };
-        ReadTables(image, tables);
-        Dictionary<ulong, Dictionary<ulong, ulong>> orders = SortTables.Read(image.Objects);
+        var tables = new SceneTables { Settings = Settings(drawing), Pictures = PictureFiles.Of(drawing) };
+        ReadTables(drawing, tables);
+        Dictionary<ulong, Dictionary<ulong, ulong>> orders = SortTables.Read(drawing.Objects);
         var recordHandles = new Dictionary<string, ulong>(StringComparer.OrdinalIgnoreCase);
-        foreach (CadBlockTableObject record in image.BlockRecords)
+        foreach (CadBlockTableObject record in drawing.BlockRecords)
         {
             recordHandles.TryAdd(record.Name, record.Handle);
         }
 
-        foreach (CadBlockEntity block in image.BlockEntities)
+        foreach (CadBlockEntity block in drawing.BlockEntities)
         {
             BlockInfo info = Block(block, recordHandles, orders);
             tables.Blocks.TryAdd(block.Name, info);
@@ -38,14 +38,14 @@ internal static class SceneReader
             }
         }
 
-        BlockInfo model = Block(image.ModelSpace, recordHandles, orders);
-        return new DrawingScene(tables, model, Layouts(image, tables, model, Block(image.PaperSpace, recordHandles, orders)));
+        BlockInfo model = Block(drawing.ModelSpace, recordHandles, orders);
+        return new DrawingScene(tables, model, Layouts(drawing, tables, model, Block(drawing.PaperSpace, recordHandles, orders)));
     }
 
-    private static void ReadTables(CadImage image, SceneTables tables)
+    private static void ReadTables(CadDrawing drawing, SceneTables tables)
     {
         var styleNames = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
-        foreach (CadStyleTableObject text in image.Styles)
+        foreach (CadStyleTableObject text in drawing.Styles)
         {
             StyleInfo style = TableReader.Style(text);
             tables.Styles.TryAdd(text.Name, style);
@@ -53,24 +53,24 @@ internal static class SceneReader
             styleNames.TryAdd(text.ObjectHandle, text.Name);
         }
 
-        foreach (CadLayerTable layer in image.Layers)
+        foreach (CadLayerTable layer in drawing.Layers)
         {
             tables.Layers.TryAdd(layer.Name, TableReader.Layer(layer));
         }
 
-        foreach (CadLineTypeTableObject type in image.LineTypes)
+        foreach (CadLineTypeTableObject type in drawing.LineTypes)
         {
             tables.LineTypes.TryAdd(type.Name, TableReader.LineType(type, styleNames));
         }
 
-        double overall = image.Header.Contains("$DIMSCALE") ? image.Header.GetDouble("$DIMSCALE") : 1;
-        foreach (CadDimensionStyleTable dim in image.DimensionStyles)
+        double overall = drawing.Header.Contains("$DIMSCALE") ? drawing.Header.GetDouble("$DIMSCALE") : 1;
+        foreach (CadDimensionStyleTable dim in drawing.DimensionStyles)
         {
-            string text = styleNames.TryGetValue(dim.Dimtxsty, out string? name) ? name : image.Header.CurrentTextStyle;
+            string text = styleNames.TryGetValue(dim.Dimtxsty, out string? name) ? name : drawing.Header.CurrentTextStyle;
             tables.DimStyles.TryAdd(dim.Name, TableReader.DimStyle(dim, overall > 0 ? overall : 1, text));
         }
 
-        foreach (CadMLineStyleObject multi in image.Objects.OfType<CadMLineStyleObject>())
+        foreach (CadMLineStyleObject multi in drawing.Objects.OfType<CadMLineStyleObject>())
         {
             List<MlineElement> elements = multi.Elements.ConvertAll(
                 e => new MlineElement(e.Offset, new DrawingColor(e.ColorId, e.ColorValue), e.LineTypeName));
@@ -78,10 +78,10 @@ internal static class SceneReader
         }
     }
 
-    private static SceneSettings Settings(CadImage image)
+    private static SceneSettings Settings(CadDrawing drawing)
     {
-        CadHeader header = image.Header;
-        CadWipeoutVariables? wipeout = image.Objects.OfType<CadWipeoutVariables>().FirstOrDefault();
+        CadHeader header = drawing.Header;
+        CadWipeoutVariables? wipeout = drawing.Objects.OfType<CadWipeoutVariables>().FirstOrDefault();
         return new SceneSettings
         {
             LinetypeScale = header.LtScale > 0 ? header.LtScale : 1,
@@ -113,11 +113,11 @@ internal static class SceneReader
         };
     }
 
-    private static List<LayoutInfo> Layouts(CadImage image, SceneTables tables, BlockInfo model, BlockInfo paper)
+    private static List<LayoutInfo> Layouts(CadDrawing drawing, SceneTables tables, BlockInfo model, BlockInfo paper)
     {
-        var names = image.BlockRecords.Items.ToLookup(r => r.ObjectHandle, r => r.Name, StringComparer.OrdinalIgnoreCase);
+        var names = drawing.BlockRecords.Items.ToLookup(r => r.ObjectHandle, r => r.Name, StringComparer.OrdinalIgnoreCase);
         var layouts = new List<LayoutInfo>();
-        foreach (CadLayout layout in image.Layouts)
+        foreach (CadLayout layout in drawing.Layouts)
         {
             string? block = names[layout.BlockTableRecordHandle].FirstOrDefault();
             bool isModel = string.Equals(layout.LayoutName, DrawingScene.ModelName, StringComparison.OrdinalIgnoreCase)

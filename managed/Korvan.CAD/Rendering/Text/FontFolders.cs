@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.IO;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.Rendering.Native;
 
 namespace Korvan.CAD.Rendering.Text;

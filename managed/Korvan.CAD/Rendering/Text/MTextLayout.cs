@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.Rendering.Text;
 

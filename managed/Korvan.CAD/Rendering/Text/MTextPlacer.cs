@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.Rendering.Text;
 

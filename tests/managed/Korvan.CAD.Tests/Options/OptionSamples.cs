@@ -8,6 +8,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
+using Korvan.CAD.Raster.Pixels;
 using Korvan.CAD.Tests.FileFormats.Ifc;
 using Korvan.CAD.Tests.Raster;
 using Korvan.CAD.Tests.Rendering;

@@ -4,6 +4,7 @@ using System.IO;
 using System.Runtime.InteropServices;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
+using Korvan.CAD.Raster.Pixels;
 using Korvan.CAD.Tests.Rendering;
 
 namespace Korvan.CAD.Tests.Raster;

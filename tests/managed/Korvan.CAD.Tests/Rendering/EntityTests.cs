@@ -7,8 +7,8 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.FileFormats.Cad.CadTables;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 using Xunit;
@@ -252,7 +252,7 @@ public class EntityTests
     private static DrawingList Build(CadImage drawing)
     {
         using var engine = new TextEngine();
-        DrawingScene scene = SceneReader.Read(drawing);
+        DrawingScene scene = SceneReader.Read(drawing.Drawing);
         return scene.Build(scene.Choose([])[0], new RenderStyle(), engine);
     }
 

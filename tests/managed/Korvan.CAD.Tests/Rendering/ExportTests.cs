@@ -8,7 +8,7 @@ using Korvan.CAD.FileFormats.Pdf;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Geometry;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;

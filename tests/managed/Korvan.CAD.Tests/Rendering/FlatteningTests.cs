@@ -3,8 +3,8 @@ using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Mesh;
 using Xunit;
 

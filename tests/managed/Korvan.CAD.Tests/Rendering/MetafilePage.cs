@@ -6,7 +6,7 @@ using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.DisplayList;
 
 namespace Korvan.CAD.Tests.Rendering;
 

@@ -5,7 +5,7 @@ using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.DisplayList;
+using Korvan.CAD.DisplayList;
 using Xunit;
 using LineCapElement = Korvan.CAD.FileFormats.Cgm.Commands.LineCap;
 using static Korvan.CAD.Tests.Rendering.MetafilePage;

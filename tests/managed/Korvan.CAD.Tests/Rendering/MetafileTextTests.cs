@@ -120,7 +120,7 @@ public class MetafileTextTests
 
     private static (int X0, int Y0, int X1, int Y1) InkOf(params Command[] body)
     {
-        using MetafilePage page = Of([new TextColour { Color = C(CAD.Rendering.DisplayList.Rgba.Black) }, .. body]);
+        using MetafilePage page = Of([new TextColour { Color = C(CAD.DisplayList.Rgba.Black) }, .. body]);
         return page.Ink();
     }
 

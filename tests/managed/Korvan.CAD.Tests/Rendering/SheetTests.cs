@@ -4,8 +4,9 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
-using Korvan.CAD.Rendering.DisplayList;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 using Xunit;
@@ -27,7 +28,7 @@ public class SheetTests
         CadLayout layout = Picture.Sheet(drawing);
         (layout.PaperWidth, layout.PaperHeight, layout.LeftMargin, layout.BottomMargin) = (297, 210, left, bottom);
         (layout.RightMargin, layout.TopMargin, layout.PlotRotation) = (30, 40, (CadPlotRotation)rotation);
-        Bounds2 region = SceneReader.Read(drawing).Layouts.First(l => !l.IsModel).Sheet!.Value.Region;
+        Bounds2 region = SceneReader.Read(drawing.Drawing).Layouts.First(l => !l.IsModel).Sheet!.Value.Region;
         Assert.Equal((minX, minY, maxX, maxY), (region.MinX, region.MinY, region.MaxX, region.MaxY));
     }
 
@@ -150,7 +151,7 @@ public class SheetTests
             ExtrusionDirection = new Cad3DPoint(0, 0, -1),
             InsertionPoint = new Cad3DPoint(20, 20, 0),
         });
-        DrawingScene scene = SceneReader.Read(drawing);
+        DrawingScene scene = SceneReader.Read(drawing.Drawing);
         using var engine = new TextEngine();
         DrawingList list = scene.Build(scene.Choose([])[0], new RenderStyle(), engine);
         Assert.Equal(20, list.Bounds.MinX, 6);
@@ -179,7 +180,7 @@ public class SheetTests
     private static DrawingList BuildSheet(CadImage drawing)
     {
         Picture.Sheet(drawing);
-        DrawingScene scene = SceneReader.Read(drawing);
+        DrawingScene scene = SceneReader.Read(drawing.Drawing);
         using var engine = new TextEngine();
         return scene.Build(scene.Layouts.First(l => !l.IsModel), new RenderStyle(), engine);
     }

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Rendering.Text;
 using Xunit;
 

@@ -1,4 +1,5 @@
 using Korvan.CAD.Binding;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadConsts;
 

@@ -1,4 +1,5 @@
 using System.Collections.Generic;
+using Korvan.CAD.Collections;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 

@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.Collections;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 

@@ -4,9 +4,10 @@ using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Measurement;
 using Korvan.CAD.Primitives;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 

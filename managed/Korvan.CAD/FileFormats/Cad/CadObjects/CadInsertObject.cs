@@ -1,8 +1,9 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Primitives;
-using Korvan.CAD.Rendering.Geometry;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 

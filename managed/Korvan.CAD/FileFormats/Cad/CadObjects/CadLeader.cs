@@ -1,4 +1,5 @@
 using System.Collections.Generic;
+using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;

@@ -3,6 +3,7 @@ using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
 

@@ -7,6 +7,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -17,178 +18,178 @@ internal static class DrawingIntegrity
     private const int WithRecords = 1994;
     private const int WithOwners = 2000;
 
-    internal static void Prepare(CadImage image, int release)
+    internal static void Prepare(CadDrawing drawing, int release)
     {
-        VerifyPlaces(image);
-        MarkSpaces(image);
-        AddLayers(image);
-        AddApplications(image);
-        RenameBlocks(image);
+        VerifyPlaces(drawing);
+        MarkSpaces(drawing);
+        AddLayers(drawing);
+        AddApplications(drawing);
+        RenameBlocks(drawing);
         if (release >= WithRecords)
         {
-            AddBlockRecords(image);
-            AddTableHeads(image);
+            AddBlockRecords(drawing);
+            AddTableHeads(drawing);
         }
 
         if (release >= WithOwners)
         {
-            RemoveLayouts(image);
-            AddLayouts(image);
+            RemoveLayouts(drawing);
+            AddLayouts(drawing);
         }
 
-        CompleteSequences(image);
-        HandleAllocator.Assign(image, release >= WithRecords);
+        CompleteSequences(drawing);
+        HandleAllocator.Assign(drawing, release >= WithRecords);
         if (release >= WithOwners)
         {
-            LinkLayouts(image);
-            SetOwners(image);
+            LinkLayouts(drawing);
+            SetOwners(drawing);
         }
     }
 
     // An entity that was put in the place of another may stand in its own as well.
-    private static void VerifyPlaces(CadImage image)
+    private static void VerifyPlaces(CadDrawing drawing)
     {
-        if (DrawingWalk.Entities(image).FirstOrDefault(static entity => entity.Places > 1) is { } entity)
+        if (DrawingWalk.Entities(drawing).FirstOrDefault(static entity => entity.Places > 1) is { } entity)
         {
             throw new ImageSaveException(
                 $"{entity} stands {entity.Places} times in its block; put a clone() of it there instead.");
         }
     }
 
-    private static void MarkSpaces(CadImage image)
+    private static void MarkSpaces(CadDrawing drawing)
     {
-        image.ModelSpace.Entities.ForEach(static entity => entity.SpaceMode = CadEntitySpaceMode.ModelSpace);
-        image.PaperSpace.Entities.ForEach(static entity => entity.SpaceMode = CadEntitySpaceMode.PaperSpace);
+        drawing.ModelSpace.Entities.ForEach(static entity => entity.SpaceMode = CadEntitySpaceMode.ModelSpace);
+        drawing.PaperSpace.Entities.ForEach(static entity => entity.SpaceMode = CadEntitySpaceMode.PaperSpace);
     }
 
     // A layer that entities name has to stand in the table.
-    private static void AddLayers(CadImage image)
+    private static void AddLayers(CadDrawing drawing)
     {
         HashSet<string> seen = [];
-        foreach (CadEntityBase entity in DrawingWalk.Entities(image))
+        foreach (CadEntityBase entity in DrawingWalk.Entities(drawing))
         {
-            if (seen.Add(entity.LayerName) && entity.LayerName.Length > 0 && !image.Layers.Contains(entity.LayerName))
+            if (seen.Add(entity.LayerName) && entity.LayerName.Length > 0 && !drawing.Layers.Contains(entity.LayerName))
             {
-                image.Layers.Add(CadLayerTable.Stored(entity.LayerName));
+                drawing.Layers.Add(CadLayerTable.Stored(entity.LayerName));
             }
         }
     }
 
     // Programs refuse extended data of an application that the table does not know.
-    private static void AddApplications(CadImage image)
+    private static void AddApplications(CadDrawing drawing)
     {
         HashSet<string> names = new(StringComparer.OrdinalIgnoreCase);
-        foreach (CadBaseObject item in DrawingWalk.All(image))
+        foreach (CadBaseObject item in DrawingWalk.All(drawing))
         {
             item.XdataOrNull?.XdataEntities.ForEach(data => names.Add(data.RegisteredApplicationName));
         }
 
-        foreach (string name in names.Where(name => !image.AppIdTables.Contains(name)))
+        foreach (string name in names.Where(name => !drawing.AppIdTables.Contains(name)))
         {
-            image.AppIdTables.Add(new CadAppIdTableObject { Name = name });
+            drawing.AppIdTables.Add(new CadAppIdTableObject { Name = name });
         }
     }
 
     // The name of a block stands in three places, of which one is its property.
-    private static void RenameBlocks(CadImage image)
+    private static void RenameBlocks(CadDrawing drawing)
     {
-        foreach (CadBlockEntity block in image.BlockEntities)
+        foreach (CadBlockEntity block in drawing.BlockEntities)
         {
             bool same = string.Equals(block.NameAgain, block.Name, StringComparison.OrdinalIgnoreCase);
             block.NameAgain = same || block.NameAgain.Length == 0 ? block.NameAgain : block.Name;
-            if (block.Owner == 0 || image.BlockRecords.Contains(block.Name))
+            if (block.Owner == 0 || drawing.BlockRecords.Contains(block.Name))
             {
                 continue;
             }
 
-            if (image.BlockRecords.Items.Find(record => record.Handle == block.Owner) is { } record
-                && !image.BlockEntities.Contains(record.Name))
+            if (drawing.BlockRecords.Items.Find(record => record.Handle == block.Owner) is { } record
+                && !drawing.BlockEntities.Contains(record.Name))
             {
                 record.Name = block.Name;
             }
         }
     }
 
-    private static void AddBlockRecords(CadImage image)
+    private static void AddBlockRecords(CadDrawing drawing)
     {
-        image.BlockRecords.Items.RemoveAll(record => !image.BlockEntities.Contains(record.Name));
-        foreach (CadBlockEntity block in image.BlockEntities)
+        drawing.BlockRecords.Items.RemoveAll(record => !drawing.BlockEntities.Contains(record.Name));
+        foreach (CadBlockEntity block in drawing.BlockEntities)
         {
-            if (!image.BlockRecords.Contains(block.Name))
+            if (!drawing.BlockRecords.Contains(block.Name))
             {
-                image.BlockRecords.Add(new CadBlockTableObject { Name = block.Name });
+                drawing.BlockRecords.Add(new CadBlockTableObject { Name = block.Name });
             }
         }
     }
 
-    private static void AddTableHeads(CadImage image)
+    private static void AddTableHeads(CadDrawing drawing)
     {
         foreach (string name in TableRecords.Names)
         {
-            image.TableHeads.TryAdd(name, new CadTableHead { Name = name });
+            drawing.TableHeads.TryAdd(name, new CadTableHead { Name = name });
         }
     }
 
     // Layouts that old drawings have without saying so, and those that were added.
-    private static void AddLayouts(CadImage image)
+    private static void AddLayouts(CadDrawing drawing)
     {
-        HashSet<CadObjectBase> known = [.. image.Objects];
-        foreach (CadLayout layout in image.Layouts)
+        HashSet<CadObjectBase> known = [.. drawing.Objects];
+        foreach (CadLayout layout in drawing.Layouts)
         {
             if (known.Contains(layout))
             {
                 continue;
             }
 
-            image.Objects.Add(layout);
-            if (DrawingLinks.BlockOf(image, layout) is { } block && image.Layouts.Count <= 2)
+            drawing.Objects.Add(layout);
+            if (DrawingLinks.BlockOf(drawing, layout) is { } block && drawing.Layouts.Count <= 2)
             {
                 block.Layout = layout;
                 continue;
             }
 
-            AddSheet(image, layout);
+            AddSheet(drawing, layout);
         }
     }
 
     // What was taken from the list of layouts goes with its block and its entry in the dictionary.
-    private static void RemoveLayouts(CadImage image)
+    private static void RemoveLayouts(CadDrawing drawing)
     {
-        foreach (CadLayout layout in image.Objects.OfType<CadLayout>().Except(image.Layouts.Items).ToList())
+        foreach (CadLayout layout in drawing.Objects.OfType<CadLayout>().Except(drawing.Layouts.Items).ToList())
         {
-            image.Objects.Remove(layout);
-            CadDictionaryBase? dictionary = NamedDictionary(image, LayoutDictionary);
+            drawing.Objects.Remove(layout);
+            CadDictionaryBase? dictionary = NamedDictionary(drawing, LayoutDictionary);
             dictionary?.RemoveHandle(layout.Handle);
-            CadBlockEntity? block = DrawingLinks.BlockOf(image, layout);
-            if (block is null || block == image.ModelSpace || block == image.PaperSpace)
+            CadBlockEntity? block = DrawingLinks.BlockOf(drawing, layout);
+            if (block is null || block == drawing.ModelSpace || block == drawing.PaperSpace)
             {
                 continue;
             }
 
-            image.BlockEntities.Remove(block);
-            if (image.BlockRecords.Find(block.Name) is { } record)
+            drawing.BlockEntities.Remove(block);
+            if (drawing.BlockRecords.Find(block.Name) is { } record)
             {
-                image.BlockRecords.Remove(record);
+                drawing.BlockRecords.Remove(record);
             }
         }
     }
 
-    private static void AddSheet(CadImage image, CadLayout layout)
+    private static void AddSheet(CadDrawing drawing, CadLayout layout)
     {
         int number = 0;
-        while (image.BlockEntities.Contains(BlockNames.PaperSpace + number))
+        while (drawing.BlockEntities.Contains(BlockNames.PaperSpace + number))
         {
             number++;
         }
 
         string name = BlockNames.PaperSpace + number;
-        image.BlockEntities.Add(new CadBlockEntity { Name = name, NameAgain = name, Layout = layout });
-        image.BlockRecords.Add(new CadBlockTableObject { Name = name });
+        drawing.BlockEntities.Add(new CadBlockEntity { Name = name, NameAgain = name, Layout = layout });
+        drawing.BlockRecords.Add(new CadBlockTableObject { Name = name });
     }
 
-    private static void CompleteSequences(CadImage image)
+    private static void CompleteSequences(CadDrawing drawing)
     {
-        foreach (CadEntityBase entity in DrawingWalk.Entities(image))
+        foreach (CadEntityBase entity in DrawingWalk.Entities(drawing))
         {
             switch (entity)
             {
@@ -202,17 +203,17 @@ internal static class DrawingIntegrity
         }
     }
 
-    private static void LinkLayouts(CadImage image)
+    private static void LinkLayouts(CadDrawing drawing)
     {
-        CadDictionaryBase? names = NamedDictionary(image, LayoutDictionary);
-        foreach (CadLayout layout in image.Layouts)
+        CadDictionaryBase? names = NamedDictionary(drawing, LayoutDictionary);
+        foreach (CadLayout layout in drawing.Layouts)
         {
             names?.Rename(layout.Handle, layout.LayoutName);
         }
 
-        foreach (CadBlockEntity block in image.BlockEntities)
+        foreach (CadBlockEntity block in drawing.BlockEntities)
         {
-            if (block.Layout is not { } layout || image.BlockRecords.Find(block.Name) is not { } record)
+            if (block.Layout is not { } layout || drawing.BlockRecords.Find(block.Name) is not { } record)
             {
                 continue;
             }
@@ -220,7 +221,7 @@ internal static class DrawingIntegrity
             layout.BlockTableRecordHandle = record.ObjectHandle;
             record.LayoutHandle = layout.ObjectHandle;
             block.Layout = null;
-            if (NamedDictionary(image, LayoutDictionary) is { } dictionary)
+            if (NamedDictionary(drawing, LayoutDictionary) is { } dictionary)
             {
                 dictionary.Set(layout.LayoutName, layout.Handle);
                 layout.Owner = dictionary.Handle;
@@ -228,19 +229,19 @@ internal static class DrawingIntegrity
         }
     }
 
-    private static CadDictionaryBase? NamedDictionary(CadImage image, string name)
+    private static CadDictionaryBase? NamedDictionary(CadDrawing drawing, string name)
     {
-        CadDictionaryBase? root = image.Objects.OfType<CadDictionaryBase>().FirstOrDefault();
+        CadDictionaryBase? root = drawing.Objects.OfType<CadDictionaryBase>().FirstOrDefault();
         return root is not null && root.TryGet(name, out ulong handle)
-            ? image.Objects.OfType<CadDictionaryBase>().FirstOrDefault(item => item.Handle == handle)
+            ? drawing.Objects.OfType<CadDictionaryBase>().FirstOrDefault(item => item.Handle == handle)
             : null;
     }
 
-    private static void SetOwners(CadImage image)
+    private static void SetOwners(CadDrawing drawing)
     {
-        foreach (CadBlockEntity block in image.BlockEntities)
+        foreach (CadBlockEntity block in drawing.BlockEntities)
         {
-            if (image.BlockRecords.Find(block.Name) is not { } record)
+            if (drawing.BlockRecords.Find(block.Name) is not { } record)
             {
                 continue;
             }
@@ -256,9 +257,9 @@ internal static class DrawingIntegrity
 
         foreach (string table in TableRecords.Names)
         {
-            foreach (CadSymbolTableGroupCodes record in TableRecords.Of(image, table))
+            foreach (CadSymbolTableGroupCodes record in TableRecords.Of(drawing, table))
             {
-                record.Owner = image.TableHeads[table].Handle;
+                record.Owner = drawing.TableHeads[table].Handle;
             }
         }
     }

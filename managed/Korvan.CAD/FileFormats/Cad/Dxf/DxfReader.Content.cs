@@ -3,6 +3,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -28,7 +29,7 @@ internal sealed partial class DxfReader
     {
         CadTableHead head = new();
         _objects.ReadBody(head);
-        _image.TableHeads[head.Name] = head;
+        _drawing.TableHeads[head.Name] = head;
         while (NextObject() is { } name && name != "ENDTAB")
         {
             CadSymbolTableGroupCodes? record = DxfTypeTable.CreateTableRecord(name);
@@ -39,7 +40,7 @@ internal sealed partial class DxfReader
 
             if (TryRead(record))
             {
-                TableRecords.Add(_image, record);
+                TableRecords.Add(_drawing, record);
             }
         }
     }
@@ -75,20 +76,20 @@ internal sealed partial class DxfReader
 
     private void AddBlock(CadBlockEntity block)
     {
-        if (BlockNames.IsModelSpace(block.Name) && !_image.ModelSpaceInFile)
+        if (BlockNames.IsModelSpace(block.Name) && !_drawing.ModelSpaceInFile)
         {
-            TakeOver(_image.ModelSpace, block);
-            _image.ModelSpace = block;
-            _image.ModelSpaceInFile = true;
+            TakeOver(_drawing.ModelSpace, block);
+            _drawing.ModelSpace = block;
+            _drawing.ModelSpaceInFile = true;
         }
-        else if (BlockNames.IsActivePaperSpace(block.Name) && !_image.PaperSpaceInFile)
+        else if (BlockNames.IsActivePaperSpace(block.Name) && !_drawing.PaperSpaceInFile)
         {
-            TakeOver(_image.PaperSpace, block);
-            _image.PaperSpace = block;
-            _image.PaperSpaceInFile = true;
+            TakeOver(_drawing.PaperSpace, block);
+            _drawing.PaperSpace = block;
+            _drawing.PaperSpaceInFile = true;
         }
 
-        _image.BlockEntities.Add(block);
+        _drawing.BlockEntities.Add(block);
     }
 
     private static void TakeOver(CadBlockEntity from, CadBlockEntity to)
@@ -107,7 +108,7 @@ internal sealed partial class DxfReader
             foreach (CadEntityBase entity in pending)
             {
                 bool paper = entity.SpaceMode == CadEntitySpaceMode.PaperSpace;
-                (paper ? _image.PaperSpace : _image.ModelSpace).Entities.Add(entity);
+                (paper ? _drawing.PaperSpace : _drawing.ModelSpace).Entities.Add(entity);
             }
 
             pending.Clear();
@@ -139,7 +140,7 @@ internal sealed partial class DxfReader
             CadObjectBase item = DxfTypeTable.CreateObject(name) ?? new RawObject(name);
             if (TryRead(item))
             {
-                _image.Objects.Add(item);
+                _drawing.Objects.Add(item);
             }
         }
     }

@@ -1,8 +1,10 @@
 using System.Collections.Generic;
 using System.Text;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -12,7 +14,7 @@ internal sealed partial class DxfReader
     private readonly DxfTagReader _tags;
     private readonly DxfObjectReader _objects;
     private readonly LoadOptions _options;
-    private readonly DxfImage _image = new(DrawingSeed.Blank);
+    private readonly CadDrawing _drawing = new(DrawingSeed.Blank);
     private bool _hasEntities;
 
     internal DxfReader(byte[] data, string fileName, LoadOptions options)
@@ -31,7 +33,7 @@ internal sealed partial class DxfReader
         }
     }
 
-    internal DxfImage Read()
+    internal CadDrawing Read()
     {
         try
         {
@@ -42,8 +44,8 @@ internal sealed partial class DxfReader
             _options.Errors.Add(e.Message);
         }
 
-        DrawingLinks.Complete(_image);
-        return _image;
+        DrawingLinks.Complete(_drawing);
+        return _drawing;
     }
 
     private void ReadSections()
@@ -174,7 +176,7 @@ internal sealed partial class DxfReader
         {
             if (_tags.Code == 9)
             {
-                values = _image.Header.TagsOf(_tags.GetName());
+                values = _drawing.Header.TagsOf(_tags.GetName());
                 values.Clear();
             }
             else if (values is not null)
@@ -194,8 +196,8 @@ internal sealed partial class DxfReader
             return;
         }
 
-        string release = _image.Header.AcadVersion.ToString();
-        string page = _image.Header.CodePage;
+        string release = _drawing.Header.AcadVersion.ToString();
+        string page = _drawing.Header.CodePage;
         string variable = "";
         _tags.LookAhead(() =>
         {
@@ -222,7 +224,7 @@ internal sealed partial class DxfReader
             }
 
             _tags.Unread();
-            _image.ClassEntities.Add(added);
+            _drawing.ClassEntities.Add(added);
         }
     }
 
@@ -246,7 +248,7 @@ internal sealed partial class DxfReader
             place += chunk.Length;
         }
 
-        _image.ThumbnailImage = picture;
+        _drawing.ThumbnailImage = picture;
     }
 
     private static int TotalLength(List<byte[]> chunks)
@@ -269,6 +271,6 @@ internal sealed partial class DxfReader
         }
 
         _tags.Unread();
-        _image.RawSections.Add(section);
+        _drawing.RawSections.Add(section);
     }
 }

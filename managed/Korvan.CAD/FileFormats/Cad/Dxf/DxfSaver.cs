@@ -2,9 +2,11 @@ using System.Collections.Generic;
 using System.IO;
 using System.Text;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
@@ -14,17 +16,17 @@ internal sealed class DxfSaver
 {
     private const int BitmapChunk = 127;
 
-    private readonly CadImage _image;
+    private readonly CadDrawing _drawing;
     private readonly CadAcadVersion _version;
     private readonly DxfTagWriter _writer;
     private readonly DxfObjectWriter _objects;
 
-    private DxfSaver(CadImage image, CadAcadVersion version, Stream stream)
+    private DxfSaver(CadDrawing drawing, CadAcadVersion version, Stream stream)
     {
-        _image = image;
+        _drawing = drawing;
         _version = version;
         bool unicode = version >= CadAcadVersion.AC1021;
-        string page = image.Header.CodePage;
+        string page = drawing.Header.CodePage;
         Encoding encoding = unicode
             ? new UTF8Encoding(false)
             : DwgCodePage.Get(page.Length > 0 ? page : DwgCodePage.DefaultName);
@@ -32,17 +34,17 @@ internal sealed class DxfSaver
         _objects = new DxfObjectWriter(_writer);
     }
 
-    internal static void Save(CadImage image, DxfOptions options, Stream stream)
+    internal static void Save(CadDrawing drawing, DxfOptions options, Stream stream)
     {
         options.VerifyHonoured(OutputKind.Model);
-        CadAcadVersion version = ChooseVersion(image, options.Version);
-        DrawingIntegrity.Prepare(image, DxfRelease.Year(version));
-        new DxfSaver(image, version, stream).Write();
+        CadAcadVersion version = ChooseVersion(drawing, options.Version);
+        DrawingIntegrity.Prepare(drawing, DxfRelease.Year(version));
+        new DxfSaver(drawing, version, stream).Write();
     }
 
-    private static CadAcadVersion ChooseVersion(CadImage image, DxfOutputVersion wanted)
+    private static CadAcadVersion ChooseVersion(CadDrawing drawing, DxfOutputVersion wanted)
     {
-        CadAcadVersion present = image.Version;
+        CadAcadVersion present = drawing.Version;
         CadAcadVersion chosen = wanted == DxfOutputVersion.Original ? present : DxfRelease.From(wanted);
         if (DxfRelease.Year(chosen) == DxfRelease.Year(present))
         {
@@ -55,19 +57,19 @@ internal sealed class DxfSaver
                 + "carried over between releases 2000 and later only. Leave DxfOptions.version at ORIGINAL.");
         }
 
-        VerifyBodies(image, chosen);
+        VerifyBodies(drawing, chosen);
         return chosen;
     }
 
     // From release 2013 on the data of bodies stands in a section that earlier releases do not know.
-    private static void VerifyBodies(CadImage image, CadAcadVersion chosen)
+    private static void VerifyBodies(CadDrawing drawing, CadAcadVersion chosen)
     {
         if (chosen >= CadAcadVersion.AC1027)
         {
             return;
         }
 
-        foreach (CadBlockEntity block in image.BlockEntities)
+        foreach (CadBlockEntity block in drawing.BlockEntities)
         {
             if (block.Entities.Exists(static entity => entity is CadObjectWithAcisData { AcisData.Count: 0 }))
             {
@@ -93,7 +95,7 @@ internal sealed class DxfSaver
             WriteObjects();
         }
 
-        foreach (RawSection section in _image.RawSections)
+        foreach (RawSection section in _drawing.RawSections)
         {
             BeginSection(section.Name);
             section.Tags.ForEach(_writer.Write);
@@ -116,7 +118,7 @@ internal sealed class DxfSaver
     private void WriteHeader()
     {
         BeginSection("HEADER");
-        foreach (string name in _image.Header.VariableNames)
+        foreach (string name in _drawing.Header.VariableNames)
         {
             if (HeaderVariables.Since(name) > _writer.Release)
             {
@@ -130,7 +132,7 @@ internal sealed class DxfSaver
                 continue;
             }
 
-            _image.Header.TagsOf(name).ForEach(_writer.Write);
+            _drawing.Header.TagsOf(name).ForEach(_writer.Write);
         }
 
         EndSection();
@@ -139,7 +141,7 @@ internal sealed class DxfSaver
     private void WriteClasses()
     {
         BeginSection("CLASSES");
-        foreach (CadClassEntity item in _image.ClassEntities)
+        foreach (CadClassEntity item in _drawing.ClassEntities)
         {
             _writer.Write(0, "CLASS");
             item.WriteCodes(_writer);
@@ -158,8 +160,8 @@ internal sealed class DxfSaver
                 continue;
             }
 
-            IReadOnlyList<CadSymbolTableGroupCodes> records = TableRecords.Of(_image, name);
-            _image.TableHeads.TryGetValue(name, out CadTableHead? head);
+            IReadOnlyList<CadSymbolTableGroupCodes> records = TableRecords.Of(_drawing, name);
+            _drawing.TableHeads.TryGetValue(name, out CadTableHead? head);
             if (head is null && records.Count == 0 && !_writer.HasSubclasses)
             {
                 continue;
@@ -180,11 +182,11 @@ internal sealed class DxfSaver
     private void WriteBlocks()
     {
         BeginSection("BLOCKS");
-        foreach (CadBlockEntity block in _image.BlockEntities)
+        foreach (CadBlockEntity block in _drawing.BlockEntities)
         {
-            bool model = block == _image.ModelSpace;
-            bool paper = block == _image.PaperSpace;
-            if (!_writer.HasSubclasses && ((model && !_image.ModelSpaceInFile) || (paper && !_image.PaperSpaceInFile)))
+            bool model = block == _drawing.ModelSpace;
+            bool paper = block == _drawing.PaperSpace;
+            if (!_writer.HasSubclasses && ((model && !_drawing.ModelSpaceInFile) || (paper && !_drawing.PaperSpaceInFile)))
             {
                 continue;
             }
@@ -204,21 +206,21 @@ internal sealed class DxfSaver
     private void WriteEntities()
     {
         BeginSection("ENTITIES");
-        _image.ModelSpace.Entities.ForEach(_objects.WriteEntity);
-        _image.PaperSpace.Entities.ForEach(_objects.WriteEntity);
+        _drawing.ModelSpace.Entities.ForEach(_objects.WriteEntity);
+        _drawing.PaperSpace.Entities.ForEach(_objects.WriteEntity);
         EndSection();
     }
 
     private void WriteObjects()
     {
         BeginSection("OBJECTS");
-        _image.Objects.ForEach(_objects.Write);
+        _drawing.Objects.ForEach(_objects.Write);
         EndSection();
     }
 
     private void WriteThumbnail()
     {
-        byte[] picture = _image.ThumbnailImage;
+        byte[] picture = _drawing.ThumbnailImage;
         if (picture.Length == 0)
         {
             return;

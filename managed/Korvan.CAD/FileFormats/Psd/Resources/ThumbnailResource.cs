@@ -4,6 +4,7 @@ using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Raster.Codecs;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.FileFormats.Psd.Resources;
 

@@ -1,4 +1,5 @@
 using Korvan.CAD.Binding;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 

@@ -12,6 +12,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Xunit;
 using static Korvan.CAD.Tests.FileFormats.Cad.DxfText;
 
@@ -77,7 +78,7 @@ public sealed class ModelRuleTests
         }
 
         using CadImage other = new();
-        foreach (CadEntityBase entity in DrawingWalk.Entities(image))
+        foreach (CadEntityBase entity in DrawingWalk.Entities(image.Drawing))
         {
             CadEntityBase clone = entity.Clone();
             Assert.Same(entity.GetType(), clone.GetType());

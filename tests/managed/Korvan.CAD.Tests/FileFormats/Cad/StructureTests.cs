@@ -9,6 +9,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cad;
@@ -163,7 +164,7 @@ public class StructureTests
             CadImage image = (CadImage)Image.Load(file);
             image.AddEntity(new CadPoint());
             image.AddEntity(new CadInsertObject { Name = "NEW", Attributes = { new CadAttrib { DefinitionTagString = "T" } } });
-            List<ulong> handles = [.. DrawingWalk.All(DxfText.Reload(image)).Select(item => item.Handle).Where(handle => handle != 0)];
+            List<ulong> handles = [.. DrawingWalk.All(DxfText.Reload(image).Drawing).Select(item => item.Handle).Where(handle => handle != 0)];
             Assert.True(handles.Count == handles.Distinct().Count(), Path.GetFileName(file));
         }
     }

@@ -1,0 +1,29 @@
+using System.Collections.Generic;
+using System.Collections.ObjectModel;
+using Korvan.CAD.Binding;
+using Korvan.CAD.FileFormats.Cad;
+
+namespace Korvan.CAD.Collections;
+
+/// <summary>A list of the model that refuses <see langword="null"/> when it is put in.</summary>
+/// <param name="name">The property that holds the list.</param>
+internal class CheckedList<T>(string name) : Collection<T>(new List<T>())
+    where T : class
+{
+    /// <summary>Gets the items themselves, for walks; only the list may change them.</summary>
+    internal new List<T> Items => (List<T>)base.Items;
+
+    /// <inheritdoc/>
+    protected override void InsertItem(int index, T item)
+    {
+        Verify.NotNull(item, $"an item of {name}");
+        base.InsertItem(index, item);
+    }
+
+    /// <inheritdoc/>
+    protected override void SetItem(int index, T item)
+    {
+        Verify.NotNull(item, $"an item of {name}");
+        base.SetItem(index, item);
+    }
+}

@@ -1,0 +1,105 @@
+using Korvan.CAD.Geometry;
+
+namespace Korvan.CAD.DisplayList;
+
+internal enum DisplayKind : byte
+{
+    Stroke,
+    Fill,
+    Text,
+    Image,
+    PushClip,
+    PopClip,
+}
+
+/// <summary>
+/// One thing to draw. Its path is a range of the list's flat arrays; what is rare (dashes, gradients, text runs,
+/// images) stands in side tables and is reached by index.
+/// </summary>
+internal struct DisplayItem
+{
+    internal DisplayKind Kind;
+    internal bool EvenOdd;
+    internal Rgba Color;
+    internal int FirstVerb;
+    internal int VerbCount;
+    internal int FirstCoord;
+
+    /// <summary>In millimetres on the page, or in drawing units; 0 is the thinnest line that the device has.</summary>
+    internal float LineWeight;
+
+    /// <summary>Whether the line weight is in drawing units and grows with them.</summary>
+    internal bool WeightInUnits;
+
+    /// <summary>Index into the table of line looks, or 0 for that of the page.</summary>
+    internal int Look;
+
+    /// <summary>Index into the table of dash patterns, or -1 for a continuous line.</summary>
+    internal int Dash;
+
+    /// <summary>Where in the pattern the line begins, in drawing units.</summary>
+    internal float DashOffset;
+
+    internal int Layer;
+
+    /// <summary>Index of the gradient of a fill (or -1), of the text run, or of the image.</summary>
+    internal int Extra;
+}
+
+/// <summary>How open lines end.</summary>
+internal enum LineCaps
+{
+    Butt = 0,
+    Round = 1,
+    Square = 2,
+}
+
+/// <summary>How the pieces of a line meet.</summary>
+internal enum LineJoins
+{
+    Miter = 0,
+    Round = 1,
+    Bevel = 2,
+}
+
+/// <summary>Ends and joins of a line. Longer points than the limit, in line widths, are cut.</summary>
+internal readonly record struct LineLook(LineCaps Cap, LineJoins Join, double MiterLimit = LineLook.UsualMiterLimit)
+{
+    internal const double UsualMiterLimit = 10;
+
+    /// <summary>The word that SVG and the canvas of HTML have for the ends.</summary>
+    internal string CapWord => Cap switch { LineCaps.Butt => "butt", LineCaps.Square => "square", _ => "round" };
+
+    /// <summary>The word that SVG and the canvas of HTML have for the joins.</summary>
+    internal string JoinWord => Join switch { LineJoins.Miter => "miter", LineJoins.Bevel => "bevel", _ => "round" };
+}
+
+/// <summary>What a stroke looks like.</summary>
+internal struct StrokeStyle
+{
+    internal Rgba Color;
+    internal float LineWeight;
+    internal bool WeightInUnits;
+    internal int Look;
+    internal int Dash;
+    internal float DashOffset;
+    internal int Layer;
+}
+
+/// <summary>One run of text in one font. The matrix maps the em square, baseline at y = 0, to drawing units.</summary>
+internal readonly record struct TextRun(string Text, int Font, Affine2 Matrix, double LetterSpacing);
+
+internal readonly record struct GradientStop(double Offset, Rgba Color);
+
+/// <summary>
+/// A gradient in its own unit space: linear from x = -1 to 1, radial from the centre <see cref="FocusX"/>,
+/// <see cref="FocusY"/> to the unit circle. The matrix maps that space to drawing units.
+/// </summary>
+internal sealed record Gradient(bool Radial, double FocusX, double FocusY, Affine2 Matrix, GradientStop[] Stops);
+
+/// <summary>Pixels (premultiplied, blue first) with a map from the unit square, y up, to drawing units.</summary>
+internal sealed record PlacedImage(int Width, int Height, byte[] Pixels, Affine2 Matrix, double Opacity)
+{
+    /// <summary>Whether pixels are cells with sharp borders, however large they are drawn.</summary>
+    internal bool Sharp { get; init; }
+}

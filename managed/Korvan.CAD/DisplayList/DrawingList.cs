@@ -1,0 +1,260 @@
+using System;
+using System.Collections.Generic;
+using System.Runtime.InteropServices;
+using Korvan.CAD.Geometry;
+
+namespace Korvan.CAD.DisplayList;
+
+/// <summary>
+/// Everything that one page shows, in drawing units and in the order of drawing. It holds no reference to a device
+/// or to the drawing, so the same list is drawn to PDF, SVG and pixels alike.
+/// </summary>
+internal sealed class DrawingList
+{
+    /// <summary>Coordinates that a list may hold (1.2 GB): past it a drawing is a bomb of nested arrays, not a page.</summary>
+    internal const int MostCoords = 150_000_000;
+
+    /// <summary>How the kinds of skipped things end that lack a file.</summary>
+    internal const string MissingFile = " whose file is not there";
+
+    private readonly List<TextRun> texts = [];
+    private readonly List<Gradient> gradients = [];
+    private readonly List<PlacedImage> images = [];
+    private readonly List<string> layers = [];
+    private readonly Dictionary<string, int> layerIndex = new(StringComparer.OrdinalIgnoreCase);
+    private readonly List<double[]> dashes = [];
+    private readonly Dictionary<string, int> dashIndex = [];
+    private readonly List<Bounds2> clips = [];
+    private readonly List<LineLook> looks = [];
+    private readonly Dictionary<LineLook, int> lookIndex = [];
+    private DisplayItem[] items = new DisplayItem[256];
+    private PathVerb[] verbs = new PathVerb[1024];
+    private double[] coords = new double[4096];
+    private int itemCount;
+    private int verbCount;
+    private int coordCount;
+    private Bounds2 bounds = Bounds2.Empty;
+
+    /// <summary>What becomes of every colour that is drawn with; null to keep them.</summary>
+    internal Func<Rgba, Rgba>? Ink { get; init; }
+
+    internal ReadOnlySpan<DisplayItem> Items => items.AsSpan(0, itemCount);
+
+    internal IReadOnlyList<string> Layers => layers;
+
+    /// <summary>What has been drawn so far, as far as it lies in the clips that hold it.</summary>
+    internal Bounds2 Bounds => bounds;
+
+    /// <summary>The region that can be drawn on at this moment.</summary>
+    internal Bounds2? ActiveClip => clips.Count > 0 ? clips[^1] : null;
+
+    /// <summary>Kinds of entities that were met but have no picture, with their counts.</summary>
+    internal SortedDictionary<string, int> Skipped { get; } = new(StringComparer.Ordinal);
+
+    internal ReadOnlySpan<PathVerb> VerbsOf(in DisplayItem item) => verbs.AsSpan(item.FirstVerb, item.VerbCount);
+
+    internal ReadOnlySpan<double> CoordsOf(in DisplayItem item) => coords.AsSpan(item.FirstCoord);
+
+    internal double[] DashOf(in DisplayItem item) => dashes[item.Dash];
+
+    internal LineLook? LookOf(in DisplayItem item) => item.Look > 0 ? looks[item.Look - 1] : null;
+
+    internal TextRun TextOf(in DisplayItem item) => texts[item.Extra];
+
+    internal Gradient GradientOf(in DisplayItem item) => gradients[item.Extra];
+
+    internal PlacedImage ImageOf(in DisplayItem item) => images[item.Extra];
+
+    internal int Layer(string name)
+    {
+        if (!layerIndex.TryGetValue(name, out int index))
+        {
+            index = layers.Count;
+            layers.Add(name);
+            layerIndex.Add(name, index);
+        }
+
+        return index;
+    }
+
+    /// <summary>Keeps one copy of each pattern; lengths alternate between ink and gap, in drawing units.</summary>
+    internal int Dash(ReadOnlySpan<double> lengths)
+    {
+        string key = new(MemoryMarshal.Cast<double, char>(lengths));
+        if (!dashIndex.TryGetValue(key, out int index))
+        {
+            index = dashes.Count;
+            dashes.Add(lengths.ToArray());
+            dashIndex.Add(key, index);
+        }
+
+        return index;
+    }
+
+    /// <summary>Keeps one copy of each look.</summary>
+    internal int Look(LineLook look)
+    {
+        if (!lookIndex.TryGetValue(look, out int index))
+        {
+            looks.Add(look);
+            index = looks.Count;
+            lookIndex.Add(look, index);
+        }
+
+        return index;
+    }
+
+    internal void Skip(string kind) =>
+        Skipped[kind] = Skipped.TryGetValue(kind, out int count) ? count + 1 : 1;
+
+    internal void Stroke(PathBuffer path, in StrokeStyle style)
+    {
+        if (path.IsEmpty || !AddPath(path, DisplayKind.Stroke, style.Color, style.Layer, out int index))
+        {
+            return;
+        }
+
+        ref DisplayItem item = ref items[index];
+        item.LineWeight = style.LineWeight;
+        item.WeightInUnits = style.WeightInUnits;
+        item.Look = style.Look;
+        item.Dash = style.Dash;
+        item.DashOffset = style.DashOffset;
+    }
+
+    internal void Fill(PathBuffer path, Rgba color, int layer, bool evenOdd, Gradient? gradient = null)
+    {
+        if (path.IsEmpty || !AddPath(path, DisplayKind.Fill, color, layer, out int index))
+        {
+            return;
+        }
+
+        items[index].EvenOdd = evenOdd;
+        if (gradient != null)
+        {
+            items[index].Extra = gradients.Count;
+            gradients.Add(Ink is null
+                ? gradient
+                : gradient with { Stops = Array.ConvertAll(gradient.Stops, stop => stop with { Color = Ink(stop.Color) }) });
+        }
+    }
+
+    internal void Text(in TextRun run, Rgba color, int layer, in Bounds2 extent)
+    {
+        if (!extent.IsFinite || !AddBounds(extent))
+        {
+            return;
+        }
+
+        ref DisplayItem item = ref NewItem(DisplayKind.Text, color, layer);
+        item.Extra = texts.Count;
+        texts.Add(run);
+    }
+
+    internal void Image(PlacedImage image, int layer, in Bounds2 extent)
+    {
+        if (!extent.IsFinite || !AddBounds(extent))
+        {
+            return;
+        }
+
+        ref DisplayItem item = ref NewItem(DisplayKind.Image, default, layer);
+        item.Extra = images.Count;
+        images.Add(Ink is null ? image : Inked(image));
+    }
+
+    private PlacedImage Inked(PlacedImage image)
+    {
+        byte[] pixels = [.. image.Pixels];
+        for (int i = 0; i < pixels.Length; i += 4)
+        {
+            Rgba color = Ink!(new Rgba(pixels[i + 2], pixels[i + 1], pixels[i], 255));
+            (pixels[i], pixels[i + 1], pixels[i + 2]) = (color.B, color.G, color.R);
+        }
+
+        return image with { Pixels = pixels };
+    }
+
+    /// <summary>Everything up to the matching pop shows only inside the path.</summary>
+    internal void PushClip(PathBuffer path, bool evenOdd)
+    {
+        Bounds2 region = clips.Count > 0 ? path.Bounds.Clip(clips[^1]) : path.Bounds;
+        clips.Add(region);
+        ref DisplayItem item = ref NewItem(DisplayKind.PushClip, default, -1);
+        item.EvenOdd = evenOdd;
+        Store(path, ref item);
+    }
+
+    internal void PopClip()
+    {
+        clips.RemoveAt(clips.Count - 1);
+        NewItem(DisplayKind.PopClip, default, -1);
+    }
+
+    private bool AddPath(PathBuffer path, DisplayKind kind, Rgba color, int layer, out int index)
+    {
+        index = itemCount;
+        if (!path.Bounds.IsFinite || !AddBounds(path.Bounds))
+        {
+            return false;
+        }
+
+        ref DisplayItem item = ref NewItem(kind, color, layer);
+        Store(path, ref item);
+        return true;
+    }
+
+    /// <summary>Says whether any of the box is visible, and widens the extents by that part.</summary>
+    private bool AddBounds(in Bounds2 box)
+    {
+        Bounds2 visible = clips.Count > 0 ? box.Clip(clips[^1]) : box;
+        if (visible.IsEmpty)
+        {
+            return false;
+        }
+
+        bounds.Add(visible);
+        return true;
+    }
+
+    private ref DisplayItem NewItem(DisplayKind kind, Rgba color, int layer)
+    {
+        if (itemCount == items.Length)
+        {
+            Array.Resize(ref items, itemCount * 2);
+        }
+
+        ref DisplayItem item = ref items[itemCount++];
+        item = new DisplayItem { Kind = kind, Color = Ink?.Invoke(color) ?? color, Layer = layer, Dash = -1, Extra = -1 };
+        return ref item;
+    }
+
+    private void Store(PathBuffer path, ref DisplayItem item)
+    {
+        ReadOnlySpan<PathVerb> newVerbs = path.Verbs;
+        ReadOnlySpan<double> newCoords = path.Coords;
+        if (coordCount + (long)newCoords.Length > MostCoords)
+        {
+            throw new RenderException(
+                $"The drawing needs more than {MostCoords} coordinates on one page; it is too large to be rendered.");
+        }
+
+        Grow(ref verbs, verbCount + newVerbs.Length);
+        Grow(ref coords, coordCount + newCoords.Length);
+        newVerbs.CopyTo(verbs.AsSpan(verbCount));
+        newCoords.CopyTo(coords.AsSpan(coordCount));
+        item.FirstVerb = verbCount;
+        item.VerbCount = newVerbs.Length;
+        item.FirstCoord = coordCount;
+        verbCount += newVerbs.Length;
+        coordCount += newCoords.Length;
+    }
+
+    private static void Grow<T>(ref T[] array, int needed)
+    {
+        if (needed > array.Length)
+        {
+            Array.Resize(ref array, (int)Math.Min(Array.MaxLength, Math.Max((long)array.Length * 2, needed)));
+        }
+    }
+}

@@ -1,9 +1,0 @@
-using Korvan.CAD.FileFormats.Cad.CadObjects;
-
-namespace Korvan.CAD.FileFormats.Cad.Dxf;
-
-/// <summary>An object whose codes nobody interprets.</summary>
-internal sealed class RawObject(string dxfName) : CadObjectBase
-{
-    internal override string DxfName => dxfName;
-}

@@ -1,0 +1,78 @@
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad.Model;
+
+/// <summary>Ways through a drawing.</summary>
+internal static class DrawingWalk
+{
+    /// <summary>Gives the entities of all blocks, model and paper space among them, without their parts.</summary>
+    internal static IEnumerable<CadEntityBase> Entities(CadDrawing drawing)
+    {
+        foreach (CadBlockEntity block in drawing.BlockEntities)
+        {
+            foreach (CadEntityBase entity in block.Entities)
+            {
+                yield return entity;
+            }
+        }
+    }
+
+    /// <summary>Gives everything that has a handle.</summary>
+    internal static IEnumerable<CadBaseObject> All(CadDrawing drawing)
+    {
+        foreach (string table in TableRecords.Names)
+        {
+            if (drawing.TableHeads.TryGetValue(table, out CadTableHead? head))
+            {
+                yield return head;
+            }
+
+            foreach (CadBaseObject record in TableRecords.Of(drawing, table))
+            {
+                yield return record;
+            }
+        }
+
+        foreach (CadBlockEntity block in drawing.BlockEntities)
+        {
+            yield return block;
+            yield return block.End;
+            foreach (CadEntityBase entity in block.Entities)
+            {
+                yield return entity;
+                foreach (CadBaseObject part in Parts(entity))
+                {
+                    yield return part;
+                }
+            }
+        }
+
+        foreach (CadObjectBase item in drawing.Objects)
+        {
+            yield return item;
+        }
+    }
+
+    private static IEnumerable<CadBaseObject> Parts(CadEntityBase entity) => entity switch
+    {
+        CadPolylineBase polyline => WithEnd(polyline.Vertices, polyline.Seqend),
+        CadInsertObject insert => WithEnd(insert.Attributes, insert.Seqend),
+        _ => [],
+    };
+
+    private static IEnumerable<CadBaseObject> WithEnd(IEnumerable<CadBaseObject> parts, CadSeqend? end)
+    {
+        foreach (CadBaseObject part in parts)
+        {
+            yield return part;
+        }
+
+        if (end is not null)
+        {
+            yield return end;
+        }
+    }
+}

@@ -1,0 +1,67 @@
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad.Model;
+
+/// <summary>Entity types by the names that stand in files.</summary>
+internal static class EntityTypeNames
+{
+    internal static CadEntityTypeName Parse(string name) => name switch
+    {
+        "LINE" => CadEntityTypeName.Line,
+        "POINT" => CadEntityTypeName.Point,
+        "CIRCLE" => CadEntityTypeName.Circle,
+        "ARC" => CadEntityTypeName.Arc,
+        "ELLIPSE" => CadEntityTypeName.Ellipse,
+        "LWPOLYLINE" => CadEntityTypeName.LwPolyline,
+        "POLYLINE" => CadEntityTypeName.Polyline,
+        "VERTEX" => CadEntityTypeName.Vertex,
+        "SEQEND" => CadEntityTypeName.Seqend,
+        "SPLINE" => CadEntityTypeName.Spline,
+        "HELIX" => CadEntityTypeName.Helix,
+        "TEXT" => CadEntityTypeName.Text,
+        "MTEXT" => CadEntityTypeName.MText,
+        "ATTRIB" => CadEntityTypeName.Attrib,
+        "ATTDEF" => CadEntityTypeName.AttDef,
+        "INSERT" => CadEntityTypeName.Insert,
+        "SOLID" => CadEntityTypeName.Solid,
+        "TRACE" => CadEntityTypeName.Trace,
+        "3DFACE" => CadEntityTypeName.Face3D,
+        "HATCH" => CadEntityTypeName.Hatch,
+        "DIMENSION" => CadEntityTypeName.Dimension,
+        "ARC_DIMENSION" => CadEntityTypeName.ArcDimension,
+        "LARGE_RADIAL_DIMENSION" => CadEntityTypeName.LargeRadialDimension,
+        "LEADER" => CadEntityTypeName.Leader,
+        "MULTILEADER" => CadEntityTypeName.MultiLeader,
+        "WIPEOUT" => CadEntityTypeName.Wipeout,
+        "IMAGE" => CadEntityTypeName.Image,
+        "VIEWPORT" => CadEntityTypeName.Viewport,
+        "RAY" => CadEntityTypeName.Ray,
+        "XLINE" => CadEntityTypeName.XLine,
+        "TOLERANCE" => CadEntityTypeName.Tolerance,
+        "SHAPE" => CadEntityTypeName.Shape,
+        "MLINE" => CadEntityTypeName.MultiLine,
+        "3DSOLID" => CadEntityTypeName.Solid3D,
+        "BODY" => CadEntityTypeName.Body,
+        "REGION" => CadEntityTypeName.Region,
+        "ACAD_TABLE" => CadEntityTypeName.AcadTable,
+        "LIGHT" => CadEntityTypeName.Light,
+        "MESH" => CadEntityTypeName.Mesh,
+        "SECTION" => CadEntityTypeName.Section,
+        "SUN" => CadEntityTypeName.Sun,
+        "SURFACE" => CadEntityTypeName.Surface,
+        "EXTRUDEDSURFACE" => CadEntityTypeName.ExtrudedSurface,
+        "LOFTEDSURFACE" => CadEntityTypeName.LoftedSurface,
+        "REVOLVEDSURFACE" => CadEntityTypeName.RevolvedSurface,
+        "SWEPTSURFACE" => CadEntityTypeName.SweptSurface,
+        "PLANESURFACE" => CadEntityTypeName.PlaneSurface,
+        "OLE2FRAME" => CadEntityTypeName.Ole2Frame,
+        "OLEFRAME" => CadEntityTypeName.OleFrame,
+        "PDFUNDERLAY" => CadEntityTypeName.PdfUnderlay,
+        "DWFUNDERLAY" => CadEntityTypeName.DwfUnderlay,
+        "DGNUNDERLAY" => CadEntityTypeName.DgnUnderlay,
+        "ACAD_PROXY_ENTITY" => CadEntityTypeName.AcadProxyEntity,
+        "COORDINATION_MODEL" => CadEntityTypeName.CoordinationModel,
+        _ => CadEntityTypeName.None,
+    };
+}

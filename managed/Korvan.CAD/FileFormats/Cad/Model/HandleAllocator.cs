@@ -1,0 +1,45 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+
+namespace Korvan.CAD.FileFormats.Cad.Model;
+
+/// <summary>Gives handles to objects that have none, from $HANDSEED on.</summary>
+internal static class HandleAllocator
+{
+    internal static void Assign(CadDrawing drawing, bool required)
+    {
+        HashSet<ulong> used = [];
+        List<CadBaseObject> without = [];
+        ulong next = 1;
+        foreach (CadBaseObject item in DrawingWalk.All(drawing))
+        {
+            // An object that took the handle of another gets one of its own.
+            if (item.Handle == 0 || !used.Add(item.Handle))
+            {
+                without.Add(item);
+            }
+
+            next = Math.Max(next, item.Handle + 1);
+        }
+
+        // Old drawings may do without handles; then new objects have none either.
+        if (!required && used.Count == 0)
+        {
+            return;
+        }
+
+        if (HandleText.TryParse(drawing.Header.HandSeed, out ulong seed))
+        {
+            next = Math.Max(next, seed);
+        }
+
+        foreach (CadBaseObject item in without)
+        {
+            item.Handle = required || item is CadEntityBase ? next++ : 0;
+        }
+
+        drawing.Header.HandSeed = HandleText.Format(next);
+    }
+}

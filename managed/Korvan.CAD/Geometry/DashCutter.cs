@@ -1,0 +1,93 @@
+using System;
+
+namespace Korvan.CAD.Geometry;
+
+/// <summary>Cuts a path into its dashes, for formats whose line types have no phase or whose readers differ over
+/// them.</summary>
+internal static class DashCutter
+{
+    /// <summary>Past this a line is drawn whole: its dashes could not be told apart.</summary>
+    private const int MostDashes = 200_000;
+
+    /// <summary>Puts the dashes into the target; lengths alternate between ink and gap. False when there are too many.</summary>
+    internal static bool Cut(PathBuffer path, double[] lengths, double offset, double tolerance, PathBuffer target)
+    {
+        double period = 0;
+        Array.ForEach(lengths, length => period += length);
+        target.Clear();
+        int dashes = 0;
+        foreach (FlatLine line in FlatLine.Of(path, tolerance))
+        {
+            var walk = new Walk(lengths, period, offset);
+            for (int i = 0; i + 1 < line.Points.Length; i++)
+            {
+                if (!walk.Chord(line.Points[i], line.Points[i + 1], target, ref dashes))
+                {
+                    return false;
+                }
+            }
+        }
+
+        return true;
+    }
+
+    private struct Walk
+    {
+        private readonly double[] _lengths;
+        private int _place;
+        private double _left;
+        private bool _down;
+
+        internal Walk(double[] lengths, double period, double offset)
+        {
+            _lengths = lengths;
+            double at = offset % period;
+            at = at < 0 ? at + period : at;
+            while (_place < lengths.Length - 1 && at >= lengths[_place])
+            {
+                at -= lengths[_place++];
+            }
+
+            _left = Math.Max(0, lengths[_place] - at);
+        }
+
+        internal bool Chord(Vec2 from, Vec2 to, PathBuffer target, ref int dashes)
+        {
+            double length = (to - from).Length;
+            double done = 0;
+            while (true)
+            {
+                bool ink = _place % 2 == 0;
+                double step = Math.Min(_left, length - done);
+                if (ink)
+                {
+                    if (!_down)
+                    {
+                        target.MoveTo(At(from, to, length, done));
+                        _down = true;
+                        dashes++;
+                    }
+
+                    target.LineTo(At(from, to, length, done + step));
+                }
+
+                done += step;
+                _left -= step;
+                if (_left > 0)
+                {
+                    return dashes <= MostDashes;
+                }
+
+                _place = (_place + 1) % _lengths.Length;
+                _left = _lengths[_place];
+                _down = false;
+                if (dashes > MostDashes || (done >= length && _left > 0))
+                {
+                    return dashes <= MostDashes;
+                }
+            }
+        }
+
+        private static Vec2 At(Vec2 from, Vec2 to, double length, double at) => length > 0 ? Vec2.Lerp(from, to, at / length) : from;
+    }
+}

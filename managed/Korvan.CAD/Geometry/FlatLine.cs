@@ -1,0 +1,71 @@
+using System;
+using System.Collections.Generic;
+
+namespace Korvan.CAD.Geometry;
+
+/// <summary>A subpath as points; the first stands again at the end of one that is closed.</summary>
+internal readonly record struct FlatLine(Vec2[] Points, bool Closed)
+{
+    /// <summary>Cuts the curves of a path into chords that lie within the tolerance.</summary>
+    internal static List<FlatLine> Of(PathBuffer path, double tolerance)
+    {
+        var lines = new List<FlatLine>();
+        var points = new List<Vec2>();
+        ReadOnlySpan<double> c = path.Coords;
+        int at = 0;
+        foreach (PathVerb verb in path.Verbs)
+        {
+            switch (verb)
+            {
+                case PathVerb.Move:
+                    Finish(lines, points, closed: false);
+                    points.Add(new Vec2(c[at], c[at + 1]));
+                    at += 2;
+                    break;
+                case PathVerb.Line:
+                    points.Add(new Vec2(c[at], c[at + 1]));
+                    at += 2;
+                    break;
+                case PathVerb.Curve:
+                    AddCurve(points, c.Slice(at, 6), tolerance);
+                    at += 6;
+                    break;
+                default:
+                    Vec2 start = points.Count > 0 ? points[0] : default;
+                    Finish(lines, points, closed: true);
+
+                    // What follows a closed subpath without a move begins where that began.
+                    points.Add(start);
+                    break;
+            }
+        }
+
+        Finish(lines, points, closed: false);
+        return lines;
+    }
+
+    private static void AddCurve(List<Vec2> points, ReadOnlySpan<double> c, double tolerance)
+    {
+        (Vec2 p0, Vec2 p1, Vec2 p2, Vec2 p3) = (points[^1], new Vec2(c[0], c[1]), new Vec2(c[2], c[3]), new Vec2(c[4], c[5]));
+        int pieces = Cubic.PieceCount(p0, p1, p2, p3, tolerance);
+        for (int i = 1; i <= pieces; i++)
+        {
+            points.Add(Cubic.At(p0, p1, p2, p3, (double)i / pieces));
+        }
+    }
+
+    private static void Finish(List<FlatLine> lines, List<Vec2> points, bool closed)
+    {
+        if (points.Count > 1)
+        {
+            if (closed && points[0] != points[^1])
+            {
+                points.Add(points[0]);
+            }
+
+            lines.Add(new FlatLine([.. points], closed));
+        }
+
+        points.Clear();
+    }
+}

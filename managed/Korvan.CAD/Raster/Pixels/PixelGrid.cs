@@ -1,0 +1,208 @@
+using System;
+using System.Numerics;
+using System.Runtime.InteropServices;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Rendering.Devices;
+
+namespace Korvan.CAD.Raster.Pixels;
+
+/// <summary>
+/// Pixels in rows from the top down: 32-bit numbers of opacity, red, green and blue, alpha not multiplied in. In memory
+/// each is blue, green, red, opacity, as codecs call it BGRA.
+/// </summary>
+internal sealed unsafe class PixelGrid : IDisposable
+{
+    internal const int LargestSide = 65_535;
+    internal const long MostPixels = RasterPage.MostPixels;
+    internal const int Opaque = unchecked((int)0xFF000000);
+
+    private readonly IDisposable owner;
+    private int* data;
+
+    internal PixelGrid(int width, int height)
+    {
+        Verify(width, height);
+        var block = new PixelBlock((long)width * height);
+        owner = block;
+        data = block.Data;
+        (Width, Height) = (width, height);
+    }
+
+    /// <summary>Takes pixels over from another owner.</summary>
+    internal PixelGrid(int* data, int width, int height, IDisposable owner)
+    {
+        this.owner = owner;
+        this.data = data;
+        (Width, Height) = (width, height);
+    }
+
+    internal int Width { get; private set; }
+
+    internal int Height { get; private set; }
+
+    internal long Count => (long)Width * Height;
+
+    internal byte* Pointer
+    {
+        get
+        {
+            ObjectDisposedException.ThrowIf(data == null, typeof(Image));
+            return (byte*)data;
+        }
+    }
+
+    /// <summary>Throws for a size that no grid may have; call it before anything is allocated for a file's claim.</summary>
+    internal static void Verify(long width, long height)
+    {
+        if (width < 1 || height < 1)
+        {
+            throw new ArgumentOutOfRangeException(null, $"A picture of {width} × {height} pixels has no area.");
+        }
+
+        if (width > LargestSide || height > LargestSide || width * height > MostPixels)
+        {
+            throw new LimitMemoryException($"A picture of {width} × {height} pixels is too large: at most {LargestSide} pixels"
+                + $" on a side and {MostPixels} in all.");
+        }
+    }
+
+    internal Span<int> Row(int y)
+    {
+        ObjectDisposedException.ThrowIf(data == null, typeof(Image));
+        ArgumentOutOfRangeException.ThrowIfGreaterThanOrEqual((uint)y, (uint)Height, nameof(y));
+        return new Span<int>(data + ((long)y * Width), Width);
+    }
+
+    internal Span<byte> Bytes(int y) => MemoryMarshal.AsBytes(Row(y));
+
+    internal void Fill(int argb)
+    {
+        for (int y = 0; y < Height; y++)
+        {
+            Row(y).Fill(argb);
+        }
+    }
+
+    internal PixelGrid Copy(Rectangle area)
+    {
+        var copy = new PixelGrid(area.Width, area.Height);
+        for (int y = 0; y < area.Height; y++)
+        {
+            Row(area.Y + y).Slice(area.X, area.Width).CopyTo(copy.Row(y));
+        }
+
+        return copy;
+    }
+
+    internal PixelGrid Copy() => Copy(new Rectangle(0, 0, Width, Height));
+
+    /// <summary>Makes a part the whole, without a new place.</summary>
+    internal void CropInPlace(Rectangle area)
+    {
+        // Rows move towards the start only, so none is overwritten before it was moved.
+        for (int y = 0; y < area.Height; y++)
+        {
+            Row(area.Y + y).Slice(area.X, area.Width).CopyTo(new Span<int>(data + ((long)y * area.Width), area.Width));
+        }
+
+        (Width, Height) = (area.Width, area.Height);
+    }
+
+    internal bool IsOpaque()
+    {
+        for (int y = 0; y < Height; y++)
+        {
+            if (!AllHave(Row(y), Opaque))
+            {
+                return false;
+            }
+        }
+
+        return true;
+    }
+
+    internal static bool IsGray(int argb) => (byte)argb == (byte)(argb >> 8) && (byte)argb == (byte)(argb >> 16);
+
+    internal bool IsGray()
+    {
+        for (int y = 0; y < Height; y++)
+        {
+            foreach (int pixel in Row(y))
+            {
+                if (!IsGray(pixel))
+                {
+                    return false;
+                }
+            }
+        }
+
+        return true;
+    }
+
+    /// <summary>Lays the pixels over a colour, so that all of them are opaque.</summary>
+    internal void Flatten(int background)
+    {
+        for (int y = 0; y < Height; y++)
+        {
+            Span<int> row = Row(y);
+            if (AllHave(row, Opaque))
+            {
+                continue;
+            }
+
+            foreach (ref int pixel in row)
+            {
+                pixel = Over(pixel, background);
+            }
+        }
+    }
+
+    /// <summary>A colour over an opaque one.</summary>
+    internal static int Over(int argb, int background)
+    {
+        int alpha = (int)((uint)argb >> 24);
+        if (alpha == 255)
+        {
+            return argb;
+        }
+
+        int Mix(int shift) => ((((argb >> shift) & 255) * alpha) + (((background >> shift) & 255) * (255 - alpha)) + 127) / 255;
+        return Opaque | (Mix(16) << 16) | (Mix(8) << 8) | Mix(0);
+    }
+
+    /// <summary>Lightness of 0 to 255 by the weights of ITU-R BT.601.</summary>
+    internal static int Luma(int argb) =>
+        ((((argb >> 16) & 255) * 19595) + (((argb >> 8) & 255) * 38470) + ((argb & 255) * 7471) + 32768) >> 16;
+
+    public void Dispose()
+    {
+        data = null;
+        owner.Dispose();
+    }
+
+    private static bool AllHave(ReadOnlySpan<int> row, int bits)
+    {
+        int all = -1;
+        int i = 0;
+        if (row.Length >= Vector<int>.Count)
+        {
+            var sum = new Vector<int>(-1);
+            for (; i <= row.Length - Vector<int>.Count; i += Vector<int>.Count)
+            {
+                sum &= new Vector<int>(row[i..]);
+            }
+
+            for (int k = 0; k < Vector<int>.Count; k++)
+            {
+                all &= sum[k];
+            }
+        }
+
+        for (; i < row.Length; i++)
+        {
+            all &= row[i];
+        }
+
+        return (all & bits) == bits;
+    }
+}
