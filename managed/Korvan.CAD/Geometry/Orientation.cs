@@ -1,5 +1,4 @@
 using System;
-using Korvan.CAD.Rendering.Geometry;
 
 namespace Korvan.CAD.Geometry;
 

@@ -1,22 +1,26 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.Rendering.Geometry;
 
 namespace Korvan.CAD.Geometry.Triangulation;
 
 /// <summary>
 /// Splits edges where they cross or touch (J. L. Bentley and T. A. Ottmann, Algorithms for reporting and counting
-/// geometric intersections, 1979). Crossings are rounded, which moves edges by a last digit: what that hides is found
-/// when the split edges are swept once more.
+/// geometric intersections, 1979). Crossings are rounded to a grid, and an edge that runs past a point more closely than
+/// that is drawn to it: edges that nearly coincide become one. What rounding hides from this sweep is found when the
+/// split edges are swept once more.
 /// </summary>
 internal sealed class CrossingSplitter
 {
     /// <summary>Past this many crossings the input is not split: it is no outline of anything.</summary>
-    internal const int MaxSplits = 2_000_000;
+    internal const int MaxSplits = 1_000_000;
 
     private const int None = SweepStatus.None;
 
+    // Four digits of a number are left below the grid.
+    private const int GridDigits = 48;
+
     private readonly PlanarGraph _graph;
+    private readonly double _grid;
     private readonly SweepStatus _status;
     private readonly PriorityQueue<int, Vec2> _events = new(Comparer<Vec2>.Create(Orientation.Compare));
     private readonly List<List<int>?> _edgesAt = [];
@@ -28,6 +32,13 @@ internal sealed class CrossingSplitter
     {
         _graph = graph;
         _status = new SweepStatus(graph);
+        double farthest = double.Epsilon;
+        foreach (Vec2 p in graph.Points)
+        {
+            farthest = Math.Max(farthest, Math.Max(Math.Abs(p.X), Math.Abs(p.Y)));
+        }
+
+        _grid = Math.ScaleB(1, Math.ILogB(farthest) - GridDigits);
         for (int i = 0; i < graph.Edges.Length; i++)
         {
             Register(graph.Edges[i].Left, i);
@@ -75,12 +86,12 @@ internal sealed class CrossingSplitter
             }
         }
 
-        int below = _status.FindBelow(point, out int touched);
+        int below = FindBelow(point, out int touched);
         while (touched != None)
         {
             _status.Remove(touched);
             Split(touched, point);
-            below = _status.FindBelow(point, out touched);
+            below = FindBelow(point, out touched);
         }
 
         _starts.Clear();
@@ -95,6 +106,34 @@ internal sealed class CrossingSplitter
 
         CheckNeighbours(point, above);
     }
+
+    private int FindBelow(int point, out int touched)
+    {
+        int below = _status.FindBelow(point, out touched);
+        if (touched == None)
+        {
+            int above = _status.Above(below);
+            touched = IsNear(below, point) ? below : IsNear(above, point) ? above : None;
+        }
+
+        return below;
+    }
+
+    private bool IsNear(int edge, int point)
+    {
+        if (edge == None || !IsWithin(_graph.Edges[edge], point))
+        {
+            return false;
+        }
+
+        GraphEdge e = _graph.Edges[edge];
+        Vec2 along = _graph.Points[e.Right] - _graph.Points[e.Left];
+        Vec2 way = _graph.Points[point] - _graph.Points[e.Left];
+        return Math.Abs(Vec2.Cross(along, way)) <= _grid * along.Length;
+    }
+
+    private bool IsWithin(in GraphEdge edge, int point) =>
+        _graph.Compare(edge.Left, point) < 0 && _graph.Compare(point, edge.Right) < 0;
 
     private void CheckNeighbours(int point, int above)
     {
@@ -134,19 +173,24 @@ internal sealed class CrossingSplitter
         }
         else if (lowRight * _graph.Side(above, low.Left) < 0 && highRight * _graph.Side(below, high.Left) < 0)
         {
-            SplitBoth(below, above, Crossing(low, high, lowFirst ? low.Right : high.Right), point);
+            SplitBoth(below, above, Crossing(low, high), point);
         }
     }
 
-    /// <summary>The point of two edges that cross, rounded, but not past the first of their ends.</summary>
-    private int Crossing(in GraphEdge a, in GraphEdge b, int firstEnd)
+    /// <summary>The point where two edges cross, rounded, within what of the sweep both of them see.</summary>
+    private int Crossing(in GraphEdge a, in GraphEdge b)
     {
         ReadOnlySpan<Vec2> points = _graph.Points;
+        int first = _graph.Compare(a.Left, b.Left) < 0 ? b.Left : a.Left;
+        int last = _graph.Compare(a.Right, b.Right) < 0 ? a.Right : b.Right;
         Vec2 along = points[a.Right] - points[a.Left];
         Vec2 other = points[b.Right] - points[b.Left];
         double share = Vec2.Cross(points[b.Left] - points[a.Left], other) / Vec2.Cross(along, other);
         Vec2 at = points[a.Left] + (along * (double.IsFinite(share) ? Math.Clamp(share, 0, 1) : 0.5));
-        return Orientation.Compare(at, points[firstEnd]) < 0 ? _graph.Place(at) : firstEnd;
+        at = new Vec2(Math.Round(at.X / _grid) * _grid, Math.Round(at.Y / _grid) * _grid);
+        return Orientation.Compare(at, points[first]) <= 0 ? first
+            : Orientation.Compare(at, points[last]) >= 0 ? last
+            : _graph.Place(at);
     }
 
     private void SplitBoth(int below, int above, int crossing, int point)
@@ -167,7 +211,7 @@ internal sealed class CrossingSplitter
     private void Split(int edge, int point)
     {
         GraphEdge whole = _graph.Edges[edge];
-        if (_graph.Compare(whole.Left, point) >= 0 || _graph.Compare(point, whole.Right) >= 0)
+        if (!IsWithin(whole, point))
         {
             return;
         }

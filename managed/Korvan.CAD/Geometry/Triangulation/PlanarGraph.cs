@@ -1,7 +1,6 @@
 using System;
 using System.Collections.Generic;
 using System.Runtime.InteropServices;
-using Korvan.CAD.Rendering.Geometry;
 
 namespace Korvan.CAD.Geometry.Triangulation;
 

@@ -1,7 +1,6 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
-using Korvan.CAD.Rendering.Geometry;
 
 namespace Korvan.CAD.Geometry.Triangulation;
 
@@ -30,8 +29,9 @@ internal sealed record TriangulatedPolygon(int[] Triangles, AddedPoint[] Added, 
 /// </summary>
 internal static class PolygonTriangulator
 {
-    // Each round mends what rounding the crossings of the one before has moved; more than three are not known.
-    private const int MaxRounds = 16;
+    // Each round splits what rounding has moved in the one before; all but the worst tangles take one or two.
+    private const int MaxRounds = 100;
+    private const long MaxEdgesSwept = 10_000_000;
 
     /// <summary>Triangulates; nothing where a corner is not finite, or where rings cross too often to be split.</summary>
     internal static TriangulatedPolygon? TryTriangulate(IReadOnlyList<Vec2[]> rings, FillRule rule)
@@ -50,9 +50,11 @@ internal static class PolygonTriangulator
     internal static T? Sweep<T>(PlanarGraph graph, FillRule rule, Func<T> create)
         where T : RegionSweep
     {
-        for (int round = 0; round < MaxRounds; round++)
+        long swept = 0;
+        for (int round = 0; round < MaxRounds && swept <= MaxEdgesSwept; round++)
         {
             graph.Merge(rule);
+            swept += round == 0 ? 0 : graph.Edges.Length;
             T sweep = create();
             if (sweep.TryRun())
             {

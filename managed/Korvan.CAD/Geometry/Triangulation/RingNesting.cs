@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.Rendering.Geometry;
 
 namespace Korvan.CAD.Geometry.Triangulation;
 
