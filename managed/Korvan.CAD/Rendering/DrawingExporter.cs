@@ -12,7 +12,7 @@ using Korvan.CAD.FileFormats.Pdf;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.Rendering.Mesh;
+using Korvan.CAD.Rendering.Meshes;
 using Korvan.CAD.Rendering.Pdf;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;

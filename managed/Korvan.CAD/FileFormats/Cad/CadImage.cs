@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.IO;
+using System.Linq;
 using Korvan.CAD.Annotations;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
@@ -12,7 +13,7 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
-using Korvan.CAD.Rendering.Mesh;
+using Korvan.CAD.Rendering.Meshes;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.WatermarkGuard;
 
@@ -174,7 +175,11 @@ public partial class CadImage : Image, IVectorImage
         VerifyNotDisposed();
         try
         {
-            return [.. MeshScene.Collect(Drawing, null).ConvertAll(static part => new DrawingEntity3D(part))];
+            return
+            [
+                .. DrawingMeshes.Read(Drawing, null).Instances()
+                    .Select(static faces => new DrawingEntity3D(faces.Node, faces.Mesh, faces.World)),
+            ];
         }
         catch (RenderException e)
         {
