@@ -7,8 +7,9 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
+using Korvan.CAD.Scene3D;
 
-namespace Korvan.CAD.Rendering.Mesh;
+namespace Korvan.CAD.Rendering.Meshes;
 
 /// <summary>The faces of one entity. An entity without faces, or whose corners are missing, adds none.</summary>
 internal static class EntityFaces
@@ -16,7 +17,7 @@ internal static class EntityFaces
     private const int SplineFrameVertex = 16;
     private const int PolyfacePoint = 64;
 
-    internal static void Add(CadEntityBase entity, in Affine3 map, MeshPart part, int circleSides)
+    internal static void Add(CadEntityBase entity, in Affine3 map, MeshBuilder part, int circleSides)
     {
         switch (entity)
         {
@@ -48,7 +49,7 @@ internal static class EntityFaces
 
     private static Vec3 V(Cad3DPoint p) => new(p.X, p.Y, p.Z);
 
-    private static void Mapped(MeshPart part, in Affine3 map, ReadOnlySpan<Vec3> corners)
+    private static void Mapped(MeshBuilder part, in Affine3 map, ReadOnlySpan<Vec3> corners)
     {
         Span<Vec3> mapped = corners.Length <= 64 ? stackalloc Vec3[corners.Length] : new Vec3[corners.Length];
         for (int i = 0; i < corners.Length; i++)
@@ -65,7 +66,7 @@ internal static class EntityFaces
             mapped.Reverse(); // what looked outwards still does
         }
 
-        part.Face(mapped);
+        part.Add(mapped);
     }
 
     private static bool IsMirror(in Affine3 map) => Vec3.Dot(Vec3.Cross(map.AxisX, map.AxisY), map.AxisZ) < 0;
@@ -93,7 +94,7 @@ internal static class EntityFaces
     }
 
     /// <summary>A flat face, or with a thickness two of them and the walls between.</summary>
-    private static void Prism(MeshPart part, CadExtrudedEntityBase entity, in Affine3 map, Vec3[] ring)
+    private static void Prism(MeshBuilder part, CadExtrudedEntityBase entity, in Affine3 map, Vec3[] ring)
     {
         Affine3 ocs = InObject(entity, map);
         if (entity.Thickness == 0)
@@ -110,7 +111,7 @@ internal static class EntityFaces
         Walls(part, ocs, sides, closed: true, up);
     }
 
-    private static void Walls(MeshPart part, in Affine3 ocs, IReadOnlyList<Vec3> line, bool closed, Vec3 up)
+    private static void Walls(MeshBuilder part, in Affine3 ocs, IReadOnlyList<Vec3> line, bool closed, Vec3 up)
     {
         int count = closed ? line.Count : line.Count - 1;
         for (int i = 0; i < count; i++)
@@ -121,14 +122,14 @@ internal static class EntityFaces
         }
     }
 
-    private static void Fence(MeshPart part, in Affine3 ocs, List<Vec3> line, bool closed, double thickness)
+    private static void Fence(MeshBuilder part, in Affine3 ocs, List<Vec3> line, bool closed, double thickness)
     {
         (Vec3[] corners, Vec3 up) = closed ? Outwards(line, thickness) : ([.. line], Vec3.UnitZ * thickness);
         Walls(part, ocs, corners, closed, up);
     }
 
     /// <summary>Lines become walls; a circle becomes a drum with its two lids.</summary>
-    private static void Thick(MeshPart part, CadExtrudedEntityBase entity, in Affine3 map, int sides)
+    private static void Thick(MeshBuilder part, CadExtrudedEntityBase entity, in Affine3 map, int sides)
     {
         Affine3 ocs = InObject(entity, map);
         Vec3 up = Vec3.UnitZ * entity.Thickness;
@@ -219,7 +220,7 @@ internal static class EntityFaces
         return points;
     }
 
-    private static void Polyface(MeshPart part, CadPolyFaceMesh mesh, in Affine3 map)
+    private static void Polyface(MeshBuilder part, CadPolyFaceMesh mesh, in Affine3 map)
     {
         List<Vec3> points = [];
         foreach (CadVertexBase vertex in mesh.Vertices)
@@ -256,7 +257,7 @@ internal static class EntityFaces
         return count;
     }
 
-    private static void Net(MeshPart part, CadPolygonMesh mesh, in Affine3 map)
+    private static void Net(MeshBuilder part, CadPolygonMesh mesh, in Affine3 map)
     {
         bool smooth = (mesh.Flag & CadPolylineFlag.SplineFit) != 0 && mesh.SurfaceMDensity > 1 && mesh.SurfaceNDensity > 1;
         int m = smooth ? mesh.SurfaceMDensity : mesh.MeshMVertexCount;
@@ -285,7 +286,7 @@ internal static class EntityFaces
     }
 
     /// <summary>The faces of the control mesh of a subdivision mesh.</summary>
-    private static void Subdivision(MeshPart part, CadMesh mesh, in Affine3 map)
+    private static void Subdivision(MeshBuilder part, CadMesh mesh, in Affine3 map)
     {
         SubdivisionCage cage = SubdivisionCage.Read(mesh);
         foreach (Vec3[] face in cage.Faces())
