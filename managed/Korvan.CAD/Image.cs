@@ -1,13 +1,13 @@
 using System;
-using System.Collections.Generic;
-using System.Diagnostics;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.Annotations;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats;
+using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering;
 using Korvan.CAD.WatermarkGuard;
 
 namespace Korvan.CAD;
@@ -118,12 +118,12 @@ public abstract partial class Image : DataStreamSupporter
     /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
     public static Image Load([PythonKept] Stream stream) => Load(stream, new LoadOptions());
 
-    /// <summary>Tells from the first bytes whether a file is of a format that can be read.</summary>
+    /// <summary>Tells from the content whether a file is of a format that can be read.</summary>
     /// <param name="filePath">The path of the file. A file that is missing cannot be read.</param>
     /// <returns>Whether there is a reader for it.</returns>
     public static bool CanLoad(string filePath) => ImageLoader.CanLoad(filePath);
 
-    /// <summary>Tells from the first bytes whether a file is of a format that can be read.</summary>
+    /// <summary>Tells from the content whether a file is of a format that can be read.</summary>
     /// <param name="filePath">The path of the file. A file that is missing cannot be read.</param>
     /// <param name="loadOptions">How it would be read.</param>
     /// <returns>Whether there is a reader for it.</returns>
@@ -133,13 +133,13 @@ public abstract partial class Image : DataStreamSupporter
         return ImageLoader.CanLoad(filePath);
     }
 
-    /// <summary>Tells from the next bytes whether a stream is of a format that can be read. The position of a
+    /// <summary>Tells from the content whether a stream is of a format that can be read. The position of a
     /// stream that can seek is kept.</summary>
     /// <param name="stream">The stream.</param>
     /// <returns>Whether there is a reader for it.</returns>
     public static bool CanLoad(Stream stream) => ImageLoader.CanLoad(stream);
 
-    /// <summary>Tells from the next bytes whether a stream is of a format that can be read. The position of a
+    /// <summary>Tells from the content whether a stream is of a format that can be read. The position of a
     /// stream that can seek is kept.</summary>
     /// <param name="stream">The stream.</param>
     /// <param name="loadOptions">How it would be read.</param>
@@ -192,7 +192,7 @@ public abstract partial class Image : DataStreamSupporter
         VerifyNotDisposed();
         Verify.NotNull(options);
         VerifyCanSave(options);
-        AtomicFile.Write(filePath, true, stream => ExportTimed(options, stream));
+        AtomicFile.Write(filePath, true, stream => Export(options, stream));
     }
 
     /// <summary>Writes the image to a stream in the format that the options stand for.</summary>
@@ -205,7 +205,7 @@ public abstract partial class Image : DataStreamSupporter
         Verify.NotNull(stream);
         Verify.NotNull(optionsBase);
         VerifyCanSave(optionsBase);
-        ImageSaver.WriteTo(stream, output => ExportTimed(optionsBase, output));
+        ImageSaver.WriteTo(stream, output => Export(optionsBase, output));
     }
 
     /// <summary>Tells whether the image can be written in the format that the options stand for.</summary>
@@ -214,7 +214,7 @@ public abstract partial class Image : DataStreamSupporter
     public bool CanSave(ImageOptionsBase options)
     {
         Verify.NotNull(options);
-        return SupportsExport(options);
+        return FormatRegistry.FindWriter(this, options.GetType()) is not null;
     }
 
     /// <summary>Gives the texts of the content, in drawing order and without formatting codes.</summary>
@@ -239,52 +239,76 @@ public abstract partial class Image : DataStreamSupporter
     /// <summary>Gets in a few words what the image holds.</summary>
     internal abstract string Content { get; }
 
-    internal abstract bool SupportsExport(ImageOptionsBase options);
+    /// <summary>Gets the format of the content where it was not read from a file.</summary>
+    private protected abstract FileFormat NativeFormat { get; }
 
-    /// <summary>Gets the classes of options that <see cref="SupportsExport"/> says yes to.</summary>
-    internal abstract IEnumerable<Type> ExportOptionTypes { get; }
+    /// <summary>Gets or sets the format of the file that the image was read from; undefined for images that were made
+    /// in memory.</summary>
+    internal FileFormat SourceFormat { get; set; }
 
-    internal abstract void Export(ImageOptionsBase options, Stream stream);
-
-    /// <summary>Gets the format that is written without options.</summary>
-    internal abstract FileFormat OwnFormat { get; }
+    /// <inheritdoc/>
+    internal override void SaveData(Stream stream) => WriteOwn(OwnOptions(SourceOrNative, ""), stream);
 
     /// <inheritdoc/>
     internal override Action<Stream> OwnWriter(string filePath)
     {
-        FileFormatInfo[] meant = Path.GetExtension(filePath) is { Length: > 1 } ending
-            ? FileFormatInfo.FindByExtension(ending) : [];
-        if (meant.Length == 0 || Array.Exists(meant, info => info.Format == OwnFormat))
+        string extension = Path.GetExtension(filePath);
+        FileFormatInfo[] meant = extension.Length > 1 ? FileFormatInfo.FindByExtension(extension) : [];
+        if (meant.Length == 0)
         {
             return SaveData;
         }
 
-        string[] classes = [.. ExportOptionTypes
-            .Where(type => Array.Exists(meant, info => info.Format == ImageSaver.FormatOf(type)))
+        // What was read from a format that is not written can still become a file of its native format.
+        FileFormat[] own = [SourceOrNative, NativeFormat];
+        FileFormat chosen = Array.Find(own, format => Array.Exists(meant, info => info.Format == format)
+            && FormatRegistry.OwnOptions(this, new OwnPlace(format, extension)) is not null);
+        if (chosen != FileFormat.Undefined)
+        {
+            return stream => WriteOwn(OwnOptions(chosen, extension), stream);
+        }
+
+        string[] classes = [.. FormatRegistry.OptionTypesFor(this, [.. meant.Select(static info => info.Format)])
             .Select(static type => type.Name)];
         throw new ImageSaveException(
-            $"'{filePath}' has the ending of {meant[0].Name}, but without options the image is written as "
-            + $"{FileFormatInfo.Get(OwnFormat).Name}; "
+            $"'{filePath}' has the extension of {meant[0].Name}, but without options the image is written as "
+            + $"{FileFormatInfo.Get(SourceOrNative).Name}; "
             + (classes.Length > 0 ? $"pass {string.Join(" or ", classes)}." : "it cannot be written in that format."));
     }
 
-    /// <summary>Exports, and tells in the options what became of it; an exporter that leaves nothing out need not say so.</summary>
-    private void ExportTimed(ImageOptionsBase options, Stream stream)
+    private FileFormat SourceOrNative => SourceFormat == FileFormat.Undefined ? NativeFormat : SourceFormat;
+
+    private ImageOptionsBase OwnOptions(FileFormat format, string extension) =>
+        FormatRegistry.OwnOptions(this, new OwnPlace(format, extension))
+        ?? throw new ImageSaveException(
+            $"{GetType().Name} was read from {FileFormatInfo.Get(format).Name}, which it cannot be written back as; "
+            + $"pass {OptionNames()} and the path of another file.");
+
+    private void WriteOwn(ImageOptionsBase options, Stream stream) =>
+        FormatRegistry.FindWriter(this, options.GetType())!.Write(this, new ExportContext(options, LoadOptions), stream);
+
+    private string OptionNames() =>
+        string.Join(", ", FormatRegistry.OptionTypesFor(this).Select(static type => type.Name));
+
+    /// <summary>Exports, and tells in the options what became of it.</summary>
+    private void Export(ImageOptionsBase options, Stream stream)
     {
-        long start = Stopwatch.GetTimestamp();
+        FormatWriter writer = FormatRegistry.FindWriter(this, options.GetType())!;
         options.RenderResult = null;
+        options.VerifyHonoured(writer.KindOf(this)!.Value);
+        var context = new ExportContext(options, LoadOptions);
         if (options.Source is null)
         {
-            Export(options, stream);
+            writer.Write(this, context, stream);
         }
         else
         {
             using var output = new MemoryStream();
-            Export(options, output);
+            writer.Write(this, context, output);
             ImageSaver.WriteTwice(output, stream, options.Source);
         }
 
-        options.RenderResult ??= new CadRenderResult([], Stopwatch.GetElapsedTime(start));
+        options.RenderResult = context.Result();
     }
 
     private protected virtual void OnDefaultUnitTypeChanged(UnitType value)
@@ -293,13 +317,11 @@ public abstract partial class Image : DataStreamSupporter
 
     private void VerifyCanSave(ImageOptionsBase options)
     {
-        if (!SupportsExport(options))
+        if (!CanSave(options))
         {
-            string[] names = [.. ExportOptionTypes.Select(static type => type.Name).Order(StringComparer.Ordinal)];
             throw new ImageSaveException(
                 $"{GetType().Name} cannot be saved with {options.GetType().Name}: it is not written as "
-                    + $"{Verify.NameOf(options.TargetFormat)}; "
-                + $"pass {string.Join(", ", names)}.");
+                    + $"{Verify.NameOf(options.TargetFormat)}; pass {OptionNames()}.");
         }
     }
 }

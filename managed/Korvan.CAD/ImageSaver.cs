@@ -48,10 +48,6 @@ internal static class ImageSaver
         }
     }
 
-    /// <summary>Gives the format that options of a class write.</summary>
-    internal static FileFormat FormatOf(Type options) =>
-        ((ImageOptionsBase)Activator.CreateInstance(options)!).TargetFormat;
-
     /// <summary>Writes finished output to both places; the second is open before the first byte is written.</summary>
     internal static void WriteTwice(MemoryStream output, Stream first, Source second)
     {

@@ -5,6 +5,7 @@ using System.Linq;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Exif;
+using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Raster.Pixels;
@@ -14,7 +15,7 @@ namespace Korvan.CAD;
 /// <summary>A picture of pixels. Pixels are colours of 8 bits each for red, green, blue and opacity, whatever the file
 /// stored; rows run from the top down.</summary>
 public abstract partial class RasterImage
-    : Image, IRasterImageArgb32PixelLoader, IRasterImagePixelLoader, IRasterImageRawDataLoader
+    : Image, IPixelContent, IRasterImageArgb32PixelLoader, IRasterImagePixelLoader, IRasterImageRawDataLoader
 {
     private const double UsualResolution = 96;
 
@@ -79,30 +80,13 @@ public abstract partial class RasterImage
     }
 
     /// <inheritdoc/>
-    internal override bool SupportsExport(ImageOptionsBase options) => RasterSaver.Supports(options);
-
-    /// <inheritdoc/>
-    internal override IEnumerable<Type> ExportOptionTypes => RasterSaver.OptionTypes;
-
-    /// <inheritdoc/>
-    internal override void Export(ImageOptionsBase options, Stream stream)
-    {
-        options.VerifyHonoured(OutputKind.Picture);
-        RasterSaver.Write(new Frames(this, options, RasterSaver.HoldsPages(options)), options, stream);
-    }
+    IRasterPages IPixelContent.OpenPages(ImageOptionsBase options, bool all) => new Frames(this, options, all);
 
     /// <inheritdoc/>
     internal override string Content => $"{Width} × {Height} pixels";
 
     /// <inheritdoc/>
-    internal override FileFormat OwnFormat => FileFormat;
-
-    /// <inheritdoc/>
-    internal override void SaveData(Stream stream)
-    {
-        Export(OwnOptions.Of(FileFormat)
-            ?? throw new ImageSaveException($"{Verify.NameOf(FileFormat)} is not written; pass options."), stream);
-    }
+    private protected override FileFormat NativeFormat => FileFormat;
 
     /// <summary>Copies of the pages; a single picture where the format has no pages.</summary>
     private sealed class Frames(RasterImage image, ImageOptionsBase options, bool all) : IRasterPages

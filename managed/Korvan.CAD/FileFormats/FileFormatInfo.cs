@@ -1,8 +1,8 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
-using System.Reflection;
 using Korvan.CAD.Binding;
+using Korvan.CAD.Formats;
 
 namespace Korvan.CAD.FileFormats;
 
@@ -31,7 +31,7 @@ public class FileFormatInfo
     /// <summary>Gets the kind of content.</summary>
     public FileFormatCategory Category => _metadata.Category;
 
-    /// <summary>Gets the endings of file names, with their point, the usual one first.</summary>
+    /// <summary>Gets the file extensions with their point, the default one first.</summary>
     public string[] Extensions => [.. _metadata.Extensions];
 
     /// <summary>Gets whether files of the format can be loaded.</summary>
@@ -54,9 +54,9 @@ public class FileFormatInfo
             : throw Verify.OutOfRange(nameof(format), format, "This is no format that files have.");
     }
 
-    /// <summary>Gives the formats whose files have names with an ending, in the order of their numbers.</summary>
-    /// <param name="extension">The ending, with or without its point; upper and lower case are the same.</param>
-    /// <returns>The formats whose files have names with an ending, in the order of their numbers.</returns>
+    /// <summary>Gives the formats whose files have an extension, in the order of their numbers.</summary>
+    /// <param name="extension">The extension, with or without its point; upper and lower case are the same.</param>
+    /// <returns>The formats whose files have the extension, in the order of their numbers.</returns>
     public static FileFormatInfo[] FindByExtension(string extension)
     {
         Verify.NotNull(extension);
@@ -67,18 +67,6 @@ public class FileFormatInfo
     /// <inheritdoc/>
     public override string ToString() => $"{Name} ({string.Join(", ", _metadata.Extensions)})";
 
-    private static Dictionary<FileFormat, FileFormatInfo> ReadAll()
-    {
-        Dictionary<FileFormat, FileFormatInfo> all = [];
-        foreach (FileFormat format in Enum.GetValues<FileFormat>())
-        {
-            FieldInfo member = typeof(FileFormat).GetField(format.ToString())!;
-            if (member.GetCustomAttribute<FileFormatMetadataAttribute>() is { } metadata)
-            {
-                all.Add(format, new FileFormatInfo(format, metadata));
-            }
-        }
-
-        return all;
-    }
+    private static Dictionary<FileFormat, FileFormatInfo> ReadAll() => Metadata.All.OrderBy(static pair => pair.Key)
+        .ToDictionary(static pair => pair.Key, static pair => new FileFormatInfo(pair.Key, pair.Value));
 }

@@ -2,7 +2,6 @@ using System;
 using System.Linq;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
-using Korvan.CAD.Rendering;
 using Korvan.WrpGen.Naming;
 
 namespace Korvan.CAD.ImageOptions;
@@ -83,9 +82,6 @@ public abstract class ImageOptionsBase : DisposableObject
 
     /// <summary>Gets what became of the last export with these options; nothing before the first, and after one that failed.</summary>
     public CadRenderResult? RenderResult { get; internal set; }
-
-    /// <summary>Gets or sets what the export that runs could not draw.</summary>
-    internal RenderNotes Notes { get; set; } = new();
 
     /// <summary>Gets whether the format has a place for <see cref="XmpData"/>.</summary>
     internal virtual bool HoldsXmp => false;

@@ -9,6 +9,7 @@ using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.FileFormats.Cgm.Export;
 using Korvan.CAD.FileFormats.Cgm.Import;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.Cgm;
 
@@ -51,7 +52,7 @@ public sealed class CgmFile
     /// <exception cref="ImageLoadException">The file is missing, no metafile, or damaged and damage is not
     /// ignored.</exception>
     public static CgmFile Load(string filePath, bool ignoreErrors) =>
-        Load(ImageLoader.ReadFile(filePath), filePath, new LoadOptions { IgnoreErrors = ignoreErrors });
+        Load(SourceFile.Read(filePath, SourceFile.ReadAll), filePath, new LoadOptions { IgnoreErrors = ignoreErrors });
 
     /// <summary>Reads a stream of either encoding, perhaps packed by gzip, to its end.</summary>
     /// <param name="stream">The stream; it stays open.</param>
@@ -67,7 +68,7 @@ public sealed class CgmFile
     public static CgmFile Load(Stream stream, bool ignoreErrors)
     {
         Verify.NotNull(stream);
-        return Load(ImageLoader.ReadStream(stream, "stream"), "stream",
+        return Load(SourceFile.ReadAll(SourceFile.Open(stream, "stream")), "stream",
             new LoadOptions { IgnoreErrors = ignoreErrors });
     }
 

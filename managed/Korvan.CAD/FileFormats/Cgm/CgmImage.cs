@@ -7,6 +7,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Metafile;
@@ -16,7 +17,7 @@ namespace Korvan.CAD.FileFormats.Cgm;
 
 /// <summary>A computer graphics metafile (ISO/IEC 8632) that is drawn and converted. Its commands are live: what is added,
 /// removed or changed is what is drawn and saved.</summary>
-public sealed class CgmImage : Image, IVectorImage
+public sealed class CgmImage : Image, IMetafileContent
 {
     private readonly CgmFile _file;
 
@@ -62,9 +63,6 @@ public sealed class CgmImage : Image, IVectorImage
     public override bool IsCached => true;
 
     /// <inheritdoc/>
-    internal override IEnumerable<Type> ExportOptionTypes => DrawingExporter.PageOptionTypes;
-
-    /// <inheritdoc/>
     public override void CacheData() => VerifyNotDisposed();
 
     /// <summary>Gives the texts of all pictures, in the order of drawing, with what they look like.</summary>
@@ -79,38 +77,15 @@ public sealed class CgmImage : Image, IVectorImage
     public override string[] GetStrings() => [.. MetafileTexts.Collect(File).Select(static text => text.Text)];
 
     /// <inheritdoc/>
-    VectorScene IVectorImage.OpenScene() => Scene() is { Pictures.Count: > 0 } scene
+    VectorScene IPageContent.OpenScene() => Scene() is { Pictures.Count: > 0 } scene
         ? scene
         : throw new RenderException("The metafile has no picture that could be drawn.");
-
-    /// <inheritdoc/>
-    internal override bool SupportsExport(ImageOptionsBase options) => DrawingExporter.Writes(this, options);
-
-    /// <summary>Draws the metafile. Another metafile is made command by command, unless its options ask for a page.</summary>
-    internal override void Export(ImageOptionsBase options, Stream stream)
-    {
-        options.VerifyHonoured(DrawingExporter.KindOf(options));
-        OptionRules.VerifyMetafile(options);
-        if (options is CgmOptions
-            {
-                TextAsLines: false, VectorRasterizationOptions: null, UserWatermarkText: "", Layers: [], RenderToGraphicsBound: false,
-            } own)
-        {
-            File.Save(stream, own.Encoding);
-            return;
-        }
-
-        DrawingExporter.Export(this, options, stream);
-    }
 
     /// <inheritdoc/>
     internal override string Content => $"{File.Commands.Count} commands";
 
     /// <inheritdoc/>
-    internal override FileFormat OwnFormat => FileFormat.Cgm;
-
-    /// <inheritdoc/>
-    internal override void SaveData(Stream stream) => File.Save(stream, File.Encoding);
+    private protected override FileFormat NativeFormat => FileFormat.Cgm;
 
     private static CgmFile NewFile()
     {

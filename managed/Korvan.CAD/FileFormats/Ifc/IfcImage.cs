@@ -7,6 +7,7 @@ using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Ifc.Header;
 using Korvan.CAD.FileFormats.Ifc.Model;
 using Korvan.CAD.FileFormats.Ifc.Schema;
+using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.FileFormats.Ifc;
@@ -14,7 +15,7 @@ namespace Korvan.CAD.FileFormats.Ifc;
 /// <summary>A building model. Its instances are made from the file when they are asked for, and an instance that is
 /// asked for twice is the same object. What is changed, added or removed is what is saved; all else is written back
 /// byte by byte.</summary>
-public sealed class IfcImage : Image
+public sealed class IfcImage : Image, IBuildingContent
 {
     private const string NoGeometry =
         "The geometry of a building model is not evaluated yet: it has no extents and is not drawn.";
@@ -22,11 +23,9 @@ public sealed class IfcImage : Image
     private readonly IfcHeader _header;
     private readonly IfcFileForm _form;
 
-    internal IfcImage(IfcModel model, IfcHeader header, IfcFileForm form)
+    internal IfcImage(IfcContent content)
     {
-        Model = model;
-        _header = header;
-        _form = form;
+        (Model, _header, _form) = content;
     }
 
     /// <summary>Gets the header of the file.</summary>
@@ -74,9 +73,6 @@ public sealed class IfcImage : Image
     public override bool IsCached => true;
 
     internal IfcModel Model { get; }
-
-    /// <inheritdoc/>
-    internal override IEnumerable<Type> ExportOptionTypes => [typeof(IfcOptions)];
 
     /// <inheritdoc/>
     public override void CacheData() => VerifyNotDisposed();
@@ -160,42 +156,19 @@ public sealed class IfcImage : Image
     ];
 
     /// <inheritdoc/>
-    internal override bool SupportsExport(ImageOptionsBase options) => options is IfcOptions;
-
-    /// <inheritdoc/>
-    internal override void Export(ImageOptionsBase options, Stream stream)
-    {
-        options.VerifyHonoured(OutputKind.Model);
-        IfcSaver.Save(Model, Header, ((IfcOptions)options).IsPacked, stream);
-    }
-
-    /// <inheritdoc/>
     internal override string Content => $"{Version} with {Model.Entities.Count} instances";
 
     /// <inheritdoc/>
-    internal override FileFormat OwnFormat => Version == IfcVersion.IFC2X3 ? FileFormat.IFC2X3 : FileFormat.IFC4;
+    private protected override FileFormat NativeFormat => Version == IfcVersion.IFC2X3 ? FileFormat.IFC2X3 : FileFormat.IFC4;
 
     /// <inheritdoc/>
-    internal override void SaveData(Stream stream)
-    {
-        if (_form == IfcFileForm.Xml)
-        {
-            throw new IfcImageException("Models are not written as XML (ifcXML); save with IfcOptions, which writes STEP.");
-        }
+    IfcModel IBuildingContent.Model => Model;
 
-        IfcSaver.Save(Model, Header, _form == IfcFileForm.Packed, stream);
-    }
+    /// <inheritdoc/>
+    IfcHeader IBuildingContent.Header => Header;
 
-    // The ending tells the two forms of the notation apart.
-    internal override Action<Stream> OwnWriter(string filePath)
-    {
-        Action<Stream> write = base.OwnWriter(filePath);
-        string ending = Path.GetExtension(filePath);
-        bool isPacked = ending.Equals(".ifczip", StringComparison.OrdinalIgnoreCase);
-        return _form != IfcFileForm.Xml && (isPacked || ending.Equals(".ifc", StringComparison.OrdinalIgnoreCase))
-            ? stream => IfcSaver.Save(Model, Header, isPacked, stream)
-            : write;
-    }
+    /// <inheritdoc/>
+    IfcFileForm IBuildingContent.Form => _form;
 
     private static IfcEntityBase Own(IIfcEntity entity)
     {

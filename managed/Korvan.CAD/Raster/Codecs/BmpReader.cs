@@ -14,7 +14,7 @@ namespace Korvan.CAD.Raster.Codecs;
 /// </summary>
 internal sealed class BmpReader
 {
-    private const int FileHead = 14;
+    internal const int FileHeaderLength = 14;
     private const double MetresPerInch = 0.0254;
 
     private readonly RasterSource source;
@@ -31,8 +31,8 @@ internal sealed class BmpReader
     {
         this.source = source;
         ReadOnlySpan<byte> data = source.Data;
-        headSize = Number(FileHead);
-        if (headSize is not (12 or 40 or 52 or 56 or 64 or 108 or 124) || data.Length < FileHead + headSize)
+        headSize = Number(FileHeaderLength);
+        if (headSize is not (12 or 40 or 52 or 56 or 64 or 108 or 124) || data.Length < FileHeaderLength + headSize)
         {
             throw Damaged($"its head says that it has {headSize} bytes");
         }
@@ -55,7 +55,7 @@ internal sealed class BmpReader
 
     internal static DecodedFile Read(RasterSource source)
     {
-        if (source.Data.Length < FileHead + 12)
+        if (source.Data.Length < FileHeaderLength + 12)
         {
             throw new BmpImageException($"'{source.Name}' ends after {source.Data.Length} bytes, before the head of a bitmap.");
         }
@@ -68,7 +68,7 @@ internal sealed class BmpReader
     {
         int offset = Number(10);
         int tables = ReadTables();
-        if (offset < FileHead + headSize || offset > source.Data.Length)
+        if (offset < FileHeaderLength + headSize || offset > source.Data.Length)
         {
             offset = Math.Min(tables, source.Data.Length);
         }
@@ -106,7 +106,7 @@ internal sealed class BmpReader
     /// <summary>Reads masks and palette; gives where they end.</summary>
     private int ReadTables()
     {
-        int at = FileHead + headSize;
+        int at = FileHeaderLength + headSize;
         if (bits is 16 or 32)
         {
             uint[] usual = bits == 16 ? [0x7C00, 0x3E0, 0x1F, 0] : [0xFF0000, 0xFF00, 0xFF, 0];

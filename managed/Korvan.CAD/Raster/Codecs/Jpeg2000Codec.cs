@@ -17,7 +17,7 @@ internal static unsafe class Jpeg2000Codec
 
     internal static void Write(PixelGrid pixels, Jpeg2000Options options, Stream output)
     {
-        RasterSaver.Seekable(output, target =>
+        SeekableOutput.Write(output, target =>
             Encode(pixels, options.Codec, options.Irreversible, options.CompressionRatio, gray: pixels.IsGray(), target));
     }
 

@@ -46,7 +46,7 @@ internal sealed unsafe class PixelGrid : IDisposable
     {
         get
         {
-            ObjectDisposedException.ThrowIf(data == null, typeof(Image));
+            ObjectDisposedException.ThrowIf(data == null, this);
             return (byte*)data;
         }
     }
@@ -68,7 +68,7 @@ internal sealed unsafe class PixelGrid : IDisposable
 
     internal Span<int> Row(int y)
     {
-        ObjectDisposedException.ThrowIf(data == null, typeof(Image));
+        ObjectDisposedException.ThrowIf(data == null, this);
         ArgumentOutOfRangeException.ThrowIfGreaterThanOrEqual((uint)y, (uint)Height, nameof(y));
         return new Span<int>(data + ((long)y * Width), Width);
     }

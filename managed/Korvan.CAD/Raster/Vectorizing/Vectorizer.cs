@@ -7,6 +7,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Vectorizing;
 
@@ -26,26 +27,30 @@ internal sealed class Vectorizer
     private readonly double _unit;
     private readonly int _height;
 
-    private Vectorizer(RasterImage picture, VectorizationOptions options)
+    private Vectorizer(PixelGrid pixels, double statedResolution, VectorizationOptions options)
     {
         _options = options;
-        double resolution = options.DotsPerInch > 0 ? options.DotsPerInch : picture.HorizontalResolution;
+        double resolution = options.DotsPerInch > 0 ? options.DotsPerInch : statedResolution;
         _unit = MillimetresPerInch / (resolution > 0 ? resolution : UsualResolution);
-        _height = picture.Height;
+        _height = pixels.Height;
         _drawing.Header.InsUnits = Millimetres;
     }
 
-    internal static CadDrawing Trace(RasterImage picture, VectorizationOptions options)
+    /// <summary>Traces pixels.</summary>
+    /// <param name="pixels">The pixels.</param>
+    /// <param name="resolution">Pixels an inch, where the options state none.</param>
+    /// <param name="options">What is traced, and how.</param>
+    internal static CadDrawing Trace(PixelGrid pixels, double resolution, VectorizationOptions options)
     {
-        var tracer = new Vectorizer(picture, options);
+        var tracer = new Vectorizer(pixels, resolution, options);
         if ((options.Method & VectorizationMethod.Contour) != 0)
         {
-            tracer.AddContours(InkMask.Of(picture.Pixels, options.Threshold));
+            tracer.AddContours(InkMask.Of(pixels, options.Threshold));
         }
 
         if ((options.Method & VectorizationMethod.PaperToCad) != 0)
         {
-            tracer.AddStrokes(InkMask.Of(picture.Pixels, options.Threshold));
+            tracer.AddStrokes(InkMask.Of(pixels, options.Threshold));
         }
 
         return tracer._drawing;

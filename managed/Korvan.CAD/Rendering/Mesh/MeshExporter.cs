@@ -12,9 +12,9 @@ namespace Korvan.CAD.Rendering.Mesh;
 /// <summary>Writes the faces of a drawing in formats that hold nothing else.</summary>
 internal static class MeshExporter
 {
-    internal static void WriteStl(CadDrawing drawing, StlOptions options, Stream output)
+    internal static void WriteStl(CadDrawing drawing, StlOptions options, ExportContext context, Stream output)
     {
-        List<MeshPart> parts = Collect(drawing, options);
+        List<MeshPart> parts = Collect(drawing, context);
         if (options.Binary)
         {
             StlWriter.WriteBinary(parts, output);
@@ -25,12 +25,12 @@ internal static class MeshExporter
         }
     }
 
-    internal static void WriteObj(CadDrawing drawing, ObjOptions options, Stream output) =>
-        ObjWriter.Write(MeshScene.MergeLayers(Collect(drawing, options)), options.Precision, output);
+    internal static void WriteObj(CadDrawing drawing, ObjOptions options, ExportContext context, Stream output) =>
+        ObjWriter.Write(MeshScene.MergeLayers(Collect(drawing, context)), options.Precision, output);
 
-    internal static void WriteGltf(CadDrawing drawing, GlbGltfOptionsBase options, Stream output)
+    internal static void WriteGltf(CadDrawing drawing, GlbGltfOptionsBase options, ExportContext context, Stream output)
     {
-        List<MeshPart> parts = Collect(drawing, options);
+        List<MeshPart> parts = Collect(drawing, context);
         double metres = (LengthUnits.Millimetres(drawing.UnitType) ?? 1000) / 1000;
         var writer = new GltfWriter(options.MergeLayers ? MeshScene.MergeLayers(parts) : parts, options.DoubleSided, metres);
         if (options is GltfOptions text)
@@ -43,13 +43,13 @@ internal static class MeshExporter
         }
     }
 
-    private static List<MeshPart> Collect(CadDrawing drawing, ImageOptionsBase options)
+    private static List<MeshPart> Collect(CadDrawing drawing, ExportContext context)
     {
-        List<MeshPart> parts = MeshScene.Collect(drawing, options);
+        List<MeshPart> parts = MeshScene.Collect(drawing, context);
         if (parts.Count == 0)
         {
             throw new RenderException(
-                $"The drawing has no faces that show, and a file of the format {Verify.NameOf(options.TargetFormat)} "
+                $"The drawing has no faces that show, and a file of the format {Verify.NameOf(context.Options.TargetFormat)} "
                     + $"holds nothing else: "
                 + "neither faces, meshes and solids nor anything that has a thickness.");
         }

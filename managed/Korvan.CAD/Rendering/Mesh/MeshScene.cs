@@ -33,15 +33,15 @@ internal sealed class MeshScene
     }
 
     /// <summary>The faces of each entity that has any, in drawing order.</summary>
-    internal static List<MeshPart> Collect(CadDrawing drawing, ImageOptionsBase? options)
+    internal static List<MeshPart> Collect(CadDrawing drawing, ExportContext? context)
     {
-        RenderStyle style = options is null ? new RenderStyle() : new ExportOptions(options, DeviceKind.UserUnits, 1).Style();
+        RenderStyle style = context is null ? new RenderStyle() : new ExportOptions(context, DeviceKind.UserUnits, 1).Style();
         DrawingScene scene = SceneReader.Read(drawing);
         var walk = new MeshScene(scene.Tables, style);
         walk.AddSpace(scene.Model, new BlockContext { Map = Affine3.Identity });
         if (walk._leftOut > 0)
         {
-            options?.Notes.Add(RenderErrorCode.EntityNotDrawn, "faces too far out for numbers of single precision", walk._leftOut);
+            context?.Notes.Add(RenderErrorCode.EntityNotDrawn, "faces too far out for numbers of single precision", walk._leftOut);
         }
 
         return walk._parts;

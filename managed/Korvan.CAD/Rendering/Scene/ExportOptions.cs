@@ -19,22 +19,24 @@ internal sealed class ExportOptions
     private const double UsualPixels = 1600;
     private const double UsualBorderShare = 0.02;
 
+    private readonly ExportContext context;
     private readonly ImageOptionsBase options;
     private readonly VectorRasterizationOptions? vector;
     private readonly CadRasterizationOptions? cad;
     private readonly DeviceKind device;
     private readonly double unitsPerInch;
 
-    internal ExportOptions(ImageOptionsBase options, DeviceKind device, double unitsPerInch)
+    internal ExportOptions(ExportContext context, DeviceKind device, double unitsPerInch)
     {
-        this.options = options;
+        this.context = context;
+        options = context.Options;
         this.device = device;
         this.unitsPerInch = unitsPerInch;
         vector = options.VectorRasterizationOptions;
         cad = vector as CadRasterizationOptions;
     }
 
-    internal RenderNotes Notes => options.Notes;
+    internal RenderNotes Notes => context.Notes;
 
     internal IReadOnlyList<string> Layouts => cad?.Layouts ?? [];
 
@@ -101,7 +103,7 @@ internal sealed class ExportOptions
             ModelView = cad?.ObserverPoint is ObserverPoint eye
                 ? ViewTransform.Turned(eye.RotationAngleX, eye.RotationAngleY, eye.RotationAngleZ)
                 : Affine3.Identity,
-            Checkpoint = Deadline(),
+            Checkpoint = context.Checkpoint,
         };
     }
 
@@ -156,24 +158,6 @@ internal sealed class ExportOptions
     {
         double? millimetres = device == DeviceKind.Pixels || vector == null ? null : LengthUnits.Millimetres(vector.UnitType);
         return millimetres is double mm ? mm * UnitsPerMillimetre : 1;
-    }
-
-    private Action? Deadline()
-    {
-        if (options.Timeout <= 0)
-        {
-            return null;
-        }
-
-        long end = Environment.TickCount64 + options.Timeout;
-        return () =>
-        {
-            if (Environment.TickCount64 > end)
-            {
-                throw new OperationInterruptedException(
-                    $"The export was not done after {options.Timeout} milliseconds, the time that its options allow.");
-            }
-        };
     }
 
     private static Rgba ToRgba(Color color) => color.IsEmpty ? new Rgba(255, 255, 255, 0) : new Rgba(color.R, color.G, color.B, color.A);

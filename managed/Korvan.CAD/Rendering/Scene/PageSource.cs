@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.DisplayList;
@@ -26,13 +27,13 @@ internal sealed class PageSource
     private readonly string format;
     private double? sharedScale;
 
-    internal PageSource(IVectorImage image, ImageOptionsBase options, TextEngine engine, DeviceKind device, double unitsPerInch)
+    internal PageSource(VectorScene scene, ExportContext context, TextEngine engine, DeviceKind device, double unitsPerInch)
     {
         this.engine = engine;
         this.device = device;
-        this.options = new ExportOptions(options, device, unitsPerInch);
-        format = options.TargetFormat.ToString();
-        scene = image.OpenScene();
+        this.options = new ExportOptions(context, device, unitsPerInch);
+        format = context.Options.TargetFormat.ToString();
+        this.scene = scene;
         layouts = scene.Choose(this.options.Layouts);
     }
 
@@ -83,7 +84,11 @@ internal sealed class PageSource
         }
 
         Verify(place);
-        return new Page(layout.Name, place.Width, place.Height, list, Settings(place, sheet?.Region)) { Overlay = Watermark(place) };
+        return new Page(layout.Name, place.Width, place.Height, list, Settings(place, sheet?.Region)) 
+        {
+            Overlay = Watermark(place),
+            Notes = options.Notes,
+        };
     }
 
     private void Verify(in PageLayout place)

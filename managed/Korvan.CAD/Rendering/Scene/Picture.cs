@@ -13,13 +13,12 @@ internal sealed record Picture(int Width, int Height, byte[] Pixels)
     /// <summary>The first picture of a file of pixels, as far as it can be read; null for a format that has no reader.</summary>
     internal static Picture? Decode(byte[] data, string name)
     {
-        FileFormat format = FormatDetector.Detect(data.AsSpan(0, Math.Min(data.Length, FormatDetector.HeadLength)));
-        if (!RasterLoader.CanRead(format))
+        if (RasterCodecs.Detect(data) is not { } codec)
         {
             return null;
         }
 
-        DecodedFile decoded = RasterLoader.Decode(data, name, format, lenient: true);
+        DecodedFile decoded = codec.Decode(data, name, lenient: true);
         Picture picture = From(decoded.Frames[0].Pixels);
         decoded.Frames.ForEach(static frame => frame.Dispose());
         return picture;

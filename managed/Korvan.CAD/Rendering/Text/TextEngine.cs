@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.Text;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Native;
 
@@ -41,6 +42,7 @@ internal sealed unsafe class TextEngine : IDisposable
     internal TextEngine(LetterLook look = default, FontFolders? folders = null)
     {
         NativeLibraries.Require();
+        FontTable.ListInstalled = static () => Fontconfig.ListFonts();
         this.folders = folders;
         fontMap = Pango.CairoFontMapNew();
         if (folders is not null)

@@ -4,6 +4,7 @@ using System.IO;
 using System.Linq;
 using System.Text;
 using System.Text.RegularExpressions;
+using Korvan.CAD.Formats;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
@@ -89,7 +90,7 @@ public partial class OptionTests
         foreach (Func<Image> make in OptionSamples.All.Values)
         {
             using Image image = make();
-            ImageOptionsBase options = New(image.ExportOptionTypes.First());
+            ImageOptionsBase options = New(FormatRegistry.OptionTypesFor(image).First());
             image.Save(Stream.Null, options);
             Assert.True(options.RenderResult!.IsRenderComplete, options.RenderResult.Message);
         }
@@ -167,7 +168,7 @@ public partial class OptionTests
             ImageOptionsBase options = New(member.Root);
             member.Holder(options);
             company?.Before(options);
-            if (options.VectorRasterizationOptions is { PageWidth: 0 } vector && DrawingExporter.KindOf(options) != OutputKind.Faces)
+            if (options.VectorRasterizationOptions is { PageWidth: 0 } vector && FormatRegistry.FindWriter(image, options.GetType())!.KindOf(image) != OutputKind.Faces)
             {
                 vector.PageSize = new SizeF(120, 90);
             }

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.IO;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.DisplayList;

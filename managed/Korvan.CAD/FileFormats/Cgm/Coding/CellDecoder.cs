@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
 

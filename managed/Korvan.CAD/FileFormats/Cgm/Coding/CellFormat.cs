@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
 
@@ -15,7 +16,7 @@ internal readonly record struct CellFormat(int Width, int Height, int Bits, int 
     /// <summary>One array of numbers holds no more.</summary>
     private const long MostCells = 1 << 28;
 
-    internal static readonly string[] Modes = ["run length", "packed"];
+    internal static readonly KeywordTable Modes = new([RunLength, Packed], ["run length", "packed"]);
 
     private static readonly int[] Precisions = [1, 2, 4, 8, 16, 24, 32];
 

@@ -1,5 +1,6 @@
 using System;
 using System.Globalization;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
 

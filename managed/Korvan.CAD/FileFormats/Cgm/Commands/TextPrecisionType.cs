@@ -7,11 +7,14 @@ namespace Korvan.CAD.FileFormats.Cgm.Commands;
 public enum TextPrecisionType
 {
     /// <summary>The text as a whole.</summary>
+    [CgmKeyword("STRING")]
     String = 0,
 
     /// <summary>Each character.</summary>
+    [CgmKeyword("CHAR")]
     Character = 1,
 
     /// <summary>Each character and its shape.</summary>
+    [CgmKeyword("STROKE")]
     Stroke = 2,
 }

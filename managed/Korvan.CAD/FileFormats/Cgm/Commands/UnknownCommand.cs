@@ -1,5 +1,4 @@
 using System;
-using Korvan.CAD.FileFormats.Cgm.Coding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 

@@ -9,3 +9,6 @@ public enum ApplicationStructureDescriptorElement
     /// <summary>The element "application structure attribute", in clear text APSATTR.</summary>
     ApplicationStructureAttribute = 1,
 }
+
+/// <summary>Attributes of application structures.</summary>
+public static partial class ApplicationStructureDescriptorElements;

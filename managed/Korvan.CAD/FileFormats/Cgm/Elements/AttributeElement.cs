@@ -159,3 +159,6 @@ public enum AttributeElement
     /// <summary>The element "symbol orientation", in clear text SYMBOLORI.</summary>
     SymbolOrientation = 51,
 }
+
+/// <summary>What drawn things look like.</summary>
+public static partial class AttributeElements;

@@ -54,3 +54,6 @@ public enum ControlElement
     /// <summary>The element "transparent cell colour", in clear text TRANSPCELLCOLR.</summary>
     TransparentCellColour = 20,
 }
+
+/// <summary>How coordinates are coded and what is clipped.</summary>
+public static partial class ControlElements;

@@ -66,3 +66,6 @@ public enum DelimiterElement
     /// <summary>The element "end application structure", in clear text ENDAPS.</summary>
     EndApplicationStructure = 23,
 }
+
+/// <summary>Where metafile, pictures and their parts begin and end.</summary>
+public static partial class DelimiterElements;

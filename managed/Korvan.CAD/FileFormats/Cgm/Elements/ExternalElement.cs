@@ -12,3 +12,6 @@ public enum ExternalElement
     /// <summary>The element "application data", in clear text APPLDATA.</summary>
     ApplicationData = 2,
 }
+
+/// <summary>Messages and data of applications.</summary>
+public static partial class ExternalElements;

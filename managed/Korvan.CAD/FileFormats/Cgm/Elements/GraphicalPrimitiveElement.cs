@@ -93,3 +93,6 @@ public enum GraphicalPrimitiveElement
     /// <summary>The element "tile", in clear text TILE.</summary>
     Tile = 29,
 }
+
+/// <summary>What is drawn.</summary>
+public static partial class GraphicalPrimitiveElements;

@@ -78,3 +78,6 @@ public enum MetaFileDescriptorElement
     /// <summary>The element "picture directory", in clear text PICDIR.</summary>
     PictureDirectory = 24,
 }
+
+/// <summary>What holds for the whole metafile.</summary>
+public static partial class MetaFileDescriptorElements;

@@ -66,3 +66,6 @@ public enum PictureDescriptorElement
     /// <summary>The element "application structure directory", in clear text APSDIR.</summary>
     ApplicationStructureDirectory = 20,
 }
+
+/// <summary>What holds for a whole picture.</summary>
+public static partial class PictureDescriptorElements;

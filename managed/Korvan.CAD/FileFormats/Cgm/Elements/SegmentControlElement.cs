@@ -27,3 +27,6 @@ public enum SegmentControlElement
     /// <summary>The element "segment pick priority", in clear text SEGPICKPRI.</summary>
     SegmentPickPriority = 7,
 }
+
+/// <summary>Parts that are stored and drawn again.</summary>
+public static partial class SegmentControlElements;

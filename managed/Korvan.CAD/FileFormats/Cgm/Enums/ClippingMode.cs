@@ -1,4 +1,5 @@
 using Korvan.CAD.Binding;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -7,11 +8,14 @@ namespace Korvan.CAD.FileFormats.Cgm.Enums;
 public enum ClippingMode
 {
     /// <summary>The line without its width.</summary>
+    [CgmKeyword("LOCUS")]
     Locus = 0,
 
     /// <summary>What is drawn.</summary>
+    [CgmKeyword("SHAPE")]
     Shape = 1,
 
     /// <summary>First the line without its width, then what is drawn.</summary>
+    [CgmKeyword("LOCUSTHENSHAPE")]
     LocusThenShape = 2,
 }

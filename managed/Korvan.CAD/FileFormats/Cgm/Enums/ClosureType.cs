@@ -1,4 +1,5 @@
 using Korvan.CAD.Binding;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -7,8 +8,10 @@ namespace Korvan.CAD.FileFormats.Cgm.Enums;
 public enum ClosureType
 {
     /// <summary>By lines from both ends to the centre.</summary>
+    [CgmKeyword("PIE")]
     Pie = 0,
 
     /// <summary>By the line between the ends.</summary>
+    [CgmKeyword("CHORD")]
     Chord = 1,
 }

@@ -1,4 +1,5 @@
 using Korvan.CAD.Binding;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Enums;
 
@@ -7,14 +8,18 @@ namespace Korvan.CAD.FileFormats.Cgm.Enums;
 public enum SpecificationMode
 {
     /// <summary>Units of the coordinates.</summary>
+    [CgmKeyword("ABS")]
     Absolute = 0,
 
     /// <summary>Multiples of what the device usually draws.</summary>
+    [CgmKeyword("SCALED")]
     Scaled = 1,
 
     /// <summary>Parts of the longer side of the picture's extent.</summary>
+    [CgmKeyword("FRACTIONAL")]
     Fractional = 2,
 
     /// <summary>Millimetres.</summary>
+    [CgmKeyword("MM")]
     Millimetres = 3,
 }

@@ -9,7 +9,6 @@ using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
-using Korvan.CAD.FileFormats.Cgm.Import;
 
 namespace Korvan.CAD.FileFormats.Cgm.Export;
 
@@ -17,7 +16,7 @@ namespace Korvan.CAD.FileFormats.Cgm.Export;
 /// Writes commands as a binary metafile (ISO/IEC 8632-3). What commands say of precisions, colours and modes holds for
 /// those behind them; a number that its precision cannot hold is refused.
 /// </summary>
-public sealed class DefaultBinaryWriter : IBinaryWriter
+public sealed class DefaultBinaryWriter : IBinaryWriter, IParameterCodec
 {
     private const int LongForm = 31;
     private const int LongestPart = 0x7FFE;
@@ -59,6 +58,9 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
 
     internal ParameterExchange Exchange { get; }
 
+    /// <inheritdoc/>
+    ParameterExchange IParameterCodec.Exchange => Exchange;
+
     /// <summary>Writes one element.</summary>
     /// <param name="command">Its command.</param>
     /// <exception cref="ImageSaveException">A parameter cannot be written; nothing of the element was.</exception>
@@ -71,7 +73,7 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
             WriteParameters(command);
             command.Apply(State);
         }
-        catch (Exception e) when (e is CgmDataException or ArgumentException)
+        catch (CgmDataException e)
         {
             State.ReplacesDefaults &= _isInner;
             string place = MessageLog.Place("command", _count, command.ElementClass, command.ElementId);

@@ -8,7 +8,6 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
-using Korvan.CAD.FileFormats.Cgm.Import;
 
 namespace Korvan.CAD.FileFormats.Cgm.Export;
 
@@ -16,7 +15,7 @@ namespace Korvan.CAD.FileFormats.Cgm.Export;
 /// Writes commands as a clear text metafile (ISO/IEC 8632-4), in lines of at most 80 letters as far as single texts
 /// allow. Real numbers have as many digits as lead back to the same number.
 /// </summary>
-public sealed class DefaultClearTextWriter : IClearTextWriter
+public sealed class DefaultClearTextWriter : IClearTextWriter, IParameterCodec
 {
     private const int LongestLine = 80;
 
@@ -54,6 +53,9 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
 
     internal ParameterExchange Exchange { get; }
 
+    /// <inheritdoc/>
+    ParameterExchange IParameterCodec.Exchange => Exchange;
+
     /// <summary>Writes one element in lines of its own. Elements without operation have no form in clear text and are
     /// left out.</summary>
     /// <param name="command">Its command.</param>
@@ -67,7 +69,7 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
         {
             Write(command);
         }
-        catch (Exception e) when (e is CgmDataException or ArgumentException)
+        catch (CgmDataException e)
         {
             (State.ReplacesDefaults, _isInner) = (false, false);
             string place = MessageLog.Place("command", _count, command.ElementClass, command.ElementId);

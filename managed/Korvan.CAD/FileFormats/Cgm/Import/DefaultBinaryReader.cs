@@ -11,7 +11,7 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 namespace Korvan.CAD.FileFormats.Cgm.Import;
 
 /// <summary>Reads the commands of a binary metafile one by one (ISO/IEC 8632-3).</summary>
-public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
+public sealed partial class DefaultBinaryReader : IBinaryReader, IParameterCodec, IDisposable
 {
     private const string Unit = "byte";
 
@@ -78,6 +78,9 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
     internal CodingState State { get; }
 
     internal ParameterExchange Exchange { get; }
+
+    /// <inheritdoc/>
+    ParameterExchange IParameterCodec.Exchange => Exchange;
 
     internal long BytePosition => _elements.Position;
 
@@ -146,7 +149,7 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
             _isAtEnd = command is { ElementClass: ClassCode.DelimiterElement, ElementId: (int)DelimiterElement.EndMetafile };
             return command;
         }
-        catch (Exception e) when (e is CgmDataException or ArgumentException)
+        catch (CgmDataException e)
         {
             State.ReplacesDefaults &= _isInner;
             Report(e);
@@ -212,7 +215,7 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
         _log.Add(new Message(severity, (ClassCode)_elements.Class, _elements.Id, _elements.Start, $"{place}: {text}"));
     }
 
-    private void Report(Exception e)
+    private void Report(CgmDataException e)
     {
         if (!IgnoreErrors)
         {

@@ -40,7 +40,7 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
 
     /// <summary>Reads the file.</summary>
     /// <exception cref="ImageLoadException">It is damaged, and damage is not to be ignored.</exception>
-    internal IfcImage Read()
+    internal IfcContent Read()
     {
         bool isPacked = data.AsSpan().StartsWith("PK\u0003\u0004"u8);
         if (isPacked)
@@ -48,7 +48,7 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
             data = Unpack(out name);
         }
 
-        bool isXml = FormatDetector.IsIfcXml(data);
+        bool isXml = IfcXml.IsIfcXml(data);
         if (isXml)
         {
             data = new IfcXmlTranslator(name, options).Translate(data);
@@ -66,7 +66,7 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         VerifyReferences(file, ids);
         Report(file);
         IfcFileForm form = isPacked ? IfcFileForm.Packed : isXml ? IfcFileForm.Xml : IfcFileForm.Plain;
-        return new IfcImage(new IfcModel(file, schema, ids), header, form);
+        return new IfcContent(new IfcModel(file, schema, ids), header, form);
     }
 
     private StepFile Open(out int start)

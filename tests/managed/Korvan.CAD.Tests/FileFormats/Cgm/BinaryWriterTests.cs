@@ -51,7 +51,7 @@ public class BinaryWriterTests
         { "infinite", [Real, new VdcRealPrecision { Value = Precision.Floating64 }, Line(double.PositiveInfinity, 0)] },
         { "infinite", [Real, new VdcRealPrecision { Value = Precision.Floating32 }, Line(1e300, 0)] }, // no single can hold it
         { "300", [new LineColour(new CgmColor(300))] }, // numbers of colours have 8 bits
-        { "stands for itself", [new LineColour(new CgmColor(Color.FromArgb(1, 2, 3)))] },
+        { "is direct", [new LineColour(new CgmColor(Color.FromArgb(1, 2, 3)))] },
         { "colour 3", [Direct, new LineColour(new CgmColor(3))] },
         { "translucent", [Direct, new LineColour(new CgmColor(Color.FromArgb(9, 1, 2, 3)))] },
         { "surrogate", [new BeginPicture("\ud800")] },

@@ -110,7 +110,21 @@ public sealed class CgmFileTests : IDisposable
     public void Changed_files_are_read_or_refused(CgmFileFormat format, int seed)
     {
         // What says how later elements are coded would make the others unfit.
-        byte[] whole = Save([new VdcType { Value = VdcType.Type.Real }, .. CommandSamples.All.Where(one => one is not (BeginMetafile or ColourSelectionMode or MetafileDefaultsReplacement or ColourModel)), new MetafileDefaultsReplacement { Commands = [new LineWidth(1)] }], format);
+        var commands = new RandomCommands(seed, Coding.Narrow);
+        Type[] unfit =
+        [
+            typeof(BeginMetafile), typeof(BeginPicture), typeof(ColourSelectionMode),
+            typeof(MetafileDefaultsReplacement), typeof(ColourModel), typeof(VdcType), typeof(VdcRealPrecision),
+            typeof(VdcIntegerPrecision), typeof(RealPrecision), typeof(IntegerPrecision), typeof(IndexPrecision),
+            typeof(NamePrecision), typeof(ColourPrecision), typeof(ColourIndexPrecision), typeof(ColourValueExtent),
+            typeof(DeviceViewportSpecificationMode),
+        ];
+        byte[] whole = Save(
+            [
+                .. RandomCommands.Kinds.Except(unfit).Select(commands.Create),
+                new MetafileDefaultsReplacement { Commands = [new LineWidth(1)] },
+            ],
+            format);
         Random random = new(seed);
         int read = 0;
         for (int round = 0; round < 3000; round++)

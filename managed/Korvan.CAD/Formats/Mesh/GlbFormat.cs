@@ -1,0 +1,17 @@
+using System;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering.Mesh;
+
+namespace Korvan.CAD.Formats.Mesh;
+
+/// <summary>Binary glTF 2.0, written from the faces of drawings.</summary>
+internal static class GlbFormat
+{
+    internal static FormatRecord Record { get; } = new()
+    {
+        Name = "GLB",
+        Formats = [FileFormat.Glb],
+        Detect = static source => source.Head.StartsWith("glTF"u8) ? FileFormat.Glb : FileFormat.Undefined,
+        Writers = [MeshWriters.For<GlbOptions>(MeshExporter.WriteGltf)],
+    };
+}
