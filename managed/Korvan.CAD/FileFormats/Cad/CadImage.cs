@@ -237,5 +237,6 @@ public partial class CadImage : Image, IVectorImage
     /// <inheritdoc/>
     VectorScene IVectorImage.OpenScene() => SceneReader.Read(Drawing);
 
-    private (Cad3DPoint Min, Cad3DPoint Max) Extents() => DrawingExtents.OfModel(Drawing);
+    private (Cad3DPoint Min, Cad3DPoint Max) Extents() =>
+        DrawingExtents.OfModel(Drawing, () => TextMeasurer.TryCreate(Drawing));
 }
