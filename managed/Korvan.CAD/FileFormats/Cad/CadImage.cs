@@ -221,5 +221,6 @@ public partial class CadImage : Image, IDrawingContent
     Scene3D.Scene IMeshContent.OpenMeshes(ExportContext? context, MeshRequest request) =>
         DrawingMeshes.Read(Drawing, context, request);
 
-    private (Cad3DPoint Min, Cad3DPoint Max) Extents() => DrawingExtents.OfModel(Drawing);
+    private (Cad3DPoint Min, Cad3DPoint Max) Extents() =>
+        DrawingExtents.OfModel(Drawing, () => TextMeasurer.TryCreate(Drawing));
 }

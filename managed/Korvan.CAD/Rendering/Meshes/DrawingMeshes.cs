@@ -127,7 +127,7 @@ internal sealed class DrawingMeshes
     private void AddFaces(CadEntityBase entity, LayerInfo layer, Content content, BlockContext context)
     {
         var faces = new MeshBuilder();
-        EntityFaces.Add(entity, Affine3.Identity, faces, _style.CircleSides);
+        EntityFaces.Add(entity, faces, _style.CircleSides);
         _farFaces += faces.FarFaces;
         _tangledFaces += faces.TangledFaces;
         if (faces.TriangleCount == 0)

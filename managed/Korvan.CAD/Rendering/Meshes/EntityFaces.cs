@@ -1,91 +1,121 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
-using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Scene3D;
 
 namespace Korvan.CAD.Rendering.Meshes;
 
-/// <summary>The faces of one entity. An entity without faces, or whose corners are missing, adds none.</summary>
-internal static class EntityFaces
+/// <summary>
+/// The faces of entities: those of surfaces, and those between flat entities and their copies at the other end of their
+/// thickness.
+/// </summary>
+internal sealed class EntityFaces : IGeometrySink
 {
-    private const int SplineFrameVertex = 16;
-    private const int PolyfacePoint = 64;
+    private readonly MeshBuilder _mesh;
+    private readonly int _circleSides;
 
-    internal static void Add(CadEntityBase entity, in Affine3 map, MeshBuilder part, int circleSides)
+    private EntityFaces(MeshBuilder mesh, int circleSides) => (_mesh, _circleSides) = (mesh, circleSides);
+
+    /// <summary>Adds the faces of an entity. One without faces, or whose corners are missing, adds none.</summary>
+    internal static void Add(CadEntityBase entity, MeshBuilder mesh, int circleSides)
     {
-        switch (entity)
+        if (!EntityGeometry.Emit(entity, new EntityFaces(mesh, circleSides)) && entity is CadMesh subdivided)
         {
-            case Cad3DFace f:
-                Mapped(part, map, [V(f.FirstPoint), V(f.SecondPoint), V(f.ThirdPoint), V(f.FourthPoint)]);
-                break;
-            case CadSolid s:
-                Prism(part, s, map, [V(s.FirstPoint), V(s.SecondPoint), V(s.FourthPoint), V(s.ThirdPoint)]);
-                break;
-            case CadTrace t:
-                Prism(part, t, map, [V(t.FirstPoint), V(t.SecondPoint), V(t.FourthPoint), V(t.ThirdPoint)]);
-                break;
-            case CadPolyFaceMesh mesh:
-                Polyface(part, mesh, map);
-                break;
-            case CadPolygonMesh mesh:
-                Net(part, mesh, map);
-                break;
-            case CadPolyline3D:
-                break;
-            case CadExtrudedEntityBase { Thickness: not 0 } thick:
-                Thick(part, thick, map, circleSides);
-                break;
-            case CadMesh mesh:
-                Subdivision(part, mesh, map);
-                break;
-        }
-    }
-
-    private static Vec3 V(Cad3DPoint p) => new(p.X, p.Y, p.Z);
-
-    private static void Mapped(MeshBuilder part, in Affine3 map, ReadOnlySpan<Vec3> corners)
-    {
-        Span<Vec3> mapped = corners.Length <= 64 ? stackalloc Vec3[corners.Length] : new Vec3[corners.Length];
-        for (int i = 0; i < corners.Length; i++)
-        {
-            mapped[i] = map.Point(corners[i]);
-            if (!mapped[i].IsFinite)
+            foreach (Vec3[] face in SubdivisionCage.Read(subdivided).Faces())
             {
-                return;
+                mesh.Add(face);
             }
         }
-
-        if (IsMirror(map))
-        {
-            mapped.Reverse(); // what looked outwards still does
-        }
-
-        part.Add(mapped);
     }
 
-    private static bool IsMirror(in Affine3 map) => Vec3.Dot(Vec3.Cross(map.AxisX, map.AxisY), map.AxisZ) < 0;
+    void IGeometrySink.Face(ReadOnlySpan<Vec3> corners, int hiddenEdges) => _mesh.Add(corners);
 
-    private static Affine3 InObject(CadExtrudedEntityBase entity, in Affine3 map) => map * Ocs.ToWorld(V(entity.ExtrusionDirection));
+    void IGeometrySink.Faces(FaceSet faces) => faces.Faces.ForEach(face => _mesh.Add(faces.Ring(face)));
 
-    /// <summary>The ring at the lower end of its thickness, turned so that its walls look outwards.</summary>
+    void IGeometrySink.Quad(in FilledQuad quad) =>
+        AddExtrusion(quad.Plane, [quad.A, quad.B, quad.C, quad.D], quad.Thickness);
+
+    void IGeometrySink.Grid(in PointGrid grid)
+    {
+        if (!grid.IsWhole || grid.Rows < 2 || grid.Columns < 2)
+        {
+            return;
+        }
+
+        int rows = grid.ClosesColumns ? grid.Rows : grid.Rows - 1;
+        int columns = grid.ClosesRows ? grid.Columns : grid.Columns - 1;
+        for (int row = 0; row < rows; row++)
+        {
+            for (int column = 0; column < columns; column++)
+            {
+                int below = (row + 1) % grid.Rows * grid.Columns;
+                int right = (column + 1) % grid.Columns;
+                int at = row * grid.Columns;
+                _mesh.Add(
+                    [grid.Points[at + column], grid.Points[below + column], grid.Points[below + right], grid.Points[at + right]]);
+            }
+        }
+    }
+
+    void IGeometrySink.Line(Vec3 from, Vec3 to, Vec3 thickness)
+    {
+        if (thickness != default)
+        {
+            _mesh.Add([from, to, to + thickness, from + thickness]);
+        }
+    }
+
+    /// <summary>A circle is extruded to a cylinder with its two ends, an arc to a wall.</summary>
+    void IGeometrySink.Arc(in PlanarArc arc)
+    {
+        if (arc.Thickness == 0)
+        {
+            return;
+        }
+
+        List<Vec3> points = [];
+        int steps = Math.Max(2, (int)Math.Ceiling(_circleSides * arc.Sweep / Math.Tau));
+        for (int i = 0; i <= steps; i++)
+        {
+            Vec2 p = Vec2.Polar(arc.Start + (arc.Sweep * i / steps), arc.Radius);
+            points.Add(arc.Center + new Vec3(p.X, p.Y, 0));
+        }
+
+        if (arc.IsCircle)
+        {
+            points.RemoveAt(points.Count - 1);
+            AddExtrusion(arc.Plane, [.. points], arc.Thickness);
+        }
+        else
+        {
+            AddWalls(arc.Plane, points, closed: false, Vec3.UnitZ * arc.Thickness);
+        }
+    }
+
+    void IGeometrySink.Polyline(in PlanarPolyline polyline, ReadOnlySpan<PolyVertex> vertices)
+    {
+        if (polyline.Thickness == 0)
+        {
+            return;
+        }
+
+        List<Vec3> line = Flatten(vertices, polyline.IsClosed, polyline.Elevation);
+        (Vec3[] corners, Vec3 up) = polyline.IsClosed
+            ? Outwards(line, polyline.Thickness)
+            : ([.. line], Vec3.UnitZ * polyline.Thickness);
+        AddWalls(polyline.Plane, corners, polyline.IsClosed, up);
+    }
+
+    /// <summary>The ring at the lower end of its thickness, in the sense that lets its walls face outwards.</summary>
     private static (Vec3[] Ring, Vec3 Up) Outwards(IEnumerable<Vec3> ring, double thickness)
     {
         Vec3 down = Vec3.UnitZ * Math.Min(0, thickness);
         Vec3[] corners = [.. ring.Select(p => p + down)];
-        double area = 0;
-        for (int i = 0; i < corners.Length; i++)
-        {
-            Vec3 next = corners[(i + 1) % corners.Length];
-            area += ((corners[i].X - corners[0].X) * (next.Y - corners[0].Y)) - ((corners[i].Y - corners[0].Y) * (next.X - corners[0].X));
-        }
-
-        if (area < 0)
+        if (Polygons.SignedArea(Array.ConvertAll(corners, p => (p - corners[0]).Xy)) < 0)
         {
             Array.Reverse(corners);
         }
@@ -94,121 +124,48 @@ internal static class EntityFaces
     }
 
     /// <summary>A flat face, or with a thickness two of them and the walls between.</summary>
-    private static void Prism(MeshBuilder part, CadExtrudedEntityBase entity, in Affine3 map, Vec3[] ring)
+    private void AddExtrusion(in Affine3 plane, Vec3[] ring, double thickness)
     {
-        Affine3 ocs = InObject(entity, map);
-        if (entity.Thickness == 0)
+        if (thickness == 0)
         {
-            Mapped(part, ocs, ring);
+            AddFace(plane, ring);
             return;
         }
 
-        (Vec3[] sides, Vec3 up) = Outwards(ring, entity.Thickness);
+        (Vec3[] sides, Vec3 up) = Outwards(ring, thickness);
         Vec3[] bottom = [.. sides];
         Array.Reverse(bottom);
-        Mapped(part, ocs, bottom);
-        Mapped(part, ocs, Array.ConvertAll(sides, p => p + up));
-        Walls(part, ocs, sides, closed: true, up);
+        AddFace(plane, bottom);
+        AddFace(plane, Array.ConvertAll(sides, p => p + up));
+        AddWalls(plane, sides, closed: true, up);
     }
 
-    private static void Walls(MeshBuilder part, in Affine3 ocs, IReadOnlyList<Vec3> line, bool closed, Vec3 up)
+    private void AddWalls(in Affine3 plane, IReadOnlyList<Vec3> line, bool closed, Vec3 up)
     {
         int count = closed ? line.Count : line.Count - 1;
         for (int i = 0; i < count; i++)
         {
             Vec3 a = line[i];
             Vec3 b = line[(i + 1) % line.Count];
-            Mapped(part, ocs, [a, b, b + up, a + up]);
+            AddFace(plane, [a, b, b + up, a + up]);
         }
     }
 
-    private static void Fence(MeshBuilder part, in Affine3 ocs, List<Vec3> line, bool closed, double thickness)
-    {
-        (Vec3[] corners, Vec3 up) = closed ? Outwards(line, thickness) : ([.. line], Vec3.UnitZ * thickness);
-        Walls(part, ocs, corners, closed, up);
-    }
-
-    /// <summary>Lines become walls; a circle becomes a drum with its two lids.</summary>
-    private static void Thick(MeshBuilder part, CadExtrudedEntityBase entity, in Affine3 map, int sides)
-    {
-        Affine3 ocs = InObject(entity, map);
-        Vec3 up = Vec3.UnitZ * entity.Thickness;
-        switch (entity)
-        {
-            case CadArc arc:
-                double sweep = (arc.EndAngle - arc.StartAngle) % 360;
-                sweep = sweep <= 0 ? sweep + 360 : sweep;
-                Walls(part, ocs, Arc(V(arc.CenterPoint), arc.Radius, arc.StartAngle, sweep, sides), closed: false, up);
-                break;
-            case CadCircle circle:
-                List<Vec3> ring = Arc(V(circle.CenterPoint), circle.Radius, 0, 360, sides);
-                ring.RemoveAt(ring.Count - 1);
-                Prism(part, circle, map, [.. ring]);
-                break;
-            case CadLwPolyline polyline:
-                Fence(part, ocs, Line(polyline, sides), polyline.IsClosed, polyline.Thickness);
-                break;
-            case CadPolyline polyline:
-                Fence(part, ocs, Line(polyline, sides), polyline.IsClosed, polyline.Thickness);
-                break;
-            case CadLine line:
-
-                // The ends of a line stand in world coordinates; only its thickness follows the normal.
-                Walls(part, map, [V(line.FirstPoint), V(line.SecondPoint)], closed: false, V(line.ExtrusionDirection).Unit() * line.Thickness);
-                break;
-        }
-    }
-
-    private static List<Vec3> Arc(Vec3 center, double radius, double startDegrees, double sweepDegrees, int sides)
-    {
-        List<Vec3> points = [];
-        int steps = Math.Max(2, (int)Math.Ceiling(sides * sweepDegrees / 360));
-        for (int i = 0; i <= steps; i++)
-        {
-            (double sin, double cos) = Math.SinCos((startDegrees + (sweepDegrees * i / steps)) * Math.PI / 180);
-            points.Add(center + new Vec3(radius * cos, radius * sin, 0));
-        }
-
-        return points;
-    }
-
-    private static List<Vec3> Line(CadLwPolyline polyline, int sides)
-    {
-        List<(Vec2 At, double Bulge)> vertices = [];
-        for (int i = 0; i < polyline.Coordinates.Count; i++)
-        {
-            vertices.Add((new Vec2(polyline.Coordinates[i].X, polyline.Coordinates[i].Y), polyline.BulgeAt(i)));
-        }
-
-        return Line(vertices, polyline.IsClosed, polyline.Elevation, sides);
-    }
-
-    private static List<Vec3> Line(CadPolyline polyline, int sides)
-    {
-        List<(Vec2 At, double Bulge)> vertices = [];
-        foreach (CadVertexBase vertex in polyline.Vertices)
-        {
-            if ((vertex.VertexFlags & SplineFrameVertex) == 0)
-            {
-                vertices.Add((V(vertex.LocationPoint).Xy, vertex.Bulge));
-            }
-        }
-
-        return Line(vertices, polyline.IsClosed, polyline.Elevation.Z, sides);
-    }
+    private void AddFace(Affine3 plane, Vec3[] corners) => _mesh.Add(Array.ConvertAll(corners, plane.Point));
 
     /// <summary>The vertices, and points on the arcs between them.</summary>
-    private static List<Vec3> Line(List<(Vec2 At, double Bulge)> vertices, bool closed, double elevation, int sides)
+    private List<Vec3> Flatten(ReadOnlySpan<PolyVertex> vertices, bool closed, double elevation)
     {
         List<Vec3> points = [];
-        for (int i = 0; i < vertices.Count; i++)
+        for (int i = 0; i < vertices.Length; i++)
         {
-            (Vec2 from, double bulge) = vertices[i];
+            Vec2 from = vertices[i].Point;
             points.Add(new Vec3(from.X, from.Y, elevation));
-            bool last = i + 1 == vertices.Count;
-            if ((!last || closed) && BulgeArc.TryCreate(from, vertices[(i + 1) % vertices.Count].At, bulge, out BulgeArc arc))
+            bool hasSegment = closed || i + 1 < vertices.Length;
+            Vec2 to = vertices[(i + 1) % vertices.Length].Point;
+            if (hasSegment && BulgeArc.TryCreate(from, to, vertices[i].Bulge, out BulgeArc arc))
             {
-                int steps = Math.Max(2, (int)Math.Ceiling(sides * Math.Abs(arc.Sweep) / Math.Tau));
+                int steps = Math.Max(2, (int)Math.Ceiling(_circleSides * Math.Abs(arc.Sweep) / Math.Tau));
                 for (int k = 1; k < steps; k++)
                 {
                     Vec2 p = arc.At((double)k / steps);
@@ -218,80 +175,5 @@ internal static class EntityFaces
         }
 
         return points;
-    }
-
-    private static void Polyface(MeshBuilder part, CadPolyFaceMesh mesh, in Affine3 map)
-    {
-        List<Vec3> points = [];
-        foreach (CadVertexBase vertex in mesh.Vertices)
-        {
-            if ((vertex.VertexFlags & PolyfacePoint) != 0)
-            {
-                points.Add(V(vertex.LocationPoint));
-            }
-        }
-
-        Span<Vec3> corners = stackalloc Vec3[4];
-        foreach (CadVertexBase vertex in mesh.Vertices)
-        {
-            if (vertex is CadFaceRecord face)
-            {
-                Mapped(part, map, corners[..Corners(points, face, corners)]);
-            }
-        }
-    }
-
-    // Indexes count from one; a negative one only hides an edge.
-    private static int Corners(List<Vec3> points, CadFaceRecord face, Span<Vec3> corners)
-    {
-        int count = 0;
-        foreach (int index in (ReadOnlySpan<int>)[face.VertexIndex1, face.VertexIndex2, face.VertexIndex3, face.VertexIndex4])
-        {
-            int at = Math.Abs(index) - 1;
-            if (at >= 0 && at < points.Count)
-            {
-                corners[count++] = points[at];
-            }
-        }
-
-        return count;
-    }
-
-    private static void Net(MeshBuilder part, CadPolygonMesh mesh, in Affine3 map)
-    {
-        bool smooth = (mesh.Flag & CadPolylineFlag.SplineFit) != 0 && mesh.SurfaceMDensity > 1 && mesh.SurfaceNDensity > 1;
-        int m = smooth ? mesh.SurfaceMDensity : mesh.MeshMVertexCount;
-        int n = smooth ? mesh.SurfaceNDensity : mesh.MeshNVertexCount;
-        IList<CadVertexBase> points = smooth
-            ? mesh.Vertices.FindAll(v => (v.VertexFlags & SplineFrameVertex) == 0)
-            : mesh.Vertices;
-        if (m < 2 || n < 2 || (long)m * n > points.Count)
-        {
-            return;
-        }
-
-        int rows = mesh.IsClosed ? m : m - 1;
-        int columns = (mesh.Flag & CadPolylineFlag.ClosedN) != 0 ? n : n - 1;
-        for (int row = 0; row < rows; row++)
-        {
-            for (int column = 0; column < columns; column++)
-            {
-                int below = (row + 1) % m;
-                int right = (column + 1) % n;
-                Mapped(part, map, [At(row, column), At(below, column), At(below, right), At(row, right)]);
-            }
-        }
-
-        Vec3 At(int row, int column) => V(points[(row * n) + column].LocationPoint);
-    }
-
-    /// <summary>The faces of the control mesh of a subdivision mesh.</summary>
-    private static void Subdivision(MeshBuilder part, CadMesh mesh, in Affine3 map)
-    {
-        SubdivisionCage cage = SubdivisionCage.Read(mesh);
-        foreach (Vec3[] face in cage.Faces())
-        {
-            Mapped(part, map, face);
-        }
     }
 }

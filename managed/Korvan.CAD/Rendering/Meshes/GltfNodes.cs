@@ -11,8 +11,8 @@ internal sealed record GltfNode(string Name, Affine3 Transform, int Mesh, List<i
 }
 
 /// <summary>
-/// Turns the nodes of a scene into those of a file, which share meshes but no children. Each node has its origin in the
-/// middle of what it shows: coordinates are small then, wherever the scene lies.
+/// Turns the nodes of a scene into those of a file, which share meshes but no children. Nodes have their origin in the
+/// middle of what they show: coordinates are small then, wherever the scene lies.
 /// </summary>
 internal sealed class GltfNodes(GltfBuffer buffer)
 {
@@ -37,10 +37,12 @@ internal sealed class GltfNodes(GltfBuffer buffer)
             Affine3 toParent = Affine3.Translation(-parentOrigin) * node.Transform;
             if (node.Mesh is not null)
             {
-                Vec3 origin = BoxOf(node.Mesh).Center;
+                // What stays in its parent's coordinates needs no origin of its own.
+                bool isPlaced = !node.Transform.IsIdentity;
+                int mesh = buffer.PlaceOf(node.Mesh, isPlaced ? BoxOf(node.Mesh).Center : parentOrigin);
+                Affine3 transform = toParent * Affine3.Translation(buffer.Meshes[mesh].Origin);
                 places.Add(Nodes.Count);
-                Affine3 transform = toParent * Affine3.Translation(origin);
-                Nodes.Add(new GltfNode(node.Name, transform, buffer.PlaceOf(node.Mesh, origin), []));
+                Nodes.Add(new GltfNode(node.Name, transform, mesh, []));
             }
 
             if (node.Children.Count > 0)
