@@ -65,6 +65,12 @@ internal sealed unsafe class GifReader
 
     private void ReadAll()
     {
+        if (_gif.File.Width < 1 || _gif.File.Height < 1)
+        {
+            throw new GifImageException(
+                $"'{_source.Name}' claims {_gif.File.Width} × {_gif.File.Height} pixels, which is no image.");
+        }
+
         PixelGrid.Verify(_gif.File.Width, _gif.File.Height);
         Gif.Record record;
         do

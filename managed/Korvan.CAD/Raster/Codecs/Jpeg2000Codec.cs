@@ -97,6 +97,11 @@ internal static unsafe class Jpeg2000Codec
     {
         long width = (long)image.X1 - image.X0;
         long height = (long)image.Y1 - image.Y0;
+        if (width < 1 || height < 1)
+        {
+            throw new Jpeg2000Exception($"'{source.Name}' claims {width} × {height} pixels, which is no image.");
+        }
+
         PixelGrid.Verify(width, height);
         if (width * height > (length * 20_000L) + 65_536)
         {
@@ -181,7 +186,7 @@ internal static unsafe class Jpeg2000Codec
         StreamBridge bridge = StreamBridge.Of(user);
         long before = bridge.Position;
         long after = bridge.Seek(count, System.IO.SeekOrigin.Current);
-        return after < 0 ? -1 : after - before;
+        return before < 0 || after < 0 ? -1 : after - before;
     }
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]

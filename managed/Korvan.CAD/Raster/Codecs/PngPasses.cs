@@ -18,6 +18,7 @@ internal sealed class PngPasses
 {
     private const int FirstChunk = 8;
     private const int HeadEnd = 33;
+    private const int HeaderBytes = 13;
     private const int Frame = 12; // length, type and check sum
     private const int MostExpansion = 1032; // of deflate
     private const long MostBytes = 0x7000_0000;
@@ -49,6 +50,11 @@ internal sealed class PngPasses
 
     private byte[] Rewrite()
     {
+        if (_head.Width < 1 || _head.Height < 1)
+        {
+            throw Damaged($"it claims {_head.Width} × {_head.Height} pixels");
+        }
+
         PixelGrid.Verify(_head.Width, _head.Height);
         long size = (long)_head.Height * _head.RowBytes;
         if (size > (long)_source.Data.Length * MostExpansion)
@@ -90,6 +96,11 @@ internal sealed class PngPasses
             ReadOnlySpan<byte> body = data.Slice(at + 8, length);
             bool isHead = type.SequenceEqual("IHDR"u8);
             bool isPicture = type.SequenceEqual("IDAT"u8);
+            if (isHead && length != HeaderBytes)
+            {
+                throw Damaged($"IHDR: it has {length} bytes, not {HeaderBytes}");
+            }
+
             if ((isHead || isPicture) && PngStream.Sum(type, body) != BinaryPrimitives.ReadUInt32BigEndian(data[(at + 8 + length)..]))
             {
                 throw Damaged($"{System.Text.Encoding.ASCII.GetString(type)}: CRC error");

@@ -27,7 +27,7 @@ internal sealed unsafe class StreamBridge : IDisposable
     /// <summary>The codec's first error message.</summary>
     internal string? Error { get; set; }
 
-    internal long Length => _stream.Length;
+    internal long Length => Guard(() => (nint)_stream.Length);
 
     internal static StreamBridge Of(nint closure) => (StreamBridge)GCHandle.FromIntPtr(closure).Target!;
 
@@ -56,7 +56,7 @@ internal sealed unsafe class StreamBridge : IDisposable
 
     internal long Seek(long offset, System.IO.SeekOrigin origin) => Guard(() => (nint)_stream.Seek(offset, origin));
 
-    internal long Position => _stream.Position;
+    internal long Position => Guard(() => (nint)_stream.Position);
 
     public void Dispose()
     {
