@@ -8,62 +8,60 @@ using Korvan.CAD.Raster.Native;
 namespace Korvan.CAD.Raster.Codecs;
 
 /// <summary>A TIFF that libtiff has open over a .NET stream.</summary>
-internal sealed unsafe class TiffHandle : IDisposable
+internal sealed unsafe class TiffFile : IDisposable
 {
-    private const int MostBytesAtOnce = int.MaxValue;
+    private const int MaxAllocation = int.MaxValue;
 
-    private readonly StreamBridge bridge;
-    private nint tiff;
+    private readonly StreamBridge _bridge;
+    private readonly TiffHandle _handle;
 
     /// <summary>Opens a stream; the mode is that of TIFFOpen.</summary>
-    internal TiffHandle(Stream stream, string name, string mode)
+    internal TiffFile(Stream stream, string name, string mode)
     {
         Tiff.Require();
-        bridge = new StreamBridge(stream);
-        nint options = Tiff.AllocOptions();
-        Tiff.LimitMemory(options, MostBytesAtOnce);
-        Tiff.SetErrorHandler(options, &Complain, bridge.Closure);
-        Tiff.SetWarningHandler(options, &Ignore, bridge.Closure);
-        tiff = Tiff.Open(name, mode, bridge.Closure, &Read, &Write, &Seek, &Close, &Size, &Map, &Unmap, options);
-        Tiff.FreeOptions(options);
-        if (tiff == 0)
+        using TiffOpenOptionsHandle options = Tiff.AllocOptions();
+        if (options.IsInvalid)
         {
-            bridge.Dispose();
-            throw new TiffImageException($"'{name}' is no TIFF that can be read: {Complaint}.");
+            throw new OutOfMemoryException();
+        }
+
+        _bridge = new StreamBridge(stream);
+        Tiff.LimitMemory(options, MaxAllocation);
+        Tiff.SetErrorHandler(options, &OnError, _bridge.Closure);
+        Tiff.SetWarningHandler(options, &OnWarning, _bridge.Closure);
+        _handle = Tiff.Open(name, mode, _bridge.Closure, &Read, &Write, &Seek, &Close, &Size, &Map, &Unmap, options);
+        if (_handle.IsInvalid)
+        {
+            Dispose();
+            throw new TiffImageException($"'{name}' is no TIFF that can be read: {Error}.");
         }
     }
 
-    internal nint Value => tiff;
+    internal TiffHandle Handle => _handle;
 
-    internal string Complaint => bridge.Complaint ?? "unknown failure";
+    internal string Error => _bridge.Error ?? "unknown failure";
 
     /// <summary>Throws when a call failed, by the stream's own failure if that is the reason.</summary>
     internal void Verify(bool done, string what)
     {
         if (!done)
         {
-            bridge.Rethrow();
-            throw new TiffImageException($"{what}: {Complaint}.");
+            _bridge.Rethrow();
+            throw new TiffImageException($"{what}: {Error}.");
         }
     }
 
     /// <summary>Writes what is buffered and closes; failures of the stream come out here.</summary>
     internal void Finish()
     {
-        Tiff.Close(tiff);
-        tiff = 0;
-        bridge.Rethrow();
+        _handle.Dispose();
+        _bridge.Rethrow();
     }
 
     public void Dispose()
     {
-        if (tiff != 0)
-        {
-            Tiff.Close(tiff);
-            tiff = 0;
-        }
-
-        bridge.Dispose();
+        _handle.Dispose(); // closing may still write
+        _bridge.Dispose();
     }
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
@@ -92,12 +90,12 @@ internal sealed unsafe class TiffHandle : IDisposable
     }
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
-    private static int Complain(nint tiff, nint user, byte* module, byte* format, nint arguments)
+    private static int OnError(nint tiff, nint user, byte* module, byte* format, nint arguments)
     {
-        StreamBridge.Of(user).Complaint ??= Tiff.Message(format, arguments).TrimEnd('.');
+        StreamBridge.Of(user).Error ??= Tiff.Message(format, arguments).TrimEnd('.');
         return 1;
     }
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
-    private static int Ignore(nint tiff, nint user, byte* module, byte* format, nint arguments) => 1;
+    private static int OnWarning(nint tiff, nint user, byte* module, byte* format, nint arguments) => 1;
 }
