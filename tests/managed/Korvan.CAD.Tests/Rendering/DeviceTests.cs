@@ -5,7 +5,6 @@ using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.DisplayList;
-using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
