@@ -26,8 +26,13 @@ internal static class DxfFormat
         Read = static (data, name, _, options) => new DxfReader(data, name, options).Read(),
         Writers =
         [
-            FormatWriter.For<IDrawingContent, DxfOptions>(
-                OutputKind.Model, static (content, options, _, output) => DxfSaver.Save(content.Drawing, options, output)),
+            FormatWriter.For<IDrawingContent, DxfOptions>(OutputKind.Model, static (content, options, context, output) =>
+            {
+                foreach (string what in DxfSaver.Save(content.Drawing, options, output))
+                {
+                    context.Notes.Add(RenderErrorCode.EntityNotDrawn, what);
+                }
+            }),
         ],
         Written =
         [
