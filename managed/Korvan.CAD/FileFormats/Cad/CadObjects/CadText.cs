@@ -6,6 +6,12 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadObject("TEXT", Subclass = "AcDbText")]
 public partial class CadText : CadExtrudedEntityBase
 {
+    /// <summary>The group code of the vertical alignment of an attribute, for which that of a text is the field
+    /// length.</summary>
+    private protected const int AttributeAlignmentCode = 74;
+
+    private const int AlignmentCode = 73;
+
     /// <summary>Creates the object with its defaults.</summary>
     public CadText()
     {
@@ -59,7 +65,7 @@ public partial class CadText : CadExtrudedEntityBase
 
     partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
-        if (code == 73)
+        if (code == AlignmentCode)
         {
             VerticalAlignment = reader.GetShort();
             taken = true;
@@ -68,15 +74,29 @@ public partial class CadText : CadExtrudedEntityBase
 
     partial void OnExchange(ObjectExchange fields)
     {
-        if (GetType() != typeof(CadText))
+        if (GetType() == typeof(CadText))
         {
-            return;
+            fields.BeginSubclass("AcDbText");
+            ExchangeVerticalAlignment(fields, AlignmentCode);
+        }
+    }
+
+    private protected bool ReadVerticalAlignment(int code, FieldReader reader)
+    {
+        if (code != AttributeAlignmentCode)
+        {
+            return false;
         }
 
-        fields.BeginSubclass("AcDbText");
+        VerticalAlignment = reader.GetShort();
+        return true;
+    }
+
+    private protected void ExchangeVerticalAlignment(ObjectExchange fields, int code)
+    {
         if (fields.Includes(0, VerticalAlignment != 0))
         {
-            VerticalAlignment = fields.Int16(73, VerticalAlignment);
+            VerticalAlignment = fields.Int16(code, VerticalAlignment);
         }
     }
 }

@@ -1,5 +1,4 @@
 using System.Collections.Generic;
-using System.Diagnostics;
 using System.IO;
 using System.Text;
 using Korvan.CAD.CadExceptions;
@@ -35,20 +34,16 @@ internal sealed class DxfSaver
         _objects = new DxfObjectWriter(_writer);
     }
 
-    internal static void Save(CadDrawing drawing, DxfOptions options, Stream stream)
+    /// <summary>Writes a drawing.</summary>
+    /// <returns>What was left out because it is kept in the form of another format.</returns>
+    internal static IReadOnlyList<string> Save(CadDrawing drawing, DxfOptions options, Stream stream)
     {
         options.VerifyHonoured(OutputKind.Model);
         CadAcadVersion version = ChooseVersion(drawing, options.Version);
         DrawingIntegrity.Prepare(drawing, DrawingRelease.Year(version));
         DxfSaver saver = new(drawing, version, stream);
-        long start = Stopwatch.GetTimestamp();
         saver.Write();
-        if (saver._objects.LeftOut.Count > 0)
-        {
-            options.RenderResult = new CadRenderResult(
-                saver._objects.LeftOut.ConvertAll(static what => new RenderResult(RenderErrorCode.EntityNotDrawn, what)),
-                Stopwatch.GetElapsedTime(start));
-        }
+        return saver._objects.LeftOut;
     }
 
     private static CadAcadVersion ChooseVersion(CadDrawing drawing, DxfOutputVersion wanted)

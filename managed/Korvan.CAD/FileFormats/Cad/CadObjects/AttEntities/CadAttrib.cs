@@ -7,6 +7,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 [CadObject("ATTRIB", Subclass = "AcDbAttribute")]
 public partial class CadAttrib : CadText
 {
+    private const int LockCode = 280;
+
     /// <summary>Creates the object with its defaults.</summary>
     public CadAttrib()
     {
@@ -30,30 +32,21 @@ public partial class CadAttrib : CadText
 
     partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
-        // The vertical alignment of an attribute has a code of its own: 73 is the field length here.
-        if (code == 74)
+        if (code == LockCode)
         {
-            VerticalAlignment = reader.GetShort();
-            taken = true;
-        }
-        else if (code == 280)
-        {
-            // The version stands before the tag, the lock behind it.
+            // The version stands before the tag, the lock after it.
             LockPosition = DefinitionTagString.Length > 0 && reader.GetShort() != 0;
-            taken = true;
         }
+
+        taken = code == LockCode || ReadVerticalAlignment(code, reader);
     }
 
     partial void OnExchange(ObjectExchange fields)
     {
-        if (fields.Includes(0, VerticalAlignment != 0))
-        {
-            VerticalAlignment = fields.Int16(74, VerticalAlignment);
-        }
-
+        ExchangeVerticalAlignment(fields, AttributeAlignmentCode);
         if (fields.Includes(2010, true))
         {
-            LockPosition = fields.Bool(280, LockPosition);
+            LockPosition = fields.Bool(LockCode, LockPosition);
         }
     }
 }
