@@ -95,8 +95,8 @@ internal static class CodecWriter
         foreach (CadProperty repeated in model.Properties.Where(property => property.IsRepeated))
         {
             text.AppendLine($"            if (code == {repeated.Code}) {{ {repeated.Name}.Add(new()); }}");
-            text.AppendLine($"            if ({repeated.Name}.Count > 0 && {repeated.Name}[^1].ReadField(code, reader)) "
-                + "{ return true; }");
+            text.AppendLine($"            if ({repeated.Name}.Count > 0");
+            text.AppendLine($"                && {repeated.Name}[^1].ReadField(code, reader)) {{ return true; }}");
         }
 
         if (model.Properties.Count == 0)

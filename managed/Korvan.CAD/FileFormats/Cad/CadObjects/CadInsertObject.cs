@@ -21,7 +21,7 @@ public partial class CadInsertObject : CadEntityBase
     [CadName(2, SymbolTable.BlockRecord)]
     public string Name { get; set; } = "";
 
-    /// <summary>Gets or sets the place of the block's base point, in object coordinates. Group codes 10, 20,
+    /// <summary>Gets or sets the position of the base point of the block, in object coordinates. Group codes 10, 20,
     /// 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint InsertionPoint { get; set; } = new();
@@ -87,8 +87,9 @@ public partial class CadInsertObject : CadEntityBase
     /// <inheritdoc/>
     public override Point3D GetAnnotationPoint()
     {
-        Vec3 place = EntityExtents.SystemOf(ExtrusionDirection).Point(new Vec3(InsertionPoint.X, InsertionPoint.Y, InsertionPoint.Z));
-        return new Point3D(place.X, place.Y, place.Z);
+        Vec3 point = new(InsertionPoint.X, InsertionPoint.Y, InsertionPoint.Z);
+        Vec3 position = EntityExtents.SystemOf(ExtrusionDirection).Point(point);
+        return new Point3D(position.X, position.Y, position.Z);
     }
 
     partial void OnReadField(int code, FieldReader reader, ref bool taken)

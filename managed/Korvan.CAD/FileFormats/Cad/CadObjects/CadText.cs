@@ -22,7 +22,7 @@ public partial class CadText : CadExtrudedEntityBase
     [Cad3DPoint(10)]
     public Cad3DPoint FirstAlignment { get; set; } = new();
 
-    /// <summary>Gets or sets the height of capital letters. Group code 40.</summary>
+    /// <summary>Gets or sets the cap height. Group code 40.</summary>
     [CadDouble(40)]
     public double TextHeight { get; set; } = 1;
 
@@ -34,11 +34,11 @@ public partial class CadText : CadExtrudedEntityBase
     [CadAngle(50, Optional = true)]
     public double TextRotation { get; set; }
 
-    /// <summary>Gets or sets the width of letters relative to the font. Group code 41.</summary>
+    /// <summary>Gets or sets the width factor of the characters. Group code 41.</summary>
     [CadDouble(41, Optional = true)]
     public double ScaleX { get; set; } = 1;
 
-    /// <summary>Gets or sets the slant of letters, in degrees. Group code 51.</summary>
+    /// <summary>Gets or sets the oblique angle of the characters, in degrees. Group code 51.</summary>
     [CadAngle(51, Optional = true)]
     public double ObliqueAngle { get; set; }
 
@@ -46,7 +46,7 @@ public partial class CadText : CadExtrudedEntityBase
     [CadName(7, SymbolTable.Style, Optional = true)]
     public string StyleType { get; set; } = "STANDARD";
 
-    /// <summary>Gets or sets how letters are mirrored: 2 left to right, 4 upside down. Group code 71.</summary>
+    /// <summary>Gets or sets how the text is mirrored: 2 left to right, 4 upside down. Group code 71.</summary>
     [CadShort(71, Optional = true)]
     public short TextGenerationFlags { get; set; }
 

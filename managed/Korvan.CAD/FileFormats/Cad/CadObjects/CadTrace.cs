@@ -2,8 +2,8 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
-/// <summary>A line with width as a filled quadrilateral. The third and fourth corner are crossed: the outline runs 1,
-/// 2, 4, 3.</summary>
+/// <summary>A line with width as a filled quadrilateral. The third and fourth corners are swapped: the boundary runs
+/// 1, 2, 4, 3.</summary>
 [CadFieldsOf(typeof(CadSolid))]
 [CadObject("TRACE", Subclass = "AcDbTrace")]
 public partial class CadTrace : CadExtrudedEntityBase

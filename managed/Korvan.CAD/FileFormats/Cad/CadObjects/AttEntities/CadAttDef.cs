@@ -19,7 +19,7 @@ public partial class CadAttDef : CadText
     [CadString(3)]
     public string PromptString { get; set; } = "";
 
-    /// <summary>Gets or sets whether the place within the block is locked. Group code 280.</summary>
+    /// <summary>Gets or sets whether the position within the block is locked. Group code 280.</summary>
     public bool LockPosition { get; set; }
 
     partial void OnReadField(int code, FieldReader reader, ref bool taken)

@@ -23,11 +23,11 @@ public partial class CadAttrib : CadText
     [CadShort(70)]
     public short AttFlags { get; set; }
 
-    /// <summary>Gets or sets the greatest number of letters; 0 for any. Group code 73.</summary>
+    /// <summary>Gets or sets the maximum number of characters; 0 for any. Group code 73.</summary>
     [CadShort(73, Optional = true)]
     public short FieldLength { get; set; }
 
-    /// <summary>Gets or sets whether the place within the block is locked. Group code 280.</summary>
+    /// <summary>Gets or sets whether the position within the block is locked. Group code 280.</summary>
     public bool LockPosition { get; set; }
 
     partial void OnReadField(int code, FieldReader reader, ref bool taken)
