@@ -15,14 +15,14 @@ using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.FileFormats.Cgm;
 
-/// <summary>A computer graphics metafile (ISO/IEC 8632) that is drawn and converted. Its commands are live: what is added,
-/// removed or changed is what is drawn and saved.</summary>
+/// <summary>A computer graphics metafile (ISO/IEC 8632) that can be drawn and converted. Its commands are live: changes
+/// to them are drawn and saved.</summary>
 public sealed class CgmImage : Image, IMetafileContent
 {
     private readonly CgmFile _file;
 
-    /// <summary>Creates a metafile with one empty picture, whose coordinates run from (0, 0) to (1000, 1000) and whose
-    /// colours stand for themselves. What is drawn goes behind its <see cref="BeginPictureBody"/>.</summary>
+    /// <summary>Creates a metafile with one empty picture, whose VDC extent is (0, 0) to (1000, 1000) and whose colours
+    /// are direct. Primitives go after its <see cref="BeginPictureBody"/>.</summary>
     public CgmImage()
         : this(NewFile())
     {
@@ -46,8 +46,8 @@ public sealed class CgmImage : Image, IMetafileContent
         }
     }
 
-    /// <summary>Gets the names of the pictures, in their order; each is a page. Pictures without a name, and those whose
-    /// name was there before, have names made up by their numbers.</summary>
+    /// <summary>Gets the names of the pictures in their order; each is a page. Pictures without an identifier, or with
+    /// one that is not unique, are named by their numbers.</summary>
     public string[] PictureNames => [.. Scene().Pictures.Select(static picture => picture.Name)];
 
     /// <inheritdoc/>
@@ -57,7 +57,8 @@ public sealed class CgmImage : Image, IMetafileContent
     public override int Height => Extent(static frame => frame.Region.Height);
 
     /// <summary>Gets the unit of the first picture's size: millimetres where the file states them.</summary>
-    public override UnitType UnitType => FirstFrame() is { MillimetresPerUnit: not null } ? UnitType.Millimeter : UnitlessDefaultUnitType;
+    public override UnitType UnitType =>
+        FirstFrame() is { MillimetresPerUnit: not null } ? UnitType.Millimeter : UnitlessDefaultUnitType;
 
     /// <inheritdoc/>
     public override bool IsCached => true;
@@ -65,8 +66,8 @@ public sealed class CgmImage : Image, IMetafileContent
     /// <inheritdoc/>
     public override void CacheData() => VerifyNotDisposed();
 
-    /// <summary>Gives the texts of all pictures, in the order of drawing, with what they look like.</summary>
-    /// <returns>The texts of all pictures, in the order of drawing, with what they look like.</returns>
+    /// <summary>Returns the texts of all pictures in drawing order, with their positions, heights and fonts.</summary>
+    /// <returns>The texts.</returns>
     public TextInformation[] GetTexts()
     {
         VerifyNotDisposed();
@@ -89,7 +90,7 @@ public sealed class CgmImage : Image, IMetafileContent
 
     private static CgmFile NewFile()
     {
-        const int side = 1000;
+        const int Side = 1000;
         var file = new CgmFile();
         file.Commands.AddRange(
         [
@@ -100,7 +101,7 @@ public sealed class CgmImage : Image, IMetafileContent
             new RealPrecision { Value = Precision.Floating32 },
             new BeginPicture("drawing"),
             new ColourSelectionMode { Value = ColourSelectionMode.Type.Direct },
-            new VdcExtent(new CgmPoint(0, 0), new CgmPoint(side, side)),
+            new VdcExtent(new CgmPoint(0, 0), new CgmPoint(Side, Side)),
             new VdcRealPrecision { Value = Precision.Floating32 },
             new BeginPictureBody(),
             new EndPicture(),

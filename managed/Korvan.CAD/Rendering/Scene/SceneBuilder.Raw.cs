@@ -71,7 +71,7 @@ internal sealed partial class SceneBuilder
         }
 
         Cad3DPoint s = content.Scale;
-        Affine3 map = context.Map * Affine3.Translation(V(content.Location)) * Ocs.ToWorld(V(content.Normal))
+        Affine3 map = context.Map * Affine3.Translation(content.Location.ToVec3()) * Ocs.ToWorld(content.Normal.ToVec3())
             * Affine3.RotationZ(content.Rotation) * Affine3.Scaling(NotZero(s.X), NotZero(s.Y), NotZero(s.Z))
             * Affine3.Translation(-block.Base);
         DrawBlock(block, map, layer, pen, context);
@@ -81,12 +81,12 @@ internal sealed partial class SceneBuilder
 
     private void DrawBranch(CadMLeaderNode branch, CadMLeader leader, in Pen pen, BlockContext context)
     {
-        Vec3 start = V(branch.LastLeaderLinePoint);
+        Vec3 start = branch.LastLeaderLinePoint.ToVec3();
         if (leader.Style.IsLandingEnabled && branch.DoglegLength > 0)
         {
             var landing = new PathPen(canvas.NewPath(), context.Map);
             landing.MoveTo(start);
-            landing.LineTo(start + (V(branch.DoglegVector).Unit() * branch.DoglegLength));
+            landing.LineTo(start + (branch.DoglegVector.ToVec3().Unit() * branch.DoglegLength));
             canvas.Stroke(pen);
         }
 
@@ -94,7 +94,7 @@ internal sealed partial class SceneBuilder
         {
             if (line.Vertices.Count > 0)
             {
-                DrawLeaderLine([.. line.Vertices.ConvertAll(V), start], leader, pen, context);
+                DrawLeaderLine([.. line.Vertices.ConvertAll(ModelVectors.ToVec3), start], leader, pen, context);
             }
         }
     }
@@ -107,7 +107,7 @@ internal sealed partial class SceneBuilder
         Vec3 along = (points[1] - tip).Unit();
         if (arrowSize > 0 && (points[1] - tip).Length > arrowSize)
         {
-            DrawArrowHead(tip, along, arrowSize, V(leader.ContextData.TextNormal), pen, context);
+            DrawArrowHead(tip, along, arrowSize, leader.ContextData.TextNormal.ToVec3(), pen, context);
             points[0] = tip + (along * arrowSize);
         }
 
@@ -134,9 +134,9 @@ internal sealed partial class SceneBuilder
         double spacing = data.LineSpacingFactor is > 0 and < 100 ? data.LineSpacingFactor : 1;
         var frame = new MTextFrame(data.TextWidth, Math.Clamp((int)data.TextAttachment, 1, 3), spacing, false);
         MTextLayout layout = MTextLayout.Create(canvas.Engine, MTextParser.Parse(data.Text, start), frame, height);
-        Vec3 x = V(data.TextDirection).Unit();
-        Vec3 normal = V(data.TextNormal).Unit();
-        var plane = new Affine3(x, Vec3.Cross(normal, x), normal, V(data.TextLocation));
+        Vec3 x = data.TextDirection.ToVec3().Unit();
+        Vec3 normal = data.TextNormal.ToVec3().Unit();
+        var plane = new Affine3(x, Vec3.Cross(normal, x), normal, data.TextLocation.ToVec3());
         TextPainter.Draw(
             canvas, layout, context.Map * plane, pen, color => InlineColorOf(color, layer, context));
     }
@@ -151,7 +151,7 @@ internal sealed partial class SceneBuilder
         }
 
         Cad3DPoint direction = table.HorizontalDirection;
-        Affine3 placed = Affine3.Translation(V(table.InsertionPoint))
+        Affine3 placed = Affine3.Translation(table.InsertionPoint.ToVec3())
             * Affine3.RotationZ(Math.Atan2(direction.Y, direction.X));
         DrawBlock(block, context.Map * placed * Affine3.Translation(-block.Base), layer, pen, context);
     }

@@ -87,9 +87,8 @@ public partial class CadInsertObject : CadEntityBase
     /// <inheritdoc/>
     public override Point3D GetAnnotationPoint()
     {
-        Vec3 point = new(InsertionPoint.X, InsertionPoint.Y, InsertionPoint.Z);
-        Vec3 position = EntityExtents.SystemOf(ExtrusionDirection).Point(point);
-        return new Point3D(position.X, position.Y, position.Z);
+        Vec3 place = ExtrusionDirection.ToPlane().Point(InsertionPoint.ToVec3());
+        return new Point3D(place.X, place.Y, place.Z);
     }
 
     partial void OnReadField(int code, FieldReader reader, ref bool taken)

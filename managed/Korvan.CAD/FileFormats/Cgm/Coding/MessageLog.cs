@@ -4,20 +4,20 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
 
-/// <summary>Keeps what was noticed while a metafile was read, up to a count that a damaged one cannot exceed.</summary>
+/// <summary>Keeps the messages about a metafile, up to a count that a damaged one cannot exceed.</summary>
 internal sealed class MessageLog
 {
-    private const int MostMessages = 1000;
+    private const int MaxMessages = 1000;
 
     private readonly List<Message> _messages = [];
 
     internal IReadOnlyList<Message> Messages => _messages;
 
-    /// <summary>Tells where something is.</summary>
+    /// <summary>Describes the place of an element.</summary>
     internal static string Place(string unit, long position, ClassCode elementClass, int elementId, string keyword)
     {
-        string word = keyword.Length > 0 ? keyword : "element";
-        return $"{unit} {position}, {word} ({(int)elementClass}, {elementId})";
+        string name = keyword.Length > 0 ? keyword : "element";
+        return $"{unit} {position}, {name} ({(int)elementClass}, {elementId})";
     }
 
     internal static string Place(string unit, long position, ClassCode elementClass, int elementId) =>
@@ -25,13 +25,15 @@ internal sealed class MessageLog
 
     internal void Add(Message message)
     {
-        if (_messages.Count < MostMessages)
+        if (_messages.Count < MaxMessages)
         {
             _messages.Add(message);
         }
-        else if (_messages.Count == MostMessages)
+        else if (_messages.Count == MaxMessages)
         {
-            _messages.Add(new Message(Severity.Warning, message.ElementClass, message.ElementId, message.Position, "there are more messages"));
+            const string More = "there are more messages";
+            _messages.Add(
+                new Message(Severity.Warning, message.ElementClass, message.ElementId, message.Position, More));
         }
     }
 }

@@ -6,37 +6,36 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>Something that no element of the format says; its number is registered, or private when negative.</summary>
+/// <summary>Functionality outside the standard, selected by an identifier that is registered, or private when
+/// negative.</summary>
 [CgmCommand(ClassCode.EscapeElement, 1, "ESCAPE")]
 public sealed partial class Escape : Command
 {
-    /// <summary>Gets or sets what is said.</summary>
+    /// <summary>Gets or sets the identifier of the function.</summary>
     [CgmInteger]
     public int Identifier { get; set; }
 
-    /// <summary>Gets or sets the data.</summary>
+    /// <summary>Gets or sets the data record of the function.</summary>
     [CgmData]
     public byte[] Data { get; set; } = [];
 }
 
-/// <summary>A message to the person at the machine.</summary>
+/// <summary>A message to the operator of the interpreter.</summary>
 [CgmCommand(ExternalElement.MessageCommand, "MESSAGE")]
 public sealed partial class MessageCommand : Command
 {
-    /// <summary>Whether the person has to do something.</summary>
+    /// <summary>Whether the operator has to respond.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum ActionType
     {
-        /// <summary>No.</summary>
-        [CgmKeyword("NOACTION")]
-        NoAction = 0,
+        /// <summary>No response is needed.</summary>
+        [CgmKeyword("NOACTION")] NoAction = 0,
 
-        /// <summary>Yes; drawing waits.</summary>
-        [CgmKeyword("ACTION")]
-        Action = 1,
+        /// <summary>The interpreter waits for a response.</summary>
+        [CgmKeyword("ACTION")] Action = 1,
     }
 
-    /// <summary>Gets or sets whether the person has to do something.</summary>
+    /// <summary>Gets or sets whether the operator has to respond.</summary>
     [CgmEnum]
     public ActionType Action { get; set; }
 
@@ -45,11 +44,11 @@ public sealed partial class MessageCommand : Command
     public string Message { get; set; } = "";
 }
 
-/// <summary>Data of an application, which drawing passes over.</summary>
+/// <summary>Data of an application; it is not drawn.</summary>
 [CgmCommand(ExternalElement.ApplicationData, "APPLDATA")]
 public sealed partial class ApplicationData : Command
 {
-    /// <summary>Gets or sets what the data is.</summary>
+    /// <summary>Gets or sets the identifier of the kind of data.</summary>
     [CgmInteger]
     public int Identifier { get; set; }
 
@@ -58,42 +57,38 @@ public sealed partial class ApplicationData : Command
     public byte[] Data { get; set; } = [];
 }
 
-/// <summary>An attribute of the application structure that was begun last.</summary>
+/// <summary>An attribute of the open application structure.</summary>
 [CgmCommand(ApplicationStructureDescriptorElement.ApplicationStructureAttribute, "APSATTR")]
 public sealed partial class ApplicationStructureAttribute : Command
 {
-    /// <summary>Gets or sets what kind of attribute it is.</summary>
+    /// <summary>Gets or sets the type of the attribute.</summary>
     [CgmString]
     public string AttributeType { get; set; } = "";
 
-    /// <summary>Gets or sets its values.</summary>
+    /// <summary>Gets or sets the values of the attribute.</summary>
     [CgmRecord]
     public StructuredDataRecord Value { get; set; } = new();
 }
 
-/// <summary>Where the application structures of a picture begin in the file.</summary>
-[CgmCommand(PictureDescriptorElement.ApplicationStructureDirectory, "APSDIR",
-    Default = "an empty directory")]
+/// <summary>The locations of the application structures of a picture in the file.</summary>
+[CgmCommand(PictureDescriptorElement.ApplicationStructureDirectory, "APSDIR", Default = "an empty directory")]
 public sealed partial class ApplicationStructureDirectory : Command
 {
-    /// <summary>The widths of places.</summary>
+    /// <summary>The data types of locations.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum DataTypeSelector
     {
-        /// <summary>8 bits.</summary>
-        [CgmKeyword("UI8")]
-        UInt8 = 0,
+        /// <summary>Unsigned 8 bits.</summary>
+        [CgmKeyword("UI8")] UInt8 = 0,
 
-        /// <summary>16 bits.</summary>
-        [CgmKeyword("UI16")]
-        UInt16 = 1,
+        /// <summary>Unsigned 16 bits.</summary>
+        [CgmKeyword("UI16")] UInt16 = 1,
 
-        /// <summary>32 bits.</summary>
-        [CgmKeyword("UI32")]
-        UInt32 = 2,
+        /// <summary>Unsigned 32 bits.</summary>
+        [CgmKeyword("UI32")] UInt32 = 2,
     }
 
-    /// <summary>Gets or sets how wide places are in binary files.</summary>
+    /// <summary>Gets or sets the data type of locations in binary files.</summary>
     [CgmEnum]
     public DataTypeSelector LocationType { get; set; } = DataTypeSelector.UInt32;
 
@@ -107,18 +102,18 @@ public sealed partial class ApplicationStructureDirectory : Command
         return x.Rest(Infos, (y, info) => ApplicationStructureInfo.Exchange(y, info, bits));
     }
 
-    /// <summary>Where one structure begins.</summary>
+    /// <summary>The location of one application structure.</summary>
     public sealed class ApplicationStructureInfo
     {
-        /// <summary>Creates an entry without name.</summary>
+        /// <summary>Creates an entry with an empty identifier.</summary>
         public ApplicationStructureInfo()
         {
         }
 
-        /// <summary>Gets or sets the name of the structure.</summary>
+        /// <summary>Gets or sets the identifier of the structure.</summary>
         public string Identifier { get; set; } = "";
 
-        /// <summary>Gets or sets where the structure begins, in bytes; not negative.</summary>
+        /// <summary>Gets or sets the offset of the structure in bytes; not negative.</summary>
         public long Location { get; set; }
 
         /// <inheritdoc/>
@@ -126,7 +121,8 @@ public sealed partial class ApplicationStructureDirectory : Command
 
         internal static ApplicationStructureInfo Exchange(ParameterExchange x, ApplicationStructureInfo? info, int bits)
         {
-            ApplicationStructureInfo one = x.IsReading ? new ApplicationStructureInfo() : ParameterExchange.Needed(info);
+            ApplicationStructureInfo one =
+                x.IsReading ? new ApplicationStructureInfo() : ParameterExchange.Needed(info);
             one.Identifier = x.String(one.Identifier);
             one.Location = x.Unsigned(one.Location, bits);
             return one;

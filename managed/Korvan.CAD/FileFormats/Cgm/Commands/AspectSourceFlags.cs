@@ -5,123 +5,96 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>Which attributes are taken from bundles and which from their own elements.</summary>
-[CgmCommand(AttributeElement.AspectSourceFlags, "ASF",
-    Default = "the element without flags")]
+/// <summary>Which attributes come from bundles and which from their own elements.</summary>
+[CgmCommand(AttributeElement.AspectSourceFlags, "ASF", Default = "the element without flags")]
 public sealed partial class AspectSourceFlags : Command
 {
-    /// <summary>The attributes that have a flag, and groups of them.</summary>
+    /// <summary>The attributes that have an aspect source flag, and groups of them.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum ASFType
     {
-        /// <summary>The dashes of lines.</summary>
-        [CgmKeyword("LINETYPEASF")]
-        LineType = 0,
+        /// <summary>The line type.</summary>
+        [CgmKeyword("LINETYPEASF")] LineType = 0,
 
-        /// <summary>The width of lines.</summary>
-        [CgmKeyword("LINEWIDTHASF")]
-        LineWidth = 1,
+        /// <summary>The line width.</summary>
+        [CgmKeyword("LINEWIDTHASF")] LineWidth = 1,
 
-        /// <summary>The colour of lines.</summary>
-        [CgmKeyword("LINECOLRASF")]
-        LineColour = 2,
+        /// <summary>The line colour.</summary>
+        [CgmKeyword("LINECOLRASF")] LineColour = 2,
 
-        /// <summary>The shape of markers.</summary>
-        [CgmKeyword("MARKERTYPEASF")]
-        MarkerType = 3,
+        /// <summary>The marker type.</summary>
+        [CgmKeyword("MARKERTYPEASF")] MarkerType = 3,
 
-        /// <summary>The size of markers.</summary>
-        [CgmKeyword("MARKERSIZEASF")]
-        MarkerSize = 4,
+        /// <summary>The marker size.</summary>
+        [CgmKeyword("MARKERSIZEASF")] MarkerSize = 4,
 
-        /// <summary>The colour of markers.</summary>
-        [CgmKeyword("MARKERCOLRASF")]
-        MarkerColour = 5,
+        /// <summary>The marker colour.</summary>
+        [CgmKeyword("MARKERCOLRASF")] MarkerColour = 5,
 
-        /// <summary>The font of texts.</summary>
-        [CgmKeyword("TEXTFONTASF")]
-        TextFontIndex = 6,
+        /// <summary>The text font.</summary>
+        [CgmKeyword("TEXTFONTASF")] TextFontIndex = 6,
 
-        /// <summary>How exactly texts are placed.</summary>
-        [CgmKeyword("TEXTPRECASF")]
-        TextPrecision = 7,
+        /// <summary>The text precision.</summary>
+        [CgmKeyword("TEXTPRECASF")] TextPrecision = 7,
 
-        /// <summary>How wide characters are.</summary>
-        [CgmKeyword("CHAREXPASF")]
-        CharacterExpansionFactor = 8,
+        /// <summary>The character expansion factor.</summary>
+        [CgmKeyword("CHAREXPASF")] CharacterExpansionFactor = 8,
 
-        /// <summary>The gap between characters.</summary>
-        [CgmKeyword("CHARSPACEASF")]
-        CharacterSpacing = 9,
+        /// <summary>The character spacing.</summary>
+        [CgmKeyword("CHARSPACEASF")] CharacterSpacing = 9,
 
-        /// <summary>The colour of texts.</summary>
-        [CgmKeyword("TEXTCOLRASF")]
-        TextColour = 10,
+        /// <summary>The text colour.</summary>
+        [CgmKeyword("TEXTCOLRASF")] TextColour = 10,
 
-        /// <summary>How areas are filled.</summary>
-        [CgmKeyword("INTSTYLEASF")]
-        InteriorStyle = 11,
+        /// <summary>The interior style.</summary>
+        [CgmKeyword("INTSTYLEASF")] InteriorStyle = 11,
 
-        /// <summary>The colour of areas.</summary>
-        [CgmKeyword("FILLCOLRASF")]
-        FillColour = 12,
+        /// <summary>The fill colour.</summary>
+        [CgmKeyword("FILLCOLRASF")] FillColour = 12,
 
-        /// <summary>The hatch of areas.</summary>
-        [CgmKeyword("HATCHINDEXASF")]
-        HatchIndex = 13,
+        /// <summary>The hatch index.</summary>
+        [CgmKeyword("HATCHINDEXASF")] HatchIndex = 13,
 
-        /// <summary>The pattern of areas.</summary>
-        [CgmKeyword("PATINDEXASF")]
-        PatternIndex = 14,
+        /// <summary>The pattern index.</summary>
+        [CgmKeyword("PATINDEXASF")] PatternIndex = 14,
 
-        /// <summary>The dashes of edges.</summary>
-        [CgmKeyword("EDGETYPEASF")]
-        EdgeType = 15,
+        /// <summary>The edge type.</summary>
+        [CgmKeyword("EDGETYPEASF")] EdgeType = 15,
 
-        /// <summary>The width of edges.</summary>
-        [CgmKeyword("EDGEWIDTHASF")]
-        EdgeWidth = 16,
+        /// <summary>The edge width.</summary>
+        [CgmKeyword("EDGEWIDTHASF")] EdgeWidth = 16,
 
-        /// <summary>The colour of edges.</summary>
-        [CgmKeyword("EDGECOLRASF")]
-        EdgeColour = 17,
+        /// <summary>The edge colour.</summary>
+        [CgmKeyword("EDGECOLRASF")] EdgeColour = 17,
 
-        /// <summary>All attributes of edges.</summary>
-        [CgmKeyword("ALLEDGE")]
-        AllEdge = 506,
+        /// <summary>All edge attributes.</summary>
+        [CgmKeyword("ALLEDGE")] AllEdge = 506,
 
-        /// <summary>All attributes of areas.</summary>
-        [CgmKeyword("ALLFILL")]
-        AllFill = 507,
+        /// <summary>All fill attributes.</summary>
+        [CgmKeyword("ALLFILL")] AllFill = 507,
 
-        /// <summary>All attributes of texts.</summary>
-        [CgmKeyword("ALLTEXT")]
-        AllText = 508,
+        /// <summary>All text attributes.</summary>
+        [CgmKeyword("ALLTEXT")] AllText = 508,
 
-        /// <summary>All attributes of markers.</summary>
-        [CgmKeyword("ALLMARKER")]
-        AllMarker = 509,
+        /// <summary>All marker attributes.</summary>
+        [CgmKeyword("ALLMARKER")] AllMarker = 509,
 
-        /// <summary>All attributes of lines.</summary>
-        [CgmKeyword("ALLLINE")]
-        AllLine = 510,
+        /// <summary>All line attributes.</summary>
+        [CgmKeyword("ALLLINE")] AllLine = 510,
 
         /// <summary>All attributes.</summary>
-        [CgmKeyword("ALL")]
-        All = 511,
+        [CgmKeyword("ALL")] All = 511,
     }
 
-    /// <summary>Where an attribute is taken from.</summary>
+    /// <summary>The source of an attribute.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum ASFValue
     {
-        /// <summary>From its own element.</summary>
-        [CgmKeyword("INDIV")]
-        Individual = 0,
+        /// <summary>Its own element.</summary>
+        [CgmKeyword("INDIV")] Individual = 0,
 
-        /// <summary>From the bundle.</summary>
-        [CgmKeyword("BNDLD")]
-        Bundled = 1,
+        /// <summary>The bundle.</summary>
+        [CgmKeyword("BNDLD")] Bundled = 1,
     }
 
     /// <summary>Gets or sets the flags.</summary>
@@ -131,7 +104,7 @@ public sealed partial class AspectSourceFlags : Command
     private List<AspectSourceFlagsInfo> ExchangeInfos(ParameterExchange x) =>
         x.Rest(Infos, static (y, info) => AspectSourceFlagsInfo.Exchange(y, info));
 
-    /// <summary>One flag.</summary>
+    /// <summary>One aspect source flag.</summary>
     public sealed class AspectSourceFlagsInfo
     {
         /// <summary>Creates a flag.</summary>
@@ -146,7 +119,7 @@ public sealed partial class AspectSourceFlags : Command
         /// <summary>Gets or sets the attribute.</summary>
         public ASFType Type { get; set; }
 
-        /// <summary>Gets or sets where it is taken from.</summary>
+        /// <summary>Gets or sets the source of the attribute.</summary>
         public ASFValue Value { get; set; }
 
         /// <inheritdoc/>

@@ -8,18 +8,17 @@ namespace Korvan.CAD.FileFormats.Cgm.Commands;
 [CgmCommand]
 public abstract partial class GenericIndexCommand : Command
 {
-    /// <summary>Gets or sets the index; what it counts from 1 is told by the element. Negative ones are
-    /// private.</summary>
+    /// <summary>Gets or sets the index, from 1; negative ones are private.</summary>
     [CgmIndex]
     public int Index { get; set; } = 1;
 }
 
-/// <summary>A colour that later elements are drawn in.</summary>
+/// <summary>A colour attribute of later elements.</summary>
 [CgmCommand]
 public abstract partial class ColourCommand : Command
 {
-    /// <summary>Gets or sets the colour: a number of the colour table or a colour by itself, as the picture
-    /// selects.</summary>
+    /// <summary>Gets or sets the colour: an index into the colour table or a direct colour, as the colour selection
+    /// mode says.</summary>
     [CgmColor]
     public CgmColor Color { get; set; } = new(1);
 }

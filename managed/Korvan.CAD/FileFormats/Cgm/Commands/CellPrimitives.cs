@@ -8,33 +8,33 @@ namespace Korvan.CAD.FileFormats.Cgm.Commands;
 [CgmCommand(GraphicalPrimitiveElement.CellArray, "CELLARRAY")]
 public sealed partial class CellArray : Command
 {
-    /// <summary>Gets or sets the corner (P) that the first cell lies at.</summary>
+    /// <summary>Gets or sets the corner P, where the first cell lies.</summary>
     [CgmPoint]
     public CgmPoint FirstCorner { get; set; } = new();
 
-    /// <summary>Gets or sets the corner (Q) opposite to the first.</summary>
+    /// <summary>Gets or sets the corner Q, opposite to P.</summary>
     [CgmPoint]
     public CgmPoint OppositeCorner { get; set; } = new(1, 1);
 
-    /// <summary>Gets or sets the corner (R) that the first line of cells leads to.</summary>
+    /// <summary>Gets or sets the corner R, at the end of the first row of cells.</summary>
     [CgmPoint]
     public CgmPoint LineEnd { get; set; } = new(1, 0);
 
-    /// <summary>Gets or sets the count of cells in a line.</summary>
+    /// <summary>Gets or sets the count of cells in a row.</summary>
     [CgmInteger]
     public int CellsPerLine { get; set; } = 1;
 
-    /// <summary>Gets or sets the count of lines.</summary>
+    /// <summary>Gets or sets the count of rows.</summary>
     [CgmInteger]
     public int LineCount { get; set; } = 1;
 
-    /// <summary>Gets or sets how many bits a colour, or one of its components, has in a binary file: 0 for as many as
-    /// in the metafile, 1, 2, 4, 8, 16, 24 or 32.</summary>
+    /// <summary>Gets or sets the bits of a colour index, or of a colour component, in a binary file: 1, 2, 4, 8, 16, 24
+    /// or 32, or 0 for the precision of the metafile.</summary>
     [CgmLocalBits]
     public int LocalPrecision { get; set; }
 
-    /// <summary>Gets or sets the cells, line by line: numbers of colours, or 0xAARRGGBB where the picture selects
-    /// colours by their components.</summary>
+    /// <summary>Gets or sets the cells, row by row: colour indexes, or 0xAARRGGBB where the colour selection mode is
+    /// direct.</summary>
     [CgmCustom]
     public int[] Cells { get; set; } = [0];
 
@@ -42,26 +42,31 @@ public sealed partial class CellArray : Command
         x.Cells(Cells, CellsPerLine, LineCount, LocalPrecision, withMode: true);
 }
 
-/// <summary>A tile of an image, with its cells as they are packed.</summary>
+/// <summary>A compressed tile of an image.</summary>
 [CgmCommand]
 public abstract partial class TileElement : Command
 {
-    /// <summary>Gets or sets the number of how the cells are packed; negative ones are private.</summary>
+    /// <summary>Gets or sets the index of the compression type; negative ones are private.</summary>
     [CgmIndex]
     public int CompressionIndex { get; set; } = 5;
 
-    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
-    public CompressionType Compression { get => (CompressionType)CompressionIndex; set => CompressionIndex = (int)value; }
+    /// <summary>Gets or sets the same index as an enum member; Python can read it only where the index has a
+    /// name.</summary>
+    public CompressionType Compression
+    {
+        get => (CompressionType)CompressionIndex;
+        set => CompressionIndex = (int)value;
+    }
 
-    /// <summary>Gets or sets to how many bits each line is filled up, 0 for none.</summary>
+    /// <summary>Gets or sets the bits that each row is padded to a multiple of; 0 for none.</summary>
     [CgmInteger]
     public int RowPadding { get; set; }
 
-    /// <summary>Gets or sets what the way of packing needs to know besides.</summary>
+    /// <summary>Gets or sets the parameters of the compression.</summary>
     [CgmRecord]
     public StructuredDataRecord Parameters { get; set; } = new();
 
-    /// <summary>Gets or sets the packed cells; a byte may be added to make their count even.</summary>
+    /// <summary>Gets or sets the compressed cells; a byte may be appended to make their count even.</summary>
     [CgmBits]
     public byte[] Data { get; set; } = [];
 
@@ -74,7 +79,7 @@ public abstract partial class TileElement : Command
         Data = x.Bits(Data);
     }
 
-    /// <summary>What tells the colours of cells, between the padding and the parameters of packing.</summary>
+    /// <summary>The colour parameters, between the row padding and the parameters of the compression.</summary>
     private protected abstract void ExchangeColors(ParameterExchange x);
 }
 
@@ -82,22 +87,22 @@ public abstract partial class TileElement : Command
 [CgmCommand(GraphicalPrimitiveElement.Tile, "TILE")]
 public sealed partial class Tile : TileElement
 {
-    /// <summary>Gets or sets how many bits a colour, or one of its components, has: 0 for as many as in the metafile,
-    /// 1, 2, 4, 8, 16, 24 or 32.</summary>
+    /// <summary>Gets or sets the bits of a colour index, or of a colour component: 1, 2, 4, 8, 16, 24 or 32, or 0 for
+    /// the precision of the metafile.</summary>
     public int CellPrecision { get; set; }
 
     private protected override void ExchangeColors(ParameterExchange x) =>
         CellPrecision = x.LocalBits(CellPrecision);
 }
 
-/// <summary>A tile of cells of two colours.</summary>
+/// <summary>A tile of two colours.</summary>
 [CgmCommand(GraphicalPrimitiveElement.BitonalTile, "BITONALTILE")]
 public sealed partial class BitonalTile : TileElement
 {
-    /// <summary>Gets or sets the colour of cells that are 0.</summary>
+    /// <summary>Gets or sets the background colour, of cells that are 0.</summary>
     public CgmColor Background { get; set; } = new(0);
 
-    /// <summary>Gets or sets the colour of cells that are 1.</summary>
+    /// <summary>Gets or sets the foreground colour, of cells that are 1.</summary>
     public CgmColor Foreground { get; set; } = new(1);
 
     private protected override void ExchangeColors(ParameterExchange x)

@@ -4,17 +4,17 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
 /// <summary>
-/// What earlier elements say of how later ones are coded. Reader and writer each have one and show every command to it,
-/// so both always agree. The values it begins with are the defaults of ISO/IEC 8632-3 and 8632-1.
+/// How elements are coded, as the elements before them set it. Reader and writer each have one and apply every command
+/// to it, so both always agree. The initial values are the defaults of ISO/IEC 8632-3 and 8632-1.
 /// </summary>
 internal sealed class CodingState
 {
-    internal const long MostRunCells = 1 << 27;
+    internal const long MaxRunCells = 1 << 27;
 
-    /// <summary>Gets or sets how many more cells runs may make.</summary>
-    internal long RunCellsLeft { get; set; } = MostRunCells;
+    /// <summary>Gets or sets how many more cells runs may produce.</summary>
+    internal long RunCellsLeft { get; set; } = MaxRunCells;
 
-    /// <summary>Gets or sets how many bits an integer has: 8, 16, 24 or 32.</summary>
+    /// <summary>Gets or sets the bits of an integer: 8, 16, 24 or 32.</summary>
     internal int IntegerBits { get; set; } = 16;
 
     internal Precision Real { get; set; } = Precision.Fixed32;
@@ -23,45 +23,44 @@ internal sealed class CodingState
 
     internal int NameBits { get; set; } = 16;
 
-    /// <summary>Gets or sets how many bits one component of a direct colour has.</summary>
+    /// <summary>Gets or sets the bits of a colour component.</summary>
     internal int ColorBits { get; set; } = 8;
 
     internal int ColorIndexBits { get; set; } = 8;
 
     internal ColourModel.Model ColorModel { get; set; } = ColourModel.Model.Rgb;
 
-    /// <summary>Gets or sets the components that stand for no light; three, or four for CMYK.</summary>
+    /// <summary>Gets or sets the components of minimum intensity; three, or four for CMYK.</summary>
     internal double[] ColorLow { get; set; } = [0, 0, 0, 0];
 
-    /// <summary>Gets or sets the components that stand for full light.</summary>
+    /// <summary>Gets or sets the components of maximum intensity.</summary>
     internal double[] ColorHigh { get; set; } = [255, 255, 255, 255];
 
-    /// <summary>Gets or sets what the components of CIE colours and of RGB-related ones are multiplied with; the default
-    /// leads 8 bits to the usual ranges of L*a*b*.</summary>
+    /// <summary>Gets or sets the scales of the components of CIE colours and of RGB-related ones; the default maps 8
+    /// bits to the ranges of L*a*b*.</summary>
     internal double[] ColorScale { get; set; } = [100 / 255.0, 1, 1];
 
-    /// <summary>Gets or sets what is added to the multiplied components.</summary>
+    /// <summary>Gets or sets the offsets of the scaled components.</summary>
     internal double[] ColorOffset { get; set; } = [0, -128, -128];
 
-    /// <summary>Gets or sets the sets of characters that texts choose from by numbers, counted from 1: what kind each
-    /// is (4 for a complete code), and the end of the sequence that designates it.</summary>
+    /// <summary>Gets or sets the character sets, which character set indexes refer to from 1: the type of each (4 for a
+    /// complete code) and the tail of its designation sequence.</summary>
     internal IReadOnlyList<(int Kind, string Tail)> CharacterSets { get; set; } = [];
 
     internal VdcType.Type VdcType { get; set; } = Commands.VdcType.Type.Integer;
 
     internal DeviceViewportSpecificationMode.Mode ViewportMode { get; set; }
 
-    /// <summary>Gets or sets what pictures and the replacement of defaults change; it begins anew with each picture.</summary>
+    /// <summary>Gets or sets what pictures and the replacement of defaults change; each picture resets it.</summary>
     internal PictureCoding Picture { get; set; } = new();
 
-    /// <summary>Gets or sets what each picture begins with.</summary>
+    /// <summary>Gets or sets the initial coding of each picture.</summary>
     internal PictureCoding Defaults { get; set; } = new();
 
-    /// <summary>Gets or sets whether elements are read or written that replace defaults: they count for the pictures
-    /// that follow.</summary>
+    /// <summary>Gets or sets whether elements replace defaults, which apply to the pictures that follow.</summary>
     internal bool ReplacesDefaults { get; set; }
 
-    /// <summary>Gets the settings that elements change at this place.</summary>
+    /// <summary>Gets the coding that elements change at this place.</summary>
     internal PictureCoding Current => ReplacesDefaults ? Defaults : Picture;
 
     internal bool HasIndexedColors => Current.ColorSelection == ColourSelectionMode.Type.Indexed;
@@ -70,7 +69,7 @@ internal sealed class CodingState
 
     internal int ColorComponents => ColorModel == ColourModel.Model.Cmyk ? 4 : 3;
 
-    /// <summary>Forgets what a metafile before this one in the same file changed.</summary>
+    /// <summary>Resets what a metafile before this one in the same file changed.</summary>
     internal void BeginMetafile()
     {
         var fresh = new CodingState();
@@ -83,11 +82,11 @@ internal sealed class CodingState
         (Picture, Defaults) = (fresh.Picture, fresh.Defaults);
     }
 
-    /// <summary>Forgets what the last picture changed.</summary>
+    /// <summary>Resets what the last picture changed.</summary>
     internal void BeginPicture() => Picture = Defaults with { };
 }
 
-/// <summary>How parameters are coded that a picture may have its own way for.</summary>
+/// <summary>The part of the coding that is specific to a picture.</summary>
 internal sealed record PictureCoding
 {
     internal ColourSelectionMode.Type ColorSelection { get; set; } = ColourSelectionMode.Type.Indexed;

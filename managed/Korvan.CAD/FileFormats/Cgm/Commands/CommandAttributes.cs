@@ -49,8 +49,8 @@ internal sealed class CgmGroupAttribute : Attribute;
 internal sealed class CgmKeywordAttribute(string keyword) : Attribute;
 
 /// <summary>
-/// Declares a parameter; the derived attributes are named after the methods of <see cref="ParameterExchange"/>. On a list
-/// it declares the items, which fill the rest of the element unless a count is stated.
+/// Declares a parameter; the derived attributes are named after the methods of <see cref="ParameterExchange"/>. On a
+/// list it declares the items, which fill the rest of the element unless a count is stated.
 /// </summary>
 [AttributeUsage(AttributeTargets.Property)]
 internal abstract class CgmParameterAttribute : Attribute

@@ -6,63 +6,55 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>Which bundle of attributes areas take.</summary>
+/// <summary>The fill bundle index.</summary>
 [CgmCommand(AttributeElement.FillBundleIndex, "FILLINDEX")]
 public sealed partial class FillBundleIndex : GenericIndexCommand;
 
-/// <summary>How areas are filled.</summary>
+/// <summary>The interior style, how areas are filled.</summary>
 [CgmCommand(AttributeElement.InteriorStyle, "INTSTYLE")]
 public sealed partial class InteriorStyle : Command
 {
-    /// <summary>The ways to fill.</summary>
+    /// <summary>The interior styles.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum Style
     {
-        /// <summary>Only the outline is drawn, in the colour of areas.</summary>
-        [CgmKeyword("HOLLOW")]
-        Hollow = 0,
+        /// <summary>Only the boundary is drawn, in the fill colour.</summary>
+        [CgmKeyword("HOLLOW")] Hollow = 0,
 
-        /// <summary>By the colour of areas.</summary>
-        [CgmKeyword("SOLID")]
-        Solid = 1,
+        /// <summary>The fill colour.</summary>
+        [CgmKeyword("SOLID")] Solid = 1,
 
-        /// <summary>By a pattern of cells.</summary>
-        [CgmKeyword("PAT")]
-        Pattern = 2,
+        /// <summary>A pattern of cells.</summary>
+        [CgmKeyword("PAT")] Pattern = 2,
 
-        /// <summary>By hatch lines.</summary>
-        [CgmKeyword("HATCH")]
-        Hatch = 3,
+        /// <summary>Hatch lines.</summary>
+        [CgmKeyword("HATCH")] Hatch = 3,
 
-        /// <summary>Not at all.</summary>
-        [CgmKeyword("EMPTY")]
-        Empty = 4,
+        /// <summary>No interior.</summary>
+        [CgmKeyword("EMPTY")] Empty = 4,
 
-        /// <summary>By a pattern that is drawn.</summary>
-        [CgmKeyword("GEOPAT")]
-        GeometricPattern = 5,
+        /// <summary>A geometric pattern, drawn by a segment.</summary>
+        [CgmKeyword("GEOPAT")] GeometricPattern = 5,
 
-        /// <summary>By colours that change gradually.</summary>
-        [CgmKeyword("INTERP")]
-        Interpolated = 6,
+        /// <summary>Interpolated colours, a gradient.</summary>
+        [CgmKeyword("INTERP")] Interpolated = 6,
     }
 
-    /// <summary>Gets or sets how.</summary>
+    /// <summary>Gets or sets the style.</summary>
     [CgmEnum]
     public Style Value { get; set; }
 }
 
-/// <summary>The colour of areas.</summary>
-[CgmCommand(AttributeElement.FillColour, "FILLCOLR",
-    Default = "the number 1 of the colour table")]
+/// <summary>The fill colour.</summary>
+[CgmCommand(AttributeElement.FillColour, "FILLCOLR", Default = "the colour index 1")]
 [CgmConstructor(nameof(Color))]
 public sealed partial class FillColour : ColourCommand;
 
-/// <summary>The hatch of areas.</summary>
+/// <summary>The hatch index.</summary>
 [CgmCommand(AttributeElement.HatchIndex, "HATCHINDEX")]
 public sealed partial class HatchIndex : Command
 {
-    /// <summary>The hatches.</summary>
+    /// <summary>The standard hatch styles.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum HatchType
     {
@@ -72,32 +64,33 @@ public sealed partial class HatchIndex : Command
         /// <summary>Vertical lines.</summary>
         Vertical = 2,
 
-        /// <summary>Lines that rise.</summary>
+        /// <summary>Lines with positive slope.</summary>
         PositiveSlope = 3,
 
-        /// <summary>Lines that fall.</summary>
+        /// <summary>Lines with negative slope.</summary>
         NegativeSlope = 4,
 
         /// <summary>Horizontal and vertical lines.</summary>
         HorizontalVerticalCross = 5,
 
-        /// <summary>Rising and falling lines.</summary>
+        /// <summary>Lines with positive and negative slope.</summary>
         PositiveNegativeCross = 6,
     }
 
-    /// <summary>Gets or sets the number of the hatch; negative ones are private or defined by the picture.</summary>
+    /// <summary>Gets or sets the hatch index; negative ones are private or defined by the picture.</summary>
     [CgmIndex]
     public int Index { get; set; } = 1;
 
-    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    /// <summary>Gets or sets the same index as an enum member; Python can read it only where the index has a
+    /// name.</summary>
     public HatchType Value { get => (HatchType)Index; set => Index = (int)value; }
 }
 
-/// <summary>The pattern of areas, by its index.</summary>
+/// <summary>The pattern index.</summary>
 [CgmCommand(AttributeElement.PatternIndex, "PATINDEX")]
 public sealed partial class PatternIndex : GenericIndexCommand;
 
-/// <summary>The point that patterns and hatches begin at.</summary>
+/// <summary>The reference point of patterns and hatches.</summary>
 [CgmCommand(AttributeElement.FillReferencePoint, "FILLREFPT")]
 public sealed partial class FillReferencePoint : Command
 {
@@ -110,25 +103,25 @@ public sealed partial class FillReferencePoint : Command
 [CgmCommand(AttributeElement.PatternTable, "PATTABLE")]
 public sealed partial class PatternTable : Command
 {
-    /// <summary>Gets or sets the index that areas call the pattern by, from 1.</summary>
+    /// <summary>Gets or sets the pattern index, from 1.</summary>
     [CgmIndex]
     public int Index { get; set; } = 1;
 
-    /// <summary>Gets or sets the count of cells in a line.</summary>
+    /// <summary>Gets or sets the count of cells in a row.</summary>
     [CgmInteger]
     public int CellsPerLine { get; set; } = 1;
 
-    /// <summary>Gets or sets the count of lines.</summary>
+    /// <summary>Gets or sets the count of rows.</summary>
     [CgmInteger]
     public int LineCount { get; set; } = 1;
 
-    /// <summary>Gets or sets how many bits a colour, or one of its components, has in a binary file: 0 for as many as
-    /// in the metafile, 1, 2, 4, 8, 16, 24 or 32.</summary>
+    /// <summary>Gets or sets the bits of a colour index, or of a colour component, in a binary file: 1, 2, 4, 8, 16, 24
+    /// or 32, or 0 for the precision of the metafile.</summary>
     [CgmLocalBits]
     public int LocalPrecision { get; set; }
 
-    /// <summary>Gets or sets the cells, line by line: numbers of colours, or 0xAARRGGBB where the picture selects
-    /// colours by their components.</summary>
+    /// <summary>Gets or sets the cells, row by row: colour indexes, or 0xAARRGGBB where the colour selection mode is
+    /// direct.</summary>
     [CgmCustom]
     public int[] Cells { get; set; } = [1];
 
@@ -136,59 +129,60 @@ public sealed partial class PatternTable : Command
         x.Cells(Cells, CellsPerLine, LineCount, LocalPrecision, withMode: false);
 }
 
-/// <summary>The size of a whole pattern, by the vectors of two sides, as the mode of interiors says.</summary>
+/// <summary>The size of a whole pattern as two vectors, in the unit of the interior style specification mode.</summary>
 [CgmCommand(AttributeElement.PatternSize, "PATSIZE")]
 public sealed partial class PatternSize : Command
 {
-    /// <summary>Gets or sets the abscissa of the side that leads up.</summary>
+    /// <summary>Gets or sets the X component of the height vector.</summary>
     [CgmSize(nameof(PictureCoding.InteriorStyleMode))]
     public double HeightX { get; set; }
 
-    /// <summary>Gets or sets the ordinate of that side.</summary>
+    /// <summary>Gets or sets the Y component of the height vector.</summary>
     [CgmSize(nameof(PictureCoding.InteriorStyleMode))]
     public double HeightY { get; set; } = 1;
 
-    /// <summary>Gets or sets the abscissa of the side that leads right.</summary>
+    /// <summary>Gets or sets the X component of the width vector.</summary>
     [CgmSize(nameof(PictureCoding.InteriorStyleMode))]
     public double WidthX { get; set; } = 1;
 
-    /// <summary>Gets or sets the ordinate of that side.</summary>
+    /// <summary>Gets or sets the Y component of the width vector.</summary>
     [CgmSize(nameof(PictureCoding.InteriorStyleMode))]
     public double WidthY { get; set; }
 }
 
-/// <summary>Defines colours of the colour table, one after the other.</summary>
+/// <summary>Defines consecutive entries of the colour table.</summary>
 [CgmCommand(AttributeElement.ColourTable, "COLRTABLE")]
 [CgmConstructor(nameof(StartIndex), nameof(Colors))]
 public sealed partial class ColourTable : Command
 {
-    /// <summary>Gets or sets the number of the first one.</summary>
+    /// <summary>Gets or sets the index of the first entry.</summary>
     [CgmColorIndex]
     public int StartIndex { get; set; }
 
-    /// <summary>Gets or sets the colours, each told by its components.</summary>
+    /// <summary>Gets or sets the colours, all direct.</summary>
     [CgmDirectColor]
     public List<CgmColor> Colors { get; set; } = [];
 }
 
-/// <summary>Colours of areas that change gradually.</summary>
+/// <summary>The gradient of interpolated interiors.</summary>
 [CgmCommand(AttributeElement.InterpolatedInterior, "INTERPINT")]
 public sealed partial class InterpolatedInterior : Command
 {
-    /// <summary>Gets or sets 1 for changes along a direction, 2 along radii of an ellipse, 3 over a triangle.</summary>
+    /// <summary>Gets or sets the style: 1 parallel, 2 elliptical, 3 triangular.</summary>
     [CgmIndex]
     public int Style { get; set; } = 1;
 
-    /// <summary>Gets or sets vectors from the fill reference point, as the mode of interiors says: one for style 1, two
-    /// for the others, X and Y of each.</summary>
+    /// <summary>Gets or sets the reference geometry as X and Y of vectors from the fill reference point, in the unit of
+    /// the interior style specification mode: one vector for style 1, two for the others.</summary>
     [CgmSize(nameof(PictureCoding.InteriorStyleMode), Count = "Style == 1 ? 2 : 4")]
     public List<double> ReferenceGeometry { get; set; } = [1, 0];
 
-    /// <summary>Gets or sets where the colours lie, each in parts of the reference vector; none for style 3.</summary>
+    /// <summary>Gets or sets the stages of the gradient in fractions of the reference vector; none for style
+    /// 3.</summary>
     [CgmReal(Counted = true)]
     public List<double> StageDesignators { get; set; } = [];
 
-    /// <summary>Gets or sets the colours, one more than places, or three for style 3.</summary>
+    /// <summary>Gets or sets the colours, one more than stages, or three for style 3.</summary>
     [CgmColor]
     public List<CgmColor> Colors { get; set; } = [];
 }

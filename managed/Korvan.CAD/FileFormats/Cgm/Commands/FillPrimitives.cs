@@ -6,9 +6,8 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>An area bounded by lines through points; the last point leads back to the first.</summary>
-[CgmCommand(GraphicalPrimitiveElement.PolygonElement, "POLYGON",
-    Default = "an area without points")]
+/// <summary>A polygon; the last point is joined to the first.</summary>
+[CgmCommand(GraphicalPrimitiveElement.PolygonElement, "POLYGON", Default = "a polygon without points")]
 [CgmConstructor(nameof(Points))]
 public sealed partial class PolygonElement : Command
 {
@@ -17,37 +16,31 @@ public sealed partial class PolygonElement : Command
     public List<CgmPoint> Points { get; set; } = [];
 }
 
-/// <summary>Areas bounded by lines, which can have holes and hidden edges.</summary>
-[CgmCommand(GraphicalPrimitiveElement.PolygonSet, "POLYGONSET",
-    Default = "no areas")]
+/// <summary>A set of polygons, which can have holes and invisible edges.</summary>
+[CgmCommand(GraphicalPrimitiveElement.PolygonSet, "POLYGONSET", Default = "an empty set")]
 public sealed partial class PolygonSet : Command
 {
-    /// <summary>What follows a point.</summary>
+    /// <summary>The edge after a point.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum EdgeFlag
     {
-        /// <summary>An edge that is not drawn leads to the next point.</summary>
-        [CgmKeyword("INVIS")]
-        Invisible = 0,
+        /// <summary>An invisible edge to the next point.</summary>
+        [CgmKeyword("INVIS")] Invisible = 0,
 
-        /// <summary>An edge leads to the next point.</summary>
-        [CgmKeyword("VIS")]
-        Visible = 1,
+        /// <summary>A visible edge to the next point.</summary>
+        [CgmKeyword("VIS")] Visible = 1,
 
-        /// <summary>An edge that is not drawn leads back to the first point of this area; the next one begins
-        /// another.</summary>
-        [CgmKeyword("CLOSEINVIS")]
-        CloseInvisible = 2,
+        /// <summary>An invisible edge to the first point of the polygon; the next point starts another.</summary>
+        [CgmKeyword("CLOSEINVIS")] CloseInvisible = 2,
 
-        /// <summary>An edge leads back to the first point of this area; the next one begins another.</summary>
-        [CgmKeyword("CLOSEVIS")]
-        CloseVisible = 3,
+        /// <summary>A visible edge to the first point of the polygon; the next point starts another.</summary>
+        [CgmKeyword("CLOSEVIS")] CloseVisible = 3,
     }
 
     /// <summary>Gets or sets the points.</summary>
     public List<CgmPoint> Points { get; set; } = [];
 
-    /// <summary>Gets or sets, for each point, what follows it.</summary>
+    /// <summary>Gets or sets the edge after each point.</summary>
     public List<EdgeFlag> Flags { get; set; } = [];
 
     internal override void Exchange(ParameterExchange x) => (Points, Flags) = x.Pairs(
@@ -58,7 +51,7 @@ public sealed partial class PolygonSet : Command
         static (y, flag) => y.Enumeration(flag, EnumKeywords.PolygonSetEdgeFlag));
 }
 
-/// <summary>A rectangle with sides along the axes.</summary>
+/// <summary>A filled rectangle with sides parallel to the axes.</summary>
 [CgmCommand(GraphicalPrimitiveElement.RectangleElement, "RECT")]
 [CgmConstructor(nameof(FirstCorner), nameof(SecondCorner))]
 public sealed partial class RectangleElement : Command
@@ -72,7 +65,7 @@ public sealed partial class RectangleElement : Command
     public CgmPoint SecondCorner { get; set; } = new();
 }
 
-/// <summary>A circle, filled.</summary>
+/// <summary>A filled circle.</summary>
 [CgmCommand(GraphicalPrimitiveElement.CircleElement, "CIRCLE")]
 [CgmConstructor(nameof(Centre), nameof(Radius))]
 public sealed partial class CircleElement : Command
@@ -81,12 +74,12 @@ public sealed partial class CircleElement : Command
     [CgmPoint]
     public CgmPoint Centre { get; set; } = new();
 
-    /// <summary>Gets or sets the radius, in units of the coordinates, not negative.</summary>
+    /// <summary>Gets or sets the radius, in VDC, not negative.</summary>
     [CgmVdc]
     public double Radius { get; set; }
 }
 
-/// <summary>An ellipse, filled, by two conjugate radii.</summary>
+/// <summary>A filled ellipse, given by two conjugate radii.</summary>
 [CgmCommand(GraphicalPrimitiveElement.EllipseElement, "ELLIPSE")]
 [CgmConstructor(nameof(Centre), nameof(FirstRadiusEnd), nameof(SecondRadiusEnd))]
 public sealed partial class EllipseElement : Command
@@ -95,11 +88,11 @@ public sealed partial class EllipseElement : Command
     [CgmPoint]
     public CgmPoint Centre { get; set; } = new();
 
-    /// <summary>Gets or sets the end of one conjugate radius.</summary>
+    /// <summary>Gets or sets the end of the first conjugate radius.</summary>
     [CgmPoint]
     public CgmPoint FirstRadiusEnd { get; set; } = new();
 
-    /// <summary>Gets or sets the end of the other conjugate radius.</summary>
+    /// <summary>Gets or sets the end of the second conjugate radius.</summary>
     [CgmPoint]
     public CgmPoint SecondRadiusEnd { get; set; } = new();
 }

@@ -2,7 +2,8 @@ using System;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>The values of an enumerated parameter and their keywords in clear text (ISO/IEC 8632-4, clause 8).</summary>
+/// <summary>The values of an enumerated parameter and their keywords in clear text (ISO/IEC 8632-4, clause
+/// 8).</summary>
 internal sealed class KeywordTable(int[] values, string[] keywords)
 {
     /// <summary>Gets the keywords in the order of the values.</summary>
@@ -33,8 +34,8 @@ internal sealed class KeywordTable(int[] values, string[] keywords)
 
     private int FindAlike(string word)
     {
-        const int shortest = 3;
-        bool IsAlike(string one) => Math.Min(one.Length, word.Length) >= shortest
+        const int MinLength = 3;
+        bool IsAlike(string one) => Math.Min(one.Length, word.Length) >= MinLength
             && (one.StartsWith(word, StringComparison.OrdinalIgnoreCase)
                 || word.StartsWith(one, StringComparison.OrdinalIgnoreCase));
         int first = Array.FindIndex(keywords, IsAlike);

@@ -5,9 +5,8 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>A line through points.</summary>
-[CgmCommand(GraphicalPrimitiveElement.Polyline, "LINE",
-    Default = "a line without points")]
+/// <summary>A polyline.</summary>
+[CgmCommand(GraphicalPrimitiveElement.Polyline, "LINE", Default = "a polyline without points")]
 [CgmConstructor(nameof(Points))]
 public sealed partial class Polyline : Command
 {
@@ -16,9 +15,9 @@ public sealed partial class Polyline : Command
     public List<CgmPoint> Points { get; set; } = [];
 }
 
-/// <summary>Lines from the first point to the second, from the third to the fourth and so on.</summary>
-[CgmCommand(GraphicalPrimitiveElement.DisjointPolyline, "DISJTLINE",
-    Default = "no lines")]
+/// <summary>Separate line segments: from the first point to the second, from the third to the fourth and so
+/// on.</summary>
+[CgmCommand(GraphicalPrimitiveElement.DisjointPolyline, "DISJTLINE", Default = "the element without points")]
 [CgmConstructor(nameof(Points))]
 public sealed partial class DisjointPolyline : Command
 {
@@ -28,8 +27,7 @@ public sealed partial class DisjointPolyline : Command
 }
 
 /// <summary>Markers at points.</summary>
-[CgmCommand(GraphicalPrimitiveElement.PolyMarker, "MARKER",
-    Default = "no markers")]
+[CgmCommand(GraphicalPrimitiveElement.PolyMarker, "MARKER", Default = "the element without points")]
 [CgmConstructor(nameof(Points))]
 public sealed partial class PolyMarker : Command
 {
@@ -38,11 +36,11 @@ public sealed partial class PolyMarker : Command
     public List<CgmPoint> Points { get; set; } = [];
 }
 
-/// <summary>Symbols of the current library at points.</summary>
+/// <summary>Symbols of the current symbol library at points.</summary>
 [CgmCommand(GraphicalPrimitiveElement.PolySymbol, "SYMBOL")]
 public sealed partial class PolySymbol : Command
 {
-    /// <summary>Gets or sets the symbol in its library, from 1.</summary>
+    /// <summary>Gets or sets the index of the symbol in its library, from 1.</summary>
     [CgmIndex]
     public int SymbolIndex { get; set; } = 1;
 
@@ -51,13 +49,12 @@ public sealed partial class PolySymbol : Command
     public List<CgmPoint> Points { get; set; } = [];
 }
 
-/// <summary>Cubic Bézier curves, each of its own or one after the other.</summary>
-[CgmCommand(GraphicalPrimitiveElement.PolyBezier, "POLYBEZIER",
-    Default = "no curves")]
+/// <summary>Cubic Bézier curves, separate or continuous.</summary>
+[CgmCommand(GraphicalPrimitiveElement.PolyBezier, "POLYBEZIER", Default = "the element without points")]
 public sealed partial class PolyBezier : Command
 {
-    /// <summary>Gets or sets 1 where each curve has four points of its own, 2 where each begins at the end of the last
-    /// one and has three; others are registered.</summary>
+    /// <summary>Gets or sets the continuity: 1 for separate curves of four points each, 2 for curves of three points
+    /// that start at the end of the curve before; others are registered.</summary>
     [CgmIndex]
     public int ContinuityIndicator { get; set; } = 1;
 
@@ -65,8 +62,8 @@ public sealed partial class PolyBezier : Command
     [CgmPoint]
     public List<CgmPoint> Points { get; set; } = [];
 
-    /// <summary>Gives the curves; points that are left over make none.</summary>
-    /// <returns>The curves.</returns>
+    /// <summary>Returns the curves; incomplete ones are left out.</summary>
+    /// <returns>The curves; incomplete ones are left out.</returns>
     public List<BezierCurve> GetCurves()
     {
         var curves = new List<BezierCurve>();
@@ -80,12 +77,11 @@ public sealed partial class PolyBezier : Command
     }
 }
 
-/// <summary>A B-spline curve.</summary>
-[CgmCommand(GraphicalPrimitiveElement.NonUniformBSpline, "NUB",
-    Default = "a curve of the third degree without points")]
+/// <summary>A non-uniform B-spline curve.</summary>
+[CgmCommand(GraphicalPrimitiveElement.NonUniformBSpline, "NUB", Default = "a curve of the third degree without points")]
 public partial class NonUniformBSpline : Command
 {
-    /// <summary>Gets or sets the order: the degree and one, at least 2.</summary>
+    /// <summary>Gets or sets the order, one more than the degree, at least 2.</summary>
     [CgmInteger]
     public int Order { get; set; } = 4;
 
@@ -93,21 +89,20 @@ public partial class NonUniformBSpline : Command
     [CgmPoint(Counted = true)]
     public List<CgmPoint> ControlPoints { get; set; } = [];
 
-    /// <summary>Gets or sets the knots, as many as order and control points together, none smaller than the one
-    /// before.</summary>
+    /// <summary>Gets or sets the knots in ascending order, as many as order and control points together.</summary>
     [CgmReal(Count = "(long)Order + ControlPoints.Count")]
     public List<double> Knots { get; set; } = [];
 
-    /// <summary>Gets or sets the parameter where the curve begins.</summary>
+    /// <summary>Gets or sets the parameter at the start of the curve.</summary>
     [CgmReal]
     public double StartParameter { get; set; }
 
-    /// <summary>Gets or sets the parameter where the curve ends.</summary>
+    /// <summary>Gets or sets the parameter at the end of the curve.</summary>
     [CgmReal]
     public double EndParameter { get; set; } = 1;
 }
 
-/// <summary>A rational B-spline curve.</summary>
+/// <summary>A non-uniform rational B-spline curve (NURBS).</summary>
 [CgmCommand(GraphicalPrimitiveElement.NonUniformRationalBSpline, "NURB",
     Default = "a curve of the third degree without points")]
 public sealed partial class NonUniformRationalBSpline : NonUniformBSpline
@@ -117,28 +112,28 @@ public sealed partial class NonUniformRationalBSpline : NonUniformBSpline
     public List<double> Weights { get; set; } = [];
 }
 
-/// <summary>Makes the line to the next piece of a closed figure an edge.</summary>
+/// <summary>Makes the line to the next primitive of a closed figure an edge.</summary>
 [CgmCommand(GraphicalPrimitiveElement.ConnectingEdge, "CONNEDGE")]
 public sealed partial class ConnectingEdge : Command;
 
-/// <summary>Something to draw that the format has no element for; its number is registered, or private when
+/// <summary>A primitive outside the standard, selected by an identifier that is registered, or private when
 /// negative.</summary>
 [CgmCommand(GraphicalPrimitiveElement.GeneralizedDrawingPrimitive, "GDP")]
 public sealed partial class GeneralizedDrawingPrimitive : Command
 {
-    /// <summary>Gets or sets what is drawn.</summary>
+    /// <summary>Gets or sets the identifier of the primitive.</summary>
     [CgmInteger]
     public int Identifier { get; set; }
 
-    /// <summary>Gets or sets the points, whose meaning what is drawn tells.</summary>
+    /// <summary>Gets or sets the points; the primitive defines their meaning.</summary>
     [CgmCustom]
     public List<CgmPoint> Points { get; set; } = [];
 
-    /// <summary>Gets or sets further data.</summary>
+    /// <summary>Gets or sets the data record of the primitive.</summary>
     [CgmData]
     public byte[] Data { get; set; } = [];
 
-    /// <summary>Clear text has no count; there the data ends the list.</summary>
+    /// <summary>Clear text has no count; there the data record ends the list.</summary>
     private List<CgmPoint> ExchangePoints(ParameterExchange x)
     {
         if (!x.IsClearText)

@@ -6,27 +6,28 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>The largest number of a colour that the metafile uses.</summary>
+/// <summary>The largest colour index that the metafile uses.</summary>
 [CgmCommand(MetaFileDescriptorElement.MaximumColourIndex, "MAXCOLRINDEX")]
 public sealed partial class MaximumColourIndex : Command
 {
-    /// <summary>Gets or sets the number.</summary>
+    /// <summary>Gets or sets the colour index.</summary>
     [CgmColorIndex]
     public int Index { get; set; } = 63;
 }
 
-/// <summary>The range of the components of direct colours. For RGB and CMYK, two colours bound it; for the other models
-/// each component has a factor and an offset.</summary>
+/// <summary>The range of the components of direct colours: two colours for RGB and CMYK, a scale and an offset for each
+/// component of the other colour models.</summary>
 [CgmCommand(MetaFileDescriptorElement.ColourValueExtent, "COLRVALUEEXT")]
 public sealed partial class ColourValueExtent : Command
 {
-    /// <summary>Gets or sets the components of no light, three, or four for CMYK. RGB and CMYK only.</summary>
+    /// <summary>Gets or sets the components of minimum intensity, three, or four for CMYK. RGB and CMYK only.</summary>
     public List<long> Minimum { get; set; } = [0, 0, 0];
 
-    /// <summary>Gets or sets the components of full light, as many as for no light. RGB and CMYK only.</summary>
+    /// <summary>Gets or sets the components of maximum intensity, as many as of the minimum. RGB and CMYK
+    /// only.</summary>
     public List<long> Maximum { get; set; } = [255, 255, 255];
 
-    /// <summary>Gets or sets the factors of the three components. Other models only.</summary>
+    /// <summary>Gets or sets the scales of the three components. Other models only.</summary>
     public List<double> Scales { get; set; } = [1, 1, 1];
 
     /// <summary>Gets or sets the offsets of the three components. Other models only.</summary>
@@ -71,12 +72,11 @@ public sealed partial class ColourValueExtent : Command
         [.. Enumerable.Range(0, 4).Select(i => i < values.Count ? values[i] : missing)];
 }
 
-/// <summary>What the components of direct colours stand for.</summary>
-[CgmCommand(MetaFileDescriptorElement.ColourModel, "COLRMODEL",
-    Default = "the element with its default, RGB")]
+/// <summary>The colour model of direct colours.</summary>
+[CgmCommand(MetaFileDescriptorElement.ColourModel, "COLRMODEL", Default = "the default model, RGB")]
 public sealed partial class ColourModel : Command
 {
-    /// <summary>The models of colours; numbers above 5 are kept for the register of graphical items.</summary>
+    /// <summary>The colour models; indexes above 5 are reserved for registration.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum Model
     {
@@ -103,42 +103,42 @@ public sealed partial class ColourModel : Command
     internal override void Apply(CodingState state) => state.ColorModel = Value;
 }
 
-/// <summary>How direct colours lead to CIE XYZ.</summary>
+/// <summary>The calibration of direct colours to CIE XYZ.</summary>
 [CgmCommand(MetaFileDescriptorElement.ColourCalibration, "COLRCALIB")]
 public sealed partial class ColourCalibration : Command
 {
-    /// <summary>Gets or sets what the calibration is for; 1 is the only registered one.</summary>
+    /// <summary>Gets or sets the index of the calibration selection; 1 is the only registered one.</summary>
     [CgmIndex]
     public int CalibrationSelection { get; set; } = 1;
 
-    /// <summary>Gets or sets X, Y and Z of white.</summary>
+    /// <summary>Gets or sets X, Y and Z of the reference white.</summary>
     public List<double> ReferenceWhite { get; set; } = [0.9505, 1, 1.0888];
 
-    /// <summary>Gets or sets the matrix from linear R, G, B to X, Y, Z: nine numbers, row by row.</summary>
+    /// <summary>Gets or sets the 3 × 3 matrix from linear R, G, B to X, Y, Z, row by row.</summary>
     public List<double> Matrix { get; set; } = [1, 0, 0, 0, 1, 0, 0, 0, 1];
 
-    /// <summary>Gets or sets the red components whose linear values are told.</summary>
+    /// <summary>Gets or sets the red components of the lookup table.</summary>
     public List<int> RedComponents { get; set; } = [];
 
     /// <summary>Gets or sets the linear values of the red components, 0 to 1.</summary>
     public List<double> RedValues { get; set; } = [];
 
-    /// <summary>Gets or sets the green components, as many as red ones.</summary>
+    /// <summary>Gets or sets the green components of the lookup table, as many as red ones.</summary>
     public List<int> GreenComponents { get; set; } = [];
 
     /// <summary>Gets or sets the linear values of the green components.</summary>
     public List<double> GreenValues { get; set; } = [];
 
-    /// <summary>Gets or sets the blue components, as many as red ones.</summary>
+    /// <summary>Gets or sets the blue components of the lookup table, as many as red ones.</summary>
     public List<int> BlueComponents { get; set; } = [];
 
     /// <summary>Gets or sets the linear values of the blue components.</summary>
     public List<double> BlueValues { get; set; } = [];
 
-    /// <summary>Gets or sets places in the space of cyan, magenta, yellow and black, four components each.</summary>
+    /// <summary>Gets or sets the CMYK grid locations, four components each.</summary>
     public List<int> GridLocations { get; set; } = [];
 
-    /// <summary>Gets or sets X, Y and Z of each place, three numbers each.</summary>
+    /// <summary>Gets or sets X, Y and Z of each grid location, three numbers each.</summary>
     public List<double> GridValues { get; set; } = [];
 
     internal override void Exchange(ParameterExchange x)

@@ -8,9 +8,8 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>The edition of the format that the metafile keeps to.</summary>
-[CgmCommand(MetaFileDescriptorElement.MetafileVersion, "MFVERSION",
-    Default = "the version 1")]
+/// <summary>The version of the standard that the metafile conforms to.</summary>
+[CgmCommand(MetaFileDescriptorElement.MetafileVersion, "MFVERSION", Default = "the version 1")]
 [CgmConstructor(nameof(Version))]
 public sealed partial class MetafileVersion : Command
 {
@@ -19,18 +18,17 @@ public sealed partial class MetafileVersion : Command
     public int Version { get; set; } = 1;
 }
 
-/// <summary>Free words about the metafile; profiles put their names here.</summary>
-[CgmCommand(MetaFileDescriptorElement.MetafileDescription, "MFDESC",
-    Default = "an empty description")]
+/// <summary>A description of the metafile; profiles are named here.</summary>
+[CgmCommand(MetaFileDescriptorElement.MetafileDescription, "MFDESC", Default = "an empty description")]
 [CgmConstructor(nameof(Description))]
 public sealed partial class MetafileDescription : Command
 {
-    /// <summary>Gets or sets the words.</summary>
+    /// <summary>Gets or sets the description.</summary>
     [CgmString]
     public string Description { get; set; } = "";
 }
 
-/// <summary>All elements that the metafile may have.</summary>
+/// <summary>All elements that the metafile may contain.</summary>
 [CgmCommand(MetaFileDescriptorElement.MetafileElementList, "MFELEMLIST")]
 public sealed partial class MetafileElementList : Command
 {
@@ -92,9 +90,8 @@ public sealed partial class MetafileElementList : Command
     }
 }
 
-/// <summary>Elements whose values every picture begins with.</summary>
-[CgmCommand(MetaFileDescriptorElement.MetafileDefaultsReplacement, "BEGMFDEFAULTS",
-    Default = "an empty list")]
+/// <summary>Elements that replace the defaults of all pictures.</summary>
+[CgmCommand(MetaFileDescriptorElement.MetafileDefaultsReplacement, "BEGMFDEFAULTS", Default = "an empty list")]
 public sealed partial class MetafileDefaultsReplacement : Command
 {
     /// <summary>Gets or sets the elements.</summary>
@@ -115,21 +112,21 @@ public sealed partial class MetafileDefaultsReplacement : Command
     }
 }
 
-/// <summary>A rectangle that the extents of all pictures lie in.</summary>
+/// <summary>A rectangle that encloses the VDC extents of all pictures.</summary>
 [CgmCommand(MetaFileDescriptorElement.MaximumVdcExtent, "MAXVDCEXT")]
 [CgmConstructor(nameof(FirstCorner), nameof(SecondCorner))]
 public sealed partial class MaximumVdcExtent : Command
 {
-    /// <summary>Gets or sets the lower left corner, as the picture is seen.</summary>
+    /// <summary>Gets or sets the lower left corner, as the picture is displayed.</summary>
     [CgmPoint]
     public CgmPoint FirstCorner { get; set; } = new();
 
-    /// <summary>Gets or sets the upper right corner.</summary>
+    /// <summary>Gets or sets the upper right corner, as the picture is displayed.</summary>
     [CgmPoint]
     public CgmPoint SecondCorner { get; set; } = new(32767, 32767);
 }
 
-/// <summary>The range of the priorities of segments.</summary>
+/// <summary>The range of segment priorities.</summary>
 [CgmCommand(MetaFileDescriptorElement.SegmentPriorityExtend, "SEGPRIEXT")]
 public sealed partial class SegmentPriorityExtend : Command
 {
@@ -142,29 +139,25 @@ public sealed partial class SegmentPriorityExtend : Command
     public int Maximum { get; set; } = 255;
 }
 
-/// <summary>Where the pictures begin in the file.</summary>
-[CgmCommand(MetaFileDescriptorElement.PictureDirectory, "PICDIR",
-    Default = "an empty directory")]
+/// <summary>The locations of the pictures in the file.</summary>
+[CgmCommand(MetaFileDescriptorElement.PictureDirectory, "PICDIR", Default = "an empty directory")]
 public sealed partial class PictureDirectory : Command
 {
-    /// <summary>The widths of places.</summary>
+    /// <summary>The data types of locations.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum Type
     {
-        /// <summary>8 bits.</summary>
-        [CgmKeyword("UI8")]
-        UInt8 = 0,
+        /// <summary>Unsigned 8 bits.</summary>
+        [CgmKeyword("UI8")] UInt8 = 0,
 
-        /// <summary>16 bits.</summary>
-        [CgmKeyword("UI16")]
-        UInt16 = 1,
+        /// <summary>Unsigned 16 bits.</summary>
+        [CgmKeyword("UI16")] UInt16 = 1,
 
-        /// <summary>32 bits.</summary>
-        [CgmKeyword("UI32")]
-        UInt32 = 2,
+        /// <summary>Unsigned 32 bits.</summary>
+        [CgmKeyword("UI32")] UInt32 = 2,
     }
 
-    /// <summary>Gets or sets how wide places are in binary files.</summary>
+    /// <summary>Gets or sets the data type of locations in binary files.</summary>
     [CgmEnum]
     public Type LocationType { get; set; } = Type.UInt32;
 
@@ -178,23 +171,23 @@ public sealed partial class PictureDirectory : Command
         return x.Rest(Infos, (y, info) => PDInfo.Exchange(y, info, bits));
     }
 
-    /// <summary>Where one picture begins.</summary>
+    /// <summary>The location of one picture.</summary>
     public sealed class PDInfo
     {
-        /// <summary>Creates an entry without name.</summary>
+        /// <summary>Creates an entry with an empty identifier.</summary>
         public PDInfo()
         {
         }
 
-        /// <summary>Gets or sets the name of the picture.</summary>
+        /// <summary>Gets or sets the identifier of the picture.</summary>
         public string Identifier { get; set; } = "";
 
-        /// <summary>Gets or sets where the picture begins, in bytes from the beginning of the
-        /// metafile; not negative.</summary>
+        /// <summary>Gets or sets the offset of the picture in bytes from the start of the metafile; not
+        /// negative.</summary>
         public long Location { get; set; }
 
-        /// <summary>Gets or sets where the directory of its application structures begins, in bytes from the
-        /// beginning of the metafile; 0 without one.</summary>
+        /// <summary>Gets or sets the offset of its application structure directory in bytes from the start of the
+        /// metafile; 0 without one.</summary>
         public long Directory { get; set; }
 
         /// <inheritdoc/>

@@ -6,22 +6,24 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>A bundle of attributes of lines.</summary>
+/// <summary>Defines a line bundle.</summary>
 [CgmCommand(PictureDescriptorElement.LineRepresentation, "LINEREP")]
 public sealed partial class LineRepresentation : Command
 {
-    /// <summary>Gets or sets the index of the bundle, from 1.</summary>
+    /// <summary>Gets or sets the bundle index, from 1.</summary>
     [CgmIndex]
     public int BundleIndex { get; set; } = 1;
 
-    /// <summary>Gets or sets the number of the dashes; negative ones are private or defined by the picture.</summary>
+    /// <summary>Gets or sets the index of the dash pattern; negative ones are private or defined by the
+    /// picture.</summary>
     [CgmIndex]
     public int TypeIndex { get; set; } = 1;
 
-    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    /// <summary>Gets or sets the same index as an enum member; Python can read it only where the index has a
+    /// name.</summary>
     public DashType Type { get => (DashType)TypeIndex; set => TypeIndex = (int)value; }
 
-    /// <summary>Gets or sets the width, in what the mode of the picture says.</summary>
+    /// <summary>Gets or sets the width, in the unit of the line width specification mode.</summary>
     [CgmSize(nameof(PictureCoding.LineWidthMode))]
     public double Width { get; set; } = 1;
 
@@ -30,22 +32,23 @@ public sealed partial class LineRepresentation : Command
     public CgmColor Color { get; set; } = new(1);
 }
 
-/// <summary>A bundle of attributes of markers.</summary>
+/// <summary>Defines a marker bundle.</summary>
 [CgmCommand(PictureDescriptorElement.MarkerRepresentation, "MARKERREP")]
 public sealed partial class MarkerRepresentation : Command
 {
-    /// <summary>Gets or sets the index of the bundle, from 1.</summary>
+    /// <summary>Gets or sets the bundle index, from 1.</summary>
     [CgmIndex]
     public int BundleIndex { get; set; } = 1;
 
-    /// <summary>Gets or sets the number of the shape; negative ones are private.</summary>
+    /// <summary>Gets or sets the index of the marker type; negative ones are private.</summary>
     [CgmIndex]
     public int TypeIndex { get; set; } = 3;
 
-    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    /// <summary>Gets or sets the same index as an enum member; Python can read it only where the index has a
+    /// name.</summary>
     public MarkerType.Type Type { get => (MarkerType.Type)TypeIndex; set => TypeIndex = (int)value; }
 
-    /// <summary>Gets or sets the size, in what the mode of the picture says.</summary>
+    /// <summary>Gets or sets the size, in the unit of the marker size specification mode.</summary>
     [CgmSize(nameof(PictureCoding.MarkerSizeMode))]
     public double Size { get; set; } = 1;
 
@@ -54,27 +57,27 @@ public sealed partial class MarkerRepresentation : Command
     public CgmColor Color { get; set; } = new(1);
 }
 
-/// <summary>A bundle of attributes of texts.</summary>
+/// <summary>Defines a text bundle.</summary>
 [CgmCommand(PictureDescriptorElement.TextRepresentation, "TEXTREP")]
 public sealed partial class TextRepresentation : Command
 {
-    /// <summary>Gets or sets the index of the bundle, from 1.</summary>
+    /// <summary>Gets or sets the bundle index, from 1.</summary>
     [CgmIndex]
     public int BundleIndex { get; set; } = 1;
 
-    /// <summary>Gets or sets the place of the font in the font list, from 1.</summary>
+    /// <summary>Gets or sets the index of the font in the font list, from 1.</summary>
     [CgmIndex]
     public int FontIndex { get; set; } = 1;
 
-    /// <summary>Gets or sets how exactly texts are placed.</summary>
+    /// <summary>Gets or sets the text precision.</summary>
     [CgmEnum]
     public TextPrecisionType Precision { get; set; }
 
-    /// <summary>Gets or sets the gap between characters, in parts of their height.</summary>
+    /// <summary>Gets or sets the character spacing as a fraction of the character height.</summary>
     [CgmReal]
     public double Spacing { get; set; }
 
-    /// <summary>Gets or sets how much wider characters are than the font has them.</summary>
+    /// <summary>Gets or sets the ratio of the character width to that of the font.</summary>
     [CgmReal]
     public double ExpansionFactor { get; set; } = 1;
 
@@ -83,15 +86,15 @@ public sealed partial class TextRepresentation : Command
     public CgmColor Color { get; set; } = new(1);
 }
 
-/// <summary>A bundle of attributes of areas.</summary>
+/// <summary>Defines a fill bundle.</summary>
 [CgmCommand(PictureDescriptorElement.FillRepresentation, "FILLREP")]
 public sealed partial class FillRepresentation : Command
 {
-    /// <summary>Gets or sets the index of the bundle, from 1.</summary>
+    /// <summary>Gets or sets the bundle index, from 1.</summary>
     [CgmIndex]
     public int BundleIndex { get; set; } = 1;
 
-    /// <summary>Gets or sets how areas are filled.</summary>
+    /// <summary>Gets or sets the interior style.</summary>
     [CgmEnum]
     public InteriorStyle.Style Style { get; set; }
 
@@ -99,35 +102,37 @@ public sealed partial class FillRepresentation : Command
     [CgmColor]
     public CgmColor Color { get; set; } = new(1);
 
-    /// <summary>Gets or sets the number of the hatch; negative ones are private or defined by the
-    /// picture.</summary>
+    /// <summary>Gets or sets the hatch index; negative ones are private or defined by the picture.</summary>
     [CgmIndex]
     public int HatchNumber { get; set; } = 1;
 
-    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    /// <summary>Gets or sets the same index as an enum member; Python can read it only where the index has a
+    /// name.</summary>
     public HatchIndex.HatchType Hatch { get => (HatchIndex.HatchType)HatchNumber; set => HatchNumber = (int)value; }
 
-    /// <summary>Gets or sets the index of the pattern, from 1.</summary>
+    /// <summary>Gets or sets the pattern index, from 1.</summary>
     [CgmIndex]
     public int PatternIndex { get; set; } = 1;
 }
 
-/// <summary>A bundle of attributes of edges.</summary>
+/// <summary>Defines an edge bundle.</summary>
 [CgmCommand(PictureDescriptorElement.EdgeRepresentation, "EDGEREP")]
 public sealed partial class EdgeRepresentation : Command
 {
-    /// <summary>Gets or sets the index of the bundle, from 1.</summary>
+    /// <summary>Gets or sets the bundle index, from 1.</summary>
     [CgmIndex]
     public int BundleIndex { get; set; } = 1;
 
-    /// <summary>Gets or sets the number of the dashes; negative ones are private or defined by the picture.</summary>
+    /// <summary>Gets or sets the index of the dash pattern; negative ones are private or defined by the
+    /// picture.</summary>
     [CgmIndex]
     public int TypeIndex { get; set; } = 1;
 
-    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    /// <summary>Gets or sets the same index as an enum member; Python can read it only where the index has a
+    /// name.</summary>
     public DashType Type { get => (DashType)TypeIndex; set => TypeIndex = (int)value; }
 
-    /// <summary>Gets or sets the width, in what the mode of the picture says.</summary>
+    /// <summary>Gets or sets the width, in the unit of the edge width specification mode.</summary>
     [CgmSize(nameof(PictureCoding.EdgeWidthMode))]
     public double Width { get; set; } = 1;
 
@@ -136,15 +141,15 @@ public sealed partial class EdgeRepresentation : Command
     public CgmColor Color { get; set; } = new(1);
 }
 
-/// <summary>Dashes of an own kind.</summary>
+/// <summary>Defines a dash pattern.</summary>
 [CgmCommand(PictureDescriptorElement.LineAndEdgeTypeDefinition, "LINEEDGETYPEDEF")]
 public sealed partial class LineAndEdgeTypeDefinition : Command
 {
-    /// <summary>Gets or sets the number that lines and edges call the dashes by; negative.</summary>
+    /// <summary>Gets or sets the line and edge type index of the pattern; negative.</summary>
     [CgmIndex]
     public int TypeIndex { get; set; } = -1;
 
-    /// <summary>Gets or sets the length after which the dashes repeat, as widths of lines are told.</summary>
+    /// <summary>Gets or sets the length of the pattern, in the unit of the line width specification mode.</summary>
     [CgmSize(nameof(PictureCoding.LineWidthMode))]
     public double RepeatLength { get; set; } = 1;
 
@@ -153,48 +158,47 @@ public sealed partial class LineAndEdgeTypeDefinition : Command
     public List<int> Elements { get; set; } = [1, 1];
 }
 
-/// <summary>A hatch of an own kind: lines in one or two directions, with gaps between them.</summary>
+/// <summary>Defines a hatch: lines in one or two directions, with gaps between them.</summary>
 [CgmCommand(PictureDescriptorElement.HatchStyleDefinition, "HATCHSTYLEDEF")]
 public sealed partial class HatchStyleDefinition : Command
 {
-    /// <summary>The kinds of hatches.</summary>
+    /// <summary>The styles of hatches.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum HatchStyle
     {
-        /// <summary>Lines in one direction.</summary>
-        [CgmKeyword("PARALLEL")]
-        Parallel = 0,
+        /// <summary>Parallel lines.</summary>
+        [CgmKeyword("PARALLEL")] Parallel = 0,
 
         /// <summary>Lines in two directions.</summary>
-        [CgmKeyword("CROSSHATCH")]
-        CrossHatch = 1,
+        [CgmKeyword("CROSSHATCH")] CrossHatch = 1,
     }
 
-    /// <summary>Gets or sets the number that areas call the hatch by; negative.</summary>
+    /// <summary>Gets or sets the hatch index; negative.</summary>
     [CgmIndex]
     public int HatchNumber { get; set; } = -1;
 
-    /// <summary>Gets or sets whether there are two directions.</summary>
+    /// <summary>Gets or sets the style.</summary>
     [CgmEnum]
     public HatchStyle Style { get; set; }
 
-    /// <summary>Gets or sets the abscissa of the first direction.</summary>
+    /// <summary>Gets or sets the X component of the first direction.</summary>
     [CgmSize(nameof(PictureCoding.InteriorStyleMode))]
     public double FirstDirectionX { get; set; } = 1;
 
-    /// <summary>Gets or sets the ordinate of the first direction.</summary>
+    /// <summary>Gets or sets the Y component of the first direction.</summary>
     [CgmSize(nameof(PictureCoding.InteriorStyleMode))]
     public double FirstDirectionY { get; set; }
 
-    /// <summary>Gets or sets the abscissa of the second direction.</summary>
+    /// <summary>Gets or sets the X component of the second direction.</summary>
     [CgmSize(nameof(PictureCoding.InteriorStyleMode))]
     public double SecondDirectionX { get; set; }
 
-    /// <summary>Gets or sets the ordinate of the second direction.</summary>
+    /// <summary>Gets or sets the Y component of the second direction.</summary>
     [CgmSize(nameof(PictureCoding.InteriorStyleMode))]
     public double SecondDirectionY { get; set; } = 1;
 
-    /// <summary>Gets or sets the distance after which the lines repeat, as the mode of interiors says.</summary>
+    /// <summary>Gets or sets the distance after which the lines repeat, in the unit of the interior style specification
+    /// mode.</summary>
     [CgmSize(nameof(PictureCoding.InteriorStyleMode))]
     public double CycleLength { get; set; } = 1;
 
@@ -202,16 +206,16 @@ public sealed partial class HatchStyleDefinition : Command
     [CgmInteger(Counted = true)]
     public List<int> GapWidths { get; set; } = [1];
 
-    /// <summary>Gets or sets the numbers of the dashes of the lines, as many as gaps.</summary>
+    /// <summary>Gets or sets the line types, as many as gaps.</summary>
     [CgmIndex(Count = "GapWidths.Count")]
     public List<int> LineTypes { get; set; } = [1];
 }
 
-/// <summary>A pattern that is drawn by a segment.</summary>
+/// <summary>Defines a geometric pattern, drawn by a segment.</summary>
 [CgmCommand(PictureDescriptorElement.GeometricPatternDefinition, "GEOPATDEF")]
 public sealed partial class GeometricPatternDefinition : Command
 {
-    /// <summary>Gets or sets the index that areas call the pattern by, from 1.</summary>
+    /// <summary>Gets or sets the pattern index, from 1.</summary>
     [CgmIndex]
     public int PatternIndex { get; set; } = 1;
 
@@ -219,11 +223,11 @@ public sealed partial class GeometricPatternDefinition : Command
     [CgmName]
     public int SegmentIdentifier { get; set; }
 
-    /// <summary>Gets or sets a corner of the part of the segment that is one piece of the pattern.</summary>
+    /// <summary>Gets or sets a corner of the rectangle of the segment that is one repeat of the pattern.</summary>
     [CgmPoint]
     public CgmPoint FirstCorner { get; set; } = new();
 
-    /// <summary>Gets or sets the corner opposite to it.</summary>
+    /// <summary>Gets or sets the opposite corner.</summary>
     [CgmPoint]
     public CgmPoint SecondCorner { get; set; } = new(1, 1);
 }

@@ -4,7 +4,7 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>Draws a segment here.</summary>
+/// <summary>Draws a copy of a segment.</summary>
 [CgmCommand(SegmentControlElement.CopySegment, "COPYSEG")]
 public sealed partial class CopySegment : Command
 {
@@ -12,27 +12,27 @@ public sealed partial class CopySegment : Command
     [CgmName]
     public int SegmentIdentifier { get; set; }
 
-    /// <summary>Gets or sets how much of X goes into X.</summary>
+    /// <summary>Gets or sets the element a11 of the transformation matrix, from X to X.</summary>
     [CgmReal]
     public double ScaleX { get; set; } = 1;
 
-    /// <summary>Gets or sets how much of Y goes into X.</summary>
+    /// <summary>Gets or sets the element a12 of the transformation matrix, from Y to X.</summary>
     [CgmReal]
     public double ShearX { get; set; }
 
-    /// <summary>Gets or sets how much of X goes into Y.</summary>
+    /// <summary>Gets or sets the element a21 of the transformation matrix, from X to Y.</summary>
     [CgmReal]
     public double ShearY { get; set; }
 
-    /// <summary>Gets or sets how much of Y goes into Y.</summary>
+    /// <summary>Gets or sets the element a22 of the transformation matrix, from Y to Y.</summary>
     [CgmReal]
     public double ScaleY { get; set; } = 1;
 
-    /// <summary>Gets or sets the way along X, in units of the coordinates.</summary>
+    /// <summary>Gets or sets the translation along X, in VDC.</summary>
     [CgmVdc]
     public double TranslationX { get; set; }
 
-    /// <summary>Gets or sets the way along Y.</summary>
+    /// <summary>Gets or sets the translation along Y, in VDC.</summary>
     [CgmVdc]
     public double TranslationY { get; set; }
 
@@ -41,29 +41,27 @@ public sealed partial class CopySegment : Command
     public bool AppliesSegmentTransformation { get; set; }
 }
 
-/// <summary>Which clip rectangle holds inside a copied segment.</summary>
+/// <summary>The clip region inside a copied segment.</summary>
 [CgmCommand(SegmentControlElement.ClipInheritance, "CLIPINH")]
 public sealed partial class ClipInheritance : Command
 {
-    /// <summary>The clip rectangles.</summary>
+    /// <summary>The clip regions.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum Value
     {
-        /// <summary>That of the place where it is copied.</summary>
-        [CgmKeyword("STLIST")]
-        StateList = 0,
+        /// <summary>The clip region where the segment is copied.</summary>
+        [CgmKeyword("STLIST")] StateList = 0,
 
-        /// <summary>The common part of that one and of the segment's own.</summary>
-        [CgmKeyword("INTERSECTION")]
-        Intersection = 1,
+        /// <summary>The intersection of that one with the clip region of the segment.</summary>
+        [CgmKeyword("INTERSECTION")] Intersection = 1,
     }
 
-    /// <summary>Gets or sets which.</summary>
+    /// <summary>Gets or sets the clip region.</summary>
     [CgmEnum]
     public Value Inheritance { get; set; }
 }
 
-/// <summary>How a segment is moved, turned and scaled.</summary>
+/// <summary>The transformation of a segment.</summary>
 [CgmCommand(SegmentControlElement.SegmentTransformation, "SEGTRAN")]
 public sealed partial class SegmentTransformation : Command
 {
@@ -71,58 +69,56 @@ public sealed partial class SegmentTransformation : Command
     [CgmName]
     public int SegmentIdentifier { get; set; }
 
-    /// <summary>Gets or sets how much of X goes into X.</summary>
+    /// <summary>Gets or sets the element a11 of the transformation matrix, from X to X.</summary>
     [CgmReal]
     public double ScaleX { get; set; } = 1;
 
-    /// <summary>Gets or sets how much of Y goes into X.</summary>
+    /// <summary>Gets or sets the element a12 of the transformation matrix, from Y to X.</summary>
     [CgmReal]
     public double ShearX { get; set; }
 
-    /// <summary>Gets or sets how much of X goes into Y.</summary>
+    /// <summary>Gets or sets the element a21 of the transformation matrix, from X to Y.</summary>
     [CgmReal]
     public double ShearY { get; set; }
 
-    /// <summary>Gets or sets how much of Y goes into Y.</summary>
+    /// <summary>Gets or sets the element a22 of the transformation matrix, from Y to Y.</summary>
     [CgmReal]
     public double ScaleY { get; set; } = 1;
 
-    /// <summary>Gets or sets the way along X, in units of the coordinates.</summary>
+    /// <summary>Gets or sets the translation along X, in VDC.</summary>
     [CgmVdc]
     public double TranslationX { get; set; }
 
-    /// <summary>Gets or sets the way along Y.</summary>
+    /// <summary>Gets or sets the translation along Y, in VDC.</summary>
     [CgmVdc]
     public double TranslationY { get; set; }
 }
 
-/// <summary>Whether a segment is made to stand out.</summary>
+/// <summary>Whether a segment is highlighted.</summary>
 [CgmCommand(SegmentControlElement.SegmentHighlighting, "SEGHIGHL")]
 public sealed partial class SegmentHighlighting : Command
 {
-    /// <summary>Whether a segment stands out.</summary>
+    /// <summary>The states of highlighting.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum Highlighting
     {
-        /// <summary>It looks as usual.</summary>
-        [CgmKeyword("NORMAL")]
-        Normal = 0,
+        /// <summary>Not highlighted.</summary>
+        [CgmKeyword("NORMAL")] Normal = 0,
 
-        /// <summary>It stands out.</summary>
-        [CgmKeyword("HIGHL")]
-        Highlighted = 1,
+        /// <summary>Highlighted.</summary>
+        [CgmKeyword("HIGHL")] Highlighted = 1,
     }
 
     /// <summary>Gets or sets the name of the segment.</summary>
     [CgmName]
     public int SegmentIdentifier { get; set; }
 
-    /// <summary>Gets or sets whether it is.</summary>
+    /// <summary>Gets or sets the state.</summary>
     [CgmEnum]
     public Highlighting State { get; set; }
 }
 
-/// <summary>Which segments are drawn over others.</summary>
+/// <summary>The display priority of a segment.</summary>
 [CgmCommand(SegmentControlElement.SegmentDisplayPriority, "SEGDISPPRI")]
 public sealed partial class SegmentDisplayPriority : Command
 {
@@ -130,12 +126,12 @@ public sealed partial class SegmentDisplayPriority : Command
     [CgmName]
     public int SegmentIdentifier { get; set; }
 
-    /// <summary>Gets or sets the priority; larger ones are drawn over smaller ones.</summary>
+    /// <summary>Gets or sets the priority; segments of larger ones are drawn over others.</summary>
     [CgmInteger]
     public int Priority { get; set; }
 }
 
-/// <summary>Which of overlapping segments a person picks.</summary>
+/// <summary>The pick priority of a segment.</summary>
 [CgmCommand(SegmentControlElement.SegmentPickPriority, "SEGPICKPRI")]
 public sealed partial class SegmentPickPriority : Command
 {
@@ -143,7 +139,7 @@ public sealed partial class SegmentPickPriority : Command
     [CgmName]
     public int SegmentIdentifier { get; set; }
 
-    /// <summary>Gets or sets the priority; the largest one is picked.</summary>
+    /// <summary>Gets or sets the priority; of overlapping segments the one of the largest is picked.</summary>
     [CgmInteger]
     public int Priority { get; set; }
 }

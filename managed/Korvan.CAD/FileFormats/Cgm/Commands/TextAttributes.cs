@@ -5,24 +5,24 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>Which bundle of attributes texts take.</summary>
+/// <summary>The text bundle index.</summary>
 [CgmCommand(AttributeElement.TextBundleIndex, "TEXTINDEX")]
 public sealed partial class TextBundleIndex : GenericIndexCommand;
 
-/// <summary>The font of texts, by its place in the font list.</summary>
+/// <summary>The index of the text font in the font list.</summary>
 [CgmCommand(AttributeElement.TextFontIndex, "TEXTFONTINDEX")]
 public sealed partial class TextFontIndex : GenericIndexCommand;
 
-/// <summary>How exactly texts are placed.</summary>
+/// <summary>The text precision, how exactly text is placed.</summary>
 [CgmCommand(AttributeElement.TextPrecision, "TEXTPREC")]
 public sealed partial class TextPrecision : Command
 {
-    /// <summary>Gets or sets how exactly.</summary>
+    /// <summary>Gets or sets the precision.</summary>
     [CgmEnum]
     public TextPrecisionType Value { get; set; }
 }
 
-/// <summary>How much wider characters are than the font has them.</summary>
+/// <summary>The ratio of the character width to that of the font.</summary>
 [CgmCommand(AttributeElement.CharacterExpansionFactor, "CHAREXPAN")]
 public sealed partial class CharacterExpansionFactor : Command
 {
@@ -31,51 +31,49 @@ public sealed partial class CharacterExpansionFactor : Command
     public double Factor { get; set; } = 1;
 }
 
-/// <summary>The gap between characters beyond that of the font.</summary>
+/// <summary>The spacing between characters in addition to that of the font.</summary>
 [CgmCommand(AttributeElement.CharacterSpacing, "CHARSPACE")]
 public sealed partial class CharacterSpacing : Command
 {
-    /// <summary>Gets or sets the gap, in parts of the height of characters.</summary>
+    /// <summary>Gets or sets the spacing as a fraction of the character height.</summary>
     [CgmReal]
     public double Spacing { get; set; }
 }
 
-/// <summary>The colour of texts.</summary>
-[CgmCommand(AttributeElement.TextColour, "TEXTCOLR",
-    Default = "the number 1 of the colour table")]
+/// <summary>The text colour.</summary>
+[CgmCommand(AttributeElement.TextColour, "TEXTCOLR", Default = "the colour index 1")]
 [CgmConstructor(nameof(Color))]
 public sealed partial class TextColour : ColourCommand;
 
-/// <summary>The height of capital letters.</summary>
+/// <summary>The character height, from the base line to the cap line.</summary>
 [CgmCommand(AttributeElement.CharacterHeight, "CHARHEIGHT",
-    Default = "a hundredth of the default extent")]
+    Default = "a height of 327, a hundredth of the default VDC extent")]
 [CgmConstructor(nameof(Height))]
 public sealed partial class CharacterHeight : Command
 {
-    /// <summary>Gets or sets the height, in units of the coordinates, not negative.</summary>
+    /// <summary>Gets or sets the height, in VDC, not negative.</summary>
     [CgmVdc]
     public double Height { get; set; } = 327;
 }
 
-/// <summary>Where characters have their top and their base line; the lengths of both vectors tell the ratio of height
-/// and width.</summary>
-[CgmCommand(AttributeElement.CharacterOrientation, "CHARORI",
-    Default = "upright")]
+/// <summary>The orientation of characters by an up vector and a base vector, whose lengths give the aspect
+/// ratio.</summary>
+[CgmCommand(AttributeElement.CharacterOrientation, "CHARORI", Default = "an upright orientation")]
 public sealed partial class CharacterOrientation : Command
 {
-    /// <summary>Gets or sets the abscissa of the direction up.</summary>
+    /// <summary>Gets or sets the X component of the up vector.</summary>
     [CgmVdc]
     public double UpX { get; set; }
 
-    /// <summary>Gets or sets the ordinate of the direction up.</summary>
+    /// <summary>Gets or sets the Y component of the up vector.</summary>
     [CgmVdc]
     public double UpY { get; set; } = 1;
 
-    /// <summary>Gets or sets the abscissa of the direction of the base line.</summary>
+    /// <summary>Gets or sets the X component of the base vector.</summary>
     [CgmVdc]
     public double BaseX { get; set; } = 1;
 
-    /// <summary>Gets or sets the ordinate of the direction of the base line.</summary>
+    /// <summary>Gets or sets the Y component of the base vector.</summary>
     [CgmVdc]
     public double BaseY { get; set; }
 }
@@ -89,140 +87,125 @@ public sealed partial class TextPath : Command
     public enum Type
     {
         /// <summary>To the right.</summary>
-        [CgmKeyword("RIGHT")]
-        Right = 0,
+        [CgmKeyword("RIGHT")] Right = 0,
 
         /// <summary>To the left.</summary>
-        [CgmKeyword("LEFT")]
-        Left = 1,
+        [CgmKeyword("LEFT")] Left = 1,
 
         /// <summary>Up.</summary>
-        [CgmKeyword("UP")]
-        Up = 2,
+        [CgmKeyword("UP")] Up = 2,
 
         /// <summary>Down.</summary>
-        [CgmKeyword("DOWN")]
-        Down = 3,
+        [CgmKeyword("DOWN")] Down = 3,
     }
 
-    /// <summary>Gets or sets the direction, seen from upright characters.</summary>
+    /// <summary>Gets or sets the direction, relative to the character orientation.</summary>
     [CgmEnum]
     public Type Value { get; set; }
 }
 
-/// <summary>Which point of a text lies at its position.</summary>
+/// <summary>The point of the text extent that lies at the text position.</summary>
 [CgmCommand(AttributeElement.TextAlignment, "TEXTALIGN")]
 public sealed partial class TextAlignment : Command
 {
-    /// <summary>The alignments along a text.</summary>
+    /// <summary>The horizontal alignments.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum HorizontalAlignmentType
     {
-        /// <summary>As the path has it.</summary>
-        [CgmKeyword("NORMHORIZ")]
-        Normal = 0,
+        /// <summary>The default of the text path.</summary>
+        [CgmKeyword("NORMHORIZ")] Normal = 0,
 
         /// <summary>The left end.</summary>
-        [CgmKeyword("LEFT")]
-        Left = 1,
+        [CgmKeyword("LEFT")] Left = 1,
 
-        /// <summary>The middle.</summary>
-        [CgmKeyword("CTR")]
-        Centre = 2,
+        /// <summary>The centre.</summary>
+        [CgmKeyword("CTR")] Centre = 2,
 
         /// <summary>The right end.</summary>
-        [CgmKeyword("RIGHT")]
-        Right = 3,
+        [CgmKeyword("RIGHT")] Right = 3,
 
-        /// <summary>A part of the width.</summary>
-        [CgmKeyword("CONTHORIZ")]
-        Continuous = 4,
+        /// <summary>A fraction of the width.</summary>
+        [CgmKeyword("CONTHORIZ")] Continuous = 4,
     }
 
-    /// <summary>The alignments across a text.</summary>
+    /// <summary>The vertical alignments.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum VerticalAlignmentType
     {
-        /// <summary>As the path has it.</summary>
-        [CgmKeyword("NORMVERT")]
-        Normal = 0,
+        /// <summary>The default of the text path.</summary>
+        [CgmKeyword("NORMVERT")] Normal = 0,
 
-        /// <summary>The top of the highest character.</summary>
-        [CgmKeyword("TOP")]
-        Top = 1,
+        /// <summary>The top line, of the highest glyph.</summary>
+        [CgmKeyword("TOP")] Top = 1,
 
-        /// <summary>The top of capital letters.</summary>
-        [CgmKeyword("CAP")]
-        Cap = 2,
+        /// <summary>The cap line.</summary>
+        [CgmKeyword("CAP")] Cap = 2,
 
-        /// <summary>The middle of capital letters.</summary>
-        [CgmKeyword("HALF")]
-        Half = 3,
+        /// <summary>The half line, between cap line and base line.</summary>
+        [CgmKeyword("HALF")] Half = 3,
 
         /// <summary>The base line.</summary>
-        [CgmKeyword("BASE")]
-        Base = 4,
+        [CgmKeyword("BASE")] Base = 4,
 
-        /// <summary>The bottom of the lowest character.</summary>
-        [CgmKeyword("BOTTOM")]
-        Bottom = 5,
+        /// <summary>The bottom line, of the lowest glyph.</summary>
+        [CgmKeyword("BOTTOM")] Bottom = 5,
 
-        /// <summary>A part of the height.</summary>
-        [CgmKeyword("CONTVERT")]
-        Continuous = 6,
+        /// <summary>A fraction of the height.</summary>
+        [CgmKeyword("CONTVERT")] Continuous = 6,
     }
 
-    /// <summary>Gets or sets the alignment along the text.</summary>
+    /// <summary>Gets or sets the horizontal alignment.</summary>
     [CgmEnum]
     public HorizontalAlignmentType Horizontal { get; set; }
 
-    /// <summary>Gets or sets the alignment across the text.</summary>
+    /// <summary>Gets or sets the vertical alignment.</summary>
     [CgmEnum]
     public VerticalAlignmentType Vertical { get; set; }
 
-    /// <summary>Gets or sets the part of the width that lies left of the position; for continuous alignment.</summary>
+    /// <summary>Gets or sets the fraction of the width that lies left of the position; for continuous
+    /// alignment.</summary>
     [CgmReal]
     public double ContinuousHorizontal { get; set; }
 
-    /// <summary>Gets or sets the part of the height that lies below the position; for continuous alignment.</summary>
+    /// <summary>Gets or sets the fraction of the height that lies below the position; for continuous
+    /// alignment.</summary>
     [CgmReal]
     public double ContinuousVertical { get; set; }
 }
 
-/// <summary>The set of the characters of texts, by its place in the list of sets.</summary>
+/// <summary>The index of the character set in the character set list.</summary>
 [CgmCommand(AttributeElement.CharacterSetIndex, "CHARSETINDEX")]
 public sealed partial class CharacterSetIndex : GenericIndexCommand
 {
     internal override void Apply(CodingState state) => state.Current.CharacterSet = Index;
 }
 
-/// <summary>The set of characters with the eighth bit, by its place in the list of sets.</summary>
+/// <summary>The index of the character set for codes with the eighth bit set.</summary>
 [CgmCommand(AttributeElement.AlternateCharacterSetIndex, "ALTCHARSETINDEX")]
 public sealed partial class AlternateCharacterSetIndex : GenericIndexCommand
 {
     internal override void Apply(CodingState state) => state.Current.AlternateCharacterSet = Index;
 }
 
-/// <summary>The lines at texts, such as an underline.</summary>
-[CgmCommand(AttributeElement.TextScoreType, "TEXTSCORETYPE",
-    Default = "the element without lines")]
+/// <summary>The score lines of text, such as an underline.</summary>
+[CgmCommand(AttributeElement.TextScoreType, "TEXTSCORETYPE", Default = "the element without lines")]
 public sealed partial class TextScoreType : Command
 {
-    /// <summary>Gets or sets the lines that are turned on or off.</summary>
+    /// <summary>Gets or sets the score lines that are turned on or off.</summary>
     [CgmGroups]
     public List<TSInfo> Infos { get; set; } = [];
 
-    /// <summary>One line at texts.</summary>
+    /// <summary>One score line.</summary>
     [CgmGroup]
     public sealed partial class TSInfo
     {
-        /// <summary>Creates an underline that is off.</summary>
+        /// <summary>Creates a score line of type 1 that is off.</summary>
         public TSInfo()
         {
         }
 
-        /// <summary>Gets or sets where the line is: 1 to the right of the text, 2 to its left, 3 through it, 4 marks at
-        /// each character; negative numbers are private.</summary>
+        /// <summary>Gets or sets the type of the score line: 1 right of the text, 2 left of it, 3 through it, 4 marks
+        /// at each character; negative ones are private.</summary>
         [CgmIndex]
         public int Type { get; set; } = 1;
 
@@ -232,37 +215,38 @@ public sealed partial class TextScoreType : Command
     }
 }
 
-/// <summary>How restricted texts are fitted into their parallelogram.</summary>
+/// <summary>How restricted text is fitted into its parallelogram.</summary>
 [CgmCommand(AttributeElement.RestrictedTextType, "RESTRTEXTTYPE")]
 public sealed partial class RestrictedTextType : Command
 {
-    /// <summary>The ways to fit.</summary>
+    /// <summary>The standard types of restricted text.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum Type
     {
-        /// <summary>As the program that draws likes it.</summary>
+        /// <summary>Left to the interpreter.</summary>
         Basic = 1,
 
-        /// <summary>Width and the height of capital letters fill it.</summary>
+        /// <summary>The text width and the cap height fill the parallelogram.</summary>
         BoxedCap = 2,
 
-        /// <summary>Width and the height of all letters fill it.</summary>
+        /// <summary>The text width and the full height of the text fill the parallelogram.</summary>
         BoxedAll = 3,
 
-        /// <summary>As boxed by capital letters, but the shape is kept.</summary>
+        /// <summary>As boxed cap, with the aspect ratio kept.</summary>
         IsotropicCap = 4,
 
-        /// <summary>As boxed by all letters, but the shape is kept.</summary>
+        /// <summary>As boxed all, with the aspect ratio kept.</summary>
         IsotropicAll = 5,
 
         /// <summary>Spaces are widened.</summary>
         Justified = 6,
     }
 
-    /// <summary>Gets or sets the number of the way to fit; negative ones are private.</summary>
+    /// <summary>Gets or sets the index of the type; negative ones are private.</summary>
     [CgmIndex]
     public int Index { get; set; } = 1;
 
-    /// <summary>Gets or sets the same number by its name; Python can read this only where there is one.</summary>
+    /// <summary>Gets or sets the same index as an enum member; Python can read it only where the index has a
+    /// name.</summary>
     public Type Value { get => (Type)Index; set => Index = (int)value; }
 }

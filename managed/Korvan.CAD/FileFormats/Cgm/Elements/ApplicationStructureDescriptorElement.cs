@@ -2,7 +2,8 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Elements;
 
-/// <summary>Attributes of application structures. The numbers are those of binary files (ISO/IEC 8632-3, clause 8).</summary>
+/// <summary>The application structure descriptor elements, by their numbers in binary files (ISO/IEC 8632-3, clause
+/// 8).</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ApplicationStructureDescriptorElement
 {
@@ -10,5 +11,5 @@ public enum ApplicationStructureDescriptorElement
     ApplicationStructureAttribute = 1,
 }
 
-/// <summary>Attributes of application structures.</summary>
+/// <summary>The commands and keywords of application structure descriptor elements.</summary>
 public static partial class ApplicationStructureDescriptorElements;

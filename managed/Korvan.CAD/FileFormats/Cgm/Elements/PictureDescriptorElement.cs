@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Elements;
 
-/// <summary>What holds for a whole picture. The numbers are those of binary files (ISO/IEC 8632-3, clause 8).</summary>
+/// <summary>The picture descriptor elements, by their numbers in binary files (ISO/IEC 8632-3, clause 8).</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum PictureDescriptorElement
 {
@@ -67,5 +67,5 @@ public enum PictureDescriptorElement
     ApplicationStructureDirectory = 20,
 }
 
-/// <summary>What holds for a whole picture.</summary>
+/// <summary>The commands and keywords of picture descriptor elements.</summary>
 public static partial class PictureDescriptorElements;

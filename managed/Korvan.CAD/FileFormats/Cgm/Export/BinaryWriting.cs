@@ -63,13 +63,15 @@ internal sealed class BinaryWriting(DefaultBinaryWriter writer, CodingState stat
 
     internal override long ColorComponent(long value) => Put(value, writer.WriteColorComponent);
 
-    internal override string String(string? value) => Put(Needed(value, "a text"), writer.WriteString);
+    internal override string String(string? value) => Put(Needed(value, "a string"), writer.WriteString);
 
     internal override byte[] Data(byte[]? value) => Put(Needed(value, "data"), writer.WriteData);
 
-    internal override StructuredDataRecord Record(StructuredDataRecord? value) => Put(Needed(value, "a record"), writer.WriteStructuredData);
+    internal override StructuredDataRecord Record(StructuredDataRecord? value) =>
+        Put(Needed(value, "a record"), writer.WriteStructuredData);
 
-    internal override VC ViewportCoordinate(VC? value) => Put(Needed(value, "a coordinate"), writer.WriteViewportCoordinate);
+    internal override VC ViewportCoordinate(VC? value) =>
+        Put(Needed(value, "a coordinate"), writer.WriteViewportCoordinate);
 
     internal override byte[] Bits(byte[]? value) => Put(Needed(value, "bits"), writer.WriteBytes);
 

@@ -60,11 +60,12 @@ internal sealed class ClearTextWriting(DefaultClearTextWriter writer, CodingStat
 
     internal override long ColorComponent(long value) => Unsigned(value, 32);
 
-    internal override string String(string? value) => Put(Needed(value, "a text"), writer.WriteString);
+    internal override string String(string? value) => Put(Needed(value, "a string"), writer.WriteString);
 
     internal override byte[] Data(byte[]? value) => Put(Needed(value, "data"), writer.WriteData);
 
-    internal override StructuredDataRecord Record(StructuredDataRecord? value) => Put(Needed(value, "a record"), writer.WriteStructuredData);
+    internal override StructuredDataRecord Record(StructuredDataRecord? value) =>
+        Put(Needed(value, "a record"), writer.WriteStructuredData);
 
     internal override VC ViewportCoordinate(VC? value)
     {
@@ -83,7 +84,7 @@ internal sealed class ClearTextWriting(DefaultClearTextWriter writer, CodingStat
     internal override long Unsigned(long value, int bits)
     {
         NumberRange.Verify(value, NumberRange.Unsigned(bits), bits);
-        Word(value);
+        WriteNumber(value);
         return value;
     }
 
@@ -98,9 +99,9 @@ internal sealed class ClearTextWriting(DefaultClearTextWriter writer, CodingStat
         byte[] bits = Needed(value, "bits");
         for (int i = 0; i < bits.Length; i += 2)
         {
-            // Numbers of 16 bits each; the last is filled up.
-            int word = (bits[i] << 8) | (i + 1 < bits.Length ? bits[i + 1] : 0);
-            writer.WriteWord($"16#{word:X4}");
+            // Integers of 16 bits each; the last is padded.
+            int group = (bits[i] << 8) | (i + 1 < bits.Length ? bits[i + 1] : 0);
+            writer.WriteWord($"16#{group:X4}");
         }
 
         return bits;
@@ -109,8 +110,8 @@ internal sealed class ClearTextWriting(DefaultClearTextWriter writer, CodingStat
     protected override int SignedRange(int value)
     {
         (long lowest, long highest) = NumberRange.Signed(value);
-        Word(lowest);
-        Word(highest);
+        WriteNumber(lowest);
+        WriteNumber(highest);
         return value;
     }
 
@@ -118,7 +119,7 @@ internal sealed class ClearTextWriting(DefaultClearTextWriter writer, CodingStat
 
     protected override int LocalRange(int value)
     {
-        Word(NumberRange.Unsigned(value).Highest);
+        WriteNumber(NumberRange.Unsigned(value).Highest);
         return value;
     }
 
@@ -180,5 +181,5 @@ internal sealed class ClearTextWriting(DefaultClearTextWriter writer, CodingStat
         return value;
     }
 
-    private void Word(long value) => writer.WriteWord(value.ToString(CultureInfo.InvariantCulture));
+    private void WriteNumber(long value) => writer.WriteWord(value.ToString(CultureInfo.InvariantCulture));
 }

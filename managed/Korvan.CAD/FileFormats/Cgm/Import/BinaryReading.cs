@@ -5,7 +5,7 @@ using Korvan.CAD.FileFormats.Cgm.Coding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Import;
 
-/// <summary>Fills commands from the parameters that a binary reader gives.</summary>
+/// <summary>Fills commands from the parameters of a binary reader.</summary>
 internal sealed class BinaryReading(DefaultBinaryReader reader, CodingState state) : ParameterExchange(state)
 {
     internal override bool IsReading => true;
@@ -68,7 +68,8 @@ internal sealed class BinaryReading(DefaultBinaryReader reader, CodingState stat
     {
         (int form, int whole, int fraction) = (reader.ReadEnumeration(), reader.ReadInteger(), reader.ReadInteger());
         return RealForms.Find(form, whole, fraction)
-            ?? throw new CgmDataException($"real numbers of the form {form} with {whole} and {fraction} bits do not exist");
+            ?? throw new CgmDataException(
+                $"there is no precision of real numbers of the form {form} with {whole} and {fraction} bits");
     }
 
     internal override int[] Cells(int[]? value, int width, int height, int precision, bool withMode)

@@ -15,10 +15,10 @@ internal sealed class ClearTextReader
     private const string EndOfDefaults = "ENDMFDEFAULTS";
     private const string Incremental = "INCR";
 
-    // What elements are called that no standard names.
-    private static readonly CommandConstructorArguments s_unknown = new((ClassCode)15, 127);
+    // The class and number of elements that the standard does not define.
+    private static readonly CommandConstructorArguments UnknownElement = new((ClassCode)15, 127);
 
-    private static readonly HashSet<string> s_incremental =
+    private static readonly HashSet<string> IncrementalKeywords =
         new(StringComparer.OrdinalIgnoreCase) { "LINE", "DISJTLINE", "MARKER", "POLYGON", "POLYGONSET" };
 
     private readonly ClearTextScanner _scanner;
@@ -42,7 +42,7 @@ internal sealed class ClearTextReader
     internal IReadOnlyList<Message> Messages => _log.Messages;
 
     /// <summary>Reads the next element.</summary>
-    /// <returns>Its command, or nothing behind the end of the metafile.</returns>
+    /// <returns>Its command, or <c>null</c> after the end of the metafile.</returns>
     internal Command? ReadCommand()
     {
         while (!_isAtEnd && SkipToKeyword())
@@ -56,7 +56,8 @@ internal sealed class ClearTextReader
 
             if (TryRead(start, keyword) is Command command)
             {
-                _isAtEnd = command is { ElementClass: ClassCode.DelimiterElement, ElementId: (int)DelimiterElement.EndMetafile };
+                _isAtEnd = command is
+                    { ElementClass: ClassCode.DelimiterElement, ElementId: (int)DelimiterElement.EndMetafile };
                 return command;
             }
         }
@@ -68,7 +69,7 @@ internal sealed class ClearTextReader
 
         if (!_isAtEnd)
         {
-            Note(Severity.Warning, _scanner.Position, s_unknown, "", "the file ends without ENDMF");
+            Note(Severity.Warning, _scanner.Position, UnknownElement, "", "the file ends without ENDMF");
             _isAtEnd = true;
         }
 
@@ -79,19 +80,19 @@ internal sealed class ClearTextReader
     {
         ElementEntry? entry = ElementTables.Find(keyword);
         isIncremental = entry is null && keyword.StartsWith(Incremental, StringComparison.OrdinalIgnoreCase)
-            && s_incremental.Contains(keyword[Incremental.Length..]);
+            && IncrementalKeywords.Contains(keyword[Incremental.Length..]);
         return isIncremental ? ElementTables.Find(keyword[Incremental.Length..]) : entry;
     }
 
     private bool SkipToKeyword()
     {
         ClearTextToken token = _scanner.Peek();
-        while (token is ClearTextToken.Terminator or ClearTextToken.Text)
+        while (token is ClearTextToken.Terminator or ClearTextToken.String)
         {
             int start = _scanner.Position;
             if (_scanner.SkipElement() > 0)
             {
-                Note(Severity.Warning, start, s_unknown, "", "a text stands where the word of an element is expected; it is left out");
+                Note(Severity.Warning, start, UnknownElement, "", "a string where a keyword is expected is left out");
             }
 
             token = _scanner.Peek();
@@ -135,15 +136,17 @@ internal sealed class ClearTextReader
     private UnknownCommand Unknown(int start, string keyword)
     {
         _scanner.SkipElement();
-        Note(Severity.Unsupported, start, s_unknown, keyword, "no standard names the element; it is kept as it is");
-        return new UnknownCommand(s_unknown) { Source = _scanner.Source(start, _scanner.Position).TrimEnd(';', '/') };
+        const string Text = "the standard does not define the element; it is kept as it is";
+        Note(Severity.Unsupported, start, UnknownElement, keyword, Text);
+        string source = _scanner.Source(start, _scanner.Position).TrimEnd(';', '/');
+        return new UnknownCommand(UnknownElement) { Source = source };
     }
 
     private List<Command> ReadDefaults()
     {
         if (_isInDefaults)
         {
-            throw new CgmDataException("it stands inside of an element of its kind");
+            throw new CgmDataException("it is nested in an element of its kind");
         }
 
         _scanner.SkipElement();
@@ -172,7 +175,8 @@ internal sealed class ClearTextReader
             return;
         }
 
-        string place = MessageLog.Place("line", _scanner.LineOf(start), element.ElementClass, element.ElementId, keyword);
+        int line = _scanner.LineOf(start);
+        string place = MessageLog.Place("line", line, element.ElementClass, element.ElementId, keyword);
         throw new ImageLoadException($"'{_name}', {place}: {e.Message}.");
     }
 

@@ -7,27 +7,28 @@ using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Import;
 
-/// <summary>Fills commands from the words of a clear text metafile.</summary>
-internal sealed class ClearTextReading(ClearTextScanner scanner, CodingState state, Func<List<Command>> inner) : ParameterExchange(state)
+/// <summary>Fills commands from the parameters of a clear text metafile.</summary>
+internal sealed class ClearTextReading(ClearTextScanner scanner, CodingState state, Func<List<Command>> inner)
+    : ParameterExchange(state)
 {
-    private const int DeepestRecord = 16;
+    private const int MaxRecordDepth = 16;
 
-    private static readonly int[] s_precisions = [8, 16, 24, 32];
-    private static readonly int[] s_localPrecisions = [0, 1, 2, 4, 8, 16, 24, 32];
+    private static readonly int[] Widths = [8, 16, 24, 32];
+    private static readonly int[] LocalWidths = [0, 1, 2, 4, 8, 16, 24, 32];
 
     private int _depth;
     private CgmPoint? _last;
 
-    /// <summary>Gets or sets whether each point but the first is told by its distance from the one before.</summary>
+    /// <summary>Gets or sets whether each point but the first is an offset from the one before.</summary>
     internal bool IsIncremental { get; set; }
 
     internal override bool IsReading => true;
 
     internal override bool IsClearText => true;
 
-    internal override bool HasMore => scanner.Peek() is ClearTextToken.Word or ClearTextToken.Text;
+    internal override bool HasMore => scanner.Peek() is ClearTextToken.Word or ClearTextToken.String;
 
-    internal override bool IsAtString => scanner.Peek() == ClearTextToken.Text;
+    internal override bool IsAtString => scanner.Peek() == ClearTextToken.String;
 
     internal void BeginElement(bool isIncremental) => (IsIncremental, _last) = (isIncremental, null);
 
@@ -66,9 +67,9 @@ internal sealed class ClearTextReading(ClearTextScanner scanner, CodingState sta
 
     internal override long ColorComponent(long value) => Whole(0, uint.MaxValue);
 
-    internal override string String(string? value) => TextCoding.Decode(scanner.ReadText(), State);
+    internal override string String(string? value) => TextCoding.Decode(scanner.ReadString(), State);
 
-    internal override byte[] Data(byte[]? value) => scanner.ReadText();
+    internal override byte[] Data(byte[]? value) => scanner.ReadString();
 
     internal override StructuredDataRecord Record(StructuredDataRecord? value)
     {
@@ -77,12 +78,12 @@ internal sealed class ClearTextReading(ClearTextScanner scanner, CodingState sta
             return StructuredDataCoding.Read(this);
         }
 
-        if (_depth == DeepestRecord)
+        if (_depth == MaxRecordDepth)
         {
-            throw new CgmDataException($"records lie in each other, more than {DeepestRecord} deep");
+            throw new CgmDataException($"records are nested more than {MaxRecordDepth} deep");
         }
 
-        var record = new ClearTextScanner(scanner.ReadText());
+        var record = new ClearTextScanner(scanner.ReadString());
         return StructuredDataCoding.Read(new ClearTextReading(record, State, inner) { _depth = _depth + 1 });
     }
 
@@ -90,7 +91,8 @@ internal sealed class ClearTextReading(ClearTextScanner scanner, CodingState sta
 
     internal override long Unsigned(long value, int bits) => Whole(0, NumberRange.Unsigned(bits).Highest);
 
-    internal override int Signed(int value, int bits) => (int)Whole(NumberRange.Signed(bits).Lowest, NumberRange.Signed(bits).Highest);
+    internal override int Signed(int value, int bits) =>
+        (int)Whole(NumberRange.Signed(bits).Lowest, NumberRange.Signed(bits).Highest);
 
     internal override byte[] Bits(byte[]? value)
     {
@@ -108,14 +110,16 @@ internal sealed class ClearTextReading(ClearTextScanner scanner, CodingState sta
     protected override int SignedRange(int value)
     {
         (double lowest, double highest) = (scanner.ReadReal(), scanner.ReadReal());
-        int bits = Array.Find(s_precisions, one => lowest >= NumberRange.Signed(one).Lowest && highest <= NumberRange.Signed(one).Highest);
+        int bits = Array.Find(
+            Widths,
+            one => lowest >= NumberRange.Signed(one).Lowest && highest <= NumberRange.Signed(one).Highest);
         return bits > 0 ? bits : throw new CgmDataException(
             string.Create(CultureInfo.InvariantCulture, $"numbers from {lowest} to {highest} take more than 32 bits"));
     }
 
-    protected override int UnsignedRange(int value) => FindBits(s_precisions);
+    protected override int UnsignedRange(int value) => FindBits(Widths);
 
-    protected override int LocalRange(int value) => FindBits(s_localPrecisions);
+    protected override int LocalRange(int value) => FindBits(LocalWidths);
 
     internal override Precision RealForm(Precision value)
     {
@@ -128,7 +132,8 @@ internal sealed class ClearTextReading(ClearTextScanner scanner, CodingState sta
         var format = CellFormat.Of(State, width, height, precision);
         if (scanner.Left < (2L * format.Count * format.Components) - 1)
         {
-            throw new CgmDataException($"{width} by {height} cells are announced, more than there are letters in the file");
+            throw new CgmDataException(
+                $"{width} by {height} cells are announced, more than the file has characters for");
         }
 
         int[] cells = new int[format.Count];

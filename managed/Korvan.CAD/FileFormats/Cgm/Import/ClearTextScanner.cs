@@ -6,23 +6,23 @@ using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Import;
 
-/// <summary>What stands at a place of a clear text metafile.</summary>
+/// <summary>The kinds of tokens of a clear text metafile.</summary>
 internal enum ClearTextToken
 {
     Word,
-    Text,
+    String,
     Terminator,
     End,
 }
 
 /// <summary>
-/// Parts clear text into words, which numbers are too, texts in quotes, and the ends of elements (ISO/IEC 8632-4, 6).
-/// Brackets only group, so they part like blanks; low lines and dollar signs mean nothing anywhere but in texts.
+/// Splits clear text into words, which are keywords and numbers, quoted strings, and terminators (ISO/IEC 8632-4, 6).
+/// Parentheses only group, so they separate like spaces; underscores and dollar signs are ignored outside strings.
 /// </summary>
 internal sealed class ClearTextScanner(byte[] data)
 {
-    // 1: parts words; 2: ends an element; 3: begins a text or a comment.
-    private static readonly byte[] s_kinds = Kinds();
+    // 1: separator; 2: terminator; 3: start of a string or a comment.
+    private static readonly byte[] Kinds = CreateKinds();
 
     private int _countedTo;
     private int _line = 1;
@@ -31,26 +31,26 @@ internal sealed class ClearTextScanner(byte[] data)
 
     internal int Left => data.Length - Position;
 
-    /// <summary>Goes to the next thing that has a meaning, and tells what it is.</summary>
+    /// <summary>Moves to the next token and returns its kind.</summary>
     internal ClearTextToken Peek()
     {
         while (Position < data.Length)
         {
-            byte letter = data[Position];
-            if (letter == '%')
+            byte character = data[Position];
+            if (character == '%')
             {
                 SkipComment();
             }
-            else if (s_kinds[letter] == 1 || letter is (byte)'_' or (byte)'$')
+            else if (Kinds[character] == 1 || character is (byte)'_' or (byte)'$')
             {
                 Position++;
             }
             else
             {
-                return letter switch
+                return character switch
                 {
                     (byte)';' or (byte)'/' => ClearTextToken.Terminator,
-                    (byte)'\'' or (byte)'"' => ClearTextToken.Text,
+                    (byte)'\'' or (byte)'"' => ClearTextToken.String,
                     _ => ClearTextToken.Word,
                 };
             }
@@ -59,8 +59,8 @@ internal sealed class ClearTextScanner(byte[] data)
         return ClearTextToken.End;
     }
 
-    /// <summary>Tells the line of a place, counted from 1. Only what lies between it and the place asked for before is
-    /// looked at.</summary>
+    /// <summary>Returns the line of a position, from 1. Only the text between it and the last position that was asked
+    /// for is scanned.</summary>
     internal int LineOf(int position)
     {
         (int start, int end) = (Math.Min(position, _countedTo), Math.Max(position, _countedTo));
@@ -84,13 +84,14 @@ internal sealed class ClearTextScanner(byte[] data)
         bool isNumber = double.TryParse(word, NumberStyles.Float, CultureInfo.InvariantCulture, out double real);
         return isNumber && real == Math.Floor(real) && Math.Abs(real) < long.MaxValue
             ? (long)real
-            : throw new CgmDataException($"'{Shown(word)}' is no whole number");
+            : throw new CgmDataException($"'{Shown(word)}' is no integer");
     }
 
     internal double ReadReal()
     {
         ReadOnlySpan<byte> word = TakeWord();
-        if (double.TryParse(word, NumberStyles.Float, CultureInfo.InvariantCulture, out double value) && double.IsFinite(value))
+        bool isNumber = double.TryParse(word, NumberStyles.Float, CultureInfo.InvariantCulture, out double value);
+        if (isNumber && double.IsFinite(value))
         {
             return value;
         }
@@ -98,9 +99,9 @@ internal sealed class ClearTextScanner(byte[] data)
         return TryParse(word, out long whole) ? whole : throw new CgmDataException($"'{Shown(word)}' is no number");
     }
 
-    internal byte[] ReadText()
+    internal byte[] ReadString()
     {
-        Expect(ClearTextToken.Text, "a text in quotes");
+        Expect(ClearTextToken.String, "a quoted string");
         byte quote = data[Position++];
         int start = Position;
         List<byte>? parts = null;
@@ -109,7 +110,7 @@ internal sealed class ClearTextScanner(byte[] data)
             int length = data.AsSpan(Position).IndexOf(quote);
             if (length < 0)
             {
-                throw new CgmDataException("a text has no quote at its end");
+                throw new CgmDataException("a string has no closing quote");
             }
 
             Position += length + 1;
@@ -119,14 +120,14 @@ internal sealed class ClearTextScanner(byte[] data)
                 return parts is null ? last.ToArray() : [.. parts, .. last];
             }
 
-            // A quote inside of a text is doubled.
+            // A quote inside a string is doubled.
             (parts ??= []).AddRange(data.AsSpan(start, Position - start));
             start = ++Position;
         }
     }
 
-    /// <summary>Goes behind the end of the element, over whatever it still has.</summary>
-    /// <returns>How many words and texts were passed over.</returns>
+    /// <summary>Skips the rest of the element and its terminator.</summary>
+    /// <returns>The count of words and strings that were skipped.</returns>
     internal int SkipElement()
     {
         for (int count = 0; ; count++)
@@ -138,8 +139,8 @@ internal sealed class ClearTextScanner(byte[] data)
                     return count;
                 case ClearTextToken.End:
                     return count;
-                case ClearTextToken.Text:
-                    SkipText();
+                case ClearTextToken.String:
+                    SkipString();
                     break;
                 default:
                     SkipWord();
@@ -160,16 +161,19 @@ internal sealed class ClearTextScanner(byte[] data)
         int mark = word.IndexOf((byte)'#');
         bool isNegative = word.StartsWith("-"u8);
         ReadOnlySpan<byte> digits = word[(mark + 1)..];
-        return mark > 0 && digits.Length > 0 && int.TryParse(word[..mark].TrimStart("+-"u8), NumberStyles.None, CultureInfo.InvariantCulture, out int radix)
-            && radix is >= 2 and <= 16 && TryParse(digits, radix, isNegative, out value);
+        return mark > 0 && digits.Length > 0
+            && int.TryParse(
+                word[..mark].TrimStart("+-"u8), NumberStyles.None, CultureInfo.InvariantCulture, out int radix)
+            && radix is >= 2 and <= 16
+            && TryParse(digits, radix, isNegative, out value);
     }
 
     private static bool TryParse(ReadOnlySpan<byte> digits, int radix, bool isNegative, out long value)
     {
         value = 0;
-        foreach (byte letter in digits)
+        foreach (byte character in digits)
         {
-            int digit = char.IsAsciiHexDigit((char)letter) ? Convert.ToInt32(((char)letter).ToString(), 16) : radix;
+            int digit = DigitOf(character);
             if (digit >= radix || value > long.MaxValue >> 5)
             {
                 return false;
@@ -182,19 +186,28 @@ internal sealed class ClearTextScanner(byte[] data)
         return true;
     }
 
+    private static int DigitOf(byte character) => character switch
+    {
+        >= (byte)'0' and <= (byte)'9' => character - '0',
+        >= (byte)'A' and <= (byte)'F' => character - 'A' + 10,
+        >= (byte)'a' and <= (byte)'f' => character - 'a' + 10,
+        _ => int.MaxValue,
+    };
+
     private static string Shown(ReadOnlySpan<byte> word)
     {
-        const int shownLength = 40;
-        return Encoding.Latin1.GetString(word[..Math.Min(word.Length, shownLength)]) + (word.Length > shownLength ? "..." : "");
+        const int ShownLength = 40;
+        string shown = Encoding.Latin1.GetString(word[..Math.Min(word.Length, ShownLength)]);
+        return word.Length > ShownLength ? shown + "..." : shown;
     }
 
-    private static byte[] Kinds()
+    private static byte[] CreateKinds()
     {
         byte[] kinds = new byte[256];
         kinds.AsSpan(0, ' ' + 1).Fill(1);
-        foreach (char letter in ",()\u00a0")
+        foreach (char separator in ",()\u00a0")
         {
-            kinds[letter] = 1;
+            kinds[separator] = 1;
         }
 
         (kinds[';'], kinds['/']) = (2, 2);
@@ -214,12 +227,12 @@ internal sealed class ClearTextScanner(byte[] data)
         {
             ClearTextToken.End => $"the file ends where {what} is expected",
             ClearTextToken.Terminator => $"the parameters end where {what} is expected",
-            ClearTextToken.Text => $"a text stands where {what} is expected",
-            _ => $"'{Shown(TakeWord())}' stands where {what} is expected",
+            ClearTextToken.String => $"there is a string where {what} is expected",
+            _ => $"'{Shown(TakeWord())}' is where {what} is expected",
         });
     }
 
-    // A word that has no letters without meaning is given as it stands.
+    // A word without ignored characters is returned without a copy.
     private ReadOnlySpan<byte> TakeWord()
     {
         Expect(ClearTextToken.Word, "a word or number");
@@ -233,11 +246,11 @@ internal sealed class ClearTextScanner(byte[] data)
 
         byte[] clean = new byte[word.Length];
         int count = 0;
-        foreach (byte letter in word)
+        foreach (byte character in word)
         {
-            if (letter is not ((byte)'_' or (byte)'$'))
+            if (character is not ((byte)'_' or (byte)'$'))
             {
-                clean[count++] = letter;
+                clean[count++] = character;
             }
         }
 
@@ -246,15 +259,15 @@ internal sealed class ClearTextScanner(byte[] data)
 
     private void SkipWord()
     {
-        while (Position < data.Length && s_kinds[data[Position]] == 0)
+        while (Position < data.Length && Kinds[data[Position]] == 0)
         {
             Position++;
         }
     }
 
-    private void SkipText()
+    private void SkipString()
     {
-        // A doubled quote is passed over as two texts.
+        // A doubled quote is skipped as two strings.
         int length = data.AsSpan(Position + 1).IndexOf(data[Position]);
         Position = length < 0 ? data.Length : Position + length + 2;
     }

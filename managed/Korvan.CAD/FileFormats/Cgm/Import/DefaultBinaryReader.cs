@@ -24,15 +24,15 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IParameterCodec
     private bool _isDisposed;
 
     /// <summary>Creates a reader of a stream.</summary>
-    /// <param name="stream">The stream, at the first byte of the metafile. It stays open.</param>
+    /// <param name="stream">The stream, at the start of the metafile. It stays open.</param>
     public DefaultBinaryReader(Stream stream)
         : this(stream, DefaultCommandFactory.Instance)
     {
     }
 
-    /// <summary>Creates a reader of a stream that makes commands in its own way.</summary>
-    /// <param name="stream">The stream, at the first byte of the metafile. It stays open.</param>
-    /// <param name="commandFactory">What makes the commands.</param>
+    /// <summary>Creates a reader of a stream with a command factory.</summary>
+    /// <param name="stream">The stream, at the start of the metafile. It stays open.</param>
+    /// <param name="commandFactory">The factory that creates the commands.</param>
     public DefaultBinaryReader(Stream stream, ICommandFactory commandFactory)
         : this(stream, commandFactory, (stream as FileStream)?.Name ?? "stream")
     {
@@ -51,7 +51,7 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IParameterCodec
         Exchange = new BinaryReading(this, State);
     }
 
-    // Elements inside of an element are read by the rules that hold around them.
+    // Elements inside an element share the coding state around them.
     private DefaultBinaryReader(DefaultBinaryReader outer, byte[] data, long origin)
     {
         _elements = new BinaryElements(new MemoryStream(data, false), origin);
@@ -65,14 +65,14 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IParameterCodec
         Exchange = new BinaryReading(this, State);
     }
 
-    /// <summary>Gets what makes the commands.</summary>
+    /// <summary>Gets the command factory.</summary>
     public ICommandFactory CommandFactory { get; }
 
-    /// <summary>Gets or sets whether reading goes on after a damaged element: it is left out, and
-    /// <see cref="Messages"/> tells of it. By default damage is an error.</summary>
+    /// <summary>Gets or sets whether damaged elements are left out and reported in <see cref="Messages"/>. By default
+    /// damage is an error.</summary>
     public bool IgnoreErrors { get; set; }
 
-    /// <summary>Gets what was noticed so far; of very many messages the first thousand.</summary>
+    /// <summary>Gets the messages so far; at most the first thousand and a note that there are more.</summary>
     public IReadOnlyList<Message> Messages => _log.Messages;
 
     internal CodingState State { get; }
@@ -85,8 +85,8 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IParameterCodec
     internal long BytePosition => _elements.Position;
 
     /// <summary>Reads the next element.</summary>
-    /// <returns>Its command, or nothing behind the end of the metafile.</returns>
-    /// <exception cref="ImageLoadException">The element is damaged; its place is told.</exception>
+    /// <returns>Its command, or <c>null</c> after the end of the metafile.</returns>
+    /// <exception cref="ImageLoadException">The element is damaged; the message states its offset.</exception>
     public Command? ReadCommand()
     {
         ObjectDisposedException.ThrowIf(_isDisposed, this);
@@ -101,7 +101,7 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IParameterCodec
         return null;
     }
 
-    /// <summary>Gives back the memory of the reader. The stream stays open.</summary>
+    /// <summary>Releases the memory of the reader. The stream stays open.</summary>
     public void Dispose()
     {
         if (!_isDisposed)
@@ -112,12 +112,12 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IParameterCodec
         }
     }
 
-    /// <summary>Reads the elements that the parameters of this one are.</summary>
+    /// <summary>Reads the elements that the parameters of this one contain.</summary>
     internal List<Command> ReadInner()
     {
         if (_isInner)
         {
-            throw new CgmDataException("it stands inside of an element of its kind");
+            throw new CgmDataException("it is nested in an element of its kind");
         }
 
         long origin = _elements.Start + _elements.Length switch { < 31 => 2, _ => 4 };
@@ -146,7 +146,8 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IParameterCodec
             Fill(command);
             command.Apply(State);
             NoteRest(command);
-            _isAtEnd = command is { ElementClass: ClassCode.DelimiterElement, ElementId: (int)DelimiterElement.EndMetafile };
+            _isAtEnd = command is
+                { ElementClass: ClassCode.DelimiterElement, ElementId: (int)DelimiterElement.EndMetafile };
             return command;
         }
         catch (CgmDataException e)
@@ -185,7 +186,8 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IParameterCodec
     {
         ref CommandConstructorArguments? arguments = ref _arguments[(_elements.Class << 7) | _elements.Id];
         arguments ??= new CommandConstructorArguments((ClassCode)_elements.Class, _elements.Id);
-        return CommandFactory.CreateCommand(arguments) ?? throw new CgmDataException("the factory makes no command for it");
+        return CommandFactory.CreateCommand(arguments)
+            ?? throw new CgmDataException("the command factory returned no command for it");
     }
 
     private void Fill(Command command)
@@ -193,7 +195,7 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IParameterCodec
         if (command is UnknownCommand unknown)
         {
             unknown.Parameters = ReadRest();
-            Note(Severity.Unsupported, "no standard names the element; it is kept as it is");
+            Note(Severity.Unsupported, "the standard does not define the element; it is kept as it is");
             return;
         }
 

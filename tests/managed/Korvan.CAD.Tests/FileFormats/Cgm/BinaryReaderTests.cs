@@ -83,8 +83,8 @@ public class BinaryReaderTests
     [InlineData("403F 8002 0001", "byte 4, LINE (4, 1)", "the file ends")] // the next part is missing
     [InlineData("1062 0007", "byte 4, VDCTYPE (1, 3)", "INTEGER, REAL")]
     [InlineData("3022 0011", "byte 4, VDCINTEGERPREC (3, 1)", "17")] // no such precision
-    [InlineData("1062 0001 3046 0000 0009 0017 4028 7F800000 00000000", "byte 16, LINE (4, 1)", "no number")] // infinity
-    [InlineData("1186 1184 4020 0000", "byte 6, BEGMFDEFAULTS (1, 12)", "inside")] // replacements inside of replacements
+    [InlineData("1062 0001 3046 0000 0009 0017 4028 7F800000 00000000", "byte 16, LINE (4, 1)", "not a number")] // infinity
+    [InlineData("1186 1184 4020 0000", "byte 6, BEGMFDEFAULTS (1, 12)", "nested")] // replacements inside of replacements
     [InlineData("0062 0661", "byte 4, BEGPIC (0, 3)", "within a value of 6 bytes")]
     public void Damage_is_told_with_place_and_cause_or_left_out(string element, string place, string cause)
     {

@@ -81,17 +81,17 @@ public class ClearTextTests
     [Theory]
     [InlineData("LINE (1,2) (3);", "line 2, LINE (4, 1)", "the parameters end where")]
     [InlineData("\n\nLINE 1 2 x 4;", "line 4, LINE (4, 1)", "'x' is no number")]
-    [InlineData("LINE 1 2 'a' 4;", "line 2, LINE (4, 1)", "a text stands where")]
-    [InlineData("LINECOLR 1.5;", "line 2, LINECOLR (5, 4)", "'1.5' is no whole number")]
+    [InlineData("LINE 1 2 'a' 4;", "line 2, LINE (4, 1)", "there is a string where")]
+    [InlineData("LINECOLR 1.5;", "line 2, LINECOLR (5, 4)", "'1.5' is no integer")]
     [InlineData("LINECOLR 99999999999;", "line 2, LINECOLR (5, 4)", "99999999999")]
     [InlineData("VDCTYPE WHOLE;", "line 2, VDCTYPE (1, 3)", "none of INTEGER, REAL")]
     [InlineData("INTEGERPREC -9e12 1;", "line 2, INTEGERPREC (1, 4)", "more than 32 bits")]
-    [InlineData("LINECOLR 9#9;", "line 2, LINECOLR (5, 4)", "no whole number")]
+    [InlineData("LINECOLR 9#9;", "line 2, LINECOLR (5, 4)", "no integer")]
     [InlineData("LINE 1e999 0;", "line 2, LINE (4, 1)", "no number")]
-    [InlineData("BEGPIC 'a;", "line 2, BEGPIC (0, 3)", "no quote at its end")]
-    [InlineData("BEGMFDEFAULTS; BEGMFDEFAULTS; ENDMFDEFAULTS; ENDMFDEFAULTS;", "line 2, BEGMFDEFAULTS (1, 12)", "inside")]
+    [InlineData("BEGPIC 'a;", "line 2, BEGPIC (0, 3)", "no closing quote")]
+    [InlineData("BEGMFDEFAULTS; BEGMFDEFAULTS; ENDMFDEFAULTS; ENDMFDEFAULTS;", "line 2, BEGMFDEFAULTS (1, 12)", "nested")]
     [InlineData("BEGMFDEFAULTS; CLIP OFF;", "line 2, BEGMFDEFAULTS (1, 12)", "without ENDMFDEFAULTS")]
-    [InlineData("CELLARRAY 0 0 1 1 1 0 9999 9999 0 1;", "line 2, CELLARRAY (4, 9)", "more than there are")]
+    [InlineData("CELLARRAY 0 0 1 1 1 0 9999 9999 0 1;", "line 2, CELLARRAY (4, 9)", "more than the file has")]
     public void Damage_is_told_with_line_and_cause_or_left_out(string element, string place, string cause)
     {
         string text = $"BEGMF 't';\n{element}";
@@ -155,7 +155,7 @@ public class ClearTextTests
 
     [Theory]
     [InlineData("0.5", "not whole")]
-    [InlineData("binary", "known of a binary file alone")]
+    [InlineData("binary", "has no clear text form")]
     public void What_cannot_be_held_is_refused_by_name(string what, string cause)
     {
         Command command = what == "binary"
