@@ -14,8 +14,8 @@ internal sealed class CadClass
         Name = type.Name;
         Namespace = type.ContainingNamespace.ToDisplayString();
         IsAbstract = type.IsAbstract;
-        Properties = [.. type.GetMembers().OfType<IPropertySymbol>().Select(CadProperty.From)
-            .Where(property => property is not null).Select(property => property!)];
+        Included = [.. IncludedIn(type)];
+        Properties = [.. Fields(type), .. Included];
         AttributeData? attribute = Attribute(type);
         HasClassAttribute = attribute is not null;
         DxfName = attribute?.ConstructorArguments[0].Value as string ?? "";
@@ -32,6 +32,9 @@ internal sealed class CadClass
     public bool IsAbstract { get; }
 
     public IReadOnlyList<CadProperty> Properties { get; }
+
+    /// <summary>Those of another class that this class has as well.</summary>
+    public IReadOnlyList<CadProperty> Included { get; }
 
     public bool HasClassAttribute { get; }
 
@@ -59,12 +62,25 @@ internal sealed class CadClass
 
     public static CadClass From(INamedTypeSymbol type) => new(type);
 
+    private static IEnumerable<CadProperty> Fields(INamedTypeSymbol type)
+    {
+        return type.GetMembers().OfType<IPropertySymbol>().Select(CadProperty.From)
+            .Where(property => property is not null).Select(property => property!);
+    }
+
+    private static IEnumerable<CadProperty> IncludedIn(INamedTypeSymbol type)
+    {
+        AttributeData? includes = type.GetAttributes().FirstOrDefault(attribute =>
+            attribute.AttributeClass?.Name == "CadFieldsOfAttribute");
+        return includes?.ConstructorArguments[0].Value is INamedTypeSymbol source ? Fields(source) : [];
+    }
+
     private static IEnumerable<INamedTypeSymbol> PartsOf(INamedTypeSymbol type)
     {
         INamedTypeSymbol? current = type.BaseType;
         while (current is { IsAbstract: true } && Attribute(current) is null && !IsRoot(current))
         {
-            if (current.GetMembers().OfType<IPropertySymbol>().Any(property => CadProperty.From(property) is not null))
+            if (Fields(current).Concat(IncludedIn(current)).Any())
             {
                 yield return current;
             }

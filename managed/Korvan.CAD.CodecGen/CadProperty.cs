@@ -24,9 +24,12 @@ internal sealed class CadProperty
         Count = attribute.NamedArguments.Where(argument => argument.Key == "Count")
             .Select(argument => (int)argument.Value.Value!).FirstOrDefault();
         Table = Kind == "CadName" ? $"global::{attribute.ConstructorArguments[1].ToCSharpString()}" : "";
+        Symbol = symbol;
         Initial = symbol.DeclaringSyntaxReferences.Select(reference => reference.GetSyntax())
             .OfType<PropertyDeclarationSyntax>().FirstOrDefault()?.Initializer?.Value.ToString();
     }
+
+    public IPropertySymbol Symbol { get; }
 
     public string Name { get; }
 

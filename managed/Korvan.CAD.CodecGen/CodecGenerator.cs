@@ -35,7 +35,8 @@ public sealed class CodecGenerator : IIncrementalGenerator
         return node is ClassDeclarationSyntax declaration
             && declaration.Modifiers.Any(SyntaxKind.PartialKeyword)
             && (declaration.AttributeLists.Count > 0
-                || declaration.Members.Any(member => member is PropertyDeclarationSyntax { AttributeLists.Count: > 0 }));
+                || declaration.Members.Any(
+                    member => member is PropertyDeclarationSyntax { AttributeLists.Count: > 0 }));
     }
 
     private static CodecUnit? Describe(GeneratorSyntaxContext syntax)

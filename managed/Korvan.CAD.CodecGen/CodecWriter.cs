@@ -17,6 +17,7 @@ internal static class CodecWriter
         text.AppendLine("#nullable enable");
         text.AppendLine($"namespace {model.Namespace};");
         text.AppendLine();
+        text.AppendLine("using Korvan.CAD.Collections;");
         foreach (string used in new[] { "CadConsts", "CadObjects" })
         {
             text.AppendLine($"using Korvan.CAD.FileFormats.Cad.{used};");
@@ -26,6 +27,11 @@ internal static class CodecWriter
         text.AppendLine($"partial class {model.Name}");
         text.AppendLine("{");
         WriteName(model, text);
+        foreach (CadProperty property in model.Included)
+        {
+            text.Append(PropertyText.Declaration(property));
+        }
+
         if (model.IsPartOfObject)
         {
             WritePart(model, text);
@@ -89,8 +95,8 @@ internal static class CodecWriter
         foreach (CadProperty repeated in model.Properties.Where(property => property.IsRepeated))
         {
             text.AppendLine($"            if (code == {repeated.Code}) {{ {repeated.Name}.Add(new()); }}");
-            text.AppendLine($"            if ({repeated.Name}.Count > 0 && {repeated.Name}[^1].ReadField(code, reader)) "
-                + "{ return true; }");
+            text.AppendLine($"            if ({repeated.Name}.Count > 0");
+            text.AppendLine($"                && {repeated.Name}[^1].ReadField(code, reader)) {{ return true; }}");
         }
 
         if (model.Properties.Count == 0)

@@ -5,7 +5,8 @@ using Microsoft.CodeAnalysis.Text;
 
 namespace Korvan.CAD.CodecGen;
 
-/// <summary>Writes the members of the lists and dictionaries of named objects, which differ in their items alone.</summary>
+/// <summary>Writes the members of the lists and dictionaries of named objects, which differ in their items alone.
+/// </summary>
 [Generator]
 public sealed class NamedObjectsGenerator : IIncrementalGenerator
 {
@@ -85,8 +86,9 @@ public sealed class NamedObjectsGenerator : IIncrementalGenerator
     /// <inheritdoc/>
     public void Initialize(IncrementalGeneratorInitializationContext context)
     {
-        IncrementalValuesProvider<(string Name, string Text)> lists = context.SyntaxProvider.ForAttributeWithMetadataName(
-            AttributeName, static (node, _) => node is ClassDeclarationSyntax, static (found, _) => Write(found));
+        IncrementalValuesProvider<(string Name, string Text)> lists = context.SyntaxProvider
+            .ForAttributeWithMetadataName(
+                AttributeName, static (node, _) => node is ClassDeclarationSyntax, static (found, _) => Write(found));
         context.RegisterSourceOutput(lists, static (output, list) =>
             output.AddSource($"{list.Name}.g.cs", SourceText.From(list.Text, Encoding.UTF8)));
     }

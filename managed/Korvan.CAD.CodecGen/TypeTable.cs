@@ -16,7 +16,8 @@ internal static class TypeTable
         text.AppendLine("#nullable enable");
         text.AppendLine("namespace Korvan.CAD.FileFormats.Cad.Exchange;");
         text.AppendLine();
-        text.AppendLine("/// <summary>Makes objects from their names in files; a name of several classes is left out.</summary>");
+        text.AppendLine("/// <summary>Makes objects from their names in files; a name of several classes is left out.");
+        text.AppendLine("/// </summary>");
         text.AppendLine("internal static class ObjectTypes");
         text.AppendLine("{");
         WriteKind(units, "CadEntityBase", "CadObjects", "CreateEntity", text);

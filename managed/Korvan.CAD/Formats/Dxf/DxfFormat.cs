@@ -1,8 +1,10 @@
 using System;
+using System.IO;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering;
 
 namespace Korvan.CAD.Formats.Dxf;
 
@@ -26,13 +28,7 @@ internal static class DxfFormat
         Read = static (data, name, _, options) => new DxfReader(data, name, options).Read(),
         Writers =
         [
-            FormatWriter.For<IDrawingContent, DxfOptions>(OutputKind.Model, static (content, options, context, output) =>
-            {
-                foreach (string what in DxfSaver.Save(content.Drawing, options, output))
-                {
-                    context.Notes.Add(RenderErrorCode.EntityNotDrawn, what);
-                }
-            }),
+            FormatWriter.For<IDrawingContent, DxfOptions>(OutputKind.Model, Write),
         ],
         Written =
         [
@@ -41,6 +37,14 @@ internal static class DxfFormat
         ],
         OwnOptions = static (content, _) => content is IDrawingContent ? new DxfOptions() : null,
     };
+
+    private static void Write(IDrawingContent content, DxfOptions options, ExportContext context, Stream output)
+    {
+        foreach (string what in DxfSaver.Save(content.Drawing, options, output))
+        {
+            context.Notes.Add(RenderErrorCode.EntityNotDrawn, what);
+        }
+    }
 
     // A text file begins with group code 0 and SECTION, perhaps after comments; the release stands in its header.
     private static FileFormat? Detect(ReadOnlySpan<byte> start, bool isWhole)

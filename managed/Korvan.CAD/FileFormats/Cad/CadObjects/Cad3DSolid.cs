@@ -2,7 +2,7 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
-/// <summary>A solid body.</summary>
+/// <summary>A 3D solid.</summary>
 [CadObject("3DSOLID", Subclass = "AcDbModelerGeometry")]
 public partial class Cad3DSolid : CadObjectWithAcisData
 {

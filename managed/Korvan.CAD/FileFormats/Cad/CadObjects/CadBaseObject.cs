@@ -18,7 +18,7 @@ public abstract partial class CadBaseObject : IKeyedObject
 
     /// <summary>Gets or sets the handle, which names the object within its drawing, in hexadecimal; empty as long as
     /// there is none. New objects get one when the drawing is saved. Group code 5.</summary>
-    /// <exception cref="FormatException">The text is no hexadecimal number.</exception>
+    /// <exception cref="FormatException">The text is not a hexadecimal number.</exception>
     public string ObjectHandle
     {
         get => Handle == 0 ? "" : Handle.ToString("X", CultureInfo.InvariantCulture);

@@ -2,7 +2,7 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
-/// <summary>A body.</summary>
+/// <summary>A body of the solid modeler.</summary>
 [CadObject("BODY", Subclass = "AcDbModelerGeometry")]
 public partial class CadBody : CadObjectWithAcisData
 {

@@ -15,8 +15,8 @@ public abstract partial class CadDimensionBase : CadEntityBase
     [CadShort(280, Optional = true, Since = 2010)]
     public short Version { get; set; }
 
-    /// <summary>Gets or sets the name of the block that holds the picture of the dimension; empty when there is none
-    /// yet. Group code 2.</summary>
+    /// <summary>Gets or sets the name of the block with the graphics of the dimension; empty when there is none yet.
+    /// Group code 2.</summary>
     [CadName(2, SymbolTable.BlockRecord, Optional = true)]
     public string BlockName { get; set; } = "";
 
@@ -38,7 +38,7 @@ public abstract partial class CadDimensionBase : CadEntityBase
     [CadShort(70)]
     public short TypeOfDimension { get; set; }
 
-    /// <summary>Gets or sets which point of the text stands at its place. Group code 71.</summary>
+    /// <summary>Gets or sets which point of the text is at its position. Group code 71.</summary>
     [CadShort(71, Optional = true)]
     public CadAttachmentPoint AttachmentPoint { get; set; } = CadAttachmentPoint.MiddleCenter;
 
@@ -46,7 +46,7 @@ public abstract partial class CadDimensionBase : CadEntityBase
     [CadShort(72, Optional = true)]
     public CadLineSpacing LineSpacingStyle { get; set; } = CadLineSpacing.AtLeast;
 
-    /// <summary>Gets or sets the distance of text lines as a part of the usual. Group code 41.</summary>
+    /// <summary>Gets or sets the distance of text lines as a part of the default. Group code 41.</summary>
     [CadDouble(41, Optional = true)]
     public double LineSpacingFactor { get; set; } = 1;
 
@@ -59,7 +59,7 @@ public abstract partial class CadDimensionBase : CadEntityBase
     [CadString(1, Optional = true)]
     public string Text { get; set; } = "";
 
-    /// <summary>Gets or sets the direction of the text against the usual, in degrees. Group code 53.</summary>
+    /// <summary>Gets or sets the direction of the text against the default, in degrees. Group code 53.</summary>
     [CadAngle(53, Optional = true)]
     public double TextRotation { get; set; }
 

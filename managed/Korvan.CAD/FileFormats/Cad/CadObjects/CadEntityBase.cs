@@ -62,7 +62,7 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEnt
     [CadHandle(347, Optional = true, Since = 2007)]
     public string Material { get; set; } = "";
 
-    /// <summary>Gets or sets the number of the colour: 1 to 255, 256 by layer, 0 by block. Group code 62.</summary>
+    /// <summary>Gets or sets the index of the colour: 1 to 255, 256 by layer, 0 by block. Group code 62.</summary>
     /// <exception cref="ArgumentOutOfRangeException">The number is not 0 to 256.</exception>
     public short ColorId
     {
@@ -110,18 +110,18 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEnt
     [CadShort(284, Optional = true, Since = 2007)]
     public CadShadowMode ShadowMode { get; set; }
 
-    /// <summary>Gets or sets the name of the layer as it stands in the file, whatever it is.</summary>
+    /// <summary>Gets or sets the name of the layer as it is in the file, whatever it is.</summary>
     [CadName(8, SymbolTable.Layer)]
     internal string StoredLayer { get; set; } = "0";
 
-    /// <summary>Gets or sets the number of the colour as it stands in the file, whatever it is.</summary>
+    /// <summary>Gets or sets the index of the colour as it is in the file, whatever it is.</summary>
     [CadColor(62, Optional = true)]
     internal short StoredColor { get; set; } = 256;
 
     /// <summary>Gets or sets the list that the entity is in.</summary>
     internal IEntityList? Home { get; set; }
 
-    /// <summary>Gets or sets how often it stands there: once, but for moments.</summary>
+    /// <summary>Gets or sets how often it is in the list: once, but for moments.</summary>
     internal int Places { get; set; }
 
     /// <summary>Makes a copy that belongs to no drawing and has no handle yet, with copies of vertices and attributes.
@@ -133,8 +133,8 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEnt
     /// finite.</exception>
     public CadEntityBase Clone() => EntityCopy.Of(this);
 
-    /// <summary>Gives what the entity is, its layer and its place in one line.</summary>
-    /// <returns>What the entity is, its layer and its place in one line.</returns>
+    /// <summary>Gives what the entity is, its layer and its position in one line.</summary>
+    /// <returns>What the entity is, its layer and its position in one line.</returns>
     public override string ToString() => EntityText.Of(this);
 
     /// <summary>Gives the point that an annotation points to: the middle of the entity, in world coordinates.</summary>

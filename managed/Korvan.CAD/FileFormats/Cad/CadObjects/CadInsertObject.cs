@@ -21,7 +21,7 @@ public partial class CadInsertObject : CadEntityBase
     [CadName(2, SymbolTable.BlockRecord)]
     public string Name { get; set; } = "";
 
-    /// <summary>Gets or sets the place of the block's base point, in object coordinates. Group codes 10, 20,
+    /// <summary>Gets or sets the position of the base point of the block, in object coordinates. Group codes 10, 20,
     /// 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint InsertionPoint { get; set; } = new();

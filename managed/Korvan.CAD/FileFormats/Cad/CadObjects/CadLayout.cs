@@ -23,7 +23,7 @@ public partial class CadLayout : CadPlotSettings
     [CadInt(70)]
     public CadLayoutControlFlag ControlFlags { get; set; } = CadLayoutControlFlag.PsltScale;
 
-    /// <summary>Gets or sets the place of the tab; 0 is the model. Group code 71.</summary>
+    /// <summary>Gets or sets the position of the tab; 0 is the model. Group code 71.</summary>
     [CadInt(71)]
     public int TabOrder { get; set; }
 

@@ -21,7 +21,7 @@ public partial class CadLeader : CadEntityBase
     [CadShort(71)]
     public short ArrowheadFlag { get; set; } = 1;
 
-    /// <summary>Gets or sets the form of the line: 0 straight pieces, 1 a spline. Group code 72.</summary>
+    /// <summary>Gets or sets the form of the line: 0 straight segments, 1 a spline. Group code 72.</summary>
     [CadShort(72)]
     public short PathType { get; set; }
 
@@ -51,8 +51,8 @@ public partial class CadLeader : CadEntityBase
     [CadList(10, Count = 76)]
     public IList<Cad3DPoint> Coordinates { get; } = new CheckedList<Cad3DPoint>("coordinates");
 
-    /// <summary>Gets or sets the number of the colour to use where dimension style or block say "by block". Group
-    /// code 77.</summary>
+    /// <summary>Gets or sets the index of the colour to use where dimension style or block say "by block". Group code
+    /// 77.</summary>
     [CadColor(77, Optional = true)]
     public short ColorToUse { get; set; }
 
@@ -73,7 +73,7 @@ public partial class CadLeader : CadEntityBase
     [Cad3DPoint(212, Optional = true)]
     public Cad3DPoint LastVertexOffsetFromBlock { get; set; } = new();
 
-    /// <summary>Gets or sets the offset of the last vertex from the place of the annotation. Group codes 213, 223,
+    /// <summary>Gets or sets the offset of the last vertex from the position of the annotation. Group codes 213, 223,
     /// 233.</summary>
     [Cad3DPoint(213, Optional = true)]
     public Cad3DPoint LastVertexOffsetFromAnnotation { get; set; } = new();

@@ -18,7 +18,7 @@ public partial class CadLwPolyline : CadExtrudedEntityBase
     [CadShort(70)]
     public CadLwPolylineFlag Flag { get; set; }
 
-    /// <summary>Gets or sets the width of all pieces; 0 where the vertices tell widths. Group code 43.</summary>
+    /// <summary>Gets or sets the width of all segments; 0 where the vertices tell widths. Group code 43.</summary>
     [CadDouble(43)]
     public double ConstantWidth { get; set; }
 
@@ -29,17 +29,17 @@ public partial class CadLwPolyline : CadExtrudedEntityBase
     /// <summary>Gets the vertices, in object coordinates. The list is live. Group codes 10, 20.</summary>
     public IList<Cad2DPoint> Coordinates { get; } = new CheckedList<Cad2DPoint>("coordinates");
 
-    /// <summary>Gets the bulges of the pieces that begin at the vertices: the tangent of a quarter of the arc's
-    /// angle, 0 for a straight piece, negative clockwise. Vertices beyond the end of the list have 0. The list is
+    /// <summary>Gets the bulges of the segments that begin at the vertices: the tangent of a quarter of the arc's
+    /// angle, 0 for a straight segment, negative clockwise. Vertices beyond the end of the list have 0. The list is
     /// live. Group code 42.</summary>
     public List<double> Bulges { get; } = [];
 
-    /// <summary>Gets the start widths of the pieces; vertices beyond the end of the list have
-    /// <see cref="ConstantWidth"/>. The list is live. Group code 40.</summary>
+    /// <summary>Gets the start widths of the segments; vertices beyond the end of the list have <see
+    /// cref="ConstantWidth"/>. The list is live. Group code 40.</summary>
     public List<double> StartWidths { get; } = [];
 
-    /// <summary>Gets the end widths of the pieces; vertices beyond the end of the list have
-    /// <see cref="ConstantWidth"/>. The list is live. Group code 41.</summary>
+    /// <summary>Gets the end widths of the segments; vertices beyond the end of the list have <see
+    /// cref="ConstantWidth"/>. The list is live. Group code 41.</summary>
     public List<double> EndWidths { get; } = [];
 
     /// <summary>Gets whether the last vertex is joined to the first.</summary>

@@ -6,7 +6,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadObject("MULTILEADER", Subclass = "AcDbMLeader")]
 public partial class CadMLeader : CadEntityBase
 {
-    /// <summary>The colour of the block, or of the multileader, in the form that multileaders keep colours in.</summary>
+    /// <summary>The colour of the block, or of the multileader, in the form that multileaders keep colours
+    /// in.</summary>
     internal const int ColorByBlock = unchecked((int)0xC1000000);
 
     private const int ContextStart = 300;

@@ -11,11 +11,11 @@ public partial class CadMultiLineVectorBlock
     {
     }
 
-    /// <summary>Gets or sets the place, in world coordinates. Group codes 11, 21, 31.</summary>
+    /// <summary>Gets or sets the position, in world coordinates. Group codes 11, 21, 31.</summary>
     [Cad3DPoint(11)]
     public Cad3DPoint Location { get; set; } = new();
 
-    /// <summary>Gets or sets the direction of the piece that begins here. Group codes 12, 22, 32.</summary>
+    /// <summary>Gets or sets the direction of the segment that begins here. Group codes 12, 22, 32.</summary>
     [Cad3DPoint(12)]
     public Cad3DPoint Direction { get; set; } = new();
 

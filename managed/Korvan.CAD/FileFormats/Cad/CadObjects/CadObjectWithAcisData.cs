@@ -3,16 +3,15 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
-/// <summary>A body whose geometry stands in a text of its modeler.</summary>
+/// <summary>A solid whose geometry is a text of the solid modeler.</summary>
 public abstract partial class CadObjectWithAcisData : CadEntityBase
 {
     internal CadObjectWithAcisData()
     {
     }
 
-    /// <summary>Gets the lines of the modeler's text as they stand in the file, in their simple cipher. Empty in
-    /// drawings of release 2013 and later, which keep the data in a section of its own. Group codes 1 and
-    /// 3.</summary>
+    /// <summary>Gets the lines of the modeler's text as they are in the file, in their simple cipher. Empty in
+    /// drawings of release 2013 and later, which keep the data in a section of its own. Group codes 1 and 3.</summary>
     public List<string> AcisData { get; } = [];
 
     /// <summary>Gets or sets the version of the modeler's text. Group code 70.</summary>

@@ -12,7 +12,7 @@ public abstract partial class CadOwnedObjectBase : CadBaseObject
     }
 
     /// <summary>Gets or sets the handle of the owner in hexadecimal; empty for none. Group code 330.</summary>
-    /// <exception cref="FormatException">The text is no hexadecimal number.</exception>
+    /// <exception cref="FormatException">The text is not a hexadecimal number.</exception>
     public string SoftOwner
     {
         get => Owner == 0 ? "" : Owner.ToString("X", CultureInfo.InvariantCulture);

@@ -52,11 +52,11 @@ public partial class CadPlotSettings : CadObjectBase
     [CadDouble(45)]
     public double PaperHeight { get; set; }
 
-    /// <summary>Gets or sets the place of the plot along X, in millimetres. Group code 46.</summary>
+    /// <summary>Gets or sets the position of the plot along X, in millimetres. Group code 46.</summary>
     [CadDouble(46)]
     public double PlotOriginX { get; set; }
 
-    /// <summary>Gets or sets the place of the plot along Y, in millimetres. Group code 47.</summary>
+    /// <summary>Gets or sets the position of the plot along Y, in millimetres. Group code 47.</summary>
     [CadDouble(47)]
     public double PlotOriginY { get; set; }
 
@@ -76,7 +76,7 @@ public partial class CadPlotSettings : CadObjectBase
     [CadDouble(141)]
     public double PlotWindowTop { get; set; }
 
-    /// <summary>Gets or sets the length on paper that stands for ScaleDenominator drawing units. Group code
+    /// <summary>Gets or sets the length on paper that corresponds to ScaleDenominator drawing units. Group code
     /// 142.</summary>
     [CadDouble(142)]
     public double ScaleNumerator { get; set; } = 1;
@@ -94,7 +94,7 @@ public partial class CadPlotSettings : CadObjectBase
     [CadShort(72)]
     public CadPlotPaperUnits PaperUnits { get; set; } = CadPlotPaperUnits.Millimeters;
 
-    /// <summary>Gets or sets how the drawing is turned on the paper. Group code 73.</summary>
+    /// <summary>Gets or sets how the drawing is rotated on the paper. Group code 73.</summary>
     [CadShort(73)]
     public CadPlotRotation PlotRotation { get; set; }
 

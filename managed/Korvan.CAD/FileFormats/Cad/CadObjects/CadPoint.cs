@@ -11,7 +11,7 @@ public partial class CadPoint : CadExtrudedEntityBase
     {
     }
 
-    /// <summary>Gets or sets the place, in world coordinates. Group codes 10, 20, 30.</summary>
+    /// <summary>Gets or sets the position, in world coordinates. Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint CenterPoint { get; set; } = new();
 

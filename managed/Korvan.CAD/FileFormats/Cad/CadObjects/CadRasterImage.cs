@@ -4,7 +4,7 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
-/// <summary>A picture placed in the drawing.</summary>
+/// <summary>A raster image placed in the drawing.</summary>
 [CadObject("IMAGE", Subclass = "AcDbRasterImage")]
 public partial class CadRasterImage : CadEntityBase
 {

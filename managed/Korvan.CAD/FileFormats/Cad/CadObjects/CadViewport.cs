@@ -24,7 +24,7 @@ public partial class CadViewport : CadEntityBase
     [CadDouble(41)]
     public double Height { get; set; }
 
-    /// <summary>Gets or sets whether it is on: 0 off, -1 on but not active, else its place in the stack. Group code
+    /// <summary>Gets or sets whether it is on: 0 off, -1 on but not active, else its position in the stack. Group code
     /// 68.</summary>
     [CadShort(68)]
     public short ViewportStatus { get; set; } = 1;
@@ -78,7 +78,7 @@ public partial class CadViewport : CadEntityBase
     [CadAngle(50, Since = 2000)]
     public double SnapAngle { get; set; }
 
-    /// <summary>Gets or sets how far the view is turned, in degrees. Group code 51.</summary>
+    /// <summary>Gets or sets the twist angle of the view, in degrees. Group code 51.</summary>
     [CadAngle(51, Since = 2000)]
     public double ViewTwistAngle { get; set; }
 
@@ -113,7 +113,7 @@ public partial class CadViewport : CadEntityBase
     [CadShort(71, Since = 2000)]
     public short UcsPerViewport { get; set; }
 
-    /// <summary>Gets or sets whether the coordinate system icon stands at the origin. Group code 74.</summary>
+    /// <summary>Gets or sets whether the coordinate system icon is at the origin. Group code 74.</summary>
     [CadShort(74, Since = 2000)]
     public short UcsIconAtOrigin { get; set; }
 

@@ -89,7 +89,7 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadDouble(144, Optional = true)]
     public double Dimlfac { get; set; } = 1;
 
-    /// <summary>Gets or sets $DIMTVP: the vertical place of the text. Group code 145.</summary>
+    /// <summary>Gets or sets $DIMTVP: the vertical position of the text. Group code 145.</summary>
     [CadDouble(145, Optional = true)]
     public double Dimtvp { get; set; }
 
@@ -129,8 +129,8 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadShort(76, Optional = true)]
     public short Dimse2 { get; set; }
 
-    /// <summary>Gets or sets $DIMTAD: the place of the text: 0 on the line, 1 above, 2 outside, 3 as in JIS, 4 below.
-    /// Group code 77.</summary>
+    /// <summary>Gets or sets $DIMTAD: the position of the text: 0 on the line, 1 above, 2 outside, 3 as in JIS, 4
+    /// below. Group code 77.</summary>
     [CadShort(77, Optional = true)]
     public short Dimtad { get; set; }
 
@@ -217,7 +217,7 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadShort(277, Optional = true, Since = 2000)]
     public short Dimlunit { get; set; } = 2;
 
-    /// <summary>Gets or sets $DIMDSEP: the decimal separator as the number of its letter. Group code 278.</summary>
+    /// <summary>Gets or sets $DIMDSEP: the decimal separator as the code of its character. Group code 278.</summary>
     [CadShort(278, Optional = true, Since = 2000)]
     public short Dimdsep { get; set; } = 46;
 
@@ -225,7 +225,7 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadShort(279, Optional = true, Since = 2000)]
     public short Dimtmove { get; set; }
 
-    /// <summary>Gets or sets $DIMJUST: the place of the text along the line. Group code 280.</summary>
+    /// <summary>Gets or sets $DIMJUST: the position of the text along the line. Group code 280.</summary>
     [CadShort(280, Optional = true)]
     public short Dimjust { get; set; }
 
@@ -237,7 +237,7 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadShort(282, Optional = true)]
     public short Dimsd2 { get; set; }
 
-    /// <summary>Gets or sets $DIMTOLJ: the vertical place of tolerances. Group code 283.</summary>
+    /// <summary>Gets or sets $DIMTOLJ: the vertical position of tolerances. Group code 283.</summary>
     [CadShort(283, Optional = true)]
     public short Dimtolj { get; set; } = 1;
 
@@ -270,12 +270,12 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadShort(290, Optional = true, Since = 2007)]
     public short Dimfxlon { get; set; }
 
-    /// <summary>Gets or sets $DIMTFILL: what lies behind the text: 0 nothing, 1 the background, 2 a colour. Group
+    /// <summary>Gets or sets $DIMTFILL: the background of the text: 0 nothing, 1 the background, 2 a colour. Group
     /// code 69.</summary>
     [CadShort(69, Optional = true, Since = 2007)]
     public short Dimtfill { get; set; }
 
-    /// <summary>Gets or sets $DIMARCSYM: where the arc symbol stands. Group code 90.</summary>
+    /// <summary>Gets or sets $DIMARCSYM: where the arc symbol is. Group code 90.</summary>
     [CadShort(90, Optional = true, Since = 2007)]
     public short Dimarcsym { get; set; }
 
@@ -331,11 +331,11 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadShort(372, Optional = true, Since = 2000)]
     public short Dimlwe { get; set; } = -2;
 
-    /// <summary>Gets or sets the name of the block of arrowheads in drawings up to release 14; empty for the usual
+    /// <summary>Gets or sets the name of the block of arrowheads in drawings up to release 14; empty for the default
     /// one. Group code 5.</summary>
     public string DimblkName { get; set; } = "";
 
-    /// <summary>Gets or sets $DIMTFILLCLR: the colour number behind the text. Group code 70.</summary>
+    /// <summary>Gets or sets $DIMTFILLCLR: the colour index of the background of the text. Group code 70.</summary>
     public short Dimtfillclr { get; set; }
 
     /// <summary>Gets or sets the name of the block of the first arrowhead in drawings up to release 14. Group
@@ -357,7 +357,7 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
                 DimblkName = reader.GetString();
                 break;
             case 70 when Dimtfill != 0:
-                // The code of the flags, used again behind the kind of fill.
+                // The code of the flags, used again after the kind of fill.
                 Dimtfillclr = reader.GetShort();
                 break;
             default:

@@ -18,7 +18,7 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
     {
     }
 
-    /// <summary>Makes a layer of a name that stands in a file, whatever it is.</summary>
+    /// <summary>Makes a layer of a name as it is in a file, whatever it is.</summary>
     internal static CadLayerTable Stored(string name)
     {
         CadLayerTable layer = new();
@@ -34,7 +34,7 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
         $"{base.ToString()}, colour "
             + $"{StoredColor}{(IsOn ? "" : ", off")}{(IsFrozen ? ", frozen" : "")}{(IsLocked ? ", locked" : "")}";
 
-    /// <summary>Gets or sets the number of the colour, 1 to 255; negative while the layer is off. Group code
+    /// <summary>Gets or sets the index of the colour, 1 to 255; negative while the layer is off. Group code
     /// 62.</summary>
     /// <exception cref="ArgumentOutOfRangeException">The number is 0, or beyond 255 or -255.</exception>
     public short ColorId
@@ -80,7 +80,7 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
     [CadHandle(347, Optional = true, Since = 2007)]
     public string MaterialHandle { get; set; } = "";
 
-    /// <summary>Gets or sets the number of the colour as it stands in the file, whatever it is.</summary>
+    /// <summary>Gets or sets the index of the colour as it is in the file, whatever it is.</summary>
     [CadColor(62)]
     internal short StoredColor { get; set; } = 7;
 

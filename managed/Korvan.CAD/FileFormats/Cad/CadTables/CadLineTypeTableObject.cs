@@ -26,10 +26,10 @@ public partial class CadLineTypeTableObject : CadSymbolTableGroupCodes
     /// <summary>Gets or sets the length of the whole pattern, in drawing units. Group code 40.</summary>
     public double PatternLength { get; set; }
 
-    /// <summary>Gets whether the pattern has letters or shapes in it.</summary>
+    /// <summary>Gets whether the pattern has texts or shapes in it.</summary>
     public bool IsComplex => ComplexTags.Count > 0;
 
-    /// <summary>Gets the tags of letters and shapes, with the number of the element that each follows.</summary>
+    /// <summary>Gets the tags of texts and shapes, with the number of the element that each follows.</summary>
     internal List<(int Element, CadCodeValue Tag)> ComplexTags { get; } = [];
 
     partial void OnReadField(int code, FieldReader reader, ref bool taken)

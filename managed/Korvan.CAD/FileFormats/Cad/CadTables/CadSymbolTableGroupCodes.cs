@@ -38,7 +38,7 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
     /// <returns>The kind and name of the record in one line.</returns>
     public override string ToString() => $"{DxfName} {Name}";
 
-    /// <summary>Takes a name over as it stands in a file.</summary>
+    /// <summary>Takes a name over as it is in the file.</summary>
     private protected void StoreName(string name) => _name = name;
 
     /// <summary>Refuses a name that such a record cannot have; files are read whatever names are in them.</summary>
@@ -68,7 +68,7 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
         fields.BeginSubclass("AcDbSymbolTableRecord");
     }
 
-    /// <summary>Writes what stands first behind the marker of the record.</summary>
+    /// <summary>Carries the fields that come first after the marker of the record.</summary>
     internal virtual void ExchangeNameAndFlags(ObjectExchange fields)
     {
         ExchangeName(fields);

@@ -46,7 +46,7 @@ public partial class CadViewTableObject : CadSymbolTableGroupCodes
     [CadDouble(44)]
     public double BackClippingPlane { get; set; }
 
-    /// <summary>Gets or sets how far the view is turned, in degrees. Group code 50.</summary>
+    /// <summary>Gets or sets the twist angle of the view, in degrees. Group code 50.</summary>
     [CadAngle(50)]
     public double TwistAngle { get; set; }
 

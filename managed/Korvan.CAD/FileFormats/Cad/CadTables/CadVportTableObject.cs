@@ -70,7 +70,7 @@ public partial class CadVportTableObject : CadSymbolTableGroupCodes
     [CadAngle(50)]
     public double SnapRotationAngle { get; set; }
 
-    /// <summary>Gets or sets how far the view is turned, in degrees. Group code 51.</summary>
+    /// <summary>Gets or sets the twist angle of the view, in degrees. Group code 51.</summary>
     [CadAngle(51)]
     public double ViewTwistAngle { get; set; }
 

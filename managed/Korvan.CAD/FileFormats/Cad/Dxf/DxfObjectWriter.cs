@@ -46,24 +46,24 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
         WriteRest(item);
     }
 
-    internal void WriteTableHead(CadTableHead head, int count)
+    internal void WriteTableHeader(CadTableHeader header, int count)
     {
-        writer.Subject = $"the table {head.Name}";
+        writer.Subject = $"the table {header.Name}";
         writer.BeginObject();
         writer.Write(0, "TABLE");
-        writer.Write(2, head.Name);
-        WriteIdentity(head);
+        writer.Write(2, header.Name);
+        WriteIdentity(header);
         writer.WriteSubclass("AcDbSymbolTable");
         writer.Write(70, count);
-        writer.WriteKept(head, "AcDbSymbolTable");
-        if (head.Name == "DIMSTYLE" && writer.Release >= 2000)
+        writer.WriteKept(header, "AcDbSymbolTable");
+        if (header.Name == "DIMSTYLE" && writer.Release >= 2000)
         {
             // Only the marker tells readers that this table is the one with a list of handles.
             writer.WriteSubclass("AcDbDimStyleTable");
-            writer.WriteKept(head, "AcDbDimStyleTable");
+            writer.WriteKept(header, "AcDbDimStyleTable");
         }
 
-        WriteRest(head);
+        WriteRest(header);
     }
 
     private void WriteSeqend(CadSeqend? end)
@@ -117,7 +117,7 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
         }
     }
 
-    // Tags behind markers that the class does not know follow with their markers.
+    // Tags after markers that the class does not know follow with their markers.
     private void WriteKeptElsewhere(CadBaseObject item)
     {
         string? marker = null;

@@ -29,9 +29,9 @@ internal sealed partial class DxfReader
 
     private void ReadTable()
     {
-        CadTableHead head = new();
-        _objects.ReadBody(head);
-        _drawing.TableHeads[head.Name] = head;
+        CadTableHeader header = new();
+        _objects.ReadBody(header);
+        _drawing.TableHeaders[header.Name] = header;
         while (NextObject() is { } name && name != "ENDTAB")
         {
             CadSymbolTableGroupCodes? record = ObjectTypes.CreateTableRecord(name);
@@ -163,7 +163,7 @@ internal sealed partial class DxfReader
         }
     }
 
-    // The tags of a damaged object are passed over; what follows it is read as usual.
+    // The tags of a damaged object are passed over; what follows it is read as always.
     private void LeaveOut(ImageLoadException failure)
     {
         _options.Note(failure);

@@ -68,7 +68,8 @@ internal sealed partial class DxfReader
             else if (_tags.Code != 0 || !_tags.ValueIs("ENDSEC"u8))
             {
                 throw _tags.Fail(
-                LoadDefectCode.Misplaced, $"group code {_tags.Code} with the value '{_tags.ValueText()}' stands between "
+                LoadDefectCode.Misplaced,
+                $"group code {_tags.Code} with the value '{_tags.ValueText()}' stands between "
                     + "sections; 0 SECTION or 0 EOF was expected");
             }
         }
@@ -76,7 +77,8 @@ internal sealed partial class DxfReader
         if (!_hasEntities)
         {
             throw _tags.Fail(
-                LoadDefectCode.EndsEarly, "the file ends before its section ENTITIES; it has been cut off");
+                LoadDefectCode.EndsEarly,
+                "the file ends before its section ENTITIES; it has been cut off");
         }
     }
 
@@ -127,13 +129,15 @@ internal sealed partial class DxfReader
         if (!_tags.Next())
         {
             throw _tags.Fail(
-                LoadDefectCode.SectionWithoutEnd, $"the section {name}, which begins on line {line}, never ends; 0 ENDSEC was expected");
+                LoadDefectCode.SectionWithoutEnd,
+                $"the section {name}, which begins on line {line}, never ends; 0 ENDSEC was expected");
         }
 
         if (_tags.Code != 0 || !_tags.ValueIs("ENDSEC"u8))
         {
             throw _tags.Fail(
-                LoadDefectCode.Misplaced, $"group code {_tags.Code} with the value '{_tags.ValueText()}' stands in the section "
+                LoadDefectCode.Misplaced,
+                $"group code {_tags.Code} with the value '{_tags.ValueText()}' stands in the section "
                 + $"{name}, where 0 ENDSEC was expected");
         }
     }
@@ -147,7 +151,8 @@ internal sealed partial class DxfReader
             if (_tags.Code != 0)
             {
                 throw _tags.Fail(
-                LoadDefectCode.Misplaced, $"group code {_tags.Code} stands where group code 0 and the name of an object were "
+                LoadDefectCode.Misplaced,
+                $"group code {_tags.Code} stands where group code 0 and the name of an object were "
                     + "expected");
             }
 
@@ -249,15 +254,15 @@ internal sealed partial class DxfReader
         }
 
         _tags.Unread();
-        byte[] picture = new byte[TotalLength(chunks)];
-        int place = 0;
+        byte[] image = new byte[TotalLength(chunks)];
+        int position = 0;
         foreach (byte[] chunk in chunks)
         {
-            chunk.CopyTo(picture, place);
-            place += chunk.Length;
+            chunk.CopyTo(image, position);
+            position += chunk.Length;
         }
 
-        _drawing.ThumbnailImage = picture;
+        _drawing.ThumbnailImage = image;
     }
 
     private static int TotalLength(List<byte[]> chunks)

@@ -68,14 +68,14 @@ internal sealed partial class DxfTagReader : FieldReader
         return true;
     }
 
-    /// <summary>Makes <see cref="Next"/> give the current tag again; behind the last tag there is none to give.
+    /// <summary>Makes <see cref="Next"/> give the current tag again; after the last tag there is none to give.
     /// </summary>
     internal override void Unread() => _unread = !_ended;
 
     internal bool ValueIs(ReadOnlySpan<byte> text) => Trimmed().SequenceEqual(text);
 
-    /// <summary>Looks for a code in the rest of the current object without leaving the place.</summary>
-    /// <returns>Its value as a whole number, or nothing.</returns>
+    /// <summary>Looks for a code in the rest of the current object without leaving the position.</summary>
+    /// <returns>Its value as an integer, or nothing.</returns>
     internal int? Peek(int code)
     {
         int? found = null;
@@ -107,7 +107,7 @@ internal sealed partial class DxfTagReader : FieldReader
         }
         else if (!FastDouble.TryParse(Trimmed(), out value))
         {
-            throw NotA(LoadDefectCode.BadNumber, "number");
+            throw NotA(LoadDefectCode.BadNumber, "a number");
         }
 
         return double.IsFinite(value) ? value : throw Fail(
@@ -145,7 +145,7 @@ internal sealed partial class DxfTagReader : FieldReader
         // Some programs write integers with a fraction of zero or a sign.
         return FastDouble.TryParse(text, out double number) && Math.Abs(number) < 9e18 && number == Math.Floor(number)
             ? (long)number
-            : throw NotA(LoadDefectCode.BadInteger, "whole number");
+            : throw NotA(LoadDefectCode.BadInteger, "an integer");
     }
 
     /// <summary>Reads how many parts follow; a count that the rest of the file cannot hold is damage.</summary>
@@ -156,7 +156,8 @@ internal sealed partial class DxfTagReader : FieldReader
         return count >= 0 && count <= (Remaining / (IsBinary ? 2 : smallestTag)) + 1
             ? (int)count
             : throw Fail(
-                LoadDefectCode.CountTooLarge, $"group code {Code} announces {count} parts, but only {Remaining} bytes follow");
+                LoadDefectCode.CountTooLarge,
+                $"group code {Code} announces {count} parts, but only {Remaining} bytes follow");
     }
 
     internal override ulong GetHandle()
@@ -189,13 +190,14 @@ internal sealed partial class DxfTagReader : FieldReader
         catch (FormatException)
         {
             throw Fail(
-                LoadDefectCode.BadBinary, $"group code {Code} holds bytes that are not written in pairs of hexadecimal digits");
+                LoadDefectCode.BadBinary,
+                $"group code {Code} holds bytes that are not written in pairs of hexadecimal digits");
         }
 
         return [.. before, .. chunk];
     }
 
-    /// <summary>Gives the current tag as it stands in the file.</summary>
+    /// <summary>Gives the current tag as it is in the file.</summary>
     internal override CadCodeValue ToCodeValue() => new(Code, ValueText());
 
     /// <summary>Describes damage at the current tag.</summary>
@@ -248,7 +250,8 @@ internal sealed partial class DxfTagReader : FieldReader
         }
 
         (_start, _length) = (start, Math.Min(length, 40));
-        throw Fail(LoadDefectCode.BadGroupCode, $"'{Shortened(ValueText())}' is no group code; a whole number was expected");
+        throw Fail(
+            LoadDefectCode.BadGroupCode, $"'{Shortened(ValueText())}' is no group code; an integer was expected");
     }
 
     private (int Start, int Length) TakeLine()
@@ -321,7 +324,7 @@ internal sealed partial class DxfTagReader : FieldReader
 
     private ImageLoadException NotA(LoadDefectCode defect, string kind)
     {
-        return Fail(defect, $"group code {Code} has the value '{Shortened(ValueText())}'; a {kind} was expected");
+        return Fail(defect, $"group code {Code} has the value '{Shortened(ValueText())}'; {kind} was expected");
     }
 
     private static string Shortened(string text) => text.Length > 60 ? text[..60] + "…" : text;

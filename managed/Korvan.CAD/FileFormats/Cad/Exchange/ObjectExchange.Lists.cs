@@ -78,7 +78,8 @@ internal abstract partial class ObjectExchange
         }
     }
 
-    /// <summary>Gives the item of a list whose fields follow; an object that takes values over gets a new one.</summary>
+    /// <summary>Gives the item of a list whose fields follow; an object that takes values over gets a new
+    /// one.</summary>
     internal T Item<T>(IList<T> items, int index)
         where T : class, new()
     {

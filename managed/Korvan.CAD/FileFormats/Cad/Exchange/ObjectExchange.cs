@@ -65,9 +65,9 @@ internal abstract partial class ObjectExchange
     /// <param name="count">The number.</param>
     internal abstract int Count(int code, int count);
 
-    /// <summary>Carries a string of any length, which text files break into pieces.</summary>
-    /// <param name="pieceCode">The group code of pieces that others follow.</param>
-    /// <param name="lastCode">The group code of the last piece.</param>
+    /// <summary>Carries a string of any length, which text files break into chunks.</summary>
+    /// <param name="pieceCode">The group code of chunks that others follow.</param>
+    /// <param name="lastCode">The group code of the last chunk.</param>
     /// <param name="value">The string.</param>
     internal abstract string LongText(int pieceCode, int lastCode, string value);
 

@@ -24,9 +24,9 @@ internal static class DrawingWalk
     {
         foreach (string table in TableRecords.Names)
         {
-            if (drawing.TableHeads.TryGetValue(table, out CadTableHead? head))
+            if (drawing.TableHeaders.TryGetValue(table, out CadTableHeader? header))
             {
-                yield return head;
+                yield return header;
             }
 
             foreach (CadBaseObject record in TableRecords.Of(drawing, table))

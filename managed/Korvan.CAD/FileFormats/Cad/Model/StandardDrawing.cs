@@ -75,7 +75,7 @@ internal static class StandardDrawing
         drawing.BlockRecords.Add(new CadBlockTableObject { Name = drawing.PaperSpace.Name });
         foreach (string table in TableRecords.Names)
         {
-            drawing.TableHeads.Add(table, new CadTableHead { Name = table });
+            drawing.TableHeaders.Add(table, new CadTableHeader { Name = table });
         }
     }
 

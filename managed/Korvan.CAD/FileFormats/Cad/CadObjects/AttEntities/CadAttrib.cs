@@ -7,6 +7,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 [CadObject("ATTRIB", Subclass = "AcDbAttribute")]
 public partial class CadAttrib : CadText
 {
+    private const int LockCode = 280;
+
     /// <summary>Creates the object with its defaults.</summary>
     public CadAttrib()
     {
@@ -21,39 +23,30 @@ public partial class CadAttrib : CadText
     [CadShort(70)]
     public short AttFlags { get; set; }
 
-    /// <summary>Gets or sets the greatest number of letters; 0 for any. Group code 73.</summary>
+    /// <summary>Gets or sets the maximum number of characters; 0 for any. Group code 73.</summary>
     [CadShort(73, Optional = true)]
     public short FieldLength { get; set; }
 
-    /// <summary>Gets or sets whether the place within the block is locked. Group code 280.</summary>
+    /// <summary>Gets or sets whether the position within the block is locked. Group code 280.</summary>
     public bool LockPosition { get; set; }
 
     partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
-        // The vertical alignment of an attribute has a code of its own: 73 is the field length here.
-        if (code == 74)
+        if (code == LockCode)
         {
-            VerticalAlignment = reader.GetShort();
-            taken = true;
-        }
-        else if (code == 280)
-        {
-            // The version stands before the tag, the lock behind it.
+            // The version stands before the tag, the lock after it.
             LockPosition = DefinitionTagString.Length > 0 && reader.GetShort() != 0;
-            taken = true;
         }
+
+        taken = code == LockCode || ReadVerticalAlignment(code, reader);
     }
 
     partial void OnExchange(ObjectExchange fields)
     {
-        if (fields.Includes(0, VerticalAlignment != 0))
-        {
-            VerticalAlignment = fields.Int16(74, VerticalAlignment);
-        }
-
+        ExchangeVerticalAlignment(fields, AttributeAlignmentCode);
         if (fields.Includes(2010, true))
         {
-            LockPosition = fields.Bool(280, LockPosition);
+            LockPosition = fields.Bool(LockCode, LockPosition);
         }
     }
 }

@@ -6,10 +6,10 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
-/// <summary>An outline of edges of several kinds.</summary>
+/// <summary>A boundary path of edges of several types.</summary>
 public class CadEdgeBoundaryPath : ICadBoundaryPath
 {
-    /// <summary>Creates an outline without edges.</summary>
+    /// <summary>Creates a boundary path without edges.</summary>
     public CadEdgeBoundaryPath()
     {
     }

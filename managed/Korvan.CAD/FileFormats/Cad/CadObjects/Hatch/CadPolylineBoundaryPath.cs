@@ -4,10 +4,10 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
-/// <summary>An outline of straight pieces and arcs.</summary>
+/// <summary>A boundary of straight segments and arcs.</summary>
 public class CadPolylineBoundaryPath : ICadBoundaryPath
 {
-    /// <summary>Creates a closed outline without vertices.</summary>
+    /// <summary>Creates a closed boundary without vertices.</summary>
     public CadPolylineBoundaryPath()
     {
     }
@@ -18,7 +18,7 @@ public class CadPolylineBoundaryPath : ICadBoundaryPath
     /// <summary>Gets the vertices, in object coordinates. The list is live. Group codes 10, 20.</summary>
     public IList<Cad2DPoint> Vertices { get; } = new CheckedList<Cad2DPoint>("vertices");
 
-    /// <summary>Gets the bulges of the pieces that begin at the vertices; empty where all are straight. The list is
+    /// <summary>Gets the bulges of the segments that begin at the vertices; empty where all are straight. The list is
     /// live. Group code 42.</summary>
     public List<double> Bulges { get; } = [];
 

@@ -3,7 +3,7 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
-/// <summary>The parts of a hatch whose group codes depend on their place.</summary>
+/// <summary>The parts of a hatch whose group codes depend on their position.</summary>
 internal static class HatchFields
 {
     internal static void ReadPaths(CadHatch hatch, FieldReader reader)
@@ -192,10 +192,10 @@ internal static class HatchFields
 
     private static void ExchangeGradientColor(CadHatch hatch, int index, ObjectExchange fields)
     {
-        (double place, short? colorId) = index < hatch.GradientStops.Count
+        (double position, short? colorId) = index < hatch.GradientStops.Count
             ? hatch.GradientStops[index]
             : ((double)index, null);
-        place = fields.Double(463, place);
+        position = fields.Double(463, position);
         if (fields.Includes(0, colorId is not null))
         {
             colorId = fields.Color(63, colorId ?? 0);
@@ -204,7 +204,7 @@ internal static class HatchFields
         int color = fields.Int32(421, index < hatch.GradientColors.Count ? hatch.GradientColors[index] : 0);
         if (fields.IsReading)
         {
-            hatch.GradientStops.Add((place, colorId));
+            hatch.GradientStops.Add((position, colorId));
             hatch.GradientColors.Add(color);
         }
     }

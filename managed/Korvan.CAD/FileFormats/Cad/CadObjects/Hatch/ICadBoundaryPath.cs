@@ -2,7 +2,7 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
-/// <summary>The outline of a hatched area.</summary>
+/// <summary>A boundary path of a hatch.</summary>
 public interface ICadBoundaryPath
 {
     internal bool ReadField(int code, FieldReader reader);

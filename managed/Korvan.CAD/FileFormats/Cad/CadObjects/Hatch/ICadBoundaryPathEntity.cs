@@ -3,7 +3,7 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
-/// <summary>An edge of an outline.</summary>
+/// <summary>An edge of a boundary path.</summary>
 public interface ICadBoundaryPathEntity
 {
     /// <summary>Gets the kind of the edge. Group code 72.</summary>

@@ -14,7 +14,7 @@ public partial class CadMLineStyleElement
     [CadDouble(49)]
     public double Offset { get; set; }
 
-    /// <summary>Gets or sets the number of the colour. Group code 62.</summary>
+    /// <summary>Gets or sets the index of the colour. Group code 62.</summary>
     [CadColor(62)]
     public short ColorId { get; set; } = 256;
 

@@ -27,7 +27,7 @@ public partial class CadMLineStyleObject : CadObjectBase
     [CadString(3)]
     public string Description { get; set; } = "";
 
-    /// <summary>Gets or sets the number of the fill's colour. Group code 62.</summary>
+    /// <summary>Gets or sets the colour index of the fill. Group code 62.</summary>
     [CadColor(62)]
     public short FillColorId { get; set; } = 256;
 

@@ -3,8 +3,8 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
-/// <summary>What stands before the records of a symbol table.</summary>
-internal sealed class CadTableHead : CadOwnedObjectBase
+/// <summary>The header of a symbol table.</summary>
+internal sealed class CadTableHeader : CadOwnedObjectBase
 {
     internal string Name { get; set; } = "";
 
