@@ -4,6 +4,9 @@ using System.IO;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.ImageOptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
@@ -170,6 +173,22 @@ public class DeviceTests
         Assert.Equal(expected, list.Bounds.MinX, 6);
         Assert.Equal((HorizontalAlign)align == HorizontalAlign.Fit ? right : expected + width, list.Bounds.MaxX, 6);
         Assert.Equal(vertical == 3 ? 40 : 50, list.Bounds.MinY, 6);
+    }
+
+    [Fact]
+    public void Metafiles_state_the_size_of_a_device_unit_alike_in_all_their_measures()
+    {
+        using var file = new MemoryStream();
+        var raster = new CadRasterizationOptions { PageWidth = 200, PageHeight = 100 };
+        CadImage drawing = Picture.Drawing(new CadLine { SecondPoint = new Cad3DPoint(200, 100, 0) });
+        drawing.Save(file, new EmfOptions { VectorRasterizationOptions = raster });
+        int Field(int at) => BitConverter.ToInt32(file.GetBuffer(), at);
+        (int width, int height) = (Field(72), Field(76));
+        Assert.Equal(2.0, (double)width / height, 1e-2);
+        Assert.Equal((width, height), (Field(32), Field(36))); // the frame, in hundredths of a millimetre
+        Assert.InRange(Field(80), (width / 100) - 1, (width / 100) + 1); // the device in millimetres
+        Assert.InRange(Field(84), (height / 100) - 1, (height / 100) + 1);
+        Assert.Equal((width * 10, height * 10), (Field(100), Field(104))); // and in micrometres
     }
 
     [Fact]

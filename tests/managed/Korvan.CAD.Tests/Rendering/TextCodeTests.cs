@@ -120,6 +120,20 @@ public class TextCodeTests
         Assert.Equal(baseline, run.Y, 9);
     }
 
+    [Theory]
+    [InlineData("j", false)] // justified: all lines but the last
+    [InlineData("d", true)] // distributed: the last one, too
+    [InlineData("l", null)]
+    public void Justified_lines_reach_the_margin(string alignment, bool? lastToo)
+    {
+        using var engine = new TextEngine();
+        MTextLayout layout = Lay(engine, $"\\pq{alignment};mm mm mm mm mm mm mm mm mm", new MTextFrame(30, 1, 1, true));
+        double[] ends = [.. layout.Runs.GroupBy(run => run.Y).OrderByDescending(line => line.Key).Select(line => line.Max(run => run.X + run.Width))];
+        Assert.True(ends.Length >= 2);
+        Assert.All(ends[..^1], end => Assert.Equal(lastToo is not null, Math.Abs(end - 30) < 1e-6));
+        Assert.Equal(lastToo is true, Math.Abs(ends[^1] - 30) < 1e-6);
+    }
+
     [Fact]
     public void Capitals_are_as_high_as_the_drawing_says_and_every_sign_has_a_glyph()
     {
