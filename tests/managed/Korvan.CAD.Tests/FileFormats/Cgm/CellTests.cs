@@ -60,7 +60,10 @@ public class CellTests
                 int[] cells = Cells(random, width * height, bits == 0 ? 8 : bits, isIndexed, longest);
                 Command[] commands =
                 [
-                    new ColourSelectionMode { Value = isIndexed ? ColourSelectionMode.Type.Indexed : ColourSelectionMode.Type.Direct },
+                    new ColourSelectionMode
+                    {
+                        Value = isIndexed ? ColourSelectionMode.Type.Indexed : ColourSelectionMode.Type.Direct,
+                    },
                     new CellArray { CellsPerLine = width, LineCount = height, LocalPrecision = bits, Cells = cells },
                     new PatternTable { CellsPerLine = width, LineCount = height, LocalPrecision = bits, Cells = cells },
                 ];
@@ -78,9 +81,19 @@ public class CellTests
     [Fact]
     public void Long_runs_are_written_as_runs_and_others_packed()
     {
-        byte[] one = Save([new CellArray { CellsPerLine = 4, LineCount = 2, Cells = [7, 7, 7, 7, 7, 7, 7, 7] }], CgmFileFormat.Binary);
+        byte[] one = Save(
+            [new CellArray { CellsPerLine = 4, LineCount = 2, Cells = [7, 7, 7, 7, 7, 7, 7, 7] }],
+            CgmFileFormat.Binary);
         Assert.EndsWith("0001" + "07070707" + "07070707" + End, Convert.ToHexString(one));
-        byte[] many = Save([new CellArray { CellsPerLine = 100, LineCount = 2, Cells = [.. Enumerable.Repeat(7, 150), .. Enumerable.Repeat(9, 50)] }], CgmFileFormat.Binary);
+        byte[] many = Save(
+            [
+                new CellArray
+                {
+                    CellsPerLine = 100, LineCount = 2,
+                    Cells = [.. Enumerable.Repeat(7, 150), .. Enumerable.Repeat(9, 50)],
+                },
+            ],
+            CgmFileFormat.Binary);
         Assert.EndsWith("0000" + "006407" + "00" + "003207" + "003209" + End, Convert.ToHexString(many));
     }
 
@@ -99,10 +112,14 @@ public class CellTests
     [InlineData(ColourModel.Model.CieLab, 53.59, 0, 0, 0x808080)]
     [InlineData(ColourModel.Model.CieLuv, 53.24, 175.01, 37.76, 0xFF0000)]
     [InlineData(ColourModel.Model.CieLuv, 87.73, -83.08, 107.40, 0x00FF00)]
-    public void Cie_colours_lead_to_the_ones_that_tables_of_them_name(ColourModel.Model model, double first, double second, double third, int expected)
+    public void Cie_colours_lead_to_the_ones_that_tables_of_them_name(
+        ColourModel.Model model, double first, double second, double third, int expected)
     {
         const double scale = 0.01;
-        var state = new CodingState { ColorModel = model, ColorScale = [scale, scale, scale], ColorOffset = [0, -128, -128] };
+        var state = new CodingState
+        {
+            ColorModel = model, ColorScale = [scale, scale, scale], ColorOffset = [0, -128, -128],
+        };
         var coding = new ColorCoding(state);
         long[] components = [(long)(first / scale), (long)((second + 128) / scale), (long)((third + 128) / scale)];
         AssertNear(expected, coding.ToArgb(components), 1);
@@ -144,7 +161,9 @@ public class CellTests
     {
         foreach (int shift in new[] { 16, 8, 0 })
         {
-            Assert.InRange((actual >> shift) & 0xFF, ((expected >> shift) & 0xFF) - tolerance, ((expected >> shift) & 0xFF) + tolerance);
+            Assert.InRange(
+                (actual >> shift) & 0xFF, ((expected >> shift) & 0xFF) - tolerance,
+                ((expected >> shift) & 0xFF) + tolerance);
         }
     }
 }

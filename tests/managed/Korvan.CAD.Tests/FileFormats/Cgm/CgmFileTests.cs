@@ -27,7 +27,11 @@ public sealed class CgmFileTests : IDisposable
     {
         string path = Path.Combine(_folder, "plan.cgm");
         var file = new CgmFile();
-        file.Commands.AddRange([new BeginMetafile("plan"), new MetafileVersion(1), new BeginPicture("one"), new BeginPictureBody(), new EndPicture(), new BeginPicture("two"), new BeginPictureBody(), new EndPicture(), new EndMetafile()]);
+        file.Commands.AddRange(
+            [
+                new BeginMetafile("plan"), new MetafileVersion(1), new BeginPicture("one"), new BeginPictureBody(),
+                new EndPicture(), new BeginPicture("two"), new BeginPictureBody(), new EndPicture(), new EndMetafile(),
+            ]);
         file.Save(path, format);
         if (isPacked)
         {
@@ -60,7 +64,9 @@ public sealed class CgmFileTests : IDisposable
     [InlineData("%!PS-Adobe-3.0\n%%BoundingBox: 0 0 1 1\n", false)]
     [InlineData("BEGIN", false)]
     public void Clear_text_files_are_told_by_their_first_word(string head, bool isCgm) =>
-        Assert.Equal(isCgm ? FileFormat.Cgm : FileFormat.Undefined, Image.GetFileFormat(new MemoryStream(Encoding.Latin1.GetBytes(head))));
+        Assert.Equal(
+            isCgm ? FileFormat.Cgm : FileFormat.Undefined,
+            Image.GetFileFormat(new MemoryStream(Encoding.Latin1.GetBytes(head))));
 
     [Theory]
     [InlineData("302022", "character encoding")]
@@ -80,7 +86,8 @@ public sealed class CgmFileTests : IDisposable
     [Fact]
     public void A_packed_file_that_is_cut_is_refused()
     {
-        byte[] packed = Pack(Save([.. Enumerable.Range(0, 1000).Select(i => (Command)new LineWidth(i))], CgmFileFormat.Binary));
+        byte[] packed = Pack(
+            Save([.. Enumerable.Range(0, 1000).Select(i => (Command)new LineWidth(i))], CgmFileFormat.Binary));
         Assert.Throws<ImageLoadException>(() => Load(packed[..(packed.Length / 2)]));
     }
 
@@ -91,7 +98,9 @@ public sealed class CgmFileTests : IDisposable
         File.WriteAllText(path, "old");
         var file = new CgmFile();
         file.Commands.AddRange([new BeginMetafile("t"), new Polyline { Points = [new(1e9, 0)] }, new EndMetafile()]);
-        Assert.StartsWith($"'{path}', command 1, LINE (4, 1): ", Assert.Throws<ImageSaveException>(() => file.Save(path, CgmFileFormat.Binary)).Message);
+        Assert.StartsWith(
+            $"'{path}', command 1, LINE (4, 1): ",
+            Assert.Throws<ImageSaveException>(() => file.Save(path, CgmFileFormat.Binary)).Message);
         var stream = new MemoryStream();
         Assert.Throws<ImageSaveException>(() => file.Save(stream, CgmFileFormat.Binary));
         file.Commands.RemoveRange(1, 2);
@@ -134,7 +143,9 @@ public sealed class CgmFileTests : IDisposable
             {
                 CgmFile? file = null;
                 Exception? failure = Record.Exception(() => file = Load(changed, forgiving));
-                Assert.True(failure is null or ImageLoadException, $"seed {seed}, round {round}, forgiving {forgiving}: {failure}");
+                Assert.True(
+                    failure is null or ImageLoadException,
+                    $"seed {seed}, round {round}, forgiving {forgiving}: {failure}");
                 read += file is null ? 0 : 1;
             }
         }
@@ -144,7 +155,11 @@ public sealed class CgmFileTests : IDisposable
 
     private static byte[] Changed(byte[] whole, Random random, CgmFileFormat format)
     {
-        string[] words = [";", "'", "\"", "%", "-1", "99999999999", "1e308", "16#FFFF", "LINE", "BEGMFDEFAULTS;", "ENDMFDEFAULTS;", "INCRLINE", "\u001b%G\u00ff"];
+        string[] words =
+        [
+            ";", "'", "\"", "%", "-1", "99999999999", "1e308", "16#FFFF", "LINE", "BEGMFDEFAULTS;", "ENDMFDEFAULTS;",
+            "INCRLINE", "\u001b%G\u00ff",
+        ];
         byte[] changed = [.. whole];
         for (int i = random.Next(1, 6); i > 0; i--)
         {
