@@ -62,10 +62,10 @@ public class BinaryReaderTests
     [InlineData("11C4 0004 0147", "", "CEB1", "α")] // a complete code, "G": UTF-8
     [InlineData("11C4 0004 0147", "", "CEB1 FF", "Î±ÿ")] // what is no UTF-8 after all is not lost
     [InlineData("11C8 0000 0142 0001 0142", "5282 0002", "A1", "Ą")] // the right half of ISO/IEC 8859-2
-    public void Texts_are_read_in_their_character_set(string sets, string choice, string letters, string expected)
+    public void Texts_are_read_in_their_character_set(string sets, string choice, string characters, string expected)
     {
-        int length = Hex(letters).Length;
-        string text = $"{0x4080 + 7 + length:X4} 0000 0000 0001 {length:X2} {letters}" + (length % 2 == 0 ? "00" : "");
+        int length = Hex(characters).Length;
+        string text = $"{0x4080 + 7 + length:X4} 0000 0000 0001 {length:X2} {characters}" + (length % 2 == 0 ? "00" : "");
         CgmFile file = Load(Metafile(sets, "0062 0000 0080", choice, text, "00A0"));
         Assert.Equal(expected, file.Commands.OfType<Text>().Single().Content);
     }
@@ -73,10 +73,10 @@ public class BinaryReaderTests
     [Fact]
     public void Texts_may_be_long_and_in_parts()
     {
-        string letters = string.Concat(Enumerable.Repeat("61", 300));
+        string characters = string.Concat(Enumerable.Repeat("61", 300));
         CgmFile file = Load(
             Metafile(
-                "007F 012F FF 012C", letters, "00", "007F 0133 FF 8064", letters[..200], "00C8", letters[200..], "00"));
+                "007F 012F FF 012C", characters, "00", "007F 0133 FF 8064", characters[..200], "00C8", characters[200..], "00"));
         Assert.Equal([new string('a', 300), new string('a', 300)], file.PictureNames);
     }
 

@@ -15,7 +15,7 @@ public class CellTests
     private const string Corners = "0000 0000 0000 0001 0001 0000";
 
     [Theory]
-    [InlineData(3, 2, "0001 0001 A000 4000", new[] { 1, 0, 1, 0, 1, 0 })] // 1 bit, packed; lines begin at words
+    [InlineData(3, 2, "0001 0001 A000 4000", new[] { 1, 0, 1, 0, 1, 0 })] // 1 bit, packed; rows start at words
     [InlineData(3, 2, "0002 0001 6C00 2400", new[] { 1, 2, 3, 0, 2, 1 })]
     [InlineData(5, 1, "0004 0001 1234 5000", new[] { 1, 2, 3, 4, 5 })]
     [InlineData(3, 2, "0000 0001 0102 0300 0405 06", new[] { 1, 2, 3, 4, 5, 6 })] // 8 bits are what is usual
@@ -136,7 +136,7 @@ public class CellTests
         AssertNear(0x404040, inks.ToArgb([0, 0, 0, 191]), 0);
         var extent = new ColorCoding(new CodingState { ColorLow = [100, 0, 0, 0], ColorHigh = [200, 65535, 1, 0] });
         AssertNear(0x80FF00, extent.ToArgb([150, 65535, 0]), 0);
-        AssertNear(0x000000, extent.ToArgb([20, 0, 0]), 0); // below what stands for no light
+        AssertNear(0x000000, extent.ToArgb([20, 0, 0]), 0); // below the minimum intensity
         long[] components = new long[3];
         extent.FromArgb(0xFF00FF, components);
         Assert.Equal([200, 0, 1], components);

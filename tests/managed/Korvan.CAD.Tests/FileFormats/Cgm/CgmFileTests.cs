@@ -11,7 +11,7 @@ using static Korvan.CAD.Tests.FileFormats.Cgm.CgmBytes;
 
 namespace Korvan.CAD.Tests.FileFormats.Cgm;
 
-/// <summary>Whole files: what they are told by, how they are read, and that none is written by half.</summary>
+/// <summary>Whole files: detection, reading, and that none is written in part.</summary>
 public sealed class CgmFileTests : IDisposable
 {
     private readonly string _folder = Directory.CreateTempSubdirectory().FullName;
@@ -55,18 +55,18 @@ public sealed class CgmFileTests : IDisposable
     [InlineData("0022 0974 1022 0001", false)] // a name that is longer than its element
     [InlineData("0000 0100 0100 1010", false)] // an icon
     [InlineData("0001 0000 0012 0100", false)] // a font
-    public void Binary_files_are_told_by_their_first_elements(string head, bool isCgm) =>
-        Assert.Equal(isCgm ? FileFormat.Cgm : FileFormat.Undefined, Image.GetFileFormat(new MemoryStream(Hex(head))));
+    public void Binary_files_are_detected_by_their_first_elements(string header, bool isCgm) =>
+        Assert.Equal(isCgm ? FileFormat.Cgm : FileFormat.Undefined, Image.GetFileFormat(new MemoryStream(Hex(header))));
 
     [Theory]
     [InlineData("BEGMF 'a';", true)]
     [InlineData("\r\n % drawn by hand % b_e$gmf 'a';", true)]
     [InlineData("%!PS-Adobe-3.0\n%%BoundingBox: 0 0 1 1\n", false)]
     [InlineData("BEGIN", false)]
-    public void Clear_text_files_are_told_by_their_first_word(string head, bool isCgm) =>
+    public void Clear_text_files_are_detected_by_their_first_keyword(string header, bool isCgm) =>
         Assert.Equal(
             isCgm ? FileFormat.Cgm : FileFormat.Undefined,
-            Image.GetFileFormat(new MemoryStream(Encoding.Latin1.GetBytes(head))));
+            Image.GetFileFormat(new MemoryStream(Encoding.Latin1.GetBytes(header))));
 
     [Theory]
     [InlineData("302022", "character encoding")]
@@ -155,7 +155,7 @@ public sealed class CgmFileTests : IDisposable
 
     private static byte[] Changed(byte[] whole, Random random, CgmFileFormat format)
     {
-        string[] words =
+        string[] tokens =
         [
             ";", "'", "\"", "%", "-1", "99999999999", "1e308", "16#FFFF", "LINE", "BEGMFDEFAULTS;", "ENDMFDEFAULTS;",
             "INCRLINE", "\u001b%G\u00ff",
@@ -167,8 +167,8 @@ public sealed class CgmFileTests : IDisposable
             switch (random.Next(4))
             {
                 case 0 when format == CgmFileFormat.ClearText:
-                    byte[] word = Encoding.Latin1.GetBytes(words[random.Next(words.Length)]);
-                    changed = [.. changed[..at], .. word, .. changed[at..]];
+                    byte[] token = Encoding.Latin1.GetBytes(tokens[random.Next(tokens.Length)]);
+                    changed = [.. changed[..at], .. token, .. changed[at..]];
                     break;
                 case 1:
                     changed = [.. changed[..at], .. changed[Math.Min(changed.Length, at + random.Next(1, 9))..]];

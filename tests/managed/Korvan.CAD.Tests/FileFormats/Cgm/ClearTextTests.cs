@@ -12,7 +12,7 @@ using static Korvan.CAD.Tests.FileFormats.Cgm.CgmBytes;
 
 namespace Korvan.CAD.Tests.FileFormats.Cgm;
 
-/// <summary>Words and numbers in all the ways that ISO/IEC 8632-4 lets them be written.</summary>
+/// <summary>Keywords and numbers in all the forms of ISO/IEC 8632-4.</summary>
 public class ClearTextTests
 {
     [Theory]
@@ -58,7 +58,7 @@ public class ClearTextTests
     [InlineData("\"\"\"\"", "\"")]
     [InlineData("''", "")]
     [InlineData("'a\u001b%G\u00ce\u00b1\u001b%@'", "aα")]
-    public void Texts_keep_what_stands_between_their_quotes(string quoted, string expected)
+    public void Strings_keep_what_is_between_their_quotes(string quoted, string expected)
     {
         Assert.Equal([expected], LoadText($"BEGMF 't';BEGPIC {quoted};BEGPICBODY;ENDPIC;ENDMF;").PictureNames);
     }

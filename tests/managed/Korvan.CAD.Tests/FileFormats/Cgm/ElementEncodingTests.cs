@@ -12,7 +12,7 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cgm;
 
-/// <summary>Elements as bytes and words that were put together by hand from ISO/IEC 8632-3 and 8632-4.</summary>
+/// <summary>Elements in both encodings, put together by hand from ISO/IEC 8632-3 and 8632-4.</summary>
 public class ElementEncodingTests
 {
     private static readonly CgmColor Red = new(Color.FromArgb(255, 0, 0));
@@ -95,7 +95,7 @@ public class ElementEncodingTests
         },
     };
 
-    /// <summary>The order of parameters that have the same type, which no round trip can tell.</summary>
+    /// <summary>The order of parameters that have the same type, which no round trip can check.</summary>
     public static readonly TheoryData<Command, string, string> Orders = new()
     {
         { new BeginSegment { Identifier = 7 }, "00C2 0007", "BEGSEG 7;" },
@@ -332,14 +332,14 @@ public class ElementEncodingTests
     [Theory]
     [MemberData(nameof(Elements))]
     [MemberData(nameof(Orders))]
-    public void Elements_are_written_as_the_standard_has_them(Command command, string bytes, string words)
+    public void Elements_are_written_as_the_standard_has_them(Command command, string bytes, string text)
     {
         Assert.Equal(bytes.Replace(" ", ""), Binary(command));
-        if (words.Length > 0)
+        if (text.Length > 0)
         {
             var stream = new MemoryStream();
             new DefaultClearTextWriter(stream).WriteCommand(command);
-            Assert.Equal(words, Plain(Encoding.ASCII.GetString(stream.ToArray())));
+            Assert.Equal(text, Plain(Encoding.ASCII.GetString(stream.ToArray())));
         }
     }
 
@@ -475,8 +475,8 @@ public class ElementEncodingTests
     }
 
     // Which quotes, how many blanks and how many digits is left to whoever writes.
-    private static string Plain(string words) =>
+    private static string Plain(string text) =>
         string.Join(
             ' ',
-            words.Replace('"', '\'').Replace(", ", ",").Split((char[]?)null, StringSplitOptions.RemoveEmptyEntries));
+            text.Replace('"', '\'').Replace(", ", ",").Split((char[]?)null, StringSplitOptions.RemoveEmptyEntries));
 }

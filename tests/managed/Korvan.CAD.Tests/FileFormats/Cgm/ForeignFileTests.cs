@@ -27,8 +27,8 @@ public class ForeignFileTests
         Assert.Empty(binary.Messages.Concat(text.Messages));
         Assert.True(binary.Commands.OfType<Polyline>().Count() > 20);
 
-        // The program tells its real numbers with other digits in each.
-        string[] first = Words(binary), second = Words(text);
+        // The program writes its real numbers with other digits in each.
+        string[] first = Tokens(binary), second = Tokens(text);
         Assert.Equal(first.Length, second.Length);
         Assert.All(
             first.Zip(second),
@@ -46,7 +46,7 @@ public class ForeignFileTests
         Assert.Equal(plot, written.ToArray());
     }
 
-    private static string[] Words(CgmFile file)
+    private static string[] Tokens(CgmFile file)
     {
         file.Commands.RemoveAll(one => one is RealPrecision);
         var text = new MemoryStream();

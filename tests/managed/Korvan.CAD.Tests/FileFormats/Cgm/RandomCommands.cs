@@ -9,7 +9,7 @@ using DataType = Korvan.CAD.FileFormats.Cgm.Classes.StructuredDataRecord.Structu
 
 namespace Korvan.CAD.Tests.FileFormats.Cgm;
 
-/// <summary>How numbers and colours are coded where a random command stands.</summary>
+/// <summary>How numbers and colours are coded for random commands.</summary>
 public enum Coding
 {
     /// <summary>The defaults: integers of 16 bits, fixed reals, colours of the table.</summary>
