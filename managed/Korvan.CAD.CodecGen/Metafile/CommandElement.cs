@@ -14,7 +14,7 @@ internal sealed class CommandElement : IEquatable<CommandElement>
         Keyword = keyword;
     }
 
-    /// <summary>The member of <c>ClassCode</c>, which is also the name of the enum of the elements of the class.</summary>
+    /// <summary>The member of <c>ClassCode</c>, which is also the name of the enum of its elements.</summary>
     public string ClassName { get; }
 
     public int Id { get; }

@@ -63,12 +63,11 @@ internal sealed class CommandParameter
     /// <summary>What the parameter means, as the documentation of a constructor has it.</summary>
     public string Meaning()
     {
-        string xml = _symbol.GetDocumentationCommentXml() ?? "";
-        XElement? summary = xml.Length == 0 ? null : XElement.Parse($"<doc>{xml}</doc>").Descendants("summary").FirstOrDefault();
-        string text = summary is null ? "" : string.Concat(summary.Nodes().Select(node => node.ToString()));
+        var documentation = XElement.Parse($"<doc>{_symbol.GetDocumentationCommentXml()}</doc>");
+        string text = string.Concat(documentation.Descendants("summary").Nodes().Select(node => node.ToString()));
         text = Regex.Replace(text, @"\s+", " ").Trim();
-        const string accessors = "Gets or sets ";
-        text = text.StartsWith(accessors, System.StringComparison.Ordinal) ? text.Substring(accessors.Length) : text;
+        const string Accessors = "Gets or sets ";
+        text = text.StartsWith(Accessors, System.StringComparison.Ordinal) ? text.Substring(Accessors.Length) : text;
         return text.Length == 0 ? "" : char.ToUpperInvariant(text[0]) + text.Substring(1);
     }
 
@@ -88,7 +87,8 @@ internal sealed class CommandParameter
         _ => $"{x}.{Kind}({value})",
     };
 
-    private string Widths() => string.Join(", ", _attribute.ConstructorArguments[0].Values.Select(width => width.Value));
+    private string Widths() =>
+        string.Join(", ", _attribute.ConstructorArguments[0].Values.Select(width => width.Value));
 
     private object? Named(string name) =>
         _attribute.NamedArguments.FirstOrDefault(argument => argument.Key == name).Value.Value;

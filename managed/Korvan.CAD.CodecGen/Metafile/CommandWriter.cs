@@ -44,7 +44,8 @@ internal static class CommandWriter
                 ? "the element with its default values" : "the element, which has no parameters");
             text.AppendLine($"    /// <summary>Creates {made}.</summary>");
             text.AppendLine($"    public {model.Name}()");
-            text.AppendLine($"        : {(model.IsSealed ? "base" : "this")}({ClassCode}.{element.ClassName}, {element.Id})");
+            text.AppendLine(
+                $"        : {(model.IsSealed ? "base" : "this")}({ClassCode}.{element.ClassName}, {element.Id})");
             text.AppendLine("    {");
             text.AppendLine("    }");
         }

@@ -6,7 +6,7 @@ using System.Text;
 
 namespace Korvan.CAD.CodecGen.Metafile;
 
-/// <summary>Writes the table of all elements, and for each class of elements what finds its commands and keywords.</summary>
+/// <summary>Writes the table of all elements, and the methods of each class of elements that look it up.</summary>
 internal static class ElementTableWriter
 {
     private const string Command = "global::Korvan.CAD.FileFormats.Cgm.Commands.Command";
@@ -37,7 +37,8 @@ internal static class ElementTableWriter
         text.AppendLine("}");
 
         // Escapes have one element and no enum.
-        foreach (string name in commands.Select(unit => unit.Element!.ClassName).Distinct().Where(name => name != "EscapeElement"))
+        IEnumerable<string> classes = commands.Select(unit => unit.Element!.ClassName).Distinct();
+        foreach (string name in classes.Where(name => name != "EscapeElement"))
         {
             WriteClass(name, text);
         }
@@ -50,7 +51,8 @@ internal static class ElementTableWriter
         text.AppendLine();
         text.AppendLine($"partial class {name}s");
         text.AppendLine("{");
-        WriteMethod(name, "a new command for an element, without parameters yet", Command, "CreateCommand", "Create()", text);
+        WriteMethod(
+            name, "a new command for an element, without parameters yet", Command, "CreateCommand", "Create()", text);
         WriteMethod(name, "the keyword of an element in clear text", "string", "GetKeyword", "Keyword", text);
         text.AppendLine("}");
     }
@@ -61,7 +63,8 @@ internal static class ElementTableWriter
         text.AppendLine($"    /// <summary>Returns {what}.</summary>");
         text.AppendLine("    /// <param name=\"element\">The element.</param>");
         text.AppendLine($"    /// <returns>{char.ToUpperInvariant(what[0])}{what.Substring(1)}.</returns>");
-        text.AppendLine("    /// <exception cref=\"System.ArgumentOutOfRangeException\">There is no such element.</exception>");
+        text.AppendLine(
+            "    /// <exception cref=\"System.ArgumentOutOfRangeException\">There is no such element.</exception>");
         text.AppendLine($"    public static {type} {method}({name} element) =>");
         text.AppendLine($"        ElementTables.Get(ClassCode.{name}, element).{result};");
     }

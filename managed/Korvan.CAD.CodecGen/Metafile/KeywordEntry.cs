@@ -20,7 +20,9 @@ internal sealed class KeywordEntry : IEquatable<KeywordEntry>
     public string Keyword { get; }
 
     public static KeywordEntry From(IFieldSymbol member, AttributeData attribute) =>
-        new(NameOf(member.ContainingType), (int)member.ConstantValue!, (string)attribute.ConstructorArguments[0].Value!);
+        new(
+            NameOf(member.ContainingType), (int)member.ConstantValue!,
+            (string)attribute.ConstructorArguments[0].Value!);
 
     /// <summary>The table of the keywords of an enum.</summary>
     public static string Table(ITypeSymbol type) =>

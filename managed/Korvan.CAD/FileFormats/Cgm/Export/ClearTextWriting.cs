@@ -168,7 +168,7 @@ internal sealed class ClearTextWriting(DefaultClearTextWriter writer, CodingStat
         writer.EndElement();
         foreach (Command command in Needed(value, "a list"))
         {
-            writer.WriteInner(command);
+            writer.WriteInner(Needed(command));
         }
 
         writer.BeginElement("ENDMFDEFAULTS");

@@ -207,7 +207,7 @@ public sealed class DefaultBinaryWriter : IBinaryWriter, IParameterCodec
 
         var content = new MemoryStream();
         var inner = new DefaultBinaryWriter(content, _name, State, true);
-        commands.ForEach(inner.WriteCommand);
+        commands.ForEach(command => inner.WriteCommand(ParameterExchange.Needed(command)));
         WriteBytes(content.ToArray());
     }
 

@@ -9,7 +9,7 @@ using DataType = Korvan.CAD.FileFormats.Cgm.Classes.StructuredDataRecord.Structu
 
 namespace Korvan.CAD.Tests.FileFormats.Cgm;
 
-/// <summary>How numbers and colours are coded where a random command stands.</summary>
+/// <summary>How numbers and colours are coded for random commands.</summary>
 public enum Coding
 {
     /// <summary>The defaults: integers of 16 bits, fixed reals, colours of the table.</summary>
@@ -46,7 +46,8 @@ internal sealed class RandomCommands
             [typeof(PictureDirectory)] = Adjust<PictureDirectory>(one => one.Infos =
                 List(() => new PictureDirectory.PDInfo
                 {
-                    Identifier = Text(), Location = Place((int)one.LocationType), Directory = Place((int)one.LocationType),
+                    Identifier = Text(), Location = Place((int)one.LocationType),
+                    Directory = Place((int)one.LocationType),
                 })),
             [typeof(ApplicationStructureDirectory)] = Adjust<ApplicationStructureDirectory>(one => one.Infos =
                 List(() => new ApplicationStructureDirectory.ApplicationStructureInfo
@@ -57,15 +58,18 @@ internal sealed class RandomCommands
                 one.LineTypes = Repeat(one.GapWidths.Count, Integer)),
             [typeof(PolygonSet)] = Adjust<PolygonSet>(one =>
                 (one.Points, one.Flags) = (Repeat(7, Point), Repeat(7, Member<PolygonSet.EdgeFlag>))),
-            [typeof(GeneralizedDrawingPrimitive)] = Adjust<GeneralizedDrawingPrimitive>(one => one.Points = List(Point)),
+            [typeof(GeneralizedDrawingPrimitive)] = Adjust<GeneralizedDrawingPrimitive>(
+                one => one.Points = List(Point)),
             [typeof(NonUniformBSpline)] = Adjust<NonUniformBSpline>(AdjustKnots),
             [typeof(NonUniformRationalBSpline)] = Adjust<NonUniformRationalBSpline>(one =>
             {
                 AdjustKnots(one);
                 one.Weights = Repeat(one.ControlPoints.Count, Real);
             }),
-            [typeof(CellArray)] = Adjust<CellArray>(one => (one.CellsPerLine, one.LineCount, one.LocalPrecision, one.Cells) = Cells()),
-            [typeof(PatternTable)] = Adjust<PatternTable>(one => (one.CellsPerLine, one.LineCount, one.LocalPrecision, one.Cells) = Cells()),
+            [typeof(CellArray)] = Adjust<CellArray>(
+                one => (one.CellsPerLine, one.LineCount, one.LocalPrecision, one.Cells) = Cells()),
+            [typeof(PatternTable)] = Adjust<PatternTable>(
+                one => (one.CellsPerLine, one.LineCount, one.LocalPrecision, one.Cells) = Cells()),
             [typeof(Tile)] = Adjust<Tile>(one => one.CellPrecision = Choice(0, 1, 2, 4, 8, 16, 24, 32)),
             [typeof(BitonalTile)] = Adjust<BitonalTile>(one => (one.Background, one.Foreground) = (Colour(), Colour())),
             [typeof(InterpolatedInterior)] = Adjust<InterpolatedInterior>(one =>
@@ -93,7 +97,8 @@ internal sealed class RandomCommands
         ? [new BeginMetafile("before"), new BeginPicture("before")]
         :
         [
-            new BeginMetafile("before"), new VdcType { Value = VdcType.Type.Real }, new IntegerPrecision { Precision = 32 },
+            new BeginMetafile("before"), new VdcType { Value = VdcType.Type.Real },
+            new IntegerPrecision { Precision = 32 },
             new IndexPrecision { Precision = 32 }, new NamePrecision { Precision = 32 },
             new ColourIndexPrecision { Precision = 32 }, new RealPrecision { Value = Precision.Floating64 },
             new MetafileDefaultsReplacement
@@ -161,7 +166,8 @@ internal sealed class RandomCommands
         return list;
     }
 
-    private object Value(Type type, CustomAttributeData attribute) => attribute.AttributeType.Name["Cgm".Length..^"Attribute".Length] switch
+    private object Value(Type type, CustomAttributeData attribute) =>
+        attribute.AttributeType.Name["Cgm".Length..^"Attribute".Length] switch
     {
         "Integer" or "Name" => Integer(),
         "Index" => type.IsEnum ? Member(type) : Integer(),
@@ -223,7 +229,8 @@ internal sealed class RandomCommands
         const string latin = "ab '\"\t;%_$/(é,Ãÿ", wide = "日λЖ😀";
         string characters = _random.Next(3) == 0 ? latin : latin[..8];
         int length = _random.Next(20) == 0 ? 33_000 : Choice(0, 1, 5, 254, 255, 300);
-        string text = string.Concat(Enumerable.Range(0, length).Select(_ => characters[_random.Next(characters.Length)]));
+        string text = string.Concat(
+            Enumerable.Range(0, length).Select(_ => characters[_random.Next(characters.Length)]));
         return _random.Next(5) == 0 ? text + wide : text;
     }
 
