@@ -78,5 +78,7 @@ internal static class ProtocolReader
          (model.Protocol != CollectionProtocol.Iterable && ServedBy(model).Contains(pythonName)));
 
     private static HashSet<string> ServedBy(TypeModel model) =>
-        model.Protocol == CollectionProtocol.Collection && model.ProtocolElement is null ? ServedUnlessDeclared : ServedNames;
+        model.Protocol == CollectionProtocol.Collection && model.ProtocolElement is null
+            ? ServedUnlessDeclared
+            : ServedNames;
 }

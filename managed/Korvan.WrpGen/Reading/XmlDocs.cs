@@ -9,7 +9,7 @@ using Korvan.WrpGen.Naming;
 
 namespace Korvan.WrpGen.Reading;
 
-/// <summary>The library's XML documentation, with references worded as Python names.</summary>
+/// <summary>The library's XML documentation, with references written as Python names.</summary>
 internal sealed class XmlDocs
 {
     private readonly Dictionary<string, XElement> _members = [];

@@ -43,10 +43,10 @@ internal static class MethodDocs
         {
             string parameters = string.Join(
                 ", ", overload.Parameters.Select(parameter => $"{parameter.PythonName}: {types.Parameter(parameter)}"));
-            string head = $"{group.PythonName}({parameters}) -> {types.Result(overload.Result)}";
+            string signature = $"{group.PythonName}({parameters}) -> {types.Result(overload.Result)}";
             IEnumerable<string> lines = Docstring.Lines(overload.Doc)
                 .Select(line => line.Length > 0 ? "    " + line : line);
-            return string.Join('\n', lines.Prepend(head));
+            return string.Join('\n', lines.Prepend(signature));
         });
         return string.Join("\n\n", forms);
     }

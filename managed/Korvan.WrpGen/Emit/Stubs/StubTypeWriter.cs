@@ -278,7 +278,7 @@ internal sealed class StubTypeWriter
         }
         IEnumerable<string> parameters = overload.Parameters.Select(Parameter);
         string list = string.Join(", ", hasSelf ? parameters.Prepend("self") : parameters);
-        // Overloads that a base declares stand behind those of the class itself, as they are tried.
+        // Overloads that a base declares follow those of the class itself, in the order of trial.
         string note = isOverload && overload.Owner != _type ? "  # type: ignore[override]" : "";
         WriteHeader($"def {name}({list}) -> {result}:", overload.Doc, note);
     }
@@ -289,14 +289,14 @@ internal sealed class StubTypeWriter
         return $"{name}: {_types.Parameter(parameter)}";
     }
 
-    private void WriteHeader(string head, DocText doc, string note = "")
+    private void WriteHeader(string header, DocText doc, string note = "")
     {
         if (doc.IsEmpty)
         {
-            _writer.Line(head + " ..." + note);
+            _writer.Line(header + " ..." + note);
             return;
         }
-        _writer.Line(head + note);
+        _writer.Line(header + note);
         _writer.Indented(() => Docstring.Write(_writer, doc));
     }
 }

@@ -33,7 +33,7 @@ internal static class KeptReferences
     private static int _count;
 
     // Entries ahead of _middle lie in the second generation of the collector, those ahead of _old in the oldest, of
-    // which a collection is dear. It is made when they have become half as many again.
+    // which a collection is expensive. It is made when they have become half as many again.
     private static int _middle;
     private static int _old;
     private static int _oldAtLast;

@@ -11,8 +11,8 @@ public sealed class PyStream : Stream, IPyAdapter
 {
     private const int BlockSize = 256 * 1024;
 
-    // The block of a call that is over serves the next one: blocks of this size are dear to allocate. Calls run one at
-    // a time, under the interpreter lock; one within another makes its own.
+    // The block of a call that is over serves the next one: blocks of this size are expensive to allocate. Calls run
+    // one at a time, under the interpreter lock; one within another makes its own.
     private static BufferedStream? _spare;
 
     private readonly PyReference _reference;
@@ -300,16 +300,16 @@ internal sealed unsafe class PyRawStream(PyReference reference) : Stream
         return status;
     }
 
-    private int Counted(int count, int most)
+    private int Counted(int count, int max)
     {
         Checked(count);
-        return (uint)count <= (uint)most
+        return (uint)count <= (uint)max
             ? count
-            : throw Failed($"The Python stream speaks of {count} bytes where {most} were asked for.");
+            : throw Failed($"The Python stream reports {count} bytes where {max} were requested.");
     }
 
-    private int Taken(int count, int most) =>
-        Counted(count, most) > 0 ? count : throw Failed("The Python stream takes no more bytes.");
+    private int Taken(int count, int max) =>
+        Counted(count, max) > 0 ? count : throw Failed("The Python stream takes no more bytes.");
 
     private IOException Failed(string message)
     {
