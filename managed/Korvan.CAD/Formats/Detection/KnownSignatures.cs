@@ -5,7 +5,7 @@ using System.Text;
 
 namespace Korvan.CAD.Formats.Detection;
 
-/// <summary>Formats that are told apart by their first bytes, and neither read nor written.</summary>
+/// <summary>Formats that are detected by their first bytes, but neither read nor written.</summary>
 internal static class KnownSignatures
 {
     private static readonly (string Name, FileFormat Format, string Signature)[] Known =
@@ -24,6 +24,6 @@ internal static class KnownSignatures
     {
         Name = name,
         Formats = [format],
-        Detect = source => source.Head.StartsWith(signature) ? format : FileFormat.Undefined,
+        Detect = source => source.FirstBytes.StartsWith(signature) ? format : FileFormat.Undefined,
     };
 }

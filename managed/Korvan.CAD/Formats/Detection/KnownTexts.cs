@@ -2,7 +2,7 @@ using System.Collections.Generic;
 
 namespace Korvan.CAD.Formats.Detection;
 
-/// <summary>Formats of XML that are told apart by their root element, and neither read nor written.</summary>
+/// <summary>XML formats that are detected by their root element, but neither read nor written.</summary>
 internal static class KnownTexts
 {
     internal static IReadOnlyList<FormatRecord> Records { get; } =

@@ -5,7 +5,7 @@ using System.Text;
 
 namespace Korvan.CAD.Formats.Dwg;
 
-/// <summary>Drawing databases, which are told apart by the release that their first six bytes name.</summary>
+/// <summary>Drawing databases (DWG), detected by the release in their first six bytes.</summary>
 internal static class DwgFormat
 {
     private const int VersionLength = 6;
@@ -32,15 +32,15 @@ internal static class DwgFormat
     {
         Name = "DWG",
         Formats = [FileFormat.CadR1_4, FileFormat.CadR2_10, .. Releases.Values],
-        Detect = static source => Detect(source.Head),
+        Detect = static source => Detect(source.FirstBytes),
     };
 
-    private static FileFormat Detect(ReadOnlySpan<byte> head) => head switch
+    private static FileFormat Detect(ReadOnlySpan<byte> start) => start switch
     {
-        _ when head.StartsWith("AC10"u8) && head.Length > VersionLength =>
-            Releases.GetValueOrDefault(Encoding.ASCII.GetString(head[..VersionLength])),
-        _ when head.StartsWith("AC1."u8) => FileFormat.CadR1_4,
-        _ when head.StartsWith("AC2."u8) => FileFormat.CadR2_10,
+        _ when start.StartsWith("AC10"u8) && start.Length > VersionLength =>
+            Releases.GetValueOrDefault(Encoding.ASCII.GetString(start[..VersionLength])),
+        _ when start.StartsWith("AC1."u8) => FileFormat.CadR1_4,
+        _ when start.StartsWith("AC2."u8) => FileFormat.CadR2_10,
         _ => FileFormat.Undefined,
     };
 }

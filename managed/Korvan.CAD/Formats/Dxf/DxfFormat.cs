@@ -7,7 +7,7 @@ using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.Formats.Dxf;
 
-/// <summary>Drawing interchange files, as text and binary.</summary>
+/// <summary>Drawing interchange files (DXF), text and binary.</summary>
 internal static class DxfFormat
 {
     private const int VersionLength = 6;
@@ -27,7 +27,8 @@ internal static class DxfFormat
         Writers =
         [
             FormatWriter.For<IDrawingContent, DxfOptions>(
-                OutputKind.Model, static (content, options, _, output) => DxfSaver.Save(content.Drawing, options, output)),
+                OutputKind.Model,
+                static (content, options, _, output) => DxfSaver.Save(content.Drawing, options, output)),
         ],
         Written =
         [
@@ -37,7 +38,7 @@ internal static class DxfFormat
         OwnOptions = static (content, _) => content is IDrawingContent ? new DxfOptions() : null,
     };
 
-    // A text file begins with group code 0 and SECTION, perhaps after comments; the release stands in its header.
+    // A text file begins with group code 0 and SECTION, possibly after comments; the release is in its header.
     private static FileFormat? Detect(ReadOnlySpan<byte> start, bool isWhole)
     {
         bool isBinary = start.StartsWith(BinaryTags.Sentinel);
@@ -65,7 +66,7 @@ internal static class DxfFormat
                 DrawingRelease.Parse(Encoding.ASCII.GetString(start.Slice(variable + code, VersionLength))));
         }
 
-        // Files of the first releases have no header, or none that states the release.
+        // Files of the first releases have no header, or one without a release.
         return isWhole || start.IndexOf("ENDSEC"u8) >= 0 ? FileFormat.DxfCadR012 : null;
     }
 

@@ -7,10 +7,10 @@ using Korvan.CAD.Rendering;
 
 namespace Korvan.CAD.Formats.Mesh;
 
-/// <summary>Writers of formats that hold faces and nothing else.</summary>
+/// <summary>Writers of mesh formats.</summary>
 internal static class MeshWriters
 {
-    /// <summary>Makes a writer.</summary>
+    /// <summary>Creates a writer.</summary>
     internal static FormatWriter For<TOptions>(Action<CadDrawing, TOptions, ExportContext, Stream> write)
         where TOptions : ImageOptionsBase =>
         FormatWriter.For<IDrawingContent, TOptions>(OutputKind.Faces, (content, options, context, output) =>

@@ -4,14 +4,14 @@ using Korvan.CAD.Rendering.Mesh;
 
 namespace Korvan.CAD.Formats.Mesh;
 
-/// <summary>Stereolithography, written from the faces of drawings.</summary>
+/// <summary>Stereolithography (STL), written from the faces of drawings.</summary>
 internal static class StlFormat
 {
     internal static FormatRecord Record { get; } = new()
     {
         Name = "STL",
         Formats = [FileFormat.Stl],
-        Detect = static source => source.Head.StartsWith("solid "u8) ? FileFormat.Stl : FileFormat.Undefined,
+        Detect = static source => source.FirstBytes.StartsWith("solid "u8) ? FileFormat.Stl : FileFormat.Undefined,
         Writers = [MeshWriters.For<StlOptions>(MeshExporter.WriteStl)],
     };
 }

@@ -6,16 +6,16 @@ using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Formats.Pages;
 
-/// <summary>Writers of drawn content.</summary>
+/// <summary>Writers of rendered pages.</summary>
 internal static class PageWriters
 {
-    /// <summary>Makes a writer of a format whose files are pages of lines, areas and texts.</summary>
+    /// <summary>Creates a writer of a format with pages of vector graphics.</summary>
     internal static FormatWriter For<TOptions>(Action<VectorScene, TOptions, ExportContext, Stream> write)
         where TOptions : ImageOptionsBase =>
         FormatWriter.For<IPageContent, TOptions>(OutputKind.Page, (content, options, context, output) =>
             Draw(content, context, () => write(content.OpenScene(), options, context, output)));
 
-    /// <summary>Runs what draws the content, once it is sure that the options can be followed.</summary>
+    /// <summary>Verifies that the options are supported, then renders the content.</summary>
     internal static void Draw(IPageContent content, ExportContext context, Action draw)
     {
         if (content is IMetafileContent)
