@@ -43,7 +43,7 @@ internal static class ImageLoader
     }
 
     internal static bool CanLoad(string filePath) =>
-        OddFileName.Exists(filePath) && FormatRegistry.CanRead(GetFileFormat(filePath));
+        UndecodableFileName.Exists(filePath) && FormatRegistry.CanRead(GetFileFormat(filePath));
 
     internal static bool CanLoad(Stream stream) => FormatRegistry.CanRead(GetFileFormat(stream));
 

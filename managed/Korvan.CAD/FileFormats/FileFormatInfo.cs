@@ -6,7 +6,7 @@ using Korvan.CAD.Formats;
 
 namespace Korvan.CAD.FileFormats;
 
-/// <summary>What is known of a file format, and what the library does with its files.</summary>
+/// <summary>Information about a file format, and its support by the library.</summary>
 public class FileFormatInfo
 {
     private static readonly Lazy<Dictionary<FileFormat, FileFormatInfo>> Known = new(ReadAll);
@@ -31,7 +31,7 @@ public class FileFormatInfo
     /// <summary>Gets the kind of content.</summary>
     public FileFormatCategory Category => _metadata.Category;
 
-    /// <summary>Gets the file extensions with their point, the default one first.</summary>
+    /// <summary>Gets the file extensions with their period, the default one first.</summary>
     public string[] Extensions => [.. _metadata.Extensions];
 
     /// <summary>Gets whether files of the format can be loaded.</summary>
@@ -42,21 +42,21 @@ public class FileFormatInfo
 
     internal static IEnumerable<FileFormatInfo> All => Known.Value.Values;
 
-    /// <summary>Gives what is known of a format.</summary>
+    /// <summary>Returns information about a format.</summary>
     /// <param name="format">The format.</param>
-    /// <returns>What is known of a format.</returns>
+    /// <returns>The information.</returns>
     /// <exception cref="ArgumentOutOfRangeException">It is <see cref="FileFormat.Undefined"/>,
-    /// <see cref="FileFormat.Custom"/>, or no format at all.</exception>
+    /// <see cref="FileFormat.Custom"/>, or not a member of the enum.</exception>
     public static FileFormatInfo Get(FileFormat format)
     {
         return Known.Value.TryGetValue(format, out FileFormatInfo? info)
             ? info
-            : throw Verify.OutOfRange(nameof(format), format, "This is no format that files have.");
+            : throw Verify.OutOfRange(nameof(format), format, "It has to be a format of files.");
     }
 
-    /// <summary>Gives the formats whose files have an extension, in the order of their numbers.</summary>
-    /// <param name="extension">The extension, with or without its point; upper and lower case are the same.</param>
-    /// <returns>The formats whose files have the extension, in the order of their numbers.</returns>
+    /// <summary>Returns the formats with a file extension, in the order of their values.</summary>
+    /// <param name="extension">The extension, with or without its period; case is ignored.</param>
+    /// <returns>The formats.</returns>
     public static FileFormatInfo[] FindByExtension(string extension)
     {
         Verify.NotNull(extension);

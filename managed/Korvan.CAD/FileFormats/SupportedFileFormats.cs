@@ -18,19 +18,22 @@ public static class SupportedFileFormats
 
     private static string[] ExtensionsOf(HashSet<FileFormat> formats)
     {
-        return [.. Describe(formats).SelectMany(static info => info.Extensions).Distinct().Order(StringComparer.Ordinal)];
+        return
+        [
+            .. Describe(formats).SelectMany(static info => info.Extensions).Distinct().Order(StringComparer.Ordinal),
+        ];
     }
 
     /// <summary>The formats that can be loaded.</summary>
     public static class Input
     {
-        /// <summary>Gets the formats, in the order of their numbers.</summary>
+        /// <summary>Gets the formats, in the order of their values.</summary>
         public static FileFormatInfo[] Formats => Describe(Loaded.Value);
 
-        /// <summary>Gets the endings of the names of files that can be loaded, in alphabetical order.</summary>
+        /// <summary>Gets the extensions of files that can be loaded, in alphabetical order.</summary>
         public static string[] Extensions => ExtensionsOf(Loaded.Value);
 
-        /// <summary>Tells whether files of a format can be loaded.</summary>
+        /// <summary>Returns whether files of a format can be loaded.</summary>
         /// <param name="format">The format.</param>
         /// <returns>Whether files of a format can be loaded.</returns>
         public static bool Contains(FileFormat format) => Loaded.Value.Contains(format);
@@ -39,13 +42,13 @@ public static class SupportedFileFormats
     /// <summary>The formats that can be written.</summary>
     public static class Output
     {
-        /// <summary>Gets the formats, in the order of their numbers.</summary>
+        /// <summary>Gets the formats, in the order of their values.</summary>
         public static FileFormatInfo[] Formats => Describe(Written.Value);
 
-        /// <summary>Gets the endings of the names of files that can be written, in alphabetical order.</summary>
+        /// <summary>Gets the extensions of files that can be written, in alphabetical order.</summary>
         public static string[] Extensions => ExtensionsOf(Written.Value);
 
-        /// <summary>Tells whether files of a format can be written.</summary>
+        /// <summary>Returns whether files of a format can be written.</summary>
         /// <param name="format">The format.</param>
         /// <returns>Whether files of a format can be written.</returns>
         public static bool Contains(FileFormat format) => Written.Value.Contains(format);

@@ -11,7 +11,7 @@ using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Formats;
 
-/// <summary>Content that is drawn: pages of lines, areas and texts.</summary>
+/// <summary>Vector content, which is rendered on pages.</summary>
 internal interface IPageContent
 {
     /// <summary>Opens the pages for one export.</summary>
@@ -46,15 +46,15 @@ internal interface IBuildingContent
 
     IfcHeader Header { get; }
 
-    /// <summary>Gets the notation that the model was read from.</summary>
+    /// <summary>Gets the form in which the model was read.</summary>
     IfcFileForm Form { get; }
 }
 
-/// <summary>Pixels.</summary>
+/// <summary>Raster images.</summary>
 internal interface IPixelContent
 {
     /// <summary>Opens the pages for one export.</summary>
     /// <param name="options">The options of the export.</param>
-    /// <param name="all">Whether all pages are wanted, or the one that the image shows.</param>
+    /// <param name="all">Whether all pages are requested, or only the active one.</param>
     IRasterPages OpenPages(ImageOptionsBase options, bool all);
 }

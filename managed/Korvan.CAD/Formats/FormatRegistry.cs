@@ -17,10 +17,10 @@ using Korvan.CAD.Input;
 
 namespace Korvan.CAD.Formats;
 
-/// <summary>The formats of the library, each with its record.</summary>
+/// <summary>The records of all formats of the library.</summary>
 internal static class FormatRegistry
 {
-    /// <summary>Gets all records, in the order in which files are tried: signatures of bytes before texts.</summary>
+    /// <summary>Gets all records, in the order in which files are tried: binary signatures before text.</summary>
     internal static FormatRecord[] All { get; } =
     [
         DwgFormat.Record,
@@ -54,17 +54,17 @@ internal static class FormatRegistry
         All.Where(static record => record.Writers.Length > 0)
             .SelectMany(static record => record.Written ?? record.Formats);
 
-    /// <summary>Gets the names of what can be read, for messages.</summary>
+    /// <summary>Gets the names of the formats that can be read, for messages.</summary>
     internal static string ReadableNames => string.Join(", ", All.Where(static record => record.Read is not null)
         .Select(static record => record.Name).Distinct().Order(StringComparer.Ordinal));
 
     /// <summary>Gives the record of a format; nothing for those that the library does not know.</summary>
     internal static FormatRecord? Find(FileFormat format) => Array.Find(All, record => record.Has(format));
 
-    /// <summary>Tells the format of a source.</summary>
+    /// <summary>Detects the format of a source.</summary>
     internal static FileFormat Detect(SourceWindow source)
     {
-        if (source.Head.IsEmpty)
+        if (source.FirstBytes.IsEmpty)
         {
             return FileFormat.Undefined;
         }
@@ -81,21 +81,22 @@ internal static class FormatRegistry
         return FileFormat.Undefined;
     }
 
-    /// <summary>Says of a source that cannot be read what it is.</summary>
+    /// <summary>Explains why a source cannot be read.</summary>
     internal static string Explain(SourceWindow source, FileFormat format) =>
         All.Select(record => record.Explain(source)).FirstOrDefault(static reason => reason is not null)
         ?? (format == FileFormat.Undefined
             ? "is of no known format"
             : $"is of format {Verify.NameOf(format)}, which cannot be read yet");
 
-    /// <summary>Tells whether files of a format can be read.</summary>
+    /// <summary>Returns whether files of a format can be read.</summary>
     internal static bool CanRead(FileFormat format) => Find(format)?.Read is not null;
 
-    /// <summary>Gives what writes some content with options of a class; nothing where it cannot be written so.</summary>
+    /// <summary>Returns the writer of some content with options of a class; <see langword="null"/> if there is
+    /// none.</summary>
     internal static FormatWriter? FindWriter(object content, Type options) =>
         ByOptions.Value.GetValueOrDefault(options) is { } writer && writer.KindOf(content) is not null ? writer : null;
 
-    /// <summary>Gives the classes of options that some content can be written with, by their names.</summary>
+    /// <summary>Returns the classes of options with which some content can be written, by name.</summary>
     internal static IEnumerable<Type> OptionTypesFor(object content) =>
         ByOptions.Value.Values.Where(writer => writer.KindOf(content) is not null)
             .Select(static writer => writer.OptionsType).OrderBy(static type => type.Name, StringComparer.Ordinal);
@@ -107,9 +108,9 @@ internal static class FormatRegistry
             .Where(writer => writer.KindOf(content) is not null)
             .Select(static writer => writer.OptionsType).Distinct();
 
-    /// <summary>Gives the options that write content back in the format that it was read from; nothing where that
-    /// is not written, or the content is of another model than the format's own.</summary>
-    internal static ImageOptionsBase? OwnOptions(object content, OwnPlace place) =>
+    /// <summary>Returns the options that write content back in the format that it was read from; <see langword="null"/>
+    /// if the format is not written, or the content is of another model.</summary>
+    internal static ImageOptionsBase? OwnOptions(object content, SaveTarget place) =>
         Find(place.Format)?.OwnOptions(content, place);
 
     private static Dictionary<Type, FormatWriter> IndexWriters() =>

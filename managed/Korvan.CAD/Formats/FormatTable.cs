@@ -5,10 +5,10 @@ using System.Text;
 
 namespace Korvan.CAD.Formats;
 
-/// <summary>The formats as a table for people.</summary>
+/// <summary>The formats as a table for the documentation.</summary>
 internal static class FormatTable
 {
-    /// <summary>Writes a table in Markdown: a row for each format that is read or written.</summary>
+    /// <summary>Returns a table in Markdown with a row for each format that is read or written.</summary>
     internal static string ToMarkdown()
     {
         var text = new StringBuilder("| Format | Extensions | Read | Written with |\n|---|---|---|---|\n");
@@ -18,7 +18,8 @@ internal static class FormatTable
         {
             IEnumerable<string> extensions = record.Formats.SelectMany(static format => Metadata.Of(format).Extensions);
             IEnumerable<string> options = record.Writers.Select(static writer => $"`{writer.OptionsType.Name}`");
-            text.Append($"| {record.Name} | {string.Join(", ", extensions.Distinct().Select(static one => $"`{one}`"))}")
+            IEnumerable<string> listed = extensions.Distinct().Select(static one => $"`{one}`");
+            text.Append($"| {record.Name} | {string.Join(", ", listed)}")
                 .Append($" | {(record.Read is null ? "" : "yes")} | {string.Join(", ", options)} |\n");
         }
 

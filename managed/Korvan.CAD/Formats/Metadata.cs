@@ -4,12 +4,12 @@ using System.Reflection;
 
 namespace Korvan.CAD.Formats;
 
-/// <summary>What the members of <see cref="FileFormat"/> say of themselves.</summary>
+/// <summary>The metadata of the members of <see cref="FileFormat"/>.</summary>
 internal static class Metadata
 {
     private static readonly Lazy<Dictionary<FileFormat, FileFormatMetadataAttribute>> Known = new(ReadAll);
 
-    /// <summary>Gets all formats that files have, in the order of their numbers.</summary>
+    /// <summary>Gets the metadata by format.</summary>
     internal static IReadOnlyDictionary<FileFormat, FileFormatMetadataAttribute> All => Known.Value;
 
     internal static FileFormatMetadataAttribute Of(FileFormat format) => Known.Value[format];

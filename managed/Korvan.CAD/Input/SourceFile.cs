@@ -5,19 +5,19 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD.Input;
 
-/// <summary>Files and streams that are read, with errors that name them.</summary>
+/// <summary>Opens files and streams for reading, with errors that name them.</summary>
 internal static class SourceFile
 {
-    /// <summary>Opens a file for as long as somebody reads from it.</summary>
+    /// <summary>Opens a file for the duration of a function.</summary>
     /// <param name="filePath">The path.</param>
-    /// <param name="use">Reads from it.</param>
+    /// <param name="use">Reads from the file.</param>
     /// <exception cref="ImageLoadException">The file is missing, a folder, or cannot be read.</exception>
     internal static T Read<T>(string filePath, Func<SourceWindow, T> use)
     {
         VerifyFile(filePath);
         try
         {
-            using FileStream stream = OddFileName.OpenToRead(filePath);
+            using FileStream stream = UndecodableFileName.OpenToRead(filePath);
             return use(new SourceWindow(stream, filePath));
         }
         catch (Exception e) when (e is IOException or UnauthorizedAccessException)
@@ -28,7 +28,7 @@ internal static class SourceFile
 
     /// <summary>Reads a stream from its position.</summary>
     /// <param name="stream">The stream.</param>
-    /// <param name="name">What it is called in messages.</param>
+    /// <param name="name">Its name in messages.</param>
     internal static SourceWindow Open(Stream stream, string name)
     {
         Verify.NotNull(stream);
@@ -36,17 +36,17 @@ internal static class SourceFile
             : throw new ImageLoadException($"'{name}' cannot be read: it is closed or was not opened for reading.");
     }
 
-    /// <summary>Gives all bytes of a source, of which there has to be one at least.</summary>
+    /// <summary>Returns all bytes of a source, which must not be empty.</summary>
     internal static byte[] ReadAll(SourceWindow source)
     {
         VerifyContent(source);
         return source.All();
     }
 
-    /// <summary>Refuses a source without a byte.</summary>
+    /// <summary>Throws if a source is empty.</summary>
     internal static void VerifyContent(SourceWindow source)
     {
-        if (source.Head.IsEmpty)
+        if (source.FirstBytes.IsEmpty)
         {
             throw new ImageLoadException(source.Start > 0
                 ? $"'{source.Name}' has nothing after its position, {source.Start} bytes from the start; seek to where "
@@ -63,7 +63,7 @@ internal static class SourceFile
             throw new ImageLoadException($"'{filePath}' is a folder; name a file in it.");
         }
 
-        if (!OddFileName.Exists(filePath))
+        if (!UndecodableFileName.Exists(filePath))
         {
             throw new ImageLoadException($"'{filePath}' does not exist.");
         }

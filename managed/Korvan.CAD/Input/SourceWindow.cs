@@ -4,11 +4,12 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD.Input;
 
-/// <summary>The bytes of a source from its position on, read as far as somebody asks: formats are told apart by as much
-/// of a file as that takes, and loading reads the rest behind it.</summary>
+/// <summary>The bytes of a source from its position on, read on demand: detection of the format reads only as much of a
+/// file as it needs, loading reads the rest.</summary>
 internal sealed class SourceWindow
 {
-    /// <summary>How many bytes are read at first; the signatures of all binary formats are within them.</summary>
+    /// <summary>The number of bytes that are read at first, within which are the signatures of all binary
+    /// formats.</summary>
     internal const int SignatureLength = 4096;
 
     private const int Block = 1 << 18; // a crossing a block, where the stream is Python's
@@ -20,7 +21,7 @@ internal sealed class SourceWindow
     private int _count;
     private bool _isWhole;
 
-    /// <summary>Creates a window on a stream, which is read from its position on.</summary>
+    /// <summary>Creates a window on a stream from its position on.</summary>
     internal SourceWindow(Stream stream, string name)
     {
         (_stream, _name) = (stream, name);
@@ -29,31 +30,33 @@ internal sealed class SourceWindow
         _data = new byte[Math.Min(_expected == 0 ? SignatureLength : _expected, SignatureLength)];
     }
 
-    /// <summary>Creates a window on bytes that are all there.</summary>
+    /// <summary>Creates a window on an array.</summary>
     internal SourceWindow(byte[] data, string name)
     {
         (_data, _expected, _count, _isWhole, _name) = (data, data.Length, data.Length, true, name);
     }
 
-    /// <summary>Gets what the source is called in messages.</summary>
+    /// <summary>Gets the name of the source in messages.</summary>
     internal string Name => _name;
 
-    /// <summary>Gets where in its stream the source begins, in bytes; 0 for streams that cannot seek.</summary>
+    /// <summary>Gets the position in its stream at which the source begins, in bytes; 0 for streams that are not
+    /// seekable.</summary>
     internal long Start { get; }
 
-    /// <summary>Gets the first bytes: all signatures, or the whole of a short source.</summary>
-    internal ReadOnlySpan<byte> Head => First(SignatureLength);
+    /// <summary>Gets the first bytes: enough for all signatures, or the whole of a short source.</summary>
+    internal ReadOnlySpan<byte> FirstBytes => First(SignatureLength);
 
-    /// <summary>Gives the first bytes of the source; fewer only where it ends.</summary>
+    /// <summary>Returns the first bytes of the source; fewer only if it is shorter.</summary>
     internal ReadOnlySpan<byte> First(int count)
     {
         Fill(count);
         return _data.AsSpan(0, Math.Min(count, _count));
     }
 
-    /// <summary>Gives more and more of the source, from its first byte on, until a question is answered.</summary>
-    /// <param name="ask">Gives a format, or nothing as long as more bytes are needed. Its second argument says whether
-    /// these are all.</param>
+    /// <summary>Passes increasing parts of the source, each from its first byte, to a function until that returns a
+    /// result.</summary>
+    /// <param name="ask">Returns a format, or <see langword="null"/> as long as more bytes are needed. Its second
+    /// argument states whether it gets the whole source.</param>
     internal FileFormat Search(SearchStep ask)
     {
         for (int count = SignatureLength; ; count = count > Array.MaxLength / 2 ? Array.MaxLength : 2 * count)
@@ -68,7 +71,7 @@ internal sealed class SourceWindow
         }
     }
 
-    /// <summary>Gives the whole source, in an array of its length.</summary>
+    /// <summary>Returns the whole source, in an array of its length.</summary>
     internal byte[] All()
     {
         Fill(Array.MaxLength);
@@ -102,7 +105,7 @@ internal sealed class SourceWindow
             return true;
         }
 
-        // A file rarely is longer than it said, so a single byte is tried before the array is enlarged.
+        // A file is rarely longer than stated, so one more byte is read before the array is enlarged.
         int next = _stream!.ReadByte();
         if (next < 0)
         {
@@ -133,6 +136,6 @@ internal sealed class SourceWindow
         }
     }
 
-    /// <summary>Looks at the first bytes of a source.</summary>
+    /// <summary>Inspects the first bytes of a source.</summary>
     internal delegate FileFormat? SearchStep(ReadOnlySpan<byte> start, bool isWhole);
 }

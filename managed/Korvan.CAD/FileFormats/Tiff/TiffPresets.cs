@@ -90,7 +90,7 @@ internal static class TiffPresets
             "choose a facsimile code");
         yield return (nameof(TiffOptions.FaxT4Options), options.FaxT4Options != 0, options.Compression == TiffCompressions.CcittFax3,
             "choose CCITT_FAX3");
-        yield return (nameof(TiffOptions.CompressedQuality), options.CompressedQuality != TiffOptions.UsualQuality,
+        yield return (nameof(TiffOptions.CompressedQuality), options.CompressedQuality != TiffOptions.DefaultQuality,
             options.Compression == TiffCompressions.Jpeg, "choose JPEG as compression");
     }
 

@@ -13,14 +13,14 @@ using Korvan.CAD.Input;
 
 namespace Korvan.CAD.Formats.Cgm;
 
-/// <summary>Computer graphics metafiles (ISO/IEC 8632), binary and clear text, also packed by gzip.</summary>
+/// <summary>Computer graphics metafiles (ISO/IEC 8632), binary and clear text, also compressed with gzip.</summary>
 internal static class CgmFormat
 {
     internal static FormatRecord Record { get; } = new()
     {
         Name = "CGM",
         Formats = [FileFormat.Cgm],
-        Detect = static source => IsMetafile(source.Head) ? FileFormat.Cgm : FileFormat.Undefined,
+        Detect = static source => IsMetafile(source.FirstBytes) ? FileFormat.Cgm : FileFormat.Undefined,
         Read = static (data, name, _, options) => CgmFile.Load(data, name, options),
         Writers = [Copying(PageWriters.For<CgmOptions>(Draw))],
         OwnOptions = static (content, _) =>
@@ -30,7 +30,7 @@ internal static class CgmFormat
     private static void Draw(VectorScene scene, CgmOptions options, ExportContext context, Stream output) =>
         PageExporter.WriteSingle(scene, options, context, output, CgmDocument.Write);
 
-    /// <summary>Another metafile is made of a metafile command by command, unless its options ask for a page.</summary>
+    /// <summary>A metafile is copied command by command, unless the options require a rendered page.</summary>
     private static FormatWriter Copying(FormatWriter drawn) => new()
     {
         OptionsType = drawn.OptionsType,
@@ -53,13 +53,13 @@ internal static class CgmFormat
         RenderToGraphicsBound: false,
     };
 
-    private static bool IsMetafile(ReadOnlySpan<byte> head)
+    private static bool IsMetafile(ReadOnlySpan<byte> start)
     {
-        ReadOnlySpan<byte> content = CgmSource.IsPacked(head) ? Inflate(head) : head;
+        ReadOnlySpan<byte> content = CgmSource.IsPacked(start) ? Inflate(start) : start;
         return CgmSource.IsBinary(content) || CgmSource.IsClearText(content);
     }
 
-    // As much as there is: the first bytes end somewhere within.
+    // As much as possible: the first bytes end within the compressed data.
     private static byte[] Inflate(ReadOnlySpan<byte> packed)
     {
         byte[] content = new byte[SourceWindow.SignatureLength];

@@ -22,7 +22,7 @@ internal static class KnownSignatures
         {
             Name = name,
             Formats = [format],
-            Detect = source => source.Head.StartsWith(start) ? format : FileFormat.Undefined,
+            Detect = source => source.FirstBytes.StartsWith(start) ? format : FileFormat.Undefined,
         };
     }
 }

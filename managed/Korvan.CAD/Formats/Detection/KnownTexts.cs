@@ -1,6 +1,6 @@
 namespace Korvan.CAD.Formats.Detection;
 
-/// <summary>Formats of XML that are told apart by their root element, and neither read nor written.</summary>
+/// <summary>XML formats that are detected by their root element, but neither read nor written.</summary>
 internal static class KnownTexts
 {
     internal static FormatRecord[] Records { get; } =

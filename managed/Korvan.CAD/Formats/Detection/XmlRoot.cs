@@ -4,19 +4,19 @@ using Korvan.CAD.Input;
 
 namespace Korvan.CAD.Formats.Detection;
 
-/// <summary>Finds the root element of a text in XML, behind declarations and comments.</summary>
+/// <summary>Finds the root element of an XML document, after declarations and comments.</summary>
 internal static class XmlRoot
 {
     private const byte NameEnd = (byte)'>';
 
-    /// <summary>Tells whether a source is XML whose root element has a name, in whatever namespace.</summary>
+    /// <summary>Returns whether a source is XML with a root element of a name, in any namespace.</summary>
     internal static bool Is(SourceWindow source, string name)
     {
         byte[] wanted = Encoding.ASCII.GetBytes(name);
         return source.Search((start, isWhole) => Compare(start, wanted, isWhole)) == FileFormat.Custom;
     }
 
-    // Custom stands for yes: a search gives formats.
+    // The search returns a format: Custom means yes.
     private static FileFormat? Compare(ReadOnlySpan<byte> start, byte[] wanted, bool isWhole)
     {
         ReadOnlySpan<byte> rest = start.StartsWith("\uFEFF"u8) ? start[3..] : start;
@@ -50,7 +50,7 @@ internal static class XmlRoot
         }
     }
 
-    // A document type with a subset of its own ends behind the bracket.
+    // A document type declaration with an internal subset ends after its bracket.
     private static ReadOnlySpan<byte> DeclarationEnd(ReadOnlySpan<byte> declaration)
     {
         int bracket = declaration.IndexOf((byte)'[');

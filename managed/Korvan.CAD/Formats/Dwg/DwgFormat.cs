@@ -18,7 +18,7 @@ internal static class DwgFormat
             FileFormat.CadR2000, FileFormat.CadR2004, FileFormat.CadR2007, FileFormat.CadR2010, FileFormat.CadR2013,
             FileFormat.CadR2018,
         ],
-        Detect = static source => Detect(source.Head),
+        Detect = static source => Detect(source.FirstBytes),
     };
 
     private static FileFormat Detect(ReadOnlySpan<byte> head) => head switch

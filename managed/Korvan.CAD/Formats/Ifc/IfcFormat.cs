@@ -14,7 +14,7 @@ using Korvan.CAD.Input;
 
 namespace Korvan.CAD.Formats.Ifc;
 
-/// <summary>Building models: exchange files, packed ones, and XML of edition 2x3.</summary>
+/// <summary>Building models: clear text files, ZIP archives of them, and XML of IFC2X3.</summary>
 internal static class IfcFormat
 {
     private const int MaxHeaderLength = 1 << 20;
@@ -30,20 +30,21 @@ internal static class IfcFormat
             FormatWriter.For<IBuildingContent, IfcOptions>(OutputKind.Model, static (content, options, _, output) =>
                 IfcSaver.Save(content.Model, content.Header, options.IsPacked, output)),
         ],
-        OwnOptions = static (content, place) => content is IBuildingContent building ? OwnOptions(building, place) : null,
-        Explain = static source => IfcXml.IsIfcXml(source.Head)
-            ? "is a building model in XML (ifcXML) of an edition other than IFC2X3, which cannot be read yet"
+        OwnOptions = static (content, place) =>
+            content is IBuildingContent building ? OwnOptions(building, place) : null,
+        Explain = static source => IfcXml.IsIfcXml(source.FirstBytes)
+            ? "is a building model in XML (ifcXML) of a version other than IFC2X3, which cannot be read yet"
             : null,
     };
 
     private static FileFormat Detect(SourceWindow source)
     {
-        if (source.Head.StartsWith("PK\u0003\u0004"u8))
+        if (source.FirstBytes.StartsWith("PK\u0003\u0004"u8))
         {
             return DetectPacked(source);
         }
 
-        if (IfcXml.IsIfc2X3(source.Head))
+        if (IfcXml.IsIfc2X3(source.FirstBytes))
         {
             return FileFormat.IFC2X3;
         }
@@ -52,7 +53,7 @@ internal static class IfcFormat
         return schema is FileFormat.IFC2X3 or FileFormat.IFC4 ? schema : FileFormat.Undefined;
     }
 
-    // Any entry can be the model; its name tells.
+    // The model can be any entry; its name shows which.
     private static FileFormat DetectPacked(SourceWindow source)
     {
         try
@@ -64,21 +65,21 @@ internal static class IfcFormat
         }
         catch (InvalidDataException)
         {
-            return FirstEntryIsModel(source.Head) ? FileFormat.IFC4 : FileFormat.Undefined;
+            return FirstEntryIsModel(source.FirstBytes) ? FileFormat.IFC4 : FileFormat.Undefined;
         }
     }
 
-    // An archive that was cut has no directory; the name of its first entry tells what it would have been.
-    private static bool FirstEntryIsModel(ReadOnlySpan<byte> head)
+    // A truncated archive has no directory; it is detected by the name of its first entry.
+    private static bool FirstEntryIsModel(ReadOnlySpan<byte> start)
     {
         const int FixedLength = 30;
-        if (head.Length < FixedLength)
+        if (start.Length < FixedLength)
         {
             return false;
         }
 
-        int nameLength = BinaryPrimitives.ReadUInt16LittleEndian(head[26..]);
-        ReadOnlySpan<byte> name = head[FixedLength..Math.Min(head.Length, FixedLength + nameLength)];
+        int nameLength = BinaryPrimitives.ReadUInt16LittleEndian(start[26..]);
+        ReadOnlySpan<byte> name = start[FixedLength..Math.Min(start.Length, FixedLength + nameLength)];
         return name.Length > 4 && Ascii.EqualsIgnoreCase(name[^4..], ".ifc"u8);
     }
 
@@ -91,8 +92,8 @@ internal static class IfcFormat
         return schema is FileFormat.IFC2X3 ? schema : FileFormat.IFC4;
     }
 
-    // The extension tells the packed notation from the plain one. XML is read only.
-    private static IfcOptions? OwnOptions(IBuildingContent content, OwnPlace place)
+    // The extension determines whether the file is compressed. XML is only read.
+    private static IfcOptions? OwnOptions(IBuildingContent content, SaveTarget place)
     {
         if (content.Form == IfcFileForm.Xml)
         {

@@ -11,7 +11,7 @@ internal static class GlbFormat
     {
         Name = "GLB",
         Formats = [FileFormat.Glb],
-        Detect = static source => source.Head.StartsWith("glTF"u8) ? FileFormat.Glb : FileFormat.Undefined,
+        Detect = static source => source.FirstBytes.StartsWith("glTF"u8) ? FileFormat.Glb : FileFormat.Undefined,
         Writers =
         [
             MeshWriters.For<GlbOptions>(

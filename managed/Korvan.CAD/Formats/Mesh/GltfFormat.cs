@@ -3,7 +3,7 @@ using Korvan.CAD.Rendering.Meshes;
 
 namespace Korvan.CAD.Formats.Mesh;
 
-/// <summary>Text glTF 2.0, written from the faces of drawings.</summary>
+/// <summary>JSON glTF 2.0, written from the faces of drawings.</summary>
 internal static class GltfFormat
 {
     internal static FormatRecord Record { get; } = new()

@@ -3,7 +3,7 @@ using Korvan.CAD.Rendering.Meshes;
 
 namespace Korvan.CAD.Formats.Mesh;
 
-/// <summary>Wavefront objects, written from the faces of drawings.</summary>
+/// <summary>Wavefront OBJ, written from the faces of drawings.</summary>
 internal static class ObjFormat
 {
     internal static FormatRecord Record { get; } = new()

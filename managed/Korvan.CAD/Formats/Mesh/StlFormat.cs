@@ -11,7 +11,7 @@ internal static class StlFormat
     {
         Name = "STL",
         Formats = [FileFormat.Stl],
-        Detect = static source => source.Head.StartsWith("solid "u8) ? FileFormat.Stl : FileFormat.Undefined,
+        Detect = static source => source.FirstBytes.StartsWith("solid "u8) ? FileFormat.Stl : FileFormat.Undefined,
         Writers =
         [
             MeshWriters.For<StlOptions>(

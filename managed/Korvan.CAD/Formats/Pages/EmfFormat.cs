@@ -5,7 +5,7 @@ using Korvan.CAD.Rendering.Export;
 
 namespace Korvan.CAD.Formats.Pages;
 
-/// <summary>Enhanced metafiles, which are written.</summary>
+/// <summary>Enhanced metafiles (EMF), which are only written.</summary>
 internal static class EmfFormat
 {
     internal static FormatRecord Record { get; } = new()

@@ -4,7 +4,7 @@ using Korvan.CAD.Rendering.Export;
 
 namespace Korvan.CAD.Formats.Pages;
 
-/// <summary>Pages of HTML whose script draws on a canvas.</summary>
+/// <summary>HTML pages whose script draws on a canvas, which are only written.</summary>
 internal static class Html5Format
 {
     internal static FormatRecord Record { get; } = new()

@@ -5,14 +5,14 @@ using Korvan.CAD.Rendering.Export;
 
 namespace Korvan.CAD.Formats.Pages;
 
-/// <summary>Portable documents (ISO 32000), told apart and written.</summary>
+/// <summary>PDF documents (ISO 32000), which are detected and written.</summary>
 internal static class PdfFormat
 {
     internal static FormatRecord Record { get; } = new()
     {
         Name = "PDF",
         Formats = [FileFormat.Pdf],
-        Detect = static source => source.Head.StartsWith("%PDF-"u8) ? FileFormat.Pdf : FileFormat.Undefined,
+        Detect = static source => source.FirstBytes.StartsWith("%PDF-"u8) ? FileFormat.Pdf : FileFormat.Undefined,
         Writers = [PageWriters.For<PdfOptions>(PageExporter.WritePdf)],
     };
 }

@@ -5,7 +5,7 @@ using Korvan.CAD.Rendering.Export;
 
 namespace Korvan.CAD.Formats.Pages;
 
-/// <summary>Scalable vector graphics, told apart and written.</summary>
+/// <summary>SVG documents, which are detected and written.</summary>
 internal static class SvgFormat
 {
     internal static FormatRecord Record { get; } = new()

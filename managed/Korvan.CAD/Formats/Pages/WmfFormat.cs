@@ -5,7 +5,7 @@ using Korvan.CAD.Rendering.Export;
 
 namespace Korvan.CAD.Formats.Pages;
 
-/// <summary>Windows metafiles, which are written.</summary>
+/// <summary>Windows metafiles (WMF), which are only written.</summary>
 internal static class WmfFormat
 {
     internal static FormatRecord Record { get; } = new()

@@ -8,7 +8,7 @@ using Korvan.CAD.Rendering.Export;
 
 namespace Korvan.CAD.Formats.Raster;
 
-/// <summary>The formats of pixels: each codec reads images, and writes images and drawn pages.</summary>
+/// <summary>Raster formats: each codec reads images, and writes images and rendered pages.</summary>
 internal static class RasterFormats
 {
     internal static FormatRecord[] Records { get; } = [.. RasterCodecs.All.Select(RecordOf)];
@@ -17,7 +17,7 @@ internal static class RasterFormats
     {
         Name = codec.Name,
         Formats = [codec.Format],
-        Detect = source => codec.IsOwn(source.Head) ? codec.Format : FileFormat.Undefined,
+        Detect = source => codec.IsOwn(source.FirstBytes) ? codec.Format : FileFormat.Undefined,
         Read = (data, name, _, options) => codec.Decode(
             data, name, options.IgnoreErrors,
             options.DataBackgroundColor.IsEmpty ? null : options.DataBackgroundColor.ToArgb()),
@@ -28,7 +28,7 @@ internal static class RasterFormats
                 OptionsType = codec.OptionsType,
                 KindOf = static content => content switch
                 {
-                    IPixelContent => OutputKind.Picture,
+                    IPixelContent => OutputKind.Image,
                     IPageContent => OutputKind.Pixels,
                     _ => null,
                 },

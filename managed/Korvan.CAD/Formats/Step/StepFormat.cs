@@ -3,7 +3,7 @@ using System.Text;
 
 namespace Korvan.CAD.Formats.Step;
 
-/// <summary>Exchange files of ISO 10303-21, which are told apart by the schema that their header names.</summary>
+/// <summary>Clear text files of ISO 10303-21, detected by the schema in their header.</summary>
 internal static class StepFormat
 {
     internal static FormatRecord Record { get; } = new()
@@ -11,14 +11,16 @@ internal static class StepFormat
         Name = "STEP",
         Formats = [FileFormat.Stp],
         Detect = static source => source.Search(static (start, isWhole) =>
-            DetectSchema(start, isWhole) is { } schema ? schema == FileFormat.Undefined ? schema : FileFormat.Stp : null),
+            DetectSchema(start, isWhole) is not { } schema ? null
+                : schema == FileFormat.Undefined ? schema
+                : FileFormat.Stp),
     };
 
-    /// <summary>Tells the schema of an exchange file.</summary>
+    /// <summary>Detects the format by the schema of a clear text file.</summary>
     /// <param name="start">The first bytes of the file.</param>
-    /// <param name="isWhole">Whether these are all.</param>
-    /// <returns>The format; <see cref="FileFormat.Undefined"/> for what is no exchange file; nothing while the header
-    /// goes on.</returns>
+    /// <param name="isWhole">Whether this is the whole file.</param>
+    /// <returns>The format; <see cref="FileFormat.Undefined"/> for other files; <see langword="null"/> if the header
+    /// continues beyond these bytes.</returns>
     internal static FileFormat? DetectSchema(ReadOnlySpan<byte> start, bool isWhole)
     {
         if (!start.TrimStart("\uFEFF \t\r\n"u8).StartsWith("ISO-10303-21"u8))

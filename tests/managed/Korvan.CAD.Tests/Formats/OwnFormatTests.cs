@@ -59,7 +59,8 @@ public sealed class OwnFormatTests
     [Fact]
     public void Two_exports_share_their_options()
     {
-        var options = new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = 20, PageHeight = 20 } };
+        var page = new CadRasterizationOptions { PageWidth = 20, PageHeight = 20 };
+        var options = new PngOptions { VectorRasterizationOptions = page };
         using var first = new CadImage();
         using var output = new MemoryStream();
         first.Save(output, options);

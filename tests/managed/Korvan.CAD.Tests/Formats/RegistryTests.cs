@@ -12,7 +12,7 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Formats;
 
-/// <summary>Loading, detection, saving and the lists of formats tell the same, since they ask the same records.</summary>
+/// <summary>Loading, detection, saving and the lists of formats agree, as they use the same records.</summary>
 public sealed class RegistryTests
 {
     private const string TableStart = "<!-- formats: written by the tests from the registry of formats -->\n";
@@ -47,10 +47,11 @@ public sealed class RegistryTests
         Assert.True(FileFormatInfo.Get(format).CanSave);
     }
 
-    /// <summary>What every file begins with, of formats that are read, known, or neither.</summary>
+    /// <summary>The first bytes of files of formats that are read, known, or neither.</summary>
     public static TheoryData<string, FileFormat, byte[]> Beginnings => new()
     {
-        { "a comment of 100,000 characters before the schema", FileFormat.IFC4, Step("IFC4", new string('x', 100_000)) },
+        { "a comment of 100,000 characters before the schema", FileFormat.IFC4,
+            Step("IFC4", new string('x', 100_000)) },
         { "a schema that is no building model", FileFormat.Stp, Step("AUTOMOTIVE_DESIGN", "") },
         { "comments of 100,000 characters before the release", FileFormat.DxfCadR2000, Dxf(new string('x', 100_000)) },
         { "a release in the first bytes", FileFormat.DxfCadR2000, Dxf("") },
@@ -61,7 +62,7 @@ public sealed class RegistryTests
         { "a scene", FileFormat.Collada, Text("<COLLADA xmlns='x'>") },
         { "a drawing database", FileFormat.CadR2018, Text("AC1032\0\0") },
         { "a published drawing", FileFormat.Dwf, Text("(DWF V06.00)") },
-        { "a bitmap's letters and nothing more", FileFormat.Undefined, Text("BM") },
+        { "the signature of a bitmap and nothing more", FileFormat.Undefined, Text("BM") },
         { "noise", FileFormat.Undefined, [1, 2, 3, 4, 5, 6, 7, 8, 9] },
     };
 
@@ -119,11 +120,12 @@ public sealed class RegistryTests
 
     private static IEnumerable<string> Lines(string comment) =>
     [
-        "999", comment, "0", "SECTION", "2", "HEADER", "999", comment, "9", "$ACADVER", "1", "AC1015", "0", "ENDSEC", "0",
+        "999", comment, "0", "SECTION", "2", "HEADER", "999", comment, "9", "$ACADVER", "1", "AC1015", "0", "ENDSEC",
+        "0",
         "EOF", "",
     ];
 
-    /// <summary>A stream that cannot seek and gives a few bytes a call.</summary>
+    /// <summary>A stream that is not seekable and returns a few bytes per call.</summary>
     private sealed class TrickleStream(byte[] content) : MemoryStream(content)
     {
         internal int Given { get; private set; }

@@ -14,7 +14,8 @@ internal sealed class LayerMap
 
     private LayerMap(IEnumerable<string> lines)
     {
-        foreach (string line in lines.Select(static text => text.Split('#')[0].TrimEnd()).Where(static text => text.Length > 0))
+        foreach (string line in lines.Select(static text => text.Split('#')[0].TrimEnd())
+            .Where(static text => text.Length > 0))
         {
             if (!char.IsWhiteSpace(line[0]))
             {
@@ -36,15 +37,16 @@ internal sealed class LayerMap
 
     internal static LayerMap Read() => new(File.ReadLines(Path.Combine(AppContext.BaseDirectory, "layers.txt")));
 
-    /// <summary>Gives layer and module of a type: those of the longest pattern that its name fits.</summary>
+    /// <summary>Returns layer and module of a type: those of the longest pattern that matches its name.</summary>
     internal (int Layer, string Module) Find(string type)
     {
         (string Pattern, int Layer, string Module) best = _rules.Where(rule => Fits(rule.Pattern, type))
-            .OrderByDescending(static rule => rule.Pattern.Length + (rule.Pattern.EndsWith('*') ? 0 : 1000)).FirstOrDefault();
+            .OrderByDescending(static rule => rule.Pattern.Length + (rule.Pattern.EndsWith('*') ? 0 : 1000))
+            .FirstOrDefault();
         return best.Pattern is null ? (-1, "") : (best.Layer, best.Module);
     }
 
-    /// <summary>Gives the patterns that no type fits.</summary>
+    /// <summary>Returns the patterns that match no type.</summary>
     internal IEnumerable<string> Unused(IReadOnlyCollection<string> types) =>
         _rules.Select(static rule => rule.Pattern).Where(pattern => !types.Any(type => Fits(pattern, type)));
 
@@ -52,8 +54,10 @@ internal sealed class LayerMap
     private static bool Fits(string pattern, string type)
     {
         string name = type[(Root.Length + 1)..];
-        return pattern == "*" ? !name.Contains('.')
-            : pattern.EndsWith(".*", StringComparison.Ordinal) ? name.StartsWith(pattern[..^1], StringComparison.Ordinal)
+        return pattern == "*"
+            ? !name.Contains('.')
+            : pattern.EndsWith(".*", StringComparison.Ordinal)
+            ? name.StartsWith(pattern[..^1], StringComparison.Ordinal)
             : name == pattern || name.StartsWith(pattern + '`', StringComparison.Ordinal);
     }
 }

@@ -8,7 +8,7 @@ namespace Korvan.CAD.Tests.Surface;
 /// <summary>References between the compiled types lead downwards, and never in a circle between modules.</summary>
 public sealed class LayerTests
 {
-    /// <summary>References upwards that stay: signatures that programs see, with the reason.</summary>
+    /// <summary>References upwards that are allowed: public signatures, with the reason.</summary>
     private static readonly HashSet<(string From, string To)> Exempt =
     [
         // A public constructor takes the image that the thumbnail is made of.
@@ -41,7 +41,8 @@ public sealed class LayerTests
                 .Select(static one => $"{Describe(one.From)} refers to {Describe(one.To)}"),
         ];
         Assert.True(upwards.Length == 0, $"{upwards.Length} references lead upwards:\n{string.Join('\n', upwards)}");
-        Assert.All(Exempt, static one => Assert.Contains(References, made => (Short(made.From), Short(made.To)) == one));
+        Assert.All(
+            Exempt, static one => Assert.Contains(References, made => (Short(made.From), Short(made.To)) == one));
     }
 
     [Fact]

@@ -9,16 +9,16 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Surface;
 
-/// <summary>The public surface stands in files that a change of it has to touch; KORVAN_UPDATE_SNAPSHOTS=1 writes them
-/// anew.</summary>
+/// <summary>The public surface is recorded in files that a change of it has to update; KORVAN_UPDATE_SNAPSHOTS=1 writes
+/// them.</summary>
 public sealed class PublicSurfaceTests
 {
     [Fact]
     public void The_library_has_the_surface_of_its_file() =>
         Compare("managed/Korvan.CAD/PublicSurface.txt", SurfaceText.LinesOf(typeof(Image).Assembly));
 
-    /// <summary>The classes of the schemas are made from tables; a line of each says what it derives from and a digest of
-    /// its members.</summary>
+    /// <summary>The classes of the schemas are generated from tables; each has a line with its base and a digest of its
+    /// members.</summary>
     [Fact]
     public void The_schemas_have_the_surface_of_their_file()
     {

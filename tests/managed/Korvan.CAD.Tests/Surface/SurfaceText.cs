@@ -21,25 +21,29 @@ internal static class SurfaceText
 
     internal static IEnumerable<string> LinesOf(Type type)
     {
-        yield return Head(type);
+        yield return Declaration(type);
         IEnumerable<string> members = type.IsEnum
             ? Enum.GetNames(type).Select(name => $"{name} = {Number(type, name)}")
-            : type.GetMembers(Declared).Select(Line).Where(static line => line is not null).Select(static line => line!);
+            : type.GetMembers(Declared).Select(Line).Where(static line => line is not null)
+                .Select(static line => line!);
         foreach (string line in members.Order(StringComparer.Ordinal))
         {
             yield return "  " + line;
         }
     }
 
-    private static string Head(Type type)
+    private static string Declaration(Type type)
     {
         string kind = type.IsEnum ? "enum" : type.IsInterface ? "interface" : type.IsValueType ? "struct"
             : typeof(Delegate).IsAssignableFrom(type) ? "delegate" : "class";
-        string modifier = type is { IsAbstract: true, IsSealed: true } ? "static " : type.IsInterface || type.IsValueType ? ""
+        string modifier = type is { IsAbstract: true, IsSealed: true } ? "static "
+            : type.IsInterface || type.IsValueType ? ""
             : type.IsAbstract ? "abstract " : type.IsSealed ? "sealed " : "";
         IEnumerable<Type> inherited = type.IsEnum ? [Enum.GetUnderlyingType(type)]
-            : new[] { type.BaseType }.OfType<Type>().Where(static one => one != typeof(object) && one != typeof(ValueType))
-                .Concat(type.GetInterfaces().Except(type.BaseType?.GetInterfaces() ?? []).Where(static one => one.IsVisible)
+            : new[] { type.BaseType }.OfType<Type>()
+                .Where(static one => one != typeof(object) && one != typeof(ValueType))
+                .Concat(type.GetInterfaces().Except(type.BaseType?.GetInterfaces() ?? [])
+                    .Where(static one => one.IsVisible)
                     .OrderBy(static one => one.FullName, StringComparer.Ordinal));
         string bases = string.Join(", ", inherited.Select(Name));
         return $"{modifier}{kind} {type.Namespace}.{Name(type)}{(bases.Length > 0 ? " : " + bases : "")}";
@@ -53,12 +57,15 @@ internal static class SurfaceText
         _ when member.IsDefined(typeof(CompilerGeneratedAttribute)) => null,
         ConstructorInfo made when IsSeen(made) => $"new({Parameters(made)})",
         MethodInfo { IsSpecialName: false } method when IsSeen(method) =>
-            $"{Modifiers(method)}{method.Name}{Generic(method)}({Parameters(method)}) -> {Result(method.ReturnParameter)}",
+            $"{Modifiers(method)}{method.Name}{Generic(method)}({Parameters(method)}) -> "
+                + Result(method.ReturnParameter),
         MethodInfo method when IsSeen(method) && method.Name.StartsWith("op_", StringComparison.Ordinal) =>
             $"{method.Name}({Parameters(method)}) -> {Name(method.ReturnType)}",
         PropertyInfo property when Accessors(property) is { Length: > 0 } accessors =>
-            $"{Modifiers(property.GetMethod ?? property.SetMethod!)}{PropertyName(property)} {{ {accessors} }} -> {Result(property)}",
-        FieldInfo field when field.IsPublic || field.IsFamily => $"{(field.IsStatic ? "static " : "")}{field.Name} -> {Name(field.FieldType)}",
+            $"{Modifiers(property.GetMethod ?? property.SetMethod!)}{PropertyName(property)} {{ {accessors} }} -> "
+                + Result(property),
+        FieldInfo field when field.IsPublic || field.IsFamily =>
+            $"{(field.IsStatic ? "static " : "")}{field.Name} -> {Name(field.FieldType)}",
         EventInfo seen => $"event {seen.Name} -> {Name(seen.EventHandlerType!)}",
         _ => null,
     };
@@ -111,7 +118,9 @@ internal static class SurfaceText
             return Name(type.GetElementType()!) + (type.IsArray ? "[]" : "");
         }
 
-        string own = type.IsNested && !type.IsGenericParameter ? Name(type.DeclaringType!) + "." + type.Name : type.Name;
+        string own = type.IsNested && !type.IsGenericParameter
+            ? Name(type.DeclaringType!) + "." + type.Name
+            : type.Name;
         int arity = own.IndexOf('`', StringComparison.Ordinal);
         return arity < 0 ? own
             : $"{own[..arity]}<{string.Join(", ", type.GetGenericArguments().Select(Name))}>";

@@ -5,6 +5,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -166,7 +167,7 @@ internal sealed partial class DxfReader
     // The tags of a damaged object are passed over; what follows it is read as always.
     private void LeaveOut(ImageLoadException failure)
     {
-        _options.Note(failure);
+        _options.Report(failure);
         while (_tags.Next() && _tags.Code != 0)
         {
         }

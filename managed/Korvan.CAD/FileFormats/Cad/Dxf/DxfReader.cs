@@ -5,6 +5,7 @@ using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -41,7 +42,7 @@ internal sealed partial class DxfReader
         }
         catch (ImageLoadException e) when (_options.IgnoreErrors)
         {
-            _options.Note(e);
+            _options.Report(e);
         }
 
         DrawingLinks.Complete(_drawing);

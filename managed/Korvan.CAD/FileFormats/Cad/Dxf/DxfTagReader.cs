@@ -3,6 +3,7 @@ using System.Buffers.Text;
 using System.Globalization;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -203,10 +204,11 @@ internal sealed partial class DxfTagReader : FieldReader
     /// <summary>Describes damage at the current tag.</summary>
     internal ImageLoadException Fail(LoadDefectCode code, string cause)
     {
-        string place = IsBinary
-            ? $"byte {_tagOffset.ToString(CultureInfo.InvariantCulture)}"
-            : $"line {_line.ToString(CultureInfo.InvariantCulture)}";
-        return new ImageLoadException(new LoadDefect(code, _fileName, place, CurrentHandle, cause));
+        string record = CurrentHandle == 0 ? "" : $"handle {CurrentHandle.ToString("X", CultureInfo.InvariantCulture)}";
+        LoadPlace place = IsBinary
+            ? new LoadPlace(_fileName, Record: record, Offset: _tagOffset)
+            : new LoadPlace(_fileName, _line, record);
+        return new ImageLoadException(new LoadDefect(code, place, cause));
     }
 
     private static int SkipByteOrderMark(byte[] data)

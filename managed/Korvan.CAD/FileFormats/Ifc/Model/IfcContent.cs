@@ -2,8 +2,8 @@ using Korvan.CAD.FileFormats.Ifc.Header;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>What a file of a building model holds.</summary>
+/// <summary>The content of a building model file.</summary>
 /// <param name="Model">The instances.</param>
 /// <param name="Header">The header.</param>
-/// <param name="Form">The notation that it was read from.</param>
+/// <param name="Form">The form in which it was read.</param>
 internal sealed record IfcContent(IfcModel Model, IfcHeader Header, IfcFileForm Form);

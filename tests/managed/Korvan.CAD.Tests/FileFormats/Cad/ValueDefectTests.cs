@@ -7,6 +7,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
+using Korvan.CAD.Input;
 using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cad;
@@ -178,7 +179,7 @@ public class ValueDefectTests
         LoadOptions options = new() { IgnoreErrors = true };
         CadImage image = DxfText.Load(DxfText.Header("AC1015") + "0\nSECTION\n2\nENTITIES\n" + string.Concat(objects) + "0\nENDSEC\n0\nEOF\n", options);
         Assert.Equal(["2A", "2D"], image.Entities.Select(entity => entity.ObjectHandle));
-        Assert.Equal([0x2BuL, 0uL], options.Defects.Select(defect => defect.Handle));
+        Assert.Equal(["handle 2B", ""], options.Defects.Select(defect => defect.Place.Record));
         Assert.Equal(options.Errors, options.Defects.Select(defect => defect.ToString()));
         Assert.Contains(", line 29, handle 2B: group code 10 has the value 'west'", options.Errors[0], StringComparison.Ordinal);
     }

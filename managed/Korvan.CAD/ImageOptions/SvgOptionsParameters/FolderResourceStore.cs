@@ -3,13 +3,14 @@ using System.IO;
 
 namespace Korvan.CAD.ImageOptions.SvgOptionsParameters;
 
-/// <summary>Keeps fonts and pictures as files in a folder.</summary>
-internal sealed class FolderResourceKeeper(string folder, string uri) : ISvgResourceKeeperCallback
+/// <summary>Stores fonts and images as files in a folder.</summary>
+internal sealed class FolderResourceStore(string folder, string uri) : ISvgResourceKeeperCallback
 {
     public void OnFontResourceReady(FontStoringArgs args)
     {
         string face = (args.IsBold ? "-bold" : "") + (args.IsItalic ? "-italic" : "");
-        string name = Path.GetFileNameWithoutExtension(args.SourceFontFileName) + face + Path.GetExtension(args.SourceFontFileName);
+        string file = args.SourceFontFileName;
+        string name = Path.GetFileNameWithoutExtension(file) + face + Path.GetExtension(file);
         Write(name, args.GetFontData());
         args.FontFileUri = Address(name);
     }
@@ -20,7 +21,11 @@ internal sealed class FolderResourceKeeper(string folder, string uri) : ISvgReso
         return Address(suggestedFileName);
     }
 
-    private string Address(string name) => uri.Length == 0 ? Uri.EscapeDataString(name) : $"{uri.TrimEnd('/')}/{Uri.EscapeDataString(name)}";
+    private string Address(string name)
+    {
+        string escaped = Uri.EscapeDataString(name);
+        return uri.Length == 0 ? escaped : $"{uri.TrimEnd('/')}/{escaped}";
+    }
 
     private void Write(string name, byte[] data)
     {

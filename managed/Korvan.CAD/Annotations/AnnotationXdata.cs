@@ -5,22 +5,23 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 
 namespace Korvan.CAD.Annotations;
 
-/// <summary>What text and leader of an annotation have as extended data, by which they are found again.</summary>
-internal sealed record AnnotationMark(string Id, string TargetId, AnnotationDirection Direction)
+/// <summary>The extended data of the text and the leader of an annotation, which identify them.</summary>
+internal sealed record AnnotationXdata(string Id, string TargetId, AnnotationDirection Direction)
 {
     private const string Application = "KORVAN_ANNOTATION";
     private const int Text = 1000;
     private const int Number = 1070;
 
-    internal static AnnotationMark? Of(CadEntityBase entity)
+    internal static AnnotationXdata? Of(CadEntityBase entity)
     {
-        if (entity.XdataOrNull?.Find(Application) is not { Data: [{ Attribute: Text } id, { Attribute: Text } target, { Attribute: Number } side, ..] })
+        if (entity.XdataOrNull?.Find(Application) is not
+            { Data: [{ Attribute: Text } id, { Attribute: Text } target, { Attribute: Number } side, ..] })
         {
             return null;
         }
 
         return int.TryParse(side.Value, NumberStyles.Integer, CultureInfo.InvariantCulture, out int direction)
-            ? new AnnotationMark(id.Value, target.Value, (AnnotationDirection)direction)
+            ? new AnnotationXdata(id.Value, target.Value, (AnnotationDirection)direction)
             : null;
     }
 

@@ -8,15 +8,15 @@ using Microsoft.Win32.SafeHandles;
 namespace Korvan.CAD;
 
 /// <summary>
-/// Names of files that are no UTF-8, which .NET cannot open. Python hands them over with an unpaired surrogate, U+DC80
-/// to U+DCFF, for each byte that is no text.
+/// File names that are not UTF-8, which .NET cannot open. Python passes them with an unpaired surrogate, U+DC80 to
+/// U+DCFF, for each undecodable byte.
 /// </summary>
-internal static unsafe partial class OddFileName
+internal static unsafe partial class UndecodableFileName
 {
     private const int ReadOnly = 0;
     private const int CloseOnExec = 0x80000;
 
-    /// <summary>Tells whether a name stands for such bytes.</summary>
+    /// <summary>Returns whether a name has such bytes.</summary>
     internal static bool Is(string path)
     {
         for (int i = path.AsSpan().IndexOfAnyInRange('\uD800', '\uDFFF'); i >= 0 && i < path.Length; i++)
@@ -34,7 +34,7 @@ internal static unsafe partial class OddFileName
         return false;
     }
 
-    /// <summary>Tells whether a file can be opened by whatever name.</summary>
+    /// <summary>Returns whether a file of any name can be opened.</summary>
     internal static bool Exists(string path)
     {
         if (!Is(path))
@@ -53,7 +53,7 @@ internal static unsafe partial class OddFileName
         }
     }
 
-    /// <summary>Throws where a file of a name cannot be written: it would get another name.</summary>
+    /// <summary>Throws if a file of such a name would be written, as it would get another name.</summary>
     internal static void RefuseAsTarget(string path)
     {
         if (Is(path))
@@ -63,7 +63,7 @@ internal static unsafe partial class OddFileName
         }
     }
 
-    /// <summary>Opens a file by whatever name.</summary>
+    /// <summary>Opens a file of any name.</summary>
     internal static FileStream OpenToRead(string path)
     {
         return Is(path)
@@ -87,7 +87,7 @@ internal static unsafe partial class OddFileName
         }
     }
 
-    // With a NUL behind them.
+    // With a terminating NUL.
     private static byte[] Bytes(string path)
     {
         using MemoryStream bytes = new();
@@ -102,7 +102,7 @@ internal static unsafe partial class OddFileName
 
             if (!Rune.TryGetRuneAt(path, i, out Rune rune))
             {
-                throw new IOException("the name stands for no bytes");
+                throw new IOException("the name cannot be encoded");
             }
 
             bytes.Write(unit[..rune.EncodeToUtf8(unit)]);

@@ -4,8 +4,8 @@ using Korvan.CAD.Collections;
 
 namespace Korvan.CAD;
 
-/// <summary>What lists do beyond their interface.</summary>
-internal static class ListWalks
+/// <summary>Extensions of lists.</summary>
+internal static class ListExtensions
 {
     internal static void AddRange<T>(this IList<T> list, IEnumerable<T> items)
     {
@@ -15,7 +15,7 @@ internal static class ListWalks
         }
     }
 
-    /// <summary>Makes room for items that a file announces.</summary>
+    /// <summary>Reserves capacity for items that a file announces.</summary>
     internal static void EnsureCapacity<T>(this IList<T> list, int capacity)
         where T : class => ItemsOf(list).EnsureCapacity(capacity);
 
@@ -48,7 +48,7 @@ internal static class ListWalks
         return before - list.Count;
     }
 
-    /// <summary>Gives the items as a list; only the list they are in may change them.</summary>
+    /// <summary>Returns the items as a list that only its owner may change.</summary>
     internal static List<T> ItemsOf<T>(this IList<T> list)
         where T : class => (list as CheckedList<T>)?.Items ?? (list as List<T>) ?? [.. list];
 }
