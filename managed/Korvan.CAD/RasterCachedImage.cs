@@ -101,7 +101,7 @@ public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader
         int[] palette = Raster.Colors.DitherPalette.For(_pixels, bitsCount, customPalette);
         if (Array.TrueForAll(palette, PixelGrid.IsGray))
         {
-            Raster.Operations.Tones.Grayscale(_pixels); // lightness decides, not the mean of red, green and blue
+            Raster.Operations.ColorAdjustment.Grayscale(_pixels); // lightness decides, not the mean of red, green and blue
         }
 
         Raster.Colors.Ditherer.Apply(_pixels, palette, ditheringMethod);

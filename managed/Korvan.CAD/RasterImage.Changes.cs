@@ -9,7 +9,7 @@ namespace Korvan.CAD;
 /// <content>Changes of size, direction and colour. All of them change this picture in place.</content>
 public abstract partial class RasterImage
 {
-    private const int LargestFilter = 101;
+    private const int MaxFilterSize = 101;
 
     /// <summary>Keeps a part of the picture.</summary>
     /// <param name="rectangle">The part.</param>
@@ -70,7 +70,7 @@ public abstract partial class RasterImage
     public void RotateFlip(RotateFlipType rotateFlipType)
     {
         VerifyNotDisposed();
-        Replace(Turns.Turn(Pixels, rotateFlipType));
+        Replace(Rotation.RotateFlip(Pixels, rotateFlipType));
         if (((int)rotateFlipType & 1) != 0)
         {
             (HorizontalResolution, VerticalResolution) = (VerticalResolution, HorizontalResolution);
@@ -94,7 +94,7 @@ public abstract partial class RasterImage
             throw Verify.OutOfRange(nameof(angle), angle, "An angle is a finite number.");
         }
 
-        Replace(Turns.Rotate(Pixels, angle, resizeProportionally, backgroundColor.ToArgb()));
+        Replace(Rotation.Rotate(Pixels, angle, resizeProportionally, backgroundColor.ToArgb()));
     }
 
     /// <summary>Brings the picture to few colours, which are chosen for it.</summary>
@@ -113,7 +113,7 @@ public abstract partial class RasterImage
     public void Grayscale()
     {
         VerifyNotDisposed();
-        Tones.Grayscale(Pixels);
+        ColorAdjustment.Grayscale(Pixels);
     }
 
     /// <summary>Makes pixels white that are at least as light as a threshold, the others black.</summary>
@@ -159,7 +159,7 @@ public abstract partial class RasterImage
             }
         }
 
-        Tones.Gamma(Pixels, gammaRed, gammaGreen, gammaBlue);
+        ColorAdjustment.Gamma(Pixels, gammaRed, gammaGreen, gammaBlue);
     }
 
     /// <summary>Adds to red, green and blue.</summary>
@@ -168,7 +168,7 @@ public abstract partial class RasterImage
     {
         VerifyNotDisposed();
         Verify.InRange(brightness, -255, 255);
-        Tones.Brightness(Pixels, brightness);
+        ColorAdjustment.Brightness(Pixels, brightness);
     }
 
     /// <summary>Spreads colours away from the middle grey, or draws them to it.</summary>
@@ -177,7 +177,7 @@ public abstract partial class RasterImage
     {
         VerifyNotDisposed();
         Verify.InRange(contrast, -100, 100);
-        Tones.Contrast(Pixels, contrast);
+        ColorAdjustment.Contrast(Pixels, contrast);
     }
 
     /// <summary>Gives each pixel the product of its parts with a matrix.</summary>
@@ -198,7 +198,7 @@ public abstract partial class RasterImage
             throw Verify.OutOfRange(nameof(flag), flag, "There is no such choice of colours.");
         }
 
-        Tones.Matrix(Pixels, matrix, flag);
+        ColorAdjustment.Matrix(Pixels, matrix, flag);
     }
 
     /// <summary>Changes pixels by what is around them.</summary>
@@ -208,7 +208,7 @@ public abstract partial class RasterImage
     public void Filter(ImageFilterType filterType, int size)
     {
         VerifyNotDisposed();
-        Verify.InRange(size, 3, LargestFilter);
+        Verify.InRange(size, 3, MaxFilterSize);
         if (size % 2 == 0)
         {
             throw Verify.OutOfRange(nameof(size), size, "The side of a filter is an odd number of pixels.");

@@ -17,7 +17,7 @@ namespace Korvan.CAD;
 public abstract partial class RasterImage
     : Image, IPixelContent, IRasterImageArgb32PixelLoader, IRasterImagePixelLoader, IRasterImageRawDataLoader
 {
-    private const double UsualResolution = 96;
+    private const double DefaultResolution = 96;
 
     internal RasterImage()
     {
@@ -36,10 +36,10 @@ public abstract partial class RasterImage
     public abstract string PageTitle { get; }
 
     /// <summary>Gets or sets the pixels an inch along X, above 0; 96 where the file states none.</summary>
-    public double HorizontalResolution { get; private protected set; } = UsualResolution;
+    public double HorizontalResolution { get; private protected set; } = DefaultResolution;
 
     /// <summary>Gets or sets the pixels an inch along Y, above 0; 96 where the file states none.</summary>
-    public double VerticalResolution { get; private protected set; } = UsualResolution;
+    public double VerticalResolution { get; private protected set; } = DefaultResolution;
 
     /// <summary>Gets whether any pixel is less than opaque.</summary>
     public bool HasAlpha => !Pixels.IsOpaque();
@@ -104,7 +104,7 @@ public abstract partial class RasterImage
             {
                 Exif = image.ExifData,
                 Xmp = image.XmpData,
-            }.Turned(options.Rotation);
+            }.RotatedFlipped(options.Rotation);
         }
     }
 }

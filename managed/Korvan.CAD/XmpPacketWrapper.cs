@@ -15,7 +15,7 @@ public class XmpPacketWrapper
 {
     private const string PacketBegin = "<?xpacket begin=\"\uFEFF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>";
     private const string PacketEnd = "<?xpacket end=\"w\"?>";
-    private const long LongestPacket = 16 << 20;
+    private const long MaxPacketCharacters = 16 << 20;
 
     private static readonly XNamespace Rdf = "http://www.w3.org/1999/02/22-rdf-syntax-ns#";
     private static readonly XNamespace Meta = "adobe:ns:meta/";
@@ -170,7 +170,7 @@ public class XmpPacketWrapper
         {
             DtdProcessing = DtdProcessing.Prohibit,
             XmlResolver = null,
-            MaxCharactersInDocument = LongestPacket,
+            MaxCharactersInDocument = MaxPacketCharacters,
         };
         try
         {

@@ -13,7 +13,7 @@ namespace Korvan.CAD.Exif;
 /// <summary>What a camera or program says of a picture (Exif 2.32).</summary>
 public partial class ExifData
 {
-    private const int HeadBytes = 8;
+    private const int HeaderBytes = 8;
     private const int Magic = 42;
 
     /// <summary>Creates data without fields.</summary>
@@ -111,7 +111,7 @@ public partial class ExifData
         Point(ExifProperties.ExifIfdPointer, ExifTags.Directory.Count > 0);
         Point(ExifProperties.GpsIfdPointer, GpsTags.Directory.Count > 0);
         ExifTags.Remove(ExifProperties.InteroperabilityIfdPointer);
-        long exifPlace = HeadBytes + common.Size;
+        long exifPlace = HeaderBytes + common.Size;
         long gpsPlace = exifPlace + (ExifTags.Directory.Count > 0 ? ExifTags.Directory.Size : 0);
         long rest = gpsPlace + (GpsTags.Directory.Count > 0 ? GpsTags.Directory.Size : 0);
         SetPlace(ExifProperties.ExifIfdPointer, exifPlace);
@@ -121,8 +121,8 @@ public partial class ExifData
         var writer = new TiffStreamWriter(stream, ByteOrder);
         writer.WriteUShort((int)ByteOrder);
         writer.WriteUShort(Magic);
-        writer.WriteULong(HeadBytes);
-        common.Write(writer, HeadBytes, HasRest ? rest : 0);
+        writer.WriteULong(HeaderBytes);
+        common.Write(writer, HeaderBytes, HasRest ? rest : 0);
         WriteDirectory(writer, ExifTags.Directory, exifPlace);
         WriteDirectory(writer, GpsTags.Directory, gpsPlace);
         WriteRest(writer, rest);
@@ -141,7 +141,7 @@ public partial class ExifData
 
     private static TiffStreamReader Open(byte[] data)
     {
-        if (data.Length < HeadBytes || data[0] != data[1] || data[0] is not ((byte)'I' or (byte)'M'))
+        if (data.Length < HeaderBytes || data[0] != data[1] || data[0] is not ((byte)'I' or (byte)'M'))
         {
             throw new TiffImageException($"A block of {data.Length} bytes does not begin with a mark of byte order.");
         }
@@ -196,7 +196,7 @@ public partial class ExifData
         return GpsTags.GetText(reference) == negative ? -degrees : degrees;
     }
 
-    private void SetAngle(ExifProperties angle, ExifProperties reference, double value, double most, string positive, string negative)
+    private void SetAngle(ExifProperties angle, ExifProperties reference, double value, double max, string positive, string negative)
     {
         if (double.IsNaN(value))
         {
@@ -205,7 +205,7 @@ public partial class ExifData
             return;
         }
 
-        Verify.InRange(value, -most, most, angle.ToString());
+        Verify.InRange(value, -max, max, angle.ToString());
 
         // Rounded as a whole, so that no part becomes 60.
         const long second = 100_000;

@@ -6,12 +6,12 @@ namespace Korvan.CAD.Exif;
 /// <summary>What the maker of a camera adds in a form of his own.</summary>
 public class MakerNote
 {
-    private const int LongestName = 16;
+    private const int MaxNameBytes = 16;
 
     internal MakerNote(byte[] data)
     {
         Data = data;
-        int end = data.AsSpan(0, Math.Min(data.Length, LongestName)).IndexOfAnyExceptInRange((byte)' ', (byte)'~');
+        int end = data.AsSpan(0, Math.Min(data.Length, MaxNameBytes)).IndexOfAnyExceptInRange((byte)' ', (byte)'~');
         Name = end > 0 ? Encoding.ASCII.GetString(data, 0, end).TrimEnd() : "";
     }
 

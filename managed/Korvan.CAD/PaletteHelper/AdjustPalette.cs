@@ -7,7 +7,7 @@ namespace Korvan.CAD.PaletteHelper;
 /// <summary>Makes one palette for several pictures: their colours are counted one after the other.</summary>
 public class AdjustPalette : IPartialArgb32PixelLoader
 {
-    private readonly ColorCount _colors = new();
+    private readonly ColorHistogram _colors = new();
 
     /// <summary>Creates a palette maker that has seen no colours yet.</summary>
     public AdjustPalette()

@@ -16,7 +16,7 @@ internal sealed class RasterCodec
 
     internal required FileFormat Format { get; init; }
 
-    internal required Signature IsOwn { get; init; }
+    internal required Signature Matches { get; init; }
 
     internal required Func<RasterSource, DecodedFile> Reader { get; init; }
 

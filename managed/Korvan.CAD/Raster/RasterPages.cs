@@ -29,7 +29,7 @@ internal sealed record RasterPageData(PixelGrid Pixels, double HorizontalResolut
     internal XmpPacketWrapper? Xmp { get; init; }
 
     /// <summary>The page turned and mirrored; it stands in for this one, which ends.</summary>
-    internal RasterPageData Turned(RotateFlipType type)
+    internal RasterPageData RotatedFlipped(RotateFlipType type)
     {
         if (type == RotateFlipType.RotateNoneFlipNone)
         {
@@ -41,7 +41,7 @@ internal sealed record RasterPageData(PixelGrid Pixels, double HorizontalResolut
             bool swap = ((int)type & 1) != 0;
             return this with
             {
-                Pixels = Turns.Turn(Pixels, type),
+                Pixels = Rotation.RotateFlip(Pixels, type),
                 HorizontalResolution = swap ? VerticalResolution : HorizontalResolution,
                 VerticalResolution = swap ? HorizontalResolution : VerticalResolution,
             };

@@ -6,9 +6,9 @@ namespace Korvan.CAD.FileFormats.Dicom;
 /// <summary>How the pixels of a DICOM file are stored.</summary>
 public class Compression
 {
-    internal const int UsualQuality = 90;
+    internal const int DefaultQuality = 90;
 
-    private int _quality = UsualQuality;
+    private int _quality = DefaultQuality;
 
     /// <summary>Creates plain storage.</summary>
     public Compression()

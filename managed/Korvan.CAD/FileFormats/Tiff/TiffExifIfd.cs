@@ -16,7 +16,7 @@ public class TiffExifIfd
     internal const int EntryBytes = 12;
 
     /// <summary>Fields may share bytes; were they all to share the whole block, its size would multiply.</summary>
-    private const int MostSharing = 4;
+    private const int MaxSharing = 4;
 
     private readonly SortedDictionary<int, TiffDataType> _tags = [];
 
@@ -44,7 +44,7 @@ public class TiffExifIfd
         Verify.NotNull(reader);
         int count = reader.ReadUShort(offset);
         var directory = new TiffExifIfd();
-        long left = reader.Length * MostSharing;
+        long left = reader.Length * MaxSharing;
         for (int i = 0; i < count; i++)
         {
             TiffDataType tag = ReadTag(reader, offset + 2 + (EntryBytes * i), left);
@@ -80,7 +80,7 @@ public class TiffExifIfd
     public void Clear() => _tags.Clear();
 
     /// <summary>How many bytes the directory takes, with its values.</summary>
-    internal long Size => 2 + (EntryBytes * Kept.Count()) + 4 + Kept.Sum(static tag => tag.DataSize > 4 ? Even(tag.DataSize) : 0);
+    internal long Size => 2 + (EntryBytes * Kept.Count()) + 4 + Kept.Sum(static tag => tag.DataSize > 4 ? PaddedSize(tag.DataSize) : 0);
 
     private IEnumerable<TiffDataType> Kept => _tags.Values.Where(static tag => tag is not TiffUnknownType && tag.Count > 0);
 
@@ -98,7 +98,7 @@ public class TiffExifIfd
             if (tag.DataSize > 4)
             {
                 writer.WriteULong(place);
-                place += Even(tag.DataSize);
+                place += PaddedSize(tag.DataSize);
                 continue;
             }
 
@@ -110,7 +110,7 @@ public class TiffExifIfd
         foreach (TiffDataType tag in kept.Where(static tag => tag.DataSize > 4))
         {
             tag.Write(writer);
-            Pad(writer, Even(tag.DataSize) - tag.DataSize);
+            Pad(writer, PaddedSize(tag.DataSize) - tag.DataSize);
         }
     }
 
@@ -137,7 +137,7 @@ public class TiffExifIfd
         return tag;
     }
 
-    private static long Even(long size) => (size + 1) & ~1L;
+    private static long PaddedSize(long size) => (size + 1) & ~1L;
 
     private static void Pad(TiffStreamWriter writer, long count)
     {

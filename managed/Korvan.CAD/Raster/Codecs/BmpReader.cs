@@ -18,7 +18,7 @@ internal sealed class BmpReader
     private const double MetresPerInch = 0.0254;
 
     private readonly RasterSource _source;
-    private readonly int _headSize;
+    private readonly int _headerSize;
     private readonly int _width;
     private readonly int _height;
     private readonly bool _topDown;
@@ -31,13 +31,13 @@ internal sealed class BmpReader
     {
         _source = source;
         ReadOnlySpan<byte> data = source.Data;
-        _headSize = Number(FileHeaderLength);
-        if (_headSize is not (12 or 40 or 52 or 56 or 64 or 108 or 124) || data.Length < FileHeaderLength + _headSize)
+        _headerSize = Number(FileHeaderLength);
+        if (_headerSize is not (12 or 40 or 52 or 56 or 64 or 108 or 124) || data.Length < FileHeaderLength + _headerSize)
         {
-            throw Damaged($"its head says that it has {_headSize} bytes");
+            throw Damaged($"its head says that it has {_headerSize} bytes");
         }
 
-        bool old = _headSize == 12;
+        bool old = _headerSize == 12;
         _width = old ? Short(18) : Number(18);
         int rows = old ? Short(20) : Number(22);
         _topDown = rows < 0;
@@ -49,8 +49,8 @@ internal sealed class BmpReader
             throw Damaged($"it says that it has {_width} × {rows} pixels");
         }
 
-        PixelGrid.Verify(_width, _height);
-        VerifyKind();
+        PixelGrid.VerifySize(_width, _height);
+        VerifyEncoding();
     }
 
     internal static DecodedFile Read(RasterSource source)
@@ -68,13 +68,13 @@ internal sealed class BmpReader
     {
         int offset = Number(10);
         int tables = ReadTables();
-        if (offset < FileHeaderLength + _headSize || offset > _source.Data.Length)
+        if (offset < FileHeaderLength + _headerSize || offset > _source.Data.Length)
         {
             offset = Math.Min(tables, _source.Data.Length);
         }
 
         ReadOnlySpan<byte> data = _source.Data.AsSpan(offset);
-        bool density = _headSize >= 40;
+        bool density = _headerSize >= 40;
         bool runs = _compression is BitmapCompression.Rle8 or BitmapCompression.Rle4;
         return new DecodedFrame
         {
@@ -86,7 +86,7 @@ internal sealed class BmpReader
         };
     }
 
-    private void VerifyKind()
+    private void VerifyEncoding()
     {
         bool known = (_compression, _bits) switch
         {
@@ -106,14 +106,14 @@ internal sealed class BmpReader
     /// <summary>Reads masks and palette; gives where they end.</summary>
     private int ReadTables()
     {
-        int at = FileHeaderLength + _headSize;
+        int at = FileHeaderLength + _headerSize;
         if (_bits is 16 or 32)
         {
-            uint[] usual = _bits == 16 ? [0x7C00, 0x3E0, 0x1F, 0] : [0xFF0000, 0xFF00, 0xFF, 0];
-            usual.CopyTo(_masks, 0);
+            uint[] defaults = _bits == 16 ? [0x7C00, 0x3E0, 0x1F, 0] : [0xFF0000, 0xFF00, 0xFF, 0];
+            defaults.CopyTo(_masks, 0);
             int count = _compression switch
             {
-                BitmapCompression.Bitfields => _headSize >= 56 ? 4 : 3,
+                BitmapCompression.Bitfields => _headerSize >= 56 ? 4 : 3,
                 BitmapCompression.AlphaBitfields => 4,
                 _ => 0,
             };
@@ -122,7 +122,7 @@ internal sealed class BmpReader
                 _masks[i] = (uint)Number(54 + (4 * i));
             }
 
-            return _headSize == 40 ? at + (4 * count) : at;
+            return _headerSize == 40 ? at + (4 * count) : at;
         }
 
         if (_bits > 8)
@@ -130,8 +130,8 @@ internal sealed class BmpReader
             return at;
         }
 
-        int entry = _headSize == 12 ? 3 : 4;
-        int stated = _headSize == 12 ? 0 : Number(46);
+        int entry = _headerSize == 12 ? 3 : 4;
+        int stated = _headerSize == 12 ? 0 : Number(46);
         int colors = stated is > 0 and <= 256 ? Math.Min(stated, 1 << _bits) : 1 << _bits;
         colors = Math.Min(colors, (_source.Data.Length - at) / entry);
         _palette = new int[1 << _bits];
@@ -254,8 +254,8 @@ internal sealed class BmpReader
         }
 
         int shift = BitOperations.TrailingZeroCount(mask);
-        ulong most = mask >> shift;
-        return (int)((((value & mask) >> shift) * 255ul + (most / 2)) / most);
+        ulong max = mask >> shift;
+        return (int)((((value & mask) >> shift) * 255ul + (max / 2)) / max);
     }
 
     // Many programs leave the fourth byte at 0 and mean opaque pixels.

@@ -11,8 +11,8 @@ namespace Korvan.CAD.Raster.Codecs;
 internal sealed class DicomReader
 {
     private const int Preamble = 132;
-    private const int DeepestSequence = 16;
-    private const int LongestText = 1024;
+    private const int MaxSequenceDepth = 16;
+    private const int MaxTextBytes = 1024;
 
     private readonly RasterSource _source;
     private readonly Dictionary<uint, byte[]> _values = [];
@@ -37,7 +37,7 @@ internal sealed class DicomReader
     {
         var reader = new DicomReader(source);
         reader.ReadElements();
-        return new DecodedFile { Format = FileFormat.Dicom, Frames = DicomPicture.Frames(reader) };
+        return new DecodedFile { Format = FileFormat.Dicom, Frames = DicomFrames.Frames(reader) };
     }
 
     internal string Text(uint tag) =>
@@ -67,7 +67,7 @@ internal sealed class DicomReader
                 Begin();
             }
 
-            (string type, uint length) = Head();
+            (string type, uint length) = ReadHeader();
             if (tag == DicomTags.PixelData)
             {
                 ReadPixels(length);
@@ -85,22 +85,22 @@ internal sealed class DicomReader
     {
         _values[0] = [];
         _implicitTypes = Syntax == DicomTags.ImplicitLittleEndian;
-        if (!DicomPicture.Reads(Syntax))
+        if (!DicomFrames.Reads(Syntax))
         {
             throw new ImageLoadException($"'{_source.Name}' has the transfer syntax '{Syntax}', which is not read.");
         }
     }
 
-    private (string Type, uint Length) Head()
+    private (string Type, uint Length) ReadHeader()
     {
-        ReadOnlySpan<byte> head = Take(_at, 8);
+        ReadOnlySpan<byte> header = Take(_at, 8);
         if (_implicitTypes && Tag(_at) >> 16 > 2)
         {
             _at += 8;
-            return ("UN", BinaryPrimitives.ReadUInt32LittleEndian(head[4..]));
+            return ("UN", BinaryPrimitives.ReadUInt32LittleEndian(header[4..]));
         }
 
-        string type = Encoding.ASCII.GetString(head[4..6]);
+        string type = Encoding.ASCII.GetString(header[4..6]);
         if (type is "OB" or "OW" or "OF" or "OD" or "OL" or "OV" or "SQ" or "UN" or "UT" or "UC" or "UR" or "SV" or "UV")
         {
             uint length = BinaryPrimitives.ReadUInt32LittleEndian(Take(_at + 8, 4));
@@ -109,7 +109,7 @@ internal sealed class DicomReader
         }
 
         _at += 8;
-        return (type, BinaryPrimitives.ReadUInt16LittleEndian(head[6..]));
+        return (type, BinaryPrimitives.ReadUInt16LittleEndian(header[6..]));
     }
 
     private void ReadValue(uint tag, string type, uint length)
@@ -122,7 +122,7 @@ internal sealed class DicomReader
 
         ReadOnlySpan<byte> data = Take(_at, length);
         _at += (int)length;
-        if (type != "SQ" && length <= LongestText && tag >> 16 is 2 or 0x28)
+        if (type != "SQ" && length <= MaxTextBytes && tag >> 16 is 2 or 0x28)
         {
             _values[tag] = data.ToArray();
         }
@@ -130,9 +130,9 @@ internal sealed class DicomReader
 
     private void SkipSequence(int depth)
     {
-        if (depth > DeepestSequence)
+        if (depth > MaxSequenceDepth)
         {
-            throw Damaged($"its sequences are nested more than {DeepestSequence} deep");
+            throw Damaged($"its sequences are nested more than {MaxSequenceDepth} deep");
         }
 
         while (true)
@@ -165,7 +165,7 @@ internal sealed class DicomReader
     {
         while (Tag(_at) != DicomTags.ItemEnd)
         {
-            (_, uint length) = Head();
+            (_, uint length) = ReadHeader();
             if (length == DicomTags.UndefinedLength)
             {
                 SkipSequence(depth + 1);
@@ -183,13 +183,13 @@ internal sealed class DicomReader
     {
         if (length != DicomTags.UndefinedLength)
         {
-            int there = _source.Data.Length - _at;
-            if (length > there && !_source.Lenient)
+            int available = _source.Data.Length - _at;
+            if (length > available && !_source.Lenient)
             {
-                throw Damaged($"{length} bytes of pixels are announced, but {there} are left");
+                throw Damaged($"{length} bytes of pixels are announced, but {available} are left");
             }
 
-            PlainPixels = _source.Data.AsMemory(_at, (int)Math.Min(length, there));
+            PlainPixels = _source.Data.AsMemory(_at, (int)Math.Min(length, available));
             return;
         }
 

@@ -9,18 +9,18 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>The run lengths of DICOM (PS3.5, annex G): planes of bytes, the highest of each sample first.</summary>
 internal static class DicomRle
 {
-    private const int HeadBytes = 64;
+    private const int HeaderBytes = 64;
 
     /// <summary>Packs red, green and blue, or lightness in one byte or two.</summary>
     internal static byte[] Pack(PixelGrid pixels, int planes, bool color)
     {
-        List<byte> packed = [.. new byte[HeadBytes]];
-        var head = new byte[HeadBytes];
-        BinaryPrimitives.WriteInt32LittleEndian(head, planes);
+        List<byte> packed = [.. new byte[HeaderBytes]];
+        var header = new byte[HeaderBytes];
+        BinaryPrimitives.WriteInt32LittleEndian(header, planes);
         var row = new byte[pixels.Width];
         for (int plane = 0; plane < planes; plane++)
         {
-            BinaryPrimitives.WriteInt32LittleEndian(head.AsSpan(4 + (4 * plane)), packed.Count);
+            BinaryPrimitives.WriteInt32LittleEndian(header.AsSpan(4 + (4 * plane)), packed.Count);
             for (int y = 0; y < pixels.Height; y++)
             {
                 ReadOnlySpan<int> from = pixels.Row(y);
@@ -40,7 +40,7 @@ internal static class DicomRle
         }
 
         Span<byte> all = System.Runtime.InteropServices.CollectionsMarshal.AsSpan(packed);
-        head.CopyTo(all);
+        header.CopyTo(all);
         return all.ToArray();
     }
 
@@ -48,7 +48,7 @@ internal static class DicomRle
     internal static byte[] Unpack(ReadOnlySpan<byte> data, int samples, int sampleBytes, long pixels)
     {
         int planes = samples * sampleBytes;
-        if (data.Length < HeadBytes || BinaryPrimitives.ReadInt32LittleEndian(data) != planes)
+        if (data.Length < HeaderBytes || BinaryPrimitives.ReadInt32LittleEndian(data) != planes)
         {
             throw new RleCompressorException($"A frame of run lengths does not have the {planes} planes that its picture needs.");
         }

@@ -15,10 +15,10 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>Reads GIF: each frame as it is seen, over what the frames before it left.</summary>
 internal sealed unsafe class GifReader
 {
-    private const int MostFrames = 10_000;
-    private const int KeepsPlace = 1;
-    private const int ToBackground = 2;
-    private const int ToPrevious = 3;
+    private const int MaxFrames = 10_000;
+    private const int DisposalKeep = 1;
+    private const int DisposalBackground = 2;
+    private const int DisposalPrevious = 3;
     private static readonly (int First, int Step)[] InterlacePasses = [(0, 8), (4, 8), (2, 4), (1, 2)];
 
     private readonly RasterSource _source;
@@ -71,7 +71,7 @@ internal sealed unsafe class GifReader
                 $"'{_source.Name}' claims {_gif.File.Width} × {_gif.File.Height} pixels, which is no image.");
         }
 
-        PixelGrid.Verify(_gif.File.Width, _gif.File.Height);
+        PixelGrid.VerifySize(_gif.File.Width, _gif.File.Height);
         Gif.Record record;
         do
         {
@@ -90,7 +90,7 @@ internal sealed unsafe class GifReader
                 break;
             }
         }
-        while (record != Gif.Record.Terminate && _frames.Count < MostFrames);
+        while (record != Gif.Record.Terminate && _frames.Count < MaxFrames);
         if (_frames.Count == 0)
         {
             throw new GifImageException($"'{_source.Name}' holds no picture.");
@@ -150,9 +150,9 @@ internal sealed unsafe class GifReader
         Gif.ImageDescription image = _gif.File.Image;
         int[] palette = Palette(image.Map != null ? image.Map : _gif.File.Map);
         _total += (long)_gif.File.Width * _gif.File.Height;
-        if (_total > PixelGrid.MostPixels)
+        if (_total > PixelGrid.MaxPixels)
         {
-            throw new LimitMemoryException($"The frames of '{_source.Name}' have more than {PixelGrid.MostPixels} pixels in all.");
+            throw new LimitMemoryException($"The frames of '{_source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
 
         if (image.Width < 1 || image.Height < 1)
@@ -161,11 +161,11 @@ internal sealed unsafe class GifReader
         }
 
         _canvas ??= new PixelGrid(_gif.File.Width, _gif.File.Height);
-        using PixelGrid? before = _disposal == ToPrevious ? _canvas.Copy() : null;
+        using PixelGrid? before = _disposal == DisposalPrevious ? _canvas.Copy() : null;
         bool whole = Draw(image, palette);
         _frames.Add(new DecodedFrame { Pixels = _canvas.Copy(), BitsPerPixel = 8, Palette = new ColorPalette(palette) });
-        Leave(image, before);
-        (_transparent, _disposal) = (-1, KeepsPlace);
+        DisposeFrame(image, before);
+        (_transparent, _disposal) = (-1, DisposalKeep);
         return whole;
     }
 
@@ -210,14 +210,14 @@ internal sealed unsafe class GifReader
                     return false;
                 }
 
-                Place(line, image.Left, image.Top + y, palette);
+                PlaceLine(line, image.Left, image.Top + y, palette);
             }
         }
 
         return true;
     }
 
-    private void Place(byte[] line, int left, int y, int[] palette)
+    private void PlaceLine(byte[] line, int left, int y, int[] palette)
     {
         if (y >= _canvas!.Height)
         {
@@ -232,9 +232,9 @@ internal sealed unsafe class GifReader
         }
     }
 
-    private void Leave(in Gif.ImageDescription image, PixelGrid? before)
+    private void DisposeFrame(in Gif.ImageDescription image, PixelGrid? before)
     {
-        if (before == null && _disposal != ToBackground)
+        if (before == null && _disposal != DisposalBackground)
         {
             return;
         }

@@ -15,7 +15,7 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>Writes GIF 89a: one palette for all frames, each as large as the whole picture.</summary>
 internal sealed unsafe class GifWriter
 {
-    private const int LargestSide = 65_535;
+    private const int MaxSide = 65_535;
     private static readonly (int First, int Step)[] InterlacePasses = [(0, 8), (4, 8), (2, 4), (1, 2)];
 
     private readonly GifOptions _options;
@@ -84,10 +84,10 @@ internal sealed unsafe class GifWriter
     {
         if (options.Palette != null)
         {
-            return PaletteChoice.Given(options.Palette, options.MaxColors);
+            return PaletteChoice.Verified(options.Palette, options.MaxColors);
         }
 
-        var colors = new ColorCount();
+        var colors = new ColorHistogram();
         colors.Add(first.Pixels);
         for (int i = 1; i < chosen.Count; i++)
         {
@@ -134,14 +134,14 @@ internal sealed unsafe class GifWriter
 
     private void WriteFrame(PixelGrid pixels, int frames)
     {
-        if (pixels.Width > LargestSide || pixels.Height > LargestSide)
+        if (pixels.Width > MaxSide || pixels.Height > MaxSide)
         {
-            throw new GifImageException($"A GIF holds at most {LargestSide} pixels on a side.");
+            throw new GifImageException($"A GIF holds at most {MaxSide} pixels on a side.");
         }
 
         WriteControl(frames);
         Verify(Gif.PutImage(_gif, 0, 0, pixels.Width, pixels.Height, _options.Interlaced, null));
-        byte[] indices = IndexedRows.Of(pixels, _palette, _options.Dithering);
+        byte[] indices = IndexedPixels.Of(pixels, _palette, _options.Dithering);
         fixed (byte* start = indices)
         {
             foreach ((int from, int step) in _options.Interlaced ? InterlacePasses : [(0, 1)])

@@ -13,7 +13,7 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>Reads and writes JPEG 2000, as a JP2 file and as a bare codestream.</summary>
 internal static unsafe class Jpeg2000Codec
 {
-    private const int MostResolutions = 6;
+    private const int MaxResolutions = 6;
 
     internal static void Write(PixelGrid pixels, Jpeg2000Options options, Stream output)
     {
@@ -102,7 +102,7 @@ internal static unsafe class Jpeg2000Codec
             throw new Jpeg2000Exception($"'{source.Name}' claims {width} × {height} pixels, which is no image.");
         }
 
-        PixelGrid.Verify(width, height);
+        PixelGrid.VerifySize(width, height);
         if (width * height > (length * 20_000L) + 65_536)
         {
             throw new Jpeg2000Exception($"'{source.Name}' claims {width} × {height} pixels, which its {length} bytes cannot hold.");
@@ -112,7 +112,7 @@ internal static unsafe class Jpeg2000Codec
     private static int Resolutions(int side)
     {
         int count = 1;
-        while (count < MostResolutions && side >> count > 0)
+        while (count < MaxResolutions && side >> count > 0)
         {
             count++;
         }

@@ -18,8 +18,8 @@ internal static unsafe class Jpeg2000Planes
             bitsPerPixel += (int)image.Components[i].Precision;
         }
 
-        bool inks = image.Colors == OpenJpeg.ColorCmyk && count >= 4;
-        int colors = inks ? 4 : count >= 3 ? 3 : 1;
+        bool isCmyk = image.Colors == OpenJpeg.ColorCmyk && count >= 4;
+        int colors = isCmyk ? 4 : count >= 3 ? 3 : 1;
         var pixels = new PixelGrid(checked((int)(image.X1 - image.X0)), checked((int)(image.Y1 - image.Y0)));
         var samples = new int[colors + 1];
         for (int y = 0; y < pixels.Height; y++)
@@ -33,17 +33,17 @@ internal static unsafe class Jpeg2000Planes
                     samples[c] = Sample(image.Components[c], image.X0 + x, image.Y0 + y);
                 }
 
-                row[x] = Pixel(samples, inks, image.Colors);
+                row[x] = Pixel(samples, isCmyk, image.Colors);
             }
         }
 
         return pixels;
     }
 
-    private static int Pixel(ReadOnlySpan<int> s, bool inks, int colors)
+    private static int Pixel(ReadOnlySpan<int> s, bool isCmyk, int colors)
     {
         int alpha = s[^1] << 24;
-        if (inks)
+        if (isCmyk)
         {
             return (CmykColor.FromStored(s[0] | (s[1] << 8) | (s[2] << 16) | (s[3] << 24)).ToArgb32() & 0xFFFFFF) | alpha;
         }
@@ -73,8 +73,8 @@ internal static unsafe class Jpeg2000Planes
         long value = plane.Data[(row * plane.Width) + column];
         int bits = (int)plane.Precision;
         value += plane.Signed != 0 ? 1L << (bits - 1) : 0;
-        long most = (1L << bits) - 1;
-        return (int)(((Math.Clamp(value, 0, most) * 255) + (most / 2)) / most);
+        long max = (1L << bits) - 1;
+        return (int)(((Math.Clamp(value, 0, max) * 255) + (max / 2)) / max);
     }
 
     private static void Verify(in OpenJpeg.Component plane, RasterSource source)

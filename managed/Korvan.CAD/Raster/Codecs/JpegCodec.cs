@@ -11,18 +11,18 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>Compresses and decompresses JPEG; what stands beside the picture is the matter of <see cref="JpegSegments"/>.</summary>
 internal static unsafe class JpegCodec
 {
-    private const int LargestSide = 65_500;
+    private const int MaxSide = 65_500;
 
     /// <summary>A block of 8 × 8 takes a bit at the least, so a byte is at most 512 pixels.</summary>
-    private const long MostPixelsPerByte = 512;
+    private const long MaxPixelsPerByte = 512;
 
     /// <summary>Compresses opaque pixels.</summary>
     internal static byte[] Compress(PixelGrid pixels, JpegCompressionColorMode colors, int quality, bool progressive)
     {
         TurboJpeg.Require();
-        if (pixels.Width > LargestSide || pixels.Height > LargestSide)
+        if (pixels.Width > MaxSide || pixels.Height > MaxSide)
         {
-            throw new JpegException($"A JPEG holds at most {LargestSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
+            throw new JpegException($"A JPEG holds at most {MaxSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
         }
 
         (TurboJpeg.PixelLayout layout, TurboJpeg.Subsampling subsampling) = colors switch
@@ -31,12 +31,12 @@ internal static unsafe class JpegCodec
             JpegCompressionColorMode.Ycck => (TurboJpeg.PixelLayout.Cmyk, TurboJpeg.Subsampling.None),
             _ => (TurboJpeg.PixelLayout.Bgrx, quality >= 90 ? TurboJpeg.Subsampling.None : TurboJpeg.Subsampling.Quarter),
         };
-        using PixelGrid? inks = colors == JpegCompressionColorMode.Ycck ? Inks(pixels) : null;
+        using PixelGrid? isCmyk = colors == JpegCompressionColorMode.Ycck ? ToInvertedCmyk(pixels) : null;
         using TurboJpegHandle handle = TurboJpeg.InitCompress();
         int flags = progressive ? TurboJpeg.FlagProgressive : 0;
         nuint size = 0;
         int failure = TurboJpeg.Compress(
-            handle, (inks ?? pixels).Pointer, pixels.Width, 0, pixels.Height, layout, out TurboJpegBufferHandle jpeg,
+            handle, (isCmyk ?? pixels).Pointer, pixels.Width, 0, pixels.Height, layout, out TurboJpegBufferHandle jpeg,
             ref size, subsampling, quality, flags);
         using (jpeg)
         {
@@ -75,37 +75,37 @@ internal static unsafe class JpegCodec
             throw new JpegException($"'{source.Name}' is no JPEG that can be read: it ends before the head of a picture.");
         }
 
-        if ((long)width * height > length * MostPixelsPerByte)
+        if ((long)width * height > length * MaxPixelsPerByte)
         {
             throw new JpegException($"'{source.Name}' claims {width} × {height} pixels, which its {length} bytes cannot hold.");
         }
 
-        bool inks = (TurboJpeg.Colors)colors is TurboJpeg.Colors.Cmyk or TurboJpeg.Colors.Ycck;
-        bitsPerPixel = inks ? 32 : (TurboJpeg.Colors)colors == TurboJpeg.Colors.Gray ? 8 : 24;
+        bool isCmyk = (TurboJpeg.Colors)colors is TurboJpeg.Colors.Cmyk or TurboJpeg.Colors.Ycck;
+        bitsPerPixel = isCmyk ? 32 : (TurboJpeg.Colors)colors == TurboJpeg.Colors.Gray ? 8 : 24;
         var pixels = new PixelGrid(width, height);
         int flags = TurboJpeg.FlagLimitScans | (source.Lenient ? 0 : TurboJpeg.FlagStopOnWarning);
-        TurboJpeg.PixelLayout layout = inks ? TurboJpeg.PixelLayout.Cmyk : TurboJpeg.PixelLayout.Bgra;
+        TurboJpeg.PixelLayout layout = isCmyk ? TurboJpeg.PixelLayout.Cmyk : TurboJpeg.PixelLayout.Bgra;
         if (TurboJpeg.Decompress(handle, data, (nuint)length, pixels.Pointer, width, 0, height, layout, flags) != 0 && !source.Lenient)
         {
             pixels.Dispose();
             throw new JpegException($"The picture of '{source.Name}' is damaged: {TurboJpeg.Error(handle)}.");
         }
 
-        if (inks)
+        if (isCmyk)
         {
-            FromInks(pixels, inverted);
+            FromCmyk(pixels, inverted);
         }
 
         return pixels;
     }
 
     /// <summary>Colours as inks in the inverted form that programs for print write.</summary>
-    private static PixelGrid Inks(PixelGrid pixels)
+    private static PixelGrid ToInvertedCmyk(PixelGrid pixels)
     {
-        var inks = new PixelGrid(pixels.Width, pixels.Height);
+        var isCmyk = new PixelGrid(pixels.Width, pixels.Height);
         for (int y = 0; y < pixels.Height; y++)
         {
-            Span<int> to = inks.Row(y);
+            Span<int> to = isCmyk.Row(y);
             ReadOnlySpan<int> from = pixels.Row(y);
             for (int x = 0; x < to.Length; x++)
             {
@@ -113,10 +113,10 @@ internal static unsafe class JpegCodec
             }
         }
 
-        return inks;
+        return isCmyk;
     }
 
-    private static void FromInks(PixelGrid pixels, bool inverted)
+    private static void FromCmyk(PixelGrid pixels, bool inverted)
     {
         for (int y = 0; y < pixels.Height; y++)
         {

@@ -15,24 +15,24 @@ internal static class JpegSegments
     internal const byte App0 = 0xE0;
     internal const byte App1 = 0xE1;
     internal const byte Comment = 0xFE;
-    internal const int MostBytes = 65_533;
+    internal const int MaxSegmentBytes = 65_533;
     internal const byte App14 = 0xEE;
     private const byte StartOfScan = 0xDA;
 
     /// <summary>What an APP1 of Exif begins with.</summary>
-    internal static ReadOnlySpan<byte> ExifMark => "Exif\0\0"u8;
+    internal static ReadOnlySpan<byte> ExifSignature => "Exif\0\0"u8;
 
     /// <summary>What an APP1 of XMP begins with.</summary>
-    internal static ReadOnlySpan<byte> XmpMark => "http://ns.adobe.com/xap/1.0/\0"u8;
+    internal static ReadOnlySpan<byte> XmpSignature => "http://ns.adobe.com/xap/1.0/\0"u8;
 
     /// <summary>The content of the first segment that begins with a mark, without the mark; empty for none.</summary>
-    internal static ReadOnlySpan<byte> Find(List<JpegSegment> segments, byte marker, ReadOnlySpan<byte> mark)
+    internal static ReadOnlySpan<byte> Find(List<JpegSegment> segments, byte marker, ReadOnlySpan<byte> signature)
     {
         foreach (JpegSegment segment in segments)
         {
-            if (segment.Marker == marker && segment.Data.AsSpan().StartsWith(mark))
+            if (segment.Marker == marker && segment.Data.AsSpan().StartsWith(signature))
             {
-                return segment.Data.AsSpan(mark.Length);
+                return segment.Data.AsSpan(signature.Length);
             }
         }
 
@@ -71,14 +71,14 @@ internal static class JpegSegments
         output.Write(jpeg[..2]);
         foreach (JpegSegment segment in segments)
         {
-            if (segment.Data.Length > MostBytes)
+            if (segment.Data.Length > MaxSegmentBytes)
             {
-                throw new JpegException($"A segment of a JPEG holds at most {MostBytes} bytes; {segment.Data.Length} were given.");
+                throw new JpegException($"A segment of a JPEG holds at most {MaxSegmentBytes} bytes; {segment.Data.Length} were given.");
             }
 
-            Span<byte> head = [0xFF, segment.Marker, 0, 0];
-            BinaryPrimitives.WriteUInt16BigEndian(head[2..], (ushort)(segment.Data.Length + 2));
-            output.Write(head);
+            Span<byte> header = [0xFF, segment.Marker, 0, 0];
+            BinaryPrimitives.WriteUInt16BigEndian(header[2..], (ushort)(segment.Data.Length + 2));
+            output.Write(header);
             output.Write(segment.Data);
         }
 

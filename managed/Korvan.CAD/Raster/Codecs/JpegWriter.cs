@@ -29,12 +29,12 @@ internal static class JpegWriter
 
         if ((options.ExifData ?? page.Exif) is ExifData exif)
         {
-            yield return new JpegSegment(JpegSegments.App1, [.. JpegSegments.ExifMark, .. exif.SerializeData()]);
+            yield return new JpegSegment(JpegSegments.App1, [.. JpegSegments.ExifSignature, .. exif.SerializeData()]);
         }
 
         if ((options.XmpData ?? page.Xmp) is XmpPacketWrapper xmp)
         {
-            yield return new JpegSegment(JpegSegments.App1, [.. JpegSegments.XmpMark, .. xmp.ToBytes()]);
+            yield return new JpegSegment(JpegSegments.App1, [.. JpegSegments.XmpSignature, .. xmp.ToBytes()]);
         }
 
         if (options.Comment.Length > 0)

@@ -43,7 +43,7 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
         {
             int left = i >= pixelBytes ? row[i - pixelBytes] : 0;
             int corner = i >= pixelBytes ? above[i - pixelBytes] : 0;
-            row[i] += (byte)Guess(filter, left, above[i], corner);
+            row[i] += (byte)Predict(filter, left, above[i], corner);
         }
     }
 
@@ -78,11 +78,11 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
         {
             int left = i >= pixelBytes ? _row[i - pixelBytes] : 0;
             int corner = i >= pixelBytes ? _above[i - pixelBytes] : 0;
-            line[i + 1] = (byte)(_row[i] - Guess(filter, left, _above[i], corner));
+            line[i + 1] = (byte)(_row[i] - Predict(filter, left, _above[i], corner));
         }
     }
 
-    private static int Guess(PngFilterType filter, int left, int up, int corner) => filter switch
+    private static int Predict(PngFilterType filter, int left, int up, int corner) => filter switch
     {
         PngFilterType.Sub => left,
         PngFilterType.Up => up,
@@ -93,10 +93,10 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
 
     private static int Paeth(int left, int up, int corner)
     {
-        int guess = left + up - corner;
-        int toLeft = Math.Abs(guess - left);
-        int toUp = Math.Abs(guess - up);
-        int toCorner = Math.Abs(guess - corner);
+        int estimate = left + up - corner;
+        int toLeft = Math.Abs(estimate - left);
+        int toUp = Math.Abs(estimate - up);
+        int toCorner = Math.Abs(estimate - corner);
         return toLeft <= toUp && toLeft <= toCorner ? left : toUp <= toCorner ? up : corner;
     }
 }

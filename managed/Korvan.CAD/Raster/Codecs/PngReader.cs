@@ -22,8 +22,8 @@ internal static unsafe class PngReader
         Dictionary<string, byte[]> chunks = Chunks(source.Bytes);
         PixelGrid pixels = Pixels(source);
         (double x, double y) = Density(chunks);
-        byte[] head = chunks["IHDR"];
-        int samples = head[9] switch { 2 => 3, 4 => 2, 6 => 4, _ => 1 };
+        byte[] header = chunks["IHDR"];
+        int samples = header[9] switch { 2 => 3, 4 => 2, 6 => 4, _ => 1 };
         return new DecodedFile
         {
             Format = FileFormat.Png,
@@ -34,10 +34,10 @@ internal static unsafe class PngReader
                 new DecodedFrame
                 {
                     Pixels = pixels,
-                    BitsPerPixel = samples * head[8],
+                    BitsPerPixel = samples * header[8],
                     HorizontalResolution = x,
                     VerticalResolution = y,
-                    Palette = head[9] == 3 ? Palette(chunks) : null,
+                    Palette = header[9] == 3 ? Palette(chunks) : null,
                 },
             ],
         };
@@ -45,7 +45,7 @@ internal static unsafe class PngReader
 
     private static PixelGrid Pixels(RasterSource source)
     {
-        byte[] file = PngPasses.Plain(source);
+        byte[] file = PngDeinterlacer.Convert(source);
         using var image = new PngImageHandle();
         ref Png.State state = ref image.State;
         fixed (byte* data = file)
@@ -103,9 +103,9 @@ internal static unsafe class PngReader
             {
                 chunks.TryAdd(type, data.Slice(at + 8, length).ToArray());
             }
-            else if (type == "iTXt" && data.Slice(at + 8, length).StartsWith(PngStream.XmpMark))
+            else if (type == "iTXt" && data.Slice(at + 8, length).StartsWith(PngStream.XmpPrefix))
             {
-                chunks.TryAdd(type, data.Slice(at + 8, length)[PngStream.XmpMark.Length..].ToArray());
+                chunks.TryAdd(type, data.Slice(at + 8, length)[PngStream.XmpPrefix.Length..].ToArray());
             }
 
             at += length + 12;

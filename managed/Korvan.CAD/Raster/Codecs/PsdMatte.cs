@@ -11,10 +11,10 @@ internal static class PsdMatte
     private const int White = 255;
 
     /// <summary>Lays a level on the paper.</summary>
-    internal static int Lay(int level, int opacity) => White - ((((White - level) * opacity) + 127) / 255);
+    internal static int Blend(int level, int opacity) => White - ((((White - level) * opacity) + 127) / 255);
 
     /// <summary>Takes a level off the paper.</summary>
-    internal static int Lift(int level, int opacity) => opacity switch
+    internal static int Unblend(int level, int opacity) => opacity switch
     {
         255 => level,
         0 => White,

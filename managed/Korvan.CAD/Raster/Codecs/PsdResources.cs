@@ -48,10 +48,10 @@ internal static class PsdResources
     {
         byte[] name = Encoding.UTF8.GetBytes(block.Name);
         byte[] data = block.ToBytes();
-        Span<byte> head = stackalloc byte[6];
-        "8BIM"u8.CopyTo(head);
-        BinaryPrimitives.WriteUInt16BigEndian(head[4..], (ushort)block.ID);
-        output.Write(head);
+        Span<byte> header = stackalloc byte[6];
+        "8BIM"u8.CopyTo(header);
+        BinaryPrimitives.WriteUInt16BigEndian(header[4..], (ushort)block.ID);
+        output.Write(header);
         output.WriteByte((byte)name.Length);
         output.Write(name);
         Pad(output, name.Length + 1);

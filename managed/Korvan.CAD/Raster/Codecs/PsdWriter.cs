@@ -16,15 +16,15 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>Writes PSD files of version 1 that hold the merged picture, 8 bits a channel.</summary>
 internal static class PsdWriter
 {
-    private const int LargestSide = 30_000;
+    private const int MaxSide = 30_000;
     private const int White = -1;
 
     internal static void Write(RasterPageData page, PsdOptions options, Stream output)
     {
         PixelGrid pixels = page.Pixels;
-        if (pixels.Width > LargestSide || pixels.Height > LargestSide)
+        if (pixels.Width > MaxSide || pixels.Height > MaxSide)
         {
-            throw new PsdImageException($"A PSD holds at most {LargestSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
+            throw new PsdImageException($"A PSD holds at most {MaxSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
         }
 
         if (options.CompressionMethod is not (CompressionMethod.Raw or CompressionMethod.Rle))
@@ -50,7 +50,7 @@ internal static class PsdWriter
         int[] palette = options.ColorMode == ColorModes.Indexed
             ? PaletteChoice.For(pixels, options.Palette, 256, ColorQuantizationMethod.MedianCut) : [];
         List<byte[]> planes = Planes(pixels, options.ColorMode, alpha, palette);
-        WriteHead(output, pixels, planes.Count, options.ColorMode);
+        WriteHeader(output, pixels, planes.Count, options.ColorMode);
         WritePalette(output, palette);
         WriteResources(output, page, options);
         Number(output, 0); // no layers
@@ -61,7 +61,7 @@ internal static class PsdWriter
     {
         return mode switch
         {
-            ColorModes.Indexed => [IndexedRows.Of(pixels, palette, DitheringMethods.None)],
+            ColorModes.Indexed => [IndexedPixels.Of(pixels, palette, DitheringMethods.None)],
             ColorModes.Grayscale => [Plane(pixels, static p => PixelGrid.Luma(p))],
 
             // Inks are stored inverted.
@@ -72,13 +72,13 @@ internal static class PsdWriter
             ],
             _ =>
             [
-                Plane(pixels, static p => Laid(p, 16)), Plane(pixels, static p => Laid(p, 8)), Plane(pixels, static p => Laid(p, 0)),
+                Plane(pixels, static p => OnMatte(p, 16)), Plane(pixels, static p => OnMatte(p, 8)), Plane(pixels, static p => OnMatte(p, 0)),
                 .. alpha ? [Plane(pixels, static p => p >>> 24)] : Array.Empty<byte[]>(),
             ],
         };
     }
 
-    private static int Laid(int pixel, int shift) => PsdMatte.Lay((pixel >> shift) & 255, pixel >>> 24);
+    private static int OnMatte(int pixel, int shift) => PsdMatte.Blend((pixel >> shift) & 255, pixel >>> 24);
 
     private static byte[] Plane(PixelGrid pixels, Func<int, int> sample)
     {
@@ -94,17 +94,17 @@ internal static class PsdWriter
         return plane;
     }
 
-    private static void WriteHead(Stream output, PixelGrid pixels, int channels, ColorModes mode)
+    private static void WriteHeader(Stream output, PixelGrid pixels, int channels, ColorModes mode)
     {
-        var head = new byte[26];
-        "8BPS"u8.CopyTo(head);
-        BinaryPrimitives.WriteInt16BigEndian(head.AsSpan(4), 1);
-        BinaryPrimitives.WriteInt16BigEndian(head.AsSpan(12), (short)channels);
-        BinaryPrimitives.WriteInt32BigEndian(head.AsSpan(14), pixels.Height);
-        BinaryPrimitives.WriteInt32BigEndian(head.AsSpan(18), pixels.Width);
-        BinaryPrimitives.WriteInt16BigEndian(head.AsSpan(22), 8);
-        BinaryPrimitives.WriteInt16BigEndian(head.AsSpan(24), (short)mode);
-        output.Write(head);
+        var header = new byte[26];
+        "8BPS"u8.CopyTo(header);
+        BinaryPrimitives.WriteInt16BigEndian(header.AsSpan(4), 1);
+        BinaryPrimitives.WriteInt16BigEndian(header.AsSpan(12), (short)channels);
+        BinaryPrimitives.WriteInt32BigEndian(header.AsSpan(14), pixels.Height);
+        BinaryPrimitives.WriteInt32BigEndian(header.AsSpan(18), pixels.Width);
+        BinaryPrimitives.WriteInt16BigEndian(header.AsSpan(22), 8);
+        BinaryPrimitives.WriteInt16BigEndian(header.AsSpan(24), (short)mode);
+        output.Write(header);
     }
 
     private static void WritePalette(Stream output, int[] palette)

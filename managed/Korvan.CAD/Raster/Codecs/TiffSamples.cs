@@ -16,10 +16,10 @@ namespace Korvan.CAD.Raster.Codecs;
 /// </summary>
 internal sealed unsafe class TiffSamples
 {
-    private const int MostSamples = 32;
-    private const int Inks = 1;
+    private const int MaxSamples = 32;
+    private const int InkSetCmyk = 1;
     private const uint Floats = 3;
-    private const int SmallestBuffer = 1024;
+    private const int MinBuffer = 1024;
 
     // What the conversion here is for: a photometric interpretation, how many samples make its colour, and how wide they may be.
     private static readonly (TiffPhotometrics Kind, int Colors, int MostBits)[] Kinds =
@@ -32,13 +32,13 @@ internal sealed unsafe class TiffSamples
     private readonly int _bits;
     private readonly int _samples;
     private readonly int _colors;
-    private readonly int _mostBits;
+    private readonly int _maxBits;
     private readonly TiffPhotometrics _kind;
     private readonly bool _planar;
     private readonly bool _tiled;
-    private readonly int _opacityAt = -1;
-    private readonly bool _multiplied;
-    private readonly long _most;
+    private readonly int _alphaSample = -1;
+    private readonly bool _premultiplied;
+    private readonly long _maxValue;
     private int[] _palette = [];
 
     internal TiffSamples(TiffHandle tiff)
@@ -47,31 +47,31 @@ internal sealed unsafe class TiffSamples
         _bits = (int)Number(TiffTags.BitsPerSample);
         _samples = (int)Number(TiffTags.SamplesPerPixel);
         _kind = (TiffPhotometrics)Number(TiffTags.Photometric);
-        (_, _colors, _mostBits) = Kinds.FirstOrDefault(entry => entry.Kind == _kind);
+        (_, _colors, _maxBits) = Kinds.FirstOrDefault(entry => entry.Kind == _kind);
         _planar = Number(TiffTags.PlanarConfig) == 2 && _samples > 1;
         _tiled = Tiff.IsTiled(tiff) != 0;
-        _most = (1L << Math.Clamp(_bits, 1, 32)) - 1;
+        _maxValue = (1L << Math.Clamp(_bits, 1, 32)) - 1;
 
         // A sample whose meaning is not stated is taken for opacity, as most programs do, unless another states that it is that.
         ushort[] extra = Tiff.ExtraSamples(tiff);
         int at = Array.FindIndex(extra, static meaning => meaning != (int)TiffAlphaStorage.Unspecified);
         if (extra.Length > 0)
         {
-            _opacityAt = _colors + Math.Max(at, 0);
-            _multiplied = at >= 0 && extra[at] == (int)TiffAlphaStorage.Associated;
+            _alphaSample = _colors + Math.Max(at, 0);
+            _premultiplied = at >= 0 && extra[at] == (int)TiffAlphaStorage.Associated;
         }
     }
 
     /// <summary>Gets whether the page is to be read here.</summary>
-    internal bool Fits => _colors > 0 && _samples >= _colors && _samples <= MostSamples && _opacityAt < _samples
-        && _bits is 1 or 2 or 4 or 8 or 16 or 32 && _bits <= _mostBits && Number(TiffTags.SampleFormat) != Floats
+    internal bool Fits => _colors > 0 && _samples >= _colors && _samples <= MaxSamples && _alphaSample < _samples
+        && _bits is 1 or 2 or 4 or 8 or 16 or 32 && _bits <= _maxBits && Number(TiffTags.SampleFormat) != Floats
         && Number(TiffTags.Compression) != (uint)TiffCompressions.OldJpeg
-        && (_kind != TiffPhotometrics.Separated || Number(TiffTags.InkSet) == Inks)
-        && (_opacityAt >= 0 || _bits == 32 || (_bits == 16 && _kind is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette)) || HasSmallTiles);
+        && (_kind != TiffPhotometrics.Separated || Number(TiffTags.InkSet) == InkSetCmyk)
+        && (_alphaSample >= 0 || _bits == 32 || (_bits == 16 && _kind is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette)) || HasSmallTiles);
 
     // libtiff's conversion takes the size of its buffer for that of a plain tile, and refuses those that are smaller.
     private bool HasSmallTiles => _tiled && Number(TiffTags.Compression) == (uint)TiffCompressions.None
-        && Tiff.TileRowSize(_tiff) * (long)Number(TiffTags.TileLength) < SmallestBuffer;
+        && Tiff.TileRowSize(_tiff) * (long)Number(TiffTags.TileLength) < MinBuffer;
 
     /// <summary>Gives whether all blocks could be read; what is missing stays empty, and the first one ends it if it shall.</summary>
     internal bool Read(PixelGrid pixels, bool lenient)
@@ -141,7 +141,7 @@ internal sealed unsafe class TiffSamples
                     values[c] = Value(block, x, y, c);
                 }
 
-                values[4] = _opacityAt < 0 ? _most : Value(block, x, y, _opacityAt);
+                values[4] = _alphaSample < 0 ? _maxValue : Value(block, x, y, _alphaSample);
                 to[x] = Pixel(values);
             }
         }
@@ -163,14 +163,14 @@ internal sealed unsafe class TiffSamples
     private int Pixel(ReadOnlySpan<long> values)
     {
         long opacity = values[4];
-        if (_multiplied && opacity == 0)
+        if (_premultiplied && opacity == 0)
         {
             return 0;
         }
 
-        int Level(long value) => _multiplied
+        int Level(long value) => _premultiplied
             ? (int)Math.Min(255, ((value * 255) + (opacity / 2)) / opacity)
-            : (int)(((value * 255) + (_most / 2)) / _most);
+            : (int)(((value * 255) + (_maxValue / 2)) / _maxValue);
         int color = _kind switch
         {
             TiffPhotometrics.MinIsWhite => (255 - Level(values[0])) * 0x010101,
@@ -180,7 +180,7 @@ internal sealed unsafe class TiffSamples
                 Level(values[0]) | (Level(values[1]) << 8) | (Level(values[2]) << 16) | (Level(values[3]) << 24)).ToArgb32(),
             _ => (Level(values[0]) << 16) | (Level(values[1]) << 8) | Level(values[2]),
         };
-        return (color & 0xFFFFFF) | ((int)(((opacity * 255) + (_most / 2)) / _most) << 24);
+        return (color & 0xFFFFFF) | ((int)(((opacity * 255) + (_maxValue / 2)) / _maxValue) << 24);
     }
 
     private uint Number(TiffTags tag) => Tiff.GetNumber(_tiff, (int)tag);

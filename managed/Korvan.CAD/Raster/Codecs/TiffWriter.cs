@@ -73,7 +73,7 @@ internal sealed unsafe class TiffWriter
 
         if (_bits < 8 && _options.Photometric != TiffPhotometrics.Palette)
         {
-            Operations.Tones.Grayscale(pixels); // black and white are told apart by lightness
+            Operations.ColorAdjustment.Grayscale(pixels); // black and white are told apart by lightness
         }
 
         int[]? palette = Palette(pixels);
@@ -220,13 +220,13 @@ internal sealed unsafe class TiffWriter
 
     private void WriteStrips(PixelGrid pixels, int[]? palette, int rowBytes, int rowsPerStrip)
     {
-        DitheringMethods how = _options.Threshold switch
+        DitheringMethods dithering = _options.Threshold switch
         {
             TiffThresholds.OrderedDithering => DitheringMethods.Ordered,
             TiffThresholds.ErrorDiffusion => DitheringMethods.ErrorDiffusion,
             _ => DitheringMethods.None,
         };
-        byte[]? indices = palette == null ? null : IndexedRows.Of(pixels, palette, how);
+        byte[]? indices = palette == null ? null : IndexedPixels.Of(pixels, palette, dithering);
         var strip = new byte[checked(rowBytes * Math.Min(rowsPerStrip, pixels.Height))];
         uint number = 0;
         for (int top = 0; top < pixels.Height; top += rowsPerStrip)
@@ -257,7 +257,7 @@ internal sealed unsafe class TiffWriter
         }
         else if (_options.Photometric == TiffPhotometrics.Separated)
         {
-            BitPacking.Inks(pixels.Row(y), row);
+            BitPacking.Cmyk(pixels.Row(y), row);
         }
         else
         {

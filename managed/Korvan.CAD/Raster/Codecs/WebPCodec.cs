@@ -13,10 +13,10 @@ internal static unsafe class WebPCodec
     internal static void Write(PixelGrid pixels, WebPOptions options, Stream output)
     {
         WebP.Require();
-        if (pixels.Width > WebP.LargestSide || pixels.Height > WebP.LargestSide)
+        if (pixels.Width > WebP.MaxSide || pixels.Height > WebP.MaxSide)
         {
             throw new ImageSaveException(
-                $"A WebP holds at most {WebP.LargestSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
+                $"A WebP holds at most {WebP.MaxSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
         }
 
         int stride = pixels.Width * 4;

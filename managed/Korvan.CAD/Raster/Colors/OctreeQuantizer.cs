@@ -9,7 +9,7 @@ internal static class OctreeQuantizer
 {
     private const int Depth = 7;
 
-    internal static int[] Choose(KeyValuePair<int, long>[] colors, int most)
+    internal static int[] Choose(KeyValuePair<int, long>[] colors, int maxColors)
     {
         var root = new Node();
         var levels = new List<Node>[Depth + 1];
@@ -24,12 +24,12 @@ internal static class OctreeQuantizer
         }
 
         int leaves = levels[Depth].Count;
-        for (int level = Depth - 1; level >= 0 && leaves > most; level--)
+        for (int level = Depth - 1; level >= 0 && leaves > maxColors; level--)
         {
             levels[level].Sort(static (a, b) => a.Count.CompareTo(b.Count));
             foreach (Node node in levels[level])
             {
-                if (leaves <= most)
+                if (leaves <= maxColors)
                 {
                     break;
                 }
@@ -40,7 +40,7 @@ internal static class OctreeQuantizer
 
         List<Node> chosen = [];
         Collect(root, chosen);
-        Join(chosen, most);
+        Join(chosen, maxColors);
         int[] means = [.. chosen.ConvertAll(static node => node.Mean())];
         Array.Sort(means);
         return means;
@@ -67,9 +67,9 @@ internal static class OctreeQuantizer
     }
 
     // The first level has eight branches; fewer colours are reached by joining the rarest with its neighbour.
-    private static void Join(List<Node> chosen, int most)
+    private static void Join(List<Node> chosen, int maxColors)
     {
-        while (chosen.Count > most)
+        while (chosen.Count > maxColors)
         {
             chosen.Sort(static (a, b) => a.Count.CompareTo(b.Count));
             Node rarest = chosen[0];

@@ -35,13 +35,13 @@ internal sealed class PaletteLookup
     private int Search(int argb)
     {
         int best = 0;
-        long least = long.MaxValue;
-        for (int i = 0; i < _entries.Length && least > 0; i++)
+        long min = long.MaxValue;
+        for (int i = 0; i < _entries.Length && min > 0; i++)
         {
             long distance = Distance(argb, _entries[i], _method);
-            if (distance < least)
+            if (distance < min)
             {
-                (best, least) = (i, distance);
+                (best, min) = (i, distance);
             }
         }
 

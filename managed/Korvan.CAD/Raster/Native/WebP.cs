@@ -6,7 +6,7 @@ namespace Korvan.CAD.Raster.Native;
 internal static unsafe partial class WebP
 {
     /// <summary>The largest side of a picture, 14 bits.</summary>
-    internal const int LargestSide = 16383;
+    internal const int MaxSide = 16383;
 
     private const string Library = "libwebp.so.7";
 

@@ -9,7 +9,7 @@ internal static class Resampler
 {
     internal static PixelGrid Resize(PixelGrid from, int width, int height, ResizeType type, int background)
     {
-        PixelGrid.Verify(width, height);
+        PixelGrid.VerifySize(width, height);
         return type switch
         {
             ResizeType.NearestNeighbour => Nearest(from, width, height),
@@ -97,7 +97,7 @@ internal static class Resampler
             int first = kernel.First(x);
             for (int k = 0; k < kernel.Taps; k++)
             {
-                sum += Multiplied(row[first + k]) * kernel.Weight(x, k);
+                sum += Premultiply(row[first + k]) * kernel.Weight(x, k);
             }
 
             result[x] = sum;
@@ -105,7 +105,7 @@ internal static class Resampler
     }
 
     // Colours count by their opacity, or what is invisible would show at edges.
-    private static Vector4 Multiplied(int argb)
+    private static Vector4 Premultiply(int argb)
     {
         float alpha = argb >>> 24;
         float scale = alpha / 255;

@@ -63,11 +63,11 @@ internal sealed class ResizeKernel
         ResizeType.CatmullRom => (Cubic(0, 0.5), 2),
         ResizeType.Mitchell => (Cubic(1 / 3.0, 1 / 3.0), 2),
         ResizeType.Lanczos => (Lanczos, 3),
-        ResizeType.Adaptive => Shape(Adapted(from, to), from, to),
+        ResizeType.Adaptive => Shape(AdaptiveType(from, to), from, to),
         _ => throw Verify.OutOfRange(nameof(type), type, "There is no such way of resizing."),
     };
 
-    private static ResizeType Adapted(int from, int to) =>
+    private static ResizeType AdaptiveType(int from, int to) =>
         to * 2L < from ? ResizeType.Box : to < from ? ResizeType.Bilinear : ResizeType.CatmullRom;
 
     private static double Box(double x) => x is >= -0.5 and < 0.5 ? 1 : 0;

@@ -33,10 +33,10 @@ internal static class BitPacking
             row.Clear();
         }
 
-        int most = (1 << bits) - 1;
+        int max = (1 << bits) - 1;
         for (int i = 0; i < pixels.Length; i++)
         {
-            int level = ((PixelGrid.Luma(pixels[i]) * most) + 127) / 255;
+            int level = ((PixelGrid.Luma(pixels[i]) * max) + 127) / 255;
             if (bits == 8)
             {
                 row[i] = (byte)level;
@@ -49,16 +49,16 @@ internal static class BitPacking
     }
 
     /// <summary>Red, green and blue, with opacity where there are four samples; perhaps multiplied by it.</summary>
-    internal static void Rgb(ReadOnlySpan<int> pixels, Span<byte> row, int samples, bool multiplied = false)
+    internal static void Rgb(ReadOnlySpan<int> pixels, Span<byte> row, int samples, bool premultiplied = false)
     {
-        int done = multiplied ? 0 : RgbInBlocks(pixels, row, samples);
+        int done = premultiplied ? 0 : RgbInBlocks(pixels, row, samples);
         for (int i = done, o = done * samples; i < pixels.Length; i++, o += samples)
         {
             int pixel = pixels[i];
             int alpha = pixel >>> 24;
-            if (multiplied && alpha < 255)
+            if (premultiplied && alpha < 255)
             {
-                pixel = Multiplied(pixel, alpha);
+                pixel = Premultiply(pixel, alpha);
             }
 
             row[o] = (byte)(pixel >> 16);
@@ -88,7 +88,7 @@ internal static class BitPacking
     }
 
     /// <summary>Cyan, magenta, yellow and black.</summary>
-    internal static void Inks(ReadOnlySpan<int> pixels, Span<byte> row)
+    internal static void Cmyk(ReadOnlySpan<int> pixels, Span<byte> row)
     {
         for (int i = 0; i < pixels.Length; i++)
         {
@@ -98,14 +98,14 @@ internal static class BitPacking
     }
 
     /// <summary>A colour multiplied by its opacity.</summary>
-    internal static int Multiplied(int argb, int alpha)
+    internal static int Premultiply(int argb, int alpha)
     {
         int Part(int shift) => ((((argb >> shift) & 255) * alpha) + 127) / 255 << shift;
         return (alpha << 24) | Part(16) | Part(8) | Part(0);
     }
 
     /// <summary>A colour freed of the multiplication by its opacity.</summary>
-    internal static int Plain(int argb)
+    internal static int Unpremultiply(int argb)
     {
         int alpha = argb >>> 24;
         if (alpha is 255 or 0)

@@ -60,8 +60,8 @@ internal class ColorConverters : IColorConverter
             PixelFormat.Indexed => Indexed(format, palette),
             PixelFormat.Grayscale when format.BitsPerPixel == 16 => new(format, FromGray16, ToGray16),
             PixelFormat.Grayscale => Gray(format),
-            PixelFormat.Cmyk => new(format, FromInks, BitPacking.Inks),
-            PixelFormat.Rgb when format.BitsPerPixel < 24 => Words(format),
+            PixelFormat.Cmyk => new(format, FromCmyk, BitPacking.Cmyk),
+            PixelFormat.Rgb when format.BitsPerPixel < 24 => Packed16(format),
             PixelFormat.Rgb => new(
                 format,
                 static (row, pixels) => FromRgb(row, pixels, 3),
@@ -94,20 +94,20 @@ internal class ColorConverters : IColorConverter
     private static ColorConverters Gray(PixelDataFormat format)
     {
         int bits = format.BitsPerPixel;
-        int most = (1 << bits) - 1;
+        int max = (1 << bits) - 1;
         return new(
             format,
             (row, pixels) =>
             {
                 for (int i = 0; i < pixels.Length; i++)
                 {
-                    pixels[i] = PixelGrid.Opaque | (BitPacking.Value(row, i, bits) * 255 / most * 0x010101);
+                    pixels[i] = PixelGrid.Opaque | (BitPacking.Value(row, i, bits) * 255 / max * 0x010101);
                 }
             },
             (pixels, row) => BitPacking.Gray(pixels, row, bits));
     }
 
-    private static ColorConverters Words(PixelDataFormat format)
+    private static ColorConverters Packed16(PixelDataFormat format)
     {
         int green = format.ChannelBits[1];
         return new(
@@ -116,28 +116,28 @@ internal class ColorConverters : IColorConverter
             {
                 for (int i = 0; i < pixels.Length; i++)
                 {
-                    pixels[i] = FromWord(BinaryPrimitives.ReadUInt16LittleEndian(row[(2 * i)..]), green);
+                    pixels[i] = FromPacked16(BinaryPrimitives.ReadUInt16LittleEndian(row[(2 * i)..]), green);
                 }
             },
             (pixels, row) =>
             {
                 for (int i = 0; i < pixels.Length; i++)
                 {
-                    BinaryPrimitives.WriteUInt16LittleEndian(row[(2 * i)..], ToWord(pixels[i], green));
+                    BinaryPrimitives.WriteUInt16LittleEndian(row[(2 * i)..], ToPacked16(pixels[i], green));
                 }
             });
     }
 
-    private static int FromWord(int word, int greenBits)
+    private static int FromPacked16(int value, int greenBits)
     {
-        int most = (1 << greenBits) - 1;
-        int red = ((word >> (5 + greenBits)) & 31) * 255 / 31;
-        return PixelGrid.Opaque | (red << 16) | (((word >> 5) & most) * 255 / most << 8) | ((word & 31) * 255 / 31);
+        int max = (1 << greenBits) - 1;
+        int red = ((value >> (5 + greenBits)) & 31) * 255 / 31;
+        return PixelGrid.Opaque | (red << 16) | (((value >> 5) & max) * 255 / max << 8) | ((value & 31) * 255 / 31);
     }
 
-    private static ushort ToWord(int pixel, int greenBits)
+    private static ushort ToPacked16(int pixel, int greenBits)
     {
-        int Level(int shift, int most) => ((((pixel >> shift) & 255) * most) + 127) / 255;
+        int Level(int shift, int max) => ((((pixel >> shift) & 255) * max) + 127) / 255;
         return (ushort)((Level(16, 31) << (5 + greenBits)) | (Level(8, (1 << greenBits) - 1) << 5) | Level(0, 31));
     }
 
@@ -157,7 +157,7 @@ internal class ColorConverters : IColorConverter
         }
     }
 
-    private static void FromInks(ReadOnlySpan<byte> row, Span<int> pixels)
+    private static void FromCmyk(ReadOnlySpan<byte> row, Span<int> pixels)
     {
         for (int i = 0; i < pixels.Length; i++)
         {

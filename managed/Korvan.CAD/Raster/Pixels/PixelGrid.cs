@@ -12,8 +12,8 @@ namespace Korvan.CAD.Raster.Pixels;
 /// </summary>
 internal sealed unsafe class PixelGrid : IDisposable
 {
-    internal const int LargestSide = 65_535;
-    internal const long MostPixels = RasterPage.MostPixels;
+    internal const int MaxSide = 65_535;
+    internal const long MaxPixels = RasterPage.MaxPixels;
     internal const int Opaque = unchecked((int)0xFF000000);
 
     private readonly IDisposable _owner;
@@ -21,7 +21,7 @@ internal sealed unsafe class PixelGrid : IDisposable
 
     internal PixelGrid(int width, int height)
     {
-        Verify(width, height);
+        VerifySize(width, height);
         var block = new PixelBlock((long)width * height);
         _owner = block;
         _data = block.Data;
@@ -52,17 +52,17 @@ internal sealed unsafe class PixelGrid : IDisposable
     }
 
     /// <summary>Throws for a size that no grid may have; call it before anything is allocated for a file's claim.</summary>
-    internal static void Verify(long width, long height)
+    internal static void VerifySize(long width, long height)
     {
         if (width < 1 || height < 1)
         {
             throw new ArgumentOutOfRangeException(null, $"A picture of {width} × {height} pixels has no area.");
         }
 
-        if (width > LargestSide || height > LargestSide || width * height > MostPixels)
+        if (width > MaxSide || height > MaxSide || width * height > MaxPixels)
         {
-            throw new LimitMemoryException($"A picture of {width} × {height} pixels is too large: at most {LargestSide} pixels"
-                + $" on a side and {MostPixels} in all.");
+            throw new LimitMemoryException($"A picture of {width} × {height} pixels is too large: at most {MaxSide} pixels"
+                + $" on a side and {MaxPixels} in all.");
         }
     }
 
@@ -112,7 +112,7 @@ internal sealed unsafe class PixelGrid : IDisposable
     {
         for (int y = 0; y < Height; y++)
         {
-            if (!AllHave(Row(y), Opaque))
+            if (!AllHaveBits(Row(y), Opaque))
             {
                 return false;
             }
@@ -145,7 +145,7 @@ internal sealed unsafe class PixelGrid : IDisposable
         for (int y = 0; y < Height; y++)
         {
             Span<int> row = Row(y);
-            if (AllHave(row, Opaque))
+            if (AllHaveBits(row, Opaque))
             {
                 continue;
             }
@@ -180,7 +180,7 @@ internal sealed unsafe class PixelGrid : IDisposable
         _owner.Dispose();
     }
 
-    private static bool AllHave(ReadOnlySpan<int> row, int bits)
+    private static bool AllHaveBits(ReadOnlySpan<int> row, int bits)
     {
         int all = -1;
         int i = 0;

@@ -14,13 +14,13 @@ internal sealed class ContourTracer
     private static readonly int[] StepX = [1, 0, -1, 0];
     private static readonly int[] StepY = [0, 1, 0, -1];
 
-    private readonly InkMask _mask;
+    private readonly ForegroundMask _mask;
     private readonly int _stride;
 
     /// <summary>For each corner of pixels the edges that leave it and were not walked yet, a bit for each direction.</summary>
     private readonly byte[] _edges;
 
-    private ContourTracer(InkMask mask)
+    private ContourTracer(ForegroundMask mask)
     {
         _mask = mask;
         _stride = mask.Width + 1;
@@ -28,7 +28,7 @@ internal sealed class ContourTracer
     }
 
     /// <summary>Every outline as corners of pixels, y down, without those on straight ways.</summary>
-    internal static IEnumerable<List<Vec2>> Trace(InkMask mask)
+    internal static IEnumerable<List<Vec2>> Trace(ForegroundMask mask)
     {
         var tracer = new ContourTracer(mask);
         tracer.FindEdges();

@@ -50,11 +50,11 @@ internal static class Simplifier
         while (open.TryPop(out (int First, int Last) part))
         {
             int farthest = -1;
-            double most = tolerance;
+            double max = tolerance;
             for (int i = part.First + 1; i < part.Last; i++)
             {
                 double distance = Distance(points[i], points[part.First], points[part.Last]);
-                (farthest, most) = distance > most ? (i, distance) : (farthest, most);
+                (farthest, max) = distance > max ? (i, distance) : (farthest, max);
             }
 
             if (farthest >= 0)

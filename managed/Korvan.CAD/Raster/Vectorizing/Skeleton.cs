@@ -13,14 +13,14 @@ internal sealed record TracedStroke(List<Vec2> Points, double Width, bool IsClos
 /// </summary>
 internal sealed class Skeleton
 {
-    private const int MostRounds = 200;
+    private const int MaxRounds = 200;
 
-    private readonly InkMask _mask;
+    private readonly ForegroundMask _mask;
     private readonly int[] _around;
     private readonly ushort[] _depth;
     private readonly HashSet<(int, int)> _walked = [];
 
-    private Skeleton(InkMask mask)
+    private Skeleton(ForegroundMask mask)
     {
         _mask = mask;
         int s = mask.Stride;
@@ -30,15 +30,15 @@ internal sealed class Skeleton
 
     /// <summary>The strokes; spurs with a free end that are shorter than what is asked for are left out. The mask is
     /// used up.</summary>
-    internal static List<TracedStroke> Trace(InkMask mask, double leastSpur)
+    internal static List<TracedStroke> Trace(ForegroundMask mask, double minSpur)
     {
         var skeleton = new Skeleton(mask);
         skeleton.Thin();
-        return skeleton.Follow(leastSpur);
+        return skeleton.Follow(minSpur);
     }
 
     /// <summary>How many steps each dark pixel lies from the next light one (chessboard distance, two passes).</summary>
-    private static ushort[] Depths(InkMask mask)
+    private static ushort[] Depths(ForegroundMask mask)
     {
         ReadOnlySpan<byte> cells = mask.Cells;
         var depth = new ushort[cells.Length];
@@ -61,39 +61,39 @@ internal sealed class Skeleton
     private void Thin()
     {
         Span<byte> cells = _mask.Cells;
-        List<int> ink = [];
+        List<int> foreground = [];
         for (int i = 0; i < cells.Length; i++)
         {
             if (cells[i] != 0)
             {
-                ink.Add(i);
+                foreground.Add(i);
             }
         }
 
-        List<int> gone = [];
-        for (int round = 0; round < MostRounds; round++)
+        List<int> removed = [];
+        for (int round = 0; round < MaxRounds; round++)
         {
-            int before = ink.Count;
+            int before = foreground.Count;
             for (int phase = 0; phase < 2; phase++)
             {
-                gone.Clear();
-                foreach (int cell in ink)
+                removed.Clear();
+                foreach (int cell in foreground)
                 {
-                    if (CanGo(cells, cell, phase))
+                    if (IsRemovable(cells, cell, phase))
                     {
-                        gone.Add(cell);
+                        removed.Add(cell);
                     }
                 }
 
-                foreach (int cell in gone)
+                foreach (int cell in removed)
                 {
                     cells[cell] = 0;
                 }
 
-                ink.RemoveAll(cell => _mask.Cells[cell] == 0);
+                foreground.RemoveAll(cell => _mask.Cells[cell] == 0);
             }
 
-            if (ink.Count == before)
+            if (foreground.Count == before)
             {
                 return;
             }
@@ -101,7 +101,7 @@ internal sealed class Skeleton
     }
 
     /// <summary>The conditions of the method: neighbours p2 to p9 run clockwise from above.</summary>
-    private bool CanGo(ReadOnlySpan<byte> cells, int cell, int phase)
+    private bool IsRemovable(ReadOnlySpan<byte> cells, int cell, int phase)
     {
         int count = 0;
         int changes = 0;
@@ -123,7 +123,7 @@ internal sealed class Skeleton
             : up * right * left == 0 && up * down * left == 0;
     }
 
-    private List<TracedStroke> Follow(double leastSpur)
+    private List<TracedStroke> Follow(double minSpur)
     {
         List<TracedStroke> strokes = [];
         Span<byte> cells = _mask.Cells;
@@ -135,7 +135,7 @@ internal sealed class Skeleton
                 while (cells[i] == 1 && (pass == 1 || Neighbours(i) != 2) && Walk(i) is { } line)
                 {
                     bool free = !line.IsClosed && (line.StartsFree || line.EndsFree);
-                    if (!free || Length(line.Cells) >= leastSpur)
+                    if (!free || Length(line.Cells) >= minSpur)
                     {
                         strokes.Add(Stroke(line.Cells, line.IsClosed));
                     }
@@ -172,10 +172,10 @@ internal sealed class Skeleton
         return false;
     }
 
-    private sealed record Way(List<int> Cells, bool IsClosed, bool StartsFree, bool EndsFree);
+    private sealed record TracedPath(List<int> Cells, bool IsClosed, bool StartsFree, bool EndsFree);
 
     /// <summary>Follows one way that was not walked yet; null when there is none from here.</summary>
-    private Way? Walk(int start)
+    private TracedPath? Walk(int start)
     {
         List<int> line = [start];
         int next = Unwalked(start);
@@ -186,7 +186,7 @@ internal sealed class Skeleton
             next = next == start || Neighbours(next) != 2 ? -1 : Unwalked(next);
         }
 
-        return line.Count < 2 ? null : new Way(line, line[^1] == start, Neighbours(start) == 1, Neighbours(line[^1]) == 1);
+        return line.Count < 2 ? null : new TracedPath(line, line[^1] == start, Neighbours(start) == 1, Neighbours(line[^1]) == 1);
     }
 
     private int Unwalked(int cell)

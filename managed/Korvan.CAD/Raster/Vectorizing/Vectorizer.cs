@@ -15,7 +15,7 @@ namespace Korvan.CAD.Raster.Vectorizing;
 internal sealed class Vectorizer
 {
     private const double MillimetresPerInch = 25.4;
-    private const double UsualResolution = 96;
+    private const double DefaultResolution = 96;
     private const int Millimetres = 4;
 
     /// <summary>The line weights that drawings can have, in hundredths of a millimetre.</summary>
@@ -31,7 +31,7 @@ internal sealed class Vectorizer
     {
         _options = options;
         double resolution = options.DotsPerInch > 0 ? options.DotsPerInch : statedResolution;
-        _unit = MillimetresPerInch / (resolution > 0 ? resolution : UsualResolution);
+        _unit = MillimetresPerInch / (resolution > 0 ? resolution : DefaultResolution);
         _height = pixels.Height;
         _drawing.Header.InsUnits = Millimetres;
     }
@@ -45,18 +45,18 @@ internal sealed class Vectorizer
         var tracer = new Vectorizer(pixels, resolution, options);
         if ((options.Method & VectorizationMethod.Contour) != 0)
         {
-            tracer.AddContours(InkMask.Of(pixels, options.Threshold));
+            tracer.AddContours(ForegroundMask.FromPixels(pixels, options.Threshold));
         }
 
         if ((options.Method & VectorizationMethod.PaperToCad) != 0)
         {
-            tracer.AddStrokes(InkMask.Of(pixels, options.Threshold));
+            tracer.AddStrokes(ForegroundMask.FromPixels(pixels, options.Threshold));
         }
 
         return tracer._drawing;
     }
 
-    private void AddContours(InkMask mask)
+    private void AddContours(ForegroundMask mask)
     {
         ContourOptions options = _options.ContourOptions;
         var hatch = new CadHatch { LayerName = _options.LayerName };
@@ -78,7 +78,7 @@ internal sealed class Vectorizer
         }
     }
 
-    private void AddStrokes(InkMask mask)
+    private void AddStrokes(ForegroundMask mask)
     {
         PaperToCadOptions options = _options.PaperToCadOptions;
         foreach (TracedStroke stroke in Skeleton.Trace(mask, options.MinimumLength))

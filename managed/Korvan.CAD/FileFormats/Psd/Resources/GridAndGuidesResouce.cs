@@ -12,13 +12,13 @@ namespace Korvan.CAD.FileFormats.Psd.Resources;
 public class GridAndGuidesResouce : ResourceBlock
 {
     internal const int Number = 1032;
-    private const int HeadBytes = 16;
+    private const int HeaderBytes = 16;
     private const int GuideBytes = 5;
     private const double Steps = 32;
-    private const int UsualCycle = 576;
+    private const int DefaultCycle = 576;
 
-    private int _gridCycleX = UsualCycle;
-    private int _gridCycleY = UsualCycle;
+    private int _gridCycleX = DefaultCycle;
+    private int _gridCycleY = DefaultCycle;
     private double[] _vertical = [];
     private double[] _horizontal = [];
 
@@ -70,12 +70,12 @@ public class GridAndGuidesResouce : ResourceBlock
     /// <inheritdoc/>
     public override byte[] ToBytes()
     {
-        var data = new byte[HeadBytes + (GuideBytes * GuidesCount)];
+        var data = new byte[HeaderBytes + (GuideBytes * GuidesCount)];
         BinaryPrimitives.WriteInt32BigEndian(data, 1);
         BinaryPrimitives.WriteInt32BigEndian(data.AsSpan(4), _gridCycleX);
         BinaryPrimitives.WriteInt32BigEndian(data.AsSpan(8), _gridCycleY);
         BinaryPrimitives.WriteInt32BigEndian(data.AsSpan(12), GuidesCount);
-        int at = HeadBytes;
+        int at = HeaderBytes;
         foreach ((double[] guides, byte direction) in new[] { (_vertical, (byte)0), (_horizontal, (byte)1) })
         {
             foreach (double guide in guides)
@@ -91,8 +91,8 @@ public class GridAndGuidesResouce : ResourceBlock
 
     internal static GridAndGuidesResouce Read(ReadOnlySpan<byte> data)
     {
-        int count = data.Length < HeadBytes ? -1 : BinaryPrimitives.ReadInt32BigEndian(data[12..]);
-        if (count < 0 || count > (data.Length - HeadBytes) / GuideBytes)
+        int count = data.Length < HeaderBytes ? -1 : BinaryPrimitives.ReadInt32BigEndian(data[12..]);
+        if (count < 0 || count > (data.Length - HeaderBytes) / GuideBytes)
         {
             throw new PsdImageResourceException($"Resource {Number} has {data.Length} bytes, too few for {count} guides.");
         }
@@ -101,7 +101,7 @@ public class GridAndGuidesResouce : ResourceBlock
         List<double> horizontal = [];
         for (int i = 0; i < count; i++)
         {
-            ReadOnlySpan<byte> guide = data[(HeadBytes + (i * GuideBytes))..];
+            ReadOnlySpan<byte> guide = data[(HeaderBytes + (i * GuideBytes))..];
             (guide[4] == 0 ? vertical : horizontal).Add(BinaryPrimitives.ReadInt32BigEndian(guide) / Steps);
         }
 

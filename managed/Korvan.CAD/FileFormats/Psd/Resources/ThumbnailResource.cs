@@ -12,7 +12,7 @@ namespace Korvan.CAD.FileFormats.Psd.Resources;
 public class ThumbnailResource : ResourceBlock
 {
     internal const int Number = 1036;
-    private const int HeadBytes = 28;
+    private const int HeaderBytes = 28;
     private const int Quality = 85;
 
     private byte[] _jpegData = [];
@@ -29,7 +29,7 @@ public class ThumbnailResource : ResourceBlock
     /// <param name="image">The picture that is made small.</param>
     /// <param name="largestSide">The longer side of the small picture in pixels, 1 to 1024.</param>
     public ThumbnailResource(RasterImage image, int largestSide)
-        : this(Number, Small(image, largestSide))
+        : this(Number, Thumbnail(image, largestSide))
     {
     }
 
@@ -64,30 +64,30 @@ public class ThumbnailResource : ResourceBlock
     public override byte[] ToBytes()
     {
         int rowBytes = ((Width * 24) + 31) / 32 * 4;
-        byte[] data = [.. new byte[HeadBytes], .. _jpegData];
-        Span<byte> head = data;
-        BinaryPrimitives.WriteInt32BigEndian(head, 1); // JPEG
-        BinaryPrimitives.WriteInt32BigEndian(head[4..], Width);
-        BinaryPrimitives.WriteInt32BigEndian(head[8..], Height);
-        BinaryPrimitives.WriteInt32BigEndian(head[12..], rowBytes);
-        BinaryPrimitives.WriteInt32BigEndian(head[16..], rowBytes * Height);
-        BinaryPrimitives.WriteInt32BigEndian(head[20..], _jpegData.Length);
-        BinaryPrimitives.WriteInt16BigEndian(head[24..], 24);
-        BinaryPrimitives.WriteInt16BigEndian(head[26..], 1);
+        byte[] data = [.. new byte[HeaderBytes], .. _jpegData];
+        Span<byte> header = data;
+        BinaryPrimitives.WriteInt32BigEndian(header, 1); // JPEG
+        BinaryPrimitives.WriteInt32BigEndian(header[4..], Width);
+        BinaryPrimitives.WriteInt32BigEndian(header[8..], Height);
+        BinaryPrimitives.WriteInt32BigEndian(header[12..], rowBytes);
+        BinaryPrimitives.WriteInt32BigEndian(header[16..], rowBytes * Height);
+        BinaryPrimitives.WriteInt32BigEndian(header[20..], _jpegData.Length);
+        BinaryPrimitives.WriteInt16BigEndian(header[24..], 24);
+        BinaryPrimitives.WriteInt16BigEndian(header[26..], 1);
         return data;
     }
 
     internal static byte[] JpegOf(ReadOnlySpan<byte> data, int id)
     {
-        if (data.Length < HeadBytes || BinaryPrimitives.ReadInt32BigEndian(data) != 1)
+        if (data.Length < HeaderBytes || BinaryPrimitives.ReadInt32BigEndian(data) != 1)
         {
             throw new PsdImageResourceException($"Resource {id} has {data.Length} bytes and holds no small picture as JPEG.");
         }
 
-        return data[HeadBytes..].ToArray();
+        return data[HeaderBytes..].ToArray();
     }
 
-    private static byte[] Small(RasterImage image, int largestSide)
+    private static byte[] Thumbnail(RasterImage image, int largestSide)
     {
         Verify.NotNull(image);
         Verify.InRange(largestSide, 1, 1024);

@@ -7,9 +7,9 @@ using Korvan.CAD.Raster.Pixels;
 namespace Korvan.CAD.Raster.Codecs;
 
 /// <summary>Makes pictures of the frames of a DICOM file.</summary>
-internal sealed class DicomPicture
+internal sealed class DicomFrames
 {
-    private const int MostFrames = 10_000;
+    private const int MaxFrames = 10_000;
     private const double MillimetresPerInch = 25.4;
 
     private readonly DicomReader _file;
@@ -19,9 +19,9 @@ internal sealed class DicomPicture
     private readonly int _bits;
     private readonly bool _planar;
     private readonly string _photometric;
-    private readonly Lazy<DicomTones> _tones;
+    private readonly Lazy<DicomGrayscale> _grayscale;
 
-    private DicomPicture(DicomReader file)
+    private DicomFrames(DicomReader file)
     {
         _file = file;
         _width = file.Number(DicomTags.Columns, 0);
@@ -30,12 +30,12 @@ internal sealed class DicomPicture
         _bits = file.Number(DicomTags.BitsAllocated, 8);
         _planar = file.Number(DicomTags.PlanarConfiguration, 0) == 1;
         _photometric = file.Text(DicomTags.Photometric);
-        _tones = new Lazy<DicomTones>(() => DicomTones.Of(file, _bits, _photometric == "MONOCHROME1", AllSamples));
+        _grayscale = new Lazy<DicomGrayscale>(() => DicomGrayscale.Of(file, _bits, _photometric == "MONOCHROME1", AllSamples));
         Verify();
     }
 
     /// <summary>Gets whether two pixels beside each other share their colour: two of lightness, then blue and red.</summary>
-    private bool HasPairs => _photometric == "YBR_FULL_422" && _file.Fragments == null;
+    private bool IsChromaPaired => _photometric == "YBR_FULL_422" && _file.Fragments == null;
 
     private int FrameCount { get; set; }
 
@@ -45,17 +45,17 @@ internal sealed class DicomPicture
 
     internal static List<DecodedFrame> Frames(DicomReader file)
     {
-        var picture = new DicomPicture(file);
+        var picture = new DicomFrames(file);
         string text = file.Text(DicomTags.NumberOfFrames);
         int count = int.TryParse(text, NumberStyles.Integer, CultureInfo.InvariantCulture, out int stated) ? stated : 1;
-        if (count < 1 || count > MostFrames || (file.Fragments != null && count > file.Fragments.Count))
+        if (count < 1 || count > MaxFrames || (file.Fragments != null && count > file.Fragments.Count))
         {
             throw file.Damaged($"{count} frames are announced");
         }
 
-        if ((long)picture._width * picture._height * count > PixelGrid.MostPixels)
+        if ((long)picture._width * picture._height * count > PixelGrid.MaxPixels)
         {
-            throw new LimitMemoryException($"The frames of '{file.Name}' have more than {PixelGrid.MostPixels} pixels in all.");
+            throw new LimitMemoryException($"The frames of '{file.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
 
         picture.FrameCount = count;
@@ -83,7 +83,7 @@ internal sealed class DicomPicture
             throw _file.Damaged($"it claims {_width} × {_height} pixels");
         }
 
-        PixelGrid.Verify(_width, _height);
+        PixelGrid.VerifySize(_width, _height);
         bool known = (_samples, _bits) switch
         {
             (1, 8 or 16) => _photometric is "MONOCHROME1" or "MONOCHROME2",
@@ -174,7 +174,7 @@ internal sealed class DicomPicture
 
     private ReadOnlySpan<byte> Plain(int index)
     {
-        long size = HasPairs ? (_width + 1) / 2 * 4L * _height : (long)_width * _height * _samples * (_bits / 8);
+        long size = IsChromaPaired ? (_width + 1) / 2 * 4L * _height : (long)_width * _height * _samples * (_bits / 8);
         long start = index * size;
         if (start + size > _file.PlainPixels.Length)
         {
@@ -196,8 +196,8 @@ internal sealed class DicomPicture
             for (int x = 0; x < row.Length; x++, at++)
             {
                 int pair = (y * pairBytes) + (x / 2 * 4);
-                row[x] = _samples == 1 ? _tones.Value.Pixel(data, at)
-                    : HasPairs ? Color(data[pair + (x & 1)], data[pair + 2], data[pair + 3])
+                row[x] = _samples == 1 ? _grayscale.Value.Pixel(data, at)
+                    : IsChromaPaired ? Color(data[pair + (x & 1)], data[pair + 2], data[pair + 3])
                     : Color(data[at * step], data[(at * step) + plane], data[(at * step) + (2 * plane)]);
             }
         }

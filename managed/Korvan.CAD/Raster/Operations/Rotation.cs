@@ -5,35 +5,35 @@ using Korvan.CAD.Raster.Pixels;
 namespace Korvan.CAD.Raster.Operations;
 
 /// <summary>Turns and mirrors pictures.</summary>
-internal static class Turns
+internal static class Rotation
 {
     private const uint Half = 0x800080; // of both channels, so that sums are rounded
 
     /// <summary>Quarter turns clockwise first, then the mirroring from left to right.</summary>
-    internal static PixelGrid Turn(PixelGrid from, RotateFlipType type)
+    internal static PixelGrid RotateFlip(PixelGrid from, RotateFlipType type)
     {
         if ((uint)type > 7)
         {
             throw Verify.OutOfRange(nameof(type), type, "There is no such turn.");
         }
 
-        int quarters = (int)type & 3;
-        bool mirror = ((int)type & 4) != 0;
-        bool swap = (quarters & 1) != 0;
+        int quarterTurns = (int)type & 3;
+        bool flip = ((int)type & 4) != 0;
+        bool swap = (quarterTurns & 1) != 0;
         var to = swap ? new PixelGrid(from.Height, from.Width) : new PixelGrid(from.Width, from.Height);
         for (int y = 0; y < to.Height; y++)
         {
             Span<int> row = to.Row(y);
             if (swap)
             {
-                Column(from, quarters == 1 ? y : from.Width - 1 - y, row);
+                Column(from, quarterTurns == 1 ? y : from.Width - 1 - y, row);
             }
             else
             {
-                from.Row(quarters == 0 ? y : from.Height - 1 - y).CopyTo(row);
+                from.Row(quarterTurns == 0 ? y : from.Height - 1 - y).CopyTo(row);
             }
 
-            if (mirror != (quarters is 1 or 2))
+            if (flip != (quarterTurns is 1 or 2))
             {
                 row.Reverse();
             }
@@ -51,11 +51,11 @@ internal static class Turns
     }
 
     /// <summary>Turns clockwise by any angle in degrees, into a picture as large as the turned one or as before.</summary>
-    internal static PixelGrid Rotate(PixelGrid from, double degrees, bool grow, int background)
+    internal static PixelGrid Rotate(PixelGrid from, double degrees, bool resize, int background)
     {
         (double sin, double cos) = Math.SinCos(degrees * Math.PI / 180);
-        int width = grow ? Bound(from.Width, from.Height, cos, sin) : from.Width;
-        int height = grow ? Bound(from.Width, from.Height, sin, cos) : from.Height;
+        int width = resize ? Bound(from.Width, from.Height, cos, sin) : from.Width;
+        int height = resize ? Bound(from.Width, from.Height, sin, cos) : from.Height;
         var to = new PixelGrid(width, height);
         for (int y = 0; y < height; y++)
         {
@@ -94,14 +94,14 @@ internal static class Turns
         int d = At(from, left + 1, top + 1, background);
         return (a & b & c & d & PixelGrid.Opaque) == PixelGrid.Opaque
             ? Mix(Mix(a, b, across), Mix(c, d, across), down)
-            : MixByOpacity([a, b, c, d], [(256 - across) * (256 - down), across * (256 - down), (256 - across) * down, across * down]);
+            : MixByAlpha([a, b, c, d], [(256 - across) * (256 - down), across * (256 - down), (256 - across) * down, across * down]);
     }
 
     private static int At(PixelGrid from, int x, int y, int background) =>
         (uint)x < (uint)from.Width && (uint)y < (uint)from.Height ? from.Row(y)[x] : background;
 
     // Colours count by their opacity, or what is invisible would show at edges.
-    private static int MixByOpacity(ReadOnlySpan<int> pixels, ReadOnlySpan<int> shares)
+    private static int MixByAlpha(ReadOnlySpan<int> pixels, ReadOnlySpan<int> shares)
     {
         Span<double> sums = stackalloc double[4];
         for (int i = 0; i < pixels.Length; i++)

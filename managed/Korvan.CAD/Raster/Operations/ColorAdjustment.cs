@@ -4,7 +4,7 @@ using Korvan.CAD.Raster.Pixels;
 namespace Korvan.CAD.Raster.Operations;
 
 /// <summary>Changes pixels one by one.</summary>
-internal static class Tones
+internal static class ColorAdjustment
 {
     internal static void Grayscale(PixelGrid pixels) =>
         Each(pixels, static pixel => (pixel & PixelGrid.Opaque) | (PixelGrid.Luma(pixel) * 0x010101));

@@ -6,14 +6,14 @@ using Korvan.CAD.Raster.Pixels;
 namespace Korvan.CAD.Raster.Vectorizing;
 
 /// <summary>Which pixels of a picture are dark, with a frame of light ones, so that every pixel has neighbours.</summary>
-internal sealed class InkMask
+internal sealed class ForegroundMask
 {
-    private const long MostPixels = 200_000_000;
-    private const int Paper = -1;
+    private const long MaxPixels = 200_000_000;
+    private const int Background = -1;
 
     private readonly byte[] _cells;
 
-    private InkMask(int width, int height)
+    private ForegroundMask(int width, int height)
     {
         Width = width;
         Height = height;
@@ -31,23 +31,23 @@ internal sealed class InkMask
     /// <summary>1 for dark pixels; line by line, the frame included.</summary>
     internal Span<byte> Cells => _cells;
 
-    internal static InkMask Of(PixelGrid pixels, int threshold)
+    internal static ForegroundMask FromPixels(PixelGrid pixels, int threshold)
     {
-        if ((long)(pixels.Width + 2) * (pixels.Height + 2) > MostPixels)
+        if ((long)(pixels.Width + 2) * (pixels.Height + 2) > MaxPixels)
         {
             throw new LimitMemoryException(
-                $"A picture of {pixels.Width} × {pixels.Height} pixels is too large to be traced; at most {MostPixels} pixels are.");
+                $"A picture of {pixels.Width} × {pixels.Height} pixels is too large to be traced; at most {MaxPixels} pixels are.");
         }
 
-        int least = threshold < 0 ? Binarization.OtsuThreshold(pixels) : threshold;
-        var mask = new InkMask(pixels.Width, pixels.Height);
+        int level = threshold < 0 ? Binarization.OtsuThreshold(pixels) : threshold;
+        var mask = new ForegroundMask(pixels.Width, pixels.Height);
         for (int y = 0; y < pixels.Height; y++)
         {
             ReadOnlySpan<int> row = pixels.Row(y);
             Span<byte> cells = mask.Cells.Slice(mask.At(0, y), row.Length);
             for (int x = 0; x < row.Length; x++)
             {
-                cells[x] = PixelGrid.Luma(PixelGrid.Over(row[x], Paper)) < least ? (byte)1 : (byte)0;
+                cells[x] = PixelGrid.Luma(PixelGrid.Over(row[x], Background)) < level ? (byte)1 : (byte)0;
             }
         }
 
