@@ -10,7 +10,7 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
 
-/// <summary>Metadata as properties with names and namespaces (XMP, ISO 16684-1), for keeping in picture files.</summary>
+/// <summary>XMP metadata: properties with names and namespaces (ISO 16684-1), as stored in image files.</summary>
 public class XmpPacketWrapper
 {
     private const string PacketBegin = "<?xpacket begin=\"\uFEFF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>";
@@ -40,7 +40,7 @@ public class XmpPacketWrapper
 
     /// <summary>Reads a packet.</summary>
     /// <param name="xml">The packet, with or without its processing instructions.</param>
-    /// <exception cref="XmpException">The text is not well formed, or holds no RDF.</exception>
+    /// <exception cref="XmpException">The text is not well-formed XML, or contains no RDF.</exception>
     public XmpPacketWrapper(string xml)
     {
         Verify.NotNull(xml);
@@ -48,7 +48,7 @@ public class XmpPacketWrapper
         _root = root ?? throw new XmpException("The packet holds no element rdf:RDF.");
     }
 
-    /// <summary>Gets how many properties there are.</summary>
+    /// <summary>Gets the number of properties.</summary>
     public int Count => PropertyNames.Length;
 
     /// <summary>Gets the names of the properties, each as <c>{namespace}name</c>, in the order of the packet.</summary>
@@ -58,16 +58,17 @@ public class XmpPacketWrapper
 
     private IEnumerable<XElement> Descriptions => _root.Elements(Rdf + "Description");
 
-    /// <summary>Gives a property; of several values the first. Nothing where it is missing.</summary>
+    /// <summary>Returns the value of a property, the first of several; <see langword="null"/> where the property is
+    /// missing.</summary>
     /// <param name="namespaceUri">Its namespace, for example <c>http://purl.org/dc/elements/1.1/</c>.</param>
     /// <param name="name">Its name, for example <c>title</c>.</param>
-    /// <returns>A property.</returns>
+    /// <returns>The value, or <see langword="null"/>.</returns>
     public string? GetValue(string namespaceUri, string name) => GetValues(namespaceUri, name).FirstOrDefault();
 
-    /// <summary>Gives the values of a property; none where it is missing.</summary>
+    /// <summary>Returns the values of a property; empty where it is missing.</summary>
     /// <param name="namespaceUri">Its namespace.</param>
     /// <param name="name">Its name.</param>
-    /// <returns>The values of a property.</returns>
+    /// <returns>The values.</returns>
     public string[] GetValues(string namespaceUri, string name)
     {
         XName full = Name(namespaceUri, name);
@@ -108,7 +109,7 @@ public class XmpPacketWrapper
         Put(namespaceUri, name, new XElement(Rdf + "Seq", values.Select(static value => new XElement(Rdf + "li", Verified(value)))));
     }
 
-    /// <summary>Sets a property to a text whose language is not stated, as titles and descriptions are.</summary>
+    /// <summary>Sets a property to a text in the default language, as for titles and descriptions.</summary>
     /// <param name="namespaceUri">Its namespace.</param>
     /// <param name="name">Its name.</param>
     /// <param name="text">The text.</param>
@@ -119,7 +120,7 @@ public class XmpPacketWrapper
         Put(namespaceUri, name, new XElement(Rdf + "Alt", item));
     }
 
-    /// <summary>Takes a property out.</summary>
+    /// <summary>Removes a property.</summary>
     /// <param name="namespaceUri">Its namespace.</param>
     /// <param name="name">Its name.</param>
     /// <returns>Whether it was there.</returns>
@@ -136,22 +137,23 @@ public class XmpPacketWrapper
         return found.Length > 0;
     }
 
-    /// <summary>Gives the packet as text, without its processing instructions.</summary>
-    /// <returns>The packet as text, without its processing instructions.</returns>
+    /// <summary>Returns the packet as XML, without its processing instructions.</summary>
+    /// <returns>The XML.</returns>
     public string ToXml()
     {
         var meta = new XElement(Meta + "xmpmeta", new XAttribute(XNamespace.Xmlns + "x", Meta.NamespaceName), _root);
         return meta.ToString(SaveOptions.DisableFormatting);
     }
 
-    /// <summary>Gives the packet as it stands in files: UTF-8, between its processing instructions.</summary>
-    /// <returns>The packet as it stands in files.</returns>
+    /// <summary>Returns the packet as stored in files: UTF-8, between its processing instructions.</summary>
+    /// <returns>The bytes of the packet.</returns>
     public byte[] ToBytes() => Encoding.UTF8.GetBytes($"{PacketBegin}\n{ToXml()}\n{PacketEnd}");
 
     /// <inheritdoc/>
     public override string ToString() => ToXml();
 
-    /// <summary>Reads a packet out of a file; nothing where it cannot be understood, as a picture can do without.</summary>
+    /// <summary>Reads a packet of a file; returns null where it is damaged, since an image can be shown without
+    /// it.</summary>
     internal static XmpPacketWrapper? TryRead(ReadOnlySpan<byte> data)
     {
         try

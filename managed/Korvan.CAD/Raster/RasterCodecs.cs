@@ -9,7 +9,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster;
 
-/// <summary>The codecs of all formats of pixels.</summary>
+/// <summary>The codecs of all raster formats.</summary>
 internal static class RasterCodecs
 {
     private const int DefaultResolution = 96;
@@ -37,7 +37,7 @@ internal static class RasterCodecs
             OptionsType = typeof(JpegOptions),
             Writer = RasterCodec.Single<JpegOptions>(static (page, options, output) =>
             {
-                page.Pixels.Flatten(White); // the format has no opacity
+                page.Pixels.Flatten(White); // the format has no alpha
                 JpegWriter.Write(page, options, output);
             }),
             OwnOptions = static () => new JpegOptions(),
@@ -123,7 +123,7 @@ internal static class RasterCodecs
         },
     ];
 
-    /// <summary>Gives the codec of a file by its first bytes; nothing for files of other formats.</summary>
+    /// <summary>Returns the codec of a file by its first bytes; null for other formats.</summary>
     internal static RasterCodec? Detect(ReadOnlySpan<byte> header)
     {
         foreach (RasterCodec codec in All)
@@ -137,10 +137,10 @@ internal static class RasterCodecs
         return null;
     }
 
-    /// <summary>Gives the codec that options choose; nothing for options of formats that hold no pixels.</summary>
+    /// <summary>Returns the codec of options; null for options of other formats.</summary>
     internal static RasterCodec? Find(Type options) => All.FirstOrDefault(codec => codec.OptionsType == options);
 
-    /// <summary>Writes pixels at the default resolution of 96 pixels an inch.</summary>
+    /// <summary>Writes pixels at the default resolution of 96 pixels per inch.</summary>
     internal static void Write(PixelGrid pixels, ImageOptionsBase options, Stream output)
     {
         Find(options.GetType())!.Writer(new OnePage(pixels), options, output);

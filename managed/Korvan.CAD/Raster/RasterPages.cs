@@ -10,25 +10,25 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster;
 
-/// <summary>Pages that can be had as pixels, one at a time: layouts of a drawing, frames of a picture.</summary>
+/// <summary>Pages that are rendered to pixels one at a time: layouts of a drawing, frames of an image.</summary>
 internal interface IRasterPages
 {
     /// <summary>Gets the names of the pages; a page without one has an empty name.</summary>
     IReadOnlyList<string> Titles { get; }
 
-    /// <summary>Gives the pixels of a page; the caller may change them and disposes them.</summary>
+    /// <summary>Returns the pixels of a page; the caller owns them.</summary>
     RasterPageData Render(int index);
 }
 
-/// <summary>The pixels of a page, with pixels an inch.</summary>
+/// <summary>The pixels of a page, with its resolution in pixels per inch.</summary>
 internal sealed record RasterPageData(PixelGrid Pixels, double HorizontalResolution, double VerticalResolution) : IDisposable
 {
-    /// <summary>What the source says of itself; options may say otherwise.</summary>
+    /// <summary>Gets the metadata of the source; options may override it.</summary>
     internal ExifData? Exif { get; init; }
 
     internal XmpPacketWrapper? Xmp { get; init; }
 
-    /// <summary>The page turned and mirrored; it stands in for this one, which ends.</summary>
+    /// <summary>Returns the page rotated and flipped; this one is disposed.</summary>
     internal RasterPageData RotatedFlipped(RotateFlipType type)
     {
         if (type == RotateFlipType.RotateNoneFlipNone)
@@ -51,7 +51,7 @@ internal sealed record RasterPageData(PixelGrid Pixels, double HorizontalResolut
     public void Dispose() => Pixels.Dispose();
 }
 
-/// <summary>The pages that options choose.</summary>
+/// <summary>Selects the pages of options.</summary>
 internal static class PageChoice
 {
     internal static int Single(IRasterPages pages, FileFormat format)
@@ -91,7 +91,7 @@ internal static class PageChoice
             : throw new ImageSaveException("The multi_page_options choose no page at all; a file needs one.");
     }
 
-    /// <summary>Renders a page and cuts it to the area of the options.</summary>
+    /// <summary>Renders a page and crops it to the area of the options.</summary>
     internal static RasterPageData Render(IRasterPages pages, int index, MultiPageOptions? options)
     {
         RasterPageData page = pages.Render(index);

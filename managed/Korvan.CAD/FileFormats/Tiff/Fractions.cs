@@ -2,10 +2,11 @@ using System;
 
 namespace Korvan.CAD.FileFormats.Tiff;
 
-/// <summary>Finds fractions for numbers.</summary>
+/// <summary>Approximates numbers by fractions.</summary>
 internal static class Fractions
 {
-    /// <summary>The first convergent of the continued fraction that is near enough, or the last whose parts fit.</summary>
+    /// <summary>The first convergent of the continued fraction that is near enough, or the last whose parts
+    /// fit.</summary>
     internal static (long Numerator, long Denominator) Nearest(double value, double precision, long max)
     {
         double rest = Math.Abs(value);

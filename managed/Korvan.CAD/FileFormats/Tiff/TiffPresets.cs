@@ -7,7 +7,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.FileFormats.Tiff;
 
-/// <summary>Which combinations of compression and samples there are.</summary>
+/// <summary>The valid combinations of compression and samples.</summary>
 internal static class TiffPresets
 {
     private static readonly int[] Rgb = [8, 8, 8];
@@ -77,8 +77,8 @@ internal static class TiffPresets
         return ValidateCompression(options.Compression, gray, bits, options.Photometric);
     }
 
-    /// <summary>The options that hold for some combinations only: whether each is set, whether it is followed, and what
-    /// would be right.</summary>
+    /// <summary>Options that are valid for some combinations only: whether each is set, whether it is valid, and the
+    /// error otherwise.</summary>
     internal static IEnumerable<(string Name, bool IsSet, bool IsFollowed, string Advice)> Conditions(TiffOptions options)
     {
         bool numbers = options.Photometric == TiffPhotometrics.Palette || options.BitsPerPixel < 8;

@@ -8,10 +8,8 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>
-/// Reads device-independent bitmaps: heads of OS/2 1 and of Windows up to version 5; 1, 2, 4, 8, 16, 24 and 32 bits a
-/// pixel, masks, and run lengths.
-/// </summary>
+/// <summary>Reads device-independent bitmaps: headers of OS/2 1 and of Windows up to version 5; 1, 2, 4, 8, 16, 24 and
+/// 32 bits per pixel, masks, and run lengths.</summary>
 internal sealed class BmpReader
 {
     internal const int FileHeaderLength = 14;
@@ -34,7 +32,7 @@ internal sealed class BmpReader
         _headerSize = Number(FileHeaderLength);
         if (_headerSize is not (12 or 40 or 52 or 56 or 64 or 108 or 124) || data.Length < FileHeaderLength + _headerSize)
         {
-            throw Damaged($"its head says that it has {_headerSize} bytes");
+            throw Damaged($"its header states a size of {_headerSize} bytes");
         }
 
         bool old = _headerSize == 12;
@@ -46,7 +44,7 @@ internal sealed class BmpReader
         _compression = old ? BitmapCompression.Rgb : (BitmapCompression)Number(30);
         if (_width < 1 || _height < 1)
         {
-            throw Damaged($"it says that it has {_width} × {rows} pixels");
+            throw Damaged($"it claims {_width} × {rows} pixels");
         }
 
         PixelGrid.VerifySize(_width, _height);
@@ -57,7 +55,7 @@ internal sealed class BmpReader
     {
         if (source.Data.Length < FileHeaderLength + 12)
         {
-            throw new BmpImageException($"'{source.Name}' ends after {source.Data.Length} bytes, before the head of a bitmap.");
+            throw new BmpImageException($"'{source.Name}' ends after {source.Data.Length} bytes, before the end of the header.");
         }
 
         var reader = new BmpReader(source);
@@ -99,11 +97,11 @@ internal sealed class BmpReader
         if (!known)
         {
             string name = Enum.IsDefined(_compression) ? _compression.ToString() : $"0x{(int)_compression:X}";
-            throw new BmpImageException($"'{_source.Name}' stores {_bits} bits a pixel with compression {name}, which is not read.");
+            throw new BmpImageException($"'{_source.Name}' stores {_bits} bits per pixel with compression {name}, which is not read.");
         }
     }
 
-    /// <summary>Reads masks and palette; gives where they end.</summary>
+    /// <summary>Reads masks and palette; returns where they end.</summary>
     private int ReadTables()
     {
         int at = FileHeaderLength + _headerSize;
@@ -135,7 +133,7 @@ internal sealed class BmpReader
         int colors = stated is > 0 and <= 256 ? Math.Min(stated, 1 << _bits) : 1 << _bits;
         colors = Math.Min(colors, (_source.Data.Length - at) / entry);
         _palette = new int[1 << _bits];
-        _palette.AsSpan().Fill(PixelGrid.Opaque); // a number past the colours is black
+        _palette.AsSpan().Fill(PixelGrid.Opaque); // an index past the colours is black
         for (int i = 0; i < colors; i++)
         {
             ReadOnlySpan<byte> color = _source.Data.AsSpan(at + (i * entry));
@@ -147,7 +145,7 @@ internal sealed class BmpReader
 
     private PixelGrid FromRuns(ReadOnlySpan<byte> data)
     {
-        // A pair of bytes makes at most 255 pixels, and a jump may leave any number of them out.
+        // No check of the size against the data: a pair of bytes makes up to 255 pixels, and a delta skips any number.
         var indices = new byte[(long)_width * _height];
         try
         {
@@ -155,11 +153,11 @@ internal sealed class BmpReader
         }
         catch (RleCompressorException e) when (!_source.Lenient)
         {
-            throw new BmpImageException($"The picture of '{_source.Name}' is damaged.", e);
+            throw new BmpImageException($"The image of '{_source.Name}' is damaged.", e);
         }
         catch (RleCompressorException)
         {
-            // What was read so far is shown.
+            // The pixels that were read are shown.
         }
 
         var pixels = new PixelGrid(_width, _height);
@@ -212,7 +210,7 @@ internal sealed class BmpReader
         return pixels;
     }
 
-    /// <summary>Unpacks a row; tells whether any pixel has an opacity above 0.</summary>
+    /// <summary>Unpacks a row; returns whether any pixel has an alpha above 0.</summary>
     private bool Unpack(ReadOnlySpan<byte> from, Span<int> to)
     {
         if (_bits == 24)
@@ -258,7 +256,7 @@ internal sealed class BmpReader
         return (int)((((value & mask) >> shift) * 255ul + (max / 2)) / max);
     }
 
-    // Many programs leave the fourth byte at 0 and mean opaque pixels.
+    // Many programs leave the fourth byte at 0 in opaque pixels.
     private static void MakeOpaque(Span<int> row)
     {
         foreach (ref int pixel in row)
@@ -275,7 +273,7 @@ internal sealed class BmpReader
     {
         return at + count <= _source.Data.Length
             ? _source.Data.AsSpan(at, count)
-            : throw Damaged($"it ends after {_source.Data.Length} bytes, inside of its head");
+            : throw Damaged($"it ends after {_source.Data.Length} bytes, inside its header");
     }
 
     private BmpImageException Damaged(string why) => new($"'{_source.Name}' is no bitmap that can be read: {why}.");

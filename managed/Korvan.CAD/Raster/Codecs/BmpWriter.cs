@@ -11,7 +11,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Writes device-independent bitmaps with the heads BITMAPINFOHEADER and, for opacity, BITMAPV4HEADER.</summary>
+/// <summary>Writes device-independent bitmaps with the header BITMAPINFOHEADER or, for alpha, BITMAPV4HEADER.</summary>
 internal static class BmpWriter
 {
     private const int FileHeaderBytes = 14;
@@ -32,7 +32,7 @@ internal static class BmpWriter
         if (options.Compression is not (BitmapCompression.Rgb or BitmapCompression.Rle8) || (rle && bits != 8))
         {
             throw new BmpImageException(
-                $"Bitmaps of {bits} bits a pixel are not written with the compression "
+                $"Bitmaps of {bits} bits per pixel are not written with the compression "
                     + $"{Verify.NameOf(options.Compression)};"
                 + " choose RGB, or RLE8 with 8 bits.");
         }
@@ -102,7 +102,7 @@ internal static class BmpWriter
 
     private static int PerMetre(double pixelsPerInch) => (int)Math.Min(int.MaxValue, Math.Round(pixelsPerInch * InchesPerMetre));
 
-    // Rows stand from the bottom up.
+    // Rows run from the bottom up.
     private static void WriteRows(PixelGrid pixels, int bits, int[] palette, DitheringMethods dithering, int rowBytes, Stream output)
     {
         byte[]? indices = bits > 8 ? null : IndexedPixels.Of(pixels, palette, dithering);

@@ -7,7 +7,7 @@ using System.Text;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Writes data elements in the explicit form, lowest byte first (DICOM PS3.5, section 7).</summary>
+/// <summary>Writes data elements in explicit VR little-endian (DICOM PS3.5, section 7).</summary>
 internal sealed class DicomElementWriter(Stream output)
 {
     internal void Text(uint tag, string type, string value)
@@ -37,7 +37,8 @@ internal sealed class DicomElementWriter(Stream output)
         Pad(data.Length);
     }
 
-    /// <summary>The head of an element whose value follows; a length of all ones is not defined.</summary>
+    /// <summary>Writes the header of an element whose value follows; a length of all ones means undefined
+    /// length.</summary>
     internal void Header(uint tag, string type, long length)
     {
         bool wide = type is "OB" or "OW" or "UT" or "SQ";
@@ -57,7 +58,7 @@ internal sealed class DicomElementWriter(Stream output)
         output.Write(header);
     }
 
-    /// <summary>An item of a sequence, or one of its end marks.</summary>
+    /// <summary>Writes an item of a sequence, or a delimiter.</summary>
     internal void Item(uint tag, ReadOnlySpan<byte> data)
     {
         Span<byte> header = stackalloc byte[8];
@@ -76,11 +77,11 @@ internal sealed class DicomElementWriter(Stream output)
         }
     }
 
-    /// <summary>A new identifier that needs no registration: a UUID as a number below 2.25 (PS3.5, annex B.2).</summary>
+    /// <summary>Returns a new identifier that needs no registration: a UUID below 2.25 (PS3.5, annex B.2).</summary>
     internal static string NewIdentifier()
     {
         byte[] identifier = Guid.NewGuid().ToByteArray(bigEndian: true);
-        identifier[0] |= 0x80; // always 39 digits, so that files of one picture have one size
+        identifier[0] |= 0x80; // always 39 digits, so that files of one image have one size
         var number = new BigInteger(identifier, isUnsigned: true, isBigEndian: true);
         return "2.25." + number.ToString(CultureInfo.InvariantCulture);
     }

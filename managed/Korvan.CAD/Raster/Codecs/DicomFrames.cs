@@ -6,7 +6,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Makes pictures of the frames of a DICOM file.</summary>
+/// <summary>Decodes the frames of a DICOM file.</summary>
 internal sealed class DicomFrames
 {
     private const int MaxFrames = 10_000;
@@ -34,7 +34,8 @@ internal sealed class DicomFrames
         Verify();
     }
 
-    /// <summary>Gets whether two pixels beside each other share their colour: two of lightness, then blue and red.</summary>
+    /// <summary>Gets whether two neighbouring pixels share their chroma: two luma samples, then blue and red
+    /// chroma.</summary>
     private bool IsChromaPaired => _photometric == "YBR_FULL_422" && _file.Fragments == null;
 
     private int FrameCount { get; set; }
@@ -137,7 +138,7 @@ internal sealed class DicomFrames
         throw _file.Damaged($"frame {index} has another size than the file states");
     }
 
-    // What codecs give of greys is not inverted yet.
+    // Codecs return grayscale without inversion.
     private void Invert(PixelGrid pixels)
     {
         for (int y = 0; y < _height && _photometric == "MONOCHROME1"; y++)
@@ -149,14 +150,14 @@ internal sealed class DicomFrames
         }
     }
 
-    // One frame may stand in several pieces; of several frames each has its own.
+    // A single frame may have several fragments; of several frames each has one.
     private byte[] Fragment(int index) =>
         FrameCount > 1 || _file.Fragments!.Count == 1 ? _file.Fragments![index].ToArray() : Joined(_file.Fragments);
 
     private ReadOnlySpan<byte> Samples(int index) =>
         _file.Fragments == null ? Plain(index) : DicomRle.Unpack(Fragment(index), _samples, _bits / 8, (long)_width * _height);
 
-    // Shades that depend on what is there are to be the same in all frames.
+    // A range that depends on the samples has to be the same in all frames.
     private IEnumerable<byte[]> AllSamples()
     {
         for (int i = 0; i < FrameCount; i++)

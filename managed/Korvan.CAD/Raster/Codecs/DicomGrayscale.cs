@@ -5,10 +5,8 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>
-/// The shades of grey samples: those of the window that the file states (PS3.3, C.11.2.1.2), else all that their bits can
-/// tell, of words all that the file holds.
-/// </summary>
+/// <summary>Maps grayscale samples to 8 bits by the window of the file (PS3.3, C.11.2.1.2). Without a window 8-bit
+/// samples map their possible range, 16-bit samples the range that occurs in the file.</summary>
 internal sealed class DicomGrayscale
 {
     private readonly int[] _pixels;
@@ -24,7 +22,7 @@ internal sealed class DicomGrayscale
         _signed = file.Number(DicomTags.PixelRepresentation, 0) == 1;
     }
 
-    /// <summary>Finds the shades; samples are asked for only where nothing else tells them.</summary>
+    /// <summary>Creates the mapping; samples are read only where the range depends on them.</summary>
     internal static DicomGrayscale Of(DicomReader file, int bits, bool inverted, Func<IEnumerable<byte[]>> samples)
     {
         var grayscale = new DicomGrayscale(file, bits);
@@ -49,7 +47,7 @@ internal sealed class DicomGrayscale
         return grayscale;
     }
 
-    /// <summary>The pixel of a sample.</summary>
+    /// <summary>Returns the pixel of a sample.</summary>
     internal int Pixel(ReadOnlySpan<byte> data, int at) => _pixels[StoredSample(data, at)];
 
     private int StoredSample(ReadOnlySpan<byte> data, int at) =>

@@ -25,10 +25,10 @@ internal sealed class DicomReader
 
     internal RasterSource Source => _source;
 
-    /// <summary>The bytes of plain pixels.</summary>
+    /// <summary>Gets the bytes of uncompressed pixels.</summary>
     internal ReadOnlyMemory<byte> PlainPixels { get; private set; }
 
-    /// <summary>The pieces of compressed pixels, without the table of places.</summary>
+    /// <summary>Gets the fragments of compressed pixels, without the offset table.</summary>
     internal List<ReadOnlyMemory<byte>>? Fragments { get; private set; }
 
     internal string Syntax => Text(DicomTags.TransferSyntax);
@@ -46,7 +46,7 @@ internal sealed class DicomReader
     internal int Number(uint tag, int missing) =>
         _values.TryGetValue(tag, out byte[]? data) && data.Length >= 2 ? BinaryPrimitives.ReadUInt16LittleEndian(data) : missing;
 
-    /// <summary>The first number of a text of decimal numbers.</summary>
+    /// <summary>Returns the first number of a decimal string.</summary>
     internal double Real(uint tag, double missing)
     {
         string first = Text(tag).Split('\\')[0].Trim();
@@ -80,7 +80,7 @@ internal sealed class DicomReader
         throw Damaged("it holds no pixels");
     }
 
-    // The group of the file itself always states types; the rest does as the transfer syntax says.
+    // The file meta group always states types; in the rest that depends on the transfer syntax.
     private void Begin()
     {
         _values[0] = [];

@@ -162,7 +162,7 @@ internal sealed class DicomWriter
             packed ? DicomTags.UndefinedLength : (plain * chosen.Count) + (plain * chosen.Count & 1));
         if (packed)
         {
-            elements.Item(DicomTags.Item, []); // no table of places
+            elements.Item(DicomTags.Item, []); // no offset table
         }
 
         WriteFrame(first.Pixels, output, elements, packed);

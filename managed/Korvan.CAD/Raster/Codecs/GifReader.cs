@@ -12,7 +12,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Reads GIF: each frame as it is seen, over what the frames before it left.</summary>
+/// <summary>Reads GIF: each frame composited over the previous ones.</summary>
 internal sealed unsafe class GifReader
 {
     private const int MaxFrames = 10_000;
@@ -93,11 +93,12 @@ internal sealed unsafe class GifReader
         while (record != Gif.Record.Terminate && _frames.Count < MaxFrames);
         if (_frames.Count == 0)
         {
-            throw new GifImageException($"'{_source.Name}' holds no picture.");
+            throw new GifImageException($"'{_source.Name}' holds no image.");
         }
     }
 
-    /// <summary>Throws after a failure, or says that it is the end where damage is to be borne.</summary>
+    /// <summary>Throws after a failure; returns false instead where reading is lenient and there is something to
+    /// show.</summary>
     private bool Verify(int result)
     {
         if (result == Gif.Ok)

@@ -12,7 +12,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Writes GIF 89a: one palette for all frames, each as large as the whole picture.</summary>
+/// <summary>Writes GIF 89a: one palette for all frames, each as large as the whole image.</summary>
 internal sealed unsafe class GifWriter
 {
     private const int MaxSide = 65_535;
@@ -98,7 +98,7 @@ internal sealed unsafe class GifWriter
         return Quantizer.Choose(colors, options.MaxColors, options.PaletteMethod);
     }
 
-    /// <summary>A colour table of the next power of two.</summary>
+    /// <summary>Returns a colour table of the next power of two.</summary>
     private static GifColorMapHandle Map(int[] palette)
     {
         int size = 2;
@@ -154,7 +154,7 @@ internal sealed unsafe class GifWriter
         }
     }
 
-    // The graphic control extension: what happens to a frame, how long it stays, which number is not drawn.
+    // The graphic control extension: the disposal of a frame, its delay, which index is transparent.
     private void WriteControl(int frames)
     {
         if (frames == 1 && _transparent < 0)
@@ -170,7 +170,7 @@ internal sealed unsafe class GifWriter
         Verify(Gif.PutExtension(_gif, Gif.GraphicsExtension, 4, data));
     }
 
-    // The application extension that all programs take for the number of repetitions.
+    // The application extension of the number of repetitions.
     private void WriteLoop()
     {
         fixed (byte* name = "NETSCAPE2.0"u8)
@@ -189,7 +189,7 @@ internal sealed unsafe class GifWriter
     {
         if (result != Gif.Ok)
         {
-            throw new GifImageException($"The picture could not be written: {Gif.Error(_gif.File.Error)}.");
+            throw new GifImageException($"The image could not be written: {Gif.Error(_gif.File.Error)}.");
         }
     }
 

@@ -21,7 +21,7 @@ internal static unsafe class Jpeg2000Codec
             Encode(pixels, options.Codec, options.Irreversible, options.CompressionRatio, gray: pixels.IsGray(), target));
     }
 
-    /// <summary>Compresses pixels; <paramref name="target"/> must be able to seek.</summary>
+    /// <summary>Compresses pixels; <paramref name="target"/> must be seekable.</summary>
     internal static void Encode(PixelGrid pixels, J2K container, bool irreversible, float ratio, bool gray, Stream target)
     {
         OpenJpeg.Require();

@@ -5,7 +5,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Puts the planes of a decoded JPEG 2000 together: any depth, sign and subsampling.</summary>
+/// <summary>Combines the components of a decoded JPEG 2000 of any depth, sign and subsampling.</summary>
 internal static unsafe class Jpeg2000Planes
 {
     internal static PixelGrid ToPixels(in OpenJpeg.ImageHeader image, RasterSource source, out int bitsPerPixel)
@@ -65,7 +65,7 @@ internal static unsafe class Jpeg2000Planes
         return (Part(y + (1.402 * cr)) << 16) | (Part(y - (0.344136 * cb) - (0.714136 * cr)) << 8) | Part(y + (1.772 * cb));
     }
 
-    // The place is one of the reference grid, on which the picture may begin anywhere.
+    // The position is on the reference grid, on which the image may begin anywhere.
     private static int Sample(in OpenJpeg.Component plane, long x, long y)
     {
         long column = Math.Clamp((x / plane.Dx) - plane.X0, 0, plane.Width - 1);

@@ -8,12 +8,12 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Compresses and decompresses JPEG; what stands beside the picture is the matter of <see cref="JpegSegments"/>.</summary>
+/// <summary>Compresses and decompresses JPEG; metadata is read and written by <see cref="JpegSegments"/>.</summary>
 internal static unsafe class JpegCodec
 {
     private const int MaxSide = 65_500;
 
-    /// <summary>A block of 8 × 8 takes a bit at the least, so a byte is at most 512 pixels.</summary>
+    /// <summary>A block of 8 × 8 pixels takes at least one bit, so a byte holds at most 512 pixels.</summary>
     private const long MaxPixelsPerByte = 512;
 
     /// <summary>Compresses opaque pixels.</summary>
@@ -46,8 +46,8 @@ internal static unsafe class JpegCodec
         }
     }
 
-    /// <summary>The pixels of a JPEG; <paramref name="bitsPerPixel"/> tells whether it stored grey, colours or inks,
-    /// which programs for print store inverted.</summary>
+    /// <summary>Returns the pixels of a JPEG. <paramref name="bitsPerPixel"/> is 8 for grayscale, 24 for colours and 32
+    /// for CMYK, which print programs store inverted.</summary>
     internal static PixelGrid Decompress(RasterSource source, ReadOnlySpan<byte> data, bool inverted, out int bitsPerPixel)
     {
         TurboJpeg.Require();
@@ -64,7 +64,7 @@ internal static unsafe class JpegCodec
         int width = 0, height = 0, subsampling = 0, colors = -1;
         int failure = TurboJpeg.ReadHeader(handle, data, (nuint)length, &width, &height, &subsampling, &colors);
 
-        // A way to thin planes out that has no name there is a failure, too, but can be decompressed.
+        // Non-standard sampling factors are reported as a failure, too, but can be decompressed.
         if (failure != 0 && (subsampling >= 0 || colors < 0))
         {
             throw new JpegException($"'{source.Name}' is no JPEG that can be read: {TurboJpeg.Error(handle)}.");
@@ -72,7 +72,7 @@ internal static unsafe class JpegCodec
 
         if (width < 1 || height < 1)
         {
-            throw new JpegException($"'{source.Name}' is no JPEG that can be read: it ends before the head of a picture.");
+            throw new JpegException($"'{source.Name}' is no JPEG that can be read: it ends before the frame header.");
         }
 
         if ((long)width * height > length * MaxPixelsPerByte)
@@ -88,7 +88,7 @@ internal static unsafe class JpegCodec
         if (TurboJpeg.Decompress(handle, data, (nuint)length, pixels.Pointer, width, 0, height, layout, flags) != 0 && !source.Lenient)
         {
             pixels.Dispose();
-            throw new JpegException($"The picture of '{source.Name}' is damaged: {TurboJpeg.Error(handle)}.");
+            throw new JpegException($"The image of '{source.Name}' is damaged: {TurboJpeg.Error(handle)}.");
         }
 
         if (isCmyk)
@@ -99,7 +99,7 @@ internal static unsafe class JpegCodec
         return pixels;
     }
 
-    /// <summary>Colours as inks in the inverted form that programs for print write.</summary>
+    /// <summary>Converts to the inverted CMYK that print programs write.</summary>
     private static PixelGrid ToInvertedCmyk(PixelGrid pixels)
     {
         var isCmyk = new PixelGrid(pixels.Width, pixels.Height);

@@ -26,7 +26,8 @@ internal static class JpegReader
         };
     }
 
-    /// <summary>Reads what a camera says; nothing where it is damaged, as a picture can do without.</summary>
+    /// <summary>Reads Exif metadata; returns null where it is damaged, since an image can be shown without
+    /// it.</summary>
     internal static JpegExifData? ReadExif(ReadOnlySpan<byte> data)
     {
         try

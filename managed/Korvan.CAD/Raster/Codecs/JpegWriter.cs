@@ -20,7 +20,7 @@ internal static class JpegWriter
 
     private static IEnumerable<JpegSegment> Segments(RasterPageData page, JpegOptions options)
     {
-        // JFIF knows grey and Y'CbCr only; files of inks have the segment of their own that the codec writes.
+        // JFIF has only grayscale and Y'CbCr; CMYK files keep the APP14 segment that the codec writes.
         if (options.ColorType != JpegCompressionColorMode.Ycck)
         {
             JFIFData head = options.Jfif ?? JFIFData.Of(page.HorizontalResolution, page.VerticalResolution);

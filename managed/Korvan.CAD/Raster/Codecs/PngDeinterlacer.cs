@@ -10,10 +10,9 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>
-/// Lays an interlaced PNG of 16 bits a sample out in one pass. libpng's reader for memory copies whole rows of each pass
-/// over those of the passes before when it makes 8 bits of 16, as its correction of CVE-2025-65018 does in Debian's 1.6.39.
-/// </summary>
+/// <summary>Rewrites an interlaced PNG of 16 bits per sample without interlacing. libpng's simplified reader overwrites
+/// the rows of earlier passes when it reduces 16 bits to 8, since the fix of CVE-2025-65018 in Debian's
+/// 1.6.39.</summary>
 internal sealed class PngDeinterlacer
 {
     private const int SignatureBytes = 8;
@@ -39,7 +38,7 @@ internal sealed class PngDeinterlacer
         _pixelBytes = _header.BitsPerPixel / 8;
     }
 
-    /// <summary>The file as it is, or one that shows the same picture and is not interlaced.</summary>
+    /// <summary>Returns the file unchanged, or without interlacing where that is needed.</summary>
     internal static byte[] Convert(RasterSource source)
     {
         ReadOnlySpan<byte> data = source.Data;
@@ -79,7 +78,7 @@ internal sealed class PngDeinterlacer
         return before.ToArray();
     }
 
-    // Parts the chunks into those before the picture, its data, and those behind it.
+    // Splits the chunks into those before the image data, the data, and those after it.
     private void Sort(MemoryStream before, MemoryStream packed, MemoryStream after)
     {
         ReadOnlySpan<byte> data = _source.Data;

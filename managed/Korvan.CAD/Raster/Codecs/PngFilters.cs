@@ -4,17 +4,17 @@ using Korvan.CAD.FileFormats.Png;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Turns rows of a PNG into differences, and back (ISO/IEC 15948, clause 9).</summary>
+/// <summary>Filters rows of a PNG, and back (ISO/IEC 15948, clause 9).</summary>
 internal sealed class PngFilters(int rowBytes, int pixelBytes)
 {
     private readonly byte[][] _lines = [new byte[rowBytes + 1], new byte[rowBytes + 1]];
     private byte[] _row = new byte[rowBytes];
     private byte[] _above = new byte[rowBytes];
 
-    /// <summary>The row that comes next; its owner fills it.</summary>
+    /// <summary>Gets the buffer of the next row.</summary>
     internal Span<byte> Row => _row;
 
-    /// <summary>Gives the filtered row with the number of its filter before it.</summary>
+    /// <summary>Returns the filtered row, preceded by its filter type.</summary>
     internal ReadOnlySpan<byte> Apply(PngFilterType filter)
     {
         byte[] best = _lines[0];
@@ -31,7 +31,7 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
         return best;
     }
 
-    /// <summary>Makes pixels of a filtered row again.</summary>
+    /// <summary>Reverses the filter of a row.</summary>
     internal static void Undo(PngFilterType filter, Span<byte> row, ReadOnlySpan<byte> above, int pixelBytes)
     {
         if (filter is < PngFilterType.None or > PngFilterType.Paeth)

@@ -8,10 +8,10 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Reads PNG: the pixels through libpng, what stands beside them from the chunks.</summary>
+/// <summary>Reads PNG: the pixels through libpng, metadata from the chunks.</summary>
 internal static unsafe class PngReader
 {
-    /// <summary>Deflate makes at most 1032 bytes of one, each of up to eight pixels.</summary>
+    /// <summary>Deflate expands a byte to at most 1032, each of up to eight pixels.</summary>
     private const long MaxPixelsPerByte = 1032 * 8;
 
     private const double MetresPerInch = 0.0254;
@@ -81,7 +81,7 @@ internal static unsafe class PngReader
         return new PngImageException($"'{source.Name}' is damaged: {reason}.", inner);
     }
 
-    // The first of each kind; libpng has the last word on whether the file is whole.
+    // The first chunk of each kind; libpng decides whether the file is valid.
     private static Dictionary<string, byte[]> Chunks(ReadOnlySpan<byte> data)
     {
         var chunks = new Dictionary<string, byte[]> { ["IHDR"] = new byte[13] };

@@ -6,7 +6,7 @@ using Korvan.CAD.FileFormats.Png;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>What is said of a PNG before its rows.</summary>
+/// <summary>The header of a PNG.</summary>
 internal readonly record struct PngHeader(int Width, int Height, int BitDepth, PngColorType ColorType)
 {
     internal int BitsPerPixel => BitDepth * ColorType switch
@@ -20,17 +20,17 @@ internal readonly record struct PngHeader(int Width, int Height, int BitDepth, P
     internal int RowBytes => checked((int)((((long)Width * BitsPerPixel) + 7) / 8));
 }
 
-/// <summary>Puts a portable network graphic (ISO/IEC 15948) together out of packed rows.</summary>
+/// <summary>Writes a PNG (ISO/IEC 15948) of packed rows.</summary>
 internal static class PngStream
 {
     private const int IdatSize = 256 * 1024;
     private const double InchesPerMetre = 1 / 0.0254;
     private static readonly uint[] CrcTable = BuildCrcTable();
 
-    /// <summary>What an international text chunk of XMP begins with: its keyword, no compression, no language.</summary>
+    /// <summary>Gets the start of an iTXt chunk of XMP: its keyword, no compression, no language.</summary>
     internal static ReadOnlySpan<byte> XmpPrefix => "XML:com.adobe.xmp\0\0\0\0\0"u8;
 
-    /// <summary>Puts one row in the form of the head into the buffer.</summary>
+    /// <summary>Writes one row, in the format of the header, into the buffer.</summary>
     internal delegate void PackRow(int y, Span<byte> row);
 
     internal static void Begin(Stream output, in PngHeader header, double horizontal, double vertical)
@@ -82,7 +82,7 @@ internal static class PngStream
         output.Write(number);
     }
 
-    /// <summary>The check sum of a chunk.</summary>
+    /// <summary>Returns the CRC of a chunk.</summary>
     internal static uint Checksum(ReadOnlySpan<byte> type, ReadOnlySpan<byte> data) => Crc(Crc(0xffffffff, type), data) ^ 0xffffffff;
 
     private static uint Crc(uint crc, ReadOnlySpan<byte> data)
@@ -112,7 +112,7 @@ internal static class PngStream
         return table;
     }
 
-    /// <summary>Cuts the compressed data into chunks of one size.</summary>
+    /// <summary>Splits the compressed data into chunks of one size.</summary>
     private sealed class ChunkStream(Stream output) : Stream
     {
         private readonly byte[] _buffer = new byte[IdatSize];

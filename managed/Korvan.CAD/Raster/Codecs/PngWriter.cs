@@ -110,7 +110,7 @@ internal static class PngWriter
             PngStream.WriteChunk(output, "tRNS"u8, opacity);
         }
 
-        // The filters take rows one by one, so the numbers of all pixels are found first.
+        // Filters process rows one by one, so the indices of all pixels are computed first.
         byte[] indices = IndexedPixels.Of(pixels, palette, options.Dithering);
         PngStream.WriteRows(output, header, PngFilterType.None, options.CompressionLevel, (y, row) =>
             BitPacking.Pack(indices.AsSpan(y * pixels.Width, pixels.Width), row, header.BitDepth));

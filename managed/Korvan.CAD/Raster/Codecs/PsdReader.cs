@@ -8,7 +8,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Reads the merged picture of a PSD.</summary>
+/// <summary>Reads the merged image of a PSD.</summary>
 internal sealed class PsdReader
 {
     private const int HeaderBytes = 26;
@@ -26,7 +26,7 @@ internal sealed class PsdReader
         ReadOnlySpan<byte> header = source.Data;
         if (header.Length < HeaderBytes || !header.StartsWith("8BPS"u8) || BinaryPrimitives.ReadUInt16BigEndian(header[4..]) != 1)
         {
-            throw new PsdImageException($"'{source.Name}' does not begin with the head of a PSD of version 1.");
+            throw new PsdImageException($"'{source.Name}' does not begin with the header of a PSD of version 1.");
         }
 
         _channels = BinaryPrimitives.ReadUInt16BigEndian(header[12..]);
@@ -49,7 +49,7 @@ internal sealed class PsdReader
         return reader.File(palette, resources, rest);
     }
 
-    /// <summary>The section of resources of a file.</summary>
+    /// <summary>Returns the section of image resources of a file.</summary>
     internal static ReadOnlySpan<byte> ResourceBytes(byte[] data, string name)
     {
         _ = new PsdReader(new RasterSource(data, name, false));
@@ -146,7 +146,7 @@ internal sealed class PsdReader
         if (method is not ((int)CompressionMethod.Raw or (int)CompressionMethod.Rle))
         {
             throw new PsdImageException(
-                $"The merged picture of '{_source.Name}' is missing or compressed by method {method}, which is not read.");
+                $"The merged image of '{_source.Name}' is missing or compressed by method {method}, which is not read.");
         }
 
         var rows = new PsdRows(data[2..], method == (int)CompressionMethod.Rle, _channels, _height, RowBytes);
@@ -172,18 +172,18 @@ internal sealed class PsdReader
         }
         catch (FrameworkException) when (_source.Lenient)
         {
-            return pixels; // what was read so far is shown
+            return pixels; // the pixels that were read are shown
         }
         catch (FrameworkException e)
         {
             pixels.Dispose();
-            throw new PsdImageException($"The picture of '{_source.Name}' is damaged.", e);
+            throw new PsdImageException($"The image of '{_source.Name}' is damaged.", e);
         }
 
         return pixels;
     }
 
-    // A channel more than the mode needs is taken for opacity.
+    // A channel beyond those of the mode is taken as alpha.
     private int UsedChannels() => _mode switch
     {
         ColorModes.Rgb => Math.Min(_channels, 4),

@@ -17,7 +17,7 @@ internal static class PsdResources
 
     internal static ResourceBlock[] Of(byte[] data, string name) => [.. ReadAll(PsdReader.ResourceBytes(data, name))];
 
-    /// <summary>The content of a block; empty where there is none.</summary>
+    /// <summary>Returns the content of a block; empty where there is none.</summary>
     internal static ReadOnlySpan<byte> Find(ReadOnlySpan<byte> section, int id)
     {
         while (Next(ref section, out int found, out _, out ReadOnlySpan<byte> content))

@@ -13,7 +13,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Writes PSD files of version 1 that hold the merged picture, 8 bits a channel.</summary>
+/// <summary>Writes PSD files of version 1 that hold the merged image, 8 bits per channel.</summary>
 internal static class PsdWriter
 {
     private const int MaxSide = 30_000;
@@ -30,7 +30,7 @@ internal static class PsdWriter
         if (options.CompressionMethod is not (CompressionMethod.Raw or CompressionMethod.Rle))
         {
             throw new PsdImageException(
-                $"Merged pictures are written with the compression_method RAW or RLE, not "
+                $"Merged images are written with the compression_method RAW or RLE, not "
                     + $"{Verify.NameOf(options.CompressionMethod)}.");
         }
 
@@ -138,7 +138,7 @@ internal static class PsdWriter
         section.WriteTo(output);
     }
 
-    // Fixed point numbers of pixels an inch, each with the units to show them in: inches.
+    // Fixed-point numbers of pixels per inch, each with its display unit: inches.
     private static byte[] Resolution(RasterPageData page)
     {
         var data = new byte[16];
@@ -160,7 +160,7 @@ internal static class PsdWriter
             return;
         }
 
-        // The lengths of all packed rows stand before the rows.
+        // The lengths of all packed rows precede the rows.
         List<byte> packed = [];
         foreach (byte[] plane in planes)
         {

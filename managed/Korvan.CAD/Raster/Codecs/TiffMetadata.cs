@@ -7,10 +7,10 @@ using Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>What the first directory of a TIFF says of the picture, besides its form.</summary>
+/// <summary>The descriptive metadata in the first directory of a TIFF.</summary>
 internal static class TiffMetadata
 {
-    // Fields that describe strips and samples make no sense away from this file.
+    // Tags that describe strips and samples are meaningless outside this file.
     private static readonly ExifProperties[] Kept =
     [
         ExifProperties.Make, ExifProperties.Model, ExifProperties.Software, ExifProperties.Artist, ExifProperties.Copyright,
@@ -33,7 +33,7 @@ internal static class TiffMetadata
         }
         catch (TiffImageException)
         {
-            return default; // a BigTIFF, or a directory with damage that the picture survives
+            return default; // a BigTIFF, or a directory with damage that does not affect the image
         }
     }
 }

@@ -12,7 +12,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Reads the pages of a TIFF, of whatever kind libtiff can make colours of.</summary>
+/// <summary>Reads the pages of a TIFF of any kind that libtiff can convert to RGBA.</summary>
 internal static unsafe class TiffReader
 {
     private const int MaxPages = 10_000;
@@ -141,7 +141,7 @@ internal static unsafe class TiffReader
         return new TiffImageException($"A page of '{source.Name}' is damaged: {tiff.Error}.", inner);
     }
 
-    // libtiff gives red in the lowest byte and opacity multiplied in.
+    // libtiff returns red in the lowest byte, premultiplied.
     private static void Unpremultiply(PixelGrid pixels)
     {
         for (int y = 0; y < pixels.Height; y++)

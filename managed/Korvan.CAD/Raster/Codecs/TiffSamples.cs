@@ -9,11 +9,9 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>
-/// Makes pixels of the samples of a page, block by block: strips or tiles, planes beside or behind each other. It serves
-/// pages that libtiff's own conversion refuses, whose opacity it multiplies in, confuses with a colour or forgets, and grey
-/// of 16 bits, of which it mixes up the tiles at the right edge.
-/// </summary>
+/// <summary>Converts the samples of a page block by block: strips or tiles, chunky or planar. It serves pages that
+/// libtiff's own conversion rejects, pages whose alpha it premultiplies, mistakes for a colour or drops, and 16-bit
+/// grayscale, of which it garbles the tiles at the right edge.</summary>
 internal sealed unsafe class TiffSamples
 {
     private const int MaxSamples = 32;
@@ -21,7 +19,7 @@ internal sealed unsafe class TiffSamples
     private const uint Floats = 3;
     private const int MinBuffer = 1024;
 
-    // What the conversion here is for: a photometric interpretation, how many samples make its colour, and how wide they may be.
+    // The supported photometric interpretations, with the samples of their colour and the maximum bits of a sample.
     private static readonly (TiffPhotometrics Kind, int Colors, int MostBits)[] Kinds =
     [
         (TiffPhotometrics.MinIsWhite, 1, 32), (TiffPhotometrics.MinIsBlack, 1, 32), (TiffPhotometrics.Rgb, 3, 32),
@@ -52,7 +50,7 @@ internal sealed unsafe class TiffSamples
         _tiled = Tiff.IsTiled(tiff) != 0;
         _maxValue = (1L << Math.Clamp(_bits, 1, 32)) - 1;
 
-        // A sample whose meaning is not stated is taken for opacity, as most programs do, unless another states that it is that.
+        // An unspecified extra sample is taken as alpha, as most programs do, unless another is declared as alpha.
         ushort[] extra = Tiff.ExtraSamples(tiff);
         int at = Array.FindIndex(extra, static meaning => meaning != (int)TiffAlphaStorage.Unspecified);
         if (extra.Length > 0)
@@ -62,18 +60,19 @@ internal sealed unsafe class TiffSamples
         }
     }
 
-    /// <summary>Gets whether the page is to be read here.</summary>
+    /// <summary>Gets whether the page is read by this class.</summary>
     internal bool Fits => _colors > 0 && _samples >= _colors && _samples <= MaxSamples && _alphaSample < _samples
         && _bits is 1 or 2 or 4 or 8 or 16 or 32 && _bits <= _maxBits && Number(TiffTags.SampleFormat) != Floats
         && Number(TiffTags.Compression) != (uint)TiffCompressions.OldJpeg
         && (_kind != TiffPhotometrics.Separated || Number(TiffTags.InkSet) == InkSetCmyk)
         && (_alphaSample >= 0 || _bits == 32 || (_bits == 16 && _kind is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette)) || HasSmallTiles);
 
-    // libtiff's conversion takes the size of its buffer for that of a plain tile, and refuses those that are smaller.
+    // libtiff's conversion compares the size of its buffer with that of an uncompressed tile, and rejects smaller ones.
     private bool HasSmallTiles => _tiled && Number(TiffTags.Compression) == (uint)TiffCompressions.None
         && Tiff.TileRowSize(_tiff) * (long)Number(TiffTags.TileLength) < MinBuffer;
 
-    /// <summary>Gives whether all blocks could be read; what is missing stays empty, and the first one ends it if it shall.</summary>
+    /// <summary>Returns whether all blocks could be read. Missing blocks stay empty; unless reading is lenient, the
+    /// first one ends it.</summary>
     internal bool Read(PixelGrid pixels, bool lenient)
     {
         _palette = _kind == TiffPhotometrics.Palette ? Tiff.Palette(_tiff, 1 << _bits) : [];
@@ -130,7 +129,7 @@ internal sealed unsafe class TiffSamples
 
     private void Convert(Block block, PixelGrid pixels, int left, int top)
     {
-        Span<long> values = stackalloc long[5]; // of the colour, then opacity
+        Span<long> values = stackalloc long[5]; // of the colour, then alpha
         for (int y = 0; y < Math.Min(block.Height, pixels.Height - top); y++)
         {
             Span<int> to = pixels.Row(top + y)[left..];
@@ -154,7 +153,7 @@ internal sealed unsafe class TiffSamples
         return _bits switch
         {
             8 => row[at],
-            16 => MemoryMarshal.Read<ushort>(row[(at * 2)..]), // libtiff gives the byte order of the machine
+            16 => MemoryMarshal.Read<ushort>(row[(at * 2)..]), // libtiff returns the byte order of the machine
             32 => MemoryMarshal.Read<uint>(row[(at * 4)..]),
             _ => BitPacking.Value(row, at, _bits),
         };

@@ -73,7 +73,7 @@ internal sealed unsafe class TiffWriter
 
         if (_bits < 8 && _options.Photometric != TiffPhotometrics.Palette)
         {
-            Operations.ColorAdjustment.Grayscale(pixels); // black and white are told apart by lightness
+            Operations.ColorAdjustment.Grayscale(pixels); // the threshold applies to luma
         }
 
         int[]? palette = Palette(pixels);
@@ -275,14 +275,14 @@ internal sealed unsafe class TiffWriter
 
     private void Set(TiffTags tag, params ReadOnlySpan<long> values)
     {
-        _tiff.Verify(Tiff.Set(_tiff.Handle, (int)tag, values), $"The field {tag} could not be set");
+        _tiff.Verify(Tiff.Set(_tiff.Handle, (int)tag, values), $"Tag {tag} could not be set");
     }
 
     private void SetText(TiffTags tag, string text)
     {
         if (text.Length > 0)
         {
-            _tiff.Verify(Tiff.SetText(_tiff.Handle, (int)tag, text), $"The field {tag} could not be set");
+            _tiff.Verify(Tiff.SetText(_tiff.Handle, (int)tag, text), $"Tag {tag} could not be set");
         }
     }
 }

@@ -42,7 +42,7 @@ internal static unsafe class WebPCodec
             int width, height;
             if (WebP.GetInfo(data, (nuint)source.Data.Length, &width, &height) == 0)
             {
-                throw new ImageLoadException($"'{source.Name}' is no WebP with one picture that can be read.");
+                throw new ImageLoadException($"'{source.Name}' is no WebP with one image that can be read.");
             }
 
             if (IsAnimation(source.Data))
@@ -54,13 +54,13 @@ internal static unsafe class WebPCodec
             if (WebP.DecodeBgra(data, (nuint)source.Data.Length, pixels.Pointer, (nuint)(pixels.Count * 4), width * 4) == null)
             {
                 pixels.Dispose();
-                throw new ImageLoadException($"The picture of '{source.Name}' is damaged or cut off.");
+                throw new ImageLoadException($"The image of '{source.Name}' is damaged or cut off.");
             }
 
             return new DecodedFile { Format = FileFormat.Webp, Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = 32 }] };
         }
     }
 
-    // A flag of the extended head (RFC 9649, section 2.7).
+    // A flag of the extended header (RFC 9649, section 2.7).
     private static bool IsAnimation(ReadOnlySpan<byte> data) => data.Length > 20 && data[12..].StartsWith("VP8X"u8) && (data[20] & 2) != 0;
 }

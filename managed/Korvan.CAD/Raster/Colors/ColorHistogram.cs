@@ -4,7 +4,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>How often colours occur; past a limit of colours their last bits are left out.</summary>
+/// <summary>A histogram of colours; past a limit of colours their lowest bits are dropped.</summary>
 internal sealed class ColorHistogram
 {
     private const int MaxColors = 1 << 18;

@@ -3,7 +3,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>Maps pixels to the colours of a palette, with a pattern that keeps the mean of a place.</summary>
+/// <summary>Dithers pixels to the colours of a palette.</summary>
 internal static class Ditherer
 {
     // B. Bayer, "An optimum method for two-level rendition of continuous-tone pictures", 1973.
@@ -13,7 +13,7 @@ internal static class Ditherer
         3, 35, 11, 43, 1, 33, 9, 41, 51, 19, 59, 27, 49, 17, 57, 25, 15, 47, 7, 39, 13, 45, 5, 37, 63, 31, 55, 23, 61, 29, 53, 21,
     ];
 
-    // Offsets from the pixel, and how many parts of the error go there.
+    // Offsets from the pixel, and the share of the error that goes there.
     private static readonly (int X, int Y, int Parts)[] FloydSteinberg = [(1, 0, 7), (-1, 1, 3), (0, 1, 5), (1, 1, 1)];
 
     private static readonly (int X, int Y, int Parts)[] Atkinson =
@@ -25,7 +25,7 @@ internal static class Ditherer
         (-2, 2, 1), (-1, 2, 3), (0, 2, 5), (1, 2, 3), (2, 2, 1),
     ];
 
-    /// <summary>Takes the numbers of a row; rows come from the top down.</summary>
+    /// <summary>Receives the palette indices of a row; rows come from the top down.</summary>
     internal delegate void IndexRow(int y, ReadOnlySpan<byte> indices);
 
     internal static void Map(PixelGrid pixels, int[] palette, DitheringMethods methods, IndexRow consume)
@@ -55,7 +55,7 @@ internal static class Ditherer
         }
     }
 
-    /// <summary>Gives pixels the nearest colours of a palette in their place.</summary>
+    /// <summary>Replaces pixels by the colours of a palette.</summary>
     internal static void Apply(PixelGrid pixels, int[] palette, DitheringMethod method)
     {
         Map(pixels, palette, method, false, (y, indices) =>

@@ -4,7 +4,8 @@ using System.Linq;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>Merges colours in a tree by their leading bits, the rarest and deepest first.</summary>
+/// <summary>Octree quantization: merges colours in a tree by their leading bits, the rarest and deepest
+/// first.</summary>
 internal static class OctreeQuantizer
 {
     private const int Depth = 7;
@@ -66,7 +67,7 @@ internal static class OctreeQuantizer
         }
     }
 
-    // The first level has eight branches; fewer colours are reached by joining the rarest with its neighbour.
+    // The first level has eight branches; for fewer colours the rarest is merged with its nearest.
     private static void Join(List<Node> chosen, int maxColors)
     {
         while (chosen.Count > maxColors)
@@ -126,7 +127,7 @@ internal static class OctreeQuantizer
             Count += other.Count;
         }
 
-        /// <summary>Becomes a leaf; gives how many leaves were under it, which all are leaves by now.</summary>
+        /// <summary>Merges the children, which are leaves, into this node; returns how many there were.</summary>
         internal int Merge()
         {
             int under = 0;

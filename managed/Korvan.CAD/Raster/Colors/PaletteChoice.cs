@@ -4,7 +4,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>The palette that a picture is written with: the one given, or one made for it.</summary>
+/// <summary>Chooses the palette that an image is written with: the given one, or one made for it.</summary>
 internal static class PaletteChoice
 {
     internal static int[] For(PixelGrid pixels, IColorPalette? given, int maxColors, ColorQuantizationMethod method)
@@ -23,14 +23,14 @@ internal static class PaletteChoice
     {
         if (given.EntriesCount > maxColors)
         {
-            throw new ImageSaveException($"The palette has {given.EntriesCount} colours; pixels can number {maxColors} of them here.");
+            throw new ImageSaveException($"The palette has {given.EntriesCount} colours; at most {maxColors} are possible here.");
         }
 
         return given.Argb32Entries;
     }
 }
 
-/// <summary>The numbers of all pixels of a picture.</summary>
+/// <summary>The palette indices of all pixels of an image.</summary>
 internal static class IndexedPixels
 {
     internal static byte[] Of(PixelGrid pixels, int[] palette, DitheringMethods dithering)

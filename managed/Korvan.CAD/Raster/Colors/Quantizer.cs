@@ -6,7 +6,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>Chooses the colours of a palette for a picture.</summary>
+/// <summary>Color quantization: chooses the palette of an image.</summary>
 internal static class Quantizer
 {
     internal static int[] Choose(ColorHistogram colors, int maxColors, ColorQuantizationMethod method)
@@ -27,12 +27,12 @@ internal static class Quantizer
             ColorQuantizationMethod.Octree => OctreeQuantizer.Choose(visible, room),
             ColorQuantizationMethod.Uniform => Uniform(room),
             ColorQuantizationMethod.MedianCut => MedianCut(visible, room),
-            _ => throw Verify.OutOfRange(nameof(method), method, "There is no such way to choose colours."),
+            _ => throw Verify.OutOfRange(nameof(method), method, "There is no such quantization method."),
         };
         return transparent ? [0, .. chosen] : chosen;
     }
 
-    /// <summary>A lattice of as many levels as fit, green with the most.</summary>
+    /// <summary>Returns a lattice of as many levels as fit, most of them for green.</summary>
     internal static int[] Uniform(int maxColors)
     {
         int red = Math.Max(1, (int)Math.Cbrt(maxColors + 0.5));
@@ -68,7 +68,7 @@ internal static class Quantizer
         return [.. boxes.UnorderedItems.Select(static item => item.Element.Mean()).OrderBy(static color => (uint)color)];
     }
 
-    /// <summary>Some colours, with the channel in which they differ most.</summary>
+    /// <summary>A box of colours, with the channel of their largest range.</summary>
     private readonly struct ColorBox
     {
         private readonly ArraySegment<KeyValuePair<int, long>> _colors;

@@ -5,7 +5,7 @@ namespace Korvan.CAD.Raster.Native;
 /// <summary>The part of libwebp's simple interface that is called.</summary>
 internal static unsafe partial class WebP
 {
-    /// <summary>The largest side of a picture, 14 bits.</summary>
+    /// <summary>The maximum width and height, 14 bits.</summary>
     internal const int MaxSide = 16383;
 
     private const string Library = "libwebp.so.7";

@@ -3,17 +3,18 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Operations;
 
-/// <summary>Makes pictures black and white.</summary>
+/// <summary>Binarizes images.</summary>
 internal static class Binarization
 {
     private const int White = -1;
     private const int Black = PixelGrid.Opaque;
 
-    /// <summary>Pixels as light as the threshold, or lighter, become white.</summary>
+    /// <summary>Makes pixels of at least the threshold white, the others black.</summary>
     internal static void Fixed(PixelGrid pixels, int threshold) =>
         ColorAdjustment.Each(pixels, pixel => PixelGrid.Luma(PixelGrid.Over(pixel, White)) >= threshold ? White : Black);
 
-    /// <summary>The threshold that parts lightness into the two most distinct classes (N. Otsu, 1979).</summary>
+    /// <summary>Returns the threshold that separates the histogram into the two most distinct classes (N. Otsu,
+    /// 1979).</summary>
     internal static int OtsuThreshold(PixelGrid pixels)
     {
         Span<long> histogram = stackalloc long[256];
@@ -53,10 +54,9 @@ internal static class Binarization
         return best;
     }
 
-    /// <summary>
-    /// Compares each pixel with the mean of the square around it, less a share of that mean (D. Bradley and G. Roth,
-    /// "Adaptive thresholding using the integral image", 2007). Only as many rows of sums are kept as a square is high.
-    /// </summary>
+    /// <summary>Compares each pixel with the mean of the square around it, less a share of that mean (D. Bradley and G.
+    /// Roth, "Adaptive thresholding using the integral image", 2007). Only as many rows of sums are kept as a square is
+    /// high.</summary>
     internal static PixelGrid Adaptive(PixelGrid from, int window, double fraction)
     {
         int half = Math.Max(1, window / 2);

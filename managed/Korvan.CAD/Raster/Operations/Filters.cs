@@ -4,7 +4,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Operations;
 
-/// <summary>Changes pixels by what is around them.</summary>
+/// <summary>Applies a neighbourhood filter.</summary>
 internal static class Filters
 {
     internal static PixelGrid Apply(PixelGrid from, ImageFilterType type, int size) => type switch
@@ -25,7 +25,7 @@ internal static class Filters
         return weights;
     }
 
-    // The square holds two standard deviations to each side.
+    // The window covers two standard deviations to each side.
     private static double[] GaussianWeights(int size)
     {
         var weights = new double[size];
@@ -187,7 +187,7 @@ internal static class Filters
         return to;
     }
 
-    // Past the edges the outermost pixels go on.
+    // Edge pixels are repeated beyond the edges.
     private static int At(PixelGrid from, int x, int y) =>
         from.Row(Math.Clamp(y, 0, from.Height - 1))[Math.Clamp(x, 0, from.Width - 1)];
 
@@ -199,7 +199,7 @@ internal static class Filters
         sums[3] += (pixel >>> 24) * weight;
     }
 
-    // Colours were counted by their opacity, or what is invisible would show at edges.
+    // Colours were weighted by alpha; otherwise invisible pixels would show at edges.
     private static int Unpremultiply(Span<double> sums)
     {
         double alpha = sums[3] / 255;

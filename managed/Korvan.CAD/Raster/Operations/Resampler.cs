@@ -4,7 +4,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Operations;
 
-/// <summary>Brings pictures to another size, in two passes over kernels of weights.</summary>
+/// <summary>Resizes images by separable resampling kernels.</summary>
 internal static class Resampler
 {
     internal static PixelGrid Resize(PixelGrid from, int width, int height, ResizeType type, int background)
@@ -104,7 +104,7 @@ internal static class Resampler
         }
     }
 
-    // Colours count by their opacity, or what is invisible would show at edges.
+    // Colours are weighted by alpha; otherwise invisible pixels would show at edges.
     private static Vector4 Premultiply(int argb)
     {
         float alpha = argb >>> 24;

@@ -3,7 +3,8 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Raster.Operations;
 
-/// <summary>Which pixels of one line make each pixel of another, and by what weights. Weights of a pixel sum to 1.</summary>
+/// <summary>The weights by which pixels of a line contribute to each pixel of the resized line. The weights of a pixel
+/// sum to 1.</summary>
 internal sealed class ResizeKernel
 {
     private readonly int[] _first;
@@ -12,7 +13,7 @@ internal sealed class ResizeKernel
     internal ResizeKernel(int from, int to, ResizeType type)
     {
         (Func<double, double> shape, double support) = Shape(type, from, to);
-        double scale = Math.Max(1, (double)from / to); // smaller pictures need wider kernels
+        double scale = Math.Max(1, (double)from / to); // reduction needs wider kernels
         double reach = support * scale;
         Taps = Math.Min(from, (int)Math.Ceiling(reach * 2) + 1);
         _first = new int[to];
@@ -64,7 +65,7 @@ internal sealed class ResizeKernel
         ResizeType.Mitchell => (Cubic(1 / 3.0, 1 / 3.0), 2),
         ResizeType.Lanczos => (Lanczos, 3),
         ResizeType.Adaptive => Shape(AdaptiveType(from, to), from, to),
-        _ => throw Verify.OutOfRange(nameof(type), type, "There is no such way of resizing."),
+        _ => throw Verify.OutOfRange(nameof(type), type, "There is no such resampling filter."),
     };
 
     private static ResizeType AdaptiveType(int from, int to) =>

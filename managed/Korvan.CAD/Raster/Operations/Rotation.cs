@@ -4,17 +4,17 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Operations;
 
-/// <summary>Turns and mirrors pictures.</summary>
+/// <summary>Rotates and flips images.</summary>
 internal static class Rotation
 {
-    private const uint Half = 0x800080; // of both channels, so that sums are rounded
+    private const uint Half = 0x800080; // of both channels, for rounding
 
-    /// <summary>Quarter turns clockwise first, then the mirroring from left to right.</summary>
+    /// <summary>Rotates clockwise by multiples of 90 degrees, then flips horizontally.</summary>
     internal static PixelGrid RotateFlip(PixelGrid from, RotateFlipType type)
     {
         if ((uint)type > 7)
         {
-            throw Verify.OutOfRange(nameof(type), type, "There is no such turn.");
+            throw Verify.OutOfRange(nameof(type), type, "There is no such rotation.");
         }
 
         int quarterTurns = (int)type & 3;
@@ -50,7 +50,8 @@ internal static class Rotation
         }
     }
 
-    /// <summary>Turns clockwise by any angle in degrees, into a picture as large as the turned one or as before.</summary>
+    /// <summary>Rotates clockwise by any angle in degrees; the result grows to hold all pixels or keeps its
+    /// size.</summary>
     internal static PixelGrid Rotate(PixelGrid from, double degrees, bool resize, int background)
     {
         (double sin, double cos) = Math.SinCos(degrees * Math.PI / 180);
@@ -85,7 +86,7 @@ internal static class Rotation
             return background;
         }
 
-        // Rounded, or angles whose sine is only nearly 0 would mix in a neighbour.
+        // Rounded; otherwise angles whose sine is nearly 0 would blend in a neighbour.
         int across = (int)Math.Round((x - left) * 256);
         int down = (int)Math.Round((y - top) * 256);
         int a = At(from, left, top, background);
@@ -100,7 +101,7 @@ internal static class Rotation
     private static int At(PixelGrid from, int x, int y, int background) =>
         (uint)x < (uint)from.Width && (uint)y < (uint)from.Height ? from.Row(y)[x] : background;
 
-    // Colours count by their opacity, or what is invisible would show at edges.
+    // Colours are weighted by alpha; otherwise invisible pixels would show at edges.
     private static int MixByAlpha(ReadOnlySpan<int> pixels, ReadOnlySpan<int> shares)
     {
         Span<double> sums = stackalloc double[4];
@@ -123,7 +124,7 @@ internal static class Rotation
         return result;
     }
 
-    // Two channels at a time: their sums do not touch.
+    // Two channels at a time; their sums do not overlap.
     private static int Mix(int one, int other, int share)
     {
         uint low = (((uint)one & 0xFF00FF) * (uint)(256 - share)) + (((uint)other & 0xFF00FF) * (uint)share) + Half;

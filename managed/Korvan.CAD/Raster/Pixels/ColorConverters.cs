@@ -7,7 +7,7 @@ using Korvan.CAD.Raster.Codecs;
 
 namespace Korvan.CAD.Raster.Pixels;
 
-/// <summary>Turns rows of bytes into colours, and back: one pair of functions for each form.</summary>
+/// <summary>Converts rows of bytes to colours, and back: one pair of functions for each format.</summary>
 internal class ColorConverters : IColorConverter
 {
     private readonly Unpacking _unpack;
@@ -79,13 +79,13 @@ internal class ColorConverters : IColorConverter
     {
         if (palette == null)
         {
-            throw new FrameworkException($"Pixels of {format} are numbers of colours; give the palette.");
+            throw new FrameworkException($"Pixels of {format} are palette indices; a palette is needed.");
         }
 
         if (palette.EntriesCount > 1 << format.BitsPerPixel)
         {
             throw new FrameworkException(
-                $"The palette has {palette.EntriesCount} colours; {format} numbers {1 << format.BitsPerPixel}.");
+                $"The palette has {palette.EntriesCount} colours; {format} has room for {1 << format.BitsPerPixel}.");
         }
 
         return new IndexedConverter(format, palette);
@@ -209,7 +209,7 @@ internal class ColorConverters : IColorConverter
         }
     }
 
-    /// <summary>The same for forms with a palette.</summary>
+    /// <summary>A converter of indexed pixels.</summary>
     private sealed class IndexedConverter(PixelDataFormat format, IColorPalette palette)
         : ColorConverters(
             format,

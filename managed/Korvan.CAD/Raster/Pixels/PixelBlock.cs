@@ -6,7 +6,7 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD.Raster.Pixels;
 
-/// <summary>A zeroed place for pixels, in memory or in a file, as <see cref="Cache"/> decides.</summary>
+/// <summary>A zeroed buffer of pixels, in memory or in a mapped file, as <see cref="Cache"/> decides.</summary>
 internal sealed unsafe class PixelBlock : IDisposable
 {
     private readonly long _bytes;
@@ -46,7 +46,7 @@ internal sealed unsafe class PixelBlock : IDisposable
 
     private int* Map()
     {
-        // Opened and at once without a name: nothing is left behind, however the process ends.
+        // Unlinked at once, so that no file remains, however the process ends.
         string path = Path.Combine(Cache.CacheFolder, $"korvan-{Guid.NewGuid():N}.pixels");
         var stream = new FileStream(path, FileMode.CreateNew, FileAccess.ReadWrite, FileShare.None, 1, FileOptions.DeleteOnClose);
         File.Delete(path);

@@ -3,7 +3,7 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD.Raster.Pixels;
 
-/// <summary>Blocks of pixels as bytes.</summary>
+/// <summary>Packs and unpacks blocks of pixels in a pixel format.</summary>
 internal static class RawData
 {
     internal static byte[] Pack(PixelGrid pixels, Rectangle area, RawDataSettings settings)

@@ -5,7 +5,8 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Vectorizing;
 
-/// <summary>Which pixels of a picture are dark, with a frame of light ones, so that every pixel has neighbours.</summary>
+/// <summary>The foreground (dark) pixels of an image, with a border of background, so that every pixel has
+/// neighbours.</summary>
 internal sealed class ForegroundMask
 {
     private const long MaxPixels = 200_000_000;
@@ -25,10 +26,10 @@ internal sealed class ForegroundMask
 
     internal int Height { get; }
 
-    /// <summary>Cells from one line to the next.</summary>
+    /// <summary>Gets the cells from one row to the next.</summary>
     internal int Stride { get; }
 
-    /// <summary>1 for dark pixels; line by line, the frame included.</summary>
+    /// <summary>Gets 1 for foreground pixels, row by row, including the border.</summary>
     internal Span<byte> Cells => _cells;
 
     internal static ForegroundMask FromPixels(PixelGrid pixels, int threshold)
@@ -36,7 +37,7 @@ internal sealed class ForegroundMask
         if ((long)(pixels.Width + 2) * (pixels.Height + 2) > MaxPixels)
         {
             throw new LimitMemoryException(
-                $"A picture of {pixels.Width} × {pixels.Height} pixels is too large to be traced; at most {MaxPixels} pixels are.");
+                $"An image of {pixels.Width} × {pixels.Height} pixels is too large to be traced; at most {MaxPixels} pixels are.");
         }
 
         int level = threshold < 0 ? Binarization.OtsuThreshold(pixels) : threshold;

@@ -4,7 +4,7 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Raster.Vectorizing;
 
-/// <summary>Leaves out points that a line comes near to without them (Ramer, 1972; Douglas and Peucker, 1973).</summary>
+/// <summary>Polyline simplification (U. Ramer, 1972; D. Douglas and T. Peucker, 1973).</summary>
 internal static class Simplifier
 {
     internal static List<Vec2> Open(List<Vec2> points, double tolerance)
@@ -20,7 +20,8 @@ internal static class Simplifier
         return points.FindAll(new Picker(kept).Next);
     }
 
-    /// <summary>A ring without its first point at the end; it is cut where it is farthest from its first point.</summary>
+    /// <summary>Simplifies a closed polyline, which does not repeat its first point; it is split at the point farthest
+    /// from the first.</summary>
     internal static List<Vec2> Ring(List<Vec2> points, double tolerance)
     {
         if (points.Count < 4)

@@ -4,13 +4,11 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Raster.Vectorizing;
 
-/// <summary>A stroke: points in the middle of pixels, y down, and its mean width in pixels.</summary>
+/// <summary>A stroke: points at pixel centres, y down, and its mean width in pixels.</summary>
 internal sealed record TracedStroke(List<Vec2> Points, double Width, bool IsClosed);
 
-/// <summary>
-/// Thins strokes to lines of one pixel (T. Y. Zhang and C. Y. Suen, A fast parallel algorithm for thinning digital
-/// patterns, 1984) and follows these from end to end and from junction to junction.
-/// </summary>
+/// <summary>Thins strokes to lines of one pixel (T. Y. Zhang and C. Y. Suen, "A fast parallel algorithm for thinning
+/// digital patterns", 1984) and follows them between ends and junctions.</summary>
 internal sealed class Skeleton
 {
     private const int MaxRounds = 200;
@@ -28,8 +26,7 @@ internal sealed class Skeleton
         _depth = Depths(mask);
     }
 
-    /// <summary>The strokes; spurs with a free end that are shorter than what is asked for are left out. The mask is
-    /// used up.</summary>
+    /// <summary>Returns the strokes without spurs below a length. The mask is consumed.</summary>
     internal static List<TracedStroke> Trace(ForegroundMask mask, double minSpur)
     {
         var skeleton = new Skeleton(mask);
@@ -37,7 +34,7 @@ internal sealed class Skeleton
         return skeleton.Follow(minSpur);
     }
 
-    /// <summary>How many steps each dark pixel lies from the next light one (chessboard distance, two passes).</summary>
+    /// <summary>Returns the chessboard distance of each foreground pixel from the background, in two passes.</summary>
     private static ushort[] Depths(ForegroundMask mask)
     {
         ReadOnlySpan<byte> cells = mask.Cells;
@@ -100,7 +97,7 @@ internal sealed class Skeleton
         }
     }
 
-    /// <summary>The conditions of the method: neighbours p2 to p9 run clockwise from above.</summary>
+    /// <summary>Returns whether a pixel can be removed; neighbours p2 to p9 run clockwise from above.</summary>
     private bool IsRemovable(ReadOnlySpan<byte> cells, int cell, int phase)
     {
         int count = 0;
@@ -131,7 +128,7 @@ internal sealed class Skeleton
         {
             for (int i = 0; i < cells.Length; i++)
             {
-                // Ends and junctions first; what is left then are rings.
+                // Ends and junctions first; closed loops remain.
                 while (cells[i] == 1 && (pass == 1 || Neighbours(i) != 2) && Walk(i) is { } line)
                 {
                     bool free = !line.IsClosed && (line.StartsFree || line.EndsFree);
@@ -157,7 +154,7 @@ internal sealed class Skeleton
         return count;
     }
 
-    /// <summary>A diagonal beside a straight neighbour of both ends says nothing new.</summary>
+    /// <summary>Returns whether a diagonal step is redundant: a straight neighbour joins both ends.</summary>
     private bool IsShortcut(int cell, int step)
     {
         int s = _mask.Stride;
@@ -174,7 +171,7 @@ internal sealed class Skeleton
 
     private sealed record TracedPath(List<int> Cells, bool IsClosed, bool StartsFree, bool EndsFree);
 
-    /// <summary>Follows one way that was not walked yet; null when there is none from here.</summary>
+    /// <summary>Follows one path that is not yet traced; null where there is none.</summary>
     private TracedPath? Walk(int start)
     {
         List<int> line = [start];

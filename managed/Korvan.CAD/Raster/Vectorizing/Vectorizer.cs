@@ -11,14 +11,14 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Vectorizing;
 
-/// <summary>Makes a drawing of a picture.</summary>
+/// <summary>Converts an image to a drawing.</summary>
 internal sealed class Vectorizer
 {
     private const double MillimetresPerInch = 25.4;
     private const double DefaultResolution = 96;
     private const int Millimetres = 4;
 
-    /// <summary>The line weights that drawings can have, in hundredths of a millimetre.</summary>
+    /// <summary>The standard line weights of drawings, in hundredths of a millimetre.</summary>
     private static readonly short[] Weights =
         [0, 5, 9, 13, 15, 18, 20, 25, 30, 35, 40, 50, 53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211];
 
@@ -38,8 +38,8 @@ internal sealed class Vectorizer
 
     /// <summary>Traces pixels.</summary>
     /// <param name="pixels">The pixels.</param>
-    /// <param name="resolution">Pixels an inch, where the options state none.</param>
-    /// <param name="options">What is traced, and how.</param>
+    /// <param name="resolution">Pixels per inch, used where the options state none.</param>
+    /// <param name="options">The methods and tolerances.</param>
     internal static CadDrawing Trace(PixelGrid pixels, double resolution, VectorizationOptions options)
     {
         var tracer = new Vectorizer(pixels, resolution, options);

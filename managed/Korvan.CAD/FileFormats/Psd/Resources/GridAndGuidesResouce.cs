@@ -7,8 +7,8 @@ using Korvan.CAD.CadExceptions.ImageFormats;
 
 namespace Korvan.CAD.FileFormats.Psd.Resources;
 
-/// <summary>The block of grid and guide lines, number 1032. Places are in pixels from the upper left corner, in steps of
-/// 1/32.</summary>
+/// <summary>The resource of grid and guides, number 1032. Positions are in pixels from the upper left corner, in steps
+/// of 1/32.</summary>
 public class GridAndGuidesResouce : ResourceBlock
 {
     internal const int Number = 1032;
@@ -28,7 +28,7 @@ public class GridAndGuidesResouce : ResourceBlock
     {
     }
 
-    /// <summary>Gets or sets the distance of grid lines along X, in 1/32 of a pixel.</summary>
+    /// <summary>Gets or sets the horizontal grid spacing in 1/32 pixel. 576 by default.</summary>
     public int GridCycleX
     {
         get => _gridCycleX;
@@ -39,7 +39,7 @@ public class GridAndGuidesResouce : ResourceBlock
         }
     }
 
-    /// <summary>Gets or sets the distance of grid lines along Y, in 1/32 of a pixel.</summary>
+    /// <summary>Gets or sets the vertical grid spacing in 1/32 pixel. 576 by default.</summary>
     public int GridCycleY
     {
         get => _gridCycleY;
@@ -50,21 +50,21 @@ public class GridAndGuidesResouce : ResourceBlock
         }
     }
 
-    /// <summary>Gets or sets the columns of upright guides.</summary>
+    /// <summary>Gets or sets the positions of vertical guides along X, in pixels.</summary>
     public double[] VerticalGuides
     {
         get => (double[])_vertical.Clone();
         set => _vertical = Verified(value);
     }
 
-    /// <summary>Gets or sets the rows of level guides.</summary>
+    /// <summary>Gets or sets the positions of horizontal guides along Y, in pixels.</summary>
     public double[] HorizontalGuides
     {
         get => (double[])_horizontal.Clone();
         set => _horizontal = Verified(value);
     }
 
-    /// <summary>Gets how many guides there are.</summary>
+    /// <summary>Gets the number of guides.</summary>
     public int GuidesCount => _vertical.Length + _horizontal.Length;
 
     /// <inheritdoc/>

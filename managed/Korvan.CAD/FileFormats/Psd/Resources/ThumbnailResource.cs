@@ -8,7 +8,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.FileFormats.Psd.Resources;
 
-/// <summary>The block of a small picture, number 1036.</summary>
+/// <summary>The resource of a thumbnail, number 1036.</summary>
 public class ThumbnailResource : ResourceBlock
 {
     internal const int Number = 1036;
@@ -18,16 +18,16 @@ public class ThumbnailResource : ResourceBlock
     private byte[] _jpegData = [];
 
     /// <summary>Creates a block.</summary>
-    /// <param name="jpegData">The small picture, a JPEG file.</param>
-    /// <exception cref="JpegException">The bytes are no JPEG.</exception>
+    /// <param name="jpegData">The thumbnail as a JPEG file.</param>
+    /// <exception cref="JpegException">The bytes are not a JPEG file.</exception>
     public ThumbnailResource(byte[] jpegData)
         : this(Number, jpegData)
     {
     }
 
     /// <summary>Creates a block.</summary>
-    /// <param name="image">The picture that is made small.</param>
-    /// <param name="largestSide">The longer side of the small picture in pixels, 1 to 1024.</param>
+    /// <param name="image">The image to scale down.</param>
+    /// <param name="largestSide">The longer side of the thumbnail in pixels, 1 to 1024.</param>
     public ThumbnailResource(RasterImage image, int largestSide)
         : this(Number, Thumbnail(image, largestSide))
     {
@@ -39,21 +39,21 @@ public class ThumbnailResource : ResourceBlock
         JpegData = jpegData;
     }
 
-    /// <summary>Gets the width of the small picture in pixels.</summary>
+    /// <summary>Gets the width of the thumbnail in pixels.</summary>
     public int Width { get; private set; }
 
-    /// <summary>Gets the height of the small picture in pixels.</summary>
+    /// <summary>Gets the height of the thumbnail in pixels.</summary>
     public int Height { get; private set; }
 
-    /// <summary>Gets or sets the small picture, a JPEG file.</summary>
-    /// <exception cref="JpegException">The bytes are no JPEG.</exception>
+    /// <summary>Gets or sets the thumbnail as a JPEG file.</summary>
+    /// <exception cref="JpegException">The bytes are not a JPEG file.</exception>
     public byte[] JpegData
     {
         get => (byte[])_jpegData.Clone();
         set
         {
             Verify.NotNull(value);
-            using PixelGrid pixels = JpegCodec.Decompress(new RasterSource(value, "the small picture", false), value, true, out _);
+            using PixelGrid pixels = JpegCodec.Decompress(new RasterSource(value, "the thumbnail", false), value, true, out _);
             (Width, Height) = (pixels.Width, pixels.Height);
             _jpegData = (byte[])value.Clone();
             Change();
@@ -81,7 +81,7 @@ public class ThumbnailResource : ResourceBlock
     {
         if (data.Length < HeaderBytes || BinaryPrimitives.ReadInt32BigEndian(data) != 1)
         {
-            throw new PsdImageResourceException($"Resource {id} has {data.Length} bytes and holds no small picture as JPEG.");
+            throw new PsdImageResourceException($"Resource {id} has {data.Length} bytes and holds no JPEG thumbnail.");
         }
 
         return data[HeaderBytes..].ToArray();
