@@ -97,7 +97,8 @@ public static class Cache
             {
                 string place = onDisk ? $"on disk would pass Cache.{nameof(MaxDiskSpaceForCache)}"
                     : $"in memory would pass Cache.{nameof(MaxMemoryForCache)}";
-                throw new LimitMemoryException($"{bytes} bytes for pixels {place} ({(onDisk ? _diskLimit : _memoryLimit)} bytes,"
+                throw new LimitMemoryException(
+                    $"{bytes} bytes for pixels {place} ({(onDisk ? _diskLimit : _memoryLimit)} bytes,"
                     + $" {(onDisk ? _diskUsed : _memoryUsed)} of them taken); dispose images or raise the limit.");
             }
 

@@ -25,7 +25,8 @@ public readonly struct CmykColor : IEquatable<CmykColor>
         K = Verified(black, nameof(black));
     }
 
-    private CmykColor(byte cyan, byte magenta, byte yellow, byte black) => (C, M, Y, K) = (cyan, magenta, yellow, black);
+    private CmykColor(byte cyan, byte magenta, byte yellow, byte black) =>
+        (C, M, Y, K) = (cyan, magenta, yellow, black);
 
     /// <summary>Gets the cyan ink, 0 to 255.</summary>
     public byte C { get; }
@@ -93,7 +94,8 @@ public readonly struct CmykColor : IEquatable<CmykColor>
     /// <summary>Returns the inks as four bytes, cyan in the lowest.</summary>
     internal int ToStored() => C | (M << 8) | (Y << 16) | (K << 24);
 
-    internal static CmykColor FromStored(int inks) => new((byte)inks, (byte)(inks >> 8), (byte)(inks >> 16), (byte)(inks >> 24));
+    internal static CmykColor FromStored(int inks) =>
+        new((byte)inks, (byte)(inks >> 8), (byte)(inks >> 16), (byte)(inks >> 24));
 
     private static byte Verified(int value, string name)
     {

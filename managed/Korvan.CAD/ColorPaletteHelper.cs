@@ -21,7 +21,8 @@ public static class ColorPaletteHelper
 
     /// <summary>Returns a palette of the 16 basic colours of HTML 4.01.</summary>
     /// <returns>The palette.</returns>
-    public static IColorPalette Create4Bit() => new ColorPalette(Array.ConvertAll(BaseColors, static rgb => rgb | PixelGrid.Opaque));
+    public static IColorPalette Create4Bit() =>
+        new ColorPalette(Array.ConvertAll(BaseColors, static rgb => rgb | PixelGrid.Opaque));
 
     /// <summary>Returns a uniform palette of 252 colours: 6 levels of red, 7 of green, 6 of blue.</summary>
     /// <returns>The palette.</returns>
@@ -39,7 +40,8 @@ public static class ColorPaletteHelper
     /// <param name="entriesCount">The maximum number of colours, 2 to 256; the palette has as many as a regular lattice
     /// fits.</param>
     /// <returns>The palette.</returns>
-    public static IColorPalette GetUniformColorPalette(int entriesCount) => new ColorPalette(Quantizer.Uniform(Verified(entriesCount)));
+    public static IColorPalette GetUniformColorPalette(int entriesCount) =>
+        new ColorPalette(Quantizer.Uniform(Verified(entriesCount)));
 
     /// <summary>Returns a palette for an image, chosen by median cut.</summary>
     /// <param name="image">The image.</param>
@@ -53,7 +55,8 @@ public static class ColorPaletteHelper
     /// <param name="entriesCount">The maximum number of colours, 2 to 256. An image with no more colours gets exactly
     /// its own.</param>
     /// <param name="method">How the colours are chosen.</param>
-    public static IColorPalette GetCloseImagePalette(RasterImage image, int entriesCount, ColorQuantizationMethod method)
+    public static IColorPalette GetCloseImagePalette(
+        RasterImage image, int entriesCount, ColorQuantizationMethod method)
     {
         Verify.NotNull(image);
         return new ColorPalette(PaletteChoice.For(image.Pixels, null, Verified(entriesCount), method));

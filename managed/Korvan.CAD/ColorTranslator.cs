@@ -27,10 +27,12 @@ public static class ColorTranslator
             digits = string.Concat(Array.ConvertAll(digits.ToCharArray(), static c => new string(c, 2)));
         }
 
-        bool isNumber = uint.TryParse(digits, NumberStyles.AllowHexSpecifier, CultureInfo.InvariantCulture, out uint value);
+        bool isNumber =
+            uint.TryParse(digits, NumberStyles.AllowHexSpecifier, CultureInfo.InvariantCulture, out uint value);
         if (digits.Length is not (6 or 8) || !isNumber)
         {
-            throw new FrameworkException($"'{htmlColor}' is no colour; a number sign and 3, 4, 6 or 8 hexadecimal digits make one.");
+            throw new FrameworkException(
+                $"'{htmlColor}' is no colour; a number sign and 3, 4, 6 or 8 hexadecimal digits make one.");
         }
 
         return digits.Length == 6 ? new Color(0xFF000000 | value) : new Color((value << 24) | (value >> 8));

@@ -46,10 +46,12 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
             throw new DataMissmatchError($"{rect} has no area, so that no map takes it to a parallelogram.");
         }
 
-        var toUnit = new Affine2(1.0 / rect.Width, 0, 0, 1.0 / rect.Height, -rect.X / rect.Width, -rect.Y / rect.Height);
+        var toUnit =
+            new Affine2(1.0 / rect.Width, 0, 0, 1.0 / rect.Height, -rect.X / rect.Width, -rect.Y / rect.Height);
         PointF origin = points[0];
         _map = new Affine2(
-            points[1].X - origin.X, points[1].Y - origin.Y, points[2].X - origin.X, points[2].Y - origin.Y, origin.X, origin.Y)
+            points[1].X - origin.X, points[1].Y - origin.Y, points[2].X - origin.X, points[2].Y - origin.Y, origin.X,
+            origin.Y)
             * toUnit;
     }
 
@@ -128,7 +130,8 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
     /// <param name="scaleX">The factor along X.</param>
     /// <param name="scaleY">The factor along Y.</param>
     /// <param name="order">Whether it is applied before or after this transformation.</param>
-    public void Scale(float scaleX, float scaleY, MatrixOrder order) => Add(new Affine2(scaleX, 0, 0, scaleY, 0, 0), order);
+    public void Scale(float scaleX, float scaleY, MatrixOrder order) =>
+        Add(new Affine2(scaleX, 0, 0, scaleY, 0, 0), order);
 
     /// <summary>Adds a scaling about the origin, applied before this transformation.</summary>
     /// <param name="scaleX">The factor along X.</param>
@@ -139,7 +142,8 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
     /// <param name="offsetX">How far along X.</param>
     /// <param name="offsetY">How far along Y.</param>
     /// <param name="order">Whether it is applied before or after this transformation.</param>
-    public void Translate(float offsetX, float offsetY, MatrixOrder order) => Add(new Affine2(1, 0, 0, 1, offsetX, offsetY), order);
+    public void Translate(float offsetX, float offsetY, MatrixOrder order) =>
+        Add(new Affine2(1, 0, 0, 1, offsetX, offsetY), order);
 
     /// <summary>Adds a translation, applied before this transformation.</summary>
     /// <param name="offsetX">How far along X.</param>
@@ -180,7 +184,8 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
     /// <param name="shearX">How far X moves for each unit of Y.</param>
     /// <param name="shearY">How far Y moves for each unit of X.</param>
     /// <param name="order">Whether it is applied before or after this transformation.</param>
-    public void Shear(float shearX, float shearY, MatrixOrder order) => Add(new Affine2(1, shearY, shearX, 1, 0, 0), order);
+    public void Shear(float shearX, float shearY, MatrixOrder order) =>
+        Add(new Affine2(1, shearY, shearX, 1, 0, 0), order);
 
     /// <summary>Adds a shear, applied before this transformation.</summary>
     /// <param name="shearX">How far X moves for each unit of Y.</param>

@@ -75,7 +75,8 @@ public sealed class PixelDataFormat : IEquatable<PixelDataFormat>
     public int[] ChannelBits => (int[])_channelBits.Clone();
 
     /// <summary>Compares two formats.</summary>
-    public static bool operator ==(PixelDataFormat? left, PixelDataFormat? right) => left?.Equals(right) ?? right is null;
+    public static bool operator ==(PixelDataFormat? left, PixelDataFormat? right) =>
+        left?.Equals(right) ?? right is null;
 
     /// <summary>Compares two formats.</summary>
     public static bool operator !=(PixelDataFormat? left, PixelDataFormat? right) => !(left == right);
@@ -91,7 +92,8 @@ public sealed class PixelDataFormat : IEquatable<PixelDataFormat>
     /// <param name="other">The other format.</param>
     /// <returns>Whether it is the same.</returns>
     public bool Equals(PixelDataFormat? other) =>
-        other is not null && PixelFormat == other.PixelFormat && _channelBits.AsSpan().SequenceEqual(other._channelBits);
+        other is not null && PixelFormat == other.PixelFormat
+            && _channelBits.AsSpan().SequenceEqual(other._channelBits);
 
     /// <inheritdoc/>
     public override bool Equals(object? obj) => Equals(obj as PixelDataFormat);
@@ -102,5 +104,6 @@ public sealed class PixelDataFormat : IEquatable<PixelDataFormat>
     /// <inheritdoc/>
     public override string ToString() => $"{PixelFormat}, {string.Join('-', _channelBits)} bits";
 
-    internal int RowBytes(int width) => checked((int)((((long)width * (BitsPerPixel == 15 ? 16 : BitsPerPixel)) + 7) / 8));
+    internal int RowBytes(int width) =>
+        checked((int)((((long)width * (BitsPerPixel == 15 ? 16 : BitsPerPixel)) + 7) / 8));
 }

@@ -7,7 +7,8 @@ using Korvan.CAD.Raster.Pixels;
 namespace Korvan.CAD;
 
 /// <summary>A raster image whose pixels are all loaded, in storage of the <see cref="Cache"/>.</summary>
-public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader, IPartialPixelLoader, IPartialRawDataLoader
+public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader, IPartialPixelLoader,
+    IPartialRawDataLoader
 {
     private readonly DecodedFile _file;
     private readonly int _index;

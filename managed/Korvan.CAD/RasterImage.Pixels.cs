@@ -130,7 +130,8 @@ public abstract partial class RasterImage
     /// <param name="rectangle">The block.</param>
     /// <param name="settings">The format of the bytes.</param>
     /// <param name="partialRawDataLoader">The receiver of the bands, for example another image.</param>
-    public void LoadPartialRawData(Rectangle rectangle, RawDataSettings settings, IPartialRawDataLoader partialRawDataLoader)
+    public void LoadPartialRawData(
+        Rectangle rectangle, RawDataSettings settings, IPartialRawDataLoader partialRawDataLoader)
     {
         Verify.NotNull(partialRawDataLoader);
         InBands(rectangle, band => partialRawDataLoader.ProcessRawData(band, LoadRawData(band, settings), settings));

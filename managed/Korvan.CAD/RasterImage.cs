@@ -92,7 +92,8 @@ public abstract partial class RasterImage
     private sealed class Frames(RasterImage image, ImageOptionsBase options, bool all) : IRasterPages
     {
         public IReadOnlyList<string> Titles { get; } =
-            [.. Enumerable.Range(0, all ? image.PageCount : 1).Select(i => all ? image.GetPage(i).PageTitle : image.PageTitle)];
+            [.. Enumerable.Range(0, all ? image.PageCount : 1)
+                .Select(i => all ? image.GetPage(i).PageTitle : image.PageTitle)];
 
         public RasterPageData Render(int index)
         {

@@ -53,7 +53,8 @@ public class XmpPacketWrapper
 
     /// <summary>Gets the names of the properties, each as <c>{namespace}name</c>, in the order of the packet.</summary>
     public string[] PropertyNames =>
-        [.. Descriptions.SelectMany(static d => Attributes(d).Select(static a => a.Name).Concat(d.Elements().Select(static e => e.Name)))
+        [.. Descriptions.SelectMany(
+            static d => Attributes(d).Select(static a => a.Name).Concat(d.Elements().Select(static e => e.Name)))
             .Select(static name => name.ToString()).Distinct()];
 
     private IEnumerable<XElement> Descriptions => _root.Elements(Rdf + "Description");
@@ -106,7 +107,8 @@ public class XmpPacketWrapper
     public void SetValues(string namespaceUri, string name, string[] values)
     {
         Verify.NotNull(values);
-        Put(namespaceUri, name, new XElement(Rdf + "Seq", values.Select(static value => new XElement(Rdf + "li", Verified(value)))));
+        Put(namespaceUri, name,
+            new XElement(Rdf + "Seq", values.Select(static value => new XElement(Rdf + "li", Verified(value)))));
     }
 
     /// <summary>Sets a property to a text in the default language, as for titles and descriptions.</summary>
@@ -127,7 +129,8 @@ public class XmpPacketWrapper
     public bool Remove(string namespaceUri, string name)
     {
         XName full = Name(namespaceUri, name);
-        XObject[] found = [.. Descriptions.SelectMany(d => d.Attributes(full).Cast<XObject>().Concat(d.Elements(full)))];
+        XObject[] found =
+            [.. Descriptions.SelectMany(d => d.Attributes(full).Cast<XObject>().Concat(d.Elements(full)))];
         foreach (XObject property in found)
         {
             (property as XAttribute)?.Remove();
@@ -186,7 +189,8 @@ public class XmpPacketWrapper
     }
 
     private static IEnumerable<XAttribute> Attributes(XElement description) =>
-        description.Attributes().Where(static a => !a.IsNamespaceDeclaration && a.Name.Namespace != Rdf && a.Name.Namespace != Xml);
+        description.Attributes()
+            .Where(static a => !a.IsNamespaceDeclaration && a.Name.Namespace != Rdf && a.Name.Namespace != Xml);
 
     private void Put(string namespaceUri, string name, object content)
     {
@@ -197,7 +201,8 @@ public class XmpPacketWrapper
         {
             string prefix = Prefixes.GetValueOrDefault(namespaceUri) ?? $"ns{Descriptions.Count() + 1}";
             description = new XElement(
-                Rdf + "Description", new XAttribute(Rdf + "about", ""), new XAttribute(XNamespace.Xmlns + prefix, namespaceUri));
+                Rdf + "Description", new XAttribute(Rdf + "about", ""),
+                    new XAttribute(XNamespace.Xmlns + prefix, namespaceUri));
             _root.Add(description);
         }
 

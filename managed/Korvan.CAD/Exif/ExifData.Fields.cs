@@ -88,7 +88,8 @@ public partial class ExifData
     /// <summary>Gets or sets the position of chroma samples relative to luma samples.</summary>
     public ExifYCbCrPositioning YCbCrPositioning
     {
-        get => (ExifYCbCrPositioning)CommonTags.GetNumber(ExifProperties.YCbCrPositioning, (int)ExifYCbCrPositioning.Centered);
+        get => (ExifYCbCrPositioning)CommonTags.GetNumber(
+            ExifProperties.YCbCrPositioning, (int)ExifYCbCrPositioning.Centered);
         set => CommonTags.SetNumber(ExifProperties.YCbCrPositioning, (int)value);
     }
 

@@ -91,7 +91,8 @@ public partial class ExifData
     }
 
     /// <summary>Gets the tags of all directories: main, Exif, GPS.</summary>
-    public TiffDataType[] Properties => [.. CommonTags.Directory.Tags, .. ExifTags.Directory.Tags, .. GpsTags.Directory.Tags];
+    public TiffDataType[] Properties =>
+        [.. CommonTags.Directory.Tags, .. ExifTags.Directory.Tags, .. GpsTags.Directory.Tags];
 
     /// <summary>Removes all tags.</summary>
     public virtual void Clear()
@@ -145,8 +146,10 @@ public partial class ExifData
             throw new TiffImageException($"A block of {data.Length} bytes does not begin with a byte-order mark.");
         }
 
-        var reader = new TiffStreamReader(data, data[0] == (byte)'I' ? TiffByteOrder.LittleEndian : TiffByteOrder.BigEndian);
-        return reader.ReadUShort(2) == Magic ? reader : throw new TiffImageException("The number 42 does not follow the byte-order mark.");
+        var reader =
+            new TiffStreamReader(data, data[0] == (byte)'I' ? TiffByteOrder.LittleEndian : TiffByteOrder.BigEndian);
+        return reader.ReadUShort(2) == Magic
+            ? reader : throw new TiffImageException("The number 42 does not follow the byte-order mark.");
     }
 
     private static void WriteDirectory(TiffStreamWriter writer, TiffExifIfd directory, long place)
@@ -195,7 +198,8 @@ public partial class ExifData
         return GpsTags.GetText(reference) == negative ? -degrees : degrees;
     }
 
-    private void SetAngle(ExifProperties angle, ExifProperties reference, double value, double max, string positive, string negative)
+    private void SetAngle(
+        ExifProperties angle, ExifProperties reference, double value, double max, string positive, string negative)
     {
         if (double.IsNaN(value))
         {

@@ -83,7 +83,8 @@ public class TiffDataTypeController
         {
             TiffDataTypes.Long => new TiffLongType((int)property, [value]),
             TiffDataTypes.Byte when value is >= 0 and <= 255 => new TiffByteType((int)property, [(byte)value]),
-            TiffDataTypes.Undefined when value is >= 0 and <= 255 => new TiffUndefinedType((int)property, [(byte)value]),
+            TiffDataTypes.Undefined when value is >= 0 and <= 255 =>
+                new TiffUndefinedType((int)property, [(byte)value]),
             _ => new TiffShortType((int)property, [value]),
         });
     }

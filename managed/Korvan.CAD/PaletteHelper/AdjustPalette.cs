@@ -29,7 +29,7 @@ public class AdjustPalette : IPartialArgb32PixelLoader
     }
 
     /// <summary>Counts the colours of a block of pixels.</summary>
-    /// <param name="pixelsRectangle">Where the block belongs.</param>
+    /// <param name="pixelsRectangle">The position of the block in the image.</param>
     /// <param name="pixels">Its pixels as 32-bit ARGB values.</param>
     public void Process(Rectangle pixelsRectangle, int[] pixels)
     {

@@ -21,7 +21,8 @@ internal interface IRasterPages
 }
 
 /// <summary>The pixels of a page, with its resolution in pixels per inch.</summary>
-internal sealed record RasterPageData(PixelGrid Pixels, double HorizontalResolution, double VerticalResolution) : IDisposable
+internal sealed record RasterPageData(
+    PixelGrid Pixels, double HorizontalResolution, double VerticalResolution) : IDisposable
 {
     /// <summary>Gets the metadata of the source; options may override it.</summary>
     internal ExifData? Exif { get; init; }
@@ -73,10 +74,11 @@ internal static class PageChoice
         {
             MultiPageMode.Pages => [.. options.Pages],
             MultiPageMode.Titles => [.. options.PageTitles.Select(title => Find(pages, title))],
-            MultiPageMode.Range when (uint)options.FirstPage <= (uint)count && (uint)options.PageCount <= (uint)(count - options.FirstPage) =>
-                [.. Enumerable.Range(options.FirstPage, options.PageCount > 0 ? options.PageCount : count - options.FirstPage)],
+            MultiPageMode.Range when (uint)options.FirstPage <= (uint)count
+                && (uint)options.PageCount <= (uint)(count - options.FirstPage) => Range(options, count),
             MultiPageMode.Range => throw new ImageSaveException(
-                $"There are {count} pages; {options.PageCount} of them from {options.FirstPage} on do not exist, as PageCount and FirstPage ask."),
+                $"There are {count} pages; {options.PageCount} of them from {options.FirstPage} on do not exist, as"
+                    + $" PageCount and FirstPage ask."),
             _ => [.. Enumerable.Range(0, count)],
         };
         foreach (int page in chosen)
@@ -89,6 +91,12 @@ internal static class PageChoice
 
         return chosen.Count > 0 ? chosen
             : throw new ImageSaveException("The multi_page_options choose no page at all; a file needs one.");
+    }
+
+    private static List<int> Range(MultiPageOptions options, int count)
+    {
+        int length = options.PageCount > 0 ? options.PageCount : count - options.FirstPage;
+        return [.. Enumerable.Range(options.FirstPage, length)];
     }
 
     /// <summary>Renders a page and crops it to the area of the options.</summary>

@@ -80,9 +80,11 @@ public class TiffExifIfd
     public void Clear() => _tags.Clear();
 
     /// <summary>Gets the size of the directory with its values in bytes.</summary>
-    internal long Size => 2 + (EntryBytes * Kept.Count()) + 4 + Kept.Sum(static tag => tag.DataSize > 4 ? PaddedSize(tag.DataSize) : 0);
+    internal long Size =>
+        2 + (EntryBytes * Kept.Count()) + 4 + Kept.Sum(static tag => tag.DataSize > 4 ? PaddedSize(tag.DataSize) : 0);
 
-    private IEnumerable<TiffDataType> Kept => _tags.Values.Where(static tag => tag is not TiffUnknownType && tag.Count > 0);
+    private IEnumerable<TiffDataType> Kept =>
+        _tags.Values.Where(static tag => tag is not TiffUnknownType && tag.Count > 0);
 
     /// <summary>Writes the directory, followed by its values.</summary>
     internal void Write(TiffStreamWriter writer, long offset, long next)

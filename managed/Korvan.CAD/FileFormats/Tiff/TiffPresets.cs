@@ -15,7 +15,8 @@ internal static class TiffPresets
     private static readonly int[] Byte = [8];
     private static readonly int[] Bit = [1];
 
-    internal static (TiffCompressions Compression, TiffPhotometrics Photometric, int[] Bits) Of(TiffExpectedFormat format) => format switch
+    internal static (TiffCompressions Compression, TiffPhotometrics Photometric, int[] Bits) Of(
+        TiffExpectedFormat format) => format switch
     {
         TiffExpectedFormat.TiffNoCompressionRgb => (TiffCompressions.None, TiffPhotometrics.Rgb, Rgb),
         TiffExpectedFormat.TiffNoCompressionRgba => (TiffCompressions.None, TiffPhotometrics.Rgb, Rgba),
@@ -46,7 +47,8 @@ internal static class TiffPresets
         }
 
         bool gray = options.Photometric is TiffPhotometrics.MinIsBlack or TiffPhotometrics.MinIsWhite;
-        if (!gray && options.Photometric is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette or TiffPhotometrics.Separated))
+        if (!gray && options.Photometric is not
+            (TiffPhotometrics.Rgb or TiffPhotometrics.Palette or TiffPhotometrics.Separated))
         {
             return TiffOptionsError.PhotometricNotSupported;
         }
@@ -79,16 +81,21 @@ internal static class TiffPresets
 
     /// <summary>Options that are valid for some combinations only: whether each is set, whether it is valid, and the
     /// error otherwise.</summary>
-    internal static IEnumerable<(string Name, bool IsSet, bool IsFollowed, string Advice)> Conditions(TiffOptions options)
+    internal static IEnumerable<(string Name, bool IsSet, bool IsFollowed, string Advice)> Conditions(
+        TiffOptions options)
     {
         bool numbers = options.Photometric == TiffPhotometrics.Palette || options.BitsPerPixel < 8;
         yield return (nameof(TiffOptions.Threshold), options.Threshold != TiffThresholds.NoDithering, numbers,
             "choose a palette or fewer than 8 bits, as other pixels keep their colours");
         yield return (nameof(TiffOptions.AlphaStorage), options.AlphaStorage != TiffAlphaStorage.Unassociated,
-            options.Photometric == TiffPhotometrics.Rgb && options.SamplesPerPixel == 4, "choose red, green, blue and a fourth sample");
-        yield return (nameof(TiffOptions.FillOrder), options.FillOrder != TiffFillOrders.Msb2Lsb, IsFax(options.Compression),
+            options.Photometric == TiffPhotometrics.Rgb && options.SamplesPerPixel == 4,
+            "choose red, green, blue and a fourth sample");
+        yield return (
+            nameof(TiffOptions.FillOrder), options.FillOrder != TiffFillOrders.Msb2Lsb, IsFax(options.Compression),
             "choose a facsimile code");
-        yield return (nameof(TiffOptions.FaxT4Options), options.FaxT4Options != 0, options.Compression == TiffCompressions.CcittFax3,
+        yield return (
+            nameof(TiffOptions.FaxT4Options), options.FaxT4Options != 0,
+            options.Compression == TiffCompressions.CcittFax3,
             "choose CCITT_FAX3");
         yield return (nameof(TiffOptions.CompressedQuality), options.CompressedQuality != TiffOptions.UsualQuality,
             options.Compression == TiffCompressions.Jpeg, "choose JPEG as compression");

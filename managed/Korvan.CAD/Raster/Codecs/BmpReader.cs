@@ -30,7 +30,8 @@ internal sealed class BmpReader
         _source = source;
         ReadOnlySpan<byte> data = source.Data;
         _headerSize = Number(FileHeaderLength);
-        if (_headerSize is not (12 or 40 or 52 or 56 or 64 or 108 or 124) || data.Length < FileHeaderLength + _headerSize)
+        if (_headerSize is not (12 or 40 or 52 or 56 or 64 or 108 or 124)
+            || data.Length < FileHeaderLength + _headerSize)
         {
             throw Damaged($"its header states a size of {_headerSize} bytes");
         }
@@ -55,7 +56,8 @@ internal sealed class BmpReader
     {
         if (source.Data.Length < FileHeaderLength + 12)
         {
-            throw new BmpImageException($"'{source.Name}' ends after {source.Data.Length} bytes, before the end of the header.");
+            throw new BmpImageException(
+                $"'{source.Name}' ends after {source.Data.Length} bytes, before the end of the header.");
         }
 
         var reader = new BmpReader(source);
@@ -97,7 +99,8 @@ internal sealed class BmpReader
         if (!known)
         {
             string name = Enum.IsDefined(_compression) ? _compression.ToString() : $"0x{(int)_compression:X}";
-            throw new BmpImageException($"'{_source.Name}' stores {_bits} bits per pixel with compression {name}, which is not read.");
+            throw new BmpImageException(
+                $"'{_source.Name}' stores {_bits} bits per pixel with compression {name}, which is not read.");
         }
     }
 
@@ -179,7 +182,8 @@ internal sealed class BmpReader
         long needed = (rowBytes * (_height - 1)) + ((((long)_width * _bits) + 7) / 8);
         if (data.Length < needed && !_source.Lenient)
         {
-            throw Damaged($"{_width} × {_height} pixels of {_bits} bits need {needed} bytes, but {data.Length} are left");
+            throw Damaged(
+                $"{_width} × {_height} pixels of {_bits} bits need {needed} bytes, but {data.Length} are left");
         }
 
         PixelGrid pixels = _source.NewGrid(_width, _height);

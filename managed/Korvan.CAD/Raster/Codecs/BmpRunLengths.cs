@@ -35,7 +35,8 @@ internal static class BmpRunLengths
         {
             if (at + 2 > data.Length)
             {
-                throw new RleCompressorException($"The run lengths end after {data.Length} bytes, before their end mark.");
+                throw new RleCompressorException(
+                    $"The run lengths end after {data.Length} bytes, before their end mark.");
             }
 
             int count = data[at];

@@ -42,9 +42,11 @@ internal static class BmpWriter
             page.Pixels.Flatten(White);
         }
 
-        int[] palette = bits > 8 ? [] : PaletteChoice.For(page.Pixels, options.Palette, 1 << bits, ColorQuantizationMethod.MedianCut);
+        int[] palette = bits > 8
+            ? [] : PaletteChoice.For(page.Pixels, options.Palette, 1 << bits, ColorQuantizationMethod.MedianCut);
         long rowBytes = (((long)page.Pixels.Width * bits) + 31) / 32 * 4;
-        byte[]? packed = rle ? BmpRunLengths.Pack(IndexedPixels.Of(page.Pixels, palette, options.Dithering), page.Pixels.Width) : null;
+        byte[]? packed = rle
+            ? BmpRunLengths.Pack(IndexedPixels.Of(page.Pixels, palette, options.Dithering), page.Pixels.Width) : null;
         long size = packed?.Length ?? (rowBytes * page.Pixels.Height);
         WriteHeaders(page, bits, options.Compression, palette, size, output);
         if (packed != null)
@@ -78,7 +80,8 @@ internal static class BmpWriter
         BinaryPrimitives.WriteInt32LittleEndian(to[8..], page.Pixels.Height);
         BinaryPrimitives.WriteInt16LittleEndian(to[12..], 1);
         BinaryPrimitives.WriteInt16LittleEndian(to[14..], (short)bits);
-        BinaryPrimitives.WriteInt32LittleEndian(to[16..], (int)(bits == 32 ? BitmapCompression.Bitfields : compression));
+        BinaryPrimitives.WriteInt32LittleEndian(
+            to[16..], (int)(bits == 32 ? BitmapCompression.Bitfields : compression));
         BinaryPrimitives.WriteUInt32LittleEndian(to[20..], (uint)size);
         BinaryPrimitives.WriteInt32LittleEndian(to[24..], PerMetre(page.HorizontalResolution));
         BinaryPrimitives.WriteInt32LittleEndian(to[28..], PerMetre(page.VerticalResolution));
@@ -100,10 +103,12 @@ internal static class BmpWriter
         output.Write(data);
     }
 
-    private static int PerMetre(double pixelsPerInch) => (int)Math.Min(int.MaxValue, Math.Round(pixelsPerInch * InchesPerMetre));
+    private static int PerMetre(double pixelsPerInch) =>
+        (int)Math.Min(int.MaxValue, Math.Round(pixelsPerInch * InchesPerMetre));
 
     // Rows run from the bottom up.
-    private static void WriteRows(PixelGrid pixels, int bits, int[] palette, DitheringMethods dithering, int rowBytes, Stream output)
+    private static void WriteRows(
+        PixelGrid pixels, int bits, int[] palette, DitheringMethods dithering, int rowBytes, Stream output)
     {
         byte[]? indices = bits > 8 ? null : IndexedPixels.Of(pixels, palette, dithering);
         var row = new byte[rowBytes];
@@ -124,7 +129,8 @@ internal static class BmpWriter
                 ReadOnlySpan<int> from = pixels.Row(y);
                 for (int x = 0; x < from.Length; x++)
                 {
-                    (row[3 * x], row[(3 * x) + 1], row[(3 * x) + 2]) = ((byte)from[x], (byte)(from[x] >> 8), (byte)(from[x] >> 16));
+                    (row[3 * x], row[(3 * x) + 1], row[(3 * x) + 2]) =
+                        ((byte)from[x], (byte)(from[x] >> 8), (byte)(from[x] >> 16));
                 }
             }
 

@@ -30,7 +30,8 @@ internal sealed class DicomFrames
         _bits = file.Number(DicomTags.BitsAllocated, 8);
         _planar = file.Number(DicomTags.PlanarConfiguration, 0) == 1;
         _photometric = file.Text(DicomTags.Photometric);
-        _grayscale = new Lazy<DicomGrayscale>(() => DicomGrayscale.Of(file, _bits, _photometric == "MONOCHROME1", AllSamples));
+        _grayscale =
+            new Lazy<DicomGrayscale>(() => DicomGrayscale.Of(file, _bits, _photometric == "MONOCHROME1", AllSamples));
         Verify();
     }
 
@@ -41,12 +42,12 @@ internal sealed class DicomFrames
     private int FrameCount { get; set; }
 
     internal static bool Reads(string syntax) =>
-        syntax is DicomTags.ImplicitLittleEndian or DicomTags.ExplicitLittleEndian or DicomTags.Rle or DicomTags.JpegBaseline
-            or DicomTags.Jpeg2000Lossless or DicomTags.Jpeg2000;
+        syntax is DicomTags.ImplicitLittleEndian or DicomTags.ExplicitLittleEndian or DicomTags.Rle
+            or DicomTags.JpegBaseline or DicomTags.Jpeg2000Lossless or DicomTags.Jpeg2000;
 
     internal static List<DecodedFrame> Frames(DicomReader file)
     {
-        var picture = new DicomFrames(file);
+        var decoder = new DicomFrames(file);
         string text = file.Text(DicomTags.NumberOfFrames);
         int count = int.TryParse(text, NumberStyles.Integer, CultureInfo.InvariantCulture, out int stated) ? stated : 1;
         if (count < 1 || count > MaxFrames || (file.Fragments != null && count > file.Fragments.Count))
@@ -54,18 +55,19 @@ internal sealed class DicomFrames
             throw file.Damaged($"{count} frames are announced");
         }
 
-        if ((long)picture._width * picture._height * count > PixelGrid.MaxPixels)
+        if ((long)decoder._width * decoder._height * count > PixelGrid.MaxPixels)
         {
-            throw new LimitMemoryException($"The frames of '{file.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
+            throw new LimitMemoryException(
+                $"The frames of '{file.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
 
-        picture.FrameCount = count;
+        decoder.FrameCount = count;
         List<DecodedFrame> frames = [];
         try
         {
             for (int i = 0; i < count; i++)
             {
-                frames.Add(picture.Frame(i));
+                frames.Add(decoder.Frame(i));
             }
         }
         catch
@@ -95,7 +97,9 @@ internal sealed class DicomFrames
         int high = _file.Number(DicomTags.HighBit, stored - 1);
         if (!known || stored < 1 || stored > _bits || high >= _bits || high < stored - 1)
         {
-            throw new ImageLoadException($"'{_file.Name}' has {_samples} samples of '{_photometric}', {stored} of {_bits} bits up to bit {high}, which is not read.");
+            throw new ImageLoadException(
+                $"'{_file.Name}' has {_samples} samples of '{_photometric}', {stored} of {_bits} bits up to bit"
+                + $" {high}, which is not read.");
         }
     }
 
@@ -113,7 +117,8 @@ internal sealed class DicomFrames
 
     private static double PerInch(string millimetres)
     {
-        bool stated = double.TryParse(millimetres.Trim(), NumberStyles.Float, CultureInfo.InvariantCulture, out double size);
+        bool stated =
+            double.TryParse(millimetres.Trim(), NumberStyles.Float, CultureInfo.InvariantCulture, out double size);
         return stated && size > 0 && double.IsFinite(size) ? MillimetresPerInch / size : 0;
     }
 
@@ -155,7 +160,8 @@ internal sealed class DicomFrames
         FrameCount > 1 || _file.Fragments!.Count == 1 ? _file.Fragments![index].ToArray() : Joined(_file.Fragments);
 
     private ReadOnlySpan<byte> Samples(int index) =>
-        _file.Fragments == null ? Plain(index) : DicomRle.Unpack(Fragment(index), _samples, _bits / 8, (long)_width * _height);
+        _file.Fragments == null
+            ? Plain(index) : DicomRle.Unpack(Fragment(index), _samples, _bits / 8, (long)_width * _height);
 
     // A range that depends on the samples has to be the same in all frames.
     private IEnumerable<byte[]> AllSamples()
@@ -179,7 +185,8 @@ internal sealed class DicomFrames
         long start = index * size;
         if (start + size > _file.PlainPixels.Length)
         {
-            throw _file.Damaged($"frame {index} needs {size} bytes, but {Math.Max(0, _file.PlainPixels.Length - start)} are left");
+            throw _file.Damaged(
+                $"frame {index} needs {size} bytes, but {Math.Max(0, _file.PlainPixels.Length - start)} are left");
         }
 
         return _file.PlainPixels.Span.Slice((int)start, (int)size);

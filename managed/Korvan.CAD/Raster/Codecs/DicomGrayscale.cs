@@ -53,9 +53,10 @@ internal sealed class DicomGrayscale
     private int StoredSample(ReadOnlySpan<byte> data, int at) =>
         _pixels.Length == 256 ? data[at] : BinaryPrimitives.ReadUInt16LittleEndian(data[(2 * at)..]);
 
-    private (int Least, int Most) PossibleRange() => _signed ? (-(1 << (_bitsStored - 1)), (1 << (_bitsStored - 1)) - 1) : (0, (1 << _bitsStored) - 1);
+    private (int Min, int Max) PossibleRange() =>
+        _signed ? (-(1 << (_bitsStored - 1)), (1 << (_bitsStored - 1)) - 1) : (0, (1 << _bitsStored) - 1);
 
-    private (int Least, int Most) ActualRange(IEnumerable<byte[]> frames)
+    private (int Min, int Max) ActualRange(IEnumerable<byte[]> frames)
     {
         (int min, int max) = (int.MaxValue, int.MinValue);
         foreach (byte[] data in frames)

@@ -44,18 +44,21 @@ internal sealed class DicomReader
         _values.TryGetValue(tag, out byte[]? data) ? Encoding.ASCII.GetString(data).TrimEnd('\0', ' ') : "";
 
     internal int Number(uint tag, int missing) =>
-        _values.TryGetValue(tag, out byte[]? data) && data.Length >= 2 ? BinaryPrimitives.ReadUInt16LittleEndian(data) : missing;
+        _values.TryGetValue(tag, out byte[]? data) && data.Length >= 2
+            ? BinaryPrimitives.ReadUInt16LittleEndian(data) : missing;
 
     /// <summary>Returns the first number of a decimal string.</summary>
     internal double Real(uint tag, double missing)
     {
         string first = Text(tag).Split('\\')[0].Trim();
-        return double.TryParse(first, NumberStyles.Float, CultureInfo.InvariantCulture, out double value) && double.IsFinite(value)
+        return double.TryParse(first, NumberStyles.Float, CultureInfo.InvariantCulture, out double value)
+            && double.IsFinite(value)
             ? value
             : missing;
     }
 
-    internal ImageLoadException Damaged(string why) => new($"'{_source.Name}' is no DICOM file that can be read: {why}.");
+    internal ImageLoadException Damaged(string why) =>
+        new($"'{_source.Name}' is no DICOM file that can be read: {why}.");
 
     private void ReadElements()
     {
@@ -101,7 +104,8 @@ internal sealed class DicomReader
         }
 
         string type = Encoding.ASCII.GetString(header[4..6]);
-        if (type is "OB" or "OW" or "OF" or "OD" or "OL" or "OV" or "SQ" or "UN" or "UT" or "UC" or "UR" or "SV" or "UV")
+        if (type is "OB" or "OW" or "OF" or "OD" or "OL" or "OV" or "SQ" or "UN" or "UT" or "UC" or "UR" or "SV"
+            or "UV")
         {
             uint length = BinaryPrimitives.ReadUInt32LittleEndian(Take(_at + 8, 4));
             _at += 12;
@@ -213,7 +217,8 @@ internal sealed class DicomReader
     private uint Tag(int place)
     {
         ReadOnlySpan<byte> data = Take(place, 4);
-        return ((uint)BinaryPrimitives.ReadUInt16LittleEndian(data) << 16) | BinaryPrimitives.ReadUInt16LittleEndian(data[2..]);
+        uint group = BinaryPrimitives.ReadUInt16LittleEndian(data);
+        return (group << 16) | BinaryPrimitives.ReadUInt16LittleEndian(data[2..]);
     }
 
     private ReadOnlySpan<byte> Take(long place, uint count)

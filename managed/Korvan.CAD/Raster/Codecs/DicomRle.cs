@@ -51,7 +51,8 @@ internal static class DicomRle
         int planes = samples * sampleBytes;
         if (data.Length < HeaderBytes || BinaryPrimitives.ReadInt32LittleEndian(data) != planes)
         {
-            throw new RleCompressorException($"A run-length encoded frame does not have the {planes} planes that its image needs.");
+            throw new RleCompressorException(
+                $"A run-length encoded frame does not have the {planes} planes that its image needs.");
         }
 
         var result = new byte[pixels * planes];

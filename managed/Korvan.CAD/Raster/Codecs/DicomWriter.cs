@@ -135,8 +135,10 @@ internal sealed class DicomWriter
 
         to.Number(DicomTags.Rows, page.Pixels.Height);
         to.Number(DicomTags.Columns, page.Pixels.Width);
-        to.Text(DicomTags.PixelSpacing, "DS", string.Create(CultureInfo.InvariantCulture,
-            $"{MillimetresPerInch / page.VerticalResolution:0.######}\\{MillimetresPerInch / page.HorizontalResolution:0.######}"));
+        double down = MillimetresPerInch / page.VerticalResolution;
+        double across = MillimetresPerInch / page.HorizontalResolution;
+        to.Text(DicomTags.PixelSpacing, "DS", string.Create(
+            CultureInfo.InvariantCulture, $"{down:0.######}\\{across:0.######}"));
         to.Number(DicomTags.BitsAllocated, _bits);
         to.Number(DicomTags.BitsStored, _bits);
         to.Number(DicomTags.HighBit, _bits - 1);
@@ -172,7 +174,8 @@ internal sealed class DicomWriter
             if (page.Pixels.Width != first.Pixels.Width || page.Pixels.Height != first.Pixels.Height)
             {
                 throw new ImageSaveException($"Page {chosen[i]} has {page.Pixels.Width} × {page.Pixels.Height} pixels,"
-                    + $" the first {first.Pixels.Width} × {first.Pixels.Height}; all frames of a DICOM file have one size.");
+                    + $" the first {first.Pixels.Width} × {first.Pixels.Height}; all frames of a DICOM file have one"
+                        + $" size.");
             }
 
             WriteFrame(page.Pixels, output, elements, packed);
@@ -193,7 +196,8 @@ internal sealed class DicomWriter
         switch (_options.Compression.Type)
         {
             case CompressionType.Jpeg:
-                JpegCompressionColorMode mode = _color ? JpegCompressionColorMode.YCbCr : JpegCompressionColorMode.Grayscale;
+                JpegCompressionColorMode mode = _color
+                    ? JpegCompressionColorMode.YCbCr : JpegCompressionColorMode.Grayscale;
                 elements.Item(DicomTags.Item, JpegCodec.Compress(pixels, mode, _options.Compression.Quality, false));
                 break;
             case CompressionType.Jpeg2000:

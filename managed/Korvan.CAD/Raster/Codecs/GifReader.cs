@@ -153,18 +153,21 @@ internal sealed unsafe class GifReader
         _total += (long)_gif.File.Width * _gif.File.Height;
         if (_total > PixelGrid.MaxPixels)
         {
-            throw new LimitMemoryException($"The frames of '{_source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
+            throw new LimitMemoryException(
+                $"The frames of '{_source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
 
         if (image.Width < 1 || image.Height < 1)
         {
-            throw new GifImageException($"A frame of '{_source.Name}' is {image.Width} × {image.Height} pixels large.");
+            throw new GifImageException(
+                $"A frame of '{_source.Name}' is {image.Width} × {image.Height} pixels large.");
         }
 
         _canvas ??= new PixelGrid(_gif.File.Width, _gif.File.Height);
         using PixelGrid? before = _disposal == DisposalPrevious ? _canvas.Copy() : null;
         bool whole = Draw(image, palette);
-        _frames.Add(new DecodedFrame { Pixels = _canvas.Copy(), BitsPerPixel = 8, Palette = new ColorPalette(palette) });
+        _frames.Add(
+            new DecodedFrame { Pixels = _canvas.Copy(), BitsPerPixel = 8, Palette = new ColorPalette(palette) });
         DisposeFrame(image, before);
         (_transparent, _disposal) = (-1, DisposalKeep);
         return whole;
@@ -256,5 +259,6 @@ internal sealed unsafe class GifReader
     }
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
-    private static int ReadBytes(Gif.File* gif, byte* target, int count) => (int)StreamBridge.Of(gif->User).Read(target, count);
+    private static int ReadBytes(Gif.File* gif, byte* target, int count) =>
+        (int)StreamBridge.Of(gif->User).Read(target, count);
 }

@@ -110,7 +110,8 @@ internal sealed unsafe class GifWriter
         byte* rgb = stackalloc byte[size * 3];
         for (int i = 0; i < palette.Length; i++)
         {
-            (rgb[3 * i], rgb[(3 * i) + 1], rgb[(3 * i) + 2]) = ((byte)(palette[i] >> 16), (byte)(palette[i] >> 8), (byte)palette[i]);
+            (rgb[3 * i], rgb[(3 * i) + 1], rgb[(3 * i) + 2]) =
+                ((byte)(palette[i] >> 16), (byte)(palette[i] >> 8), (byte)palette[i]);
         }
 
         return Gif.MakeMap(size, rgb);
@@ -124,7 +125,8 @@ internal sealed unsafe class GifWriter
             using RasterPageData page = Render(pages, chosen[i], _options);
             if (page.Pixels.Width > first.Pixels.Width || page.Pixels.Height > first.Pixels.Height)
             {
-                throw new GifImageException($"Page {chosen[i]} is larger ({page.Pixels.Width} × {page.Pixels.Height} pixels)"
+                throw new GifImageException(
+                    $"Page {chosen[i]} is larger ({page.Pixels.Width} × {page.Pixels.Height} pixels)"
                     + $" than the first ({first.Pixels.Width} × {first.Pixels.Height}); give all pages one size.");
             }
 
@@ -165,7 +167,8 @@ internal sealed unsafe class GifWriter
         const int toBackground = 2;
         byte* data = stackalloc byte[4];
         data[0] = (byte)(((frames > 1 ? toBackground : 0) << 2) | (_transparent >= 0 ? 1 : 0));
-        BinaryPrimitives.WriteUInt16LittleEndian(new Span<byte>(data + 1, 2), (ushort)(frames > 1 ? _options.FrameTime / 10 : 0));
+        BinaryPrimitives.WriteUInt16LittleEndian(
+            new Span<byte>(data + 1, 2), (ushort)(frames > 1 ? _options.FrameTime / 10 : 0));
         data[3] = (byte)Math.Max(0, _transparent);
         Verify(Gif.PutExtension(_gif, Gif.GraphicsExtension, 4, data));
     }
@@ -194,5 +197,6 @@ internal sealed unsafe class GifWriter
     }
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
-    private static int Write(Gif.File* gif, byte* data, int count) => (int)StreamBridge.Of(gif->User).Write(data, count);
+    private static int Write(Gif.File* gif, byte* data, int count) =>
+        (int)StreamBridge.Of(gif->User).Write(data, count);
 }

@@ -45,7 +45,8 @@ internal static unsafe class Jpeg2000Planes
         int alpha = s[^1] << 24;
         if (isCmyk)
         {
-            return (CmykColor.FromStored(s[0] | (s[1] << 8) | (s[2] << 16) | (s[3] << 24)).ToArgb32() & 0xFFFFFF) | alpha;
+            var color = CmykColor.FromStored(s[0] | (s[1] << 8) | (s[2] << 16) | (s[3] << 24));
+            return (color.ToArgb32() & 0xFFFFFF) | alpha;
         }
 
         if (s.Length < 4)
@@ -62,7 +63,9 @@ internal static unsafe class Jpeg2000Planes
     internal static int FromYcc(int y, int cb, int cr)
     {
         static int Part(double value) => (int)Math.Clamp(Math.Round(value), 0, 255);
-        return (Part(y + (1.402 * cr)) << 16) | (Part(y - (0.344136 * cb) - (0.714136 * cr)) << 8) | Part(y + (1.772 * cb));
+        return (Part(y + (1.402 * cr)) << 16)
+            | (Part(y - (0.344136 * cb) - (0.714136 * cr)) << 8)
+            | Part(y + (1.772 * cb));
     }
 
     // The position is on the reference grid, on which the image may begin anywhere.

@@ -22,14 +22,16 @@ internal static unsafe class JpegCodec
         TurboJpeg.Require();
         if (pixels.Width > MaxSide || pixels.Height > MaxSide)
         {
-            throw new JpegException($"A JPEG holds at most {MaxSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
+            throw new JpegException(
+                $"A JPEG holds at most {MaxSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
         }
 
         (TurboJpeg.PixelLayout layout, TurboJpeg.Subsampling subsampling) = colors switch
         {
             JpegCompressionColorMode.Grayscale => (TurboJpeg.PixelLayout.Bgrx, TurboJpeg.Subsampling.Gray),
             JpegCompressionColorMode.Ycck => (TurboJpeg.PixelLayout.Cmyk, TurboJpeg.Subsampling.None),
-            _ => (TurboJpeg.PixelLayout.Bgrx, quality >= 90 ? TurboJpeg.Subsampling.None : TurboJpeg.Subsampling.Quarter),
+            _ when quality >= 90 => (TurboJpeg.PixelLayout.Bgrx, TurboJpeg.Subsampling.None),
+            _ => (TurboJpeg.PixelLayout.Bgrx, TurboJpeg.Subsampling.Quarter),
         };
         using PixelGrid? isCmyk = colors == JpegCompressionColorMode.Ycck ? ToInvertedCmyk(pixels) : null;
         using TurboJpegHandle handle = TurboJpeg.InitCompress();
@@ -48,7 +50,8 @@ internal static unsafe class JpegCodec
 
     /// <summary>Returns the pixels of a JPEG. <paramref name="bitsPerPixel"/> is 8 for grayscale, 24 for colours and 32
     /// for CMYK, which print programs store inverted.</summary>
-    internal static PixelGrid Decompress(RasterSource source, ReadOnlySpan<byte> data, bool inverted, out int bitsPerPixel)
+    internal static PixelGrid Decompress(
+        RasterSource source, ReadOnlySpan<byte> data, bool inverted, out int bitsPerPixel)
     {
         TurboJpeg.Require();
         using TurboJpegHandle handle = TurboJpeg.InitDecompress();
@@ -77,7 +80,8 @@ internal static unsafe class JpegCodec
 
         if ((long)width * height > length * MaxPixelsPerByte)
         {
-            throw new JpegException($"'{source.Name}' claims {width} × {height} pixels, which its {length} bytes cannot hold.");
+            throw new JpegException(
+                $"'{source.Name}' claims {width} × {height} pixels, which its {length} bytes cannot hold.");
         }
 
         bool isCmyk = (TurboJpeg.Colors)colors is TurboJpeg.Colors.Cmyk or TurboJpeg.Colors.Ycck;
@@ -85,7 +89,8 @@ internal static unsafe class JpegCodec
         var pixels = new PixelGrid(width, height);
         int flags = TurboJpeg.FlagLimitScans | (source.Lenient ? 0 : TurboJpeg.FlagStopOnWarning);
         TurboJpeg.PixelLayout layout = isCmyk ? TurboJpeg.PixelLayout.Cmyk : TurboJpeg.PixelLayout.Bgra;
-        if (TurboJpeg.Decompress(handle, data, (nuint)length, pixels.Pointer, width, 0, height, layout, flags) != 0 && !source.Lenient)
+        if (TurboJpeg.Decompress(handle, data, (nuint)length, pixels.Pointer, width, 0, height, layout, flags) != 0
+            && !source.Lenient)
         {
             pixels.Dispose();
             throw new JpegException($"The image of '{source.Name}' is damaged: {TurboJpeg.Error(handle)}.");

@@ -20,7 +20,16 @@ internal static class JpegReader
         return new DecodedFile
         {
             Format = FileFormat.Jpeg,
-            Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = bits, HorizontalResolution = x, VerticalResolution = y }],
+            Frames =
+            [
+                new DecodedFrame
+                {
+                    Pixels = pixels,
+                    BitsPerPixel = bits,
+                    HorizontalResolution = x,
+                    VerticalResolution = y,
+                },
+            ],
             Exif = ReadExif(JpegSegments.Find(segments, JpegSegments.App1, JpegSegments.ExifSignature)),
             Xmp = XmpPacketWrapper.TryRead(JpegSegments.Find(segments, JpegSegments.App1, JpegSegments.XmpSignature)),
         };

@@ -74,7 +74,8 @@ internal static class JpegSegments
         {
             if (segment.Data.Length > MaxSegmentBytes)
             {
-                throw new JpegException($"A segment of a JPEG holds at most {MaxSegmentBytes} bytes; {segment.Data.Length} were given.");
+                throw new JpegException(
+                    $"A segment of a JPEG holds at most {MaxSegmentBytes} bytes; {segment.Data.Length} were given.");
             }
 
             Span<byte> header = [0xFF, segment.Marker, 0, 0];

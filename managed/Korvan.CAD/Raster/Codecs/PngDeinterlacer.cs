@@ -34,7 +34,9 @@ internal sealed class PngDeinterlacer
     {
         _source = source;
         ReadOnlySpan<byte> data = source.Data.AsSpan(16);
-        _header = new PngHeader(BinaryPrimitives.ReadInt32BigEndian(data), BinaryPrimitives.ReadInt32BigEndian(data[4..]), data[8], (PngColorType)data[9]);
+        int width = BinaryPrimitives.ReadInt32BigEndian(data);
+        int height = BinaryPrimitives.ReadInt32BigEndian(data[4..]);
+        _header = new PngHeader(width, height, data[8], (PngColorType)data[9]);
         _pixelBytes = _header.BitsPerPixel / 8;
     }
 
@@ -64,7 +66,8 @@ internal sealed class PngDeinterlacer
 
         if (size > MaxBytes)
         {
-            throw new LimitMemoryException($"'{_source.Name}' is interlaced and needs {size} bytes to be put in order, more than {MaxBytes}.");
+            throw new LimitMemoryException(
+                $"'{_source.Name}' is interlaced and needs {size} bytes to be put in order, more than {MaxBytes}.");
         }
 
         using var before = new MemoryStream();
@@ -73,7 +76,8 @@ internal sealed class PngDeinterlacer
         Sort(before, packed, after);
         packed.Position = 0;
         byte[] pixels = Unpack(packed, (int)size);
-        PngStream.WriteRows(before, _header, PngFilterType.Up, 1, (y, row) => pixels.AsSpan(y * row.Length, row.Length).CopyTo(row));
+        PngStream.WriteRows(
+            before, _header, PngFilterType.Up, 1, (y, row) => pixels.AsSpan(y * row.Length, row.Length).CopyTo(row));
         after.WriteTo(before);
         return before.ToArray();
     }
@@ -100,7 +104,8 @@ internal sealed class PngDeinterlacer
                 throw Damaged($"IHDR: it has {length} bytes, not {HeaderBytes}");
             }
 
-            if ((isHeader || isData) && PngStream.Checksum(type, body) != BinaryPrimitives.ReadUInt32BigEndian(data[(at + 8 + length)..]))
+            if ((isHeader || isData)
+                && PngStream.Checksum(type, body) != BinaryPrimitives.ReadUInt32BigEndian(data[(at + 8 + length)..]))
             {
                 throw Damaged($"{System.Text.Encoding.ASCII.GetString(type)}: CRC error");
             }
@@ -157,5 +162,6 @@ internal sealed class PngDeinterlacer
         }
     }
 
-    private PngImageException Damaged(string why, Exception? cause = null) => new($"'{_source.Name}' is damaged: {why}.", cause);
+    private PngImageException Damaged(string why, Exception? cause = null) =>
+        new($"'{_source.Name}' is damaged: {why}.", cause);
 }

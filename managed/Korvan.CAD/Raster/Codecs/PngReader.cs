@@ -76,7 +76,8 @@ internal static unsafe class PngReader
 
     private static PngImageException Failure(RasterSource source, string reason)
     {
-        bool deflate = reason.Contains("IDAT", StringComparison.Ordinal) || reason.Contains("deflate", StringComparison.Ordinal);
+        bool deflate = reason.Contains("IDAT", StringComparison.Ordinal)
+            || reason.Contains("deflate", StringComparison.Ordinal);
         DeflateCompressorException? inner = deflate ? new DeflateCompressorException(reason) : null;
         return new PngImageException($"'{source.Name}' is damaged: {reason}.", inner);
     }

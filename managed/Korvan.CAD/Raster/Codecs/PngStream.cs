@@ -54,7 +54,8 @@ internal static class PngStream
     internal static void WriteRows(Stream output, in PngHeader header, PngFilterType filter, int level, PackRow pack)
     {
         using var chunks = new ChunkStream(output);
-        using (var zlib = new ZLibStream(chunks, new ZLibCompressionOptions { CompressionLevel = level }, leaveOpen: true))
+        var compression = new ZLibCompressionOptions { CompressionLevel = level };
+        using (var zlib = new ZLibStream(chunks, compression, leaveOpen: true))
         {
             var filters = new PngFilters(header.RowBytes, Math.Max(1, header.BitsPerPixel / 8));
             for (int y = 0; y < header.Height; y++)
@@ -69,7 +70,8 @@ internal static class PngStream
 
     internal static void End(Stream output) => WriteChunk(output, "IEND"u8, []);
 
-    private static int PerMetre(double pixelsPerInch) => (int)Math.Round(Math.Min(pixelsPerInch * InchesPerMetre, int.MaxValue));
+    private static int PerMetre(double pixelsPerInch) =>
+        (int)Math.Round(Math.Min(pixelsPerInch * InchesPerMetre, int.MaxValue));
 
     internal static void WriteChunk(Stream output, ReadOnlySpan<byte> type, ReadOnlySpan<byte> data)
     {
@@ -83,7 +85,8 @@ internal static class PngStream
     }
 
     /// <summary>Returns the CRC of a chunk.</summary>
-    internal static uint Checksum(ReadOnlySpan<byte> type, ReadOnlySpan<byte> data) => Crc(Crc(0xffffffff, type), data) ^ 0xffffffff;
+    internal static uint Checksum(ReadOnlySpan<byte> type, ReadOnlySpan<byte> data) =>
+        Crc(Crc(0xffffffff, type), data) ^ 0xffffffff;
 
     private static uint Crc(uint crc, ReadOnlySpan<byte> data)
     {

@@ -93,7 +93,8 @@ internal static class PngWriter
 
     private static void WriteIndexed(PixelGrid pixels, PngHeader header, PngOptions options, Stream output)
     {
-        int[] palette = PaletteChoice.For(pixels, options.Palette, 1 << header.BitDepth, ColorQuantizationMethod.MedianCut);
+        int[] palette =
+            PaletteChoice.For(pixels, options.Palette, 1 << header.BitDepth, ColorQuantizationMethod.MedianCut);
         var colors = new byte[palette.Length * 3];
         var opacity = new byte[palette.Length];
         for (int i = 0; i < palette.Length; i++)

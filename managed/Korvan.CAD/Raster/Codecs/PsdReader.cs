@@ -24,7 +24,8 @@ internal sealed class PsdReader
     {
         _source = source;
         ReadOnlySpan<byte> header = source.Data;
-        if (header.Length < HeaderBytes || !header.StartsWith("8BPS"u8) || BinaryPrimitives.ReadUInt16BigEndian(header[4..]) != 1)
+        if (header.Length < HeaderBytes || !header.StartsWith("8BPS"u8)
+            || BinaryPrimitives.ReadUInt16BigEndian(header[4..]) != 1)
         {
             throw new PsdImageException($"'{source.Name}' does not begin with the header of a PSD of version 1.");
         }
@@ -75,7 +76,8 @@ internal sealed class PsdReader
     {
         if (_width < 1 || _height < 1 || _channels is < 1 or > 56)
         {
-            throw new PsdImageException($"'{_source.Name}' claims {_width} × {_height} pixels of {_channels} channels.");
+            throw new PsdImageException(
+                $"'{_source.Name}' claims {_width} × {_height} pixels of {_channels} channels.");
         }
 
         PixelGrid.VerifySize(_width, _height);
@@ -94,7 +96,8 @@ internal sealed class PsdReader
         }
     }
 
-    private DecodedFile File(ReadOnlySpan<byte> paletteBytes, ReadOnlySpan<byte> resources, ReadOnlySpan<byte> imageData)
+    private DecodedFile File(
+        ReadOnlySpan<byte> paletteBytes, ReadOnlySpan<byte> resources, ReadOnlySpan<byte> imageData)
     {
         PsdPalette? palette = Palette(paletteBytes, resources);
         (double x, double y) = Resolution(resources);
@@ -125,11 +128,13 @@ internal sealed class PsdReader
 
         if (table.Length < PsdPalette.Bytes)
         {
-            throw new PsdImageException($"The palette of '{_source.Name}' has {table.Length} bytes, not {PsdPalette.Bytes}.");
+            throw new PsdImageException(
+                $"The palette of '{_source.Name}' has {table.Length} bytes, not {PsdPalette.Bytes}.");
         }
 
         ReadOnlySpan<byte> transparent = PsdResources.Find(resources, TransparencyIndexResource.Number);
-        return PsdPalette.Read(table, transparent.IsEmpty ? -1 : TransparencyIndexResource.Read(transparent).TransparencyIndex);
+        int index = transparent.IsEmpty ? -1 : TransparencyIndexResource.Read(transparent).TransparencyIndex;
+        return PsdPalette.Read(table, index);
     }
 
     private static (double X, double Y) Resolution(ReadOnlySpan<byte> resources)
@@ -137,7 +142,8 @@ internal sealed class PsdReader
         ReadOnlySpan<byte> data = PsdResources.Find(resources, PsdResources.ResolutionInfo);
         return data.Length < 16
             ? default
-            : (BinaryPrimitives.ReadUInt32BigEndian(data) / 65536.0, BinaryPrimitives.ReadUInt32BigEndian(data[8..]) / 65536.0);
+            : (BinaryPrimitives.ReadUInt32BigEndian(data) / 65536.0,
+                BinaryPrimitives.ReadUInt32BigEndian(data[8..]) / 65536.0);
     }
 
     private PixelGrid MergedImage(ReadOnlySpan<byte> data, int[]? palette)
@@ -146,7 +152,8 @@ internal sealed class PsdReader
         if (method is not ((int)CompressionMethod.Raw or (int)CompressionMethod.Rle))
         {
             throw new PsdImageException(
-                $"The merged image of '{_source.Name}' is missing or compressed by method {method}, which is not read.");
+                $"The merged image of '{_source.Name}' is missing or compressed by method {method},"
+                    + " which is not read.");
         }
 
         var rows = new PsdRows(data[2..], method == (int)CompressionMethod.Rle, _channels, _height, RowBytes);

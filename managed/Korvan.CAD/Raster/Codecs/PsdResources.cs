@@ -82,7 +82,8 @@ internal static class PsdResources
         }
     }
 
-    private static bool Next(scoped ref ReadOnlySpan<byte> section, out int id, out string name, out ReadOnlySpan<byte> content)
+    private static bool Next(
+        scoped ref ReadOnlySpan<byte> section, out int id, out string name, out ReadOnlySpan<byte> content)
     {
         (id, name) = (0, "");
         content = default;

@@ -24,7 +24,8 @@ internal static class PsdWriter
         PixelGrid pixels = page.Pixels;
         if (pixels.Width > MaxSide || pixels.Height > MaxSide)
         {
-            throw new PsdImageException($"A PSD holds at most {MaxSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
+            throw new PsdImageException(
+                $"A PSD holds at most {MaxSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
         }
 
         if (options.CompressionMethod is not (CompressionMethod.Raw or CompressionMethod.Rle))
@@ -67,12 +68,16 @@ internal static class PsdWriter
             // Inks are stored inverted.
             ColorModes.Cmyk =>
             [
-                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).C), Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).M),
-                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).Y), Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).K),
+                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).C),
+                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).M),
+                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).Y),
+                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).K),
             ],
             _ =>
             [
-                Plane(pixels, static p => OnMatte(p, 16)), Plane(pixels, static p => OnMatte(p, 8)), Plane(pixels, static p => OnMatte(p, 0)),
+                Plane(pixels, static p => OnMatte(p, 16)),
+                Plane(pixels, static p => OnMatte(p, 8)),
+                Plane(pixels, static p => OnMatte(p, 0)),
                 .. alpha ? [Plane(pixels, static p => p >>> 24)] : Array.Empty<byte[]>(),
             ],
         };
@@ -122,7 +127,8 @@ internal static class PsdWriter
 
     private static void WriteResources(Stream output, RasterPageData page, PsdOptions options)
     {
-        List<ResourceBlock> blocks = [new UnknownResource(PsdResources.ResolutionInfo, Resolution(page)), .. options.Resources];
+        List<ResourceBlock> blocks =
+            [new UnknownResource(PsdResources.ResolutionInfo, Resolution(page)), .. options.Resources];
         if ((options.XmpData ?? page.Xmp) is XmpPacketWrapper xmp && !blocks.OfType<XmpResouce>().Any())
         {
             blocks.Add(new XmpResouce(xmp));
@@ -145,7 +151,8 @@ internal static class PsdWriter
         BinaryPrimitives.WriteInt32BigEndian(data, (int)Math.Min(int.MaxValue, page.HorizontalResolution * 65536));
         BinaryPrimitives.WriteInt16BigEndian(data.AsSpan(4), 1);
         BinaryPrimitives.WriteInt16BigEndian(data.AsSpan(6), 1);
-        BinaryPrimitives.WriteInt32BigEndian(data.AsSpan(8), (int)Math.Min(int.MaxValue, page.VerticalResolution * 65536));
+        BinaryPrimitives.WriteInt32BigEndian(
+            data.AsSpan(8), (int)Math.Min(int.MaxValue, page.VerticalResolution * 65536));
         BinaryPrimitives.WriteInt16BigEndian(data.AsSpan(12), 1);
         BinaryPrimitives.WriteInt16BigEndian(data.AsSpan(14), 1);
         return data;

@@ -13,7 +13,8 @@ internal static class TiffMetadata
     // Tags that describe strips and samples are meaningless outside this file.
     private static readonly ExifProperties[] Kept =
     [
-        ExifProperties.Make, ExifProperties.Model, ExifProperties.Software, ExifProperties.Artist, ExifProperties.Copyright,
+        ExifProperties.Make, ExifProperties.Model, ExifProperties.Software, ExifProperties.Artist,
+        ExifProperties.Copyright,
         ExifProperties.ImageDescription, ExifProperties.DateTime,
     ];
 
@@ -23,7 +24,8 @@ internal static class TiffMetadata
         {
             var exif = new ExifData(data);
             TiffExifIfd directory = exif.CommonTags.Directory;
-            XmpPacketWrapper? xmp = XmpPacketWrapper.TryRead((directory.Get((int)TiffTags.Xmp) as TiffByteType)?.Values);
+            XmpPacketWrapper? xmp =
+                XmpPacketWrapper.TryRead((directory.Get((int)TiffTags.Xmp) as TiffByteType)?.Values);
             foreach (TiffDataType tag in directory.Tags.Where(static tag => !Kept.Contains((ExifProperties)tag.TagId)))
             {
                 directory.Remove(tag.TagId);

@@ -67,7 +67,8 @@ internal static unsafe class TiffReader
         PixelGrid.VerifySize(width, height);
         if (total > PixelGrid.MaxPixels)
         {
-            throw new LimitMemoryException($"The pages of '{source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
+            throw new LimitMemoryException(
+                $"The pages of '{source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
 
         var samples = new TiffSamples(tiff.Handle);
@@ -107,7 +108,8 @@ internal static unsafe class TiffReader
 
     private static PixelGrid Upright(TiffFile tiff, PixelGrid pixels)
     {
-        RotateFlipType correction = Corrections.GetValueOrDefault((TiffOrientations)Tiff.GetNumber(tiff.Handle, (int)TiffTags.Orientation));
+        RotateFlipType correction =
+            Corrections.GetValueOrDefault((TiffOrientations)Tiff.GetNumber(tiff.Handle, (int)TiffTags.Orientation));
         if (correction == RotateFlipType.RotateNoneFlipNone)
         {
             return pixels;
@@ -166,7 +168,8 @@ internal static unsafe class TiffReader
         uint samples = Tiff.GetNumber(tiff.Handle, (int)TiffTags.SamplesPerPixel);
         double x = Resolution(tiff, TiffTags.XResolution) * per;
         double y = Resolution(tiff, TiffTags.YResolution) * per;
-        bool swapped = Tiff.GetNumber(tiff.Handle, (int)TiffTags.Orientation) is >= (uint)TiffOrientations.LeftTop and <= (uint)TiffOrientations.LeftBottom;
+        var orientation = (TiffOrientations)Tiff.GetNumber(tiff.Handle, (int)TiffTags.Orientation);
+        bool swapped = orientation is >= TiffOrientations.LeftTop and <= TiffOrientations.LeftBottom;
         return new DecodedFrame
         {
             Pixels = pixels,

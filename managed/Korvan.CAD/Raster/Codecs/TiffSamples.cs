@@ -65,7 +65,8 @@ internal sealed unsafe class TiffSamples
         && _bits is 1 or 2 or 4 or 8 or 16 or 32 && _bits <= _maxBits && Number(TiffTags.SampleFormat) != Floats
         && Number(TiffTags.Compression) != (uint)TiffCompressions.OldJpeg
         && (_kind != TiffPhotometrics.Separated || Number(TiffTags.InkSet) == InkSetCmyk)
-        && (_alphaSample >= 0 || _bits == 32 || (_bits == 16 && _kind is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette)) || HasSmallTiles);
+        && (_alphaSample >= 0 || _bits == 32 || HasSmallTiles
+            || (_bits == 16 && _kind is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette)));
 
     // libtiff's conversion compares the size of its buffer with that of an uncompressed tile, and rejects smaller ones.
     private bool HasSmallTiles => _tiled && Number(TiffTags.Compression) == (uint)TiffCompressions.None
@@ -77,7 +78,8 @@ internal sealed unsafe class TiffSamples
     {
         _palette = _kind == TiffPhotometrics.Palette ? Tiff.Palette(_tiff, 1 << _bits) : [];
         int width = _tiled ? (int)Number(TiffTags.TileWidth) : pixels.Width;
-        int height = _tiled ? (int)Number(TiffTags.TileLength) : (int)Math.Min(Number(TiffTags.RowsPerStrip), (uint)pixels.Height);
+        int height = _tiled
+            ? (int)Number(TiffTags.TileLength) : (int)Math.Min(Number(TiffTags.RowsPerStrip), (uint)pixels.Height);
         nint rowBytes = _tiled ? Tiff.TileRowSize(_tiff) : Tiff.ScanlineSize(_tiff);
         long needed = (((long)width * _bits * (_planar ? 1 : _samples)) + 7) / 8;
         if (width < 1 || height < 1 || rowBytes < needed)
@@ -87,10 +89,17 @@ internal sealed unsafe class TiffSamples
 
         if ((long)rowBytes * height > Array.MaxLength)
         {
-            throw new LimitMemoryException($"A block of {width} × {height} pixels has more than {Array.MaxLength} bytes.");
+            throw new LimitMemoryException(
+                $"A block of {width} × {height} pixels has more than {Array.MaxLength} bytes.");
         }
 
-        var block = new Block(width, height, (int)rowBytes, [.. Enumerable.Range(0, _planar ? _samples : 1).Select(_ => new byte[rowBytes * height])]);
+        var planes = new byte[_planar ? _samples : 1][];
+        for (int i = 0; i < planes.Length; i++)
+        {
+            planes[i] = new byte[rowBytes * height];
+        }
+
+        var block = new Block(width, height, (int)rowBytes, planes);
         bool whole = true;
         for (int top = 0; top < pixels.Height; top += height)
         {
@@ -116,11 +125,14 @@ internal sealed unsafe class TiffSamples
         {
             byte[] data = block.Planes[plane];
             Array.Clear(data);
+            uint number = _tiled
+                ? Tiff.ComputeTile(_tiff, (uint)left, (uint)top, 0, (ushort)plane)
+                : Tiff.ComputeStrip(_tiff, (uint)top, (ushort)plane);
             fixed (byte* start = data)
             {
                 whole &= _tiled
-                    ? Tiff.ReadTile(_tiff, Tiff.ComputeTile(_tiff, (uint)left, (uint)top, 0, (ushort)plane), start, data.Length) >= 0
-                    : Tiff.ReadStrip(_tiff, Tiff.ComputeStrip(_tiff, (uint)top, (ushort)plane), start, data.Length) >= 0;
+                    ? Tiff.ReadTile(_tiff, number, start, data.Length) >= 0
+                    : Tiff.ReadStrip(_tiff, number, start, data.Length) >= 0;
             }
         }
 
@@ -176,7 +188,8 @@ internal sealed unsafe class TiffSamples
             TiffPhotometrics.MinIsBlack => Level(values[0]) * 0x010101,
             TiffPhotometrics.Palette => _palette[(int)values[0]],
             TiffPhotometrics.Separated => CmykColor.FromStored(
-                Level(values[0]) | (Level(values[1]) << 8) | (Level(values[2]) << 16) | (Level(values[3]) << 24)).ToArgb32(),
+                Level(values[0]) | (Level(values[1]) << 8) | (Level(values[2]) << 16) | (Level(values[3]) << 24)
+                ).ToArgb32(),
             _ => (Level(values[0]) << 16) | (Level(values[1]) << 8) | Level(values[2]),
         };
         return (color & 0xFFFFFF) | ((int)(((opacity * 255) + (_maxValue / 2)) / _maxValue) << 24);

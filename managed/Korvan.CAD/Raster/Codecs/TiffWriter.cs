@@ -78,7 +78,8 @@ internal sealed unsafe class TiffWriter
 
         int[]? palette = Palette(pixels);
         int rowBytes = checked((int)((((long)pixels.Width * _bits * _samples) + 7) / 8));
-        int rows = _options.RowsPerStrip > 0 ? Math.Min(_options.RowsPerStrip, pixels.Height) : Math.Max(1, StripBytes / rowBytes);
+        int rows = _options.RowsPerStrip > 0
+            ? Math.Min(_options.RowsPerStrip, pixels.Height) : Math.Max(1, StripBytes / rowBytes);
         if (_options.Compression == TiffCompressions.Jpeg)
         {
             rows = (rows + 15) / 16 * 16; // whole blocks, as the codec demands
@@ -99,7 +100,8 @@ internal sealed unsafe class TiffWriter
     {
         return _options.Photometric switch
         {
-            TiffPhotometrics.Palette => PaletteChoice.For(pixels, _options.Palette, 1 << _bits, ColorQuantizationMethod.MedianCut),
+            TiffPhotometrics.Palette =>
+                PaletteChoice.For(pixels, _options.Palette, 1 << _bits, ColorQuantizationMethod.MedianCut),
             TiffPhotometrics.MinIsBlack or TiffPhotometrics.MinIsWhite when _bits < 8 => Grays(1 << _bits),
             _ => null,
         };
@@ -167,7 +169,8 @@ internal sealed unsafe class TiffWriter
 
     private void SetCompression(bool jpegColors)
     {
-        bool predicts = _options.Compression is TiffCompressions.Lzw or TiffCompressions.AdobeDeflate or TiffCompressions.Deflate;
+        bool predicts =
+            _options.Compression is TiffCompressions.Lzw or TiffCompressions.AdobeDeflate or TiffCompressions.Deflate;
         if (predicts && _bits == 8 && _options.Photometric != TiffPhotometrics.Palette)
         {
             Set(TiffTags.Predictor, (int)_options.Predictor);
@@ -214,7 +217,8 @@ internal sealed unsafe class TiffWriter
 
         fixed (ushort* start = map)
         {
-            Tiff.Set(_tiff.Handle, (int)TiffTags.ColorMap, [(nint)start, (nint)(start + size), (nint)(start + (2 * size))]);
+            Tiff.Set(
+                _tiff.Handle, (int)TiffTags.ColorMap, [(nint)start, (nint)(start + size), (nint)(start + (2 * size))]);
         }
     }
 

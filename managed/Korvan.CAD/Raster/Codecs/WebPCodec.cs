@@ -51,16 +51,22 @@ internal static unsafe class WebPCodec
             }
 
             var pixels = new PixelGrid(width, height);
-            if (WebP.DecodeBgra(data, (nuint)source.Data.Length, pixels.Pointer, (nuint)(pixels.Count * 4), width * 4) == null)
+            var room = (nuint)(pixels.Count * 4);
+            if (WebP.DecodeBgra(data, (nuint)source.Data.Length, pixels.Pointer, room, width * 4) == null)
             {
                 pixels.Dispose();
                 throw new ImageLoadException($"The image of '{source.Name}' is damaged or cut off.");
             }
 
-            return new DecodedFile { Format = FileFormat.Webp, Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = 32 }] };
+            return new DecodedFile
+            {
+                Format = FileFormat.Webp,
+                Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = 32 }],
+            };
         }
     }
 
     // A flag of the extended header (RFC 9649, section 2.7).
-    private static bool IsAnimation(ReadOnlySpan<byte> data) => data.Length > 20 && data[12..].StartsWith("VP8X"u8) && (data[20] & 2) != 0;
+    private static bool IsAnimation(ReadOnlySpan<byte> data) =>
+        data.Length > 20 && data[12..].StartsWith("VP8X"u8) && (data[20] & 2) != 0;
 }

@@ -9,8 +9,10 @@ internal static class Ditherer
     // B. Bayer, "An optimum method for two-level rendition of continuous-tone pictures", 1973.
     private static readonly byte[] Bayer =
     [
-        0, 32, 8, 40, 2, 34, 10, 42, 48, 16, 56, 24, 50, 18, 58, 26, 12, 44, 4, 36, 14, 46, 6, 38, 60, 28, 52, 20, 62, 30, 54, 22,
-        3, 35, 11, 43, 1, 33, 9, 41, 51, 19, 59, 27, 49, 17, 57, 25, 15, 47, 7, 39, 13, 45, 5, 37, 63, 31, 55, 23, 61, 29, 53, 21,
+        0, 32, 8, 40, 2, 34, 10, 42, 48, 16, 56, 24, 50, 18, 58, 26,
+        12, 44, 4, 36, 14, 46, 6, 38, 60, 28, 52, 20, 62, 30, 54, 22,
+        3, 35, 11, 43, 1, 33, 9, 41, 51, 19, 59, 27, 49, 17, 57, 25,
+        15, 47, 7, 39, 13, 45, 5, 37, 63, 31, 55, 23, 61, 29, 53, 21,
     ];
 
     // Offsets from the pixel, and the share of the error that goes there.
@@ -99,7 +101,8 @@ internal static class Ditherer
     }
 
     private static void Diffuse(
-        PixelGrid pixels, int[] palette, (int X, int Y, int Parts)[] spread, int parts, bool serpentine, IndexRow consume)
+        PixelGrid pixels, int[] palette, (int X, int Y, int Parts)[] spread, int parts, bool serpentine,
+        IndexRow consume)
     {
         const int margin = 2;
         var lookup = new PaletteLookup(palette, ColorCompareMethod.Euclidean);

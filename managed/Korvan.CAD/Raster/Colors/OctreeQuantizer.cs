@@ -76,7 +76,8 @@ internal static class OctreeQuantizer
             Node rarest = chosen[0];
             chosen.RemoveAt(0);
             int color = rarest.Mean();
-            Node? nearest = chosen.MinBy(node => PaletteLookup.Distance(color, node.Mean(), ColorCompareMethod.Euclidean));
+            Node? nearest =
+                chosen.MinBy(node => PaletteLookup.Distance(color, node.Mean(), ColorCompareMethod.Euclidean));
             nearest!.Absorb(rarest);
         }
     }

@@ -23,7 +23,8 @@ internal static class PaletteChoice
     {
         if (given.EntriesCount > maxColors)
         {
-            throw new ImageSaveException($"The palette has {given.EntriesCount} colours; at most {maxColors} are possible here.");
+            throw new ImageSaveException(
+                $"The palette has {given.EntriesCount} colours; at most {maxColors} are possible here.");
         }
 
         return given.Argb32Entries;

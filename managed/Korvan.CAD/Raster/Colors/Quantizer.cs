@@ -18,7 +18,8 @@ internal static class Quantizer
 
         // A transparent pixel takes one entry whatever the method, or it would be mixed into colours.
         bool transparent = colors.Counts.ContainsKey(0);
-        KeyValuePair<int, long>[] visible = [.. colors.Counts.Where(static c => c.Key != 0).OrderBy(static c => (uint)c.Key)];
+        KeyValuePair<int, long>[] visible =
+            [.. colors.Counts.Where(static c => c.Key != 0).OrderBy(static c => (uint)c.Key)];
         int room = transparent ? maxColors - 1 : maxColors;
         int[] chosen = method switch
         {
@@ -65,7 +66,8 @@ internal static class Quantizer
             Enqueue(high);
         }
 
-        return [.. boxes.UnorderedItems.Select(static item => item.Element.Mean()).OrderBy(static color => (uint)color)];
+        IEnumerable<int> means = boxes.UnorderedItems.Select(static item => item.Element.Mean());
+        return [.. means.OrderBy(static color => (uint)color)];
     }
 
     /// <summary>A box of colours, with the channel of their largest range.</summary>

@@ -41,7 +41,8 @@ internal sealed unsafe class StreamBridge : IDisposable
     /// <summary>Returns how many bytes were read; -1 after a failure.</summary>
     internal nint Read(byte* target, nint count)
     {
-        return Guard(() => _stream.ReadAtLeast(new Span<byte>(target, checked((int)count)), checked((int)count), false));
+        return Guard(
+            () => _stream.ReadAtLeast(new Span<byte>(target, checked((int)count)), checked((int)count), false));
     }
 
     internal nint Write(byte* data, nint count)

@@ -21,11 +21,13 @@ internal static unsafe partial class Tiff
 
     [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsSetErrorHandlerExtR")]
     internal static partial void SetErrorHandler(
-        TiffOpenOptionsHandle options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler, nint user);
+        TiffOpenOptionsHandle options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler,
+        nint user);
 
     [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsSetWarningHandlerExtR")]
     internal static partial void SetWarningHandler(
-        TiffOpenOptionsHandle options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler, nint user);
+        TiffOpenOptionsHandle options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler,
+        nint user);
 
     [LibraryImport(Library, EntryPoint = "TIFFClientOpenExt", StringMarshalling = StringMarshalling.Utf8)]
     internal static partial TiffHandle Open(

@@ -11,7 +11,8 @@ internal static class Binarization
 
     /// <summary>Makes pixels of at least the threshold white, the others black.</summary>
     internal static void Fixed(PixelGrid pixels, int threshold) =>
-        ColorAdjustment.Each(pixels, pixel => PixelGrid.Luma(PixelGrid.Over(pixel, White)) >= threshold ? White : Black);
+        ColorAdjustment.Each(
+            pixels, pixel => PixelGrid.Luma(PixelGrid.Over(pixel, White)) >= threshold ? White : Black);
 
     /// <summary>Returns the threshold that separates the histogram into the two most distinct classes (N. Otsu,
     /// 1979).</summary>

@@ -13,7 +13,8 @@ internal static class Resampler
         return type switch
         {
             ResizeType.NearestNeighbour => Nearest(from, width, height),
-            ResizeType.Centered => Place(from, width, height, (width - from.Width) / 2, (height - from.Height) / 2, background),
+            ResizeType.Centered =>
+                Place(from, width, height, (width - from.Width) / 2, (height - from.Height) / 2, background),
             ResizeType.UpperLeft => Place(from, width, height, 0, 0, background),
             _ => Filter(from, width, height, type),
         };

@@ -95,7 +95,9 @@ internal static class Rotation
         int d = At(from, left + 1, top + 1, background);
         return (a & b & c & d & PixelGrid.Opaque) == PixelGrid.Opaque
             ? Mix(Mix(a, b, across), Mix(c, d, across), down)
-            : MixByAlpha([a, b, c, d], [(256 - across) * (256 - down), across * (256 - down), (256 - across) * down, across * down]);
+            : MixByAlpha(
+                [a, b, c, d],
+                [(256 - across) * (256 - down), across * (256 - down), (256 - across) * down, across * down]);
     }
 
     private static int At(PixelGrid from, int x, int y, int background) =>
@@ -128,7 +130,8 @@ internal static class Rotation
     private static int Mix(int one, int other, int share)
     {
         uint low = (((uint)one & 0xFF00FF) * (uint)(256 - share)) + (((uint)other & 0xFF00FF) * (uint)share) + Half;
-        uint high = ((((uint)one >> 8) & 0xFF00FF) * (uint)(256 - share)) + ((((uint)other >> 8) & 0xFF00FF) * (uint)share) + Half;
+        uint high = ((((uint)one >> 8) & 0xFF00FF) * (uint)(256 - share))
+            + ((((uint)other >> 8) & 0xFF00FF) * (uint)share) + Half;
         return (int)(((low >> 8) & 0xFF00FF) | (high & 0xFF00FF00));
     }
 }

@@ -32,7 +32,8 @@ internal class ColorConverters : IColorConverter
         Verify.NotNegative(pixelCount);
         if (rawData.Length < DataFormat.RowBytes(pixelCount))
         {
-            throw new ArgumentException($"{pixelCount} pixels of {DataFormat} need {DataFormat.RowBytes(pixelCount)} bytes;"
+            throw new ArgumentException(
+                $"{pixelCount} pixels of {DataFormat} need {DataFormat.RowBytes(pixelCount)} bytes;"
                 + $" {rawData.Length} were given.");
         }
 
@@ -71,7 +72,10 @@ internal class ColorConverters : IColorConverter
                 format,
                 static (row, pixels) => row[..(pixels.Length * 4)].CopyTo(MemoryMarshal.AsBytes(pixels)),
                 static (pixels, row) => MemoryMarshal.AsBytes(pixels).CopyTo(row)),
-            _ => new(format, static (row, pixels) => FromRgb(row, pixels, 4), static (pixels, row) => BitPacking.Rgb(pixels, row, 4)),
+            _ => new(
+                format,
+                static (row, pixels) => FromRgb(row, pixels, 4),
+                static (pixels, row) => BitPacking.Rgb(pixels, row, 4)),
         };
     }
 
@@ -186,7 +190,8 @@ internal class ColorConverters : IColorConverter
     {
         for (int i = 0; i < pixels.Length; i++)
         {
-            (row[3 * i], row[(3 * i) + 1], row[(3 * i) + 2]) = ((byte)pixels[i], (byte)(pixels[i] >> 8), (byte)(pixels[i] >> 16));
+            (row[3 * i], row[(3 * i) + 1], row[(3 * i) + 2]) =
+                ((byte)pixels[i], (byte)(pixels[i] >> 8), (byte)(pixels[i] >> 16));
         }
     }
 
@@ -218,6 +223,7 @@ internal class ColorConverters : IColorConverter
     {
         public IColorPalette Palette { get; } = palette;
 
-        private static Unpacking Reading(int bits, int[] colors) => (row, pixels) => FromIndices(row, pixels, bits, colors);
+        private static Unpacking Reading(int bits, int[] colors) =>
+            (row, pixels) => FromIndices(row, pixels, bits, colors);
     }
 }

@@ -60,7 +60,8 @@ internal sealed unsafe class PixelGrid : IDisposable
 
         if (width > MaxSide || height > MaxSide || width * height > MaxPixels)
         {
-            throw new LimitMemoryException($"An image of {width} × {height} pixels is too large: at most {MaxSide} pixels"
+            throw new LimitMemoryException(
+                $"An image of {width} × {height} pixels is too large: at most {MaxSide} pixels"
                 + $" on a side and {MaxPixels} in all.");
         }
     }
@@ -165,7 +166,8 @@ internal sealed unsafe class PixelGrid : IDisposable
             return argb;
         }
 
-        int Mix(int shift) => ((((argb >> shift) & 255) * alpha) + (((background >> shift) & 255) * (255 - alpha)) + 127) / 255;
+        int Mix(int shift) =>
+            ((((argb >> shift) & 255) * alpha) + (((background >> shift) & 255) * (255 - alpha)) + 127) / 255;
         return Opaque | (Mix(16) << 16) | (Mix(8) << 8) | Mix(0);
     }
 

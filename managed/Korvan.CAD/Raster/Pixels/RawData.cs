@@ -26,7 +26,8 @@ internal static class RawData
         long needed = ((long)settings.LineSize * (area.Height - 1)) + rowBytes;
         if (data.Length < needed)
         {
-            throw new ArgumentException($"{area.Width} × {area.Height} pixels in rows of {settings.LineSize} bytes need {needed}"
+            throw new ArgumentException(
+                $"{area.Width} × {area.Height} pixels in rows of {settings.LineSize} bytes need {needed}"
                 + $" bytes; {data.Length} were given.");
         }
 

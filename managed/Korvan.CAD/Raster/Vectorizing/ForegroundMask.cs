@@ -37,7 +37,8 @@ internal sealed class ForegroundMask
         if ((long)(pixels.Width + 2) * (pixels.Height + 2) > MaxPixels)
         {
             throw new LimitMemoryException(
-                $"An image of {pixels.Width} × {pixels.Height} pixels is too large to be traced; at most {MaxPixels} pixels are.");
+                $"An image of {pixels.Width} × {pixels.Height} pixels is too large to be traced; at most {MaxPixels}"
+                    + $" pixels are.");
         }
 
         int level = threshold < 0 ? Binarization.OtsuThreshold(pixels) : threshold;

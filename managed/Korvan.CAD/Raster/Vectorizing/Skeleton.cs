@@ -114,7 +114,8 @@ internal sealed class Skeleton
             return false;
         }
 
-        int up = cells[cell + _around[0]], right = cells[cell + _around[2]], down = cells[cell + _around[4]], left = cells[cell + _around[6]];
+        (int up, int right) = (cells[cell + _around[0]], cells[cell + _around[2]]);
+        (int down, int left) = (cells[cell + _around[4]], cells[cell + _around[6]]);
         return phase == 0
             ? up * right * down == 0 && right * down * left == 0
             : up * right * left == 0 && up * down * left == 0;
@@ -158,7 +159,8 @@ internal sealed class Skeleton
     private bool IsShortcut(int cell, int step)
     {
         int s = _mask.Stride;
-        foreach ((int diagonal, int across, int along) in (ReadOnlySpan<(int, int, int)>)[(-s + 1, 1, -s), (s + 1, 1, s), (s - 1, -1, s), (-s - 1, -1, -s)])
+        ReadOnlySpan<(int, int, int)> diagonals = [(-s + 1, 1, -s), (s + 1, 1, s), (s - 1, -1, s), (-s - 1, -1, -s)];
+        foreach ((int diagonal, int across, int along) in diagonals)
         {
             if (step == diagonal)
             {
@@ -183,7 +185,8 @@ internal sealed class Skeleton
             next = next == start || Neighbours(next) != 2 ? -1 : Unwalked(next);
         }
 
-        return line.Count < 2 ? null : new TracedPath(line, line[^1] == start, Neighbours(start) == 1, Neighbours(line[^1]) == 1);
+        return line.Count < 2
+            ? null : new TracedPath(line, line[^1] == start, Neighbours(start) == 1, Neighbours(line[^1]) == 1);
     }
 
     private int Unwalked(int cell)
@@ -191,7 +194,8 @@ internal sealed class Skeleton
         foreach (int step in _around)
         {
             int next = cell + step;
-            if (_mask.Cells[next] != 0 && !IsShortcut(cell, step) && !_walked.Contains((Math.Min(cell, next), Math.Max(cell, next))))
+            if (_mask.Cells[next] != 0 && !IsShortcut(cell, step)
+                && !_walked.Contains((Math.Min(cell, next), Math.Max(cell, next))))
             {
                 return next;
             }

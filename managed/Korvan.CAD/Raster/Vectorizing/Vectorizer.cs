@@ -83,7 +83,8 @@ internal sealed class Vectorizer
         PaperToCadOptions options = _options.PaperToCadOptions;
         foreach (TracedStroke stroke in Skeleton.Trace(mask, options.MinimumLength))
         {
-            List<Vec2> line = stroke.IsClosed ? Simplifier.Ring(stroke.Points, options.Tolerance) : Simplifier.Open(stroke.Points, options.Tolerance);
+            List<Vec2> line = stroke.IsClosed
+                ? Simplifier.Ring(stroke.Points, options.Tolerance) : Simplifier.Open(stroke.Points, options.Tolerance);
             double hundredths = stroke.Width * _unit * 100;
             short weight = Weights.MinBy(one => Math.Abs(one - hundredths));
             Add(line.ConvertAll(Placed), stroke.IsClosed, options.KeepLineWeights ? weight : (short)-1);

@@ -94,7 +94,8 @@ public class GridAndGuidesResouce : ResourceBlock
         int count = data.Length < HeaderBytes ? -1 : BinaryPrimitives.ReadInt32BigEndian(data[12..]);
         if (count < 0 || count > (data.Length - HeaderBytes) / GuideBytes)
         {
-            throw new PsdImageResourceException($"Resource {Number} has {data.Length} bytes, too few for {count} guides.");
+            throw new PsdImageResourceException(
+                $"Resource {Number} has {data.Length} bytes, too few for {count} guides.");
         }
 
         List<double> vertical = [];

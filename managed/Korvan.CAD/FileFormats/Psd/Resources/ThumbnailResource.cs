@@ -53,7 +53,8 @@ public class ThumbnailResource : ResourceBlock
         set
         {
             Verify.NotNull(value);
-            using PixelGrid pixels = JpegCodec.Decompress(new RasterSource(value, "the thumbnail", false), value, true, out _);
+            using PixelGrid pixels =
+                JpegCodec.Decompress(new RasterSource(value, "the thumbnail", false), value, true, out _);
             (Width, Height) = (pixels.Width, pixels.Height);
             _jpegData = (byte[])value.Clone();
             Change();
@@ -94,7 +95,8 @@ public class ThumbnailResource : ResourceBlock
         double scale = Math.Min(1, (double)largestSide / Math.Max(image.Width, image.Height));
         int width = (int)Math.Max(1, Math.Round(image.Width * scale));
         int height = (int)Math.Max(1, Math.Round(image.Height * scale));
-        using PixelGrid pixels = Raster.Operations.Resampler.Resize(image.Pixels, width, height, ResizeType.Adaptive, 0);
+        using PixelGrid pixels =
+            Raster.Operations.Resampler.Resize(image.Pixels, width, height, ResizeType.Adaptive, 0);
         pixels.Flatten(-1);
         return JpegCodec.Compress(pixels, Jpeg.JpegCompressionColorMode.YCbCr, Quality, false);
     }

@@ -40,7 +40,8 @@ public class TransparencyIndexResource : ResourceBlock
     {
         if (data.Length < 2 || BinaryPrimitives.ReadUInt16BigEndian(data) > 255)
         {
-            throw new PsdImageResourceException($"Resource {Number} has {data.Length} bytes; a palette index was expected.");
+            throw new PsdImageResourceException(
+                $"Resource {Number} has {data.Length} bytes; a palette index was expected.");
         }
 
         return new TransparencyIndexResource(BinaryPrimitives.ReadUInt16BigEndian(data));

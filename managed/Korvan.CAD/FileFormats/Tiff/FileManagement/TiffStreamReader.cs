@@ -119,7 +119,8 @@ public class TiffStreamReader
     {
         if (position < 0 || count < 0 || position > _data.Length - count)
         {
-            throw new TiffImageException($"{count} bytes at {position} lie outside of a block of {_data.Length} bytes.");
+            throw new TiffImageException(
+                $"{count} bytes at {position} lie outside of a block of {_data.Length} bytes.");
         }
 
         return _data.AsSpan((int)position, count);

@@ -48,7 +48,8 @@ public static class TiffTagFactory
 
     internal static bool Knows(int type) => Creators.ContainsKey((TiffDataTypes)type);
 
-    private static void Add(TiffDataTypes type, Func<int, TiffDataType> create) => Creators.Add(type, new Creator(type, create));
+    private static void Add(TiffDataTypes type, Func<int, TiffDataType> create) =>
+        Creators.Add(type, new Creator(type, create));
 
     private sealed class Creator(TiffDataTypes type, Func<int, TiffDataType> create) : ITiffTagCreator
     {

@@ -56,7 +56,8 @@ public class TiffASCIIType : TiffDataType
     /// <inheritdoc/>
     public override string ToString() => $"{TagId} ({TagType}): {_text}";
 
-    internal override void Read(TiffStreamReader reader, long position, int count) => _text = reader.ReadText(position, count);
+    internal override void Read(TiffStreamReader reader, long position, int count) =>
+        _text = reader.ReadText(position, count);
 
     internal override void Write(TiffStreamWriter writer) => writer.WriteText(_text);
 }
