@@ -6,7 +6,7 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
 
-/// <summary>Where the pixels of all images of this process are kept, and how much they may take.</summary>
+/// <summary>The storage of the pixels of all images in this process, and its limits.</summary>
 public static class Cache
 {
     private const long DefaultMemory = 1L << 30;
@@ -19,7 +19,7 @@ public static class Cache
     private static long _memoryUsed;
     private static long _diskUsed;
 
-    /// <summary>Gets or sets where pixels are kept. Images that exist stay where they are.</summary>
+    /// <summary>Gets or sets where the pixels of new images are stored. Existing images stay where they are.</summary>
     public static CacheType CacheType { get; set; }
 
     /// <summary>Gets or sets the folder of the files; the system's folder for temporary files by default. The files
@@ -66,8 +66,8 @@ public static class Cache
         }
     }
 
-    /// <summary>Gets or sets whether an image that is cropped moves into a place of its exact size at once. By default
-    /// it keeps its place, and the free rest with it, until it is disposed or resized.</summary>
+    /// <summary>Gets or sets whether cropping an image reallocates its pixels to the exact size at once. By default it
+    /// keeps the larger allocation until it is disposed or resized.</summary>
     public static bool ExactReallocateOnly { get; set; }
 
     /// <summary>Gets how many bytes the pixels of all images take in memory now.</summary>
@@ -76,7 +76,7 @@ public static class Cache
     /// <summary>Gets how many bytes the pixels of all images take on disk now.</summary>
     public static long AllocatedDiskBytesCount => Interlocked.Read(ref _diskUsed);
 
-    /// <summary>Sets everything back to what it is at the start of the process.</summary>
+    /// <summary>Resets all settings to their values at the start of the process.</summary>
     public static void SetDefaults()
     {
         CacheType = CacheType.Auto;
@@ -86,7 +86,7 @@ public static class Cache
         ExactReallocateOnly = false;
     }
 
-    /// <summary>Books a place for pixels; the answer tells whether it is to be on disk.</summary>
+    /// <summary>Reserves storage for pixels; returns whether it is on disk.</summary>
     internal static bool Book(long bytes)
     {
         lock (Gate)
@@ -97,7 +97,8 @@ public static class Cache
             {
                 string place = onDisk ? $"on disk would pass Cache.{nameof(MaxDiskSpaceForCache)}"
                     : $"in memory would pass Cache.{nameof(MaxMemoryForCache)}";
-                throw new LimitMemoryException($"{bytes} bytes for pixels {place} ({(onDisk ? _diskLimit : _memoryLimit)} bytes,"
+                throw new LimitMemoryException(
+                    $"{bytes} bytes for pixels {place} ({(onDisk ? _diskLimit : _memoryLimit)} bytes,"
                     + $" {(onDisk ? _diskUsed : _memoryUsed)} of them taken); dispose images or raise the limit.");
             }
 

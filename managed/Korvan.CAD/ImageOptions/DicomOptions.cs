@@ -27,7 +27,7 @@ public class DicomOptions : ImageOptionsBase
     internal override void VerifyHonoured(OutputKind kind)
     {
         base.VerifyHonoured(kind);
-        if (Compression.Type != CompressionType.Jpeg && Compression.Quality != Compression.UsualQuality)
+        if (Compression.Type != CompressionType.Jpeg && Compression.Quality != Compression.DefaultQuality)
         {
             throw NotHonoured($"{nameof(Compression)}.{nameof(Compression.Quality)}",
                 "set its type to JPEG, as other compression is lossless");

@@ -5,10 +5,10 @@ using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.Raster;
 
-/// <summary>What reads and writes one format of pixels.</summary>
+/// <summary>The codec of one raster format.</summary>
 internal sealed class RasterCodec
 {
-    /// <summary>Tells files of the format by their first bytes.</summary>
+    /// <summary>Recognizes files of the format by their first bytes.</summary>
     internal delegate bool Signature(ReadOnlySpan<byte> head);
 
     /// <summary>Gets the short name in messages and lists.</summary>
@@ -16,7 +16,7 @@ internal sealed class RasterCodec
 
     internal required FileFormat Format { get; init; }
 
-    internal required Signature IsOwn { get; init; }
+    internal required Signature Matches { get; init; }
 
     internal required Func<RasterSource, DecodedFile> Reader { get; init; }
 
@@ -28,10 +28,10 @@ internal sealed class RasterCodec
 
     internal required Action<IRasterPages, ImageOptionsBase, Stream> Writer { get; init; }
 
-    /// <summary>Gets what makes the options that an image of the format is written back with.</summary>
+    /// <summary>Gets the factory of the options that an image of the format is saved with.</summary>
     internal required Func<ImageOptionsBase> OwnOptions { get; init; }
 
-    /// <summary>Makes a codec of a format whose files hold one page.</summary>
+    /// <summary>Creates the writer of a format whose files hold one page.</summary>
     internal static Action<IRasterPages, ImageOptionsBase, Stream> Single<T>(Action<RasterPageData, T, Stream> write)
         where T : ImageOptionsBase => (pages, options, output) =>
         {
@@ -41,8 +41,8 @@ internal sealed class RasterCodec
 
     /// <summary>Decodes a file.</summary>
     /// <param name="data">Its bytes.</param>
-    /// <param name="name">What it is called in messages.</param>
-    /// <param name="lenient">Whether as much as possible is read of a damaged file.</param>
+    /// <param name="name">Its name in messages.</param>
+    /// <param name="lenient">Whether a damaged file is read as far as possible.</param>
     /// <param name="background">The colour of missing pixels.</param>
     /// <exception cref="ImageLoadException">The file is damaged.</exception>
     internal DecodedFile Decode(byte[] data, string name, bool lenient, int? background = null)

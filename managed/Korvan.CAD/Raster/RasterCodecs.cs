@@ -9,7 +9,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster;
 
-/// <summary>The codecs of all formats of pixels.</summary>
+/// <summary>The codecs of all raster formats.</summary>
 internal static class RasterCodecs
 {
     private const int DefaultResolution = 96;
@@ -22,7 +22,7 @@ internal static class RasterCodecs
         {
             Name = "PNG",
             Format = FileFormat.Png,
-            IsOwn = static head => head.StartsWith((ReadOnlySpan<byte>)[0x89, (byte)'P', (byte)'N', (byte)'G']),
+            Matches = static header => header.StartsWith((ReadOnlySpan<byte>)[0x89, (byte)'P', (byte)'N', (byte)'G']),
             Reader = PngReader.Read,
             OptionsType = typeof(PngOptions),
             Writer = RasterCodec.Single<PngOptions>(PngWriter.Write),
@@ -32,12 +32,12 @@ internal static class RasterCodecs
         {
             Name = "JPEG",
             Format = FileFormat.Jpeg,
-            IsOwn = static head => head.StartsWith((ReadOnlySpan<byte>)[0xFF, 0xD8, 0xFF]),
+            Matches = static header => header.StartsWith((ReadOnlySpan<byte>)[0xFF, 0xD8, 0xFF]),
             Reader = JpegReader.Read,
             OptionsType = typeof(JpegOptions),
             Writer = RasterCodec.Single<JpegOptions>(static (page, options, output) =>
             {
-                page.Pixels.Flatten(White); // the format has no opacity
+                page.Pixels.Flatten(White); // the format has no alpha
                 JpegWriter.Write(page, options, output);
             }),
             OwnOptions = static () => new JpegOptions(),
@@ -46,7 +46,7 @@ internal static class RasterCodecs
         {
             Name = "GIF",
             Format = FileFormat.Gif,
-            IsOwn = static head => head.StartsWith("GIF8"u8),
+            Matches = static header => header.StartsWith("GIF8"u8),
             Reader = GifReader.Read,
             OptionsType = typeof(GifOptions),
             HoldsPages = true,
@@ -57,7 +57,7 @@ internal static class RasterCodecs
         {
             Name = "BMP",
             Format = FileFormat.Bmp,
-            IsOwn = static head => head.StartsWith("BM"u8) && head.Length > BmpReader.FileHeaderLength,
+            Matches = static header => header.StartsWith("BM"u8) && header.Length > BmpReader.FileHeaderLength,
             Reader = BmpReader.Read,
             OptionsType = typeof(BmpOptions),
             Writer = RasterCodec.Single<BmpOptions>(BmpWriter.Write),
@@ -67,8 +67,8 @@ internal static class RasterCodecs
         {
             Name = "TIFF",
             Format = FileFormat.Tiff,
-            IsOwn = static head => head.StartsWith("II\x2A\0"u8) || head.StartsWith("MM\0\x2A"u8)
-                || head.StartsWith("II\x2B\0"u8) || head.StartsWith("MM\0\x2B"u8),
+            Matches = static header => header.StartsWith("II\x2A\0"u8) || header.StartsWith("MM\0\x2A"u8)
+                || header.StartsWith("II\x2B\0"u8) || header.StartsWith("MM\0\x2B"u8),
             Reader = TiffReader.Read,
             OptionsType = typeof(TiffOptions),
             HoldsPages = true,
@@ -80,8 +80,8 @@ internal static class RasterCodecs
         {
             Name = "JPEG 2000",
             Format = FileFormat.Jpeg2000,
-            IsOwn = static head => head.StartsWith((ReadOnlySpan<byte>)[0xFF, 0x4F, 0xFF, 0x51])
-                || head.StartsWith("\0\0\0\fjP  \r\n"u8),
+            Matches = static header => header.StartsWith((ReadOnlySpan<byte>)[0xFF, 0x4F, 0xFF, 0x51])
+                || header.StartsWith("\0\0\0\fjP  \r\n"u8),
             Reader = Jpeg2000Codec.Read,
             OptionsType = typeof(Jpeg2000Options),
             Writer = RasterCodec.Single<Jpeg2000Options>(
@@ -92,7 +92,7 @@ internal static class RasterCodecs
         {
             Name = "PSD",
             Format = FileFormat.Psd,
-            IsOwn = static head => head.StartsWith("8BPS"u8),
+            Matches = static header => header.StartsWith("8BPS"u8),
             Reader = PsdReader.Read,
             OptionsType = typeof(PsdOptions),
             Writer = RasterCodec.Single<PsdOptions>(PsdWriter.Write),
@@ -102,8 +102,8 @@ internal static class RasterCodecs
         {
             Name = "WebP",
             Format = FileFormat.Webp,
-            IsOwn = static head => head.StartsWith("RIFF"u8) && head.Length > 12
-                && head[8..12].SequenceEqual("WEBP"u8),
+            Matches = static header => header.StartsWith("RIFF"u8) && header.Length > 12
+                && header[8..12].SequenceEqual("WEBP"u8),
             Reader = WebPCodec.Read,
             OptionsType = typeof(WebPOptions),
             Writer = RasterCodec.Single<WebPOptions>(
@@ -114,7 +114,7 @@ internal static class RasterCodecs
         {
             Name = "DICOM",
             Format = FileFormat.Dicom,
-            IsOwn = static head => head.Length > 132 && head[128..132].SequenceEqual("DICM"u8),
+            Matches = static header => header.Length > 132 && header[128..132].SequenceEqual("DICM"u8),
             Reader = DicomReader.Read,
             OptionsType = typeof(DicomOptions),
             HoldsPages = true,
@@ -123,12 +123,12 @@ internal static class RasterCodecs
         },
     ];
 
-    /// <summary>Gives the codec of a file by its first bytes; nothing for files of other formats.</summary>
-    internal static RasterCodec? Detect(ReadOnlySpan<byte> head)
+    /// <summary>Returns the codec of a file by its first bytes; null for other formats.</summary>
+    internal static RasterCodec? Detect(ReadOnlySpan<byte> header)
     {
         foreach (RasterCodec codec in All)
         {
-            if (codec.IsOwn(head))
+            if (codec.Matches(header))
             {
                 return codec;
             }
@@ -137,10 +137,10 @@ internal static class RasterCodecs
         return null;
     }
 
-    /// <summary>Gives the codec that options choose; nothing for options of formats that hold no pixels.</summary>
+    /// <summary>Returns the codec of options; null for options of other formats.</summary>
     internal static RasterCodec? Find(Type options) => All.FirstOrDefault(codec => codec.OptionsType == options);
 
-    /// <summary>Writes pixels at the default resolution of 96 pixels an inch.</summary>
+    /// <summary>Writes pixels at the default resolution of 96 pixels per inch.</summary>
     internal static void Write(PixelGrid pixels, ImageOptionsBase options, Stream output)
     {
         Find(options.GetType())!.Writer(new OnePage(pixels), options, output);

@@ -3,10 +3,10 @@ using System.IO;
 
 namespace Korvan.CAD.Raster;
 
-/// <summary>Output of formats whose writers go back to what they wrote.</summary>
+/// <summary>Output for writers that seek back to what they wrote.</summary>
 internal static class SeekableOutput
 {
-    /// <summary>Hands a stream on that can be read and sought from its first byte.</summary>
+    /// <summary>Calls a writer with a stream that can be read and sought from its first byte.</summary>
     internal static void Write(Stream output, Action<Stream> write)
     {
         if (output.CanSeek && output.CanRead && output.Position == 0 && output.Length == 0)

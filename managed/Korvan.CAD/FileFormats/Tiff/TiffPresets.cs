@@ -7,7 +7,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.FileFormats.Tiff;
 
-/// <summary>Which combinations of compression and samples there are.</summary>
+/// <summary>The valid combinations of compression and samples.</summary>
 internal static class TiffPresets
 {
     private static readonly int[] Rgb = [8, 8, 8];
@@ -15,7 +15,8 @@ internal static class TiffPresets
     private static readonly int[] Byte = [8];
     private static readonly int[] Bit = [1];
 
-    internal static (TiffCompressions Compression, TiffPhotometrics Photometric, int[] Bits) Of(TiffExpectedFormat format) => format switch
+    internal static (TiffCompressions Compression, TiffPhotometrics Photometric, int[] Bits) Of(
+        TiffExpectedFormat format) => format switch
     {
         TiffExpectedFormat.TiffNoCompressionRgb => (TiffCompressions.None, TiffPhotometrics.Rgb, Rgb),
         TiffExpectedFormat.TiffNoCompressionRgba => (TiffCompressions.None, TiffPhotometrics.Rgb, Rgba),
@@ -46,7 +47,8 @@ internal static class TiffPresets
         }
 
         bool gray = options.Photometric is TiffPhotometrics.MinIsBlack or TiffPhotometrics.MinIsWhite;
-        if (!gray && options.Photometric is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette or TiffPhotometrics.Separated))
+        if (!gray && options.Photometric is not
+            (TiffPhotometrics.Rgb or TiffPhotometrics.Palette or TiffPhotometrics.Separated))
         {
             return TiffOptionsError.PhotometricNotSupported;
         }
@@ -77,18 +79,23 @@ internal static class TiffPresets
         return ValidateCompression(options.Compression, gray, bits, options.Photometric);
     }
 
-    /// <summary>The options that hold for some combinations only: whether each is set, whether it is followed, and what
-    /// would be right.</summary>
-    internal static IEnumerable<(string Name, bool IsSet, bool IsFollowed, string Advice)> Conditions(TiffOptions options)
+    /// <summary>Options that are valid for some combinations only: whether each is set, whether it is valid, and the
+    /// error otherwise.</summary>
+    internal static IEnumerable<(string Name, bool IsSet, bool IsFollowed, string Advice)> Conditions(
+        TiffOptions options)
     {
         bool numbers = options.Photometric == TiffPhotometrics.Palette || options.BitsPerPixel < 8;
         yield return (nameof(TiffOptions.Threshold), options.Threshold != TiffThresholds.NoDithering, numbers,
             "choose a palette or fewer than 8 bits, as other pixels keep their colours");
         yield return (nameof(TiffOptions.AlphaStorage), options.AlphaStorage != TiffAlphaStorage.Unassociated,
-            options.Photometric == TiffPhotometrics.Rgb && options.SamplesPerPixel == 4, "choose red, green, blue and a fourth sample");
-        yield return (nameof(TiffOptions.FillOrder), options.FillOrder != TiffFillOrders.Msb2Lsb, IsFax(options.Compression),
+            options.Photometric == TiffPhotometrics.Rgb && options.SamplesPerPixel == 4,
+            "choose red, green, blue and a fourth sample");
+        yield return (
+            nameof(TiffOptions.FillOrder), options.FillOrder != TiffFillOrders.Msb2Lsb, IsFax(options.Compression),
             "choose a facsimile code");
-        yield return (nameof(TiffOptions.FaxT4Options), options.FaxT4Options != 0, options.Compression == TiffCompressions.CcittFax3,
+        yield return (
+            nameof(TiffOptions.FaxT4Options), options.FaxT4Options != 0,
+            options.Compression == TiffCompressions.CcittFax3,
             "choose CCITT_FAX3");
         yield return (nameof(TiffOptions.CompressedQuality), options.CompressedQuality != TiffOptions.DefaultQuality,
             options.Compression == TiffCompressions.Jpeg, "choose JPEG as compression");

@@ -17,7 +17,7 @@ internal static class RasterFormats
     {
         Name = codec.Name,
         Formats = [codec.Format],
-        Detect = source => codec.IsOwn(source.FirstBytes) ? codec.Format : FileFormat.Undefined,
+        Detect = source => codec.Matches(source.FirstBytes) ? codec.Format : FileFormat.Undefined,
         Read = (data, name, _, options) => codec.Decode(
             data, name, options.IgnoreErrors,
             options.DataBackgroundColor.IsEmpty ? null : options.DataBackgroundColor.ToArgb()),

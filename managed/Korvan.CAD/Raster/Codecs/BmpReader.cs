@@ -8,17 +8,15 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>
-/// Reads device-independent bitmaps: heads of OS/2 1 and of Windows up to version 5; 1, 2, 4, 8, 16, 24 and 32 bits a
-/// pixel, masks, and run lengths.
-/// </summary>
+/// <summary>Reads device-independent bitmaps: headers of OS/2 1 and of Windows up to version 5; 1, 2, 4, 8, 16, 24 and
+/// 32 bits per pixel, masks, and run lengths.</summary>
 internal sealed class BmpReader
 {
     internal const int FileHeaderLength = 14;
     private const double MetresPerInch = 0.0254;
 
     private readonly RasterSource _source;
-    private readonly int _headSize;
+    private readonly int _headerSize;
     private readonly int _width;
     private readonly int _height;
     private readonly bool _topDown;
@@ -31,13 +29,14 @@ internal sealed class BmpReader
     {
         _source = source;
         ReadOnlySpan<byte> data = source.Data;
-        _headSize = Number(FileHeaderLength);
-        if (_headSize is not (12 or 40 or 52 or 56 or 64 or 108 or 124) || data.Length < FileHeaderLength + _headSize)
+        _headerSize = Number(FileHeaderLength);
+        if (_headerSize is not (12 or 40 or 52 or 56 or 64 or 108 or 124)
+            || data.Length < FileHeaderLength + _headerSize)
         {
-            throw Damaged($"its head says that it has {_headSize} bytes");
+            throw Damaged($"its header states a size of {_headerSize} bytes");
         }
 
-        bool old = _headSize == 12;
+        bool old = _headerSize == 12;
         _width = old ? Short(18) : Number(18);
         int rows = old ? Short(20) : Number(22);
         _topDown = rows < 0;
@@ -46,18 +45,19 @@ internal sealed class BmpReader
         _compression = old ? BitmapCompression.Rgb : (BitmapCompression)Number(30);
         if (_width < 1 || _height < 1)
         {
-            throw Damaged($"it says that it has {_width} × {rows} pixels");
+            throw Damaged($"it claims {_width} × {rows} pixels");
         }
 
-        PixelGrid.Verify(_width, _height);
-        VerifyKind();
+        PixelGrid.VerifySize(_width, _height);
+        VerifyEncoding();
     }
 
     internal static DecodedFile Read(RasterSource source)
     {
         if (source.Data.Length < FileHeaderLength + 12)
         {
-            throw new BmpImageException($"'{source.Name}' ends after {source.Data.Length} bytes, before the head of a bitmap.");
+            throw new BmpImageException(
+                $"'{source.Name}' ends after {source.Data.Length} bytes, before the end of the header.");
         }
 
         var reader = new BmpReader(source);
@@ -68,13 +68,13 @@ internal sealed class BmpReader
     {
         int offset = Number(10);
         int tables = ReadTables();
-        if (offset < FileHeaderLength + _headSize || offset > _source.Data.Length)
+        if (offset < FileHeaderLength + _headerSize || offset > _source.Data.Length)
         {
             offset = Math.Min(tables, _source.Data.Length);
         }
 
         ReadOnlySpan<byte> data = _source.Data.AsSpan(offset);
-        bool density = _headSize >= 40;
+        bool density = _headerSize >= 40;
         bool runs = _compression is BitmapCompression.Rle8 or BitmapCompression.Rle4;
         return new DecodedFrame
         {
@@ -86,7 +86,7 @@ internal sealed class BmpReader
         };
     }
 
-    private void VerifyKind()
+    private void VerifyEncoding()
     {
         bool known = (_compression, _bits) switch
         {
@@ -99,21 +99,22 @@ internal sealed class BmpReader
         if (!known)
         {
             string name = Enum.IsDefined(_compression) ? _compression.ToString() : $"0x{(int)_compression:X}";
-            throw new BmpImageException($"'{_source.Name}' stores {_bits} bits a pixel with compression {name}, which is not read.");
+            throw new BmpImageException(
+                $"'{_source.Name}' stores {_bits} bits per pixel with compression {name}, which is not read.");
         }
     }
 
-    /// <summary>Reads masks and palette; gives where they end.</summary>
+    /// <summary>Reads masks and palette; returns where they end.</summary>
     private int ReadTables()
     {
-        int at = FileHeaderLength + _headSize;
+        int at = FileHeaderLength + _headerSize;
         if (_bits is 16 or 32)
         {
-            uint[] usual = _bits == 16 ? [0x7C00, 0x3E0, 0x1F, 0] : [0xFF0000, 0xFF00, 0xFF, 0];
-            usual.CopyTo(_masks, 0);
+            uint[] defaults = _bits == 16 ? [0x7C00, 0x3E0, 0x1F, 0] : [0xFF0000, 0xFF00, 0xFF, 0];
+            defaults.CopyTo(_masks, 0);
             int count = _compression switch
             {
-                BitmapCompression.Bitfields => _headSize >= 56 ? 4 : 3,
+                BitmapCompression.Bitfields => _headerSize >= 56 ? 4 : 3,
                 BitmapCompression.AlphaBitfields => 4,
                 _ => 0,
             };
@@ -122,7 +123,7 @@ internal sealed class BmpReader
                 _masks[i] = (uint)Number(54 + (4 * i));
             }
 
-            return _headSize == 40 ? at + (4 * count) : at;
+            return _headerSize == 40 ? at + (4 * count) : at;
         }
 
         if (_bits > 8)
@@ -130,12 +131,12 @@ internal sealed class BmpReader
             return at;
         }
 
-        int entry = _headSize == 12 ? 3 : 4;
-        int stated = _headSize == 12 ? 0 : Number(46);
+        int entry = _headerSize == 12 ? 3 : 4;
+        int stated = _headerSize == 12 ? 0 : Number(46);
         int colors = stated is > 0 and <= 256 ? Math.Min(stated, 1 << _bits) : 1 << _bits;
         colors = Math.Min(colors, (_source.Data.Length - at) / entry);
         _palette = new int[1 << _bits];
-        _palette.AsSpan().Fill(PixelGrid.Opaque); // a number past the colours is black
+        _palette.AsSpan().Fill(PixelGrid.Opaque); // an index past the colours is black
         for (int i = 0; i < colors; i++)
         {
             ReadOnlySpan<byte> color = _source.Data.AsSpan(at + (i * entry));
@@ -147,7 +148,7 @@ internal sealed class BmpReader
 
     private PixelGrid FromRuns(ReadOnlySpan<byte> data)
     {
-        // A pair of bytes makes at most 255 pixels, and a jump may leave any number of them out.
+        // No check of the size against the data: a pair of bytes makes up to 255 pixels, and a delta skips any number.
         var indices = new byte[(long)_width * _height];
         try
         {
@@ -155,11 +156,11 @@ internal sealed class BmpReader
         }
         catch (RleCompressorException e) when (!_source.Lenient)
         {
-            throw new BmpImageException($"The picture of '{_source.Name}' is damaged.", e);
+            throw new BmpImageException($"The image of '{_source.Name}' is damaged.", e);
         }
         catch (RleCompressorException)
         {
-            // What was read so far is shown.
+            // The pixels that were read are shown.
         }
 
         var pixels = new PixelGrid(_width, _height);
@@ -181,7 +182,8 @@ internal sealed class BmpReader
         long needed = (rowBytes * (_height - 1)) + ((((long)_width * _bits) + 7) / 8);
         if (data.Length < needed && !_source.Lenient)
         {
-            throw Damaged($"{_width} × {_height} pixels of {_bits} bits need {needed} bytes, but {data.Length} are left");
+            throw Damaged(
+                $"{_width} × {_height} pixels of {_bits} bits need {needed} bytes, but {data.Length} are left");
         }
 
         PixelGrid pixels = _source.NewGrid(_width, _height);
@@ -212,7 +214,7 @@ internal sealed class BmpReader
         return pixels;
     }
 
-    /// <summary>Unpacks a row; tells whether any pixel has an opacity above 0.</summary>
+    /// <summary>Unpacks a row; returns whether any pixel has an alpha above 0.</summary>
     private bool Unpack(ReadOnlySpan<byte> from, Span<int> to)
     {
         if (_bits == 24)
@@ -254,11 +256,11 @@ internal sealed class BmpReader
         }
 
         int shift = BitOperations.TrailingZeroCount(mask);
-        ulong most = mask >> shift;
-        return (int)((((value & mask) >> shift) * 255ul + (most / 2)) / most);
+        ulong max = mask >> shift;
+        return (int)((((value & mask) >> shift) * 255ul + (max / 2)) / max);
     }
 
-    // Many programs leave the fourth byte at 0 and mean opaque pixels.
+    // Many programs leave the fourth byte at 0 in opaque pixels.
     private static void MakeOpaque(Span<int> row)
     {
         foreach (ref int pixel in row)
@@ -275,7 +277,7 @@ internal sealed class BmpReader
     {
         return at + count <= _source.Data.Length
             ? _source.Data.AsSpan(at, count)
-            : throw Damaged($"it ends after {_source.Data.Length} bytes, inside of its head");
+            : throw Damaged($"it ends after {_source.Data.Length} bytes, inside its header");
     }
 
     private BmpImageException Damaged(string why) => new($"'{_source.Name}' is no bitmap that can be read: {why}.");

@@ -11,8 +11,8 @@ namespace Korvan.CAD.Raster.Codecs;
 internal sealed class DicomReader
 {
     private const int Preamble = 132;
-    private const int DeepestSequence = 16;
-    private const int LongestText = 1024;
+    private const int MaxSequenceDepth = 16;
+    private const int MaxTextBytes = 1024;
 
     private readonly RasterSource _source;
     private readonly Dictionary<uint, byte[]> _values = [];
@@ -25,10 +25,10 @@ internal sealed class DicomReader
 
     internal RasterSource Source => _source;
 
-    /// <summary>The bytes of plain pixels.</summary>
+    /// <summary>Gets the bytes of uncompressed pixels.</summary>
     internal ReadOnlyMemory<byte> PlainPixels { get; private set; }
 
-    /// <summary>The pieces of compressed pixels, without the table of places.</summary>
+    /// <summary>Gets the fragments of compressed pixels, without the offset table.</summary>
     internal List<ReadOnlyMemory<byte>>? Fragments { get; private set; }
 
     internal string Syntax => Text(DicomTags.TransferSyntax);
@@ -37,25 +37,28 @@ internal sealed class DicomReader
     {
         var reader = new DicomReader(source);
         reader.ReadElements();
-        return new DecodedFile { Format = FileFormat.Dicom, Frames = DicomPicture.Frames(reader) };
+        return new DecodedFile { Format = FileFormat.Dicom, Frames = DicomFrames.Frames(reader) };
     }
 
     internal string Text(uint tag) =>
         _values.TryGetValue(tag, out byte[]? data) ? Encoding.ASCII.GetString(data).TrimEnd('\0', ' ') : "";
 
     internal int Number(uint tag, int missing) =>
-        _values.TryGetValue(tag, out byte[]? data) && data.Length >= 2 ? BinaryPrimitives.ReadUInt16LittleEndian(data) : missing;
+        _values.TryGetValue(tag, out byte[]? data) && data.Length >= 2
+            ? BinaryPrimitives.ReadUInt16LittleEndian(data) : missing;
 
-    /// <summary>The first number of a text of decimal numbers.</summary>
+    /// <summary>Returns the first number of a decimal string.</summary>
     internal double Real(uint tag, double missing)
     {
         string first = Text(tag).Split('\\')[0].Trim();
-        return double.TryParse(first, NumberStyles.Float, CultureInfo.InvariantCulture, out double value) && double.IsFinite(value)
+        return double.TryParse(first, NumberStyles.Float, CultureInfo.InvariantCulture, out double value)
+            && double.IsFinite(value)
             ? value
             : missing;
     }
 
-    internal ImageLoadException Damaged(string why) => new($"'{_source.Name}' is no DICOM file that can be read: {why}.");
+    internal ImageLoadException Damaged(string why) =>
+        new($"'{_source.Name}' is no DICOM file that can be read: {why}.");
 
     private void ReadElements()
     {
@@ -67,7 +70,7 @@ internal sealed class DicomReader
                 Begin();
             }
 
-            (string type, uint length) = Head();
+            (string type, uint length) = ReadHeader();
             if (tag == DicomTags.PixelData)
             {
                 ReadPixels(length);
@@ -80,28 +83,29 @@ internal sealed class DicomReader
         throw Damaged("it holds no pixels");
     }
 
-    // The group of the file itself always states types; the rest does as the transfer syntax says.
+    // The file meta group always states types; in the rest that depends on the transfer syntax.
     private void Begin()
     {
         _values[0] = [];
         _implicitTypes = Syntax == DicomTags.ImplicitLittleEndian;
-        if (!DicomPicture.Reads(Syntax))
+        if (!DicomFrames.Reads(Syntax))
         {
             throw new ImageLoadException($"'{_source.Name}' has the transfer syntax '{Syntax}', which is not read.");
         }
     }
 
-    private (string Type, uint Length) Head()
+    private (string Type, uint Length) ReadHeader()
     {
-        ReadOnlySpan<byte> head = Take(_at, 8);
+        ReadOnlySpan<byte> header = Take(_at, 8);
         if (_implicitTypes && Tag(_at) >> 16 > 2)
         {
             _at += 8;
-            return ("UN", BinaryPrimitives.ReadUInt32LittleEndian(head[4..]));
+            return ("UN", BinaryPrimitives.ReadUInt32LittleEndian(header[4..]));
         }
 
-        string type = Encoding.ASCII.GetString(head[4..6]);
-        if (type is "OB" or "OW" or "OF" or "OD" or "OL" or "OV" or "SQ" or "UN" or "UT" or "UC" or "UR" or "SV" or "UV")
+        string type = Encoding.ASCII.GetString(header[4..6]);
+        if (type is "OB" or "OW" or "OF" or "OD" or "OL" or "OV" or "SQ" or "UN" or "UT" or "UC" or "UR" or "SV"
+            or "UV")
         {
             uint length = BinaryPrimitives.ReadUInt32LittleEndian(Take(_at + 8, 4));
             _at += 12;
@@ -109,7 +113,7 @@ internal sealed class DicomReader
         }
 
         _at += 8;
-        return (type, BinaryPrimitives.ReadUInt16LittleEndian(head[6..]));
+        return (type, BinaryPrimitives.ReadUInt16LittleEndian(header[6..]));
     }
 
     private void ReadValue(uint tag, string type, uint length)
@@ -122,7 +126,7 @@ internal sealed class DicomReader
 
         ReadOnlySpan<byte> data = Take(_at, length);
         _at += (int)length;
-        if (type != "SQ" && length <= LongestText && tag >> 16 is 2 or 0x28)
+        if (type != "SQ" && length <= MaxTextBytes && tag >> 16 is 2 or 0x28)
         {
             _values[tag] = data.ToArray();
         }
@@ -130,9 +134,9 @@ internal sealed class DicomReader
 
     private void SkipSequence(int depth)
     {
-        if (depth > DeepestSequence)
+        if (depth > MaxSequenceDepth)
         {
-            throw Damaged($"its sequences are nested more than {DeepestSequence} deep");
+            throw Damaged($"its sequences are nested more than {MaxSequenceDepth} deep");
         }
 
         while (true)
@@ -165,7 +169,7 @@ internal sealed class DicomReader
     {
         while (Tag(_at) != DicomTags.ItemEnd)
         {
-            (_, uint length) = Head();
+            (_, uint length) = ReadHeader();
             if (length == DicomTags.UndefinedLength)
             {
                 SkipSequence(depth + 1);
@@ -183,13 +187,13 @@ internal sealed class DicomReader
     {
         if (length != DicomTags.UndefinedLength)
         {
-            int there = _source.Data.Length - _at;
-            if (length > there && !_source.Lenient)
+            int available = _source.Data.Length - _at;
+            if (length > available && !_source.Lenient)
             {
-                throw Damaged($"{length} bytes of pixels are announced, but {there} are left");
+                throw Damaged($"{length} bytes of pixels are announced, but {available} are left");
             }
 
-            PlainPixels = _source.Data.AsMemory(_at, (int)Math.Min(length, there));
+            PlainPixels = _source.Data.AsMemory(_at, (int)Math.Min(length, available));
             return;
         }
 
@@ -213,7 +217,8 @@ internal sealed class DicomReader
     private uint Tag(int place)
     {
         ReadOnlySpan<byte> data = Take(place, 4);
-        return ((uint)BinaryPrimitives.ReadUInt16LittleEndian(data) << 16) | BinaryPrimitives.ReadUInt16LittleEndian(data[2..]);
+        uint group = BinaryPrimitives.ReadUInt16LittleEndian(data);
+        return (group << 16) | BinaryPrimitives.ReadUInt16LittleEndian(data[2..]);
     }
 
     private ReadOnlySpan<byte> Take(long place, uint count)

@@ -12,13 +12,13 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Reads GIF: each frame as it is seen, over what the frames before it left.</summary>
+/// <summary>Reads GIF: each frame composited over the previous ones.</summary>
 internal sealed unsafe class GifReader
 {
-    private const int MostFrames = 10_000;
-    private const int KeepsPlace = 1;
-    private const int ToBackground = 2;
-    private const int ToPrevious = 3;
+    private const int MaxFrames = 10_000;
+    private const int DisposalKeep = 1;
+    private const int DisposalBackground = 2;
+    private const int DisposalPrevious = 3;
     private static readonly (int First, int Step)[] InterlacePasses = [(0, 8), (4, 8), (2, 4), (1, 2)];
 
     private readonly RasterSource _source;
@@ -71,7 +71,7 @@ internal sealed unsafe class GifReader
                 $"'{_source.Name}' claims {_gif.File.Width} × {_gif.File.Height} pixels, which is no image.");
         }
 
-        PixelGrid.Verify(_gif.File.Width, _gif.File.Height);
+        PixelGrid.VerifySize(_gif.File.Width, _gif.File.Height);
         Gif.Record record;
         do
         {
@@ -90,14 +90,15 @@ internal sealed unsafe class GifReader
                 break;
             }
         }
-        while (record != Gif.Record.Terminate && _frames.Count < MostFrames);
+        while (record != Gif.Record.Terminate && _frames.Count < MaxFrames);
         if (_frames.Count == 0)
         {
-            throw new GifImageException($"'{_source.Name}' holds no picture.");
+            throw new GifImageException($"'{_source.Name}' holds no image.");
         }
     }
 
-    /// <summary>Throws after a failure, or says that it is the end where damage is to be borne.</summary>
+    /// <summary>Throws after a failure; returns false instead where reading is lenient and there is something to
+    /// show.</summary>
     private bool Verify(int result)
     {
         if (result == Gif.Ok)
@@ -150,22 +151,25 @@ internal sealed unsafe class GifReader
         Gif.ImageDescription image = _gif.File.Image;
         int[] palette = Palette(image.Map != null ? image.Map : _gif.File.Map);
         _total += (long)_gif.File.Width * _gif.File.Height;
-        if (_total > PixelGrid.MostPixels)
+        if (_total > PixelGrid.MaxPixels)
         {
-            throw new LimitMemoryException($"The frames of '{_source.Name}' have more than {PixelGrid.MostPixels} pixels in all.");
+            throw new LimitMemoryException(
+                $"The frames of '{_source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
 
         if (image.Width < 1 || image.Height < 1)
         {
-            throw new GifImageException($"A frame of '{_source.Name}' is {image.Width} × {image.Height} pixels large.");
+            throw new GifImageException(
+                $"A frame of '{_source.Name}' is {image.Width} × {image.Height} pixels large.");
         }
 
         _canvas ??= new PixelGrid(_gif.File.Width, _gif.File.Height);
-        using PixelGrid? before = _disposal == ToPrevious ? _canvas.Copy() : null;
+        using PixelGrid? before = _disposal == DisposalPrevious ? _canvas.Copy() : null;
         bool whole = Draw(image, palette);
-        _frames.Add(new DecodedFrame { Pixels = _canvas.Copy(), BitsPerPixel = 8, Palette = new ColorPalette(palette) });
-        Leave(image, before);
-        (_transparent, _disposal) = (-1, KeepsPlace);
+        _frames.Add(
+            new DecodedFrame { Pixels = _canvas.Copy(), BitsPerPixel = 8, Palette = new ColorPalette(palette) });
+        DisposeFrame(image, before);
+        (_transparent, _disposal) = (-1, DisposalKeep);
         return whole;
     }
 
@@ -210,14 +214,14 @@ internal sealed unsafe class GifReader
                     return false;
                 }
 
-                Place(line, image.Left, image.Top + y, palette);
+                PlaceLine(line, image.Left, image.Top + y, palette);
             }
         }
 
         return true;
     }
 
-    private void Place(byte[] line, int left, int y, int[] palette)
+    private void PlaceLine(byte[] line, int left, int y, int[] palette)
     {
         if (y >= _canvas!.Height)
         {
@@ -232,9 +236,9 @@ internal sealed unsafe class GifReader
         }
     }
 
-    private void Leave(in Gif.ImageDescription image, PixelGrid? before)
+    private void DisposeFrame(in Gif.ImageDescription image, PixelGrid? before)
     {
-        if (before == null && _disposal != ToBackground)
+        if (before == null && _disposal != DisposalBackground)
         {
             return;
         }
@@ -255,5 +259,6 @@ internal sealed unsafe class GifReader
     }
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
-    private static int ReadBytes(Gif.File* gif, byte* target, int count) => (int)StreamBridge.Of(gif->User).Read(target, count);
+    private static int ReadBytes(Gif.File* gif, byte* target, int count) =>
+        (int)StreamBridge.Of(gif->User).Read(target, count);
 }

@@ -12,10 +12,10 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Writes GIF 89a: one palette for all frames, each as large as the whole picture.</summary>
+/// <summary>Writes GIF 89a: one palette for all frames, each as large as the whole image.</summary>
 internal sealed unsafe class GifWriter
 {
-    private const int LargestSide = 65_535;
+    private const int MaxSide = 65_535;
     private static readonly (int First, int Step)[] InterlacePasses = [(0, 8), (4, 8), (2, 4), (1, 2)];
 
     private readonly GifOptions _options;
@@ -84,10 +84,10 @@ internal sealed unsafe class GifWriter
     {
         if (options.Palette != null)
         {
-            return PaletteChoice.Given(options.Palette, options.MaxColors);
+            return PaletteChoice.Verified(options.Palette, options.MaxColors);
         }
 
-        var colors = new ColorCount();
+        var colors = new ColorHistogram();
         colors.Add(first.Pixels);
         for (int i = 1; i < chosen.Count; i++)
         {
@@ -98,7 +98,7 @@ internal sealed unsafe class GifWriter
         return Quantizer.Choose(colors, options.MaxColors, options.PaletteMethod);
     }
 
-    /// <summary>A colour table of the next power of two.</summary>
+    /// <summary>Returns a colour table of the next power of two.</summary>
     private static GifColorMapHandle Map(int[] palette)
     {
         int size = 2;
@@ -110,7 +110,8 @@ internal sealed unsafe class GifWriter
         byte* rgb = stackalloc byte[size * 3];
         for (int i = 0; i < palette.Length; i++)
         {
-            (rgb[3 * i], rgb[(3 * i) + 1], rgb[(3 * i) + 2]) = ((byte)(palette[i] >> 16), (byte)(palette[i] >> 8), (byte)palette[i]);
+            (rgb[3 * i], rgb[(3 * i) + 1], rgb[(3 * i) + 2]) =
+                ((byte)(palette[i] >> 16), (byte)(palette[i] >> 8), (byte)palette[i]);
         }
 
         return Gif.MakeMap(size, rgb);
@@ -124,7 +125,8 @@ internal sealed unsafe class GifWriter
             using RasterPageData page = Render(pages, chosen[i], _options);
             if (page.Pixels.Width > first.Pixels.Width || page.Pixels.Height > first.Pixels.Height)
             {
-                throw new GifImageException($"Page {chosen[i]} is larger ({page.Pixels.Width} × {page.Pixels.Height} pixels)"
+                throw new GifImageException(
+                    $"Page {chosen[i]} is larger ({page.Pixels.Width} × {page.Pixels.Height} pixels)"
                     + $" than the first ({first.Pixels.Width} × {first.Pixels.Height}); give all pages one size.");
             }
 
@@ -134,14 +136,14 @@ internal sealed unsafe class GifWriter
 
     private void WriteFrame(PixelGrid pixels, int frames)
     {
-        if (pixels.Width > LargestSide || pixels.Height > LargestSide)
+        if (pixels.Width > MaxSide || pixels.Height > MaxSide)
         {
-            throw new GifImageException($"A GIF holds at most {LargestSide} pixels on a side.");
+            throw new GifImageException($"A GIF holds at most {MaxSide} pixels on a side.");
         }
 
         WriteControl(frames);
         Verify(Gif.PutImage(_gif, 0, 0, pixels.Width, pixels.Height, _options.Interlaced, null));
-        byte[] indices = IndexedRows.Of(pixels, _palette, _options.Dithering);
+        byte[] indices = IndexedPixels.Of(pixels, _palette, _options.Dithering);
         fixed (byte* start = indices)
         {
             foreach ((int from, int step) in _options.Interlaced ? InterlacePasses : [(0, 1)])
@@ -154,7 +156,7 @@ internal sealed unsafe class GifWriter
         }
     }
 
-    // The graphic control extension: what happens to a frame, how long it stays, which number is not drawn.
+    // The graphic control extension: the disposal of a frame, its delay, which index is transparent.
     private void WriteControl(int frames)
     {
         if (frames == 1 && _transparent < 0)
@@ -165,12 +167,13 @@ internal sealed unsafe class GifWriter
         const int toBackground = 2;
         byte* data = stackalloc byte[4];
         data[0] = (byte)(((frames > 1 ? toBackground : 0) << 2) | (_transparent >= 0 ? 1 : 0));
-        BinaryPrimitives.WriteUInt16LittleEndian(new Span<byte>(data + 1, 2), (ushort)(frames > 1 ? _options.FrameTime / 10 : 0));
+        BinaryPrimitives.WriteUInt16LittleEndian(
+            new Span<byte>(data + 1, 2), (ushort)(frames > 1 ? _options.FrameTime / 10 : 0));
         data[3] = (byte)Math.Max(0, _transparent);
         Verify(Gif.PutExtension(_gif, Gif.GraphicsExtension, 4, data));
     }
 
-    // The application extension that all programs take for the number of repetitions.
+    // The application extension of the number of repetitions.
     private void WriteLoop()
     {
         fixed (byte* name = "NETSCAPE2.0"u8)
@@ -189,10 +192,11 @@ internal sealed unsafe class GifWriter
     {
         if (result != Gif.Ok)
         {
-            throw new GifImageException($"The picture could not be written: {Gif.Error(_gif.File.Error)}.");
+            throw new GifImageException($"The image could not be written: {Gif.Error(_gif.File.Error)}.");
         }
     }
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
-    private static int Write(Gif.File* gif, byte* data, int count) => (int)StreamBridge.Of(gif->User).Write(data, count);
+    private static int Write(Gif.File* gif, byte* data, int count) =>
+        (int)StreamBridge.Of(gif->User).Write(data, count);
 }

@@ -13,16 +13,18 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>Reads and writes JPEG 2000, as a JP2 file and as a bare codestream.</summary>
 internal static unsafe class Jpeg2000Codec
 {
-    private const int MostResolutions = 6;
+    private const int MaxResolutions = 6;
 
     internal static void Write(PixelGrid pixels, Jpeg2000Options options, Stream output)
     {
         SeekableOutput.Write(output, target =>
-            Encode(pixels, options.Codec, options.Irreversible, options.CompressionRatio, gray: pixels.IsGray(), target));
+            Encode(
+                pixels, options.Codec, options.Irreversible, options.CompressionRatio, gray: pixels.IsGray(), target));
     }
 
-    /// <summary>Compresses pixels; <paramref name="target"/> must be able to seek.</summary>
-    internal static void Encode(PixelGrid pixels, J2K container, bool irreversible, float ratio, bool gray, Stream target)
+    /// <summary>Compresses pixels; <paramref name="target"/> must be seekable.</summary>
+    internal static void Encode(
+        PixelGrid pixels, J2K container, bool irreversible, float ratio, bool gray, Stream target)
     {
         OpenJpeg.Require();
         bool alpha = !pixels.IsOpaque();
@@ -58,7 +60,11 @@ internal static unsafe class Jpeg2000Codec
     {
         bool bare = source.Bytes.StartsWith((ReadOnlySpan<byte>)[0xFF, 0x4F, 0xFF, 0x51]);
         PixelGrid pixels = Decode(source, source.Data, bare, out int bits);
-        return new DecodedFile { Format = FileFormat.Jpeg2000, Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = bits }] };
+        return new DecodedFile
+        {
+            Format = FileFormat.Jpeg2000,
+            Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = bits }],
+        };
     }
 
     internal static PixelGrid Decode(RasterSource source, byte[] data, bool bare, out int bitsPerPixel)
@@ -102,17 +108,18 @@ internal static unsafe class Jpeg2000Codec
             throw new Jpeg2000Exception($"'{source.Name}' claims {width} × {height} pixels, which is no image.");
         }
 
-        PixelGrid.Verify(width, height);
+        PixelGrid.VerifySize(width, height);
         if (width * height > (length * 20_000L) + 65_536)
         {
-            throw new Jpeg2000Exception($"'{source.Name}' claims {width} × {height} pixels, which its {length} bytes cannot hold.");
+            throw new Jpeg2000Exception(
+                $"'{source.Name}' claims {width} × {height} pixels, which its {length} bytes cannot hold.");
         }
     }
 
     private static int Resolutions(int side)
     {
         int count = 1;
-        while (count < MostResolutions && side >> count > 0)
+        while (count < MaxResolutions && side >> count > 0)
         {
             count++;
         }
@@ -126,7 +133,8 @@ internal static unsafe class Jpeg2000Codec
         OpenJpeg.ComponentParameters* components = stackalloc OpenJpeg.ComponentParameters[4];
         for (int i = 0; i < count; i++)
         {
-            components[i] = new() { Dx = 1, Dy = 1, Width = (uint)pixels.Width, Height = (uint)pixels.Height, Precision = 8 };
+            components[i] =
+                new() { Dx = 1, Dy = 1, Width = (uint)pixels.Width, Height = (uint)pixels.Height, Precision = 8 };
         }
 
         int space = colors == 1 ? OpenJpeg.ColorGray : OpenJpeg.ColorRgb;
@@ -178,7 +186,8 @@ internal static unsafe class Jpeg2000Codec
     }
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
-    private static nuint Write(byte* data, nuint count, nint user) => (nuint)StreamBridge.Of(user).Write(data, (nint)count);
+    private static nuint Write(byte* data, nuint count, nint user) =>
+        (nuint)StreamBridge.Of(user).Write(data, (nint)count);
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
     private static long Skip(long count, nint user)

@@ -8,10 +8,10 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Reads the merged picture of a PSD.</summary>
+/// <summary>Reads the merged image of a PSD.</summary>
 internal sealed class PsdReader
 {
-    private const int HeadBytes = 26;
+    private const int HeaderBytes = 26;
 
     private readonly RasterSource _source;
     private readonly int _channels;
@@ -23,18 +23,19 @@ internal sealed class PsdReader
     private PsdReader(RasterSource source)
     {
         _source = source;
-        ReadOnlySpan<byte> head = source.Data;
-        if (head.Length < HeadBytes || !head.StartsWith("8BPS"u8) || BinaryPrimitives.ReadUInt16BigEndian(head[4..]) != 1)
+        ReadOnlySpan<byte> header = source.Data;
+        if (header.Length < HeaderBytes || !header.StartsWith("8BPS"u8)
+            || BinaryPrimitives.ReadUInt16BigEndian(header[4..]) != 1)
         {
-            throw new PsdImageException($"'{source.Name}' does not begin with the head of a PSD of version 1.");
+            throw new PsdImageException($"'{source.Name}' does not begin with the header of a PSD of version 1.");
         }
 
-        _channels = BinaryPrimitives.ReadUInt16BigEndian(head[12..]);
-        _height = BinaryPrimitives.ReadInt32BigEndian(head[14..]);
-        _width = BinaryPrimitives.ReadInt32BigEndian(head[18..]);
-        _depth = BinaryPrimitives.ReadUInt16BigEndian(head[22..]);
-        _mode = (ColorModes)BinaryPrimitives.ReadUInt16BigEndian(head[24..]);
-        VerifyHead();
+        _channels = BinaryPrimitives.ReadUInt16BigEndian(header[12..]);
+        _height = BinaryPrimitives.ReadInt32BigEndian(header[14..]);
+        _width = BinaryPrimitives.ReadInt32BigEndian(header[18..]);
+        _depth = BinaryPrimitives.ReadUInt16BigEndian(header[22..]);
+        _mode = (ColorModes)BinaryPrimitives.ReadUInt16BigEndian(header[24..]);
+        VerifyHeader();
     }
 
     private int RowBytes => ((_width * _depth) + 7) / 8;
@@ -42,18 +43,18 @@ internal sealed class PsdReader
     internal static DecodedFile Read(RasterSource source)
     {
         var reader = new PsdReader(source);
-        ReadOnlySpan<byte> rest = source.Data.AsSpan(HeadBytes);
+        ReadOnlySpan<byte> rest = source.Data.AsSpan(HeaderBytes);
         ReadOnlySpan<byte> palette = Section(ref rest, source.Name, "palette");
         ReadOnlySpan<byte> resources = Section(ref rest, source.Name, "resources");
         Section(ref rest, source.Name, "layers");
         return reader.File(palette, resources, rest);
     }
 
-    /// <summary>The section of resources of a file.</summary>
+    /// <summary>Returns the section of image resources of a file.</summary>
     internal static ReadOnlySpan<byte> ResourceBytes(byte[] data, string name)
     {
         _ = new PsdReader(new RasterSource(data, name, false));
-        ReadOnlySpan<byte> rest = data.AsSpan(HeadBytes);
+        ReadOnlySpan<byte> rest = data.AsSpan(HeaderBytes);
         Section(ref rest, name, "palette");
         return Section(ref rest, name, "resources");
     }
@@ -71,14 +72,15 @@ internal sealed class PsdReader
         return section;
     }
 
-    private void VerifyHead()
+    private void VerifyHeader()
     {
         if (_width < 1 || _height < 1 || _channels is < 1 or > 56)
         {
-            throw new PsdImageException($"'{_source.Name}' claims {_width} × {_height} pixels of {_channels} channels.");
+            throw new PsdImageException(
+                $"'{_source.Name}' claims {_width} × {_height} pixels of {_channels} channels.");
         }
 
-        PixelGrid.Verify(_width, _height);
+        PixelGrid.VerifySize(_width, _height);
         (int Needed, bool Known) form = (_mode, _depth) switch
         {
             (ColorModes.Bitmap, 1) or (ColorModes.Indexed, 8) => (1, true),
@@ -94,7 +96,8 @@ internal sealed class PsdReader
         }
     }
 
-    private DecodedFile File(ReadOnlySpan<byte> paletteBytes, ReadOnlySpan<byte> resources, ReadOnlySpan<byte> picture)
+    private DecodedFile File(
+        ReadOnlySpan<byte> paletteBytes, ReadOnlySpan<byte> resources, ReadOnlySpan<byte> imageData)
     {
         PsdPalette? palette = Palette(paletteBytes, resources);
         (double x, double y) = Resolution(resources);
@@ -106,7 +109,7 @@ internal sealed class PsdReader
             [
                 new DecodedFrame
                 {
-                    Pixels = Picture(picture, palette?.Argb32Entries),
+                    Pixels = MergedImage(imageData, palette?.Argb32Entries),
                     BitsPerPixel = _channels * _depth,
                     Palette = palette,
                     HorizontalResolution = x,
@@ -125,11 +128,13 @@ internal sealed class PsdReader
 
         if (table.Length < PsdPalette.Bytes)
         {
-            throw new PsdImageException($"The palette of '{_source.Name}' has {table.Length} bytes, not {PsdPalette.Bytes}.");
+            throw new PsdImageException(
+                $"The palette of '{_source.Name}' has {table.Length} bytes, not {PsdPalette.Bytes}.");
         }
 
         ReadOnlySpan<byte> transparent = PsdResources.Find(resources, TransparencyIndexResource.Number);
-        return PsdPalette.Read(table, transparent.IsEmpty ? -1 : TransparencyIndexResource.Read(transparent).TransparencyIndex);
+        int index = transparent.IsEmpty ? -1 : TransparencyIndexResource.Read(transparent).TransparencyIndex;
+        return PsdPalette.Read(table, index);
     }
 
     private static (double X, double Y) Resolution(ReadOnlySpan<byte> resources)
@@ -137,16 +142,18 @@ internal sealed class PsdReader
         ReadOnlySpan<byte> data = PsdResources.Find(resources, PsdResources.ResolutionInfo);
         return data.Length < 16
             ? default
-            : (BinaryPrimitives.ReadUInt32BigEndian(data) / 65536.0, BinaryPrimitives.ReadUInt32BigEndian(data[8..]) / 65536.0);
+            : (BinaryPrimitives.ReadUInt32BigEndian(data) / 65536.0,
+                BinaryPrimitives.ReadUInt32BigEndian(data[8..]) / 65536.0);
     }
 
-    private PixelGrid Picture(ReadOnlySpan<byte> data, int[]? palette)
+    private PixelGrid MergedImage(ReadOnlySpan<byte> data, int[]? palette)
     {
         int method = data.Length < 2 ? -1 : BinaryPrimitives.ReadUInt16BigEndian(data);
         if (method is not ((int)CompressionMethod.Raw or (int)CompressionMethod.Rle))
         {
             throw new PsdImageException(
-                $"The merged picture of '{_source.Name}' is missing or compressed by method {method}, which is not read.");
+                $"The merged image of '{_source.Name}' is missing or compressed by method {method},"
+                    + " which is not read.");
         }
 
         var rows = new PsdRows(data[2..], method == (int)CompressionMethod.Rle, _channels, _height, RowBytes);
@@ -172,18 +179,18 @@ internal sealed class PsdReader
         }
         catch (FrameworkException) when (_source.Lenient)
         {
-            return pixels; // what was read so far is shown
+            return pixels; // the pixels that were read are shown
         }
         catch (FrameworkException e)
         {
             pixels.Dispose();
-            throw new PsdImageException($"The picture of '{_source.Name}' is damaged.", e);
+            throw new PsdImageException($"The image of '{_source.Name}' is damaged.", e);
         }
 
         return pixels;
     }
 
-    // A channel more than the mode needs is taken for opacity.
+    // A channel beyond those of the mode is taken as alpha.
     private int UsedChannels() => _mode switch
     {
         ColorModes.Rgb => Math.Min(_channels, 4),
@@ -198,7 +205,7 @@ internal sealed class PsdReader
         for (int x = 0; x < row.Length; x++)
         {
             int opacity = planes.Length > colors ? Sample(planes[colors], x) : 255;
-            int Level(int channel) => PsdMatte.Lift(Sample(planes[channel], x), opacity);
+            int Level(int channel) => PsdMatte.Unblend(Sample(planes[channel], x), opacity);
             row[x] = _mode switch
             {
                 ColorModes.Bitmap => Sample(planes[0], x) == 0 ? -1 : PixelGrid.Opaque,

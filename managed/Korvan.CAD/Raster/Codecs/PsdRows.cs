@@ -5,7 +5,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>The rows of the planes of a PSD, plain or as run lengths.</summary>
+/// <summary>The rows of the planes of a PSD, uncompressed or in PackBits.</summary>
 internal readonly ref struct PsdRows
 {
     private readonly ReadOnlySpan<byte> _data;
@@ -50,7 +50,7 @@ internal readonly ref struct PsdRows
         long start = index * _rowBytes;
         if (start + _rowBytes > _data.Length)
         {
-            throw new PsdImageException($"The picture ends after {_data.Length} bytes, in row {y} of channel {channel}.");
+            throw new PsdImageException($"The image ends after {_data.Length} bytes, in row {y} of channel {channel}.");
         }
 
         _data.Slice((int)start, _rowBytes).CopyTo(row);

@@ -12,14 +12,14 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Reads the pages of a TIFF, of whatever kind libtiff can make colours of.</summary>
+/// <summary>Reads the pages of a TIFF of any kind that libtiff can convert to RGBA.</summary>
 internal static unsafe class TiffReader
 {
-    private const int MostPages = 10_000;
+    private const int MaxPages = 10_000;
     private const int OpaqueBlack = PixelGrid.Opaque;
 
     // What brings a page upright whose first row and column are stored on another side (TIFF 6.0, field Orientation).
-    private static readonly Dictionary<TiffOrientations, RotateFlipType> Turned = new()
+    private static readonly Dictionary<TiffOrientations, RotateFlipType> Corrections = new()
     {
         [TiffOrientations.TopRight] = RotateFlipType.RotateNoneFlipX,
         [TiffOrientations.BottomRight] = RotateFlipType.Rotate180FlipNone,
@@ -42,7 +42,7 @@ internal static unsafe class TiffReader
             {
                 frames.Add(ReadPage(tiff, source, ref total));
             }
-            while (frames.Count < MostPages && Tiff.ReadDirectory(tiff.Handle) == 1);
+            while (frames.Count < MaxPages && Tiff.ReadDirectory(tiff.Handle) == 1);
         }
         catch
         {
@@ -64,10 +64,11 @@ internal static unsafe class TiffReader
         }
 
         total += width * height;
-        PixelGrid.Verify(width, height);
-        if (total > PixelGrid.MostPixels)
+        PixelGrid.VerifySize(width, height);
+        if (total > PixelGrid.MaxPixels)
         {
-            throw new LimitMemoryException($"The pages of '{source.Name}' have more than {PixelGrid.MostPixels} pixels in all.");
+            throw new LimitMemoryException(
+                $"The pages of '{source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
 
         var samples = new TiffSamples(tiff.Handle);
@@ -79,7 +80,7 @@ internal static unsafe class TiffReader
         var pixels = new PixelGrid((int)width, (int)height);
         try
         {
-            bool done = samples.Fits ? samples.Read(pixels, source.Lenient) : ReadMultiplied(tiff, source, pixels);
+            bool done = samples.Fits ? samples.Read(pixels, source.Lenient) : ReadPremultiplied(tiff, source, pixels);
             if (!done && !source.Lenient)
             {
                 throw Damaged(tiff, source);
@@ -94,28 +95,29 @@ internal static unsafe class TiffReader
         }
     }
 
-    private static bool ReadMultiplied(TiffFile tiff, RasterSource source, PixelGrid pixels)
+    private static bool ReadPremultiplied(TiffFile tiff, RasterSource source, PixelGrid pixels)
     {
         // Asked for the orientation that the file has, libtiff leaves rows and columns as they are.
         int orientation = (int)Tiff.GetNumber(tiff.Handle, (int)TiffTags.Orientation);
         var raster = (uint*)pixels.Pointer;
         int stop = source.Lenient ? 0 : 1;
         bool done = Tiff.ReadRgba(tiff.Handle, (uint)pixels.Width, (uint)pixels.Height, raster, orientation, stop) == 1;
-        ToPlain(pixels);
+        Unpremultiply(pixels);
         return done;
     }
 
     private static PixelGrid Upright(TiffFile tiff, PixelGrid pixels)
     {
-        RotateFlipType turn = Turned.GetValueOrDefault((TiffOrientations)Tiff.GetNumber(tiff.Handle, (int)TiffTags.Orientation));
-        if (turn == RotateFlipType.RotateNoneFlipNone)
+        RotateFlipType correction =
+            Corrections.GetValueOrDefault((TiffOrientations)Tiff.GetNumber(tiff.Handle, (int)TiffTags.Orientation));
+        if (correction == RotateFlipType.RotateNoneFlipNone)
         {
             return pixels;
         }
 
-        PixelGrid turned = Turns.Turn(pixels, turn);
+        PixelGrid upright = Rotation.RotateFlip(pixels, correction);
         pixels.Dispose();
-        return turned;
+        return upright;
     }
 
     private static void VerifyConvertible(TiffFile tiff, RasterSource source)
@@ -141,15 +143,15 @@ internal static unsafe class TiffReader
         return new TiffImageException($"A page of '{source.Name}' is damaged: {tiff.Error}.", inner);
     }
 
-    // libtiff gives red in the lowest byte and opacity multiplied in.
-    private static void ToPlain(PixelGrid pixels)
+    // libtiff returns red in the lowest byte, premultiplied.
+    private static void Unpremultiply(PixelGrid pixels)
     {
         for (int y = 0; y < pixels.Height; y++)
         {
             foreach (ref int pixel in pixels.Row(y))
             {
                 int swapped = (pixel & unchecked((int)0xFF00FF00)) | ((pixel & 255) << 16) | ((pixel >> 16) & 255);
-                pixel = (swapped & OpaqueBlack) == OpaqueBlack ? swapped : BitPacking.Plain(swapped);
+                pixel = (swapped & OpaqueBlack) == OpaqueBlack ? swapped : BitPacking.Unpremultiply(swapped);
             }
         }
     }
@@ -166,7 +168,8 @@ internal static unsafe class TiffReader
         uint samples = Tiff.GetNumber(tiff.Handle, (int)TiffTags.SamplesPerPixel);
         double x = Resolution(tiff, TiffTags.XResolution) * per;
         double y = Resolution(tiff, TiffTags.YResolution) * per;
-        bool swapped = Tiff.GetNumber(tiff.Handle, (int)TiffTags.Orientation) is >= (uint)TiffOrientations.LeftTop and <= (uint)TiffOrientations.LeftBottom;
+        var orientation = (TiffOrientations)Tiff.GetNumber(tiff.Handle, (int)TiffTags.Orientation);
+        bool swapped = orientation is >= TiffOrientations.LeftTop and <= TiffOrientations.LeftBottom;
         return new DecodedFrame
         {
             Pixels = pixels,

@@ -9,19 +9,17 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>
-/// Makes pixels of the samples of a page, block by block: strips or tiles, planes beside or behind each other. It serves
-/// pages that libtiff's own conversion refuses, whose opacity it multiplies in, confuses with a colour or forgets, and grey
-/// of 16 bits, of which it mixes up the tiles at the right edge.
-/// </summary>
+/// <summary>Converts the samples of a page block by block: strips or tiles, chunky or planar. It serves pages that
+/// libtiff's own conversion rejects, pages whose alpha it premultiplies, mistakes for a colour or drops, and 16-bit
+/// grayscale, of which it garbles the tiles at the right edge.</summary>
 internal sealed unsafe class TiffSamples
 {
-    private const int MostSamples = 32;
-    private const int Inks = 1;
+    private const int MaxSamples = 32;
+    private const int InkSetCmyk = 1;
     private const uint Floats = 3;
-    private const int SmallestBuffer = 1024;
+    private const int MinBuffer = 1024;
 
-    // What the conversion here is for: a photometric interpretation, how many samples make its colour, and how wide they may be.
+    // The supported photometric interpretations, with the samples of their colour and the maximum bits of a sample.
     private static readonly (TiffPhotometrics Kind, int Colors, int MostBits)[] Kinds =
     [
         (TiffPhotometrics.MinIsWhite, 1, 32), (TiffPhotometrics.MinIsBlack, 1, 32), (TiffPhotometrics.Rgb, 3, 32),
@@ -32,13 +30,13 @@ internal sealed unsafe class TiffSamples
     private readonly int _bits;
     private readonly int _samples;
     private readonly int _colors;
-    private readonly int _mostBits;
+    private readonly int _maxBits;
     private readonly TiffPhotometrics _kind;
     private readonly bool _planar;
     private readonly bool _tiled;
-    private readonly int _opacityAt = -1;
-    private readonly bool _multiplied;
-    private readonly long _most;
+    private readonly int _alphaSample = -1;
+    private readonly bool _premultiplied;
+    private readonly long _maxValue;
     private int[] _palette = [];
 
     internal TiffSamples(TiffHandle tiff)
@@ -47,38 +45,41 @@ internal sealed unsafe class TiffSamples
         _bits = (int)Number(TiffTags.BitsPerSample);
         _samples = (int)Number(TiffTags.SamplesPerPixel);
         _kind = (TiffPhotometrics)Number(TiffTags.Photometric);
-        (_, _colors, _mostBits) = Kinds.FirstOrDefault(entry => entry.Kind == _kind);
+        (_, _colors, _maxBits) = Kinds.FirstOrDefault(entry => entry.Kind == _kind);
         _planar = Number(TiffTags.PlanarConfig) == 2 && _samples > 1;
         _tiled = Tiff.IsTiled(tiff) != 0;
-        _most = (1L << Math.Clamp(_bits, 1, 32)) - 1;
+        _maxValue = (1L << Math.Clamp(_bits, 1, 32)) - 1;
 
-        // A sample whose meaning is not stated is taken for opacity, as most programs do, unless another states that it is that.
+        // An unspecified extra sample is taken as alpha, as most programs do, unless another is declared as alpha.
         ushort[] extra = Tiff.ExtraSamples(tiff);
         int at = Array.FindIndex(extra, static meaning => meaning != (int)TiffAlphaStorage.Unspecified);
         if (extra.Length > 0)
         {
-            _opacityAt = _colors + Math.Max(at, 0);
-            _multiplied = at >= 0 && extra[at] == (int)TiffAlphaStorage.Associated;
+            _alphaSample = _colors + Math.Max(at, 0);
+            _premultiplied = at >= 0 && extra[at] == (int)TiffAlphaStorage.Associated;
         }
     }
 
-    /// <summary>Gets whether the page is to be read here.</summary>
-    internal bool Fits => _colors > 0 && _samples >= _colors && _samples <= MostSamples && _opacityAt < _samples
-        && _bits is 1 or 2 or 4 or 8 or 16 or 32 && _bits <= _mostBits && Number(TiffTags.SampleFormat) != Floats
+    /// <summary>Gets whether the page is read by this class.</summary>
+    internal bool Fits => _colors > 0 && _samples >= _colors && _samples <= MaxSamples && _alphaSample < _samples
+        && _bits is 1 or 2 or 4 or 8 or 16 or 32 && _bits <= _maxBits && Number(TiffTags.SampleFormat) != Floats
         && Number(TiffTags.Compression) != (uint)TiffCompressions.OldJpeg
-        && (_kind != TiffPhotometrics.Separated || Number(TiffTags.InkSet) == Inks)
-        && (_opacityAt >= 0 || _bits == 32 || (_bits == 16 && _kind is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette)) || HasSmallTiles);
+        && (_kind != TiffPhotometrics.Separated || Number(TiffTags.InkSet) == InkSetCmyk)
+        && (_alphaSample >= 0 || _bits == 32 || HasSmallTiles
+            || (_bits == 16 && _kind is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette)));
 
-    // libtiff's conversion takes the size of its buffer for that of a plain tile, and refuses those that are smaller.
+    // libtiff's conversion compares the size of its buffer with that of an uncompressed tile, and rejects smaller ones.
     private bool HasSmallTiles => _tiled && Number(TiffTags.Compression) == (uint)TiffCompressions.None
-        && Tiff.TileRowSize(_tiff) * (long)Number(TiffTags.TileLength) < SmallestBuffer;
+        && Tiff.TileRowSize(_tiff) * (long)Number(TiffTags.TileLength) < MinBuffer;
 
-    /// <summary>Gives whether all blocks could be read; what is missing stays empty, and the first one ends it if it shall.</summary>
+    /// <summary>Returns whether all blocks could be read. Missing blocks stay empty; unless reading is lenient, the
+    /// first one ends it.</summary>
     internal bool Read(PixelGrid pixels, bool lenient)
     {
         _palette = _kind == TiffPhotometrics.Palette ? Tiff.Palette(_tiff, 1 << _bits) : [];
         int width = _tiled ? (int)Number(TiffTags.TileWidth) : pixels.Width;
-        int height = _tiled ? (int)Number(TiffTags.TileLength) : (int)Math.Min(Number(TiffTags.RowsPerStrip), (uint)pixels.Height);
+        int height = _tiled
+            ? (int)Number(TiffTags.TileLength) : (int)Math.Min(Number(TiffTags.RowsPerStrip), (uint)pixels.Height);
         nint rowBytes = _tiled ? Tiff.TileRowSize(_tiff) : Tiff.ScanlineSize(_tiff);
         long needed = (((long)width * _bits * (_planar ? 1 : _samples)) + 7) / 8;
         if (width < 1 || height < 1 || rowBytes < needed)
@@ -88,10 +89,17 @@ internal sealed unsafe class TiffSamples
 
         if ((long)rowBytes * height > Array.MaxLength)
         {
-            throw new LimitMemoryException($"A block of {width} × {height} pixels has more than {Array.MaxLength} bytes.");
+            throw new LimitMemoryException(
+                $"A block of {width} × {height} pixels has more than {Array.MaxLength} bytes.");
         }
 
-        var block = new Block(width, height, (int)rowBytes, [.. Enumerable.Range(0, _planar ? _samples : 1).Select(_ => new byte[rowBytes * height])]);
+        var planes = new byte[_planar ? _samples : 1][];
+        for (int i = 0; i < planes.Length; i++)
+        {
+            planes[i] = new byte[rowBytes * height];
+        }
+
+        var block = new Block(width, height, (int)rowBytes, planes);
         bool whole = true;
         for (int top = 0; top < pixels.Height; top += height)
         {
@@ -117,11 +125,14 @@ internal sealed unsafe class TiffSamples
         {
             byte[] data = block.Planes[plane];
             Array.Clear(data);
+            uint number = _tiled
+                ? Tiff.ComputeTile(_tiff, (uint)left, (uint)top, 0, (ushort)plane)
+                : Tiff.ComputeStrip(_tiff, (uint)top, (ushort)plane);
             fixed (byte* start = data)
             {
                 whole &= _tiled
-                    ? Tiff.ReadTile(_tiff, Tiff.ComputeTile(_tiff, (uint)left, (uint)top, 0, (ushort)plane), start, data.Length) >= 0
-                    : Tiff.ReadStrip(_tiff, Tiff.ComputeStrip(_tiff, (uint)top, (ushort)plane), start, data.Length) >= 0;
+                    ? Tiff.ReadTile(_tiff, number, start, data.Length) >= 0
+                    : Tiff.ReadStrip(_tiff, number, start, data.Length) >= 0;
             }
         }
 
@@ -130,7 +141,7 @@ internal sealed unsafe class TiffSamples
 
     private void Convert(Block block, PixelGrid pixels, int left, int top)
     {
-        Span<long> values = stackalloc long[5]; // of the colour, then opacity
+        Span<long> values = stackalloc long[5]; // of the colour, then alpha
         for (int y = 0; y < Math.Min(block.Height, pixels.Height - top); y++)
         {
             Span<int> to = pixels.Row(top + y)[left..];
@@ -141,7 +152,7 @@ internal sealed unsafe class TiffSamples
                     values[c] = Value(block, x, y, c);
                 }
 
-                values[4] = _opacityAt < 0 ? _most : Value(block, x, y, _opacityAt);
+                values[4] = _alphaSample < 0 ? _maxValue : Value(block, x, y, _alphaSample);
                 to[x] = Pixel(values);
             }
         }
@@ -154,7 +165,7 @@ internal sealed unsafe class TiffSamples
         return _bits switch
         {
             8 => row[at],
-            16 => MemoryMarshal.Read<ushort>(row[(at * 2)..]), // libtiff gives the byte order of the machine
+            16 => MemoryMarshal.Read<ushort>(row[(at * 2)..]), // libtiff returns the byte order of the machine
             32 => MemoryMarshal.Read<uint>(row[(at * 4)..]),
             _ => BitPacking.Value(row, at, _bits),
         };
@@ -163,24 +174,25 @@ internal sealed unsafe class TiffSamples
     private int Pixel(ReadOnlySpan<long> values)
     {
         long opacity = values[4];
-        if (_multiplied && opacity == 0)
+        if (_premultiplied && opacity == 0)
         {
             return 0;
         }
 
-        int Level(long value) => _multiplied
+        int Level(long value) => _premultiplied
             ? (int)Math.Min(255, ((value * 255) + (opacity / 2)) / opacity)
-            : (int)(((value * 255) + (_most / 2)) / _most);
+            : (int)(((value * 255) + (_maxValue / 2)) / _maxValue);
         int color = _kind switch
         {
             TiffPhotometrics.MinIsWhite => (255 - Level(values[0])) * 0x010101,
             TiffPhotometrics.MinIsBlack => Level(values[0]) * 0x010101,
             TiffPhotometrics.Palette => _palette[(int)values[0]],
             TiffPhotometrics.Separated => CmykColor.FromStored(
-                Level(values[0]) | (Level(values[1]) << 8) | (Level(values[2]) << 16) | (Level(values[3]) << 24)).ToArgb32(),
+                Level(values[0]) | (Level(values[1]) << 8) | (Level(values[2]) << 16) | (Level(values[3]) << 24)
+                ).ToArgb32(),
             _ => (Level(values[0]) << 16) | (Level(values[1]) << 8) | Level(values[2]),
         };
-        return (color & 0xFFFFFF) | ((int)(((opacity * 255) + (_most / 2)) / _most) << 24);
+        return (color & 0xFFFFFF) | ((int)(((opacity * 255) + (_maxValue / 2)) / _maxValue) << 24);
     }
 
     private uint Number(TiffTags tag) => Tiff.GetNumber(_tiff, (int)tag);

@@ -73,12 +73,13 @@ internal sealed unsafe class TiffWriter
 
         if (_bits < 8 && _options.Photometric != TiffPhotometrics.Palette)
         {
-            Operations.Tones.Grayscale(pixels); // black and white are told apart by lightness
+            Operations.ColorAdjustment.Grayscale(pixels); // the threshold applies to luma
         }
 
         int[]? palette = Palette(pixels);
         int rowBytes = checked((int)((((long)pixels.Width * _bits * _samples) + 7) / 8));
-        int rows = _options.RowsPerStrip > 0 ? Math.Min(_options.RowsPerStrip, pixels.Height) : Math.Max(1, StripBytes / rowBytes);
+        int rows = _options.RowsPerStrip > 0
+            ? Math.Min(_options.RowsPerStrip, pixels.Height) : Math.Max(1, StripBytes / rowBytes);
         if (_options.Compression == TiffCompressions.Jpeg)
         {
             rows = (rows + 15) / 16 * 16; // whole blocks, as the codec demands
@@ -99,7 +100,8 @@ internal sealed unsafe class TiffWriter
     {
         return _options.Photometric switch
         {
-            TiffPhotometrics.Palette => PaletteChoice.For(pixels, _options.Palette, 1 << _bits, ColorQuantizationMethod.MedianCut),
+            TiffPhotometrics.Palette =>
+                PaletteChoice.For(pixels, _options.Palette, 1 << _bits, ColorQuantizationMethod.MedianCut),
             TiffPhotometrics.MinIsBlack or TiffPhotometrics.MinIsWhite when _bits < 8 => Grays(1 << _bits),
             _ => null,
         };
@@ -167,7 +169,8 @@ internal sealed unsafe class TiffWriter
 
     private void SetCompression(bool jpegColors)
     {
-        bool predicts = _options.Compression is TiffCompressions.Lzw or TiffCompressions.AdobeDeflate or TiffCompressions.Deflate;
+        bool predicts =
+            _options.Compression is TiffCompressions.Lzw or TiffCompressions.AdobeDeflate or TiffCompressions.Deflate;
         if (predicts && _bits == 8 && _options.Photometric != TiffPhotometrics.Palette)
         {
             Set(TiffTags.Predictor, (int)_options.Predictor);
@@ -214,19 +217,20 @@ internal sealed unsafe class TiffWriter
 
         fixed (ushort* start = map)
         {
-            Tiff.Set(_tiff.Handle, (int)TiffTags.ColorMap, [(nint)start, (nint)(start + size), (nint)(start + (2 * size))]);
+            Tiff.Set(
+                _tiff.Handle, (int)TiffTags.ColorMap, [(nint)start, (nint)(start + size), (nint)(start + (2 * size))]);
         }
     }
 
     private void WriteStrips(PixelGrid pixels, int[]? palette, int rowBytes, int rowsPerStrip)
     {
-        DitheringMethods how = _options.Threshold switch
+        DitheringMethods dithering = _options.Threshold switch
         {
             TiffThresholds.OrderedDithering => DitheringMethods.Ordered,
             TiffThresholds.ErrorDiffusion => DitheringMethods.ErrorDiffusion,
             _ => DitheringMethods.None,
         };
-        byte[]? indices = palette == null ? null : IndexedRows.Of(pixels, palette, how);
+        byte[]? indices = palette == null ? null : IndexedPixels.Of(pixels, palette, dithering);
         var strip = new byte[checked(rowBytes * Math.Min(rowsPerStrip, pixels.Height))];
         uint number = 0;
         for (int top = 0; top < pixels.Height; top += rowsPerStrip)
@@ -257,7 +261,7 @@ internal sealed unsafe class TiffWriter
         }
         else if (_options.Photometric == TiffPhotometrics.Separated)
         {
-            BitPacking.Inks(pixels.Row(y), row);
+            BitPacking.Cmyk(pixels.Row(y), row);
         }
         else
         {
@@ -275,14 +279,14 @@ internal sealed unsafe class TiffWriter
 
     private void Set(TiffTags tag, params ReadOnlySpan<long> values)
     {
-        _tiff.Verify(Tiff.Set(_tiff.Handle, (int)tag, values), $"The field {tag} could not be set");
+        _tiff.Verify(Tiff.Set(_tiff.Handle, (int)tag, values), $"Tag {tag} could not be set");
     }
 
     private void SetText(TiffTags tag, string text)
     {
         if (text.Length > 0)
         {
-            _tiff.Verify(Tiff.SetText(_tiff.Handle, (int)tag, text), $"The field {tag} could not be set");
+            _tiff.Verify(Tiff.SetText(_tiff.Handle, (int)tag, text), $"Tag {tag} could not be set");
         }
     }
 }

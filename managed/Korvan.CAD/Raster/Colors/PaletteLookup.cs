@@ -3,7 +3,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>Finds the nearest colour of a palette; what was found is remembered, as pictures repeat their colours.</summary>
+/// <summary>Finds the nearest colour of a palette; results are cached, since images repeat their colours.</summary>
 internal sealed class PaletteLookup
 {
     private const int Slots = 1 << 14;
@@ -35,13 +35,13 @@ internal sealed class PaletteLookup
     private int Search(int argb)
     {
         int best = 0;
-        long least = long.MaxValue;
-        for (int i = 0; i < _entries.Length && least > 0; i++)
+        long min = long.MaxValue;
+        for (int i = 0; i < _entries.Length && min > 0; i++)
         {
             long distance = Distance(argb, _entries[i], _method);
-            if (distance < least)
+            if (distance < min)
             {
-                (best, least) = (i, distance);
+                (best, min) = (i, distance);
             }
         }
 
@@ -53,7 +53,7 @@ internal sealed class PaletteLookup
         int a = (int)((uint)one >> 24) - (int)((uint)other >> 24);
         if (((uint)one >> 24) == 0 && ((uint)other >> 24) == 0)
         {
-            return 0; // what cannot be seen has no colour
+            return 0; // invisible pixels are equal
         }
 
         int redSum = ((one >> 16) & 255) + ((other >> 16) & 255);

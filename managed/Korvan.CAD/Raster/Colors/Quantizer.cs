@@ -6,20 +6,21 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>Chooses the colours of a palette for a picture.</summary>
+/// <summary>Color quantization: chooses the palette of an image.</summary>
 internal static class Quantizer
 {
-    internal static int[] Choose(ColorCount colors, int most, ColorQuantizationMethod method)
+    internal static int[] Choose(ColorHistogram colors, int maxColors, ColorQuantizationMethod method)
     {
-        if (colors.Counts.Count <= most)
+        if (colors.Counts.Count <= maxColors)
         {
             return [.. colors.Counts.Keys.OrderBy(static color => (uint)color)];
         }
 
         // A transparent pixel takes one entry whatever the method, or it would be mixed into colours.
         bool transparent = colors.Counts.ContainsKey(0);
-        KeyValuePair<int, long>[] visible = [.. colors.Counts.Where(static c => c.Key != 0).OrderBy(static c => (uint)c.Key)];
-        int room = transparent ? most - 1 : most;
+        KeyValuePair<int, long>[] visible =
+            [.. colors.Counts.Where(static c => c.Key != 0).OrderBy(static c => (uint)c.Key)];
+        int room = transparent ? maxColors - 1 : maxColors;
         int[] chosen = method switch
         {
             ColorQuantizationMethod.Popularity =>
@@ -27,19 +28,19 @@ internal static class Quantizer
             ColorQuantizationMethod.Octree => OctreeQuantizer.Choose(visible, room),
             ColorQuantizationMethod.Uniform => Uniform(room),
             ColorQuantizationMethod.MedianCut => MedianCut(visible, room),
-            _ => throw Verify.OutOfRange(nameof(method), method, "There is no such way to choose colours."),
+            _ => throw Verify.OutOfRange(nameof(method), method, "There is no such quantization method."),
         };
         return transparent ? [0, .. chosen] : chosen;
     }
 
-    /// <summary>A lattice of as many levels as fit, green with the most.</summary>
-    internal static int[] Uniform(int most)
+    /// <summary>Returns a lattice of as many levels as fit, most of them for green.</summary>
+    internal static int[] Uniform(int maxColors)
     {
-        int red = Math.Max(1, (int)Math.Cbrt(most + 0.5));
+        int red = Math.Max(1, (int)Math.Cbrt(maxColors + 0.5));
         int blue = red;
         int green = red;
-        green = Math.Max(1, most / (red * blue));
-        red = Math.Max(red, most / (green * blue));
+        green = Math.Max(1, maxColors / (red * blue));
+        red = Math.Max(red, maxColors / (green * blue));
         var colors = new List<int>(red * green * blue);
         for (int i = 0; i < red * green * blue; i++)
         {
@@ -53,22 +54,23 @@ internal static class Quantizer
 
     private static int Level(int index, int count) => count == 1 ? 128 : index * 255 / (count - 1);
 
-    private static int[] MedianCut(KeyValuePair<int, long>[] colors, int most)
+    private static int[] MedianCut(KeyValuePair<int, long>[] colors, int maxColors)
     {
         var boxes = new PriorityQueue<ColorBox, double>();
-        void Enqueue(ColorBox box) => boxes.Enqueue(box, -box.Urgency);
+        void Enqueue(ColorBox box) => boxes.Enqueue(box, -box.Priority);
         Enqueue(new ColorBox(colors));
-        while (boxes.Count < most && boxes.Peek().CanBeCut)
+        while (boxes.Count < maxColors && boxes.Peek().CanBeSplit)
         {
-            (ColorBox low, ColorBox high) = boxes.Dequeue().Cut();
+            (ColorBox low, ColorBox high) = boxes.Dequeue().Split();
             Enqueue(low);
             Enqueue(high);
         }
 
-        return [.. boxes.UnorderedItems.Select(static item => item.Element.Mean()).OrderBy(static color => (uint)color)];
+        IEnumerable<int> means = boxes.UnorderedItems.Select(static item => item.Element.Mean());
+        return [.. means.OrderBy(static color => (uint)color)];
     }
 
-    /// <summary>Some colours, with the channel in which they differ most.</summary>
+    /// <summary>A box of colours, with the channel of their largest range.</summary>
     private readonly struct ColorBox
     {
         private readonly ArraySegment<KeyValuePair<int, long>> _colors;
@@ -96,11 +98,11 @@ internal static class Quantizer
             }
         }
 
-        internal bool CanBeCut => _colors.Count > 1;
+        internal bool CanBeSplit => _colors.Count > 1;
 
-        internal double Urgency => CanBeCut ? _range * Math.Sqrt(_total) : 0;
+        internal double Priority => CanBeSplit ? _range * Math.Sqrt(_total) : 0;
 
-        internal (ColorBox Low, ColorBox High) Cut()
+        internal (ColorBox Low, ColorBox High) Split()
         {
             int by = _shift;
             Array.Sort(_colors.Array!, _colors.Offset, _colors.Count, Comparer<KeyValuePair<int, long>>.Create(

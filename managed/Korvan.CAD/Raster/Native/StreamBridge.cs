@@ -5,10 +5,9 @@ using System.Runtime.InteropServices;
 
 namespace Korvan.CAD.Raster.Native;
 
-/// <summary>
-/// Lets a native codec read and write a .NET stream. An exception of the stream never crosses native frames: it is
-/// kept, the callback reports a failure to the codec, and <see cref="Rethrow"/> throws it on the managed side.
-/// </summary>
+/// <summary>Lets a native codec read and write a .NET stream. An exception of the stream never crosses native frames:
+/// it is kept, the callback reports a failure to the codec, and <see cref="Rethrow"/> throws it on the managed
+/// side.</summary>
 internal sealed unsafe class StreamBridge : IDisposable
 {
     private readonly Stream _stream;
@@ -42,7 +41,8 @@ internal sealed unsafe class StreamBridge : IDisposable
     /// <summary>Returns how many bytes were read; -1 after a failure.</summary>
     internal nint Read(byte* target, nint count)
     {
-        return Guard(() => _stream.ReadAtLeast(new Span<byte>(target, checked((int)count)), checked((int)count), false));
+        return Guard(
+            () => _stream.ReadAtLeast(new Span<byte>(target, checked((int)count)), checked((int)count), false));
     }
 
     internal nint Write(byte* data, nint count)

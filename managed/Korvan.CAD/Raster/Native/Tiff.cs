@@ -21,11 +21,13 @@ internal static unsafe partial class Tiff
 
     [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsSetErrorHandlerExtR")]
     internal static partial void SetErrorHandler(
-        TiffOpenOptionsHandle options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler, nint user);
+        TiffOpenOptionsHandle options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler,
+        nint user);
 
     [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsSetWarningHandlerExtR")]
     internal static partial void SetWarningHandler(
-        TiffOpenOptionsHandle options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler, nint user);
+        TiffOpenOptionsHandle options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler,
+        nint user);
 
     [LibraryImport(Library, EntryPoint = "TIFFClientOpenExt", StringMarshalling = StringMarshalling.Utf8)]
     internal static partial TiffHandle Open(
@@ -89,7 +91,7 @@ internal static unsafe partial class Tiff
     [LibraryImport("libc", EntryPoint = "vsnprintf")]
     private static partial int Format(byte* buffer, nuint size, byte* format, nint arguments);
 
-    /// <summary>Sets a field whose arguments are integers, each as wide as a register.</summary>
+    /// <summary>Sets a tag whose arguments are integers, each as wide as a register.</summary>
     internal static bool Set(TiffHandle tiff, int tag, ReadOnlySpan<long> arguments)
     {
         fixed (long* start = arguments)
@@ -112,7 +114,7 @@ internal static unsafe partial class Tiff
         return done;
     }
 
-    /// <summary>Gets a field of at most 32 bits; the default where the file has none, 0 where there is no default.</summary>
+    /// <summary>Gets a tag of at most 32 bits; its default where the file has none, 0 without a default.</summary>
     internal static uint GetNumber(TiffHandle tiff, int tag)
     {
         ulong value = 0;
@@ -121,7 +123,7 @@ internal static unsafe partial class Tiff
         return GetField(tiff, (uint)tag, &list) == 1 ? (uint)value : 0;
     }
 
-    /// <summary>Gets what each sample past the colour means.</summary>
+    /// <summary>Gets the meaning of each sample beyond the colour.</summary>
     internal static ushort[] ExtraSamples(TiffHandle tiff)
     {
         ulong count = 0;
@@ -133,7 +135,8 @@ internal static unsafe partial class Tiff
         return there ? new ReadOnlySpan<ushort>(meanings, (ushort)count).ToArray() : [];
     }
 
-    /// <summary>Gets the colours of a palette; entries that all are below 256 are of 8 bits, whatever the format says.</summary>
+    /// <summary>Gets the colours of a palette. Where all entries are below 256 they are taken as 8-bit values, which
+    /// some programs write.</summary>
     internal static int[] Palette(TiffHandle tiff, int count)
     {
         nint* tables = stackalloc nint[3];
@@ -177,7 +180,7 @@ internal static unsafe partial class Tiff
         return GetField(tiff, (uint)tag, &list) == 1 ? Marshal.PtrToStringUTF8(value) ?? "" : "";
     }
 
-    /// <summary>Puts the text of an error together.</summary>
+    /// <summary>Formats an error message.</summary>
     internal static string Message(byte* format, nint arguments)
     {
         byte* text = stackalloc byte[512];
@@ -185,11 +188,8 @@ internal static unsafe partial class Tiff
         return Marshal.PtrToStringUTF8((nint)text) ?? "";
     }
 
-    /// <summary>
-    /// A va_list all of whose arguments stand in memory, each in eight bytes: what a C function of variable arguments
-    /// hands on under the System V ABI of x86-64, section 3.5.7. The functions of that kind cannot be called from here
-    /// themselves.
-    /// </summary>
+    /// <summary>A va_list all of whose arguments lie in memory, eight bytes each, as defined by the System V ABI of
+    /// x86-64, section 3.5.7. Variadic functions themselves cannot be called from managed code.</summary>
     [StructLayout(LayoutKind.Sequential)]
     private struct ArgumentList
     {

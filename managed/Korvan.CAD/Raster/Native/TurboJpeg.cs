@@ -61,10 +61,12 @@ internal static unsafe partial class TurboJpeg
 
     [LibraryImport(Library, EntryPoint = "tjDecompress2")]
     internal static partial int Decompress(
-        TurboJpegHandle handle, byte* jpeg, nuint size, byte* target, int width, int pitch, int height, PixelLayout layout, int flags);
+        TurboJpegHandle handle, byte* jpeg, nuint size, byte* target, int width, int pitch, int height,
+        PixelLayout layout, int flags);
 
     [LibraryImport(Library, EntryPoint = "tjGetErrorStr2")]
     private static partial nint ErrorText(TurboJpegHandle handle);
 
-    internal static string Error(TurboJpegHandle handle) => Marshal.PtrToStringUTF8(ErrorText(handle)) ?? "unknown failure";
+    internal static string Error(TurboJpegHandle handle) =>
+        Marshal.PtrToStringUTF8(ErrorText(handle)) ?? "unknown failure";
 }

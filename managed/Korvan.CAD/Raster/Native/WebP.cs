@@ -5,8 +5,8 @@ namespace Korvan.CAD.Raster.Native;
 /// <summary>The part of libwebp's simple interface that is called.</summary>
 internal static unsafe partial class WebP
 {
-    /// <summary>The largest side of a picture, 14 bits.</summary>
-    internal const int LargestSide = 16383;
+    /// <summary>The maximum width and height, 14 bits.</summary>
+    internal const int MaxSide = 16383;
 
     private const string Library = "libwebp.so.7";
 

@@ -6,7 +6,7 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD.Raster.Pixels;
 
-/// <summary>A zeroed place for pixels, in memory or in a file, as <see cref="Cache"/> decides.</summary>
+/// <summary>A zeroed buffer of pixels, in memory or in a mapped file, as <see cref="Cache"/> decides.</summary>
 internal sealed unsafe class PixelBlock : IDisposable
 {
     private readonly long _bytes;
@@ -27,7 +27,8 @@ internal sealed unsafe class PixelBlock : IDisposable
         {
             Cache.Release(_bytes, _onDisk);
             GC.SuppressFinalize(this);
-            throw new LimitMemoryException($"There is no room for {_bytes} bytes of pixels {(_onDisk ? "on disk" : "in memory")}.", e);
+            throw new LimitMemoryException(
+                $"There is no room for {_bytes} bytes of pixels {(_onDisk ? "on disk" : "in memory")}.", e);
         }
 
         // The collector sees only this small object; it has to know what hangs on it.
@@ -46,9 +47,10 @@ internal sealed unsafe class PixelBlock : IDisposable
 
     private int* Map()
     {
-        // Opened and at once without a name: nothing is left behind, however the process ends.
+        // Unlinked at once, so that no file remains, however the process ends.
         string path = Path.Combine(Cache.CacheFolder, $"korvan-{Guid.NewGuid():N}.pixels");
-        var stream = new FileStream(path, FileMode.CreateNew, FileAccess.ReadWrite, FileShare.None, 1, FileOptions.DeleteOnClose);
+        var stream = new FileStream(
+            path, FileMode.CreateNew, FileAccess.ReadWrite, FileShare.None, 1, FileOptions.DeleteOnClose);
         File.Delete(path);
         stream.SetLength(_bytes);
         _file = MemoryMappedFile.CreateFromFile(

@@ -12,7 +12,7 @@ namespace Korvan.CAD.Rendering.Devices;
 internal sealed unsafe class RasterPage : IDisposable
 {
     internal const int LargestSide = 32_000;
-    internal const long MostPixels = 400_000_000;
+    internal const long MaxPixels = 400_000_000;
 
     private nint surface;
 
@@ -37,10 +37,10 @@ internal sealed unsafe class RasterPage : IDisposable
             return $"A picture of {width:0.##} × {height:0.##} pixels has no area; give a page of at least one pixel.";
         }
 
-        if (width > LargestSide || height > LargestSide || width * height > MostPixels)
+        if (width > LargestSide || height > LargestSide || width * height > MaxPixels)
         {
             return $"A picture of {width:0} × {height:0} pixels is too large: " +
-                $"at most {LargestSide} pixels on a side and {MostPixels} in all; give a smaller page.";
+                $"at most {LargestSide} pixels on a side and {MaxPixels} in all; give a smaller page.";
         }
 
         return null;
@@ -89,7 +89,7 @@ internal sealed unsafe class RasterPage : IDisposable
         {
             foreach (ref int pixel in grid.Row(y))
             {
-                pixel = (pixel & PixelGrid.Opaque) == PixelGrid.Opaque ? pixel : BitPacking.Plain(pixel);
+                pixel = (pixel & PixelGrid.Opaque) == PixelGrid.Opaque ? pixel : BitPacking.Unpremultiply(pixel);
             }
         }
 

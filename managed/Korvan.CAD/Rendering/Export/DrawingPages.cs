@@ -31,7 +31,7 @@ internal sealed class DrawingPages : IRasterPages, IDisposable
     public RasterPageData Render(int index)
     {
         RasterPage page = RasterPage.Render(_engine, _pages.PageAt(index));
-        return new RasterPageData(page.ToGrid(), _horizontal, _vertical).Turned(_rotation);
+        return new RasterPageData(page.ToGrid(), _horizontal, _vertical).RotatedFlipped(_rotation);
     }
 
     public void Dispose() => _engine.Dispose();

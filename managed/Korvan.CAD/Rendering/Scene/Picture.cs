@@ -34,7 +34,7 @@ internal sealed record Picture(int Width, int Height, byte[] Pixels)
             foreach (ref int pixel in row)
             {
                 int alpha = pixel >>> 24;
-                pixel = alpha == 255 ? pixel : BitPacking.Multiplied(pixel, alpha);
+                pixel = alpha == 255 ? pixel : BitPacking.Premultiply(pixel, alpha);
             }
 
             MemoryMarshal.AsBytes(row).CopyTo(bytes.AsSpan(y * pixels.Width * 4));

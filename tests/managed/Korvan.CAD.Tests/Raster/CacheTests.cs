@@ -5,7 +5,7 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Raster;
 
-/// <summary>The settings belong to the process, so nothing runs beside these.</summary>
+/// <summary>The settings are global to the process, so these tests run alone.</summary>
 [CollectionDefinition("whole process", DisableParallelization = true)]
 public class WholeProcess;
 
@@ -21,7 +21,7 @@ public class CacheTests : IDisposable
     }
 
     [Fact]
-    public void Pixels_go_where_they_are_told_and_leave_again()
+    public void Pixels_are_stored_as_configured_and_released()
     {
         Cache.CacheFolder = _folder;
         Cache.CacheType = CacheType.CacheOnDiskOnly;
@@ -38,7 +38,7 @@ public class CacheTests : IDisposable
     }
 
     [Fact]
-    public void Limits_move_pixels_to_disk_or_refuse_them()
+    public void Limits_move_pixels_to_disk_or_raise_errors()
     {
         Cache.MaxMemoryForCache = Cache.AllocatedMemoryBytesCount + 50_000;
         long disk = Cache.AllocatedDiskBytesCount;

@@ -7,14 +7,14 @@ using System.Text;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Writes data elements in the explicit form, lowest byte first (DICOM PS3.5, section 7).</summary>
-internal sealed class DicomElements(Stream output)
+/// <summary>Writes data elements in explicit VR little-endian (DICOM PS3.5, section 7).</summary>
+internal sealed class DicomElementWriter(Stream output)
 {
     internal void Text(uint tag, string type, string value)
     {
         byte[] data = Encoding.ASCII.GetBytes(value);
         bool odd = (data.Length & 1) != 0;
-        Head(tag, type, data.Length + (odd ? 1 : 0));
+        Header(tag, type, data.Length + (odd ? 1 : 0));
         output.Write(data);
         if (odd)
         {
@@ -22,9 +22,9 @@ internal sealed class DicomElements(Stream output)
         }
     }
 
-    internal void Word(uint tag, int value)
+    internal void Number(uint tag, int value)
     {
-        Head(tag, "US", 2);
+        Header(tag, "US", 2);
         Span<byte> data = stackalloc byte[2];
         BinaryPrimitives.WriteUInt16LittleEndian(data, (ushort)value);
         output.Write(data);
@@ -32,43 +32,44 @@ internal sealed class DicomElements(Stream output)
 
     internal void Bytes(uint tag, string type, ReadOnlySpan<byte> data)
     {
-        Head(tag, type, data.Length + (data.Length & 1));
+        Header(tag, type, data.Length + (data.Length & 1));
         output.Write(data);
-        Even(data.Length);
+        Pad(data.Length);
     }
 
-    /// <summary>The head of an element whose value follows; a length of all ones is not defined.</summary>
-    internal void Head(uint tag, string type, long length)
+    /// <summary>Writes the header of an element whose value follows; a length of all ones means undefined
+    /// length.</summary>
+    internal void Header(uint tag, string type, long length)
     {
         bool wide = type is "OB" or "OW" or "UT" or "SQ";
-        Span<byte> head = stackalloc byte[wide ? 12 : 8];
-        Tag(head, tag);
-        Encoding.ASCII.GetBytes(type, head[4..]);
+        Span<byte> header = stackalloc byte[wide ? 12 : 8];
+        Tag(header, tag);
+        Encoding.ASCII.GetBytes(type, header[4..]);
         if (wide)
         {
-            head[6..8].Clear();
-            BinaryPrimitives.WriteUInt32LittleEndian(head[8..], (uint)length);
+            header[6..8].Clear();
+            BinaryPrimitives.WriteUInt32LittleEndian(header[8..], (uint)length);
         }
         else
         {
-            BinaryPrimitives.WriteUInt16LittleEndian(head[6..], checked((ushort)length));
+            BinaryPrimitives.WriteUInt16LittleEndian(header[6..], checked((ushort)length));
         }
 
-        output.Write(head);
+        output.Write(header);
     }
 
-    /// <summary>An item of a sequence, or one of its end marks.</summary>
+    /// <summary>Writes an item of a sequence, or a delimiter.</summary>
     internal void Item(uint tag, ReadOnlySpan<byte> data)
     {
-        Span<byte> head = stackalloc byte[8];
-        Tag(head, tag);
-        BinaryPrimitives.WriteUInt32LittleEndian(head[4..], (uint)(data.Length + (data.Length & 1)));
-        output.Write(head);
+        Span<byte> header = stackalloc byte[8];
+        Tag(header, tag);
+        BinaryPrimitives.WriteUInt32LittleEndian(header[4..], (uint)(data.Length + (data.Length & 1)));
+        output.Write(header);
         output.Write(data);
-        Even(data.Length);
+        Pad(data.Length);
     }
 
-    internal void Even(long length)
+    internal void Pad(long length)
     {
         if ((length & 1) != 0)
         {
@@ -76,11 +77,11 @@ internal sealed class DicomElements(Stream output)
         }
     }
 
-    /// <summary>A new identifier that needs no registration: a UUID as a number below 2.25 (PS3.5, annex B.2).</summary>
+    /// <summary>Returns a new identifier that needs no registration: a UUID below 2.25 (PS3.5, annex B.2).</summary>
     internal static string NewIdentifier()
     {
         byte[] identifier = Guid.NewGuid().ToByteArray(bigEndian: true);
-        identifier[0] |= 0x80; // always 39 digits, so that files of one picture have one size
+        identifier[0] |= 0x80; // always 39 digits, so that files of one image have one size
         var number = new BigInteger(identifier, isUnsigned: true, isBigEndian: true);
         return "2.25." + number.ToString(CultureInfo.InvariantCulture);
     }

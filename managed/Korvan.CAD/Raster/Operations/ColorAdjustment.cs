@@ -3,17 +3,18 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Operations;
 
-/// <summary>Changes pixels one by one.</summary>
-internal static class Tones
+/// <summary>Adjusts the colours of pixels one by one.</summary>
+internal static class ColorAdjustment
 {
     internal static void Grayscale(PixelGrid pixels) =>
         Each(pixels, static pixel => (pixel & PixelGrid.Opaque) | (PixelGrid.Luma(pixel) * 0x010101));
 
-    /// <summary>Adds to each part, from -255 to 255.</summary>
+    /// <summary>Adds to each component, from -255 to 255.</summary>
     internal static void Brightness(PixelGrid pixels, int by) =>
         Curves(pixels, Table(value => value + by));
 
-    /// <summary>Spreads values around the middle grey; -100 makes all grey, 100 leaves black and full colours.</summary>
+    /// <summary>Changes the contrast about middle gray; -100 makes all gray, 100 leaves black and full
+    /// colours.</summary>
     internal static void Contrast(PixelGrid pixels, double by)
     {
         double factor = by >= 100 ? 1e6 : by > 0 ? 100 / (100 - by) : (100 + by) / 100;
@@ -26,7 +27,7 @@ internal static class Tones
         Curves(pixels, Table(Curve(red)), Table(Curve(green)), Table(Curve(blue)));
     }
 
-    /// <summary>Multiplies red, green, blue, opacity and 1 with a matrix of five rows and columns.</summary>
+    /// <summary>Multiplies red, green, blue, alpha and 1 by a matrix of 5 × 5.</summary>
     internal static void Matrix(PixelGrid pixels, float[] matrix, ColorMatrixFlag flag)
     {
         Each(pixels, pixel =>

@@ -4,36 +4,36 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Operations;
 
-/// <summary>Turns and mirrors pictures.</summary>
-internal static class Turns
+/// <summary>Rotates and flips images.</summary>
+internal static class Rotation
 {
-    private const uint Half = 0x800080; // of both channels, so that sums are rounded
+    private const uint Half = 0x800080; // of both channels, for rounding
 
-    /// <summary>Quarter turns clockwise first, then the mirroring from left to right.</summary>
-    internal static PixelGrid Turn(PixelGrid from, RotateFlipType type)
+    /// <summary>Rotates clockwise by multiples of 90 degrees, then flips horizontally.</summary>
+    internal static PixelGrid RotateFlip(PixelGrid from, RotateFlipType type)
     {
         if ((uint)type > 7)
         {
-            throw Verify.OutOfRange(nameof(type), type, "There is no such turn.");
+            throw Verify.OutOfRange(nameof(type), type, "There is no such rotation.");
         }
 
-        int quarters = (int)type & 3;
-        bool mirror = ((int)type & 4) != 0;
-        bool swap = (quarters & 1) != 0;
+        int quarterTurns = (int)type & 3;
+        bool flip = ((int)type & 4) != 0;
+        bool swap = (quarterTurns & 1) != 0;
         var to = swap ? new PixelGrid(from.Height, from.Width) : new PixelGrid(from.Width, from.Height);
         for (int y = 0; y < to.Height; y++)
         {
             Span<int> row = to.Row(y);
             if (swap)
             {
-                Column(from, quarters == 1 ? y : from.Width - 1 - y, row);
+                Column(from, quarterTurns == 1 ? y : from.Width - 1 - y, row);
             }
             else
             {
-                from.Row(quarters == 0 ? y : from.Height - 1 - y).CopyTo(row);
+                from.Row(quarterTurns == 0 ? y : from.Height - 1 - y).CopyTo(row);
             }
 
-            if (mirror != (quarters is 1 or 2))
+            if (flip != (quarterTurns is 1 or 2))
             {
                 row.Reverse();
             }
@@ -50,12 +50,13 @@ internal static class Turns
         }
     }
 
-    /// <summary>Turns clockwise by any angle in degrees, into a picture as large as the turned one or as before.</summary>
-    internal static PixelGrid Rotate(PixelGrid from, double degrees, bool grow, int background)
+    /// <summary>Rotates clockwise by any angle in degrees; the result grows to hold all pixels or keeps its
+    /// size.</summary>
+    internal static PixelGrid Rotate(PixelGrid from, double degrees, bool resize, int background)
     {
         (double sin, double cos) = Math.SinCos(degrees * Math.PI / 180);
-        int width = grow ? Bound(from.Width, from.Height, cos, sin) : from.Width;
-        int height = grow ? Bound(from.Width, from.Height, sin, cos) : from.Height;
+        int width = resize ? Bound(from.Width, from.Height, cos, sin) : from.Width;
+        int height = resize ? Bound(from.Width, from.Height, sin, cos) : from.Height;
         var to = new PixelGrid(width, height);
         for (int y = 0; y < height; y++)
         {
@@ -85,7 +86,7 @@ internal static class Turns
             return background;
         }
 
-        // Rounded, or angles whose sine is only nearly 0 would mix in a neighbour.
+        // Rounded; otherwise angles whose sine is nearly 0 would blend in a neighbour.
         int across = (int)Math.Round((x - left) * 256);
         int down = (int)Math.Round((y - top) * 256);
         int a = At(from, left, top, background);
@@ -94,14 +95,16 @@ internal static class Turns
         int d = At(from, left + 1, top + 1, background);
         return (a & b & c & d & PixelGrid.Opaque) == PixelGrid.Opaque
             ? Mix(Mix(a, b, across), Mix(c, d, across), down)
-            : MixByOpacity([a, b, c, d], [(256 - across) * (256 - down), across * (256 - down), (256 - across) * down, across * down]);
+            : MixByAlpha(
+                [a, b, c, d],
+                [(256 - across) * (256 - down), across * (256 - down), (256 - across) * down, across * down]);
     }
 
     private static int At(PixelGrid from, int x, int y, int background) =>
         (uint)x < (uint)from.Width && (uint)y < (uint)from.Height ? from.Row(y)[x] : background;
 
-    // Colours count by their opacity, or what is invisible would show at edges.
-    private static int MixByOpacity(ReadOnlySpan<int> pixels, ReadOnlySpan<int> shares)
+    // Colours are weighted by alpha; otherwise invisible pixels would show at edges.
+    private static int MixByAlpha(ReadOnlySpan<int> pixels, ReadOnlySpan<int> shares)
     {
         Span<double> sums = stackalloc double[4];
         for (int i = 0; i < pixels.Length; i++)
@@ -123,11 +126,12 @@ internal static class Turns
         return result;
     }
 
-    // Two channels at a time: their sums do not touch.
+    // Two channels at a time; their sums do not overlap.
     private static int Mix(int one, int other, int share)
     {
         uint low = (((uint)one & 0xFF00FF) * (uint)(256 - share)) + (((uint)other & 0xFF00FF) * (uint)share) + Half;
-        uint high = ((((uint)one >> 8) & 0xFF00FF) * (uint)(256 - share)) + ((((uint)other >> 8) & 0xFF00FF) * (uint)share) + Half;
+        uint high = ((((uint)one >> 8) & 0xFF00FF) * (uint)(256 - share))
+            + ((((uint)other >> 8) & 0xFF00FF) * (uint)share) + Half;
         return (int)(((low >> 8) & 0xFF00FF) | (high & 0xFF00FF00));
     }
 }

@@ -4,14 +4,14 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>How often colours occur; past a limit of colours their last bits are left out.</summary>
-internal sealed class ColorCount
+/// <summary>A histogram of colours; past a limit of colours their lowest bits are dropped.</summary>
+internal sealed class ColorHistogram
 {
-    private const int MostColors = 1 << 18;
+    private const int MaxColors = 1 << 18;
 
     private readonly Dictionary<int, long> _counts = [];
     private int _mask = -1;
-    private int _dropped;
+    private int _droppedBits;
 
     internal IReadOnlyDictionary<int, long> Counts => _counts;
 
@@ -42,7 +42,7 @@ internal sealed class ColorCount
     {
         int key = ((uint)argb >> 24) == 0 ? 0 : argb & _mask;
         _counts[key] = _counts.GetValueOrDefault(key) + times;
-        if (_counts.Count > MostColors)
+        if (_counts.Count > MaxColors)
         {
             Coarsen();
         }
@@ -51,8 +51,8 @@ internal sealed class ColorCount
     // Each round leaves one more bit of each channel out; 2^18 colours of four bits a channel cannot be passed.
     private void Coarsen()
     {
-        _dropped++;
-        _mask = unchecked((int)(0x01010101u * (byte)(255 << _dropped)));
+        _droppedBits++;
+        _mask = unchecked((int)(0x01010101u * (byte)(255 << _droppedBits)));
         var old = new List<KeyValuePair<int, long>>(_counts);
         _counts.Clear();
         foreach ((int key, long count) in old)

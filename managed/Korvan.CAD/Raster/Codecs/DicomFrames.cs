@@ -6,10 +6,10 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Makes pictures of the frames of a DICOM file.</summary>
-internal sealed class DicomPicture
+/// <summary>Decodes the frames of a DICOM file.</summary>
+internal sealed class DicomFrames
 {
-    private const int MostFrames = 10_000;
+    private const int MaxFrames = 10_000;
     private const double MillimetresPerInch = 25.4;
 
     private readonly DicomReader _file;
@@ -19,9 +19,9 @@ internal sealed class DicomPicture
     private readonly int _bits;
     private readonly bool _planar;
     private readonly string _photometric;
-    private readonly Lazy<DicomTones> _tones;
+    private readonly Lazy<DicomGrayscale> _grayscale;
 
-    private DicomPicture(DicomReader file)
+    private DicomFrames(DicomReader file)
     {
         _file = file;
         _width = file.Number(DicomTags.Columns, 0);
@@ -30,41 +30,44 @@ internal sealed class DicomPicture
         _bits = file.Number(DicomTags.BitsAllocated, 8);
         _planar = file.Number(DicomTags.PlanarConfiguration, 0) == 1;
         _photometric = file.Text(DicomTags.Photometric);
-        _tones = new Lazy<DicomTones>(() => DicomTones.Of(file, _bits, _photometric == "MONOCHROME1", AllSamples));
+        _grayscale =
+            new Lazy<DicomGrayscale>(() => DicomGrayscale.Of(file, _bits, _photometric == "MONOCHROME1", AllSamples));
         Verify();
     }
 
-    /// <summary>Gets whether two pixels beside each other share their colour: two of lightness, then blue and red.</summary>
-    private bool HasPairs => _photometric == "YBR_FULL_422" && _file.Fragments == null;
+    /// <summary>Gets whether two neighbouring pixels share their chroma: two luma samples, then blue and red
+    /// chroma.</summary>
+    private bool IsChromaPaired => _photometric == "YBR_FULL_422" && _file.Fragments == null;
 
     private int FrameCount { get; set; }
 
     internal static bool Reads(string syntax) =>
-        syntax is DicomTags.ImplicitLittleEndian or DicomTags.ExplicitLittleEndian or DicomTags.Rle or DicomTags.JpegBaseline
-            or DicomTags.Jpeg2000Lossless or DicomTags.Jpeg2000;
+        syntax is DicomTags.ImplicitLittleEndian or DicomTags.ExplicitLittleEndian or DicomTags.Rle
+            or DicomTags.JpegBaseline or DicomTags.Jpeg2000Lossless or DicomTags.Jpeg2000;
 
     internal static List<DecodedFrame> Frames(DicomReader file)
     {
-        var picture = new DicomPicture(file);
+        var decoder = new DicomFrames(file);
         string text = file.Text(DicomTags.NumberOfFrames);
         int count = int.TryParse(text, NumberStyles.Integer, CultureInfo.InvariantCulture, out int stated) ? stated : 1;
-        if (count < 1 || count > MostFrames || (file.Fragments != null && count > file.Fragments.Count))
+        if (count < 1 || count > MaxFrames || (file.Fragments != null && count > file.Fragments.Count))
         {
             throw file.Damaged($"{count} frames are announced");
         }
 
-        if ((long)picture._width * picture._height * count > PixelGrid.MostPixels)
+        if ((long)decoder._width * decoder._height * count > PixelGrid.MaxPixels)
         {
-            throw new LimitMemoryException($"The frames of '{file.Name}' have more than {PixelGrid.MostPixels} pixels in all.");
+            throw new LimitMemoryException(
+                $"The frames of '{file.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
 
-        picture.FrameCount = count;
+        decoder.FrameCount = count;
         List<DecodedFrame> frames = [];
         try
         {
             for (int i = 0; i < count; i++)
             {
-                frames.Add(picture.Frame(i));
+                frames.Add(decoder.Frame(i));
             }
         }
         catch
@@ -83,7 +86,7 @@ internal sealed class DicomPicture
             throw _file.Damaged($"it claims {_width} × {_height} pixels");
         }
 
-        PixelGrid.Verify(_width, _height);
+        PixelGrid.VerifySize(_width, _height);
         bool known = (_samples, _bits) switch
         {
             (1, 8 or 16) => _photometric is "MONOCHROME1" or "MONOCHROME2",
@@ -94,7 +97,9 @@ internal sealed class DicomPicture
         int high = _file.Number(DicomTags.HighBit, stored - 1);
         if (!known || stored < 1 || stored > _bits || high >= _bits || high < stored - 1)
         {
-            throw new ImageLoadException($"'{_file.Name}' has {_samples} samples of '{_photometric}', {stored} of {_bits} bits up to bit {high}, which is not read.");
+            throw new ImageLoadException(
+                $"'{_file.Name}' has {_samples} samples of '{_photometric}', {stored} of {_bits} bits up to bit"
+                + $" {high}, which is not read.");
         }
     }
 
@@ -112,7 +117,8 @@ internal sealed class DicomPicture
 
     private static double PerInch(string millimetres)
     {
-        bool stated = double.TryParse(millimetres.Trim(), NumberStyles.Float, CultureInfo.InvariantCulture, out double size);
+        bool stated =
+            double.TryParse(millimetres.Trim(), NumberStyles.Float, CultureInfo.InvariantCulture, out double size);
         return stated && size > 0 && double.IsFinite(size) ? MillimetresPerInch / size : 0;
     }
 
@@ -137,7 +143,7 @@ internal sealed class DicomPicture
         throw _file.Damaged($"frame {index} has another size than the file states");
     }
 
-    // What codecs give of greys is not inverted yet.
+    // Codecs return grayscale without inversion.
     private void Invert(PixelGrid pixels)
     {
         for (int y = 0; y < _height && _photometric == "MONOCHROME1"; y++)
@@ -149,14 +155,15 @@ internal sealed class DicomPicture
         }
     }
 
-    // One frame may stand in several pieces; of several frames each has its own.
+    // A single frame may have several fragments; of several frames each has one.
     private byte[] Fragment(int index) =>
         FrameCount > 1 || _file.Fragments!.Count == 1 ? _file.Fragments![index].ToArray() : Joined(_file.Fragments);
 
     private ReadOnlySpan<byte> Samples(int index) =>
-        _file.Fragments == null ? Plain(index) : DicomRle.Unpack(Fragment(index), _samples, _bits / 8, (long)_width * _height);
+        _file.Fragments == null
+            ? Plain(index) : DicomRle.Unpack(Fragment(index), _samples, _bits / 8, (long)_width * _height);
 
-    // Shades that depend on what is there are to be the same in all frames.
+    // A range that depends on the samples has to be the same in all frames.
     private IEnumerable<byte[]> AllSamples()
     {
         for (int i = 0; i < FrameCount; i++)
@@ -174,11 +181,12 @@ internal sealed class DicomPicture
 
     private ReadOnlySpan<byte> Plain(int index)
     {
-        long size = HasPairs ? (_width + 1) / 2 * 4L * _height : (long)_width * _height * _samples * (_bits / 8);
+        long size = IsChromaPaired ? (_width + 1) / 2 * 4L * _height : (long)_width * _height * _samples * (_bits / 8);
         long start = index * size;
         if (start + size > _file.PlainPixels.Length)
         {
-            throw _file.Damaged($"frame {index} needs {size} bytes, but {Math.Max(0, _file.PlainPixels.Length - start)} are left");
+            throw _file.Damaged(
+                $"frame {index} needs {size} bytes, but {Math.Max(0, _file.PlainPixels.Length - start)} are left");
         }
 
         return _file.PlainPixels.Span.Slice((int)start, (int)size);
@@ -196,8 +204,8 @@ internal sealed class DicomPicture
             for (int x = 0; x < row.Length; x++, at++)
             {
                 int pair = (y * pairBytes) + (x / 2 * 4);
-                row[x] = _samples == 1 ? _tones.Value.Pixel(data, at)
-                    : HasPairs ? Color(data[pair + (x & 1)], data[pair + 2], data[pair + 3])
+                row[x] = _samples == 1 ? _grayscale.Value.Pixel(data, at)
+                    : IsChromaPaired ? Color(data[pair + (x & 1)], data[pair + 2], data[pair + 3])
                     : Color(data[at * step], data[(at * step) + plane], data[(at * step) + (2 * plane)]);
             }
         }
