@@ -50,6 +50,8 @@ class Wrappers(unittest.TestCase):
         with self.assertRaises(AttributeError):
             probe.Cube(1).side = 2
         with self.assertRaises(AttributeError):
+            probe.Failing(False).made = 2
+        with self.assertRaises(AttributeError):
             del probe.Echo().text
 
     def test_a_derived_result_is_wrapped_as_declared(self) -> None:
@@ -136,6 +138,15 @@ class Casts(unittest.TestCase):
         self.assertFalse(probe.Box._cast_to(echo))
         self.assertFalse(probe.Box._cast_to("no wrapper"))
         self.assertFalse(probe.Box._cast_as(None))
+
+    def test_a_struct_is_cast_to_a_copy(self) -> None:
+        pair = probe.Pair(1.0, 2.0)
+        for cast in (probe.Pair._cast_to, probe.Pair._cast_as):
+            result = cast(pair)
+            self.assertEqual((result.status, result.value), (1, probe.Pair(1.0, 2.0)))
+            result.value.move(1.0, 1.0)
+            self.assertEqual(pair, probe.Pair(1.0, 2.0))
+        self.assertFalse(probe.Triple._cast_to(pair))
 
     def test_a_cast_result_outlives_what_it_was_made_of(self) -> None:
         echo = probe.Echo()
