@@ -16,27 +16,30 @@ internal static class TiffPresets
     private static readonly int[] Bit = [1];
 
     internal static (TiffCompressions Compression, TiffPhotometrics Photometric, int[] Bits) Of(
-        TiffExpectedFormat format) => format switch
+        TiffExpectedFormat format)
     {
-        TiffExpectedFormat.TiffNoCompressionRgb => (TiffCompressions.None, TiffPhotometrics.Rgb, Rgb),
-        TiffExpectedFormat.TiffNoCompressionRgba => (TiffCompressions.None, TiffPhotometrics.Rgb, Rgba),
-        TiffExpectedFormat.TiffNoCompressionBw => (TiffCompressions.None, TiffPhotometrics.MinIsBlack, Bit),
-        TiffExpectedFormat.TiffLzwRgba => (TiffCompressions.Lzw, TiffPhotometrics.Rgb, Rgba),
-        TiffExpectedFormat.TiffLzwGray => (TiffCompressions.Lzw, TiffPhotometrics.MinIsBlack, Byte),
-        TiffExpectedFormat.TiffLzwPalette => (TiffCompressions.Lzw, TiffPhotometrics.Palette, Byte),
-        TiffExpectedFormat.TiffLzwBw => (TiffCompressions.Lzw, TiffPhotometrics.MinIsBlack, Bit),
-        TiffExpectedFormat.TiffDeflateRgb => (TiffCompressions.AdobeDeflate, TiffPhotometrics.Rgb, Rgb),
-        TiffExpectedFormat.TiffDeflateRgba => (TiffCompressions.AdobeDeflate, TiffPhotometrics.Rgb, Rgba),
-        TiffExpectedFormat.TiffDeflateGray => (TiffCompressions.AdobeDeflate, TiffPhotometrics.MinIsBlack, Byte),
-        TiffExpectedFormat.TiffDeflateBw => (TiffCompressions.AdobeDeflate, TiffPhotometrics.MinIsBlack, Bit),
-        TiffExpectedFormat.TiffJpegRgb => (TiffCompressions.Jpeg, TiffPhotometrics.Rgb, Rgb),
-        TiffExpectedFormat.TiffJpegGray => (TiffCompressions.Jpeg, TiffPhotometrics.MinIsBlack, Byte),
-        TiffExpectedFormat.TiffPackBitsRgb => (TiffCompressions.PackBits, TiffPhotometrics.Rgb, Rgb),
-        TiffExpectedFormat.TiffCcittRle => (TiffCompressions.CcittRle, TiffPhotometrics.MinIsWhite, Bit),
-        TiffExpectedFormat.TiffCcittFax3 => (TiffCompressions.CcittFax3, TiffPhotometrics.MinIsWhite, Bit),
-        TiffExpectedFormat.TiffCcittFax4 => (TiffCompressions.CcittFax4, TiffPhotometrics.MinIsWhite, Bit),
-        _ => (TiffCompressions.Lzw, TiffPhotometrics.Rgb, Rgb),
-    };
+        return format switch
+        {
+            TiffExpectedFormat.TiffNoCompressionRgb => (TiffCompressions.None, TiffPhotometrics.Rgb, Rgb),
+            TiffExpectedFormat.TiffNoCompressionRgba => (TiffCompressions.None, TiffPhotometrics.Rgb, Rgba),
+            TiffExpectedFormat.TiffNoCompressionBw => (TiffCompressions.None, TiffPhotometrics.MinIsBlack, Bit),
+            TiffExpectedFormat.TiffLzwRgba => (TiffCompressions.Lzw, TiffPhotometrics.Rgb, Rgba),
+            TiffExpectedFormat.TiffLzwGray => (TiffCompressions.Lzw, TiffPhotometrics.MinIsBlack, Byte),
+            TiffExpectedFormat.TiffLzwPalette => (TiffCompressions.Lzw, TiffPhotometrics.Palette, Byte),
+            TiffExpectedFormat.TiffLzwBw => (TiffCompressions.Lzw, TiffPhotometrics.MinIsBlack, Bit),
+            TiffExpectedFormat.TiffDeflateRgb => (TiffCompressions.AdobeDeflate, TiffPhotometrics.Rgb, Rgb),
+            TiffExpectedFormat.TiffDeflateRgba => (TiffCompressions.AdobeDeflate, TiffPhotometrics.Rgb, Rgba),
+            TiffExpectedFormat.TiffDeflateGray => (TiffCompressions.AdobeDeflate, TiffPhotometrics.MinIsBlack, Byte),
+            TiffExpectedFormat.TiffDeflateBw => (TiffCompressions.AdobeDeflate, TiffPhotometrics.MinIsBlack, Bit),
+            TiffExpectedFormat.TiffJpegRgb => (TiffCompressions.Jpeg, TiffPhotometrics.Rgb, Rgb),
+            TiffExpectedFormat.TiffJpegGray => (TiffCompressions.Jpeg, TiffPhotometrics.MinIsBlack, Byte),
+            TiffExpectedFormat.TiffPackBitsRgb => (TiffCompressions.PackBits, TiffPhotometrics.Rgb, Rgb),
+            TiffExpectedFormat.TiffCcittRle => (TiffCompressions.CcittRle, TiffPhotometrics.MinIsWhite, Bit),
+            TiffExpectedFormat.TiffCcittFax3 => (TiffCompressions.CcittFax3, TiffPhotometrics.MinIsWhite, Bit),
+            TiffExpectedFormat.TiffCcittFax4 => (TiffCompressions.CcittFax4, TiffPhotometrics.MinIsWhite, Bit),
+            _ => (TiffCompressions.Lzw, TiffPhotometrics.Rgb, Rgb),
+        };
+    }
 
     internal static TiffOptionsError Validate(TiffOptions options)
     {

@@ -196,8 +196,12 @@ public class CodecMatrixTests
                 $"jpeg {mode}", () => new JpegOptions { Quality = 100, CompressionType = mode }, OnWhite, 6, "flat");
             yield return (
                 $"jpeg inks of luma {mode}",
-                () => new JpegOptions { Quality = 100, CompressionType = mode,
-                    ColorType = JpegCompressionColorMode.Ycck },
+                () => new JpegOptions
+                {
+                    Quality = 100,
+                    CompressionType = mode,
+                    ColorType = JpegCompressionColorMode.Ycck,
+                },
                 OnWhite, 8, "flat");
         }
 
@@ -208,8 +212,11 @@ public class CodecMatrixTests
                 () => new DicomOptions { Compression = new Compression(compression) }, OnWhite, 0, "alpha");
             yield return (
                 $"dicom grey {compression}",
-                () => new DicomOptions { ColorType = ColorType.Grayscale8Bit,
-                    Compression = new Compression(compression) },
+                () => new DicomOptions
+                {
+                    ColorType = ColorType.Grayscale8Bit,
+                    Compression = new Compression(compression),
+                },
                 Gray, 1, "noise");
             yield return (
                 $"dicom runs {compression}",

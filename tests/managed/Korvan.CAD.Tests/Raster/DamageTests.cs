@@ -114,8 +114,7 @@ public class DamageTests
     public void Errors_name_the_file_and_the_cause()
     {
         byte[] rle = Bytes("bmp rle");
-        var bmp =
-            Assert.Throws<BmpImageException>(
+        var bmp = Assert.Throws<BmpImageException>(
             () => Image.Load(new MemoryStream(rle[..^4]), "plan.bmp", new LoadOptions()));
         Assert.IsType<RleCompressorException>(bmp.InnerException);
         Assert.Contains("plan.bmp", bmp.Message);

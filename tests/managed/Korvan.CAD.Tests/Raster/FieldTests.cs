@@ -256,8 +256,7 @@ public class FieldTests
         }
 
         // Types of the future are kept to be seen, and left out when written; a directory that points at itself ends.
-        var odd =
-            new JpegExifData(
+        var odd = new JpegExifData(
             Block(3, Entry(1, 99, 4, 0x04030201), Entry(2, 3, 1, 5),
             Entry((int)ExifProperties.ExifIfdPointer, 4, 1, 8)));
         var unknown = Assert.IsType<TiffUnknownType>(odd.CommonTags.Directory.Get(1));
@@ -279,8 +278,7 @@ public class FieldTests
             { (JfifDensityUnits.PixelsPerInch, 300, 65535, 300.0, 65535.0),
                 (JfifDensityUnits.PixelsPerCm, 1, 100, 2.54, 254), (JfifDensityUnits.NoUnits, 4, 3, 96, 96) })
         {
-            string file =
-                Samples.Save(
+            string file = Samples.Save(
                 image, new JpegOptions { Jfif = new JFIFData { DensityUnits = unit, XDensity = x, YDensity = y } },
                 ".jpg");
             using RasterCachedImage back = Samples.Load(file);

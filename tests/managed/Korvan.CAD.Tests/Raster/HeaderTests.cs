@@ -292,9 +292,11 @@ public class HeaderTests
                 // Black and white is what all forms hold exactly; the ground shows whether a neighbour is touched.
                 using var image = Samples.Of(13, 7, (x, y) => (x * y) % 3 == 0 ? -1 : Black);
                 using var copy = Samples.Of(13, 7, (_, _) => Red);
-                var settings =
-                    new RawDataSettings(form, block.Width) { ColorPalette = form.PixelFormat == PixelFormat.Indexed
-                    ? ColorPaletteHelper.CreateMonochrome() : null };
+                bool indexed = form.PixelFormat == PixelFormat.Indexed;
+                var settings = new RawDataSettings(form, block.Width)
+                {
+                    ColorPalette = indexed ? ColorPaletteHelper.CreateMonochrome() : null,
+                };
                 int tight = settings.LineSize;
                 settings.LineSize += 3;
                 byte[] data = image.LoadRawData(block, settings);

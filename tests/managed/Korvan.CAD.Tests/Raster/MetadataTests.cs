@@ -135,8 +135,7 @@ public class MetadataTests
             Assert.Contains("Plan", options is PsdOptions ? read.ToXml() : Tools.Run("exiv2", "-px", file));
         }
 
-        var foreign =
-            new XmpPacketWrapper(
+        var foreign = new XmpPacketWrapper(
             "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description rdf:about=''"
             + " xmlns:a='urn:a' a:b='c'/></rdf:RDF>");
         Assert.Equal("c", foreign.GetValue("urn:a", "b"));

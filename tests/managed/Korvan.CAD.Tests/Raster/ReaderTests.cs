@@ -223,8 +223,7 @@ public class ReaderTests
     public void Bitmaps_have_a_class_of_their_own_and_names_do_not_matter()
     {
         using var made = Samples.Colors();
-        string file =
-            Samples.Save(
+        string file = Samples.Save(
             made, new BmpOptions { BitsPerPixel = 4, ResolutionSettings = new ResolutionSetting(254, 127) }, ".jpg");
         using var image = Assert.IsType<BitmapImage>(Image.Load(file));
         Assert.Equal(

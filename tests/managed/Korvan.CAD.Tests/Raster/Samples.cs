@@ -53,7 +53,7 @@ internal static class Samples
         return double.Parse(text, CultureInfo.InvariantCulture);
     }
 
-    /// <summary>The largest difference of any channel between an image and what ImageMagick reads from the file.</summary>
+    /// <summary>The largest difference of any channel between an image and its file as ImageMagick reads it.</summary>
     internal static int LargestDifference(RasterImage image, string file, string page = "")
     {
         string raw = Tools.TempFile(".bgra");

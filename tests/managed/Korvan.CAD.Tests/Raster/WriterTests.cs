@@ -92,10 +92,9 @@ public class WriterTests
     public void Black_and_white_pages_are_the_thresholded_image(TiffExpectedFormat format, string compression)
     {
         using var image = Samples.Colors();
-        string file =
-            Samples.Save(
-            image, new TiffOptions(format) { FillOrder = format == TiffExpectedFormat.TiffLzwBw
-            ? TiffFillOrders.Msb2Lsb : TiffFillOrders.Lsb2Msb }, ".tif");
+        TiffFillOrders order =
+            format == TiffExpectedFormat.TiffLzwBw ? TiffFillOrders.Msb2Lsb : TiffFillOrders.Lsb2Msb;
+        string file = Samples.Save(image, new TiffOptions(format) { FillOrder = order }, ".tif");
         Assert.Contains(compression, Tools.Run("tiffinfo", file));
         image.BinarizeFixed(128);
         Assert.Equal(0, Samples.Difference(file, Samples.Save(image, new PngOptions(), ".png")));
@@ -106,8 +105,7 @@ public class WriterTests
     {
         using var image = Samples.Colors(200, 100);
         string small = Samples.Save(image, new JpegOptions { Quality = 10, Comment = "by hand" }, ".jpg");
-        string large =
-            Samples.Save(
+        string large = Samples.Save(
             image, new JpegOptions { Quality = 98, ResolutionSettings = new ResolutionSetting(300, 150) }, ".jpg");
         string grey = Samples.Save(image, new JpegOptions { ColorType = JpegCompressionColorMode.Grayscale }, ".jpg");
         string inks = Samples.Save(image, new JpegOptions { ColorType = JpegCompressionColorMode.Ycck }, ".jpg");
