@@ -43,13 +43,16 @@ internal sealed class CadClass
 
     public bool HandWritten { get; }
 
-    /// <summary>Entities, objects or tables: the name of the root class.</summary>
+    /// <summary>Entities, objects or tables: the name of the root class; empty for a part of an object.</summary>
     public string Kind { get; }
 
     /// <summary>Base classes without a marker of their own: their codes stand among those of this class.</summary>
     public IReadOnlyList<string> Parts { get; }
 
-    public bool HasCodec => (HasClassAttribute || Properties.Count > 0) && Kind.Length > 0;
+    public bool HasCodec => HasClassAttribute || Properties.Count > 0;
+
+    /// <summary>Whether the class is a part of objects, which has neither a type name nor subclasses.</summary>
+    public bool IsPartOfObject => Kind.Length == 0;
 
     /// <summary>Whether the codes of the class are written among those of the classes that derive from it.</summary>
     public bool IsPart => !HasClassAttribute && IsAbstract;

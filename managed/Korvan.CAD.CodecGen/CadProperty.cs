@@ -12,11 +12,13 @@ internal sealed class CadProperty
     {
         Name = symbol.Name;
         Kind = attribute.AttributeClass!.Name.Replace("Attribute", "");
-        Code = (int)attribute.ConstructorArguments[0].Value!;
+        Code = attribute.ConstructorArguments.Select(argument => argument.Value).OfType<int>().FirstOrDefault();
         Optional = attribute.NamedArguments.Any(argument => argument.Key == "Optional" && argument.Value.Value is true);
         Since = attribute.NamedArguments.Where(argument => argument.Key == "Since")
             .Select(argument => (int)argument.Value.Value!).FirstOrDefault();
         TypeName = symbol.Type.ToDisplayString(SymbolDisplayFormat.FullyQualifiedFormat);
+        When = symbol.GetAttributes().FirstOrDefault(one => one.AttributeClass?.Name == "CadWhenAttribute")
+            ?.ConstructorArguments[0].Value as string ?? "";
         IsEnum = symbol.Type.TypeKind == TypeKind.Enum;
         ElementType = (symbol.Type as INamedTypeSymbol)?.TypeArguments.FirstOrDefault()?.Name ?? "";
         Count = attribute.NamedArguments.Where(argument => argument.Key == "Count")
@@ -47,6 +49,9 @@ internal sealed class CadProperty
     /// <summary>The group code of the number of items of a list; 0 where the format states none.</summary>
     public int Count { get; }
 
+    /// <summary>The property that tells whether the object has this one; empty for always.</summary>
+    public string When { get; }
+
     /// <summary>The symbol table that a name refers to, as source text.</summary>
     public string Table { get; }
 
@@ -56,6 +61,12 @@ internal sealed class CadProperty
     public bool IsPoint => Kind is "Cad2DPoint" or "Cad3DPoint";
 
     public bool IsList => Kind == "CadList";
+
+    /// <summary>Whether the property is a list of parts, each of several fields.</summary>
+    public bool IsRepeated => Kind == "CadRepeated";
+
+    /// <summary>Whether the property is a part with fields of its own.</summary>
+    public bool IsPart => Kind == "CadPart";
 
     /// <summary>How many group codes one value takes: the coordinates of a point, otherwise one.</summary>
     public int Axes => (IsList ? ElementType : Kind) switch

@@ -26,8 +26,16 @@ internal static class CodecWriter
         text.AppendLine($"partial class {model.Name}");
         text.AppendLine("{");
         WriteName(model, text);
-        WriteReading(model, text);
-        WriteWalk(model, text);
+        if (model.IsPartOfObject)
+        {
+            WritePart(model, text);
+        }
+        else
+        {
+            WriteReading(model, text);
+            WriteWalk(model, text);
+        }
+
         text.AppendLine($"    partial void OnReadField(int code, {Reader} reader, ref bool taken);");
         text.AppendLine($"    partial void OnExchange({Walk} fields);");
         text.AppendLine("}");
@@ -59,11 +67,40 @@ internal static class CodecWriter
         text.AppendLine("    }");
     }
 
+    private static void WritePart(CadClass model, StringBuilder text)
+    {
+        text.AppendLine($"    internal bool ReadField(int code, {Reader} reader)");
+        text.AppendLine("    {");
+        text.AppendLine("            bool taken = false;");
+        text.AppendLine("            OnReadField(code, reader, ref taken);");
+        text.AppendLine("            if (taken) { return true; }");
+        WriteSwitch(model, text);
+        text.AppendLine("            return false;");
+        text.AppendLine("    }");
+        text.AppendLine($"    internal void Exchange({Walk} fields)");
+        text.AppendLine("    {");
+        WriteProperties(model, text);
+        text.AppendLine("        OnExchange(fields);");
+        text.AppendLine("    }");
+    }
+
     private static void WriteSwitch(CadClass model, StringBuilder text)
     {
+        foreach (CadProperty repeated in model.Properties.Where(property => property.IsRepeated))
+        {
+            text.AppendLine($"            if (code == {repeated.Code}) {{ {repeated.Name}.Add(new()); }}");
+            text.AppendLine($"            if ({repeated.Name}.Count > 0 && {repeated.Name}[^1].ReadField(code, reader)) "
+                + "{ return true; }");
+        }
+
         if (model.Properties.Count == 0)
         {
             return;
+        }
+
+        foreach (CadProperty part in model.Properties.Where(property => property.IsPart))
+        {
+            text.AppendLine($"            if ({part.Name}.ReadField(code, reader)) {{ return true; }}");
         }
 
         text.AppendLine("            switch (code)");

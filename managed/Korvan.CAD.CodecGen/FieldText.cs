@@ -1,5 +1,6 @@
 using System.Collections.Generic;
 using System.Globalization;
+using System.Linq;
 
 namespace Korvan.CAD.CodecGen;
 
@@ -12,6 +13,17 @@ internal static class FieldText
         if (property.IsList)
         {
             return ListCases(property);
+        }
+
+        if (property.IsPart || property.Kind == "CadPresence")
+        {
+            return [];
+        }
+
+        if (property.IsRepeated)
+        {
+            return property.Count == 0 ? []
+                : [$"case {property.Count}: {property.Name}.EnsureCapacity(reader.GetCount());"];
         }
 
         return property.IsPoint ? PointCases(property)
@@ -32,6 +44,10 @@ internal static class FieldText
         {
             "Cad2DPoint" or "Cad3DPoint" => $"fields.Point({code}, {name})",
             "CadList" => ExchangedList(property, role),
+            "CadRepeated" => $"fields.Parts({name}, fields.Count({property.Count}, {name}.Count), "
+                + "static (part, walk) => part.Exchange(walk))",
+            "CadPresence" => $"{name} = fields.Includes(0, {name})",
+            "CadPart" => $"{name}.Exchange(fields)",
             "CadHandle" => $"{name} = fields.Handle({code}, {role}, {name})",
             "CadName" => $"{name} = fields.Name({code}, {property.Table}, {name})",
             _ => $"{name} = fields.{Method(property.Kind)}({code}, {name})",
@@ -41,7 +57,7 @@ internal static class FieldText
     /// <summary>The condition of a property that is left out of old releases or at its initial value.</summary>
     public static string Condition(CadProperty property)
     {
-        return property is { Since: 0, Optional: false } ? ""
+        return property is { Since: 0, Optional: false, When: "" } ? ""
             : $"if (fields.Includes({property.Since.ToString(CultureInfo.InvariantCulture)}, {Differs(property)})) ";
     }
 
@@ -124,9 +140,15 @@ internal static class FieldText
 
     private static string Differs(CadProperty property)
     {
+        string[] conditions = [.. new[] { property.When, Changed(property) }.Where(part => part.Length > 0)];
+        return conditions.Length == 0 ? "true" : string.Join(" && ", conditions);
+    }
+
+    private static string Changed(CadProperty property)
+    {
         if (!property.Optional)
         {
-            return "true";
+            return "";
         }
 
         if (!property.IsPoint)

@@ -13,11 +13,11 @@ public static class Cache
     private const long DefaultDisk = 8L << 30;
 
     private static readonly Lock Gate = new();
-    private static string folder = Path.GetTempPath();
-    private static long memoryLimit = DefaultMemory;
-    private static long diskLimit = DefaultDisk;
-    private static long memoryUsed;
-    private static long diskUsed;
+    private static string _folder = Path.GetTempPath();
+    private static long _memoryLimit = DefaultMemory;
+    private static long _diskLimit = DefaultDisk;
+    private static long _memoryUsed;
+    private static long _diskUsed;
 
     /// <summary>Gets or sets where pixels are kept. Images that exist stay where they are.</summary>
     public static CacheType CacheType { get; set; }
@@ -27,7 +27,7 @@ public static class Cache
     /// <exception cref="FrameworkException">There is no such folder.</exception>
     public static string CacheFolder
     {
-        get => folder;
+        get => _folder;
         set
         {
             Verify.NotEmpty(value);
@@ -36,7 +36,7 @@ public static class Cache
                 throw new FrameworkException($"The cache folder '{value}' does not exist; create it first.");
             }
 
-            folder = value;
+            _folder = value;
         }
     }
 
@@ -45,11 +45,11 @@ public static class Cache
     /// <exception cref="ArgumentOutOfRangeException">The number is negative.</exception>
     public static long MaxMemoryForCache
     {
-        get => memoryLimit;
+        get => _memoryLimit;
         set
         {
             Verify.NotNegative(value);
-            memoryLimit = value;
+            _memoryLimit = value;
         }
     }
 
@@ -58,11 +58,11 @@ public static class Cache
     /// <exception cref="ArgumentOutOfRangeException">The number is negative.</exception>
     public static long MaxDiskSpaceForCache
     {
-        get => diskLimit;
+        get => _diskLimit;
         set
         {
             Verify.NotNegative(value);
-            diskLimit = value;
+            _diskLimit = value;
         }
     }
 
@@ -71,10 +71,10 @@ public static class Cache
     public static bool ExactReallocateOnly { get; set; }
 
     /// <summary>Gets how many bytes the pixels of all images take in memory now.</summary>
-    public static long AllocatedMemoryBytesCount => Interlocked.Read(ref memoryUsed);
+    public static long AllocatedMemoryBytesCount => Interlocked.Read(ref _memoryUsed);
 
     /// <summary>Gets how many bytes the pixels of all images take on disk now.</summary>
-    public static long AllocatedDiskBytesCount => Interlocked.Read(ref diskUsed);
+    public static long AllocatedDiskBytesCount => Interlocked.Read(ref _diskUsed);
 
     /// <summary>Sets everything back to what it is at the start of the process.</summary>
     public static void SetDefaults()
@@ -91,14 +91,14 @@ public static class Cache
     {
         lock (Gate)
         {
-            bool fits = memoryLimit == 0 || memoryUsed + bytes <= memoryLimit;
+            bool fits = _memoryLimit == 0 || _memoryUsed + bytes <= _memoryLimit;
             bool onDisk = CacheType == CacheType.CacheOnDiskOnly || (CacheType == CacheType.Auto && !fits);
-            if (onDisk ? diskLimit != 0 && diskUsed + bytes > diskLimit : !fits)
+            if (onDisk ? _diskLimit != 0 && _diskUsed + bytes > _diskLimit : !fits)
             {
                 string place = onDisk ? $"on disk would pass Cache.{nameof(MaxDiskSpaceForCache)}"
                     : $"in memory would pass Cache.{nameof(MaxMemoryForCache)}";
-                throw new LimitMemoryException($"{bytes} bytes for pixels {place} ({(onDisk ? diskLimit : memoryLimit)} bytes,"
-                    + $" {(onDisk ? diskUsed : memoryUsed)} of them taken); dispose images or raise the limit.");
+                throw new LimitMemoryException($"{bytes} bytes for pixels {place} ({(onDisk ? _diskLimit : _memoryLimit)} bytes,"
+                    + $" {(onDisk ? _diskUsed : _memoryUsed)} of them taken); dispose images or raise the limit.");
             }
 
             Add(bytes, onDisk);
@@ -118,11 +118,11 @@ public static class Cache
     {
         if (onDisk)
         {
-            diskUsed += bytes;
+            _diskUsed += bytes;
         }
         else
         {
-            memoryUsed += bytes;
+            _memoryUsed += bytes;
         }
     }
 }

@@ -2,41 +2,63 @@ using System;
 using System.Linq;
 using Korvan.CAD.Measurement;
 using Korvan.CAD.Primitives;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
-using Korvan.CAD.Rendering.Mesh;
+using Korvan.CAD.Scene3D;
 
 namespace Korvan.CAD;
 
 /// <summary>The faces of one entity of a drawing in world coordinates, as triangles.</summary>
 public class DrawingEntity3D : ObjectWithBounds, IMeasurableEntity
 {
-    private readonly MeshPart _part;
+    private readonly Node _node;
+    private readonly Mesh _mesh;
+    private readonly Affine3 _world;
 
-    internal DrawingEntity3D(MeshPart part)
+    internal DrawingEntity3D(Node node, Mesh mesh, Affine3 world)
     {
-        _part = part;
-        (Vec3 min, Vec3 max) = part.Bounds();
-        MinPoint = ToPoint(min);
-        MaxPoint = ToPoint(max);
+        (_node, _mesh, _world) = (node, mesh, world);
+        Bounds3 box = mesh.Positions.Aggregate(Bounds3.Empty, (box, point) => box.With(world.Point(point)));
+        MinPoint = ToPoint(box.Min);
+        MaxPoint = ToPoint(box.Max);
     }
 
     /// <summary>Gets the handle of the entity that the faces come from.</summary>
-    public string UniqueId => _part.Handle;
+    public string UniqueId => _node.Handle;
 
     /// <summary>Gets the type of that entity as files name it.</summary>
-    public string TypeNameText => _part.TypeName;
+    public string TypeNameText => _node.TypeName;
 
     /// <summary>Gets the name of the layer.</summary>
-    public string LayerName => _part.Layer;
+    public string LayerName => _node.Layer;
 
     /// <summary>Gets the colour of the faces.</summary>
-    public Color Color => Color.FromArgb(_part.Color.A, _part.Color.R, _part.Color.G, _part.Color.B);
+    public Color Color
+    {
+        get
+        {
+            Rgba color = _mesh.Ranges[0].Material.Color;
+            return Color.FromArgb(color.A, color.R, color.G, color.B);
+        }
+    }
 
     /// <summary>Gets the corners of all faces; faces share those that they have in common.</summary>
-    public Point3D[] Vertices => [.. _part.Points.Select(ToPoint)];
+    public Point3D[] Vertices => [.. _mesh.Positions.Select(point => ToPoint(_world.Point(point)))];
 
-    /// <summary>Gets the places in <see cref="Vertices"/> of the corners of triangles, three for each.</summary>
-    public int[] Triangles => [.. _part.Triangles];
+    /// <summary>Gets the indices in <see cref="Vertices"/> of the corners of triangles, three for each.</summary>
+    public int[] Triangles
+    {
+        get
+        {
+            int[] triangles = [.. _mesh.Indices];
+            for (int i = 0; _world.IsMirror && i < triangles.Length; i += 3)
+            {
+                Array.Reverse(triangles, i, 3); // what looked outwards still does
+            }
+
+            return triangles;
+        }
+    }
 
     /// <inheritdoc/>
     public override Point3D MinPoint { get; }
@@ -53,9 +75,8 @@ public class DrawingEntity3D : ObjectWithBounds, IMeasurableEntity
     public double? GetArea()
     {
         double area = 0;
-        for (int i = 0; i < _part.Triangles.Count; i += 3)
+        foreach ((Vec3 a, Vec3 b, Vec3 c) in _mesh.Triangles(_mesh.Ranges[0], _world))
         {
-            (Vec3 a, Vec3 b, Vec3 c) = _part.Triangle(i);
             area += Vec3.Cross(b - a, c - a).Length / 2;
         }
 

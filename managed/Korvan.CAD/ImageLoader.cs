@@ -23,8 +23,8 @@ internal static class ImageLoader
     internal static Image Load(string filePath, LoadOptions loadOptions)
     {
         Verify.NotNull(loadOptions);
-        (byte[] data, FileFormat format) = SourceFile.Read(filePath, ReadContent);
-        Image image = Read(data, filePath, format, loadOptions);
+        Content content = SourceFile.Read(filePath, ReadContent);
+        Image image = Read(content, filePath, loadOptions);
         image.FilePath = Path.GetFullPath(filePath);
         return image;
     }
@@ -35,8 +35,7 @@ internal static class ImageLoader
         Verify.NotNull(loadOptions);
         string name = fileName ?? StreamName;
         SourceWindow source = SourceFile.Open(stream, name);
-        (byte[] data, FileFormat format) = ReadContent(source);
-        Image image = Read(data, name, format, loadOptions);
+        Image image = Read(ReadContent(source), name, loadOptions);
         image.DataStreamContainer = new StreamContainer(stream, loadOptions.UnloadOnDispose);
         image.DataStart = source.Start;
         image.FilePath = fileName is null ? null : Path.GetFullPath(fileName);
@@ -63,7 +62,7 @@ internal static class ImageLoader
     }
 
     // What is not readable is told by as little of the source as that takes.
-    private static (byte[] Data, FileFormat Format) ReadContent(SourceWindow source)
+    private static Content ReadContent(SourceWindow source)
     {
         SourceFile.VerifyContent(source);
         FileFormat format = FormatRegistry.Detect(source);
@@ -74,25 +73,25 @@ internal static class ImageLoader
             throw format == FileFormat.Iges ? new IgesImageException(message) : new ImageLoadException(message);
         }
 
-        return (source.All(), format);
+        return new Content(source.All(), format);
     }
 
-    private static Image Read(byte[] data, string name, FileFormat format, LoadOptions options)
+    private static Image Read(Content content, string name, LoadOptions options)
     {
-        object content = FormatRegistry.Find(format)!.Read!(data, name, format, options);
-        Image image = Vectorized(ImageOf(content), options);
+        object model = FormatRegistry.Find(content.Format)!.Read!(content.Data, name, content.Format, options);
+        Image image = Vectorized(ImageOf(model), options);
         image.LoadOptions = options;
-        image.SourceFormat = format;
+        image.SourceFormat = content.Format;
         return image;
     }
 
-    private static Image ImageOf(object content) => content switch
+    private static Image ImageOf(object model) => model switch
     {
         CadDrawing drawing => new DxfImage(drawing),
         CgmFile metafile => new CgmImage(metafile),
         IfcContent building => new IfcImage(building),
         DecodedFile { Format: FileFormat.Bmp } bitmap => new BitmapImage(bitmap),
-        _ => new RasterFileImage((DecodedFile)content),
+        _ => new RasterFileImage((DecodedFile)model),
     };
 
     private static Image Vectorized(Image image, LoadOptions options)
@@ -108,4 +107,6 @@ internal static class ImageLoader
             return new DxfImage(Vectorizer.Trace(raster.Pixels, raster.HorizontalResolution, how));
         }
     }
+
+    private sealed record Content(byte[] Data, FileFormat Format);
 }

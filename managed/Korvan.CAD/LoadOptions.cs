@@ -1,4 +1,5 @@
 using System.Collections.Generic;
+using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
 
@@ -50,4 +51,17 @@ public class LoadOptions
 
     /// <summary>Gets what was wrong with the file, one message for each object left out.</summary>
     public List<string> Errors { get; } = [];
+
+    /// <summary>Gets the defects behind <see cref="Errors"/>, of formats whose readers number them.</summary>
+    internal List<LoadDefect> Defects { get; } = [];
+
+    /// <summary>Notes why something was left out.</summary>
+    internal void Note(ImageLoadException failure)
+    {
+        Errors.Add(failure.Message);
+        if (failure.Defect is { } defect)
+        {
+            Defects.Add(defect);
+        }
+    }
 }

@@ -22,6 +22,12 @@ class Wrappers(unittest.TestCase):
         self.assertTrue(echo != None)  # noqa: E711: None is asked of the managed side
         self.assertRaises(TypeError, lambda: echo < peer)
 
+    def test_a_hash_is_the_managed_one_but_for_the_mark_of_an_error(self) -> None:
+        for kind in (probe.HashedObject, probe.HashedValue):
+            for managed, hashed in ((7, 7), (-2, -2), (-1, -2), (-(2**31), -(2**31))):
+                with self.subTest(kind=kind, managed=managed):
+                    self.assertEqual(hash(kind(managed)), hashed)
+
     def test_a_dropped_wrapper_gives_its_handle_back(self) -> None:
         echo = probe.Echo()
         gc.collect()

@@ -325,16 +325,29 @@ class Gltf:
         return found
 
     def triangles(self) -> list[Triangle]:
-        found = []
-        top, = (self.root["nodes"][i] for i in self.root["scenes"][0]["nodes"])
-        m = top["matrix"]  # column by column
-        for node in (self.root["nodes"][i] for i in top["children"]):
-            for part in self.root["meshes"][node["mesh"]]["primitives"]:
-                points = [tuple(m[i] * x + m[4 + i] * y + m[8 + i] * z + m[12 + i] for i in range(3))
-                          for x, y, z in self.values(part["attributes"]["POSITION"])]
+        found: list[Triangle] = []
+
+        def walk(index: int, parents: list[list[float]]) -> None:
+            node = self.root["nodes"][index]
+            x, y, z = node.get("translation", (0, 0, 0))
+            maps = [node.get("matrix", [1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, x, y, z, 1]), *parents]  # column by column
+            for part in self.root["meshes"][node["mesh"]]["primitives"] if "mesh" in node else ():
+                points = self.values(part["attributes"]["POSITION"])
+                for m in maps:
+                    points = [tuple(m[i] * x + m[4 + i] * y + m[8 + i] * z + m[12 + i] for i in range(3)) for x, y, z in points]
                 order = [i for i, in self.values(part["indices"])] if "indices" in part else range(len(points))
-                found += [tuple(points[i] for i in order[at : at + 3]) for at in range(0, len(order), 3)]
+                mirror = math.prod(self.determinant(m) for m in maps) < 0  # then the other side is the front
+                found.extend(tuple(points[i] for i in order[at : at + 3][:: -1 if mirror else 1]) for at in range(0, len(order), 3))
+            for child in node.get("children", ()):
+                walk(child, maps)
+
+        for index in self.root["scenes"][0]["nodes"]:
+            walk(index, [])
         return found
+
+    @staticmethod
+    def determinant(m: list[float]) -> float:
+        return sum(a * b for a, b in zip(cross(tuple(m[0:3]), tuple(m[4:7])), m[8:11], strict=True))
 
 
 class Meshes(unittest.TestCase):

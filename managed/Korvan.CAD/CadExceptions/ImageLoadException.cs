@@ -12,6 +12,12 @@ public class ImageLoadException : ImageException
     {
     }
 
+    internal ImageLoadException(LoadDefect defect)
+        : base(defect.ToString())
+    {
+        Defect = defect;
+    }
+
     /// <summary>Creates the exception with a message and the failure behind it.</summary>
     /// <param name="message">What failed, where, and what would be right.</param>
     /// <param name="innerException">The failure that led here.</param>
@@ -19,4 +25,7 @@ public class ImageLoadException : ImageException
         : base(message, innerException)
     {
     }
+
+    /// <summary>Gets the defect of the file; nothing where the reader of the format does not number them.</summary>
+    internal LoadDefect? Defect { get; }
 }

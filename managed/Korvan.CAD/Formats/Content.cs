@@ -5,6 +5,8 @@ using Korvan.CAD.FileFormats.Ifc.Header;
 using Korvan.CAD.FileFormats.Ifc.Model;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
+using Korvan.CAD.Rendering;
+using Korvan.CAD.Rendering.Meshes;
 using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Formats;
@@ -16,8 +18,17 @@ internal interface IPageContent
     VectorScene OpenScene();
 }
 
+/// <summary>Content that has faces in space.</summary>
+internal interface IMeshContent
+{
+    /// <summary>Opens the meshes.</summary>
+    /// <param name="context">The export; null outside of one.</param>
+    /// <param name="request">What the format asks.</param>
+    Scene3D.Scene OpenMeshes(ExportContext? context, MeshRequest request);
+}
+
 /// <summary>A drawing.</summary>
-internal interface IDrawingContent : IPageContent
+internal interface IDrawingContent : IPageContent, IMeshContent
 {
     CadDrawing Drawing { get; }
 }

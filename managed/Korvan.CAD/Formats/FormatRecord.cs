@@ -1,5 +1,4 @@
 using System;
-using System.Collections.Generic;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Input;
 
@@ -14,7 +13,7 @@ internal sealed class FormatRecord
     internal required string Name { get; init; }
 
     /// <summary>Gets the formats, which all are read if one is.</summary>
-    internal required IReadOnlyList<FileFormat> Formats { get; init; }
+    internal required FileFormat[] Formats { get; init; }
 
     /// <summary>Gets what tells files of the format: one of <see cref="Formats"/>, or
     /// <see cref="FileFormat.Undefined"/> for files of others.</summary>
@@ -24,14 +23,29 @@ internal sealed class FormatRecord
     internal FormatReader? Read { get; init; }
 
     /// <summary>Gets what writes files, one for each class of options.</summary>
-    internal IReadOnlyList<FormatWriter> Writers { get; init; } = [];
+    internal FormatWriter[] Writers { get; init; } = [];
 
     /// <summary>Gets which of <see cref="Formats"/> the writers write; all of them where nothing else is said.</summary>
-    internal IReadOnlyList<FileFormat>? Written { get; init; }
+    internal FileFormat[]? Written { get; init; }
 
     /// <summary>Gets the options that write content of this format's own model as it was read; nothing for content of
     /// another model, and for what is not written.</summary>
     internal Func<object, OwnPlace, ImageOptionsBase?> OwnOptions { get; init; } = static (_, _) => null;
+
+    /// <summary>Tells whether a format is one of <see cref="Formats"/>.</summary>
+    internal bool Has(FileFormat format)
+    {
+        // A loop, since generic code over the enumeration would be compiled when the first file is loaded.
+        foreach (FileFormat own in Formats)
+        {
+            if (own == format)
+            {
+                return true;
+            }
+        }
+
+        return false;
+    }
 
     /// <summary>Gets why a file that belongs to the format, but is of no member of it, cannot be read.</summary>
     internal Func<SourceWindow, string?> Explain { get; init; } = static _ => null;

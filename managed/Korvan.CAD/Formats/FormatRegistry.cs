@@ -1,5 +1,4 @@
 using System;
-using System.Collections.Frozen;
 using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.Binding;
@@ -22,7 +21,7 @@ namespace Korvan.CAD.Formats;
 internal static class FormatRegistry
 {
     /// <summary>Gets all records, in the order in which files are tried: signatures of bytes before texts.</summary>
-    internal static IReadOnlyList<FormatRecord> All { get; } =
+    internal static FormatRecord[] All { get; } =
     [
         DwgFormat.Record,
         .. RasterFormats.Records,
@@ -44,8 +43,7 @@ internal static class FormatRegistry
         WmfFormat.Record,
     ];
 
-    private static readonly Lazy<FrozenDictionary<FileFormat, FormatRecord>> ByFormat = new(IndexFormats);
-    private static readonly Lazy<FrozenDictionary<Type, FormatWriter>> ByOptions = new(IndexWriters);
+    private static readonly Lazy<Dictionary<Type, FormatWriter>> ByOptions = new(IndexWriters);
 
     /// <summary>Gets the formats that can be read.</summary>
     internal static IEnumerable<FileFormat> Readable =>
@@ -53,7 +51,7 @@ internal static class FormatRegistry
 
     /// <summary>Gets the formats that can be written.</summary>
     internal static IEnumerable<FileFormat> Writable =>
-        All.Where(static record => record.Writers.Count > 0)
+        All.Where(static record => record.Writers.Length > 0)
             .SelectMany(static record => record.Written ?? record.Formats);
 
     /// <summary>Gets the names of what can be read, for messages.</summary>
@@ -61,7 +59,7 @@ internal static class FormatRegistry
         .Select(static record => record.Name).Distinct().Order(StringComparer.Ordinal));
 
     /// <summary>Gives the record of a format; nothing for those that the library does not know.</summary>
-    internal static FormatRecord? Find(FileFormat format) => ByFormat.Value.GetValueOrDefault(format);
+    internal static FormatRecord? Find(FileFormat format) => Array.Find(All, record => record.Has(format));
 
     /// <summary>Tells the format of a source.</summary>
     internal static FileFormat Detect(SourceWindow source)
@@ -114,10 +112,6 @@ internal static class FormatRegistry
     internal static ImageOptionsBase? OwnOptions(object content, OwnPlace place) =>
         Find(place.Format)?.OwnOptions(content, place);
 
-    private static FrozenDictionary<FileFormat, FormatRecord> IndexFormats() =>
-        All.SelectMany(static record => record.Formats.Select(format => KeyValuePair.Create(format, record)))
-            .ToFrozenDictionary();
-
-    private static FrozenDictionary<Type, FormatWriter> IndexWriters() =>
-        All.SelectMany(static record => record.Writers).ToFrozenDictionary(static writer => writer.OptionsType);
+    private static Dictionary<Type, FormatWriter> IndexWriters() =>
+        All.SelectMany(static record => record.Writers).ToDictionary(static writer => writer.OptionsType);
 }

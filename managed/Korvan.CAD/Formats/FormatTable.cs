@@ -13,7 +13,7 @@ internal static class FormatTable
     {
         var text = new StringBuilder("| Format | Extensions | Read | Written with |\n|---|---|---|---|\n");
         foreach (FormatRecord record in FormatRegistry.All
-            .Where(static record => record.Read is not null || record.Writers.Count > 0)
+            .Where(static record => record.Read is not null || record.Writers.Length > 0)
             .OrderBy(static record => record.Name, StringComparer.OrdinalIgnoreCase))
         {
             IEnumerable<string> extensions = record.Formats.SelectMany(static format => Metadata.Of(format).Extensions);

@@ -1,5 +1,4 @@
 using System;
-using System.Collections.Frozen;
 using System.Collections.Generic;
 using System.Reflection;
 
@@ -8,14 +7,14 @@ namespace Korvan.CAD.Formats;
 /// <summary>What the members of <see cref="FileFormat"/> say of themselves.</summary>
 internal static class Metadata
 {
-    private static readonly Lazy<FrozenDictionary<FileFormat, FileFormatMetadataAttribute>> Known = new(ReadAll);
+    private static readonly Lazy<Dictionary<FileFormat, FileFormatMetadataAttribute>> Known = new(ReadAll);
 
     /// <summary>Gets all formats that files have, in the order of their numbers.</summary>
     internal static IReadOnlyDictionary<FileFormat, FileFormatMetadataAttribute> All => Known.Value;
 
     internal static FileFormatMetadataAttribute Of(FileFormat format) => Known.Value[format];
 
-    private static FrozenDictionary<FileFormat, FileFormatMetadataAttribute> ReadAll()
+    private static Dictionary<FileFormat, FileFormatMetadataAttribute> ReadAll()
     {
         Dictionary<FileFormat, FileFormatMetadataAttribute> all = [];
         foreach (FileFormat format in Enum.GetValues<FileFormat>())
@@ -27,6 +26,6 @@ internal static class Metadata
             }
         }
 
-        return all.ToFrozenDictionary();
+        return all;
     }
 }

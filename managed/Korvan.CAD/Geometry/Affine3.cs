@@ -23,6 +23,12 @@ internal readonly struct Affine3
 
     internal static Affine3 Identity => new(Vec3.UnitX, Vec3.UnitY, Vec3.UnitZ, default);
 
+    internal bool IsIdentity =>
+        AxisX == Vec3.UnitX && AxisY == Vec3.UnitY && AxisZ == Vec3.UnitZ && Origin == default;
+
+    /// <summary>Gets whether the map turns right hands into left ones.</summary>
+    internal bool IsMirror => Vec3.Dot(Vec3.Cross(AxisX, AxisY), AxisZ) < 0;
+
     internal bool IsFinite => AxisX.IsFinite && AxisY.IsFinite && AxisZ.IsFinite && Origin.IsFinite;
 
     /// <summary>The side of the square that has the area of the mapped unit square: the scale of lengths in the plane.</summary>

@@ -51,10 +51,6 @@ internal sealed class RasterCodec
         {
             return Reader(new RasterSource(data, name, lenient) { Background = background });
         }
-        catch (ArgumentOutOfRangeException e)
-        {
-            throw new ImageLoadException($"'{name}' is damaged: {e.Message}");
-        }
         catch (OutOfMemoryException e)
         {
             throw new LimitMemoryException($"'{name}' needs more memory than there is.", e);

@@ -17,7 +17,8 @@ internal sealed class XmlDocs
     public static XmlDocs Load(IEnumerable<string> paths)
     {
         var docs = new XmlDocs();
-        foreach (XElement member in paths.Where(File.Exists).SelectMany(path => XDocument.Load(path).Descendants("member")))
+        IEnumerable<XDocument> documents = paths.Where(File.Exists).Select(path => XDocument.Load(path));
+        foreach (XElement member in documents.SelectMany(document => document.Descendants("member")))
         {
             docs._members[member.Attribute("name")!.Value] = member;
         }

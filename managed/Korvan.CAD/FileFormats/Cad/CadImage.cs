@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.IO;
+using System.Linq;
 using Korvan.CAD.Annotations;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
@@ -13,7 +14,7 @@ using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
-using Korvan.CAD.Rendering.Mesh;
+using Korvan.CAD.Rendering.Meshes;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.WatermarkGuard;
 
@@ -175,7 +176,11 @@ public partial class CadImage : Image, IDrawingContent
         VerifyNotDisposed();
         try
         {
-            return [.. MeshScene.Collect(Drawing, null).ConvertAll(static part => new DrawingEntity3D(part))];
+            return
+            [
+                .. DrawingMeshes.Read(Drawing, null, new MeshRequest()).Instances()
+                    .Select(static faces => new DrawingEntity3D(faces.Node, faces.Mesh, faces.World)),
+            ];
         }
         catch (RenderException e)
         {
@@ -212,5 +217,10 @@ public partial class CadImage : Image, IDrawingContent
     /// <inheritdoc/>
     CadDrawing IDrawingContent.Drawing => Drawing;
 
-    private (Cad3DPoint Min, Cad3DPoint Max) Extents() => DrawingExtents.OfModel(Drawing);
+    /// <inheritdoc/>
+    Scene3D.Scene IMeshContent.OpenMeshes(ExportContext? context, MeshRequest request) =>
+        DrawingMeshes.Read(Drawing, context, request);
+
+    private (Cad3DPoint Min, Cad3DPoint Max) Extents() =>
+        DrawingExtents.OfModel(Drawing, () => TextMeasurer.TryCreate(Drawing));
 }

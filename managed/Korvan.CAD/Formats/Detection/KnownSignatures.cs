@@ -1,6 +1,4 @@
 using System;
-using System.Collections.Generic;
-using System.Linq;
 using System.Text;
 
 namespace Korvan.CAD.Formats.Detection;
@@ -8,22 +6,23 @@ namespace Korvan.CAD.Formats.Detection;
 /// <summary>Formats that are told apart by their first bytes, and neither read nor written.</summary>
 internal static class KnownSignatures
 {
-    private static readonly (string Name, FileFormat Format, string Signature)[] Known =
+    internal static FormatRecord[] Records { get; } =
     [
-        ("DWF", FileFormat.Dwf, "(DWF V"),
-        ("FBX", FileFormat.Fbx, "Kaydara FBX Binary"),
-        ("U3D", FileFormat.U3D, "U3D\0"),
-        ("Draco", FileFormat.Draco, "DRACO"),
-        ("DXB", FileFormat.Dxb, "AutoCAD DXB"),
+        RecordOf("DWF", FileFormat.Dwf, "(DWF V"),
+        RecordOf("FBX", FileFormat.Fbx, "Kaydara FBX Binary"),
+        RecordOf("U3D", FileFormat.U3D, "U3D\0"),
+        RecordOf("Draco", FileFormat.Draco, "DRACO"),
+        RecordOf("DXB", FileFormat.Dxb, "AutoCAD DXB"),
     ];
 
-    internal static IReadOnlyList<FormatRecord> Records { get; } =
-        [.. Known.Select(static one => RecordOf(one.Name, one.Format, Encoding.ASCII.GetBytes(one.Signature)))];
-
-    private static FormatRecord RecordOf(string name, FileFormat format, byte[] signature) => new()
+    private static FormatRecord RecordOf(string name, FileFormat format, string signature)
     {
-        Name = name,
-        Formats = [format],
-        Detect = source => source.Head.StartsWith(signature) ? format : FileFormat.Undefined,
-    };
+        byte[] start = Encoding.ASCII.GetBytes(signature);
+        return new()
+        {
+            Name = name,
+            Formats = [format],
+            Detect = source => source.Head.StartsWith(start) ? format : FileFormat.Undefined,
+        };
+    }
 }

@@ -1,11 +1,9 @@
-using System.Collections.Generic;
-
 namespace Korvan.CAD.Formats.Detection;
 
 /// <summary>Formats of XML that are told apart by their root element, and neither read nor written.</summary>
 internal static class KnownTexts
 {
-    internal static IReadOnlyList<FormatRecord> Records { get; } =
+    internal static FormatRecord[] Records { get; } =
     [
         new()
         {

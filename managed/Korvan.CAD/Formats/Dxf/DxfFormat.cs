@@ -1,5 +1,4 @@
 using System;
-using System.Linq;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -12,16 +11,17 @@ internal static class DxfFormat
 {
     private const int VersionLength = 6;
 
-    private static readonly FileFormat[] Releases =
-    [
-        .. Enum.GetValues<FileFormat>().Where(static format =>
-            format is >= FileFormat.DxfCadR010 and <= FileFormat.DxfCadR2013),
-    ];
-
     internal static FormatRecord Record { get; } = new()
     {
         Name = "DXF",
-        Formats = Releases,
+        Formats =
+        [
+            FileFormat.DxfCadR010, FileFormat.DxfCadR012, FileFormat.DxfCadR014, FileFormat.DxfCadR015,
+            FileFormat.DxfCadR021, FileFormat.DxfCadR0221, FileFormat.DxfCadR0222, FileFormat.DxfCadR025,
+            FileFormat.DxfCadR026, FileFormat.DxfCadR9, FileFormat.DxfCadR10, FileFormat.DxfCadR11, FileFormat.DxfCadR13,
+            FileFormat.DxfCadR14, FileFormat.DxfCadR2000, FileFormat.DxfCadR2004, FileFormat.DxfCadR2007,
+            FileFormat.DxfCadR2010, FileFormat.DxfCadR2013,
+        ],
         Detect = static source => source.Search(Detect),
         Read = static (data, name, _, options) => new DxfReader(data, name, options).Read(),
         Writers =
@@ -31,8 +31,8 @@ internal static class DxfFormat
         ],
         Written =
         [
-            .. Enum.GetValues<DxfOutputVersion>().Where(static version => version != DxfOutputVersion.Original)
-                .Select(static version => DxfRelease.ToFileFormat(DxfRelease.From(version))).Distinct(),
+            FileFormat.DxfCadR012, FileFormat.DxfCadR2000, FileFormat.DxfCadR2004, FileFormat.DxfCadR2007,
+            FileFormat.DxfCadR2010, FileFormat.DxfCadR2013,
         ],
         OwnOptions = static (content, _) => content is IDrawingContent ? new DxfOptions() : null,
     };

@@ -1,6 +1,6 @@
 using System;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.Mesh;
+using Korvan.CAD.Rendering.Meshes;
 
 namespace Korvan.CAD.Formats.Mesh;
 
@@ -12,6 +12,10 @@ internal static class GlbFormat
         Name = "GLB",
         Formats = [FileFormat.Glb],
         Detect = static source => source.Head.StartsWith("glTF"u8) ? FileFormat.Glb : FileFormat.Undefined,
-        Writers = [MeshWriters.For<GlbOptions>(MeshExporter.WriteGltf)],
+        Writers =
+        [
+            MeshWriters.For<GlbOptions>(
+                static options => new MeshRequest(options.MergeLayers, options.DoubleSided), MeshExporter.WriteGltf),
+        ],
     };
 }

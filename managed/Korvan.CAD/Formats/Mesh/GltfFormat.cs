@@ -1,5 +1,5 @@
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.Mesh;
+using Korvan.CAD.Rendering.Meshes;
 
 namespace Korvan.CAD.Formats.Mesh;
 
@@ -10,6 +10,10 @@ internal static class GltfFormat
     {
         Name = "glTF",
         Formats = [FileFormat.Gltf],
-        Writers = [MeshWriters.For<GltfOptions>(MeshExporter.WriteGltf)],
+        Writers =
+        [
+            MeshWriters.For<GltfOptions>(
+                static options => new MeshRequest(options.MergeLayers, options.DoubleSided), MeshExporter.WriteGltf),
+        ],
     };
 }

@@ -1,18 +1,35 @@
 using System;
 using System.IO;
-using Korvan.CAD.FileFormats.Cad;
+using System.Linq;
+using Korvan.CAD.Binding;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.Formats.Pages;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
+using Korvan.CAD.Rendering.Meshes;
 
 namespace Korvan.CAD.Formats.Mesh;
 
-/// <summary>Writers of formats that hold faces and nothing else.</summary>
+/// <summary>Writers of formats that hold meshes and nothing else.</summary>
 internal static class MeshWriters
 {
     /// <summary>Makes a writer.</summary>
-    internal static FormatWriter For<TOptions>(Action<CadDrawing, TOptions, ExportContext, Stream> write)
+    /// <param name="request">What the format asks of the scene.</param>
+    /// <param name="write">Writes the scene.</param>
+    internal static FormatWriter For<TOptions>(
+        Func<TOptions, MeshRequest> request, Action<Scene3D.Scene, TOptions, Stream> write)
         where TOptions : ImageOptionsBase =>
-        FormatWriter.For<IDrawingContent, TOptions>(OutputKind.Faces, (content, options, context, output) =>
-            PageWriters.Draw(content, context, () => write(content.Drawing, options, context, output)));
+        FormatWriter.For<IMeshContent, TOptions>(OutputKind.Faces, (content, options, context, output) =>
+            PageWriters.Draw(content, context, () => write(Open(content, context, request(options)), options, output)));
+
+    private static Scene3D.Scene Open(IMeshContent content, ExportContext context, MeshRequest request)
+    {
+        Scene3D.Scene scene = content.OpenMeshes(context, request);
+        return scene.Instances().Any()
+            ? scene
+            : throw new RenderException(
+                $"The drawing has no faces that show, and a file of the format "
+                    + $"{Verify.NameOf(context.Options.TargetFormat)} holds nothing else: neither faces, meshes and "
+                    + "solids nor anything that has a thickness.");
+    }
 }

@@ -1,5 +1,5 @@
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.Mesh;
+using Korvan.CAD.Rendering.Meshes;
 
 namespace Korvan.CAD.Formats.Mesh;
 
@@ -10,6 +10,10 @@ internal static class ObjFormat
     {
         Name = "OBJ",
         Formats = [FileFormat.Obj],
-        Writers = [MeshWriters.For<ObjOptions>(MeshExporter.WriteObj)],
+        Writers =
+        [
+            MeshWriters.For<ObjOptions>(
+                static _ => new MeshRequest(MergeLayers: true), MeshExporter.WriteObj),
+        ],
     };
 }

@@ -1,6 +1,6 @@
 using System;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.Mesh;
+using Korvan.CAD.Rendering.Meshes;
 
 namespace Korvan.CAD.Formats.Mesh;
 
@@ -12,6 +12,10 @@ internal static class StlFormat
         Name = "STL",
         Formats = [FileFormat.Stl],
         Detect = static source => source.Head.StartsWith("solid "u8) ? FileFormat.Stl : FileFormat.Undefined,
-        Writers = [MeshWriters.For<StlOptions>(MeshExporter.WriteStl)],
+        Writers =
+        [
+            MeshWriters.For<StlOptions>(
+                static _ => new MeshRequest(), MeshExporter.WriteStl),
+        ],
     };
 }

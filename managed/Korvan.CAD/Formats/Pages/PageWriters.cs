@@ -16,7 +16,7 @@ internal static class PageWriters
             Draw(content, context, () => write(content.OpenScene(), options, context, output)));
 
     /// <summary>Runs what draws the content, once it is sure that the options can be followed.</summary>
-    internal static void Draw(IPageContent content, ExportContext context, Action draw)
+    internal static void Draw(object content, ExportContext context, Action draw)
     {
         if (content is IMetafileContent)
         {

@@ -1,4 +1,3 @@
-using System.Collections.Generic;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.Formats.Pages;
@@ -12,7 +11,7 @@ namespace Korvan.CAD.Formats.Raster;
 /// <summary>The formats of pixels: each codec reads images, and writes images and drawn pages.</summary>
 internal static class RasterFormats
 {
-    internal static IReadOnlyList<FormatRecord> Records { get; } = [.. RasterCodecs.All.Select(RecordOf)];
+    internal static FormatRecord[] Records { get; } = [.. RasterCodecs.All.Select(RecordOf)];
 
     private static FormatRecord RecordOf(RasterCodec codec) => new()
     {

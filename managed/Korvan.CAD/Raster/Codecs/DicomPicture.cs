@@ -12,30 +12,30 @@ internal sealed class DicomPicture
     private const int MostFrames = 10_000;
     private const double MillimetresPerInch = 25.4;
 
-    private readonly DicomReader file;
-    private readonly int width;
-    private readonly int height;
-    private readonly int samples;
-    private readonly int bits;
-    private readonly bool planar;
-    private readonly string photometric;
-    private readonly Lazy<DicomTones> tones;
+    private readonly DicomReader _file;
+    private readonly int _width;
+    private readonly int _height;
+    private readonly int _samples;
+    private readonly int _bits;
+    private readonly bool _planar;
+    private readonly string _photometric;
+    private readonly Lazy<DicomTones> _tones;
 
     private DicomPicture(DicomReader file)
     {
-        this.file = file;
-        width = file.Number(DicomTags.Columns, 0);
-        height = file.Number(DicomTags.Rows, 0);
-        samples = file.Number(DicomTags.SamplesPerPixel, 1);
-        bits = file.Number(DicomTags.BitsAllocated, 8);
-        planar = file.Number(DicomTags.PlanarConfiguration, 0) == 1;
-        photometric = file.Text(DicomTags.Photometric);
-        tones = new Lazy<DicomTones>(() => DicomTones.Of(file, bits, photometric == "MONOCHROME1", AllSamples));
+        _file = file;
+        _width = file.Number(DicomTags.Columns, 0);
+        _height = file.Number(DicomTags.Rows, 0);
+        _samples = file.Number(DicomTags.SamplesPerPixel, 1);
+        _bits = file.Number(DicomTags.BitsAllocated, 8);
+        _planar = file.Number(DicomTags.PlanarConfiguration, 0) == 1;
+        _photometric = file.Text(DicomTags.Photometric);
+        _tones = new Lazy<DicomTones>(() => DicomTones.Of(file, _bits, _photometric == "MONOCHROME1", AllSamples));
         Verify();
     }
 
     /// <summary>Gets whether two pixels beside each other share their colour: two of lightness, then blue and red.</summary>
-    private bool HasPairs => photometric == "YBR_FULL_422" && file.Fragments == null;
+    private bool HasPairs => _photometric == "YBR_FULL_422" && _file.Fragments == null;
 
     private int FrameCount { get; set; }
 
@@ -53,7 +53,7 @@ internal sealed class DicomPicture
             throw file.Damaged($"{count} frames are announced");
         }
 
-        if ((long)picture.width * picture.height * count > PixelGrid.MostPixels)
+        if ((long)picture._width * picture._height * count > PixelGrid.MostPixels)
         {
             throw new LimitMemoryException($"The frames of '{file.Name}' have more than {PixelGrid.MostPixels} pixels in all.");
         }
@@ -78,33 +78,33 @@ internal sealed class DicomPicture
 
     private void Verify()
     {
-        if (width < 1 || height < 1)
+        if (_width < 1 || _height < 1)
         {
-            throw file.Damaged($"it claims {width} × {height} pixels");
+            throw _file.Damaged($"it claims {_width} × {_height} pixels");
         }
 
-        PixelGrid.Verify(width, height);
-        bool known = (samples, bits) switch
+        PixelGrid.Verify(_width, _height);
+        bool known = (_samples, _bits) switch
         {
-            (1, 8 or 16) => photometric is "MONOCHROME1" or "MONOCHROME2",
-            (3, 8) => photometric is "RGB" or "YBR_FULL" or "YBR_FULL_422" or "YBR_RCT" or "YBR_ICT",
+            (1, 8 or 16) => _photometric is "MONOCHROME1" or "MONOCHROME2",
+            (3, 8) => _photometric is "RGB" or "YBR_FULL" or "YBR_FULL_422" or "YBR_RCT" or "YBR_ICT",
             _ => false,
         };
-        int stored = file.Number(DicomTags.BitsStored, bits);
-        int high = file.Number(DicomTags.HighBit, stored - 1);
-        if (!known || stored < 1 || stored > bits || high >= bits || high < stored - 1)
+        int stored = _file.Number(DicomTags.BitsStored, _bits);
+        int high = _file.Number(DicomTags.HighBit, stored - 1);
+        if (!known || stored < 1 || stored > _bits || high >= _bits || high < stored - 1)
         {
-            throw new ImageLoadException($"'{file.Name}' has {samples} samples of '{photometric}', {stored} of {bits} bits up to bit {high}, which is not read.");
+            throw new ImageLoadException($"'{_file.Name}' has {_samples} samples of '{_photometric}', {stored} of {_bits} bits up to bit {high}, which is not read.");
         }
     }
 
     private DecodedFrame Frame(int index)
     {
-        string[] spacing = file.Text(DicomTags.PixelSpacing).Split('\\');
+        string[] spacing = _file.Text(DicomTags.PixelSpacing).Split('\\');
         return new DecodedFrame
         {
             Pixels = Pixels(index),
-            BitsPerPixel = samples * bits,
+            BitsPerPixel = _samples * _bits,
             HorizontalResolution = PerInch(spacing[^1]),
             VerticalResolution = PerInch(spacing[0]),
         };
@@ -118,29 +118,29 @@ internal sealed class DicomPicture
 
     private PixelGrid Pixels(int index)
     {
-        if (file.Fragments == null || file.Syntax == DicomTags.Rle)
+        if (_file.Fragments == null || _file.Syntax == DicomTags.Rle)
         {
-            return FromSamples(Samples(index), file.Fragments == null && planar);
+            return FromSamples(Samples(index), _file.Fragments == null && _planar);
         }
 
         byte[] data = Fragment(index);
-        PixelGrid pixels = file.Syntax == DicomTags.JpegBaseline
-            ? JpegCodec.Decompress(file.Source, data, false, out _)
-            : Jpeg2000Codec.Decode(file.Source, data, true, out _);
-        if (pixels.Width == width && pixels.Height == height)
+        PixelGrid pixels = _file.Syntax == DicomTags.JpegBaseline
+            ? JpegCodec.Decompress(_file.Source, data, false, out _)
+            : Jpeg2000Codec.Decode(_file.Source, data, true, out _);
+        if (pixels.Width == _width && pixels.Height == _height)
         {
             Invert(pixels);
             return pixels;
         }
 
         pixels.Dispose();
-        throw file.Damaged($"frame {index} has another size than the file states");
+        throw _file.Damaged($"frame {index} has another size than the file states");
     }
 
     // What codecs give of greys is not inverted yet.
     private void Invert(PixelGrid pixels)
     {
-        for (int y = 0; y < height && photometric == "MONOCHROME1"; y++)
+        for (int y = 0; y < _height && _photometric == "MONOCHROME1"; y++)
         {
             foreach (ref int pixel in pixels.Row(y))
             {
@@ -151,10 +151,10 @@ internal sealed class DicomPicture
 
     // One frame may stand in several pieces; of several frames each has its own.
     private byte[] Fragment(int index) =>
-        FrameCount > 1 || file.Fragments!.Count == 1 ? file.Fragments![index].ToArray() : Joined(file.Fragments);
+        FrameCount > 1 || _file.Fragments!.Count == 1 ? _file.Fragments![index].ToArray() : Joined(_file.Fragments);
 
     private ReadOnlySpan<byte> Samples(int index) =>
-        file.Fragments == null ? Plain(index) : DicomRle.Unpack(Fragment(index), samples, bits / 8, (long)width * height);
+        _file.Fragments == null ? Plain(index) : DicomRle.Unpack(Fragment(index), _samples, _bits / 8, (long)_width * _height);
 
     // Shades that depend on what is there are to be the same in all frames.
     private IEnumerable<byte[]> AllSamples()
@@ -174,29 +174,29 @@ internal sealed class DicomPicture
 
     private ReadOnlySpan<byte> Plain(int index)
     {
-        long size = HasPairs ? (width + 1) / 2 * 4L * height : (long)width * height * samples * (bits / 8);
+        long size = HasPairs ? (_width + 1) / 2 * 4L * _height : (long)_width * _height * _samples * (_bits / 8);
         long start = index * size;
-        if (start + size > file.PlainPixels.Length)
+        if (start + size > _file.PlainPixels.Length)
         {
-            throw file.Damaged($"frame {index} needs {size} bytes, but {Math.Max(0, file.PlainPixels.Length - start)} are left");
+            throw _file.Damaged($"frame {index} needs {size} bytes, but {Math.Max(0, _file.PlainPixels.Length - start)} are left");
         }
 
-        return file.PlainPixels.Span.Slice((int)start, (int)size);
+        return _file.PlainPixels.Span.Slice((int)start, (int)size);
     }
 
     private PixelGrid FromSamples(ReadOnlySpan<byte> data, bool inPlanes)
     {
-        var pixels = new PixelGrid(width, height);
-        int plane = inPlanes ? width * height : 1;
-        int step = inPlanes ? 1 : samples;
-        int pairBytes = (width + 1) / 2 * 4;
-        for (int y = 0, at = 0; y < height; y++)
+        var pixels = new PixelGrid(_width, _height);
+        int plane = inPlanes ? _width * _height : 1;
+        int step = inPlanes ? 1 : _samples;
+        int pairBytes = (_width + 1) / 2 * 4;
+        for (int y = 0, at = 0; y < _height; y++)
         {
             Span<int> row = pixels.Row(y);
             for (int x = 0; x < row.Length; x++, at++)
             {
                 int pair = (y * pairBytes) + (x / 2 * 4);
-                row[x] = samples == 1 ? tones.Value.Pixel(data, at)
+                row[x] = _samples == 1 ? _tones.Value.Pixel(data, at)
                     : HasPairs ? Color(data[pair + (x & 1)], data[pair + 2], data[pair + 3])
                     : Color(data[at * step], data[(at * step) + plane], data[(at * step) + (2 * plane)]);
             }
@@ -207,7 +207,7 @@ internal sealed class DicomPicture
 
     private int Color(int first, int second, int third)
     {
-        return photometric.StartsWith("YBR", StringComparison.Ordinal)
+        return _photometric.StartsWith("YBR", StringComparison.Ordinal)
             ? PixelGrid.Opaque | Jpeg2000Planes.FromYcc(first, second - 128, third - 128)
             : PixelGrid.Opaque | (first << 16) | (second << 8) | third;
     }

@@ -14,16 +14,16 @@ internal sealed class DicomReader
     private const int DeepestSequence = 16;
     private const int LongestText = 1024;
 
-    private readonly RasterSource source;
-    private readonly Dictionary<uint, byte[]> values = [];
-    private int at = Preamble;
-    private bool implicitTypes;
+    private readonly RasterSource _source;
+    private readonly Dictionary<uint, byte[]> _values = [];
+    private int _at = Preamble;
+    private bool _implicitTypes;
 
-    private DicomReader(RasterSource source) => this.source = source;
+    private DicomReader(RasterSource source) => _source = source;
 
-    internal string Name => source.Name;
+    internal string Name => _source.Name;
 
-    internal RasterSource Source => source;
+    internal RasterSource Source => _source;
 
     /// <summary>The bytes of plain pixels.</summary>
     internal ReadOnlyMemory<byte> PlainPixels { get; private set; }
@@ -41,10 +41,10 @@ internal sealed class DicomReader
     }
 
     internal string Text(uint tag) =>
-        values.TryGetValue(tag, out byte[]? data) ? Encoding.ASCII.GetString(data).TrimEnd('\0', ' ') : "";
+        _values.TryGetValue(tag, out byte[]? data) ? Encoding.ASCII.GetString(data).TrimEnd('\0', ' ') : "";
 
     internal int Number(uint tag, int missing) =>
-        values.TryGetValue(tag, out byte[]? data) && data.Length >= 2 ? BinaryPrimitives.ReadUInt16LittleEndian(data) : missing;
+        _values.TryGetValue(tag, out byte[]? data) && data.Length >= 2 ? BinaryPrimitives.ReadUInt16LittleEndian(data) : missing;
 
     /// <summary>The first number of a text of decimal numbers.</summary>
     internal double Real(uint tag, double missing)
@@ -55,14 +55,14 @@ internal sealed class DicomReader
             : missing;
     }
 
-    internal ImageLoadException Damaged(string why) => new($"'{source.Name}' is no DICOM file that can be read: {why}.");
+    internal ImageLoadException Damaged(string why) => new($"'{_source.Name}' is no DICOM file that can be read: {why}.");
 
     private void ReadElements()
     {
-        while (at < source.Data.Length)
+        while (_at < _source.Data.Length)
         {
-            uint tag = Tag(at);
-            if (tag >> 16 > 2 && !implicitTypes && !values.ContainsKey(0))
+            uint tag = Tag(_at);
+            if (tag >> 16 > 2 && !_implicitTypes && !_values.ContainsKey(0))
             {
                 Begin();
             }
@@ -83,32 +83,32 @@ internal sealed class DicomReader
     // The group of the file itself always states types; the rest does as the transfer syntax says.
     private void Begin()
     {
-        values[0] = [];
-        implicitTypes = Syntax == DicomTags.ImplicitLittleEndian;
+        _values[0] = [];
+        _implicitTypes = Syntax == DicomTags.ImplicitLittleEndian;
         if (!DicomPicture.Reads(Syntax))
         {
-            throw new ImageLoadException($"'{source.Name}' has the transfer syntax '{Syntax}', which is not read.");
+            throw new ImageLoadException($"'{_source.Name}' has the transfer syntax '{Syntax}', which is not read.");
         }
     }
 
     private (string Type, uint Length) Head()
     {
-        ReadOnlySpan<byte> head = Take(at, 8);
-        if (implicitTypes && Tag(at) >> 16 > 2)
+        ReadOnlySpan<byte> head = Take(_at, 8);
+        if (_implicitTypes && Tag(_at) >> 16 > 2)
         {
-            at += 8;
+            _at += 8;
             return ("UN", BinaryPrimitives.ReadUInt32LittleEndian(head[4..]));
         }
 
         string type = Encoding.ASCII.GetString(head[4..6]);
         if (type is "OB" or "OW" or "OF" or "OD" or "OL" or "OV" or "SQ" or "UN" or "UT" or "UC" or "UR" or "SV" or "UV")
         {
-            uint length = BinaryPrimitives.ReadUInt32LittleEndian(Take(at + 8, 4));
-            at += 12;
+            uint length = BinaryPrimitives.ReadUInt32LittleEndian(Take(_at + 8, 4));
+            _at += 12;
             return (type, length);
         }
 
-        at += 8;
+        _at += 8;
         return (type, BinaryPrimitives.ReadUInt16LittleEndian(head[6..]));
     }
 
@@ -120,11 +120,11 @@ internal sealed class DicomReader
             return;
         }
 
-        ReadOnlySpan<byte> data = Take(at, length);
-        at += (int)length;
+        ReadOnlySpan<byte> data = Take(_at, length);
+        _at += (int)length;
         if (type != "SQ" && length <= LongestText && tag >> 16 is 2 or 0x28)
         {
-            values[tag] = data.ToArray();
+            _values[tag] = data.ToArray();
         }
     }
 
@@ -137,9 +137,9 @@ internal sealed class DicomReader
 
         while (true)
         {
-            uint tag = Tag(at);
-            uint length = BinaryPrimitives.ReadUInt32LittleEndian(Take(at + 4, 4));
-            at += 8;
+            uint tag = Tag(_at);
+            uint length = BinaryPrimitives.ReadUInt32LittleEndian(Take(_at + 4, 4));
+            _at += 8;
             if (tag == DicomTags.SequenceEnd)
             {
                 return;
@@ -147,7 +147,7 @@ internal sealed class DicomReader
 
             if (tag != DicomTags.Item)
             {
-                throw Damaged($"an item of a sequence was expected at {at - 8}");
+                throw Damaged($"an item of a sequence was expected at {_at - 8}");
             }
 
             if (length == DicomTags.UndefinedLength)
@@ -156,14 +156,14 @@ internal sealed class DicomReader
                 continue;
             }
 
-            Take(at, length);
-            at += (int)length;
+            Take(_at, length);
+            _at += (int)length;
         }
     }
 
     private void SkipItem(int depth)
     {
-        while (Tag(at) != DicomTags.ItemEnd)
+        while (Tag(_at) != DicomTags.ItemEnd)
         {
             (_, uint length) = Head();
             if (length == DicomTags.UndefinedLength)
@@ -172,34 +172,34 @@ internal sealed class DicomReader
                 continue;
             }
 
-            Take(at, length);
-            at += (int)length;
+            Take(_at, length);
+            _at += (int)length;
         }
 
-        at += 8;
+        _at += 8;
     }
 
     private void ReadPixels(uint length)
     {
         if (length != DicomTags.UndefinedLength)
         {
-            int there = source.Data.Length - at;
-            if (length > there && !source.Lenient)
+            int there = _source.Data.Length - _at;
+            if (length > there && !_source.Lenient)
             {
                 throw Damaged($"{length} bytes of pixels are announced, but {there} are left");
             }
 
-            PlainPixels = source.Data.AsMemory(at, (int)Math.Min(length, there));
+            PlainPixels = _source.Data.AsMemory(_at, (int)Math.Min(length, there));
             return;
         }
 
         Fragments = [];
-        while (Tag(at) == DicomTags.Item)
+        while (Tag(_at) == DicomTags.Item)
         {
-            uint size = BinaryPrimitives.ReadUInt32LittleEndian(Take(at + 4, 4));
-            Take(at + 8, size);
-            Fragments.Add(source.Data.AsMemory(at + 8, (int)size));
-            at += 8 + (int)size;
+            uint size = BinaryPrimitives.ReadUInt32LittleEndian(Take(_at + 4, 4));
+            Take(_at + 8, size);
+            Fragments.Add(_source.Data.AsMemory(_at + 8, (int)size));
+            _at += 8 + (int)size;
         }
 
         if (Fragments.Count < 2)
@@ -218,8 +218,8 @@ internal sealed class DicomReader
 
     private ReadOnlySpan<byte> Take(long place, uint count)
     {
-        return place + count <= source.Data.Length
-            ? source.Data.AsSpan((int)place, (int)count)
-            : throw Damaged($"it ends after {source.Data.Length} bytes, inside of a data element");
+        return place + count <= _source.Data.Length
+            ? _source.Data.AsSpan((int)place, (int)count)
+            : throw Damaged($"it ends after {_source.Data.Length} bytes, inside of a data element");
     }
 }

@@ -11,17 +11,17 @@ namespace Korvan.CAD.Raster.Codecs;
 /// </summary>
 internal sealed class DicomTones
 {
-    private readonly int[] pixels;
-    private readonly int shift;
-    private readonly int stored;
-    private readonly bool signed;
+    private readonly int[] _pixels;
+    private readonly int _shift;
+    private readonly int _stored;
+    private readonly bool _signed;
 
     private DicomTones(DicomReader file, int bits)
     {
-        pixels = new int[1 << bits];
-        stored = file.Number(DicomTags.BitsStored, bits);
-        shift = file.Number(DicomTags.HighBit, stored - 1) + 1 - stored;
-        signed = file.Number(DicomTags.PixelRepresentation, 0) == 1;
+        _pixels = new int[1 << bits];
+        _stored = file.Number(DicomTags.BitsStored, bits);
+        _shift = file.Number(DicomTags.HighBit, _stored - 1) + 1 - _stored;
+        _signed = file.Number(DicomTags.PixelRepresentation, 0) == 1;
     }
 
     /// <summary>Finds the shades; samples are asked for only where nothing else tells them.</summary>
@@ -39,23 +39,23 @@ internal sealed class DicomTones
             (low, high) = ((least * slope) + intercept, (most * slope) + intercept);
         }
 
-        for (int word = 0; word < tones.pixels.Length; word++)
+        for (int word = 0; word < tones._pixels.Length; word++)
         {
             double value = (tones.Value(word) * slope) + intercept;
             int tone = (int)Math.Clamp(Math.Round((value - low) * 255 / (high == low ? 1e-9 : high - low)), 0, 255);
-            tones.pixels[word] = PixelGrid.Opaque | ((inverted ? 255 - tone : tone) * 0x010101);
+            tones._pixels[word] = PixelGrid.Opaque | ((inverted ? 255 - tone : tone) * 0x010101);
         }
 
         return tones;
     }
 
     /// <summary>The pixel of a sample.</summary>
-    internal int Pixel(ReadOnlySpan<byte> data, int at) => pixels[Word(data, at)];
+    internal int Pixel(ReadOnlySpan<byte> data, int at) => _pixels[Word(data, at)];
 
     private int Word(ReadOnlySpan<byte> data, int at) =>
-        pixels.Length == 256 ? data[at] : BinaryPrimitives.ReadUInt16LittleEndian(data[(2 * at)..]);
+        _pixels.Length == 256 ? data[at] : BinaryPrimitives.ReadUInt16LittleEndian(data[(2 * at)..]);
 
-    private (int Least, int Most) Possible() => signed ? (-(1 << (stored - 1)), (1 << (stored - 1)) - 1) : (0, (1 << stored) - 1);
+    private (int Least, int Most) Possible() => _signed ? (-(1 << (_stored - 1)), (1 << (_stored - 1)) - 1) : (0, (1 << _stored) - 1);
 
     private (int Least, int Most) Present(IEnumerable<byte[]> frames)
     {
@@ -74,7 +74,7 @@ internal sealed class DicomTones
 
     private int Value(int word)
     {
-        int value = (word >> shift) & ((1 << stored) - 1);
-        return signed && (value >> (stored - 1)) != 0 ? value - (1 << stored) : value;
+        int value = (word >> _shift) & ((1 << _stored) - 1);
+        return _signed && (value >> (_stored - 1)) != 0 ? value - (1 << _stored) : value;
     }
 }

@@ -19,16 +19,16 @@ internal sealed class DicomWriter
     private const int White = -1;
     private const double MillimetresPerInch = 25.4;
 
-    private readonly DicomOptions options;
-    private readonly bool color;
-    private readonly int bits;
+    private readonly DicomOptions _options;
+    private readonly bool _color;
+    private readonly int _bits;
 
     private DicomWriter(DicomOptions options)
     {
-        this.options = options;
-        color = options.ColorType == ColorType.Rgb24Bit;
-        bits = options.ColorType == ColorType.Grayscale16Bit ? 16 : 8;
-        if (bits == 16 && options.Compression.Type is not (CompressionType.None or CompressionType.Rle))
+        _options = options;
+        _color = options.ColorType == ColorType.Rgb24Bit;
+        _bits = options.ColorType == ColorType.Grayscale16Bit ? 16 : 8;
+        if (_bits == 16 && options.Compression.Type is not (CompressionType.None or CompressionType.Rle))
         {
             throw new ImageSaveException(
                 $"Samples of 16 bits are stored plain or as run lengths, not as "
@@ -52,7 +52,7 @@ internal sealed class DicomWriter
         writer.WriteFrames(pages, chosen, first, output);
     }
 
-    private string Syntax => options.Compression.Type switch
+    private string Syntax => _options.Compression.Type switch
     {
         CompressionType.Jpeg => DicomTags.JpegBaseline,
         CompressionType.Jpeg2000 => DicomTags.Jpeg2000Lossless,
@@ -60,22 +60,22 @@ internal sealed class DicomWriter
         _ => DicomTags.ExplicitLittleEndian,
     };
 
-    private string Photometric => (color, options.Compression.Type) switch
+    private string Photometric => (_color, _options.Compression.Type) switch
     {
         (false, _) => "MONOCHROME2",
-        (_, CompressionType.Jpeg) => options.Compression.Quality >= 90 ? "YBR_FULL" : "YBR_FULL_422",
+        (_, CompressionType.Jpeg) => _options.Compression.Quality >= 90 ? "YBR_FULL" : "YBR_FULL_422",
         (_, CompressionType.Jpeg2000) => "YBR_RCT",
         _ => "RGB",
     };
 
     private RasterPageData Render(IRasterPages pages, int index)
     {
-        RasterPageData page = PageChoice.Render(pages, index, options.MultiPageOptions);
+        RasterPageData page = PageChoice.Render(pages, index, _options.MultiPageOptions);
         page.Pixels.Flatten(White);
         return page;
     }
 
-    private string Class(int frames) => (frames > 1, color, bits) switch
+    private string Class(int frames) => (frames > 1, _color, _bits) switch
     {
         (false, _, _) => DicomTags.SecondaryCapture,
         (_, true, _) => DicomTags.FramesOfColors,
@@ -121,9 +121,9 @@ internal sealed class DicomWriter
         to.Text(0x00200010, "SH", "");
         to.Text(0x00200011, "IS", "");
         to.Text(0x00200013, "IS", "1");
-        to.Word(DicomTags.SamplesPerPixel, color ? 3 : 1);
+        to.Word(DicomTags.SamplesPerPixel, _color ? 3 : 1);
         to.Text(DicomTags.Photometric, "CS", Photometric);
-        if (color)
+        if (_color)
         {
             to.Word(DicomTags.PlanarConfiguration, 0);
         }
@@ -137,11 +137,11 @@ internal sealed class DicomWriter
         to.Word(DicomTags.Columns, page.Pixels.Width);
         to.Text(DicomTags.PixelSpacing, "DS", string.Create(CultureInfo.InvariantCulture,
             $"{MillimetresPerInch / page.VerticalResolution:0.######}\\{MillimetresPerInch / page.HorizontalResolution:0.######}"));
-        to.Word(DicomTags.BitsAllocated, bits);
-        to.Word(DicomTags.BitsStored, bits);
-        to.Word(DicomTags.HighBit, bits - 1);
+        to.Word(DicomTags.BitsAllocated, _bits);
+        to.Word(DicomTags.BitsStored, _bits);
+        to.Word(DicomTags.HighBit, _bits - 1);
         to.Word(DicomTags.PixelRepresentation, 0);
-        if (bits == 16)
+        if (_bits == 16)
         {
             to.Text(DicomTags.WindowCenter, "DS", "32768"); // the whole range, or viewers spread what there is
             to.Text(DicomTags.WindowWidth, "DS", "65536");
@@ -151,14 +151,14 @@ internal sealed class DicomWriter
     private void WriteFrames(IRasterPages pages, List<int> chosen, RasterPageData first, Stream output)
     {
         var elements = new DicomElements(output);
-        long plain = first.Pixels.Count * (color ? 3 : bits / 8);
-        bool packed = options.Compression.Type != CompressionType.None;
+        long plain = first.Pixels.Count * (_color ? 3 : _bits / 8);
+        bool packed = _options.Compression.Type != CompressionType.None;
         if (plain * chosen.Count > uint.MaxValue - 1)
         {
             throw new ImageSaveException($"{chosen.Count} frames of {plain} bytes are more than a DICOM file holds.");
         }
 
-        elements.Head(DicomTags.PixelData, packed || bits == 8 ? "OB" : "OW",
+        elements.Head(DicomTags.PixelData, packed || _bits == 8 ? "OB" : "OW",
             packed ? DicomTags.UndefinedLength : (plain * chosen.Count) + (plain * chosen.Count & 1));
         if (packed)
         {
@@ -190,27 +190,27 @@ internal sealed class DicomWriter
 
     private void WriteFrame(PixelGrid pixels, Stream output, DicomElements elements, bool packed)
     {
-        switch (options.Compression.Type)
+        switch (_options.Compression.Type)
         {
             case CompressionType.Jpeg:
-                JpegCompressionColorMode mode = color ? JpegCompressionColorMode.YCbCr : JpegCompressionColorMode.Grayscale;
-                elements.Item(DicomTags.Item, JpegCodec.Compress(pixels, mode, options.Compression.Quality, false));
+                JpegCompressionColorMode mode = _color ? JpegCompressionColorMode.YCbCr : JpegCompressionColorMode.Grayscale;
+                elements.Item(DicomTags.Item, JpegCodec.Compress(pixels, mode, _options.Compression.Quality, false));
                 break;
             case CompressionType.Jpeg2000:
                 using (var stream = new MemoryStream())
                 {
-                    if (!color)
+                    if (!_color)
                     {
                         Operations.Tones.Grayscale(pixels);
                     }
 
-                    Jpeg2000Codec.Encode(pixels, J2K.J2K, false, 1, !color, stream);
+                    Jpeg2000Codec.Encode(pixels, J2K.J2K, false, 1, !_color, stream);
                     elements.Item(DicomTags.Item, stream.ToArray());
                 }
 
                 break;
             case CompressionType.Rle:
-                elements.Item(DicomTags.Item, DicomRle.Pack(pixels, color ? 3 : bits / 8, color));
+                elements.Item(DicomTags.Item, DicomRle.Pack(pixels, _color ? 3 : _bits / 8, _color));
                 break;
             default:
                 WriteRows(pixels, output);
@@ -220,8 +220,8 @@ internal sealed class DicomWriter
 
     private void WriteRows(PixelGrid pixels, Stream output)
     {
-        PixelDataFormat gray = bits == 16 ? PixelDataFormat.Grayscale16Bpp : PixelDataFormat.Grayscale8Bpp;
-        PixelDataFormat format = color ? PixelDataFormat.Rgb24Bpp : gray;
+        PixelDataFormat gray = _bits == 16 ? PixelDataFormat.Grayscale16Bpp : PixelDataFormat.Grayscale8Bpp;
+        PixelDataFormat format = _color ? PixelDataFormat.Rgb24Bpp : gray;
         ColorConverters converter = ColorConverters.Create(format, null);
         var row = new byte[format.RowBytes(pixels.Width)];
         for (int y = 0; y < pixels.Height; y++)

@@ -8,19 +8,19 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>Puts the planes of a decoded JPEG 2000 together: any depth, sign and subsampling.</summary>
 internal static unsafe class Jpeg2000Planes
 {
-    internal static PixelGrid ToPixels(OpenJpeg.ImageHead* image, RasterSource source, out int bitsPerPixel)
+    internal static PixelGrid ToPixels(in OpenJpeg.ImageHeader image, RasterSource source, out int bitsPerPixel)
     {
-        int count = (int)image->ComponentCount;
+        int count = (int)image.ComponentCount;
         bitsPerPixel = 0;
         for (int i = 0; i < count; i++)
         {
-            Verify(image->Components[i], source);
-            bitsPerPixel += (int)image->Components[i].Precision;
+            Verify(image.Components[i], source);
+            bitsPerPixel += (int)image.Components[i].Precision;
         }
 
-        bool inks = image->Colors == OpenJpeg.ColorCmyk && count >= 4;
+        bool inks = image.Colors == OpenJpeg.ColorCmyk && count >= 4;
         int colors = inks ? 4 : count >= 3 ? 3 : 1;
-        var pixels = new PixelGrid(checked((int)(image->X1 - image->X0)), checked((int)(image->Y1 - image->Y0)));
+        var pixels = new PixelGrid(checked((int)(image.X1 - image.X0)), checked((int)(image.Y1 - image.Y0)));
         var samples = new int[colors + 1];
         for (int y = 0; y < pixels.Height; y++)
         {
@@ -30,10 +30,10 @@ internal static unsafe class Jpeg2000Planes
                 samples[colors] = 255;
                 for (int c = 0; c < Math.Min(count, colors + 1); c++)
                 {
-                    samples[c] = Sample(image->Components[c], image->X0 + x, image->Y0 + y);
+                    samples[c] = Sample(image.Components[c], image.X0 + x, image.Y0 + y);
                 }
 
-                row[x] = Pixel(samples, inks, image->Colors);
+                row[x] = Pixel(samples, inks, image.Colors);
             }
         }
 

@@ -32,25 +32,17 @@ internal static unsafe class JpegCodec
             _ => (TurboJpeg.PixelLayout.Bgrx, quality >= 90 ? TurboJpeg.Subsampling.None : TurboJpeg.Subsampling.Quarter),
         };
         using PixelGrid? inks = colors == JpegCompressionColorMode.Ycck ? Inks(pixels) : null;
-        byte* jpeg = null;
+        using TurboJpegHandle handle = TurboJpeg.InitCompress();
+        int flags = progressive ? TurboJpeg.FlagProgressive : 0;
         nuint size = 0;
-        nint handle = TurboJpeg.InitCompress();
-        try
+        int failure = TurboJpeg.Compress(
+            handle, (inks ?? pixels).Pointer, pixels.Width, 0, pixels.Height, layout, out TurboJpegBufferHandle jpeg,
+            ref size, subsampling, quality, flags);
+        using (jpeg)
         {
-            int flags = progressive ? TurboJpeg.FlagProgressive : 0;
-            byte* source = (inks ?? pixels).Pointer;
-            (int width, int height) = (pixels.Width, pixels.Height);
-            if (TurboJpeg.Compress(handle, source, width, 0, height, layout, &jpeg, &size, subsampling, quality, flags) != 0)
-            {
-                throw new JpegException($"The picture could not be compressed: {TurboJpeg.Error(handle)}.");
-            }
-
-            return new ReadOnlySpan<byte>(jpeg, checked((int)size)).ToArray();
-        }
-        finally
-        {
-            TurboJpeg.Free(jpeg);
-            TurboJpeg.Destroy(handle);
+            return failure == 0
+                ? jpeg.Bytes(size).ToArray()
+                : throw new JpegException($"The image could not be compressed: {TurboJpeg.Error(handle)}.");
         }
     }
 
@@ -59,22 +51,15 @@ internal static unsafe class JpegCodec
     internal static PixelGrid Decompress(RasterSource source, ReadOnlySpan<byte> data, bool inverted, out int bitsPerPixel)
     {
         TurboJpeg.Require();
-        nint handle = TurboJpeg.InitDecompress();
-        try
+        using TurboJpegHandle handle = TurboJpeg.InitDecompress();
+        fixed (byte* start = data)
         {
-            fixed (byte* start = data)
-            {
-                return Decompress(handle, source, start, data.Length, inverted, out bitsPerPixel);
-            }
-        }
-        finally
-        {
-            TurboJpeg.Destroy(handle);
+            return Decompress(handle, source, start, data.Length, inverted, out bitsPerPixel);
         }
     }
 
     private static PixelGrid Decompress(
-        nint handle, RasterSource source, byte* data, int length, bool inverted, out int bitsPerPixel)
+        TurboJpegHandle handle, RasterSource source, byte* data, int length, bool inverted, out int bitsPerPixel)
     {
         int width = 0, height = 0, subsampling = 0, colors = -1;
         int failure = TurboJpeg.ReadHeader(handle, data, (nuint)length, &width, &height, &subsampling, &colors);

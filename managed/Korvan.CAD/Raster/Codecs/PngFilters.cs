@@ -7,17 +7,17 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>Turns rows of a PNG into differences, and back (ISO/IEC 15948, clause 9).</summary>
 internal sealed class PngFilters(int rowBytes, int pixelBytes)
 {
-    private readonly byte[][] lines = [new byte[rowBytes + 1], new byte[rowBytes + 1]];
-    private byte[] row = new byte[rowBytes];
-    private byte[] above = new byte[rowBytes];
+    private readonly byte[][] _lines = [new byte[rowBytes + 1], new byte[rowBytes + 1]];
+    private byte[] _row = new byte[rowBytes];
+    private byte[] _above = new byte[rowBytes];
 
     /// <summary>The row that comes next; its owner fills it.</summary>
-    internal Span<byte> Row => row;
+    internal Span<byte> Row => _row;
 
     /// <summary>Gives the filtered row with the number of its filter before it.</summary>
     internal ReadOnlySpan<byte> Apply(PngFilterType filter)
     {
-        byte[] best = lines[0];
+        byte[] best = _lines[0];
         if (filter != PngFilterType.Adaptive)
         {
             Fill(best, filter);
@@ -27,7 +27,7 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
             best = Adaptive();
         }
 
-        (row, above) = (above, row);
+        (_row, _above) = (_above, _row);
         return best;
     }
 
@@ -49,8 +49,8 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
 
     private byte[] Adaptive()
     {
-        byte[] best = lines[0];
-        byte[] trial = lines[1];
+        byte[] best = _lines[0];
+        byte[] trial = _lines[1];
         long least = long.MaxValue;
         for (PngFilterType filter = PngFilterType.None; filter <= PngFilterType.Paeth; filter++)
         {
@@ -74,11 +74,11 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
     private void Fill(byte[] line, PngFilterType filter)
     {
         line[0] = (byte)filter;
-        for (int i = 0; i < row.Length; i++)
+        for (int i = 0; i < _row.Length; i++)
         {
-            int left = i >= pixelBytes ? row[i - pixelBytes] : 0;
-            int corner = i >= pixelBytes ? above[i - pixelBytes] : 0;
-            line[i + 1] = (byte)(row[i] - Guess(filter, left, above[i], corner));
+            int left = i >= pixelBytes ? _row[i - pixelBytes] : 0;
+            int corner = i >= pixelBytes ? _above[i - pixelBytes] : 0;
+            line[i + 1] = (byte)(_row[i] - Guess(filter, left, _above[i], corner));
         }
     }
 

@@ -18,6 +18,7 @@ internal sealed class PngPasses
 {
     private const int FirstChunk = 8;
     private const int HeadEnd = 33;
+    private const int HeaderBytes = 13;
     private const int Frame = 12; // length, type and check sum
     private const int MostExpansion = 1032; // of deflate
     private const long MostBytes = 0x7000_0000;
@@ -26,16 +27,16 @@ internal sealed class PngPasses
     private static readonly (int X, int Y, int StepX, int StepY)[] Passes =
         [(0, 0, 8, 8), (4, 0, 8, 8), (0, 4, 4, 8), (2, 0, 4, 4), (0, 2, 2, 4), (1, 0, 2, 2), (0, 1, 1, 2)];
 
-    private readonly RasterSource source;
-    private readonly PngHead head;
-    private readonly int pixelBytes;
+    private readonly RasterSource _source;
+    private readonly PngHead _head;
+    private readonly int _pixelBytes;
 
     private PngPasses(RasterSource source)
     {
-        this.source = source;
+        _source = source;
         ReadOnlySpan<byte> data = source.Data.AsSpan(16);
-        head = new PngHead(BinaryPrimitives.ReadInt32BigEndian(data), BinaryPrimitives.ReadInt32BigEndian(data[4..]), data[8], (PngColorType)data[9]);
-        pixelBytes = head.BitsPerPixel / 8;
+        _head = new PngHead(BinaryPrimitives.ReadInt32BigEndian(data), BinaryPrimitives.ReadInt32BigEndian(data[4..]), data[8], (PngColorType)data[9]);
+        _pixelBytes = _head.BitsPerPixel / 8;
     }
 
     /// <summary>The file as it is, or one that shows the same picture and is not interlaced.</summary>
@@ -49,17 +50,22 @@ internal sealed class PngPasses
 
     private byte[] Rewrite()
     {
-        PixelGrid.Verify(head.Width, head.Height);
-        long size = (long)head.Height * head.RowBytes;
-        if (size > (long)source.Data.Length * MostExpansion)
+        if (_head.Width < 1 || _head.Height < 1)
         {
-            throw new PngImageException($"'{source.Name}' claims {head.Width} × {head.Height} pixels,"
-                + $" which its {source.Data.Length} bytes cannot hold.");
+            throw Damaged($"it claims {_head.Width} × {_head.Height} pixels");
+        }
+
+        PixelGrid.Verify(_head.Width, _head.Height);
+        long size = (long)_head.Height * _head.RowBytes;
+        if (size > (long)_source.Data.Length * MostExpansion)
+        {
+            throw new PngImageException($"'{_source.Name}' claims {_head.Width} × {_head.Height} pixels,"
+                + $" which its {_source.Data.Length} bytes cannot hold.");
         }
 
         if (size > MostBytes)
         {
-            throw new LimitMemoryException($"'{source.Name}' is interlaced and needs {size} bytes to be put in order, more than {MostBytes}.");
+            throw new LimitMemoryException($"'{_source.Name}' is interlaced and needs {size} bytes to be put in order, more than {MostBytes}.");
         }
 
         using var before = new MemoryStream();
@@ -68,7 +74,7 @@ internal sealed class PngPasses
         Sort(before, packed, after);
         packed.Position = 0;
         byte[] pixels = Unpack(packed, (int)size);
-        PngStream.WriteRows(before, head, PngFilterType.Up, 1, (y, row) => pixels.AsSpan(y * row.Length, row.Length).CopyTo(row));
+        PngStream.WriteRows(before, _head, PngFilterType.Up, 1, (y, row) => pixels.AsSpan(y * row.Length, row.Length).CopyTo(row));
         after.WriteTo(before);
         return before.ToArray();
     }
@@ -76,7 +82,7 @@ internal sealed class PngPasses
     // Parts the chunks into those before the picture, its data, and those behind it.
     private void Sort(MemoryStream before, MemoryStream packed, MemoryStream after)
     {
-        ReadOnlySpan<byte> data = source.Data;
+        ReadOnlySpan<byte> data = _source.Data;
         before.Write(data[..FirstChunk]);
         for (int at = FirstChunk, length; at + Frame <= data.Length; at += length + Frame)
         {
@@ -90,6 +96,11 @@ internal sealed class PngPasses
             ReadOnlySpan<byte> body = data.Slice(at + 8, length);
             bool isHead = type.SequenceEqual("IHDR"u8);
             bool isPicture = type.SequenceEqual("IDAT"u8);
+            if (isHead && length != HeaderBytes)
+            {
+                throw Damaged($"IHDR: it has {length} bytes, not {HeaderBytes}");
+            }
+
             if ((isHead || isPicture) && PngStream.Sum(type, body) != BinaryPrimitives.ReadUInt32BigEndian(data[(at + 8 + length)..]))
             {
                 throw Damaged($"{System.Text.Encoding.ASCII.GetString(type)}: CRC error");
@@ -118,15 +129,15 @@ internal sealed class PngPasses
         {
             foreach ((int left, int top, int stepX, int stepY) in Passes)
             {
-                int width = (head.Width - left + stepX - 1) / stepX;
-                byte[] row = new byte[width * pixelBytes];
+                int width = (_head.Width - left + stepX - 1) / stepX;
+                byte[] row = new byte[width * _pixelBytes];
                 byte[] above = new byte[row.Length];
-                for (int y = top; y < head.Height && row.Length > 0; y += stepY)
+                for (int y = top; y < _head.Height && row.Length > 0; y += stepY)
                 {
                     int filter = zlib.ReadByte();
                     zlib.ReadExactly(row);
-                    PngFilters.Undo((PngFilterType)filter, row, above, pixelBytes);
-                    Spread(row, pixels.AsSpan((y * head.RowBytes) + (left * pixelBytes)), stepX);
+                    PngFilters.Undo((PngFilterType)filter, row, above, _pixelBytes);
+                    Spread(row, pixels.AsSpan((y * _head.RowBytes) + (left * _pixelBytes)), stepX);
                     (row, above) = (above, row);
                 }
             }
@@ -141,11 +152,11 @@ internal sealed class PngPasses
 
     private void Spread(ReadOnlySpan<byte> row, Span<byte> target, int step)
     {
-        for (int from = 0, to = 0; from < row.Length; from += pixelBytes, to += step * pixelBytes)
+        for (int from = 0, to = 0; from < row.Length; from += _pixelBytes, to += step * _pixelBytes)
         {
-            row.Slice(from, pixelBytes).CopyTo(target[to..]);
+            row.Slice(from, _pixelBytes).CopyTo(target[to..]);
         }
     }
 
-    private PngImageException Damaged(string why, Exception? cause = null) => new($"'{source.Name}' is damaged: {why}.", cause);
+    private PngImageException Damaged(string why, Exception? cause = null) => new($"'{_source.Name}' is damaged: {why}.", cause);
 }

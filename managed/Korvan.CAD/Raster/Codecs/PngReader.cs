@@ -12,7 +12,7 @@ namespace Korvan.CAD.Raster.Codecs;
 internal static unsafe class PngReader
 {
     /// <summary>Deflate makes at most 1032 bytes of one, each of up to eight pixels.</summary>
-    private const long MostPixelsPerByte = 1032 * 8;
+    private const long MaxPixelsPerByte = 1032 * 8;
 
     private const double MetresPerInch = 0.0254;
 
@@ -46,41 +46,31 @@ internal static unsafe class PngReader
     private static PixelGrid Pixels(RasterSource source)
     {
         byte[] file = PngPasses.Plain(source);
-        Png.State image = default;
-        image.Version = Png.Version;
+        using var image = new PngImageHandle();
+        ref Png.State state = ref image.State;
         fixed (byte* data = file)
         {
-            if (Png.Begin(&image, data, (nuint)file.Length) == 0)
+            if (Png.Begin(image, data, (nuint)file.Length) == 0)
             {
-                throw Failure(source, image.Text());
+                throw Failure(source, state.Text());
             }
 
-            if ((long)image.Width * image.Height > source.Data.Length * MostPixelsPerByte)
+            if ((long)state.Width * state.Height > source.Data.Length * MaxPixelsPerByte)
             {
-                Png.Free(&image);
-                throw new PngImageException($"'{source.Name}' claims {image.Width} × {image.Height} pixels,"
+                throw new PngImageException($"'{source.Name}' claims {state.Width} × {state.Height} pixels,"
                     + $" which its {source.Data.Length} bytes cannot hold.");
             }
 
-            PixelGrid? pixels = null;
-            try
+            var pixels = new PixelGrid(checked((int)state.Width), checked((int)state.Height));
+            state.Format = Png.FormatBgra;
+            state.Flags |= Png.SixteenBitsAreSrgb; // without a gamma they would be taken for linear light
+            if (Png.Finish(image, null, pixels.Pointer, pixels.Width * 4, null) == 0)
             {
-                pixels = new PixelGrid(checked((int)image.Width), checked((int)image.Height));
-                image.Format = Png.FormatBgra;
-                image.Flags |= Png.SixteenBitsAreSrgb; // without a gamma they would be taken for linear light
-                if (Png.Finish(&image, null, pixels.Pointer, pixels.Width * 4, null) == 0)
-                {
-                    throw Failure(source, image.Text());
-                }
+                pixels.Dispose();
+                throw Failure(source, state.Text());
+            }
 
-                return pixels;
-            }
-            catch
-            {
-                pixels?.Dispose();
-                Png.Free(&image);
-                throw;
-            }
+            return pixels;
         }
     }
 

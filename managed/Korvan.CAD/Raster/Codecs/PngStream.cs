@@ -115,8 +115,8 @@ internal static class PngStream
     /// <summary>Cuts the compressed data into chunks of one size.</summary>
     private sealed class ChunkStream(Stream output) : Stream
     {
-        private readonly byte[] buffer = new byte[IdatSize];
-        private int used;
+        private readonly byte[] _buffer = new byte[IdatSize];
+        private int _used;
 
         public override bool CanRead => false;
 
@@ -138,11 +138,11 @@ internal static class PngStream
         {
             while (data.Length > 0)
             {
-                int take = Math.Min(data.Length, buffer.Length - used);
-                data[..take].CopyTo(buffer.AsSpan(used));
-                used += take;
+                int take = Math.Min(data.Length, _buffer.Length - _used);
+                data[..take].CopyTo(_buffer.AsSpan(_used));
+                _used += take;
                 data = data[take..];
-                if (used == buffer.Length)
+                if (_used == _buffer.Length)
                 {
                     Flush();
                 }
@@ -151,10 +151,10 @@ internal static class PngStream
 
         public override void Flush()
         {
-            if (used > 0)
+            if (_used > 0)
             {
-                WriteChunk(output, "IDAT"u8, buffer.AsSpan(0, used));
-                used = 0;
+                WriteChunk(output, "IDAT"u8, _buffer.AsSpan(0, _used));
+                _used = 0;
             }
         }
 

@@ -19,23 +19,18 @@ internal static unsafe class WebPCodec
                 $"A WebP holds at most {WebP.LargestSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
         }
 
-        byte* data = null;
         int stride = pixels.Width * 4;
         nuint size = options.Lossless
-            ? WebP.EncodeLossless(pixels.Pointer, pixels.Width, pixels.Height, stride, &data)
-            : WebP.EncodeBgra(pixels.Pointer, pixels.Width, pixels.Height, stride, options.Quality, &data);
-        try
+            ? WebP.EncodeLossless(pixels.Pointer, pixels.Width, pixels.Height, stride, out WebPBufferHandle data)
+            : WebP.EncodeBgra(pixels.Pointer, pixels.Width, pixels.Height, stride, options.Quality, out data);
+        using (data)
         {
             if (size == 0)
             {
-                throw new ImageSaveException("The picture could not be compressed as WebP.");
+                throw new ImageSaveException("The image could not be compressed as WebP.");
             }
 
-            output.Write(new ReadOnlySpan<byte>(data, checked((int)size)));
-        }
-        finally
-        {
-            WebP.Free(data);
+            output.Write(data.Bytes(size));
         }
     }
 

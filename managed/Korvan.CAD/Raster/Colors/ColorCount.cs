@@ -9,11 +9,11 @@ internal sealed class ColorCount
 {
     private const int MostColors = 1 << 18;
 
-    private readonly Dictionary<int, long> counts = [];
-    private int mask = -1;
-    private int dropped;
+    private readonly Dictionary<int, long> _counts = [];
+    private int _mask = -1;
+    private int _dropped;
 
-    internal IReadOnlyDictionary<int, long> Counts => counts;
+    internal IReadOnlyDictionary<int, long> Counts => _counts;
 
     internal void Add(PixelGrid pixels)
     {
@@ -40,9 +40,9 @@ internal sealed class ColorCount
 
     private void AddColor(int argb, long times)
     {
-        int key = ((uint)argb >> 24) == 0 ? 0 : argb & mask;
-        counts[key] = counts.GetValueOrDefault(key) + times;
-        if (counts.Count > MostColors)
+        int key = ((uint)argb >> 24) == 0 ? 0 : argb & _mask;
+        _counts[key] = _counts.GetValueOrDefault(key) + times;
+        if (_counts.Count > MostColors)
         {
             Coarsen();
         }
@@ -51,13 +51,13 @@ internal sealed class ColorCount
     // Each round leaves one more bit of each channel out; 2^18 colours of four bits a channel cannot be passed.
     private void Coarsen()
     {
-        dropped++;
-        mask = unchecked((int)(0x01010101u * (byte)(255 << dropped)));
-        var old = new List<KeyValuePair<int, long>>(counts);
-        counts.Clear();
+        _dropped++;
+        _mask = unchecked((int)(0x01010101u * (byte)(255 << _dropped)));
+        var old = new List<KeyValuePair<int, long>>(_counts);
+        _counts.Clear();
         foreach ((int key, long count) in old)
         {
-            counts[key & mask] = counts.GetValueOrDefault(key & mask) + count;
+            _counts[key & _mask] = _counts.GetValueOrDefault(key & _mask) + count;
         }
     }
 }

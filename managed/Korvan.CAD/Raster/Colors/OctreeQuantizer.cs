@@ -100,7 +100,7 @@ internal static class OctreeQuantizer
 
     private sealed class Node
     {
-        private readonly long[] sums = new long[4];
+        private readonly long[] _sums = new long[4];
 
         internal Node?[] Children { get; } = new Node?[8];
 
@@ -110,7 +110,7 @@ internal static class OctreeQuantizer
         {
             for (int i = 0; i < 4; i++)
             {
-                sums[i] += ((color >> (8 * i)) & 255) * count;
+                _sums[i] += ((color >> (8 * i)) & 255) * count;
             }
 
             Count += count;
@@ -120,7 +120,7 @@ internal static class OctreeQuantizer
         {
             for (int i = 0; i < 4; i++)
             {
-                sums[i] += other.sums[i];
+                _sums[i] += other._sums[i];
             }
 
             Count += other.Count;
@@ -144,7 +144,7 @@ internal static class OctreeQuantizer
             int mean = 0;
             for (int i = 0; i < 4; i++)
             {
-                mean |= (int)((sums[i] + (Count / 2)) / Count) << (8 * i);
+                mean |= (int)((_sums[i] + (Count / 2)) / Count) << (8 * i);
             }
 
             return mean;

@@ -71,54 +71,54 @@ internal static class Quantizer
     /// <summary>Some colours, with the channel in which they differ most.</summary>
     private readonly struct ColorBox
     {
-        private readonly ArraySegment<KeyValuePair<int, long>> colors;
-        private readonly int shift;
-        private readonly int range;
-        private readonly long total;
+        private readonly ArraySegment<KeyValuePair<int, long>> _colors;
+        private readonly int _shift;
+        private readonly int _range;
+        private readonly long _total;
 
         internal ColorBox(ArraySegment<KeyValuePair<int, long>> colors)
         {
-            this.colors = colors;
-            total = 0;
+            _colors = colors;
+            _total = 0;
             foreach (KeyValuePair<int, long> color in colors)
             {
-                total += color.Value;
+                _total += color.Value;
             }
 
-            (shift, range) = (0, -1);
+            (_shift, _range) = (0, -1);
             foreach (int candidate in (ReadOnlySpan<int>)[8, 16, 0, 24])
             {
                 int spread = Spread(colors, candidate);
-                if (spread > range)
+                if (spread > _range)
                 {
-                    (shift, range) = (candidate, spread);
+                    (_shift, _range) = (candidate, spread);
                 }
             }
         }
 
-        internal bool CanBeCut => colors.Count > 1;
+        internal bool CanBeCut => _colors.Count > 1;
 
-        internal double Urgency => CanBeCut ? range * Math.Sqrt(total) : 0;
+        internal double Urgency => CanBeCut ? _range * Math.Sqrt(_total) : 0;
 
         internal (ColorBox Low, ColorBox High) Cut()
         {
-            int by = shift;
-            Array.Sort(colors.Array!, colors.Offset, colors.Count, Comparer<KeyValuePair<int, long>>.Create(
+            int by = _shift;
+            Array.Sort(_colors.Array!, _colors.Offset, _colors.Count, Comparer<KeyValuePair<int, long>>.Create(
                 (a, b) => ((a.Key >> by) & 255).CompareTo((b.Key >> by) & 255)));
             long half = 0;
             int at = 0;
-            while (at < colors.Count - 1 && (at == 0 || half + colors[at].Value <= total / 2))
+            while (at < _colors.Count - 1 && (at == 0 || half + _colors[at].Value <= _total / 2))
             {
-                half += colors[at++].Value;
+                half += _colors[at++].Value;
             }
 
-            return (new ColorBox(colors.Slice(0, at)), new ColorBox(colors.Slice(at)));
+            return (new ColorBox(_colors.Slice(0, at)), new ColorBox(_colors.Slice(at)));
         }
 
         internal int Mean()
         {
             Span<long> sums = stackalloc long[4];
-            foreach ((int color, long count) in colors)
+            foreach ((int color, long count) in _colors)
             {
                 for (int channel = 0; channel < 4; channel++)
                 {
@@ -129,7 +129,7 @@ internal static class Quantizer
             int mean = 0;
             for (int channel = 0; channel < 4; channel++)
             {
-                mean |= (int)((sums[channel] + (total / 2)) / total) << (8 * channel);
+                mean |= (int)((sums[channel] + (_total / 2)) / _total) << (8 * channel);
             }
 
             return mean;

@@ -6,8 +6,8 @@ namespace Korvan.CAD.Raster.Operations;
 /// <summary>Which pixels of one line make each pixel of another, and by what weights. Weights of a pixel sum to 1.</summary>
 internal sealed class ResizeKernel
 {
-    private readonly int[] first;
-    private readonly float[] weights;
+    private readonly int[] _first;
+    private readonly float[] _weights;
 
     internal ResizeKernel(int from, int to, ResizeType type)
     {
@@ -15,21 +15,21 @@ internal sealed class ResizeKernel
         double scale = Math.Max(1, (double)from / to); // smaller pictures need wider kernels
         double reach = support * scale;
         Taps = Math.Min(from, (int)Math.Ceiling(reach * 2) + 1);
-        first = new int[to];
-        weights = new float[(long)to * Taps];
+        _first = new int[to];
+        _weights = new float[(long)to * Taps];
         for (int i = 0; i < to; i++)
         {
             double center = (i + 0.5) * from / to;
-            first[i] = Math.Clamp((int)Math.Floor(center - reach), 0, from - Taps);
-            Fill(weights.AsSpan(i * Taps, Taps), first[i], center, scale, shape);
+            _first[i] = Math.Clamp((int)Math.Floor(center - reach), 0, from - Taps);
+            Fill(_weights.AsSpan(i * Taps, Taps), _first[i], center, scale, shape);
         }
     }
 
     internal int Taps { get; }
 
-    internal int First(int at) => first[at];
+    internal int First(int at) => _first[at];
 
-    internal float Weight(int at, int tap) => weights[(at * Taps) + tap];
+    internal float Weight(int at, int tap) => _weights[(at * Taps) + tap];
 
     private static void Fill(Span<float> to, int first, double center, double scale, Func<double, double> shape)
     {

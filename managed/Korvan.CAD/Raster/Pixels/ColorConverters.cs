@@ -10,14 +10,14 @@ namespace Korvan.CAD.Raster.Pixels;
 /// <summary>Turns rows of bytes into colours, and back: one pair of functions for each form.</summary>
 internal class ColorConverters : IColorConverter
 {
-    private readonly Unpacking unpack;
-    private readonly Packing pack;
+    private readonly Unpacking _unpack;
+    private readonly Packing _pack;
 
     private protected ColorConverters(PixelDataFormat format, Unpacking unpack, Packing pack)
     {
         DataFormat = format;
-        this.unpack = unpack;
-        this.pack = pack;
+        _unpack = unpack;
+        _pack = pack;
     }
 
     private protected delegate void Unpacking(ReadOnlySpan<byte> row, Span<int> pixels);
@@ -49,9 +49,9 @@ internal class ColorConverters : IColorConverter
         return row;
     }
 
-    internal void Unpack(ReadOnlySpan<byte> row, Span<int> pixels) => unpack(row, pixels);
+    internal void Unpack(ReadOnlySpan<byte> row, Span<int> pixels) => _unpack(row, pixels);
 
-    internal void Pack(ReadOnlySpan<int> pixels, Span<byte> row) => pack(pixels, row);
+    internal void Pack(ReadOnlySpan<int> pixels, Span<byte> row) => _pack(pixels, row);
 
     internal static ColorConverters Create(PixelDataFormat format, IColorPalette? palette)
     {

@@ -16,23 +16,23 @@ internal sealed unsafe class PixelGrid : IDisposable
     internal const long MostPixels = RasterPage.MostPixels;
     internal const int Opaque = unchecked((int)0xFF000000);
 
-    private readonly IDisposable owner;
-    private int* data;
+    private readonly IDisposable _owner;
+    private int* _data;
 
     internal PixelGrid(int width, int height)
     {
         Verify(width, height);
         var block = new PixelBlock((long)width * height);
-        owner = block;
-        data = block.Data;
+        _owner = block;
+        _data = block.Data;
         (Width, Height) = (width, height);
     }
 
     /// <summary>Takes pixels over from another owner.</summary>
     internal PixelGrid(int* data, int width, int height, IDisposable owner)
     {
-        this.owner = owner;
-        this.data = data;
+        _owner = owner;
+        _data = data;
         (Width, Height) = (width, height);
     }
 
@@ -46,8 +46,8 @@ internal sealed unsafe class PixelGrid : IDisposable
     {
         get
         {
-            ObjectDisposedException.ThrowIf(data == null, this);
-            return (byte*)data;
+            ObjectDisposedException.ThrowIf(_data == null, this);
+            return (byte*)_data;
         }
     }
 
@@ -68,9 +68,9 @@ internal sealed unsafe class PixelGrid : IDisposable
 
     internal Span<int> Row(int y)
     {
-        ObjectDisposedException.ThrowIf(data == null, this);
+        ObjectDisposedException.ThrowIf(_data == null, this);
         ArgumentOutOfRangeException.ThrowIfGreaterThanOrEqual((uint)y, (uint)Height, nameof(y));
-        return new Span<int>(data + ((long)y * Width), Width);
+        return new Span<int>(_data + ((long)y * Width), Width);
     }
 
     internal Span<byte> Bytes(int y) => MemoryMarshal.AsBytes(Row(y));
@@ -102,7 +102,7 @@ internal sealed unsafe class PixelGrid : IDisposable
         // Rows move towards the start only, so none is overwritten before it was moved.
         for (int y = 0; y < area.Height; y++)
         {
-            Row(area.Y + y).Slice(area.X, area.Width).CopyTo(new Span<int>(data + ((long)y * area.Width), area.Width));
+            Row(area.Y + y).Slice(area.X, area.Width).CopyTo(new Span<int>(_data + ((long)y * area.Width), area.Width));
         }
 
         (Width, Height) = (area.Width, area.Height);
@@ -176,8 +176,8 @@ internal sealed unsafe class PixelGrid : IDisposable
 
     public void Dispose()
     {
-        data = null;
-        owner.Dispose();
+        _data = null;
+        _owner.Dispose();
     }
 
     private static bool AllHave(ReadOnlySpan<int> row, int bits)

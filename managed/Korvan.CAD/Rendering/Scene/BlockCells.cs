@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -44,10 +45,11 @@ internal static class BlockCells
     private static IEnumerable<(Vec3 Cell, Affine3 Map)> Cells(
         CadInsertObject insert, BlockInfo block, BlockContext context, long columns, long rows)
     {
-        Vec3 normal = V(insert.ExtrusionDirection);
-        Affine3 ocs = normal == Vec3.UnitZ ? context.Map : context.Map * Ocs.ToWorld(normal);
-        Affine3 placed = ocs * Affine3.Translation(V(insert.InsertionPoint)) * Affine3.RotationZ(insert.RotationAngle * Math.PI / 180);
-        Affine3 inner = Affine3.Scaling(NotZero(insert.ScaleX), NotZero(insert.ScaleY), NotZero(insert.ScaleZ)) * Affine3.Translation(-block.Base);
+        Affine3 placed = context.Map * insert.ExtrusionDirection.ToPlane()
+            * Affine3.Translation(insert.InsertionPoint.ToVec3())
+            * Affine3.RotationZ(Angles.Radians(insert.RotationAngle));
+        Affine3 inner = Affine3.Scaling(NotZero(insert.ScaleX), NotZero(insert.ScaleY), NotZero(insert.ScaleZ))
+            * Affine3.Translation(-block.Base);
         for (long row = 0; row < rows; row++)
         {
             for (long column = 0; column < columns; column++)
@@ -57,6 +59,4 @@ internal static class BlockCells
             }
         }
     }
-
-    private static Vec3 V(Cad3DPoint p) => new(p.X, p.Y, p.Z);
 }

@@ -13,14 +13,14 @@ internal sealed partial class SceneBuilder
     private const string CellBreak = "%%v";
     private const int SplinePath = 1;
 
-    private void DrawLeader(CadLeader leader, in Pen pen, BlockContext context)
+    void IGeometrySink.Leader(CadLeader leader, List<Vec3> points)
     {
-        if (leader.Coordinates.Count < 2)
+        if (points.Count < 2)
         {
             return;
         }
 
-        List<Vec3> points = leader.Coordinates.ConvertAll(V);
+        (Pen pen, _, BlockContext context, _) = _current;
         DimStyleInfo dim = tables.DimStyle(leader.DimensionStyleName);
         double arrow = dim.ArrowSize * dim.Scale;
         bool hasArrow = leader.ArrowheadFlag != 0 && arrow > 0 && (points[1] - points[0]).Length > 2 * arrow;
@@ -44,7 +44,7 @@ internal sealed partial class SceneBuilder
         canvas.Stroke(pen);
         if (hasArrow)
         {
-            DrawArrowHead(tip, along, arrow, V(leader.ExtrusionDirection), pen, context);
+            DrawArrowHead(tip, along, arrow, leader.ExtrusionDirection.ToVec3(), pen, context);
         }
     }
 
@@ -62,21 +62,18 @@ internal sealed partial class SceneBuilder
     }
 
     /// <summary>A frame of rows of cells, its left edge centred on the insertion point for the first row.</summary>
-    private void DrawTolerance(CadTolerance tolerance, in Pen pen, BlockContext context)
+    void IGeometrySink.Tolerance(CadTolerance tolerance, in Affine3 plane)
     {
         DimStyleInfo dim = tables.DimStyle(tolerance.DimensionStyleName);
         double height = (dim.TextHeight > 0 ? dim.TextHeight : tables.Settings.TextSize) * dim.Scale;
         StyleInfo used = tables.Style(dim.TextStyle);
-        Vec3 normal = V(tolerance.ExtrusionDirection).Unit();
-        Vec3 x = V(tolerance.DirectionVector).Unit();
-        var plane = new Affine3(x, Vec3.Cross(normal, x), normal, V(tolerance.InsertionPoint));
-        Affine3 map = context.Map * plane;
+        Affine3 map = MapOf(plane);
         double top = height;
         foreach (string row in tolerance.VisualRepresentation.Replace("^J", "\n").Split('\n'))
         {
             if (row.Length > 0)
             {
-                DrawToleranceRow(row, top, height, used, map, pen);
+                DrawToleranceRow(row, top, height, used, map, _current.Pen);
                 top -= 2 * height;
             }
         }

@@ -1,6 +1,7 @@
 using System;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -33,7 +34,7 @@ internal sealed partial class SceneBuilder
         BlockContext owner = context with { ByBlock = pen, Parent = context.Parent ?? context };
         if (cell != default)
         {
-            Affine3 turn = Ocs.ToWorld(V(insert.ExtrusionDirection)) * Affine3.RotationZ(Radians(insert.RotationAngle));
+            Affine3 turn = insert.ExtrusionDirection.ToPlane() * Affine3.RotationZ(Angles.Radians(insert.RotationAngle));
             owner = owner with { Map = context.Map * Affine3.Translation(turn.Vector(cell)) };
         }
 
@@ -83,7 +84,7 @@ internal sealed partial class SceneBuilder
         Affine3 map = context.Map;
         if (!dimension.InsertionPoint.Is(0, 0, 0))
         {
-            map = InObject(context, dimension.ExtrusionDirection) * Affine3.Translation(V(dimension.InsertionPoint));
+            map *= dimension.ExtrusionDirection.ToPlane() * Affine3.Translation(dimension.InsertionPoint.ToVec3());
         }
 
         DrawBlock(block, map, layer, pens.PenOf(dimension, layer, context), context);

@@ -1,6 +1,5 @@
 using System;
-using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -8,97 +7,86 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <content>Lines, circles, arcs, ellipses, splines, points, faces.</content>
 internal sealed partial class SceneBuilder
 {
-    /// <summary>Deviation that splines may have, as a part of their size.</summary>
-    private const double SplineTolerance = 1e-4;
-    private const double DefaultPointPart = 0.005;
+    private const double DefaultPointShare = 0.005;
 
-    private void DrawLine(CadLine line, in Pen pen, BlockContext context)
+    // The header variable PDMODE.
+    private const int PointFigureMask = 15;
+    private const int PointInCircle = 32;
+    private const int PointInSquare = 64;
+
+    void IGeometrySink.Line(Vec3 from, Vec3 to, Vec3 thickness)
     {
-        // The ends of a line are world points even when it has an extrusion, which then only directs its thickness.
-        var path = new PathPen(canvas.NewPath(), context.Map);
-        path.MoveTo(V(line.FirstPoint));
-        path.LineTo(V(line.SecondPoint));
-        if (line.Thickness != 0)
+        var path = new PathPen(canvas.NewPath(), _current.Context.Map);
+        path.MoveTo(from);
+        path.LineTo(to);
+        if (thickness != default)
         {
-            AddThickness(path, [V(line.FirstPoint), V(line.SecondPoint)], V(line.ExtrusionDirection).Unit() * line.Thickness, false);
+            path.MoveTo(from + thickness);
+            path.LineTo(to + thickness);
+            path.MoveTo(from);
+            path.LineTo(from + thickness);
+            path.MoveTo(to);
+            path.LineTo(to + thickness);
         }
 
-        canvas.Stroke(pen);
+        canvas.Stroke(_current.Pen);
     }
 
-    private void DrawCircle(CadCircle circle, in Pen pen, BlockContext context)
+    void IGeometrySink.Arc(in PlanarArc arc)
     {
-        Affine3 map = InObject(context, circle.ExtrusionDirection);
+        Affine3 map = MapOf(arc.Plane);
         PathBuffer path = canvas.NewPath();
-        new PathPen(path, map, circle.CenterPoint.Z).Circle(V(circle.CenterPoint).Xy, circle.Radius);
-        if (circle.Thickness != 0)
-        {
-            new PathPen(path, map, circle.CenterPoint.Z + circle.Thickness).Circle(V(circle.CenterPoint).Xy, circle.Radius);
-        }
-
-        canvas.Stroke(pen);
-    }
-
-    private void DrawArc(CadArc arc, in Pen pen, BlockContext context)
-    {
-        double start = Radians(arc.StartAngle);
-        double sweep = CounterClockwise(start, Radians(arc.EndAngle));
-        Affine3 map = InObject(context, arc.ExtrusionDirection);
-        PathBuffer path = canvas.NewPath();
-        AddArc(new PathPen(path, map, arc.CenterPoint.Z), V(arc.CenterPoint).Xy, arc.Radius, start, sweep);
+        AddArc(new PathPen(path, map, arc.Center.Z), arc);
         if (arc.Thickness != 0)
         {
-            AddArc(new PathPen(path, map, arc.CenterPoint.Z + arc.Thickness), V(arc.CenterPoint).Xy, arc.Radius, start, sweep);
+            AddArc(new PathPen(path, map, arc.Center.Z + arc.Thickness), arc);
         }
 
-        canvas.Stroke(pen);
+        canvas.Stroke(_current.Pen);
     }
 
-    private static void AddArc(in PathPen path, Vec2 center, double radius, double start, double sweep)
+    private static void AddArc(in PathPen path, in PlanarArc arc)
     {
-        path.MoveTo(center + Vec2.Polar(start, radius));
-        path.ArcTo(center, radius, start, sweep);
+        if (arc.IsCircle)
+        {
+            path.Circle(arc.Center.Xy, arc.Radius);
+            return;
+        }
+
+        path.MoveTo(arc.Center.Xy + Vec2.Polar(arc.Start, arc.Radius));
+        path.ArcTo(arc.Center.Xy, arc.Radius, arc.Start, arc.Sweep);
     }
 
-    /// <summary>The positive turn from one angle to another; equal angles are a full turn.</summary>
-    private static double CounterClockwise(double start, double end)
+    void IGeometrySink.EllipticArc(in EllipticArc arc)
     {
-        double sweep = Math.IEEERemainder(end - start, 2 * Math.PI);
-        return sweep <= 1e-12 ? sweep + (2 * Math.PI) : sweep;
-    }
-
-    private void DrawEllipse(CadEllipse ellipse, in Pen pen, BlockContext context)
-    {
-        Vec3 major = V(ellipse.MajorEndPoint);
-        Vec3 minor = Vec3.Cross(V(ellipse.ExtrusionDirection).Unit(), major) * ellipse.AxisRatio;
-        double sweep = CounterClockwise(ellipse.StartAngle, ellipse.EndAngle);
-        (double sin, double cos) = Math.SinCos(ellipse.StartAngle);
-        var path = new PathPen(canvas.NewPath(), context.Map);
-        path.MoveTo(V(ellipse.CenterPoint) + (major * cos) + (minor * sin));
-        path.EllipseTo(V(ellipse.CenterPoint), major, minor, ellipse.StartAngle, sweep);
-        if (sweep >= (2 * Math.PI) - 1e-9)
+        (double sin, double cos) = Math.SinCos(arc.Start);
+        var path = new PathPen(canvas.NewPath(), _current.Context.Map);
+        path.MoveTo(arc.Center + (arc.Major * cos) + (arc.Minor * sin));
+        path.EllipseTo(arc.Center, arc.Major, arc.Minor, arc.Start, arc.Sweep);
+        if (arc.IsWhole)
         {
             path.Close();
         }
 
-        canvas.Stroke(pen);
+        canvas.Stroke(_current.Pen);
     }
 
-    private void DrawPoint(CadPoint point, in Pen pen, BlockContext context)
+    void IGeometrySink.Point(Vec3 point)
     {
-        Vec2 at = context.Map.Project(V(point.CenterPoint));
-        Pen solid = pen;
+        BlockContext context = _current.Context;
+        Vec2 at = context.Map.Project(point);
+        Pen solid = _current.Pen;
         solid.Pattern = null;
         PathBuffer path = canvas.NewPath();
         int mode = tables.Settings.PointMode;
         double size = PointSize(context) / 2;
-        AddPointFigure(path, mode & 15, at, size);
-        if ((mode & 32) != 0)
+        AddPointFigure(path, mode & PointFigureMask, at, size);
+        if ((mode & PointInCircle) != 0)
         {
             new PathPen(path, Affine3.Identity).Circle(at, size);
         }
 
-        if ((mode & 64) != 0)
+        if ((mode & PointInSquare) != 0)
         {
             path.MoveTo(at + new Vec2(-size, -size));
             path.LineTo(at + new Vec2(size, -size));
@@ -149,71 +137,57 @@ internal sealed partial class SceneBuilder
 
         Bounds2 box = List.Bounds;
         double view = box.IsEmpty ? 1 : Math.Max(box.Width, box.Height);
-        return view * (size < 0 ? -size / 100 : DefaultPointPart * 2);
+        return view * (size < 0 ? -size / 100 : DefaultPointShare * 2);
     }
 
-    private void DrawSpline(CadSpline spline, in Pen pen, BlockContext context)
+    void IGeometrySink.Spline(in SplineCurve spline)
     {
-        var path = new PathPen(canvas.NewPath(), context.Map);
-        AddSpline(path, spline);
-        canvas.Stroke(pen);
-    }
-
-    /// <summary>A spline by its control points, or through its fit points where it has no others.</summary>
-    private void AddSpline(in PathPen path, CadSpline spline)
-    {
-        if (spline.ControlPoints.Count > spline.Degree)
+        if (spline.TryDraw(new PathPen(canvas.NewPath(), _current.Context.Map), OutlineSink.ToleranceOf(spline.Control)))
         {
-            Bounds2 box = Bounds2.Empty;
-            foreach (Cad3DPoint p in spline.ControlPoints)
-            {
-                box.Add(p.X, p.Y);
-            }
-
-            double tolerance = Math.Max((box.Width + box.Height) * SplineTolerance, 1e-9);
-            List<Vec3> points = spline.ControlPoints.ConvertAll(V);
-            if (Nurbs.Create(spline.Degree, spline.KnotValues, points, spline.Weights) is Nurbs curve)
-            {
-                curve.Draw(path, tolerance);
-                return;
-            }
-        }
-
-        if (spline.FitPoints.Count >= 2)
-        {
-            FitSpline.Draw(path, spline.FitPoints.ConvertAll(V), V(spline.StartTangent), V(spline.EndTangent), spline.IsClosed);
-            return;
-        }
-
-        List.Skip("SPLINE without a curve");
-    }
-
-    private void DrawFilledQuad(
-        Cad3DPoint p1, Cad3DPoint p2, Cad3DPoint p3, Cad3DPoint p4, Cad3DPoint extrusion, in Pen pen, BlockContext context)
-    {
-        // The corners run in a Z, not around: third and fourth change places.
-        var path = new PathPen(canvas.NewPath(), InObject(context, extrusion));
-        path.MoveTo(V(p1));
-        path.LineTo(V(p2));
-        path.LineTo(V(p4));
-        path.LineTo(V(p3));
-        path.Close();
-        if (tables.Settings.FillMode)
-        {
-            canvas.Fill(pen, evenOdd: true);
+            canvas.Stroke(_current.Pen);
         }
         else
         {
-            canvas.Stroke(pen);
+            List.Skip("SPLINE without a curve");
         }
     }
 
-    private void DrawFace(Cad3DFace face, in Pen pen, BlockContext context)
+    void IGeometrySink.Quad(in FilledQuad quad)
     {
-        Span<Vec3> corners = [V(face.FirstPoint), V(face.SecondPoint), V(face.ThirdPoint), V(face.FourthPoint)];
-        var path = new PathPen(canvas.NewPath(), context.Map);
-        AddEdges(path, corners, face.InvisibleEdges);
-        canvas.Stroke(pen);
+        var path = new PathPen(canvas.NewPath(), MapOf(quad.Plane));
+        path.MoveTo(quad.A);
+        path.LineTo(quad.B);
+        path.LineTo(quad.C);
+        path.LineTo(quad.D);
+        path.Close();
+        if (tables.Settings.FillMode)
+        {
+            canvas.Fill(_current.Pen, evenOdd: true);
+        }
+        else
+        {
+            canvas.Stroke(_current.Pen);
+        }
+    }
+
+    void IGeometrySink.Face(ReadOnlySpan<Vec3> corners, int hiddenEdges)
+    {
+        AddEdges(new PathPen(canvas.NewPath(), _current.Context.Map), corners, hiddenEdges);
+        canvas.Stroke(_current.Pen);
+    }
+
+    void IGeometrySink.Faces(FaceSet faces)
+    {
+        var path = new PathPen(canvas.NewPath(), _current.Context.Map);
+        foreach (FaceCorners face in faces.Faces)
+        {
+            if (face.Count >= 2)
+            {
+                AddEdges(path, faces.Ring(face), face.HiddenEdges);
+            }
+        }
+
+        canvas.Stroke(_current.Pen);
     }
 
     /// <summary>Adds the visible edges of a face; bit i of the mask hides the edge that leaves corner i.</summary>
@@ -237,33 +211,6 @@ internal sealed partial class SceneBuilder
 
             path.LineTo(to);
             down = true;
-        }
-    }
-
-    /// <summary>The copy of a line at the other end of its thickness, and the edges between both.</summary>
-    private static void AddThickness(in PathPen path, IReadOnlyList<Vec3> points, Vec3 by, bool closed)
-    {
-        for (int i = 0; i < points.Count; i++)
-        {
-            if (i == 0)
-            {
-                path.MoveTo(points[i] + by);
-            }
-            else
-            {
-                path.LineTo(points[i] + by);
-            }
-        }
-
-        if (closed)
-        {
-            path.Close();
-        }
-
-        foreach (Vec3 p in points)
-        {
-            path.MoveTo(p);
-            path.LineTo(p + by);
         }
     }
 }

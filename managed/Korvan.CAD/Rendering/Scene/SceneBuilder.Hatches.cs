@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Hatch;
@@ -13,8 +14,12 @@ internal sealed partial class SceneBuilder
 {
     private const double HatchTolerance = 1e-4;
 
-    private void DrawHatch(CadHatch hatch, in Pen pen, LayerInfo layer, BlockContext context)
+    /// <summary>
+    /// Fills what the boundaries enclose by the even-odd rule, which does not ask which way round they run.
+    /// </summary>
+    void IGeometrySink.Hatch(CadHatch hatch, in Affine3 ocs)
     {
+        Pen pen = _current.Pen;
         if (!tables.Settings.FillMode)
         {
             return;
@@ -26,7 +31,7 @@ internal sealed partial class SceneBuilder
             return;
         }
 
-        var plane = new HatchPlane(InObject(context, hatch.ExtrusionDirection), hatch.ElevationPoint.Z);
+        var plane = new HatchPlane(MapOf(ocs), hatch.ElevationPoint.Z);
         if (hatch.IsGradient != 0 && hatch.GradientColors.Count > 0 && style.SingleColor == null)
         {
             canvas.FillLoops(loops, plane, pen, GradientOf(hatch, loops, plane, pen));
@@ -50,7 +55,8 @@ internal sealed partial class SceneBuilder
         var lines = new List<HatchLine>(hatch.PatternDefinitions.Count);
         foreach (CadHatchPatternData line in hatch.PatternDefinitions)
         {
-            lines.Add(new HatchLine(Radians(line.LineAngle), V(line.LineBasePoint), V(line.LineOffset), line.DashLengths));
+            double angle = Angles.Radians(line.LineAngle);
+            lines.Add(new HatchLine(angle, line.LineBasePoint.ToVec2(), line.LineOffset.ToVec2(), line.DashLengths));
         }
 
         return lines;
@@ -87,17 +93,7 @@ internal sealed partial class SceneBuilder
         foreach (CadHatchBoundaryPathContainer container in hatch.BoundaryPaths)
         {
             var path = new PathBuffer();
-            var pen = new PathPen(path, Affine3.Identity);
-            switch (container.BoundaryPath)
-            {
-                case CadPolylineBoundaryPath polyline:
-                    AddPolyline(pen, polyline);
-                    break;
-                case CadEdgeBoundaryPath edges:
-                    AddEdges(pen, edges);
-                    break;
-            }
-
+            EntityGeometry.EmitBoundary(container, Affine3.Identity, 0, new OutlineSink(path, Affine3.Identity));
             if (!path.IsEmpty && path.Bounds.IsFinite)
             {
                 path.Close();
@@ -107,79 +103,5 @@ internal sealed partial class SceneBuilder
         }
 
         return loops;
-    }
-
-    private static void AddPolyline(in PathPen pen, CadPolylineBoundaryPath polyline)
-    {
-        int count = polyline.Vertices.Count;
-        for (int i = 0; i <= count && count > 1; i++)
-        {
-            Vec2 p = V(polyline.Vertices[i % count]);
-            if (i == 0)
-            {
-                pen.MoveTo(p);
-                continue;
-            }
-
-            double bulge = i - 1 < polyline.Bulges.Count ? polyline.Bulges[i - 1] : 0;
-            pen.BulgeTo(V(polyline.Vertices[i - 1]), p, bulge);
-        }
-    }
-
-    /// <summary>
-    /// Edges follow each other; where one does not begin at the end of the last, a line joins them, as rounding in
-    /// files opens gaps. An edge that was written backwards is not turned: even-odd filling does not ask for it.
-    /// </summary>
-    private static void AddEdges(in PathPen pen, CadEdgeBoundaryPath path)
-    {
-        foreach (ICadBoundaryPathEntity edge in path.Edges)
-        {
-            switch (edge)
-            {
-                case CadBoundaryPathLine line:
-                    pen.LineTo(V(line.FirstPoint));
-                    pen.LineTo(V(line.SecondPoint));
-                    break;
-                case CadBoundaryPathCircularArc arc:
-                    AddArcEdge(pen, V(arc.CenterPoint), new Vec2(arc.Radius, 0), new Vec2(0, arc.Radius), arc.StartAngle, arc.EndAngle, arc.CounterClockwise);
-                    break;
-                case CadBoundaryPathCircularEllipse ellipse:
-                    Vec2 major = V(ellipse.MajorEndPoint);
-                    AddArcEdge(pen, V(ellipse.CenterPoint), major, major.Left * ellipse.AxisRatio, ellipse.StartAngle, ellipse.EndAngle, ellipse.CounterClockwise);
-                    break;
-                case CadBoundaryPathSpline spline:
-                    AddSplineEdge(pen, spline);
-                    break;
-            }
-        }
-    }
-
-    // The angles of a clockwise edge are measured clockwise.
-    private static void AddArcEdge(in PathPen pen, Vec2 center, Vec2 u, Vec2 v, double startDegrees, double endDegrees, bool counterClockwise)
-    {
-        double sign = counterClockwise ? 1 : -1;
-        double start = Radians(startDegrees) * sign;
-        double sweep = CounterClockwise(Radians(startDegrees), Radians(endDegrees)) * sign;
-        pen.LineTo(center + (u * Math.Cos(start)) + (v * Math.Sin(start)));
-        pen.EllipseTo(center, u, v, start, sweep);
-    }
-
-    private static void AddSplineEdge(in PathPen pen, CadBoundaryPathSpline spline)
-    {
-        List<Vec3> control = spline.ControlPoints.ConvertAll(p => new Vec3(p.X, p.Y, 0));
-        Nurbs? curve = Nurbs.Create(spline.Degree, spline.KnotValues, control, spline.Weights);
-        if (curve != null)
-        {
-            Bounds2 box = Bounds2.Empty;
-            control.ForEach(p => box.Add(p.X, p.Y));
-            pen.LineTo(curve.Start);
-            curve.Draw(pen, Math.Max((box.Width + box.Height) * SplineTolerance, 1e-9), move: false);
-            return;
-        }
-
-        foreach (Cad2DPoint p in spline.FitPoints.Count > 0 ? spline.FitPoints : spline.ControlPoints)
-        {
-            pen.LineTo(V(p));
-        }
     }
 }

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
@@ -42,7 +43,7 @@ internal sealed partial class SceneBuilder
         }
 
         LayerInfo layer = pens.LayerOf(viewport, context);
-        Vec2 center = V(viewport.CenterPoint).Xy;
+        Vec2 center = viewport.CenterPoint.ToVec3().Xy;
         Affine3 map = ViewTransform.Viewport(
             view.Target, view.Direction, view.Twist, view.Center, view.Height, center, viewport.Height);
         var scope = new ViewportScope(
@@ -83,7 +84,7 @@ internal sealed partial class SceneBuilder
             }
         }
 
-        Vec2 c = V(viewport.CenterPoint).Xy;
+        Vec2 c = viewport.CenterPoint.ToVec3().Xy;
         canvas.NewPath();
         AddBox(
             context.Map,
@@ -94,34 +95,7 @@ internal sealed partial class SceneBuilder
     }
 
     /// <summary>Adds the closed outline of an entity that may bound a viewport.</summary>
-    private bool TryAddShape(CadEntityBase shape, BlockContext context)
-    {
-        switch (shape)
-        {
-            case CadLwPolyline polyline:
-                ReadVertices(polyline);
-                var flat = new PathPen(canvas.Path, InObject(context, polyline.ExtrusionDirection), polyline.Elevation);
-                AddVertices(flat, System.Runtime.InteropServices.CollectionsMarshal.AsSpan(vertices), closed: true);
-                return true;
-            case CadPolyline polyline:
-                var corners = polyline.Vertices.ConvertAll(v => V(v.LocationPoint).Xy);
-                AddPolygon(new PathPen(canvas.Path, InObject(context, polyline.ExtrusionDirection)), corners);
-                return true;
-            case CadCircle circle and not CadArc:
-                new PathPen(canvas.Path, InObject(context, circle.ExtrusionDirection)).Circle(V(circle.CenterPoint).Xy, circle.Radius);
-                return true;
-            case CadEllipse ellipse:
-                Vec3 major = V(ellipse.MajorEndPoint);
-                Vec3 minor = Vec3.Cross(V(ellipse.ExtrusionDirection).Unit(), major) * ellipse.AxisRatio;
-                var path = new PathPen(canvas.Path, context.Map);
-                path.MoveTo(V(ellipse.CenterPoint) + major);
-                path.EllipseTo(V(ellipse.CenterPoint), major, minor, 0, 2 * Math.PI);
-                return true;
-            case CadSpline spline:
-                AddSpline(new PathPen(canvas.Path, context.Map), spline);
-                return true;
-            default:
-                return false;
-        }
-    }
+    private bool TryAddShape(CadEntityBase shape, BlockContext context) =>
+        shape is CadLwPolyline or CadPolyline or CadEllipse or CadSpline or (CadCircle and not CadArc)
+            && EntityGeometry.Emit(shape, new OutlineSink(canvas.Path, context.Map));
 }

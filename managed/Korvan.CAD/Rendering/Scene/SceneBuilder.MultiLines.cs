@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -16,12 +17,14 @@ internal sealed partial class SceneBuilder
     private const int EndSquare = 256;
     private const int EndRound = 1024;
 
-    private void DrawMultiLine(CadMultiLine line, in Pen pen, LayerInfo layer, BlockContext context)
+    void IGeometrySink.MultiLine(CadMultiLine line)
     {
         if (line.Vertices.Count < 2)
         {
             return;
         }
+
+        (Pen pen, LayerInfo layer, BlockContext context, _) = _current;
 
         tables.MlineStyles.TryGetValue(line.StyleName, out MlineStyle? mline);
         bool closed = (line.Flags & CadMultiLineFlag.Closed) != 0;
@@ -61,19 +64,20 @@ internal sealed partial class SceneBuilder
     private static Vec3 MlinePoint(CadMultiLineVectorBlock vertex, int element)
     {
         List<double>? lengths = element < vertex.ElementParameters.Count ? vertex.ElementParameters[element] : null;
-        return V(vertex.Location) + (V(vertex.Miter) * (lengths is { Count: > 0 } ? lengths[0] : 0));
+        return vertex.Location.ToVec3() + (vertex.Miter.ToVec3() * (lengths is { Count: > 0 } ? lengths[0] : 0));
     }
 
     /// <summary>
     /// One line between two vertices. After the length along the mitre come lengths along the line, at which it in
     /// turn begins and breaks.
     /// </summary>
-    private static void AddMlinePiece(in PathPen path, CadMultiLineVectorBlock from, CadMultiLineVectorBlock to, int element)
+    private static void AddMlinePiece(
+        in PathPen path, CadMultiLineVectorBlock from, CadMultiLineVectorBlock to, int element)
     {
         Vec3 start = MlinePoint(from, element);
         Vec3 end = MlinePoint(to, element);
         List<double>? lengths = element < from.ElementParameters.Count ? from.ElementParameters[element] : null;
-        Vec3 along = V(from.Direction).Unit();
+        Vec3 along = from.Direction.ToVec3().Unit();
         if (lengths is not { Count: > 2 })
         {
             path.MoveTo(start);
@@ -133,7 +137,8 @@ internal sealed partial class SceneBuilder
 
             if (!suppressed && (flags & round) != 0)
             {
-                Vec3 outward = V(line.Vertices[atStart ? i : i - 1].Direction).Unit() * ((b - a).Length / 2 * (atStart ? -1 : 1));
+                Vec3 along = line.Vertices[atStart ? i : i - 1].Direction.ToVec3().Unit();
+                Vec3 outward = along * ((b - a).Length / 2 * (atStart ? -1 : 1));
                 Vec3 center = (a + b) * 0.5;
                 path.MoveTo(a);
                 path.EllipseTo(center, a - center, outward, 0, Math.PI);

@@ -1,9 +1,6 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -11,108 +8,49 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <content>Polylines of all kinds: flat with widths and bulges, in space, meshes and polyfaces.</content>
 internal sealed partial class SceneBuilder
 {
-    private const int SplineFrameVertex = 16;
-    private const int PolyfacePoint = 64;
-
-    private readonly List<PolyVertex> vertices = [];
-
-    private void DrawPolyline(CadPolylineBase polyline, in Pen pen, BlockContext context)
+    /// <summary>Draws a band where the vertices have widths, else a line.</summary>
+    void IGeometrySink.Polyline(in PlanarPolyline polyline, ReadOnlySpan<PolyVertex> vertices)
     {
-        switch (polyline)
-        {
-            case CadPolyFaceMesh mesh:
-                DrawPolyface(mesh, pen, context);
-                break;
-            case CadPolygonMesh mesh:
-                DrawMesh(mesh, pen, context);
-                break;
-            case CadPolyline3D line:
-                DrawSpacePolyline(line, pen, context);
-                break;
-            default:
-                DrawFlatPolyline(polyline, pen, context);
-                break;
-        }
-    }
-
-    private void DrawLwPolyline(CadLwPolyline polyline, in Pen pen, BlockContext context)
-    {
-        ReadVertices(polyline);
-        bool generated = (polyline.Flag & CadLwPolylineFlag.Plinegen) != 0;
-        Affine3 map = InObject(context, polyline.ExtrusionDirection);
-        DrawVertices(map, polyline.Elevation, polyline.Thickness, polyline.IsClosed, generated, pen);
-    }
-
-    private void ReadVertices(CadLwPolyline polyline)
-    {
-        vertices.Clear();
-        for (int i = 0; i < polyline.Coordinates.Count; i++)
-        {
-            vertices.Add(new PolyVertex(
-                V(polyline.Coordinates[i]), polyline.StartWidthAt(i), polyline.EndWidthAt(i), polyline.BulgeAt(i)));
-        }
-    }
-
-    private void DrawFlatPolyline(CadPolylineBase polyline, in Pen pen, BlockContext context)
-    {
-        vertices.Clear();
-        foreach (CadVertexBase vertex in polyline.Vertices)
-        {
-            // The frame of a fitted curve is kept in the file but not part of the line.
-            if ((vertex.VertexFlags & SplineFrameVertex) == 0)
-            {
-                double start = vertex.StartWidth != 0 ? vertex.StartWidth : polyline.StartWidth;
-                double end = vertex.EndWidth != 0 ? vertex.EndWidth : vertex.StartWidth != 0 ? 0 : polyline.EndWidth;
-                vertices.Add(new PolyVertex(V(vertex.LocationPoint).Xy, start, end, vertex.Bulge));
-            }
-        }
-
-        bool generated = (polyline.Flag & CadPolylineFlag.Plinegen) != 0;
-        Affine3 map = InObject(context, polyline.ExtrusionDirection);
-        DrawVertices(map, polyline.Elevation.Z, polyline.Thickness, polyline.IsClosed, generated, pen);
-    }
-
-    /// <summary>Draws <see cref="vertices"/>, as a band where they have a width, else as a line.</summary>
-    private void DrawVertices(in Affine3 map, double elevation, double thickness, bool closed, bool generated, in Pen pen)
-    {
-        if (vertices.Count == 0)
+        if (vertices.Length == 0)
         {
             return;
         }
 
-        ReadOnlySpan<PolyVertex> all = System.Runtime.InteropServices.CollectionsMarshal.AsSpan(vertices);
-        if (WidePolyline.HasWidth(all))
+        Affine3 map = MapOf(polyline.Plane);
+        bool closed = polyline.IsClosed;
+        if (WidePolyline.HasWidth(vertices))
         {
-            DrawWide(map, elevation, closed, pen);
+            DrawWide(vertices, map, polyline.Elevation, closed);
             return;
         }
 
-        var path = new PathPen(canvas.NewPath(), map, elevation);
-        if (pen.Pattern != null && !generated)
+        var path = new PathPen(canvas.NewPath(), map, polyline.Elevation);
+        if (_current.Pen.Pattern != null && !polyline.HasContinuousPattern)
         {
-            DrawSegments(path, closed, pen);
+            DrawSegments(vertices, path, closed);
             return;
         }
 
-        AddVertices(path, all, closed);
-        if (thickness != 0)
+        AddVertices(path, vertices, closed);
+        if (polyline.Thickness != 0)
         {
-            AddVertices(new PathPen(canvas.Path, map, elevation + thickness), all, closed);
+            double top = polyline.Elevation + polyline.Thickness;
+            AddVertices(new PathPen(canvas.Path, map, top), vertices, closed);
             var edges = new PathPen(canvas.Path, map);
             foreach (PolyVertex v in vertices)
             {
-                edges.MoveTo(new Vec3(v.Point.X, v.Point.Y, elevation));
-                edges.LineTo(new Vec3(v.Point.X, v.Point.Y, elevation + thickness));
+                edges.MoveTo(new Vec3(v.Point.X, v.Point.Y, polyline.Elevation));
+                edges.LineTo(new Vec3(v.Point.X, v.Point.Y, top));
             }
         }
 
-        canvas.Stroke(pen);
+        canvas.Stroke(_current.Pen);
     }
 
-    private void DrawWide(in Affine3 map, double elevation, bool closed, in Pen pen)
+    private void DrawWide(ReadOnlySpan<PolyVertex> all, in Affine3 map, double elevation, bool closed)
     {
+        Pen pen = _current.Pen;
         var path = new PathPen(canvas.NewPath(), map, elevation);
-        ReadOnlySpan<PolyVertex> all = System.Runtime.InteropServices.CollectionsMarshal.AsSpan(vertices);
         WidePolyline.AddOutline(path, all, closed);
         if (tables.Settings.FillMode)
         {
@@ -141,16 +79,16 @@ internal sealed partial class SceneBuilder
     }
 
     /// <summary>Each segment begins its line type anew.</summary>
-    private void DrawSegments(in PathPen path, bool closed, in Pen pen)
+    private void DrawSegments(ReadOnlySpan<PolyVertex> vertices, in PathPen path, bool closed)
     {
-        int segments = closed ? vertices.Count : vertices.Count - 1;
+        int segments = closed ? vertices.Length : vertices.Length - 1;
         for (int i = 0; i < segments; i++)
         {
             canvas.NewPath();
             Vec2 from = vertices[i].Point;
             path.MoveTo(from);
-            path.BulgeTo(from, vertices[(i + 1) % vertices.Count].Point, vertices[i].Bulge);
-            canvas.Stroke(pen);
+            path.BulgeTo(from, vertices[(i + 1) % vertices.Length].Point, vertices[i].Bulge);
+            canvas.Stroke(_current.Pen);
         }
     }
 
@@ -174,112 +112,55 @@ internal sealed partial class SceneBuilder
         }
     }
 
-    private void DrawSpacePolyline(CadPolyline3D polyline, in Pen pen, BlockContext context)
+    void IGeometrySink.Polyline(ReadOnlySpan<Vec3> points, bool closed)
     {
-        var path = new PathPen(canvas.NewPath(), context.Map);
-        foreach (CadVertexBase vertex in polyline.Vertices)
+        var path = new PathPen(canvas.NewPath(), _current.Context.Map);
+        foreach (Vec3 point in points)
         {
-            if ((vertex.VertexFlags & SplineFrameVertex) == 0)
-            {
-                path.LineTo(V(vertex.LocationPoint));
-            }
-        }
-
-        if (polyline.IsClosed)
-        {
-            path.Close();
-        }
-
-        canvas.Stroke(pen);
-    }
-
-    /// <summary>A net of m rows and n columns; a smoothed one shows its surface, not the frame.</summary>
-    private void DrawMesh(CadPolygonMesh mesh, in Pen pen, BlockContext context)
-    {
-        bool smooth = (mesh.Flag & CadPolylineFlag.SplineFit) != 0 && mesh.SurfaceMDensity > 1 && mesh.SurfaceNDensity > 1;
-        int m = smooth ? mesh.SurfaceMDensity : mesh.MeshMVertexCount;
-        int n = smooth ? mesh.SurfaceNDensity : mesh.MeshNVertexCount;
-        IList<CadVertexBase> points = smooth
-            ? mesh.Vertices.FindAll(v => (v.VertexFlags & SplineFrameVertex) == 0)
-            : mesh.Vertices;
-        if (m < 1 || n < 1 || (long)m * n > points.Count)
-        {
-            List.Skip("POLYLINE mesh with missing vertices");
-            return;
-        }
-
-        var path = new PathPen(canvas.NewPath(), context.Map);
-        for (int row = 0; row < m; row++)
-        {
-            AddRow(path, points, row * n, 1, n, (mesh.Flag & CadPolylineFlag.ClosedN) != 0);
-        }
-
-        for (int column = 0; column < n; column++)
-        {
-            AddRow(path, points, column, n, m, mesh.IsClosed);
-        }
-
-        canvas.Stroke(pen);
-    }
-
-    private static void AddRow(in PathPen path, IList<CadVertexBase> points, int first, int step, int count,
-        bool closed)
-    {
-        path.MoveTo(V(points[first].LocationPoint));
-        for (int i = 1; i < count; i++)
-        {
-            path.LineTo(V(points[first + (i * step)].LocationPoint));
+            path.LineTo(point);
         }
 
         if (closed)
         {
             path.Close();
         }
+
+        canvas.Stroke(_current.Pen);
     }
 
-    private void DrawPolyface(CadPolyFaceMesh mesh, in Pen pen, BlockContext context)
+    void IGeometrySink.Grid(in PointGrid grid)
     {
-        var points = new List<Vec3>();
-        foreach (CadVertexBase vertex in mesh.Vertices)
+        if (!grid.IsWhole)
         {
-            if ((vertex.VertexFlags & PolyfacePoint) != 0)
-            {
-                points.Add(V(vertex.LocationPoint));
-            }
+            List.Skip("POLYLINE mesh with missing vertices");
+            return;
         }
 
-        var path = new PathPen(canvas.NewPath(), context.Map);
-        foreach (CadVertexBase vertex in mesh.Vertices)
+        var path = new PathPen(canvas.NewPath(), _current.Context.Map);
+        for (int row = 0; row < grid.Rows; row++)
         {
-            if (vertex is CadFaceRecord face)
-            {
-                AddFace(path, points, face);
-            }
+            AddRun(path, grid.Points, row * grid.Columns, 1, grid.Columns, grid.ClosesRows);
         }
 
-        canvas.Stroke(pen);
+        for (int column = 0; column < grid.Columns; column++)
+        {
+            AddRun(path, grid.Points, column, grid.Columns, grid.Rows, grid.ClosesColumns);
+        }
+
+        canvas.Stroke(_current.Pen);
     }
 
-    // Indexes count from one; a negative one hides the edge that leaves its vertex.
-    private static void AddFace(in PathPen path, List<Vec3> points, CadFaceRecord face)
+    private static void AddRun(in PathPen path, List<Vec3> points, int first, int step, int count, bool closed)
     {
-        ReadOnlySpan<int> indexes = [face.VertexIndex1, face.VertexIndex2, face.VertexIndex3, face.VertexIndex4];
-        Span<Vec3> corners = stackalloc Vec3[4];
-        int count = 0;
-        int hidden = 0;
-        foreach (int index in indexes)
+        path.MoveTo(points[first]);
+        for (int i = 1; i < count; i++)
         {
-            int at = Math.Abs(index) - 1;
-            if (at >= 0 && at < points.Count)
-            {
-                hidden |= index < 0 ? 1 << count : 0;
-                corners[count++] = points[at];
-            }
+            path.LineTo(points[first + (i * step)]);
         }
 
-        if (count >= 2)
+        if (closed)
         {
-            AddEdges(path, corners[..count], hidden);
+            path.Close();
         }
     }
 }

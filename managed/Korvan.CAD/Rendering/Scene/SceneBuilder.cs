@@ -1,6 +1,8 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
@@ -15,7 +17,7 @@ namespace Korvan.CAD.Rendering.Scene;
 /// Walks the entities of a space and puts them on a canvas. Entities without a picture are counted in the list;
 /// what would never end (blocks in themselves, arrays of millions) is an error that names its place.
 /// </summary>
-internal sealed partial class SceneBuilder
+internal sealed partial class SceneBuilder : IGeometrySink
 {
     private const int MostEntities = 20_000_000;
     private const int CheckpointEvery = 4096;
@@ -26,6 +28,7 @@ internal sealed partial class SceneBuilder
     private readonly PenResolver pens;
     private readonly List<Action> infinite = [];
     private int drawn;
+    private Current _current;
 
     private SceneBuilder(SceneTables tables, RenderStyle style, TextEngine engine, bool onPaper)
     {
@@ -46,14 +49,8 @@ internal sealed partial class SceneBuilder
         return builder.List;
     }
 
-    private static Vec3 V(Cad3DPoint p) => new(p.X, p.Y, p.Z);
-
-    private static Vec2 V(Cad2DPoint p) => new(p.X, p.Y);
-
-    private static double Radians(double degrees) => degrees * Math.PI / 180;
-
-    private static Affine3 InObject(BlockContext context, Cad3DPoint extrusion) =>
-        extrusion.Is(0, 0, 1) ? context.Map : context.Map * Ocs.ToWorld(V(extrusion));
+    /// <summary>The map from a plane of the drawn entity to the page.</summary>
+    private Affine3 MapOf(in Affine3 plane) => plane.IsIdentity ? _current.Context.Map : _current.Context.Map * plane;
 
     private void DrawSpace(BlockInfo block, BlockContext context)
     {
@@ -73,19 +70,15 @@ internal sealed partial class SceneBuilder
             return;
         }
 
-        if (entity is CadInsertObject insert)
+        if (entity is CadInsertObject insert and not CadTableEntity)
         {
             DrawInsert(insert, layer, context);
-            return;
         }
-
-        if (entity is CadDimensionBase dimension)
+        else if (entity is CadDimensionBase dimension)
         {
             DrawDimension(dimension, layer, context);
-            return;
         }
-
-        if (pens.IsVisible(layer, context))
+        else if (pens.IsVisible(layer, context))
         {
             Pen pen = pens.PenOf(entity, layer, context);
             DrawVisible(entity, pen, layer, context);
@@ -94,93 +87,15 @@ internal sealed partial class SceneBuilder
 
     private void DrawVisible(CadEntityBase entity, in Pen pen, LayerInfo layer, BlockContext context)
     {
-        switch (entity)
+        // A block draws entities in the middle of another: the outer one goes on afterwards.
+        Current outer = _current;
+        _current = new Current(pen, layer, context, entity);
+        if (!EntityGeometry.Emit(entity, this))
         {
-            case CadLine line:
-                DrawLine(line, pen, context);
-                break;
-            case CadLwPolyline polyline:
-                DrawLwPolyline(polyline, pen, context);
-                break;
-            case CadArc arc:
-                DrawArc(arc, pen, context);
-                break;
-            case CadCircle circle:
-                DrawCircle(circle, pen, context);
-                break;
-            case CadAttDef definition:
-                DrawAttributeDefinition(definition, pen, context);
-                break;
-            case CadAttrib attribute:
-                DrawAttribute(attribute, pen, context);
-                break;
-            case CadText text:
-                DrawText(text, text.DefaultValue, pen, context);
-                break;
-            case CadMText text:
-                DrawMText(text, pen, layer, context);
-                break;
-            case CadHatch hatch:
-                DrawHatch(hatch, pen, layer, context);
-                break;
-            case CadSpline spline:
-                DrawSpline(spline, pen, context);
-                break;
-            case CadEllipse ellipse:
-                DrawEllipse(ellipse, pen, context);
-                break;
-            case CadPoint point:
-                DrawPoint(point, pen, context);
-                break;
-            case CadPolylineBase polyline:
-                DrawPolyline(polyline, pen, context);
-                break;
-            case CadSolid solid:
-                DrawFilledQuad(solid.FirstPoint, solid.SecondPoint, solid.ThirdPoint, solid.FourthPoint, solid.ExtrusionDirection, pen, context);
-                break;
-            case CadTrace trace:
-                DrawFilledQuad(trace.FirstPoint, trace.SecondPoint, trace.ThirdPoint, trace.FourthPoint, trace.ExtrusionDirection, pen, context);
-                break;
-            case Cad3DFace face:
-                DrawFace(face, pen, context);
-                break;
-            default:
-                DrawRare(entity, pen, layer, context);
-                break;
+            DrawRaw(entity, pen, layer, context);
         }
-    }
 
-    private void DrawRare(CadEntityBase entity, in Pen pen, LayerInfo layer, BlockContext context)
-    {
-        switch (entity)
-        {
-            case CadLeader leader:
-                DrawLeader(leader, pen, context);
-                break;
-            case CadMultiLine line:
-                DrawMultiLine(line, pen, layer, context);
-                break;
-            case CadTolerance tolerance:
-                DrawTolerance(tolerance, pen, context);
-                break;
-            case CadWipeoutBase wipeout:
-                DrawWipeout(wipeout, pen, context);
-                break;
-            case CadRasterImage image:
-                DrawImage(image, pen, context);
-                break;
-            case CadRay ray:
-                DrawInfinite(V(ray.FirstPoint), V(ray.UnitDirection), bothWays: false, pen, context);
-                break;
-            case CadXLine line:
-                DrawInfinite(V(line.FirstPoint), V(line.UnitDirection), bothWays: true, pen, context);
-                break;
-            case CadViewport:
-                break;
-            default:
-                DrawRaw(entity, pen, layer, context);
-                break;
-        }
+        _current = outer;
     }
 
     private void Count()
@@ -196,4 +111,7 @@ internal sealed partial class SceneBuilder
                 $"The drawing shows more than {MostEntities} entities once its block references are drawn; it is too large to be rendered.");
         }
     }
+
+    /// <summary>What is drawn: with which pen, on which layer, and inside of which references.</summary>
+    private readonly record struct Current(Pen Pen, LayerInfo Layer, BlockContext Context, CadEntityBase Entity);
 }

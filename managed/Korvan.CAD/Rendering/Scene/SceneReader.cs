@@ -19,8 +19,7 @@ internal static class SceneReader
 
     internal static DrawingScene Read(CadDrawing drawing)
     {
-        var tables = new SceneTables { Settings = Settings(drawing), Pictures = PictureFiles.Of(drawing) };
-        ReadTables(drawing, tables);
+        SceneTables tables = ReadTables(drawing);
         Dictionary<ulong, Dictionary<ulong, ulong>> orders = SortTables.Read(drawing.Objects);
         var recordHandles = new Dictionary<string, ulong>(StringComparer.OrdinalIgnoreCase);
         foreach (CadBlockTableObject record in drawing.BlockRecords)
@@ -42,8 +41,10 @@ internal static class SceneReader
         return new DrawingScene(tables, model, Layouts(drawing, tables, model, Block(drawing.PaperSpace, recordHandles, orders)));
     }
 
-    private static void ReadTables(CadDrawing drawing, SceneTables tables)
+    /// <summary>The tables of a drawing, without its blocks.</summary>
+    internal static SceneTables ReadTables(CadDrawing drawing)
     {
+        var tables = new SceneTables { Settings = Settings(drawing), Pictures = PictureFiles.Of(drawing) };
         var styleNames = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
         foreach (CadStyleTableObject text in drawing.Styles)
         {
@@ -74,8 +75,11 @@ internal static class SceneReader
         {
             List<MlineElement> elements = multi.Elements.ConvertAll(
                 e => new MlineElement(e.Offset, new DrawingColor(e.ColorId, e.ColorValue), e.LineTypeName));
-            tables.MlineStyles.TryAdd(multi.StyleName, new MlineStyle(elements, multi.Flags, new DrawingColor(multi.FillColorId)));
+            var fill = new DrawingColor(multi.FillColorId);
+            tables.MlineStyles.TryAdd(multi.StyleName, new MlineStyle(elements, multi.Flags, fill));
         }
+
+        return tables;
     }
 
     private static SceneSettings Settings(CadDrawing drawing)

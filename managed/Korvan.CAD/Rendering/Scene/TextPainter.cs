@@ -7,24 +7,6 @@ using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;
 
-internal enum HorizontalAlign
-{
-    Left = 0,
-    Center = 1,
-    Right = 2,
-    Aligned = 3,
-    Middle = 4,
-    Fit = 5,
-}
-
-internal enum VerticalAlign
-{
-    Baseline = 0,
-    Bottom = 1,
-    Middle = 2,
-    Top = 3,
-}
-
 /// <summary>Single-line text as the entities give it, in their object coordinates.</summary>
 internal readonly record struct SingleLine
 {

@@ -36,7 +36,8 @@ public static class StubEmitter
             StubTypeWriter.Write(body, type, nested, imports);
         }
         var head = new CodeWriter();
-        head.Line(Note).Line("import builtins").Line("import collections.abc").Line("import contextlib").Line("import datetime");
+        head.Line(Note);
+        head.Line("import builtins").Line("import collections.abc").Line("import contextlib").Line("import datetime");
         head.Line("import decimal").Line("import enum").Line("import typing").Line("import uuid").Line();
         foreach (string import in imports.Where(name => name != module.Name))
         {

@@ -13,7 +13,7 @@ public sealed class PyStream : Stream, IPyAdapter
 
     // The block of a call that is over serves the next one: blocks of this size are dear to allocate. Calls run one at
     // a time, under the interpreter lock; one within another makes its own.
-    private static BufferedStream? s_spare;
+    private static BufferedStream? _spare;
 
     private readonly PyReference _reference;
     private readonly PyRawStream _raw;
@@ -34,8 +34,8 @@ public sealed class PyStream : Stream, IPyAdapter
             _target = _raw;
             return;
         }
-        BufferedStream? spare = s_spare;
-        s_spare = null;
+        BufferedStream? spare = _spare;
+        _spare = null;
         if (spare?.UnderlyingStream is PyRawStream kept)
         {
             kept.Retarget(_raw);
@@ -130,7 +130,7 @@ public sealed class PyStream : Stream, IPyAdapter
         if (_isClean && !_isClosed && _target is BufferedStream buffered)
         {
             _raw.Retarget(null);
-            s_spare = buffered;
+            _spare = buffered;
         }
         _isClosed = true;
         _reference.End();

@@ -5,12 +5,11 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
-using Korvan.CAD.Rendering.Mesh;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
 
-/// <summary>What formats without curves, dashes or faces of many corners get instead.</summary>
+/// <summary>What formats without curves, or dashes get instead.</summary>
 public class FlatteningTests
 {
     [Fact]
@@ -68,37 +67,6 @@ public class FlatteningTests
         path.MoveTo(new Vec2(0, 0));
         path.LineTo(new Vec2(1e9, 0));
         Assert.False(DashCutter.Cut(path, [0.5, 0.5], 0, 0.1, new PathBuffer()));
-    }
-
-    [Fact]
-    public void A_face_with_a_dent_is_cut_within_its_outline()
-    {
-        Vec3[] arrow = [new(0, 0, 5), new(4, 0, 5), new(4, 4, 5), new(2, 1, 5), new(0, 4, 5)];
-        foreach (Vec3[] ring in new[] { arrow, [.. arrow.Reverse()] })
-        {
-            var part = new MeshPart("", "MESH", "0", Rgba.Black);
-            part.Face(ring);
-            Assert.Equal(3, part.Triangles.Count / 3);
-            double area = 0;
-            for (int i = 0; i < part.Triangles.Count; i += 3)
-            {
-                (Vec3 a, Vec3 b, Vec3 c) = part.Triangle(i);
-                area += Vec3.Cross(b - a, c - a).Length / 2;
-            }
-
-            Assert.Equal(10, area, 9);
-        }
-    }
-
-    [Fact]
-    public void Faces_without_area_and_corners_that_stand_twice_are_left_out()
-    {
-        var part = new MeshPart("", "3DFACE", "0", Rgba.Black);
-        part.Face([new(0, 0, 0), new(1, 0, 0), new(1, 0, 0), new(0, 0, 0)]);
-        part.Face([new(0, 0, 0), new(1, 0, 0), new(2, 0, 0)]);
-        Assert.Empty(part.Triangles);
-        part.Face([new(0, 0, 0), new(1, 0, 0), new(1, 1, 0), new(1, 1, 0)]);
-        Assert.Equal(3, part.Triangles.Count);
     }
 
     [Theory]

@@ -69,6 +69,20 @@ public class HatchTests
         Assert.Equal(3, HatchLoops.Select(loops, HatchStyle.Ignore).Count);
     }
 
+    [Theory]
+    [InlineData(HatchStyle.Outer, 2 + 10_000)]
+    [InlineData(HatchStyle.Ignore, 1)]
+    public void Styles_hold_for_thousands_of_loops(object style, int count)
+    {
+        List<HatchLoop> loops = [Loop(0, 0, 1000), Loop(100, 100, 800), Loop(200, 200, 600)];
+        for (int i = 0; i < 10_000; i++)
+        {
+            loops.Add(Loop(2 + (i % 1000 * 0.9), 2 + (i / 1000), 0.5));
+        }
+
+        Assert.Equal(count, HatchLoops.Select(loops, (HatchStyle)style).Count);
+    }
+
     private static Vec2[] Square(double x, double y, double side) =>
         [new(x, y), new(x + side, y), new(x + side, y + side), new(x, y + side)];
 

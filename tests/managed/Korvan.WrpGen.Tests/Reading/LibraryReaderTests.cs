@@ -51,7 +51,7 @@ public class LibraryReaderTests
         MethodGroup scale = MethodGroup.Of(ProbeModel.Type("Box")).Single(group => group.PythonName == "scale");
         Assert.Equal(
             ["Box.call_000_Scale", "Box.call_001_Scale", "Shape.call_000_Scale"],
-            scale.Legs.Select(leg => $"{leg.Owner.Name}.{leg.Delegate}"));
+            scale.Overloads.Select(overload => $"{overload.Owner.Name}.{overload.Delegate}"));
     }
 
     [Theory]

@@ -87,7 +87,7 @@ public partial class CadInsertObject : CadEntityBase
     /// <inheritdoc/>
     public override Point3D GetAnnotationPoint()
     {
-        Vec3 place = EntityExtents.SystemOf(ExtrusionDirection).Point(new Vec3(InsertionPoint.X, InsertionPoint.Y, InsertionPoint.Z));
+        Vec3 place = ExtrusionDirection.ToPlane().Point(InsertionPoint.ToVec3());
         return new Point3D(place.X, place.Y, place.Z);
     }
 

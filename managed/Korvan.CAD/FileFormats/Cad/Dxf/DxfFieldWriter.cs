@@ -89,5 +89,7 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override void Lines(List<string> lines) => writer.WriteChunks(lines);
 
+    internal override void Brace(int code, string text) => writer.Write(code, text);
+
     internal override void Tags(IList<CadCodeValue> tags) => tags.ForEach(writer.Write);
 }

@@ -35,6 +35,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
     internal void ReadBody(CadBaseObject target)
     {
         tags.EnterSubclass(null);
+        tags.CurrentHandle = 0;
         while (tags.Next())
         {
             int code = tags.Code;
@@ -49,6 +50,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
             }
         }
 
+        tags.CurrentHandle = 0;
         tags.Unread();
     }
 
@@ -73,6 +75,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
             case 5 when tags.Subclass is null && target is not CadDimensionStyleTable:
             case 105 when target is CadDimensionStyleTable:
                 target.Handle = tags.GetHandle();
+                tags.CurrentHandle = target.Handle;
                 return true;
             case 100:
                 EnterSubclass(target);
@@ -198,6 +201,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
     {
         "POLYLINE" => CreatePolyline(tags.Peek(70) ?? 0),
         "VERTEX" => new Cad2DVertex(),
+        "MLEADER" => new CadMLeader(),
         "DIMENSION" => CreateDimension(tags.Peek(70) ?? 0),
         _ => ObjectTypes.CreateEntity(name) ?? new RawEntity(name),
     };

@@ -11,6 +11,9 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
 {
     private readonly DxfFieldWriter _fields = new(writer);
 
+    /// <summary>Gets what was left out because it is kept in the form of another format.</summary>
+    internal List<string> LeftOut { get; } = [];
+
     internal void WriteEntity(CadEntityBase entity)
     {
         Write(entity);
@@ -29,6 +32,15 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
 
     internal void Write(CadBaseObject item)
     {
+        if (item.Kept is { } kept and not KeptTags)
+        {
+            LeftOut.Add($"{item.DxfName} {HandleText.Format(item.Handle)}: data kept in the form of {kept.FormatName}");
+            if (item is RawEntity or RawObject)
+            {
+                return;
+            }
+        }
+
         Begin(item);
         item.Exchange(_fields);
         WriteRest(item);

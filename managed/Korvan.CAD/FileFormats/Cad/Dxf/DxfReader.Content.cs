@@ -21,7 +21,8 @@ internal sealed partial class DxfReader
             }
             else if (name != "ENDTAB")
             {
-                throw _tags.Fail($"'{name}' stands between tables; 0 TABLE was expected");
+                throw _tags.Fail(
+                LoadDefectCode.Misplaced, $"'{name}' stands between tables; 0 TABLE was expected");
             }
         }
     }
@@ -36,7 +37,8 @@ internal sealed partial class DxfReader
             CadSymbolTableGroupCodes? record = ObjectTypes.CreateTableRecord(name);
             if (record is null)
             {
-                throw _tags.Fail($"'{name}' is no record of a table; 0 ENDTAB was expected");
+                throw _tags.Fail(
+                LoadDefectCode.Misplaced, $"'{name}' is no record of a table; 0 ENDTAB was expected");
             }
 
             if (TryRead(record))
@@ -72,7 +74,8 @@ internal sealed partial class DxfReader
 
     private ImageLoadException OutsideBlock(string name)
     {
-        return _tags.Fail($"the entity {name} stands outside of a block; 0 BLOCK was expected");
+        return _tags.Fail(
+                LoadDefectCode.Misplaced, $"the entity {name} stands outside of a block; 0 BLOCK was expected");
     }
 
     private void AddBlock(CadBlockEntity block)
@@ -163,7 +166,7 @@ internal sealed partial class DxfReader
     // The tags of a damaged object are passed over; what follows it is read as usual.
     private void LeaveOut(ImageLoadException failure)
     {
-        _options.Errors.Add(failure.Message);
+        _options.Note(failure);
         while (_tags.Next() && _tags.Code != 0)
         {
         }

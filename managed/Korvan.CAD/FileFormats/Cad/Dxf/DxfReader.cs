@@ -41,7 +41,7 @@ internal sealed partial class DxfReader
         }
         catch (ImageLoadException e) when (_options.IgnoreErrors)
         {
-            _options.Errors.Add(e.Message);
+            _options.Note(e);
         }
 
         DrawingLinks.Complete(_drawing);
@@ -67,14 +67,16 @@ internal sealed partial class DxfReader
             }
             else if (_tags.Code != 0 || !_tags.ValueIs("ENDSEC"u8))
             {
-                throw _tags.Fail($"group code {_tags.Code} with the value '{_tags.ValueText()}' stands between "
+                throw _tags.Fail(
+                LoadDefectCode.Misplaced, $"group code {_tags.Code} with the value '{_tags.ValueText()}' stands between "
                     + "sections; 0 SECTION or 0 EOF was expected");
             }
         }
 
         if (!_hasEntities)
         {
-            throw _tags.Fail("the file ends before its section ENTITIES; it has been cut off");
+            throw _tags.Fail(
+                LoadDefectCode.EndsEarly, "the file ends before its section ENTITIES; it has been cut off");
         }
     }
 
@@ -83,7 +85,8 @@ internal sealed partial class DxfReader
         int line = _tags.Line;
         if (!_tags.Next() || _tags.Code != 2)
         {
-            throw _tags.Fail("a section has no name; group code 2 was expected");
+            throw _tags.Fail(
+                LoadDefectCode.SectionWithoutName, "a section has no name; group code 2 was expected");
         }
 
         string name = _tags.GetName();
@@ -123,12 +126,14 @@ internal sealed partial class DxfReader
     {
         if (!_tags.Next())
         {
-            throw _tags.Fail($"the section {name}, which begins on line {line}, never ends; 0 ENDSEC was expected");
+            throw _tags.Fail(
+                LoadDefectCode.SectionWithoutEnd, $"the section {name}, which begins on line {line}, never ends; 0 ENDSEC was expected");
         }
 
         if (_tags.Code != 0 || !_tags.ValueIs("ENDSEC"u8))
         {
-            throw _tags.Fail($"group code {_tags.Code} with the value '{_tags.ValueText()}' stands in the section "
+            throw _tags.Fail(
+                LoadDefectCode.Misplaced, $"group code {_tags.Code} with the value '{_tags.ValueText()}' stands in the section "
                 + $"{name}, where 0 ENDSEC was expected");
         }
     }
@@ -141,7 +146,8 @@ internal sealed partial class DxfReader
         {
             if (_tags.Code != 0)
             {
-                throw _tags.Fail($"group code {_tags.Code} stands where group code 0 and the name of an object were "
+                throw _tags.Fail(
+                LoadDefectCode.Misplaced, $"group code {_tags.Code} stands where group code 0 and the name of an object were "
                     + "expected");
             }
 
@@ -220,7 +226,10 @@ internal sealed partial class DxfReader
             CadClassEntity added = new();
             while (_tags.Next() && _tags.Code != 0)
             {
-                added.ReadField(_tags);
+                if (!added.ReadField(_tags.Code, _tags))
+                {
+                    added.Kept.Add(_tags.ToCodeValue());
+                }
             }
 
             _tags.Unread();

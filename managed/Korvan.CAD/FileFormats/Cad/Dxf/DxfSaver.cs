@@ -1,4 +1,5 @@
 using System.Collections.Generic;
+using System.Diagnostics;
 using System.IO;
 using System.Text;
 using Korvan.CAD.CadExceptions;
@@ -39,7 +40,15 @@ internal sealed class DxfSaver
         options.VerifyHonoured(OutputKind.Model);
         CadAcadVersion version = ChooseVersion(drawing, options.Version);
         DrawingIntegrity.Prepare(drawing, DrawingRelease.Year(version));
-        new DxfSaver(drawing, version, stream).Write();
+        DxfSaver saver = new(drawing, version, stream);
+        long start = Stopwatch.GetTimestamp();
+        saver.Write();
+        if (saver._objects.LeftOut.Count > 0)
+        {
+            options.RenderResult = new CadRenderResult(
+                saver._objects.LeftOut.ConvertAll(static what => new RenderResult(RenderErrorCode.EntityNotDrawn, what)),
+                Stopwatch.GetElapsedTime(start));
+        }
     }
 
     private static CadAcadVersion ChooseVersion(CadDrawing drawing, DxfOutputVersion wanted)
@@ -221,6 +230,7 @@ internal sealed class DxfSaver
     {
         if (section.Content is not KeptTags content)
         {
+            _objects.LeftOut.Add($"section {section.Name}: data kept in the form of {section.Content.FormatName}");
             return;
         }
 

@@ -31,6 +31,9 @@ internal sealed partial class DxfTagReader : FieldReader
         _position = _binary == BinaryLayout.None ? SkipByteOrderMark(data) : BinaryTags.Sentinel.Length;
     }
 
+    /// <summary>Gets or sets the handle of the object that is being read; 0 where none was read yet.</summary>
+    internal ulong CurrentHandle { get; set; }
+
     /// <summary>Gets whether the file is binary.</summary>
     internal bool IsBinary => _binary != BinaryLayout.None;
 
@@ -104,22 +107,27 @@ internal sealed partial class DxfTagReader : FieldReader
         }
         else if (!FastDouble.TryParse(Trimmed(), out value))
         {
-            throw NotANumber("number");
+            throw NotA(LoadDefectCode.BadNumber, "number");
         }
 
-        return double.IsFinite(value) ? value : throw Fail($"group code {Code} has the value {ValueText()}; "
-            + "a finite number was expected");
+        return double.IsFinite(value) ? value : throw Fail(
+            LoadDefectCode.NotFinite, $"group code {Code} has the value {ValueText()}; a finite number was expected");
     }
 
     internal override double GetAngle() => GetDouble();
 
+    // Some programs write colours and flags as unsigned integers.
     internal override int GetInt()
     {
         long value = GetLong();
-        return unchecked((int)value);
+        return value is >= int.MinValue and <= uint.MaxValue ? unchecked((int)value) : throw TooLarge(32);
     }
 
-    internal override short GetShort() => unchecked((short)GetLong());
+    internal override short GetShort()
+    {
+        long value = GetLong();
+        return value is >= short.MinValue and <= ushort.MaxValue ? unchecked((short)value) : throw TooLarge(16);
+    }
 
     internal override long GetLong()
     {
@@ -134,10 +142,10 @@ internal sealed partial class DxfTagReader : FieldReader
             return value;
         }
 
-        // Some programs write whole numbers with a fraction of zero or a sign.
-        return FastDouble.TryParse(text, out double number) && Math.Abs(number) < 9e18
+        // Some programs write integers with a fraction of zero or a sign.
+        return FastDouble.TryParse(text, out double number) && Math.Abs(number) < 9e18 && number == Math.Floor(number)
             ? (long)number
-            : throw NotANumber("whole number");
+            : throw NotA(LoadDefectCode.BadInteger, "whole number");
     }
 
     /// <summary>Reads how many parts follow; a count that the rest of the file cannot hold is damage.</summary>
@@ -147,7 +155,8 @@ internal sealed partial class DxfTagReader : FieldReader
         long count = GetLong();
         return count >= 0 && count <= (Remaining / (IsBinary ? 2 : smallestTag)) + 1
             ? (int)count
-            : throw Fail($"group code {Code} announces {count} parts, but only {Remaining} bytes follow");
+            : throw Fail(
+                LoadDefectCode.CountTooLarge, $"group code {Code} announces {count} parts, but only {Remaining} bytes follow");
     }
 
     internal override ulong GetHandle()
@@ -158,13 +167,15 @@ internal sealed partial class DxfTagReader : FieldReader
             return value;
         }
 
-        return text.IsEmpty ? 0UL : throw Fail($"group code {Code} has the value '{ValueText()}'; a handle, which is a "
-            + "hexadecimal number, was expected");
+        return text.IsEmpty ? 0UL : throw Fail(
+            LoadDefectCode.BadHandle,
+            $"group code {Code} has the value '{Shortened(ValueText())}'; a handle, which is a hexadecimal number, was "
+                + "expected");
     }
 
     internal override string GetHandleText() => GetString();
 
-    internal override ImageLoadException BadValue(string cause) => Fail(cause);
+    internal override ImageLoadException BadValue(string cause) => Fail(LoadDefectCode.BadValue, cause);
 
     internal override byte[] AppendBinary(byte[] before)
     {
@@ -177,7 +188,8 @@ internal sealed partial class DxfTagReader : FieldReader
         }
         catch (FormatException)
         {
-            throw Fail($"group code {Code} holds bytes that are not written in pairs of hexadecimal digits");
+            throw Fail(
+                LoadDefectCode.BadBinary, $"group code {Code} holds bytes that are not written in pairs of hexadecimal digits");
         }
 
         return [.. before, .. chunk];
@@ -187,12 +199,12 @@ internal sealed partial class DxfTagReader : FieldReader
     internal override CadCodeValue ToCodeValue() => new(Code, ValueText());
 
     /// <summary>Describes damage at the current tag.</summary>
-    internal ImageLoadException Fail(string cause)
+    internal ImageLoadException Fail(LoadDefectCode code, string cause)
     {
         string place = IsBinary
             ? $"byte {_tagOffset.ToString(CultureInfo.InvariantCulture)}"
             : $"line {_line.ToString(CultureInfo.InvariantCulture)}";
-        return new ImageLoadException($"'{_fileName}', {place}: {cause}.");
+        return new ImageLoadException(new LoadDefect(code, _fileName, place, CurrentHandle, cause));
     }
 
     private static int SkipByteOrderMark(byte[] data)
@@ -218,7 +230,8 @@ internal sealed partial class DxfTagReader : FieldReader
         Code = code;
         if (_position >= _data.Length)
         {
-            throw Fail($"the file ends behind group code {code}; its value was expected");
+            throw Fail(
+                LoadDefectCode.EndsWithinTag, $"the file ends after group code {code}; its value was expected");
         }
 
         (_start, _length) = TakeLine();
@@ -235,7 +248,7 @@ internal sealed partial class DxfTagReader : FieldReader
         }
 
         (_start, _length) = (start, Math.Min(length, 40));
-        throw Fail($"'{ValueText()}' is no group code; a whole number was expected");
+        throw Fail(LoadDefectCode.BadGroupCode, $"'{Shortened(ValueText())}' is no group code; a whole number was expected");
     }
 
     private (int Start, int Length) TakeLine()
@@ -286,7 +299,7 @@ internal sealed partial class DxfTagReader : FieldReader
         if (!BinaryTags.TryTake(_data, _binary, ref _position, out int code, out _start, out _length))
         {
             _position = _data.Length;
-            throw Fail("the file ends within a tag");
+            throw Fail(LoadDefectCode.EndsWithinTag, "the file ends within a tag");
         }
 
         Code = code;
@@ -299,9 +312,16 @@ internal sealed partial class DxfTagReader : FieldReader
         return text.Length > 0 && (text[0] <= ' ' || text[^1] <= ' ') ? text.Trim(" \t\0"u8) : text;
     }
 
-    private ImageLoadException NotANumber(string kind)
+    private ImageLoadException TooLarge(int bits)
     {
-        return Fail($"group code {Code} has the value '{Shortened(ValueText())}'; a {kind} was expected");
+        return Fail(
+            LoadDefectCode.OutOfRange,
+            $"group code {Code} has the value '{Shortened(ValueText())}'; an integer of {bits} bits was expected");
+    }
+
+    private ImageLoadException NotA(LoadDefectCode defect, string kind)
+    {
+        return Fail(defect, $"group code {Code} has the value '{Shortened(ValueText())}'; a {kind} was expected");
     }
 
     private static string Shortened(string text) => text.Length > 60 ? text[..60] + "…" : text;

@@ -83,6 +83,10 @@ internal sealed class MemoryExchange(string subject) : ObjectExchange
 
     internal override void Lines(List<string> lines) => Items(1, lines, Count(0, lines.Count));
 
+    internal override void Brace(int code, string text)
+    {
+    }
+
     internal override void Tags(IList<CadCodeValue> tags)
     {
         int count = Count(0, tags.Count);

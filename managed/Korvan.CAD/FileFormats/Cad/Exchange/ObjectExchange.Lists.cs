@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -55,6 +56,15 @@ internal abstract partial class ObjectExchange
         for (int i = 0; i < count; i++)
         {
             Point(code, Item(points, i));
+        }
+    }
+
+    internal void Parts<T>(IList<T> parts, int count, Action<T, ObjectExchange> exchange)
+        where T : class, new()
+    {
+        for (int i = 0; i < count; i++)
+        {
+            exchange(Item(parts, i), this);
         }
     }
 

@@ -74,6 +74,9 @@ internal abstract partial class ObjectExchange
     /// <summary>Carries lines of any length.</summary>
     internal abstract void Lines(List<string> lines);
 
+    /// <summary>Begins or ends a part of an object, which text files enclose in braces.</summary>
+    internal abstract void Brace(int code, string text);
+
     /// <summary>Carries fields whose types their group codes tell.</summary>
     internal abstract void Tags(IList<CadCodeValue> tags);
 }

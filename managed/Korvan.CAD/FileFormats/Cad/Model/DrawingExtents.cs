@@ -6,19 +6,33 @@ using Korvan.CAD.Geometry;
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
 /// <summary>The space that the entities of a drawing take.</summary>
-internal sealed class DrawingExtents(CadDrawing drawing)
+internal sealed class DrawingExtents : IDisposable
 {
     // Blocks within blocks multiply; beyond this many entities their boxes have to do.
-    private const int MostTurned = 1 << 18;
+    private const int MaxRotated = 1 << 18;
 
+    private readonly CadDrawing _drawing;
+    private readonly TextBoxes _texts;
     private readonly Dictionary<string, Extents> _blocks = new(StringComparer.OrdinalIgnoreCase);
     private readonly HashSet<string> _open = new(StringComparer.OrdinalIgnoreCase);
-    private int _turned;
+    private int _rotated;
 
-    internal static (Cad3DPoint Min, Cad3DPoint Max) OfModel(CadDrawing drawing)
+    private DrawingExtents(CadDrawing drawing, Func<ITextMeasurer?>? createMeasurer)
+    {
+        _drawing = drawing;
+        _texts = new TextBoxes(createMeasurer);
+    }
+
+    /// <summary>The corners of model space.</summary>
+    /// <param name="drawing">The drawing.</param>
+    /// <param name="createMeasurer">Makes what measures texts; without it their boxes are approximate.</param>
+    /// <returns>The lowest and the highest corner.</returns>
+    internal static (Cad3DPoint Min, Cad3DPoint Max) OfModel(CadDrawing drawing, Func<ITextMeasurer?>? createMeasurer)
     {
         Extents extents = new();
-        new DrawingExtents(drawing).AddAll(drawing.Entities.ItemsOf(), extents);
+        using var measure = new DrawingExtents(drawing, createMeasurer);
+        measure.AddAll(drawing.Entities.ItemsOf(), extents, isBlock: false);
+        measure._texts.Finish(extents);
         return (extents.Min, extents.Max);
     }
 
@@ -27,53 +41,44 @@ internal sealed class DrawingExtents(CadDrawing drawing)
         return (int)Math.Clamp(Math.Ceiling(to - from), 0, int.MaxValue);
     }
 
-    private void AddAll(List<CadEntityBase> entities, Extents extents)
+    public void Dispose() => _texts.Dispose();
+
+    private void AddAll(List<CadEntityBase> entities, Extents extents, bool isBlock)
     {
+        var sink = new Sink(this, extents, isBlock);
         foreach (CadEntityBase entity in entities)
         {
-            switch (entity)
-            {
-                case CadInsertObject insert:
-                    AddInsert(insert, extents);
-                    break;
-                case CadDimensionBase { BlockName.Length: > 0 } dimension:
-                    AddBlock(dimension.BlockName, extents.Map, extents);
-                    break;
-                default:
-                    EntityExtents.Add(entity, extents);
-                    break;
-            }
+            EntityGeometry.Emit(entity, sink);
         }
     }
 
     private void AddInsert(CadInsertObject insert, Extents extents)
     {
-        if (drawing.BlockEntities.Find(insert.Name) is not { } block)
+        if (_drawing.BlockEntities.Find(insert.Name) is not { } block)
         {
             return;
         }
 
         (Cad3DPoint place, Cad3DPoint origin) = (insert.InsertionPoint, block.BasePoint);
-        Affine3 placed = extents.Map * EntityExtents.SystemOf(insert.ExtrusionDirection)
-            * Affine3.Translation(new Vec3(place.X, place.Y, place.Z))
-            * Affine3.RotationZ(insert.RotationAngle * Math.PI / 180);
+        Affine3 placed = extents.Map * insert.ExtrusionDirection.ToPlane()
+            * Affine3.Translation(place.ToVec3()) * Affine3.RotationZ(Angles.Radians(insert.RotationAngle));
         Affine3 inner = Affine3.Scaling(insert.ScaleX, insert.ScaleY, insert.ScaleZ)
-            * Affine3.Translation(new Vec3(-origin.X, -origin.Y, -origin.Z));
+            * Affine3.Translation(-origin.ToVec3());
         foreach ((double column, double row) in Corners(insert))
         {
             AddBlock(insert.Name, placed * Affine3.Translation(new Vec3(column, row, 0)) * inner, extents);
         }
     }
 
-    // A box that is turned askew is larger than what it holds: then the entities themselves are turned.
+    // A rotated box is larger than what it holds: then the entities themselves are rotated.
     private void AddBlock(string name, Affine3 map, Extents extents)
     {
-        if (drawing.BlockEntities.Find(name) is not { } block)
+        if (_drawing.BlockEntities.Find(name) is not { } block)
         {
             return;
         }
 
-        bool boxed = IsUpright(map) || _turned > MostTurned || !_open.Add(name);
+        bool boxed = IsAxisAligned(map) || _rotated > MaxRotated || !_open.Add(name);
         if (boxed)
         {
             extents.Add(BlockExtents(name), map);
@@ -82,18 +87,18 @@ internal sealed class DrawingExtents(CadDrawing drawing)
 
         Affine3 outer = extents.Map;
         extents.Map = map;
-        _turned += block.Entities.Count;
-        AddAll(block.Entities.ItemsOf(), extents);
+        _rotated += block.Entities.Count;
+        AddAll(block.Entities.ItemsOf(), extents, isBlock: true);
         extents.Map = outer;
         _open.Remove(name);
     }
 
-    private static bool IsUpright(Affine3 map) => IsAlongAxis(map.AxisX) && IsAlongAxis(map.AxisY) && IsAlongAxis(map.AxisZ);
+    private static bool IsAxisAligned(Affine3 map) => IsAlongAxis(map.AxisX) && IsAlongAxis(map.AxisY) && IsAlongAxis(map.AxisZ);
 
-    private static bool IsAlongAxis(Vec3 way)
+    private static bool IsAlongAxis(Vec3 axis)
     {
-        double longest = Math.Max(Math.Abs(way.X), Math.Max(Math.Abs(way.Y), Math.Abs(way.Z)));
-        return Math.Abs(way.X) + Math.Abs(way.Y) + Math.Abs(way.Z) - longest <= 1e-12 * longest;
+        double longest = Math.Max(Math.Abs(axis.X), Math.Max(Math.Abs(axis.Y), Math.Abs(axis.Z)));
+        return Math.Abs(axis.X) + Math.Abs(axis.Y) + Math.Abs(axis.Z) - longest <= 1e-12 * longest;
     }
 
     private static IEnumerable<(double Column, double Row)> Corners(CadInsertObject insert)
@@ -116,15 +121,37 @@ internal sealed class DrawingExtents(CadDrawing drawing)
             return known;
         }
 
-        // Nothing stands for the block until it is measured: one that inserts itself adds nothing more.
+        // Empty until the block is measured: one that inserts itself adds nothing more.
         _blocks.Add(name, new Extents());
         Extents extents = new();
-        if (drawing.BlockEntities.Find(name) is { } block)
+        if (_drawing.BlockEntities.Find(name) is { } block)
         {
-            AddAll(block.Entities.ItemsOf(), extents);
+            AddAll(block.Entities.ItemsOf(), extents, isBlock: true);
+            _texts.Finish(extents);
         }
 
         _blocks[name] = extents;
         return extents;
+    }
+
+    private sealed class Sink(DrawingExtents owner, Extents extents, bool isBlock) : EntityExtents(extents, owner._texts)
+    {
+        // Attributes of a reference stand in for the definitions of its block.
+        protected override bool IsShown(in TextLine text) =>
+            !text.IsHidden && !(isBlock && text.Role == TextRole.AttributeDefinition && !text.IsConstant);
+
+        protected override void AddReference(CadInsertObject insert)
+        {
+            owner.AddInsert(insert, Extents);
+            insert.Attributes.ForEach(attribute => EntityGeometry.Emit(attribute, this));
+        }
+
+        protected override void AddDimension(CadDimensionBase dimension)
+        {
+            if (dimension.BlockName.Length > 0)
+            {
+                owner.AddBlock(dimension.BlockName, Extents.Map, Extents);
+            }
+        }
     }
 }

@@ -1,6 +1,7 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
@@ -27,36 +28,38 @@ internal static class DrawingStrings
 
     private static void AddAll(List<CadEntityBase> entities, List<string> texts)
     {
+        var sink = new Sink(texts);
         foreach (CadEntityBase entity in entities)
         {
-            string? text = TextOf(entity);
+            EntityGeometry.Emit(entity, sink);
+        }
+    }
+
+    private sealed class Sink(List<string> texts) : IGeometrySink
+    {
+        void IGeometrySink.Text(in TextLine text) => Add(PlainText.FromText(text.Content));
+
+        void IGeometrySink.Paragraphs(CadMText text, in Affine3 plane) => Add(PlainText.FromMText(text.Text));
+
+        void IGeometrySink.Tolerance(CadTolerance tolerance, in Affine3 plane) => Add(tolerance.VisualRepresentation);
+
+        void IGeometrySink.Dimension(CadDimensionBase dimension)
+        {
+            if (dimension.Text is not ("" or "<>"))
+            {
+                Add(PlainText.FromMText(dimension.Text));
+            }
+        }
+
+        void IGeometrySink.BlockReference(CadInsertObject insert) =>
+            insert.Attributes.ForEach(attribute => Add(PlainText.FromText(attribute.DefaultValue)));
+
+        private void Add(string text)
+        {
             if (!string.IsNullOrWhiteSpace(text))
             {
                 texts.Add(text);
             }
-
-            foreach (CadAttrib attribute in (entity as CadInsertObject)?.Attributes ?? [])
-            {
-                AddNonBlank(PlainText.FromText(attribute.DefaultValue), texts);
-            }
         }
     }
-
-    private static void AddNonBlank(string text, List<string> texts)
-    {
-        if (!string.IsNullOrWhiteSpace(text))
-        {
-            texts.Add(text);
-        }
-    }
-
-    private static string? TextOf(CadEntityBase entity) => entity switch
-    {
-        CadAttDef definition => PlainText.FromText(definition.DefaultValue),
-        CadText text => PlainText.FromText(text.DefaultValue),
-        CadMText text => PlainText.FromMText(text.Text),
-        CadDimensionBase { Text: not ("" or "<>") } dimension => PlainText.FromMText(dimension.Text),
-        CadTolerance tolerance => tolerance.VisualRepresentation,
-        _ => null,
-    };
 }

@@ -27,6 +27,15 @@ internal sealed class Extents
 
     internal void Add(Cad3DPoint point) => Put(Map.Point(new Vec3(point.X, point.Y, point.Z)));
 
+    /// <summary>Adds a point that is moved already.</summary>
+    internal void AddMapped(Vec3 point) => Put(point);
+
+    /// <summary>Whether the box holds everything that lies within a reach of a point.</summary>
+    internal bool Contains(Vec3 point, Vec3 reach) =>
+        point.X - reach.X >= _minX && point.X + reach.X <= _maxX
+            && point.Y - reach.Y >= _minY && point.Y + reach.Y <= _maxY
+            && point.Z - reach.Z >= _minZ && point.Z + reach.Z <= _maxZ;
+
     /// <summary>Adds a piece of an ellipse: its ends, and where it turns back along X, Y or Z.</summary>
     /// <param name="center">The centre.</param>
     /// <param name="u">The way from the centre to the point of angle 0.</param>

@@ -40,47 +40,6 @@ public partial class CadMLineStyleObject : CadObjectBase
     public double EndAngle { get; set; } = 90;
 
     /// <summary>Gets the lines of the style. The list is live.</summary>
+    [CadRepeated(49, Count = 71)]
     public IList<CadMLineStyleElement> Elements { get; } = new CheckedList<CadMLineStyleElement>("elements");
-
-    partial void OnReadField(int code, FieldReader reader, ref bool taken)
-    {
-        taken = true;
-        switch (code)
-        {
-            case 71:
-                break;
-            case 49:
-                Elements.Add(new CadMLineStyleElement { Offset = reader.GetDouble() });
-                break;
-            case 62 when Elements.Count > 0:
-                Elements[^1].ColorId = reader.GetShort();
-                break;
-            case 420 when Elements.Count > 0:
-                Elements[^1].ColorValue = reader.GetInt();
-                break;
-            case 6 when Elements.Count > 0:
-                Elements[^1].LineTypeName = reader.GetString();
-                break;
-            default:
-                taken = false;
-                break;
-        }
-    }
-
-    partial void OnExchange(ObjectExchange fields)
-    {
-        int count = fields.Count(71, Elements.Count);
-        for (int i = 0; i < count; i++)
-        {
-            CadMLineStyleElement element = fields.Item(Elements, i);
-            element.Offset = fields.Double(49, element.Offset);
-            element.ColorId = fields.Color(62, element.ColorId);
-            if (fields.Includes(2004, element.ColorValue >= 0))
-            {
-                element.ColorValue = fields.Int32(420, element.ColorValue);
-            }
-
-            element.LineTypeName = fields.Name(6, SymbolTable.LineType, element.LineTypeName);
-        }
-    }
 }

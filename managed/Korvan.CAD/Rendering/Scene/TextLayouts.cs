@@ -1,0 +1,59 @@
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>Texts of the model with what their styles and the header say of them.</summary>
+internal static class TextLayouts
+{
+    private const double MaxLineSpacing = 100;
+
+    internal static SingleLine LineOf(in TextLine text, SceneTables tables)
+    {
+        StyleInfo style = tables.Style(text.StyleName);
+        double fallback = style.FixedHeight > 0 ? style.FixedHeight : tables.Settings.TextSize;
+        return new SingleLine
+        {
+            Text = text.Shown,
+            Font = style.Font,
+            First = text.First,
+            Second = text.Second,
+            Height = text.Height > 0 ? text.Height : fallback,
+            WidthFactor = text.WidthFactor,
+            Rotation = text.Rotation,
+            Oblique = text.Oblique,
+            Backward = text.IsBackward,
+            UpsideDown = text.IsUpsideDown,
+            Horizontal = text.Horizontal,
+            Vertical = text.Vertical,
+            ToleranceSymbols = style.IsToleranceFont,
+        };
+    }
+
+    internal static double HeightOf(CadMText text, SceneTables tables) =>
+        text.InitialTextHeight > 0 ? text.InitialTextHeight : tables.Settings.TextSize;
+
+    internal static MTextLayout LayoutOf(CadMText text, SceneTables tables, TextEngine engine)
+    {
+        double height = HeightOf(text, tables);
+        MTextFormat start = StartFormat(tables.Style(text.TextStyleName), height);
+        double spacing = text.LineSpacingFactor is > 0 and < MaxLineSpacing ? text.LineSpacingFactor : 1;
+        MTextColumns columns = MTextColumns.Read(text);
+        var frame = new MTextFrame(
+            text.ReferenceRectangleWidth,
+            (int)text.AttachmentPoint,
+            spacing,
+            text.LineSpacingStyle == CadLineSpacing.Exact,
+            columns.Count,
+            columns.Width,
+            columns.Gutter,
+            columns.Height);
+        return MTextLayout.Create(engine, MTextParser.Parse(text.Text, start), frame, height);
+    }
+
+    internal static MTextFormat StartFormat(StyleInfo style, double height) => new(
+        style.Font, height, style.WidthFactor, style.ObliqueDegrees, 1, default, StackAlign.Baseline, false, false, false,
+        style.IsToleranceFont);
+}

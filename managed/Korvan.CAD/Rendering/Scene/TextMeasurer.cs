@@ -1,0 +1,45 @@
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <summary>Measures texts by painting them where nobody looks.</summary>
+internal sealed class TextMeasurer : ITextMeasurer
+{
+    private readonly SceneTables _tables;
+    private readonly TextEngine _engine;
+
+    private TextMeasurer(SceneTables tables, TextEngine engine) => (_tables, _engine) = (tables, engine);
+
+    /// <summary>A measurer with the fonts of a drawing; null where there are no libraries for fonts.</summary>
+    internal static TextMeasurer? TryCreate(CadDrawing drawing)
+    {
+        try
+        {
+            return new TextMeasurer(SceneReader.ReadTables(drawing), new TextEngine());
+        }
+        catch (RenderException)
+        {
+            return null;
+        }
+    }
+
+    public Bounds2 Measure(in TextLine text)
+    {
+        var canvas = new Canvas(new DrawingList(), _engine);
+        TextPainter.Draw(canvas, TextLayouts.LineOf(text, _tables), Affine3.Identity, default);
+        return canvas.List.Bounds;
+    }
+
+    public Bounds2 Measure(CadMText text)
+    {
+        (double left, double bottom, double right, double top) = TextLayouts.LayoutOf(text, _tables, _engine).Box;
+        return Bounds2.Of(left, bottom, right, top);
+    }
+
+    public void Dispose() => _engine.Dispose();
+}
