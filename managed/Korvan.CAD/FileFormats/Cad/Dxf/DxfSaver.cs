@@ -38,7 +38,6 @@ internal sealed class DxfSaver
     /// <returns>What was left out because it is kept in the form of another format.</returns>
     internal static IReadOnlyList<string> Save(CadDrawing drawing, DxfOptions options, Stream stream)
     {
-        options.VerifyHonoured(OutputKind.Model);
         CadAcadVersion version = ChooseVersion(drawing, options.Version);
         DrawingIntegrity.Prepare(drawing, DrawingRelease.Year(version));
         DxfSaver saver = new(drawing, version, stream);

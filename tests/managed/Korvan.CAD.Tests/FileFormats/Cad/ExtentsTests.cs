@@ -37,7 +37,7 @@ public class ExtentsTests
         { "a solid seen from below", new CadSolid { FirstPoint = P(1, 0), SecondPoint = P(2, 0), ThirdPoint = P(1, 1), FourthPoint = P(2, 1), ExtrusionDirection = P(0, 0, -1) }, [-2, 0, -1, 1] },
         { "a wipeout on skew axes", new CadWipeout { InsertionPoint = P(1, 1), VectorU = P(2, 1), VectorV = P(-1, 2), ImageSize = new(1, 1) }, [0, 1, 3, 4] },
         { "a leader", Leader(P(1, 5), P(-2, 3)), [-2, 3, 1, 5] },
-        { "a centred text alone at its point", new CadText { DefaultValue = "x", HorizontalAlignment = 1, SecondAlignment = P(50, 60) }, [50, 60, 50, 60] },
+        { "a text without characters at its point", new CadText { DefaultValue = "", HorizontalAlignment = 1, SecondAlignment = P(50, 60) }, [50, 60, 50, 60] },
         { "a hatch within two half circles", Hatch(HalfCircles()), [-2, -2, 2, 2] },
         { "a hatch within an arc and its chord", Hatch(Edges(
             new CadBoundaryPathCircularArc { CenterPoint = new(0, 0), Radius = 2, StartAngle = 0, EndAngle = 180 },
