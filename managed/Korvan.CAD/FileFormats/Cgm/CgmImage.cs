@@ -1,15 +1,12 @@
 using System;
-using System.Collections.Generic;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.Binding;
-using Korvan.CAD.CadExceptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Metafile;
 using Korvan.CAD.Rendering.Scene;
 

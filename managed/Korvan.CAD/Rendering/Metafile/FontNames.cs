@@ -1,7 +1,6 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Metafile;
 

@@ -1,7 +1,6 @@
 using System;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
-using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Geometry;
 

@@ -2,14 +2,14 @@ using System;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
 
-/// <summary>A cubic Bézier curve by its four control points.</summary>
+/// <summary>A cubic Bézier curve.</summary>
 public sealed class BezierCurve
 {
     /// <summary>Creates a curve.</summary>
-    /// <param name="start">Where it begins.</param>
-    /// <param name="firstControl">Where it goes first.</param>
-    /// <param name="secondControl">Where it comes from last.</param>
-    /// <param name="end">Where it ends.</param>
+    /// <param name="start">The start point.</param>
+    /// <param name="firstControl">The first control point.</param>
+    /// <param name="secondControl">The second control point.</param>
+    /// <param name="end">The end point.</param>
     public BezierCurve(CgmPoint start, CgmPoint firstControl, CgmPoint secondControl, CgmPoint end)
     {
         Start = start ?? throw new ArgumentNullException(null, "start must not be None.");
@@ -18,16 +18,16 @@ public sealed class BezierCurve
         End = end ?? throw new ArgumentNullException(null, "end must not be None.");
     }
 
-    /// <summary>Gets where the curve begins.</summary>
+    /// <summary>Gets the start point.</summary>
     public CgmPoint Start { get; }
 
-    /// <summary>Gets where the curve goes first.</summary>
+    /// <summary>Gets the first control point.</summary>
     public CgmPoint FirstControl { get; }
 
-    /// <summary>Gets where the curve comes from last.</summary>
+    /// <summary>Gets the second control point.</summary>
     public CgmPoint SecondControl { get; }
 
-    /// <summary>Gets where the curve ends.</summary>
+    /// <summary>Gets the end point.</summary>
     public CgmPoint End { get; }
 
     /// <inheritdoc/>

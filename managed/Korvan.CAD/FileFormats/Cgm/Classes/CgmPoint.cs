@@ -11,8 +11,8 @@ public sealed class CgmPoint : IEquatable<CgmPoint>
     }
 
     /// <summary>Creates a point.</summary>
-    /// <param name="x">The abscissa.</param>
-    /// <param name="y">The ordinate.</param>
+    /// <param name="x">The X coordinate.</param>
+    /// <param name="y">The Y coordinate.</param>
     public CgmPoint(double x, double y)
     {
         X = x;

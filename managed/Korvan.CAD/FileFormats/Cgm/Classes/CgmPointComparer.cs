@@ -1,5 +1,4 @@
 using System;
-using System.Collections.Generic;
 using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
@@ -7,13 +6,13 @@ namespace Korvan.CAD.FileFormats.Cgm.Classes;
 /// <summary>Compares points with a tolerance.</summary>
 public sealed class CgmPointComparer
 {
-    /// <summary>Creates a comparer for which only equal coordinates are equal.</summary>
+    /// <summary>Creates a comparer without tolerance.</summary>
     public CgmPointComparer()
     {
     }
 
     /// <summary>Creates a comparer.</summary>
-    /// <param name="tolerance">The largest difference of coordinates that counts as none; not negative.</param>
+    /// <param name="tolerance">The largest difference of coordinates that is ignored; not negative.</param>
     public CgmPointComparer(double tolerance)
     {
         Verify.NotNegative(tolerance);
@@ -26,7 +25,7 @@ public sealed class CgmPointComparer
     /// <summary>Orders points by X, those of the same X by Y.</summary>
     /// <param name="first">A point.</param>
     /// <param name="second">Another point.</param>
-    /// <returns>-1, 0 or 1, as the first comes before the second, is the same or comes behind it.</returns>
+    /// <returns>-1, 0 or 1, as the first is before, equal to or after the second.</returns>
     public int Compare(CgmPoint first, CgmPoint second)
     {
         Verify.NotNull(first);

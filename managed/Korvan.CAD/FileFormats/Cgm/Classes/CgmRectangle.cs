@@ -7,10 +7,10 @@ namespace Korvan.CAD.FileFormats.Cgm.Classes;
 public struct CgmRectangle : IEquatable<CgmRectangle>
 {
     /// <summary>Creates a rectangle.</summary>
-    /// <param name="x1">The abscissa of the first corner.</param>
-    /// <param name="y1">The ordinate of the first corner.</param>
-    /// <param name="x2">The abscissa of the second corner.</param>
-    /// <param name="y2">The ordinate of the second corner.</param>
+    /// <param name="x1">X of the first corner.</param>
+    /// <param name="y1">Y of the first corner.</param>
+    /// <param name="x2">X of the second corner.</param>
+    /// <param name="y2">Y of the second corner.</param>
     public CgmRectangle(double x1, double y1, double x2, double y2)
     {
         X1 = x1;
@@ -37,10 +37,10 @@ public struct CgmRectangle : IEquatable<CgmRectangle>
     /// <summary>Gets the height, not negative.</summary>
     public readonly double Height => Math.Abs(Y2 - Y1);
 
-    /// <summary>Compares two rectangles corner by corner.</summary>
+    /// <summary>Compares the corners of two rectangles.</summary>
     public static bool operator ==(CgmRectangle left, CgmRectangle right) => left.Equals(right);
 
-    /// <summary>Compares two rectangles corner by corner.</summary>
+    /// <summary>Compares the corners of two rectangles.</summary>
     public static bool operator !=(CgmRectangle left, CgmRectangle right) => !left.Equals(right);
 
     /// <summary>Returns whether both corners are the same.</summary>

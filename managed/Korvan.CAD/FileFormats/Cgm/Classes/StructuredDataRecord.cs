@@ -82,7 +82,7 @@ public sealed class StructuredDataRecord
     {
         /// <summary>Creates a member.</summary>
         /// <param name="type">The type of its values.</param>
-        /// <param name="values">The values: numbers as int or double, texts, colours or records.</param>
+        /// <param name="values">The values: numbers as int or double, strings, colours or records.</param>
         public Member(StructuredDataType type, IEnumerable<object> values)
         {
             Type = type;

@@ -1,4 +1,3 @@
-using System;
 using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
@@ -13,8 +12,8 @@ public sealed class ViewportPoint
     }
 
     /// <summary>Creates a point.</summary>
-    /// <param name="first">The abscissa.</param>
-    /// <param name="second">The ordinate.</param>
+    /// <param name="first">The X coordinate.</param>
+    /// <param name="second">The Y coordinate.</param>
     public ViewportPoint(VC first, VC second)
     {
         Verify.NotNull(first);

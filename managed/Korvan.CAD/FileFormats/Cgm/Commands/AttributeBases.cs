@@ -1,6 +1,4 @@
 using Korvan.CAD.FileFormats.Cgm.Classes;
-using Korvan.CAD.FileFormats.Cgm.Elements;
-using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 

@@ -3,13 +3,14 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
+#pragma warning disable CS9113 // Arguments are read by the source generator alone.
+
 /// <summary>
 /// Declares a command. The constructors, the exchange of parameters and the text form are written at compile time from
 /// the attributes of its properties, in their order; a method that the class declares itself is not. Without arguments
 /// the attribute declares a base of commands.
 /// </summary>
 [AttributeUsage(AttributeTargets.Class)]
-#pragma warning disable CS9113 // Arguments are read by the source generator alone.
 internal sealed class CgmCommandAttribute : Attribute
 {
     internal CgmCommandAttribute()

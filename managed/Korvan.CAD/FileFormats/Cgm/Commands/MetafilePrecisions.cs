@@ -1,6 +1,5 @@
 using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
-using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 

@@ -65,7 +65,8 @@ public class BinaryReaderTests
     public void Texts_are_read_in_their_character_set(string sets, string choice, string characters, string expected)
     {
         int length = Hex(characters).Length;
-        string text = $"{0x4080 + 7 + length:X4} 0000 0000 0001 {length:X2} {characters}" + (length % 2 == 0 ? "00" : "");
+        string padding = length % 2 == 0 ? "00" : "";
+        string text = $"{0x4080 + 7 + length:X4} 0000 0000 0001 {length:X2} {characters}{padding}";
         CgmFile file = Load(Metafile(sets, "0062 0000 0080", choice, text, "00A0"));
         Assert.Equal(expected, file.Commands.OfType<Text>().Single().Content);
     }
@@ -73,10 +74,9 @@ public class BinaryReaderTests
     [Fact]
     public void Texts_may_be_long_and_in_parts()
     {
-        string characters = string.Concat(Enumerable.Repeat("61", 300));
+        string run = string.Concat(Enumerable.Repeat("61", 300));
         CgmFile file = Load(
-            Metafile(
-                "007F 012F FF 012C", characters, "00", "007F 0133 FF 8064", characters[..200], "00C8", characters[200..], "00"));
+            Metafile("007F 012F FF 012C", run, "00", "007F 0133 FF 8064", run[..200], "00C8", run[200..], "00"));
         Assert.Equal([new string('a', 300), new string('a', 300)], file.PictureNames);
     }
 
