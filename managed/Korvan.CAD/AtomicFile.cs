@@ -221,8 +221,8 @@ internal static class AtomicFile
             }
         }
 
-        /// <summary>Gives a file without a name its final name if that is free, otherwise a temporary name for moving
-        /// it.</summary>
+        /// <summary>Assigns the final name to an unnamed file if it is free, otherwise a temporary name, from which it
+        /// is moved.</summary>
         internal void Name(bool overWrite)
         {
             if (_name is not null || PosixFile.TryName(Stream.SafeFileHandle, Target))

@@ -45,15 +45,15 @@ internal static unsafe partial class PosixFile
             : Kind.Absent;
     }
 
-    /// <summary>Opens a file without a name, of which nothing is left if the process ends; null if the file system has
-    /// no such files.</summary>
+    /// <summary>Opens an unnamed file, which disappears if the process ends; null if the file system has no such
+    /// files.</summary>
     internal static SafeFileHandle? OpenUnnamed(string folder)
     {
         int file = Open(folder, Unnamed | ReadWrite | CloseOnExec, ReadableByAll);
         return file < 0 ? null : new SafeFileHandle(file, true);
     }
 
-    /// <summary>Gives a file without a name a free one.</summary>
+    /// <summary>Assigns a name to an unnamed file if the name is free.</summary>
     /// <returns>Whether the name was free.</returns>
     internal static bool TryName(SafeFileHandle file, string path)
     {

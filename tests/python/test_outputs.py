@@ -233,7 +233,7 @@ class Pages(Outputs):
             self.assertLessEqual(sizes[-1] * 8, most * SIZE[0] * SIZE[1] + 8 * 1000)  # heads are beside the pixels
         self.assertEqual(sizes, sorted(set(sizes)))
         options.rd_opt_settings.bpp_max = 0.01
-        with self.assertRaisesRegex(RuntimeError, "At min_quality, 10, the picture takes"):
+        with self.assertRaisesRegex(RuntimeError, "At min_quality, 10, the image takes"):
             self.write("page.jpg", options)
 
     def test_what_was_not_drawn_is_told(self) -> None:

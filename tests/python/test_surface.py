@@ -286,7 +286,7 @@ class Entities(unittest.TestCase):
                 .set_direction(AnnotationDirection.LEFT | AnnotationDirection.BELOW).build())
         drawing.annotation_service.add(note)
         self.assertEqual(len(drawing.entities), 3)
-        with self.assertRaisesRegex(RuntimeError, "in a drawing already"):
+        with self.assertRaisesRegex(RuntimeError, "already belongs to a drawing"):
             drawing.annotation_service.add(note)
         again = reloaded(drawing)
         found, = again.annotation_service.get_annotations()
@@ -297,7 +297,7 @@ class Entities(unittest.TestCase):
         self.assertEqual(len(again.annotation_service.get_annotations_of(again.entities[0])), 1)
         self.assertTrue(again.annotation_service.remove(found))
         self.assertEqual((again.annotation_service.count, len(again.entities)), (0, 1))
-        with self.assertRaisesRegex(RuntimeError, "points to nothing"):
+        with self.assertRaisesRegex(RuntimeError, "has no target and no point"):
             AnnotationEntityBuilder("x").build()
 
 

@@ -276,7 +276,7 @@ class Sources(unittest.TestCase):
             self.assertEqual(file.tell(), 0)
         stream = io.BytesIO(CONTENT)
         stream.read()
-        with self.assertRaisesRegex(RuntimeError, f"nothing behind its position, {len(CONTENT)} bytes from the start"):
+        with self.assertRaisesRegex(RuntimeError, f"nothing after its position, {len(CONTENT)} bytes from the start"):
             cad.Image.load(stream)
 
 

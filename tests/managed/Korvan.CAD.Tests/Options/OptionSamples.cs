@@ -42,12 +42,9 @@ internal static class OptionSamples
             new CadCircle { CenterPoint = P(70, 40), Radius = 19, Thickness = 30, LayerName = "Walls" },
             new CadLine { FirstPoint = P(5, 60), SecondPoint = P(95, 60), LayerName = "Notes to self" },
             new CadText { DefaultValue = "Office g%", TextHeight = 9.3, FirstAlignment = P(8.3, 40.7), ColorId = 5 },
-            new Cad3DFace { FirstPoint = P(0, 0), SecondPoint = P(30, 0, 10), ThirdPoint = P(30, 20, 10),
-                FourthPoint = P(0, 20, 5), ColorId = 3 },
-            new Cad3DFace { FirstPoint = P(40, 50), SecondPoint = P(50, 50), ThirdPoint = P(50, 58),
-                FourthPoint = P(40, 58), ColorId = 7 },
-            new Cad3DFace { FirstPoint = P(55, 50), SecondPoint = P(60, 50), ThirdPoint = P(60, 55),
-                FourthPoint = P(55, 55), LayerName = "Notes to self" },
+            Face(P(0, 0), P(30, 0, 10), P(30, 20, 10), P(0, 20, 5), 3, "0"),
+            Face(P(40, 50), P(50, 50), P(50, 58), P(40, 58), 7, "0"),
+            Face(P(55, 50), P(60, 50), P(60, 55), P(55, 55), 256, "Notes to self"),
             Lines(),
             new CadRasterImage
             {
@@ -77,6 +74,20 @@ internal static class OptionSamples
         drawing.Save(file, new CgmOptions { VectorRasterizationOptions = page });
         file.Position = 0;
         return Image.Load(file);
+    }
+
+    private static Cad3DFace Face(
+        Cad3DPoint first, Cad3DPoint second, Cad3DPoint third, Cad3DPoint fourth, short color, string layer)
+    {
+        return new Cad3DFace
+        {
+            FirstPoint = first,
+            SecondPoint = second,
+            ThirdPoint = third,
+            FourthPoint = fourth,
+            ColorId = color,
+            LayerName = layer,
+        };
     }
 
     private static CadHatch Lines()

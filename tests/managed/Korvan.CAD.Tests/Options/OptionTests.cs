@@ -80,12 +80,13 @@ public partial class OptionTests
         using var image = Samples.Colors(12, 7);
         var options = new PngOptions
         {
-            Rotation = RotateFlipType.Rotate90FlipX, ResolutionSettings = new ResolutionSetting(50, 100),
+            Rotation = RotateFlipType.Rotate90FlipX,
+            ResolutionSettings = new ResolutionSetting(50, 100),
         };
-        using RasterCachedImage turned = Samples.Load(Samples.Save(image, options, ".png"));
+        using RasterCachedImage rotated = Samples.Load(Samples.Save(image, options, ".png"));
         image.RotateFlip(RotateFlipType.Rotate90FlipX);
-        Assert.Equal(image.LoadArgb32Pixels(image.Bounds), turned.LoadArgb32Pixels(turned.Bounds));
-        Assert.Equal((7, 12, 100.0), (turned.Width, turned.Height, Math.Round(turned.HorizontalResolution)));
+        Assert.Equal(image.LoadArgb32Pixels(image.Bounds), rotated.LoadArgb32Pixels(rotated.Bounds));
+        Assert.Equal((7, 12, 100.0), (rotated.Width, rotated.Height, Math.Round(rotated.HorizontalResolution)));
     }
 
     [Fact]

@@ -92,7 +92,9 @@ public class ChangeTests
         IfcPropertySingleValue4 free = new() { Name = "new" };
         IfcComplexProperty4 leading = new()
         {
-            Name = "leads elsewhere", UsageName = "u", HasProperties = new[] { foreign },
+            Name = "leads elsewhere",
+            UsageName = "u",
+            HasProperties = new[] { foreign },
         };
         string before = IfcText.Saved(image);
         Action change = what switch
