@@ -107,7 +107,7 @@ public class PropertyRoundTripTests
         }
     }
 
-    private static IEnumerable<Type> Concrete(Type parent) => parent.Assembly.GetExportedTypes()
+    internal static IEnumerable<Type> Concrete(Type parent) => parent.Assembly.GetExportedTypes()
         .Where(type => type.IsSubclassOf(parent) && !type.IsAbstract && type.GetConstructor([]) is not null);
 
     private static void Add(CadImage image, CadSymbolTableGroupCodes record)
@@ -143,7 +143,7 @@ public class PropertyRoundTripTests
         .Where(property => property.PropertyType.IsGenericType
             && property.PropertyType.GetInterface(nameof(IEnumerable)) is not null);
 
-    private static void Fill(object item)
+    internal static void Fill(object item)
     {
         int seed = 2;
         foreach (PropertyInfo property in Settable(item))
@@ -202,7 +202,7 @@ public class PropertyRoundTripTests
         _ => null,
     };
 
-    private static void Same(object expected, object actual)
+    internal static void Same(object expected, object actual)
     {
         Assert.Equal(expected.GetType(), actual.GetType());
         Assert.Equal(Describe(expected), Describe(actual));
