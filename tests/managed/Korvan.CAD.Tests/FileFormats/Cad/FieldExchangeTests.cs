@@ -13,7 +13,8 @@ namespace Korvan.CAD.Tests.FileFormats.Cad;
 /// <summary>Objects exchange their fields with any format, which learns from them all that it has to know.</summary>
 public class FieldExchangeTests
 {
-    public static IEnumerable<object[]> Types => new[] { typeof(CadEntityBase), typeof(CadObjectBase), typeof(CadSymbolTableGroupCodes) }
+    public static IEnumerable<object[]> Types => new[] { typeof(CadEntityBase), typeof(CadObjectBase),
+        typeof(CadSymbolTableGroupCodes) }
         .SelectMany(PropertyRoundTripTests.Concrete).Select(type => new object[] { type });
 
     [Theory]
@@ -70,14 +71,17 @@ public class FieldExchangeTests
     [Fact]
     public void Fields_come_in_declared_order_with_what_they_refer_to()
     {
-        CadLine line = new() { LayerName = "Walls", LineTypeName = "DASHED", ColorId = 3, Thickness = 2, SecondPoint = new Cad3DPoint(3, 4, 5) };
+        CadLine line = new() { LayerName = "Walls", LineTypeName = "DASHED", ColorId = 3, Thickness = 2,
+            SecondPoint = new Cad3DPoint(3, 4, 5) };
         Assert.Equal(
-            ["Subclass 100", "Name 6 LineType", "Name 8 Layer", "Color 62", "Subclass 100", "Point 10", "Point 20", "Point 30", "Point 11", "Point 21", "Point 31", "Double 39"],
+            ["Subclass 100", "Name 6 LineType", "Name 8 Layer", "Color 62", "Subclass 100", "Point 10", "Point 20",
+                "Point 30", "Point 11", "Point 21", "Point 31", "Double 39"],
             FieldLog.Of(line).Select(field => $"{field.Kind} {field.Code} {field.Target}".TrimEnd()));
         CadLeader leader = new() { DimensionStyleName = "D", AnnotationHandle = "2A", ColorToUse = 4 };
         Assert.Equal(
             ["Name 3 DimensionStyle", "Color 77", "Handle 340 HardPointer"],
-            FieldLog.Of(leader).Where(field => field.Code is 3 or 77 or 340).Select(field => $"{field.Kind} {field.Code} {field.Target}".TrimEnd()));
+            FieldLog.Of(leader).Where(field => field.Code is 3 or 77 or 340)
+                .Select(field => $"{field.Kind} {field.Code} {field.Target}".TrimEnd()));
     }
 
     [Fact]
@@ -89,7 +93,8 @@ public class FieldExchangeTests
             dictionary.Set("A", "2A");
             dictionary.Set("b", "2B");
             List<LoggedField> fields = FieldLog.Of(dictionary);
-            Assert.Equal([(code, role), (code, role)], fields.Where(field => field.Kind == "Handle").Select(field => (field.Code, (HandleRole)field.Target!)));
+            Assert.Equal([(code, role), (code, role)],
+                fields.Where(field => field.Kind == "Handle").Select(field => (field.Code, (HandleRole)field.Target!)));
             CadDictionary again = new();
             new FieldLogReader(fields).ReadInto(again);
             Assert.Equal(["A", "b"], again.Names);
@@ -105,7 +110,8 @@ public class FieldExchangeTests
         { "a coordinate of a point", new CadLine { FirstPoint = new Cad3DPoint(0, 0, double.NegativeInfinity) } },
         { "an item of a list", new CadSpline { KnotValues = { 0, double.NaN } } },
         { "a point of a list", new CadLwPolyline { Coordinates = { new Cad2DPoint(0, double.NaN) } } },
-        { "a part", new CadMultiLine { Vertices = { new CadMultiLineVectorBlock { Miter = new Cad3DPoint(double.NaN, 0, 0) } } } },
+        { "a part", new CadMultiLine { Vertices = { new CadMultiLineVectorBlock { Miter = new Cad3DPoint(double.NaN, 0,
+            0) } } } },
         { "a boundary path", new CadHatch { BoundaryPaths = { new CadHatchBoundaryPathContainer(
             new CadEdgeBoundaryPath { Edges = { new CadBoundaryPathCircularArc { Radius = double.NaN } } }) } } },
         { "a part of a part", LeaderAt(double.NaN) },
@@ -159,10 +165,12 @@ public class FieldExchangeTests
         "Angle" => field.Code is >= 50 and <= 58,
         "Int16" or "Color" => IsInt16(field.Code) || IsByte(field.Code) || IsInt32(field.Code),
         "Bool" or "Enum" or "Count" => IsInt16(field.Code) || IsByte(field.Code) || IsInt32(field.Code),
-        "Int32" => IsInt32(field.Code) || (IsInt16(field.Code) && field.Value is >= (int)short.MinValue and <= (int)ushort.MaxValue),
+        "Int32" => IsInt32(field.Code) || (IsInt16(field.Code)
+            && field.Value is >= (int)short.MinValue and <= (int)ushort.MaxValue),
         "Int64" => field.Code is >= 160 and <= 169,
         "Handle" => field.Code is (>= 320 and <= 369) or (>= 390 and <= 399),
-        "Name" or "Text" => !IsDouble(field.Code) && !IsInt16(field.Code) && !IsInt32(field.Code) && !IsByte(field.Code),
+        "Name" or "Text" => !IsDouble(field.Code) && !IsInt16(field.Code) && !IsInt32(field.Code)
+            && !IsByte(field.Code),
         _ => true,
     };
 
@@ -170,7 +178,8 @@ public class FieldExchangeTests
         code is (>= 10 and <= 59) or (>= 110 and <= 149) or (>= 210 and <= 239) or (>= 460 and <= 469);
 
     private static bool IsInt16(int code) =>
-        code is (>= 60 and <= 79) or (>= 170 and <= 179) or (>= 270 and <= 289) or (>= 370 and <= 389) or (>= 400 and <= 409);
+        code is (>= 60 and <= 79) or (>= 170 and <= 179) or (>= 270 and <= 289) or (>= 370 and <= 389)
+            or (>= 400 and <= 409);
 
     private static bool IsInt32(int code) => code is (>= 90 and <= 99) or (>= 420 and <= 429) or (>= 440 and <= 459);
 

@@ -109,7 +109,8 @@ internal sealed class FieldLogReader(List<LoggedField> fields) : FieldReader
             LoggedField field = fields[_next - 1];
             if (field.Kind == FieldLog.Marker)
             {
-                EnterSubclass((string)field.Value == CadInsertObject.GridMarker ? CadInsertObject.SingleMarker : (string)field.Value);
+                EnterSubclass((string)field.Value == CadInsertObject.GridMarker ? CadInsertObject.SingleMarker
+                    : (string)field.Value);
             }
             else if (!item.ReadField(field.Code, this))
             {
