@@ -30,8 +30,10 @@ public class KeptDataTests
         Assert.Empty(again.Drawing.RawSections);
         CadRenderResult result = Assert.IsType<CadRenderResult>(options.RenderResult);
         Assert.Equal(RenderErrorCode.EntityNotDrawn, result.RenderCode);
-        Assert.Equal(["GADGET", "LINE", "WIDGET", "section"], result.Failures.Select(failure => failure.Message.Split(' ')[0]).Order(System.StringComparer.Ordinal));
-        Assert.All(result.Failures, failure => Assert.Contains("data kept in the form of a test", failure.Message, System.StringComparison.Ordinal));
+        Assert.Equal(["GADGET", "LINE", "WIDGET", "section"],
+            result.Failures.Select(failure => failure.Message.Split(' ')[0]).Order(System.StringComparer.Ordinal));
+        Assert.All(result.Failures, failure => Assert.Contains("data kept in the form of a test", failure.Message,
+            System.StringComparison.Ordinal));
     }
 
     [Fact]
@@ -55,7 +57,8 @@ public class KeptDataTests
         clone.KeptTags!.Tags.Clear();
         clone.Embedded!.Clear();
         clone.XdataContainer.XdataEntities[0].Data[0].Value = "changed";
-        Assert.Equal((1, 2, "note"), (original.UnknownCodes.Length, original.Embedded!.Count, original.XdataContainer.XdataEntities[0].Data[0].Value));
+        Assert.Equal((1, 2, "note"), (original.UnknownCodes.Length, original.Embedded!.Count,
+            original.XdataContainer.XdataEntities[0].Data[0].Value));
         image.AddEntity(new RawEntity("WIDGET") { Kept = new KeptBits() });
         Assert.IsType<KeptBits>(image.Entities[1].Clone().Kept);
     }

@@ -21,16 +21,19 @@ public class PropertyRoundTripTests
     /// <summary>Properties that follow from the place or from one another.</summary>
     private static readonly string[] Derived =
     [
-        "ObjectHandle", "SoftOwner", "SpaceMode", "LayoutTabName", "TypeOfDimension", "AttributesFlag", "Flag", "VertexFlags", "IsOn", "IsFrozen", "IsLocked",
+        "ObjectHandle", "SoftOwner", "SpaceMode", "LayoutTabName", "TypeOfDimension", "AttributesFlag", "Flag",
+            "VertexFlags", "IsOn", "IsFrozen", "IsLocked",
         "Flags", "LayerName", "HasLastLeaderLinePoint", "HasDoglegVector", "ValueType",
     ];
 
     private static readonly Type[] InOthers = [typeof(CadBlockEntity), typeof(CadSeqend), typeof(CadAttrib)];
 
     public static IEnumerable<object[]> Entities => Concrete(typeof(CadEntityBase))
-        .Where(type => !InOthers.Contains(type) && !type.IsSubclassOf(typeof(CadVertexBase))).Select(type => new object[] { type });
+        .Where(type => !InOthers.Contains(type) && !type.IsSubclassOf(typeof(CadVertexBase)))
+            .Select(type => new object[] { type });
 
-    public static IEnumerable<object[]> Records => Concrete(typeof(CadSymbolTableGroupCodes)).Select(type => new object[] { type });
+    public static IEnumerable<object[]> Records => Concrete(typeof(CadSymbolTableGroupCodes))
+        .Select(type => new object[] { type });
 
     [Theory]
     [MemberData(nameof(Entities))]
@@ -88,11 +91,13 @@ public class PropertyRoundTripTests
     {
         double[] numbers =
         [
-            0.1, 1.0 / 3, Math.PI, -0.0, double.Epsilon, double.MaxValue, -double.MaxValue, 1e-310, 123456789.123456789, 1e15 + 0.3, 1e22, 1e23, 9007199254740993,
+            0.1, 1.0 / 3, Math.PI, -0.0, double.Epsilon, double.MaxValue, -double.MaxValue, 1e-310,
+                123456789.123456789, 1e15 + 0.3, 1e22, 1e23, 9007199254740993,
             0.30000000000000004, 5e-5, 99999.99999999999, BitConverter.Int64BitsToDouble(0x3FF0000000000001),
         ];
         Random random = new(1);
-        IEnumerable<double> chance = Enumerable.Range(0, 2000).Select(_ => BitConverter.Int64BitsToDouble(random.NextInt64())).Where(double.IsFinite);
+        IEnumerable<double> chance = Enumerable.Range(0,
+            2000).Select(_ => BitConverter.Int64BitsToDouble(random.NextInt64())).Where(double.IsFinite);
         double[] all = [.. numbers, .. chance];
         CadImage image = new();
         foreach (double number in all)
@@ -103,11 +108,12 @@ public class PropertyRoundTripTests
         CadImage again = DxfText.Reload(image);
         for (int i = 0; i < all.Length; i++)
         {
-            Assert.Equal(BitConverter.DoubleToInt64Bits(all[i]), BitConverter.DoubleToInt64Bits(((CadPoint)again.Entities[i]).CenterPoint.X));
+            Assert.Equal(BitConverter.DoubleToInt64Bits(all[i]),
+                BitConverter.DoubleToInt64Bits(((CadPoint)again.Entities[i]).CenterPoint.X));
         }
     }
 
-    private static IEnumerable<Type> Concrete(Type parent) => parent.Assembly.GetExportedTypes()
+    internal static IEnumerable<Type> Concrete(Type parent) => parent.Assembly.GetExportedTypes()
         .Where(type => type.IsSubclassOf(parent) && !type.IsAbstract && type.GetConstructor([]) is not null);
 
     private static void Add(CadImage image, CadSymbolTableGroupCodes record)
@@ -137,13 +143,14 @@ public class PropertyRoundTripTests
     };
 
     private static IEnumerable<PropertyInfo> Settable(object item) => item.GetType().GetProperties()
-        .Where(property => !Derived.Contains(property.Name) && property.SetMethod is { IsPublic: true } && property.GetIndexParameters().Length == 0);
+        .Where(property => !Derived.Contains(property.Name) && property.SetMethod is { IsPublic: true }
+            && property.GetIndexParameters().Length == 0);
 
     private static IEnumerable<PropertyInfo> Lists(object item) => item.GetType().GetProperties()
         .Where(property => property.PropertyType.IsGenericType
             && property.PropertyType.GetInterface(nameof(IEnumerable)) is not null);
 
-    private static void Fill(object item)
+    internal static void Fill(object item)
     {
         int seed = 2;
         foreach (PropertyInfo property in Settable(item))
@@ -183,10 +190,13 @@ public class PropertyRoundTripTests
     }
 
     /// <summary>Parts of objects have fields of their own, but are no objects.</summary>
-    private static bool IsPart(Type type) => type is { IsClass: true, IsAbstract: false } && !type.IsSubclassOf(typeof(CadBaseObject))
-        && type.GetMethod("Exchange", BindingFlags.Instance | BindingFlags.NonPublic | BindingFlags.DeclaredOnly) is not null;
+    private static bool IsPart(Type type) => type is { IsClass: true,
+        IsAbstract: false } && !type.IsSubclassOf(typeof(CadBaseObject))
+        && type.GetMethod("Exchange",
+            BindingFlags.Instance | BindingFlags.NonPublic | BindingFlags.DeclaredOnly) is not null;
 
-    private static IEnumerable<PropertyInfo> Parts(object item) => item.GetType().GetProperties().Where(property => IsPart(property.PropertyType));
+    private static IEnumerable<PropertyInfo> Parts(object item) => item.GetType().GetProperties()
+        .Where(property => IsPart(property.PropertyType));
 
     // Small numbers fit every type; texts are numbers in hexadecimal, so that they may stand for handles.
     private static object? Value(Type type, object? present, int seed) => type switch
@@ -202,7 +212,7 @@ public class PropertyRoundTripTests
         _ => null,
     };
 
-    private static void Same(object expected, object actual)
+    internal static void Same(object expected, object actual)
     {
         Assert.Equal(expected.GetType(), actual.GetType());
         Assert.Equal(Describe(expected), Describe(actual));
@@ -210,9 +220,11 @@ public class PropertyRoundTripTests
 
     private static string[] Describe(object item) =>
     [
-        .. Settable(item).Where(property => !property.PropertyType.IsClass || property.PropertyType == typeof(string) || IsPoint(property.PropertyType))
+        .. Settable(item).Where(property => !property.PropertyType.IsClass || property.PropertyType == typeof(string)
+            || IsPoint(property.PropertyType))
             .Select(property => $"{property.Name} = {Shown(property.GetValue(item))}"),
-        .. Lists(item).Where(property => property.PropertyType.GetGenericArguments()[0] is var part && (!part.IsClass || part == typeof(string) || IsPoint(part)))
+        .. Lists(item).Where(property => property.PropertyType.GetGenericArguments()[0] is var part && (!part.IsClass
+            || part == typeof(string) || IsPoint(part)))
             .Select(property => $"{property.Name} = {string.Join(' ', ((IList)property.GetValue(item)!).Cast<object>().Select(Shown))}"),
         .. Parts(item).SelectMany(property => Describe(property.GetValue(item)!)),
         .. Lists(item).Where(property => IsPart(property.PropertyType.GetGenericArguments()[0]))

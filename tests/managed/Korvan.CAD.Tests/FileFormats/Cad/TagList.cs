@@ -46,7 +46,8 @@ internal static class TagList
         bool inGroup = false;
         foreach ((int Code, string Value) tag in tags)
         {
-            inGroup = inGroup ? tag.Value != "}" : tag.Code == 102 && tag.Value.StartsWith("{ACAD_", StringComparison.Ordinal);
+            inGroup = inGroup ? tag.Value != "}" : tag.Code == 102 && tag.Value.StartsWith("{ACAD_",
+                StringComparison.Ordinal);
             if (!inGroup && tag is not ((5 or 330, _) or (102, "}")))
             {
                 yield return tag;
@@ -67,7 +68,8 @@ internal static class TagList
             bool isNumber = code is not (< 10 or 102 or 100 or (>= 300 and < 370) or 1000 or 1001)
                 && double.TryParse(value, NumberStyles.Float, CultureInfo.InvariantCulture, out _);
             tags.Add((code, isNumber
-                ? double.Parse(value, NumberStyles.Float, CultureInfo.InvariantCulture).ToString("R", CultureInfo.InvariantCulture)
+                ? double.Parse(value, NumberStyles.Float, CultureInfo.InvariantCulture).ToString("R",
+                    CultureInfo.InvariantCulture)
                 : value.Trim()));
         }
 

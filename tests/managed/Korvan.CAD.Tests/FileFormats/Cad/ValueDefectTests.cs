@@ -126,15 +126,24 @@ public class ValueDefectTests
         { "a group code with a fraction", DxfText.Drawing(0, "LINE", "10.0", 1), (int)LoadDefectCode.BadGroupCode },
         { "no value after the last code", DxfText.Header("AC1015") + "0\n", (int)LoadDefectCode.EndsWithinTag },
         { "no section with entities", DxfText.Header("AC1015"), (int)LoadDefectCode.EndsEarly },
-        { "a section without a name", DxfText.Tags(0, "SECTION", 0, "ENDSEC", 0, "EOF"), (int)LoadDefectCode.SectionWithoutName },
-        { "a section without an end", DxfText.Tags(0, "SECTION", 2, "ENTITIES", 0, "LINE", 8, "0"), (int)LoadDefectCode.SectionWithoutEnd },
-        { "a tag between sections", DxfText.Tags(0, "SECTION", 2, "ENTITIES", 0, "ENDSEC", 1, "odd"), (int)LoadDefectCode.Misplaced },
-        { "a tag between objects", DxfText.Tags(0, "SECTION", 2, "ENTITIES", 8, "0", 0, "ENDSEC"), (int)LoadDefectCode.Misplaced },
-        { "a record outside of its table", DxfText.Tags(0, "SECTION", 2, "TABLES", 0, "LAYER", 2, "A", 0, "ENDSEC"), (int)LoadDefectCode.Misplaced },
-        { "an entity within a table", DxfText.Tags(0, "SECTION", 2, "TABLES", 0, "TABLE", 2, "LAYER", 0, "LINE", 0, "ENDTAB", 0, "ENDSEC"), (int)LoadDefectCode.Misplaced },
-        { "an edge of a type that there is not", DxfText.Drawing(0, "HATCH", 91, 1, 92, 0, 93, 1, 72, 5, 10, 1, 20, 2), (int)LoadDefectCode.BadValue },
-        { "a preview of an odd number of digits", DxfText.Entities() + DxfText.Tags(0, "SECTION", 2, "THUMBNAILIMAGE", 90, 2, 310, "00F", 0, "ENDSEC"), (int)LoadDefectCode.BadBinary },
-        { "a preview with a letter that is no digit", DxfText.Entities() + DxfText.Tags(0, "SECTION", 2, "THUMBNAILIMAGE", 90, 2, 310, "0G", 0, "ENDSEC"), (int)LoadDefectCode.BadBinary },
+        { "a section without a name", DxfText.Tags(0, "SECTION", 0, "ENDSEC", 0, "EOF"),
+            (int)LoadDefectCode.SectionWithoutName },
+        { "a section without an end", DxfText.Tags(0, "SECTION", 2, "ENTITIES", 0, "LINE", 8, "0"),
+            (int)LoadDefectCode.SectionWithoutEnd },
+        { "a tag between sections", DxfText.Tags(0, "SECTION", 2, "ENTITIES", 0, "ENDSEC", 1, "odd"),
+            (int)LoadDefectCode.Misplaced },
+        { "a tag between objects", DxfText.Tags(0, "SECTION", 2, "ENTITIES", 8, "0", 0, "ENDSEC"),
+            (int)LoadDefectCode.Misplaced },
+        { "a record outside of its table", DxfText.Tags(0, "SECTION", 2, "TABLES", 0, "LAYER", 2, "A", 0, "ENDSEC"),
+            (int)LoadDefectCode.Misplaced },
+        { "an entity within a table", DxfText.Tags(0, "SECTION", 2, "TABLES", 0, "TABLE", 2, "LAYER", 0, "LINE", 0,
+            "ENDTAB", 0, "ENDSEC"), (int)LoadDefectCode.Misplaced },
+        { "an edge of a type that there is not", DxfText.Drawing(0, "HATCH", 91, 1, 92, 0, 93, 1, 72, 5, 10, 1, 20, 2),
+            (int)LoadDefectCode.BadValue },
+        { "a preview of an odd number of digits", DxfText.Entities() + DxfText.Tags(0, "SECTION", 2, "THUMBNAILIMAGE",
+            90, 2, 310, "00F", 0, "ENDSEC"), (int)LoadDefectCode.BadBinary },
+        { "a preview with a letter that is no digit", DxfText.Entities() + DxfText.Tags(0, "SECTION", 2,
+            "THUMBNAILIMAGE", 90, 2, 310, "0G", 0, "ENDSEC"), (int)LoadDefectCode.BadBinary },
     };
 
     [Theory]
@@ -148,15 +157,19 @@ public class ValueDefectTests
     /// <summary>Why the bytes are bad, the bytes of an entity in binary form, and the number of the defect.</summary>
     public static readonly TheoryData<string, byte[], int> BadBytes = new()
     {
-        { "a coordinate that is not a number", [10, 0, .. BitConverter.GetBytes(double.NaN)], (int)LoadDefectCode.NotFinite },
-        { "an infinite coordinate", [10, 0, .. BitConverter.GetBytes(double.PositiveInfinity)], (int)LoadDefectCode.NotFinite },
+        { "a coordinate that is not a number", [10, 0, .. BitConverter.GetBytes(double.NaN)],
+            (int)LoadDefectCode.NotFinite },
+        { "an infinite coordinate", [10, 0, .. BitConverter.GetBytes(double.PositiveInfinity)],
+            (int)LoadDefectCode.NotFinite },
         { "a coordinate of seven bytes", [10, 0, 1, 2, 3, 4, 5, 6, 7], (int)LoadDefectCode.EndsWithinTag },
         { "half a group code", [10], (int)LoadDefectCode.EndsWithinTag },
         { "a string without its end", [8, 0, 65, 66], (int)LoadDefectCode.EndsWithinTag },
-        { "a chunk that is shorter than its length", [.. BitConverter.GetBytes((short)310), 9, 1, 2], (int)LoadDefectCode.EndsWithinTag },
+        { "a chunk that is shorter than its length", [.. BitConverter.GetBytes((short)310), 9, 1, 2],
+            (int)LoadDefectCode.EndsWithinTag },
         { "a chunk without its length", [.. BitConverter.GetBytes((short)310)], (int)LoadDefectCode.EndsWithinTag },
         { "a handle that is none", [5, 0, 90, 90, 0], (int)LoadDefectCode.BadHandle },
-        { "a number for a color of 64 bits", [.. BitConverter.GetBytes((short)420), 1, 0], (int)LoadDefectCode.EndsWithinTag },
+        { "a number for a color of 64 bits", [.. BitConverter.GetBytes((short)420), 1, 0],
+            (int)LoadDefectCode.EndsWithinTag },
     };
 
     [Theory]
@@ -175,13 +188,15 @@ public class ValueDefectTests
     [Fact]
     public void A_defect_names_the_handle_of_its_object_alone()
     {
-        string[] objects = ["0\nLINE\n5\n2A\n8\n0\n", "0\nLINE\n5\n2B\n10\nwest\n", "0\nLINE\n10\neast\n5\n2C\n", "0\nPOINT\n5\n2D\n10\n1\n20\n2\n"];
+        string[] objects = ["0\nLINE\n5\n2A\n8\n0\n", "0\nLINE\n5\n2B\n10\nwest\n", "0\nLINE\n10\neast\n5\n2C\n",
+            "0\nPOINT\n5\n2D\n10\n1\n20\n2\n"];
         LoadOptions options = new() { IgnoreErrors = true };
         CadImage image = DxfText.Load(DxfText.Header("AC1015") + "0\nSECTION\n2\nENTITIES\n" + string.Concat(objects) + "0\nENDSEC\n0\nEOF\n", options);
         Assert.Equal(["2A", "2D"], image.Entities.Select(entity => entity.ObjectHandle));
         Assert.Equal(["handle 2B", ""], options.Defects.Select(defect => defect.Place.Record));
         Assert.Equal(options.Errors, options.Defects.Select(defect => defect.ToString()));
-        Assert.Contains(", line 29, handle 2B: group code 10 has the value 'west'", options.Errors[0], StringComparison.Ordinal);
+        Assert.Contains(", line 29, handle 2B: group code 10 has the value 'west'", options.Errors[0],
+            StringComparison.Ordinal);
     }
 
     private static LoadDefect DefectOf(string content) => DefectOf(Encoding.Latin1.GetBytes(content));
