@@ -96,7 +96,7 @@ internal static class DrawingExporter
 
     /// <summary>An engine with the fonts that the drawing was loaded with, and letters as the options ask for.</summary>
     internal static TextEngine NewEngine(Image image, ImageOptionsBase options) =>
-        new(LetterLook.Of(options.VectorRasterizationOptions), FontFolders.Of(image.LoadOptions));
+        new(GlyphRendering.Of(options.VectorRasterizationOptions), FontFolders.Of(image.LoadOptions));
 
     private static void WritePdf(Image image, PdfOptions options, Stream output)
     {

@@ -53,9 +53,9 @@ internal sealed class DicomPicture
             throw file.Damaged($"{count} frames are announced");
         }
 
-        if ((long)picture.width * picture.height * count > PixelGrid.MostPixels)
+        if ((long)picture.width * picture.height * count > PixelGrid.MaxPixels)
         {
-            throw new LimitMemoryException($"The frames of '{file.Name}' have more than {PixelGrid.MostPixels} pixels in all.");
+            throw new LimitMemoryException($"The frames of '{file.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
 
         picture.FrameCount = count;

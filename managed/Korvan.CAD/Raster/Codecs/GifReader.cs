@@ -145,9 +145,9 @@ internal sealed unsafe class GifReader
         Gif.ImageDescription image = gif->Image;
         int[] palette = Palette(image.Map != null ? image.Map : gif->Map);
         total += (long)gif->Width * gif->Height;
-        if (total > PixelGrid.MostPixels)
+        if (total > PixelGrid.MaxPixels)
         {
-            throw new LimitMemoryException($"The frames of '{source.Name}' have more than {PixelGrid.MostPixels} pixels in all.");
+            throw new LimitMemoryException($"The frames of '{source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
 
         if (image.Width < 1 || image.Height < 1)

@@ -65,9 +65,9 @@ internal static unsafe class TiffReader
 
         total += width * height;
         PixelGrid.Verify(width, height);
-        if (total > PixelGrid.MostPixels)
+        if (total > PixelGrid.MaxPixels)
         {
-            throw new LimitMemoryException($"The pages of '{source.Name}' have more than {PixelGrid.MostPixels} pixels in all.");
+            throw new LimitMemoryException($"The pages of '{source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
 
         var samples = new TiffSamples(tiff.Value);

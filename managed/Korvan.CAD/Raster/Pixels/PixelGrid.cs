@@ -13,7 +13,7 @@ namespace Korvan.CAD.Raster.Pixels;
 internal sealed unsafe class PixelGrid : IDisposable
 {
     internal const int LargestSide = 65_535;
-    internal const long MostPixels = RasterPage.MostPixels;
+    internal const long MaxPixels = RasterPage.MaxPixels;
     internal const int Opaque = unchecked((int)0xFF000000);
 
     private readonly IDisposable owner;
@@ -59,10 +59,10 @@ internal sealed unsafe class PixelGrid : IDisposable
             throw new ArgumentOutOfRangeException(null, $"A picture of {width} × {height} pixels has no area.");
         }
 
-        if (width > LargestSide || height > LargestSide || width * height > MostPixels)
+        if (width > LargestSide || height > LargestSide || width * height > MaxPixels)
         {
             throw new LimitMemoryException($"A picture of {width} × {height} pixels is too large: at most {LargestSide} pixels"
-                + $" on a side and {MostPixels} in all.");
+                + $" on a side and {MaxPixels} in all.");
         }
     }
 

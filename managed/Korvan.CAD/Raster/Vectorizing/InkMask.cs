@@ -8,7 +8,7 @@ namespace Korvan.CAD.Raster.Vectorizing;
 /// <summary>Which pixels of a picture are dark, with a frame of light ones, so that every pixel has neighbours.</summary>
 internal sealed class InkMask
 {
-    private const long MostPixels = 200_000_000;
+    private const long MaxPixels = 200_000_000;
     private const int Paper = -1;
 
     private readonly byte[] _cells;
@@ -33,10 +33,10 @@ internal sealed class InkMask
 
     internal static InkMask Of(PixelGrid pixels, int threshold)
     {
-        if ((long)(pixels.Width + 2) * (pixels.Height + 2) > MostPixels)
+        if ((long)(pixels.Width + 2) * (pixels.Height + 2) > MaxPixels)
         {
             throw new LimitMemoryException(
-                $"A picture of {pixels.Width} × {pixels.Height} pixels is too large to be traced; at most {MostPixels} pixels are.");
+                $"A picture of {pixels.Width} × {pixels.Height} pixels is too large to be traced; at most {MaxPixels} pixels are.");
         }
 
         int least = threshold < 0 ? Binarization.OtsuThreshold(pixels) : threshold;

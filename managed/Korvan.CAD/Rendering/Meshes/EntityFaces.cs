@@ -55,8 +55,8 @@ internal sealed class EntityFaces : IGeometrySink
                 int below = (row + 1) % grid.Rows * grid.Columns;
                 int right = (column + 1) % grid.Columns;
                 int at = row * grid.Columns;
-                _mesh.Add(
-                    [grid.Points[at + column], grid.Points[below + column], grid.Points[below + right], grid.Points[at + right]]);
+                List<Vec3> p = grid.Points;
+                _mesh.Add([p[at + column], p[below + column], p[below + right], p[at + right]]);
             }
         }
     }

@@ -13,7 +13,7 @@ namespace Korvan.CAD.Rendering.Metafile;
 internal sealed partial class CgmInterpreter
 {
     /// <summary>Cells of one tile; a picture of more is refused rather than allocated.</summary>
-    private const long MostCells = 100_000_000;
+    private const long MaxCells = 100_000_000;
 
     private BeginTileArray? _tiles;
     private int _nextTile;
@@ -65,7 +65,7 @@ internal sealed partial class CgmInterpreter
         {
             RowPadding = tile.RowPadding,
         };
-        bool fits = packed.Width > 0 && packed.Height > 0 && (long)packed.Width * packed.Height <= MostCells;
+        bool fits = packed.Width > 0 && packed.Height > 0 && (long)packed.Width * packed.Height <= MaxCells;
         Picture? cells = fits ? unpack(packed) : null;
         if (cells is null)
         {

@@ -196,11 +196,11 @@ internal sealed partial class CgmInterpreter
 
     private double MarkerSize(double? stated)
     {
-        double nominal = Longest * PictureFrame.UsualSizeShare;
+        double nominal = Longest * PictureFrame.DefaultSizeShare;
         double size = _state.MarkerSizeMode switch
         {
             SpecificationMode.Absolute => stated ?? nominal,
-            SpecificationMode.Fractional => (stated ?? PictureFrame.UsualSizeShare) * Longest,
+            SpecificationMode.Fractional => (stated ?? PictureFrame.DefaultSizeShare) * Longest,
             SpecificationMode.Millimetres when _picture.Frame.MillimetresPerUnit is double mm => (stated ?? 2.5) / mm,
             SpecificationMode.Millimetres => (stated ?? 2.5) / 2.5 * nominal,
             _ => (stated ?? 1) * nominal,

@@ -16,7 +16,7 @@ namespace Korvan.CAD.Rendering.Metafile;
 internal sealed partial class CgmInterpreter
 {
     private const double HatchGapShare = 1.0 / 120;
-    private const int MostPatternTiles = 5_000;
+    private const int MaxPatternTiles = 5_000;
 
     /// <summary>The directions of the lines of the registered hatches, in degrees.</summary>
     private static readonly Dictionary<int, double[]> HatchAngles = new()
@@ -156,7 +156,7 @@ internal sealed partial class CgmInterpreter
     {
         double sum = 0;
         own.GapWidths.ForEach(gap => sum += Math.Abs((double)gap));
-        double cycle = Math.Abs(own.CycleLength) * UnitOf(_state.InteriorMode, Longest * UsualWidthShare) * Scale;
+        double cycle = Math.Abs(own.CycleLength) * UnitOf(_state.InteriorMode, Longest * DefaultWidthShare) * Scale;
         if (!(sum > 0) || !(cycle > 0) || direction.Length == 0)
         {
             return;
@@ -211,11 +211,11 @@ internal sealed partial class CgmInterpreter
     {
         if (Paint.Fill.PatternSize is not PatternSize size)
         {
-            double side = Longest * PictureFrame.UsualSizeShare * 2;
+            double side = Longest * PictureFrame.DefaultSizeShare * 2;
             return (_map.Point(side, 0) - _map.Point(0, 0), _map.Point(0, side) - _map.Point(0, 0));
         }
 
-        double unit = UnitOf(_state.InteriorMode, Longest * UsualWidthShare);
+        double unit = UnitOf(_state.InteriorMode, Longest * DefaultWidthShare);
         return (_map.Point(size.WidthX * unit, size.WidthY * unit) - _map.Point(0, 0), _map.Point(size.HeightX * unit, size.HeightY * unit) - _map.Point(0, 0));
     }
 
@@ -228,7 +228,7 @@ internal sealed partial class CgmInterpreter
             tiles.Add(p.X, p.Y);
         }
 
-        bool fits = tiles.IsFinite && (tiles.Width + 2) * (tiles.Height + 2) < MostPatternTiles
+        bool fits = tiles.IsFinite && (tiles.Width + 2) * (tiles.Height + 2) < MaxPatternTiles
             && Math.Abs(tiles.MinX) < int.MaxValue / 2 && Math.Abs(tiles.MinY) < int.MaxValue / 2;
         range = fits
             ? ((int)Math.Floor(tiles.MinX), (int)Math.Floor(tiles.MinY), (int)Math.Floor(tiles.MaxX), (int)Math.Floor(tiles.MaxY))
@@ -262,7 +262,7 @@ internal sealed partial class CgmInterpreter
         }
 
         List<double> g = gradient.ReferenceGeometry;
-        double unit = UnitOf(_state.InteriorMode, Longest * UsualWidthShare);
+        double unit = UnitOf(_state.InteriorMode, Longest * DefaultWidthShare);
         Vec2 first = g.Count >= 2 ? new Vec2(g[0], g[1]) * unit : new Vec2(Longest, 0);
         Vec2 second = gradient.Style == elliptical && g.Count >= 4 ? new Vec2(g[2], g[3]) * unit : first.Left;
         Vec2 at = FillReference;

@@ -14,10 +14,10 @@ internal sealed partial class CgmInterpreter
 {
     /// <summary>The width 1 of scaled widths: about a pixel of a screen.</summary>
     private const double NominalWidthMm = 0.25;
-    private const double UsualWidthMm = 0.35;
+    private const double DefaultWidthMm = 0.35;
 
     /// <summary>Defaults of sizes are parts of the longer side of the picture (ISO/IEC 8632-1, clause 8).</summary>
-    private const double UsualWidthShare = 0.001;
+    private const double DefaultWidthShare = 0.001;
     private const double DashUnitShare = 1.0 / 600;
 
     /// <summary>Colours of numbers that no table gives: paper, ink, then what most writers mean.</summary>
@@ -125,8 +125,8 @@ internal sealed partial class CgmInterpreter
     /// <summary>A width, as its mode counts it, for the page.</summary>
     private StrokeStyle Width(double? stated, SpecificationMode mode)
     {
-        double width = Math.Abs(stated ?? (mode == SpecificationMode.Scaled ? 1 : mode == SpecificationMode.Millimetres ? UsualWidthMm
-            : mode == SpecificationMode.Fractional ? UsualWidthShare : UsualWidthShare * Longest));
+        double width = Math.Abs(stated ?? (mode == SpecificationMode.Scaled ? 1 : mode == SpecificationMode.Millimetres ? DefaultWidthMm
+            : mode == SpecificationMode.Fractional ? DefaultWidthShare : DefaultWidthShare * Longest));
         double? units = mode switch
         {
             SpecificationMode.Absolute => width,
@@ -200,7 +200,7 @@ internal sealed partial class CgmInterpreter
             return [];
         }
 
-        double repeat = own.RepeatLength * UnitOf(_state.LineWidthMode, Longest * UsualWidthShare);
+        double repeat = own.RepeatLength * UnitOf(_state.LineWidthMode, Longest * DefaultWidthShare);
         List<double> lengths = own.Elements.ConvertAll(element => Math.Abs((double)element) * Math.Abs(repeat) / sum);
         if (lengths.Count % 2 == 1)
         {

@@ -12,7 +12,7 @@ namespace Korvan.CAD.Rendering.Metafile;
 internal sealed partial class CgmInterpreter
 {
     /// <summary>Elements that one page may take with all copies of segments; past it the picture is a bomb.</summary>
-    private const int MostElements = 50_000_000;
+    private const int MaxElements = 50_000_000;
     private const int ElementsPerCheckpoint = 1024;
 
     private static readonly Dictionary<Type, Action<CgmInterpreter, Command>> Drawers = Build();
@@ -81,10 +81,10 @@ internal sealed partial class CgmInterpreter
                 _style.Checkpoint?.Invoke();
             }
 
-            if (_elements > MostElements)
+            if (_elements > MaxElements)
             {
                 throw new RenderException(
-                    $"The picture \"{_picture.Name}\" draws more than {MostElements} elements by copies of its segments; it is too large.");
+                    $"The picture \"{_picture.Name}\" draws more than {MaxElements} elements by copies of its segments; it is too large.");
             }
 
             at = Step(_scene.CommandAt(at), at, end);

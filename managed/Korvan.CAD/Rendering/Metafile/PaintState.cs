@@ -43,7 +43,7 @@ internal struct TextState
     internal TextAlignment? Alignment;
     internal RestrictedTextType.Type Restriction;
 
-    internal readonly double HeightIn(in PictureFrame frame) => System.Math.Abs(Height ?? frame.Longest * PictureFrame.UsualSizeShare);
+    internal readonly double HeightIn(in PictureFrame frame) => System.Math.Abs(Height ?? frame.Longest * PictureFrame.DefaultSizeShare);
 }
 
 /// <summary>How areas are filled.</summary>

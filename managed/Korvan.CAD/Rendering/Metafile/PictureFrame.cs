@@ -14,13 +14,13 @@ namespace Korvan.CAD.Rendering.Metafile;
 internal readonly record struct PictureFrame(Bounds2 Region, Affine2 ToPage, double Longest, double? MillimetresPerUnit)
 {
     /// <summary>Texts and markers without a size have this part of the longer side (ISO/IEC 8632-1, clause 8).</summary>
-    internal const double UsualSizeShare = 0.01;
+    internal const double DefaultSizeShare = 0.01;
 
     /// <summary>Sizes that no sheet has: past them a factor is taken for a mistake of its writer.</summary>
     private const double LeastMillimetres = 1;
-    private const double MostMillimetres = 20_000;
+    private const double MaxMillimetres = 20_000;
 
-    private const double UsualIntegerExtent = 32_767;
+    private const double DefaultIntegerExtent = 32_767;
 
     /// <summary>The sheet that the picture fills; without a size of its own where the file states none.</summary>
     internal PaperSheet Sheet => MillimetresPerUnit is double mm
@@ -48,7 +48,7 @@ internal readonly record struct PictureFrame(Bounds2 Region, Affine2 ToPage, dou
             return new CgmRectangle(stated.FirstCorner.X, stated.FirstCorner.Y, stated.SecondCorner.X, stated.SecondCorner.Y);
         }
 
-        double side = state.HasRealCoordinates ? 1 : UsualIntegerExtent;
+        double side = state.HasRealCoordinates ? 1 : DefaultIntegerExtent;
         return new CgmRectangle(0, 0, side, side);
     }
 
@@ -66,6 +66,6 @@ internal readonly record struct PictureFrame(Bounds2 Region, Affine2 ToPage, dou
         }
 
         double size = Math.Abs(factor) * longest;
-        return size is >= LeastMillimetres and <= MostMillimetres ? Math.Abs(factor) : null;
+        return size is >= LeastMillimetres and <= MaxMillimetres ? Math.Abs(factor) : null;
     }
 }

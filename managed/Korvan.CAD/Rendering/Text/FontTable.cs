@@ -76,11 +76,12 @@ internal static class FontTable
 
     private static readonly Lazy<Dictionary<string, string>> InstalledFiles = new(ReadInstalledFiles);
 
-    /// <summary>The symbol fonts in which small letters stand for geometric tolerance signs.</summary>
+    /// <summary>The symbol fonts whose lower case letters are geometric tolerance symbols.</summary>
     internal static bool IsToleranceSymbolFont(string file) =>
         Stem(file) is "gdt" or "amgdt" or "amgdtans" or "gdt___";
 
-    /// <summary>The face for a font file as style tables and inline codes name it ("romans.shx", "arial.ttf", "txt").</summary>
+    /// <summary>The face for a font file as style tables and inline codes name it ("romans.shx", "arial.ttf",
+    /// "txt").</summary>
     internal static FontSpec FromFile(string? file)
     {
         if (string.IsNullOrWhiteSpace(file))

@@ -3,7 +3,7 @@ using System.Text;
 namespace Korvan.CAD.Rendering.Text;
 
 /// <summary>
-/// The signs of ISO 1101 that tolerance fonts keep under small letters, as characters that common text fonts
+/// The signs of ISO 1101 that tolerance fonts have at lower case letters, as characters that common text fonts
 /// have: circled letters become bracketed ones, the position sign a circled cross.
 /// </summary>
 internal static class ToleranceSymbols

@@ -93,7 +93,8 @@ internal sealed class DrawingExtents : IDisposable
         _open.Remove(name);
     }
 
-    private static bool IsAxisAligned(Affine3 map) => IsAlongAxis(map.AxisX) && IsAlongAxis(map.AxisY) && IsAlongAxis(map.AxisZ);
+    private static bool IsAxisAligned(Affine3 map) =>
+        IsAlongAxis(map.AxisX) && IsAlongAxis(map.AxisY) && IsAlongAxis(map.AxisZ);
 
     private static bool IsAlongAxis(Vec3 axis)
     {
@@ -134,7 +135,8 @@ internal sealed class DrawingExtents : IDisposable
         return extents;
     }
 
-    private sealed class Sink(DrawingExtents owner, Extents extents, bool isBlock) : EntityExtents(extents, owner._texts)
+    private sealed class Sink(DrawingExtents owner, Extents extents, bool isBlock) : EntityExtents(
+        extents, owner._texts)
     {
         // Attributes of a reference stand in for the definitions of its block.
         protected override bool IsShown(in TextLine text) =>

@@ -111,7 +111,8 @@ internal interface IGeometrySink
     }
 }
 
-/// <summary>An arc of a circle in a plane, with angles in radians; counterclockwise where the sweep is positive.</summary>
+/// <summary>An arc of a circle in a plane, with angles in radians; counterclockwise where the sweep is
+/// positive.</summary>
 internal readonly record struct PlanarArc(Affine3 Plane, Vec3 Center, double Radius, double Start, double Sweep)
 {
     internal double Thickness { get; init; }

@@ -13,7 +13,7 @@ internal readonly record struct CellFormat(int Width, int Height, int Bits, int 
     internal const int RunLength = 0, Packed = 1;
 
     /// <summary>One array of numbers holds no more.</summary>
-    private const long MostCells = 1 << 28;
+    private const long MaxCells = 1 << 28;
 
     internal static readonly string[] Modes = ["run length", "packed"];
 
@@ -31,9 +31,9 @@ internal readonly record struct CellFormat(int Width, int Height, int Bits, int 
     /// <exception cref="CgmDataException">There cannot be such cells.</exception>
     internal static CellFormat Of(CodingState state, int width, int height, int precision)
     {
-        if (width <= 0 || height <= 0 || (long)width * height > MostCells)
+        if (width <= 0 || height <= 0 || (long)width * height > MaxCells)
         {
-            throw new CgmDataException($"there are {width} by {height} cells; each has to be positive, their product up to {MostCells}");
+            throw new CgmDataException($"there are {width} by {height} cells; each has to be positive, their product up to {MaxCells}");
         }
 
         if (precision != 0 && Array.IndexOf(Precisions, precision) < 0)
