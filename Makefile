@@ -1,15 +1,16 @@
-# Thin doors to CMake and dotnet. Everything that is built lands in build/.
+# Thin wrappers around CMake and dotnet. Everything that is built lands in build/.
 #
 #   make            build the package
 #   make demo       convert examples/drawings into build/demo
 #   make test       everything there is, under ctest
 #   make fuzz-calls hostile calls of every member for MINUTES=60, from SEED=1 on
+#   make mutants    mutation run over single lines: ONLY=<text of a name or file>
 #   make sanitize   the native units under the address and undefined-behaviour sanitizers
 #   make bench      measurements beside hand-written baselines
 #   make catalogue  which of the types of CATALOGUE=<table> stand, module by module
 #   make wheel      the package as a wheel, in build/dist
-#   make format     put the sources into the house format
-#   make lint       the format and clang-tidy's opinion
+#   make format     put the sources into the code style
+#   make lint       the format check and clang-tidy
 #   make clean      forget what was built
 #
 # PYTHON=<path> names the CPython 3.12 to build for; else it is looked for on the path, then in pyenv.
@@ -26,7 +27,7 @@ export UseSharedCompilation := false
 export DOTNET_CLI_TELEMETRY_OPTOUT := 1
 export DOTNET_NOLOGO := 1
 
-.PHONY: build demo test fuzz-calls sanitize bench catalogue wheel format lint clean packages
+.PHONY: build demo test fuzz-calls mutants sanitize bench catalogue wheel format lint clean packages
 
 build: packages $(BUILD)/build.ninja
 	@cmake --build --preset $(PRESET)
@@ -46,6 +47,9 @@ test: test_packages build
 
 fuzz-calls: build
 	@build/python tests/python/hostile_calls.py --seed $(SEED) --rounds $(ROUNDS) --minutes $(MINUTES)
+
+mutants: test_packages packages
+	@python=$$(tools/find-python.sh) && "$$python" tools/mutants.py --only '$(ONLY)'
 
 sanitize: test_packages packages
 	@python=$$(tools/find-python.sh) && cmake --preset asan -DPython_EXECUTABLE="$$python" >/dev/null

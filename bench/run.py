@@ -11,7 +11,7 @@ import sys
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
-SUBJECTS = ("imports", "calls", "objects", "sequences", "streams", "values", "loading", "walking", "models", "pictures")
+SUBJECTS = ("imports", "calls", "objects", "sequences", "streams", "values", "loading", "walking", "models", "images")
 
 
 def main() -> int:

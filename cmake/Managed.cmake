@@ -28,15 +28,32 @@ function(korvan_dotnet_build stamp project)
     DEPENDS ${arg_SOURCES} JOB_POOL dotnet COMMENT "${arg_COMMENT}" VERBATIM)
 endfunction()
 
-# Publishes an interop assembly, compiled ahead of time, into a folder.
+# Publishes an interop assembly, compiled ahead of time, into a folder. What it refers to was built before.
 function(korvan_dotnet_publish stamp project folder)
   cmake_parse_arguments(arg "" "COMMENT" "SOURCES;FLAGS" ${ARGN})
   get_filename_component(name "${project}" NAME)
   add_custom_command(
     OUTPUT "${stamp}"
-    COMMAND "${DOTNET}" publish "${project}/${name}.csproj" ${KORVAN_DOTNET_FLAGS} ${arg_FLAGS} -o "${folder}"
+    COMMAND "${DOTNET}" publish "${project}/${name}.csproj" ${KORVAN_DOTNET_FLAGS} ${arg_FLAGS}
+      --property:BuildProjectReferences=false -o "${folder}"
     COMMAND "${CMAKE_COMMAND}" -E touch "${stamp}"
     DEPENDS ${arg_SOURCES} JOB_POOL dotnet COMMENT "${arg_COMMENT}" VERBATIM)
+endfunction()
+
+# What others see of a library: its reference assembly, which has no bodies, and its documentation. Both are replaced
+# only when they change, so that what depends on them stands while bodies alone do. Gives the two files' paths.
+function(korvan_surface out name stamp)
+  set(folder "${KORVAN_SURFACES}/${name}")
+  file(MAKE_DIRECTORY "${folder}")
+  set(files "${folder}/${name}.dll" "${folder}/${name}.xml")
+  add_custom_command(
+    OUTPUT ${files}
+    COMMAND "${CMAKE_COMMAND}" -E copy_if_different
+      "${KORVAN_DOTNET_ARTIFACTS}/obj/${name}/release_linux-x64/ref/${name}.dll" "${folder}/${name}.dll"
+    COMMAND "${CMAKE_COMMAND}" -E copy_if_different
+      "${KORVAN_DOTNET_ARTIFACTS}/bin/${name}/release_linux-x64/${name}.xml" "${folder}/${name}.xml"
+    DEPENDS "${stamp}" COMMENT "Comparing the surface of ${name}" VERBATIM)
+  set(${out} ${files} PARENT_SCOPE)
 endfunction()
 
 # Runs the generator over a library and folds its native units into a fixed number of sources, so
@@ -65,6 +82,7 @@ function(korvan_generate name)
 endfunction()
 
 set(KORVAN_STAMPS "${CMAKE_BINARY_DIR}/stamps")
+set(KORVAN_SURFACES "${CMAKE_BINARY_DIR}/surfaces")
 file(MAKE_DIRECTORY "${KORVAN_STAMPS}")
 set(managed "${CMAKE_SOURCE_DIR}/managed")
 
@@ -72,24 +90,25 @@ korvan_managed_sources(library_sources "${managed}/Korvan.CAD")
 file(GLOB_RECURSE codec_sources CONFIGURE_DEPENDS "${managed}/Korvan.CAD.CodecGen/*.cs*")
 korvan_dotnet_build("${KORVAN_STAMPS}/library" "${managed}/Korvan.CAD"
   SOURCES ${library_sources} ${codec_sources} COMMENT "Building the drawing library")
+korvan_surface(library_surface Korvan.CAD "${KORVAN_STAMPS}/library")
+list(GET library_surface 0 library_reference)
 
-# The classes of the schemas build on the library's reference assembly, which changes less often.
 korvan_managed_sources(schema_sources "${managed}/Korvan.CAD.Schemas" "${managed}/Korvan.CAD.SchemaGen")
 file(GLOB schema_tables CONFIGURE_DEPENDS "${managed}/Korvan.CAD.Schemas/Tables/*.table")
 korvan_dotnet_build("${KORVAN_STAMPS}/schemas" "${managed}/Korvan.CAD.Schemas"
-  SOURCES ${schema_sources} ${schema_tables} "${KORVAN_STAMPS}/library"
+  SOURCES ${schema_sources} ${schema_tables} "${library_reference}"
   COMMENT "Building the classes of the schemas")
+korvan_surface(schema_surface Korvan.CAD.Schemas "${KORVAN_STAMPS}/schemas")
+list(GET schema_surface 0 schema_reference)
 
 korvan_managed_sources(generator_sources "${managed}/Korvan.WrpGen")
 korvan_dotnet_build("${KORVAN_STAMPS}/generator" "${managed}/Korvan.WrpGen"
   SOURCES ${generator_sources} COMMENT "Building the generator")
 
-set(library_folder "${KORVAN_DOTNET_ARTIFACTS}/bin/Korvan.CAD/release_linux-x64")
-set(schema_folder "${KORVAN_DOTNET_ARTIFACTS}/bin/Korvan.CAD.Schemas/release_linux-x64")
 korvan_generate(cad
-  ASSEMBLY "${library_folder}/Korvan.CAD.dll:${schema_folder}/Korvan.CAD.Schemas.dll"
+  ASSEMBLY "${library_reference}:${schema_reference}"
   ROOT "Korvan.CAD=korvan.cad" INTEROP WrpInterop.Korvan.CAD SHARDS 16
-  DEPENDS "${KORVAN_STAMPS}/library" "${KORVAN_STAMPS}/schemas")
+  DEPENDS ${library_surface} ${schema_surface})
 
 Python_add_library(cad MODULE WITH_SOABI
   native/cad/cad_module.cpp native/cad/dependencies.cpp native/cad/packaging_hook.cpp

@@ -53,4 +53,4 @@ add_custom_target(package_files ALL DEPENDS
 configure_file("${CMAKE_SOURCE_DIR}/tools/python.in" "${CMAKE_BINARY_DIR}/python" @ONLY
   FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
                    WORLD_READ WORLD_EXECUTE)
-configure_file("${CMAKE_SOURCE_DIR}/tools/python-door.sh" "${CMAKE_SOURCE_DIR}/build/python" COPYONLY)
+configure_file("${CMAKE_SOURCE_DIR}/tools/python-launcher.sh" "${CMAKE_SOURCE_DIR}/build/python" COPYONLY)

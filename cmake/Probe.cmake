@@ -6,10 +6,12 @@ set(KORVAN_TESTING "${CMAKE_BINARY_DIR}/testing")
 korvan_managed_sources(probe_sources "${probe}/Korvan.Probe")
 korvan_dotnet_build("${KORVAN_STAMPS}/probe" "${probe}/Korvan.Probe"
   SOURCES ${probe_sources} COMMENT "Building the probe library")
+korvan_surface(probe_surface Korvan.Probe "${KORVAN_STAMPS}/probe")
+list(GET probe_surface 0 probe_reference)
 korvan_generate(probe
-  ASSEMBLY "${KORVAN_DOTNET_ARTIFACTS}/bin/Korvan.Probe/release_linux-x64/Korvan.Probe.dll"
+  ASSEMBLY "${probe_reference}"
   ROOT "Korvan.Probe=korvan.probe" INTEROP WrpInterop.Korvan.Probe SHARDS 2
-  DEPENDS "${KORVAN_STAMPS}/probe")
+  DEPENDS ${probe_surface})
 korvan_dotnet_publish("${KORVAN_STAMPS}/interop_probe" "${probe}/WrpInterop.Korvan.Probe"
   "${KORVAN_TESTING}/assemblies/probe"
   SOURCES ${interop_sources} "${KORVAN_STAMPS}/probe" "${KORVAN_GENERATED}/probe/generated.stamp"

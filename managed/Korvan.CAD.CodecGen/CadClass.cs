@@ -14,8 +14,8 @@ internal sealed class CadClass
         Name = type.Name;
         Namespace = type.ContainingNamespace.ToDisplayString();
         IsAbstract = type.IsAbstract;
-        Properties = [.. type.GetMembers().OfType<IPropertySymbol>().Select(CadProperty.From)
-            .Where(property => property is not null).Select(property => property!)];
+        Included = [.. IncludedIn(type)];
+        Properties = [.. Fields(type), .. Included];
         AttributeData? attribute = Attribute(type);
         HasClassAttribute = attribute is not null;
         DxfName = attribute?.ConstructorArguments[0].Value as string ?? "";
@@ -33,6 +33,9 @@ internal sealed class CadClass
 
     public IReadOnlyList<CadProperty> Properties { get; }
 
+    /// <summary>Those of another class that this class has as well.</summary>
+    public IReadOnlyList<CadProperty> Included { get; }
+
     public bool HasClassAttribute { get; }
 
     /// <summary>The name in files.</summary>
@@ -43,25 +46,41 @@ internal sealed class CadClass
 
     public bool HandWritten { get; }
 
-    /// <summary>Entities, objects or tables: the name of the root class.</summary>
+    /// <summary>Entities, objects or tables: the name of the root class; empty for a part of an object.</summary>
     public string Kind { get; }
 
     /// <summary>Base classes without a marker of their own: their codes stand among those of this class.</summary>
     public IReadOnlyList<string> Parts { get; }
 
-    public bool HasCodec => (HasClassAttribute || Properties.Count > 0) && Kind.Length > 0;
+    public bool HasCodec => HasClassAttribute || Properties.Count > 0;
+
+    /// <summary>Whether the class is a part of objects, which has neither a type name nor subclasses.</summary>
+    public bool IsPartOfObject => Kind.Length == 0;
 
     /// <summary>Whether the codes of the class are written among those of the classes that derive from it.</summary>
     public bool IsPart => !HasClassAttribute && IsAbstract;
 
     public static CadClass From(INamedTypeSymbol type) => new(type);
 
+    private static IEnumerable<CadProperty> Fields(INamedTypeSymbol type)
+    {
+        return type.GetMembers().OfType<IPropertySymbol>().Select(CadProperty.From)
+            .Where(property => property is not null).Select(property => property!);
+    }
+
+    private static IEnumerable<CadProperty> IncludedIn(INamedTypeSymbol type)
+    {
+        AttributeData? includes = type.GetAttributes().FirstOrDefault(attribute =>
+            attribute.AttributeClass?.Name == "CadFieldsOfAttribute");
+        return includes?.ConstructorArguments[0].Value is INamedTypeSymbol source ? Fields(source) : [];
+    }
+
     private static IEnumerable<INamedTypeSymbol> PartsOf(INamedTypeSymbol type)
     {
         INamedTypeSymbol? current = type.BaseType;
         while (current is { IsAbstract: true } && Attribute(current) is null && !IsRoot(current))
         {
-            if (current.GetMembers().OfType<IPropertySymbol>().Any(property => CadProperty.From(property) is not null))
+            if (Fields(current).Concat(IncludedIn(current)).Any())
             {
                 yield return current;
             }

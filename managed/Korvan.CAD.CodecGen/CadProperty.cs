@@ -1,5 +1,6 @@
 using System.Linq;
 using Microsoft.CodeAnalysis;
+using Microsoft.CodeAnalysis.CSharp;
 using Microsoft.CodeAnalysis.CSharp.Syntax;
 
 namespace Korvan.CAD.CodecGen;
@@ -11,15 +12,24 @@ internal sealed class CadProperty
     {
         Name = symbol.Name;
         Kind = attribute.AttributeClass!.Name.Replace("Attribute", "");
-        Code = (int)attribute.ConstructorArguments[0].Value!;
+        Code = attribute.ConstructorArguments.Select(argument => argument.Value).OfType<int>().FirstOrDefault();
         Optional = attribute.NamedArguments.Any(argument => argument.Key == "Optional" && argument.Value.Value is true);
         Since = attribute.NamedArguments.Where(argument => argument.Key == "Since")
             .Select(argument => (int)argument.Value.Value!).FirstOrDefault();
         TypeName = symbol.Type.ToDisplayString(SymbolDisplayFormat.FullyQualifiedFormat);
+        When = symbol.GetAttributes().FirstOrDefault(one => one.AttributeClass?.Name == "CadWhenAttribute")
+            ?.ConstructorArguments[0].Value as string ?? "";
         IsEnum = symbol.Type.TypeKind == TypeKind.Enum;
+        ElementType = (symbol.Type as INamedTypeSymbol)?.TypeArguments.FirstOrDefault()?.Name ?? "";
+        Count = attribute.NamedArguments.Where(argument => argument.Key == "Count")
+            .Select(argument => (int)argument.Value.Value!).FirstOrDefault();
+        Table = Kind == "CadName" ? $"global::{attribute.ConstructorArguments[1].ToCSharpString()}" : "";
+        Symbol = symbol;
         Initial = symbol.DeclaringSyntaxReferences.Select(reference => reference.GetSyntax())
             .OfType<PropertyDeclarationSyntax>().FirstOrDefault()?.Initializer?.Value.ToString();
     }
+
+    public IPropertySymbol Symbol { get; }
 
     public string Name { get; }
 
@@ -36,10 +46,47 @@ internal sealed class CadProperty
 
     public bool IsEnum { get; }
 
+    /// <summary>The type of the items of a list, as in <c>Double</c>.</summary>
+    public string ElementType { get; }
+
+    /// <summary>The group code of the number of items of a list; 0 where the format states none.</summary>
+    public int Count { get; }
+
+    /// <summary>The property that tells whether the object has this one; empty for always.</summary>
+    public string When { get; }
+
+    /// <summary>The symbol table that a name refers to, as source text.</summary>
+    public string Table { get; }
+
     /// <summary>The text of the initial value.</summary>
     public string? Initial { get; }
 
     public bool IsPoint => Kind is "Cad2DPoint" or "Cad3DPoint";
+
+    public bool IsList => Kind == "CadList";
+
+    /// <summary>Whether the property is a list of parts, each of several fields.</summary>
+    public bool IsRepeated => Kind == "CadRepeated";
+
+    /// <summary>Whether the property is a part with fields of its own.</summary>
+    public bool IsPart => Kind == "CadPart";
+
+    /// <summary>How many group codes one value takes: the coordinates of a point, otherwise one.</summary>
+    public int Axes => (IsList ? ElementType : Kind) switch
+    {
+        "Cad3DPoint" => 3,
+        "Cad2DPoint" => 2,
+        _ => 1,
+    };
+
+    /// <summary>What a handle means to its object, which the range of its group code tells.</summary>
+    public string HandleRole => Code switch
+    {
+        >= 330 and < 340 => "SoftPointer",
+        >= 350 and < 360 => "SoftOwner",
+        >= 360 and < 370 => "HardOwner",
+        _ => "HardPointer",
+    };
 
     public static CadProperty? From(IPropertySymbol symbol)
     {

@@ -9,8 +9,8 @@ using Microsoft.CodeAnalysis.Text;
 namespace Korvan.CAD.CodecGen;
 
 /// <summary>
-/// Writes the reading and writing of group codes from the attributes on properties, so that nothing is looked up by
-/// reflection when a drawing is loaded.
+/// Writes the exchange of fields from the attributes on properties, so that nothing is looked up by reflection when a
+/// drawing is loaded.
 /// </summary>
 [Generator]
 public sealed class CodecGenerator : IIncrementalGenerator
@@ -27,7 +27,7 @@ public sealed class CodecGenerator : IIncrementalGenerator
         context.RegisterSourceOutput(units, static (output, unit) =>
             output.AddSource(unit.HintName, SourceText.From(unit.Text, Encoding.UTF8)));
         context.RegisterSourceOutput(units.Collect(), static (output, all) =>
-            output.AddSource("DxfTypeTable.g.cs", SourceText.From(TypeTable.Write(all), Encoding.UTF8)));
+            output.AddSource("ObjectTypes.g.cs", SourceText.From(TypeTable.Write(all), Encoding.UTF8)));
     }
 
     private static bool IsCandidate(SyntaxNode node)
@@ -35,7 +35,8 @@ public sealed class CodecGenerator : IIncrementalGenerator
         return node is ClassDeclarationSyntax declaration
             && declaration.Modifiers.Any(SyntaxKind.PartialKeyword)
             && (declaration.AttributeLists.Count > 0
-                || declaration.Members.Any(member => member is PropertyDeclarationSyntax { AttributeLists.Count: > 0 }));
+                || declaration.Members.Any(
+                    member => member is PropertyDeclarationSyntax { AttributeLists.Count: > 0 }));
     }
 
     private static CodecUnit? Describe(GeneratorSyntaxContext syntax)

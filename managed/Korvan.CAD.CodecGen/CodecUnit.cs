@@ -2,7 +2,8 @@ using System;
 
 namespace Korvan.CAD.CodecGen;
 
-/// <summary>The generated text of one class, compared by value so that unchanged classes are not written again.</summary>
+/// <summary>The generated text of one class, compared by value so that unchanged classes are not written again.
+/// </summary>
 internal sealed class CodecUnit(string hintName, string text, string typeName, string dxfName, string kind)
     : IEquatable<CodecUnit>
 {

@@ -1,15 +1,14 @@
-using System;
-using System.Globalization;
 using System.Linq;
 using System.Text;
 
 namespace Korvan.CAD.CodecGen;
 
-/// <summary>Writes the codec of one class.</summary>
+/// <summary>Writes how one class exchanges its fields: by group code in any order, and in declared order.</summary>
 internal static class CodecWriter
 {
-    private const string Reader = "global::Korvan.CAD.FileFormats.Cad.Dxf.DxfTagReader";
-    private const string Writer = "global::Korvan.CAD.FileFormats.Cad.Dxf.DxfTagWriter";
+    private const string Exchange = "global::Korvan.CAD.FileFormats.Cad.Exchange";
+    private const string Reader = $"{Exchange}.FieldReader";
+    private const string Walk = $"{Exchange}.ObjectExchange";
 
     public static CodecUnit Write(CadClass model)
     {
@@ -18,6 +17,7 @@ internal static class CodecWriter
         text.AppendLine("#nullable enable");
         text.AppendLine($"namespace {model.Namespace};");
         text.AppendLine();
+        text.AppendLine("using Korvan.CAD.Collections;");
         foreach (string used in new[] { "CadConsts", "CadObjects" })
         {
             text.AppendLine($"using Korvan.CAD.FileFormats.Cad.{used};");
@@ -27,10 +27,23 @@ internal static class CodecWriter
         text.AppendLine($"partial class {model.Name}");
         text.AppendLine("{");
         WriteName(model, text);
-        WriteReading(model, text);
-        WriteWriting(model, text);
-        text.AppendLine($"    partial void OnReadCode(int code, {Reader} tags, ref bool taken);");
-        text.AppendLine($"    partial void OnWriteCodes({Writer} writer);");
+        foreach (CadProperty property in model.Included)
+        {
+            text.Append(PropertyText.Declaration(property));
+        }
+
+        if (model.IsPartOfObject)
+        {
+            WritePart(model, text);
+        }
+        else
+        {
+            WriteReading(model, text);
+            WriteWalk(model, text);
+        }
+
+        text.AppendLine($"    partial void OnReadField(int code, {Reader} reader, ref bool taken);");
+        text.AppendLine($"    partial void OnExchange({Walk} fields);");
         text.AppendLine("}");
         string full = $"{model.Namespace}.{model.Name}";
         return new CodecUnit($"{full}.g.cs", text.ToString(), full, model.IsAbstract ? "" : model.DxfName, model.Kind);
@@ -46,91 +59,92 @@ internal static class CodecWriter
 
     private static void WriteReading(CadClass model, StringBuilder text)
     {
-        text.AppendLine($"    internal override bool ReadCode(int code, {Reader} tags)");
+        text.AppendLine($"    internal override bool ReadField(int code, {Reader} reader)");
         text.AppendLine("    {");
-        string guard = model.Subclass is null or "AcDbEntity" ? "true" : $"tags.InSubclass(\"{model.Subclass}\")";
+        string guard = model.Subclass is null or "AcDbEntity" ? "true" : $"reader.InSubclass(\"{model.Subclass}\")";
         text.AppendLine($"        if ({guard})");
         text.AppendLine("        {");
         text.AppendLine("            bool taken = false;");
-        text.AppendLine("            OnReadCode(code, tags, ref taken);");
+        text.AppendLine("            OnReadField(code, reader, ref taken);");
         text.AppendLine("            if (taken) { return true; }");
         WriteSwitch(model, text);
         text.AppendLine("        }");
-        text.AppendLine("        return base.ReadCode(code, tags);");
+        text.AppendLine("        return base.ReadField(code, reader);");
+        text.AppendLine("    }");
+    }
+
+    private static void WritePart(CadClass model, StringBuilder text)
+    {
+        text.AppendLine($"    internal bool ReadField(int code, {Reader} reader)");
+        text.AppendLine("    {");
+        text.AppendLine("            bool taken = false;");
+        text.AppendLine("            OnReadField(code, reader, ref taken);");
+        text.AppendLine("            if (taken) { return true; }");
+        WriteSwitch(model, text);
+        text.AppendLine("            return false;");
+        text.AppendLine("    }");
+        text.AppendLine($"    internal void Exchange({Walk} fields)");
+        text.AppendLine("    {");
+        WriteProperties(model, text);
+        text.AppendLine("        OnExchange(fields);");
         text.AppendLine("    }");
     }
 
     private static void WriteSwitch(CadClass model, StringBuilder text)
     {
+        foreach (CadProperty repeated in model.Properties.Where(property => property.IsRepeated))
+        {
+            text.AppendLine($"            if (code == {repeated.Code}) {{ {repeated.Name}.Add(new()); }}");
+            text.AppendLine($"            if ({repeated.Name}.Count > 0");
+            text.AppendLine($"                && {repeated.Name}[^1].ReadField(code, reader)) {{ return true; }}");
+        }
+
         if (model.Properties.Count == 0)
         {
             return;
+        }
+
+        foreach (CadProperty part in model.Properties.Where(property => property.IsPart))
+        {
+            text.AppendLine($"            if ({part.Name}.ReadField(code, reader)) {{ return true; }}");
         }
 
         text.AppendLine("            switch (code)");
         text.AppendLine("            {");
         foreach (CadProperty property in model.Properties)
         {
-            WriteCase(property, text);
+            foreach (string line in FieldText.Cases(property))
+            {
+                text.AppendLine($"                {line} return true;");
+            }
         }
 
         text.AppendLine("            }");
     }
 
-    private static void WriteCase(CadProperty property, StringBuilder text)
-    {
-        if (!property.IsPoint)
-        {
-            text.AppendLine($"                case {property.Code}: {property.Name} = {Read(property)}; return true;");
-            return;
-        }
-
-        int axes = property.Kind == "Cad3DPoint" ? 3 : 2;
-        for (int axis = 0; axis < axes; axis++)
-        {
-            text.AppendLine($"                case {property.Code + (10 * axis)}: "
-                + $"{property.Name}.{"XYZ"[axis]} = tags.GetDouble(); return true;");
-        }
-    }
-
-    private static string Read(CadProperty property)
-    {
-        string value = property.Kind switch
-        {
-            "CadDouble" => "tags.GetDouble()",
-            "CadInt" => "tags.GetInt()",
-            "CadShort" => "tags.GetShort()",
-            "CadLong" => "tags.GetLong()",
-            "CadBool" => "tags.GetInt() != 0",
-            "CadBinary" => $"tags.AppendBinary({property.Name})",
-            _ => "tags.GetString()",
-        };
-        return property.IsEnum ? $"({property.TypeName}){value}" : value;
-    }
-
-    private static void WriteWriting(CadClass model, StringBuilder text)
+    private static void WriteWalk(CadClass model, StringBuilder text)
     {
         if (model.IsPart)
         {
-            text.AppendLine($"    private protected void Write{model.Name}Codes({Writer} writer)");
+            text.AppendLine($"    private protected void Exchange{model.Name}({Walk} fields)");
             text.AppendLine("    {");
             WriteProperties(model, text);
-            text.AppendLine("        OnWriteCodes(writer);");
+            text.AppendLine("        OnExchange(fields);");
             text.AppendLine("    }");
             return;
         }
 
-        text.AppendLine($"    internal override void WriteCodes({Writer} writer)");
+        text.AppendLine($"    internal override void Exchange({Walk} fields)");
         text.AppendLine("    {");
-        text.AppendLine("        base.WriteCodes(writer);");
+        text.AppendLine("        base.Exchange(fields);");
         if (model.Subclass is not null)
         {
-            text.AppendLine($"        WriteMarker(writer, \"{model.Subclass}\");");
+            text.AppendLine($"        BeginSubclass(fields, \"{model.Subclass}\");");
         }
 
         if (model.Kind == "CadSymbolTableGroupCodes")
         {
-            text.AppendLine("        WriteNameAndFlags(writer);");
+            text.AppendLine("        ExchangeNameAndFlags(fields);");
         }
 
         if (!model.HandWritten)
@@ -140,13 +154,13 @@ internal static class CodecWriter
 
         foreach (string part in model.Subclass is null ? [] : model.Parts)
         {
-            text.AppendLine($"        Write{part}Codes(writer);");
+            text.AppendLine($"        Exchange{part}(fields);");
         }
 
-        text.AppendLine("        OnWriteCodes(writer);");
+        text.AppendLine("        OnExchange(fields);");
         if (model.Subclass is not null)
         {
-            text.AppendLine($"        writer.WriteKept(this, \"{model.Subclass}\");");
+            text.AppendLine($"        fields.EndSubclass(this, \"{model.Subclass}\");");
         }
 
         text.AppendLine("    }");
@@ -156,43 +170,7 @@ internal static class CodecWriter
     {
         foreach (CadProperty property in model.Properties)
         {
-            string[] conditions = [.. new[] { Since(property), Differs(property) }.Where(part => part.Length > 0)];
-            string condition = conditions.Length > 0 ? $"if ({string.Join(" && ", conditions)}) " : "";
-            text.AppendLine($"        {condition}writer.Write({property.Code}, {Written(property)});");
+            text.AppendLine($"        {FieldText.Condition(property)}{FieldText.Exchanged(property, Exchange)};");
         }
-    }
-
-    private static string Since(CadProperty property)
-    {
-        return property.Since == 0 ? "" : $"writer.Release >= {property.Since.ToString(CultureInfo.InvariantCulture)}";
-    }
-
-    private static string Differs(CadProperty property)
-    {
-        if (!property.Optional)
-        {
-            return "";
-        }
-
-        if (!property.IsPoint)
-        {
-            return property.Kind == "CadBinary" ? $"{property.Name}.Length > 0"
-                : $"{property.Name} != {property.Initial ?? "default"}";
-        }
-
-        string initial = property.Initial ?? "new()";
-        string arguments = initial.Substring(initial.IndexOf('(')).Trim('(', ')');
-        string origin = property.Kind == "Cad3DPoint" ? "0, 0, 0" : "0, 0";
-        return $"!{property.Name}.Is({(arguments.Length == 0 ? origin : arguments)})";
-    }
-
-    private static string Written(CadProperty property)
-    {
-        return property switch
-        {
-            { IsEnum: true } => $"(int){property.Name}",
-            { Kind: "CadBool" } => $"{property.Name} ? 1 : 0",
-            _ => property.Name,
-        };
     }
 }

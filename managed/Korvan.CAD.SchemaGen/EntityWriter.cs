@@ -4,42 +4,42 @@ using Korvan.CAD.FileFormats.Ifc.Schema;
 
 namespace Korvan.CAD.SchemaGen;
 
-/// <summary>Writes the entities of an edition: a class each, with a property for each attribute of its own.</summary>
+/// <summary>Writes a class for each entity of a schema, with a property for each attribute that it declares.</summary>
 internal static class EntityWriter
 {
     private const string Base = "global::Korvan.CAD.FileFormats.Ifc.IfcEntityBase";
     private const string Indent = "    ";
 
-    internal static string Write(Edition edition)
+    internal static string Write(SchemaVersion version)
     {
-        StringBuilder text = Edition.Head(
-            edition.Namespace + ".Entities", "using System.Collections;\nusing System.Collections.Generic;\n");
-        foreach (SchemaEntity entity in edition.Table.Entities.Values)
+        StringBuilder text = SchemaVersion.Begin(
+            version.Namespace + ".Entities", "using System.Collections;\nusing System.Collections.Generic;\n");
+        foreach (SchemaEntity entity in version.Table.Entities.Values)
         {
-            WriteEntity(edition, entity, text);
+            WriteEntity(version, entity, text);
         }
 
         return text.ToString();
     }
 
-    private static void WriteEntity(Edition edition, SchemaEntity entity, StringBuilder text)
+    private static void WriteEntity(SchemaVersion version, SchemaEntity entity, StringBuilder text)
     {
-        string title = $"The entity {entity.Name} of {edition.Table.Name}"
-            + (entity.BaseName is null ? "" : $", derived from {entity.BaseName}")
-            + (entity.IsAbstract ? "; it has no instances of its own." : ".");
-        string parent = entity.BaseName is { } name ? edition.Entity(name) : Base;
-        Edition.Summary(text, "", title).Append("public ").Append(entity.IsAbstract ? "abstract " : "")
-            .Append("class ").Append(entity.Name).Append(edition.Suffix).Append(" : ").Append(parent).Append("\n{");
-        int first = CountInherited(edition.Table, entity, static one => one.Attributes.Count);
+        string title = $"The entity {entity.Name} of {version.Table.Name}"
+            + (entity.BaseName is null ? "" : $", a subtype of {entity.BaseName}")
+            + (entity.IsAbstract ? "; it is abstract." : ".");
+        string parent = entity.BaseName is { } name ? version.Entity(name) : Base;
+        SchemaVersion.Summary(text, "", title).Append("public ").Append(entity.IsAbstract ? "abstract " : "")
+            .Append("class ").Append(entity.Name).Append(version.Suffix).Append(" : ").Append(parent).Append("\n{");
+        int first = CountInherited(version.Table, entity, static one => one.Attributes.Count);
         for (int i = 0; i < entity.Attributes.Count; i++)
         {
-            WriteAttribute(edition, entity.Attributes[i], first + i, text);
+            WriteAttribute(version, entity.Attributes[i], first + i, text);
         }
 
-        first = CountInherited(edition.Table, entity, static one => one.Inverses.Count);
+        first = CountInherited(version.Table, entity, static one => one.Inverses.Count);
         for (int i = 0; i < entity.Inverses.Count; i++)
         {
-            WriteInverse(edition, entity.Inverses[i], first + i, text);
+            WriteInverse(version, entity.Inverses[i], first + i, text);
         }
 
         text.Append("}\n");
@@ -58,31 +58,31 @@ internal static class EntityWriter
         return all;
     }
 
-    private static void WriteAttribute(Edition edition, SchemaAttribute attribute, int at, StringBuilder text)
+    private static void WriteAttribute(SchemaVersion version, SchemaAttribute attribute, int at, StringBuilder text)
     {
-        SchemaShape shape = edition.Table.ShapeOf(attribute.Form);
+        SchemaShape shape = version.Table.ShapeOf(attribute.Form);
         string form = attribute.Form.Describe();
         string optional = attribute.IsOptional ? "optional" : "mandatory";
         string summary = $"Gets or sets the attribute {attribute.Name}, {optional}: {form}.";
-        string type = TypeOf(edition, attribute.Form, shape);
+        string type = TypeOf(version, attribute.Form, shape);
         string get = shape is SchemaShape.Enumeration or SchemaShape.Entity or SchemaShape.Select
             ? $"({type}?){shape}At({at})"
             : $"{Getters[shape]}({at})";
         string set = shape == SchemaShape.Enumeration ? $"PutEnumeration({at}, (int?)value)" : $"Put({at}, value)";
-        Edition.Summary(text, Indent, summary).Append(Indent).Append($"public {type}? {NameOf(attribute.Name)} ")
+        SchemaVersion.Summary(text, Indent, summary).Append(Indent).Append($"public {type}? {NameOf(attribute.Name)} ")
             .Append($"{{ get => {get}; set => {set}; }}\n");
     }
 
-    private static void WriteInverse(Edition edition, SchemaInverse inverse, int at, StringBuilder text)
+    private static void WriteInverse(SchemaVersion version, SchemaInverse inverse, int at, StringBuilder text)
     {
         bool isSingle = inverse.Form.Element is null;
         string type = isSingle
-            ? edition.Entity(inverse.Entity) + "?"
+            ? version.Entity(inverse.Entity) + "?"
             : "IReadOnlyList<global::Korvan.CAD.FileFormats.Ifc.IIfcEntity>";
         string get = isSingle ? $"({type})SingleInverseAt({at})" : $"InverseAt({at})";
-        string what = isSingle ? $"{inverse.Entity} whose" : $"instances of {inverse.Entity} whose";
-        string summary = $"Gets the {what} {inverse.Attribute} refers to this one.";
-        Edition.Summary(text, Indent, summary).Append(Indent)
+        string what = isSingle ? $"{inverse.Entity}" : $"instances of {inverse.Entity}";
+        string summary = $"Gets the {what} whose attribute {inverse.Attribute} refers to this one.";
+        SchemaVersion.Summary(text, Indent, summary).Append(Indent)
             .Append($"public {type} {NameOf(inverse.Name)} => {get};\n");
     }
 
@@ -97,16 +97,16 @@ internal static class EntityWriter
         [SchemaShape.Aggregate] = "ListAt",
     };
 
-    private static string TypeOf(Edition edition, SchemaForm form, SchemaShape shape) => shape switch
+    private static string TypeOf(SchemaVersion version, SchemaForm form, SchemaShape shape) => shape switch
     {
         SchemaShape.Text => "string",
         SchemaShape.Real => "double",
         SchemaShape.Integer => "long",
         SchemaShape.Boolean or SchemaShape.Logical => "bool",
         SchemaShape.Binary => "byte[]",
-        SchemaShape.Enumeration => edition.Enumeration(form),
-        SchemaShape.Select => edition.Type(form.Name),
-        SchemaShape.Entity => edition.Entity(form.Name),
+        SchemaShape.Enumeration => version.Enumeration(form),
+        SchemaShape.Select => version.Type(form.Name),
+        SchemaShape.Entity => version.Entity(form.Name),
         _ => "IList",
     };
 

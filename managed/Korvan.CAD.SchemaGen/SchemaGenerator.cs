@@ -6,8 +6,8 @@ using Microsoft.CodeAnalysis.Text;
 
 namespace Korvan.CAD.SchemaGen;
 
-/// <summary>Writes the classes of each table that is among the additional files: one source for the entities of an
-/// edition, one for its types.</summary>
+/// <summary>Writes the classes of each table among the additional files: one source file for the entities of a schema,
+/// one for its types.</summary>
 [Generator]
 public sealed class SchemaGenerator : IIncrementalGenerator
 {
@@ -25,9 +25,9 @@ public sealed class SchemaGenerator : IIncrementalGenerator
     {
         string text = file.GetText(output.CancellationToken)?.ToString() ?? string.Empty;
         SchemaTable table = SchemaTable.Read(new StringReader(text));
-        Edition edition = new Edition(table);
-        output.AddSource($"{table.Name}.Entities.g.cs", Source(EntityWriter.Write(edition)));
-        output.AddSource($"{table.Name}.Types.g.cs", Source(TypeWriter.Write(edition)));
+        SchemaVersion version = new SchemaVersion(table);
+        output.AddSource($"{table.Name}.Entities.g.cs", Source(EntityWriter.Write(version)));
+        output.AddSource($"{table.Name}.Types.g.cs", Source(TypeWriter.Write(version)));
     }
 
     private static SourceText Source(string text) => SourceText.From(text, Encoding.UTF8);

@@ -4,37 +4,37 @@ using Korvan.CAD.FileFormats.Ifc.Schema;
 
 namespace Korvan.CAD.SchemaGen;
 
-/// <summary>Writes the defined types, select types and enumerations of an edition.</summary>
+/// <summary>Writes the defined types, select types and enumerations of a schema.</summary>
 internal static class TypeWriter
 {
     private const string Indent = "    ";
 
-    internal static string Write(Edition edition)
+    internal static string Write(SchemaVersion version)
     {
-        StringBuilder text = Edition.Head(
-            edition.Namespace + ".Types", "using System.Collections;\nusing Korvan.CAD.FileFormats.Ifc;\n");
-        foreach (SchemaDefinedType type in edition.Table.DefinedTypes.Values)
+        StringBuilder text = SchemaVersion.Begin(
+            version.Namespace + ".Types", "using System.Collections;\nusing Korvan.CAD.FileFormats.Ifc;\n");
+        foreach (SchemaDefinedType type in version.Table.DefinedTypes.Values)
         {
-            WriteDefined(edition, type, text);
+            WriteDefined(version, type, text);
         }
 
-        foreach (SchemaChoice select in edition.Table.Selects.Values)
+        foreach (SchemaChoice select in version.Table.Selects.Values)
         {
-            WriteSelect(edition, select, text);
+            WriteSelect(version, select, text);
         }
 
-        foreach (SchemaChoice enumeration in edition.Table.Enumerations.Values)
+        foreach (SchemaChoice enumeration in version.Table.Enumerations.Values)
         {
-            WriteEnumeration(edition, enumeration, text);
+            WriteEnumeration(version, enumeration, text);
         }
 
         return text.ToString();
     }
 
-    private static void WriteDefined(Edition edition, SchemaDefinedType type, StringBuilder text)
+    private static void WriteDefined(SchemaVersion version, SchemaDefinedType type, StringBuilder text)
     {
-        SchemaShape shape = edition.Table.ShapeOf(type.Form);
-        string name = type.Name + edition.Suffix;
+        SchemaShape shape = version.Table.ShapeOf(type.Form);
+        string name = type.Name + version.Suffix;
         (string taken, string kept, string made) = shape switch
         {
             SchemaShape.Text => ("string", "string", "value"),
@@ -45,48 +45,49 @@ internal static class TypeWriter
             SchemaShape.Binary => ("byte[]", "byte[]", "(byte[])value.Clone()"),
             _ => ("IList", "IfcCollection", "new IfcCollection(value)"),
         };
-        string title = $"A value of the type {type.Name} of {edition.Table.Name}: {type.Form.Describe()}.";
-        Edition.Summary(text, "", title).Append($"public sealed class {name} : IIfcType\n{{");
-        Edition.Summary(text, Indent, "Creates the value.")
+        string title = $"A value of the type {type.Name} of {version.Table.Name}: {type.Form.Describe()}.";
+        SchemaVersion.Summary(text, "", title).Append($"public sealed class {name} : IIfcType\n{{");
+        SchemaVersion.Summary(text, Indent, "Creates the value.")
             .Append($"    /// <param name=\"value\">The value without its type{Unknown(shape)}.</param>\n")
             .Append($"    public {name}({taken} value) {{ Value = {made}; }}\n");
-        Edition.Summary(text, Indent, $"Gets the value without its type{Unknown(shape)}.")
+        SchemaVersion.Summary(text, Indent, $"Gets the value without its type{Unknown(shape)}.")
             .Append($"    public {kept} Value {{ get; }}\n");
-        Edition.Summary(text, Indent, "Gets the name in the schema.")
+        SchemaVersion.Summary(text, Indent, "Gets the name in the schema.")
             .Append($"    public string TypeName => \"{type.Name}\";\n");
-        Edition.Summary(text, Indent, "Gets the value without its type.")
+        SchemaVersion.Summary(text, Indent, "Gets the value without its type.")
             .Append("    public object? PlainValue => Value;\n");
-        Edition.Summary(text, Indent, "Gives type and value as text.")
+        SchemaVersion.Summary(text, Indent, "Returns type and value as text.")
             .Append($"    public override string ToString() => System.FormattableString.Invariant($\"{type.Name}")
             .Append("({Value})\");\n}\n");
     }
 
     private static string Unknown(SchemaShape shape) =>
-        shape == SchemaShape.Logical ? "; nothing where it is unknown" : string.Empty;
+        shape == SchemaShape.Logical ? "; <see langword=\"null\"/> if it is unknown" : string.Empty;
 
-    private static void WriteSelect(Edition edition, SchemaChoice select, StringBuilder text)
+    private static void WriteSelect(SchemaVersion version, SchemaChoice select, StringBuilder text)
     {
-        string name = select.Name + edition.Suffix;
-        string title = $"The select type {select.Name} of {edition.Table.Name}: one of "
+        string name = select.Name + version.Suffix;
+        string title = $"The select type {select.Name} of {version.Table.Name}: one of "
             + string.Join(", ", select.Members) + ".";
-        Edition.Summary(text, "", title).Append($"public sealed class {name} : IfcSelect\n{{");
-        Edition.Summary(text, Indent, "Chooses a value.")
-            .Append("    /// <param name=\"value\">An entity or a value of a defined type that is admitted.</param>\n")
+        SchemaVersion.Summary(text, "", title).Append($"public sealed class {name} : IfcSelect\n{{");
+        SchemaVersion.Summary(text, Indent, "Creates a select value.")
+            .Append("    /// <param name=\"value\">An entity or a value of a defined type that the select type ")
+            .Append("admits.</param>\n")
             .Append($"    public {name}(IIfcType value) : base(value) {{ }}\n");
-        foreach (string member in select.Members.Where(edition.Table.Enumerations.ContainsKey))
+        foreach (string member in select.Members.Where(version.Table.Enumerations.ContainsKey))
         {
-            Edition.Summary(text, Indent, $"Chooses an item of {member}.")
+            SchemaVersion.Summary(text, Indent, $"Creates a select value for an item of {member}.")
                 .Append("    /// <param name=\"value\">The item.</param>\n")
-                .Append($"    public {name}({edition.Type(member)} value) : base(\"{member}\", (int)value) {{ }}\n");
+                .Append($"    public {name}({version.Type(member)} value) : base(\"{member}\", (int)value) {{ }}\n");
         }
 
         text.Append("}\n");
     }
 
-    private static void WriteEnumeration(Edition edition, SchemaChoice enumeration, StringBuilder text)
+    private static void WriteEnumeration(SchemaVersion version, SchemaChoice enumeration, StringBuilder text)
     {
-        string title = $"The enumeration {enumeration.Name} of {edition.Table.Name}. A value is one item.";
-        Edition.Summary(text, "", title).Append($"public enum {enumeration.Name}{edition.Suffix}\n{{\n");
+        string title = $"The enumeration {enumeration.Name} of {version.Table.Name}.";
+        SchemaVersion.Summary(text, "", title).Append($"public enum {enumeration.Name}{version.Suffix}\n{{\n");
         for (int i = 0; i < enumeration.Members.Length; i++)
         {
             text.Append(Indent).Append(enumeration.Members[i]).Append(" = ").Append(i + 1).Append(",\n");

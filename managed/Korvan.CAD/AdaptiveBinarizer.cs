@@ -4,8 +4,8 @@ using Korvan.CAD.Raster.Operations;
 
 namespace Korvan.CAD;
 
-/// <summary>Makes pictures black and white by comparing each pixel with the mean of the square around it, for scans
-/// whose light is uneven.</summary>
+/// <summary>Binarizes images by comparing each pixel with the mean of the square around it, for unevenly lit scans (D.
+/// Bradley and G. Roth, 2007).</summary>
 /// <remarks>D. Bradley and G. Roth, "Adaptive thresholding using the integral image", 2007.</remarks>
 public class AdaptiveBinarizer : IImagePreprocessor
 {
@@ -27,7 +27,7 @@ public class AdaptiveBinarizer : IImagePreprocessor
     }
 
     /// <summary>Gets or sets the side of the square, 3 to 10000 pixels.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    /// <exception cref="ArgumentOutOfRangeException">The number is out of range.</exception>
     public int WindowSize
     {
         get => _windowSize;
@@ -39,7 +39,7 @@ public class AdaptiveBinarizer : IImagePreprocessor
     }
 
     /// <summary>Gets or sets how much darker than the mean of the square black is, 0 to 1.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    /// <exception cref="ArgumentOutOfRangeException">The number is out of range.</exception>
     public double BrightnessDifference
     {
         get => _brightnessDifference;

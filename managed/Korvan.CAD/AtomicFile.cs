@@ -9,8 +9,8 @@ using Microsoft.Win32.SafeHandles;
 namespace Korvan.CAD;
 
 /// <summary>
-/// Files that appear whole or not at all: written without a name, or beside their place under one of their own, then
-/// put in place. What is no regular file is never replaced: finished output goes into it.
+/// Files that appear complete or not at all: they are written without a name, or under a temporary name in the same
+/// folder, then moved into place. What is not a regular file is never replaced: complete output is written into it.
 /// </summary>
 internal static class AtomicFile
 {
@@ -21,14 +21,14 @@ internal static class AtomicFile
 
     /// <summary>Writes a file.</summary>
     /// <param name="filePath">Its path.</param>
-    /// <param name="overWrite">Whether a file that is there may be replaced.</param>
+    /// <param name="overWrite">Whether an existing file may be replaced.</param>
     /// <param name="write">Writes the content.</param>
-    /// <param name="avoidName">Whether the file stays without a name until it is whole, where its file system has such
-    /// files.</param>
+    /// <param name="avoidName">Whether the file has no name until it is complete, if the file system supports
+    /// that.</param>
     internal static void Write(string filePath, bool overWrite, Action<Stream> write, bool avoidName = true)
     {
         Verify.NotEmpty(filePath);
-        OddFileName.RefuseAsTarget(filePath);
+        UndecodableFileName.RefuseAsTarget(filePath);
         string target = Path.GetFullPath(filePath);
         PosixFile.Kind kind = PosixFile.KindOf(target);
         if (kind == PosixFile.Kind.Folder)
@@ -66,7 +66,7 @@ internal static class AtomicFile
         }
     }
 
-    // The output is whole before its first byte goes where it cannot be taken back.
+    // The output is complete before its first byte is written to where it cannot be undone.
     private static void WriteInto(string filePath, Action<Stream> write, SpanAction put)
     {
         using MemoryStream output = new();
@@ -122,7 +122,7 @@ internal static class AtomicFile
         }
     }
 
-    // The standard streams, and files that are open already, get the output at their own place.
+    // Standard streams and open files get the output at their current position.
     private static int? DescriptorOf(string path)
     {
         for (int links = 0; links < 8; links++)
@@ -149,7 +149,7 @@ internal static class AtomicFile
         return null;
     }
 
-    // A link is kept and the file it leads to is replaced.
+    // A link is kept, and its target is replaced.
     private static string ResolveLinks(string path)
     {
         return new FileInfo(path).LinkTarget is null ? path : File.ResolveLinkTarget(path, true)!.FullName;
@@ -165,7 +165,7 @@ internal static class AtomicFile
 
     private static bool IsOfTarget(Exception e) => e is IOException or UnauthorizedAccessException;
 
-    // The reason is part of the message: as an inner exception it would be told twice.
+    // The reason is part of the message: an inner exception would repeat it.
     private static ImageSaveException NotWritten(string filePath, string why) =>
         new($"'{filePath}' could not be written: {why}");
 
@@ -174,7 +174,7 @@ internal static class AtomicFile
 
     private delegate void SpanAction(ReadOnlySpan<byte> data);
 
-    /// <summary>What becomes a file.</summary>
+    /// <summary>A file that is being written.</summary>
     private sealed class PartFile
     {
         private string? _name;
@@ -187,10 +187,10 @@ internal static class AtomicFile
             Stream = stream;
         }
 
-        /// <summary>Gets the path of the file that it becomes.</summary>
+        /// <summary>Gets the path of the final file.</summary>
         internal string Target { get; }
 
-        /// <summary>Gets that path as the program gave it.</summary>
+        /// <summary>Gets that path as the program passed it.</summary>
         internal string Shown { get; }
 
         internal FileStream Stream { get; }
@@ -221,8 +221,8 @@ internal static class AtomicFile
             }
         }
 
-        /// <summary>Gives a file without a name its own where nothing stands in the way, else one to move it
-        /// by.</summary>
+        /// <summary>Gives a file without a name its final name if that is free, otherwise a temporary name for moving
+        /// it.</summary>
         internal void Name(bool overWrite)
         {
             if (_name is not null || PosixFile.TryName(Stream.SafeFileHandle, Target))
@@ -256,14 +256,13 @@ internal static class AtomicFile
             }
         }
 
-        /// <summary>A message of the system's, with the file's name in place of the one that it has
-        /// meanwhile.</summary>
+        /// <summary>A message of the system, with the final name in place of the temporary one.</summary>
         internal string WithoutName(string message) =>
             _name is null ? message : message.Replace(_name, Shown, StringComparison.Ordinal);
 
         private static string NewName(string target) => $"{target}.{Guid.NewGuid():N}{PartSuffix}";
 
-        // What a process that was ended left. A file that is being written is locked.
+        // Files that a terminated process has left. A file that is being written is locked.
         private static void RemoveForgotten(string target)
         {
             const int UniqueLength = 32;
@@ -286,7 +285,7 @@ internal static class AtomicFile
                 }
                 catch (Exception e) when (IsOfTarget(e))
                 {
-                    // Somebody writes it.
+                    // Another process is writing it.
                 }
             }
         }

@@ -6,20 +6,20 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
 
-/// <summary>Where the pixels of all images of this process are kept, and how much they may take.</summary>
+/// <summary>The storage of the pixels of all images in this process, and its limits.</summary>
 public static class Cache
 {
     private const long DefaultMemory = 1L << 30;
     private const long DefaultDisk = 8L << 30;
 
     private static readonly Lock Gate = new();
-    private static string folder = Path.GetTempPath();
-    private static long memoryLimit = DefaultMemory;
-    private static long diskLimit = DefaultDisk;
-    private static long memoryUsed;
-    private static long diskUsed;
+    private static string _folder = Path.GetTempPath();
+    private static long _memoryLimit = DefaultMemory;
+    private static long _diskLimit = DefaultDisk;
+    private static long _memoryUsed;
+    private static long _diskUsed;
 
-    /// <summary>Gets or sets where pixels are kept. Images that exist stay where they are.</summary>
+    /// <summary>Gets or sets where the pixels of new images are stored. Existing images stay where they are.</summary>
     public static CacheType CacheType { get; set; }
 
     /// <summary>Gets or sets the folder of the files; the system's folder for temporary files by default. The files
@@ -27,7 +27,7 @@ public static class Cache
     /// <exception cref="FrameworkException">There is no such folder.</exception>
     public static string CacheFolder
     {
-        get => folder;
+        get => _folder;
         set
         {
             Verify.NotEmpty(value);
@@ -36,7 +36,7 @@ public static class Cache
                 throw new FrameworkException($"The cache folder '{value}' does not exist; create it first.");
             }
 
-            folder = value;
+            _folder = value;
         }
     }
 
@@ -45,11 +45,11 @@ public static class Cache
     /// <exception cref="ArgumentOutOfRangeException">The number is negative.</exception>
     public static long MaxMemoryForCache
     {
-        get => memoryLimit;
+        get => _memoryLimit;
         set
         {
             Verify.NotNegative(value);
-            memoryLimit = value;
+            _memoryLimit = value;
         }
     }
 
@@ -58,25 +58,25 @@ public static class Cache
     /// <exception cref="ArgumentOutOfRangeException">The number is negative.</exception>
     public static long MaxDiskSpaceForCache
     {
-        get => diskLimit;
+        get => _diskLimit;
         set
         {
             Verify.NotNegative(value);
-            diskLimit = value;
+            _diskLimit = value;
         }
     }
 
-    /// <summary>Gets or sets whether an image that is cropped moves into a place of its exact size at once. By default
-    /// it keeps its place, and the free rest with it, until it is disposed or resized.</summary>
+    /// <summary>Gets or sets whether cropping an image reallocates its pixels to the exact size at once. By default it
+    /// keeps the larger allocation until it is disposed or resized.</summary>
     public static bool ExactReallocateOnly { get; set; }
 
     /// <summary>Gets how many bytes the pixels of all images take in memory now.</summary>
-    public static long AllocatedMemoryBytesCount => Interlocked.Read(ref memoryUsed);
+    public static long AllocatedMemoryBytesCount => Interlocked.Read(ref _memoryUsed);
 
     /// <summary>Gets how many bytes the pixels of all images take on disk now.</summary>
-    public static long AllocatedDiskBytesCount => Interlocked.Read(ref diskUsed);
+    public static long AllocatedDiskBytesCount => Interlocked.Read(ref _diskUsed);
 
-    /// <summary>Sets everything back to what it is at the start of the process.</summary>
+    /// <summary>Resets all settings to their values at the start of the process.</summary>
     public static void SetDefaults()
     {
         CacheType = CacheType.Auto;
@@ -86,19 +86,20 @@ public static class Cache
         ExactReallocateOnly = false;
     }
 
-    /// <summary>Books a place for pixels; the answer tells whether it is to be on disk.</summary>
+    /// <summary>Reserves storage for pixels; returns whether it is on disk.</summary>
     internal static bool Book(long bytes)
     {
         lock (Gate)
         {
-            bool fits = memoryLimit == 0 || memoryUsed + bytes <= memoryLimit;
+            bool fits = _memoryLimit == 0 || _memoryUsed + bytes <= _memoryLimit;
             bool onDisk = CacheType == CacheType.CacheOnDiskOnly || (CacheType == CacheType.Auto && !fits);
-            if (onDisk ? diskLimit != 0 && diskUsed + bytes > diskLimit : !fits)
+            if (onDisk ? _diskLimit != 0 && _diskUsed + bytes > _diskLimit : !fits)
             {
                 string place = onDisk ? $"on disk would pass Cache.{nameof(MaxDiskSpaceForCache)}"
                     : $"in memory would pass Cache.{nameof(MaxMemoryForCache)}";
-                throw new LimitMemoryException($"{bytes} bytes for pixels {place} ({(onDisk ? diskLimit : memoryLimit)} bytes,"
-                    + $" {(onDisk ? diskUsed : memoryUsed)} of them taken); dispose images or raise the limit.");
+                throw new LimitMemoryException(
+                    $"{bytes} bytes for pixels {place} ({(onDisk ? _diskLimit : _memoryLimit)} bytes,"
+                    + $" {(onDisk ? _diskUsed : _memoryUsed)} of them taken); dispose images or raise the limit.");
             }
 
             Add(bytes, onDisk);
@@ -118,11 +119,11 @@ public static class Cache
     {
         if (onDisk)
         {
-            diskUsed += bytes;
+            _diskUsed += bytes;
         }
         else
         {
-            memoryUsed += bytes;
+            _memoryUsed += bytes;
         }
     }
 }

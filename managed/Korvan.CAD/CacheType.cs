@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>Where the pixels of images are kept.</summary>
+/// <summary>Storage of the pixels of images.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum CacheType
 {
@@ -12,6 +12,6 @@ public enum CacheType
     /// <summary>In files of the cache folder.</summary>
     CacheOnDiskOnly = 1,
 
-    /// <summary>In memory; what goes beyond the limit is refused.</summary>
+    /// <summary>In memory; beyond the limit an error is raised.</summary>
     CacheInMemoryOnly = 2,
 }

@@ -3,8 +3,10 @@ using System.Text;
 
 namespace Korvan.CAD;
 
-/// <summary>Lets an encoding write letters that it lacks as <c>\U+XXXX</c>, as drawings do.</summary>
-/// <remarks>A letter beyond the basic plane becomes two sequences, one for each of its UTF-16 units.</remarks>
+/// <summary>An encoder fallback that replaces characters which the encoding lacks by escape sequences <c>\U+XXXX</c>,
+/// as in drawings.</summary>
+/// <remarks>A character outside of the Basic Multilingual Plane becomes two sequences, one for each UTF-16 code
+/// unit.</remarks>
 public class CifReplacingEncoderFallback : EncoderFallback
 {
     /// <summary>Creates the fallback.</summary>
@@ -12,11 +14,11 @@ public class CifReplacingEncoderFallback : EncoderFallback
     {
     }
 
-    /// <summary>Gets the most letters that stand for one: two sequences of seven.</summary>
+    /// <summary>Gets the maximum number of replacement characters for one character: two sequences of seven.</summary>
     public override int MaxCharCount => 2 * CifReplacingEncoderFallbackBuffer.SequenceLength;
 
-    /// <summary>Makes what writes the sequences, one letter after the other.</summary>
-    /// <returns>What writes the sequences, one letter after the other.</returns>
+    /// <summary>Creates the buffer that returns the sequences.</summary>
+    /// <returns>The buffer.</returns>
     public override CifReplacingEncoderFallbackBuffer CreateFallbackBuffer() => new();
 
     /// <inheritdoc/>

@@ -3,28 +3,29 @@ using System.Text;
 
 namespace Korvan.CAD;
 
-/// <summary>Gives the letters of <c>\U+XXXX</c> for a letter that an encoding lacks.</summary>
+/// <summary>The buffer of <see cref="CifReplacingEncoderFallback"/>: returns the characters of <c>\U+XXXX</c> for a
+/// character that the encoding lacks.</summary>
 public class CifReplacingEncoderFallbackBuffer : EncoderFallbackBuffer
 {
-    /// <summary>The letters of one sequence.</summary>
+    /// <summary>The number of characters in a sequence.</summary>
     internal const int SequenceLength = 7;
 
     private readonly char[] _text = new char[2 * SequenceLength];
     private int _length;
     private int _next;
 
-    /// <summary>Creates a buffer that has nothing to give.</summary>
+    /// <summary>Creates an empty buffer.</summary>
     public CifReplacingEncoderFallbackBuffer()
     {
     }
 
-    /// <summary>Gets how many letters are still to be given.</summary>
+    /// <summary>Gets the number of remaining characters.</summary>
     public override int Remaining => _length - _next;
 
-    /// <summary>Takes a letter of the basic plane that cannot be encoded.</summary>
-    /// <param name="charUnknown">The letter.</param>
-    /// <param name="index">Its place in the text.</param>
-    /// <returns>True: there are letters to put in its place.</returns>
+    /// <summary>Prepares the sequence for a character of the Basic Multilingual Plane.</summary>
+    /// <param name="charUnknown">The character that cannot be encoded.</param>
+    /// <param name="index">Its index in the string.</param>
+    /// <returns>True: there is a replacement.</returns>
     public override bool Fallback(char charUnknown, int index)
     {
         _next = 0;
@@ -32,11 +33,11 @@ public class CifReplacingEncoderFallbackBuffer : EncoderFallbackBuffer
         return true;
     }
 
-    /// <summary>Takes a letter beyond the basic plane that cannot be encoded.</summary>
-    /// <param name="charUnknownHigh">Its first UTF-16 unit.</param>
-    /// <param name="charUnknownLow">Its second.</param>
-    /// <param name="index">Its place in the text.</param>
-    /// <returns>True: there are letters to put in its place.</returns>
+    /// <summary>Prepares the sequences for a character outside of the Basic Multilingual Plane.</summary>
+    /// <param name="charUnknownHigh">Its high surrogate.</param>
+    /// <param name="charUnknownLow">Its low surrogate.</param>
+    /// <param name="index">Its index in the string.</param>
+    /// <returns>True: there is a replacement.</returns>
     public override bool Fallback(char charUnknownHigh, char charUnknownLow, int index)
     {
         _next = 0;
@@ -44,12 +45,12 @@ public class CifReplacingEncoderFallbackBuffer : EncoderFallbackBuffer
         return true;
     }
 
-    /// <summary>Gives the next letter; the zero letter when none is left.</summary>
-    /// <returns>The next letter.</returns>
+    /// <summary>Returns the next character; the null character if none is left.</summary>
+    /// <returns>The next character.</returns>
     public override char GetNextChar() => _next < _length ? _text[_next++] : '\0';
 
-    /// <summary>Goes back by one letter.</summary>
-    /// <returns>Whether there was one.</returns>
+    /// <summary>Moves back by one character.</summary>
+    /// <returns>Whether there was a previous one.</returns>
     public override bool MovePrevious()
     {
         if (_next == 0)
@@ -61,20 +62,20 @@ public class CifReplacingEncoderFallbackBuffer : EncoderFallbackBuffer
         return true;
     }
 
-    /// <summary>Forgets what is still to be given.</summary>
+    /// <summary>Discards the remaining characters.</summary>
     public override void Reset()
     {
         _next = 0;
         _length = 0;
     }
 
-    private int Write(char letter, int at)
+    private int Write(char unit, int at)
     {
         ReadOnlySpan<char> digits = "0123456789ABCDEF";
         "\\U+".CopyTo(_text.AsSpan(at));
         for (int i = 0; i < 4; i++)
         {
-            _text[at + 3 + i] = digits[(letter >> (12 - (4 * i))) & 15];
+            _text[at + 3 + i] = digits[(unit >> (12 - (4 * i))) & 15];
         }
 
         return at + SequenceLength;

@@ -4,10 +4,10 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD;
 
-/// <summary>A colour by its inks, each of 8 bits: 0 for none, 255 for full.</summary>
+/// <summary>A CMYK colour with 8 bits per ink: 0 for none, 255 for full.</summary>
 public readonly struct CmykColor : IEquatable<CmykColor>
 {
-    /// <summary>Creates white: no ink at all.</summary>
+    /// <summary>Creates white (no ink).</summary>
     public CmykColor()
     {
     }
@@ -25,7 +25,8 @@ public readonly struct CmykColor : IEquatable<CmykColor>
         K = Verified(black, nameof(black));
     }
 
-    private CmykColor(byte cyan, byte magenta, byte yellow, byte black) => (C, M, Y, K) = (cyan, magenta, yellow, black);
+    private CmykColor(byte cyan, byte magenta, byte yellow, byte black) =>
+        (C, M, Y, K) = (cyan, magenta, yellow, black);
 
     /// <summary>Gets the cyan ink, 0 to 255.</summary>
     public byte C { get; }
@@ -45,16 +46,16 @@ public readonly struct CmykColor : IEquatable<CmykColor>
     /// <summary>Compares two colours ink by ink.</summary>
     public static bool operator !=(CmykColor left, CmykColor right) => !left.Equals(right);
 
-    /// <summary>Parts a colour into inks, with as much black as it has; opacity is lost.</summary>
+    /// <summary>Converts a colour to CMYK with maximum black; alpha is lost.</summary>
     /// <remarks>The uncalibrated rule of PostScript, with full black generation and undercolour removal.</remarks>
     /// <param name="color">The colour.</param>
     public static CmykColor FromColor(Color color) => FromArgb32(color.ToArgb());
 
-    /// <summary>Gives the opaque colour that the inks make on white paper, without regard to real inks.</summary>
-    /// <returns>The opaque colour that the inks make on white paper, without regard to real inks.</returns>
+    /// <summary>Returns the opaque RGB colour by the simple conversion, without colour profiles.</summary>
+    /// <returns>The RGB colour.</returns>
     public Color ToColor() => Color.FromArgb(ToArgb32());
 
-    /// <summary>Tells whether both colours have the same inks.</summary>
+    /// <summary>Determines whether two colours have the same inks.</summary>
     /// <param name="other">The colour to compare with.</param>
     /// <returns>Whether both colours have the same inks.</returns>
     public bool Equals(CmykColor other) => C == other.C && M == other.M && Y == other.Y && K == other.K;
@@ -90,10 +91,11 @@ public readonly struct CmykColor : IEquatable<CmykColor>
         return Raster.Pixels.PixelGrid.Opaque | (Part(C) << 16) | (Part(M) << 8) | Part(Y);
     }
 
-    /// <summary>The inks as four bytes, cyan first.</summary>
+    /// <summary>Returns the inks as four bytes, cyan in the lowest.</summary>
     internal int ToStored() => C | (M << 8) | (Y << 16) | (K << 24);
 
-    internal static CmykColor FromStored(int inks) => new((byte)inks, (byte)(inks >> 8), (byte)(inks >> 16), (byte)(inks >> 24));
+    internal static CmykColor FromStored(int inks) =>
+        new((byte)inks, (byte)(inks >> 8), (byte)(inks >> 16), (byte)(inks >> 24));
 
     private static byte Verified(int value, string name)
     {

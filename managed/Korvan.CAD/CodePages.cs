@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>Code pages that the texts of older drawings are written in; the value is the number of the page.</summary>
+/// <summary>Code pages of the text in older drawings; the value is the number of the code page.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum CodePages
 {

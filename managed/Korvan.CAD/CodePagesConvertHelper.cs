@@ -7,12 +7,13 @@ using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD;
 
-/// <summary>Leads from code pages to the names that drawings give them, and from texts to bytes.</summary>
+/// <summary>Converts between code pages and their names in drawings, and between text and bytes.</summary>
 public static class CodePagesConvertHelper
 {
-    /// <summary>Finds the code page of a name such as <c>ANSI_1252</c>, <c>BIG5</c> or <c>UTF-8</c>.</summary>
-    /// <param name="name">The name, as the variable $DWGCODEPAGE has it; upper and lower case are the same.</param>
-    /// <returns>The code page, or <see cref="CodePages.Default"/> for one that <see cref="CodePages"/> lacks.</returns>
+    /// <summary>Returns the code page of a name such as <c>ANSI_1252</c>, <c>BIG5</c> or <c>UTF-8</c>.</summary>
+    /// <param name="name">The name as in the header variable $DWGCODEPAGE; case is ignored.</param>
+    /// <returns>The code page, or <see cref="CodePages.Default"/> for one that is not in
+    /// <see cref="CodePages"/>.</returns>
     public static CodePages FromName(string name)
     {
         Verify.NotNull(name);
@@ -20,9 +21,10 @@ public static class CodePagesConvertHelper
         return Enum.IsDefined(page) ? page : CodePages.Default;
     }
 
-    /// <summary>Gives the name that drawings have for a code page.</summary>
-    /// <param name="codePage">The code page; <see cref="CodePages.Default"/> is that of drawings that state none.</param>
-    /// <returns>The name that drawings have for a code page.</returns>
+    /// <summary>Returns the name of a code page in drawings.</summary>
+    /// <param name="codePage">The code page; <see cref="CodePages.Default"/> is that of drawings without a declared
+    /// one.</param>
+    /// <returns>The name.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such code page.</exception>
     public static string ToName(CodePages codePage) => codePage switch
     {
@@ -31,10 +33,10 @@ public static class CodePagesConvertHelper
         _ => "ANSI_" + Number(codePage),
     };
 
-    /// <summary>Finds the code page that a double-byte code page of sequences <c>\M+nXXXX</c> is.</summary>
+    /// <summary>Returns the code page of a double-byte code page of sequences <c>\M+nXXXX</c>.</summary>
     /// <param name="codePage">The double-byte code page.</param>
     /// <returns>The code page; <see cref="CodePages.Default"/> for <see cref="MifCodePages.Undefined"/> and for Johab,
-    /// which drawings cannot state.</returns>
+    /// which drawings cannot declare.</returns>
     public static CodePages FromMif(MifCodePages codePage) => codePage switch
     {
         MifCodePages.Japanese => CodePages.Japanese,
@@ -44,10 +46,10 @@ public static class CodePagesConvertHelper
         _ => CodePages.Default,
     };
 
-    /// <summary>Gives the bytes of a text. Letters that the code page lacks become <c>\U+XXXX</c>.</summary>
+    /// <summary>Encodes text. Characters that the code page lacks become <c>\U+XXXX</c>.</summary>
     /// <param name="text">The text.</param>
     /// <param name="codePage">The code page.</param>
-    /// <returns>The bytes of a text.</returns>
+    /// <returns>The bytes.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such code page.</exception>
     public static byte[] Encode(string text, CodePages codePage)
     {
@@ -55,11 +57,11 @@ public static class CodePagesConvertHelper
         return TextEscapes.Escaping(DwgCodePage.Get(Number(codePage))).GetBytes(text);
     }
 
-    /// <summary>Gives the text of bytes. Sequences <c>\U+XXXX</c> and <c>\M+nXXXX</c> become the letters that they
-    /// stand for.</summary>
+    /// <summary>Decodes text. Sequences <c>\U+XXXX</c> and <c>\M+nXXXX</c> become the characters that they
+    /// represent.</summary>
     /// <param name="bytes">The bytes.</param>
     /// <param name="codePage">The code page.</param>
-    /// <returns>The text of bytes.</returns>
+    /// <returns>The text.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such code page.</exception>
     public static string Decode(byte[] bytes, CodePages codePage)
     {

@@ -4,7 +4,7 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
 
-/// <summary>A colour with red, green, blue and opacity of 8 bits each.</summary>
+/// <summary>An RGB colour with alpha, 8 bits per component.</summary>
 public readonly partial struct Color : IEquatable<Color>
 {
     private readonly uint _argb;
@@ -19,16 +19,16 @@ public readonly partial struct Color : IEquatable<Color>
     /// <summary>Gets the colour that was never set; it differs from transparent black.</summary>
     public static Color Empty => default;
 
-    /// <summary>Gets the opacity, 0 (invisible) to 255 (opaque).</summary>
+    /// <summary>Gets the alpha component, 0 (transparent) to 255 (opaque).</summary>
     public byte A => (byte)(_argb >> 24);
 
-    /// <summary>Gets the red part, 0 to 255.</summary>
+    /// <summary>Gets the red component, 0 to 255.</summary>
     public byte R => (byte)(_argb >> 16);
 
-    /// <summary>Gets the green part, 0 to 255.</summary>
+    /// <summary>Gets the green component, 0 to 255.</summary>
     public byte G => (byte)(_argb >> 8);
 
-    /// <summary>Gets the blue part, 0 to 255.</summary>
+    /// <summary>Gets the blue component, 0 to 255.</summary>
     public byte B => (byte)_argb;
 
     /// <summary>Gets whether the colour was never set.</summary>
@@ -46,33 +46,33 @@ public readonly partial struct Color : IEquatable<Color>
     /// <summary>Compares two colours by value.</summary>
     public static bool operator !=(Color left, Color right) => !left.Equals(right);
 
-    /// <summary>Makes a colour from a number whose bytes are opacity, red, green and blue, the highest first.</summary>
-    /// <param name="argb">The number.</param>
-    /// <returns>A colour from a number whose bytes are opacity, red, green and blue, the highest first.</returns>
+    /// <summary>Returns the colour of a 32-bit ARGB value: alpha, red, green, blue from the highest byte on.</summary>
+    /// <param name="argb">The value.</param>
+    /// <returns>The colour.</returns>
     public static Color FromArgb(int argb) => new(unchecked((uint)argb));
 
-    /// <summary>Makes a colour with another opacity.</summary>
-    /// <param name="alpha">The opacity, 0 to 255.</param>
+    /// <summary>Returns a colour with another alpha component.</summary>
+    /// <param name="alpha">The alpha component, 0 (transparent) to 255 (opaque).</param>
     /// <param name="baseColor">The colour whose red, green and blue are taken.</param>
-    /// <returns>A colour with another opacity.</returns>
+    /// <returns>The colour.</returns>
     public static Color FromArgb(int alpha, Color baseColor)
     {
         return new Color((Part(alpha, nameof(alpha)) << 24) | (baseColor._argb & 0xFFFFFF));
     }
 
-    /// <summary>Makes an opaque colour.</summary>
-    /// <param name="red">The red part, 0 to 255.</param>
-    /// <param name="green">The green part, 0 to 255.</param>
-    /// <param name="blue">The blue part, 0 to 255.</param>
-    /// <returns>An opaque colour.</returns>
+    /// <summary>Returns an opaque colour.</summary>
+    /// <param name="red">The red component, 0 to 255.</param>
+    /// <param name="green">The green component, 0 to 255.</param>
+    /// <param name="blue">The blue component, 0 to 255.</param>
+    /// <returns>The colour.</returns>
     public static Color FromArgb(int red, int green, int blue) => FromArgb(255, red, green, blue);
 
-    /// <summary>Makes a colour from its four parts.</summary>
-    /// <param name="alpha">The opacity, 0 to 255.</param>
-    /// <param name="red">The red part, 0 to 255.</param>
-    /// <param name="green">The green part, 0 to 255.</param>
-    /// <param name="blue">The blue part, 0 to 255.</param>
-    /// <returns>A colour from its four parts.</returns>
+    /// <summary>Returns a colour of four components.</summary>
+    /// <param name="alpha">The alpha component, 0 (transparent) to 255 (opaque).</param>
+    /// <param name="red">The red component, 0 to 255.</param>
+    /// <param name="green">The green component, 0 to 255.</param>
+    /// <param name="blue">The blue component, 0 to 255.</param>
+    /// <returns>The colour.</returns>
     public static Color FromArgb(int alpha, int red, int green, int blue)
     {
         return new Color(
@@ -80,9 +80,9 @@ public readonly partial struct Color : IEquatable<Color>
             | (Part(green, nameof(green)) << 8) | Part(blue, nameof(blue)));
     }
 
-    /// <summary>Finds a well-known colour; upper and lower case are the same.</summary>
+    /// <summary>Returns a named colour; case is ignored.</summary>
     /// <param name="name">The name, as in <c>"MidnightBlue"</c>.</param>
-    /// <returns>A well-known colour.</returns>
+    /// <returns>The colour.</returns>
     /// <exception cref="FrameworkException">No colour has this name.</exception>
     public static Color FromName(string name)
     {
@@ -97,21 +97,21 @@ public readonly partial struct Color : IEquatable<Color>
         throw new FrameworkException($"No colour is called '{name}'; names are those of style sheets, like 'Tomato'.");
     }
 
-    /// <summary>Gives the colour as a number whose bytes are opacity, red, green and blue, the highest first.</summary>
-    /// <returns>The colour as a number whose bytes are opacity, red, green and blue, the highest first.</returns>
+    /// <summary>Returns the 32-bit ARGB value: alpha, red, green, blue from the highest byte on.</summary>
+    /// <returns>The ARGB value.</returns>
     public int ToArgb() => unchecked((int)_argb);
 
-    /// <summary>Gives the lightness of the colour, 0 (black) to 1 (white).</summary>
+    /// <summary>Returns the HSL lightness, 0 (black) to 1 (white).</summary>
     /// <remarks>The mean of the largest and the smallest part, as in the HSL model.</remarks>
-    /// <returns>The lightness of the colour, 0 (black) to 1 (white).</returns>
+    /// <returns>The lightness.</returns>
     public float GetBrightness()
     {
         return (Math.Max(R, Math.Max(G, B)) + Math.Min(R, Math.Min(G, B))) / 510f;
     }
 
-    /// <summary>Tells whether both colours have the same parts and are both set.</summary>
+    /// <summary>Determines whether two colours have the same components and are both set.</summary>
     /// <param name="other">The colour to compare with.</param>
-    /// <returns>Whether both colours have the same parts and are both set.</returns>
+    /// <returns>Whether they are equal.</returns>
     public bool Equals(Color other) => _argb == other._argb && _isSet == other._isSet;
 
     /// <inheritdoc/>
@@ -127,7 +127,7 @@ public readonly partial struct Color : IEquatable<Color>
     {
         if ((uint)value > 255)
         {
-            throw Verify.OutOfRange(name, value, "A part of a colour is 0 to 255.");
+            throw Verify.OutOfRange(name, value, "A colour component is 0 to 255.");
         }
 
         return (uint)value;

@@ -6,12 +6,12 @@ namespace Korvan.CAD;
 [PythonEnum(EnumKind.Integer)]
 public enum ColorCompareMethod
 {
-    /// <summary>Straight distance in red, green, blue and opacity.</summary>
+    /// <summary>Euclidean distance in RGB and alpha.</summary>
     Euclidean = 0,
 
-    /// <summary>Distance with the channels weighted as the eye takes them (the red mean of T. Riemersma).</summary>
+    /// <summary>Distance with perceptually weighted channels (the "redmean" of T. Riemersma).</summary>
     Weighted = 1,
 
-    /// <summary>Difference of lightness alone (ITU-R BT.601).</summary>
+    /// <summary>Difference of luma (ITU-R BT.601).</summary>
     Luminance = 2,
 }

@@ -9,9 +9,9 @@ public enum ColorMatrixFlag
     /// <summary>All colours.</summary>
     Default = 0,
 
-    /// <summary>Greys stay as they are.</summary>
+    /// <summary>All colours but grays.</summary>
     SkipGrays = 1,
 
-    /// <summary>Greys alone are changed.</summary>
+    /// <summary>Grays only.</summary>
     AltGrays = 2,
 }

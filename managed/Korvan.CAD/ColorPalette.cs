@@ -5,7 +5,7 @@ using Korvan.CAD.Raster.Colors;
 
 namespace Korvan.CAD;
 
-/// <summary>A list of colours for pixels that are numbers.</summary>
+/// <summary>A palette of colours for indexed pixels.</summary>
 public class ColorPalette : IColorPalette
 {
     private readonly int[] _entries;
@@ -13,7 +13,7 @@ public class ColorPalette : IColorPalette
     private ColorCompareMethod _compareMethod;
 
     /// <summary>Creates a palette.</summary>
-    /// <param name="argb32Entries">The colours as 32-bit numbers, opacity in the highest byte; 1 to 65536 of them.</param>
+    /// <param name="argb32Entries">The colours as 32-bit ARGB values; 1 to 65536 of them.</param>
     /// <exception cref="ArgumentException">There are no colours, or too many.</exception>
     public ColorPalette(int[] argb32Entries)
     {
@@ -51,7 +51,7 @@ public class ColorPalette : IColorPalette
 
     /// <summary>Creates a palette.</summary>
     /// <param name="colors">The colours; 1 to 65536 of them.</param>
-    /// <returns>A palette.</returns>
+    /// <returns>The palette.</returns>
     /// <exception cref="ArgumentException">There are no colours, or too many.</exception>
     public static ColorPalette FromColors(Color[] colors)
     {

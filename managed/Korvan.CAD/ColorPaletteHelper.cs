@@ -6,7 +6,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD;
 
-/// <summary>Makes palettes.</summary>
+/// <summary>Creates palettes.</summary>
 public static class ColorPaletteHelper
 {
     private static readonly int[] BaseColors =
@@ -15,50 +15,56 @@ public static class ColorPaletteHelper
         0x808080, 0xFF0000, 0x00FF00, 0xFFFF00, 0x0000FF, 0xFF00FF, 0x00FFFF, 0xFFFFFF,
     ];
 
-    /// <summary>Gives black and white.</summary>
+    /// <summary>Returns a palette of black and white.</summary>
     /// <returns>Black and white.</returns>
     public static IColorPalette CreateMonochrome() => new ColorPalette([PixelGrid.Opaque, -1]);
 
-    /// <summary>Gives the 16 basic colours of HTML 4.01.</summary>
-    /// <returns>The 16 basic colours of HTML 4.01.</returns>
-    public static IColorPalette Create4Bit() => new ColorPalette(Array.ConvertAll(BaseColors, static rgb => rgb | PixelGrid.Opaque));
+    /// <summary>Returns a palette of the 16 basic colours of HTML 4.01.</summary>
+    /// <returns>The palette.</returns>
+    public static IColorPalette Create4Bit() =>
+        new ColorPalette(Array.ConvertAll(BaseColors, static rgb => rgb | PixelGrid.Opaque));
 
-    /// <summary>Gives 252 colours in even steps: 6 of red, 7 of green, 6 of blue.</summary>
-    /// <returns>252 colours in even steps.</returns>
+    /// <summary>Returns a uniform palette of 252 colours: 6 levels of red, 7 of green, 6 of blue.</summary>
+    /// <returns>The palette.</returns>
     public static IColorPalette Create8Bit() => GetUniformColorPalette(256);
 
-    /// <summary>Gives 16 greys from black to white.</summary>
-    /// <returns>16 greys from black to white.</returns>
+    /// <summary>Returns a palette of 16 grays from black to white.</summary>
+    /// <returns>The palette.</returns>
     public static IColorPalette Create4BitGrayscale() => Grays(16);
 
-    /// <summary>Gives 256 greys from black to white.</summary>
-    /// <returns>256 greys from black to white.</returns>
+    /// <summary>Returns a palette of 256 grays from black to white.</summary>
+    /// <returns>The palette.</returns>
     public static IColorPalette Create8BitGrayscale() => Grays(256);
 
-    /// <summary>Gives colours in even steps, whatever a picture holds.</summary>
-    /// <param name="entriesCount">How many at most, 2 to 256; as many as a regular lattice has.</param>
-    /// <returns>Colours in even steps, whatever a picture holds.</returns>
-    public static IColorPalette GetUniformColorPalette(int entriesCount) => new ColorPalette(Quantizer.Uniform(Verified(entriesCount)));
+    /// <summary>Returns a uniform palette, independent of an image.</summary>
+    /// <param name="entriesCount">The maximum number of colours, 2 to 256; the palette has as many as a regular lattice
+    /// fits.</param>
+    /// <returns>The palette.</returns>
+    public static IColorPalette GetUniformColorPalette(int entriesCount) =>
+        new ColorPalette(Quantizer.Uniform(Verified(entriesCount)));
 
-    /// <summary>Chooses colours for a picture, by median cut.</summary>
-    /// <param name="image">The picture.</param>
-    /// <param name="entriesCount">How many at most, 2 to 256. A picture with no more colours gets exactly its own.</param>
+    /// <summary>Returns a palette for an image, chosen by median cut.</summary>
+    /// <param name="image">The image.</param>
+    /// <param name="entriesCount">The maximum number of colours, 2 to 256. An image with no more colours gets exactly
+    /// its own.</param>
     public static IColorPalette GetCloseImagePalette(RasterImage image, int entriesCount) =>
         GetCloseImagePalette(image, entriesCount, ColorQuantizationMethod.MedianCut);
 
-    /// <summary>Chooses colours for a picture.</summary>
-    /// <param name="image">The picture.</param>
-    /// <param name="entriesCount">How many at most, 2 to 256. A picture with no more colours gets exactly its own.</param>
-    /// <param name="method">How they are chosen.</param>
-    public static IColorPalette GetCloseImagePalette(RasterImage image, int entriesCount, ColorQuantizationMethod method)
+    /// <summary>Returns a palette for an image.</summary>
+    /// <param name="image">The image.</param>
+    /// <param name="entriesCount">The maximum number of colours, 2 to 256. An image with no more colours gets exactly
+    /// its own.</param>
+    /// <param name="method">How the colours are chosen.</param>
+    public static IColorPalette GetCloseImagePalette(
+        RasterImage image, int entriesCount, ColorQuantizationMethod method)
     {
         Verify.NotNull(image);
         return new ColorPalette(PaletteChoice.For(image.Pixels, null, Verified(entriesCount), method));
     }
 
-    /// <summary>Tells whether any colour of a palette is less than opaque.</summary>
+    /// <summary>Returns whether any colour of a palette is not opaque.</summary>
     /// <param name="palette">The palette.</param>
-    /// <returns>Whether any colour of a palette is less than opaque.</returns>
+    /// <returns>Whether there is one.</returns>
     public static bool HasTransparentColors(IColorPalette palette)
     {
         Verify.NotNull(palette);

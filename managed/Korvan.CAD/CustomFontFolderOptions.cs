@@ -6,12 +6,12 @@ namespace Korvan.CAD;
 [PythonEnum(EnumKind.Flag)]
 public enum CustomFontFolderOptions
 {
-    /// <summary>The fonts of the folders themselves, beside those of the system.</summary>
+    /// <summary>The fonts directly in the folders, in addition to installed fonts.</summary>
     None = 0,
 
-    /// <summary>The fonts of folders within the folders as well.</summary>
+    /// <summary>The fonts in subfolders as well.</summary>
     IncludeSubfolders = 1,
 
-    /// <summary>No fonts of the system: what the folders lack is drawn with what they have.</summary>
+    /// <summary>No installed fonts: fonts that the folders lack are replaced by others from the folders.</summary>
     IgnoreSystemFonts = 2,
 }

@@ -8,8 +8,8 @@ namespace Korvan.CAD;
 /// <summary>An object whose data comes from a stream and can be written to one.</summary>
 public abstract class DataStreamSupporter : DisposableObject
 {
-    /// <summary>Gets the stream that the data was read from, or nothing when the object was made in memory
-    /// or has read all of its data.</summary>
+    /// <summary>Gets the stream that the data was read from, or <see langword="null"/> if the object was created in
+    /// memory or has read all of its data.</summary>
     public StreamContainer? DataStreamContainer { get; internal set; }
 
     /// <summary>Gets whether all data has been read, so that the stream it came from is no longer needed.</summary>
@@ -18,10 +18,9 @@ public abstract class DataStreamSupporter : DisposableObject
     /// <summary>Reads all data that has not been read yet.</summary>
     public abstract void CacheData();
 
-    /// <summary>Writes the data over the file or stream that it was read from, in the format it was read
-    /// from.</summary>
-    /// <exception cref="ImageSaveException">It was made in memory, so that there is no such place; or writing
-    /// failed.</exception>
+    /// <summary>Overwrites the file or stream that the data was read from, in the same format.</summary>
+    /// <exception cref="ImageSaveException">The object was created in memory, so that it has no such file or stream; or
+    /// writing failed.</exception>
     public void Save() => SaveOver();
 
     /// <summary>Writes the data to a stream, in the format it was read from.</summary>
@@ -35,13 +34,14 @@ public abstract class DataStreamSupporter : DisposableObject
 
     /// <summary>Writes the data to a file, in the format it was read from.</summary>
     /// <param name="filePath">The path of the file. A file that exists is replaced only when writing succeeds; a device
-    /// or a FIFO gets the output. An ending that stands for another format is refused.</param>
-    /// <exception cref="ImageSaveException">Writing failed, or the name has the ending of another format.</exception>
+    /// or a FIFO gets the output. An extension of another format raises an error.</param>
+    /// <exception cref="ImageSaveException">Writing failed, or the name has the extension of another
+    /// format.</exception>
     public virtual void Save(string filePath) => Save(filePath, true);
 
     /// <summary>Writes the data to a file.</summary>
     /// <param name="filePath">The path of the file.</param>
-    /// <param name="overWrite">Whether a file that exists may be replaced. If not, that is an error.</param>
+    /// <param name="overWrite">Whether an existing file may be replaced; otherwise, it raises an error.</param>
     public virtual void Save(string filePath, bool overWrite)
     {
         VerifyNotDisposed();
@@ -53,11 +53,11 @@ public abstract class DataStreamSupporter : DisposableObject
     /// <summary>Writes the data in its own format.</summary>
     internal abstract void SaveData(Stream stream);
 
-    /// <summary>Writes the data where it was read from.</summary>
+    /// <summary>Overwrites the file or stream that the data was read from.</summary>
     internal abstract void SaveOver();
 
-    /// <summary>Gives what writes the data into a file of this name.</summary>
-    /// <exception cref="ImageSaveException">The name has the ending of another format.</exception>
+    /// <summary>Returns a function that writes the data to a file of this name.</summary>
+    /// <exception cref="ImageSaveException">The name has the extension of another format.</exception>
     internal virtual Action<Stream> OwnWriter(string filePath) => SaveData;
 
     /// <inheritdoc/>

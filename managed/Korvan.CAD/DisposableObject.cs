@@ -3,13 +3,13 @@ using System.Diagnostics.CodeAnalysis;
 
 namespace Korvan.CAD;
 
-/// <summary>The root of the classes that hold something which has to be let go.</summary>
+/// <summary>The base of classes with resources that have to be released.</summary>
 public abstract class DisposableObject : IDisposable
 {
     /// <summary>Gets whether <see cref="Dispose()"/> has been called.</summary>
     public bool Disposed { get; private set; }
 
-    /// <summary>Lets go of what the object holds. Calling it again does nothing.</summary>
+    /// <summary>Releases the resources of the object. Further calls have no effect.</summary>
     public void Dispose()
     {
         if (!Disposed)
@@ -21,7 +21,7 @@ public abstract class DisposableObject : IDisposable
         GC.SuppressFinalize(this);
     }
 
-    /// <summary>Lets go of what this class holds; called once.</summary>
+    /// <summary>Releases the resources of this class; called once.</summary>
     internal virtual void ReleaseManagedResources()
     {
     }

@@ -2,22 +2,23 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>How a picture is brought to few colours.</summary>
+/// <summary>How an image is dithered to a palette.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum DitheringMethod
 {
-    /// <summary>Each pixel takes the nearest colour; no pattern.</summary>
+    /// <summary>None: each pixel takes the nearest colour.</summary>
     Threshold = 0,
 
-    /// <summary>A regular pattern of 8 × 8 thresholds (B. Bayer, 1973).</summary>
+    /// <summary>Ordered dithering with a matrix of 8 × 8 thresholds (B. Bayer, 1973).</summary>
     Ordered = 1,
 
-    /// <summary>The error goes to the four next neighbours (R. Floyd and L. Steinberg, 1976).</summary>
+    /// <summary>Floyd-Steinberg error diffusion to four neighbours (R. Floyd and L. Steinberg, 1976).</summary>
     FloydSteinberg = 2,
 
-    /// <summary>Three quarters of the error are spread over six neighbours: light, with clean whites.</summary>
+    /// <summary>Atkinson error diffusion: three quarters of the error to six neighbours; clean whites.</summary>
     Atkinson = 3,
 
-    /// <summary>The error is spread over twelve neighbours (1976): smooth and slow.</summary>
+    /// <summary>Error diffusion to twelve neighbours (J. Jarvis, C. Judice and W. Ninke, 1976): smooth and
+    /// slow.</summary>
     JarvisJudiceNinke = 4,
 }

@@ -8,7 +8,7 @@ using Korvan.CAD.Scene3D;
 
 namespace Korvan.CAD;
 
-/// <summary>The faces of one entity of a drawing in world coordinates, as triangles.</summary>
+/// <summary>The mesh of one entity of a drawing, as triangles in world coordinates.</summary>
 public class DrawingEntity3D : ObjectWithBounds, IMeasurableEntity
 {
     private readonly Node _node;
@@ -26,7 +26,7 @@ public class DrawingEntity3D : ObjectWithBounds, IMeasurableEntity
     /// <summary>Gets the handle of the entity that the faces come from.</summary>
     public string UniqueId => _node.Handle;
 
-    /// <summary>Gets the type of that entity as files name it.</summary>
+    /// <summary>Gets the type name of that entity as in files.</summary>
     public string TypeNameText => _node.TypeName;
 
     /// <summary>Gets the name of the layer.</summary>
@@ -42,10 +42,10 @@ public class DrawingEntity3D : ObjectWithBounds, IMeasurableEntity
         }
     }
 
-    /// <summary>Gets the corners of all faces; faces share those that they have in common.</summary>
+    /// <summary>Gets the vertices; faces share common ones.</summary>
     public Point3D[] Vertices => [.. _mesh.Positions.Select(point => ToPoint(_world.Point(point)))];
 
-    /// <summary>Gets the indices in <see cref="Vertices"/> of the corners of triangles, three for each.</summary>
+    /// <summary>Gets the indices of the triangles into <see cref="Vertices"/>, three for each.</summary>
     public int[] Triangles
     {
         get
@@ -66,12 +66,12 @@ public class DrawingEntity3D : ObjectWithBounds, IMeasurableEntity
     /// <inheritdoc/>
     public override Point3D MaxPoint { get; }
 
-    /// <summary>Gives nothing: faces have an area, but no length.</summary>
-    /// <returns>Nothing.</returns>
+    /// <summary>Returns <see langword="null"/>: a mesh has an area, but no length.</summary>
+    /// <returns><see langword="null"/>.</returns>
     public double? GetLength() => null;
 
-    /// <summary>Gives the area of all faces.</summary>
-    /// <returns>The area of all faces.</returns>
+    /// <summary>Returns the total area of the faces, in square drawing units.</summary>
+    /// <returns>The area.</returns>
     public double? GetArea()
     {
         double area = 0;

@@ -3,14 +3,14 @@ using Korvan.CAD.FileFormats;
 
 namespace Korvan.CAD;
 
-/// <summary>The file formats that the library tells apart.</summary>
+/// <summary>The file formats that the library detects.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum FileFormat : ulong
 {
-    /// <summary>No format is stated or the content was not recognised.</summary>
+    /// <summary>No format is given, or the content was not recognised.</summary>
     Undefined = 0,
 
-    /// <summary>A format registered by the program.</summary>
+    /// <summary>A format that the program registers.</summary>
     Custom = 1,
 
     /// <summary>BMP image.</summary>
@@ -30,7 +30,8 @@ public enum FileFormat : ulong
     Png = 16,
 
     /// <summary>TIFF image.</summary>
-    [FileFormatMetadata("Tagged image file format", FileFormatFamily.Raster, FileFormatCategory.Bitmap, ".tif", ".tiff")]
+    [FileFormatMetadata(
+        "Tagged image file format", FileFormatFamily.Raster, FileFormatCategory.Bitmap, ".tif", ".tiff")]
     Tiff = 32,
 
     /// <summary>PSD image.</summary>
@@ -249,8 +250,9 @@ public enum FileFormat : ulong
     [FileFormatMetadata("Drawing interchange file", FileFormatFamily.Dxf, FileFormatCategory.Cad, ".dxf")]
     DxfCadR2013 = 65579,
 
-    /// <summary>Industry foundation classes, edition 2x3.</summary>
-    [FileFormatMetadata("Industry foundation classes 2x3", FileFormatFamily.Ifc, FileFormatCategory.Bim, ".ifc", ".ifczip")]
+    /// <summary>Industry foundation classes, IFC2X3.</summary>
+    [FileFormatMetadata(
+        "Industry foundation classes 2x3", FileFormatFamily.Ifc, FileFormatCategory.Bim, ".ifc", ".ifczip")]
     IFC2X3 = 65580,
 
     /// <summary>Stereolithography mesh.</summary>
@@ -262,7 +264,8 @@ public enum FileFormat : ulong
     Dwf = 65582,
 
     /// <summary>Initial graphics exchange specification.</summary>
-    [FileFormatMetadata("Initial graphics exchange specification", FileFormatFamily.Solid, FileFormatCategory.Cad, ".igs", ".iges")]
+    [FileFormatMetadata(
+        "Initial graphics exchange specification", FileFormatFamily.Solid, FileFormatCategory.Cad, ".igs", ".iges")]
     Iges = 65583,
 
     /// <summary>Plotter commands.</summary>
@@ -357,8 +360,9 @@ public enum FileFormat : ulong
     [FileFormatMetadata("Wavefront object", FileFormatFamily.Mesh, FileFormatCategory.Cad, ".obj")]
     Obj = 65606,
 
-    /// <summary>Industry foundation classes, edition 4.</summary>
-    [FileFormatMetadata("Industry foundation classes 4", FileFormatFamily.Ifc, FileFormatCategory.Bim, ".ifc", ".ifczip")]
+    /// <summary>Industry foundation classes, IFC4.</summary>
+    [FileFormatMetadata(
+        "Industry foundation classes 4", FileFormatFamily.Ifc, FileFormatCategory.Bim, ".ifc", ".ifczip")]
     IFC4 = 65607,
 
     /// <summary>Filmbox scene.</summary>

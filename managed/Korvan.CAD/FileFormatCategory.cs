@@ -12,7 +12,7 @@ public enum FileFormatCategory
     /// <summary>A building model.</summary>
     Bim = 1,
 
-    /// <summary>Pixels.</summary>
+    /// <summary>Raster images.</summary>
     Bitmap = 2,
 
     /// <summary>Vector graphics.</summary>

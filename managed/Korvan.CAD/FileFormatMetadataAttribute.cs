@@ -4,7 +4,7 @@ using Korvan.CAD.FileFormats;
 
 namespace Korvan.CAD;
 
-/// <summary>Says of a format what its files are called and what kind of content they have.</summary>
+/// <summary>States name, family, category and file extensions of a format.</summary>
 [AttributeUsage(AttributeTargets.Field)]
 public sealed class FileFormatMetadataAttribute : Attribute
 {
@@ -12,7 +12,7 @@ public sealed class FileFormatMetadataAttribute : Attribute
     /// <param name="name">The name of the format.</param>
     /// <param name="family">The family that it belongs to.</param>
     /// <param name="category">The kind of content.</param>
-    /// <param name="extensions">The endings of file names, with their point, the usual one first.</param>
+    /// <param name="extensions">The file extensions with their period, the default one first.</param>
     public FileFormatMetadataAttribute(
         string name, FileFormatFamily family, FileFormatCategory category, params string[] extensions)
     {
@@ -32,6 +32,6 @@ public sealed class FileFormatMetadataAttribute : Attribute
     /// <summary>Gets the kind of content.</summary>
     public FileFormatCategory Category { get; }
 
-    /// <summary>Gets the endings of file names, with their point, the usual one first.</summary>
+    /// <summary>Gets the file extensions with their period, the default one first.</summary>
     public string[] Extensions { get; }
 }

@@ -12,7 +12,7 @@ public class FileStreamContainer : StreamContainer
         FilePath = filePath;
     }
 
-    /// <summary>Gives the stream of the file in a container.</summary>
+    /// <summary>Returns the file stream of a container.</summary>
     public static explicit operator Stream(FileStreamContainer container)
     {
         Verify.NotNull(container);

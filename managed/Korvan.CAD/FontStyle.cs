@@ -2,22 +2,22 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>How letters look; the values can be combined.</summary>
+/// <summary>The style of a font; the values can be combined.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum FontStyle
 {
-    /// <summary>Upright and of usual weight.</summary>
+    /// <summary>Upright, with regular weight.</summary>
     Regular = 0,
 
-    /// <summary>Heavy.</summary>
+    /// <summary>Bold.</summary>
     Bold = 1,
 
-    /// <summary>Slanted.</summary>
+    /// <summary>Italic or oblique.</summary>
     Italic = 2,
 
-    /// <summary>With a line below.</summary>
+    /// <summary>Underlined.</summary>
     Underline = 4,
 
-    /// <summary>With a line through the middle.</summary>
+    /// <summary>Struck out.</summary>
     Strikeout = 8,
 }

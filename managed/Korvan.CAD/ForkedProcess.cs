@@ -7,21 +7,21 @@ using System.Threading.Tasks;
 namespace Korvan.CAD;
 
 /// <summary>
-/// Tells whether this process is a fork of the one in which the runtime was started. A fork has one thread: what the
-/// thread that forked can do alone works, collections included. What waits for another thread of the runtime waits for
-/// ever: the thread pool, timers, tasks, and the finalizers, which never run.
+/// Determines whether this process is a fork of the one in which the runtime was started. A fork has one thread:
+/// whatever that thread can do alone works, including garbage collection. Waiting for another thread of the runtime
+/// never ends: the thread pool, timers and tasks. Finalizers never run.
 /// </summary>
 internal static partial class ForkedProcess
 {
-    private static int s_owner;
+    private static int _owner;
 
-    /// <summary>Gets a value indicating whether the runtime's threads stayed behind in another process.</summary>
+    /// <summary>Gets whether this process is a fork, which lacks the threads of the runtime.</summary>
     /// <remarks><see cref="Environment.ProcessId"/> is remembered from before the fork.</remarks>
-    internal static bool IsChild => GetProcessId() != s_owner;
+    internal static bool IsChild => GetProcessId() != _owner;
 
-    /// <summary>Runs pieces of work side by side where there are threads for it, else one after the other.</summary>
-    /// <param name="count">How many pieces there are.</param>
-    /// <param name="run">Does the piece of a number.</param>
+    /// <summary>Runs pieces of work in parallel if there are threads for it, otherwise one after the other.</summary>
+    /// <param name="count">The number of pieces.</param>
+    /// <param name="run">Processes the piece with an index.</param>
     internal static void RunPieces(int count, Action<int> run)
     {
         if (count > 1 && !IsChild)
@@ -38,7 +38,7 @@ internal static partial class ForkedProcess
 
     [ModuleInitializer]
     [SuppressMessage("Usage", "CA2255", Justification = "The first use may be in the child: too late to ask.")]
-    internal static void Remember() => s_owner = GetProcessId();
+    internal static void Remember() => _owner = GetProcessId();
 
     [LibraryImport("libc", EntryPoint = "getpid")]
     private static partial int GetProcessId();

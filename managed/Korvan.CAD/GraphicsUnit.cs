@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>The unit that lengths on a page are counted in.</summary>
+/// <summary>The unit of lengths on a page.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum GraphicsUnit
 {

@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>What becomes of an ampersand in a text that marks the letter behind it as a key.</summary>
+/// <summary>The treatment of an ampersand, which marks the next character as a hotkey.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum HotkeyPrefix
 {
-    /// <summary>It is a letter as any other.</summary>
+    /// <summary>It is an ordinary character.</summary>
     None = 0,
 
-    /// <summary>It is left out, and the letter behind it is underlined.</summary>
+    /// <summary>It is hidden, and the next character is underlined.</summary>
     Show = 1,
 
-    /// <summary>It is left out.</summary>
+    /// <summary>It is hidden.</summary>
     Hide = 2,
 }

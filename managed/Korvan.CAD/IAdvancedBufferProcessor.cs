@@ -1,11 +1,11 @@
 namespace Korvan.CAD;
 
-/// <summary>Changes bytes of pixels in place, knowing where their rows begin.</summary>
+/// <summary>Changes a block of pixel bytes in place.</summary>
 public interface IAdvancedBufferProcessor : IBufferProcessor
 {
     /// <summary>Changes a block of pixels in place.</summary>
-    /// <param name="buffer">Pixels of four bytes: blue, green, red, opacity.</param>
-    /// <param name="rectangle">The block, in pixels from the first one.</param>
-    /// <param name="stride">How many bytes lie between the beginnings of two rows.</param>
+    /// <param name="buffer">Pixels of four bytes: blue, green, red, alpha.</param>
+    /// <param name="rectangle">The block in pixels, relative to the first pixel of the buffer.</param>
+    /// <param name="stride">The distance from one row to the next in bytes.</param>
     void ProcessBlock(byte[] buffer, Rectangle rectangle, int stride);
 }

@@ -1,17 +1,17 @@
 namespace Korvan.CAD;
 
-/// <summary>Turns bytes of some form into 32-bit colours, and back.</summary>
+/// <summary>Converts bytes of a pixel format to 32-bit ARGB values, and back.</summary>
 public interface IColorConverter
 {
-    /// <summary>Gets the form of the bytes.</summary>
+    /// <summary>Gets the format of the bytes.</summary>
     PixelDataFormat DataFormat { get; }
 
-    /// <summary>Turns a row of pixels into colours.</summary>
+    /// <summary>Converts a row of pixels to ARGB values.</summary>
     /// <param name="rawData">The bytes of the row.</param>
-    /// <param name="pixelCount">How many pixels it has.</param>
+    /// <param name="pixelCount">The number of pixels in the row.</param>
     int[] ToArgb32(byte[] rawData, int pixelCount);
 
-    /// <summary>Turns colours into a row of pixels.</summary>
+    /// <summary>Converts ARGB values to a row of pixels.</summary>
     /// <param name="argb32Pixels">The colours.</param>
     byte[] FromArgb32(int[] argb32Pixels);
 }

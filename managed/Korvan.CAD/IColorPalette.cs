@@ -1,33 +1,33 @@
 namespace Korvan.CAD;
 
-/// <summary>The colours that the pixels of an image are numbers of.</summary>
+/// <summary>A palette: the colours of indexed pixels.</summary>
 public interface IColorPalette
 {
-    /// <summary>Gets how many colours there are.</summary>
+    /// <summary>Gets the number of colours.</summary>
     int EntriesCount { get; }
 
-    /// <summary>Gets the colours as 32-bit numbers: opacity, red, green, blue from the highest byte on.</summary>
+    /// <summary>Gets the colours as 32-bit ARGB values.</summary>
     int[] Argb32Entries { get; }
 
     /// <summary>Gets the colours.</summary>
     Color[] Entries { get; }
 
-    /// <summary>Gets whether no colour stands twice in the palette.</summary>
+    /// <summary>Gets whether the palette has no duplicate colours.</summary>
     bool IsCompactPalette { get; }
 
-    /// <summary>Gives the number of the colour that is nearest.</summary>
-    /// <param name="argb32Color">The colour looked for, as a 32-bit number.</param>
+    /// <summary>Returns the index of the nearest colour.</summary>
+    /// <param name="argb32Color">The colour to find, as a 32-bit ARGB value.</param>
     int GetNearestColorIndex(int argb32Color);
 
-    /// <summary>Gives the number of the colour that is nearest.</summary>
-    /// <param name="color">The colour looked for.</param>
+    /// <summary>Returns the index of the nearest colour.</summary>
+    /// <param name="color">The colour to find.</param>
     int GetNearestColorIndex(Color color);
 
-    /// <summary>Gives one colour as a 32-bit number.</summary>
-    /// <param name="index">Its number, from 0.</param>
+    /// <summary>Returns a colour as a 32-bit ARGB value.</summary>
+    /// <param name="index">The index, from 0.</param>
     int GetArgb32Color(int index);
 
-    /// <summary>Gives one colour.</summary>
-    /// <param name="index">Its number, from 0.</param>
+    /// <summary>Returns a colour.</summary>
+    /// <param name="index">The index, from 0.</param>
     Color GetColor(int index);
 }

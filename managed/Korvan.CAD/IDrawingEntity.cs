@@ -1,11 +1,11 @@
 namespace Korvan.CAD;
 
-/// <summary>Something in a drawing, whatever the format.</summary>
+/// <summary>An entity of a drawing in any format.</summary>
 public interface IDrawingEntity
 {
-    /// <summary>Gets what names the entity within its drawing; empty as long as there is nothing.</summary>
+    /// <summary>Gets the unique identifier of the entity within its drawing; empty if it has none.</summary>
     string UniqueId { get; }
 
-    /// <summary>Gets the type as files of the format name it.</summary>
+    /// <summary>Gets the type name as in files of the format.</summary>
     string TypeNameText { get; }
 }

@@ -1,9 +1,9 @@
 namespace Korvan.CAD;
 
-/// <summary>Changes a picture before something else is done with it.</summary>
+/// <summary>Preprocesses an image.</summary>
 public interface IImagePreprocessor
 {
-    /// <summary>Changes a picture in place.</summary>
-    /// <param name="image">The picture.</param>
+    /// <summary>Changes an image in place.</summary>
+    /// <param name="image">The image.</param>
     void Process(RasterImage image);
 }

@@ -1,8 +1,8 @@
 namespace Korvan.CAD;
 
-/// <summary>Turns numbers of colours into 32-bit colours, and back to the nearest.</summary>
+/// <summary>Converts palette indices to 32-bit ARGB values, and back to the index of the nearest colour.</summary>
 public interface IIndexedColorConverter : IColorConverter
 {
-    /// <summary>Gets the colours that are numbered.</summary>
+    /// <summary>Gets the palette.</summary>
     IColorPalette Palette { get; }
 }

@@ -1,8 +1,8 @@
 namespace Korvan.CAD;
 
-/// <summary>Something that is found by a key among its like.</summary>
+/// <summary>An object that is looked up by a key.</summary>
 public interface IKeyedObject
 {
-    /// <summary>Gets the key: the name of a record of a table, the handle of an entity.</summary>
+    /// <summary>Gets the key: the name of a table record, or the handle of an entity.</summary>
     string Key { get; }
 }

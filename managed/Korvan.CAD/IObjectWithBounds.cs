@@ -2,12 +2,12 @@ using Korvan.CAD.Primitives;
 
 namespace Korvan.CAD;
 
-/// <summary>Something that takes a room in space.</summary>
+/// <summary>An object with a bounding box.</summary>
 public interface IObjectWithBounds
 {
-    /// <summary>Gets the corner of the room with the smallest coordinates.</summary>
+    /// <summary>Gets the corner of the bounding box with the smallest coordinates.</summary>
     Point3D MinPoint { get; }
 
-    /// <summary>Gets the corner of the room with the largest coordinates.</summary>
+    /// <summary>Gets the corner of the bounding box with the largest coordinates.</summary>
     Point3D MaxPoint { get; }
 }

@@ -1,10 +1,10 @@
 namespace Korvan.CAD;
 
-/// <summary>Takes pixels in blocks, as colours.</summary>
+/// <summary>Receives pixels in blocks, as colours.</summary>
 public interface IPartialPixelLoader
 {
-    /// <summary>Takes a block.</summary>
-    /// <param name="pixelsRectangle">Where it belongs.</param>
+    /// <summary>Receives a block.</summary>
+    /// <param name="pixelsRectangle">The position of the block in the image.</param>
     /// <param name="pixels">Its colours, row by row.</param>
     void ProcessColors(Rectangle pixelsRectangle, Color[] pixels);
 }

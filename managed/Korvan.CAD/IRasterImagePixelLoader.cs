@@ -1,10 +1,10 @@
 namespace Korvan.CAD;
 
-/// <summary>Gives pixels as colours, also in bands.</summary>
+/// <summary>Provides pixels as colours, in bands.</summary>
 public interface IRasterImagePixelLoader
 {
-    /// <summary>Hands a block of pixels on in bands.</summary>
+    /// <summary>Passes a block of pixels on in bands.</summary>
     /// <param name="rectangle">The block.</param>
-    /// <param name="partialPixelLoader">What takes the bands.</param>
+    /// <param name="partialPixelLoader">The receiver of the bands.</param>
     void LoadPartialPixels(Rectangle rectangle, IPartialPixelLoader partialPixelLoader);
 }

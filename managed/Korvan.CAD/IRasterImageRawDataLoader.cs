@@ -1,16 +1,16 @@
 namespace Korvan.CAD;
 
-/// <summary>Gives pixels as bytes.</summary>
+/// <summary>Provides pixels as bytes.</summary>
 public interface IRasterImageRawDataLoader
 {
-    /// <summary>Gets whether bytes can be had.</summary>
+    /// <summary>Gets whether bytes are available.</summary>
     bool IsRawDataAvailable { get; }
 
-    /// <summary>Gets the form that costs no conversion.</summary>
+    /// <summary>Gets the native format, which needs no conversion.</summary>
     RawDataSettings RawDataSettings { get; }
 
-    /// <summary>Gives a block of pixels as bytes, row by row.</summary>
+    /// <summary>Returns a block of pixels as bytes, row by row.</summary>
     /// <param name="rectangle">The block.</param>
-    /// <param name="settings">The form of the bytes.</param>
+    /// <param name="settings">The format of the bytes.</param>
     byte[] LoadRawData(Rectangle rectangle, RawDataSettings settings);
 }

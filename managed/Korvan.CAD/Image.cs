@@ -1,38 +1,39 @@
 using System;
-using System.Collections.Generic;
-using System.Diagnostics;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.Annotations;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats;
+using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering;
 using Korvan.CAD.WatermarkGuard;
 
 namespace Korvan.CAD;
 
-/// <summary>What was read from a file: the base of the drawing and image classes of all formats.</summary>
+/// <summary>The content of a file: the base of the drawing, model and image classes of all formats.</summary>
 public abstract partial class Image : DataStreamSupporter
 {
     internal Image()
     {
     }
 
-    /// <summary>Gets the rectangle of the content from the origin, in whole units of <see cref="UnitType"/>.</summary>
+    /// <summary>Gets the rectangle from the origin with the size of the content, in whole units of
+    /// <see cref="UnitType"/>.</summary>
     public Rectangle Bounds => new(0, 0, Width, Height);
 
-    /// <summary>Gets the image that holds this one as a page or frame, or nothing.</summary>
+    /// <summary>Gets the image of which this one is a page or frame; <see langword="null"/> for none.</summary>
     public Image? Container { get; internal set; }
 
     /// <summary>Gets the extent along Y in whole units, rounded up.</summary>
     public abstract int Height { get; }
 
-    /// <summary>Gets the extent along Z in whole units, rounded up; 0 for what is flat.</summary>
+    /// <summary>Gets the extent along Z in whole units, rounded up; 0 for flat content.</summary>
     public virtual int Depth => 0;
 
-    /// <summary>Gets or sets the colours that pixels are numbers of; nothing where pixels are colours and for
-    /// vector drawings.</summary>
+    /// <summary>Gets or sets the palette of indexed pixels; <see langword="null"/> for pixels with direct colours and
+    /// for vector drawings.</summary>
     public IColorPalette? Palette { get; set; }
 
     /// <summary>Gets width and height in whole units.</summary>
@@ -41,11 +42,11 @@ public abstract partial class Image : DataStreamSupporter
     /// <summary>Gets the extent along X in whole units, rounded up.</summary>
     public abstract int Width { get; }
 
-    /// <summary>Gets the unit of length of the content; <see cref="ImageOptions.UnitType.Unitless"/> when the file
-    /// states none.</summary>
+    /// <summary>Gets the unit of length of the content; <see cref="ImageOptions.UnitType.Unitless"/> if the file states
+    /// none.</summary>
     public virtual UnitType UnitType => UnitType.Unitless;
 
-    /// <summary>Gets or sets the unit that is assumed where the file states none.</summary>
+    /// <summary>Gets or sets the unit that is assumed if the file states none.</summary>
     public UnitType UnitlessDefaultUnitType
     {
         get;
@@ -56,116 +57,115 @@ public abstract partial class Image : DataStreamSupporter
         }
     } = UnitType.Unitless;
 
-    /// <summary>Gets the annotations; nothing for images of formats that have none.</summary>
+    /// <summary>Gets the annotations; <see langword="null"/> for images of formats that have none.</summary>
     public virtual IAnnotationService? AnnotationService => null;
 
-    /// <summary>Gets the hidden marks; nothing for images of formats that have none.</summary>
+    /// <summary>Gets access to the watermark; <see langword="null"/> for images of formats that have none.</summary>
     public virtual IWatermarkGuardService? WatermarkGuardService => null;
 
     /// <summary>Gets the options that the image was read with.</summary>
     internal LoadOptions LoadOptions { get; set; } = new();
 
-    /// <summary>Gets where in its stream the image begins, in bytes from the start.</summary>
+    /// <summary>Gets the position in its stream at which the image begins, in bytes.</summary>
     internal long DataStart { get; set; }
 
-    /// <summary>Gets the path that the image was read from, or nothing.</summary>
+    /// <summary>Gets the path that the image was read from, or <see langword="null"/>.</summary>
     internal virtual string? FilePath { get; set; }
 
-    /// <summary>Reads a file; the format is found from the content.</summary>
+    /// <summary>Loads a file; its format is detected from the content.</summary>
     /// <param name="filePath">The path of the file.</param>
-    /// <param name="loadOptions">How to read it.</param>
-    /// <returns>A file.</returns>
+    /// <param name="loadOptions">The load options.</param>
+    /// <returns>The image.</returns>
     /// <exception cref="ImageLoadException">The file is missing, damaged or of a format that has no reader.</exception>
     public static Image Load(string filePath, LoadOptions loadOptions)
     {
         return ImageLoader.Load(filePath, loadOptions);
     }
 
-    /// <summary>Reads a file; the format is found from the content.</summary>
+    /// <summary>Loads a file; its format is detected from the content.</summary>
     /// <param name="filePath">The path of the file.</param>
-    /// <returns>A file.</returns>
+    /// <returns>The image.</returns>
     /// <exception cref="ImageLoadException">The file is missing, damaged or of a format that has no reader.</exception>
     public static Image Load(string filePath) => Load(filePath, new LoadOptions());
 
-    /// <summary>Reads a stream from its position to its end.</summary>
-    /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/>
-    /// until it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
-    /// <param name="loadOptions">How to read it.</param>
-    /// <returns>A stream from its position to its end.</returns>
+    /// <summary>Loads a stream from its position to its end; the format is detected from the content.</summary>
+    /// <param name="stream">The stream. The image keeps it as its <see cref="DataStreamSupporter.DataStreamContainer"/>
+    /// until it is disposed, and <see cref="Save()"/> overwrites it if it is writable and seekable.</param>
+    /// <param name="loadOptions">The load options.</param>
+    /// <returns>The image.</returns>
     /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
     public static Image Load([PythonKept] Stream stream, LoadOptions loadOptions)
     {
         return ImageLoader.Load(stream, null, loadOptions);
     }
 
-    /// <summary>Reads a stream from its position to its end.</summary>
-    /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/>
-    /// until it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
-    /// <param name="fileName">The name that stands in messages, and whose folder is searched for files that the
-    /// drawing refers to.</param>
-    /// <param name="loadOptions">How to read it.</param>
-    /// <returns>A stream from its position to its end.</returns>
+    /// <summary>Loads a stream from its position to its end; the format is detected from the content.</summary>
+    /// <param name="stream">The stream. The image keeps it as its <see cref="DataStreamSupporter.DataStreamContainer"/>
+    /// until it is disposed, and <see cref="Save()"/> overwrites it if it is writable and seekable.</param>
+    /// <param name="fileName">The name for messages, whose folder is searched for files that the drawing refers
+    /// to.</param>
+    /// <param name="loadOptions">The load options.</param>
+    /// <returns>The image.</returns>
     /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
     public static Image Load([PythonKept] Stream stream, string fileName, LoadOptions loadOptions)
     {
         return ImageLoader.Load(stream, fileName, loadOptions);
     }
 
-    /// <summary>Reads a stream from its position to its end.</summary>
-    /// <param name="stream">The stream. The image holds it as its <see cref="DataStreamSupporter.DataStreamContainer"/>
-    /// until it is disposed, and writes over it with <see cref="Save()"/> where it can be written and can seek.</param>
-    /// <returns>A stream from its position to its end.</returns>
+    /// <summary>Loads a stream from its position to its end; the format is detected from the content.</summary>
+    /// <param name="stream">The stream. The image keeps it as its <see cref="DataStreamSupporter.DataStreamContainer"/>
+    /// until it is disposed, and <see cref="Save()"/> overwrites it if it is writable and seekable.</param>
+    /// <returns>The image.</returns>
     /// <exception cref="ImageLoadException">The content is damaged or of a format that has no reader.</exception>
     public static Image Load([PythonKept] Stream stream) => Load(stream, new LoadOptions());
 
-    /// <summary>Tells from the first bytes whether a file is of a format that can be read.</summary>
-    /// <param name="filePath">The path of the file. A file that is missing cannot be read.</param>
-    /// <returns>Whether there is a reader for it.</returns>
+    /// <summary>Determines from the content whether a file can be loaded.</summary>
+    /// <param name="filePath">The path of the file. A missing file cannot be loaded.</param>
+    /// <returns>Whether the format can be loaded.</returns>
     public static bool CanLoad(string filePath) => ImageLoader.CanLoad(filePath);
 
-    /// <summary>Tells from the first bytes whether a file is of a format that can be read.</summary>
-    /// <param name="filePath">The path of the file. A file that is missing cannot be read.</param>
-    /// <param name="loadOptions">How it would be read.</param>
-    /// <returns>Whether there is a reader for it.</returns>
+    /// <summary>Determines from the content whether a file can be loaded.</summary>
+    /// <param name="filePath">The path of the file. A missing file cannot be loaded.</param>
+    /// <param name="loadOptions">The load options.</param>
+    /// <returns>Whether the format can be loaded.</returns>
     public static bool CanLoad(string filePath, LoadOptions loadOptions)
     {
         Verify.NotNull(loadOptions);
         return ImageLoader.CanLoad(filePath);
     }
 
-    /// <summary>Tells from the next bytes whether a stream is of a format that can be read. The position of a
-    /// stream that can seek is kept.</summary>
+    /// <summary>Determines from the content whether a stream can be loaded. The position of a seekable stream is
+    /// kept.</summary>
     /// <param name="stream">The stream.</param>
-    /// <returns>Whether there is a reader for it.</returns>
+    /// <returns>Whether the format can be loaded.</returns>
     public static bool CanLoad(Stream stream) => ImageLoader.CanLoad(stream);
 
-    /// <summary>Tells from the next bytes whether a stream is of a format that can be read. The position of a
-    /// stream that can seek is kept.</summary>
+    /// <summary>Determines from the content whether a stream can be loaded. The position of a seekable stream is
+    /// kept.</summary>
     /// <param name="stream">The stream.</param>
-    /// <param name="loadOptions">How it would be read.</param>
-    /// <returns>Whether there is a reader for it.</returns>
+    /// <param name="loadOptions">The load options.</param>
+    /// <returns>Whether the format can be loaded.</returns>
     public static bool CanLoad(Stream stream, LoadOptions loadOptions)
     {
         Verify.NotNull(loadOptions);
         return ImageLoader.CanLoad(stream);
     }
 
-    /// <summary>Finds the format of a file from its content.</summary>
+    /// <summary>Detects the format of a file from its content.</summary>
     /// <param name="filePath">The path of the file.</param>
-    /// <returns>The format, or <see cref="FileFormat.Undefined"/>. Drawing interchange files of releases newer than
-    /// 2013 count as <see cref="FileFormat.DxfCadR2013"/>.</returns>
+    /// <returns>The format, or <see cref="FileFormat.Undefined"/>. Drawing interchange files of releases after 2013 are
+    /// reported as <see cref="FileFormat.DxfCadR2013"/>.</returns>
     /// <exception cref="ImageLoadException">The file is missing or cannot be opened.</exception>
     public static FileFormat GetFileFormat(string filePath) => ImageLoader.GetFileFormat(filePath);
 
-    /// <summary>Finds the format of a stream from its content. The position of a stream that can seek is
-    /// kept.</summary>
+    /// <summary>Detects the format of a stream from its content. The position of a seekable stream is kept.</summary>
     /// <param name="stream">The stream.</param>
     /// <returns>The format, or <see cref="FileFormat.Undefined"/>.</returns>
     public static FileFormat GetFileFormat(Stream stream) => ImageLoader.GetFileFormat(stream);
 
-    /// <summary>Writes the image in its own format over the file or stream that it was read from.</summary>
-    /// <exception cref="ImageSaveException">It was made in memory, so that there is no such place; or writing
-    /// failed.</exception>
+    /// <summary>Overwrites the file or stream that the image was read from, in its own format.</summary>
+    /// <exception cref="ImageSaveException">The object was created in memory, so that it has no such file or stream; or
+    /// writing failed.</exception>
     public new void Save() => SaveOver();
 
     /// <inheritdoc/>
@@ -183,46 +183,48 @@ public abstract partial class Image : DataStreamSupporter
         ImageSaver.Replace(stream, DataStart, SaveData);
     }
 
-    /// <summary>Writes the image to a file in the format that the options stand for.</summary>
+    /// <summary>Writes the image to a file in the format of the options.</summary>
     /// <param name="filePath">The path of the file. A file that exists is replaced only when writing succeeds.</param>
-    /// <param name="options">The options; their class tells the format.</param>
-    /// <exception cref="ImageSaveException">Writing failed, or this image has no way into that format.</exception>
+    /// <param name="options">The options; their class determines the format.</param>
+    /// <exception cref="ImageSaveException">Writing failed, or this image cannot be converted to that
+    /// format.</exception>
     public void Save(string filePath, ImageOptionsBase options)
     {
         VerifyNotDisposed();
         Verify.NotNull(options);
         VerifyCanSave(options);
-        AtomicFile.Write(filePath, true, stream => ExportTimed(options, stream));
+        AtomicFile.Write(filePath, true, stream => Export(options, stream));
     }
 
-    /// <summary>Writes the image to a stream in the format that the options stand for.</summary>
+    /// <summary>Writes the image to a stream in the format of the options.</summary>
     /// <param name="stream">The stream to write to, from its position on; it stays open.</param>
-    /// <param name="optionsBase">The options; their class tells the format.</param>
-    /// <exception cref="ImageSaveException">Writing failed, or this image has no way into that format.</exception>
+    /// <param name="optionsBase">The options; their class determines the format.</param>
+    /// <exception cref="ImageSaveException">Writing failed, or this image cannot be converted to that
+    /// format.</exception>
     public void Save(Stream stream, ImageOptionsBase optionsBase)
     {
         VerifyNotDisposed();
         Verify.NotNull(stream);
         Verify.NotNull(optionsBase);
         VerifyCanSave(optionsBase);
-        ImageSaver.WriteTo(stream, output => ExportTimed(optionsBase, output));
+        ImageSaver.WriteTo(stream, output => Export(optionsBase, output));
     }
 
-    /// <summary>Tells whether the image can be written in the format that the options stand for.</summary>
+    /// <summary>Returns whether the image can be written in the format of the options.</summary>
     /// <param name="options">The options.</param>
-    /// <returns>Whether the image can be written in the format that the options stand for.</returns>
+    /// <returns>Whether the image can be written.</returns>
     public bool CanSave(ImageOptionsBase options)
     {
         Verify.NotNull(options);
-        return SupportsExport(options);
+        return FormatRegistry.FindWriter(this, options.GetType()) is not null;
     }
 
-    /// <summary>Gives the texts of the content, in drawing order and without formatting codes.</summary>
-    /// <returns>The texts of the content, in drawing order and without formatting codes.</returns>
+    /// <summary>Returns the text strings of the content, in drawing order and without formatting codes.</summary>
+    /// <returns>The strings.</returns>
     public virtual string[] GetStrings() => [];
 
-    /// <summary>Gives what the image is and where it came from in one line.</summary>
-    /// <returns>What the image is and where it came from in one line.</returns>
+    /// <summary>Returns a description of the image and its source in one line.</summary>
+    /// <returns>The description.</returns>
     public override string ToString()
     {
         string name = GetType().Name;
@@ -236,55 +238,82 @@ public abstract partial class Image : DataStreamSupporter
         return $"{name} of {Content}{from}";
     }
 
-    /// <summary>Gets in a few words what the image holds.</summary>
+    /// <summary>Gets a short description of the content.</summary>
     internal abstract string Content { get; }
 
-    internal abstract bool SupportsExport(ImageOptionsBase options);
+    /// <summary>Gets the format of content that was not read from a file.</summary>
+    private protected abstract FileFormat NativeFormat { get; }
 
-    /// <summary>Gets the classes of options that <see cref="SupportsExport"/> says yes to.</summary>
-    internal abstract IEnumerable<Type> ExportOptionTypes { get; }
+    /// <summary>Gets or sets the format of the file that the image was read from; undefined for images that were
+    /// created in memory.</summary>
+    internal FileFormat SourceFormat { get; set; }
 
-    internal abstract void Export(ImageOptionsBase options, Stream stream);
-
-    /// <summary>Gets the format that is written without options.</summary>
-    internal abstract FileFormat OwnFormat { get; }
+    /// <inheritdoc/>
+    internal override void SaveData(Stream stream) => WriteOwn(OwnOptions(SourceOrNative, ""), stream);
 
     /// <inheritdoc/>
     internal override Action<Stream> OwnWriter(string filePath)
     {
-        FileFormatInfo[] meant = Path.GetExtension(filePath) is { Length: > 1 } ending
-            ? FileFormatInfo.FindByExtension(ending) : [];
-        if (meant.Length == 0 || Array.Exists(meant, info => info.Format == OwnFormat))
+        string extension = Path.GetExtension(filePath);
+        FileFormatInfo[] meant = extension.Length > 1 ? FileFormatInfo.FindByExtension(extension) : [];
+        if (meant.Length == 0)
         {
             return SaveData;
         }
 
-        string[] classes = [.. ExportOptionTypes
-            .Where(type => Array.Exists(meant, info => info.Format == ImageSaver.FormatOf(type)))
+        // Content from a format that cannot be written can still be saved in its native format.
+        FileFormat[] own = [SourceOrNative, NativeFormat];
+        FileFormat chosen = Array.Find(own, format => Array.Exists(meant, info => info.Format == format)
+            && FormatRegistry.OwnOptions(this, new SaveTarget(format, extension)) is not null);
+        if (chosen != FileFormat.Undefined)
+        {
+            return stream => WriteOwn(OwnOptions(chosen, extension), stream);
+        }
+
+        string[] classes = [.. FormatRegistry.OptionTypesFor(this, [.. meant.Select(static info => info.Format)])
             .Select(static type => type.Name)];
         throw new ImageSaveException(
-            $"'{filePath}' has the ending of {meant[0].Name}, but without options the image is written as "
-            + $"{FileFormatInfo.Get(OwnFormat).Name}; "
+            $"'{filePath}' has the extension of {meant[0].Name}, but without options the image is written as "
+            + $"{FileFormatInfo.Get(SourceOrNative).Name}; "
             + (classes.Length > 0 ? $"pass {string.Join(" or ", classes)}." : "it cannot be written in that format."));
     }
 
-    /// <summary>Exports, and tells in the options what became of it; an exporter that leaves nothing out need not say so.</summary>
-    private void ExportTimed(ImageOptionsBase options, Stream stream)
+    private FileFormat SourceOrNative => SourceFormat == FileFormat.Undefined ? NativeFormat : SourceFormat;
+
+    private ImageOptionsBase OwnOptions(FileFormat format, string extension) =>
+        FormatRegistry.OwnOptions(this, new SaveTarget(format, extension))
+        ?? throw new ImageSaveException(
+            $"{GetType().Name} was read from {FileFormatInfo.Get(format).Name}, which it cannot be written back as; "
+            + $"pass {OptionNames()} and the path of another file.");
+
+    private void WriteOwn(ImageOptionsBase options, Stream stream)
     {
-        long start = Stopwatch.GetTimestamp();
+        ExportContext context = new(options, LoadOptions);
+        FormatRegistry.FindWriter(this, options.GetType())!.Write(this, context, stream);
+    }
+
+    private string OptionNames() =>
+        string.Join(", ", FormatRegistry.OptionTypesFor(this).Select(static type => type.Name));
+
+    /// <summary>Exports, and stores the result in the options.</summary>
+    private void Export(ImageOptionsBase options, Stream stream)
+    {
+        FormatWriter writer = FormatRegistry.FindWriter(this, options.GetType())!;
         options.RenderResult = null;
+        options.VerifyHonoured(writer.KindOf(this)!.Value);
+        var context = new ExportContext(options, LoadOptions);
         if (options.Source is null)
         {
-            Export(options, stream);
+            writer.Write(this, context, stream);
         }
         else
         {
             using var output = new MemoryStream();
-            Export(options, output);
+            writer.Write(this, context, output);
             ImageSaver.WriteTwice(output, stream, options.Source);
         }
 
-        options.RenderResult ??= new CadRenderResult([], Stopwatch.GetElapsedTime(start));
+        options.RenderResult = context.Result();
     }
 
     private protected virtual void OnDefaultUnitTypeChanged(UnitType value)
@@ -293,13 +322,11 @@ public abstract partial class Image : DataStreamSupporter
 
     private void VerifyCanSave(ImageOptionsBase options)
     {
-        if (!SupportsExport(options))
+        if (!CanSave(options))
         {
-            string[] names = [.. ExportOptionTypes.Select(static type => type.Name).Order(StringComparer.Ordinal)];
             throw new ImageSaveException(
                 $"{GetType().Name} cannot be saved with {options.GetType().Name}: it is not written as "
-                    + $"{Verify.NameOf(options.TargetFormat)}; "
-                + $"pass {string.Join(", ", names)}.");
+                    + $"{Verify.NameOf(options.TargetFormat)}; pass {OptionNames()}.");
         }
     }
 }

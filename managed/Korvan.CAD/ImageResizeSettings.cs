@@ -3,22 +3,21 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>How a picture changes its size.</summary>
+/// <summary>Settings of resizing an image.</summary>
 public class ImageResizeSettings
 {
     private int _entriesCount;
 
-    /// <summary>Creates settings with their defaults.</summary>
+    /// <summary>Creates settings of adaptive resizing to any number of colours.</summary>
     public ImageResizeSettings()
     {
     }
 
-    /// <summary>Gets or sets how pixels are found.</summary>
+    /// <summary>Gets or sets the resampling filter.</summary>
     public ResizeType Mode { get; set; } = ResizeType.Adaptive;
 
-    /// <summary>Gets or sets to how many colours the result is brought; 0 for all that come out, else 2 to
-    /// 256.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is none of these.</exception>
+    /// <summary>Gets or sets the number of colours of the result, 2 to 256; 0 for no limit. 0 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is neither 0 nor 2 to 256.</exception>
     public int EntriesCount
     {
         get => _entriesCount;
@@ -33,9 +32,10 @@ public class ImageResizeSettings
         }
     }
 
-    /// <summary>Gets or sets how these colours are chosen.</summary>
+    /// <summary>Gets or sets how the colours of the result are chosen.</summary>
     public ColorQuantizationMethod ColorQuantizationMethod { get; set; } = ColorQuantizationMethod.MedianCut;
 
-    /// <summary>Gets or sets the colour of a border, where the way of resizing does not scale.</summary>
+    /// <summary>Gets or sets the colour of borders, where the resampling filter does not scale. Transparent by
+    /// default.</summary>
     public Color BackgroundColor { get; set; } = Color.Transparent;
 }

@@ -5,11 +5,11 @@ using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD;
 
-/// <summary>Writing of output that is whole in memory.</summary>
+/// <summary>Writing of output that is complete in memory.</summary>
 internal static class ImageSaver
 {
-    /// <summary>Writes over the rest of a stream; the new content is complete before the first old byte is
-    /// touched.</summary>
+    /// <summary>Overwrites the rest of a stream; the new content is complete before the first byte is
+    /// written.</summary>
     internal static void Replace(Stream stream, long start, Action<Stream> write)
     {
         if (!stream.CanSeek || !stream.CanWrite)
@@ -30,7 +30,7 @@ internal static class ImageSaver
         });
     }
 
-    /// <summary>Writes to a stream that a program gave.</summary>
+    /// <summary>Writes to a stream that the program passed.</summary>
     internal static void WriteTo(Stream stream, Action<Stream> write)
     {
         if (!stream.CanWrite)
@@ -48,11 +48,8 @@ internal static class ImageSaver
         }
     }
 
-    /// <summary>Gives the format that options of a class write.</summary>
-    internal static FileFormat FormatOf(Type options) =>
-        ((ImageOptionsBase)Activator.CreateInstance(options)!).TargetFormat;
-
-    /// <summary>Writes finished output to both places; the second is open before the first byte is written.</summary>
+    /// <summary>Writes complete output to both destinations; the second is opened before the first byte is
+    /// written.</summary>
     internal static void WriteTwice(MemoryStream output, Stream first, Source second)
     {
         try
@@ -61,7 +58,8 @@ internal static class ImageSaver
             if (!place.CanWrite)
             {
                 throw new ImageSaveException(
-                    $"The {second.GetType().Name} of the options cannot be written; use a FileCreateSource, or a StreamSource of a stream that can.");
+                    $"The {second.GetType().Name} of the options cannot be written; use a FileCreateSource, "
+                        + "or a StreamSource of a writable stream.");
             }
 
             output.WriteTo(first);

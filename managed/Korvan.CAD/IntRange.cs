@@ -3,7 +3,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>A run of whole numbers, such as pages.</summary>
+/// <summary>A range of integers, such as page numbers.</summary>
 public class IntRange : IEquatable<IntRange>
 {
     /// <summary>Creates a range of one number.</summary>
@@ -15,8 +15,8 @@ public class IntRange : IEquatable<IntRange>
 
     /// <summary>Creates a range.</summary>
     /// <param name="begin">The first number.</param>
-    /// <param name="end">The last number; it belongs to the range.</param>
-    /// <exception cref="ArgumentOutOfRangeException">The end lies before the begin.</exception>
+    /// <param name="end">The last number (inclusive).</param>
+    /// <exception cref="ArgumentOutOfRangeException">The end is before the begin.</exception>
     public IntRange(int begin, int end)
     {
         if (end < begin)
@@ -31,20 +31,20 @@ public class IntRange : IEquatable<IntRange>
     /// <summary>Gets the first number.</summary>
     public int Begin { get; }
 
-    /// <summary>Gets the last number; it belongs to the range.</summary>
+    /// <summary>Gets the last number (inclusive).</summary>
     public int End { get; }
 
-    /// <summary>Gets how many numbers there are.</summary>
+    /// <summary>Gets the number of integers in the range.</summary>
     public long Count => (long)End - Begin + 1;
 
-    /// <summary>Tells whether a number lies in the range.</summary>
+    /// <summary>Returns whether a number is in the range.</summary>
     /// <param name="value">The number.</param>
-    /// <returns>Whether a number lies in the range.</returns>
+    /// <returns>Whether the number is in the range.</returns>
     public bool Contains(int value) => value >= Begin && value <= End;
 
-    /// <summary>Gives the part that another range shares; nothing when they have no number in common.</summary>
+    /// <summary>Returns the intersection with another range; <see langword="null"/> if it is empty.</summary>
     /// <param name="other">The other range.</param>
-    /// <returns>The part that another range shares.</returns>
+    /// <returns>The intersection.</returns>
     public IntRange? Intersect(IntRange other)
     {
         Verify.NotNull(other);
@@ -53,15 +53,15 @@ public class IntRange : IEquatable<IntRange>
         return begin <= end ? new IntRange(begin, end) : null;
     }
 
-    /// <summary>Gives all numbers, in order.</summary>
-    /// <returns>All numbers, in order.</returns>
-    /// <exception cref="InvalidOperationException">There are more than 16 million.</exception>
+    /// <summary>Returns all numbers, in order.</summary>
+    /// <returns>The numbers.</returns>
+    /// <exception cref="InvalidOperationException">The range has more than 16 million numbers.</exception>
     public int[] ToArray()
     {
-        const int most = 1 << 24;
-        if (Count > most)
+        const int max = 1 << 24;
+        if (Count > max)
         {
-            throw new InvalidOperationException($"{this} holds {Count} numbers; at most {most} are listed.");
+            throw new InvalidOperationException($"{this} holds {Count} numbers; at most {max} are listed.");
         }
 
         var numbers = new int[Count];
@@ -73,7 +73,7 @@ public class IntRange : IEquatable<IntRange>
         return numbers;
     }
 
-    /// <summary>Tells whether another range has the same numbers.</summary>
+    /// <summary>Returns whether another range has the same numbers.</summary>
     /// <param name="other">The other range.</param>
     /// <returns>Whether another range has the same numbers.</returns>
     public bool Equals(IntRange? other) => other is not null && Begin == other.Begin && End == other.End;

@@ -2,28 +2,28 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>How pictures are resampled.</summary>
+/// <summary>How images are resampled.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum InterpolationMode
 {
-    /// <summary>No mode at all.</summary>
+    /// <summary>Invalid.</summary>
     Invalid = -1,
 
-    /// <summary>As the device does by itself.</summary>
+    /// <summary>The default of the device.</summary>
     Default = 0,
 
-    /// <summary>Fast.</summary>
+    /// <summary>Low quality, fast.</summary>
     Low = 1,
 
-    /// <summary>Careful.</summary>
+    /// <summary>High quality.</summary>
     High = 2,
 
-    /// <summary>Linear between neighbours.</summary>
+    /// <summary>Bilinear.</summary>
     Bilinear = 3,
 
-    /// <summary>Cubic between neighbours.</summary>
+    /// <summary>Bicubic.</summary>
     Bicubic = 4,
 
-    /// <summary>The nearest pixel.</summary>
+    /// <summary>Nearest neighbour.</summary>
     NearestNeighbor = 5,
 }

@@ -2,19 +2,19 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>How an open line ends.</summary>
+/// <summary>The cap at the ends of open lines.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum LineCap
 {
-    /// <summary>At its end point.</summary>
+    /// <summary>Flat, at the end point.</summary>
     Flat = 0,
 
-    /// <summary>Half its width beyond, squared.</summary>
+    /// <summary>Square, half the line width beyond the end point.</summary>
     Square = 1,
 
-    /// <summary>Half its width beyond, rounded.</summary>
+    /// <summary>Round, half the line width beyond the end point.</summary>
     Round = 2,
 
-    /// <summary>Half its width beyond, pointed.</summary>
+    /// <summary>Triangular, half the line width beyond the end point.</summary>
     Triangle = 3,
 }

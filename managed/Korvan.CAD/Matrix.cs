@@ -5,33 +5,33 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD;
 
-/// <summary>An affine map of the plane: x' = m11·x + m21·y + dx, y' = m12·x + m22·y + dy.</summary>
-/// <remarks>The six numbers stand in the order m11, m12, m21, m22, dx, dy. A map that is put to another is done before
-/// it, unless <see cref="MatrixOrder.Append"/> says otherwise.</remarks>
+/// <summary>An affine transformation of the plane: x' = m11·x + m21·y + dx, y' = m12·x + m22·y + dy.</summary>
+/// <remarks>The elements are in the order m11, m12, m21, m22, dx, dy. A transformation that is combined with another is
+/// applied before it, unless <see cref="MatrixOrder.Append"/> is given.</remarks>
 public class Matrix : DisposableObject, IEquatable<Matrix>
 {
     private Affine2 _map = Affine2.Identity;
 
-    /// <summary>Creates the map that leaves everything where it is.</summary>
+    /// <summary>Creates the identity.</summary>
     public Matrix()
     {
     }
 
-    /// <summary>Creates a map from its six numbers.</summary>
-    /// <param name="m11">The part of x in x'.</param>
-    /// <param name="m12">The part of x in y'.</param>
-    /// <param name="m21">The part of y in x'.</param>
-    /// <param name="m22">The part of y in y'.</param>
-    /// <param name="dx">What is added to x'.</param>
-    /// <param name="dy">What is added to y'.</param>
+    /// <summary>Creates a transformation from its six elements.</summary>
+    /// <param name="m11">The coefficient of x in x'.</param>
+    /// <param name="m12">The coefficient of x in y'.</param>
+    /// <param name="m21">The coefficient of y in x'.</param>
+    /// <param name="m22">The coefficient of y in y'.</param>
+    /// <param name="dx">The translation along X.</param>
+    /// <param name="dy">The translation along Y.</param>
     public Matrix(float m11, float m12, float m21, float m22, float dx, float dy)
     {
         _map = new Affine2(m11, m12, m21, m22, dx, dy);
     }
 
-    /// <summary>Creates the map that takes a rectangle to a parallelogram.</summary>
-    /// <param name="rect">The rectangle; it has an area.</param>
-    /// <param name="points">Where its upper left, upper right and lower left corners go.</param>
+    /// <summary>Creates the transformation that maps a rectangle to a parallelogram.</summary>
+    /// <param name="rect">The rectangle; its area is not 0.</param>
+    /// <param name="points">The images of its upper left, upper right and lower left corners.</param>
     /// <exception cref="DataMissmatchError">There are not three points, or the rectangle has no area.</exception>
     public Matrix(RectangleF rect, PointF[] points)
     {
@@ -46,16 +46,18 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
             throw new DataMissmatchError($"{rect} has no area, so that no map takes it to a parallelogram.");
         }
 
-        var toUnit = new Affine2(1.0 / rect.Width, 0, 0, 1.0 / rect.Height, -rect.X / rect.Width, -rect.Y / rect.Height);
+        var toUnit =
+            new Affine2(1.0 / rect.Width, 0, 0, 1.0 / rect.Height, -rect.X / rect.Width, -rect.Y / rect.Height);
         PointF origin = points[0];
         _map = new Affine2(
-            points[1].X - origin.X, points[1].Y - origin.Y, points[2].X - origin.X, points[2].Y - origin.Y, origin.X, origin.Y)
+            points[1].X - origin.X, points[1].Y - origin.Y, points[2].X - origin.X, points[2].Y - origin.Y, origin.X,
+            origin.Y)
             * toUnit;
     }
 
-    /// <summary>Creates the map that takes a rectangle to a parallelogram.</summary>
-    /// <param name="rect">The rectangle; it has an area.</param>
-    /// <param name="points">Where its upper left, upper right and lower left corners go.</param>
+    /// <summary>Creates the transformation that maps a rectangle to a parallelogram.</summary>
+    /// <param name="rect">The rectangle; its area is not 0.</param>
+    /// <param name="points">The images of its upper left, upper right and lower left corners.</param>
     /// <exception cref="DataMissmatchError">There are not three points, or the rectangle has no area.</exception>
     public Matrix(Rectangle rect, Point[] points)
         : this(new RectangleF(rect.X, rect.Y, rect.Width, rect.Height), ToFloat(points))
@@ -67,40 +69,40 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
         _map = map;
     }
 
-    /// <summary>Gets the six numbers: m11, m12, m21, m22, dx, dy.</summary>
+    /// <summary>Gets the six elements: m11, m12, m21, m22, dx, dy.</summary>
     public float[] Elements => GetElements();
 
-    /// <summary>Gets what is added to x'.</summary>
+    /// <summary>Gets the translation along X.</summary>
     public float OffsetX => (float)_map.X0;
 
-    /// <summary>Gets what is added to y'.</summary>
+    /// <summary>Gets the translation along Y.</summary>
     public float OffsetY => (float)_map.Y0;
 
-    /// <summary>Gets whether the map leaves everything where it is.</summary>
+    /// <summary>Gets whether this is the identity.</summary>
     public bool IsIdentity => _map == Affine2.Identity;
 
-    /// <summary>Gets whether there is a map that undoes this one.</summary>
+    /// <summary>Gets whether the transformation has an inverse.</summary>
     public bool IsInvertible => _map.TryInvert(out _);
 
-    /// <summary>Gets by how much areas grow; below 0 where the map mirrors.</summary>
+    /// <summary>Gets the determinant, the factor of areas; below 0 for transformations with a reflection.</summary>
     public float Determinant => (float)_map.Determinant;
 
-    /// <summary>Gives the six numbers: m11, m12, m21, m22, dx, dy.</summary>
-    /// <returns>The six numbers.</returns>
+    /// <summary>Returns the six elements: m11, m12, m21, m22, dx, dy.</summary>
+    /// <returns>The elements.</returns>
     public float[] GetElements()
     {
         return [(float)_map.Xx, (float)_map.Yx, (float)_map.Xy, (float)_map.Yy, (float)_map.X0, (float)_map.Y0];
     }
 
-    /// <summary>Gives a matrix of the same numbers.</summary>
-    /// <returns>A matrix of the same numbers.</returns>
+    /// <summary>Returns a copy.</summary>
+    /// <returns>The copy.</returns>
     public Matrix Clone() => new(_map);
 
-    /// <summary>Makes this the map that leaves everything where it is.</summary>
+    /// <summary>Resets the matrix to the identity.</summary>
     public void Reset() => _map = Affine2.Identity;
 
-    /// <summary>Makes this the map that undoes what it was.</summary>
-    /// <exception cref="InvalidOperationException">The map takes the plane to a line or a point.</exception>
+    /// <summary>Inverts the transformation.</summary>
+    /// <exception cref="InvalidOperationException">The transformation has no inverse.</exception>
     public void Invert()
     {
         if (!_map.TryInvert(out Affine2 inverse))
@@ -111,103 +113,106 @@ public class Matrix : DisposableObject, IEquatable<Matrix>
         _map = inverse;
     }
 
-    /// <summary>Adds another map.</summary>
-    /// <param name="matrix">The other map.</param>
-    /// <param name="order">Whether it is done before or after this one.</param>
+    /// <summary>Combines with another transformation.</summary>
+    /// <param name="matrix">The other transformation.</param>
+    /// <param name="order">Whether it is applied before or after this one.</param>
     public void Multiply(Matrix matrix, MatrixOrder order)
     {
         Verify.NotNull(matrix);
         Add(matrix._map, order);
     }
 
-    /// <summary>Adds another map, to be done before this one.</summary>
-    /// <param name="matrix">The other map.</param>
+    /// <summary>Combines with another transformation, which is applied before this one.</summary>
+    /// <param name="matrix">The other transformation.</param>
     public void Multiply(Matrix matrix) => Multiply(matrix, MatrixOrder.Prepend);
 
-    /// <summary>Adds a change of size about the origin.</summary>
+    /// <summary>Adds a scaling about the origin.</summary>
     /// <param name="scaleX">The factor along X.</param>
     /// <param name="scaleY">The factor along Y.</param>
-    /// <param name="order">Whether it is done before or after this map.</param>
-    public void Scale(float scaleX, float scaleY, MatrixOrder order) => Add(new Affine2(scaleX, 0, 0, scaleY, 0, 0), order);
+    /// <param name="order">Whether it is applied before or after this transformation.</param>
+    public void Scale(float scaleX, float scaleY, MatrixOrder order) =>
+        Add(new Affine2(scaleX, 0, 0, scaleY, 0, 0), order);
 
-    /// <summary>Adds a change of size about the origin, to be done before this map.</summary>
+    /// <summary>Adds a scaling about the origin, applied before this transformation.</summary>
     /// <param name="scaleX">The factor along X.</param>
     /// <param name="scaleY">The factor along Y.</param>
     public void Scale(float scaleX, float scaleY) => Scale(scaleX, scaleY, MatrixOrder.Prepend);
 
-    /// <summary>Adds a move.</summary>
+    /// <summary>Adds a translation.</summary>
     /// <param name="offsetX">How far along X.</param>
     /// <param name="offsetY">How far along Y.</param>
-    /// <param name="order">Whether it is done before or after this map.</param>
-    public void Translate(float offsetX, float offsetY, MatrixOrder order) => Add(new Affine2(1, 0, 0, 1, offsetX, offsetY), order);
+    /// <param name="order">Whether it is applied before or after this transformation.</param>
+    public void Translate(float offsetX, float offsetY, MatrixOrder order) =>
+        Add(new Affine2(1, 0, 0, 1, offsetX, offsetY), order);
 
-    /// <summary>Adds a move, to be done before this map.</summary>
+    /// <summary>Adds a translation, applied before this transformation.</summary>
     /// <param name="offsetX">How far along X.</param>
     /// <param name="offsetY">How far along Y.</param>
     public void Translate(float offsetX, float offsetY) => Translate(offsetX, offsetY, MatrixOrder.Prepend);
 
-    /// <summary>Adds a turn about the origin.</summary>
+    /// <summary>Adds a rotation about the origin.</summary>
     /// <param name="angle">The angle in degrees, from the X axis towards the Y axis.</param>
-    /// <param name="order">Whether it is done before or after this map.</param>
+    /// <param name="order">Whether it is applied before or after this transformation.</param>
     public void Rotate(float angle, MatrixOrder order) => RotateAt(angle, PointF.Empty, order);
 
-    /// <summary>Adds a turn about the origin, to be done before this map.</summary>
+    /// <summary>Adds a rotation about the origin, applied before this transformation.</summary>
     /// <param name="angle">The angle in degrees, from the X axis towards the Y axis.</param>
     public void Rotate(float angle) => Rotate(angle, MatrixOrder.Prepend);
 
-    /// <summary>Adds a turn about a point.</summary>
+    /// <summary>Adds a rotation about a point.</summary>
     /// <param name="angle">The angle in degrees, from the X axis towards the Y axis.</param>
-    /// <param name="point">The point that stays.</param>
-    /// <param name="order">Whether it is done before or after this map.</param>
+    /// <param name="point">The centre of rotation.</param>
+    /// <param name="order">Whether it is applied before or after this transformation.</param>
     public void RotateAt(float angle, PointF point, MatrixOrder order)
     {
         (double sin, double cos) = Math.SinCos(angle * Math.PI / 180);
         if (angle % 90 == 0)
         {
-            (sin, cos) = (Math.Round(sin), Math.Round(cos)); // quarter turns leave no remainders
+            (sin, cos) = (Math.Round(sin), Math.Round(cos)); // exact for multiples of 90 degrees
         }
 
         var turn = new Affine2(cos, sin, -sin, cos, 0, 0);
         Add(new Affine2(1, 0, 0, 1, point.X, point.Y) * turn * new Affine2(1, 0, 0, 1, -point.X, -point.Y), order);
     }
 
-    /// <summary>Adds a turn about a point, to be done before this map.</summary>
+    /// <summary>Adds a rotation about a point, applied before this transformation.</summary>
     /// <param name="angle">The angle in degrees, from the X axis towards the Y axis.</param>
-    /// <param name="point">The point that stays.</param>
+    /// <param name="point">The centre of rotation.</param>
     public void RotateAt(float angle, PointF point) => RotateAt(angle, point, MatrixOrder.Prepend);
 
-    /// <summary>Adds a slant.</summary>
+    /// <summary>Adds a shear.</summary>
     /// <param name="shearX">How far X moves for each unit of Y.</param>
     /// <param name="shearY">How far Y moves for each unit of X.</param>
-    /// <param name="order">Whether it is done before or after this map.</param>
-    public void Shear(float shearX, float shearY, MatrixOrder order) => Add(new Affine2(1, shearY, shearX, 1, 0, 0), order);
+    /// <param name="order">Whether it is applied before or after this transformation.</param>
+    public void Shear(float shearX, float shearY, MatrixOrder order) =>
+        Add(new Affine2(1, shearY, shearX, 1, 0, 0), order);
 
-    /// <summary>Adds a slant, to be done before this map.</summary>
+    /// <summary>Adds a shear, applied before this transformation.</summary>
     /// <param name="shearX">How far X moves for each unit of Y.</param>
     /// <param name="shearY">How far Y moves for each unit of X.</param>
     public void Shear(float shearX, float shearY) => Shear(shearX, shearY, MatrixOrder.Prepend);
 
-    /// <summary>Gives where points go.</summary>
+    /// <summary>Transforms points.</summary>
     /// <param name="points">The points.</param>
-    /// <returns>Where points go.</returns>
+    /// <returns>The transformed points.</returns>
     public PointF[] TransformPoints(PointF[] points) => Array.ConvertAll(points, p => Moved(p.X, p.Y, 1));
 
-    /// <summary>Gives where points go, rounded to whole numbers.</summary>
+    /// <summary>Transforms points and rounds them to whole numbers.</summary>
     /// <param name="points">The points.</param>
-    /// <returns>Where points go, rounded to whole numbers.</returns>
+    /// <returns>The transformed points.</returns>
     public Point[] TransformPoints(Point[] points) => Array.ConvertAll(points, p =>
     {
         PointF moved = Moved(p.X, p.Y, 1);
         return new Point((int)MathF.Round(moved.X), (int)MathF.Round(moved.Y));
     });
 
-    /// <summary>Gives what becomes of directions: the map without its move.</summary>
-    /// <param name="vectors">The directions.</param>
-    /// <returns>What becomes of directions.</returns>
+    /// <summary>Transforms vectors, without the translation.</summary>
+    /// <param name="vectors">The vectors.</param>
+    /// <returns>The transformed vectors.</returns>
     public PointF[] TransformVectors(PointF[] vectors) => Array.ConvertAll(vectors, p => Moved(p.X, p.Y, 0));
 
-    /// <summary>Tells whether another map has the same numbers.</summary>
-    /// <param name="other">The other map.</param>
+    /// <summary>Determines whether another transformation has the same elements.</summary>
+    /// <param name="other">The other transformation.</param>
     /// <returns>Whether another map has the same numbers.</returns>
     public bool Equals(Matrix? other) => other is not null && _map == other._map;
 

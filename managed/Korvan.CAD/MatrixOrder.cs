@@ -2,13 +2,13 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>On which side one map is put to another.</summary>
+/// <summary>Order in which transformations are combined.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum MatrixOrder
 {
-    /// <summary>The new map is done before the old one.</summary>
+    /// <summary>The new transformation is applied before the old one.</summary>
     Prepend = 0,
 
-    /// <summary>The new map is done after the old one.</summary>
+    /// <summary>The new transformation is applied after the old one.</summary>
     Append = 1,
 }

@@ -8,23 +8,23 @@ using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD;
 
-/// <summary>Reads sequences <c>\M+nXXXX</c>, which stand for letters of double-byte code pages in the texts of
-/// drawings: n names the code page, XXXX are the two bytes in hexadecimal.</summary>
+/// <summary>Decodes sequences <c>\M+nXXXX</c>, which represent characters of double-byte code pages in the text of
+/// drawings: n is the code page, XXXX are the two bytes in hexadecimal.</summary>
 public class MifCodePageDecoder
 {
-    /// <summary>The letters of one sequence.</summary>
+    /// <summary>The number of characters in a sequence.</summary>
     internal const int SequenceLength = 8;
 
     private static readonly int[] Pages = [932, 950, 949, 1361, 936];
 
-    /// <summary>Creates a decoder that takes the code page from each sequence.</summary>
+    /// <summary>Creates a decoder that uses the code page of each sequence.</summary>
     public MifCodePageDecoder()
         : this(MifCodePages.Undefined)
     {
     }
 
     /// <summary>Creates a decoder.</summary>
-    /// <param name="codePage">The code page of all sequences, whatever their digit says;
+    /// <param name="codePage">The code page of all sequences, regardless of their digit;
     /// <see cref="MifCodePages.Undefined"/> for that of the digit.</param>
     /// <exception cref="ArgumentOutOfRangeException">There is no such code page.</exception>
     public MifCodePageDecoder(MifCodePages codePage)
@@ -40,16 +40,16 @@ public class MifCodePageDecoder
     /// <summary>Gets the code page of all sequences.</summary>
     public MifCodePages CodePage { get; }
 
-    /// <summary>Tells whether a text may hold sequences.</summary>
+    /// <summary>Returns whether text may contain sequences.</summary>
     /// <param name="text">The text.</param>
-    /// <returns>Whether a text may hold sequences.</returns>
+    /// <returns>Whether the text may contain sequences.</returns>
     public static bool HasSequences(string text)
     {
         Verify.NotNull(text);
         return text.Contains("\\M+", StringComparison.Ordinal);
     }
 
-    /// <summary>Replaces all whole sequences by their letters; what is no whole sequence stays.</summary>
+    /// <summary>Replaces all complete sequences by their characters; incomplete ones are kept.</summary>
     /// <param name="text">The text.</param>
     public string Decode(string text)
     {
@@ -59,9 +59,9 @@ public class MifCodePageDecoder
         for (int next = text.IndexOf("\\M+", StringComparison.Ordinal); next >= 0;
             next = text.IndexOf("\\M+", Math.Max(next + 1, done), StringComparison.Ordinal))
         {
-            if (TryDecode(text.AsSpan(next), out string? letters))
+            if (TryDecode(text.AsSpan(next), out string? characters))
             {
-                result.Append(text, done, next - done).Append(letters);
+                result.Append(text, done, next - done).Append(characters);
                 done = next + SequenceLength;
             }
         }
@@ -69,16 +69,18 @@ public class MifCodePageDecoder
         return result.Append(text, done, text.Length - done).ToString();
     }
 
-    /// <summary>Reads the sequence that a text begins with, from the digit of the code page on.</summary>
-    internal bool TryDecode(ReadOnlySpan<char> text, out string? letters)
+    /// <summary>Decodes the sequence at the start of a text, beginning with the digit of the code page.</summary>
+    internal bool TryDecode(ReadOnlySpan<char> text, out string? characters)
     {
-        letters = null;
-        if (text.Length >= SequenceLength && text[3] is >= '1' and <= '5' && TryBytes(text[4..SequenceLength], out ushort pair))
+        characters = null;
+        if (text.Length >= SequenceLength && text[3] is >= '1' and <= '5'
+            && TryBytes(text[4..SequenceLength], out ushort pair))
         {
-            letters = Letters(CodePage == MifCodePages.Undefined ? (MifCodePages)(text[3] - '0') : CodePage, pair);
+            MifCodePages page = CodePage == MifCodePages.Undefined ? (MifCodePages)(text[3] - '0') : CodePage;
+            characters = Characters(page, pair);
         }
 
-        return letters is not null;
+        return characters is not null;
     }
 
     internal static bool TryBytes(ReadOnlySpan<char> digits, out ushort pair)
@@ -86,7 +88,7 @@ public class MifCodePageDecoder
         return ushort.TryParse(digits, NumberStyles.AllowHexSpecifier, CultureInfo.InvariantCulture, out pair);
     }
 
-    internal static string Letters(MifCodePages page, ushort pair)
+    internal static string Characters(MifCodePages page, ushort pair)
     {
         return DwgCodePage.Get(Pages[(int)page - 1]).GetString([(byte)(pair >> 8), (byte)pair]);
     }

@@ -6,7 +6,7 @@ namespace Korvan.CAD;
 [PythonEnum(EnumKind.Flag)]
 public enum MifCodePages
 {
-    /// <summary>The one that the sequence itself names.</summary>
+    /// <summary>The code page that the sequence names.</summary>
     Undefined = 0,
 
     /// <summary>Shift JIS, code page 932.</summary>

@@ -5,8 +5,7 @@ using System.Linq;
 
 namespace Korvan.CAD;
 
-/// <summary>Objects that are found by keys, in the order that they were added in. Going through it gives the objects,
-/// not the keys.</summary>
+/// <summary>Objects by key, in insertion order. Enumeration returns the objects, not the keys.</summary>
 public class NonGenericDictionary : IDictionary
 {
     private readonly IDictionary _entries;
@@ -17,13 +16,13 @@ public class NonGenericDictionary : IDictionary
     {
     }
 
-    /// <summary>Creates a dictionary over what keeps its entries.</summary>
+    /// <summary>Creates a dictionary over its storage.</summary>
     internal NonGenericDictionary(IDictionary entries)
     {
         _entries = entries;
     }
 
-    /// <summary>Gets how many entries there are.</summary>
+    /// <summary>Gets the number of entries.</summary>
     public int Count => _entries.Count;
 
     /// <summary>Gets the keys, in order.</summary>
@@ -57,38 +56,38 @@ public class NonGenericDictionary : IDictionary
         set => _entries[key] = value;
     }
 
-    /// <summary>Finds an object.</summary>
-    /// <param name="key">Its key.</param>
-    /// <param name="value">Takes the object when there is one.</param>
-    /// <returns>Whether there is one.</returns>
+    /// <summary>Gets the object of a key.</summary>
+    /// <param name="key">The key.</param>
+    /// <param name="value">The object, if there is one.</param>
+    /// <returns>Whether there is an object of the key.</returns>
     public bool TryGetValue(object key, out object? value)
     {
         value = _entries.Contains(key) ? _entries[key] : null;
         return _entries.Contains(key);
     }
 
-    /// <summary>Tells whether there is an object of a key.</summary>
+    /// <summary>Returns whether there is an object of a key.</summary>
     /// <param name="key">The key.</param>
-    /// <returns>Whether there is an object of a key.</returns>
+    /// <returns>Whether there is an object of the key.</returns>
     public bool ContainsKey(object key) => _entries.Contains(key);
 
-    /// <summary>Adds an object under a key that no other has.</summary>
+    /// <summary>Adds an object with a key that is not in use.</summary>
     /// <param name="key">The key.</param>
     /// <param name="value">The object.</param>
     public void Add(object key, object? value) => _entries.Add(key, value);
 
-    /// <summary>Takes out the object of a key, if there is one.</summary>
+    /// <summary>Removes the object of a key, if there is one.</summary>
     /// <param name="key">The key.</param>
     public void Remove(object key) => _entries.Remove(key);
 
-    /// <summary>Puts an object under a key, in place of the one that is there.</summary>
+    /// <summary>Sets the object of a key, and replaces an existing one.</summary>
     /// <param name="key">The key.</param>
     /// <param name="value">The object.</param>
     public void Set(object key, object? value) => _entries[key] = value;
 
-    /// <summary>Takes an object out.</summary>
-    /// <param name="key">Its key.</param>
-    /// <returns>Whether it was there.</returns>
+    /// <summary>Removes the object of a key.</summary>
+    /// <param name="key">The key.</param>
+    /// <returns>Whether it was found.</returns>
     public bool RemoveKey(object key)
     {
         bool found = _entries.Contains(key);
@@ -96,7 +95,7 @@ public class NonGenericDictionary : IDictionary
         return found;
     }
 
-    /// <summary>Takes all entries out.</summary>
+    /// <summary>Removes all entries.</summary>
     public void Clear() => _entries.Clear();
 
     /// <inheritdoc/>

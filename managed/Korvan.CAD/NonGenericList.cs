@@ -4,7 +4,7 @@ using System.Collections.Generic;
 
 namespace Korvan.CAD;
 
-/// <summary>A list of objects of any type: the base of the tables of a drawing.</summary>
+/// <summary>A list of objects of any type: the base of the symbol tables of a drawing.</summary>
 public class NonGenericList : IList
 {
     private readonly IList _items;
@@ -15,13 +15,13 @@ public class NonGenericList : IList
     {
     }
 
-    /// <summary>Creates a list over what keeps its items.</summary>
+    /// <summary>Creates a list over its storage.</summary>
     internal NonGenericList(IList items)
     {
         _items = items;
     }
 
-    /// <summary>Gets how many items there are.</summary>
+    /// <summary>Gets the number of items.</summary>
     public int Count => _items.Count;
 
     /// <inheritdoc/>
@@ -46,7 +46,7 @@ public class NonGenericList : IList
     /// <inheritdoc/>
     int IList.Add(object? value) => _items.Add(value);
 
-    /// <summary>Takes all items out.</summary>
+    /// <summary>Removes all items.</summary>
     public void Clear() => _items.Clear();
 
     /// <inheritdoc/>

@@ -4,7 +4,7 @@ using Korvan.CAD.Primitives;
 
 namespace Korvan.CAD;
 
-/// <summary>What is asked of things that take a room in space: the base of those whose room is known.</summary>
+/// <summary>The base of objects with a known bounding box.</summary>
 public abstract class ObjectWithBounds : IObjectWithBounds
 {
     internal ObjectWithBounds()
@@ -26,12 +26,12 @@ public abstract class ObjectWithBounds : IObjectWithBounds
     /// <summary>Gets the extent along Z.</summary>
     public double SizeZ => MaxPoint.Z - MinPoint.Z;
 
-    /// <summary>Gets the middle of the room.</summary>
+    /// <summary>Gets the centre of the bounding box.</summary>
     public Point3D Center => MinPoint.Between(MaxPoint, 0.5);
 
-    /// <summary>Tells whether a point lies in the room or on its sides.</summary>
+    /// <summary>Returns whether a point is inside or on the bounding box.</summary>
     /// <param name="point">The point.</param>
-    /// <returns>Whether a point lies in the room or on its sides.</returns>
+    /// <returns>Whether the point is inside or on the bounding box.</returns>
     public bool ContainsPoint(Point3D point)
     {
         Verify.NotNull(point);
@@ -40,9 +40,9 @@ public abstract class ObjectWithBounds : IObjectWithBounds
             && point.Z >= min.Z && point.Z <= max.Z;
     }
 
-    /// <summary>Tells whether the room touches that of something else.</summary>
-    /// <param name="other">The other thing.</param>
-    /// <returns>Whether the room touches that of something else.</returns>
+    /// <summary>Returns whether the bounding box intersects or touches that of another object.</summary>
+    /// <param name="other">The other object.</param>
+    /// <returns>Whether the bounding boxes intersect or touch.</returns>
     public bool BoundsIntersect(IObjectWithBounds other)
     {
         Verify.NotNull(other);

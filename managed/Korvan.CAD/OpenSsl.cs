@@ -6,8 +6,8 @@ using Korvan.CAD.CadExceptions;
 namespace Korvan.CAD;
 
 /// <summary>
-/// Looks for the library behind <see cref="System.Security.Cryptography"/> before its first use: where there is none,
-/// the runtime ends the process.
+/// Searches the library that <see cref="System.Security.Cryptography"/> uses before its first use: without it, the
+/// runtime terminates the process.
 /// </summary>
 internal static class OpenSsl
 {

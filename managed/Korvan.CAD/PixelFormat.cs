@@ -9,21 +9,21 @@ public enum PixelFormat : long
     /// <summary>Not known.</summary>
     Undefined = 0,
 
-    /// <summary>Numbers of colours in a palette.</summary>
+    /// <summary>Palette indices.</summary>
     Indexed = 1,
 
-    /// <summary>Lightness.</summary>
+    /// <summary>Grayscale.</summary>
     Grayscale = 2,
 
-    /// <summary>Red, green and blue.</summary>
+    /// <summary>RGB.</summary>
     Rgb = 3,
 
-    /// <summary>Cyan, magenta, yellow and black.</summary>
+    /// <summary>CMYK.</summary>
     Cmyk = 4,
 
-    /// <summary>An opacity goes with the other channels.</summary>
+    /// <summary>An alpha channel goes with the other channels.</summary>
     Alpha = 256,
 
-    /// <summary>Red, green and blue, stored with blue first.</summary>
+    /// <summary>RGB, stored with blue first.</summary>
     Bgr = 515,
 }

@@ -2,45 +2,45 @@ using System;
 
 namespace Korvan.CAD;
 
-/// <summary>A point with whole coordinates.</summary>
+/// <summary>A point with integer coordinates.</summary>
 public struct Point : IEquatable<Point>
 {
-    /// <summary>Creates the value from its two parts.</summary>
-    /// <param name="x">The abscissa.</param>
-    /// <param name="y">The ordinate.</param>
+    /// <summary>Creates the value from its components.</summary>
+    /// <param name="x">The x coordinate.</param>
+    /// <param name="y">The y coordinate.</param>
     public Point(int x, int y)
     {
         X = x;
         Y = y;
     }
 
-    /// <summary>Gets the value whose parts are zero.</summary>
+    /// <summary>Gets the value with all components zero.</summary>
     public static Point Empty => default;
 
-    /// <summary>Gets or sets the abscissa.</summary>
+    /// <summary>Gets or sets the x coordinate.</summary>
     public int X { get; set; }
 
-    /// <summary>Gets or sets the ordinate.</summary>
+    /// <summary>Gets or sets the y coordinate.</summary>
     public int Y { get; set; }
 
-    /// <summary>Gets whether both parts are zero.</summary>
+    /// <summary>Gets whether all components are zero.</summary>
     public readonly bool IsEmpty => X == 0 && Y == 0;
 
-    /// <summary>Compares two values part by part.</summary>
+    /// <summary>Compares two values component by component.</summary>
     public static bool operator ==(Point left, Point right) => left.Equals(right);
 
-    /// <summary>Compares two values part by part.</summary>
+    /// <summary>Compares two values component by component.</summary>
     public static bool operator !=(Point left, Point right) => !left.Equals(right);
 
-    /// <summary>Gives the same point with coordinates that can have fractions.</summary>
+    /// <summary>Converts to floating-point coordinates.</summary>
     public static explicit operator PointF(Point value) => new(value.X, value.Y);
 
-    /// <summary>Gives the coordinates as a width and a height.</summary>
+    /// <summary>Converts the coordinates to a width and a height.</summary>
     public static explicit operator Size(Point value) => new(value);
 
-    /// <summary>Tells whether both parts are the same.</summary>
+    /// <summary>Determines whether two values are equal component by component.</summary>
     /// <param name="other">The value to compare with.</param>
-    /// <returns>Whether both parts are the same.</returns>
+    /// <returns>Whether they are equal.</returns>
     public readonly bool Equals(Point other) => X == other.X && Y == other.Y;
 
     /// <inheritdoc/>

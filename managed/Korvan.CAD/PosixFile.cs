@@ -5,8 +5,8 @@ using Microsoft.Win32.SafeHandles;
 
 namespace Korvan.CAD;
 
-/// <summary>What the system offers for files and .NET does not: kinds of files, files without a name, writing to a
-/// descriptor that is open already. Failures are an <see cref="IOException"/> with the system's words.</summary>
+/// <summary>System calls for files that .NET lacks: kinds of files, files without a name, writing to an open
+/// descriptor. Failures raise an <see cref="IOException"/> with the message of the system.</summary>
 internal static unsafe partial class PosixFile
 {
     private const int CurrentFolder = -100; // AT_FDCWD
@@ -19,7 +19,7 @@ internal static unsafe partial class PosixFile
     private const int Interrupted = 4; // EINTR
     private const uint ReadableByAll = 0x1B6; // 0666, less the process's mask
 
-    // struct statx: its beginning is the same on all architectures.
+    // struct statx begins in the same way on all architectures.
     private const int StatusLength = 256;
     private const int ModeOffset = 28;
     private const uint KindRequested = 1; // STATX_TYPE
@@ -45,16 +45,16 @@ internal static unsafe partial class PosixFile
             : Kind.Absent;
     }
 
-    /// <summary>Opens a file that has no name yet, so that nothing is left of it when the process ends; null where the
-    /// file system has none.</summary>
+    /// <summary>Opens a file without a name, of which nothing is left if the process ends; null if the file system has
+    /// no such files.</summary>
     internal static SafeFileHandle? OpenUnnamed(string folder)
     {
         int file = Open(folder, Unnamed | ReadWrite | CloseOnExec, ReadableByAll);
         return file < 0 ? null : new SafeFileHandle(file, true);
     }
 
-    /// <summary>Gives a file without a name one that is free.</summary>
-    /// <returns>Whether it was free.</returns>
+    /// <summary>Gives a file without a name a free one.</summary>
+    /// <returns>Whether the name was free.</returns>
     internal static bool TryName(SafeFileHandle file, string path)
     {
         const int Exists = 17;
@@ -68,17 +68,17 @@ internal static unsafe partial class PosixFile
         return error == Exists ? false : throw Failure(error);
     }
 
-    /// <summary>Whether <see cref="TryName"/> finds what it needs.</summary>
+    /// <summary>Whether the system supports <see cref="TryName"/>.</summary>
     internal static bool CanName(SafeFileHandle file) => KindOf(DescriptorPath(file)) == Kind.Regular;
 
-    /// <summary>Opens what is there for writing: a device, or a FIFO when it gets a reader.</summary>
+    /// <summary>Opens an existing file for writing: a device, or a FIFO as soon as it has a reader.</summary>
     internal static SafeFileHandle OpenToWrite(string path)
     {
         int file = Open(path, WriteOnly | NoTerminal | CloseOnExec, 0);
         return file < 0 ? throw Failure(Marshal.GetLastPInvokeError()) : new SafeFileHandle(file, true);
     }
 
-    /// <summary>Writes at the descriptor's own place, which goes on by as much.</summary>
+    /// <summary>Writes at the position of the descriptor, and advances it.</summary>
     internal static void Write(int descriptor, ReadOnlySpan<byte> data)
     {
         fixed (byte* start = data)

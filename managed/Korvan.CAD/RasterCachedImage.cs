@@ -6,8 +6,9 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD;
 
-/// <summary>A picture all of whose pixels are kept in the place that <see cref="Cache"/> gives.</summary>
-public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader, IPartialPixelLoader, IPartialRawDataLoader
+/// <summary>A raster image whose pixels are all loaded, in storage of the <see cref="Cache"/>.</summary>
+public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader, IPartialPixelLoader,
+    IPartialRawDataLoader
 {
     private readonly DecodedFile _file;
     private readonly int _index;
@@ -24,7 +25,7 @@ public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader
         }
     }
 
-    /// <summary>Creates a page of a file, which has no pages of its own.</summary>
+    /// <summary>Creates the image of one page of a file.</summary>
     private protected RasterCachedImage(DecodedFile file, int index)
     {
         (_file, _index) = (file, index);
@@ -101,27 +102,27 @@ public abstract class RasterCachedImage : RasterImage, IPartialArgb32PixelLoader
         int[] palette = Raster.Colors.DitherPalette.For(_pixels, bitsCount, customPalette);
         if (Array.TrueForAll(palette, PixelGrid.IsGray))
         {
-            Raster.Operations.Tones.Grayscale(_pixels); // lightness decides, not the mean of red, green and blue
+            Raster.Operations.ColorAdjustment.Grayscale(_pixels); // luma decides, not the mean of red, green and blue
         }
 
         Raster.Colors.Ditherer.Apply(_pixels, palette, ditheringMethod);
         Palette = new ColorPalette(palette);
     }
 
-    /// <summary>Takes a block of pixels into the picture.</summary>
+    /// <summary>Replaces a block of pixels.</summary>
     /// <param name="pixelsRectangle">The block.</param>
-    /// <param name="pixels">Its pixels as 32-bit numbers, row by row.</param>
+    /// <param name="pixels">Its pixels as 32-bit ARGB values, row by row.</param>
     public void Process(Rectangle pixelsRectangle, int[] pixels) => SaveArgb32Pixels(pixelsRectangle, pixels);
 
-    /// <summary>Takes a block of pixels into the picture.</summary>
+    /// <summary>Replaces a block of pixels.</summary>
     /// <param name="pixelsRectangle">The block.</param>
     /// <param name="pixels">Its pixels, row by row.</param>
     public void ProcessColors(Rectangle pixelsRectangle, Color[] pixels) => SavePixels(pixelsRectangle, pixels);
 
-    /// <summary>Takes a block of pixels into the picture.</summary>
+    /// <summary>Replaces a block of pixels.</summary>
     /// <param name="dataRectangle">The block.</param>
     /// <param name="data">Its bytes, row by row.</param>
-    /// <param name="settings">What the bytes mean.</param>
+    /// <param name="settings">The format of the bytes.</param>
     public void ProcessRawData(Rectangle dataRectangle, byte[] data, RawDataSettings settings) =>
         SaveRawData(data, dataRectangle, settings);
 

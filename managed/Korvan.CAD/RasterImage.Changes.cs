@@ -6,16 +6,16 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD;
 
-/// <content>Changes of size, direction and colour. All of them change this picture in place.</content>
+/// <content>Resizing, rotation and colour changes, all in place.</content>
 public abstract partial class RasterImage
 {
-    private const int LargestFilter = 101;
+    private const int MaxFilterSize = 101;
 
-    /// <summary>Keeps a part of the picture.</summary>
-    /// <param name="rectangle">The part.</param>
+    /// <summary>Crops the image to a rectangle.</summary>
+    /// <param name="rectangle">The rectangle in pixels; it lies within the image.</param>
     public abstract void Crop(Rectangle rectangle);
 
-    /// <summary>Cuts stripes off the sides.</summary>
+    /// <summary>Crops the image by margins.</summary>
     /// <param name="leftShift">Columns at the left.</param>
     /// <param name="rightShift">Columns at the right.</param>
     /// <param name="topShift">Rows at the top.</param>
@@ -25,22 +25,22 @@ public abstract partial class RasterImage
         Crop(new Rectangle(leftShift, topShift, Width - leftShift - rightShift, Height - topShift - bottomShift));
     }
 
-    /// <summary>Changes the size, with <see cref="ResizeType.Adaptive"/>.</summary>
+    /// <summary>Resizes the image with <see cref="ResizeType.Adaptive"/>.</summary>
     /// <param name="newWidth">The width in pixels.</param>
     /// <param name="newHeight">The height in pixels.</param>
     public void Resize(int newWidth, int newHeight) => Resize(newWidth, newHeight, ResizeType.Adaptive);
 
-    /// <summary>Changes the size.</summary>
+    /// <summary>Resizes the image.</summary>
     /// <param name="newWidth">The width in pixels.</param>
     /// <param name="newHeight">The height in pixels.</param>
-    /// <param name="resizeType">How pixels are found.</param>
+    /// <param name="resizeType">The resampling filter.</param>
     public void Resize(int newWidth, int newHeight, ResizeType resizeType) =>
         Resize(newWidth, newHeight, new ImageResizeSettings { Mode = resizeType });
 
-    /// <summary>Changes the size.</summary>
+    /// <summary>Resizes the image.</summary>
     /// <param name="newWidth">The width in pixels.</param>
     /// <param name="newHeight">The height in pixels.</param>
-    /// <param name="settings">How pixels are found, and what becomes of few colours.</param>
+    /// <param name="settings">The resampling filter and the number of colours.</param>
     public void Resize(int newWidth, int newHeight, ImageResizeSettings settings)
     {
         VerifyNotDisposed();
@@ -55,37 +55,37 @@ public abstract partial class RasterImage
         }
     }
 
-    /// <summary>Changes the width, and the height by as much.</summary>
+    /// <summary>Resizes to a width and keeps the aspect ratio.</summary>
     /// <param name="newWidth">The width in pixels.</param>
     public void ResizeWidthProportionally(int newWidth) =>
         Resize(newWidth, (int)Math.Max(1, Math.Round((double)Height * newWidth / Width)));
 
-    /// <summary>Changes the height, and the width by as much.</summary>
+    /// <summary>Resizes to a height and keeps the aspect ratio.</summary>
     /// <param name="newHeight">The height in pixels.</param>
     public void ResizeHeightProportionally(int newHeight) =>
         Resize((int)Math.Max(1, Math.Round((double)Width * newHeight / Height)), newHeight);
 
-    /// <summary>Turns by quarters and mirrors, without loss.</summary>
-    /// <param name="rotateFlipType">What is done.</param>
+    /// <summary>Rotates by multiples of 90 degrees and flips, without loss.</summary>
+    /// <param name="rotateFlipType">The rotation and flip.</param>
     public void RotateFlip(RotateFlipType rotateFlipType)
     {
         VerifyNotDisposed();
-        Replace(Turns.Turn(Pixels, rotateFlipType));
+        Replace(Rotation.RotateFlip(Pixels, rotateFlipType));
         if (((int)rotateFlipType & 1) != 0)
         {
             (HorizontalResolution, VerticalResolution) = (VerticalResolution, HorizontalResolution);
         }
     }
 
-    /// <summary>Turns clockwise around the middle; the picture becomes as large as the turned one.</summary>
-    /// <param name="angle">Degrees.</param>
+    /// <summary>Rotates clockwise about the centre; the image grows to hold the result.</summary>
+    /// <param name="angle">The angle in degrees.</param>
     public void Rotate(float angle) => Rotate(angle, true, Color.Transparent);
 
-    /// <summary>Turns clockwise around the middle.</summary>
-    /// <param name="angle">Degrees.</param>
-    /// <param name="resizeProportionally">Whether the picture becomes as large as the turned one; if not, it keeps its
-    /// size and loses corners.</param>
-    /// <param name="backgroundColor">The colour of the corners that come in.</param>
+    /// <summary>Rotates clockwise about the centre.</summary>
+    /// <param name="angle">The angle in degrees.</param>
+    /// <param name="resizeProportionally">Whether the image grows to hold the result; if not, it keeps its size and
+    /// corners are cut off.</param>
+    /// <param name="backgroundColor">The colour of uncovered corners.</param>
     public void Rotate(float angle, bool resizeProportionally, Color backgroundColor)
     {
         VerifyNotDisposed();
@@ -94,60 +94,61 @@ public abstract partial class RasterImage
             throw Verify.OutOfRange(nameof(angle), angle, "An angle is a finite number.");
         }
 
-        Replace(Turns.Rotate(Pixels, angle, resizeProportionally, backgroundColor.ToArgb()));
+        Replace(Rotation.Rotate(Pixels, angle, resizeProportionally, backgroundColor.ToArgb()));
     }
 
-    /// <summary>Brings the picture to few colours, which are chosen for it.</summary>
-    /// <param name="ditheringMethod">The pattern.</param>
-    /// <param name="bitsCount">The bits that a number of a colour takes: 1 (black and white) to 8.</param>
+    /// <summary>Dithers the image to a palette that is chosen for it.</summary>
+    /// <param name="ditheringMethod">The dithering method.</param>
+    /// <param name="bitsCount">The bits of a palette index: 1 (black and white) to 8.</param>
     public void Dither(DitheringMethod ditheringMethod, int bitsCount) => Dither(ditheringMethod, bitsCount, null);
 
-    /// <summary>Brings the picture to few colours.</summary>
-    /// <param name="ditheringMethod">The pattern.</param>
-    /// <param name="bitsCount">The bits that a number of a colour takes: 1 to 8.</param>
-    /// <param name="customPalette">The colours, at most 2 to the power of the bits; nothing for colours that are chosen
-    /// for the picture, black and white at 1 bit.</param>
+    /// <summary>Dithers the image to a palette.</summary>
+    /// <param name="ditheringMethod">The dithering method.</param>
+    /// <param name="bitsCount">The bits of a palette index, 1 to 8.</param>
+    /// <param name="customPalette">The palette, at most 2 to the power of the bits; <see langword="null"/> for one that
+    /// is chosen for the image, black and white at 1 bit.</param>
     public abstract void Dither(DitheringMethod ditheringMethod, int bitsCount, IColorPalette? customPalette);
 
-    /// <summary>Takes the colours away; lightness is weighted as in ITU-R BT.601.</summary>
+    /// <summary>Converts the image to grayscale with the luma weights of ITU-R BT.601.</summary>
     public void Grayscale()
     {
         VerifyNotDisposed();
-        Tones.Grayscale(Pixels);
+        ColorAdjustment.Grayscale(Pixels);
     }
 
-    /// <summary>Makes pixels white that are at least as light as a threshold, the others black.</summary>
-    /// <param name="threshold">The threshold, 0 to 255.</param>
+    /// <summary>Binarizes the image: pixels of at least the threshold become white, the others black.</summary>
+    /// <param name="threshold">The luma threshold, 0 to 255.</param>
     public void BinarizeFixed(byte threshold)
     {
         VerifyNotDisposed();
         Binarization.Fixed(Pixels, threshold);
     }
 
-    /// <summary>Makes the picture black and white at the threshold that parts its lightness best (N. Otsu,
-    /// 1979).</summary>
+    /// <summary>Binarizes the image at the threshold that separates its histogram best (N. Otsu, 1979).</summary>
     public void BinarizeOtsu()
     {
         VerifyNotDisposed();
         Binarization.Fixed(Pixels, Binarization.OtsuThreshold(Pixels));
     }
 
-    /// <summary>Makes the picture black and white; each pixel is compared with what is around it.</summary>
-    /// <param name="windowSize">The side of the square that is compared with, in pixels.</param>
+    /// <summary>Binarizes the image with an adaptive threshold (D. Bradley and G. Roth, 2007).</summary>
+    /// <param name="windowSize">The side of the square around each pixel, in pixels.</param>
     /// <param name="brightnessDifference">How much darker than the mean of the square black is, 0 to 1.</param>
     public void BinarizeBradley(int windowSize, double brightnessDifference)
     {
         new AdaptiveBinarizer(windowSize, brightnessDifference).Process(this);
     }
 
-    /// <summary>Makes colours lighter (above 1) or darker (below 1); black and white stay.</summary>
-    /// <param name="gamma">The exponent's inverse, above 0.</param>
+    /// <summary>Applies gamma correction: above 1 makes colours lighter, below 1 darker; black and white
+    /// stay.</summary>
+    /// <param name="gamma">The gamma, the inverse of the exponent, above 0.</param>
     public void AdjustGamma(float gamma) => AdjustGamma(gamma, gamma, gamma);
 
-    /// <summary>Makes colours lighter (above 1) or darker (below 1); black and white stay.</summary>
-    /// <param name="gammaRed">The exponent's inverse for red, above 0.</param>
-    /// <param name="gammaGreen">The exponent's inverse for green, above 0.</param>
-    /// <param name="gammaBlue">The exponent's inverse for blue, above 0.</param>
+    /// <summary>Applies gamma correction: above 1 makes colours lighter, below 1 darker; black and white
+    /// stay.</summary>
+    /// <param name="gammaRed">The gamma of red, above 0.</param>
+    /// <param name="gammaGreen">The gamma of green, above 0.</param>
+    /// <param name="gammaBlue">The gamma of blue, above 0.</param>
     public void AdjustGamma(float gammaRed, float gammaGreen, float gammaBlue)
     {
         VerifyNotDisposed();
@@ -159,30 +160,30 @@ public abstract partial class RasterImage
             }
         }
 
-        Tones.Gamma(Pixels, gammaRed, gammaGreen, gammaBlue);
+        ColorAdjustment.Gamma(Pixels, gammaRed, gammaGreen, gammaBlue);
     }
 
-    /// <summary>Adds to red, green and blue.</summary>
-    /// <param name="brightness">What is added, -255 (all black) to 255 (all white).</param>
+    /// <summary>Adjusts the brightness: adds to red, green and blue.</summary>
+    /// <param name="brightness">The amount, -255 (all black) to 255 (all white).</param>
     public void AdjustBrightness(int brightness)
     {
         VerifyNotDisposed();
         Verify.InRange(brightness, -255, 255);
-        Tones.Brightness(Pixels, brightness);
+        ColorAdjustment.Brightness(Pixels, brightness);
     }
 
-    /// <summary>Spreads colours away from the middle grey, or draws them to it.</summary>
-    /// <param name="contrast">How much, -100 (all grey) to 100 (only black and full colours).</param>
+    /// <summary>Adjusts the contrast about middle gray.</summary>
+    /// <param name="contrast">The amount, -100 (all gray) to 100 (only black and full colours).</param>
     public void AdjustContrast(float contrast)
     {
         VerifyNotDisposed();
         Verify.InRange(contrast, -100, 100);
-        Tones.Contrast(Pixels, contrast);
+        ColorAdjustment.Contrast(Pixels, contrast);
     }
 
-    /// <summary>Gives each pixel the product of its parts with a matrix.</summary>
-    /// <param name="matrix">25 numbers, row by row: what red, green, blue, opacity and 1 add to red, green, blue and
-    /// opacity; the fifth column is not used.</param>
+    /// <summary>Multiplies the components of each pixel by a matrix.</summary>
+    /// <param name="matrix">A matrix of 5 × 5 numbers, row by row: the contributions of red, green, blue, alpha and 1
+    /// to red, green, blue and alpha; the fifth column is not used.</param>
     /// <param name="flag">Which colours are changed.</param>
     public void ApplyColorMatrix(float[] matrix, ColorMatrixFlag flag)
     {
@@ -198,17 +199,17 @@ public abstract partial class RasterImage
             throw Verify.OutOfRange(nameof(flag), flag, "There is no such choice of colours.");
         }
 
-        Tones.Matrix(Pixels, matrix, flag);
+        ColorAdjustment.Matrix(Pixels, matrix, flag);
     }
 
-    /// <summary>Changes pixels by what is around them.</summary>
+    /// <summary>Applies a neighbourhood filter.</summary>
     /// <param name="filterType">The filter.</param>
-    /// <param name="size">The side of the square that counts, an odd number of 3 to 101 pixels; edges and emboss always
-    /// take 3.</param>
+    /// <param name="size">The side of the square, an odd number of 3 to 101 pixels; edges and emboss always use
+    /// 3.</param>
     public void Filter(ImageFilterType filterType, int size)
     {
         VerifyNotDisposed();
-        Verify.InRange(size, 3, LargestFilter);
+        Verify.InRange(size, 3, MaxFilterSize);
         if (size % 2 == 0)
         {
             throw Verify.OutOfRange(nameof(size), size, "The side of a filter is an odd number of pixels.");
@@ -217,6 +218,6 @@ public abstract partial class RasterImage
         Replace(Filters.Apply(Pixels, filterType, size));
     }
 
-    /// <summary>Takes other pixels in the place of these.</summary>
+    /// <summary>Replaces the pixels.</summary>
     internal abstract void Replace(PixelGrid pixels);
 }

@@ -5,15 +5,15 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD;
 
-/// <content>Pixels, one by one and in blocks.</content>
+/// <content>Access to pixels, one by one and in blocks.</content>
 public abstract partial class RasterImage
 {
     private const int BandPixels = 1 << 18;
 
-    /// <summary>Gives the colour of a pixel.</summary>
+    /// <summary>Returns the colour of a pixel.</summary>
     /// <param name="x">Its column, from 0 at the left.</param>
     /// <param name="y">Its row, from 0 at the top.</param>
-    /// <returns>The colour of a pixel.</returns>
+    /// <returns>The colour.</returns>
     public Color GetPixel(int x, int y) => Color.FromArgb(GetArgb32Pixel(x, y));
 
     /// <summary>Sets the colour of a pixel.</summary>
@@ -22,29 +22,29 @@ public abstract partial class RasterImage
     /// <param name="color">The colour.</param>
     public void SetPixel(int x, int y, Color color) => SetArgb32Pixel(x, y, color.ToArgb());
 
-    /// <summary>Gives a pixel as a number: opacity, red, green, blue from the highest byte on.</summary>
+    /// <summary>Returns a pixel as a 32-bit ARGB value: alpha, red, green, blue from the highest byte on.</summary>
     /// <param name="x">Its column, from 0 at the left.</param>
     /// <param name="y">Its row, from 0 at the top.</param>
-    /// <returns>A pixel as a number.</returns>
+    /// <returns>The ARGB value.</returns>
     public int GetArgb32Pixel(int x, int y)
     {
         VerifyInside(new Rectangle(x, y, 1, 1));
         return Pixels.Row(y)[x];
     }
 
-    /// <summary>Sets a pixel by a number: opacity, red, green, blue from the highest byte on.</summary>
+    /// <summary>Sets a pixel to a 32-bit ARGB value: alpha, red, green, blue from the highest byte on.</summary>
     /// <param name="x">Its column, from 0 at the left.</param>
     /// <param name="y">Its row, from 0 at the top.</param>
-    /// <param name="argb32Color">The number.</param>
+    /// <param name="argb32Color">The value.</param>
     public void SetArgb32Pixel(int x, int y, int argb32Color)
     {
         VerifyInside(new Rectangle(x, y, 1, 1));
         Pixels.Row(y)[x] = argb32Color;
     }
 
-    /// <summary>Gives a block of pixels as 32-bit numbers, row by row.</summary>
+    /// <summary>Returns a block of pixels as 32-bit ARGB values, row by row.</summary>
     /// <param name="rectangle">The block.</param>
-    /// <returns>A block of pixels as 32-bit numbers, row by row.</returns>
+    /// <returns>The ARGB values.</returns>
     public int[] LoadArgb32Pixels(Rectangle rectangle)
     {
         VerifyInside(rectangle);
@@ -59,7 +59,7 @@ public abstract partial class RasterImage
 
     /// <summary>Sets a block of pixels.</summary>
     /// <param name="rectangle">The block.</param>
-    /// <param name="pixels">Its pixels as 32-bit numbers, row by row.</param>
+    /// <param name="pixels">Its pixels as 32-bit ARGB values, row by row.</param>
     public void SaveArgb32Pixels(Rectangle rectangle, int[] pixels)
     {
         Verify.NotNull(pixels);
@@ -71,9 +71,9 @@ public abstract partial class RasterImage
         }
     }
 
-    /// <summary>Gives a block of pixels as colours, row by row.</summary>
+    /// <summary>Returns a block of pixels as colours, row by row.</summary>
     /// <param name="rectangle">The block.</param>
-    /// <returns>A block of pixels as colours, row by row.</returns>
+    /// <returns>The colours.</returns>
     public Color[] LoadPixels(Rectangle rectangle) => Array.ConvertAll(LoadArgb32Pixels(rectangle), Color.FromArgb);
 
     /// <summary>Sets a block of pixels.</summary>
@@ -85,10 +85,10 @@ public abstract partial class RasterImage
         SaveArgb32Pixels(rectangle, Array.ConvertAll(pixels, static color => color.ToArgb()));
     }
 
-    /// <summary>Gives a block of pixels as bytes, row by row, in the form that the settings state.</summary>
+    /// <summary>Returns a block of pixels as bytes, row by row, in the format of the settings.</summary>
     /// <param name="rectangle">The block.</param>
-    /// <param name="settings">The form: channels, bits, and bytes of a row.</param>
-    /// <returns>A block of pixels as bytes, row by row, in the form that the settings state.</returns>
+    /// <param name="settings">The format of the bytes.</param>
+    /// <returns>The bytes.</returns>
     public byte[] LoadRawData(Rectangle rectangle, RawDataSettings settings)
     {
         Verify.NotNull(settings);
@@ -99,7 +99,7 @@ public abstract partial class RasterImage
     /// <summary>Sets a block of pixels from bytes.</summary>
     /// <param name="data">The bytes, row by row.</param>
     /// <param name="rectangle">The block.</param>
-    /// <param name="settings">The form: channels, bits, and bytes of a row.</param>
+    /// <param name="settings">The format of the bytes.</param>
     public void SaveRawData(byte[] data, Rectangle rectangle, RawDataSettings settings)
     {
         Verify.NotNull(data);
@@ -108,9 +108,9 @@ public abstract partial class RasterImage
         RawData.Unpack(data, Pixels, rectangle, settings);
     }
 
-    /// <summary>Hands a block of pixels on in bands, so that no large array is needed.</summary>
+    /// <summary>Passes a block of pixels on in bands, so that no large array is needed.</summary>
     /// <param name="rectangle">The block.</param>
-    /// <param name="partialPixelLoader">What takes the bands, for example another image.</param>
+    /// <param name="partialPixelLoader">The receiver of the bands, for example another image.</param>
     public void LoadPartialArgb32Pixels(Rectangle rectangle, IPartialArgb32PixelLoader partialPixelLoader)
     {
         Verify.NotNull(partialPixelLoader);
@@ -119,7 +119,7 @@ public abstract partial class RasterImage
 
     /// <summary>Hands a block of pixels on in bands, as colours.</summary>
     /// <param name="rectangle">The block.</param>
-    /// <param name="partialPixelLoader">What takes the bands, for example another image.</param>
+    /// <param name="partialPixelLoader">The receiver of the bands, for example another image.</param>
     public void LoadPartialPixels(Rectangle rectangle, IPartialPixelLoader partialPixelLoader)
     {
         Verify.NotNull(partialPixelLoader);
@@ -128,16 +128,17 @@ public abstract partial class RasterImage
 
     /// <summary>Hands a block of pixels on in bands, as bytes.</summary>
     /// <param name="rectangle">The block.</param>
-    /// <param name="settings">The form of the bytes.</param>
-    /// <param name="partialRawDataLoader">What takes the bands, for example another image.</param>
-    public void LoadPartialRawData(Rectangle rectangle, RawDataSettings settings, IPartialRawDataLoader partialRawDataLoader)
+    /// <param name="settings">The format of the bytes.</param>
+    /// <param name="partialRawDataLoader">The receiver of the bands, for example another image.</param>
+    public void LoadPartialRawData(
+        Rectangle rectangle, RawDataSettings settings, IPartialRawDataLoader partialRawDataLoader)
     {
         Verify.NotNull(partialRawDataLoader);
         InBands(rectangle, band => partialRawDataLoader.ProcessRawData(band, LoadRawData(band, settings), settings));
     }
 
-    /// <summary>Lets a processor change all pixels, in bands of whole rows.</summary>
-    /// <param name="processor">What changes them, for example a <see cref="TransparencySupporter"/>.</param>
+    /// <summary>Applies a processor to all pixels, in bands of whole rows.</summary>
+    /// <param name="processor">The processor, for example a <see cref="TransparencySupporter"/>.</param>
     public void ApplyProcessor(IBufferProcessor processor)
     {
         Verify.NotNull(processor);
@@ -158,7 +159,7 @@ public abstract partial class RasterImage
             || area.Width > pixels.Width - area.X || area.Height > pixels.Height - area.Y)
         {
             throw new ArgumentOutOfRangeException(
-                null, $"{area} does not lie in a picture of {pixels.Width} × {pixels.Height} pixels.");
+                null, $"{area} does not lie in an image of {pixels.Width} × {pixels.Height} pixels.");
         }
     }
 

@@ -5,42 +5,43 @@ using System.Linq;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Exif;
+using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD;
 
-/// <summary>A picture of pixels. Pixels are colours of 8 bits each for red, green, blue and opacity, whatever the file
-/// stored; rows run from the top down.</summary>
+/// <summary>A raster image. Pixels have 8 bits each of red, green, blue and alpha, whatever the file stored; rows run
+/// from the top down.</summary>
 public abstract partial class RasterImage
-    : Image, IRasterImageArgb32PixelLoader, IRasterImagePixelLoader, IRasterImageRawDataLoader
+    : Image, IPixelContent, IRasterImageArgb32PixelLoader, IRasterImagePixelLoader, IRasterImageRawDataLoader
 {
-    private const double UsualResolution = 96;
+    private const double DefaultResolution = 96;
 
     internal RasterImage()
     {
     }
 
-    /// <summary>Gets the format of the file that the picture was read from.</summary>
+    /// <summary>Gets the format of the file that the image was read from.</summary>
     public abstract FileFormat FileFormat { get; }
 
-    /// <summary>Gets how many bits the file had for a pixel.</summary>
+    /// <summary>Gets the bits per pixel in the file.</summary>
     public abstract int BitsPerPixel { get; }
 
-    /// <summary>Gets how many pictures the file holds: pages, or frames of an animation.</summary>
+    /// <summary>Gets the number of pages or animation frames.</summary>
     public abstract int PageCount { get; }
 
-    /// <summary>Gets the name of the page in its file; empty for none.</summary>
+    /// <summary>Gets the name of the page in the file; empty for none.</summary>
     public abstract string PageTitle { get; }
 
-    /// <summary>Gets or sets the pixels an inch along X, above 0; 96 where the file states none.</summary>
-    public double HorizontalResolution { get; private protected set; } = UsualResolution;
+    /// <summary>Gets the horizontal resolution in pixels per inch, above 0; 96 where the file states none.</summary>
+    public double HorizontalResolution { get; private protected set; } = DefaultResolution;
 
-    /// <summary>Gets or sets the pixels an inch along Y, above 0; 96 where the file states none.</summary>
-    public double VerticalResolution { get; private protected set; } = UsualResolution;
+    /// <summary>Gets the vertical resolution in pixels per inch, above 0; 96 where the file states none.</summary>
+    public double VerticalResolution { get; private protected set; } = DefaultResolution;
 
-    /// <summary>Gets whether any pixel is less than opaque.</summary>
+    /// <summary>Gets whether any pixel is not opaque.</summary>
     public bool HasAlpha => !Pixels.IsOpaque();
 
     /// <inheritdoc/>
@@ -55,23 +56,23 @@ public abstract partial class RasterImage
     /// <inheritdoc/>
     public bool IsRawDataAvailable => !Disposed;
 
-    /// <summary>Gets or sets what the camera says of the picture; nothing where the file holds no such data.</summary>
+    /// <summary>Gets or sets the Exif metadata; <see langword="null"/> where the file has none.</summary>
     public ExifData? ExifData { get; set; }
 
-    /// <summary>Gets or sets metadata as properties; nothing where the file holds none.</summary>
+    /// <summary>Gets or sets the XMP metadata; <see langword="null"/> where the file has none.</summary>
     public XmpPacketWrapper? XmpData { get; set; }
 
     internal abstract PixelGrid Pixels { get; }
 
-    /// <summary>Gives a page or frame. It belongs to this image and lives as long.</summary>
-    /// <param name="index">Its number, from 0.</param>
-    /// <returns>A page or frame.</returns>
+    /// <summary>Returns a page or frame. It belongs to this image and is disposed with it.</summary>
+    /// <param name="index">The index, from 0.</param>
+    /// <returns>The page.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such page.</exception>
     public abstract RasterImage GetPage(int index);
 
-    /// <summary>Sets how many pixels an inch of paper has; pixels do not change.</summary>
-    /// <param name="dpiX">Pixels an inch along X, above 0.</param>
-    /// <param name="dpiY">Pixels an inch along Y, above 0.</param>
+    /// <summary>Sets the resolution in pixels per inch; pixels do not change.</summary>
+    /// <param name="dpiX">Pixels per inch along X, above 0.</param>
+    /// <param name="dpiY">Pixels per inch along Y, above 0.</param>
     public void SetResolution(double dpiX, double dpiY)
     {
         var verified = new ResolutionSetting(dpiX, dpiY);
@@ -79,36 +80,20 @@ public abstract partial class RasterImage
     }
 
     /// <inheritdoc/>
-    internal override bool SupportsExport(ImageOptionsBase options) => RasterSaver.Supports(options);
-
-    /// <inheritdoc/>
-    internal override IEnumerable<Type> ExportOptionTypes => RasterSaver.OptionTypes;
-
-    /// <inheritdoc/>
-    internal override void Export(ImageOptionsBase options, Stream stream)
-    {
-        options.VerifyHonoured(OutputKind.Picture);
-        RasterSaver.Write(new Frames(this, options, RasterSaver.HoldsPages(options)), options, stream);
-    }
+    IRasterPages IPixelContent.OpenPages(ImageOptionsBase options, bool all) => new Frames(this, options, all);
 
     /// <inheritdoc/>
     internal override string Content => $"{Width} × {Height} pixels";
 
     /// <inheritdoc/>
-    internal override FileFormat OwnFormat => FileFormat;
+    private protected override FileFormat NativeFormat => FileFormat;
 
-    /// <inheritdoc/>
-    internal override void SaveData(Stream stream)
-    {
-        Export(OwnOptions.Of(FileFormat)
-            ?? throw new ImageSaveException($"{Verify.NameOf(FileFormat)} is not written; pass options."), stream);
-    }
-
-    /// <summary>Copies of the pages; a single picture where the format has no pages.</summary>
+    /// <summary>Copies of the pages; one image where the format has no pages.</summary>
     private sealed class Frames(RasterImage image, ImageOptionsBase options, bool all) : IRasterPages
     {
         public IReadOnlyList<string> Titles { get; } =
-            [.. Enumerable.Range(0, all ? image.PageCount : 1).Select(i => all ? image.GetPage(i).PageTitle : image.PageTitle)];
+            [.. Enumerable.Range(0, all ? image.PageCount : 1)
+                .Select(i => all ? image.GetPage(i).PageTitle : image.PageTitle)];
 
         public RasterPageData Render(int index)
         {
@@ -120,7 +105,7 @@ public abstract partial class RasterImage
             {
                 Exif = image.ExifData,
                 Xmp = image.XmpData,
-            }.Turned(options.Rotation);
+            }.RotatedFlipped(options.Rotation);
         }
     }
 }

@@ -3,12 +3,12 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>What rows of bytes mean.</summary>
+/// <summary>The layout of rows of pixel bytes.</summary>
 public class RawDataSettings
 {
-    /// <summary>Creates settings whose rows have no gaps between them.</summary>
-    /// <param name="pixelDataFormat">The form of a pixel.</param>
-    /// <param name="width">How many pixels a row has.</param>
+    /// <summary>Creates settings of rows without padding.</summary>
+    /// <param name="pixelDataFormat">The pixel format.</param>
+    /// <param name="width">The number of pixels in a row.</param>
     public RawDataSettings(PixelDataFormat pixelDataFormat, int width)
     {
         Verify.NotNull(pixelDataFormat);
@@ -17,16 +17,16 @@ public class RawDataSettings
         LineSize = pixelDataFormat.RowBytes(width);
     }
 
-    /// <summary>Gets the form of a pixel.</summary>
+    /// <summary>Gets the pixel format.</summary>
     public PixelDataFormat PixelDataFormat { get; }
 
-    /// <summary>Gets or sets how many bytes lie between the beginnings of two rows.</summary>
+    /// <summary>Gets or sets the distance from one row to the next in bytes (stride).</summary>
     public int LineSize { get; set; }
 
-    /// <summary>Gets or sets the colours that pixels are numbers of; needed by forms with a palette.</summary>
+    /// <summary>Gets or sets the palette; required by indexed formats.</summary>
     public IColorPalette? ColorPalette { get; set; }
 
-    /// <summary>Gives what turns single rows into colours, and back.</summary>
-    /// <returns>What turns single rows into colours, and back.</returns>
+    /// <summary>Returns a converter between rows and ARGB values.</summary>
+    /// <returns>The converter.</returns>
     public IColorConverter CreateColorConverter() => PixelDataFormat.CreateConverter(ColorPalette);
 }

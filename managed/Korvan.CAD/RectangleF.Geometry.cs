@@ -1,55 +1,51 @@
-using System;
-
 namespace Korvan.CAD;
 
-/// <content>What is done with rectangles.</content>
+/// <content>Geometry.</content>
 public partial struct RectangleF
 {
-    /// <summary>Makes a rectangle from its four sides.</summary>
+    private readonly RectangleSides<float> Sides => new(Left, Top, Right, Bottom);
+
+    /// <summary>Creates a rectangle from its four sides.</summary>
     /// <param name="left">The left side.</param>
-    /// <param name="top">The upper side.</param>
+    /// <param name="top">The top side.</param>
     /// <param name="right">The right side.</param>
-    /// <param name="bottom">The lower side.</param>
-    /// <returns>A rectangle from its four sides.</returns>
+    /// <param name="bottom">The bottom side.</param>
+    /// <returns>The rectangle.</returns>
     public static RectangleF FromLeftTopRightBottom(float left, float top, float right, float bottom)
     {
         return new RectangleF(left, top, right - left, bottom - top);
     }
 
-    /// <summary>Gives a rectangle that is larger on all sides.</summary>
-    /// <param name="rect">The rectangle to start from; it stays as it is.</param>
-    /// <param name="x">How far the left and the right side are moved out; below 0 they are moved in.</param>
-    /// <param name="y">How far the upper and the lower side are moved out.</param>
-    /// <returns>A rectangle that is larger on all sides.</returns>
+    /// <summary>Returns an enlarged copy of a rectangle; the centre stays.</summary>
+    /// <param name="rect">The rectangle to start from; it is not changed.</param>
+    /// <param name="x">How far the left and the right side move outwards; below 0 they move inwards.</param>
+    /// <param name="y">How far the top and the bottom side move outwards; below 0 they move inwards.</param>
+    /// <returns>The enlarged rectangle.</returns>
     public static RectangleF Inflate(RectangleF rect, float x, float y)
     {
         rect.Inflate(x, y);
         return rect;
     }
 
-    /// <summary>Gives the part that two rectangles share; <see cref="Empty"/> when they do not meet.</summary>
-    /// <param name="a">One rectangle.</param>
-    /// <param name="b">The other.</param>
-    /// <returns>The part that two rectangles share.</returns>
+    /// <summary>Returns the intersection of two rectangles; <see cref="Empty"/> where they do not intersect.</summary>
+    /// <param name="a">The first rectangle.</param>
+    /// <param name="b">The second rectangle.</param>
+    /// <returns>The intersection.</returns>
     public static RectangleF Intersect(RectangleF a, RectangleF b)
     {
         a.Intersect(b);
         return a;
     }
 
-    /// <summary>Gives the smallest rectangle that holds two others.</summary>
-    /// <param name="a">One rectangle.</param>
-    /// <param name="b">The other.</param>
-    /// <returns>The smallest rectangle that holds two others.</returns>
-    public static RectangleF Union(RectangleF a, RectangleF b)
-    {
-        return FromLeftTopRightBottom(
-            Math.Min(a.Left, b.Left), Math.Min(a.Top, b.Top), Math.Max(a.Right, b.Right), Math.Max(a.Bottom, b.Bottom));
-    }
+    /// <summary>Returns the smallest rectangle that contains two others.</summary>
+    /// <param name="a">The first rectangle.</param>
+    /// <param name="b">The second rectangle.</param>
+    /// <returns>The union.</returns>
+    public static RectangleF Union(RectangleF a, RectangleF b) => From(a.Sides.Union(b.Sides));
 
-    /// <summary>Moves all sides out; the middle stays.</summary>
-    /// <param name="width">How far the left and the right side are moved out; below 0 they are moved in.</param>
-    /// <param name="height">How far the upper and the lower side are moved out.</param>
+    /// <summary>Enlarges the rectangle; the centre stays.</summary>
+    /// <param name="width">How far the left and the right side move outwards; below 0 they move inwards.</param>
+    /// <param name="height">How far the top and the bottom side move outwards; below 0 they move inwards.</param>
     public void Inflate(float width, float height)
     {
         X -= width;
@@ -58,19 +54,17 @@ public partial struct RectangleF
         Height += 2 * height;
     }
 
-    /// <summary>Moves all sides out; the middle stays.</summary>
-    /// <param name="size">How far the sides are moved out, across and along.</param>
+    /// <summary>Enlarges the rectangle; the centre stays.</summary>
+    /// <param name="size">How far the sides move outwards, horizontally and vertically.</param>
     public void Inflate(SizeF size) => Inflate(size.Width, size.Height);
 
-    /// <summary>Keeps the part that lies in another rectangle; nothing is left when they do not meet.</summary>
+    /// <summary>Replaces the rectangle by its intersection with another; it becomes <see cref="Empty"/> where they do
+    /// not intersect.</summary>
     /// <param name="rect">The other rectangle.</param>
     public void Intersect(RectangleF rect)
     {
-        float left = Math.Max(Left, rect.Left);
-        float top = Math.Max(Top, rect.Top);
-        float right = Math.Min(Right, rect.Right);
-        float bottom = Math.Min(Bottom, rect.Bottom);
-        this = right < left || bottom < top ? Empty : FromLeftTopRightBottom(left, top, right, bottom);
+        RectangleSides<float> common = Sides.Intersection(rect.Sides);
+        this = common.IsInverted ? Empty : From(common);
     }
 
     /// <summary>Moves the rectangle.</summary>
@@ -82,35 +76,24 @@ public partial struct RectangleF
         Y += y;
     }
 
-    /// <summary>Makes width and height positive; the rectangle covers the same place.</summary>
-    public void Normalize()
-    {
-        this = FromLeftTopRightBottom(
-            Math.Min(Left, Right), Math.Min(Top, Bottom), Math.Max(Left, Right), Math.Max(Top, Bottom));
-    }
+    /// <summary>Makes width and height positive; the covered area stays.</summary>
+    public void Normalize() => this = From(Sides.Normalized);
 
-    /// <summary>Tells whether a point lies inside; the left and the upper side belong to the rectangle, the right and
-    /// the lower do not.</summary>
+    /// <summary>Returns whether a point lies inside. The left and the top side belong to the rectangle, the right and
+    /// the bottom side do not.</summary>
     /// <param name="point">The point.</param>
-    /// <returns>Whether a point lies inside.</returns>
-    public readonly bool Contains(PointF point)
-    {
-        return point.X >= Left && point.X < Right && point.Y >= Top && point.Y < Bottom;
-    }
+    /// <returns>Whether the point lies inside.</returns>
+    public readonly bool Contains(PointF point) => Sides.Contains(point.X, point.Y);
 
-    /// <summary>Tells whether another rectangle lies wholly inside.</summary>
+    /// <summary>Returns whether another rectangle lies wholly inside.</summary>
     /// <param name="rect">The other rectangle.</param>
-    /// <returns>Whether another rectangle lies wholly inside.</returns>
-    public readonly bool Contains(RectangleF rect)
-    {
-        return rect.Left >= Left && rect.Right <= Right && rect.Top >= Top && rect.Bottom <= Bottom;
-    }
+    /// <returns>Whether it lies inside.</returns>
+    public readonly bool Contains(RectangleF rect) => Sides.Contains(rect.Sides);
 
-    /// <summary>Tells whether there is a place that lies in both rectangles.</summary>
+    /// <summary>Returns whether the intersection with another rectangle has an area.</summary>
     /// <param name="rect">The other rectangle.</param>
-    /// <returns>Whether there is a place that lies in both rectangles.</returns>
-    public readonly bool IntersectsWith(RectangleF rect)
-    {
-        return rect.Left < Right && Left < rect.Right && rect.Top < Bottom && Top < rect.Bottom;
-    }
+    /// <returns>Whether the rectangles intersect.</returns>
+    public readonly bool IntersectsWith(RectangleF rect) => Sides.IntersectsWith(rect.Sides);
+
+    private static RectangleF From(RectangleSides<float> s) => FromLeftTopRightBottom(s.Left, s.Top, s.Right, s.Bottom);
 }

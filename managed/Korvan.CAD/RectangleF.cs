@@ -2,12 +2,12 @@ using System;
 
 namespace Korvan.CAD;
 
-/// <summary>A rectangle with sides along the axes; Y grows downwards.</summary>
+/// <summary>An axis-parallel rectangle; Y grows downwards.</summary>
 public partial struct RectangleF : IEquatable<RectangleF>
 {
-    /// <summary>Creates a rectangle from its corner and its sides.</summary>
+    /// <summary>Creates a rectangle from its upper left corner and its size.</summary>
     /// <param name="x">The left side.</param>
-    /// <param name="y">The upper side.</param>
+    /// <param name="y">The top side.</param>
     /// <param name="width">The width.</param>
     /// <param name="height">The height.</param>
     public RectangleF(float x, float y, float width, float height)
@@ -18,7 +18,7 @@ public partial struct RectangleF : IEquatable<RectangleF>
         Height = height;
     }
 
-    /// <summary>Creates a rectangle from its corner and its size.</summary>
+    /// <summary>Creates a rectangle from its upper left corner and its size.</summary>
     /// <param name="location">The upper left corner.</param>
     /// <param name="size">Width and height.</param>
     public RectangleF(PointF location, SizeF size)
@@ -26,13 +26,13 @@ public partial struct RectangleF : IEquatable<RectangleF>
     {
     }
 
-    /// <summary>Gets the rectangle without size at the origin.</summary>
+    /// <summary>Gets the empty rectangle at the origin.</summary>
     public static RectangleF Empty => default;
 
     /// <summary>Gets or sets the left side.</summary>
     public float X { get; set; }
 
-    /// <summary>Gets or sets the upper side.</summary>
+    /// <summary>Gets or sets the top side.</summary>
     public float Y { get; set; }
 
     /// <summary>Gets or sets the width.</summary>
@@ -44,13 +44,13 @@ public partial struct RectangleF : IEquatable<RectangleF>
     /// <summary>Gets the left side.</summary>
     public readonly float Left => X;
 
-    /// <summary>Gets the upper side.</summary>
+    /// <summary>Gets the top side.</summary>
     public readonly float Top => Y;
 
     /// <summary>Gets the right side.</summary>
     public readonly float Right => X + Width;
 
-    /// <summary>Gets the lower side.</summary>
+    /// <summary>Gets the bottom side.</summary>
     public readonly float Bottom => Y + Height;
 
     /// <summary>Gets the upper left corner.</summary>
@@ -62,15 +62,15 @@ public partial struct RectangleF : IEquatable<RectangleF>
     /// <summary>Gets whether position and size are zero.</summary>
     public readonly bool IsEmpty => X == 0 && Y == 0 && Width == 0 && Height == 0;
 
-    /// <summary>Compares two rectangles part by part.</summary>
+    /// <summary>Compares two rectangles by position and size.</summary>
     public static bool operator ==(RectangleF left, RectangleF right) => left.Equals(right);
 
-    /// <summary>Compares two rectangles part by part.</summary>
+    /// <summary>Compares two rectangles by position and size.</summary>
     public static bool operator !=(RectangleF left, RectangleF right) => !left.Equals(right);
 
-    /// <summary>Tells whether position and size are the same.</summary>
+    /// <summary>Determines whether position and size are equal.</summary>
     /// <param name="other">The rectangle to compare with.</param>
-    /// <returns>Whether position and size are the same.</returns>
+    /// <returns>Whether they are equal.</returns>
     public readonly bool Equals(RectangleF other)
     {
         return X == other.X && Y == other.Y && Width == other.Width && Height == other.Height;

@@ -4,34 +4,34 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>How many pixels an image has for each inch of paper.</summary>
+/// <summary>Horizontal and vertical resolution in pixels per inch.</summary>
 public class ResolutionSetting
 {
     private double _horizontal = 96;
     private double _vertical = 96;
 
-    /// <summary>Creates a resolution of 96 pixels an inch both ways.</summary>
+    /// <summary>Creates a resolution of 96 pixels per inch both ways.</summary>
     public ResolutionSetting()
     {
     }
 
     /// <summary>Creates a resolution.</summary>
-    /// <param name="horizontalResolution">Pixels an inch along X, above 0.</param>
-    /// <param name="verticalResolution">Pixels an inch along Y, above 0.</param>
+    /// <param name="horizontalResolution">Pixels per inch along X, above 0.</param>
+    /// <param name="verticalResolution">Pixels per inch along Y, above 0.</param>
     public ResolutionSetting(double horizontalResolution, double verticalResolution)
     {
         HorizontalResolution = horizontalResolution;
         VerticalResolution = verticalResolution;
     }
 
-    /// <summary>Gets or sets the pixels an inch along X, above 0.</summary>
+    /// <summary>Gets or sets the pixels per inch along X, above 0.</summary>
     public double HorizontalResolution
     {
         get => _horizontal;
         set => _horizontal = Verified(value);
     }
 
-    /// <summary>Gets or sets the pixels an inch along Y, above 0.</summary>
+    /// <summary>Gets or sets the pixels per inch along Y, above 0.</summary>
     public double VerticalResolution
     {
         get => _vertical;

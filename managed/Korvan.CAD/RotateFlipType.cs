@@ -2,55 +2,55 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>Quarter turns, clockwise, and mirrorings after the turn.</summary>
+/// <summary>Clockwise rotations by multiples of 90 degrees, followed by flips.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum RotateFlipType
 {
-    /// <summary>As it is.</summary>
+    /// <summary>No rotation and no flip.</summary>
     RotateNoneFlipNone = 0,
 
-    /// <summary>A quarter turn.</summary>
+    /// <summary>Rotation by 90 degrees.</summary>
     Rotate90FlipNone = 1,
 
-    /// <summary>Half a turn.</summary>
+    /// <summary>Rotation by 180 degrees.</summary>
     Rotate180FlipNone = 2,
 
-    /// <summary>Three quarters of a turn.</summary>
+    /// <summary>Rotation by 270 degrees.</summary>
     Rotate270FlipNone = 3,
 
-    /// <summary>Left and right change places.</summary>
+    /// <summary>Horizontal flip.</summary>
     RotateNoneFlipX = 4,
 
-    /// <summary>A quarter turn, then left and right change places.</summary>
+    /// <summary>Rotation by 90 degrees, then horizontal flip.</summary>
     Rotate90FlipX = 5,
 
-    /// <summary>Up and down change places.</summary>
+    /// <summary>Vertical flip.</summary>
     RotateNoneFlipY = 6,
 
-    /// <summary>A quarter turn, then up and down change places.</summary>
+    /// <summary>Rotation by 90 degrees, then vertical flip.</summary>
     Rotate90FlipY = 7,
 
-    /// <summary>Half a turn, by two mirrorings.</summary>
+    /// <summary>Horizontal and vertical flip, which is rotation by 180 degrees.</summary>
     RotateNoneFlipXY = 2,
 
-    /// <summary>Half a turn, then left and right change places.</summary>
+    /// <summary>Rotation by 180 degrees, then horizontal flip.</summary>
     Rotate180FlipX = 6,
 
-    /// <summary>Half a turn, then up and down change places.</summary>
+    /// <summary>Rotation by 180 degrees, then vertical flip.</summary>
     Rotate180FlipY = 4,
 
-    /// <summary>Three quarters of a turn, then left and right change places.</summary>
+    /// <summary>Rotation by 270 degrees, then horizontal flip.</summary>
     Rotate270FlipX = 7,
 
-    /// <summary>Three quarters of a turn, then up and down change places.</summary>
+    /// <summary>Rotation by 270 degrees, then vertical flip.</summary>
     Rotate270FlipY = 5,
 
-    /// <summary>A quarter turn, then half a turn.</summary>
+    /// <summary>Rotation by 90 degrees, then horizontal and vertical flip.</summary>
     Rotate90FlipXY = 3,
 
-    /// <summary>Half a turn twice.</summary>
+    /// <summary>Rotation by 180 degrees, then horizontal and vertical flip, which is no change.</summary>
     Rotate180FlipXY = 0,
 
-    /// <summary>Three quarters of a turn, then half a turn.</summary>
+    /// <summary>Rotation by 270 degrees, then horizontal and vertical flip.</summary>
     Rotate270FlipXY = 1,
 }

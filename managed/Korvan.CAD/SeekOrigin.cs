@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>From where a place in a stream is counted.</summary>
+/// <summary>The reference point of a position in a stream.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum SeekOrigin
 {
-    /// <summary>From the first byte.</summary>
+    /// <summary>The beginning of the stream.</summary>
     Begin = 0,
 
-    /// <summary>From the present place.</summary>
+    /// <summary>The current position.</summary>
     Current = 1,
 
-    /// <summary>From behind the last byte.</summary>
+    /// <summary>The end of the stream.</summary>
     End = 2,
 }

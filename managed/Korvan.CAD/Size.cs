@@ -2,7 +2,7 @@ using System;
 
 namespace Korvan.CAD;
 
-/// <summary>A width and a height in whole numbers.</summary>
+/// <summary>An integer width and height.</summary>
 public struct Size : IEquatable<Size>
 {
     /// <summary>Creates the size of the rectangle from the origin to a point.</summary>
@@ -12,7 +12,7 @@ public struct Size : IEquatable<Size>
     {
     }
 
-    /// <summary>Creates the value from its two parts.</summary>
+    /// <summary>Creates the value from its components.</summary>
     /// <param name="width">The width.</param>
     /// <param name="height">The height.</param>
     public Size(int width, int height)
@@ -21,7 +21,7 @@ public struct Size : IEquatable<Size>
         Height = height;
     }
 
-    /// <summary>Gets the value whose parts are zero.</summary>
+    /// <summary>Gets the value with all components zero.</summary>
     public static Size Empty => default;
 
     /// <summary>Gets or sets the width.</summary>
@@ -30,24 +30,24 @@ public struct Size : IEquatable<Size>
     /// <summary>Gets or sets the height.</summary>
     public int Height { get; set; }
 
-    /// <summary>Gets whether both parts are zero.</summary>
+    /// <summary>Gets whether all components are zero.</summary>
     public readonly bool IsEmpty => Width == 0 && Height == 0;
 
-    /// <summary>Compares two values part by part.</summary>
+    /// <summary>Compares two values component by component.</summary>
     public static bool operator ==(Size left, Size right) => left.Equals(right);
 
-    /// <summary>Compares two values part by part.</summary>
+    /// <summary>Compares two values component by component.</summary>
     public static bool operator !=(Size left, Size right) => !left.Equals(right);
 
-    /// <summary>Gives the same size with sides that can have fractions.</summary>
+    /// <summary>Converts to floating-point sides.</summary>
     public static explicit operator SizeF(Size value) => new(value.Width, value.Height);
 
-    /// <summary>Gives the sides as coordinates.</summary>
+    /// <summary>Converts the sides to coordinates.</summary>
     public static explicit operator Point(Size value) => new(value.Width, value.Height);
 
-    /// <summary>Tells whether both parts are the same.</summary>
+    /// <summary>Determines whether two values are equal component by component.</summary>
     /// <param name="other">The value to compare with.</param>
-    /// <returns>Whether both parts are the same.</returns>
+    /// <returns>Whether they are equal.</returns>
     public readonly bool Equals(Size other) => Width == other.Width && Height == other.Height;
 
     /// <inheritdoc/>

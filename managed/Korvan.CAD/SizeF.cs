@@ -2,10 +2,10 @@ using System;
 
 namespace Korvan.CAD;
 
-/// <summary>A width and a height.</summary>
+/// <summary>A floating-point width and height.</summary>
 public struct SizeF : IEquatable<SizeF>
 {
-    /// <summary>Creates the value from its two parts.</summary>
+    /// <summary>Creates the value from its components.</summary>
     /// <param name="width">The width.</param>
     /// <param name="height">The height.</param>
     public SizeF(float width, float height)
@@ -14,7 +14,7 @@ public struct SizeF : IEquatable<SizeF>
         Height = height;
     }
 
-    /// <summary>Gets the value whose parts are zero.</summary>
+    /// <summary>Gets the value with all components zero.</summary>
     public static SizeF Empty => default;
 
     /// <summary>Gets or sets the width.</summary>
@@ -23,21 +23,21 @@ public struct SizeF : IEquatable<SizeF>
     /// <summary>Gets or sets the height.</summary>
     public float Height { get; set; }
 
-    /// <summary>Gets whether both parts are zero.</summary>
+    /// <summary>Gets whether all components are zero.</summary>
     public readonly bool IsEmpty => Width == 0 && Height == 0;
 
-    /// <summary>Compares two values part by part.</summary>
+    /// <summary>Compares two values component by component.</summary>
     public static bool operator ==(SizeF left, SizeF right) => left.Equals(right);
 
-    /// <summary>Compares two values part by part.</summary>
+    /// <summary>Compares two values component by component.</summary>
     public static bool operator !=(SizeF left, SizeF right) => !left.Equals(right);
 
-    /// <summary>Gives the sides as coordinates.</summary>
+    /// <summary>Converts the sides to coordinates.</summary>
     public static explicit operator PointF(SizeF value) => new(value.Width, value.Height);
 
-    /// <summary>Tells whether both parts are the same.</summary>
+    /// <summary>Determines whether two values are equal component by component.</summary>
     /// <param name="other">The value to compare with.</param>
-    /// <returns>Whether both parts are the same.</returns>
+    /// <returns>Whether they are equal.</returns>
     public readonly bool Equals(SizeF other) => Width == other.Width && Height == other.Height;
 
     /// <inheritdoc/>

@@ -2,22 +2,22 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>How edges of shapes are smoothed.</summary>
+/// <summary>Antialiasing of shapes.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum SmoothingMode
 {
-    /// <summary>As the device does by itself.</summary>
+    /// <summary>The default of the device.</summary>
     Default = 0,
 
-    /// <summary>Without smoothing.</summary>
+    /// <summary>No antialiasing.</summary>
     HighSpeed = 1,
 
-    /// <summary>With smoothing.</summary>
+    /// <summary>Antialiasing.</summary>
     HighQuality = 2,
 
-    /// <summary>Without smoothing.</summary>
+    /// <summary>No antialiasing.</summary>
     None = 3,
 
-    /// <summary>With smoothing.</summary>
+    /// <summary>Antialiasing.</summary>
     AntiAlias = 4,
 }

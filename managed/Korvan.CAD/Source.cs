@@ -1,9 +1,9 @@
 namespace Korvan.CAD;
 
-/// <summary>A place that data is read from or written to.</summary>
+/// <summary>A source or destination of data.</summary>
 public abstract class Source
 {
-    /// <summary>Opens the place.</summary>
-    /// <returns>A container that the caller disposes.</returns>
+    /// <summary>Opens the stream.</summary>
+    /// <returns>A container, which the caller disposes.</returns>
     public abstract StreamContainer GetStreamContainer();
 }

@@ -4,7 +4,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>A stream together with the question of who closes it.</summary>
+/// <summary>A stream, and whether disposing the container closes it.</summary>
 public class StreamContainer : DisposableObject
 {
     /// <summary>Creates a container that leaves the stream open.</summary>
@@ -42,31 +42,31 @@ public class StreamContainer : DisposableObject
     /// <summary>Gets the length in bytes.</summary>
     public long Length => Stream.Length;
 
-    /// <summary>Gets or sets the place of the next read or write, in bytes from the start.</summary>
+    /// <summary>Gets or sets the position of the next read or write, in bytes from the start.</summary>
     public long Position
     {
         get => Stream.Position;
         set => Stream.Position = value;
     }
 
-    /// <summary>Gives the stream in a container.</summary>
+    /// <summary>Returns the stream of a container.</summary>
     public static explicit operator Stream(StreamContainer container)
     {
         Verify.NotNull(container);
         return container.Stream;
     }
 
-    /// <summary>Moves the place of the next read or write.</summary>
-    /// <param name="offset">How far, in bytes.</param>
-    /// <param name="origin">From where that is counted.</param>
-    /// <returns>The new place, in bytes from the start.</returns>
+    /// <summary>Sets the position of the next read or write.</summary>
+    /// <param name="offset">The offset in bytes.</param>
+    /// <param name="origin">The origin of the offset.</param>
+    /// <returns>The new position, in bytes from the start.</returns>
     public long Seek(long offset, SeekOrigin origin) => Stream.Seek(offset, (System.IO.SeekOrigin)origin);
 
-    /// <summary>Passes buffered bytes on.</summary>
+    /// <summary>Writes buffered bytes.</summary>
     public void Flush() => Stream.Flush();
 
-    /// <summary>Gives the whole content from the start; the position of a stream that can seek is kept.</summary>
-    /// <returns>The whole content from the start.</returns>
+    /// <summary>Returns the whole content from the start; the position of a seekable stream is kept.</summary>
+    /// <returns>The content.</returns>
     public byte[] ToBytes()
     {
         VerifyNotDisposed();

@@ -2,14 +2,14 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>Where a text stands in the room that it has, seen in the direction of reading.</summary>
+/// <summary>The alignment of text in its layout rectangle, relative to the reading direction.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum StringAlignment
 {
-    /// <summary>At the begin.</summary>
+    /// <summary>At the start.</summary>
     Near = 0,
 
-    /// <summary>In the middle.</summary>
+    /// <summary>Centred.</summary>
     Center = 1,
 
     /// <summary>At the end.</summary>

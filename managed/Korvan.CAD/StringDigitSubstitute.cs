@@ -2,19 +2,19 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>Which digits are shown for the digits 0 to 9 of a text.</summary>
+/// <summary>The digits that are shown for the digits 0 to 9.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum StringDigitSubstitute
 {
-    /// <summary>Those of the user's settings.</summary>
+    /// <summary>Those of the user's locale.</summary>
     User = 0,
 
-    /// <summary>0 to 9 themselves.</summary>
+    /// <summary>The digits 0 to 9, without substitution.</summary>
     None = 1,
 
-    /// <summary>Those that are official where the language is spoken.</summary>
+    /// <summary>The official digits of the country.</summary>
     National = 2,
 
-    /// <summary>Those of the language's own script.</summary>
+    /// <summary>The traditional digits of the script.</summary>
     Traditional = 3,
 }

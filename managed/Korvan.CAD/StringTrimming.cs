@@ -2,25 +2,25 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>How a text is cut that is too long for its room.</summary>
+/// <summary>How text is trimmed that does not fit its layout rectangle.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum StringTrimming
 {
-    /// <summary>It is not cut.</summary>
+    /// <summary>It is not trimmed.</summary>
     None = 0,
 
-    /// <summary>Behind the last letter that fits.</summary>
+    /// <summary>After the last character that fits.</summary>
     Character = 1,
 
-    /// <summary>Behind the last word that fits.</summary>
+    /// <summary>After the last word that fits.</summary>
     Word = 2,
 
-    /// <summary>Behind a letter, with three dots.</summary>
+    /// <summary>After a character, with an ellipsis.</summary>
     EllipsisCharacter = 3,
 
-    /// <summary>Behind a word, with three dots.</summary>
+    /// <summary>After a word, with an ellipsis.</summary>
     EllipsisWord = 4,
 
-    /// <summary>In the middle, as paths are shortened, with three dots there.</summary>
+    /// <summary>In the middle, with an ellipsis, as paths are shortened.</summary>
     EllipsisPath = 5,
 }

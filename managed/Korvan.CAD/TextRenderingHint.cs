@@ -2,25 +2,25 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>How edges of letters are smoothed.</summary>
+/// <summary>The antialiasing and hinting of text.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TextRenderingHint
 {
-    /// <summary>As the device does by itself.</summary>
+    /// <summary>The default of the device.</summary>
     SystemDefault = 0,
 
-    /// <summary>Without smoothing, with hinting.</summary>
+    /// <summary>Without antialiasing, with hinting.</summary>
     SingleBitPerPixelGridFit = 1,
 
-    /// <summary>Without smoothing.</summary>
+    /// <summary>Without antialiasing.</summary>
     SingleBitPerPixel = 2,
 
-    /// <summary>With smoothing and hinting.</summary>
+    /// <summary>With antialiasing and hinting.</summary>
     AntiAliasGridFit = 3,
 
-    /// <summary>With smoothing.</summary>
+    /// <summary>With antialiasing.</summary>
     AntiAlias = 4,
 
-    /// <summary>With smoothing in the parts of a pixel.</summary>
+    /// <summary>With subpixel antialiasing.</summary>
     ClearTypeGridFit = 5,
 }

@@ -6,13 +6,13 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD;
 
-/// <summary>Makes one colour transparent, or lays what is transparent over another.</summary>
+/// <summary>Makes one colour transparent, or composites transparent pixels over a background colour.</summary>
 public class TransparencySupporter : IAdvancedBufferProcessor
 {
     private Color _transparentColor;
     private Color _backgroundColor;
 
-    /// <summary>Creates a processor that changes nothing yet.</summary>
+    /// <summary>Creates a processor that makes no changes.</summary>
     public TransparencySupporter()
     {
     }
@@ -24,8 +24,8 @@ public class TransparencySupporter : IAdvancedBufferProcessor
         set => _transparentColor = value;
     }
 
-    /// <summary>Gets or sets the colour that transparent pixels are laid over; <see cref="Color.Empty"/> for
-    /// none.</summary>
+    /// <summary>Gets or sets the background colour that transparent pixels are composited over;
+    /// <see cref="Color.Empty"/> for none.</summary>
     public Color BackgroundColor
     {
         get => _backgroundColor;
@@ -35,7 +35,7 @@ public class TransparencySupporter : IAdvancedBufferProcessor
     /// <summary>Gets whether a colour becomes transparent.</summary>
     public bool HasTransparentColor => !_transparentColor.IsEmpty;
 
-    /// <summary>Gets whether transparent pixels are laid over a colour.</summary>
+    /// <summary>Gets whether transparent pixels are composited over a background colour.</summary>
     public bool HasBackgroundColor => !_backgroundColor.IsEmpty;
 
     /// <inheritdoc/>

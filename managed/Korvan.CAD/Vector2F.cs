@@ -2,42 +2,42 @@ using System;
 
 namespace Korvan.CAD;
 
-/// <summary>A vector in the plane.</summary>
+/// <summary>A two-dimensional vector.</summary>
 public struct Vector2F : IEquatable<Vector2F>
 {
-    /// <summary>Creates the value from its two parts.</summary>
-    /// <param name="x">The part along X.</param>
-    /// <param name="y">The part along Y.</param>
+    /// <summary>Creates the value from its components.</summary>
+    /// <param name="x">The x component.</param>
+    /// <param name="y">The y component.</param>
     public Vector2F(float x, float y)
     {
         X = x;
         Y = y;
     }
 
-    /// <summary>Gets the value whose parts are zero.</summary>
+    /// <summary>Gets the value with all components zero.</summary>
     public static Vector2F Empty => default;
 
-    /// <summary>Gets or sets the part along X.</summary>
+    /// <summary>Gets or sets the x component.</summary>
     public float X { get; set; }
 
-    /// <summary>Gets or sets the part along Y.</summary>
+    /// <summary>Gets or sets the y component.</summary>
     public float Y { get; set; }
 
-    /// <summary>Gets whether both parts are zero.</summary>
+    /// <summary>Gets whether all components are zero.</summary>
     public readonly bool IsEmpty => X == 0 && Y == 0;
 
     /// <summary>Gets the Euclidean length.</summary>
     public readonly float Length => (float)Math.Sqrt(((double)X * X) + ((double)Y * Y));
 
-    /// <summary>Compares two values part by part.</summary>
+    /// <summary>Compares two values component by component.</summary>
     public static bool operator ==(Vector2F left, Vector2F right) => left.Equals(right);
 
-    /// <summary>Compares two values part by part.</summary>
+    /// <summary>Compares two values component by component.</summary>
     public static bool operator !=(Vector2F left, Vector2F right) => !left.Equals(right);
 
-    /// <summary>Tells whether both parts are the same.</summary>
+    /// <summary>Determines whether two values are equal component by component.</summary>
     /// <param name="other">The value to compare with.</param>
-    /// <returns>Whether both parts are the same.</returns>
+    /// <returns>Whether they are equal.</returns>
     public readonly bool Equals(Vector2F other) => X == other.X && Y == other.Y;
 
     /// <inheritdoc/>

@@ -3,13 +3,13 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD;
 
-/// <summary>A vector in space.</summary>
+/// <summary>A three-dimensional vector.</summary>
 public struct Vector3F : IEquatable<Vector3F>
 {
-    /// <summary>Creates the vector from its parts.</summary>
-    /// <param name="x">The part along X.</param>
-    /// <param name="y">The part along Y.</param>
-    /// <param name="z">The part along Z.</param>
+    /// <summary>Creates the vector from its components.</summary>
+    /// <param name="x">The x component.</param>
+    /// <param name="y">The y component.</param>
+    /// <param name="z">The z component.</param>
     public Vector3F(float x, float y, float z)
     {
         X = x;
@@ -17,19 +17,19 @@ public struct Vector3F : IEquatable<Vector3F>
         Z = z;
     }
 
-    /// <summary>Gets the vector whose parts are zero.</summary>
+    /// <summary>Gets the vector with all components zero.</summary>
     public static Vector3F Empty => default;
 
-    /// <summary>Gets or sets the part along X.</summary>
+    /// <summary>Gets or sets the x component.</summary>
     public float X { get; set; }
 
-    /// <summary>Gets or sets the part along Y.</summary>
+    /// <summary>Gets or sets the y component.</summary>
     public float Y { get; set; }
 
-    /// <summary>Gets or sets the part along Z.</summary>
+    /// <summary>Gets or sets the z component.</summary>
     public float Z { get; set; }
 
-    /// <summary>Gets whether all parts are zero.</summary>
+    /// <summary>Gets whether all components are zero.</summary>
     public readonly bool IsEmpty => this == Empty;
 
     /// <summary>Gets the Euclidean length.</summary>
@@ -38,9 +38,9 @@ public struct Vector3F : IEquatable<Vector3F>
     // In double precision, where squares of all numbers have room.
     private readonly double Size => Math.Sqrt(((double)X * X) + ((double)Y * Y) + ((double)Z * Z));
 
-    /// <summary>Gets a part by its place, from 0.</summary>
-    /// <param name="index">The place, 0 to 2.</param>
-    /// <exception cref="ArgumentOutOfRangeException">There is no such part.</exception>
+    /// <summary>Gets a component by its index, from 0.</summary>
+    /// <param name="index">The index, 0 to 2.</param>
+    /// <exception cref="ArgumentOutOfRangeException">The index is out of range.</exception>
     public readonly float this[int index] => index switch
     {
         0 => X,
@@ -49,35 +49,35 @@ public struct Vector3F : IEquatable<Vector3F>
         _ => throw Verify.OutOfRange(nameof(index), index, "A Vector3F has 3 parts."),
     };
 
-    /// <summary>Compares two vectors part by part.</summary>
+    /// <summary>Compares two vectors component by component.</summary>
     public static bool operator ==(Vector3F left, Vector3F right) => left.Equals(right);
 
-    /// <summary>Compares two vectors part by part.</summary>
+    /// <summary>Compares two vectors component by component.</summary>
     public static bool operator !=(Vector3F left, Vector3F right) => !left.Equals(right);
 
-    /// <summary>Gives the sum of the products of the parts.</summary>
+    /// <summary>Returns the dot product of two vectors.</summary>
     /// <param name="a">One vector.</param>
     /// <param name="b">The other.</param>
-    /// <returns>The sum of the products of the parts.</returns>
+    /// <returns>The dot product.</returns>
     public static float Dot(Vector3F a, Vector3F b) => (a.X * b.X) + (a.Y * b.Y) + (a.Z * b.Z);
 
-    /// <summary>Gives the vector that stands upright on two others, right-handed.</summary>
+    /// <summary>Returns the cross product of two vectors, right-handed.</summary>
     /// <param name="a">One vector.</param>
     /// <param name="b">The other.</param>
-    /// <returns>The vector that stands upright on two others, right-handed.</returns>
+    /// <returns>The cross product.</returns>
     public static Vector3F Cross(Vector3F a, Vector3F b)
     {
         return new Vector3F((a.Y * b.Z) - (a.Z * b.Y), (a.Z * b.X) - (a.X * b.Z), (a.X * b.Y) - (a.Y * b.X));
     }
 
-    /// <summary>Gives the vector with a fourth, homogeneous, part: 1 for a place, 0 for a direction.</summary>
-    /// <param name="w">The fourth part.</param>
-    /// <returns>The vector with a fourth, homogeneous, part.</returns>
+    /// <summary>Returns homogeneous coordinates: w is 1 for a point, 0 for a direction.</summary>
+    /// <param name="w">The w component.</param>
+    /// <returns>The vector.</returns>
     public readonly Vector4F ToVector4F(float w) => new(X, Y, Z, w);
 
-    /// <summary>Gives the vector of the same direction and of length 1.</summary>
-    /// <returns>The vector of the same direction and of length 1.</returns>
-    /// <exception cref="InvalidOperationException">The length is 0, so that there is no direction.</exception>
+    /// <summary>Returns the unit vector of the same direction.</summary>
+    /// <returns>The unit vector.</returns>
+    /// <exception cref="InvalidOperationException">The length is 0.</exception>
     public readonly Vector3F Normalize()
     {
         double length = Size;
@@ -86,9 +86,9 @@ public struct Vector3F : IEquatable<Vector3F>
             : new Vector3F((float)(X / length), (float)(Y / length), (float)(Z / length));
     }
 
-    /// <summary>Tells whether all parts are the same.</summary>
+    /// <summary>Determines whether two vectors are equal component by component.</summary>
     /// <param name="other">The vector to compare with.</param>
-    /// <returns>Whether all parts are the same.</returns>
+    /// <returns>Whether they are equal.</returns>
     public readonly bool Equals(Vector3F other) => X == other.X && Y == other.Y && Z == other.Z;
 
     /// <inheritdoc/>

@@ -10,12 +10,12 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
 
-/// <summary>Metadata as properties with names and namespaces (XMP, ISO 16684-1), for keeping in picture files.</summary>
+/// <summary>XMP metadata: properties with names and namespaces (ISO 16684-1), as stored in image files.</summary>
 public class XmpPacketWrapper
 {
     private const string PacketBegin = "<?xpacket begin=\"\uFEFF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>";
     private const string PacketEnd = "<?xpacket end=\"w\"?>";
-    private const long LongestPacket = 16 << 20;
+    private const long MaxPacketCharacters = 16 << 20;
 
     private static readonly XNamespace Rdf = "http://www.w3.org/1999/02/22-rdf-syntax-ns#";
     private static readonly XNamespace Meta = "adobe:ns:meta/";
@@ -40,7 +40,7 @@ public class XmpPacketWrapper
 
     /// <summary>Reads a packet.</summary>
     /// <param name="xml">The packet, with or without its processing instructions.</param>
-    /// <exception cref="XmpException">The text is not well formed, or holds no RDF.</exception>
+    /// <exception cref="XmpException">The text is not well-formed XML, or contains no RDF.</exception>
     public XmpPacketWrapper(string xml)
     {
         Verify.NotNull(xml);
@@ -48,26 +48,28 @@ public class XmpPacketWrapper
         _root = root ?? throw new XmpException("The packet holds no element rdf:RDF.");
     }
 
-    /// <summary>Gets how many properties there are.</summary>
+    /// <summary>Gets the number of properties.</summary>
     public int Count => PropertyNames.Length;
 
     /// <summary>Gets the names of the properties, each as <c>{namespace}name</c>, in the order of the packet.</summary>
     public string[] PropertyNames =>
-        [.. Descriptions.SelectMany(static d => Attributes(d).Select(static a => a.Name).Concat(d.Elements().Select(static e => e.Name)))
+        [.. Descriptions.SelectMany(
+            static d => Attributes(d).Select(static a => a.Name).Concat(d.Elements().Select(static e => e.Name)))
             .Select(static name => name.ToString()).Distinct()];
 
     private IEnumerable<XElement> Descriptions => _root.Elements(Rdf + "Description");
 
-    /// <summary>Gives a property; of several values the first. Nothing where it is missing.</summary>
+    /// <summary>Returns the value of a property, the first of several; <see langword="null"/> where the property is
+    /// missing.</summary>
     /// <param name="namespaceUri">Its namespace, for example <c>http://purl.org/dc/elements/1.1/</c>.</param>
     /// <param name="name">Its name, for example <c>title</c>.</param>
-    /// <returns>A property.</returns>
+    /// <returns>The value, or <see langword="null"/>.</returns>
     public string? GetValue(string namespaceUri, string name) => GetValues(namespaceUri, name).FirstOrDefault();
 
-    /// <summary>Gives the values of a property; none where it is missing.</summary>
+    /// <summary>Returns the values of a property; empty where it is missing.</summary>
     /// <param name="namespaceUri">Its namespace.</param>
     /// <param name="name">Its name.</param>
-    /// <returns>The values of a property.</returns>
+    /// <returns>The values.</returns>
     public string[] GetValues(string namespaceUri, string name)
     {
         XName full = Name(namespaceUri, name);
@@ -105,10 +107,11 @@ public class XmpPacketWrapper
     public void SetValues(string namespaceUri, string name, string[] values)
     {
         Verify.NotNull(values);
-        Put(namespaceUri, name, new XElement(Rdf + "Seq", values.Select(static value => new XElement(Rdf + "li", Verified(value)))));
+        Put(namespaceUri, name,
+            new XElement(Rdf + "Seq", values.Select(static value => new XElement(Rdf + "li", Verified(value)))));
     }
 
-    /// <summary>Sets a property to a text whose language is not stated, as titles and descriptions are.</summary>
+    /// <summary>Sets a property to a text in the default language, as for titles and descriptions.</summary>
     /// <param name="namespaceUri">Its namespace.</param>
     /// <param name="name">Its name.</param>
     /// <param name="text">The text.</param>
@@ -119,14 +122,15 @@ public class XmpPacketWrapper
         Put(namespaceUri, name, new XElement(Rdf + "Alt", item));
     }
 
-    /// <summary>Takes a property out.</summary>
+    /// <summary>Removes a property.</summary>
     /// <param name="namespaceUri">Its namespace.</param>
     /// <param name="name">Its name.</param>
     /// <returns>Whether it was there.</returns>
     public bool Remove(string namespaceUri, string name)
     {
         XName full = Name(namespaceUri, name);
-        XObject[] found = [.. Descriptions.SelectMany(d => d.Attributes(full).Cast<XObject>().Concat(d.Elements(full)))];
+        XObject[] found =
+            [.. Descriptions.SelectMany(d => d.Attributes(full).Cast<XObject>().Concat(d.Elements(full)))];
         foreach (XObject property in found)
         {
             (property as XAttribute)?.Remove();
@@ -136,22 +140,23 @@ public class XmpPacketWrapper
         return found.Length > 0;
     }
 
-    /// <summary>Gives the packet as text, without its processing instructions.</summary>
-    /// <returns>The packet as text, without its processing instructions.</returns>
+    /// <summary>Returns the packet as XML, without its processing instructions.</summary>
+    /// <returns>The XML.</returns>
     public string ToXml()
     {
         var meta = new XElement(Meta + "xmpmeta", new XAttribute(XNamespace.Xmlns + "x", Meta.NamespaceName), _root);
         return meta.ToString(SaveOptions.DisableFormatting);
     }
 
-    /// <summary>Gives the packet as it stands in files: UTF-8, between its processing instructions.</summary>
-    /// <returns>The packet as it stands in files.</returns>
+    /// <summary>Returns the packet as stored in files: UTF-8, between its processing instructions.</summary>
+    /// <returns>The bytes of the packet.</returns>
     public byte[] ToBytes() => Encoding.UTF8.GetBytes($"{PacketBegin}\n{ToXml()}\n{PacketEnd}");
 
     /// <inheritdoc/>
     public override string ToString() => ToXml();
 
-    /// <summary>Reads a packet out of a file; nothing where it cannot be understood, as a picture can do without.</summary>
+    /// <summary>Reads a packet of a file; returns null where it is damaged, since an image can be shown without
+    /// it.</summary>
     internal static XmpPacketWrapper? TryRead(ReadOnlySpan<byte> data)
     {
         try
@@ -170,7 +175,7 @@ public class XmpPacketWrapper
         {
             DtdProcessing = DtdProcessing.Prohibit,
             XmlResolver = null,
-            MaxCharactersInDocument = LongestPacket,
+            MaxCharactersInDocument = MaxPacketCharacters,
         };
         try
         {
@@ -184,7 +189,8 @@ public class XmpPacketWrapper
     }
 
     private static IEnumerable<XAttribute> Attributes(XElement description) =>
-        description.Attributes().Where(static a => !a.IsNamespaceDeclaration && a.Name.Namespace != Rdf && a.Name.Namespace != Xml);
+        description.Attributes()
+            .Where(static a => !a.IsNamespaceDeclaration && a.Name.Namespace != Rdf && a.Name.Namespace != Xml);
 
     private void Put(string namespaceUri, string name, object content)
     {
@@ -195,7 +201,8 @@ public class XmpPacketWrapper
         {
             string prefix = Prefixes.GetValueOrDefault(namespaceUri) ?? $"ns{Descriptions.Count() + 1}";
             description = new XElement(
-                Rdf + "Description", new XAttribute(Rdf + "about", ""), new XAttribute(XNamespace.Xmlns + prefix, namespaceUri));
+                Rdf + "Description", new XAttribute(Rdf + "about", ""),
+                    new XAttribute(XNamespace.Xmlns + prefix, namespaceUri));
             _root.Add(description);
         }
 

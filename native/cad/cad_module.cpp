@@ -1,9 +1,9 @@
 // The entry of korvan.cad: one straight line from import to the first usable type.
 #include "bindings/modules.h"
-#include "cad/dependencies.h"
-#include "cad/packaging_hook.h"
+#include "dependencies.h"
 #include "module/family.h"
 #include "module/version_attributes.h"
+#include "packaging_hook.h"
 #include "runtime/callbacks.h"
 #include "runtime/failures.h"
 #include "runtime/identifiers.h"

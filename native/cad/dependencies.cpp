@@ -1,4 +1,4 @@
-#include "cad/dependencies.h"
+#include "dependencies.h"
 
 #include "module/family.h"
 

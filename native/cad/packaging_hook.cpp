@@ -1,4 +1,4 @@
-#include "cad/packaging_hook.h"
+#include "packaging_hook.h"
 
 #include "runtime/failures.h"
 #include "runtime/identifiers.h"

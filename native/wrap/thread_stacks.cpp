@@ -29,7 +29,7 @@ struct Field {
     std::uint32_t offset;
 };
 
-constexpr int most_threads = 100'000;
+constexpr int max_threads = 100'000;
 
 template <class Type> const Type* find(const char* name) {
     return static_cast<const Type*>(dlsym(RTLD_DEFAULT, name));
@@ -37,7 +37,7 @@ template <class Type> const Type* find(const char* name) {
 
 template <class Visit> bool is_ring(const Node* head, Visit visit) {
     int count = 0;
-    for (const Node* node = head; count < most_threads; ++count) {
+    for (const Node* node = head; count < max_threads; ++count) {
         const Node* next = node->next;
         if (next == nullptr || next->prev != node || (next != head && !visit(next))) {
             return false;

@@ -22,6 +22,12 @@ class Wrappers(unittest.TestCase):
         self.assertTrue(echo != None)  # noqa: E711: None is asked of the managed side
         self.assertRaises(TypeError, lambda: echo < peer)
 
+    def test_a_hash_is_the_managed_one_but_for_the_mark_of_an_error(self) -> None:
+        for kind in (probe.HashedObject, probe.HashedValue):
+            for managed, hashed in ((7, 7), (-2, -2), (-1, -2), (-(2**31), -(2**31))):
+                with self.subTest(kind=kind, managed=managed):
+                    self.assertEqual(hash(kind(managed)), hashed)
+
     def test_a_dropped_wrapper_gives_its_handle_back(self) -> None:
         echo = probe.Echo()
         gc.collect()
@@ -43,6 +49,8 @@ class Wrappers(unittest.TestCase):
     def test_a_read_only_property_can_not_be_assigned_nor_any_deleted(self) -> None:
         with self.assertRaises(AttributeError):
             probe.Cube(1).side = 2
+        with self.assertRaises(AttributeError):
+            probe.Failing(False).made = 2
         with self.assertRaises(AttributeError):
             del probe.Echo().text
 
@@ -130,6 +138,15 @@ class Casts(unittest.TestCase):
         self.assertFalse(probe.Box._cast_to(echo))
         self.assertFalse(probe.Box._cast_to("no wrapper"))
         self.assertFalse(probe.Box._cast_as(None))
+
+    def test_a_struct_is_cast_to_a_copy(self) -> None:
+        pair = probe.Pair(1.0, 2.0)
+        for cast in (probe.Pair._cast_to, probe.Pair._cast_as):
+            result = cast(pair)
+            self.assertEqual((result.status, result.value), (1, probe.Pair(1.0, 2.0)))
+            result.value.move(1.0, 1.0)
+            self.assertEqual(pair, probe.Pair(1.0, 2.0))
+        self.assertFalse(probe.Triple._cast_to(pair))
 
     def test_a_cast_result_outlives_what_it_was_made_of(self) -> None:
         echo = probe.Echo()

@@ -96,6 +96,14 @@ CHILDREN = [
             os._exit(7 if echo.text == "kept" and probe.Box("child").label == "child" else 1)
         print(os.waitstatus_to_exitcode(os.waitpid(child, 0)[1]), probe.Box("after").label)
         """, "7 after", 0, "DeprecationWarning: This process"),
+    case("a forked child that goes through all of its end is over", """
+        import os
+        from korvan import cad, probe
+        child = os.fork()
+        if child == 0:
+            raise SystemExit(5 if probe.Box("child").label == "child" else 1)
+        print(os.waitstatus_to_exitcode(os.waitpid(child, 0)[1]))
+        """, "5", 0, "DeprecationWarning: This process"),
     case("a fork ahead of the import starts a runtime of its own", """
         import os
         child = os.fork()

@@ -126,7 +126,7 @@ class Pixels(unittest.TestCase):
         self.assertEqual(self.image.get_pixel(10, 10), cad.Color.black)
         self.image.set_pixel(0, 0, cad.Color.tomato)
         self.assertEqual(self.image.get_argb_32_pixel(0, 0) & 0xFFFFFFFF, 0xFFFF6347)
-        with self.assertRaisesRegex(RuntimeError, "does not lie in a picture of 300"):
+        with self.assertRaisesRegex(RuntimeError, "does not lie in an image of 300"):
             self.image.get_pixel(300, 0)
 
     def test_changes_of_size_and_colour(self) -> None:

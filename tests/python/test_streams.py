@@ -274,16 +274,19 @@ class StreamArguments(unittest.TestCase):
             kind()
 
 
+class Torn(OneWay):
+    """Gives three thousand bytes and fails."""
+
+    def readinto(self, target: Any) -> int:
+        if self.position >= 3000:
+            raise OSError("torn")
+        return super().readinto(target)
+
+
 class FailingFileObjects(unittest.TestCase):
     """What fails in the middle loses nothing of what went before."""
 
     def test_what_was_written_before_a_failure_arrives_and_once(self) -> None:
-        class Torn(OneWay):
-            def readinto(self, target: Any) -> int:
-                if self.position >= 3000:
-                    raise OSError("torn")
-                return super().readinto(target)
-
         class Full(OneWay):
             def write(self, data: Any) -> int:
                 if len(self.taken) >= 3000:
@@ -299,6 +302,35 @@ class FailingFileObjects(unittest.TestCase):
         with self.assertRaisesRegex(RuntimeError, "OSError: full"):
             Streams.copy_to(Streams.open_slow(content), full)
         self.assertEqual(full.taken, content[:3000])
+
+    def test_a_stream_that_failed_once_is_not_written_again(self) -> None:
+        class FullOnce(OneWay):
+            is_full = True
+
+            def write(self, data: Any) -> int:
+                if self.is_full and len(self.taken) >= 3000:
+                    self.is_full = False
+                    raise OSError("full")
+                return super().write(data)
+
+        content = os.urandom(300_000)
+        target = FullOnce()
+        with self.assertRaisesRegex(RuntimeError, "OSError: full"):
+            Streams.copy_to(Streams.open_slow(content), target)
+        self.assertEqual(target.taken, content[:3000])
+
+    def test_a_failure_that_was_got_over_is_not_held_against_the_next_stream(self) -> None:
+        class Deaf(io.BytesIO):
+            def readinto(self, target: Any) -> int:
+                raise OSError("no answer")
+
+        content = os.urandom(10_000)
+        Streams.pour(io.BytesIO(), 10)  # leaves a block that the next streams share
+        self.assertFalse(Streams.try_first_byte(Deaf(content)))
+        memory = io.BytesIO()
+        with self.assertRaisesRegex(RuntimeError, "OSError: torn"):
+            Streams.copy_to(Torn(content), memory)
+        self.assertEqual(memory.getvalue(), content[:3000])
 
     def test_a_failed_call_leaves_the_position_where_reading_stopped(self) -> None:
         class Full(OneWay):

@@ -229,7 +229,7 @@ class Formats(unittest.TestCase):
         info = FileFormatInfo.get(FileFormat.PDF)
         self.assertEqual((info.family, list(info.extensions)), (FileFormatFamily.PAGE, [".pdf"]))
         self.assertIn(FileFormat.IFC4, [one.format for one in FileFormatInfo.find_by_extension("IFC")])
-        with self.assertRaisesRegex(RuntimeError, "no format that files have"):
+        with self.assertRaisesRegex(RuntimeError, "It has to be a format of files"):
             FileFormatInfo.get(FileFormat.UNDEFINED)
 
     def test_a_format_without_writer_is_refused_by_name(self) -> None:

@@ -147,6 +147,10 @@ class TextValues(unittest.TestCase):
         source = bytearray(b"abc")
         echo.blob = source
         source.extend(b"d")  # the buffer was released again
+        echo.anything = source
+        source.extend(b"e")  # and so is that of a value of any kind
+        self.assertEqual((echo.anything, echo.join([source], "")), (b"abcd", "System.Byte[]"))
+        source.extend(b"f")
 
 
 class NullableValues(unittest.TestCase):

@@ -21,9 +21,9 @@ public sealed class Item(int number)
 /// be, where an exception is thrown.</summary>
 public static unsafe class Floor
 {
-    private static readonly Item[] s_items = new Item[1000];
-    private static delegate* unmanaged<char*, int, nint> s_newString;
-    private static delegate* unmanaged<char*, int, void> s_raise;
+    private static readonly Item[] Items = new Item[1000];
+    private static delegate* unmanaged<char*, int, nint> _newString;
+    private static delegate* unmanaged<char*, int, void> _raise;
 
     [UnmanagedCallersOnly]
     public static int Answer() => 42;
@@ -31,11 +31,11 @@ public static unsafe class Floor
     [UnmanagedCallersOnly]
     public static void SetCallbacks(nint newString, nint raise)
     {
-        s_newString = (delegate* unmanaged<char*, int, nint>)newString;
-        s_raise = (delegate* unmanaged<char*, int, void>)raise;
-        for (int i = 0; i < s_items.Length; i++)
+        _newString = (delegate* unmanaged<char*, int, nint>)newString;
+        _raise = (delegate* unmanaged<char*, int, void>)raise;
+        for (int i = 0; i < Items.Length; i++)
         {
-            s_items[i] = new Item(i);
+            Items[i] = new Item(i);
         }
     }
 
@@ -43,7 +43,7 @@ public static unsafe class Floor
     public static nint New(int number) => Handle(new Item(number));
 
     [UnmanagedCallersOnly]
-    public static nint ItemAt(int index) => Handle(s_items[index % s_items.Length]);
+    public static nint ItemAt(int index) => Handle(Items[index % Items.Length]);
 
     [UnmanagedCallersOnly]
     public static void Free(nint handle) => GCHandle.FromIntPtr(handle).Free();
@@ -84,7 +84,7 @@ public static unsafe class Floor
         {
             fixed (char* text = e.Message)
             {
-                s_raise(text, e.Message.Length);
+                _raise(text, e.Message.Length);
             }
         }
     }
@@ -97,7 +97,7 @@ public static unsafe class Floor
     {
         fixed (char* text = value)
         {
-            return s_newString(text, value.Length);
+            return _newString(text, value.Length);
         }
     }
 }

@@ -2,7 +2,8 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Annotations;
 
-/// <summary>Where the text of an annotation stands, seen from the point that it speaks of; the values can be combined.</summary>
+/// <summary>The side of the annotated point on which the text of an annotation is; the values can be
+/// combined.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum AnnotationDirection
 {

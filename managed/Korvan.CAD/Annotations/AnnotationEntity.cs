@@ -3,23 +3,23 @@ using Korvan.CAD.Primitives;
 
 namespace Korvan.CAD.Annotations;
 
-/// <summary>A text that speaks of an entity or a place, with an arrow to it.</summary>
+/// <summary>A text that annotates an entity or a point, with an arrow to it.</summary>
 public class AnnotationEntity : IDrawingEntity
 {
-    internal AnnotationEntity(CadMText note, CadLeader? leader, AnnotationMark mark)
+    internal AnnotationEntity(CadMText note, CadLeader? leader, AnnotationXdata xdata)
     {
         Note = note;
         Leader = leader;
-        Mark = mark;
+        Xdata = xdata;
     }
 
-    /// <summary>Gets what names the annotation among others, in this and any other drawing.</summary>
-    public string UniqueId => Mark.Id;
+    /// <summary>Gets the globally unique identifier of the annotation.</summary>
+    public string UniqueId => Xdata.Id;
 
-    /// <summary>Gets the word "ANNOTATION".</summary>
+    /// <summary>Gets the type name, "ANNOTATION".</summary>
     public string TypeNameText => "ANNOTATION";
 
-    /// <summary>Gets or sets the text; lines are parted by line feeds.</summary>
+    /// <summary>Gets or sets the text; line feeds separate lines.</summary>
     public string Text
     {
         get => AnnotationText.Unescape(Note.Text);
@@ -27,18 +27,19 @@ public class AnnotationEntity : IDrawingEntity
     }
 
     /// <summary>Gets the point that the arrow points to, in world coordinates.</summary>
-    public Point3D Point => ToPoint(Leader is { Coordinates.Count: > 0 } leader ? leader.Coordinates[0] : Note.InsertionPoint);
+    public Point3D Point =>
+        ToPoint(Leader is { Coordinates.Count: > 0 } leader ? leader.Coordinates[0] : Note.InsertionPoint);
 
-    /// <summary>Gets where the text stands, in world coordinates.</summary>
+    /// <summary>Gets the insertion point of the text, in world coordinates.</summary>
     public Point3D TextPoint => ToPoint(Note.InsertionPoint);
 
-    /// <summary>Gets the handle of the entity that the annotation speaks of; empty where it speaks of a place.</summary>
-    public string TargetId => Mark.TargetId;
+    /// <summary>Gets the handle of the annotated entity; empty for an annotated point.</summary>
+    public string TargetId => Xdata.TargetId;
 
-    /// <summary>Gets where the text stands, seen from the point.</summary>
-    public AnnotationDirection Direction => Mark.Direction;
+    /// <summary>Gets the side of the point on which the text is.</summary>
+    public AnnotationDirection Direction => Xdata.Direction;
 
-    /// <summary>Gets the height of the letters, in drawing units.</summary>
+    /// <summary>Gets the text height, in drawing units.</summary>
     public double TextHeight => Note.InitialTextHeight;
 
     /// <summary>Gets or sets the name of the layer of text and arrow.</summary>
@@ -59,7 +60,7 @@ public class AnnotationEntity : IDrawingEntity
 
     internal CadLeader? Leader { get; }
 
-    internal AnnotationMark Mark { get; }
+    internal AnnotationXdata Xdata { get; }
 
     private static Point3D ToPoint(Cad3DPoint point) => new(point.X, point.Y, point.Z);
 }

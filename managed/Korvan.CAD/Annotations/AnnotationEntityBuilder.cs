@@ -6,8 +6,7 @@ using Korvan.CAD.Primitives;
 
 namespace Korvan.CAD.Annotations;
 
-/// <summary>Makes annotations. Each step gives the builder itself, so that steps can be written one behind the
-/// other.</summary>
+/// <summary>Builds annotations. Each method returns the builder itself, so that calls can be chained.</summary>
 public class AnnotationEntityBuilder
 {
     private readonly string _text;
@@ -19,15 +18,15 @@ public class AnnotationEntityBuilder
     private string _layer = "0";
     private short _color = 256;
 
-    /// <summary>Begins an annotation.</summary>
-    /// <param name="text">What it says; lines are parted by line feeds.</param>
+    /// <summary>Creates a builder for an annotation.</summary>
+    /// <param name="text">The text; line feeds separate lines.</param>
     public AnnotationEntityBuilder(string text)
     {
         Verify.NotBlank(text);
         _text = text;
     }
 
-    /// <summary>Lets the annotation speak of an entity; its arrow points to it.</summary>
+    /// <summary>Sets the annotated entity, to which the arrow points.</summary>
     /// <param name="target">The entity.</param>
     /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetTarget(IAnnotateable target)
@@ -48,8 +47,8 @@ public class AnnotationEntityBuilder
         return this;
     }
 
-    /// <summary>Sets where the text stands, seen from the point.</summary>
-    /// <param name="direction">The side, or two of them for a corner.</param>
+    /// <summary>Sets the side of the point on which the text is.</summary>
+    /// <param name="direction">The side, or two adjacent sides for a corner.</param>
     /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetDirection(AnnotationDirection direction)
     {
@@ -57,7 +56,7 @@ public class AnnotationEntityBuilder
         return this;
     }
 
-    /// <summary>Sets the height of the letters. 2.5 by default.</summary>
+    /// <summary>Sets the text height. 2.5 by default.</summary>
     /// <param name="height">The height in drawing units, above 0.</param>
     /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetTextHeight(double height)
@@ -66,7 +65,7 @@ public class AnnotationEntityBuilder
         return this;
     }
 
-    /// <summary>Sets how far the text stands from the point. Six times the height of the letters by default.</summary>
+    /// <summary>Sets the distance of the text from the point. Six times the text height by default.</summary>
     /// <param name="distance">The distance in drawing units, above 0.</param>
     /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetDistance(double distance)
@@ -76,7 +75,7 @@ public class AnnotationEntityBuilder
     }
 
     /// <summary>Sets the layer of text and arrow. "0" by default.</summary>
-    /// <param name="layerName">The name of the layer; it is added to the drawing when that is saved.</param>
+    /// <param name="layerName">The name of the layer, which is added to the drawing when it is saved.</param>
     /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetLayer(string layerName)
     {
@@ -85,8 +84,8 @@ public class AnnotationEntityBuilder
         return this;
     }
 
-    /// <summary>Sets the colour of text and arrow. That of the layer by default.</summary>
-    /// <param name="colorId">The number of the colour: 1 to 255, 256 by layer.</param>
+    /// <summary>Sets the colour of text and arrow. By layer by default.</summary>
+    /// <param name="colorId">The colour index: 1 to 255, or 256 for by layer.</param>
     /// <returns>This builder, for the next call.</returns>
     public AnnotationEntityBuilder SetColorId(short colorId)
     {
@@ -94,18 +93,18 @@ public class AnnotationEntityBuilder
         return this;
     }
 
-    /// <summary>Makes the annotation.</summary>
+    /// <summary>Builds the annotation.</summary>
     /// <returns>The annotation.</returns>
     /// <exception cref="InvalidOperationException">Neither a target nor a point was set.</exception>
     public AnnotationEntity Build()
     {
         Point3D tip = _point ?? throw new InvalidOperationException(
-            "The annotation points to nothing; set a target or a point before it is built.");
-        var mark = new AnnotationMark(Guid.NewGuid().ToString("N"), _target, _direction);
+            "The annotation has no target and no point; set one of them before it is built.");
+        var xdata = new AnnotationXdata(Guid.NewGuid().ToString("N"), _target, _direction);
         (double x, double y) = Side();
         double distance = _distance ?? (6 * _height);
         var end = new Cad3DPoint(tip.X + (x * distance), tip.Y + (y * distance), tip.Z);
-        return new AnnotationEntity(Note(end, x, y), Leader(tip, end), mark);
+        return new AnnotationEntity(Note(end, x, y), Leader(tip, end), xdata);
     }
 
     private static double Positive(double value, string name)
@@ -115,7 +114,7 @@ public class AnnotationEntityBuilder
             : throw Verify.OutOfRange(name, value, "A length is a finite number above 0.");
     }
 
-    /// <summary>The direction from the point to the text, of length 1.</summary>
+    /// <summary>The unit vector from the point to the text.</summary>
     private (double X, double Y) Side()
     {
         double x = Sign(AnnotationDirection.Right) - Sign(AnnotationDirection.Left);
@@ -127,7 +126,7 @@ public class AnnotationEntityBuilder
 
     private int Sign(AnnotationDirection side) => (_direction & side) != 0 ? 1 : 0;
 
-    /// <summary>The text hangs by the side or corner that is nearest to the point.</summary>
+    /// <summary>The text is attached at the side or corner that is nearest to the point.</summary>
     private CadMText Note(Cad3DPoint at, double x, double y)
     {
         int column = x > 0 ? 0 : x < 0 ? 2 : 1;

@@ -2,19 +2,19 @@ using System.Text;
 
 namespace Korvan.CAD.Annotations;
 
-/// <summary>Plain text in entities that know formatting codes.</summary>
+/// <summary>Escapes plain text for entities with formatting codes.</summary>
 internal static class AnnotationText
 {
     internal static string Escape(string text)
     {
         StringBuilder result = new(text.Length + 8);
-        foreach (char letter in text.ReplaceLineEndings("\n"))
+        foreach (char one in text.ReplaceLineEndings("\n"))
         {
-            _ = letter switch
+            _ = one switch
             {
                 '\n' => result.Append("\\P"),
-                '\\' or '{' or '}' => result.Append('\\').Append(letter),
-                _ => result.Append(letter),
+                '\\' or '{' or '}' => result.Append('\\').Append(one),
+                _ => result.Append(one),
             };
         }
 

@@ -8,7 +8,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 
 namespace Korvan.CAD.Annotations;
 
-/// <summary>The annotations among the entities of model space: multi-line texts and leaders that carry a mark.</summary>
+/// <summary>The annotations among the entities of model space: MTEXT and LEADER entities with extended data.</summary>
 internal sealed class DrawingAnnotations(CadDrawing drawing) : IAnnotationService
 {
     public int Count => GetAnnotations().Length;
@@ -18,18 +18,18 @@ internal sealed class DrawingAnnotations(CadDrawing drawing) : IAnnotationServic
         Dictionary<string, CadLeader> leaders = [];
         foreach (CadLeader leader in drawing.Entities.OfType<CadLeader>())
         {
-            if (AnnotationMark.Of(leader) is { } mark)
+            if (AnnotationXdata.Of(leader) is { } xdata)
             {
-                leaders.TryAdd(mark.Id, leader);
+                leaders.TryAdd(xdata.Id, leader);
             }
         }
 
         List<AnnotationEntity> found = [];
         foreach (CadMText note in drawing.Entities.OfType<CadMText>())
         {
-            if (AnnotationMark.Of(note) is { } mark)
+            if (AnnotationXdata.Of(note) is { } xdata)
             {
-                found.Add(new AnnotationEntity(note, leaders.GetValueOrDefault(mark.Id), mark));
+                found.Add(new AnnotationEntity(note, leaders.GetValueOrDefault(xdata.Id), xdata));
             }
         }
 
@@ -41,21 +41,22 @@ internal sealed class DrawingAnnotations(CadDrawing drawing) : IAnnotationServic
         Verify.NotNull(target);
         return target.UniqueId.Length == 0
             ? []
-            : [.. GetAnnotations().Where(one => string.Equals(one.TargetId, target.UniqueId, StringComparison.OrdinalIgnoreCase))];
+            : [.. GetAnnotations().Where(one =>
+                string.Equals(one.TargetId, target.UniqueId, StringComparison.OrdinalIgnoreCase))];
     }
 
     public void Add(AnnotationEntity annotation)
     {
         Verify.NotNull(annotation);
-        if (AnnotationMark.Of(annotation.Note) is not null)
+        if (AnnotationXdata.Of(annotation.Note) is not null)
         {
-            throw new DataMissmatchError("The annotation stands in a drawing already; build another one.");
+            throw new DataMissmatchError("The annotation already belongs to a drawing; build another one.");
         }
 
-        annotation.Mark.Put(annotation.Note);
+        annotation.Xdata.Put(annotation.Note);
         if (annotation.Leader is { } leader)
         {
-            annotation.Mark.Put(leader);
+            annotation.Xdata.Put(leader);
             drawing.Entities.Add(leader);
         }
 

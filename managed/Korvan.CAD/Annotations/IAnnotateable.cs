@@ -2,9 +2,9 @@ using Korvan.CAD.Primitives;
 
 namespace Korvan.CAD.Annotations;
 
-/// <summary>Something in a drawing that an annotation can speak of.</summary>
+/// <summary>An entity that can be annotated.</summary>
 public interface IAnnotateable : IDrawingEntity
 {
-    /// <summary>Gives the point that an annotation points to, in world coordinates.</summary>
+    /// <summary>Returns the point for the arrow of an annotation, in world coordinates.</summary>
     Point3D GetAnnotationPoint();
 }

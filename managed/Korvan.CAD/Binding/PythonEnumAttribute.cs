@@ -12,7 +12,7 @@ internal enum EnumKind
     Flag,
 }
 
-/// <summary>States what the values of an enum alone do not tell: which Python enum class carries it.</summary>
+/// <summary>States the Python enum class of an enum.</summary>
 [AttributeUsage(AttributeTargets.Enum)]
 internal sealed class PythonEnumAttribute(EnumKind kind) : Attribute
 {

@@ -7,7 +7,7 @@ using Korvan.WrpGen.Naming;
 
 namespace Korvan.CAD.Binding;
 
-/// <summary>Refuses arguments and values of properties, by the names that Python programs give them.</summary>
+/// <summary>Verifies arguments and property values. Errors name them as Python programs do.</summary>
 internal static class Verify
 {
     private const string SetterParameter = "value";
@@ -23,7 +23,7 @@ internal static class Verify
         }
     }
 
-    /// <summary>Refuses an array that is missing, or that lacks an item.</summary>
+    /// <summary>Throws for an array that is null, or that has a null item.</summary>
     internal static void NoneIsNull<T>(
         [NotNull] T[]? argument,
         [CallerArgumentExpression(nameof(argument))] string name = "",
@@ -100,18 +100,19 @@ internal static class Verify
         }
     }
 
-    /// <summary>Makes the error of a value that has no place.</summary>
-    /// <param name="name">The managed name of the argument; that of a setter stands for its property.</param>
+    /// <summary>Creates the exception for a value that is out of range.</summary>
+    /// <param name="name">The managed name of the argument; that of a setter is replaced by the name of its
+    /// property.</param>
     /// <param name="argument">The value.</param>
-    /// <param name="why">A sentence that says which values have one.</param>
-    /// <param name="member">The member that refuses.</param>
+    /// <param name="why">A sentence that states the valid values.</param>
+    /// <param name="member">The member that verifies.</param>
     internal static ArgumentOutOfRangeException OutOfRange(
         string name, object? argument, string why, [CallerMemberName] string member = "")
     {
         return new ArgumentOutOfRangeException(null, $"{Shown(name, member)} cannot be {Text(argument)}. {why}");
     }
 
-    /// <summary>The name that a member of an enum has in Python.</summary>
+    /// <summary>Returns the Python name of an enum member.</summary>
     internal static string NameOf<T>(T member)
         where T : struct, Enum => PythonName.Upper(member.ToString());
 

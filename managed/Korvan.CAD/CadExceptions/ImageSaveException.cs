@@ -6,15 +6,15 @@ namespace Korvan.CAD.CadExceptions;
 public class ImageSaveException : ImageException
 {
     /// <summary>Creates the exception with a message.</summary>
-    /// <param name="message">What failed, where, and what would be right.</param>
+    /// <param name="message">The message: what failed, where, and how to correct it.</param>
     public ImageSaveException(string message)
         : base(message)
     {
     }
 
-    /// <summary>Creates the exception with a message and the failure behind it.</summary>
-    /// <param name="message">What failed, where, and what would be right.</param>
-    /// <param name="innerException">The failure that led here.</param>
+    /// <summary>Creates the exception with a message and its cause.</summary>
+    /// <param name="message">The message: what failed, where, and how to correct it.</param>
+    /// <param name="innerException">The exception that caused this one.</param>
     public ImageSaveException(string message, Exception? innerException)
         : base(message, innerException)
     {

@@ -2,19 +2,19 @@ using System;
 
 namespace Korvan.CAD.CadExceptions;
 
-/// <summary>No way was found to keep an encoded picture within the limits that were set for its size and quality.</summary>
+/// <summary>An encoded image does not fit its size limit with any acceptable quality.</summary>
 public class RdOptimizationError : FrameworkException
 {
     /// <summary>Creates the exception with a message.</summary>
-    /// <param name="message">What failed, where, and what would be right.</param>
+    /// <param name="message">The message: what failed, where, and how to correct it.</param>
     public RdOptimizationError(string message)
         : base(message)
     {
     }
 
-    /// <summary>Creates the exception with a message and the failure behind it.</summary>
-    /// <param name="message">What failed, where, and what would be right.</param>
-    /// <param name="innerException">The failure that led here.</param>
+    /// <summary>Creates the exception with a message and its cause.</summary>
+    /// <param name="message">The message: what failed, where, and how to correct it.</param>
+    /// <param name="innerException">The exception that caused this one.</param>
     public RdOptimizationError(string message, Exception? innerException)
         : base(message, innerException)
     {

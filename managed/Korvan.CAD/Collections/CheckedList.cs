@@ -5,12 +5,12 @@ using Korvan.CAD.FileFormats.Cad;
 
 namespace Korvan.CAD.Collections;
 
-/// <summary>A list of the model that refuses <see langword="null"/> when it is put in.</summary>
-/// <param name="name">The property that holds the list.</param>
+/// <summary>A list of the model that rejects <see langword="null"/>.</summary>
+/// <param name="name">The name of the property with the list.</param>
 internal class CheckedList<T>(string name) : Collection<T>(new List<T>())
     where T : class
 {
-    /// <summary>Gets the items themselves, for walks; only the list may change them.</summary>
+    /// <summary>Gets the items for enumeration; only the list may change them.</summary>
     internal new List<T> Items => (List<T>)base.Items;
 
     /// <inheritdoc/>

@@ -6,21 +6,21 @@ using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.Encodings;
 
-/// <summary>Encodings by the names of $DWGCODEPAGE.</summary>
+/// <summary>Encodings by their names in the header variable $DWGCODEPAGE.</summary>
 internal static class DwgCodePage
 {
-    /// <summary>The encoding of drawings that state none.</summary>
+    /// <summary>The encoding of drawings that declare none.</summary>
     internal const string DefaultName = "ANSI_1252";
 
     internal static Encoding Get(int number)
     {
-        // InvariantGlobalization leaves only a handful of encodings built in.
+        // With InvariantGlobalization, only a few encodings are built in.
         Encoding.RegisterProvider(CodePagesEncodingProvider.Instance);
         return Encoding.GetEncoding(number);
     }
 
-    /// <summary>Finds the encoding of a name like ANSI_1252, DOS850, BIG5 or UTF-8; unknown names read as
-    /// Western European.</summary>
+    /// <summary>Returns the encoding of a name such as ANSI_1252, DOS850, BIG5 or UTF-8; Western European for an
+    /// unknown name.</summary>
     internal static Encoding Get(string name)
     {
         int number = Number(name);
@@ -34,7 +34,7 @@ internal static class DwgCodePage
         }
     }
 
-    /// <summary>Finds the number of the code page of a name.</summary>
+    /// <summary>Returns the code page number of a name.</summary>
     internal static int Number(string name)
     {
         string upper = name.Trim().ToUpperInvariant();

@@ -7,14 +7,14 @@ using Korvan.CAD.FileFormats.Cad.Model;
 namespace Korvan.CAD.Encodings;
 
 /// <summary>
-/// Letters that a code page lacks: <c>\U+XXXX</c> is one UTF-16 unit, <c>\M+nXXXX</c> a double byte of one of five
-/// East Asian code pages.
+/// Escape sequences for characters that a code page lacks: <c>\U+XXXX</c> is a UTF-16 code unit, <c>\M+nXXXX</c> a
+/// double byte of one of five East Asian code pages.
 /// </summary>
-/// <param name="page">The code page of all double bytes, whatever their digit says.</param>
-/// <param name="recover">Whether damaged sequences are read as what they were meant to be.</param>
+/// <param name="page">The code page of all double bytes, regardless of their digit.</param>
+/// <param name="recover">Whether malformed sequences are decoded as well.</param>
 internal sealed class TextEscapes(MifCodePages page, bool recover)
 {
-    /// <summary>Whole sequences, in the code pages that they name.</summary>
+    /// <summary>Decodes well-formed sequences, in the code pages that they name.</summary>
     internal static readonly TextEscapes Standard = new(MifCodePages.Undefined, false);
 
     private static readonly ConcurrentDictionary<int, Encoding> Escapings = new();
@@ -39,9 +39,9 @@ internal sealed class TextEscapes(MifCodePages page, bool recover)
         int done = 0;
         for (; next >= 0; next = text.IndexOf('\\', Math.Max(next + 1, done)))
         {
-            if (TryTake(text.AsSpan(next), out string? letter, out int length))
+            if (TryTake(text.AsSpan(next), out string? character, out int length))
             {
-                result.Append(text, done, next - done).Append(letter);
+                result.Append(text, done, next - done).Append(character);
                 done = next + length;
             }
         }
@@ -49,7 +49,7 @@ internal sealed class TextEscapes(MifCodePages page, bool recover)
         return result.Append(text, done, text.Length - done).ToString();
     }
 
-    /// <summary>The encoding, which writes letters that it lacks as sequences.</summary>
+    /// <summary>Returns the encoding with a fallback that writes characters which it lacks as sequences.</summary>
     internal static Encoding Escaping(Encoding encoding)
     {
         return encoding is UTF8Encoding
@@ -64,43 +64,44 @@ internal sealed class TextEscapes(MifCodePages page, bool recover)
         return result;
     }
 
-    private bool TryTake(ReadOnlySpan<char> text, out string? letter, out int length)
+    private bool TryTake(ReadOnlySpan<char> text, out string? character, out int length)
     {
-        if (TryTakeWhole(text, out letter, out length) || !recover)
+        if (TryTakeWhole(text, out character, out length) || !recover)
         {
-            return letter is not null;
+            return character is not null;
         }
 
-        // "\\U+00E9": the first backslash goes, too.
-        if (text is ['\\', '\\', ..] && TryTakeWhole(text[1..], out letter, out length))
+        // "\\U+00E9": the first backslash is removed, too.
+        if (text is ['\\', '\\', ..] && TryTakeWhole(text[1..], out character, out length))
         {
             length++;
             return true;
         }
 
-        return TryTakeDamaged(text, out letter, out length);
+        return TryTakeDamaged(text, out character, out length);
     }
 
-    private bool TryTakeWhole(ReadOnlySpan<char> text, out string? letter, out int length)
+    private bool TryTakeWhole(ReadOnlySpan<char> text, out string? character, out int length)
     {
-        letter = null;
+        character = null;
         length = 0;
-        if (text is ['\\', 'U', '+', ..] && text.Length >= 7 && MifCodePageDecoder.TryBytes(text[3..7], out ushort unit))
+        if (text is ['\\', 'U', '+', ..] && text.Length >= 7
+            && MifCodePageDecoder.TryBytes(text[3..7], out ushort unit))
         {
-            letter = ((char)unit).ToString();
+            character = ((char)unit).ToString();
             length = 7;
         }
-        else if (text is ['\\', 'M', '+', ..] && _decoder.TryDecode(text, out letter))
+        else if (text is ['\\', 'M', '+', ..] && _decoder.TryDecode(text, out character))
         {
             length = MifCodePageDecoder.SequenceLength;
         }
 
-        return letter is not null;
+        return character is not null;
     }
 
-    private bool TryTakeDamaged(ReadOnlySpan<char> text, out string? letter, out int length)
+    private bool TryTakeDamaged(ReadOnlySpan<char> text, out string? character, out int length)
     {
-        letter = null;
+        character = null;
         length = 0;
         if (text is not ['\\', 'U' or 'u' or 'M' or 'm', '+', ..])
         {
@@ -116,18 +117,21 @@ internal sealed class TextEscapes(MifCodePages page, bool recover)
         if (text[1] is 'U' or 'u')
         {
             digits = Math.Min(digits, 4);
-            letter = digits > 0 && MifCodePageDecoder.TryBytes(text.Slice(3, digits), out ushort unit) ? ((char)unit).ToString() : null;
+            character = digits > 0 && MifCodePageDecoder.TryBytes(text.Slice(3, digits), out ushort unit)
+                ? ((char)unit).ToString()
+                : null;
         }
         else if (digits == 5)
         {
-            _decoder.TryDecode(text, out letter);
+            _decoder.TryDecode(text, out character);
         }
-        else if (digits == 4 && page != MifCodePages.Undefined && MifCodePageDecoder.TryBytes(text.Slice(3, 4), out ushort pair))
+        else if (digits == 4 && page != MifCodePages.Undefined
+            && MifCodePageDecoder.TryBytes(text.Slice(3, 4), out ushort pair))
         {
-            letter = MifCodePageDecoder.Letters(page, pair);
+            character = MifCodePageDecoder.Characters(page, pair);
         }
 
         length = 3 + digits;
-        return letter is not null;
+        return character is not null;
     }
 }

@@ -10,20 +10,20 @@ using Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
 namespace Korvan.CAD.Exif;
 
-/// <summary>What a camera or program says of a picture (Exif 2.32).</summary>
+/// <summary>Exif metadata of an image (Exif 2.32).</summary>
 public partial class ExifData
 {
-    private const int HeadBytes = 8;
+    private const int HeaderBytes = 8;
     private const int Magic = 42;
 
-    /// <summary>Creates data without fields.</summary>
+    /// <summary>Creates metadata without tags.</summary>
     public ExifData()
         : this(new TiffExifIfd(), new TiffExifIfd(), new TiffExifIfd())
     {
     }
 
-    /// <summary>Reads data.</summary>
-    /// <param name="data">A block as it stands in a file, from its mark of byte order on.</param>
+    /// <summary>Reads metadata.</summary>
+    /// <param name="data">The Exif block of a file, from its byte-order mark on.</param>
     /// <exception cref="TiffImageException">The block is damaged.</exception>
     public ExifData(byte[] data)
         : this()
@@ -45,56 +45,56 @@ public partial class ExifData
         GpsTags = new TiffDataTypeController(gps);
     }
 
-    /// <summary>Gets or sets the order of bytes in numbers.</summary>
+    /// <summary>Gets or sets the byte order of numbers.</summary>
     public TiffByteOrder ByteOrder { get; set; } = TiffByteOrder.LittleEndian;
 
-    /// <summary>Gets the fields that TIFF knows, too: camera, dates, resolution.</summary>
+    /// <summary>Gets the tags of the main directory, such as camera, dates and resolution.</summary>
     public TiffDataTypeController CommonTags { get; }
 
-    /// <summary>Gets the fields of the photograph.</summary>
+    /// <summary>Gets the tags of the Exif directory, such as exposure and lens.</summary>
     public TiffDataTypeController ExifTags { get; }
 
-    /// <summary>Gets the fields of the place.</summary>
+    /// <summary>Gets the tags of the GPS directory.</summary>
     public TiffDataTypeController GpsTags { get; }
 
-    /// <summary>Gets what the maker of the camera adds in a form of his own, or nothing.</summary>
+    /// <summary>Gets the data of the camera's manufacturer, or <see langword="null"/> where there is none.</summary>
     public MakerNote? MakerNote =>
         ExifTags.GetBytes(ExifProperties.MakerNote) is { Length: > 0 } data ? new MakerNote(data) : null;
 
-    /// <summary>Gets or sets the latitude in degrees, north above 0, -90 to 90; not a number where it is not
-    /// stated.</summary>
+    /// <summary>Gets or sets the latitude in degrees, -90 (south) to 90 (north); NaN where it is not stated.</summary>
     public double GpsLatitude
     {
         get => GetAngle(ExifProperties.GpsLatitude, ExifProperties.GpsLatitudeRef, "S");
         set => SetAngle(ExifProperties.GpsLatitude, ExifProperties.GpsLatitudeRef, value, 90, "N", "S");
     }
 
-    /// <summary>Gets or sets the longitude in degrees, east above 0, -180 to 180; not a number where it is not
-    /// stated.</summary>
+    /// <summary>Gets or sets the longitude in degrees, -180 (west) to 180 (east); NaN where it is not stated.</summary>
     public double GpsLongitude
     {
         get => GetAngle(ExifProperties.GpsLongitude, ExifProperties.GpsLongitudeRef, "W");
         set => SetAngle(ExifProperties.GpsLongitude, ExifProperties.GpsLongitudeRef, value, 180, "E", "W");
     }
 
-    /// <summary>Gets or sets the height in metres, without sign; nothing where it is not stated.</summary>
+    /// <summary>Gets or sets the altitude in metres, without sign; <see langword="null"/> where it is not
+    /// stated.</summary>
     public TiffRational? GpsAltitude
     {
         get => GpsTags.GetRational(ExifProperties.GpsAltitude);
         set => GpsTags.SetRational(ExifProperties.GpsAltitude, value);
     }
 
-    /// <summary>Gets or sets what the height is measured from.</summary>
+    /// <summary>Gets or sets the reference of the altitude: above or below sea level.</summary>
     public ExifGPSAltitudeRef GpsAltitudeRef
     {
         get => (ExifGPSAltitudeRef)GpsTags.GetNumber(ExifProperties.GpsAltitudeRef, 0);
         set => GpsTags.Directory.Set(new TiffByteType((int)ExifProperties.GpsAltitudeRef, [(byte)value]));
     }
 
-    /// <summary>Gets all fields, those of the place last.</summary>
-    public TiffDataType[] Properties => [.. CommonTags.Directory.Tags, .. ExifTags.Directory.Tags, .. GpsTags.Directory.Tags];
+    /// <summary>Gets the tags of all directories: main, Exif, GPS.</summary>
+    public TiffDataType[] Properties =>
+        [.. CommonTags.Directory.Tags, .. ExifTags.Directory.Tags, .. GpsTags.Directory.Tags];
 
-    /// <summary>Takes all fields out.</summary>
+    /// <summary>Removes all tags.</summary>
     public virtual void Clear()
     {
         CommonTags.Directory.Clear();
@@ -102,8 +102,8 @@ public partial class ExifData
         GpsTags.Directory.Clear();
     }
 
-    /// <summary>Gives the block as it stands in a file, from its mark of byte order on.</summary>
-    /// <returns>The block as it stands in a file, from its mark of byte order on.</returns>
+    /// <summary>Returns the Exif block of a file, from its byte-order mark on.</summary>
+    /// <returns>The bytes of the block.</returns>
     public byte[] SerializeData()
     {
         // Places of the directories follow from their sizes, so pointers are set before anything is written.
@@ -111,7 +111,7 @@ public partial class ExifData
         Point(ExifProperties.ExifIfdPointer, ExifTags.Directory.Count > 0);
         Point(ExifProperties.GpsIfdPointer, GpsTags.Directory.Count > 0);
         ExifTags.Remove(ExifProperties.InteroperabilityIfdPointer);
-        long exifPlace = HeadBytes + common.Size;
+        long exifPlace = HeaderBytes + common.Size;
         long gpsPlace = exifPlace + (ExifTags.Directory.Count > 0 ? ExifTags.Directory.Size : 0);
         long rest = gpsPlace + (GpsTags.Directory.Count > 0 ? GpsTags.Directory.Size : 0);
         SetPlace(ExifProperties.ExifIfdPointer, exifPlace);
@@ -121,8 +121,8 @@ public partial class ExifData
         var writer = new TiffStreamWriter(stream, ByteOrder);
         writer.WriteUShort((int)ByteOrder);
         writer.WriteUShort(Magic);
-        writer.WriteULong(HeadBytes);
-        common.Write(writer, HeadBytes, HasRest ? rest : 0);
+        writer.WriteULong(HeaderBytes);
+        common.Write(writer, HeaderBytes, HasRest ? rest : 0);
         WriteDirectory(writer, ExifTags.Directory, exifPlace);
         WriteDirectory(writer, GpsTags.Directory, gpsPlace);
         WriteRest(writer, rest);
@@ -141,13 +141,15 @@ public partial class ExifData
 
     private static TiffStreamReader Open(byte[] data)
     {
-        if (data.Length < HeadBytes || data[0] != data[1] || data[0] is not ((byte)'I' or (byte)'M'))
+        if (data.Length < HeaderBytes || data[0] != data[1] || data[0] is not ((byte)'I' or (byte)'M'))
         {
-            throw new TiffImageException($"A block of {data.Length} bytes does not begin with a mark of byte order.");
+            throw new TiffImageException($"A block of {data.Length} bytes does not begin with a byte-order mark.");
         }
 
-        var reader = new TiffStreamReader(data, data[0] == (byte)'I' ? TiffByteOrder.LittleEndian : TiffByteOrder.BigEndian);
-        return reader.ReadUShort(2) == Magic ? reader : throw new TiffImageException("The number 42 does not follow the mark of byte order.");
+        var reader =
+            new TiffStreamReader(data, data[0] == (byte)'I' ? TiffByteOrder.LittleEndian : TiffByteOrder.BigEndian);
+        return reader.ReadUShort(2) == Magic
+            ? reader : throw new TiffImageException("The number 42 does not follow the byte-order mark.");
     }
 
     private static void WriteDirectory(TiffStreamWriter writer, TiffExifIfd directory, long place)
@@ -196,7 +198,8 @@ public partial class ExifData
         return GpsTags.GetText(reference) == negative ? -degrees : degrees;
     }
 
-    private void SetAngle(ExifProperties angle, ExifProperties reference, double value, double most, string positive, string negative)
+    private void SetAngle(
+        ExifProperties angle, ExifProperties reference, double value, double max, string positive, string negative)
     {
         if (double.IsNaN(value))
         {
@@ -205,7 +208,7 @@ public partial class ExifData
             return;
         }
 
-        Verify.InRange(value, -most, most, angle.ToString());
+        Verify.InRange(value, -max, max, angle.ToString());
 
         // Rounded as a whole, so that no part becomes 60.
         const long second = 100_000;

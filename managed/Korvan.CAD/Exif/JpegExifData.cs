@@ -8,26 +8,26 @@ using Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
 namespace Korvan.CAD.Exif;
 
-/// <summary>What a camera or program says of a JPEG, with a small picture of it.</summary>
+/// <summary>Exif metadata of a JPEG file, with a thumbnail (Exif 2.32).</summary>
 public class JpegExifData : ExifData
 {
     private byte[] _thumbnail = [];
 
-    /// <summary>Creates data without fields.</summary>
+    /// <summary>Creates metadata without tags.</summary>
     public JpegExifData()
     {
     }
 
-    /// <summary>Reads data.</summary>
-    /// <param name="data">A block as it stands in a file, from its mark of byte order on.</param>
+    /// <summary>Reads metadata.</summary>
+    /// <param name="data">The Exif block of a file, from its byte-order mark on.</param>
     /// <exception cref="TiffImageException">The block is damaged.</exception>
     public JpegExifData(byte[] data)
         : base(data)
     {
     }
 
-    /// <summary>Gets or sets the small picture, a JPEG file; empty for none.</summary>
-    /// <exception cref="JpegException">The bytes are no JPEG.</exception>
+    /// <summary>Gets or sets the thumbnail as a JPEG file; empty for none.</summary>
+    /// <exception cref="JpegException">The bytes are not a JPEG file.</exception>
     public byte[] ThumbnailData
     {
         get => _thumbnail;
@@ -36,7 +36,7 @@ public class JpegExifData : ExifData
             Verify.NotNull(value);
             if (value.Length > 0 && !value.AsSpan().StartsWith((ReadOnlySpan<byte>)[0xFF, 0xD8, 0xFF]))
             {
-                throw new JpegException("The small picture of Exif data is a JPEG file; these bytes are none.");
+                throw new JpegException("The thumbnail of Exif metadata is a JPEG file; these bytes are not.");
             }
 
             _thumbnail = value;

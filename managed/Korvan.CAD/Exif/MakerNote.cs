@@ -3,21 +3,21 @@ using System.Text;
 
 namespace Korvan.CAD.Exif;
 
-/// <summary>What the maker of a camera adds in a form of his own.</summary>
+/// <summary>Data of a camera's manufacturer in its own format.</summary>
 public class MakerNote
 {
-    private const int LongestName = 16;
+    private const int MaxNameBytes = 16;
 
     internal MakerNote(byte[] data)
     {
         Data = data;
-        int end = data.AsSpan(0, Math.Min(data.Length, LongestName)).IndexOfAnyExceptInRange((byte)' ', (byte)'~');
+        int end = data.AsSpan(0, Math.Min(data.Length, MaxNameBytes)).IndexOfAnyExceptInRange((byte)' ', (byte)'~');
         Name = end > 0 ? Encoding.ASCII.GetString(data, 0, end).TrimEnd() : "";
     }
 
-    /// <summary>Gets the name that the note begins with, like <c>Nikon</c>; empty for none.</summary>
+    /// <summary>Gets the name at the start of the note, such as <c>Nikon</c>; empty for none.</summary>
     public string Name { get; }
 
-    /// <summary>Gets the note, its name included.</summary>
+    /// <summary>Gets the bytes of the note, including its name.</summary>
     public byte[] Data { get; }
 }

@@ -7,10 +7,10 @@ using Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
 namespace Korvan.CAD.Exif;
 
-/// <summary>Reads and writes the fields of one directory by their meaning: numbers, fractions, texts.</summary>
+/// <summary>Reads and writes the tags of one directory as numbers, fractions and strings.</summary>
 public class TiffDataTypeController
 {
-    /// <summary>Creates a controller of an empty directory.</summary>
+    /// <summary>Creates a controller over an empty directory.</summary>
     public TiffDataTypeController()
         : this(new TiffExifIfd())
     {
@@ -27,23 +27,23 @@ public class TiffDataTypeController
     /// <summary>Gets the directory.</summary>
     public TiffExifIfd Directory { get; }
 
-    /// <summary>Gives a field, or nothing.</summary>
-    /// <param name="property">Its number.</param>
-    /// <returns>A field, or nothing.</returns>
+    /// <summary>Returns a tag, or <see langword="null"/> where the directory has none.</summary>
+    /// <param name="property">The tag number.</param>
+    /// <returns>The tag, or <see langword="null"/>.</returns>
     public TiffDataType? GetTag(ExifProperties property) => Directory.Get((int)property);
 
-    /// <summary>Takes a field out.</summary>
-    /// <param name="property">Its number.</param>
+    /// <summary>Removes a tag.</summary>
+    /// <param name="property">The tag number.</param>
     /// <returns>Whether it was there.</returns>
     public bool Remove(ExifProperties property) => Directory.Remove((int)property);
 
-    /// <summary>Gives a text; empty where there is none.</summary>
-    /// <param name="property">The number of the field.</param>
-    /// <returns>A text.</returns>
+    /// <summary>Returns a string; empty where the tag is missing.</summary>
+    /// <param name="property">The tag number.</param>
+    /// <returns>The string.</returns>
     public string GetText(ExifProperties property) => (GetTag(property) as TiffASCIIType)?.Text ?? "";
 
-    /// <summary>Sets a text; an empty one takes the field out.</summary>
-    /// <param name="property">The number of the field.</param>
+    /// <summary>Sets a string; an empty one removes the tag.</summary>
+    /// <param name="property">The tag number.</param>
     /// <param name="value">The text.</param>
     public void SetText(ExifProperties property, string value)
     {
@@ -57,23 +57,25 @@ public class TiffDataTypeController
         Directory.Set(new TiffASCIIType((int)property, value));
     }
 
-    /// <summary>Gives the first number of a field, whatever its type.</summary>
-    /// <param name="property">The number of the field.</param>
-    /// <param name="defaultValue">What is given where there is none.</param>
-    /// <returns>The first number of a field, whatever its type.</returns>
+    /// <summary>Returns the first number of a tag, whatever its type.</summary>
+    /// <param name="property">The tag number.</param>
+    /// <param name="defaultValue">The result where the tag is missing.</param>
+    /// <returns>The number.</returns>
     public double GetNumber(ExifProperties property, double defaultValue)
     {
         double[] values = GetNumbers(property);
         return values.Length > 0 ? values[0] : defaultValue;
     }
 
-    /// <summary>Gives the numbers of a field, whatever their type; none where the field is missing or a text.</summary>
-    /// <param name="property">The number of the field.</param>
-    /// <returns>The numbers of a field, whatever their type.</returns>
+    /// <summary>Returns the numbers of a tag, whatever their type; empty where the tag is missing or a
+    /// string.</summary>
+    /// <param name="property">The tag number.</param>
+    /// <returns>The numbers.</returns>
     public double[] GetNumbers(ExifProperties property) => (GetTag(property) as TiffCommonArrayType)?.ToDoubles() ?? [];
 
-    /// <summary>Sets a number in the type that the field has, or 16 bits where it is new or too large for that.</summary>
-    /// <param name="property">The number of the field.</param>
+    /// <summary>Sets a number, in the type that the tag has; a new tag, or a number too large for the type, takes 16
+    /// bits.</summary>
+    /// <param name="property">The tag number.</param>
     /// <param name="value">The number, 0 to 65535.</param>
     public void SetNumber(ExifProperties property, int value)
     {
@@ -81,19 +83,20 @@ public class TiffDataTypeController
         {
             TiffDataTypes.Long => new TiffLongType((int)property, [value]),
             TiffDataTypes.Byte when value is >= 0 and <= 255 => new TiffByteType((int)property, [(byte)value]),
-            TiffDataTypes.Undefined when value is >= 0 and <= 255 => new TiffUndefinedType((int)property, [(byte)value]),
+            TiffDataTypes.Undefined when value is >= 0 and <= 255 =>
+                new TiffUndefinedType((int)property, [(byte)value]),
             _ => new TiffShortType((int)property, [value]),
         });
     }
 
-    /// <summary>Gives the first fraction of a field, or nothing.</summary>
-    /// <param name="property">The number of the field.</param>
-    /// <returns>The first fraction of a field, or nothing.</returns>
+    /// <summary>Returns the first fraction of a tag, or <see langword="null"/> where there is none.</summary>
+    /// <param name="property">The tag number.</param>
+    /// <returns>The fraction, or <see langword="null"/>.</returns>
     public TiffRational? GetRational(ExifProperties property) =>
         GetTag(property) is TiffRationalType { Count: > 0 } field ? field.Values[0] : null;
 
-    /// <summary>Sets a fraction; nothing takes the field out.</summary>
-    /// <param name="property">The number of the field.</param>
+    /// <summary>Sets a fraction; <see langword="null"/> removes the tag.</summary>
+    /// <param name="property">The tag number.</param>
     /// <param name="value">The fraction.</param>
     public void SetRational(ExifProperties property, TiffRational? value)
     {
@@ -106,9 +109,9 @@ public class TiffDataTypeController
         Directory.Set(new TiffRationalType((int)property, [value]));
     }
 
-    /// <summary>Gives the bytes of a field; none where it is missing or holds larger numbers.</summary>
-    /// <param name="property">The number of the field.</param>
-    /// <returns>The bytes of a field.</returns>
+    /// <summary>Returns the bytes of a tag; empty where it is missing or its values are no bytes.</summary>
+    /// <param name="property">The tag number.</param>
+    /// <returns>The bytes.</returns>
     public byte[] GetBytes(ExifProperties property) => GetTag(property) switch
     {
         TiffUndefinedType field => field.Values,
@@ -116,8 +119,8 @@ public class TiffDataTypeController
         _ => [],
     };
 
-    /// <summary>Sets bytes of no stated meaning; none take the field out.</summary>
-    /// <param name="property">The number of the field.</param>
+    /// <summary>Sets bytes of type Undefined; an empty array removes the tag.</summary>
+    /// <param name="property">The tag number.</param>
     /// <param name="value">The bytes.</param>
     public void SetBytes(ExifProperties property, byte[] value)
     {
@@ -132,5 +135,5 @@ public class TiffDataTypeController
     }
 
     /// <inheritdoc/>
-    public override string ToString() => string.Create(CultureInfo.InvariantCulture, $"{Directory.Count} fields");
+    public override string ToString() => string.Create(CultureInfo.InvariantCulture, $"{Directory.Count} tags");
 }

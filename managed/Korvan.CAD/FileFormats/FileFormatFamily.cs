@@ -2,23 +2,23 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats;
 
-/// <summary>Formats that belong together; the values can be combined, to ask for several families.</summary>
+/// <summary>Families of file formats; the values can be combined to select several families.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum FileFormatFamily
 {
     /// <summary>No family.</summary>
     Undefined = 0,
 
-    /// <summary>Pixels.</summary>
+    /// <summary>Raster images.</summary>
     Raster = 1,
 
-    /// <summary>Pages for screens and printers: texts, shapes and pictures.</summary>
+    /// <summary>Vector graphics and page formats.</summary>
     Page = 2,
 
-    /// <summary>Drawings in their binary form, and templates of them.</summary>
+    /// <summary>Drawings in their binary format, and templates.</summary>
     Dwg = 4,
 
-    /// <summary>Drawings in their interchange form.</summary>
+    /// <summary>Drawings in their interchange format.</summary>
     Dxf = 8,
 
     /// <summary>Design files.</summary>
@@ -30,12 +30,12 @@ public enum FileFormatFamily
     /// <summary>Building models.</summary>
     Ifc = 64,
 
-    /// <summary>Bodies as faces.</summary>
+    /// <summary>Meshes.</summary>
     Mesh = 128,
 
-    /// <summary>Bodies by exact surfaces.</summary>
+    /// <summary>Solids with exact surfaces.</summary>
     Solid = 256,
 
-    /// <summary>What plotters and cutters are told.</summary>
+    /// <summary>Input of plotters and cutting machines.</summary>
     Plot = 512,
 }

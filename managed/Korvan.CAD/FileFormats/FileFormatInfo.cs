@@ -1,12 +1,12 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
-using System.Reflection;
 using Korvan.CAD.Binding;
+using Korvan.CAD.Formats;
 
 namespace Korvan.CAD.FileFormats;
 
-/// <summary>What is known of a file format, and what the library does with its files.</summary>
+/// <summary>Information about a file format, and its support by the library.</summary>
 public class FileFormatInfo
 {
     private static readonly Lazy<Dictionary<FileFormat, FileFormatInfo>> Known = new(ReadAll);
@@ -31,7 +31,7 @@ public class FileFormatInfo
     /// <summary>Gets the kind of content.</summary>
     public FileFormatCategory Category => _metadata.Category;
 
-    /// <summary>Gets the endings of file names, with their point, the usual one first.</summary>
+    /// <summary>Gets the file extensions with their period, the default one first.</summary>
     public string[] Extensions => [.. _metadata.Extensions];
 
     /// <summary>Gets whether files of the format can be loaded.</summary>
@@ -42,21 +42,21 @@ public class FileFormatInfo
 
     internal static IEnumerable<FileFormatInfo> All => Known.Value.Values;
 
-    /// <summary>Gives what is known of a format.</summary>
+    /// <summary>Returns information about a format.</summary>
     /// <param name="format">The format.</param>
-    /// <returns>What is known of a format.</returns>
+    /// <returns>The information.</returns>
     /// <exception cref="ArgumentOutOfRangeException">It is <see cref="FileFormat.Undefined"/>,
-    /// <see cref="FileFormat.Custom"/>, or no format at all.</exception>
+    /// <see cref="FileFormat.Custom"/>, or not a member of the enum.</exception>
     public static FileFormatInfo Get(FileFormat format)
     {
         return Known.Value.TryGetValue(format, out FileFormatInfo? info)
             ? info
-            : throw Verify.OutOfRange(nameof(format), format, "This is no format that files have.");
+            : throw Verify.OutOfRange(nameof(format), format, "It has to be a format of files.");
     }
 
-    /// <summary>Gives the formats whose files have names with an ending, in the order of their numbers.</summary>
-    /// <param name="extension">The ending, with or without its point; upper and lower case are the same.</param>
-    /// <returns>The formats whose files have names with an ending, in the order of their numbers.</returns>
+    /// <summary>Returns the formats with a file extension, in the order of their values.</summary>
+    /// <param name="extension">The extension, with or without its period; case is ignored.</param>
+    /// <returns>The formats.</returns>
     public static FileFormatInfo[] FindByExtension(string extension)
     {
         Verify.NotNull(extension);
@@ -67,18 +67,6 @@ public class FileFormatInfo
     /// <inheritdoc/>
     public override string ToString() => $"{Name} ({string.Join(", ", _metadata.Extensions)})";
 
-    private static Dictionary<FileFormat, FileFormatInfo> ReadAll()
-    {
-        Dictionary<FileFormat, FileFormatInfo> all = [];
-        foreach (FileFormat format in Enum.GetValues<FileFormat>())
-        {
-            FieldInfo member = typeof(FileFormat).GetField(format.ToString())!;
-            if (member.GetCustomAttribute<FileFormatMetadataAttribute>() is { } metadata)
-            {
-                all.Add(format, new FileFormatInfo(format, metadata));
-            }
-        }
-
-        return all;
-    }
+    private static Dictionary<FileFormat, FileFormatInfo> ReadAll() => Metadata.All.OrderBy(static pair => pair.Key)
+        .ToDictionary(static pair => pair.Key, static pair => new FileFormatInfo(pair.Key, pair.Value));
 }

@@ -1,17 +1,17 @@
 namespace Korvan.CAD.FileFormats;
 
-/// <summary>The direction that a drawing is looked at from, as turns about the axes of the world.</summary>
+/// <summary>The viewpoint of a drawing, as rotations about the axes of the world coordinate system.</summary>
 public class ObserverPoint
 {
-    /// <summary>Creates the plan view: from above, X to the right.</summary>
+    /// <summary>Creates the plan view: from above, with X to the right.</summary>
     public ObserverPoint()
     {
     }
 
     /// <summary>Creates a view.</summary>
-    /// <param name="rotationAngleX">The turn about X, in degrees.</param>
-    /// <param name="rotationAngleY">The turn about Y, in degrees.</param>
-    /// <param name="rotationAngleZ">The turn about Z, in degrees.</param>
+    /// <param name="rotationAngleX">The rotation about X, in degrees.</param>
+    /// <param name="rotationAngleY">The rotation about Y, in degrees.</param>
+    /// <param name="rotationAngleZ">The rotation about Z, in degrees.</param>
     public ObserverPoint(float rotationAngleX, float rotationAngleY, float rotationAngleZ)
     {
         RotationAngleX = rotationAngleX;
@@ -19,12 +19,12 @@ public class ObserverPoint
         RotationAngleZ = rotationAngleZ;
     }
 
-    /// <summary>Gets or sets the turn about X, in degrees; the first that is made.</summary>
+    /// <summary>Gets or sets the rotation about X, in degrees; it is applied first.</summary>
     public float RotationAngleX { get; set; }
 
-    /// <summary>Gets or sets the turn about Y, in degrees; the second.</summary>
+    /// <summary>Gets or sets the rotation about Y, in degrees; it is applied second.</summary>
     public float RotationAngleY { get; set; }
 
-    /// <summary>Gets or sets the turn about Z, in degrees; the third.</summary>
+    /// <summary>Gets or sets the rotation about Z, in degrees; it is applied third.</summary>
     public float RotationAngleZ { get; set; }
 }

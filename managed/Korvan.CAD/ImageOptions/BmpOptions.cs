@@ -2,22 +2,23 @@ using Korvan.CAD.FileFormats.Bmp;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Writes Windows bitmaps.</summary>
+/// <summary>Options for BMP images.</summary>
 public class BmpOptions : ImageOptionsBase
 {
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public BmpOptions()
         : base(FileFormat.Bmp)
     {
     }
 
-    /// <summary>Gets or sets the bits of a pixel: 1, 4 and 8 with a palette, 24, or 32 with opacity. 24 by default.</summary>
+    /// <summary>Gets or sets the bits per pixel: 1, 4 or 8 with a palette, 24, or 32 with an alpha channel. 24 by
+    /// default.</summary>
     public int BitsPerPixel { get; set; } = 24;
 
-    /// <summary>Gets or sets how pixels are stored: plain, or as run lengths with 8 bits a pixel.</summary>
+    /// <summary>Gets or sets the compression: none, or run-length encoding with 8 bits per pixel.</summary>
     public BitmapCompression Compression { get; set; }
 
-    /// <summary>Gets or sets how colours are brought to a palette.</summary>
+    /// <summary>Gets or sets the dithering method for colours that the palette lacks.</summary>
     public DitheringMethods Dithering { get; set; } = DitheringMethods.None;
 
     internal override bool HoldsResolution => true;
@@ -31,7 +32,7 @@ public class BmpOptions : ImageOptionsBase
         if (Dithering != DitheringMethods.None && !UsesPalette)
         {
             throw NotHonoured(nameof(Dithering),
-                "choose 1, 4 or 8 for bits_per_pixel, as other pixels keep their colours");
+                "choose 1, 4 or 8 for bits_per_pixel, as other pixels are not indexed");
         }
     }
 }

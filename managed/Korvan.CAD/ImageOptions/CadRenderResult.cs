@@ -3,25 +3,29 @@ using System.Collections.Generic;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>What became of the pages of an export: how long they took, and what was not drawn as it is.</summary>
+/// <summary>The result of an export: its duration, and what could not be rendered faithfully.</summary>
 public class CadRenderResult : RenderResult
 {
     private readonly RenderResult[] _failures;
 
     internal CadRenderResult(IReadOnlyCollection<RenderResult> failures, TimeSpan duration)
-        : base(Reasons(failures), failures.Count == 0 ? "Everything was drawn." : $"{failures.Count} things were not drawn as they are.")
+        : base(
+            Reasons(failures),
+            failures.Count == 0
+                ? "Everything was rendered faithfully."
+                : $"{failures.Count} things were not rendered faithfully.")
     {
         _failures = [.. failures];
         RenderDuration = duration;
     }
 
-    /// <summary>Gets whether everything was drawn as it is.</summary>
+    /// <summary>Gets whether everything was rendered faithfully.</summary>
     public bool IsRenderComplete => _failures.Length == 0;
 
-    /// <summary>Gets what was not drawn as it is.</summary>
+    /// <summary>Gets what was not rendered faithfully.</summary>
     public RenderResult[] Failures => [.. _failures];
 
-    /// <summary>Gets how long the export took.</summary>
+    /// <summary>Gets the duration of the export.</summary>
     public TimeSpan RenderDuration { get; }
 
     private static RenderErrorCode Reasons(IReadOnlyCollection<RenderResult> failures)

@@ -2,22 +2,23 @@ using Korvan.CAD.FileFormats.Dicom;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Writes DICOM secondary capture files, one frame for each page. Opacity is laid over white.</summary>
+/// <summary>Options for DICOM secondary capture files with one frame per page. Transparent pixels are blended with
+/// white.</summary>
 public class DicomOptions : ImageOptionsBase
 {
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public DicomOptions()
         : base(FileFormat.Dicom)
     {
     }
 
-    /// <summary>Gets or sets the samples of a pixel.</summary>
+    /// <summary>Gets or sets the colour type of the pixels.</summary>
     public ColorType ColorType { get; set; } = ColorType.Rgb24Bit;
 
-    /// <summary>Gets or sets how pixels are stored; plain by default.</summary>
+    /// <summary>Gets or sets the compression of the pixels; none by default.</summary>
     public Compression Compression { get; set; } = new();
 
-    /// <summary>Gets or sets which pages are written; nothing for all of them.</summary>
+    /// <summary>Gets or sets which pages are written; <see langword="null"/> for all pages.</summary>
     public MultiPageOptions? MultiPageOptions { get; set; }
 
     internal override bool HoldsResolution => true;
@@ -26,10 +27,10 @@ public class DicomOptions : ImageOptionsBase
     internal override void VerifyHonoured(OutputKind kind)
     {
         base.VerifyHonoured(kind);
-        if (Compression.Type != CompressionType.Jpeg && Compression.Quality != Compression.UsualQuality)
+        if (Compression.Type != CompressionType.Jpeg && Compression.Quality != Compression.DefaultQuality)
         {
             throw NotHonoured($"{nameof(Compression)}.{nameof(Compression.Quality)}",
-                "set its type to JPEG, as every pixel is kept exactly otherwise");
+                "set its type to JPEG, as other compression is lossless");
         }
     }
 }

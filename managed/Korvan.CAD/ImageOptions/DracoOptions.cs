@@ -3,20 +3,20 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Says how the faces of a drawing are written as a compressed mesh.</summary>
+/// <summary>Options for a compressed mesh of the faces of a drawing.</summary>
 public class DracoOptions : ImageOptionsBase
 {
     private int _compressionLevel = 7;
     private int _positionBits = 14;
 
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public DracoOptions()
         : base(FileFormat.Draco)
     {
     }
 
-    /// <summary>Gets or sets how hard the faces are packed, 0 (fast) to 10 (small). 7 by default.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is not 0 to 10.</exception>
+    /// <summary>Gets or sets the compression level, 0 (fastest) to 10 (smallest). 7 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The value is not 0 to 10.</exception>
     public int CompressionLevel
     {
         get => _compressionLevel;
@@ -27,8 +27,8 @@ public class DracoOptions : ImageOptionsBase
         }
     }
 
-    /// <summary>Gets or sets the bits of a coordinate, 1 to 30. 14 by default.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is not 1 to 30.</exception>
+    /// <summary>Gets or sets the quantization of coordinates in bits, 1 to 30. 14 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The value is not 1 to 30.</exception>
     public int PositionBits
     {
         get => _positionBits;

@@ -1,14 +1,14 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Says how a published drawing is written.</summary>
+/// <summary>Options for a published drawing.</summary>
 public class DwfOptions : ImageOptionsBase
 {
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public DwfOptions()
         : base(FileFormat.Dwf)
     {
     }
 
-    /// <summary>Gets or sets whether the content is packed. On by default.</summary>
+    /// <summary>Gets or sets whether the content is compressed. On by default.</summary>
     public bool Compressed { get; set; } = true;
 }

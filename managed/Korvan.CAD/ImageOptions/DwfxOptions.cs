@@ -1,14 +1,15 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Says how a published drawing is written whose pages are fixed pages (ECMA-388).</summary>
+/// <summary>Options for a published drawing with fixed pages (ECMA-388).</summary>
 public class DwfxOptions : ImageOptionsBase, ITextAsShapesOptions
 {
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public DwfxOptions()
         : base(FileFormat.Dwfx)
     {
     }
 
-    /// <summary>Gets or sets whether texts become outlines, so that they look the same without their fonts. Off by default.</summary>
+    /// <summary>Gets or sets whether text is written as glyph outlines, so that its appearance does not depend on
+    /// installed fonts. Off by default.</summary>
     public bool TextAsShapes { get; set; }
 }

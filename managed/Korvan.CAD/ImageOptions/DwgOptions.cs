@@ -2,15 +2,16 @@ using Korvan.CAD.FileFormats.Cad.CadConsts;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Says how a drawing is written in its binary form.</summary>
+/// <summary>Options for a drawing in its binary format.</summary>
 public class DwgOptions : ImageOptionsBase
 {
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public DwgOptions()
         : base(FileFormat.CadR2018)
     {
     }
 
-    /// <summary>Gets or sets the release that is written; nothing for the one that the drawing has.</summary>
+    /// <summary>Gets or sets the release that is written; <see langword="null"/> for the one that the drawing
+    /// has.</summary>
     public CadAcadVersion? Version { get; set; }
 }

@@ -1,14 +1,15 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Writes an enhanced metafile, for office programs.</summary>
+/// <summary>Options for enhanced metafiles (EMF), which office programs read.</summary>
 public class EmfOptions : ImageOptionsBase, ITextAsShapesOptions
 {
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public EmfOptions()
         : base(FileFormat.Emf)
     {
     }
 
-    /// <summary>Gets or sets whether texts become outlines, so that they look the same without their fonts. Off by default.</summary>
+    /// <summary>Gets or sets whether text is written as glyph outlines, so that its appearance does not depend on
+    /// installed fonts. Off by default.</summary>
     public bool TextAsShapes { get; set; }
 }

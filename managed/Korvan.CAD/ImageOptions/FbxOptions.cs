@@ -1,14 +1,14 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Says how the faces of a drawing are written as a scene.</summary>
+/// <summary>Options for a scene of the faces of a drawing.</summary>
 public class FbxOptions : ImageOptionsBase
 {
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public FbxOptions()
         : base(FileFormat.Fbx)
     {
     }
 
-    /// <summary>Gets or sets whether the scene is written as bytes instead of words. On by default.</summary>
+    /// <summary>Gets or sets whether the scene is written in binary form instead of text. On by default.</summary>
     public bool Binary { get; set; } = true;
 }

@@ -3,21 +3,22 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Writes GIF with one palette for all frames. A pixel less than half opaque becomes transparent.</summary>
+/// <summary>Options for GIF files with one palette for all frames. Pixels that are less than half opaque become
+/// transparent.</summary>
 public class GifOptions : ImageOptionsBase
 {
     private int _maxColors = 256;
     private int _frameTime = 1000;
     private int _loopCount = 0;
 
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public GifOptions()
         : base(FileFormat.Gif)
     {
     }
 
-    /// <summary>Gets or sets how many colours the palette has at most, 2 to 256.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    /// <summary>Gets or sets the maximum number of colours in the palette, 2 to 256.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The value is out of range.</exception>
     public int MaxColors
     {
         get => _maxColors;
@@ -28,17 +29,18 @@ public class GifOptions : ImageOptionsBase
         }
     }
 
-    /// <summary>Gets or sets how the colours are chosen where <see cref="ImageOptionsBase.Palette"/> gives none.</summary>
+    /// <summary>Gets or sets how colours are chosen if <see cref="ImageOptionsBase.Palette"/> is not set.</summary>
     public ColorQuantizationMethod PaletteMethod { get; set; } = ColorQuantizationMethod.MedianCut;
 
-    /// <summary>Gets or sets how colours are brought to the palette.</summary>
+    /// <summary>Gets or sets the dithering method for colours that the palette lacks.</summary>
     public DitheringMethods Dithering { get; set; } = DitheringMethods.None;
 
-    /// <summary>Gets or sets whether lines stand in the order that shows the whole picture soon.</summary>
+    /// <summary>Gets or sets whether rows are interlaced, so that readers can show a coarse image early.</summary>
     public bool Interlaced { get; set; }
 
-    /// <summary>Gets or sets how long a frame is shown, in milliseconds, 0 to 655350; stored in hundredths of a second.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    /// <summary>Gets or sets the delay of each frame in milliseconds, 0 to 655350; stored in hundredths of a
+    /// second.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The value is out of range.</exception>
     public int FrameTime
     {
         get => _frameTime;
@@ -49,8 +51,8 @@ public class GifOptions : ImageOptionsBase
         }
     }
 
-    /// <summary>Gets or sets how often frames are repeated, 0 (for ever) to 65535.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    /// <summary>Gets or sets the number of repetitions of the animation, 0 (endless) to 65535.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The value is out of range.</exception>
     public int LoopCount
     {
         get => _loopCount;
@@ -61,7 +63,7 @@ public class GifOptions : ImageOptionsBase
         }
     }
 
-    /// <summary>Gets or sets which pages are written; nothing for all of them.</summary>
+    /// <summary>Gets or sets which pages are written; <see langword="null"/> for all pages.</summary>
     public MultiPageOptions? MultiPageOptions { get; set; }
 
     internal override bool UsesPalette => true;

@@ -1,6 +1,6 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>What the two forms of the GL transmission format have in common.</summary>
+/// <summary>Options that both forms of the GL transmission format share.</summary>
 public abstract class GlbGltfOptionsBase : ImageOptionsBase
 {
     internal GlbGltfOptionsBase(FileFormat targetFormat)
@@ -8,11 +8,11 @@ public abstract class GlbGltfOptionsBase : ImageOptionsBase
     {
     }
 
-    /// <summary>Gets or sets whether all faces of a layer become one mesh. On by default; otherwise each entity is a mesh
-    /// of its own.</summary>
+    /// <summary>Gets or sets whether all faces of a layer are joined into one mesh. On by default; otherwise each
+    /// entity has its own mesh.</summary>
     public bool MergeLayers { get; set; } = true;
 
-    /// <summary>Gets or sets whether faces are seen from behind, too. On by default, as drawings do not care which side of
-    /// a face is its front.</summary>
+    /// <summary>Gets or sets whether faces are double-sided. On by default, as drawings do not define the front of a
+    /// face.</summary>
     public bool DoubleSided { get; set; } = true;
 }

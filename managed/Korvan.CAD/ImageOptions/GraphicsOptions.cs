@@ -1,20 +1,21 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>How shapes, texts and pictures are smoothed in pixels. Page formats leave that to whoever shows them and refuse it,
-/// unless <see cref="VectorRasterizationOptions.ContentAsBitmap"/> makes pixels of their content.</summary>
+/// <summary>Antialiasing of shapes, text and images in raster output. Page formats leave it to the viewer, so that
+/// setting an option raises an error, unless <see cref="VectorRasterizationOptions.ContentAsBitmap"/> rasterizes their
+/// content.</summary>
 public class GraphicsOptions
 {
-    /// <summary>Creates options that leave smoothing to the device.</summary>
+    /// <summary>Creates options that leave antialiasing to the device.</summary>
     public GraphicsOptions()
     {
     }
 
-    /// <summary>Gets or sets how letters are smoothed.</summary>
+    /// <summary>Gets or sets the antialiasing and hinting of text.</summary>
     public TextRenderingHint TextRenderingHint { get; set; } = TextRenderingHint.SystemDefault;
 
-    /// <summary>Gets or sets how shapes are smoothed.</summary>
+    /// <summary>Gets or sets the antialiasing of shapes.</summary>
     public SmoothingMode SmoothingMode { get; set; } = SmoothingMode.Default;
 
-    /// <summary>Gets or sets how pictures are resampled.</summary>
+    /// <summary>Gets or sets the interpolation of scaled images.</summary>
     public InterpolationMode InterpolationMode { get; set; } = InterpolationMode.Default;
 }

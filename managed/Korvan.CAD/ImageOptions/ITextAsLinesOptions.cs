@@ -1,8 +1,8 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Options of formats in which texts can be lines.</summary>
+/// <summary>Options of formats that can write text as unfilled outlines.</summary>
 public interface ITextAsLinesOptions
 {
-    /// <summary>Gets or sets whether texts become lines around their letters instead of filled letters.</summary>
+    /// <summary>Gets or sets whether text is written as the outlines of its glyphs instead of filled glyphs.</summary>
     bool TextAsLines { get; set; }
 }

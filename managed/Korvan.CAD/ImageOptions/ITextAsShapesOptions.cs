@@ -1,8 +1,9 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Options of formats in which texts can be outlines.</summary>
+/// <summary>Options of formats that can write text as glyph outlines.</summary>
 public interface ITextAsShapesOptions
 {
-    /// <summary>Gets or sets whether texts become outlines, so that they look the same without their fonts.</summary>
+    /// <summary>Gets or sets whether text is written as glyph outlines, so that its appearance does not depend on
+    /// installed fonts.</summary>
     bool TextAsShapes { get; set; }
 }

@@ -5,19 +5,20 @@ using Korvan.CAD.FileFormats.Jpeg;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Writes JPEG files. Opacity is laid over white.</summary>
+/// <summary>Options for JPEG images. Transparent pixels are blended with white.</summary>
 public class JpegOptions : ImageOptionsBase
 {
     private int _quality = 90;
 
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public JpegOptions()
         : base(FileFormat.Jpeg)
     {
     }
 
-    /// <summary>Gets or sets the quality, 1 (smallest) to 100. From 90 on colours keep their full resolution. 90 by default.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    /// <summary>Gets or sets the quality, 1 (smallest) to 100. From 90 on, chroma is not subsampled. 90 by
+    /// default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The value is out of range.</exception>
     public int Quality
     {
         get => _quality;
@@ -28,23 +29,24 @@ public class JpegOptions : ImageOptionsBase
         }
     }
 
-    /// <summary>Gets or sets how much room the picture may take: the best quality that keeps to it goes before
-    /// <see cref="Quality"/>. Nothing by default.</summary>
+    /// <summary>Gets or sets a limit on the size of the file, which takes precedence over <see cref="Quality"/>: the
+    /// best quality within the limit is used. <see langword="null"/>, the default, for no limit.</summary>
     public RdOptimizerSettings? RdOptSettings { get; set; }
 
-    /// <summary>Gets or sets the order in which the picture is stored.</summary>
+    /// <summary>Gets or sets the coding process, such as baseline or progressive.</summary>
     public JpegCompressionMode CompressionType { get; set; }
 
-    /// <summary>Gets or sets which colours are stored.</summary>
+    /// <summary>Gets or sets the colour space.</summary>
     public JpegCompressionColorMode ColorType { get; set; } = JpegCompressionColorMode.YCbCr;
 
-    /// <summary>Gets or sets a text that is stored beside the picture; empty for none.</summary>
+    /// <summary>Gets or sets the comment that is stored in the file; empty for none.</summary>
     public string Comment { get; set; } = "";
 
-    /// <summary>Gets or sets what the camera says of the picture; nothing keeps what a picture was loaded with.</summary>
+    /// <summary>Gets or sets the Exif metadata; <see langword="null"/> to keep that of the loaded image.</summary>
     public JpegExifData? ExifData { get; set; }
 
-    /// <summary>Gets or sets the density of pixels; nothing takes the resolution of the page.</summary>
+    /// <summary>Gets or sets the pixel density in the JFIF header; <see langword="null"/> for the resolution of the
+    /// page.</summary>
     public JFIFData? Jfif { get; set; }
 
     internal override bool HoldsXmp => true;
@@ -63,7 +65,7 @@ public class JpegOptions : ImageOptionsBase
 
         if (Jfif is not null && ColorType == JpegCompressionColorMode.Ycck)
         {
-            throw NotHonoured(nameof(Jfif), "leave it out, as files of inks have a head of another kind");
+            throw NotHonoured(nameof(Jfif), "leave it out, as YCCK files have no JFIF header");
         }
     }
 }

@@ -1,6 +1,6 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Space left free at the sides of a page, in units of the page.</summary>
+/// <summary>The margins of a page, in units of the page.</summary>
 public class Margins
 {
     /// <summary>Creates margins of 0.</summary>
@@ -8,15 +8,15 @@ public class Margins
     {
     }
 
-    /// <summary>Gets or sets the space at the left.</summary>
+    /// <summary>Gets or sets the left margin.</summary>
     public int Left { get; set; }
 
-    /// <summary>Gets or sets the space at the right.</summary>
+    /// <summary>Gets or sets the right margin.</summary>
     public int Right { get; set; }
 
-    /// <summary>Gets or sets the space at the top.</summary>
+    /// <summary>Gets or sets the top margin.</summary>
     public int Top { get; set; }
 
-    /// <summary>Gets or sets the space at the bottom.</summary>
+    /// <summary>Gets or sets the bottom margin.</summary>
     public int Bottom { get; set; }
 }

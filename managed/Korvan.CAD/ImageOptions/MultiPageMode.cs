@@ -6,15 +6,15 @@ namespace Korvan.CAD.ImageOptions;
 [PythonEnum(EnumKind.Integer)]
 public enum MultiPageMode
 {
-    /// <summary>All that the source has.</summary>
+    /// <summary>All pages.</summary>
     AllPages = 0,
 
-    /// <summary>Those whose numbers are listed, in that order.</summary>
+    /// <summary>The pages with the listed numbers, in that order.</summary>
     Pages = 1,
 
-    /// <summary>Those whose names are listed, in that order.</summary>
+    /// <summary>The pages with the listed names, in that order.</summary>
     Titles = 2,
 
-    /// <summary>Those of an interval.</summary>
+    /// <summary>A range of pages.</summary>
     Range = 3,
 }

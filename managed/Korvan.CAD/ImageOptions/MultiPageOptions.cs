@@ -3,7 +3,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Which pages of a source with several are written: layouts of a drawing, frames of a picture.</summary>
+/// <summary>Which pages are written: layouts of a drawing, or frames of an image.</summary>
 public class MultiPageOptions
 {
     private int[] _pages = [];
@@ -11,21 +11,21 @@ public class MultiPageOptions
     private int _firstPage;
     private int _pageCount;
 
-    /// <summary>Creates options that take all pages.</summary>
+    /// <summary>Creates options for all pages.</summary>
     public MultiPageOptions()
     {
     }
 
-    /// <summary>Creates options that take an interval of pages.</summary>
-    /// <param name="firstPage">The number of the first, from 0.</param>
-    /// <param name="pageCount">How many; 0 for all that follow.</param>
+    /// <summary>Creates options for a range of pages.</summary>
+    /// <param name="firstPage">The number of the first page, from 0.</param>
+    /// <param name="pageCount">The number of pages; 0 for all that follow.</param>
     public MultiPageOptions(int firstPage, int pageCount)
     {
         FirstPage = firstPage;
         PageCount = pageCount;
     }
 
-    /// <summary>Gets or sets by what pages are chosen.</summary>
+    /// <summary>Gets or sets how pages are selected.</summary>
     public MultiPageMode Mode { get; set; }
 
     /// <summary>Gets or sets the numbers of the pages, from 0. Setting them sets <see cref="Mode"/> to
@@ -41,8 +41,8 @@ public class MultiPageOptions
         }
     }
 
-    /// <summary>Gets or sets the names of the pages; upper and lower case are the same. Setting them sets
-    /// <see cref="Mode"/> to <see cref="MultiPageMode.Titles"/>.</summary>
+    /// <summary>Gets or sets the names of the pages; case is ignored. Setting them sets <see cref="Mode"/> to
+    /// <see cref="MultiPageMode.Titles"/>.</summary>
     public string[] PageTitles
     {
         get => _pageTitles;
@@ -54,7 +54,7 @@ public class MultiPageOptions
         }
     }
 
-    /// <summary>Gets or sets the number of the first page of an interval, from 0. Setting it sets <see cref="Mode"/> to
+    /// <summary>Gets or sets the number of the first page of a range, from 0. Setting it sets <see cref="Mode"/> to
     /// <see cref="MultiPageMode.Range"/>.</summary>
     public int FirstPage
     {
@@ -66,8 +66,8 @@ public class MultiPageOptions
         }
     }
 
-    /// <summary>Gets or sets how many pages the interval has; 0 for all that follow. Setting it sets <see cref="Mode"/> to
-    /// <see cref="MultiPageMode.Range"/>.</summary>
+    /// <summary>Gets or sets the number of pages of a range; 0 for all that follow. Setting it sets <see cref="Mode"/>
+    /// to <see cref="MultiPageMode.Range"/>.</summary>
     public int PageCount
     {
         get => _pageCount;
@@ -78,7 +78,7 @@ public class MultiPageOptions
         }
     }
 
-    /// <summary>Gets or sets the part of each page that is written, in pixels from the upper left corner; an empty one
-    /// for all of it.</summary>
+    /// <summary>Gets or sets the part of each page that is written, in pixels from the upper left corner; an empty
+    /// rectangle for the whole page.</summary>
     public Rectangle ExportArea { get; set; }
 }

@@ -2,25 +2,25 @@ using System;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>What an image becomes, as far as options can change it.</summary>
+/// <summary>The kind of output, as far as the supported options differ.</summary>
 [Flags]
 internal enum OutputKind
 {
-    /// <summary>Content of lines and texts, as pixels.</summary>
+    /// <summary>Vector content as pixels.</summary>
     Pixels = 1,
 
-    /// <summary>Content of lines and texts, as a page of them.</summary>
+    /// <summary>Vector content as a vector page.</summary>
     Page = 2,
 
     /// <summary>The faces of a drawing.</summary>
     Faces = 4,
 
-    /// <summary>A picture, as pixels.</summary>
-    Picture = 8,
+    /// <summary>A raster image as pixels.</summary>
+    Image = 8,
 
     /// <summary>A model in its own format, object by object.</summary>
     Model = 16,
 
-    /// <summary>Whatever is drawn.</summary>
+    /// <summary>All rendered output.</summary>
     Drawn = Pixels | Page,
 }

@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>How the digest of a signed document is made.</summary>
+/// <summary>The hash algorithm of a digital signature.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum PdfDigitalSignatureHashAlgorithmCore
 {

@@ -4,19 +4,19 @@ using Korvan.CAD.FileFormats.Png;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Writes portable network graphics.</summary>
+/// <summary>Options for PNG images.</summary>
 public class PngOptions : ImageOptionsBase
 {
     private int _compressionLevel = 6;
     private int _bitDepth = 8;
 
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public PngOptions()
         : base(FileFormat.Png)
     {
     }
 
-    /// <summary>Gets or sets how hard the data is compressed, 0 (not at all) to 9. 6 by default.</summary>
+    /// <summary>Gets or sets the compression level, 0 (none) to 9 (smallest). 6 by default.</summary>
     public int CompressionLevel
     {
         get => _compressionLevel;
@@ -27,12 +27,12 @@ public class PngOptions : ImageOptionsBase
         }
     }
 
-    /// <summary>Gets or sets what pixels store. By default colours with opacity; a picture that is opaque all over is
-    /// written without. Where opacity is not stored, it is laid over white.</summary>
+    /// <summary>Gets or sets the colour type. Truecolour with alpha by default; the alpha channel is left out if all
+    /// pixels are opaque. For colour types without alpha, transparent pixels are blended with white.</summary>
     public PngColorType ColorType { get; set; } = PngColorType.TruecolorWithAlpha;
 
-    /// <summary>Gets or sets the bits of a sample: 1, 2, 4 or 8 for grey and palettes, otherwise 8.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is none of these.</exception>
+    /// <summary>Gets or sets the bits per sample: 1, 2, 4 or 8 for greyscale and palettes, otherwise 8.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The value is none of these.</exception>
     public int BitDepth
     {
         get => _bitDepth;
@@ -47,12 +47,12 @@ public class PngOptions : ImageOptionsBase
         }
     }
 
-    /// <summary>Gets or sets what of each line is stored. Drawings become smallest with
-    /// <see cref="PngFilterType.Up"/>, the default; photographs with <see cref="PngFilterType.Adaptive"/>. Pictures
-    /// with a palette are written without a filter.</summary>
+    /// <summary>Gets or sets the filter of the rows. <see cref="PngFilterType.Up"/>, the default, compresses drawings
+    /// best, <see cref="PngFilterType.Adaptive"/> photographs. Images with a palette are written without a
+    /// filter.</summary>
     public PngFilterType FilterType { get; set; } = PngFilterType.Up;
 
-    /// <summary>Gets or sets how colours are brought to a palette.</summary>
+    /// <summary>Gets or sets the dithering method for colours that the palette lacks.</summary>
     public DitheringMethods Dithering { get; set; }
 
     internal override bool HoldsXmp => true;
@@ -67,7 +67,7 @@ public class PngOptions : ImageOptionsBase
         base.VerifyHonoured(kind);
         if (Dithering != DitheringMethods.None && !UsesPalette)
         {
-            throw NotHonoured(nameof(Dithering), "set color_type to INDEXED_COLOR, as other pixels keep their colours");
+            throw NotHonoured(nameof(Dithering), "set color_type to INDEXED_COLOR, as other pixels are not indexed");
         }
     }
 }

@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>How finely a kind of object is drawn.</summary>
+/// <summary>The rendering quality of a kind of object.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum RasterizationQualityValue
 {
     /// <summary>Fast and coarse.</summary>
     Low = 0,
 
-    /// <summary>The balance for most drawings.</summary>
+    /// <summary>A balance of speed and quality for most drawings.</summary>
     Medium = 1,
 
-    /// <summary>As exact as the device shows.</summary>
+    /// <summary>As exact as the device can show.</summary>
     High = 2,
 }

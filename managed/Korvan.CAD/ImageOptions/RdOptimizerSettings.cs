@@ -5,21 +5,21 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>How much room an encoded picture may take, and which qualities are tried for it: the best quality that
-/// keeps to the limit is the one that is written.</summary>
+/// <summary>A limit on the size of an encoded image, and the range of qualities that are tried: the best quality within
+/// the limit is written.</summary>
 public class RdOptimizerSettings
 {
     private double _bppMax = 4;
     private int _minQuality = 10;
     private int _maxQuality = 95;
 
-    /// <summary>Creates settings with their defaults.</summary>
+    /// <summary>Creates settings with default values.</summary>
     public RdOptimizerSettings()
     {
     }
 
-    /// <summary>Gets or sets the most bits for a pixel, above 0. 4 by default.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is not above 0.</exception>
+    /// <summary>Gets or sets the maximum number of bits per pixel, above 0. 4 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The value is not above 0.</exception>
     public double BppMax
     {
         get => _bppMax;
@@ -27,38 +27,38 @@ public class RdOptimizerSettings
         {
             if (!(value > 0) || !double.IsFinite(value))
             {
-                throw Verify.OutOfRange(nameof(value), value, "The bits for a pixel are a finite number above 0.");
+                throw Verify.OutOfRange(nameof(value), value, "Bits per pixel are a finite number above 0.");
             }
 
             _bppMax = value;
         }
     }
 
-    /// <summary>Gets or sets the lowest quality that is acceptable, 1 to 100. 10 by default.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is not 1 to 100.</exception>
+    /// <summary>Gets or sets the lowest acceptable quality, 1 to 100. 10 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The value is not 1 to 100.</exception>
     public int MinQuality
     {
         get => _minQuality;
         set => _minQuality = Quality(value);
     }
 
-    /// <summary>Gets or sets the highest quality that is worth its room, 1 to 100. 95 by default.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is not 1 to 100.</exception>
+    /// <summary>Gets or sets the highest quality to try, 1 to 100. 95 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The value is not 1 to 100.</exception>
     public int MaxQuality
     {
         get => _maxQuality;
         set => _maxQuality = Quality(value);
     }
 
-    /// <summary>Finds the best encoding that keeps to the limit, by halving the range of qualities.</summary>
-    /// <param name="pixels">How many pixels the picture has.</param>
-    /// <param name="encode">Encodes the picture in a quality.</param>
-    /// <exception cref="RdOptimizationError">Even the lowest quality takes more room.</exception>
+    /// <summary>Finds the best quality within the limit by binary search and returns the encoded image.</summary>
+    /// <param name="pixels">The number of pixels of the image.</param>
+    /// <param name="encode">Encodes the image with a quality.</param>
+    /// <exception cref="RdOptimizationError">Even the lowest quality exceeds the limit.</exception>
     internal byte[] Optimize(long pixels, Func<int, byte[]> encode)
     {
         if (MinQuality > MaxQuality)
         {
-            throw new RdOptimizationError($"min_quality, {MinQuality}, lies above max_quality, {MaxQuality}.");
+            throw new RdOptimizationError($"min_quality, {MinQuality}, is above max_quality, {MaxQuality}.");
         }
 
         double most = BppMax * pixels / 8;
@@ -83,7 +83,7 @@ public class RdOptimizerSettings
         }
 
         return best ?? throw new RdOptimizationError(
-            $"At min_quality, {MinQuality}, the picture takes {8.0 * smallest / pixels:0.##} bits for a pixel; "
+            $"At min_quality, {MinQuality}, the image takes {8.0 * smallest / pixels:0.##} bits per pixel; "
             + $"bpp_max allows {BppMax:0.##}.");
     }
 

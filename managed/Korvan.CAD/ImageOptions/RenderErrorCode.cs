@@ -2,31 +2,31 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>What kept something from being drawn as it is; the values can be combined.</summary>
+/// <summary>Reasons for unfaithful rendering; the values can be combined.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum RenderErrorCode
 {
-    /// <summary>Everything was drawn.</summary>
+    /// <summary>Everything was rendered faithfully.</summary>
     Success = 0,
 
-    /// <summary>Entities of a type that has no picture were left out.</summary>
+    /// <summary>Entities of a type that cannot be rendered were left out.</summary>
     EntityNotDrawn = 1,
 
-    /// <summary>No font that is there has some of the letters; boxes stand in for them.</summary>
+    /// <summary>No available font has some of the characters; boxes are drawn instead.</summary>
     MissingGlyph = 2,
 
-    /// <summary>The file of a picture was not found or not read; a frame stands in for it.</summary>
+    /// <summary>An image file was not found or could not be read; a frame is drawn instead.</summary>
     MissingPicture = 4,
 
-    /// <summary>The format has no transparency: colours were mixed with that of the page.</summary>
+    /// <summary>The format has no transparency: colours were blended with the background.</summary>
     TransparencyBlended = 8,
 
-    /// <summary>The format has no gradients: areas were filled with one colour in the middle of theirs.</summary>
+    /// <summary>The format has no gradients: areas were filled with the mean colour.</summary>
     GradientFlattened = 16,
 
-    /// <summary>The format clips by rectangles only: the box around a region stands in for it.</summary>
+    /// <summary>The format clips by rectangles only: a clipping region was replaced by its bounding box.</summary>
     ClipApproximated = 32,
 
-    /// <summary>A layer that the options name is not in the drawing.</summary>
+    /// <summary>The drawing lacks a layer that the options name.</summary>
     LayerNotFound = 64,
 }

@@ -2,11 +2,11 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>How bodies and faces in space are drawn.</summary>
+/// <summary>How solids and 3D faces are rendered.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum RenderMode3D
 {
-    /// <summary>Edges alone.</summary>
+    /// <summary>Edges only.</summary>
     Wireframe = 0,
 
     /// <summary>Filled faces without edges.</summary>
@@ -15,6 +15,6 @@ public enum RenderMode3D
     /// <summary>Filled faces and their edges.</summary>
     SolidWithEdges = 2,
 
-    /// <summary>Filled faces and the edges that they do not cover.</summary>
+    /// <summary>Filled faces and visible edges.</summary>
     SolidWithEdgesHidden = 3,
 }

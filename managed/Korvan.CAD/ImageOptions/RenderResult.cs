@@ -1,6 +1,6 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>One thing that was not drawn as it is, and why.</summary>
+/// <summary>Something that was not rendered faithfully, and the reason.</summary>
 public class RenderResult
 {
     internal RenderResult(RenderErrorCode renderCode, string message)
@@ -12,7 +12,7 @@ public class RenderResult
     /// <summary>Gets the reason.</summary>
     public RenderErrorCode RenderCode { get; }
 
-    /// <summary>Gets what it was, and how often.</summary>
+    /// <summary>Gets what was concerned, and how often.</summary>
     public string Message { get; }
 
     /// <inheritdoc/>

@@ -2,16 +2,16 @@ using Korvan.CAD.FileFormats.Cad;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Writes the faces of a drawing for 3D printing.</summary>
+/// <summary>Options for the faces of a drawing as an STL mesh, for 3D printing.</summary>
 public class StlOptions : ImageOptionsBase
 {
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public StlOptions()
         : base(FileFormat.Stl)
     {
     }
 
-    /// <summary>Gets or sets whether faces are written as bytes instead of words. On by default.</summary>
+    /// <summary>Gets or sets whether the mesh is written in binary form instead of text. On by default.</summary>
     public bool Binary { get; set; } = true;
 
     /// <inheritdoc/>
@@ -21,7 +21,8 @@ public class StlOptions : ImageOptionsBase
         const string name = nameof(VectorRasterizationOptions);
         string? color = VectorRasterizationOptions switch
         {
-            CadRasterizationOptions { DrawType: not CadDrawTypeMode.UseObjectColor } => nameof(CadRasterizationOptions.DrawType),
+            CadRasterizationOptions { DrawType: not CadDrawTypeMode.UseObjectColor } =>
+                nameof(CadRasterizationOptions.DrawType),
             { } vector when vector.DrawColor != Color.Black => nameof(vector.DrawColor),
             { } vector when vector.BackgroundColor != Color.White => nameof(vector.BackgroundColor),
             _ => null,

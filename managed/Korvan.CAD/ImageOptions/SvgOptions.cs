@@ -5,43 +5,43 @@ using Korvan.CAD.ImageOptions.SvgOptionsParameters;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Writes scalable vector graphics.</summary>
+/// <summary>Options for SVG documents.</summary>
 public class SvgOptions : ImageOptionsBase, ITextAsShapesOptions
 {
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public SvgOptions()
         : base(FileFormat.Svg)
     {
     }
 
-    /// <summary>Gets or sets whether texts become outlines, so that they look the same without their fonts. On by
-    /// default.</summary>
+    /// <summary>Gets or sets whether text is written as glyph outlines, so that its appearance does not depend on
+    /// installed fonts. On by default.</summary>
     public bool TextAsShapes { get; set; } = true;
 
-    /// <summary>Gets or sets the colours that are used. Those of the drawing by default.</summary>
+    /// <summary>Gets or sets the colour mode. The colours of the drawing by default.</summary>
     public SvgColorMode ColorType { get; set; } = SvgColorMode.Rgb;
 
-    /// <summary>Gets or sets where the fonts of texts come from that are kept as text. By default from the reader's
-    /// system.</summary>
+    /// <summary>Gets or sets how the fonts of text that is not written as outlines are stored. By default they are not
+    /// stored: the viewer's system provides them.</summary>
     public FontStoreType FontStoreType { get; set; } = FontStoreType.Installed;
 
-    /// <summary>Gets or sets the format of pictures. PNG by default; the others have no transparency.</summary>
+    /// <summary>Gets or sets the format of images. PNG by default; the others have no transparency.</summary>
     public SvgImageType ImageType { get; set; } = SvgImageType.Png;
 
-    /// <summary>Gets or sets who keeps fonts and pictures that do not stand in the document; nothing to keep all in
-    /// it. Holds for texts that are kept as text, and for pictures in such documents.</summary>
+    /// <summary>Gets or sets the callback that stores fonts and images outside the document; <see langword="null"/> to
+    /// embed them. It is used for documents whose text is not written as outlines.</summary>
     public ISvgResourceKeeperCallback? Callback { get; set; }
 
-    /// <summary>Lets fonts and pictures be kept as files in a folder: sets <see cref="Callback"/>, and
+    /// <summary>Stores fonts and images as files in a folder: sets <see cref="Callback"/>, and
     /// <see cref="FontStoreType"/> to <see cref="FontStoreType.Stream"/>.</summary>
-    /// <param name="folder">The folder; it is made when something is put into it.</param>
-    /// <param name="uri">What stands before file names in the document, as a path from the document to the folder; empty
-    /// where the document stands in the folder.</param>
+    /// <param name="folder">The folder; it is created when the first file is stored.</param>
+    /// <param name="uri">The prefix of file names in the document: the path from the document to the folder; empty if
+    /// the document is in the folder.</param>
     public void StoreResourcesIn(string folder, string uri)
     {
         Verify.NotBlank(folder);
         Verify.NotNull(uri);
-        Callback = new FolderResourceKeeper(Path.GetFullPath(folder), uri);
+        Callback = new FolderResourceStore(Path.GetFullPath(folder), uri);
         FontStoreType = FontStoreType.Stream;
     }
 

@@ -1,14 +1,14 @@
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Says how the faces of a drawing are written as meshes of at most 65,535 points.</summary>
+/// <summary>Options for the faces of a drawing as meshes of at most 65,535 vertices each.</summary>
 public class ThreeDSOptions : ImageOptionsBase
 {
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public ThreeDSOptions()
         : base(FileFormat.ThreeDS)
     {
     }
 
-    /// <summary>Gets or sets the factor from drawing units to units of the file. 1 by default.</summary>
+    /// <summary>Gets or sets the scale from drawing units to units of the file. 1 by default.</summary>
     public float MasterScale { get; set; } = 1;
 }

@@ -7,21 +7,21 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Writes TIFF 6.0, one page for each layout or frame.</summary>
+/// <summary>Options for TIFF 6.0 files with one page per layout or frame.</summary>
 public class TiffOptions : ImageOptionsBase
 {
-    internal const int UsualQuality = 90;
+    internal const int DefaultQuality = 90;
 
     private int[] _bitsPerSample = [8, 8, 8];
-    private int _quality = UsualQuality;
+    private int _quality = DefaultQuality;
 
-    /// <summary>Creates options for colours of 24 bits, compressed with LZW.</summary>
+    /// <summary>Creates options for 24-bit RGB with LZW compression.</summary>
     public TiffOptions()
         : base(FileFormat.Tiff)
     {
     }
 
-    /// <summary>Creates options for a ready-made combination.</summary>
+    /// <summary>Creates options for a predefined combination of compression and colours.</summary>
     /// <param name="expectedFormat">The combination.</param>
     public TiffOptions(TiffExpectedFormat expectedFormat)
         : this()
@@ -29,17 +29,17 @@ public class TiffOptions : ImageOptionsBase
         (Compression, Photometric, _bitsPerSample) = TiffPresets.Of(expectedFormat);
     }
 
-    /// <summary>Gets or sets the order of bytes in numbers.</summary>
+    /// <summary>Gets or sets the byte order.</summary>
     public TiffByteOrder ByteOrder { get; set; } = TiffByteOrder.LittleEndian;
 
-    /// <summary>Gets or sets how strips are compressed. LZW by default.</summary>
+    /// <summary>Gets or sets the compression of the strips. LZW by default.</summary>
     public TiffCompressions Compression { get; set; } = TiffCompressions.Lzw;
 
-    /// <summary>Gets or sets what samples mean. Red, green, blue by default.</summary>
+    /// <summary>Gets or sets the photometric interpretation. RGB by default.</summary>
     public TiffPhotometrics Photometric { get; set; } = TiffPhotometrics.Rgb;
 
-    /// <summary>Gets or sets the bits of each sample of a pixel: 1, 4 or 8 for one sample; 8 three times for colours,
-    /// four times for colours with opacity or for inks.</summary>
+    /// <summary>Gets or sets the bits of each sample of a pixel: one value of 1, 4 or 8 for greyscale or a palette; 8
+    /// three times for RGB, four times for RGB with alpha or for CMYK.</summary>
     public int[] BitsPerSample
     {
         get => (int[])_bitsPerSample.Clone();
@@ -50,29 +50,29 @@ public class TiffOptions : ImageOptionsBase
         }
     }
 
-    /// <summary>Gets or sets what the fourth sample of colours means.</summary>
+    /// <summary>Gets or sets whether the fourth sample of RGB is associated or unassociated alpha.</summary>
     public TiffAlphaStorage AlphaStorage { get; set; } = TiffAlphaStorage.Unassociated;
 
-    /// <summary>Gets or sets what LZW and Deflate store of samples of 8 bits.</summary>
+    /// <summary>Gets or sets the predictor of LZW and Deflate for 8-bit samples.</summary>
     public TiffPredictor Predictor { get; set; } = TiffPredictor.Horizontal;
 
-    /// <summary>Gets or sets the order of bits in a byte of facsimile codes.</summary>
+    /// <summary>Gets or sets the fill order of the bits of facsimile codes.</summary>
     public TiffFillOrders FillOrder { get; set; } = TiffFillOrders.Msb2Lsb;
 
-    /// <summary>Gets or sets how lines of group 3 are coded.</summary>
+    /// <summary>Gets or sets the coding of CCITT Group 3 rows.</summary>
     public Group3Options FaxT4Options { get; set; }
 
-    /// <summary>Gets or sets how colours become black and white or colours of a palette.</summary>
+    /// <summary>Gets or sets the dithering method for bilevel images and palettes.</summary>
     public TiffThresholds Threshold { get; set; } = TiffThresholds.NoDithering;
 
-    /// <summary>Gets or sets how many rows a strip has; 0 for strips of about 64 KiB.</summary>
+    /// <summary>Gets or sets the rows per strip; 0 for strips of about 64 KiB.</summary>
     public int RowsPerStrip { get; set; }
 
-    /// <summary>Gets or sets what resolutions count.</summary>
+    /// <summary>Gets or sets the unit of the resolution.</summary>
     public TiffResolutionUnits ResolutionUnit { get; set; } = TiffResolutionUnits.Inch;
 
     /// <summary>Gets or sets the quality of JPEG compression, 1 to 100. 90 by default.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    /// <exception cref="ArgumentOutOfRangeException">The value is out of range.</exception>
     public int CompressedQuality
     {
         get => _quality;
@@ -83,28 +83,28 @@ public class TiffOptions : ImageOptionsBase
         }
     }
 
-    /// <summary>Gets or sets who made the picture; empty for no such field.</summary>
+    /// <summary>Gets or sets the artist; empty to omit the field.</summary>
     public string Artist { get; set; } = "";
 
-    /// <summary>Gets or sets who may use it; empty for no such field.</summary>
+    /// <summary>Gets or sets the copyright notice; empty to omit the field.</summary>
     public string Copyright { get; set; } = "";
 
-    /// <summary>Gets or sets the date, as <c>YYYY:MM:DD HH:MM:SS</c>; empty for no such field.</summary>
+    /// <summary>Gets or sets the date, as <c>YYYY:MM:DD HH:MM:SS</c>; empty to omit the field.</summary>
     public string DateTime { get; set; } = "";
 
-    /// <summary>Gets or sets the name of the document; empty for no such field.</summary>
+    /// <summary>Gets or sets the name of the document; empty to omit the field.</summary>
     public string DocumentName { get; set; } = "";
 
-    /// <summary>Gets or sets what is to be seen; empty for no such field.</summary>
+    /// <summary>Gets or sets the description of the image; empty to omit the field.</summary>
     public string ImageDescription { get; set; } = "";
 
-    /// <summary>Gets or sets the program that wrote the file; empty for no such field.</summary>
+    /// <summary>Gets or sets the name of the software that wrote the file; empty to omit the field.</summary>
     public string SoftwareType { get; set; } = "korvan.cad";
 
-    /// <summary>Gets or sets which pages are written; nothing for all of them.</summary>
+    /// <summary>Gets or sets which pages are written; <see langword="null"/> for all pages.</summary>
     public MultiPageOptions? MultiPageOptions { get; set; }
 
-    /// <summary>Gets the bits of a pixel.</summary>
+    /// <summary>Gets the bits per pixel.</summary>
     public int BitsPerPixel
     {
         get
@@ -119,19 +119,19 @@ public class TiffOptions : ImageOptionsBase
         }
     }
 
-    /// <summary>Gets how many samples a pixel has.</summary>
+    /// <summary>Gets the samples per pixel.</summary>
     public int SamplesPerPixel => _bitsPerSample.Length;
 
     /// <summary>Gets whether the combination can be written.</summary>
     public bool IsValid => Validate() == TiffOptionsError.NoError;
 
-    /// <summary>Gets what a file by these options needs of its readers.</summary>
+    /// <summary>Gets the capabilities that a reader needs for files with these options.</summary>
     public TiffFileStandards FileStandard =>
         Compression is TiffCompressions.None or TiffCompressions.CcittRle or TiffCompressions.PackBits
             ? TiffFileStandards.Baseline
             : TiffFileStandards.Extended;
 
-    /// <summary>Tells why the combination cannot be written.</summary>
+    /// <summary>Returns why the combination cannot be written.</summary>
     public TiffOptionsError Validate() => TiffPresets.Validate(this);
 
     internal override bool HoldsXmp => true;

@@ -6,27 +6,27 @@ namespace Korvan.CAD.ImageOptions;
 [PythonEnum(EnumKind.Integer)]
 public enum TiffOptionsError
 {
-    /// <summary>It can.</summary>
+    /// <summary>No error: the combination can be written.</summary>
     NoError = 0,
 
     /// <summary>The compression has no encoder.</summary>
     CompressionNotSupported = 1,
 
-    /// <summary>Samples of this many bits are not written.</summary>
+    /// <summary>Samples with this number of bits are not supported.</summary>
     BitsPerSampleNotSupported = 2,
 
     /// <summary>The number of sample sizes is not the number of samples, or they differ.</summary>
     BitsPerSampleMismatch = 3,
 
-    /// <summary>This meaning of samples is not written.</summary>
+    /// <summary>The photometric interpretation is not supported.</summary>
     PhotometricNotSupported = 4,
 
-    /// <summary>Facsimile codes hold black and white only.</summary>
+    /// <summary>CCITT compression is for bilevel images only.</summary>
     CompressionNeedsBilevel = 5,
 
-    /// <summary>JPEG holds grey and colours of 8 bits only.</summary>
+    /// <summary>JPEG compression is for 8-bit greyscale and colour only.</summary>
     CompressionNeedsFullSamples = 6,
 
-    /// <summary>The palette has more colours than the samples can number.</summary>
+    /// <summary>The palette has more colours than the samples can index.</summary>
     PaletteTooLarge = 7,
 }

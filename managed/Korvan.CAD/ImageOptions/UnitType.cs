@@ -69,6 +69,6 @@ public enum UnitType
     /// <summary>Units that the drawing defines itself.</summary>
     Custom = 20,
 
-    /// <summary>No unit: one drawing unit is one unit of the output.</summary>
+    /// <summary>No unit: a drawing unit is a unit of the output.</summary>
     Unitless = 21,
 }

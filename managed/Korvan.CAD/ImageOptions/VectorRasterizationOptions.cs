@@ -5,7 +5,7 @@ using Korvan.CAD.FileFormats;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>How vector content is drawn on a page.</summary>
+/// <summary>Options for rendering vector content on a page.</summary>
 public abstract class VectorRasterizationOptions : DisposableObject
 {
     private float _pageWidth;
@@ -18,28 +18,28 @@ public abstract class VectorRasterizationOptions : DisposableObject
     {
     }
 
-    /// <summary>Gets or sets the space left free at the left and the right side, in units of the page.</summary>
+    /// <summary>Gets or sets the left and right border, in units of the page.</summary>
     public float BorderX { get; set; }
 
-    /// <summary>Gets or sets the space left free at the upper and the lower side, in units of the page.</summary>
+    /// <summary>Gets or sets the top and bottom border, in units of the page.</summary>
     public float BorderY { get; set; }
 
-    /// <summary>Gets or sets the space left free at each side, in units of the page; added to
-    /// <see cref="BorderX"/> and <see cref="BorderY"/>. Nothing by default.</summary>
+    /// <summary>Gets or sets the margins, in units of the page, which are added to <see cref="BorderX"/> and
+    /// <see cref="BorderY"/>. 0 by default.</summary>
     public Margins? Margins { get; set; }
 
-    /// <summary>Gets or sets the height of the page; 0 for the height of the layout's paper, or of the drawing at
-    /// the given width. Pixels in raster formats; in page formats points of 1/72 inch unless
-    /// <see cref="UnitType"/> states another unit.</summary>
+    /// <summary>Gets or sets the height of the page; 0 for the height of the layout's paper, or that of the drawing at
+    /// the given width. Pixels in raster formats; in page formats points of 1/72 inch unless <see cref="UnitType"/>
+    /// states another unit.</summary>
     public float PageHeight
     {
         get => _pageHeight;
         set => _pageHeight = Length(value);
     }
 
-    /// <summary>Gets or sets the width of the page; 0 for the width of the layout's paper, or of the drawing at
-    /// the given height. Pixels in raster formats; in page formats points of 1/72 inch unless
-    /// <see cref="UnitType"/> states another unit.</summary>
+    /// <summary>Gets or sets the width of the page; 0 for the width of the layout's paper, or that of the drawing at
+    /// the given height. Pixels in raster formats; in page formats points of 1/72 inch unless <see cref="UnitType"/>
+    /// states another unit.</summary>
     public float PageWidth
     {
         get => _pageWidth;
@@ -57,35 +57,36 @@ public abstract class VectorRasterizationOptions : DisposableObject
         }
     }
 
-    /// <summary>Gets or sets the extent of the page in depth. Pages are flat so far: anything but 0 is refused.</summary>
+    /// <summary>Gets or sets the depth of the page. Pages are flat so far: values other than 0 raise an
+    /// error.</summary>
     public float PageDepth
     {
         get => _pageDepth;
         set => _pageDepth = Length(value);
     }
 
-    /// <summary>Gets or sets the colour of the page. White by default.</summary>
+    /// <summary>Gets or sets the background colour. White by default.</summary>
     public Color BackgroundColor { get; set; } = Color.White;
 
-    /// <summary>Gets or sets whether the background is drawn in page formats as well. Off by default: paper is
-    /// white of itself.</summary>
+    /// <summary>Gets or sets whether the background is drawn in page formats as well. Off by default, as paper is
+    /// white.</summary>
     public bool EmbedBackground { get; set; }
 
-    /// <summary>Gets or sets the colour that everything is drawn in where a single colour is asked for. Black by
-    /// default.</summary>
+    /// <summary>Gets or sets the colour of all content in modes with a single colour. Black by default.</summary>
     public Color DrawColor { get; set; } = Color.Black;
 
     /// <summary>Gets or sets the unit of <see cref="PageWidth"/> and <see cref="PageHeight"/> in page formats.
     /// </summary>
     public UnitType UnitType { get; set; } = UnitType.Unitless;
 
-    /// <summary>Gets or sets whether a page format gets a picture of the content instead of lines and texts.</summary>
+    /// <summary>Gets or sets whether page formats get a bitmap of the content instead of vector graphics.</summary>
     public bool ContentAsBitmap { get; set; }
 
-    /// <summary>Gets or sets how shapes and texts are smoothed; nothing for the defaults.</summary>
+    /// <summary>Gets or sets the antialiasing of shapes, text and images; <see langword="null"/> for the
+    /// defaults.</summary>
     public GraphicsOptions? GraphicsOptions { get; set; }
 
-    /// <summary>Gets or sets a factor on the lengths of line types, above 0. 1 by default.</summary>
+    /// <summary>Gets or sets a factor that scales the dashes of line types, above 0. 1 by default.</summary>
     /// <exception cref="ArgumentOutOfRangeException">The factor is not above 0, or not finite.</exception>
     public double LineScale
     {
@@ -93,7 +94,7 @@ public abstract class VectorRasterizationOptions : DisposableObject
         set => _lineScale = Factor(value);
     }
 
-    /// <summary>Gets or sets a factor on the size of the drawing on its page, above 0. 1 by default.</summary>
+    /// <summary>Gets or sets a factor that scales the drawing on its page, above 0. 1 by default.</summary>
     /// <exception cref="ArgumentOutOfRangeException">The factor is not above 0, or not finite.</exception>
     public double RelativeScale
     {
@@ -101,7 +102,7 @@ public abstract class VectorRasterizationOptions : DisposableObject
         set => _relativeScale = Factor(value);
     }
 
-    /// <summary>Gets or sets how far the drawing is moved on its page, as parts of the page's width and height.
+    /// <summary>Gets or sets the offset of the drawing on its page, as fractions of the page's width and height.
     /// </summary>
     public PointF RelativePosition { get; set; }
 

@@ -2,13 +2,13 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Which entities are drawn with regard to their layers.</summary>
+/// <summary>Which entities are drawn, depending on their layers.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum VisibilityMode
 {
-    /// <summary>What is shown on screen: layers that are on and thawed.</summary>
+    /// <summary>Entities that are shown on screen: on layers that are on and not frozen.</summary>
     AsScreen = 0,
 
-    /// <summary>What is plotted: as on screen, without the layers that are marked as not plotted.</summary>
+    /// <summary>Entities that are plotted: as on screen, without layers that are not plottable.</summary>
     AsPrint = 1,
 }

@@ -3,24 +3,25 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions;
 
-/// <summary>Writes WebP.</summary>
+/// <summary>Options for WebP images.</summary>
 public class WebPOptions : ImageOptionsBase
 {
-    private const float UsualQuality = 80;
+    private const float DefaultQuality = 80;
 
-    private float _quality = UsualQuality;
+    private float _quality = DefaultQuality;
 
-    /// <summary>Creates options with their defaults.</summary>
+    /// <summary>Creates options with default values.</summary>
     public WebPOptions()
         : base(FileFormat.Webp)
     {
     }
 
-    /// <summary>Gets or sets whether every visible pixel is kept exactly. True by default.</summary>
+    /// <summary>Gets or sets whether compression is lossless for visible pixels. On by default.</summary>
     public bool Lossless { get; set; } = true;
 
-    /// <summary>Gets or sets the quality of lossy compression, 0 to 100; for <see cref="Lossless"/> turned off. 80 by default.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    /// <summary>Gets or sets the quality of lossy compression, 0 to 100; used if <see cref="Lossless"/> is off. 80 by
+    /// default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The value is out of range.</exception>
     public float Quality
     {
         get => _quality;
@@ -35,9 +36,9 @@ public class WebPOptions : ImageOptionsBase
     internal override void VerifyHonoured(OutputKind kind)
     {
         base.VerifyHonoured(kind);
-        if (Lossless && Quality != UsualQuality)
+        if (Lossless && Quality != DefaultQuality)
         {
-            throw NotHonoured(nameof(Quality), "set lossless to False, as every pixel is kept exactly otherwise");
+            throw NotHonoured(nameof(Quality), "set lossless to False, as lossless compression has no quality");
         }
     }
 }

@@ -1,12 +1,13 @@
 namespace Korvan.CAD.Measurement;
 
-/// <summary>Something in a drawing that can be measured.</summary>
+/// <summary>An entity that can be measured.</summary>
 public interface IMeasurableEntity : IDrawingEntity
 {
-    /// <summary>Gives the length of a line or curve, or of the outline of an area, in drawing units; nothing for what has
-    /// no length.</summary>
+    /// <summary>Returns the length of a line or curve, or of the outline of an area, in drawing units;
+    /// <see langword="null"/> for an entity without a length.</summary>
     double? GetLength();
 
-    /// <summary>Gives the area of what is closed, in square drawing units; nothing for what encloses none.</summary>
+    /// <summary>Returns the area of a closed entity, in square drawing units; <see langword="null"/> for an entity that
+    /// encloses none.</summary>
     double? GetArea();
 }

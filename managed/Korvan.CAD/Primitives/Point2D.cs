@@ -3,7 +3,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Primitives;
 
-/// <summary>A point in the plane, in double precision.</summary>
+/// <summary>A point in the plane, with double-precision coordinates.</summary>
 public class Point2D : IEquatable<Point2D>
 {
     /// <summary>Creates the origin.</summary>
@@ -12,24 +12,24 @@ public class Point2D : IEquatable<Point2D>
     }
 
     /// <summary>Creates a point.</summary>
-    /// <param name="x">The abscissa.</param>
-    /// <param name="y">The ordinate.</param>
+    /// <param name="x">The X coordinate.</param>
+    /// <param name="y">The Y coordinate.</param>
     public Point2D(double x, double y)
     {
         X = x;
         Y = y;
     }
 
-    /// <summary>Gets or sets the abscissa.</summary>
+    /// <summary>Gets or sets the X coordinate.</summary>
     public double X { get; set; }
 
-    /// <summary>Gets or sets the ordinate.</summary>
+    /// <summary>Gets or sets the Y coordinate.</summary>
     public double Y { get; set; }
 
-    /// <summary>Gives how far two points lie apart.</summary>
+    /// <summary>Returns the distance between two points.</summary>
     /// <param name="a">One point.</param>
-    /// <param name="b">The other.</param>
-    /// <returns>How far two points lie apart.</returns>
+    /// <param name="b">The other point.</param>
+    /// <returns>The distance.</returns>
     public static double Distance(Point2D a, Point2D b)
     {
         Verify.NotNull(a);
@@ -39,27 +39,27 @@ public class Point2D : IEquatable<Point2D>
         return Math.Sqrt((dx * dx) + (dy * dy));
     }
 
-    /// <summary>Gives how far another point lies away.</summary>
+    /// <summary>Returns the distance to another point.</summary>
     /// <param name="other">The other point.</param>
-    /// <returns>How far another point lies away.</returns>
+    /// <returns>The distance.</returns>
     public double Distance(Point2D other) => Distance(this, other);
 
-    /// <summary>Gives the point between this one and another.</summary>
+    /// <summary>Interpolates linearly between this point and another one.</summary>
     /// <param name="other">The other point.</param>
-    /// <param name="part">How far towards it: 0 is here, 1 is there.</param>
-    /// <returns>The point between this one and another.</returns>
+    /// <param name="part">The fraction of the distance: 0 for this point, 1 for the other one.</param>
+    /// <returns>The interpolated point.</returns>
     public Point2D Between(Point2D other, double part)
     {
         Verify.NotNull(other);
         return new Point2D(X + ((other.X - X) * part), Y + ((other.Y - Y) * part));
     }
 
-    /// <summary>Gives the point in space.</summary>
-    /// <param name="z">The elevation.</param>
-    /// <returns>The point in space.</returns>
+    /// <summary>Returns the point in space with a Z coordinate.</summary>
+    /// <param name="z">The Z coordinate.</param>
+    /// <returns>The point.</returns>
     public Point3D ToPoint3D(double z) => new(X, Y, z);
 
-    /// <summary>Tells whether another point has the same coordinates, in as many dimensions.</summary>
+    /// <summary>Returns whether another point has the same dimension and coordinates.</summary>
     /// <param name="other">The other point.</param>
     /// <returns>Whether another point has the same coordinates.</returns>
     public virtual bool Equals(Point2D? other) =>

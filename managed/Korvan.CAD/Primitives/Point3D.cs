@@ -3,7 +3,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Primitives;
 
-/// <summary>A point in space, in double precision.</summary>
+/// <summary>A point in space, with double-precision coordinates.</summary>
 public class Point3D : Point2D, IEquatable<Point3D>
 {
     /// <summary>Creates the origin.</summary>
@@ -12,19 +12,19 @@ public class Point3D : Point2D, IEquatable<Point3D>
     }
 
     /// <summary>Creates a point.</summary>
-    /// <param name="x">The abscissa.</param>
-    /// <param name="y">The ordinate.</param>
-    /// <param name="z">The elevation.</param>
+    /// <param name="x">The X coordinate.</param>
+    /// <param name="y">The Y coordinate.</param>
+    /// <param name="z">The Z coordinate.</param>
     public Point3D(double x, double y, double z)
         : base(x, y) => Z = z;
 
-    /// <summary>Gets or sets the elevation.</summary>
+    /// <summary>Gets or sets the Z coordinate.</summary>
     public double Z { get; set; }
 
-    /// <summary>Gives how far two points lie apart.</summary>
+    /// <summary>Returns the distance between two points.</summary>
     /// <param name="a">One point.</param>
-    /// <param name="b">The other.</param>
-    /// <returns>How far two points lie apart.</returns>
+    /// <param name="b">The other point.</param>
+    /// <returns>The distance.</returns>
     public static double Distance(Point3D a, Point3D b)
     {
         Verify.NotNull(a);
@@ -35,26 +35,26 @@ public class Point3D : Point2D, IEquatable<Point3D>
         return Math.Sqrt((dx * dx) + (dy * dy) + (dz * dz));
     }
 
-    /// <summary>Gives how far another point lies away.</summary>
+    /// <summary>Returns the distance to another point.</summary>
     /// <param name="other">The other point.</param>
-    /// <returns>How far another point lies away.</returns>
+    /// <returns>The distance.</returns>
     public double Distance(Point3D other) => Distance(this, other);
 
-    /// <summary>Gives the point between this one and another.</summary>
+    /// <summary>Interpolates linearly between this point and another one.</summary>
     /// <param name="other">The other point.</param>
-    /// <param name="part">How far towards it: 0 is here, 1 is there.</param>
-    /// <returns>The point between this one and another.</returns>
+    /// <param name="part">The fraction of the distance: 0 for this point, 1 for the other one.</param>
+    /// <returns>The interpolated point.</returns>
     public Point3D Between(Point3D other, double part)
     {
         Verify.NotNull(other);
         return new Point3D(X + ((other.X - X) * part), Y + ((other.Y - Y) * part), Z + ((other.Z - Z) * part));
     }
 
-    /// <summary>Gives the point above or below in the plane of X and Y.</summary>
-    /// <returns>The point above or below in the plane of X and Y.</returns>
+    /// <summary>Returns the projection of the point to the XY plane.</summary>
+    /// <returns>The projected point.</returns>
     public Point2D ToPoint2D() => new(X, Y);
 
-    /// <summary>Tells whether another point has the same coordinates.</summary>
+    /// <summary>Returns whether another point has the same coordinates.</summary>
     /// <param name="other">The other point.</param>
     /// <returns>Whether another point has the same coordinates.</returns>
     public bool Equals(Point3D? other) => other is not null && X == other.X && Y == other.Y && Z == other.Z;

@@ -5,17 +5,17 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster;
 
-/// <summary>One picture of a file.</summary>
+/// <summary>One page or frame of a file.</summary>
 internal sealed class DecodedFrame : IDisposable
 {
     internal required PixelGrid Pixels { get; init; }
 
-    /// <summary>Pixels an inch; 0 where the file states none.</summary>
+    /// <summary>Gets the pixels per inch; 0 where the file states none.</summary>
     internal double HorizontalResolution { get; init; }
 
     internal double VerticalResolution { get; init; }
 
-    /// <summary>Bits that the file has for a pixel.</summary>
+    /// <summary>Gets the bits per pixel in the file.</summary>
     internal int BitsPerPixel { get; init; } = 24;
 
     internal IColorPalette? Palette { get; init; }
@@ -25,7 +25,7 @@ internal sealed class DecodedFrame : IDisposable
     public void Dispose() => Pixels.Dispose();
 }
 
-/// <summary>What a raster file holds.</summary>
+/// <summary>The content of a raster file.</summary>
 internal sealed class DecodedFile
 {
     internal required FileFormat Format { get; init; }
@@ -37,13 +37,13 @@ internal sealed class DecodedFile
     internal XmpPacketWrapper? Xmp { get; init; }
 }
 
-/// <summary>The bytes of a file, and the name that messages call it by.</summary>
+/// <summary>The bytes of a file, and its name in messages.</summary>
 internal sealed record RasterSource(byte[] Data, string Name, bool Lenient)
 {
-    /// <summary>The colour of pixels that the file does not hold; nothing for that of its format.</summary>
+    /// <summary>Gets the colour of missing pixels; null for the default of the format.</summary>
     internal int? Background { get; init; }
 
-    /// <summary>Pixels to read into, which have the colour of those that may be missing.</summary>
+    /// <summary>Returns pixels to read into, filled with the colour of missing pixels.</summary>
     internal PixelGrid NewGrid(int width, int height)
     {
         var pixels = new PixelGrid(width, height);

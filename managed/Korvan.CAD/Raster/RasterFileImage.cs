@@ -1,6 +1,6 @@
 namespace Korvan.CAD.Raster;
 
-/// <summary>A picture read from a file of any format that has no class of its own.</summary>
+/// <summary>An image of a format that has no class of its own.</summary>
 internal sealed class RasterFileImage : RasterCachedImage
 {
     internal RasterFileImage(DecodedFile file)

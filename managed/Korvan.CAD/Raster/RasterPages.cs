@@ -10,26 +10,27 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster;
 
-/// <summary>Pages that can be had as pixels, one at a time: layouts of a drawing, frames of a picture.</summary>
+/// <summary>Pages that are rendered to pixels one at a time: layouts of a drawing, frames of an image.</summary>
 internal interface IRasterPages
 {
     /// <summary>Gets the names of the pages; a page without one has an empty name.</summary>
     IReadOnlyList<string> Titles { get; }
 
-    /// <summary>Gives the pixels of a page; the caller may change them and disposes them.</summary>
+    /// <summary>Returns the pixels of a page; the caller owns them.</summary>
     RasterPageData Render(int index);
 }
 
-/// <summary>The pixels of a page, with pixels an inch.</summary>
-internal sealed record RasterPageData(PixelGrid Pixels, double HorizontalResolution, double VerticalResolution) : IDisposable
+/// <summary>The pixels of a page, with its resolution in pixels per inch.</summary>
+internal sealed record RasterPageData(
+    PixelGrid Pixels, double HorizontalResolution, double VerticalResolution) : IDisposable
 {
-    /// <summary>What the source says of itself; options may say otherwise.</summary>
+    /// <summary>Gets the metadata of the source; options may override it.</summary>
     internal ExifData? Exif { get; init; }
 
     internal XmpPacketWrapper? Xmp { get; init; }
 
-    /// <summary>The page turned and mirrored; it stands in for this one, which ends.</summary>
-    internal RasterPageData Turned(RotateFlipType type)
+    /// <summary>Returns the page rotated and flipped; this one is disposed.</summary>
+    internal RasterPageData RotatedFlipped(RotateFlipType type)
     {
         if (type == RotateFlipType.RotateNoneFlipNone)
         {
@@ -41,7 +42,7 @@ internal sealed record RasterPageData(PixelGrid Pixels, double HorizontalResolut
             bool swap = ((int)type & 1) != 0;
             return this with
             {
-                Pixels = Turns.Turn(Pixels, type),
+                Pixels = Rotation.RotateFlip(Pixels, type),
                 HorizontalResolution = swap ? VerticalResolution : HorizontalResolution,
                 VerticalResolution = swap ? HorizontalResolution : VerticalResolution,
             };
@@ -51,7 +52,7 @@ internal sealed record RasterPageData(PixelGrid Pixels, double HorizontalResolut
     public void Dispose() => Pixels.Dispose();
 }
 
-/// <summary>The pages that options choose.</summary>
+/// <summary>Selects the pages of options.</summary>
 internal static class PageChoice
 {
     internal static int Single(IRasterPages pages, FileFormat format)
@@ -73,10 +74,11 @@ internal static class PageChoice
         {
             MultiPageMode.Pages => [.. options.Pages],
             MultiPageMode.Titles => [.. options.PageTitles.Select(title => Find(pages, title))],
-            MultiPageMode.Range when (uint)options.FirstPage <= (uint)count && (uint)options.PageCount <= (uint)(count - options.FirstPage) =>
-                [.. Enumerable.Range(options.FirstPage, options.PageCount > 0 ? options.PageCount : count - options.FirstPage)],
+            MultiPageMode.Range when (uint)options.FirstPage <= (uint)count
+                && (uint)options.PageCount <= (uint)(count - options.FirstPage) => Range(options, count),
             MultiPageMode.Range => throw new ImageSaveException(
-                $"There are {count} pages; {options.PageCount} of them from {options.FirstPage} on do not exist, as PageCount and FirstPage ask."),
+                $"There are {count} pages; {options.PageCount} of them from {options.FirstPage} on do not exist, as"
+                    + $" PageCount and FirstPage ask."),
             _ => [.. Enumerable.Range(0, count)],
         };
         foreach (int page in chosen)
@@ -91,7 +93,13 @@ internal static class PageChoice
             : throw new ImageSaveException("The multi_page_options choose no page at all; a file needs one.");
     }
 
-    /// <summary>Renders a page and cuts it to the area of the options.</summary>
+    private static List<int> Range(MultiPageOptions options, int count)
+    {
+        int length = options.PageCount > 0 ? options.PageCount : count - options.FirstPage;
+        return [.. Enumerable.Range(options.FirstPage, length)];
+    }
+
+    /// <summary>Renders a page and crops it to the area of the options.</summary>
     internal static RasterPageData Render(IRasterPages pages, int index, MultiPageOptions? options)
     {
         RasterPageData page = pages.Render(index);

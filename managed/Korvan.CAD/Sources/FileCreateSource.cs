@@ -2,10 +2,10 @@ using System.IO;
 
 namespace Korvan.CAD.Sources;
 
-/// <summary>A file that is created anew; what stood there before is lost.</summary>
+/// <summary>A file that is created; an existing one is overwritten.</summary>
 public class FileCreateSource : FileSource
 {
-    /// <summary>Creates the source; the file is created when it is asked for.</summary>
+    /// <summary>Creates the source; the file is created when the source is opened.</summary>
     /// <param name="filePath">The path of the file.</param>
     public FileCreateSource(string filePath)
         : base(filePath)

@@ -2,10 +2,10 @@ using System.IO;
 
 namespace Korvan.CAD.Sources;
 
-/// <summary>A file that exists, opened for reading.</summary>
+/// <summary>An existing file, opened for reading.</summary>
 public class FileOpenSource : FileSource
 {
-    /// <summary>Creates the source; the file is opened when it is asked for.</summary>
+    /// <summary>Creates the source; the file is opened when the source is opened.</summary>
     /// <param name="filePath">The path of the file.</param>
     public FileOpenSource(string filePath)
         : base(filePath)

@@ -7,7 +7,7 @@ namespace Korvan.CAD.Sources;
 /// <summary>A stream as a source.</summary>
 public class StreamSource : Source
 {
-    /// <summary>Creates a source over a new stream in memory.</summary>
+    /// <summary>Creates a source over a new memory stream.</summary>
     public StreamSource()
         : this(new MemoryStream(), true)
     {

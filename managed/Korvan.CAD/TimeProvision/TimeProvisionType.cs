@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.TimeProvision;
 
-/// <summary>Which clock states when something was done.</summary>
+/// <summary>The clock of a time stamp.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum TimeProvisionType
 {
-    /// <summary>None: no time is stated.</summary>
+    /// <summary>No time stamp.</summary>
     None = 0,
 
-    /// <summary>That of the world.</summary>
+    /// <summary>Coordinated Universal Time (UTC).</summary>
     Utc = 1,
 
-    /// <summary>That of the place where the program runs.</summary>
+    /// <summary>Local time.</summary>
     Local = 2,
 }

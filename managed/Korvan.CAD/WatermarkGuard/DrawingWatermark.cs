@@ -9,13 +9,13 @@ using Korvan.CAD.TimeProvision;
 
 namespace Korvan.CAD.WatermarkGuard;
 
-/// <summary>The mark of a drawing, as extended data of records that every drawing has.</summary>
+/// <summary>The watermark of a drawing, in the extended data of records that every drawing has.</summary>
 internal sealed class DrawingWatermark(CadDrawing drawing) : IWatermarkGuardService
 {
     private const string Application = "KORVAN_WATERMARK";
     private const int BinaryChunk = 1004;
 
-    /// <summary>Extended data hold at most 127 bytes in one tag.</summary>
+    /// <summary>A binary chunk of extended data has at most 127 bytes.</summary>
     private const int ChunkLength = 127;
 
     public WatermarkingStatus Status
@@ -71,7 +71,8 @@ internal sealed class DrawingWatermark(CadDrawing drawing) : IWatermarkGuardServ
         return found;
     }
 
-    private static bool IsOurs(CadXdata data) => data.RegisteredApplicationName.Equals(Application, StringComparison.OrdinalIgnoreCase);
+    private static bool IsOurs(CadXdata data) =>
+        data.RegisteredApplicationName.Equals(Application, StringComparison.OrdinalIgnoreCase);
 
     private static void Put(CadBaseObject host, byte[] seal)
     {
@@ -104,7 +105,7 @@ internal sealed class DrawingWatermark(CadDrawing drawing) : IWatermarkGuardServ
         }
     }
 
-    /// <summary>The records that have a copy: those of the layers, text styles and line types that stand first.</summary>
+    /// <summary>The records with a copy: the first layer, the first text style and the first line type.</summary>
     private List<CadBaseObject> Hosts()
     {
         List<CadBaseObject> hosts = [];
@@ -113,7 +114,8 @@ internal sealed class DrawingWatermark(CadDrawing drawing) : IWatermarkGuardServ
         hosts.AddRange(drawing.LineTypes.Items.Take(1));
         return hosts.Count > 0
             ? hosts
-            : throw new InvalidOperationException("The drawing has neither layers nor styles nor line types that could keep a watermark.");
+            : throw new InvalidOperationException(
+                "The drawing has no layers, text styles or line types that could hold a watermark.");
     }
 
     private List<byte[]?> Copies() => Hosts().ConvertAll(Copy);
@@ -123,7 +125,8 @@ internal sealed class DrawingWatermark(CadDrawing drawing) : IWatermarkGuardServ
         HashSet<string> tried = [];
         foreach (byte[]? copy in Copies())
         {
-            if (copy is not null && tried.Add(Convert.ToHexString(copy)) && WatermarkSeal.Open(copy, password) is { } seal)
+            if (copy is not null && tried.Add(Convert.ToHexString(copy))
+                && WatermarkSeal.Open(copy, password) is { } seal)
             {
                 return seal;
             }

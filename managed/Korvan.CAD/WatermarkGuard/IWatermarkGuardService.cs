@@ -3,42 +3,44 @@ using Korvan.CAD.TimeProvision;
 
 namespace Korvan.CAD.WatermarkGuard;
 
-/// <summary>Hidden marks of a drawing: a text that only a password opens, kept in several places of the drawing, so that
-/// it survives saving, loading and most editing.</summary>
-/// <remarks>The text is encrypted with AES-GCM (NIST SP 800-38D) under a key that PBKDF2 (RFC 8018) makes of the
-/// password. It tells whose drawing it is to who knows the password; who edits the file can take it out.</remarks>
+/// <summary>The invisible watermark of a drawing: a text encrypted with a password. Several copies in the drawing
+/// survive saving, loading and most editing.</summary>
+/// <remarks>The text is encrypted with AES-GCM (NIST SP 800-38D) with a key that PBKDF2 (RFC 8018) derives from the
+/// password. The watermark identifies the owner of the drawing to those who know the password; it can be removed by
+/// editing the file.</remarks>
 public interface IWatermarkGuardService
 {
-    /// <summary>Gets what is seen without the password: whether there is a mark, and whether copies of it are
+    /// <summary>Gets what is known without the password: whether there is a watermark, and whether copies of it are
     /// missing.</summary>
     WatermarkingStatus Status { get; }
 
-    /// <summary>Puts a mark into the drawing, in place of the one that is there.</summary>
+    /// <summary>Embeds a watermark, and replaces an existing one.</summary>
     /// <param name="text">The text, up to 1000 bytes of UTF-8.</param>
     /// <param name="password">The password.</param>
-    /// <param name="time">Which clock states in the mark when this was.</param>
+    /// <param name="time">The clock of the time stamp in the watermark.</param>
     void Embed(string text, string password, TimeProvisionType time);
 
-    /// <summary>Puts a mark without a time into the drawing, in place of the one that is there.</summary>
+    /// <summary>Embeds a watermark without a time stamp, and replaces an existing one.</summary>
     /// <param name="text">The text, up to 1000 bytes of UTF-8.</param>
     /// <param name="password">The password.</param>
     void Embed(string text, string password);
 
-    /// <summary>Tells whether the drawing has a mark of a text under a password.</summary>
+    /// <summary>Checks the watermark against a text and a password.</summary>
     /// <param name="text">The text.</param>
     /// <param name="password">The password.</param>
     WatermarkingStatus Validate(string text, string password);
 
-    /// <summary>Gives the text of the mark; nothing when there is none, or when the password is another.</summary>
+    /// <summary>Returns the text of the watermark; <see langword="null"/> if there is none, or the password is
+    /// wrong.</summary>
     /// <param name="password">The password.</param>
     string? GetText(string password);
 
-    /// <summary>Gives when the mark was put in; nothing when there is none, when it states no time, or when the password
-    /// is another.</summary>
+    /// <summary>Returns the time stamp of the watermark; <see langword="null"/> if there is none, or the password is
+    /// wrong.</summary>
     /// <param name="password">The password.</param>
     DateTime? GetTime(string password);
 
-    /// <summary>Takes the mark out.</summary>
-    /// <returns>Whether there was one.</returns>
+    /// <summary>Removes the watermark.</summary>
+    /// <returns>Whether there was a previous one.</returns>
     bool Remove();
 }

@@ -7,49 +7,52 @@ using Korvan.CAD.TimeProvision;
 
 namespace Korvan.CAD.WatermarkGuard;
 
-/// <summary>A text and a time under a password, as bytes: salt, nonce, tag, and what is encrypted.</summary>
+/// <summary>A text and a time stamp, encrypted with a password: salt, nonce, authentication tag and
+/// ciphertext.</summary>
 internal sealed record WatermarkSeal(string Text, DateTime? Time)
 {
     private const int SaltLength = 16;
     private const int NonceLength = 12;
     private const int TagLength = 16;
-    private const int HeadLength = SaltLength + NonceLength + TagLength;
+    private const int HeaderLength = SaltLength + NonceLength + TagLength;
     private const int TimeLength = 9;
     private const int Iterations = 100_000;
-    private const int MostText = 1000;
+    private const int MaxTextLength = 1000;
 
     internal static byte[] Close(string text, string password, TimeProvisionType time)
     {
-        byte[] letters = Encoding.UTF8.GetBytes(text);
-        if (letters.Length is 0 or > MostText)
+        byte[] encoded = Encoding.UTF8.GetBytes(text);
+        if (encoded.Length is 0 or > MaxTextLength)
         {
             throw new ArgumentException(
-                $"The text of a watermark has 1 to {MostText} bytes of UTF-8, not {letters.Length}.");
+                $"The text of a watermark has 1 to {MaxTextLength} bytes of UTF-8, not {encoded.Length}.");
         }
 
         OpenSsl.Require();
-        byte[] plain = [.. TimeBytes(time), .. letters];
-        byte[] seal = new byte[HeadLength + plain.Length];
+        byte[] plain = [.. TimeBytes(time), .. encoded];
+        byte[] seal = new byte[HeaderLength + plain.Length];
         RandomNumberGenerator.Fill(seal.AsSpan(0, SaltLength + NonceLength));
         using AesGcm cipher = Cipher(seal, password);
-        cipher.Encrypt(Nonce(seal), plain, seal.AsSpan(HeadLength), seal.AsSpan(HeadLength - TagLength, TagLength));
+        cipher.Encrypt(Nonce(seal), plain, seal.AsSpan(HeaderLength), seal.AsSpan(HeaderLength - TagLength, TagLength));
         return seal;
     }
 
-    /// <summary>The content, or nothing when the password is another or the bytes were changed.</summary>
+    /// <summary>Decrypts the content; <see langword="null"/> if the password is wrong or the bytes were
+    /// changed.</summary>
     internal static WatermarkSeal? Open(byte[] seal, string password)
     {
-        if (seal.Length <= HeadLength + TimeLength || seal.Length > HeadLength + TimeLength + MostText)
+        if (seal.Length <= HeaderLength + TimeLength || seal.Length > HeaderLength + TimeLength + MaxTextLength)
         {
             return null;
         }
 
         OpenSsl.Require();
-        byte[] plain = new byte[seal.Length - HeadLength];
+        byte[] plain = new byte[seal.Length - HeaderLength];
         using AesGcm cipher = Cipher(seal, password);
         try
         {
-            cipher.Decrypt(Nonce(seal), seal.AsSpan(HeadLength), seal.AsSpan(HeadLength - TagLength, TagLength), plain);
+            ReadOnlySpan<byte> tag = seal.AsSpan(HeaderLength - TagLength, TagLength);
+            cipher.Decrypt(Nonce(seal), seal.AsSpan(HeaderLength), tag, plain);
         }
         catch (AuthenticationTagMismatchException)
         {
@@ -64,7 +67,8 @@ internal sealed record WatermarkSeal(string Text, DateTime? Time)
     private static AesGcm Cipher(byte[] seal, string password)
     {
         Verify.NotEmpty(password);
-        byte[] key = Rfc2898DeriveBytes.Pbkdf2(password, seal.AsSpan(0, SaltLength), Iterations, HashAlgorithmName.SHA256, 32);
+        byte[] key = Rfc2898DeriveBytes.Pbkdf2(
+            password, seal.AsSpan(0, SaltLength), Iterations, HashAlgorithmName.SHA256, 32);
         return new AesGcm(key, TagLength);
     }
 
@@ -77,7 +81,7 @@ internal sealed record WatermarkSeal(string Text, DateTime? Time)
             TimeProvisionType.None => 0,
             TimeProvisionType.Utc => DateTime.UtcNow.Ticks,
             TimeProvisionType.Local => DateTime.Now.Ticks,
-            _ => throw Verify.OutOfRange(nameof(time), time, "One clock states the time, or none."),
+            _ => throw Verify.OutOfRange(nameof(time), time, "It has to be NONE, UTC or LOCAL."),
         };
         BinaryPrimitives.WriteInt64LittleEndian(bytes.AsSpan(1), ticks);
         return bytes;

@@ -28,10 +28,10 @@ public sealed class CodeWriter
         _indent -= Step;
     }
 
-    /// <summary>A head, its body in braces, and what closes them.</summary>
-    public void Block(string head, Action body, string close = "}")
+    /// <summary>A header, its body in braces, and what closes them.</summary>
+    public void Block(string header, Action body, string close = "}")
     {
-        Line(head);
+        Line(header);
         Line("{");
         Indented(body);
         Line(close);

@@ -9,10 +9,10 @@ namespace Korvan.WrpGen.Emit;
 /// <param name="ClassPrefix">The managed class, but for the element's hash.</param>
 public sealed record GenericHost(string Kind, string ClassPrefix, IReadOnlyList<string> Operations, bool IsConcrete)
 {
-    private static readonly string[] s_interfaceCasts =
+    private static readonly string[] InterfaceCasts =
         ["btp_TypeOf", "btp_CastTo", "btp_CastAs", "btp_IsAssignable"];
 
-    private static readonly string[] s_concreteCasts =
+    private static readonly string[] ConcreteCasts =
         ["btp_TypeOf", "btp_CastTo", "btp_ReInterpretObj", "btp_CastAs", "btp_IsAssignable"];
 
     public static GenericHost Iter { get; } = new("Iter", "SiApiEnumerator", ["MoveNext"], false);
@@ -49,7 +49,7 @@ public sealed record GenericHost(string Kind, string ClassPrefix, IReadOnlyList<
     public static GenericHost IRoList { get; } = new("IRoList", "SiApiCntReadOnlyList",
         ["SqGetItem", "SqGetItemNoCheck", "SqContains", "IndexBy", "CountOf"], false);
 
-    public IEnumerable<string> Delegates => Operations.Concat(IsConcrete ? s_concreteCasts : s_interfaceCasts);
+    public IEnumerable<string> Delegates => Operations.Concat(IsConcrete ? ConcreteCasts : InterfaceCasts);
 
     /// <summary>The hosts that the declared kinds of one element need, constituents included.</summary>
     public static IReadOnlyList<GenericHost> For(ElementUse element) =>

@@ -5,10 +5,10 @@ using Korvan.WrpGen.Model;
 namespace Korvan.WrpGen.Emit;
 
 /// <summary>The overloads that one Python name of a type stands for, in the order of tries.</summary>
-public sealed record MethodGroup(string PythonName, bool IsStatic, IReadOnlyList<MethodModel> Legs)
+public sealed record MethodGroup(string PythonName, bool IsStatic, IReadOnlyList<MethodModel> Overloads)
 {
     /// <summary>
-    /// The groups of a type. A name that the type declares itself runs on into the legs of its bases;
+    /// The groups of a type. A name that the type declares itself runs on into the overloads of its bases;
     /// an interface has the names of its base interfaces too.
     /// </summary>
     public static IReadOnlyList<MethodGroup> Of(TypeModel type)
@@ -22,9 +22,9 @@ public sealed record MethodGroup(string PythonName, bool IsStatic, IReadOnlyList
         return
         [
             .. from name in names.Distinct()
-               let legs = LegsOf(type, bases, name)
+               let overloads = OverloadsOf(type, bases, name)
                from isStatic in new[] { false, true }
-               let form = legs.Where(leg => leg.IsStatic == isStatic).ToArray()
+               let form = overloads.Where(overload => overload.IsStatic == isStatic).ToArray()
                where form.Length > 0
                select new MethodGroup(name, isStatic, form),
         ];
@@ -49,14 +49,15 @@ public sealed record MethodGroup(string PythonName, bool IsStatic, IReadOnlyList
         return bases;
     }
 
-    private static List<MethodModel> LegsOf(TypeModel type, IEnumerable<TypeModel> bases, string name)
+    private static List<MethodModel> OverloadsOf(TypeModel type, IEnumerable<TypeModel> bases, string name)
     {
-        var legs = new List<MethodModel>();
+        var overloads = new List<MethodModel>();
         foreach (TypeModel level in bases.Prepend(type))
         {
             IEnumerable<MethodModel> own = level.OrderedMethods.Where(method => method.PythonName == name);
-            legs.AddRange(own.Where(method => !legs.Any(leg => leg.HidesSameSignature(method))).ToArray());
+            overloads.AddRange(
+                own.Where(method => !overloads.Any(overload => overload.HidesSameSignature(method))).ToArray());
         }
-        return legs;
+        return overloads;
     }
 }

@@ -9,8 +9,8 @@ internal static class TypeReferences
 {
     public static IEnumerable<TypeModel> Of(TypeModel type)
     {
-        IEnumerable<MethodModel> legs =
-            MethodGroup.Of(type).SelectMany(group => group.Legs).Concat(type.Constructors);
+        IEnumerable<MethodModel> overloads =
+            MethodGroup.Of(type).SelectMany(group => group.Overloads).Concat(type.Constructors);
         IEnumerable<PropertyModel> properties =
             MethodGroup.PropertiesOf(type).Concat(type.StaticProperties);
         IEnumerable<TypeModel?> named =
@@ -18,8 +18,10 @@ internal static class TypeReferences
             type.Base,
             type.Outer,
             .. type.Interfaces.Select(use => use.Interface),
-            .. legs.SelectMany(leg => leg.Parameters.Select(p => p.Value).Append(leg.Result)).SelectMany(Of),
-            .. legs.Select(leg => leg.Owner),
+            .. overloads
+                .SelectMany(overload => overload.Parameters.Select(p => p.Value).Append(overload.Result))
+                .SelectMany(Of),
+            .. overloads.Select(overload => overload.Owner),
             .. properties.SelectMany(property => Of(property.Value)),
             .. properties.Select(property => property.Owner),
             .. type.ProtocolElement is { } element ? Of(element) : [],

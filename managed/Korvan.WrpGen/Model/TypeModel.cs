@@ -42,7 +42,7 @@ public sealed class TypeModel
 
     public required string Module { get; init; }
 
-    /// <summary>The name in its module: nested types stand behind their outer one.</summary>
+    /// <summary>The name in its module: a nested type follows its outer one.</summary>
     public required string QualifiedName { get; init; }
 
     public TypeModel? Outer { get; set; }

@@ -30,7 +30,8 @@ public sealed record ValueUse(ValueKind Kind, string ManagedName, string CSharpN
         or ValueKind.DrawingColor or ValueKind.DrawingRectangle
         or (>= ValueKind.Bool and <= ValueKind.Char);
 
-    /// <summary>Comes to Python, but can't be given to managed code: the sibling that has the type offers no way.</summary>
+    /// <summary>Comes to Python, but can't be given to managed code: the sibling module of the type offers no
+    /// way.</summary>
     public bool IsResultOnly => Kind == ValueKind.DrawingRectangle || (Element?.IsResultOnly ?? false);
 
     /// <summary>A closed generic collection, an array or a generic iterator.</summary>

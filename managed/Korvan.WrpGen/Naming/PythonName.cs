@@ -9,7 +9,7 @@ namespace Korvan.WrpGen.Naming;
 internal static class PythonName
 {
     // Names that were fixed before the rule was, and stay.
-    private static readonly Dictionary<string, string> s_fixed = new()
+    private static readonly Dictionary<string, string> FixedNames = new()
     {
         ["AsMatrix2x2Array"] = "as_matrix_2x2_array",
         ["AsMatrix3x3Array"] = "as_matrix_3x3_array",
@@ -17,7 +17,7 @@ internal static class PythonName
         ["Rgb16Bpp555"] = "rgb_16_bpp_555",
     };
 
-    private static readonly HashSet<string> s_keywords =
+    private static readonly HashSet<string> Keywords =
     [
         "False", "None", "True", "and", "as", "assert", "async", "await", "break", "class", "continue", "def",
         "del", "elif", "else", "except", "finally", "for", "from", "global", "if", "import", "in", "is", "lambda",
@@ -27,7 +27,7 @@ internal static class PythonName
     /// <summary>Properties, methods, parameters and static properties.</summary>
     public static string Lower(string managed)
     {
-        if (s_fixed.TryGetValue(managed, out string? name))
+        if (FixedNames.TryGetValue(managed, out string? name))
         {
             return name;
         }
@@ -53,7 +53,7 @@ internal static class PythonName
     /// <summary>A namespace component as a module name.</summary>
     public static string Module(string component) => component.ToLowerInvariant();
 
-    public static bool IsKeyword(string name) => s_keywords.Contains(name);
+    public static bool IsKeyword(string name) => Keywords.Contains(name);
 
     private static bool StartsWord(string name, int at)
     {

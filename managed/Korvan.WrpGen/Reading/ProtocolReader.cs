@@ -11,7 +11,7 @@ internal static class ProtocolReader
 {
     private const string Generic = "System.Collections.Generic.";
 
-    private static readonly (string Interface, CollectionProtocol Protocol)[] s_typed =
+    private static readonly (string Interface, CollectionProtocol Protocol)[] TypedProtocols =
     [
         (Generic + "IList`1", CollectionProtocol.List),
         (Generic + "ICollection`1", CollectionProtocol.Collection),
@@ -20,7 +20,7 @@ internal static class ProtocolReader
         (Generic + "IEnumerable`1", CollectionProtocol.Iterable),
     ];
 
-    private static readonly (string Interface, CollectionProtocol Protocol)[] s_untyped =
+    private static readonly (string Interface, CollectionProtocol Protocol)[] UntypedProtocols =
     [
         ("System.Collections.IList", CollectionProtocol.List),
         ("System.Collections.ICollection", CollectionProtocol.Collection),
@@ -28,23 +28,23 @@ internal static class ProtocolReader
     ];
 
     // What the engine gives a type of the protocol, so that a managed member of that name is not needed.
-    private static readonly HashSet<string> s_served =
+    private static readonly HashSet<string> ServedNames =
     [
         "append", "insert", "extend", "remove", "pop", "clear", "index", "count", "sort", "reverse", "copy",
         "contains", "length",
     ];
 
     // The framework's ICollection changes nothing, so a class over it keeps its own ways to.
-    private static readonly HashSet<string> s_servedLooking = ["count", "copy", "contains", "length"];
+    private static readonly HashSet<string> ServedUnlessDeclared = ["count", "copy", "contains", "length"];
 
-    private static readonly HashSet<string> s_plumbing =
+    private static readonly HashSet<string> PlumbingNames =
     [
         "GetEnumerator", "CopyTo", "IsSynchronized", "SyncRoot", "IsReadOnly", "IsFixedSize",
     ];
 
     public static void Read(Type type, TypeModel model, ValueReader values)
     {
-        foreach ((string name, CollectionProtocol protocol) in s_typed)
+        foreach ((string name, CollectionProtocol protocol) in TypedProtocols)
         {
             foreach (Type one in type.GetInterfaces().Where(i => i.IsConstructedGenericType))
             {
@@ -57,7 +57,7 @@ internal static class ProtocolReader
                 }
             }
         }
-        model.Protocol = s_untyped.FirstOrDefault(pair => type.HasInterface(pair.Interface)).Protocol;
+        model.Protocol = UntypedProtocols.FirstOrDefault(pair => type.HasInterface(pair.Interface)).Protocol;
         model.WalkedItem = WalkedItem(type, values);
     }
 
@@ -74,9 +74,11 @@ internal static class ProtocolReader
     /// <summary>Whether the protocol stands in for a managed member.</summary>
     public static bool Serves(TypeModel model, string managedName, string pythonName) =>
         model.Protocol is not (CollectionProtocol.None or CollectionProtocol.Indexer) &&
-        (s_plumbing.Contains(managedName) ||
+        (PlumbingNames.Contains(managedName) ||
          (model.Protocol != CollectionProtocol.Iterable && ServedBy(model).Contains(pythonName)));
 
     private static HashSet<string> ServedBy(TypeModel model) =>
-        model.Protocol == CollectionProtocol.Collection && model.ProtocolElement is null ? s_servedLooking : s_served;
+        model.Protocol == CollectionProtocol.Collection && model.ProtocolElement is null
+            ? ServedUnlessDeclared
+            : ServedNames;
 }

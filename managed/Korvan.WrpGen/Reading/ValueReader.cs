@@ -8,7 +8,7 @@ namespace Korvan.WrpGen.Reading;
 /// <summary>Finds the kind of a managed type, or the reason why none carries it.</summary>
 internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
 {
-    private static readonly Dictionary<string, ValueKind> s_known = new()
+    private static readonly Dictionary<string, ValueKind> KnownKinds = new()
     {
         ["System.Void"] = ValueKind.Void,
         ["System.Boolean"] = ValueKind.Bool,
@@ -45,7 +45,7 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         ["System.Collections.ReadOnlyCollectionBase"] = ValueKind.AnyReadOnlyCollectionBase,
     };
 
-    private static readonly Dictionary<string, ValueKind> s_generic = new()
+    private static readonly Dictionary<string, ValueKind> GenericKinds = new()
     {
         ["System.Nullable`1"] = ValueKind.Nullable,
         ["System.Collections.Generic.List`1"] = ValueKind.List,
@@ -74,7 +74,7 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
         {
             return ReadGeneric(type, isOptional, out reason);
         }
-        if (s_known.TryGetValue(type.FullName ?? "", out ValueKind kind))
+        if (KnownKinds.TryGetValue(type.FullName ?? "", out ValueKind kind))
         {
             return Use(kind, type) with { IsOptional = isOptional };
         }
@@ -123,7 +123,7 @@ internal sealed class ValueReader(IReadOnlyDictionary<string, TypeModel> bound)
     private ValueUse? ReadGeneric(Type type, bool isOptional, out string reason)
     {
         reason = "";
-        if (!s_generic.TryGetValue(type.GetGenericTypeDefinition().FullName!, out ValueKind kind))
+        if (!GenericKinds.TryGetValue(type.GetGenericTypeDefinition().FullName!, out ValueKind kind))
         {
             reason = $"{type.ManagedName()} is not bound";
             return null;

@@ -9,7 +9,7 @@ using Korvan.WrpGen.Naming;
 
 namespace Korvan.WrpGen.Reading;
 
-/// <summary>The library's XML documentation, with references worded as Python names.</summary>
+/// <summary>The library's XML documentation, with references written as Python names.</summary>
 internal sealed class XmlDocs
 {
     private readonly Dictionary<string, XElement> _members = [];
@@ -17,7 +17,8 @@ internal sealed class XmlDocs
     public static XmlDocs Load(IEnumerable<string> paths)
     {
         var docs = new XmlDocs();
-        foreach (XElement member in paths.Where(File.Exists).SelectMany(path => XDocument.Load(path).Descendants("member")))
+        IEnumerable<XDocument> documents = paths.Where(File.Exists).Select(path => XDocument.Load(path));
+        foreach (XElement member in documents.SelectMany(document => document.Descendants("member")))
         {
             docs._members[member.Attribute("name")!.Value] = member;
         }

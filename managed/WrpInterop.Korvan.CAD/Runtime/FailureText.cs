@@ -15,7 +15,7 @@ internal static class FailureText
     private const string NoValue = "Value cannot be null.";
 
     // How the names of exported setters begin.
-    private static readonly string[] s_setters = ["set_", "setsa_"];
+    private static readonly string[] SetterPrefixes = ["set_", "setsa_"];
 
     public static string Of(Exception exception)
     {
@@ -55,7 +55,7 @@ internal static class FailureText
     {
         var trace = new StackTrace(exception, fNeedFileInfo: false);
         string name = trace.GetFrame(trace.FrameCount - 1)?.GetMethod()?.Name ?? "";
-        string? prefix = Array.Find(s_setters, one => name.StartsWith(one, StringComparison.Ordinal));
+        string? prefix = Array.Find(SetterPrefixes, one => name.StartsWith(one, StringComparison.Ordinal));
         return prefix is null ? null : PythonName.Lower(name[prefix.Length..]);
     }
 

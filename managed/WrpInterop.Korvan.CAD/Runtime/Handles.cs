@@ -22,16 +22,16 @@ public static unsafe class Handles
     private const int ChunkSize = 1024;
 
     // All handles are made and freed under the interpreter lock: plain counting is exact.
-    private static long s_live;
+    private static long _live;
 
     // The references live in arrays that stay for good; those not in use are on a stack, the last one freed on top.
-    private static List<object?[]>? s_chunks;
-    private static nint* s_spare;
-    private static nint* s_spareTop;
-    private static nint* s_spareEnd;
+    private static List<object?[]>? _chunks;
+    private static nint* _spare;
+    private static nint* _spareTop;
+    private static nint* _spareEnd;
 
     /// <summary>How many handles are in Python's hands.</summary>
-    public static long LiveCount => s_live;
+    public static long LiveCount => _live;
 
     public static nint New(object? target)
     {
@@ -39,14 +39,14 @@ public static unsafe class Handles
         {
             return 0;
         }
-        s_live++;
+        _live++;
         return NewOf(target);
     }
 
     /// <summary>A handle of a copy, so that no two Python objects share one struct.</summary>
     public static nint NewBox<T>(T value) where T : struct
     {
-        s_live++;
+        _live++;
         return NewOf(value);
     }
 
@@ -56,13 +56,13 @@ public static unsafe class Handles
         {
             return;
         }
-        s_live--;
+        _live--;
         Unsafe.AsRef<object?>((void*)(handle - Mark)) = null;
-        if (s_spareTop == s_spareEnd)
+        if (_spareTop == _spareEnd)
         {
             EnlargeSpare();
         }
-        *s_spareTop++ = handle;
+        *_spareTop++ = handle;
     }
 
     /// <summary>The object behind a handle; null for none.</summary>
@@ -118,11 +118,11 @@ public static unsafe class Handles
 
     private static nint NewOf(object target)
     {
-        if (s_spareTop == s_spare)
+        if (_spareTop == _spare)
         {
             AddChunk();
         }
-        nint handle = *--s_spareTop;
+        nint handle = *--_spareTop;
         Unsafe.AsRef<object?>((void*)(handle - Mark)) = target;
         return handle;
     }
@@ -130,26 +130,26 @@ public static unsafe class Handles
     private static void AddChunk()
     {
         object?[] chunk = GC.AllocateArray<object?>(ChunkSize, pinned: true);
-        (s_chunks ??= []).Add(chunk);
-        while (s_spareEnd - s_spareTop < ChunkSize)
+        (_chunks ??= []).Add(chunk);
+        while (_spareEnd - _spareTop < ChunkSize)
         {
             EnlargeSpare();
         }
         var first = (nint)Unsafe.AsPointer(ref chunk[0]);
         for (int at = ChunkSize - 1; at >= 0; at--)
         {
-            *s_spareTop++ = (first + at * sizeof(nint)) | Mark;
+            *_spareTop++ = (first + at * sizeof(nint)) | Mark;
         }
     }
 
     // A handle may be freed in another assembly than the one that made it, so the stack may outgrow the chunks.
     private static void EnlargeSpare()
     {
-        nint count = (nint)(s_spareTop - s_spare);
-        nint capacity = nint.Max(ChunkSize, 2 * (nint)(s_spareEnd - s_spare));
-        s_spare = (nint*)NativeMemory.Realloc(s_spare, (nuint)(capacity * sizeof(nint)));
-        s_spareTop = s_spare + count;
-        s_spareEnd = s_spare + capacity;
+        nint count = (nint)(_spareTop - _spare);
+        nint capacity = nint.Max(ChunkSize, 2 * (nint)(_spareEnd - _spare));
+        _spare = (nint*)NativeMemory.Realloc(_spare, (nuint)(capacity * sizeof(nint)));
+        _spareTop = _spare + count;
+        _spareEnd = _spare + capacity;
     }
 
     /// <summary>Stands where there is no instance to call a member on.</summary>

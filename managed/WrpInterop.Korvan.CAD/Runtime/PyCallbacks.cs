@@ -18,22 +18,22 @@ internal static unsafe class PyHost
 /// <summary>The None object and reference counts.</summary>
 internal static unsafe class PyObjects
 {
-    private static delegate* unmanaged<nint> s_none;
-    private static delegate* unmanaged<nint, void> s_incRef;
-    private static delegate* unmanaged<nint, void> s_decRef;
+    private static delegate* unmanaged<nint> _none;
+    private static delegate* unmanaged<nint, void> _incRef;
+    private static delegate* unmanaged<nint, void> _decRef;
 
     internal static void SetTable(void** table)
     {
-        s_none = (delegate* unmanaged<nint>)table[0];
-        s_incRef = (delegate* unmanaged<nint, void>)table[1];
-        s_decRef = (delegate* unmanaged<nint, void>)table[2];
+        _none = (delegate* unmanaged<nint>)table[0];
+        _incRef = (delegate* unmanaged<nint, void>)table[1];
+        _decRef = (delegate* unmanaged<nint, void>)table[2];
     }
 
-    internal static nint None() => s_none();
+    internal static nint None() => _none();
 
-    internal static void IncRef(nint value) => s_incRef(value);
+    internal static void IncRef(nint value) => _incRef(value);
 
-    internal static void DecRef(nint value) => s_decRef(value);
+    internal static void DecRef(nint value) => _decRef(value);
 }
 
 /// <summary>The nine tables of the static callbacks.</summary>

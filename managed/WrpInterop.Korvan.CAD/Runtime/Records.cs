@@ -149,7 +149,8 @@ public static unsafe class Status
     public const int End = 1;
     public const int OutOfRange = 2;
 
-    /// <summary>The status of an item that was read: one that Python has no type for leaves its error pending.</summary>
+    /// <summary>The status of an item that was read: one that Python has no type for leaves its error
+    /// pending.</summary>
     public static int OfItem(int status, nint* result) =>
         status == Item && *result == 0 ? Failed : status;
 }

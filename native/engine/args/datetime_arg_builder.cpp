@@ -34,7 +34,7 @@ bool DateTimeArgBuilder::to_ticks_non_kind(long& out) const {
     const long days = y * 365 + y / 4 - y / 100 + y / 400 + table[month - 1] + day - 1;
     out = days * ticks::per_day + hour * ticks::per_hour + minute * ticks::per_minute +
           second_ticks(second) + microsecond * ticks::per_microsecond;
-    return out <= ticks::largest_datetime;
+    return out <= ticks::max_datetime;
 }
 
 void DateTimeArgBuilder::add_shift(long& value) const {
@@ -52,7 +52,7 @@ bool DateTimeArgBuilder::to_ticks(long& out) const {
 
 bool DateTimeArgBuilder::to_utc_ticks(long offset, long& out) const {
     long local = 0;
-    if (!to_ticks_non_kind(local) || local < offset || offset < local - ticks::largest_datetime) {
+    if (!to_ticks_non_kind(local) || local < offset || offset < local - ticks::max_datetime) {
         return false;
     }
     out = local - offset;

@@ -10,7 +10,7 @@ namespace {
 // The largest mantissa as its last two digits and, divided by 100, its words low to high.
 constexpr std::uint32_t est_max_value[] = {35, 0x28F5C28F, 0xF5C28F5C, 0x028F5C28};
 constexpr unsigned int billion = 1000000000;
-constexpr int most_digits = 29;
+constexpr int max_digits = 29;
 
 } // namespace
 
@@ -66,7 +66,7 @@ void DecimalArgOutBuilder::accept_decimal_mantissa(unsigned long group, int digi
         multiplier /= 10;
     }
     digit_count = count;
-    if (count == most_digits && exponent < 0 && is_overflow_estimated(group)) {
+    if (count == max_digits && exponent < 0 && is_overflow_estimated(group)) {
         // 29 digits would pass 96 bits, but a digit of the fraction can be given up.
         exponent += 1;
         round_last(group, 10);

@@ -7,8 +7,8 @@ constexpr long microseconds_per_second = 1000000;
 constexpr long microseconds_per_day = 86400000000;
 constexpr long seconds_per_day = 86400;
 // The largest duration is 922337203685.477580 seconds and five ticks or so beyond.
-constexpr long largest_seconds = 922337203685;
-constexpr long largest_microseconds = 477580;
+constexpr long max_seconds = 922337203685;
+constexpr long max_microseconds = 477580;
 } // namespace
 
 void TimeSpanArgBuilder::normalize() {
@@ -19,13 +19,13 @@ void TimeSpanArgBuilder::normalize() {
 }
 
 bool TimeSpanArgBuilder::is_overflow(long seconds, long microseconds) {
-    if (seconds < -largest_seconds || seconds > largest_seconds) {
+    if (seconds < -max_seconds || seconds > max_seconds) {
         return true;
     }
-    if (seconds > -largest_seconds && seconds < largest_seconds) {
+    if (seconds > -max_seconds && seconds < max_seconds) {
         return false;
     }
-    return microseconds < -largest_microseconds || microseconds > largest_microseconds;
+    return microseconds < -max_microseconds || microseconds > max_microseconds;
 }
 
 bool TimeSpanArgBuilder::to_ticks(long& out) {

@@ -9,7 +9,7 @@
 namespace {
 
 constexpr int max_arity = 24;
-constexpr int max_legs = 48;
+constexpr int max_overloads = 48;
 
 // What stands behind an O& unit: the converter, its destination and its binding.
 struct BoundCell {
@@ -89,8 +89,8 @@ PyObject* text_of(PyObject* error) {
     return text;
 }
 
-// The texts of the legs that did not fit, one each, as the argument of a TypeError. Takes over the
-// errors.
+// The texts of the overloads that did not fit, one each, as the argument of a TypeError. Takes over
+// the errors.
 void raise_misfits(PyObject* const* errors, int count) {
     const Ref texts = Ref::steal(PyList_New(0));
     bool done = static_cast<bool>(texts);
@@ -113,11 +113,11 @@ PyObject* take_error_value() {
     return error;
 }
 
-// The error of a leg that had been passed over quietly.
-PyObject* word_misfit(const Leg& leg, PyObject* self, CallArguments arguments) {
+// The error of an overload that had been passed over quietly.
+PyObject* misfit_error(const Overload& overload, PyObject* self, CallArguments arguments) {
     arguments.is_quiet = false;
     PyObject* never_made = nullptr;
-    leg.call(leg, self, arguments, &never_made);
+    overload.call(overload, self, arguments, &never_made);
     return take_error_value();
 }
 
@@ -130,32 +130,32 @@ CallArguments arguments_of(PyObject* args, PyObject* kwargs) {
 
 } // namespace
 
-LegOutcome try_legs(const Method& method, PyObject* self, CallArguments& arguments,
-                    PyObject** result) {
-    PyObject* misfits[max_legs] = {};
+OverloadOutcome try_overloads(const Method& method, PyObject* self, CallArguments& arguments,
+                              PyObject** result) {
+    PyObject* misfits[max_overloads] = {};
     arguments.is_quiet = true;
     for (int i = 0; i < method.count; ++i) {
-        const LegOutcome outcome = method.legs[i].call(method.legs[i], self, arguments, result);
-        if (outcome == LegOutcome::failed || outcome == LegOutcome::done) {
+        const OverloadOutcome outcome =
+            method.overloads[i].call(method.overloads[i], self, arguments, result);
+        if (outcome == OverloadOutcome::failed || outcome == OverloadOutcome::done) {
             for (int kept = 0; kept < i; ++kept) {
                 Py_XDECREF(misfits[kept]);
             }
             return outcome;
         }
-        misfits[i] = outcome == LegOutcome::misfit ? take_error_value() : nullptr;
+        misfits[i] = outcome == OverloadOutcome::misfit ? take_error_value() : nullptr;
     }
     for (int i = 0; i < method.count; ++i) {
         if (misfits[i] == nullptr) {
-            misfits[i] = word_misfit(method.legs[i], self, arguments);
+            misfits[i] = misfit_error(method.overloads[i], self, arguments);
         }
     }
     raise_misfits(misfits, method.count);
-    return LegOutcome::failed;
+    return OverloadOutcome::failed;
 }
 
-// By the interpreter's own parser, which has the words for whatever does not fit and knows
-// keywords.
-bool parse_arguments(const Leg& leg, const CellConverter* converters, void* const* cells,
+// By the interpreter's own parser, which knows keywords and has the messages for what does not fit.
+bool parse_arguments(const Overload& overload, const CellConverter* converters, void* const* cells,
                      const CallArguments& arguments) {
     const Ref positional = positional_tuple(arguments);
     Ref keyword_values;
@@ -166,15 +166,15 @@ bool parse_arguments(const Leg& leg, const CellConverter* converters, void* cons
     char* unit = format;
     char* keywords[max_arity + 1];
     BoundCell bound[max_arity];
-    for (int i = 0; i < leg.arity; ++i) {
+    for (int i = 0; i < overload.arity; ++i) {
         *unit++ = 'O';
         *unit++ = '&';
-        keywords[i] = const_cast<char*>(leg.parameters[i].keyword);
-        bound[i] = {converters[i], cells[i], leg.parameters[i].type};
+        keywords[i] = const_cast<char*>(overload.parameters[i].keyword);
+        bound[i] = {converters[i], cells[i], overload.parameters[i].type};
     }
     *unit = '\0';
-    keywords[leg.arity] = nullptr;
-    return parsers[leg.arity](positional.get(), keyword_values.get(), format, keywords, bound);
+    keywords[overload.arity] = nullptr;
+    return parsers[overload.arity](positional.get(), keyword_values.get(), format, keywords, bound);
 }
 
 PyObject* call_mixed(const Method& method, PyObject* self, PyObject* args, PyObject* kwargs) {
@@ -185,9 +185,9 @@ int call_constructors(const Method& constructors, PyObject* self, PyObject* args
                       PyObject* kwargs) {
     PyObject* none = nullptr;
     CallArguments arguments = arguments_of(args, kwargs);
-    const LegOutcome outcome =
+    const OverloadOutcome outcome =
         constructors.count == 1
-            ? constructors.legs[0].call(constructors.legs[0], self, arguments, &none)
-            : try_legs(constructors, self, arguments, &none);
-    return outcome == LegOutcome::done ? 0 : -1;
+            ? constructors.overloads[0].call(constructors.overloads[0], self, arguments, &none)
+            : try_overloads(constructors, self, arguments, &none);
+    return outcome == OverloadOutcome::done ? 0 : -1;
 }

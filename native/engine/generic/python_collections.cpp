@@ -86,7 +86,7 @@ int list_set(PyObject* list, int index, PyObject* value) {
     if (value == nullptr) {
         return KORVAN_CB_ERROR;
     }
-    // The list takes the reference over, also when it refuses the value.
+    // The list takes the reference over, also when it rejects the value.
     return PyList_SetItem(list, index, value) == 0 ? KORVAN_CB_OK : failed_at_index();
 }
 

@@ -34,7 +34,7 @@ struct Bytes {
 
 // Reads into the free part: the bytes read, 0 at the end, -1 with an error.
 Py_ssize_t fill(PyObject* self, Bytes& bytes) {
-    const Py_ssize_t room = std::min(bytes.size() - bytes.total, largest_transfer);
+    const Py_ssize_t room = std::min(bytes.size() - bytes.total, max_transfer);
     const int count =
         call_stream<int>(self, StreamSlot::read, static_cast<void*>(bytes.data() + bytes.total),
                          static_cast<int>(room));
@@ -92,8 +92,8 @@ PyObject* fn_stream_read_bytes_impl(PyObject* self, Py_ssize_t size) {
 }
 
 PyObject* fn_stream_read_line_impl(PyObject* self, Py_ssize_t limit) {
-    const Py_ssize_t most = limit < 0 ? unlimited : limit;
-    Bytes bytes(std::min(first_size, most));
+    const Py_ssize_t max_size = limit < 0 ? unlimited : limit;
+    Bytes bytes(std::min(first_size, max_size));
     while (bytes.object) {
         const Py_ssize_t before = bytes.total;
         const Py_ssize_t count = fill(self, bytes);
@@ -110,10 +110,10 @@ PyObject* fn_stream_read_line_impl(PyObject* self, Py_ssize_t limit) {
             }
             return PyErr_Occurred() != nullptr ? nullptr : bytes.finish(length);
         }
-        if (count == 0 || bytes.total == most) {
+        if (count == 0 || bytes.total == max_size) {
             return bytes.finish(bytes.total);
         }
-        if (bytes.is_full() && !grow(bytes, most)) {
+        if (bytes.is_full() && !grow(bytes, max_size)) {
             return nullptr;
         }
     }

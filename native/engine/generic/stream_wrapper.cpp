@@ -141,7 +141,7 @@ PyObject* stream_read(PyObject* self, PyObject* args) {
     if (!read_size(args, "read", &size) || !check_open(self)) {
         return nullptr;
     }
-    if (size >= 0 && size <= largest_transfer) {
+    if (size >= 0 && size <= max_transfer) {
         return read_once(self, size);
     }
     return fn_stream_read_bytes_impl(self, size < 0 ? -1 : size);
@@ -215,17 +215,17 @@ struct BufferView {
     ~BufferView() { PyBuffer_Release(&view); }
 };
 
-struct BufferWords {
+struct BufferMessages {
     const char* not_a_buffer;
     const char* not_contiguous;
 };
-constexpr BufferWords write_words = {"write argument must be bytes-like object, not '%s'",
-                                     "write argument must be contiguous buffer, not '%s'"};
-constexpr BufferWords readinto_words = {
+constexpr BufferMessages write_words = {"write argument must be bytes-like object, not '%s'",
+                                        "write argument must be contiguous buffer, not '%s'"};
+constexpr BufferMessages readinto_words = {
     "readinto argument must be read-write bytes-like object, not '%s'",
     "readinto argument must be read-write contiguous buffer, not '%s'"};
 
-bool acquire(PyObject* object, int flags, const BufferWords& words, BufferView& buffer) {
+bool acquire(PyObject* object, int flags, const BufferMessages& words, BufferView& buffer) {
     const char* given = object == Py_None ? "None" : type_name_of(object);
     if (PyObject_GetBuffer(object, &buffer.view, flags) != 0) {
         PyErr_Clear();
@@ -247,7 +247,7 @@ PyObject* stream_readinto(PyObject* self, PyObject* object) {
     auto* const data = static_cast<char*>(buffer.view.buf);
     Py_ssize_t total = 0;
     while (total < buffer.view.len) {
-        const Py_ssize_t wanted = std::min(buffer.view.len - total, largest_transfer);
+        const Py_ssize_t wanted = std::min(buffer.view.len - total, max_transfer);
         const int count = call_stream<int>(self, StreamSlot::read, static_cast<void*>(data + total),
                                            static_cast<int>(wanted));
         if (PyErr_Occurred() != nullptr) {
@@ -269,7 +269,7 @@ PyObject* stream_write(PyObject* self, PyObject* object) {
     auto* const data = static_cast<char*>(buffer.view.buf);
     Py_ssize_t total = 0;
     while (total < buffer.view.len) {
-        const Py_ssize_t count = std::min(buffer.view.len - total, largest_transfer);
+        const Py_ssize_t count = std::min(buffer.view.len - total, max_transfer);
         call_stream<void>(self, StreamSlot::write, static_cast<void*>(data + total),
                           static_cast<int>(count));
         if (PyErr_Occurred() != nullptr) {

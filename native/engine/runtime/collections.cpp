@@ -72,6 +72,9 @@ int fn_clbk_ucol_object_length(PyObject* object) { return int32_length(PyObject_
 
 int fn_clbk_ucol_remove_at(PyObject* object, int index) {
     const Ref position = Ref::steal(PyLong_FromLong(index));
+    if (!position) {
+        return KORVAN_CB_ERROR;
+    }
     const Ref removed =
         Ref::steal(PyObject_CallMethodOneArg(object, PyWrpIdList_Pop, position.get()));
     return removed ? KORVAN_CB_OK : index_status();
@@ -100,7 +103,7 @@ PyObject** fn_clbk_ucol_create_fast_list(int count, PyObject** out) {
 
 PyObject** fn_clbk_ucol_create_fast_longlist(long count, PyObject** out) {
     *out = PyList_New(count);
-    return reinterpret_cast<PyListObject*>(*out)->ob_item;
+    return *out != nullptr ? reinterpret_cast<PyListObject*>(*out)->ob_item : nullptr;
 }
 
 int fn_clbk_olist_get_item(PyObject* list, int index, VariantArg* out) {

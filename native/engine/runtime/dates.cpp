@@ -36,7 +36,7 @@ PyObject* new_delta(const TimeSpanArgBuilder& span) {
 
 UtcOffset offset_failed() { return {.failed = true}; }
 
-// The clock fields and the offset of an aware value; words of a missing zone otherwise.
+// The clock fields and the offset of an aware value; an error for a missing zone otherwise.
 int clock_and_offset(PyObject* object, void (*copy)(PyObject*, DateTimeArgBuilder&),
                      const char* what, long* out) {
     const UtcOffset offset = get_utc_offset(object);
@@ -207,17 +207,20 @@ PyObject* create_py_datetime_from_zone(const DateTimeArgBuilder& builder, PyObje
     const Ref arguments =
         Ref::steal(Py_BuildValue("iiiiiiiO", builder.year, builder.month, builder.day, builder.hour,
                                  builder.minute, builder.second, builder.microsecond, zone));
+    if (!arguments) {
+        return nullptr;
+    }
     const Ref type = Ref::steal(PyShImport_ImportType("datetime", PyWrpIdTypeName_DateTime));
-    return arguments && type ? PyObject_Call(type.get(), arguments.get(), nullptr) : nullptr;
+    return type ? PyObject_Call(type.get(), arguments.get(), nullptr) : nullptr;
 }
 
 PyObject* create_py_datetime_from_tz_ticks(const DateTimeArgBuilder& builder, long offset) {
     const Ref delta = Ref::steal(new_delta(TimeSpanArgBuilder(offset)));
-    const Ref type = Ref::steal(PyShImport_ImportType("datetime", PyWrpIdTypeName_TimeZone));
-    if (!delta || !type) {
+    if (!delta) {
         return nullptr;
     }
-    const Ref zone = Ref::steal(PyObject_CallOneArg(type.get(), delta.get()));
+    const Ref type = Ref::steal(PyShImport_ImportType("datetime", PyWrpIdTypeName_TimeZone));
+    const Ref zone = Ref::steal(type ? PyObject_CallOneArg(type.get(), delta.get()) : nullptr);
     return zone ? create_py_datetime_from_zone(builder, zone.get()) : nullptr;
 }
 

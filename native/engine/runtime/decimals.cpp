@@ -10,11 +10,11 @@
 
 namespace {
 
-constexpr long most_digits = 29;
-constexpr long largest_scale = 28;
+constexpr long max_digits = 29;
+constexpr long max_scale = 28;
 constexpr int group_digits = 9;
 // Far below anything with a digit above zero, and far enough above the end of 64 bits to add to.
-constexpr long smallest_exponent = std::numeric_limits<long>::min() / 2;
+constexpr long min_exponent = std::numeric_limits<long>::min() / 2;
 
 int raise_too_large() {
     PyErr_SetString(PyExc_OverflowError, "value too large for .Net decimal");
@@ -36,21 +36,21 @@ void feed_digits(DecimalArgOutBuilder& builder, PyObject* digits, long count) {
 void accept_digits(DecimalArgOutBuilder& builder, PyObject* digits, long n, int sign,
                    long exponent) {
     int stop_digit = -1;
-    if (exponent < -largest_scale) {
-        if (n < -largest_scale - exponent) { // every digit lies below the last place
-            builder.begin_accept_decimal(sign, -largest_scale, -1);
+    if (exponent < -max_scale) {
+        if (n < -max_scale - exponent) { // every digit lies below the last place
+            builder.begin_accept_decimal(sign, -max_scale, -1);
             return;
         }
-        n += exponent + largest_scale;
-        exponent = -largest_scale;
+        n += exponent + max_scale;
+        exponent = -max_scale;
         stop_digit = static_cast<int>(n + 1); // one digit more, to round by
     }
-    if (n <= most_digits) {
+    if (n <= max_digits) {
         builder.begin_accept_decimal(sign, exponent, stop_digit);
         feed_digits(builder, digits, std::max<long>(stop_digit, n));
     } else {
-        builder.begin_accept_decimal(sign, exponent + n - most_digits, most_digits + 1);
-        feed_digits(builder, digits, most_digits + 1);
+        builder.begin_accept_decimal(sign, exponent + n - max_digits, max_digits + 1);
+        feed_digits(builder, digits, max_digits + 1);
     }
 }
 
@@ -96,7 +96,7 @@ int fn_conv_py_decimal_tuple_to_clr_decimal(PyObject* tuple, unsigned int* out) 
     if (exponent == -1 && PyErr_Occurred() != nullptr) {
         return 0;
     }
-    exponent = std::max(exponent, smallest_exponent);
+    exponent = std::max(exponent, min_exponent);
     const Ref sign_object = Ref::steal(PyObject_GetAttr(tuple, PyWrpIdDecimal_Sign));
     const int sign = sign_object ? static_cast<int>(PyLong_AsLong(sign_object.get())) : 0;
     Ref digits = Ref::steal(sign_object && PyErr_Occurred() == nullptr
@@ -106,7 +106,7 @@ int fn_conv_py_decimal_tuple_to_clr_decimal(PyObject* tuple, unsigned int* out) 
     if (n < 0) {
         return 0;
     }
-    if (most_digits - n < exponent && n > 1) {
+    if (max_digits - n < exponent && n > 1) {
         digits.release(); // stays unreleased on this refusal, as the contract of the family has it
         return raise_too_large();
     }

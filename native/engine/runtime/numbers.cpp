@@ -19,7 +19,7 @@ int PyShLong_Check(PyObject* object) {
 
 namespace {
 
-// Whether `object` is an integer; the refusal is worded here.
+// Whether `object` is an integer; the error is raised here.
 bool is_integer(PyObject* object) {
     const int answer = PyShLong_Check(object);
     if (answer == 0) {

@@ -75,6 +75,9 @@ int ask_if_open(PyObject* stream, PyObject* question) {
 Ref seek(PyObject* stream, long offset, int whence) {
     const Ref offset_object = Ref::steal(PyLong_FromLong(offset));
     const Ref whence_object = Ref::steal(PyLong_FromLong(whence));
+    if (!offset_object || !whence_object) {
+        return {};
+    }
     return Ref::steal(PyObject_CallMethodObjArgs(stream, PyWrpIdRawIo_Seek, offset_object.get(),
                                                  whence_object.get(), nullptr));
 }
@@ -152,7 +155,8 @@ long fn_clbk_rawio_seek(PyObject* stream, long offset, int whence) {
 
 int fn_clbk_rawio_truncate(PyObject* stream, long size) {
     const Ref wanted = Ref::steal(PyLong_FromLong(size));
-    if (!Ref::steal(PyObject_CallMethodOneArg(stream, PyWrpIdRawIo_Truncate, wanted.get()))) {
+    if (!wanted ||
+        !Ref::steal(PyObject_CallMethodOneArg(stream, PyWrpIdRawIo_Truncate, wanted.get()))) {
         return -1;
     }
     // The truncation did happen, whatever becomes of the position.

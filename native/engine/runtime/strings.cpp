@@ -57,7 +57,7 @@ PyObject* decode_text(const char16_t* units, Py_ssize_t count) {
     return text;
 }
 
-// A str as UTF-16 with a byte order mark in front, or null with an error in the words of `char`.
+// A str as UTF-16 with a byte order mark in front, or null with the error of a `char`.
 PyObject* encode_for_char(PyObject* object) {
     if (!PyUnicode_Check(object)) {
         PyErr_Format(PyExc_TypeError, "can't build Char from '%s'", type_name_of(object));
@@ -80,10 +80,10 @@ PyObject* encode_for_char(PyObject* object) {
 
 // Names of layers, styles and line types come again and again: the Python strings of the last
 // short ones are kept. Each row has room for one.
-constexpr int most_cached_units = 16;
+constexpr int max_cached_units = 16;
 constexpr int cache_bits = 7;
 struct CachedText {
-    char16_t units[most_cached_units];
+    char16_t units[max_cached_units];
     int length;
     PyObject* text; // owned
 };
@@ -163,7 +163,7 @@ PyObject* fn_conv_clr_string_to_py_string_value(const char* data, long length) {
 }
 
 PyObject* fn_conv_clr_string_to_py_string(const char* data, int length) {
-    if (length < 1 || length > most_cached_units) {
+    if (length < 1 || length > max_cached_units) {
         return fn_conv_clr_string_to_py_string_value(data, length);
     }
     CachedText& row = cached_texts[cache_row(data, length)];

@@ -30,7 +30,7 @@ const ImportedTest imported_tests[] = {
     {"uuid", &PyWrpIdTypeName_Uuid, KORVAN_VAR_UUID},
 };
 
-// -1: none of them; -2: the error of an import is pending. Strings and wrappers, the usual
+// -1: none of them; -2: the error of an import is pending. Strings and wrappers, the common
 // values, are none of these types and cost no import.
 int kind_of_imported(PyObject* object) {
     if (PyUnicode_CheckExact(object) || fn_is_this_module_clr_object(object)) {

@@ -16,13 +16,13 @@ namespace {
 
 // Wrappers come and go by the million and are all of one size: the memory of the last ones that
 // went is kept in a chain through their handles.
-constexpr int most_spare = 256;
+constexpr int max_spare = 256;
 PyClrObject* spare_wrappers = nullptr;
 int spare_count = 0;
 
 void release_memory(PyObject* self) {
     const PyTypeObject* type = Py_TYPE(self);
-    if (spare_count == most_spare || type->tp_basicsize != sizeof(PyClrObject)) {
+    if (spare_count == max_spare || type->tp_basicsize != sizeof(PyClrObject)) {
         type->tp_free(self);
         return;
     }
@@ -197,7 +197,7 @@ int fn_conv_py_obj_to_clr_refobj_not_null_handle(PyObject* object, void** handle
 }
 
 int fn_conv_py_obj_to_clr_gen_not_null_handle(PyObject* object, VariantArg* out) {
-    // This module's own types need no look into their dictionary.
+    // This module's own types need no dictionary lookup.
     if (!fn_is_this_module_clr_instance(object, &out->kind) &&
         !(is_static_type_of(object) && fn_is_instance_has_host_markattr(object, &out->kind))) {
         return 0;

@@ -1,4 +1,4 @@
-#include "pydrawing/color.h"
+#include "color.h"
 
 #include "runtime/failures.h"
 
@@ -14,7 +14,7 @@ struct KnownColor {
 };
 constexpr KnownColor known_colors[] = {
 #define KNOWN_COLOR(name, argb) {name, argb},
-#include "pydrawing/known_colors.def"
+#include "known_colors.def"
 #undef KNOWN_COLOR
 };
 
@@ -33,7 +33,7 @@ const char* known_name(const ShlColorObject& color) {
 
 // ---- construction ----------------------------------------------------------------------------
 
-// An integer within bounds, which the words of the error name.
+// An integer within bounds, which the error names.
 bool read_integer(PyObject* object, long long least, long long greatest, const char* range,
                   std::uint32_t* out) {
     if (!PyLong_Check(object)) {
@@ -147,7 +147,7 @@ PyObject* color_new(PyTypeObject*, PyObject* args, PyObject* kwargs) {
     return color;
 }
 
-// ---- what a colour tells ---------------------------------------------------------------------
+// ---- properties ------------------------------------------------------------------------------
 
 template <int Shift> PyObject* part_getter(PyObject* self, void*) {
     return PyLong_FromUnsignedLong((color_of(self).argb >> Shift) & 0xFF);

@@ -1,8 +1,8 @@
 // korvan.pydrawing: colours and rectangles as plain Python values, shared by the family.
+#include "color.h"
 #include "module/capsules.h"
 #include "module/version_attributes.h"
-#include "pydrawing/color.h"
-#include "pydrawing/rectangle.h"
+#include "rectangle.h"
 #include "runtime/identifiers.h"
 
 // Each table: parsing converter, wrapper.

@@ -1,4 +1,4 @@
-#include "pydrawing/rectangle.h"
+#include "rectangle.h"
 
 #include <structmember.h>
 

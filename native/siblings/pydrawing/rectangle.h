@@ -2,7 +2,7 @@
 #ifndef KORVAN_PYDRAWING_RECTANGLE_H
 #define KORVAN_PYDRAWING_RECTANGLE_H
 
-#include "pydrawing/value_box.h"
+#include "value_box.h"
 
 extern PyTypeObject rectangle_type;
 

@@ -19,13 +19,13 @@ CastResult* as_result(PyObject* object) { return reinterpret_cast<CastResult*>(o
 
 // A loop over casts makes and drops one a step: the memory of the last ones is kept, in a chain
 // through their values.
-constexpr int most_spare = 16;
+constexpr int max_spare = 16;
 CastResult* spare_results = nullptr;
 int spare_count = 0;
 
 void result_dealloc(PyObject* self) {
     Py_XDECREF(as_result(self)->value);
-    if (spare_count == most_spare) {
+    if (spare_count == max_spare) {
         PyObject_Free(self);
         return;
     }

@@ -4,7 +4,7 @@
 // handle is wrapped, through an interop assembly of its own.
 #include "module/capsules.h"
 #include "module/version_attributes.h"
-#include "pyreflection/reflection.h"
+#include "reflection.h"
 #include "runtime/failures.h"
 #include "runtime/identifiers.h"
 #include "runtime/markers.h"

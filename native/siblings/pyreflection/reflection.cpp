@@ -1,4 +1,4 @@
-#include "pyreflection/reflection.h"
+#include "reflection.h"
 
 #include "host/exchange_host.h"
 #include "host/host_environment.h"

@@ -66,7 +66,7 @@ TEST(Dates, EveryDayOfTheCalendarComesBack) {
             }
         }
     }
-    EXPECT_EQ(expected - 1, ticks::largest_datetime);
+    EXPECT_EQ(expected - 1, ticks::max_datetime);
 }
 
 TEST(Dates, RefuseWhatIsNoDate) {

@@ -58,6 +58,13 @@ TEST(ListSlots, TellStatusAndConsumeTheirValue) {
     EXPECT_EQ(fn_clbk_ucol_clear(list.get()), 0);
     EXPECT_EQ(fn_clbk_ucol_list_length(list.get()), 0);
 
+    const Ref raising = run("class Bad:\n    def __eq__(self, other): raise OSError('eq')\n"
+                            "result = [Bad()]");
+    EXPECT_EQ(fn_clbk_olist_contains(raising.get(), number(1)), -1);
+    EXPECT_EQ(take_error(), "OSError: eq") << "not the same as an item that is not there";
+    EXPECT_EQ(fn_clbk_olist_index_of(raising.get(), number(1)), -2);
+    EXPECT_EQ(take_error(), "OSError: eq");
+
     PyObject* made = nullptr;
     PyObject** items = fn_clbk_ucol_create_fast_list(2, &made);
     fn_clbk_olist_set_fast_item(items, 0, number(1));

@@ -58,7 +58,7 @@ TEST(ArgumentCounts, AreWordedByTheSideThatWasMissed) {
     const struct {
         long given;
         const char* name;
-        long least, most;
+        long min, max;
         const char* words;
     } rows[] = {
         {0, "pop", 1, 1, "TypeError: pop() takes exactly 1 argument (0 given)"},
@@ -66,7 +66,7 @@ TEST(ArgumentCounts, AreWordedByTheSideThatWasMissed) {
         {1, nullptr, 2, 3, "TypeError: function takes at least 2 arguments (1 given)"},
     };
     for (const auto& row : rows) {
-        EXPECT_TRUE(fn_check_args_count_out_of_range(row.given, row.name, row.least, row.most));
+        EXPECT_TRUE(fn_check_args_count_out_of_range(row.given, row.name, row.min, row.max));
         EXPECT_EQ(take_error(), row.words);
     }
 }

@@ -13,9 +13,9 @@ namespace Korvan.WrpGen.Tests;
 /// <summary>The probe library, read once for all tests.</summary>
 internal static class ProbeModel
 {
-    private static readonly Lazy<BindingModel> s_model = new(Read);
+    private static readonly Lazy<BindingModel> LazyModel = new(Read);
 
-    public static BindingModel Model => s_model.Value;
+    public static BindingModel Model => LazyModel.Value;
 
     public static string AssemblyPath => typeof(Probe.Echo).Assembly.Location;
 

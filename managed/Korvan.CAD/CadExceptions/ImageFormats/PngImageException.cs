@@ -2,19 +2,19 @@ using System;
 
 namespace Korvan.CAD.CadExceptions.ImageFormats;
 
-/// <summary>A PNG breaks a rule of its format, or a request does not fit it.</summary>
+/// <summary>A PNG image violates its format, or an operation is not valid for it.</summary>
 public class PngImageException : ImageException
 {
     /// <summary>Creates the exception with a message.</summary>
-    /// <param name="message">What failed, where, and what would be right.</param>
+    /// <param name="message">The message: what failed, where, and how to correct it.</param>
     public PngImageException(string message)
         : base(message)
     {
     }
 
-    /// <summary>Creates the exception with a message and the failure behind it.</summary>
-    /// <param name="message">What failed, where, and what would be right.</param>
-    /// <param name="innerException">The failure that led here.</param>
+    /// <summary>Creates the exception with a message and its cause.</summary>
+    /// <param name="message">The message: what failed, where, and how to correct it.</param>
+    /// <param name="innerException">The exception that caused this one.</param>
     public PngImageException(string message, Exception? innerException)
         : base(message, innerException)
     {

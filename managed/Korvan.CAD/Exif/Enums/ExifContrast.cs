@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>The contrast that the camera applied.</summary>
+/// <summary>Contrast processing of the camera.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifContrast
 {

@@ -2,13 +2,13 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>Whether the picture was processed specially.</summary>
+/// <summary>Whether an image was processed specially.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifCustomRendered
 {
-    /// <summary>Normally.</summary>
+    /// <summary>Normal processing.</summary>
     NormalProcess = 0,
 
-    /// <summary>Specially.</summary>
+    /// <summary>Custom processing.</summary>
     CustomProcess = 1,
 }

@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>Who chose the exposure.</summary>
+/// <summary>Exposure mode.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifExposureMode
 {
-    /// <summary>The camera.</summary>
+    /// <summary>Automatic.</summary>
     Auto = 0,
 
-    /// <summary>The photographer.</summary>
+    /// <summary>Manual.</summary>
     Manual = 1,
 
-    /// <summary>The camera, in a row of different exposures.</summary>
+    /// <summary>Automatic, as one of a bracketed series.</summary>
     AutoBracket = 2,
 }

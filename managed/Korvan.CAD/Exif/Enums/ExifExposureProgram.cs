@@ -2,34 +2,34 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>The program that chose the exposure.</summary>
+/// <summary>Exposure program of the camera.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifExposureProgram
 {
     /// <summary>Not stated.</summary>
     NotDefined = 0,
 
-    /// <summary>The photographer.</summary>
+    /// <summary>Manual.</summary>
     Manual = 1,
 
-    /// <summary>The normal program.</summary>
+    /// <summary>Normal program.</summary>
     Auto = 2,
 
-    /// <summary>The aperture was given.</summary>
+    /// <summary>Aperture priority.</summary>
     AperturePriority = 3,
 
-    /// <summary>The time was given.</summary>
+    /// <summary>Shutter priority.</summary>
     ShutterPriority = 4,
 
-    /// <summary>For depth of field.</summary>
+    /// <summary>Creative program, biased toward depth of field.</summary>
     Creative = 5,
 
-    /// <summary>For short times.</summary>
+    /// <summary>Action program, biased toward fast shutter speed.</summary>
     Action = 6,
 
-    /// <summary>For portraits, the background blurred.</summary>
+    /// <summary>Portrait mode, with the background out of focus.</summary>
     Portrait = 7,
 
-    /// <summary>For landscapes, the background sharp.</summary>
+    /// <summary>Landscape mode, with the background in focus.</summary>
     Landscape = 8,
 }

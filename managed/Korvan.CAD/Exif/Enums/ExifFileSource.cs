@@ -2,19 +2,19 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>Where the picture came from.</summary>
+/// <summary>Source of an image.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifFileSource
 {
-    /// <summary>Elsewhere.</summary>
+    /// <summary>Another source.</summary>
     Others = 0,
 
-    /// <summary>A scanner for film.</summary>
+    /// <summary>A film (transmission) scanner.</summary>
     FilmScanner = 1,
 
-    /// <summary>A scanner for prints.</summary>
+    /// <summary>A print (reflection) scanner.</summary>
     ReflectionPrintScanner = 2,
 
-    /// <summary>A camera.</summary>
+    /// <summary>A digital camera.</summary>
     DigitalStillCamera = 3,
 }

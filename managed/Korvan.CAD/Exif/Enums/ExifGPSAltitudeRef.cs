@@ -2,13 +2,13 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>What a height is measured from.</summary>
+/// <summary>Reference of an altitude.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifGPSAltitudeRef
 {
-    /// <summary>Above the sea.</summary>
+    /// <summary>Above sea level.</summary>
     AboveSeaLevel = 0,
 
-    /// <summary>Below the sea.</summary>
+    /// <summary>Below sea level.</summary>
     BelowSeaLevel = 1,
 }

@@ -2,22 +2,22 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>The gain of the sensor.</summary>
+/// <summary>Gain control of the camera.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifGainControl
 {
     /// <summary>None.</summary>
     None = 0,
 
-    /// <summary>A little more.</summary>
+    /// <summary>Low gain up.</summary>
     LowGainUp = 1,
 
-    /// <summary>Much more.</summary>
+    /// <summary>High gain up.</summary>
     HighGainUp = 2,
 
-    /// <summary>A little less.</summary>
+    /// <summary>Low gain down.</summary>
     LowGainDown = 3,
 
-    /// <summary>Much less.</summary>
+    /// <summary>High gain down.</summary>
     HighGainDown = 4,
 }

@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>The light.</summary>
+/// <summary>Light source.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifLightSource
 {
@@ -12,10 +12,10 @@ public enum ExifLightSource
     /// <summary>Daylight.</summary>
     Daylight = 1,
 
-    /// <summary>Fluorescent lamps.</summary>
+    /// <summary>Fluorescent light.</summary>
     Fluorescent = 2,
 
-    /// <summary>Incandescent lamps.</summary>
+    /// <summary>Tungsten (incandescent) light.</summary>
     Tungsten = 3,
 
     /// <summary>Flash.</summary>
@@ -24,22 +24,22 @@ public enum ExifLightSource
     /// <summary>Fine weather.</summary>
     FineWeather = 9,
 
-    /// <summary>Clouds.</summary>
+    /// <summary>Cloudy weather.</summary>
     CloudyWeather = 10,
 
     /// <summary>Shade.</summary>
     Shade = 11,
 
-    /// <summary>Lamps like daylight.</summary>
+    /// <summary>Daylight fluorescent light (5700 to 7100 K).</summary>
     DaylightFluorescent = 12,
 
-    /// <summary>Lamps, day white.</summary>
+    /// <summary>Day white fluorescent light (4600 to 5500 K).</summary>
     DayWhiteFluorescent = 13,
 
-    /// <summary>Lamps, cool white.</summary>
+    /// <summary>Cool white fluorescent light (3800 to 4500 K).</summary>
     CoolWhiteFluorescent = 14,
 
-    /// <summary>Lamps, white.</summary>
+    /// <summary>White fluorescent light (3250 to 3800 K).</summary>
     WhiteFluorescent = 15,
 
     /// <summary>Standard light A.</summary>
@@ -63,9 +63,9 @@ public enum ExifLightSource
     /// <summary>D50.</summary>
     D50 = 23,
 
-    /// <summary>Studio lamps.</summary>
+    /// <summary>ISO studio tungsten light.</summary>
     IsoStudioTungsten = 24,
 
-    /// <summary>Another.</summary>
+    /// <summary>Another light source.</summary>
     OtherLightSource = 255,
 }

@@ -2,31 +2,31 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>How the light was measured.</summary>
+/// <summary>Metering mode of the camera.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifMeteringMode
 {
     /// <summary>Not known.</summary>
     Unknown = 0,
 
-    /// <summary>The mean of all.</summary>
+    /// <summary>Average of the whole frame.</summary>
     Average = 1,
 
-    /// <summary>The mean, weighted to the middle.</summary>
+    /// <summary>Centre-weighted average.</summary>
     CenterWeightedAverage = 2,
 
-    /// <summary>A spot.</summary>
+    /// <summary>Spot.</summary>
     Spot = 3,
 
-    /// <summary>Several spots.</summary>
+    /// <summary>Multi-spot.</summary>
     MultiSpot = 4,
 
-    /// <summary>A pattern.</summary>
+    /// <summary>Pattern (multi-segment).</summary>
     MultiSegment = 5,
 
-    /// <summary>A part.</summary>
+    /// <summary>Partial: a part of the frame.</summary>
     Partial = 6,
 
-    /// <summary>Otherwise.</summary>
+    /// <summary>Another mode.</summary>
     Other = 255,
 }

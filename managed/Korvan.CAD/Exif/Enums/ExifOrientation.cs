@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>Where the first row and column belong.</summary>
+/// <summary>Position of row 0 and column 0 in the displayed image.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifOrientation
 {

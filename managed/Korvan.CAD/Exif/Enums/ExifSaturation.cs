@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>The saturation that the camera applied.</summary>
+/// <summary>Saturation processing of the camera.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifSaturation
 {
     /// <summary>Normal.</summary>
     Normal = 0,
 
-    /// <summary>Low.</summary>
+    /// <summary>Low saturation.</summary>
     Low = 1,
 
-    /// <summary>High.</summary>
+    /// <summary>High saturation.</summary>
     High = 2,
 }

@@ -2,19 +2,19 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>The kind of scene.</summary>
+/// <summary>Type of the scene.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifSceneCaptureType
 {
-    /// <summary>Any.</summary>
+    /// <summary>Standard.</summary>
     Standard = 0,
 
-    /// <summary>A landscape.</summary>
+    /// <summary>Landscape.</summary>
     Landscape = 1,
 
-    /// <summary>A portrait.</summary>
+    /// <summary>Portrait.</summary>
     Portrait = 2,
 
-    /// <summary>At night.</summary>
+    /// <summary>Night scene.</summary>
     NightScene = 3,
 }

@@ -2,28 +2,28 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>The kind of sensor.</summary>
+/// <summary>Type of the image sensor.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifSensingMethod
 {
     /// <summary>Not stated.</summary>
     NotDefined = 1,
 
-    /// <summary>One chip.</summary>
+    /// <summary>One-chip colour area sensor.</summary>
     OneChipColorArea = 2,
 
-    /// <summary>Two chips.</summary>
+    /// <summary>Two-chip colour area sensor.</summary>
     TwoChipColorArea = 3,
 
-    /// <summary>Three chips.</summary>
+    /// <summary>Three-chip colour area sensor.</summary>
     ThreeChipColorArea = 4,
 
-    /// <summary>One colour after the other, by areas.</summary>
+    /// <summary>Colour-sequential area sensor.</summary>
     ColorSequentialArea = 5,
 
-    /// <summary>Three lines.</summary>
+    /// <summary>Trilinear sensor.</summary>
     Trilinear = 7,
 
-    /// <summary>One colour after the other, by lines.</summary>
+    /// <summary>Colour-sequential linear sensor.</summary>
     ColorSequentialLinear = 8,
 }

@@ -2,19 +2,19 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>How far the subject was.</summary>
+/// <summary>Distance of the subject.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifSubjectDistanceRange
 {
     /// <summary>Not known.</summary>
     Unknown = 0,
 
-    /// <summary>Near the lens.</summary>
+    /// <summary>Macro: very close to the lens.</summary>
     Macro = 1,
 
-    /// <summary>Near.</summary>
+    /// <summary>Close view.</summary>
     CloseView = 2,
 
-    /// <summary>Far.</summary>
+    /// <summary>Distant view.</summary>
     DistantView = 3,
 }

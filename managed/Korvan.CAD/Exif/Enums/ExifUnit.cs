@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>What resolutions count.</summary>
+/// <summary>Unit of resolutions.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifUnit
 {
-    /// <summary>Nothing.</summary>
+    /// <summary>No unit.</summary>
     None = 1,
 
-    /// <summary>Pixels in an inch.</summary>
+    /// <summary>Pixels per inch.</summary>
     Inch = 2,
 
-    /// <summary>Pixels in a centimetre.</summary>
+    /// <summary>Pixels per centimetre.</summary>
     Cm = 3,
 }

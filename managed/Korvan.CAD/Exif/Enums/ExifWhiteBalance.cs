@@ -2,13 +2,13 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>Who chose the white balance.</summary>
+/// <summary>White balance mode.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifWhiteBalance
 {
-    /// <summary>The camera.</summary>
+    /// <summary>Automatic.</summary>
     Auto = 0,
 
-    /// <summary>The photographer.</summary>
+    /// <summary>Manual.</summary>
     Manual = 1,
 }

@@ -2,13 +2,13 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Exif.Enums;
 
-/// <summary>Where the samples of colour lie among those of lightness.</summary>
+/// <summary>Position of chroma samples relative to luma samples.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExifYCbCrPositioning
 {
-    /// <summary>In the middle of them.</summary>
+    /// <summary>Centred between the luma samples.</summary>
     Centered = 1,
 
-    /// <summary>On the first of them.</summary>
+    /// <summary>On the first luma sample (co-sited).</summary>
     CoSited = 2,
 }

@@ -2,7 +2,7 @@ using Korvan.CAD.Raster;
 
 namespace Korvan.CAD.FileFormats.Bitmap;
 
-/// <summary>A picture that was read from a Windows bitmap.</summary>
+/// <summary>An image that was read from a Windows bitmap.</summary>
 public class BitmapImage : RasterCachedImage
 {
     internal BitmapImage(DecodedFile file)

@@ -2,31 +2,31 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Bmp;
 
-/// <summary>How the pixels of a bitmap are stored.</summary>
+/// <summary>Compression of the pixels of a bitmap.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum BitmapCompression
 {
-    /// <summary>Plain.</summary>
+    /// <summary>Uncompressed.</summary>
     Rgb = 0,
 
-    /// <summary>Run lengths of bytes, with a palette of up to 256 colours.</summary>
+    /// <summary>Run-length encoding of 8-bit palette indices.</summary>
     Rle8 = 1,
 
-    /// <summary>Run lengths of half bytes, with a palette of up to 16 colours.</summary>
+    /// <summary>Run-length encoding of 4-bit palette indices.</summary>
     Rle4 = 2,
 
-    /// <summary>Plain; masks say where red, green and blue lie.</summary>
+    /// <summary>Uncompressed, with bit masks of red, green and blue.</summary>
     Bitfields = 3,
 
-    /// <summary>A whole JPEG in the place of pixels, meant for printers.</summary>
+    /// <summary>A JPEG file instead of pixels, for printers.</summary>
     Jpeg = 4,
 
-    /// <summary>A whole PNG in the place of pixels, meant for printers.</summary>
+    /// <summary>A PNG file instead of pixels, for printers.</summary>
     Png = 5,
 
-    /// <summary>Plain; masks say where red, green, blue and opacity lie.</summary>
+    /// <summary>Uncompressed, with bit masks of red, green, blue and alpha.</summary>
     AlphaBitfields = 6,
 
-    /// <summary>Texture blocks of four by four pixels; the number is the characters of the tag.</summary>
+    /// <summary>Texture blocks of 4 × 4 pixels; the value is a four-character code.</summary>
     Dxt1 = 827611204,
 }

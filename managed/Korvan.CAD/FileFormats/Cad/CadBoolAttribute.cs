@@ -1,6 +1,6 @@
 namespace Korvan.CAD.FileFormats.Cad;
 
-/// <summary>States that a property is a truth value, 0 or 1.</summary>
+/// <summary>States that a property is a boolean, 0 or 1.</summary>
 public sealed class CadBoolAttribute : CadPropertyAttribute
 {
     /// <summary>Creates the statement.</summary>

@@ -25,12 +25,12 @@ public class CadCodeValue
 
     /// <summary>Gives the value as a number.</summary>
     /// <returns>The value as a number.</returns>
-    /// <exception cref="FormatException">The text is no number.</exception>
+    /// <exception cref="FormatException">The text is not a number.</exception>
     public double GetDoubleValue() => double.Parse(Value, NumberStyles.Float, CultureInfo.InvariantCulture);
 
-    /// <summary>Gives the value as a whole number.</summary>
-    /// <returns>The value as a whole number.</returns>
-    /// <exception cref="FormatException">The text is no whole number.</exception>
+    /// <summary>Gives the value as an integer.</summary>
+    /// <returns>The value as an integer.</returns>
+    /// <exception cref="FormatException">The text is not an integer.</exception>
     public int GetIntValue() => int.Parse(Value, NumberStyles.Integer, CultureInfo.InvariantCulture);
 
     /// <inheritdoc/>

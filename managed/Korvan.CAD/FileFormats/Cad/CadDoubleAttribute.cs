@@ -1,6 +1,6 @@
 namespace Korvan.CAD.FileFormats.Cad;
 
-/// <summary>States that a property is a number with a fraction.</summary>
+/// <summary>States that a property is a floating-point number.</summary>
 public sealed class CadDoubleAttribute : CadPropertyAttribute
 {
     /// <summary>Creates the statement.</summary>

@@ -72,9 +72,9 @@ internal sealed class CadDrawing
     internal bool PaperSpaceInFile { get; set; }
 
     /// <summary>Gets the headers of the symbol tables by the names of the tables.</summary>
-    internal Dictionary<string, CadTableHead> TableHeads { get; } = [];
+    internal Dictionary<string, CadTableHeader> TableHeaders { get; } = [];
 
-    /// <summary>Gets sections that nobody interprets, in the order of the file.</summary>
+    /// <summary>Gets sections that the library does not interpret, in the order of the file.</summary>
     internal List<RawSection> RawSections { get; } = [];
 
     /// <summary>Gets or sets the folder in which files are looked for that the drawing refers to; null for

@@ -11,6 +11,7 @@ using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Meshes;
@@ -20,7 +21,7 @@ using Korvan.CAD.WatermarkGuard;
 namespace Korvan.CAD.FileFormats.Cad;
 
 /// <summary>A drawing. Its lists are live: what is added, removed or changed is what is drawn and saved.</summary>
-public partial class CadImage : Image, IVectorImage
+public partial class CadImage : Image, IDrawingContent
 {
     private readonly CadDrawing _drawing;
 
@@ -177,7 +178,7 @@ public partial class CadImage : Image, IVectorImage
         {
             return
             [
-                .. DrawingMeshes.Read(Drawing, null).Instances()
+                .. DrawingMeshes.Read(Drawing, null, new MeshRequest()).Instances()
                     .Select(static faces => new DrawingEntity3D(faces.Node, faces.Mesh, faces.World)),
             ];
         }
@@ -194,27 +195,6 @@ public partial class CadImage : Image, IVectorImage
     private protected override void OnDefaultUnitTypeChanged(UnitType value) => _drawing.DefaultUnitType = value;
 
     /// <inheritdoc/>
-    internal override bool SupportsExport(ImageOptionsBase options)
-    {
-        return options is DxfOptions || DrawingExporter.Writes(this, options);
-    }
-
-    /// <inheritdoc/>
-    internal override IEnumerable<Type> ExportOptionTypes => [typeof(DxfOptions), .. DrawingExporter.OptionTypes];
-
-    /// <inheritdoc/>
-    internal override void Export(ImageOptionsBase options, Stream stream)
-    {
-        if (options is DxfOptions dxf)
-        {
-            DxfSaver.Save(Drawing, dxf, stream);
-            return;
-        }
-
-        DrawingExporter.Export(this, options, stream);
-    }
-
-    /// <inheritdoc/>
     internal override string? FilePath
     {
         get => base.FilePath;
@@ -229,13 +209,17 @@ public partial class CadImage : Image, IVectorImage
     internal override string Content => $"release {Version}, {Entities.Count} in model space";
 
     /// <inheritdoc/>
-    internal override FileFormat OwnFormat => DxfRelease.ToFileFormat(Version);
+    private protected override FileFormat NativeFormat => DxfRelease.ToFileFormat(Version);
 
     /// <inheritdoc/>
-    internal override void SaveData(Stream stream) => DxfSaver.Save(Drawing, new DxfOptions(), stream);
+    VectorScene IPageContent.OpenScene() => SceneReader.Read(Drawing);
 
     /// <inheritdoc/>
-    VectorScene IVectorImage.OpenScene() => SceneReader.Read(Drawing);
+    CadDrawing IDrawingContent.Drawing => Drawing;
+
+    /// <inheritdoc/>
+    Scene3D.Scene IMeshContent.OpenMeshes(ExportContext? context, MeshRequest request) =>
+        DrawingMeshes.Read(Drawing, context, request);
 
     private (Cad3DPoint Min, Cad3DPoint Max) Extents() =>
         DrawingExtents.OfModel(Drawing, () => TextMeasurer.TryCreate(Drawing));

@@ -1,6 +1,6 @@
 namespace Korvan.CAD.FileFormats.Cad;
 
-/// <summary>States that a property is a 32-bit whole number or an enum.</summary>
+/// <summary>States that a property is a 32-bit integer or an enum.</summary>
 public sealed class CadIntAttribute : CadPropertyAttribute
 {
     /// <summary>Creates the statement.</summary>

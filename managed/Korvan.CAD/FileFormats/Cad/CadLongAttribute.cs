@@ -1,6 +1,6 @@
 namespace Korvan.CAD.FileFormats.Cad;
 
-/// <summary>States that a property is a 64-bit whole number.</summary>
+/// <summary>States that a property is a 64-bit integer.</summary>
 public sealed class CadLongAttribute : CadPropertyAttribute
 {
     /// <summary>Creates the statement.</summary>

@@ -1,6 +1,6 @@
 namespace Korvan.CAD.FileFormats.Cad;
 
-/// <summary>States that a property is a 16-bit whole number or an enum.</summary>
+/// <summary>States that a property is a 16-bit integer or an enum.</summary>
 public sealed class CadShortAttribute : CadPropertyAttribute
 {
     /// <summary>Creates the statement.</summary>

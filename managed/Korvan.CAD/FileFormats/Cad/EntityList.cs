@@ -5,7 +5,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 
 namespace Korvan.CAD.FileFormats.Cad;
 
-/// <summary>Entities that belong together. An entity stands in one place of one list: its handle names it
+/// <summary>Entities that belong together. An entity is in one position of one list: its handle names it
 /// there.</summary>
 /// <param name="name">The property that holds the list.</param>
 /// <param name="owner">What the entities belong to.</param>

@@ -9,6 +9,7 @@ using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.FileFormats.Cgm.Export;
 using Korvan.CAD.FileFormats.Cgm.Import;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.Cgm;
 
@@ -26,61 +27,63 @@ public sealed class CgmFile
     /// <summary>Gets the commands in their order. A whole metafile begins with BEGMF and ends with ENDMF.</summary>
     public List<Command> Commands { get; } = [];
 
-    /// <summary>Gets what was noticed when the file was read; of very many messages the first thousand.</summary>
+    /// <summary>Gets the messages of reading; at most the first thousand and a note that there are more.</summary>
     public IReadOnlyList<Message> Messages => _messages;
 
     /// <summary>Gets the encoding that the file was read from; binary for one that was not read.</summary>
     public CgmFileFormat Encoding { get; private set; }
 
-    /// <summary>Gets the name that the metafile gives itself; empty where it has none.</summary>
+    /// <summary>Gets the identifier of the metafile; empty where it has none.</summary>
     public string Name => Commands.OfType<BeginMetafile>().FirstOrDefault()?.Identifier ?? "";
 
-    /// <summary>Gets the names of the pictures in their order.</summary>
+    /// <summary>Gets the identifiers of the pictures in their order.</summary>
     public string[] PictureNames => [.. Commands.OfType<BeginPicture>().Select(one => one.Identifier)];
 
-    /// <summary>Reads a file of either encoding, perhaps packed by gzip.</summary>
+    /// <summary>Reads a file of either encoding, which may be compressed by gzip.</summary>
     /// <param name="filePath">The file.</param>
-    /// <returns>A file of either encoding, perhaps packed by gzip.</returns>
+    /// <returns>The metafile.</returns>
     /// <exception cref="ImageLoadException">The file is missing, damaged, or no metafile.</exception>
     public static CgmFile Load(string filePath) => Load(filePath, false);
 
-    /// <summary>Reads a file of either encoding, perhaps packed by gzip.</summary>
+    /// <summary>Reads a file of either encoding, which may be compressed by gzip.</summary>
     /// <param name="filePath">The file.</param>
-    /// <param name="ignoreErrors">Whether damaged elements are left out and told in <see cref="Messages"/>.</param>
-    /// <returns>A file of either encoding, perhaps packed by gzip.</returns>
+    /// <param name="ignoreErrors">Whether damaged elements are left out and reported in <see cref="Messages"/>.</param>
+    /// <returns>The metafile.</returns>
     /// <exception cref="ImageLoadException">The file is missing, no metafile, or damaged and damage is not
     /// ignored.</exception>
     public static CgmFile Load(string filePath, bool ignoreErrors) =>
-        Load(ImageLoader.ReadFile(filePath), filePath, new LoadOptions { IgnoreErrors = ignoreErrors });
+        Load(SourceFile.Read(filePath, SourceFile.ReadAll), filePath, new LoadOptions { IgnoreErrors = ignoreErrors });
 
-    /// <summary>Reads a stream of either encoding, perhaps packed by gzip, to its end.</summary>
+    /// <summary>Reads a stream of either encoding, which may be compressed by gzip, to its end.</summary>
     /// <param name="stream">The stream; it stays open.</param>
-    /// <returns>A stream of either encoding, perhaps packed by gzip, to its end.</returns>
-    /// <exception cref="ImageLoadException">What it holds is damaged or no metafile.</exception>
+    /// <returns>The metafile.</returns>
+    /// <exception cref="ImageLoadException">The stream is damaged or no metafile.</exception>
     public static CgmFile Load(Stream stream) => Load(stream, false);
 
-    /// <summary>Reads a stream of either encoding, perhaps packed by gzip, to its end.</summary>
+    /// <summary>Reads a stream of either encoding, which may be compressed by gzip, to its end.</summary>
     /// <param name="stream">The stream; it stays open.</param>
-    /// <param name="ignoreErrors">Whether damaged elements are left out and told in <see cref="Messages"/>.</param>
-    /// <returns>A stream of either encoding, perhaps packed by gzip, to its end.</returns>
-    /// <exception cref="ImageLoadException">What it holds is no metafile, or damaged and damage is not ignored.</exception>
+    /// <param name="ignoreErrors">Whether damaged elements are left out and reported in <see cref="Messages"/>.</param>
+    /// <returns>The metafile.</returns>
+    /// <exception cref="ImageLoadException">The stream is no metafile, or damaged and damage is not
+    /// ignored.</exception>
     public static CgmFile Load(Stream stream, bool ignoreErrors)
     {
         Verify.NotNull(stream);
-        return Load(ImageLoader.ReadStream(stream, "stream"), "stream",
+        return Load(SourceFile.ReadAll(SourceFile.Open(stream, "stream")), "stream",
             new LoadOptions { IgnoreErrors = ignoreErrors });
     }
 
-    /// <summary>Writes the commands to a file, which appears whole or not at all.</summary>
+    /// <summary>Writes the commands to a file atomically.</summary>
     /// <param name="filePath">The file; one that exists is replaced.</param>
     /// <param name="format">The encoding.</param>
     /// <exception cref="ImageSaveException">A command cannot be written, or the file cannot.</exception>
-    public void Save(string filePath, CgmFileFormat format) => AtomicFile.Write(filePath, true, stream => Write(stream, format, filePath));
+    public void Save(string filePath, CgmFileFormat format) =>
+        AtomicFile.Write(filePath, true, stream => Write(stream, format, filePath));
 
     /// <summary>Writes the commands to a stream.</summary>
     /// <param name="stream">The stream; it stays open.</param>
     /// <param name="format">The encoding.</param>
-    /// <exception cref="ImageSaveException">A command cannot be written; then nothing is.</exception>
+    /// <exception cref="ImageSaveException">A command cannot be written; then the stream is unchanged.</exception>
     public void Save(Stream stream, CgmFileFormat format)
     {
         Verify.NotNull(stream);
@@ -89,7 +92,7 @@ public sealed class CgmFile
         content.WriteTo(stream);
     }
 
-    /// <summary>Reads a metafile; what is wrong with it is added to the errors of the options.</summary>
+    /// <summary>Reads a metafile; damage is added to the errors of the options.</summary>
     internal static CgmFile Load(byte[] data, string name, LoadOptions options)
     {
         byte[] content = CgmSource.Unpack(data, name);
@@ -103,7 +106,8 @@ public sealed class CgmFile
             file.ReadClearText(content, name, options.IgnoreErrors);
         }
 
-        options.Errors.AddRange(file._messages.Where(one => one.Severity == Severity.Error).Select(one => $"'{name}', {one.Text}."));
+        IEnumerable<Message> errors = file._messages.Where(one => one.Severity == Severity.Error);
+        options.Errors.AddRange(errors.Select(one => $"'{name}', {one.Text}."));
         return file;
     }
 
@@ -111,7 +115,8 @@ public sealed class CgmFile
     {
         if (Commands.FirstOrDefault() is not BeginMetafile || Commands[^1] is not EndMetafile)
         {
-            throw new ImageSaveException($"'{name}': a metafile begins with BeginMetafile and ends with EndMetafile; the commands do not.");
+            throw new ImageSaveException(
+                $"'{name}': a metafile starts with BeginMetafile and ends with EndMetafile, but the commands do not.");
         }
 
         Action<Command> write = format switch

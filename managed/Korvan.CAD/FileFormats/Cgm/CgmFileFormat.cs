@@ -2,13 +2,13 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm;
 
-/// <summary>How the elements of a metafile are written.</summary>
+/// <summary>The encodings of a metafile.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum CgmFileFormat
 {
-    /// <summary>As bytes: short, and read by all programs.</summary>
+    /// <summary>The binary encoding (ISO/IEC 8632-3): compact, and read by all programs.</summary>
     Binary = 0,
 
-    /// <summary>As words and numbers that people can read.</summary>
+    /// <summary>The clear text encoding (ISO/IEC 8632-4): keywords and numbers that people can read.</summary>
     ClearText = 1,
 }

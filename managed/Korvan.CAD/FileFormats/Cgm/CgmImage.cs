@@ -7,6 +7,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Metafile;
@@ -14,14 +15,14 @@ using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.FileFormats.Cgm;
 
-/// <summary>A computer graphics metafile (ISO/IEC 8632) that is drawn and converted. Its commands are live: what is added,
-/// removed or changed is what is drawn and saved.</summary>
-public sealed class CgmImage : Image, IVectorImage
+/// <summary>A computer graphics metafile (ISO/IEC 8632) that can be drawn and converted. Its commands are live: changes
+/// to them are drawn and saved.</summary>
+public sealed class CgmImage : Image, IMetafileContent
 {
     private readonly CgmFile _file;
 
-    /// <summary>Creates a metafile with one empty picture, whose coordinates run from (0, 0) to (1000, 1000) and whose
-    /// colours stand for themselves. What is drawn goes behind its <see cref="BeginPictureBody"/>.</summary>
+    /// <summary>Creates a metafile with one empty picture, whose VDC extent is (0, 0) to (1000, 1000) and whose colours
+    /// are direct. Primitives go after its <see cref="BeginPictureBody"/>.</summary>
     public CgmImage()
         : this(NewFile())
     {
@@ -45,8 +46,8 @@ public sealed class CgmImage : Image, IVectorImage
         }
     }
 
-    /// <summary>Gets the names of the pictures, in their order; each is a page. Pictures without a name, and those whose
-    /// name was there before, have names made up by their numbers.</summary>
+    /// <summary>Gets the names of the pictures in their order; each is a page. Pictures without an identifier, or with
+    /// one that is not unique, are named by their numbers.</summary>
     public string[] PictureNames => [.. Scene().Pictures.Select(static picture => picture.Name)];
 
     /// <inheritdoc/>
@@ -56,19 +57,17 @@ public sealed class CgmImage : Image, IVectorImage
     public override int Height => Extent(static frame => frame.Region.Height);
 
     /// <summary>Gets the unit of the first picture's size: millimetres where the file states them.</summary>
-    public override UnitType UnitType => FirstFrame() is { MillimetresPerUnit: not null } ? UnitType.Millimeter : UnitlessDefaultUnitType;
+    public override UnitType UnitType =>
+        FirstFrame() is { MillimetresPerUnit: not null } ? UnitType.Millimeter : UnitlessDefaultUnitType;
 
     /// <inheritdoc/>
     public override bool IsCached => true;
 
     /// <inheritdoc/>
-    internal override IEnumerable<Type> ExportOptionTypes => DrawingExporter.PageOptionTypes;
-
-    /// <inheritdoc/>
     public override void CacheData() => VerifyNotDisposed();
 
-    /// <summary>Gives the texts of all pictures, in the order of drawing, with what they look like.</summary>
-    /// <returns>The texts of all pictures, in the order of drawing, with what they look like.</returns>
+    /// <summary>Returns the texts of all pictures in drawing order, with their positions, heights and fonts.</summary>
+    /// <returns>The texts.</returns>
     public TextInformation[] GetTexts()
     {
         VerifyNotDisposed();
@@ -79,42 +78,19 @@ public sealed class CgmImage : Image, IVectorImage
     public override string[] GetStrings() => [.. MetafileTexts.Collect(File).Select(static text => text.Text)];
 
     /// <inheritdoc/>
-    VectorScene IVectorImage.OpenScene() => Scene() is { Pictures.Count: > 0 } scene
+    VectorScene IPageContent.OpenScene() => Scene() is { Pictures.Count: > 0 } scene
         ? scene
         : throw new RenderException("The metafile has no picture that could be drawn.");
-
-    /// <inheritdoc/>
-    internal override bool SupportsExport(ImageOptionsBase options) => DrawingExporter.Writes(this, options);
-
-    /// <summary>Draws the metafile. Another metafile is made command by command, unless its options ask for a page.</summary>
-    internal override void Export(ImageOptionsBase options, Stream stream)
-    {
-        options.VerifyHonoured(DrawingExporter.KindOf(options));
-        OptionRules.VerifyMetafile(options);
-        if (options is CgmOptions
-            {
-                TextAsLines: false, VectorRasterizationOptions: null, UserWatermarkText: "", Layers: [], RenderToGraphicsBound: false,
-            } own)
-        {
-            File.Save(stream, own.Encoding);
-            return;
-        }
-
-        DrawingExporter.Export(this, options, stream);
-    }
 
     /// <inheritdoc/>
     internal override string Content => $"{File.Commands.Count} commands";
 
     /// <inheritdoc/>
-    internal override FileFormat OwnFormat => FileFormat.Cgm;
-
-    /// <inheritdoc/>
-    internal override void SaveData(Stream stream) => File.Save(stream, File.Encoding);
+    private protected override FileFormat NativeFormat => FileFormat.Cgm;
 
     private static CgmFile NewFile()
     {
-        const int side = 1000;
+        const int Side = 1000;
         var file = new CgmFile();
         file.Commands.AddRange(
         [
@@ -125,7 +101,7 @@ public sealed class CgmImage : Image, IVectorImage
             new RealPrecision { Value = Precision.Floating32 },
             new BeginPicture("drawing"),
             new ColourSelectionMode { Value = ColourSelectionMode.Type.Direct },
-            new VdcExtent(new CgmPoint(0, 0), new CgmPoint(side, side)),
+            new VdcExtent(new CgmPoint(0, 0), new CgmPoint(Side, Side)),
             new VdcRealPrecision { Value = Precision.Floating32 },
             new BeginPictureBody(),
             new EndPicture(),

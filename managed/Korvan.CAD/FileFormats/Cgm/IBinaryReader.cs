@@ -2,62 +2,62 @@ using Korvan.CAD.FileFormats.Cgm.Classes;
 
 namespace Korvan.CAD.FileFormats.Cgm;
 
-/// <summary>Gives the parameters of one element of a binary metafile, each in the precision that the file stated
-/// (ISO/IEC 8632-3, clause 6).</summary>
+/// <summary>Reads the parameters of one element of a binary metafile in their current precisions (ISO/IEC 8632-3,
+/// clause 6).</summary>
 public interface IBinaryReader
 {
     /// <summary>Gets whether the element has more parameters.</summary>
     bool HasMore { get; }
 
-    /// <summary>Gets how many bytes of the parameters were read; lines of cells begin at even ones.</summary>
+    /// <summary>Gets the count of parameter bytes that were read; rows of cells start at even ones.</summary>
     int Position { get; }
 
-    /// <summary>Gives a whole number.</summary>
+    /// <summary>Reads an integer.</summary>
     int ReadInteger();
 
-    /// <summary>Gives an index.</summary>
+    /// <summary>Reads an index.</summary>
     int ReadIndex();
 
-    /// <summary>Gives a name, which is a number.</summary>
+    /// <summary>Reads a name, which is an integer.</summary>
     int ReadName();
 
-    /// <summary>Gives the number of a colour.</summary>
+    /// <summary>Reads a colour index.</summary>
     int ReadColorIndex();
 
-    /// <summary>Gives the number of one of a few values.</summary>
+    /// <summary>Reads an enumerated value.</summary>
     int ReadEnumeration();
 
-    /// <summary>Gives a number without sign.</summary>
+    /// <summary>Reads an unsigned integer.</summary>
     /// <param name="bits">Its bits: 8, 16, 24 or 32.</param>
     long ReadUnsigned(int bits);
 
-    /// <summary>Gives a real number.</summary>
+    /// <summary>Reads a real number.</summary>
     double ReadReal();
 
-    /// <summary>Gives a coordinate or length.</summary>
+    /// <summary>Reads a coordinate or length in VDC.</summary>
     double ReadVdc();
 
-    /// <summary>Gives a coordinate of the device.</summary>
+    /// <summary>Reads a viewport coordinate.</summary>
     VC ReadViewportCoordinate();
 
-    /// <summary>Gives a point.</summary>
+    /// <summary>Reads a point.</summary>
     CgmPoint ReadPoint();
 
-    /// <summary>Gives a colour by its components.</summary>
+    /// <summary>Reads a direct colour.</summary>
     CgmColor ReadDirectColor();
 
-    /// <summary>Gives one component of a colour as it stands in the file.</summary>
+    /// <summary>Reads one colour component as it is coded.</summary>
     long ReadColorComponent();
 
-    /// <summary>Gives a text.</summary>
+    /// <summary>Reads a string.</summary>
     string ReadString();
 
-    /// <summary>Gives the bytes of a text that is data.</summary>
+    /// <summary>Reads the bytes of a data record.</summary>
     byte[] ReadData();
 
-    /// <summary>Gives values that tell their own types.</summary>
+    /// <summary>Reads a structured data record.</summary>
     StructuredDataRecord ReadStructuredData();
 
-    /// <summary>Gives all bytes that are left of the element.</summary>
+    /// <summary>Reads all remaining bytes of the element.</summary>
     byte[] ReadRest();
 }

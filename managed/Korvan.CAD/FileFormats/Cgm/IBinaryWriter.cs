@@ -2,14 +2,14 @@ using Korvan.CAD.FileFormats.Cgm.Classes;
 
 namespace Korvan.CAD.FileFormats.Cgm;
 
-/// <summary>Takes the parameters of one element of a binary metafile, each in the precision that the file stated
-/// (ISO/IEC 8632-3, clause 6).</summary>
+/// <summary>Writes the parameters of one element of a binary metafile in their current precisions (ISO/IEC 8632-3,
+/// clause 6).</summary>
 public interface IBinaryWriter
 {
-    /// <summary>Gets how many bytes of parameters were written; lines of cells begin at even ones.</summary>
+    /// <summary>Gets the count of parameter bytes that were written; rows of cells start at even ones.</summary>
     int Position { get; }
 
-    /// <summary>Writes a whole number.</summary>
+    /// <summary>Writes an integer.</summary>
     /// <param name="value">The number.</param>
     void WriteInteger(int value);
 
@@ -17,19 +17,19 @@ public interface IBinaryWriter
     /// <param name="value">The index.</param>
     void WriteIndex(int value);
 
-    /// <summary>Writes a name, which is a number.</summary>
+    /// <summary>Writes a name, which is an integer.</summary>
     /// <param name="value">The name.</param>
     void WriteName(int value);
 
-    /// <summary>Writes the number of a colour.</summary>
+    /// <summary>Writes a colour index.</summary>
     /// <param name="value">The number.</param>
     void WriteColorIndex(int value);
 
-    /// <summary>Writes the number of one of a few values.</summary>
+    /// <summary>Writes an enumerated value.</summary>
     /// <param name="value">The number.</param>
     void WriteEnumeration(int value);
 
-    /// <summary>Writes a number without sign.</summary>
+    /// <summary>Writes an unsigned integer.</summary>
     /// <param name="value">The number.</param>
     /// <param name="bits">Its bits: 8, 16, 24 or 32.</param>
     void WriteUnsigned(long value, int bits);
@@ -38,11 +38,11 @@ public interface IBinaryWriter
     /// <param name="value">The number.</param>
     void WriteReal(double value);
 
-    /// <summary>Writes a coordinate or length.</summary>
+    /// <summary>Writes a coordinate or length in VDC.</summary>
     /// <param name="value">The number.</param>
     void WriteVdc(double value);
 
-    /// <summary>Writes a coordinate of the device.</summary>
+    /// <summary>Writes a viewport coordinate.</summary>
     /// <param name="value">The coordinate.</param>
     void WriteViewportCoordinate(VC value);
 
@@ -50,27 +50,27 @@ public interface IBinaryWriter
     /// <param name="value">The point.</param>
     void WritePoint(CgmPoint value);
 
-    /// <summary>Writes a colour by its components.</summary>
+    /// <summary>Writes a direct colour.</summary>
     /// <param name="value">The colour.</param>
     void WriteDirectColor(CgmColor value);
 
-    /// <summary>Writes one component of a colour as it shall stand in the file.</summary>
+    /// <summary>Writes one colour component as it is coded.</summary>
     /// <param name="value">The number.</param>
     void WriteColorComponent(long value);
 
-    /// <summary>Writes a text.</summary>
+    /// <summary>Writes a string.</summary>
     /// <param name="value">The text.</param>
     void WriteString(string value);
 
-    /// <summary>Writes bytes as a text that is data.</summary>
+    /// <summary>Writes bytes as a data record.</summary>
     /// <param name="value">The bytes.</param>
     void WriteData(byte[] value);
 
-    /// <summary>Writes values with their types.</summary>
+    /// <summary>Writes a structured data record.</summary>
     /// <param name="value">The values.</param>
     void WriteStructuredData(StructuredDataRecord value);
 
-    /// <summary>Writes bytes as they are.</summary>
+    /// <summary>Writes bytes without a length.</summary>
     /// <param name="value">The bytes.</param>
     void WriteBytes(byte[] value);
 }

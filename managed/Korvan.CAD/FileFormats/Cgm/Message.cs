@@ -2,7 +2,7 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm;
 
-/// <summary>Something that was noticed while a metafile was read.</summary>
+/// <summary>A message about a metafile that was read.</summary>
 public sealed class Message
 {
     internal Message(Severity severity, ClassCode elementClass, int elementId, long position, string text)
@@ -14,7 +14,7 @@ public sealed class Message
         Text = text;
     }
 
-    /// <summary>Gets how much it matters.</summary>
+    /// <summary>Gets the severity.</summary>
     public Severity Severity { get; }
 
     /// <summary>Gets the class of the element.</summary>
@@ -23,11 +23,11 @@ public sealed class Message
     /// <summary>Gets the number of the element in its class.</summary>
     public int ElementId { get; }
 
-    /// <summary>Gets where the element begins: the byte of a binary file, counted from 0, or the line of a clear text
-    /// file, counted from 1.</summary>
+    /// <summary>Gets the position of the element: the byte offset in a binary file, from 0, or the line of a clear text
+    /// file, from 1.</summary>
     public long Position { get; }
 
-    /// <summary>Gets what was noticed, with element and place.</summary>
+    /// <summary>Gets the text of the message, with element and position.</summary>
     public string Text { get; }
 
     /// <inheritdoc/>

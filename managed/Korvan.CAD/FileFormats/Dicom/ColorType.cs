@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Dicom;
 
-/// <summary>The samples of a DICOM picture.</summary>
+/// <summary>Samples of a DICOM image.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ColorType
 {
-    /// <summary>Red, green and blue of 8 bits each.</summary>
+    /// <summary>RGB, 8 bits per sample.</summary>
     Rgb24Bit = 0,
 
-    /// <summary>Lightness of 8 bits.</summary>
+    /// <summary>Grayscale, 8 bits.</summary>
     Grayscale8Bit = 1,
 
-    /// <summary>Lightness of 16 bits.</summary>
+    /// <summary>Grayscale, 16 bits.</summary>
     Grayscale16Bit = 2,
 }

@@ -3,28 +3,27 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Dicom;
 
-/// <summary>How the pixels of a DICOM file are stored.</summary>
+/// <summary>Compression of the pixels of a DICOM file.</summary>
 public class Compression
 {
-    internal const int UsualQuality = 90;
+    internal const int DefaultQuality = 90;
 
-    private int _quality = UsualQuality;
+    private int _quality = DefaultQuality;
 
-    /// <summary>Creates plain storage.</summary>
+    /// <summary>Creates settings without compression.</summary>
     public Compression()
     {
     }
 
-    /// <summary>Creates a way of storage.</summary>
-    /// <param name="type">The kind.</param>
+    /// <summary>Creates settings of a compression.</summary>
+    /// <param name="type">The compression.</param>
     public Compression(CompressionType type) => Type = type;
 
-    /// <summary>Gets or sets the kind.</summary>
+    /// <summary>Gets or sets the compression.</summary>
     public CompressionType Type { get; set; }
 
-    /// <summary>Gets or sets the quality of JPEG, 1 to 100; the other kinds keep every pixel exactly. 90 by
-    /// default.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    /// <summary>Gets or sets the JPEG quality, 1 to 100; the other compressions are lossless. 90 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is out of range.</exception>
     public int Quality
     {
         get => _quality;

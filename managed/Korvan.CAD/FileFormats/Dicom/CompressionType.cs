@@ -2,11 +2,11 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Dicom;
 
-/// <summary>How the pixels of a DICOM file are stored.</summary>
+/// <summary>Compression of the pixels of a DICOM file.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum CompressionType
 {
-    /// <summary>Plain.</summary>
+    /// <summary>Uncompressed.</summary>
     None = 0,
 
     /// <summary>Baseline JPEG, lossy.</summary>
@@ -15,6 +15,6 @@ public enum CompressionType
     /// <summary>JPEG 2000.</summary>
     Jpeg2000 = 2,
 
-    /// <summary>Run lengths of byte planes.</summary>
+    /// <summary>Run-length encoding of byte planes.</summary>
     Rle = 3,
 }

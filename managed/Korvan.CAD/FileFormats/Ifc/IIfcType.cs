@@ -6,7 +6,7 @@ public interface IIfcType
     /// <summary>Gets the name in the schema, such as IfcLabel or IfcWall.</summary>
     string TypeName { get; }
 
-    /// <summary>Gets the value without its type: a text, a number, a truth value, bytes or a list. A logical value
-    /// that is unknown gives nothing, an entity gives itself.</summary>
+    /// <summary>Gets the value without its type: a string, a number, a Boolean, bytes or a list; <see langword="null"/>
+    /// for an unknown logical value, the entity itself for an entity.</summary>
     object? PlainValue { get; }
 }

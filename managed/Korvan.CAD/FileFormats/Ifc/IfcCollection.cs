@@ -8,16 +8,16 @@ using Korvan.CAD.FileFormats.Ifc.Model;
 
 namespace Korvan.CAD.FileFormats.Ifc;
 
-/// <summary>The values of an attribute that is a list, set, array or bag. What is added, removed or replaced is
-/// changed in the instance; only values of the element's type are admitted.</summary>
+/// <summary>The values of an attribute that is a list, set, array or bag. Changes of the collection are changes of the
+/// instance. Values have to be of the element type.</summary>
 public sealed class IfcCollection : IList
 {
     private readonly IfcEntityBase? _owner;
     private readonly IfcSlot _slot;
     private readonly List<object?> _items;
 
-    /// <summary>Creates a list that belongs to no instance and does not change. The attribute that it is set to tells
-    /// what its values have to be.</summary>
+    /// <summary>Creates a read-only collection that belongs to no instance. Its values are checked when it is assigned
+    /// to an attribute.</summary>
     /// <param name="values">The values.</param>
     public IfcCollection(IEnumerable values)
     {
@@ -32,10 +32,11 @@ public sealed class IfcCollection : IList
         _items = [.. items];
     }
 
-    /// <summary>Gets how many values there are.</summary>
+    /// <summary>Gets the number of values.</summary>
     public int Count => _items.Count;
 
-    /// <summary>Gets whether values can be changed: not where they are part of a select value.</summary>
+    /// <summary>Gets whether the collection is read-only, as it is when it belongs to a select value or to no
+    /// instance.</summary>
     public bool IsReadOnly => _owner is null;
 
     bool IList.IsFixedSize => IsReadOnly;
@@ -44,14 +45,14 @@ public sealed class IfcCollection : IList
 
     object ICollection.SyncRoot => this;
 
-    /// <summary>Gets the values as they are kept.</summary>
+    /// <summary>Gets the values as they are stored.</summary>
     internal IReadOnlyList<object?> Raw => _items;
 
-    /// <summary>Gets what the values are.</summary>
+    /// <summary>Gets the type of the values.</summary>
     internal IfcSlot Slot => _slot;
 
-    /// <summary>Gets or sets a value by its place, from 0.</summary>
-    /// <param name="index">The place.</param>
+    /// <summary>Gets or sets a value by its zero-based index.</summary>
+    /// <param name="index">The index.</param>
     public object? this[int index]
     {
         get
@@ -68,7 +69,7 @@ public sealed class IfcCollection : IList
 
         set
         {
-            VerifyPlace(index, _items.Count - 1);
+            VerifyIndex(index, _items.Count - 1);
             _items[index] = Admit(value);
             NoteChange();
         }
@@ -76,19 +77,19 @@ public sealed class IfcCollection : IList
 
     /// <summary>Adds a value at the end.</summary>
     /// <param name="value">The value.</param>
-    /// <returns>Its place.</returns>
+    /// <returns>Its index.</returns>
     public int Add(object? value)
     {
         Insert(_items.Count, value);
         return _items.Count - 1;
     }
 
-    /// <summary>Adds a value at a place.</summary>
-    /// <param name="index">The place, from 0.</param>
+    /// <summary>Inserts a value.</summary>
+    /// <param name="index">The zero-based index.</param>
     /// <param name="value">The value.</param>
     public void Insert(int index, object? value)
     {
-        VerifyPlace(index, _items.Count);
+        VerifyIndex(index, _items.Count);
         _items.Insert(index, Admit(value));
         NoteChange();
     }
@@ -101,8 +102,8 @@ public sealed class IfcCollection : IList
         NoteChange();
     }
 
-    /// <summary>Removes the value at a place.</summary>
-    /// <param name="index">The place, from 0.</param>
+    /// <summary>Removes the value at an index.</summary>
+    /// <param name="index">The zero-based index.</param>
     public void RemoveAt(int index)
     {
         VerifyWritable();
@@ -110,7 +111,7 @@ public sealed class IfcCollection : IList
         NoteChange();
     }
 
-    /// <summary>Removes the first value that equals another; none is no error.</summary>
+    /// <summary>Removes the first occurrence of a value; it is no error if there is none.</summary>
     /// <param name="value">The value.</param>
     public void Remove(object? value)
     {
@@ -121,14 +122,14 @@ public sealed class IfcCollection : IList
         }
     }
 
-    /// <summary>Tells whether a value is there.</summary>
+    /// <summary>Returns whether the collection contains a value.</summary>
     /// <param name="value">The value.</param>
-    /// <returns>Whether a value is there.</returns>
+    /// <returns>Whether the collection contains the value.</returns>
     public bool Contains(object? value) => IndexOf(value) >= 0;
 
-    /// <summary>Finds the first place of a value; -1 for none.</summary>
+    /// <summary>Returns the index of the first occurrence of a value; -1 if there is none.</summary>
     /// <param name="value">The value.</param>
-    /// <returns>The first place of a value.</returns>
+    /// <returns>The index of the first occurrence, or -1.</returns>
     public int IndexOf(object? value)
     {
         for (int i = 0; i < _items.Count; i++)
@@ -145,7 +146,7 @@ public sealed class IfcCollection : IList
 
     /// <summary>Copies the values into an array.</summary>
     /// <param name="array">The array.</param>
-    /// <param name="index">The place of the first value in it.</param>
+    /// <param name="index">The index in the array at which copying begins.</param>
     public void CopyTo(Array array, int index)
     {
         Verify.NotNull(array);
@@ -155,7 +156,7 @@ public sealed class IfcCollection : IList
         }
     }
 
-    /// <summary>Walks over the values.</summary>
+    /// <summary>Returns an enumerator of the values.</summary>
     public IEnumerator GetEnumerator()
     {
         for (int i = 0; i < _items.Count; i++)
@@ -164,15 +165,15 @@ public sealed class IfcCollection : IList
         }
     }
 
-    // A whole number in the type of what it is compared with.
+    // Integers are compared as the type of the other value.
     private static object Widened(object value, object? item)
     {
         long whole = Convert.ToInt64(value, CultureInfo.InvariantCulture);
         return item is double ? (double)whole : whole;
     }
 
-    // Admitting a value may add instances to the model, so the place is looked at before.
-    private void VerifyPlace(int index, int last)
+    // Admitting a value may add instances to the model, so the index is verified before.
+    private void VerifyIndex(int index, int last)
     {
         VerifyWritable();
         if (index < 0 || index > last)
@@ -193,7 +194,8 @@ public sealed class IfcCollection : IList
     {
         if (_owner is null)
         {
-            throw new IfcImageException("This list is part of a select value, which does not change; set the attribute.");
+            throw new IfcImageException(
+                "This list is part of a select value, which is immutable; assign the attribute instead.");
         }
     }
 

@@ -7,48 +7,48 @@ using Korvan.CAD.FileFormats.Ifc.Schema;
 
 namespace Korvan.CAD.FileFormats.Ifc;
 
-/// <content>What the properties of the classes of an edition are made of: an attribute by its place in the record.</content>
+/// <content>Access of the generated properties to attributes by their index in the record.</content>
 public abstract partial class IfcEntityBase
 {
     private object?[]? _values;
 
-    /// <summary>Gets or sets which attributes differ from the file, one bit for each.</summary>
+    /// <summary>Gets or sets which attributes differ from the file, as one bit each.</summary>
     internal ulong Changed { get; set; }
 
-    /// <summary>Gets the values as they are kept: what the parser gives, or what took its place.</summary>
+    /// <summary>Gets the values as they are stored: as parsed, or as converted later.</summary>
     internal object?[] Values => _values ??= Model is { } model && Record >= 0
         ? model.ReadValues(this)
         : new object?[Class.Attributes.Length];
 
-    /// <summary>Takes a list that was changed for a changed attribute.</summary>
+    /// <summary>Marks the attribute of a changed collection as changed.</summary>
     internal void NoteChange(int at)
     {
         Changed |= 1UL << at;
         Model?.NoteChange(this);
     }
 
-    /// <summary>Gives a text.</summary>
-    /// <param name="at">The place of the attribute.</param>
+    /// <summary>Returns a string.</summary>
+    /// <param name="at">The index of the attribute.</param>
     protected string? TextAt(int at) => Present(at) as string;
 
-    /// <summary>Gives a real number.</summary>
-    /// <param name="at">The place of the attribute.</param>
+    /// <summary>Returns a real number.</summary>
+    /// <param name="at">The index of the attribute.</param>
     protected double? RealAt(int at) => Present(at) as double?;
 
-    /// <summary>Gives an integer.</summary>
-    /// <param name="at">The place of the attribute.</param>
+    /// <summary>Returns an integer.</summary>
+    /// <param name="at">The index of the attribute.</param>
     protected long? IntegerAt(int at) => Present(at) as long?;
 
-    /// <summary>Gives a truth value; nothing where it is unknown.</summary>
-    /// <param name="at">The place of the attribute.</param>
+    /// <summary>Returns a Boolean or logical value; <see langword="null"/> if it is unknown.</summary>
+    /// <param name="at">The index of the attribute.</param>
     protected bool? BooleanAt(int at) => Present(at) as bool?;
 
-    /// <summary>Gives bits in whole bytes.</summary>
-    /// <param name="at">The place of the attribute.</param>
+    /// <summary>Returns a binary value in whole bytes.</summary>
+    /// <param name="at">The index of the attribute.</param>
     protected byte[]? BinaryAt(int at) => Present(at) as byte[];
 
-    /// <summary>Gives the value of an item of an enumeration; the first has 1.</summary>
-    /// <param name="at">The place of the attribute.</param>
+    /// <summary>Returns the value of an enumeration item, counted from 1.</summary>
+    /// <param name="at">The index of the attribute.</param>
     protected int? EnumerationAt(int at)
     {
         return Present(at) is string item
@@ -56,21 +56,21 @@ public abstract partial class IfcEntityBase
             : null;
     }
 
-    /// <summary>Gives an entity.</summary>
-    /// <param name="at">The place of the attribute.</param>
+    /// <summary>Returns an entity.</summary>
+    /// <param name="at">The index of the attribute.</param>
     protected IfcEntityBase? EntityAt(int at) => Present(at) as IfcEntityBase;
 
-    /// <summary>Gives a value of a select type.</summary>
-    /// <param name="at">The place of the attribute.</param>
+    /// <summary>Returns a value of a select type.</summary>
+    /// <param name="at">The index of the attribute.</param>
     protected IfcSelect? SelectAt(int at) => Present(at) as IfcSelect;
 
-    /// <summary>Gives a list. Changes of it are changes of the attribute.</summary>
-    /// <param name="at">The place of the attribute.</param>
+    /// <summary>Returns a collection. Changes of it are changes of the attribute.</summary>
+    /// <param name="at">The index of the attribute.</param>
     protected IList? ListAt(int at) => Present(at) as IfcCollection;
 
     /// <summary>Sets an attribute.</summary>
-    /// <param name="at">The place of the attribute.</param>
-    /// <param name="value">A value of its type, or nothing. A list is copied.</param>
+    /// <param name="at">The index of the attribute.</param>
+    /// <param name="value">A value of its type, or <see langword="null"/>. A list is copied.</param>
     protected void Put(int at, object? value)
     {
         object? admitted = IfcAdmission.Admit(this, at, value);
@@ -79,9 +79,9 @@ public abstract partial class IfcEntityBase
         NoteChange(at);
     }
 
-    /// <summary>Sets an attribute to an item of an enumeration.</summary>
-    /// <param name="at">The place of the attribute.</param>
-    /// <param name="value">The value of the item, or nothing.</param>
+    /// <summary>Sets an attribute to an enumeration item.</summary>
+    /// <param name="at">The index of the attribute.</param>
+    /// <param name="value">The value of the item, or <see langword="null"/>.</param>
     protected void PutEnumeration(int at, int? value)
     {
         if (value is not { } number)
@@ -96,16 +96,16 @@ public abstract partial class IfcEntityBase
             : throw new IfcImageException($"{Describe(at)}: {number} is none of its {items.Length} items."));
     }
 
-    /// <summary>Gives the instances that refer to this one through an attribute.</summary>
-    /// <param name="at">The number of the inverse attribute.</param>
+    /// <summary>Returns the instances that refer to this one through an attribute.</summary>
+    /// <param name="at">The index of the inverse attribute.</param>
     protected IReadOnlyList<IIfcEntity> InverseAt(int at)
     {
         IfcInverseInfo info = Class.Inverses[at];
         return Model?.References.Inverse(this, info) ?? [];
     }
 
-    /// <summary>Gives the one instance that refers to this one through an attribute.</summary>
-    /// <param name="at">The number of the inverse attribute.</param>
+    /// <summary>Returns the one instance that refers to this one through an attribute.</summary>
+    /// <param name="at">The index of the inverse attribute.</param>
     protected IfcEntityBase? SingleInverseAt(int at) =>
         InverseAt(at) is { Count: > 0 } all ? (IfcEntityBase)all[0] : null;
 

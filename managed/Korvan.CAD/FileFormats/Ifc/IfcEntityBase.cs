@@ -8,8 +8,9 @@ using Korvan.CAD.FileFormats.Ifc.Schema;
 
 namespace Korvan.CAD.FileFormats.Ifc;
 
-/// <summary>The base of the entities of all editions. An instance that was read decodes its record when it is first
-/// asked for an attribute. One that was made in memory belongs to no model until it is added to one.</summary>
+/// <summary>The base of the entities of all schema versions. An instance that was read decodes its record at the first
+/// access to an attribute. An instance that was created in memory belongs to no model until it is added to
+/// one.</summary>
 [PythonMostDerived]
 public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
 {
@@ -45,7 +46,8 @@ public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
     /// <summary>Gets or sets the model that the instance belongs to.</summary>
     internal IfcModel? Model { get; set; }
 
-    /// <summary>Gets or sets the number of its record in the file; -1 for one that was made in memory.</summary>
+    /// <summary>Gets or sets the index of its record in the file; -1 for an instance that was created in
+    /// memory.</summary>
     internal int Record { get; set; } = -1;
 
     /// <inheritdoc/>
@@ -85,8 +87,9 @@ public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
             : throw new IfcImageException($"{Class.Name} has no inverse attribute '{name}'.");
     }
 
-    /// <summary>Gives the record as it stands in the file, or as it would be written.</summary>
-    /// <returns>The record as it stands in the file, or as it would be written.</returns>
+    /// <summary>Returns the record as it is in the file or, for new and changed instances, as it would be
+    /// written.</summary>
+    /// <returns>The record.</returns>
     public override string ToString()
     {
         if (Model is { } model && Record >= 0 && Changed == 0)
@@ -99,14 +102,14 @@ public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
         return text.ToString();
     }
 
-    /// <summary>Names the instance and one of its attributes for a message.</summary>
+    /// <summary>Returns instance and attribute for a message.</summary>
     internal string Describe(int attribute)
     {
         IfcAttributeInfo info = Class.Attributes[attribute];
         return $"{DescribePlace()}attribute {info.Name} of type {info.Form.Describe()}";
     }
 
-    /// <summary>Names the instance for a message.</summary>
+    /// <summary>Returns the instance for a message.</summary>
     internal string DescribePlace()
     {
         string line = Model is { } model && Record >= 0 ? $"line {model.LineOf(Record)}, " : string.Empty;
@@ -128,7 +131,8 @@ public abstract partial class IfcEntityBase : IIfcEntity, IIfcType
         if ((uint)index >= (uint)Class.Attributes.Length)
         {
             throw new IfcImageException(
-                $"{Class.Name} has {Class.Attributes.Length} attributes, counted from 0; there is no attribute {index}.");
+                $"{Class.Name} has {Class.Attributes.Length} attributes, counted from 0; there is no attribute "
+                    + $"{index}.");
         }
     }
 }

@@ -7,14 +7,14 @@ using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Ifc.Header;
 using Korvan.CAD.FileFormats.Ifc.Model;
 using Korvan.CAD.FileFormats.Ifc.Schema;
+using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.FileFormats.Ifc;
 
-/// <summary>A building model. Its instances are made from the file when they are asked for, and an instance that is
-/// asked for twice is the same object. What is changed, added or removed is what is saved; all else is written back
-/// byte by byte.</summary>
-public sealed class IfcImage : Image
+/// <summary>A building model (IFC, ISO 16739-1). Instances are created from the file on first access, each once. Saving
+/// writes changed, added and removed instances; everything else is copied byte by byte.</summary>
+public sealed class IfcImage : Image, IBuildingContent
 {
     private const string NoGeometry =
         "The geometry of a building model is not evaluated yet: it has no extents and is not drawn.";
@@ -22,11 +22,9 @@ public sealed class IfcImage : Image
     private readonly IfcHeader _header;
     private readonly IfcFileForm _form;
 
-    internal IfcImage(IfcModel model, IfcHeader header, IfcFileForm form)
+    internal IfcImage(IfcContent content)
     {
-        Model = model;
-        _header = header;
-        _form = form;
+        (Model, _header, _form) = content;
     }
 
     /// <summary>Gets the header of the file.</summary>
@@ -39,11 +37,11 @@ public sealed class IfcImage : Image
         }
     }
 
-    /// <summary>Gets the edition of the schema.</summary>
+    /// <summary>Gets the schema.</summary>
     public IfcVersion Version => Model.Schema.Version;
 
-    /// <summary>Gets all instances, those of the file first in its order. The list stays as it is when instances are
-    /// added or removed.</summary>
+    /// <summary>Gets all instances: those of the file in file order, then the added ones. The list is a
+    /// snapshot.</summary>
     public IReadOnlyList<IIfcEntity> Entities
     {
         get
@@ -65,7 +63,7 @@ public sealed class IfcImage : Image
     /// <exception cref="IfcImageException">Always: the geometry is not evaluated.</exception>
     public override int Depth => throw new IfcImageException(NoGeometry);
 
-    /// <summary>Gets the unit of length that the project states for its whole.</summary>
+    /// <summary>Gets the unit of length of the project.</summary>
     public override UnitType UnitType => IfcUnits.LengthUnit(Model) is var unit && unit == UnitType.Unitless
         ? UnitlessDefaultUnitType
         : unit;
@@ -76,24 +74,21 @@ public sealed class IfcImage : Image
     internal IfcModel Model { get; }
 
     /// <inheritdoc/>
-    internal override IEnumerable<Type> ExportOptionTypes => [typeof(IfcOptions)];
-
-    /// <inheritdoc/>
     public override void CacheData() => VerifyNotDisposed();
 
-    /// <summary>Gives the instance of a number.</summary>
-    /// <param name="instanceId">The number behind the # sign.</param>
-    /// <returns>The instance, or nothing.</returns>
+    /// <summary>Returns an instance by its identifier.</summary>
+    /// <param name="instanceId">The number after the # sign.</param>
+    /// <returns>The instance, or <see langword="null"/>.</returns>
     public IIfcEntity? GetEntity(long instanceId)
     {
         VerifyNotDisposed();
         return Model.Find(instanceId);
     }
 
-    /// <summary>Gives the instance of a global identifier. The first few searches go through the file, further ones
-    /// through a table.</summary>
+    /// <summary>Returns an instance by its GlobalId. The first searches scan the file; then an index is
+    /// built.</summary>
     /// <param name="globalId">The identifier, 22 characters.</param>
-    /// <returns>The instance, or nothing.</returns>
+    /// <returns>The instance, or <see langword="null"/>.</returns>
     public IIfcEntity? GetEntityByGlobalId(string globalId)
     {
         VerifyNotDisposed();
@@ -101,16 +96,16 @@ public sealed class IfcImage : Image
         return Model.FindGlobalId(globalId);
     }
 
-    /// <summary>Gives the instances of an entity and of all that are derived from it.</summary>
-    /// <param name="entityName">The name in the schema, in any case, with or without the edition behind it.</param>
-    /// <returns>The instances of an entity and of all that are derived from it.</returns>
+    /// <summary>Returns the instances of an entity and of its subtypes, in file order.</summary>
+    /// <param name="entityName">The name in the schema, in any case, with or without the version suffix.</param>
+    /// <returns>The instances.</returns>
     /// <exception cref="IfcImageException">The schema has no such entity.</exception>
     public IReadOnlyList<IIfcEntity> GetEntitiesOfType(string entityName) => GetEntitiesOfType(entityName, false);
 
-    /// <summary>Gives the instances of an entity, in the order of the file.</summary>
-    /// <param name="entityName">The name in the schema, in any case, with or without the edition behind it.</param>
-    /// <param name="isExact">Whether entities that are derived from it are left out.</param>
-    /// <returns>The instances of an entity, in the order of the file.</returns>
+    /// <summary>Returns the instances of an entity, in file order.</summary>
+    /// <param name="entityName">The name in the schema, in any case, with or without the version suffix.</param>
+    /// <param name="isExact">Whether instances of subtypes are left out.</param>
+    /// <returns>The instances.</returns>
     /// <exception cref="IfcImageException">The schema has no such entity.</exception>
     public IReadOnlyList<IIfcEntity> GetEntitiesOfType(string entityName, bool isExact)
     {
@@ -121,10 +116,10 @@ public sealed class IfcImage : Image
         return Model.OfClass(found, isExact);
     }
 
-    /// <summary>Adds an instance that was made in memory, and those it refers to that belong to no model. They get the
-    /// numbers behind the largest one.</summary>
+    /// <summary>Adds an instance that was created in memory, and the instances it refers to that belong to no model.
+    /// Their identifiers follow the largest one.</summary>
     /// <param name="entity">The instance.</param>
-    /// <exception cref="IfcImageException">It belongs to a model, or is of another edition.</exception>
+    /// <exception cref="IfcImageException">It belongs to a model, or is of another schema version.</exception>
     public void AddEntity(IIfcEntity entity)
     {
         VerifyNotDisposed();
@@ -137,9 +132,9 @@ public sealed class IfcImage : Image
         Model.Add(one);
     }
 
-    /// <summary>Removes an instance that no other refers to.</summary>
+    /// <summary>Removes an instance to which no other refers.</summary>
     /// <param name="entity">The instance.</param>
-    /// <exception cref="IfcImageException">It is not of this model, or others refer to it.</exception>
+    /// <exception cref="IfcImageException">It does not belong to this model, or others refer to it.</exception>
     public void RemoveEntity(IIfcEntity entity)
     {
         VerifyNotDisposed();
@@ -152,50 +147,28 @@ public sealed class IfcImage : Image
         Model.Remove(one);
     }
 
-    /// <summary>Gives the texts that the model shows: those of its text literals.</summary>
-    /// <returns>The texts that the model shows.</returns>
+    /// <summary>Returns the strings that the model displays: those of its text literals (IfcTextLiteral).</summary>
+    /// <returns>The strings.</returns>
     public override string[] GetStrings() =>
     [
         .. GetEntitiesOfType("IfcTextLiteral").Select(one => one.GetAttribute("Literal")).OfType<string>(),
     ];
 
     /// <inheritdoc/>
-    internal override bool SupportsExport(ImageOptionsBase options) => options is IfcOptions;
-
-    /// <inheritdoc/>
-    internal override void Export(ImageOptionsBase options, Stream stream)
-    {
-        options.VerifyHonoured(OutputKind.Model);
-        IfcSaver.Save(Model, Header, ((IfcOptions)options).IsPacked, stream);
-    }
-
-    /// <inheritdoc/>
     internal override string Content => $"{Version} with {Model.Entities.Count} instances";
 
     /// <inheritdoc/>
-    internal override FileFormat OwnFormat => Version == IfcVersion.IFC2X3 ? FileFormat.IFC2X3 : FileFormat.IFC4;
+    private protected override FileFormat NativeFormat =>
+        Version == IfcVersion.IFC2X3 ? FileFormat.IFC2X3 : FileFormat.IFC4;
 
     /// <inheritdoc/>
-    internal override void SaveData(Stream stream)
-    {
-        if (_form == IfcFileForm.Xml)
-        {
-            throw new IfcImageException("Models are not written as XML (ifcXML); save with IfcOptions, which writes STEP.");
-        }
+    IfcModel IBuildingContent.Model => Model;
 
-        IfcSaver.Save(Model, Header, _form == IfcFileForm.Packed, stream);
-    }
+    /// <inheritdoc/>
+    IfcHeader IBuildingContent.Header => Header;
 
-    // The ending tells the two forms of the notation apart.
-    internal override Action<Stream> OwnWriter(string filePath)
-    {
-        Action<Stream> write = base.OwnWriter(filePath);
-        string ending = Path.GetExtension(filePath);
-        bool isPacked = ending.Equals(".ifczip", StringComparison.OrdinalIgnoreCase);
-        return _form != IfcFileForm.Xml && (isPacked || ending.Equals(".ifc", StringComparison.OrdinalIgnoreCase))
-            ? stream => IfcSaver.Save(Model, Header, isPacked, stream)
-            : write;
-    }
+    /// <inheritdoc/>
+    IfcFileForm IBuildingContent.Form => _form;
 
     private static IfcEntityBase Own(IIfcEntity entity)
     {

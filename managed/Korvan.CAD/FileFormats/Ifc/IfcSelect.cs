@@ -6,11 +6,11 @@ using Korvan.CAD.FileFormats.StepText;
 
 namespace Korvan.CAD.FileFormats.Ifc;
 
-/// <summary>The base of the select types of all editions: a value of one of several types. It does not change; to
-/// choose another value, set the attribute to another select.</summary>
+/// <summary>The base of the select types of all schema versions: a value of one of several types. It is immutable; to
+/// change an attribute, assign another select value.</summary>
 public abstract class IfcSelect : IIfcSelect
 {
-    /// <summary>Creates a select.</summary>
+    /// <summary>Creates a select value.</summary>
     /// <param name="value">An entity or a value of a defined type that the select type admits.</param>
     /// <exception cref="IfcImageException">The select type does not admit it.</exception>
     protected IfcSelect(IIfcType value)
@@ -20,16 +20,16 @@ public abstract class IfcSelect : IIfcSelect
         if (IfcSchema.Of(value.GetType()) != IfcSchema.Of(GetType()))
         {
             throw new IfcImageException(
-                $"{GetType().Name} and {value.GetType().Name} are of different editions of the schema.");
+                $"{GetType().Name} and {value.GetType().Name} are of different schema versions.");
         }
 
         TypeName = value.TypeName;
         Value = value.PlainValue;
     }
 
-    /// <summary>Creates a select of an item of an enumeration.</summary>
+    /// <summary>Creates a select value for an enumeration item.</summary>
     /// <param name="enumeration">The name of the enumeration.</param>
-    /// <param name="item">The value of the item, from 1.</param>
+    /// <param name="item">The value of the item, counted from 1.</param>
     /// <exception cref="IfcImageException">There is no such item.</exception>
     protected IfcSelect(string enumeration, int item)
     {
@@ -52,10 +52,11 @@ public abstract class IfcSelect : IIfcSelect
     /// <inheritdoc/>
     public override string ToString() => Entity is null ? $"{TypeName}({Value})" : Entity.ToString()!;
 
-    /// <summary>Gets the value as it was read, which tells more than what is shown: bits beyond whole bytes.</summary>
+    /// <summary>Gets the value as it was read, which is more exact than what is shown: binary values keep their
+    /// bits.</summary>
     internal StepTyped? Raw { get; private set; }
 
-    /// <summary>Makes a select of what was read.</summary>
+    /// <summary>Creates a select value from what was read.</summary>
     internal static IfcSelect Make(Type type, string typeName, object? value, StepTyped? raw)
     {
         var made = (IfcSelect)System.Runtime.CompilerServices.RuntimeHelpers.GetUninitializedObject(type);

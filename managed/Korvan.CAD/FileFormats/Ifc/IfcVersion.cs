@@ -2,11 +2,11 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Ifc;
 
-/// <summary>The editions of the schema.</summary>
+/// <summary>The versions of the schema.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum IfcVersion
 {
-    /// <summary>IFC2X3, of 2006.</summary>
+    /// <summary>IFC2X3 (2006), with its corrigendum.</summary>
     IFC2X3 = 1,
 
     /// <summary>IFC4, ISO 16739:2013, with its addenda.</summary>

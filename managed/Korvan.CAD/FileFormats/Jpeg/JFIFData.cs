@@ -5,7 +5,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Jpeg;
 
-/// <summary>The head of a JPEG file (JFIF 1.02): the density of its pixels.</summary>
+/// <summary>The JFIF header of a JPEG file (JFIF 1.02): its pixel density.</summary>
 public class JFIFData
 {
     private const double CentimetresPerInch = 2.54;
@@ -13,34 +13,34 @@ public class JFIFData
     private int _xDensity = 96;
     private int _yDensity = 96;
 
-    /// <summary>Creates a head that states 96 pixels an inch.</summary>
+    /// <summary>Creates a header of 96 pixels per inch.</summary>
     public JFIFData()
     {
     }
 
-    /// <summary>Gets or sets what the densities count.</summary>
+    /// <summary>Gets or sets the unit of the densities. Pixels per inch by default.</summary>
     public JfifDensityUnits DensityUnits { get; set; } = JfifDensityUnits.PixelsPerInch;
 
-    /// <summary>Gets or sets the density along X, 1 to 65535.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    /// <summary>Gets or sets the density along X, 1 to 65535. 96 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is out of range.</exception>
     public int XDensity
     {
         get => _xDensity;
         set => _xDensity = Verified(value);
     }
 
-    /// <summary>Gets or sets the density along Y, 1 to 65535.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    /// <summary>Gets or sets the density along Y, 1 to 65535. 96 by default.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is out of range.</exception>
     public int YDensity
     {
         get => _yDensity;
         set => _yDensity = Verified(value);
     }
 
-    /// <summary>Gets the version, the major number in the higher byte: 0x0102 for 1.02.</summary>
+    /// <summary>Gets the JFIF version, the major number in the higher byte: 0x0102 for 1.02.</summary>
     public int Version { get; private init; } = 0x0102;
 
-    /// <summary>Reads the segment APP0; nothing where it is not that of JFIF.</summary>
+    /// <summary>Reads an APP0 segment; returns null where it is not JFIF.</summary>
     internal static JFIFData? Read(ReadOnlySpan<byte> data)
     {
         return data.Length < 12 || !data.StartsWith("JFIF\0"u8)
@@ -60,7 +60,7 @@ public class JFIFData
         _yDensity = (int)Math.Clamp(Math.Round(vertical), 1, ushort.MaxValue),
     };
 
-    /// <summary>Pixels an inch; 0 where the units say nothing of size.</summary>
+    /// <summary>Returns pixels per inch; 0 where the densities have no unit.</summary>
     internal (double X, double Y) PerInch()
     {
         double factor = DensityUnits switch

@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Jpeg;
 
-/// <summary>What the densities of a JPEG count (JFIF 1.02).</summary>
+/// <summary>Unit of the densities of a JPEG (JFIF 1.02).</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum JfifDensityUnits
 {
-    /// <summary>Nothing: they give the shape of a pixel alone.</summary>
+    /// <summary>No unit: the values give only the aspect ratio of a pixel.</summary>
     NoUnits = 0,
 
-    /// <summary>Pixels in an inch.</summary>
+    /// <summary>Pixels per inch.</summary>
     PixelsPerInch = 1,
 
-    /// <summary>Pixels in a centimetre.</summary>
+    /// <summary>Pixels per centimetre.</summary>
     PixelsPerCm = 2,
 }

@@ -2,22 +2,22 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Jpeg;
 
-/// <summary>The colours that a JPEG stores.</summary>
+/// <summary>Colour space of a JPEG.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum JpegCompressionColorMode
 {
-    /// <summary>Lightness alone.</summary>
+    /// <summary>Grayscale.</summary>
     Grayscale = 0,
 
-    /// <summary>Lightness and two differences of colour: the usual one.</summary>
+    /// <summary>Y'CbCr: luma and two chroma components; the most common.</summary>
     YCbCr = 1,
 
-    /// <summary>Cyan, magenta and yellow as lightness and differences, and black: for print.</summary>
+    /// <summary>YCCK: cyan, magenta and yellow as luma and chroma, plus black; for print.</summary>
     Ycck = 2,
 
-    /// <summary>Red, green and blue as they are. Such files are read; none are written.</summary>
+    /// <summary>RGB. Such files are read, but not written.</summary>
     Rgb = 3,
 
-    /// <summary>Cyan, magenta, yellow and black as they are. Such files are read; none are written.</summary>
+    /// <summary>CMYK. Such files are read, but not written.</summary>
     Cmyk = 4,
 }

@@ -2,13 +2,13 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Jpeg;
 
-/// <summary>The order in which a JPEG stores its picture.</summary>
+/// <summary>Order of the scans of a JPEG.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum JpegCompressionMode
 {
-    /// <summary>From the top down, in one pass.</summary>
+    /// <summary>Baseline: one scan from the top down.</summary>
     Baseline = 0,
 
-    /// <summary>Coarse first, then finer; somewhat smaller.</summary>
+    /// <summary>Progressive: coarse first, then finer; files are somewhat smaller.</summary>
     Progressive = 1,
 }

@@ -1,9 +1,9 @@
 namespace Korvan.CAD.FileFormats.Pdf;
 
-/// <summary>Particulars of a portable document.</summary>
+/// <summary>The document properties of a PDF document.</summary>
 public class PdfDocumentInfo
 {
-    /// <summary>Creates particulars that are empty.</summary>
+    /// <summary>Creates empty properties.</summary>
     public PdfDocumentInfo()
     {
     }
@@ -11,12 +11,12 @@ public class PdfDocumentInfo
     /// <summary>Gets or sets the title.</summary>
     public string Title { get; set; } = "";
 
-    /// <summary>Gets or sets who wrote it.</summary>
+    /// <summary>Gets or sets the author.</summary>
     public string Author { get; set; } = "";
 
-    /// <summary>Gets or sets what it is about.</summary>
+    /// <summary>Gets or sets the subject.</summary>
     public string Subject { get; set; } = "";
 
-    /// <summary>Gets or sets words to find it by.</summary>
+    /// <summary>Gets or sets the keywords.</summary>
     public string Keywords { get; set; } = "";
 }

@@ -2,22 +2,22 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Png;
 
-/// <summary>What the pixels of a PNG store (ISO/IEC 15948).</summary>
+/// <summary>Colour type of a PNG (ISO/IEC 15948).</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum PngColorType
 {
-    /// <summary>Lightness.</summary>
+    /// <summary>Grayscale.</summary>
     Grayscale = 0,
 
-    /// <summary>Red, green and blue.</summary>
+    /// <summary>RGB.</summary>
     Truecolor = 2,
 
-    /// <summary>Numbers of colours in a palette.</summary>
+    /// <summary>Palette indices.</summary>
     IndexedColor = 3,
 
-    /// <summary>Lightness and opacity.</summary>
+    /// <summary>Grayscale with alpha.</summary>
     GrayscaleWithAlpha = 4,
 
-    /// <summary>Red, green, blue and opacity.</summary>
+    /// <summary>RGB with alpha.</summary>
     TruecolorWithAlpha = 6,
 }

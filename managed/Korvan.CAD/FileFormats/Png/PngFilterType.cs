@@ -2,25 +2,25 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Png;
 
-/// <summary>What of a line is stored before it is compressed (ISO/IEC 15948).</summary>
+/// <summary>Filter of a row before compression (ISO/IEC 15948, clause 9).</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum PngFilterType
 {
-    /// <summary>The bytes themselves.</summary>
+    /// <summary>None: the bytes themselves.</summary>
     None = 0,
 
-    /// <summary>Differences to the pixel at the left.</summary>
+    /// <summary>Horizontal differences: to the pixel at the left.</summary>
     Sub = 1,
 
-    /// <summary>Differences to the line above.</summary>
+    /// <summary>Up: differences from the row above.</summary>
     Up = 2,
 
-    /// <summary>Differences to the mean of both.</summary>
+    /// <summary>Average: differences from the mean of left and above.</summary>
     Average = 3,
 
-    /// <summary>Differences to the best guess from left, above and upper left.</summary>
+    /// <summary>Paeth: differences from the best predictor of left, above and upper left.</summary>
     Paeth = 4,
 
-    /// <summary>For each line the filter whose differences are smallest in sum.</summary>
+    /// <summary>For each row the filter with the smallest sum of absolute differences.</summary>
     Adaptive = 5,
 }

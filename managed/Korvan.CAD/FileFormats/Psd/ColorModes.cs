@@ -2,31 +2,31 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Psd;
 
-/// <summary>The colour mode of a PSD.</summary>
+/// <summary>Colour mode of a PSD.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ColorModes
 {
     /// <summary>Black and white.</summary>
     Bitmap = 0,
 
-    /// <summary>Lightness.</summary>
+    /// <summary>Grayscale.</summary>
     Grayscale = 1,
 
-    /// <summary>Numbers of colours in a palette.</summary>
+    /// <summary>Palette indices.</summary>
     Indexed = 2,
 
-    /// <summary>Red, green and blue.</summary>
+    /// <summary>RGB.</summary>
     Rgb = 3,
 
-    /// <summary>Cyan, magenta, yellow and black.</summary>
+    /// <summary>CMYK.</summary>
     Cmyk = 4,
 
-    /// <summary>Channels of no fixed meaning.</summary>
+    /// <summary>Multichannel: channels of no fixed meaning.</summary>
     Multichannel = 7,
 
-    /// <summary>Lightness, printed with inks of choice.</summary>
+    /// <summary>Duotone: grayscale, printed with custom inks.</summary>
     Duotone = 8,
 
-    /// <summary>The colours of CIE L*a*b*.</summary>
+    /// <summary>CIE L*a*b*.</summary>
     Lab = 9,
 }

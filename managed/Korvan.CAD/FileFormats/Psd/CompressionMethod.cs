@@ -2,19 +2,19 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Psd;
 
-/// <summary>How the merged picture of a PSD is stored.</summary>
+/// <summary>Compression of the merged image of a PSD.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum CompressionMethod
 {
-    /// <summary>Plain.</summary>
+    /// <summary>Uncompressed.</summary>
     Raw = 0,
 
-    /// <summary>Run lengths of each line.</summary>
+    /// <summary>PackBits run-length encoding of each row.</summary>
     Rle = 1,
 
-    /// <summary>Deflate. Layers may have it; merged pictures are neither read nor written so.</summary>
+    /// <summary>Deflate; for layers only. Merged images are neither read nor written so.</summary>
     ZipWithoutPrediction = 2,
 
-    /// <summary>Deflate over differences; for layers only, as above.</summary>
+    /// <summary>Deflate with prediction; for layers only, as above.</summary>
     ZipWithPrediction = 3,
 }

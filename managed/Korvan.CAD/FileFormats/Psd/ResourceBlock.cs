@@ -6,31 +6,31 @@ using Korvan.CAD.Raster.Codecs;
 
 namespace Korvan.CAD.FileFormats.Psd;
 
-/// <summary>A block of a PSD that holds what is no pixel: guides, previews, metadata.</summary>
+/// <summary>An image resource block of a PSD: guides, thumbnails, metadata.</summary>
 public abstract class ResourceBlock
 {
     private string _name = "";
 
     internal ResourceBlock(int id) => ID = id;
 
-    /// <summary>Whether a block is as it stands in a file.</summary>
+    /// <summary>State of a block relative to the file.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum ResourceBlockState
     {
-        /// <summary>It was made in memory.</summary>
+        /// <summary>Created in memory.</summary>
         New = 0,
 
-        /// <summary>It was read and not changed.</summary>
+        /// <summary>Read and not changed.</summary>
         Unchanged = 1,
 
-        /// <summary>It was read and changed.</summary>
+        /// <summary>Read and changed.</summary>
         Changed = 2,
     }
 
-    /// <summary>Gets the number that tells what the block holds.</summary>
+    /// <summary>Gets the resource number, which determines the content.</summary>
     public int ID { get; }
 
-    /// <summary>Gets or sets the name, at most 255 bytes; usually empty.</summary>
+    /// <summary>Gets or sets the name, at most 255 bytes; typically empty.</summary>
     /// <exception cref="ArgumentException">The name is too long.</exception>
     public string Name
     {
@@ -48,23 +48,23 @@ public abstract class ResourceBlock
         }
     }
 
-    /// <summary>Gets whether the block is as it stands in a file.</summary>
+    /// <summary>Gets the state relative to the file.</summary>
     public ResourceBlockState State { get; private set; }
 
-    /// <summary>Gets how many bytes the content has.</summary>
+    /// <summary>Gets the size of the content in bytes.</summary>
     public int DataSize => ToBytes().Length;
 
     /// <summary>Reads the blocks of a PSD.</summary>
     /// <param name="filePath">The path of the file.</param>
-    /// <returns>The blocks of a PSD.</returns>
-    /// <exception cref="PsdImageException">The file is no PSD.</exception>
+    /// <returns>The blocks.</returns>
+    /// <exception cref="PsdImageException">The file is not a PSD.</exception>
     /// <exception cref="PsdImageResourceException">A block is damaged.</exception>
     public static ResourceBlock[] ReadAll(string filePath) => PsdResources.Of(File.ReadAllBytes(filePath), filePath);
 
     /// <summary>Reads the blocks of a PSD.</summary>
     /// <param name="stream">The stream, read from its position on.</param>
-    /// <returns>The blocks of a PSD.</returns>
-    /// <exception cref="PsdImageException">The stream is no PSD.</exception>
+    /// <returns>The blocks.</returns>
+    /// <exception cref="PsdImageException">The stream is not a PSD.</exception>
     /// <exception cref="PsdImageResourceException">A block is damaged.</exception>
     public static ResourceBlock[] ReadAll(Stream stream)
     {
@@ -74,8 +74,8 @@ public abstract class ResourceBlock
         return PsdResources.Of(copy.ToArray(), "stream");
     }
 
-    /// <summary>Gives the content as it stands in the file.</summary>
-    /// <returns>The content as it stands in the file.</returns>
+    /// <summary>Returns the content as stored in a file.</summary>
+    /// <returns>The bytes of the content.</returns>
     public abstract byte[] ToBytes();
 
     internal void MarkRead(string name) => (_name, State) = (name, ResourceBlockState.Unchanged);

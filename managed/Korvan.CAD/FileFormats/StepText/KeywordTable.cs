@@ -5,10 +5,10 @@ using System.Text;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
-/// <summary>Numbers of keywords, found by their bytes without making a string.</summary>
+/// <summary>Numbers of keywords, looked up by their bytes without allocating a string.</summary>
 internal sealed class KeywordTable
 {
-    private readonly (byte[] Word, short Number)[] _slots;
+    private readonly (byte[] Keyword, short Number)[] _slots;
     private readonly int _mask;
 
     internal KeywordTable(IReadOnlyList<string> keywords)
@@ -17,23 +17,23 @@ internal sealed class KeywordTable
         _slots = new (byte[], short)[_mask + 1];
         for (int i = 0; i < keywords.Count; i++)
         {
-            byte[] word = Encoding.ASCII.GetBytes(keywords[i]);
-            int at = Hash(word) & _mask;
-            while (_slots[at].Word is not null)
+            byte[] keyword = Encoding.ASCII.GetBytes(keywords[i]);
+            int at = Hash(keyword) & _mask;
+            while (_slots[at].Keyword is not null)
             {
                 at = (at + 1) & _mask;
             }
 
-            _slots[at] = (word, (short)i);
+            _slots[at] = (keyword, (short)i);
         }
     }
 
-    /// <summary>Gives the number of a keyword, or -1.</summary>
-    internal short Find(ReadOnlySpan<byte> word)
+    /// <summary>Returns the number of a keyword; -1 if there is no such keyword.</summary>
+    internal short Find(ReadOnlySpan<byte> keyword)
     {
-        for (int at = Hash(word) & _mask; _slots[at].Word is { } known; at = (at + 1) & _mask)
+        for (int at = Hash(keyword) & _mask; _slots[at].Keyword is { } known; at = (at + 1) & _mask)
         {
-            if (word.SequenceEqual(known))
+            if (keyword.SequenceEqual(known))
             {
                 return _slots[at].Number;
             }
@@ -42,10 +42,10 @@ internal sealed class KeywordTable
         return -1;
     }
 
-    private static int Hash(ReadOnlySpan<byte> word)
+    private static int Hash(ReadOnlySpan<byte> keyword)
     {
         uint hash = 2166136261;
-        foreach (byte one in word)
+        foreach (byte one in keyword)
         {
             hash = (hash ^ one) * 16777619;
         }

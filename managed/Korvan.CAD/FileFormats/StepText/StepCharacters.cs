@@ -1,8 +1,9 @@
 using System;
+using static Korvan.CAD.Input.LoadDefectCode;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
-/// <summary>Classes of bytes, and what may stand between tokens.</summary>
+/// <summary>Character classes, spaces and comments.</summary>
 internal static class StepCharacters
 {
     internal static bool IsDigit(byte one) => (uint)(one - '0') <= 9;
@@ -13,7 +14,7 @@ internal static class StepCharacters
 
     internal static bool IsSpace(byte one) => one <= ' ';
 
-    /// <summary>Gives the place of the next token, behind spaces and comments; the length at the end.</summary>
+    /// <summary>Returns the offset of the next token, after spaces and comments; the length at the end.</summary>
     /// <exception cref="StepException">A comment has no end.</exception>
     internal static int Skip(ReadOnlySpan<byte> data, int at)
     {
@@ -27,7 +28,7 @@ internal static class StepCharacters
             else if (one == '/' && at + 1 < data.Length && data[at + 1] == '*')
             {
                 int end = data[(at + 2)..].IndexOf("*/"u8);
-                at = end >= 0 ? at + end + 4 : throw new StepException(at, "a comment has no end");
+                at = end >= 0 ? at + end + 4 : throw new StepException(UnterminatedValue, at, "a comment has no end");
             }
             else
             {

@@ -1,10 +1,13 @@
 using System;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
-/// <summary>A place in a file that breaks the rules of the format. It is worded with line and instance by whoever
-/// knows the file.</summary>
-internal sealed class StepException(int offset, string message) : Exception(message)
+/// <summary>A violation of the syntax. The caller, which knows the file, adds its name, the line and the
+/// instance.</summary>
+internal sealed class StepException(LoadDefectCode code, int offset, string message) : Exception(message)
 {
+    internal LoadDefectCode Code { get; } = code;
+
     internal int Offset { get; } = offset;
 }

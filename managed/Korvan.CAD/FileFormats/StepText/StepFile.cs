@@ -1,17 +1,18 @@
 using System;
 using System.Collections.Generic;
+using static Korvan.CAD.Input.LoadDefectCode;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
 /// <summary>
-/// A file of ISO 10303-21 in memory: its bytes, and where its records are. The section of data is scanned in several
-/// pieces at a time. Where a piece begins is a guess; it counts only if the piece before it ends exactly there.
+/// An ISO 10303-21 file in memory: its bytes and the positions of its records. Several threads scan pieces of the DATA
+/// section. The start of a piece is a guess; its result counts only if the piece ahead of it ends exactly there.
 /// </summary>
 internal sealed class StepFile
 {
-    private const int LeastPiece = 1 << 20;
+    private const int MinPieceLength = 1 << 20;
 
-    private readonly StepErrors _errors = new();
+    private readonly StepDefects _defects = new();
     private readonly List<(int Start, int End)> _damaged = [];
     private readonly List<StepIndex> _parts = [];
     private bool _isInData;
@@ -28,30 +29,30 @@ internal sealed class StepFile
 
     internal StepIndex Index { get; private set; } = new();
 
-    /// <summary>Gets the damage that was found.</summary>
-    internal StepErrors Errors => _errors;
+    /// <summary>Gets the defects that were found.</summary>
+    internal StepDefects Defects => _defects;
 
-    /// <summary>Gets the places of records that are left out because of damage.</summary>
+    /// <summary>Gets the ranges of records that are left out because they are damaged.</summary>
     internal List<(int Start, int End)> Damaged => _damaged;
 
-    /// <summary>Gets the place of the word that ends the last section of data, ahead of which records can be
-    /// added.</summary>
+    /// <summary>Gets the offset of the ENDSEC keyword of the last DATA section; new records are written ahead of
+    /// it.</summary>
     internal int DataEnd { get; private set; }
 
-    /// <summary>Gets what is missing at the end of the file.</summary>
+    /// <summary>Gets the keywords that are missing at the end of the file.</summary>
     internal string Tail { get; private set; } = string.Empty;
 
-    /// <summary>Gets whether there is no data, or so much is damaged that not all was looked at.</summary>
+    /// <summary>Gets whether there is no DATA section, or the scan gave up because of too many defects.</summary>
     internal bool IsHopeless { get; private set; }
 
     /// <summary>Reads the header.</summary>
-    /// <exception cref="StepException">It is not there, or damaged.</exception>
+    /// <exception cref="StepException">The header is missing or damaged.</exception>
     internal static StepFile Open(byte[] data, out int end) => new(data, StepHeader.Read(data, out end));
 
-    /// <summary>Scans the sections behind the header.</summary>
-    /// <param name="start">The place behind the header.</param>
+    /// <summary>Scans the sections after the header.</summary>
+    /// <param name="start">The offset after the header.</param>
     /// <param name="keywords">The names of the entities.</param>
-    /// <param name="arities">How many attributes each has; -1 for one that has no instances.</param>
+    /// <param name="arities">The number of attributes of each entity; -1 for an abstract one.</param>
     internal void ScanData(int start, KeywordTable keywords, int[] arities)
     {
         int at = start;
@@ -62,8 +63,8 @@ internal sealed class StepFile
             {
                 at = StepCharacters.Skip(Data, at);
                 StepParser parser = new(Data, at);
-                string word = parser.Keyword();
-                switch (word)
+                string keyword = parser.Keyword();
+                switch (keyword)
                 {
                     case "DATA":
                         int begin = SkipParameters(parser);
@@ -78,13 +79,15 @@ internal sealed class StepFile
                         break;
                     default:
                         throw new StepException(
-                            at, at < Data.Length ? "a section was expected" : "'END-ISO-10303-21;' is missing");
+                            InvalidSection,
+                            at,
+                            at < Data.Length ? "a section was expected" : "'END-ISO-10303-21;' is missing");
                 }
             }
         }
         catch (StepException e)
         {
-            _errors.Add(new StepError(e.Offset, 0, e.Message));
+            _defects.Add(new StepDefect(e.Code, e.Offset, 0, e.Message));
             at = _isInData ? DataEnd : at;
             _damaged.Add((at, Data.Length));
             Tail = (_isInData ? "ENDSEC;\n" : string.Empty) + "END-ISO-10303-21;\n";
@@ -96,7 +99,7 @@ internal sealed class StepFile
     {
         if (!hasData)
         {
-            _errors.Add(new StepError(at, 0, "there is no section of data"));
+            _defects.Add(new StepDefect(InvalidSection, at, 0, "there is no DATA section"));
             IsHopeless = true;
         }
 
@@ -119,10 +122,10 @@ internal sealed class StepFile
     private int SkipSection(int at)
     {
         int end = Data.AsSpan(at).IndexOf("ENDSEC;"u8);
-        return end >= 0 ? at + end + 7 : throw new StepException(at, "a section has no ENDSEC");
+        return end >= 0 ? at + end + 7 : throw new StepException(InvalidSection, at, "a section has no ENDSEC");
     }
 
-    // Gives the place behind the section.
+    // Returns the offset after the section.
     private int DataSection(int start, KeywordTable keywords, int[] arities)
     {
         _isInData = true;
@@ -131,8 +134,9 @@ internal sealed class StepFile
         StepParser parser = new(Data, at);
         if (parser.Keyword() != "ENDSEC")
         {
-            string what = at < Data.Length ? "a record or 'ENDSEC;' was expected" : "the file ends within the data";
-            throw new StepException(at, what);
+            throw at < Data.Length
+                ? new StepException(InvalidSection, at, "a record or 'ENDSEC;' was expected")
+                : new StepException(Truncated, at, "the file ends within the DATA section");
         }
 
         parser.Expect(';');
@@ -177,15 +181,15 @@ internal sealed class StepFile
     private void Accept(StepScanner scanner)
     {
         _parts.Add(scanner.Index);
-        _errors.Add(scanner.Errors);
+        _defects.Add(scanner.Defects);
         _damaged.AddRange(scanner.Damaged);
         IsHopeless |= scanner.IsHopeless;
     }
 
-    // The last one is the end of the file.
+    // The last element is the end of the file.
     private int[] PieceStarts(int start)
     {
-        int count = Math.Clamp((Data.Length - start) / LeastPiece, 1, Environment.ProcessorCount);
+        int count = Math.Clamp((Data.Length - start) / MinPieceLength, 1, Environment.ProcessorCount);
         List<int> starts = [StepCharacters.Skip(Data, start)];
         for (int i = 1; i < count; i++)
         {

@@ -1,31 +1,32 @@
 using System;
 using System.Collections.Generic;
+using static Korvan.CAD.Input.LoadDefectCode;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
 /// <summary>A record of the header section.</summary>
 /// <param name="Keyword">Its name.</param>
 /// <param name="Values">Its values.</param>
-/// <param name="Start">Where it begins.</param>
-/// <param name="End">The place behind its semicolon.</param>
+/// <param name="Start">The offset of its keyword.</param>
+/// <param name="End">The offset after its semicolon.</param>
 internal sealed record StepHeaderRecord(string Keyword, object?[] Values, int Start, int End);
 
-/// <summary>Reads what stands ahead of the data: ISO 10303-21, 8.</summary>
+/// <summary>Reads the header section: ISO 10303-21, 8.</summary>
 internal static class StepHeader
 {
-    // A few kilobytes are usual.
-    private const int MostBytes = 1 << 24;
+    // Headers typically have a few kilobytes.
+    private const int MaxBytes = 1 << 24;
 
     /// <summary>Reads the header section.</summary>
     /// <param name="data">The file.</param>
-    /// <param name="end">The place behind the section.</param>
-    /// <exception cref="StepException">It is not there, or damaged.</exception>
+    /// <param name="end">The offset after the section.</param>
+    /// <exception cref="StepException">It is missing or damaged.</exception>
     internal static List<StepHeaderRecord> Read(ReadOnlySpan<byte> data, out int end)
     {
-        data = data[..Math.Min(data.Length, MostBytes)];
+        data = data[..Math.Min(data.Length, MaxBytes)];
         int at = data.StartsWith("\uFEFF"u8) ? 3 : 0;
-        at = Word(data, at, "ISO-10303-21");
-        at = Word(data, at, "HEADER");
+        at = SkipKeyword(data, at, "ISO-10303-21");
+        at = SkipKeyword(data, at, "HEADER");
         List<StepHeaderRecord> records = [];
         while (true)
         {
@@ -41,7 +42,7 @@ internal static class StepHeader
 
             if (keyword.Length == 0)
             {
-                throw new StepException(at, "the header section has no ENDSEC");
+                throw new StepException(InvalidSection, at, "the header section has no ENDSEC");
             }
 
             object?[] values = parser.List();
@@ -51,14 +52,14 @@ internal static class StepHeader
         }
     }
 
-    // Steps over a word and its semicolon.
-    private static int Word(ReadOnlySpan<byte> data, int at, string word)
+    // Skips a required keyword and its semicolon.
+    private static int SkipKeyword(ReadOnlySpan<byte> data, int at, string keyword)
     {
         at = StepCharacters.Skip(data, at);
         StepParser parser = new(data, at);
-        if (parser.Keyword() != word)
+        if (parser.Keyword() != keyword)
         {
-            throw new StepException(at, $"'{word};' is missing");
+            throw new StepException(MissingToken, at, $"'{keyword};' is missing");
         }
 
         parser.Expect(';');

@@ -3,7 +3,7 @@ using System.Collections.Generic;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
-/// <summary>Where the records of a file are: one entry for each, in the order of the file.</summary>
+/// <summary>The offsets of the records of a file, in file order.</summary>
 internal sealed class StepIndex
 {
     private int[] _starts = [];
@@ -13,16 +13,16 @@ internal sealed class StepIndex
 
     internal int Count { get; private set; }
 
-    /// <summary>Gets the places of the # signs.</summary>
+    /// <summary>Gets the offsets of the # signs.</summary>
     internal ReadOnlySpan<int> Starts => _starts.AsSpan(0, Count);
 
-    /// <summary>Gets the places behind the semicolons.</summary>
+    /// <summary>Gets the offsets after the semicolons.</summary>
     internal ReadOnlySpan<int> Ends => _ends.AsSpan(0, Count);
 
     /// <summary>Gets the numbers of the instances.</summary>
     internal ReadOnlySpan<long> Ids => _ids.AsSpan(0, Count);
 
-    /// <summary>Gets the numbers of the keywords; -1 for one that is not known.</summary>
+    /// <summary>Gets the numbers of the keywords; -1 for an unknown one.</summary>
     internal ReadOnlySpan<short> Keywords => _keywords.AsSpan(0, Count);
 
     internal void Reserve(int count)
@@ -49,7 +49,7 @@ internal sealed class StepIndex
         _keywords[Count++] = keyword;
     }
 
-    /// <summary>Puts the parts of a file together.</summary>
+    /// <summary>Joins the indexes of consecutive pieces of a file.</summary>
     internal static StepIndex Join(IReadOnlyList<StepIndex> parts)
     {
         StepIndex all = new();

@@ -3,8 +3,8 @@ using System.Collections.Generic;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
-/// <summary>Numbers of lines, from 1, for any number of places: what lies ahead of a block is counted once. Lines end
-/// with LF or CR LF; in a file without any LF, with CR.</summary>
+/// <summary>Line numbers, from 1, of offsets. The lines ahead of each block are counted once, so that many offsets can
+/// be asked for. Lines end with LF or CR LF; in a file without any LF, with CR.</summary>
 internal sealed class StepLines(byte[] data)
 {
     private const int BlockLength = 1 << 16;

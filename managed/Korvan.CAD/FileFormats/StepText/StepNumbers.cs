@@ -4,10 +4,10 @@ using System.Text;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
-/// <summary>Writes values in the notation of ISO 10303-21.</summary>
+/// <summary>Writes numbers and binary values in the syntax of ISO 10303-21.</summary>
 internal static class StepNumbers
 {
-    /// <summary>Writes a real number: the shortest digits that give it back, always with a point.</summary>
+    /// <summary>Writes a real number: the shortest digits that round-trip, always with a decimal point.</summary>
     internal static void WriteReal(double value, StringBuilder target)
     {
         string digits = value.ToString("R", CultureInfo.InvariantCulture);
@@ -25,7 +25,7 @@ internal static class StepNumbers
         }
     }
 
-    /// <summary>Writes bits.</summary>
+    /// <summary>Writes a binary value.</summary>
     internal static void WriteBinary(StepBinary value, StringBuilder target)
     {
         int digits = (value.BitCount + 3) / 4;

@@ -2,13 +2,14 @@ using System;
 using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
+using static Korvan.CAD.Input.LoadDefectCode;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
-/// <summary>Reads the values of one record, with a reference as a <see cref="StepRef"/> and a list as an array.</summary>
+/// <summary>Parses the values of one record: a reference becomes a <see cref="StepRef"/>, a list an array.</summary>
 internal ref struct StepParser
 {
-    /// <summary>How deep lists and typed values may be nested.</summary>
+    /// <summary>The maximum depth of nested lists and typed values.</summary>
     internal const int MaxDepth = 64;
 
     private readonly ReadOnlySpan<byte> _data;
@@ -24,7 +25,7 @@ internal ref struct StepParser
 
     internal readonly ReadOnlySpan<byte> Data => _data;
 
-    /// <summary>Reads a keyword in upper case; it may be empty.</summary>
+    /// <summary>Parses a keyword and returns it in upper case; empty if there is none.</summary>
     internal string Keyword()
     {
         Skip();
@@ -37,25 +38,25 @@ internal ref struct StepParser
         return Encoding.ASCII.GetString(_data[start.._at]).ToUpperInvariant();
     }
 
-    /// <summary>Steps over a character that has to be there.</summary>
+    /// <summary>Skips a required character.</summary>
     internal void Expect(char one)
     {
         Skip();
         if (_at >= _data.Length || _data[_at] != one)
         {
-            throw new StepException(_at, $"a '{one}' is missing");
+            throw new StepException(MissingToken, _at, $"a '{one}' is missing");
         }
 
         _at++;
     }
 
-    /// <summary>Reads values in brackets.</summary>
+    /// <summary>Parses a list in parentheses.</summary>
     internal object?[] List(int depth = 0)
     {
         Expect('(');
         if (depth > MaxDepth)
         {
-            throw new StepException(_at, $"lists are nested deeper than {MaxDepth}");
+            throw new StepException(NestedTooDeep, _at, $"lists are nested deeper than {MaxDepth} levels");
         }
 
         Skip();
@@ -81,7 +82,7 @@ internal ref struct StepParser
         }
     }
 
-    /// <summary>Reads one value.</summary>
+    /// <summary>Parses a value.</summary>
     internal object? Value(int depth = 0)
     {
         Skip();
@@ -95,7 +96,7 @@ internal ref struct StepParser
                 _at++;
                 return StepOmitted.Value;
             case (byte)'\'':
-                return Text();
+                return String();
             case (byte)'#':
                 return Reference();
             case (byte)'.':
@@ -111,7 +112,7 @@ internal ref struct StepParser
 
     private void Skip() => _at = StepCharacters.Skip(_data, _at);
 
-    private string Text()
+    private string String()
     {
         int start = ++_at;
         while (true)
@@ -119,7 +120,7 @@ internal ref struct StepParser
             int length = _data[_at..].IndexOf((byte)'\'');
             if (length < 0)
             {
-                throw new StepException(start - 1, "a text has no end");
+                throw new StepException(UnterminatedValue, start - 1, "a string has no end");
             }
 
             _at += length + 1;
@@ -142,7 +143,7 @@ internal ref struct StepParser
 
         return long.TryParse(_data[start.._at], NumberStyles.None, CultureInfo.InvariantCulture, out long id)
             ? new StepRef(id)
-            : throw new StepException(start - 1, "a reference has no number, or one beyond all bounds");
+            : throw new StepException(InvalidValue, start - 1, "a reference has no number, or one out of range");
     }
 
     private StepEnum Enumeration()
@@ -156,7 +157,7 @@ internal ref struct StepParser
 
         if (end == start || end >= _data.Length || _data[end] != '.')
         {
-            throw new StepException(_at, "an item of an enumeration has no second point");
+            throw new StepException(UnterminatedValue, _at, "an enumeration item has no closing period");
         }
 
         _at = end + 1;
@@ -172,14 +173,14 @@ internal ref struct StepParser
         _ => null,
     };
 
-    // The first digit tells how many of the bits behind it are no part of the value.
+    // The first digit is the number of unused bits that follow it.
     private StepBinary Binary()
     {
         int start = _at + 1;
         int length = _data[start..].IndexOf((byte)'"');
         if (length < 1 || _data[start] is < (byte)'0' or > (byte)'3')
         {
-            throw new StepException(_at, "a binary value has no end, or no count of unused bits");
+            throw new StepException(InvalidValue, _at, "a binary value has no end, or no count of unused bits");
         }
 
         string digits = Encoding.ASCII.GetString(_data.Slice(start + 1, length - 1));
@@ -191,7 +192,7 @@ internal ref struct StepParser
         }
         catch (FormatException)
         {
-            throw new StepException(start, "a binary value has digits that are not hexadecimal");
+            throw new StepException(InvalidValue, start, "a binary value has digits that are not hexadecimal");
         }
     }
 
@@ -202,7 +203,7 @@ internal ref struct StepParser
         object?[] values = List(depth);
         return values.Length == 1
             ? new StepTyped(keyword, values[0])
-            : throw new StepException(start, $"{keyword} wants one value, not {values.Length}");
+            : throw new StepException(InvalidValue, start, $"{keyword} takes one value, not {values.Length}");
     }
 
     private object Number()
@@ -225,12 +226,12 @@ internal ref struct StepParser
         const NumberStyles Real = Whole | NumberStyles.AllowDecimalPoint | NumberStyles.AllowExponent;
         return double.TryParse(digits, Real, CultureInfo.InvariantCulture, out double real) && double.IsFinite(real)
             ? real
-            : throw new StepException(start, $"'{Excerpt(digits)}' is no value");
+            : throw new StepException(InvalidValue, start, $"'{Excerpt(digits)}' is no value");
     }
 
     private static string Excerpt(ReadOnlySpan<byte> data)
     {
-        const int Longest = 20;
-        return Encoding.Latin1.GetString(data.Length > Longest ? data[..Longest] : data);
+        const int MaxLength = 20;
+        return Encoding.Latin1.GetString(data.Length > MaxLength ? data[..MaxLength] : data);
     }
 }

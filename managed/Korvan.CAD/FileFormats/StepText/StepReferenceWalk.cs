@@ -2,11 +2,11 @@ using System;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
-/// <summary>Walks over the references in a record that was verified, with the attribute that each is in.</summary>
+/// <summary>Enumerates the references in a verified record, with the attribute that each is in.</summary>
 internal ref struct StepReferenceWalk
 {
-    // What a walk looks at comes ahead of digits and letters.
-    private const byte LastMark = (byte)'/';
+    // Delimiters sort ahead of digits and letters.
+    private const byte LastDelimiter = (byte)'/';
 
     private readonly ReadOnlySpan<byte> _data;
     private int _at;
@@ -25,16 +25,16 @@ internal ref struct StepReferenceWalk
     /// <summary>Gets the number of the instance that is referred to.</summary>
     internal long Id { get; private set; }
 
-    /// <summary>Gets the place of the attribute.</summary>
+    /// <summary>Gets the zero-based index of the attribute.</summary>
     internal int Attribute { get; private set; }
 
-    /// <summary>Goes to the next reference.</summary>
+    /// <summary>Advances to the next reference.</summary>
     internal bool MoveNext()
     {
         while ((uint)_at < (uint)_data.Length)
         {
             byte one = _data[_at];
-            if (one > LastMark)
+            if (one > LastDelimiter)
             {
                 _at++;
                 continue;
@@ -46,7 +46,7 @@ internal ref struct StepReferenceWalk
                     ReadId();
                     return true;
                 case (byte)'\'':
-                    SkipText();
+                    SkipString();
                     continue;
                 case (byte)'(':
                     _depth++;
@@ -68,8 +68,8 @@ internal ref struct StepReferenceWalk
         return false;
     }
 
-    // A doubled apostrophe is read as the end of one text and the beginning of the next.
-    private void SkipText()
+    // A doubled apostrophe is read as the end of one string and the beginning of the next.
+    private void SkipString()
     {
         for (_at++; (uint)_at < (uint)_data.Length && _data[_at] != '\''; _at++)
         {

@@ -1,21 +1,22 @@
 using System;
 using System.Collections.Generic;
 using System.Text;
+using static Korvan.CAD.Input.LoadDefectCode;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
 /// <summary>
-/// Goes once over the records of a data section, verifies their syntax and notes where they are. Values are not
-/// made; that is done record by record when they are asked for.
+/// Scans the records of a DATA section once, verifies their syntax and notes their offsets. Values are parsed later,
+/// record by record, when they are asked for.
 /// </summary>
 internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arities)
 {
-    // Room for as many as there may be, taken at once, costs less than room that grows.
-    private const int BytesOfShortRecord = 44;
+    // Reserving for as many records as there may be costs less than growing.
+    private const int ShortRecordLength = 44;
 
-    private const int MostDamaged = 10_000;
+    private const int MaxDamaged = 10_000;
 
-    private readonly StepErrors _errors = new();
+    private readonly StepDefects _defects = new();
     private readonly List<(int Start, int End)> _damaged = [];
     private readonly StepIndex _index = new();
     private int _at;
@@ -23,22 +24,23 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
 
     internal StepIndex Index => _index;
 
-    internal StepErrors Errors => _errors;
+    internal StepDefects Defects => _defects;
 
-    /// <summary>Gets the places of what was left out because of damage.</summary>
+    /// <summary>Gets the ranges that are left out because they are damaged.</summary>
     internal IReadOnlyList<(int Start, int End)> Damaged => _damaged;
 
-    /// <summary>Gets whether so much is damaged that the scan gave up.</summary>
-    internal bool IsHopeless => _damaged.Count >= MostDamaged;
+    /// <summary>Gets whether the scan gave up because of too many defects.</summary>
+    internal bool IsHopeless => _damaged.Count >= MaxDamaged;
 
-    /// <summary>Gets where the scan ended: at the first record that it left to others, or what is no record.</summary>
+    /// <summary>Gets the offset at which the scan ended: that of the first record beyond its limit, or of what is no
+    /// record.</summary>
     internal int At => _at;
 
-    /// <summary>Scans from the first record to the last that begins before a limit.</summary>
+    /// <summary>Scans the records that begin in a range.</summary>
     internal void Scan(int start, int limit)
     {
         _at = start;
-        _index.Reserve((limit - start) / BytesOfShortRecord);
+        _index.Reserve((limit - start) / ShortRecordLength);
         while (true)
         {
             try
@@ -67,20 +69,20 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
         _at = StepCharacters.Skip(data, _at);
         Take('=');
         _at = StepCharacters.Skip(data, _at);
-        int wordStart = _at;
+        int nameStart = _at;
         while (_at < data.Length && StepCharacters.IsKeyword(data[_at]))
         {
             _at++;
         }
 
         short keyword = -1;
-        if (_at > wordStart)
+        if (_at > nameStart)
         {
-            ReadOnlySpan<byte> word = data.AsSpan(wordStart, _at - wordStart);
-            keyword = keywords.Find(word);
-            keyword = keyword >= 0 ? keyword : keywords.Find(Encoding.ASCII.GetBytes(Text(word).ToUpperInvariant()));
+            ReadOnlySpan<byte> name = data.AsSpan(nameStart, _at - nameStart);
+            keyword = keywords.Find(name);
+            keyword = keyword >= 0 ? keyword : keywords.Find(Encoding.ASCII.GetBytes(Excerpt(name).ToUpperInvariant()));
             int count = Parameters();
-            keyword = Verified(keyword, word, count, start, id);
+            keyword = Verified(keyword, name, count, start, id);
         }
         else
         {
@@ -95,39 +97,42 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
     private long Id(int start)
     {
         long id = 0;
-        const long Largest = long.MaxValue / 10 - 1;
+        const long MaxPrefix = long.MaxValue / 10 - 1;
         while (_at < data.Length && StepCharacters.IsDigit(data[_at]))
         {
-            if (id > Largest)
+            if (id > MaxPrefix)
             {
-                throw new StepException(start, "the number of an instance is beyond all bounds");
+                throw new StepException(InvalidId, start, "the number of an instance is out of range");
             }
 
             id = (id * 10) + data[_at++] - '0';
         }
 
-        return _at > start + 1 && id > 0 ? id : throw new StepException(start, "an instance has no number above 0");
+        return _at > start + 1 && id > 0
+            ? id
+            : throw new StepException(InvalidId, start, "an instance has no number above 0");
     }
 
-    // Gives the keyword; -1 for one of which there can be no instance.
-    private short Verified(short keyword, ReadOnlySpan<byte> word, int count, int start, long id)
+    // Returns the keyword; -1 for an entity that cannot have instances.
+    private short Verified(short keyword, ReadOnlySpan<byte> name, int count, int start, long id)
     {
         int arity = keyword < 0 ? -1 : arities[keyword];
         if (arity < 0)
         {
-            string message = keyword < 0
-                ? $"the schema has no entity {Text(word)}"
-                : $"{Text(word)} is abstract and has no instances of its own";
-            _errors.Add(new StepError(start, id, message));
+            _defects.Add(keyword < 0
+                ? new StepDefect(UnknownEntity, start, id, $"the schema has no entity {Excerpt(name)}")
+                : new StepDefect(
+                    AbstractEntity, start, id, $"{Excerpt(name)} is abstract and has no instances of its own"));
             return -1;
         }
 
         return count == arity
             ? keyword
-            : throw new StepException(start, $"{Text(word)} has {arity} attributes, {count} are given");
+            : throw new StepException(
+                AttributeCount, start, $"{Excerpt(name)} has {arity} attributes, {count} are given");
     }
 
-    // Several partial records in brackets: #1=(A(1)B(2));
+    // Partial records in parentheses: #1=(A(1)B(2));
     private void Complex(int start, long id)
     {
         Take('(');
@@ -135,21 +140,21 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
         while (true)
         {
             _at = StepCharacters.Skip(data, _at);
-            int wordStart = _at;
+            int nameStart = _at;
             while (_at < data.Length && StepCharacters.IsKeyword(data[_at]))
             {
                 _at++;
             }
 
-            if (_at == wordStart)
+            if (_at == nameStart)
             {
                 break;
             }
 
-            ReadOnlySpan<byte> word = data.AsSpan(wordStart, _at - wordStart);
-            if (keywords.Find(word) < 0)
+            ReadOnlySpan<byte> name = data.AsSpan(nameStart, _at - nameStart);
+            if (keywords.Find(name) < 0)
             {
-                _errors.Add(new StepError(start, id, $"the schema has no entity {Text(word)}"));
+                _defects.Add(new StepDefect(UnknownEntity, start, id, $"the schema has no entity {Excerpt(name)}"));
             }
 
             Parameters();
@@ -158,13 +163,13 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
 
         if (parts == 0)
         {
-            throw new StepException(_at, "the name of an entity is missing");
+            throw new StepException(MissingToken, _at, "the name of an entity is missing");
         }
 
         Take(')');
     }
 
-    // Verifies values in brackets and gives how many stand on the outermost level.
+    // Verifies a parameter list and returns the number of values on its outermost level.
     private int Parameters()
     {
         _at = StepCharacters.Skip(data, _at);
@@ -183,17 +188,18 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
             else
             {
                 count += depth == 1 ? 1 : 0;
-                if (Opens())
+                if (SkipValue())
                 {
                     afterOpen = true;
                     depth = depth < StepParser.MaxDepth
                         ? depth + 1
-                        : throw new StepException(_at, $"lists are nested deeper than {StepParser.MaxDepth}");
+                        : throw new StepException(
+                            NestedTooDeep, _at, $"lists are nested deeper than {StepParser.MaxDepth} levels");
                     continue;
                 }
             }
 
-            // Behind a value: brackets that close, then a comma or the end.
+            // After a value: closing parentheses, then a comma or the end.
             afterOpen = false;
             while (true)
             {
@@ -203,22 +209,24 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
                 }
 
                 _at = StepCharacters.Skip(data, _at);
-                byte one = _at < data.Length ? data[_at] : throw Cut();
+                byte one = _at < data.Length ? data[_at] : throw Truncation();
                 _at++;
                 if (one == ',')
                 {
                     break;
                 }
 
-                depth = one == ')' ? depth - 1 : throw new StepException(_at - 1, "a ',' or ')' is missing");
+                depth = one == ')'
+                    ? depth - 1
+                    : throw new StepException(MissingToken, _at - 1, "a ',' or ')' is missing");
             }
         }
     }
 
-    // Steps over a value; true for one that is a list or typed, behind its opening bracket.
-    private bool Opens()
+    // Skips a value. For a list or a typed value, only its opening parenthesis is skipped, and true is returned.
+    private bool SkipValue()
     {
-        byte one = _at < data.Length ? data[_at] : throw Cut();
+        byte one = _at < data.Length ? data[_at] : throw Truncation();
         switch (one)
         {
             case (byte)'(':
@@ -228,10 +236,10 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
                 _at++;
                 return false;
             case (byte)'\'':
-                SkipText();
+                SkipString();
                 return false;
             case (byte)'#':
-                SkipDigits();
+                SkipReference();
                 return false;
             case (byte)'.':
                 SkipEnumeration();
@@ -242,7 +250,7 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
             default:
                 if (StepCharacters.IsLetter(one))
                 {
-                    SkipWord();
+                    SkipKeyword();
                     _at = StepCharacters.Skip(data, _at);
                     Take('(');
                     return true;
@@ -253,7 +261,7 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
         }
     }
 
-    private void SkipText()
+    private void SkipString()
     {
         int start = _at++;
         while (true)
@@ -265,7 +273,7 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
 
             if (++_at > data.Length)
             {
-                throw new StepException(start, "a text has no end");
+                throw new StepException(UnterminatedValue, start, "a string has no end");
             }
 
             if (_at == data.Length || data[_at] != '\'')
@@ -277,7 +285,7 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
         }
     }
 
-    private void SkipDigits()
+    private void SkipReference()
     {
         int start = ++_at;
         while (_at < data.Length && StepCharacters.IsDigit(data[_at]))
@@ -287,17 +295,17 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
 
         if (_at == start)
         {
-            throw new StepException(start - 1, "a reference has no number");
+            throw new StepException(InvalidValue, start - 1, "a reference has no number");
         }
     }
 
     private void SkipEnumeration()
     {
         int start = _at++;
-        SkipWord();
+        SkipKeyword();
         if (_at >= data.Length || data[_at] != '.' || _at == start + 1)
         {
-            throw new StepException(start, "an item of an enumeration has no second point");
+            throw new StepException(UnterminatedValue, start, "an enumeration item has no closing period");
         }
 
         _at++;
@@ -306,10 +314,12 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
     private void SkipBinary()
     {
         int length = data.AsSpan(_at + 1).IndexOf((byte)'"');
-        _at = length >= 0 ? _at + length + 2 : throw new StepException(_at, "a binary value has no end");
+        _at = length >= 0
+            ? _at + length + 2
+            : throw new StepException(UnterminatedValue, _at, "a binary value has no end");
     }
 
-    private void SkipWord()
+    private void SkipKeyword()
     {
         while (_at < data.Length && StepCharacters.IsKeyword(data[_at]))
         {
@@ -329,7 +339,7 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
 
         if (!hasDigit)
         {
-            throw new StepException(start, $"no value can begin with '{Text(data.AsSpan(start, 1))}'");
+            throw new StepException(InvalidValue, start, $"no value can begin with '{Excerpt(data.AsSpan(start, 1))}'");
         }
     }
 
@@ -337,27 +347,27 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
     {
         if (_at >= data.Length)
         {
-            throw Cut();
+            throw Truncation();
         }
 
         if (data[_at] != one)
         {
-            throw new StepException(_at, $"a '{one}' is missing");
+            throw new StepException(MissingToken, _at, $"a '{one}' is missing");
         }
 
         _at++;
     }
 
-    private StepException Cut() => new(data.Length, "the file ends within a record");
+    private StepException Truncation() => new(Truncated, data.Length, "the file ends within a record");
 
-    // Goes on at the next line that begins a record, or at the end of the section.
+    // Resumes at the next line that begins a record, or at the end of the section.
     private void Recover(StepException error)
     {
         int from = Math.Min(error.Offset, data.Length);
         int start = _recordStart;
-        _errors.Add(new StepError(from, IdAt(start), error.Message));
+        _defects.Add(new StepDefect(error.Code, from, IdAt(start), error.Message));
         int at = Math.Max(_at, start + 1);
-        // A comment without end takes all that follows with it.
+        // A comment without an end hides all that follows.
         at = data.AsSpan(from).StartsWith("/*"u8) ? data.Length : at;
         while (true)
         {
@@ -399,9 +409,9 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
         return id;
     }
 
-    private static string Text(ReadOnlySpan<byte> word)
+    private static string Excerpt(ReadOnlySpan<byte> name)
     {
-        const int Longest = 60;
-        return Encoding.Latin1.GetString(word.Length > Longest ? word[..Longest] : word);
+        const int MaxLength = 60;
+        return Encoding.Latin1.GetString(name.Length > MaxLength ? name[..MaxLength] : name);
     }
 }

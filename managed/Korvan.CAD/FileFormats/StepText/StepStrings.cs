@@ -2,23 +2,24 @@ using System;
 using System.Buffers;
 using System.Globalization;
 using System.Text;
+using static Korvan.CAD.Input.LoadDefectCode;
 
 namespace Korvan.CAD.FileFormats.StepText;
 
-/// <summary>Texts between apostrophes, with the directives of ISO 10303-21, 6.4.3, for characters beyond ASCII.</summary>
+/// <summary>Strings, with the control directives of ISO 10303-21, 6.4.3, for characters beyond ASCII.</summary>
 internal static class StepStrings
 {
     private const int CodePageBase = 28590; // ISO 8859-1 is 28591
 
-    private static readonly SearchValues<byte> s_special = SearchValues.Create("'\\"u8);
-    private static readonly UTF8Encoding s_strict = new(false, true);
+    private static readonly SearchValues<byte> SpecialBytes = SearchValues.Create("'\\"u8);
+    private static readonly UTF8Encoding StrictUtf8 = new(false, true);
 
-    /// <summary>Reads what stands between the apostrophes.</summary>
-    /// <param name="raw">The content, with doubled apostrophes.</param>
-    /// <param name="offset">Where it stands in the file, for messages.</param>
+    /// <summary>Decodes the content of a string.</summary>
+    /// <param name="raw">The bytes between the apostrophes, in which apostrophes are doubled.</param>
+    /// <param name="offset">Its offset in the file, for messages.</param>
     internal static string Decode(ReadOnlySpan<byte> raw, int offset)
     {
-        if (raw.IndexOfAny(s_special) < 0)
+        if (raw.IndexOfAny(SpecialBytes) < 0)
         {
             return Plain(raw);
         }
@@ -28,7 +29,7 @@ internal static class StepStrings
         int at = 0;
         while (at < raw.Length)
         {
-            int length = raw[at..].IndexOfAny(s_special);
+            int length = raw[at..].IndexOfAny(SpecialBytes);
             length = length < 0 ? raw.Length - at : length;
             text.Append(Plain(raw.Slice(at, length)));
             at += length;
@@ -41,7 +42,7 @@ internal static class StepStrings
         return text.ToString();
     }
 
-    /// <summary>Writes a text with its apostrophes, in ASCII alone.</summary>
+    /// <summary>Writes a string with its apostrophes, in ASCII only.</summary>
     internal static void Encode(string text, StringBuilder target)
     {
         target.Append('\'');
@@ -61,7 +62,7 @@ internal static class StepStrings
         target.Append('\'');
     }
 
-    // Characters of one width share a directive.
+    // Adjacent characters of the same width share a directive.
     private static int EncodeRun(string text, int at, StringBuilder target)
     {
         bool isWide = IsPair(text, at);
@@ -85,7 +86,7 @@ internal static class StepStrings
         return 2;
     }
 
-    // Gives the length of the directive.
+    // Returns the length of the directive.
     private static int Directive(ReadOnlySpan<byte> raw, StringBuilder text, ref int page, int offset)
     {
         byte kind = raw.Length > 1 ? raw[1] : (byte)0;
@@ -106,7 +107,7 @@ internal static class StepStrings
             case (byte)'X' when raw.Length > 3 && raw[3] == '\\' && raw[2] is (byte)'2' or (byte)'4':
                 return Wide(raw, raw[2] == '2' ? 4 : 8, text, offset);
             default:
-                // Not a directive: many programs write single backslashes, in paths above all.
+                // No directive: many programs write single backslashes, mostly in paths.
                 text.Append('\\');
                 return 1;
         }
@@ -117,7 +118,8 @@ internal static class StepStrings
         int length = raw[4..].IndexOf("\\X0\\"u8);
         if (length < 0 || length % width != 0)
         {
-            throw new StepException(offset, "a text directive \\X2\\ or \\X4\\ has no whole characters up to \\X0\\");
+            throw new StepException(
+                InvalidValue, offset, "a directive \\X2\\ or \\X4\\ has no whole characters up to \\X0\\");
         }
 
         for (int at = 4; at < 4 + length; at += width)
@@ -133,7 +135,8 @@ internal static class StepStrings
             }
             else
             {
-                throw new StepException(offset, $"a text has the character {code:X}, which does not exist");
+                throw new StepException(
+                    InvalidValue, offset, $"a string has the character {code:X}, which does not exist");
             }
         }
 
@@ -144,7 +147,7 @@ internal static class StepStrings
     {
         return uint.TryParse(digits, NumberStyles.AllowHexSpecifier, CultureInfo.InvariantCulture, out uint value)
             ? value
-            : throw new StepException(offset, "a text directive has digits that are not hexadecimal");
+            : throw new StepException(InvalidValue, offset, "a string directive has digits that are not hexadecimal");
     }
 
     private static char HighCharacter(byte low, int page)
@@ -155,7 +158,7 @@ internal static class StepStrings
             : (CodePagesEncodingProvider.Instance.GetEncoding(page) ?? Encoding.Latin1).GetString(bytes)[0];
     }
 
-    // Bytes beyond ASCII are against the older rules, but common: UTF-8, else ISO 8859-1.
+    // Earlier editions allow ASCII only, but other bytes are common: UTF-8, else ISO 8859-1.
     private static string Plain(ReadOnlySpan<byte> raw)
     {
         if (Ascii.IsValid(raw))
@@ -165,7 +168,7 @@ internal static class StepStrings
 
         try
         {
-            return s_strict.GetString(raw);
+            return StrictUtf8.GetString(raw);
         }
         catch (DecoderFallbackException)
         {

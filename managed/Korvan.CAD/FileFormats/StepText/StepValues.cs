@@ -1,6 +1,6 @@
 namespace Korvan.CAD.FileFormats.StepText;
 
-/// <summary>The asterisk: an attribute that follows from others.</summary>
+/// <summary>The asterisk: a derived attribute.</summary>
 internal sealed class StepOmitted
 {
     private StepOmitted()
@@ -10,8 +10,8 @@ internal sealed class StepOmitted
     internal static StepOmitted Value { get; } = new();
 }
 
-/// <summary>An item of an enumeration, or a truth value: .T., .F., .U.</summary>
-/// <param name="Name">The name without its points, in upper case.</param>
+/// <summary>An enumeration item, or a logical value: .T., .F., .U.</summary>
+/// <param name="Name">The name without its periods, in upper case.</param>
 internal sealed record StepEnum(string Name)
 {
     internal static StepEnum True { get; } = new("T");
@@ -27,7 +27,7 @@ internal sealed record StepRef(long Id);
 /// <summary>A value with the name of its type, such as IFCLABEL('x').</summary>
 internal sealed record StepTyped(string Keyword, object? Value);
 
-/// <summary>Bits, of which the first ones of the first byte may be no part.</summary>
-/// <param name="Bytes">The bits, the last one in the lowest place of the last byte.</param>
-/// <param name="BitCount">How many bits there are.</param>
+/// <summary>A binary value. The first bits of the first byte may be unused.</summary>
+/// <param name="Bytes">The bits; the last one is the least significant bit of the last byte.</param>
+/// <param name="BitCount">The number of bits.</param>
 internal sealed record StepBinary(byte[] Bytes, int BitCount);

@@ -2,11 +2,12 @@ using System;
 
 namespace Korvan.CAD.FileFormats.Tiff;
 
-/// <summary>Finds fractions for numbers.</summary>
+/// <summary>Approximates numbers by fractions.</summary>
 internal static class Fractions
 {
-    /// <summary>The first convergent of the continued fraction that is near enough, or the last whose parts fit.</summary>
-    internal static (long Numerator, long Denominator) Nearest(double value, double precision, long most)
+    /// <summary>The first convergent of the continued fraction that is near enough, or the last whose parts
+    /// fit.</summary>
+    internal static (long Numerator, long Denominator) Nearest(double value, double precision, long max)
     {
         double rest = Math.Abs(value);
         (long p0, long q0, long p1, long q1) = (0, 1, 1, 0);
@@ -15,7 +16,7 @@ internal static class Fractions
             double whole = Math.Floor(rest);
             double p = (whole * p1) + p0;
             double q = (whole * q1) + q0;
-            if (p > most || q > most)
+            if (p > max || q > max)
             {
                 break;
             }

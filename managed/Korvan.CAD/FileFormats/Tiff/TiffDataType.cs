@@ -5,7 +5,7 @@ using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
 namespace Korvan.CAD.FileFormats.Tiff;
 
-/// <summary>A field of a directory: its number and its values.</summary>
+/// <summary>A tag of a directory: its number and its values.</summary>
 public abstract class TiffDataType
 {
     internal TiffDataType(int tagId)
@@ -14,19 +14,19 @@ public abstract class TiffDataType
         TagId = tagId;
     }
 
-    /// <summary>Gets the number of the field, 0 to 65535.</summary>
+    /// <summary>Gets the tag number, 0 to 65535.</summary>
     public int TagId { get; }
 
     /// <summary>Gets the type of the values.</summary>
     public abstract TiffDataTypes TagType { get; }
 
-    /// <summary>Gets how many values there are.</summary>
+    /// <summary>Gets the number of values.</summary>
     public abstract int Count { get; }
 
-    /// <summary>Gets how many bytes a value takes.</summary>
+    /// <summary>Gets the size of a value in bytes.</summary>
     public abstract int ElementSize { get; }
 
-    /// <summary>Gets how many bytes the values take.</summary>
+    /// <summary>Gets the size of all values in bytes.</summary>
     public long DataSize => (long)Count * ElementSize;
 
     internal abstract void Read(TiffStreamReader reader, long position, int count);

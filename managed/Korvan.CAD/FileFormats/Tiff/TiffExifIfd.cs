@@ -10,13 +10,13 @@ using Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
 namespace Korvan.CAD.FileFormats.Tiff;
 
-/// <summary>A directory of fields, as TIFF and Exif have them (TIFF 6.0, section 2).</summary>
+/// <summary>An image file directory (IFD): a set of tags (TIFF 6.0, section 2).</summary>
 public class TiffExifIfd
 {
     internal const int EntryBytes = 12;
 
-    /// <summary>Fields may share bytes; were they all to share the whole block, its size would multiply.</summary>
-    private const int MostSharing = 4;
+    /// <summary>Tags may share bytes; if all shared the whole block, its size would multiply.</summary>
+    private const int MaxSharing = 4;
 
     private readonly SortedDictionary<int, TiffDataType> _tags = [];
 
@@ -25,26 +25,26 @@ public class TiffExifIfd
     {
     }
 
-    /// <summary>Gets the fields, in the order of their numbers.</summary>
+    /// <summary>Gets the tags in the order of their numbers.</summary>
     public TiffDataType[] Tags => [.. _tags.Values];
 
-    /// <summary>Gets how many fields there are.</summary>
+    /// <summary>Gets the number of tags.</summary>
     public int Count => _tags.Count;
 
-    /// <summary>Gets the place of the next directory in the file that this one was read from; 0 for none.</summary>
+    /// <summary>Gets the offset of the next directory in the file that this one was read from; 0 for none.</summary>
     public long NextOffset { get; private set; }
 
     /// <summary>Reads a directory.</summary>
-    /// <param name="reader">What reads the block.</param>
-    /// <param name="offset">The place of the directory in it.</param>
-    /// <returns>A directory.</returns>
-    /// <exception cref="TiffImageException">The directory or values of it lie outside of the block.</exception>
+    /// <param name="reader">A reader over the block.</param>
+    /// <param name="offset">The offset of the directory in the block.</param>
+    /// <returns>The directory.</returns>
+    /// <exception cref="TiffImageException">The directory or some of its values lie outside the block.</exception>
     public static TiffExifIfd Read(TiffStreamReader reader, long offset)
     {
         Verify.NotNull(reader);
         int count = reader.ReadUShort(offset);
         var directory = new TiffExifIfd();
-        long left = reader.Length * MostSharing;
+        long left = reader.Length * MaxSharing;
         for (int i = 0; i < count; i++)
         {
             TiffDataType tag = ReadTag(reader, offset + 2 + (EntryBytes * i), left);
@@ -58,33 +58,35 @@ public class TiffExifIfd
         return directory;
     }
 
-    /// <summary>Gives a field, or nothing.</summary>
-    /// <param name="tagId">Its number.</param>
-    /// <returns>A field, or nothing.</returns>
+    /// <summary>Returns a tag, or <see langword="null"/> where the directory has none.</summary>
+    /// <param name="tagId">The tag number.</param>
+    /// <returns>The tag, or <see langword="null"/>.</returns>
     public TiffDataType? Get(int tagId) => _tags.GetValueOrDefault(tagId);
 
-    /// <summary>Adds a field, or replaces that of the same number.</summary>
-    /// <param name="tag">The field.</param>
+    /// <summary>Adds a tag, or replaces the tag of the same number.</summary>
+    /// <param name="tag">The tag.</param>
     public void Set(TiffDataType tag)
     {
         Verify.NotNull(tag);
         _tags[tag.TagId] = tag;
     }
 
-    /// <summary>Takes a field out.</summary>
-    /// <param name="tagId">Its number.</param>
+    /// <summary>Removes a tag.</summary>
+    /// <param name="tagId">The tag number.</param>
     /// <returns>Whether it was there.</returns>
     public bool Remove(int tagId) => _tags.Remove(tagId);
 
-    /// <summary>Takes all fields out.</summary>
+    /// <summary>Removes all tags.</summary>
     public void Clear() => _tags.Clear();
 
-    /// <summary>How many bytes the directory takes, with its values.</summary>
-    internal long Size => 2 + (EntryBytes * Kept.Count()) + 4 + Kept.Sum(static tag => tag.DataSize > 4 ? Even(tag.DataSize) : 0);
+    /// <summary>Gets the size of the directory with its values in bytes.</summary>
+    internal long Size =>
+        2 + (EntryBytes * Kept.Count()) + 4 + Kept.Sum(static tag => tag.DataSize > 4 ? PaddedSize(tag.DataSize) : 0);
 
-    private IEnumerable<TiffDataType> Kept => _tags.Values.Where(static tag => tag is not TiffUnknownType && tag.Count > 0);
+    private IEnumerable<TiffDataType> Kept =>
+        _tags.Values.Where(static tag => tag is not TiffUnknownType && tag.Count > 0);
 
-    /// <summary>Writes the directory, its values right behind it.</summary>
+    /// <summary>Writes the directory, followed by its values.</summary>
     internal void Write(TiffStreamWriter writer, long offset, long next)
     {
         TiffDataType[] kept = [.. Kept];
@@ -98,7 +100,7 @@ public class TiffExifIfd
             if (tag.DataSize > 4)
             {
                 writer.WriteULong(place);
-                place += Even(tag.DataSize);
+                place += PaddedSize(tag.DataSize);
                 continue;
             }
 
@@ -110,7 +112,7 @@ public class TiffExifIfd
         foreach (TiffDataType tag in kept.Where(static tag => tag.DataSize > 4))
         {
             tag.Write(writer);
-            Pad(writer, Even(tag.DataSize) - tag.DataSize);
+            Pad(writer, PaddedSize(tag.DataSize) - tag.DataSize);
         }
     }
 
@@ -130,14 +132,14 @@ public class TiffExifIfd
         if (position + size > reader.Length || size > left)
         {
             throw new TiffImageException(
-                $"Field {id} claims {count} values at {position}, past the end of a block of {reader.Length} bytes.");
+                $"Tag {id} claims {count} values at {position}, past the end of a block of {reader.Length} bytes.");
         }
 
         tag.Read(reader, position, (int)count);
         return tag;
     }
 
-    private static long Even(long size) => (size + 1) & ~1L;
+    private static long PaddedSize(long size) => (size + 1) & ~1L;
 
     private static void Pad(TiffStreamWriter writer, long count)
     {

@@ -7,7 +7,7 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.FileFormats.Tiff;
 
-/// <summary>Which combinations of compression and samples there are.</summary>
+/// <summary>The valid combinations of compression and samples.</summary>
 internal static class TiffPresets
 {
     private static readonly int[] Rgb = [8, 8, 8];
@@ -15,27 +15,31 @@ internal static class TiffPresets
     private static readonly int[] Byte = [8];
     private static readonly int[] Bit = [1];
 
-    internal static (TiffCompressions Compression, TiffPhotometrics Photometric, int[] Bits) Of(TiffExpectedFormat format) => format switch
+    internal static (TiffCompressions Compression, TiffPhotometrics Photometric, int[] Bits) Of(
+        TiffExpectedFormat format)
     {
-        TiffExpectedFormat.TiffNoCompressionRgb => (TiffCompressions.None, TiffPhotometrics.Rgb, Rgb),
-        TiffExpectedFormat.TiffNoCompressionRgba => (TiffCompressions.None, TiffPhotometrics.Rgb, Rgba),
-        TiffExpectedFormat.TiffNoCompressionBw => (TiffCompressions.None, TiffPhotometrics.MinIsBlack, Bit),
-        TiffExpectedFormat.TiffLzwRgba => (TiffCompressions.Lzw, TiffPhotometrics.Rgb, Rgba),
-        TiffExpectedFormat.TiffLzwGray => (TiffCompressions.Lzw, TiffPhotometrics.MinIsBlack, Byte),
-        TiffExpectedFormat.TiffLzwPalette => (TiffCompressions.Lzw, TiffPhotometrics.Palette, Byte),
-        TiffExpectedFormat.TiffLzwBw => (TiffCompressions.Lzw, TiffPhotometrics.MinIsBlack, Bit),
-        TiffExpectedFormat.TiffDeflateRgb => (TiffCompressions.AdobeDeflate, TiffPhotometrics.Rgb, Rgb),
-        TiffExpectedFormat.TiffDeflateRgba => (TiffCompressions.AdobeDeflate, TiffPhotometrics.Rgb, Rgba),
-        TiffExpectedFormat.TiffDeflateGray => (TiffCompressions.AdobeDeflate, TiffPhotometrics.MinIsBlack, Byte),
-        TiffExpectedFormat.TiffDeflateBw => (TiffCompressions.AdobeDeflate, TiffPhotometrics.MinIsBlack, Bit),
-        TiffExpectedFormat.TiffJpegRgb => (TiffCompressions.Jpeg, TiffPhotometrics.Rgb, Rgb),
-        TiffExpectedFormat.TiffJpegGray => (TiffCompressions.Jpeg, TiffPhotometrics.MinIsBlack, Byte),
-        TiffExpectedFormat.TiffPackBitsRgb => (TiffCompressions.PackBits, TiffPhotometrics.Rgb, Rgb),
-        TiffExpectedFormat.TiffCcittRle => (TiffCompressions.CcittRle, TiffPhotometrics.MinIsWhite, Bit),
-        TiffExpectedFormat.TiffCcittFax3 => (TiffCompressions.CcittFax3, TiffPhotometrics.MinIsWhite, Bit),
-        TiffExpectedFormat.TiffCcittFax4 => (TiffCompressions.CcittFax4, TiffPhotometrics.MinIsWhite, Bit),
-        _ => (TiffCompressions.Lzw, TiffPhotometrics.Rgb, Rgb),
-    };
+        return format switch
+        {
+            TiffExpectedFormat.TiffNoCompressionRgb => (TiffCompressions.None, TiffPhotometrics.Rgb, Rgb),
+            TiffExpectedFormat.TiffNoCompressionRgba => (TiffCompressions.None, TiffPhotometrics.Rgb, Rgba),
+            TiffExpectedFormat.TiffNoCompressionBw => (TiffCompressions.None, TiffPhotometrics.MinIsBlack, Bit),
+            TiffExpectedFormat.TiffLzwRgba => (TiffCompressions.Lzw, TiffPhotometrics.Rgb, Rgba),
+            TiffExpectedFormat.TiffLzwGray => (TiffCompressions.Lzw, TiffPhotometrics.MinIsBlack, Byte),
+            TiffExpectedFormat.TiffLzwPalette => (TiffCompressions.Lzw, TiffPhotometrics.Palette, Byte),
+            TiffExpectedFormat.TiffLzwBw => (TiffCompressions.Lzw, TiffPhotometrics.MinIsBlack, Bit),
+            TiffExpectedFormat.TiffDeflateRgb => (TiffCompressions.AdobeDeflate, TiffPhotometrics.Rgb, Rgb),
+            TiffExpectedFormat.TiffDeflateRgba => (TiffCompressions.AdobeDeflate, TiffPhotometrics.Rgb, Rgba),
+            TiffExpectedFormat.TiffDeflateGray => (TiffCompressions.AdobeDeflate, TiffPhotometrics.MinIsBlack, Byte),
+            TiffExpectedFormat.TiffDeflateBw => (TiffCompressions.AdobeDeflate, TiffPhotometrics.MinIsBlack, Bit),
+            TiffExpectedFormat.TiffJpegRgb => (TiffCompressions.Jpeg, TiffPhotometrics.Rgb, Rgb),
+            TiffExpectedFormat.TiffJpegGray => (TiffCompressions.Jpeg, TiffPhotometrics.MinIsBlack, Byte),
+            TiffExpectedFormat.TiffPackBitsRgb => (TiffCompressions.PackBits, TiffPhotometrics.Rgb, Rgb),
+            TiffExpectedFormat.TiffCcittRle => (TiffCompressions.CcittRle, TiffPhotometrics.MinIsWhite, Bit),
+            TiffExpectedFormat.TiffCcittFax3 => (TiffCompressions.CcittFax3, TiffPhotometrics.MinIsWhite, Bit),
+            TiffExpectedFormat.TiffCcittFax4 => (TiffCompressions.CcittFax4, TiffPhotometrics.MinIsWhite, Bit),
+            _ => (TiffCompressions.Lzw, TiffPhotometrics.Rgb, Rgb),
+        };
+    }
 
     internal static TiffOptionsError Validate(TiffOptions options)
     {
@@ -46,7 +50,8 @@ internal static class TiffPresets
         }
 
         bool gray = options.Photometric is TiffPhotometrics.MinIsBlack or TiffPhotometrics.MinIsWhite;
-        if (!gray && options.Photometric is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette or TiffPhotometrics.Separated))
+        if (!gray && options.Photometric is not
+            (TiffPhotometrics.Rgb or TiffPhotometrics.Palette or TiffPhotometrics.Separated))
         {
             return TiffOptionsError.PhotometricNotSupported;
         }
@@ -77,20 +82,25 @@ internal static class TiffPresets
         return ValidateCompression(options.Compression, gray, bits, options.Photometric);
     }
 
-    /// <summary>The options that hold for some combinations only: whether each is set, whether it is followed, and what
-    /// would be right.</summary>
-    internal static IEnumerable<(string Name, bool IsSet, bool IsFollowed, string Advice)> Conditions(TiffOptions options)
+    /// <summary>Options that are valid for some combinations only: whether each is set, whether it is valid, and the
+    /// error otherwise.</summary>
+    internal static IEnumerable<(string Name, bool IsSet, bool IsFollowed, string Advice)> Conditions(
+        TiffOptions options)
     {
         bool numbers = options.Photometric == TiffPhotometrics.Palette || options.BitsPerPixel < 8;
         yield return (nameof(TiffOptions.Threshold), options.Threshold != TiffThresholds.NoDithering, numbers,
             "choose a palette or fewer than 8 bits, as other pixels keep their colours");
         yield return (nameof(TiffOptions.AlphaStorage), options.AlphaStorage != TiffAlphaStorage.Unassociated,
-            options.Photometric == TiffPhotometrics.Rgb && options.SamplesPerPixel == 4, "choose red, green, blue and a fourth sample");
-        yield return (nameof(TiffOptions.FillOrder), options.FillOrder != TiffFillOrders.Msb2Lsb, IsFax(options.Compression),
+            options.Photometric == TiffPhotometrics.Rgb && options.SamplesPerPixel == 4,
+            "choose red, green, blue and a fourth sample");
+        yield return (
+            nameof(TiffOptions.FillOrder), options.FillOrder != TiffFillOrders.Msb2Lsb, IsFax(options.Compression),
             "choose a facsimile code");
-        yield return (nameof(TiffOptions.FaxT4Options), options.FaxT4Options != 0, options.Compression == TiffCompressions.CcittFax3,
+        yield return (
+            nameof(TiffOptions.FaxT4Options), options.FaxT4Options != 0,
+            options.Compression == TiffCompressions.CcittFax3,
             "choose CCITT_FAX3");
-        yield return (nameof(TiffOptions.CompressedQuality), options.CompressedQuality != TiffOptions.UsualQuality,
+        yield return (nameof(TiffOptions.CompressedQuality), options.CompressedQuality != TiffOptions.DefaultQuality,
             options.Compression == TiffCompressions.Jpeg, "choose JPEG as compression");
     }
 

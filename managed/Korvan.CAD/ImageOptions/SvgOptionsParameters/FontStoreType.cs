@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions.SvgOptionsParameters;
 
-/// <summary>Where the fonts of texts that are kept as text come from.</summary>
+/// <summary>How the fonts of an SVG document are stored.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum FontStoreType
 {
-    /// <summary>From the reader's system, by name.</summary>
+    /// <summary>Not stored: the viewer's system provides fonts by name.</summary>
     Installed = 0,
 
-    /// <summary>From the document itself, which carries their files.</summary>
+    /// <summary>Embedded in the document.</summary>
     Embedded = 1,
 
-    /// <summary>From files beside the document, which a callback writes.</summary>
+    /// <summary>In separate files, which a callback writes.</summary>
     Stream = 2,
 }

@@ -1,18 +1,16 @@
 namespace Korvan.CAD.ImageOptions.SvgOptionsParameters;
 
-/// <summary>Is asked where the fonts and pictures of a scalable graphic are kept that do not stand in the document
-/// itself.</summary>
+/// <summary>Stores the fonts and images of an SVG document that are not embedded.</summary>
 public interface ISvgResourceKeeperCallback
 {
-    /// <summary>Takes a font that the document uses.</summary>
-    /// <param name="args">The font; the callback sets <see cref="FontStoringArgs.FontFileUri"/> to where it has put
-    /// it.</param>
+    /// <summary>Stores a font of the document.</summary>
+    /// <param name="args">The font; the callback sets <see cref="FontStoringArgs.FontFileUri"/> to its URI.</param>
     void OnFontResourceReady(FontStoringArgs args);
 
-    /// <summary>Takes a picture that the document shows.</summary>
-    /// <param name="imageData">The picture, encoded.</param>
+    /// <summary>Stores an image of the document.</summary>
+    /// <param name="imageData">The encoded image.</param>
     /// <param name="imageType">Its format.</param>
-    /// <param name="suggestedFileName">A name that no other picture of the document has.</param>
-    /// <returns>Where the picture is, as the document shall say it; empty to keep it in the document.</returns>
+    /// <param name="suggestedFileName">A file name that no other image of the document has.</param>
+    /// <returns>The URI of the image as the document states it; empty to embed it.</returns>
     string OnImageResourceReady(byte[] imageData, SvgImageType imageType, string suggestedFileName);
 }

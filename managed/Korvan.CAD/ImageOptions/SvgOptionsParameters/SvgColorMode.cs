@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions.SvgOptionsParameters;
 
-/// <summary>Which colours a scalable graphic has.</summary>
+/// <summary>The colour mode of an SVG document.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum SvgColorMode
 {
-    /// <summary>Those of the drawing.</summary>
+    /// <summary>The colours of the drawing.</summary>
     Rgb = 0,
 
-    /// <summary>Shades of grey of the same lightness.</summary>
+    /// <summary>Greyscale, with the same luminance.</summary>
     Grayscale = 1,
 
-    /// <summary>Black, and white for what is as light as the page.</summary>
+    /// <summary>Black, and white for colours as light as the background.</summary>
     BlackAndWhite = 2,
 }

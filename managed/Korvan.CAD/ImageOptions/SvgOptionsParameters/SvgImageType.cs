@@ -2,11 +2,11 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.ImageOptions.SvgOptionsParameters;
 
-/// <summary>The format of the pictures in a scalable graphic.</summary>
+/// <summary>The format of images in an SVG document.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum SvgImageType
 {
-    /// <summary>Portable network graphics.</summary>
+    /// <summary>PNG.</summary>
     Png = 0,
 
     /// <summary>JPEG.</summary>

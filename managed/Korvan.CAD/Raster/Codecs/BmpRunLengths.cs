@@ -4,14 +4,14 @@ using Korvan.CAD.CadExceptions.Compressors;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>The run lengths of bitmaps: RLE8 and RLE4.</summary>
+/// <summary>Run-length encoding of bitmaps: RLE8 and RLE4.</summary>
 internal static class BmpRunLengths
 {
     private const int EndOfLine = 0;
     private const int EndOfBitmap = 1;
     private const int Delta = 2;
 
-    /// <summary>Packs numbers of 8 bits, whose rows stand from the top down.</summary>
+    /// <summary>Packs 8-bit palette indices, whose rows run from the top down.</summary>
     internal static byte[] Pack(ReadOnlySpan<byte> indices, int width)
     {
         List<byte> packed = [];
@@ -25,7 +25,7 @@ internal static class BmpRunLengths
         return [.. packed];
     }
 
-    /// <summary>Unpacks into numbers, rows from the top down; places that the runs leave out keep 0.</summary>
+    /// <summary>Unpacks into palette indices, rows from the top down; skipped pixels keep 0.</summary>
     internal static void Unpack(ReadOnlySpan<byte> data, Span<byte> indices, int width, int height, bool halfBytes)
     {
         int x = 0;
@@ -35,7 +35,8 @@ internal static class BmpRunLengths
         {
             if (at + 2 > data.Length)
             {
-                throw new RleCompressorException($"The run lengths end after {data.Length} bytes, before their end mark.");
+                throw new RleCompressorException(
+                    $"The run lengths end after {data.Length} bytes, before their end mark.");
             }
 
             int count = data[at];
@@ -89,7 +90,7 @@ internal static class BmpRunLengths
             : indices.Slice(y * width, width);
     }
 
-    // Runs may say more than a line holds; programs leave the rest out.
+    // A run may exceed its row; the excess is ignored.
     private static void Run(Span<byte> row, ref int x, int count, int code, bool halfBytes)
     {
         for (int i = 0; i < count; i++, x++)

@@ -11,12 +11,12 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Writes device-independent bitmaps with the heads BITMAPINFOHEADER and, for opacity, BITMAPV4HEADER.</summary>
+/// <summary>Writes device-independent bitmaps with the header BITMAPINFOHEADER or, for alpha, BITMAPV4HEADER.</summary>
 internal static class BmpWriter
 {
-    private const int FileHead = 14;
-    private const int InfoHead = 40;
-    private const int V4Head = 108;
+    private const int FileHeaderBytes = 14;
+    private const int InfoHeaderBytes = 40;
+    private const int V4HeaderBytes = 108;
     private const int White = -1;
     private const double InchesPerMetre = 1 / 0.0254;
 
@@ -32,7 +32,7 @@ internal static class BmpWriter
         if (options.Compression is not (BitmapCompression.Rgb or BitmapCompression.Rle8) || (rle && bits != 8))
         {
             throw new BmpImageException(
-                $"Bitmaps of {bits} bits a pixel are not written with the compression "
+                $"Bitmaps of {bits} bits per pixel are not written with the compression "
                     + $"{Verify.NameOf(options.Compression)};"
                 + " choose RGB, or RLE8 with 8 bits.");
         }
@@ -42,11 +42,13 @@ internal static class BmpWriter
             page.Pixels.Flatten(White);
         }
 
-        int[] palette = bits > 8 ? [] : PaletteChoice.For(page.Pixels, options.Palette, 1 << bits, ColorQuantizationMethod.MedianCut);
+        int[] palette = bits > 8
+            ? [] : PaletteChoice.For(page.Pixels, options.Palette, 1 << bits, ColorQuantizationMethod.MedianCut);
         long rowBytes = (((long)page.Pixels.Width * bits) + 31) / 32 * 4;
-        byte[]? packed = rle ? BmpRunLengths.Pack(IndexedRows.Of(page.Pixels, palette, options.Dithering), page.Pixels.Width) : null;
+        byte[]? packed = rle
+            ? BmpRunLengths.Pack(IndexedPixels.Of(page.Pixels, palette, options.Dithering), page.Pixels.Width) : null;
         long size = packed?.Length ?? (rowBytes * page.Pixels.Height);
-        WriteHeads(page, bits, options.Compression, palette, size, output);
+        WriteHeaders(page, bits, options.Compression, palette, size, output);
         if (packed != null)
         {
             output.Write(packed);
@@ -57,11 +59,11 @@ internal static class BmpWriter
         }
     }
 
-    private static void WriteHeads(
+    private static void WriteHeaders(
         RasterPageData page, int bits, BitmapCompression compression, int[] palette, long size, Stream output)
     {
-        int head = bits == 32 ? V4Head : InfoHead;
-        long offset = FileHead + head + (palette.Length * 4);
+        int headerBytes = bits == 32 ? V4HeaderBytes : InfoHeaderBytes;
+        long offset = FileHeaderBytes + headerBytes + (palette.Length * 4);
         if (offset + size > uint.MaxValue)
         {
             throw new BmpImageException($"The bitmap would have {offset + size} bytes; the format ends at 4 GiB.");
@@ -72,13 +74,14 @@ internal static class BmpWriter
         (to[0], to[1]) = ((byte)'B', (byte)'M');
         BinaryPrimitives.WriteUInt32LittleEndian(to[2..], (uint)(offset + size));
         BinaryPrimitives.WriteUInt32LittleEndian(to[10..], (uint)offset);
-        to = to[FileHead..];
-        BinaryPrimitives.WriteInt32LittleEndian(to, head);
+        to = to[FileHeaderBytes..];
+        BinaryPrimitives.WriteInt32LittleEndian(to, headerBytes);
         BinaryPrimitives.WriteInt32LittleEndian(to[4..], page.Pixels.Width);
         BinaryPrimitives.WriteInt32LittleEndian(to[8..], page.Pixels.Height);
         BinaryPrimitives.WriteInt16LittleEndian(to[12..], 1);
         BinaryPrimitives.WriteInt16LittleEndian(to[14..], (short)bits);
-        BinaryPrimitives.WriteInt32LittleEndian(to[16..], (int)(bits == 32 ? BitmapCompression.Bitfields : compression));
+        BinaryPrimitives.WriteInt32LittleEndian(
+            to[16..], (int)(bits == 32 ? BitmapCompression.Bitfields : compression));
         BinaryPrimitives.WriteUInt32LittleEndian(to[20..], (uint)size);
         BinaryPrimitives.WriteInt32LittleEndian(to[24..], PerMetre(page.HorizontalResolution));
         BinaryPrimitives.WriteInt32LittleEndian(to[28..], PerMetre(page.VerticalResolution));
@@ -94,18 +97,20 @@ internal static class BmpWriter
 
         for (int i = 0; i < palette.Length; i++)
         {
-            BinaryPrimitives.WriteInt32LittleEndian(to[(head + (i * 4))..], palette[i] & 0xFFFFFF);
+            BinaryPrimitives.WriteInt32LittleEndian(to[(headerBytes + (i * 4))..], palette[i] & 0xFFFFFF);
         }
 
         output.Write(data);
     }
 
-    private static int PerMetre(double pixelsPerInch) => (int)Math.Min(int.MaxValue, Math.Round(pixelsPerInch * InchesPerMetre));
+    private static int PerMetre(double pixelsPerInch) =>
+        (int)Math.Min(int.MaxValue, Math.Round(pixelsPerInch * InchesPerMetre));
 
-    // Rows stand from the bottom up.
-    private static void WriteRows(PixelGrid pixels, int bits, int[] palette, DitheringMethods how, int rowBytes, Stream output)
+    // Rows run from the bottom up.
+    private static void WriteRows(
+        PixelGrid pixels, int bits, int[] palette, DitheringMethods dithering, int rowBytes, Stream output)
     {
-        byte[]? indices = bits > 8 ? null : IndexedRows.Of(pixels, palette, how);
+        byte[]? indices = bits > 8 ? null : IndexedPixels.Of(pixels, palette, dithering);
         var row = new byte[rowBytes];
         for (int y = pixels.Height - 1; y >= 0; y--)
         {
@@ -124,7 +129,8 @@ internal static class BmpWriter
                 ReadOnlySpan<int> from = pixels.Row(y);
                 for (int x = 0; x < from.Length; x++)
                 {
-                    (row[3 * x], row[(3 * x) + 1], row[(3 * x) + 2]) = ((byte)from[x], (byte)(from[x] >> 8), (byte)(from[x] >> 16));
+                    (row[3 * x], row[(3 * x) + 1], row[(3 * x) + 2]) =
+                        ((byte)from[x], (byte)(from[x] >> 8), (byte)(from[x] >> 16));
                 }
             }
 

@@ -11,24 +11,24 @@ namespace Korvan.CAD.Raster.Codecs;
 internal sealed class DicomReader
 {
     private const int Preamble = 132;
-    private const int DeepestSequence = 16;
-    private const int LongestText = 1024;
+    private const int MaxSequenceDepth = 16;
+    private const int MaxTextBytes = 1024;
 
-    private readonly RasterSource source;
-    private readonly Dictionary<uint, byte[]> values = [];
-    private int at = Preamble;
-    private bool implicitTypes;
+    private readonly RasterSource _source;
+    private readonly Dictionary<uint, byte[]> _values = [];
+    private int _at = Preamble;
+    private bool _implicitTypes;
 
-    private DicomReader(RasterSource source) => this.source = source;
+    private DicomReader(RasterSource source) => _source = source;
 
-    internal string Name => source.Name;
+    internal string Name => _source.Name;
 
-    internal RasterSource Source => source;
+    internal RasterSource Source => _source;
 
-    /// <summary>The bytes of plain pixels.</summary>
+    /// <summary>Gets the bytes of uncompressed pixels.</summary>
     internal ReadOnlyMemory<byte> PlainPixels { get; private set; }
 
-    /// <summary>The pieces of compressed pixels, without the table of places.</summary>
+    /// <summary>Gets the fragments of compressed pixels, without the offset table.</summary>
     internal List<ReadOnlyMemory<byte>>? Fragments { get; private set; }
 
     internal string Syntax => Text(DicomTags.TransferSyntax);
@@ -37,37 +37,40 @@ internal sealed class DicomReader
     {
         var reader = new DicomReader(source);
         reader.ReadElements();
-        return new DecodedFile { Format = FileFormat.Dicom, Frames = DicomPicture.Frames(reader) };
+        return new DecodedFile { Format = FileFormat.Dicom, Frames = DicomFrames.Frames(reader) };
     }
 
     internal string Text(uint tag) =>
-        values.TryGetValue(tag, out byte[]? data) ? Encoding.ASCII.GetString(data).TrimEnd('\0', ' ') : "";
+        _values.TryGetValue(tag, out byte[]? data) ? Encoding.ASCII.GetString(data).TrimEnd('\0', ' ') : "";
 
     internal int Number(uint tag, int missing) =>
-        values.TryGetValue(tag, out byte[]? data) && data.Length >= 2 ? BinaryPrimitives.ReadUInt16LittleEndian(data) : missing;
+        _values.TryGetValue(tag, out byte[]? data) && data.Length >= 2
+            ? BinaryPrimitives.ReadUInt16LittleEndian(data) : missing;
 
-    /// <summary>The first number of a text of decimal numbers.</summary>
+    /// <summary>Returns the first number of a decimal string.</summary>
     internal double Real(uint tag, double missing)
     {
         string first = Text(tag).Split('\\')[0].Trim();
-        return double.TryParse(first, NumberStyles.Float, CultureInfo.InvariantCulture, out double value) && double.IsFinite(value)
+        return double.TryParse(first, NumberStyles.Float, CultureInfo.InvariantCulture, out double value)
+            && double.IsFinite(value)
             ? value
             : missing;
     }
 
-    internal ImageLoadException Damaged(string why) => new($"'{source.Name}' is no DICOM file that can be read: {why}.");
+    internal ImageLoadException Damaged(string why) =>
+        new($"'{_source.Name}' is no DICOM file that can be read: {why}.");
 
     private void ReadElements()
     {
-        while (at < source.Data.Length)
+        while (_at < _source.Data.Length)
         {
-            uint tag = Tag(at);
-            if (tag >> 16 > 2 && !implicitTypes && !values.ContainsKey(0))
+            uint tag = Tag(_at);
+            if (tag >> 16 > 2 && !_implicitTypes && !_values.ContainsKey(0))
             {
                 Begin();
             }
 
-            (string type, uint length) = Head();
+            (string type, uint length) = ReadHeader();
             if (tag == DicomTags.PixelData)
             {
                 ReadPixels(length);
@@ -80,36 +83,37 @@ internal sealed class DicomReader
         throw Damaged("it holds no pixels");
     }
 
-    // The group of the file itself always states types; the rest does as the transfer syntax says.
+    // The file meta group always states types; in the rest that depends on the transfer syntax.
     private void Begin()
     {
-        values[0] = [];
-        implicitTypes = Syntax == DicomTags.ImplicitLittleEndian;
-        if (!DicomPicture.Reads(Syntax))
+        _values[0] = [];
+        _implicitTypes = Syntax == DicomTags.ImplicitLittleEndian;
+        if (!DicomFrames.Reads(Syntax))
         {
-            throw new ImageLoadException($"'{source.Name}' has the transfer syntax '{Syntax}', which is not read.");
+            throw new ImageLoadException($"'{_source.Name}' has the transfer syntax '{Syntax}', which is not read.");
         }
     }
 
-    private (string Type, uint Length) Head()
+    private (string Type, uint Length) ReadHeader()
     {
-        ReadOnlySpan<byte> head = Take(at, 8);
-        if (implicitTypes && Tag(at) >> 16 > 2)
+        ReadOnlySpan<byte> header = Take(_at, 8);
+        if (_implicitTypes && Tag(_at) >> 16 > 2)
         {
-            at += 8;
-            return ("UN", BinaryPrimitives.ReadUInt32LittleEndian(head[4..]));
+            _at += 8;
+            return ("UN", BinaryPrimitives.ReadUInt32LittleEndian(header[4..]));
         }
 
-        string type = Encoding.ASCII.GetString(head[4..6]);
-        if (type is "OB" or "OW" or "OF" or "OD" or "OL" or "OV" or "SQ" or "UN" or "UT" or "UC" or "UR" or "SV" or "UV")
+        string type = Encoding.ASCII.GetString(header[4..6]);
+        if (type is "OB" or "OW" or "OF" or "OD" or "OL" or "OV" or "SQ" or "UN" or "UT" or "UC" or "UR" or "SV"
+            or "UV")
         {
-            uint length = BinaryPrimitives.ReadUInt32LittleEndian(Take(at + 8, 4));
-            at += 12;
+            uint length = BinaryPrimitives.ReadUInt32LittleEndian(Take(_at + 8, 4));
+            _at += 12;
             return (type, length);
         }
 
-        at += 8;
-        return (type, BinaryPrimitives.ReadUInt16LittleEndian(head[6..]));
+        _at += 8;
+        return (type, BinaryPrimitives.ReadUInt16LittleEndian(header[6..]));
     }
 
     private void ReadValue(uint tag, string type, uint length)
@@ -120,26 +124,26 @@ internal sealed class DicomReader
             return;
         }
 
-        ReadOnlySpan<byte> data = Take(at, length);
-        at += (int)length;
-        if (type != "SQ" && length <= LongestText && tag >> 16 is 2 or 0x28)
+        ReadOnlySpan<byte> data = Take(_at, length);
+        _at += (int)length;
+        if (type != "SQ" && length <= MaxTextBytes && tag >> 16 is 2 or 0x28)
         {
-            values[tag] = data.ToArray();
+            _values[tag] = data.ToArray();
         }
     }
 
     private void SkipSequence(int depth)
     {
-        if (depth > DeepestSequence)
+        if (depth > MaxSequenceDepth)
         {
-            throw Damaged($"its sequences are nested more than {DeepestSequence} deep");
+            throw Damaged($"its sequences are nested more than {MaxSequenceDepth} deep");
         }
 
         while (true)
         {
-            uint tag = Tag(at);
-            uint length = BinaryPrimitives.ReadUInt32LittleEndian(Take(at + 4, 4));
-            at += 8;
+            uint tag = Tag(_at);
+            uint length = BinaryPrimitives.ReadUInt32LittleEndian(Take(_at + 4, 4));
+            _at += 8;
             if (tag == DicomTags.SequenceEnd)
             {
                 return;
@@ -147,7 +151,7 @@ internal sealed class DicomReader
 
             if (tag != DicomTags.Item)
             {
-                throw Damaged($"an item of a sequence was expected at {at - 8}");
+                throw Damaged($"an item of a sequence was expected at {_at - 8}");
             }
 
             if (length == DicomTags.UndefinedLength)
@@ -156,50 +160,50 @@ internal sealed class DicomReader
                 continue;
             }
 
-            Take(at, length);
-            at += (int)length;
+            Take(_at, length);
+            _at += (int)length;
         }
     }
 
     private void SkipItem(int depth)
     {
-        while (Tag(at) != DicomTags.ItemEnd)
+        while (Tag(_at) != DicomTags.ItemEnd)
         {
-            (_, uint length) = Head();
+            (_, uint length) = ReadHeader();
             if (length == DicomTags.UndefinedLength)
             {
                 SkipSequence(depth + 1);
                 continue;
             }
 
-            Take(at, length);
-            at += (int)length;
+            Take(_at, length);
+            _at += (int)length;
         }
 
-        at += 8;
+        _at += 8;
     }
 
     private void ReadPixels(uint length)
     {
         if (length != DicomTags.UndefinedLength)
         {
-            int there = source.Data.Length - at;
-            if (length > there && !source.Lenient)
+            int available = _source.Data.Length - _at;
+            if (length > available && !_source.Lenient)
             {
-                throw Damaged($"{length} bytes of pixels are announced, but {there} are left");
+                throw Damaged($"{length} bytes of pixels are announced, but {available} are left");
             }
 
-            PlainPixels = source.Data.AsMemory(at, (int)Math.Min(length, there));
+            PlainPixels = _source.Data.AsMemory(_at, (int)Math.Min(length, available));
             return;
         }
 
         Fragments = [];
-        while (Tag(at) == DicomTags.Item)
+        while (Tag(_at) == DicomTags.Item)
         {
-            uint size = BinaryPrimitives.ReadUInt32LittleEndian(Take(at + 4, 4));
-            Take(at + 8, size);
-            Fragments.Add(source.Data.AsMemory(at + 8, (int)size));
-            at += 8 + (int)size;
+            uint size = BinaryPrimitives.ReadUInt32LittleEndian(Take(_at + 4, 4));
+            Take(_at + 8, size);
+            Fragments.Add(_source.Data.AsMemory(_at + 8, (int)size));
+            _at += 8 + (int)size;
         }
 
         if (Fragments.Count < 2)
@@ -213,13 +217,14 @@ internal sealed class DicomReader
     private uint Tag(int place)
     {
         ReadOnlySpan<byte> data = Take(place, 4);
-        return ((uint)BinaryPrimitives.ReadUInt16LittleEndian(data) << 16) | BinaryPrimitives.ReadUInt16LittleEndian(data[2..]);
+        uint group = BinaryPrimitives.ReadUInt16LittleEndian(data);
+        return (group << 16) | BinaryPrimitives.ReadUInt16LittleEndian(data[2..]);
     }
 
     private ReadOnlySpan<byte> Take(long place, uint count)
     {
-        return place + count <= source.Data.Length
-            ? source.Data.AsSpan((int)place, (int)count)
-            : throw Damaged($"it ends after {source.Data.Length} bytes, inside of a data element");
+        return place + count <= _source.Data.Length
+            ? _source.Data.AsSpan((int)place, (int)count)
+            : throw Damaged($"it ends after {_source.Data.Length} bytes, inside of a data element");
     }
 }

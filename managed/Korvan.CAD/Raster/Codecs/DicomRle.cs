@@ -6,27 +6,28 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>The run lengths of DICOM (PS3.5, annex G): planes of bytes, the highest of each sample first.</summary>
+/// <summary>DICOM run-length encoding (PS3.5, annex G): planes of bytes, the most significant of each sample
+/// first.</summary>
 internal static class DicomRle
 {
-    private const int HeadBytes = 64;
+    private const int HeaderBytes = 64;
 
-    /// <summary>Packs red, green and blue, or lightness in one byte or two.</summary>
+    /// <summary>Packs RGB, or grayscale in one byte or two.</summary>
     internal static byte[] Pack(PixelGrid pixels, int planes, bool color)
     {
-        List<byte> packed = [.. new byte[HeadBytes]];
-        var head = new byte[HeadBytes];
-        BinaryPrimitives.WriteInt32LittleEndian(head, planes);
+        List<byte> packed = [.. new byte[HeaderBytes]];
+        var header = new byte[HeaderBytes];
+        BinaryPrimitives.WriteInt32LittleEndian(header, planes);
         var row = new byte[pixels.Width];
         for (int plane = 0; plane < planes; plane++)
         {
-            BinaryPrimitives.WriteInt32LittleEndian(head.AsSpan(4 + (4 * plane)), packed.Count);
+            BinaryPrimitives.WriteInt32LittleEndian(header.AsSpan(4 + (4 * plane)), packed.Count);
             for (int y = 0; y < pixels.Height; y++)
             {
                 ReadOnlySpan<int> from = pixels.Row(y);
                 for (int x = 0; x < row.Length; x++)
                 {
-                    // A byte of lightness is both bytes of its 16 bits.
+                    // An 8-bit gray level is both bytes of its 16 bits.
                     row[x] = (byte)(color ? from[x] >> (16 - (8 * plane)) : PixelGrid.Luma(from[x]));
                 }
 
@@ -40,17 +41,18 @@ internal static class DicomRle
         }
 
         Span<byte> all = System.Runtime.InteropServices.CollectionsMarshal.AsSpan(packed);
-        head.CopyTo(all);
+        header.CopyTo(all);
         return all.ToArray();
     }
 
-    /// <summary>Unpacks into samples as they would stand plain, pixel by pixel, lowest byte first.</summary>
+    /// <summary>Unpacks into uncompressed samples, pixel by pixel, little-endian.</summary>
     internal static byte[] Unpack(ReadOnlySpan<byte> data, int samples, int sampleBytes, long pixels)
     {
         int planes = samples * sampleBytes;
-        if (data.Length < HeadBytes || BinaryPrimitives.ReadInt32LittleEndian(data) != planes)
+        if (data.Length < HeaderBytes || BinaryPrimitives.ReadInt32LittleEndian(data) != planes)
         {
-            throw new RleCompressorException($"A frame of run lengths does not have the {planes} planes that its picture needs.");
+            throw new RleCompressorException(
+                $"A run-length encoded frame does not have the {planes} planes that its image needs.");
         }
 
         var result = new byte[pixels * planes];

@@ -33,7 +33,7 @@ internal static class DicomTags
     internal const string Jpeg2000 = "1.2.840.10008.1.2.4.91";
 
     internal const string SecondaryCapture = "1.2.840.10008.5.1.4.1.1.7";
-    internal const string FramesOfBytes = "1.2.840.10008.5.1.4.1.1.7.2";
-    internal const string FramesOfWords = "1.2.840.10008.5.1.4.1.1.7.3";
-    internal const string FramesOfColors = "1.2.840.10008.5.1.4.1.1.7.4";
+    internal const string MultiFrameGrayscaleByte = "1.2.840.10008.5.1.4.1.1.7.2";
+    internal const string MultiFrameGrayscaleWord = "1.2.840.10008.5.1.4.1.1.7.3";
+    internal const string MultiFrameTrueColor = "1.2.840.10008.5.1.4.1.1.7.4";
 }

@@ -12,27 +12,27 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Reads GIF: each frame as it is seen, over what the frames before it left.</summary>
+/// <summary>Reads GIF: each frame composited over the previous ones.</summary>
 internal sealed unsafe class GifReader
 {
-    private const int MostFrames = 10_000;
-    private const int KeepsPlace = 1;
-    private const int ToBackground = 2;
-    private const int ToPrevious = 3;
+    private const int MaxFrames = 10_000;
+    private const int DisposalKeep = 1;
+    private const int DisposalBackground = 2;
+    private const int DisposalPrevious = 3;
     private static readonly (int First, int Step)[] InterlacePasses = [(0, 8), (4, 8), (2, 4), (1, 2)];
 
-    private readonly RasterSource source;
-    private readonly Gif.File* gif;
-    private readonly List<DecodedFrame> frames = [];
-    private PixelGrid? canvas;
-    private long total;
-    private int transparent = -1;
-    private int disposal;
+    private readonly RasterSource _source;
+    private readonly GifReadHandle _gif;
+    private readonly List<DecodedFrame> _frames = [];
+    private PixelGrid? _canvas;
+    private long _total;
+    private int _transparent = -1;
+    private int _disposal;
 
-    private GifReader(RasterSource source, Gif.File* gif)
+    private GifReader(RasterSource source, GifReadHandle gif)
     {
-        this.source = source;
-        this.gif = gif;
+        _source = source;
+        _gif = gif;
     }
 
     internal static DecodedFile Read(RasterSource source)
@@ -40,8 +40,8 @@ internal sealed unsafe class GifReader
         Gif.Require();
         using var bridge = new StreamBridge(new MemoryStream(source.Data, false));
         int error = 0;
-        Gif.File* gif = Gif.OpenRead(bridge.Closure, &ReadBytes, &error);
-        if (gif == null)
+        using GifReadHandle gif = Gif.OpenRead(bridge.Closure, &ReadBytes, &error);
+        if (gif.IsInvalid)
         {
             throw new GifImageException($"'{source.Name}' is no GIF that can be read: {Gif.Error(error)}.");
         }
@@ -50,27 +50,32 @@ internal sealed unsafe class GifReader
         try
         {
             reader.ReadAll();
-            return new DecodedFile { Format = FileFormat.Gif, Frames = reader.frames };
+            return new DecodedFile { Format = FileFormat.Gif, Frames = reader._frames };
         }
         catch
         {
-            reader.frames.ForEach(static frame => frame.Dispose());
+            reader._frames.ForEach(static frame => frame.Dispose());
             throw;
         }
         finally
         {
-            reader.canvas?.Dispose();
-            Gif.CloseRead(gif, &error);
+            reader._canvas?.Dispose();
         }
     }
 
     private void ReadAll()
     {
-        PixelGrid.Verify(gif->Width, gif->Height);
+        if (_gif.File.Width < 1 || _gif.File.Height < 1)
+        {
+            throw new GifImageException(
+                $"'{_source.Name}' claims {_gif.File.Width} × {_gif.File.Height} pixels, which is no image.");
+        }
+
+        PixelGrid.VerifySize(_gif.File.Width, _gif.File.Height);
         Gif.Record record;
         do
         {
-            if (!Verify(Gif.GetRecord(gif, &record)))
+            if (!Verify(Gif.GetRecord(_gif, &record)))
             {
                 break;
             }
@@ -85,14 +90,15 @@ internal sealed unsafe class GifReader
                 break;
             }
         }
-        while (record != Gif.Record.Terminate && frames.Count < MostFrames);
-        if (frames.Count == 0)
+        while (record != Gif.Record.Terminate && _frames.Count < MaxFrames);
+        if (_frames.Count == 0)
         {
-            throw new GifImageException($"'{source.Name}' holds no picture.");
+            throw new GifImageException($"'{_source.Name}' holds no image.");
         }
     }
 
-    /// <summary>Throws after a failure, or says that it is the end where damage is to be borne.</summary>
+    /// <summary>Throws after a failure; returns false instead where reading is lenient and there is something to
+    /// show.</summary>
     private bool Verify(int result)
     {
         if (result == Gif.Ok)
@@ -100,20 +106,20 @@ internal sealed unsafe class GifReader
             return true;
         }
 
-        if (source.Lenient && (frames.Count > 0 || canvas != null))
+        if (_source.Lenient && (_frames.Count > 0 || _canvas != null))
         {
             return false;
         }
 
-        string reason = Gif.Error(gif->Error);
-        throw new GifImageException($"'{source.Name}' is damaged: {reason}.", new LzwCompressorException(reason));
+        string reason = Gif.Error(_gif.File.Error);
+        throw new GifImageException($"'{_source.Name}' is damaged: {reason}.", new LzwCompressorException(reason));
     }
 
     private bool ReadExtension()
     {
         int code;
         byte* block;
-        if (!Verify(Gif.GetExtension(gif, &code, &block)))
+        if (!Verify(Gif.GetExtension(_gif, &code, &block)))
         {
             return false;
         }
@@ -122,11 +128,11 @@ internal sealed unsafe class GifReader
         {
             if (code == Gif.GraphicsExtension && block[0] >= 4)
             {
-                disposal = (block[1] >> 2) & 7;
-                transparent = (block[1] & 1) != 0 ? block[4] : -1;
+                _disposal = (block[1] >> 2) & 7;
+                _transparent = (block[1] & 1) != 0 ? block[4] : -1;
             }
 
-            if (!Verify(Gif.GetExtensionNext(gif, &block)))
+            if (!Verify(Gif.GetExtensionNext(_gif, &block)))
             {
                 return false;
             }
@@ -137,30 +143,33 @@ internal sealed unsafe class GifReader
 
     private bool ReadFrame()
     {
-        if (!Verify(Gif.GetImage(gif)))
+        if (!Verify(Gif.GetImage(_gif)))
         {
             return false;
         }
 
-        Gif.ImageDescription image = gif->Image;
-        int[] palette = Palette(image.Map != null ? image.Map : gif->Map);
-        total += (long)gif->Width * gif->Height;
-        if (total > PixelGrid.MaxPixels)
+        Gif.ImageDescription image = _gif.File.Image;
+        int[] palette = Palette(image.Map != null ? image.Map : _gif.File.Map);
+        _total += (long)_gif.File.Width * _gif.File.Height;
+        if (_total > PixelGrid.MaxPixels)
         {
-            throw new LimitMemoryException($"The frames of '{source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
+            throw new LimitMemoryException(
+                $"The frames of '{_source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
 
         if (image.Width < 1 || image.Height < 1)
         {
-            throw new GifImageException($"A frame of '{source.Name}' is {image.Width} × {image.Height} pixels large.");
+            throw new GifImageException(
+                $"A frame of '{_source.Name}' is {image.Width} × {image.Height} pixels large.");
         }
 
-        canvas ??= new PixelGrid(gif->Width, gif->Height);
-        using PixelGrid? before = disposal == ToPrevious ? canvas.Copy() : null;
+        _canvas ??= new PixelGrid(_gif.File.Width, _gif.File.Height);
+        using PixelGrid? before = _disposal == DisposalPrevious ? _canvas.Copy() : null;
         bool whole = Draw(image, palette);
-        frames.Add(new DecodedFrame { Pixels = canvas.Copy(), BitsPerPixel = 8, Palette = new ColorPalette(palette) });
-        Leave(image, before);
-        (transparent, disposal) = (-1, KeepsPlace);
+        _frames.Add(
+            new DecodedFrame { Pixels = _canvas.Copy(), BitsPerPixel = 8, Palette = new ColorPalette(palette) });
+        DisposeFrame(image, before);
+        (_transparent, _disposal) = (-1, DisposalKeep);
         return whole;
     }
 
@@ -168,7 +177,7 @@ internal sealed unsafe class GifReader
     {
         if (map == null)
         {
-            throw new GifImageException($"A frame of '{source.Name}' has no palette.");
+            throw new GifImageException($"A frame of '{_source.Name}' has no palette.");
         }
 
         var palette = new int[256];
@@ -179,9 +188,9 @@ internal sealed unsafe class GifReader
             palette[i] = PixelGrid.Opaque | (color[0] << 16) | (color[1] << 8) | color[2];
         }
 
-        if (transparent >= 0)
+        if (_transparent >= 0)
         {
-            palette[transparent] = 0;
+            palette[_transparent] = 0;
         }
 
         return palette;
@@ -197,7 +206,7 @@ internal sealed unsafe class GifReader
                 bool read;
                 fixed (byte* start = line)
                 {
-                    read = Verify(Gif.GetLine(gif, start, line.Length));
+                    read = Verify(Gif.GetLine(_gif, start, line.Length));
                 }
 
                 if (!read)
@@ -205,21 +214,21 @@ internal sealed unsafe class GifReader
                     return false;
                 }
 
-                Place(line, image.Left, image.Top + y, palette);
+                PlaceLine(line, image.Left, image.Top + y, palette);
             }
         }
 
         return true;
     }
 
-    private void Place(byte[] line, int left, int y, int[] palette)
+    private void PlaceLine(byte[] line, int left, int y, int[] palette)
     {
-        if (y >= canvas!.Height)
+        if (y >= _canvas!.Height)
         {
             return;
         }
 
-        Span<int> row = canvas.Row(y);
+        Span<int> row = _canvas.Row(y);
         for (int x = 0; x < line.Length && left + x < row.Length; x++)
         {
             int color = palette[line[x]];
@@ -227,17 +236,17 @@ internal sealed unsafe class GifReader
         }
     }
 
-    private void Leave(in Gif.ImageDescription image, PixelGrid? before)
+    private void DisposeFrame(in Gif.ImageDescription image, PixelGrid? before)
     {
-        if (before == null && disposal != ToBackground)
+        if (before == null && _disposal != DisposalBackground)
         {
             return;
         }
 
-        int width = Math.Clamp(canvas!.Width - image.Left, 0, image.Width);
-        for (int y = image.Top; y < Math.Min(canvas.Height, image.Top + image.Height); y++)
+        int width = Math.Clamp(_canvas!.Width - image.Left, 0, image.Width);
+        for (int y = image.Top; y < Math.Min(_canvas.Height, image.Top + image.Height); y++)
         {
-            Span<int> place = width == 0 ? [] : canvas.Row(y).Slice(image.Left, width);
+            Span<int> place = width == 0 ? [] : _canvas.Row(y).Slice(image.Left, width);
             if (before == null)
             {
                 place.Clear();
@@ -250,5 +259,6 @@ internal sealed unsafe class GifReader
     }
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
-    private static int ReadBytes(Gif.File* gif, byte* target, int count) => (int)StreamBridge.Of(gif->User).Read(target, count);
+    private static int ReadBytes(Gif.File* gif, byte* target, int count) =>
+        (int)StreamBridge.Of(gif->User).Read(target, count);
 }

@@ -13,21 +13,23 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>Reads and writes JPEG 2000, as a JP2 file and as a bare codestream.</summary>
 internal static unsafe class Jpeg2000Codec
 {
-    private const int MostResolutions = 6;
+    private const int MaxResolutions = 6;
 
     internal static void Write(PixelGrid pixels, Jpeg2000Options options, Stream output)
     {
-        RasterSaver.Seekable(output, target =>
-            Encode(pixels, options.Codec, options.Irreversible, options.CompressionRatio, gray: pixels.IsGray(), target));
+        SeekableOutput.Write(output, target =>
+            Encode(
+                pixels, options.Codec, options.Irreversible, options.CompressionRatio, gray: pixels.IsGray(), target));
     }
 
-    /// <summary>Compresses pixels; <paramref name="target"/> must be able to seek.</summary>
-    internal static void Encode(PixelGrid pixels, J2K container, bool irreversible, float ratio, bool gray, Stream target)
+    /// <summary>Compresses pixels; <paramref name="target"/> must be seekable.</summary>
+    internal static void Encode(
+        PixelGrid pixels, J2K container, bool irreversible, float ratio, bool gray, Stream target)
     {
         OpenJpeg.Require();
         bool alpha = !pixels.IsOpaque();
         int colors = gray ? 1 : 3;
-        OpenJpeg.ImageHead* image = Planes(pixels, colors, alpha);
+        using OpenJpegImageHandle image = Planes(pixels, colors, alpha);
         OpenJpeg.EncoderParameters parameters;
         OpenJpeg.SetDefaults(&parameters);
         parameters.Layers = 1;
@@ -36,88 +38,88 @@ internal static unsafe class Jpeg2000Codec
         parameters.Irreversible = irreversible ? 1 : 0;
         parameters.ColorTransform = (byte)(colors == 3 ? 1 : 0);
         parameters.Resolutions = Resolutions(Math.Min(pixels.Width, pixels.Height));
-        nint codec = OpenJpeg.CreateCompress(container == J2K.J2K ? OpenJpeg.CodecJ2K : OpenJpeg.CodecJp2);
+        int format = container == J2K.J2K ? OpenJpeg.CodecJ2K : OpenJpeg.CodecJp2;
+        using OpenJpegCodecHandle codec = Allocated(OpenJpeg.CreateCompress(format));
         using var bridge = new StreamBridge(target);
-        nint stream = OpenStream(bridge, input: false);
-        try
+        bool done;
+        using (OpenJpegStreamHandle stream = OpenStream(bridge, input: false))
         {
-            OpenJpeg.SetErrorHandler(codec, &Complain, bridge.Closure);
-            bool done = OpenJpeg.SetupEncoder(codec, &parameters, image) != 0 && OpenJpeg.Start(codec, image, stream) != 0
+            OpenJpeg.SetErrorHandler(codec, &OnError, bridge.Closure);
+            done = OpenJpeg.SetupEncoder(codec, &parameters, image) != 0 && OpenJpeg.Start(codec, image, stream) != 0
                 && OpenJpeg.Encode(codec, stream) != 0 && OpenJpeg.End(codec, stream) != 0;
-            bridge.Rethrow();
-            if (!done)
-            {
-                throw new Jpeg2000Exception($"The picture could not be compressed: {bridge.Complaint ?? "unknown failure"}.");
-            }
-        }
-        finally
-        {
-            OpenJpeg.DestroyStream(stream);
-            OpenJpeg.DestroyCodec(codec);
-            OpenJpeg.DestroyImage(image);
         }
 
-        bridge.Rethrow();
+        bridge.Rethrow(); // closing the stream writes, too
+        if (!done)
+        {
+            throw new Jpeg2000Exception($"The image could not be compressed: {bridge.Error ?? "unknown failure"}.");
+        }
     }
 
     internal static DecodedFile Read(RasterSource source)
     {
         bool bare = source.Bytes.StartsWith((ReadOnlySpan<byte>)[0xFF, 0x4F, 0xFF, 0x51]);
         PixelGrid pixels = Decode(source, source.Data, bare, out int bits);
-        return new DecodedFile { Format = FileFormat.Jpeg2000, Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = bits }] };
+        return new DecodedFile
+        {
+            Format = FileFormat.Jpeg2000,
+            Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = bits }],
+        };
     }
 
     internal static PixelGrid Decode(RasterSource source, byte[] data, bool bare, out int bitsPerPixel)
     {
         OpenJpeg.Require();
-        nint codec = OpenJpeg.CreateDecompress(bare ? OpenJpeg.CodecJ2K : OpenJpeg.CodecJp2);
+        int format = bare ? OpenJpeg.CodecJ2K : OpenJpeg.CodecJp2;
+        using OpenJpegCodecHandle codec = Allocated(OpenJpeg.CreateDecompress(format));
         using var bridge = new StreamBridge(new MemoryStream(data, false));
-        nint stream = OpenStream(bridge, input: true);
-        OpenJpeg.ImageHead* image = null;
+        using OpenJpegStreamHandle stream = OpenStream(bridge, input: true);
         byte* parameters = stackalloc byte[OpenJpeg.DecoderParameters];
-        try
-        {
-            OpenJpeg.SetErrorHandler(codec, &Complain, bridge.Closure);
-            OpenJpeg.SetDecoderDefaults(parameters);
-            bool ready = OpenJpeg.SetupDecoder(codec, parameters) != 0 && OpenJpeg.SetStrict(codec, source.Lenient ? 0 : 1) != 0
-                && OpenJpeg.ReadHeader(stream, codec, &image) != 0;
-            Verify(ready, source, bridge);
-            VerifySize(image, source, data.Length);
-            Verify(OpenJpeg.Decode(codec, stream, image) != 0 && OpenJpeg.EndDecompress(codec, stream) != 0, source, bridge);
-            return Jpeg2000Planes.ToPixels(image, source, out bitsPerPixel);
-        }
-        finally
-        {
-            OpenJpeg.DestroyStream(stream);
-            OpenJpeg.DestroyCodec(codec);
-            OpenJpeg.DestroyImage(image);
-        }
+        OpenJpeg.SetErrorHandler(codec, &OnError, bridge.Closure);
+        OpenJpeg.SetDecoderDefaults(parameters);
+        bool ready = OpenJpeg.SetupDecoder(codec, parameters) != 0
+            && OpenJpeg.SetStrict(codec, source.Lenient ? 0 : 1) != 0;
+        Verify(ready, source, bridge);
+        bool read = OpenJpeg.ReadHeader(stream, codec, out OpenJpegImageHandle opened) != 0;
+        using OpenJpegImageHandle image = opened;
+        Verify(read, source, bridge);
+        VerifySize(image.Header, source, data.Length);
+        bool whole = OpenJpeg.Decode(codec, stream, image) != 0 && OpenJpeg.EndDecompress(codec, stream) != 0;
+        Verify(whole, source, bridge);
+        return Jpeg2000Planes.ToPixels(image.Header, source, out bitsPerPixel);
     }
 
     private static void Verify(bool done, RasterSource source, StreamBridge bridge)
     {
         if (!done)
         {
-            throw new Jpeg2000Exception($"'{source.Name}' is no JPEG 2000 that can be read: {bridge.Complaint ?? "unknown failure"}.");
+            throw new Jpeg2000Exception(
+                $"'{source.Name}' is no JPEG 2000 that can be read: {bridge.Error ?? "unknown failure"}.");
         }
     }
 
     // A code block of 64 × 64 takes some bits even when it is empty.
-    private static void VerifySize(OpenJpeg.ImageHead* image, RasterSource source, int length)
+    private static void VerifySize(in OpenJpeg.ImageHeader image, RasterSource source, int length)
     {
-        long width = (long)image->X1 - image->X0;
-        long height = (long)image->Y1 - image->Y0;
-        PixelGrid.Verify(width, height);
+        long width = (long)image.X1 - image.X0;
+        long height = (long)image.Y1 - image.Y0;
+        if (width < 1 || height < 1)
+        {
+            throw new Jpeg2000Exception($"'{source.Name}' claims {width} × {height} pixels, which is no image.");
+        }
+
+        PixelGrid.VerifySize(width, height);
         if (width * height > (length * 20_000L) + 65_536)
         {
-            throw new Jpeg2000Exception($"'{source.Name}' claims {width} × {height} pixels, which its {length} bytes cannot hold.");
+            throw new Jpeg2000Exception(
+                $"'{source.Name}' claims {width} × {height} pixels, which its {length} bytes cannot hold.");
         }
     }
 
     private static int Resolutions(int side)
     {
         int count = 1;
-        while (count < MostResolutions && side >> count > 0)
+        while (count < MaxResolutions && side >> count > 0)
         {
             count++;
         }
@@ -125,27 +127,24 @@ internal static unsafe class Jpeg2000Codec
         return count;
     }
 
-    private static OpenJpeg.ImageHead* Planes(PixelGrid pixels, int colors, bool alpha)
+    private static OpenJpegImageHandle Planes(PixelGrid pixels, int colors, bool alpha)
     {
         int count = colors + (alpha ? 1 : 0);
         OpenJpeg.ComponentParameters* components = stackalloc OpenJpeg.ComponentParameters[4];
         for (int i = 0; i < count; i++)
         {
-            components[i] = new() { Dx = 1, Dy = 1, Width = (uint)pixels.Width, Height = (uint)pixels.Height, Precision = 8 };
+            components[i] =
+                new() { Dx = 1, Dy = 1, Width = (uint)pixels.Width, Height = (uint)pixels.Height, Precision = 8 };
         }
 
         int space = colors == 1 ? OpenJpeg.ColorGray : OpenJpeg.ColorRgb;
-        OpenJpeg.ImageHead* image = OpenJpeg.CreateImage((uint)count, components, space);
-        if (image == null)
-        {
-            throw new OutOfMemoryException();
-        }
-
-        (image->X1, image->Y1) = ((uint)pixels.Width, (uint)pixels.Height);
+        OpenJpegImageHandle image = Allocated(OpenJpeg.CreateImage((uint)count, components, space));
+        ref OpenJpeg.ImageHeader header = ref image.Header;
+        (header.X1, header.Y1) = ((uint)pixels.Width, (uint)pixels.Height);
         for (int c = 0; c < count; c++)
         {
             int shift = c < colors ? 16 - (8 * c) : 24;
-            int* to = image->Components[c].Data;
+            int* to = header.Components[c].Data;
             for (int y = 0; y < pixels.Height; y++)
             {
                 foreach (int pixel in pixels.Row(y))
@@ -157,15 +156,19 @@ internal static unsafe class Jpeg2000Codec
 
         if (alpha)
         {
-            image->Components[count - 1].Alpha = 1;
+            header.Components[count - 1].Alpha = 1;
         }
 
         return image;
     }
 
-    private static nint OpenStream(StreamBridge bridge, bool input)
+    /// <summary>Throws where the library had no memory.</summary>
+    private static T Allocated<T>(T handle)
+        where T : SafeHandle => handle.IsInvalid ? throw new OutOfMemoryException() : handle;
+
+    private static OpenJpegStreamHandle OpenStream(StreamBridge bridge, bool input)
     {
-        nint stream = OpenJpeg.CreateStream(input ? 1 : 0);
+        OpenJpegStreamHandle stream = Allocated(OpenJpeg.CreateStream(input ? 1 : 0));
         OpenJpeg.SetUserData(stream, bridge.Closure, 0);
         OpenJpeg.SetUserDataLength(stream, input ? (ulong)bridge.Length : 0);
         OpenJpeg.SetRead(stream, &Read);
@@ -183,7 +186,8 @@ internal static unsafe class Jpeg2000Codec
     }
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
-    private static nuint Write(byte* data, nuint count, nint user) => (nuint)StreamBridge.Of(user).Write(data, (nint)count);
+    private static nuint Write(byte* data, nuint count, nint user) =>
+        (nuint)StreamBridge.Of(user).Write(data, (nint)count);
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
     private static long Skip(long count, nint user)
@@ -191,7 +195,7 @@ internal static unsafe class Jpeg2000Codec
         StreamBridge bridge = StreamBridge.Of(user);
         long before = bridge.Position;
         long after = bridge.Seek(count, System.IO.SeekOrigin.Current);
-        return after < 0 ? -1 : after - before;
+        return before < 0 || after < 0 ? -1 : after - before;
     }
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
@@ -199,8 +203,8 @@ internal static unsafe class Jpeg2000Codec
         StreamBridge.Of(user).Seek(position, System.IO.SeekOrigin.Begin) < 0 ? 0 : 1;
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
-    private static void Complain(byte* message, nint user)
+    private static void OnError(byte* message, nint user)
     {
-        StreamBridge.Of(user).Complaint ??= Marshal.PtrToStringUTF8((nint)message)?.Trim();
+        StreamBridge.Of(user).Error ??= Marshal.PtrToStringUTF8((nint)message)?.Trim();
     }
 }

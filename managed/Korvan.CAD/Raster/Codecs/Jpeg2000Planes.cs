@@ -5,22 +5,22 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Puts the planes of a decoded JPEG 2000 together: any depth, sign and subsampling.</summary>
+/// <summary>Combines the components of a decoded JPEG 2000 of any depth, sign and subsampling.</summary>
 internal static unsafe class Jpeg2000Planes
 {
-    internal static PixelGrid ToPixels(OpenJpeg.ImageHead* image, RasterSource source, out int bitsPerPixel)
+    internal static PixelGrid ToPixels(in OpenJpeg.ImageHeader image, RasterSource source, out int bitsPerPixel)
     {
-        int count = (int)image->ComponentCount;
+        int count = (int)image.ComponentCount;
         bitsPerPixel = 0;
         for (int i = 0; i < count; i++)
         {
-            Verify(image->Components[i], source);
-            bitsPerPixel += (int)image->Components[i].Precision;
+            Verify(image.Components[i], source);
+            bitsPerPixel += (int)image.Components[i].Precision;
         }
 
-        bool inks = image->Colors == OpenJpeg.ColorCmyk && count >= 4;
-        int colors = inks ? 4 : count >= 3 ? 3 : 1;
-        var pixels = new PixelGrid(checked((int)(image->X1 - image->X0)), checked((int)(image->Y1 - image->Y0)));
+        bool isCmyk = image.Colors == OpenJpeg.ColorCmyk && count >= 4;
+        int colors = isCmyk ? 4 : count >= 3 ? 3 : 1;
+        var pixels = new PixelGrid(checked((int)(image.X1 - image.X0)), checked((int)(image.Y1 - image.Y0)));
         var samples = new int[colors + 1];
         for (int y = 0; y < pixels.Height; y++)
         {
@@ -30,22 +30,23 @@ internal static unsafe class Jpeg2000Planes
                 samples[colors] = 255;
                 for (int c = 0; c < Math.Min(count, colors + 1); c++)
                 {
-                    samples[c] = Sample(image->Components[c], image->X0 + x, image->Y0 + y);
+                    samples[c] = Sample(image.Components[c], image.X0 + x, image.Y0 + y);
                 }
 
-                row[x] = Pixel(samples, inks, image->Colors);
+                row[x] = Pixel(samples, isCmyk, image.Colors);
             }
         }
 
         return pixels;
     }
 
-    private static int Pixel(ReadOnlySpan<int> s, bool inks, int colors)
+    private static int Pixel(ReadOnlySpan<int> s, bool isCmyk, int colors)
     {
         int alpha = s[^1] << 24;
-        if (inks)
+        if (isCmyk)
         {
-            return (CmykColor.FromStored(s[0] | (s[1] << 8) | (s[2] << 16) | (s[3] << 24)).ToArgb32() & 0xFFFFFF) | alpha;
+            var color = CmykColor.FromStored(s[0] | (s[1] << 8) | (s[2] << 16) | (s[3] << 24));
+            return (color.ToArgb32() & 0xFFFFFF) | alpha;
         }
 
         if (s.Length < 4)
@@ -62,10 +63,12 @@ internal static unsafe class Jpeg2000Planes
     internal static int FromYcc(int y, int cb, int cr)
     {
         static int Part(double value) => (int)Math.Clamp(Math.Round(value), 0, 255);
-        return (Part(y + (1.402 * cr)) << 16) | (Part(y - (0.344136 * cb) - (0.714136 * cr)) << 8) | Part(y + (1.772 * cb));
+        return (Part(y + (1.402 * cr)) << 16)
+            | (Part(y - (0.344136 * cb) - (0.714136 * cr)) << 8)
+            | Part(y + (1.772 * cb));
     }
 
-    // The place is one of the reference grid, on which the picture may begin anywhere.
+    // The position is on the reference grid, on which the image may begin anywhere.
     private static int Sample(in OpenJpeg.Component plane, long x, long y)
     {
         long column = Math.Clamp((x / plane.Dx) - plane.X0, 0, plane.Width - 1);
@@ -73,8 +76,8 @@ internal static unsafe class Jpeg2000Planes
         long value = plane.Data[(row * plane.Width) + column];
         int bits = (int)plane.Precision;
         value += plane.Signed != 0 ? 1L << (bits - 1) : 0;
-        long most = (1L << bits) - 1;
-        return (int)(((Math.Clamp(value, 0, most) * 255) + (most / 2)) / most);
+        long max = (1L << bits) - 1;
+        return (int)(((Math.Clamp(value, 0, max) * 255) + (max / 2)) / max);
     }
 
     private static void Verify(in OpenJpeg.Component plane, RasterSource source)

@@ -8,78 +8,66 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Compresses and decompresses JPEG; what stands beside the picture is the matter of <see cref="JpegSegments"/>.</summary>
+/// <summary>Compresses and decompresses JPEG; metadata is read and written by <see cref="JpegSegments"/>.</summary>
 internal static unsafe class JpegCodec
 {
-    private const int LargestSide = 65_500;
+    private const int MaxSide = 65_500;
 
-    /// <summary>A block of 8 × 8 takes a bit at the least, so a byte is at most 512 pixels.</summary>
-    private const long MostPixelsPerByte = 512;
+    /// <summary>A block of 8 × 8 pixels takes at least one bit, so a byte holds at most 512 pixels.</summary>
+    private const long MaxPixelsPerByte = 512;
 
     /// <summary>Compresses opaque pixels.</summary>
     internal static byte[] Compress(PixelGrid pixels, JpegCompressionColorMode colors, int quality, bool progressive)
     {
         TurboJpeg.Require();
-        if (pixels.Width > LargestSide || pixels.Height > LargestSide)
+        if (pixels.Width > MaxSide || pixels.Height > MaxSide)
         {
-            throw new JpegException($"A JPEG holds at most {LargestSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
+            throw new JpegException(
+                $"A JPEG holds at most {MaxSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
         }
 
         (TurboJpeg.PixelLayout layout, TurboJpeg.Subsampling subsampling) = colors switch
         {
             JpegCompressionColorMode.Grayscale => (TurboJpeg.PixelLayout.Bgrx, TurboJpeg.Subsampling.Gray),
             JpegCompressionColorMode.Ycck => (TurboJpeg.PixelLayout.Cmyk, TurboJpeg.Subsampling.None),
-            _ => (TurboJpeg.PixelLayout.Bgrx, quality >= 90 ? TurboJpeg.Subsampling.None : TurboJpeg.Subsampling.Quarter),
+            _ when quality >= 90 => (TurboJpeg.PixelLayout.Bgrx, TurboJpeg.Subsampling.None),
+            _ => (TurboJpeg.PixelLayout.Bgrx, TurboJpeg.Subsampling.Quarter),
         };
-        using PixelGrid? inks = colors == JpegCompressionColorMode.Ycck ? Inks(pixels) : null;
-        byte* jpeg = null;
+        using PixelGrid? isCmyk = colors == JpegCompressionColorMode.Ycck ? ToInvertedCmyk(pixels) : null;
+        using TurboJpegHandle handle = TurboJpeg.InitCompress();
+        int flags = progressive ? TurboJpeg.FlagProgressive : 0;
         nuint size = 0;
-        nint handle = TurboJpeg.InitCompress();
-        try
+        int failure = TurboJpeg.Compress(
+            handle, (isCmyk ?? pixels).Pointer, pixels.Width, 0, pixels.Height, layout, out TurboJpegBufferHandle jpeg,
+            ref size, subsampling, quality, flags);
+        using (jpeg)
         {
-            int flags = progressive ? TurboJpeg.FlagProgressive : 0;
-            byte* source = (inks ?? pixels).Pointer;
-            (int width, int height) = (pixels.Width, pixels.Height);
-            if (TurboJpeg.Compress(handle, source, width, 0, height, layout, &jpeg, &size, subsampling, quality, flags) != 0)
-            {
-                throw new JpegException($"The picture could not be compressed: {TurboJpeg.Error(handle)}.");
-            }
-
-            return new ReadOnlySpan<byte>(jpeg, checked((int)size)).ToArray();
-        }
-        finally
-        {
-            TurboJpeg.Free(jpeg);
-            TurboJpeg.Destroy(handle);
+            return failure == 0
+                ? jpeg.Bytes(size).ToArray()
+                : throw new JpegException($"The image could not be compressed: {TurboJpeg.Error(handle)}.");
         }
     }
 
-    /// <summary>The pixels of a JPEG; <paramref name="bitsPerPixel"/> tells whether it stored grey, colours or inks,
-    /// which programs for print store inverted.</summary>
-    internal static PixelGrid Decompress(RasterSource source, ReadOnlySpan<byte> data, bool inverted, out int bitsPerPixel)
+    /// <summary>Returns the pixels of a JPEG. <paramref name="bitsPerPixel"/> is 8 for grayscale, 24 for colours and 32
+    /// for CMYK, which print programs store inverted.</summary>
+    internal static PixelGrid Decompress(
+        RasterSource source, ReadOnlySpan<byte> data, bool inverted, out int bitsPerPixel)
     {
         TurboJpeg.Require();
-        nint handle = TurboJpeg.InitDecompress();
-        try
+        using TurboJpegHandle handle = TurboJpeg.InitDecompress();
+        fixed (byte* start = data)
         {
-            fixed (byte* start = data)
-            {
-                return Decompress(handle, source, start, data.Length, inverted, out bitsPerPixel);
-            }
-        }
-        finally
-        {
-            TurboJpeg.Destroy(handle);
+            return Decompress(handle, source, start, data.Length, inverted, out bitsPerPixel);
         }
     }
 
     private static PixelGrid Decompress(
-        nint handle, RasterSource source, byte* data, int length, bool inverted, out int bitsPerPixel)
+        TurboJpegHandle handle, RasterSource source, byte* data, int length, bool inverted, out int bitsPerPixel)
     {
         int width = 0, height = 0, subsampling = 0, colors = -1;
         int failure = TurboJpeg.ReadHeader(handle, data, (nuint)length, &width, &height, &subsampling, &colors);
 
-        // A way to thin planes out that has no name there is a failure, too, but can be decompressed.
+        // Non-standard sampling factors are reported as a failure, too, but can be decompressed.
         if (failure != 0 && (subsampling >= 0 || colors < 0))
         {
             throw new JpegException($"'{source.Name}' is no JPEG that can be read: {TurboJpeg.Error(handle)}.");
@@ -87,40 +75,42 @@ internal static unsafe class JpegCodec
 
         if (width < 1 || height < 1)
         {
-            throw new JpegException($"'{source.Name}' is no JPEG that can be read: it ends before the head of a picture.");
+            throw new JpegException($"'{source.Name}' is no JPEG that can be read: it ends before the frame header.");
         }
 
-        if ((long)width * height > length * MostPixelsPerByte)
+        if ((long)width * height > length * MaxPixelsPerByte)
         {
-            throw new JpegException($"'{source.Name}' claims {width} × {height} pixels, which its {length} bytes cannot hold.");
+            throw new JpegException(
+                $"'{source.Name}' claims {width} × {height} pixels, which its {length} bytes cannot hold.");
         }
 
-        bool inks = (TurboJpeg.Colors)colors is TurboJpeg.Colors.Cmyk or TurboJpeg.Colors.Ycck;
-        bitsPerPixel = inks ? 32 : (TurboJpeg.Colors)colors == TurboJpeg.Colors.Gray ? 8 : 24;
+        bool isCmyk = (TurboJpeg.Colors)colors is TurboJpeg.Colors.Cmyk or TurboJpeg.Colors.Ycck;
+        bitsPerPixel = isCmyk ? 32 : (TurboJpeg.Colors)colors == TurboJpeg.Colors.Gray ? 8 : 24;
         var pixels = new PixelGrid(width, height);
         int flags = TurboJpeg.FlagLimitScans | (source.Lenient ? 0 : TurboJpeg.FlagStopOnWarning);
-        TurboJpeg.PixelLayout layout = inks ? TurboJpeg.PixelLayout.Cmyk : TurboJpeg.PixelLayout.Bgra;
-        if (TurboJpeg.Decompress(handle, data, (nuint)length, pixels.Pointer, width, 0, height, layout, flags) != 0 && !source.Lenient)
+        TurboJpeg.PixelLayout layout = isCmyk ? TurboJpeg.PixelLayout.Cmyk : TurboJpeg.PixelLayout.Bgra;
+        if (TurboJpeg.Decompress(handle, data, (nuint)length, pixels.Pointer, width, 0, height, layout, flags) != 0
+            && !source.Lenient)
         {
             pixels.Dispose();
-            throw new JpegException($"The picture of '{source.Name}' is damaged: {TurboJpeg.Error(handle)}.");
+            throw new JpegException($"The image of '{source.Name}' is damaged: {TurboJpeg.Error(handle)}.");
         }
 
-        if (inks)
+        if (isCmyk)
         {
-            FromInks(pixels, inverted);
+            FromCmyk(pixels, inverted);
         }
 
         return pixels;
     }
 
-    /// <summary>Colours as inks in the inverted form that programs for print write.</summary>
-    private static PixelGrid Inks(PixelGrid pixels)
+    /// <summary>Converts to the inverted CMYK that print programs write.</summary>
+    private static PixelGrid ToInvertedCmyk(PixelGrid pixels)
     {
-        var inks = new PixelGrid(pixels.Width, pixels.Height);
+        var isCmyk = new PixelGrid(pixels.Width, pixels.Height);
         for (int y = 0; y < pixels.Height; y++)
         {
-            Span<int> to = inks.Row(y);
+            Span<int> to = isCmyk.Row(y);
             ReadOnlySpan<int> from = pixels.Row(y);
             for (int x = 0; x < to.Length; x++)
             {
@@ -128,10 +118,10 @@ internal static unsafe class JpegCodec
             }
         }
 
-        return inks;
+        return isCmyk;
     }
 
-    private static void FromInks(PixelGrid pixels, bool inverted)
+    private static void FromCmyk(PixelGrid pixels, bool inverted)
     {
         for (int y = 0; y < pixels.Height; y++)
         {

@@ -15,18 +15,28 @@ internal static class JpegReader
         List<JpegSegment> segments = JpegSegments.Read(source.Bytes);
         bool inverted = !JpegSegments.Find(segments, JpegSegments.App14, "Adobe"u8).IsEmpty;
         PixelGrid pixels = JpegCodec.Decompress(source, source.Bytes, inverted, out int bits);
-        ReadOnlySpan<byte> head = JpegSegments.Find(segments, JpegSegments.App0, []);
-        (double x, double y) = JFIFData.Read(head)?.PerInch() ?? default;
+        ReadOnlySpan<byte> jfif = JpegSegments.Find(segments, JpegSegments.App0, []);
+        (double x, double y) = JFIFData.Read(jfif)?.PerInch() ?? default;
         return new DecodedFile
         {
             Format = FileFormat.Jpeg,
-            Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = bits, HorizontalResolution = x, VerticalResolution = y }],
-            Exif = ReadExif(JpegSegments.Find(segments, JpegSegments.App1, JpegSegments.ExifMark)),
-            Xmp = XmpPacketWrapper.TryRead(JpegSegments.Find(segments, JpegSegments.App1, JpegSegments.XmpMark)),
+            Frames =
+            [
+                new DecodedFrame
+                {
+                    Pixels = pixels,
+                    BitsPerPixel = bits,
+                    HorizontalResolution = x,
+                    VerticalResolution = y,
+                },
+            ],
+            Exif = ReadExif(JpegSegments.Find(segments, JpegSegments.App1, JpegSegments.ExifSignature)),
+            Xmp = XmpPacketWrapper.TryRead(JpegSegments.Find(segments, JpegSegments.App1, JpegSegments.XmpSignature)),
         };
     }
 
-    /// <summary>Reads what a camera says; nothing where it is damaged, as a picture can do without.</summary>
+    /// <summary>Reads Exif metadata; returns null where it is damaged, since an image can be shown without
+    /// it.</summary>
     internal static JpegExifData? ReadExif(ReadOnlySpan<byte> data)
     {
         try

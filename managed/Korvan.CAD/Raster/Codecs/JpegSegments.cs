@@ -9,37 +9,38 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>A segment of a JPEG: its marker's second byte and its content without the length.</summary>
 internal readonly record struct JpegSegment(byte Marker, byte[] Data);
 
-/// <summary>The segments that stand before the picture of a JPEG (ITU-T T.81, annex B).</summary>
+/// <summary>The segments before the first scan of a JPEG (ITU-T T.81, annex B).</summary>
 internal static class JpegSegments
 {
     internal const byte App0 = 0xE0;
     internal const byte App1 = 0xE1;
     internal const byte Comment = 0xFE;
-    internal const int MostBytes = 65_533;
+    internal const int MaxSegmentBytes = 65_533;
     internal const byte App14 = 0xEE;
     private const byte StartOfScan = 0xDA;
 
-    /// <summary>What an APP1 of Exif begins with.</summary>
-    internal static ReadOnlySpan<byte> ExifMark => "Exif\0\0"u8;
+    /// <summary>Gets the signature of an APP1 segment of Exif.</summary>
+    internal static ReadOnlySpan<byte> ExifSignature => "Exif\0\0"u8;
 
-    /// <summary>What an APP1 of XMP begins with.</summary>
-    internal static ReadOnlySpan<byte> XmpMark => "http://ns.adobe.com/xap/1.0/\0"u8;
+    /// <summary>Gets the signature of an APP1 segment of XMP.</summary>
+    internal static ReadOnlySpan<byte> XmpSignature => "http://ns.adobe.com/xap/1.0/\0"u8;
 
-    /// <summary>The content of the first segment that begins with a mark, without the mark; empty for none.</summary>
-    internal static ReadOnlySpan<byte> Find(List<JpegSegment> segments, byte marker, ReadOnlySpan<byte> mark)
+    /// <summary>Returns the content of the first segment with a signature, without the signature; empty for
+    /// none.</summary>
+    internal static ReadOnlySpan<byte> Find(List<JpegSegment> segments, byte marker, ReadOnlySpan<byte> signature)
     {
         foreach (JpegSegment segment in segments)
         {
-            if (segment.Marker == marker && segment.Data.AsSpan().StartsWith(mark))
+            if (segment.Marker == marker && segment.Data.AsSpan().StartsWith(signature))
             {
-                return segment.Data.AsSpan(mark.Length);
+                return segment.Data.AsSpan(signature.Length);
             }
         }
 
         return [];
     }
 
-    /// <summary>What stands before the first scan; reading stops at what is no segment.</summary>
+    /// <summary>Reads the segments before the first scan; stops where a segment is damaged.</summary>
     internal static List<JpegSegment> Read(ReadOnlySpan<byte> jpeg)
     {
         List<JpegSegment> segments = [];
@@ -48,7 +49,7 @@ internal static class JpegSegments
         {
             if (jpeg[at + 1] == 0xFF)
             {
-                at++; // fill bytes may stand before a marker
+                at++; // fill bytes may precede a marker
                 continue;
             }
 
@@ -65,20 +66,21 @@ internal static class JpegSegments
         return segments;
     }
 
-    /// <summary>Writes a JPEG with the given segments in the place of its own APP0.</summary>
+    /// <summary>Writes a JPEG whose own APP0 segment is replaced by the given segments.</summary>
     internal static void Write(ReadOnlySpan<byte> jpeg, IEnumerable<JpegSegment> segments, Stream output)
     {
         output.Write(jpeg[..2]);
         foreach (JpegSegment segment in segments)
         {
-            if (segment.Data.Length > MostBytes)
+            if (segment.Data.Length > MaxSegmentBytes)
             {
-                throw new JpegException($"A segment of a JPEG holds at most {MostBytes} bytes; {segment.Data.Length} were given.");
+                throw new JpegException(
+                    $"A segment of a JPEG holds at most {MaxSegmentBytes} bytes; {segment.Data.Length} were given.");
             }
 
-            Span<byte> head = [0xFF, segment.Marker, 0, 0];
-            BinaryPrimitives.WriteUInt16BigEndian(head[2..], (ushort)(segment.Data.Length + 2));
-            output.Write(head);
+            Span<byte> header = [0xFF, segment.Marker, 0, 0];
+            BinaryPrimitives.WriteUInt16BigEndian(header[2..], (ushort)(segment.Data.Length + 2));
+            output.Write(header);
             output.Write(segment.Data);
         }
 

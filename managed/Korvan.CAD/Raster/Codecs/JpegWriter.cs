@@ -20,7 +20,7 @@ internal static class JpegWriter
 
     private static IEnumerable<JpegSegment> Segments(RasterPageData page, JpegOptions options)
     {
-        // JFIF knows grey and Y'CbCr only; files of inks have the segment of their own that the codec writes.
+        // JFIF has only grayscale and Y'CbCr; CMYK files keep the APP14 segment that the codec writes.
         if (options.ColorType != JpegCompressionColorMode.Ycck)
         {
             JFIFData head = options.Jfif ?? JFIFData.Of(page.HorizontalResolution, page.VerticalResolution);
@@ -29,12 +29,12 @@ internal static class JpegWriter
 
         if ((options.ExifData ?? page.Exif) is ExifData exif)
         {
-            yield return new JpegSegment(JpegSegments.App1, [.. JpegSegments.ExifMark, .. exif.SerializeData()]);
+            yield return new JpegSegment(JpegSegments.App1, [.. JpegSegments.ExifSignature, .. exif.SerializeData()]);
         }
 
         if ((options.XmpData ?? page.Xmp) is XmpPacketWrapper xmp)
         {
-            yield return new JpegSegment(JpegSegments.App1, [.. JpegSegments.XmpMark, .. xmp.ToBytes()]);
+            yield return new JpegSegment(JpegSegments.App1, [.. JpegSegments.XmpSignature, .. xmp.ToBytes()]);
         }
 
         if (options.Comment.Length > 0)

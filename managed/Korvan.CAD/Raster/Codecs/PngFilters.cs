@@ -4,20 +4,20 @@ using Korvan.CAD.FileFormats.Png;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Turns rows of a PNG into differences, and back (ISO/IEC 15948, clause 9).</summary>
+/// <summary>Filters rows of a PNG, and back (ISO/IEC 15948, clause 9).</summary>
 internal sealed class PngFilters(int rowBytes, int pixelBytes)
 {
-    private readonly byte[][] lines = [new byte[rowBytes + 1], new byte[rowBytes + 1]];
-    private byte[] row = new byte[rowBytes];
-    private byte[] above = new byte[rowBytes];
+    private readonly byte[][] _lines = [new byte[rowBytes + 1], new byte[rowBytes + 1]];
+    private byte[] _row = new byte[rowBytes];
+    private byte[] _above = new byte[rowBytes];
 
-    /// <summary>The row that comes next; its owner fills it.</summary>
-    internal Span<byte> Row => row;
+    /// <summary>Gets the buffer of the next row.</summary>
+    internal Span<byte> Row => _row;
 
-    /// <summary>Gives the filtered row with the number of its filter before it.</summary>
+    /// <summary>Returns the filtered row, preceded by its filter type.</summary>
     internal ReadOnlySpan<byte> Apply(PngFilterType filter)
     {
-        byte[] best = lines[0];
+        byte[] best = _lines[0];
         if (filter != PngFilterType.Adaptive)
         {
             Fill(best, filter);
@@ -27,11 +27,11 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
             best = Adaptive();
         }
 
-        (row, above) = (above, row);
+        (_row, _above) = (_above, _row);
         return best;
     }
 
-    /// <summary>Makes pixels of a filtered row again.</summary>
+    /// <summary>Reverses the filter of a row.</summary>
     internal static void Undo(PngFilterType filter, Span<byte> row, ReadOnlySpan<byte> above, int pixelBytes)
     {
         if (filter is < PngFilterType.None or > PngFilterType.Paeth)
@@ -43,14 +43,14 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
         {
             int left = i >= pixelBytes ? row[i - pixelBytes] : 0;
             int corner = i >= pixelBytes ? above[i - pixelBytes] : 0;
-            row[i] += (byte)Guess(filter, left, above[i], corner);
+            row[i] += (byte)Predict(filter, left, above[i], corner);
         }
     }
 
     private byte[] Adaptive()
     {
-        byte[] best = lines[0];
-        byte[] trial = lines[1];
+        byte[] best = _lines[0];
+        byte[] trial = _lines[1];
         long least = long.MaxValue;
         for (PngFilterType filter = PngFilterType.None; filter <= PngFilterType.Paeth; filter++)
         {
@@ -74,15 +74,15 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
     private void Fill(byte[] line, PngFilterType filter)
     {
         line[0] = (byte)filter;
-        for (int i = 0; i < row.Length; i++)
+        for (int i = 0; i < _row.Length; i++)
         {
-            int left = i >= pixelBytes ? row[i - pixelBytes] : 0;
-            int corner = i >= pixelBytes ? above[i - pixelBytes] : 0;
-            line[i + 1] = (byte)(row[i] - Guess(filter, left, above[i], corner));
+            int left = i >= pixelBytes ? _row[i - pixelBytes] : 0;
+            int corner = i >= pixelBytes ? _above[i - pixelBytes] : 0;
+            line[i + 1] = (byte)(_row[i] - Predict(filter, left, _above[i], corner));
         }
     }
 
-    private static int Guess(PngFilterType filter, int left, int up, int corner) => filter switch
+    private static int Predict(PngFilterType filter, int left, int up, int corner) => filter switch
     {
         PngFilterType.Sub => left,
         PngFilterType.Up => up,
@@ -93,10 +93,10 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
 
     private static int Paeth(int left, int up, int corner)
     {
-        int guess = left + up - corner;
-        int toLeft = Math.Abs(guess - left);
-        int toUp = Math.Abs(guess - up);
-        int toCorner = Math.Abs(guess - corner);
+        int estimate = left + up - corner;
+        int toLeft = Math.Abs(estimate - left);
+        int toUp = Math.Abs(estimate - up);
+        int toCorner = Math.Abs(estimate - corner);
         return toLeft <= toUp && toLeft <= toCorner ? left : toUp <= toCorner ? up : corner;
     }
 }

@@ -8,11 +8,11 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Reads PNG: the pixels through libpng, what stands beside them from the chunks.</summary>
+/// <summary>Reads PNG: the pixels through libpng, metadata from the chunks.</summary>
 internal static unsafe class PngReader
 {
-    /// <summary>Deflate makes at most 1032 bytes of one, each of up to eight pixels.</summary>
-    private const long MostPixelsPerByte = 1032 * 8;
+    /// <summary>Deflate expands a byte to at most 1032, each of up to eight pixels.</summary>
+    private const long MaxPixelsPerByte = 1032 * 8;
 
     private const double MetresPerInch = 0.0254;
 
@@ -22,8 +22,8 @@ internal static unsafe class PngReader
         Dictionary<string, byte[]> chunks = Chunks(source.Bytes);
         PixelGrid pixels = Pixels(source);
         (double x, double y) = Density(chunks);
-        byte[] head = chunks["IHDR"];
-        int samples = head[9] switch { 2 => 3, 4 => 2, 6 => 4, _ => 1 };
+        byte[] header = chunks["IHDR"];
+        int samples = header[9] switch { 2 => 3, 4 => 2, 6 => 4, _ => 1 };
         return new DecodedFile
         {
             Format = FileFormat.Png,
@@ -34,10 +34,10 @@ internal static unsafe class PngReader
                 new DecodedFrame
                 {
                     Pixels = pixels,
-                    BitsPerPixel = samples * head[8],
+                    BitsPerPixel = samples * header[8],
                     HorizontalResolution = x,
                     VerticalResolution = y,
-                    Palette = head[9] == 3 ? Palette(chunks) : null,
+                    Palette = header[9] == 3 ? Palette(chunks) : null,
                 },
             ],
         };
@@ -45,53 +45,44 @@ internal static unsafe class PngReader
 
     private static PixelGrid Pixels(RasterSource source)
     {
-        byte[] file = PngPasses.Plain(source);
-        Png.State image = default;
-        image.Version = Png.Version;
+        byte[] file = PngDeinterlacer.Convert(source);
+        using var image = new PngImageHandle();
+        ref Png.State state = ref image.State;
         fixed (byte* data = file)
         {
-            if (Png.Begin(&image, data, (nuint)file.Length) == 0)
+            if (Png.Begin(image, data, (nuint)file.Length) == 0)
             {
-                throw Failure(source, image.Text());
+                throw Failure(source, state.Text());
             }
 
-            if ((long)image.Width * image.Height > source.Data.Length * MostPixelsPerByte)
+            if ((long)state.Width * state.Height > source.Data.Length * MaxPixelsPerByte)
             {
-                Png.Free(&image);
-                throw new PngImageException($"'{source.Name}' claims {image.Width} × {image.Height} pixels,"
+                throw new PngImageException($"'{source.Name}' claims {state.Width} × {state.Height} pixels,"
                     + $" which its {source.Data.Length} bytes cannot hold.");
             }
 
-            PixelGrid? pixels = null;
-            try
+            var pixels = new PixelGrid(checked((int)state.Width), checked((int)state.Height));
+            state.Format = Png.FormatBgra;
+            state.Flags |= Png.SixteenBitsAreSrgb; // without a gamma they would be taken for linear light
+            if (Png.Finish(image, null, pixels.Pointer, pixels.Width * 4, null) == 0)
             {
-                pixels = new PixelGrid(checked((int)image.Width), checked((int)image.Height));
-                image.Format = Png.FormatBgra;
-                image.Flags |= Png.SixteenBitsAreSrgb; // without a gamma they would be taken for linear light
-                if (Png.Finish(&image, null, pixels.Pointer, pixels.Width * 4, null) == 0)
-                {
-                    throw Failure(source, image.Text());
-                }
+                pixels.Dispose();
+                throw Failure(source, state.Text());
+            }
 
-                return pixels;
-            }
-            catch
-            {
-                pixels?.Dispose();
-                Png.Free(&image);
-                throw;
-            }
+            return pixels;
         }
     }
 
     private static PngImageException Failure(RasterSource source, string reason)
     {
-        bool deflate = reason.Contains("IDAT", StringComparison.Ordinal) || reason.Contains("deflate", StringComparison.Ordinal);
+        bool deflate = reason.Contains("IDAT", StringComparison.Ordinal)
+            || reason.Contains("deflate", StringComparison.Ordinal);
         DeflateCompressorException? inner = deflate ? new DeflateCompressorException(reason) : null;
         return new PngImageException($"'{source.Name}' is damaged: {reason}.", inner);
     }
 
-    // The first of each kind; libpng has the last word on whether the file is whole.
+    // The first chunk of each kind; libpng decides whether the file is valid.
     private static Dictionary<string, byte[]> Chunks(ReadOnlySpan<byte> data)
     {
         var chunks = new Dictionary<string, byte[]> { ["IHDR"] = new byte[13] };
@@ -113,9 +104,9 @@ internal static unsafe class PngReader
             {
                 chunks.TryAdd(type, data.Slice(at + 8, length).ToArray());
             }
-            else if (type == "iTXt" && data.Slice(at + 8, length).StartsWith(PngStream.XmpMark))
+            else if (type == "iTXt" && data.Slice(at + 8, length).StartsWith(PngStream.XmpPrefix))
             {
-                chunks.TryAdd(type, data.Slice(at + 8, length)[PngStream.XmpMark.Length..].ToArray());
+                chunks.TryAdd(type, data.Slice(at + 8, length)[PngStream.XmpPrefix.Length..].ToArray());
             }
 
             at += length + 12;

@@ -6,8 +6,8 @@ using Korvan.CAD.FileFormats.Png;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>What is said of a PNG before its rows.</summary>
-internal readonly record struct PngHead(int Width, int Height, int BitDepth, PngColorType ColorType)
+/// <summary>The header of a PNG.</summary>
+internal readonly record struct PngHeader(int Width, int Height, int BitDepth, PngColorType ColorType)
 {
     internal int BitsPerPixel => BitDepth * ColorType switch
     {
@@ -20,29 +20,29 @@ internal readonly record struct PngHead(int Width, int Height, int BitDepth, Png
     internal int RowBytes => checked((int)((((long)Width * BitsPerPixel) + 7) / 8));
 }
 
-/// <summary>Puts a portable network graphic (ISO/IEC 15948) together out of packed rows.</summary>
+/// <summary>Writes a PNG (ISO/IEC 15948) of packed rows.</summary>
 internal static class PngStream
 {
     private const int IdatSize = 256 * 1024;
     private const double InchesPerMetre = 1 / 0.0254;
     private static readonly uint[] CrcTable = BuildCrcTable();
 
-    /// <summary>What an international text chunk of XMP begins with: its keyword, no compression, no language.</summary>
-    internal static ReadOnlySpan<byte> XmpMark => "XML:com.adobe.xmp\0\0\0\0\0"u8;
+    /// <summary>Gets the start of an iTXt chunk of XMP: its keyword, no compression, no language.</summary>
+    internal static ReadOnlySpan<byte> XmpPrefix => "XML:com.adobe.xmp\0\0\0\0\0"u8;
 
-    /// <summary>Puts one row in the form of the head into the buffer.</summary>
+    /// <summary>Writes one row, in the format of the header, into the buffer.</summary>
     internal delegate void PackRow(int y, Span<byte> row);
 
-    internal static void Begin(Stream output, in PngHead head, double horizontal, double vertical)
+    internal static void Begin(Stream output, in PngHeader header, double horizontal, double vertical)
     {
         output.Write([0x89, (byte)'P', (byte)'N', (byte)'G', 0x0d, 0x0a, 0x1a, 0x0a]);
-        Span<byte> header = stackalloc byte[13];
-        BinaryPrimitives.WriteInt32BigEndian(header, head.Width);
-        BinaryPrimitives.WriteInt32BigEndian(header[4..], head.Height);
-        header[8] = (byte)head.BitDepth;
-        header[9] = (byte)head.ColorType;
-        header[10] = header[11] = header[12] = 0;
-        WriteChunk(output, "IHDR"u8, header);
+        Span<byte> ihdr = stackalloc byte[13];
+        BinaryPrimitives.WriteInt32BigEndian(ihdr, header.Width);
+        BinaryPrimitives.WriteInt32BigEndian(ihdr[4..], header.Height);
+        ihdr[8] = (byte)header.BitDepth;
+        ihdr[9] = (byte)header.ColorType;
+        ihdr[10] = ihdr[11] = ihdr[12] = 0;
+        WriteChunk(output, "IHDR"u8, ihdr);
 
         Span<byte> density = stackalloc byte[9];
         BinaryPrimitives.WriteInt32BigEndian(density, PerMetre(horizontal));
@@ -51,13 +51,14 @@ internal static class PngStream
         WriteChunk(output, "pHYs"u8, density);
     }
 
-    internal static void WriteRows(Stream output, in PngHead head, PngFilterType filter, int level, PackRow pack)
+    internal static void WriteRows(Stream output, in PngHeader header, PngFilterType filter, int level, PackRow pack)
     {
         using var chunks = new ChunkStream(output);
-        using (var zlib = new ZLibStream(chunks, new ZLibCompressionOptions { CompressionLevel = level }, leaveOpen: true))
+        var compression = new ZLibCompressionOptions { CompressionLevel = level };
+        using (var zlib = new ZLibStream(chunks, compression, leaveOpen: true))
         {
-            var filters = new PngFilters(head.RowBytes, Math.Max(1, head.BitsPerPixel / 8));
-            for (int y = 0; y < head.Height; y++)
+            var filters = new PngFilters(header.RowBytes, Math.Max(1, header.BitsPerPixel / 8));
+            for (int y = 0; y < header.Height; y++)
             {
                 pack(y, filters.Row);
                 zlib.Write(filters.Apply(filter));
@@ -69,21 +70,23 @@ internal static class PngStream
 
     internal static void End(Stream output) => WriteChunk(output, "IEND"u8, []);
 
-    private static int PerMetre(double pixelsPerInch) => (int)Math.Round(Math.Min(pixelsPerInch * InchesPerMetre, int.MaxValue));
+    private static int PerMetre(double pixelsPerInch) =>
+        (int)Math.Round(Math.Min(pixelsPerInch * InchesPerMetre, int.MaxValue));
 
     internal static void WriteChunk(Stream output, ReadOnlySpan<byte> type, ReadOnlySpan<byte> data)
     {
-        Span<byte> word = stackalloc byte[4];
-        BinaryPrimitives.WriteInt32BigEndian(word, data.Length);
-        output.Write(word);
+        Span<byte> number = stackalloc byte[4];
+        BinaryPrimitives.WriteInt32BigEndian(number, data.Length);
+        output.Write(number);
         output.Write(type);
         output.Write(data);
-        BinaryPrimitives.WriteUInt32BigEndian(word, Sum(type, data));
-        output.Write(word);
+        BinaryPrimitives.WriteUInt32BigEndian(number, Checksum(type, data));
+        output.Write(number);
     }
 
-    /// <summary>The check sum of a chunk.</summary>
-    internal static uint Sum(ReadOnlySpan<byte> type, ReadOnlySpan<byte> data) => Crc(Crc(0xffffffff, type), data) ^ 0xffffffff;
+    /// <summary>Returns the CRC of a chunk.</summary>
+    internal static uint Checksum(ReadOnlySpan<byte> type, ReadOnlySpan<byte> data) =>
+        Crc(Crc(0xffffffff, type), data) ^ 0xffffffff;
 
     private static uint Crc(uint crc, ReadOnlySpan<byte> data)
     {
@@ -112,11 +115,11 @@ internal static class PngStream
         return table;
     }
 
-    /// <summary>Cuts the compressed data into chunks of one size.</summary>
+    /// <summary>Splits the compressed data into chunks of one size.</summary>
     private sealed class ChunkStream(Stream output) : Stream
     {
-        private readonly byte[] buffer = new byte[IdatSize];
-        private int used;
+        private readonly byte[] _buffer = new byte[IdatSize];
+        private int _used;
 
         public override bool CanRead => false;
 
@@ -138,11 +141,11 @@ internal static class PngStream
         {
             while (data.Length > 0)
             {
-                int take = Math.Min(data.Length, buffer.Length - used);
-                data[..take].CopyTo(buffer.AsSpan(used));
-                used += take;
+                int take = Math.Min(data.Length, _buffer.Length - _used);
+                data[..take].CopyTo(_buffer.AsSpan(_used));
+                _used += take;
                 data = data[take..];
-                if (used == buffer.Length)
+                if (_used == _buffer.Length)
                 {
                     Flush();
                 }
@@ -151,10 +154,10 @@ internal static class PngStream
 
         public override void Flush()
         {
-            if (used > 0)
+            if (_used > 0)
             {
-                WriteChunk(output, "IDAT"u8, buffer.AsSpan(0, used));
-                used = 0;
+                WriteChunk(output, "IDAT"u8, _buffer.AsSpan(0, _used));
+                _used = 0;
             }
         }
 

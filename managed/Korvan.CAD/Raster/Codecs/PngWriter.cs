@@ -17,21 +17,21 @@ internal static class PngWriter
     internal static void Write(RasterPageData page, PngOptions options, Stream output)
     {
         PixelGrid pixels = page.Pixels;
-        PngHead head = Head(pixels, options);
-        if (head.ColorType is PngColorType.Grayscale or PngColorType.Truecolor)
+        PngHeader header = Header(pixels, options);
+        if (header.ColorType is PngColorType.Grayscale or PngColorType.Truecolor)
         {
             pixels.Flatten(White);
         }
 
-        PngStream.Begin(output, head, page.HorizontalResolution, page.VerticalResolution);
+        PngStream.Begin(output, header, page.HorizontalResolution, page.VerticalResolution);
         WriteMetadata(page, options, output);
-        if (head.ColorType == PngColorType.IndexedColor)
+        if (header.ColorType == PngColorType.IndexedColor)
         {
-            WriteIndexed(pixels, head, options, output);
+            WriteIndexed(pixels, header, options, output);
         }
         else
         {
-            PngStream.WriteRows(output, head, options.FilterType, options.CompressionLevel, Packer(pixels, head));
+            PngStream.WriteRows(output, header, options.FilterType, options.CompressionLevel, Packer(pixels, header));
         }
 
         PngStream.End(output);
@@ -41,7 +41,7 @@ internal static class PngWriter
     {
         if ((options.XmpData ?? page.Xmp) is XmpPacketWrapper xmp)
         {
-            PngStream.WriteChunk(output, "iTXt"u8, [.. PngStream.XmpMark, .. xmp.ToBytes()]);
+            PngStream.WriteChunk(output, "iTXt"u8, [.. PngStream.XmpPrefix, .. xmp.ToBytes()]);
         }
 
         if (page.Exif != null)
@@ -50,7 +50,7 @@ internal static class PngWriter
         }
     }
 
-    private static PngHead Head(PixelGrid pixels, PngOptions options)
+    private static PngHeader Header(PixelGrid pixels, PngOptions options)
     {
         PngColorType type = options.ColorType;
         if (type == PngColorType.TruecolorWithAlpha && pixels.IsOpaque())
@@ -66,16 +66,16 @@ internal static class PngWriter
                     + $"{options.BitDepth}.");
         }
 
-        return new PngHead(pixels.Width, pixels.Height, options.BitDepth, type);
+        return new PngHeader(pixels.Width, pixels.Height, options.BitDepth, type);
     }
 
-    private static PngStream.PackRow Packer(PixelGrid pixels, PngHead head) => (y, row) =>
+    private static PngStream.PackRow Packer(PixelGrid pixels, PngHeader header) => (y, row) =>
     {
         ReadOnlySpan<int> from = pixels.Row(y);
-        switch (head.ColorType)
+        switch (header.ColorType)
         {
             case PngColorType.Grayscale:
-                BitPacking.Gray(from, row, head.BitDepth);
+                BitPacking.Gray(from, row, header.BitDepth);
                 break;
             case PngColorType.GrayscaleWithAlpha:
                 for (int x = 0; x < from.Length; x++)
@@ -86,14 +86,15 @@ internal static class PngWriter
 
                 break;
             default:
-                BitPacking.Rgb(from, row, head.ColorType == PngColorType.TruecolorWithAlpha ? 4 : 3);
+                BitPacking.Rgb(from, row, header.ColorType == PngColorType.TruecolorWithAlpha ? 4 : 3);
                 break;
         }
     };
 
-    private static void WriteIndexed(PixelGrid pixels, PngHead head, PngOptions options, Stream output)
+    private static void WriteIndexed(PixelGrid pixels, PngHeader header, PngOptions options, Stream output)
     {
-        int[] palette = PaletteChoice.For(pixels, options.Palette, 1 << head.BitDepth, ColorQuantizationMethod.MedianCut);
+        int[] palette =
+            PaletteChoice.For(pixels, options.Palette, 1 << header.BitDepth, ColorQuantizationMethod.MedianCut);
         var colors = new byte[palette.Length * 3];
         var opacity = new byte[palette.Length];
         for (int i = 0; i < palette.Length; i++)
@@ -110,9 +111,9 @@ internal static class PngWriter
             PngStream.WriteChunk(output, "tRNS"u8, opacity);
         }
 
-        // The filters take rows one by one, so the numbers of all pixels are found first.
-        byte[] indices = IndexedRows.Of(pixels, palette, options.Dithering);
-        PngStream.WriteRows(output, head, PngFilterType.None, options.CompressionLevel, (y, row) =>
-            BitPacking.Pack(indices.AsSpan(y * pixels.Width, pixels.Width), row, head.BitDepth));
+        // Filters process rows one by one, so the indices of all pixels are computed first.
+        byte[] indices = IndexedPixels.Of(pixels, palette, options.Dithering);
+        PngStream.WriteRows(output, header, PngFilterType.None, options.CompressionLevel, (y, row) =>
+            BitPacking.Pack(indices.AsSpan(y * pixels.Width, pixels.Width), row, header.BitDepth));
     }
 }

@@ -8,52 +8,53 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Reads the merged picture of a PSD.</summary>
+/// <summary>Reads the merged image of a PSD.</summary>
 internal sealed class PsdReader
 {
-    private const int HeadBytes = 26;
+    private const int HeaderBytes = 26;
 
-    private readonly RasterSource source;
-    private readonly int channels;
-    private readonly int width;
-    private readonly int height;
-    private readonly int depth;
-    private readonly ColorModes mode;
+    private readonly RasterSource _source;
+    private readonly int _channels;
+    private readonly int _width;
+    private readonly int _height;
+    private readonly int _depth;
+    private readonly ColorModes _mode;
 
     private PsdReader(RasterSource source)
     {
-        this.source = source;
-        ReadOnlySpan<byte> head = source.Data;
-        if (head.Length < HeadBytes || !head.StartsWith("8BPS"u8) || BinaryPrimitives.ReadUInt16BigEndian(head[4..]) != 1)
+        _source = source;
+        ReadOnlySpan<byte> header = source.Data;
+        if (header.Length < HeaderBytes || !header.StartsWith("8BPS"u8)
+            || BinaryPrimitives.ReadUInt16BigEndian(header[4..]) != 1)
         {
-            throw new PsdImageException($"'{source.Name}' does not begin with the head of a PSD of version 1.");
+            throw new PsdImageException($"'{source.Name}' does not begin with the header of a PSD of version 1.");
         }
 
-        channels = BinaryPrimitives.ReadUInt16BigEndian(head[12..]);
-        height = BinaryPrimitives.ReadInt32BigEndian(head[14..]);
-        width = BinaryPrimitives.ReadInt32BigEndian(head[18..]);
-        depth = BinaryPrimitives.ReadUInt16BigEndian(head[22..]);
-        mode = (ColorModes)BinaryPrimitives.ReadUInt16BigEndian(head[24..]);
-        VerifyHead();
+        _channels = BinaryPrimitives.ReadUInt16BigEndian(header[12..]);
+        _height = BinaryPrimitives.ReadInt32BigEndian(header[14..]);
+        _width = BinaryPrimitives.ReadInt32BigEndian(header[18..]);
+        _depth = BinaryPrimitives.ReadUInt16BigEndian(header[22..]);
+        _mode = (ColorModes)BinaryPrimitives.ReadUInt16BigEndian(header[24..]);
+        VerifyHeader();
     }
 
-    private int RowBytes => ((width * depth) + 7) / 8;
+    private int RowBytes => ((_width * _depth) + 7) / 8;
 
     internal static DecodedFile Read(RasterSource source)
     {
         var reader = new PsdReader(source);
-        ReadOnlySpan<byte> rest = source.Data.AsSpan(HeadBytes);
+        ReadOnlySpan<byte> rest = source.Data.AsSpan(HeaderBytes);
         ReadOnlySpan<byte> palette = Section(ref rest, source.Name, "palette");
         ReadOnlySpan<byte> resources = Section(ref rest, source.Name, "resources");
         Section(ref rest, source.Name, "layers");
         return reader.File(palette, resources, rest);
     }
 
-    /// <summary>The section of resources of a file.</summary>
+    /// <summary>Returns the section of image resources of a file.</summary>
     internal static ReadOnlySpan<byte> ResourceBytes(byte[] data, string name)
     {
         _ = new PsdReader(new RasterSource(data, name, false));
-        ReadOnlySpan<byte> rest = data.AsSpan(HeadBytes);
+        ReadOnlySpan<byte> rest = data.AsSpan(HeaderBytes);
         Section(ref rest, name, "palette");
         return Section(ref rest, name, "resources");
     }
@@ -71,15 +72,16 @@ internal sealed class PsdReader
         return section;
     }
 
-    private void VerifyHead()
+    private void VerifyHeader()
     {
-        if (width < 1 || height < 1 || channels is < 1 or > 56)
+        if (_width < 1 || _height < 1 || _channels is < 1 or > 56)
         {
-            throw new PsdImageException($"'{source.Name}' claims {width} × {height} pixels of {channels} channels.");
+            throw new PsdImageException(
+                $"'{_source.Name}' claims {_width} × {_height} pixels of {_channels} channels.");
         }
 
-        PixelGrid.Verify(width, height);
-        (int Needed, bool Known) form = (mode, depth) switch
+        PixelGrid.VerifySize(_width, _height);
+        (int Needed, bool Known) form = (_mode, _depth) switch
         {
             (ColorModes.Bitmap, 1) or (ColorModes.Indexed, 8) => (1, true),
             (ColorModes.Grayscale or ColorModes.Duotone, 8 or 16) => (1, true),
@@ -87,14 +89,15 @@ internal sealed class PsdReader
             (ColorModes.Cmyk, 8 or 16) => (4, true),
             _ => (0, false),
         };
-        if (!form.Known || channels < form.Needed)
+        if (!form.Known || _channels < form.Needed)
         {
             throw new PsdImageException(
-                $"'{source.Name}' is of mode {mode} with {channels} channels of {depth} bits, which is not read.");
+                $"'{_source.Name}' is of mode {_mode} with {_channels} channels of {_depth} bits, which is not read.");
         }
     }
 
-    private DecodedFile File(ReadOnlySpan<byte> paletteBytes, ReadOnlySpan<byte> resources, ReadOnlySpan<byte> picture)
+    private DecodedFile File(
+        ReadOnlySpan<byte> paletteBytes, ReadOnlySpan<byte> resources, ReadOnlySpan<byte> imageData)
     {
         PsdPalette? palette = Palette(paletteBytes, resources);
         (double x, double y) = Resolution(resources);
@@ -106,8 +109,8 @@ internal sealed class PsdReader
             [
                 new DecodedFrame
                 {
-                    Pixels = Picture(picture, palette?.Argb32Entries),
-                    BitsPerPixel = channels * depth,
+                    Pixels = MergedImage(imageData, palette?.Argb32Entries),
+                    BitsPerPixel = _channels * _depth,
                     Palette = palette,
                     HorizontalResolution = x,
                     VerticalResolution = y,
@@ -118,18 +121,20 @@ internal sealed class PsdReader
 
     private PsdPalette? Palette(ReadOnlySpan<byte> table, ReadOnlySpan<byte> resources)
     {
-        if (mode != ColorModes.Indexed)
+        if (_mode != ColorModes.Indexed)
         {
             return null;
         }
 
         if (table.Length < PsdPalette.Bytes)
         {
-            throw new PsdImageException($"The palette of '{source.Name}' has {table.Length} bytes, not {PsdPalette.Bytes}.");
+            throw new PsdImageException(
+                $"The palette of '{_source.Name}' has {table.Length} bytes, not {PsdPalette.Bytes}.");
         }
 
         ReadOnlySpan<byte> transparent = PsdResources.Find(resources, TransparencyIndexResource.Number);
-        return PsdPalette.Read(table, transparent.IsEmpty ? -1 : TransparencyIndexResource.Read(transparent).TransparencyIndex);
+        int index = transparent.IsEmpty ? -1 : TransparencyIndexResource.Read(transparent).TransparencyIndex;
+        return PsdPalette.Read(table, index);
     }
 
     private static (double X, double Y) Resolution(ReadOnlySpan<byte> resources)
@@ -137,19 +142,21 @@ internal sealed class PsdReader
         ReadOnlySpan<byte> data = PsdResources.Find(resources, PsdResources.ResolutionInfo);
         return data.Length < 16
             ? default
-            : (BinaryPrimitives.ReadUInt32BigEndian(data) / 65536.0, BinaryPrimitives.ReadUInt32BigEndian(data[8..]) / 65536.0);
+            : (BinaryPrimitives.ReadUInt32BigEndian(data) / 65536.0,
+                BinaryPrimitives.ReadUInt32BigEndian(data[8..]) / 65536.0);
     }
 
-    private PixelGrid Picture(ReadOnlySpan<byte> data, int[]? palette)
+    private PixelGrid MergedImage(ReadOnlySpan<byte> data, int[]? palette)
     {
         int method = data.Length < 2 ? -1 : BinaryPrimitives.ReadUInt16BigEndian(data);
         if (method is not ((int)CompressionMethod.Raw or (int)CompressionMethod.Rle))
         {
             throw new PsdImageException(
-                $"The merged picture of '{source.Name}' is missing or compressed by method {method}, which is not read.");
+                $"The merged image of '{_source.Name}' is missing or compressed by method {method},"
+                    + " which is not read.");
         }
 
-        var rows = new PsdRows(data[2..], method == (int)CompressionMethod.Rle, channels, height, RowBytes);
+        var rows = new PsdRows(data[2..], method == (int)CompressionMethod.Rle, _channels, _height, RowBytes);
         int used = UsedChannels();
         var planes = new byte[used][];
         for (int c = 0; c < used; c++)
@@ -157,10 +164,10 @@ internal sealed class PsdReader
             planes[c] = new byte[RowBytes];
         }
 
-        PixelGrid pixels = source.NewGrid(width, height);
+        PixelGrid pixels = _source.NewGrid(_width, _height);
         try
         {
-            for (int y = 0; y < height; y++)
+            for (int y = 0; y < _height; y++)
             {
                 for (int c = 0; c < used; c++)
                 {
@@ -170,36 +177,36 @@ internal sealed class PsdReader
                 Combine(planes, palette, pixels.Row(y));
             }
         }
-        catch (FrameworkException) when (source.Lenient)
+        catch (FrameworkException) when (_source.Lenient)
         {
-            return pixels; // what was read so far is shown
+            return pixels; // the pixels that were read are shown
         }
         catch (FrameworkException e)
         {
             pixels.Dispose();
-            throw new PsdImageException($"The picture of '{source.Name}' is damaged.", e);
+            throw new PsdImageException($"The image of '{_source.Name}' is damaged.", e);
         }
 
         return pixels;
     }
 
-    // A channel more than the mode needs is taken for opacity.
-    private int UsedChannels() => mode switch
+    // A channel beyond those of the mode is taken as alpha.
+    private int UsedChannels() => _mode switch
     {
-        ColorModes.Rgb => Math.Min(channels, 4),
-        ColorModes.Cmyk => Math.Min(channels, 5),
-        ColorModes.Grayscale or ColorModes.Duotone => Math.Min(channels, 2),
+        ColorModes.Rgb => Math.Min(_channels, 4),
+        ColorModes.Cmyk => Math.Min(_channels, 5),
+        ColorModes.Grayscale or ColorModes.Duotone => Math.Min(_channels, 2),
         _ => 1,
     };
 
     private void Combine(byte[][] planes, int[]? palette, Span<int> row)
     {
-        int colors = mode == ColorModes.Cmyk ? 4 : mode == ColorModes.Rgb ? 3 : 1;
+        int colors = _mode == ColorModes.Cmyk ? 4 : _mode == ColorModes.Rgb ? 3 : 1;
         for (int x = 0; x < row.Length; x++)
         {
             int opacity = planes.Length > colors ? Sample(planes[colors], x) : 255;
-            int Level(int channel) => PsdMatte.Lift(Sample(planes[channel], x), opacity);
-            row[x] = mode switch
+            int Level(int channel) => PsdMatte.Unblend(Sample(planes[channel], x), opacity);
+            row[x] = _mode switch
             {
                 ColorModes.Bitmap => Sample(planes[0], x) == 0 ? -1 : PixelGrid.Opaque,
                 ColorModes.Indexed => palette![Sample(planes[0], x)],
@@ -211,10 +218,10 @@ internal sealed class PsdReader
         }
     }
 
-    private int Sample(byte[] plane, int x) => depth switch
+    private int Sample(byte[] plane, int x) => _depth switch
     {
         16 => ((BinaryPrimitives.ReadUInt16BigEndian(plane.AsSpan(2 * x)) * 255) + 32767) / 65535,
         8 => plane[x],
-        _ => BitPacking.Value(plane, x, depth),
+        _ => BitPacking.Value(plane, x, _depth),
     };
 }

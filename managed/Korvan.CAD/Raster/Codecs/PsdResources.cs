@@ -17,7 +17,7 @@ internal static class PsdResources
 
     internal static ResourceBlock[] Of(byte[] data, string name) => [.. ReadAll(PsdReader.ResourceBytes(data, name))];
 
-    /// <summary>The content of a block; empty where there is none.</summary>
+    /// <summary>Returns the content of a block; empty where there is none.</summary>
     internal static ReadOnlySpan<byte> Find(ReadOnlySpan<byte> section, int id)
     {
         while (Next(ref section, out int found, out _, out ReadOnlySpan<byte> content))
@@ -48,10 +48,10 @@ internal static class PsdResources
     {
         byte[] name = Encoding.UTF8.GetBytes(block.Name);
         byte[] data = block.ToBytes();
-        Span<byte> head = stackalloc byte[6];
-        "8BIM"u8.CopyTo(head);
-        BinaryPrimitives.WriteUInt16BigEndian(head[4..], (ushort)block.ID);
-        output.Write(head);
+        Span<byte> header = stackalloc byte[6];
+        "8BIM"u8.CopyTo(header);
+        BinaryPrimitives.WriteUInt16BigEndian(header[4..], (ushort)block.ID);
+        output.Write(header);
         output.WriteByte((byte)name.Length);
         output.Write(name);
         Pad(output, name.Length + 1);
@@ -82,7 +82,8 @@ internal static class PsdResources
         }
     }
 
-    private static bool Next(scoped ref ReadOnlySpan<byte> section, out int id, out string name, out ReadOnlySpan<byte> content)
+    private static bool Next(
+        scoped ref ReadOnlySpan<byte> section, out int id, out string name, out ReadOnlySpan<byte> content)
     {
         (id, name) = (0, "");
         content = default;

@@ -5,19 +5,19 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>The rows of the planes of a PSD, plain or as run lengths.</summary>
+/// <summary>The rows of the planes of a PSD, uncompressed or in PackBits.</summary>
 internal readonly ref struct PsdRows
 {
-    private readonly ReadOnlySpan<byte> data;
-    private readonly int[]? starts;
-    private readonly int height;
-    private readonly int rowBytes;
+    private readonly ReadOnlySpan<byte> _data;
+    private readonly int[]? _starts;
+    private readonly int _height;
+    private readonly int _rowBytes;
 
     internal PsdRows(ReadOnlySpan<byte> data, bool packed, int channels, int height, int rowBytes)
     {
-        this.data = data;
-        this.height = height;
-        this.rowBytes = rowBytes;
+        _data = data;
+        _height = height;
+        _rowBytes = rowBytes;
         long rows = (long)channels * height;
         if (!packed)
         {
@@ -29,30 +29,30 @@ internal readonly ref struct PsdRows
             throw new PsdImageException($"The lengths of {rows} rows do not fit into {data.Length} bytes.");
         }
 
-        starts = new int[rows];
+        _starts = new int[rows];
         long at = rows * 2;
         for (int i = 0; i < rows; i++)
         {
-            starts[i] = (int)Math.Min(at, data.Length);
+            _starts[i] = (int)Math.Min(at, data.Length);
             at += BinaryPrimitives.ReadUInt16BigEndian(data[(2 * i)..]);
         }
     }
 
     internal void Read(int channel, int y, Span<byte> row)
     {
-        long index = ((long)channel * height) + y;
-        if (starts != null)
+        long index = ((long)channel * _height) + y;
+        if (_starts != null)
         {
-            PackBits.Unpack(data[starts[index]..], row);
+            PackBits.Unpack(_data[_starts[index]..], row);
             return;
         }
 
-        long start = index * rowBytes;
-        if (start + rowBytes > data.Length)
+        long start = index * _rowBytes;
+        if (start + _rowBytes > _data.Length)
         {
-            throw new PsdImageException($"The picture ends after {data.Length} bytes, in row {y} of channel {channel}.");
+            throw new PsdImageException($"The image ends after {_data.Length} bytes, in row {y} of channel {channel}.");
         }
 
-        data.Slice((int)start, rowBytes).CopyTo(row);
+        _data.Slice((int)start, _rowBytes).CopyTo(row);
     }
 }

@@ -13,24 +13,25 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Writes PSD files of version 1 that hold the merged picture, 8 bits a channel.</summary>
+/// <summary>Writes PSD files of version 1 that hold the merged image, 8 bits per channel.</summary>
 internal static class PsdWriter
 {
-    private const int LargestSide = 30_000;
+    private const int MaxSide = 30_000;
     private const int White = -1;
 
     internal static void Write(RasterPageData page, PsdOptions options, Stream output)
     {
         PixelGrid pixels = page.Pixels;
-        if (pixels.Width > LargestSide || pixels.Height > LargestSide)
+        if (pixels.Width > MaxSide || pixels.Height > MaxSide)
         {
-            throw new PsdImageException($"A PSD holds at most {LargestSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
+            throw new PsdImageException(
+                $"A PSD holds at most {MaxSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
         }
 
         if (options.CompressionMethod is not (CompressionMethod.Raw or CompressionMethod.Rle))
         {
             throw new PsdImageException(
-                $"Merged pictures are written with the compression_method RAW or RLE, not "
+                $"Merged images are written with the compression_method RAW or RLE, not "
                     + $"{Verify.NameOf(options.CompressionMethod)}.");
         }
 
@@ -50,7 +51,7 @@ internal static class PsdWriter
         int[] palette = options.ColorMode == ColorModes.Indexed
             ? PaletteChoice.For(pixels, options.Palette, 256, ColorQuantizationMethod.MedianCut) : [];
         List<byte[]> planes = Planes(pixels, options.ColorMode, alpha, palette);
-        WriteHead(output, pixels, planes.Count, options.ColorMode);
+        WriteHeader(output, pixels, planes.Count, options.ColorMode);
         WritePalette(output, palette);
         WriteResources(output, page, options);
         Number(output, 0); // no layers
@@ -61,24 +62,28 @@ internal static class PsdWriter
     {
         return mode switch
         {
-            ColorModes.Indexed => [IndexedRows.Of(pixels, palette, DitheringMethods.None)],
+            ColorModes.Indexed => [IndexedPixels.Of(pixels, palette, DitheringMethods.None)],
             ColorModes.Grayscale => [Plane(pixels, static p => PixelGrid.Luma(p))],
 
             // Inks are stored inverted.
             ColorModes.Cmyk =>
             [
-                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).C), Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).M),
-                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).Y), Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).K),
+                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).C),
+                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).M),
+                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).Y),
+                Plane(pixels, static p => 255 - CmykColor.FromArgb32(p).K),
             ],
             _ =>
             [
-                Plane(pixels, static p => Laid(p, 16)), Plane(pixels, static p => Laid(p, 8)), Plane(pixels, static p => Laid(p, 0)),
+                Plane(pixels, static p => OnMatte(p, 16)),
+                Plane(pixels, static p => OnMatte(p, 8)),
+                Plane(pixels, static p => OnMatte(p, 0)),
                 .. alpha ? [Plane(pixels, static p => p >>> 24)] : Array.Empty<byte[]>(),
             ],
         };
     }
 
-    private static int Laid(int pixel, int shift) => PsdMatte.Lay((pixel >> shift) & 255, pixel >>> 24);
+    private static int OnMatte(int pixel, int shift) => PsdMatte.Blend((pixel >> shift) & 255, pixel >>> 24);
 
     private static byte[] Plane(PixelGrid pixels, Func<int, int> sample)
     {
@@ -94,17 +99,17 @@ internal static class PsdWriter
         return plane;
     }
 
-    private static void WriteHead(Stream output, PixelGrid pixels, int channels, ColorModes mode)
+    private static void WriteHeader(Stream output, PixelGrid pixels, int channels, ColorModes mode)
     {
-        var head = new byte[26];
-        "8BPS"u8.CopyTo(head);
-        BinaryPrimitives.WriteInt16BigEndian(head.AsSpan(4), 1);
-        BinaryPrimitives.WriteInt16BigEndian(head.AsSpan(12), (short)channels);
-        BinaryPrimitives.WriteInt32BigEndian(head.AsSpan(14), pixels.Height);
-        BinaryPrimitives.WriteInt32BigEndian(head.AsSpan(18), pixels.Width);
-        BinaryPrimitives.WriteInt16BigEndian(head.AsSpan(22), 8);
-        BinaryPrimitives.WriteInt16BigEndian(head.AsSpan(24), (short)mode);
-        output.Write(head);
+        var header = new byte[26];
+        "8BPS"u8.CopyTo(header);
+        BinaryPrimitives.WriteInt16BigEndian(header.AsSpan(4), 1);
+        BinaryPrimitives.WriteInt16BigEndian(header.AsSpan(12), (short)channels);
+        BinaryPrimitives.WriteInt32BigEndian(header.AsSpan(14), pixels.Height);
+        BinaryPrimitives.WriteInt32BigEndian(header.AsSpan(18), pixels.Width);
+        BinaryPrimitives.WriteInt16BigEndian(header.AsSpan(22), 8);
+        BinaryPrimitives.WriteInt16BigEndian(header.AsSpan(24), (short)mode);
+        output.Write(header);
     }
 
     private static void WritePalette(Stream output, int[] palette)
@@ -122,7 +127,8 @@ internal static class PsdWriter
 
     private static void WriteResources(Stream output, RasterPageData page, PsdOptions options)
     {
-        List<ResourceBlock> blocks = [new UnknownResource(PsdResources.ResolutionInfo, Resolution(page)), .. options.Resources];
+        List<ResourceBlock> blocks =
+            [new UnknownResource(PsdResources.ResolutionInfo, Resolution(page)), .. options.Resources];
         if ((options.XmpData ?? page.Xmp) is XmpPacketWrapper xmp && !blocks.OfType<XmpResouce>().Any())
         {
             blocks.Add(new XmpResouce(xmp));
@@ -138,14 +144,15 @@ internal static class PsdWriter
         section.WriteTo(output);
     }
 
-    // Fixed point numbers of pixels an inch, each with the units to show them in: inches.
+    // Fixed-point numbers of pixels per inch, each with its display unit: inches.
     private static byte[] Resolution(RasterPageData page)
     {
         var data = new byte[16];
         BinaryPrimitives.WriteInt32BigEndian(data, (int)Math.Min(int.MaxValue, page.HorizontalResolution * 65536));
         BinaryPrimitives.WriteInt16BigEndian(data.AsSpan(4), 1);
         BinaryPrimitives.WriteInt16BigEndian(data.AsSpan(6), 1);
-        BinaryPrimitives.WriteInt32BigEndian(data.AsSpan(8), (int)Math.Min(int.MaxValue, page.VerticalResolution * 65536));
+        BinaryPrimitives.WriteInt32BigEndian(
+            data.AsSpan(8), (int)Math.Min(int.MaxValue, page.VerticalResolution * 65536));
         BinaryPrimitives.WriteInt16BigEndian(data.AsSpan(12), 1);
         BinaryPrimitives.WriteInt16BigEndian(data.AsSpan(14), 1);
         return data;
@@ -160,7 +167,7 @@ internal static class PsdWriter
             return;
         }
 
-        // The lengths of all packed rows stand before the rows.
+        // The lengths of all packed rows precede the rows.
         List<byte> packed = [];
         foreach (byte[] plane in planes)
         {

@@ -7,13 +7,14 @@ using Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>What the first directory of a TIFF says of the picture, besides its form.</summary>
+/// <summary>The descriptive metadata in the first directory of a TIFF.</summary>
 internal static class TiffMetadata
 {
-    // Fields that describe strips and samples make no sense away from this file.
+    // Tags that describe strips and samples are meaningless outside this file.
     private static readonly ExifProperties[] Kept =
     [
-        ExifProperties.Make, ExifProperties.Model, ExifProperties.Software, ExifProperties.Artist, ExifProperties.Copyright,
+        ExifProperties.Make, ExifProperties.Model, ExifProperties.Software, ExifProperties.Artist,
+        ExifProperties.Copyright,
         ExifProperties.ImageDescription, ExifProperties.DateTime,
     ];
 
@@ -23,7 +24,8 @@ internal static class TiffMetadata
         {
             var exif = new ExifData(data);
             TiffExifIfd directory = exif.CommonTags.Directory;
-            XmpPacketWrapper? xmp = XmpPacketWrapper.TryRead((directory.Get((int)TiffTags.Xmp) as TiffByteType)?.Values);
+            XmpPacketWrapper? xmp =
+                XmpPacketWrapper.TryRead((directory.Get((int)TiffTags.Xmp) as TiffByteType)?.Values);
             foreach (TiffDataType tag in directory.Tags.Where(static tag => !Kept.Contains((ExifProperties)tag.TagId)))
             {
                 directory.Remove(tag.TagId);
@@ -33,7 +35,7 @@ internal static class TiffMetadata
         }
         catch (TiffImageException)
         {
-            return default; // a BigTIFF, or a directory with damage that the picture survives
+            return default; // a BigTIFF, or a directory with damage that does not affect the image
         }
     }
 }

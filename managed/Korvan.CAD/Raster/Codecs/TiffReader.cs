@@ -12,14 +12,14 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>Reads the pages of a TIFF, of whatever kind libtiff can make colours of.</summary>
+/// <summary>Reads the pages of a TIFF of any kind that libtiff can convert to RGBA.</summary>
 internal static unsafe class TiffReader
 {
-    private const int MostPages = 10_000;
+    private const int MaxPages = 10_000;
     private const int OpaqueBlack = PixelGrid.Opaque;
 
     // What brings a page upright whose first row and column are stored on another side (TIFF 6.0, field Orientation).
-    private static readonly Dictionary<TiffOrientations, RotateFlipType> Turned = new()
+    private static readonly Dictionary<TiffOrientations, RotateFlipType> Corrections = new()
     {
         [TiffOrientations.TopRight] = RotateFlipType.RotateNoneFlipX,
         [TiffOrientations.BottomRight] = RotateFlipType.Rotate180FlipNone,
@@ -36,13 +36,13 @@ internal static unsafe class TiffReader
         try
         {
             // Memory is not mapped and strips are read as they come, whatever a directory claims of them.
-            using var tiff = new TiffHandle(new MemoryStream(source.Data, false), source.Name, "rm");
+            using var tiff = new TiffFile(new MemoryStream(source.Data, false), source.Name, "rm");
             long total = 0;
             do
             {
                 frames.Add(ReadPage(tiff, source, ref total));
             }
-            while (frames.Count < MostPages && Tiff.ReadDirectory(tiff.Value) == 1);
+            while (frames.Count < MaxPages && Tiff.ReadDirectory(tiff.Handle) == 1);
         }
         catch
         {
@@ -54,23 +54,24 @@ internal static unsafe class TiffReader
         return new DecodedFile { Format = FileFormat.Tiff, Frames = frames, Exif = exif, Xmp = xmp };
     }
 
-    private static DecodedFrame ReadPage(TiffHandle tiff, RasterSource source, ref long total)
+    private static DecodedFrame ReadPage(TiffFile tiff, RasterSource source, ref long total)
     {
-        long width = Tiff.GetNumber(tiff.Value, (int)TiffTags.ImageWidth);
-        long height = Tiff.GetNumber(tiff.Value, (int)TiffTags.ImageLength);
+        long width = Tiff.GetNumber(tiff.Handle, (int)TiffTags.ImageWidth);
+        long height = Tiff.GetNumber(tiff.Handle, (int)TiffTags.ImageLength);
         if (width == 0 || height == 0)
         {
             throw new TiffImageException($"A page of '{source.Name}' is {width} × {height} pixels large.");
         }
 
         total += width * height;
-        PixelGrid.Verify(width, height);
+        PixelGrid.VerifySize(width, height);
         if (total > PixelGrid.MaxPixels)
         {
-            throw new LimitMemoryException($"The pages of '{source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
+            throw new LimitMemoryException(
+                $"The pages of '{source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
 
-        var samples = new TiffSamples(tiff.Value);
+        var samples = new TiffSamples(tiff.Handle);
         if (!samples.Fits)
         {
             VerifyConvertible(tiff, source);
@@ -79,7 +80,7 @@ internal static unsafe class TiffReader
         var pixels = new PixelGrid((int)width, (int)height);
         try
         {
-            bool done = samples.Fits ? samples.Read(pixels, source.Lenient) : ReadMultiplied(tiff, source, pixels);
+            bool done = samples.Fits ? samples.Read(pixels, source.Lenient) : ReadPremultiplied(tiff, source, pixels);
             if (!done && !source.Lenient)
             {
                 throw Damaged(tiff, source);
@@ -94,92 +95,94 @@ internal static unsafe class TiffReader
         }
     }
 
-    private static bool ReadMultiplied(TiffHandle tiff, RasterSource source, PixelGrid pixels)
+    private static bool ReadPremultiplied(TiffFile tiff, RasterSource source, PixelGrid pixels)
     {
         // Asked for the orientation that the file has, libtiff leaves rows and columns as they are.
-        int orientation = (int)Tiff.GetNumber(tiff.Value, (int)TiffTags.Orientation);
+        int orientation = (int)Tiff.GetNumber(tiff.Handle, (int)TiffTags.Orientation);
         var raster = (uint*)pixels.Pointer;
         int stop = source.Lenient ? 0 : 1;
-        bool done = Tiff.ReadRgba(tiff.Value, (uint)pixels.Width, (uint)pixels.Height, raster, orientation, stop) == 1;
-        ToPlain(pixels);
+        bool done = Tiff.ReadRgba(tiff.Handle, (uint)pixels.Width, (uint)pixels.Height, raster, orientation, stop) == 1;
+        Unpremultiply(pixels);
         return done;
     }
 
-    private static PixelGrid Upright(TiffHandle tiff, PixelGrid pixels)
+    private static PixelGrid Upright(TiffFile tiff, PixelGrid pixels)
     {
-        RotateFlipType turn = Turned.GetValueOrDefault((TiffOrientations)Tiff.GetNumber(tiff.Value, (int)TiffTags.Orientation));
-        if (turn == RotateFlipType.RotateNoneFlipNone)
+        RotateFlipType correction =
+            Corrections.GetValueOrDefault((TiffOrientations)Tiff.GetNumber(tiff.Handle, (int)TiffTags.Orientation));
+        if (correction == RotateFlipType.RotateNoneFlipNone)
         {
             return pixels;
         }
 
-        PixelGrid turned = Turns.Turn(pixels, turn);
+        PixelGrid upright = Rotation.RotateFlip(pixels, correction);
         pixels.Dispose();
-        return turned;
+        return upright;
     }
 
-    private static void VerifyConvertible(TiffHandle tiff, RasterSource source)
+    private static void VerifyConvertible(TiffFile tiff, RasterSource source)
     {
         byte* reason = stackalloc byte[1024];
-        if (Tiff.CanBecomeRgba(tiff.Value, reason) == 0)
+        if (Tiff.CanBecomeRgba(tiff.Handle, reason) == 0)
         {
             string text = System.Runtime.InteropServices.Marshal.PtrToStringUTF8((nint)reason) ?? "";
             throw new TiffImageException($"A page of '{source.Name}' cannot be read: {text}.");
         }
     }
 
-    private static TiffImageException Damaged(TiffHandle tiff, RasterSource source)
+    private static TiffImageException Damaged(TiffFile tiff, RasterSource source)
     {
-        var compression = (TiffCompressions)Tiff.GetNumber(tiff.Value, (int)TiffTags.Compression);
+        var compression = (TiffCompressions)Tiff.GetNumber(tiff.Handle, (int)TiffTags.Compression);
         Exception? inner = compression switch
         {
-            TiffCompressions.Lzw => new LzwCompressorException(tiff.Complaint),
-            TiffCompressions.AdobeDeflate or TiffCompressions.Deflate => new DeflateCompressorException(tiff.Complaint),
-            TiffCompressions.PackBits => new RleCompressorException(tiff.Complaint),
+            TiffCompressions.Lzw => new LzwCompressorException(tiff.Error),
+            TiffCompressions.AdobeDeflate or TiffCompressions.Deflate => new DeflateCompressorException(tiff.Error),
+            TiffCompressions.PackBits => new RleCompressorException(tiff.Error),
             _ => null,
         };
-        return new TiffImageException($"A page of '{source.Name}' is damaged: {tiff.Complaint}.", inner);
+        return new TiffImageException($"A page of '{source.Name}' is damaged: {tiff.Error}.", inner);
     }
 
-    // libtiff gives red in the lowest byte and opacity multiplied in.
-    private static void ToPlain(PixelGrid pixels)
+    // libtiff returns red in the lowest byte, premultiplied.
+    private static void Unpremultiply(PixelGrid pixels)
     {
         for (int y = 0; y < pixels.Height; y++)
         {
             foreach (ref int pixel in pixels.Row(y))
             {
                 int swapped = (pixel & unchecked((int)0xFF00FF00)) | ((pixel & 255) << 16) | ((pixel >> 16) & 255);
-                pixel = (swapped & OpaqueBlack) == OpaqueBlack ? swapped : BitPacking.Plain(swapped);
+                pixel = (swapped & OpaqueBlack) == OpaqueBlack ? swapped : BitPacking.Unpremultiply(swapped);
             }
         }
     }
 
-    private static DecodedFrame Frame(TiffHandle tiff, PixelGrid pixels)
+    private static DecodedFrame Frame(TiffFile tiff, PixelGrid pixels)
     {
-        double per = Tiff.GetNumber(tiff.Value, (int)TiffTags.ResolutionUnit) switch
+        double per = Tiff.GetNumber(tiff.Handle, (int)TiffTags.ResolutionUnit) switch
         {
             (uint)TiffResolutionUnits.Centimeter => 2.54,
             (uint)TiffResolutionUnits.None => 0,
             _ => 1,
         };
-        uint bits = Tiff.GetNumber(tiff.Value, (int)TiffTags.BitsPerSample);
-        uint samples = Tiff.GetNumber(tiff.Value, (int)TiffTags.SamplesPerPixel);
+        uint bits = Tiff.GetNumber(tiff.Handle, (int)TiffTags.BitsPerSample);
+        uint samples = Tiff.GetNumber(tiff.Handle, (int)TiffTags.SamplesPerPixel);
         double x = Resolution(tiff, TiffTags.XResolution) * per;
         double y = Resolution(tiff, TiffTags.YResolution) * per;
-        bool swapped = Tiff.GetNumber(tiff.Value, (int)TiffTags.Orientation) is >= (uint)TiffOrientations.LeftTop and <= (uint)TiffOrientations.LeftBottom;
+        var orientation = (TiffOrientations)Tiff.GetNumber(tiff.Handle, (int)TiffTags.Orientation);
+        bool swapped = orientation is >= TiffOrientations.LeftTop and <= TiffOrientations.LeftBottom;
         return new DecodedFrame
         {
             Pixels = pixels,
             BitsPerPixel = (int)Math.Min(bits * samples, 1024),
             HorizontalResolution = swapped ? y : x,
             VerticalResolution = swapped ? x : y,
-            Title = Tiff.GetText(tiff.Value, (int)TiffTags.PageName),
+            Title = Tiff.GetText(tiff.Handle, (int)TiffTags.PageName),
         };
     }
 
-    private static double Resolution(TiffHandle tiff, TiffTags tag)
+    private static double Resolution(TiffFile tiff, TiffTags tag)
     {
-        float value = Tiff.GetReal(tiff.Value, (int)tag);
+        float value = Tiff.GetReal(tiff.Handle, (int)tag);
         return float.IsFinite(value) && value > 0 ? value : 0;
     }
 }

@@ -9,78 +9,79 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>
-/// Makes pixels of the samples of a page, block by block: strips or tiles, planes beside or behind each other. It serves
-/// pages that libtiff's own conversion refuses, whose opacity it multiplies in, confuses with a colour or forgets, and grey
-/// of 16 bits, of which it mixes up the tiles at the right edge.
-/// </summary>
+/// <summary>Converts the samples of a page block by block: strips or tiles, chunky or planar. It serves pages that
+/// libtiff's own conversion rejects, pages whose alpha it premultiplies, mistakes for a colour or drops, and 16-bit
+/// grayscale, of which it garbles the tiles at the right edge.</summary>
 internal sealed unsafe class TiffSamples
 {
-    private const int MostSamples = 32;
-    private const int Inks = 1;
+    private const int MaxSamples = 32;
+    private const int InkSetCmyk = 1;
     private const uint Floats = 3;
-    private const int SmallestBuffer = 1024;
+    private const int MinBuffer = 1024;
 
-    // What the conversion here is for: a photometric interpretation, how many samples make its colour, and how wide they may be.
+    // The supported photometric interpretations, with the samples of their colour and the maximum bits of a sample.
     private static readonly (TiffPhotometrics Kind, int Colors, int MostBits)[] Kinds =
     [
         (TiffPhotometrics.MinIsWhite, 1, 32), (TiffPhotometrics.MinIsBlack, 1, 32), (TiffPhotometrics.Rgb, 3, 32),
         (TiffPhotometrics.Palette, 1, 16), (TiffPhotometrics.Separated, 4, 32),
     ];
 
-    private readonly nint tiff;
-    private readonly int bits;
-    private readonly int samples;
-    private readonly int colors;
-    private readonly int mostBits;
-    private readonly TiffPhotometrics kind;
-    private readonly bool planar;
-    private readonly bool tiled;
-    private readonly int opacityAt = -1;
-    private readonly bool multiplied;
-    private readonly long most;
-    private int[] palette = [];
+    private readonly TiffHandle _tiff;
+    private readonly int _bits;
+    private readonly int _samples;
+    private readonly int _colors;
+    private readonly int _maxBits;
+    private readonly TiffPhotometrics _kind;
+    private readonly bool _planar;
+    private readonly bool _tiled;
+    private readonly int _alphaSample = -1;
+    private readonly bool _premultiplied;
+    private readonly long _maxValue;
+    private int[] _palette = [];
 
-    internal TiffSamples(nint tiff)
+    internal TiffSamples(TiffHandle tiff)
     {
-        this.tiff = tiff;
-        bits = (int)Number(TiffTags.BitsPerSample);
-        samples = (int)Number(TiffTags.SamplesPerPixel);
-        kind = (TiffPhotometrics)Number(TiffTags.Photometric);
-        (_, colors, mostBits) = Kinds.FirstOrDefault(entry => entry.Kind == kind);
-        planar = Number(TiffTags.PlanarConfig) == 2 && samples > 1;
-        tiled = Tiff.IsTiled(tiff) != 0;
-        most = (1L << Math.Clamp(bits, 1, 32)) - 1;
+        _tiff = tiff;
+        _bits = (int)Number(TiffTags.BitsPerSample);
+        _samples = (int)Number(TiffTags.SamplesPerPixel);
+        _kind = (TiffPhotometrics)Number(TiffTags.Photometric);
+        (_, _colors, _maxBits) = Kinds.FirstOrDefault(entry => entry.Kind == _kind);
+        _planar = Number(TiffTags.PlanarConfig) == 2 && _samples > 1;
+        _tiled = Tiff.IsTiled(tiff) != 0;
+        _maxValue = (1L << Math.Clamp(_bits, 1, 32)) - 1;
 
-        // A sample whose meaning is not stated is taken for opacity, as most programs do, unless another states that it is that.
+        // An unspecified extra sample is taken as alpha, as most programs do, unless another is declared as alpha.
         ushort[] extra = Tiff.ExtraSamples(tiff);
         int at = Array.FindIndex(extra, static meaning => meaning != (int)TiffAlphaStorage.Unspecified);
         if (extra.Length > 0)
         {
-            opacityAt = colors + Math.Max(at, 0);
-            multiplied = at >= 0 && extra[at] == (int)TiffAlphaStorage.Associated;
+            _alphaSample = _colors + Math.Max(at, 0);
+            _premultiplied = at >= 0 && extra[at] == (int)TiffAlphaStorage.Associated;
         }
     }
 
-    /// <summary>Gets whether the page is to be read here.</summary>
-    internal bool Fits => colors > 0 && samples >= colors && samples <= MostSamples && opacityAt < samples
-        && bits is 1 or 2 or 4 or 8 or 16 or 32 && bits <= mostBits && Number(TiffTags.SampleFormat) != Floats
+    /// <summary>Gets whether the page is read by this class.</summary>
+    internal bool Fits => _colors > 0 && _samples >= _colors && _samples <= MaxSamples && _alphaSample < _samples
+        && _bits is 1 or 2 or 4 or 8 or 16 or 32 && _bits <= _maxBits && Number(TiffTags.SampleFormat) != Floats
         && Number(TiffTags.Compression) != (uint)TiffCompressions.OldJpeg
-        && (kind != TiffPhotometrics.Separated || Number(TiffTags.InkSet) == Inks)
-        && (opacityAt >= 0 || bits == 32 || (bits == 16 && kind is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette)) || HasSmallTiles);
+        && (_kind != TiffPhotometrics.Separated || Number(TiffTags.InkSet) == InkSetCmyk)
+        && (_alphaSample >= 0 || _bits == 32 || HasSmallTiles
+            || (_bits == 16 && _kind is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette)));
 
-    // libtiff's conversion takes the size of its buffer for that of a plain tile, and refuses those that are smaller.
-    private bool HasSmallTiles => tiled && Number(TiffTags.Compression) == (uint)TiffCompressions.None
-        && Tiff.TileRowSize(tiff) * (long)Number(TiffTags.TileLength) < SmallestBuffer;
+    // libtiff's conversion compares the size of its buffer with that of an uncompressed tile, and rejects smaller ones.
+    private bool HasSmallTiles => _tiled && Number(TiffTags.Compression) == (uint)TiffCompressions.None
+        && Tiff.TileRowSize(_tiff) * (long)Number(TiffTags.TileLength) < MinBuffer;
 
-    /// <summary>Gives whether all blocks could be read; what is missing stays empty, and the first one ends it if it shall.</summary>
+    /// <summary>Returns whether all blocks could be read. Missing blocks stay empty; unless reading is lenient, the
+    /// first one ends it.</summary>
     internal bool Read(PixelGrid pixels, bool lenient)
     {
-        palette = kind == TiffPhotometrics.Palette ? Tiff.Palette(tiff, 1 << bits) : [];
-        int width = tiled ? (int)Number(TiffTags.TileWidth) : pixels.Width;
-        int height = tiled ? (int)Number(TiffTags.TileLength) : (int)Math.Min(Number(TiffTags.RowsPerStrip), (uint)pixels.Height);
-        nint rowBytes = tiled ? Tiff.TileRowSize(tiff) : Tiff.ScanlineSize(tiff);
-        long needed = (((long)width * bits * (planar ? 1 : samples)) + 7) / 8;
+        _palette = _kind == TiffPhotometrics.Palette ? Tiff.Palette(_tiff, 1 << _bits) : [];
+        int width = _tiled ? (int)Number(TiffTags.TileWidth) : pixels.Width;
+        int height = _tiled
+            ? (int)Number(TiffTags.TileLength) : (int)Math.Min(Number(TiffTags.RowsPerStrip), (uint)pixels.Height);
+        nint rowBytes = _tiled ? Tiff.TileRowSize(_tiff) : Tiff.ScanlineSize(_tiff);
+        long needed = (((long)width * _bits * (_planar ? 1 : _samples)) + 7) / 8;
         if (width < 1 || height < 1 || rowBytes < needed)
         {
             return false;
@@ -88,10 +89,17 @@ internal sealed unsafe class TiffSamples
 
         if ((long)rowBytes * height > Array.MaxLength)
         {
-            throw new LimitMemoryException($"A block of {width} × {height} pixels has more than {Array.MaxLength} bytes.");
+            throw new LimitMemoryException(
+                $"A block of {width} × {height} pixels has more than {Array.MaxLength} bytes.");
         }
 
-        var block = new Block(width, height, (int)rowBytes, [.. Enumerable.Range(0, planar ? samples : 1).Select(_ => new byte[rowBytes * height])]);
+        var planes = new byte[_planar ? _samples : 1][];
+        for (int i = 0; i < planes.Length; i++)
+        {
+            planes[i] = new byte[rowBytes * height];
+        }
+
+        var block = new Block(width, height, (int)rowBytes, planes);
         bool whole = true;
         for (int top = 0; top < pixels.Height; top += height)
         {
@@ -117,11 +125,14 @@ internal sealed unsafe class TiffSamples
         {
             byte[] data = block.Planes[plane];
             Array.Clear(data);
+            uint number = _tiled
+                ? Tiff.ComputeTile(_tiff, (uint)left, (uint)top, 0, (ushort)plane)
+                : Tiff.ComputeStrip(_tiff, (uint)top, (ushort)plane);
             fixed (byte* start = data)
             {
-                whole &= tiled
-                    ? Tiff.ReadTile(tiff, Tiff.ComputeTile(tiff, (uint)left, (uint)top, 0, (ushort)plane), start, data.Length) >= 0
-                    : Tiff.ReadStrip(tiff, Tiff.ComputeStrip(tiff, (uint)top, (ushort)plane), start, data.Length) >= 0;
+                whole &= _tiled
+                    ? Tiff.ReadTile(_tiff, number, start, data.Length) >= 0
+                    : Tiff.ReadStrip(_tiff, number, start, data.Length) >= 0;
             }
         }
 
@@ -130,18 +141,18 @@ internal sealed unsafe class TiffSamples
 
     private void Convert(Block block, PixelGrid pixels, int left, int top)
     {
-        Span<long> values = stackalloc long[5]; // of the colour, then opacity
+        Span<long> values = stackalloc long[5]; // of the colour, then alpha
         for (int y = 0; y < Math.Min(block.Height, pixels.Height - top); y++)
         {
             Span<int> to = pixels.Row(top + y)[left..];
             for (int x = 0; x < Math.Min(block.Width, to.Length); x++)
             {
-                for (int c = 0; c < colors; c++)
+                for (int c = 0; c < _colors; c++)
                 {
                     values[c] = Value(block, x, y, c);
                 }
 
-                values[4] = opacityAt < 0 ? most : Value(block, x, y, opacityAt);
+                values[4] = _alphaSample < 0 ? _maxValue : Value(block, x, y, _alphaSample);
                 to[x] = Pixel(values);
             }
         }
@@ -149,41 +160,42 @@ internal sealed unsafe class TiffSamples
 
     private long Value(Block block, int x, int y, int sample)
     {
-        ReadOnlySpan<byte> row = block.Planes[planar ? sample : 0].AsSpan(y * block.RowBytes, block.RowBytes);
-        int at = planar ? x : (x * samples) + sample;
-        return bits switch
+        ReadOnlySpan<byte> row = block.Planes[_planar ? sample : 0].AsSpan(y * block.RowBytes, block.RowBytes);
+        int at = _planar ? x : (x * _samples) + sample;
+        return _bits switch
         {
             8 => row[at],
-            16 => MemoryMarshal.Read<ushort>(row[(at * 2)..]), // libtiff gives the byte order of the machine
+            16 => MemoryMarshal.Read<ushort>(row[(at * 2)..]), // libtiff returns the byte order of the machine
             32 => MemoryMarshal.Read<uint>(row[(at * 4)..]),
-            _ => BitPacking.Value(row, at, bits),
+            _ => BitPacking.Value(row, at, _bits),
         };
     }
 
     private int Pixel(ReadOnlySpan<long> values)
     {
         long opacity = values[4];
-        if (multiplied && opacity == 0)
+        if (_premultiplied && opacity == 0)
         {
             return 0;
         }
 
-        int Level(long value) => multiplied
+        int Level(long value) => _premultiplied
             ? (int)Math.Min(255, ((value * 255) + (opacity / 2)) / opacity)
-            : (int)(((value * 255) + (most / 2)) / most);
-        int color = kind switch
+            : (int)(((value * 255) + (_maxValue / 2)) / _maxValue);
+        int color = _kind switch
         {
             TiffPhotometrics.MinIsWhite => (255 - Level(values[0])) * 0x010101,
             TiffPhotometrics.MinIsBlack => Level(values[0]) * 0x010101,
-            TiffPhotometrics.Palette => palette[(int)values[0]],
+            TiffPhotometrics.Palette => _palette[(int)values[0]],
             TiffPhotometrics.Separated => CmykColor.FromStored(
-                Level(values[0]) | (Level(values[1]) << 8) | (Level(values[2]) << 16) | (Level(values[3]) << 24)).ToArgb32(),
+                Level(values[0]) | (Level(values[1]) << 8) | (Level(values[2]) << 16) | (Level(values[3]) << 24)
+                ).ToArgb32(),
             _ => (Level(values[0]) << 16) | (Level(values[1]) << 8) | Level(values[2]),
         };
-        return (color & 0xFFFFFF) | ((int)(((opacity * 255) + (most / 2)) / most) << 24);
+        return (color & 0xFFFFFF) | ((int)(((opacity * 255) + (_maxValue / 2)) / _maxValue) << 24);
     }
 
-    private uint Number(TiffTags tag) => Tiff.GetNumber(tiff, (int)tag);
+    private uint Number(TiffTags tag) => Tiff.GetNumber(_tiff, (int)tag);
 
     /// <summary>A strip or a tile: one array of rows, or one for each plane.</summary>
     private sealed record Block(int Width, int Height, int RowBytes, byte[][] Planes);

@@ -23,17 +23,17 @@ internal sealed unsafe class TiffWriter
     private const int JpegColorMode = 65538;
     private const int JpegColorModeRgb = 1;
 
-    private readonly TiffOptions options;
-    private readonly TiffHandle tiff;
-    private readonly int bits;
-    private readonly int samples;
+    private readonly TiffOptions _options;
+    private readonly TiffFile _tiff;
+    private readonly int _bits;
+    private readonly int _samples;
 
-    private TiffWriter(TiffOptions options, TiffHandle tiff)
+    private TiffWriter(TiffOptions options, TiffFile tiff)
     {
-        this.options = options;
-        this.tiff = tiff;
-        bits = options.BitsPerSample[0];
-        samples = options.SamplesPerPixel;
+        _options = options;
+        _tiff = tiff;
+        _bits = options.BitsPerSample[0];
+        _samples = options.SamplesPerPixel;
     }
 
     /// <summary>Writes to a stream that can be read and sought.</summary>
@@ -50,7 +50,7 @@ internal sealed unsafe class TiffWriter
         }
 
         List<int> chosen = PageChoice.Of(pages, options.MultiPageOptions);
-        using var tiff = new TiffHandle(output, "output", options.ByteOrder == TiffByteOrder.BigEndian ? "wb" : "wl");
+        using var tiff = new TiffFile(output, "output", options.ByteOrder == TiffByteOrder.BigEndian ? "wb" : "wl");
         tiff.Verify(Tiff.HasCodec((ushort)options.Compression) != 0,
             $"libtiff has no encoder for {Verify.NameOf(options.Compression)}");
         var writer = new TiffWriter(options, tiff);
@@ -66,20 +66,21 @@ internal sealed unsafe class TiffWriter
     private void WritePage(RasterPageData page, string title, int number, int count)
     {
         PixelGrid pixels = page.Pixels;
-        if (options.Photometric != TiffPhotometrics.Rgb || samples < 4)
+        if (_options.Photometric != TiffPhotometrics.Rgb || _samples < 4)
         {
             pixels.Flatten(White);
         }
 
-        if (bits < 8 && options.Photometric != TiffPhotometrics.Palette)
+        if (_bits < 8 && _options.Photometric != TiffPhotometrics.Palette)
         {
-            Operations.Tones.Grayscale(pixels); // black and white are told apart by lightness
+            Operations.ColorAdjustment.Grayscale(pixels); // the threshold applies to luma
         }
 
         int[]? palette = Palette(pixels);
-        int rowBytes = checked((int)((((long)pixels.Width * bits * samples) + 7) / 8));
-        int rows = options.RowsPerStrip > 0 ? Math.Min(options.RowsPerStrip, pixels.Height) : Math.Max(1, StripBytes / rowBytes);
-        if (options.Compression == TiffCompressions.Jpeg)
+        int rowBytes = checked((int)((((long)pixels.Width * _bits * _samples) + 7) / 8));
+        int rows = _options.RowsPerStrip > 0
+            ? Math.Min(_options.RowsPerStrip, pixels.Height) : Math.Max(1, StripBytes / rowBytes);
+        if (_options.Compression == TiffCompressions.Jpeg)
         {
             rows = (rows + 15) / 16 * 16; // whole blocks, as the codec demands
         }
@@ -92,15 +93,16 @@ internal sealed unsafe class TiffWriter
         }
 
         WriteStrips(pixels, palette, rowBytes, rows);
-        tiff.Verify(Tiff.WriteDirectory(tiff.Value) == 1, $"Page {number} could not be written");
+        _tiff.Verify(Tiff.WriteDirectory(_tiff.Handle) == 1, $"Page {number} could not be written");
     }
 
     private int[]? Palette(PixelGrid pixels)
     {
-        return options.Photometric switch
+        return _options.Photometric switch
         {
-            TiffPhotometrics.Palette => PaletteChoice.For(pixels, options.Palette, 1 << bits, ColorQuantizationMethod.MedianCut),
-            TiffPhotometrics.MinIsBlack or TiffPhotometrics.MinIsWhite when bits < 8 => Grays(1 << bits),
+            TiffPhotometrics.Palette =>
+                PaletteChoice.For(pixels, _options.Palette, 1 << _bits, ColorQuantizationMethod.MedianCut),
+            TiffPhotometrics.MinIsBlack or TiffPhotometrics.MinIsWhite when _bits < 8 => Grays(1 << _bits),
             _ => null,
         };
     }
@@ -120,35 +122,35 @@ internal sealed unsafe class TiffWriter
     {
         Set(TiffTags.ImageWidth, page.Pixels.Width);
         Set(TiffTags.ImageLength, page.Pixels.Height);
-        Set(TiffTags.BitsPerSample, bits);
-        Set(TiffTags.SamplesPerPixel, samples);
-        Set(TiffTags.Compression, (int)options.Compression);
-        bool jpegColors = options.Compression == TiffCompressions.Jpeg && samples == 3;
-        Set(TiffTags.Photometric, (int)(jpegColors ? TiffPhotometrics.Ycbcr : options.Photometric));
+        Set(TiffTags.BitsPerSample, _bits);
+        Set(TiffTags.SamplesPerPixel, _samples);
+        Set(TiffTags.Compression, (int)_options.Compression);
+        bool jpegColors = _options.Compression == TiffCompressions.Jpeg && _samples == 3;
+        Set(TiffTags.Photometric, (int)(jpegColors ? TiffPhotometrics.Ycbcr : _options.Photometric));
         Set(TiffTags.PlanarConfig, (int)TiffPlanarConfigs.Contiguous);
         Set(TiffTags.Orientation, (int)TiffOrientations.TopLeft);
         Set(TiffTags.RowsPerStrip, rowsPerStrip);
         SetCompression(jpegColors);
         SetResolution(page);
-        if (samples == 4 && options.Photometric == TiffPhotometrics.Rgb)
+        if (_samples == 4 && _options.Photometric == TiffPhotometrics.Rgb)
         {
-            ushort kind = (ushort)options.AlphaStorage;
+            ushort kind = (ushort)_options.AlphaStorage;
             Set(TiffTags.ExtraSamples, 1, (long)(nint)(&kind));
         }
 
-        if (options.Photometric == TiffPhotometrics.Palette)
+        if (_options.Photometric == TiffPhotometrics.Palette)
         {
             SetColorMap(palette!);
         }
 
-        SetXmp(options.XmpData ?? page.Xmp);
+        SetXmp(_options.XmpData ?? page.Xmp);
         SetText(TiffTags.PageName, title);
-        SetText(TiffTags.Artist, options.Artist);
-        SetText(TiffTags.Copyright, options.Copyright);
-        SetText(TiffTags.DateTime, options.DateTime);
-        SetText(TiffTags.DocumentName, options.DocumentName);
-        SetText(TiffTags.ImageDescription, options.ImageDescription);
-        SetText(TiffTags.Software, options.SoftwareType);
+        SetText(TiffTags.Artist, _options.Artist);
+        SetText(TiffTags.Copyright, _options.Copyright);
+        SetText(TiffTags.DateTime, _options.DateTime);
+        SetText(TiffTags.DocumentName, _options.DocumentName);
+        SetText(TiffTags.ImageDescription, _options.ImageDescription);
+        SetText(TiffTags.Software, _options.SoftwareType);
     }
 
     private void SetXmp(XmpPacketWrapper? xmp)
@@ -167,43 +169,44 @@ internal sealed unsafe class TiffWriter
 
     private void SetCompression(bool jpegColors)
     {
-        bool predicts = options.Compression is TiffCompressions.Lzw or TiffCompressions.AdobeDeflate or TiffCompressions.Deflate;
-        if (predicts && bits == 8 && options.Photometric != TiffPhotometrics.Palette)
+        bool predicts =
+            _options.Compression is TiffCompressions.Lzw or TiffCompressions.AdobeDeflate or TiffCompressions.Deflate;
+        if (predicts && _bits == 8 && _options.Photometric != TiffPhotometrics.Palette)
         {
-            Set(TiffTags.Predictor, (int)options.Predictor);
+            Set(TiffTags.Predictor, (int)_options.Predictor);
         }
 
-        if (TiffPresets.IsFax(options.Compression))
+        if (TiffPresets.IsFax(_options.Compression))
         {
-            Set(TiffTags.FillOrder, (int)options.FillOrder);
+            Set(TiffTags.FillOrder, (int)_options.FillOrder);
         }
 
-        if (options.Compression == TiffCompressions.CcittFax3)
+        if (_options.Compression == TiffCompressions.CcittFax3)
         {
-            Set(TiffTags.T4Options, (int)options.FaxT4Options);
+            Set(TiffTags.T4Options, (int)_options.FaxT4Options);
         }
 
-        if (options.Compression == TiffCompressions.Jpeg)
+        if (_options.Compression == TiffCompressions.Jpeg)
         {
-            Tiff.Set(tiff.Value, JpegQuality, options.CompressedQuality);
+            Tiff.Set(_tiff.Handle, JpegQuality, _options.CompressedQuality);
             if (jpegColors)
             {
-                Tiff.Set(tiff.Value, JpegColorMode, JpegColorModeRgb);
+                Tiff.Set(_tiff.Handle, JpegColorMode, JpegColorModeRgb);
             }
         }
     }
 
     private void SetResolution(RasterPageData page)
     {
-        double per = options.ResolutionUnit == TiffResolutionUnits.Centimeter ? 1 / 2.54 : 1;
-        Tiff.SetReal(tiff.Value, (int)TiffTags.XResolution, page.HorizontalResolution * per);
-        Tiff.SetReal(tiff.Value, (int)TiffTags.YResolution, page.VerticalResolution * per);
-        Set(TiffTags.ResolutionUnit, (int)options.ResolutionUnit);
+        double per = _options.ResolutionUnit == TiffResolutionUnits.Centimeter ? 1 / 2.54 : 1;
+        Tiff.SetReal(_tiff.Handle, (int)TiffTags.XResolution, page.HorizontalResolution * per);
+        Tiff.SetReal(_tiff.Handle, (int)TiffTags.YResolution, page.VerticalResolution * per);
+        Set(TiffTags.ResolutionUnit, (int)_options.ResolutionUnit);
     }
 
     private void SetColorMap(int[] palette)
     {
-        int size = 1 << bits;
+        int size = 1 << _bits;
         var map = new ushort[size * 3];
         for (int i = 0; i < palette.Length; i++)
         {
@@ -214,19 +217,20 @@ internal sealed unsafe class TiffWriter
 
         fixed (ushort* start = map)
         {
-            Tiff.Set(tiff.Value, (int)TiffTags.ColorMap, [(nint)start, (nint)(start + size), (nint)(start + (2 * size))]);
+            Tiff.Set(
+                _tiff.Handle, (int)TiffTags.ColorMap, [(nint)start, (nint)(start + size), (nint)(start + (2 * size))]);
         }
     }
 
     private void WriteStrips(PixelGrid pixels, int[]? palette, int rowBytes, int rowsPerStrip)
     {
-        DitheringMethods how = options.Threshold switch
+        DitheringMethods dithering = _options.Threshold switch
         {
             TiffThresholds.OrderedDithering => DitheringMethods.Ordered,
             TiffThresholds.ErrorDiffusion => DitheringMethods.ErrorDiffusion,
             _ => DitheringMethods.None,
         };
-        byte[]? indices = palette == null ? null : IndexedRows.Of(pixels, palette, how);
+        byte[]? indices = palette == null ? null : IndexedPixels.Of(pixels, palette, dithering);
         var strip = new byte[checked(rowBytes * Math.Min(rowsPerStrip, pixels.Height))];
         uint number = 0;
         for (int top = 0; top < pixels.Height; top += rowsPerStrip)
@@ -240,7 +244,7 @@ internal sealed unsafe class TiffWriter
             fixed (byte* data = strip)
             {
                 nint size = (nint)rows * rowBytes;
-                tiff.Verify(Tiff.WriteStrip(tiff.Value, number++, data, size) >= 0, "A strip could not be written");
+                _tiff.Verify(Tiff.WriteStrip(_tiff.Handle, number++, data, size) >= 0, "A strip could not be written");
             }
         }
     }
@@ -249,22 +253,22 @@ internal sealed unsafe class TiffWriter
     {
         if (indices != null)
         {
-            BitPacking.Pack(indices.AsSpan(y * pixels.Width, pixels.Width), row, bits);
+            BitPacking.Pack(indices.AsSpan(y * pixels.Width, pixels.Width), row, _bits);
         }
-        else if (samples == 1)
+        else if (_samples == 1)
         {
             BitPacking.Gray(pixels.Row(y), row, 8);
         }
-        else if (options.Photometric == TiffPhotometrics.Separated)
+        else if (_options.Photometric == TiffPhotometrics.Separated)
         {
-            BitPacking.Inks(pixels.Row(y), row);
+            BitPacking.Cmyk(pixels.Row(y), row);
         }
         else
         {
-            BitPacking.Rgb(pixels.Row(y), row, samples, options.AlphaStorage == TiffAlphaStorage.Associated);
+            BitPacking.Rgb(pixels.Row(y), row, _samples, _options.AlphaStorage == TiffAlphaStorage.Associated);
         }
 
-        if (options.Photometric == TiffPhotometrics.MinIsWhite)
+        if (_options.Photometric == TiffPhotometrics.MinIsWhite)
         {
             foreach (ref byte value in row)
             {
@@ -275,14 +279,14 @@ internal sealed unsafe class TiffWriter
 
     private void Set(TiffTags tag, params ReadOnlySpan<long> values)
     {
-        tiff.Verify(Tiff.Set(tiff.Value, (int)tag, values), $"The field {tag} could not be set");
+        _tiff.Verify(Tiff.Set(_tiff.Handle, (int)tag, values), $"Tag {tag} could not be set");
     }
 
     private void SetText(TiffTags tag, string text)
     {
         if (text.Length > 0)
         {
-            tiff.Verify(Tiff.SetText(tiff.Value, (int)tag, text), $"The field {tag} could not be set");
+            _tiff.Verify(Tiff.SetText(_tiff.Handle, (int)tag, text), $"Tag {tag} could not be set");
         }
     }
 }

@@ -13,29 +13,24 @@ internal static unsafe class WebPCodec
     internal static void Write(PixelGrid pixels, WebPOptions options, Stream output)
     {
         WebP.Require();
-        if (pixels.Width > WebP.LargestSide || pixels.Height > WebP.LargestSide)
+        if (pixels.Width > WebP.MaxSide || pixels.Height > WebP.MaxSide)
         {
             throw new ImageSaveException(
-                $"A WebP holds at most {WebP.LargestSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
+                $"A WebP holds at most {WebP.MaxSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
         }
 
-        byte* data = null;
         int stride = pixels.Width * 4;
         nuint size = options.Lossless
-            ? WebP.EncodeLossless(pixels.Pointer, pixels.Width, pixels.Height, stride, &data)
-            : WebP.EncodeBgra(pixels.Pointer, pixels.Width, pixels.Height, stride, options.Quality, &data);
-        try
+            ? WebP.EncodeLossless(pixels.Pointer, pixels.Width, pixels.Height, stride, out WebPBufferHandle data)
+            : WebP.EncodeBgra(pixels.Pointer, pixels.Width, pixels.Height, stride, options.Quality, out data);
+        using (data)
         {
             if (size == 0)
             {
-                throw new ImageSaveException("The picture could not be compressed as WebP.");
+                throw new ImageSaveException("The image could not be compressed as WebP.");
             }
 
-            output.Write(new ReadOnlySpan<byte>(data, checked((int)size)));
-        }
-        finally
-        {
-            WebP.Free(data);
+            output.Write(data.Bytes(size));
         }
     }
 
@@ -47,7 +42,7 @@ internal static unsafe class WebPCodec
             int width, height;
             if (WebP.GetInfo(data, (nuint)source.Data.Length, &width, &height) == 0)
             {
-                throw new ImageLoadException($"'{source.Name}' is no WebP with one picture that can be read.");
+                throw new ImageLoadException($"'{source.Name}' is no WebP with one image that can be read.");
             }
 
             if (IsAnimation(source.Data))
@@ -56,16 +51,22 @@ internal static unsafe class WebPCodec
             }
 
             var pixels = new PixelGrid(width, height);
-            if (WebP.DecodeBgra(data, (nuint)source.Data.Length, pixels.Pointer, (nuint)(pixels.Count * 4), width * 4) == null)
+            var room = (nuint)(pixels.Count * 4);
+            if (WebP.DecodeBgra(data, (nuint)source.Data.Length, pixels.Pointer, room, width * 4) == null)
             {
                 pixels.Dispose();
-                throw new ImageLoadException($"The picture of '{source.Name}' is damaged or cut off.");
+                throw new ImageLoadException($"The image of '{source.Name}' is damaged or cut off.");
             }
 
-            return new DecodedFile { Format = FileFormat.Webp, Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = 32 }] };
+            return new DecodedFile
+            {
+                Format = FileFormat.Webp,
+                Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = 32 }],
+            };
         }
     }
 
-    // A flag of the extended head (RFC 9649, section 2.7).
-    private static bool IsAnimation(ReadOnlySpan<byte> data) => data.Length > 20 && data[12..].StartsWith("VP8X"u8) && (data[20] & 2) != 0;
+    // A flag of the extended header (RFC 9649, section 2.7).
+    private static bool IsAnimation(ReadOnlySpan<byte> data) =>
+        data.Length > 20 && data[12..].StartsWith("VP8X"u8) && (data[20] & 2) != 0;
 }

@@ -4,14 +4,14 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>The palette that a picture is dithered to.</summary>
+/// <summary>Chooses the palette that an image is dithered to.</summary>
 internal static class DitherPalette
 {
     internal static int[] For(PixelGrid pixels, int bits, IColorPalette? given)
     {
         if (bits is < 1 or > 8)
         {
-            throw Verify.OutOfRange(nameof(bits), bits, "The number of a colour takes 1 to 8 bits.");
+            throw Verify.OutOfRange(nameof(bits), bits, "A palette index takes 1 to 8 bits.");
         }
 
         return given == null && bits == 1

@@ -3,17 +3,19 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>Maps pixels to the colours of a palette, with a pattern that keeps the mean of a place.</summary>
+/// <summary>Dithers pixels to the colours of a palette.</summary>
 internal static class Ditherer
 {
     // B. Bayer, "An optimum method for two-level rendition of continuous-tone pictures", 1973.
     private static readonly byte[] Bayer =
     [
-        0, 32, 8, 40, 2, 34, 10, 42, 48, 16, 56, 24, 50, 18, 58, 26, 12, 44, 4, 36, 14, 46, 6, 38, 60, 28, 52, 20, 62, 30, 54, 22,
-        3, 35, 11, 43, 1, 33, 9, 41, 51, 19, 59, 27, 49, 17, 57, 25, 15, 47, 7, 39, 13, 45, 5, 37, 63, 31, 55, 23, 61, 29, 53, 21,
+        0, 32, 8, 40, 2, 34, 10, 42, 48, 16, 56, 24, 50, 18, 58, 26,
+        12, 44, 4, 36, 14, 46, 6, 38, 60, 28, 52, 20, 62, 30, 54, 22,
+        3, 35, 11, 43, 1, 33, 9, 41, 51, 19, 59, 27, 49, 17, 57, 25,
+        15, 47, 7, 39, 13, 45, 5, 37, 63, 31, 55, 23, 61, 29, 53, 21,
     ];
 
-    // Offsets from the pixel, and how many parts of the error go there.
+    // Offsets from the pixel, and the share of the error that goes there.
     private static readonly (int X, int Y, int Parts)[] FloydSteinberg = [(1, 0, 7), (-1, 1, 3), (0, 1, 5), (1, 1, 1)];
 
     private static readonly (int X, int Y, int Parts)[] Atkinson =
@@ -25,37 +27,37 @@ internal static class Ditherer
         (-2, 2, 1), (-1, 2, 3), (0, 2, 5), (1, 2, 3), (2, 2, 1),
     ];
 
-    /// <summary>Takes the numbers of a row; rows come from the top down.</summary>
+    /// <summary>Receives the palette indices of a row; rows come from the top down.</summary>
     internal delegate void IndexRow(int y, ReadOnlySpan<byte> indices);
 
-    internal static void Map(PixelGrid pixels, int[] palette, DitheringMethods how, IndexRow take)
+    internal static void Map(PixelGrid pixels, int[] palette, DitheringMethods methods, IndexRow consume)
     {
-        bool serpentine = (how & DitheringMethods.Serpentine) != 0;
-        DitheringMethod method = (how & DitheringMethods.ErrorDiffusion) != 0 ? DitheringMethod.FloydSteinberg
-            : (how & DitheringMethods.Ordered) != 0 ? DitheringMethod.Ordered : DitheringMethod.Threshold;
-        Map(pixels, palette, method, serpentine, take);
+        bool serpentine = (methods & DitheringMethods.Serpentine) != 0;
+        DitheringMethod method = (methods & DitheringMethods.ErrorDiffusion) != 0 ? DitheringMethod.FloydSteinberg
+            : (methods & DitheringMethods.Ordered) != 0 ? DitheringMethod.Ordered : DitheringMethod.Threshold;
+        Map(pixels, palette, method, serpentine, consume);
     }
 
-    internal static void Map(PixelGrid pixels, int[] palette, DitheringMethod method, bool serpentine, IndexRow take)
+    internal static void Map(PixelGrid pixels, int[] palette, DitheringMethod method, bool serpentine, IndexRow consume)
     {
         switch (method)
         {
             case DitheringMethod.FloydSteinberg:
-                Diffuse(pixels, palette, FloydSteinberg, 16, serpentine, take);
+                Diffuse(pixels, palette, FloydSteinberg, 16, serpentine, consume);
                 break;
             case DitheringMethod.Atkinson:
-                Diffuse(pixels, palette, Atkinson, 8, serpentine, take);
+                Diffuse(pixels, palette, Atkinson, 8, serpentine, consume);
                 break;
             case DitheringMethod.JarvisJudiceNinke:
-                Diffuse(pixels, palette, Jarvis, 48, serpentine, take);
+                Diffuse(pixels, palette, Jarvis, 48, serpentine, consume);
                 break;
             default:
-                Direct(pixels, palette, method == DitheringMethod.Ordered, take);
+                Direct(pixels, palette, method == DitheringMethod.Ordered, consume);
                 break;
         }
     }
 
-    /// <summary>Gives pixels the nearest colours of a palette in their place.</summary>
+    /// <summary>Replaces pixels by the colours of a palette.</summary>
     internal static void Apply(PixelGrid pixels, int[] palette, DitheringMethod method)
     {
         Map(pixels, palette, method, false, (y, indices) =>
@@ -68,7 +70,7 @@ internal static class Ditherer
         });
     }
 
-    private static void Direct(PixelGrid pixels, int[] palette, bool ordered, IndexRow take)
+    private static void Direct(PixelGrid pixels, int[] palette, bool ordered, IndexRow consume)
     {
         var lookup = new PaletteLookup(palette, ColorCompareMethod.Euclidean);
         int step = ordered ? (int)(255 / Math.Max(1, Math.Cbrt(palette.Length) - 1)) : 0;
@@ -88,7 +90,7 @@ internal static class Ditherer
                 indices[x] = (byte)index;
             }
 
-            take(y, indices);
+            consume(y, indices);
         }
     }
 
@@ -99,7 +101,8 @@ internal static class Ditherer
     }
 
     private static void Diffuse(
-        PixelGrid pixels, int[] palette, (int X, int Y, int Parts)[] spread, int parts, bool serpentine, IndexRow take)
+        PixelGrid pixels, int[] palette, (int X, int Y, int Parts)[] spread, int parts, bool serpentine,
+        IndexRow consume)
     {
         const int margin = 2;
         var lookup = new PaletteLookup(palette, ColorCompareMethod.Euclidean);
@@ -115,12 +118,12 @@ internal static class Ditherer
             {
                 int x = back ? width - 1 - i : i;
                 Span<int> own = errors[0].AsSpan((x + margin) * 3, 3);
-                int wanted = Wanted(row[x], own, parts);
-                int index = lookup.Nearest(wanted);
+                int target = Corrected(row[x], own, parts);
+                int index = lookup.Nearest(target);
                 indices[x] = (byte)index;
                 for (int channel = 0; channel < 3; channel++)
                 {
-                    int error = ((wanted >> (8 * channel)) & 255) - ((palette[index] >> (8 * channel)) & 255);
+                    int error = ((target >> (8 * channel)) & 255) - ((palette[index] >> (8 * channel)) & 255);
                     foreach ((int dx, int dy, int share) in spread)
                     {
                         errors[dy][((x + margin + (back ? -dx : dx)) * 3) + channel] += error * share;
@@ -128,13 +131,13 @@ internal static class Ditherer
                 }
             }
 
-            take(y, indices);
+            consume(y, indices);
             Array.Clear(errors[0]);
             errors = [errors[1], errors[2], errors[0]];
         }
     }
 
-    private static int Wanted(int argb, ReadOnlySpan<int> errors, int parts)
+    private static int Corrected(int argb, ReadOnlySpan<int> errors, int parts)
     {
         if (((uint)argb >> 24) == 0)
         {

@@ -4,12 +4,13 @@ using System.Linq;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>Merges colours in a tree by their leading bits, the rarest and deepest first.</summary>
+/// <summary>Octree quantization: merges colours in a tree by their leading bits, the rarest and deepest
+/// first.</summary>
 internal static class OctreeQuantizer
 {
     private const int Depth = 7;
 
-    internal static int[] Choose(KeyValuePair<int, long>[] colors, int most)
+    internal static int[] Choose(KeyValuePair<int, long>[] colors, int maxColors)
     {
         var root = new Node();
         var levels = new List<Node>[Depth + 1];
@@ -24,12 +25,12 @@ internal static class OctreeQuantizer
         }
 
         int leaves = levels[Depth].Count;
-        for (int level = Depth - 1; level >= 0 && leaves > most; level--)
+        for (int level = Depth - 1; level >= 0 && leaves > maxColors; level--)
         {
             levels[level].Sort(static (a, b) => a.Count.CompareTo(b.Count));
             foreach (Node node in levels[level])
             {
-                if (leaves <= most)
+                if (leaves <= maxColors)
                 {
                     break;
                 }
@@ -40,7 +41,7 @@ internal static class OctreeQuantizer
 
         List<Node> chosen = [];
         Collect(root, chosen);
-        Join(chosen, most);
+        Join(chosen, maxColors);
         int[] means = [.. chosen.ConvertAll(static node => node.Mean())];
         Array.Sort(means);
         return means;
@@ -66,16 +67,17 @@ internal static class OctreeQuantizer
         }
     }
 
-    // The first level has eight branches; fewer colours are reached by joining the rarest with its neighbour.
-    private static void Join(List<Node> chosen, int most)
+    // The first level has eight branches; for fewer colours the rarest is merged with its nearest.
+    private static void Join(List<Node> chosen, int maxColors)
     {
-        while (chosen.Count > most)
+        while (chosen.Count > maxColors)
         {
             chosen.Sort(static (a, b) => a.Count.CompareTo(b.Count));
             Node rarest = chosen[0];
             chosen.RemoveAt(0);
             int color = rarest.Mean();
-            Node? nearest = chosen.MinBy(node => PaletteLookup.Distance(color, node.Mean(), ColorCompareMethod.Euclidean));
+            Node? nearest =
+                chosen.MinBy(node => PaletteLookup.Distance(color, node.Mean(), ColorCompareMethod.Euclidean));
             nearest!.Absorb(rarest);
         }
     }
@@ -100,7 +102,7 @@ internal static class OctreeQuantizer
 
     private sealed class Node
     {
-        private readonly long[] sums = new long[4];
+        private readonly long[] _sums = new long[4];
 
         internal Node?[] Children { get; } = new Node?[8];
 
@@ -110,7 +112,7 @@ internal static class OctreeQuantizer
         {
             for (int i = 0; i < 4; i++)
             {
-                sums[i] += ((color >> (8 * i)) & 255) * count;
+                _sums[i] += ((color >> (8 * i)) & 255) * count;
             }
 
             Count += count;
@@ -120,13 +122,13 @@ internal static class OctreeQuantizer
         {
             for (int i = 0; i < 4; i++)
             {
-                sums[i] += other.sums[i];
+                _sums[i] += other._sums[i];
             }
 
             Count += other.Count;
         }
 
-        /// <summary>Becomes a leaf; gives how many leaves were under it, which all are leaves by now.</summary>
+        /// <summary>Merges the children, which are leaves, into this node; returns how many there were.</summary>
         internal int Merge()
         {
             int under = 0;
@@ -144,7 +146,7 @@ internal static class OctreeQuantizer
             int mean = 0;
             for (int i = 0; i < 4; i++)
             {
-                mean |= (int)((sums[i] + (Count / 2)) / Count) << (8 * i);
+                mean |= (int)((_sums[i] + (Count / 2)) / Count) << (8 * i);
             }
 
             return mean;

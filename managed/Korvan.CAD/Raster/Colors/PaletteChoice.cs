@@ -4,39 +4,40 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>The palette that a picture is written with: the one given, or one made for it.</summary>
+/// <summary>Chooses the palette that an image is written with: the given one, or one made for it.</summary>
 internal static class PaletteChoice
 {
-    internal static int[] For(PixelGrid pixels, IColorPalette? given, int most, ColorQuantizationMethod method)
+    internal static int[] For(PixelGrid pixels, IColorPalette? given, int maxColors, ColorQuantizationMethod method)
     {
         if (given != null)
         {
-            return Given(given, most);
+            return Verified(given, maxColors);
         }
 
-        var colors = new ColorCount();
+        var colors = new ColorHistogram();
         colors.Add(pixels);
-        return Quantizer.Choose(colors, most, method);
+        return Quantizer.Choose(colors, maxColors, method);
     }
 
-    internal static int[] Given(IColorPalette given, int most)
+    internal static int[] Verified(IColorPalette given, int maxColors)
     {
-        if (given.EntriesCount > most)
+        if (given.EntriesCount > maxColors)
         {
-            throw new ImageSaveException($"The palette has {given.EntriesCount} colours; pixels can number {most} of them here.");
+            throw new ImageSaveException(
+                $"The palette has {given.EntriesCount} colours; at most {maxColors} are possible here.");
         }
 
         return given.Argb32Entries;
     }
 }
 
-/// <summary>The numbers of all pixels of a picture.</summary>
-internal static class IndexedRows
+/// <summary>The palette indices of all pixels of an image.</summary>
+internal static class IndexedPixels
 {
-    internal static byte[] Of(PixelGrid pixels, int[] palette, DitheringMethods how)
+    internal static byte[] Of(PixelGrid pixels, int[] palette, DitheringMethods dithering)
     {
         var all = new byte[pixels.Count];
-        Ditherer.Map(pixels, palette, how, (y, indices) => indices.CopyTo(all.AsSpan(y * pixels.Width)));
+        Ditherer.Map(pixels, palette, dithering, (y, indices) => indices.CopyTo(all.AsSpan(y * pixels.Width)));
         return all;
     }
 }

@@ -3,45 +3,45 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>Finds the nearest colour of a palette; what was found is remembered, as pictures repeat their colours.</summary>
+/// <summary>Finds the nearest colour of a palette; results are cached, since images repeat their colours.</summary>
 internal sealed class PaletteLookup
 {
     private const int Slots = 1 << 14;
 
-    private readonly int[] entries;
-    private readonly ColorCompareMethod method;
-    private readonly int[] keys = new int[Slots];
-    private readonly int[] found = new int[Slots];
+    private readonly int[] _entries;
+    private readonly ColorCompareMethod _method;
+    private readonly int[] _keys = new int[Slots];
+    private readonly int[] _found = new int[Slots];
 
     internal PaletteLookup(int[] entries, ColorCompareMethod method)
     {
-        this.entries = entries;
-        this.method = method;
-        found.AsSpan().Fill(-1);
+        _entries = entries;
+        _method = method;
+        _found.AsSpan().Fill(-1);
     }
 
     internal int Nearest(int argb)
     {
         int slot = (int)((uint)(argb * -1640531527) >> 18);
-        if (found[slot] < 0 || keys[slot] != argb)
+        if (_found[slot] < 0 || _keys[slot] != argb)
         {
-            keys[slot] = argb;
-            found[slot] = Search(argb);
+            _keys[slot] = argb;
+            _found[slot] = Search(argb);
         }
 
-        return found[slot];
+        return _found[slot];
     }
 
     private int Search(int argb)
     {
         int best = 0;
-        long least = long.MaxValue;
-        for (int i = 0; i < entries.Length && least > 0; i++)
+        long min = long.MaxValue;
+        for (int i = 0; i < _entries.Length && min > 0; i++)
         {
-            long distance = Distance(argb, entries[i], method);
-            if (distance < least)
+            long distance = Distance(argb, _entries[i], _method);
+            if (distance < min)
             {
-                (best, least) = (i, distance);
+                (best, min) = (i, distance);
             }
         }
 
@@ -53,7 +53,7 @@ internal sealed class PaletteLookup
         int a = (int)((uint)one >> 24) - (int)((uint)other >> 24);
         if (((uint)one >> 24) == 0 && ((uint)other >> 24) == 0)
         {
-            return 0; // what cannot be seen has no colour
+            return 0; // invisible pixels are equal
         }
 
         int redSum = ((one >> 16) & 255) + ((other >> 16) & 255);

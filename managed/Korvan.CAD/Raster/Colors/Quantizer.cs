@@ -6,20 +6,21 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Colors;
 
-/// <summary>Chooses the colours of a palette for a picture.</summary>
+/// <summary>Color quantization: chooses the palette of an image.</summary>
 internal static class Quantizer
 {
-    internal static int[] Choose(ColorCount colors, int most, ColorQuantizationMethod method)
+    internal static int[] Choose(ColorHistogram colors, int maxColors, ColorQuantizationMethod method)
     {
-        if (colors.Counts.Count <= most)
+        if (colors.Counts.Count <= maxColors)
         {
             return [.. colors.Counts.Keys.OrderBy(static color => (uint)color)];
         }
 
         // A transparent pixel takes one entry whatever the method, or it would be mixed into colours.
         bool transparent = colors.Counts.ContainsKey(0);
-        KeyValuePair<int, long>[] visible = [.. colors.Counts.Where(static c => c.Key != 0).OrderBy(static c => (uint)c.Key)];
-        int room = transparent ? most - 1 : most;
+        KeyValuePair<int, long>[] visible =
+            [.. colors.Counts.Where(static c => c.Key != 0).OrderBy(static c => (uint)c.Key)];
+        int room = transparent ? maxColors - 1 : maxColors;
         int[] chosen = method switch
         {
             ColorQuantizationMethod.Popularity =>
@@ -27,19 +28,19 @@ internal static class Quantizer
             ColorQuantizationMethod.Octree => OctreeQuantizer.Choose(visible, room),
             ColorQuantizationMethod.Uniform => Uniform(room),
             ColorQuantizationMethod.MedianCut => MedianCut(visible, room),
-            _ => throw Verify.OutOfRange(nameof(method), method, "There is no such way to choose colours."),
+            _ => throw Verify.OutOfRange(nameof(method), method, "There is no such quantization method."),
         };
         return transparent ? [0, .. chosen] : chosen;
     }
 
-    /// <summary>A lattice of as many levels as fit, green with the most.</summary>
-    internal static int[] Uniform(int most)
+    /// <summary>Returns a lattice of as many levels as fit, most of them for green.</summary>
+    internal static int[] Uniform(int maxColors)
     {
-        int red = Math.Max(1, (int)Math.Cbrt(most + 0.5));
+        int red = Math.Max(1, (int)Math.Cbrt(maxColors + 0.5));
         int blue = red;
         int green = red;
-        green = Math.Max(1, most / (red * blue));
-        red = Math.Max(red, most / (green * blue));
+        green = Math.Max(1, maxColors / (red * blue));
+        red = Math.Max(red, maxColors / (green * blue));
         var colors = new List<int>(red * green * blue);
         for (int i = 0; i < red * green * blue; i++)
         {
@@ -53,72 +54,73 @@ internal static class Quantizer
 
     private static int Level(int index, int count) => count == 1 ? 128 : index * 255 / (count - 1);
 
-    private static int[] MedianCut(KeyValuePair<int, long>[] colors, int most)
+    private static int[] MedianCut(KeyValuePair<int, long>[] colors, int maxColors)
     {
         var boxes = new PriorityQueue<ColorBox, double>();
-        void Enqueue(ColorBox box) => boxes.Enqueue(box, -box.Urgency);
+        void Enqueue(ColorBox box) => boxes.Enqueue(box, -box.Priority);
         Enqueue(new ColorBox(colors));
-        while (boxes.Count < most && boxes.Peek().CanBeCut)
+        while (boxes.Count < maxColors && boxes.Peek().CanBeSplit)
         {
-            (ColorBox low, ColorBox high) = boxes.Dequeue().Cut();
+            (ColorBox low, ColorBox high) = boxes.Dequeue().Split();
             Enqueue(low);
             Enqueue(high);
         }
 
-        return [.. boxes.UnorderedItems.Select(static item => item.Element.Mean()).OrderBy(static color => (uint)color)];
+        IEnumerable<int> means = boxes.UnorderedItems.Select(static item => item.Element.Mean());
+        return [.. means.OrderBy(static color => (uint)color)];
     }
 
-    /// <summary>Some colours, with the channel in which they differ most.</summary>
+    /// <summary>A box of colours, with the channel of their largest range.</summary>
     private readonly struct ColorBox
     {
-        private readonly ArraySegment<KeyValuePair<int, long>> colors;
-        private readonly int shift;
-        private readonly int range;
-        private readonly long total;
+        private readonly ArraySegment<KeyValuePair<int, long>> _colors;
+        private readonly int _shift;
+        private readonly int _range;
+        private readonly long _total;
 
         internal ColorBox(ArraySegment<KeyValuePair<int, long>> colors)
         {
-            this.colors = colors;
-            total = 0;
+            _colors = colors;
+            _total = 0;
             foreach (KeyValuePair<int, long> color in colors)
             {
-                total += color.Value;
+                _total += color.Value;
             }
 
-            (shift, range) = (0, -1);
+            (_shift, _range) = (0, -1);
             foreach (int candidate in (ReadOnlySpan<int>)[8, 16, 0, 24])
             {
                 int spread = Spread(colors, candidate);
-                if (spread > range)
+                if (spread > _range)
                 {
-                    (shift, range) = (candidate, spread);
+                    (_shift, _range) = (candidate, spread);
                 }
             }
         }
 
-        internal bool CanBeCut => colors.Count > 1;
+        internal bool CanBeSplit => _colors.Count > 1;
 
-        internal double Urgency => CanBeCut ? range * Math.Sqrt(total) : 0;
+        internal double Priority => CanBeSplit ? _range * Math.Sqrt(_total) : 0;
 
-        internal (ColorBox Low, ColorBox High) Cut()
+        internal (ColorBox Low, ColorBox High) Split()
         {
-            int by = shift;
-            Array.Sort(colors.Array!, colors.Offset, colors.Count, Comparer<KeyValuePair<int, long>>.Create(
+            int by = _shift;
+            Array.Sort(_colors.Array!, _colors.Offset, _colors.Count, Comparer<KeyValuePair<int, long>>.Create(
                 (a, b) => ((a.Key >> by) & 255).CompareTo((b.Key >> by) & 255)));
             long half = 0;
             int at = 0;
-            while (at < colors.Count - 1 && (at == 0 || half + colors[at].Value <= total / 2))
+            while (at < _colors.Count - 1 && (at == 0 || half + _colors[at].Value <= _total / 2))
             {
-                half += colors[at++].Value;
+                half += _colors[at++].Value;
             }
 
-            return (new ColorBox(colors.Slice(0, at)), new ColorBox(colors.Slice(at)));
+            return (new ColorBox(_colors.Slice(0, at)), new ColorBox(_colors.Slice(at)));
         }
 
         internal int Mean()
         {
             Span<long> sums = stackalloc long[4];
-            foreach ((int color, long count) in colors)
+            foreach ((int color, long count) in _colors)
             {
                 for (int channel = 0; channel < 4; channel++)
                 {
@@ -129,7 +131,7 @@ internal static class Quantizer
             int mean = 0;
             for (int channel = 0; channel < 4; channel++)
             {
-                mean |= (int)((sums[channel] + (total / 2)) / total) << (8 * channel);
+                mean |= (int)((sums[channel] + (_total / 2)) / _total) << (8 * channel);
             }
 
             return mean;

@@ -23,62 +23,66 @@ internal static unsafe partial class Gif
     internal static void Require() => SharedLibrary.Require(Library, "libgif7");
 
     [LibraryImport(Library, EntryPoint = "DGifOpen")]
-    internal static partial File* OpenRead(nint user, delegate* unmanaged[Cdecl]<File*, byte*, int, int> read, int* error);
+    internal static partial GifReadHandle OpenRead(
+        nint user, delegate* unmanaged[Cdecl]<File*, byte*, int, int> read, int* error);
 
     [LibraryImport(Library, EntryPoint = "DGifCloseFile")]
-    internal static partial int CloseRead(File* gif, int* error);
+    internal static partial int CloseRead(nint gif, int* error);
 
     [LibraryImport(Library, EntryPoint = "DGifGetRecordType")]
-    internal static partial int GetRecord(File* gif, Record* type);
+    internal static partial int GetRecord(GifReadHandle gif, Record* type);
 
     [LibraryImport(Library, EntryPoint = "DGifGetImageDesc")]
-    internal static partial int GetImage(File* gif);
+    internal static partial int GetImage(GifReadHandle gif);
 
     [LibraryImport(Library, EntryPoint = "DGifGetLine")]
-    internal static partial int GetLine(File* gif, byte* line, int length);
+    internal static partial int GetLine(GifReadHandle gif, byte* line, int length);
 
     [LibraryImport(Library, EntryPoint = "DGifGetExtension")]
-    internal static partial int GetExtension(File* gif, int* code, byte** block);
+    internal static partial int GetExtension(GifReadHandle gif, int* code, byte** block);
 
     [LibraryImport(Library, EntryPoint = "DGifGetExtensionNext")]
-    internal static partial int GetExtensionNext(File* gif, byte** block);
+    internal static partial int GetExtensionNext(GifReadHandle gif, byte** block);
 
     [LibraryImport(Library, EntryPoint = "EGifOpen")]
-    internal static partial File* OpenWrite(nint user, delegate* unmanaged[Cdecl]<File*, byte*, int, int> write, int* error);
+    internal static partial GifWriteHandle OpenWrite(
+        nint user, delegate* unmanaged[Cdecl]<File*, byte*, int, int> write, int* error);
 
     [LibraryImport(Library, EntryPoint = "EGifCloseFile")]
-    internal static partial int CloseWrite(File* gif, int* error);
+    internal static partial int CloseWrite(nint gif, int* error);
 
     [LibraryImport(Library, EntryPoint = "EGifSetGifVersion")]
-    internal static partial void SetVersion(File* gif, [MarshalAs(UnmanagedType.U1)] bool gif89);
+    internal static partial void SetVersion(GifWriteHandle gif, [MarshalAs(UnmanagedType.U1)] bool gif89);
 
     [LibraryImport(Library, EntryPoint = "EGifPutScreenDesc")]
-    internal static partial int PutScreen(File* gif, int width, int height, int resolution, int background, ColorMap* map);
+    internal static partial int PutScreen(
+        GifWriteHandle gif, int width, int height, int resolution, int background, GifColorMapHandle map);
 
     [LibraryImport(Library, EntryPoint = "EGifPutImageDesc")]
     internal static partial int PutImage(
-        File* gif, int left, int top, int width, int height, [MarshalAs(UnmanagedType.U1)] bool interlace, ColorMap* map);
+        GifWriteHandle gif, int left, int top, int width, int height, [MarshalAs(UnmanagedType.U1)] bool interlace,
+        ColorMap* map);
 
     [LibraryImport(Library, EntryPoint = "EGifPutLine")]
-    internal static partial int PutLine(File* gif, byte* line, int length);
+    internal static partial int PutLine(GifWriteHandle gif, byte* line, int length);
 
     [LibraryImport(Library, EntryPoint = "EGifPutExtension")]
-    internal static partial int PutExtension(File* gif, int code, int length, byte* data);
+    internal static partial int PutExtension(GifWriteHandle gif, int code, int length, byte* data);
 
     [LibraryImport(Library, EntryPoint = "EGifPutExtensionLeader")]
-    internal static partial int PutLeader(File* gif, int code);
+    internal static partial int PutLeader(GifWriteHandle gif, int code);
 
     [LibraryImport(Library, EntryPoint = "EGifPutExtensionBlock")]
-    internal static partial int PutBlock(File* gif, int length, byte* data);
+    internal static partial int PutBlock(GifWriteHandle gif, int length, byte* data);
 
     [LibraryImport(Library, EntryPoint = "EGifPutExtensionTrailer")]
-    internal static partial int PutTrailer(File* gif);
+    internal static partial int PutTrailer(GifWriteHandle gif);
 
     [LibraryImport(Library, EntryPoint = "GifMakeMapObject")]
-    internal static partial ColorMap* MakeMap(int count, byte* rgb);
+    internal static partial GifColorMapHandle MakeMap(int count, byte* rgb);
 
     [LibraryImport(Library, EntryPoint = "GifFreeMapObject")]
-    internal static partial void FreeMap(ColorMap* map);
+    internal static partial void FreeMap(nint map);
 
     [LibraryImport(Library, EntryPoint = "GifErrorString")]
     private static partial nint ErrorString(int code);

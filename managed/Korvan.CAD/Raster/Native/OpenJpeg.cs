@@ -21,10 +21,10 @@ internal static unsafe partial class OpenJpeg
     internal static void Require() => SharedLibrary.Require(Library, "libopenjp2-7");
 
     [LibraryImport(Library, EntryPoint = "opj_create_compress")]
-    internal static partial nint CreateCompress(int codec);
+    internal static partial OpenJpegCodecHandle CreateCompress(int codec);
 
     [LibraryImport(Library, EntryPoint = "opj_create_decompress")]
-    internal static partial nint CreateDecompress(int codec);
+    internal static partial OpenJpegCodecHandle CreateDecompress(int codec);
 
     [LibraryImport(Library, EntryPoint = "opj_destroy_codec")]
     internal static partial void DestroyCodec(nint codec);
@@ -36,64 +36,74 @@ internal static unsafe partial class OpenJpeg
     internal static partial void SetDecoderDefaults(byte* parameters);
 
     [LibraryImport(Library, EntryPoint = "opj_setup_encoder")]
-    internal static partial int SetupEncoder(nint codec, EncoderParameters* parameters, ImageHead* image);
+    internal static partial int SetupEncoder(
+        OpenJpegCodecHandle codec, EncoderParameters* parameters, OpenJpegImageHandle image);
 
     [LibraryImport(Library, EntryPoint = "opj_setup_decoder")]
-    internal static partial int SetupDecoder(nint codec, byte* parameters);
+    internal static partial int SetupDecoder(OpenJpegCodecHandle codec, byte* parameters);
 
     [LibraryImport(Library, EntryPoint = "opj_decoder_set_strict_mode")]
-    internal static partial int SetStrict(nint codec, int strict);
+    internal static partial int SetStrict(OpenJpegCodecHandle codec, int strict);
 
     [LibraryImport(Library, EntryPoint = "opj_set_error_handler")]
-    internal static partial int SetErrorHandler(nint codec, delegate* unmanaged[Cdecl]<byte*, nint, void> handler, nint data);
+    internal static partial int SetErrorHandler(
+        OpenJpegCodecHandle codec, delegate* unmanaged[Cdecl]<byte*, nint, void> handler, nint data);
 
     [LibraryImport(Library, EntryPoint = "opj_image_create")]
-    internal static partial ImageHead* CreateImage(uint components, ComponentParameters* parameters, int colors);
+    internal static partial OpenJpegImageHandle CreateImage(
+        uint components, ComponentParameters* parameters, int colors);
 
     [LibraryImport(Library, EntryPoint = "opj_image_destroy")]
-    internal static partial void DestroyImage(ImageHead* image);
+    internal static partial void DestroyImage(nint image);
 
     [LibraryImport(Library, EntryPoint = "opj_start_compress")]
-    internal static partial int Start(nint codec, ImageHead* image, nint stream);
+    internal static partial int Start(
+        OpenJpegCodecHandle codec, OpenJpegImageHandle image, OpenJpegStreamHandle stream);
 
     [LibraryImport(Library, EntryPoint = "opj_encode")]
-    internal static partial int Encode(nint codec, nint stream);
+    internal static partial int Encode(OpenJpegCodecHandle codec, OpenJpegStreamHandle stream);
 
     [LibraryImport(Library, EntryPoint = "opj_end_compress")]
-    internal static partial int End(nint codec, nint stream);
+    internal static partial int End(OpenJpegCodecHandle codec, OpenJpegStreamHandle stream);
 
     [LibraryImport(Library, EntryPoint = "opj_read_header")]
-    internal static partial int ReadHeader(nint stream, nint codec, ImageHead** image);
+    internal static partial int ReadHeader(
+        OpenJpegStreamHandle stream, OpenJpegCodecHandle codec, out OpenJpegImageHandle image);
 
     [LibraryImport(Library, EntryPoint = "opj_decode")]
-    internal static partial int Decode(nint codec, nint stream, ImageHead* image);
+    internal static partial int Decode(
+        OpenJpegCodecHandle codec, OpenJpegStreamHandle stream, OpenJpegImageHandle image);
 
     [LibraryImport(Library, EntryPoint = "opj_end_decompress")]
-    internal static partial int EndDecompress(nint codec, nint stream);
+    internal static partial int EndDecompress(OpenJpegCodecHandle codec, OpenJpegStreamHandle stream);
 
     [LibraryImport(Library, EntryPoint = "opj_stream_default_create")]
-    internal static partial nint CreateStream(int isInput);
+    internal static partial OpenJpegStreamHandle CreateStream(int isInput);
 
     [LibraryImport(Library, EntryPoint = "opj_stream_destroy")]
     internal static partial void DestroyStream(nint stream);
 
     [LibraryImport(Library, EntryPoint = "opj_stream_set_user_data")]
-    internal static partial void SetUserData(nint stream, nint data, nint free);
+    internal static partial void SetUserData(OpenJpegStreamHandle stream, nint data, nint free);
 
     [LibraryImport(Library, EntryPoint = "opj_stream_set_user_data_length")]
-    internal static partial void SetUserDataLength(nint stream, ulong length);
+    internal static partial void SetUserDataLength(OpenJpegStreamHandle stream, ulong length);
 
     [LibraryImport(Library, EntryPoint = "opj_stream_set_read_function")]
-    internal static partial void SetRead(nint stream, delegate* unmanaged[Cdecl]<byte*, nuint, nint, nuint> read);
+    internal static partial void SetRead(
+        OpenJpegStreamHandle stream, delegate* unmanaged[Cdecl]<byte*, nuint, nint, nuint> read);
 
     [LibraryImport(Library, EntryPoint = "opj_stream_set_write_function")]
-    internal static partial void SetWrite(nint stream, delegate* unmanaged[Cdecl]<byte*, nuint, nint, nuint> write);
+    internal static partial void SetWrite(
+        OpenJpegStreamHandle stream, delegate* unmanaged[Cdecl]<byte*, nuint, nint, nuint> write);
 
     [LibraryImport(Library, EntryPoint = "opj_stream_set_skip_function")]
-    internal static partial void SetSkip(nint stream, delegate* unmanaged[Cdecl]<long, nint, long> skip);
+    internal static partial void SetSkip(
+        OpenJpegStreamHandle stream, delegate* unmanaged[Cdecl]<long, nint, long> skip);
 
     [LibraryImport(Library, EntryPoint = "opj_stream_set_seek_function")]
-    internal static partial void SetSeek(nint stream, delegate* unmanaged[Cdecl]<long, nint, int> seek);
+    internal static partial void SetSeek(
+        OpenJpegStreamHandle stream, delegate* unmanaged[Cdecl]<long, nint, int> seek);
 
     /// <summary>The fields of opj_cparameters_t that are set; the library fills in the others.</summary>
     [StructLayout(LayoutKind.Explicit, Size = 18720)]
@@ -133,7 +143,7 @@ internal static unsafe partial class OpenJpeg
     }
 
     [StructLayout(LayoutKind.Sequential)]
-    internal struct ImageHead
+    internal struct ImageHeader
     {
         public uint X0;
         public uint Y0;

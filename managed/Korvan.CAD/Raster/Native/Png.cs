@@ -14,13 +14,14 @@ internal static unsafe partial class Png
     internal static void Require() => SharedLibrary.Require(Library, "libpng16-16");
 
     [LibraryImport(Library, EntryPoint = "png_image_begin_read_from_memory")]
-    internal static partial int Begin(State* image, byte* memory, nuint size);
+    internal static partial int Begin(PngImageHandle image, byte* memory, nuint size);
 
     [LibraryImport(Library, EntryPoint = "png_image_finish_read")]
-    internal static partial int Finish(State* image, void* background, void* buffer, int rowStride, void* colorMap);
+    internal static partial int Finish(
+        PngImageHandle image, void* background, void* buffer, int rowStride, void* colorMap);
 
     [LibraryImport(Library, EntryPoint = "png_image_free")]
-    internal static partial void Free(State* image);
+    internal static partial void Free(nint image);
 
     [StructLayout(LayoutKind.Sequential)]
     internal struct State

@@ -4,7 +4,8 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD.Raster.Native;
 
-/// <summary>Looks for a codec's shared library before its first call, so that a missing one is named with its cure.</summary>
+/// <summary>Checks for a codec's shared library before its first call, so that an error names the missing library and
+/// its package.</summary>
 internal static class SharedLibrary
 {
     private static readonly ConcurrentDictionary<string, bool> Found = new();

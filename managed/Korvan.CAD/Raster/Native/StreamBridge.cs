@@ -5,29 +5,28 @@ using System.Runtime.InteropServices;
 
 namespace Korvan.CAD.Raster.Native;
 
-/// <summary>
-/// Lets a codec read and write a .NET stream. An exception of the stream never crosses native frames: it is kept, the
-/// codec is told of a failure, and <see cref="Rethrow"/> brings it back on the managed side.
-/// </summary>
+/// <summary>Lets a native codec read and write a .NET stream. An exception of the stream never crosses native frames:
+/// it is kept, the callback reports a failure to the codec, and <see cref="Rethrow"/> throws it on the managed
+/// side.</summary>
 internal sealed unsafe class StreamBridge : IDisposable
 {
-    private readonly Stream stream;
-    private GCHandle handle;
+    private readonly Stream _stream;
+    private GCHandle _handle;
 
     internal StreamBridge(Stream stream)
     {
-        this.stream = stream;
-        handle = GCHandle.Alloc(this);
+        _stream = stream;
+        _handle = GCHandle.Alloc(this);
     }
 
-    internal nint Closure => GCHandle.ToIntPtr(handle);
+    internal nint Closure => GCHandle.ToIntPtr(_handle);
 
     internal Exception? Failure { get; private set; }
 
-    /// <summary>What the codec complained of first.</summary>
-    internal string? Complaint { get; set; }
+    /// <summary>The codec's first error message.</summary>
+    internal string? Error { get; set; }
 
-    internal long Length => stream.Length;
+    internal long Length => Guard(() => (nint)_stream.Length);
 
     internal static StreamBridge Of(nint closure) => (StreamBridge)GCHandle.FromIntPtr(closure).Target!;
 
@@ -39,30 +38,31 @@ internal sealed unsafe class StreamBridge : IDisposable
         }
     }
 
-    /// <summary>How many bytes were read; -1 after a failure.</summary>
+    /// <summary>Returns how many bytes were read; -1 after a failure.</summary>
     internal nint Read(byte* target, nint count)
     {
-        return Guard(() => stream.ReadAtLeast(new Span<byte>(target, checked((int)count)), checked((int)count), false));
+        return Guard(
+            () => _stream.ReadAtLeast(new Span<byte>(target, checked((int)count)), checked((int)count), false));
     }
 
     internal nint Write(byte* data, nint count)
     {
         return Guard(() =>
         {
-            stream.Write(new ReadOnlySpan<byte>(data, checked((int)count)));
+            _stream.Write(new ReadOnlySpan<byte>(data, checked((int)count)));
             return count;
         });
     }
 
-    internal long Seek(long offset, System.IO.SeekOrigin origin) => Guard(() => (nint)stream.Seek(offset, origin));
+    internal long Seek(long offset, System.IO.SeekOrigin origin) => Guard(() => (nint)_stream.Seek(offset, origin));
 
-    internal long Position => stream.Position;
+    internal long Position => Guard(() => (nint)_stream.Position);
 
     public void Dispose()
     {
-        if (handle.IsAllocated)
+        if (_handle.IsAllocated)
         {
-            handle.Free();
+            _handle.Free();
         }
     }
 

@@ -11,83 +11,88 @@ internal static unsafe partial class Tiff
     internal static void Require() => SharedLibrary.Require(Library, "libtiff6");
 
     [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsAlloc")]
-    internal static partial nint AllocOptions();
+    internal static partial TiffOpenOptionsHandle AllocOptions();
 
     [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsFree")]
     internal static partial void FreeOptions(nint options);
 
     [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsSetMaxSingleMemAlloc")]
-    internal static partial void LimitMemory(nint options, nint bytes);
+    internal static partial void LimitMemory(TiffOpenOptionsHandle options, nint bytes);
 
     [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsSetErrorHandlerExtR")]
     internal static partial void SetErrorHandler(
-        nint options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler, nint user);
+        TiffOpenOptionsHandle options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler,
+        nint user);
 
     [LibraryImport(Library, EntryPoint = "TIFFOpenOptionsSetWarningHandlerExtR")]
     internal static partial void SetWarningHandler(
-        nint options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler, nint user);
+        TiffOpenOptionsHandle options, delegate* unmanaged[Cdecl]<nint, nint, byte*, byte*, nint, int> handler,
+        nint user);
 
     [LibraryImport(Library, EntryPoint = "TIFFClientOpenExt", StringMarshalling = StringMarshalling.Utf8)]
-    internal static partial nint Open(
+    internal static partial TiffHandle Open(
         string name, string mode, nint user, delegate* unmanaged[Cdecl]<nint, byte*, nint, nint> read,
-        delegate* unmanaged[Cdecl]<nint, byte*, nint, nint> write, delegate* unmanaged[Cdecl]<nint, ulong, int, ulong> seek,
+        delegate* unmanaged[Cdecl]<nint, byte*, nint, nint> write,
+        delegate* unmanaged[Cdecl]<nint, ulong, int, ulong> seek,
         delegate* unmanaged[Cdecl]<nint, int> close, delegate* unmanaged[Cdecl]<nint, ulong> size,
-        delegate* unmanaged[Cdecl]<nint, byte**, ulong*, int> map, delegate* unmanaged[Cdecl]<nint, byte*, ulong, void> unmap,
-        nint options);
+        delegate* unmanaged[Cdecl]<nint, byte**, ulong*, int> map,
+        delegate* unmanaged[Cdecl]<nint, byte*, ulong, void> unmap,
+        TiffOpenOptionsHandle options);
 
     [LibraryImport(Library, EntryPoint = "TIFFClose")]
     internal static partial void Close(nint tiff);
 
     [LibraryImport(Library, EntryPoint = "TIFFVSetField")]
-    private static partial int SetField(nint tiff, uint tag, ArgumentList* list);
+    private static partial int SetField(TiffHandle tiff, uint tag, ArgumentList* list);
 
     [LibraryImport(Library, EntryPoint = "TIFFVGetFieldDefaulted")]
-    private static partial int GetField(nint tiff, uint tag, ArgumentList* list);
+    private static partial int GetField(TiffHandle tiff, uint tag, ArgumentList* list);
 
     [LibraryImport(Library, EntryPoint = "TIFFWriteEncodedStrip")]
-    internal static partial nint WriteStrip(nint tiff, uint strip, byte* data, nint size);
+    internal static partial nint WriteStrip(TiffHandle tiff, uint strip, byte* data, nint size);
 
     [LibraryImport(Library, EntryPoint = "TIFFWriteDirectory")]
-    internal static partial int WriteDirectory(nint tiff);
+    internal static partial int WriteDirectory(TiffHandle tiff);
 
     [LibraryImport(Library, EntryPoint = "TIFFReadDirectory")]
-    internal static partial int ReadDirectory(nint tiff);
+    internal static partial int ReadDirectory(TiffHandle tiff);
 
     [LibraryImport(Library, EntryPoint = "TIFFIsCODECConfigured")]
     internal static partial int HasCodec(ushort scheme);
 
     [LibraryImport(Library, EntryPoint = "TIFFRGBAImageOK")]
-    internal static partial int CanBecomeRgba(nint tiff, byte* message);
+    internal static partial int CanBecomeRgba(TiffHandle tiff, byte* message);
 
     [LibraryImport(Library, EntryPoint = "TIFFReadRGBAImageOriented")]
-    internal static partial int ReadRgba(nint tiff, uint width, uint height, uint* raster, int orientation, int stopOnError);
+    internal static partial int ReadRgba(
+        TiffHandle tiff, uint width, uint height, uint* raster, int orientation, int stopOnError);
 
     [LibraryImport(Library, EntryPoint = "TIFFReadEncodedStrip")]
-    internal static partial nint ReadStrip(nint tiff, uint strip, byte* target, nint size);
+    internal static partial nint ReadStrip(TiffHandle tiff, uint strip, byte* target, nint size);
 
     [LibraryImport(Library, EntryPoint = "TIFFReadEncodedTile")]
-    internal static partial nint ReadTile(nint tiff, uint tile, byte* target, nint size);
+    internal static partial nint ReadTile(TiffHandle tiff, uint tile, byte* target, nint size);
 
     [LibraryImport(Library, EntryPoint = "TIFFComputeStrip")]
-    internal static partial uint ComputeStrip(nint tiff, uint y, ushort plane);
+    internal static partial uint ComputeStrip(TiffHandle tiff, uint y, ushort plane);
 
     [LibraryImport(Library, EntryPoint = "TIFFComputeTile")]
-    internal static partial uint ComputeTile(nint tiff, uint x, uint y, uint z, ushort plane);
+    internal static partial uint ComputeTile(TiffHandle tiff, uint x, uint y, uint z, ushort plane);
 
     [LibraryImport(Library, EntryPoint = "TIFFTileRowSize")]
-    internal static partial nint TileRowSize(nint tiff);
+    internal static partial nint TileRowSize(TiffHandle tiff);
 
     [LibraryImport(Library, EntryPoint = "TIFFScanlineSize")]
-    internal static partial nint ScanlineSize(nint tiff);
+    internal static partial nint ScanlineSize(TiffHandle tiff);
 
     [LibraryImport(Library, EntryPoint = "TIFFIsTiled")]
-    internal static partial int IsTiled(nint tiff);
+    internal static partial int IsTiled(TiffHandle tiff);
 
     [LibraryImport("libc", EntryPoint = "vsnprintf")]
     private static partial int Format(byte* buffer, nuint size, byte* format, nint arguments);
 
-    /// <summary>Sets a field whose arguments are integers, each as wide as a register.</summary>
-    internal static bool Set(nint tiff, int tag, ReadOnlySpan<long> arguments)
+    /// <summary>Sets a tag whose arguments are integers, each as wide as a register.</summary>
+    internal static bool Set(TiffHandle tiff, int tag, ReadOnlySpan<long> arguments)
     {
         fixed (long* start = arguments)
         {
@@ -96,11 +101,12 @@ internal static unsafe partial class Tiff
         }
     }
 
-    internal static bool Set(nint tiff, int tag, long value) => Set(tiff, tag, [value]);
+    internal static bool Set(TiffHandle tiff, int tag, long value) => Set(tiff, tag, [value]);
 
-    internal static bool SetReal(nint tiff, int tag, double value) => Set(tiff, tag, BitConverter.DoubleToInt64Bits(value));
+    internal static bool SetReal(TiffHandle tiff, int tag, double value) =>
+        Set(tiff, tag, BitConverter.DoubleToInt64Bits(value));
 
-    internal static bool SetText(nint tiff, int tag, string value)
+    internal static bool SetText(TiffHandle tiff, int tag, string value)
     {
         nint text = Marshal.StringToCoTaskMemUTF8(value);
         bool done = Set(tiff, tag, text); // libtiff copies it
@@ -108,8 +114,8 @@ internal static unsafe partial class Tiff
         return done;
     }
 
-    /// <summary>Gets a field of at most 32 bits; the default where the file has none, 0 where there is no default.</summary>
-    internal static uint GetNumber(nint tiff, int tag)
+    /// <summary>Gets a tag of at most 32 bits; its default where the file has none, 0 without a default.</summary>
+    internal static uint GetNumber(TiffHandle tiff, int tag)
     {
         ulong value = 0;
         nint place = (nint)(&value);
@@ -117,8 +123,8 @@ internal static unsafe partial class Tiff
         return GetField(tiff, (uint)tag, &list) == 1 ? (uint)value : 0;
     }
 
-    /// <summary>Gets what each sample past the colour means.</summary>
-    internal static ushort[] ExtraSamples(nint tiff)
+    /// <summary>Gets the meaning of each sample beyond the colour.</summary>
+    internal static ushort[] ExtraSamples(TiffHandle tiff)
     {
         ulong count = 0;
         ushort* meanings = null;
@@ -129,8 +135,9 @@ internal static unsafe partial class Tiff
         return there ? new ReadOnlySpan<ushort>(meanings, (ushort)count).ToArray() : [];
     }
 
-    /// <summary>Gets the colours of a palette; entries that all are below 256 are of 8 bits, whatever the format says.</summary>
-    internal static int[] Palette(nint tiff, int count)
+    /// <summary>Gets the colours of a palette. Where all entries are below 256 they are taken as 8-bit values, which
+    /// some programs write.</summary>
+    internal static int[] Palette(TiffHandle tiff, int count)
     {
         nint* tables = stackalloc nint[3];
         nint* places = stackalloc nint[3];
@@ -157,7 +164,7 @@ internal static unsafe partial class Tiff
         return colors;
     }
 
-    internal static float GetReal(nint tiff, int tag)
+    internal static float GetReal(TiffHandle tiff, int tag)
     {
         float value = 0;
         nint place = (nint)(&value);
@@ -165,7 +172,7 @@ internal static unsafe partial class Tiff
         return GetField(tiff, (uint)tag, &list) == 1 ? value : 0;
     }
 
-    internal static string GetText(nint tiff, int tag)
+    internal static string GetText(TiffHandle tiff, int tag)
     {
         nint value = 0;
         nint place = (nint)(&value);
@@ -173,7 +180,7 @@ internal static unsafe partial class Tiff
         return GetField(tiff, (uint)tag, &list) == 1 ? Marshal.PtrToStringUTF8(value) ?? "" : "";
     }
 
-    /// <summary>Puts the text of an error together.</summary>
+    /// <summary>Formats an error message.</summary>
     internal static string Message(byte* format, nint arguments)
     {
         byte* text = stackalloc byte[512];
@@ -181,25 +188,22 @@ internal static unsafe partial class Tiff
         return Marshal.PtrToStringUTF8((nint)text) ?? "";
     }
 
-    /// <summary>
-    /// A va_list all of whose arguments stand in memory, each in eight bytes: what a C function of variable arguments
-    /// hands on under the System V ABI of x86-64, section 3.5.7. The functions of that kind cannot be called from here
-    /// themselves.
-    /// </summary>
+    /// <summary>A va_list all of whose arguments lie in memory, eight bytes each, as defined by the System V ABI of
+    /// x86-64, section 3.5.7. Variadic functions themselves cannot be called from managed code.</summary>
     [StructLayout(LayoutKind.Sequential)]
     private struct ArgumentList
     {
-        private uint integersUsed;
-        private uint realsUsed;
-        private void* inMemory;
-        private void* inRegisters;
+        private uint _integersUsed;
+        private uint _realsUsed;
+        private void* _inMemory;
+        private void* _inRegisters;
 
         internal static ArgumentList Over(void* arguments) => new()
         {
-            integersUsed = 48, // both past the last register
-            realsUsed = 176,
-            inMemory = arguments,
-            inRegisters = null,
+            _integersUsed = 48, // both past the last register
+            _realsUsed = 176,
+            _inMemory = arguments,
+            _inRegisters = null,
         };
     }
 }

@@ -39,32 +39,34 @@ internal static unsafe partial class TurboJpeg
     internal static void Require() => SharedLibrary.Require(Library, "libturbojpeg0");
 
     [LibraryImport(Library, EntryPoint = "tjInitCompress")]
-    internal static partial nint InitCompress();
+    internal static partial TurboJpegHandle InitCompress();
 
     [LibraryImport(Library, EntryPoint = "tjInitDecompress")]
-    internal static partial nint InitDecompress();
+    internal static partial TurboJpegHandle InitDecompress();
 
     [LibraryImport(Library, EntryPoint = "tjDestroy")]
     internal static partial int Destroy(nint handle);
 
     [LibraryImport(Library, EntryPoint = "tjFree")]
-    internal static partial void Free(byte* buffer);
+    internal static partial void Free(nint buffer);
 
     [LibraryImport(Library, EntryPoint = "tjCompress2")]
     internal static partial int Compress(
-        nint handle, byte* source, int width, int pitch, int height, PixelLayout layout, byte** jpeg, nuint* size,
-        Subsampling subsampling, int quality, int flags);
+        TurboJpegHandle handle, byte* source, int width, int pitch, int height, PixelLayout layout,
+        out TurboJpegBufferHandle jpeg, ref nuint size, Subsampling subsampling, int quality, int flags);
 
     [LibraryImport(Library, EntryPoint = "tjDecompressHeader3")]
     internal static partial int ReadHeader(
-        nint handle, byte* jpeg, nuint size, int* width, int* height, int* subsampling, int* colors);
+        TurboJpegHandle handle, byte* jpeg, nuint size, int* width, int* height, int* subsampling, int* colors);
 
     [LibraryImport(Library, EntryPoint = "tjDecompress2")]
     internal static partial int Decompress(
-        nint handle, byte* jpeg, nuint size, byte* target, int width, int pitch, int height, PixelLayout layout, int flags);
+        TurboJpegHandle handle, byte* jpeg, nuint size, byte* target, int width, int pitch, int height,
+        PixelLayout layout, int flags);
 
     [LibraryImport(Library, EntryPoint = "tjGetErrorStr2")]
-    private static partial nint ErrorText(nint handle);
+    private static partial nint ErrorText(TurboJpegHandle handle);
 
-    internal static string Error(nint handle) => Marshal.PtrToStringUTF8(ErrorText(handle)) ?? "unknown failure";
+    internal static string Error(TurboJpegHandle handle) =>
+        Marshal.PtrToStringUTF8(ErrorText(handle)) ?? "unknown failure";
 }

@@ -5,8 +5,8 @@ namespace Korvan.CAD.Raster.Native;
 /// <summary>The part of libwebp's simple interface that is called.</summary>
 internal static unsafe partial class WebP
 {
-    /// <summary>The largest side of a picture, 14 bits.</summary>
-    internal const int LargestSide = 16383;
+    /// <summary>The maximum width and height, 14 bits.</summary>
+    internal const int MaxSide = 16383;
 
     private const string Library = "libwebp.so.7";
 
@@ -19,11 +19,13 @@ internal static unsafe partial class WebP
     internal static partial byte* DecodeBgra(byte* data, nuint size, byte* target, nuint targetSize, int stride);
 
     [LibraryImport(Library, EntryPoint = "WebPEncodeBGRA")]
-    internal static partial nuint EncodeBgra(byte* pixels, int width, int height, int stride, float quality, byte** output);
+    internal static partial nuint EncodeBgra(
+        byte* pixels, int width, int height, int stride, float quality, out WebPBufferHandle output);
 
     [LibraryImport(Library, EntryPoint = "WebPEncodeLosslessBGRA")]
-    internal static partial nuint EncodeLossless(byte* pixels, int width, int height, int stride, byte** output);
+    internal static partial nuint EncodeLossless(
+        byte* pixels, int width, int height, int stride, out WebPBufferHandle output);
 
     [LibraryImport(Library, EntryPoint = "WebPFree")]
-    internal static partial void Free(byte* data);
+    internal static partial void Free(nint data);
 }

@@ -3,17 +3,19 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Operations;
 
-/// <summary>Makes pictures black and white.</summary>
+/// <summary>Binarizes images.</summary>
 internal static class Binarization
 {
     private const int White = -1;
     private const int Black = PixelGrid.Opaque;
 
-    /// <summary>Pixels as light as the threshold, or lighter, become white.</summary>
+    /// <summary>Makes pixels of at least the threshold white, the others black.</summary>
     internal static void Fixed(PixelGrid pixels, int threshold) =>
-        Tones.Each(pixels, pixel => PixelGrid.Luma(PixelGrid.Over(pixel, White)) >= threshold ? White : Black);
+        ColorAdjustment.Each(
+            pixels, pixel => PixelGrid.Luma(PixelGrid.Over(pixel, White)) >= threshold ? White : Black);
 
-    /// <summary>The threshold that parts lightness into the two most distinct classes (N. Otsu, 1979).</summary>
+    /// <summary>Returns the threshold that separates the histogram into the two most distinct classes (N. Otsu,
+    /// 1979).</summary>
     internal static int OtsuThreshold(PixelGrid pixels)
     {
         Span<long> histogram = stackalloc long[256];
@@ -30,7 +32,7 @@ internal static class Binarization
 
         long below = 0;
         long sumBelow = 0;
-        double most = -1;
+        double max = -1;
         int best = 128;
         for (int level = 0; level < 255; level++)
         {
@@ -44,20 +46,19 @@ internal static class Binarization
 
             double difference = ((double)sumBelow / below) - ((double)(weighted - sumBelow) / above);
             double between = (double)below * above * difference * difference;
-            if (between > most)
+            if (between > max)
             {
-                (most, best) = (between, level + 1);
+                (max, best) = (between, level + 1);
             }
         }
 
         return best;
     }
 
-    /// <summary>
-    /// Compares each pixel with the mean of the square around it, less a share of that mean (D. Bradley and G. Roth,
-    /// "Adaptive thresholding using the integral image", 2007). Only as many rows of sums are kept as a square is high.
-    /// </summary>
-    internal static PixelGrid Adaptive(PixelGrid from, int window, double share)
+    /// <summary>Compares each pixel with the mean of the square around it, less a share of that mean (D. Bradley and G.
+    /// Roth, "Adaptive thresholding using the integral image", 2007). Only as many rows of sums are kept as a square is
+    /// high.</summary>
+    internal static PixelGrid Adaptive(PixelGrid from, int window, double fraction)
     {
         int half = Math.Max(1, window / 2);
         var to = new PixelGrid(from.Width, from.Height);
@@ -74,7 +75,7 @@ internal static class Binarization
 
             int rows = Math.Min(from.Height, y + half + 1) - Math.Max(0, y - half);
             Levels(from.Row(y), luma);
-            Compare(luma, columns, half, rows, share, to.Row(y));
+            Compare(luma, columns, half, rows, fraction, to.Row(y));
         }
 
         return to;
@@ -102,7 +103,7 @@ internal static class Binarization
         }
     }
 
-    private static void Compare(byte[] luma, long[] columns, int half, int rows, double share, Span<int> to)
+    private static void Compare(byte[] luma, long[] columns, int half, int rows, double fraction, Span<int> to)
     {
         long sum = 0;
         for (int x = 0; x < Math.Min(half, columns.Length); x++)
@@ -115,7 +116,7 @@ internal static class Binarization
             sum += x + half < columns.Length ? columns[x + half] : 0;
             sum -= x - half - 1 >= 0 ? columns[x - half - 1] : 0;
             long count = (long)rows * (Math.Min(columns.Length, x + half + 1) - Math.Max(0, x - half));
-            to[x] = luma[x] * (double)count >= sum * (1 - share) ? White : Black;
+            to[x] = luma[x] * (double)count >= sum * (1 - fraction) ? White : Black;
         }
     }
 }

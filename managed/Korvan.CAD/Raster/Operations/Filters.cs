@@ -4,29 +4,29 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Operations;
 
-/// <summary>Changes pixels by what is around them.</summary>
+/// <summary>Applies a neighbourhood filter.</summary>
 internal static class Filters
 {
     internal static PixelGrid Apply(PixelGrid from, ImageFilterType type, int size) => type switch
     {
-        ImageFilterType.Box => Convolve(from, Uniform(size), Uniform(size)),
-        ImageFilterType.Gaussian => Convolve(from, Normal(size), Normal(size)),
+        ImageFilterType.Box => Convolve(from, BoxWeights(size), BoxWeights(size)),
+        ImageFilterType.Gaussian => Convolve(from, GaussianWeights(size), GaussianWeights(size)),
         ImageFilterType.Median => Median(from, size),
         ImageFilterType.Sharpen => Sharpen(from, size),
         ImageFilterType.Edges => Edges(from),
-        ImageFilterType.Emboss => Square(from, [-2, -1, 0, -1, 1, 1, 0, 1, 2], 0),
+        ImageFilterType.Emboss => Convolve3x3(from, [-2, -1, 0, -1, 1, 1, 0, 1, 2], 0),
         _ => throw Verify.OutOfRange(nameof(type), type, "There is no such filter."),
     };
 
-    private static double[] Uniform(int size)
+    private static double[] BoxWeights(int size)
     {
         var weights = new double[size];
         weights.AsSpan().Fill(1.0 / size);
         return weights;
     }
 
-    // The square holds two standard deviations to each side.
-    private static double[] Normal(int size)
+    // The window covers two standard deviations to each side.
+    private static double[] GaussianWeights(int size)
     {
         var weights = new double[size];
         double sigma = Math.Max(0.5, size / 4.0);
@@ -47,11 +47,11 @@ internal static class Filters
 
     private static PixelGrid Convolve(PixelGrid from, double[] across, double[] down)
     {
-        using PixelGrid narrow = Line(from, across, 1, 0);
-        return Line(narrow, down, 0, 1);
+        using PixelGrid narrow = ConvolveLine(from, across, 1, 0);
+        return ConvolveLine(narrow, down, 0, 1);
     }
 
-    private static PixelGrid Line(PixelGrid from, double[] weights, int stepX, int stepY)
+    private static PixelGrid ConvolveLine(PixelGrid from, double[] weights, int stepX, int stepY)
     {
         var to = new PixelGrid(from.Width, from.Height);
         int half = weights.Length / 2;
@@ -65,11 +65,11 @@ internal static class Filters
                 for (int k = 0; k < weights.Length; k++)
                 {
                     int pixel = At(from, x + ((k - half) * stepX), y + ((k - half) * stepY));
-                    double seen = weights[k] * (pixel >>> 24);
-                    Add(sums, pixel | PixelGrid.Opaque, seen);
+                    double alpha = weights[k] * (pixel >>> 24);
+                    Add(sums, pixel | PixelGrid.Opaque, alpha);
                 }
 
-                row[x] = Plain(sums);
+                row[x] = Unpremultiply(sums);
             }
         }
 
@@ -125,7 +125,7 @@ internal static class Filters
 
     private static PixelGrid Sharpen(PixelGrid from, int size)
     {
-        PixelGrid to = Convolve(from, Normal(size), Normal(size));
+        PixelGrid to = Convolve(from, GaussianWeights(size), GaussianWeights(size));
         for (int y = 0; y < to.Height; y++)
         {
             Span<int> row = to.Row(y);
@@ -165,7 +165,7 @@ internal static class Filters
         return to;
     }
 
-    private static PixelGrid Square(PixelGrid from, int[] weights, int offset)
+    private static PixelGrid Convolve3x3(PixelGrid from, int[] weights, int offset)
     {
         var to = new PixelGrid(from.Width, from.Height);
         Span<double> sums = stackalloc double[4];
@@ -187,7 +187,7 @@ internal static class Filters
         return to;
     }
 
-    // Past the edges the outermost pixels go on.
+    // Edge pixels are repeated beyond the edges.
     private static int At(PixelGrid from, int x, int y) =>
         from.Row(Math.Clamp(y, 0, from.Height - 1))[Math.Clamp(x, 0, from.Width - 1)];
 
@@ -199,16 +199,16 @@ internal static class Filters
         sums[3] += (pixel >>> 24) * weight;
     }
 
-    // Colours were counted by their opacity, or what is invisible would show at edges.
-    private static int Plain(Span<double> sums)
+    // Colours were weighted by alpha; otherwise invisible pixels would show at edges.
+    private static int Unpremultiply(Span<double> sums)
     {
-        double seen = sums[3] / 255;
+        double alpha = sums[3] / 255;
         for (int c = 0; c < 3; c++)
         {
-            sums[c] = seen > 0 ? sums[c] / seen : 0;
+            sums[c] = alpha > 0 ? sums[c] / alpha : 0;
         }
 
-        sums[3] = seen;
+        sums[3] = alpha;
         return Pack(sums);
     }
 

@@ -4,16 +4,17 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Operations;
 
-/// <summary>Brings pictures to another size, in two passes over kernels of weights.</summary>
+/// <summary>Resizes images by separable resampling kernels.</summary>
 internal static class Resampler
 {
     internal static PixelGrid Resize(PixelGrid from, int width, int height, ResizeType type, int background)
     {
-        PixelGrid.Verify(width, height);
+        PixelGrid.VerifySize(width, height);
         return type switch
         {
             ResizeType.NearestNeighbour => Nearest(from, width, height),
-            ResizeType.Centered => Place(from, width, height, (width - from.Width) / 2, (height - from.Height) / 2, background),
+            ResizeType.Centered =>
+                Place(from, width, height, (width - from.Width) / 2, (height - from.Height) / 2, background),
             ResizeType.UpperLeft => Place(from, width, height, 0, 0, background),
             _ => Filter(from, width, height, type),
         };
@@ -97,15 +98,15 @@ internal static class Resampler
             int first = kernel.First(x);
             for (int k = 0; k < kernel.Taps; k++)
             {
-                sum += Multiplied(row[first + k]) * kernel.Weight(x, k);
+                sum += Premultiply(row[first + k]) * kernel.Weight(x, k);
             }
 
             result[x] = sum;
         }
     }
 
-    // Colours count by their opacity, or what is invisible would show at edges.
-    private static Vector4 Multiplied(int argb)
+    // Colours are weighted by alpha; otherwise invisible pixels would show at edges.
+    private static Vector4 Premultiply(int argb)
     {
         float alpha = argb >>> 24;
         float scale = alpha / 255;

@@ -3,33 +3,34 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.Raster.Operations;
 
-/// <summary>Which pixels of one line make each pixel of another, and by what weights. Weights of a pixel sum to 1.</summary>
+/// <summary>The weights by which pixels of a line contribute to each pixel of the resized line. The weights of a pixel
+/// sum to 1.</summary>
 internal sealed class ResizeKernel
 {
-    private readonly int[] first;
-    private readonly float[] weights;
+    private readonly int[] _first;
+    private readonly float[] _weights;
 
     internal ResizeKernel(int from, int to, ResizeType type)
     {
         (Func<double, double> shape, double support) = Shape(type, from, to);
-        double scale = Math.Max(1, (double)from / to); // smaller pictures need wider kernels
+        double scale = Math.Max(1, (double)from / to); // reduction needs wider kernels
         double reach = support * scale;
         Taps = Math.Min(from, (int)Math.Ceiling(reach * 2) + 1);
-        first = new int[to];
-        weights = new float[(long)to * Taps];
+        _first = new int[to];
+        _weights = new float[(long)to * Taps];
         for (int i = 0; i < to; i++)
         {
             double center = (i + 0.5) * from / to;
-            first[i] = Math.Clamp((int)Math.Floor(center - reach), 0, from - Taps);
-            Fill(weights.AsSpan(i * Taps, Taps), first[i], center, scale, shape);
+            _first[i] = Math.Clamp((int)Math.Floor(center - reach), 0, from - Taps);
+            Fill(_weights.AsSpan(i * Taps, Taps), _first[i], center, scale, shape);
         }
     }
 
     internal int Taps { get; }
 
-    internal int First(int at) => first[at];
+    internal int First(int at) => _first[at];
 
-    internal float Weight(int at, int tap) => weights[(at * Taps) + tap];
+    internal float Weight(int at, int tap) => _weights[(at * Taps) + tap];
 
     private static void Fill(Span<float> to, int first, double center, double scale, Func<double, double> shape)
     {
@@ -63,11 +64,11 @@ internal sealed class ResizeKernel
         ResizeType.CatmullRom => (Cubic(0, 0.5), 2),
         ResizeType.Mitchell => (Cubic(1 / 3.0, 1 / 3.0), 2),
         ResizeType.Lanczos => (Lanczos, 3),
-        ResizeType.Adaptive => Shape(Adapted(from, to), from, to),
-        _ => throw Verify.OutOfRange(nameof(type), type, "There is no such way of resizing."),
+        ResizeType.Adaptive => Shape(AdaptiveType(from, to), from, to),
+        _ => throw Verify.OutOfRange(nameof(type), type, "There is no such resampling filter."),
     };
 
-    private static ResizeType Adapted(int from, int to) =>
+    private static ResizeType AdaptiveType(int from, int to) =>
         to * 2L < from ? ResizeType.Box : to < from ? ResizeType.Bilinear : ResizeType.CatmullRom;
 
     private static double Box(double x) => x is >= -0.5 and < 0.5 ? 1 : 0;
@@ -93,7 +94,8 @@ internal sealed class ResizeKernel
         return a switch
         {
             < 1 => ((12 - (9 * b) - (6 * c)) * a * a * a + ((-18 + (12 * b) + (6 * c)) * a * a) + (6 - (2 * b))) / 6,
-            < 2 => (((-b - (6 * c)) * a * a * a) + (((6 * b) + (30 * c)) * a * a) + (((-12 * b) - (48 * c)) * a) + ((8 * b) + (24 * c))) / 6,
+            < 2 => (((-b - (6 * c)) * a * a * a) + (((6 * b) + (30 * c)) * a * a) + (((-12 * b) - (48 * c)) * a)
+                + ((8 * b) + (24 * c))) / 6,
             _ => 0,
         };
     };

@@ -5,10 +5,10 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Pixels;
 
-/// <summary>Packs pixels as files have them.</summary>
+/// <summary>Packs pixels into the bits and bytes of files.</summary>
 internal static class BitPacking
 {
-    /// <summary>Numbers of 1, 4 or 8 bits, the first in the highest bits; 2 and 16 work alike.</summary>
+    /// <summary>Packs values of 1, 2, 4 or 8 bits, the first in the highest bits.</summary>
     internal static void Pack(ReadOnlySpan<byte> values, Span<byte> row, int bits)
     {
         if (bits == 8)
@@ -25,7 +25,7 @@ internal static class BitPacking
         }
     }
 
-    /// <summary>Lightness in 1, 2, 4 or 8 bits, black at 0.</summary>
+    /// <summary>Packs grayscale of 1, 2, 4 or 8 bits, black at 0.</summary>
     internal static void Gray(ReadOnlySpan<int> pixels, Span<byte> row, int bits)
     {
         if (bits < 8)
@@ -33,10 +33,10 @@ internal static class BitPacking
             row.Clear();
         }
 
-        int most = (1 << bits) - 1;
+        int max = (1 << bits) - 1;
         for (int i = 0; i < pixels.Length; i++)
         {
-            int level = ((PixelGrid.Luma(pixels[i]) * most) + 127) / 255;
+            int level = ((PixelGrid.Luma(pixels[i]) * max) + 127) / 255;
             if (bits == 8)
             {
                 row[i] = (byte)level;
@@ -48,17 +48,17 @@ internal static class BitPacking
         }
     }
 
-    /// <summary>Red, green and blue, with opacity where there are four samples; perhaps multiplied by it.</summary>
-    internal static void Rgb(ReadOnlySpan<int> pixels, Span<byte> row, int samples, bool multiplied = false)
+    /// <summary>Packs RGB, or RGBA where there are four samples; optionally premultiplied.</summary>
+    internal static void Rgb(ReadOnlySpan<int> pixels, Span<byte> row, int samples, bool premultiplied = false)
     {
-        int done = multiplied ? 0 : RgbInBlocks(pixels, row, samples);
+        int done = premultiplied ? 0 : RgbInBlocks(pixels, row, samples);
         for (int i = done, o = done * samples; i < pixels.Length; i++, o += samples)
         {
             int pixel = pixels[i];
             int alpha = pixel >>> 24;
-            if (multiplied && alpha < 255)
+            if (premultiplied && alpha < 255)
             {
-                pixel = Multiplied(pixel, alpha);
+                pixel = Premultiply(pixel, alpha);
             }
 
             row[o] = (byte)(pixel >> 16);
@@ -71,7 +71,8 @@ internal static class BitPacking
         }
     }
 
-    /// <summary>Packs four pixels at once, as long as sixteen bytes of the row are left; gives how many were packed.</summary>
+    /// <summary>Packs four pixels at once, as long as sixteen bytes of the row are left; returns how many were
+    /// packed.</summary>
     private static int RgbInBlocks(ReadOnlySpan<int> pixels, Span<byte> row, int samples)
     {
         Vector128<byte> order = samples == 4
@@ -87,8 +88,8 @@ internal static class BitPacking
         return i;
     }
 
-    /// <summary>Cyan, magenta, yellow and black.</summary>
-    internal static void Inks(ReadOnlySpan<int> pixels, Span<byte> row)
+    /// <summary>CMYK.</summary>
+    internal static void Cmyk(ReadOnlySpan<int> pixels, Span<byte> row)
     {
         for (int i = 0; i < pixels.Length; i++)
         {
@@ -97,15 +98,15 @@ internal static class BitPacking
         }
     }
 
-    /// <summary>A colour multiplied by its opacity.</summary>
-    internal static int Multiplied(int argb, int alpha)
+    /// <summary>Returns a colour premultiplied by its alpha.</summary>
+    internal static int Premultiply(int argb, int alpha)
     {
         int Part(int shift) => ((((argb >> shift) & 255) * alpha) + 127) / 255 << shift;
         return (alpha << 24) | Part(16) | Part(8) | Part(0);
     }
 
-    /// <summary>A colour freed of the multiplication by its opacity.</summary>
-    internal static int Plain(int argb)
+    /// <summary>Returns a colour without premultiplication.</summary>
+    internal static int Unpremultiply(int argb)
     {
         int alpha = argb >>> 24;
         if (alpha is 255 or 0)
@@ -117,7 +118,7 @@ internal static class BitPacking
         return (alpha << 24) | Part(16) | Part(8) | Part(0);
     }
 
-    /// <summary>One number out of a packed row.</summary>
+    /// <summary>Returns one value of a packed row.</summary>
     internal static int Value(ReadOnlySpan<byte> row, int index, int bits)
     {
         int bit = index * bits;

@@ -7,17 +7,17 @@ using Korvan.CAD.Raster.Codecs;
 
 namespace Korvan.CAD.Raster.Pixels;
 
-/// <summary>Turns rows of bytes into colours, and back: one pair of functions for each form.</summary>
+/// <summary>Converts rows of bytes to colours, and back: one pair of functions for each format.</summary>
 internal class ColorConverters : IColorConverter
 {
-    private readonly Unpacking unpack;
-    private readonly Packing pack;
+    private readonly Unpacking _unpack;
+    private readonly Packing _pack;
 
     private protected ColorConverters(PixelDataFormat format, Unpacking unpack, Packing pack)
     {
         DataFormat = format;
-        this.unpack = unpack;
-        this.pack = pack;
+        _unpack = unpack;
+        _pack = pack;
     }
 
     private protected delegate void Unpacking(ReadOnlySpan<byte> row, Span<int> pixels);
@@ -32,7 +32,8 @@ internal class ColorConverters : IColorConverter
         Verify.NotNegative(pixelCount);
         if (rawData.Length < DataFormat.RowBytes(pixelCount))
         {
-            throw new ArgumentException($"{pixelCount} pixels of {DataFormat} need {DataFormat.RowBytes(pixelCount)} bytes;"
+            throw new ArgumentException(
+                $"{pixelCount} pixels of {DataFormat} need {DataFormat.RowBytes(pixelCount)} bytes;"
                 + $" {rawData.Length} were given.");
         }
 
@@ -49,9 +50,9 @@ internal class ColorConverters : IColorConverter
         return row;
     }
 
-    internal void Unpack(ReadOnlySpan<byte> row, Span<int> pixels) => unpack(row, pixels);
+    internal void Unpack(ReadOnlySpan<byte> row, Span<int> pixels) => _unpack(row, pixels);
 
-    internal void Pack(ReadOnlySpan<int> pixels, Span<byte> row) => pack(pixels, row);
+    internal void Pack(ReadOnlySpan<int> pixels, Span<byte> row) => _pack(pixels, row);
 
     internal static ColorConverters Create(PixelDataFormat format, IColorPalette? palette)
     {
@@ -60,8 +61,8 @@ internal class ColorConverters : IColorConverter
             PixelFormat.Indexed => Indexed(format, palette),
             PixelFormat.Grayscale when format.BitsPerPixel == 16 => new(format, FromGray16, ToGray16),
             PixelFormat.Grayscale => Gray(format),
-            PixelFormat.Cmyk => new(format, FromInks, BitPacking.Inks),
-            PixelFormat.Rgb when format.BitsPerPixel < 24 => Words(format),
+            PixelFormat.Cmyk => new(format, FromCmyk, BitPacking.Cmyk),
+            PixelFormat.Rgb when format.BitsPerPixel < 24 => Packed16(format),
             PixelFormat.Rgb => new(
                 format,
                 static (row, pixels) => FromRgb(row, pixels, 3),
@@ -71,7 +72,10 @@ internal class ColorConverters : IColorConverter
                 format,
                 static (row, pixels) => row[..(pixels.Length * 4)].CopyTo(MemoryMarshal.AsBytes(pixels)),
                 static (pixels, row) => MemoryMarshal.AsBytes(pixels).CopyTo(row)),
-            _ => new(format, static (row, pixels) => FromRgb(row, pixels, 4), static (pixels, row) => BitPacking.Rgb(pixels, row, 4)),
+            _ => new(
+                format,
+                static (row, pixels) => FromRgb(row, pixels, 4),
+                static (pixels, row) => BitPacking.Rgb(pixels, row, 4)),
         };
     }
 
@@ -79,13 +83,13 @@ internal class ColorConverters : IColorConverter
     {
         if (palette == null)
         {
-            throw new FrameworkException($"Pixels of {format} are numbers of colours; give the palette.");
+            throw new FrameworkException($"Pixels of {format} are palette indices; a palette is needed.");
         }
 
         if (palette.EntriesCount > 1 << format.BitsPerPixel)
         {
             throw new FrameworkException(
-                $"The palette has {palette.EntriesCount} colours; {format} numbers {1 << format.BitsPerPixel}.");
+                $"The palette has {palette.EntriesCount} colours; {format} has room for {1 << format.BitsPerPixel}.");
         }
 
         return new IndexedConverter(format, palette);
@@ -94,20 +98,20 @@ internal class ColorConverters : IColorConverter
     private static ColorConverters Gray(PixelDataFormat format)
     {
         int bits = format.BitsPerPixel;
-        int most = (1 << bits) - 1;
+        int max = (1 << bits) - 1;
         return new(
             format,
             (row, pixels) =>
             {
                 for (int i = 0; i < pixels.Length; i++)
                 {
-                    pixels[i] = PixelGrid.Opaque | (BitPacking.Value(row, i, bits) * 255 / most * 0x010101);
+                    pixels[i] = PixelGrid.Opaque | (BitPacking.Value(row, i, bits) * 255 / max * 0x010101);
                 }
             },
             (pixels, row) => BitPacking.Gray(pixels, row, bits));
     }
 
-    private static ColorConverters Words(PixelDataFormat format)
+    private static ColorConverters Packed16(PixelDataFormat format)
     {
         int green = format.ChannelBits[1];
         return new(
@@ -116,28 +120,28 @@ internal class ColorConverters : IColorConverter
             {
                 for (int i = 0; i < pixels.Length; i++)
                 {
-                    pixels[i] = FromWord(BinaryPrimitives.ReadUInt16LittleEndian(row[(2 * i)..]), green);
+                    pixels[i] = FromPacked16(BinaryPrimitives.ReadUInt16LittleEndian(row[(2 * i)..]), green);
                 }
             },
             (pixels, row) =>
             {
                 for (int i = 0; i < pixels.Length; i++)
                 {
-                    BinaryPrimitives.WriteUInt16LittleEndian(row[(2 * i)..], ToWord(pixels[i], green));
+                    BinaryPrimitives.WriteUInt16LittleEndian(row[(2 * i)..], ToPacked16(pixels[i], green));
                 }
             });
     }
 
-    private static int FromWord(int word, int greenBits)
+    private static int FromPacked16(int value, int greenBits)
     {
-        int most = (1 << greenBits) - 1;
-        int red = ((word >> (5 + greenBits)) & 31) * 255 / 31;
-        return PixelGrid.Opaque | (red << 16) | (((word >> 5) & most) * 255 / most << 8) | ((word & 31) * 255 / 31);
+        int max = (1 << greenBits) - 1;
+        int red = ((value >> (5 + greenBits)) & 31) * 255 / 31;
+        return PixelGrid.Opaque | (red << 16) | (((value >> 5) & max) * 255 / max << 8) | ((value & 31) * 255 / 31);
     }
 
-    private static ushort ToWord(int pixel, int greenBits)
+    private static ushort ToPacked16(int pixel, int greenBits)
     {
-        int Level(int shift, int most) => ((((pixel >> shift) & 255) * most) + 127) / 255;
+        int Level(int shift, int max) => ((((pixel >> shift) & 255) * max) + 127) / 255;
         return (ushort)((Level(16, 31) << (5 + greenBits)) | (Level(8, (1 << greenBits) - 1) << 5) | Level(0, 31));
     }
 
@@ -157,7 +161,7 @@ internal class ColorConverters : IColorConverter
         }
     }
 
-    private static void FromInks(ReadOnlySpan<byte> row, Span<int> pixels)
+    private static void FromCmyk(ReadOnlySpan<byte> row, Span<int> pixels)
     {
         for (int i = 0; i < pixels.Length; i++)
         {
@@ -186,7 +190,8 @@ internal class ColorConverters : IColorConverter
     {
         for (int i = 0; i < pixels.Length; i++)
         {
-            (row[3 * i], row[(3 * i) + 1], row[(3 * i) + 2]) = ((byte)pixels[i], (byte)(pixels[i] >> 8), (byte)(pixels[i] >> 16));
+            (row[3 * i], row[(3 * i) + 1], row[(3 * i) + 2]) =
+                ((byte)pixels[i], (byte)(pixels[i] >> 8), (byte)(pixels[i] >> 16));
         }
     }
 
@@ -209,7 +214,7 @@ internal class ColorConverters : IColorConverter
         }
     }
 
-    /// <summary>The same for forms with a palette.</summary>
+    /// <summary>A converter of indexed pixels.</summary>
     private sealed class IndexedConverter(PixelDataFormat format, IColorPalette palette)
         : ColorConverters(
             format,
@@ -218,6 +223,7 @@ internal class ColorConverters : IColorConverter
     {
         public IColorPalette Palette { get; } = palette;
 
-        private static Unpacking Reading(int bits, int[] colors) => (row, pixels) => FromIndices(row, pixels, bits, colors);
+        private static Unpacking Reading(int bits, int[] colors) =>
+            (row, pixels) => FromIndices(row, pixels, bits, colors);
     }
 }

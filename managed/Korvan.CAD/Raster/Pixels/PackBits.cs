@@ -5,7 +5,7 @@ using Korvan.CAD.Raster.Codecs;
 
 namespace Korvan.CAD.Raster.Pixels;
 
-/// <summary>The run lengths of the Macintosh, which PSD and DICOM use.</summary>
+/// <summary>PackBits run-length encoding, as in TIFF 6.0 (section 9), PSD and DICOM.</summary>
 internal static class PackBits
 {
     internal static void Pack(ReadOnlySpan<byte> row, List<byte> packed)
@@ -33,7 +33,7 @@ internal static class PackBits
         }
     }
 
-    /// <summary>Unpacks to the last byte; data may go on behind it.</summary>
+    /// <summary>Unpacks until the target is full; more data may follow.</summary>
     internal static void Unpack(ReadOnlySpan<byte> packed, Span<byte> to)
     {
         int at = 0;

@@ -6,37 +6,38 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD.Raster.Pixels;
 
-/// <summary>A zeroed place for pixels, in memory or in a file, as <see cref="Cache"/> decides.</summary>
+/// <summary>A zeroed buffer of pixels, in memory or in a mapped file, as <see cref="Cache"/> decides.</summary>
 internal sealed unsafe class PixelBlock : IDisposable
 {
-    private readonly long bytes;
-    private readonly bool onDisk;
-    private MemoryMappedFile? file;
-    private MemoryMappedViewAccessor? view;
-    private int* data;
+    private readonly long _bytes;
+    private readonly bool _onDisk;
+    private MemoryMappedFile? _file;
+    private MemoryMappedViewAccessor? _view;
+    private int* _data;
 
     internal PixelBlock(long pixels)
     {
-        bytes = pixels * sizeof(int);
-        onDisk = Cache.Book(bytes);
+        _bytes = pixels * sizeof(int);
+        _onDisk = Cache.Book(_bytes);
         try
         {
-            data = onDisk ? Map() : (int*)NativeMemory.AllocZeroed((nuint)bytes);
+            _data = _onDisk ? Map() : (int*)NativeMemory.AllocZeroed((nuint)_bytes);
         }
         catch (Exception e)
         {
-            Cache.Release(bytes, onDisk);
+            Cache.Release(_bytes, _onDisk);
             GC.SuppressFinalize(this);
-            throw new LimitMemoryException($"There is no room for {bytes} bytes of pixels {(onDisk ? "on disk" : "in memory")}.", e);
+            throw new LimitMemoryException(
+                $"There is no room for {_bytes} bytes of pixels {(_onDisk ? "on disk" : "in memory")}.", e);
         }
 
         // The collector sees only this small object; it has to know what hangs on it.
-        GC.AddMemoryPressure(bytes);
+        GC.AddMemoryPressure(_bytes);
     }
 
     ~PixelBlock() => Free();
 
-    internal int* Data => data;
+    internal int* Data => _data;
 
     public void Dispose()
     {
@@ -46,39 +47,40 @@ internal sealed unsafe class PixelBlock : IDisposable
 
     private int* Map()
     {
-        // Opened and at once without a name: nothing is left behind, however the process ends.
+        // Unlinked at once, so that no file remains, however the process ends.
         string path = Path.Combine(Cache.CacheFolder, $"korvan-{Guid.NewGuid():N}.pixels");
-        var stream = new FileStream(path, FileMode.CreateNew, FileAccess.ReadWrite, FileShare.None, 1, FileOptions.DeleteOnClose);
+        var stream = new FileStream(
+            path, FileMode.CreateNew, FileAccess.ReadWrite, FileShare.None, 1, FileOptions.DeleteOnClose);
         File.Delete(path);
-        stream.SetLength(bytes);
-        file = MemoryMappedFile.CreateFromFile(
-            stream, null, bytes, MemoryMappedFileAccess.ReadWrite, HandleInheritability.None, false);
-        view = file.CreateViewAccessor(0, bytes);
+        stream.SetLength(_bytes);
+        _file = MemoryMappedFile.CreateFromFile(
+            stream, null, _bytes, MemoryMappedFileAccess.ReadWrite, HandleInheritability.None, false);
+        _view = _file.CreateViewAccessor(0, _bytes);
         byte* start = null;
-        view.SafeMemoryMappedViewHandle.AcquirePointer(ref start);
+        _view.SafeMemoryMappedViewHandle.AcquirePointer(ref start);
         return (int*)start;
     }
 
     private void Free()
     {
-        if (data == null)
+        if (_data == null)
         {
             return;
         }
 
-        if (onDisk)
+        if (_onDisk)
         {
-            view!.SafeMemoryMappedViewHandle.ReleasePointer();
-            view.Dispose();
-            file!.Dispose();
+            _view!.SafeMemoryMappedViewHandle.ReleasePointer();
+            _view.Dispose();
+            _file!.Dispose();
         }
         else
         {
-            NativeMemory.Free(data);
+            NativeMemory.Free(_data);
         }
 
-        data = null;
-        Cache.Release(bytes, onDisk);
-        GC.RemoveMemoryPressure(bytes);
+        _data = null;
+        Cache.Release(_bytes, _onDisk);
+        GC.RemoveMemoryPressure(_bytes);
     }
 }

@@ -6,33 +6,31 @@ using Korvan.CAD.Rendering.Devices;
 
 namespace Korvan.CAD.Raster.Pixels;
 
-/// <summary>
-/// Pixels in rows from the top down: 32-bit numbers of opacity, red, green and blue, alpha not multiplied in. In memory
-/// each is blue, green, red, opacity, as codecs call it BGRA.
-/// </summary>
+/// <summary>Pixels in rows from the top down, as 32-bit ARGB values without premultiplication. In memory each is blue,
+/// green, red, alpha (BGRA).</summary>
 internal sealed unsafe class PixelGrid : IDisposable
 {
-    internal const int LargestSide = 65_535;
+    internal const int MaxSide = 65_535;
     internal const long MaxPixels = RasterPage.MaxPixels;
     internal const int Opaque = unchecked((int)0xFF000000);
 
-    private readonly IDisposable owner;
-    private int* data;
+    private readonly IDisposable _owner;
+    private int* _data;
 
     internal PixelGrid(int width, int height)
     {
-        Verify(width, height);
+        VerifySize(width, height);
         var block = new PixelBlock((long)width * height);
-        owner = block;
-        data = block.Data;
+        _owner = block;
+        _data = block.Data;
         (Width, Height) = (width, height);
     }
 
-    /// <summary>Takes pixels over from another owner.</summary>
+    /// <summary>Takes over pixels of another owner.</summary>
     internal PixelGrid(int* data, int width, int height, IDisposable owner)
     {
-        this.owner = owner;
-        this.data = data;
+        _owner = owner;
+        _data = data;
         (Width, Height) = (width, height);
     }
 
@@ -46,31 +44,33 @@ internal sealed unsafe class PixelGrid : IDisposable
     {
         get
         {
-            ObjectDisposedException.ThrowIf(data == null, typeof(Image));
-            return (byte*)data;
+            ObjectDisposedException.ThrowIf(_data == null, this);
+            return (byte*)_data;
         }
     }
 
-    /// <summary>Throws for a size that no grid may have; call it before anything is allocated for a file's claim.</summary>
-    internal static void Verify(long width, long height)
+    /// <summary>Throws for an invalid size; called before anything is allocated for the size that a file
+    /// claims.</summary>
+    internal static void VerifySize(long width, long height)
     {
         if (width < 1 || height < 1)
         {
-            throw new ArgumentOutOfRangeException(null, $"A picture of {width} × {height} pixels has no area.");
+            throw new ArgumentOutOfRangeException(null, $"An image of {width} × {height} pixels has no area.");
         }
 
-        if (width > LargestSide || height > LargestSide || width * height > MaxPixels)
+        if (width > MaxSide || height > MaxSide || width * height > MaxPixels)
         {
-            throw new LimitMemoryException($"A picture of {width} × {height} pixels is too large: at most {LargestSide} pixels"
+            throw new LimitMemoryException(
+                $"An image of {width} × {height} pixels is too large: at most {MaxSide} pixels"
                 + $" on a side and {MaxPixels} in all.");
         }
     }
 
     internal Span<int> Row(int y)
     {
-        ObjectDisposedException.ThrowIf(data == null, typeof(Image));
+        ObjectDisposedException.ThrowIf(_data == null, this);
         ArgumentOutOfRangeException.ThrowIfGreaterThanOrEqual((uint)y, (uint)Height, nameof(y));
-        return new Span<int>(data + ((long)y * Width), Width);
+        return new Span<int>(_data + ((long)y * Width), Width);
     }
 
     internal Span<byte> Bytes(int y) => MemoryMarshal.AsBytes(Row(y));
@@ -96,13 +96,13 @@ internal sealed unsafe class PixelGrid : IDisposable
 
     internal PixelGrid Copy() => Copy(new Rectangle(0, 0, Width, Height));
 
-    /// <summary>Makes a part the whole, without a new place.</summary>
+    /// <summary>Crops without a new allocation.</summary>
     internal void CropInPlace(Rectangle area)
     {
         // Rows move towards the start only, so none is overwritten before it was moved.
         for (int y = 0; y < area.Height; y++)
         {
-            Row(area.Y + y).Slice(area.X, area.Width).CopyTo(new Span<int>(data + ((long)y * area.Width), area.Width));
+            Row(area.Y + y).Slice(area.X, area.Width).CopyTo(new Span<int>(_data + ((long)y * area.Width), area.Width));
         }
 
         (Width, Height) = (area.Width, area.Height);
@@ -112,7 +112,7 @@ internal sealed unsafe class PixelGrid : IDisposable
     {
         for (int y = 0; y < Height; y++)
         {
-            if (!AllHave(Row(y), Opaque))
+            if (!AllHaveBits(Row(y), Opaque))
             {
                 return false;
             }
@@ -139,13 +139,13 @@ internal sealed unsafe class PixelGrid : IDisposable
         return true;
     }
 
-    /// <summary>Lays the pixels over a colour, so that all of them are opaque.</summary>
+    /// <summary>Composites the pixels over a colour, so that all of them are opaque.</summary>
     internal void Flatten(int background)
     {
         for (int y = 0; y < Height; y++)
         {
             Span<int> row = Row(y);
-            if (AllHave(row, Opaque))
+            if (AllHaveBits(row, Opaque))
             {
                 continue;
             }
@@ -157,7 +157,7 @@ internal sealed unsafe class PixelGrid : IDisposable
         }
     }
 
-    /// <summary>A colour over an opaque one.</summary>
+    /// <summary>Returns a colour composited over an opaque one.</summary>
     internal static int Over(int argb, int background)
     {
         int alpha = (int)((uint)argb >> 24);
@@ -166,21 +166,22 @@ internal sealed unsafe class PixelGrid : IDisposable
             return argb;
         }
 
-        int Mix(int shift) => ((((argb >> shift) & 255) * alpha) + (((background >> shift) & 255) * (255 - alpha)) + 127) / 255;
+        int Mix(int shift) =>
+            ((((argb >> shift) & 255) * alpha) + (((background >> shift) & 255) * (255 - alpha)) + 127) / 255;
         return Opaque | (Mix(16) << 16) | (Mix(8) << 8) | Mix(0);
     }
 
-    /// <summary>Lightness of 0 to 255 by the weights of ITU-R BT.601.</summary>
+    /// <summary>Returns the luma, 0 to 255, by the weights of ITU-R BT.601.</summary>
     internal static int Luma(int argb) =>
         ((((argb >> 16) & 255) * 19595) + (((argb >> 8) & 255) * 38470) + ((argb & 255) * 7471) + 32768) >> 16;
 
     public void Dispose()
     {
-        data = null;
-        owner.Dispose();
+        _data = null;
+        _owner.Dispose();
     }
 
-    private static bool AllHave(ReadOnlySpan<int> row, int bits)
+    private static bool AllHaveBits(ReadOnlySpan<int> row, int bits)
     {
         int all = -1;
         int i = 0;

@@ -3,7 +3,7 @@ using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD.Raster.Pixels;
 
-/// <summary>Blocks of pixels as bytes.</summary>
+/// <summary>Packs and unpacks blocks of pixels in a pixel format.</summary>
 internal static class RawData
 {
     internal static byte[] Pack(PixelGrid pixels, Rectangle area, RawDataSettings settings)
@@ -26,7 +26,8 @@ internal static class RawData
         long needed = ((long)settings.LineSize * (area.Height - 1)) + rowBytes;
         if (data.Length < needed)
         {
-            throw new ArgumentException($"{area.Width} × {area.Height} pixels in rows of {settings.LineSize} bytes need {needed}"
+            throw new ArgumentException(
+                $"{area.Width} × {area.Height} pixels in rows of {settings.LineSize} bytes need {needed}"
                 + $" bytes; {data.Length} were given.");
         }
 

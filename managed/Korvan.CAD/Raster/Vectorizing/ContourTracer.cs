@@ -4,31 +4,30 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Raster.Vectorizing;
 
-/// <summary>
-/// Follows the edges between dark and light pixels. Ink lies to the left of the way, so that outlines run
-/// counterclockwise where y runs up, and holes clockwise. Pixels that touch by a corner alone count as joined.
-/// </summary>
+/// <summary>Traces contours between foreground and background pixels. The foreground lies to the left, so that outlines
+/// run counterclockwise where y points up, and holes clockwise. Pixels that touch only at a corner count as
+/// connected.</summary>
 internal sealed class ContourTracer
 {
-    // Directions in order of right turns where y runs down: east, south, west, north.
+    // Directions in order of right turns where y points down: east, south, west, north.
     private static readonly int[] StepX = [1, 0, -1, 0];
     private static readonly int[] StepY = [0, 1, 0, -1];
 
-    private readonly InkMask _mask;
+    private readonly ForegroundMask _mask;
     private readonly int _stride;
 
-    /// <summary>For each corner of pixels the edges that leave it and were not walked yet, a bit for each direction.</summary>
+    /// <summary>For each pixel corner the outgoing edges that are not yet traced, a bit for each direction.</summary>
     private readonly byte[] _edges;
 
-    private ContourTracer(InkMask mask)
+    private ContourTracer(ForegroundMask mask)
     {
         _mask = mask;
         _stride = mask.Width + 1;
         _edges = new byte[_stride * (mask.Height + 1)];
     }
 
-    /// <summary>Every outline as corners of pixels, y down, without those on straight ways.</summary>
-    internal static IEnumerable<List<Vec2>> Trace(InkMask mask)
+    /// <summary>Returns every contour as pixel corners, y down, without collinear ones.</summary>
+    internal static IEnumerable<List<Vec2>> Trace(ForegroundMask mask)
     {
         var tracer = new ContourTracer(mask);
         tracer.FindEdges();
@@ -58,7 +57,7 @@ internal sealed class ContourTracer
                     continue;
                 }
 
-                // Around a pixel with its ink on the left where y runs up: down its left side, and so on.
+                // Around a pixel with the foreground on the left where y points up: down its left side, and so on.
                 int corner = (y * _stride) + x;
                 _edges[corner] |= cells[cell - 1] == 0 ? (byte)south : (byte)0;
                 _edges[corner + _stride] |= cells[cell + _mask.Stride] == 0 ? (byte)east : (byte)0;
@@ -89,7 +88,8 @@ internal sealed class ContourTracer
         return corners;
     }
 
-    /// <summary>The way on. Where two pixels touch by a corner, a turn away from the ink joins them.</summary>
+    /// <summary>Returns the next direction. Where two pixels touch at a corner, a turn away from the foreground
+    /// connects them.</summary>
     private static int Choose(byte edges, int direction)
     {
         if (direction < 0)
@@ -97,7 +97,7 @@ internal sealed class ContourTracer
             return int.TrailingZeroCount(edges);
         }
 
-        // A right turn where y runs down leads along the other pixel.
+        // A right turn where y points down leads along the other pixel.
         foreach (int turn in (ReadOnlySpan<int>)[1, 0, 3])
         {
             int next = (direction + turn) % 4;
@@ -107,6 +107,6 @@ internal sealed class ContourTracer
             }
         }
 
-        throw new InvalidOperationException("An outline has no way on.");
+        throw new InvalidOperationException("A contour is not closed.");
     }
 }

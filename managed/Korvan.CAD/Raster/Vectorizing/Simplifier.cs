@@ -4,7 +4,7 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Raster.Vectorizing;
 
-/// <summary>Leaves out points that a line comes near to without them (Ramer, 1972; Douglas and Peucker, 1973).</summary>
+/// <summary>Polyline simplification (U. Ramer, 1972; D. Douglas and T. Peucker, 1973).</summary>
 internal static class Simplifier
 {
     internal static List<Vec2> Open(List<Vec2> points, double tolerance)
@@ -20,7 +20,8 @@ internal static class Simplifier
         return points.FindAll(new Picker(kept).Next);
     }
 
-    /// <summary>A ring without its first point at the end; it is cut where it is farthest from its first point.</summary>
+    /// <summary>Simplifies a closed polyline, which does not repeat its first point; it is split at the point farthest
+    /// from the first.</summary>
     internal static List<Vec2> Ring(List<Vec2> points, double tolerance)
     {
         if (points.Count < 4)
@@ -50,11 +51,11 @@ internal static class Simplifier
         while (open.TryPop(out (int First, int Last) part))
         {
             int farthest = -1;
-            double most = tolerance;
+            double max = tolerance;
             for (int i = part.First + 1; i < part.Last; i++)
             {
                 double distance = Distance(points[i], points[part.First], points[part.Last]);
-                (farthest, most) = distance > most ? (i, distance) : (farthest, most);
+                (farthest, max) = distance > max ? (i, distance) : (farthest, max);
             }
 
             if (farthest >= 0)

@@ -4,23 +4,21 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Raster.Vectorizing;
 
-/// <summary>A stroke: points in the middle of pixels, y down, and its mean width in pixels.</summary>
+/// <summary>A stroke: points at pixel centres, y down, and its mean width in pixels.</summary>
 internal sealed record TracedStroke(List<Vec2> Points, double Width, bool IsClosed);
 
-/// <summary>
-/// Thins strokes to lines of one pixel (T. Y. Zhang and C. Y. Suen, A fast parallel algorithm for thinning digital
-/// patterns, 1984) and follows these from end to end and from junction to junction.
-/// </summary>
+/// <summary>Thins strokes to lines of one pixel (T. Y. Zhang and C. Y. Suen, "A fast parallel algorithm for thinning
+/// digital patterns", 1984) and follows them between ends and junctions.</summary>
 internal sealed class Skeleton
 {
-    private const int MostRounds = 200;
+    private const int MaxRounds = 200;
 
-    private readonly InkMask _mask;
+    private readonly ForegroundMask _mask;
     private readonly int[] _around;
     private readonly ushort[] _depth;
     private readonly HashSet<(int, int)> _walked = [];
 
-    private Skeleton(InkMask mask)
+    private Skeleton(ForegroundMask mask)
     {
         _mask = mask;
         int s = mask.Stride;
@@ -28,17 +26,16 @@ internal sealed class Skeleton
         _depth = Depths(mask);
     }
 
-    /// <summary>The strokes; spurs with a free end that are shorter than what is asked for are left out. The mask is
-    /// used up.</summary>
-    internal static List<TracedStroke> Trace(InkMask mask, double leastSpur)
+    /// <summary>Returns the strokes without spurs below a length. The mask is consumed.</summary>
+    internal static List<TracedStroke> Trace(ForegroundMask mask, double minSpur)
     {
         var skeleton = new Skeleton(mask);
         skeleton.Thin();
-        return skeleton.Follow(leastSpur);
+        return skeleton.Follow(minSpur);
     }
 
-    /// <summary>How many steps each dark pixel lies from the next light one (chessboard distance, two passes).</summary>
-    private static ushort[] Depths(InkMask mask)
+    /// <summary>Returns the chessboard distance of each foreground pixel from the background, in two passes.</summary>
+    private static ushort[] Depths(ForegroundMask mask)
     {
         ReadOnlySpan<byte> cells = mask.Cells;
         var depth = new ushort[cells.Length];
@@ -61,47 +58,47 @@ internal sealed class Skeleton
     private void Thin()
     {
         Span<byte> cells = _mask.Cells;
-        List<int> ink = [];
+        List<int> foreground = [];
         for (int i = 0; i < cells.Length; i++)
         {
             if (cells[i] != 0)
             {
-                ink.Add(i);
+                foreground.Add(i);
             }
         }
 
-        List<int> gone = [];
-        for (int round = 0; round < MostRounds; round++)
+        List<int> removed = [];
+        for (int round = 0; round < MaxRounds; round++)
         {
-            int before = ink.Count;
+            int before = foreground.Count;
             for (int phase = 0; phase < 2; phase++)
             {
-                gone.Clear();
-                foreach (int cell in ink)
+                removed.Clear();
+                foreach (int cell in foreground)
                 {
-                    if (CanGo(cells, cell, phase))
+                    if (IsRemovable(cells, cell, phase))
                     {
-                        gone.Add(cell);
+                        removed.Add(cell);
                     }
                 }
 
-                foreach (int cell in gone)
+                foreach (int cell in removed)
                 {
                     cells[cell] = 0;
                 }
 
-                ink.RemoveAll(cell => _mask.Cells[cell] == 0);
+                foreground.RemoveAll(cell => _mask.Cells[cell] == 0);
             }
 
-            if (ink.Count == before)
+            if (foreground.Count == before)
             {
                 return;
             }
         }
     }
 
-    /// <summary>The conditions of the method: neighbours p2 to p9 run clockwise from above.</summary>
-    private bool CanGo(ReadOnlySpan<byte> cells, int cell, int phase)
+    /// <summary>Returns whether a pixel can be removed; neighbours p2 to p9 run clockwise from above.</summary>
+    private bool IsRemovable(ReadOnlySpan<byte> cells, int cell, int phase)
     {
         int count = 0;
         int changes = 0;
@@ -117,13 +114,14 @@ internal sealed class Skeleton
             return false;
         }
 
-        int up = cells[cell + _around[0]], right = cells[cell + _around[2]], down = cells[cell + _around[4]], left = cells[cell + _around[6]];
+        (int up, int right) = (cells[cell + _around[0]], cells[cell + _around[2]]);
+        (int down, int left) = (cells[cell + _around[4]], cells[cell + _around[6]]);
         return phase == 0
             ? up * right * down == 0 && right * down * left == 0
             : up * right * left == 0 && up * down * left == 0;
     }
 
-    private List<TracedStroke> Follow(double leastSpur)
+    private List<TracedStroke> Follow(double minSpur)
     {
         List<TracedStroke> strokes = [];
         Span<byte> cells = _mask.Cells;
@@ -131,11 +129,11 @@ internal sealed class Skeleton
         {
             for (int i = 0; i < cells.Length; i++)
             {
-                // Ends and junctions first; what is left then are rings.
+                // Ends and junctions first; closed loops remain.
                 while (cells[i] == 1 && (pass == 1 || Neighbours(i) != 2) && Walk(i) is { } line)
                 {
                     bool free = !line.IsClosed && (line.StartsFree || line.EndsFree);
-                    if (!free || Length(line.Cells) >= leastSpur)
+                    if (!free || Length(line.Cells) >= minSpur)
                     {
                         strokes.Add(Stroke(line.Cells, line.IsClosed));
                     }
@@ -157,11 +155,12 @@ internal sealed class Skeleton
         return count;
     }
 
-    /// <summary>A diagonal beside a straight neighbour of both ends says nothing new.</summary>
+    /// <summary>Returns whether a diagonal step is redundant: a straight neighbour joins both ends.</summary>
     private bool IsShortcut(int cell, int step)
     {
         int s = _mask.Stride;
-        foreach ((int diagonal, int across, int along) in (ReadOnlySpan<(int, int, int)>)[(-s + 1, 1, -s), (s + 1, 1, s), (s - 1, -1, s), (-s - 1, -1, -s)])
+        ReadOnlySpan<(int, int, int)> diagonals = [(-s + 1, 1, -s), (s + 1, 1, s), (s - 1, -1, s), (-s - 1, -1, -s)];
+        foreach ((int diagonal, int across, int along) in diagonals)
         {
             if (step == diagonal)
             {
@@ -172,10 +171,10 @@ internal sealed class Skeleton
         return false;
     }
 
-    private sealed record Way(List<int> Cells, bool IsClosed, bool StartsFree, bool EndsFree);
+    private sealed record TracedPath(List<int> Cells, bool IsClosed, bool StartsFree, bool EndsFree);
 
-    /// <summary>Follows one way that was not walked yet; null when there is none from here.</summary>
-    private Way? Walk(int start)
+    /// <summary>Follows one path that is not yet traced; null where there is none.</summary>
+    private TracedPath? Walk(int start)
     {
         List<int> line = [start];
         int next = Unwalked(start);
@@ -186,7 +185,8 @@ internal sealed class Skeleton
             next = next == start || Neighbours(next) != 2 ? -1 : Unwalked(next);
         }
 
-        return line.Count < 2 ? null : new Way(line, line[^1] == start, Neighbours(start) == 1, Neighbours(line[^1]) == 1);
+        return line.Count < 2
+            ? null : new TracedPath(line, line[^1] == start, Neighbours(start) == 1, Neighbours(line[^1]) == 1);
     }
 
     private int Unwalked(int cell)
@@ -194,7 +194,8 @@ internal sealed class Skeleton
         foreach (int step in _around)
         {
             int next = cell + step;
-            if (_mask.Cells[next] != 0 && !IsShortcut(cell, step) && !_walked.Contains((Math.Min(cell, next), Math.Max(cell, next))))
+            if (_mask.Cells[next] != 0 && !IsShortcut(cell, step)
+                && !_walked.Contains((Math.Min(cell, next), Math.Max(cell, next))))
             {
                 return next;
             }

@@ -7,17 +7,18 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Vectorizing;
 
-/// <summary>Makes a drawing of a picture.</summary>
+/// <summary>Converts an image to a drawing.</summary>
 internal sealed class Vectorizer
 {
     private const double MillimetresPerInch = 25.4;
-    private const double UsualResolution = 96;
+    private const double DefaultResolution = 96;
     private const int Millimetres = 4;
 
-    /// <summary>The line weights that drawings can have, in hundredths of a millimetre.</summary>
+    /// <summary>The standard line weights of drawings, in hundredths of a millimetre.</summary>
     private static readonly short[] Weights =
         [0, 5, 9, 13, 15, 18, 20, 25, 30, 35, 40, 50, 53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211];
 
@@ -26,32 +27,36 @@ internal sealed class Vectorizer
     private readonly double _unit;
     private readonly int _height;
 
-    private Vectorizer(RasterImage picture, VectorizationOptions options)
+    private Vectorizer(PixelGrid pixels, double statedResolution, VectorizationOptions options)
     {
         _options = options;
-        double resolution = options.DotsPerInch > 0 ? options.DotsPerInch : picture.HorizontalResolution;
-        _unit = MillimetresPerInch / (resolution > 0 ? resolution : UsualResolution);
-        _height = picture.Height;
+        double resolution = options.DotsPerInch > 0 ? options.DotsPerInch : statedResolution;
+        _unit = MillimetresPerInch / (resolution > 0 ? resolution : DefaultResolution);
+        _height = pixels.Height;
         _drawing.Header.InsUnits = Millimetres;
     }
 
-    internal static CadDrawing Trace(RasterImage picture, VectorizationOptions options)
+    /// <summary>Traces pixels.</summary>
+    /// <param name="pixels">The pixels.</param>
+    /// <param name="resolution">Pixels per inch, used where the options state none.</param>
+    /// <param name="options">The methods and tolerances.</param>
+    internal static CadDrawing Trace(PixelGrid pixels, double resolution, VectorizationOptions options)
     {
-        var tracer = new Vectorizer(picture, options);
+        var tracer = new Vectorizer(pixels, resolution, options);
         if ((options.Method & VectorizationMethod.Contour) != 0)
         {
-            tracer.AddContours(InkMask.Of(picture.Pixels, options.Threshold));
+            tracer.AddContours(ForegroundMask.FromPixels(pixels, options.Threshold));
         }
 
         if ((options.Method & VectorizationMethod.PaperToCad) != 0)
         {
-            tracer.AddStrokes(InkMask.Of(picture.Pixels, options.Threshold));
+            tracer.AddStrokes(ForegroundMask.FromPixels(pixels, options.Threshold));
         }
 
         return tracer._drawing;
     }
 
-    private void AddContours(InkMask mask)
+    private void AddContours(ForegroundMask mask)
     {
         ContourOptions options = _options.ContourOptions;
         var hatch = new CadHatch { LayerName = _options.LayerName };
@@ -73,12 +78,13 @@ internal sealed class Vectorizer
         }
     }
 
-    private void AddStrokes(InkMask mask)
+    private void AddStrokes(ForegroundMask mask)
     {
         PaperToCadOptions options = _options.PaperToCadOptions;
         foreach (TracedStroke stroke in Skeleton.Trace(mask, options.MinimumLength))
         {
-            List<Vec2> line = stroke.IsClosed ? Simplifier.Ring(stroke.Points, options.Tolerance) : Simplifier.Open(stroke.Points, options.Tolerance);
+            List<Vec2> line = stroke.IsClosed
+                ? Simplifier.Ring(stroke.Points, options.Tolerance) : Simplifier.Open(stroke.Points, options.Tolerance);
             double hundredths = stroke.Width * _unit * 100;
             short weight = Weights.MinBy(one => Math.Abs(one - hundredths));
             Add(line.ConvertAll(Placed), stroke.IsClosed, options.KeepLineWeights ? weight : (short)-1);

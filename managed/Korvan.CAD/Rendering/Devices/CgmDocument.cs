@@ -38,7 +38,7 @@ internal sealed class CgmDocument : MetafilePlayer
     private Rgba? _fill;
 
     private CgmDocument(TextEngine engine, Page page, CgmOptions options, double unitsPerPoint)
-        : base(engine, page, options.Notes, unitsPerPoint)
+        : base(engine, page, page.Notes, unitsPerPoint)
     {
         _options = options;
         _unitsPerPoint = unitsPerPoint;

@@ -3,6 +3,7 @@ using System.Collections.Generic;
 using System.Globalization;
 using System.IO;
 using System.Text;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
@@ -28,7 +29,7 @@ internal sealed class EmfDocument : MetafilePlayer
     private bool? _evenOdd;
 
     private EmfDocument(TextEngine engine, Page page, EmfOptions options)
-        : base(engine, page, options.Notes, UnitsPerPoint)
+        : base(engine, page, page.Notes, UnitsPerPoint)
     {
         _textAsShapes = options.TextAsShapes;
     }

@@ -4,6 +4,7 @@ using System.Globalization;
 using System.IO;
 using System.Text;
 using System.Text.Encodings.Web;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
@@ -59,7 +60,7 @@ internal sealed class HtmlCanvasDocument : PagePlayer
     private LineLook _look = NoLook;
 
     private HtmlCanvasDocument(TextEngine engine, Page page, Html5Options options)
-        : base(engine, page, options.Notes)
+        : base(engine, page, page.Notes)
     {
         _options = options;
     }

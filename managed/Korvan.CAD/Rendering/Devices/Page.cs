@@ -7,6 +7,9 @@ internal sealed record Page(string Name, double Width, double Height, DrawingLis
 {
     /// <summary>What is drawn over the page, in device units.</summary>
     internal DrawingList? Overlay { get; init; }
+
+    /// <summary>What a device notes that it could not draw as it is.</summary>
+    internal RenderNotes Notes { get; init; } = new();
 }
 
 /// <summary>What a document says of itself.</summary>

@@ -20,7 +20,7 @@ internal static class PngEncoder
     internal static void Write(int width, int height, PixelRow rows, Stream output, int compressionLevel, double pixelsPerInch)
     {
         bool opaque = IsOpaque(height, rows);
-        var head = new PngHead(width, height, 8, opaque ? PngColorType.Truecolor : PngColorType.TruecolorWithAlpha);
+        var head = new PngHeader(width, height, 8, opaque ? PngColorType.Truecolor : PngColorType.TruecolorWithAlpha);
         PngStream.Begin(output, head, pixelsPerInch, pixelsPerInch);
         PngStream.WriteRows(
             output, head, PngFilterType.Up, compressionLevel, (y, row) => Convert(rows(y), row, opaque ? 3 : 4));

@@ -85,7 +85,7 @@ internal sealed unsafe class RasterPage : IDisposable
         {
             foreach (ref int pixel in grid.Row(y))
             {
-                pixel = (pixel & PixelGrid.Opaque) == PixelGrid.Opaque ? pixel : BitPacking.Plain(pixel);
+                pixel = (pixel & PixelGrid.Opaque) == PixelGrid.Opaque ? pixel : BitPacking.Unpremultiply(pixel);
             }
         }
 

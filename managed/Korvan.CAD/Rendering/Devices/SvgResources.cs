@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Text;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.ImageOptions.SvgOptionsParameters;
 using Korvan.CAD.Raster;
@@ -74,7 +75,7 @@ internal sealed class SvgResources(SvgOptions options)
     {
         using PixelGrid grid = ToGrid(image);
         using var output = new MemoryStream();
-        RasterSaver.Write(grid, encoder, output);
+        RasterCodecs.Write(grid, encoder, output);
         return output.ToArray();
     }
 

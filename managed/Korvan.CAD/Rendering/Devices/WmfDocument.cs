@@ -3,6 +3,7 @@ using System.Collections.Generic;
 using System.Globalization;
 using System.IO;
 
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
@@ -28,7 +29,7 @@ internal sealed class WmfDocument : MetafilePlayer
     private bool? _evenOdd;
 
     private WmfDocument(TextEngine engine, Page page, WmfOptions options, double unitsPerPoint)
-        : base(engine, page, options.Notes, unitsPerPoint)
+        : base(engine, page, page.Notes, unitsPerPoint)
     {
         _textAsShapes = options.TextAsShapes;
     }

@@ -48,32 +48,32 @@ internal sealed class DrawingMeshes
     /// <summary>The scene of a drawing: in drawing order, or by layer and colour in as few meshes as there can
     /// be.</summary>
     internal static Scene3D.Scene Read(
-        CadDrawing drawing, ImageOptionsBase? options, bool mergeLayers = false, bool doubleSided = true)
+        CadDrawing drawing, ExportContext? context, MeshRequest request)
     {
-        RenderStyle style = options is null
+        RenderStyle style = context is null
             ? new RenderStyle()
-            : new ExportOptions(options, DeviceKind.UserUnits, 1).Style();
+            : new ExportOptions(context, DeviceKind.UserUnits, 1).Style();
         DrawingScene read = SceneReader.Read(drawing);
-        var walk = new DrawingMeshes(read.Tables, style, mergeLayers, doubleSided);
+        var walk = new DrawingMeshes(read.Tables, style, request.MergeLayers, request.DoubleSided);
         Content content = walk.ContentOf(read.Model, new BlockContext { Map = Affine3.Identity });
-        walk.AddNotes(options);
+        walk.AddNotes(context?.Notes);
         var scene = new Scene3D.Scene { MillimetresPerUnit = LengthUnits.Millimetres(drawing.UnitType) };
         scene.Roots.AddRange(content.Nodes);
         return scene;
     }
 
-    private void AddNotes(ImageOptionsBase? options)
+    private void AddNotes(RenderNotes? notes)
     {
         if (_farFaces > 0)
         {
             const string what = "faces too far out for numbers of single precision";
-            options?.Notes.Add(RenderErrorCode.EntityNotDrawn, what, _farFaces);
+            notes?.Add(RenderErrorCode.EntityNotDrawn, what, _farFaces);
         }
 
         if (_tangledFaces > 0)
         {
             const string what = "faces whose outline crosses itself too often";
-            options?.Notes.Add(RenderErrorCode.EntityNotDrawn, what, _tangledFaces);
+            notes?.Add(RenderErrorCode.EntityNotDrawn, what, _tangledFaces);
         }
     }
 

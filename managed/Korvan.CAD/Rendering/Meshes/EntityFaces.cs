@@ -23,9 +23,9 @@ internal sealed class EntityFaces : IGeometrySink
     /// <summary>Adds the faces of an entity. One without faces, or whose corners are missing, adds none.</summary>
     internal static void Add(CadEntityBase entity, MeshBuilder mesh, int circleSides)
     {
-        if (!EntityGeometry.Emit(entity, new EntityFaces(mesh, circleSides)) && entity.TypeNameText == "MESH")
+        if (!EntityGeometry.Emit(entity, new EntityFaces(mesh, circleSides)) && entity is CadMesh subdivided)
         {
-            foreach (Vec3[] face in SubdivisionCage.Read(new TagCursor(entity.UnknownCodes)).Faces())
+            foreach (Vec3[] face in SubdivisionCage.Read(subdivided).Faces())
             {
                 mesh.Add(face);
             }

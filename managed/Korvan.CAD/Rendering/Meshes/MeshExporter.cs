@@ -1,18 +1,13 @@
 using System.IO;
-using System.Linq;
-using Korvan.CAD.Binding;
-using Korvan.CAD.DisplayList;
-using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.Rendering.Meshes;
 
-/// <summary>Writes the faces of a drawing in formats that hold nothing else.</summary>
+/// <summary>Writes scenes in formats that hold meshes and nothing else.</summary>
 internal static class MeshExporter
 {
-    internal static void WriteStl(CadDrawing drawing, StlOptions options, Stream output)
+    internal static void WriteStl(Scene3D.Scene scene, StlOptions options, Stream output)
     {
-        Scene3D.Scene scene = Read(drawing, options);
         if (options.Binary)
         {
             StlWriter.WriteBinary(scene, output);
@@ -23,12 +18,12 @@ internal static class MeshExporter
         }
     }
 
-    internal static void WriteObj(CadDrawing drawing, ObjOptions options, Stream output) =>
-        ObjWriter.Write(Read(drawing, options, mergeLayers: true), options.Precision, output);
+    internal static void WriteObj(Scene3D.Scene scene, ObjOptions options, Stream output) =>
+        ObjWriter.Write(scene, options.Precision, output);
 
-    internal static void WriteGltf(CadDrawing drawing, GlbGltfOptionsBase options, Stream output)
+    internal static void WriteGltf(Scene3D.Scene scene, GlbGltfOptionsBase options, Stream output)
     {
-        var writer = new GltfWriter(Read(drawing, options, options.MergeLayers, options.DoubleSided));
+        var writer = new GltfWriter(scene);
         if (options is GltfOptions text)
         {
             writer.WriteText(output, text.Indented);
@@ -37,19 +32,5 @@ internal static class MeshExporter
         {
             writer.WriteBinary(output);
         }
-    }
-
-    private static Scene3D.Scene Read(
-        CadDrawing drawing, ImageOptionsBase options, bool mergeLayers = false, bool doubleSided = true)
-    {
-        Scene3D.Scene scene = DrawingMeshes.Read(drawing, options, mergeLayers, doubleSided);
-        if (!scene.Instances().Any())
-        {
-            throw new RenderException(
-                $"The drawing has no faces that show, and a file of the format {Verify.NameOf(options.TargetFormat)} "
-                    + "holds nothing else: neither faces, meshes and solids nor anything that has a thickness.");
-        }
-
-        return scene;
     }
 }

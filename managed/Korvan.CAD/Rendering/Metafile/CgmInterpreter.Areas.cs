@@ -7,7 +7,7 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Metafile;
 
-/// <content>Areas, and the figures, lines and regions that several elements make together.</content>
+/// <content>Areas, and the figures, compound lines and regions that several elements form.</content>
 internal sealed partial class CgmInterpreter
 {
     private readonly PathBuffer _figure = new();
@@ -16,7 +16,7 @@ internal sealed partial class CgmInterpreter
     private int _regionIndex;
     private bool _connects;
 
-    /// <summary>What lines and areas become parts of, instead of being drawn.</summary>
+    /// <summary>What collects lines and areas instead of drawing them.</summary>
     private enum Collecting
     {
         Nothing,
@@ -36,7 +36,9 @@ internal sealed partial class CgmInterpreter
         On<EllipseElement>(d, static (i, x) => i.DrawEllipse(V(x.Centre), V(x.FirstRadiusEnd), V(x.SecondRadiusEnd)));
         On<CircularArc3PointClose>(d, static (i, x) => i.DrawClosedThrough(x));
         On<CircularArcCentreClose>(d, static (i, x) => i.DrawClosedArc(
-            ConicArcs.Between(V(x.Centre), new Vec2(x.StartX, x.StartY), new Vec2(x.EndX, x.EndY), x.Radius, clockwise: false), x.Closure));
+            ConicArcs.Between(
+                V(x.Centre), new Vec2(x.StartX, x.StartY), new Vec2(x.EndX, x.EndY), x.Radius, clockwise: false),
+            x.Closure));
         On<EllipticalArcClose>(d, static (i, x) => i.DrawClosedEllipticalArc(x));
         On<BeginFigure>(d, static (i, _) => i.BeginCollecting(Collecting.Figure, 0));
         On<NewRegion>(d, static (i, _) => i.CloseRegion());
@@ -138,7 +140,7 @@ internal sealed partial class CgmInterpreter
     private void DrawClosedEllipticalArc(EllipticalArcClose x)
     {
         PathPen pen = NewPath();
-        AddEllipticalArc(pen, V(x.Centre), V(x.FirstRadiusEnd), V(x.SecondRadiusEnd), new Vec2(x.StartX, x.StartY), new Vec2(x.EndX, x.EndY));
+        AddEllipticalArc(pen, x);
         Close(pen, V(x.Centre), x.Closure);
     }
 
@@ -185,7 +187,7 @@ internal sealed partial class CgmInterpreter
         _edges.AppendMapped(edges ?? _path, Affine3.Identity, 0);
     }
 
-    /// <summary>Adds a line to a path: where it begins elsewhere, a line leads there, or a new piece begins.</summary>
+    /// <summary>Adds a line to a path; a gap between them is joined or starts a new subpath.</summary>
     private static void Join(PathBuffer target, PathBuffer line, bool joins)
     {
         ReadOnlySpan<double> c = line.Coords;
@@ -214,7 +216,8 @@ internal sealed partial class CgmInterpreter
                     at += 2;
                     break;
                 case PathVerb.Curve:
-                    target.CurveTo(new Vec2(c[at], c[at + 1]), new Vec2(c[at + 2], c[at + 3]), new Vec2(c[at + 4], c[at + 5]));
+                    target.CurveTo(
+                        new Vec2(c[at], c[at + 1]), new Vec2(c[at + 2], c[at + 3]), new Vec2(c[at + 4], c[at + 5]));
                     at += 6;
                     break;
                 default:
@@ -274,6 +277,6 @@ internal sealed partial class CgmInterpreter
     private void EndTextPath()
     {
         EndCollecting(Collecting.TextPath);
-        Skip("path of texts, which are drawn straight");
+        Skip("compound text path; its texts are drawn straight");
     }
 }

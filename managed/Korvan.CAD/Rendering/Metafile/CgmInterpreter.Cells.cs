@@ -9,10 +9,10 @@ using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Rendering.Metafile;
 
-/// <content>Pictures of cells, whole or in tiles.</content>
+/// <content>Images of cells, whole or in tiles.</content>
 internal sealed partial class CgmInterpreter
 {
-    /// <summary>Cells of one tile; a picture of more is refused rather than allocated.</summary>
+    /// <summary>Cells of one tile; larger tiles are left out rather than allocated.</summary>
     private const long MaxCells = 100_000_000;
 
     private BeginTileArray? _tiles;
@@ -22,15 +22,18 @@ internal sealed partial class CgmInterpreter
     {
         On<CellArray>(d, static (i, x) => i.DrawCells(x));
         On<BeginTileArray>(d, static (i, x) => (i._tiles, i._nextTile) = (x, 0));
-        On<BitonalTile>(d, static (i, x) => i.DrawTile(x, picture => TilePictures.Bitonal(picture, i.ColorOf(x.Background), i.ColorOf(x.Foreground))));
-        On<Tile>(d, static (i, x) => i.DrawTile(x, picture => TilePictures.Coloured(i.Packed(picture, x), i.CellColor)));
+        On<BitonalTile>(d, static (i, x) => i.DrawTile(
+            x, tile => TileImages.Bitonal(tile, i.ColorOf(x.Background), i.ColorOf(x.Foreground))));
+        On<Tile>(d, static (i, x) => i.DrawTile(x, tile => TileImages.Coloured(i.Packed(tile, x), i.CellColor)));
         On<EndTileArray>(d, static (i, x) => i._tiles = null);
     }
 
-    /// <summary>The colour of a cell: an index, or components of their own.</summary>
+    /// <summary>The colour of a cell, which is a colour index or a direct colour.</summary>
     private Rgba CellColor(int cell)
     {
-        Rgba color = _state.HasDirectColors ? new Rgba((byte)(cell >> 16), (byte)(cell >> 8), (byte)cell) : TableColor(cell);
+        Rgba color = _state.HasDirectColors
+            ? new Rgba((byte)(cell >> 16), (byte)(cell >> 8), (byte)cell)
+            : TableColor(cell);
         return Paint.TransparentCell is CgmColor clear && ColorOf(clear) == color ? color.WithAlpha(0) : color;
     }
 
@@ -42,8 +45,10 @@ internal sealed partial class CgmInterpreter
             return;
         }
 
-        Picture cells = TilePictures.FromCells(x.Cells, x.CellsPerLine, x.LineCount, CellColor);
-        (Vec2 p, Vec2 q, Vec2 r) = (_map.Point(V(x.FirstCorner)), _map.Point(V(x.OppositeCorner)), _map.Point(V(x.LineEnd)));
+        Picture cells = TileImages.FromCells(x.Cells, x.CellsPerLine, x.LineCount, CellColor);
+        Vec2 p = _map.Point(V(x.FirstCorner));
+        Vec2 q = _map.Point(V(x.OppositeCorner));
+        Vec2 r = _map.Point(V(x.LineEnd));
         Vec2 along = r - p;
         Vec2 up = r - q;
         Vec2 origin = p - up;
@@ -61,10 +66,8 @@ internal sealed partial class CgmInterpreter
         int column = _nextTile % Math.Max(1, array.TilesInPathDirection);
         int row = _nextTile / Math.Max(1, array.TilesInPathDirection);
         _nextTile++;
-        var packed = new PackedTile(tile.Compression, tile.Data, array.CellsPerTileInPathDirection, array.CellsPerTileInLineDirection)
-        {
-            RowPadding = tile.RowPadding,
-        };
+        (int width, int height) = (array.CellsPerTileInPathDirection, array.CellsPerTileInLineDirection);
+        var packed = new PackedTile(tile.Compression, tile.Data, width, height) { RowPadding = tile.RowPadding };
         bool fits = packed.Width > 0 && packed.Height > 0 && (long)packed.Width * packed.Height <= MaxCells;
         Picture? cells = fits ? unpack(packed) : null;
         if (cells is null)
@@ -78,15 +81,19 @@ internal sealed partial class CgmInterpreter
 
     private PackedTile Packed(in PackedTile tile, Tile own)
     {
-        int usual = _state.HasDirectColors ? _state.ColorBits : _state.ColorIndexBits;
-        return tile with { Bits = own.CellPrecision > 0 ? own.CellPrecision : usual, Components = _state.HasDirectColors ? 3 : 1 };
+        int metafile = _state.HasDirectColors ? _state.ColorBits : _state.ColorIndexBits;
+        return tile with
+        {
+            Bits = own.CellPrecision > 0 ? own.CellPrecision : metafile,
+            Components = _state.HasDirectColors ? 3 : 1,
+        };
     }
 
-    /// <summary>Where a tile lies: it begins at its column and row of cells, less those that lie before the image.</summary>
+    /// <summary>The placement of a tile: at its column and row of cells, less those that precede the image.</summary>
     private Affine2 TileMap(BeginTileArray array, int column, int row)
     {
-        Vec2 path = Turned(array.CellPathDirection) * array.CellSizeInPathDirection;
-        Vec2 line = Turned(array.CellPathDirection + array.LineProgressionDirection) * array.CellSizeInLineDirection;
+        Vec2 path = Direction(array.CellPathDirection) * array.CellSizeInPathDirection;
+        Vec2 line = Direction(array.CellPathDirection + array.LineProgressionDirection) * array.CellSizeInLineDirection;
         double firstCell = ((double)column * array.CellsPerTileInPathDirection) - array.ImageOffsetInPathDirection;
         double firstLine = ((double)row * array.CellsPerTileInLineDirection) - array.ImageOffsetInLineDirection;
         Vec2 start = _map.Point(V(array.Position) + (path * firstCell) + (line * firstLine));
@@ -96,7 +103,7 @@ internal sealed partial class CgmInterpreter
         return new Affine2(along.X, along.Y, -down.X, -down.Y, origin.X, origin.Y);
     }
 
-    private static Vec2 Turned(int degrees) => (degrees % 360) switch
+    private static Vec2 Direction(int degrees) => (degrees % 360) switch
     {
         0 => new Vec2(1, 0),
         90 => new Vec2(0, 1),
@@ -107,7 +114,8 @@ internal sealed partial class CgmInterpreter
     private void Place(Picture cells, in Affine2 place)
     {
         EnsureClip();
-        List.Image(new PlacedImage(cells.Width, cells.Height, cells.Pixels, place, 1) { Sharp = true }, _layer, BoundsOf(place));
+        var image = new PlacedImage(cells.Width, cells.Height, cells.Pixels, place, 1) { Sharp = true };
+        List.Image(image, _layer, BoundsOf(place));
     }
 
     private static Bounds2 BoundsOf(in Affine2 place)

@@ -27,8 +27,8 @@ internal sealed partial class CgmInterpreter
         On<HyperbolicArc>(d, static (i, x) => i.DrawHyperbola(x));
         On<ParabolicArc>(d, static (i, x) => i.DrawParabola(x));
         On<PolyBezier>(d, static (i, x) => i.DrawBezier(x));
-        On<NonUniformBSpline>(d, static (i, x) => i.DrawSpline(x.Order, x.ControlPoints, x.Knots, null, x.StartParameter, x.EndParameter));
-        On<NonUniformRationalBSpline>(d, static (i, x) => i.DrawSpline(x.Order, x.ControlPoints, x.Knots, x.Weights, x.StartParameter, x.EndParameter));
+        On<NonUniformBSpline>(d, static (i, x) => i.DrawSpline(x, null));
+        On<NonUniformRationalBSpline>(d, static (i, x) => i.DrawSpline(x, x.Weights));
     }
 
     private void DrawLine(List<CgmPoint> points)
@@ -93,14 +93,16 @@ internal sealed partial class CgmInterpreter
 
     private void DrawEllipticalArc(EllipticalArc x)
     {
-        AddEllipticalArc(NewPath(), V(x.Centre), V(x.FirstRadiusEnd), V(x.SecondRadiusEnd), new Vec2(x.StartX, x.StartY), new Vec2(x.EndX, x.EndY));
+        AddEllipticalArc(NewPath(), x);
         EndLine();
     }
 
-    private static void AddEllipticalArc(in PathPen pen, Vec2 center, Vec2 first, Vec2 second, Vec2 startRay, Vec2 endRay)
+    private static void AddEllipticalArc(in PathPen pen, EllipticalArc x)
     {
-        (Vec2 u, Vec2 v) = (first - center, second - center);
-        (double start, double sweep) = ConicArcs.OnEllipse(u, v, startRay, endRay);
+        Vec2 center = V(x.Centre);
+        (Vec2 u, Vec2 v) = (V(x.FirstRadiusEnd) - center, V(x.SecondRadiusEnd) - center);
+        (double start, double sweep) = ConicArcs.OnEllipse(
+            u, v, new Vec2(x.StartX, x.StartY), new Vec2(x.EndX, x.EndY));
         pen.MoveTo(center + (u * Math.Cos(start)) + (v * Math.Sin(start)));
         pen.EllipseTo(center, u, v, start, sweep);
     }
@@ -109,7 +111,12 @@ internal sealed partial class CgmInterpreter
     {
         Vec2 center = V(x.Centre);
         bool drawn = ConicArcs.TryHyperbola(
-            NewPath(), center, V(x.TransverseRadiusEnd) - center, V(x.ConjugateRadiusEnd) - center, new Vec2(x.StartX, x.StartY), new Vec2(x.EndX, x.EndY));
+            NewPath(),
+            center,
+            V(x.TransverseRadiusEnd) - center,
+            V(x.ConjugateRadiusEnd) - center,
+            new Vec2(x.StartX, x.StartY),
+            new Vec2(x.EndX, x.EndY));
         if (drawn)
         {
             EndLine();
@@ -143,16 +150,17 @@ internal sealed partial class CgmInterpreter
         EndLine();
     }
 
-    private void DrawSpline(int order, List<CgmPoint> points, List<double> knots, List<double>? weights, double start, double end)
+    private void DrawSpline(NonUniformBSpline x, List<double>? weights)
     {
-        Nurbs? curve = Nurbs.Create(order - 1, knots, points.ConvertAll(static p => new Vec3(p.X, p.Y, 0)), weights);
+        List<Vec3> points = x.ControlPoints.ConvertAll(static p => new Vec3(p.X, p.Y, 0));
+        Nurbs? curve = Nurbs.Create(x.Order - 1, x.Knots, points, weights);
         if (curve is null)
         {
-            Skip("spline whose data make no curve");
+            Skip("spline with invalid data");
             return;
         }
 
-        curve.Draw(NewPath(), Longest * CurveTolerance, start, end);
+        curve.Draw(NewPath(), LongerSide * CurveTolerance, x.StartParameter, x.EndParameter);
         EndLine();
     }
 
@@ -166,8 +174,8 @@ internal sealed partial class CgmInterpreter
             marker.Color = IsBundled(ASF.MarkerColour) ? bundle.Color : marker.Color;
         }
 
-        const int asterisk = 3;
-        int type = marker.Type ?? asterisk;
+        const int Asterisk = 3;
+        int type = marker.Type ?? Asterisk;
         double half = MarkerSize(marker.Size) / 2;
         PathPen pen = NewPath();
         foreach (CgmPoint point in points)
@@ -177,7 +185,7 @@ internal sealed partial class CgmInterpreter
 
         if (!Markers.Knows(type))
         {
-            Skip($"marker of type {type}, an asterisk stands in for it");
+            Skip($"marker of type {type}, drawn as an asterisk");
         }
 
         EnsureClip();
@@ -196,11 +204,11 @@ internal sealed partial class CgmInterpreter
 
     private double MarkerSize(double? stated)
     {
-        double nominal = Longest * PictureFrame.DefaultSizeShare;
+        double nominal = LongerSide * PictureFrame.DefaultSizeShare;
         double size = _state.MarkerSizeMode switch
         {
             SpecificationMode.Absolute => stated ?? nominal,
-            SpecificationMode.Fractional => (stated ?? PictureFrame.DefaultSizeShare) * Longest,
+            SpecificationMode.Fractional => (stated ?? PictureFrame.DefaultSizeShare) * LongerSide,
             SpecificationMode.Millimetres when _picture.Frame.MillimetresPerUnit is double mm => (stated ?? 2.5) / mm,
             SpecificationMode.Millimetres => (stated ?? 2.5) / 2.5 * nominal,
             _ => (stated ?? 1) * nominal,

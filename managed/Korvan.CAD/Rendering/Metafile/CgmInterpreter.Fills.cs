@@ -18,6 +18,8 @@ internal sealed partial class CgmInterpreter
     private const double HatchGapShare = 1.0 / 120;
     private const int MaxPatternTiles = 5_000;
 
+    private readonly record struct TileRange(int X0, int Y0, int X1, int Y1);
+
     /// <summary>The directions of the lines of the registered hatches, in degrees.</summary>
     private static readonly Dictionary<int, double[]> HatchAngles = new()
     {
@@ -48,7 +50,7 @@ internal sealed partial class CgmInterpreter
         }
 
         EnsureClip();
-        FillState fill = FillLook();
+        FillState fill = CurrentFill();
         Rgba color = ColorOf(fill.Color);
         switch (fill.Style ?? Style.Hollow)
         {
@@ -68,7 +70,7 @@ internal sealed partial class CgmInterpreter
                 FillGradient(path, fill.Gradient, color);
                 break;
             case Style.GeometricPattern:
-                Skip("geometric pattern, a colour stands in for it");
+                Skip("geometric pattern, drawn as a colour");
                 List.Fill(path, color, _layer, evenOdd: true);
                 break;
         }
@@ -79,7 +81,7 @@ internal sealed partial class CgmInterpreter
         }
     }
 
-    private FillState FillLook()
+    private FillState CurrentFill()
     {
         FillState fill = Paint.Fill;
         if (_state.FillBundles.TryGetValue(fill.Bundle, out FillRepresentation? bundle))
@@ -105,16 +107,17 @@ internal sealed partial class CgmInterpreter
     {
         if (!Paint.IsTransparent)
         {
-            List.Fill(path, Paint.Auxiliary is CgmColor between ? ColorOf(between) : TableColor(0), _layer, evenOdd: true);
+            Rgba background = Paint.Auxiliary is CgmColor auxiliary ? ColorOf(auxiliary) : TableColor(0);
+            List.Fill(path, background, _layer, evenOdd: true);
         }
 
         var rings = new List<HatchLoop>();
-        foreach (FlatLine line in FlatLine.Of(path, Longest * CurveTolerance * 10))
+        foreach (FlatLine line in FlatLine.Of(path, LongerSide * CurveTolerance * 10))
         {
             var loop = new PathBuffer();
             AddChain(new PathPen(loop, Affine3.Identity), line.Points);
             loop.Close();
-            rings.Add(new HatchLoop(loop, Longest * CurveTolerance));
+            rings.Add(new HatchLoop(loop, LongerSide * CurveTolerance));
         }
 
         rings.RemoveAll(static ring => ring.Ring.Length < 3);
@@ -142,7 +145,7 @@ internal sealed partial class CgmInterpreter
             return lines;
         }
 
-        double gap = Longest * HatchGapShare * Scale;
+        double gap = LongerSide * HatchGapShare * Scale;
         foreach (double angle in HatchAngles.GetValueOrDefault(index, HatchAngles[1]))
         {
             Vec2 along = Directed(Vec2.Polar(angle * Math.PI / 180));
@@ -156,7 +159,7 @@ internal sealed partial class CgmInterpreter
     {
         double sum = 0;
         own.GapWidths.ForEach(gap => sum += Math.Abs((double)gap));
-        double cycle = Math.Abs(own.CycleLength) * UnitOf(_state.InteriorMode, Longest * DefaultWidthShare) * Scale;
+        double cycle = Math.Abs(own.CycleLength) * UnitOf(_state.InteriorMode, LongerSide * DefaultWidthShare) * Scale;
         if (!(sum > 0) || !(cycle > 0) || direction.Length == 0)
         {
             return;
@@ -176,19 +179,20 @@ internal sealed partial class CgmInterpreter
 
     private void FillPattern(PathBuffer path, int index, Rgba color)
     {
-        if (!_state.Patterns.TryGetValue(index, out PatternTable? pattern) || pattern.CellsPerLine < 1 || pattern.LineCount < 1)
+        PatternTable? pattern = _state.Patterns.GetValueOrDefault(index);
+        if (pattern is null || pattern.CellsPerLine < 1 || pattern.LineCount < 1)
         {
             List.Fill(path, color, _layer, evenOdd: true);
             return;
         }
 
-        Picture cells = TilePictures.FromCells(pattern.Cells, pattern.CellsPerLine, pattern.LineCount, CellColor);
+        Picture cells = TileImages.FromCells(pattern.Cells, pattern.CellsPerLine, pattern.LineCount, CellColor);
         (Vec2 width, Vec2 height) = PatternVectors();
         var tile = new Affine2(width.X, width.Y, height.X, height.Y, 0, 0);
         Vec2 origin = _map.Point(FillReference);
-        if (!tile.TryInvert(out Affine2 inverse) || !TryTiles(path.Bounds, inverse, origin, out (int X0, int Y0, int X1, int Y1) range))
+        if (!tile.TryInvert(out Affine2 inverse) || TilesIn(path.Bounds, inverse, origin) is not TileRange range)
         {
-            Skip("pattern too fine for its area, a colour stands in for it");
+            Skip("pattern too fine for its area, drawn as a colour");
             List.Fill(path, Mean(cells), _layer, evenOdd: true);
             return;
         }
@@ -200,7 +204,8 @@ internal sealed partial class CgmInterpreter
             {
                 Vec2 at = origin + (width * x) + (height * y);
                 var place = tile with { X0 = at.X, Y0 = at.Y };
-                List.Image(new PlacedImage(cells.Width, cells.Height, cells.Pixels, place, 1) { Sharp = true }, _layer, BoundsOf(place));
+                var image = new PlacedImage(cells.Width, cells.Height, cells.Pixels, place, 1) { Sharp = true };
+                List.Image(image, _layer, BoundsOf(place));
             }
         }
 
@@ -211,29 +216,32 @@ internal sealed partial class CgmInterpreter
     {
         if (Paint.Fill.PatternSize is not PatternSize size)
         {
-            double side = Longest * PictureFrame.DefaultSizeShare * 2;
+            double side = LongerSide * PictureFrame.DefaultSizeShare * 2;
             return (_map.Point(side, 0) - _map.Point(0, 0), _map.Point(0, side) - _map.Point(0, 0));
         }
 
-        double unit = UnitOf(_state.InteriorMode, Longest * DefaultWidthShare);
-        return (_map.Point(size.WidthX * unit, size.WidthY * unit) - _map.Point(0, 0), _map.Point(size.HeightX * unit, size.HeightY * unit) - _map.Point(0, 0));
+        double unit = UnitOf(_state.InteriorMode, LongerSide * DefaultWidthShare);
+        Vec2 width = _map.Point(size.WidthX * unit, size.WidthY * unit) - _map.Point(0, 0);
+        return (width, _map.Point(size.HeightX * unit, size.HeightY * unit) - _map.Point(0, 0));
     }
 
-    private static bool TryTiles(in Bounds2 box, in Affine2 inverse, Vec2 origin, out (int X0, int Y0, int X1, int Y1) range)
+    /// <summary>The tiles that cover a box; nothing if they are too many.</summary>
+    private static TileRange? TilesIn(in Bounds2 box, in Affine2 inverse, Vec2 origin)
     {
         Bounds2 tiles = Bounds2.Empty;
         for (int corner = 0; corner < 4; corner++)
         {
-            Vec2 p = inverse.Point(((corner & 1) == 0 ? box.MinX : box.MaxX) - origin.X, ((corner & 2) == 0 ? box.MinY : box.MaxY) - origin.Y);
+            double x = (corner & 1) == 0 ? box.MinX : box.MaxX;
+            double y = (corner & 2) == 0 ? box.MinY : box.MaxY;
+            Vec2 p = inverse.Point(x - origin.X, y - origin.Y);
             tiles.Add(p.X, p.Y);
         }
 
         bool fits = tiles.IsFinite && (tiles.Width + 2) * (tiles.Height + 2) < MaxPatternTiles
             && Math.Abs(tiles.MinX) < int.MaxValue / 2 && Math.Abs(tiles.MinY) < int.MaxValue / 2;
-        range = fits
-            ? ((int)Math.Floor(tiles.MinX), (int)Math.Floor(tiles.MinY), (int)Math.Floor(tiles.MaxX), (int)Math.Floor(tiles.MaxY))
-            : default;
-        return fits;
+        return fits ? new TileRange(Floor(tiles.MinX), Floor(tiles.MinY), Floor(tiles.MaxX), Floor(tiles.MaxY)) : null;
+
+        static int Floor(double value) => (int)Math.Floor(value);
     }
 
     private static Rgba Mean(Picture picture)
@@ -250,26 +258,28 @@ internal sealed partial class CgmInterpreter
         return new Rgba((byte)(r / count), (byte)(g / count), (byte)(b / count));
     }
 
-    /// <summary>Gradients along a direction or from a centre; that of a triangle is drawn as the mean of its corners.</summary>
+    /// <summary>Fills by a parallel or elliptical gradient; triangular ones are drawn as a colour.</summary>
     private void FillGradient(PathBuffer path, InterpolatedInterior? gradient, Rgba color)
     {
-        const int parallel = 1, elliptical = 2;
-        if (gradient is null || gradient.Colors.Count < 2 || gradient.Style is not (parallel or elliptical))
+        const int Parallel = 1, Elliptical = 2;
+        if (gradient is null || gradient.Colors.Count < 2 || gradient.Style is not (Parallel or Elliptical))
         {
-            Skip("interpolated interior that is no gradient of two colours, a colour stands in for it");
-            List.Fill(path, gradient is { Colors.Count: > 0 } ? ColorOf(gradient.Colors[0]) : color, _layer, evenOdd: true);
+            Skip("interpolated interior without two colours or triangular, drawn as a colour");
+            Rgba plain = gradient is { Colors.Count: > 0 } ? ColorOf(gradient.Colors[0]) : color;
+            List.Fill(path, plain, _layer, evenOdd: true);
             return;
         }
 
         List<double> g = gradient.ReferenceGeometry;
-        double unit = UnitOf(_state.InteriorMode, Longest * DefaultWidthShare);
-        Vec2 first = g.Count >= 2 ? new Vec2(g[0], g[1]) * unit : new Vec2(Longest, 0);
-        Vec2 second = gradient.Style == elliptical && g.Count >= 4 ? new Vec2(g[2], g[3]) * unit : first.Left;
+        double unit = UnitOf(_state.InteriorMode, LongerSide * DefaultWidthShare);
+        Vec2 first = g.Count >= 2 ? new Vec2(g[0], g[1]) * unit : new Vec2(LongerSide, 0);
+        Vec2 second = gradient.Style == Elliptical && g.Count >= 4 ? new Vec2(g[2], g[3]) * unit : first.Left;
         Vec2 at = FillReference;
-        Affine2 local = gradient.Style == elliptical
+        Affine2 local = gradient.Style == Elliptical
             ? new Affine2(first.X, first.Y, second.X, second.Y, at.X, at.Y)
             : new Affine2(first.X / 2, first.Y / 2, second.X, second.Y, at.X + (first.X / 2), at.Y + (first.Y / 2));
-        List.Fill(path, color, _layer, evenOdd: true, new Gradient(gradient.Style == elliptical, 0, 0, _map * local, Stops(gradient)));
+        var shading = new Gradient(gradient.Style == Elliptical, 0, 0, _map * local, Stops(gradient));
+        List.Fill(path, color, _layer, evenOdd: true, shading);
     }
 
     private GradientStop[] Stops(InterpolatedInterior gradient)
@@ -278,8 +288,8 @@ internal sealed partial class CgmInterpreter
         var stops = new GradientStop[gradient.Colors.Count];
         for (int i = 0; i < stops.Length; i++)
         {
-            double usual = (double)i / (stops.Length - 1);
-            double offset = i == 0 ? 0 : i - 1 < gradient.StageDesignators.Count ? gradient.StageDesignators[i - 1] : usual;
+            List<double> stages = gradient.StageDesignators;
+            double offset = i == 0 ? 0 : i - 1 < stages.Count ? stages[i - 1] : (double)i / (stops.Length - 1);
             stops[i] = new GradientStop(Math.Clamp(offset, 0, 1), ColorOf(gradient.Colors[i]));
         }
 

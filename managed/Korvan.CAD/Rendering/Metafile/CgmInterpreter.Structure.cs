@@ -8,10 +8,10 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Metafile;
 
-/// <content>What groups elements: segments, application structures, saved contexts, clips and regions.</content>
+/// <content>Groups of elements: segments, application structures, saved contexts, clipping and regions.</content>
 internal sealed partial class CgmInterpreter
 {
-    private const int DeepestCopy = 32;
+    private const int MaxCopyDepth = 32;
 
     private readonly Dictionary<int, Segment> _segments;
     private readonly Dictionary<int, PathBuffer> _regions = [];
@@ -21,13 +21,15 @@ internal sealed partial class CgmInterpreter
     private bool _clipIsStale = true;
     private int _copies;
 
-    /// <summary>What an application structure hides and puts back.</summary>
+    /// <summary>What the end of an application structure restores.</summary>
     private readonly record struct Structure(PaintState? Inherited, int Layer, bool IsShown);
 
-    /// <summary>Whether what is drawn here is shown; what lies in no layer is hidden when only some are asked for.</summary>
+    /// <summary>Whether primitives are visible here; those in no layer are hidden if only some layers are
+    /// selected.</summary>
     private bool IsShown => _structures.Count == 0 ? _style.Layers is null : _structures.Peek().IsShown;
 
-    private static bool Draws(Command command) => command.ElementClass == ClassCode.GraphicalPrimitiveElement || command is CopySegment;
+    private static bool Draws(Command command) =>
+        command.ElementClass == ClassCode.GraphicalPrimitiveElement || command is CopySegment;
 
     private static void AddStructure(Dictionary<Type, Action<CgmInterpreter, Command>> d)
     {
@@ -64,7 +66,7 @@ internal sealed partial class CgmInterpreter
         _clipIsStale = true;
     }
 
-    /// <summary>Draws a segment that stands inside of the picture, and keeps it for copies.</summary>
+    /// <summary>Draws a segment of the picture and stores it for copies.</summary>
     private int RunSegment(BeginSegment begin, int at, int end)
     {
         int last = at + 1;
@@ -86,19 +88,23 @@ internal sealed partial class CgmInterpreter
     {
         if (!_segments.TryGetValue(copy.SegmentIdentifier, out Segment segment))
         {
-            Skip("copy of a segment that is not there");
+            Skip("copy of a missing segment");
             return;
         }
 
-        if (_copies >= DeepestCopy)
+        if (_copies >= MaxCopyDepth)
         {
-            throw new RenderException($"Segments of the picture \"{_picture.Name}\" contain each other; segment {copy.SegmentIdentifier} was being copied.");
+            throw new RenderException(
+                $"Segments of the picture \"{_picture.Name}\" contain each other; segment {copy.SegmentIdentifier} was "
+                + "being copied.");
         }
 
         Affine2 outer = _map;
         PaintState paint = Paint.Clone();
-        var placed = new Affine2(copy.ScaleX, copy.ShearY, copy.ShearX, copy.ScaleY, copy.TranslationX, copy.TranslationY);
-        _map = outer * placed * (copy.AppliesSegmentTransformation ? TransformationOf(segment, copy.SegmentIdentifier) : Affine2.Identity);
+        Affine2 own = copy.AppliesSegmentTransformation
+            ? TransformationOf(segment, copy.SegmentIdentifier)
+            : Affine2.Identity;
+        _map = outer * Matrix(copy) * own;
         _copies++;
         Run(segment.First, segment.End);
         FinishText();
@@ -107,6 +113,9 @@ internal sealed partial class CgmInterpreter
         _state.Paint = paint;
         _clipIsStale = true;
     }
+
+    private static Affine2 Matrix(CopySegment copy) =>
+        new(copy.ScaleX, copy.ShearY, copy.ShearX, copy.ScaleY, copy.TranslationX, copy.TranslationY);
 
     private Affine2 TransformationOf(Segment segment, int identifier)
     {
@@ -124,7 +133,8 @@ internal sealed partial class CgmInterpreter
     private void BeginStructure(BeginApplicationStructure begin)
     {
         bool isLayer = string.Equals(begin.StructureType, "layer", StringComparison.OrdinalIgnoreCase);
-        PaintState? inherited = begin.Inheritance == BeginApplicationStructure.InheritanceFlag.ApplicationStructure ? Paint.Clone() : null;
+        bool inherits = begin.Inheritance == BeginApplicationStructure.InheritanceFlag.ApplicationStructure;
+        PaintState? inherited = inherits ? Paint.Clone() : null;
         _structures.Push(new Structure(inherited, _layer, IsShown));
         if (isLayer)
         {
@@ -154,7 +164,8 @@ internal sealed partial class CgmInterpreter
         else if (attribute.AttributeType.Equals("visibility", StringComparison.OrdinalIgnoreCase))
         {
             Structure own = _structures.Pop();
-            _structures.Push(own with { IsShown = own.IsShown && !value.Equals("off", StringComparison.OrdinalIgnoreCase) });
+            bool isOff = value.Equals("off", StringComparison.OrdinalIgnoreCase);
+            _structures.Push(own with { IsShown = own.IsShown && !isOff });
         }
     }
 
@@ -186,20 +197,20 @@ internal sealed partial class CgmInterpreter
 
     private void UseRegion(ProtectionRegionIndicator indicator)
     {
-        const int off = 1, clip = 2;
-        if (indicator.Indicator == off)
+        const int Off = 1, Clip = 2;
+        if (indicator.Indicator == Off)
         {
             _activeRegions.Remove(indicator.RegionIndex);
         }
         else
         {
-            _activeRegions[indicator.RegionIndex] = indicator.Indicator == clip;
+            _activeRegions[indicator.RegionIndex] = indicator.Indicator == Clip;
         }
 
         _clipIsStale = true;
     }
 
-    /// <summary>Brings the clips of the list in line with those of the state; whoever draws calls it first.</summary>
+    /// <summary>Applies the clipping of the state to the display list; called before anything is drawn.</summary>
     private void EnsureClip()
     {
         if (!_clipIsStale)
@@ -222,9 +233,10 @@ internal sealed partial class CgmInterpreter
                 PathBuffer path = _canvas.NewPath();
                 if (!isClip)
                 {
-                    // What is shielded is the hole in a box around everything.
+                    // A shielded region is the hole in a box around the whole picture.
                     Bounds2 all = _picture.Frame.Region;
-                    AddBox(new PathPen(path, Affine3.Identity), new Vec2(all.MinX, all.MinY), new Vec2(all.MaxX, all.MaxY));
+                    var pen = new PathPen(path, Affine3.Identity);
+                    AddBox(pen, new Vec2(all.MinX, all.MinY), new Vec2(all.MaxX, all.MaxY));
                 }
 
                 path.AppendMapped(region, Affine3.Identity, 0);

@@ -12,25 +12,26 @@ using Vertical = Korvan.CAD.FileFormats.Cgm.Commands.TextAlignment.VerticalAlign
 
 namespace Korvan.CAD.Rendering.Metafile;
 
-/// <content>Texts: their pieces are gathered up to the last one, aligned as a whole and drawn.</content>
+/// <content>Text: the runs are collected up to the final one, aligned as a whole and drawn.</content>
 internal sealed partial class CgmInterpreter
 {
-    /// <summary>How far the tallest letters reach above, and the lowest below the base line, in heights of capitals.</summary>
+    /// <summary>The top line and the bottom line relative to the base line, in character heights.</summary>
     private const double TopShare = 1.25;
     private const double BottomShare = -0.3;
 
     private PendingText? _text;
 
-    /// <summary>A piece of a text in one look; lengths are in units of the coordinates.</summary>
-    private readonly record struct Piece(string Text, int Font, double Height, double Expansion, double Spacing, Rgba Color);
+    /// <summary>A run of text in one style; lengths are in VDC.</summary>
+    private readonly record struct Piece(
+        string Text, int Font, double Height, double Expansion, double Spacing, Rgba Color);
 
-    /// <summary>A text whose last piece may still be to come.</summary>
-    private sealed class PendingText(Vec2 position, TextState look, Vec2? box)
+    /// <summary>A text whose final run may not have been read yet.</summary>
+    private sealed class PendingText(Vec2 position, TextState style, Vec2? box)
     {
         internal Vec2 Position => position;
 
-        /// <summary>How the first piece is placed, which is how the whole is.</summary>
-        internal TextState Look => look;
+        /// <summary>The style of the first run, which places the whole text.</summary>
+        internal TextState Style => style;
 
         /// <summary>The sides of the parallelogram of restricted text.</summary>
         internal Vec2? Box => box;
@@ -48,7 +49,7 @@ internal sealed partial class CgmInterpreter
     private void BeginText(TextCommand text, Vec2 position, Vec2? box)
     {
         FinishText();
-        _text = new PendingText(position, _state.TextLook(), box);
+        _text = new PendingText(position, _state.CurrentText(), box);
         AddText(text);
     }
 
@@ -56,18 +57,18 @@ internal sealed partial class CgmInterpreter
     {
         if (_text is null)
         {
-            Skip("piece of a text that has no beginning");
+            Skip("appended text without a text before it");
             return;
         }
 
-        TextState look = _state.TextLook();
-        int font = _canvas.Engine.Font(FontNames.Find(_state.FontName(look)));
-        double height = look.HeightIn(_picture.Frame);
+        TextState style = _state.CurrentText();
+        int font = _canvas.Engine.Font(FontNames.Find(_state.FontName(style)));
+        double height = style.HeightIn(_picture.Frame);
         string content = Printable(text.Content);
         if (content.Length > 0 && height > 0)
         {
-            double expansion = look.Expansion is double stated && stated > 0 ? stated : 1;
-            _text.Pieces.Add(new Piece(content, font, height, expansion, look.Spacing ?? 0, ColorOf(look.Color)));
+            double expansion = style.Expansion is double stated && stated > 0 ? stated : 1;
+            _text.Pieces.Add(new Piece(content, font, height, expansion, style.Spacing ?? 0, ColorOf(style.Color)));
         }
 
         if (text.Final == AppendText.FinalType.Final)
@@ -78,7 +79,9 @@ internal sealed partial class CgmInterpreter
 
     private static string Printable(string content)
     {
-        return content.Any(char.IsControl) ? new string([.. content.Where(static letter => !char.IsControl(letter))]) : content;
+        return content.Any(char.IsControl)
+            ? new string([.. content.Where(static character => !char.IsControl(character))])
+            : content;
     }
 
     private void FinishText()
@@ -91,10 +94,10 @@ internal sealed partial class CgmInterpreter
         }
 
         EnsureClip();
-        (Vec2 along, Vec2 up) = Axes(text.Look.Orientation);
+        (Vec2 along, Vec2 up) = Axes(text.Style.Orientation);
         Vec2 at = text.Position;
         Affine2 frame = _map * new Affine2(along.X, along.Y, up.X, up.Y, at.X, at.Y);
-        if (text.Look.Path is TextPath.Type.Up or TextPath.Type.Down)
+        if (text.Style.Path is TextPath.Type.Up or TextPath.Type.Down)
         {
             DrawColumn(text, frame);
         }
@@ -106,20 +109,24 @@ internal sealed partial class CgmInterpreter
 
     /// <summary>
     /// The directions of the base line and of upright strokes. Only the proportion of the two vectors counts: it makes
-    /// letters wider or narrower (ISO/IEC 8632-1, 7.7.16).
+    /// characters wider or narrower (ISO/IEC 8632-1, 7.7.16).
     /// </summary>
     private static (Vec2 Along, Vec2 Up) Axes(CharacterOrientation? orientation)
     {
         Vec2 up = orientation is null ? new Vec2(0, 1) : new Vec2(orientation.UpX, orientation.UpY);
         Vec2 along = orientation is null ? new Vec2(1, 0) : new Vec2(orientation.BaseX, orientation.BaseY);
         double length = up.Length;
-        return length > 0 && along.Length > 0 ? (along * (1 / length), up * (1 / length)) : (new Vec2(1, 0), new Vec2(0, 1));
+        return length > 0 && along.Length > 0
+            ? (along * (1 / length), up * (1 / length))
+            : (new Vec2(1, 0), new Vec2(0, 1));
     }
 
     private void DrawLineOfText(PendingText text, in Affine2 frame)
     {
-        bool isReversed = text.Look.Path == TextPath.Type.Left;
-        List<Piece> pieces = isReversed ? [.. text.Pieces.Select(static piece => piece with { Text = Reversed(piece.Text) }).Reverse()] : text.Pieces;
+        bool isReversed = text.Style.Path == TextPath.Type.Left;
+        List<Piece> pieces = isReversed
+            ? [.. text.Pieces.Select(static piece => piece with { Text = Reversed(piece.Text) }).Reverse()]
+            : text.Pieces;
         double width = 0;
         double height = 0;
         foreach (Piece piece in pieces)
@@ -130,7 +137,7 @@ internal sealed partial class CgmInterpreter
 
         Vec2 fit = Fit(text, width, height);
         Affine2 line = frame * new Affine2(
-            fit.X, 0, 0, fit.Y, -width * fit.X * LeftShare(text.Look, isReversed), -Rise(text.Look, height) * fit.Y);
+            fit.X, 0, 0, fit.Y, -width * fit.X * LeftShare(text.Style, isReversed), -Rise(text.Style, height) * fit.Y);
         double at = 0;
         foreach (Piece piece in pieces)
         {
@@ -139,28 +146,32 @@ internal sealed partial class CgmInterpreter
         }
     }
 
-    /// <summary>Letters one above the other, each in the middle of the column.</summary>
+    /// <summary>Draws characters one above the other, each centred in the column.</summary>
     private void DrawColumn(PendingText text, in Affine2 frame)
     {
-        var letters = text.Pieces.SelectMany(static piece => piece.Text.EnumerateRunes(), static (piece, rune) => (piece, Letter: rune.ToString())).ToList();
+        List<(Piece Piece, string Character)> characters =
+        [
+            .. text.Pieces.SelectMany(
+                static piece => piece.Text.EnumerateRunes(), static (piece, rune) => (piece, rune.ToString())),
+        ];
         double widest = 0;
         double total = 0;
-        foreach ((Piece piece, string letter) in letters)
+        foreach ((Piece piece, string character) in characters)
         {
-            widest = Math.Max(widest, Advance(piece with { Text = letter, Spacing = 0 }));
+            widest = Math.Max(widest, Advance(piece with { Text = character, Spacing = 0 }));
             total += StepOf(piece);
         }
 
-        bool isDown = text.Look.Path == TextPath.Type.Down;
+        bool isDown = text.Style.Path == TextPath.Type.Down;
         double capital = text.Pieces.Max(static piece => piece.Height);
-        double height = total - StepOf(letters[^1].piece) + capital;
-        double left = HorizontalShare(text.Look) switch { null => 0, double share => (0.5 - share) * widest };
-        double bottom = -ColumnRise(text.Look, isDown) * height;
+        double height = total - StepOf(characters[^1].Piece) + capital;
+        double left = HorizontalShare(text.Style) switch { null => 0, double share => (0.5 - share) * widest };
+        double bottom = -ColumnRise(text.Style, isDown) * height;
         double at = isDown ? bottom + height - capital : bottom;
-        foreach ((Piece piece, string letter) in letters)
+        foreach ((Piece piece, string character) in characters)
         {
-            double width = Advance(piece with { Text = letter, Spacing = 0 });
-            Draw(piece with { Spacing = 0 }, letter, frame * new Affine2(1, 0, 0, 1, left - (width / 2), at));
+            double width = Advance(piece with { Text = character, Spacing = 0 });
+            Draw(piece with { Spacing = 0 }, character, frame * new Affine2(1, 0, 0, 1, left - (width / 2), at));
             at += isDown ? -StepOf(piece) : StepOf(piece);
         }
     }
@@ -171,16 +182,17 @@ internal sealed partial class CgmInterpreter
     {
         double em = EmOf(piece);
         Affine2 matrix = frame * new Affine2(em * piece.Expansion, 0, 0, em, 0, 0);
-        _canvas.Text(content, piece.Font, matrix, LetterSpacing(piece), piece.Color, _layer);
+        _canvas.Text(content, piece.Font, matrix, CharacterSpacing(piece), piece.Color, _layer);
     }
 
     private double EmOf(in Piece piece) => piece.Height / _canvas.Engine.CapRatio(piece.Font);
 
-    /// <summary>The gap between letters in ems of the run; the element counts heights of capitals.</summary>
-    private double LetterSpacing(in Piece piece) => piece.Spacing * _canvas.Engine.CapRatio(piece.Font) / piece.Expansion;
+    /// <summary>The character spacing in ems of the run; the attribute is in character heights.</summary>
+    private double CharacterSpacing(in Piece piece) =>
+        piece.Spacing * _canvas.Engine.CapRatio(piece.Font) / piece.Expansion;
 
     private double Advance(in Piece piece) =>
-        _canvas.Engine.Advance(piece.Font, piece.Text, LetterSpacing(piece)) * EmOf(piece) * piece.Expansion;
+        _canvas.Engine.Advance(piece.Font, piece.Text, CharacterSpacing(piece)) * EmOf(piece) * piece.Expansion;
 
     /// <summary>How the text is stretched into the parallelogram of restricted text.</summary>
     private static Vec2 Fit(PendingText text, double width, double height)
@@ -190,50 +202,52 @@ internal sealed partial class CgmInterpreter
             return new Vec2(1, 1);
         }
 
-        double whole = text.Look.Restriction is RestrictedTextType.Type.BoxedAll or RestrictedTextType.Type.IsotropicAll
-            ? TopShare - BottomShare
-            : 1;
+        RestrictedTextType.Type type = text.Style.Restriction;
+        bool isAll = type is RestrictedTextType.Type.BoxedAll or RestrictedTextType.Type.IsotropicAll;
+        double whole = isAll ? TopShare - BottomShare : 1;
         double x = Math.Abs(box.X) / width;
         double y = Math.Abs(box.Y) / (height * whole);
-        return text.Look.Restriction switch
+        double smaller = Math.Min(x, y);
+        return type switch
         {
             RestrictedTextType.Type.BoxedCap or RestrictedTextType.Type.BoxedAll => new Vec2(x, y),
-            RestrictedTextType.Type.IsotropicCap or RestrictedTextType.Type.IsotropicAll => new Vec2(Math.Min(x, y), Math.Min(x, y)),
+            RestrictedTextType.Type.IsotropicCap or RestrictedTextType.Type.IsotropicAll => new Vec2(smaller, smaller),
             RestrictedTextType.Type.Justified => new Vec2(x, Math.Min(1, y)),
             _ => new Vec2(Math.Min(1, x), Math.Min(1, y)),
         };
     }
 
-    /// <summary>The part of the width that lies left of the position.</summary>
-    private static double LeftShare(in TextState look, bool isReversed) => HorizontalShare(look) ?? (isReversed ? 1 : 0);
+    /// <summary>The fraction of the width that lies left of the position.</summary>
+    private static double LeftShare(in TextState style, bool isReversed) =>
+        HorizontalShare(style) ?? (isReversed ? 1 : 0);
 
-    private static double? HorizontalShare(in TextState look) => look.Alignment?.Horizontal switch
+    private static double? HorizontalShare(in TextState style) => style.Alignment?.Horizontal switch
     {
         Horizontal.Left => 0,
         Horizontal.Centre => 0.5,
         Horizontal.Right => 1,
-        Horizontal.Continuous => look.Alignment!.ContinuousHorizontal,
+        Horizontal.Continuous => style.Alignment!.ContinuousHorizontal,
         _ => null,
     };
 
-    /// <summary>How far the position lies above the base line.</summary>
-    private static double Rise(in TextState look, double height) => height * (look.Alignment?.Vertical switch
+    /// <summary>The distance of the position above the base line.</summary>
+    private static double Rise(in TextState style, double height) => height * (style.Alignment?.Vertical switch
     {
         Vertical.Top => TopShare,
         Vertical.Cap => 1,
         Vertical.Half => 0.5,
         Vertical.Bottom => BottomShare,
-        Vertical.Continuous => BottomShare + (look.Alignment!.ContinuousVertical * (TopShare - BottomShare)),
+        Vertical.Continuous => BottomShare + (style.Alignment!.ContinuousVertical * (TopShare - BottomShare)),
         _ => 0,
     });
 
-    /// <summary>The part of the column that lies below the position.</summary>
-    private static double ColumnRise(in TextState look, bool isDown) => look.Alignment?.Vertical switch
+    /// <summary>The fraction of the column that lies below the position.</summary>
+    private static double ColumnRise(in TextState style, bool isDown) => style.Alignment?.Vertical switch
     {
         Vertical.Top or Vertical.Cap => 1,
         Vertical.Half => 0.5,
         Vertical.Base or Vertical.Bottom => 0,
-        Vertical.Continuous => look.Alignment!.ContinuousVertical,
+        Vertical.Continuous => style.Alignment!.ContinuousVertical,
         _ => isDown ? 1 : 0,
     };
 

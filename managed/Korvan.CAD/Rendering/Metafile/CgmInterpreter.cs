@@ -8,10 +8,10 @@ using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Rendering.Metafile;
 
-/// <summary>Walks the elements of one picture and draws what they say (ISO/IEC 8632-1, clause 7).</summary>
+/// <summary>Interprets the elements of one picture and draws them (ISO/IEC 8632-1, clause 7).</summary>
 internal sealed partial class CgmInterpreter
 {
-    /// <summary>Elements that one page may take with all copies of segments; past it the picture is a bomb.</summary>
+    /// <summary>A limit to the elements of one page with all copies of segments, against exponential copies.</summary>
     private const int MaxElements = 50_000_000;
     private const int ElementsPerCheckpoint = 1024;
 
@@ -43,10 +43,10 @@ internal sealed partial class CgmInterpreter
 
     private PaintState Paint => _state.Paint;
 
-    /// <summary>Units of the page in a unit of the coordinates.</summary>
+    /// <summary>The units of the page in one VDC unit.</summary>
     private double Scale => Math.Sqrt(Math.Abs(_map.Determinant));
 
-    private double Longest => _picture.Frame.Longest;
+    private double LongerSide => _picture.Frame.LongerSide;
 
     internal void Run()
     {
@@ -84,14 +84,15 @@ internal sealed partial class CgmInterpreter
             if (_elements > MaxElements)
             {
                 throw new RenderException(
-                    $"The picture \"{_picture.Name}\" draws more than {MaxElements} elements by copies of its segments; it is too large.");
+                    $"The picture \"{_picture.Name}\" is too large: with copies of segments it has more than "
+                    + $"{MaxElements} elements.");
             }
 
             at = Step(_scene.CommandAt(at), at, end);
         }
     }
 
-    /// <summary>Carries out one element; gives the place of the last one that this took.</summary>
+    /// <summary>Interprets one element; returns the index of the last one that it consumed.</summary>
     private int Step(Command command, int at, int end)
     {
         if (command is BeginSegment begin)
@@ -113,7 +114,7 @@ internal sealed partial class CgmInterpreter
 
     private void PaintBackground()
     {
-        // Paper is white of itself, and the caller may have chosen another colour for it.
+        // A white background is left to the page, for which the caller may have chosen another colour.
         if (_state.Background?.Color is Color color && !(color.R == 255 && color.G == 255 && color.B == 255))
         {
             Bounds2 region = _picture.Frame.Region;
@@ -127,13 +128,16 @@ internal sealed partial class CgmInterpreter
         }
     }
 
-    /// <summary>A pen that draws coordinates of the picture on the scratch path, which is empty.</summary>
+    /// <summary>Clears the scratch path and returns a pen that draws VDC on it.</summary>
     private PathPen NewPath()
     {
         _path.Clear();
         return PenOn(_path);
     }
 
-    private PathPen PenOn(PathBuffer path) => new(
-        path, new Affine3(new Vec3(_map.Xx, _map.Yx, 0), new Vec3(_map.Xy, _map.Yy, 0), Vec3.UnitZ, new Vec3(_map.X0, _map.Y0, 0)));
+    private PathPen PenOn(PathBuffer path)
+    {
+        (Vec3 x, Vec3 y) = (new Vec3(_map.Xx, _map.Yx, 0), new Vec3(_map.Xy, _map.Yy, 0));
+        return new PathPen(path, new Affine3(x, y, Vec3.UnitZ, new Vec3(_map.X0, _map.Y0, 0)));
+    }
 }

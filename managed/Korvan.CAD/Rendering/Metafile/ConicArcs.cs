@@ -3,13 +3,12 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Metafile;
 
-/// <summary>Circles and ellipses as metafiles give them: by points on them, by rays from the centre, by conjugate
-/// diameters.</summary>
+/// <summary>Conic arcs as metafiles state them: by points, by rays from the centre, by conjugate diameters.</summary>
 internal static class ConicArcs
 {
     private const double FullTurn = 2 * Math.PI;
 
-    /// <summary>Where an arc of a circle begins, and the angle that it turns through; negative ones turn clockwise.</summary>
+    /// <summary>A circular arc by its start and sweep angles in radians; a negative sweep is clockwise.</summary>
     internal readonly record struct Arc(Vec2 Center, double Radius, double Start, double Sweep);
 
     /// <summary>The arc through three points, in their order. False when they lie on a line.</summary>
@@ -52,7 +51,7 @@ internal static class ConicArcs
         return (start, Turn(start, Parameter(u, v, endRay), true));
     }
 
-    /// <summary>The parabola through two points that is tangent there to the lines from the point where they meet.</summary>
+    /// <summary>Adds the parabola through two points with the given intersection of the tangents there.</summary>
     internal static void Parabola(in PathPen pen, Vec2 start, Vec2 meeting, Vec2 end)
     {
         // A parabola is a quadratic Bézier curve, written here as a cubic one.
@@ -66,15 +65,15 @@ internal static class ConicArcs
     /// </summary>
     internal static bool TryHyperbola(in PathPen pen, Vec2 center, Vec2 a, Vec2 b, Vec2 startRay, Vec2 endRay)
     {
-        const int pieces = 16;
+        const int Pieces = 16;
         if (!TryHyperbolic(a, b, startRay, out double first) || !TryHyperbolic(a, b, endRay, out double last))
         {
             return false;
         }
 
-        double step = (last - first) / pieces;
+        double step = (last - first) / Pieces;
         pen.MoveTo(At(first));
-        for (int i = 0; i < pieces; i++)
+        for (int i = 0; i < Pieces; i++)
         {
             double t = first + (i * step);
             Vec2 from = At(t);
@@ -106,10 +105,10 @@ internal static class ConicArcs
 
     private static double Turn(double start, double end, bool counterclockwise)
     {
-        const double least = 1e-9;
+        const double Epsilon = 1e-9;
         double sweep = (end - start) % FullTurn;
         sweep = sweep < 0 ? sweep + FullTurn : sweep;
-        if (sweep < least || sweep > FullTurn - least)
+        if (sweep < Epsilon || sweep > FullTurn - Epsilon)
         {
             return counterclockwise ? FullTurn : -FullTurn;
         }

@@ -1,22 +1,24 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Metafile;
 
-/// <summary>Leads from the font names of metafiles, in which style and family are one word, to installed faces.</summary>
+/// <summary>Maps font names of metafiles, in which style and family are one word, to installed fonts.</summary>
 internal static class FontNames
 {
-    /// <summary>Families by what their names begin with, without regard to case, spaces and signs.</summary>
-    private static readonly (string Begin, string Family)[] Families =
+    /// <summary>Font families by the prefixes of their names, without regard to case, spaces and punctuation.</summary>
+    private static readonly (string Prefix, string Family)[] Families =
     [
         ("helvetica", "Helvetica"), ("arial", "Arial"), ("swiss", "Helvetica"), ("univers", "Helvetica"),
-        ("times", "Times New Roman"), ("dutch", "Times New Roman"), ("courier", "Courier New"), ("monospac", "Courier New"),
-        ("newcenturyschlbk", "C059"), ("newcenturyschoolbook", "C059"), ("palatino", "P052"), ("bookman", "URW Bookman"),
-        ("avantgarde", "URW Gothic"), ("zapfchancery", "Z003"), ("zapfdingbats", "D050000L"), ("symbol", "Standard Symbols PS"),
+        ("times", "Times New Roman"), ("dutch", "Times New Roman"), ("courier", "Courier New"),
+        ("monospac", "Courier New"), ("newcenturyschlbk", "C059"), ("newcenturyschoolbook", "C059"),
+        ("palatino", "P052"), ("bookman", "URW Bookman"), ("avantgarde", "URW Gothic"), ("zapfchancery", "Z003"),
+        ("zapfdingbats", "D050000L"), ("symbol", "Standard Symbols PS"),
     ];
 
-    /// <summary>Stroke fonts that many writers name; the nearest outline face stands in for each.</summary>
+    /// <summary>Common stroke fonts and the nearest outline fonts.</summary>
     private static readonly Dictionary<string, FontSpec> StrokeFonts = new(StringComparer.Ordinal)
     {
         ["hersheycartographicroman"] = FontTable.FromFamily("Helvetica", false, false),
@@ -33,42 +35,44 @@ internal static class FontNames
         ["hersheygothicitalian"] = FontTable.FromFile("gothici"),
     };
 
-    /// <summary>The face for a name such as "HELVETICA_BOLD_OBLIQUE", "Times-Italic" or "Courier New Bold".</summary>
+    /// <summary>The font for a name such as "HELVETICA_BOLD_OBLIQUE", "Times-Italic" or "Courier New Bold".</summary>
     internal static FontSpec Find(string name)
     {
-        string word = Letters(name);
-        if (word.Length == 0)
+        string key = KeyOf(name);
+        if (key.Length == 0)
         {
             return FontSpec.Default;
         }
 
-        if (StrokeFonts.TryGetValue(word, out FontSpec stroke))
+        if (StrokeFonts.TryGetValue(key, out FontSpec stroke))
         {
             return stroke;
         }
 
-        bool bold = word.Contains("bold", StringComparison.Ordinal) || word.Contains("demi", StringComparison.Ordinal);
-        bool italic = word.Contains("italic", StringComparison.Ordinal) || word.Contains("oblique", StringComparison.Ordinal);
-        foreach ((string begin, string family) in Families)
+        bool bold = Has("bold") || Has("demi");
+        bool italic = Has("italic") || Has("oblique");
+        foreach ((string prefix, string family) in Families)
         {
-            if (word.StartsWith(begin, StringComparison.Ordinal))
+            if (key.StartsWith(prefix, StringComparison.Ordinal))
             {
                 return FontTable.FromFamily(family, bold, italic);
             }
         }
 
         return FontTable.FromFamily(WithoutStyle(name), bold, italic);
+
+        bool Has(string style) => key.Contains(style, StringComparison.Ordinal);
     }
 
-    private static string Letters(string name)
+    private static string KeyOf(string name)
     {
         Span<char> kept = name.Length <= 256 ? stackalloc char[name.Length] : new char[name.Length];
         int count = 0;
-        foreach (char letter in name)
+        foreach (char character in name)
         {
-            if (char.IsLetterOrDigit(letter))
+            if (char.IsLetterOrDigit(character))
             {
-                kept[count++] = char.ToLowerInvariant(letter);
+                kept[count++] = char.ToLowerInvariant(character);
             }
         }
 

@@ -2,7 +2,7 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Metafile;
 
-/// <summary>The five markers that ISO/IEC 8632-1, 7.5.3 knows, as lines in a square of the side 2 about the origin.</summary>
+/// <summary>The five standard markers (ISO/IEC 8632-1, 7.5.3).</summary>
 internal static class Markers
 {
     internal const int Dot = 1;
@@ -10,10 +10,10 @@ internal static class Markers
     private const int Circle = 4;
     private const int Cross = 5;
 
-    /// <summary>Whether the marker is one of the five; an asterisk stands in for all others.</summary>
+    /// <summary>Whether the marker is one of the five; all others are drawn as asterisks.</summary>
     internal static bool Knows(int type) => type is >= Dot and <= Cross;
 
-    /// <summary>Adds a marker of a type at a place; the half size is a half of its side.</summary>
+    /// <summary>Adds a marker of a type and a half size at a point.</summary>
     internal static void Add(in PathPen pen, int type, Vec2 at, double half)
     {
         switch (type)
@@ -33,10 +33,10 @@ internal static class Markers
                 Line(pen, at, new Vec2(-half, half));
                 break;
             default:
-                const double slope = 0.8660254037844386; // three lines, 60 degrees apart
+                const double Slope = 0.8660254037844386; // three lines, 60 degrees apart
                 Line(pen, at, new Vec2(0, half));
-                Line(pen, at, new Vec2(half * slope, half / 2));
-                Line(pen, at, new Vec2(half * slope, -half / 2));
+                Line(pen, at, new Vec2(half * Slope, half / 2));
+                Line(pen, at, new Vec2(half * Slope, -half / 2));
                 break;
         }
     }

@@ -9,7 +9,7 @@ using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Metafile;
 
-/// <summary>A picture of a metafile: its elements from the first behind its name up to its end.</summary>
+/// <summary>A picture of a metafile: the indexes of its first element after the descriptor and of its end.</summary>
 internal sealed record MetafilePicture(string Name, int First, int End, PictureState State, PictureFrame Frame)
     : ScenePage(Name, Frame.Sheet);
 
@@ -24,7 +24,7 @@ internal sealed class MetafileScene : VectorScene
     {
         _commands = file.Commands;
         var defaults = new PictureState();
-        int at = ReadHead(defaults);
+        int at = ReadDescriptor(defaults);
         while (at < _commands.Count)
         {
             at = ReadPicture(defaults, at);
@@ -35,7 +35,7 @@ internal sealed class MetafileScene : VectorScene
 
     internal IReadOnlyList<MetafilePicture> Pictures => _pictures;
 
-    /// <summary>Segments that all pictures may draw, by their names.</summary>
+    /// <summary>Global segments, which all pictures may copy, by their names.</summary>
     internal Dictionary<int, Segment> Segments { get; } = [];
 
     protected override IReadOnlyList<ScenePage> UsualPages => _pictures;
@@ -50,8 +50,8 @@ internal sealed class MetafileScene : VectorScene
 
     internal Command CommandAt(int index) => _commands[index];
 
-    /// <summary>Reads what stands before the first picture; gives the place of that.</summary>
-    private int ReadHead(PictureState defaults)
+    /// <summary>Applies the elements before the first picture; returns the index of that.</summary>
+    private int ReadDescriptor(PictureState defaults)
     {
         int segment = -1;
         for (int at = 0; at < _commands.Count; at++)
@@ -105,10 +105,11 @@ internal sealed class MetafileScene : VectorScene
         return at;
     }
 
-    /// <summary>Pictures are called by their names, which files may leave empty or use twice.</summary>
+    /// <summary>Makes the identifier of a picture unique; files may leave it empty or use it twice.</summary>
     private string NewName(string name)
     {
-        string wanted = name.Length > 0 ? name : "Picture " + (_pictures.Count + 1).ToString(CultureInfo.InvariantCulture);
+        string number = (_pictures.Count + 1).ToString(CultureInfo.InvariantCulture);
+        string wanted = name.Length > 0 ? name : $"Picture {number}";
         string free = wanted;
         for (int i = _pictures.Count + 1; !_names.Add(free); i++)
         {
@@ -119,5 +120,5 @@ internal sealed class MetafileScene : VectorScene
     }
 }
 
-/// <summary>A stored part of a metafile: its elements, and how it is moved where it is drawn.</summary>
+/// <summary>A segment: the indexes of its first element and of its end.</summary>
 internal readonly record struct Segment(int First, int End);

@@ -41,7 +41,7 @@ internal static class MetafileTexts
         return texts;
     }
 
-    /// <summary>The text that begins at a command, with the pieces that are appended up to its last one.</summary>
+    /// <summary>The text that starts at a command, with the strings appended to it.</summary>
     private static string Content(MetafileScene scene, int at, int end)
     {
         var piece = (TextCommand)scene.CommandAt(at);
@@ -66,12 +66,13 @@ internal static class MetafileTexts
         return content.ToString();
     }
 
-    private static TextInformation Describe(string content, CgmPoint position, PictureState state, in PictureFrame frame)
+    private static TextInformation Describe(
+        string content, CgmPoint position, PictureState state, in PictureFrame frame)
     {
-        TextState look = state.TextLook();
-        double angle = look.Orientation is CharacterOrientation turned
-            ? Math.Atan2(turned.BaseY, turned.BaseX) * 180 / Math.PI
+        TextState style = state.CurrentText();
+        double angle = style.Orientation is CharacterOrientation orientation
+            ? Math.Atan2(orientation.BaseY, orientation.BaseX) * 180 / Math.PI
             : 0;
-        return new TextInformation(content, position, look.HeightIn(frame), angle, state.FontName(look));
+        return new TextInformation(content, position, style.HeightIn(frame), angle, state.FontName(style));
     }
 }

@@ -3,10 +3,11 @@ using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.DisplayList;
+using ASF = Korvan.CAD.FileFormats.Cgm.Commands.AspectSourceFlags.ASFType;
 
 namespace Korvan.CAD.Rendering.Metafile;
 
-/// <summary>How lines or edges look. What no element has set is null: its default depends on the picture.</summary>
+/// <summary>Line or edge attributes. Unset ones are null: their defaults depend on the picture.</summary>
 internal struct LineState
 {
     internal int Bundle;
@@ -16,11 +17,11 @@ internal struct LineState
     internal LineCapIndicator Cap;
     internal JoinIndicator Join;
 
-    /// <summary>Where the dashes begin, in parts of their period.</summary>
+    /// <summary>The start of the dash pattern as a fraction of its length.</summary>
     internal double DashOffset;
 }
 
-/// <summary>How markers look.</summary>
+/// <summary>Marker attributes.</summary>
 internal struct MarkerState
 {
     internal int Bundle;
@@ -29,7 +30,7 @@ internal struct MarkerState
     internal CgmColor? Color;
 }
 
-/// <summary>How texts look.</summary>
+/// <summary>Text attributes.</summary>
 internal struct TextState
 {
     internal int Bundle;
@@ -43,10 +44,11 @@ internal struct TextState
     internal TextAlignment? Alignment;
     internal RestrictedTextType.Type Restriction;
 
-    internal readonly double HeightIn(in PictureFrame frame) => System.Math.Abs(Height ?? frame.Longest * PictureFrame.DefaultSizeShare);
+    internal readonly double HeightIn(in PictureFrame frame) =>
+        System.Math.Abs(Height ?? frame.LongerSide * PictureFrame.DefaultSizeShare);
 }
 
-/// <summary>How areas are filled.</summary>
+/// <summary>Fill attributes.</summary>
 internal struct FillState
 {
     internal int Bundle;
@@ -75,8 +77,8 @@ internal sealed class PaintState
     internal bool IsClipping = true;
     internal ClipRectangle? Clip;
 
-    /// <summary>The attributes that bundles give, by the numbers of their flags.</summary>
-    internal HashSet<AspectSourceFlags.ASFType> Bundled { get; private set; } = [];
+    /// <summary>The attributes whose aspect source flag is bundled.</summary>
+    internal HashSet<ASF> Bundled { get; private set; } = [];
 
     internal PaintState Clone()
     {
@@ -86,7 +88,7 @@ internal sealed class PaintState
     }
 }
 
-/// <summary>What holds for one picture: its coordinates, its tables, and the attributes at this place.</summary>
+/// <summary>The state of one picture: its coordinates, its tables, and the current attributes.</summary>
 internal sealed class PictureState
 {
     internal VdcExtent? Extent;
@@ -97,7 +99,7 @@ internal sealed class PictureState
     internal bool HasRealCoordinates;
     internal bool HasDirectColors;
 
-    /// <summary>Bits of a component, and of a number, where a tile states none of its own.</summary>
+    /// <summary>Bits of a colour component, and of a colour index, of tiles without a precision of their own.</summary>
     internal int ColorBits = 8;
     internal int ColorIndexBits = 8;
     internal SpecificationMode LineWidthMode = SpecificationMode.Scaled;
@@ -127,29 +129,30 @@ internal sealed class PictureState
 
     internal Dictionary<int, LineAndEdgeTypeDefinition> LineTypes { get; private set; } = [];
 
-    /// <summary>How texts look here, with what their bundle gives.</summary>
-    internal TextState TextLook()
+    /// <summary>The text attributes with those of the bundle.</summary>
+    internal TextState CurrentText()
     {
-        TextState look = Paint.Text;
-        if (TextBundles.TryGetValue(look.Bundle, out TextRepresentation? bundle))
+        TextState style = Paint.Text;
+        if (TextBundles.TryGetValue(style.Bundle, out TextRepresentation? bundle))
         {
-            look.Font = Paint.Bundled.Contains(AspectSourceFlags.ASFType.TextFontIndex) ? bundle.FontIndex : look.Font;
-            look.Expansion = Paint.Bundled.Contains(AspectSourceFlags.ASFType.CharacterExpansionFactor) ? bundle.ExpansionFactor : look.Expansion;
-            look.Spacing = Paint.Bundled.Contains(AspectSourceFlags.ASFType.CharacterSpacing) ? bundle.Spacing : look.Spacing;
-            look.Color = Paint.Bundled.Contains(AspectSourceFlags.ASFType.TextColour) ? bundle.Color : look.Color;
+            HashSet<ASF> bundled = Paint.Bundled;
+            style.Font = bundled.Contains(ASF.TextFontIndex) ? bundle.FontIndex : style.Font;
+            style.Expansion = bundled.Contains(ASF.CharacterExpansionFactor) ? bundle.ExpansionFactor : style.Expansion;
+            style.Spacing = bundled.Contains(ASF.CharacterSpacing) ? bundle.Spacing : style.Spacing;
+            style.Color = bundled.Contains(ASF.TextColour) ? bundle.Color : style.Color;
         }
 
-        return look;
+        return style;
     }
 
-    /// <summary>The name that the file gives the font of a look; empty where it gives none.</summary>
-    internal string FontName(in TextState look)
+    /// <summary>The font name of text attributes; empty where the font list has none.</summary>
+    internal string FontName(in TextState style)
     {
-        int index = look.Font ?? 1;
+        int index = style.Font ?? 1;
         return index >= 1 && index <= Fonts.Count ? Fonts[index - 1] : "";
     }
 
-    /// <summary>The state that a picture begins with: the defaults, and tables of its own.</summary>
+    /// <summary>The initial state of a picture: the defaults, with tables of its own.</summary>
     internal PictureState Clone()
     {
         var copy = (PictureState)MemberwiseClone();

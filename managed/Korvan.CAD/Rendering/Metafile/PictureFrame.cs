@@ -11,13 +11,15 @@ namespace Korvan.CAD.Rendering.Metafile;
 /// The coordinates of a picture: its extent, the map to units of the page, whose axes run right and up, and the size in
 /// millimetres where the file states one.
 /// </summary>
-internal readonly record struct PictureFrame(Bounds2 Region, Affine2 ToPage, double Longest, double? MillimetresPerUnit)
+internal readonly record struct PictureFrame(
+    Bounds2 Region, Affine2 ToPage, double LongerSide, double? MillimetresPerUnit)
 {
-    /// <summary>Texts and markers without a size have this part of the longer side (ISO/IEC 8632-1, clause 8).</summary>
+    /// <summary>The default size of text and markers as a fraction of the longer side (ISO/IEC 8632-1, clause
+    /// 8).</summary>
     internal const double DefaultSizeShare = 0.01;
 
     /// <summary>Sizes that no sheet has: past them a factor is taken for a mistake of its writer.</summary>
-    private const double LeastMillimetres = 1;
+    private const double MinMillimetres = 1;
     private const double MaxMillimetres = 20_000;
 
     private const double DefaultIntegerExtent = 32_767;
@@ -45,7 +47,8 @@ internal readonly record struct PictureFrame(Bounds2 Region, Affine2 ToPage, dou
         if (state.Extent is VdcExtent stated
             && stated.FirstCorner.X != stated.SecondCorner.X && stated.FirstCorner.Y != stated.SecondCorner.Y)
         {
-            return new CgmRectangle(stated.FirstCorner.X, stated.FirstCorner.Y, stated.SecondCorner.X, stated.SecondCorner.Y);
+            (CgmPoint first, CgmPoint second) = (stated.FirstCorner, stated.SecondCorner);
+            return new CgmRectangle(first.X, first.Y, second.X, second.Y);
         }
 
         double side = state.HasRealCoordinates ? 1 : DefaultIntegerExtent;
@@ -66,6 +69,6 @@ internal readonly record struct PictureFrame(Bounds2 Region, Affine2 ToPage, dou
         }
 
         double size = Math.Abs(factor) * longest;
-        return size is >= LeastMillimetres and <= MaxMillimetres ? Math.Abs(factor) : null;
+        return size is >= MinMillimetres and <= MaxMillimetres ? Math.Abs(factor) : null;
     }
 }

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.DisplayList;
+using ASF = Korvan.CAD.FileFormats.Cgm.Commands.AspectSourceFlags.ASFType;
 using LineCapElement = Korvan.CAD.FileFormats.Cgm.Commands.LineCap;
 
 namespace Korvan.CAD.Rendering.Metafile;
@@ -140,25 +141,25 @@ internal static class StateChanges
             {
                 if (info.Value == AspectSourceFlags.ASFValue.Bundled)
                 {
-                    paint.Bundled.Add((AspectSourceFlags.ASFType)type);
+                    paint.Bundled.Add((ASF)type);
                 }
                 else
                 {
-                    paint.Bundled.Remove((AspectSourceFlags.ASFType)type);
+                    paint.Bundled.Remove((ASF)type);
                 }
             }
         }
     }
 
-    /// <summary>The flags that a flag of a group stands for.</summary>
-    private static (int First, int Last) Group(AspectSourceFlags.ASFType type) => type switch
+    /// <summary>The range of flags of a group.</summary>
+    private static (int First, int Last) Group(ASF type) => type switch
     {
-        AspectSourceFlags.ASFType.All => (0, (int)AspectSourceFlags.ASFType.EdgeColour),
-        AspectSourceFlags.ASFType.AllLine => (0, (int)AspectSourceFlags.ASFType.LineColour),
-        AspectSourceFlags.ASFType.AllMarker => ((int)AspectSourceFlags.ASFType.MarkerType, (int)AspectSourceFlags.ASFType.MarkerColour),
-        AspectSourceFlags.ASFType.AllText => ((int)AspectSourceFlags.ASFType.TextFontIndex, (int)AspectSourceFlags.ASFType.TextColour),
-        AspectSourceFlags.ASFType.AllFill => ((int)AspectSourceFlags.ASFType.InteriorStyle, (int)AspectSourceFlags.ASFType.PatternIndex),
-        AspectSourceFlags.ASFType.AllEdge => ((int)AspectSourceFlags.ASFType.EdgeType, (int)AspectSourceFlags.ASFType.EdgeColour),
+        ASF.All => (0, (int)ASF.EdgeColour),
+        ASF.AllLine => (0, (int)ASF.LineColour),
+        ASF.AllMarker => ((int)ASF.MarkerType, (int)ASF.MarkerColour),
+        ASF.AllText => ((int)ASF.TextFontIndex, (int)ASF.TextColour),
+        ASF.AllFill => ((int)ASF.InteriorStyle, (int)ASF.PatternIndex),
+        ASF.AllEdge => ((int)ASF.EdgeType, (int)ASF.EdgeColour),
         _ => ((int)type, (int)type),
     };
 

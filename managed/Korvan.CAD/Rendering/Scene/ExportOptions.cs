@@ -19,22 +19,24 @@ internal sealed class ExportOptions
     private const double DefaultPixels = 1600;
     private const double DefaultBorderShare = 0.02;
 
+    private readonly ExportContext _context;
     private readonly ImageOptionsBase _options;
     private readonly VectorRasterizationOptions? _vector;
     private readonly CadRasterizationOptions? _cad;
     private readonly DeviceKind _device;
     private readonly double _unitsPerInch;
 
-    internal ExportOptions(ImageOptionsBase options, DeviceKind device, double unitsPerInch)
+    internal ExportOptions(ExportContext context, DeviceKind device, double unitsPerInch)
     {
-        _options = options;
+        _context = context;
+        _options = context.Options;
         _device = device;
         _unitsPerInch = unitsPerInch;
-        _vector = options.VectorRasterizationOptions;
+        _vector = _options.VectorRasterizationOptions;
         _cad = _vector as CadRasterizationOptions;
     }
 
-    internal RenderNotes Notes => _options.Notes;
+    internal RenderNotes Notes => _context.Notes;
 
     internal IReadOnlyList<string> Layouts => _cad?.Layouts ?? [];
 
@@ -102,7 +104,7 @@ internal sealed class ExportOptions
             ModelView = _cad?.ObserverPoint is ObserverPoint eye
                 ? ViewTransform.Turned(eye.RotationAngleX, eye.RotationAngleY, eye.RotationAngleZ)
                 : Affine3.Identity,
-            Checkpoint = Deadline(),
+            Checkpoint = _context.Checkpoint,
         };
     }
 
@@ -159,24 +161,6 @@ internal sealed class ExportOptions
         double? millimetres = _device == DeviceKind.Pixels || _vector == null ? null : LengthUnits.Millimetres(
             _vector.UnitType);
         return millimetres is double mm ? mm * UnitsPerMillimetre : 1;
-    }
-
-    private Action? Deadline()
-    {
-        if (_options.Timeout <= 0)
-        {
-            return null;
-        }
-
-        long end = Environment.TickCount64 + _options.Timeout;
-        return () =>
-        {
-            if (Environment.TickCount64 > end)
-            {
-                throw new OperationInterruptedException(
-                    $"The export was not done after {_options.Timeout} milliseconds, the time that its options allow.");
-            }
-        };
     }
 
     private static Rgba ToRgba(Color color) =>

@@ -27,9 +27,9 @@ internal static class LayerChoice
 
     /// <summary>Notes names that no layer of the drawing has; where none of them has one, nothing would be drawn, and
     /// that is refused.</summary>
-    internal static void Verify(CadDrawing drawing, ImageOptionsBase options)
+    internal static void Verify(CadDrawing drawing, ExportContext context)
     {
-        if (Of(options) is not { } wanted)
+        if (Of(context.Options) is not { } wanted)
         {
             return;
         }
@@ -50,7 +50,7 @@ internal static class LayerChoice
 
         foreach (string name in missing)
         {
-            options.Notes.Add(RenderErrorCode.LayerNotFound,
+            context.Notes.Add(RenderErrorCode.LayerNotFound,
                 $"layer \"{name}\" was asked for, but the drawing has none of this name");
         }
     }

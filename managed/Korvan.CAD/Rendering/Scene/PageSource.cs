@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.DisplayList;
@@ -27,14 +28,14 @@ internal sealed class PageSource
     private double? _sharedScale;
 
     internal PageSource(
-        IVectorImage image, ImageOptionsBase options, TextEngine engine, DeviceKind device, double unitsPerInch)
+        VectorScene scene, ExportContext context, TextEngine engine, DeviceKind device, double unitsPerInch)
     {
         _engine = engine;
         _device = device;
-        _options = new ExportOptions(options, device, unitsPerInch);
-        _format = options.TargetFormat.ToString();
-        _scene = image.OpenScene();
-        _layouts = _scene.Choose(_options.Layouts);
+        _options = new ExportOptions(context, device, unitsPerInch);
+        _format = context.Options.TargetFormat.ToString();
+        _scene = scene;
+        _layouts = scene.Choose(_options.Layouts);
     }
 
     internal IEnumerable<Page> Pages()
@@ -84,8 +85,11 @@ internal sealed class PageSource
         }
 
         Verify(place);
-        PaintSettings settings = Settings(place, sheet?.Region);
-        return new Page(layout.Name, place.Width, place.Height, list, settings) { Overlay = Watermark(place) };
+        return new Page(layout.Name, place.Width, place.Height, list, Settings(place, sheet?.Region))
+        {
+            Overlay = Watermark(place),
+            Notes = _options.Notes,
+        };
     }
 
     private void Verify(in PageLayout place)

@@ -14,13 +14,12 @@ internal sealed record Picture(int Width, int Height, byte[] Pixels)
     /// reader.</summary>
     internal static Picture? Decode(byte[] data, string name)
     {
-        FileFormat format = FormatDetector.Detect(data.AsSpan(0, Math.Min(data.Length, FormatDetector.HeadLength)));
-        if (!RasterLoader.CanRead(format))
+        if (RasterCodecs.Detect(data) is not { } codec)
         {
             return null;
         }
 
-        DecodedFile decoded = RasterLoader.Decode(data, name, format, lenient: true);
+        DecodedFile decoded = codec.Decode(data, name, lenient: true);
         Picture picture = From(decoded.Frames[0].Pixels);
         decoded.Frames.ForEach(static frame => frame.Dispose());
         return picture;
@@ -36,7 +35,7 @@ internal sealed record Picture(int Width, int Height, byte[] Pixels)
             foreach (ref int pixel in row)
             {
                 int alpha = pixel >>> 24;
-                pixel = alpha == 255 ? pixel : BitPacking.Multiplied(pixel, alpha);
+                pixel = alpha == 255 ? pixel : BitPacking.Premultiply(pixel, alpha);
             }
 
             MemoryMarshal.AsBytes(row).CopyTo(bytes.AsSpan(y * pixels.Width * 4));

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
@@ -72,7 +73,7 @@ internal sealed partial class SceneBuilder : IGeometrySink
             return;
         }
 
-        if (entity is CadInsertObject insert)
+        if (entity is CadInsertObject insert and not CadTableEntity)
         {
             DrawInsert(insert, layer, context);
         }

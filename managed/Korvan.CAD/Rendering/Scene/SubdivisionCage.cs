@@ -1,36 +1,14 @@
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
 
-/// <summary>The cage of a subdivision mesh: its vertices, then faces as counts followed by indexes.</summary>
-internal sealed record SubdivisionCage(List<Vec3> Points, List<int> Indexes)
+/// <summary>The control mesh of a subdivision mesh: its vertices, then faces as counts followed by indices.</summary>
+internal sealed record SubdivisionCage(IReadOnlyList<Vec3> Points, IReadOnlyList<int> Indexes)
 {
-    internal static SubdivisionCage Read(TagCursor tags)
-    {
-        var cage = new SubdivisionCage([], []);
-        bool inFaces = false;
-        while (tags.Next())
-        {
-            switch (tags.Code)
-            {
-                case 10 when !inFaces:
-                    cage.Points.Add(tags.Point());
-                    break;
-                case 93:
-                    inFaces = true;
-                    break;
-                case 94:
-                    inFaces = false;
-                    break;
-                case 90 when inFaces:
-                    cage.Indexes.Add(tags.Integer);
-                    break;
-            }
-        }
-
-        return cage;
-    }
+    internal static SubdivisionCage Read(CadMesh mesh) =>
+        new(mesh.Vertices.ConvertAll(static p => new Vec3(p.X, p.Y, p.Z)), mesh.FaceList);
 
     /// <summary>The corners of each face; faces with missing corners are left out.</summary>
     internal IEnumerable<Vec3[]> Faces()

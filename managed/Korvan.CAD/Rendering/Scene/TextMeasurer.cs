@@ -1,3 +1,5 @@
+using System;
+using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -22,9 +24,9 @@ internal sealed class TextMeasurer : ITextMeasurer
         {
             return new TextMeasurer(SceneReader.ReadTables(drawing), new TextEngine());
         }
-        catch (RenderException)
+        catch (Exception e) when (e is RenderException or CadException)
         {
-            return null;
+            return null; // neither missing libraries nor a damaged header keep the rest from being measured
         }
     }
 

@@ -40,9 +40,3 @@ internal abstract class VectorScene
         return chosen;
     }
 }
-
-/// <summary>An image that is drawn from lines, areas and texts.</summary>
-internal interface IVectorImage
-{
-    VectorScene OpenScene();
-}

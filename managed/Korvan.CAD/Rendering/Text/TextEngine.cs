@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.Text;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Native;
 
@@ -43,6 +44,7 @@ internal sealed unsafe class TextEngine : IDisposable
     internal TextEngine(GlyphRendering look = default, FontFolders? folders = null)
     {
         NativeLibraries.Require();
+        FontTable.ListInstalled = static () => Fontconfig.ListFonts();
         _folders = folders;
         _fontMap = new NativeHandle(Pango.CairoFontMapNew(), &Pango.Unref);
         if (_folders is not null)

@@ -47,7 +47,7 @@ internal static class CSharpValues
         _ => name,
     };
 
-    /// <summary>As <see cref="Read"/>, where null is refused under the name that Python knows the place by.</summary>
+    /// <summary>As <see cref="Read"/>, where null is rejected under the name that Python knows the place by.</summary>
     public static string ReadGiven(ValueUse value, string name, string place) =>
         value.IsReference && !value.IsOptional
             ? $"({Read(value, name)} ?? throw Required.Missing(\"{place}\"))"
@@ -160,7 +160,7 @@ internal static class CSharpValues
         _ => $"References.WriteAny({expression}, {target})",
     };
 
-    // The flag is always written; what stands behind it only when there is a value.
+    // The flag is always written; what follows it only when there is a value.
     private static IEnumerable<string> DeliverNullable(ValueUse value, string expression)
     {
         ValueUse inner = value.Element!;

@@ -1,4 +1,5 @@
 using System.Collections.Generic;
+using System.Globalization;
 using System.Linq;
 using Korvan.WrpGen.Model;
 
@@ -55,7 +56,7 @@ internal sealed class GenericWriter
         string[] positions =
         [
             .. new[] { CallbackTable.List, CallbackTable.Iterator, CallbackTable.Sequence }
-                .Select(table => _callbacks.Of(table, _use).ToString(System.Globalization.CultureInfo.InvariantCulture)),
+                .Select(table => _callbacks.Of(table, _use).ToString(CultureInfo.InvariantCulture)),
             $"PyListUse.{_use.ListUse}",
             _in.EndsWith('*') ? "true" : "false",
         ];

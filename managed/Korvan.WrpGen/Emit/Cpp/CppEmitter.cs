@@ -178,7 +178,7 @@ public static class CppEmitter
         writer.Line().Line("#endif");
     }
 
-    // The namespaces that the unit's members speak of.
+    // The namespaces that the unit's members refer to.
     private static IEnumerable<string> HeadersFor(
         BindingModel model, ModuleModel module, IReadOnlyList<TypeModel> types)
     {

@@ -14,11 +14,11 @@ internal sealed class GenericUnitWriter(BindingModel model, CodeWriter writer)
     private sealed record Wrapper(
         string Prefix, string Name, string What, GenericHost Host, string Protocol, string Hosts, bool IsConcrete);
 
-    private static readonly Wrapper s_iterator = new(
+    private static readonly Wrapper IteratorWrapper = new(
         "iter", "_IterWrapper", "IEnumerator", GenericHost.Iter, "iterator",
         ".iterator_host = &PyHost_gn_Iter_{0}", false);
 
-    private static readonly Dictionary<ValueKind, Wrapper> s_wrappers = new()
+    private static readonly Dictionary<ValueKind, Wrapper> Wrappers = new()
     {
         [ValueKind.Array] = new("array", "_ArrayWrapper", "Array", GenericHost.Array, "array",
             ".list_host = &PyHost_gn_Array_{0}", true),
@@ -98,16 +98,16 @@ internal sealed class GenericUnitWriter(BindingModel model, CodeWriter writer)
     }
 
     private static IEnumerable<Wrapper> WrappersOf(ElementUse use) =>
-        use.Kinds.Where(kind => kind != ValueKind.IEnumerator).Select(kind => s_wrappers[kind]).Prepend(s_iterator);
+        use.Kinds.Where(kind => kind != ValueKind.IEnumerator).Select(kind => Wrappers[kind]).Prepend(IteratorWrapper);
 
     private void WriteWrapper(ElementUse use, Wrapper wrapper, string ops)
     {
         string symbol = $"{wrapper.Prefix}_{use.Hash}";
         string binding = CppValues.Binding(use.Element) is { } found ? $" .element_type = {found}," : "";
-        string walk = wrapper == s_iterator
+        string walk = wrapper == IteratorWrapper
             ? ""
             : $" .iterator = &iter_{use.Hash}, .iterable_host = &PyHost_gn_Iterable_{use.Hash},";
-        string dispose = wrapper == s_iterator ? "KORVAN_ENTER_EXIT, " : "";
+        string dispose = wrapper == IteratorWrapper ? "KORVAN_ENTER_EXIT, " : "";
         writer.Line($"static PyMethodDef methods_{symbol}[] = {{{dispose}KORVAN_WRAPPER_METHODS({symbol}), {{}}}};");
         writer.Line($"static ClassBinding* const interfaces_{symbol}[] = " +
             $"{CppValues.PointerList(Interfaces(use, wrapper))};");
@@ -158,6 +158,6 @@ internal sealed class GenericUnitWriter(BindingModel model, CodeWriter writer)
                 ["&wrpPye_tyds_IterableWrapper", "&wrpPye_tyds_IColWrapper", "&wrpPye_tyds_IListWrapper"],
             _ => ["&wrpPye_tyds_IterableWrapper"],
         };
-        return untyped.Concat(typed.Where(use.Has).Select(kind => $"&{s_wrappers[kind].Prefix}_{use.Hash}"));
+        return untyped.Concat(typed.Where(use.Has).Select(kind => $"&{Wrappers[kind].Prefix}_{use.Hash}"));
     }
 }

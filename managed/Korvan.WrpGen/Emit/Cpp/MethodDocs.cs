@@ -13,13 +13,13 @@ namespace Korvan.WrpGen.Emit.Cpp;
 /// </summary>
 internal static class MethodDocs
 {
-    private static readonly HashSet<string> s_shadowed = [];
+    private static readonly HashSet<string> Shadowed = [];
 
     /// <summary>A C string literal.</summary>
     public static string Literal(TypeModel type, MethodGroup group, bool isMixed)
     {
-        MethodModel first = group.Legs[0];
-        bool hasSignature = !isMixed && group.Legs.Count == 1 &&
+        MethodModel first = group.Overloads[0];
+        bool hasSignature = !isMixed && group.Overloads.Count == 1 &&
             !first.Parameters.Any(parameter => PythonName.IsKeyword(parameter.PythonName));
         return Quote(hasSignature ? Signature(group, first) : Forms(type, group));
     }
@@ -29,23 +29,24 @@ internal static class MethodDocs
         Quote($"set_{property.PythonName}(value, /)\n--\n\n{string.Join('\n', Docstring.Lines(property.Doc))}");
 
     // The notation that inspect.signature takes apart.
-    private static string Signature(MethodGroup group, MethodModel leg)
+    private static string Signature(MethodGroup group, MethodModel overload)
     {
-        IEnumerable<string> names = leg.Parameters.Select(parameter => parameter.PythonName);
+        IEnumerable<string> names = overload.Parameters.Select(parameter => parameter.PythonName);
         string list = string.Join(", ", group.IsStatic ? names : names.Prepend("$self"));
-        return $"{group.PythonName}({list})\n--\n\n{string.Join('\n', Docstring.Lines(leg.Doc))}";
+        return $"{group.PythonName}({list})\n--\n\n{string.Join('\n', Docstring.Lines(overload.Doc))}";
     }
 
     private static string Forms(TypeModel type, MethodGroup group)
     {
-        var types = new PythonTypes(type.Module, s_shadowed);
-        IEnumerable<string> forms = group.Legs.Select(leg =>
+        var types = new PythonTypes(type.Module, Shadowed);
+        IEnumerable<string> forms = group.Overloads.Select(overload =>
         {
             string parameters = string.Join(
-                ", ", leg.Parameters.Select(parameter => $"{parameter.PythonName}: {types.Parameter(parameter)}"));
-            string head = $"{group.PythonName}({parameters}) -> {types.Result(leg.Result)}";
-            IEnumerable<string> lines = Docstring.Lines(leg.Doc).Select(line => line.Length > 0 ? "    " + line : line);
-            return string.Join('\n', lines.Prepend(head));
+                ", ", overload.Parameters.Select(parameter => $"{parameter.PythonName}: {types.Parameter(parameter)}"));
+            string signature = $"{group.PythonName}({parameters}) -> {types.Result(overload.Result)}";
+            IEnumerable<string> lines = Docstring.Lines(overload.Doc)
+                .Select(line => line.Length > 0 ? "    " + line : line);
+            return string.Join('\n', lines.Prepend(signature));
         });
         return string.Join("\n\n", forms);
     }

@@ -66,7 +66,7 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
     {
         string name = $"{_symbol}_{(group.IsStatic ? "static_" : "")}{group.PythonName}";
         WriteGroup(name, group);
-        bool takesNothing = group.Legs.Count == 1 && group.Legs[0].Parameters.Count == 0;
+        bool takesNothing = group.Overloads.Count == 1 && group.Overloads[0].Parameters.Count == 0;
         string macro = row + (group.IsStatic ? "_STATIC" : "") + (takesNothing ? "_NOARGS" : "");
         string doc = MethodDocs.Literal(type, group, isMixed: row == "KORVAN_MIXED");
         return $"{macro}(\"{group.PythonName}\", method_{name}, {doc})";
@@ -74,28 +74,33 @@ internal sealed class TypeUnitWriter(CodeWriter writer, BindingModel model, Type
 
     private void WriteGroup(string name, MethodGroup group)
     {
-        string[] rows = [.. group.Legs.Select((leg, at) => WriteLeg($"parameters_{name}_{at:000}", leg))];
-        writer.Line($"static const Leg legs_{name}[] = {{");
+        string[] rows =
+        [
+            .. group.Overloads.Select((overload, at) => WriteOverload($"parameters_{name}_{at:000}", overload)),
+        ];
+        writer.Line($"static const Overload overloads_{name}[] = {{");
         writer.Indented(() => Array.ForEach(rows, row => writer.Line(row + ",")));
         writer.Line("};");
         string isStatic = group.IsStatic ? ", true" : "";
-        writer.Line($"static const Method method_{name} = {{&class_{_symbol}, legs_{name}, {rows.Length}{isStatic}}};");
+        writer.Line(
+            $"static const Method method_{name} = {{&class_{_symbol}, overloads_{name}, {rows.Length}{isStatic}}};");
     }
 
-    private string WriteLeg(string parameters, MethodModel leg)
+    private string WriteOverload(string parameters, MethodModel overload)
     {
-        IEnumerable<string> policies = leg.Parameters.Select(CppValues.Argument);
-        string call = leg.IsConstructor ? "construct" : leg.IsStatic ? "call_static" : "call";
-        IEnumerable<string> arguments = leg.IsConstructor ? policies : policies.Prepend(CppValues.Result(leg.Result));
+        IEnumerable<string> policies = overload.Parameters.Select(CppValues.Argument);
+        string call = overload.IsConstructor ? "construct" : overload.IsStatic ? "call_static" : "call";
+        IEnumerable<string> arguments =
+            overload.IsConstructor ? policies : policies.Prepend(CppValues.Result(overload.Result));
         string table = "nullptr";
-        if (leg.Parameters.Count > 0)
+        if (overload.Parameters.Count > 0)
         {
             table = parameters;
-            WriteParameters(parameters, leg.Parameters);
+            WriteParameters(parameters, overload.Parameters);
         }
-        int slot = leg.Owner.SlotOf(leg.Delegate);
-        string resultType = CppValues.Binding(leg.Result) ?? "nullptr";
-        return $"{{&PyHost_cs_{leg.Owner.Symbol}, {slot}, {leg.Parameters.Count}, {table}, {resultType}, " +
+        int slot = overload.Owner.SlotOf(overload.Delegate);
+        string resultType = CppValues.Binding(overload.Result) ?? "nullptr";
+        return $"{{&PyHost_cs_{overload.Owner.Symbol}, {slot}, {overload.Parameters.Count}, {table}, {resultType}, " +
             $"{call}<{string.Join(", ", arguments)}>}}";
     }
 

@@ -118,9 +118,9 @@ internal sealed class TypePage(
         foreach (IGrouping<string, MethodGroup> name in methods)
         {
             _writer.Line($"### {name.Key}").Line();
-            foreach (MethodModel leg in name.SelectMany(group => group.Legs))
+            foreach (MethodModel overload in name.SelectMany(group => group.Overloads))
             {
-                Form(leg, leg.PythonName);
+                Form(overload, overload.PythonName);
             }
         }
     }

@@ -35,18 +35,19 @@ public static class StubEmitter
         {
             StubTypeWriter.Write(body, type, nested, imports);
         }
-        var head = new CodeWriter();
-        head.Line(Note).Line("import builtins").Line("import collections.abc").Line("import contextlib").Line("import datetime");
-        head.Line("import decimal").Line("import enum").Line("import typing").Line("import uuid").Line();
+        var header = new CodeWriter();
+        header.Line(Note);
+        header.Line("import builtins").Line("import collections.abc").Line("import contextlib").Line("import datetime");
+        header.Line("import decimal").Line("import enum").Line("import typing").Line("import uuid").Line();
         foreach (string import in imports.Where(name => name != module.Name))
         {
-            head.Line($"import {import}");
+            header.Line($"import {import}");
         }
         foreach (ModuleModel child in module.Children.Where(child => !PythonName.IsKeyword(child.ShortName)))
         {
-            head.Line($"from . import {child.ShortName} as {child.ShortName}");
+            header.Line($"from . import {child.ShortName} as {child.ShortName}");
         }
-        return head.Line() + own + body.ToString();
+        return header.Line() + own + body.ToString();
     }
 
     private static string Resource(string name)

@@ -205,7 +205,7 @@ internal sealed class StubTypeWriter
             return;
         }
         _writer.Line($"@{_types.Builtin("property")}");
-        WriteHead($"def {name}(self) -> {_types.Result(property.Value)}:", property.Doc);
+        WriteHeader($"def {name}(self) -> {_types.Result(property.Value)}:", property.Doc);
         if (property.CanWrite)
         {
             _writer.Line($"@{name}.setter");
@@ -226,9 +226,9 @@ internal sealed class StubTypeWriter
             WriteMixed(main.PythonName, forms);
             return;
         }
-        foreach (MethodModel leg in main.Legs)
+        foreach (MethodModel overload in main.Overloads)
         {
-            WriteFunction(main.PythonName, leg, _types.Result(leg.Result), main.Legs.Count > 1);
+            WriteFunction(main.PythonName, overload, _types.Result(overload.Result), main.Overloads.Count > 1);
         }
     }
 
@@ -243,14 +243,15 @@ internal sealed class StubTypeWriter
             _writer.Line($"class {stem}{(form.IsStatic ? "OnClass" : "OnInstance")}(typing.Protocol):");
             _writer.Indented(() =>
             {
-                foreach (MethodModel leg in form.Legs)
+                foreach (MethodModel overload in form.Overloads)
                 {
-                    WriteFunction("__call__", leg, _types.Result(leg.Result), form.Legs.Count > 1, hasSelf: true);
+                    bool isOverload = form.Overloads.Count > 1;
+                    WriteFunction("__call__", overload, _types.Result(overload.Result), isOverload, hasSelf: true);
                 }
             });
         }
         string mixed = _types.Support("MixedMethod");
-        bool overrides = forms.SelectMany(form => form.Legs).Any(leg => leg.Owner != _type);
+        bool overrides = forms.SelectMany(form => form.Overloads).Any(overload => overload.Owner != _type);
         string note = overrides ? "  # type: ignore[override]" : "";
         _writer.Line($"{name}: {mixed}[{stem}OnInstance, {stem}OnClass]{note}");
     }
@@ -260,13 +261,13 @@ internal sealed class StubTypeWriter
         foreach (PropertyModel value in _type.StaticProperties.Where(property => property.CanWrite))
         {
             _writer.Line($"@{_types.Builtin("staticmethod")}");
-            WriteHead($"def set_{value.PythonName}(value: {_types.Accepted(value.Given)}, /) -> None:", value.Doc);
+            WriteHeader($"def set_{value.PythonName}(value: {_types.Accepted(value.Given)}, /) -> None:", value.Doc);
         }
     }
 
-    private void WriteFunction(string name, MethodModel leg, string result, bool isOverload, bool hasSelf = false)
+    private void WriteFunction(string name, MethodModel overload, string result, bool isOverload, bool hasSelf = false)
     {
-        hasSelf |= !leg.IsStatic;
+        hasSelf |= !overload.IsStatic;
         if (isOverload)
         {
             _writer.Line("@typing.overload");
@@ -275,11 +276,11 @@ internal sealed class StubTypeWriter
         {
             _writer.Line($"@{_types.Builtin("staticmethod")}");
         }
-        IEnumerable<string> parameters = leg.Parameters.Select(Parameter);
+        IEnumerable<string> parameters = overload.Parameters.Select(Parameter);
         string list = string.Join(", ", hasSelf ? parameters.Prepend("self") : parameters);
-        // Legs that a base declares stand behind those of the class itself, as they are tried.
-        string note = isOverload && leg.Owner != _type ? "  # type: ignore[override]" : "";
-        WriteHead($"def {name}({list}) -> {result}:", leg.Doc, note);
+        // Overloads that a base declares follow those of the class itself, in the order of trial.
+        string note = isOverload && overload.Owner != _type ? "  # type: ignore[override]" : "";
+        WriteHeader($"def {name}({list}) -> {result}:", overload.Doc, note);
     }
 
     private string Parameter(ParameterModel parameter)
@@ -288,14 +289,14 @@ internal sealed class StubTypeWriter
         return $"{name}: {_types.Parameter(parameter)}";
     }
 
-    private void WriteHead(string head, DocText doc, string note = "")
+    private void WriteHeader(string header, DocText doc, string note = "")
     {
         if (doc.IsEmpty)
         {
-            _writer.Line(head + " ..." + note);
+            _writer.Line(header + " ..." + note);
             return;
         }
-        _writer.Line(head + note);
+        _writer.Line(header + note);
         _writer.Indented(() => Docstring.Write(_writer, doc));
     }
 }

@@ -23,7 +23,7 @@ class BoundObject:
         """The managed type that this type stands for."""
     @classmethod
     def _cast_to(cls, value: typing.Any, /) -> CastResult[typing.Self]:
-        """Looks at an object, or at a Python value as managed code takes it, as one of this type.
+        """Views an object, or a Python value as managed code takes it, as one of this type.
 
         :returns: A result that is true and has the `value` when the object is one, else false.
         """
@@ -42,7 +42,7 @@ class BoundObject:
         """
     @classmethod
     def _cast_as(cls, value: typing.Any, /) -> CastResult[typing.Self]:
-        """Looks at a bound object as one of this type.
+        """Views a bound object as one of this type.
 
         :returns: A result that is true and has the `value` when the object is one, else false.
         """
@@ -65,7 +65,7 @@ class MixedMethod(typing.Generic[OnInstance, OnClass]):
     def __get__(self, instance: object, owner: type | None = ..., /) -> OnInstance: ...
 
 class TextSequence(typing.Protocol):
-    """A sequence of texts. A text itself is none: it would be taken letter by letter."""
+    """A sequence of strings. A string itself is none: it would be taken character by character."""
 
     def __len__(self) -> int: ...
     def __iter__(self) -> collections.abc.Iterator[str]: ...

@@ -17,8 +17,8 @@ internal static class KeptReferences
 {
     // What is kept is counted by cost: of files, a process may have 1,024.
     private const int StreamCost = 8;
-    private const int MostYoungCost = 1024;
-    private const int FewestOld = 256;
+    private const int MaxYoungCost = 1024;
+    private const int MinOld = 256;
 
     // The size of the process is asked for each time so many were kept, or each time while it grows quickly.
     private const int DefaultInterval = 8;
@@ -29,35 +29,35 @@ internal static class KeptReferences
     private const int YoungGenerations = 1;
 
     // Nothing here has an initial value: a class without a constructor of its statics is asked for them faster.
-    private static Entry[]? s_entries;
-    private static int s_count;
+    private static Entry[]? _entries;
+    private static int _count;
 
-    // Entries ahead of s_middle lie in the second generation of the collector, those ahead of s_old in the oldest, of
-    // which a collection is dear. It is made when they have become half as many again.
-    private static int s_middle;
-    private static int s_old;
-    private static int s_oldAtLast;
-    private static (int Any, int Young, int Old) s_collections;
+    // Entries ahead of _middle lie in the second generation of the collector, those ahead of _old in the oldest, of
+    // which a collection is expensive. It is made when they have become half as many again.
+    private static int _middle;
+    private static int _old;
+    private static int _oldAtLast;
+    private static (int Any, int Young, int Old) _collections;
 
-    private static int s_cost;
-    private static int s_keptUntilLook;
-    private static long s_sizeAtLook;
-    private static long s_sizeAtYoung;
-    private static long s_sizeAtOld;
+    private static int _cost;
+    private static int _keptUntilCheck;
+    private static long _sizeAtCheck;
+    private static long _sizeAtYoung;
+    private static long _sizeAtOld;
 
-    private static bool s_isSettling;
-    private static volatile bool s_isDue;
+    private static bool _isSettling;
+    private static volatile bool _isDue;
 
     /// <summary>Counts what is about to be kept, so that <see cref="Settle"/> makes room for it in time.</summary>
     internal static void Note(bool isStream)
     {
-        s_cost += isStream ? StreamCost : 1;
-        if (--s_keptUntilLook <= 0 || s_cost >= MostYoungCost)
+        _cost += isStream ? StreamCost : 1;
+        if (--_keptUntilCheck <= 0 || _cost >= MaxYoungCost)
         {
-            s_isDue = true;
+            _isDue = true;
         }
         // Where nobody settles: items put into a managed collection.
-        if (s_cost >= 2 * MostYoungCost)
+        if (_cost >= 2 * MaxYoungCost)
         {
             Settle();
         }
@@ -65,31 +65,31 @@ internal static class KeptReferences
 
     internal static void Add(KeptPyReference reference, nint value)
     {
-        if (s_entries is null)
+        if (_entries is null)
         {
-            s_entries = new Entry[64];
+            _entries = new Entry[64];
             _ = new CollectionWatch();
         }
-        if (s_count == s_entries.Length)
+        if (_count == _entries.Length)
         {
-            Array.Resize(ref s_entries, 2 * s_count);
+            Array.Resize(ref _entries, 2 * _count);
         }
-        s_entries[s_count].Fill(reference, value);
-        reference.Place = s_count++;
+        _entries[_count].Fill(reference, value);
+        reference.Place = _count++;
     }
 
     internal static void Remove(KeptPyReference reference)
     {
-        s_entries![reference.Place].Clear();
-        Move(--s_count, reference.Place);
-        s_middle = int.Min(s_middle, s_count);
-        s_old = int.Min(s_old, s_count);
+        _entries![reference.Place].Clear();
+        Move(--_count, reference.Place);
+        _middle = int.Min(_middle, _count);
+        _old = int.Min(_old, _count);
     }
 
     /// <summary>Gives back what is dead. Belongs where no call is half done: Python code may run.</summary>
     internal static void Settle()
     {
-        if (s_isDue && !s_isSettling)
+        if (_isDue && !_isSettling)
         {
             SettleNow();
         }
@@ -97,63 +97,63 @@ internal static class KeptReferences
 
     private static void SettleNow()
     {
-        s_isSettling = true;
-        s_isDue = false;
+        _isSettling = true;
+        _isDue = false;
         Collect();
         // All of them are off the list before the first one goes: that runs Python code, which may come back here.
         List<nint> dead = TakeDead();
-        s_isSettling = false;
+        _isSettling = false;
         dead.ForEach(PyObjects.DecRef);
     }
 
     private static void Collect()
     {
         long size = ProcessMemory.Used();
-        bool isQuick = size - s_sizeAtLook >= QuickGrowth;
-        bool isFirst = s_sizeAtLook == 0;
-        s_sizeAtLook = size;
-        s_sizeAtYoung = isFirst ? size : long.Min(s_sizeAtYoung, size);
-        s_sizeAtOld = isFirst ? size : long.Min(s_sizeAtOld, size);
-        if (s_cost >= MostYoungCost || size - s_sizeAtYoung >= YoungGrowth)
+        bool isQuick = size - _sizeAtCheck >= QuickGrowth;
+        bool isFirst = _sizeAtCheck == 0;
+        _sizeAtCheck = size;
+        _sizeAtYoung = isFirst ? size : long.Min(_sizeAtYoung, size);
+        _sizeAtOld = isFirst ? size : long.Min(_sizeAtOld, size);
+        if (_cost >= MaxYoungCost || size - _sizeAtYoung >= YoungGrowth)
         {
-            bool isOld = s_old >= s_oldAtLast + (s_oldAtLast / 2) + FewestOld || size - s_sizeAtOld >= OldGrowth;
+            bool isOld = _old >= _oldAtLast + (_oldAtLast / 2) + MinOld || size - _sizeAtOld >= OldGrowth;
             GC.Collect(isOld ? GC.MaxGeneration : YoungGenerations, GCCollectionMode.Forced, blocking: true);
-            s_cost = 0;
-            s_sizeAtYoung = size;
-            s_sizeAtOld = isOld ? size : s_sizeAtOld;
+            _cost = 0;
+            _sizeAtYoung = size;
+            _sizeAtOld = isOld ? size : _sizeAtOld;
         }
-        s_keptUntilLook = isQuick ? 1 : DefaultInterval;
+        _keptUntilCheck = isQuick ? 1 : DefaultInterval;
     }
 
     private static List<nint> TakeDead()
     {
         var dead = new List<nint>();
-        (int any, int young, int old) = s_collections;
-        s_collections = CollectionCounts();
-        if (s_collections.Any == any)
+        (int any, int young, int old) = _collections;
+        _collections = CollectionCounts();
+        if (_collections.Any == any)
         {
             return dead;
         }
-        bool isOld = s_collections.Old != old;
-        int live = isOld ? 0 : s_old;
+        bool isOld = _collections.Old != old;
+        int live = isOld ? 0 : _old;
         int promoted = 0;
-        for (int at = live; at < s_count; at++)
+        for (int at = live; at < _count; at++)
         {
-            promoted = at == s_middle ? live : promoted;
-            if (s_entries![at].IsAlive)
+            promoted = at == _middle ? live : promoted;
+            if (_entries![at].IsAlive)
             {
                 Move(at, live++);
             }
             else
             {
-                dead.Add(s_entries[at].Value);
-                s_entries[at].Clear();
+                dead.Add(_entries[at].Value);
+                _entries[at].Clear();
             }
         }
-        promoted = s_middle == s_count ? live : promoted;
-        s_old = s_collections.Young != young ? promoted : s_old;
-        s_count = s_middle = live;
-        s_oldAtLast = isOld ? live : s_oldAtLast;
+        promoted = _middle == _count ? live : promoted;
+        _old = _collections.Young != young ? promoted : _old;
+        _count = _middle = live;
+        _oldAtLast = isOld ? live : _oldAtLast;
         return dead;
     }
 
@@ -165,8 +165,8 @@ internal static class KeptReferences
     {
         if (from != to)
         {
-            (s_entries![to], s_entries[from]) = (s_entries[from], s_entries[to]);
-            s_entries[to].SetPlace(to);
+            (_entries![to], _entries[from]) = (_entries[from], _entries[to]);
+            _entries[to].SetPlace(to);
         }
     }
 
@@ -206,9 +206,9 @@ internal static class KeptReferences
     {
         ~CollectionWatch()
         {
-            if (s_count > 0)
+            if (_count > 0)
             {
-                s_isDue = true;
+                _isDue = true;
             }
             _ = new CollectionWatch();
         }

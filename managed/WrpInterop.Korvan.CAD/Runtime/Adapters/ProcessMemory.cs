@@ -6,7 +6,7 @@ namespace Korvan.WrpGen.Interop;
 /// <summary>What the process takes of the machine's memory.</summary>
 internal static unsafe class ProcessMemory
 {
-    private static bool s_knowsNoFree;
+    private static bool _knowsNoFree;
 
     /// <summary>Bytes that are resident, without what the allocator has ready; 0 where the system does not
     /// tell.</summary>
@@ -15,7 +15,7 @@ internal static unsafe class ProcessMemory
     // What was freed stays with the allocator and serves again: the size of the process alone tells of its peak.
     private static long Free()
     {
-        if (s_knowsNoFree)
+        if (_knowsNoFree)
         {
             return 0;
         }
@@ -25,7 +25,7 @@ internal static unsafe class ProcessMemory
         }
         catch (EntryPointNotFoundException)
         {
-            s_knowsNoFree = true;
+            _knowsNoFree = true;
             return 0;
         }
     }

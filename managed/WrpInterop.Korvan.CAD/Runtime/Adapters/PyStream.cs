@@ -11,9 +11,9 @@ public sealed class PyStream : Stream, IPyAdapter
 {
     private const int BlockSize = 256 * 1024;
 
-    // The block of a call that is over serves the next one: blocks of this size are dear to allocate. Calls run one at
-    // a time, under the interpreter lock; one within another makes its own.
-    private static BufferedStream? s_spare;
+    // The block of a call that is over serves the next one: blocks of this size are expensive to allocate. Calls run
+    // one at a time, under the interpreter lock; one within another makes its own.
+    private static BufferedStream? _spare;
 
     private readonly PyReference _reference;
     private readonly PyRawStream _raw;
@@ -34,8 +34,8 @@ public sealed class PyStream : Stream, IPyAdapter
             _target = _raw;
             return;
         }
-        BufferedStream? spare = s_spare;
-        s_spare = null;
+        BufferedStream? spare = _spare;
+        _spare = null;
         if (spare?.UnderlyingStream is PyRawStream kept)
         {
             kept.Retarget(_raw);
@@ -130,7 +130,7 @@ public sealed class PyStream : Stream, IPyAdapter
         if (_isClean && !_isClosed && _target is BufferedStream buffered)
         {
             _raw.Retarget(null);
-            s_spare = buffered;
+            _spare = buffered;
         }
         _isClosed = true;
         _reference.End();
@@ -300,16 +300,16 @@ internal sealed unsafe class PyRawStream(PyReference reference) : Stream
         return status;
     }
 
-    private int Counted(int count, int most)
+    private int Counted(int count, int max)
     {
         Checked(count);
-        return (uint)count <= (uint)most
+        return (uint)count <= (uint)max
             ? count
-            : throw Failed($"The Python stream speaks of {count} bytes where {most} were asked for.");
+            : throw Failed($"The Python stream reports {count} bytes where {max} were requested.");
     }
 
-    private int Taken(int count, int most) =>
-        Counted(count, most) > 0 ? count : throw Failed("The Python stream takes no more bytes.");
+    private int Taken(int count, int max) =>
+        Counted(count, max) > 0 ? count : throw Failed("The Python stream takes no more bytes.");
 
     private IOException Failed(string message)
     {

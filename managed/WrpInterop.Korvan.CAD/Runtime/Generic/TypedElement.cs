@@ -12,7 +12,8 @@ public enum PyListUse
     /// <summary>Of lists: add, insert, remove, contains. Of sequences: contains, by iteration.</summary>
     Collection,
 
-    /// <summary>Of lists: set_item, add, insert, remove, contains, index_of. Of sequences: contains, index_of.</summary>
+    /// <summary>Of lists: set_item, add, insert, remove, contains, index_of. Of sequences: contains,
+    /// index_of.</summary>
     Edit,
 }
 

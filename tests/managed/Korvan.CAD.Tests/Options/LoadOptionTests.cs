@@ -13,47 +13,55 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Options;
 
-/// <summary>Every load option, and every setting of a change of size, changes what comes out.</summary>
+/// <summary>Every load option, and every resize setting, has an effect.</summary>
 public class LoadOptionTests
 {
     private const string Contour = "VectorizationOptions.ContourOptions.";
     private const string Paper = "VectorizationOptions.PaperToCadOptions.";
 
-    private static readonly byte[] Letters = Drawing("\u00C4");
-    private static readonly byte[] Broken = Encoding.Latin1.GetBytes(DxfText.Drawing(0, "LINE", 8, "0", 10, "west", 0, "POINT", 8, "0", 10, 1, 20, 2));
+    private static readonly byte[] Text = Drawing("\u00C4");
+    private static readonly byte[] Broken = Encoding.Latin1.GetBytes(
+        DxfText.Drawing(0, "LINE", 8, "0", 10, "west", 0, "POINT", 8, "0", 10, 1, 20, 2));
     private static readonly Lazy<byte[]> Scan = new(Strokes);
     private static readonly Lazy<string> Fonts = new(static () => Folder("inner"));
 
-    /// <summary>What a member is tried on: a file, a value, and what is set in any case.</summary>
-    private static readonly Dictionary<string, (Func<byte[]> File, object Value, Action<LoadOptions> Before)> Trials = new()
+    /// <summary>What a member is tested with: a file, a value, and other settings.</summary>
+    private static readonly Dictionary<string, Trial> Trials = new()
     {
-        ["SpecifiedEncoding"] = (() => Letters, CodePages.Cyrillic, Nothing),
-        ["SpecifiedMifEncoding"] = (() => Drawing("\\M+1A440"), MifCodePages.TradChinese, Nothing),
-        ["RecoverMalformedCifMif"] = (() => Drawing("\\u+0416"), true, Nothing),
-        ["CustomFontFolders"] = (() => Letters, new[] { Folder("empty") }, Nothing),
-        ["CustomFontFolderOptions"] = (() => Letters, CustomFontFolderOptions.IncludeSubfolders, static o => o.CustomFontFolders = [Path.GetDirectoryName(Fonts.Value)!]),
-        ["UnloadOnDispose"] = (() => Letters, true, Nothing),
-        ["DataBackgroundColor"] = (() => Cut(new BmpOptions(), 0.7), Color.Black, static o => (o.IgnoreErrors, o.VectorizationOptions) = (true, new VectorizationOptions())),
-        ["IgnoreErrors"] = (() => Broken, true, Nothing),
-        ["VectorizationOptions.Method"] = (() => Scan.Value, VectorizationMethod.PaperToCad, Nothing),
-        ["VectorizationOptions.Threshold"] = (() => Scan.Value, 250, Nothing),
-        ["VectorizationOptions.DotsPerInch"] = (() => Scan.Value, 200.0, Nothing),
-        ["VectorizationOptions.LayerName"] = (() => Scan.Value, "Scan", Nothing),
-        [Contour + "Tolerance"] = (() => Scan.Value, 0.0, Nothing),
-        [Contour + "MinimumArea"] = (() => Scan.Value, 40, Nothing),
-        [Contour + "Fill"] = (() => Scan.Value, true, Nothing),
-        [Paper + "Tolerance"] = (() => Scan.Value, 0.1, Middles),
-        [Paper + "MinimumLength"] = (() => Scan.Value, 30.0, Middles),
-        [Paper + "KeepLineWeights"] = (() => Scan.Value, false, Middles),
+        ["SpecifiedEncoding"] = new(() => Text, CodePages.Cyrillic, Nothing),
+        ["SpecifiedMifEncoding"] = new(() => Drawing("\\M+1A440"), MifCodePages.TradChinese, Nothing),
+        ["RecoverMalformedCifMif"] = new(() => Drawing("\\u+0416"), true, Nothing),
+        ["CustomFontFolders"] = new(() => Text, new[] { Folder("empty") }, Nothing),
+        ["CustomFontFolderOptions"] = new(
+            () => Text,
+            CustomFontFolderOptions.IncludeSubfolders,
+            static o => o.CustomFontFolders = [Path.GetDirectoryName(Fonts.Value)!]),
+        ["UnloadOnDispose"] = new(() => Text, true, Nothing),
+        ["DataBackgroundColor"] = new(
+            () => Cut(new BmpOptions(), 0.7),
+            Color.Black,
+            static o => (o.IgnoreErrors, o.VectorizationOptions) = (true, new VectorizationOptions())),
+        ["IgnoreErrors"] = new(() => Broken, true, Nothing),
+        ["VectorizationOptions.Method"] = new(() => Scan.Value, VectorizationMethod.PaperToCad, Nothing),
+        ["VectorizationOptions.Threshold"] = new(() => Scan.Value, 250, Nothing),
+        ["VectorizationOptions.DotsPerInch"] = new(() => Scan.Value, 200.0, Nothing),
+        ["VectorizationOptions.LayerName"] = new(() => Scan.Value, "Scan", Nothing),
+        [Contour + "Tolerance"] = new(() => Scan.Value, 0.0, Nothing),
+        [Contour + "MinimumArea"] = new(() => Scan.Value, 40, Nothing),
+        [Contour + "Fill"] = new(() => Scan.Value, true, Nothing),
+        [Paper + "Tolerance"] = new(() => Scan.Value, 0.1, CentreLines),
+        [Paper + "MinimumLength"] = new(() => Scan.Value, 30.0, CentreLines),
+        [Paper + "KeepLineWeights"] = new(() => Scan.Value, false, CentreLines),
     };
 
-    public static IEnumerable<object[]> Members => OptionMember.Of(typeof(LoadOptions)).Select(static member => new object[] { member.Path });
+    public static IEnumerable<object[]> Members =>
+        OptionMember.Of(typeof(LoadOptions)).Select(static member => new object[] { member.Path });
 
     [Theory]
     [MemberData(nameof(Members))]
     public void Load_options_are_followed(string path)
     {
-        Assert.True(Trials.TryGetValue(path, out (Func<byte[]> File, object Value, Action<LoadOptions> Before) trial), $"Say what LoadOptions.{path} is tried on.");
+        Assert.True(Trials.TryGetValue(path, out Trial? trial), $"Say what LoadOptions.{path} is tried on.");
         OptionMember member = OptionMember.Of(typeof(LoadOptions)).Single(one => one.Path == path);
         byte[] file = trial.File();
         string plain = Load(file, member, trial.Before);
@@ -85,7 +93,10 @@ public class LoadOptionTests
         byte[] padded = image.LoadRawData(part, settings);
         byte[] plain = image.LoadRawData(part, new RawDataSettings(PixelDataFormat.Rgb24Bpp, part.Width));
         Assert.Equal(plain[15..30], padded[32..47]);
-        var indexed = new RawDataSettings(PixelDataFormat.Rgb8BppIndexed, part.Width) { ColorPalette = ColorPaletteHelper.Create8BitGrayscale() };
+        var indexed = new RawDataSettings(PixelDataFormat.Rgb8BppIndexed, part.Width)
+        {
+            ColorPalette = ColorPaletteHelper.Create8BitGrayscale(),
+        };
         byte[] gray = image.LoadRawData(part, indexed);
         indexed.ColorPalette = ColorPaletteHelper.Create8Bit();
         Assert.NotEqual(gray, image.LoadRawData(part, indexed));
@@ -124,7 +135,8 @@ public class LoadOptionTests
         })
         {
             using var image = (RasterImage)Image.Load(new MemoryStream(Cut(format, part)), options);
-            int missing = Enumerable.Range(0, image.Height).Count(y => image.GetArgb32Pixel(3, y) == background.ToArgb());
+            int missing = Enumerable.Range(0, image.Height)
+                .Count(y => image.GetArgb32Pixel(3, y) == background.ToArgb());
             Assert.InRange(missing, 1, image.Height / 2);
         }
     }
@@ -141,15 +153,21 @@ public class LoadOptionTests
         image.Save(new MemoryStream(), new PngOptions { Source = new StreamSource(second) });
         Assert.Equal(first.ToArray(), second.ToArray());
         using var third = new MemoryStream();
-        foreach (Source refused in new Source[] { new FileOpenSource(file), new FileCreateSource(Path.Combine(file, "below")) })
+        foreach (Source refused in new Source[]
         {
-            Assert.Contains("of the options", Assert.Throws<ImageSaveException>(() => image.Save(third, new PngOptions { Source = refused })).Message);
+            new FileOpenSource(file), new FileCreateSource(Path.Combine(file, "below")),
+        })
+        {
+            var options = new PngOptions { Source = refused };
+            ImageSaveException refusal = Assert.Throws<ImageSaveException>(() => image.Save(third, options));
+            Assert.Contains("of the options", refusal.Message);
         }
 
         Assert.Equal(0, third.Length);
     }
 
-    /// <summary>All that a caller sees of a file: its content, the errors, or why it could not be read or drawn.</summary>
+    /// <summary>The visible results of loading a file: its content, the errors, or the reason why it could not be read
+    /// or rendered.</summary>
     private static string Load(byte[] file, OptionMember member, Action<LoadOptions> change)
     {
         var options = new LoadOptions();
@@ -166,7 +184,8 @@ public class LoadOptionTests
             using var drawing = new MemoryStream();
             image.Save(drawing, new DxfOptions());
             using var page = new MemoryStream();
-            image.Save(page, new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = 80, PageHeight = 60 } });
+            var size = new CadRasterizationOptions { PageWidth = 80, PageHeight = 60 };
+            image.Save(page, new PngOptions { VectorRasterizationOptions = size });
             seen.Append(Encoding.UTF8.GetString(drawing.ToArray())).Append(Convert.ToBase64String(page.ToArray()));
         }
         catch (FrameworkException e)
@@ -200,11 +219,11 @@ public class LoadOptionTests
         return string.Join(' ', image.LoadArgb32Pixels(image.Bounds));
     }
 
-    /// <summary>Adaptive, the default, enlarges like this.</summary>
+    /// <summary>Adaptive, the default, enlarges in the same way.</summary>
     private static bool IsSame(OptionMember member, object? value) =>
         member.Property.Name == nameof(ImageResizeSettings.Mode) && ResizeType.CatmullRom.Equals(value);
 
-    /// <summary>The first part of a picture's file.</summary>
+    /// <summary>The first part of an image file.</summary>
     private static byte[] Cut(ImageOptionsBase format, double part)
     {
         using var image = Samples.Colors(30, 40);
@@ -216,10 +235,11 @@ public class LoadOptionTests
     private static byte[] Drawing(string text) =>
         Encoding.Latin1.GetBytes(DxfText.Drawing(0, "TEXT", 8, "0", 10, 1, 20, 2, 40, 3, 1, text));
 
-    /// <summary>A folder that holds no fonts, or whose inner folder holds one.</summary>
+    /// <summary>A folder without fonts, or with a font in its subfolder.</summary>
     private static string Folder(string name)
     {
-        string folder = Directory.CreateDirectory(Path.Combine(Directory.CreateTempSubdirectory("korvan-").FullName, name)).FullName;
+        string folder = Directory.CreateDirectory(
+            Path.Combine(Directory.CreateTempSubdirectory("korvan-").FullName, name)).FullName;
         if (name == "inner")
         {
             string font = Directory.EnumerateFiles("/usr/share/fonts", "*.ttf", SearchOption.AllDirectories).First();
@@ -250,5 +270,8 @@ public class LoadOptionTests
     {
     }
 
-    private static void Middles(LoadOptions options) => options.VectorizationOptions!.Method = VectorizationMethod.PaperToCad;
+    private static void CentreLines(LoadOptions options) =>
+        options.VectorizationOptions!.Method = VectorizationMethod.PaperToCad;
+
+    private sealed record Trial(Func<byte[]> File, object Value, Action<LoadOptions> Before);
 }

@@ -8,7 +8,7 @@ using Korvan.WrpGen.Naming;
 
 namespace Korvan.CAD.Tests.Options;
 
-/// <summary>A member that can be set, with the way to it from the object that is handed over.</summary>
+/// <summary>A writable member, with its path from the root object.</summary>
 internal sealed class OptionMember
 {
     private readonly PropertyInfo[] _way;
@@ -27,10 +27,10 @@ internal sealed class OptionMember
 
     internal PropertyInfo Property => _way[^1];
 
-    /// <summary>All members below a class that can be set, those of the objects it is made of in their place.</summary>
+    /// <summary>All writable members of a class, including those of nested objects.</summary>
     internal static IEnumerable<OptionMember> Of(Type root) => Walk(root, root, []);
 
-    /// <summary>Makes what the member stands in, where it is missing, and gives it.</summary>
+    /// <summary>Returns the object that has the member, and creates it if necessary.</summary>
     internal object Holder(object root)
     {
         foreach (PropertyInfo step in _way.SkipLast(1))
@@ -51,7 +51,7 @@ internal sealed class OptionMember
     internal void Set(object root, object? value) =>
         Property.SetValue(Holder(root), value, BindingFlags.DoNotWrapExceptions, null, null, null);
 
-    /// <summary>Tells whether a message names the member, or what it stands in.</summary>
+    /// <summary>Returns whether a message names the member, or the object that has it.</summary>
     internal bool IsNamedBy(string message) =>
         _way.Any(step => Regex.IsMatch(message, $@"\b{PythonName.Lower(step.Name)}\b(?!\.\w)"));
 

@@ -15,7 +15,7 @@ using Korvan.CAD.Tests.Rendering;
 
 namespace Korvan.CAD.Tests.Options;
 
-/// <summary>Images that hold something for every option to change.</summary>
+/// <summary>Images with something that every option affects.</summary>
 internal static class OptionSamples
 {
     private static readonly Lazy<string> Folder = new(static () =>
@@ -30,7 +30,7 @@ internal static class OptionSamples
     {
         ["drawing"] = Drawing,
         ["metafile"] = Metafile,
-        ["picture"] = PictureOfFrames,
+        ["image"] = ImageOfFrames,
         ["model"] = static () => IfcText.Load("#1=IFCCARTESIANPOINT((1.,2.));\n"),
     };
 
@@ -42,9 +42,12 @@ internal static class OptionSamples
             new CadCircle { CenterPoint = P(70, 40), Radius = 19, Thickness = 30, LayerName = "Walls" },
             new CadLine { FirstPoint = P(5, 60), SecondPoint = P(95, 60), LayerName = "Notes to self" },
             new CadText { DefaultValue = "Office g%", TextHeight = 9.3, FirstAlignment = P(8.3, 40.7), ColorId = 5 },
-            new Cad3DFace { FirstPoint = P(0, 0), SecondPoint = P(30, 0, 10), ThirdPoint = P(30, 20, 10), FourthPoint = P(0, 20, 5), ColorId = 3 },
-            new Cad3DFace { FirstPoint = P(40, 50), SecondPoint = P(50, 50), ThirdPoint = P(50, 58), FourthPoint = P(40, 58), ColorId = 7 },
-            new Cad3DFace { FirstPoint = P(55, 50), SecondPoint = P(60, 50), ThirdPoint = P(60, 55), FourthPoint = P(55, 55), LayerName = "Notes to self" },
+            new Cad3DFace { FirstPoint = P(0, 0), SecondPoint = P(30, 0, 10), ThirdPoint = P(30, 20, 10),
+                FourthPoint = P(0, 20, 5), ColorId = 3 },
+            new Cad3DFace { FirstPoint = P(40, 50), SecondPoint = P(50, 50), ThirdPoint = P(50, 58),
+                FourthPoint = P(40, 58), ColorId = 7 },
+            new Cad3DFace { FirstPoint = P(55, 50), SecondPoint = P(60, 50), ThirdPoint = P(60, 55),
+                FourthPoint = P(55, 55), LayerName = "Notes to self" },
             Lines(),
             new CadRasterImage
             {
@@ -70,7 +73,8 @@ internal static class OptionSamples
     {
         using CadImage drawing = Drawing();
         var file = new MemoryStream();
-        drawing.Save(file, new CgmOptions { VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = 100, PageHeight = 80 } });
+        var page = new CadRasterizationOptions { PageWidth = 100, PageHeight = 80 };
+        drawing.Save(file, new CgmOptions { VectorRasterizationOptions = page });
         file.Position = 0;
         return Image.Load(file);
     }
@@ -85,7 +89,7 @@ internal static class OptionSamples
         return hatch;
     }
 
-    private static RasterFileImage PictureOfFrames()
+    private static RasterFileImage ImageOfFrames()
     {
         DecodedFrame Frame(int shade)
         {

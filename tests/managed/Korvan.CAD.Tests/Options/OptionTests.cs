@@ -4,6 +4,7 @@ using System.IO;
 using System.Linq;
 using System.Text;
 using System.Text.RegularExpressions;
+using Korvan.CAD.Formats;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
@@ -12,7 +13,7 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Options;
 
-/// <summary>Every option changes what is written, or is refused by its name. None is passed over in silence.</summary>
+/// <summary>Every option changes the output, or raises an error that names it. None is ignored silently.</summary>
 public partial class OptionTests
 {
     private static readonly Lazy<Dictionary<string, HashSet<Type>>> Taken =
@@ -25,7 +26,7 @@ public partial class OptionTests
         Refused,
         RefusedWithoutName,
 
-        /// <summary>The option counts alone, or never.</summary>
+        /// <summary>The option has an effect on its own, or never.</summary>
         NotTried,
     }
 
@@ -50,7 +51,7 @@ public partial class OptionTests
                 string? fault = Judge(saver, source, member, value);
                 if (fault != null)
                 {
-                    wrong.Add($"{source} → {member} = {Word(value)}: {fault}");
+                    wrong.Add($"{source} → {member} = {Describe(value)}: {fault}");
                 }
             }
         }
@@ -61,7 +62,8 @@ public partial class OptionTests
     [Fact]
     public void Options_of_formats_that_nothing_is_written_in_are_refused_by_name()
     {
-        foreach (Type type in OptionTypes().Where(static type => !OptionSamples.All.Keys.Any(source => Takes(source, type))))
+        foreach (Type type in OptionTypes()
+            .Where(static type => !OptionSamples.All.Keys.Any(source => Takes(source, type))))
         {
             foreach (Func<Image> make in OptionSamples.All.Values)
             {
@@ -73,10 +75,13 @@ public partial class OptionTests
     }
 
     [Fact]
-    public void Pixels_are_turned_as_a_picture_is()
+    public void Pixels_are_rotated_like_those_of_an_image()
     {
         using var image = Samples.Colors(12, 7);
-        var options = new PngOptions { Rotation = RotateFlipType.Rotate90FlipX, ResolutionSettings = new ResolutionSetting(50, 100) };
+        var options = new PngOptions
+        {
+            Rotation = RotateFlipType.Rotate90FlipX, ResolutionSettings = new ResolutionSetting(50, 100),
+        };
         using RasterCachedImage turned = Samples.Load(Samples.Save(image, options, ".png"));
         image.RotateFlip(RotateFlipType.Rotate90FlipX);
         Assert.Equal(image.LoadArgb32Pixels(image.Bounds), turned.LoadArgb32Pixels(turned.Bounds));
@@ -84,12 +89,12 @@ public partial class OptionTests
     }
 
     [Fact]
-    public void Each_export_tells_what_became_of_it()
+    public void Each_export_reports_its_result()
     {
         foreach (Func<Image> make in OptionSamples.All.Values)
         {
             using Image image = make();
-            ImageOptionsBase options = New(image.ExportOptionTypes.First());
+            ImageOptionsBase options = New(FormatRegistry.OptionTypesFor(image).First());
             image.Save(Stream.Null, options);
             Assert.True(options.RenderResult!.IsRenderComplete, options.RenderResult.Message);
         }
@@ -104,11 +109,14 @@ public partial class OptionTests
             : (Outcome.NotTried, "");
         return (alone, together) switch
         {
-            (Outcome.RefusedWithoutName, not Outcome.Differs) when !OptionExpectations.IsRefused(member, value) => $"is refused without its name: {message}",
-            (Outcome.Differs, _) or (_, Outcome.Differs) when expected => "changes the output, although it is listed as one that does not",
+            (Outcome.RefusedWithoutName, not Outcome.Differs) when !OptionExpectations.IsRefused(member, value) =>
+                $"is refused without its name: {message}",
+            (Outcome.Differs, _) or (_, Outcome.Differs) when expected =>
+                "changes the output, although it is listed as one that does not",
             (Outcome.Same, Outcome.NotTried or Outcome.Same) when !expected => "is passed over",
             (_, Outcome.Same) when !expected => "is passed over where it should count",
-            (_, Outcome.Refused or Outcome.RefusedWithoutName) when !OptionExpectations.IsRefused(member, value) => $"is refused where it should count: {why}",
+            (_, Outcome.Refused or Outcome.RefusedWithoutName) when !OptionExpectations.IsRefused(member, value) =>
+                $"is refused where it should count: {why}",
             _ => null,
         };
     }
@@ -124,9 +132,11 @@ public partial class OptionTests
     }
 
     private static IEnumerable<Type> OptionTypes() =>
-        typeof(ImageOptionsBase).Assembly.GetExportedTypes().Where(static type => type.IsSubclassOf(typeof(ImageOptionsBase)) && !type.IsAbstract);
+        typeof(ImageOptionsBase).Assembly.GetExportedTypes()
+            .Where(static type => type.IsSubclassOf(typeof(ImageOptionsBase)) && !type.IsAbstract);
 
-    private static string Word(object? value) => value is Array array ? string.Join(' ', array.Cast<object>()) : value?.ToString() ?? "nothing";
+    private static string Describe(object? value) =>
+        value is Array array ? string.Join(' ', array.Cast<object>()) : value?.ToString() ?? "nothing";
 
     /// <summary>Saves an image again and again, with and without an option.</summary>
     private sealed partial class Saver(Image image)
@@ -156,7 +166,9 @@ public partial class OptionTests
             if (!_plain.TryGetValue(key, out string? plain))
             {
                 _plain[key] = plain = Save(member, company, static _ => { });
-                Assert.True(plain == Save(member, company, static _ => { }), $"{member.Root.Name} does not write the same twice.");
+                Assert.True(
+                    plain == Save(member, company, static _ => { }),
+                    $"{member.Root.Name} does not write the same twice.");
             }
 
             return plain;
@@ -167,7 +179,8 @@ public partial class OptionTests
             ImageOptionsBase options = New(member.Root);
             member.Holder(options);
             company?.Before(options);
-            if (options.VectorRasterizationOptions is { PageWidth: 0 } vector && DrawingExporter.KindOf(options) != OutputKind.Faces)
+            if (options.VectorRasterizationOptions is { PageWidth: 0 } vector
+                && FormatRegistry.FindWriter(image, options.GetType())!.KindOf(image) != OutputKind.Faces)
             {
                 vector.PageSize = new SizeF(120, 90);
             }
@@ -179,10 +192,12 @@ public partial class OptionTests
             return options is DicomOptions or PdfOptions or SvgOptions ? Passing().Replace(content, "") : content;
         }
 
-        /// <summary>What is new in each file: numbers in SVG; DICOM identifiers, and the length of the group that holds the
-        /// first; the time that a PDF was made, and what a signature says of that.</summary>
-        [GeneratedRegex(@"UI..2\.25\.\d+|UL\x04\x00....|(?<=surface|clip|mask|image|pattern)\d+|/CreationDate \(D:[^)]*\)"
-            + "|04(20[0-9A-Fa-f]{64}|30[0-9A-Fa-f]{96}|40[0-9A-Fa-f]{128}|820100[0-9A-Fa-f]{512})", RegexOptions.Singleline)]
+        /// <summary>What differs between files: numbers in SVG; DICOM identifiers, and the length of the group with the
+        /// first one; the creation time of a PDF, and that in its signature.</summary>
+        [GeneratedRegex(
+            @"UI..2\.25\.\d+|UL\x04\x00....|(?<=surface|clip|mask|image|pattern)\d+|/CreationDate \(D:[^)]*\)"
+            + "|04(20[0-9A-Fa-f]{64}|30[0-9A-Fa-f]{96}|40[0-9A-Fa-f]{128}|820100[0-9A-Fa-f]{512})",
+            RegexOptions.Singleline)]
         private static partial Regex Passing();
     }
 }

@@ -17,13 +17,13 @@ using Korvan.CAD.Sources;
 
 namespace Korvan.CAD.Tests.Options;
 
-/// <summary>What members are set to: values that differ from the one they have.</summary>
+/// <summary>Values for members that differ from the current ones.</summary>
 internal static class OptionValues
 {
     private const string Password = "open";
     private static readonly byte[] Key = Certificate();
 
-    /// <summary>Classes whose members are options themselves, with what makes one.</summary>
+    /// <summary>Classes whose members are options themselves, with their factories.</summary>
     private static readonly Dictionary<Type, Func<object>> Groups = new()
     {
         [typeof(Compression)] = static () => new Compression(),
@@ -34,7 +34,8 @@ internal static class OptionValues
         [typeof(MultiPageOptions)] = static () => new MultiPageOptions(),
         [typeof(ObserverPoint)] = static () => new ObserverPoint(),
         [typeof(PaperToCadOptions)] = static () => new PaperToCadOptions(),
-        [typeof(PdfDigitalSignatureDetailsCore)] = static () => new PdfDigitalSignatureDetailsCore(Key, Password) { SigningTime = DateTime.UnixEpoch },
+        [typeof(PdfDigitalSignatureDetailsCore)] = static () =>
+            new PdfDigitalSignatureDetailsCore(Key, Password) { SigningTime = DateTime.UnixEpoch },
         [typeof(PdfDocumentInfo)] = static () => new PdfDocumentInfo(),
         [typeof(PdfDocumentOptions)] = static () => new PdfDocumentOptions(),
         [typeof(PenOptions)] = static () => new PenOptions(),
@@ -45,7 +46,7 @@ internal static class OptionValues
         [typeof(VectorRasterizationOptions)] = static () => new CadRasterizationOptions(),
     };
 
-    /// <summary>Values for members whose type does not tell what fits.</summary>
+    /// <summary>Values for members whose type does not determine valid ones.</summary>
     private static readonly Dictionary<string, object?[]> ByName = new()
     {
         ["BackgroundColor"] = [Color.FromArgb(255, 20, 40, 60)],
@@ -102,7 +103,8 @@ internal static class OptionValues
 
     internal static bool IsGroup(Type type) => Groups.ContainsKey(type);
 
-    internal static Type Concrete(Type type) => type == typeof(VectorRasterizationOptions) ? typeof(CadRasterizationOptions) : type;
+    internal static Type Concrete(Type type) =>
+        type == typeof(VectorRasterizationOptions) ? typeof(CadRasterizationOptions) : type;
 
     internal static object New(Type type) => Groups[type]();
 
@@ -112,7 +114,11 @@ internal static class OptionValues
         Type type = Nullable.GetUnderlyingType(property.PropertyType) ?? property.PropertyType;
         if (ByName.TryGetValue(property.Name, out object?[]? named) && type != typeof(RasterizationQuality))
         {
-            return [.. named.Select(value => value is IConvertible and not Enum ? Convert.ChangeType(value, type) : value).Where(value => !Equals(value, now))];
+            return
+            [
+                .. named.Select(value => value is IConvertible and not Enum ? Convert.ChangeType(value, type) : value)
+                    .Where(value => !Equals(value, now)),
+            ];
         }
 
         if (type.IsEnum)
@@ -122,7 +128,8 @@ internal static class OptionValues
 
         return ByType.TryGetValue(type, out Func<object?, object?[]>? of)
             ? of(now)
-            : throw new NotSupportedException($"Say in {nameof(OptionValues)} what {property.DeclaringType!.Name}.{property.Name} is set to.");
+            : throw new NotSupportedException(
+                $"Say in {nameof(OptionValues)} what {property.DeclaringType!.Name}.{property.Name} is set to.");
     }
 
     private static XmpPacketWrapper Title()
@@ -135,16 +142,19 @@ internal static class OptionValues
     private static byte[] Certificate()
     {
         using var key = RSA.Create(2048); // its signatures are the same each time
-        var request = new CertificateRequest("CN=Drawing office", key, HashAlgorithmName.SHA256, RSASignaturePadding.Pkcs1);
-        using X509Certificate2 certificate = request.CreateSelfSigned(DateTimeOffset.UnixEpoch, DateTimeOffset.UtcNow.AddYears(1));
+        var request = new CertificateRequest(
+            "CN=Drawing office", key, HashAlgorithmName.SHA256, RSASignaturePadding.Pkcs1);
+        using X509Certificate2 certificate = request.CreateSelfSigned(
+            DateTimeOffset.UnixEpoch, DateTimeOffset.UtcNow.AddYears(1));
         return certificate.Export(X509ContentType.Pkcs12, Password);
     }
 }
 
-/// <summary>Says that fonts and pictures are kept somewhere.</summary>
+/// <summary>A callback that claims to store fonts and images elsewhere.</summary>
 internal sealed class Elsewhere : ISvgResourceKeeperCallback
 {
     public void OnFontResourceReady(FontStoringArgs args) => args.FontFileUri = "elsewhere.ttf";
 
-    public string OnImageResourceReady(byte[] imageData, SvgImageType imageType, string suggestedFileName) => "elsewhere.png";
+    public string OnImageResourceReady(byte[] imageData, SvgImageType imageType, string suggestedFileName) =>
+        "elsewhere.png";
 }

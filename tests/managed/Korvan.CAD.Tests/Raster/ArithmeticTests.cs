@@ -13,7 +13,8 @@ public class ArithmeticTests
 
     private static readonly ResizeType[] Scaling =
     [
-        ResizeType.Box, ResizeType.Bilinear, ResizeType.Bell, ResizeType.Hermite, ResizeType.CubicBSpline, ResizeType.CatmullRom,
+        ResizeType.Box, ResizeType.Bilinear, ResizeType.Bell, ResizeType.Hermite, ResizeType.CubicBSpline,
+            ResizeType.CatmullRom,
         ResizeType.Mitchell, ResizeType.Lanczos, ResizeType.Adaptive,
     ];
 
@@ -24,8 +25,11 @@ public class ArithmeticTests
         [ResizeType.Hermite] = (1, d => (2 * d * d * d) - (3 * d * d) + 1),
         [ResizeType.Bell] = (1.5, d => d < 0.5 ? 0.75 - (d * d) : Math.Pow(1.5 - d, 2) / 2),
         [ResizeType.CubicBSpline] = (2, d => d < 1 ? (4 - (6 * d * d) + (3 * d * d * d)) / 6 : Math.Pow(2 - d, 3) / 6),
-        [ResizeType.CatmullRom] = (2, d => d < 1 ? (1.5 * d * d * d) - (2.5 * d * d) + 1 : (-0.5 * d * d * d) + (2.5 * d * d) - (4 * d) + 2),
-        [ResizeType.Lanczos] = (3, d => d == 0 ? 1 : Math.Sin(Math.PI * d) / (Math.PI * d) * Math.Sin(Math.PI * d / 3) / (Math.PI * d / 3)),
+        [ResizeType.CatmullRom] =
+            (2, d => d < 1 ? (1.5 * d * d * d) - (2.5 * d * d) + 1 : (-0.5 * d * d * d) + (2.5 * d * d) - (4 * d) + 2),
+        [ResizeType.Lanczos] =
+            (3, d => d == 0
+            ? 1 : Math.Sin(Math.PI * d) / (Math.PI * d) * Math.Sin(Math.PI * d / 3) / (Math.PI * d / 3)),
     };
 
     public static IEnumerable<object[]> KernelNames => Kernels.Keys.Select(type => new object[] { type });
@@ -50,7 +54,7 @@ public class ArithmeticTests
     }
 
     [Fact]
-    public void Scaling_keeps_what_it_has_to_keep()
+    public void Scaling_keeps_constants_and_the_mean()
     {
         foreach (ResizeType type in Scaling)
         {
@@ -73,14 +77,18 @@ public class ArithmeticTests
             {
                 for (int x = 20; x < 140; x++)
                 {
-                    Assert.InRange(ramp.GetPixel(x, 1).G, (2 * (((x + 0.5) * 0.4) - 0.5)) - 1.1, (2 * (((x + 0.5) * 0.4) - 0.5)) + 1.1);
+                    Assert.InRange(
+                        ramp.GetPixel(x, 1).G, (2 * (((x + 0.5) * 0.4) - 0.5)) - 1.1,
+                        (2 * (((x + 0.5) * 0.4) - 0.5)) + 1.1);
                 }
             }
 
             // What is invisible has no colour that could bleed.
             using var ghost = Samples.Of(12, 12, (x, _) => x < 6 ? Samples.Rgb(255, 0, 0) : Samples.Rgb(0, 255, 0, 0));
             ghost.Resize(31, 7, type);
-            Assert.All(ghost.LoadPixels(ghost.Bounds).Where(c => c.A > 0), c => Assert.True(Near(c, Color.FromArgb(c.A, 255, 0, 0), 1), $"{type}: {c}"));
+            Assert.All(
+                ghost.LoadPixels(ghost.Bounds).Where(c => c.A > 0),
+                c => Assert.True(Near(c, Color.FromArgb(c.A, 255, 0, 0), 1), $"{type}: {c}"));
         }
     }
 
@@ -88,7 +96,8 @@ public class ArithmeticTests
     public void Interpolating_kernels_change_nothing_at_the_same_size()
     {
         ResizeType[] exact =
-            [ResizeType.NearestNeighbour, ResizeType.Box, ResizeType.Bilinear, ResizeType.Hermite, ResizeType.CatmullRom, ResizeType.Lanczos, ResizeType.Adaptive];
+            [ResizeType.NearestNeighbour, ResizeType.Box, ResizeType.Bilinear, ResizeType.Hermite,
+                ResizeType.CatmullRom, ResizeType.Lanczos, ResizeType.Adaptive];
         foreach (ResizeType type in exact)
         {
             using var image = Noise(13, 9, opaque: false);
@@ -115,19 +124,21 @@ public class ArithmeticTests
         }
     }
 
-    public static IEnumerable<object[]> TurnNames => Enum.GetNames<RotateFlipType>().Select(name => new object[] { name });
+    public static IEnumerable<object[]> RotationNames =>
+        Enum.GetNames<RotateFlipType>().Select(name => new object[] { name });
 
     [Theory]
-    [MemberData(nameof(TurnNames))]
-    public void Turns_move_each_pixel_where_the_name_says(string name)
+    [MemberData(nameof(RotationNames))]
+    public void Rotations_and_flips_move_each_pixel_as_named(string name)
     {
         using var image = Noise(7, 5);
         int[] before = image.LoadArgb32Pixels(image.Bounds);
         image.SetResolution(300, 150);
         image.RotateFlip(Enum.Parse<RotateFlipType>(name));
 
-        // The name tells the quarter turns and then the mirrors; each is a map of places.
-        int quarters = name.StartsWith("RotateNone", StringComparison.Ordinal) ? 0 : int.Parse(name[6..name.IndexOf('F')]) / 90;
+        // The name states the rotation and then the flips; each maps positions.
+        int quarters = name.StartsWith("RotateNone", StringComparison.Ordinal)
+            ? 0 : int.Parse(name[6..name.IndexOf('F')]) / 90;
         string mirror = name[(name.IndexOf("Flip", StringComparison.Ordinal) + 4)..];
         for (int i = 0; i < before.Length; i++)
         {
@@ -142,7 +153,8 @@ public class ArithmeticTests
             Assert.Equal(before[i], image.GetArgb32Pixel(x, y));
         }
 
-        Assert.Equal(quarters % 2 == 0 ? (300.0, 150.0) : (150.0, 300.0), (image.HorizontalResolution, image.VerticalResolution));
+        Assert.Equal(quarters % 2 == 0
+            ? (300.0, 150.0) : (150.0, 300.0), (image.HorizontalResolution, image.VerticalResolution));
     }
 
     [Theory]
@@ -153,7 +165,7 @@ public class ArithmeticTests
     [InlineData(270, RotateFlipType.Rotate270FlipNone)]
     [InlineData(360, RotateFlipType.RotateNoneFlipNone)]
     [InlineData(-720, RotateFlipType.RotateNoneFlipNone)]
-    public void Angles_of_quarters_are_exact(float angle, RotateFlipType same)
+    public void Rotation_by_multiples_of_90_degrees_is_exact(float angle, RotateFlipType same)
     {
         foreach ((int width, int height) in new[] { (7, 5), (8, 8), (1, 6), (40, 33) })
         {
@@ -167,37 +179,48 @@ public class ArithmeticTests
     }
 
     [Fact]
-    public void Turning_and_blurring_lend_no_colour_of_what_is_invisible()
+    public void Rotation_and_blur_ignore_the_colour_of_transparent_pixels()
     {
-        using var turned = Samples.Of(40, 30, (_, _) => Samples.Rgb(250, 20, 10));
-        turned.Rotate(30);
-        Assert.Equal((50, 46), (turned.Width, turned.Height));
-        Color[] seen = [.. turned.LoadPixels(turned.Bounds).Where(c => c.A > 0)];
+        using var rotated = Samples.Of(40, 30, (_, _) => Samples.Rgb(250, 20, 10));
+        rotated.Rotate(30);
+        Assert.Equal((50, 46), (rotated.Width, rotated.Height));
+        Color[] seen = [.. rotated.LoadPixels(rotated.Bounds).Where(c => c.A > 0)];
         Assert.All(seen, c => Assert.True(c.A < 8 || Near(c, Color.FromArgb(c.A, 250, 20, 10), 2), c.ToString()));
         Assert.InRange(seen.Sum(c => c.A / 255.0), 1200 - 20, 1200 + 20); // the area stays
         foreach (ImageFilterType filter in new[] { ImageFilterType.Box, ImageFilterType.Gaussian })
         {
-            using var blurred = Samples.Of(20, 5, (x, _) => x < 10 ? Samples.Rgb(250, 20, 10) : Samples.Rgb(0, 255, 0, 0));
+            using var blurred =
+                Samples.Of(20, 5, (x, _) => x < 10 ? Samples.Rgb(250, 20, 10) : Samples.Rgb(0, 255, 0, 0));
             blurred.Filter(filter, 5);
             Assert.InRange(blurred.GetPixel(10, 2).A, 60, 127);
-            Assert.All(blurred.LoadPixels(blurred.Bounds).Where(c => c.A > 20), c => Assert.True(Near(c, Color.FromArgb(c.A, 250, 20, 10), 3), c.ToString()));
+            Assert.All(
+                blurred.LoadPixels(blurred.Bounds).Where(c => c.A > 20),
+                c => Assert.True(Near(c, Color.FromArgb(c.A, 250, 20, 10), 3), c.ToString()));
         }
     }
 
     [Fact]
-    public void Ways_that_do_not_exist_are_refused()
+    public void Undefined_enum_values_are_rejected()
     {
         using var image = Noise(4, 4);
         Action[] calls =
         [
-            () => image.RotateFlip((RotateFlipType)8), () => image.RotateFlip((RotateFlipType)(-1)), () => image.Resize(2, 2, (ResizeType)77),
-            () => image.Dither((DitheringMethod)77, 1), () => image.Filter((ImageFilterType)77, 3), () => image.Rotate(float.NaN),
-            () => image.AdjustBrightness(256), () => image.AdjustContrast(float.NaN), () => image.AdjustGamma(1, float.PositiveInfinity, 1),
-            () => image.Dither(DitheringMethod.Ordered, 0), () => image.Dither(DitheringMethod.Ordered, 9), () => image.Filter(ImageFilterType.Box, 103),
-            () => image.BinarizeBradley(2, 0.1), () => image.BinarizeBradley(5, 1.1), () => image.SetResolution(0, 1), () => image.SetResolution(1, double.NaN),
-            () => image.Crop(1, 3, 0, 0), () => image.Crop(-1, 0, 0, 0), () => image.Crop(int.MinValue, 0, 0, 0), () => image.Resize(-1, 4),
-            () => ColorPaletteHelper.GetCloseImagePalette(image, 1), () => ColorPaletteHelper.GetUniformColorPalette(257),
-            () => image.ApplyColorMatrix(new float[25], (ColorMatrixFlag)77), () => ColorPaletteHelper.GetCloseImagePalette(image, 4, (ColorQuantizationMethod)77),
+            () => image.RotateFlip((RotateFlipType)8), () => image.RotateFlip((RotateFlipType)(-1)),
+            () => image.Resize(2, 2, (ResizeType)77),
+            () => image.Dither((DitheringMethod)77, 1), () => image.Filter((ImageFilterType)77, 3),
+            () => image.Rotate(float.NaN),
+            () => image.AdjustBrightness(256), () => image.AdjustContrast(float.NaN),
+            () => image.AdjustGamma(1, float.PositiveInfinity, 1),
+            () => image.Dither(DitheringMethod.Ordered, 0), () => image.Dither(DitheringMethod.Ordered, 9),
+            () => image.Filter(ImageFilterType.Box, 103),
+            () => image.BinarizeBradley(2, 0.1), () => image.BinarizeBradley(5, 1.1),
+            () => image.SetResolution(0, 1), () => image.SetResolution(1, double.NaN),
+            () => image.Crop(1, 3, 0, 0), () => image.Crop(-1, 0, 0, 0), () => image.Crop(int.MinValue, 0, 0, 0),
+            () => image.Resize(-1, 4),
+            () => ColorPaletteHelper.GetCloseImagePalette(image, 1),
+            () => ColorPaletteHelper.GetUniformColorPalette(257),
+            () => image.ApplyColorMatrix(new float[25], (ColorMatrixFlag)77),
+            () => ColorPaletteHelper.GetCloseImagePalette(image, 4, (ColorQuantizationMethod)77),
         ];
         int[] before = image.LoadArgb32Pixels(image.Bounds);
         for (int i = 0; i < calls.Length; i++)
@@ -213,7 +236,7 @@ public class ArithmeticTests
     [InlineData(DitheringMethod.Ordered)]
     [InlineData(DitheringMethod.FloydSteinberg)]
     [InlineData(DitheringMethod.JarvisJudiceNinke)]
-    public void Dithering_conserves_the_mean_of_every_grey(DitheringMethod method)
+    public void Dithering_conserves_the_mean_of_every_gray(DitheringMethod method)
     {
         for (int level = 0; level <= 255; level += 15)
         {
@@ -232,10 +255,11 @@ public class ArithmeticTests
     }
 
     [Fact]
-    public void The_threshold_of_two_humps_is_the_best_of_all()
+    public void The_otsu_threshold_of_a_bimodal_histogram_is_optimal()
     {
         var random = new Random(7);
-        foreach ((int low, int high, int share) in new[] { (40, 200, 50), (10, 60, 80), (120, 140, 50), (0, 255, 5), (90, 220, 20) })
+        (int, int, int)[] histograms = [(40, 200, 50), (10, 60, 80), (120, 140, 50), (0, 255, 5), (90, 220, 20)];
+        foreach ((int low, int high, int share) in histograms)
         {
             var levels = new int[60 * 60];
             for (int i = 0; i < levels.Length; i++)
@@ -249,12 +273,16 @@ public class ArithmeticTests
             int Between(int threshold)
             {
                 int[] dark = [.. levels.Where(l => l < threshold)], light = [.. levels.Where(l => l >= threshold)];
-                return dark.Length == 0 || light.Length == 0 ? 0 : (int)(dark.Length / 3600.0 * light.Length * Math.Pow(dark.Average() - light.Average(), 2));
+                return dark.Length == 0 || light.Length == 0
+                    ? 0 : (int)(dark.Length / 3600.0 * light.Length * Math.Pow(dark.Average() - light.Average(), 2));
             }
 
-            int found = Enumerable.Range(0, levels.Length).Where(i => image.GetArgb32Pixel(i % 60, i / 60) == White).Min(i => levels[i]);
+            int found = Enumerable.Range(0, levels.Length).Where(i => image.GetArgb32Pixel(i % 60, i / 60) == White)
+                .Min(i => levels[i]);
             Assert.InRange(Between(found), Enumerable.Range(1, 255).Max(Between) - 1, int.MaxValue);
-            Assert.All(Enumerable.Range(0, levels.Length), i => Assert.Equal(levels[i] >= found ? White : Black, image.GetArgb32Pixel(i % 60, i / 60)));
+            Assert.All(
+                Enumerable.Range(0, levels.Length),
+                i => Assert.Equal(levels[i] >= found ? White : Black, image.GetArgb32Pixel(i % 60, i / 60)));
         }
     }
 
@@ -262,7 +290,7 @@ public class ArithmeticTests
     [InlineData(3, 0.0)]
     [InlineData(7, 0.15)]
     [InlineData(99, 0.3)]
-    public void Local_thresholds_compare_with_the_mean_of_the_square(int window, double share)
+    public void Adaptive_thresholds_compare_with_the_mean_of_the_window(int window, double share)
     {
         using var image = Noise(23, 17);
         image.Grayscale();
@@ -272,7 +300,8 @@ public class ArithmeticTests
         for (int i = 0; i < levels.Length; i++)
         {
             (int x, int y) = (i % 23, i / 23);
-            double mean = Enumerable.Range(0, levels.Length).Where(k => Math.Abs((k % 23) - x) <= half && Math.Abs((k / 23) - y) <= half).Average(k => levels[k]);
+            double mean = Enumerable.Range(0, levels.Length)
+                .Where(k => Math.Abs((k % 23) - x) <= half && Math.Abs((k / 23) - y) <= half).Average(k => levels[k]);
             if (Math.Abs(levels[i] - (mean * (1 - share))) > 1e-6)
             {
                 Assert.Equal(levels[i] > mean * (1 - share) ? White : Black, image.GetArgb32Pixel(x, y));
@@ -281,7 +310,7 @@ public class ArithmeticTests
     }
 
     [Fact]
-    public void Thresholds_and_greys_are_those_of_the_weights()
+    public void Thresholds_and_grays_follow_the_luma_weights()
     {
         using var image = Noise(40, 40);
         Color[] before = image.LoadPixels(image.Bounds);
@@ -304,7 +333,7 @@ public class ArithmeticTests
     }
 
     [Fact]
-    public void Medians_are_the_middle_of_the_sorted_square()
+    public void Medians_are_the_middle_of_the_sorted_window()
     {
         using var image = Noise(11, 8);
         Color[] before = image.LoadPixels(image.Bounds);
@@ -312,13 +341,15 @@ public class ArithmeticTests
         for (int i = 0; i < before.Length; i++)
         {
             int[] around = [.. Enumerable.Range(0, 25).Select(k =>
-                (int)before[(Math.Clamp((i / 11) + (k / 5) - 2, 0, 7) * 11) + Math.Clamp((i % 11) + (k % 5) - 2, 0, 10)].G).Order()];
+                (int)before[
+                    (Math.Clamp((i / 11) + (k / 5) - 2, 0, 7) * 11) + Math.Clamp((i % 11) + (k % 5) - 2, 0, 10)].G)
+                    .Order()];
             Assert.Equal(around[12], image.GetPixel(i % 11, i / 11).G);
         }
     }
 
     [Fact]
-    public void Inks_give_their_colours_back()
+    public void Cmyk_colours_round_trip()
     {
         for (int i = 0; i < 4096; i++)
         {
@@ -345,6 +376,7 @@ public class ArithmeticTests
     private static Korvan.CAD.RasterImage Noise(int width, int height, bool opaque = true)
     {
         var random = new Random((width * 100) + height);
-        return Samples.Of(width, height, (_, _) => opaque ? random.Next(1 << 24) | Black : random.Next(int.MinValue, int.MaxValue));
+        return Samples.Of(width, height, (_, _) => opaque
+            ? random.Next(1 << 24) | Black : random.Next(int.MinValue, int.MaxValue));
     }
 }

@@ -5,31 +5,31 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Raster;
 
-/// <summary>The settings belong to the process, so nothing runs beside these.</summary>
+/// <summary>The settings are global to the process, so these tests run alone.</summary>
 [CollectionDefinition("whole process", DisableParallelization = true)]
 public class WholeProcess;
 
 [Collection("whole process")]
 public class CacheTests : IDisposable
 {
-    private readonly string folder = Directory.CreateTempSubdirectory("korvan").FullName;
+    private readonly string _folder = Directory.CreateTempSubdirectory("korvan").FullName;
 
     public void Dispose()
     {
         Cache.SetDefaults();
-        Directory.Delete(folder, true);
+        Directory.Delete(_folder, true);
     }
 
     [Fact]
-    public void Pixels_go_where_they_are_told_and_leave_again()
+    public void Pixels_are_stored_as_configured_and_released()
     {
-        Cache.CacheFolder = folder;
+        Cache.CacheFolder = _folder;
         Cache.CacheType = CacheType.CacheOnDiskOnly;
         long before = Cache.AllocatedDiskBytesCount;
         using (var image = Samples.Colors(100, 50))
         {
             Assert.Equal(before + (100 * 50 * 4), Cache.AllocatedDiskBytesCount);
-            Assert.Empty(Directory.GetFiles(folder)); // open, but without a name
+            Assert.Empty(Directory.GetFiles(_folder)); // open, but without a name
             image.Grayscale();
             Assert.Equal(image.GetPixel(3, 3).R, image.GetPixel(3, 3).B);
         }
@@ -38,7 +38,7 @@ public class CacheTests : IDisposable
     }
 
     [Fact]
-    public void Limits_move_pixels_to_disk_or_refuse_them()
+    public void Limits_move_pixels_to_disk_or_raise_errors()
     {
         Cache.MaxMemoryForCache = Cache.AllocatedMemoryBytesCount + 50_000;
         long disk = Cache.AllocatedDiskBytesCount;
@@ -54,7 +54,7 @@ public class CacheTests : IDisposable
         Cache.CacheType = CacheType.CacheOnDiskOnly;
         Cache.MaxDiskSpaceForCache = 1;
         Assert.Throws<LimitMemoryException>(() => Samples.Colors(10, 10));
-        Assert.Throws<FrameworkException>(() => Cache.CacheFolder = Path.Combine(folder, "absent"));
+        Assert.Throws<FrameworkException>(() => Cache.CacheFolder = Path.Combine(_folder, "absent"));
     }
 
     [Fact]

@@ -15,7 +15,7 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Raster;
 
-/// <summary>Whatever stands in a file, loading ends with a picture or with an error of the library's own.</summary>
+/// <summary>Fuzz tests: loading any file ends with an image or with an error of the library's own.</summary>
 public class DamageTests
 {
     private static readonly (string Name, ImageOptionsBase Options)[] Kinds =
@@ -24,7 +24,11 @@ public class DamageTests
         ("bmp rle", new BmpOptions { BitsPerPixel = 8, Compression = BitmapCompression.Rle8 }),
         ("gif", new GifOptions { Interlaced = true }),
         ("jpeg", new JpegOptions()),
-        ("jpeg progressive", new JpegOptions { CompressionType = JpegCompressionMode.Progressive, ColorType = JpegCompressionColorMode.Ycck }),
+        ("jpeg progressive", new JpegOptions
+        {
+            CompressionType = JpegCompressionMode.Progressive,
+            ColorType = JpegCompressionColorMode.Ycck,
+        }),
         ("jpeg 2000", new Jpeg2000Options()),
         ("png", new PngOptions()),
         ("psd", new PsdOptions()),
@@ -44,7 +48,7 @@ public class DamageTests
 
     [Theory]
     [MemberData(nameof(Names))]
-    public void Chance_changes_never_break_the_process(string name)
+    public void Random_changes_end_in_an_image_or_an_error_of_the_library(string name)
     {
         byte[] whole = Bytes(name);
         int rounds = int.Parse(Environment.GetEnvironmentVariable("KORVAN_MUTATIONS") ?? "120");
@@ -55,9 +59,14 @@ public class DamageTests
             int changes = 1 + random.Next(4);
             for (int i = 0; i < changes; i++)
             {
-                // Heads decide most, so half of the changes fall there.
+                // Half of the changes hit the header, which decides most.
                 int at = random.Next(2) == 0 ? random.Next(Math.Min(200, data.Length)) : random.Next(data.Length);
-                data[at] = random.Next(3) switch { 0 => 0xFF, 1 => (byte)random.Next(256), _ => (byte)(data[at] ^ (1 << random.Next(8))) };
+                data[at] = random.Next(3) switch
+                {
+                    0 => 0xFF,
+                    1 => (byte)random.Next(256),
+                    _ => (byte)(data[at] ^ (1 << random.Next(8))),
+                };
             }
 
             data = random.Next(5) == 0 ? data[..random.Next(data.Length)] : data;
@@ -70,24 +79,26 @@ public class DamageTests
 
     [Theory]
     [MemberData(nameof(Names))]
-    public void Files_that_end_early_are_refused_or_shown_as_far_as_they_go(string name)
+    public void Truncated_files_are_rejected_or_shown_as_far_as_they_go(string name)
     {
         byte[] whole = Bytes(name);
         foreach (int length in new[] { 4, 20, whole.Length / 4, whole.Length / 2, whole.Length * 3 / 4 })
         {
             var e = Record.Exception(() => Image.Load(new MemoryStream(whole[..length])));
-            Assert.True(e is FrameworkException, $"{name} cut to {length} of {whole.Length}: {e?.GetType().Name ?? "loaded"}");
+            Assert.True(
+                e is FrameworkException, $"{name} cut to {length} of {whole.Length}: {e?.GetType().Name ?? "loaded"}");
         }
 
         if (name is "jpeg" or "psd" or "bmp" or "gif")
         {
-            using Image half = Image.Load(new MemoryStream(whole[..(whole.Length * 3 / 4)]), new LoadOptions { IgnoreErrors = true });
+            using Image half =
+                Image.Load(new MemoryStream(whole[..(whole.Length * 3 / 4)]), new LoadOptions { IgnoreErrors = true });
             Assert.Equal(61, half.Width);
         }
     }
 
     [Fact]
-    public void Claims_that_a_file_cannot_keep_cost_no_memory()
+    public void False_sizes_in_headers_cost_no_memory()
     {
         long before = GC.GetAllocatedBytesForCurrentThread();
         Refused<BmpImageException>("bmp", 18, [0xFF, 0xFF, 0, 0, 0x00, 0x10]);
@@ -100,15 +111,17 @@ public class DamageTests
     }
 
     [Fact]
-    public void Errors_name_the_file_and_the_cause_behind_them()
+    public void Errors_name_the_file_and_the_cause()
     {
         byte[] rle = Bytes("bmp rle");
-        var bmp = Assert.Throws<BmpImageException>(() => Image.Load(new MemoryStream(rle[..^4]), "plan.bmp", new LoadOptions()));
+        var bmp = Assert.Throws<BmpImageException>(
+            () => Image.Load(new MemoryStream(rle[..^4]), "plan.bmp", new LoadOptions()));
         Assert.IsType<RleCompressorException>(bmp.InnerException);
         Assert.Contains("plan.bmp", bmp.Message);
         byte[] lzw = Bytes("tiff lzw");
         Array.Fill(lzw, (byte)0xFF, 10, 300);
-        var tiff = Assert.Throws<TiffImageException>(() => Image.Load(new MemoryStream(lzw), "plan.tif", new LoadOptions()));
+        var tiff =
+            Assert.Throws<TiffImageException>(() => Image.Load(new MemoryStream(lzw), "plan.tif", new LoadOptions()));
         Assert.IsType<LzwCompressorException>(tiff.InnerException);
         byte[] gif = Bytes("gif");
         var cut = Assert.Throws<GifImageException>(() => Image.Load(new MemoryStream(gif[..^20])));

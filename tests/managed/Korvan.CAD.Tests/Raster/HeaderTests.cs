@@ -16,7 +16,7 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Raster;
 
-/// <summary>Files put together byte by byte: rare forms that no writer at hand makes, and heads that are wrong.</summary>
+/// <summary>Files put together byte by byte: rare variants that no available writer makes, and wrong headers.</summary>
 public class HeaderTests
 {
     private const int Red = unchecked((int)0xFFFF0000);
@@ -26,26 +26,42 @@ public class HeaderTests
 
     public static IEnumerable<object[]> Bitmaps =>
     [
-        ["top down", Bmp(2, -2, 24, 0, [0, 0, 255, 0, 255, 0, 0, 0, 255, 0, 0, 0, 0, 0, 0, 0]), new[] { Red, Green, Blue, Black }],
-        ["bottom up", Bmp(2, 2, 24, 0, [0, 0, 255, 0, 255, 0, 0, 0, 255, 0, 0, 0, 0, 0, 0, 0]), new[] { Blue, Black, Red, Green }],
+        ["top down", Bmp(2, -2, 24, 0, [0, 0, 255, 0, 255, 0, 0, 0, 255, 0, 0, 0, 0, 0, 0, 0]),
+            new[] { Red, Green, Blue, Black }],
+        ["bottom up", Bmp(2, 2, 24, 0, [0, 0, 255, 0, 255, 0, 0, 0, 255, 0, 0, 0, 0, 0, 0, 0]),
+            new[] { Blue, Black, Red, Green }],
         ["no padding at the end", Bmp(1, 2, 24, 0, [0, 0, 255, 0, 0, 255, 0]), new[] { Green, Red }],
         ["five bits each", Bmp(2, 1, 16, 0, [0x00, 0x7C, 0xE0, 0x03]), new[] { Red, Green }],
-        ["masks of 565", Bmp(2, 1, 16, 3, [.. Masks(0xF800, 0x07E0, 0x1F), 0x00, 0xF8, 0xE0, 0x07]), new[] { Red, Green }],
+        ["masks of 565", Bmp(2, 1, 16, 3, [.. Masks(0xF800, 0x07E0, 0x1F), 0x00, 0xF8, 0xE0, 0x07]),
+            new[] { Red, Green }],
         ["levels of 32", Bmp(2, 1, 16, 0, [22, 0, 28, 0]), new[] { Samples.Rgb(0, 0, 181), Samples.Rgb(0, 0, 230) }],
-        ["masks of 444", Bmp(2, 1, 16, 3, [.. Masks(0xF00, 0xF0, 0xF), 0x80, 0x08, 0x0F, 0x00]), new[] { Samples.Rgb(136, 136, 0), Blue }],
-        ["masks the other way round", Bmp(1, 1, 32, 3, [.. Masks(0xFF, 0xFF00, 0xFF0000), 255, 0, 0, 0]), new[] { Red }],
-        ["masks of ten bits", Bmp(1, 1, 32, 3, [.. Masks(0x3FF00000, 0xFFC00, 0x3FF), 0, 0, 0xF0, 0x3F]), new[] { Red }],
-        ["opacity by mask", Bmp(2, 1, 32, 6, [.. Masks(0xFF0000, 0xFF00, 0xFF, 0xFF000000), 0, 0, 255, 128, 0, 255, 0, 0]),
+        ["masks of 444", Bmp(2, 1, 16, 3, [.. Masks(0xF00, 0xF0, 0xF), 0x80, 0x08, 0x0F, 0x00]),
+            new[] { Samples.Rgb(136, 136, 0), Blue }],
+        ["masks the other way round", Bmp(1, 1, 32, 3, [.. Masks(0xFF, 0xFF00, 0xFF0000), 255, 0, 0, 0]),
+            new[] { Red }],
+        ["masks of ten bits", Bmp(1, 1, 32, 3, [.. Masks(0x3FF00000, 0xFFC00, 0x3FF), 0, 0, 0xF0, 0x3F]),
+            new[] { Red }],
+        ["opacity by mask",
+            Bmp(2, 1, 32, 6, [.. Masks(0xFF0000, 0xFF00, 0xFF, 0xFF000000), 0, 0, 255, 128, 0, 255, 0, 0]),
             new[] { Samples.Rgb(255, 0, 0, 128), Samples.Rgb(0, 255, 0, 0) }],
         ["a fourth byte that is unused", Bmp(2, 1, 32, 0, [0, 0, 255, 0, 0, 255, 0, 0]), new[] { Red, Green }],
-        ["two bits", Bmp(5, 1, 2, 0, [.. Palette(Red, Green, Blue, Black), 0b00011011, 0b01000000, 0, 0]), new[] { Red, Green, Blue, Black, Green }],
-        ["one bit", Bmp(9, 1, 1, 0, [.. Palette(Red, Blue), 0b01010101, 0b10000000, 0, 0]), new[] { Red, Blue, Red, Blue, Red, Blue, Red, Blue, Blue }],
-        ["a number past the palette", Bmp(2, 1, 8, 0, [.. Palette(Red, Green), 1, 200, 0, 0], 2), new[] { Green, Black }],
-        ["runs, a row cut short, a jump", Bmp(4, 3, 8, 1, [.. Palette(Red, Green, Blue), 2, 1, 0, 0, 0, 2, 1, 1, 2, 2, 0, 1], 3),
+        ["two bits", Bmp(5, 1, 2, 0, [.. Palette(Red, Green, Blue, Black), 0b00011011, 0b01000000, 0, 0]),
+            new[] { Red, Green, Blue, Black, Green }],
+        ["one bit", Bmp(9, 1, 1, 0, [.. Palette(Red, Blue), 0b01010101, 0b10000000, 0, 0]),
+            new[] { Red, Blue, Red, Blue, Red, Blue, Red, Blue, Blue }],
+        ["a number past the palette", Bmp(2, 1, 8, 0, [.. Palette(Red, Green), 1, 200, 0, 0], 2),
+            new[] { Green, Black }],
+        ["runs, a row cut short, a jump",
+            Bmp(4, 3, 8, 1, [.. Palette(Red, Green, Blue), 2, 1, 0, 0, 0, 2, 1, 1, 2, 2, 0, 1], 3),
             new[] { Red, Blue, Blue, Red, Red, Red, Red, Red, Green, Green, Red, Red }, "jump"],
-        ["plain bytes among runs", Bmp(5, 1, 8, 1, [.. Palette(Red, Green, Blue), 0, 3, 0, 1, 2, 0, 2, 1, 0, 1], 3), new[] { Red, Green, Blue, Green, Green }],
-        ["runs of half bytes", Bmp(6, 1, 4, 2, [.. Palette(Red, Green, Blue), 3, 0x12, 0, 3, 0x01, 0x20, 0, 1], 3), new[] { Green, Blue, Green, Red, Green, Blue }],
-        ["the oldest head", (byte[])[.. "BM"u8, 38, 0, 0, 0, 0, 0, 0, 0, 32, 0, 0, 0, 12, 0, 0, 0, 2, 0, 1, 0, 1, 0, 1, 0, 0, 0, 255, 255, 0, 0, 0b01000000, 0, 0, 0],
+        ["plain bytes among runs", Bmp(5, 1, 8, 1, [.. Palette(Red, Green, Blue), 0, 3, 0, 1, 2, 0, 2, 1, 0, 1], 3),
+            new[] { Red, Green, Blue, Green, Green }],
+        ["runs of half bytes", Bmp(6, 1, 4, 2, [.. Palette(Red, Green, Blue), 3, 0x12, 0, 3, 0x01, 0x20, 0, 1], 3),
+            new[] { Green, Blue, Green, Red, Green, Blue }],
+        ["the oldest header",
+            (byte[])[
+            .. "BM"u8, 38, 0, 0, 0, 0, 0, 0, 0, 32, 0, 0, 0, 12, 0, 0, 0, 2, 0, 1, 0, 1, 0, 1, 0, 0, 0, 255, 255, 0, 0,
+            0b01000000, 0, 0, 0],
             new[] { Red, Blue }],
     ];
 
@@ -61,7 +77,8 @@ public class HeaderTests
             Assert.Equal(expected, pixels);
         }
 
-        Assert.True(expected.SequenceEqual(pixels), $"{what}: {string.Join(' ', pixels.Select(p => p.ToString("X8")))}");
+        Assert.True(
+            expected.SequenceEqual(pixels), $"{what}: {string.Join(' ', pixels.Select(p => p.ToString("X8")))}");
     }
 
     [Theory]
@@ -94,7 +111,8 @@ public class HeaderTests
             Assert.Equal(image.LoadArgb32Pixels(image.Bounds), other.LoadArgb32Pixels(other.Bounds));
             for (int i = 0; i < width * height; i++)
             {
-                int Part(int channel) => (int)Math.Round(samples[(i * channels) + channel] * 255.0 / ((1 << depth) - 1));
+                int Part(int channel) =>
+                    (int)Math.Round(samples[(i * channels) + channel] * 255.0 / ((1 << depth) - 1));
                 int index = samples[i * channels];
                 (int r, int g, int b, int a) = type switch
                 {
@@ -106,14 +124,15 @@ public class HeaderTests
                 };
                 Color color = image.GetPixel(i % width, i / width);
                 int most = depth == 16 ? 1 : 0;
-                Assert.Equal(0, new[] { color.A - a, color.R - r, color.G - g, color.B - b }.Count(d => Math.Abs(d) > most));
+                Assert.Equal(
+                    0, new[] { color.A - a, color.R - r, color.G - g, color.B - b }.Count(d => Math.Abs(d) > most));
             }
         }
     }
 
     private static readonly (string Name, Type Error, string Cause, Func<byte[]> Data)[] Wrong =
     [
-        ("head.bmp", typeof(BmpImageException), "39 bytes", () => With(Bmp(1, 1, 24, 0, [0, 0, 0, 0]), 14, 39)),
+        ("header.bmp", typeof(BmpImageException), "39 bytes", () => With(Bmp(1, 1, 24, 0, [0, 0, 0, 0]), 14, 39)),
         ("zero.bmp", typeof(BmpImageException), "0 × 1", () => Bmp(0, 1, 24, 0, [0, 0, 0, 0])),
         ("negative.bmp", typeof(BmpImageException), "-5 × 1", () => Bmp(-5, 1, 24, 0, [0, 0, 0, 0])),
         ("least.bmp", typeof(BmpImageException), "1 × -2147483648", () => Bmp(1, int.MinValue, 24, 0, [0, 0, 0, 0])),
@@ -121,42 +140,55 @@ public class HeaderTests
         ("jpeg inside.bmp", typeof(BmpImageException), "Jpeg", () => Bmp(1, 1, 24, 4, [0, 0, 0, 0])),
         ("unknown.bmp", typeof(BmpImageException), "0x63", () => Bmp(1, 1, 24, 99, [0, 0, 0, 0])),
         ("short.bmp", typeof(BmpImageException), "need 16 bytes, but 15", () => Bmp(4, 1, 32, 0, new byte[15])),
-        ("runs down.bmp", typeof(BmpImageException), "not read", () => With(Bmp(4, -1, 8, 1, Palette(Red), 1), 0, (byte)'B')),
-        ("masks.bmp", typeof(BmpImageException), "inside of its head", () => Bmp(4, 1, 32, 3, [1, 2])),
-        ("head.png", typeof(PngImageException), "", () => With(Saved(new PngOptions()), 25, 5)),
+        ("runs down.bmp", typeof(BmpImageException), "not read",
+            () => With(Bmp(4, -1, 8, 1, Palette(Red), 1), 0, (byte)'B')),
+        ("masks.bmp", typeof(BmpImageException), "inside its header", () => Bmp(4, 1, 32, 3, [1, 2])),
+        ("header.png", typeof(PngImageException), "", () => With(Saved(new PngOptions()), 25, 5)),
         ("crc.png", typeof(PngImageException), "", () => With(Saved(new PngOptions()), 30, 0x55)),
         ("bits.png", typeof(PngImageException), "", () => Png(1, 1, 2, 4, [0, 0, 0], 3, false)),
-        ("sum of passes.png", typeof(PngImageException), "CRC", () => Changed(Png(9, 9, 2, 16, new int[243], 3, true), 45)),
-        ("filter of passes.png", typeof(PngImageException), "filter 7", () => Png(9, 9, 0, 16, new int[81], 1, true, 7)),
+        ("sum of passes.png", typeof(PngImageException), "CRC",
+            () => Changed(Png(9, 9, 2, 16, new int[243], 3, true), 45)),
+        ("filter of passes.png", typeof(PngImageException), "filter 7",
+            () => Png(9, 9, 0, 16, new int[81], 1, true, 7)),
         ("rows of passes.png", typeof(PngImageException), "IDAT", () => Png(1, 1, 2, 16, [1, 2, 3], 3, true, rows: 9)),
-        ("size of passes.png", typeof(PngImageException), "cannot hold", () => Png(1, 1, 6, 16, [1, 2, 3, 4], 4, true, rows: 60_000)),
+        ("size of passes.png", typeof(PngImageException), "cannot hold",
+            () => Png(1, 1, 6, 16, [1, 2, 3, 4], 4, true, rows: 60_000)),
+        ("second header.png", typeof(PngImageException), "IHDR",
+            () => SecondHeader(Png(9, 9, 2, 16, new int[243], 3, true))),
         ("cut.png", typeof(PngImageException), "", () => Saved(new PngOptions())[..40]),
-        ("head.gif", typeof(GifImageException), "", () => "GIF89a"u8.ToArray()),
-        ("empty.gif", typeof(GifImageException), "no picture", () => [.. "GIF89a"u8, 1, 0, 1, 0, 0, 0, 0, 0x3B]),
-        ("no palette.gif", typeof(GifImageException), "palette", () => [.. "GIF89a"u8, 1, 0, 1, 0, 0, 0, 0, 0x2C, 0, 0, 0, 0, 1, 0, 1, 0, 0, 2, 2, 0x44, 1, 0, 0x3B]),
+        ("header.gif", typeof(GifImageException), "", () => "GIF89a"u8.ToArray()),
+        ("empty.gif", typeof(GifImageException), "no image", () => [.. "GIF89a"u8, 1, 0, 1, 0, 0, 0, 0, 0x3B]),
+        ("zero.gif", typeof(GifImageException), "0 × 1", () => [.. "GIF89a"u8, 0, 0, 1, 0, 0, 0, 0, 0x3B]),
+        ("no palette.gif", typeof(GifImageException), "palette",
+            () => [.. "GIF89a"u8, 1, 0, 1, 0, 0, 0, 0, 0x2C, 0, 0, 0, 0, 1, 0, 1, 0, 0, 2, 2, 0x44, 1, 0, 0x3B]),
         ("version.psd", typeof(PsdImageException), "version 1", () => With(Saved(new PsdOptions()), 5, 2)),
         ("channels.psd", typeof(PsdImageException), "channels", () => With(Saved(new PsdOptions()), 13, 99)),
         ("depth.psd", typeof(PsdImageException), "", () => With(Saved(new PsdOptions()), 23, 7)),
         ("mode.psd", typeof(PsdImageException), "", () => With(Saved(new PsdOptions()), 25, 77)),
-        ("palette.psd", typeof(PsdImageException), "palette", () => With(Saved(new PsdOptions { ColorMode = ColorModes.Indexed }), 28, 1)),
-        ("head.tif", typeof(TiffImageException), "", () => [.. "II*\0"u8, 0xFF, 0xFF, 0, 0]),
+        ("palette.psd", typeof(PsdImageException), "palette",
+            () => With(Saved(new PsdOptions { ColorMode = ColorModes.Indexed }), 28, 1)),
+        ("header.tif", typeof(TiffImageException), "", () => [.. "II*\0"u8, 0xFF, 0xFF, 0, 0]),
         ("no fields.tif", typeof(TiffImageException), "", () => [.. "MM\0*"u8, 0, 0, 0, 8, 0, 0, 0, 0, 0, 0]),
-        ("head.jpg", typeof(JpegException), "", () => [0xFF, 0xD8, 0xFF, 0xE0, 0, 2]),
+        ("header.jpg", typeof(JpegException), "", () => [0xFF, 0xD8, 0xFF, 0xE0, 0, 2]),
         ("end.jpg", typeof(JpegException), "", () => [0xFF, 0xD8, 0xFF, 0xD9]),
-        ("head.j2k", typeof(Jpeg2000Exception), "", () => [0xFF, 0x4F, 0xFF, 0x51, 0, 41]),
-        ("head.jp2", typeof(Jpeg2000Exception), "", () => Saved(new Jpeg2000Options())[..60]),
-        ("head.webp", typeof(ImageLoadException), "", () => [.. "RIFF"u8, 12, 0, 0, 0, .. "WEBPVP8L"u8, 0, 0, 0, 0]),
+        ("header.j2k", typeof(Jpeg2000Exception), "", () => [0xFF, 0x4F, 0xFF, 0x51, 0, 41]),
+        ("header.jp2", typeof(Jpeg2000Exception), "", () => Saved(new Jpeg2000Options())[..60]),
+        ("header.webp", typeof(ImageLoadException), "", () => [.. "RIFF"u8, 12, 0, 0, 0, .. "WEBPVP8L"u8, 0, 0, 0, 0]),
         ("animation.webp", typeof(ImageLoadException), "animated",
-            () => [.. "RIFF"u8, 40, 0, 0, 0, .. "WEBPVP8X"u8, 10, 0, 0, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, .. "ANIM"u8, 6, 0, 0, 0, 0, 0, 0, 0, 0, 0]),
+            () => [.. "RIFF"u8, 40, 0, 0, 0, .. "WEBPVP8X"u8, 10, 0, 0, 0, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, .. "ANIM"u8, 6,
+                0, 0, 0, 0, 0, 0, 0, 0, 0]),
         ("cut.dcm", typeof(ImageLoadException), "", () => Saved(new DicomOptions())[..200]),
         ("pixels.dcm", typeof(ImageLoadException), "", () => Saved(new DicomOptions())[..^9]),
     ];
+
+    private static byte[] SecondHeader(byte[] png) =>
+        [.. png[..33], 0, 0, 0, 0, .. "IHDR"u8, 0, 0, 0, 0, .. png[33..]];
 
     public static IEnumerable<object[]> WrongNames => Wrong.Select(wrong => new object[] { wrong.Name });
 
     [Theory]
     [MemberData(nameof(WrongNames))]
-    public void Wrong_heads_are_told_with_file_and_cause(string name)
+    public void Wrong_headers_are_reported_with_file_and_cause(string name)
     {
         (_, Type error, string cause, Func<byte[]> data) = Wrong.Single(wrong => wrong.Name == name);
         Exception? e = Record.Exception(() => Image.Load(new MemoryStream(data()), name, new LoadOptions()));
@@ -167,7 +199,7 @@ public class HeaderTests
     }
 
     [Fact]
-    public void Pages_of_one_file_have_sizes_and_lives_of_their_own()
+    public void Pages_of_one_file_have_their_own_size_and_lifetime()
     {
         string[] parts = [Tools.TempFile(".png"), Tools.TempFile(".png"), Tools.TempFile(".png")];
         for (int i = 0; i < parts.Length; i++)
@@ -196,29 +228,37 @@ public class HeaderTests
         image.GetPage(1).Crop(new Rectangle(0, 0, 4, 4));
         using (RasterCachedImage again = Samples.Load(Samples.Save(image, new TiffOptions(), ".tif")))
         {
-            Assert.Equal([(10, 20), (4, 4), (12, 18)], Enumerable.Range(0, 3).Select(i => (again.GetPage(i).Width, again.GetPage(i).Height)));
+            Assert.Equal(
+                [(10, 20), (4, 4), (12, 18)],
+                Enumerable.Range(0, 3).Select(i => (again.GetPage(i).Width, again.GetPage(i).Height)));
         }
 
         foreach ((MultiPageOptions choice, int[] widths) in new[]
-            { (new MultiPageOptions(1, 2), new[] { 4, 12 }), (new MultiPageOptions { FirstPage = 1 }, [4, 12]), (new MultiPageOptions { Pages = [2, 0, 2] }, [12, 10, 12]), (new MultiPageOptions(), [10, 4, 12]) })
+            { (new MultiPageOptions(1, 2), new[] { 4, 12 }), (new MultiPageOptions { FirstPage = 1 }, [4, 12]),
+                (new MultiPageOptions { Pages = [2, 0, 2] }, [12, 10, 12]), (new MultiPageOptions(), [10, 4, 12]) })
         {
-            using RasterCachedImage chosen = Samples.Load(Samples.Save(image, new TiffOptions { MultiPageOptions = choice }, ".tif"));
+            using RasterCachedImage chosen =
+                Samples.Load(Samples.Save(image, new TiffOptions { MultiPageOptions = choice }, ".tif"));
             Assert.Equal(widths, Enumerable.Range(0, chosen.PageCount).Select(i => chosen.GetPage(i).Width));
         }
 
         (MultiPageOptions Choice, string Why)[] refused =
         [
-            (new MultiPageOptions(2, 2), "2 of them from 2"), (new MultiPageOptions(-1, 1), "from -1"), (new MultiPageOptions { Pages = [] }, "no page at all"),
-            (new MultiPageOptions(int.MaxValue, int.MaxValue), "do not exist"), (new MultiPageOptions { Pages = [0, 3] }, "no page 3"),
-            (new MultiPageOptions { ExportArea = new Rectangle(0, 0, 5, 5) }, "page 1"), (new MultiPageOptions { PageTitles = ["x"] }, "\"x\""),
+            (new MultiPageOptions(2, 2), "2 of them from 2"), (new MultiPageOptions(-1, 1), "from -1"),
+                (new MultiPageOptions { Pages = [] }, "no page at all"),
+            (new MultiPageOptions(int.MaxValue, int.MaxValue), "do not exist"),
+                (new MultiPageOptions { Pages = [0, 3] }, "no page 3"),
+            (new MultiPageOptions { ExportArea = new Rectangle(0, 0, 5, 5) }, "page 1"),
+                (new MultiPageOptions { PageTitles = ["x"] }, "\"x\""),
         ];
         foreach ((MultiPageOptions choice, string why) in refused)
         {
-            var e = Assert.Throws<ImageSaveException>(() => image.Save(new MemoryStream(), new TiffOptions { MultiPageOptions = choice }));
+            var e = Assert.Throws<ImageSaveException>(
+                () => image.Save(new MemoryStream(), new TiffOptions { MultiPageOptions = choice }));
             Assert.Contains(why, e.Message);
         }
 
-        // Formats of one picture take the page at hand; pages end with their file.
+        // Formats of one image take the given page; pages are disposed with their file.
         using (RasterCachedImage single = Samples.Load(Samples.Save(image.GetPage(2), new PngOptions(), ".png")))
         {
             Assert.Equal((12, 18), (single.Width, single.Height));
@@ -231,15 +271,20 @@ public class HeaderTests
     }
 
     [Fact]
-    public void Blocks_at_all_borders_cross_in_every_form()
+    public void Blocks_at_all_borders_round_trip_in_every_pixel_format()
     {
         PixelDataFormat[] forms =
         [
-            PixelDataFormat.Rgb1BppIndexed, PixelDataFormat.Rgb4BppIndexed, PixelDataFormat.Rgb8BppIndexed, PixelDataFormat.Grayscale1Bpp,
-            PixelDataFormat.Grayscale4Bpp, PixelDataFormat.Grayscale8Bpp, PixelDataFormat.Grayscale16Bpp, PixelDataFormat.Rgb16Bpp555, PixelDataFormat.Rgb16Bpp565,
-            PixelDataFormat.Rgb24Bpp, PixelDataFormat.Bgr24Bpp, PixelDataFormat.Rgb32Bpp, PixelDataFormat.Rgba32Bpp, PixelDataFormat.Cmyk32Bpp,
+            PixelDataFormat.Rgb1BppIndexed, PixelDataFormat.Rgb4BppIndexed, PixelDataFormat.Rgb8BppIndexed,
+                PixelDataFormat.Grayscale1Bpp,
+            PixelDataFormat.Grayscale4Bpp, PixelDataFormat.Grayscale8Bpp, PixelDataFormat.Grayscale16Bpp,
+                PixelDataFormat.Rgb16Bpp555, PixelDataFormat.Rgb16Bpp565,
+            PixelDataFormat.Rgb24Bpp, PixelDataFormat.Bgr24Bpp, PixelDataFormat.Rgb32Bpp, PixelDataFormat.Rgba32Bpp,
+                PixelDataFormat.Cmyk32Bpp,
         ];
-        Rectangle[] blocks = [new(0, 0, 1, 1), new(12, 6, 1, 1), new(0, 0, 13, 7), new(5, 0, 8, 2), new(0, 6, 13, 1), new(12, 0, 1, 7), new(3, 2, 7, 3)];
+        Rectangle[] blocks =
+            [new(0, 0, 1, 1), new(12, 6, 1, 1), new(0, 0, 13, 7), new(5, 0, 8, 2), new(0, 6, 13, 1), new(12, 0, 1, 7),
+            new(3, 2, 7, 3)];
         foreach (PixelDataFormat form in forms)
         {
             foreach (Rectangle block in blocks)
@@ -247,7 +292,11 @@ public class HeaderTests
                 // Black and white is what all forms hold exactly; the ground shows whether a neighbour is touched.
                 using var image = Samples.Of(13, 7, (x, y) => (x * y) % 3 == 0 ? -1 : Black);
                 using var copy = Samples.Of(13, 7, (_, _) => Red);
-                var settings = new RawDataSettings(form, block.Width) { ColorPalette = form.PixelFormat == PixelFormat.Indexed ? ColorPaletteHelper.CreateMonochrome() : null };
+                bool indexed = form.PixelFormat == PixelFormat.Indexed;
+                var settings = new RawDataSettings(form, block.Width)
+                {
+                    ColorPalette = indexed ? ColorPaletteHelper.CreateMonochrome() : null,
+                };
                 int tight = settings.LineSize;
                 settings.LineSize += 3;
                 byte[] data = image.LoadRawData(block, settings);
@@ -256,7 +305,8 @@ public class HeaderTests
                 for (int i = 0; i < 13 * 7; i++)
                 {
                     (int x, int y) = (i % 13, i / 13);
-                    bool inside = x >= block.X && x < block.X + block.Width && y >= block.Y && y < block.Y + block.Height;
+                    bool inside = x >= block.X && x < block.X + block.Width && y >= block.Y
+                        && y < block.Y + block.Height;
                     Assert.Equal(inside ? image.GetArgb32Pixel(x, y) : Red, copy.GetArgb32Pixel(x, y));
                 }
 
@@ -272,19 +322,26 @@ public class HeaderTests
         using var bytes = Samples.Of(3, 1, (x, _) => x == 0 ? Samples.Rgb(1, 2, 3, 4) : x == 1 ? Red : Blue);
         (PixelDataFormat Form, byte[] Layout)[] layouts =
         [
-            (PixelDataFormat.Rgb24Bpp, [1, 2, 3, 255, 0, 0, 0, 0, 255]), (PixelDataFormat.Bgr24Bpp, [3, 2, 1, 0, 0, 255, 255, 0, 0]),
-            (PixelDataFormat.Rgb32Bpp, [3, 2, 1, 4, 0, 0, 255, 255, 255, 0, 0, 255]), (PixelDataFormat.Rgba32Bpp, [1, 2, 3, 4, 255, 0, 0, 255, 0, 0, 255, 255]),
-            (PixelDataFormat.Rgb16Bpp565, [0, 0, 0x00, 0xF8, 0x1F, 0x00]), (PixelDataFormat.Rgb16Bpp555, [0, 0, 0x00, 0x7C, 0x1F, 0x00]),
-            (PixelDataFormat.Cmyk32Bpp, [170, 85, 0, 252, 0, 255, 255, 0, 255, 255, 0, 0]), (PixelDataFormat.Grayscale8Bpp, [2, 76, 29]),
-            (PixelDataFormat.Grayscale16Bpp, [2, 2, 76, 76, 29, 29]), (PixelDataFormat.Grayscale4Bpp, [0x04, 0x20]), (PixelDataFormat.Grayscale1Bpp, [0]),
+            (PixelDataFormat.Rgb24Bpp, [1, 2, 3, 255, 0, 0, 0, 0, 255]),
+                (PixelDataFormat.Bgr24Bpp, [3, 2, 1, 0, 0, 255, 255, 0, 0]),
+            (PixelDataFormat.Rgb32Bpp, [3, 2, 1, 4, 0, 0, 255, 255, 255, 0, 0, 255]),
+                (PixelDataFormat.Rgba32Bpp, [1, 2, 3, 4, 255, 0, 0, 255, 0, 0, 255, 255]),
+            (PixelDataFormat.Rgb16Bpp565, [0, 0, 0x00, 0xF8, 0x1F, 0x00]),
+                (PixelDataFormat.Rgb16Bpp555, [0, 0, 0x00, 0x7C, 0x1F, 0x00]),
+            (PixelDataFormat.Cmyk32Bpp, [170, 85, 0, 252, 0, 255, 255, 0, 255, 255, 0, 0]),
+                (PixelDataFormat.Grayscale8Bpp, [2, 76, 29]),
+            (PixelDataFormat.Grayscale16Bpp, [2, 2, 76, 76, 29, 29]), (PixelDataFormat.Grayscale4Bpp, [0x04, 0x20]),
+                (PixelDataFormat.Grayscale1Bpp, [0]),
         ];
         foreach ((PixelDataFormat form, byte[] layout) in layouts)
         {
             Assert.Equal(layout, bytes.LoadRawData(bytes.Bounds, new RawDataSettings(form, 3)));
         }
 
-        Assert.Throws<FrameworkException>(() => bytes.LoadRawData(bytes.Bounds, new RawDataSettings(PixelDataFormat.Rgb4BppIndexed, 3)));
-        var large = new RawDataSettings(PixelDataFormat.Rgb1BppIndexed, 3) { ColorPalette = ColorPaletteHelper.Create4Bit() };
+        Assert.Throws<FrameworkException>(
+            () => bytes.LoadRawData(bytes.Bounds, new RawDataSettings(PixelDataFormat.Rgb4BppIndexed, 3)));
+        var large =
+            new RawDataSettings(PixelDataFormat.Rgb1BppIndexed, 3) { ColorPalette = ColorPaletteHelper.Create4Bit() };
         Assert.Throws<FrameworkException>(() => bytes.LoadRawData(bytes.Bounds, large));
     }
 
@@ -306,37 +363,45 @@ public class HeaderTests
 
     private static byte[] Bmp(int width, int height, int bits, int compression, byte[] rest, int colors = 0)
     {
-        var head = new byte[54];
-        "BM"u8.CopyTo(head);
-        int tables = compression is 3 or 6 ? (compression == 6 ? 16 : 12) : bits <= 8 ? (colors == 0 ? 1 << bits : colors) * 4 : 0;
-        BinaryPrimitives.WriteInt32LittleEndian(head.AsSpan(10), 54 + tables);
-        BinaryPrimitives.WriteInt32LittleEndian(head.AsSpan(14), 40);
-        BinaryPrimitives.WriteInt32LittleEndian(head.AsSpan(18), width);
-        BinaryPrimitives.WriteInt32LittleEndian(head.AsSpan(22), height);
-        head[26] = 1;
-        BinaryPrimitives.WriteInt16LittleEndian(head.AsSpan(28), (short)bits);
-        BinaryPrimitives.WriteInt32LittleEndian(head.AsSpan(30), compression);
-        BinaryPrimitives.WriteInt32LittleEndian(head.AsSpan(46), colors);
-        return [.. head, .. rest];
+        var header = new byte[54];
+        "BM"u8.CopyTo(header);
+        int tables = compression is 3 or 6
+            ? (compression == 6 ? 16 : 12) : bits <= 8 ? (colors == 0 ? 1 << bits : colors) * 4 : 0;
+        BinaryPrimitives.WriteInt32LittleEndian(header.AsSpan(10), 54 + tables);
+        BinaryPrimitives.WriteInt32LittleEndian(header.AsSpan(14), 40);
+        BinaryPrimitives.WriteInt32LittleEndian(header.AsSpan(18), width);
+        BinaryPrimitives.WriteInt32LittleEndian(header.AsSpan(22), height);
+        header[26] = 1;
+        BinaryPrimitives.WriteInt16LittleEndian(header.AsSpan(28), (short)bits);
+        BinaryPrimitives.WriteInt32LittleEndian(header.AsSpan(30), compression);
+        BinaryPrimitives.WriteInt32LittleEndian(header.AsSpan(46), colors);
+        return [.. header, .. rest];
     }
 
     private static byte[] Masks(params uint[] masks) => [.. masks.SelectMany(BitConverter.GetBytes)];
 
-    private static byte[] Palette(params int[] colors) => [.. colors.SelectMany(color => BitConverter.GetBytes(color & 0xFFFFFF))];
+    private static byte[] Palette(params int[] colors) =>
+        [.. colors.SelectMany(color => BitConverter.GetBytes(color & 0xFFFFFF))];
 
     // The passes of the format: where they begin, and how far apart their pixels are.
     private static readonly (int X, int Y, int StepX, int StepY)[] Passes =
         [(0, 0, 8, 8), (4, 0, 8, 8), (0, 4, 4, 8), (2, 0, 4, 4), (0, 2, 2, 4), (1, 0, 2, 2), (0, 1, 1, 2)];
 
-    private static byte[] Png(int width, int height, int type, int depth, int[] samples, int channels, bool interlaced, byte filter = 0, int rows = 0)
+    private static byte[] Png(
+        int width, int height, int type, int depth, int[] samples, int channels, bool interlaced, byte filter = 0,
+        int rows = 0)
     {
         int stated = rows == 0 ? height : rows;
         using var stream = new MemoryStream();
         stream.Write([0x89, .. "PNG\r\n"u8, 0x1A, 0x0A]);
-        Chunk(stream, "IHDR", [0, 0, 0, (byte)width, 0, 0, (byte)(stated >> 8), (byte)stated, (byte)depth, (byte)type, 0, 0, (byte)(interlaced ? 1 : 0)]);
+        Chunk(stream, "IHDR",
+            [0, 0, 0, (byte)width, 0, 0, (byte)(stated >> 8), (byte)stated, (byte)depth, (byte)type, 0, 0,
+            (byte)(interlaced ? 1 : 0)]);
         if (type == 3)
         {
-            Chunk(stream, "PLTE", [.. Enumerable.Range(0, 1 << depth).SelectMany(i => new[] { (byte)i, (byte)(255 - i), (byte)(i * 7) })]);
+            Chunk(stream, "PLTE",
+                [.. Enumerable.Range(0, 1 << depth)
+                .SelectMany(i => new[] { (byte)i, (byte)(255 - i), (byte)(i * 7) })]);
             Chunk(stream, "tRNS", [255, 100]);
         }
 
@@ -352,7 +417,9 @@ public class HeaderTests
                     {
                         for (int channel = 0; channel < channels; channel++)
                         {
-                            bits.Append(Convert.ToString(samples[(((y * width) + x) * channels) + channel], 2).PadLeft(depth, '0'));
+                            bits.Append(
+                                Convert.ToString(samples[(((y * width) + x) * channels) + channel], 2)
+                                .PadLeft(depth, '0'));
                         }
                     }
 

@@ -26,10 +26,11 @@ public class MetadataTests
     [Theory]
     [InlineData(TiffByteOrder.LittleEndian)]
     [InlineData(TiffByteOrder.BigEndian)]
-    public void Another_program_reads_what_the_camera_says(TiffByteOrder order)
+    public void Another_program_reads_the_exif_metadata(TiffByteOrder order)
     {
         using var image = Samples.Colors();
-        var exif = new JpegExifData { ByteOrder = order, Make = "Korvan", Model = "One \u00c4", Orientation = ExifOrientation.RightTop };
+        var exif = new JpegExifData { ByteOrder = order, Make = "Korvan", Model = "One \u00c4" };
+        exif.Orientation = ExifOrientation.RightTop;
         exif.ExposureTime = new TiffRational(1, 250);
         exif.FNumber = TiffRational.FromDouble(5.6);
         exif.Flash = ExifFlash.YesAuto;
@@ -42,7 +43,8 @@ public class MetadataTests
         string text = Tools.Run("exiv2", "-pt", file);
         string[] lines =
         [
-            "Korvan", "One \u00c4", "right, top", "1/250 s", "F5.6", "Yes, auto", "Manual", "South", "33deg 51' 54\"", "Below sea level", "58 m",
+            "Korvan", "One \u00c4", "right, top", "1/250 s", "F5.6", "Yes, auto", "Manual", "South", "33deg 51' 54\"",
+                "Below sea level", "58 m",
         ];
         foreach (string expected in lines)
         {
@@ -52,7 +54,8 @@ public class MetadataTests
         Assert.Contains("image/jpeg", Tools.Run("exiv2", "-pp", file));
         using RasterCachedImage back = Samples.Load(file);
         var read = Assert.IsType<JpegExifData>(back.ExifData);
-        Assert.Equal(("One \u00c4", ExifFlash.YesAuto, new TiffRational(1, 250)), (read.Model, read.Flash, read.ExposureTime));
+        Assert.Equal(
+            ("One \u00c4", ExifFlash.YesAuto, new TiffRational(1, 250)), (read.Model, read.Flash, read.ExposureTime));
         Assert.Equal(-33.865, read.GpsLatitude, 1e-6);
         Assert.Equal(exif.ThumbnailData, read.ThumbnailData);
         Assert.Equal(exif.SerializeData(), read.SerializeData());
@@ -60,14 +63,17 @@ public class MetadataTests
     }
 
     [Fact]
-    public void Fields_of_all_types_go_and_come_back()
+    public void Tags_of_all_types_round_trip()
     {
         var directory = new TiffExifIfd();
         TiffDataType[] fields =
         [
-            new TiffByteType(1, [1, 2, 3, 4, 5]), new TiffASCIIType(2, "\u00e9t\u00e9"), new TiffShortType(3, [65535]), new TiffLongType(4, [uint.MaxValue]),
-            new TiffRationalType(5, [new TiffRational(3, 7)]), new TiffSByteType(6, [-128, 127]), new TiffUndefinedType(7, [9]),
-            new TiffSShortType(8, [-32768]), new TiffSLongType(9, [int.MinValue, 5]), new TiffSRationalType(10, [TiffSRational.FromDouble(-0.75)]),
+            new TiffByteType(1, [1, 2, 3, 4, 5]), new TiffASCIIType(2, "\u00e9t\u00e9"), new TiffShortType(3, [65535]),
+                new TiffLongType(4, [uint.MaxValue]),
+            new TiffRationalType(5, [new TiffRational(3, 7)]), new TiffSByteType(6, [-128, 127]),
+                new TiffUndefinedType(7, [9]),
+            new TiffSShortType(8, [-32768]), new TiffSLongType(9, [int.MinValue, 5]),
+                new TiffSRationalType(10, [TiffSRational.FromDouble(-0.75)]),
             new TiffFloatType(11, [1.5f]), new TiffDoubleType(12, [Math.PI]), new TiffIfdType(13, [77]),
         ];
         Array.ForEach(fields, directory.Set);
@@ -89,7 +95,7 @@ public class MetadataTests
     }
 
     [Fact]
-    public void Damaged_blocks_are_refused_and_lost_by_pictures()
+    public void Damaged_blocks_are_rejected_and_dropped_by_images()
     {
         byte[] whole = new JpegExifData { Make = "Korvan and company" }.SerializeData();
         Assert.Throws<TiffImageException>(() => new ExifData(whole[..12]));
@@ -103,7 +109,8 @@ public class MetadataTests
             new byte[] { (byte)i, (byte)(i >> 8), 1, 0, 0xE0, 0x2E, 0, 0, 4, 0, 0, 0 }.CopyTo(bomb, 2 + (12 * i));
         }
 
-        Assert.Throws<TiffImageException>(() => TiffExifIfd.Read(new TiffStreamReader(bomb, TiffByteOrder.LittleEndian), 0));
+        Assert.Throws<TiffImageException>(
+            () => TiffExifIfd.Read(new TiffStreamReader(bomb, TiffByteOrder.LittleEndian), 0));
     }
 
     [Fact]
@@ -114,18 +121,23 @@ public class MetadataTests
         xmp.SetValues(Dc, "creator", ["one", "two"]);
         xmp.SetValue("urn:own", "Sheet", "7");
         using var image = Samples.Colors();
-        foreach (ImageOptionsBase options in new ImageOptionsBase[] { new JpegOptions(), new PngOptions(), new TiffOptions(), new PsdOptions() })
+        ImageOptionsBase[] formats = [new JpegOptions(), new PngOptions(), new TiffOptions(), new PsdOptions()];
+        foreach (ImageOptionsBase options in formats)
         {
             options.XmpData = xmp;
             string file = Samples.Save(image, options, ".x");
             XmpPacketWrapper read = Samples.Load(file).XmpData!;
             Assert.Equal("Plan <\u00c4>", read.GetValue(Dc, "title"));
             Assert.Equal(["one", "two"], read.GetValues(Dc, "creator"));
-            Assert.Equal(["{http://purl.org/dc/elements/1.1/}title", "{http://purl.org/dc/elements/1.1/}creator", "{urn:own}Sheet"], read.PropertyNames);
+            Assert.Equal(
+                ["{http://purl.org/dc/elements/1.1/}title", "{http://purl.org/dc/elements/1.1/}creator",
+                "{urn:own}Sheet"], read.PropertyNames);
             Assert.Contains("Plan", options is PsdOptions ? read.ToXml() : Tools.Run("exiv2", "-px", file));
         }
 
-        var foreign = new XmpPacketWrapper("<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description rdf:about='' xmlns:a='urn:a' a:b='c'/></rdf:RDF>");
+        var foreign = new XmpPacketWrapper(
+            "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description rdf:about=''"
+            + " xmlns:a='urn:a' a:b='c'/></rdf:RDF>");
         Assert.Equal("c", foreign.GetValue("urn:a", "b"));
         Assert.True(foreign.Remove("urn:a", "b"));
         Assert.Equal(0, foreign.Count);
@@ -136,11 +148,18 @@ public class MetadataTests
     }
 
     [Fact]
-    public void Blocks_of_a_psd_tell_what_they_hold()
+    public void Resources_of_a_psd_are_read_with_their_types()
     {
         using var image = Samples.Colors(300, 200);
         var guides = new GridAndGuidesResouce { VerticalGuides = [10, 20.5], HorizontalGuides = [5], Name = "odd" };
-        var options = new PsdOptions { Resources = [guides, new ThumbnailResource(image, 60), new TransparencyIndexResource(3), new UnknownResource(4000, [1, 2, 3])] };
+        var options = new PsdOptions
+        {
+            Resources =
+            [
+                guides, new ThumbnailResource(image, 60), new TransparencyIndexResource(3),
+                new UnknownResource(4000, [1, 2, 3]),
+            ],
+        };
         string file = Samples.Save(image, options, ".psd");
         ResourceBlock[] blocks = ResourceBlock.ReadAll(file);
         Assert.Equal([1005, 1032, 1036, 1047, 4000], blocks.Select(b => b.ID));
@@ -158,18 +177,22 @@ public class MetadataTests
         Assert.Throws<PsdImageResourceException>(() => GridAndGuidesResouce.Read([0, 0]));
         Assert.Throws<JpegException>(() => new Thumbnail4Resource([1, 2, 3]));
         options = new PsdOptions { ColorMode = ColorModes.Indexed, Resources = [new TransparencyIndexResource(0)] };
-        var palette = Assert.IsAssignableFrom<IPsdColorPalette>(Samples.Load(Samples.Save(image, options, ".psd")).Palette);
-        Assert.Equal((0, 768, true), (palette.TransparentIndex, palette.GetRawEntries().Length, ColorPaletteHelper.HasTransparentColors(palette)));
+        var palette =
+            Assert.IsAssignableFrom<IPsdColorPalette>(Samples.Load(Samples.Save(image, options, ".psd")).Palette);
+        Assert.Equal(
+            (0, 768, true),
+            (palette.TransparentIndex, palette.GetRawEntries().Length,
+            ColorPaletteHelper.HasTransparentColors(palette)));
     }
 
     [Fact]
-    public void The_head_of_a_jpeg_can_be_given()
+    public void The_jfif_header_of_a_jpeg_can_be_given()
     {
         using var image = Samples.Colors();
-        var head = new JFIFData { DensityUnits = JfifDensityUnits.PixelsPerCm, XDensity = 100, YDensity = 50 };
-        string file = Samples.Save(image, new JpegOptions { Jfif = head }, ".jpg");
+        var header = new JFIFData { DensityUnits = JfifDensityUnits.PixelsPerCm, XDensity = 100, YDensity = 50 };
+        string file = Samples.Save(image, new JpegOptions { Jfif = header }, ".jpg");
         Assert.Equal("PixelsPerCentimeter 100 50", Tools.Run("identify", "-format", "%U %x %y", file));
         Assert.Equal(254, Samples.Load(file).HorizontalResolution, 1e-9);
-        Assert.Throws<ArgumentOutOfRangeException>(() => head.XDensity = 0);
+        Assert.Throws<ArgumentOutOfRangeException>(() => header.XDensity = 0);
     }
 }

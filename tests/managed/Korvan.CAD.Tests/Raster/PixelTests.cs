@@ -17,7 +17,7 @@ public class PixelTests
     private const int Black = unchecked((int)0xFF000000);
 
     [Fact]
-    public void Blocks_are_read_and_written_at_their_place()
+    public void Blocks_are_read_and_written_at_their_position()
     {
         using var image = Samples.Colors();
         var block = new Rectangle(3, 5, 4, 2);
@@ -37,14 +37,16 @@ public class PixelTests
 
     public static IEnumerable<object[]> Forms =>
     [
-        [PixelDataFormat.Rgb24Bpp, 0], [PixelDataFormat.Bgr24Bpp, 0], [PixelDataFormat.Rgb32Bpp, 0], [PixelDataFormat.Rgba32Bpp, 0],
-        [PixelDataFormat.Cmyk32Bpp, 1], [PixelDataFormat.Rgb16Bpp555, 5], [PixelDataFormat.Rgb16Bpp565, 5], [PixelDataFormat.Rgb8BppIndexed, 60],
+        [PixelDataFormat.Rgb24Bpp, 0], [PixelDataFormat.Bgr24Bpp, 0], [PixelDataFormat.Rgb32Bpp, 0],
+            [PixelDataFormat.Rgba32Bpp, 0],
+        [PixelDataFormat.Cmyk32Bpp, 1], [PixelDataFormat.Rgb16Bpp555, 5], [PixelDataFormat.Rgb16Bpp565, 5],
+            [PixelDataFormat.Rgb8BppIndexed, 60],
         [PixelDataFormat.Rgb4BppIndexed, 130],
     ];
 
     [Theory]
     [MemberData(nameof(Forms))]
-    public void Raw_bytes_go_and_come_back(PixelDataFormat form, int most)
+    public void Raw_bytes_round_trip(PixelDataFormat form, int most)
     {
         using var image = Samples.Colors();
         using var copy = Samples.Of(61, 43, (_, _) => 0);
@@ -58,7 +60,9 @@ public class PixelTests
             {
                 Color one = image.GetPixel(x, y);
                 Color other = copy.GetPixel(x, y);
-                Assert.InRange(Math.Max(Math.Abs(one.R - other.R), Math.Max(Math.Abs(one.G - other.G), Math.Abs(one.B - other.B))), 0, most);
+                Assert.InRange(
+                    Math.Max(Math.Abs(one.R - other.R), Math.Max(Math.Abs(one.G - other.G), Math.Abs(one.B - other.B))),
+                    0, most);
             }
         }
 
@@ -76,13 +80,13 @@ public class PixelTests
     [InlineData(RotateFlipType.RotateNoneFlipY, "-flip")]
     [InlineData(RotateFlipType.Rotate90FlipX, "-rotate 90 -flop")]
     [InlineData(RotateFlipType.Rotate90FlipY, "-rotate 90 -flip")]
-    public void Turns_are_those_of_another_program(RotateFlipType turn, string words)
+    public void Rotations_match_those_of_another_program(RotateFlipType rotation, string arguments)
     {
         using var image = Samples.Colors();
         string original = Samples.Save(image, new PngOptions(), ".png");
         string expected = Tools.TempFile(".png");
-        Tools.Run("convert", [original, .. words.Split(' '), "+repage", expected]);
-        image.RotateFlip(turn);
+        Tools.Run("convert", [original, .. arguments.Split(' '), "+repage", expected]);
+        image.RotateFlip(rotation);
         Assert.Equal(0, Samples.LargestDifference(image, expected));
     }
 
@@ -113,7 +117,8 @@ public class PixelTests
         using var image = Samples.Of(4, 4, (x, y) => Samples.Rgb(x, y, 0));
         image.Resize(6, 2, new ImageResizeSettings { Mode = ResizeType.Centered, BackgroundColor = Color.White });
         Assert.Equal([White, Samples.Rgb(0, 1, 0), Samples.Rgb(3, 2, 0), White],
-            new[] { image.GetArgb32Pixel(0, 0), image.GetArgb32Pixel(1, 0), image.GetArgb32Pixel(4, 1), image.GetArgb32Pixel(5, 1) });
+            new[] { image.GetArgb32Pixel(0, 0), image.GetArgb32Pixel(1, 0), image.GetArgb32Pixel(4, 1),
+                image.GetArgb32Pixel(5, 1) });
         image.Resize(2, 4, ResizeType.UpperLeft);
         Assert.Equal((White, Color.Transparent.ToArgb()), (image.GetArgb32Pixel(0, 1), image.GetArgb32Pixel(1, 3)));
         using var large = Samples.Of(30, 20, (x, y) => x < 15 ? Black : White);
@@ -127,7 +132,7 @@ public class PixelTests
     }
 
     [Fact]
-    public void Any_angle_turns_around_the_middle()
+    public void Rotation_by_any_angle_is_about_the_centre()
     {
         using var image = Samples.Of(21, 11, (x, y) => x < 10 ? Black : White);
         image.Rotate(90);
@@ -159,7 +164,7 @@ public class PixelTests
     }
 
     [Fact]
-    public void Palettes_hold_the_colours_of_the_picture()
+    public void Palettes_hold_the_colours_of_the_image()
     {
         using var image = Samples.Colors(100, 80);
         foreach (ColorQuantizationMethod method in Enum.GetValues<ColorQuantizationMethod>())
@@ -173,7 +178,9 @@ public class PixelTests
         }
 
         using var few = Samples.Of(9, 9, (x, y) => Samples.Rgb(x % 3, 0, 9));
-        Assert.Equal([Samples.Rgb(0, 0, 9), Samples.Rgb(1, 0, 9), Samples.Rgb(2, 0, 9)], ColorPaletteHelper.GetCloseImagePalette(few, 3).Argb32Entries);
+        Assert.Equal(
+            [Samples.Rgb(0, 0, 9), Samples.Rgb(1, 0, 9), Samples.Rgb(2, 0, 9)],
+            ColorPaletteHelper.GetCloseImagePalette(few, 3).Argb32Entries);
         var shared = new AdjustPalette();
         shared.AddImage(few);
         image.LoadPartialArgb32Pixels(new Rectangle(0, 0, 1, 1), shared);
@@ -190,12 +197,14 @@ public class PixelTests
         Assert.Equal(0, palette.GetNearestColorIndex(Color.FromArgb(200, 40, 40)));
         palette.CompareMethod = ColorCompareMethod.Luminance;
         Assert.Equal(0, palette.GetNearestColorIndex(Color.FromArgb(0, 0, 255)));
-        Assert.Equal(2, ColorPalette.FromColors([Color.Transparent, Color.White, Color.Black]).GetNearestColorIndex(Color.FromArgb(30, 20, 10)));
+        Assert.Equal(
+            2, ColorPalette.FromColors([Color.Transparent, Color.White, Color.Black])
+            .GetNearestColorIndex(Color.FromArgb(30, 20, 10)));
         Assert.Throws<ArgumentException>(() => new ColorPalette(Array.Empty<int>()));
     }
 
     [Fact]
-    public void Tones_change_as_said()
+    public void Colour_adjustments_match_their_formulas()
     {
         int Change(int from, Action<RasterImage> change)
         {
@@ -211,25 +220,29 @@ public class PixelTests
         Assert.Equal(Samples.Rgb(50, 160, 226, 50), Change(color, image => image.AdjustGamma(2)));
         Assert.Equal(Samples.Rgb(84, 84, 84, 50), Change(color, image => image.Grayscale()));
         float[] swap = [0, 0, 1, 0, 0, 0, 1, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 1];
-        Assert.Equal(Samples.Rgb(200, 100, 10, 50), Change(color, image => image.ApplyColorMatrix(swap, ColorMatrixFlag.Default)));
+        Assert.Equal(
+            Samples.Rgb(200, 100, 10, 50),
+            Change(color, image => image.ApplyColorMatrix(swap, ColorMatrixFlag.Default)));
         Assert.Equal(color, Change(color, image => image.ApplyColorMatrix(swap, ColorMatrixFlag.AltGrays)));
         var key = new TransparencySupporter { TransparentColor = Color.FromArgb(color), BackgroundColor = Color.Lime };
         Assert.Equal(Color.Lime.ToArgb(), Change(color, image => image.ApplyProcessor(key)));
         Assert.Throws<ArgumentOutOfRangeException>(() => Change(color, image => image.AdjustGamma(0)));
-        Assert.Throws<ArgumentException>(() => Change(color, image => image.ApplyColorMatrix([1], ColorMatrixFlag.Default)));
+        Assert.Throws<ArgumentException>(
+            () => Change(color, image => image.ApplyColorMatrix([1], ColorMatrixFlag.Default)));
     }
 
     [Fact]
     public void Uneven_light_needs_the_adaptive_threshold()
     {
         // Dark text on a sheet that fades into the dark: no single threshold parts them.
-        static bool Ink(int x, int y) => x % 10 == 5 && y % 10 < 6;
-        static int Sheet(int x, int y) => 60 + x - (Ink(x, y) ? 45 : 0);
+        static bool IsForeground(int x, int y) => x % 10 == 5 && y % 10 < 6;
+        static int Sheet(int x, int y) => 60 + x - (IsForeground(x, y) ? 45 : 0);
         int Wrong(Action<RasterImage> binarize)
         {
             using var image = Samples.Of(180, 60, (x, y) => Samples.Rgb(Sheet(x, y), Sheet(x, y), Sheet(x, y)));
             binarize(image);
-            return Enumerable.Range(0, 180 * 60).Count(i => (image.GetArgb32Pixel(i % 180, i / 180) == Black) != Ink(i % 180, i / 180));
+            return Enumerable.Range(0, 180 * 60)
+                .Count(i => (image.GetArgb32Pixel(i % 180, i / 180) == Black) != IsForeground(i % 180, i / 180));
         }
 
         Assert.InRange(Wrong(image => image.BinarizeBradley(15, 0.15)), 0, 100);
@@ -263,7 +276,7 @@ public class PixelTests
     }
 
     [Fact]
-    public void Colours_are_translated()
+    public void Colours_are_converted_between_notations()
     {
         Assert.Equal(Color.FromArgb(0x44, 0x11, 0x22, 0x33), ColorTranslator.FromHtml("#11223344"));
         Assert.Equal("#ff6347", ColorTranslator.ToHtml(ColorTranslator.FromHtml("tomato")));

@@ -16,7 +16,8 @@ public class ReaderTests
 {
     // A drawing of its own with edges, gradients and transparency, in the forms that programs write.
     private static readonly string[] Source =
-        ["-size", "53x37", "gradient:red-blue", "-depth", "8", "-fill", "yellow", "-draw", "circle 25,18 25,8", "-fill", "black", "-draw", "line 0,0 52,36"];
+        ["-size", "53x37", "gradient:red-blue", "-depth", "8", "-fill", "yellow", "-draw", "circle 25,18 25,8", "-fill",
+            "black", "-draw", "line 0,0 52,36"];
 
     [Theory]
     [InlineData("bmp", 0)]
@@ -30,9 +31,12 @@ public class ReaderTests
     [InlineData("png -interlace PNG", 0)]
     [InlineData("png -depth 16 -strip", 1)]
     [InlineData("png -interlace PNG -define png:bit-depth=16 -define png:color-type=0 -colorspace Gray", 1)]
-    [InlineData("png -interlace PNG -define png:bit-depth=16 -define png:color-type=2 -define png:compression-filter=5", 1)]
-    [InlineData("png -interlace PNG -define png:bit-depth=16 -define png:color-type=4 -alpha set -transparent yellow", 1)]
-    [InlineData("png -interlace PNG -define png:bit-depth=16 -define png:color-type=6 -alpha set -transparent yellow", 1)]
+    [InlineData(
+        "png -interlace PNG -define png:bit-depth=16 -define png:color-type=2 -define png:compression-filter=5", 1)]
+    [InlineData(
+        "png -interlace PNG -define png:bit-depth=16 -define png:color-type=4 -alpha set -transparent yellow", 1)]
+    [InlineData(
+        "png -interlace PNG -define png:bit-depth=16 -define png:color-type=6 -alpha set -transparent yellow", 1)]
     [InlineData("png -colors 5 -type palette -transparent yellow", 0)]
     [InlineData("png -type GrayscaleAlpha -alpha set", 1)]
     [InlineData("gif -colors 30", 0)]
@@ -67,9 +71,10 @@ public class ReaderTests
     [InlineData("psd -alpha off -compress None -colorspace Gray", 0)]
     public void Pixels_are_those_that_the_writer_meant(string form, int most)
     {
-        string[] words = form.Split(' ');
-        string file = Tools.TempFile("." + words[0].TrimEnd('2', '3', '4', '6'));
-        Tools.Run("convert", [.. Source, .. words[1..], (words[0] == "jp2" ? "jp2" : words[0]) + ":" + file]);
+        string[] arguments = form.Split(' ');
+        string file = Tools.TempFile("." + arguments[0].TrimEnd('2', '3', '4', '6'));
+        Tools.Run(
+            "convert", [.. Source, .. arguments[1..], (arguments[0] == "jp2" ? "jp2" : arguments[0]) + ":" + file]);
         using RasterCachedImage image = Samples.Load(file);
         Assert.Equal((53, 37), (image.Width, image.Height));
         Assert.InRange(Samples.LargestDifference(image, file, "[0]"), 0, most);
@@ -86,24 +91,28 @@ public class ReaderTests
     [InlineData("-depth 8")]
     [InlineData("-depth 16")]
     [InlineData("-type PaletteAlpha -colors 20")]
-    public void Opacity_of_tiff_pages_is_told_from_colours(string form)
+    public void Alpha_of_tiff_pages_is_distinguished_from_colours(string form)
     {
-        string[] layouts = ["", "-define tiff:tile-geometry=16x32", "-interlace plane", "-define tiff:endian=msb -define tiff:rows-per-strip=5"];
+        string[] layouts =
+            ["", "-define tiff:tile-geometry=16x32", "-interlace plane",
+            "-define tiff:endian=msb -define tiff:rows-per-strip=5"];
         foreach (string meaning in new[] { "associated", "unassociated", "unspecified" })
         {
             if (meaning == "associated" && form.Contains("Palette", StringComparison.Ordinal))
             {
-                continue; // nothing can be multiplied into numbers
+                continue; // palette indices cannot be premultiplied
             }
 
             foreach (string layout in layouts)
             {
                 string file = Tools.TempFile(".tif");
                 string[] fade = ["-alpha", "set", "-channel", "A", "-fx", "(i+j)/90", "+channel"];
-                string words = $"{form} {layout} -compress LZW -define tiff:alpha={meaning}";
-                Tools.Run("convert", [.. Source, .. fade, .. words.Split(' ', StringSplitOptions.RemoveEmptyEntries), file]);
+                string arguments = $"{form} {layout} -compress LZW -define tiff:alpha={meaning}";
+                Tools.Run(
+                    "convert",
+                    [.. Source, .. fade, .. arguments.Split(' ', StringSplitOptions.RemoveEmptyEntries), file]);
                 using RasterCachedImage image = Samples.Load(file);
-                Assert.True(Samples.LargestDifference(image, file, "[0]") <= 1, words);
+                Assert.True(Samples.LargestDifference(image, file, "[0]") <= 1, arguments);
                 File.Delete(file);
             }
         }
@@ -115,16 +124,22 @@ public class ReaderTests
     [InlineData("-type bilevel -compress Group4")]
     public void Tiff_pages_come_upright_whichever_corner_they_begin_in(string form)
     {
-        foreach (string corner in new[] { "TopLeft", "TopRight", "BottomRight", "BottomLeft", "LeftTop", "RightTop", "RightBottom", "LeftBottom" })
+        string[] corners =
+            ["TopLeft", "TopRight", "BottomRight", "BottomLeft", "LeftTop", "RightTop", "RightBottom", "LeftBottom"];
+        foreach (string corner in corners)
         {
             string file = Tools.TempFile(".tif");
             string upright = Tools.TempFile(".png");
-            string[] words = form.Split(' ', StringSplitOptions.RemoveEmptyEntries);
-            Tools.Run("convert", [.. Source, .. words, "-units", "PixelsPerInch", "-density", "72x144", "-orient", corner, file]);
+            string[] arguments = form.Split(' ', StringSplitOptions.RemoveEmptyEntries);
+            Tools.Run(
+                "convert",
+                [.. Source, .. arguments, "-units", "PixelsPerInch", "-density", "72x144", "-orient", corner, file]);
             Tools.Run("convert", file, "-auto-orient", upright);
             using RasterCachedImage image = Samples.Load(file);
             bool swapped = corner[0] is 'L' or 'R';
-            Assert.Equal(swapped ? (37, 53, 144.0, 72.0) : (53, 37, 72, 144), (image.Width, image.Height, image.HorizontalResolution, image.VerticalResolution));
+            Assert.Equal(swapped
+                ? (37, 53, 144.0, 72.0)
+                : (53, 37, 72, 144), (image.Width, image.Height, image.HorizontalResolution, image.VerticalResolution));
             Assert.True(Samples.LargestDifference(image, upright) <= 1, corner);
         }
     }
@@ -137,7 +152,8 @@ public class ReaderTests
     [InlineData("MONOCHROME2", 16, 12, 11, 1, "40.5/401/-1024/2")]
     [InlineData("MONOCHROME1", 16, 16, 15, 0, "30000/20000")]
     [InlineData("YBR_FULL_422", 8, 8, 7, 0, "")]
-    public void Samples_of_dicom_files_are_seen_as_a_viewer_shows_them(string kind, int bits, int stored, int high, int signed, string window)
+    public void Samples_of_dicom_files_are_seen_as_a_viewer_shows_them(
+        string kind, int bits, int stored, int high, int signed, string window)
     {
         string data = Tools.TempFile(".raw");
         string text = Tools.TempFile(".dump");
@@ -151,8 +167,10 @@ public class ReaderTests
         string[] numbers = window.Split('/', StringSplitOptions.RemoveEmptyEntries);
         File.WriteAllLines(text,
         [
-            "(0008,0016) UI =SecondaryCaptureImageStorage", "(0008,0018) UI [1.2.3.4]", $"(0028,0002) US {samples}", $"(0028,0004) CS [{kind}]",
-            "(0028,0006) US 0", "(0028,0010) US 9", "(0028,0011) US 14", $"(0028,0100) US {bits}", $"(0028,0101) US {stored}", $"(0028,0102) US {high}",
+            "(0008,0016) UI =SecondaryCaptureImageStorage", "(0008,0018) UI [1.2.3.4]", $"(0028,0002) US {samples}",
+                $"(0028,0004) CS [{kind}]",
+            "(0028,0006) US 0", "(0028,0010) US 9", "(0028,0011) US 14", $"(0028,0100) US {bits}",
+                $"(0028,0101) US {stored}", $"(0028,0102) US {high}",
             $"(0028,0103) US {signed}", .. numbers.Select((number, i) => $"(0028,{tags[i]}) DS [{number}]"),
             $"(7fe0,0010) {(bits == 16 ? "OW" : "OB")} ={data}",
         ]);
@@ -166,13 +184,15 @@ public class ReaderTests
     [InlineData("2x2", 864 * 2, "2,2")]
     [InlineData("2x2", 864 * 2, "3,5")]
     [InlineData("2x1", 1152 * 2, "1,0")]
-    public void Thinned_planes_of_jpeg_2000_lie_where_the_grid_puts_them(string thinned, int bytes, string origin)
+    public void Subsampled_components_of_jpeg_2000_lie_on_the_reference_grid(string thinned, int bytes, string origin)
     {
         string raw = Tools.TempFile(".raw");
         string file = Tools.TempFile(".jp2");
         string shown = Tools.TempFile(".png");
         File.WriteAllBytes(raw, [.. Enumerable.Range(0, bytes).Select(i => (byte)((i * 5) + (i / 48 * 3)))]);
-        Tools.Run("opj_compress", "-i", raw, "-o", file, "-n", "3", "-d", origin, "-F", $"48,24,3,8,u@1x1:{thinned}:{thinned}");
+        Tools.Run(
+            "opj_compress", "-i", raw, "-o", file, "-n", "3", "-d", origin, "-F",
+            $"48,24,3,8,u@1x1:{thinned}:{thinned}");
         Tools.Run("opj_decompress", "-i", file, "-o", shown);
         using RasterCachedImage image = Samples.Load(file);
 
@@ -185,9 +205,10 @@ public class ReaderTests
     public void Frames_of_an_animation_are_seen_as_a_player_shows_them()
     {
         string file = Tools.TempFile(".gif");
-        string[] words = ["-page 40x30+0+0 -size 40x30 -dispose none xc:white", "-page +5+5 -size 10x10 -dispose previous xc:red",
+        string[] arguments =
+            ["-page 40x30+0+0 -size 40x30 -dispose none xc:white", "-page +5+5 -size 10x10 -dispose previous xc:red",
             "-page +20+15 -size 12x8 -dispose background xc:blue", "-page +0+21 -size 9x9 -dispose none xc:lime"];
-        Tools.Run("convert", [.. string.Join(' ', words).Split(' '), file]);
+        Tools.Run("convert", [.. string.Join(' ', arguments).Split(' '), file]);
         using RasterCachedImage image = Samples.Load(file);
         Assert.Equal(4, image.PageCount);
         string whole = Tools.TempFile(".gif");
@@ -202,9 +223,12 @@ public class ReaderTests
     public void Bitmaps_have_a_class_of_their_own_and_names_do_not_matter()
     {
         using var made = Samples.Colors();
-        string file = Samples.Save(made, new BmpOptions { BitsPerPixel = 4, ResolutionSettings = new ResolutionSetting(254, 127) }, ".jpg");
+        string file = Samples.Save(
+            made, new BmpOptions { BitsPerPixel = 4, ResolutionSettings = new ResolutionSetting(254, 127) }, ".jpg");
         using var image = Assert.IsType<BitmapImage>(Image.Load(file));
-        Assert.Equal((4, 16, 254.0, 127.0), (image.BitsPerPixel, image.Palette!.EntriesCount, image.HorizontalResolution, image.VerticalResolution));
+        Assert.Equal(
+            (4, 16, 254.0, 127.0),
+            (image.BitsPerPixel, image.Palette!.EntriesCount, image.HorizontalResolution, image.VerticalResolution));
         Assert.Equal(FileFormat.Bmp, Image.GetFileFormat(file));
         using FileStream stream = File.OpenRead(file);
         using Image streamed = Image.Load(stream);
@@ -217,12 +241,13 @@ public class ReaderTests
     [InlineData(".jpg")]
     [InlineData(".tif")]
     [InlineData(".bmp")]
-    public void Pictures_that_a_drawing_refers_to_are_drawn(string extension)
+    public void Images_that_a_drawing_refers_to_are_drawn(string extension)
     {
         string folder = Directory.CreateTempSubdirectory("korvan").FullName;
-        using var picture = Samples.Of(32, 32, (x, y) => Samples.Rgb(250, 0, 0));
-        ImageOptionsBase options = extension switch { ".jpg" => new JpegOptions(), ".tif" => new TiffOptions(), _ => new BmpOptions() };
-        picture.Save(Path.Combine(folder, "photo" + extension), options);
+        using var photo = Samples.Of(32, 32, (x, y) => Samples.Rgb(250, 0, 0));
+        ImageOptionsBase options =
+            extension switch { ".jpg" => new JpegOptions(), ".tif" => new TiffOptions(), _ => new BmpOptions() };
+        photo.Save(Path.Combine(folder, "photo" + extension), options);
         CadImage drawing = Picture.Drawing(new CadRasterImage
         {
             ImageDefReference = "77",

@@ -12,7 +12,7 @@ namespace Korvan.CAD.Tests.Raster;
 /// <summary>Pictures to work on, and comparisons of them by another program.</summary>
 internal static class Samples
 {
-    /// <summary>A picture whose pixels are told by their place.</summary>
+    /// <summary>An image whose pixels are determined by their position.</summary>
     internal static RasterFileImage Of(int width, int height, Func<int, int, int> pixel)
     {
         var grid = new PixelGrid(width, height);
@@ -24,14 +24,16 @@ internal static class Samples
             }
         }
 
-        return new RasterFileImage(new DecodedFile { Format = FileFormat.Png, Frames = [new DecodedFrame { Pixels = grid }] });
+        return new RasterFileImage(
+            new DecodedFile { Format = FileFormat.Png, Frames = [new DecodedFrame { Pixels = grid }] });
     }
 
     /// <summary>Smooth colours, a sharp shape, and a size that no block size divides.</summary>
     internal static RasterFileImage Colors(int width = 61, int height = 43) => Of(width, height, (x, y) =>
         x is > 20 and < 30 && y is > 10 and < 30 ? Rgb(200, 30, 30) : Rgb(x * 255 / width, y * 255 / height, 128));
 
-    internal static int Rgb(int red, int green, int blue, int alpha = 255) => (alpha << 24) | (red << 16) | (green << 8) | blue;
+    internal static int Rgb(int red, int green, int blue, int alpha = 255) =>
+        (alpha << 24) | (red << 16) | (green << 8) | blue;
 
     internal static string Save(Image image, ImageOptionsBase options, string extension)
     {
@@ -51,7 +53,7 @@ internal static class Samples
         return double.Parse(text, CultureInfo.InvariantCulture);
     }
 
-    /// <summary>The largest difference of any channel between a picture and what ImageMagick reads from the file.</summary>
+    /// <summary>The largest difference of any channel between an image and its file as ImageMagick reads it.</summary>
     internal static int LargestDifference(RasterImage image, string file, string page = "")
     {
         string raw = Tools.TempFile(".bgra");

@@ -1,13 +1,13 @@
 using System;
 using System.Collections.Generic;
 using System.IO;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.DisplayList;
-using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;

@@ -155,7 +155,7 @@ public class ExportTests
 
     private static void Refused(CadImage drawing, ImageOptionsBase options, string reason)
     {
-        var refused = Assert.Throws<ImageSaveException>(() => DrawingExporter.Export(drawing, options, Stream.Null));
+        var refused = Assert.Throws<ImageSaveException>(() => drawing.Save(Stream.Null, options));
         Assert.Contains(reason, refused.Message);
     }
 

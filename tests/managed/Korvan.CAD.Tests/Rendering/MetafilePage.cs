@@ -37,7 +37,7 @@ internal sealed class MetafilePage : IDisposable
     internal static MetafilePage Of(CgmImage image, params string[] pictures)
     {
         var raster = new CadRasterizationOptions { PageWidth = 100, PageHeight = 100, Layouts = pictures };
-        return new MetafilePage(DrawingExporter.Rasterize(image, new PngOptions { VectorRasterizationOptions = raster }));
+        return new MetafilePage(Rasterizer.Draw(image, new PngOptions { VectorRasterizationOptions = raster }));
     }
 
     internal static CgmImage Image(params Command[] body) => Image([], [], body);

@@ -382,7 +382,7 @@ public class MetafileTests
         using MetafilePage all = Of(image);
         Assert.Equal((Red, Rgba.White, Red), (all[5, 5], all[25, 5], all[45, 5]));
         var options = new PngOptions { Layers = ["walls"], VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = 100, PageHeight = 100 } };
-        using var walls = Korvan.CAD.Rendering.DrawingExporter.Rasterize(image, options);
+        using var walls = Rasterizer.Draw(image, options);
         Assert.Equal(0, walls.Row(95)[5 * 4]);
         Assert.Equal(255, walls.Row(95)[45 * 4]);
     }

@@ -1,3 +1,4 @@
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Xunit;
@@ -103,7 +104,7 @@ public class MetafileTextTests
 
     private static (string Family, bool Bold, bool Italic) Face(string name)
     {
-        Korvan.CAD.Rendering.Text.FontSpec spec = Korvan.CAD.Rendering.Metafile.FontNames.Find(name);
+        FontSpec spec = Korvan.CAD.Rendering.Metafile.FontNames.Find(name);
         return (spec.Family.Split(',')[0], spec.Bold, spec.Italic);
     }
 

@@ -171,7 +171,7 @@ public class PageTests
     }
 
     private static RasterPage Render(CadImage drawing, CadRasterizationOptions raster) =>
-        DrawingExporter.Rasterize(drawing, new PngOptions { VectorRasterizationOptions = raster });
+        Rasterizer.Draw(drawing, new PngOptions { VectorRasterizationOptions = raster });
 
     private static Rgba At(RasterPage page, int x, int y)
     {

@@ -33,7 +33,7 @@ internal sealed class Picture : IDisposable
         Pin(drawing);
         var raster = new CadRasterizationOptions { PageWidth = 100, PageHeight = 100 };
         change?.Invoke(raster);
-        return new Picture(DrawingExporter.Rasterize(drawing, new PngOptions { VectorRasterizationOptions = raster }));
+        return new Picture(Rasterizer.Draw(drawing, new PngOptions { VectorRasterizationOptions = raster }));
     }
 
     internal static CadImage Drawing(params CadEntityBase[] entities)
@@ -101,7 +101,7 @@ internal sealed class Picture : IDisposable
     {
         string file = Tools.TempFile(extension);
         using FileStream output = File.Create(file);
-        DrawingExporter.Export(drawing, options, output);
+        drawing.Save(output, options);
         return file;
     }
 

@@ -37,7 +37,7 @@ public class RealDrawingTests
         Tools.Run("xmllint", "--noout", "--huge", Picture.SaveTo(drawing, new SvgOptions(), ".svg"));
         Tools.Run("xmllint", "--noout", "--huge", Picture.SaveTo(drawing, new SvgOptions { TextAsShapes = false }, ".svg"));
         using var output = new MemoryStream();
-        DrawingExporter.Export(drawing, new PngOptions(), output);
+        drawing.Save(output, new PngOptions());
         Assert.True(output.Length > 100);
     }
 }

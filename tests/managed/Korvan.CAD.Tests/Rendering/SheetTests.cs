@@ -158,25 +158,6 @@ public class SheetTests
         Assert.Equal(30, list.Bounds.MaxY, 6);
     }
 
-    [Fact]
-    public void Multi_leaders_are_read_through_their_braces()
-    {
-        (int, string)[] tags =
-        [
-            (300, "CONTEXT_DATA{"), (40, "1"), (41, "2.5"), (140, "3"), (290, "1"), (304, "Note"), (12, "10"), (22, "20"), (32, "0"), (171, "3"),
-            (302, "LEADER{"), (10, "8"), (20, "20"), (30, "0"), (11, "1"), (21, "0"), (31, "0"), (40, "2"),
-            (304, "LEADER_LINE{"), (10, "0"), (20, "0"), (30, "0"), (10, "4"), (20, "9"), (30, "0"), (305, "}"), (303, "}"), (301, "}"),
-            (170, "2"), (91, "-1023410171"),
-        ];
-        MultiLeader leader = MultiLeader.Read([.. tags.Select(t => new CadCodeValue(t.Item1, t.Item2))]);
-        Assert.Equal(("Note", 2.5, 3.0, 3, 2), (leader.Text, leader.TextHeight, leader.ArrowSize, leader.TextAttachment, leader.LineType));
-        MultiLeader.Leader branch = Assert.Single(leader.Leaders);
-        Assert.Equal((new Vec3(8, 20, 0), Vec3.UnitX, 2.0), (branch.Landing, branch.Direction, branch.Length));
-        Assert.Equal([new Vec3(0, 0, 0), new Vec3(4, 9, 0)], Assert.Single(branch.Lines));
-        Assert.Equal(new DrawingColor(5), RawColor.Decode(leader.LineColor));
-        Assert.Empty(MultiLeader.Read([new CadCodeValue(300, "CONTEXT_DATA{"), new CadCodeValue(302, "LEADER{")]).Leaders[0].Lines); // cut off
-    }
-
     private static DrawingList BuildSheet(CadImage drawing)
     {
         Picture.Sheet(drawing);

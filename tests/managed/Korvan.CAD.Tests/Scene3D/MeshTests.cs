@@ -64,7 +64,7 @@ public class MeshTests
         Picture.AddLayer(drawing, "own", 3);
         Picture.AddBlock(drawing, "fixed", Picture.Square(0, 0, 1, 5, "own"), Picture.Square(2, 0, 1, 6, "own"));
         Picture.AddBlock(drawing, "by block", Picture.Square(0, 0, 1, 0, "own"));
-        Scene scene = DrawingMeshes.Read(drawing.Drawing, null);
+        Scene scene = DrawingMeshes.Read(drawing.Drawing, null, new MeshRequest());
         Assert.Equal(5, scene.Roots.Count);
         Assert.Equal(7, scene.Instances().Count());
         Assert.Equal(2 + 2, scene.Instances().Select(instance => instance.Mesh).Distinct().Count());
@@ -116,7 +116,7 @@ public class MeshTests
     private static JsonElement Gltf(CadImage drawing)
     {
         using var file = new MemoryStream();
-        MeshExporter.WriteGltf(drawing.Drawing, new GltfOptions(), file);
+        drawing.Save(file, new GltfOptions());
         return JsonDocument.Parse(file.ToArray()).RootElement;
     }
 

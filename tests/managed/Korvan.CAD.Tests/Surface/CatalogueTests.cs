@@ -32,7 +32,8 @@ public class CatalogueTests
     [CatalogueFact]
     public void Every_enum_states_its_kind_as_the_catalogue_does()
     {
-        Dictionary<string, string> kinds = Rows().Where(row => row[1] == "enum").ToDictionary(row => $"{row[0]}.{row[2]}", row => row[3]);
+        Dictionary<string, string> kinds = Rows().Where(row => row[1] == "enum")
+            .ToDictionary(row => $"{row[0]}.{row[2]}", row => row[3]);
         foreach (Type type in PublicTypes.Where(type => type.IsEnum))
         {
             string expected = kinds[NameOf(type)];
@@ -45,7 +46,8 @@ public class CatalogueTests
     public void No_public_class_has_public_fields()
     {
         Assert.Empty(PublicTypes.Where(type => !type.IsEnum).SelectMany(type =>
-            type.GetFields(BindingFlags.Public | BindingFlags.Instance | BindingFlags.Static | BindingFlags.DeclaredOnly)));
+            type.GetFields(
+                BindingFlags.Public | BindingFlags.Instance | BindingFlags.Static | BindingFlags.DeclaredOnly)));
     }
 
     [Theory]
@@ -61,7 +63,8 @@ public class CatalogueTests
         Assert.Equal(101, Enum.GetValues<FileFormat>().Length);
     }
 
-    private static IEnumerable<string[]> Rows() => File.ReadLines(SharedDrawings.Catalogue!).Skip(1).Select(line => line.Split('\t'));
+    private static IEnumerable<string[]> Rows() =>
+        File.ReadLines(SharedDrawings.Catalogue!).Skip(1).Select(line => line.Split('\t'));
 
     private static string NameOf(Type type) =>
         $"{type.Namespace!.ToLowerInvariant()}.{type.FullName![(type.Namespace.Length + 1)..].Replace('+', '.')}";

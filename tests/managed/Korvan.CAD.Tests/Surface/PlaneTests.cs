@@ -5,7 +5,7 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Surface;
 
-/// <summary>Matrices, vectors and rectangles beside plain arithmetic.</summary>
+/// <summary>Matrices, vectors and rectangles compared to plain arithmetic.</summary>
 public class PlaneTests
 {
     [Theory]
@@ -17,22 +17,24 @@ public class PlaneTests
         for (int round = 0; round < 200; round++)
         {
             using Matrix matrix = new();
-            List<Func<(double X, double Y), (double X, double Y)>> maps = [];
+            List<PlaneMap> maps = [];
             for (int i = random.Next(1, 7); i > 0; i--)
             {
                 MatrixOrder order = random.Next(2) == 0 ? MatrixOrder.Prepend : MatrixOrder.Append;
                 (float a, float b) = ((float)Number(), (float)Number());
-                (Action change, Func<(double X, double Y), (double X, double Y)> map) = random.Next(6) switch
+                (Action Change, PlaneMap Map) step = random.Next(6) switch
                 {
-                    0 => ((Action)(() => matrix.Scale(a, b, order)), (Func<(double X, double Y), (double X, double Y)>)(p => (p.X * a, p.Y * b))),
+                    0 => (() => matrix.Scale(a, b, order), p => (p.X * a, p.Y * b)),
                     1 => (() => matrix.Translate(a, b, order), p => (p.X + a, p.Y + b)),
-                    2 => (() => matrix.Rotate(a * 40, order), p => Turned(p, a * 40, 0, 0)),
-                    3 => (() => matrix.RotateAt(a * 40, new PointF(b, a), order), p => Turned(p, a * 40, b, a)),
+                    2 => (() => matrix.Rotate(a * 40, order), p => Rotated(p, a * 40, 0, 0)),
+                    3 => (() => matrix.RotateAt(a * 40, new PointF(b, a), order), p => Rotated(p, a * 40, b, a)),
                     4 => (() => matrix.Shear(a, 0, order), p => (p.X + (a * p.Y), p.Y)),
-                    _ => (() => matrix.Multiply(new Matrix(a, b, -b, a, 1, 2), order), p => ((a * p.X) - (b * p.Y) + 1, (b * p.X) + (a * p.Y) + 2)),
+                    _ => (
+                        () => matrix.Multiply(new Matrix(a, b, -b, a, 1, 2), order),
+                        p => ((a * p.X) - (b * p.Y) + 1, (b * p.X) + (a * p.Y) + 2)),
                 };
-                change();
-                maps.Insert(order == MatrixOrder.Append ? maps.Count : 0, map);
+                step.Change();
+                maps.Insert(order == MatrixOrder.Append ? maps.Count : 0, step.Map);
             }
 
             (double X, double Y) expected = maps.Aggregate((X: 3.0, Y: -2.0), (p, map) => map(p));
@@ -44,7 +46,9 @@ public class PlaneTests
             float[] m = matrix.Elements;
             PointF arrow = matrix.TransformVectors([new PointF(3, -2)])[0];
             Assert.Equal(place.X - matrix.OffsetX, arrow.X, tolerance);
-            Assert.Equal(((double)m[0] * m[3]) - ((double)m[1] * m[2]), matrix.Determinant, 1e-4 * (1 + Math.Abs(matrix.Determinant)) * 10);
+            Assert.Equal(
+                ((double)m[0] * m[3]) - ((double)m[1] * m[2]), matrix.Determinant,
+                1e-4 * (1 + Math.Abs(matrix.Determinant)) * 10);
             using Matrix inverse = matrix.Clone();
             inverse.Invert();
             inverse.Multiply(matrix, MatrixOrder.Append);
@@ -116,9 +120,9 @@ public class PlaneTests
             Assert.True(Cells(union).IsSupersetOf(ofA) && Cells(union).IsSupersetOf(ofB));
             Assert.Equal((Math.Max(a.Right, b.Right), Math.Max(a.Bottom, b.Bottom)), (union.Right, union.Bottom));
             Assert.Equal(a, Rectangle.Inflate(Rectangle.Inflate(a, 2, 3), -2, -3));
-            Rectangle turned = new(a.Right, a.Bottom, -a.Width, -a.Height);
-            turned.Normalize();
-            Assert.Equal(a, turned);
+            Rectangle flipped = new(a.Right, a.Bottom, -a.Width, -a.Height);
+            flipped.Normalize();
+            Assert.Equal(a, flipped);
         }
 
         Rectangle Next() => new(random.Next(-5, 6), random.Next(-5, 6), random.Next(1, 8), random.Next(1, 8));
@@ -127,12 +131,18 @@ public class PlaneTests
     private static HashSet<(int X, int Y)> Cells(Rectangle rectangle)
     {
         IEnumerable<int> all = Enumerable.Range(-12, 30);
-        return [.. all.SelectMany(x => all.Select(y => (x, y))).Where(cell => rectangle.Contains(new Point(cell.x, cell.y)))];
+        return
+        [
+            .. all.SelectMany(x => all.Select(y => (x, y)))
+                .Where(cell => rectangle.Contains(new Point(cell.x, cell.y))),
+        ];
     }
 
-    private static (double X, double Y) Turned((double X, double Y) p, double degrees, double x, double y)
+    private static (double X, double Y) Rotated((double X, double Y) p, double degrees, double x, double y)
     {
         (double sin, double cos) = Math.SinCos(degrees * Math.PI / 180);
         return (x + ((p.X - x) * cos) - ((p.Y - y) * sin), y + ((p.X - x) * sin) + ((p.Y - y) * cos));
     }
+
+    private delegate (double X, double Y) PlaneMap((double X, double Y) point);
 }

@@ -16,10 +16,10 @@ namespace Korvan.WrpGen.Tests.Emit;
 /// <summary>Compiles the probe's whole interop assembly and looks at what it exports.</summary>
 public class CompiledInteropTests
 {
-    private static readonly Lazy<Assembly> s_interop = new(Compile);
+    private static readonly Lazy<Assembly> LazyInterop = new(Compile);
 
     // What a native caller and a managed function agree on without any conversion.
-    private static readonly HashSet<Type> s_words =
+    private static readonly HashSet<Type> WordTypes =
     [
         typeof(void), typeof(byte), typeof(sbyte), typeof(short), typeof(ushort), typeof(int), typeof(uint),
         typeof(long), typeof(ulong), typeof(nint), typeof(nuint), typeof(float), typeof(double),
@@ -64,7 +64,8 @@ public class CompiledInteropTests
     [Theory]
     [InlineData("ExchangeHost", "GetTypeName SetExceptionCallback SetCatchAndClearErrorCallback " +
         "SetU16StrBuilderCallback SetPyUnraisableStrBuilderCallback SetPyStrBuilderCallback " +
-        "SetPyBytesBuilderCallback SetPyObjApiCallbacks SetPyStaticCallbacks SetPyGenericCallbacks FreePendingArgs FreeInstance InitServices " +
+        "SetPyBytesBuilderCallback SetPyObjApiCallbacks SetPyStaticCallbacks SetPyGenericCallbacks FreePendingArgs " +
+        "FreeInstance InitServices " +
         "BoxStcTarget")]
     [InlineData("ObjectHost", "ToStringOfObj ToStringOfStc GetHashOfObj GetHashOfStc IsEqualsOfObj IsEqualsOfStc " +
         "IsTypeOf GetTypeName GetObjType GetStcType Dispose")]
@@ -75,13 +76,13 @@ public class CompiledInteropTests
 
     private static void AssertExports(string type, IEnumerable<string> names)
     {
-        Type wrapper = s_interop.Value.GetType(type, throwOnError: true)!;
+        Type wrapper = LazyInterop.Value.GetType(type, throwOnError: true)!;
         IEnumerable<string> exported = wrapper.GetMethods(BindingFlags.Public | BindingFlags.Static)
             .Where(IsExported).Select(method => method.Name);
         Assert.Empty(names.Except(exported));
     }
 
-    private static IEnumerable<MethodInfo> Exported() => s_interop.Value.GetTypes()
+    private static IEnumerable<MethodInfo> Exported() => LazyInterop.Value.GetTypes()
         .SelectMany(type => type.GetMethods(BindingFlags.Public | BindingFlags.NonPublic | BindingFlags.Static))
         .Where(IsExported);
 
@@ -90,7 +91,7 @@ public class CompiledInteropTests
 
     // Structs of two words return in registers, and have no reference in them.
     private static bool IsBlittable(Type type) =>
-        s_words.Contains(type) || type.IsPointer ||
+        WordTypes.Contains(type) || type.IsPointer ||
         (type.IsValueType && !type.IsPrimitive && !type.IsEnum && type
             .GetFields(BindingFlags.Instance | BindingFlags.Public | BindingFlags.NonPublic)
             .All(field => IsBlittable(field.FieldType)));

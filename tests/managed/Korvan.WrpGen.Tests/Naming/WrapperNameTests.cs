@@ -6,7 +6,7 @@ namespace Korvan.WrpGen.Tests.Naming;
 
 public class WrapperNameTests
 {
-    private static readonly RootMap s_root = RootMap.Parse("Korvan.CAD=korvan.cad");
+    private static readonly RootMap Root = RootMap.Parse("Korvan.CAD=korvan.cad");
 
     [Theory]
     [InlineData("korvan.cad.Matrix", "CFECF7E6")]
@@ -19,7 +19,7 @@ public class WrapperNameTests
     [InlineData("Korvan.CAD", "korvan.cad")]
     [InlineData("Korvan.CAD.FileFormats.Cad.CadObjects.Hatch", "korvan.cad.fileformats.cad.cadobjects.hatch")]
     public void NamespacesBecomeModules(string space, string module) =>
-        Assert.Equal(module, s_root.ModuleOf(space));
+        Assert.Equal(module, Root.ModuleOf(space));
 
     [Theory]
     [InlineData("Korvan.CAD", true)]
@@ -28,7 +28,7 @@ public class WrapperNameTests
     [InlineData("Korvan", false)]
     [InlineData(null, false)]
     public void RootHoldsItsNamespaces(string? space, bool isHeld) =>
-        Assert.Equal(isHeld, s_root.Contains(space));
+        Assert.Equal(isHeld, Root.Contains(space));
 
     [Theory]
     [InlineData("Matrix", "WrpCs_Matrix_4F897E2C")]

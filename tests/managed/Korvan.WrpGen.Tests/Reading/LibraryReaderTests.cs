@@ -46,12 +46,12 @@ public class LibraryReaderTests
         Assert.Equal(delegates, ProbeModel.Type(type).Delegates.Where(name => name.StartsWith("btp_")));
 
     [Fact]
-    public void AGroupRunsOnIntoTheLegsOfItsBases()
+    public void AGroupRunsOnIntoTheOverloadsOfItsBases()
     {
         MethodGroup scale = MethodGroup.Of(ProbeModel.Type("Box")).Single(group => group.PythonName == "scale");
         Assert.Equal(
             ["Box.call_000_Scale", "Box.call_001_Scale", "Shape.call_000_Scale"],
-            scale.Legs.Select(leg => $"{leg.Owner.Name}.{leg.Delegate}"));
+            scale.Overloads.Select(overload => $"{overload.Owner.Name}.{overload.Delegate}"));
     }
 
     [Theory]
@@ -91,6 +91,19 @@ public class LibraryReaderTests
     [InlineData("HiddenShape", true)]
     public void ExplicitImplementationsAreTold(string type, bool isExplicit) =>
         Assert.All(ProbeModel.Type(type).Interfaces, use => Assert.Equal(isExplicit, use.IsExplicit));
+
+    [Theory]
+    [InlineData("Strict", "text", true, false)]
+    [InlineData("Strict", "name", true, true)] // never read as null, but it may be assigned
+    [InlineData("Strict", "answer", true, false)] // may be read as null, but not assigned
+    [InlineData("Echo", "text", true, true)]
+    [InlineData("Cube", "side", false, false)] // has no setter
+    [InlineData("Failing", "made", false, false)] // can be set by an initializer only
+    public void WhatMayBeAssignedIsReadFromTheDeclaration(string type, string name, bool canWrite, bool takesNull)
+    {
+        PropertyModel property = ProbeModel.Type(type).Properties.Single(one => one.PythonName == name);
+        Assert.Equal((canWrite, canWrite && takesNull), (property.CanWrite, canWrite && property.TakesNull));
+    }
 
     [Fact]
     public void MembersOfAnUnboundBaseComeAlong() => Assert.Equal(

@@ -24,8 +24,8 @@ public sealed unsafe class FakePython
         public int References { get; set; } = 1;
     }
 
-    private static readonly nint s_none = New(null);
-    private static nint s_errorText;
+    private static readonly nint NoneObject = New(null);
+    private static nint _errorText;
 
     public FakePython()
     {
@@ -45,7 +45,7 @@ public sealed unsafe class FakePython
     /// <summary>What a file object adds to the number of bytes that it says it moved.</summary>
     internal static int FileLie { get; set; }
 
-    internal static nint None => s_none;
+    internal static nint None => NoneObject;
 
     internal static nint New(object? value) => GCHandle.ToIntPtr(GCHandle.Alloc(new FakeObject(value)));
 
@@ -85,7 +85,7 @@ public sealed unsafe class FakePython
     }
 
     [UnmanagedCallersOnly]
-    private static nint GetNone() => s_none;
+    private static nint GetNone() => NoneObject;
 
     [UnmanagedCallersOnly]
     private static void IncRef(nint value) => At(value).References++;
@@ -111,10 +111,10 @@ public sealed unsafe class FakePython
             return -1;
         }
         PendingError = null;
-        NativeMemory.Free((void*)s_errorText);
-        s_errorText = Marshal.StringToHGlobalUni(error);
+        NativeMemory.Free((void*)_errorText);
+        _errorText = Marshal.StringToHGlobalUni(error);
         *owner = New(error);
-        *text = new PyStringArg { Length = error.Length, CharSize = 2, Data = (void*)s_errorText };
+        *text = new PyStringArg { Length = error.Length, CharSize = 2, Data = (void*)_errorText };
         return 0;
     }
 

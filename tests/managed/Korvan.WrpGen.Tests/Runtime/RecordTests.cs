@@ -12,8 +12,8 @@ namespace Korvan.WrpGen.Tests.Runtime;
 /// <summary>The mirror against what the native header says of itself.</summary>
 public partial class RecordTests
 {
-    private static readonly string s_header =
-        File.ReadAllText(Path.Combine(ProbeModel.RepositoryRoot, "contract", "records.h"));
+    private static readonly string Header =
+        File.ReadAllText(Path.Combine(ProbeModel.RepositoryRoot, "contract", "include", "contract", "records.h"));
 
     public static IEnumerable<object[]> Sizes => Matches(Record())
         .Select(match => new object[] { match.Groups[1].Value, int.Parse(match.Groups[2].Value) });
@@ -37,7 +37,7 @@ public partial class RecordTests
     private static Type TypeOf(string record) =>
         typeof(VariantArg).Assembly.GetType("Korvan.WrpGen.Interop." + record, throwOnError: true)!;
 
-    private static IEnumerable<Match> Matches(Regex pattern) => pattern.Matches(s_header);
+    private static IEnumerable<Match> Matches(Regex pattern) => pattern.Matches(Header);
 
     [GeneratedRegex(@"^KORVAN_RECORD\((\w+), (\d+)\);", RegexOptions.Multiline)]
     private static partial Regex Record();

@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cad.CadConsts;
 
-/// <summary>Which point of a text stands at its insertion point.</summary>
+/// <summary>Which point of a text is at its insertion point.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum CadAttachmentPoint
 {

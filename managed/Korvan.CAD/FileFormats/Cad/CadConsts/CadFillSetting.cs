@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cad.CadConsts;
 
-/// <summary>What lies behind a text.</summary>
+/// <summary>The background of a text.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum CadFillSetting
 {

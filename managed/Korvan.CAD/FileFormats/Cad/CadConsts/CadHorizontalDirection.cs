@@ -6,7 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadConsts;
 [PythonEnum(EnumKind.Flag)]
 public enum CadHorizontalDirection
 {
-    /// <summary>As the annotation stands.</summary>
+    /// <summary>As the annotation.</summary>
     Default = 0,
 
     /// <summary>Always level.</summary>

@@ -18,7 +18,7 @@ public enum CadLayoutUcsOrthographicType
     /// <summary>From the front.</summary>
     Front = 3,
 
-    /// <summary>From behind.</summary>
+    /// <summary>From the back.</summary>
     Back = 4,
 
     /// <summary>From the left.</summary>

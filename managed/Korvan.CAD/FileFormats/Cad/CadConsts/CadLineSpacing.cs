@@ -6,7 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadConsts;
 [PythonEnum(EnumKind.Flag)]
 public enum CadLineSpacing
 {
-    /// <summary>Taller letters move lines apart.</summary>
+    /// <summary>Taller characters move lines apart.</summary>
     AtLeast = 1,
 
     /// <summary>All lines have the same distance.</summary>

@@ -9,6 +9,6 @@ public enum CadLineStyle
     /// <summary>Solid.</summary>
     Continuous = 0,
 
-    /// <summary>Hidden by what stands before them.</summary>
+    /// <summary>Hidden by what is in front of them.</summary>
     Hidden = 1,
 }

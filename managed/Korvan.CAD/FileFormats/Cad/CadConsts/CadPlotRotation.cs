@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cad.CadConsts;
 
-/// <summary>How the drawing is turned on the paper.</summary>
+/// <summary>How the drawing is rotated on the paper.</summary>
 [PythonEnum(EnumKind.Flag)]
 public enum CadPlotRotation
 {

@@ -24,10 +24,10 @@ public enum CadSectionType
     /// <summary>Objects that are not drawn.</summary>
     Objects = 5,
 
-    /// <summary>Data of bodies.</summary>
+    /// <summary>Data of solids.</summary>
     AcdsData = 6,
 
-    /// <summary>The preview picture.</summary>
+    /// <summary>The preview image.</summary>
     ThumbnailImage = 7,
 
     /// <summary>A section of another kind.</summary>

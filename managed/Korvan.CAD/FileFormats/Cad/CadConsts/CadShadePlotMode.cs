@@ -15,6 +15,6 @@ public enum CadShadePlotMode
     /// <summary>With hidden lines left out.</summary>
     Hidden = 2,
 
-    /// <summary>As a picture.</summary>
+    /// <summary>As a rendered image.</summary>
     Rendered = 3,
 }

@@ -1,4 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -18,12 +19,12 @@ public partial class CadAlignedDimension : CadDimensionBase
 
     /// <summary>Gets or sets the direction of the dimension line, in degrees; of rotated dimensions only. Group code
     /// 50.</summary>
-    [CadDouble(50, Optional = true)]
+    [CadAngle(50, Optional = true)]
     public double RotationAngle { get; set; }
 
     /// <summary>Gets or sets the direction of the extension lines, in degrees; 0 for across the dimension line. Group
     /// code 52.</summary>
-    [CadDouble(52, Optional = true)]
+    [CadAngle(52, Optional = true)]
     public double ObliqueAngle { get; set; }
 
     /// <summary>Creates the object with its defaults.</summary>

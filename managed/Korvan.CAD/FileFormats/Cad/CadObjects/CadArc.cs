@@ -1,3 +1,5 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A circular arc, drawn counterclockwise from its start to its end angle.</summary>
@@ -11,11 +13,11 @@ public partial class CadArc : CadCircle
 
     /// <summary>Gets or sets the start angle, in degrees from the X axis of the object coordinate system. Group code
     /// 50.</summary>
-    [CadDouble(50)]
+    [CadAngle(50)]
     public double StartAngle { get; set; }
 
     /// <summary>Gets or sets the end angle, in degrees from the X axis of the object coordinate system. Group code
     /// 51.</summary>
-    [CadDouble(51)]
+    [CadAngle(51)]
     public double EndAngle { get; set; }
 }

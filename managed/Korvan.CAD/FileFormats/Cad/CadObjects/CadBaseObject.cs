@@ -1,7 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Globalization;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -18,7 +18,7 @@ public abstract partial class CadBaseObject : IKeyedObject
 
     /// <summary>Gets or sets the handle, which names the object within its drawing, in hexadecimal; empty as long as
     /// there is none. New objects get one when the drawing is saved. Group code 5.</summary>
-    /// <exception cref="FormatException">The text is no hexadecimal number.</exception>
+    /// <exception cref="FormatException">The text is not a hexadecimal number.</exception>
     public string ObjectHandle
     {
         get => Handle == 0 ? "" : Handle.ToString("X", CultureInfo.InvariantCulture);
@@ -35,21 +35,9 @@ public abstract partial class CadBaseObject : IKeyedObject
     /// <summary>Gets the groups that programs attached, between group codes 102.</summary>
     public CadApplicationCodesContainer ApplicationCodesContainer => _applicationCodes ??= new();
 
-    /// <summary>Gets the codes of this object that the library does not interpret, in the order of the file. They
-    /// are written back as they are.</summary>
-    public CadCodeValue[] UnknownCodes
-    {
-        get
-        {
-            List<CadCodeValue> values = [];
-            foreach (KeptTag tag in Kept ?? [])
-            {
-                values.Add(tag.Value);
-            }
-
-            return [.. values];
-        }
-    }
+    /// <summary>Gets the tags of this object that the library does not interpret, in the order of the file. They are
+    /// written back unchanged.</summary>
+    public CadCodeValue[] UnknownCodes => KeptTags?.Values ?? [];
 
     /// <summary>Gets or sets the handle as a number; 0 for none.</summary>
     internal ulong Handle { get; set; }
@@ -57,30 +45,29 @@ public abstract partial class CadBaseObject : IKeyedObject
     /// <summary>Gets the name after group code 0.</summary>
     internal abstract string DxfName { get; }
 
-    /// <summary>Gets the codes that nobody interprets, with the marker that they stood behind.</summary>
-    internal List<KeptTag>? Kept { get; private set; }
+    /// <summary>Gets or sets the data that its class does not interpret, in the form of the file that it came
+    /// from.</summary>
+    internal KeptData? Kept { get; set; }
 
-    /// <summary>Gets the embedded object, verbatim: group code 101 and everything behind it up to extended
-    /// data.</summary>
-    internal List<CadCodeValue>? Embedded { get; set; }
+    /// <summary>Gets the data that its class does not interpret of an object that came from a text file.</summary>
+    internal KeptTags? KeptTags => Kept as KeptTags;
+
+    /// <summary>Gets the embedded object: group code 101 and all tags after it up to extended data.</summary>
+    internal List<CadCodeValue>? Embedded => KeptTags?.Embedded;
 
     internal CadXdataContainer? XdataOrNull => _xdata;
 
     internal CadApplicationCodesContainer? ApplicationCodesOrNull => _applicationCodes;
 
-    /// <summary>Takes over the current tag.</summary>
-    /// <returns>Whether the tag means something to the class.</returns>
-    internal virtual bool ReadCode(int code, DxfTagReader tags) => false;
+    /// <summary>Takes the current field over.</summary>
+    /// <returns>Whether the class has such a field.</returns>
+    internal virtual bool ReadField(int code, FieldReader reader) => false;
 
-    /// <summary>Writes what stands before the codes of a class.</summary>
-    internal virtual void WriteMarker(DxfTagWriter writer, string subclass) => writer.WriteSubclass(subclass);
+    /// <summary>Carries the marker of a subclass.</summary>
+    internal virtual void BeginSubclass(ObjectExchange fields, string subclass) => fields.BeginSubclass(subclass);
 
-    internal virtual void WriteCodes(DxfTagWriter writer)
+    /// <summary>Carries the fields in the order of their declaration.</summary>
+    internal virtual void Exchange(ObjectExchange fields)
     {
-    }
-
-    internal void Keep(string? subclass, CadCodeValue value)
-    {
-        (Kept ??= []).Add(new KeptTag(subclass, value));
     }
 }

@@ -44,7 +44,7 @@ public partial class CadBlockEntity : CadEntityBase
     /// <summary>Gets the entities of the block in drawing order. The list is live.</summary>
     public IList<CadEntityBase> Entities { get; }
 
-    /// <summary>Gets whether the content stands in another file.</summary>
+    /// <summary>Gets whether the content is in another file.</summary>
     public bool IsExternalReference => (Flags & 4) != 0;
 
     /// <summary>Gets or sets what ends the block in files.</summary>

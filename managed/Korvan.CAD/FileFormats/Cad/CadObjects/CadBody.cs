@@ -1,8 +1,8 @@
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
-/// <summary>A body.</summary>
+/// <summary>A body of the solid modeler.</summary>
 [CadObject("BODY", Subclass = "AcDbModelerGeometry")]
 public partial class CadBody : CadObjectWithAcisData
 {
@@ -11,13 +11,13 @@ public partial class CadBody : CadObjectWithAcisData
     {
     }
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
-        taken = ReadAcis(code, tags);
+        taken = ReadAcis(code, reader);
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        WriteAcis(writer);
+        ExchangeAcis(fields);
     }
 }

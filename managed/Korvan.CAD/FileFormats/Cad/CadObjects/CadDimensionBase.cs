@@ -1,4 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -14,9 +15,9 @@ public abstract partial class CadDimensionBase : CadEntityBase
     [CadShort(280, Optional = true, Since = 2010)]
     public short Version { get; set; }
 
-    /// <summary>Gets or sets the name of the block that holds the picture of the dimension; empty when there is none
-    /// yet. Group code 2.</summary>
-    [CadString(2, Optional = true)]
+    /// <summary>Gets or sets the name of the block with the graphics of the dimension; empty when there is none yet.
+    /// Group code 2.</summary>
+    [CadName(2, SymbolTable.BlockRecord, Optional = true)]
     public string BlockName { get; set; } = "";
 
     /// <summary>Gets or sets the point that the dimension line is defined by, in world coordinates. Group codes 10,
@@ -37,7 +38,7 @@ public abstract partial class CadDimensionBase : CadEntityBase
     [CadShort(70)]
     public short TypeOfDimension { get; set; }
 
-    /// <summary>Gets or sets which point of the text stands at its place. Group code 71.</summary>
+    /// <summary>Gets or sets which point of the text is at its position. Group code 71.</summary>
     [CadShort(71, Optional = true)]
     public CadAttachmentPoint AttachmentPoint { get; set; } = CadAttachmentPoint.MiddleCenter;
 
@@ -45,7 +46,7 @@ public abstract partial class CadDimensionBase : CadEntityBase
     [CadShort(72, Optional = true)]
     public CadLineSpacing LineSpacingStyle { get; set; } = CadLineSpacing.AtLeast;
 
-    /// <summary>Gets or sets the distance of text lines as a part of the usual. Group code 41.</summary>
+    /// <summary>Gets or sets the distance of text lines as a part of the default. Group code 41.</summary>
     [CadDouble(41, Optional = true)]
     public double LineSpacingFactor { get; set; } = 1;
 
@@ -58,13 +59,13 @@ public abstract partial class CadDimensionBase : CadEntityBase
     [CadString(1, Optional = true)]
     public string Text { get; set; } = "";
 
-    /// <summary>Gets or sets the direction of the text against the usual, in degrees. Group code 53.</summary>
-    [CadDouble(53, Optional = true)]
+    /// <summary>Gets or sets the direction of the text against the default, in degrees. Group code 53.</summary>
+    [CadAngle(53, Optional = true)]
     public double TextRotation { get; set; }
 
     /// <summary>Gets or sets the negative of the angle of the horizontal direction, in degrees. Group code
     /// 51.</summary>
-    [CadDouble(51, Optional = true)]
+    [CadAngle(51, Optional = true)]
     public double HorizontalDirection { get; set; }
 
     /// <summary>Gets or sets the unit normal of the plane of the dimension. Group codes 210, 220, 230.</summary>
@@ -72,7 +73,7 @@ public abstract partial class CadDimensionBase : CadEntityBase
     public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
 
     /// <summary>Gets or sets the name of the dimension style. Group code 3.</summary>
-    [CadString(3)]
+    [CadName(3, SymbolTable.DimensionStyle)]
     public string StyleName { get; set; } = "STANDARD";
 
     /// <summary>Gets the kind of the dimension without its flags.</summary>

@@ -3,11 +3,11 @@ using Korvan.CAD.Annotations;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Measurement;
 using Korvan.CAD.Primitives;
-using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -54,15 +54,15 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEnt
 
     /// <summary>Gets or sets the name of the line type; "BYLAYER" and "BYBLOCK" take it from there. Group
     /// code 6.</summary>
-    [CadString(6, Optional = true)]
+    [CadName(6, SymbolTable.LineType, Optional = true)]
     public string LineTypeName { get; set; } = "BYLAYER";
 
     /// <summary>Gets or sets the handle of the material in hexadecimal; empty for that of the layer. Group
     /// code 347.</summary>
-    [CadString(347, Optional = true, Since = 2007)]
+    [CadHandle(347, Optional = true, Since = 2007)]
     public string Material { get; set; } = "";
 
-    /// <summary>Gets or sets the number of the colour: 1 to 255, 256 by layer, 0 by block. Group code 62.</summary>
+    /// <summary>Gets or sets the index of the colour: 1 to 255, 256 by layer, 0 by block. Group code 62.</summary>
     /// <exception cref="ArgumentOutOfRangeException">The number is not 0 to 256.</exception>
     public short ColorId
     {
@@ -103,25 +103,25 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEnt
 
     /// <summary>Gets or sets the handle of the plot style in hexadecimal; empty for that of the layer. Group
     /// code 390.</summary>
-    [CadString(390, Optional = true, Since = 2000)]
+    [CadHandle(390, Optional = true, Since = 2000)]
     public string PlotStyle { get; set; } = "";
 
     /// <summary>Gets or sets the shadows of the entity. Group code 284.</summary>
     [CadShort(284, Optional = true, Since = 2007)]
     public CadShadowMode ShadowMode { get; set; }
 
-    /// <summary>Gets or sets the name of the layer as it stands in the file, whatever it is.</summary>
-    [CadString(8)]
+    /// <summary>Gets or sets the name of the layer as it is in the file, whatever it is.</summary>
+    [CadName(8, SymbolTable.Layer)]
     internal string StoredLayer { get; set; } = "0";
 
-    /// <summary>Gets or sets the number of the colour as it stands in the file, whatever it is.</summary>
-    [CadShort(62, Optional = true)]
+    /// <summary>Gets or sets the index of the colour as it is in the file, whatever it is.</summary>
+    [CadColor(62, Optional = true)]
     internal short StoredColor { get; set; } = 256;
 
     /// <summary>Gets or sets the list that the entity is in.</summary>
     internal IEntityList? Home { get; set; }
 
-    /// <summary>Gets or sets how often it stands there: once, but for moments.</summary>
+    /// <summary>Gets or sets how often it is in the list: once, but for moments.</summary>
     internal int Places { get; set; }
 
     /// <summary>Makes a copy that belongs to no drawing and has no handle yet, with copies of vertices and attributes.
@@ -133,8 +133,8 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEnt
     /// finite.</exception>
     public CadEntityBase Clone() => EntityCopy.Of(this);
 
-    /// <summary>Gives what the entity is, its layer and its place in one line.</summary>
-    /// <returns>What the entity is, its layer and its place in one line.</returns>
+    /// <summary>Gives what the entity is, its layer and its position in one line.</summary>
+    /// <returns>What the entity is, its layer and its position in one line.</returns>
     public override string ToString() => EntityText.Of(this);
 
     /// <summary>Gives the point that an annotation points to: the middle of the entity, in world coordinates.</summary>

@@ -1,5 +1,5 @@
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -25,22 +25,6 @@ public partial class CadGroup : CadObjectBase
     public short Selectable { get; set; } = 1;
 
     /// <summary>Gets the handles of the entities, in hexadecimal. The list is live. Group code 340.</summary>
+    [CadList(340)]
     public List<string> EntityHandles { get; } = [];
-
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
-    {
-        if (code == 340)
-        {
-            EntityHandles.Add(tags.GetString());
-            taken = true;
-        }
-    }
-
-    partial void OnWriteCodes(DxfTagWriter writer)
-    {
-        foreach (string handle in EntityHandles)
-        {
-            writer.Write(340, handle);
-        }
-    }
 }

@@ -4,7 +4,7 @@ using System.Globalization;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -25,7 +25,7 @@ public partial class CadHeader
     /// <see cref="ImageOptions.DxfOptions.Version"/> does for one file. $ACADVER.</summary>
     public CadAcadVersion AcadVersion
     {
-        get => DxfRelease.Parse(GetString("$ACADVER"));
+        get => DrawingRelease.Parse(GetString("$ACADVER"));
         set => Set("$ACADVER", 1, value.ToString());
     }
 
@@ -37,13 +37,13 @@ public partial class CadHeader
     /// <summary>Gives a variable as a number.</summary>
     /// <param name="name">The name, as in $LTSCALE.</param>
     /// <returns>The value, or 0 where the drawing does not state it.</returns>
-    /// <exception cref="CadException">The variable is no number.</exception>
+    /// <exception cref="CadException">The variable is not a number.</exception>
     public double GetDouble(string name) => GetDouble(name, 0);
 
-    /// <summary>Gives a variable as a whole number.</summary>
+    /// <summary>Gives a variable as an integer.</summary>
     /// <param name="name">The name, as in $INSUNITS.</param>
     /// <returns>The value, or 0 where the drawing does not state it.</returns>
-    /// <exception cref="CadException">The variable is no number.</exception>
+    /// <exception cref="CadException">The variable is not a number.</exception>
     public int GetInt(string name) => (int)GetDouble(name, 0);
 
     /// <summary>Gives a variable as a text.</summary>
@@ -92,7 +92,7 @@ public partial class CadHeader
 
     /// <summary>Sets a variable of one tag.</summary>
     /// <param name="name">The name, as in $LTSCALE.</param>
-    /// <param name="groupCode">The group code of the value: 40 numbers, 70 whole numbers, 2 or 1 texts.</param>
+    /// <param name="groupCode">The group code of the value: 40 numbers, 70 integers, 2 or 1 texts.</param>
     /// <param name="value">The text of the value.</param>
     public void SetTag(string name, int groupCode, string value)
     {

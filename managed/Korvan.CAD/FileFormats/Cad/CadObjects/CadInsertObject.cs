@@ -1,9 +1,9 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.Primitives;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.Primitives;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -18,10 +18,10 @@ public partial class CadInsertObject : CadEntityBase
     }
 
     /// <summary>Gets or sets the name of the block. Group code 2.</summary>
-    [CadString(2)]
+    [CadName(2, SymbolTable.BlockRecord)]
     public string Name { get; set; } = "";
 
-    /// <summary>Gets or sets the place of the block's base point, in object coordinates. Group codes 10, 20,
+    /// <summary>Gets or sets the position of the base point of the block, in object coordinates. Group codes 10, 20,
     /// 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint InsertionPoint { get; set; } = new();
@@ -39,7 +39,7 @@ public partial class CadInsertObject : CadEntityBase
     public double ScaleZ { get; set; } = 1;
 
     /// <summary>Gets or sets the rotation, in degrees. Group code 50.</summary>
-    [CadDouble(50, Optional = true)]
+    [CadAngle(50, Optional = true)]
     public double RotationAngle { get; set; }
 
     /// <summary>Gets or sets the number of columns. Group code 70.</summary>
@@ -79,9 +79,9 @@ public partial class CadInsertObject : CadEntityBase
     internal const string GridMarker = "AcDbMInsertBlock";
 
     /// <inheritdoc/>
-    internal override void WriteMarker(DxfTagWriter writer, string subclass)
+    internal override void BeginSubclass(ObjectExchange fields, string subclass)
     {
-        base.WriteMarker(writer, subclass == SingleMarker && IsGrid ? GridMarker : subclass);
+        base.BeginSubclass(fields, subclass == SingleMarker && IsGrid ? GridMarker : subclass);
     }
 
     /// <inheritdoc/>
@@ -91,11 +91,17 @@ public partial class CadInsertObject : CadEntityBase
         return new Point3D(place.X, place.Y, place.Z);
     }
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         // Attributes follow or not: the list tells.
         taken = code == 66;
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer) => writer.WriteOptional(66, Attributes.Count > 0 ? 1 : 0, 0);
+    partial void OnExchange(ObjectExchange fields)
+    {
+        if (fields.Includes(0, Attributes.Count > 0))
+        {
+            fields.Bool(66, true);
+        }
+    }
 }

@@ -6,12 +6,12 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadObject("LARGE_RADIAL_DIMENSION", Subclass = "AcDbRadialDimensionLarge")]
 public partial class CadJoggedDimension : CadDimensionBase
 {
-    /// <summary>Gets or sets the point that stands for the centre, in world coordinates. Group codes 13, 23,
+    /// <summary>Gets or sets the point that replaces the centre, in world coordinates. Group codes 13, 23,
     /// 33.</summary>
     [Cad3DPoint(13)]
     public Cad3DPoint OverrideCenter { get; set; } = new();
 
-    /// <summary>Gets or sets the place of the jog, in world coordinates. Group codes 14, 24, 34.</summary>
+    /// <summary>Gets or sets the position of the jog, in world coordinates. Group codes 14, 24, 34.</summary>
     [Cad3DPoint(14)]
     public Cad3DPoint JogPoint { get; set; } = new();
 

@@ -1,4 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -22,7 +23,7 @@ public partial class CadLayout : CadPlotSettings
     [CadInt(70)]
     public CadLayoutControlFlag ControlFlags { get; set; } = CadLayoutControlFlag.PsltScale;
 
-    /// <summary>Gets or sets the place of the tab; 0 is the model. Group code 71.</summary>
+    /// <summary>Gets or sets the position of the tab; 0 is the model. Group code 71.</summary>
     [CadInt(71)]
     public int TabOrder { get; set; }
 
@@ -68,11 +69,11 @@ public partial class CadLayout : CadPlotSettings
 
     /// <summary>Gets or sets the handle of the block record that owns the entities, in hexadecimal. Group code
     /// 330.</summary>
-    [CadString(330, Optional = true)]
+    [CadHandle(330, Optional = true)]
     public string BlockTableRecordHandle { get; set; } = "";
 
     /// <summary>Gets or sets the handle of the viewport that was active last, in hexadecimal. Group code
     /// 331.</summary>
-    [CadString(331, Optional = true)]
+    [CadHandle(331, Optional = true)]
     public string LastActiveViewportHandle { get; set; } = "";
 }

@@ -1,6 +1,6 @@
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -14,14 +14,14 @@ public partial class CadLeader : CadEntityBase
     }
 
     /// <summary>Gets or sets the name of the dimension style. Group code 3.</summary>
-    [CadString(3)]
+    [CadName(3, SymbolTable.DimensionStyle)]
     public string DimensionStyleName { get; set; } = "STANDARD";
 
     /// <summary>Gets or sets whether there is an arrowhead: 0 no, 1 yes. Group code 71.</summary>
     [CadShort(71)]
     public short ArrowheadFlag { get; set; } = 1;
 
-    /// <summary>Gets or sets the form of the line: 0 straight pieces, 1 a spline. Group code 72.</summary>
+    /// <summary>Gets or sets the form of the line: 0 straight segments, 1 a spline. Group code 72.</summary>
     [CadShort(72)]
     public short PathType { get; set; }
 
@@ -48,15 +48,16 @@ public partial class CadLeader : CadEntityBase
     public double TextWidth { get; set; }
 
     /// <summary>Gets the vertices from the arrowhead on, in world coordinates. Group codes 10, 20, 30.</summary>
+    [CadList(10, Count = 76)]
     public IList<Cad3DPoint> Coordinates { get; } = new CheckedList<Cad3DPoint>("coordinates");
 
-    /// <summary>Gets or sets the number of the colour to use where dimension style or block say "by block". Group
-    /// code 77.</summary>
-    [CadShort(77, Optional = true)]
+    /// <summary>Gets or sets the index of the colour to use where dimension style or block say "by block". Group code
+    /// 77.</summary>
+    [CadColor(77, Optional = true)]
     public short ColorToUse { get; set; }
 
     /// <summary>Gets or sets the handle of the annotation in hexadecimal; empty for none. Group code 340.</summary>
-    [CadString(340, Optional = true)]
+    [CadHandle(340, Optional = true)]
     public string AnnotationHandle { get; set; } = "";
 
     /// <summary>Gets or sets the unit normal of the plane of the leader. Group codes 210, 220, 230.</summary>
@@ -72,39 +73,8 @@ public partial class CadLeader : CadEntityBase
     [Cad3DPoint(212, Optional = true)]
     public Cad3DPoint LastVertexOffsetFromBlock { get; set; } = new();
 
-    /// <summary>Gets or sets the offset of the last vertex from the place of the annotation. Group codes 213, 223,
+    /// <summary>Gets or sets the offset of the last vertex from the position of the annotation. Group codes 213, 223,
     /// 233.</summary>
     [Cad3DPoint(213, Optional = true)]
     public Cad3DPoint LastVertexOffsetFromAnnotation { get; set; } = new();
-
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
-    {
-        switch (code)
-        {
-            case 10:
-                Coordinates.Add(new Cad3DPoint(tags.GetDouble(), 0, 0));
-                break;
-            case 20 when Coordinates.Count > 0:
-                Coordinates[^1].Y = tags.GetDouble();
-                break;
-            case 30 when Coordinates.Count > 0:
-                Coordinates[^1].Z = tags.GetDouble();
-                break;
-            case 76:
-                break;
-            default:
-                return;
-        }
-
-        taken = true;
-    }
-
-    partial void OnWriteCodes(DxfTagWriter writer)
-    {
-        writer.Write(76, Coordinates.Count);
-        foreach (Cad3DPoint point in Coordinates)
-        {
-            writer.Write(10, point);
-        }
-    }
 }

@@ -1,7 +1,7 @@
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -18,7 +18,7 @@ public partial class CadLwPolyline : CadExtrudedEntityBase
     [CadShort(70)]
     public CadLwPolylineFlag Flag { get; set; }
 
-    /// <summary>Gets or sets the width of all pieces; 0 where the vertices tell widths. Group code 43.</summary>
+    /// <summary>Gets or sets the width of all segments; 0 where the vertices tell widths. Group code 43.</summary>
     [CadDouble(43)]
     public double ConstantWidth { get; set; }
 
@@ -29,17 +29,17 @@ public partial class CadLwPolyline : CadExtrudedEntityBase
     /// <summary>Gets the vertices, in object coordinates. The list is live. Group codes 10, 20.</summary>
     public IList<Cad2DPoint> Coordinates { get; } = new CheckedList<Cad2DPoint>("coordinates");
 
-    /// <summary>Gets the bulges of the pieces that begin at the vertices: the tangent of a quarter of the arc's
-    /// angle, 0 for a straight piece, negative clockwise. Vertices beyond the end of the list have 0. The list is
+    /// <summary>Gets the bulges of the segments that begin at the vertices: the tangent of a quarter of the arc's
+    /// angle, 0 for a straight segment, negative clockwise. Vertices beyond the end of the list have 0. The list is
     /// live. Group code 42.</summary>
     public List<double> Bulges { get; } = [];
 
-    /// <summary>Gets the start widths of the pieces; vertices beyond the end of the list have
-    /// <see cref="ConstantWidth"/>. The list is live. Group code 40.</summary>
+    /// <summary>Gets the start widths of the segments; vertices beyond the end of the list have <see
+    /// cref="ConstantWidth"/>. The list is live. Group code 40.</summary>
     public List<double> StartWidths { get; } = [];
 
-    /// <summary>Gets the end widths of the pieces; vertices beyond the end of the list have
-    /// <see cref="ConstantWidth"/>. The list is live. Group code 41.</summary>
+    /// <summary>Gets the end widths of the segments; vertices beyond the end of the list have <see
+    /// cref="ConstantWidth"/>. The list is live. Group code 41.</summary>
     public List<double> EndWidths { get; } = [];
 
     /// <summary>Gets whether the last vertex is joined to the first.</summary>
@@ -51,28 +51,28 @@ public partial class CadLwPolyline : CadExtrudedEntityBase
 
     internal double EndWidthAt(int index) => index < EndWidths.Count ? EndWidths[index] : ConstantWidth;
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         taken = true;
         switch (code)
         {
             case 90:
-                Coordinates.EnsureCapacity(tags.GetCount());
+                Coordinates.EnsureCapacity(reader.GetCount());
                 break;
             case 10:
-                Coordinates.Add(new Cad2DPoint(tags.GetDouble(), 0));
+                Coordinates.Add(new Cad2DPoint(reader.GetDouble(), 0));
                 break;
             case 20 when Coordinates.Count > 0:
-                Coordinates[^1].Y = tags.GetDouble();
+                Coordinates[^1].Y = reader.GetDouble();
                 break;
             case 40 when Coordinates.Count > 0:
-                SetLast(StartWidths, tags.GetDouble(), ConstantWidth);
+                SetLast(StartWidths, reader.GetDouble(), ConstantWidth);
                 break;
             case 41 when Coordinates.Count > 0:
-                SetLast(EndWidths, tags.GetDouble(), ConstantWidth);
+                SetLast(EndWidths, reader.GetDouble(), ConstantWidth);
                 break;
             case 42 when Coordinates.Count > 0:
-                SetLast(Bulges, tags.GetDouble(), 0);
+                SetLast(Bulges, reader.GetDouble(), 0);
                 break;
             default:
                 taken = false;
@@ -80,33 +80,34 @@ public partial class CadLwPolyline : CadExtrudedEntityBase
         }
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        writer.Write(90, Coordinates.Count);
-        writer.Write(70, (int)Flag);
-        bool ownWidths = StartWidths.Count > 0 || EndWidths.Count > 0;
-        if (ConstantWidth != 0 || !ownWidths)
+        int count = fields.Count(90, Coordinates.Count);
+        Flag = (CadLwPolylineFlag)fields.Enum(70, (int)Flag);
+        bool ownWidths = fields.Includes(0, StartWidths.Count > 0 || EndWidths.Count > 0);
+        if (fields.Includes(0, ConstantWidth != 0 || !ownWidths))
         {
-            writer.Write(43, ConstantWidth);
+            ConstantWidth = fields.Double(43, ConstantWidth);
         }
 
-        if (Elevation != 0)
+        if (fields.Includes(0, Elevation != 0))
         {
-            writer.Write(38, Elevation);
+            Elevation = fields.Double(38, Elevation);
         }
 
-        for (int i = 0; i < Coordinates.Count; i++)
+        bool hasBulges = fields.Includes(0, Bulges.Count > 0);
+        for (int i = 0; i < count; i++)
         {
-            writer.Write(10, Coordinates[i]);
+            fields.Point(10, fields.Item(Coordinates, i));
             if (ownWidths)
             {
-                writer.Write(40, StartWidthAt(i));
-                writer.Write(41, EndWidthAt(i));
+                fields.ItemAt(40, StartWidths, i, ConstantWidth);
+                fields.ItemAt(41, EndWidths, i, ConstantWidth);
             }
 
-            if (Bulges.Count > 0)
+            if (hasBulges)
             {
-                writer.Write(42, BulgeAt(i));
+                fields.ItemAt(42, Bulges, i, 0);
             }
         }
     }

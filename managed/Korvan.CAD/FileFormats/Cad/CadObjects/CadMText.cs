@@ -1,6 +1,6 @@
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -41,7 +41,7 @@ public partial class CadMText : CadEntityBase
     public string Text { get; set; } = "";
 
     /// <summary>Gets or sets the name of the text style. Group code 7.</summary>
-    [CadString(7, Optional = true)]
+    [CadName(7, SymbolTable.Style, Optional = true)]
     public string TextStyleName { get; set; } = "STANDARD";
 
     /// <summary>Gets or sets the unit normal of the plane of the text. Group codes 210, 220, 230.</summary>
@@ -55,7 +55,7 @@ public partial class CadMText : CadEntityBase
 
     /// <summary>Gets or sets the direction of the text, in degrees from the X axis of the plane. It counts where
     /// <see cref="TextDirection"/> is (0, 0, 0). Group code 50.</summary>
-    [CadDouble(50, Optional = true)]
+    [CadAngle(50, Optional = true)]
     public double TextRotation { get; set; }
 
     /// <summary>Gets or sets how the distance of lines is measured. Group code 73.</summary>
@@ -77,7 +77,7 @@ public partial class CadMText : CadEntityBase
     public double FillBoxScale { get; set; }
 
     /// <summary>Gets or sets the number of the background's colour. Group code 63.</summary>
-    [CadShort(63, Optional = true, Since = 2004)]
+    [CadColor(63, Optional = true, Since = 2004)]
     public short BackgroundColorId { get; set; }
 
     /// <summary>Gets or sets the background's colour as 0xRRGGBB; -1 where <see cref="BackgroundColorId"/> tells
@@ -85,7 +85,7 @@ public partial class CadMText : CadEntityBase
     [CadInt(421, Optional = true, Since = 2004)]
     public int BackgroundColor { get; set; } = -1;
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         if (code is not (1 or 3))
         {
@@ -96,12 +96,12 @@ public partial class CadMText : CadEntityBase
         StringBuilder text = new(Text);
         do
         {
-            text.Append(tags.GetString());
+            text.Append(reader.GetString());
         }
-        while (tags.Next() && tags.Code is 1 or 3);
-        tags.Unread();
+        while (reader.Next() && reader.Code is 1 or 3);
+        reader.Unread();
         Text = text.ToString();
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer) => writer.WriteLongText(3, 1, Text);
+    partial void OnExchange(ObjectExchange fields) => Text = fields.LongText(3, 1, Text);
 }

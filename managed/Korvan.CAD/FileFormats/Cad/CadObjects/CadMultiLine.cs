@@ -1,7 +1,7 @@
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -19,7 +19,7 @@ public partial class CadMultiLine : CadEntityBase
     public string StyleName { get; set; } = "STANDARD";
 
     /// <summary>Gets or sets the handle of the style in hexadecimal. Group code 340.</summary>
-    [CadString(340, Optional = true)]
+    [CadHandle(340, Optional = true)]
     public string StyleHandle { get; set; } = "";
 
     /// <summary>Gets or sets the factor on the offsets of the style. Group code 40.</summary>
@@ -48,99 +48,6 @@ public partial class CadMultiLine : CadEntityBase
     public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
 
     /// <summary>Gets the vertices. The list is live.</summary>
+    [CadRepeated(11, Count = 72)]
     public IList<CadMultiLineVectorBlock> Vertices { get; } = new CheckedList<CadMultiLineVectorBlock>("vertices");
-
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
-    {
-        taken = true;
-        if (code == 72)
-        {
-            Vertices.EnsureCapacity(tags.GetCount());
-        }
-        else if (code == 11)
-        {
-            Vertices.Add(new CadMultiLineVectorBlock());
-            Vertices[^1].Location.X = tags.GetDouble();
-        }
-        else
-        {
-            taken = Vertices.Count > 0 && ReadVertex(code, Vertices[^1], tags);
-        }
-    }
-
-    partial void OnWriteCodes(DxfTagWriter writer)
-    {
-        writer.Write(72, Vertices.Count);
-        foreach (CadMultiLineVectorBlock vertex in Vertices)
-        {
-            writer.Write(11, vertex.Location);
-            writer.Write(12, vertex.Direction);
-            writer.Write(13, vertex.Miter);
-            for (int i = 0; i < vertex.ElementParameters.Count; i++)
-            {
-                WriteLengths(writer, 74, 41, vertex.ElementParameters[i]);
-                WriteLengths(writer, 75, 42, i < vertex.FillParameters.Count ? vertex.FillParameters[i] : []);
-            }
-        }
-    }
-
-    private static bool ReadVertex(int code, CadMultiLineVectorBlock vertex, DxfTagReader tags)
-    {
-        switch (code)
-        {
-            case 21:
-                vertex.Location.Y = tags.GetDouble();
-                return true;
-            case 31:
-                vertex.Location.Z = tags.GetDouble();
-                return true;
-            case 12:
-                vertex.Direction.X = tags.GetDouble();
-                return true;
-            case 22:
-                vertex.Direction.Y = tags.GetDouble();
-                return true;
-            case 32:
-                vertex.Direction.Z = tags.GetDouble();
-                return true;
-            case 13:
-                vertex.Miter.X = tags.GetDouble();
-                return true;
-            case 23:
-                vertex.Miter.Y = tags.GetDouble();
-                return true;
-            case 33:
-                vertex.Miter.Z = tags.GetDouble();
-                return true;
-            default:
-                return ReadLengths(code, vertex, tags);
-        }
-    }
-
-    private static bool ReadLengths(int code, CadMultiLineVectorBlock vertex, DxfTagReader tags)
-    {
-        switch (code)
-        {
-            case 74:
-                vertex.ElementParameters.Add(new List<double>(tags.GetCount()));
-                return true;
-            case 75:
-                vertex.FillParameters.Add(new List<double>(tags.GetCount()));
-                return true;
-            case 41 when vertex.ElementParameters.Count > 0:
-                vertex.ElementParameters[^1].Add(tags.GetDouble());
-                return true;
-            case 42 when vertex.FillParameters.Count > 0:
-                vertex.FillParameters[^1].Add(tags.GetDouble());
-                return true;
-            default:
-                return false;
-        }
-    }
-
-    private static void WriteLengths(DxfTagWriter writer, int countCode, int code, List<double> lengths)
-    {
-        writer.Write(countCode, lengths.Count);
-        lengths.ForEach(length => writer.Write(code, length));
-    }
 }

@@ -7,17 +7,16 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 public sealed class CadObjectAttribute : Attribute
 {
     /// <summary>Creates the statement.</summary>
-    /// <param name="typeName">The name that stands after group code 0, or an empty text for a part of an
-    /// object.</param>
+    /// <param name="typeName">The name that follows group code 0, or an empty text for a part of an object.</param>
     public CadObjectAttribute(string typeName)
     {
         TypeName = typeName;
     }
 
-    /// <summary>Gets the name that stands after group code 0.</summary>
+    /// <summary>Gets the name that follows group code 0.</summary>
     public string TypeName { get; }
 
-    /// <summary>Gets or sets the marker, group code 100, that stands before the codes of the class.</summary>
+    /// <summary>Gets or sets the marker, group code 100, that precedes the codes of the class.</summary>
     public string? Subclass { get; set; }
 
     /// <summary>Gets or sets whether the class writes its codes itself, because their order is not that of the

@@ -1,6 +1,5 @@
 using System;
 using System.Globalization;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -13,7 +12,7 @@ public abstract partial class CadOwnedObjectBase : CadBaseObject
     }
 
     /// <summary>Gets or sets the handle of the owner in hexadecimal; empty for none. Group code 330.</summary>
-    /// <exception cref="FormatException">The text is no hexadecimal number.</exception>
+    /// <exception cref="FormatException">The text is not a hexadecimal number.</exception>
     public string SoftOwner
     {
         get => Owner == 0 ? "" : Owner.ToString("X", CultureInfo.InvariantCulture);

@@ -1,4 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -51,11 +52,11 @@ public partial class CadPlotSettings : CadObjectBase
     [CadDouble(45)]
     public double PaperHeight { get; set; }
 
-    /// <summary>Gets or sets the place of the plot along X, in millimetres. Group code 46.</summary>
+    /// <summary>Gets or sets the position of the plot along X, in millimetres. Group code 46.</summary>
     [CadDouble(46)]
     public double PlotOriginX { get; set; }
 
-    /// <summary>Gets or sets the place of the plot along Y, in millimetres. Group code 47.</summary>
+    /// <summary>Gets or sets the position of the plot along Y, in millimetres. Group code 47.</summary>
     [CadDouble(47)]
     public double PlotOriginY { get; set; }
 
@@ -75,7 +76,7 @@ public partial class CadPlotSettings : CadObjectBase
     [CadDouble(141)]
     public double PlotWindowTop { get; set; }
 
-    /// <summary>Gets or sets the length on paper that stands for ScaleDenominator drawing units. Group code
+    /// <summary>Gets or sets the length on paper that corresponds to ScaleDenominator drawing units. Group code
     /// 142.</summary>
     [CadDouble(142)]
     public double ScaleNumerator { get; set; } = 1;
@@ -93,7 +94,7 @@ public partial class CadPlotSettings : CadObjectBase
     [CadShort(72)]
     public CadPlotPaperUnits PaperUnits { get; set; } = CadPlotPaperUnits.Millimeters;
 
-    /// <summary>Gets or sets how the drawing is turned on the paper. Group code 73.</summary>
+    /// <summary>Gets or sets how the drawing is rotated on the paper. Group code 73.</summary>
     [CadShort(73)]
     public CadPlotRotation PlotRotation { get; set; }
 
@@ -134,6 +135,6 @@ public partial class CadPlotSettings : CadObjectBase
     public double PaperImageOriginY { get; set; }
 
     /// <summary>Gets or sets the handle of the visual style of shaded plots in hexadecimal. Group code 333.</summary>
-    [CadString(333, Optional = true, Since = 2007)]
+    [CadHandle(333, Optional = true, Since = 2007)]
     public string ShadePlotHandle { get; set; } = "";
 }

@@ -1,10 +1,10 @@
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
-/// <summary>A picture placed in the drawing.</summary>
+/// <summary>A raster image placed in the drawing.</summary>
 [CadObject("IMAGE", Subclass = "AcDbRasterImage")]
 public partial class CadRasterImage : CadEntityBase
 {
@@ -34,7 +34,7 @@ public partial class CadRasterImage : CadEntityBase
     public Cad2DPoint ImageSize { get; set; } = new(1, 1);
 
     /// <summary>Gets or sets the handle of the image definition in hexadecimal. Group code 340.</summary>
-    [CadString(340, Optional = true)]
+    [CadHandle(340, Optional = true)]
     public string ImageDefReference { get; set; } = "";
 
     /// <summary>Gets or sets bits: 1 shown, 2 shown when not aligned with the screen, 4 clipped, 8 transparent. Group
@@ -59,7 +59,7 @@ public partial class CadRasterImage : CadEntityBase
     public short Fade { get; set; }
 
     /// <summary>Gets or sets the handle of the reactor in hexadecimal. Group code 360.</summary>
-    [CadString(360, Optional = true)]
+    [CadHandle(360, Optional = true)]
     public string ImageDefReactorReference { get; set; } = "";
 
     /// <summary>Gets or sets the kind of the boundary: 1 a rectangle by two corners, 2 a polygon. Group code
@@ -69,38 +69,11 @@ public partial class CadRasterImage : CadEntityBase
 
     /// <summary>Gets the clipping boundary in pixels, from the upper left corner and half a pixel outwards. Group
     /// codes 14, 24.</summary>
+    [CadList(14, Count = 91)]
     public IList<Cad2DPoint> ClipBoundaryVertices { get; } = new CheckedList<Cad2DPoint>("clip_boundary_vertices");
 
     /// <summary>Gets or sets which side of the boundary is shown: 0 the inside, 1 the outside. Group code
     /// 290.</summary>
     [CadShort(290, Optional = true, Since = 2010)]
     public short ClipMode { get; set; }
-
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
-    {
-        switch (code)
-        {
-            case 14:
-                ClipBoundaryVertices.Add(new Cad2DPoint(tags.GetDouble(), 0));
-                break;
-            case 24 when ClipBoundaryVertices.Count > 0:
-                ClipBoundaryVertices[^1].Y = tags.GetDouble();
-                break;
-            case 91:
-                break;
-            default:
-                return;
-        }
-
-        taken = true;
-    }
-
-    partial void OnWriteCodes(DxfTagWriter writer)
-    {
-        writer.Write(91, ClipBoundaryVertices.Count);
-        foreach (Cad2DPoint point in ClipBoundaryVertices)
-        {
-            writer.Write(14, point);
-        }
-    }
 }

@@ -1,6 +1,6 @@
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
-/// <summary>The picture file behind picture entities.</summary>
+/// <summary>The definition of a raster image: the file that image entities show.</summary>
 [CadObject("IMAGEDEF", Subclass = "AcDbRasterImageDef")]
 public partial class CadRasterImageDef : CadObjectBase
 {
@@ -25,7 +25,7 @@ public partial class CadRasterImageDef : CadObjectBase
     [Cad2DPoint(11)]
     public Cad2DPoint PixelSize { get; set; } = new(1, 1);
 
-    /// <summary>Gets or sets whether the picture is shown: 0 no, 1 yes. Group code 280.</summary>
+    /// <summary>Gets or sets whether the image is shown: 0 no, 1 yes. Group code 280.</summary>
     [CadShort(280)]
     public short IsLoaded { get; set; } = 1;
 

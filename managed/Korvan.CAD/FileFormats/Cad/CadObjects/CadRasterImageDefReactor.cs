@@ -1,6 +1,8 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
-/// <summary>Tells a picture entity that its picture changed.</summary>
+/// <summary>Tells an image entity that its definition changed.</summary>
 [CadObject("IMAGEDEF_REACTOR", Subclass = "AcDbRasterImageDefReactor")]
 public partial class CadRasterImageDefReactor : CadObjectBase
 {
@@ -13,7 +15,7 @@ public partial class CadRasterImageDefReactor : CadObjectBase
     [CadInt(90)]
     public int ClassVersion { get; set; }
 
-    /// <summary>Gets or sets the handle of the picture entity in hexadecimal. Group code 330.</summary>
-    [CadString(330, Optional = true)]
+    /// <summary>Gets or sets the handle of the image entity in hexadecimal. Group code 330.</summary>
+    [CadHandle(330, Optional = true)]
     public string AssociatedImageHandle { get; set; } = "";
 }

@@ -1,4 +1,4 @@
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -11,13 +11,13 @@ public partial class CadRegion : CadObjectWithAcisData
     {
     }
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
-        taken = ReadAcis(code, tags);
+        taken = ReadAcis(code, reader);
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        WriteAcis(writer);
+        ExchangeAcis(fields);
     }
 }

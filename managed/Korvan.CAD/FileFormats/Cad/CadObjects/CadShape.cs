@@ -1,3 +1,5 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A symbol of a shape file.</summary>
@@ -22,7 +24,7 @@ public partial class CadShape : CadExtrudedEntityBase
     public string ShapeName { get; set; } = "";
 
     /// <summary>Gets or sets the rotation, in degrees. Group code 50.</summary>
-    [CadDouble(50, Optional = true)]
+    [CadAngle(50, Optional = true)]
     public double RotationAngle { get; set; }
 
     /// <summary>Gets or sets the scale along X. Group code 41.</summary>
@@ -30,6 +32,6 @@ public partial class CadShape : CadExtrudedEntityBase
     public double ScaleX { get; set; } = 1;
 
     /// <summary>Gets or sets the slant, in degrees. Group code 51.</summary>
-    [CadDouble(51, Optional = true)]
+    [CadAngle(51, Optional = true)]
     public double ObliqueAngle { get; set; }
 }

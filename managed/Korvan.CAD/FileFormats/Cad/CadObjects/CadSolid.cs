@@ -1,6 +1,6 @@
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
-/// <summary>A filled quadrilateral or triangle. The third and fourth corner are crossed: the outline runs 1, 2, 4,
+/// <summary>A filled quadrilateral or triangle. The third and fourth corners are swapped: the boundary runs 1, 2, 4,
 /// 3.</summary>
 [CadObject("SOLID", Subclass = "AcDbTrace")]
 public partial class CadSolid : CadExtrudedEntityBase

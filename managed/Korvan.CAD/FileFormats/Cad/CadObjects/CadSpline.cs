@@ -1,6 +1,6 @@
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -65,69 +65,69 @@ public partial class CadSpline : CadEntityBase
     /// <summary>Gets whether the curve is closed.</summary>
     public bool IsClosed => (Flag & 1) != 0;
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         taken = true;
         switch (code)
         {
             case 72:
-                KnotValues.EnsureCapacity(tags.GetCount());
+                KnotValues.EnsureCapacity(reader.GetCount());
                 break;
             case 73:
-                ControlPoints.EnsureCapacity(tags.GetCount());
+                ControlPoints.EnsureCapacity(reader.GetCount());
                 break;
             case 74:
-                FitPoints.EnsureCapacity(tags.GetCount());
+                FitPoints.EnsureCapacity(reader.GetCount());
                 break;
             case 40:
-                KnotValues.Add(tags.GetDouble());
+                KnotValues.Add(reader.GetDouble());
                 break;
             case 41:
-                Weights.Add(tags.GetDouble());
+                Weights.Add(reader.GetDouble());
                 break;
             default:
-                taken = PointLists.TryRead(code, 10, ControlPoints, tags)
-                    || PointLists.TryRead(code, 11, FitPoints, tags);
+                taken = FieldLists.TryRead(code, 10, ControlPoints, reader)
+                    || FieldLists.TryRead(code, 11, FitPoints, reader);
                 break;
         }
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        if (!ExtrusionDirection.Is(0, 0, 0))
+        if (fields.Includes(0, !ExtrusionDirection.Is(0, 0, 0)))
         {
-            writer.Write(210, ExtrusionDirection);
+            fields.Point(210, ExtrusionDirection);
         }
 
-        writer.Write(70, Flag);
-        writer.Write(71, Degree);
-        writer.Write(72, KnotValues.Count);
-        writer.Write(73, ControlPoints.Count);
-        writer.Write(74, FitPoints.Count);
-        writer.Write(42, KnotTolerance);
-        writer.Write(43, ControlPointTolerance);
-        WriteFit(writer);
-        KnotValues.ForEach(knot => writer.Write(40, knot));
-        Weights.ForEach(weight => writer.Write(41, weight));
-        ControlPoints.ForEach(point => writer.Write(10, point));
-        FitPoints.ForEach(point => writer.Write(11, point));
+        Flag = fields.Int16(70, Flag);
+        Degree = fields.Int16(71, Degree);
+        int knots = fields.Count(72, KnotValues.Count);
+        int controlPoints = fields.Count(73, ControlPoints.Count);
+        int fitPoints = fields.Count(74, FitPoints.Count);
+        KnotTolerance = fields.Double(42, KnotTolerance);
+        ControlPointTolerance = fields.Double(43, ControlPointTolerance);
+        ExchangeFit(fields, fitPoints);
+        fields.Items(40, KnotValues, knots);
+        fields.Items(41, Weights, fields.Count(0, Weights.Count));
+        fields.Points(10, ControlPoints, controlPoints);
+        fields.Points(11, FitPoints, fitPoints);
     }
 
-    private void WriteFit(DxfTagWriter writer)
+    private void ExchangeFit(ObjectExchange fields, int points)
     {
-        if (FitPoints.Count > 0)
+        if (fields.Includes(0, points > 0))
         {
-            writer.Write(44, FitTolerance);
+            FitTolerance = fields.Double(44, FitTolerance);
         }
 
-        if (!StartTangent.Is(0, 0, 0))
+        if (fields.Includes(0, !StartTangent.Is(0, 0, 0)))
         {
-            writer.Write(12, StartTangent);
+            fields.Point(12, StartTangent);
         }
 
-        if (!EndTangent.Is(0, 0, 0))
+        if (fields.Includes(0, !EndTangent.Is(0, 0, 0)))
         {
-            writer.Write(13, EndTangent);
+            fields.Point(13, EndTangent);
         }
     }
 }

@@ -1,4 +1,4 @@
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -6,6 +6,12 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadObject("TEXT", Subclass = "AcDbText")]
 public partial class CadText : CadExtrudedEntityBase
 {
+    /// <summary>The group code of the vertical alignment of an attribute, for which that of a text is the field
+    /// length.</summary>
+    private protected const int AttributeAlignmentCode = 74;
+
+    private const int AlignmentCode = 73;
+
     /// <summary>Creates the object with its defaults.</summary>
     public CadText()
     {
@@ -16,7 +22,7 @@ public partial class CadText : CadExtrudedEntityBase
     [Cad3DPoint(10)]
     public Cad3DPoint FirstAlignment { get; set; } = new();
 
-    /// <summary>Gets or sets the height of capital letters. Group code 40.</summary>
+    /// <summary>Gets or sets the cap height. Group code 40.</summary>
     [CadDouble(40)]
     public double TextHeight { get; set; } = 1;
 
@@ -25,22 +31,22 @@ public partial class CadText : CadExtrudedEntityBase
     public string DefaultValue { get; set; } = "";
 
     /// <summary>Gets or sets the direction of the base line, in degrees. Group code 50.</summary>
-    [CadDouble(50, Optional = true)]
+    [CadAngle(50, Optional = true)]
     public double TextRotation { get; set; }
 
-    /// <summary>Gets or sets the width of letters relative to the font. Group code 41.</summary>
+    /// <summary>Gets or sets the width factor of the characters. Group code 41.</summary>
     [CadDouble(41, Optional = true)]
     public double ScaleX { get; set; } = 1;
 
-    /// <summary>Gets or sets the slant of letters, in degrees. Group code 51.</summary>
-    [CadDouble(51, Optional = true)]
+    /// <summary>Gets or sets the oblique angle of the characters, in degrees. Group code 51.</summary>
+    [CadAngle(51, Optional = true)]
     public double ObliqueAngle { get; set; }
 
     /// <summary>Gets or sets the name of the text style. Group code 7.</summary>
-    [CadString(7, Optional = true)]
+    [CadName(7, SymbolTable.Style, Optional = true)]
     public string StyleType { get; set; } = "STANDARD";
 
-    /// <summary>Gets or sets how letters are mirrored: 2 left to right, 4 upside down. Group code 71.</summary>
+    /// <summary>Gets or sets how the text is mirrored: 2 left to right, 4 upside down. Group code 71.</summary>
     [CadShort(71, Optional = true)]
     public short TextGenerationFlags { get; set; }
 
@@ -57,21 +63,40 @@ public partial class CadText : CadExtrudedEntityBase
     /// <summary>Gets or sets the vertical alignment: 0 base line, 1 bottom, 2 middle, 3 top. Group code 73.</summary>
     public short VerticalAlignment { get; set; }
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
-        if (code == 73)
+        if (code == AlignmentCode)
         {
-            VerticalAlignment = tags.GetShort();
+            VerticalAlignment = reader.GetShort();
             taken = true;
         }
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
         if (GetType() == typeof(CadText))
         {
-            writer.WriteSubclass("AcDbText");
-            writer.WriteOptional(73, VerticalAlignment, 0);
+            fields.BeginSubclass("AcDbText");
+            ExchangeVerticalAlignment(fields, AlignmentCode);
+        }
+    }
+
+    private protected bool ReadVerticalAlignment(int code, FieldReader reader)
+    {
+        if (code != AttributeAlignmentCode)
+        {
+            return false;
+        }
+
+        VerticalAlignment = reader.GetShort();
+        return true;
+    }
+
+    private protected void ExchangeVerticalAlignment(ObjectExchange fields, int code)
+    {
+        if (fields.Includes(0, VerticalAlignment != 0))
+        {
+            VerticalAlignment = fields.Int16(code, VerticalAlignment);
         }
     }
 }

@@ -1,3 +1,5 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A frame with tolerances of form and position.</summary>
@@ -10,7 +12,7 @@ public partial class CadTolerance : CadEntityBase
     }
 
     /// <summary>Gets or sets the name of the dimension style. Group code 3.</summary>
-    [CadString(3)]
+    [CadName(3, SymbolTable.DimensionStyle)]
     public string DimensionStyleName { get; set; } = "STANDARD";
 
     /// <summary>Gets or sets the insertion point, in world coordinates. Group codes 10, 20, 30.</summary>

@@ -1,5 +1,5 @@
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -24,7 +24,7 @@ public partial class CadViewport : CadEntityBase
     [CadDouble(41)]
     public double Height { get; set; }
 
-    /// <summary>Gets or sets whether it is on: 0 off, -1 on but not active, else its place in the stack. Group code
+    /// <summary>Gets or sets whether it is on: 0 off, -1 on but not active, else its position in the stack. Group code
     /// 68.</summary>
     [CadShort(68)]
     public short ViewportStatus { get; set; } = 1;
@@ -75,11 +75,11 @@ public partial class CadViewport : CadEntityBase
     public double ViewHeight { get; set; } = 1;
 
     /// <summary>Gets or sets the angle of the snap grid, in degrees. Group code 50.</summary>
-    [CadDouble(50, Since = 2000)]
+    [CadAngle(50, Since = 2000)]
     public double SnapAngle { get; set; }
 
-    /// <summary>Gets or sets how far the view is turned, in degrees. Group code 51.</summary>
-    [CadDouble(51, Since = 2000)]
+    /// <summary>Gets or sets the twist angle of the view, in degrees. Group code 51.</summary>
+    [CadAngle(51, Since = 2000)]
     public double ViewTwistAngle { get; set; }
 
     /// <summary>Gets or sets how finely circles are drawn. Group code 72.</summary>
@@ -97,7 +97,7 @@ public partial class CadViewport : CadEntityBase
 
     /// <summary>Gets or sets the handle of the entity that clips the viewport, in hexadecimal; empty for none.
     /// Group code 340.</summary>
-    [CadString(340, Optional = true)]
+    [CadHandle(340, Optional = true)]
     public string ClippingBoundaryHandle { get; set; } = "";
 
     /// <summary>Gets or sets the name of the plot style sheet. Group code 1.</summary>
@@ -113,7 +113,7 @@ public partial class CadViewport : CadEntityBase
     [CadShort(71, Since = 2000)]
     public short UcsPerViewport { get; set; }
 
-    /// <summary>Gets or sets whether the coordinate system icon stands at the origin. Group code 74.</summary>
+    /// <summary>Gets or sets whether the coordinate system icon is at the origin. Group code 74.</summary>
     [CadShort(74, Since = 2000)]
     public short UcsIconAtOrigin { get; set; }
 
@@ -129,25 +129,20 @@ public partial class CadViewport : CadEntityBase
     [Cad3DPoint(112, Since = 2000)]
     public Cad3DPoint UcsYAxis { get; set; } = new(0, 1, 0);
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         if (code is 331 or 341)
         {
-            FrozenLayers.Add(tags.GetString());
+            FrozenLayers.Add(reader.GetHandleText());
             taken = true;
         }
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        if (writer.Release < 2000)
+        if (fields.Includes(2000, true))
         {
-            return;
-        }
-
-        foreach (string layer in FrozenLayers)
-        {
-            writer.Write(331, layer);
+            fields.Handles(331, HandleRole.SoftPointer, FrozenLayers, fields.Count(0, FrozenLayers.Count));
         }
     }
 }

@@ -1,6 +1,6 @@
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -16,14 +16,14 @@ public partial class CadXRecord : CadObjectBase
     /// <summary>Gets the tags, group codes 1 to 369. The list is live.</summary>
     public IList<CadCodeValue> Data { get; } = new CheckedList<CadCodeValue>("data");
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
-        taken = tags.Subclass is not null;
+        taken = reader.Subclass is not null;
         if (taken)
         {
-            Data.Add(tags.ToCodeValue());
+            Data.Add(reader.ToCodeValue());
         }
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer) => Data.ForEach(writer.Write);
+    partial void OnExchange(ObjectExchange fields) => fields.Tags(Data);
 }

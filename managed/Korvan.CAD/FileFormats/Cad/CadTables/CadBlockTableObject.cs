@@ -1,6 +1,6 @@
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -15,7 +15,7 @@ public partial class CadBlockTableObject : CadSymbolTableGroupCodes
 
     /// <summary>Gets or sets the handle of the layout that shows the block in hexadecimal; empty or 0 for none. Group
     /// code 340.</summary>
-    [CadString(340, Optional = true, Since = 2000)]
+    [CadHandle(340, Optional = true, Since = 2000)]
     public string LayoutHandle { get; set; } = "";
 
     /// <summary>Gets or sets the unit of insertion, as in $INSUNITS. Group code 70.</summary>
@@ -31,5 +31,5 @@ public partial class CadBlockTableObject : CadSymbolTableGroupCodes
     public short Scalability { get; set; }
 
     /// <inheritdoc/>
-    internal override void WriteNameAndFlags(DxfTagWriter writer) => writer.Write(2, Name);
+    internal override void ExchangeNameAndFlags(ObjectExchange fields) => ExchangeName(fields);
 }

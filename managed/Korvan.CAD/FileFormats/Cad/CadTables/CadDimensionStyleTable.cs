@@ -1,7 +1,7 @@
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -66,7 +66,7 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     public double Dimfxl { get; set; } = 1;
 
     /// <summary>Gets or sets $DIMJOGANG: the angle of jogs, in radians. Group code 50.</summary>
-    [CadDouble(50, Optional = true, Since = 2007)]
+    [CadAngle(50, Optional = true, Since = 2007)]
     public double Dimjogang { get; set; } = 0.785398163397448;
 
     /// <summary>Gets or sets $DIMTXT: the height of the text. Group code 140.</summary>
@@ -89,7 +89,7 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadDouble(144, Optional = true)]
     public double Dimlfac { get; set; } = 1;
 
-    /// <summary>Gets or sets $DIMTVP: the vertical place of the text. Group code 145.</summary>
+    /// <summary>Gets or sets $DIMTVP: the vertical position of the text. Group code 145.</summary>
     [CadDouble(145, Optional = true)]
     public double Dimtvp { get; set; }
 
@@ -129,8 +129,8 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadShort(76, Optional = true)]
     public short Dimse2 { get; set; }
 
-    /// <summary>Gets or sets $DIMTAD: the place of the text: 0 on the line, 1 above, 2 outside, 3 as in JIS, 4 below.
-    /// Group code 77.</summary>
+    /// <summary>Gets or sets $DIMTAD: the position of the text: 0 on the line, 1 above, 2 outside, 3 as in JIS, 4
+    /// below. Group code 77.</summary>
     [CadShort(77, Optional = true)]
     public short Dimtad { get; set; }
 
@@ -168,15 +168,15 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     public short Dimsoxd { get; set; }
 
     /// <summary>Gets or sets $DIMCLRD: the colour number of dimension lines; 0 by block. Group code 176.</summary>
-    [CadShort(176, Optional = true)]
+    [CadColor(176, Optional = true)]
     public short Dimclrd { get; set; }
 
     /// <summary>Gets or sets $DIMCLRE: the colour number of extension lines; 0 by block. Group code 177.</summary>
-    [CadShort(177, Optional = true)]
+    [CadColor(177, Optional = true)]
     public short Dimclre { get; set; }
 
     /// <summary>Gets or sets $DIMCLRT: the colour number of texts; 0 by block. Group code 178.</summary>
-    [CadShort(178, Optional = true)]
+    [CadColor(178, Optional = true)]
     public short Dimclrt { get; set; }
 
     /// <summary>Gets or sets $DIMADEC: the decimals of angles. Group code 179.</summary>
@@ -217,7 +217,7 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadShort(277, Optional = true, Since = 2000)]
     public short Dimlunit { get; set; } = 2;
 
-    /// <summary>Gets or sets $DIMDSEP: the decimal separator as the number of its letter. Group code 278.</summary>
+    /// <summary>Gets or sets $DIMDSEP: the decimal separator as the code of its character. Group code 278.</summary>
     [CadShort(278, Optional = true, Since = 2000)]
     public short Dimdsep { get; set; } = 46;
 
@@ -225,7 +225,7 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadShort(279, Optional = true, Since = 2000)]
     public short Dimtmove { get; set; }
 
-    /// <summary>Gets or sets $DIMJUST: the place of the text along the line. Group code 280.</summary>
+    /// <summary>Gets or sets $DIMJUST: the position of the text along the line. Group code 280.</summary>
     [CadShort(280, Optional = true)]
     public short Dimjust { get; set; }
 
@@ -237,7 +237,7 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadShort(282, Optional = true)]
     public short Dimsd2 { get; set; }
 
-    /// <summary>Gets or sets $DIMTOLJ: the vertical place of tolerances. Group code 283.</summary>
+    /// <summary>Gets or sets $DIMTOLJ: the vertical position of tolerances. Group code 283.</summary>
     [CadShort(283, Optional = true)]
     public short Dimtolj { get; set; } = 1;
 
@@ -270,12 +270,12 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadShort(290, Optional = true, Since = 2007)]
     public short Dimfxlon { get; set; }
 
-    /// <summary>Gets or sets $DIMTFILL: what lies behind the text: 0 nothing, 1 the background, 2 a colour. Group
+    /// <summary>Gets or sets $DIMTFILL: the background of the text: 0 nothing, 1 the background, 2 a colour. Group
     /// code 69.</summary>
     [CadShort(69, Optional = true, Since = 2007)]
     public short Dimtfill { get; set; }
 
-    /// <summary>Gets or sets $DIMARCSYM: where the arc symbol stands. Group code 90.</summary>
+    /// <summary>Gets or sets $DIMARCSYM: where the arc symbol is. Group code 90.</summary>
     [CadShort(90, Optional = true, Since = 2007)]
     public short Dimarcsym { get; set; }
 
@@ -284,41 +284,41 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     public short Dimtxtdirection { get; set; }
 
     /// <summary>Gets or sets $DIMTXSTY: the handle of the text style in hexadecimal. Group code 340.</summary>
-    [CadString(340, Optional = true)]
+    [CadHandle(340, Optional = true)]
     public string Dimtxsty { get; set; } = "";
 
     /// <summary>Gets or sets $DIMLDRBLK: the handle of the block of leader arrowheads in hexadecimal. Group code
     /// 341.</summary>
-    [CadString(341, Optional = true, Since = 2000)]
+    [CadHandle(341, Optional = true, Since = 2000)]
     public string Dimldrblk { get; set; } = "";
 
     /// <summary>Gets or sets $DIMBLK: the handle of the block of arrowheads in hexadecimal. Group code 342.</summary>
-    [CadString(342, Optional = true, Since = 2000)]
+    [CadHandle(342, Optional = true, Since = 2000)]
     public string Dimblk { get; set; } = "";
 
     /// <summary>Gets or sets $DIMBLK1: the handle of the block of the first arrowhead in hexadecimal. Group code
     /// 343.</summary>
-    [CadString(343, Optional = true, Since = 2000)]
+    [CadHandle(343, Optional = true, Since = 2000)]
     public string Dimblk1 { get; set; } = "";
 
     /// <summary>Gets or sets $DIMBLK2: the handle of the block of the second arrowhead in hexadecimal. Group code
     /// 344.</summary>
-    [CadString(344, Optional = true, Since = 2000)]
+    [CadHandle(344, Optional = true, Since = 2000)]
     public string Dimblk2 { get; set; } = "";
 
     /// <summary>Gets or sets $DIMLTYPE: the handle of the line type of dimension lines in hexadecimal. Group code
     /// 345.</summary>
-    [CadString(345, Optional = true, Since = 2007)]
+    [CadHandle(345, Optional = true, Since = 2007)]
     public string Dimltype { get; set; } = "";
 
     /// <summary>Gets or sets $DIMLTEX1: the handle of the line type of the first extension line in hexadecimal. Group
     /// code 346.</summary>
-    [CadString(346, Optional = true, Since = 2007)]
+    [CadHandle(346, Optional = true, Since = 2007)]
     public string Dimltex1 { get; set; } = "";
 
     /// <summary>Gets or sets $DIMLTEX2: the handle of the line type of the second extension line in hexadecimal.
     /// Group code 347.</summary>
-    [CadString(347, Optional = true, Since = 2007)]
+    [CadHandle(347, Optional = true, Since = 2007)]
     public string Dimltex2 { get; set; } = "";
 
     /// <summary>Gets or sets $DIMLWD: the weight of dimension lines in hundredths of a millimetre; -2 by block. Group
@@ -331,11 +331,11 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadShort(372, Optional = true, Since = 2000)]
     public short Dimlwe { get; set; } = -2;
 
-    /// <summary>Gets or sets the name of the block of arrowheads in drawings up to release 14; empty for the usual
+    /// <summary>Gets or sets the name of the block of arrowheads in drawings up to release 14; empty for the default
     /// one. Group code 5.</summary>
     public string DimblkName { get; set; } = "";
 
-    /// <summary>Gets or sets $DIMTFILLCLR: the colour number behind the text. Group code 70.</summary>
+    /// <summary>Gets or sets $DIMTFILLCLR: the colour index of the background of the text. Group code 70.</summary>
     public short Dimtfillclr { get; set; }
 
     /// <summary>Gets or sets the name of the block of the first arrowhead in drawings up to release 14. Group
@@ -348,17 +348,17 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     [CadString(7, Optional = true)]
     public string Dimblk2Name { get; set; } = "";
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         taken = true;
         switch (code)
         {
             case 5:
-                DimblkName = tags.GetString();
+                DimblkName = reader.GetString();
                 break;
             case 70 when Dimtfill != 0:
-                // The code of the flags, used again behind the kind of fill.
-                Dimtfillclr = tags.GetShort();
+                // The code of the flags, used again after the kind of fill.
+                Dimtfillclr = reader.GetShort();
                 break;
             default:
                 taken = false;
@@ -366,16 +366,16 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
         }
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        if (DimblkName.Length > 0)
+        if (fields.Includes(0, DimblkName.Length > 0))
         {
-            writer.Write(5, DimblkName);
+            DimblkName = fields.Text(5, DimblkName);
         }
 
-        if (Dimtfill != 0 && writer.Release >= 2007)
+        if (fields.Includes(2007, Dimtfill != 0))
         {
-            writer.Write(70, Dimtfillclr);
+            Dimtfillclr = fields.Color(70, Dimtfillclr);
         }
     }
 }

@@ -2,7 +2,7 @@ using System;
 using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
@@ -18,7 +18,7 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
     {
     }
 
-    /// <summary>Makes a layer of a name that stands in a file, whatever it is.</summary>
+    /// <summary>Makes a layer of a name as it is in a file, whatever it is.</summary>
     internal static CadLayerTable Stored(string name)
     {
         CadLayerTable layer = new();
@@ -34,7 +34,7 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
         $"{base.ToString()}, colour "
             + $"{StoredColor}{(IsOn ? "" : ", off")}{(IsFrozen ? ", frozen" : "")}{(IsLocked ? ", locked" : "")}";
 
-    /// <summary>Gets or sets the number of the colour, 1 to 255; negative while the layer is off. Group code
+    /// <summary>Gets or sets the index of the colour, 1 to 255; negative while the layer is off. Group code
     /// 62.</summary>
     /// <exception cref="ArgumentOutOfRangeException">The number is 0, or beyond 255 or -255.</exception>
     public short ColorId
@@ -61,7 +61,7 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
     public string ColorName { get; set; } = "";
 
     /// <summary>Gets or sets the name of the line type. Group code 6.</summary>
-    [CadString(6)]
+    [CadName(6, SymbolTable.LineType)]
     public string LineTypeName { get; set; } = "CONTINUOUS";
 
     /// <summary>Gets or sets whether the layer is plotted: 0 no, 1 yes. Group code 290.</summary>
@@ -73,15 +73,15 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
     public short LineWeight { get; set; } = -3;
 
     /// <summary>Gets or sets the handle of the plot style in hexadecimal. Group code 390.</summary>
-    [CadString(390, Optional = true, Since = 2000)]
+    [CadHandle(390, Optional = true, Since = 2000)]
     public string PlotStyleHandle { get; set; } = "";
 
     /// <summary>Gets or sets the handle of the material in hexadecimal. Group code 347.</summary>
-    [CadString(347, Optional = true, Since = 2007)]
+    [CadHandle(347, Optional = true, Since = 2007)]
     public string MaterialHandle { get; set; } = "";
 
-    /// <summary>Gets or sets the number of the colour as it stands in the file, whatever it is.</summary>
-    [CadShort(62)]
+    /// <summary>Gets or sets the index of the colour as it is in the file, whatever it is.</summary>
+    [CadColor(62)]
     internal short StoredColor { get; set; } = 7;
 
     /// <summary>Gets or sets whether the layer is switched on. Group code 62.</summary>

@@ -2,7 +2,7 @@ using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -26,29 +26,29 @@ public partial class CadLineTypeTableObject : CadSymbolTableGroupCodes
     /// <summary>Gets or sets the length of the whole pattern, in drawing units. Group code 40.</summary>
     public double PatternLength { get; set; }
 
-    /// <summary>Gets whether the pattern has letters or shapes in it.</summary>
+    /// <summary>Gets whether the pattern has texts or shapes in it.</summary>
     public bool IsComplex => ComplexTags.Count > 0;
 
-    /// <summary>Gets the tags of letters and shapes, with the number of the element that each follows.</summary>
+    /// <summary>Gets the tags of texts and shapes, with the number of the element that each follows.</summary>
     internal List<(int Element, CadCodeValue Tag)> ComplexTags { get; } = [];
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         taken = true;
         switch (code)
         {
             case 49:
-                Pattern.Add(tags.GetDouble());
+                Pattern.Add(reader.GetDouble());
                 break;
             case 40:
-                PatternLength = tags.GetDouble();
+                PatternLength = reader.GetDouble();
                 break;
             case 72 or 73:
                 break;
-            case 74 when tags.GetInt() == 0:
+            case 74 when reader.GetInt() == 0:
                 break;
             case 74 or 75 or 340 or 46 or 50 or 44 or 45 or 9:
-                ComplexTags.Add((Pattern.Count, tags.ToCodeValue()));
+                ComplexTags.Add((Pattern.Count, reader.ToCodeValue()));
                 break;
             default:
                 taken = false;
@@ -56,33 +56,35 @@ public partial class CadLineTypeTableObject : CadSymbolTableGroupCodes
         }
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        writer.Write(72, 65);
-        writer.Write(73, Pattern.Count);
-        writer.Write(40, PatternLength);
-        for (int i = 0; i < Pattern.Count; i++)
+        const int alignment = 65;
+        fields.Int16(72, alignment);
+        int count = fields.Count(73, Pattern.Count);
+        PatternLength = fields.Double(40, PatternLength);
+        for (int i = 0; i < count; i++)
         {
-            writer.Write(49, Pattern[i]);
-            WriteElement(writer, i + 1);
+            fields.ItemAt(49, Pattern, i, 0);
+            ExchangeElement(fields, i + 1);
         }
     }
 
-    private void WriteElement(DxfTagWriter writer, int element)
+    private void ExchangeElement(ObjectExchange fields, int element)
     {
-        bool plain = true;
-        foreach ((int of, CadCodeValue tag) in ComplexTags)
+        List<CadCodeValue> tags = ComplexTags.FindAll(tag => tag.Element == element).ConvertAll(tag => tag.Tag);
+        bool plain = fields.Includes(0, tags.Count == 0);
+        if (!plain)
         {
-            if (of == element)
-            {
-                writer.Write(tag);
-                plain = false;
-            }
+            fields.Tags(tags);
+        }
+        else if (fields.Includes(1994, true))
+        {
+            fields.Int16(74, 0);
         }
 
-        if (plain && writer.HasSubclasses)
+        if (fields.IsReading)
         {
-            writer.Write(74, 0);
+            tags.ForEach(tag => ComplexTags.Add((element, tag)));
         }
     }
 }

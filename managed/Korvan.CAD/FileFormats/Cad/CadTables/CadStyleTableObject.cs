@@ -1,5 +1,6 @@
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -16,15 +17,15 @@ public partial class CadStyleTableObject : CadSymbolTableGroupCodes
     [CadDouble(40)]
     public double TextHeight { get; set; }
 
-    /// <summary>Gets or sets the width of letters relative to the font. Group code 41.</summary>
+    /// <summary>Gets or sets the width factor of the characters. Group code 41.</summary>
     [CadDouble(41)]
     public double WidthFactor { get; set; } = 1;
 
-    /// <summary>Gets or sets the slant of letters, in degrees. Group code 50.</summary>
-    [CadDouble(50)]
+    /// <summary>Gets or sets the oblique angle of the characters, in degrees. Group code 50.</summary>
+    [CadAngle(50)]
     public double ObliqueAngle { get; set; }
 
-    /// <summary>Gets or sets how letters are mirrored: 2 left to right, 4 upside down. Group code 71.</summary>
+    /// <summary>Gets or sets how the text is mirrored: 2 left to right, 4 upside down. Group code 71.</summary>
     [CadShort(71)]
     public short TextGenerationFlag { get; set; }
 
@@ -36,7 +37,7 @@ public partial class CadStyleTableObject : CadSymbolTableGroupCodes
     [CadString(3)]
     public string PrimaryFontName { get; set; } = "txt";
 
-    /// <summary>Gets or sets the file name of the font for East Asian letters; empty for none. Group code
+    /// <summary>Gets or sets the file name of the font for East Asian characters; empty for none. Group code
     /// 4.</summary>
     [CadString(4)]
     public string BigFontName { get; set; } = "";

@@ -1,7 +1,7 @@
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -38,7 +38,7 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
     /// <returns>The kind and name of the record in one line.</returns>
     public override string ToString() => $"{DxfName} {Name}";
 
-    /// <summary>Takes a name over as it stands in a file.</summary>
+    /// <summary>Takes a name over as it is in the file.</summary>
     private protected void StoreName(string name) => _name = name;
 
     /// <summary>Refuses a name that such a record cannot have; files are read whatever names are in them.</summary>
@@ -47,15 +47,15 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
     }
 
     /// <inheritdoc/>
-    internal override bool ReadCode(int code, DxfTagReader tags)
+    internal override bool ReadField(int code, FieldReader reader)
     {
         switch (code)
         {
             case 2:
-                _name = tags.GetName();
+                _name = reader.GetName();
                 return true;
             case 70:
-                Flags = tags.GetShort();
+                Flags = reader.GetShort();
                 return true;
             default:
                 return false;
@@ -63,15 +63,17 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
     }
 
     /// <inheritdoc/>
-    internal override void WriteCodes(DxfTagWriter writer)
+    internal override void Exchange(ObjectExchange fields)
     {
-        writer.WriteSubclass("AcDbSymbolTableRecord");
+        fields.BeginSubclass("AcDbSymbolTableRecord");
     }
 
-    /// <summary>Writes what stands first behind the marker of the record.</summary>
-    internal virtual void WriteNameAndFlags(DxfTagWriter writer)
+    /// <summary>Carries the fields that come first after the marker of the record.</summary>
+    internal virtual void ExchangeNameAndFlags(ObjectExchange fields)
     {
-        writer.Write(2, Name);
-        writer.Write(70, Flags);
+        ExchangeName(fields);
+        Flags = fields.Int16(70, Flags);
     }
+
+    private protected void ExchangeName(ObjectExchange fields) => _name = fields.Text(2, _name);
 }

@@ -1,5 +1,6 @@
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -45,8 +46,8 @@ public partial class CadViewTableObject : CadSymbolTableGroupCodes
     [CadDouble(44)]
     public double BackClippingPlane { get; set; }
 
-    /// <summary>Gets or sets how far the view is turned, in degrees. Group code 50.</summary>
-    [CadDouble(50)]
+    /// <summary>Gets or sets the twist angle of the view, in degrees. Group code 50.</summary>
+    [CadAngle(50)]
     public double TwistAngle { get; set; }
 
     /// <summary>Gets or sets bits: 1 perspective, 2 front and 4 back clipping. Group code 71.</summary>

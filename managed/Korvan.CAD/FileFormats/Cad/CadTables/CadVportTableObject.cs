@@ -1,5 +1,6 @@
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -66,11 +67,11 @@ public partial class CadVportTableObject : CadSymbolTableGroupCodes
     public double BackClippingPlane { get; set; }
 
     /// <summary>Gets or sets the angle of the snap grid, in degrees. Group code 50.</summary>
-    [CadDouble(50)]
+    [CadAngle(50)]
     public double SnapRotationAngle { get; set; }
 
-    /// <summary>Gets or sets how far the view is turned, in degrees. Group code 51.</summary>
-    [CadDouble(51)]
+    /// <summary>Gets or sets the twist angle of the view, in degrees. Group code 51.</summary>
+    [CadAngle(51)]
     public double ViewTwistAngle { get; set; }
 
     /// <summary>Gets or sets bits: 1 perspective, 2 front and 4 back clipping. Group code 71.</summary>

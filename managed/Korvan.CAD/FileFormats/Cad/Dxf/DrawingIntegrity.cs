@@ -28,7 +28,7 @@ internal static class DrawingIntegrity
         if (release >= WithRecords)
         {
             AddBlockRecords(drawing);
-            AddTableHeads(drawing);
+            AddTableHeaders(drawing);
         }
 
         if (release >= WithOwners)
@@ -122,11 +122,11 @@ internal static class DrawingIntegrity
         }
     }
 
-    private static void AddTableHeads(CadDrawing drawing)
+    private static void AddTableHeaders(CadDrawing drawing)
     {
         foreach (string name in TableRecords.Names)
         {
-            drawing.TableHeads.TryAdd(name, new CadTableHead { Name = name });
+            drawing.TableHeaders.TryAdd(name, new CadTableHeader { Name = name });
         }
     }
 
@@ -259,7 +259,7 @@ internal static class DrawingIntegrity
         {
             foreach (CadSymbolTableGroupCodes record in TableRecords.Of(drawing, table))
             {
-                record.Owner = drawing.TableHeads[table].Handle;
+                record.Owner = drawing.TableHeaders[table].Handle;
             }
         }
     }

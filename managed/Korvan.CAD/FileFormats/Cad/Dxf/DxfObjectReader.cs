@@ -5,6 +5,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
@@ -34,6 +35,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
     internal void ReadBody(CadBaseObject target)
     {
         tags.EnterSubclass(null);
+        tags.CurrentHandle = 0;
         while (tags.Next())
         {
             int code = tags.Code;
@@ -42,13 +44,21 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
                 break;
             }
 
-            if (!ReadCommon(code, target) && !target.ReadCode(code, tags))
+            if (!ReadCommon(code, target) && !target.ReadField(code, tags))
             {
-                target.Keep(tags.Subclass, tags.ToCodeValue());
+                Keep(target, tags.Subclass);
             }
         }
 
+        tags.CurrentHandle = 0;
         tags.Unread();
+    }
+
+    private static KeptTags KeptOf(CadBaseObject target) => (KeptTags)(target.Kept ??= new KeptTags());
+
+    private void Keep(CadBaseObject target, string? subclass)
+    {
+        KeptOf(target).Tags.Add(new KeptTag(subclass, tags.ToCodeValue()));
     }
 
     private static bool IsRaw(CadBaseObject target) => target is RawEntity or RawObject;
@@ -65,6 +75,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
             case 5 when tags.Subclass is null && target is not CadDimensionStyleTable:
             case 105 when target is CadDimensionStyleTable:
                 target.Handle = tags.GetHandle();
+                tags.CurrentHandle = target.Handle;
                 return true;
             case 100:
                 EnterSubclass(target);
@@ -103,7 +114,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
     {
         do
         {
-            target.Keep(KeptTag.Verbatim, tags.ToCodeValue());
+            Keep(target, KeptTag.Verbatim);
         }
         while (tags.Next() && tags.Code is not 0 and < 1000);
         tags.EnterSubclass(KeptTag.Verbatim);
@@ -112,7 +123,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
 
     private void ReadEmbedded(CadBaseObject target)
     {
-        List<CadCodeValue> embedded = target.Embedded ??= [];
+        List<CadCodeValue> embedded = KeptOf(target).Embedded ??= [];
         do
         {
             embedded.Add(tags.ToCodeValue());
@@ -142,7 +153,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
 
     private void KeepGroup(CadBaseObject target, string name)
     {
-        target.Keep(tags.Subclass, tags.ToCodeValue());
+        Keep(target, tags.Subclass);
         if (!name.StartsWith('{'))
         {
             return;
@@ -150,7 +161,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
 
         while (tags.Next() && tags.Code != 0)
         {
-            target.Keep(tags.Subclass, tags.ToCodeValue());
+            Keep(target, tags.Subclass);
             if (tags.Code == 102)
             {
                 return;
@@ -190,8 +201,9 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
     {
         "POLYLINE" => CreatePolyline(tags.Peek(70) ?? 0),
         "VERTEX" => new Cad2DVertex(),
+        "MLEADER" => new CadMLeader(),
         "DIMENSION" => CreateDimension(tags.Peek(70) ?? 0),
-        _ => DxfTypeTable.CreateEntity(name) ?? new RawEntity(name),
+        _ => ObjectTypes.CreateEntity(name) ?? new RawEntity(name),
     };
 
     private static CadPolylineBase CreatePolyline(int flags) => (CadPolylineFlag)flags switch

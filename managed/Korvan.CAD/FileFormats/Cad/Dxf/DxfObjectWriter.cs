@@ -9,6 +9,11 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// <summary>Writes one object: what all have in common, and through its codec what is its own.</summary>
 internal sealed class DxfObjectWriter(DxfTagWriter writer)
 {
+    private readonly DxfFieldWriter _fields = new(writer);
+
+    /// <summary>Gets what was left out because it is kept in the form of another format.</summary>
+    internal List<string> LeftOut { get; } = [];
+
     internal void WriteEntity(CadEntityBase entity)
     {
         Write(entity);
@@ -27,29 +32,38 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
 
     internal void Write(CadBaseObject item)
     {
+        if (item.Kept is { } kept and not KeptTags)
+        {
+            LeftOut.Add($"{item.DxfName} {HandleText.Format(item.Handle)}: data kept in the form of {kept.FormatName}");
+            if (item is RawEntity or RawObject)
+            {
+                return;
+            }
+        }
+
         Begin(item);
-        item.WriteCodes(writer);
+        item.Exchange(_fields);
         WriteRest(item);
     }
 
-    internal void WriteTableHead(CadTableHead head, int count)
+    internal void WriteTableHeader(CadTableHeader header, int count)
     {
-        writer.Subject = $"the table {head.Name}";
+        writer.Subject = $"the table {header.Name}";
         writer.BeginObject();
         writer.Write(0, "TABLE");
-        writer.Write(2, head.Name);
-        WriteIdentity(head);
+        writer.Write(2, header.Name);
+        WriteIdentity(header);
         writer.WriteSubclass("AcDbSymbolTable");
         writer.Write(70, count);
-        writer.WriteKept(head, "AcDbSymbolTable");
-        if (head.Name == "DIMSTYLE" && writer.Release >= 2000)
+        writer.WriteKept(header, "AcDbSymbolTable");
+        if (header.Name == "DIMSTYLE" && writer.Release >= 2000)
         {
             // Only the marker tells readers that this table is the one with a list of handles.
             writer.WriteSubclass("AcDbDimStyleTable");
-            writer.WriteKept(head, "AcDbDimStyleTable");
+            writer.WriteKept(header, "AcDbDimStyleTable");
         }
 
-        WriteRest(head);
+        WriteRest(header);
     }
 
     private void WriteSeqend(CadSeqend? end)
@@ -103,11 +117,11 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
         }
     }
 
-    // Tags behind markers that the class does not know follow with their markers.
+    // Tags after markers that the class does not know follow with their markers.
     private void WriteKeptElsewhere(CadBaseObject item)
     {
         string? marker = null;
-        foreach (KeptTag tag in item.Kept ?? [])
+        foreach (KeptTag tag in item.KeptTags?.Tags ?? [])
         {
             if (writer.HasWritten(tag.Subclass))
             {

@@ -3,7 +3,9 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -20,22 +22,24 @@ internal sealed partial class DxfReader
             }
             else if (name != "ENDTAB")
             {
-                throw _tags.Fail($"'{name}' stands between tables; 0 TABLE was expected");
+                throw _tags.Fail(
+                LoadDefectCode.Misplaced, $"'{name}' stands between tables; 0 TABLE was expected");
             }
         }
     }
 
     private void ReadTable()
     {
-        CadTableHead head = new();
-        _objects.ReadBody(head);
-        _drawing.TableHeads[head.Name] = head;
+        CadTableHeader header = new();
+        _objects.ReadBody(header);
+        _drawing.TableHeaders[header.Name] = header;
         while (NextObject() is { } name && name != "ENDTAB")
         {
-            CadSymbolTableGroupCodes? record = DxfTypeTable.CreateTableRecord(name);
+            CadSymbolTableGroupCodes? record = ObjectTypes.CreateTableRecord(name);
             if (record is null)
             {
-                throw _tags.Fail($"'{name}' is no record of a table; 0 ENDTAB was expected");
+                throw _tags.Fail(
+                LoadDefectCode.Misplaced, $"'{name}' is no record of a table; 0 ENDTAB was expected");
             }
 
             if (TryRead(record))
@@ -71,7 +75,8 @@ internal sealed partial class DxfReader
 
     private ImageLoadException OutsideBlock(string name)
     {
-        return _tags.Fail($"the entity {name} stands outside of a block; 0 BLOCK was expected");
+        return _tags.Fail(
+                LoadDefectCode.Misplaced, $"the entity {name} stands outside of a block; 0 BLOCK was expected");
     }
 
     private void AddBlock(CadBlockEntity block)
@@ -137,7 +142,7 @@ internal sealed partial class DxfReader
     {
         while (NextObject() is { } name)
         {
-            CadObjectBase item = DxfTypeTable.CreateObject(name) ?? new RawObject(name);
+            CadObjectBase item = ObjectTypes.CreateObject(name) ?? new RawObject(name);
             if (TryRead(item))
             {
                 _drawing.Objects.Add(item);
@@ -159,10 +164,10 @@ internal sealed partial class DxfReader
         }
     }
 
-    // The tags of a damaged object are passed over; what follows it is read as usual.
+    // The tags of a damaged object are passed over; what follows it is read as always.
     private void LeaveOut(ImageLoadException failure)
     {
-        _options.Errors.Add(failure.Message);
+        _options.Report(failure);
         while (_tags.Next() && _tags.Code != 0)
         {
         }

@@ -5,6 +5,7 @@ using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -41,7 +42,7 @@ internal sealed partial class DxfReader
         }
         catch (ImageLoadException e) when (_options.IgnoreErrors)
         {
-            _options.Errors.Add(e.Message);
+            _options.Report(e);
         }
 
         DrawingLinks.Complete(_drawing);
@@ -67,14 +68,18 @@ internal sealed partial class DxfReader
             }
             else if (_tags.Code != 0 || !_tags.ValueIs("ENDSEC"u8))
             {
-                throw _tags.Fail($"group code {_tags.Code} with the value '{_tags.ValueText()}' stands between "
+                throw _tags.Fail(
+                LoadDefectCode.Misplaced,
+                $"group code {_tags.Code} with the value '{_tags.ValueText()}' stands between "
                     + "sections; 0 SECTION or 0 EOF was expected");
             }
         }
 
         if (!_hasEntities)
         {
-            throw _tags.Fail("the file ends before its section ENTITIES; it has been cut off");
+            throw _tags.Fail(
+                LoadDefectCode.EndsEarly,
+                "the file ends before its section ENTITIES; it has been cut off");
         }
     }
 
@@ -83,7 +88,8 @@ internal sealed partial class DxfReader
         int line = _tags.Line;
         if (!_tags.Next() || _tags.Code != 2)
         {
-            throw _tags.Fail("a section has no name; group code 2 was expected");
+            throw _tags.Fail(
+                LoadDefectCode.SectionWithoutName, "a section has no name; group code 2 was expected");
         }
 
         string name = _tags.GetName();
@@ -123,12 +129,16 @@ internal sealed partial class DxfReader
     {
         if (!_tags.Next())
         {
-            throw _tags.Fail($"the section {name}, which begins on line {line}, never ends; 0 ENDSEC was expected");
+            throw _tags.Fail(
+                LoadDefectCode.SectionWithoutEnd,
+                $"the section {name}, which begins on line {line}, never ends; 0 ENDSEC was expected");
         }
 
         if (_tags.Code != 0 || !_tags.ValueIs("ENDSEC"u8))
         {
-            throw _tags.Fail($"group code {_tags.Code} with the value '{_tags.ValueText()}' stands in the section "
+            throw _tags.Fail(
+                LoadDefectCode.Misplaced,
+                $"group code {_tags.Code} with the value '{_tags.ValueText()}' stands in the section "
                 + $"{name}, where 0 ENDSEC was expected");
         }
     }
@@ -141,7 +151,9 @@ internal sealed partial class DxfReader
         {
             if (_tags.Code != 0)
             {
-                throw _tags.Fail($"group code {_tags.Code} stands where group code 0 and the name of an object were "
+                throw _tags.Fail(
+                LoadDefectCode.Misplaced,
+                $"group code {_tags.Code} stands where group code 0 and the name of an object were "
                     + "expected");
             }
 
@@ -208,7 +220,7 @@ internal sealed partial class DxfReader
             return true;
         });
         Encoding stated = DwgCodePage.Get(page.StartsWith('$') || page.Length == 0 ? DwgCodePage.DefaultName : page);
-        bool unicode = DxfRelease.Parse(release) >= CadAcadVersion.AC1021;
+        bool unicode = DrawingRelease.Parse(release) >= CadAcadVersion.AC1021;
         _tags.Encoding = unicode ? new UTF8Encoding(false) : stated;
         _tags.Fallback = stated;
     }
@@ -220,7 +232,10 @@ internal sealed partial class DxfReader
             CadClassEntity added = new();
             while (_tags.Next() && _tags.Code != 0)
             {
-                added.ReadCode(_tags);
+                if (!added.ReadField(_tags.Code, _tags))
+                {
+                    added.Kept.Add(_tags.ToCodeValue());
+                }
             }
 
             _tags.Unread();
@@ -240,15 +255,15 @@ internal sealed partial class DxfReader
         }
 
         _tags.Unread();
-        byte[] picture = new byte[TotalLength(chunks)];
-        int place = 0;
+        byte[] image = new byte[TotalLength(chunks)];
+        int position = 0;
         foreach (byte[] chunk in chunks)
         {
-            chunk.CopyTo(picture, place);
-            place += chunk.Length;
+            chunk.CopyTo(image, position);
+            position += chunk.Length;
         }
 
-        _drawing.ThumbnailImage = picture;
+        _drawing.ThumbnailImage = image;
     }
 
     private static int TotalLength(List<byte[]> chunks)
@@ -264,13 +279,13 @@ internal sealed partial class DxfReader
 
     private void ReadRawSection(string name)
     {
-        RawSection section = new(name);
+        KeptTags content = new();
         while (_tags.Next() && !(_tags.Code == 0 && (_tags.ValueIs("ENDSEC"u8) || _tags.ValueIs("EOF"u8))))
         {
-            section.Tags.Add(_tags.ToCodeValue());
+            content.Tags.Add(new KeptTag(null, _tags.ToCodeValue()));
         }
 
         _tags.Unread();
-        _drawing.RawSections.Add(section);
+        _drawing.RawSections.Add(new RawSection(name) { Content = content });
     }
 }

@@ -30,23 +30,26 @@ internal sealed class DxfSaver
         Encoding encoding = unicode
             ? new UTF8Encoding(false)
             : DwgCodePage.Get(page.Length > 0 ? page : DwgCodePage.DefaultName);
-        _writer = new DxfTagWriter(stream, encoding, DxfRelease.Year(version));
+        _writer = new DxfTagWriter(stream, encoding, DrawingRelease.Year(version));
         _objects = new DxfObjectWriter(_writer);
     }
 
-    internal static void Save(CadDrawing drawing, DxfOptions options, Stream stream)
+    /// <summary>Writes a drawing.</summary>
+    /// <returns>What was left out because it is kept in the form of another format.</returns>
+    internal static IReadOnlyList<string> Save(CadDrawing drawing, DxfOptions options, Stream stream)
     {
-        options.VerifyHonoured(OutputKind.Model);
         CadAcadVersion version = ChooseVersion(drawing, options.Version);
-        DrawingIntegrity.Prepare(drawing, DxfRelease.Year(version));
-        new DxfSaver(drawing, version, stream).Write();
+        DrawingIntegrity.Prepare(drawing, DrawingRelease.Year(version));
+        DxfSaver saver = new(drawing, version, stream);
+        saver.Write();
+        return saver._objects.LeftOut;
     }
 
     private static CadAcadVersion ChooseVersion(CadDrawing drawing, DxfOutputVersion wanted)
     {
         CadAcadVersion present = drawing.Version;
         CadAcadVersion chosen = wanted == DxfOutputVersion.Original ? present : DxfRelease.From(wanted);
-        if (DxfRelease.Year(chosen) == DxfRelease.Year(present))
+        if (DrawingRelease.Year(chosen) == DrawingRelease.Year(present))
         {
             return chosen == CadAcadVersion.None ? present : chosen;
         }
@@ -57,12 +60,12 @@ internal sealed class DxfSaver
                 + "carried over between releases 2000 and later only. Leave DxfOptions.version at ORIGINAL.");
         }
 
-        VerifyBodies(drawing, chosen);
+        VerifySolids(drawing, chosen);
         return chosen;
     }
 
-    // From release 2013 on the data of bodies stands in a section that earlier releases do not know.
-    private static void VerifyBodies(CadDrawing drawing, CadAcadVersion chosen)
+    // From release 2013 on the data of solids is in a section that earlier releases do not know.
+    private static void VerifySolids(CadDrawing drawing, CadAcadVersion chosen)
     {
         if (chosen >= CadAcadVersion.AC1027)
         {
@@ -73,7 +76,7 @@ internal sealed class DxfSaver
         {
             if (block.Entities.Exists(static entity => entity is CadObjectWithAcisData { AcisData.Count: 0 }))
             {
-                throw new ImageSaveException("The drawing has bodies in the form of release 2013, which release "
+                throw new ImageSaveException("The drawing has solids in the form of release 2013, which release "
                     + $"{chosen} does not know. Write release 2013 or later.");
             }
         }
@@ -97,9 +100,7 @@ internal sealed class DxfSaver
 
         foreach (RawSection section in _drawing.RawSections)
         {
-            BeginSection(section.Name);
-            section.Tags.ForEach(_writer.Write);
-            EndSection();
+            WriteRawSection(section);
         }
 
         WriteThumbnail();
@@ -140,11 +141,12 @@ internal sealed class DxfSaver
 
     private void WriteClasses()
     {
+        DxfFieldWriter fields = new(_writer);
         BeginSection("CLASSES");
         foreach (CadClassEntity item in _drawing.ClassEntities)
         {
             _writer.Write(0, "CLASS");
-            item.WriteCodes(_writer);
+            item.Exchange(fields);
         }
 
         EndSection();
@@ -161,13 +163,13 @@ internal sealed class DxfSaver
             }
 
             IReadOnlyList<CadSymbolTableGroupCodes> records = TableRecords.Of(_drawing, name);
-            _drawing.TableHeads.TryGetValue(name, out CadTableHead? head);
-            if (head is null && records.Count == 0 && !_writer.HasSubclasses)
+            _drawing.TableHeaders.TryGetValue(name, out CadTableHeader? header);
+            if (header is null && records.Count == 0 && !_writer.HasSubclasses)
             {
                 continue;
             }
 
-            _objects.WriteTableHead(head ?? new CadTableHead { Name = name }, records.Count);
+            _objects.WriteTableHeader(header ?? new CadTableHeader { Name = name }, records.Count);
             foreach (CadSymbolTableGroupCodes record in records)
             {
                 _objects.Write(record);
@@ -186,7 +188,8 @@ internal sealed class DxfSaver
         {
             bool model = block == _drawing.ModelSpace;
             bool paper = block == _drawing.PaperSpace;
-            if (!_writer.HasSubclasses && ((model && !_drawing.ModelSpaceInFile) || (paper && !_drawing.PaperSpaceInFile)))
+            if (!_writer.HasSubclasses
+                && ((model && !_drawing.ModelSpaceInFile) || (paper && !_drawing.PaperSpaceInFile)))
             {
                 continue;
             }
@@ -218,20 +221,33 @@ internal sealed class DxfSaver
         EndSection();
     }
 
+    private void WriteRawSection(RawSection section)
+    {
+        if (section.Content is not KeptTags content)
+        {
+            _objects.LeftOut.Add($"section {section.Name}: data kept in the form of {section.Content.FormatName}");
+            return;
+        }
+
+        BeginSection(section.Name);
+        content.Tags.ForEach(tag => _writer.Write(tag.Value));
+        EndSection();
+    }
+
     private void WriteThumbnail()
     {
-        byte[] picture = _drawing.ThumbnailImage;
-        if (picture.Length == 0)
+        byte[] image = _drawing.ThumbnailImage;
+        if (image.Length == 0)
         {
             return;
         }
 
         BeginSection("THUMBNAILIMAGE");
-        _writer.Write(90, picture.Length);
-        for (int start = 0; start < picture.Length; start += BitmapChunk)
+        _writer.Write(90, image.Length);
+        for (int start = 0; start < image.Length; start += BitmapChunk)
         {
-            int length = System.Math.Min(BitmapChunk, picture.Length - start);
-            _writer.Write(310, System.Convert.ToHexString(picture, start, length));
+            int length = System.Math.Min(BitmapChunk, image.Length - start);
+            _writer.Write(310, System.Convert.ToHexString(image, start, length));
         }
 
         EndSection();

@@ -7,7 +7,7 @@ using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
-/// <content>Texts: code pages, escapes, and one string for one name however often it stands in the file.</content>
+/// <content>Strings: code pages, escapes, and one string for one name however often it is in the file.</content>
 internal sealed partial class DxfTagReader
 {
     private const int PoolSize = 1024;
@@ -32,11 +32,11 @@ internal sealed partial class DxfTagReader
     /// <summary>Gets or sets the encoding of texts in a drawing of UTF-8 that are not UTF-8.</summary>
     internal Encoding Fallback { get; set; } = Encoding.Latin1;
 
-    /// <summary>Gets or sets how sequences for single letters are read.</summary>
+    /// <summary>Gets or sets how sequences for single characters are read.</summary>
     internal TextEscapes Escapes { get; set; } = TextEscapes.Standard;
 
     /// <summary>Gives the value as a text.</summary>
-    internal string GetString()
+    internal override string GetString()
     {
         if (IsBinary && !BinaryTags.IsText(Code))
         {
@@ -48,7 +48,7 @@ internal sealed partial class DxfTagReader
     }
 
     /// <summary>Gives the value as a name: without blanks at its ends.</summary>
-    internal string GetName()
+    internal override string GetName()
     {
         ReadOnlySpan<byte> bytes = Value;
         if (bytes.Length > 0 && (bytes[0] == ' ' || bytes[^1] == ' '))

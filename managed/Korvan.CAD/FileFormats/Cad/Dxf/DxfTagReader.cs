@@ -1,8 +1,9 @@
 using System;
 using System.Buffers.Text;
-using System.Collections.Generic;
 using System.Globalization;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -10,7 +11,7 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// Reads the tags of an interchange file, text or binary, from memory. A tag is a group code and a value; the value
 /// stays a slice of the file until it is asked for in one of its types.
 /// </summary>
-internal sealed partial class DxfTagReader
+internal sealed partial class DxfTagReader : FieldReader
 {
     private readonly byte[] _data;
     private readonly string _fileName;
@@ -31,15 +32,8 @@ internal sealed partial class DxfTagReader
         _position = _binary == BinaryLayout.None ? SkipByteOrderMark(data) : BinaryTags.Sentinel.Length;
     }
 
-    /// <summary>Gets the group code of the current tag.</summary>
-    internal int Code { get; private set; }
-
-    /// <summary>Gets the marker that the current tag stands behind, or nothing before the first one.</summary>
-    internal string? Subclass { get; private set; }
-
-    /// <summary>Gets or sets what was wrong with objects that were left out; nothing when damage is not forgiven.
-    /// </summary>
-    internal List<string>? Errors { get; set; }
+    /// <summary>Gets or sets the handle of the object that is being read; 0 where none was read yet.</summary>
+    internal ulong CurrentHandle { get; set; }
 
     /// <summary>Gets whether the file is binary.</summary>
     internal bool IsBinary => _binary != BinaryLayout.None;
@@ -55,7 +49,7 @@ internal sealed partial class DxfTagReader
 
     /// <summary>Goes on to the next tag; comments are passed over.</summary>
     /// <returns>Whether there is one.</returns>
-    internal bool Next()
+    internal override bool Next()
     {
         if (_unread)
         {
@@ -75,19 +69,14 @@ internal sealed partial class DxfTagReader
         return true;
     }
 
-    /// <summary>Makes <see cref="Next"/> give the current tag again; behind the last tag there is none to give.
+    /// <summary>Makes <see cref="Next"/> give the current tag again; after the last tag there is none to give.
     /// </summary>
-    internal void Unread() => _unread = !_ended;
-
-    /// <summary>Tells whether the current tag stands behind a marker; old files have no markers.</summary>
-    internal bool InSubclass(string name) => Subclass is null || Subclass == name;
-
-    internal void EnterSubclass(string? name) => Subclass = name;
+    internal override void Unread() => _unread = !_ended;
 
     internal bool ValueIs(ReadOnlySpan<byte> text) => Trimmed().SequenceEqual(text);
 
-    /// <summary>Looks for a code in the rest of the current object without leaving the place.</summary>
-    /// <returns>Its value as a whole number, or nothing.</returns>
+    /// <summary>Looks for a code in the rest of the current object without leaving the position.</summary>
+    /// <returns>Its value as an integer, or nothing.</returns>
     internal int? Peek(int code)
     {
         int? found = null;
@@ -110,7 +99,7 @@ internal sealed partial class DxfTagReader
         (_unread, _ended) = (unread, ended);
     }
 
-    internal double GetDouble()
+    internal override double GetDouble()
     {
         double value;
         if (IsBinary)
@@ -119,22 +108,29 @@ internal sealed partial class DxfTagReader
         }
         else if (!FastDouble.TryParse(Trimmed(), out value))
         {
-            throw NotANumber("number");
+            throw NotA(LoadDefectCode.BadNumber, "a number");
         }
 
-        return double.IsFinite(value) ? value : throw Fail($"group code {Code} has the value {ValueText()}; "
-            + "a finite number was expected");
+        return double.IsFinite(value) ? value : throw Fail(
+            LoadDefectCode.NotFinite, $"group code {Code} has the value {ValueText()}; a finite number was expected");
     }
 
-    internal int GetInt()
+    internal override double GetAngle() => GetDouble();
+
+    // Some programs write colours and flags as unsigned integers.
+    internal override int GetInt()
     {
         long value = GetLong();
-        return unchecked((int)value);
+        return value is >= int.MinValue and <= uint.MaxValue ? unchecked((int)value) : throw TooLarge(32);
     }
 
-    internal short GetShort() => unchecked((short)GetLong());
+    internal override short GetShort()
+    {
+        long value = GetLong();
+        return value is >= short.MinValue and <= ushort.MaxValue ? unchecked((short)value) : throw TooLarge(16);
+    }
 
-    internal long GetLong()
+    internal override long GetLong()
     {
         if (IsBinary)
         {
@@ -147,23 +143,25 @@ internal sealed partial class DxfTagReader
             return value;
         }
 
-        // Some programs write whole numbers with a fraction of zero or a sign.
-        return FastDouble.TryParse(text, out double number) && Math.Abs(number) < 9e18
+        // Some programs write integers with a fraction of zero or a sign.
+        return FastDouble.TryParse(text, out double number) && Math.Abs(number) < 9e18 && number == Math.Floor(number)
             ? (long)number
-            : throw NotANumber("whole number");
+            : throw NotA(LoadDefectCode.BadInteger, "an integer");
     }
 
     /// <summary>Reads how many parts follow; a count that the rest of the file cannot hold is damage.</summary>
-    internal int GetCount()
+    internal override int GetCount()
     {
         const int smallestTag = 4;
         long count = GetLong();
         return count >= 0 && count <= (Remaining / (IsBinary ? 2 : smallestTag)) + 1
             ? (int)count
-            : throw Fail($"group code {Code} announces {count} parts, but only {Remaining} bytes follow");
+            : throw Fail(
+                LoadDefectCode.CountTooLarge,
+                $"group code {Code} announces {count} parts, but only {Remaining} bytes follow");
     }
 
-    internal ulong GetHandle()
+    internal override ulong GetHandle()
     {
         ReadOnlySpan<byte> text = Trimmed();
         if (Utf8Parser.TryParse(text, out ulong value, out int used, 'X') && used == text.Length)
@@ -171,11 +169,17 @@ internal sealed partial class DxfTagReader
             return value;
         }
 
-        return text.IsEmpty ? 0UL : throw Fail($"group code {Code} has the value '{ValueText()}'; a handle, which is a "
-            + "hexadecimal number, was expected");
+        return text.IsEmpty ? 0UL : throw Fail(
+            LoadDefectCode.BadHandle,
+            $"group code {Code} has the value '{Shortened(ValueText())}'; a handle, which is a hexadecimal number, was "
+                + "expected");
     }
 
-    internal byte[] AppendBinary(byte[] before)
+    internal override string GetHandleText() => GetString();
+
+    internal override ImageLoadException BadValue(string cause) => Fail(LoadDefectCode.BadValue, cause);
+
+    internal override byte[] AppendBinary(byte[] before)
     {
         byte[] chunk;
         try
@@ -186,22 +190,25 @@ internal sealed partial class DxfTagReader
         }
         catch (FormatException)
         {
-            throw Fail($"group code {Code} holds bytes that are not written in pairs of hexadecimal digits");
+            throw Fail(
+                LoadDefectCode.BadBinary,
+                $"group code {Code} holds bytes that are not written in pairs of hexadecimal digits");
         }
 
         return [.. before, .. chunk];
     }
 
-    /// <summary>Gives the current tag as it stands in the file.</summary>
-    internal CadCodeValue ToCodeValue() => new(Code, ValueText());
+    /// <summary>Gives the current tag as it is in the file.</summary>
+    internal override CadCodeValue ToCodeValue() => new(Code, ValueText());
 
     /// <summary>Describes damage at the current tag.</summary>
-    internal ImageLoadException Fail(string cause)
+    internal ImageLoadException Fail(LoadDefectCode code, string cause)
     {
-        string place = IsBinary
-            ? $"byte {_tagOffset.ToString(CultureInfo.InvariantCulture)}"
-            : $"line {_line.ToString(CultureInfo.InvariantCulture)}";
-        return new ImageLoadException($"'{_fileName}', {place}: {cause}.");
+        string record = CurrentHandle == 0 ? "" : $"handle {CurrentHandle.ToString("X", CultureInfo.InvariantCulture)}";
+        LoadPlace place = IsBinary
+            ? new LoadPlace(_fileName, Record: record, Offset: _tagOffset)
+            : new LoadPlace(_fileName, _line, record);
+        return new ImageLoadException(new LoadDefect(code, place, cause));
     }
 
     private static int SkipByteOrderMark(byte[] data)
@@ -227,7 +234,8 @@ internal sealed partial class DxfTagReader
         Code = code;
         if (_position >= _data.Length)
         {
-            throw Fail($"the file ends behind group code {code}; its value was expected");
+            throw Fail(
+                LoadDefectCode.EndsWithinTag, $"the file ends after group code {code}; its value was expected");
         }
 
         (_start, _length) = TakeLine();
@@ -244,7 +252,8 @@ internal sealed partial class DxfTagReader
         }
 
         (_start, _length) = (start, Math.Min(length, 40));
-        throw Fail($"'{ValueText()}' is no group code; a whole number was expected");
+        throw Fail(
+            LoadDefectCode.BadGroupCode, $"'{Shortened(ValueText())}' is no group code; an integer was expected");
     }
 
     private (int Start, int Length) TakeLine()
@@ -295,7 +304,7 @@ internal sealed partial class DxfTagReader
         if (!BinaryTags.TryTake(_data, _binary, ref _position, out int code, out _start, out _length))
         {
             _position = _data.Length;
-            throw Fail("the file ends within a tag");
+            throw Fail(LoadDefectCode.EndsWithinTag, "the file ends within a tag");
         }
 
         Code = code;
@@ -308,9 +317,16 @@ internal sealed partial class DxfTagReader
         return text.Length > 0 && (text[0] <= ' ' || text[^1] <= ' ') ? text.Trim(" \t\0"u8) : text;
     }
 
-    private ImageLoadException NotANumber(string kind)
+    private ImageLoadException TooLarge(int bits)
     {
-        return Fail($"group code {Code} has the value '{Shortened(ValueText())}'; a {kind} was expected");
+        return Fail(
+            LoadDefectCode.OutOfRange,
+            $"group code {Code} has the value '{Shortened(ValueText())}'; an integer of {bits} bits was expected");
+    }
+
+    private ImageLoadException NotA(LoadDefectCode defect, string kind)
+    {
+        return Fail(defect, $"group code {Code} has the value '{Shortened(ValueText())}'; {kind} was expected");
     }
 
     private static string Shortened(string text) => text.Length > 60 ? text[..60] + "…" : text;

@@ -111,7 +111,7 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
         }
     }
 
-    /// <summary>Writes lines of any length: the first piece of each under code 1, the others under code 3.</summary>
+    /// <summary>Writes lines of any length: the first chunk of each under code 1, the others under code 3.</summary>
     internal void WriteChunks(IEnumerable<string> lines)
     {
         foreach (string line in lines)
@@ -127,7 +127,7 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
         }
     }
 
-    /// <summary>Writes a long text: full pieces under one code, the last under another.</summary>
+    /// <summary>Writes a long text: full chunks under one code, the last under another.</summary>
     internal void WriteLongText(int pieceCode, int lastCode, string text)
     {
         int start = 0;
@@ -141,16 +141,16 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
         Write(lastCode, text[start..]);
     }
 
-    /// <summary>Writes the tags of an object that nobody interprets and that stood behind a marker.</summary>
+    /// <summary>Writes the tags of an object that its class does not interpret and that followed a marker.</summary>
     internal void WriteKept(CadBaseObject source, string? subclass)
     {
-        if (source.Kept is null || HasWritten(subclass))
+        if (source.KeptTags is not { } kept || HasWritten(subclass))
         {
             return;
         }
 
         _keptFor.Add(subclass);
-        foreach (KeptTag tag in source.Kept)
+        foreach (KeptTag tag in kept.Tags)
         {
             if (tag.Subclass == subclass)
             {
@@ -162,7 +162,8 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
     /// <summary>Forgets which markers the object before had.</summary>
     internal void BeginObject() => _keptFor.Clear();
 
-    /// <summary>Tells whether the tags that nobody interprets have been written for a marker of this object.</summary>
+    /// <summary>Tells whether the tags that its class does not interpret have been written for a marker of this
+    /// object.</summary>
     internal bool HasWritten(string? subclass) => _keptFor.Contains(subclass);
 
     internal void Flush()
@@ -205,7 +206,7 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
         _used += _encoding.GetBytes(text, _buffer.AsSpan(_used));
     }
 
-    // A line break would end the value: control characters are a caret and a letter.
+    // A line break would end the value: control characters are written as a caret and a character.
     private static string Escaped(string text)
     {
         if (text.AsSpan().IndexOfAny('\r', '\n') < 0)

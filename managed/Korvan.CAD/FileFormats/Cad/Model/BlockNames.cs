@@ -1,5 +1,4 @@
 using System;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 

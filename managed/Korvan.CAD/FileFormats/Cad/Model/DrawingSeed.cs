@@ -1,4 +1,3 @@
-using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 

@@ -1,4 +1,3 @@
-using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;

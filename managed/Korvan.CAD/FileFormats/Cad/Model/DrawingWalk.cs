@@ -1,7 +1,6 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
@@ -25,9 +24,9 @@ internal static class DrawingWalk
     {
         foreach (string table in TableRecords.Names)
         {
-            if (drawing.TableHeads.TryGetValue(table, out CadTableHead? head))
+            if (drawing.TableHeaders.TryGetValue(table, out CadTableHeader? header))
             {
-                yield return head;
+                yield return header;
             }
 
             foreach (CadBaseObject record in TableRecords.Of(drawing, table))

@@ -1,47 +1,54 @@
 using System;
-using System.IO;
-using System.Text;
+using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
-/// <summary>Copies entities by what their codecs write and read, so that nothing lists properties a second
-/// time.</summary>
+/// <summary>Copies entities by the fields that they exchange, so that nothing lists properties a second time.</summary>
 internal static class EntityCopy
 {
-    private const int Release = 2018;
-
     // Groups that refer to other objects of the drawing by handle.
     private static readonly string[] Ties = ["ACAD_REACTORS", "ACAD_XDICTIONARY"];
 
     internal static CadEntityBase Of(CadEntityBase entity)
     {
-        using MemoryStream content = new();
-        DxfTagWriter writer = new(content, new UTF8Encoding(false), Release);
-        new DxfObjectWriter(writer).WriteEntity(entity);
-        writer.Flush();
-
-        DxfTagReader tags = new(content.ToArray(), entity.ToString()!) { Encoding = Encoding.UTF8 };
-        tags.Next();
-        CadEntityBase copy = new DxfObjectReader(tags).ReadEntity(New(entity));
-        Untie(copy);
+        CadEntityBase copy = Alone(entity);
         switch (copy)
         {
             case CadBlockEntity block:
                 ((CadBlockEntity)entity).Entities.ForEach(one => block.Entities.Add(Of(one)));
                 break;
             case CadPolylineBase polyline:
-                polyline.Vertices.ForEach(Untie);
-                Untie(polyline.Seqend);
+                CadPolylineBase source = (CadPolylineBase)entity;
+                source.Vertices.ForEach(vertex => polyline.Vertices.Add((CadVertexBase)Alone(vertex)));
+                polyline.Seqend = Alone(source.Seqend);
                 break;
             case CadInsertObject insert:
-                insert.Attributes.ForEach(Untie);
-                Untie(insert.Seqend);
+                CadInsertObject from = (CadInsertObject)entity;
+                from.Attributes.ForEach(attribute => insert.Attributes.Add((CadAttrib)Alone(attribute)));
+                insert.Seqend = Alone(from.Seqend);
                 break;
         }
 
+        return copy;
+    }
+
+    private static CadSeqend? Alone(CadSeqend? end) => end is null ? null : (CadSeqend)Alone((CadEntityBase)end);
+
+    private static CadEntityBase Alone(CadEntityBase entity)
+    {
+        MemoryExchange fields = new(entity.ToString()!);
+        entity.Exchange(fields);
+        CadEntityBase copy = New(entity);
+        fields.Rewind();
+        copy.Exchange(fields);
+        copy.Kept = entity.Kept?.Copy();
+        CopyXdata(entity, copy);
+        CopyGroups(entity, copy);
         return copy;
     }
 
@@ -49,13 +56,31 @@ internal static class EntityCopy
         entity is RawEntity raw ? new RawEntity(raw.DxfName)
             : (CadEntityBase)Activator.CreateInstance(entity.GetType(), true)!;
 
-    private static void Untie(CadEntityBase? copy)
+    private static void CopyXdata(CadEntityBase entity, CadEntityBase copy)
     {
-        if (copy is not null)
+        foreach (CadXdata data in entity.XdataOrNull?.XdataEntities ?? [])
         {
-            (copy.Handle, copy.Owner) = (0, 0);
-            copy.ApplicationCodesOrNull?.ApplicationCodes.RemoveAll(static group =>
-                Array.IndexOf(Ties, group.ApplicationName) >= 0);
+            CadXdata added = new(data.RegisteredApplicationName);
+            CopyTags(data.Data, added.Data);
+            copy.XdataContainer.XdataEntities.Add(added);
         }
+    }
+
+    private static void CopyGroups(CadEntityBase entity, CadEntityBase copy)
+    {
+        foreach (CadApplicationCodes group in entity.ApplicationCodesOrNull?.ApplicationCodes ?? [])
+        {
+            if (Array.IndexOf(Ties, group.ApplicationName) < 0)
+            {
+                CadApplicationCodes added = new(group.ApplicationName);
+                CopyTags(group.Codes, added.Codes);
+                copy.ApplicationCodesContainer.ApplicationCodes.Add(added);
+            }
+        }
+    }
+
+    private static void CopyTags(IList<CadCodeValue> from, IList<CadCodeValue> to)
+    {
+        from.ForEach(tag => to.Add(new CadCodeValue(tag.Attribute, tag.Value)));
     }
 }

@@ -1,7 +1,6 @@
 using System;
 using System.Globalization;
 using Korvan.CAD.Binding;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 

@@ -1,5 +1,4 @@
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 

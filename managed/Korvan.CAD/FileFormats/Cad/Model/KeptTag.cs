@@ -1,10 +1,9 @@
-using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
-/// <summary>A tag that is written back as it was read, behind the marker that it stood behind.</summary>
+/// <summary>A tag that is written back as it was read, after the subclass marker that it followed.</summary>
 internal readonly record struct KeptTag(string? Subclass, CadCodeValue Value)
 {
-    /// <summary>Stands for the marker of tags among which markers are kept as well.</summary>
+    /// <summary>The marker of tags that are kept together with the markers among them.</summary>
     internal const string Verbatim = "*";
 }

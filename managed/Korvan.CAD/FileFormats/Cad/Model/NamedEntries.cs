@@ -2,7 +2,6 @@ using System;
 using System.Collections;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
@@ -68,10 +67,10 @@ internal sealed class NamedEntries<T>(NamedObjects<T> items) : IDictionary
             throw new DataMissmatchError($"An object called '{keyed.Key}' cannot stand under the key '{key}'; rename it first.");
         }
 
-        int place = this[key] is T old ? items.Items.IndexOf(old) : -1;
-        if (place >= 0)
+        int index = this[key] is T old ? items.Items.IndexOf(old) : -1;
+        if (index >= 0)
         {
-            items[place] = value;
+            items[index] = value;
         }
         else
         {

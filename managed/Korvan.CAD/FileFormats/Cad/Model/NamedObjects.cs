@@ -3,7 +3,6 @@ using System.Collections;
 using System.Collections.Generic;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 

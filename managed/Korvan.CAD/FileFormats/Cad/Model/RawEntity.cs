@@ -1,15 +1,15 @@
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
-/// <summary>An entity whose own codes nobody interprets; what all entities have in common is.</summary>
+/// <summary>An entity of a type without a class: only the fields that all entities have are interpreted.</summary>
 internal sealed class RawEntity(string dxfName) : CadEntityBase
 {
     internal override string DxfName => dxfName;
 
-    internal override bool ReadCode(int code, DxfTagReader tags)
+    internal override bool ReadField(int code, FieldReader reader)
     {
-        return tags.Subclass is null or "AcDbEntity" && base.ReadCode(code, tags);
+        return reader.Subclass is null or "AcDbEntity" && base.ReadField(code, reader);
     }
 }

@@ -5,7 +5,6 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
 using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadTables;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
@@ -76,7 +75,7 @@ internal static class StandardDrawing
         drawing.BlockRecords.Add(new CadBlockTableObject { Name = drawing.PaperSpace.Name });
         foreach (string table in TableRecords.Names)
         {
-            drawing.TableHeads.Add(table, new CadTableHead { Name = table });
+            drawing.TableHeaders.Add(table, new CadTableHeader { Name = table });
         }
     }
 

@@ -1,6 +1,5 @@
 using System.Buffers;
 using Korvan.CAD.CadExceptions.ImageFormats;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
@@ -25,9 +24,9 @@ internal static class SymbolNames
         }
     }
 
-    private static string Shown(char letter) => IsControl(letter) ? $"the control character {(int)letter}"
-        : $"a '{letter}'";
+    private static string Shown(char character) => IsControl(character) ? $"the control character {(int)character}"
+        : $"a '{character}'";
 
-    // Those that end a line or stand for nothing; letters beyond ASCII are texts like others.
-    private static bool IsControl(char letter) => char.IsAscii(letter) && char.IsControl(letter);
+    // Those that end a line or stand for nothing; characters beyond ASCII are texts like others.
+    private static bool IsControl(char character) => char.IsAscii(character) && char.IsControl(character);
 }

@@ -1,6 +1,5 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadTables;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 

@@ -3,20 +3,20 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
 
-/// <summary>A colour of a metafile: a number in the colour table of the picture, or a colour by itself.</summary>
+/// <summary>A colour of a metafile: an index into the colour table of the picture, or a direct colour.</summary>
 public sealed class CgmColor : IEquatable<CgmColor>
 {
     private const int NoIndex = -1;
 
-    /// <summary>Creates the colour of a number.</summary>
-    /// <param name="index">The number in the colour table, not negative.</param>
+    /// <summary>Creates an indexed colour.</summary>
+    /// <param name="index">The index into the colour table, not negative.</param>
     public CgmColor(int index)
     {
         Verify.NotNegative(index);
         Index = index;
     }
 
-    /// <summary>Creates a colour that stands for itself.</summary>
+    /// <summary>Creates a direct colour.</summary>
     /// <param name="color">The colour.</param>
     public CgmColor(Color color)
     {
@@ -24,19 +24,20 @@ public sealed class CgmColor : IEquatable<CgmColor>
         Color = color;
     }
 
-    /// <summary>Gets the number in the colour table, or -1 for a colour that stands for itself.</summary>
+    /// <summary>Gets the index into the colour table, or -1 for a direct colour.</summary>
     public int Index { get; }
 
-    /// <summary>Gets the colour that stands for itself; empty for one of the table.</summary>
+    /// <summary>Gets the direct colour; empty for an indexed one.</summary>
     public Color Color { get; }
 
-    /// <summary>Gets whether the colour is one of the table.</summary>
+    /// <summary>Gets whether the colour is an index into the colour table.</summary>
     public bool IsIndexed => Index != NoIndex;
 
-    /// <summary>Tells whether both colours are said in the same way.</summary>
+    /// <summary>Returns whether both colours are the same index or the same direct colour.</summary>
     /// <param name="other">The colour to compare with.</param>
-    /// <returns>Whether both colours are said in the same way.</returns>
-    public bool Equals(CgmColor? other) => other is not null && Index == other.Index && Color.ToArgb() == other.Color.ToArgb();
+    /// <returns>Whether both colours are the same index or the same direct colour.</returns>
+    public bool Equals(CgmColor? other) =>
+        other is not null && Index == other.Index && Color.ToArgb() == other.Color.ToArgb();
 
     /// <inheritdoc/>
     public override bool Equals(object? obj) => Equals(obj as CgmColor);

@@ -2,7 +2,7 @@ using System;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
 
-/// <summary>A point in the coordinates of a picture (VDC).</summary>
+/// <summary>A point in virtual device coordinates (VDC).</summary>
 public sealed class CgmPoint : IEquatable<CgmPoint>
 {
     /// <summary>Creates the point at the origin.</summary>
@@ -19,15 +19,15 @@ public sealed class CgmPoint : IEquatable<CgmPoint>
         Y = y;
     }
 
-    /// <summary>Gets the abscissa.</summary>
+    /// <summary>Gets the X coordinate.</summary>
     public double X { get; }
 
-    /// <summary>Gets the ordinate.</summary>
+    /// <summary>Gets the Y coordinate.</summary>
     public double Y { get; }
 
-    /// <summary>Tells whether both points lie at the same place.</summary>
+    /// <summary>Returns whether both points have the same coordinates.</summary>
     /// <param name="other">The point to compare with.</param>
-    /// <returns>Whether both points lie at the same place.</returns>
+    /// <returns>Whether both points have the same coordinates.</returns>
     public bool Equals(CgmPoint? other) => other is not null && X == other.X && Y == other.Y;
 
     /// <inheritdoc/>

@@ -4,7 +4,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
 
-/// <summary>Compares points up to a distance that does not count.</summary>
+/// <summary>Compares points with a tolerance.</summary>
 public sealed class CgmPointComparer
 {
     /// <summary>Creates a comparer for which only equal coordinates are equal.</summary>
@@ -20,10 +20,10 @@ public sealed class CgmPointComparer
         Tolerance = tolerance;
     }
 
-    /// <summary>Gets the largest difference of coordinates that counts as none.</summary>
+    /// <summary>Gets the largest difference of coordinates that is ignored.</summary>
     public double Tolerance { get; }
 
-    /// <summary>Orders points by their abscissas, those of the same one by their ordinates.</summary>
+    /// <summary>Orders points by X, those of the same X by Y.</summary>
     /// <param name="first">A point.</param>
     /// <param name="second">Another point.</param>
     /// <returns>-1, 0 or 1, as the first comes before the second, is the same or comes behind it.</returns>
@@ -35,10 +35,10 @@ public sealed class CgmPointComparer
         return byX != 0 ? byX : Order(first.Y - second.Y);
     }
 
-    /// <summary>Tells whether two points lie at the same place.</summary>
+    /// <summary>Returns whether two points are equal within the tolerance.</summary>
     /// <param name="first">A point.</param>
     /// <param name="second">Another point.</param>
-    /// <returns>Whether two points lie at the same place.</returns>
+    /// <returns>Whether two points are equal within the tolerance.</returns>
     public bool AreEqual(CgmPoint first, CgmPoint second) => Compare(first, second) == 0;
 
     private int Order(double difference) => Math.Abs(difference) <= Tolerance ? 0 : Math.Sign(difference);

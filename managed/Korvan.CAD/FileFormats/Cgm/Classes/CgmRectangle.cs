@@ -2,8 +2,8 @@ using System;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
 
-/// <summary>A rectangle in the coordinates of a picture, by two opposite corners. Where the first is not the lower left
-/// one, the axes of the picture run the other way.</summary>
+/// <summary>A rectangle in VDC, given by two opposite corners. Where the first is not the lower left one, the axes of
+/// the picture are mirrored.</summary>
 public struct CgmRectangle : IEquatable<CgmRectangle>
 {
     /// <summary>Creates a rectangle.</summary>
@@ -19,22 +19,22 @@ public struct CgmRectangle : IEquatable<CgmRectangle>
         Y2 = y2;
     }
 
-    /// <summary>Gets or sets the abscissa of the first corner.</summary>
+    /// <summary>Gets or sets X of the first corner.</summary>
     public double X1 { get; set; }
 
-    /// <summary>Gets or sets the ordinate of the first corner.</summary>
+    /// <summary>Gets or sets Y of the first corner.</summary>
     public double Y1 { get; set; }
 
-    /// <summary>Gets or sets the abscissa of the second corner.</summary>
+    /// <summary>Gets or sets X of the second corner.</summary>
     public double X2 { get; set; }
 
-    /// <summary>Gets or sets the ordinate of the second corner.</summary>
+    /// <summary>Gets or sets Y of the second corner.</summary>
     public double Y2 { get; set; }
 
-    /// <summary>Gets the length of the sides along X, not negative.</summary>
+    /// <summary>Gets the width, not negative.</summary>
     public readonly double Width => Math.Abs(X2 - X1);
 
-    /// <summary>Gets the length of the sides along Y, not negative.</summary>
+    /// <summary>Gets the height, not negative.</summary>
     public readonly double Height => Math.Abs(Y2 - Y1);
 
     /// <summary>Compares two rectangles corner by corner.</summary>
@@ -43,10 +43,11 @@ public struct CgmRectangle : IEquatable<CgmRectangle>
     /// <summary>Compares two rectangles corner by corner.</summary>
     public static bool operator !=(CgmRectangle left, CgmRectangle right) => !left.Equals(right);
 
-    /// <summary>Tells whether both corners are the same.</summary>
+    /// <summary>Returns whether both corners are the same.</summary>
     /// <param name="other">The rectangle to compare with.</param>
     /// <returns>Whether both corners are the same.</returns>
-    public readonly bool Equals(CgmRectangle other) => X1 == other.X1 && Y1 == other.Y1 && X2 == other.X2 && Y2 == other.Y2;
+    public readonly bool Equals(CgmRectangle other) =>
+        X1 == other.X1 && Y1 == other.Y1 && X2 == other.X2 && Y2 == other.Y2;
 
     /// <inheritdoc/>
     public override readonly bool Equals(object? obj) => obj is CgmRectangle other && Equals(other);

@@ -3,38 +3,38 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
 
-/// <summary>Values that tell their own types (ISO/IEC 8632-1, annex C).</summary>
+/// <summary>A structured data record: values with their types (ISO/IEC 8632-1, annex C).</summary>
 public sealed class StructuredDataRecord
 {
-    /// <summary>The types of values, by their numbers in files.</summary>
+    /// <summary>The data types of values, by their indexes in files.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum StructuredDataType
     {
-        /// <summary>A record inside this one.</summary>
+        /// <summary>A nested record.</summary>
         StructuredData = 1,
 
-        /// <summary>The number of a colour.</summary>
+        /// <summary>A colour index.</summary>
         ColorIndex = 2,
 
-        /// <summary>A colour by its components.</summary>
+        /// <summary>A direct colour.</summary>
         DirectColor = 3,
 
-        /// <summary>A name, which is a number.</summary>
+        /// <summary>A name, which is an integer.</summary>
         Name = 4,
 
-        /// <summary>One of a few values.</summary>
+        /// <summary>An enumerated value.</summary>
         Enumeration = 5,
 
-        /// <summary>A whole number.</summary>
+        /// <summary>An integer.</summary>
         Integer = 6,
 
-        /// <summary>A whole number of 8 bits.</summary>
+        /// <summary>A signed 8-bit integer.</summary>
         Integer8 = 8,
 
-        /// <summary>A whole number of 16 bits.</summary>
+        /// <summary>A signed 16-bit integer.</summary>
         Integer16 = 9,
 
-        /// <summary>A whole number of 32 bits.</summary>
+        /// <summary>A signed 32-bit integer.</summary>
         Integer32 = 10,
 
         /// <summary>An index.</summary>
@@ -43,41 +43,41 @@ public sealed class StructuredDataRecord
         /// <summary>A real number.</summary>
         Real = 12,
 
-        /// <summary>A text.</summary>
+        /// <summary>A string.</summary>
         Text = 13,
 
-        /// <summary>A text whose character set never changes.</summary>
+        /// <summary>A string without character set switches.</summary>
         FixedText = 14,
 
-        /// <summary>A coordinate of the device.</summary>
+        /// <summary>A viewport coordinate.</summary>
         ViewportCoordinate = 15,
 
-        /// <summary>A coordinate.</summary>
+        /// <summary>A virtual device coordinate.</summary>
         Coordinate = 16,
 
-        /// <summary>A component of a colour.</summary>
+        /// <summary>A colour component.</summary>
         ColorComponent = 17,
 
-        /// <summary>A number of 8 bits without sign.</summary>
+        /// <summary>An unsigned 8-bit integer.</summary>
         Unsigned8 = 18,
 
-        /// <summary>A number of 32 bits without sign.</summary>
+        /// <summary>An unsigned 32-bit integer.</summary>
         Unsigned32 = 19,
 
         /// <summary>Bits, in groups of 16.</summary>
         Bits = 20,
 
-        /// <summary>Colours of cells.</summary>
+        /// <summary>A list of cell colours.</summary>
         ColorList = 21,
 
-        /// <summary>A number of 16 bits without sign.</summary>
+        /// <summary>An unsigned 16-bit integer.</summary>
         Unsigned16 = 22,
     }
 
     /// <summary>Gets the members in their order.</summary>
     public List<Member> Members { get; } = [];
 
-    /// <summary>Some values of one type.</summary>
+    /// <summary>Values of one data type.</summary>
     public sealed class Member
     {
         /// <summary>Creates a member.</summary>
@@ -89,7 +89,7 @@ public sealed class StructuredDataRecord
             Values = [.. values];
         }
 
-        /// <summary>Gets the type of the values.</summary>
+        /// <summary>Gets the data type of the values.</summary>
         public StructuredDataType Type { get; }
 
         /// <summary>Gets the values.</summary>

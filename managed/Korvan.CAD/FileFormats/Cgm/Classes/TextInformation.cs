@@ -2,7 +2,7 @@ using System;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
 
-/// <summary>A text of a picture, put together from the pieces it was written in, with what it looks like.</summary>
+/// <summary>A text of a picture, joined from its strings, with its position, height and font.</summary>
 public sealed class TextInformation
 {
     internal TextInformation(string text, CgmPoint position, double height, double angle, string fontName)
@@ -17,16 +17,16 @@ public sealed class TextInformation
     /// <summary>Gets the text.</summary>
     public string Text { get; }
 
-    /// <summary>Gets the point that the text is aligned to.</summary>
+    /// <summary>Gets the position that the text is aligned to.</summary>
     public CgmPoint Position { get; }
 
-    /// <summary>Gets the height of capital letters in units of the coordinates.</summary>
+    /// <summary>Gets the character height, from the base line to the cap line, in VDC.</summary>
     public double Height { get; }
 
-    /// <summary>Gets the direction of the base line in degrees, counterclockwise from the X axis.</summary>
+    /// <summary>Gets the angle of the base line in degrees, counterclockwise from the X axis.</summary>
     public double Angle { get; }
 
-    /// <summary>Gets the name of the font in the file; empty when the file names none.</summary>
+    /// <summary>Gets the font name in the file; empty when the file names none.</summary>
     public string FontName { get; }
 
     /// <inheritdoc/>

@@ -2,8 +2,8 @@ using System;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
 
-/// <summary>A coordinate on the surface of a device: a part of its side, millimetres with a factor, or units of the
-/// device, as <see cref="Commands.DeviceViewportSpecificationMode"/> says.</summary>
+/// <summary>A viewport coordinate: a fraction of the drawing surface, millimetres multiplied by a factor, or physical
+/// device coordinates, as <see cref="Commands.DeviceViewportSpecificationMode"/> says.</summary>
 public sealed class VC
 {
     /// <summary>Creates the coordinate 0.</summary>
@@ -18,7 +18,7 @@ public sealed class VC
         Value = value;
     }
 
-    /// <summary>Gets the number; whole unless it is a part of the side.</summary>
+    /// <summary>Gets the coordinate; whole unless it is a fraction.</summary>
     public double Value { get; }
 
     /// <inheritdoc/>

@@ -3,7 +3,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Classes;
 
-/// <summary>A point on the surface of a device.</summary>
+/// <summary>A point in viewport coordinates.</summary>
 public sealed class ViewportPoint
 {
     /// <summary>Creates the point at the lower left corner of the surface.</summary>
@@ -23,10 +23,10 @@ public sealed class ViewportPoint
         Second = second;
     }
 
-    /// <summary>Gets the abscissa.</summary>
+    /// <summary>Gets the X coordinate.</summary>
     public VC First { get; }
 
-    /// <summary>Gets the ordinate.</summary>
+    /// <summary>Gets the Y coordinate.</summary>
     public VC Second { get; }
 
     /// <inheritdoc/>

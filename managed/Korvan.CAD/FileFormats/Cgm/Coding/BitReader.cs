@@ -1,8 +1,9 @@
 using System;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
 
-/// <summary>Gives numbers of any count of bits, the highest first.</summary>
+/// <summary>Reads integers of any count of bits, the most significant first.</summary>
 internal ref struct BitReader(ReadOnlySpan<byte> data)
 {
     private readonly ReadOnlySpan<byte> _data = data;
@@ -31,7 +32,7 @@ internal ref struct BitReader(ReadOnlySpan<byte> data)
 
     internal int ReadSigned(int bits) => (int)(ReadUnsigned(bits) << (32 - bits)) >> (32 - bits);
 
-    /// <summary>Goes on at the next even byte, counted with a skew of 1 where the data begin at an odd one.</summary>
+    /// <summary>Skips to the next even byte, counted with a skew of 1 where the data start at an odd one.</summary>
     internal void AlignToWord(int skew)
     {
         const int Word = 16;

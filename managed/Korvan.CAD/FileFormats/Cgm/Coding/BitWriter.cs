@@ -3,7 +3,7 @@ using System.Buffers;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
 
-/// <summary>Takes numbers of any count of bits, the highest first.</summary>
+/// <summary>Writes integers of any count of bits, the most significant first.</summary>
 internal sealed class BitWriter
 {
     private readonly ArrayBufferWriter<byte> _bytes = new();
@@ -26,7 +26,7 @@ internal sealed class BitWriter
         }
     }
 
-    /// <summary>Writes a byte where no byte is begun.</summary>
+    /// <summary>Writes a byte at a byte boundary.</summary>
     internal void WriteByte(byte value)
     {
         _bytes.GetSpan(1)[0] = value;

@@ -1,22 +1,25 @@
 using System;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
 
 /// <summary>
-/// Unpacks the colours of cells. Lines begin at even bytes; in a packed line cell follows cell bit by bit, in the other
-/// form each run is a count, an integer, and one colour (ISO/IEC 8632-3, cell array).
+/// Decodes the colours of cells. Rows start at even bytes; in packed mode cell follows cell bit by bit, in run-length
+/// mode each run is a count, an integer, and one colour (ISO/IEC 8632-3, cell array).
 /// </summary>
 internal sealed class CellDecoder(CodingState state, CellFormat format)
 {
     private readonly ColorCoding _colors = new(state, format);
 
-    // What each byte stands for in each part of a colour; for RGB of 8 bits, which most cells are.
-    private readonly int[]? _bytes = format is { Bits: 8, Components: 3 } && state.ColorModel == Commands.ColourModel.Model.Rgb
-        ? ByteTable(new ColorCoding(state, format)) : null;
+    // The intensity of each component byte, for 8-bit RGB, which most cells are.
+    private readonly int[]? _bytes =
+        format is { Bits: 8, Components: 3 } && state.ColorModel == ColourModel.Model.Rgb
+            ? ByteTable(new ColorCoding(state, format))
+            : null;
 
     /// <param name="data">The bytes of the cells.</param>
     /// <param name="skew">1 if they begin at an odd byte of the element.</param>
-    /// <param name="isPacked">Whether there are no runs.</param>
+    /// <param name="isPacked">Whether the mode is packed, not run-length.</param>
     internal int[] Decode(ReadOnlySpan<byte> data, int skew, bool isPacked)
     {
         if (isPacked)
@@ -24,13 +27,13 @@ internal sealed class CellDecoder(CodingState state, CellFormat format)
             return DecodePacked(data, skew);
         }
 
-        // Each line has one run at least, and a run may be as long as the line: what is announced is little bounded by
-        // what is there, so all such cells of a metafile together have a limit.
+        // Each row has one run at least, and a run may be as long as the row: a few bytes can announce many cells, so
+        // all such cells of a metafile together have a limit.
         Verify(data.Length, format.Height * ((state.IntegerBits + (long)format.BitsPerCell + 7) / 8));
         state.RunCellsLeft -= format.Count;
         if (state.RunCellsLeft < 0)
         {
-            throw new CgmDataException($"the cells in runs of all elements are more than {CodingState.MostRunCells}");
+            throw new CgmDataException($"the cells in runs of all elements are more than {CodingState.MaxRunCells}");
         }
 
         return DecodeRuns(data, skew);
@@ -52,7 +55,8 @@ internal sealed class CellDecoder(CodingState state, CellFormat format)
         if (there < needed)
         {
             throw new CgmDataException(
-                $"{format.Width} by {format.Height} cells of {format.BitsPerCell} bits take {needed} bytes at least, but {there} are there");
+                $"{format.Width} by {format.Height} cells of {format.BitsPerCell} bits take {needed} bytes at least, "
+                + $"but {there} are there");
         }
     }
 
@@ -60,7 +64,8 @@ internal sealed class CellDecoder(CodingState state, CellFormat format)
     {
         long second = NextLine(0, skew);
         long stride = NextLine(second, skew) - second;
-        Verify(data.Length, format.Height == 1 ? format.BytesPerLine : second + ((format.Height - 2) * stride) + format.BytesPerLine);
+        long last = format.Height == 1 ? 0 : second + ((format.Height - 2) * stride);
+        Verify(data.Length, last + format.BytesPerLine);
         int[] cells = new int[format.Count];
         long start = 0;
         for (int y = 0; y < format.Height; y++, start = NextLine(start, skew))
@@ -86,7 +91,9 @@ internal sealed class CellDecoder(CodingState state, CellFormat format)
         {
             for (int x = 0, at = 0; x < cells.Length; x++, at += 3)
             {
-                cells[x] = (0xFF << 24) | (table[line[at]] & 0xFF0000) | (table[line[at + 1]] & 0xFF00) | (table[line[at + 2]] & 0xFF);
+                int red = table[line[at]] & 0xFF0000;
+                int green = table[line[at + 1]] & 0xFF00;
+                cells[x] = (0xFF << 24) | red | green | (table[line[at + 2]] & 0xFF);
             }
         }
         else
@@ -116,7 +123,8 @@ internal sealed class CellDecoder(CodingState state, CellFormat format)
                 long count = bits.ReadSigned(state.IntegerBits);
                 if (count < 1 || count > line.Length)
                 {
-                    throw new CgmDataException($"a run of {count} cells is in line {y}, where {line.Length} of {format.Width} are open");
+                    throw new CgmDataException(
+                        $"a run of {count} cells is in row {y}, where {line.Length} of {format.Width} are left");
                 }
 
                 line[..(int)count].Fill(ReadColor(ref bits));
@@ -132,7 +140,9 @@ internal sealed class CellDecoder(CodingState state, CellFormat format)
         if (format.IsIndexed)
         {
             uint index = bits.ReadUnsigned(format.Bits);
-            return index <= int.MaxValue ? (int)index : throw new CgmDataException($"{index} is too large for the number of a colour");
+            return index <= int.MaxValue
+                ? (int)index
+                : throw new CgmDataException($"{index} is too large for a colour index");
         }
 
         Span<long> parts = stackalloc long[format.Components];

@@ -3,7 +3,7 @@ using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
 
-/// <summary>Packs the colours of cells as <see cref="CellDecoder"/> unpacks them.</summary>
+/// <summary>Encodes the colours of cells as <see cref="CellDecoder"/> decodes them.</summary>
 internal sealed class CellEncoder
 {
     private readonly CellFormat _format;
@@ -23,21 +23,22 @@ internal sealed class CellEncoder
         (_format, _cells, _integerBits) = (format, cells, state.IntegerBits);
         _longestRun = (int)Math.Min(NumberRange.Signed(_integerBits).Highest, format.Width);
         _colors = new ColorCoding(state, format);
-        _isPlain = format is { Bits: 8, Components: 3 } && state.ColorModel == ColourModel.Model.Rgb && HasPlainExtent(state, format);
+        _isPlain = format is { Bits: 8, Components: 3 } && state.ColorModel == ColourModel.Model.Rgb
+            && (format.IsLocal || HasDefaultExtent(state));
     }
 
-    /// <summary>Gets whether runs are worth it: few programs read other cells than packed ones.</summary>
+    /// <summary>Gets whether run-length mode is much shorter: few programs read other cells than packed ones.</summary>
     internal bool IsShorterInRuns
     {
         get
         {
-            const int worth = 8;
+            const int MinRatio = 8;
             long bits = ((_integerBits + _format.BitsPerCell) * CountRuns()) + (_format.Height * 8L);
-            return bits * worth < _format.BytesPerLine * 8 * _format.Height;
+            return bits * MinRatio < _format.BytesPerLine * 8 * _format.Height;
         }
     }
 
-    /// <param name="isPacked">Whether there shall be no runs.</param>
+    /// <param name="isPacked">Whether to use packed mode, not run-length mode.</param>
     /// <param name="skew">1 if the cells begin at an odd byte of the element.</param>
     internal byte[] Encode(bool isPacked, int skew)
     {
@@ -63,11 +64,8 @@ internal sealed class CellEncoder
         return bits.ToArray();
     }
 
-    private static bool HasPlainExtent(CodingState state, CellFormat format)
-    {
-        bool isUsual = state.ColorLow.AsSpan(0, 3).IndexOfAnyExcept(0) < 0 && state.ColorHigh.AsSpan(0, 3).IndexOfAnyExcept(255) < 0;
-        return format.IsLocal || isUsual;
-    }
+    private static bool HasDefaultExtent(CodingState state) =>
+        state.ColorLow.AsSpan(0, 3).IndexOfAnyExcept(0) < 0 && state.ColorHigh.AsSpan(0, 3).IndexOfAnyExcept(255) < 0;
 
     private long CountRuns()
     {

@@ -51,7 +51,8 @@ internal static class CieColor
 
     private static double Cube(double root) => root > Bend ? root * root * root : ((116 * root) - 16) / Kappa;
 
-    private static double Root(double value) => value > Bend * Bend * Bend ? Math.Cbrt(value) : ((Kappa * value) + 16) / 116;
+    private static double Root(double value) =>
+        value > Bend * Bend * Bend ? Math.Cbrt(value) : ((Kappa * value) + 16) / 116;
 
     private static int FromXyz(double x, double y, double z) => ColorCoding.Pack(
         Encode((3.2404542 * x) - (1.5371385 * y) - (0.4985314 * z)),

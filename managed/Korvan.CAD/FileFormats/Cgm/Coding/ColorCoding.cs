@@ -6,17 +6,17 @@ using Korvan.CAD.FileFormats.Cgm.Commands;
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
 
 /// <summary>
-/// Leads from the components of a file to sRGB and back. Components of RGB and CMYK run from the lowest to the highest
-/// value of the metafile; those of the CIE models and of related RGB are multiplied and moved (ISO/IEC 8632-1, colour
-/// value extent). CIE colours are relative to the white of daylight, D65.
+/// Converts the components of direct colours to sRGB and back. Components of RGB and CMYK range from the minimum to the
+/// maximum of the colour value extent; those of the other models are scaled and offset (ISO/IEC 8632-1, colour value
+/// extent). CIE colours are relative to the white point D65.
 /// </summary>
 internal sealed class ColorCoding
 {
-    private const int MostComponents = 4;
+    private const int MaxComponents = 4;
 
     private readonly ColourModel.Model _model;
-    private readonly double[] _factors = new double[MostComponents];
-    private readonly double[] _offsets = new double[MostComponents];
+    private readonly double[] _factors = new double[MaxComponents];
+    private readonly double[] _offsets = new double[MaxComponents];
 
     internal ColorCoding(CodingState state)
     {
@@ -32,24 +32,24 @@ internal sealed class ColorCoding
         }
     }
 
-    /// <summary>Creates the coding of cells: a precision of their own is used in its whole range.</summary>
+    /// <summary>Creates the coding of cells: a local precision is used in its full range.</summary>
     internal ColorCoding(CodingState state, CellFormat format)
         : this(state)
     {
         if (format.IsLocal && HasExtent)
         {
-            double[] highest = new double[MostComponents];
+            double[] highest = new double[MaxComponents];
             Array.Fill(highest, Math.Pow(2, format.Bits) - 1);
-            UseExtent(new double[MostComponents], highest);
+            UseExtent(new double[MaxComponents], highest);
         }
     }
 
     private bool HasExtent => _model is ColourModel.Model.Rgb or ColourModel.Model.Cmyk;
 
-    /// <summary>Gives an opaque colour, 0xFFRRGGBB.</summary>
+    /// <summary>Returns an opaque colour, 0xFFRRGGBB.</summary>
     internal int ToArgb(ReadOnlySpan<long> components)
     {
-        Span<double> parts = stackalloc double[MostComponents];
+        Span<double> parts = stackalloc double[MaxComponents];
         for (int i = 0; i < components.Length; i++)
         {
             parts[i] = (components[i] * _factors[i]) + _offsets[i];
@@ -57,17 +57,17 @@ internal sealed class ColorCoding
 
         return _model switch
         {
-            ColourModel.Model.Cmyk => Pack((1 - parts[0]) * (1 - parts[3]), (1 - parts[1]) * (1 - parts[3]), (1 - parts[2]) * (1 - parts[3])),
+            ColourModel.Model.Cmyk => FromCmyk(parts[0], parts[1], parts[2], parts[3]),
             ColourModel.Model.CieLab => CieColor.FromLab(parts[0], parts[1], parts[2]),
             ColourModel.Model.CieLuv => CieColor.FromLuv(parts[0], parts[1], parts[2]),
             _ => Pack(parts[0], parts[1], parts[2]),
         };
     }
 
-    /// <summary>Gives the components of a colour, as many as the model has.</summary>
+    /// <summary>Computes the components of a colour, as many as the model has.</summary>
     internal void FromArgb(int argb, Span<long> components)
     {
-        Span<double> parts = stackalloc double[MostComponents];
+        Span<double> parts = stackalloc double[MaxComponents];
         (double red, double green, double blue) = (Part(argb >> 16), Part(argb >> 8), Part(argb));
         (parts[0], parts[1], parts[2], parts[3]) = _model switch
         {
@@ -82,25 +82,30 @@ internal sealed class ColorCoding
         }
     }
 
-    /// <summary>Gives the components of a colour of a command.</summary>
-    /// <exception cref="CgmDataException">It is one of the table, or translucent.</exception>
+    /// <summary>Computes the components of a colour of a command.</summary>
+    /// <exception cref="CgmDataException">It is indexed or translucent.</exception>
     internal void FromColor(CgmColor color, Span<long> components)
     {
         Verify.NotNull(color);
         if (color.IsIndexed)
         {
-            throw new CgmDataException($"{color} is one of the table, but the colours here are direct (COLRMODE)");
+            throw new CgmDataException($"{color} is indexed, but the colour selection mode (COLRMODE) is direct");
         }
 
         if (color.Color.A != byte.MaxValue)
         {
-            throw new CgmDataException($"the colour {color.Color.Name} is translucent; metafiles have opaque ones alone");
+            throw new CgmDataException(
+                $"the colour {color.Color.Name} is translucent, but metafiles have opaque colours only");
         }
 
         FromArgb(color.Color.ToArgb(), components);
     }
 
-    internal static int Pack(double red, double green, double blue) => (0xFF << 24) | (Byte(red) << 16) | (Byte(green) << 8) | Byte(blue);
+    internal static int Pack(double red, double green, double blue) =>
+        (0xFF << 24) | (Byte(red) << 16) | (Byte(green) << 8) | Byte(blue);
+
+    private static int FromCmyk(double cyan, double magenta, double yellow, double black) =>
+        Pack((1 - cyan) * (1 - black), (1 - magenta) * (1 - black), (1 - yellow) * (1 - black));
 
     private static double Part(int value) => (value & 0xFF) / 255.0;
 
@@ -114,7 +119,7 @@ internal sealed class ColorCoding
 
     private void UseExtent(double[] low, double[] high)
     {
-        for (int i = 0; i < MostComponents; i++)
+        for (int i = 0; i < MaxComponents; i++)
         {
             (double first, double last) = (i < low.Length ? low[i] : 0, i < high.Length ? high[i] : 255);
             _factors[i] = first == last ? 0 : 1 / (last - first);

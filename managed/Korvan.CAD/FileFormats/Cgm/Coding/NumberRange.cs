@@ -1,9 +1,10 @@
 using System;
 using System.Globalization;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
 
-/// <summary>The ranges of numbers by their bits: what lies outside is refused, never cut.</summary>
+/// <summary>The ranges of integers by their bits: numbers outside raise errors, they are never truncated.</summary>
 internal static class NumberRange
 {
     internal static (long Lowest, long Highest) Signed(int bits) => (-(1L << (bits - 1)), (1L << (bits - 1)) - 1);
@@ -14,19 +15,21 @@ internal static class NumberRange
     {
         if (value < range.Lowest || value > range.Highest)
         {
-            throw new CgmDataException($"the number {value} does not fit into {bits} bits, which hold {range.Lowest} to {range.Highest}");
+            throw new CgmDataException(
+                $"the number {value} does not fit into {bits} bits, which hold {range.Lowest} to {range.Highest}");
         }
     }
 
-    /// <summary>Gives a coordinate as the whole number that it is.</summary>
+    /// <summary>Returns a whole coordinate as an integer.</summary>
     internal static int Whole(double value)
     {
         return value == Math.Floor(value) && value is >= int.MinValue and <= int.MaxValue
             ? (int)value
             : throw new CgmDataException(string.Create(
-                CultureInfo.InvariantCulture, $"the coordinate {value} is not whole or too large, while VDCTYPE says INTEGER"));
+                CultureInfo.InvariantCulture,
+                $"the coordinate {value} is not whole or too large, but the VDC type is INTEGER"));
     }
 
     internal static double Finite(double value) =>
-        double.IsFinite(value) ? value : throw new CgmDataException("a real number is infinite or no number");
+        double.IsFinite(value) ? value : throw new CgmDataException("a real number is infinite or not a number");
 }

@@ -1,16 +1,15 @@
 using System;
-using System.Globalization;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Coding;
 
-/// <summary>How the codings of real numbers are told: in binary files by a form and two counts of bits, in clear text by
+/// <summary>How real number precisions are stated: in binary files by a form and two counts of bits, in clear text by
 /// the smallest number, the largest one and the count of digits.</summary>
 internal static class RealForms
 {
     private const int FloatingForm = 0, FixedForm = 1;
     private const int SingleDigits = 7;
-    private const double LargestSingle = 3.5e38;
+    private const double MaxSingle = 3.5e38;
 
     private static readonly Entry[] Table =
     [
@@ -26,18 +25,18 @@ internal static class RealForms
         return found?.Precision;
     }
 
-    /// <summary>Finds a coding that holds the numbers of a clear text file.</summary>
+    /// <summary>Finds a precision that holds the numbers of a clear text file.</summary>
     internal static Precision Find(double smallest, double largest, int digits)
     {
         Entry? found = Array.Find(Table, one => (one.Smallest, one.Largest, one.Digits) == (smallest, largest, digits));
-        bool isSingle = digits <= SingleDigits && Math.Max(-smallest, largest) <= LargestSingle;
+        bool isSingle = digits <= SingleDigits && Math.Max(-smallest, largest) <= MaxSingle;
         return found?.Precision ?? (isSingle ? Precision.Floating32 : Precision.Floating64);
     }
 
     internal static Entry Of(Precision precision)
     {
         return Array.Find(Table, one => one.Precision == precision)
-            ?? throw new CgmDataException(string.Create(CultureInfo.InvariantCulture, $"there is no precision {precision}"));
+            ?? throw new CgmDataException($"there is no precision {(int)precision} of real numbers");
     }
 
     internal sealed record Entry(

@@ -1,12 +1,11 @@
 using System;
 using Korvan.CAD.Binding;
-using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>One element of a metafile with its parameters. The meaning of each is told by ISO/IEC 8632-1.</summary>
+/// <summary>One element of a metafile with its parameters. ISO/IEC 8632-1 defines the meaning of each.</summary>
 [PythonMostDerived]
 public abstract class Command
 {
@@ -30,52 +29,58 @@ public abstract class Command
     /// <summary>Gets the number of the element in its class.</summary>
     public int ElementId { get; }
 
-    /// <summary>Gets the word that stands for the element in clear text; empty for an element that no standard
-    /// names.</summary>
+    /// <summary>Gets the keyword of the element in clear text; empty for an element that the standard does not
+    /// define.</summary>
     public string Keyword => ElementTables.Keyword(ElementClass, ElementId);
 
     /// <summary>Reads the parameters.</summary>
-    /// <param name="reader">What stands at the first parameter of this element.</param>
+    /// <param name="reader">The reader, at the first parameter of this element.</param>
     public void ReadFromBinary(IBinaryReader reader)
     {
         Verify.NotNull(reader);
-        Exchange(BinaryReading.Of(reader));
+        Exchange(ExchangeOf(reader, nameof(reader)));
     }
 
     /// <summary>Writes the parameters.</summary>
-    /// <param name="writer">What takes the parameters of this element.</param>
+    /// <param name="writer">The writer, at the first parameter of this element.</param>
     public void WriteAsBinary(IBinaryWriter writer)
     {
         Verify.NotNull(writer);
-        Exchange(BinaryWriting.Of(writer));
+        Exchange(ExchangeOf(writer, nameof(writer)));
     }
 
-    /// <summary>Writes the word of the element, its parameters and the semicolon.</summary>
-    /// <param name="writer">What takes the words.</param>
-    /// <exception cref="InvalidOperationException">Clear text has no word for the element.</exception>
+    /// <summary>Writes the keyword of the element, its parameters and the terminator.</summary>
+    /// <param name="writer">The writer.</param>
+    /// <exception cref="InvalidOperationException">The element has no keyword in clear text.</exception>
     public void WriteAsClearText(IClearTextWriter writer)
     {
         Verify.NotNull(writer);
         if (Keyword.Length == 0)
         {
-            throw new InvalidOperationException($"Clear text has no word for the element {(int)ElementClass}, {ElementId}.");
+            throw new InvalidOperationException(
+                $"The element {(int)ElementClass}, {ElementId} has no keyword in clear text.");
         }
 
         writer.BeginElement(Keyword);
-        Exchange(ClearTextWriting.Of(writer));
+        Exchange(ExchangeOf(writer, nameof(writer)));
         writer.EndElement();
     }
 
     /// <inheritdoc/>
     public override string ToString() => $"{Keyword} ({(int)ElementClass}, {ElementId})";
 
-    /// <summary>Names the parameters in their order.</summary>
+    /// <summary>Reads or writes the parameters in their order.</summary>
     internal virtual void Exchange(ParameterExchange x)
     {
     }
 
-    /// <summary>Takes note of what this command says of how later ones are coded.</summary>
+    /// <summary>Notes how this command changes the coding of later ones.</summary>
     internal virtual void Apply(CodingState state)
     {
     }
+
+    private static ParameterExchange ExchangeOf(object codec, string name) =>
+        codec is IParameterCodec known
+            ? known.Exchange
+            : throw new ArgumentException($"{name} must be a reader or writer of this library.");
 }

@@ -3,10 +3,10 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>Which element of the metafile a command is.</summary>
+/// <summary>The element that a command stands for.</summary>
 public sealed class CommandConstructorArguments
 {
-    /// <summary>Names an element.</summary>
+    /// <summary>Creates the arguments for an element.</summary>
     /// <param name="elementClass">The class of the element.</param>
     /// <param name="elementId">The number of the element in its class, 0 to 127.</param>
     public CommandConstructorArguments(ClassCode elementClass, int elementId)

@@ -1,343 +1,315 @@
 using System.Collections.Generic;
+using System.Linq;
 using Korvan.CAD.Binding;
-using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Elements;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>Where the attributes of what a copied segment holds come from.</summary>
-public sealed class InheritanceFilter : Command
+/// <summary>Which attributes a copied segment takes from itself and which from where it is copied.</summary>
+[CgmCommand(SegmentControlElement.InheritanceFilter, "INHFILTER", Default = "the element without attributes")]
+public sealed partial class InheritanceFilter : Command
 {
-    private static readonly string[] FilterWords =
-    [
-        "LINEINDEX", "LINETYPE", "LINEWIDTH", "LINECOLR", "LINECLIPMODE", "MARKERINDEX", "MARKERTYPE", "MARKERSIZE",
-        "MARKERCOLR", "MARKERCLIPMODE", "TEXTINDEX", "TEXTFONTINDEX", "TEXTPREC", "CHAREXPAN", "CHARSPACE", "TEXTCOLR",
-        "CHARHEIGHT", "CHARORI", "TEXTPATH", "TEXTALIGN", "FILLINDEX", "INTSTYLE", "FILLCOLR", "HATCHINDEX", "PATINDEX",
-        "EDGEINDEX", "EDGETYPE", "EDGEWIDTH", "EDGECOLR", "EDGEVIS", "EDGECLIPMODE", "FILLREFPT", "PATSIZE", "AUXCOLR",
-        "TRANSPARENCY", "LINEATTR", "MARKERATTR", "TEXTPRESANDPLACEATTR", "TEXTPLACEANDORIATTR", "FILLATTR", "EDGEATTR",
-        "PATATTR", "OUTPUTCTRL", "PICKID", "ALLATTRCTRL", "ALL", "LINETYPEASF", "LINEWIDTHASF", "LINECOLRASF",
-        "MARKERTYPEASF", "MARKERSIZEASF", "MARKERCOLRASF", "TEXTFONTASF", "TEXTPRECASF", "CHAREXPASF", "CHARSPACEASF",
-        "TEXTCOLRASF", "INTSTYLEASF", "FILLCOLRASF", "HATCHINDEXASF", "PATINDEXASF", "EDGETYPEASF", "EDGEWIDTHASF",
-        "EDGECOLRASF", "LINEASF", "MARKERASF", "TEXTASF", "FILLASF", "EDGEASF", "ALLASF", "MITRELIMIT", "LINECAP",
-        "LINEJOIN", "LINETYPECONT", "LINETYPEINITOFFSET", "TEXTSCORETYPE", "RESTRTEXTTYPE", "INTERPINT", "EDGECAP",
-        "EDGEJOIN", "EDGETYPECONT", "EDGETYPEINITOFFSET", "SYMBOLLIBINDEX", "SYMBOLCOLR", "SYMBOLSIZE", "SYMBOLORI",
-        "SYMBOLATTR",
-    ];
+    private const int FirstSetting = (int)Filter.SymbolAttributes + 1;
 
-    private static readonly string[] SettingWords = ["STLIST", "SEG"];
+    private static readonly KeywordTable Settings = new([0, 1], ["STLIST", "SEG"]);
 
-    private static readonly string[] AllWords = [.. FilterWords, .. SettingWords];
+    // Only the end of the element tells which value is the setting. Binary files number it from 0; clear text has
+    // keywords for it, which stand behind those of the filters here.
+    private static readonly KeywordTable FiltersAndSettings = new(
+        [.. Enumerable.Range(0, FirstSetting + 2)],
+        [.. EnumKeywords.InheritanceFilterFilter.Keywords, .. Settings.Keywords]);
 
-    /// <summary>Creates the element without attributes.</summary>
-    public InheritanceFilter()
-        : base(ClassCode.SegmentControlElement, (int)SegmentControlElement.InheritanceFilter)
-    {
-    }
-
-    /// <summary>The attributes that can be chosen, and groups of them.</summary>
+    /// <summary>The attributes that can be selected, and groups of them.</summary>
     [PythonEnum(EnumKind.Integer)]
     public enum Filter
     {
         /// <summary>What <see cref="Commands.LineBundleIndex"/> says.</summary>
-        LineBundleIndex = 0,
+        [CgmKeyword("LINEINDEX")] LineBundleIndex = 0,
 
         /// <summary>What <see cref="Commands.LineType"/> says.</summary>
-        LineType = 1,
+        [CgmKeyword("LINETYPE")] LineType = 1,
 
         /// <summary>What <see cref="Commands.LineWidth"/> says.</summary>
-        LineWidth = 2,
+        [CgmKeyword("LINEWIDTH")] LineWidth = 2,
 
         /// <summary>What <see cref="Commands.LineColour"/> says.</summary>
-        LineColour = 3,
+        [CgmKeyword("LINECOLR")] LineColour = 3,
 
         /// <summary>What <see cref="Commands.LineClipping"/> says.</summary>
-        LineClipping = 4,
+        [CgmKeyword("LINECLIPMODE")] LineClipping = 4,
 
         /// <summary>What <see cref="Commands.MarkerBundleIndex"/> says.</summary>
-        MarkerBundleIndex = 5,
+        [CgmKeyword("MARKERINDEX")] MarkerBundleIndex = 5,
 
         /// <summary>What <see cref="Commands.MarkerType"/> says.</summary>
-        MarkerType = 6,
+        [CgmKeyword("MARKERTYPE")] MarkerType = 6,
 
         /// <summary>What <see cref="Commands.MarkerSize"/> says.</summary>
-        MarkerSize = 7,
+        [CgmKeyword("MARKERSIZE")] MarkerSize = 7,
 
         /// <summary>What <see cref="Commands.MarkerColour"/> says.</summary>
-        MarkerColour = 8,
+        [CgmKeyword("MARKERCOLR")] MarkerColour = 8,
 
         /// <summary>What <see cref="Commands.MarkerClipping"/> says.</summary>
-        MarkerClipping = 9,
+        [CgmKeyword("MARKERCLIPMODE")] MarkerClipping = 9,
 
         /// <summary>What <see cref="Commands.TextBundleIndex"/> says.</summary>
-        TextBundleIndex = 10,
+        [CgmKeyword("TEXTINDEX")] TextBundleIndex = 10,
 
         /// <summary>What <see cref="Commands.TextFontIndex"/> says.</summary>
-        TextFontIndex = 11,
+        [CgmKeyword("TEXTFONTINDEX")] TextFontIndex = 11,
 
         /// <summary>What <see cref="Commands.TextPrecision"/> says.</summary>
-        TextPrecision = 12,
+        [CgmKeyword("TEXTPREC")] TextPrecision = 12,
 
         /// <summary>What <see cref="Commands.CharacterExpansionFactor"/> says.</summary>
-        CharacterExpansionFactor = 13,
+        [CgmKeyword("CHAREXPAN")] CharacterExpansionFactor = 13,
 
         /// <summary>What <see cref="Commands.CharacterSpacing"/> says.</summary>
-        CharacterSpacing = 14,
+        [CgmKeyword("CHARSPACE")] CharacterSpacing = 14,
 
         /// <summary>What <see cref="Commands.TextColour"/> says.</summary>
-        TextColour = 15,
+        [CgmKeyword("TEXTCOLR")] TextColour = 15,
 
         /// <summary>What <see cref="Commands.CharacterHeight"/> says.</summary>
-        CharacterHeight = 16,
+        [CgmKeyword("CHARHEIGHT")] CharacterHeight = 16,
 
         /// <summary>What <see cref="Commands.CharacterOrientation"/> says.</summary>
-        CharacterOrientation = 17,
+        [CgmKeyword("CHARORI")] CharacterOrientation = 17,
 
         /// <summary>What <see cref="Commands.TextPath"/> says.</summary>
-        TextPath = 18,
+        [CgmKeyword("TEXTPATH")] TextPath = 18,
 
         /// <summary>What <see cref="Commands.TextAlignment"/> says.</summary>
-        TextAlignment = 19,
+        [CgmKeyword("TEXTALIGN")] TextAlignment = 19,
 
         /// <summary>What <see cref="Commands.FillBundleIndex"/> says.</summary>
-        FillBundleIndex = 20,
+        [CgmKeyword("FILLINDEX")] FillBundleIndex = 20,
 
         /// <summary>What <see cref="Commands.InteriorStyle"/> says.</summary>
-        InteriorStyle = 21,
+        [CgmKeyword("INTSTYLE")] InteriorStyle = 21,
 
         /// <summary>What <see cref="Commands.FillColour"/> says.</summary>
-        FillColour = 22,
+        [CgmKeyword("FILLCOLR")] FillColour = 22,
 
         /// <summary>What <see cref="Commands.HatchIndex"/> says.</summary>
-        HatchIndex = 23,
+        [CgmKeyword("HATCHINDEX")] HatchIndex = 23,
 
         /// <summary>What <see cref="Commands.PatternIndex"/> says.</summary>
-        PatternIndex = 24,
+        [CgmKeyword("PATINDEX")] PatternIndex = 24,
 
         /// <summary>What <see cref="Commands.EdgeBundleIndex"/> says.</summary>
-        EdgeBundleIndex = 25,
+        [CgmKeyword("EDGEINDEX")] EdgeBundleIndex = 25,
 
         /// <summary>What <see cref="Commands.EdgeType"/> says.</summary>
-        EdgeType = 26,
+        [CgmKeyword("EDGETYPE")] EdgeType = 26,
 
         /// <summary>What <see cref="Commands.EdgeWidth"/> says.</summary>
-        EdgeWidth = 27,
+        [CgmKeyword("EDGEWIDTH")] EdgeWidth = 27,
 
         /// <summary>What <see cref="Commands.EdgeColour"/> says.</summary>
-        EdgeColour = 28,
+        [CgmKeyword("EDGECOLR")] EdgeColour = 28,
 
         /// <summary>What <see cref="Commands.EdgeVisibility"/> says.</summary>
-        EdgeVisibility = 29,
+        [CgmKeyword("EDGEVIS")] EdgeVisibility = 29,
 
         /// <summary>What <see cref="Commands.EdgeClipping"/> says.</summary>
-        EdgeClipping = 30,
+        [CgmKeyword("EDGECLIPMODE")] EdgeClipping = 30,
 
         /// <summary>What <see cref="Commands.FillReferencePoint"/> says.</summary>
-        FillReferencePoint = 31,
+        [CgmKeyword("FILLREFPT")] FillReferencePoint = 31,
 
         /// <summary>What <see cref="Commands.PatternSize"/> says.</summary>
-        PatternSize = 32,
+        [CgmKeyword("PATSIZE")] PatternSize = 32,
 
         /// <summary>What <see cref="Commands.AuxiliaryColour"/> says.</summary>
-        AuxiliaryColour = 33,
+        [CgmKeyword("AUXCOLR")] AuxiliaryColour = 33,
 
         /// <summary>What <see cref="Commands.Transparency"/> says.</summary>
-        Transparency = 34,
+        [CgmKeyword("TRANSPARENCY")] Transparency = 34,
 
-        /// <summary>All attributes of lines.</summary>
-        LineAttributes = 35,
+        /// <summary>All line attributes.</summary>
+        [CgmKeyword("LINEATTR")] LineAttributes = 35,
 
-        /// <summary>All attributes of markers.</summary>
-        MarkerAttributes = 36,
+        /// <summary>All marker attributes.</summary>
+        [CgmKeyword("MARKERATTR")] MarkerAttributes = 36,
 
-        /// <summary>What the characters of texts look like.</summary>
-        TextPresentationAndPlacementAttributes = 37,
+        /// <summary>Text presentation and placement attributes.</summary>
+        [CgmKeyword("TEXTPRESANDPLACEATTR")] TextPresentationAndPlacementAttributes = 37,
 
-        /// <summary>Size, direction and place of texts.</summary>
-        TextPlacementAndOrientationAttributes = 38,
+        /// <summary>Text placement and orientation attributes.</summary>
+        [CgmKeyword("TEXTPLACEANDORIATTR")] TextPlacementAndOrientationAttributes = 38,
 
-        /// <summary>All attributes of areas.</summary>
-        FillAttributes = 39,
+        /// <summary>All fill attributes.</summary>
+        [CgmKeyword("FILLATTR")] FillAttributes = 39,
 
-        /// <summary>All attributes of edges.</summary>
-        EdgeAttributes = 40,
+        /// <summary>All edge attributes.</summary>
+        [CgmKeyword("EDGEATTR")] EdgeAttributes = 40,
 
-        /// <summary>All attributes of patterns.</summary>
-        PatternAttributes = 41,
+        /// <summary>All pattern attributes.</summary>
+        [CgmKeyword("PATATTR")] PatternAttributes = 41,
 
         /// <summary>Auxiliary colour and transparency.</summary>
-        OutputControl = 42,
+        [CgmKeyword("OUTPUTCTRL")] OutputControl = 42,
 
         /// <summary>What <see cref="Commands.PickIdentifier"/> says.</summary>
-        PickIdentifier = 43,
+        [CgmKeyword("PICKID")] PickIdentifier = 43,
 
-        /// <summary>All attributes and what controls output.</summary>
-        AllAttributesAndControl = 44,
+        /// <summary>All attributes and output control.</summary>
+        [CgmKeyword("ALLATTRCTRL")] AllAttributesAndControl = 44,
 
         /// <summary>Everything.</summary>
-        All = 45,
+        [CgmKeyword("ALL")] All = 45,
 
         /// <summary>The source flag of <see cref="Commands.LineType"/>.</summary>
-        LineTypeAsf = 46,
+        [CgmKeyword("LINETYPEASF")] LineTypeAsf = 46,
 
         /// <summary>The source flag of <see cref="Commands.LineWidth"/>.</summary>
-        LineWidthAsf = 47,
+        [CgmKeyword("LINEWIDTHASF")] LineWidthAsf = 47,
 
         /// <summary>The source flag of <see cref="Commands.LineColour"/>.</summary>
-        LineColourAsf = 48,
+        [CgmKeyword("LINECOLRASF")] LineColourAsf = 48,
 
         /// <summary>The source flag of <see cref="Commands.MarkerType"/>.</summary>
-        MarkerTypeAsf = 49,
+        [CgmKeyword("MARKERTYPEASF")] MarkerTypeAsf = 49,
 
         /// <summary>The source flag of <see cref="Commands.MarkerSize"/>.</summary>
-        MarkerSizeAsf = 50,
+        [CgmKeyword("MARKERSIZEASF")] MarkerSizeAsf = 50,
 
         /// <summary>The source flag of <see cref="Commands.MarkerColour"/>.</summary>
-        MarkerColourAsf = 51,
+        [CgmKeyword("MARKERCOLRASF")] MarkerColourAsf = 51,
 
         /// <summary>The source flag of <see cref="Commands.TextFontIndex"/>.</summary>
-        TextFontIndexAsf = 52,
+        [CgmKeyword("TEXTFONTASF")] TextFontIndexAsf = 52,
 
         /// <summary>The source flag of <see cref="Commands.TextPrecision"/>.</summary>
-        TextPrecisionAsf = 53,
+        [CgmKeyword("TEXTPRECASF")] TextPrecisionAsf = 53,
 
         /// <summary>The source flag of <see cref="Commands.CharacterExpansionFactor"/>.</summary>
-        CharacterExpansionFactorAsf = 54,
+        [CgmKeyword("CHAREXPASF")] CharacterExpansionFactorAsf = 54,
 
         /// <summary>The source flag of <see cref="Commands.CharacterSpacing"/>.</summary>
-        CharacterSpacingAsf = 55,
+        [CgmKeyword("CHARSPACEASF")] CharacterSpacingAsf = 55,
 
         /// <summary>The source flag of <see cref="Commands.TextColour"/>.</summary>
-        TextColourAsf = 56,
+        [CgmKeyword("TEXTCOLRASF")] TextColourAsf = 56,
 
         /// <summary>The source flag of <see cref="Commands.InteriorStyle"/>.</summary>
-        InteriorStyleAsf = 57,
+        [CgmKeyword("INTSTYLEASF")] InteriorStyleAsf = 57,
 
         /// <summary>The source flag of <see cref="Commands.FillColour"/>.</summary>
-        FillColourAsf = 58,
+        [CgmKeyword("FILLCOLRASF")] FillColourAsf = 58,
 
         /// <summary>The source flag of <see cref="Commands.HatchIndex"/>.</summary>
-        HatchIndexAsf = 59,
+        [CgmKeyword("HATCHINDEXASF")] HatchIndexAsf = 59,
 
         /// <summary>The source flag of <see cref="Commands.PatternIndex"/>.</summary>
-        PatternIndexAsf = 60,
+        [CgmKeyword("PATINDEXASF")] PatternIndexAsf = 60,
 
         /// <summary>The source flag of <see cref="Commands.EdgeType"/>.</summary>
-        EdgeTypeAsf = 61,
+        [CgmKeyword("EDGETYPEASF")] EdgeTypeAsf = 61,
 
         /// <summary>The source flag of <see cref="Commands.EdgeWidth"/>.</summary>
-        EdgeWidthAsf = 62,
+        [CgmKeyword("EDGEWIDTHASF")] EdgeWidthAsf = 62,
 
         /// <summary>The source flag of <see cref="Commands.EdgeColour"/>.</summary>
-        EdgeColourAsf = 63,
+        [CgmKeyword("EDGECOLRASF")] EdgeColourAsf = 63,
 
-        /// <summary>The source flags of lines.</summary>
-        LineAsfs = 64,
+        /// <summary>The aspect source flags of lines.</summary>
+        [CgmKeyword("LINEASF")] LineAsfs = 64,
 
-        /// <summary>The source flags of markers.</summary>
-        MarkerAsfs = 65,
+        /// <summary>The aspect source flags of markers.</summary>
+        [CgmKeyword("MARKERASF")] MarkerAsfs = 65,
 
-        /// <summary>The source flags of texts.</summary>
-        TextAsfs = 66,
+        /// <summary>The aspect source flags of text.</summary>
+        [CgmKeyword("TEXTASF")] TextAsfs = 66,
 
-        /// <summary>The source flags of areas.</summary>
-        FillAsfs = 67,
+        /// <summary>The aspect source flags of fills.</summary>
+        [CgmKeyword("FILLASF")] FillAsfs = 67,
 
-        /// <summary>The source flags of edges.</summary>
-        EdgeAsfs = 68,
+        /// <summary>The aspect source flags of edges.</summary>
+        [CgmKeyword("EDGEASF")] EdgeAsfs = 68,
 
-        /// <summary>All source flags.</summary>
-        AllAsfs = 69,
+        /// <summary>All aspect source flags.</summary>
+        [CgmKeyword("ALLASF")] AllAsfs = 69,
 
         /// <summary>What <see cref="Commands.MitreLimit"/> says.</summary>
-        MitreLimit = 70,
+        [CgmKeyword("MITRELIMIT")] MitreLimit = 70,
 
         /// <summary>What <see cref="Commands.LineCap"/> says.</summary>
-        LineCap = 71,
+        [CgmKeyword("LINECAP")] LineCap = 71,
 
         /// <summary>What <see cref="Commands.LineJoin"/> says.</summary>
-        LineJoin = 72,
+        [CgmKeyword("LINEJOIN")] LineJoin = 72,
 
         /// <summary>What <see cref="Commands.LineTypeContinuation"/> says.</summary>
-        LineTypeContinuation = 73,
+        [CgmKeyword("LINETYPECONT")] LineTypeContinuation = 73,
 
         /// <summary>What <see cref="Commands.LineTypeInitialOffset"/> says.</summary>
-        LineTypeInitialOffset = 74,
+        [CgmKeyword("LINETYPEINITOFFSET")] LineTypeInitialOffset = 74,
 
         /// <summary>What <see cref="Commands.TextScoreType"/> says.</summary>
-        TextScoreType = 75,
+        [CgmKeyword("TEXTSCORETYPE")] TextScoreType = 75,
 
         /// <summary>What <see cref="Commands.RestrictedTextType"/> says.</summary>
-        RestrictedTextType = 76,
+        [CgmKeyword("RESTRTEXTTYPE")] RestrictedTextType = 76,
 
         /// <summary>What <see cref="Commands.InterpolatedInterior"/> says.</summary>
-        InterpolatedInterior = 77,
+        [CgmKeyword("INTERPINT")] InterpolatedInterior = 77,
 
         /// <summary>What <see cref="Commands.EdgeCap"/> says.</summary>
-        EdgeCap = 78,
+        [CgmKeyword("EDGECAP")] EdgeCap = 78,
 
         /// <summary>What <see cref="Commands.EdgeJoin"/> says.</summary>
-        EdgeJoin = 79,
+        [CgmKeyword("EDGEJOIN")] EdgeJoin = 79,
 
         /// <summary>What <see cref="Commands.EdgeTypeContinuation"/> says.</summary>
-        EdgeTypeContinuation = 80,
+        [CgmKeyword("EDGETYPECONT")] EdgeTypeContinuation = 80,
 
         /// <summary>What <see cref="Commands.EdgeTypeInitialOffset"/> says.</summary>
-        EdgeTypeInitialOffset = 81,
+        [CgmKeyword("EDGETYPEINITOFFSET")] EdgeTypeInitialOffset = 81,
 
         /// <summary>What <see cref="Commands.SymbolLibraryIndex"/> says.</summary>
-        SymbolLibraryIndex = 82,
+        [CgmKeyword("SYMBOLLIBINDEX")] SymbolLibraryIndex = 82,
 
         /// <summary>What <see cref="Commands.SymbolColour"/> says.</summary>
-        SymbolColour = 83,
+        [CgmKeyword("SYMBOLCOLR")] SymbolColour = 83,
 
         /// <summary>What <see cref="Commands.SymbolSize"/> says.</summary>
-        SymbolSize = 84,
+        [CgmKeyword("SYMBOLSIZE")] SymbolSize = 84,
 
         /// <summary>What <see cref="Commands.SymbolOrientation"/> says.</summary>
-        SymbolOrientation = 85,
+        [CgmKeyword("SYMBOLORI")] SymbolOrientation = 85,
 
-        /// <summary>All attributes of symbols.</summary>
-        SymbolAttributes = 86,
+        /// <summary>All symbol attributes.</summary>
+        [CgmKeyword("SYMBOLATTR")] SymbolAttributes = 86,
     }
 
-    /// <summary>Gets or sets the attributes.</summary>
+    /// <summary>Gets or sets the selected attributes.</summary>
     public List<Filter> Filters { get; set; } = [];
 
-    /// <summary>Gets or sets whether they come from the segment; else they come from the place where it is
+    /// <summary>Gets or sets whether the selected attributes come from the segment, or else from the place where it is
     /// copied.</summary>
     public bool ComesFromSegment { get; set; } = true;
 
     internal override void Exchange(ParameterExchange x)
     {
-        int setting = ComesFromSegment ? 1 : 0;
         if (!x.IsReading)
         {
-            x.Rest(Filters, static (y, filter) => y.Enumeration(filter, FilterWords));
-            x.Enumeration(setting, SettingWords);
+            x.Rest(Filters, static (y, filter) => y.Enumeration(filter, EnumKeywords.InheritanceFilterFilter));
+            x.Enumeration(ComesFromSegment ? 1 : 0, Settings);
             return;
         }
 
-        List<int> numbers = x.Rest(new List<int>(), static (y, _) => y.Enumeration(0, AllWords));
-        if (numbers.Count == 0)
+        List<int> values = x.Rest(new List<int>(), static (y, _) => y.Enumeration(0, FiltersAndSettings));
+        int setting = values.Count > 0 ? values[^1] - (x.IsClearText ? FirstSetting : 0) : -1;
+        if (setting is not (0 or 1))
         {
-            throw new CgmDataException("it is not told where the attributes come from");
+            throw new CgmDataException("the selection setting is missing: STLIST or SEG");
         }
 
-        Take(numbers, x.IsClearText ? FilterWords.Length : 0);
-    }
-
-    /// <summary>Only the end of the element tells which value is the setting; in clear text it has words of its
-    /// own.</summary>
-    private void Take(List<int> numbers, int firstSetting)
-    {
-        ComesFromSegment = (numbers[^1] - firstSetting) switch
-        {
-            0 => false,
-            1 => true,
-            _ => throw new CgmDataException("it is not told where the attributes come from"),
-        };
-        numbers.RemoveAt(numbers.Count - 1);
-        Filters = numbers.ConvertAll(static number => (Filter)number);
+        ComesFromSegment = setting == 1;
+        Filters = values[..^1].ConvertAll(static value => (Filter)value);
     }
 }

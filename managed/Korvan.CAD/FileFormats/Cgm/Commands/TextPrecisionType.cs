@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>How exactly texts are placed.</summary>
+/// <summary>How exactly text is placed.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TextPrecisionType
 {
-    /// <summary>The text as a whole.</summary>
-    String = 0,
+    /// <summary>The string as a whole.</summary>
+    [CgmKeyword("STRING")] String = 0,
 
     /// <summary>Each character.</summary>
-    Character = 1,
+    [CgmKeyword("CHAR")] Character = 1,
 
-    /// <summary>Each character and its shape.</summary>
-    Stroke = 2,
+    /// <summary>Each character and its outline.</summary>
+    [CgmKeyword("STROKE")] Stroke = 2,
 }

@@ -1,10 +1,9 @@
 using System;
-using Korvan.CAD.FileFormats.Cgm.Coding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Commands;
 
-/// <summary>An element that no standard names. Its parameters are kept as they were read; only the encoding that they
-/// were read from can hold them.</summary>
+/// <summary>An element that the standard does not define. Its parameters are kept as they were read; only the encoding
+/// that they were read from can hold them.</summary>
 public sealed class UnknownCommand : Command
 {
     /// <summary>Creates the command of an element.</summary>
@@ -14,10 +13,10 @@ public sealed class UnknownCommand : Command
     {
     }
 
-    /// <summary>Gets or sets the parameters as they stand in a binary file.</summary>
+    /// <summary>Gets or sets the parameters in binary encoding.</summary>
     public byte[] Parameters { get; set; } = [];
 
-    /// <summary>Gets or sets the element as it stands in a clear text file, without its semicolon; empty when it comes
-    /// from a binary one.</summary>
+    /// <summary>Gets or sets the element in clear text without its terminator; empty when it was read from a binary
+    /// file.</summary>
     public string Source { get; set; } = "";
 }

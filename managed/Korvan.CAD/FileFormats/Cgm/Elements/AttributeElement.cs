@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Elements;
 
-/// <summary>What drawn things look like. The numbers are those of binary files (ISO/IEC 8632-3, clause 8).</summary>
+/// <summary>The attribute elements, by their numbers in binary files (ISO/IEC 8632-3, clause 8).</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum AttributeElement
 {
@@ -159,3 +159,6 @@ public enum AttributeElement
     /// <summary>The element "symbol orientation", in clear text SYMBOLORI.</summary>
     SymbolOrientation = 51,
 }
+
+/// <summary>The commands and keywords of attribute elements.</summary>
+public static partial class AttributeElements;

@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Elements;
 
-/// <summary>How coordinates are coded and what is clipped. The numbers are those of binary files (ISO/IEC 8632-3, clause 8).</summary>
+/// <summary>The control elements, by their numbers in binary files (ISO/IEC 8632-3, clause 8).</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ControlElement
 {
@@ -54,3 +54,6 @@ public enum ControlElement
     /// <summary>The element "transparent cell colour", in clear text TRANSPCELLCOLR.</summary>
     TransparentCellColour = 20,
 }
+
+/// <summary>The commands and keywords of control elements.</summary>
+public static partial class ControlElements;

@@ -2,7 +2,8 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Elements;
 
-/// <summary>Where metafile, pictures and their parts begin and end. The numbers are those of binary files (ISO/IEC 8632-3, clause 8).</summary>
+/// <summary>The delimiter elements of the metafile, pictures and their parts, by their numbers in binary files (ISO/IEC
+/// 8632-3, clause 8).</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum DelimiterElement
 {
@@ -66,3 +67,6 @@ public enum DelimiterElement
     /// <summary>The element "end application structure", in clear text ENDAPS.</summary>
     EndApplicationStructure = 23,
 }
+
+/// <summary>The commands and keywords of delimiter elements.</summary>
+public static partial class DelimiterElements;

@@ -8,63 +8,48 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Elements;
 
-/// <summary>An element: its number in its class, its word in clear text, and what makes its command.</summary>
-internal sealed record ElementEntry(int Id, string Keyword, Func<Command> Create);
+/// <summary>An element: its class, its number there, its keyword in clear text, and what creates its command.</summary>
+internal sealed record ElementEntry(ClassCode Class, int Id, string Keyword, Func<Command> Create);
 
-/// <summary>All elements of ISO/IEC 8632, by class and number or by word.</summary>
+/// <summary>All elements of ISO/IEC 8632, by class and number or by keyword.</summary>
 internal static class ElementTables
 {
-    private static readonly ElementEntry[][] Tables =
-    [
-        DelimiterElements.Table, MetaFileDescriptorElements.Table, PictureDescriptorElements.Table, ControlElements.Table,
-        GraphicalPrimitiveElements.Table, AttributeElements.Table,
-        [new(1, "ESCAPE", static () => new Escape())],
-        ExternalElements.Table, SegmentControlElements.Table, ApplicationStructureDescriptorElements.Table,
-    ];
+    private const int MaxClasses = 16;
 
-    private static readonly ElementEntry?[][] ByNumber = Array.ConvertAll(Tables, static table => Spread(table));
-    private static readonly Dictionary<string, ElementEntry> ByWord = Words();
+    private static readonly ElementEntry?[][] ByNumber =
+        [.. Enumerable.Range(0, MaxClasses).Select(static number => Spread((ClassCode)number))];
+
+    private static readonly Dictionary<string, ElementEntry> ByKeyword = ElementEntries.All
+        .Where(static entry => entry.Keyword.Length > 0)
+        .ToDictionary(static entry => entry.Keyword, StringComparer.OrdinalIgnoreCase);
 
     internal static ElementEntry? Find(ClassCode elementClass, int id)
     {
-        return (uint)elementClass < (uint)ByNumber.Length && (uint)id < (uint)ByNumber[(int)elementClass].Length
+        return (uint)elementClass < MaxClasses && (uint)id < (uint)ByNumber[(int)elementClass].Length
             ? ByNumber[(int)elementClass][id]
             : null;
     }
 
-    /// <summary>Finds an element by its word without regard to case.</summary>
-    /// <summary>Gets the entry of an element by its enumeration's value; throws where there is none.</summary>
+    /// <summary>Finds an element by its keyword without regard to case.</summary>
+    internal static ElementEntry? Find(string keyword) => ByKeyword.GetValueOrDefault(keyword);
+
+    /// <summary>Returns the entry of an element by its enum value; throws where there is none.</summary>
     internal static ElementEntry Get<T>(ClassCode elementClass, T element)
         where T : struct, Enum =>
         Find(elementClass, Convert.ToInt32(element, CultureInfo.InvariantCulture))
         ?? throw Verify.OutOfRange(nameof(element), element, "No such element is known.");
 
-    internal static ElementEntry? Find(string keyword) => ByWord.GetValueOrDefault(keyword);
-
     internal static string Keyword(ClassCode elementClass, int id) => Find(elementClass, id)?.Keyword ?? "";
 
-    private static ElementEntry?[] Spread(ElementEntry[] table)
+    private static ElementEntry?[] Spread(ClassCode elementClass)
     {
-        var spread = new ElementEntry?[table.Length == 0 ? 0 : table[^1].Id + 1];
-        foreach (ElementEntry entry in table)
+        ElementEntry[] entries = Array.FindAll(ElementEntries.All, entry => entry.Class == elementClass);
+        var spread = new ElementEntry?[entries.Select(static entry => entry.Id + 1).DefaultIfEmpty().Max()];
+        foreach (ElementEntry entry in entries)
         {
             spread[entry.Id] = entry;
         }
 
         return spread;
-    }
-
-    private static Dictionary<string, ElementEntry> Words()
-    {
-        var words = new Dictionary<string, ElementEntry>(StringComparer.OrdinalIgnoreCase);
-        foreach (ElementEntry[] table in Tables)
-        {
-            foreach (ElementEntry entry in table.Where(static entry => entry.Keyword.Length > 0))
-            {
-                words.Add(entry.Keyword, entry);
-            }
-        }
-
-        return words;
     }
 }

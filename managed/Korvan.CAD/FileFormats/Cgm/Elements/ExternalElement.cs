@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Elements;
 
-/// <summary>Messages and data of applications. The numbers are those of binary files (ISO/IEC 8632-3, clause 8).</summary>
+/// <summary>The external elements, by their numbers in binary files (ISO/IEC 8632-3, clause 8).</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ExternalElement
 {
@@ -12,3 +12,6 @@ public enum ExternalElement
     /// <summary>The element "application data", in clear text APPLDATA.</summary>
     ApplicationData = 2,
 }
+
+/// <summary>The commands and keywords of external elements.</summary>
+public static partial class ExternalElements;

@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Elements;
 
-/// <summary>What is drawn. The numbers are those of binary files (ISO/IEC 8632-3, clause 8).</summary>
+/// <summary>The graphical primitive elements, by their numbers in binary files (ISO/IEC 8632-3, clause 8).</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum GraphicalPrimitiveElement
 {
@@ -93,3 +93,6 @@ public enum GraphicalPrimitiveElement
     /// <summary>The element "tile", in clear text TILE.</summary>
     Tile = 29,
 }
+
+/// <summary>The commands and keywords of graphical primitive elements.</summary>
+public static partial class GraphicalPrimitiveElements;

@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Elements;
 
-/// <summary>What holds for the whole metafile. The numbers are those of binary files (ISO/IEC 8632-3, clause 8).</summary>
+/// <summary>The metafile descriptor elements, by their numbers in binary files (ISO/IEC 8632-3, clause 8).</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum MetaFileDescriptorElement
 {
@@ -78,3 +78,6 @@ public enum MetaFileDescriptorElement
     /// <summary>The element "picture directory", in clear text PICDIR.</summary>
     PictureDirectory = 24,
 }
+
+/// <summary>The commands and keywords of metafile descriptor elements.</summary>
+public static partial class MetaFileDescriptorElements;

@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Elements;
 
-/// <summary>What holds for a whole picture. The numbers are those of binary files (ISO/IEC 8632-3, clause 8).</summary>
+/// <summary>The picture descriptor elements, by their numbers in binary files (ISO/IEC 8632-3, clause 8).</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum PictureDescriptorElement
 {
@@ -66,3 +66,6 @@ public enum PictureDescriptorElement
     /// <summary>The element "application structure directory", in clear text APSDIR.</summary>
     ApplicationStructureDirectory = 20,
 }
+
+/// <summary>The commands and keywords of picture descriptor elements.</summary>
+public static partial class PictureDescriptorElements;

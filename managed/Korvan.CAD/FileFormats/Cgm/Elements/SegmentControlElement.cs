@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cgm.Elements;
 
-/// <summary>Parts that are stored and drawn again. The numbers are those of binary files (ISO/IEC 8632-3, clause 8).</summary>
+/// <summary>The segment control elements, by their numbers in binary files (ISO/IEC 8632-3, clause 8).</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum SegmentControlElement
 {
@@ -27,3 +27,6 @@ public enum SegmentControlElement
     /// <summary>The element "segment pick priority", in clear text SEGPICKPRI.</summary>
     SegmentPickPriority = 7,
 }
+
+/// <summary>The commands and keywords of segment control elements.</summary>
+public static partial class SegmentControlElements;

@@ -6,31 +6,31 @@ namespace Korvan.CAD.FileFormats.Cgm.Enums;
 [PythonEnum(EnumKind.Integer)]
 public enum ClassCode
 {
-    /// <summary>Where metafile, pictures and their parts begin and end.</summary>
+    /// <summary>Delimiters of the metafile, pictures and their parts.</summary>
     DelimiterElement = 0,
 
-    /// <summary>What holds for the whole metafile.</summary>
+    /// <summary>Descriptors of the whole metafile.</summary>
     MetaFileDescriptorElement = 1,
 
-    /// <summary>What holds for a whole picture.</summary>
+    /// <summary>Descriptors of a picture.</summary>
     PictureDescriptorElement = 2,
 
-    /// <summary>How coordinates are coded and what is clipped.</summary>
+    /// <summary>Coordinate precisions, clipping and other control.</summary>
     ControlElement = 3,
 
-    /// <summary>What is drawn.</summary>
+    /// <summary>Graphical primitives.</summary>
     GraphicalPrimitiveElement = 4,
 
-    /// <summary>What drawn things look like.</summary>
+    /// <summary>Attributes of primitives.</summary>
     AttributeElement = 5,
 
-    /// <summary>What no standard describes.</summary>
+    /// <summary>Escapes to functionality outside the standard.</summary>
     EscapeElement = 6,
 
-    /// <summary>Messages and data of applications.</summary>
+    /// <summary>Messages and application data.</summary>
     ExternalElement = 7,
 
-    /// <summary>Parts that are stored and drawn again.</summary>
+    /// <summary>Segments, which are stored and copied.</summary>
     SegmentControlElement = 8,
 
     /// <summary>Attributes of application structures.</summary>

@@ -1,17 +1,18 @@
 using Korvan.CAD.Binding;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Enums;
 
-/// <summary>What of a wide line, a marker or an edge is cut at the border of the clip rectangle.</summary>
+/// <summary>How wide lines, markers and edges are clipped.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum ClippingMode
 {
-    /// <summary>The line without its width.</summary>
-    Locus = 0,
+    /// <summary>Their mathematical locus is clipped.</summary>
+    [CgmKeyword("LOCUS")] Locus = 0,
 
-    /// <summary>What is drawn.</summary>
-    Shape = 1,
+    /// <summary>Their drawn shape is clipped.</summary>
+    [CgmKeyword("SHAPE")] Shape = 1,
 
-    /// <summary>First the line without its width, then what is drawn.</summary>
-    LocusThenShape = 2,
+    /// <summary>The locus is clipped, then the drawn shape.</summary>
+    [CgmKeyword("LOCUSTHENSHAPE")] LocusThenShape = 2,
 }

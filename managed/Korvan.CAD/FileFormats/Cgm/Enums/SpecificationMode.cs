@@ -1,20 +1,21 @@
 using Korvan.CAD.Binding;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Enums;
 
-/// <summary>What the numbers of a width or size count.</summary>
+/// <summary>The units of widths and sizes.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum SpecificationMode
 {
-    /// <summary>Units of the coordinates.</summary>
-    Absolute = 0,
+    /// <summary>VDC.</summary>
+    [CgmKeyword("ABS")] Absolute = 0,
 
-    /// <summary>Multiples of what the device usually draws.</summary>
-    Scaled = 1,
+    /// <summary>Multiples of the nominal size of the device.</summary>
+    [CgmKeyword("SCALED")] Scaled = 1,
 
-    /// <summary>Parts of the longer side of the picture's extent.</summary>
-    Fractional = 2,
+    /// <summary>Fractions of the longer side of the VDC extent.</summary>
+    [CgmKeyword("FRACTIONAL")] Fractional = 2,
 
     /// <summary>Millimetres.</summary>
-    Millimetres = 3,
+    [CgmKeyword("MM")] Millimetres = 3,
 }

@@ -1,26 +1,26 @@
 using System;
 using Korvan.CAD.Binding;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Enums;
 
-/// <summary>Leads from the numbers and words of files to modes.</summary>
+/// <summary>Conversions between modes and their numbers and keywords in files.</summary>
 public static class SpecificationModeTools
 {
-    internal static readonly string[] Words = ["ABS", "SCALED", "FRACTIONAL", "MM"];
-
-    /// <summary>Gives the mode of a number in a binary file.</summary>
+    /// <summary>Returns the mode of a number in a binary file.</summary>
     /// <param name="mode">The number, 0 to 3.</param>
     /// <returns>The mode of a number in a binary file.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such mode.</exception>
     public static SpecificationMode GetMode(int mode)
     {
-        Verify.InRange(mode, 0, Words.Length - 1);
+        Verify.InRange(mode, 0, (int)SpecificationMode.Millimetres);
         return (SpecificationMode)mode;
     }
 
-    /// <summary>Gives the word of a mode in a clear text file.</summary>
+    /// <summary>Returns the keyword of a mode in a clear text file.</summary>
     /// <param name="mode">The mode.</param>
-    /// <returns>The word of a mode in a clear text file.</returns>
+    /// <returns>The keyword of a mode in a clear text file.</returns>
     /// <exception cref="ArgumentOutOfRangeException">There is no such mode.</exception>
-    public static string GetWord(SpecificationMode mode) => Words[(int)GetMode((int)mode)];
+    public static string GetWord(SpecificationMode mode) =>
+        EnumKeywords.SpecificationMode.KeywordOf((int)GetMode((int)mode));
 }

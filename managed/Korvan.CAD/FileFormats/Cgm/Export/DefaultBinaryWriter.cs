@@ -2,6 +2,7 @@ using System;
 using System.Buffers;
 using System.Buffers.Binary;
 using System.Collections.Generic;
+using System.Globalization;
 using System.IO;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
@@ -9,18 +10,15 @@ using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
-using Korvan.CAD.FileFormats.Cgm.Import;
 
 namespace Korvan.CAD.FileFormats.Cgm.Export;
 
-/// <summary>
-/// Writes commands as a binary metafile (ISO/IEC 8632-3). What commands say of precisions, colours and modes holds for
-/// those behind them; a number that its precision cannot hold is refused.
-/// </summary>
-public sealed class DefaultBinaryWriter : IBinaryWriter
+/// <summary>Writes commands as a binary metafile (ISO/IEC 8632-3). Precisions, colours and modes apply to the commands
+/// after those that set them; a number that does not fit its precision raises an error.</summary>
+public sealed class DefaultBinaryWriter : IBinaryWriter, IParameterCodec
 {
     private const int LongForm = 31;
-    private const int LongestPart = 0x7FFE;
+    private const int MaxPartLength = 0x7FFE;
     private const int MorePartsFlag = 0x8000;
 
     private readonly Stream _stream;
@@ -59,9 +57,12 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
 
     internal ParameterExchange Exchange { get; }
 
+    /// <inheritdoc/>
+    ParameterExchange IParameterCodec.Exchange => Exchange;
+
     /// <summary>Writes one element.</summary>
     /// <param name="command">Its command.</param>
-    /// <exception cref="ImageSaveException">A parameter cannot be written; nothing of the element was.</exception>
+    /// <exception cref="ImageSaveException">A parameter cannot be written; no part of the element was.</exception>
     public void WriteCommand(Command command)
     {
         Verify.NotNull(command);
@@ -71,7 +72,7 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
             WriteParameters(command);
             command.Apply(State);
         }
-        catch (Exception e) when (e is CgmDataException or ArgumentException)
+        catch (CgmDataException e)
         {
             State.ReplacesDefaults &= _isInner;
             string place = MessageLog.Place("command", _count, command.ElementClass, command.ElementId);
@@ -167,18 +168,18 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
     public void WriteData(byte[] value)
     {
         Verify.NotNull(value);
-        const int longForm = 255;
-        if (value.Length < longForm)
+        const int LongString = 255;
+        if (value.Length < LongString)
         {
             WriteBits(value.Length, 8);
             WriteBytes(value);
             return;
         }
 
-        WriteBits(longForm, 8);
-        for (int at = 0; at < value.Length; at += LongestPart)
+        WriteBits(LongString, 8);
+        for (int at = 0; at < value.Length; at += MaxPartLength)
         {
-            int count = Math.Min(LongestPart, value.Length - at);
+            int count = Math.Min(MaxPartLength, value.Length - at);
             WriteBits(count | (at + count < value.Length ? MorePartsFlag : 0), 16);
             _parameters.Write(value.AsSpan(at, count));
         }
@@ -196,17 +197,17 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
     /// <inheritdoc/>
     public void WriteBytes(byte[] value) => _parameters.Write(value);
 
-    /// <summary>Writes elements as parameters of this one.</summary>
+    /// <summary>Writes elements as the parameters of this one.</summary>
     internal void WriteInner(List<Command> commands)
     {
         if (_isInner)
         {
-            throw new CgmDataException("it stands inside of an element of its kind");
+            throw new CgmDataException("it is nested in an element of its kind");
         }
 
         var content = new MemoryStream();
         var inner = new DefaultBinaryWriter(content, _name, State, true);
-        commands.ForEach(inner.WriteCommand);
+        commands.ForEach(command => inner.WriteCommand(ParameterExchange.Needed(command)));
         WriteBytes(content.ToArray());
     }
 
@@ -222,26 +223,28 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
         }
         else
         {
-            throw new CgmDataException($"'{unknown.Source.Split(' ')[0]}' is known of a clear text file alone, so it cannot be written as binary");
+            string keyword = unknown.Source.Split(' ')[0];
+            throw new CgmDataException(
+                $"'{keyword}' of a clear text file is not defined by the standard, so it has no binary form");
         }
     }
 
-    private void WriteElement(int head)
+    private void WriteElement(int header)
     {
         ReadOnlySpan<byte> data = _parameters.WrittenSpan;
         _element.ResetWrittenCount();
         if (data.Length < LongForm)
         {
-            WriteWord(head | data.Length);
+            WriteWord(header | data.Length);
             WriteEven(data);
         }
         else
         {
-            WriteWord(head | LongForm);
-            for (; data.Length > LongestPart; data = data[LongestPart..])
+            WriteWord(header | LongForm);
+            for (; data.Length > MaxPartLength; data = data[MaxPartLength..])
             {
-                WriteWord(LongestPart | MorePartsFlag);
-                WriteEven(data[..LongestPart]);
+                WriteWord(MaxPartLength | MorePartsFlag);
+                WriteEven(data[..MaxPartLength]);
             }
 
             WriteWord(data.Length);
@@ -297,8 +300,10 @@ public sealed class DefaultBinaryWriter : IBinaryWriter
         double limit = Math.Pow(2, (2 * fractionBits) - 1);
         if (scaled < -limit || scaled >= limit)
         {
-            throw new CgmDataException(FormattableString.Invariant(
-                $"the real number {value} does not fit into {fractionBits} bits and {fractionBits} of fraction; REALPREC or VDCREALPREC can give more"));
+            string number = value.ToString(CultureInfo.InvariantCulture);
+            throw new CgmDataException(
+                $"the real number {number} does not fit into {fractionBits} bits and {fractionBits} bits of fraction; "
+                + "REALPREC or VDCREALPREC can set a larger precision");
         }
 
         WriteBits((long)scaled, 2 * fractionBits);

@@ -8,17 +8,14 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
-using Korvan.CAD.FileFormats.Cgm.Import;
 
 namespace Korvan.CAD.FileFormats.Cgm.Export;
 
-/// <summary>
-/// Writes commands as a clear text metafile (ISO/IEC 8632-4), in lines of at most 80 letters as far as single texts
-/// allow. Real numbers have as many digits as lead back to the same number.
-/// </summary>
-public sealed class DefaultClearTextWriter : IClearTextWriter
+/// <summary>Writes commands as a clear text metafile (ISO/IEC 8632-4), in lines of at most 80 characters where single
+/// strings allow it. Real numbers have as many digits as they need to be read back exactly.</summary>
+public sealed class DefaultClearTextWriter : IClearTextWriter, IParameterCodec
 {
-    private const int LongestLine = 80;
+    private const int MaxLineLength = 80;
 
     private readonly Stream _stream;
     private readonly string _name;
@@ -54,10 +51,13 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
 
     internal ParameterExchange Exchange { get; }
 
-    /// <summary>Writes one element in lines of its own. Elements without operation have no form in clear text and are
-    /// left out.</summary>
+    /// <inheritdoc/>
+    ParameterExchange IParameterCodec.Exchange => Exchange;
+
+    /// <summary>Writes one element in lines of its own. No-operation elements have no form in clear text and are left
+    /// out.</summary>
     /// <param name="command">Its command.</param>
-    /// <exception cref="ImageSaveException">A parameter cannot be written; nothing of the element was.</exception>
+    /// <exception cref="ImageSaveException">A parameter cannot be written; no part of the element was.</exception>
     public void WriteCommand(Command command)
     {
         Verify.NotNull(command);
@@ -67,7 +67,7 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
         {
             Write(command);
         }
-        catch (Exception e) when (e is CgmDataException or ArgumentException)
+        catch (CgmDataException e)
         {
             (State.ReplacesDefaults, _isInner) = (false, false);
             string place = MessageLog.Place("command", _count, command.ElementClass, command.ElementId);
@@ -149,12 +149,12 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
         PutText(inner._text.WrittenSpan, (byte)'"');
     }
 
-    /// <summary>Writes an element that stands between the beginning and the end of another.</summary>
+    /// <summary>Writes an element between the beginning and the end of another.</summary>
     internal void WriteInner(Command command)
     {
         if (_isInner)
         {
-            throw new CgmDataException("it stands inside of an element of its kind");
+            throw new CgmDataException("it is nested in an element of its kind");
         }
 
         _isInner = true;
@@ -190,7 +190,8 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
     {
         if (command.Source.Length == 0)
         {
-            throw new CgmDataException("the element is known of a binary file alone, so it cannot be written as clear text");
+            throw new CgmDataException(
+                "it is not defined by the standard and was read from a binary file, so it has no clear text form");
         }
 
         _text.Write(Encoding.Latin1.GetBytes(command.Source));
@@ -209,10 +210,10 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
         byte[] quoted = new byte[text.Length + text.Count(quote) + 2];
         quoted[0] = quoted[^1] = quote;
         int at = 1;
-        foreach (byte letter in text)
+        foreach (byte character in text)
         {
-            quoted[at++] = letter;
-            if (letter == quote)
+            quoted[at++] = character;
+            if (character == quote)
             {
                 quoted[at++] = quote;
             }
@@ -221,12 +222,12 @@ public sealed class DefaultClearTextWriter : IClearTextWriter
         Put(quoted);
     }
 
-    // The semicolon of the element has to fit behind its last parameter, too.
+    // The terminator has to fit after the last parameter, too.
     private void Put(ReadOnlySpan<byte> item)
     {
         if (_column > 0)
         {
-            bool isFull = _breaksLines && _column + item.Length + 2 > LongestLine;
+            bool isFull = _breaksLines && _column + item.Length + 2 > MaxLineLength;
             _text.Write(isFull ? "\n "u8 : " "u8);
             _column = isFull ? 1 : _column + 1;
         }

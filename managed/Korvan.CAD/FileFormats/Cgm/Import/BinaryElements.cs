@@ -2,20 +2,21 @@ using System;
 using System.Buffers;
 using System.Buffers.Binary;
 using System.IO;
-using Korvan.CAD.FileFormats.Cgm.Coding;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Import;
 
 /// <summary>
-/// Parts a stream into elements: a word of class, number and length; a length of 31 says that parts follow, each with a
-/// word of its own, whose highest bit promises another part. Each part fills whole words (ISO/IEC 8632-3, 5.4).
+/// Splits a stream into elements: a header word of class, number and length; the length 31 announces partitions, each
+/// with a header word of its own, whose highest bit announces another one. Each partition is padded to whole words
+/// (ISO/IEC 8632-3, 5.4).
 /// </summary>
 internal sealed class BinaryElements(Stream stream, long origin) : IDisposable
 {
     private const int LongForm = 31;
     private const int MorePartsFlag = 0x8000;
     private const int BlockLength = 1 << 16;
-    private const int LongestElement = 1 << 30;
+    private const int MaxElementLength = 1 << 30;
 
     private byte[] _block = ArrayPool<byte>.Shared.Rent(BlockLength);
     private int _blockAt;
@@ -27,10 +28,10 @@ internal sealed class BinaryElements(Stream stream, long origin) : IDisposable
 
     internal int Id { get; private set; }
 
-    /// <summary>Gets where the element begins.</summary>
+    /// <summary>Gets the offset of the element.</summary>
     internal long Start { get; private set; } = origin;
 
-    /// <summary>Gets where the next element begins.</summary>
+    /// <summary>Gets the offset of the next element.</summary>
     internal long Position => _blockStart + _blockAt;
 
     internal byte[] Parameters => _parameters;
@@ -44,20 +45,20 @@ internal sealed class BinaryElements(Stream stream, long origin) : IDisposable
         (_block, _parameters, _blockAt, _blockEnd, Length) = ([], [], 0, 0, 0);
     }
 
-    /// <summary>Goes to the next element.</summary>
-    /// <returns>False behind the last one.</returns>
+    /// <summary>Moves to the next element.</summary>
+    /// <returns>False after the last one.</returns>
     /// <exception cref="CgmDataException">The stream ends within the element.</exception>
     internal bool MoveNext()
     {
         Start = Position;
         (Length, Class, Id) = (0, 0, 0);
-        if (!TryReadWord(out int head))
+        if (!TryReadWord(out int header))
         {
             return false;
         }
 
-        (Class, Id) = (head >> 12, (head >> 5) & 0x7F);
-        int length = head & LongForm;
+        (Class, Id) = (header >> 12, (header >> 5) & 0x7F);
+        int length = header & LongForm;
         if (length != LongForm)
         {
             Append(length);
@@ -82,7 +83,7 @@ internal sealed class BinaryElements(Stream stream, long origin) : IDisposable
         word = 0;
         if (_blockEnd - _blockAt < 2 && !Fill(2))
         {
-            // A single byte behind the last element can be no element.
+            // A single byte after the last element can be no element.
             return false;
         }
 
@@ -93,14 +94,16 @@ internal sealed class BinaryElements(Stream stream, long origin) : IDisposable
 
     private void Append(int count)
     {
-        if (Length > LongestElement - count)
+        if (Length > MaxElementLength - count)
         {
-            throw new CgmDataException($"the element has more than {LongestElement} bytes");
+            throw new CgmDataException($"the element has more than {MaxElementLength} bytes");
         }
 
         if (_blockEnd - _blockAt < count && !Fill(count))
         {
-            throw new CgmDataException($"the element announces {Length + count} bytes, but the file ends after {Length + _blockEnd - _blockAt}");
+            int there = Length + _blockEnd - _blockAt;
+            throw new CgmDataException(
+                $"the element announces {Length + count} bytes, but the file ends after {there}");
         }
 
         EnsureRoom(count);
@@ -128,7 +131,7 @@ internal sealed class BinaryElements(Stream stream, long origin) : IDisposable
         _parameters = larger;
     }
 
-    // What is left moves to the front; the longest part fits into a block.
+    // The remaining bytes move to the front; the longest partition fits into a block.
     private bool Fill(int needed)
     {
         _block.AsSpan(_blockAt.._blockEnd).CopyTo(_block);

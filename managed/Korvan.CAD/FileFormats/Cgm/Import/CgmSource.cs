@@ -7,44 +7,47 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 
 namespace Korvan.CAD.FileFormats.Cgm.Import;
 
-/// <summary>Tells metafiles and their encodings by their first bytes, and unpacks those that gzip packed.</summary>
+/// <summary>Detects metafiles and their encodings by their headers, and decompresses those of gzip.</summary>
 internal static class CgmSource
 {
-    private const int LargestPacked = 1 << 29;
-    private const int BeginMetafileWord = ((int)ClassCode.DelimiterElement << 12) | ((int)DelimiterElement.BeginMetafile << 5);
+    private const int MaxUnpackedLength = 1 << 29;
+    private const int BeginMetafileWord =
+        ((int)ClassCode.DelimiterElement << 12) | ((int)DelimiterElement.BeginMetafile << 5);
     private const int LengthBits = 0x1F;
     private const int LongForm = 31;
 
-    /// <summary>Tells whether a file begins like a binary metafile: with BEGMF, whose parameter is a text as long as it
-    /// says, and as far as can be seen a descriptor of the metafile behind it.</summary>
-    internal static bool IsBinary(ReadOnlySpan<byte> head)
+    /// <summary>Returns whether a header is that of a binary metafile: BEGMF, whose parameter is a string of the stated
+    /// length, and, as far as the header goes, a metafile descriptor after it.</summary>
+    internal static bool IsBinary(ReadOnlySpan<byte> header)
     {
-        if (head.Length < 4 || ((head[0] << 8) | (head[1] & ~LengthBits)) != BeginMetafileWord)
+        if (header.Length < 4 || ((header[0] << 8) | (header[1] & ~LengthBits)) != BeginMetafileWord)
         {
             return false;
         }
 
-        int length = head[1] & LengthBits;
+        int length = header[1] & LengthBits;
         int start = 2;
         if (length == LongForm)
         {
-            length = ((head[2] << 8) | head[3]) & 0x7FFF;
+            length = ((header[2] << 8) | header[3]) & 0x7FFF;
             start = 4;
         }
 
-        // Most files name themselves by a text; some leave the name out altogether.
-        bool hasName = length > 0 && start < head.Length && (head[start] == length - 1 || head[start] == byte.MaxValue);
+        // Most files have an identifier; some leave it out altogether.
+        bool hasName = length > 0 && start < header.Length
+            && (header[start] == length - 1 || header[start] == byte.MaxValue);
         int next = start + length + (length & 1);
-        bool isCut = next + 2 > head.Length;
-        return (hasName || length == 0) && (isCut ? hasName : IsDescriptor((head[next] << 8) | head[next + 1]));
+        bool isCut = next + 2 > header.Length;
+        return (hasName || length == 0) && (isCut ? hasName : IsDescriptor((header[next] << 8) | header[next + 1]));
     }
 
-    /// <summary>Tells whether a file begins like a clear text metafile: with the word BEGMF, perhaps behind comments.</summary>
-    internal static bool IsClearText(ReadOnlySpan<byte> head) => StartsWithWord(head, "BEGMF"u8);
+    /// <summary>Returns whether a header is that of a clear text metafile: the keyword BEGMF, perhaps after
+    /// comments.</summary>
+    internal static bool IsClearText(ReadOnlySpan<byte> header) => StartsWithKeyword(header, "BEGMF"u8);
 
-    internal static bool IsPacked(ReadOnlySpan<byte> head) => head.StartsWith((ReadOnlySpan<byte>)[0x1F, 0x8B, 8]);
+    internal static bool IsPacked(ReadOnlySpan<byte> header) => header.StartsWith((ReadOnlySpan<byte>)[0x1F, 0x8B, 8]);
 
-    /// <summary>Gives what gzip packed; other data as they are.</summary>
+    /// <summary>Decompresses data of gzip; returns other data as they are.</summary>
     internal static byte[] Unpack(byte[] data, string name)
     {
         if (!IsPacked(data))
@@ -60,9 +63,10 @@ internal static class CgmSource
             for (int count = packed.Read(block); count > 0; count = packed.Read(block))
             {
                 content.Write(block, 0, count);
-                if (content.Length > LargestPacked)
+                if (content.Length > MaxUnpackedLength)
                 {
-                    throw new ImageLoadException($"'{name}' unpacks to more than {LargestPacked} bytes, which is the most that is read.");
+                    throw new ImageLoadException(
+                        $"'{name}' decompresses to more than {MaxUnpackedLength} bytes, which is the limit.");
                 }
             }
 
@@ -70,13 +74,13 @@ internal static class CgmSource
         }
         catch (InvalidDataException e)
         {
-            throw new ImageLoadException($"'{name}' is packed by gzip and damaged: {e.Message}");
+            throw new ImageLoadException($"'{name}' is compressed by gzip and damaged: {e.Message}");
         }
     }
 
     internal static CgmFileFormat FindEncoding(ReadOnlySpan<byte> data, string name)
     {
-        if (StartsWithWord(data, "BEGMF"u8))
+        if (StartsWithKeyword(data, "BEGMF"u8))
         {
             return CgmFileFormat.ClearText;
         }
@@ -87,15 +91,17 @@ internal static class CgmSource
         }
 
         throw new ImageLoadException(IsCharacterEncoding(data)
-            ? $"'{name}' is a metafile of the character encoding (ISO/IEC 8632-2); the binary and the clear text encoding can be read."
-            : $"'{name}' is no metafile: it begins neither with the element BEGMF of the binary encoding nor with the word BEGMF.");
+            ? $"'{name}' is a metafile of the character encoding (ISO/IEC 8632-2); only the binary and the clear text "
+                + "encoding can be read."
+            : $"'{name}' is no metafile: it starts neither with the element BEGMF of the binary encoding nor with the "
+                + "keyword BEGMF.");
     }
 
-    // BEGMF is the opcode 3/0 2/0 there, perhaps behind sequences that choose the coding.
+    // BEGMF is the opcode 3/0 2/0 there, perhaps after sequences that select the coding.
     private static bool IsCharacterEncoding(ReadOnlySpan<byte> data)
     {
-        const byte escape = 0x1B;
-        while (data.Length > 2 && data[0] == escape)
+        const byte Escape = 0x1B;
+        while (data.Length > 2 && data[0] == Escape)
         {
             int end = data[1..].IndexOfAnyExceptInRange((byte)0x20, (byte)0x2F);
             data = end < 0 ? [] : data[(end + 2)..];
@@ -105,9 +111,10 @@ internal static class CgmSource
     }
 
     private static bool IsDescriptor(int word) =>
-        word >> 12 == (int)ClassCode.MetaFileDescriptorElement && ((word >> 5) & 0x7F) is >= 1 and <= (int)MetaFileDescriptorElement.PictureDirectory;
+        word >> 12 == (int)ClassCode.MetaFileDescriptorElement
+        && ((word >> 5) & 0x7F) is >= 1 and <= (int)MetaFileDescriptorElement.PictureDirectory;
 
-    private static bool StartsWithWord(ReadOnlySpan<byte> data, ReadOnlySpan<byte> word)
+    private static bool StartsWithKeyword(ReadOnlySpan<byte> data, ReadOnlySpan<byte> keyword)
     {
         while (data.Length > 0)
         {
@@ -122,10 +129,10 @@ internal static class CgmSource
         }
 
         int at = 0;
-        for (int i = 0; i < data.Length && at < word.Length; i++)
+        for (int i = 0; i < data.Length && at < keyword.Length; i++)
         {
             bool isNull = data[i] is (byte)'_' or (byte)'$';
-            if (!isNull && (data[i] & ~0x20) != word[at])
+            if (!isNull && (data[i] & ~0x20) != keyword[at])
             {
                 return false;
             }
@@ -133,6 +140,6 @@ internal static class CgmSource
             at += isNull ? 0 : 1;
         }
 
-        return at == word.Length;
+        return at == keyword.Length;
     }
 }

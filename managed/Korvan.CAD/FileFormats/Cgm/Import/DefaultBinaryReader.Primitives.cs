@@ -10,9 +10,9 @@ namespace Korvan.CAD.FileFormats.Cgm.Import;
 /// <content>The parameters of one element.</content>
 public sealed partial class DefaultBinaryReader
 {
-    private const int DeepestRecord = 16;
+    private const int MaxRecordDepth = 16;
 
-    // What is read: the element, or a record that lies inside of it.
+    // The data that is read: the element, or a record inside it.
     private byte[] _data = [];
     private int _at;
     private int _end;
@@ -37,7 +37,9 @@ public sealed partial class DefaultBinaryReader
     public int ReadColorIndex()
     {
         long index = ReadUnsigned(State.ColorIndexBits);
-        return index <= int.MaxValue ? (int)index : throw new CgmDataException($"{index} is too large for the number of a colour");
+        return index <= int.MaxValue
+            ? (int)index
+            : throw new CgmDataException($"{index} is too large for a colour index");
     }
 
     /// <inheritdoc/>
@@ -50,7 +52,7 @@ public sealed partial class DefaultBinaryReader
         16 => BinaryPrimitives.ReadUInt16BigEndian(Take(2)),
         24 => Take24() & 0xFFFFFF,
         32 => BinaryPrimitives.ReadUInt32BigEndian(Take(4)),
-        _ => throw new CgmDataException($"{bits} bits for one number do not exist"),
+        _ => throw new CgmDataException($"{bits} bits are no width of an integer"),
     };
 
     /// <inheritdoc/>
@@ -98,9 +100,9 @@ public sealed partial class DefaultBinaryReader
     /// <inheritdoc/>
     public StructuredDataRecord ReadStructuredData()
     {
-        if (_depth == DeepestRecord)
+        if (_depth == MaxRecordDepth)
         {
-            throw new CgmDataException($"records lie in each other, more than {DeepestRecord} deep");
+            throw new CgmDataException($"records are nested more than {MaxRecordDepth} deep");
         }
 
         byte[] record = TakeString().ToArray();
@@ -121,20 +123,21 @@ public sealed partial class DefaultBinaryReader
     /// <inheritdoc/>
     public byte[] ReadRest() => Take(_end - _at).ToArray();
 
-    /// <summary>Reads points up to the end of the element, those of usual precisions without a question for each.</summary>
+    /// <summary>Reads points up to the end of the element; those of the default precision take a fast path.</summary>
     internal List<CgmPoint> ReadPoints()
     {
         int left = _end - _at;
-        bool isUsual = !State.HasRealCoordinates && State.Current.VdcIntegerBits == 16 && left % 4 == 0;
-        var points = new List<CgmPoint>(isUsual ? left / 4 : 4);
-        while (!isUsual && HasMore)
+        bool isDefault = !State.HasRealCoordinates && State.Current.VdcIntegerBits == 16 && left % 4 == 0;
+        var points = new List<CgmPoint>(isDefault ? left / 4 : 4);
+        while (!isDefault && HasMore)
         {
             points.Add(ReadPoint());
         }
 
         for (ReadOnlySpan<byte> data = Take(_end - _at); data.Length > 0; data = data[4..])
         {
-            points.Add(new CgmPoint(BinaryPrimitives.ReadInt16BigEndian(data), BinaryPrimitives.ReadInt16BigEndian(data[2..])));
+            short x = BinaryPrimitives.ReadInt16BigEndian(data), y = BinaryPrimitives.ReadInt16BigEndian(data[2..]);
+            points.Add(new CgmPoint(x, y));
         }
 
         return points;
@@ -146,7 +149,7 @@ public sealed partial class DefaultBinaryReader
         16 => BinaryPrimitives.ReadInt16BigEndian(Take(2)),
         24 => Take24() << 8 >> 8,
         32 => BinaryPrimitives.ReadInt32BigEndian(Take(4)),
-        _ => throw new CgmDataException($"{bits} bits for one number do not exist"),
+        _ => throw new CgmDataException($"{bits} bits are no width of an integer"),
     };
 
     private double ReadReal(Precision precision) => precision switch
@@ -158,7 +161,7 @@ public sealed partial class DefaultBinaryReader
     };
 
     private static double Finite(double value) =>
-        double.IsFinite(value) ? value : throw new CgmDataException("a real number is no number");
+        double.IsFinite(value) ? value : throw new CgmDataException("a real number is infinite or not a number");
 
     private int Take24()
     {
@@ -171,14 +174,15 @@ public sealed partial class DefaultBinaryReader
         int at = _at;
         if (_end - at < count)
         {
-            throw new CgmDataException($"the parameters end after {_end} bytes, within a value of {count} bytes at {at}");
+            throw new CgmDataException(
+                $"the parameters end after {_end} bytes, within a value of {count} bytes at {at}");
         }
 
         _at = at + count;
         return _data.AsSpan(at, count);
     }
 
-    // A length of 255 says that parts follow, each with a word; its highest bit promises another part.
+    // The length 255 announces partitions, each with a header word, whose highest bit announces another one.
     private ReadOnlySpan<byte> TakeString()
     {
         const int LongForm = 255;

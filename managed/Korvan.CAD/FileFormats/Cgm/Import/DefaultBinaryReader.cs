@@ -11,7 +11,7 @@ using Korvan.CAD.FileFormats.Cgm.Enums;
 namespace Korvan.CAD.FileFormats.Cgm.Import;
 
 /// <summary>Reads the commands of a binary metafile one by one (ISO/IEC 8632-3).</summary>
-public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
+public sealed partial class DefaultBinaryReader : IBinaryReader, IParameterCodec, IDisposable
 {
     private const string Unit = "byte";
 
@@ -24,15 +24,15 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
     private bool _isDisposed;
 
     /// <summary>Creates a reader of a stream.</summary>
-    /// <param name="stream">The stream, at the first byte of the metafile. It stays open.</param>
+    /// <param name="stream">The stream, at the start of the metafile. It stays open.</param>
     public DefaultBinaryReader(Stream stream)
         : this(stream, DefaultCommandFactory.Instance)
     {
     }
 
-    /// <summary>Creates a reader of a stream that makes commands in its own way.</summary>
-    /// <param name="stream">The stream, at the first byte of the metafile. It stays open.</param>
-    /// <param name="commandFactory">What makes the commands.</param>
+    /// <summary>Creates a reader of a stream with a command factory.</summary>
+    /// <param name="stream">The stream, at the start of the metafile. It stays open.</param>
+    /// <param name="commandFactory">The factory that creates the commands.</param>
     public DefaultBinaryReader(Stream stream, ICommandFactory commandFactory)
         : this(stream, commandFactory, (stream as FileStream)?.Name ?? "stream")
     {
@@ -51,7 +51,7 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
         Exchange = new BinaryReading(this, State);
     }
 
-    // Elements inside of an element are read by the rules that hold around them.
+    // Elements inside an element share the coding state around them.
     private DefaultBinaryReader(DefaultBinaryReader outer, byte[] data, long origin)
     {
         _elements = new BinaryElements(new MemoryStream(data, false), origin);
@@ -65,25 +65,28 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
         Exchange = new BinaryReading(this, State);
     }
 
-    /// <summary>Gets what makes the commands.</summary>
+    /// <summary>Gets the command factory.</summary>
     public ICommandFactory CommandFactory { get; }
 
-    /// <summary>Gets or sets whether reading goes on after a damaged element: it is left out, and
-    /// <see cref="Messages"/> tells of it. By default damage is an error.</summary>
+    /// <summary>Gets or sets whether damaged elements are left out and reported in <see cref="Messages"/>. By default
+    /// damage is an error.</summary>
     public bool IgnoreErrors { get; set; }
 
-    /// <summary>Gets what was noticed so far; of very many messages the first thousand.</summary>
+    /// <summary>Gets the messages so far; at most the first thousand and a note that there are more.</summary>
     public IReadOnlyList<Message> Messages => _log.Messages;
 
     internal CodingState State { get; }
 
     internal ParameterExchange Exchange { get; }
 
+    /// <inheritdoc/>
+    ParameterExchange IParameterCodec.Exchange => Exchange;
+
     internal long BytePosition => _elements.Position;
 
     /// <summary>Reads the next element.</summary>
-    /// <returns>Its command, or nothing behind the end of the metafile.</returns>
-    /// <exception cref="ImageLoadException">The element is damaged; its place is told.</exception>
+    /// <returns>Its command, or <c>null</c> after the end of the metafile.</returns>
+    /// <exception cref="ImageLoadException">The element is damaged; the message states its offset.</exception>
     public Command? ReadCommand()
     {
         ObjectDisposedException.ThrowIf(_isDisposed, this);
@@ -98,7 +101,7 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
         return null;
     }
 
-    /// <summary>Gives back the memory of the reader. The stream stays open.</summary>
+    /// <summary>Releases the memory of the reader. The stream stays open.</summary>
     public void Dispose()
     {
         if (!_isDisposed)
@@ -109,12 +112,12 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
         }
     }
 
-    /// <summary>Reads the elements that the parameters of this one are.</summary>
+    /// <summary>Reads the elements that the parameters of this one contain.</summary>
     internal List<Command> ReadInner()
     {
         if (_isInner)
         {
-            throw new CgmDataException("it stands inside of an element of its kind");
+            throw new CgmDataException("it is nested in an element of its kind");
         }
 
         long origin = _elements.Start + _elements.Length switch { < 31 => 2, _ => 4 };
@@ -143,10 +146,11 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
             Fill(command);
             command.Apply(State);
             NoteRest(command);
-            _isAtEnd = command is { ElementClass: ClassCode.DelimiterElement, ElementId: (int)DelimiterElement.EndMetafile };
+            _isAtEnd = command is
+                { ElementClass: ClassCode.DelimiterElement, ElementId: (int)DelimiterElement.EndMetafile };
             return command;
         }
-        catch (Exception e) when (e is CgmDataException or ArgumentException)
+        catch (CgmDataException e)
         {
             State.ReplacesDefaults &= _isInner;
             Report(e);
@@ -182,7 +186,8 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
     {
         ref CommandConstructorArguments? arguments = ref _arguments[(_elements.Class << 7) | _elements.Id];
         arguments ??= new CommandConstructorArguments((ClassCode)_elements.Class, _elements.Id);
-        return CommandFactory.CreateCommand(arguments) ?? throw new CgmDataException("the factory makes no command for it");
+        return CommandFactory.CreateCommand(arguments)
+            ?? throw new CgmDataException("the command factory returned no command for it");
     }
 
     private void Fill(Command command)
@@ -190,7 +195,7 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
         if (command is UnknownCommand unknown)
         {
             unknown.Parameters = ReadRest();
-            Note(Severity.Unsupported, "no standard names the element; it is kept as it is");
+            Note(Severity.Unsupported, "the standard does not define the element; it is kept as it is");
             return;
         }
 
@@ -212,7 +217,7 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IDisposable
         _log.Add(new Message(severity, (ClassCode)_elements.Class, _elements.Id, _elements.Start, $"{place}: {text}"));
     }
 
-    private void Report(Exception e)
+    private void Report(CgmDataException e)
     {
         if (!IgnoreErrors)
         {

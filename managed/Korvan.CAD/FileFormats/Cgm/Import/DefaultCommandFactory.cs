@@ -5,7 +5,7 @@ using Korvan.CAD.FileFormats.Cgm.Elements;
 
 namespace Korvan.CAD.FileFormats.Cgm.Import;
 
-/// <summary>Makes the commands of all elements of the standard.</summary>
+/// <summary>Creates the commands of all elements of the standard.</summary>
 internal sealed class DefaultCommandFactory : ICommandFactory
 {
     internal static readonly DefaultCommandFactory Instance = new();
@@ -13,6 +13,7 @@ internal sealed class DefaultCommandFactory : ICommandFactory
     public Command CreateCommand(CommandConstructorArguments arguments)
     {
         Verify.NotNull(arguments);
-        return ElementTables.Find(arguments.ElementClass, arguments.ElementId)?.Create() ?? new UnknownCommand(arguments);
+        ElementEntry? entry = ElementTables.Find(arguments.ElementClass, arguments.ElementId);
+        return entry?.Create() ?? new UnknownCommand(arguments);
     }
 }

@@ -5,13 +5,13 @@ using Korvan.CAD.FileFormats.StepText;
 
 namespace Korvan.CAD.FileFormats.Ifc.Header;
 
-/// <summary>Values of header records: texts and lists of texts.</summary>
+/// <summary>Values of header records: strings and lists of strings.</summary>
 internal static class HeaderText
 {
-    /// <summary>Gives a text of a record that may be shorter than it should be.</summary>
+    /// <summary>Returns a string; empty if the record has too few values.</summary>
     internal static string Text(object?[] values, int at) => at < values.Length ? values[at] as string ?? "" : "";
 
-    /// <summary>Gives a list of texts.</summary>
+    /// <summary>Returns a list of strings.</summary>
     internal static List<string> Texts(object?[] values, int at) =>
         at < values.Length && values[at] is object?[] items ? [.. items.OfType<string>()] : [];
 

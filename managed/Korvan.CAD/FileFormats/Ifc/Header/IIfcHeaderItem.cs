@@ -6,6 +6,6 @@ public interface IIfcHeaderItem
     /// <summary>Gets the name of the record, such as FILE_NAME.</summary>
     string RecordName { get; }
 
-    /// <summary>Gives the record as it is written.</summary>
+    /// <summary>Returns the record in the syntax of ISO 10303-21.</summary>
     string ToText();
 }

@@ -2,7 +2,7 @@ using System.Collections.Generic;
 
 namespace Korvan.CAD.FileFormats.Ifc.Header;
 
-/// <summary>FILE_DESCRIPTION: what the file is about (ISO 10303-21, 8.2.1).</summary>
+/// <summary>FILE_DESCRIPTION: the description of the file (ISO 10303-21, 8.2.1).</summary>
 public sealed class IfcFileDescription : IIfcHeaderItem
 {
     internal IfcFileDescription(object?[] values)
@@ -14,10 +14,11 @@ public sealed class IfcFileDescription : IIfcHeaderItem
     /// <inheritdoc/>
     public string RecordName => "FILE_DESCRIPTION";
 
-    /// <summary>Gets the lines of the description; model views stand here as ViewDefinition [...].</summary>
+    /// <summary>Gets the lines of the description; the model view is among them, as ViewDefinition [...].</summary>
     public List<string> Description { get; }
 
-    /// <summary>Gets or sets the version of the notation and its conformance class, such as 2;1.</summary>
+    /// <summary>Gets or sets the implementation level: version and conformance class of the encoding, such as
+    /// 2;1.</summary>
     public string ImplementationLevel { get; set; }
 
     /// <inheritdoc/>

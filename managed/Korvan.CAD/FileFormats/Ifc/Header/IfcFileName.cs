@@ -2,7 +2,7 @@ using System.Collections.Generic;
 
 namespace Korvan.CAD.FileFormats.Ifc.Header;
 
-/// <summary>FILE_NAME: who wrote the file, when and with what (ISO 10303-21, 8.2.2).</summary>
+/// <summary>FILE_NAME: name, time, authors and software (ISO 10303-21, 8.2.2).</summary>
 public sealed class IfcFileName : IIfcHeaderItem
 {
     internal IfcFileName(object?[] values)
@@ -22,22 +22,23 @@ public sealed class IfcFileName : IIfcHeaderItem
     /// <summary>Gets or sets the name of the file.</summary>
     public string Name { get; set; }
 
-    /// <summary>Gets or sets when it was written, as ISO 8601 says: 2025-03-01T12:00:00.</summary>
+    /// <summary>Gets or sets the time at which the file was written, in ISO 8601 format such as
+    /// 2025-03-01T12:00:00.</summary>
     public string TimeStamp { get; set; }
 
-    /// <summary>Gets the authors.</summary>
+    /// <summary>Gets the names of the authors.</summary>
     public List<string> Author { get; }
 
-    /// <summary>Gets their organizations.</summary>
+    /// <summary>Gets the organizations of the authors.</summary>
     public List<string> Organization { get; }
 
-    /// <summary>Gets or sets the program that wrote the file.</summary>
+    /// <summary>Gets or sets the preprocessor: the software that wrote the file.</summary>
     public string PreprocessorVersion { get; set; }
 
-    /// <summary>Gets or sets the program that the data comes from.</summary>
+    /// <summary>Gets or sets the originating system: the software that the data comes from.</summary>
     public string OriginatingSystem { get; set; }
 
-    /// <summary>Gets or sets who allowed the file to be sent.</summary>
+    /// <summary>Gets or sets the name of the person who authorized the file.</summary>
     public string Authorization { get; set; }
 
     /// <inheritdoc/>

@@ -2,8 +2,8 @@ using System.Collections.Generic;
 
 namespace Korvan.CAD.FileFormats.Ifc.Header;
 
-/// <summary>FILE_SCHEMA: the edition of the schema (ISO 10303-21, 8.2.3). It does not change: entities of one edition
-/// are not those of another.</summary>
+/// <summary>FILE_SCHEMA: the schema of the data (ISO 10303-21, 8.2.3). It is read-only, as entities of one schema are
+/// not those of another.</summary>
 public sealed class IfcFileSchema : IIfcHeaderItem
 {
     internal IfcFileSchema(object?[] values)
@@ -14,7 +14,7 @@ public sealed class IfcFileSchema : IIfcHeaderItem
     /// <inheritdoc/>
     public string RecordName => "FILE_SCHEMA";
 
-    /// <summary>Gets the names of the schemas; models of buildings have one, such as IFC4.</summary>
+    /// <summary>Gets the names of the schemas; building models have one, such as IFC4.</summary>
     public IReadOnlyList<string> Schemas { get; }
 
     /// <inheritdoc/>

@@ -3,7 +3,7 @@ using Korvan.CAD.FileFormats.StepText;
 
 namespace Korvan.CAD.FileFormats.Ifc.Header;
 
-/// <summary>The header of a file. Records that are not changed are written back as they were read.</summary>
+/// <summary>The header of a file. Unchanged records are written back as they were read.</summary>
 public sealed class IfcHeader
 {
     private readonly List<(IIfcHeaderItem Item, StepHeaderRecord Record, string Original)> _known = [];
@@ -29,16 +29,16 @@ public sealed class IfcHeader
         }
     }
 
-    /// <summary>Gets what the file is about.</summary>
+    /// <summary>Gets the description of the file.</summary>
     public IfcFileDescription FileDescription { get; }
 
-    /// <summary>Gets who wrote the file, when and with what.</summary>
+    /// <summary>Gets name, time, authors and software of the file.</summary>
     public IfcFileName FileName { get; }
 
-    /// <summary>Gets the edition of the schema.</summary>
+    /// <summary>Gets the schema.</summary>
     public IfcFileSchema FileSchema { get; }
 
-    /// <summary>Gives the records that were changed, with what they were.</summary>
+    /// <summary>Returns the changed records: those that were read, with their new text.</summary>
     internal IEnumerable<(StepHeaderRecord Record, string Text)> Changes()
     {
         foreach ((IIfcHeaderItem item, StepHeaderRecord record, string original) in _known)

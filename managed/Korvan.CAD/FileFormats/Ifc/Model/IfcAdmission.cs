@@ -7,17 +7,19 @@ using Korvan.CAD.FileFormats.StepText;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>Admits values that a program sets: of the type that the schema states, in the form that is kept.</summary>
+/// <summary>Checks values that a program assigns against the schema, and converts them to the form that is
+/// stored.</summary>
 internal static class IfcAdmission
 {
-    /// <summary>Admits the value of an attribute.</summary>
-    /// <exception cref="IfcImageException">It is not of its type, or the attribute follows from others.</exception>
+    /// <summary>Converts the value of an attribute.</summary>
+    /// <exception cref="IfcImageException">It is not of the attribute's type, or the attribute is derived.</exception>
     internal static object? Admit(IfcEntityBase owner, int attribute, object? value)
     {
         IfcAttributeInfo info = owner.Class.Attributes[attribute];
         if (info.IsDerived)
         {
-            throw new IfcImageException($"{owner.Describe(attribute)} follows from other attributes and is not set.");
+            throw new IfcImageException(
+                $"{owner.Describe(attribute)} is derived from other attributes and cannot be set.");
         }
 
         if (value is null)
@@ -28,8 +30,8 @@ internal static class IfcAdmission
         return Admit(owner, IfcSlot.Of(owner.Class, attribute), value);
     }
 
-    /// <summary>Admits a value of a place.</summary>
-    /// <exception cref="IfcImageException">It is not of the place's type.</exception>
+    /// <summary>Converts a value of a slot.</summary>
+    /// <exception cref="IfcImageException">It is not of the slot's type.</exception>
     internal static object? Admit(IfcEntityBase owner, in IfcSlot slot, object? value) => slot.Shape switch
     {
         SchemaShape.Text when value is string => value,
@@ -102,7 +104,9 @@ internal static class IfcAdmission
             VerifyModel(owner, entity);
         }
 
-        return value.GetType() == type ? (IfcSelect)value : IfcSelect.Make(type, name, content, (value as IfcSelect)?.Raw);
+        return value.GetType() == type
+            ? (IfcSelect)value
+            : IfcSelect.Make(type, name, content, (value as IfcSelect)?.Raw);
     }
 
     private static IfcCollection List(IfcEntityBase owner, in IfcSlot slot, IEnumerable items)

@@ -3,8 +3,8 @@ using Korvan.CAD.FileFormats.Ifc.Schema;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>The records of a file by class. As a class and those derived from it have numbers without a gap, all
-/// instances of a class stand in a row.</summary>
+/// <summary>The records of a file by class. As a class and its subtypes have consecutive numbers, all instances of a
+/// class are contiguous.</summary>
 internal sealed class IfcClassIndex
 {
     private readonly int[] _starts;
@@ -37,7 +37,7 @@ internal sealed class IfcClassIndex
         }
     }
 
-    /// <summary>Gives the records of a class in the order of the file.</summary>
+    /// <summary>Returns the records of a class in file order.</summary>
     internal int[] Records(IfcClass one, bool isExact)
     {
         int last = isExact ? one.Number : one.Last;

@@ -5,10 +5,10 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>Instances of a model as they were when the list was asked for; each is made when it is looked at.</summary>
+/// <summary>A snapshot of the instances of a model; each is created on first access.</summary>
 /// <param name="model">The model.</param>
-/// <param name="records">The records; nothing for those from 0 on.</param>
-/// <param name="count">How many records.</param>
+/// <param name="records">The records; <see langword="null"/> for those from 0 on.</param>
+/// <param name="count">The number of records.</param>
 /// <param name="added">Instances that are not in the file.</param>
 internal sealed class IfcEntityList(
     IfcModel model, int[]? records, int count, IReadOnlyList<IfcEntityBase> added) : IReadOnlyList<IIfcEntity>

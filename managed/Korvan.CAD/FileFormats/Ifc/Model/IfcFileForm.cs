@@ -1,12 +1,12 @@
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>How a file holds a model.</summary>
+/// <summary>How a model is stored in a file.</summary>
 internal enum IfcFileForm
 {
-    /// <summary>In the notation of ISO 10303-21.</summary>
+    /// <summary>As clear text of ISO 10303-21.</summary>
     Plain,
 
-    /// <summary>The same in a ZIP file.</summary>
+    /// <summary>As clear text of ISO 10303-21 in a ZIP archive.</summary>
     Packed,
 
     /// <summary>As XML.</summary>

@@ -7,8 +7,8 @@ using Korvan.CAD.FileFormats.StepText;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>Finds instances by their global identifiers. The first few are looked for in the bytes of the file, which
-/// costs less than a table; who asks often gets the table.</summary>
+/// <summary>Finds instances by their GlobalId. The first searches scan the bytes of the file, which costs less than an
+/// index; the index is built when there are more.</summary>
 internal sealed class IfcGlobalIds(IfcModel model)
 {
     private const int SearchesBeforeTable = 16;
@@ -41,7 +41,7 @@ internal sealed class IfcGlobalIds(IfcModel model)
     private bool IsNamed(IfcEntityBase entity, string globalId) =>
         entity.Class.IsA(_root) && entity.GetAttribute(0) as string == globalId;
 
-    // Looks for the text as the first value of a record.
+    // Searches for the string as the first value of a record.
     private int Search(string globalId)
     {
         StringBuilder text = new();

@@ -2,7 +2,8 @@ using System;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>Finds records by the numbers of instances: by a table where numbers are dense, else by halving.</summary>
+/// <summary>Finds records by the identifiers of instances: in a table if identifiers are dense, otherwise by binary
+/// search.</summary>
 internal sealed class IfcIdMap
 {
     private const int Slack = 4;
@@ -11,7 +12,7 @@ internal sealed class IfcIdMap
     private readonly long[]? _sorted;
     private readonly int[]? _records;
 
-    /// <summary>Takes the numbers of all records. Of records with the same number the last one is found.</summary>
+    /// <summary>Creates the map. Of records with the same identifier, the last one is found.</summary>
     internal IfcIdMap(ReadOnlySpan<long> ids)
     {
         long largest = 0;
@@ -20,7 +21,7 @@ internal sealed class IfcIdMap
             largest = Math.Max(largest, id);
         }
 
-        Largest = largest;
+        MaxId = largest;
         if (largest <= ((long)ids.Length * Slack) + 1024)
         {
             _dense = new int[largest + 1];
@@ -42,10 +43,10 @@ internal sealed class IfcIdMap
         Array.Sort(_sorted, _records);
     }
 
-    /// <summary>Gets the largest number.</summary>
-    internal long Largest { get; }
+    /// <summary>Gets the largest identifier.</summary>
+    internal long MaxId { get; }
 
-    /// <summary>Gives the record of an instance, or -1.</summary>
+    /// <summary>Returns the record of an instance, or -1.</summary>
     internal int Find(long id)
     {
         if (_dense is { } dense)

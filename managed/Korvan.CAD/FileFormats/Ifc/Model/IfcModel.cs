@@ -9,8 +9,8 @@ using Korvan.CAD.FileFormats.StepText;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>The instances of a file: each is made from its record once, when it is asked for; and what was changed,
-/// added and removed since.</summary>
+/// <summary>The instances of a file, each of which is created from its record on first access, with the changes since
+/// it was read.</summary>
 internal sealed class IfcModel
 {
     private readonly IfcIdMap _ids;
@@ -24,7 +24,7 @@ internal sealed class IfcModel
     private IfcGlobalIds? _globalIds;
     private IfcReferences? _references;
     private int[]? _kept;
-    private long _largestId;
+    private long _maxId;
 
     internal IfcModel(StepFile file, IfcSchema schema, IfcIdMap ids)
     {
@@ -32,7 +32,7 @@ internal sealed class IfcModel
         Schema = schema;
         _ids = ids;
         _lines = new StepLines(file.Data);
-        _largestId = ids.Largest;
+        _maxId = ids.MaxId;
     }
 
     internal StepFile File { get; }
@@ -41,18 +41,18 @@ internal sealed class IfcModel
 
     internal IfcReferences References => _references ??= new IfcReferences(this);
 
-    /// <summary>Gets the records that are no longer part of the model, in the order of the file.</summary>
+    /// <summary>Gets the records that are no longer part of the model, in file order.</summary>
     internal SortedSet<int> Removed => _removed;
 
     /// <summary>Gets the instances that are not in the file.</summary>
     internal IReadOnlyList<IfcEntityBase> Added => _added;
 
-    /// <summary>Gets the instances of the file whose attributes were changed.</summary>
+    /// <summary>Gets the instances of the file with changed attributes.</summary>
     internal IReadOnlyCollection<IfcEntityBase> Changed => _changed;
 
     internal IfcEntityList Entities => new(this, Kept(), File.Index.Count - _removed.Count, [.. _added]);
 
-    /// <summary>Gives the record of an instance, or -1; removed ones count.</summary>
+    /// <summary>Returns the record of an instance, also of a removed one, or -1.</summary>
     internal int RecordOf(long id) => _ids.Find(id);
 
     internal IfcEntityBase? Find(long id)
@@ -67,7 +67,7 @@ internal sealed class IfcModel
         return all[record] ?? Make(all, record);
     }
 
-    /// <summary>Gives the instance of a record if it was asked for before.</summary>
+    /// <summary>Returns the instance of a record if it has been created.</summary>
     internal IfcEntityBase? Known(int record) => _instances?[record];
 
     internal IfcEntityList OfClass(IfcClass one, bool isExact)
@@ -86,7 +86,7 @@ internal sealed class IfcModel
     internal IfcEntityBase? FindGlobalId(string globalId) => (_globalIds ??= new IfcGlobalIds(this)).Find(globalId);
 
     /// <summary>Reads the attributes of an instance.</summary>
-    /// <exception cref="IfcImageException">The record has values that are none.</exception>
+    /// <exception cref="IfcImageException">The record has invalid values.</exception>
     internal object?[] ReadValues(IfcEntityBase entity)
     {
         int record = entity.Record;
@@ -110,7 +110,7 @@ internal sealed class IfcModel
     internal ReadOnlySpan<byte> Bytes(int record) =>
         File.Data.AsSpan(File.Index.Starts[record]..File.Index.Ends[record]);
 
-    /// <summary>Gives the place of a record's first attribute, counted from its # sign.</summary>
+    /// <summary>Returns the offset of a record's first attribute from its # sign.</summary>
     internal int FirstAttribute(int record)
     {
         StepParser parser = new(File.Data, BodyStart(record));
@@ -131,7 +131,7 @@ internal sealed class IfcModel
         }
     }
 
-    /// <summary>Takes over what a value refers to, and remembers who refers to it.</summary>
+    /// <summary>Adds what a value refers to, and records the references.</summary>
     internal void NoteReferences(IfcEntityBase owner, object? value)
     {
         List<IfcEntityBase> targets = [.. IfcReferences.Entities(value, this)];
@@ -139,14 +139,15 @@ internal sealed class IfcModel
         targets.ForEach(target => References.NoteAdded(target, owner));
     }
 
-    /// <summary>Adds an instance, and those it refers to that belong to no model yet.</summary>
-    /// <exception cref="IfcImageException">One of them is of another edition, or refers to another model.</exception>
+    /// <summary>Adds an instance, and the instances it refers to that belong to no model.</summary>
+    /// <exception cref="IfcImageException">One of them is of another schema version, or refers to another
+    /// model.</exception>
     internal void Add(IfcEntityBase entity) => Add([entity]);
 
     private void Add(List<IfcEntityBase> entities)
     {
         entities.ForEach(VerifyEdition);
-        // All are looked at before the first one is taken.
+        // All are verified before the first one is added.
         HashSet<IfcEntityBase> seen = [];
         List<IfcEntityBase> free = entities.FindAll(seen.Add);
         for (int i = 0; i < free.Count; i++)
@@ -171,14 +172,15 @@ internal sealed class IfcModel
         }
     }
 
-    /// <summary>Removes an instance that nothing refers to.</summary>
+    /// <summary>Removes an instance to which no other refers.</summary>
     internal void Remove(IfcEntityBase entity)
     {
         List<IIfcEntity> referrers = [.. entity.Referrers.Where(one => one != entity)];
         if (referrers.Count > 0)
         {
             const int Shown = 5;
-            string names = string.Join(", ", referrers.Take(Shown).Select(one => $"#{one.InstanceId}={one.EntityName}"));
+            string names = string.Join(
+                ", ", referrers.Take(Shown).Select(one => $"#{one.InstanceId}={one.EntityName}"));
             string more = referrers.Count > Shown ? $" and {referrers.Count - Shown} more" : string.Empty;
             throw new IfcImageException(
                 $"{entity.DescribePlace()}it is not removed, because {names}{more} refer to it; change these first.");
@@ -218,16 +220,17 @@ internal sealed class IfcModel
     {
         if (entity is OpaqueEntity)
         {
-            throw new IfcImageException($"{entity.DescribePlace()}its attributes are not known, so it cannot be added.");
+            throw new IfcImageException(
+                $"{entity.DescribePlace()}its attributes are not known, so it cannot be added.");
         }
 
         if (entity.Class.Schema != Schema)
         {
-            throw new IfcImageException($"{entity.GetType().Name} is not of the model's edition, {Schema.Table.Name}.");
+            throw new IfcImageException($"{entity.GetType().Name} is not of the model's schema, {Schema.Table.Name}.");
         }
     }
 
-    // What was removed can be added again, as one that was made in memory: numbers become the instances themselves.
+    // A removed instance can be added again like a new one, so its references become the instances themselves.
     private static void Detach(IfcEntityBase entity)
     {
         for (int i = 0; i < entity.Class.Attributes.Length; i++)
@@ -238,7 +241,7 @@ internal sealed class IfcModel
             }
             catch (IfcImageException)
             {
-                // What is not of its type means nothing outside of its file.
+                // A value of a wrong type has no meaning outside of its file.
                 entity.Values[i] = null;
             }
         }
@@ -259,7 +262,7 @@ internal sealed class IfcModel
     private void Take(IfcEntityBase entity)
     {
         entity.Model = this;
-        entity.InstanceId = ++_largestId;
+        entity.InstanceId = ++_maxId;
         _added.Add(entity);
         _addedById.Add(entity.InstanceId, entity);
     }
@@ -287,7 +290,7 @@ internal sealed class IfcModel
         return parser.Keyword() is { Length: > 0 } keyword ? keyword : "(several entities)";
     }
 
-    // The place behind the equals sign.
+    // The offset after the equals sign.
     private int BodyStart(int record)
     {
         int start = File.Index.Starts[record];
@@ -299,7 +302,7 @@ internal sealed class IfcModel
         return start + 1;
     }
 
-    // The records that were not removed; nothing for all.
+    // The records that were not removed; null for all.
     private int[]? Kept()
     {
         if (_removed.Count == 0)

@@ -6,10 +6,11 @@ using Korvan.CAD.FileFormats.StepText;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>Shows what was read as values of the types that the schema states.</summary>
+/// <summary>Converts parsed values to values of the types that the schema states.</summary>
 internal static class IfcPresentation
 {
-    /// <summary>Gives the value of an attribute. What had to be made for it takes the place of what was read.</summary>
+    /// <summary>Returns the value of an attribute. An object that is created for it replaces the parsed
+    /// value.</summary>
     internal static object? Present(IfcEntityBase owner, int attribute)
     {
         object?[] values = owner.Values;
@@ -18,11 +19,12 @@ internal static class IfcPresentation
         return shown;
     }
 
-    /// <summary>Gives a value as it is to be kept and as it is shown.</summary>
-    /// <param name="owner">The instance that the value belongs to; nothing for a value that stands alone.</param>
-    /// <param name="slot">What the value may be.</param>
-    /// <param name="raw">The value as it was read or kept.</param>
-    /// <exception cref="IfcImageException">It is none of what it may be.</exception>
+    /// <summary>Returns a value as it is to be stored and as it is shown.</summary>
+    /// <param name="owner">The instance that the value belongs to; <see langword="null"/> for a value outside of all
+    /// instances.</param>
+    /// <param name="slot">The type of the value.</param>
+    /// <param name="raw">The value as it was read or stored.</param>
+    /// <exception cref="IfcImageException">It is not of that type.</exception>
     internal static (object? Kept, object? Shown) Present(IfcEntityBase? owner, in IfcSlot slot, object? raw)
     {
         if (raw is null or StepOmitted)
@@ -57,12 +59,12 @@ internal static class IfcPresentation
         }
     }
 
-    /// <summary>Words what stands where something else was expected.</summary>
+    /// <summary>Describes an unexpected value for a message.</summary>
     internal static string Excerpt(object? raw) => raw switch
     {
-        null => "nothing",
+        null => "None",
         StepOmitted => "an asterisk",
-        string text => $"the text '{(text.Length > 40 ? text[..40] + "..." : text)}'",
+        string text => $"the string '{(text.Length > 40 ? text[..40] + "..." : text)}'",
         StepEnum item => $".{item.Name}.",
         StepRef reference => $"#{reference.Id}",
         StepTyped typed => $"{typed.Keyword}(...)",
@@ -125,7 +127,7 @@ internal static class IfcPresentation
             : throw Wrong(owner, slot, raw);
     }
 
-    // The list of a typed value stands alone, for a select does not change.
+    // The collection of a typed value has no owner, as select values are immutable.
     private static object? Inner(IfcEntityBase? owner, in IfcSlot slot, string typeName, object? raw)
     {
         IfcSlot inner = IfcSlot.Of(slot.Schema, typeName, slot.Attribute);
@@ -143,6 +145,6 @@ internal static class IfcPresentation
         string place = owner is null ? string.Empty
             : slot.Attribute >= 0 ? owner.Describe(slot.Attribute) + ": "
             : owner.DescribePlace();
-        return new IfcImageException($"{place}{slot.Form.Describe()} was expected, {Excerpt(raw)} stands there.");
+        return new IfcImageException($"{place}{slot.Form.Describe()} was expected, but the value is {Excerpt(raw)}.");
     }
 }

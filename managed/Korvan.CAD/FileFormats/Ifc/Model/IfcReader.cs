@@ -9,17 +9,19 @@ using Korvan.CAD.FileFormats.Ifc.Header;
 using Korvan.CAD.FileFormats.Ifc.Schema;
 using Korvan.CAD.FileFormats.Ifc.Xml;
 using Korvan.CAD.FileFormats.StepText;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>Reads a file into a model: the schema by the header, then one scan over the data, then the references.</summary>
+/// <summary>Reads a file into a model: the schema from the header, then the records in one scan, then the
+/// references.</summary>
 internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
 {
-    private const long LargestPacked = 2_000_000_000;
-    private const int MostPackedRatio = 1100;
+    private const long MaxUnpackedLength = 2_000_000_000;
+    private const int MaxPackingRatio = 1100;
 
-    // Addenda and corrigenda keep the layout of their edition.
-    private static readonly Dictionary<string, IfcVersion> s_schemas = new(StringComparer.OrdinalIgnoreCase)
+    // Addenda and corrigenda keep the layout of their version.
+    private static readonly Dictionary<string, IfcVersion> Versions = new(StringComparer.OrdinalIgnoreCase)
     {
         ["IFC2X3"] = IfcVersion.IFC2X3,
         ["IFC2X3_FINAL"] = IfcVersion.IFC2X3,
@@ -34,13 +36,13 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         ["IFC4X3_ADD2"] = IfcVersion.IFC4X3,
     };
 
-    private readonly StepErrors _errors = new();
+    private readonly StepDefects _defects = new();
     private StepLines? _lines;
     private bool _isTranslated;
 
     /// <summary>Reads the file.</summary>
-    /// <exception cref="ImageLoadException">It is damaged, and damage is not to be ignored.</exception>
-    internal IfcImage Read()
+    /// <exception cref="ImageLoadException">It is damaged, and errors are not ignored.</exception>
+    internal IfcContent Read()
     {
         bool isPacked = data.AsSpan().StartsWith("PK\u0003\u0004"u8);
         if (isPacked)
@@ -48,7 +50,7 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
             data = Unpack(out name);
         }
 
-        bool isXml = FormatDetector.IsIfcXml(data);
+        bool isXml = IfcXml.IsIfcXml(data);
         if (isXml)
         {
             data = new IfcXmlTranslator(name, options).Translate(data);
@@ -60,13 +62,13 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         IfcSchema schema = IfcSchema.Of(FindVersion(header));
         int[] arities = [.. schema.Classes.Select(one => one.IsAbstract ? -1 : one.Attributes.Length)];
         file.ScanData(start, new KeywordTable([.. schema.Classes.Select(one => one.Keyword)]), arities);
-        _errors.Add(file.Errors);
+        _defects.Add(file.Defects);
         IfcIdMap ids = new(file.Index.Ids);
         VerifyIds(file, ids);
         VerifyReferences(file, ids);
         Report(file);
         IfcFileForm form = isPacked ? IfcFileForm.Packed : isXml ? IfcFileForm.Xml : IfcFileForm.Plain;
-        return new IfcImage(new IfcModel(file, schema, ids), header, form);
+        return new IfcContent(new IfcModel(file, schema, ids), header, form);
     }
 
     private StepFile Open(out int start)
@@ -77,7 +79,7 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         }
         catch (StepException e)
         {
-            throw new ImageLoadException(Word(new StepError(e.Offset, 0, e.Message)), e);
+            throw new ImageLoadException(Located(new StepDefect(e.Code, e.Offset, 0, e.Message)), e);
         }
     }
 
@@ -85,10 +87,11 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
     {
         IReadOnlyList<string> schemas = header.FileSchema.Schemas;
         string stated = schemas.Count > 0 ? schemas[0].Trim() : "none";
-        return s_schemas.TryGetValue(stated, out IfcVersion version)
+        return Versions.TryGetValue(stated, out IfcVersion version)
             ? version
-            : throw new ImageLoadException(
-                $"'{name}' is of the schema {stated}; those of {string.Join(", ", s_schemas.Keys)} can be read.");
+            : throw Refusal(
+                LoadDefectCode.UnknownSchema,
+                $"the schema {stated} is not supported; those that are: {string.Join(", ", Versions.Keys)}");
     }
 
     private void VerifyIds(StepFile file, IfcIdMap ids)
@@ -99,7 +102,8 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
             if (ids.Find(all[i]) is var other && other != i)
             {
                 int place = file.Index.Starts[other];
-                _errors.Add(new StepError(file.Index.Starts[i], all[i], "its number is used again in line ", place));
+                const string Cause = "its number is used again in line ";
+                _defects.Add(new StepDefect(LoadDefectCode.DuplicateId, file.Index.Starts[i], all[i], Cause, place));
             }
         }
     }
@@ -108,23 +112,23 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
     {
         const int Block = 1 << 16;
         int blocks = (file.Index.Count + Block - 1) / Block;
-        StepErrors[] found = new StepErrors[blocks];
+        StepDefects[] found = new StepDefects[blocks];
         ForkedProcess.RunPieces(blocks, i =>
         {
-            found[i] = new StepErrors();
+            found[i] = new StepDefects();
             int end = Math.Min(file.Index.Count, (i + 1) * Block);
             for (int record = i * Block; record < end; record++)
             {
                 VerifyReferences(file, ids, record, found[i]);
             }
         });
-        foreach (StepErrors errors in found)
+        foreach (StepDefects defects in found)
         {
-            _errors.Add(errors);
+            _defects.Add(defects);
         }
     }
 
-    private static void VerifyReferences(StepFile file, IfcIdMap ids, int record, StepErrors errors)
+    private static void VerifyReferences(StepFile file, IfcIdMap ids, int record, StepDefects defects)
     {
         int start = file.Index.Starts[record];
         StepReferenceWalk walk = new(file.Data.AsSpan(start..file.Index.Ends[record]));
@@ -135,40 +139,50 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
                 continue;
             }
 
-            if (errors.IsFull)
+            if (defects.IsFull)
             {
-                errors.CountOne();
+                defects.CountOne();
                 continue;
             }
 
-            string message = $"it refers to #{walk.Id}, which does not exist";
-            errors.Add(new StepError(start, file.Index.Ids[record], message));
+            string cause = $"it refers to #{walk.Id}, which does not exist";
+            defects.Add(new StepDefect(LoadDefectCode.UnresolvedReference, start, file.Index.Ids[record], cause));
         }
     }
 
     private void Report(StepFile file)
     {
-        if (_errors.Count > 0 && (!options.IgnoreErrors || file.IsHopeless))
+        if (_defects.Count > 0 && (!options.IgnoreErrors || file.IsHopeless))
         {
-            string more = _errors.Count > 1 ? $" There are {_errors.Count - 1} more errors." : string.Empty;
-            throw new ImageLoadException(Word(_errors.Kept.First()) + more);
+            string more = _defects.Count > 1 ? $" There are {_defects.Count - 1} more errors." : string.Empty;
+            throw new ImageLoadException(Located(_defects.Kept.First()), more);
         }
 
-        options.Errors.AddRange(_errors.Kept.Select(Word));
-        if (_errors.Count > _errors.KeptCount)
+        foreach (StepDefect defect in _defects.Kept)
         {
-            options.Errors.Add($"'{name}': there are {_errors.Count - _errors.KeptCount} more errors.");
+            options.Report(Located(defect));
+        }
+
+        if (_defects.Count > _defects.KeptCount)
+        {
+            string cause = $"there are {_defects.Count - _defects.KeptCount} more errors";
+            options.Report(new LoadDefect(LoadDefectCode.NotKept, new LoadPlace(name), cause));
         }
     }
 
-    private string Word(StepError error)
+    private LoadDefect Located(StepDefect defect)
     {
         StepLines lines = _lines ??= new StepLines(data);
-        string instance = error.Id > 0 ? $", #{error.Id}" : string.Empty;
-        string line = _isTranslated ? string.Empty : $", line {lines.LineOf(error.Offset)}";
-        string other = error.Other >= 0 ? lines.LineOf(error.Other).ToString(CultureInfo.InvariantCulture) : string.Empty;
-        return $"'{name}'{line}{instance}: {error.Message}{other}.";
+        int line = _isTranslated ? 0 : lines.LineOf(defect.Offset);
+        string record = defect.Id > 0 ? $"#{defect.Id}" : string.Empty;
+        string other = defect.Other >= 0
+            ? lines.LineOf(defect.Other).ToString(CultureInfo.InvariantCulture)
+            : string.Empty;
+        return new LoadDefect(defect.Code, new LoadPlace(name, line, record), defect.Cause + other);
     }
+
+    private ImageLoadException Refusal(LoadDefectCode code, string cause) =>
+        new(new LoadDefect(code, new LoadPlace(name), cause));
 
     private byte[] Unpack(out string entryName)
     {
@@ -178,8 +192,9 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
             ZipArchiveEntry[] models = [.. archive.Entries.Where(IsModel)];
             if (models.Length != 1)
             {
-                throw new ImageLoadException(
-                    $"'{name}' holds {models.Length} building models (.ifc); one was expected.");
+                throw Refusal(
+                    LoadDefectCode.InvalidArchive,
+                    $"the archive holds {models.Length} building models (.ifc); one was expected");
             }
 
             entryName = $"{name}/{models[0].FullName}";
@@ -187,18 +202,20 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         }
         catch (InvalidDataException e)
         {
-            throw new ImageLoadException($"'{name}' is a damaged ZIP file: {e.Message}");
+            throw Refusal(LoadDefectCode.InvalidArchive, $"the ZIP archive is damaged: {e.Message.TrimEnd('.')}");
         }
     }
 
-    // The stated size bounds what is read: a file that unpacks to more is damaged.
+    // The stated size limits what is read: an entry that unpacks to more is damaged.
     private byte[] Unpack(ZipArchiveEntry entry)
     {
-        // What states more than packing can yield does not get the memory that it states.
-        if (entry.Length is < 1 or > LargestPacked || entry.Length / MostPackedRatio > entry.CompressedLength)
+        // No memory is allocated for a stated size that compression cannot yield.
+        if (entry.Length is < 1 or > MaxUnpackedLength || entry.Length / MaxPackingRatio > entry.CompressedLength)
         {
-            throw new ImageLoadException($"'{name}': '{entry.FullName}' has {entry.Length} bytes in "
-                + $"{entry.CompressedLength} packed ones; up to {LargestPacked} can be read.");
+            throw Refusal(
+                LoadDefectCode.InvalidArchive,
+                $"'{entry.FullName}' has {entry.Length} bytes in {entry.CompressedLength} packed ones; up to "
+                    + $"{MaxUnpackedLength} can be read");
         }
 
         using Stream stream = entry.Open();
@@ -206,7 +223,7 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         int count = stream.ReadAtLeast(content, content.Length, false);
         return count == content.Length
             ? content
-            : throw new ImageLoadException($"'{name}': '{entry.FullName}' ends after {count} bytes.");
+            : throw Refusal(LoadDefectCode.InvalidArchive, $"'{entry.FullName}' ends after {count} bytes");
     }
 
     private static bool IsModel(ZipArchiveEntry entry) =>

@@ -14,7 +14,7 @@ internal static class IfcRecordWriter
     /// <summary>Writes a record.</summary>
     /// <param name="entity">The instance.</param>
     /// <param name="target">Where to write.</param>
-    /// <param name="isDraft">Whether it may be incomplete.</param>
+    /// <param name="isDraft">Whether mandatory attributes may be missing.</param>
     /// <exception cref="IfcImageException">An attribute that is mandatory is not set.</exception>
     internal static void Write(IfcEntityBase entity, StringBuilder target, bool isDraft)
     {
@@ -140,7 +140,7 @@ internal static class IfcRecordWriter
         target.Append(')');
     }
 
-    // The attributes as they stand in the file.
+    // The attributes as they are in the file.
     private static string[] Originals(IfcEntityBase entity)
     {
         ReadOnlySpan<byte> bytes = entity.Model!.Bytes(entity.Record);

@@ -6,8 +6,8 @@ using Korvan.CAD.FileFormats.StepText;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>Who refers to an instance. The references of the file are gathered in one pass when the first one is asked
-/// for; those that programs set since are kept beside them.</summary>
+/// <summary>The instances that refer to an instance. The references of the file are collected at the first request;
+/// those that programs assign are stored separately.</summary>
 internal sealed class IfcReferences(IfcModel model)
 {
     private readonly Dictionary<IfcEntityBase, HashSet<IfcEntityBase>> _later = [];
@@ -15,7 +15,7 @@ internal sealed class IfcReferences(IfcModel model)
     private int[] _referrers = [];
     private byte[] _attributes = [];
 
-    /// <summary>Gives the entities that a value holds.</summary>
+    /// <summary>Returns the entities in a value.</summary>
     internal static IEnumerable<IfcEntityBase> Entities(object? value, IfcModel? from) => value switch
     {
         IfcEntityBase entity => [entity],
@@ -37,10 +37,11 @@ internal sealed class IfcReferences(IfcModel model)
         all.Add(referrer);
     }
 
-    /// <summary>Gives all instances that refer to one, in the order of the file.</summary>
+    /// <summary>Returns all instances that refer to one, in file order.</summary>
     internal IReadOnlyList<IIfcEntity> Referrers(IfcEntityBase target) => Find(target, null);
 
-    /// <summary>Gives the instances that an inverse attribute stands for, in the order of the file.</summary>
+    /// <summary>Returns the instances that refer to this one through the attribute that an inverse attribute inverts,
+    /// in file order.</summary>
     internal IReadOnlyList<IIfcEntity> Inverse(IfcEntityBase target, IfcInverseInfo info) => Find(target, info);
 
     private IfcEntityList Find(IfcEntityBase target, IfcInverseInfo? info)
@@ -102,7 +103,7 @@ internal sealed class IfcReferences(IfcModel model)
         }
     }
 
-    // In the order of the file; who refers twice counts once.
+    // In file order; an instance that refers twice is returned once.
     private static int[] Distinct(List<int> records)
     {
         int[] all = [.. records];
@@ -135,7 +136,7 @@ internal sealed class IfcReferences(IfcModel model)
         return referrer.Class.IsA(info.Referrer) && Entities(referrer.Values[info.Attribute], model).Contains(target);
     }
 
-    // Twice over the file: to count, and to fill.
+    // Two passes over the file: to count, and to fill.
     private int[] Gather()
     {
         int count = model.File.Index.Count;

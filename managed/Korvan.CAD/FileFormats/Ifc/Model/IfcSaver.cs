@@ -8,8 +8,8 @@ using Korvan.CAD.FileFormats.Ifc.Header;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>Writes a model: the bytes of its file, with the records that were changed in their places, without those
-/// that were removed, and with those that were added at the end of the data.</summary>
+/// <summary>Writes a model: the bytes of its file, in which changed records replace the original ones, removed records
+/// are left out, and added records follow at the end of the DATA section.</summary>
 internal static class IfcSaver
 {
     internal static void Save(IfcModel model, IfcHeader header, bool isPacked, Stream target)
@@ -26,7 +26,7 @@ internal static class IfcSaver
         Write(model.File.Data, changes, entry);
     }
 
-    // All texts are made before the first byte is written: what cannot be written is found in time.
+    // All records are made before the first byte is written, so that a failure leaves no partial output.
     private static List<(int Start, int End, byte[] Text)> Changes(IfcModel model, IfcHeader header)
     {
         List<(int Start, int End, byte[] Text)> changes = [];

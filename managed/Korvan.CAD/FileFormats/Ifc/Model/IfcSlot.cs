@@ -2,14 +2,14 @@ using Korvan.CAD.FileFormats.Ifc.Schema;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>What may stand in a place: an attribute, or the elements of a list somewhere in one.</summary>
-/// <param name="Schema">The edition.</param>
-/// <param name="Attribute">The attribute that the place belongs to; -1 for a value that stands alone.</param>
+/// <summary>The type of a value: of an attribute, or of the elements of a list within one.</summary>
+/// <param name="Schema">The schema.</param>
+/// <param name="Attribute">The attribute that the place belongs to; -1 for a value outside of all instances.</param>
 /// <param name="Form">The type of the values.</param>
-/// <param name="Shape">What they are.</param>
+/// <param name="Shape">The kind of the values.</param>
 internal readonly record struct IfcSlot(IfcSchema Schema, int Attribute, SchemaForm Form, SchemaShape Shape)
 {
-    /// <summary>Gets what the elements are, of a place of lists.</summary>
+    /// <summary>Gets the slot of the elements of a list.</summary>
     internal IfcSlot Element
     {
         get
@@ -25,14 +25,14 @@ internal readonly record struct IfcSlot(IfcSchema Schema, int Attribute, SchemaF
         return new IfcSlot(one.Schema, attribute, info.Form, info.Shape);
     }
 
-    /// <summary>Gives the place of values of a defined type.</summary>
+    /// <summary>Returns the slot of values of a defined type.</summary>
     internal static IfcSlot Of(IfcSchema schema, string typeName, int attribute)
     {
         SchemaForm form = SchemaForm.Parse(typeName);
         return new IfcSlot(schema, attribute, form, schema.Table.ShapeOf(form));
     }
 
-    /// <summary>Gives the enumeration behind the names of defined types.</summary>
+    /// <summary>Returns the enumeration that the names of defined types resolve to.</summary>
     internal string EnumerationName()
     {
         SchemaForm form = Form;

@@ -4,10 +4,10 @@ using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>The units that a project states for its whole.</summary>
+/// <summary>The units that a project declares.</summary>
 internal static class IfcUnits
 {
-    private static readonly Dictionary<string, UnitType> s_metric = new()
+    private static readonly Dictionary<string, UnitType> MetricUnits = new()
     {
         [""] = UnitType.Meter,
         ["GIGA"] = UnitType.Gigameter,
@@ -21,8 +21,8 @@ internal static class IfcUnits
         ["NANO"] = UnitType.Nanometer,
     };
 
-    // Names that the schema recommends for units based on conversion.
-    private static readonly Dictionary<string, UnitType> s_other = new()
+    // Names that the schema recommends for conversion-based units.
+    private static readonly Dictionary<string, UnitType> OtherUnits = new()
     {
         ["INCH"] = UnitType.Inch,
         ["FOOT"] = UnitType.Foot,
@@ -30,8 +30,8 @@ internal static class IfcUnits
         ["MILE"] = UnitType.Mile,
     };
 
-    /// <summary>Gives the unit of lengths; <see cref="UnitType.Unitless"/> where none is stated,
-    /// <see cref="UnitType.Custom"/> for one that has no name here.</summary>
+    /// <summary>Returns the unit of length; <see cref="UnitType.Unitless"/> if none is declared,
+    /// <see cref="UnitType.Custom"/> for one without a member of its own.</summary>
     internal static UnitType LengthUnit(IfcModel model)
     {
         foreach (IIfcEntity assignment in model.OfClass(model.Schema.FindClass("IfcUnitAssignment")!, false))
@@ -56,10 +56,10 @@ internal static class IfcUnits
         if (unit.IsA("IfcSIUnit"))
         {
             string prefix = unit.GetAttribute("Prefix") as string ?? string.Empty;
-            return s_metric.GetValueOrDefault(prefix, UnitType.Custom);
+            return MetricUnits.GetValueOrDefault(prefix, UnitType.Custom);
         }
 
         string name = unit.IsA("IfcConversionBasedUnit") ? unit.GetAttribute("Name") as string ?? "" : "";
-        return s_other.GetValueOrDefault(name.ToUpperInvariant(), UnitType.Custom);
+        return OtherUnits.GetValueOrDefault(name.ToUpperInvariant(), UnitType.Custom);
     }
 }

@@ -2,8 +2,8 @@ using Korvan.CAD.FileFormats.Ifc.Schema;
 
 namespace Korvan.CAD.FileFormats.Ifc.Model;
 
-/// <summary>An instance of an entity that the schema does not have, of an abstract one, or of several at a time. It is
-/// kept as it was read.</summary>
+/// <summary>An instance of an entity that is unknown or abstract, or a complex instance of several entities. It is kept
+/// as it was read.</summary>
 internal sealed class OpaqueEntity : IfcEntityBase
 {
     internal OpaqueEntity(IfcSchema schema, string name)

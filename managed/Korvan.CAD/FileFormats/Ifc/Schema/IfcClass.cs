@@ -3,7 +3,7 @@ using System.Collections.Generic;
 
 namespace Korvan.CAD.FileFormats.Ifc.Schema;
 
-/// <summary>An entity of an edition. Classes are numbered so that those derived from one follow it without a gap.</summary>
+/// <summary>An entity of a schema. Classes are numbered so that subtypes directly follow their supertype.</summary>
 internal sealed class IfcClass
 {
     private readonly Dictionary<string, int> _attributeNumbers = new(StringComparer.OrdinalIgnoreCase);
@@ -27,20 +27,20 @@ internal sealed class IfcClass
 
     internal IfcSchema Schema { get; }
 
-    /// <summary>Gets the name as the schema spells it.</summary>
+    /// <summary>Gets the name in the spelling of the schema.</summary>
     internal string Name { get; }
 
-    /// <summary>Gets the name as files spell it.</summary>
+    /// <summary>Gets the name in the spelling of files: upper case.</summary>
     internal string Keyword { get; }
 
     internal bool IsAbstract { get; }
 
     internal IfcClass? Parent { get; }
 
-    /// <summary>Gets the number among the classes of the edition.</summary>
+    /// <summary>Gets the number among the classes of the schema.</summary>
     internal int Number { get; }
 
-    /// <summary>Gets the number of the last class that is derived from this one; its own number if none is.</summary>
+    /// <summary>Gets the number of the last subtype; its own number if there is none.</summary>
     internal int Last { get; set; }
 
     /// <summary>Gets all attributes in the order of a record.</summary>
@@ -51,13 +51,14 @@ internal sealed class IfcClass
 
     internal bool IsA(IfcClass other) => Number >= other.Number && Number <= other.Last;
 
-    /// <summary>Gives the place of an attribute, or -1.</summary>
+    /// <summary>Returns the index of an attribute, or -1.</summary>
     internal int AttributeNumber(string name) => _attributeNumbers.GetValueOrDefault(name, -1);
 
-    /// <summary>Gives the place of an inverse attribute, or -1.</summary>
+    /// <summary>Returns the index of an inverse attribute, or -1.</summary>
     internal int InverseNumber(string name) => _inverseNumbers.GetValueOrDefault(name, -1);
 
-    /// <summary>Finds what the inverse attributes refer to; all classes must be known, and bases be linked first.</summary>
+    /// <summary>Resolves the inverse attributes; all classes have to exist, and supertypes have to be linked
+    /// before.</summary>
     internal void Link(SchemaEntity entity)
     {
         IfcInverseInfo[] inherited = Parent?.Inverses ?? [];

@@ -7,17 +7,17 @@ using System.Text;
 
 namespace Korvan.CAD.FileFormats.Ifc.Schema;
 
-/// <summary>One edition of the schema at run time: its classes by name and number, and the managed types behind
-/// them, which are in an assembly of their own.</summary>
+/// <summary>One version of the schema at run time: its classes by name and number, and their managed types, which are
+/// in a separate assembly.</summary>
 internal sealed class IfcSchema
 {
     private const string AssemblyName = "Korvan.CAD.Schemas";
     private const string Root = "Korvan.CAD.FileFormats.Ifc.";
 
-    private static readonly Lazy<IfcSchema> s_ifc2X3 = new(() => new IfcSchema(IfcVersion.IFC2X3, "2X3"));
-    private static readonly Lazy<IfcSchema> s_ifc4 = new(() => new IfcSchema(IfcVersion.IFC4, "4"));
-    private static readonly Lazy<IfcSchema> s_ifc4X3 = new(() => new IfcSchema(IfcVersion.IFC4X3, "4X3"));
-    private static readonly ConcurrentDictionary<Type, IfcClass> s_classes = new();
+    private static readonly Lazy<IfcSchema> Ifc2X3 = new(() => new IfcSchema(IfcVersion.IFC2X3, "2X3"));
+    private static readonly Lazy<IfcSchema> Ifc4 = new(() => new IfcSchema(IfcVersion.IFC4, "4"));
+    private static readonly Lazy<IfcSchema> Ifc4X3 = new(() => new IfcSchema(IfcVersion.IFC4X3, "4X3"));
+    private static readonly ConcurrentDictionary<Type, IfcClass> ClassesByType = new();
 
     private readonly string _suffix;
     private readonly Assembly _assembly = Assembly.Load(AssemblyName);
@@ -56,12 +56,12 @@ internal sealed class IfcSchema
 
     internal static IfcSchema Of(IfcVersion version) => version switch
     {
-        IfcVersion.IFC2X3 => s_ifc2X3.Value,
-        IfcVersion.IFC4 => s_ifc4.Value,
-        _ => s_ifc4X3.Value,
+        IfcVersion.IFC2X3 => Ifc2X3.Value,
+        IfcVersion.IFC4 => Ifc4.Value,
+        _ => Ifc4X3.Value,
     };
 
-    /// <summary>Gives the edition that a managed type of a schema belongs to.</summary>
+    /// <summary>Returns the schema of a managed type.</summary>
     internal static IfcSchema Of(Type type)
     {
         string space = type.Namespace ?? string.Empty;
@@ -70,33 +70,35 @@ internal sealed class IfcSchema
             : Of(IfcVersion.IFC4X3);
     }
 
-    /// <summary>Gives the class of a managed entity type.</summary>
+    /// <summary>Returns the class of a managed entity type.</summary>
     internal static IfcClass ClassOf(Type type) =>
-        s_classes.GetOrAdd(type, static one => Of(one).FindClass(Of(one).Strip(one.Name))!);
+        ClassesByType.GetOrAdd(type, static one => Of(one).FindClass(Of(one).Strip(one.Name))!);
 
-    /// <summary>Finds an entity by its name in the schema, in any case; nothing for no entity.</summary>
+    /// <summary>Finds an entity by its name in the schema, in any case; <see langword="null"/> for no entity.</summary>
     internal IfcClass? FindClass(string name) => _byName.GetValueOrDefault(name);
 
-    /// <summary>Finds an entity by its name, with or without the edition behind it.</summary>
+    /// <summary>Finds an entity by its name, with or without the version suffix.</summary>
     internal IfcClass? FindClassOrType(string name) => FindClass(name) ?? FindClass(Strip(name));
 
-    /// <summary>Makes an instance without attributes. Nothing runs but the constructor that C# gives.</summary>
+    /// <summary>Creates an instance without attributes, by the default constructor.</summary>
     internal IfcEntityBase Create(IfcClass one)
     {
         Type type = _classTypes[one.Number] ??= TypeOf("Entities", one.Name);
         return (IfcEntityBase)Activator.CreateInstance(type)!;
     }
 
-    /// <summary>Gives the spelling of the schema for a defined type or an enumeration; nothing for neither.</summary>
+    /// <summary>Returns the name of a defined type or an enumeration in the spelling of the schema;
+    /// <see langword="null"/> for neither.</summary>
     internal string? TypeNameOf(string keyword) => _typeNames.GetValueOrDefault(keyword);
 
-    /// <summary>Gives the managed type of a defined, select or enumeration type.</summary>
+    /// <summary>Returns the managed type of a defined, select or enumeration type.</summary>
     internal Type TypeOf(string name) => _types.GetOrAdd(name, one => TypeOf("Types", one));
 
-    /// <summary>Gives the items of an enumeration in their order; the first has the value 1.</summary>
+    /// <summary>Returns the items of an enumeration in order; the first has the value 1.</summary>
     internal string[] ItemsOf(string enumeration) => Table.Enumerations[enumeration].Members;
 
-    /// <summary>Tells whether a select type admits a type, by itself, through another select, or as the base of it.</summary>
+    /// <summary>Returns whether a select type admits a type directly, through another select, or through a
+    /// supertype.</summary>
     internal bool Admits(string select, string typeName)
     {
         HashSet<string> members = _members.GetOrAdd(select, AllMembers);
@@ -111,15 +113,15 @@ internal sealed class IfcSchema
         return members.Contains(typeName);
     }
 
-    /// <summary>Takes the edition off the name of a managed type.</summary>
+    /// <summary>Removes the version suffix from the name of a managed type.</summary>
     internal string Strip(string typeName) => typeName.EndsWith(_suffix, StringComparison.OrdinalIgnoreCase)
         ? typeName[..^_suffix.Length]
         : typeName;
 
     private Type TypeOf(string kind, string name)
     {
-        string edition = Version == IfcVersion.IFC2X3 ? "Ifc2x3" : Version == IfcVersion.IFC4 ? "Ifc4" : "Ifc4x3";
-        return _assembly.GetType($"{Root}{edition}.{kind}.{name}{_suffix}", true)!;
+        string folder = Version == IfcVersion.IFC2X3 ? "Ifc2x3" : Version == IfcVersion.IFC4 ? "Ifc4" : "Ifc4x3";
+        return _assembly.GetType($"{Root}{folder}.{kind}.{name}{_suffix}", true)!;
     }
 
     private HashSet<string> AllMembers(string select)
@@ -149,7 +151,7 @@ internal sealed class IfcSchema
         return SchemaTable.Read(reader);
     }
 
-    // Depth first, so that what is derived from a class has the numbers behind its own.
+    // Depth first, so that the numbers of subtypes directly follow that of their supertype.
     private void NumberClasses()
     {
         Dictionary<string, List<SchemaEntity>> derived = new(StringComparer.Ordinal);

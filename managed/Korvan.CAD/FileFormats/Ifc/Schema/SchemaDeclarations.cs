@@ -2,7 +2,7 @@ using System.Collections.Generic;
 
 namespace Korvan.CAD.FileFormats.Ifc.Schema;
 
-/// <summary>An attribute that an entity declares itself.</summary>
+/// <summary>An attribute in the declaration of an entity.</summary>
 internal sealed class SchemaAttribute
 {
     internal SchemaAttribute(string name, bool isOptional, SchemaForm form)
@@ -39,7 +39,7 @@ internal sealed class SchemaInverse
     internal SchemaForm Form { get; }
 }
 
-/// <summary>An entity with what it declares itself.</summary>
+/// <summary>The declaration of an entity, without what it inherits.</summary>
 internal sealed class SchemaEntity
 {
     internal SchemaEntity(string name, string? baseName, bool isAbstract)
@@ -57,7 +57,7 @@ internal sealed class SchemaEntity
 
     internal List<SchemaAttribute> Attributes { get; } = new List<SchemaAttribute>();
 
-    /// <summary>Gets the names of inherited attributes that follow from others here and are not written.</summary>
+    /// <summary>Gets the names of inherited attributes that are derived here and not written.</summary>
     internal List<string> Derived { get; } = new List<string>();
 
     internal List<SchemaInverse> Inverses { get; } = new List<SchemaInverse>();

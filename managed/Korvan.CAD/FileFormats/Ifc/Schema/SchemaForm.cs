@@ -2,7 +2,7 @@ using System;
 
 namespace Korvan.CAD.FileFormats.Ifc.Schema;
 
-/// <summary>A type as an attribute states it: a name, or an aggregate of another form.</summary>
+/// <summary>The declared type of an attribute: a name, or an aggregate of another form.</summary>
 internal sealed class SchemaForm
 {
     private SchemaForm(string text, string name, SchemaForm? element)
@@ -12,16 +12,16 @@ internal sealed class SchemaForm
         Element = element;
     }
 
-    /// <summary>Gets the form in the notation of the tables.</summary>
+    /// <summary>Gets the form in the syntax of the tables.</summary>
     internal string Text { get; }
 
     /// <summary>Gets the name of the type; of an aggregate, that of its innermost elements.</summary>
     internal string Name { get; }
 
-    /// <summary>Gets the form of the elements of an aggregate; nothing for a name.</summary>
+    /// <summary>Gets the form of the elements of an aggregate; <see langword="null"/> for a name.</summary>
     internal SchemaForm? Element { get; }
 
-    /// <summary>Reads a form such as <c>L[1:?]S[2:2]IfcCartesianPoint</c>.</summary>
+    /// <summary>Parses a form such as <c>L[1:?]S[2:2]IfcCartesianPoint</c>.</summary>
     internal static SchemaForm Parse(string text)
     {
         int close = text.IndexOf(']');
@@ -34,7 +34,7 @@ internal sealed class SchemaForm
         return new SchemaForm(text, element.Name, element);
     }
 
-    /// <summary>Words the form as the schema does: <c>LIST [1:?] OF SET [2:2] OF IfcCartesianPoint</c>.</summary>
+    /// <summary>Returns the form in EXPRESS syntax: <c>LIST [1:?] OF SET [2:2] OF IfcCartesianPoint</c>.</summary>
     internal string Describe()
     {
         if (Element is null)

@@ -1,6 +1,6 @@
 namespace Korvan.CAD.FileFormats.Ifc.Schema;
 
-/// <summary>What values of an attribute or a defined type are, behind all names.</summary>
+/// <summary>The kind of the values of an attribute or a defined type, after names are resolved.</summary>
 internal enum SchemaShape
 {
     /// <summary>STRING.</summary>
@@ -21,10 +21,10 @@ internal enum SchemaShape
     /// <summary>BINARY.</summary>
     Binary,
 
-    /// <summary>One item of an enumeration.</summary>
+    /// <summary>ENUMERATION.</summary>
     Enumeration,
 
-    /// <summary>A value of one of several types.</summary>
+    /// <summary>A value of an EXPRESS select type: of one of several types.</summary>
     Select,
 
     /// <summary>A reference to an instance.</summary>

@@ -5,12 +5,12 @@ using System.IO;
 namespace Korvan.CAD.FileFormats.Ifc.Schema;
 
 /// <summary>
-/// The facts of one edition, read from its table. The notation is told by the tool that writes the tables,
-/// <c>tools/express_tables.py</c>. The same source serves the library and what writes the classes of an edition.
+/// The declarations of one schema version, read from its table. <c>tools/express_tables.py</c> writes the tables and
+/// documents their syntax. The library and the source generator share this file.
 /// </summary>
 internal sealed class SchemaTable
 {
-    private static readonly Dictionary<string, SchemaShape> s_simple =
+    private static readonly Dictionary<string, SchemaShape> SimpleTypes =
         new Dictionary<string, SchemaShape>(StringComparer.Ordinal)
         {
             ["STRING"] = SchemaShape.Text,
@@ -45,30 +45,30 @@ internal sealed class SchemaTable
     /// <summary>Reads a table.</summary>
     internal static SchemaTable Read(TextReader reader)
     {
-        var table = new SchemaTable(Words(reader.ReadLine() ?? string.Empty)[1]);
+        var table = new SchemaTable(Tokens(reader.ReadLine() ?? string.Empty)[1]);
         SchemaEntity? entity = null;
         while (reader.ReadLine() is { } line)
         {
-            string[] words = Words(line);
+            string[] tokens = Tokens(line);
             if (line[0] == ' ')
             {
-                AddMember(entity!, words);
+                AddMember(entity!, tokens);
             }
             else
             {
-                entity = table.Add(words);
+                entity = table.Add(tokens);
             }
         }
 
         return table;
     }
 
-    /// <summary>Tells what values of a form are, through the names of defined types.</summary>
+    /// <summary>Returns the kind of the values of a form; names of defined types are resolved.</summary>
     internal SchemaShape ShapeOf(SchemaForm form)
     {
         while (form.Element is null)
         {
-            if (s_simple.TryGetValue(form.Name, out SchemaShape simple))
+            if (SimpleTypes.TryGetValue(form.Name, out SchemaShape simple))
             {
                 return simple;
             }
@@ -87,7 +87,7 @@ internal sealed class SchemaTable
         return SchemaShape.Aggregate;
     }
 
-    /// <summary>Gives the form of the elements of an aggregate, through the names of defined types.</summary>
+    /// <summary>Returns the form of the elements of an aggregate; names of defined types are resolved.</summary>
     internal SchemaForm ElementOf(SchemaForm form)
     {
         while (form.Element is null)
@@ -98,53 +98,53 @@ internal sealed class SchemaTable
         return form.Element;
     }
 
-    private static string[] Words(string line) => line.Split(new[] { ' ' }, StringSplitOptions.RemoveEmptyEntries);
+    private static string[] Tokens(string line) => line.Split(new[] { ' ' }, StringSplitOptions.RemoveEmptyEntries);
 
-    private static void AddMember(SchemaEntity entity, string[] words)
+    private static void AddMember(SchemaEntity entity, string[] tokens)
     {
-        switch (words[0])
+        switch (tokens[0])
         {
             case "*":
-                entity.Derived.Add(words[1].Substring(words[1].IndexOf('.') + 1));
+                entity.Derived.Add(tokens[1].Substring(tokens[1].IndexOf('.') + 1));
                 break;
             case "<":
-                entity.Inverses.Add(new SchemaInverse(words[1], words[2], words[3], SchemaForm.Parse(words[4])));
+                entity.Inverses.Add(new SchemaInverse(tokens[1], tokens[2], tokens[3], SchemaForm.Parse(tokens[4])));
                 break;
             default:
-                bool isOptional = words[1] == "?";
-                SchemaForm form = SchemaForm.Parse(words[words.Length - 1]);
-                entity.Attributes.Add(new SchemaAttribute(words[0], isOptional, form));
+                bool isOptional = tokens[1] == "?";
+                SchemaForm form = SchemaForm.Parse(tokens[tokens.Length - 1]);
+                entity.Attributes.Add(new SchemaAttribute(tokens[0], isOptional, form));
                 break;
         }
     }
 
-    private SchemaEntity? Add(string[] words)
+    private SchemaEntity? Add(string[] tokens)
     {
-        string name = words[1];
-        switch (words[0])
+        string name = tokens[1];
+        switch (tokens[0])
         {
             case "type":
-                DefinedTypes.Add(name, new SchemaDefinedType(name, SchemaForm.Parse(words[2])));
+                DefinedTypes.Add(name, new SchemaDefinedType(name, SchemaForm.Parse(tokens[2])));
                 return null;
             case "enum":
-                Enumerations.Add(name, new SchemaChoice(name, Tail(words)));
+                Enumerations.Add(name, new SchemaChoice(name, Tail(tokens)));
                 return null;
             case "select":
-                Selects.Add(name, new SchemaChoice(name, Tail(words)));
+                Selects.Add(name, new SchemaChoice(name, Tail(tokens)));
                 return null;
             default:
-                string? baseName = words.Length > 3 && words[2] == ":" ? words[3] : null;
-                bool isAbstract = words[words.Length - 1] == "abstract";
+                string? baseName = tokens.Length > 3 && tokens[2] == ":" ? tokens[3] : null;
+                bool isAbstract = tokens[tokens.Length - 1] == "abstract";
                 var entity = new SchemaEntity(name, baseName, isAbstract);
                 Entities.Add(name, entity);
                 return entity;
         }
     }
 
-    private static string[] Tail(string[] words)
+    private static string[] Tail(string[] tokens)
     {
-        string[] tail = new string[words.Length - 2];
-        Array.Copy(words, 2, tail, 0, tail.Length);
+        string[] tail = new string[tokens.Length - 2];
+        Array.Copy(tokens, 2, tail, 0, tail.Length);
         return tail;
     }
 }

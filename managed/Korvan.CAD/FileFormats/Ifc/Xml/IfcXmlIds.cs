@@ -4,15 +4,15 @@ using System.Globalization;
 
 namespace Korvan.CAD.FileFormats.Ifc.Xml;
 
-/// <summary>Numbers for the identifiers of elements: i12 is 12, any other gets a number above those.</summary>
+/// <summary>Numbers for the identifiers of elements: 12 for i12, larger ones for other identifiers.</summary>
 internal sealed class IfcXmlIds
 {
-    private const long Largest = 999_999_999;
+    private const long MaxOwnNumber = 999_999_999;
 
     private readonly Dictionary<string, long> _others = new(StringComparer.Ordinal);
-    private long _last = Largest;
+    private long _last = MaxOwnNumber;
 
-    /// <summary>Gives the number of an identifier; of none, one that no other has.</summary>
+    /// <summary>Returns the number of an identifier; a new one for an element without an identifier.</summary>
     internal long NumberOf(string? id)
     {
         if (id is null)
@@ -22,7 +22,7 @@ internal sealed class IfcXmlIds
 
         ReadOnlySpan<char> digits = id.StartsWith('i') ? id.AsSpan(1) : default;
         if (long.TryParse(digits, NumberStyles.None, CultureInfo.InvariantCulture, out long number)
-            && number is > 0 and <= Largest && digits[0] != '0')
+            && number is > 0 and <= MaxOwnNumber && digits[0] != '0')
         {
             return number;
         }

@@ -7,12 +7,13 @@ using System.Xml.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Ifc.Schema;
 using Korvan.CAD.FileFormats.StepText;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.Ifc.Xml;
 
 /// <summary>
-/// Translates ifcXML of IFC2X3 (ISO 10303-28, version 2, with the configuration i_ifc2x3) into the notation of ISO
-/// 10303-21: an element for an instance becomes a record. What comes of it is verified like any other file.
+/// Translates ifcXML of IFC2X3 (ISO 10303-28, version 2, with the configuration i_ifc2x3) into clear text of ISO
+/// 10303-21: an element becomes a record. The result is verified like any other file.
 /// </summary>
 internal sealed class IfcXmlTranslator(string name, LoadOptions options)
 {
@@ -24,8 +25,8 @@ internal sealed class IfcXmlTranslator(string name, LoadOptions options)
     private readonly XmlHeaderText _header = new();
 
     /// <summary>Translates a file.</summary>
-    /// <exception cref="ImageLoadException">It is no well-formed XML, or an element has no place in the schema and
-    /// damage is not to be ignored.</exception>
+    /// <exception cref="ImageLoadException">It is not well-formed XML, or an element violates the schema and errors are
+    /// not ignored.</exception>
     internal byte[] Translate(byte[] data)
     {
         XmlReaderSettings settings = new()
@@ -43,7 +44,8 @@ internal sealed class IfcXmlTranslator(string name, LoadOptions options)
         }
         catch (XmlException e)
         {
-            throw new ImageLoadException($"'{name}', line {e.LineNumber}: {e.Message}");
+            LoadPlace place = new(name, e.LineNumber);
+            throw new ImageLoadException(new LoadDefect(LoadDefectCode.InvalidXml, place, e.Message.TrimEnd('.')), e);
         }
 
         string text = _header.Text() + _records.ToString() + "ENDSEC;\nEND-ISO-10303-21;\n";
@@ -55,7 +57,8 @@ internal sealed class IfcXmlTranslator(string name, LoadOptions options)
         reader.MoveToContent();
         if (reader.LocalName != "iso_10303_28")
         {
-            throw new ImageLoadException($"'{name}': the root element is {reader.Name}, not iso_10303_28.");
+            string cause = $"the root element is {reader.Name}, not iso_10303_28";
+            throw new ImageLoadException(new LoadDefect(LoadDefectCode.InvalidXml, new LoadPlace(name), cause));
         }
 
         reader.Read();
@@ -99,7 +102,7 @@ internal sealed class IfcXmlTranslator(string name, LoadOptions options)
         reader.Read();
     }
 
-    // Leaves the reader behind the element.
+    // Leaves the reader after the element.
     private static XElement ReadElement(XmlReader reader)
     {
         XElement element;
@@ -122,22 +125,23 @@ internal sealed class IfcXmlTranslator(string name, LoadOptions options)
         catch (IfcXmlException e)
         {
             _records.Length = length;
-            string message = $"'{name}', line {e.Line}: {e.Message}";
+            LoadDefect defect = new(e.Code, new LoadPlace(name, e.Line), e.Message);
             if (!options.IgnoreErrors)
             {
-                throw new ImageLoadException(message, e);
+                throw new ImageLoadException(defect, e);
             }
 
-            options.Errors.Add(message);
+            options.Report(defect);
         }
     }
 
-    // Gives the number of the instance, whose record it writes unless the element only refers to it.
+    // Returns the number of the instance, and writes its record unless the element is only a reference.
     private long Instance(XElement element, int depth)
     {
         if (depth > StepParser.MaxDepth)
         {
-            throw new IfcXmlException(element, $"elements are nested deeper than {StepParser.MaxDepth}.");
+            throw new IfcXmlException(
+                LoadDefectCode.NestedTooDeep, element, $"elements are nested deeper than {StepParser.MaxDepth} levels");
         }
 
         if (element.Attribute("ref") is { } reference)
@@ -146,7 +150,8 @@ internal sealed class IfcXmlTranslator(string name, LoadOptions options)
         }
 
         IfcClass one = _schema.FindClass(element.Name.LocalName)
-            ?? throw new IfcXmlException(element, $"the schema has no entity {element.Name.LocalName}.");
+            ?? throw new IfcXmlException(
+                LoadDefectCode.UnknownEntity, element, $"the schema has no entity {element.Name.LocalName}");
         string[] values = new string[one.Attributes.Length];
         for (int i = 0; i < values.Length; i++)
         {
@@ -158,7 +163,8 @@ internal sealed class IfcXmlTranslator(string name, LoadOptions options)
             int at = one.AttributeNumber(child.Name.LocalName);
             if (at < 0)
             {
-                throw new IfcXmlException(child, $"{one.Name} has no attribute {child.Name.LocalName}.");
+                throw new IfcXmlException(
+                    LoadDefectCode.UnknownAttribute, child, $"{one.Name} has no attribute {child.Name.LocalName}");
             }
 
             IfcAttributeInfo info = one.Attributes[at];
@@ -171,7 +177,7 @@ internal sealed class IfcXmlTranslator(string name, LoadOptions options)
         return id;
     }
 
-    // The value that stands within an element, as it is written in a record.
+    // The value of an element in the syntax of records.
     private string Value(XElement element, SchemaForm form, SchemaShape shape, int depth)
     {
         return shape switch
@@ -180,7 +186,8 @@ internal sealed class IfcXmlTranslator(string name, LoadOptions options)
             SchemaShape.Select => Selected(Only(element), depth),
             SchemaShape.Aggregate => List(element, _schema.Table.ElementOf(form), depth),
             _ => IfcXmlValues.Write(shape, element.Value)
-                ?? throw new IfcXmlException(element, $"'{element.Value}' is no {form.Describe()}."),
+                ?? throw new IfcXmlException(
+                    LoadDefectCode.WrongType, element, $"'{element.Value}' is no {form.Describe()}"),
         };
     }
 
@@ -218,6 +225,7 @@ internal sealed class IfcXmlTranslator(string name, LoadOptions options)
         using IEnumerator<XElement> children = element.Elements().GetEnumerator();
         return children.MoveNext()
             ? children.Current
-            : throw new IfcXmlException(element, $"{element.Name.LocalName} holds no element.");
+            : throw new IfcXmlException(
+                LoadDefectCode.WrongType, element, $"{element.Name.LocalName} holds no element");
     }
 }

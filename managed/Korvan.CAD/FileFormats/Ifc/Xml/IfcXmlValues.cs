@@ -9,10 +9,10 @@ using Korvan.CAD.FileFormats.StepText;
 
 namespace Korvan.CAD.FileFormats.Ifc.Xml;
 
-/// <summary>Simple values of elements in the notation of records.</summary>
+/// <summary>Simple values of elements in the syntax of records.</summary>
 internal static class IfcXmlValues
 {
-    /// <summary>Writes a value; nothing for a text that is none of its shape.</summary>
+    /// <summary>Writes a value; <see langword="null"/> for text that is not of its kind.</summary>
     internal static string? Write(SchemaShape shape, string text)
     {
         string plain = text.Trim();
@@ -20,9 +20,7 @@ internal static class IfcXmlValues
         {
             SchemaShape.Text => Written(target => StepStrings.Encode(text, target)),
             SchemaShape.Real => Real(plain),
-            SchemaShape.Integer => long.TryParse(plain, NumberStyles.AllowLeadingSign, CultureInfo.InvariantCulture, out long whole)
-                ? whole.ToString(CultureInfo.InvariantCulture)
-                : null,
+            SchemaShape.Integer => Integer(plain),
             SchemaShape.Boolean or SchemaShape.Logical => plain switch
             {
                 "true" or "1" => ".T.",
@@ -38,13 +36,21 @@ internal static class IfcXmlValues
         };
     }
 
-    /// <summary>Gives the elements of a list by their positions, where these are stated.</summary>
+    /// <summary>Returns the elements of a list in the order of their pos attributes, if they have any.</summary>
     internal static IEnumerable<XElement> InOrder(XElement list)
     {
         return list.Elements().OrderBy(static element =>
             int.TryParse(element.Attribute("pos")?.Value, NumberStyles.None, CultureInfo.InvariantCulture, out int at)
                 ? at
                 : int.MaxValue);
+    }
+
+    private static string? Integer(string text)
+    {
+        const NumberStyles Style = NumberStyles.AllowLeadingSign;
+        return long.TryParse(text, Style, CultureInfo.InvariantCulture, out long value)
+            ? value.ToString(CultureInfo.InvariantCulture)
+            : null;
     }
 
     private static string? Real(string text)

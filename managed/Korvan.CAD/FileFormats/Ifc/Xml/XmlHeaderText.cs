@@ -4,7 +4,7 @@ using Korvan.CAD.FileFormats.Ifc.Header;
 
 namespace Korvan.CAD.FileFormats.Ifc.Xml;
 
-/// <summary>The header of a file in XML as that of a file of ISO 10303-21.</summary>
+/// <summary>The header of an ifcXML file as a header of ISO 10303-21.</summary>
 internal sealed class XmlHeaderText
 {
     private XElement? _header;
@@ -19,7 +19,8 @@ internal sealed class XmlHeaderText
             One("preprocessor_version"), One("originating_system"), One("authorization"));
         string[] lines =
         [
-            "ISO-10303-21;", "HEADER;", description, fileName, "FILE_SCHEMA(('IFC2X3'));", "ENDSEC;", "DATA;", string.Empty,
+            "ISO-10303-21;", "HEADER;", description, fileName, "FILE_SCHEMA(('IFC2X3'));", "ENDSEC;", "DATA;",
+            string.Empty,
         ];
         return string.Join('\n', lines);
     }

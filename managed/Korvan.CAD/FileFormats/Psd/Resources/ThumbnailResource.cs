@@ -8,28 +8,28 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.FileFormats.Psd.Resources;
 
-/// <summary>The block of a small picture, number 1036.</summary>
+/// <summary>The resource of a thumbnail, number 1036.</summary>
 public class ThumbnailResource : ResourceBlock
 {
     internal const int Number = 1036;
-    private const int HeadBytes = 28;
+    private const int HeaderBytes = 28;
     private const int Quality = 85;
 
     private byte[] _jpegData = [];
 
     /// <summary>Creates a block.</summary>
-    /// <param name="jpegData">The small picture, a JPEG file.</param>
-    /// <exception cref="JpegException">The bytes are no JPEG.</exception>
+    /// <param name="jpegData">The thumbnail as a JPEG file.</param>
+    /// <exception cref="JpegException">The bytes are not a JPEG file.</exception>
     public ThumbnailResource(byte[] jpegData)
         : this(Number, jpegData)
     {
     }
 
     /// <summary>Creates a block.</summary>
-    /// <param name="image">The picture that is made small.</param>
-    /// <param name="largestSide">The longer side of the small picture in pixels, 1 to 1024.</param>
+    /// <param name="image">The image to scale down.</param>
+    /// <param name="largestSide">The longer side of the thumbnail in pixels, 1 to 1024.</param>
     public ThumbnailResource(RasterImage image, int largestSide)
-        : this(Number, Small(image, largestSide))
+        : this(Number, Thumbnail(image, largestSide))
     {
     }
 
@@ -39,21 +39,22 @@ public class ThumbnailResource : ResourceBlock
         JpegData = jpegData;
     }
 
-    /// <summary>Gets the width of the small picture in pixels.</summary>
+    /// <summary>Gets the width of the thumbnail in pixels.</summary>
     public int Width { get; private set; }
 
-    /// <summary>Gets the height of the small picture in pixels.</summary>
+    /// <summary>Gets the height of the thumbnail in pixels.</summary>
     public int Height { get; private set; }
 
-    /// <summary>Gets or sets the small picture, a JPEG file.</summary>
-    /// <exception cref="JpegException">The bytes are no JPEG.</exception>
+    /// <summary>Gets or sets the thumbnail as a JPEG file.</summary>
+    /// <exception cref="JpegException">The bytes are not a JPEG file.</exception>
     public byte[] JpegData
     {
         get => (byte[])_jpegData.Clone();
         set
         {
             Verify.NotNull(value);
-            using PixelGrid pixels = JpegCodec.Decompress(new RasterSource(value, "the small picture", false), value, true, out _);
+            using PixelGrid pixels =
+                JpegCodec.Decompress(new RasterSource(value, "the thumbnail", false), value, true, out _);
             (Width, Height) = (pixels.Width, pixels.Height);
             _jpegData = (byte[])value.Clone();
             Change();
@@ -64,37 +65,38 @@ public class ThumbnailResource : ResourceBlock
     public override byte[] ToBytes()
     {
         int rowBytes = ((Width * 24) + 31) / 32 * 4;
-        byte[] data = [.. new byte[HeadBytes], .. _jpegData];
-        Span<byte> head = data;
-        BinaryPrimitives.WriteInt32BigEndian(head, 1); // JPEG
-        BinaryPrimitives.WriteInt32BigEndian(head[4..], Width);
-        BinaryPrimitives.WriteInt32BigEndian(head[8..], Height);
-        BinaryPrimitives.WriteInt32BigEndian(head[12..], rowBytes);
-        BinaryPrimitives.WriteInt32BigEndian(head[16..], rowBytes * Height);
-        BinaryPrimitives.WriteInt32BigEndian(head[20..], _jpegData.Length);
-        BinaryPrimitives.WriteInt16BigEndian(head[24..], 24);
-        BinaryPrimitives.WriteInt16BigEndian(head[26..], 1);
+        byte[] data = [.. new byte[HeaderBytes], .. _jpegData];
+        Span<byte> header = data;
+        BinaryPrimitives.WriteInt32BigEndian(header, 1); // JPEG
+        BinaryPrimitives.WriteInt32BigEndian(header[4..], Width);
+        BinaryPrimitives.WriteInt32BigEndian(header[8..], Height);
+        BinaryPrimitives.WriteInt32BigEndian(header[12..], rowBytes);
+        BinaryPrimitives.WriteInt32BigEndian(header[16..], rowBytes * Height);
+        BinaryPrimitives.WriteInt32BigEndian(header[20..], _jpegData.Length);
+        BinaryPrimitives.WriteInt16BigEndian(header[24..], 24);
+        BinaryPrimitives.WriteInt16BigEndian(header[26..], 1);
         return data;
     }
 
     internal static byte[] JpegOf(ReadOnlySpan<byte> data, int id)
     {
-        if (data.Length < HeadBytes || BinaryPrimitives.ReadInt32BigEndian(data) != 1)
+        if (data.Length < HeaderBytes || BinaryPrimitives.ReadInt32BigEndian(data) != 1)
         {
-            throw new PsdImageResourceException($"Resource {id} has {data.Length} bytes and holds no small picture as JPEG.");
+            throw new PsdImageResourceException($"Resource {id} has {data.Length} bytes and holds no JPEG thumbnail.");
         }
 
-        return data[HeadBytes..].ToArray();
+        return data[HeaderBytes..].ToArray();
     }
 
-    private static byte[] Small(RasterImage image, int largestSide)
+    private static byte[] Thumbnail(RasterImage image, int largestSide)
     {
         Verify.NotNull(image);
         Verify.InRange(largestSide, 1, 1024);
         double scale = Math.Min(1, (double)largestSide / Math.Max(image.Width, image.Height));
         int width = (int)Math.Max(1, Math.Round(image.Width * scale));
         int height = (int)Math.Max(1, Math.Round(image.Height * scale));
-        using PixelGrid pixels = Raster.Operations.Resampler.Resize(image.Pixels, width, height, ResizeType.Adaptive, 0);
+        using PixelGrid pixels =
+            Raster.Operations.Resampler.Resize(image.Pixels, width, height, ResizeType.Adaptive, 0);
         pixels.Flatten(-1);
         return JpegCodec.Compress(pixels, Jpeg.JpegCompressionColorMode.YCbCr, Quality, false);
     }

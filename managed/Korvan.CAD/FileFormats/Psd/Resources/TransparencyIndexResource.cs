@@ -5,7 +5,7 @@ using Korvan.CAD.CadExceptions.ImageFormats;
 
 namespace Korvan.CAD.FileFormats.Psd.Resources;
 
-/// <summary>The block that names the transparent colour of a palette, number 1047.</summary>
+/// <summary>The resource of the transparent palette index, number 1047.</summary>
 public class TransparencyIndexResource : ResourceBlock
 {
     internal const int Number = 1047;
@@ -13,15 +13,15 @@ public class TransparencyIndexResource : ResourceBlock
     private int _transparencyIndex;
 
     /// <summary>Creates a block.</summary>
-    /// <param name="transparencyIndex">The number of the colour, 0 to 255.</param>
+    /// <param name="transparencyIndex">The palette index, 0 to 255.</param>
     public TransparencyIndexResource(int transparencyIndex)
         : base(Number)
     {
         TransparencyIndex = transparencyIndex;
     }
 
-    /// <summary>Gets or sets the number of the colour, 0 to 255.</summary>
-    /// <exception cref="ArgumentOutOfRangeException">The number is out of its range.</exception>
+    /// <summary>Gets or sets the palette index of the transparent colour, 0 to 255.</summary>
+    /// <exception cref="ArgumentOutOfRangeException">The number is out of range.</exception>
     public int TransparencyIndex
     {
         get => _transparencyIndex;
@@ -40,7 +40,8 @@ public class TransparencyIndexResource : ResourceBlock
     {
         if (data.Length < 2 || BinaryPrimitives.ReadUInt16BigEndian(data) > 255)
         {
-            throw new PsdImageResourceException($"Resource {Number} has {data.Length} bytes; the number of a colour was expected.");
+            throw new PsdImageResourceException(
+                $"Resource {Number} has {data.Length} bytes; a palette index was expected.");
         }
 
         return new TransparencyIndexResource(BinaryPrimitives.ReadUInt16BigEndian(data));

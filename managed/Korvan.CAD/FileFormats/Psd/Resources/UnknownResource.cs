@@ -3,13 +3,13 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Psd.Resources;
 
-/// <summary>A block that is kept as it is.</summary>
+/// <summary>A resource whose content is kept unchanged.</summary>
 public class UnknownResource : ResourceBlock
 {
     private byte[] _data;
 
     /// <summary>Creates a block.</summary>
-    /// <param name="id">The number that tells what it holds, 0 to 65535.</param>
+    /// <param name="id">The resource number, 0 to 65535.</param>
     /// <param name="data">Its content.</param>
     public UnknownResource(int id, byte[] data)
         : base(id)

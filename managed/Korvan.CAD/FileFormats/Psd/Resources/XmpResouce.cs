@@ -3,7 +3,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Psd.Resources;
 
-/// <summary>The block of metadata as properties, number 1060.</summary>
+/// <summary>The resource of XMP metadata, number 1060.</summary>
 public class XmpResouce : ResourceBlock
 {
     internal const int Number = 1060;

@@ -3,20 +3,20 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 
-/// <summary>How facsimile lines are coded; the bits of tags 292 and 293.</summary>
+/// <summary>Options of CCITT group 3 and 4 compression; the bits of tags 292 and 293.</summary>
 [PythonEnum(EnumKind.Flag)]
 [Flags]
 public enum Group3Options
 {
-    /// <summary>Each line for itself.</summary>
+    /// <summary>One-dimensional coding: each line for itself.</summary>
     None = 0,
 
-    /// <summary>Lines are coded by their differences to the line above.</summary>
+    /// <summary>Two-dimensional coding: lines by their differences from the line above.</summary>
     TwoDimensional = 1,
 
-    /// <summary>Stretches may stand uncompressed.</summary>
+    /// <summary>Uncompressed mode may be used.</summary>
     UncompressedMode = 2,
 
-    /// <summary>Ends of lines fall on bytes.</summary>
+    /// <summary>End-of-line codes are aligned to bytes.</summary>
     FillBits = 4,
 }

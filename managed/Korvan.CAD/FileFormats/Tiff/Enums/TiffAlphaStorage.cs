@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 
-/// <summary>What the fourth sample of a pixel means.</summary>
+/// <summary>Meaning of the fourth sample of a pixel; values of tag 338.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TiffAlphaStorage
 {
-    /// <summary>Nothing that is known.</summary>
+    /// <summary>Unspecified.</summary>
     Unspecified = 0,
 
-    /// <summary>Opacity, with which the colours are multiplied.</summary>
+    /// <summary>Associated alpha: colours are premultiplied.</summary>
     Associated = 1,
 
-    /// <summary>Opacity; the colours are plain.</summary>
+    /// <summary>Unassociated alpha: colours are not premultiplied.</summary>
     Unassociated = 2,
 }

@@ -3,26 +3,26 @@ using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 
-/// <summary>How strips and tiles are compressed; the values of tag 259.</summary>
+/// <summary>Compression of strips and tiles; the values of tag 259.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TiffCompressions
 {
-    /// <summary>Plain.</summary>
+    /// <summary>Uncompressed.</summary>
     None = 1,
 
-    /// <summary>Modified Huffman code of black and white lines.</summary>
+    /// <summary>CCITT modified Huffman run-length encoding, black and white.</summary>
     CcittRle = 2,
 
-    /// <summary>ITU-T T.4, facsimile group 3, black and white.</summary>
+    /// <summary>CCITT group 3 (ITU-T T.4), black and white.</summary>
     CcittFax3 = 3,
 
-    /// <summary>ITU-T T.6, facsimile group 4, black and white.</summary>
+    /// <summary>CCITT group 4 (ITU-T T.6), black and white.</summary>
     CcittFax4 = 4,
 
-    /// <summary>Lempel, Ziv and Welch.</summary>
+    /// <summary>LZW.</summary>
     Lzw = 5,
 
-    /// <summary>JPEG as the first edition had it; read where possible, never written.</summary>
+    /// <summary>Old-style JPEG of TIFF 6.0; read where possible, never written.</summary>
     OldJpeg = 6,
 
     /// <summary>JPEG, lossy.</summary>
@@ -31,9 +31,9 @@ public enum TiffCompressions
     /// <summary>Deflate.</summary>
     AdobeDeflate = 8,
 
-    /// <summary>Run lengths of bytes.</summary>
+    /// <summary>PackBits run-length encoding.</summary>
     PackBits = 32773,
 
-    /// <summary>Deflate under its older number.</summary>
+    /// <summary>Deflate under its older, unofficial number.</summary>
     Deflate = 32946,
 }

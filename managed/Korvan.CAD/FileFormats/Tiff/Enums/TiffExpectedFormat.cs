@@ -6,60 +6,60 @@ namespace Korvan.CAD.FileFormats.Tiff.Enums;
 [PythonEnum(EnumKind.Integer)]
 public enum TiffExpectedFormat
 {
-    /// <summary>LZW, red, green and blue.</summary>
+    /// <summary>LZW, RGB.</summary>
     Default = 0,
 
-    /// <summary>Plain, red, green and blue.</summary>
+    /// <summary>Uncompressed, RGB.</summary>
     TiffNoCompressionRgb = 1,
 
-    /// <summary>Plain, with opacity.</summary>
+    /// <summary>Uncompressed, RGB with alpha.</summary>
     TiffNoCompressionRgba = 2,
 
-    /// <summary>Plain, black and white.</summary>
+    /// <summary>Uncompressed, black and white.</summary>
     TiffNoCompressionBw = 3,
 
-    /// <summary>LZW, red, green and blue.</summary>
+    /// <summary>LZW, RGB.</summary>
     TiffLzwRgb = 4,
 
-    /// <summary>LZW, with opacity.</summary>
+    /// <summary>LZW, RGB with alpha.</summary>
     TiffLzwRgba = 5,
 
-    /// <summary>LZW, grey.</summary>
+    /// <summary>LZW, grayscale.</summary>
     TiffLzwGray = 6,
 
-    /// <summary>LZW, 256 colours.</summary>
+    /// <summary>LZW, palette of 256 colours.</summary>
     TiffLzwPalette = 7,
 
     /// <summary>LZW, black and white.</summary>
     TiffLzwBw = 8,
 
-    /// <summary>Deflate, red, green and blue.</summary>
+    /// <summary>Deflate, RGB.</summary>
     TiffDeflateRgb = 9,
 
-    /// <summary>Deflate, with opacity.</summary>
+    /// <summary>Deflate, RGB with alpha.</summary>
     TiffDeflateRgba = 10,
 
-    /// <summary>Deflate, grey.</summary>
+    /// <summary>Deflate, grayscale.</summary>
     TiffDeflateGray = 11,
 
     /// <summary>Deflate, black and white.</summary>
     TiffDeflateBw = 12,
 
-    /// <summary>JPEG inside, red, green and blue.</summary>
+    /// <summary>JPEG, RGB.</summary>
     TiffJpegRgb = 13,
 
-    /// <summary>JPEG inside, grey.</summary>
+    /// <summary>JPEG, grayscale.</summary>
     TiffJpegGray = 14,
 
-    /// <summary>Run lengths, red, green and blue.</summary>
+    /// <summary>PackBits, RGB.</summary>
     TiffPackBitsRgb = 15,
 
-    /// <summary>Modified Huffman, black and white.</summary>
+    /// <summary>CCITT modified Huffman, black and white.</summary>
     TiffCcittRle = 16,
 
-    /// <summary>Facsimile group 3, black and white.</summary>
+    /// <summary>CCITT group 3, black and white.</summary>
     TiffCcittFax3 = 17,
 
-    /// <summary>Facsimile group 4, black and white.</summary>
+    /// <summary>CCITT group 4, black and white.</summary>
     TiffCcittFax4 = 18,
 }

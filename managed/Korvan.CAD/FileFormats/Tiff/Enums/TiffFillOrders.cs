@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 
-/// <summary>The order of bits in a byte; the values of tag 266.</summary>
+/// <summary>Order of bits in a byte; the values of tag 266.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TiffFillOrders
 {

@@ -2,19 +2,19 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 
-/// <summary>What a page is to the others; the values of tag 254.</summary>
+/// <summary>Relation of a page to the others; the values of tag 254.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TiffNewSubFileTypes
 {
-    /// <summary>A picture of its own.</summary>
+    /// <summary>A full-resolution image.</summary>
     FileTypeDefault = 0,
 
-    /// <summary>A smaller version of another.</summary>
+    /// <summary>A reduced-resolution version of another image.</summary>
     FileTypeReducedImage = 1,
 
-    /// <summary>A page of several.</summary>
+    /// <summary>A page of a multi-page document.</summary>
     FileTypePage = 2,
 
-    /// <summary>A mask of another.</summary>
+    /// <summary>A transparency mask of another image.</summary>
     FileTypeMask = 4,
 }

@@ -2,7 +2,7 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 
-/// <summary>Where the first row and column belong; the values of tag 274.</summary>
+/// <summary>Position of row 0 and column 0 in the displayed image; the values of tag 274.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TiffOrientations
 {

@@ -2,29 +2,29 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 
-/// <summary>What samples mean; the values of tag 262.</summary>
+/// <summary>Photometric interpretation of samples; the values of tag 262.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TiffPhotometrics
 {
-    /// <summary>Lightness, 0 is white.</summary>
+    /// <summary>Grayscale, 0 is white.</summary>
     MinIsWhite = 0,
 
-    /// <summary>Lightness, 0 is black.</summary>
+    /// <summary>Grayscale, 0 is black.</summary>
     MinIsBlack = 1,
 
-    /// <summary>Red, green and blue.</summary>
+    /// <summary>RGB.</summary>
     Rgb = 2,
 
-    /// <summary>Numbers of colours in a palette.</summary>
+    /// <summary>Palette indices.</summary>
     Palette = 3,
 
-    /// <summary>Where another picture is to be seen.</summary>
+    /// <summary>Transparency mask of another image.</summary>
     Mask = 4,
 
-    /// <summary>Inks, usually cyan, magenta, yellow and black.</summary>
+    /// <summary>Separated: inks, typically cyan, magenta, yellow and black.</summary>
     Separated = 5,
 
-    /// <summary>Lightness and two differences of colour.</summary>
+    /// <summary>Y'CbCr: luma and two chroma components.</summary>
     Ycbcr = 6,
 
     /// <summary>CIE L*a*b*.</summary>

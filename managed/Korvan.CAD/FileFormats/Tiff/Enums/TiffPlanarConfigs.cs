@@ -2,13 +2,13 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 
-/// <summary>How the samples of pixels lie; the values of tag 284.</summary>
+/// <summary>Planar configuration: storage of samples; the values of tag 284.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TiffPlanarConfigs
 {
-    /// <summary>Pixel by pixel.</summary>
+    /// <summary>Chunky: pixel by pixel.</summary>
     Contiguous = 1,
 
-    /// <summary>A plane for each sample.</summary>
+    /// <summary>Planar: a plane for each sample.</summary>
     Separate = 2,
 }

@@ -2,13 +2,13 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 
-/// <summary>What is stored of samples before LZW or Deflate; the values of tag 317.</summary>
+/// <summary>Prediction applied before LZW or Deflate; the values of tag 317.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TiffPredictor
 {
-    /// <summary>The samples themselves.</summary>
+    /// <summary>None: the samples themselves.</summary>
     None = 1,
 
-    /// <summary>Differences to the pixel at the left.</summary>
+    /// <summary>Horizontal differences: to the pixel at the left.</summary>
     Horizontal = 2,
 }

@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 
-/// <summary>What resolutions count; the values of tag 296.</summary>
+/// <summary>Unit of resolutions; the values of tag 296.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TiffResolutionUnits
 {
-    /// <summary>Nothing: they give the shape of a pixel alone.</summary>
+    /// <summary>No unit: the values give only the aspect ratio of a pixel.</summary>
     None = 1,
 
-    /// <summary>Pixels in an inch.</summary>
+    /// <summary>Pixels per inch.</summary>
     Inch = 2,
 
-    /// <summary>Pixels in a centimetre.</summary>
+    /// <summary>Pixels per centimetre.</summary>
     Centimeter = 3,
 }

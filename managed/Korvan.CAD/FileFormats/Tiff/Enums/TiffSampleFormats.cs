@@ -2,14 +2,14 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 
-/// <summary>How samples are to be read; the values of tag 339.</summary>
+/// <summary>Number format of samples; the values of tag 339.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TiffSampleFormats
 {
-    /// <summary>Unsigned numbers.</summary>
+    /// <summary>Unsigned integers.</summary>
     UInt = 1,
 
-    /// <summary>Signed numbers.</summary>
+    /// <summary>Signed integers.</summary>
     Int = 2,
 
     /// <summary>Floating point.</summary>

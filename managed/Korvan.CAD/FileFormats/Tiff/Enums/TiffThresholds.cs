@@ -2,16 +2,16 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 
-/// <summary>How grey became black and white; the values of tag 263.</summary>
+/// <summary>Method by which gray levels became black and white; the values of tag 263.</summary>
 [PythonEnum(EnumKind.Integer)]
 public enum TiffThresholds
 {
-    /// <summary>By a threshold.</summary>
+    /// <summary>Threshold.</summary>
     NoDithering = 1,
 
-    /// <summary>By a regular pattern.</summary>
+    /// <summary>Ordered dithering.</summary>
     OrderedDithering = 2,
 
-    /// <summary>By spreading errors.</summary>
+    /// <summary>Error diffusion.</summary>
     ErrorDiffusion = 3,
 }

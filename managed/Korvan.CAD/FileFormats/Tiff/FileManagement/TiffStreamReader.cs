@@ -8,15 +8,15 @@ using Korvan.CAD.FileFormats.Tiff.Enums;
 
 namespace Korvan.CAD.FileFormats.Tiff.FileManagement;
 
-/// <summary>Reads numbers of a TIFF or Exif block in its order of bytes. Places are counted from the block's
-/// start.</summary>
+/// <summary>Reads numbers of a TIFF or Exif block in its byte order. Positions are offsets from the start of the
+/// block.</summary>
 public class TiffStreamReader
 {
     private readonly byte[] _data;
 
     /// <summary>Creates a reader.</summary>
     /// <param name="data">The whole block.</param>
-    /// <param name="byteOrder">The order of bytes in numbers.</param>
+    /// <param name="byteOrder">The byte order of numbers.</param>
     public TiffStreamReader(byte[] data, TiffByteOrder byteOrder)
     {
         Verify.NotNull(data);
@@ -26,88 +26,88 @@ public class TiffStreamReader
 
     /// <summary>Creates a reader of the rest of a stream.</summary>
     /// <param name="stream">The stream; it is read to its end.</param>
-    /// <param name="byteOrder">The order of bytes in numbers.</param>
+    /// <param name="byteOrder">The byte order of numbers.</param>
     public TiffStreamReader(Stream stream, TiffByteOrder byteOrder)
         : this(ReadAll(stream), byteOrder)
     {
     }
 
-    /// <summary>Gets the order of bytes in numbers.</summary>
+    /// <summary>Gets the byte order of numbers.</summary>
     public TiffByteOrder ByteOrder { get; }
 
-    /// <summary>Gets how many bytes there are.</summary>
+    /// <summary>Gets the length of the block in bytes.</summary>
     public long Length => _data.Length;
 
     private bool Big => ByteOrder == TiffByteOrder.BigEndian;
 
     /// <summary>Reads bytes.</summary>
-    /// <param name="position">The place of the first.</param>
-    /// <param name="count">How many.</param>
-    /// <returns>Bytes.</returns>
-    /// <exception cref="TiffImageException">The block ends before.</exception>
+    /// <param name="position">The position of the first byte.</param>
+    /// <param name="count">The number of bytes.</param>
+    /// <returns>The bytes.</returns>
+    /// <exception cref="TiffImageException">The bytes lie outside the block.</exception>
     public byte[] ReadBytes(long position, int count) => Take(position, count).ToArray();
 
-    /// <summary>Reads an unsigned number of 8 bits.</summary>
-    /// <param name="position">Its place.</param>
-    /// <returns>An unsigned number of 8 bits.</returns>
+    /// <summary>Reads an unsigned 8-bit integer.</summary>
+    /// <param name="position">The position of the first byte.</param>
+    /// <returns>An unsigned 8-bit integer.</returns>
     public byte ReadByte(long position) => Take(position, 1)[0];
 
-    /// <summary>Reads an unsigned number of 16 bits.</summary>
-    /// <param name="position">Its place.</param>
-    /// <returns>An unsigned number of 16 bits.</returns>
+    /// <summary>Reads an unsigned 16-bit integer.</summary>
+    /// <param name="position">The position of the first byte.</param>
+    /// <returns>An unsigned 16-bit integer.</returns>
     public int ReadUShort(long position)
     {
         ReadOnlySpan<byte> data = Take(position, 2);
         return Big ? BinaryPrimitives.ReadUInt16BigEndian(data) : BinaryPrimitives.ReadUInt16LittleEndian(data);
     }
 
-    /// <summary>Reads a signed number of 16 bits.</summary>
-    /// <param name="position">Its place.</param>
-    /// <returns>A signed number of 16 bits.</returns>
+    /// <summary>Reads a signed 16-bit integer.</summary>
+    /// <param name="position">The position of the first byte.</param>
+    /// <returns>A signed 16-bit integer.</returns>
     public int ReadSShort(long position) => (short)ReadUShort(position);
 
-    /// <summary>Reads an unsigned number of 32 bits.</summary>
-    /// <param name="position">Its place.</param>
-    /// <returns>An unsigned number of 32 bits.</returns>
+    /// <summary>Reads an unsigned 32-bit integer.</summary>
+    /// <param name="position">The position of the first byte.</param>
+    /// <returns>An unsigned 32-bit integer.</returns>
     public long ReadULong(long position)
     {
         ReadOnlySpan<byte> data = Take(position, 4);
         return Big ? BinaryPrimitives.ReadUInt32BigEndian(data) : BinaryPrimitives.ReadUInt32LittleEndian(data);
     }
 
-    /// <summary>Reads a signed number of 32 bits.</summary>
-    /// <param name="position">Its place.</param>
-    /// <returns>A signed number of 32 bits.</returns>
+    /// <summary>Reads a signed 32-bit integer.</summary>
+    /// <param name="position">The position of the first byte.</param>
+    /// <returns>A signed 32-bit integer.</returns>
     public int ReadSLong(long position) => unchecked((int)ReadULong(position));
 
-    /// <summary>Reads a floating point number of 32 bits.</summary>
-    /// <param name="position">Its place.</param>
-    /// <returns>A floating point number of 32 bits.</returns>
+    /// <summary>Reads a 32-bit floating-point number.</summary>
+    /// <param name="position">The position of the first byte.</param>
+    /// <returns>A 32-bit floating-point number.</returns>
     public float ReadFloat(long position) => BitConverter.Int32BitsToSingle(ReadSLong(position));
 
-    /// <summary>Reads a floating point number of 64 bits.</summary>
-    /// <param name="position">Its place.</param>
-    /// <returns>A floating point number of 64 bits.</returns>
+    /// <summary>Reads a 64-bit floating-point number.</summary>
+    /// <param name="position">The position of the first byte.</param>
+    /// <returns>A 64-bit floating-point number.</returns>
     public double ReadDouble(long position)
     {
         ReadOnlySpan<byte> data = Take(position, 8);
         return Big ? BinaryPrimitives.ReadDoubleBigEndian(data) : BinaryPrimitives.ReadDoubleLittleEndian(data);
     }
 
-    /// <summary>Reads two unsigned numbers of 32 bits.</summary>
-    /// <param name="position">Their place.</param>
-    /// <returns>Two unsigned numbers of 32 bits.</returns>
+    /// <summary>Reads two unsigned 32-bit integers.</summary>
+    /// <param name="position">The position of the first byte.</param>
+    /// <returns>Two unsigned 32-bit integers.</returns>
     public TiffRational ReadRational(long position) => new(ReadULong(position), ReadULong(position + 4));
 
-    /// <summary>Reads two signed numbers of 32 bits.</summary>
-    /// <param name="position">Their place.</param>
-    /// <returns>Two signed numbers of 32 bits.</returns>
+    /// <summary>Reads two signed 32-bit integers.</summary>
+    /// <param name="position">The position of the first byte.</param>
+    /// <returns>Two signed 32-bit integers: numerator and denominator.</returns>
     public TiffSRational ReadSRational(long position) => new(ReadSLong(position), ReadSLong(position + 4));
 
-    /// <summary>Reads a text up to its zero byte, or as long as it is.</summary>
-    /// <param name="position">Its place.</param>
-    /// <param name="count">How many bytes it may have.</param>
-    /// <returns>A text up to its zero byte, or as long as it is.</returns>
+    /// <summary>Reads a string up to its zero byte, or to its end without one.</summary>
+    /// <param name="position">The position of the first byte.</param>
+    /// <param name="count">The maximum number of bytes.</param>
+    /// <returns>The string.</returns>
     public string ReadText(long position, int count)
     {
         ReadOnlySpan<byte> data = Take(position, count);
@@ -119,7 +119,8 @@ public class TiffStreamReader
     {
         if (position < 0 || count < 0 || position > _data.Length - count)
         {
-            throw new TiffImageException($"{count} bytes at {position} lie outside of a block of {_data.Length} bytes.");
+            throw new TiffImageException(
+                $"{count} bytes at {position} lie outside of a block of {_data.Length} bytes.");
         }
 
         return _data.AsSpan((int)position, count);

@@ -7,14 +7,14 @@ using Korvan.CAD.FileFormats.Tiff.Enums;
 
 namespace Korvan.CAD.FileFormats.Tiff.FileManagement;
 
-/// <summary>Writes numbers of a TIFF or Exif block in its order of bytes.</summary>
+/// <summary>Writes numbers of a TIFF or Exif block in its byte order.</summary>
 public class TiffStreamWriter
 {
     private readonly Stream _stream;
 
     /// <summary>Creates a writer.</summary>
-    /// <param name="stream">Where bytes go, from its position on.</param>
-    /// <param name="byteOrder">The order of bytes in numbers.</param>
+    /// <param name="stream">The stream to write to, from its position on.</param>
+    /// <param name="byteOrder">The byte order of numbers.</param>
     public TiffStreamWriter(Stream stream, TiffByteOrder byteOrder)
     {
         Verify.NotNull(stream);
@@ -22,15 +22,15 @@ public class TiffStreamWriter
         ByteOrder = byteOrder;
     }
 
-    /// <summary>Gets the order of bytes in numbers.</summary>
+    /// <summary>Gets the byte order of numbers.</summary>
     public TiffByteOrder ByteOrder { get; }
 
-    /// <summary>Gets how many bytes were written by this writer.</summary>
+    /// <summary>Gets the number of bytes that this writer wrote.</summary>
     public long Written { get; private set; }
 
     private bool Big => ByteOrder == TiffByteOrder.BigEndian;
 
-    /// <summary>Writes bytes as they are.</summary>
+    /// <summary>Writes bytes unchanged.</summary>
     /// <param name="data">The bytes.</param>
     public void Write(byte[] data)
     {
@@ -39,10 +39,10 @@ public class TiffStreamWriter
     }
 
     /// <summary>Writes a number of 8 bits.</summary>
-    /// <param name="value">The number.</param>
+    /// <param name="value">The value.</param>
     public void WriteByte(byte value) => Put([value]);
 
-    /// <summary>Writes an unsigned number of 16 bits.</summary>
+    /// <summary>Writes an unsigned 16-bit integer.</summary>
     /// <param name="value">The number, 0 to 65535.</param>
     public void WriteUShort(int value)
     {
@@ -60,11 +60,11 @@ public class TiffStreamWriter
         Put(data);
     }
 
-    /// <summary>Writes a signed number of 16 bits.</summary>
+    /// <summary>Writes a signed 16-bit integer.</summary>
     /// <param name="value">The number, -32768 to 32767.</param>
     public void WriteSShort(int value) => WriteUShort((ushort)checked((short)value));
 
-    /// <summary>Writes an unsigned number of 32 bits.</summary>
+    /// <summary>Writes an unsigned 32-bit integer.</summary>
     /// <param name="value">The number, 0 to 4294967295.</param>
     public void WriteULong(long value)
     {
@@ -82,16 +82,16 @@ public class TiffStreamWriter
         Put(data);
     }
 
-    /// <summary>Writes a signed number of 32 bits.</summary>
-    /// <param name="value">The number.</param>
+    /// <summary>Writes a signed 32-bit integer.</summary>
+    /// <param name="value">The value.</param>
     public void WriteSLong(int value) => WriteULong(unchecked((uint)value));
 
-    /// <summary>Writes a floating point number of 32 bits.</summary>
-    /// <param name="value">The number.</param>
+    /// <summary>Writes a 32-bit floating-point number.</summary>
+    /// <param name="value">The value.</param>
     public void WriteFloat(float value) => WriteSLong(BitConverter.SingleToInt32Bits(value));
 
-    /// <summary>Writes a floating point number of 64 bits.</summary>
-    /// <param name="value">The number.</param>
+    /// <summary>Writes a 64-bit floating-point number.</summary>
+    /// <param name="value">The value.</param>
     public void WriteDouble(double value)
     {
         Span<byte> data = stackalloc byte[8];
@@ -107,7 +107,7 @@ public class TiffStreamWriter
         Put(data);
     }
 
-    /// <summary>Writes two unsigned numbers of 32 bits.</summary>
+    /// <summary>Writes two unsigned 32-bit integers.</summary>
     /// <param name="value">The numbers.</param>
     public void WriteRational(TiffRational value)
     {
@@ -116,7 +116,7 @@ public class TiffStreamWriter
         WriteULong(value.Denominator);
     }
 
-    /// <summary>Writes two signed numbers of 32 bits.</summary>
+    /// <summary>Writes two signed 32-bit integers.</summary>
     /// <param name="value">The numbers.</param>
     public void WriteSRational(TiffSRational value)
     {
@@ -125,7 +125,7 @@ public class TiffStreamWriter
         WriteSLong(value.Denominator);
     }
 
-    /// <summary>Writes a text and its zero byte.</summary>
+    /// <summary>Writes a string and a zero byte.</summary>
     /// <param name="value">The text.</param>
     public void WriteText(string value)
     {

@@ -2,13 +2,13 @@ using Korvan.CAD.FileFormats.Tiff.Enums;
 
 namespace Korvan.CAD.FileFormats.Tiff.InstanceFactory;
 
-/// <summary>Makes fields of one type.</summary>
+/// <summary>Creates tags of one type.</summary>
 public interface ITiffTagCreator
 {
-    /// <summary>Gets the type of the fields.</summary>
+    /// <summary>Gets the type of the tags.</summary>
     TiffDataTypes TagType { get; }
 
-    /// <summary>Makes a field without values.</summary>
-    /// <param name="tagId">The number of the field, 0 to 65535.</param>
+    /// <summary>Creates a tag without values.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
     TiffDataType CreateTag(int tagId);
 }

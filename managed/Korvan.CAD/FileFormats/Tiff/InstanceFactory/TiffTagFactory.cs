@@ -6,7 +6,7 @@ using Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
 namespace Korvan.CAD.FileFormats.Tiff.InstanceFactory;
 
-/// <summary>Makes fields of any type.</summary>
+/// <summary>Creates tags of any type.</summary>
 public static class TiffTagFactory
 {
     private static readonly Dictionary<TiffDataTypes, ITiffTagCreator> Creators = new();
@@ -28,27 +28,28 @@ public static class TiffTagFactory
         Add(TiffDataTypes.Ifd, static id => new TiffIfdType(id));
     }
 
-    /// <summary>Gives what makes fields of a type.</summary>
+    /// <summary>Returns the creator of tags of a type.</summary>
     /// <param name="tagType">The type.</param>
-    /// <returns>What makes fields of a type.</returns>
+    /// <returns>The creator.</returns>
     /// <exception cref="TiffImageException">There is no such type.</exception>
     public static ITiffTagCreator GetCreator(TiffDataTypes tagType)
     {
         return Creators.TryGetValue(tagType, out ITiffTagCreator? creator)
             ? creator
-            : throw new TiffImageException($"There is no type {(int)tagType} of fields; types are numbered 1 to 13.");
+            : throw new TiffImageException($"There is no tag type {(int)tagType}; types are numbered 1 to 13.");
     }
 
-    /// <summary>Makes a field without values.</summary>
-    /// <param name="tagId">The number of the field, 0 to 65535.</param>
+    /// <summary>Creates a tag without values.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
     /// <param name="tagType">The type of its values.</param>
-    /// <returns>A field without values.</returns>
+    /// <returns>The tag.</returns>
     /// <exception cref="TiffImageException">There is no such type.</exception>
     public static TiffDataType CreateTag(int tagId, TiffDataTypes tagType) => GetCreator(tagType).CreateTag(tagId);
 
     internal static bool Knows(int type) => Creators.ContainsKey((TiffDataTypes)type);
 
-    private static void Add(TiffDataTypes type, Func<int, TiffDataType> create) => Creators.Add(type, new Creator(type, create));
+    private static void Add(TiffDataTypes type, Func<int, TiffDataType> create) =>
+        Creators.Add(type, new Creator(type, create));
 
     private sealed class Creator(TiffDataTypes type, Func<int, TiffDataType> create) : ITiffTagCreator
     {

@@ -6,20 +6,20 @@ using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
-/// <summary>A field that is a text.</summary>
+/// <summary>A tag whose value is a string.</summary>
 public class TiffASCIIType : TiffDataType
 {
     private string _text = "";
 
-    /// <summary>Creates a field without text.</summary>
-    /// <param name="tagId">The number of the field.</param>
+    /// <summary>Creates a tag with an empty string.</summary>
+    /// <param name="tagId">The tag number.</param>
     public TiffASCIIType(int tagId)
         : base(tagId)
     {
     }
 
-    /// <summary>Creates a field.</summary>
-    /// <param name="tagId">The number of the field.</param>
+    /// <summary>Creates a tag.</summary>
+    /// <param name="tagId">The tag number.</param>
     /// <param name="text">The text.</param>
     public TiffASCIIType(int tagId, string text)
         : base(tagId)
@@ -27,8 +27,8 @@ public class TiffASCIIType : TiffDataType
         Text = text;
     }
 
-    /// <summary>Gets or sets the text. Characters beyond ASCII are stored as UTF-8, as most programs do.</summary>
-    /// <exception cref="ArgumentException">The text holds a zero character, which would end it.</exception>
+    /// <summary>Gets or sets the string. Characters beyond ASCII are stored as UTF-8.</summary>
+    /// <exception cref="ArgumentException">The string contains a null character, which would end it.</exception>
     public string Text
     {
         get => _text;
@@ -37,7 +37,7 @@ public class TiffASCIIType : TiffDataType
             Verify.NotNull(value);
             if (value.Contains('\0'))
             {
-                throw new ArgumentException("A text of a field cannot hold a zero character.");
+                throw new ArgumentException("The string of a tag cannot contain a null character.");
             }
 
             _text = value;
@@ -47,7 +47,7 @@ public class TiffASCIIType : TiffDataType
     /// <inheritdoc/>
     public override TiffDataTypes TagType => TiffDataTypes.Ascii;
 
-    /// <summary>Gets how many bytes the text takes, with its zero byte.</summary>
+    /// <summary>Gets the size of the string in bytes, with its zero byte.</summary>
     public override int Count => Encoding.UTF8.GetByteCount(_text) + 1;
 
     /// <inheritdoc/>
@@ -56,7 +56,8 @@ public class TiffASCIIType : TiffDataType
     /// <inheritdoc/>
     public override string ToString() => $"{TagId} ({TagType}): {_text}";
 
-    internal override void Read(TiffStreamReader reader, long position, int count) => _text = reader.ReadText(position, count);
+    internal override void Read(TiffStreamReader reader, long position, int count) =>
+        _text = reader.ReadText(position, count);
 
     internal override void Write(TiffStreamWriter writer) => writer.WriteText(_text);
 }

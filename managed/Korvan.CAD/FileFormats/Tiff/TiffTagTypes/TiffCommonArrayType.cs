@@ -1,41 +1,33 @@
 using System;
 using System.Globalization;
-using Korvan.CAD.Binding;
+using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
-/// <summary>A field whose values are numbers.</summary>
+/// <summary>A tag whose values are numbers.</summary>
 public abstract class TiffCommonArrayType : TiffDataType
 {
-    internal TiffCommonArrayType(int tagId)
+    private readonly ITagValues _items;
+
+    internal TiffCommonArrayType(int tagId, ITagValues items)
         : base(tagId)
     {
+        _items = items;
     }
 
-    /// <summary>Gives the values as floating point numbers, whatever their type.</summary>
-    /// <returns>The values as floating point numbers, whatever their type.</returns>
+    /// <summary>Returns the values as floating-point numbers, whatever their type.</summary>
+    /// <returns>The values in their order.</returns>
     public abstract double[] ToDoubles();
 
     /// <inheritdoc/>
     public override string ToString()
     {
-        string values = string.Join(' ', Array.ConvertAll(ToDoubles(), static v => v.ToString(CultureInfo.InvariantCulture)));
-        return $"{TagId} ({TagType}): {values}";
+        string[] values = Array.ConvertAll(ToDoubles(), static v => v.ToString(CultureInfo.InvariantCulture));
+        return $"{TagId} ({TagType}): {string.Join(' ', values)}";
     }
 
-    private protected static void VerifyRange(int[] values, int low, int high)
-    {
-        foreach (int value in values)
-        {
-            Verify.InRange(value, low, high, nameof(values));
-        }
-    }
+    internal override void Read(TiffStreamReader reader, long position, int count) =>
+        _items.Read(reader, position, count);
 
-    private protected static void VerifyRange(long[] values, long low, long high)
-    {
-        foreach (long value in values)
-        {
-            Verify.InRange(value, low, high, nameof(values));
-        }
-    }
+    internal override void Write(TiffStreamWriter writer) => _items.Write(writer);
 }

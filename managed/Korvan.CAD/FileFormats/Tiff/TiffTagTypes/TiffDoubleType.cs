@@ -1,67 +1,50 @@
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
-using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
-/// <summary>A field of floating point numbers of 64 bits.</summary>
+/// <summary>A tag whose values are IEEE 754 floating-point numbers of 64 bits.</summary>
 public class TiffDoubleType : TiffCommonArrayType
 {
-    private double[] _values = [];
+    private readonly TagValues<double> _values;
 
-    /// <summary>Creates a field without values.</summary>
-    /// <param name="tagId">The number of the field.</param>
+    /// <summary>Creates a tag without values.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
     public TiffDoubleType(int tagId)
-        : base(tagId)
+        : this(tagId, new TagValues<double>(TagElements.Double))
     {
     }
 
-    /// <summary>Creates a field.</summary>
-    /// <param name="tagId">The number of the field.</param>
-    /// <param name="values">Its values.</param>
+    /// <summary>Creates a tag.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
+    /// <param name="values">The values.</param>
     public TiffDoubleType(int tagId, double[] values)
-        : base(tagId)
+        : this(tagId)
     {
         Values = values;
+    }
+
+    private TiffDoubleType(int tagId, TagValues<double> values)
+        : base(tagId, values)
+    {
+        _values = values;
     }
 
     /// <summary>Gets or sets the values.</summary>
     public double[] Values
     {
-        get => _values;
-        set
-        {
-            Verify.NotNull(value);
-            _values = value;
-        }
+        get => _values.Items;
+        set => _values.Items = value;
     }
 
     /// <inheritdoc/>
     public override TiffDataTypes TagType => TiffDataTypes.Double;
 
     /// <inheritdoc/>
-    public override int Count => _values.Length;
+    public override int Count => _values.Count;
 
     /// <inheritdoc/>
-    public override int ElementSize => 8;
+    public override int ElementSize => TagElements.Double.Size;
 
     /// <inheritdoc/>
-    public override double[] ToDoubles() => System.Array.ConvertAll(_values, static v => v);
-
-    internal override void Read(TiffStreamReader reader, long position, int count)
-    {
-        _values = new double[count];
-        for (int i = 0; i < count; i++)
-        {
-            _values[i] = reader.ReadDouble(position + (8L * i));
-        }
-    }
-
-    internal override void Write(TiffStreamWriter writer)
-    {
-        foreach (double value in _values)
-        {
-            writer.WriteDouble(value);
-        }
-    }
+    public override double[] ToDoubles() => _values.ToDoubles();
 }

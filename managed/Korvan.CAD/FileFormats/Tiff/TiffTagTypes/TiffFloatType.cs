@@ -1,67 +1,50 @@
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
-using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
-/// <summary>A field of floating point numbers of 32 bits.</summary>
+/// <summary>A tag whose values are IEEE 754 floating-point numbers of 32 bits.</summary>
 public class TiffFloatType : TiffCommonArrayType
 {
-    private float[] _values = [];
+    private readonly TagValues<float> _values;
 
-    /// <summary>Creates a field without values.</summary>
-    /// <param name="tagId">The number of the field.</param>
+    /// <summary>Creates a tag without values.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
     public TiffFloatType(int tagId)
-        : base(tagId)
+        : this(tagId, new TagValues<float>(TagElements.Float))
     {
     }
 
-    /// <summary>Creates a field.</summary>
-    /// <param name="tagId">The number of the field.</param>
-    /// <param name="values">Its values.</param>
+    /// <summary>Creates a tag.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
+    /// <param name="values">The values.</param>
     public TiffFloatType(int tagId, float[] values)
-        : base(tagId)
+        : this(tagId)
     {
         Values = values;
+    }
+
+    private TiffFloatType(int tagId, TagValues<float> values)
+        : base(tagId, values)
+    {
+        _values = values;
     }
 
     /// <summary>Gets or sets the values.</summary>
     public float[] Values
     {
-        get => _values;
-        set
-        {
-            Verify.NotNull(value);
-            _values = value;
-        }
+        get => _values.Items;
+        set => _values.Items = value;
     }
 
     /// <inheritdoc/>
     public override TiffDataTypes TagType => TiffDataTypes.Float;
 
     /// <inheritdoc/>
-    public override int Count => _values.Length;
+    public override int Count => _values.Count;
 
     /// <inheritdoc/>
-    public override int ElementSize => 4;
+    public override int ElementSize => TagElements.Float.Size;
 
     /// <inheritdoc/>
-    public override double[] ToDoubles() => System.Array.ConvertAll(_values, static v => (double)v);
-
-    internal override void Read(TiffStreamReader reader, long position, int count)
-    {
-        _values = new float[count];
-        for (int i = 0; i < count; i++)
-        {
-            _values[i] = reader.ReadFloat(position + (4L * i));
-        }
-    }
-
-    internal override void Write(TiffStreamWriter writer)
-    {
-        foreach (float value in _values)
-        {
-            writer.WriteFloat(value);
-        }
-    }
+    public override double[] ToDoubles() => _values.ToDoubles();
 }

@@ -1,68 +1,52 @@
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
-using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
-/// <summary>A field of places of other directories.</summary>
+/// <summary>A tag whose values are offsets of other directories.</summary>
 public class TiffIfdType : TiffCommonArrayType
 {
-    private long[] _values = [];
+    private readonly TagValues<long> _values;
 
-    /// <summary>Creates a field without values.</summary>
-    /// <param name="tagId">The number of the field.</param>
+    /// <summary>Creates a tag without values.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
     public TiffIfdType(int tagId)
-        : base(tagId)
+        : this(tagId, new TagValues<long>(TagElements.Long))
     {
     }
 
-    /// <summary>Creates a field.</summary>
-    /// <param name="tagId">The number of the field.</param>
-    /// <param name="values">Its values.</param>
+    /// <summary>Creates a tag.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
+    /// <param name="values">The values, each 0 to 4294967295.</param>
+    /// <exception cref="System.ArgumentOutOfRangeException">A value is out of range.</exception>
     public TiffIfdType(int tagId, long[] values)
-        : base(tagId)
+        : this(tagId)
     {
         Values = values;
     }
 
-    /// <summary>Gets or sets the values.</summary>
+    private TiffIfdType(int tagId, TagValues<long> values)
+        : base(tagId, values)
+    {
+        _values = values;
+    }
+
+    /// <summary>Gets or sets the values, each 0 to 4294967295.</summary>
+    /// <exception cref="System.ArgumentOutOfRangeException">A value is out of range.</exception>
     public long[] Values
     {
-        get => _values;
-        set
-        {
-            Verify.NotNull(value);
-            VerifyRange(value, 0, uint.MaxValue);
-            _values = value;
-        }
+        get => _values.Items;
+        set => _values.Items = value;
     }
 
     /// <inheritdoc/>
     public override TiffDataTypes TagType => TiffDataTypes.Ifd;
 
     /// <inheritdoc/>
-    public override int Count => _values.Length;
+    public override int Count => _values.Count;
 
     /// <inheritdoc/>
-    public override int ElementSize => 4;
+    public override int ElementSize => TagElements.Long.Size;
 
     /// <inheritdoc/>
-    public override double[] ToDoubles() => System.Array.ConvertAll(_values, static v => (double)v);
-
-    internal override void Read(TiffStreamReader reader, long position, int count)
-    {
-        _values = new long[count];
-        for (int i = 0; i < count; i++)
-        {
-            _values[i] = reader.ReadULong(position + (4L * i));
-        }
-    }
-
-    internal override void Write(TiffStreamWriter writer)
-    {
-        foreach (long value in _values)
-        {
-            writer.WriteULong(value);
-        }
-    }
+    public override double[] ToDoubles() => _values.ToDoubles();
 }

@@ -1,67 +1,50 @@
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
-using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
-/// <summary>A field of fractions of unsigned numbers.</summary>
+/// <summary>A tag whose values are fractions of unsigned 32-bit integers.</summary>
 public class TiffRationalType : TiffCommonArrayType
 {
-    private TiffRational[] _values = [];
+    private readonly TagValues<TiffRational> _values;
 
-    /// <summary>Creates a field without values.</summary>
-    /// <param name="tagId">The number of the field.</param>
+    /// <summary>Creates a tag without values.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
     public TiffRationalType(int tagId)
-        : base(tagId)
+        : this(tagId, new TagValues<TiffRational>(TagElements.Rational))
     {
     }
 
-    /// <summary>Creates a field.</summary>
-    /// <param name="tagId">The number of the field.</param>
-    /// <param name="values">Its values.</param>
+    /// <summary>Creates a tag.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
+    /// <param name="values">The values.</param>
     public TiffRationalType(int tagId, TiffRational[] values)
-        : base(tagId)
+        : this(tagId)
     {
         Values = values;
+    }
+
+    private TiffRationalType(int tagId, TagValues<TiffRational> values)
+        : base(tagId, values)
+    {
+        _values = values;
     }
 
     /// <summary>Gets or sets the values.</summary>
     public TiffRational[] Values
     {
-        get => _values;
-        set
-        {
-            Verify.NoneIsNull(value);
-            _values = value;
-        }
+        get => _values.Items;
+        set => _values.Items = value;
     }
 
     /// <inheritdoc/>
     public override TiffDataTypes TagType => TiffDataTypes.Rational;
 
     /// <inheritdoc/>
-    public override int Count => _values.Length;
+    public override int Count => _values.Count;
 
     /// <inheritdoc/>
-    public override int ElementSize => 8;
+    public override int ElementSize => TagElements.Rational.Size;
 
     /// <inheritdoc/>
-    public override double[] ToDoubles() => System.Array.ConvertAll(_values, static v => v.Value);
-
-    internal override void Read(TiffStreamReader reader, long position, int count)
-    {
-        _values = new TiffRational[count];
-        for (int i = 0; i < count; i++)
-        {
-            _values[i] = reader.ReadRational(position + (8L * i));
-        }
-    }
-
-    internal override void Write(TiffStreamWriter writer)
-    {
-        foreach (TiffRational value in _values)
-        {
-            writer.WriteRational(value);
-        }
-    }
+    public override double[] ToDoubles() => _values.ToDoubles();
 }

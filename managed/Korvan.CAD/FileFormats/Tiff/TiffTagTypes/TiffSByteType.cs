@@ -1,68 +1,52 @@
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
-using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
-/// <summary>A field of signed numbers of 8 bits.</summary>
+/// <summary>A tag whose values are signed 8-bit integers.</summary>
 public class TiffSByteType : TiffCommonArrayType
 {
-    private int[] _values = [];
+    private readonly TagValues<int> _values;
 
-    /// <summary>Creates a field without values.</summary>
-    /// <param name="tagId">The number of the field.</param>
+    /// <summary>Creates a tag without values.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
     public TiffSByteType(int tagId)
-        : base(tagId)
+        : this(tagId, new TagValues<int>(TagElements.SByte))
     {
     }
 
-    /// <summary>Creates a field.</summary>
-    /// <param name="tagId">The number of the field.</param>
-    /// <param name="values">Its values.</param>
+    /// <summary>Creates a tag.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
+    /// <param name="values">The values, each -128 to 127.</param>
+    /// <exception cref="System.ArgumentOutOfRangeException">A value is out of range.</exception>
     public TiffSByteType(int tagId, int[] values)
-        : base(tagId)
+        : this(tagId)
     {
         Values = values;
     }
 
-    /// <summary>Gets or sets the values.</summary>
+    private TiffSByteType(int tagId, TagValues<int> values)
+        : base(tagId, values)
+    {
+        _values = values;
+    }
+
+    /// <summary>Gets or sets the values, each -128 to 127.</summary>
+    /// <exception cref="System.ArgumentOutOfRangeException">A value is out of range.</exception>
     public int[] Values
     {
-        get => _values;
-        set
-        {
-            Verify.NotNull(value);
-            VerifyRange(value, sbyte.MinValue, sbyte.MaxValue);
-            _values = value;
-        }
+        get => _values.Items;
+        set => _values.Items = value;
     }
 
     /// <inheritdoc/>
     public override TiffDataTypes TagType => TiffDataTypes.SByte;
 
     /// <inheritdoc/>
-    public override int Count => _values.Length;
+    public override int Count => _values.Count;
 
     /// <inheritdoc/>
-    public override int ElementSize => 1;
+    public override int ElementSize => TagElements.SByte.Size;
 
     /// <inheritdoc/>
-    public override double[] ToDoubles() => System.Array.ConvertAll(_values, static v => (double)v);
-
-    internal override void Read(TiffStreamReader reader, long position, int count)
-    {
-        _values = new int[count];
-        for (int i = 0; i < count; i++)
-        {
-            _values[i] = (sbyte)reader.ReadByte(position + i);
-        }
-    }
-
-    internal override void Write(TiffStreamWriter writer)
-    {
-        foreach (int value in _values)
-        {
-            writer.WriteByte(unchecked((byte)value));
-        }
-    }
+    public override double[] ToDoubles() => _values.ToDoubles();
 }

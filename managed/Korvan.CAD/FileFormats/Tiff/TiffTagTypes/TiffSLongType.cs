@@ -1,67 +1,50 @@
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
-using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
-/// <summary>A field of signed numbers of 32 bits.</summary>
+/// <summary>A tag whose values are signed 32-bit integers.</summary>
 public class TiffSLongType : TiffCommonArrayType
 {
-    private int[] _values = [];
+    private readonly TagValues<int> _values;
 
-    /// <summary>Creates a field without values.</summary>
-    /// <param name="tagId">The number of the field.</param>
+    /// <summary>Creates a tag without values.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
     public TiffSLongType(int tagId)
-        : base(tagId)
+        : this(tagId, new TagValues<int>(TagElements.SLong))
     {
     }
 
-    /// <summary>Creates a field.</summary>
-    /// <param name="tagId">The number of the field.</param>
-    /// <param name="values">Its values.</param>
+    /// <summary>Creates a tag.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
+    /// <param name="values">The values.</param>
     public TiffSLongType(int tagId, int[] values)
-        : base(tagId)
+        : this(tagId)
     {
         Values = values;
+    }
+
+    private TiffSLongType(int tagId, TagValues<int> values)
+        : base(tagId, values)
+    {
+        _values = values;
     }
 
     /// <summary>Gets or sets the values.</summary>
     public int[] Values
     {
-        get => _values;
-        set
-        {
-            Verify.NotNull(value);
-            _values = value;
-        }
+        get => _values.Items;
+        set => _values.Items = value;
     }
 
     /// <inheritdoc/>
     public override TiffDataTypes TagType => TiffDataTypes.SLong;
 
     /// <inheritdoc/>
-    public override int Count => _values.Length;
+    public override int Count => _values.Count;
 
     /// <inheritdoc/>
-    public override int ElementSize => 4;
+    public override int ElementSize => TagElements.SLong.Size;
 
     /// <inheritdoc/>
-    public override double[] ToDoubles() => System.Array.ConvertAll(_values, static v => (double)v);
-
-    internal override void Read(TiffStreamReader reader, long position, int count)
-    {
-        _values = new int[count];
-        for (int i = 0; i < count; i++)
-        {
-            _values[i] = reader.ReadSLong(position + (4L * i));
-        }
-    }
-
-    internal override void Write(TiffStreamWriter writer)
-    {
-        foreach (int value in _values)
-        {
-            writer.WriteSLong(value);
-        }
-    }
+    public override double[] ToDoubles() => _values.ToDoubles();
 }

@@ -1,67 +1,50 @@
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
-using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
-/// <summary>A field of fractions of signed numbers.</summary>
+/// <summary>A tag whose values are fractions of signed 32-bit integers.</summary>
 public class TiffSRationalType : TiffCommonArrayType
 {
-    private TiffSRational[] _values = [];
+    private readonly TagValues<TiffSRational> _values;
 
-    /// <summary>Creates a field without values.</summary>
-    /// <param name="tagId">The number of the field.</param>
+    /// <summary>Creates a tag without values.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
     public TiffSRationalType(int tagId)
-        : base(tagId)
+        : this(tagId, new TagValues<TiffSRational>(TagElements.SRational))
     {
     }
 
-    /// <summary>Creates a field.</summary>
-    /// <param name="tagId">The number of the field.</param>
-    /// <param name="values">Its values.</param>
+    /// <summary>Creates a tag.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
+    /// <param name="values">The values.</param>
     public TiffSRationalType(int tagId, TiffSRational[] values)
-        : base(tagId)
+        : this(tagId)
     {
         Values = values;
+    }
+
+    private TiffSRationalType(int tagId, TagValues<TiffSRational> values)
+        : base(tagId, values)
+    {
+        _values = values;
     }
 
     /// <summary>Gets or sets the values.</summary>
     public TiffSRational[] Values
     {
-        get => _values;
-        set
-        {
-            Verify.NoneIsNull(value);
-            _values = value;
-        }
+        get => _values.Items;
+        set => _values.Items = value;
     }
 
     /// <inheritdoc/>
     public override TiffDataTypes TagType => TiffDataTypes.SRational;
 
     /// <inheritdoc/>
-    public override int Count => _values.Length;
+    public override int Count => _values.Count;
 
     /// <inheritdoc/>
-    public override int ElementSize => 8;
+    public override int ElementSize => TagElements.SRational.Size;
 
     /// <inheritdoc/>
-    public override double[] ToDoubles() => System.Array.ConvertAll(_values, static v => v.Value);
-
-    internal override void Read(TiffStreamReader reader, long position, int count)
-    {
-        _values = new TiffSRational[count];
-        for (int i = 0; i < count; i++)
-        {
-            _values[i] = reader.ReadSRational(position + (8L * i));
-        }
-    }
-
-    internal override void Write(TiffStreamWriter writer)
-    {
-        foreach (TiffSRational value in _values)
-        {
-            writer.WriteSRational(value);
-        }
-    }
+    public override double[] ToDoubles() => _values.ToDoubles();
 }

@@ -1,68 +1,52 @@
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
-using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
-/// <summary>A field of signed numbers of 16 bits.</summary>
+/// <summary>A tag whose values are signed 16-bit integers.</summary>
 public class TiffSShortType : TiffCommonArrayType
 {
-    private int[] _values = [];
+    private readonly TagValues<int> _values;
 
-    /// <summary>Creates a field without values.</summary>
-    /// <param name="tagId">The number of the field.</param>
+    /// <summary>Creates a tag without values.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
     public TiffSShortType(int tagId)
-        : base(tagId)
+        : this(tagId, new TagValues<int>(TagElements.SShort))
     {
     }
 
-    /// <summary>Creates a field.</summary>
-    /// <param name="tagId">The number of the field.</param>
-    /// <param name="values">Its values.</param>
+    /// <summary>Creates a tag.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
+    /// <param name="values">The values, each -32768 to 32767.</param>
+    /// <exception cref="System.ArgumentOutOfRangeException">A value is out of range.</exception>
     public TiffSShortType(int tagId, int[] values)
-        : base(tagId)
+        : this(tagId)
     {
         Values = values;
     }
 
-    /// <summary>Gets or sets the values.</summary>
+    private TiffSShortType(int tagId, TagValues<int> values)
+        : base(tagId, values)
+    {
+        _values = values;
+    }
+
+    /// <summary>Gets or sets the values, each -32768 to 32767.</summary>
+    /// <exception cref="System.ArgumentOutOfRangeException">A value is out of range.</exception>
     public int[] Values
     {
-        get => _values;
-        set
-        {
-            Verify.NotNull(value);
-            VerifyRange(value, short.MinValue, short.MaxValue);
-            _values = value;
-        }
+        get => _values.Items;
+        set => _values.Items = value;
     }
 
     /// <inheritdoc/>
     public override TiffDataTypes TagType => TiffDataTypes.SShort;
 
     /// <inheritdoc/>
-    public override int Count => _values.Length;
+    public override int Count => _values.Count;
 
     /// <inheritdoc/>
-    public override int ElementSize => 2;
+    public override int ElementSize => TagElements.SShort.Size;
 
     /// <inheritdoc/>
-    public override double[] ToDoubles() => System.Array.ConvertAll(_values, static v => (double)v);
-
-    internal override void Read(TiffStreamReader reader, long position, int count)
-    {
-        _values = new int[count];
-        for (int i = 0; i < count; i++)
-        {
-            _values[i] = reader.ReadSShort(position + (2L * i));
-        }
-    }
-
-    internal override void Write(TiffStreamWriter writer)
-    {
-        foreach (int value in _values)
-        {
-            writer.WriteSShort(value);
-        }
-    }
+    public override double[] ToDoubles() => _values.ToDoubles();
 }

@@ -1,55 +1,50 @@
-using System;
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
-using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
-/// <summary>A field of bytes whose meaning the field's number tells.</summary>
+/// <summary>A tag whose values are bytes whose meaning is determined by the tag number.</summary>
 public class TiffUndefinedType : TiffCommonArrayType
 {
-    private byte[] _values = [];
+    private readonly TagValues<byte> _values;
 
-    /// <summary>Creates a field without values.</summary>
-    /// <param name="tagId">The number of the field.</param>
+    /// <summary>Creates a tag without values.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
     public TiffUndefinedType(int tagId)
-        : base(tagId)
+        : this(tagId, new TagValues<byte>(TagElements.Byte))
     {
     }
 
-    /// <summary>Creates a field.</summary>
-    /// <param name="tagId">The number of the field.</param>
-    /// <param name="values">Its bytes.</param>
+    /// <summary>Creates a tag.</summary>
+    /// <param name="tagId">The tag number, 0 to 65535.</param>
+    /// <param name="values">The values.</param>
     public TiffUndefinedType(int tagId, byte[] values)
-        : base(tagId)
+        : this(tagId)
     {
         Values = values;
     }
 
-    /// <summary>Gets or sets the bytes.</summary>
+    private TiffUndefinedType(int tagId, TagValues<byte> values)
+        : base(tagId, values)
+    {
+        _values = values;
+    }
+
+    /// <summary>Gets or sets the values.</summary>
     public byte[] Values
     {
-        get => _values;
-        set
-        {
-            Verify.NotNull(value);
-            _values = value;
-        }
+        get => _values.Items;
+        set => _values.Items = value;
     }
 
     /// <inheritdoc/>
     public override TiffDataTypes TagType => TiffDataTypes.Undefined;
 
     /// <inheritdoc/>
-    public override int Count => _values.Length;
+    public override int Count => _values.Count;
 
     /// <inheritdoc/>
-    public override int ElementSize => 1;
+    public override int ElementSize => TagElements.Byte.Size;
 
     /// <inheritdoc/>
-    public override double[] ToDoubles() => Array.ConvertAll(_values, static v => (double)v);
-
-    internal override void Read(TiffStreamReader reader, long position, int count) => _values = reader.ReadBytes(position, count);
-
-    internal override void Write(TiffStreamWriter writer) => writer.Write(_values);
+    public override double[] ToDoubles() => _values.ToDoubles();
 }

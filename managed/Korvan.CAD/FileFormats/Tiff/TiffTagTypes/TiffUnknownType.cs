@@ -4,8 +4,8 @@ using Korvan.CAD.FileFormats.Tiff.FileManagement;
 
 namespace Korvan.CAD.FileFormats.Tiff.TiffTagTypes;
 
-/// <summary>A field of a type that is not known. Its size is not known either, so that it cannot be kept when the
-/// directory is written anew.</summary>
+/// <summary>A tag of an unknown type. Its size is unknown, too, so it is dropped when the directory is
+/// written.</summary>
 public class TiffUnknownType : TiffDataType
 {
     internal TiffUnknownType(int tagId, int typeNumber, int count, byte[] valueOrOffset)
@@ -16,10 +16,10 @@ public class TiffUnknownType : TiffDataType
         ValueOrOffset = valueOrOffset;
     }
 
-    /// <summary>Gets the number of the type in the file.</summary>
+    /// <summary>Gets the type number in the file.</summary>
     public int TypeNumber { get; }
 
-    /// <summary>Gets the four bytes that hold the values or their place.</summary>
+    /// <summary>Gets the four bytes that hold the values or their offset.</summary>
     public byte[] ValueOrOffset { get; }
 
     /// <inheritdoc/>

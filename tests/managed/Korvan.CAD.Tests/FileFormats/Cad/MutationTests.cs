@@ -72,7 +72,7 @@ public class MutationTests
         _ = (image.Width, image.GetStrings(), image.UnknownEntityCount);
         DxfText.Save(image);
         PngOptions options = new() { VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = 20, PageHeight = 20 }, Timeout = 20_000 };
-        DrawingExporter.Export(image, options, Stream.Null);
+        image.Save(Stream.Null, options);
     }
 
     private static string Changed(string[] lines, Random random)

@@ -47,7 +47,8 @@ public class BinaryReaderTests
     public void Precisions_of_a_picture_end_with_it_and_replaced_defaults_hold_for_all()
     {
         const string defaults = "1184 3022 0020", begin = "0062 0000 0080", wide = "4028 00000001 00000002";
-        CgmFile file = Load(Metafile(defaults, begin, wide, "3022 0010", "4024 0001 0002", "00A0", begin, wide, "00A0"));
+        CgmFile file = Load(
+            Metafile(defaults, begin, wide, "3022 0010", "4024 0001 0002", "00A0", begin, wide, "00A0"));
         Assert.Equal(3, file.Commands.OfType<Polyline>().Count());
         Assert.All(file.Commands.OfType<Polyline>(), line => Assert.Equal([new CgmPoint(1, 2)], line.Points));
     }
@@ -61,10 +62,10 @@ public class BinaryReaderTests
     [InlineData("11C4 0004 0147", "", "CEB1", "α")] // a complete code, "G": UTF-8
     [InlineData("11C4 0004 0147", "", "CEB1 FF", "Î±ÿ")] // what is no UTF-8 after all is not lost
     [InlineData("11C8 0000 0142 0001 0142", "5282 0002", "A1", "Ą")] // the right half of ISO/IEC 8859-2
-    public void Texts_are_read_in_their_character_set(string sets, string choice, string letters, string expected)
+    public void Texts_are_read_in_their_character_set(string sets, string choice, string characters, string expected)
     {
-        int length = Hex(letters).Length;
-        string text = $"{0x4080 + 7 + length:X4} 0000 0000 0001 {length:X2} {letters}" + (length % 2 == 0 ? "00" : "");
+        int length = Hex(characters).Length;
+        string text = $"{0x4080 + 7 + length:X4} 0000 0000 0001 {length:X2} {characters}" + (length % 2 == 0 ? "00" : "");
         CgmFile file = Load(Metafile(sets, "0062 0000 0080", choice, text, "00A0"));
         Assert.Equal(expected, file.Commands.OfType<Text>().Single().Content);
     }
@@ -72,8 +73,10 @@ public class BinaryReaderTests
     [Fact]
     public void Texts_may_be_long_and_in_parts()
     {
-        string letters = string.Concat(Enumerable.Repeat("61", 300));
-        CgmFile file = Load(Metafile("007F 012F FF 012C", letters, "00", "007F 0133 FF 8064", letters[..200], "00C8", letters[200..], "00"));
+        string characters = string.Concat(Enumerable.Repeat("61", 300));
+        CgmFile file = Load(
+            Metafile(
+                "007F 012F FF 012C", characters, "00", "007F 0133 FF 8064", characters[..200], "00C8", characters[200..], "00"));
         Assert.Equal([new string('a', 300), new string('a', 300)], file.PictureNames);
     }
 
@@ -83,8 +86,10 @@ public class BinaryReaderTests
     [InlineData("403F 8002 0001", "byte 4, LINE (4, 1)", "the file ends")] // the next part is missing
     [InlineData("1062 0007", "byte 4, VDCTYPE (1, 3)", "INTEGER, REAL")]
     [InlineData("3022 0011", "byte 4, VDCINTEGERPREC (3, 1)", "17")] // no such precision
-    [InlineData("1062 0001 3046 0000 0009 0017 4028 7F800000 00000000", "byte 16, LINE (4, 1)", "no number")] // infinity
-    [InlineData("1186 1184 4020 0000", "byte 6, BEGMFDEFAULTS (1, 12)", "inside")] // replacements inside of replacements
+    // infinity
+    [InlineData("1062 0001 3046 0000 0009 0017 4028 7F800000 00000000", "byte 16, LINE (4, 1)", "not a number")]
+    // replacements inside of replacements
+    [InlineData("1186 1184 4020 0000", "byte 6, BEGMFDEFAULTS (1, 12)", "nested")]
     [InlineData("0062 0661", "byte 4, BEGPIC (0, 3)", "within a value of 6 bytes")]
     public void Damage_is_told_with_place_and_cause_or_left_out(string element, string place, string cause)
     {
@@ -103,7 +108,9 @@ public class BinaryReaderTests
     {
         var options = new LoadOptions { IgnoreErrors = true };
         var file = CgmFile.Load(Metafile("4026 0001 0002 0003", "1186 3022 0011 4020", Line), "plan.cgm", options);
-        Assert.Equal([typeof(BeginMetafile), typeof(MetafileDefaultsReplacement), typeof(Polyline), typeof(EndMetafile)], file.Commands.Select(one => one.GetType()));
+        Assert.Equal(
+            [typeof(BeginMetafile), typeof(MetafileDefaultsReplacement), typeof(Polyline), typeof(EndMetafile)],
+            file.Commands.Select(one => one.GetType()));
         Assert.Equal(2, options.Errors.Count);
         Assert.StartsWith("'plan.cgm', byte 4, LINE (4, 1): ", options.Errors[0]);
     }

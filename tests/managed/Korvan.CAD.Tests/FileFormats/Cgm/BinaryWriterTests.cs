@@ -23,10 +23,15 @@ public class BinaryWriterTests
         Verify("4028 0001 0002 FFFF 8000", Line(1, 2, -1, -32768));
         Verify("403F 0020" + string.Concat(Enumerable.Repeat("0001", 16)), Line([.. Enumerable.Repeat(1.0, 16)]));
         Verify("1062 0001 4028 00018000 FFFF8000", Real, Line(1.5, -0.5));
-        Verify("1062 0001 3046 0000 0009 0017 4028 3FC00000 BF000000", Real, new VdcRealPrecision { Value = Precision.Floating32 }, Line(1.5, -0.5));
+        Verify(
+            "1062 0001 3046 0000 0009 0017 4028 3FC00000 BF000000", Real,
+            new VdcRealPrecision { Value = Precision.Floating32 }, Line(1.5, -0.5));
         Verify("0063 02 61 E9 00", new BeginPicture("aé"));
         Verify("0069 08 1B2547 CEB1 1B2540 00", new BeginPicture("α"));
-        Verify("1184 3022 0018 0061 0000 4026 7FFFFF 800000", new MetafileDefaultsReplacement { Commands = [new VdcIntegerPrecision { Precision = 24 }] }, new BeginPicture(""), Line(8388607, -8388608));
+        Verify(
+            "1184 3022 0018 0061 0000 4026 7FFFFF 800000",
+            new MetafileDefaultsReplacement { Commands = [new VdcIntegerPrecision { Precision = 24 }] },
+            new BeginPicture(""), Line(8388607, -8388608));
         Verify("2042 0001 5083 0A141E 00", Direct, new LineColour(new CgmColor(Color.FromArgb(10, 20, 30))));
     }
 
@@ -49,9 +54,10 @@ public class BinaryWriterTests
         { "-32769", [new VdcIntegerPrecision { Precision = 16 }, Line(0, -32_769)] },
         { "40000", [Real, Line(40_000, 0)] }, // fixed reals have 16 bits before the point
         { "infinite", [Real, new VdcRealPrecision { Value = Precision.Floating64 }, Line(double.PositiveInfinity, 0)] },
-        { "infinite", [Real, new VdcRealPrecision { Value = Precision.Floating32 }, Line(1e300, 0)] }, // no single can hold it
+        // no single can hold it
+        { "infinite", [Real, new VdcRealPrecision { Value = Precision.Floating32 }, Line(1e300, 0)] },
         { "300", [new LineColour(new CgmColor(300))] }, // numbers of colours have 8 bits
-        { "stands for itself", [new LineColour(new CgmColor(Color.FromArgb(1, 2, 3)))] },
+        { "is direct", [new LineColour(new CgmColor(Color.FromArgb(1, 2, 3)))] },
         { "colour 3", [Direct, new LineColour(new CgmColor(3))] },
         { "translucent", [Direct, new LineColour(new CgmColor(Color.FromArgb(9, 1, 2, 3)))] },
         { "surrogate", [new BeginPicture("\ud800")] },
@@ -78,25 +84,34 @@ public class BinaryWriterTests
             int limit = (int)Math.Min(int.MaxValue, (1L << (bits - 1)) - 1);
             Command[] commands =
             [
-                new IntegerPrecision { Precision = bits }, new ColourIndexPrecision { Precision = bits }, new IndexPrecision { Precision = bits },
+                new IntegerPrecision { Precision = bits }, new ColourIndexPrecision { Precision = bits },
+                new IndexPrecision { Precision = bits },
                 .. Enumerable.Range(0, 50).Select(_ => (Command)new LineColour(new CgmColor(random.Next(limit)))),
                 .. Enumerable.Range(0, 50).Select(_ => (Command)new LineBundleIndex { Index = random.Next(1, limit) }),
             ];
             List<Command> read = Load(Save(commands, CgmFileFormat.Binary)).Commands;
-            Assert.Equal(commands.OfType<LineColour>().Select(one => one.Color), read.OfType<LineColour>().Select(one => one.Color));
-            Assert.Equal(commands.OfType<LineBundleIndex>().Select(one => one.Index), read.OfType<LineBundleIndex>().Select(one => one.Index));
+            Assert.Equal(
+                commands.OfType<LineColour>().Select(one => one.Color),
+                read.OfType<LineColour>().Select(one => one.Color));
+            Assert.Equal(
+                commands.OfType<LineBundleIndex>().Select(one => one.Index),
+                read.OfType<LineBundleIndex>().Select(one => one.Index));
         }
     }
 
     [Theory]
-    [InlineData("B", CharacterSetList.Type.Graphic96, "Łódź é", 6)] // ISO/IEC 8859-2 has each of the letters in a byte
+    [InlineData("B", CharacterSetList.Type.Graphic96, "Łódź é", 6)] // one byte each in ISO/IEC 8859-2
     [InlineData("4/6", CharacterSetList.Type.Graphic96, "αβγ", 3)]
     [InlineData("B", CharacterSetList.Type.Graphic96, "αβγ", 12)] // which it has not: UTF-8 between two sequences
     [InlineData("/I", CharacterSetList.Type.CompleteCode, "αβγ", 6)]
     [InlineData("/L", CharacterSetList.Type.CompleteCode, "αβγ", 6)]
-    public void Texts_are_written_in_their_character_set(string designation, CharacterSetList.Type type, string text, int bytes)
+    public void Texts_are_written_in_their_character_set(
+        string designation, CharacterSetList.Type type, string text, int bytes)
     {
-        Command[] commands = [new CharacterSetList { Types = [type], Designations = [designation] }, new BeginPicture(text)];
+        Command[] commands =
+        [
+            new CharacterSetList { Types = [type], Designations = [designation] }, new BeginPicture(text),
+        ];
         byte[] written = Save(commands, CgmFileFormat.Binary);
         int padding = (1 + bytes) % 2, end = Hex(End).Length;
         Assert.Equal(bytes, written[written.Length - end - padding - bytes - 1]);

@@ -15,7 +15,7 @@ public class CellTests
     private const string Corners = "0000 0000 0000 0001 0001 0000";
 
     [Theory]
-    [InlineData(3, 2, "0001 0001 A000 4000", new[] { 1, 0, 1, 0, 1, 0 })] // 1 bit, packed; lines begin at words
+    [InlineData(3, 2, "0001 0001 A000 4000", new[] { 1, 0, 1, 0, 1, 0 })] // 1 bit, packed; rows start at words
     [InlineData(3, 2, "0002 0001 6C00 2400", new[] { 1, 2, 3, 0, 2, 1 })]
     [InlineData(5, 1, "0004 0001 1234 5000", new[] { 1, 2, 3, 4, 5 })]
     [InlineData(3, 2, "0000 0001 0102 0300 0405 06", new[] { 1, 2, 3, 4, 5, 6 })] // 8 bits are what is usual
@@ -60,7 +60,10 @@ public class CellTests
                 int[] cells = Cells(random, width * height, bits == 0 ? 8 : bits, isIndexed, longest);
                 Command[] commands =
                 [
-                    new ColourSelectionMode { Value = isIndexed ? ColourSelectionMode.Type.Indexed : ColourSelectionMode.Type.Direct },
+                    new ColourSelectionMode
+                    {
+                        Value = isIndexed ? ColourSelectionMode.Type.Indexed : ColourSelectionMode.Type.Direct,
+                    },
                     new CellArray { CellsPerLine = width, LineCount = height, LocalPrecision = bits, Cells = cells },
                     new PatternTable { CellsPerLine = width, LineCount = height, LocalPrecision = bits, Cells = cells },
                 ];
@@ -78,9 +81,19 @@ public class CellTests
     [Fact]
     public void Long_runs_are_written_as_runs_and_others_packed()
     {
-        byte[] one = Save([new CellArray { CellsPerLine = 4, LineCount = 2, Cells = [7, 7, 7, 7, 7, 7, 7, 7] }], CgmFileFormat.Binary);
+        byte[] one = Save(
+            [new CellArray { CellsPerLine = 4, LineCount = 2, Cells = [7, 7, 7, 7, 7, 7, 7, 7] }],
+            CgmFileFormat.Binary);
         Assert.EndsWith("0001" + "07070707" + "07070707" + End, Convert.ToHexString(one));
-        byte[] many = Save([new CellArray { CellsPerLine = 100, LineCount = 2, Cells = [.. Enumerable.Repeat(7, 150), .. Enumerable.Repeat(9, 50)] }], CgmFileFormat.Binary);
+        byte[] many = Save(
+            [
+                new CellArray
+                {
+                    CellsPerLine = 100, LineCount = 2,
+                    Cells = [.. Enumerable.Repeat(7, 150), .. Enumerable.Repeat(9, 50)],
+                },
+            ],
+            CgmFileFormat.Binary);
         Assert.EndsWith("0000" + "006407" + "00" + "003207" + "003209" + End, Convert.ToHexString(many));
     }
 
@@ -99,10 +112,14 @@ public class CellTests
     [InlineData(ColourModel.Model.CieLab, 53.59, 0, 0, 0x808080)]
     [InlineData(ColourModel.Model.CieLuv, 53.24, 175.01, 37.76, 0xFF0000)]
     [InlineData(ColourModel.Model.CieLuv, 87.73, -83.08, 107.40, 0x00FF00)]
-    public void Cie_colours_lead_to_the_ones_that_tables_of_them_name(ColourModel.Model model, double first, double second, double third, int expected)
+    public void Cie_colours_lead_to_the_ones_that_tables_of_them_name(
+        ColourModel.Model model, double first, double second, double third, int expected)
     {
         const double scale = 0.01;
-        var state = new CodingState { ColorModel = model, ColorScale = [scale, scale, scale], ColorOffset = [0, -128, -128] };
+        var state = new CodingState
+        {
+            ColorModel = model, ColorScale = [scale, scale, scale], ColorOffset = [0, -128, -128],
+        };
         var coding = new ColorCoding(state);
         long[] components = [(long)(first / scale), (long)((second + 128) / scale), (long)((third + 128) / scale)];
         AssertNear(expected, coding.ToArgb(components), 1);
@@ -119,7 +136,7 @@ public class CellTests
         AssertNear(0x404040, inks.ToArgb([0, 0, 0, 191]), 0);
         var extent = new ColorCoding(new CodingState { ColorLow = [100, 0, 0, 0], ColorHigh = [200, 65535, 1, 0] });
         AssertNear(0x80FF00, extent.ToArgb([150, 65535, 0]), 0);
-        AssertNear(0x000000, extent.ToArgb([20, 0, 0]), 0); // below what stands for no light
+        AssertNear(0x000000, extent.ToArgb([20, 0, 0]), 0); // below the minimum intensity
         long[] components = new long[3];
         extent.FromArgb(0xFF00FF, components);
         Assert.Equal([200, 0, 1], components);
@@ -144,7 +161,9 @@ public class CellTests
     {
         foreach (int shift in new[] { 16, 8, 0 })
         {
-            Assert.InRange((actual >> shift) & 0xFF, ((expected >> shift) & 0xFF) - tolerance, ((expected >> shift) & 0xFF) + tolerance);
+            Assert.InRange(
+                (actual >> shift) & 0xFF, ((expected >> shift) & 0xFF) - tolerance,
+                ((expected >> shift) & 0xFF) + tolerance);
         }
     }
 }

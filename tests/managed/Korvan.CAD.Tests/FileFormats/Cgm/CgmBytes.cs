@@ -21,12 +21,15 @@ internal static class CgmBytes
     /// <summary>A metafile of elements given as hexadecimal digits, between its delimiters.</summary>
     internal static byte[] Metafile(params string[] elements) => Hex(Begin + string.Concat(elements) + End);
 
-    internal static CgmFile Load(byte[] data, bool ignoreErrors = false) => CgmFile.Load(new MemoryStream(data), ignoreErrors);
+    internal static CgmFile Load(byte[] data, bool ignoreErrors = false) =>
+        CgmFile.Load(new MemoryStream(data), ignoreErrors);
 
-    internal static CgmFile LoadText(string text, bool ignoreErrors = false) => Load(Encoding.Latin1.GetBytes(text), ignoreErrors);
+    internal static CgmFile LoadText(string text, bool ignoreErrors = false) =>
+        Load(Encoding.Latin1.GetBytes(text), ignoreErrors);
 
     /// <summary>Reads the elements of a clear text metafile, without its delimiters.</summary>
-    internal static List<Command> Elements(string text) => [.. LoadText($"BEGMF 't';{text};ENDMF;").Commands.Skip(1).SkipLast(1)];
+    internal static List<Command> Elements(string text) =>
+        [.. LoadText($"BEGMF 't';{text};ENDMF;").Commands.Skip(1).SkipLast(1)];
 
     internal static byte[] Save(IEnumerable<Command> elements, CgmFileFormat format)
     {
@@ -37,5 +40,6 @@ internal static class CgmBytes
         return stream.ToArray();
     }
 
-    internal static string SaveText(params Command[] elements) => Encoding.Latin1.GetString(Save(elements, CgmFileFormat.ClearText));
+    internal static string SaveText(params Command[] elements) =>
+        Encoding.Latin1.GetString(Save(elements, CgmFileFormat.ClearText));
 }

@@ -11,7 +11,7 @@ using static Korvan.CAD.Tests.FileFormats.Cgm.CgmBytes;
 
 namespace Korvan.CAD.Tests.FileFormats.Cgm;
 
-/// <summary>Whole files: what they are told by, how they are read, and that none is written by half.</summary>
+/// <summary>Whole files: detection, reading, and that none is written in part.</summary>
 public sealed class CgmFileTests : IDisposable
 {
     private readonly string _folder = Directory.CreateTempSubdirectory().FullName;
@@ -27,7 +27,11 @@ public sealed class CgmFileTests : IDisposable
     {
         string path = Path.Combine(_folder, "plan.cgm");
         var file = new CgmFile();
-        file.Commands.AddRange([new BeginMetafile("plan"), new MetafileVersion(1), new BeginPicture("one"), new BeginPictureBody(), new EndPicture(), new BeginPicture("two"), new BeginPictureBody(), new EndPicture(), new EndMetafile()]);
+        file.Commands.AddRange(
+            [
+                new BeginMetafile("plan"), new MetafileVersion(1), new BeginPicture("one"), new BeginPictureBody(),
+                new EndPicture(), new BeginPicture("two"), new BeginPictureBody(), new EndPicture(), new EndMetafile(),
+            ]);
         file.Save(path, format);
         if (isPacked)
         {
@@ -51,16 +55,18 @@ public sealed class CgmFileTests : IDisposable
     [InlineData("0022 0974 1022 0001", false)] // a name that is longer than its element
     [InlineData("0000 0100 0100 1010", false)] // an icon
     [InlineData("0001 0000 0012 0100", false)] // a font
-    public void Binary_files_are_told_by_their_first_elements(string head, bool isCgm) =>
-        Assert.Equal(isCgm ? FileFormat.Cgm : FileFormat.Undefined, Image.GetFileFormat(new MemoryStream(Hex(head))));
+    public void Binary_files_are_detected_by_their_first_elements(string header, bool isCgm) =>
+        Assert.Equal(isCgm ? FileFormat.Cgm : FileFormat.Undefined, Image.GetFileFormat(new MemoryStream(Hex(header))));
 
     [Theory]
     [InlineData("BEGMF 'a';", true)]
     [InlineData("\r\n % drawn by hand % b_e$gmf 'a';", true)]
     [InlineData("%!PS-Adobe-3.0\n%%BoundingBox: 0 0 1 1\n", false)]
     [InlineData("BEGIN", false)]
-    public void Clear_text_files_are_told_by_their_first_word(string head, bool isCgm) =>
-        Assert.Equal(isCgm ? FileFormat.Cgm : FileFormat.Undefined, Image.GetFileFormat(new MemoryStream(Encoding.Latin1.GetBytes(head))));
+    public void Clear_text_files_are_detected_by_their_first_keyword(string header, bool isCgm) =>
+        Assert.Equal(
+            isCgm ? FileFormat.Cgm : FileFormat.Undefined,
+            Image.GetFileFormat(new MemoryStream(Encoding.Latin1.GetBytes(header))));
 
     [Theory]
     [InlineData("302022", "character encoding")]
@@ -80,7 +86,8 @@ public sealed class CgmFileTests : IDisposable
     [Fact]
     public void A_packed_file_that_is_cut_is_refused()
     {
-        byte[] packed = Pack(Save([.. Enumerable.Range(0, 1000).Select(i => (Command)new LineWidth(i))], CgmFileFormat.Binary));
+        byte[] packed = Pack(
+            Save([.. Enumerable.Range(0, 1000).Select(i => (Command)new LineWidth(i))], CgmFileFormat.Binary));
         Assert.Throws<ImageLoadException>(() => Load(packed[..(packed.Length / 2)]));
     }
 
@@ -91,7 +98,9 @@ public sealed class CgmFileTests : IDisposable
         File.WriteAllText(path, "old");
         var file = new CgmFile();
         file.Commands.AddRange([new BeginMetafile("t"), new Polyline { Points = [new(1e9, 0)] }, new EndMetafile()]);
-        Assert.StartsWith($"'{path}', command 1, LINE (4, 1): ", Assert.Throws<ImageSaveException>(() => file.Save(path, CgmFileFormat.Binary)).Message);
+        Assert.StartsWith(
+            $"'{path}', command 1, LINE (4, 1): ",
+            Assert.Throws<ImageSaveException>(() => file.Save(path, CgmFileFormat.Binary)).Message);
         var stream = new MemoryStream();
         Assert.Throws<ImageSaveException>(() => file.Save(stream, CgmFileFormat.Binary));
         file.Commands.RemoveRange(1, 2);
@@ -110,7 +119,21 @@ public sealed class CgmFileTests : IDisposable
     public void Changed_files_are_read_or_refused(CgmFileFormat format, int seed)
     {
         // What says how later elements are coded would make the others unfit.
-        byte[] whole = Save([new VdcType { Value = VdcType.Type.Real }, .. CommandSamples.All.Where(one => one is not (BeginMetafile or ColourSelectionMode or MetafileDefaultsReplacement or ColourModel)), new MetafileDefaultsReplacement { Commands = [new LineWidth(1)] }], format);
+        var commands = new RandomCommands(seed, Coding.Narrow);
+        Type[] unfit =
+        [
+            typeof(BeginMetafile), typeof(BeginPicture), typeof(ColourSelectionMode),
+            typeof(MetafileDefaultsReplacement), typeof(ColourModel), typeof(VdcType), typeof(VdcRealPrecision),
+            typeof(VdcIntegerPrecision), typeof(RealPrecision), typeof(IntegerPrecision), typeof(IndexPrecision),
+            typeof(NamePrecision), typeof(ColourPrecision), typeof(ColourIndexPrecision), typeof(ColourValueExtent),
+            typeof(DeviceViewportSpecificationMode),
+        ];
+        byte[] whole = Save(
+            [
+                .. RandomCommands.Kinds.Except(unfit).Select(commands.Create),
+                new MetafileDefaultsReplacement { Commands = [new LineWidth(1)] },
+            ],
+            format);
         Random random = new(seed);
         int read = 0;
         for (int round = 0; round < 3000; round++)
@@ -120,7 +143,9 @@ public sealed class CgmFileTests : IDisposable
             {
                 CgmFile? file = null;
                 Exception? failure = Record.Exception(() => file = Load(changed, forgiving));
-                Assert.True(failure is null or ImageLoadException, $"seed {seed}, round {round}, forgiving {forgiving}: {failure}");
+                Assert.True(
+                    failure is null or ImageLoadException,
+                    $"seed {seed}, round {round}, forgiving {forgiving}: {failure}");
                 read += file is null ? 0 : 1;
             }
         }
@@ -130,7 +155,11 @@ public sealed class CgmFileTests : IDisposable
 
     private static byte[] Changed(byte[] whole, Random random, CgmFileFormat format)
     {
-        string[] words = [";", "'", "\"", "%", "-1", "99999999999", "1e308", "16#FFFF", "LINE", "BEGMFDEFAULTS;", "ENDMFDEFAULTS;", "INCRLINE", "\u001b%G\u00ff"];
+        string[] tokens =
+        [
+            ";", "'", "\"", "%", "-1", "99999999999", "1e308", "16#FFFF", "LINE", "BEGMFDEFAULTS;", "ENDMFDEFAULTS;",
+            "INCRLINE", "\u001b%G\u00ff",
+        ];
         byte[] changed = [.. whole];
         for (int i = random.Next(1, 6); i > 0; i--)
         {
@@ -138,8 +167,8 @@ public sealed class CgmFileTests : IDisposable
             switch (random.Next(4))
             {
                 case 0 when format == CgmFileFormat.ClearText:
-                    byte[] word = Encoding.Latin1.GetBytes(words[random.Next(words.Length)]);
-                    changed = [.. changed[..at], .. word, .. changed[at..]];
+                    byte[] token = Encoding.Latin1.GetBytes(tokens[random.Next(tokens.Length)]);
+                    changed = [.. changed[..at], .. token, .. changed[at..]];
                     break;
                 case 1:
                     changed = [.. changed[..at], .. changed[Math.Min(changed.Length, at + random.Next(1, 9))..]];

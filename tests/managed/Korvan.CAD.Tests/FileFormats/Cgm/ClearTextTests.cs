@@ -12,7 +12,7 @@ using static Korvan.CAD.Tests.FileFormats.Cgm.CgmBytes;
 
 namespace Korvan.CAD.Tests.FileFormats.Cgm;
 
-/// <summary>Words and numbers in all the ways that ISO/IEC 8632-4 lets them be written.</summary>
+/// <summary>Keywords and numbers in all the forms of ISO/IEC 8632-4.</summary>
 public class ClearTextTests
 {
     [Theory]
@@ -46,7 +46,8 @@ public class ClearTextTests
     {
         var flags = Assert.IsType<AspectSourceFlags>(Elements("ASF LINETYPE INDIV TEXTFONT BNDLD;").Single());
         Assert.Equal(AspectSourceFlags.ASFType.TextFontIndex, flags.Infos[1].Type);
-        Assert.Equal(InteriorStyle.Style.Pattern, Assert.IsType<InteriorStyle>(Elements("INTSTYLE PATTERN;").Single()).Value);
+        Assert.Equal(
+            InteriorStyle.Style.Pattern, Assert.IsType<InteriorStyle>(Elements("INTSTYLE PATTERN;").Single()).Value);
         Assert.Throws<ImageLoadException>(() => Elements("TEXTALIGN NORMHORIZ NORM 0 0; VDCTYPE RE;"));
     }
 
@@ -57,7 +58,7 @@ public class ClearTextTests
     [InlineData("\"\"\"\"", "\"")]
     [InlineData("''", "")]
     [InlineData("'a\u001b%G\u00ce\u00b1\u001b%@'", "aα")]
-    public void Texts_keep_what_stands_between_their_quotes(string quoted, string expected)
+    public void Strings_keep_what_is_between_their_quotes(string quoted, string expected)
     {
         Assert.Equal([expected], LoadText($"BEGMF 't';BEGPIC {quoted};BEGPICBODY;ENDPIC;ENDMF;").PictureNames);
     }
@@ -65,7 +66,9 @@ public class ClearTextTests
     [Fact]
     public void Replaced_defaults_are_one_command_and_hold_for_pictures()
     {
-        List<Command> read = Elements("BEGMFDEFAULTS; COLRMODE direct; LINEWIDTHMODE abs; ENDMFDEFAULTS; BEGPIC 'p'; BEGPICBODY; LINECOLR 255 0 16#ff; ENDPIC");
+        List<Command> read = Elements(
+            "BEGMFDEFAULTS; COLRMODE direct; LINEWIDTHMODE abs; ENDMFDEFAULTS; BEGPIC 'p'; BEGPICBODY; "
+            + "LINECOLR 255 0 16#ff; ENDPIC");
         Assert.Equal(2, Assert.IsType<MetafileDefaultsReplacement>(read[0]).Commands.Count);
         Assert.Equal(new CgmColor(Color.FromArgb(255, 0, 255)), read.OfType<LineColour>().Single().Color);
     }
@@ -81,17 +84,18 @@ public class ClearTextTests
     [Theory]
     [InlineData("LINE (1,2) (3);", "line 2, LINE (4, 1)", "the parameters end where")]
     [InlineData("\n\nLINE 1 2 x 4;", "line 4, LINE (4, 1)", "'x' is no number")]
-    [InlineData("LINE 1 2 'a' 4;", "line 2, LINE (4, 1)", "a text stands where")]
-    [InlineData("LINECOLR 1.5;", "line 2, LINECOLR (5, 4)", "'1.5' is no whole number")]
+    [InlineData("LINE 1 2 'a' 4;", "line 2, LINE (4, 1)", "there is a string where")]
+    [InlineData("LINECOLR 1.5;", "line 2, LINECOLR (5, 4)", "'1.5' is no integer")]
     [InlineData("LINECOLR 99999999999;", "line 2, LINECOLR (5, 4)", "99999999999")]
     [InlineData("VDCTYPE WHOLE;", "line 2, VDCTYPE (1, 3)", "none of INTEGER, REAL")]
     [InlineData("INTEGERPREC -9e12 1;", "line 2, INTEGERPREC (1, 4)", "more than 32 bits")]
-    [InlineData("LINECOLR 9#9;", "line 2, LINECOLR (5, 4)", "no whole number")]
+    [InlineData("LINECOLR 9#9;", "line 2, LINECOLR (5, 4)", "no integer")]
     [InlineData("LINE 1e999 0;", "line 2, LINE (4, 1)", "no number")]
-    [InlineData("BEGPIC 'a;", "line 2, BEGPIC (0, 3)", "no quote at its end")]
-    [InlineData("BEGMFDEFAULTS; BEGMFDEFAULTS; ENDMFDEFAULTS; ENDMFDEFAULTS;", "line 2, BEGMFDEFAULTS (1, 12)", "inside")]
+    [InlineData("BEGPIC 'a;", "line 2, BEGPIC (0, 3)", "no closing quote")]
+    [InlineData(
+        "BEGMFDEFAULTS; BEGMFDEFAULTS; ENDMFDEFAULTS; ENDMFDEFAULTS;", "line 2, BEGMFDEFAULTS (1, 12)", "nested")]
     [InlineData("BEGMFDEFAULTS; CLIP OFF;", "line 2, BEGMFDEFAULTS (1, 12)", "without ENDMFDEFAULTS")]
-    [InlineData("CELLARRAY 0 0 1 1 1 0 9999 9999 0 1;", "line 2, CELLARRAY (4, 9)", "more than there are")]
+    [InlineData("CELLARRAY 0 0 1 1 1 0 9999 9999 0 1;", "line 2, CELLARRAY (4, 9)", "more than the file has")]
     public void Damage_is_told_with_line_and_cause_or_left_out(string element, string place, string cause)
     {
         string text = $"BEGMF 't';\n{element}";
@@ -107,8 +111,10 @@ public class ClearTextTests
     [Fact]
     public void What_is_unknown_or_left_over_is_noted_and_kept()
     {
-        CgmFile file = LoadText("BEGMF 't';\nXYZZY 1 ';' (2);\nVDCTYPE REAL 3 4;\nLINE 1 2 x 4;LINE 1 2;\nENDMF;", true);
-        Assert.Equal([Severity.Unsupported, Severity.Warning, Severity.Error], file.Messages.Select(one => one.Severity));
+        CgmFile file = LoadText(
+            "BEGMF 't';\nXYZZY 1 ';' (2);\nVDCTYPE REAL 3 4;\nLINE 1 2 x 4;LINE 1 2;\nENDMF;", true);
+        Assert.Equal(
+            [Severity.Unsupported, Severity.Warning, Severity.Error], file.Messages.Select(one => one.Severity));
         Assert.Equal([2L, 3L, 4L], file.Messages.Select(one => one.Position));
         Assert.Equal("XYZZY 1 ';' (2)", Assert.IsType<UnknownCommand>(file.Commands[1]).Source);
         Assert.Single(file.Commands.OfType<Polyline>());
@@ -127,7 +133,8 @@ public class ClearTextTests
             new LineWidth(0.25),
             new Polyline { Points = [new(1, 2), new(-3, 4)] });
         Assert.Equal(
-            "BEGMF 't';\nBEGMFDEFAULTS;\nCLIP OFF;\nENDMFDEFAULTS;\nINTEGERPREC -32768 32767;\nCOLRPREC 255;\nBEGPIC 'it''s';\n"
+            "BEGMF 't';\nBEGMFDEFAULTS;\nCLIP OFF;\nENDMFDEFAULTS;\nINTEGERPREC -32768 32767;\nCOLRPREC 255;\n"
+            + "BEGPIC 'it''s';\n"
             + "LINEWIDTH 0.25;\nLINE (1,2) (-3,4);\nENDMF;\n",
             text);
     }
@@ -136,7 +143,10 @@ public class ClearTextTests
     public void Lines_end_before_80_letters_and_numbers_come_back_to_the_last_bit()
     {
         var random = new Random(3);
-        Polyline line = new() { Points = [.. Enumerable.Range(0, 500).Select(_ => new CgmPoint(Number(random), Number(random)))] };
+        Polyline line = new()
+        {
+            Points = [.. Enumerable.Range(0, 500).Select(_ => new CgmPoint(Number(random), Number(random)))],
+        };
         string text = SaveText(new VdcType { Value = VdcType.Type.Real }, line);
         Assert.All(text.Split('\n'), one => Assert.True(one.Length <= 80, one));
         Assert.Equal(line.Points, LoadText(text).Commands.OfType<Polyline>().Single().Points);
@@ -145,7 +155,9 @@ public class ClearTextTests
     [Fact]
     public void Records_stand_in_quotes_and_are_read_without_them_too()
     {
-        List<Command> read = Elements("BEGAPS 'a' 'b' STLIST; APSATTR 'region' \"11 1 3 14 2 'it''s' \"\"x\"\" 12 1 .5\"; APSATTR 'region' 11 1 3 14 1 'y'");
+        List<Command> read = Elements(
+            "BEGAPS 'a' 'b' STLIST; APSATTR 'region' \"11 1 3 14 2 'it''s' \"\"x\"\" 12 1 .5\"; "
+            + "APSATTR 'region' 11 1 3 14 1 'y'");
         StructuredDataRecord[] records = [.. read.OfType<ApplicationStructureAttribute>().Select(one => one.Value)];
         Assert.Equal([3], records[0].Members[0].Values);
         Assert.Equal(["it's", "x"], records[0].Members[1].Values);
@@ -155,7 +167,7 @@ public class ClearTextTests
 
     [Theory]
     [InlineData("0.5", "not whole")]
-    [InlineData("binary", "known of a binary file alone")]
+    [InlineData("binary", "has no clear text form")]
     public void What_cannot_be_held_is_refused_by_name(string what, string cause)
     {
         Command command = what == "binary"
@@ -164,5 +176,6 @@ public class ClearTextTests
         Assert.Contains(cause, Assert.Throws<ImageSaveException>(() => SaveText(command)).Message);
     }
 
-    private static double Number(Random random) => BitConverter.Int64BitsToDouble(random.NextInt64()) is var value && double.IsFinite(value) ? value : 0;
+    private static double Number(Random random) =>
+        BitConverter.Int64BitsToDouble(random.NextInt64()) is var value && double.IsFinite(value) ? value : 0;
 }

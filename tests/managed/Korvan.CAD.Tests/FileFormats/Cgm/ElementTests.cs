@@ -8,7 +8,7 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cgm;
 
-/// <summary>The tables of elements: numbers, words and commands belong together.</summary>
+/// <summary>The tables of elements: numbers, keywords and commands belong together.</summary>
 public class ElementTests
 {
     private static readonly (ClassCode Class, Type Elements)[] Classes =
@@ -53,7 +53,7 @@ public class ElementTests
         Assert.Equal(kinds.Order(), Elements.Select(element => element.Name).Order());
     }
 
-    // Numbers and words from the tables of ISO/IEC 8632-3 and 8632-4.
+    // Numbers and keywords from the tables of ISO/IEC 8632-3 and 8632-4.
     [Theory]
     [InlineData("BEGMF", 0, 1)]
     [InlineData("begapsbody", 0, 22)]
@@ -72,11 +72,11 @@ public class ElementTests
     [InlineData("ESCAPE", 6, 1)]
     [InlineData("SEGPICKPRI", 8, 7)]
     [InlineData("APSATTR", 9, 1)]
-    public void Words_lead_to_numbers(string word, int elementClass, int id)
+    public void Keywords_have_the_numbers_of_the_standard(string keyword, int elementClass, int id)
     {
-        Command? command = ElementTables.Find(word)?.Create();
+        Command? command = ElementTables.Find(keyword)?.Create();
         Assert.Equal((elementClass, id), ((int)command!.ElementClass, command.ElementId));
-        Assert.Equal(word.ToUpperInvariant(), command.Keyword);
+        Assert.Equal(keyword.ToUpperInvariant(), command.Keyword);
     }
 
     [Fact]

@@ -27,10 +27,12 @@ public class ForeignFileTests
         Assert.Empty(binary.Messages.Concat(text.Messages));
         Assert.True(binary.Commands.OfType<Polyline>().Count() > 20);
 
-        // The program tells its real numbers with other digits in each.
-        string[] first = Words(binary), second = Words(text);
+        // The program writes its real numbers with other digits in each.
+        string[] first = Tokens(binary), second = Tokens(text);
         Assert.Equal(first.Length, second.Length);
-        Assert.All(first.Zip(second), pair => Assert.True(AreNear(pair.First, pair.Second), $"{pair.First} is no {pair.Second}"));
+        Assert.All(
+            first.Zip(second),
+            pair => Assert.True(AreNear(pair.First, pair.Second), $"{pair.First} is no {pair.Second}"));
     }
 
     [Theory]
@@ -44,17 +46,19 @@ public class ForeignFileTests
         Assert.Equal(plot, written.ToArray());
     }
 
-    private static string[] Words(CgmFile file)
+    private static string[] Tokens(CgmFile file)
     {
         file.Commands.RemoveAll(one => one is RealPrecision);
         var text = new MemoryStream();
         file.Save(text, CgmFileFormat.ClearText);
-        return Encoding.Latin1.GetString(text.ToArray()).Split([' ', '\n', ';', ',', '(', ')'], StringSplitOptions.RemoveEmptyEntries);
+        return Encoding.Latin1.GetString(text.ToArray()).Split(
+            [' ', '\n', ';', ',', '(', ')'], StringSplitOptions.RemoveEmptyEntries);
     }
 
     private static bool AreNear(string first, string second)
     {
-        return double.TryParse(first, CultureInfo.InvariantCulture, out double one) && double.TryParse(second, CultureInfo.InvariantCulture, out double other)
+        return double.TryParse(first, CultureInfo.InvariantCulture, out double one) && double.TryParse(
+            second, CultureInfo.InvariantCulture, out double other)
             ? Math.Abs(one - other) <= 1e-4 * Math.Max(1, Math.Abs(one))
             : first == second;
     }

@@ -10,7 +10,7 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Ifc;
 
-/// <summary>Changes of lists and of models: what they do, and that refused ones do nothing.</summary>
+/// <summary>Changes of lists and of models: their effects, and that refused ones have none.</summary>
 public class ChangeTests
 {
     private const string Set = "#1=IFCPROPERTYSINGLEVALUE('a',$,$,$);\n#2=IFCPROPERTYSINGLEVALUE('b',$,$,$);\n"
@@ -77,7 +77,10 @@ public class ChangeTests
     }
 
     public static TheoryData<string> Refused =>
-        ["insert beyond", "replace beyond", "foreign in list", "foreign behind new", "add with foreign", "wrong type behind new"];
+        [
+            "insert beyond", "replace beyond", "foreign in list", "foreign behind new", "add with foreign",
+            "wrong type behind new",
+        ];
 
     [Theory]
     [MemberData(nameof(Refused))]
@@ -87,7 +90,10 @@ public class ChangeTests
         var set = (IfcPropertySet4)image.GetEntity(4)!;
         var foreign = (IfcProperty4)IfcText.Load(Set).GetEntity(1)!;
         IfcPropertySingleValue4 free = new() { Name = "new" };
-        IfcComplexProperty4 leading = new() { Name = "leads elsewhere", UsageName = "u", HasProperties = new[] { foreign } };
+        IfcComplexProperty4 leading = new()
+        {
+            Name = "leads elsewhere", UsageName = "u", HasProperties = new[] { foreign },
+        };
         string before = IfcText.Saved(image);
         Action change = what switch
         {
@@ -138,7 +144,8 @@ public class ChangeTests
                     sets[0].HasProperties = new[] { property };
                     break;
                 case 6 when sets.Count < 6:
-                    image.AddEntity(new IfcPropertySet4 { GlobalId = $"{round:D22}", HasProperties = new[] { property } });
+                    image.AddEntity(
+                        new IfcPropertySet4 { GlobalId = $"{round:D22}", HasProperties = new[] { property } });
                     break;
             }
 
@@ -153,7 +160,8 @@ public class ChangeTests
     [Fact]
     public void What_refers_to_itself_alone_can_be_removed()
     {
-        IfcImage image = IfcText.Load("#1=IFCLOCALPLACEMENT(#1,#2);\n#2=IFCAXIS2PLACEMENT3D(#3,$,$);\n#3=IFCCARTESIANPOINT((0.,0.,0.));\n");
+        IfcImage image = IfcText.Load(
+            "#1=IFCLOCALPLACEMENT(#1,#2);\n#2=IFCAXIS2PLACEMENT3D(#3,$,$);\n#3=IFCCARTESIANPOINT((0.,0.,0.));\n");
         IIfcEntity own = image.GetEntity(1)!;
         Assert.Same(own, Assert.Single(own.Referrers));
         image.RemoveEntity(own);
@@ -184,7 +192,7 @@ public class ChangeTests
         var set = (IfcPropertySet4)image.GetEntity(4)!;
         for (int round = 0; round < 12; round++)
         {
-            // More searches than are done without a table, each after a change.
+            // More searches than are done without an index, each after a change.
             set.GlobalId = ids[round % 2 * 2];
             Assert.Same(set, image.GetEntityByGlobalId(set.GlobalId));
             Assert.Null(image.GetEntityByGlobalId(ids[2 - (round % 2 * 2)]));
@@ -227,7 +235,9 @@ public class ChangeTests
         Assert.Equal("#1=IFCWALL(5.,$,'n',$,$,$,$,$,.ROUND.);", wall.ToString());
         (wall.GlobalId, wall.PredefinedType) = ("g", IfcWallTypeEnum4.SHEAR);
         ((IfcDirection4)image.GetEntity(2)!).DirectionRatios = new[] { 1.0, 0 };
-        Assert.Contains("#1=IFCWALL('g',$,'n',$,$,$,$,$,.SHEAR.);\n#2=IFCDIRECTION((1.,0.));", IfcText.Saved(image), StringComparison.Ordinal);
+        Assert.Contains(
+            "#1=IFCWALL('g',$,'n',$,$,$,$,$,.SHEAR.);\n#2=IFCDIRECTION((1.,0.));", IfcText.Saved(image),
+            StringComparison.Ordinal);
     }
 
     private static void Same(Action actual, Action expected)
@@ -241,7 +251,8 @@ public class ChangeTests
         foreach (IIfcEntity target in image.Entities)
         {
             long[] walked = [.. image.GetEntitiesOfType("IfcPropertySet")
-                .Where(set => ((IList)set.GetAttribute("HasProperties")!).Contains(target)).Select(set => set.InstanceId)];
+                .Where(set => ((IList)set.GetAttribute("HasProperties")!).Contains(target))
+                .Select(set => set.InstanceId)];
             Assert.Equal(walked, target.Referrers.Select(one => one.InstanceId));
             if (target is IfcProperty4)
             {

@@ -8,6 +8,7 @@ using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Ifc;
 using Korvan.CAD.FileFormats.StepText;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Input;
 using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Ifc;
@@ -22,7 +23,7 @@ public class FileTests
     [InlineData("IFC4", FileFormat.IFC4, IfcVersion.IFC4)]
     [InlineData("ifc4_add2_tc1", FileFormat.IFC4, IfcVersion.IFC4)]
     [InlineData("IFC4X3_ADD2", FileFormat.IFC4, IfcVersion.IFC4X3)]
-    public void Editions_are_told_by_their_names(string schema, FileFormat format, IfcVersion version)
+    public void Schemas_are_detected_by_their_names(string schema, FileFormat format, IfcVersion version)
     {
         string text = IfcText.File(Direction, schema);
         Assert.Equal(format, Image.GetFileFormat(new MemoryStream(Encoding.ASCII.GetBytes(text))));
@@ -30,9 +31,10 @@ public class FileTests
     }
 
     [Fact]
-    public void Headers_may_be_long_and_begin_behind_a_mark()
+    public void Headers_may_be_long_and_follow_a_byte_order_mark()
     {
-        string text = IfcText.File(Direction).Replace("(('')", $"(('{new string('x', 10_000)}')", StringComparison.Ordinal);
+        string text = IfcText.File(Direction)
+            .Replace("(('')", $"(('{new string('x', 10_000)}')", StringComparison.Ordinal);
         byte[] marked = [0xEF, 0xBB, 0xBF, .. Encoding.ASCII.GetBytes(text)];
         var image = (IfcImage)Image.Load(new MemoryStream(marked));
         Assert.Equal(10_000, image.Header.FileDescription.Description[0].Length);
@@ -60,7 +62,8 @@ public class FileTests
         Assert.Equal(FileFormat.IFC2X3, Image.GetFileFormat(new MemoryStream(packed)));
         Assert.Single(((IfcImage)Image.Load(new MemoryStream(packed))).Entities);
 
-        Assert.Contains("holds 2 building models", Refusal(Pack(("a.ifc", model), ("b.ifc", model))), StringComparison.Ordinal);
+        Assert.Contains(
+            "holds 2 building models", Refusal(Pack(("a.ifc", model), ("b.ifc", model))), StringComparison.Ordinal);
         Assert.Contains("ZIP", Refusal(packed[..(packed.Length / 2)]), StringComparison.Ordinal);
         // The size that the directory states, raised to more than these bytes can hold.
         int directory = packed.AsSpan().LastIndexOf("PK\u0001\u0002"u8);
@@ -110,6 +113,10 @@ public class FileTests
         return stream.ToArray();
     }
 
-    private static string Refusal(byte[] data) =>
-        Assert.Throws<ImageLoadException>(() => Image.Load(new MemoryStream(data))).Message;
+    private static string Refusal(byte[] data)
+    {
+        ImageLoadException refusal = Assert.Throws<ImageLoadException>(() => Image.Load(new MemoryStream(data)));
+        Assert.Equal(LoadDefectCode.InvalidArchive, refusal.Defect?.Code);
+        return refusal.Message;
+    }
 }

@@ -15,7 +15,8 @@ internal static class IfcText
         LoadFile(File(records, schema), options);
 
     internal static IfcImage LoadFile(string text, LoadOptions? options = null) =>
-        (IfcImage)Image.Load(new MemoryStream(Encoding.Latin1.GetBytes(text)), "test.ifc", options ?? new LoadOptions());
+        (IfcImage)Image.Load(
+            new MemoryStream(Encoding.Latin1.GetBytes(text)), "test.ifc", options ?? new LoadOptions());
 
     internal static string Saved(IfcImage image)
     {

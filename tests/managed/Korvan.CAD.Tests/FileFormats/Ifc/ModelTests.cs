@@ -12,7 +12,7 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Ifc;
 
-/// <summary>Instances, what refers to them, changes, and what is written back.</summary>
+/// <summary>Instances, their referrers, changes, and saved files.</summary>
 public class ModelTests
 {
     private const string Placements =
@@ -25,7 +25,9 @@ public class ModelTests
         {
             TheoryData<string> names = [];
             string? root = SharedDrawings.Root;
-            IEnumerable<string> files = root is null ? [] : Directory.EnumerateFiles(Path.Combine(root, "ifc"), "*.ifc*");
+            IEnumerable<string> files = root is null
+                ? []
+                : Directory.EnumerateFiles(Path.Combine(root, "ifc"), "*.ifc*");
             foreach (string file in files.Where(file => !file.EndsWith("xml", StringComparison.Ordinal)).Order())
             {
                 names.Add(Path.GetFileName(file));
@@ -44,7 +46,7 @@ public class ModelTests
         Assert.NotEmpty(before);
         foreach (IIfcEntity entity in image.Entities)
         {
-            // Each attribute is set to what it is, so that every record is encoded anew.
+            // Each attribute is set to its own value, so that every record is encoded again.
             for (int i = 0; i < entity.AttributeNames.Count; i++)
             {
                 if (entity.GetAttribute(i) is { } value)
@@ -96,7 +98,7 @@ public class ModelTests
     }
 
     [Fact]
-    public void Entities_of_other_models_and_editions_are_refused()
+    public void Entities_of_other_models_and_schemas_are_refused()
     {
         IfcImage image = IfcText.Load(Placements);
         var placement = (IfcLocalPlacement4)image.GetEntity(2)!;
@@ -116,7 +118,9 @@ public class ModelTests
     public void Derived_and_unknown_values_keep_their_meaning()
     {
         IfcImage image = IfcText.Load(
-            "#1=IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.);\n#2=IFCBSPLINECURVEWITHKNOTS(1,(#3,#3),.UNSPECIFIED.,.U.,.F.,(2,2),(0.,1.),.UNSPECIFIED.);\n#3=IFCCARTESIANPOINT((0.,0.));\n"
+            "#1=IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.);\n"
+            + "#2=IFCBSPLINECURVEWITHKNOTS(1,(#3,#3),.UNSPECIFIED.,.U.,.F.,"
+            + "(2,2),(0.,1.),.UNSPECIFIED.);\n#3=IFCCARTESIANPOINT((0.,0.));\n"
             + "#4=IFCUNITASSIGNMENT((#1));\n");
         var unit = (IfcSIUnit4)image.GetEntity(1)!;
         Assert.Null(unit.Dimensions);
@@ -162,17 +166,19 @@ public class ModelTests
     }
 
     [Theory]
-    [InlineData("#1=IFCWALL('x',$,$,$,$,$,$,$,$);\nENDSEC;\nDATA;\n#1=IFCDOOR('x',$,$,$,$,$,$,$,$,$,$,$,$);\n", "used again in line 11")]
+    [InlineData(
+        "#1=IFCWALL('x',$,$,$,$,$,$,$,$);\nENDSEC;\nDATA;\n#1=IFCDOOR('x',$,$,$,$,$,$,$,$,$,$,$,$);\n",
+        "used again in line 11")]
     [InlineData("#1=IFCWALL('x',$,$,$,$,$,$,$,$);", null)]
     [InlineData("#1=IFCWALL('x',$,$,$,$,$,$,$,$)\n#2=IFCDIRECTION((1.,0.));\n", "line 9, #1: a ';' is missing")]
     [InlineData("#1=IFCWALL('x' $,$,$,$,$,$,$,$);\n", "a ',' or ')' is missing")]
     [InlineData("#0=IFCDIRECTION((1.,0.));\n", "no number above 0")]
     [InlineData("#=IFCDIRECTION((1.,0.));\n", "no number above 0")]
-    [InlineData("#9223372036854775807=IFCDIRECTION((1.,0.));\n", "beyond all bounds")]
+    [InlineData("#9223372036854775807=IFCDIRECTION((1.,0.));\n", "out of range")]
     [InlineData("#900000000000000000=IFCDIRECTION((1.,0.));\n", null)]
     [InlineData("/* no end\n#1=IFCDIRECTION((1.,0.));\n", "comment has no end")]
     [InlineData("&SCOPE\n", "a record or 'ENDSEC;' was expected")]
-    public void Odd_records_are_read_or_refused_by_name(string records, string? message)
+    public void Unusual_records_are_read_or_refused_with_a_reason(string records, string? message)
     {
         Exception? failure = Record.Exception(() => IfcText.Load(records));
         if (message is null)
@@ -208,7 +214,8 @@ public class ModelTests
     {
         byte[] source = Encoding.Latin1.GetBytes(IfcText.File(
             Placements + "#20=IFCPROPERTYSINGLEVALUE('a',$,IFCLABEL('b\\X2\\00C4\\X0\\'),$);\n"
-            + "#21=IFCINDEXEDPOLYCURVE(#22,(IFCLINEINDEX((1,2)),IFCARCINDEX((2,3,4))),.F.);\n#22=IFCCARTESIANPOINTLIST2D(((0.,0.),(1.,0.),(1.,1.),(0.,1.)),$);\n"));
+            + "#21=IFCINDEXEDPOLYCURVE(#22,(IFCLINEINDEX((1,2)),IFCARCINDEX((2,3,4))),.F.);\n"
+            + "#22=IFCCARTESIANPOINTLIST2D(((0.,0.),(1.,0.),(1.,1.),(0.,1.)),$);\n"));
         Random random = new(seed);
         byte[] marks = "()',;#$*.\\\"/=0A\n"u8.ToArray();
         for (int round = 0; round < 1500; round++)
@@ -219,19 +226,20 @@ public class ModelTests
                 data[random.Next(data.Length)] = marks[random.Next(marks.Length)];
             }
 
-            foreach (bool forgiving in new[] { false, true })
+            foreach (bool ignoresErrors in new[] { false, true })
             {
-                Exception? failure = Record.Exception(() => Use(data, forgiving));
+                Exception? failure = Record.Exception(() => Use(data, ignoresErrors));
                 Assert.True(
                     failure is null or ImageLoadException or IfcImageException,
-                    $"seed {seed}, round {round}, forgiving {forgiving}: {failure}");
+                    $"seed {seed}, round {round}, ignoresErrors {ignoresErrors}: {failure}");
             }
         }
     }
 
-    private static void Use(byte[] data, bool forgiving)
+    private static void Use(byte[] data, bool ignoresErrors)
     {
-        using Image image = Image.Load(new MemoryStream(data), "x.ifc", new LoadOptions { IgnoreErrors = forgiving });
+        LoadOptions options = new() { IgnoreErrors = ignoresErrors };
+        using Image image = Image.Load(new MemoryStream(data), "x.ifc", options);
         if (image is IfcImage model)
         {
             foreach (IIfcEntity entity in model.Entities)
@@ -244,7 +252,7 @@ public class ModelTests
         }
     }
 
-    // The instance with all of its values, so that two files can be compared whatever their spelling.
+    // The instance with all of its values, so that files can be compared regardless of their spelling.
     private static string Describe(IIfcEntity entity)
     {
         StringBuilder text = new();

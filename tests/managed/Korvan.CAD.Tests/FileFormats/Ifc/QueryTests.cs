@@ -11,12 +11,15 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Ifc;
 
-/// <summary>Queries beside plain walks over whole models, and damaged records with the places that errors name.</summary>
+/// <summary>Queries compared to scans of whole models, and damaged records with the places in their errors.</summary>
 public class QueryTests
 {
     private static readonly string[] s_types =
-        ["IfcRoot", "IfcObject", "IfcProduct", "IfcElement", "IfcRelationship", "IfcProperty", "IfcRepresentationItem", "IfcCurve",
-         "IfcPlacement", "IfcWall", "IfcCartesianPoint", "IfcNamedUnit", "IfcTypeObject", "IfcProfileDef", "IfcObjectPlacement"];
+        [
+            "IfcRoot", "IfcObject", "IfcProduct", "IfcElement", "IfcRelationship", "IfcProperty",
+            "IfcRepresentationItem", "IfcCurve", "IfcPlacement", "IfcWall", "IfcCartesianPoint", "IfcNamedUnit",
+            "IfcTypeObject", "IfcProfileDef", "IfcObjectPlacement",
+        ];
 
     [DrawingTheory]
     [MemberData(nameof(ModelTests.RealModels), MemberType = typeof(ModelTests))]
@@ -24,11 +27,18 @@ public class QueryTests
     {
         IfcImage image = (IfcImage)Image.Load(Path.Combine(SharedDrawings.Root!, "ifc", name));
         SchemaTable table = IfcSchema.Of(image.Version).Table;
-        List<(long Id, HashSet<string> Names, string Own)> all = [.. image.Entities.Select(one => (one.InstanceId, Line(table, one.EntityName), one.EntityName))];
+        List<(long Id, HashSet<string> Names, string Own)> all =
+        [
+            .. image.Entities.Select(one => (one.InstanceId, Line(table, one.EntityName), one.EntityName)),
+        ];
         foreach (string type in s_types)
         {
-            Assert.Equal(all.Where(one => one.Names.Contains(type)).Select(one => one.Id), image.GetEntitiesOfType(type).Select(one => one.InstanceId));
-            Assert.Equal(all.Where(one => one.Own == type).Select(one => one.Id), image.GetEntitiesOfType(type.ToUpperInvariant(), true).Select(one => one.InstanceId));
+            Assert.Equal(
+                all.Where(one => one.Names.Contains(type)).Select(one => one.Id),
+                image.GetEntitiesOfType(type).Select(one => one.InstanceId));
+            Assert.Equal(
+                all.Where(one => one.Own == type).Select(one => one.Id),
+                image.GetEntitiesOfType(type.ToUpperInvariant(), true).Select(one => one.InstanceId));
         }
 
         Assert.All(all.Where((_, i) => i % 97 == 0), one => Assert.Equal(one.Id, image.GetEntity(one.Id)!.InstanceId));
@@ -56,11 +66,13 @@ public class QueryTests
         foreach (IIfcEntity entity in image.Entities)
         {
             List<(IIfcEntity By, string Attribute)> own = references.GetValueOrDefault(entity.InstanceId, []);
-            Assert.Equal(own.Select(one => one.By.InstanceId).Distinct(), entity.Referrers.Select(one => one.InstanceId));
+            Assert.Equal(
+                own.Select(one => one.By.InstanceId).Distinct(), entity.Referrers.Select(one => one.InstanceId));
             foreach (IfcInverseInfo inverse in IfcSchema.Of(image.Version).FindClass(entity.EntityName)!.Inverses)
             {
                 string attribute = inverse.Referrer.Attributes[inverse.Attribute].Name;
-                IEnumerable<long> expected = own.Where(one => one.Attribute == attribute && Line(table, one.By.EntityName).Contains(inverse.Referrer.Name))
+                IEnumerable<long> expected = own.Where(
+                    one => one.Attribute == attribute && Line(table, one.By.EntityName).Contains(inverse.Referrer.Name))
                     .Select(one => one.By.InstanceId).Distinct();
                 Assert.Equal(expected, entity.GetInverse(inverse.Name).Select(one => one.InstanceId));
             }
@@ -80,8 +92,8 @@ public class QueryTests
     [InlineData("IFCDIRECTION((#x))", "a reference has no number")]
     [InlineData("IFCDIRECTION((#77))", "it refers to #77, which does not exist")]
     [InlineData("IFCDIRECTION((#99999999999999999999))", "which does not exist")]
-    [InlineData("IFCDIRECTION((.T))", "an item of an enumeration has no second point")]
-    [InlineData("IFCDIRECTION((..))", "an item of an enumeration has no second point")]
+    [InlineData("IFCDIRECTION((.T))", "an enumeration item has no closing period")]
+    [InlineData("IFCDIRECTION((..))", "an enumeration item has no closing period")]
     [InlineData("IFCDIRECTION((\"0G\"))", "digits that are not hexadecimal")]
     [InlineData("IFCDIRECTION((\"\"))", "no count of unused bits")]
     [InlineData("IFCDIRECTION((\"4FF\"))", "no count of unused bits")]
@@ -102,7 +114,7 @@ public class QueryTests
         Exception? refused = Record.Exception(() => IfcText.Load(records));
         if (refused is null)
         {
-            // Values are looked at when they are asked for.
+            // Values are parsed on access.
             refused = Assert.Throws<CadExceptions.ImageFormats.IfcImageException>(
                 () => ((IList)IfcText.Load(records).GetEntity(5)!.GetAttribute(0)!).Cast<object>().Count());
             Assert.Contains("line 12, #5=IFCDIRECTION: ", refused.Message, StringComparison.Ordinal);
@@ -148,7 +160,7 @@ public class QueryTests
         at.SetAttribute("PlacementRelTo", null);
         for (IIfcEntity? next = image.GetEntity(2); next is not null;)
         {
-            // The circle is open now: its parts can be taken off one by one.
+            // The cycle is broken now: its instances can be removed one by one.
             IIfcEntity gone = next;
             next = gone.InstanceId == 1 ? null : (IIfcEntity?)gone.GetAttribute("PlacementRelTo");
             image.RemoveEntity(gone);
@@ -160,7 +172,9 @@ public class QueryTests
     private static HashSet<string> Line(SchemaTable table, string name)
     {
         HashSet<string> names = [];
-        for (string? at = name; at is not null && table.Entities.TryGetValue(at, out SchemaEntity? level); at = level.BaseName)
+        for (string? at = name;
+            at is not null && table.Entities.TryGetValue(at, out SchemaEntity? level);
+            at = level.BaseName)
         {
             names.Add(at);
         }

@@ -9,14 +9,14 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Ifc;
 
-/// <summary>What the tables say of the editions, and that the classes were made after them.</summary>
+/// <summary>The schemas in the tables, and the classes generated from them.</summary>
 public class SchemaTests
 {
     [Theory]
     [InlineData(IfcVersion.IFC2X3, 653, 117, 46, 164)]
     [InlineData(IfcVersion.IFC4, 776, 130, 60, 207)]
     [InlineData(IfcVersion.IFC4X3, 876, 132, 61, 243)]
-    public void Editions_have_as_many_types_as_are_published(
+    public void Schemas_have_as_many_types_as_are_published(
         IfcVersion version, int entities, int defined, int selects, int enumerations)
     {
         SchemaTable table = IfcSchema.Of(version).Table;
@@ -26,12 +26,21 @@ public class SchemaTests
     }
 
     [Theory]
-    [InlineData(IfcVersion.IFC2X3, "IfcWall", "GlobalId OwnerHistory Name? Description? ObjectType? ObjectPlacement? Representation? Tag?")]
-    [InlineData(IfcVersion.IFC4, "IfcWall", "GlobalId OwnerHistory? Name? Description? ObjectType? ObjectPlacement? Representation? Tag? PredefinedType?")]
+    [InlineData(
+        IfcVersion.IFC2X3, "IfcWall",
+        "GlobalId OwnerHistory Name? Description? ObjectType? ObjectPlacement? Representation? Tag?")]
+    [InlineData(
+        IfcVersion.IFC4, "IfcWall",
+        "GlobalId OwnerHistory? Name? Description? ObjectType? ObjectPlacement? Representation? Tag? PredefinedType?")]
     [InlineData(IfcVersion.IFC4, "IfcSIUnit", "Dimensions* UnitType Prefix? Name")]
-    [InlineData(IfcVersion.IFC4, "IfcGeometricRepresentationSubContext", "ContextIdentifier? ContextType? CoordinateSpaceDimension* Precision* WorldCoordinateSystem* TrueNorth* ParentContext TargetScale? TargetView UserDefinedTargetView?")]
-    [InlineData(IfcVersion.IFC4X3, "IfcAlignmentSegment", "GlobalId OwnerHistory? Name? Description? ObjectType? ObjectPlacement? Representation? DesignParameters")]
-    public void Attributes_stand_in_the_order_of_records(IfcVersion version, string entity, string expected)
+    [InlineData(
+        IfcVersion.IFC4, "IfcGeometricRepresentationSubContext",
+        "ContextIdentifier? ContextType? CoordinateSpaceDimension* Precision* WorldCoordinateSystem* "
+            + "TrueNorth* ParentContext TargetScale? TargetView UserDefinedTargetView?")]
+    [InlineData(
+        IfcVersion.IFC4X3, "IfcAlignmentSegment",
+        "GlobalId OwnerHistory? Name? Description? ObjectType? ObjectPlacement? Representation? DesignParameters")]
+    public void Attributes_are_in_record_order(IfcVersion version, string entity, string expected)
     {
         IEnumerable<string> found = IfcSchema.Of(version).FindClass(entity)!.Attributes
             .Select(one => one.Name + (one.IsDerived ? "*" : one.IsOptional ? "?" : ""));
@@ -39,7 +48,7 @@ public class SchemaTests
     }
 
     [Fact]
-    public void Numbers_of_classes_tell_what_is_derived_from_what()
+    public void Numbers_of_classes_show_their_subtypes()
     {
         foreach (IfcVersion version in Enum.GetValues<IfcVersion>())
         {
@@ -84,7 +93,7 @@ public class SchemaTests
     [InlineData("IfcObjectReferenceSelect", "IfcPostalAddress", true)] // through its base
     [InlineData("IfcValue", "IfcLabel", true)] // through IfcSimpleValue
     [InlineData("IfcValue", "IfcCardinalPointReference", false)]
-    public void Select_types_admit_their_members_and_what_these_stand_for(string select, string type, bool admits)
+    public void Select_types_admit_members_also_through_other_selects(string select, string type, bool admits)
     {
         Assert.Equal(admits, IfcSchema.Of(IfcVersion.IFC4).Admits(select, type));
     }

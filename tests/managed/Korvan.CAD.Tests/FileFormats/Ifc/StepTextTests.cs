@@ -9,7 +9,7 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Ifc;
 
-/// <summary>The notation: tokens, texts, numbers, and what may stand between them.</summary>
+/// <summary>The syntax: tokens, strings, numbers, spaces and comments.</summary>
 public class StepTextTests
 {
     [Theory]
@@ -25,7 +25,7 @@ public class StepTextTests
     [InlineData("\u00C3\u00A4", "ä")] // bytes of UTF-8
     [InlineData("\u00E4", "ä")] // a byte of ISO 8859-1
     [InlineData("C:\\Temp\\x", "C:\\Temp\\x")] // no directives, as many programs write paths
-    public void Texts_are_read_with_their_directives(string written, string expected)
+    public void Strings_are_decoded_with_their_directives(string written, string expected)
     {
         Assert.Equal(expected, StepStrings.Decode(Encoding.Latin1.GetBytes(written), 0));
     }
@@ -41,7 +41,7 @@ public class StepTextTests
     }
 
     [Fact]
-    public void Written_texts_are_ascii_and_give_themselves_back()
+    public void Encoded_strings_are_ascii_and_round_trip()
     {
         Random random = new(1);
         for (int round = 0; round < 500; round++)
@@ -91,10 +91,11 @@ public class StepTextTests
     }
 
     [Fact]
-    public void Spaces_comments_and_lines_stand_anywhere_between_tokens()
+    public void Spaces_comments_and_lines_may_be_between_any_tokens()
     {
         IfcImage image = IfcText.Load(
-            "/* #9=( ' */ # 1 /*x*/\r= /* ( */\tIFCCARTESIANPOINT\n( /*,*/ ( 1. , \r\n 2 ,-3.E+1 ) )\n\n;/* end */#2\n=ifcdirection((0.,1.));"
+            ("/* #9=( ' */ # 1 /*x*/\r= /* ( */\tIFCCARTESIANPOINT\n( /*,*/ ( 1. , \r\n 2 ,-3.E+1 ) )\n\n;/* end */#2\n"
+                + "=ifcdirection((0.,1.));")
                 .Replace("# 1", "#1", StringComparison.Ordinal));
         var point = (IfcCartesianPoint4)image.GetEntity(1)!;
         Assert.Equal([1.0, 2.0, -30.0], point.Coordinates!.Cast<double>());
@@ -115,7 +116,7 @@ public class StepTextTests
     }
 
     [Fact]
-    public void Ten_million_blank_lines_are_nothing_special()
+    public void Ten_million_blank_lines_are_read()
     {
         IfcImage image = IfcText.Load(new string('\n', 10_000_000) + "#1=IFCDIRECTION((1.,0.));\n");
         Assert.Single(image.Entities);
@@ -160,13 +161,14 @@ public class StepTextTests
     }
 
     [Fact]
-    public void Pieces_that_begin_within_a_text_are_found_out()
+    public void Pieces_that_begin_within_a_string_are_detected()
     {
-        // Texts that look like the beginnings of records, wherever the file is cut for its threads.
+        // Strings that look like the beginnings of records, wherever the pieces for threads begin.
         StringBuilder records = new();
         for (int i = 1; i <= 80_000; i++)
         {
-            records.Append('#').Append(i).Append("=IFCORGANIZATION($,'name\n#").Append(i + 1).Append("=IFCWALL(\n',$,$,$);\n");
+            records.Append('#').Append(i).Append("=IFCORGANIZATION($,'name\n#").Append(i + 1)
+                .Append("=IFCWALL(\n',$,$,$);\n");
         }
 
         IfcImage image = IfcText.Load(records.ToString());

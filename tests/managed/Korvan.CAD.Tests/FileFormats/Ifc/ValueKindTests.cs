@@ -10,21 +10,25 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Ifc;
 
-/// <summary>Each kind of value: as it is read, as it is refused, and as it is written anew.</summary>
+/// <summary>Each kind of value: reading, refusal and encoding.</summary>
 public class ValueKindTests
 {
     private const string Others = "#20=IFCCARTESIANPOINTLIST3D(((0.,0.,0.),(1.,0.,0.),(0.,1.,0.)));\n"
         + "#21=IFCCARTESIANPOINT((0.,0.,0.));\n#22=IFCPERSON($,'P',$,$,$,$,$,$);\n";
 
-    // What was encoded anew is what another program's file would hold, spelled in one way.
+    // The encoded record has one defined spelling, which other programs read.
     [Theory]
     [InlineData("IFCORGANIZATION('a''b','\\\\','\\X2\\00C400E4\\X0\\',$,$)", null)]
     [InlineData("IFCORGANIZATION($,'\\X4\\0001F600\\X0\\','',$,$)", null)]
-    [InlineData("IFCORGANIZATION($,'\\S\\D\\X\\E4','\\PE\\\\S\\0',$,$)", "IFCORGANIZATION($,'\\X2\\00C400E4\\X0\\','\\X2\\0410\\X0\\',$,$)")]
+    [InlineData(
+        "IFCORGANIZATION($,'\\S\\D\\X\\E4','\\PE\\\\S\\0',$,$)",
+        "IFCORGANIZATION($,'\\X2\\00C400E4\\X0\\','\\X2\\0410\\X0\\',$,$)")]
     [InlineData("IFCORGANIZATION($,'C:\\Temp',$,$,$)", "IFCORGANIZATION($,'C:\\\\Temp',$,$,$)")]
     [InlineData("IFCCARTESIANPOINT((-0.5,1.E21,12345.6789))", null)]
     [InlineData("IFCCARTESIANPOINT((1,+2.5,3.0e0))", "IFCCARTESIANPOINT((1.,2.5,3.))")]
-    [InlineData("IFCCARTESIANPOINT((1.7976931348623157E308,5.E-324,-0.))", "IFCCARTESIANPOINT((1.7976931348623157E308,5.E-324,-0.))")]
+    [InlineData(
+        "IFCCARTESIANPOINT((1.7976931348623157E308,5.E-324,-0.))",
+        "IFCCARTESIANPOINT((1.7976931348623157E308,5.E-324,-0.))")]
     [InlineData("IFCCARTESIANPOINTLIST3D(((0.,0.,0.),(1.,2.,3.)))", null)]
     [InlineData("IFCCARTESIANPOINTLIST3D(())", null)]
     [InlineData("IFCTRIANGULATEDFACESET(#20,$,.T.,((1,2,3),(3,2,1)),(1,2,3))", null)]
@@ -36,7 +40,10 @@ public class ValueKindTests
     [InlineData("IFCBSPLINECURVEWITHKNOTS(1,(#21,#21),.UNSPECIFIED.,.U.,.F.,(2,2),(0.,1.),.UNSPECIFIED.)", null)]
     [InlineData("IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.)", null)]
     [InlineData("IFCGEOMETRICREPRESENTATIONSUBCONTEXT('Body','Model',*,*,*,*,$,$,.MODEL_VIEW.,$)", null)]
-    [InlineData("IFCPROPERTYLISTVALUE('x',$,(IFCLABEL('a'),IFCREAL(1.5),IFCINTEGER(-3),IFCBOOLEAN(.T.),IFCLOGICAL(.U.),IFCBINARY(\"0FF\")),$)", null)]
+    [InlineData(
+        "IFCPROPERTYLISTVALUE('x',$,(IFCLABEL('a'),IFCREAL(1.5),IFCINTEGER(-3),IFCBOOLEAN(.T.),IFCLOGICAL(.U.),"
+            + "IFCBINARY(\"0FF\")),$)",
+        null)]
     [InlineData("IFCPROPERTYLISTVALUE('x',$,(IFCBINARY(\"1A\"),IFCBINARY(\"3123\"),IFCBINARY(\"0\")),$)", null)]
     [InlineData("IFCPROPERTYSINGLEVALUE('x',$,IFCCOMPLEXNUMBER((1.,-2.)),#23)", null)]
     [InlineData("IFCPROPERTYSINGLEVALUE('x',$,IFCCOMPOUNDPLANEANGLEMEASURE((50,30,15)),$)", null)]
@@ -46,7 +53,8 @@ public class ValueKindTests
     public void Every_kind_of_value_is_written_as_it_was_read(string record, string? expected)
     {
         IfcImage image = IfcText.Load(
-            Others + "#23=IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.);\n#24=IFCACTORROLE(.ARCHITECT.,$,$);\n" + $"#1={record};\n");
+            Others + "#23=IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.);\n#24=IFCACTORROLE(.ARCHITECT.,$,$);\n"
+                + $"#1={record};\n");
         IIfcEntity entity = image.GetEntity(1)!;
         List<string> before = Shown(entity);
         foreach (string name in entity.AttributeNames)
@@ -66,15 +74,17 @@ public class ValueKindTests
     [Theory]
     [InlineData("Name", 5, "IfcLabel was expected, not 5")]
     [InlineData("Name", true, "IfcLabel was expected")]
-    [InlineData("Roles", "x", "was expected, not the text 'x'")]
+    [InlineData("Roles", "x", "was expected, not the string 'x'")]
     [InlineData("Roles", new object[] { "x" }, "IfcActorRole was expected")]
-    [InlineData("Roles", new object?[] { null }, "IfcActorRole was expected, not nothing")]
+    [InlineData("Roles", new object?[] { null }, "IfcActorRole was expected, not None")]
     public void Values_of_other_types_are_refused_and_change_nothing(string attribute, object value, string message)
     {
         IfcImage image = IfcText.Load("#1=IFCORGANIZATION($,'o',$,(#2),$);\n#2=IFCACTORROLE(.ARCHITECT.,$,$);\n");
         string before = IfcText.Saved(image);
-        IfcImageException failure = Assert.Throws<IfcImageException>(() => image.GetEntity(1)!.SetAttribute(attribute, value));
-        Assert.Contains("line 8, #1=IFCORGANIZATION: attribute " + attribute, failure.Message, StringComparison.Ordinal);
+        IfcImageException failure = Assert.Throws<IfcImageException>(
+            () => image.GetEntity(1)!.SetAttribute(attribute, value));
+        Assert.Contains(
+            "line 8, #1=IFCORGANIZATION: attribute " + attribute, failure.Message, StringComparison.Ordinal);
         Assert.Contains(message, failure.Message, StringComparison.Ordinal);
         Assert.Equal(before, IfcText.Saved(image));
         Assert.Single(image.GetEntity(2)!.Referrers);
@@ -96,7 +106,7 @@ public class ValueKindTests
     }
 
     [Fact]
-    public void Whole_numbers_of_all_sizes_are_admitted_where_they_fit()
+    public void Integers_of_all_sizes_are_admitted_if_in_range()
     {
         IfcPixelTexture4 texture = new();
         foreach (object width in new object[] { (byte)7, (short)7, 7, 7U, 7L })
@@ -158,7 +168,10 @@ public class ValueKindTests
         IfcImage image = IfcText.Load("#1=IFCPROPERTYSINGLEVALUE('x',$,IFCCOMPLEXNUMBER((1.,-2.)),$);\n");
         var list = (IList)((IfcPropertySingleValue4)image.GetEntity(1)!).NominalValue!.Value!;
         Assert.True(list.IsReadOnly && list.IsFixedSize);
-        foreach (Action change in new Action[] { () => list.Add(1.0), () => list[0] = 1.0, list.Clear, () => list.RemoveAt(0), () => list.Insert(0, 1.0) })
+        foreach (Action change in new Action[]
+        {
+            () => list.Add(1.0), () => list[0] = 1.0, list.Clear, () => list.RemoveAt(0), () => list.Insert(0, 1.0),
+        })
         {
             Assert.Throws<IfcImageException>(change);
         }

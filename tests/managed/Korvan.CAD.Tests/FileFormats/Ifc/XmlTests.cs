@@ -14,8 +14,11 @@ namespace Korvan.CAD.Tests.FileFormats.Ifc;
 /// <summary>Models in XML: elements become instances, and what is saved is a file of records.</summary>
 public class XmlTests
 {
-    private const string Head = "<?xml version='1.0'?>\n<ex:iso_10303_28 version='2.0' xmlns:ex='urn:iso.org:standard:10303:part(28):version(2):xmlschema:common'>\n"
-        + "<ex:iso_10303_28_header><ex:name>Zo\u00EB</ex:name></ex:iso_10303_28_header>\n<uos xmlns='http://www.iai-tech.org/ifcXML/IFC2x3/FINAL'>\n";
+    private const string Head =
+        "<?xml version='1.0'?>\n<ex:iso_10303_28 version='2.0' "
+        + "xmlns:ex='urn:iso.org:standard:10303:part(28):version(2):xmlschema:common'>\n"
+        + "<ex:iso_10303_28_header><ex:name>Zo\u00EB</ex:name></ex:iso_10303_28_header>\n"
+        + "<uos xmlns='http://www.iai-tech.org/ifcXML/IFC2x3/FINAL'>\n";
 
     private const string Tail = "</uos></ex:iso_10303_28>\n";
 
@@ -27,9 +30,11 @@ public class XmlTests
               <HasProperties><IfcPropertySingleValue pos="1" id="i4"><Name>b &amp; c</Name>
                 <NominalValue><IfcLogical>unknown</IfcLogical></NominalValue></IfcPropertySingleValue>
               <IfcPropertySingleValue pos="0"><Name>a'</Name></IfcPropertySingleValue></HasProperties></IfcPropertySet>
-            <IfcOwnerHistory id="own"><ChangeAction>nochange</ChangeAction><CreationDate>12</CreationDate></IfcOwnerHistory>
+            <IfcOwnerHistory id="own"><ChangeAction>nochange</ChangeAction>
+              <CreationDate>12</CreationDate></IfcOwnerHistory>
             <IfcSIUnit id="i5"><UnitType>lengthunit</UnitType><Name>metre</Name></IfcSIUnit>
-            <IfcCartesianPoint id="i6"><Coordinates><IfcLengthMeasure>1e3</IfcLengthMeasure><IfcLengthMeasure>-2</IfcLengthMeasure></Coordinates></IfcCartesianPoint>
+            <IfcCartesianPoint id="i6"><Coordinates><IfcLengthMeasure>1e3</IfcLengthMeasure>
+              <IfcLengthMeasure>-2</IfcLengthMeasure></Coordinates></IfcCartesianPoint>
 
             """);
         Assert.Equal("Zo\u00EB", image.Header.FileName.Name);
@@ -54,9 +59,11 @@ public class XmlTests
     [Theory]
     [InlineData("<IfcWall id='i1'><Colour>red</Colour></IfcWall>\n", "line 5: IfcWall has no attribute Colour")]
     [InlineData("\n<IfcAlien/>\n", "line 6: the schema has no entity IfcAlien")]
-    [InlineData("<IfcCircle id='i1'><Radius>wide</Radius></IfcCircle>", "line 5: 'wide' is no IfcPositiveLengthMeasure")]
+    [InlineData(
+        "<IfcCircle id='i1'><Radius>wide</Radius></IfcCircle>", "line 5: 'wide' is no IfcPositiveLengthMeasure")]
     [InlineData("<IfcCircle id='i1'><Position/></IfcCircle>", "line 5: Position holds no element")]
-    [InlineData("<IfcCircle id='i1'><Position><IfcAxis2Placement2D ref='i9'/></Position></IfcCircle>", "#1: it refers to #9")]
+    [InlineData(
+        "<IfcCircle id='i1'><Position><IfcAxis2Placement2D ref='i9'/></Position></IfcCircle>", "#1: it refers to #9")]
     [InlineData("<IfcWall id='i1'>", "line 5")]
     public void Damage_is_named_with_its_line(string elements, string message)
     {
@@ -68,7 +75,8 @@ public class XmlTests
     public void Damaged_elements_can_be_left_out()
     {
         LoadOptions options = new() { IgnoreErrors = true };
-        IfcImage image = Load("<IfcWall id='i1'><Colour/></IfcWall><IfcWall id='i2'><GlobalId>x</GlobalId></IfcWall>", options);
+        IfcImage image = Load(
+            "<IfcWall id='i1'><Colour/></IfcWall><IfcWall id='i2'><GlobalId>x</GlobalId></IfcWall>", options);
         Assert.Equal(2, Assert.Single(image.Entities).InstanceId);
         Assert.Single(options.Errors);
     }
@@ -76,7 +84,8 @@ public class XmlTests
     [Fact]
     public void Entities_of_xml_and_absurd_depths_are_refused()
     {
-        string bomb = ("<!DOCTYPE x [<!ENTITY a 'aaaaaaaaaa'>]>" + Head + Tail).Replace("<?xml version='1.0'?>\n", "", StringComparison.Ordinal);
+        string bomb = ("<!DOCTYPE x [<!ENTITY a 'aaaaaaaaaa'>]>" + Head + Tail)
+            .Replace("<?xml version='1.0'?>\n", "", StringComparison.Ordinal);
         Assert.Contains("DTD", Refusal(bomb), StringComparison.Ordinal);
         string deep = string.Concat(Enumerable.Repeat("<IfcLocalPlacement><PlacementRelTo>", 5000))
             + string.Concat(Enumerable.Repeat("</PlacementRelTo></IfcLocalPlacement>", 5000));
@@ -87,5 +96,6 @@ public class XmlTests
         Assert.Throws<ImageLoadException>(() => Image.Load(new MemoryStream(Encoding.UTF8.GetBytes(text)))).Message;
 
     private static IfcImage Load(string elements, LoadOptions? options = null) =>
-        (IfcImage)Image.Load(new MemoryStream(Encoding.UTF8.GetBytes(Head + elements + Tail)), "x.ifcxml", options ?? new LoadOptions());
+        (IfcImage)Image.Load(
+            new MemoryStream(Encoding.UTF8.GetBytes(Head + elements + Tail)), "x.ifcxml", options ?? new LoadOptions());
 }

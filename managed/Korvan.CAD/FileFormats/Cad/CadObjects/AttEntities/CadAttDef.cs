@@ -1,12 +1,15 @@
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 
 /// <summary>The definition of an attribute in a block.</summary>
+[CadFieldsOf(typeof(CadAttrib))]
 [CadObject("ATTDEF", Subclass = "AcDbAttributeDefinition")]
 public partial class CadAttDef : CadText
 {
+    private const int LockCode = 280;
+
     /// <summary>Creates the object with its defaults.</summary>
     public CadAttDef()
     {
@@ -16,44 +19,26 @@ public partial class CadAttDef : CadText
     [CadString(3)]
     public string PromptString { get; set; } = "";
 
-    /// <summary>Gets or sets the tag, which names the attribute. Group code 2.</summary>
-    [CadString(2)]
-    public string DefinitionTagString { get; set; } = "";
-
-    /// <summary>Gets or sets properties: 1 invisible, 2 constant, 4 to be verified, 8 preset; added up. Group
-    /// code 70.</summary>
-    [CadShort(70)]
-    public short AttFlags { get; set; }
-
-    /// <summary>Gets or sets the greatest number of letters; 0 for any. Group code 73.</summary>
-    [CadShort(73, Optional = true)]
-    public short FieldLength { get; set; }
-
-    /// <summary>Gets or sets whether the place within the block is locked. Group code 280.</summary>
+    /// <summary>Gets or sets whether the position within the block is locked. Group code 280.</summary>
     public bool LockPosition { get; set; }
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
-        // The vertical alignment of an attribute has a code of its own: 73 is the field length here.
-        if (code == 74)
+        if (code == LockCode)
         {
-            VerticalAlignment = tags.GetShort();
-            taken = true;
+            // The version stands before the tag, the lock after it.
+            LockPosition = DefinitionTagString.Length > 0 && reader.GetShort() != 0;
         }
-        else if (code == 280)
-        {
-            // The version stands before the tag, the lock behind it.
-            LockPosition = DefinitionTagString.Length > 0 && tags.GetShort() != 0;
-            taken = true;
-        }
+
+        taken = code == LockCode || ReadVerticalAlignment(code, reader);
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        writer.WriteOptional(74, VerticalAlignment, 0);
-        if (writer.Release >= 2010)
+        ExchangeVerticalAlignment(fields, AttributeAlignmentCode);
+        if (fields.Includes(2010, true))
         {
-            writer.Write(280, LockPosition ? 1 : 0);
+            LockPosition = fields.Bool(LockCode, LockPosition);
         }
     }
 }

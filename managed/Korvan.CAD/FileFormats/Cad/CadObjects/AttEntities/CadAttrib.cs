@@ -1,5 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 
@@ -7,6 +7,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 [CadObject("ATTRIB", Subclass = "AcDbAttribute")]
 public partial class CadAttrib : CadText
 {
+    private const int LockCode = 280;
+
     /// <summary>Creates the object with its defaults.</summary>
     public CadAttrib()
     {
@@ -21,35 +23,30 @@ public partial class CadAttrib : CadText
     [CadShort(70)]
     public short AttFlags { get; set; }
 
-    /// <summary>Gets or sets the greatest number of letters; 0 for any. Group code 73.</summary>
+    /// <summary>Gets or sets the maximum number of characters; 0 for any. Group code 73.</summary>
     [CadShort(73, Optional = true)]
     public short FieldLength { get; set; }
 
-    /// <summary>Gets or sets whether the place within the block is locked. Group code 280.</summary>
+    /// <summary>Gets or sets whether the position within the block is locked. Group code 280.</summary>
     public bool LockPosition { get; set; }
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
-        // The vertical alignment of an attribute has a code of its own: 73 is the field length here.
-        if (code == 74)
+        if (code == LockCode)
         {
-            VerticalAlignment = tags.GetShort();
-            taken = true;
+            // The version stands before the tag, the lock after it.
+            LockPosition = DefinitionTagString.Length > 0 && reader.GetShort() != 0;
         }
-        else if (code == 280)
-        {
-            // The version stands before the tag, the lock behind it.
-            LockPosition = DefinitionTagString.Length > 0 && tags.GetShort() != 0;
-            taken = true;
-        }
+
+        taken = code == LockCode || ReadVerticalAlignment(code, reader);
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        writer.WriteOptional(74, VerticalAlignment, 0);
-        if (writer.Release >= 2010)
+        ExchangeVerticalAlignment(fields, AttributeAlignmentCode);
+        if (fields.Includes(2010, true))
         {
-            writer.Write(280, LockPosition ? 1 : 0);
+            LockPosition = fields.Bool(LockCode, LockPosition);
         }
     }
 }

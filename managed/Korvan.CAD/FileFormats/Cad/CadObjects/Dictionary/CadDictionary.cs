@@ -1,5 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
 
@@ -12,13 +12,13 @@ public partial class CadDictionary : CadDictionaryBase
     {
     }
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
-        taken = ReadEntry(code, tags);
+        taken = ReadEntry(code, reader);
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer)
+    partial void OnExchange(ObjectExchange fields)
     {
-        WriteEntries(writer);
+        ExchangeEntries(fields);
     }
 }

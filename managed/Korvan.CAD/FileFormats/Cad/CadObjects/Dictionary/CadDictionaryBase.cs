@@ -1,6 +1,6 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
@@ -11,6 +11,9 @@ public abstract partial class CadDictionaryBase : CadObjectBase
     internal CadDictionaryBase()
     {
     }
+
+    private const int SoftOwnerCode = 350;
+    private const int HardOwnerCode = 360;
 
     private readonly List<string> _names = [];
     private readonly List<ulong> _handles = [];
@@ -28,7 +31,7 @@ public abstract partial class CadDictionaryBase : CadObjectBase
     public string[] Names => [.. _names];
 
     /// <summary>Gets the codes of the entries' handles as they stood in the file: 350 or 360.</summary>
-    internal int HandleCode { get; set; } = 350;
+    internal int HandleCode { get; set; } = SoftOwnerCode;
 
     /// <summary>Gives the handle of an entry in hexadecimal, or an empty text where there is none of this
     /// name.</summary>
@@ -95,41 +98,52 @@ public abstract partial class CadDictionaryBase : CadObjectBase
         }
     }
 
-    internal bool ReadEntry(int code, DxfTagReader tags)
+    internal bool ReadEntry(int code, FieldReader reader)
     {
         switch (code)
         {
             case 3:
-                _names.Add(tags.GetString());
+                _names.Add(reader.GetString());
                 _handles.Add(0);
                 return true;
-            case 350 or 360 when _names.Count > 0:
+            case SoftOwnerCode or HardOwnerCode when _names.Count > 0:
                 HandleCode = code;
-                _handles[^1] = tags.GetHandle();
+                _handles[^1] = reader.GetHandle();
                 return true;
             case 280:
-                HardOwnerFlag = tags.GetShort();
+                HardOwnerFlag = reader.GetShort();
                 return true;
             case 281:
-                DuplicateRecordCloning = tags.GetShort();
+                DuplicateRecordCloning = reader.GetShort();
                 return true;
             default:
                 return false;
         }
     }
 
-    internal void WriteEntries(DxfTagWriter writer)
+    internal void ExchangeEntries(ObjectExchange fields)
     {
-        writer.WriteOptional(280, HardOwnerFlag, 0);
-        if (writer.Release >= 2000)
+        if (fields.Includes(0, HardOwnerFlag != 0))
         {
-            writer.Write(281, DuplicateRecordCloning);
+            HardOwnerFlag = fields.Int16(280, HardOwnerFlag);
         }
 
-        for (int i = 0; i < _names.Count; i++)
+        if (fields.Includes(2000, true))
         {
-            writer.Write(3, _names[i]);
-            writer.WriteHandle(HandleCode, _handles[i]);
+            DuplicateRecordCloning = fields.Int16(281, DuplicateRecordCloning);
+        }
+
+        int count = fields.Count(0, _names.Count);
+        HandleRole role = HandleCode == HardOwnerCode ? HandleRole.HardOwner : HandleRole.SoftOwner;
+        for (int i = 0; i < count; i++)
+        {
+            string name = fields.Text(3, i < _names.Count ? _names[i] : "");
+            ulong handle = fields.Handle(HandleCode, role, i < _handles.Count ? _handles[i] : 0);
+            if (fields.IsReading)
+            {
+                _names.Add(name);
+                _handles.Add(handle);
+            }
         }
     }
 

@@ -1,5 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
 
@@ -13,6 +13,6 @@ public partial class CadDictionaryWithDefault : CadDictionary
     }
 
     /// <summary>Gets or sets the handle of the object for all other names in hexadecimal. Group code 340.</summary>
-    [CadString(340, Optional = true)]
+    [CadHandle(340, Optional = true)]
     public string DefaultHandle { get; set; } = "";
 }

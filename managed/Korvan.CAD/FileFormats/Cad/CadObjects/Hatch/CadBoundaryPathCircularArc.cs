@@ -1,5 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
@@ -31,39 +31,39 @@ public class CadBoundaryPathCircularArc : ICadBoundaryPathEntity
     /// <summary>Gets or sets whether the arc runs counterclockwise. Group code 73.</summary>
     public bool CounterClockwise { get; set; } = true;
 
-    bool ICadBoundaryPathEntity.ReadCode(int code, DxfTagReader tags)
+    bool ICadBoundaryPathEntity.ReadField(int code, FieldReader reader)
     {
         switch (code)
         {
             case 10:
-                CenterPoint.X = tags.GetDouble();
+                CenterPoint.X = reader.GetDouble();
                 return true;
             case 20:
-                CenterPoint.Y = tags.GetDouble();
+                CenterPoint.Y = reader.GetDouble();
                 return true;
             case 40:
-                Radius = tags.GetDouble();
+                Radius = reader.GetDouble();
                 return true;
             case 50:
-                StartAngle = tags.GetDouble();
+                StartAngle = reader.GetAngle();
                 return true;
             case 51:
-                EndAngle = tags.GetDouble();
+                EndAngle = reader.GetAngle();
                 return true;
             case 73:
-                CounterClockwise = tags.GetInt() != 0;
+                CounterClockwise = reader.GetInt() != 0;
                 return true;
             default:
                 return false;
         }
     }
 
-    void ICadBoundaryPathEntity.WriteCodes(DxfTagWriter writer)
+    void ICadBoundaryPathEntity.Exchange(ObjectExchange fields)
     {
-        writer.Write(10, CenterPoint);
-        writer.Write(40, Radius);
-        writer.Write(50, StartAngle);
-        writer.Write(51, EndAngle);
-        writer.Write(73, CounterClockwise ? 1 : 0);
+        fields.Point(10, CenterPoint);
+        Radius = fields.Double(40, Radius);
+        StartAngle = fields.Angle(50, StartAngle);
+        EndAngle = fields.Angle(51, EndAngle);
+        CounterClockwise = fields.Bool(73, CounterClockwise);
     }
 }

@@ -1,5 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
@@ -34,46 +34,46 @@ public class CadBoundaryPathCircularEllipse : ICadBoundaryPathEntity
     /// <summary>Gets or sets whether the arc runs counterclockwise. Group code 73.</summary>
     public bool CounterClockwise { get; set; } = true;
 
-    bool ICadBoundaryPathEntity.ReadCode(int code, DxfTagReader tags)
+    bool ICadBoundaryPathEntity.ReadField(int code, FieldReader reader)
     {
         switch (code)
         {
             case 10:
-                CenterPoint.X = tags.GetDouble();
+                CenterPoint.X = reader.GetDouble();
                 return true;
             case 20:
-                CenterPoint.Y = tags.GetDouble();
+                CenterPoint.Y = reader.GetDouble();
                 return true;
             case 11:
-                MajorEndPoint.X = tags.GetDouble();
+                MajorEndPoint.X = reader.GetDouble();
                 return true;
             case 21:
-                MajorEndPoint.Y = tags.GetDouble();
+                MajorEndPoint.Y = reader.GetDouble();
                 return true;
             case 40:
-                AxisRatio = tags.GetDouble();
+                AxisRatio = reader.GetDouble();
                 return true;
             case 50:
-                StartAngle = tags.GetDouble();
+                StartAngle = reader.GetAngle();
                 return true;
             case 51:
-                EndAngle = tags.GetDouble();
+                EndAngle = reader.GetAngle();
                 return true;
             case 73:
-                CounterClockwise = tags.GetInt() != 0;
+                CounterClockwise = reader.GetInt() != 0;
                 return true;
             default:
                 return false;
         }
     }
 
-    void ICadBoundaryPathEntity.WriteCodes(DxfTagWriter writer)
+    void ICadBoundaryPathEntity.Exchange(ObjectExchange fields)
     {
-        writer.Write(10, CenterPoint);
-        writer.Write(11, MajorEndPoint);
-        writer.Write(40, AxisRatio);
-        writer.Write(50, StartAngle);
-        writer.Write(51, EndAngle);
-        writer.Write(73, CounterClockwise ? 1 : 0);
+        fields.Point(10, CenterPoint);
+        fields.Point(11, MajorEndPoint);
+        AxisRatio = fields.Double(40, AxisRatio);
+        StartAngle = fields.Angle(50, StartAngle);
+        EndAngle = fields.Angle(51, EndAngle);
+        CounterClockwise = fields.Bool(73, CounterClockwise);
     }
 }

@@ -1,5 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
@@ -20,30 +20,30 @@ public class CadBoundaryPathLine : ICadBoundaryPathEntity
     /// <summary>Gets or sets the end, in object coordinates. Group codes 11, 21.</summary>
     public Cad2DPoint SecondPoint { get; set; } = new();
 
-    bool ICadBoundaryPathEntity.ReadCode(int code, DxfTagReader tags)
+    bool ICadBoundaryPathEntity.ReadField(int code, FieldReader reader)
     {
         switch (code)
         {
             case 10:
-                FirstPoint.X = tags.GetDouble();
+                FirstPoint.X = reader.GetDouble();
                 return true;
             case 20:
-                FirstPoint.Y = tags.GetDouble();
+                FirstPoint.Y = reader.GetDouble();
                 return true;
             case 11:
-                SecondPoint.X = tags.GetDouble();
+                SecondPoint.X = reader.GetDouble();
                 return true;
             case 21:
-                SecondPoint.Y = tags.GetDouble();
+                SecondPoint.Y = reader.GetDouble();
                 return true;
             default:
                 return false;
         }
     }
 
-    void ICadBoundaryPathEntity.WriteCodes(DxfTagWriter writer)
+    void ICadBoundaryPathEntity.Exchange(ObjectExchange fields)
     {
-        writer.Write(10, FirstPoint);
-        writer.Write(11, SecondPoint);
+        fields.Point(10, FirstPoint);
+        fields.Point(11, SecondPoint);
     }
 }

@@ -1,7 +1,7 @@
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
@@ -45,76 +45,76 @@ public class CadBoundaryPathSpline : ICadBoundaryPathEntity
     /// <summary>Gets or sets the tangent at the end. Group codes 13, 23.</summary>
     public Cad2DPoint EndTangent { get; set; } = new();
 
-    bool ICadBoundaryPathEntity.ReadCode(int code, DxfTagReader tags)
+    bool ICadBoundaryPathEntity.ReadField(int code, FieldReader reader)
     {
         switch (code)
         {
             case 94:
-                Degree = tags.GetInt();
+                Degree = reader.GetInt();
                 return true;
             case 73:
-                Rational = tags.GetInt() != 0;
+                Rational = reader.GetInt() != 0;
                 return true;
             case 74:
-                Periodic = tags.GetInt() != 0;
+                Periodic = reader.GetInt() != 0;
                 return true;
             case 95:
-                KnotValues.EnsureCapacity(tags.GetCount());
+                KnotValues.EnsureCapacity(reader.GetCount());
                 return true;
             case 96:
-                ControlPoints.EnsureCapacity(tags.GetCount());
+                ControlPoints.EnsureCapacity(reader.GetCount());
                 return true;
             case 40:
-                KnotValues.Add(tags.GetDouble());
+                KnotValues.Add(reader.GetDouble());
                 return true;
             case 42:
-                Weights.Add(tags.GetDouble());
+                Weights.Add(reader.GetDouble());
                 return true;
             default:
-                return PointLists.TryRead(code, 10, ControlPoints, tags)
-                    || PointLists.TryRead(code, 11, FitPoints, tags)
-                    || ReadTangents(code, tags);
+                return FieldLists.TryRead(code, 10, ControlPoints, reader)
+                    || FieldLists.TryRead(code, 11, FitPoints, reader)
+                    || ReadTangents(code, reader);
         }
     }
 
-    void ICadBoundaryPathEntity.WriteCodes(DxfTagWriter writer)
+    void ICadBoundaryPathEntity.Exchange(ObjectExchange fields)
     {
-        writer.Write(94, Degree);
-        writer.Write(73, Rational ? 1 : 0);
-        writer.Write(74, Periodic ? 1 : 0);
-        writer.Write(95, KnotValues.Count);
-        writer.Write(96, ControlPoints.Count);
-        KnotValues.ForEach(knot => writer.Write(40, knot));
-        for (int i = 0; i < ControlPoints.Count; i++)
+        Degree = fields.Int32(94, Degree);
+        Rational = fields.Bool(73, Rational);
+        Periodic = fields.Bool(74, Periodic);
+        int knots = fields.Count(95, KnotValues.Count);
+        int points = fields.Count(96, ControlPoints.Count);
+        fields.Items(40, KnotValues, knots);
+        for (int i = 0; i < points; i++)
         {
-            writer.Write(10, ControlPoints[i]);
+            fields.Point(10, fields.Item(ControlPoints, i));
             if (Rational)
             {
-                writer.Write(42, i < Weights.Count ? Weights[i] : 1);
+                fields.ItemAt(42, Weights, i, 1);
             }
         }
 
-        if (writer.Release >= 2010)
+        if (fields.Includes(2010, true))
         {
-            WriteFit(writer);
+            ExchangeFit(fields);
         }
     }
 
-    private bool ReadTangents(int code, DxfTagReader tags)
+    private bool ReadTangents(int code, FieldReader reader)
     {
         switch (code)
         {
             case 12:
-                StartTangent.X = tags.GetDouble();
+                StartTangent.X = reader.GetDouble();
                 break;
             case 22:
-                StartTangent.Y = tags.GetDouble();
+                StartTangent.Y = reader.GetDouble();
                 break;
             case 13:
-                EndTangent.X = tags.GetDouble();
+                EndTangent.X = reader.GetDouble();
                 break;
             case 23:
-                EndTangent.Y = tags.GetDouble();
+                EndTangent.Y = reader.GetDouble();
                 break;
             default:
                 return false;
@@ -124,14 +124,14 @@ public class CadBoundaryPathSpline : ICadBoundaryPathEntity
         return true;
     }
 
-    private void WriteFit(DxfTagWriter writer)
+    private void ExchangeFit(ObjectExchange fields)
     {
-        writer.Write(97, FitPoints.Count);
-        FitPoints.ForEach(point => writer.Write(11, point));
-        if (_hasTangents || FitPoints.Count > 0)
+        fields.Points(11, FitPoints, fields.Count(97, FitPoints.Count));
+        if (fields.Includes(0, _hasTangents || FitPoints.Count > 0))
         {
-            writer.Write(12, StartTangent);
-            writer.Write(13, EndTangent);
+            _hasTangents |= fields.IsReading;
+            fields.Point(12, StartTangent);
+            fields.Point(13, EndTangent);
         }
     }
 }

@@ -1,14 +1,15 @@
 using System.Collections.Generic;
+using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
-/// <summary>An outline of edges of several kinds.</summary>
+/// <summary>A boundary path of edges of several types.</summary>
 public class CadEdgeBoundaryPath : ICadBoundaryPath
 {
-    /// <summary>Creates an outline without edges.</summary>
+    /// <summary>Creates a boundary path without edges.</summary>
     public CadEdgeBoundaryPath()
     {
     }
@@ -16,41 +17,46 @@ public class CadEdgeBoundaryPath : ICadBoundaryPath
     /// <summary>Gets the edges in order. The list is live. Group code 72.</summary>
     public IList<ICadBoundaryPathEntity> Edges { get; } = new CheckedList<ICadBoundaryPathEntity>("edges");
 
-    bool ICadBoundaryPath.ReadCode(int code, DxfTagReader tags)
+    bool ICadBoundaryPath.ReadField(int code, FieldReader reader)
     {
         switch (code)
         {
             case 93:
-                Edges.EnsureCapacity(tags.GetCount());
+                Edges.EnsureCapacity(reader.GetCount());
                 return true;
             case 72:
-                Edges.Add(Create(tags));
+                int kind = reader.GetInt();
+                Edges.Add(Create(kind) ?? throw reader.BadValue(BadKind(kind)));
                 return true;
             default:
-                return Edges.Count > 0 && Edges[^1].ReadCode(code, tags);
+                return Edges.Count > 0 && Edges[^1].ReadField(code, reader);
         }
     }
 
-    void ICadBoundaryPath.WriteCodes(DxfTagWriter writer)
+    void ICadBoundaryPath.Exchange(ObjectExchange fields)
     {
-        writer.Write(93, Edges.Count);
-        foreach (ICadBoundaryPathEntity edge in Edges)
+        int count = fields.Count(93, Edges.Count);
+        for (int i = 0; i < count; i++)
         {
-            writer.Write(72, (int)edge.EdgeType);
-            edge.WriteCodes(writer);
+            int kind = fields.Enum(72, i < Edges.Count ? (int)Edges[i].EdgeType : 0);
+            if (fields.IsReading)
+            {
+                Edges.Add(Create(kind) ?? throw new ImageLoadException(BadKind(kind)));
+            }
+
+            Edges[i].Exchange(fields);
         }
     }
 
-    private static ICadBoundaryPathEntity Create(DxfTagReader tags)
+    private static ICadBoundaryPathEntity? Create(int kind) => (CadHatchBoundaryType)kind switch
     {
-        int kind = tags.GetInt();
-        return (CadHatchBoundaryType)kind switch
-        {
-            CadHatchBoundaryType.Line => new CadBoundaryPathLine(),
-            CadHatchBoundaryType.CircularArc => new CadBoundaryPathCircularArc(),
-            CadHatchBoundaryType.EllipticArc => new CadBoundaryPathCircularEllipse(),
-            CadHatchBoundaryType.Spline => new CadBoundaryPathSpline(),
-            _ => throw tags.Fail($"group code 72 has the value {kind}; the kind of an edge is 1 to 4"),
-        };
-    }
+        CadHatchBoundaryType.Line => new CadBoundaryPathLine(),
+        CadHatchBoundaryType.CircularArc => new CadBoundaryPathCircularArc(),
+        CadHatchBoundaryType.EllipticArc => new CadBoundaryPathCircularEllipse(),
+        CadHatchBoundaryType.Spline => new CadBoundaryPathSpline(),
+        _ => null,
+    };
+
+    private static string BadKind(int kind) =>
+        $"Group code 72 has the value {kind}; the type of a hatch edge is 1 to 4";
 }

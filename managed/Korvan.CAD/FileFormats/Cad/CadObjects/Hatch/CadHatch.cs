@@ -1,6 +1,6 @@
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
@@ -8,7 +8,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 [CadObject("HATCH", Subclass = "AcDbHatch", HandWritten = true)]
 public partial class CadHatch : CadEntityBase
 {
-    /// <summary>Creates a solid fill without outlines.</summary>
+    /// <summary>Creates a solid fill without boundaries.</summary>
     public CadHatch()
     {
     }
@@ -29,12 +29,12 @@ public partial class CadHatch : CadEntityBase
     [CadShort(70)]
     public short SolidFillFlag { get; set; } = 1;
 
-    /// <summary>Gets or sets whether the hatch follows its outlines: 0 no, 1 yes. Group code 71.</summary>
+    /// <summary>Gets or sets whether the hatch follows its boundaries: 0 no, 1 yes. Group code 71.</summary>
     [CadShort(71)]
     public short AssociativityFlag { get; set; }
 
-    /// <summary>Gets or sets how nested outlines count: 0 in turn, 1 the outermost alone, 2 ignored. Group
-    /// code 75.</summary>
+    /// <summary>Gets or sets how nested boundaries count: 0 in turn, 1 the outermost alone, 2 ignored. Group code
+    /// 75.</summary>
     [CadShort(75)]
     public short HatchStyle { get; set; }
 
@@ -44,7 +44,7 @@ public partial class CadHatch : CadEntityBase
     public short PatternType { get; set; } = 1;
 
     /// <summary>Gets or sets the rotation of the pattern, in degrees. Group code 52.</summary>
-    [CadDouble(52)]
+    [CadAngle(52)]
     public double PatternAngle { get; set; }
 
     /// <summary>Gets or sets the scale or distance of the pattern. Group code 41.</summary>
@@ -56,8 +56,8 @@ public partial class CadHatch : CadEntityBase
     [CadShort(77)]
     public short DoubleFlag { get; set; }
 
-    /// <summary>Gets or sets the size of a pixel when the outline was found; 0 where it is not known. Group
-    /// code 47.</summary>
+    /// <summary>Gets or sets the size of a pixel when the boundary was found; 0 where it is not known. Group code
+    /// 47.</summary>
     [CadDouble(47)]
     public double PixelSize { get; set; }
 
@@ -89,7 +89,7 @@ public partial class CadHatch : CadEntityBase
     /// <summary>Gets the colours of the gradient as 0xRRGGBB. The list is live. Group code 421.</summary>
     public List<int> GradientColors { get; } = [];
 
-    /// <summary>Gets the outlines. The list is live. Group code 91.</summary>
+    /// <summary>Gets the boundary paths. The list is live. Group code 91.</summary>
     public IList<CadHatchBoundaryPathContainer> BoundaryPaths { get; } = new CheckedList<CadHatchBoundaryPathContainer>(
         "boundary_paths");
 
@@ -100,33 +100,33 @@ public partial class CadHatch : CadEntityBase
     /// <summary>Gets points inside the areas. The list is live. Group code 98.</summary>
     public IList<Cad2DPoint> SeedPoints { get; } = new CheckedList<Cad2DPoint>("seed_points");
 
-    /// <summary>Gets the place and the number of the colour of each gradient colour. Group codes 463, 63.</summary>
-    internal List<(double Place, short? ColorId)> GradientStops { get; } = [];
+    /// <summary>Gets the position and the index of the colour of each gradient colour. Group codes 463, 63.</summary>
+    internal List<(double Position, short? ColorId)> GradientStops { get; } = [];
 
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
+    partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         taken = true;
         switch (code)
         {
             case 91:
-                HatchCodec.ReadPaths(this, tags);
+                HatchFields.ReadPaths(this, reader);
                 break;
             case 78:
-                HatchCodec.ReadPattern(this, tags);
+                HatchFields.ReadPattern(this, reader);
                 break;
             case 98:
-                HatchCodec.ReadSeeds(this, tags);
+                HatchFields.ReadSeeds(this, reader);
                 break;
             case 451 or 453:
                 break;
             case 463:
-                GradientStops.Add((tags.GetDouble(), null));
+                GradientStops.Add((reader.GetDouble(), null));
                 break;
             case 63 when GradientStops.Count > 0:
-                GradientStops[^1] = (GradientStops[^1].Place, tags.GetShort());
+                GradientStops[^1] = (GradientStops[^1].Position, reader.GetShort());
                 break;
             case 421:
-                GradientColors.Add(tags.GetInt());
+                GradientColors.Add(reader.GetInt());
                 break;
             default:
                 taken = false;
@@ -134,5 +134,5 @@ public partial class CadHatch : CadEntityBase
         }
     }
 
-    partial void OnWriteCodes(DxfTagWriter writer) => HatchCodec.Write(this, writer);
+    partial void OnExchange(ObjectExchange fields) => HatchFields.Exchange(this, fields);
 }

@@ -2,7 +2,7 @@ using System.Collections.Generic;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
-/// <summary>A family of parallel lines of a hatch pattern, scaled and turned as it is drawn.</summary>
+/// <summary>A family of parallel lines of a hatch pattern, scaled and rotated as it is drawn.</summary>
 public class CadHatchPatternData
 {
     /// <summary>Creates a family of solid lines along X.</summary>

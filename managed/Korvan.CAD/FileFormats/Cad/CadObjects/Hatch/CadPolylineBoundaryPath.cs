@@ -1,13 +1,13 @@
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
-/// <summary>An outline of straight pieces and arcs.</summary>
+/// <summary>A boundary of straight segments and arcs.</summary>
 public class CadPolylineBoundaryPath : ICadBoundaryPath
 {
-    /// <summary>Creates a closed outline without vertices.</summary>
+    /// <summary>Creates a closed boundary without vertices.</summary>
     public CadPolylineBoundaryPath()
     {
     }
@@ -18,21 +18,21 @@ public class CadPolylineBoundaryPath : ICadBoundaryPath
     /// <summary>Gets the vertices, in object coordinates. The list is live. Group codes 10, 20.</summary>
     public IList<Cad2DPoint> Vertices { get; } = new CheckedList<Cad2DPoint>("vertices");
 
-    /// <summary>Gets the bulges of the pieces that begin at the vertices; empty where all are straight. The list is
+    /// <summary>Gets the bulges of the segments that begin at the vertices; empty where all are straight. The list is
     /// live. Group code 42.</summary>
     public List<double> Bulges { get; } = [];
 
-    bool ICadBoundaryPath.ReadCode(int code, DxfTagReader tags)
+    bool ICadBoundaryPath.ReadField(int code, FieldReader reader)
     {
         switch (code)
         {
             case 72:
                 break;
             case 73:
-                IsClosed = tags.GetInt() != 0;
+                IsClosed = reader.GetInt() != 0;
                 break;
             case 93:
-                Vertices.EnsureCapacity(tags.GetCount());
+                Vertices.EnsureCapacity(reader.GetCount());
                 break;
             case 42 when Vertices.Count > 0:
                 while (Bulges.Count < Vertices.Count - 1)
@@ -40,26 +40,26 @@ public class CadPolylineBoundaryPath : ICadBoundaryPath
                     Bulges.Add(0);
                 }
 
-                Bulges.Add(tags.GetDouble());
+                Bulges.Add(reader.GetDouble());
                 break;
             default:
-                return PointLists.TryRead(code, 10, Vertices, tags);
+                return FieldLists.TryRead(code, 10, Vertices, reader);
         }
 
         return true;
     }
 
-    void ICadBoundaryPath.WriteCodes(DxfTagWriter writer)
+    void ICadBoundaryPath.Exchange(ObjectExchange fields)
     {
-        writer.Write(72, Bulges.Count > 0 ? 1 : 0);
-        writer.Write(73, IsClosed ? 1 : 0);
-        writer.Write(93, Vertices.Count);
-        for (int i = 0; i < Vertices.Count; i++)
+        bool hasBulges = fields.Bool(72, Bulges.Count > 0);
+        IsClosed = fields.Bool(73, IsClosed);
+        int count = fields.Count(93, Vertices.Count);
+        for (int i = 0; i < count; i++)
         {
-            writer.Write(10, Vertices[i]);
-            if (Bulges.Count > 0)
+            fields.Point(10, fields.Item(Vertices, i));
+            if (hasBulges)
             {
-                writer.Write(42, i < Bulges.Count ? Bulges[i] : 0);
+                fields.ItemAt(42, Bulges, i, 0);
             }
         }
     }

@@ -1,11 +1,11 @@
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
-/// <summary>The outline of a hatched area.</summary>
+/// <summary>A boundary path of a hatch.</summary>
 public interface ICadBoundaryPath
 {
-    internal bool ReadCode(int code, DxfTagReader tags);
+    internal bool ReadField(int code, FieldReader reader);
 
-    internal void WriteCodes(DxfTagWriter writer);
+    internal void Exchange(ObjectExchange fields);
 }

@@ -1,15 +1,15 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
-/// <summary>An edge of an outline.</summary>
+/// <summary>An edge of a boundary path.</summary>
 public interface ICadBoundaryPathEntity
 {
     /// <summary>Gets the kind of the edge. Group code 72.</summary>
     CadHatchBoundaryType EdgeType { get; }
 
-    internal bool ReadCode(int code, DxfTagReader tags);
+    internal bool ReadField(int code, FieldReader reader);
 
-    internal void WriteCodes(DxfTagWriter writer);
+    internal void Exchange(ObjectExchange fields);
 }

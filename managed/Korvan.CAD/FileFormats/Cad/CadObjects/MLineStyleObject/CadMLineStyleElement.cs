@@ -1,7 +1,9 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 
 /// <summary>A line of a multiline style.</summary>
-public class CadMLineStyleElement
+public partial class CadMLineStyleElement
 {
     /// <summary>Creates a line in the middle.</summary>
     public CadMLineStyleElement()
@@ -9,14 +11,18 @@ public class CadMLineStyleElement
     }
 
     /// <summary>Gets or sets the distance from the middle. Group code 49.</summary>
+    [CadDouble(49)]
     public double Offset { get; set; }
 
-    /// <summary>Gets or sets the number of the colour. Group code 62.</summary>
+    /// <summary>Gets or sets the index of the colour. Group code 62.</summary>
+    [CadColor(62)]
     public short ColorId { get; set; } = 256;
 
     /// <summary>Gets or sets the colour as 0xRRGGBB; -1 for none. Group code 420.</summary>
+    [CadInt(420, Optional = true, Since = 2004)]
     public int ColorValue { get; set; } = -1;
 
     /// <summary>Gets or sets the name of the line type. Group code 6.</summary>
+    [CadName(6, SymbolTable.LineType)]
     public string LineTypeName { get; set; } = "BYLAYER";
 }

@@ -1,7 +1,7 @@
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 
@@ -27,59 +27,19 @@ public partial class CadMLineStyleObject : CadObjectBase
     [CadString(3)]
     public string Description { get; set; } = "";
 
-    /// <summary>Gets or sets the number of the fill's colour. Group code 62.</summary>
-    [CadShort(62)]
+    /// <summary>Gets or sets the colour index of the fill. Group code 62.</summary>
+    [CadColor(62)]
     public short FillColorId { get; set; } = 256;
 
     /// <summary>Gets or sets the angle of the start, in degrees. Group code 51.</summary>
-    [CadDouble(51)]
+    [CadAngle(51)]
     public double StartAngle { get; set; } = 90;
 
     /// <summary>Gets or sets the angle of the end, in degrees. Group code 52.</summary>
-    [CadDouble(52)]
+    [CadAngle(52)]
     public double EndAngle { get; set; } = 90;
 
     /// <summary>Gets the lines of the style. The list is live.</summary>
+    [CadRepeated(49, Count = 71)]
     public IList<CadMLineStyleElement> Elements { get; } = new CheckedList<CadMLineStyleElement>("elements");
-
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
-    {
-        taken = true;
-        switch (code)
-        {
-            case 71:
-                break;
-            case 49:
-                Elements.Add(new CadMLineStyleElement { Offset = tags.GetDouble() });
-                break;
-            case 62 when Elements.Count > 0:
-                Elements[^1].ColorId = tags.GetShort();
-                break;
-            case 420 when Elements.Count > 0:
-                Elements[^1].ColorValue = tags.GetInt();
-                break;
-            case 6 when Elements.Count > 0:
-                Elements[^1].LineTypeName = tags.GetString();
-                break;
-            default:
-                taken = false;
-                break;
-        }
-    }
-
-    partial void OnWriteCodes(DxfTagWriter writer)
-    {
-        writer.Write(71, Elements.Count);
-        foreach (CadMLineStyleElement element in Elements)
-        {
-            writer.Write(49, element.Offset);
-            writer.Write(62, element.ColorId);
-            if (writer.Release >= 2004 && element.ColorValue >= 0)
-            {
-                writer.Write(420, element.ColorValue);
-            }
-
-            writer.Write(6, element.LineTypeName);
-        }
-    }
 }

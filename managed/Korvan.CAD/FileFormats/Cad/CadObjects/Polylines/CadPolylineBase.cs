@@ -25,11 +25,11 @@ public abstract partial class CadPolylineBase : CadExtrudedEntityBase
     [CadShort(70, Optional = true)]
     public CadPolylineFlag Flag { get; set; }
 
-    /// <summary>Gets or sets the start width of pieces that state none. Group code 40.</summary>
+    /// <summary>Gets or sets the start width of segments that state none. Group code 40.</summary>
     [CadDouble(40, Optional = true)]
     public double StartWidth { get; set; }
 
-    /// <summary>Gets or sets the end width of pieces that state none. Group code 41.</summary>
+    /// <summary>Gets or sets the end width of segments that state none. Group code 41.</summary>
     [CadDouble(41, Optional = true)]
     public double EndWidth { get; set; }
 

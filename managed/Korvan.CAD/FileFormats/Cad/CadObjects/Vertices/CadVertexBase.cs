@@ -1,5 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 
@@ -10,21 +10,21 @@ public abstract partial class CadVertexBase : CadEntityBase
     {
     }
 
-    /// <summary>Gets or sets the place; in object coordinates for a flat polyline, otherwise in world coordinates.
+    /// <summary>Gets or sets the position; in object coordinates for a flat polyline, otherwise in world coordinates.
     /// Group codes 10, 20, 30.</summary>
     [Cad3DPoint(10)]
     public Cad3DPoint LocationPoint { get; set; } = new();
 
-    /// <summary>Gets or sets the start width of the piece that begins here. Group code 40.</summary>
+    /// <summary>Gets or sets the start width of the segment that begins here. Group code 40.</summary>
     [CadDouble(40, Optional = true)]
     public double StartWidth { get; set; }
 
-    /// <summary>Gets or sets the end width of the piece that begins here. Group code 41.</summary>
+    /// <summary>Gets or sets the end width of the segment that begins here. Group code 41.</summary>
     [CadDouble(41, Optional = true)]
     public double EndWidth { get; set; }
 
     /// <summary>Gets or sets the tangent of a quarter of the angle of the arc that begins here; 0 for a straight
-    /// piece, negative clockwise. Group code 42.</summary>
+    /// segment, negative clockwise. Group code 42.</summary>
     [CadDouble(42, Optional = true)]
     public double Bulge { get; set; }
 
@@ -34,17 +34,17 @@ public abstract partial class CadVertexBase : CadEntityBase
     public short VertexFlags { get; set; }
 
     /// <summary>Gets or sets the tangent for curve fitting, in degrees. Group code 50.</summary>
-    [CadDouble(50, Optional = true)]
+    [CadAngle(50, Optional = true)]
     public double CurveFitTangent { get; set; }
 
     /// <inheritdoc/>
-    internal override void WriteMarker(DxfTagWriter writer, string subclass)
+    internal override void BeginSubclass(ObjectExchange fields, string subclass)
     {
         if (subclass != "AcDbEntity" && this is not CadFaceRecord)
         {
-            writer.WriteSubclass("AcDbVertex");
+            fields.BeginSubclass("AcDbVertex");
         }
 
-        base.WriteMarker(writer, subclass);
+        base.BeginSubclass(fields, subclass);
     }
 }

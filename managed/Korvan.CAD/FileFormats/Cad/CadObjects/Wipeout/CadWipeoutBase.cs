@@ -1,105 +1,13 @@
-using System.Collections.Generic;
-using Korvan.CAD.Collections;
-using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
 
-/// <summary>What wipeouts have in common: an area in the colour of the background.</summary>
+/// <summary>What wipeouts have in common: an area in the colour of the background. The fields are those of a raster
+/// image.</summary>
+[CadFieldsOf(typeof(CadRasterImage))]
 public abstract partial class CadWipeoutBase : CadEntityBase
 {
     internal CadWipeoutBase()
     {
-    }
-
-    /// <summary>Gets or sets the version of the object. Group code 90.</summary>
-    [CadInt(90)]
-    public int ClassVersion { get; set; }
-
-    /// <summary>Gets or sets the lower left corner, in world coordinates. Group codes 10, 20, 30.</summary>
-    [Cad3DPoint(10)]
-    public Cad3DPoint InsertionPoint { get; set; } = new();
-
-    /// <summary>Gets or sets one pixel along the lower side, in world coordinates. Group codes 11, 21, 31.</summary>
-    [Cad3DPoint(11)]
-    public Cad3DPoint VectorU { get; set; } = new(1, 0, 0);
-
-    /// <summary>Gets or sets one pixel along the left side, in world coordinates. Group codes 12, 22, 32.</summary>
-    [Cad3DPoint(12)]
-    public Cad3DPoint VectorV { get; set; } = new(0, 1, 0);
-
-    /// <summary>Gets or sets the width and height in pixels. Group codes 13, 23.</summary>
-    [Cad2DPoint(13)]
-    public Cad2DPoint ImageSize { get; set; } = new(1, 1);
-
-    /// <summary>Gets or sets the handle of the image definition in hexadecimal. Group code 340.</summary>
-    [CadString(340, Optional = true)]
-    public string ImageDefReference { get; set; } = "";
-
-    /// <summary>Gets or sets bits: 1 shown, 2 shown when not aligned with the screen, 4 clipped, 8 transparent. Group
-    /// code 70.</summary>
-    [CadShort(70)]
-    public short DisplayFlags { get; set; } = 7;
-
-    /// <summary>Gets or sets whether it is clipped: 0 no, 1 yes. Group code 280.</summary>
-    [CadShort(280)]
-    public short ClippingState { get; set; }
-
-    /// <summary>Gets or sets the brightness, 0 to 100. Group code 281.</summary>
-    [CadShort(281)]
-    public short Brightness { get; set; } = 50;
-
-    /// <summary>Gets or sets the contrast, 0 to 100. Group code 282.</summary>
-    [CadShort(282)]
-    public short Contrast { get; set; } = 50;
-
-    /// <summary>Gets or sets the fading into the background, 0 to 100. Group code 283.</summary>
-    [CadShort(283)]
-    public short Fade { get; set; }
-
-    /// <summary>Gets or sets the handle of the reactor in hexadecimal. Group code 360.</summary>
-    [CadString(360, Optional = true)]
-    public string ImageDefReactorReference { get; set; } = "";
-
-    /// <summary>Gets or sets the kind of the boundary: 1 a rectangle by two corners, 2 a polygon. Group code
-    /// 71.</summary>
-    [CadShort(71)]
-    public short ClippingBoundaryType { get; set; } = 1;
-
-    /// <summary>Gets the clipping boundary in pixels, from the upper left corner and half a pixel outwards. Group
-    /// codes 14, 24.</summary>
-    public IList<Cad2DPoint> ClipBoundaryVertices { get; } = new CheckedList<Cad2DPoint>("clip_boundary_vertices");
-
-    /// <summary>Gets or sets which side of the boundary is shown: 0 the inside, 1 the outside. Group code
-    /// 290.</summary>
-    [CadShort(290, Optional = true, Since = 2010)]
-    public short ClipMode { get; set; }
-
-    partial void OnReadCode(int code, DxfTagReader tags, ref bool taken)
-    {
-        switch (code)
-        {
-            case 14:
-                ClipBoundaryVertices.Add(new Cad2DPoint(tags.GetDouble(), 0));
-                break;
-            case 24 when ClipBoundaryVertices.Count > 0:
-                ClipBoundaryVertices[^1].Y = tags.GetDouble();
-                break;
-            case 91:
-                break;
-            default:
-                return;
-        }
-
-        taken = true;
-    }
-
-    partial void OnWriteCodes(DxfTagWriter writer)
-    {
-        writer.Write(91, ClipBoundaryVertices.Count);
-        foreach (Cad2DPoint point in ClipBoundaryVertices)
-        {
-            writer.Write(14, point);
-        }
     }
 }

@@ -1,0 +1,63 @@
+using Korvan.CAD.CadExceptions;
+
+namespace Korvan.CAD.FileFormats.Cad.Exchange;
+
+/// <summary>
+/// Gives the fields of an object one by one, in the order of the file. Group codes name fields whatever the format is;
+/// the class of the object tells which type the value has.
+/// </summary>
+internal abstract class FieldReader
+{
+    /// <summary>Gets the group code of the current field.</summary>
+    internal int Code { get; private protected set; }
+
+    /// <summary>Gets the subclass that the current field belongs to, or nothing before the first marker.</summary>
+    internal string? Subclass { get; private set; }
+
+    /// <summary>Tells whether the current field belongs to a subclass; old files have no markers.</summary>
+    internal bool InSubclass(string name) => Subclass is null || Subclass == name;
+
+    internal void EnterSubclass(string? name) => Subclass = name;
+
+    /// <summary>Goes on to the next field.</summary>
+    /// <returns>Whether there is one.</returns>
+    internal abstract bool Next();
+
+    /// <summary>Makes <see cref="Next"/> give the current field again; after the last field there is none to give.
+    /// </summary>
+    internal abstract void Unread();
+
+    internal abstract double GetDouble();
+
+    /// <summary>Gives the value as an angle in degrees.</summary>
+    internal abstract double GetAngle();
+
+    internal abstract int GetInt();
+
+    internal abstract short GetShort();
+
+    internal abstract long GetLong();
+
+    /// <summary>Gives the value as a string.</summary>
+    internal abstract string GetString();
+
+    /// <summary>Gives the value as a name: without blanks at its ends.</summary>
+    internal abstract string GetName();
+
+    internal abstract ulong GetHandle();
+
+    /// <summary>Gives the value as a handle in hexadecimal.</summary>
+    internal abstract string GetHandleText();
+
+    /// <summary>Reads how many items follow; a count that the rest of the file cannot hold is damage.</summary>
+    internal abstract int GetCount();
+
+    /// <summary>Appends a chunk of binary data to the chunks before.</summary>
+    internal abstract byte[] AppendBinary(byte[] before);
+
+    /// <summary>Gives the current field as a tag of a text file.</summary>
+    internal abstract CadCodeValue ToCodeValue();
+
+    /// <summary>Describes a value that its class does not allow.</summary>
+    internal abstract ImageLoadException BadValue(string cause);
+}

@@ -1,0 +1,82 @@
+using System;
+using System.IO;
+using Korvan.CAD.Binding;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.Pdf;
+using Korvan.CAD.Rendering.Scene;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Export;
+
+/// <summary>Draws scenes onto pages and hands these to the writers of page formats.</summary>
+internal static class PageExporter
+{
+    private const double PointsPerInch = 72;
+    private const double UserUnitsPerInch = 96;
+
+    /// <summary>Writes all pages that the options ask for.</summary>
+    internal static void WritePdf(VectorScene scene, PdfOptions options, ExportContext context, Stream output)
+    {
+        if (options.CorePdfOptions is { Compliance: not PdfCompliance.Pdf15 } document)
+        {
+            throw new RenderException(
+                $"Pages are written as PDF 1.5, not as {Verify.NameOf(document.Compliance)}; leave compliance at "
+                    + $"PDF15.");
+        }
+
+        using TextEngine engine = context.NewEngine();
+        var pages = new PageSource(scene, context, engine, DeviceKind.Points, PointsPerInch);
+        DocumentInfo info = DocumentInfoReader.Read(options);
+        if (options.CorePdfOptions?.DigitalSignatureDetails is not { } signature)
+        {
+            VectorDocument.WritePdf(output, engine, pages.Pages(), info);
+            return;
+        }
+
+        using var unsigned = new MemoryStream();
+        VectorDocument.WritePdf(unsigned, engine, pages.Pages(), info);
+        PdfSigner.Write(unsigned.ToArray(), signature, output);
+    }
+
+    internal static void WriteSvg(VectorScene scene, SvgOptions options, ExportContext context, Stream output)
+    {
+        using TextEngine engine = context.NewEngine();
+        var pages = new PageSource(scene, context, engine, DeviceKind.UserUnits, UserUnitsPerInch);
+        Page page = pages.SinglePage();
+        if (options.TextAsShapes)
+        {
+            VectorDocument.WriteSvg(output, engine, page);
+        }
+        else
+        {
+            SvgTextDocument.Write(output, engine, page, options);
+        }
+    }
+
+    internal static void WriteHtml(VectorScene scene, Html5Options options, ExportContext context, Stream output)
+    {
+        using TextEngine engine = context.NewEngine();
+        var pages = new PageSource(scene, context, engine, DeviceKind.UserUnits, UserUnitsPerInch);
+        HtmlCanvasDocument.Write(output, engine, pages.SinglePage(), options);
+    }
+
+    /// <summary>Writes the one page that the options ask for, in points.</summary>
+    internal static void WriteSingle<T>(
+        VectorScene scene, T options, ExportContext context, Stream output,
+        Action<Stream, TextEngine, Page, T> write)
+    {
+        using TextEngine engine = context.NewEngine();
+        var pages = new PageSource(scene, context, engine, DeviceKind.Points, PointsPerInch);
+        write(output, engine, pages.SinglePage(), options);
+    }
+
+    /// <summary>Gives the pixels of the one page that the options ask for.</summary>
+    internal static RasterPage Rasterize(VectorScene scene, ExportContext context)
+    {
+        using TextEngine engine = context.NewEngine();
+        var pages = new PageSource(scene, context, engine, DeviceKind.Pixels, context.Resolution);
+        return RasterPage.Render(engine, pages.SinglePage());
+    }
+}

@@ -1,0 +1,69 @@
+using System.Collections.Generic;
+using System.IO;
+using System.Linq;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.ImageOptions;
+using Xunit;
+
+namespace Korvan.CAD.Tests.FileFormats.Cad;
+
+/// <summary>Data that no class interprets is written by the format that it came from, and by no other.</summary>
+public class KeptDataTests
+{
+    [Fact]
+    public void Data_of_another_format_is_left_out_and_told()
+    {
+        CadImage image = new();
+        image.AddEntity(new CadLine { SecondPoint = new Cad3DPoint(3, 4, 0), Kept = new KeptBits() });
+        image.AddEntity(new RawEntity("WIDGET") { Kept = new KeptBits() });
+        image.Objects.Add(new RawObject("GADGET") { Kept = new KeptBits() });
+        image.Drawing.RawSections.Add(new RawSection("FOREIGN") { Content = new KeptBits() });
+        DxfOptions options = new();
+        using MemoryStream stream = new();
+        image.Save(stream, options);
+
+        CadImage again = DxfText.Load(stream.ToArray());
+        Assert.Equal(3, Assert.IsType<CadLine>(Assert.Single(again.Entities)).SecondPoint.X);
+        Assert.DoesNotContain(again.Objects, item => item is RawObject { DxfName: "GADGET" });
+        Assert.Empty(again.Drawing.RawSections);
+        CadRenderResult result = Assert.IsType<CadRenderResult>(options.RenderResult);
+        Assert.Equal(RenderErrorCode.EntityNotDrawn, result.RenderCode);
+        Assert.Equal(["GADGET", "LINE", "WIDGET", "section"], result.Failures.Select(failure => failure.Message.Split(' ')[0]).Order(System.StringComparer.Ordinal));
+        Assert.All(result.Failures, failure => Assert.Contains("data kept in the form of a test", failure.Message, System.StringComparison.Ordinal));
+    }
+
+    [Fact]
+    public void Data_of_the_format_is_written_without_a_word()
+    {
+        CadImage image = DxfText.Load(DxfText.Drawing(0, "WIDGET", 5, "2A", 8, "0", 70, 7));
+        DxfOptions options = new();
+        using MemoryStream stream = new();
+        image.Save(stream, options);
+        Assert.Equal(RenderErrorCode.Success, options.RenderResult!.RenderCode);
+        Assert.Equal(70, Assert.Single(DxfText.Load(stream.ToArray()).Entities[0].UnknownCodes).Attribute);
+    }
+
+    [Fact]
+    public void Clones_have_kept_data_of_their_own()
+    {
+        CadImage image = DxfText.Load(DxfText.Drawing(
+            0, "WIDGET", 5, "2A", 8, "0", 70, 7, 101, "Embedded Object", 10, 1, 1001, "ACME", 1000, "note"));
+        CadEntityBase original = image.Entities[0];
+        CadEntityBase clone = original.Clone();
+        clone.KeptTags!.Tags.Clear();
+        clone.Embedded!.Clear();
+        clone.XdataContainer.XdataEntities[0].Data[0].Value = "changed";
+        Assert.Equal((1, 2, "note"), (original.UnknownCodes.Length, original.Embedded!.Count, original.XdataContainer.XdataEntities[0].Data[0].Value));
+        image.AddEntity(new RawEntity("WIDGET") { Kept = new KeptBits() });
+        Assert.IsType<KeptBits>(image.Entities[1].Clone().Kept);
+    }
+
+    private sealed class KeptBits : KeptData
+    {
+        internal override string FormatName => "a test";
+
+        internal override KeptData Copy() => new KeptBits();
+    }
+}
