@@ -95,7 +95,7 @@ internal sealed partial class SceneBuilder : IGeometrySink
         _current = new Current(pen, layer, context, entity);
         if (!EntityGeometry.Emit(entity, this))
         {
-            DrawRaw(entity, pen, layer, context);
+            List.Skip(entity.TypeNameText);
         }
 
         _current = outer;

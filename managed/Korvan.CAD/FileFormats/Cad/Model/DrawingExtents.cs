@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
@@ -146,6 +147,15 @@ internal sealed class DrawingExtents : IDisposable
         {
             owner.AddInsert(insert, Extents);
             insert.Attributes.ForEach(attribute => EntityGeometry.Emit(attribute, this));
+        }
+
+        protected override void AddTable(CadTableEntity table, in Affine3 map)
+        {
+            if (owner._drawing.BlockEntities.Find(table.Name) is { } block)
+            {
+                Affine3 placed = map * Affine3.Translation(-block.BasePoint.ToVec3());
+                owner.AddBlock(table.Name, Extents.Map * placed, Extents);
+            }
         }
 
         protected override void AddDimension(CadDimensionBase dimension)

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.Geometry;
@@ -89,6 +90,16 @@ internal interface IGeometrySink
     }
 
     void Leader(CadLeader leader, List<Vec3> points)
+    {
+    }
+
+    /// <summary>Leaders that share a text or a block.</summary>
+    void MultiLeader(CadMLeader leader)
+    {
+    }
+
+    /// <summary>A table, whose graphics are in a block that the map places.</summary>
+    void Table(CadTableEntity table, in Affine3 map)
     {
     }
 
