@@ -63,9 +63,9 @@ internal enum LineJoins
 }
 
 /// <summary>Ends and joins of a line. Longer points than the limit, in line widths, are cut.</summary>
-internal readonly record struct LineLook(LineCaps Cap, LineJoins Join, double MiterLimit = LineLook.UsualMiterLimit)
+internal readonly record struct LineLook(LineCaps Cap, LineJoins Join, double MiterLimit = LineLook.DefaultMiterLimit)
 {
-    internal const double UsualMiterLimit = 10;
+    internal const double DefaultMiterLimit = 10;
 
     /// <summary>The word that SVG and the canvas of HTML have for the ends.</summary>
     internal string CapWord => Cap switch { LineCaps.Butt => "butt", LineCaps.Square => "square", _ => "round" };

@@ -12,7 +12,7 @@ namespace Korvan.CAD.DisplayList;
 internal sealed class DrawingList
 {
     /// <summary>Coordinates that a list may hold (1.2 GB): past it a drawing is a bomb of nested arrays, not a page.</summary>
-    internal const int MostCoords = 150_000_000;
+    internal const int MaxCoords = 150_000_000;
 
     /// <summary>How the kinds of skipped things end that lack a file.</summary>
     internal const string MissingFile = " whose file is not there";
@@ -36,7 +36,7 @@ internal sealed class DrawingList
     private Bounds2 bounds = Bounds2.Empty;
 
     /// <summary>What becomes of every colour that is drawn with; null to keep them.</summary>
-    internal Func<Rgba, Rgba>? Ink { get; init; }
+    internal Func<Rgba, Rgba>? ColorMap { get; init; }
 
     internal ReadOnlySpan<DisplayItem> Items => items.AsSpan(0, itemCount);
 
@@ -133,9 +133,9 @@ internal sealed class DrawingList
         if (gradient != null)
         {
             items[index].Extra = gradients.Count;
-            gradients.Add(Ink is null
+            gradients.Add(ColorMap is null
                 ? gradient
-                : gradient with { Stops = Array.ConvertAll(gradient.Stops, stop => stop with { Color = Ink(stop.Color) }) });
+                : gradient with { Stops = Array.ConvertAll(gradient.Stops, stop => stop with { Color = ColorMap(stop.Color) }) });
         }
     }
 
@@ -160,15 +160,15 @@ internal sealed class DrawingList
 
         ref DisplayItem item = ref NewItem(DisplayKind.Image, default, layer);
         item.Extra = images.Count;
-        images.Add(Ink is null ? image : Inked(image));
+        images.Add(ColorMap is null ? image : Mapped(image));
     }
 
-    private PlacedImage Inked(PlacedImage image)
+    private PlacedImage Mapped(PlacedImage image)
     {
         byte[] pixels = [.. image.Pixels];
         for (int i = 0; i < pixels.Length; i += 4)
         {
-            Rgba color = Ink!(new Rgba(pixels[i + 2], pixels[i + 1], pixels[i], 255));
+            Rgba color = ColorMap!(new Rgba(pixels[i + 2], pixels[i + 1], pixels[i], 255));
             (pixels[i], pixels[i + 1], pixels[i + 2]) = (color.B, color.G, color.R);
         }
 
@@ -225,7 +225,7 @@ internal sealed class DrawingList
         }
 
         ref DisplayItem item = ref items[itemCount++];
-        item = new DisplayItem { Kind = kind, Color = Ink?.Invoke(color) ?? color, Layer = layer, Dash = -1, Extra = -1 };
+        item = new DisplayItem { Kind = kind, Color = ColorMap?.Invoke(color) ?? color, Layer = layer, Dash = -1, Extra = -1 };
         return ref item;
     }
 
@@ -233,10 +233,10 @@ internal sealed class DrawingList
     {
         ReadOnlySpan<PathVerb> newVerbs = path.Verbs;
         ReadOnlySpan<double> newCoords = path.Coords;
-        if (coordCount + (long)newCoords.Length > MostCoords)
+        if (coordCount + (long)newCoords.Length > MaxCoords)
         {
             throw new RenderException(
-                $"The drawing needs more than {MostCoords} coordinates on one page; it is too large to be rendered.");
+                $"The drawing needs more than {MaxCoords} coordinates on one page; it is too large to be rendered.");
         }
 
         Grow(ref verbs, verbCount + newVerbs.Length);

@@ -26,12 +26,13 @@ internal readonly struct Affine3
     internal bool IsIdentity =>
         AxisX == Vec3.UnitX && AxisY == Vec3.UnitY && AxisZ == Vec3.UnitZ && Origin == default;
 
-    /// <summary>Gets whether the map turns right hands into left ones.</summary>
+    /// <summary>Gets whether the map changes the sense of rotation.</summary>
     internal bool IsMirror => Vec3.Dot(Vec3.Cross(AxisX, AxisY), AxisZ) < 0;
 
     internal bool IsFinite => AxisX.IsFinite && AxisY.IsFinite && AxisZ.IsFinite && Origin.IsFinite;
 
-    /// <summary>The side of the square that has the area of the mapped unit square: the scale of lengths in the plane.</summary>
+    /// <summary>The side of the square that has the area of the mapped unit square: the scale of lengths in the
+    /// plane.</summary>
     internal double PlaneScale => Math.Sqrt(Math.Abs((AxisX.X * AxisY.Y) - (AxisX.Y * AxisY.X)));
 
     internal static Affine3 Translation(Vec3 by) => new(Vec3.UnitX, Vec3.UnitY, Vec3.UnitZ, by);
@@ -62,5 +63,6 @@ internal readonly struct Affine3
 
     internal Vec2 Project(Vec3 p) => Project(p.X, p.Y, p.Z);
 
-    internal Vec2 ProjectVector(double x, double y) => new((AxisX.X * x) + (AxisY.X * y), (AxisX.Y * x) + (AxisY.Y * y));
+    internal Vec2 ProjectVector(double x, double y) =>
+        new((AxisX.X * x) + (AxisY.X * y), (AxisX.Y * x) + (AxisY.Y * y));
 }

@@ -67,7 +67,8 @@ internal struct Bounds2
         MaxY = Math.Min(MaxY, other.MaxY),
     };
 
-    /// <summary>Adds a cubic by its end points and, where its polygon leaves the box, by the curve's own extremes.</summary>
+    /// <summary>Adds a cubic by its end points and, where its polygon leaves the box, by the curve's own
+    /// extremes.</summary>
     internal void AddCubic(Vec2 p0, Vec2 p1, Vec2 p2, Vec2 p3)
     {
         Add(p3.X, p3.Y);

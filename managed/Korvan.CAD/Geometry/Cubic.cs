@@ -4,7 +4,7 @@ namespace Korvan.CAD.Geometry;
 
 internal static class Cubic
 {
-    private const int MostPieces = 256;
+    private const int MaxPieces = 256;
 
     internal static Vec2 At(Vec2 p0, Vec2 p1, Vec2 p2, Vec2 p3, double t)
     {
@@ -13,7 +13,7 @@ internal static class Cubic
     }
 
     /// <summary>
-    /// How many equal steps of the parameter keep the chord within <paramref name="tolerance"/> of the curve: the
+    /// How many equal steps of the parameter keep the segments within <paramref name="tolerance"/> of the curve: the
     /// second difference bounds the deviation (Wang's formula; R. Goldman, Pyramid Algorithms, 2003).
     /// </summary>
     internal static int PieceCount(Vec2 p0, Vec2 p1, Vec2 p2, Vec2 p3, double tolerance)
@@ -21,6 +21,6 @@ internal static class Cubic
         double d1 = (p0 - (p1 * 2) + p2).Length;
         double d2 = (p1 - (p2 * 2) + p3).Length;
         double n = Math.Sqrt(0.75 * Math.Max(d1, d2) / tolerance);
-        return double.IsFinite(n) ? Math.Clamp((int)Math.Ceiling(n), 1, MostPieces) : 1;
+        return double.IsFinite(n) ? Math.Clamp((int)Math.Ceiling(n), 1, MaxPieces) : 1;
     }
 }

@@ -9,7 +9,8 @@ namespace Korvan.CAD.Geometry;
 /// </summary>
 internal static class FitSpline
 {
-    internal static void Draw(in PathPen pen, IReadOnlyList<Vec3> fitPoints, Vec3? startTangent, Vec3? endTangent, bool closed)
+    internal static void Draw(
+        in PathPen pen, IReadOnlyList<Vec3> fitPoints, Vec3? startTangent, Vec3? endTangent, bool closed)
     {
         List<Vec3> p = Distinct(fitPoints, closed);
         if (p.Count < 2)

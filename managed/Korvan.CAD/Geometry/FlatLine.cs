@@ -6,7 +6,7 @@ namespace Korvan.CAD.Geometry;
 /// <summary>A subpath as points; the first stands again at the end of one that is closed.</summary>
 internal readonly record struct FlatLine(Vec2[] Points, bool Closed)
 {
-    /// <summary>Cuts the curves of a path into chords that lie within the tolerance.</summary>
+    /// <summary>Flattens the curves of a path within the tolerance.</summary>
     internal static List<FlatLine> Of(PathBuffer path, double tolerance)
     {
         var lines = new List<FlatLine>();
@@ -46,7 +46,8 @@ internal readonly record struct FlatLine(Vec2[] Points, bool Closed)
 
     private static void AddCurve(List<Vec2> points, ReadOnlySpan<double> c, double tolerance)
     {
-        (Vec2 p0, Vec2 p1, Vec2 p2, Vec2 p3) = (points[^1], new Vec2(c[0], c[1]), new Vec2(c[2], c[3]), new Vec2(c[4], c[5]));
+        (Vec2 p0, Vec2 p1, Vec2 p2, Vec2 p3) = (
+            points[^1], new Vec2(c[0], c[1]), new Vec2(c[2], c[3]), new Vec2(c[4], c[5]));
         int pieces = Cubic.PieceCount(p0, p1, p2, p3, tolerance);
         for (int i = 1; i <= pieces; i++)
         {

@@ -13,27 +13,29 @@ internal sealed class Nurbs
     private const int HighestDegree = 25;
     private const int DeepestSplit = 12;
 
-    private readonly int degree;
-    private readonly double[] knots;
-    private readonly Vec3[] points;
-    private readonly double[] weights;
-    private readonly bool rational;
+    private readonly int _degree;
+    private readonly double[] _knots;
+    private readonly Vec3[] _points;
+    private readonly double[] _weights;
+    private readonly bool _rational;
 
     private Nurbs(int degree, double[] knots, Vec3[] points, double[] weights)
     {
-        this.degree = degree;
-        this.knots = knots;
-        this.points = points;
-        this.weights = weights;
-        rational = Array.Exists(weights, w => Math.Abs(w - weights[0]) > 1e-12 * Math.Abs(weights[0]));
+        _degree = degree;
+        _knots = knots;
+        _points = points;
+        _weights = weights;
+        _rational = Array.Exists(weights, w => Math.Abs(w - weights[0]) > 1e-12 * Math.Abs(weights[0]));
     }
 
-    internal double First => knots[degree];
+    internal double First => _knots[_degree];
 
-    internal double Last => knots[points.Length];
+    internal double Last => _knots[_points.Length];
 
-    /// <summary>Returns null for data that do not make a curve: too few points, falling knots, weights of no sign.</summary>
-    internal static Nurbs? Create(int degree, IReadOnlyList<double> knots, IReadOnlyList<Vec3> points, IReadOnlyList<double>? weights)
+    /// <summary>Returns null for data that do not make a curve: too few points, falling knots, weights of no
+    /// sign.</summary>
+    internal static Nurbs? Create(
+        int degree, IReadOnlyList<double> knots, IReadOnlyList<Vec3> points, IReadOnlyList<double>? weights)
     {
         if (degree < 1 || degree > HighestDegree || points.Count < degree + 1)
         {
@@ -91,10 +93,10 @@ internal sealed class Nurbs
 
     private void DrawSpans(in PathPen pen, double tolerance, double from, double to)
     {
-        for (int i = degree; i < points.Length; i++)
+        for (int i = _degree; i < _points.Length; i++)
         {
-            double a = Math.Max(knots[i], from);
-            double b = Math.Min(knots[i + 1], to);
+            double a = Math.Max(_knots[i], from);
+            double b = Math.Min(_knots[i + 1], to);
             if (b > a)
             {
                 DrawSpan(pen, a, b, i, tolerance);
@@ -106,7 +108,7 @@ internal sealed class Nurbs
     {
         Vec3 pa = Evaluate(a, span, out Vec3 da);
         Vec3 pb = Evaluate(b, span, out Vec3 db);
-        if (degree <= 3 && !rational)
+        if (_degree <= 3 && !_rational)
         {
             Hermite(pen, pa, da, pb, db, b - a);
         }
@@ -155,15 +157,15 @@ internal sealed class Nurbs
 
     private int FindSpan(double t)
     {
-        int low = degree;
-        int high = points.Length;
+        int low = _degree;
+        int high = _points.Length;
         while (high - low > 1)
         {
             int mid = (low + high) / 2;
-            (low, high) = t < knots[mid] ? (low, mid) : (mid, high);
+            (low, high) = t < _knots[mid] ? (low, mid) : (mid, high);
         }
 
-        while (low > degree && knots[low] >= knots[low + 1])
+        while (low > _degree && _knots[low] >= _knots[low + 1])
         {
             low--;
         }
@@ -176,46 +178,46 @@ internal sealed class Nurbs
     {
         Span<Vec3> p = stackalloc Vec3[HighestDegree + 1];
         Span<double> w = stackalloc double[HighestDegree + 1];
-        for (int j = 0; j <= degree; j++)
+        for (int j = 0; j <= _degree; j++)
         {
-            w[j] = weights[span - degree + j];
-            p[j] = points[span - degree + j] * w[j];
+            w[j] = _weights[span - _degree + j];
+            p[j] = _points[span - _degree + j] * w[j];
         }
 
         Vec3 dp = default;
         double dw = 0;
-        for (int r = 1; r <= degree; r++)
+        for (int r = 1; r <= _degree; r++)
         {
-            if (r == degree)
+            if (r == _degree)
             {
-                double scale = degree / (knots[span + 1] - knots[span]);
-                dp = (p[degree] - p[degree - 1]) * scale;
-                dw = (w[degree] - w[degree - 1]) * scale;
+                double scale = _degree / (_knots[span + 1] - _knots[span]);
+                dp = (p[_degree] - p[_degree - 1]) * scale;
+                dw = (w[_degree] - w[_degree - 1]) * scale;
             }
 
-            for (int j = degree; j >= r; j--)
+            for (int j = _degree; j >= r; j--)
             {
-                double left = knots[span - degree + j];
-                double alpha = (t - left) / (knots[span + 1 + j - r] - left);
+                double left = _knots[span - _degree + j];
+                double alpha = (t - left) / (_knots[span + 1 + j - r] - left);
                 p[j] = (p[j - 1] * (1 - alpha)) + (p[j] * alpha);
                 w[j] = (w[j - 1] * (1 - alpha)) + (w[j] * alpha);
             }
         }
 
-        Vec3 point = p[degree] * (1 / w[degree]);
-        derivative = (dp - (point * dw)) * (1 / w[degree]);
+        Vec3 point = p[_degree] * (1 / w[_degree]);
+        derivative = (dp - (point * dw)) * (1 / w[_degree]);
         return point;
     }
 
     private static double[] Clamped(int degree, int count)
     {
-        var knots = new double[count + degree + 1];
-        for (int i = 0; i < knots.Length; i++)
+        var _knots = new double[count + degree + 1];
+        for (int i = 0; i < _knots.Length; i++)
         {
-            knots[i] = Math.Clamp(i - degree, 0, count - degree);
+            _knots[i] = Math.Clamp(i - degree, 0, count - degree);
         }
 
-        return knots;
+        return _knots;
     }
 
     private static double[] Copy(IReadOnlyList<double> from)

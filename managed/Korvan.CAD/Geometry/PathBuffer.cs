@@ -16,88 +16,88 @@ internal enum PathVerb : byte
 /// </summary>
 internal sealed class PathBuffer
 {
-    private PathVerb[] verbs = new PathVerb[64];
-    private double[] coords = new double[256];
-    private int verbCount;
-    private int coordCount;
-    private Vec2 start;
-    private Vec2 current;
-    private Bounds2 bounds = Bounds2.Empty;
+    private PathVerb[] _verbs = new PathVerb[64];
+    private double[] _coords = new double[256];
+    private int _verbCount;
+    private int _coordCount;
+    private Vec2 _start;
+    private Vec2 _current;
+    private Bounds2 _bounds = Bounds2.Empty;
 
-    internal ReadOnlySpan<PathVerb> Verbs => verbs.AsSpan(0, verbCount);
+    internal ReadOnlySpan<PathVerb> Verbs => _verbs.AsSpan(0, _verbCount);
 
-    internal ReadOnlySpan<double> Coords => coords.AsSpan(0, coordCount);
+    internal ReadOnlySpan<double> Coords => _coords.AsSpan(0, _coordCount);
 
-    internal bool IsEmpty => verbCount == 0;
+    internal bool IsEmpty => _verbCount == 0;
 
-    internal Vec2 Current => current;
+    internal Vec2 Current => _current;
 
-    internal ref readonly Bounds2 Bounds => ref bounds;
+    internal ref readonly Bounds2 Bounds => ref _bounds;
 
     internal void Clear()
     {
-        verbCount = 0;
-        coordCount = 0;
-        bounds = Bounds2.Empty;
+        _verbCount = 0;
+        _coordCount = 0;
+        _bounds = Bounds2.Empty;
     }
 
     internal void MoveTo(Vec2 p)
     {
         // A move that follows a move replaces it, unless it was meant as a dot, which is closed by a line.
-        if (verbCount > 0 && verbs[verbCount - 1] == PathVerb.Move)
+        if (_verbCount > 0 && _verbs[_verbCount - 1] == PathVerb.Move)
         {
-            coordCount -= 2;
-            verbCount--;
+            _coordCount -= 2;
+            _verbCount--;
         }
 
         Reserve(2);
-        verbs[verbCount++] = PathVerb.Move;
+        _verbs[_verbCount++] = PathVerb.Move;
         Put(p);
-        start = p;
+        _start = p;
     }
 
     internal void LineTo(Vec2 p)
     {
-        if (verbCount == 0)
+        if (_verbCount == 0)
         {
             MoveTo(p);
             return;
         }
 
         Reserve(2);
-        if (verbs[verbCount - 1] == PathVerb.Move)
+        if (_verbs[_verbCount - 1] == PathVerb.Move)
         {
-            bounds.Add(current.X, current.Y);
+            _bounds.Add(_current.X, _current.Y);
         }
 
-        verbs[verbCount++] = PathVerb.Line;
+        _verbs[_verbCount++] = PathVerb.Line;
         Put(p);
-        bounds.Add(p.X, p.Y);
+        _bounds.Add(p.X, p.Y);
     }
 
     internal void CurveTo(Vec2 p1, Vec2 p2, Vec2 p3)
     {
-        Vec2 from = current;
+        Vec2 from = _current;
         Reserve(6);
-        if (verbCount > 0 && verbs[verbCount - 1] == PathVerb.Move)
+        if (_verbCount > 0 && _verbs[_verbCount - 1] == PathVerb.Move)
         {
-            bounds.Add(from.X, from.Y);
+            _bounds.Add(from.X, from.Y);
         }
 
-        verbs[verbCount++] = PathVerb.Curve;
+        _verbs[_verbCount++] = PathVerb.Curve;
         Put(p1);
         Put(p2);
         Put(p3);
-        bounds.AddCubic(from, p1, p2, p3);
+        _bounds.AddCubic(from, p1, p2, p3);
     }
 
     internal void Close()
     {
-        if (verbCount > 0 && verbs[verbCount - 1] is PathVerb.Line or PathVerb.Curve)
+        if (_verbCount > 0 && _verbs[_verbCount - 1] is PathVerb.Line or PathVerb.Curve)
         {
             Reserve(0);
-            verbs[verbCount++] = PathVerb.Close;
-            current = start;
+            _verbs[_verbCount++] = PathVerb.Close;
+            _current = _start;
         }
     }
 
@@ -134,23 +134,23 @@ internal sealed class PathBuffer
 
     private void Put(Vec2 p)
     {
-        coords[coordCount++] = p.X;
-        coords[coordCount++] = p.Y;
-        current = p;
+        _coords[_coordCount++] = p.X;
+        _coords[_coordCount++] = p.Y;
+        _current = p;
     }
 
     private void Reserve(int newCoords) => Reserve(1, newCoords);
 
     private void Reserve(int newVerbs, int newCoords)
     {
-        if (verbCount + newVerbs > verbs.Length)
+        if (_verbCount + newVerbs > _verbs.Length)
         {
-            Array.Resize(ref verbs, Math.Max(verbs.Length * 2, verbCount + newVerbs));
+            Array.Resize(ref _verbs, Math.Max(_verbs.Length * 2, _verbCount + newVerbs));
         }
 
-        if (coordCount + newCoords > coords.Length)
+        if (_coordCount + newCoords > _coords.Length)
         {
-            Array.Resize(ref coords, Math.Max(coords.Length * 2, coordCount + newCoords));
+            Array.Resize(ref _coords, Math.Max(_coords.Length * 2, _coordCount + newCoords));
         }
     }
 }

@@ -5,34 +5,35 @@ namespace Korvan.CAD.Geometry;
 /// <summary>Draws local curves through an affine map into a path buffer.</summary>
 internal readonly struct PathPen
 {
-    private readonly PathBuffer target;
-    private readonly Affine3 map;
-    private readonly double z;
+    private readonly PathBuffer _target;
+    private readonly Affine3 _map;
+    private readonly double _z;
 
     /// <summary>A pen whose plane points lie at the local z <paramref name="elevation"/>.</summary>
     internal PathPen(PathBuffer target, in Affine3 map, double elevation = 0)
     {
-        this.target = target;
-        this.map = map;
-        z = elevation;
+        _target = target;
+        _map = map;
+        _z = elevation;
     }
 
-    internal PathBuffer Target => target;
+    internal PathBuffer Target => _target;
 
-    internal void MoveTo(Vec2 p) => target.MoveTo(map.Project(p.X, p.Y, z));
+    internal void MoveTo(Vec2 p) => _target.MoveTo(_map.Project(p.X, p.Y, _z));
 
-    internal void LineTo(Vec2 p) => target.LineTo(map.Project(p.X, p.Y, z));
+    internal void LineTo(Vec2 p) => _target.LineTo(_map.Project(p.X, p.Y, _z));
 
     internal void CurveTo(Vec2 p1, Vec2 p2, Vec2 p3) =>
-        target.CurveTo(map.Project(p1.X, p1.Y, z), map.Project(p2.X, p2.Y, z), map.Project(p3.X, p3.Y, z));
+        _target.CurveTo(_map.Project(p1.X, p1.Y, _z), _map.Project(p2.X, p2.Y, _z), _map.Project(p3.X, p3.Y, _z));
 
-    internal void MoveTo(Vec3 p) => target.MoveTo(map.Project(p));
+    internal void MoveTo(Vec3 p) => _target.MoveTo(_map.Project(p));
 
-    internal void LineTo(Vec3 p) => target.LineTo(map.Project(p));
+    internal void LineTo(Vec3 p) => _target.LineTo(_map.Project(p));
 
-    internal void CurveTo(Vec3 p1, Vec3 p2, Vec3 p3) => target.CurveTo(map.Project(p1), map.Project(p2), map.Project(p3));
+    internal void CurveTo(Vec3 p1, Vec3 p2, Vec3 p3) =>
+        _target.CurveTo(_map.Project(p1), _map.Project(p2), _map.Project(p3));
 
-    internal void Close() => target.Close();
+    internal void Close() => _target.Close();
 
     internal void Circle(Vec2 center, double radius)
     {
@@ -41,7 +42,8 @@ internal readonly struct PathPen
         Close();
     }
 
-    /// <summary>Continues along a circle, from <paramref name="start"/> by <paramref name="sweep"/> radians (signed).</summary>
+    /// <summary>Continues along a circle, from <paramref name="start"/> by <paramref name="sweep"/> radians
+    /// (signed).</summary>
     internal void ArcTo(Vec2 center, double radius, double start, double sweep) =>
         EllipseTo(center, new Vec2(radius, 0), new Vec2(0, radius), start, sweep);
 
@@ -76,7 +78,7 @@ internal readonly struct PathPen
     internal void EllipseTo(Vec3 center, Vec3 u, Vec3 v, double start, double sweep)
     {
         Affine3 plane = new(u, v, Vec3.UnitZ, center);
-        new PathPen(target, map * plane).EllipseTo(default, new Vec2(1, 0), new Vec2(0, 1), start, sweep);
+        new PathPen(_target, _map * plane).EllipseTo(default, new Vec2(1, 0), new Vec2(0, 1), start, sweep);
     }
 
     /// <summary>Continues along the arc of a bulge, or along a line where the bulge is none.</summary>

@@ -6,7 +6,7 @@ namespace Korvan.CAD.Geometry;
 /// <summary>Closed rings of points, flattened from paths.</summary>
 internal static class Polygons
 {
-    /// <summary>Cuts the curves of a path into chords; each subpath becomes a ring of at least three points.</summary>
+    /// <summary>Flattens the curves of a path; each subpath becomes a ring of at least three points.</summary>
     internal static List<Vec2[]> Flatten(PathBuffer path, double tolerance)
     {
         var rings = new List<Vec2[]>();

@@ -6,7 +6,7 @@ internal readonly record struct Vec2(double X, double Y)
 {
     internal double Length => Math.Sqrt((X * X) + (Y * Y));
 
-    /// <summary>This vector turned a quarter counter-clockwise.</summary>
+    /// <summary>This vector rotated by 90° counterclockwise.</summary>
     internal Vec2 Left => new(-Y, X);
 
     public static Vec2 operator +(Vec2 a, Vec2 b) => new(a.X + b.X, a.Y + b.Y);
@@ -19,7 +19,8 @@ internal readonly record struct Vec2(double X, double Y)
 
     internal static double Dot(Vec2 a, Vec2 b) => (a.X * b.X) + (a.Y * b.Y);
 
-    internal static Vec2 Polar(double angle, double radius = 1) => new(radius * Math.Cos(angle), radius * Math.Sin(angle));
+    internal static Vec2 Polar(double angle, double radius = 1) =>
+        new(radius * Math.Cos(angle), radius * Math.Sin(angle));
 
     internal static Vec2 Lerp(Vec2 a, Vec2 b, double t) => new(a.X + ((b.X - a.X) * t), a.Y + ((b.Y - a.Y) * t));
 

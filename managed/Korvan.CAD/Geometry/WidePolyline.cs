@@ -64,7 +64,8 @@ internal static class WidePolyline
         return bands;
     }
 
-    /// <summary>Moves the ends of two straight bands of one width to their mitre, or fills the gap between any others.</summary>
+    /// <summary>Moves the ends of two straight bands of one width to their mitre, or fills the gap between any
+    /// others.</summary>
     private static void Join(in PathPen pen, Band a, Band b)
     {
         double width = a.EndHalf;
@@ -98,7 +99,7 @@ internal static class WidePolyline
 
     private sealed class Band
     {
-        private readonly BulgeArc arc;
+        private readonly BulgeArc _arc;
 
         internal Band(in PolyVertex from, Vec2 to)
         {
@@ -106,11 +107,11 @@ internal static class WidePolyline
             End = to;
             StartHalf = Math.Max(0, from.StartWidth) / 2;
             EndHalf = Math.Max(0, from.EndWidth) / 2;
-            IsArc = BulgeArc.TryCreate(Start, End, from.Bulge, out arc);
-            Length = IsArc ? arc.Radius * Math.Abs(arc.Sweep) : (End - Start).Length;
+            IsArc = BulgeArc.TryCreate(Start, End, from.Bulge, out _arc);
+            Length = IsArc ? _arc.Radius * Math.Abs(_arc.Sweep) : (End - Start).Length;
             Vec2 chord = (End - Start).Unit();
-            StartDirection = IsArc ? Tangent(arc.Start) : chord;
-            EndDirection = IsArc ? Tangent(arc.Start + arc.Sweep) : chord;
+            StartDirection = IsArc ? Tangent(_arc.Start) : chord;
+            EndDirection = IsArc ? Tangent(_arc.Start + _arc.Sweep) : chord;
             StartLeft = Start + (StartDirection.Left * StartHalf);
             StartRight = Start - (StartDirection.Left * StartHalf);
             EndLeft = End + (EndDirection.Left * EndHalf);
@@ -157,7 +158,7 @@ internal static class WidePolyline
             pen.Close();
         }
 
-        private Vec2 Tangent(double angle) => Vec2.Polar(angle + (Math.Sign(arc.Sweep) * Math.PI / 2));
+        private Vec2 Tangent(double angle) => Vec2.Polar(angle + (Math.Sign(_arc.Sweep) * Math.PI / 2));
 
         private void DrawSide(in PathPen pen, int side, bool backwards, Vec2 to)
         {
@@ -168,20 +169,21 @@ internal static class WidePolyline
             }
 
             // The left of a counter-clockwise arc lies towards its centre.
-            double outward = -side * Math.Sign(arc.Sweep);
-            if (IsEven && arc.Radius + (outward * StartHalf) > 0)
+            double outward = -side * Math.Sign(_arc.Sweep);
+            if (IsEven && _arc.Radius + (outward * StartHalf) > 0)
             {
-                double start = backwards ? arc.Start + arc.Sweep : arc.Start;
-                pen.ArcTo(arc.Center, arc.Radius + (outward * StartHalf), start, backwards ? -arc.Sweep : arc.Sweep);
+                double start = backwards ? _arc.Start + _arc.Sweep : _arc.Start;
+                pen.ArcTo(
+                    _arc.Center, _arc.Radius + (outward * StartHalf), start, backwards ? -_arc.Sweep : _arc.Sweep);
                 return;
             }
 
-            int steps = Math.Max(2, (int)Math.Ceiling(Math.Abs(arc.Sweep) / ArcStep));
+            int steps = Math.Max(2, (int)Math.Ceiling(Math.Abs(_arc.Sweep) / ArcStep));
             for (int i = 1; i <= steps; i++)
             {
                 double t = backwards ? 1 - ((double)i / steps) : (double)i / steps;
-                double radius = arc.Radius + (outward * (StartHalf + ((EndHalf - StartHalf) * t)));
-                pen.LineTo(arc.Center + Vec2.Polar(arc.Start + (arc.Sweep * t), radius));
+                double radius = _arc.Radius + (outward * (StartHalf + ((EndHalf - StartHalf) * t)));
+                pen.LineTo(_arc.Center + Vec2.Polar(_arc.Start + (_arc.Sweep * t), radius));
             }
         }
     }

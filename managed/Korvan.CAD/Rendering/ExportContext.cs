@@ -39,7 +39,7 @@ internal sealed class ExportContext
 
     /// <summary>Makes a text engine with the fonts that the image was loaded with.</summary>
     internal TextEngine NewEngine() =>
-        new(LetterLook.Of(Options.VectorRasterizationOptions), FontFolders.Of(_loadOptions));
+        new(GlyphRendering.Of(Options.VectorRasterizationOptions), FontFolders.Of(_loadOptions));
 
     /// <summary>Tells what became of the export.</summary>
     internal CadRenderResult Result() => new(Notes.Results(), Stopwatch.GetElapsedTime(_start));

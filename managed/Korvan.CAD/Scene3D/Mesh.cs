@@ -23,7 +23,8 @@ internal sealed class Mesh
 
     internal List<Rgba> Colors { get; } = [];
 
-    /// <summary>Gets places in <see cref="Positions"/>, three for each triangle, counterclockwise from outside.</summary>
+    /// <summary>Gets places in <see cref="Positions"/>, three for each triangle, counterclockwise from
+    /// outside.</summary>
     internal List<int> Indices { get; } = [];
 
     /// <summary>Gets the materials of the triangles; the ranges cover all of them.</summary>

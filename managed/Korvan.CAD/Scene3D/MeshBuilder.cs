@@ -8,7 +8,8 @@ namespace Korvan.CAD.Scene3D;
 /// <summary>Makes a mesh of faces, which share the points that they have in common.</summary>
 internal sealed class MeshBuilder
 {
-    /// <summary>Mesh formats have numbers of single precision, and what lies farther out cannot be told in them.</summary>
+    /// <summary>Mesh formats have numbers of single precision, and what lies farther out cannot be told in
+    /// them.</summary>
     private const double MaxCoordinate = 1e30;
     private const int MaxOnStack = 64;
 

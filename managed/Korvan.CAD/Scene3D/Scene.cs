@@ -12,7 +12,8 @@ internal enum UpAxis
 }
 
 /// <summary>
-/// Meshes in space, whatever format they come from and go to. Nodes may share children and meshes: that is how instances
+/// Meshes in space, whatever format they come from and go to. Nodes may share children and meshes: that is how
+/// instances
 /// are kept.
 /// </summary>
 internal sealed class Scene
@@ -66,7 +67,8 @@ internal sealed class Node
     internal string Layer { get; init; } = "";
 }
 
-/// <summary>How light meets a surface: a base colour, and what share of it is reflected as metals and mirrors do.</summary>
+/// <summary>How light meets a surface: a base colour, and what share of it is reflected as metals and mirrors
+/// do.</summary>
 internal sealed record Material(Rgba Color)
 {
     internal string Name { get; init; } = "";

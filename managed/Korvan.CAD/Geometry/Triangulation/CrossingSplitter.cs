@@ -5,7 +5,8 @@ namespace Korvan.CAD.Geometry.Triangulation;
 
 /// <summary>
 /// Splits edges where they cross or touch (J. L. Bentley and T. A. Ottmann, Algorithms for reporting and counting
-/// geometric intersections, 1979). Crossings are rounded to a grid, and an edge that runs past a point more closely than
+/// geometric intersections, 1979). Crossings are rounded to a grid, and an edge that runs past a point more closely
+/// than
 /// that is drawn to it: edges that nearly coincide become one. What rounding hides from this sweep is found when the
 /// split edges are swept once more.
 /// </summary>

@@ -4,7 +4,8 @@ using System.Collections.Generic;
 namespace Korvan.CAD.Geometry.Triangulation;
 
 /// <summary>
-/// Splits the inside of edges into monotone polygons and triangulates those while they grow (M. R. Garey, D. S. Johnson,
+/// Splits the inside of edges into monotone polygons and triangulates those while they grow (M. R. Garey, D. S.
+/// Johnson,
 /// F. P. Preparata and R. E. Tarjan, Triangulating a simple polygon, 1978).
 /// </summary>
 internal sealed class MonotoneTriangulation : RegionSweep

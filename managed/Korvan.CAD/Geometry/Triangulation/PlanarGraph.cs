@@ -61,7 +61,8 @@ internal sealed class PlanarGraph
         return _edges.Count - 1;
     }
 
-    /// <summary>1 where the point lies above an edge or left of one that rises straight, -1 below, 0 on its line.</summary>
+    /// <summary>1 where the point lies above an edge or left of one that rises straight, -1 below, 0 on its
+    /// line.</summary>
     internal int Side(int edge, int point)
     {
         GraphEdge e = _edges[edge];
@@ -71,7 +72,8 @@ internal sealed class PlanarGraph
     /// <summary>Where the point comes in the sweep, beside another one.</summary>
     internal int Compare(int a, int b) => Orientation.Compare(_points[a], _points[b]);
 
-    /// <summary>Makes one edge of those between the same points, and drops what bounds nothing under the rule.</summary>
+    /// <summary>Makes one edge of those between the same points, and drops what bounds nothing under the
+    /// rule.</summary>
     internal void Merge(FillRule rule)
     {
         Dictionary<(int, int), int> kept = [];

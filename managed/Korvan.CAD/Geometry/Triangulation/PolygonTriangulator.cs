@@ -24,7 +24,8 @@ internal readonly record struct AddedPoint(Vec2 At, int From, int To, double Sha
 internal sealed record TriangulatedPolygon(int[] Triangles, AddedPoint[] Added, long Comparisons);
 
 /// <summary>
-/// Triangulates polygons with holes, in O(n log n) for n corners and in O((n + k) log n) for k crossings. Rings may touch,
+/// Triangulates polygons with holes, in O(n log n) for n corners and in O((n + k) log n) for k crossings. Rings may
+/// touch,
 /// overlap and cross each other and themselves, run either way, and repeat corners.
 /// </summary>
 internal static class PolygonTriangulator
@@ -33,7 +34,8 @@ internal static class PolygonTriangulator
     private const int MaxRounds = 100;
     private const long MaxEdgesSwept = 10_000_000;
 
-    /// <summary>Triangulates; nothing where a corner is not finite, or where rings cross too often to be split.</summary>
+    /// <summary>Triangulates; nothing where a corner is not finite, or where rings cross too often to be
+    /// split.</summary>
     internal static TriangulatedPolygon? TryTriangulate(IReadOnlyList<Vec2[]> rings, FillRule rule)
     {
         if (rings.Any(ring => ring.Any(p => !double.IsFinite(p.X) || !double.IsFinite(p.Y))))

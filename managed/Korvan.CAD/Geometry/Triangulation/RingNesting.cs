@@ -4,7 +4,8 @@ using System.Collections.Generic;
 namespace Korvan.CAD.Geometry.Triangulation;
 
 /// <summary>
-/// How many rings lie around each of many, in O(n log n) for n corners. A ring that crosses others lies where most of its
+/// How many rings lie around each of many, in O(n log n) for n corners. A ring that crosses others lies where most of
+/// its
 /// length does.
 /// </summary>
 internal sealed class RingNesting : RegionSweep

@@ -25,7 +25,8 @@ internal sealed class SweepStatus(PlanarGraph graph)
 
     internal int Below(int edge) => _nodes[edge].Previous;
 
-    /// <summary>The highest edge that lies below a point; <paramref name="touched"/> is one that runs through it.</summary>
+    /// <summary>The highest edge that lies below a point; <paramref name="touched"/> is one that runs through
+    /// it.</summary>
     internal int FindBelow(int point, out int touched)
     {
         int below = None;

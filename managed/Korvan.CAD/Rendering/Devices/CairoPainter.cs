@@ -21,7 +21,7 @@ internal sealed unsafe class CairoPainter
     private const double SmallestText = 0.15;
 
     /// <summary>That of cairo itself, in device units.</summary>
-    private const double UsualTolerance = 0.1;
+    private const double DefaultTolerance = 0.1;
 
     private static readonly Dictionary<InterpolationMode, CairoFilter> Filters = new()
     {
@@ -95,7 +95,7 @@ internal sealed unsafe class CairoPainter
             Cairo.Clip(cr);
         }
 
-        Cairo.SetTolerance(cr, UsualTolerance * settings.Coarseness);
+        Cairo.SetTolerance(cr, DefaultTolerance * settings.Coarseness);
         if (settings.Sharp)
         {
             Cairo.SetAntialias(cr, CairoAntialias.None);
@@ -230,6 +230,7 @@ internal sealed unsafe class CairoPainter
         nint pattern = gradient.Radial
             ? Cairo.PatternCreateRadial(gradient.FocusX, gradient.FocusY, 0, 0, 0, 1)
             : Cairo.PatternCreateLinear(-1, 0, 1, 0);
+        using var owner = new NativeHandle(pattern, &Cairo.PatternDestroy);
         foreach (GradientStop stop in gradient.Stops)
         {
             Cairo.PatternAddColorStop(
@@ -240,7 +241,6 @@ internal sealed unsafe class CairoPainter
         Cairo.PatternSetMatrix(pattern, &matrix);
         Cairo.SetSource(cr, pattern);
         Cairo.Fill(cr);
-        Cairo.PatternDestroy(pattern);
         hasColor = false;
     }
 
@@ -280,6 +280,7 @@ internal sealed unsafe class CairoPainter
     {
         PlacedImage image = list.ImageOf(item);
         nint surface = Cairo.ImageSurfaceCreate(CairoFormat.Argb32, image.Width, image.Height);
+        using var owner = new NativeHandle(surface, &Cairo.SurfaceDestroy);
         Cairo.Check(Cairo.SurfaceStatus(surface), "placing an image");
         int stride = Cairo.ImageSurfaceGetStride(surface);
         byte* data = Cairo.ImageSurfaceGetData(surface);
@@ -305,7 +306,6 @@ internal sealed unsafe class CairoPainter
 
         Cairo.PaintWithAlpha(cr, image.Opacity);
         Cairo.Restore(cr);
-        Cairo.SurfaceDestroy(surface);
         hasColor = false;
     }
 

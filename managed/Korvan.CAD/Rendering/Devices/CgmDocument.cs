@@ -23,7 +23,7 @@ internal sealed class CgmDocument : MetafilePlayer
     /// <summary>The longer side of a page in units of the file.</summary>
     private const double LongestSide = 32_000;
     private const double MillimetresPerPoint = 25.4 / 72;
-    private const int MostPoints = 16_000;
+    private const int MaxPoints = 16_000;
 
     private readonly CgmOptions _options;
     private readonly MemoryStream _content = new();
@@ -81,9 +81,9 @@ internal sealed class CgmDocument : MetafilePlayer
         foreach (FlatLine line in FlatLine.Of(path, Tolerance))
         {
             // A line of many points is cut into several that share their ends.
-            for (int first = 0; first + 1 < line.Points.Length; first += MostPoints - 1)
+            for (int first = 0; first + 1 < line.Points.Length; first += MaxPoints - 1)
             {
-                Vec2[] points = line.Points[first..Math.Min(line.Points.Length, first + MostPoints)];
+                Vec2[] points = line.Points[first..Math.Min(line.Points.Length, first + MaxPoints)];
                 _put(new Polyline { Points = [.. points.Select(Point)] });
             }
         }

@@ -17,7 +17,7 @@ internal sealed class EmfDocument : MetafilePlayer
 {
     private const double UnitsPerPoint = 2540 / 72.0;
     private const int FontUnits = 1000;
-    private const int MostHandles = 60_000;
+    private const int MaxHandles = 60_000;
 
     private readonly EmfRecords _records = new();
     private readonly Dictionary<(EmfObject Kind, uint Color, int Size, string Face), int> _handles = [];
@@ -178,9 +178,9 @@ internal sealed class EmfDocument : MetafilePlayer
     {
         if (!_handles.TryGetValue(key, out int handle))
         {
-            if (_handles.Count >= MostHandles)
+            if (_handles.Count >= MaxHandles)
             {
-                throw new RenderException($"The page needs more than {MostHandles} pens, brushes and fonts; an enhanced metafile holds no more.");
+                throw new RenderException($"The page needs more than {MaxHandles} pens, brushes and fonts; an enhanced metafile holds no more.");
             }
 
             handle = _handles.Count + 1;

@@ -23,7 +23,7 @@ internal abstract class MetafilePlayer : PagePlayer
     protected sealed override void Stroke(PathBuffer path, in DeviceStroke stroke)
     {
         Rgba color = Opaque(stroke.Color);
-        bool cut = stroke.Dash is not null && DashCutter.Cut(path, stroke.Dash, stroke.DashOffset, Tolerance, _dashes);
+        bool cut = stroke.Dash is not null && DashSplitter.TrySplit(path, stroke.Dash, stroke.DashOffset, Tolerance, _dashes);
         Line(cut ? _dashes : path, color, stroke.Width, stroke.Look);
     }
 

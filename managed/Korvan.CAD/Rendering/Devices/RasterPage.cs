@@ -14,15 +14,15 @@ internal sealed unsafe class RasterPage : IDisposable
     internal const int LargestSide = 32_000;
     internal const long MaxPixels = 400_000_000;
 
-    private nint surface;
+    private readonly NativeHandle _surface;
 
     private RasterPage(int width, int height)
     {
         NativeLibraries.Require();
         Width = width;
         Height = height;
-        surface = Cairo.ImageSurfaceCreate(CairoFormat.Argb32, width, height);
-        Cairo.Check(Cairo.SurfaceStatus(surface), $"making a picture of {width} × {height} pixels");
+        _surface = new NativeHandle(Cairo.ImageSurfaceCreate(CairoFormat.Argb32, width, height), &Cairo.SurfaceDestroy);
+        Cairo.Check(Cairo.SurfaceStatus(_surface.Pointer), $"making an image of {width} × {height} pixels");
     }
 
     internal int Width { get; }
@@ -54,11 +54,11 @@ internal sealed unsafe class RasterPage : IDisposable
         }
 
         var raster = new RasterPage((int)Math.Round(page.Width), (int)Math.Round(page.Height));
-        nint cr = Cairo.Create(raster.surface);
+        using var cr = new NativeHandle(Cairo.Create(raster._surface.Pointer), &Cairo.Destroy);
         try
         {
-            CairoPainter.Paint(cr, engine, page);
-            Cairo.SurfaceFlush(raster.surface);
+            CairoPainter.Paint(cr.Pointer, engine, page);
+            Cairo.SurfaceFlush(raster._surface.Pointer);
             return raster;
         }
         catch
@@ -66,17 +66,13 @@ internal sealed unsafe class RasterPage : IDisposable
             raster.Dispose();
             throw;
         }
-        finally
-        {
-            Cairo.Destroy(cr);
-        }
     }
 
     /// <summary>The pixels of one line of the picture.</summary>
     internal ReadOnlySpan<byte> Row(int y)
     {
-        ObjectDisposedException.ThrowIf(surface == 0, this);
         ArgumentOutOfRangeException.ThrowIfGreaterThanOrEqual((uint)y, (uint)Height, nameof(y));
+        nint surface = _surface.Pointer;
         byte* data = Cairo.ImageSurfaceGetData(surface);
         return new ReadOnlySpan<byte>(data + ((long)y * Cairo.ImageSurfaceGetStride(surface)), Width * 4);
     }
@@ -84,7 +80,7 @@ internal sealed unsafe class RasterPage : IDisposable
     /// <summary>Gives the pixels with alpha no longer multiplied in; they own this page from now on.</summary>
     internal PixelGrid ToGrid()
     {
-        var grid = new PixelGrid((int*)Cairo.ImageSurfaceGetData(surface), Width, Height, this);
+        var grid = new PixelGrid((int*)Cairo.ImageSurfaceGetData(_surface.Pointer), Width, Height, this);
         for (int y = 0; y < Height; y++)
         {
             foreach (ref int pixel in grid.Row(y))
@@ -107,12 +103,5 @@ internal sealed unsafe class RasterPage : IDisposable
         return pixels;
     }
 
-    public void Dispose()
-    {
-        if (surface != 0)
-        {
-            Cairo.SurfaceDestroy(surface);
-            surface = 0;
-        }
-    }
+    public void Dispose() => _surface.Dispose();
 }

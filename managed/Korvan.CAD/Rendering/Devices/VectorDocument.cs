@@ -14,56 +14,59 @@ internal static unsafe class VectorDocument
     internal static void WritePdf(Stream output, TextEngine engine, IEnumerable<Page> pages, in DocumentInfo info)
     {
         using var sink = new StreamSink(output);
-        nint surface = 0;
-        nint cr = 0;
+        NativeHandle? surface = null;
+        NativeHandle? cr = null;
         try
         {
             foreach (Page page in pages)
             {
-                if (surface == 0)
+                if (surface is null)
                 {
-                    surface = Cairo.PdfSurfaceCreate(StreamSink.Callback, sink.Closure, page.Width, page.Height);
-                    Cairo.Check(Cairo.SurfaceStatus(surface), "starting a PDF document");
-                    Cairo.PdfSurfaceRestrictToVersion(surface, PdfVersion15);
-                    Describe(surface, info);
-                    cr = Cairo.Create(surface);
+                    surface = StartPdf(sink, page, info);
+                    cr = new NativeHandle(Cairo.Create(surface.Pointer), &Cairo.Destroy);
                 }
                 else
                 {
-                    Cairo.PdfSurfaceSetSize(surface, page.Width, page.Height);
+                    Cairo.PdfSurfaceSetSize(surface.Pointer, page.Width, page.Height);
                 }
 
-                Cairo.PdfSurfaceSetPageLabel(surface, page.Name);
-                CairoPainter.Paint(cr, engine, page);
-                Cairo.ShowPage(cr);
+                Cairo.PdfSurfaceSetPageLabel(surface.Pointer, page.Name);
+                CairoPainter.Paint(cr!.Pointer, engine, page);
+                Cairo.ShowPage(cr.Pointer);
                 sink.Rethrow();
-                Cairo.Check(Cairo.Status(cr), $"writing the page \"{page.Name}\"");
+                Cairo.Check(Cairo.Status(cr.Pointer), $"writing the page \"{page.Name}\"");
             }
 
             Finish(surface, sink, "PDF");
         }
         finally
         {
-            Release(cr, surface);
+            // Releasing a surface that was not finished still writes; the sink is alive until its using ends.
+            cr?.Dispose();
+            surface?.Dispose();
         }
+    }
+
+    private static NativeHandle StartPdf(StreamSink sink, Page page, in DocumentInfo info)
+    {
+        nint pdf = Cairo.PdfSurfaceCreate(StreamSink.Callback, sink.Closure, page.Width, page.Height);
+        var surface = new NativeHandle(pdf, &Cairo.SurfaceDestroy);
+        Cairo.Check(Cairo.SurfaceStatus(pdf), "starting a PDF document");
+        Cairo.PdfSurfaceRestrictToVersion(pdf, PdfVersion15);
+        Describe(pdf, info);
+        return surface;
     }
 
     internal static void WriteSvg(Stream output, TextEngine engine, Page page)
     {
         using var sink = new StreamSink(output);
-        nint surface = Cairo.SvgSurfaceCreate(StreamSink.Callback, sink.Closure, page.Width, page.Height);
-        nint cr = Cairo.Create(surface);
-        try
-        {
-            Cairo.SvgSurfaceSetDocumentUnit(surface, SvgUnitPixel);
-            CairoPainter.Paint(cr, engine, page);
-            Cairo.ShowPage(cr);
-            Finish(surface, sink, "SVG");
-        }
-        finally
-        {
-            Release(cr, surface);
-        }
+        nint svg = Cairo.SvgSurfaceCreate(StreamSink.Callback, sink.Closure, page.Width, page.Height);
+        using var surface = new NativeHandle(svg, &Cairo.SurfaceDestroy);
+        using var cr = new NativeHandle(Cairo.Create(svg), &Cairo.Destroy);
+        Cairo.SvgSurfaceSetDocumentUnit(svg, SvgUnitPixel);
+        CairoPainter.Paint(cr.Pointer, engine, page);
+        Cairo.ShowPage(cr.Pointer);
+        Finish(surface, sink, "SVG");
     }
 
     private static void Describe(nint surface, in DocumentInfo info)
@@ -83,31 +86,17 @@ internal static unsafe class VectorDocument
         }
     }
 
-    private static void Finish(nint surface, StreamSink sink, string kind)
+    private static void Finish(NativeHandle? surface, StreamSink sink, string kind)
     {
-        if (surface != 0)
+        if (surface is not null)
         {
-            Cairo.SurfaceFinish(surface);
+            Cairo.SurfaceFinish(surface.Pointer);
         }
 
         sink.Complete();
-        if (surface != 0)
+        if (surface is not null)
         {
-            Cairo.Check(Cairo.SurfaceStatus(surface), $"finishing the {kind} document");
-        }
-    }
-
-    // Destroying a surface that was not finished still writes; the sink is alive until its using ends.
-    private static void Release(nint cr, nint surface)
-    {
-        if (cr != 0)
-        {
-            Cairo.Destroy(cr);
-        }
-
-        if (surface != 0)
-        {
-            Cairo.SurfaceDestroy(surface);
+            Cairo.Check(Cairo.SurfaceStatus(surface.Pointer), $"finishing the {kind} document");
         }
     }
 }

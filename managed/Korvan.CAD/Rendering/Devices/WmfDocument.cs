@@ -19,7 +19,7 @@ internal sealed class WmfDocument : MetafilePlayer
 {
     /// <summary>The longer side of a page in units of the file.</summary>
     private const double LongestSide = 30_000;
-    private const int MostPoints = 16_000;
+    private const int MaxPoints = 16_000;
 
     private readonly WmfRecords _records = new();
     private readonly Dictionary<(int Kind, uint Color, int Size, string Face), int> _handles = [];
@@ -49,9 +49,9 @@ internal sealed class WmfDocument : MetafilePlayer
         foreach (FlatLine line in FlatLine.Of(path, Tolerance))
         {
             // A line of many points is cut into several that share their ends.
-            for (int first = 0; first + 1 < line.Points.Length; first += MostPoints - 1)
+            for (int first = 0; first + 1 < line.Points.Length; first += MaxPoints - 1)
             {
-                int count = Math.Min(MostPoints, line.Points.Length - first);
+                int count = Math.Min(MaxPoints, line.Points.Length - first);
                 _records.AddPoints(WmfRecord.Polyline, [(short)count], line.Points.AsSpan(first, count), Round);
             }
         }
@@ -64,7 +64,7 @@ internal sealed class WmfDocument : MetafilePlayer
         List<Vec2> points = [];
         foreach (FlatLine ring in rings)
         {
-            if (ring.Points.Length is > 2 and <= MostPoints)
+            if (ring.Points.Length is > 2 and <= MaxPoints)
             {
                 counts.Add((short)ring.Points.Length);
                 points.AddRange(ring.Points);

@@ -41,7 +41,8 @@ internal static class HatchGradient
         return new Gradient(false, 0, 0, matrix, stops);
     }
 
-    private static Gradient Radial(in Bounds2 box, double drop, double shiftX, double shiftY, double angle, GradientStop[] stops)
+    private static Gradient Radial(
+        in Bounds2 box, double drop, double shiftX, double shiftY, double angle, GradientStop[] stops)
     {
         double radius = Math.Sqrt((box.Width * box.Width) + (box.Height * box.Height)) / 2;
         (double sin, double cos) = Math.SinCos(angle);

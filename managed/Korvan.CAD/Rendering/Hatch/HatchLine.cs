@@ -4,7 +4,7 @@ using Korvan.CAD.Geometry;
 namespace Korvan.CAD.Rendering.Hatch;
 
 /// <summary>
-/// One family of parallel lines of a pattern, scaled and turned already: a line through the base point, the offset
-/// to the next one, and dash lengths (positive ink, negative gap, zero a dot; none for a continuous line).
+/// One family of parallel lines of a pattern, scaled and rotated already: a line through the base point, the offset
+/// to the next one, and dash lengths (positive dash, negative gap, zero dot; none for a continuous line).
 /// </summary>
 internal readonly record struct HatchLine(double Angle, Vec2 Base, Vec2 Offset, IReadOnlyList<double> Dashes);

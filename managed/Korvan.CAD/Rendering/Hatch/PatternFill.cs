@@ -11,13 +11,13 @@ namespace Korvan.CAD.Rendering.Hatch;
 internal sealed class PatternFill
 {
     /// <summary>Segments and crossings that one hatch may ask for; past it the hatch is shown as a tint.</summary>
-    internal const int MostSegments = 1_000_000;
+    internal const int MaxSegments = 1_000_000;
 
-    private readonly List<(int Line, double At)> crossings = [];
-    private readonly PathBuffer target;
-    private int segments;
+    private readonly List<(int Line, double At)> _crossings = [];
+    private readonly PathBuffer _target;
+    private int _segments;
 
-    private PatternFill(PathBuffer target) => this.target = target;
+    private PatternFill(PathBuffer target) => _target = target;
 
     /// <summary>
     /// Adds the lines of the pattern to <paramref name="target"/>, in the coordinates of the rings. Returns false,
@@ -46,7 +46,7 @@ internal sealed class PatternFill
             return spacing == 0 || double.IsNaN(spacing);
         }
 
-        crossings.Clear();
+        _crossings.Clear();
         foreach (Vec2[] ring in rings)
         {
             if (!TryCross(ring, line.Base, along, spacing))
@@ -55,12 +55,12 @@ internal sealed class PatternFill
             }
         }
 
-        crossings.Sort();
+        _crossings.Sort();
         double shift = Vec2.Dot(line.Offset, along);
-        for (int i = 0; i + 1 < crossings.Count; i += 2)
+        for (int i = 0; i + 1 < _crossings.Count; i += 2)
         {
-            (int index, double from) = crossings[i];
-            (int other, double to) = crossings[i + 1];
+            (int index, double from) = _crossings[i];
+            (int other, double to) = _crossings[i + 1];
             if (index != other)
             {
                 // A crossing lost to rounding: skip it and pair the rest of this line anew.
@@ -89,7 +89,7 @@ internal sealed class PatternFill
             double rowB = Vec2.Dot(b, along.Left) / spacing;
             double first = Math.Ceiling(Math.Min(rowA, rowB));
             double last = Math.Ceiling(Math.Max(rowA, rowB)) - 1;
-            if (!(last - first < MostSegments) || Math.Abs(first) > int.MaxValue || Math.Abs(last) > int.MaxValue)
+            if (!(last - first < MaxSegments) || Math.Abs(first) > int.MaxValue || Math.Abs(last) > int.MaxValue)
             {
                 return false;
             }
@@ -98,10 +98,10 @@ internal sealed class PatternFill
             double slope = rowB == rowA ? 0 : (Vec2.Dot(b, along) - ta) / (rowB - rowA);
             for (int row = (int)first; row <= (int)last; row++)
             {
-                crossings.Add((row, ta + ((row - rowA) * slope)));
+                _crossings.Add((row, ta + ((row - rowA) * slope)));
             }
 
-            if (crossings.Count > 2 * MostSegments)
+            if (_crossings.Count > 2 * MaxSegments)
             {
                 return false;
             }
@@ -125,7 +125,7 @@ internal sealed class PatternFill
             return TryLine(origin, along, from, to);
         }
 
-        if (!((to - from) / period * dashes.Count < MostSegments))
+        if (!((to - from) / period * dashes.Count < MaxSegments))
         {
             return false;
         }
@@ -151,8 +151,8 @@ internal sealed class PatternFill
 
     private bool TryLine(Vec2 origin, Vec2 along, double from, double to)
     {
-        target.MoveTo(origin + (along * from));
-        target.LineTo(origin + (along * to));
-        return ++segments <= MostSegments;
+        _target.MoveTo(origin + (along * from));
+        _target.LineTo(origin + (along * to));
+        return ++_segments <= MaxSegments;
     }
 }

@@ -45,7 +45,8 @@ internal sealed class DrawingMeshes
         _doubleSided = doubleSided;
     }
 
-    /// <summary>The scene of a drawing: in drawing order, or by layer and colour in as few meshes as there can be.</summary>
+    /// <summary>The scene of a drawing: in drawing order, or by layer and colour in as few meshes as there can
+    /// be.</summary>
     internal static Scene3D.Scene Read(
         CadDrawing drawing, ExportContext? context, MeshRequest request)
     {
@@ -208,7 +209,7 @@ internal sealed class DrawingMeshes
         }
     }
 
-    /// <summary>Whether the block looks different on another layer or in another colour of the reference.</summary>
+    /// <summary>Whether entities of the block take layer or colour from the reference.</summary>
     private bool Inherits(BlockInfo block)
     {
         if (!_inheriting.TryGetValue(block.Name, out bool inherits))

@@ -4,7 +4,6 @@ using System.Linq;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
-using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Scene3D;
 
 namespace Korvan.CAD.Rendering.Meshes;
@@ -21,16 +20,8 @@ internal sealed class EntityFaces : IGeometrySink
     private EntityFaces(MeshBuilder mesh, int circleSides) => (_mesh, _circleSides) = (mesh, circleSides);
 
     /// <summary>Adds the faces of an entity. One without faces, or whose corners are missing, adds none.</summary>
-    internal static void Add(CadEntityBase entity, MeshBuilder mesh, int circleSides)
-    {
-        if (!EntityGeometry.Emit(entity, new EntityFaces(mesh, circleSides)) && entity is CadMesh subdivided)
-        {
-            foreach (Vec3[] face in SubdivisionCage.Read(subdivided).Faces())
-            {
-                mesh.Add(face);
-            }
-        }
-    }
+    internal static void Add(CadEntityBase entity, MeshBuilder mesh, int circleSides) =>
+        EntityGeometry.Emit(entity, new EntityFaces(mesh, circleSides));
 
     void IGeometrySink.Face(ReadOnlySpan<Vec3> corners, int hiddenEdges) => _mesh.Add(corners);
 
@@ -55,8 +46,8 @@ internal sealed class EntityFaces : IGeometrySink
                 int below = (row + 1) % grid.Rows * grid.Columns;
                 int right = (column + 1) % grid.Columns;
                 int at = row * grid.Columns;
-                _mesh.Add(
-                    [grid.Points[at + column], grid.Points[below + column], grid.Points[below + right], grid.Points[at + right]]);
+                List<Vec3> p = grid.Points;
+                _mesh.Add([p[at + column], p[below + column], p[below + right], p[at + right]]);
             }
         }
     }

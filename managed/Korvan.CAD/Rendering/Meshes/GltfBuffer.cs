@@ -87,7 +87,8 @@ internal sealed class GltfBuffer
         Bounds3 box = mesh.Bounds();
         var bounds = new Bounds3(box.Min - origin, box.Max - origin);
         var placed = new GltfMesh(mesh, [], []) { Origin = origin };
-        AddAttribute(placed, "POSITION", 12, new(Views.Count, 0, GltfAccessor.Float, count, "VEC3") { Bounds = bounds });
+        AddAttribute(
+            placed, "POSITION", 12, new(Views.Count, 0, GltfAccessor.Float, count, "VEC3") { Bounds = bounds });
         if (mesh.Normals.Count > 0)
         {
             AddAttribute(placed, "NORMAL", 12, new(Views.Count, 0, GltfAccessor.Float, count, "VEC3"));
@@ -100,7 +101,9 @@ internal sealed class GltfBuffer
 
         if (mesh.Colors.Count > 0)
         {
-            AddAttribute(placed, "COLOR_0", 4, new(Views.Count, 0, GltfAccessor.UnsignedByte, count, "VEC4") { Normalized = true });
+            var colors =
+                new GltfAccessor(Views.Count, 0, GltfAccessor.UnsignedByte, count, "VEC4") { Normalized = true };
+            AddAttribute(placed, "COLOR_0", 4, colors);
         }
 
         int size = IndexSize(mesh);

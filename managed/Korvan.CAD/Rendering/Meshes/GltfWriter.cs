@@ -147,7 +147,8 @@ internal sealed class GltfWriter
             json.WriteString("name", node.Name);
         }
 
-        (Vec3 x, Vec3 y, Vec3 z, Vec3 o) = (node.Transform.AxisX, node.Transform.AxisY, node.Transform.AxisZ, node.Transform.Origin);
+        (Vec3 x, Vec3 y, Vec3 z, Vec3 o) = (
+            node.Transform.AxisX, node.Transform.AxisY, node.Transform.AxisZ, node.Transform.Origin);
         bool isIdentity = x == Vec3.UnitX && y == Vec3.UnitY && z == Vec3.UnitZ;
         if (!isIdentity)
         {

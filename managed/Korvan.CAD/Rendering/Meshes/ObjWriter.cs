@@ -16,7 +16,8 @@ internal static class ObjWriter
 
     internal static void Write(Scene3D.Scene scene, int precision, Stream output)
     {
-        using var writer = new StreamWriter(output, new UTF8Encoding(false), BufferSize, leaveOpen: true) { NewLine = "\n" };
+        using var writer =
+            new StreamWriter(output, new UTF8Encoding(false), BufferSize, leaveOpen: true) { NewLine = "\n" };
         string format = "F" + precision;
         writer.WriteLine("# korvan.cad");
         int before = 1;
@@ -28,7 +29,8 @@ internal static class ObjWriter
             List<int> indices = mesh.Indices;
             for (int i = 0; i < indices.Count; i += 3)
             {
-                writer.WriteLine($"f {before + indices[i]} {before + indices[i + second]} {before + indices[i + third]}");
+                writer.WriteLine(
+                    $"f {before + indices[i]} {before + indices[i + second]} {before + indices[i + third]}");
             }
 
             before += mesh.Positions.Count;

@@ -35,7 +35,8 @@ internal static class StlWriter
 
     internal static void WriteText(Scene3D.Scene scene, Stream output)
     {
-        using var writer = new StreamWriter(output, new UTF8Encoding(false), 64 * 1024, leaveOpen: true) { NewLine = "\n" };
+        using var writer =
+            new StreamWriter(output, new UTF8Encoding(false), 64 * 1024, leaveOpen: true) { NewLine = "\n" };
         writer.WriteLine("solid drawing");
         ForEach(scene, (a, b, c) =>
         {

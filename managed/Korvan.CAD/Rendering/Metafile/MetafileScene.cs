@@ -43,7 +43,7 @@ internal sealed class MetafileScene : VectorScene
     internal override DrawingList Build(ScenePage page, RenderStyle style, TextEngine engine)
     {
         var picture = (MetafilePicture)page;
-        var list = new DrawingList { Ink = style.Ink };
+        var list = new DrawingList { ColorMap = style.ColorMap };
         new CgmInterpreter(this, picture, style, new Canvas(list, engine)).Run();
         return list;
     }

@@ -200,7 +200,8 @@ internal static unsafe partial class Cairo
     [LibraryImport(Library, EntryPoint = "cairo_pdf_surface_set_metadata", StringMarshalling = StringMarshalling.Utf8)]
     internal static partial void PdfSurfaceSetMetadata(nint surface, CairoPdfMetadata key, string value);
 
-    [LibraryImport(Library, EntryPoint = "cairo_pdf_surface_set_page_label", StringMarshalling = StringMarshalling.Utf8)]
+    [LibraryImport(
+        Library, EntryPoint = "cairo_pdf_surface_set_page_label", StringMarshalling = StringMarshalling.Utf8)]
     internal static partial void PdfSurfaceSetPageLabel(nint surface, string label);
 
     [LibraryImport(Library, EntryPoint = "cairo_svg_surface_create_for_stream")]

@@ -18,7 +18,7 @@ internal static unsafe partial class CairoPaths
         public int Count;
     }
 
-    /// <summary>The head of a piece, followed by its points; each fills one element.</summary>
+    /// <summary>The header of a piece, followed by its points; each fills one element.</summary>
     [StructLayout(LayoutKind.Explicit)]
     private struct Element
     {
@@ -33,42 +33,38 @@ internal static unsafe partial class CairoPaths
     }
 
     [LibraryImport(Cairo.Library, EntryPoint = "cairo_copy_path")]
-    private static partial NativePath* CopyPath(nint cr);
+    private static partial nint CopyPath(nint cr);
 
     [LibraryImport(Cairo.Library, EntryPoint = "cairo_path_destroy")]
-    private static partial void PathDestroy(NativePath* path);
+    private static partial void PathDestroy(nint path);
 
     /// <summary>Appends the current path, mapped; the path stays in the context.</summary>
     internal static void Append(nint cr, in Affine2 map, PathBuffer target)
     {
-        NativePath* path = CopyPath(cr);
-        try
+        using var owner = new NativeHandle(CopyPath(cr), &PathDestroy);
+        var path = (NativePath*)owner.Pointer;
+        Cairo.Check(path->Status, "taking the outlines of a text");
+        for (int i = 0; i < path->Count; i += path->Data[i].Length)
         {
-            Cairo.Check(path->Status, "taking the outlines of a text");
-            for (int i = 0; i < path->Count; i += path->Data[i].Length)
+            Element* piece = path->Data + i;
+            switch (piece->Type)
             {
-                Element* piece = path->Data + i;
-                switch (piece->Type)
-                {
-                    case MoveTo:
-                        target.MoveTo(map.Point(piece[1].X, piece[1].Y));
-                        break;
-                    case LineTo:
-                        target.LineTo(map.Point(piece[1].X, piece[1].Y));
-                        break;
-                    case CurveTo:
-                        target.CurveTo(
-                            map.Point(piece[1].X, piece[1].Y), map.Point(piece[2].X, piece[2].Y), map.Point(piece[3].X, piece[3].Y));
-                        break;
-                    default:
-                        target.Close();
-                        break;
-                }
+                case MoveTo:
+                    target.MoveTo(map.Point(piece[1].X, piece[1].Y));
+                    break;
+                case LineTo:
+                    target.LineTo(map.Point(piece[1].X, piece[1].Y));
+                    break;
+                case CurveTo:
+                    target.CurveTo(
+                        map.Point(piece[1].X, piece[1].Y),
+                        map.Point(piece[2].X, piece[2].Y),
+                        map.Point(piece[3].X, piece[3].Y));
+                    break;
+                default:
+                    target.Close();
+                    break;
             }
-        }
-        finally
-        {
-            PathDestroy(path);
         }
     }
 }

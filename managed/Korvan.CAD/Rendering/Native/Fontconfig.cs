@@ -33,10 +33,10 @@ internal static unsafe partial class Fontconfig
     private static partial void ObjectSetDestroy(nint set);
 
     [LibraryImport(Library, EntryPoint = "FcFontList")]
-    private static partial FontSet* FontList(nint config, nint pattern, nint objects);
+    private static partial nint FontList(nint config, nint pattern, nint objects);
 
     [LibraryImport(Library, EntryPoint = "FcFontSetDestroy")]
-    private static partial void FontSetDestroy(FontSet* set);
+    private static partial void FontSetDestroy(nint set);
 
     [LibraryImport(Library, EntryPoint = "FcPatternGetString", StringMarshalling = StringMarshalling.Utf8)]
     private static partial int PatternGetString(nint pattern, string name, int n, out nint value);
@@ -51,7 +51,7 @@ internal static unsafe partial class Fontconfig
     private static partial nint InitLoadConfigAndFonts();
 
     [LibraryImport(Library, EntryPoint = "FcConfigDestroy")]
-    internal static partial void ConfigDestroy(nint config);
+    private static partial void ConfigDestroy(nint config);
 
     [LibraryImport(Library, EntryPoint = "FcPatternAddString", StringMarshalling = StringMarshalling.Utf8)]
     private static partial int PatternAddString(nint pattern, string name, string value);
@@ -68,17 +68,21 @@ internal static unsafe partial class Fontconfig
     [LibraryImport(Library, EntryPoint = "FcFontMatch")]
     private static partial nint FontMatch(nint config, nint pattern, out int result);
 
-    /// <summary>Fonts that are known beside each other: those of the system, unless they are left out, and more.</summary>
-    internal static nint NewConfig(bool withSystem) => withSystem ? InitLoadConfigAndFonts() : ConfigCreate();
+    /// <summary>Fonts that are known beside each other: those of the system, unless they are left out, and
+    /// more.</summary>
+    internal static NativeHandle NewConfig(bool withSystem) =>
+        new(withSystem ? InitLoadConfigAndFonts() : ConfigCreate(), &ConfigDestroy);
 
     /// <summary>Makes one more font file known; false for what is no font.</summary>
     internal static bool AddFile(nint config, string file) => ConfigAppFontAddFile(config, file) != 0;
 
-    /// <summary>The file of the font that stands in for the families of a list, or null when there is no font.</summary>
+    /// <summary>The file of the font that stands in for the families of a list, or null when there is no
+    /// font.</summary>
     internal static string? FileOf(nint config, string families, bool bold, bool italic)
     {
         const int boldWeight = 200, regularWeight = 80, italicSlant = 100;
-        nint pattern = PatternCreate();
+        using var owner = new NativeHandle(PatternCreate(), &PatternDestroy);
+        nint pattern = owner.Pointer;
         foreach (string family in families.Split(',', System.StringSplitOptions.TrimEntries))
         {
             PatternAddString(pattern, "family", family);
@@ -88,27 +92,21 @@ internal static unsafe partial class Fontconfig
         PatternAddInteger(pattern, "slant", italic ? italicSlant : 0);
         ConfigSubstitute(config, pattern, 0);
         DefaultSubstitute(pattern);
-        nint match = FontMatch(config, pattern, out _);
-        string? file = match == 0 ? null : GetString(match, "file");
-        PatternDestroy(pattern);
-        if (match != 0)
-        {
-            PatternDestroy(match);
-        }
-
-        return file;
+        using var match = new NativeHandle(FontMatch(config, pattern, out _), &PatternDestroy);
+        return match.IsInvalid ? null : GetString(match.Pointer, "file");
     }
 
-    /// <summary>Every font of a configuration (0 for that of the system) as file name (lower case, no folder) and family
-    /// name.</summary>
+    /// <summary>Every font of a configuration (0 for that of the system) as file name (lower case, no folder) and
+    /// family name.</summary>
     internal static List<(string File, string Family)> ListFonts(nint config = 0)
     {
         var result = new List<(string, string)>();
-        nint pattern = PatternCreate();
-        nint objects = ObjectSetCreate();
-        ObjectSetAdd(objects, "file");
-        ObjectSetAdd(objects, "family");
-        FontSet* set = FontList(config, pattern, objects);
+        using var pattern = new NativeHandle(PatternCreate(), &PatternDestroy);
+        using var objects = new NativeHandle(ObjectSetCreate(), &ObjectSetDestroy);
+        ObjectSetAdd(objects.Pointer, "file");
+        ObjectSetAdd(objects.Pointer, "family");
+        using var fonts = new NativeHandle(FontList(config, pattern.Pointer, objects.Pointer), &FontSetDestroy);
+        var set = (FontSet*)fonts.Pointer;
         for (int i = 0; set != null && i < set->Count; i++)
         {
             string? file = GetString(set->Fonts[i], "file");
@@ -119,13 +117,6 @@ internal static unsafe partial class Fontconfig
             }
         }
 
-        if (set != null)
-        {
-            FontSetDestroy(set);
-        }
-
-        ObjectSetDestroy(objects);
-        PatternDestroy(pattern);
         return result;
     }
 

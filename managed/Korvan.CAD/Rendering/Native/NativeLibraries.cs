@@ -3,7 +3,8 @@ using Korvan.CAD.DisplayList;
 
 namespace Korvan.CAD.Rendering.Native;
 
-/// <summary>Looks for the shared libraries before the first call, so that a missing one is named with its cure.</summary>
+/// <summary>Looks for the shared libraries before the first call, so that a missing one is named with its
+/// cure.</summary>
 internal static class NativeLibraries
 {
     private static readonly (string File, string Package)[] Needed =
@@ -16,11 +17,11 @@ internal static class NativeLibraries
         (Pango.FreeTypeLibrary, "libpangoft2-1.0-0"),
     ];
 
-    private static volatile bool found;
+    private static volatile bool _found;
 
     internal static void Require()
     {
-        if (found)
+        if (_found)
         {
             return;
         }
@@ -30,10 +31,11 @@ internal static class NativeLibraries
             Require(file, package);
         }
 
-        found = true;
+        _found = true;
     }
 
-    /// <summary>Throws when <paramref name="file"/> cannot be loaded; names the Debian package that brings it.</summary>
+    /// <summary>Throws when <paramref name="file"/> cannot be loaded; names the Debian package that brings
+    /// it.</summary>
     internal static void Require(string file, string package)
     {
         if (!NativeLibrary.TryLoad(file, out _))

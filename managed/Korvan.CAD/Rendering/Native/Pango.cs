@@ -84,7 +84,8 @@ internal static unsafe partial class Pango
     [LibraryImport(Library, EntryPoint = "pango_font_description_free")]
     internal static partial void FontDescriptionFree(nint description);
 
-    [LibraryImport(Library, EntryPoint = "pango_font_description_set_family", StringMarshalling = StringMarshalling.Utf8)]
+    [LibraryImport(
+        Library, EntryPoint = "pango_font_description_set_family", StringMarshalling = StringMarshalling.Utf8)]
     internal static partial void FontDescriptionSetFamily(nint description, string family);
 
     [LibraryImport(Library, EntryPoint = "pango_font_description_set_weight")]

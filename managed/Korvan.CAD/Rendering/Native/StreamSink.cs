@@ -16,26 +16,26 @@ internal sealed unsafe class StreamSink : IDisposable
     private const int StatusSuccess = 0;
     private const int StatusWriteError = 11;
 
-    private readonly Stream output;
-    private readonly byte[] block = new byte[BlockSize];
-    private GCHandle handle;
-    private int used;
-    private Exception? failure;
+    private readonly Stream _output;
+    private readonly byte[] _block = new byte[BlockSize];
+    private GCHandle _handle;
+    private int _used;
+    private Exception? _failure;
 
     internal StreamSink(Stream output)
     {
-        this.output = output;
-        handle = GCHandle.Alloc(this);
+        _output = output;
+        _handle = GCHandle.Alloc(this);
     }
 
-    internal nint Closure => GCHandle.ToIntPtr(handle);
+    internal nint Closure => GCHandle.ToIntPtr(_handle);
 
     internal static delegate* unmanaged[Cdecl]<nint, byte*, uint, int> Callback => &Write;
 
     /// <summary>Hands on what is still buffered, then throws what the stream threw.</summary>
     internal void Complete()
     {
-        if (failure == null)
+        if (_failure == null)
         {
             Drain();
         }
@@ -45,24 +45,24 @@ internal sealed unsafe class StreamSink : IDisposable
 
     internal void Rethrow()
     {
-        if (failure != null)
+        if (_failure != null)
         {
-            ExceptionDispatchInfo.Throw(failure);
+            ExceptionDispatchInfo.Throw(_failure);
         }
     }
 
     public void Dispose()
     {
-        if (handle.IsAllocated)
+        if (_handle.IsAllocated)
         {
-            handle.Free();
+            _handle.Free();
         }
     }
 
     [UnmanagedCallersOnly(CallConvs = [typeof(CallConvCdecl)])]
     private static int Write(nint closure, byte* data, uint length)
     {
-        if (GCHandle.FromIntPtr(closure).Target is not StreamSink sink || sink.failure != null)
+        if (GCHandle.FromIntPtr(closure).Target is not StreamSink sink || sink._failure != null)
         {
             return StatusWriteError;
         }
@@ -74,26 +74,26 @@ internal sealed unsafe class StreamSink : IDisposable
         }
         catch (Exception e)
         {
-            sink.failure = e;
+            sink._failure = e;
             return StatusWriteError;
         }
     }
 
     private void Append(ReadOnlySpan<byte> data)
     {
-        if (data.Length > BlockSize - used)
+        if (data.Length > BlockSize - _used)
         {
             DrainOrThrow();
         }
 
         if (data.Length >= BlockSize)
         {
-            output.Write(data);
+            _output.Write(data);
             return;
         }
 
-        data.CopyTo(block.AsSpan(used));
-        used += data.Length;
+        data.CopyTo(_block.AsSpan(_used));
+        _used += data.Length;
     }
 
     private void Drain()
@@ -104,17 +104,17 @@ internal sealed unsafe class StreamSink : IDisposable
         }
         catch (Exception e)
         {
-            failure = e;
+            _failure = e;
         }
     }
 
     private void DrainOrThrow()
     {
-        int count = used;
-        used = 0;
+        int count = _used;
+        _used = 0;
         if (count > 0)
         {
-            output.Write(block, 0, count);
+            _output.Write(_block, 0, count);
         }
     }
 }

@@ -14,14 +14,15 @@ internal static class AciPalette
     /// <summary>The index that shows as black on light and white on dark backgrounds.</summary>
     internal const int Contrast = 7;
 
-    private static readonly int[] Fixed = [0x000000, 0xff0000, 0xffff00, 0x00ff00, 0x00ffff, 0x0000ff, 0xff00ff, 0xffffff, 0x808080, 0xc0c0c0];
+    private static readonly int[] Fixed =
+        [0x000000, 0xff0000, 0xffff00, 0x00ff00, 0x00ffff, 0x0000ff, 0xff00ff, 0xffffff, 0x808080, 0xc0c0c0];
     private static readonly int[] Greys = [0x333333, 0x505050, 0x696969, 0x828282, 0xbebebe, 0xffffff];
     private static readonly int[] Brightness = [255, 165, 127, 76, 38];
     private static readonly Rgba[] Table = Build();
 
     internal static Rgba Color(int index) => index is > 0 and < 256 ? Table[index] : Rgba.Black;
 
-    /// <summary>The colour of an index on a page: white and black ink swap so that they stay visible.</summary>
+    /// <summary>The colour of an index on a page: white and black change places, so that they stay visible.</summary>
     internal static Rgba Color(int index, Rgba background) =>
         index is Contrast or <= 0 or > 255 ? (background.IsLight ? Rgba.Black : Rgba.White) : Table[index];
 

@@ -11,17 +11,19 @@ namespace Korvan.CAD.Rendering.Scene;
 internal static class BlockCells
 {
     private const int DeepestNesting = 64;
-    private const long MostCells = 1_000_000;
+    private const long MaxCells = 1_000_000;
 
     /// <summary>Each cell's offset from the first, and the map from the block to where the reference stands.</summary>
-    internal static IEnumerable<(Vec3 Cell, Affine3 Map)> Of(CadInsertObject insert, BlockInfo block, BlockContext context)
+    internal static IEnumerable<(Vec3 Cell, Affine3 Map)> Of(
+        CadInsertObject insert, BlockInfo block, BlockContext context)
     {
         long columns = Math.Max(1, (int)insert.ColumnCount);
         long rows = Math.Max(1, (int)insert.RowCount);
-        if (columns * rows > MostCells)
+        if (columns * rows > MaxCells)
         {
             throw new RenderException(
-                $"A reference to the block \"{insert.Name}\" repeats it {columns} × {rows} times; at most {MostCells} cells can be drawn.");
+                $"A reference to the block \"{insert.Name}\" repeats it {columns} × {rows} times; "
+                    + $"at most {MaxCells} cells can be drawn.");
         }
 
         return Cells(insert, block, context, columns, rows);

@@ -14,10 +14,10 @@ namespace Korvan.CAD.Rendering.Scene;
 /// </summary>
 internal sealed class Canvas
 {
-    private const int MostPatternTexts = 5_000;
+    private const int MaxPatternTexts = 5_000;
     private const double DashesPerPathLimit = 100_000;
 
-    private readonly PathBuffer aligned = new();
+    private readonly PathBuffer _aligned = new();
 
     internal Canvas(DrawingList list, TextEngine engine)
     {
@@ -47,22 +47,22 @@ internal sealed class Canvas
     internal void Stroke(PathBuffer path, in Pen pen)
     {
         var style = new StrokeStyle { Color = pen.Color, LineWeight = pen.LineWeight, Dash = -1, Layer = pen.Layer };
-        double period = (pen.Pattern?.Period ?? 0) * pen.PatternScale;
-        if (pen.Pattern == null || !(period > 0) || !double.IsFinite(period))
+        double _period = (pen.Pattern?.Period ?? 0) * pen.PatternScale;
+        if (pen.Pattern == null || !(_period > 0) || !double.IsFinite(_period))
         {
             List.Stroke(path, style);
             return;
         }
 
         double length = PathMeasure.Length(path);
-        if (length >= period && length / period * pen.Pattern.Lengths.Length < DashesPerPathLimit)
+        if (length >= _period && length / _period * pen.Pattern.Lengths.Length < DashesPerPathLimit)
         {
             style.Dash = DashIndex(pen);
-            path = Aligned(path, pen, length, period, out double offset, out double lead);
+            path = Aligned(path, pen, length, _period, out double offset, out double lead);
             style.DashOffset = (float)offset;
             if (pen.Pattern.Texts.Count > 0)
             {
-                PatternTexts(path, pen, period, offset - lead);
+                PatternTexts(path, pen, _period, offset - lead);
             }
         }
 
@@ -97,7 +97,8 @@ internal sealed class Canvas
         List.Fill(path, pen.Color, pen.Layer, evenOdd: true, gradient);
     }
 
-    /// <summary>Draws a pattern in the loops, or a tint of a quarter of the colour where it is too dense for lines.</summary>
+    /// <summary>Draws a pattern in the loops, or a tint of a quarter of the colour where it is too dense for
+    /// lines.</summary>
     internal void FillPattern(List<HatchLoop> loops, IReadOnlyList<HatchLine> lines, in HatchPlane plane, in Pen pen)
     {
         var rings = new List<Vec2[]>(loops.Count);
@@ -111,7 +112,8 @@ internal sealed class Canvas
         {
             PathBuffer path = NewPath();
             path.AppendMapped(local, plane.Map, plane.Elevation);
-            List.Stroke(path, new StrokeStyle { Color = pen.Color, LineWeight = pen.LineWeight, Dash = -1, Layer = pen.Layer });
+            List.Stroke(
+                path, new StrokeStyle { Color = pen.Color, LineWeight = pen.LineWeight, Dash = -1, Layer = pen.Layer });
             return;
         }
 
@@ -141,7 +143,7 @@ internal sealed class Canvas
     private int DashIndex(in Pen pen)
     {
         double[] lengths = pen.Pattern!.Lengths;
-        Span<double> scaled = stackalloc double[LinePattern.MostElements];
+        Span<double> scaled = stackalloc double[LinePattern.MaxElements];
         for (int i = 0; i < lengths.Length; i++)
         {
             scaled[i] = lengths[i] * pen.PatternScale;
@@ -151,10 +153,11 @@ internal sealed class Canvas
     }
 
     /// <summary>
-    /// A straight line begins and ends with ink. What whole periods leave over shortens the outer dashes by the same
+    /// A straight line begins and ends with a dash. What whole periods leave over shortens the outer dashes by the same
     /// part, as long as half of each remains; else it lengthens them, by two ends that are drawn on their own.
     /// </summary>
-    private PathBuffer Aligned(PathBuffer path, in Pen pen, double length, double period, out double offset, out double lead)
+    private PathBuffer Aligned(
+        PathBuffer path, in Pen pen, double length, double period, out double offset, out double lead)
     {
         offset = 0;
         lead = 0;
@@ -177,67 +180,67 @@ internal sealed class Canvas
         Vec2 to = new(path.Coords[2], path.Coords[3]);
         lead = rest / 2;
         Vec2 end = (to - from) * (lead / length);
-        aligned.Clear();
-        aligned.MoveTo(from);
-        aligned.LineTo(from + end);
-        aligned.MoveTo(from + end);
-        aligned.LineTo(to - end);
-        aligned.MoveTo(to - end);
-        aligned.LineTo(to);
-        return aligned;
+        _aligned.Clear();
+        _aligned.MoveTo(from);
+        _aligned.LineTo(from + end);
+        _aligned.MoveTo(from + end);
+        _aligned.LineTo(to - end);
+        _aligned.MoveTo(to - end);
+        _aligned.LineTo(to);
+        return _aligned;
     }
 
     private void PatternTexts(PathBuffer path, in Pen pen, double period, double offset)
     {
-        foreach (PatternText text in pen.Pattern!.Texts)
+        foreach (PatternText _text in pen.Pattern!.Texts)
         {
-            var walk = new TextWalk(this, pen, text, period, ((text.At * pen.PatternScale) - offset) % period);
-            PathMeasure.ForEachChord(path, ref walk, static (ref TextWalk w, Vec2 a, Vec2 b) => w.Advance(a, b));
+            var walk = new TextWalk(this, pen, _text, period, ((_text.At * pen.PatternScale) - offset) % period);
+            PathMeasure.ForEachSegment(path, ref walk, static (ref TextWalk w, Vec2 a, Vec2 b) => w.Advance(a, b));
         }
     }
 
     private struct TextWalk
     {
-        private readonly Canvas canvas;
-        private readonly Pen pen;
-        private readonly PatternText text;
-        private readonly double period;
-        private readonly int font;
-        private double next;
-        private double walked;
-        private int count;
+        private readonly Canvas _canvas;
+        private readonly Pen _pen;
+        private readonly PatternText _text;
+        private readonly double _period;
+        private readonly int _font;
+        private double _next;
+        private double _walked;
+        private int _count;
 
         internal TextWalk(Canvas canvas, in Pen pen, in PatternText text, double period, double first)
         {
-            this.canvas = canvas;
-            this.pen = pen;
-            this.text = text;
-            this.period = period;
-            font = canvas.Engine.Font(canvas.StyleFont(text.Style));
-            next = first < 0 ? first + period : first;
+            _canvas = canvas;
+            _pen = pen;
+            _text = text;
+            _period = period;
+            _font = canvas.Engine.Font(canvas.StyleFont(text.Style));
+            _next = first < 0 ? first + period : first;
         }
 
         internal void Advance(Vec2 from, Vec2 to)
         {
             double length = (to - from).Length;
-            for (; next <= walked + length && count < MostPatternTexts; next += period, count++)
+            for (; _next <= _walked + length && _count < MaxPatternTexts; _next += _period, _count++)
             {
                 Vec2 direction = (to - from).Unit();
-                Place(from + (direction * (next - walked)), direction);
+                Place(from + (direction * (_next - _walked)), direction);
             }
 
-            walked += length;
+            _walked += length;
         }
 
         private readonly void Place(Vec2 at, Vec2 direction)
         {
-            double scale = pen.PatternScale;
-            double em = text.Height * scale / canvas.Engine.CapRatio(font);
-            Vec2 origin = at + (direction * (text.OffsetX * scale)) + (direction.Left * (text.OffsetY * scale));
-            double angle = Math.Atan2(direction.Y, direction.X) + text.Rotation;
+            double scale = _pen.PatternScale;
+            double em = _text.Height * scale / _canvas.Engine.CapRatio(_font);
+            Vec2 origin = at + (direction * (_text.OffsetX * scale)) + (direction.Left * (_text.OffsetY * scale));
+            double angle = Math.Atan2(direction.Y, direction.X) + _text.Rotation;
             (double sin, double cos) = Math.SinCos(angle);
             var matrix = new Affine2(cos * em, sin * em, -sin * em, cos * em, origin.X, origin.Y);
-            canvas.Text(text.Text, font, matrix, 0, pen.Color, pen.Layer);
+            _canvas.Text(_text.Text, _font, matrix, 0, _pen.Color, _pen.Layer);
         }
     }
 }

@@ -18,7 +18,8 @@ internal static class DrawOrder
         }
 
         return block.Entities
-            .Select(entity => (Key: order.TryGetValue(entity.Handle, out ulong key) ? key : entity.Handle, Entity: entity))
+            .Select(
+                entity => (Key: order.TryGetValue(entity.Handle, out ulong key) ? key : entity.Handle, Entity: entity))
             .OrderBy(pair => pair.Key)
             .Select(pair => pair.Entity)
             .ToArray();

@@ -15,67 +15,68 @@ namespace Korvan.CAD.Rendering.Scene;
 internal sealed class ExportOptions
 {
     private const double MillimetresPerInch = 25.4;
-    private const double UsualPageMillimetres = 420;
-    private const double UsualPixels = 1600;
-    private const double UsualBorderShare = 0.02;
+    private const double DefaultPageMillimetres = 420;
+    private const double DefaultPixels = 1600;
+    private const double DefaultBorderShare = 0.02;
 
-    private readonly ExportContext context;
-    private readonly ImageOptionsBase options;
-    private readonly VectorRasterizationOptions? vector;
-    private readonly CadRasterizationOptions? cad;
-    private readonly DeviceKind device;
-    private readonly double unitsPerInch;
+    private readonly ExportContext _context;
+    private readonly ImageOptionsBase _options;
+    private readonly VectorRasterizationOptions? _vector;
+    private readonly CadRasterizationOptions? _cad;
+    private readonly DeviceKind _device;
+    private readonly double _unitsPerInch;
 
     internal ExportOptions(ExportContext context, DeviceKind device, double unitsPerInch)
     {
-        this.context = context;
-        options = context.Options;
-        this.device = device;
-        this.unitsPerInch = unitsPerInch;
-        vector = options.VectorRasterizationOptions;
-        cad = vector as CadRasterizationOptions;
+        _context = context;
+        _options = context.Options;
+        _device = device;
+        _unitsPerInch = unitsPerInch;
+        _vector = _options.VectorRasterizationOptions;
+        _cad = _vector as CadRasterizationOptions;
     }
 
-    internal RenderNotes Notes => context.Notes;
+    internal RenderNotes Notes => _context.Notes;
 
-    internal IReadOnlyList<string> Layouts => cad?.Layouts ?? [];
+    internal IReadOnlyList<string> Layouts => _cad?.Layouts ?? [];
 
-    internal bool FitEachLayout => cad?.AutomaticLayoutsScaling ?? true;
+    internal bool FitEachLayout => _cad?.AutomaticLayoutsScaling ?? true;
 
-    internal bool ContentOnly => options.RenderToGraphicsBound;
+    internal bool ContentOnly => _options.RenderToGraphicsBound;
 
-    internal bool WholeLayoutContent => cad?.ExportAllLayoutContent ?? false;
+    internal bool WholeLayoutContent => _cad?.ExportAllLayoutContent ?? false;
 
-    internal bool AsBitmap => vector?.ContentAsBitmap ?? false;
+    internal bool AsBitmap => _vector?.ContentAsBitmap ?? false;
 
-    internal Rgba Background => vector == null ? Rgba.White : ToRgba(vector.BackgroundColor);
+    internal Rgba Background => _vector == null ? Rgba.White : ToRgba(_vector.BackgroundColor);
 
     /// <summary>Paper is white of itself; pixels have to be painted.</summary>
-    internal bool PaintBackground => device == DeviceKind.Pixels || (vector?.EmbedBackground ?? false);
+    internal bool PaintBackground => _device == DeviceKind.Pixels || (_vector?.EmbedBackground ?? false);
 
-    internal bool Sharp => vector?.GraphicsOptions?.SmoothingMode is SmoothingMode.None or SmoothingMode.HighSpeed;
+    internal bool Sharp => _vector?.GraphicsOptions?.SmoothingMode is SmoothingMode.None or SmoothingMode.HighSpeed;
 
-    internal double Coarseness => cad?.Quality.Arc switch
+    internal double Coarseness => _cad?.Quality.Arc switch
     {
         RasterizationQualityValue.Low => 10,
         RasterizationQualityValue.High => 0.1,
         _ => 1,
     };
 
-    internal bool ExactText => cad?.Quality.Text == RasterizationQualityValue.High;
+    internal bool ExactText => _cad?.Quality.Text == RasterizationQualityValue.High;
 
-    internal InterpolationMode Interpolation => vector?.GraphicsOptions?.InterpolationMode ?? InterpolationMode.Default;
+    internal InterpolationMode Interpolation =>
+        _vector?.GraphicsOptions?.InterpolationMode ?? InterpolationMode.Default;
 
-    /// <summary>Pixels an inch of a page whose content is a picture; nothing for what is usual.</summary>
-    internal double? BitmapResolution => options.ResolutionSettings?.HorizontalResolution;
+    /// <summary>Pixels an inch of a page whose content is rasterized; nothing for the default.</summary>
+    internal double? BitmapResolution => _options.ResolutionSettings?.HorizontalResolution;
 
-    internal string Watermark => options.UserWatermarkText;
+    internal string Watermark => _options.UserWatermarkText;
 
-    internal Rgba WatermarkColor => ToRgba(options.UserWatermarkColor);
+    internal Rgba WatermarkColor => ToRgba(_options.UserWatermarkColor);
 
-    internal double UnitsPerMillimetre => unitsPerInch / MillimetresPerInch;
+    internal double UnitsPerMillimetre => _unitsPerInch / MillimetresPerInch;
 
-    internal LineCaps Caps => cad?.PenOptions?.StartCap switch
+    internal LineCaps Caps => _cad?.PenOptions?.StartCap switch
     {
         LineCap.Flat => LineCaps.Butt,
         LineCap.Square => LineCaps.Square,
@@ -84,30 +85,30 @@ internal sealed class ExportOptions
 
     internal RenderStyle Style()
     {
-        bool single = cad != null && cad.DrawType == CadDrawTypeMode.UseDrawColor;
+        bool single = _cad != null && _cad.DrawType == CadDrawTypeMode.UseDrawColor;
         return new RenderStyle
         {
             Background = Background,
-            Ink = Ink,
-            SingleColor = single ? ToRgba(cad!.DrawColor) : null,
-            Layers = LayerChoice.Of(options),
-            AsPlotted = cad != null && cad.VisibilityMode == VisibilityMode.AsPrint,
-            CoarseHatches = cad?.Quality.Hatch == RasterizationQualityValue.Low,
-            CircleSides = cad?.Quality.ObjectsPrecision switch
+            ColorMap = ColorMap,
+            SingleColor = single ? ToRgba(_cad!.DrawColor) : null,
+            Layers = LayerChoice.Of(_options),
+            AsPlotted = _cad != null && _cad.VisibilityMode == VisibilityMode.AsPrint,
+            CoarseHatches = _cad?.Quality.Hatch == RasterizationQualityValue.Low,
+            CircleSides = _cad?.Quality.ObjectsPrecision switch
             {
                 RasterizationQualityValue.Low => 16,
                 RasterizationQualityValue.High => 256,
-                _ => RenderStyle.UsualCircleSides,
+                _ => RenderStyle.DefaultCircleSides,
             },
-            LineTypeScale = vector?.LineScale ?? 1,
-            ModelView = cad?.ObserverPoint is ObserverPoint eye
+            LineTypeScale = _vector?.LineScale ?? 1,
+            ModelView = _cad?.ObserverPoint is ObserverPoint eye
                 ? ViewTransform.Turned(eye.RotationAngleX, eye.RotationAngleY, eye.RotationAngleZ)
                 : Affine3.Identity,
-            Checkpoint = context.Checkpoint,
+            Checkpoint = _context.Checkpoint,
         };
     }
 
-    internal Func<Rgba, Rgba>? Ink => (options as SvgOptions)?.ColorType switch
+    internal Func<Rgba, Rgba>? ColorMap => (_options as SvgOptions)?.ColorType switch
     {
         SvgColorMode.Grayscale => static color => Gray(color, color.Luma),
         SvgColorMode.BlackAndWhite => color => Gray(color, color.Luma >= Background.Luma ? (byte)255 : (byte)0),
@@ -119,23 +120,23 @@ internal sealed class ExportOptions
     internal PageRequest Request()
     {
         double unit = UnitScale();
-        double usual = device == DeviceKind.Pixels ? UsualPixels : UsualPageMillimetres * UnitsPerMillimetre;
-        double border = vector == null ? usual * UsualBorderShare : 0;
-        Margins? margins = vector?.Margins;
-        double borderX = border + ((vector?.BorderX ?? 0) * unit);
-        double borderY = border + ((vector?.BorderY ?? 0) * unit);
+        double usual = _device == DeviceKind.Pixels ? DefaultPixels : DefaultPageMillimetres * UnitsPerMillimetre;
+        double border = _vector == null ? usual * DefaultBorderShare : 0;
+        Margins? margins = _vector?.Margins;
+        double borderX = border + ((_vector?.BorderX ?? 0) * unit);
+        double borderY = border + ((_vector?.BorderY ?? 0) * unit);
         return new PageRequest
         {
-            Width = (vector?.PageWidth ?? 0) * unit,
-            Height = (vector?.PageHeight ?? 0) * unit,
+            Width = (_vector?.PageWidth ?? 0) * unit,
+            Height = (_vector?.PageHeight ?? 0) * unit,
             Left = borderX + ((margins?.Left ?? 0) * unit),
             Right = borderX + ((margins?.Right ?? 0) * unit),
             Top = borderY + ((margins?.Top ?? 0) * unit),
             Bottom = borderY + ((margins?.Bottom ?? 0) * unit),
             Fit = Fit(),
             UnitScale = unit,
-            Zoom = (cad?.Zoom ?? 1) * (vector?.RelativeScale ?? 1),
-            Shift = vector == null ? default : new Vec2(vector.RelativePosition.X, vector.RelativePosition.Y),
+            Zoom = (_cad?.Zoom ?? 1) * (_vector?.RelativeScale ?? 1),
+            Shift = _vector == null ? default : new Vec2(_vector.RelativePosition.X, _vector.RelativePosition.Y),
             UnitsPerMillimetre = UnitsPerMillimetre,
             UsualSide = usual,
         };
@@ -143,22 +144,25 @@ internal sealed class ExportOptions
 
     private FitMode Fit()
     {
-        if (cad == null)
+        if (_cad == null)
         {
             return FitMode.Fill;
         }
 
-        return cad.NoScaling || cad.ScaleMethod == ScaleType.None
+        return _cad.NoScaling || _cad.ScaleMethod == ScaleType.None
             ? FitMode.None
-            : cad.ScaleMethod == ScaleType.ShrinkToFit ? FitMode.Shrink : FitMode.Fill;
+            : _cad.ScaleMethod == ScaleType.ShrinkToFit ? FitMode.Shrink : FitMode.Fill;
     }
 
-    /// <summary>Device units in a unit of the page: rasters count pixels, page formats may state a unit of length.</summary>
+    /// <summary>Device units in a unit of the page: rasters count pixels, page formats may state a unit of
+    /// length.</summary>
     private double UnitScale()
     {
-        double? millimetres = device == DeviceKind.Pixels || vector == null ? null : LengthUnits.Millimetres(vector.UnitType);
+        double? millimetres = _device == DeviceKind.Pixels || _vector == null ? null : LengthUnits.Millimetres(
+            _vector.UnitType);
         return millimetres is double mm ? mm * UnitsPerMillimetre : 1;
     }
 
-    private static Rgba ToRgba(Color color) => color.IsEmpty ? new Rgba(255, 255, 255, 0) : new Rgba(color.R, color.G, color.B, color.A);
+    private static Rgba ToRgba(Color color) =>
+        color.IsEmpty ? new Rgba(255, 255, 255, 0) : new Rgba(color.R, color.G, color.B, color.A);
 }

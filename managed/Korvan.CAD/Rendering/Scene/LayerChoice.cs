@@ -65,7 +65,8 @@ internal static class LayerChoice
     private static string Quoted(IEnumerable<string> names) =>
         string.Join(", ", names.Select(static name => $"\"{name}\""));
 
-    /// <summary>How many letters have to be put in, left out or changed to come from one text to the other.</summary>
+    /// <summary>How many characters are inserted, deleted or replaced between one string and the other (Levenshtein
+    /// distance).</summary>
     private static int Distance(string from, string to)
     {
         int[] row = [.. Enumerable.Range(0, to.Length + 1)];

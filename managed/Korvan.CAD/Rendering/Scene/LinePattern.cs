@@ -4,15 +4,16 @@ using System.Collections.Generic;
 namespace Korvan.CAD.Rendering.Scene;
 
 /// <summary>A text that a complex line type repeats, placed at a distance from the start of the pattern.</summary>
-internal readonly record struct PatternText(double At, string Text, string Style, double Height, double Rotation, double OffsetX, double OffsetY);
+internal readonly record struct PatternText(
+    double At, string Text, string Style, double Height, double Rotation, double OffsetX, double OffsetY);
 
 /// <summary>
-/// A line type at scale 1: lengths that alternate between ink and gap, beginning with ink. The definition's signed
-/// list (positive ink, negative gap, zero a dot) is brought into that form once.
+/// A line type at scale 1: lengths that alternate between dash and gap, beginning with a dash. The definition's signed
+/// list (positive dash, negative gap, zero dot) is brought into that form once.
 /// </summary>
 internal sealed class LinePattern
 {
-    internal const int MostElements = 64;
+    internal const int MaxElements = 64;
 
     private LinePattern(double[] lengths, PatternText[] texts)
     {
@@ -30,13 +31,13 @@ internal sealed class LinePattern
 
     internal double Period { get; }
 
-    /// <summary>Null for a continuous line and for definitions that show nothing but ink.</summary>
+    /// <summary>Null for a continuous line and for definitions that have no gap.</summary>
     internal static LinePattern? Create(IReadOnlyList<double> elements, PatternText[]? texts = null)
     {
         var lengths = new List<double>(elements.Count + 2);
         foreach (double element in elements)
         {
-            if (!double.IsFinite(element) || lengths.Count >= MostElements - 2)
+            if (!double.IsFinite(element) || lengths.Count >= MaxElements - 2)
             {
                 return null;
             }
@@ -49,7 +50,7 @@ internal sealed class LinePattern
             }
             else if (lengths.Count == 0)
             {
-                // A pattern that opens with a gap: the ink of no length would be a dot, so the gap moves to the end.
+                // A pattern that opens with a gap: a dash without length would be a dot, so the gap moves to the end.
                 return Create(Rotate(elements, out double moved), Moved(texts, moved));
             }
             else

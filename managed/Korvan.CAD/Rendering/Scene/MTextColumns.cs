@@ -13,7 +13,7 @@ internal readonly record struct MTextColumns(int Count, double Width, double Gut
 {
     private const string Begin = "ACAD_MTEXT_COLUMN_INFO_BEGIN";
     private const string End = "ACAD_MTEXT_COLUMN_INFO_END";
-    private const int MostColumns = 1000;
+    private const int MaxColumns = 1000;
 
     internal static MTextColumns Read(CadMText text)
     {
@@ -31,7 +31,7 @@ internal readonly record struct MTextColumns(int Count, double Width, double Gut
         double Of(int code) => tags.Find(t => t.Attribute == code) is { } tag ? Number(tag) : 0;
         double count = Of(72);
         double height = Of(46);
-        bool hasColumns = Of(71) != 0 && count is > 0 and < MostColumns && Of(44) > 0;
+        bool hasColumns = Of(71) != 0 && count is > 0 and < MaxColumns && Of(44) > 0;
         return hasColumns ? new MTextColumns((int)count, Of(44), Of(45), height > 0 ? height : Of(41)) : default;
     }
 
@@ -53,7 +53,7 @@ internal readonly record struct MTextColumns(int Count, double Width, double Gut
             switch ((int)Number(tags[at]))
             {
                 case 76:
-                    count = value is > 0 and < MostColumns ? (int)value : 0;
+                    count = value is > 0 and < MaxColumns ? (int)value : 0;
                     break;
                 case 48:
                     width = value;
@@ -64,7 +64,7 @@ internal readonly record struct MTextColumns(int Count, double Width, double Gut
                 case 50:
                     // The number of heights, then the heights; the first one serves for all.
                     height = at + 2 < tags.Count ? Number(tags[at + 2]) : 0;
-                    at += (int)(value is > 0 and < MostColumns ? value : 0);
+                    at += (int)(value is > 0 and < MaxColumns ? value : 0);
                     break;
             }
         }

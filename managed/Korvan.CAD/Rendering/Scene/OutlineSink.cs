@@ -6,7 +6,8 @@ using Korvan.CAD.Geometry;
 namespace Korvan.CAD.Rendering.Scene;
 
 /// <summary>
-/// Joins shapes to one outline. Where one does not begin at the end of the last, a line joins them, as rounding in files
+/// Joins shapes to one outline. Where one does not begin at the end of the last, a line joins them, as rounding in
+/// files
 /// opens gaps.
 /// </summary>
 internal sealed class OutlineSink(PathBuffer path, Affine3 map) : IGeometrySink

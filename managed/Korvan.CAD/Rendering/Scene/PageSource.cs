@@ -17,83 +17,84 @@ internal sealed class PageSource
     private const double HairlinePixels = 1;
     private const double HairlineMillimetres = 0.13;
     private const double BitmapPerInch = 300;
-    private const double MostBitmapPixels = 60_000_000;
+    private const double MaxBitmapPixels = 60_000_000;
 
-    private readonly VectorScene scene;
-    private readonly ExportOptions options;
-    private readonly TextEngine engine;
-    private readonly DeviceKind device;
-    private readonly List<ScenePage> layouts;
-    private readonly string format;
-    private double? sharedScale;
+    private readonly VectorScene _scene;
+    private readonly ExportOptions _options;
+    private readonly TextEngine _engine;
+    private readonly DeviceKind _device;
+    private readonly List<ScenePage> _layouts;
+    private readonly string _format;
+    private double? _sharedScale;
 
-    internal PageSource(VectorScene scene, ExportContext context, TextEngine engine, DeviceKind device, double unitsPerInch)
+    internal PageSource(
+        VectorScene scene, ExportContext context, TextEngine engine, DeviceKind device, double unitsPerInch)
     {
-        this.engine = engine;
-        this.device = device;
-        this.options = new ExportOptions(context, device, unitsPerInch);
-        format = context.Options.TargetFormat.ToString();
-        this.scene = scene;
-        layouts = scene.Choose(this.options.Layouts);
+        _engine = engine;
+        _device = device;
+        _options = new ExportOptions(context, device, unitsPerInch);
+        _format = context.Options.TargetFormat.ToString();
+        _scene = scene;
+        _layouts = scene.Choose(_options.Layouts);
     }
 
     internal IEnumerable<Page> Pages()
     {
-        foreach (ScenePage layout in layouts)
+        foreach (ScenePage layout in _layouts)
         {
             Page page = Create(layout);
-            yield return options.AsBitmap && device != DeviceKind.Pixels ? AsBitmap(page) : page;
+            yield return _options.AsBitmap && _device != DeviceKind.Pixels ? AsBitmap(page) : page;
         }
     }
 
     /// <summary>The names of the layouts that are pages.</summary>
-    internal List<string> Titles => layouts.ConvertAll(static layout => layout.Name);
+    internal List<string> Titles => _layouts.ConvertAll(static layout => layout.Name);
 
-    internal Page PageAt(int index) => Create(layouts[index]);
+    internal Page PageAt(int index) => Create(_layouts[index]);
 
     internal Page SinglePage()
     {
-        if (layouts.Count > 1)
+        if (_layouts.Count > 1)
         {
             throw new RenderException(
-                $"A {format} file holds one page, but {layouts.Count} layouts were asked for; name one of them.");
+                $"A {_format} file holds one page, but {_layouts.Count} layouts were asked for; name one of them.");
         }
 
-        Page page = Create(layouts[0]);
-        return options.AsBitmap && device != DeviceKind.Pixels ? AsBitmap(page) : page;
+        Page page = Create(_layouts[0]);
+        return _options.AsBitmap && _device != DeviceKind.Pixels ? AsBitmap(page) : page;
     }
 
     private Page Create(ScenePage layout)
     {
-        DrawingList list = scene.Build(layout, options.Style(), engine);
+        DrawingList list = _scene.Build(layout, _options.Style(), _engine);
         PaperSheet? sheet = layout.Sheet;
-        if (sheet is PaperSheet paper && (options.ContentOnly ? !list.Bounds.IsEmpty : options.WholeLayoutContent))
+        if (sheet is PaperSheet paper && (_options.ContentOnly ? !list.Bounds.IsEmpty : _options.WholeLayoutContent))
         {
-            Bounds2 all = options.ContentOnly ? list.Bounds : paper.Region;
+            Bounds2 all = _options.ContentOnly ? list.Bounds : paper.Region;
             all.Add(list.Bounds);
             double grow = paper.Region.Width > 0 ? paper.WidthMm / paper.Region.Width : 1;
             sheet = new PaperSheet(all, all.Width * grow, all.Height * grow);
         }
 
-        options.Notes.AddSkipped(list);
-        options.Notes.SetGlyphs(engine);
-        PageLayout place = PageLayout.Create(options.Request(), list.Bounds, sheet, sharedScale);
-        if (!options.FitEachLayout)
+        _options.Notes.AddSkipped(list);
+        _options.Notes.SetGlyphs(_engine);
+        PageLayout place = PageLayout.Create(_options.Request(), list.Bounds, sheet, _sharedScale);
+        if (!_options.FitEachLayout)
         {
-            sharedScale ??= place.Scale;
+            _sharedScale ??= place.Scale;
         }
 
         Verify(place);
-        return new Page(layout.Name, place.Width, place.Height, list, Settings(place, sheet?.Region)) 
+        return new Page(layout.Name, place.Width, place.Height, list, Settings(place, sheet?.Region))
         {
             Overlay = Watermark(place),
-            Notes = options.Notes,
+            Notes = _options.Notes,
         };
     }
 
     private void Verify(in PageLayout place)
     {
-        string? reason = device == DeviceKind.Pixels ? RasterPage.Refuse(place.Width, place.Height) : null;
+        string? reason = _device == DeviceKind.Pixels ? RasterPage.Refuse(place.Width, place.Height) : null;
         if (!(place.Width <= LargestPage && place.Height <= LargestPage))
         {
             reason ??= $"A page of {place.Width:0} × {place.Height:0} units is too large: at most {LargestPage} on a side; " +
@@ -109,48 +110,48 @@ internal sealed class PageSource
     private PaintSettings Settings(in PageLayout place, Bounds2? clip) => new()
     {
         ToDevice = place.ToDevice,
-        UnitsPerMillimetre = options.UnitsPerMillimetre,
-        Hairline = device == DeviceKind.Pixels ? HairlinePixels : HairlineMillimetres * options.UnitsPerMillimetre,
+        UnitsPerMillimetre = _options.UnitsPerMillimetre,
+        Hairline = _device == DeviceKind.Pixels ? HairlinePixels : HairlineMillimetres * _options.UnitsPerMillimetre,
         LineScale = 1,
-        Background = options.Background,
-        PaintBackground = options.PaintBackground,
-        Sharp = options.Sharp,
-        Caps = options.Caps,
-        Coarseness = options.Coarseness,
-        ExactText = options.ExactText && (device == DeviceKind.Pixels || options.AsBitmap),
-        Interpolation = options.Interpolation,
+        Background = _options.Background,
+        PaintBackground = _options.PaintBackground,
+        Sharp = _options.Sharp,
+        Caps = _options.Caps,
+        Coarseness = _options.Coarseness,
+        ExactText = _options.ExactText && (_device == DeviceKind.Pixels || _options.AsBitmap),
+        Interpolation = _options.Interpolation,
         Clip = clip,
     };
 
     /// <summary>A list in device units with the watermark along the diagonal, or null for none.</summary>
     private DrawingList? Watermark(in PageLayout place)
     {
-        if (string.IsNullOrWhiteSpace(options.Watermark))
+        if (string.IsNullOrWhiteSpace(_options.Watermark))
         {
             return null;
         }
 
-        var list = new DrawingList { Ink = options.Ink };
-        int font = engine.Font(FontSpec.Default with { Bold = true });
+        var list = new DrawingList { ColorMap = _options.ColorMap };
+        int font = _engine.Font(FontSpec.Default with { Bold = true });
         double diagonal = Math.Sqrt((place.Width * place.Width) + (place.Height * place.Height));
-        double advance = Math.Max(0.1, engine.Advance(font, options.Watermark));
+        double advance = Math.Max(0.1, _engine.Advance(font, _options.Watermark));
         double em = Math.Min(0.7 * diagonal / advance, 0.25 * Math.Min(place.Width, place.Height));
         double cos = place.Width / diagonal;
         double sin = place.Height / diagonal;
 
         // Device units run down, the run's own up; it starts half its length before the middle of the page.
         Vec2 start = new Vec2(place.Width / 2, place.Height / 2)
-            - (new Vec2(cos, -sin) * (advance * em / 2)) + (new Vec2(sin, cos) * (em * engine.CapRatio(font) / 2));
+            - (new Vec2(cos, -sin) * (advance * em / 2)) + (new Vec2(sin, cos) * (em * _engine.CapRatio(font) / 2));
         var matrix = new Affine2(cos * em, -sin * em, -sin * em, -cos * em, start.X, start.Y);
-        new Canvas(list, engine).Text(options.Watermark, font, matrix, 0, options.WatermarkColor, -1);
+        new Canvas(list, _engine).Text(_options.Watermark, font, matrix, 0, _options.WatermarkColor, -1);
         return list;
     }
 
     /// <summary>The page again, its content drawn into pixels that fill it.</summary>
     private Page AsBitmap(Page page)
     {
-        double perUnit = (options.BitmapResolution ?? BitmapPerInch) / (options.UnitsPerMillimetre * 25.4);
-        double most = Math.Sqrt(MostBitmapPixels / (page.Width * page.Height));
+        double perUnit = (_options.BitmapResolution ?? BitmapPerInch) / (_options.UnitsPerMillimetre * 25.4);
+        double most = Math.Sqrt(MaxBitmapPixels / (page.Width * page.Height));
         double k = Math.Min(perUnit, most);
         PaintSettings settings = page.Settings with
         {
@@ -159,7 +160,7 @@ internal sealed class PageSource
             Hairline = page.Settings.Hairline * k,
         };
         var large = new Page(page.Name, Math.Max(1, page.Width * k), Math.Max(1, page.Height * k), page.List, settings);
-        using RasterPage raster = RasterPage.Render(engine, large);
+        using RasterPage raster = RasterPage.Render(_engine, large);
         var list = new DrawingList();
         var place = new Affine2(page.Width, 0, 0, -page.Height, 0, page.Height);
         list.Image(

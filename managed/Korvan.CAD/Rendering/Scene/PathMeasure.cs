@@ -8,8 +8,8 @@ internal static class PathMeasure
 {
     private const int CurveSteps = 8;
 
-    /// <summary>Calls back for each chord with its ends; curves are cut into a fixed few.</summary>
-    internal static void ForEachChord<TState>(PathBuffer path, ref TState state, ChordAction<TState> action)
+    /// <summary>Calls back for each segment with its ends; curves are flattened into a fixed number.</summary>
+    internal static void ForEachSegment<TState>(PathBuffer path, ref TState state, SegmentAction<TState> action)
     {
         ReadOnlySpan<double> c = path.Coords;
         Vec2 current = default;
@@ -28,12 +28,11 @@ internal static class PathMeasure
                     at += 2;
                     break;
                 case PathVerb.Curve:
-                    Vec2 p0 = current;
+                    (Vec2 p0, Vec2 p1) = (current, new Vec2(c[at], c[at + 1]));
+                    (Vec2 p2, Vec2 p3) = (new Vec2(c[at + 2], c[at + 3]), new Vec2(c[at + 4], c[at + 5]));
                     for (int i = 1; i <= CurveSteps; i++)
                     {
-                        Vec2 p = Cubic.At(
-                            p0, new Vec2(c[at], c[at + 1]), new Vec2(c[at + 2], c[at + 3]), new Vec2(c[at + 4], c[at + 5]), (double)i / CurveSteps);
-                        Step(p, ref current, ref state, action);
+                        Step(Cubic.At(p0, p1, p2, p3, (double)i / CurveSteps), ref current, ref state, action);
                     }
 
                     at += 6;
@@ -48,15 +47,15 @@ internal static class PathMeasure
     internal static double Length(PathBuffer path)
     {
         double length = 0;
-        ForEachChord(path, ref length, static (ref double sum, Vec2 a, Vec2 b) => sum += (b - a).Length);
+        ForEachSegment(path, ref length, static (ref double sum, Vec2 a, Vec2 b) => sum += (b - a).Length);
         return length;
     }
 
-    private static void Step<TState>(Vec2 to, ref Vec2 current, ref TState state, ChordAction<TState> action)
+    private static void Step<TState>(Vec2 to, ref Vec2 current, ref TState state, SegmentAction<TState> action)
     {
         action(ref state, current, to);
         current = to;
     }
 }
 
-internal delegate void ChordAction<TState>(ref TState state, Vec2 from, Vec2 to);
+internal delegate void SegmentAction<TState>(ref TState state, Vec2 from, Vec2 to);

@@ -19,20 +19,21 @@ internal sealed class PenResolver
     private const int TransparencyByBlock = 0x01000000;
     private const int TransparencyValue = 0x02000000;
 
-    private readonly SceneTables tables;
-    private readonly RenderStyle style;
-    private readonly DrawingList list;
-    private readonly bool showWeights;
-    private string? lastLayerName;
-    private LayerInfo? lastLayer;
+    private readonly SceneTables _tables;
+    private readonly RenderStyle _style;
+    private readonly DrawingList _list;
+    private readonly bool _showWeights;
+    private string? _lastLayerName;
+    private LayerInfo? _lastLayer;
 
-    /// <summary>A resolver; sheets of paper and plots show line weights, the model only where the screen does.</summary>
+    /// <summary>A resolver; sheets of paper and plots show line weights, the model only where the screen
+    /// does.</summary>
     internal PenResolver(SceneTables tables, RenderStyle style, DrawingList list, bool onPaper)
     {
-        showWeights = onPaper || style.AsPlotted || tables.Settings.ShowLineWeights;
-        this.tables = tables;
-        this.style = style;
-        this.list = list;
+        _showWeights = onPaper || style.AsPlotted || tables.Settings.ShowLineWeights;
+        _tables = tables;
+        _style = style;
+        _list = list;
     }
 
     /// <summary>The layer whose properties hold for the entity.</summary>
@@ -44,19 +45,20 @@ internal sealed class PenResolver
             return context.Layer;
         }
 
-        if (!ReferenceEquals(name, lastLayerName))
+        if (!ReferenceEquals(name, _lastLayerName))
         {
-            lastLayer = tables.Layer(name);
-            lastLayerName = name;
+            _lastLayer = _tables.Layer(name);
+            _lastLayerName = name;
         }
 
-        return lastLayer!;
+        return _lastLayer!;
     }
 
     internal bool IsVisible(LayerInfo layer, BlockContext context)
     {
-        bool shown = !layer.IsOff && !layer.IsReserved && !IsFrozen(layer, context) && (layer.IsPlotted || !style.AsPlotted);
-        return shown && (style.Layers == null || style.Layers.Contains(layer.Name));
+        bool shown = !layer.IsOff && !layer.IsReserved && !IsFrozen(layer, context) && (
+            layer.IsPlotted || !_style.AsPlotted);
+        return shown && (_style.Layers == null || _style.Layers.Contains(layer.Name));
     }
 
     /// <summary>A frozen layer hides the whole of a reference; one that is merely off hides what lies on it.</summary>
@@ -72,13 +74,13 @@ internal sealed class PenResolver
             LineWeight = WeightOf(entity.LineWeight, layer, context),
             Pattern = PatternOf(entity.LineTypeName, layer, context),
             PatternScale = PatternScale(entity.LinetypeScale, context),
-            Layer = list.Layer(layer.Name),
+            Layer = _list.Layer(layer.Name),
         };
     }
 
     internal Rgba ColorOf(DrawingColor color, LayerInfo layer, BlockContext context)
     {
-        if (style.SingleColor is Rgba single)
+        if (_style.SingleColor is Rgba single)
         {
             return single;
         }
@@ -91,9 +93,10 @@ internal sealed class PenResolver
         return color.Index switch
         {
             AciPalette.ByLayer when layer.Color.TrueColor >= 0 => Rgba.FromRgb(layer.Color.TrueColor),
-            AciPalette.ByLayer => AciPalette.Color(Math.Abs(layer.Color.Index), style.Background),
-            AciPalette.ByBlock => context.Parent == null ? AciPalette.Color(AciPalette.Contrast, style.Background) : context.ByBlock.Color.WithAlpha(255),
-            _ => AciPalette.Color(Math.Abs(color.Index), style.Background),
+            AciPalette.ByLayer => AciPalette.Color(Math.Abs(layer.Color.Index), _style.Background),
+            AciPalette.ByBlock when context.Parent == null => AciPalette.Color(AciPalette.Contrast, _style.Background),
+            AciPalette.ByBlock => context.ByBlock.Color.WithAlpha(255),
+            _ => AciPalette.Color(Math.Abs(color.Index), _style.Background),
         };
     }
 
@@ -104,20 +107,21 @@ internal sealed class PenResolver
             return context.Parent == null ? null : context.ByBlock.Pattern;
         }
 
-        string used = name.Length == 0 || name.Equals(ByLayer, StringComparison.OrdinalIgnoreCase) ? layer.LineType : name;
-        return tables.LineTypes.TryGetValue(used, out LinePattern? pattern) ? pattern : null;
+        string used = name.Length == 0
+            || name.Equals(ByLayer, StringComparison.OrdinalIgnoreCase) ? layer.LineType : name;
+        return _tables.LineTypes.TryGetValue(used, out LinePattern? pattern) ? pattern : null;
     }
 
     internal double PatternScale(double entityScale, BlockContext context)
     {
         double own = entityScale > 0 ? entityScale : 1;
-        double scale = tables.Settings.LinetypeScale * own * style.LineTypeScale;
+        double scale = _tables.Settings.LinetypeScale * own * _style.LineTypeScale;
         return context.Viewport == null ? scale : scale * context.Viewport.PatternScale;
     }
 
     private float WeightOf(short weight, LayerInfo layer, BlockContext context)
     {
-        if (!showWeights)
+        if (!_showWeights)
         {
             return 0;
         }

@@ -10,7 +10,8 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <summary>Decoded pixels: blue first, alpha multiplied in.</summary>
 internal sealed record Picture(int Width, int Height, byte[] Pixels)
 {
-    /// <summary>The first picture of a file of pixels, as far as it can be read; null for a format that has no reader.</summary>
+    /// <summary>The first page of an image file, as far as it can be read; null for a format that has no
+    /// reader.</summary>
     internal static Picture? Decode(byte[] data, string name)
     {
         if (RasterCodecs.Detect(data) is not { } codec)

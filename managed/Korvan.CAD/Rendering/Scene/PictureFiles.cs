@@ -16,40 +16,41 @@ internal sealed class PictureFiles
 {
     internal static readonly PictureFiles None = new(null, []);
 
-    private readonly string? folder;
-    private readonly Dictionary<string, string> names;
-    private readonly Dictionary<string, Picture?> loaded = new(StringComparer.Ordinal);
+    private readonly string? _folder;
+    private readonly Dictionary<string, string> _names;
+    private readonly Dictionary<string, Picture?> _loaded = new(StringComparer.Ordinal);
 
     private PictureFiles(string? folder, Dictionary<string, string> names)
     {
-        this.folder = folder;
-        this.names = names;
+        _folder = folder;
+        _names = names;
     }
 
     internal static PictureFiles Of(CadDrawing drawing)
     {
-        string? folder = drawing.Folder;
-        var names = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
+        string? _folder = drawing.Folder;
+        var _names = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
         foreach (CadRasterImageDef definition in drawing.Objects.OfType<CadRasterImageDef>())
         {
-            names.TryAdd(definition.ObjectHandle, definition.FileName);
+            _names.TryAdd(definition.ObjectHandle, definition.FileName);
         }
 
-        return new PictureFiles(folder, names);
+        return new PictureFiles(_folder, _names);
     }
 
-    /// <summary>The picture of a definition, or null when its file is absent, elsewhere, or of no kind that is read.</summary>
+    /// <summary>The image of a definition, or null when its file is absent, elsewhere, or of no kind that is
+    /// read.</summary>
     internal Picture? Find(string definition)
     {
-        if (folder == null || !names.TryGetValue(definition, out string? name) || Locate(name) is not string file)
+        if (_folder == null || !_names.TryGetValue(definition, out string? name) || Locate(name) is not string file)
         {
             return null;
         }
 
-        if (!loaded.TryGetValue(file, out Picture? picture))
+        if (!_loaded.TryGetValue(file, out Picture? picture))
         {
             picture = Load(file);
-            loaded.Add(file, picture);
+            _loaded.Add(file, picture);
         }
 
         return picture;
@@ -62,8 +63,9 @@ internal sealed class PictureFiles
         string bare = relative[(relative.LastIndexOf('/') + 1)..];
         foreach (string candidate in elsewhere ? [bare] : new[] { relative, bare })
         {
-            string full = Path.GetFullPath(Path.Combine(folder!, candidate));
-            if (candidate.Length > 0 && full.StartsWith(folder + Path.DirectorySeparatorChar, StringComparison.Ordinal) && File.Exists(full))
+            string full = Path.GetFullPath(Path.Combine(_folder!, candidate));
+            bool isBelow = full.StartsWith(_folder + Path.DirectorySeparatorChar, StringComparison.Ordinal);
+            if (candidate.Length > 0 && isBelow && File.Exists(full))
             {
                 return full;
             }
@@ -81,7 +83,7 @@ internal sealed class PictureFiles
         }
         catch (Exception e) when (e is IOException or UnauthorizedAccessException or FrameworkException)
         {
-            return null; // a drawing is drawn without the pictures that are damaged
+            return null; // a drawing is drawn without damaged images
         }
     }
 }

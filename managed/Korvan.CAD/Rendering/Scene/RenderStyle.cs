@@ -8,7 +8,7 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <summary>The choices of a caller that change what is put into the list.</summary>
 internal sealed record RenderStyle
 {
-    internal const int UsualCircleSides = 64;
+    internal const int DefaultCircleSides = 64;
 
     internal Rgba Background { get; init; } = Rgba.White;
 
@@ -16,7 +16,7 @@ internal sealed record RenderStyle
     internal Rgba? SingleColor { get; init; }
 
     /// <summary>What becomes of every colour in the end; null to keep them.</summary>
-    internal Func<Rgba, Rgba>? Ink { get; init; }
+    internal Func<Rgba, Rgba>? ColorMap { get; init; }
 
     /// <summary>Layers to draw; null for all.</summary>
     internal IReadOnlySet<string>? Layers { get; init; }
@@ -27,8 +27,8 @@ internal sealed record RenderStyle
     /// <summary>Fills areas of a pattern evenly, in half its colour.</summary>
     internal bool CoarseHatches { get; init; }
 
-    /// <summary>The chords that stand for a circle where curves become faces.</summary>
-    internal int CircleSides { get; init; } = UsualCircleSides;
+    /// <summary>How many sides a circle gets where curves are tessellated.</summary>
+    internal int CircleSides { get; init; } = DefaultCircleSides;
 
     internal double LineTypeScale { get; init; } = 1;
 

@@ -48,7 +48,7 @@ internal sealed partial class SceneBuilder
         }
     }
 
-    /// <summary>A closed, filled head that is three times as long as it is wide.</summary>
+    /// <summary>A closed, filled arrow head that is three times as long as it is wide.</summary>
     private void DrawArrowHead(Vec3 tip, Vec3 along, double length, Vec3 normal, in Pen pen, BlockContext context)
     {
         Vec3 across = Vec3.Cross(normal, along).Unit() * (length / 6);
@@ -92,7 +92,8 @@ internal sealed partial class SceneBuilder
                 continue;
             }
 
-            MTextLayout layout = MTextLayout.Create(canvas.Engine, MTextParser.Parse(cell, start), new MTextFrame(0, 4, 1, true), height);
+            MTextLayout layout = MTextLayout.Create(
+                canvas.Engine, MTextParser.Parse(cell, start), new MTextFrame(0, 4, 1, true), height);
             double width = Math.Max(2 * height, layout.Box.Right - layout.Box.Left + (2 * pad));
             AddBox(map, left, top - (2 * height), left + width, top);
             canvas.Stroke(pen);

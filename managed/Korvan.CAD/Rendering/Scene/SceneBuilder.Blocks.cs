@@ -34,7 +34,8 @@ internal sealed partial class SceneBuilder
         BlockContext owner = context with { ByBlock = pen, Parent = context.Parent ?? context };
         if (cell != default)
         {
-            Affine3 turn = insert.ExtrusionDirection.ToPlane() * Affine3.RotationZ(Angles.Radians(insert.RotationAngle));
+            Affine3 turn = insert.ExtrusionDirection.ToPlane() * Affine3.RotationZ(
+                Angles.Radians(insert.RotationAngle));
             owner = owner with { Map = context.Map * Affine3.Translation(turn.Vector(cell)) };
         }
 
@@ -80,7 +81,7 @@ internal sealed partial class SceneBuilder
             return;
         }
 
-        // The picture stands in world coordinates; a copied dimension is moved by its insertion point.
+        // The block is in world coordinates; a copied dimension is moved by its insertion point.
         Affine3 map = context.Map;
         if (!dimension.InsertionPoint.Is(0, 0, 0))
         {

@@ -142,7 +142,8 @@ internal sealed partial class SceneBuilder
 
     void IGeometrySink.Spline(in SplineCurve spline)
     {
-        if (spline.TryDraw(new PathPen(canvas.NewPath(), _current.Context.Map), OutlineSink.ToleranceOf(spline.Control)))
+        var path = new PathPen(canvas.NewPath(), _current.Context.Map);
+        if (spline.TryDraw(path, OutlineSink.ToleranceOf(spline.Control)))
         {
             canvas.Stroke(_current.Pen);
         }

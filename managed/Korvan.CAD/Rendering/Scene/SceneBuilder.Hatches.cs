@@ -71,7 +71,8 @@ internal sealed partial class SceneBuilder
         Rgba second = hatch.SingleColorGradient == 0 && hatch.GradientColors.Count > 1
             ? Rgba.FromRgb(hatch.GradientColors[^1]).WithAlpha(alpha)
             : Tint(first, hatch.GradientTint);
-        Gradient local = HatchGradient.Create(hatch.GradientName, hatch.GradientAngle, hatch.GradientShift == 0, first, second, box);
+        Gradient local = HatchGradient.Create(
+            hatch.GradientName, hatch.GradientAngle, hatch.GradientShift == 0, first, second, box);
         Vec2 origin = plane.Map.Project(0, 0, plane.Elevation);
         Affine3 m = plane.Map;
         var toPage = new Affine2(m.AxisX.X, m.AxisX.Y, m.AxisY.X, m.AxisY.Y, origin.X, origin.Y);

@@ -109,7 +109,8 @@ internal sealed partial class SceneBuilder
     }
 
     /// <summary>
-    /// Rays and construction lines are clipped to the visible region: at once inside of a viewport, else when the extents
+    /// Rays and construction lines are clipped to the visible region: at once inside of a viewport, else when the
+    /// extents
     /// of everything else are known.
     /// </summary>
     void IGeometrySink.InfiniteLine(Vec3 from, Vec3 direction, bool bothWays)

@@ -37,7 +37,8 @@ internal sealed partial class SceneBuilder
     {
         ViewportView view = ViewportView.Read(viewport);
         bool off = viewport.ViewportStatus == 0 || (viewport.StatusFlags & ViewportOff) != 0;
-        if (viewport.ViewportId == SheetViewport || off || !view.IsUsable || !(viewport.Width > 0 && viewport.Height > 0))
+        bool isEmpty = !(viewport.Width > 0 && viewport.Height > 0);
+        if (viewport.ViewportId == SheetViewport || off || !view.IsUsable || isEmpty)
         {
             return;
         }
@@ -77,7 +78,8 @@ internal sealed partial class SceneBuilder
         if ((viewport.StatusFlags & ClippedByShape) != 0 && viewport.ClippingBoundaryHandle.Length > 0)
         {
             CadEntityBase? shape = sheet.Entities.FirstOrDefault(
-                e => string.Equals(e.ObjectHandle, viewport.ClippingBoundaryHandle, StringComparison.OrdinalIgnoreCase));
+                e =>
+                    string.Equals(e.ObjectHandle, viewport.ClippingBoundaryHandle, StringComparison.OrdinalIgnoreCase));
             if (shape != null && TryAddShape(shape, context) && !canvas.Path.Bounds.IsEmpty)
             {
                 return;

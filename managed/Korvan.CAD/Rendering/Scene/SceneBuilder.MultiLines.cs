@@ -93,7 +93,8 @@ internal sealed partial class SceneBuilder
     }
 
     private void FillMultiLine(
-        CadMultiLine line, int elements, bool closed, MlineStyle mline, in Pen pen, LayerInfo layer, BlockContext context)
+        CadMultiLine line, int elements, bool closed, MlineStyle mline, in Pen pen, LayerInfo layer,
+        BlockContext context)
     {
         (int low, int high) = OuterElements(line.Vertices[0], elements);
         var path = new PathPen(canvas.NewPath(), context.Map);
@@ -114,7 +115,8 @@ internal sealed partial class SceneBuilder
         canvas.Fill(fill, evenOdd: false);
     }
 
-    private void DrawMlineJoints(CadMultiLine line, int elements, bool closed, int flags, in Pen pen, BlockContext context)
+    private void DrawMlineJoints(
+        CadMultiLine line, int elements, bool closed, int flags, in Pen pen, BlockContext context)
     {
         (int low, int high) = OuterElements(line.Vertices[0], elements);
         var path = new PathPen(canvas.NewPath(), context.Map);

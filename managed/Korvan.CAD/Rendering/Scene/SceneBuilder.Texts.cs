@@ -51,7 +51,8 @@ internal sealed partial class SceneBuilder
     private static MTextFormat StartFormat(StyleInfo style, double height) => TextLayouts.StartFormat(style, height);
 
     private Rgba InlineColorOf(InlineColor color, LayerInfo layer, BlockContext context) =>
-        pens.ColorOf(color.IsTrueColor ? new DrawingColor(0, color.Value) : new DrawingColor(color.Value), layer, context);
+        pens.ColorOf(
+            color.IsTrueColor ? new DrawingColor(0, color.Value) : new DrawingColor(color.Value), layer, context);
 
     private void DrawBackground(
         CadMText text, MTextLayout layout, double height, in Affine3 map, in Pen pen, LayerInfo layer,

@@ -14,12 +14,12 @@ using Korvan.CAD.Rendering.Text;
 namespace Korvan.CAD.Rendering.Scene;
 
 /// <summary>
-/// Walks the entities of a space and puts them on a canvas. Entities without a picture are counted in the list;
+/// Walks the entities of a space and puts them on a canvas. Entities that cannot be drawn are counted in the list;
 /// what would never end (blocks in themselves, arrays of millions) is an error that names its place.
 /// </summary>
 internal sealed partial class SceneBuilder : IGeometrySink
 {
-    private const int MostEntities = 20_000_000;
+    private const int MaxEntities = 20_000_000;
     private const int CheckpointEvery = 4096;
 
     private readonly SceneTables tables;
@@ -34,13 +34,16 @@ internal sealed partial class SceneBuilder : IGeometrySink
     {
         this.tables = tables;
         this.style = style;
-        canvas = new Canvas(new DrawingList { Ink = style.Ink }, engine) { StyleFont = name => tables.Style(name).Font };
+        canvas = new Canvas(new DrawingList { ColorMap = style.ColorMap }, engine)
+        {
+            StyleFont = name => tables.Style(name).Font,
+        };
         pens = new PenResolver(tables, style, canvas.List, onPaper);
     }
 
     private DrawingList List => canvas.List;
 
-    /// <summary>The list of the model, in the plane that the style looks at.</summary>
+    /// <summary>The list of the model, in the plane of the view.</summary>
     internal static DrawingList BuildModel(SceneTables tables, RenderStyle style, TextEngine engine, BlockInfo model)
     {
         var builder = new SceneBuilder(tables, style, engine, onPaper: false);
@@ -92,7 +95,7 @@ internal sealed partial class SceneBuilder : IGeometrySink
         _current = new Current(pen, layer, context, entity);
         if (!EntityGeometry.Emit(entity, this))
         {
-            DrawRaw(entity, pen, layer, context);
+            List.Skip(entity.TypeNameText);
         }
 
         _current = outer;
@@ -105,10 +108,11 @@ internal sealed partial class SceneBuilder : IGeometrySink
             style.Checkpoint?.Invoke();
         }
 
-        if (drawn > MostEntities)
+        if (drawn > MaxEntities)
         {
             throw new RenderException(
-                $"The drawing shows more than {MostEntities} entities once its block references are drawn; it is too large to be rendered.");
+                $"The drawing shows more than {MaxEntities} entities once its block references are drawn; "
+                    + "it is too large to be rendered.");
         }
     }
 

@@ -38,7 +38,8 @@ internal static class SceneReader
         }
 
         BlockInfo model = Block(drawing.ModelSpace, recordHandles, orders);
-        return new DrawingScene(tables, model, Layouts(drawing, tables, model, Block(drawing.PaperSpace, recordHandles, orders)));
+        return new DrawingScene(
+            tables, model, Layouts(drawing, tables, model, Block(drawing.PaperSpace, recordHandles, orders)));
     }
 
     /// <summary>The tables of a drawing, without its blocks.</summary>
@@ -67,7 +68,9 @@ internal static class SceneReader
         double overall = drawing.Header.Contains("$DIMSCALE") ? drawing.Header.GetDouble("$DIMSCALE") : 1;
         foreach (CadDimensionStyleTable dim in drawing.DimensionStyles)
         {
-            string text = styleNames.TryGetValue(dim.Dimtxsty, out string? name) ? name : drawing.Header.CurrentTextStyle;
+            string text = styleNames.TryGetValue(dim.Dimtxsty, out string? name)
+                ? name
+                : drawing.Header.CurrentTextStyle;
             tables.DimStyles.TryAdd(dim.Name, TableReader.DimStyle(dim, overall > 0 ? overall : 1, text));
         }
 
@@ -101,7 +104,8 @@ internal static class SceneReader
     }
 
     private static BlockInfo Block(
-        CadBlockEntity block, Dictionary<string, ulong> recordHandles, Dictionary<ulong, Dictionary<ulong, ulong>> orders)
+        CadBlockEntity block, Dictionary<string, ulong> recordHandles,
+        Dictionary<ulong, Dictionary<ulong, ulong>> orders)
     {
         Dictionary<ulong, ulong>? order = null;
         if (recordHandles.TryGetValue(block.Name, out ulong handle))
@@ -119,14 +123,16 @@ internal static class SceneReader
 
     private static List<LayoutInfo> Layouts(CadDrawing drawing, SceneTables tables, BlockInfo model, BlockInfo paper)
     {
-        var names = drawing.BlockRecords.Items.ToLookup(r => r.ObjectHandle, r => r.Name, StringComparer.OrdinalIgnoreCase);
+        var names = drawing.BlockRecords.Items.ToLookup(
+            r => r.ObjectHandle, r => r.Name, StringComparer.OrdinalIgnoreCase);
         var layouts = new List<LayoutInfo>();
         foreach (CadLayout layout in drawing.Layouts)
         {
             string? block = names[layout.BlockTableRecordHandle].FirstOrDefault();
             bool isModel = string.Equals(layout.LayoutName, DrawingScene.ModelName, StringComparison.OrdinalIgnoreCase)
                 || string.Equals(block, model.Name, StringComparison.OrdinalIgnoreCase);
-            BlockInfo content = isModel ? model : block != null && tables.Blocks.TryGetValue(block, out BlockInfo? own) ? own : paper;
+            BlockInfo content = isModel ? model : block != null
+                && tables.Blocks.TryGetValue(block, out BlockInfo? own) ? own : paper;
             layouts.Add(new LayoutInfo(layout.LayoutName, content, isModel, isModel ? null : Sheet(layout)));
         }
 
@@ -140,7 +146,7 @@ internal static class SceneReader
 
     /// <summary>
     /// The rectangle of the paper in layout units. The origin of a layout is the lower left corner of what the
-    /// plotter can print; the paper reaches past it by the margins, and may be turned.
+    /// plotter can print; the paper reaches past it by the margins, and may be rotated.
     /// </summary>
     private static PaperSheet? Sheet(CadLayout layout)
     {

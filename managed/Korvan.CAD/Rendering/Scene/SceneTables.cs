@@ -35,13 +35,15 @@ internal sealed record LayerInfo(string Name)
 }
 
 /// <summary>A text style, its font already resolved.</summary>
-internal sealed record StyleInfo(FontSpec Font, double FixedHeight, double WidthFactor, double ObliqueDegrees, bool IsToleranceFont)
+internal sealed record StyleInfo(
+    FontSpec Font, double FixedHeight, double WidthFactor, double ObliqueDegrees, bool IsToleranceFont)
 {
     internal static readonly StyleInfo Default = new(FontSpec.Default, 0, 1, 0, false);
 }
 
 /// <summary>What leaders and tolerance frames take from a dimension style.</summary>
-internal readonly record struct DimStyleInfo(double ArrowSize, double TextHeight, double TextGap, double Scale, string TextStyle)
+internal readonly record struct DimStyleInfo(
+    double ArrowSize, double TextHeight, double TextGap, double Scale, string TextStyle)
 {
     internal static readonly DimStyleInfo Default = new(0.18, 0.18, 0.09, 1, string.Empty);
 }
@@ -60,7 +62,7 @@ internal sealed record BlockInfo(string Name, Vec3 Base, IReadOnlyList<CadEntity
     internal IReadOnlyDictionary<ulong, ulong>? DrawOrder { get; init; }
 }
 
-/// <summary>The variables of the drawing that change how it looks.</summary>
+/// <summary>The header variables that rendering depends on.</summary>
 internal sealed record SceneSettings
 {
     internal double LinetypeScale { get; init; } = 1;
@@ -108,7 +110,7 @@ internal sealed class SceneTables
 
     internal Dictionary<ulong, BlockInfo> BlocksByRecord { get; } = [];
 
-    /// <summary>The pictures that images show, by the handle of their definition.</summary>
+    /// <summary>The pixels of images, by the handle of their definition.</summary>
     internal PictureFiles Pictures { get; set; } = PictureFiles.None;
 
     internal SceneSettings Settings { get; set; } = new();

@@ -54,6 +54,15 @@ internal static class TextLayouts
     }
 
     internal static MTextFormat StartFormat(StyleInfo style, double height) => new(
-        style.Font, height, style.WidthFactor, style.ObliqueDegrees, 1, default, StackAlign.Baseline, false, false, false,
+        style.Font,
+        height,
+        style.WidthFactor,
+        style.ObliqueDegrees,
+        1,
+        default,
+        StackAlign.Baseline,
+        false,
+        false,
+        false,
         style.IsToleranceFont);
 }

@@ -9,7 +9,7 @@ using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;
 
-/// <summary>Measures texts by painting them where nobody looks.</summary>
+/// <summary>Measures texts by laying them out with their fonts.</summary>
 internal sealed class TextMeasurer : ITextMeasurer
 {
     private readonly SceneTables _tables;

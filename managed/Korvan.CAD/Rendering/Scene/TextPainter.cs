@@ -64,7 +64,8 @@ internal static class TextPainter
 
         Frame frame = Place(line, em, advance);
         double slant = Math.Tan(Math.Clamp(line.Oblique, -SteepestOblique, SteepestOblique));
-        var local = frame.Matrix * new Affine2(1, 0, slant, 1, 0, 0) * new Affine2(frame.EmX, 0, 0, frame.EmY, frame.ShiftX, frame.ShiftY);
+        var local = frame.Matrix * new Affine2(1, 0, slant, 1, 0, 0) * new Affine2(
+            frame.EmX, 0, 0, frame.EmY, frame.ShiftX, frame.ShiftY);
         Affine2 plane = PlaneMap(map, line.First.Z);
         double pen0 = 0;
         foreach (TextPiece piece in pieces)
@@ -78,13 +79,15 @@ internal static class TextPainter
     }
 
     /// <summary>Draws laid out text; the map takes the layout's plane to the page.</summary>
-    internal static void Draw(Canvas canvas, MTextLayout layout, in Affine3 map, in Pen pen, Func<InlineColor, Rgba> colorOf)
+    internal static void Draw(
+        Canvas canvas, MTextLayout layout, in Affine3 map, in Pen pen, Func<InlineColor, Rgba> colorOf)
     {
         Affine2 plane = PlaneMap(map, 0);
         foreach (PlacedRun run in layout.Runs)
         {
             var local = new Affine2(run.Em * run.WidthFactor, 0, run.Em * run.Slant, run.Em, run.X, run.Y);
-            canvas.Text(run.Text, run.Font, plane * local, run.LetterSpacing, Color(run.Color, pen, colorOf), pen.Layer);
+            canvas.Text(
+                run.Text, run.Font, plane * local, run.LetterSpacing, Color(run.Color, pen, colorOf), pen.Layer);
         }
 
         foreach (PlacedBar bar in layout.Bars)
@@ -118,7 +121,7 @@ internal static class TextPainter
 
     private readonly record struct Frame(Affine2 Matrix, double EmX, double EmY, double ShiftX, double ShiftY);
 
-    /// <summary>Where the text stands: fitted between two points, or justified at one and turned.</summary>
+    /// <summary>The place of the text: fitted between two points, or aligned at one and rotated.</summary>
     private static Frame Place(in SingleLine line, double em, double advance)
     {
         double factor = line.WidthFactor > 0 ? line.WidthFactor : 1;
@@ -175,7 +178,8 @@ internal static class TextPainter
         return new Frame(matrix, emX, emY, shift, y);
     }
 
-    private static void DrawBars(Canvas canvas, in TextPiece piece, in Affine2 matrix, double width, double cap, in Pen pen)
+    private static void DrawBars(
+        Canvas canvas, in TextPiece piece, in Affine2 matrix, double width, double cap, in Pen pen)
     {
         double thickness = BarThickness * cap * Math.Sqrt(Math.Abs(matrix.Determinant));
         if (piece.Underline)

@@ -20,7 +20,9 @@ internal static class ViewTransform
     /// The map of a viewport: the target and view direction give the display plane, the twist turns it, and the view
     /// centre, at the scale of the two heights, lands on the centre of the viewport's rectangle.
     /// </summary>
-    internal static Affine3 Viewport(Vec3 target, Vec3 direction, double twist, Vec2 viewCenter, double viewHeight, Vec2 paperCenter, double paperHeight)
+    internal static Affine3 Viewport(
+        Vec3 target, Vec3 direction, double twist, Vec2 viewCenter, double viewHeight, Vec2 paperCenter,
+        double paperHeight)
     {
         Affine3 plane = Ocs.ToWorld(direction == default ? Vec3.UnitZ : direction);
         Affine3 toPlane = Transposed(plane) * Affine3.Translation(-target);

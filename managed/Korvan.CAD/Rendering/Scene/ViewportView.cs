@@ -6,8 +6,10 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
 
-/// <summary>What a viewport looks at. Release 12 and older keep it in extended data, newer ones in the entity.</summary>
-internal sealed record ViewportView(Vec3 Target, Vec3 Direction, double Twist, Vec2 Center, double Height, IReadOnlyList<string> FrozenNames)
+/// <summary>The view of a viewport. Release 12 and older keep it in extended data, newer ones in the
+/// entity.</summary>
+internal sealed record ViewportView(
+    Vec3 Target, Vec3 Direction, double Twist, Vec2 Center, double Height, IReadOnlyList<string> FrozenNames)
 {
     private const string Mark = "MVIEW";
 
@@ -41,7 +43,8 @@ internal sealed record ViewportView(Vec3 Target, Vec3 Direction, double Twist, V
         var frozen = new List<string>();
         foreach (CadCodeValue tag in tags)
         {
-            bool isNumber = double.TryParse(tag.Value, NumberStyles.Float, CultureInfo.InvariantCulture, out double value);
+            bool isNumber = double.TryParse(
+                tag.Value, NumberStyles.Float, CultureInfo.InvariantCulture, out double value);
             switch (tag.Attribute)
             {
                 case 1010 or 1020 or 1030 when isNumber:

@@ -6,21 +6,26 @@ using Korvan.CAD.Rendering.Native;
 
 namespace Korvan.CAD.Rendering.Text;
 
-/// <summary>Fonts of folders that a caller names. They are known to one text engine alone, not to the process.</summary>
+/// <summary>Fonts of folders that a caller names. They are known to one text engine alone, not to the
+/// process.</summary>
 internal sealed class FontFolders : IDisposable
 {
     private static readonly EnumerationOptions TopOnly = new() { IgnoreInaccessible = true };
-    private static readonly EnumerationOptions WholeTree = new() { IgnoreInaccessible = true, RecurseSubdirectories = true, MaxRecursionDepth = 32 };
+    private static readonly EnumerationOptions WholeTree = new()
+    {
+        IgnoreInaccessible = true,
+        RecurseSubdirectories = true,
+        MaxRecursionDepth = 32,
+    };
 
     private readonly Dictionary<string, string> _families = new(StringComparer.OrdinalIgnoreCase);
 
-    private FontFolders(bool withSystem)
-    {
-        Config = Fontconfig.NewConfig(withSystem);
-    }
+    private readonly NativeHandle _config;
+
+    private FontFolders(bool withSystem) => _config = Fontconfig.NewConfig(withSystem);
 
     /// <summary>Gets the fonts that an engine knows, as fontconfig has them.</summary>
-    internal nint Config { get; private set; }
+    internal nint Config => _config.Pointer;
 
     /// <summary>The fonts that the options name, or null when they name no folder.</summary>
     internal static FontFolders? Of(LoadOptions options)
@@ -31,7 +36,8 @@ internal sealed class FontFolders : IDisposable
             return null;
         }
 
-        var folders = new FontFolders((options.CustomFontFolderOptions & CustomFontFolderOptions.IgnoreSystemFonts) == 0);
+        var folders = new FontFolders(
+            (options.CustomFontFolderOptions & CustomFontFolderOptions.IgnoreSystemFonts) == 0);
         try
         {
             folders.Fill(options);
@@ -54,11 +60,7 @@ internal sealed class FontFolders : IDisposable
 
     public void Dispose()
     {
-        if (Config != 0)
-        {
-            Fontconfig.ConfigDestroy(Config);
-            Config = 0;
-        }
+        _config.Dispose();
     }
 
     private void Fill(LoadOptions options)
@@ -95,7 +97,8 @@ internal sealed class FontFolders : IDisposable
 
         foreach (string file in Directory.EnumerateFiles(folder, "*", search))
         {
-            if (Path.GetExtension(file).ToLowerInvariant() is ".ttf" or ".otf" or ".ttc" or ".pfb" && Fontconfig.AddFile(Config, file))
+            bool isFont = Path.GetExtension(file).ToLowerInvariant() is ".ttf" or ".otf" or ".ttc" or ".pfb";
+            if (isFont && Fontconfig.AddFile(Config, file))
             {
                 files.Add(Path.GetFileName(file));
             }

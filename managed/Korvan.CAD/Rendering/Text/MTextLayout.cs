@@ -4,7 +4,8 @@ using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.Rendering.Text;
 
-/// <summary>What the layout of multi-line text starts from; the columns are none when their count is below two.</summary>
+/// <summary>What the layout of multi-line text starts from; the columns are none when their count is below
+/// two.</summary>
 internal readonly record struct MTextFrame(
     double Width,
     int Attachment,
@@ -15,35 +16,39 @@ internal readonly record struct MTextFrame(
     double ColumnGutter = 0,
     double ColumnHeight = 0);
 
-/// <summary>A run at its place: baseline start, em size and slant, in drawing units before the entity's rotation.</summary>
+/// <summary>A run at its place: baseline start, em size and slant, in drawing units before the entity's
+/// rotation.</summary>
 internal readonly record struct PlacedRun(
-    string Text, int Font, double X, double Y, double Em, double WidthFactor, double Slant, double LetterSpacing, InlineColor Color, double Width);
+    string Text, int Font, double X, double Y, double Em, double WidthFactor, double Slant, double LetterSpacing,
+    InlineColor Color, double Width);
 
 /// <summary>A bar of a decoration or of a fraction.</summary>
-internal readonly record struct PlacedBar(double X0, double Y0, double X1, double Y1, double Thickness, InlineColor Color);
+internal readonly record struct PlacedBar(
+    double X0, double Y0, double X1, double Y1, double Thickness, InlineColor Color);
 
 /// <summary>
 /// Breaks tokens into lines and places them. The origin is the attachment point, y up. The distance of baselines
-/// is 5/3 of the text height times the factor; with "at least" the tallest letter of the line counts.
+/// is 5/3 of the text height times the factor; with "at least" the tallest character of the line counts.
 /// </summary>
 internal sealed class MTextLayout
 {
     private const double BaselineDistance = 5.0 / 3.0;
     private const double DefaultTab = 4;
 
-    /// <summary>What of a stack's height above the baseline counts as letter height: the gap above it is part of it.</summary>
+    /// <summary>What of a stack's height above the baseline counts as text height: the gap above it is part of
+    /// it.</summary>
     private const double StackShare = 0.75;
 
-    private readonly TextEngine engine;
-    private readonly MTextFrame frame;
-    private readonly double height;
-    private readonly List<Line> lines = [];
+    private readonly TextEngine _engine;
+    private readonly MTextFrame _frame;
+    private readonly double _height;
+    private readonly List<Line> _lines = [];
 
     private MTextLayout(TextEngine engine, in MTextFrame frame, double height)
     {
-        this.engine = engine;
-        this.frame = frame;
-        this.height = height;
+        _engine = engine;
+        _frame = frame;
+        _height = height;
     }
 
     internal List<PlacedRun> Runs { get; } = [];
@@ -53,9 +58,10 @@ internal sealed class MTextLayout
     /// <summary>The box of the text around the attachment point.</summary>
     internal (double Left, double Bottom, double Right, double Top) Box { get; private set; }
 
-    private double WrapWidth => frame.ColumnCount > 1 ? frame.ColumnWidth : frame.Width;
+    private double WrapWidth => _frame.ColumnCount > 1 ? _frame.ColumnWidth : _frame.Width;
 
-    internal static MTextLayout Create(TextEngine engine, IReadOnlyList<MTextToken> tokens, in MTextFrame frame, double height)
+    internal static MTextLayout Create(
+        TextEngine engine, IReadOnlyList<MTextToken> tokens, in MTextFrame frame, double height)
     {
         var layout = new MTextLayout(engine, frame, height);
         layout.BreakLines(tokens);
@@ -80,12 +86,13 @@ internal sealed class MTextLayout
                     line.EndsParagraph = true;
                     line.EndsColumn = token.Kind == MTextTokenKind.Column;
                     line.NoteHeight(token.Format.Height, onlyIfEmpty: true);
-                    lines.Add(line);
+                    _lines.Add(line);
                     line = new Line { IsFirst = true, Paragraph = token.Paragraph };
                     i++;
                     break;
                 case MTextTokenKind.Space:
-                    line.Add(Piece(token, engine.Advance(Font(token), " ", Spacing(token)) * Em(token) * token.Format.WidthFactor));
+                    double space = _engine.Advance(Font(token), " ", Spacing(token)) * Em(token);
+                    line.Add(Piece(token, space * token.Format.WidthFactor));
                     i++;
                     break;
                 case MTextTokenKind.Tab:
@@ -99,7 +106,7 @@ internal sealed class MTextLayout
         }
 
         line.EndsParagraph = true;
-        lines.Add(line);
+        _lines.Add(line);
     }
 
     /// <summary>Takes words that touch each other as one, and starts a new line when they do not fit.</summary>
@@ -120,7 +127,7 @@ internal sealed class MTextLayout
         bool hasInk = line.Pieces.Exists(p => p.Token.Kind is MTextTokenKind.Word or MTextTokenKind.Stack);
         if (WrapWidth > 0 && hasInk && line.Indent + line.Width + width > limit * (1 + 1e-9))
         {
-            lines.Add(line);
+            _lines.Add(line);
             line = new Line { Paragraph = tokens[start].Paragraph };
         }
 
@@ -135,7 +142,7 @@ internal sealed class MTextLayout
         return end;
     }
 
-    /// <summary>How far a stack reaches above the baseline; letters reach no further than their own height.</summary>
+    /// <summary>How far a stack reaches above the baseline; capitals reach no further than their own height.</summary>
     private static double Rise(in MTextToken token)
     {
         if (token.Kind != MTextTokenKind.Stack || token.Divider == '#')
@@ -151,13 +158,13 @@ internal sealed class MTextLayout
         double em = Em(token) * token.Format.WidthFactor;
         int font = Font(token);
         double spacing = Spacing(token);
-        double upper = engine.Advance(font, token.Text, spacing) * em;
+        double upper = _engine.Advance(font, token.Text, spacing) * em;
         if (token.Kind == MTextTokenKind.Word)
         {
             return Piece(token, upper);
         }
 
-        double lower = engine.Advance(font, token.Lower, spacing) * em;
+        double lower = _engine.Advance(font, token.Lower, spacing) * em;
         double gap = token.Format.Height * 0.2;
         double width = token.Divider == '#' ? upper + lower + gap : Math.Max(upper, lower) + gap;
         return new LinePiece(token, width, upper, lower);
@@ -176,7 +183,7 @@ internal sealed class MTextLayout
             }
         }
 
-        double step = DefaultTab * height;
+        double step = DefaultTab * _height;
         return ((Math.Floor((at / step) + 1e-9) + 1) * step) - at;
     }
 
@@ -188,19 +195,21 @@ internal sealed class MTextLayout
         double widest = WrapWidth;
         bool top = true;
         int columns = 1;
-        foreach (Line line in lines)
+        foreach (Line line in _lines)
         {
-            widest = Math.Max(widest, line.Indent + line.InkWidth);
+            widest = Math.Max(widest, line.Indent + line.VisibleWidth);
         }
 
-        foreach (Line line in lines)
+        foreach (Line line in _lines)
         {
-            double tallest = line.Height > 0 ? line.Height : height;
-            double advance = BaselineDistance * frame.LineSpacing * (frame.ExactSpacing ? height : Math.Max(tallest, line.Rise * StackShare));
-            bool columnFull = frame.ColumnHeight > 0 && columns < frame.ColumnCount && -(baseline - advance) > frame.ColumnHeight;
+            double tallest = line.Height > 0 ? line.Height : _height;
+            double distance = _frame.ExactSpacing ? _height : Math.Max(tallest, line.Rise * StackShare);
+            double advance = BaselineDistance * _frame.LineSpacing * distance;
+            bool columnFull = _frame.ColumnHeight > 0 && columns < _frame.ColumnCount
+                && -(baseline - advance) > _frame.ColumnHeight;
             if (!top && columnFull)
             {
-                (top, column, columns) = (true, column + widest + frame.ColumnGutter, columns + 1);
+                (top, column, columns) = (true, column + widest + _frame.ColumnGutter, columns + 1);
             }
 
             baseline = top ? -tallest : baseline - advance;
@@ -210,14 +219,14 @@ internal sealed class MTextLayout
             lowest = Math.Min(lowest, baseline);
             if (line.EndsColumn)
             {
-                (top, column, columns) = (true, column + widest + frame.ColumnGutter, columns + 1);
+                (top, column, columns) = (true, column + widest + _frame.ColumnGutter, columns + 1);
             }
         }
 
         double total = column + widest;
         Anchor(total, -lowest, out double dx, out double dy);
         Box = (dx, lowest + dy, dx + total, dy);
-        foreach (Line line in lines)
+        foreach (Line line in _lines)
         {
             PlaceLine(line, line.X + dx, line.Y + dy, widest);
         }
@@ -225,14 +234,14 @@ internal sealed class MTextLayout
 
     private void Anchor(double width, double total, out double dx, out double dy)
     {
-        int attachment = Math.Clamp(frame.Attachment, 1, 9) - 1;
+        int attachment = Math.Clamp(_frame.Attachment, 1, 9) - 1;
         dx = -width * (attachment % 3) / 2;
         dy = total * (attachment / 3) / 2;
     }
 
     private void PlaceLine(Line line, double left, double baseline, double width)
     {
-        double room = width - line.Indent - line.Paragraph.Right - line.InkWidth;
+        double room = width - line.Indent - line.Paragraph.Right - line.VisibleWidth;
         ParagraphAlign align = line.Paragraph.Align == ParagraphAlign.Default ? DefaultAlign() : line.Paragraph.Align;
         double x = left + line.Indent;
         double stretch = 0;
@@ -250,26 +259,26 @@ internal sealed class MTextLayout
                 break;
         }
 
-        int last = line.LastInk;
+        int last = line.LastVisible;
         for (int i = 0; i <= last; i++)
         {
             LinePiece piece = line.Pieces[i];
             double extra = piece.Token.Kind == MTextTokenKind.Space ? stretch : 0;
-            MTextPlacer.Place(this, engine, piece, x, baseline, piece.Width + extra, line.Height);
+            MTextPlacer.Place(this, _engine, piece, x, baseline, piece.Width + extra, line.Height);
             x += piece.Width + extra;
         }
     }
 
-    private ParagraphAlign DefaultAlign() => ((Math.Clamp(frame.Attachment, 1, 9) - 1) % 3) switch
+    private ParagraphAlign DefaultAlign() => ((Math.Clamp(_frame.Attachment, 1, 9) - 1) % 3) switch
     {
         1 => ParagraphAlign.Center,
         2 => ParagraphAlign.Right,
         _ => ParagraphAlign.Left,
     };
 
-    private int Font(in MTextToken token) => engine.Font(token.Format.Font);
+    private int Font(in MTextToken token) => _engine.Font(token.Format.Font);
 
-    private double Em(in MTextToken token) => token.Format.Height / engine.CapRatio(Font(token));
+    private double Em(in MTextToken token) => token.Format.Height / _engine.CapRatio(Font(token));
 
     private double Spacing(in MTextToken token) => MTextPlacer.LetterSpacing(token.Format);
 
@@ -297,14 +306,14 @@ internal sealed class MTextLayout
 
         internal double Indent => Math.Max(0, Paragraph.Left + (IsFirst ? Paragraph.First : 0));
 
-        internal int LastInk => Pieces.FindLastIndex(p => p.Token.Kind is not MTextTokenKind.Space);
+        internal int LastVisible => Pieces.FindLastIndex(p => p.Token.Kind is not MTextTokenKind.Space);
 
-        internal double InkWidth
+        internal double VisibleWidth
         {
             get
             {
                 double width = Width;
-                for (int i = Pieces.Count - 1; i > LastInk; i--)
+                for (int i = Pieces.Count - 1; i > LastVisible; i--)
                 {
                     width -= Pieces[i].Width;
                 }
@@ -313,7 +322,8 @@ internal sealed class MTextLayout
             }
         }
 
-        internal int InnerSpaces => Pieces.FindAll(p => p.Token.Kind == MTextTokenKind.Space).Count - (Pieces.Count - 1 - LastInk);
+        internal int InnerSpaces =>
+            Pieces.FindAll(p => p.Token.Kind == MTextTokenKind.Space).Count - (Pieces.Count - 1 - LastVisible);
 
         internal void Add(LinePiece piece)
         {

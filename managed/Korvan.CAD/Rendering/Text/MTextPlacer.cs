@@ -11,12 +11,14 @@ internal static class MTextPlacer
     private const double OverlineRise = 1.2;
     private const double StrikeRise = 0.45;
 
-    /// <summary>Extra space between letters, in ems: tracking is a factor of the usual advance of about 0.6 em.</summary>
+    /// <summary>Extra space between characters, in ems: tracking is a factor of a typical advance of about 0.6
+    /// em.</summary>
     internal static double LetterSpacing(in MTextFormat format) =>
         format.Tracking is > 0 and not 1 ? (Math.Clamp(format.Tracking, 0.75, 4) - 1) * 0.6 : 0;
 
     internal static void Place(
-        MTextLayout layout, TextEngine engine, in LinePiece piece, double x, double baseline, double width, double lineHeight)
+        MTextLayout layout, TextEngine engine, in LinePiece piece, double x, double baseline, double width,
+        double lineHeight)
     {
         MTextFormat format = piece.Token.Format;
         double y = baseline + (format.Align switch
@@ -57,7 +59,7 @@ internal static class MTextPlacer
             return;
         }
 
-        // The divider lies at half the height of the surrounding letters unless the stack stands on the baseline.
+        // The divider lies at half the height of the surrounding capitals unless the stack stands on the baseline.
         double middle = format.Align switch
         {
             StackAlign.Baseline => baseline + (h * 1.25),
@@ -75,12 +77,14 @@ internal static class MTextPlacer
         }
     }
 
-    private static PlacedRun Run(TextEngine engine, string text, in MTextFormat format, double x, double y, double width)
+    private static PlacedRun Run(
+        TextEngine engine, string text, in MTextFormat format, double x, double y, double width)
     {
         int font = engine.Font(format.Font);
         double em = format.Height / engine.CapRatio(font);
         double slant = Math.Tan(format.ObliqueDegrees * Math.PI / 180);
-        return new PlacedRun(text, font, x, y, em, format.WidthFactor, slant, LetterSpacing(format), format.Color, width);
+        return new PlacedRun(
+            text, font, x, y, em, format.WidthFactor, slant, LetterSpacing(format), format.Color, width);
     }
 
     private static void AddBars(MTextLayout layout, in MTextFormat format, double x0, double x1, double y)

@@ -14,54 +14,55 @@ namespace Korvan.CAD.Rendering.Text;
 /// </summary>
 internal sealed unsafe class TextEngine : IDisposable
 {
-    /// <summary>The size in device units at which everything is shaped; cairo's matrix brings it to the real one.</summary>
+    /// <summary>The size in device units at which everything is shaped; cairo's matrix brings it to the real
+    /// one.</summary>
     private const double EmSize = 256;
+    private const double PointsPerInch = 72;
     private const int BoldWeight = 700;
     private const int NormalWeight = 400;
     private const int ItalicStyle = 2;
     private const int HintMetricsOff = 1;
-    private const int MostCachedAdvances = 50_000;
-    private const double UsualCapRatio = 0.7;
+    private const int MaxCachedAdvances = 50_000;
+    private const double DefaultCapRatio = 0.7;
 
-    private readonly List<nint> descriptions = [];
-    private readonly List<FontSpec> specs = [];
-    private readonly List<double> capRatios = [];
-    private readonly Dictionary<FontSpec, int> fonts = [];
-    private readonly Dictionary<(int Font, string Text, double Spacing), double> advances = [];
-    private readonly FontFolders? folders;
-    private nint fontMap;
-    private nint context;
-    private nint layout;
-    private nint outliner;
-    private int currentFont = -1;
-    private string? currentText;
-    private double currentSpacing;
+    private readonly List<NativeHandle> _descriptions = [];
+    private readonly List<FontSpec> _specs = [];
+    private readonly List<double> _capRatios = [];
+    private readonly Dictionary<FontSpec, int> _fonts = [];
+    private readonly Dictionary<(int Font, string Text, double Spacing), double> _advances = [];
+    private readonly FontFolders? _folders;
+    private readonly NativeHandle _fontMap;
+    private readonly NativeHandle _context;
+    private readonly NativeHandle _layout;
+    private NativeHandle? _outliner;
+    private int _currentFont = -1;
+    private string? _currentText;
+    private double _currentSpacing;
 
     /// <summary>An engine. Fonts of other folders than those of the system are taken over, and released with the
     /// engine.</summary>
-    internal TextEngine(LetterLook look = default, FontFolders? folders = null)
+    internal TextEngine(GlyphRendering look = default, FontFolders? folders = null)
     {
         NativeLibraries.Require();
         FontTable.ListInstalled = static () => Fontconfig.ListFonts();
-        this.folders = folders;
-        fontMap = Pango.CairoFontMapNew();
-        if (folders is not null)
+        _folders = folders;
+        _fontMap = new NativeHandle(Pango.CairoFontMapNew(), &Pango.Unref);
+        if (_folders is not null)
         {
-            Pango.FcFontMapSetConfig(fontMap, folders.Config);
+            Pango.FcFontMapSetConfig(_fontMap.Pointer, _folders.Config);
         }
 
-        context = Pango.FontMapCreateContext(fontMap);
-        Pango.CairoContextSetResolution(context, 72);
-        Pango.ContextSetRoundGlyphPositions(context, 0);
-        nint options = Cairo.FontOptionsCreate();
-        Cairo.FontOptionsSetHintStyle(options, look.Hinting);
-        Cairo.FontOptionsSetHintMetrics(options, HintMetricsOff);
-        Cairo.FontOptionsSetAntialias(options, look.Antialias);
-        Pango.CairoContextSetFontOptions(context, options);
-        Cairo.FontOptionsDestroy(options);
-        layout = Pango.LayoutNew(context);
-        Pango.LayoutSetSingleParagraphMode(layout, 1);
-        Pango.LayoutSetAutoDir(layout, 1);
+        _context = new NativeHandle(Pango.FontMapCreateContext(_fontMap.Pointer), &Pango.Unref);
+        Pango.CairoContextSetResolution(_context.Pointer, PointsPerInch);
+        Pango.ContextSetRoundGlyphPositions(_context.Pointer, 0);
+        using var options = new NativeHandle(Cairo.FontOptionsCreate(), &Cairo.FontOptionsDestroy);
+        Cairo.FontOptionsSetHintStyle(options.Pointer, look.Hinting);
+        Cairo.FontOptionsSetHintMetrics(options.Pointer, HintMetricsOff);
+        Cairo.FontOptionsSetAntialias(options.Pointer, look.Antialias);
+        Pango.CairoContextSetFontOptions(_context.Pointer, options.Pointer);
+        _layout = new NativeHandle(Pango.LayoutNew(_context.Pointer), &Pango.Unref);
+        Pango.LayoutSetSingleParagraphMode(_layout.Pointer, 1);
+        Pango.LayoutSetAutoDir(_layout.Pointer, 1);
     }
 
     /// <summary>Characters that no installed font could show, over all runs measured or shown.</summary>
@@ -69,22 +70,23 @@ internal sealed unsafe class TextEngine : IDisposable
 
     internal int Font(FontSpec spec)
     {
-        if (!fonts.TryGetValue(spec, out int index))
+        if (!_fonts.TryGetValue(spec, out int index))
         {
-            index = descriptions.Count;
-            descriptions.Add(Describe(spec));
-            specs.Add(spec);
-            fonts.Add(spec, index);
-            capRatios.Add(MeasureCapRatio(index));
+            index = _descriptions.Count;
+            _descriptions.Add(Describe(spec));
+            _specs.Add(spec);
+            _fonts.Add(spec, index);
+            _capRatios.Add(MeasureCapRatio(index));
         }
 
         return index;
     }
 
-    internal FontSpec SpecOf(int font) => specs[font];
+    internal FontSpec SpecOf(int font) => _specs[font];
 
-    /// <summary>Height of a capital letter as a part of the em: drawings give the first, fonts are scaled by the second.</summary>
-    internal double CapRatio(int font) => capRatios[font];
+    /// <summary>Height of a capital letter as a share of the em: drawings give the first, fonts are scaled by the
+    /// second.</summary>
+    internal double CapRatio(int font) => _capRatios[font];
 
     /// <summary>How far the pen moves over the text, in ems.</summary>
     internal double Advance(int font, string text, double letterSpacing = 0)
@@ -95,25 +97,26 @@ internal sealed unsafe class TextEngine : IDisposable
         }
 
         var key = (font, text, letterSpacing);
-        if (!advances.TryGetValue(key, out double advance))
+        if (!_advances.TryGetValue(key, out double advance))
         {
             PangoRectangle logical;
             nint line = Shape(font, text, letterSpacing);
-            UnknownGlyphs += Pango.LayoutGetUnknownGlyphsCount(layout);
+            UnknownGlyphs += Pango.LayoutGetUnknownGlyphsCount(_layout.Pointer);
             Pango.LayoutLineGetExtents(line, null, &logical);
             advance = logical.Width / (Pango.Scale * EmSize);
-            if (advances.Count >= MostCachedAdvances)
+            if (_advances.Count >= MaxCachedAdvances)
             {
-                advances.Clear();
+                _advances.Clear();
             }
 
-            advances.Add(key, advance);
+            _advances.Add(key, advance);
         }
 
         return advance;
     }
 
-    /// <summary>Shows a run with its baseline along the x axis of the current matrix, one em to a unit, y down.</summary>
+    /// <summary>Shows a run with its baseline along the x axis of the current matrix, one em to a unit, y
+    /// down.</summary>
     internal void Show(nint cr, in TextRun run)
     {
         Pango.CairoShowLayoutLine(cr, Start(cr, run));
@@ -137,14 +140,15 @@ internal sealed unsafe class TextEngine : IDisposable
     internal void AddOutline(in TextRun run, in Affine2 matrix, PathBuffer target)
     {
         nint line = Shape(run.Font, run.Text, run.LetterSpacing);
-        if (outliner == 0)
+        if (_outliner is null)
         {
-            // A surface with an end would lose the letters beyond it, even from a path.
-            nint surface = Cairo.RecordingSurfaceCreate(Cairo.ContentColorAlpha, null);
-            outliner = Cairo.Create(surface);
-            Cairo.SurfaceDestroy(surface);
+            // A bounded surface would lose the glyphs beyond its bounds, even from a path.
+            nint recording = Cairo.RecordingSurfaceCreate(Cairo.ContentColorAlpha, null);
+            using var surface = new NativeHandle(recording, &Cairo.SurfaceDestroy);
+            _outliner = new NativeHandle(Cairo.Create(surface.Pointer), &Cairo.Destroy);
         }
 
+        nint outliner = _outliner.Pointer;
         Cairo.NewPath(outliner);
         Cairo.MoveTo(outliner, 0, 0);
         Pango.CairoLayoutLinePath(outliner, line);
@@ -153,48 +157,32 @@ internal sealed unsafe class TextEngine : IDisposable
 
     public void Dispose()
     {
-        if (outliner != 0)
-        {
-            Cairo.Destroy(outliner);
-            outliner = 0;
-        }
-
-        foreach (nint description in descriptions)
-        {
-            Pango.FontDescriptionFree(description);
-        }
-
-        descriptions.Clear();
-        Release(ref layout);
-        Release(ref context);
-        Release(ref fontMap);
-        folders?.Dispose();
+        _outliner?.Dispose();
+        _descriptions.ForEach(static description => description.Dispose());
+        _descriptions.Clear();
+        _layout.Dispose();
+        _context.Dispose();
+        _fontMap.Dispose();
+        _folders?.Dispose();
     }
 
     /// <summary>The file of the font that is used for a face, or null when there is no font at all.</summary>
     internal string? FileOf(int font)
     {
-        FontSpec spec = specs[font];
-        return Fontconfig.FileOf(folders?.Config ?? 0, folders?.Resolve(spec.Family) ?? spec.Family, spec.Bold, spec.Italic);
+        FontSpec spec = _specs[font];
+        return Fontconfig.FileOf(
+            _folders?.Config ?? 0, _folders?.Resolve(spec.Family) ?? spec.Family, spec.Bold, spec.Italic);
     }
 
-    private static void Release(ref nint instance)
+    private NativeHandle Describe(FontSpec spec)
     {
-        if (instance != 0)
-        {
-            Pango.Unref(instance);
-            instance = 0;
-        }
-    }
-
-    private nint Describe(FontSpec spec)
-    {
-        nint description = Pango.FontDescriptionNew();
-        Pango.FontDescriptionSetFamily(description, folders?.Resolve(spec.Family) ?? spec.Family);
+        var owner = new NativeHandle(Pango.FontDescriptionNew(), &Pango.FontDescriptionFree);
+        nint description = owner.Pointer;
+        Pango.FontDescriptionSetFamily(description, _folders?.Resolve(spec.Family) ?? spec.Family);
         Pango.FontDescriptionSetWeight(description, spec.Bold ? BoldWeight : NormalWeight);
         Pango.FontDescriptionSetStyle(description, spec.Italic ? ItalicStyle : 0);
         Pango.FontDescriptionSetAbsoluteSize(description, EmSize * Pango.Scale);
-        return description;
+        return owner;
     }
 
     private double MeasureCapRatio(int font)
@@ -202,41 +190,40 @@ internal sealed unsafe class TextEngine : IDisposable
         PangoRectangle ink;
         Pango.LayoutLineGetExtents(Shape(font, "H", 0), &ink, null);
         double ratio = -ink.Y / (Pango.Scale * EmSize);
-        return ratio is > 0.2 and < 2 ? ratio : UsualCapRatio;
+        return ratio is > 0.2 and < 2 ? ratio : DefaultCapRatio;
     }
 
     private nint Shape(int font, string text, double letterSpacing)
     {
-        if (font != currentFont)
+        if (font != _currentFont)
         {
-            Pango.LayoutSetFontDescription(layout, descriptions[font]);
-            currentFont = font;
+            Pango.LayoutSetFontDescription(_layout.Pointer, _descriptions[font].Pointer);
+            _currentFont = font;
         }
 
-        if (letterSpacing != currentSpacing)
+        if (letterSpacing != _currentSpacing)
         {
             SetSpacing(letterSpacing);
         }
 
-        if (!ReferenceEquals(text, currentText))
+        if (!ReferenceEquals(text, _currentText))
         {
             SetText(text);
         }
 
-        return Pango.LayoutGetLine(layout, 0);
+        return Pango.LayoutGetLine(_layout.Pointer, 0);
     }
 
     private void SetSpacing(double ems)
     {
-        nint list = Pango.AttrListNew();
+        using var list = new NativeHandle(Pango.AttrListNew(), &Pango.AttrListUnref);
         if (ems != 0)
         {
-            Pango.AttrListInsert(list, Pango.AttrLetterSpacingNew((int)Math.Round(ems * EmSize * Pango.Scale)));
+            Pango.AttrListInsert(list.Pointer, Pango.AttrLetterSpacingNew((int)Math.Round(ems * EmSize * Pango.Scale)));
         }
 
-        Pango.LayoutSetAttributes(layout, list);
-        Pango.AttrListUnref(list);
-        currentSpacing = ems;
+        Pango.LayoutSetAttributes(_layout.Pointer, list.Pointer);
+        _currentSpacing = ems;
     }
 
     private void SetText(string text)
@@ -246,9 +233,9 @@ internal sealed unsafe class TextEngine : IDisposable
         int length = Encoding.UTF8.GetBytes(text, utf8);
         fixed (byte* bytes = utf8)
         {
-            Pango.LayoutSetText(layout, bytes, length);
+            Pango.LayoutSetText(_layout.Pointer, bytes, length);
         }
 
-        currentText = text;
+        _currentText = text;
     }
 }

@@ -55,7 +55,7 @@ public class FlatteningTests
         path.LineTo(new Vec2(4.5, 0));
         path.LineTo(new Vec2(10, 0));
         PathBuffer dashes = new();
-        Assert.True(DashCutter.Cut(path, [2, 1], offset, 0.1, dashes));
+        Assert.True(DashSplitter.TrySplit(path, [2, 1], offset, 0.1, dashes));
         List<double> ends = FlatLine.Of(dashes, 0.1).SelectMany(line => new[] { line.Points[0].X, line.Points[^1].X }).ToList();
         Assert.Equal(expected, ends.ConvertAll(x => Math.Round(x, 9)));
     }
@@ -66,7 +66,7 @@ public class FlatteningTests
         PathBuffer path = new();
         path.MoveTo(new Vec2(0, 0));
         path.LineTo(new Vec2(1e9, 0));
-        Assert.False(DashCutter.Cut(path, [0.5, 0.5], 0, 0.1, new PathBuffer()));
+        Assert.False(DashSplitter.TrySplit(path, [0.5, 0.5], 0, 0.1, new PathBuffer()));
     }
 
     [Theory]

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
@@ -93,7 +94,8 @@ internal sealed class DrawingExtents : IDisposable
         _open.Remove(name);
     }
 
-    private static bool IsAxisAligned(Affine3 map) => IsAlongAxis(map.AxisX) && IsAlongAxis(map.AxisY) && IsAlongAxis(map.AxisZ);
+    private static bool IsAxisAligned(Affine3 map) =>
+        IsAlongAxis(map.AxisX) && IsAlongAxis(map.AxisY) && IsAlongAxis(map.AxisZ);
 
     private static bool IsAlongAxis(Vec3 axis)
     {
@@ -134,7 +136,8 @@ internal sealed class DrawingExtents : IDisposable
         return extents;
     }
 
-    private sealed class Sink(DrawingExtents owner, Extents extents, bool isBlock) : EntityExtents(extents, owner._texts)
+    private sealed class Sink(DrawingExtents owner, Extents extents, bool isBlock) : EntityExtents(
+        extents, owner._texts)
     {
         // Attributes of a reference stand in for the definitions of its block.
         protected override bool IsShown(in TextLine text) =>
@@ -144,6 +147,15 @@ internal sealed class DrawingExtents : IDisposable
         {
             owner.AddInsert(insert, Extents);
             insert.Attributes.ForEach(attribute => EntityGeometry.Emit(attribute, this));
+        }
+
+        protected override void AddTable(CadTableEntity table, in Affine3 map)
+        {
+            if (owner._drawing.BlockEntities.Find(table.Name) is { } block)
+            {
+                Affine3 placed = map * Affine3.Translation(-block.BasePoint.ToVec3());
+                owner.AddBlock(table.Name, Extents.Map * placed, Extents);
+            }
         }
 
         protected override void AddDimension(CadDimensionBase dimension)

@@ -41,6 +41,8 @@ internal static class DrawingStrings
 
         void IGeometrySink.Paragraphs(CadMText text, in Affine3 plane) => Add(PlainText.FromMText(text.Text));
 
+        void IGeometrySink.MultiLeader(CadMLeader leader) => Add(PlainText.FromMText(leader.ContextData.Text));
+
         void IGeometrySink.Tolerance(CadTolerance tolerance, in Affine3 plane) => Add(tolerance.VisualRepresentation);
 
         void IGeometrySink.Dimension(CadDimensionBase dimension)

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
@@ -131,6 +132,26 @@ internal class EntityExtents(Extents extents, TextBoxes? texts = null) : IGeomet
     void IGeometrySink.MultiLine(CadMultiLine line) =>
         line.Vertices.ForEach(vertex => extents.Add(vertex.Location.ToVec3()));
 
+    void IGeometrySink.MultiLeader(CadMLeader leader)
+    {
+        foreach (CadMLeaderNode branch in leader.ContextData.LeaderNodes)
+        {
+            extents.Add(branch.LastLeaderLinePoint.ToVec3());
+            branch.LeaderLines.ForEach(line => line.Vertices.ForEach(vertex => extents.Add(vertex.ToVec3())));
+        }
+
+        if (leader.ContextData.HasText)
+        {
+            extents.Add(leader.ContextData.TextLocation.ToVec3());
+        }
+    }
+
+    void IGeometrySink.Table(CadTableEntity table, in Affine3 map)
+    {
+        extents.Add(map.Origin);
+        AddTable(table, map);
+    }
+
     void IGeometrySink.Shape(CadShape shape, Vec3 at) => extents.Add(at);
 
     void IGeometrySink.BlockReference(CadInsertObject insert) => AddReference(insert);
@@ -142,6 +163,10 @@ internal class EntityExtents(Extents extents, TextBoxes? texts = null) : IGeomet
 
     /// <summary>Adds what a block reference shows; alone it has no block to show.</summary>
     protected virtual void AddReference(CadInsertObject insert)
+    {
+    }
+
+    protected virtual void AddTable(CadTableEntity table, in Affine3 map)
     {
     }
 

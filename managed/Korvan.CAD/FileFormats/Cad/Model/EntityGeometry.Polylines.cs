@@ -100,6 +100,25 @@ internal static partial class EntityGeometry
         sink.Faces(faces);
     }
 
+    /// <summary>The control mesh: faces are counts, each followed by its indices; one with missing corners is left
+    /// out.</summary>
+    private static void EmitFaces(CadMesh mesh, IGeometrySink sink)
+    {
+        var faces = new FaceSet(mesh.Vertices.ConvertAll(ModelVectors.ToVec3));
+        List<int> list = mesh.FaceList;
+        for (int i = 0; i < list.Count && list[i] > 1 && i + list[i] < list.Count; i += list[i] + 1)
+        {
+            List<int> corners = list.GetRange(i + 1, list[i]);
+            if (corners.TrueForAll(corner => corner >= 0 && corner < faces.Points.Count))
+            {
+                faces.Faces.Add(new FaceCorners(faces.Corners.Count, corners.Count, 0));
+                faces.Corners.AddRange(corners);
+            }
+        }
+
+        sink.Faces(faces);
+    }
+
     // Indices count from one; a negative one hides the edge that leaves its vertex.
     private static void AddFace(FaceSet faces, CadFaceRecord face)
     {

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
@@ -27,6 +28,7 @@ internal static partial class EntityGeometry
         On<CadPolyline3D>(EmitPolyline),
         On<CadPolygonMesh>(EmitGrid),
         On<CadPolyFaceMesh>(EmitFaces),
+        On<CadMesh>(EmitFaces),
         On<CadSolid>((s, sink) => sink.Quad(QuadOf(s, s.FirstPoint, s.SecondPoint, s.ThirdPoint, s.FourthPoint))),
         On<CadTrace>((t, sink) => sink.Quad(QuadOf(t, t.FirstPoint, t.SecondPoint, t.ThirdPoint, t.FourthPoint))),
         On<Cad3DFace>(EmitFace),
@@ -40,6 +42,8 @@ internal static partial class EntityGeometry
         On<CadRasterImage>((i, sink) => sink.Image(ImageOf(i, i.InsertionPoint, i.VectorU, i.VectorV, i.ImageSize))),
         On<CadWipeoutBase>((i, sink) => sink.Image(ImageOf(i, i.InsertionPoint, i.VectorU, i.VectorV, i.ImageSize))),
         On<CadLeader>((leader, sink) => sink.Leader(leader, leader.Coordinates.ConvertAll(ModelVectors.ToVec3))),
+        On<CadMLeader>((leader, sink) => sink.MultiLeader(leader)),
+        On<CadTableEntity>((table, sink) => sink.Table(table, MapOf(table))),
         On<CadMultiLine>((line, sink) => sink.MultiLine(line)),
         On<CadInsertObject>((insert, sink) => sink.BlockReference(insert)),
         On<CadDimensionBase>((dimension, sink) => sink.Dimension(dimension)),
@@ -157,6 +161,13 @@ internal static partial class EntityGeometry
 
         Vec3 x = direction.Unit();
         return new Affine3(x, Vec3.Cross(ocs.AxisZ, x).Unit(), ocs.AxisZ, text.InsertionPoint.ToVec3());
+    }
+
+    private static Affine3 MapOf(CadTableEntity table)
+    {
+        Vec3 direction = table.HorizontalDirection.ToVec3();
+        return Affine3.Translation(table.InsertionPoint.ToVec3())
+            * Affine3.RotationZ(Math.Atan2(direction.Y, direction.X));
     }
 
     private static Affine3 PlaneOf(CadTolerance tolerance)

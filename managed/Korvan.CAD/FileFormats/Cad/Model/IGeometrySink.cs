@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.Geometry;
@@ -92,6 +93,16 @@ internal interface IGeometrySink
     {
     }
 
+    /// <summary>Leaders that share a text or a block.</summary>
+    void MultiLeader(CadMLeader leader)
+    {
+    }
+
+    /// <summary>A table, whose graphics are in a block that the map places.</summary>
+    void Table(CadTableEntity table, in Affine3 map)
+    {
+    }
+
     void MultiLine(CadMultiLine line)
     {
     }
@@ -111,7 +122,8 @@ internal interface IGeometrySink
     }
 }
 
-/// <summary>An arc of a circle in a plane, with angles in radians; counterclockwise where the sweep is positive.</summary>
+/// <summary>An arc of a circle in a plane, with angles in radians; counterclockwise where the sweep is
+/// positive.</summary>
 internal readonly record struct PlanarArc(Affine3 Plane, Vec3 Center, double Radius, double Start, double Sweep)
 {
     internal double Thickness { get; init; }

@@ -4,7 +4,7 @@ using Korvan.CAD.Rendering.Text;
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
 /// <summary>
-/// The signs of ISO 1101 that tolerance fonts keep under small letters, as characters that common text fonts
+/// The signs of ISO 1101 that tolerance fonts have at lower case letters, as characters that common text fonts
 /// have: circled letters become bracketed ones, the position sign a circled cross.
 /// </summary>
 internal static class ToleranceSymbols

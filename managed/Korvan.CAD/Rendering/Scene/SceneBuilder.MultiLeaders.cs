@@ -8,30 +8,13 @@ using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;
 
-/// <content>Multileaders, tables and subdivision meshes.</content>
+/// <content>Multileaders and tables.</content>
 internal sealed partial class SceneBuilder
 {
-    private void DrawRaw(CadEntityBase entity, in Pen pen, LayerInfo layer, BlockContext context)
+    void IGeometrySink.MultiLeader(CadMLeader leader)
     {
-        switch (entity)
-        {
-            case CadMLeader leader:
-                DrawMultiLeader(leader, pen, layer, context);
-                break;
-            case CadTableEntity table:
-                DrawTable(table, pen, layer, context);
-                break;
-            case CadMesh mesh:
-                DrawSubdivisionMesh(mesh, pen, context);
-                break;
-            default:
-                List.Skip(entity.TypeNameText);
-                break;
-        }
-    }
+        (Pen pen, LayerInfo layer, BlockContext context, _) = _current;
 
-    private void DrawMultiLeader(CadMLeader leader, in Pen pen, LayerInfo layer, BlockContext context)
-    {
         // "By block" inside of the entity is the entity's own colour.
         Pen entity = pen;
         Pen Own(int stored)
@@ -142,7 +125,7 @@ internal sealed partial class SceneBuilder
     }
 
     /// <summary>A table has its graphics in an anonymous block at its insertion point.</summary>
-    private void DrawTable(CadTableEntity table, in Pen pen, LayerInfo layer, BlockContext context)
+    void IGeometrySink.Table(CadTableEntity table, in Affine3 map)
     {
         if (!tables.Blocks.TryGetValue(table.Name, out BlockInfo? block))
         {
@@ -150,24 +133,7 @@ internal sealed partial class SceneBuilder
             return;
         }
 
-        Cad3DPoint direction = table.HorizontalDirection;
-        Affine3 placed = Affine3.Translation(table.InsertionPoint.ToVec3())
-            * Affine3.RotationZ(Math.Atan2(direction.Y, direction.X));
-        DrawBlock(block, context.Map * placed * Affine3.Translation(-block.Base), layer, pen, context);
-    }
-
-    private void DrawSubdivisionMesh(CadMesh mesh, in Pen pen, BlockContext context)
-    {
-        var path = new PathPen(canvas.NewPath(), context.Map);
-        foreach (Vec3[] face in SubdivisionCage.Read(mesh).Faces())
-        {
-            path.MoveTo(face[^1]);
-            foreach (Vec3 corner in face)
-            {
-                path.LineTo(corner);
-            }
-        }
-
-        canvas.Stroke(pen);
+        (Pen pen, LayerInfo layer, BlockContext context, _) = _current;
+        DrawBlock(block, context.Map * map * Affine3.Translation(-block.Base), layer, pen, context);
     }
 }

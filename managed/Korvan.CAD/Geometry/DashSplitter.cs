@@ -2,15 +2,16 @@ using System;
 
 namespace Korvan.CAD.Geometry;
 
-/// <summary>Cuts a path into its dashes, for formats whose line types have no phase or whose readers differ over
+/// <summary>Splits a path into its dashes, for formats whose line types have no phase or whose readers differ over
 /// them.</summary>
-internal static class DashCutter
+internal static class DashSplitter
 {
     /// <summary>Past this a line is drawn whole: its dashes could not be told apart.</summary>
-    private const int MostDashes = 200_000;
+    private const int MaxDashes = 200_000;
 
-    /// <summary>Puts the dashes into the target; lengths alternate between ink and gap. False when there are too many.</summary>
-    internal static bool Cut(PathBuffer path, double[] lengths, double offset, double tolerance, PathBuffer target)
+    /// <summary>Puts the dashes into the target; lengths alternate between dash and gap. False when there are too
+    /// many.</summary>
+    internal static bool TrySplit(PathBuffer path, double[] lengths, double offset, double tolerance, PathBuffer target)
     {
         double period = 0;
         Array.ForEach(lengths, length => period += length);
@@ -21,7 +22,7 @@ internal static class DashCutter
             var walk = new Walk(lengths, period, offset);
             for (int i = 0; i + 1 < line.Points.Length; i++)
             {
-                if (!walk.Chord(line.Points[i], line.Points[i + 1], target, ref dashes))
+                if (!walk.AddSegment(line.Points[i], line.Points[i + 1], target, ref dashes))
                 {
                     return false;
                 }
@@ -51,15 +52,15 @@ internal static class DashCutter
             _left = Math.Max(0, lengths[_place] - at);
         }
 
-        internal bool Chord(Vec2 from, Vec2 to, PathBuffer target, ref int dashes)
+        internal bool AddSegment(Vec2 from, Vec2 to, PathBuffer target, ref int dashes)
         {
             double length = (to - from).Length;
             double done = 0;
             while (true)
             {
-                bool ink = _place % 2 == 0;
+                bool isDash = _place % 2 == 0;
                 double step = Math.Min(_left, length - done);
-                if (ink)
+                if (isDash)
                 {
                     if (!_down)
                     {
@@ -75,19 +76,20 @@ internal static class DashCutter
                 _left -= step;
                 if (_left > 0)
                 {
-                    return dashes <= MostDashes;
+                    return dashes <= MaxDashes;
                 }
 
                 _place = (_place + 1) % _lengths.Length;
                 _left = _lengths[_place];
                 _down = false;
-                if (dashes > MostDashes || (done >= length && _left > 0))
+                if (dashes > MaxDashes || (done >= length && _left > 0))
                 {
-                    return dashes <= MostDashes;
+                    return dashes <= MaxDashes;
                 }
             }
         }
 
-        private static Vec2 At(Vec2 from, Vec2 to, double length, double at) => length > 0 ? Vec2.Lerp(from, to, at / length) : from;
+        private static Vec2 At(Vec2 from, Vec2 to, double length, double at) =>
+            length > 0 ? Vec2.Lerp(from, to, at / length) : from;
     }
 }
