@@ -162,7 +162,8 @@ public class TriangulationTests
     {
         "square" => [Box(0, 0, 10, 10)],
         "clockwise" => [[.. Box(0, 0, 10, 10).Reverse()]],
-        "collinear corners" => [[new(0, 0), new(3, 0), new(10, 0), new(10, 4), new(10, 10), new(5, 10), new(0, 10), new(0, 1)]],
+        "collinear corners" =>
+            [[new(0, 0), new(3, 0), new(10, 0), new(10, 4), new(10, 10), new(5, 10), new(0, 10), new(0, 1)]],
         "repeated corners" => [[new(0, 0), new(0, 0), new(10, 0), new(10, 10), new(10, 10), new(0, 10), new(0, 0)]],
         "spike without area" => [[new(0, 0), new(10, 0), new(10, 10), new(0, 10), new(0, 15), new(0, 10)]],
         "no area" => [[new(0, 0), new(5, 5), new(10, 10)]],
@@ -171,7 +172,8 @@ public class TriangulationTests
         "hole at a corner" => [Box(0, 0, 10, 10), [new(0, 0), new(3, 1), new(4, 4), new(1, 3)], Box(20, 20, 20, 20)],
         "hole corner on an edge" => [Box(0, 0, 10, 10), [new(5, 0), new(7, 1), new(5, 2), new(3, 1)]],
         "hole edge on an edge" => [Box(0, 0, 10, 10), Box(4, 0, 6, 2)],
-        "ring that touches itself" => [[new(0, 0), new(4, 2), new(8, 0), new(8, 4), new(4, 2), new(0, 4)], Box(1, 1, 1, 1)],
+        "ring that touches itself" =>
+            [[new(0, 0), new(4, 2), new(8, 0), new(8, 4), new(4, 2), new(0, 4)], Box(1, 1, 1, 1)],
         "neighbours with one edge in common" => [Box(0, 0, 10, 10), Box(10, 0, 20, 10)],
         "island in a hole" => [Box(0, 0, 10, 10), Box(2, 2, 8, 8), Box(4, 4, 6, 6)],
         "twice the same" => [Box(0, 0, 10, 10), Box(0, 0, 10, 10)],
@@ -195,7 +197,8 @@ public class TriangulationTests
             "holes" =>
             [
                 Box(-1, -1, 1000, 1000),
-                .. Enumerable.Range(0, size / 4).Select(i => Box(3 * (i % 300), 3 * (i / 300), (3 * (i % 300)) + 1, (3 * (i / 300)) + 2)),
+                .. Enumerable.Range(0, size / 4).Select(
+                    i => Box(3 * (i % 300), 3 * (i / 300), (3 * (i % 300)) + 1, (3 * (i / 300)) + 2)),
             ],
             _ =>
             [
@@ -236,7 +239,8 @@ public class TriangulationTests
         return ring;
     }
 
-    private static Vec2[] Box(double x0, double y0, double x1, double y1) => [new(x0, y0), new(x1, y0), new(x1, y1), new(x0, y1)];
+    private static Vec2[] Box(double x0, double y0, double x1, double y1) =>
+        [new(x0, y0), new(x1, y0), new(x1, y1), new(x0, y1)];
 
     private static List<Vec2> Points(Vec2[][] rings, TriangulatedPolygon polygon) =>
         [.. rings.SelectMany(ring => ring), .. polygon.Added.Select(added => added.At)];

@@ -10,7 +10,8 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
 
-/// <summary>What an entity takes from its layer, from the reference that shows its block, and through nested ones.</summary>
+/// <summary>What an entity takes from its layer, from the reference that shows its block, and through nested
+/// ones.</summary>
 public class InheritanceTests
 {
     private const short ByLayer = -1;
@@ -60,15 +61,18 @@ public class InheritanceTests
     public void Line_types_are_inherited(string own, string inner, string outer, double dash)
     {
         DrawingList list = List(
-            line => line.LineTypeName = own, insert => insert.LineTypeName = inner, insert => insert.LineTypeName = outer);
+            line =>
+                line.LineTypeName = own, insert => insert.LineTypeName = inner, insert => insert.LineTypeName = outer);
         DisplayItem item = list.Items[0];
         Assert.Equal(dash, item.Dash < 0 ? 0 : list.DashOf(item)[0]);
     }
 
-    private static DisplayItem Draw(Action<CadLine> own, Action<CadInsertObject> inner, Action<CadInsertObject> outer) =>
+    private static DisplayItem Draw(
+        Action<CadLine> own, Action<CadInsertObject> inner, Action<CadInsertObject> outer) =>
         List(own, inner, outer).Items[0];
 
-    /// <summary>A line in a block, in another block, in the model; both references lie on a layer of their own.</summary>
+    /// <summary>A line in a block, in another block, in the model; both references lie on a layer of their
+    /// own.</summary>
     private static DrawingList List(Action<CadLine> own, Action<CadInsertObject> inner, Action<CadInsertObject> outer)
     {
         var line = new CadLine { SecondPoint = new Cad3DPoint(1000, 0, 0) };

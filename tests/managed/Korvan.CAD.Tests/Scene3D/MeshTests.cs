@@ -68,7 +68,8 @@ public class MeshTests
         Assert.Equal(5, scene.Roots.Count);
         Assert.Equal(7, scene.Instances().Count());
         Assert.Equal(2 + 2, scene.Instances().Select(instance => instance.Mesh).Distinct().Count());
-        Assert.Equal([0.0, 0, 0, 10, 10, 10, 20], scene.Instances().Select(instance => instance.World.Origin.X).Order());
+        Assert.Equal(
+            [0.0, 0, 0, 10, 10, 10, 20], scene.Instances().Select(instance => instance.World.Origin.X).Order());
     }
 
     [Fact]
@@ -83,7 +84,8 @@ public class MeshTests
         JsonElement primitive = mesh.GetProperty("primitives")[0];
         JsonElement positions = accessors[primitive.GetProperty("attributes").GetProperty("POSITION").GetInt32()];
         Assert.Equal(0.5, positions.GetProperty("max")[0].GetDouble());
-        Assert.Equal(5123, accessors[primitive.GetProperty("indices").GetInt32()].GetProperty("componentType").GetInt32());
+        Assert.Equal(
+            5123, accessors[primitive.GetProperty("indices").GetInt32()].GetProperty("componentType").GetInt32());
         JsonElement[] nodes = [.. root.GetProperty("nodes").EnumerateArray()];
         Assert.Equal(1 + 200, nodes.Length);
         Assert.All(nodes[1..], node => Assert.InRange(Math.Abs(Translation(node)), 0, 100));
@@ -92,7 +94,8 @@ public class MeshTests
     [Fact]
     public void Colours_are_materials_each_once()
     {
-        CadImage drawing = Picture.Drawing([.. Enumerable.Range(0, 600).Select(i => Picture.Square(i, 0, 1, (short)(1 + (i % 7))))]);
+        CadImage drawing = Picture.Drawing(
+            [.. Enumerable.Range(0, 600).Select(i => Picture.Square(i, 0, 1, (short)(1 + (i % 7))))]);
         Assert.Equal(7, Gltf(drawing).GetProperty("materials").GetArrayLength());
     }
 
@@ -124,7 +127,8 @@ public class MeshTests
         node.TryGetProperty("translation", out JsonElement by) ? by[0].GetDouble()
         : node.TryGetProperty("matrix", out JsonElement matrix) ? matrix[12].GetDouble() : 0;
 
-    private static Vec3 Polar(double angle, double radius, double z) => new(radius * Math.Cos(angle), radius * Math.Sin(angle), z);
+    private static Vec3 Polar(double angle, double radius, double z) =>
+        new(radius * Math.Cos(angle), radius * Math.Sin(angle), z);
 
     private static Mesh Face(Vec3[] ring)
     {

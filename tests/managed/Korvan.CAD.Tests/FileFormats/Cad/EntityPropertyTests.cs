@@ -9,7 +9,8 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cad;
 
-/// <summary>Extents, lengths and areas of arcs against points on them, which are found without their formulas.</summary>
+/// <summary>Extents, lengths and areas of arcs against points on them, which are found without their
+/// formulas.</summary>
 public class EntityPropertyTests
 {
     private const int Samples = 20_000;
@@ -71,7 +72,8 @@ public class EntityPropertyTests
         Cad3DPoint normal = new(x, y, z);
         Affine3 plane = Ocs.ToWorld(new Vec3(x, y, z));
         var circle = new CadCircle { CenterPoint = new(4, -2, 7), Radius = 3, ExtrusionDirection = normal };
-        AssertBox(circle, At(0, Math.Tau, t => plane.Point(new Vec3(4 + (3 * Math.Cos(t)), -2 + (3 * Math.Sin(t)), 7))));
+        AssertBox(
+            circle, At(0, Math.Tau, t => plane.Point(new Vec3(4 + (3 * Math.Cos(t)), -2 + (3 * Math.Sin(t)), 7))));
         var arc = new CadArc { Radius = 5, StartAngle = 200, EndAngle = 30, ExtrusionDirection = normal };
         double start = 200 * Math.PI / 180;
         AssertBox(arc, At(start, start + (190 * Math.PI / 180), t => plane.Point(new Vec3(5 * Math.Cos(t), 5 * Math.Sin(t), 0))));
@@ -79,12 +81,14 @@ public class EntityPropertyTests
         {
             FirstPoint = new(0, 0, 1), SecondPoint = new(4, 1, 1), ThirdPoint = new(1, 5, 1), FourthPoint = new(6, 6, 1), ExtrusionDirection = normal,
         };
-        AssertBox(solid, [.. new Vec3[] { new(0, 0, 1), new(4, 1, 1), new(1, 5, 1), new(6, 6, 1) }.Select(plane.Point)]);
+        AssertBox(
+            solid, [.. new Vec3[] { new(0, 0, 1), new(4, 1, 1), new(1, 5, 1), new(6, 6, 1) }.Select(plane.Point)]);
         Assert.Equal(5 * 190 * Math.PI / 180, arc.GetLength()!.Value, 9);
         Assert.Null(arc.GetArea());
     }
 
-    /// <summary>Points on the circle through both ends and the top of the segment, which lies right of the chord.</summary>
+    /// <summary>Points on the circle through both ends and the top of the segment, which lies right of the
+    /// chord.</summary>
     private static IEnumerable<Vec2> Arc(Vec2 a, Vec2 b, double bulge)
     {
         Vec2 chord = b - a;
@@ -97,7 +101,8 @@ public class EntityPropertyTests
         Vec2 center = Circumcenter(a, top, b);
         double from = Angle(a - center);
         double by = Turn(Angle(top - center) - from) + Turn(Angle(b - center) - Angle(top - center));
-        return Enumerable.Range(0, Samples + 1).Select(i => center + Vec2.Polar(from + (by * i / Samples), (a - center).Length));
+        return Enumerable.Range(0, Samples + 1).Select(
+            i => center + Vec2.Polar(from + (by * i / Samples), (a - center).Length));
     }
 
     private static double Angle(Vec2 v) => Math.Atan2(v.Y, v.X);

@@ -50,7 +50,8 @@ public class TextExtentsTests
         Picture.AddBlock(
             drawing, "B", Picture.Square(0, 0, 1), new CadAttDef { DefinitionTagString = new string('W', 100), TextHeight = 10 });
         Assert.Equal(51, drawing.MaxPoint.X);
-        var attribute = new CadAttrib { DefaultValue = "12345", TextHeight = 10, FirstAlignment = new Cad3DPoint(60, 0, 0) };
+        var attribute =
+            new CadAttrib { DefaultValue = "12345", TextHeight = 10, FirstAlignment = new Cad3DPoint(60, 0, 0) };
         ((CadInsertObject)drawing.Entities[0]).Attributes.Add(attribute);
         Assert.InRange(drawing.MaxPoint.X, 90, 110);
         attribute.AttFlags = 1; // hidden
@@ -68,7 +69,8 @@ public class TextExtentsTests
         }
 
         CadText inside = Text("inside", 1);
-        CadImage drawing = Picture.Drawing(inside, new CadLine { FirstPoint = new(-100, -100, 0), SecondPoint = new(100, 100, 0) });
+        CadImage drawing = Picture.Drawing(
+            inside, new CadLine { FirstPoint = new(-100, -100, 0), SecondPoint = new(100, 100, 0) });
         DrawingExtents.OfModel(drawing.Drawing, Fonts);
         Assert.Equal(0, asked);
         ((CadText)drawing.Entities[0]).FirstAlignment = new Cad3DPoint(99, 0, 0);
