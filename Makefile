@@ -10,7 +10,7 @@
 #   make catalogue  which of the types of CATALOGUE=<table> stand, module by module
 #   make wheel      the package as a wheel, in build/dist
 #   make format     put the sources into the code style
-#   make lint       the format check and clang-tidy
+#   make lint       the format check, .NET analyzers and clang-tidy
 #   make clean      forget what was built
 #
 # PYTHON=<path> names the CPython 3.12 to build for; else it is looked for on the path, then in pyenv.
@@ -80,6 +80,7 @@ format: lint_packages
 
 lint: lint_packages $(BUILD)/build.ninja
 	@tools/format.sh --check
+	@tools/lint-managed.sh
 	@tools/lint.sh $(BUILD)
 
 clean:

@@ -14,6 +14,9 @@ fi
 # shellcheck disable=SC2046,SC2086 # one argument a file; no path of ours has a space
 clang-format $dry_run $(git ls-files -- 'native/*.cpp' 'native/*.h' 'contract/*.h' \
     'tests/*.cpp' 'tests/*.h' 'bench/*.cpp' 'bench/*.h')
+if [ -n "$check" ]; then
+    tools/line-lengths.py
+fi
 for folder in managed tests/managed tests/fixtures bench/managed; do
     dotnet format whitespace --folder "$folder" $check
 done

@@ -1,9 +1,6 @@
 using System;
-using System.Text;
 using Korvan.CAD.Binding;
 using Korvan.CAD.Encodings;
-using Korvan.CAD.FileFormats.Cad.Dxf;
-using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD;
 

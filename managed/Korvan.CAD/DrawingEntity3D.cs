@@ -1,9 +1,9 @@
 using System;
 using System.Linq;
-using Korvan.CAD.Measurement;
-using Korvan.CAD.Primitives;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.Measurement;
+using Korvan.CAD.Primitives;
 using Korvan.CAD.Scene3D;
 
 namespace Korvan.CAD;

@@ -14,7 +14,8 @@ using Korvan.CAD.Raster.Vectorizing;
 
 namespace Korvan.CAD;
 
-/// <summary>Loads images: asks the registry for the format of a source and for what reads it, and makes the image of the
+/// <summary>Loads images: asks the registry for the format of a source and for what reads it, and makes the image of
+/// the
 /// model that comes of it.</summary>
 internal static class ImageLoader
 {

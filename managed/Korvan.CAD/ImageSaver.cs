@@ -1,7 +1,6 @@
 using System;
 using System.IO;
 using Korvan.CAD.CadExceptions;
-using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD;
 

@@ -3,8 +3,6 @@ using System.Globalization;
 using System.Text;
 using Korvan.CAD.Binding;
 using Korvan.CAD.Encodings;
-using Korvan.CAD.FileFormats.Cad.Dxf;
-using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD;
 

@@ -1,6 +1,5 @@
 using System;
 using Korvan.CAD.Binding;
-using Korvan.CAD.Raster;
 using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD;

@@ -1,7 +1,6 @@
 using System;
 using System.Buffers.Binary;
 using Korvan.CAD.Binding;
-using Korvan.CAD.Raster;
 using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD;

@@ -1,7 +1,6 @@
 using System.Collections.Generic;
 using System.Collections.ObjectModel;
 using Korvan.CAD.Binding;
-using Korvan.CAD.FileFormats.Cad;
 
 namespace Korvan.CAD.Collections;
 

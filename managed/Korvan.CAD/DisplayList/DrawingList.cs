@@ -11,67 +11,68 @@ namespace Korvan.CAD.DisplayList;
 /// </summary>
 internal sealed class DrawingList
 {
-    /// <summary>Coordinates that a list may hold (1.2 GB): past it a drawing is a bomb of nested arrays, not a page.</summary>
+    /// <summary>Coordinates that a list may hold (1.2 GB): past it a drawing is a bomb of nested arrays, not a
+    /// page.</summary>
     internal const int MaxCoords = 150_000_000;
 
     /// <summary>How the kinds of skipped things end that lack a file.</summary>
     internal const string MissingFile = " whose file is not there";
 
-    private readonly List<TextRun> texts = [];
-    private readonly List<Gradient> gradients = [];
-    private readonly List<PlacedImage> images = [];
-    private readonly List<string> layers = [];
-    private readonly Dictionary<string, int> layerIndex = new(StringComparer.OrdinalIgnoreCase);
-    private readonly List<double[]> dashes = [];
-    private readonly Dictionary<string, int> dashIndex = [];
-    private readonly List<Bounds2> clips = [];
-    private readonly List<LineLook> looks = [];
-    private readonly Dictionary<LineLook, int> lookIndex = [];
-    private DisplayItem[] items = new DisplayItem[256];
-    private PathVerb[] verbs = new PathVerb[1024];
-    private double[] coords = new double[4096];
-    private int itemCount;
-    private int verbCount;
-    private int coordCount;
-    private Bounds2 bounds = Bounds2.Empty;
+    private readonly List<TextRun> _texts = [];
+    private readonly List<Gradient> _gradients = [];
+    private readonly List<PlacedImage> _images = [];
+    private readonly List<string> _layers = [];
+    private readonly Dictionary<string, int> _layerIndex = new(StringComparer.OrdinalIgnoreCase);
+    private readonly List<double[]> _dashes = [];
+    private readonly Dictionary<string, int> _dashIndex = [];
+    private readonly List<Bounds2> _clips = [];
+    private readonly List<LineLook> _looks = [];
+    private readonly Dictionary<LineLook, int> _lookIndex = [];
+    private DisplayItem[] _items = new DisplayItem[256];
+    private PathVerb[] _verbs = new PathVerb[1024];
+    private double[] _coords = new double[4096];
+    private int _itemCount;
+    private int _verbCount;
+    private int _coordCount;
+    private Bounds2 _bounds = Bounds2.Empty;
 
     /// <summary>What becomes of every colour that is drawn with; null to keep them.</summary>
     internal Func<Rgba, Rgba>? ColorMap { get; init; }
 
-    internal ReadOnlySpan<DisplayItem> Items => items.AsSpan(0, itemCount);
+    internal ReadOnlySpan<DisplayItem> Items => _items.AsSpan(0, _itemCount);
 
-    internal IReadOnlyList<string> Layers => layers;
+    internal IReadOnlyList<string> Layers => _layers;
 
     /// <summary>What has been drawn so far, as far as it lies in the clips that hold it.</summary>
-    internal Bounds2 Bounds => bounds;
+    internal Bounds2 Bounds => _bounds;
 
     /// <summary>The region that can be drawn on at this moment.</summary>
-    internal Bounds2? ActiveClip => clips.Count > 0 ? clips[^1] : null;
+    internal Bounds2? ActiveClip => _clips.Count > 0 ? _clips[^1] : null;
 
     /// <summary>Kinds of entities that were met but have no picture, with their counts.</summary>
     internal SortedDictionary<string, int> Skipped { get; } = new(StringComparer.Ordinal);
 
-    internal ReadOnlySpan<PathVerb> VerbsOf(in DisplayItem item) => verbs.AsSpan(item.FirstVerb, item.VerbCount);
+    internal ReadOnlySpan<PathVerb> VerbsOf(in DisplayItem item) => _verbs.AsSpan(item.FirstVerb, item.VerbCount);
 
-    internal ReadOnlySpan<double> CoordsOf(in DisplayItem item) => coords.AsSpan(item.FirstCoord);
+    internal ReadOnlySpan<double> CoordsOf(in DisplayItem item) => _coords.AsSpan(item.FirstCoord);
 
-    internal double[] DashOf(in DisplayItem item) => dashes[item.Dash];
+    internal double[] DashOf(in DisplayItem item) => _dashes[item.Dash];
 
-    internal LineLook? LookOf(in DisplayItem item) => item.Look > 0 ? looks[item.Look - 1] : null;
+    internal LineLook? LookOf(in DisplayItem item) => item.Look > 0 ? _looks[item.Look - 1] : null;
 
-    internal TextRun TextOf(in DisplayItem item) => texts[item.Extra];
+    internal TextRun TextOf(in DisplayItem item) => _texts[item.Extra];
 
-    internal Gradient GradientOf(in DisplayItem item) => gradients[item.Extra];
+    internal Gradient GradientOf(in DisplayItem item) => _gradients[item.Extra];
 
-    internal PlacedImage ImageOf(in DisplayItem item) => images[item.Extra];
+    internal PlacedImage ImageOf(in DisplayItem item) => _images[item.Extra];
 
     internal int Layer(string name)
     {
-        if (!layerIndex.TryGetValue(name, out int index))
+        if (!_layerIndex.TryGetValue(name, out int index))
         {
-            index = layers.Count;
-            layers.Add(name);
-            layerIndex.Add(name, index);
+            index = _layers.Count;
+            _layers.Add(name);
+            _layerIndex.Add(name, index);
         }
 
         return index;
@@ -81,11 +82,11 @@ internal sealed class DrawingList
     internal int Dash(ReadOnlySpan<double> lengths)
     {
         string key = new(MemoryMarshal.Cast<double, char>(lengths));
-        if (!dashIndex.TryGetValue(key, out int index))
+        if (!_dashIndex.TryGetValue(key, out int index))
         {
-            index = dashes.Count;
-            dashes.Add(lengths.ToArray());
-            dashIndex.Add(key, index);
+            index = _dashes.Count;
+            _dashes.Add(lengths.ToArray());
+            _dashIndex.Add(key, index);
         }
 
         return index;
@@ -94,11 +95,11 @@ internal sealed class DrawingList
     /// <summary>Keeps one copy of each look.</summary>
     internal int Look(LineLook look)
     {
-        if (!lookIndex.TryGetValue(look, out int index))
+        if (!_lookIndex.TryGetValue(look, out int index))
         {
-            looks.Add(look);
-            index = looks.Count;
-            lookIndex.Add(look, index);
+            _looks.Add(look);
+            index = _looks.Count;
+            _lookIndex.Add(look, index);
         }
 
         return index;
@@ -114,7 +115,7 @@ internal sealed class DrawingList
             return;
         }
 
-        ref DisplayItem item = ref items[index];
+        ref DisplayItem item = ref _items[index];
         item.LineWeight = style.LineWeight;
         item.WeightInUnits = style.WeightInUnits;
         item.Look = style.Look;
@@ -129,13 +130,17 @@ internal sealed class DrawingList
             return;
         }
 
-        items[index].EvenOdd = evenOdd;
+        _items[index].EvenOdd = evenOdd;
         if (gradient != null)
         {
-            items[index].Extra = gradients.Count;
-            gradients.Add(ColorMap is null
+            _items[index].Extra = _gradients.Count;
+            _gradients.Add(ColorMap is null
                 ? gradient
-                : gradient with { Stops = Array.ConvertAll(gradient.Stops, stop => stop with { Color = ColorMap(stop.Color) }) });
+                : gradient with
+                {
+                    Stops = Array.ConvertAll(gradient.Stops, stop =>
+                stop with { Color = ColorMap(stop.Color) })
+                });
         }
     }
 
@@ -147,8 +152,8 @@ internal sealed class DrawingList
         }
 
         ref DisplayItem item = ref NewItem(DisplayKind.Text, color, layer);
-        item.Extra = texts.Count;
-        texts.Add(run);
+        item.Extra = _texts.Count;
+        _texts.Add(run);
     }
 
     internal void Image(PlacedImage image, int layer, in Bounds2 extent)
@@ -159,8 +164,8 @@ internal sealed class DrawingList
         }
 
         ref DisplayItem item = ref NewItem(DisplayKind.Image, default, layer);
-        item.Extra = images.Count;
-        images.Add(ColorMap is null ? image : Mapped(image));
+        item.Extra = _images.Count;
+        _images.Add(ColorMap is null ? image : Mapped(image));
     }
 
     private PlacedImage Mapped(PlacedImage image)
@@ -178,8 +183,8 @@ internal sealed class DrawingList
     /// <summary>Everything up to the matching pop shows only inside the path.</summary>
     internal void PushClip(PathBuffer path, bool evenOdd)
     {
-        Bounds2 region = clips.Count > 0 ? path.Bounds.Clip(clips[^1]) : path.Bounds;
-        clips.Add(region);
+        Bounds2 region = _clips.Count > 0 ? path.Bounds.Clip(_clips[^1]) : path.Bounds;
+        _clips.Add(region);
         ref DisplayItem item = ref NewItem(DisplayKind.PushClip, default, -1);
         item.EvenOdd = evenOdd;
         Store(path, ref item);
@@ -187,13 +192,13 @@ internal sealed class DrawingList
 
     internal void PopClip()
     {
-        clips.RemoveAt(clips.Count - 1);
+        _clips.RemoveAt(_clips.Count - 1);
         NewItem(DisplayKind.PopClip, default, -1);
     }
 
     private bool AddPath(PathBuffer path, DisplayKind kind, Rgba color, int layer, out int index)
     {
-        index = itemCount;
+        index = _itemCount;
         if (!path.Bounds.IsFinite || !AddBounds(path.Bounds))
         {
             return false;
@@ -207,25 +212,33 @@ internal sealed class DrawingList
     /// <summary>Says whether any of the box is visible, and widens the extents by that part.</summary>
     private bool AddBounds(in Bounds2 box)
     {
-        Bounds2 visible = clips.Count > 0 ? box.Clip(clips[^1]) : box;
+        Bounds2 visible = _clips.Count > 0 ? box.Clip(_clips[^1]) : box;
         if (visible.IsEmpty)
         {
             return false;
         }
 
-        bounds.Add(visible);
+        _bounds.Add(visible);
         return true;
     }
 
     private ref DisplayItem NewItem(DisplayKind kind, Rgba color, int layer)
     {
-        if (itemCount == items.Length)
+        if (_itemCount == _items.Length)
         {
-            Array.Resize(ref items, itemCount * 2);
+            Array.Resize(ref _items, _itemCount * 2);
         }
 
-        ref DisplayItem item = ref items[itemCount++];
-        item = new DisplayItem { Kind = kind, Color = ColorMap?.Invoke(color) ?? color, Layer = layer, Dash = -1, Extra = -1 };
+        ref DisplayItem item = ref _items[_itemCount++];
+        item = new DisplayItem
+        {
+            Kind = kind,
+            Color = ColorMap?.Invoke(color)
+            ?? color,
+            Layer = layer,
+            Dash = -1,
+            Extra = -1
+        };
         return ref item;
     }
 
@@ -233,21 +246,21 @@ internal sealed class DrawingList
     {
         ReadOnlySpan<PathVerb> newVerbs = path.Verbs;
         ReadOnlySpan<double> newCoords = path.Coords;
-        if (coordCount + (long)newCoords.Length > MaxCoords)
+        if (_coordCount + (long)newCoords.Length > MaxCoords)
         {
             throw new RenderException(
                 $"The drawing needs more than {MaxCoords} coordinates on one page; it is too large to be rendered.");
         }
 
-        Grow(ref verbs, verbCount + newVerbs.Length);
-        Grow(ref coords, coordCount + newCoords.Length);
-        newVerbs.CopyTo(verbs.AsSpan(verbCount));
-        newCoords.CopyTo(coords.AsSpan(coordCount));
-        item.FirstVerb = verbCount;
+        Grow(ref _verbs, _verbCount + newVerbs.Length);
+        Grow(ref _coords, _coordCount + newCoords.Length);
+        newVerbs.CopyTo(_verbs.AsSpan(_verbCount));
+        newCoords.CopyTo(_coords.AsSpan(_coordCount));
+        item.FirstVerb = _verbCount;
         item.VerbCount = newVerbs.Length;
-        item.FirstCoord = coordCount;
-        verbCount += newVerbs.Length;
-        coordCount += newCoords.Length;
+        item.FirstCoord = _coordCount;
+        _verbCount += newVerbs.Length;
+        _coordCount += newCoords.Length;
     }
 
     private static void Grow<T>(ref T[] array, int needed)

@@ -1,9 +1,9 @@
 using System;
-using Korvan.CAD.Rendering;
 
 namespace Korvan.CAD.DisplayList;
 
-/// <summary>A drawing that cannot be rendered, or a device that failed; the exporter turns it into the public one.</summary>
+/// <summary>A drawing that cannot be rendered, or a device that failed; the exporter turns it into the public
+/// one.</summary>
 internal sealed class RenderException : Exception
 {
     internal RenderException(string message)

@@ -1,8 +1,6 @@
 using System;
 using System.Globalization;
 using System.Text;
-using Korvan.CAD.FileFormats.Cad.Dxf;
-using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.Encodings;
 

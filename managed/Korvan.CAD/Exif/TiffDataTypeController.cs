@@ -1,4 +1,3 @@
-using System;
 using System.Globalization;
 using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff;

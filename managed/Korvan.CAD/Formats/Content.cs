@@ -1,6 +1,5 @@
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cgm;
-using Korvan.CAD.FileFormats.Ifc;
 using Korvan.CAD.FileFormats.Ifc.Header;
 using Korvan.CAD.FileFormats.Ifc.Model;
 using Korvan.CAD.ImageOptions;

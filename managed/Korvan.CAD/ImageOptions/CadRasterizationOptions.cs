@@ -1,4 +1,3 @@
-using System;
 using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats;
 using Korvan.CAD.FileFormats.Cad;

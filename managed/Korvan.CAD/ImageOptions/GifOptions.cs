@@ -9,7 +9,7 @@ public class GifOptions : ImageOptionsBase
 {
     private int _maxColors = 256;
     private int _frameTime = 1000;
-    private int _loopCount = 0;
+    private int _loopCount;
 
     /// <summary>Creates options with default values.</summary>
     public GifOptions()

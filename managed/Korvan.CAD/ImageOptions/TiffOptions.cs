@@ -2,8 +2,6 @@ using System;
 using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff;
 using Korvan.CAD.FileFormats.Tiff.Enums;
-using Korvan.CAD.Raster.Codecs;
-using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.ImageOptions;
 

@@ -1,7 +1,6 @@
 using System;
 using System.Runtime.CompilerServices;
 using Korvan.CAD.Binding;
-using Korvan.CAD.FileFormats;
 
 namespace Korvan.CAD.ImageOptions;
 

@@ -31,7 +31,8 @@ internal sealed class ExportContext
 
     /// <summary>Gets the pixels an inch of output that consists of pixels.</summary>
     internal double Resolution =>
-        Options.ResolutionSettings is { HorizontalResolution: > 0 } set ? set.HorizontalResolution : DefaultPixelsPerInch;
+        Options.ResolutionSettings is { HorizontalResolution: > 0 } set ? set.HorizontalResolution
+            : DefaultPixelsPerInch;
 
     /// <summary>Gets what long work calls from time to time; it throws when the time of the options is over. Nothing
     /// where they set no limit.</summary>

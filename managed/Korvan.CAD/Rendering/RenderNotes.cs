@@ -1,6 +1,6 @@
 using System.Collections.Generic;
-using Korvan.CAD.ImageOptions;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering;

@@ -1,5 +1,3 @@
-using System;
-
 namespace Korvan.WrpGen.Naming;
 
 /// <summary>

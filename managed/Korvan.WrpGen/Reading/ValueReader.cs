@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using System.Linq;
 using Korvan.WrpGen.Model;
 
 namespace Korvan.WrpGen.Reading;

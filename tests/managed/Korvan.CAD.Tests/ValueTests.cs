@@ -22,8 +22,11 @@ public class ValueTests
             Assert.Equal(color, Color.FromArgb(color.A, Color.FromArgb(color.R, color.G, color.B)));
         }
 
-        Assert.Equal((0x12, 0x34, 0x56, 0x78), (Color.FromArgb(0x12345678).A, Color.FromArgb(0x12345678).R, Color.FromArgb(0x12345678).G, Color.FromArgb(0x12345678).B));
-        Assert.Equal((1f, 0f, 0.5f), (Color.White.GetBrightness(), Color.Black.GetBrightness(), Color.Lime.GetBrightness()));
+        Assert.Equal((0x12, 0x34, 0x56, 0x78),
+            (Color.FromArgb(0x12345678).A, Color.FromArgb(0x12345678).R, Color.FromArgb(0x12345678).G,
+                Color.FromArgb(0x12345678).B));
+        Assert.Equal((1f, 0f, 0.5f),
+            (Color.White.GetBrightness(), Color.Black.GetBrightness(), Color.Lime.GetBrightness()));
     }
 
     [Theory]
@@ -37,7 +40,8 @@ public class ValueTests
     [Fact]
     public void Every_named_colour_is_found_by_its_name_and_value()
     {
-        PropertyInfo[] named = [.. typeof(Color).GetProperties(BindingFlags.Public | BindingFlags.Static).Where(property => property.Name != "Empty")];
+        PropertyInfo[] named = [.. typeof(Color).GetProperties(BindingFlags.Public | BindingFlags.Static)
+            .Where(property => property.Name != "Empty")];
         Assert.True(named.Length > 140);
         foreach (PropertyInfo property in named)
         {
@@ -71,12 +75,15 @@ public class ValueTests
         Assert.Equal((new Point(1, 2), new Size(3, 4)), (rectangle.Location, rectangle.Size));
         Rectangle[] others = [new(0, 2, 3, 4), new(1, 0, 3, 4), new(1, 2, 0, 4), new(1, 2, 3, 0)];
         Assert.All(others, other => Assert.True(other != rectangle && !other.Equals((object)rectangle)));
-        Assert.True(rectangle == new Rectangle(1, 2, 3, 4) && rectangle.GetHashCode() == new Rectangle(1, 2, 3, 4).GetHashCode());
+        Assert.True(rectangle == new Rectangle(1, 2, 3, 4)
+            && rectangle.GetHashCode() == new Rectangle(1, 2, 3, 4).GetHashCode());
         RectangleF fractions = new(new PointF(0.5f, 1.5f), new SizeF(2f, 3f));
         Assert.Equal((2.5f, 4.5f), (fractions.Right, fractions.Bottom));
-        Assert.True(new RectangleF(0, 0, 0, 1e-30f) != RectangleF.Empty && Rectangle.Empty.IsEmpty && !new Rectangle(0, 0, 0, 1).IsEmpty);
+        Assert.True(new RectangleF(0, 0, 0, 1e-30f) != RectangleF.Empty && Rectangle.Empty.IsEmpty
+            && !new Rectangle(0, 0, 0, 1).IsEmpty);
         Assert.Equal(5f, new Vector2F(3, -4).Length);
-        Assert.True(new Point(1, 2) != new Point(2, 1) && new Size(1, 2) != new Size(2, 1) && new PointF(1, 2) != new PointF(2, 1) && new SizeF(1, 2) != new SizeF(2, 1));
+        Assert.True(new Point(1, 2) != new Point(2, 1) && new Size(1, 2) != new Size(2, 1)
+            && new PointF(1, 2) != new PointF(2, 1) && new SizeF(1, 2) != new SizeF(2, 1));
     }
 
     [Fact]
@@ -86,14 +93,18 @@ public class ValueTests
         try
         {
             System.Globalization.NumberFormatInfo comma = new() { NumberDecimalSeparator = ",", NegativeSign = "~" };
-            System.Globalization.CultureInfo.CurrentCulture = new System.Globalization.CultureInfo(string.Empty) { NumberFormat = comma };
+            System.Globalization.CultureInfo.CurrentCulture = new System.Globalization
+                .CultureInfo(string.Empty)
+            { NumberFormat = comma };
             Assert.Equal("RectangleF(-0.5, 1.5, 2, 3)", new RectangleF(-0.5f, 1.5f, 2, 3).ToString());
             CadImage image = new();
             image.AddEntity(new Korvan.CAD.FileFormats.Cad.CadObjects.CadCircle { Radius = -1.5, LineWeight = -3 });
             string saved = FileFormats.Cad.DxfText.Save(image);
             Assert.Contains("\n-1.5\r", saved);
             Assert.Contains("\n-3\r", saved);
-            Assert.Equal(-1.5, ((Korvan.CAD.FileFormats.Cad.CadObjects.CadCircle)FileFormats.Cad.DxfText.Load(saved).Entities[0]).Radius);
+            Assert.Equal(-1.5,
+                ((Korvan.CAD.FileFormats.Cad.CadObjects.CadCircle)FileFormats.Cad.DxfText
+                    .Load(saved).Entities[0]).Radius);
         }
         finally
         {
@@ -105,11 +116,16 @@ public class ValueTests
     public void Options_begin_with_what_most_drawings_need()
     {
         CadRasterizationOptions raster = new();
-        Assert.Equal((0f, 0f, 1f, 0f, 0f), (raster.PageWidth, raster.PageHeight, raster.Zoom, raster.BorderX, raster.BorderY));
-        Assert.Equal((Color.White, Color.Black, CadDrawTypeMode.UseObjectColor), (raster.BackgroundColor, raster.DrawColor, raster.DrawType));
-        Assert.Equal((ScaleType.GrowToFit, true, false, UnitType.Unitless), (raster.ScaleMethod, raster.AutomaticLayoutsScaling, raster.NoScaling, raster.UnitType));
-        Assert.Equal((FileFormat.Png, FileFormat.Pdf, FileFormat.Svg), (new PngOptions().TargetFormat, new PdfOptions().TargetFormat, new SvgOptions().TargetFormat));
-        Assert.Equal((96.0, 96.0), (new ResolutionSetting().HorizontalResolution, new ResolutionSetting().VerticalResolution));
+        Assert.Equal((0f, 0f, 1f, 0f, 0f),
+            (raster.PageWidth, raster.PageHeight, raster.Zoom, raster.BorderX, raster.BorderY));
+        Assert.Equal((Color.White, Color.Black, CadDrawTypeMode.UseObjectColor),
+            (raster.BackgroundColor, raster.DrawColor, raster.DrawType));
+        Assert.Equal((ScaleType.GrowToFit, true, false, UnitType.Unitless),
+            (raster.ScaleMethod, raster.AutomaticLayoutsScaling, raster.NoScaling, raster.UnitType));
+        Assert.Equal((FileFormat.Png, FileFormat.Pdf, FileFormat.Svg),
+            (new PngOptions().TargetFormat, new PdfOptions().TargetFormat, new SvgOptions().TargetFormat));
+        Assert.Equal((96.0, 96.0),
+            (new ResolutionSetting().HorizontalResolution, new ResolutionSetting().VerticalResolution));
         Assert.False(new LoadOptions().IgnoreErrors);
         raster.PageSize = new SizeF(3, 4);
         Assert.Equal((3f, 4f), (raster.PageWidth, raster.PageHeight));

@@ -2,7 +2,6 @@ using System.Collections.Generic;
 using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 

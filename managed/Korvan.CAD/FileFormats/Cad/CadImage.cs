@@ -1,11 +1,9 @@
-using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.Annotations;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;
-using Korvan.CAD.Collections;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;

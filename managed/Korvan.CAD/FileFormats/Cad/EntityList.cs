@@ -1,4 +1,3 @@
-using System;
 using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.CadObjects;

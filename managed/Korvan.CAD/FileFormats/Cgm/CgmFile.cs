@@ -4,7 +4,6 @@ using System.IO;
 using System.Linq;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
-using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.FileFormats.Cgm.Export;

@@ -1,5 +1,4 @@
 using System;
-using System.IO;
 using System.Linq;
 using Korvan.CAD.Binding;
 using Korvan.CAD.DisplayList;

@@ -1,6 +1,4 @@
-using System;
 using System.Collections.Generic;
-using System.IO;
 using System.Linq;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;

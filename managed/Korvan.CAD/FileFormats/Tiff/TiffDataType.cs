@@ -1,4 +1,3 @@
-using System;
 using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.FileFormats.Tiff.FileManagement;

@@ -2,8 +2,6 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Raster.Codecs;
-using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.FileFormats.Tiff;
 

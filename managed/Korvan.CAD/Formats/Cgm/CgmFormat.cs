@@ -5,11 +5,11 @@ using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Cgm.Import;
 using Korvan.CAD.Formats.Pages;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Input;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Export;
 using Korvan.CAD.Rendering.Scene;
-using Korvan.CAD.Input;
 
 namespace Korvan.CAD.Formats.Cgm;
 

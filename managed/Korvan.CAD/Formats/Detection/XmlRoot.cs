@@ -1,4 +1,5 @@
 using System;
+using System.Buffers;
 using System.Text;
 using Korvan.CAD.Input;
 
@@ -8,6 +9,8 @@ namespace Korvan.CAD.Formats.Detection;
 internal static class XmlRoot
 {
     private const byte NameEnd = (byte)'>';
+
+    private static readonly SearchValues<byte> NameEnds = SearchValues.Create(" \t\r\n/>"u8);
 
     /// <summary>Returns whether a source is XML with a root element of a name, in any namespace.</summary>
     internal static bool Is(SourceWindow source, string name)
@@ -60,7 +63,7 @@ internal static class XmlRoot
 
     private static bool IsNamed(ReadOnlySpan<byte> tag, byte[] wanted)
     {
-        int end = tag.IndexOfAny(" \t\r\n/>"u8);
+        int end = tag.IndexOfAny(NameEnds);
         ReadOnlySpan<byte> name = end < 0 ? tag : tag[..end];
         int prefix = name.IndexOf((byte)':');
         return name[(prefix + 1)..].SequenceEqual(wanted);

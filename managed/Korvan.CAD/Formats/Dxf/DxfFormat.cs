@@ -20,7 +20,8 @@ internal static class DxfFormat
         [
             FileFormat.DxfCadR010, FileFormat.DxfCadR012, FileFormat.DxfCadR014, FileFormat.DxfCadR015,
             FileFormat.DxfCadR021, FileFormat.DxfCadR0221, FileFormat.DxfCadR0222, FileFormat.DxfCadR025,
-            FileFormat.DxfCadR026, FileFormat.DxfCadR9, FileFormat.DxfCadR10, FileFormat.DxfCadR11, FileFormat.DxfCadR13,
+            FileFormat.DxfCadR026, FileFormat.DxfCadR9, FileFormat.DxfCadR10, FileFormat.DxfCadR11,
+                FileFormat.DxfCadR13,
             FileFormat.DxfCadR14, FileFormat.DxfCadR2000, FileFormat.DxfCadR2004, FileFormat.DxfCadR2007,
             FileFormat.DxfCadR2010, FileFormat.DxfCadR2013,
         ],

@@ -5,7 +5,6 @@ using System.IO.Compression;
 using System.Linq;
 using System.Text;
 using Korvan.CAD.CadExceptions.ImageFormats;
-using Korvan.CAD.FileFormats.Ifc;
 using Korvan.CAD.FileFormats.Ifc.Model;
 using Korvan.CAD.FileFormats.Ifc.Xml;
 using Korvan.CAD.Formats.Step;

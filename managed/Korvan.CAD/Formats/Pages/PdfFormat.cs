@@ -1,6 +1,5 @@
 using System;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Export;
 
 namespace Korvan.CAD.Formats.Pages;

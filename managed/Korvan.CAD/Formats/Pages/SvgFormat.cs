@@ -1,6 +1,5 @@
-using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering;
 using Korvan.CAD.Formats.Detection;
+using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Export;
 
 namespace Korvan.CAD.Formats.Pages;

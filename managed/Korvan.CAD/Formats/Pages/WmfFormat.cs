@@ -1,5 +1,4 @@
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Export;
 

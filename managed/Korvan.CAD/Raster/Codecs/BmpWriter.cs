@@ -1,6 +1,5 @@
 using System;
 using System.Buffers.Binary;
-using System.Collections.Generic;
 using System.IO;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions.ImageFormats;

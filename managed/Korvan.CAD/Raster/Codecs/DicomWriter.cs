@@ -2,13 +2,13 @@ using System;
 using System.Collections.Generic;
 using System.Globalization;
 using System.IO;
-using J2K = Korvan.CAD.FileFormats.Jpeg2000.Jpeg2000Codec;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Dicom;
 using Korvan.CAD.FileFormats.Jpeg;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Raster.Pixels;
+using J2K = Korvan.CAD.FileFormats.Jpeg2000.Jpeg2000Codec;
 
 namespace Korvan.CAD.Raster.Codecs;
 

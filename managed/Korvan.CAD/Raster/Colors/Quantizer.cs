@@ -38,8 +38,7 @@ internal static class Quantizer
     {
         int red = Math.Max(1, (int)Math.Cbrt(maxColors + 0.5));
         int blue = red;
-        int green = red;
-        green = Math.Max(1, maxColors / (red * blue));
+        int green = Math.Max(1, maxColors / (red * blue));
         red = Math.Max(red, maxColors / (green * blue));
         var colors = new List<int>(red * green * blue);
         for (int i = 0; i < red * green * blue; i++)

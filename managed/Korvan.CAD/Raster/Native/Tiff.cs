@@ -184,7 +184,7 @@ internal static unsafe partial class Tiff
     internal static string Message(byte* format, nint arguments)
     {
         byte* text = stackalloc byte[512];
-        Format(text, 512, format, arguments);
+        _ = Format(text, 512, format, arguments);
         return Marshal.PtrToStringUTF8((nint)text) ?? "";
     }
 

@@ -1,7 +1,5 @@
 using System;
 using System.Runtime.Intrinsics;
-using Korvan.CAD.Raster.Codecs;
-using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Pixels;
 

@@ -3,7 +3,6 @@ using System.Buffers.Binary;
 using System.Runtime.InteropServices;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
-using Korvan.CAD.Raster.Codecs;
 
 namespace Korvan.CAD.Raster.Pixels;
 

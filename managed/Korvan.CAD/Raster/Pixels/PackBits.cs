@@ -1,7 +1,6 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.CadExceptions.Compressors;
-using Korvan.CAD.Raster.Codecs;
 
 namespace Korvan.CAD.Raster.Pixels;
 

@@ -32,27 +32,27 @@ internal sealed unsafe class CairoPainter
         [InterpolationMode.NearestNeighbor] = CairoFilter.Nearest,
     };
 
-    private readonly nint cr;
-    private readonly TextEngine engine;
-    private readonly DrawingList list;
-    private readonly PaintSettings settings;
-    private readonly Affine2 map;
-    private readonly double scale;
-    private Rgba color;
-    private bool hasColor;
-    private double lineWidth = -1;
-    private LineLook? look;
-    private int dash = -1;
-    private double dashOffset;
+    private readonly nint _cr;
+    private readonly TextEngine _engine;
+    private readonly DrawingList _list;
+    private readonly PaintSettings _settings;
+    private readonly Affine2 _map;
+    private readonly double _scale;
+    private Rgba _color;
+    private bool _hasColor;
+    private double _lineWidth = -1;
+    private LineLook? _look;
+    private int _dash = -1;
+    private double _dashOffset;
 
     private CairoPainter(nint cr, TextEngine engine, DrawingList list, in PaintSettings settings)
     {
-        this.cr = cr;
-        this.engine = engine;
-        this.list = list;
-        this.settings = settings;
-        map = settings.ToDevice;
-        scale = Math.Sqrt(Math.Abs(map.Determinant));
+        _cr = cr;
+        _engine = engine;
+        _list = list;
+        _settings = settings;
+        _map = settings.ToDevice;
+        _scale = Math.Sqrt(Math.Abs(_map.Determinant));
     }
 
     /// <summary>Paints a page with its background and what lies over it.</summary>
@@ -61,7 +61,8 @@ internal sealed unsafe class CairoPainter
         Paint(cr, engine, page.List, page.Settings);
         if (page.Overlay != null)
         {
-            Paint(cr, engine, page.Overlay, page.Settings with { ToDevice = Affine2.Identity, PaintBackground = false, Clip = null });
+            Paint(cr, engine, page.Overlay,
+                page.Settings with { ToDevice = Affine2.Identity, PaintBackground = false, Clip = null });
         }
     }
 
@@ -81,24 +82,24 @@ internal sealed unsafe class CairoPainter
 
     private void Start()
     {
-        if (settings.PaintBackground)
+        if (_settings.PaintBackground)
         {
-            SetColor(settings.Background);
-            Cairo.Paint(cr);
+            SetColor(_settings.Background);
+            Cairo.Paint(_cr);
         }
 
-        if (settings.Clip is Bounds2 clip)
+        if (_settings.Clip is Bounds2 clip)
         {
-            Vec2 a = map.Point(clip.MinX, clip.MinY);
-            Vec2 b = map.Point(clip.MaxX, clip.MaxY);
-            Cairo.Rectangle(cr, Math.Min(a.X, b.X), Math.Min(a.Y, b.Y), Math.Abs(b.X - a.X), Math.Abs(b.Y - a.Y));
-            Cairo.Clip(cr);
+            Vec2 a = _map.Point(clip.MinX, clip.MinY);
+            Vec2 b = _map.Point(clip.MaxX, clip.MaxY);
+            Cairo.Rectangle(_cr, Math.Min(a.X, b.X), Math.Min(a.Y, b.Y), Math.Abs(b.X - a.X), Math.Abs(b.Y - a.Y));
+            Cairo.Clip(_cr);
         }
 
-        Cairo.SetTolerance(cr, DefaultTolerance * settings.Coarseness);
-        if (settings.Sharp)
+        Cairo.SetTolerance(_cr, DefaultTolerance * _settings.Coarseness);
+        if (_settings.Sharp)
         {
-            Cairo.SetAntialias(cr, CairoAntialias.None);
+            Cairo.SetAntialias(_cr, CairoAntialias.None);
         }
     }
 
@@ -122,7 +123,7 @@ internal sealed unsafe class CairoPainter
                 PushClip(item);
                 break;
             case DisplayKind.PopClip:
-                Cairo.Restore(cr);
+                Cairo.Restore(_cr);
                 ForgetState();
                 break;
         }
@@ -132,29 +133,29 @@ internal sealed unsafe class CairoPainter
     {
         Trace(item);
         SetColor(item.Color);
-        double width = settings.WidthOf(item);
-        if (width != lineWidth)
+        double width = _settings.WidthOf(item);
+        if (width != _lineWidth)
         {
-            Cairo.SetLineWidth(cr, width);
-            lineWidth = width;
+            Cairo.SetLineWidth(_cr, width);
+            _lineWidth = width;
         }
 
-        SetLook(list.LookOf(item) ?? settings.Look);
+        SetLook(_list.LookOf(item) ?? _settings.Look);
         SetDash(item);
-        Cairo.Stroke(cr);
+        Cairo.Stroke(_cr);
     }
 
     private void SetLook(LineLook value)
     {
-        if (look == value)
+        if (_look == value)
         {
             return;
         }
 
-        Cairo.SetLineCap(cr, (CairoLineCap)value.Cap);
-        Cairo.SetLineJoin(cr, (CairoLineJoin)value.Join);
-        Cairo.SetMiterLimit(cr, value.MiterLimit);
-        look = value;
+        Cairo.SetLineCap(_cr, (CairoLineCap)value.Cap);
+        Cairo.SetLineJoin(_cr, (CairoLineJoin)value.Join);
+        Cairo.SetMiterLimit(_cr, value.MiterLimit);
+        _look = value;
     }
 
     private void SetDash(in DisplayItem item)
@@ -165,17 +166,17 @@ internal sealed unsafe class CairoPainter
             return;
         }
 
-        if (item.Dash == dash && item.DashOffset == dashOffset)
+        if (item.Dash == _dash && item.DashOffset == _dashOffset)
         {
             return;
         }
 
-        double[] lengths = list.DashOf(item);
+        double[] lengths = _list.DashOf(item);
         Span<double> scaled = stackalloc double[lengths.Length <= 64 ? lengths.Length : 0];
         double period = 0;
         for (int i = 0; i < scaled.Length; i++)
         {
-            scaled[i] = lengths[i] * scale;
+            scaled[i] = lengths[i] * _scale;
             period += scaled[i];
         }
 
@@ -187,43 +188,43 @@ internal sealed unsafe class CairoPainter
 
         fixed (double* p = scaled)
         {
-            Cairo.SetDash(cr, p, scaled.Length, item.DashOffset * scale);
+            Cairo.SetDash(_cr, p, scaled.Length, item.DashOffset * _scale);
         }
 
-        dash = item.Dash;
-        dashOffset = item.DashOffset;
+        _dash = item.Dash;
+        _dashOffset = item.DashOffset;
     }
 
     private void ClearDash()
     {
-        if (dash >= 0)
+        if (_dash >= 0)
         {
-            Cairo.SetDash(cr, null, 0, 0);
-            dash = -1;
+            Cairo.SetDash(_cr, null, 0, 0);
+            _dash = -1;
         }
     }
 
     private void Fill(in DisplayItem item)
     {
         Trace(item);
-        Cairo.SetFillRule(cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
+        Cairo.SetFillRule(_cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
         if (item.Extra >= 0)
         {
-            FillGradient(list.GradientOf(item));
+            FillGradient(_list.GradientOf(item));
             return;
         }
 
         SetColor(item.Color);
-        Cairo.Fill(cr);
+        Cairo.Fill(_cr);
     }
 
     private void FillGradient(Gradient gradient)
     {
-        Affine2 toDevice = map * gradient.Matrix;
+        Affine2 toDevice = _map * gradient.Matrix;
         if (!toDevice.TryInvert(out Affine2 inverse))
         {
             SetColor(gradient.Stops[0].Color);
-            Cairo.Fill(cr);
+            Cairo.Fill(_cr);
             return;
         }
 
@@ -234,20 +235,21 @@ internal sealed unsafe class CairoPainter
         foreach (GradientStop stop in gradient.Stops)
         {
             Cairo.PatternAddColorStop(
-                pattern, stop.Offset, stop.Color.R / 255.0, stop.Color.G / 255.0, stop.Color.B / 255.0, stop.Color.A / 255.0);
+                pattern, stop.Offset, stop.Color.R / 255.0, stop.Color.G / 255.0, stop.Color.B / 255.0,
+                    stop.Color.A / 255.0);
         }
 
         CairoMatrix matrix = ToCairo(inverse);
         Cairo.PatternSetMatrix(pattern, &matrix);
-        Cairo.SetSource(cr, pattern);
-        Cairo.Fill(cr);
-        hasColor = false;
+        Cairo.SetSource(_cr, pattern);
+        Cairo.Fill(_cr);
+        _hasColor = false;
     }
 
     private void Text(in DisplayItem item)
     {
-        TextRun run = list.TextOf(item);
-        Affine2 toDevice = map * run.Matrix;
+        TextRun run = _list.TextOf(item);
+        Affine2 toDevice = _map * run.Matrix;
         double area = Math.Abs(toDevice.Determinant);
         if (!(area > SmallestText * SmallestText) || !IsNear(toDevice.X0, toDevice.Y0))
         {
@@ -255,30 +257,30 @@ internal sealed unsafe class CairoPainter
         }
 
         SetColor(item.Color);
-        Cairo.Save(cr);
+        Cairo.Save(_cr);
 
         // The run's y runs up, pango's down.
         CairoMatrix matrix = ToCairo(toDevice);
         matrix.Xy = -matrix.Xy;
         matrix.Yy = -matrix.Yy;
-        Cairo.Transform(cr, &matrix);
-        if (settings.ExactText)
+        Cairo.Transform(_cr, &matrix);
+        if (_settings.ExactText)
         {
-            engine.Trace(cr, run);
-            Cairo.SetFillRule(cr, CairoFillRule.Winding);
-            Cairo.Fill(cr);
+            _engine.Trace(_cr, run);
+            Cairo.SetFillRule(_cr, CairoFillRule.Winding);
+            Cairo.Fill(_cr);
         }
         else
         {
-            engine.Show(cr, run);
+            _engine.Show(_cr, run);
         }
 
-        Cairo.Restore(cr);
+        Cairo.Restore(_cr);
     }
 
     private void Image(in DisplayItem item)
     {
-        PlacedImage image = list.ImageOf(item);
+        PlacedImage image = _list.ImageOf(item);
         nint surface = Cairo.ImageSurfaceCreate(CairoFormat.Argb32, image.Width, image.Height);
         using var owner = new NativeHandle(surface, &Cairo.SurfaceDestroy);
         Cairo.Check(Cairo.SurfaceStatus(surface), "placing an image");
@@ -286,65 +288,66 @@ internal sealed unsafe class CairoPainter
         byte* data = Cairo.ImageSurfaceGetData(surface);
         for (int y = 0; y < image.Height; y++)
         {
-            image.Pixels.AsSpan(y * image.Width * 4, image.Width * 4).CopyTo(new Span<byte>(data + ((long)y * stride), stride));
+            image.Pixels.AsSpan(y * image.Width * 4,
+                image.Width * 4).CopyTo(new Span<byte>(data + ((long)y * stride), stride));
         }
 
         Cairo.SurfaceMarkDirty(surface);
-        Cairo.Save(cr);
+        Cairo.Save(_cr);
         var toUnit = new Affine2(1.0 / image.Width, 0, 0, -1.0 / image.Height, 0, 1);
-        CairoMatrix matrix = ToCairo(map * image.Matrix * toUnit);
-        Cairo.Transform(cr, &matrix);
-        Cairo.SetSourceSurface(cr, surface, 0, 0);
-        if (Filters.TryGetValue(settings.Interpolation, out CairoFilter filter))
+        CairoMatrix matrix = ToCairo(_map * image.Matrix * toUnit);
+        Cairo.Transform(_cr, &matrix);
+        Cairo.SetSourceSurface(_cr, surface, 0, 0);
+        if (Filters.TryGetValue(_settings.Interpolation, out CairoFilter filter))
         {
-            Cairo.PatternSetFilter(Cairo.GetSource(cr), filter);
+            Cairo.PatternSetFilter(Cairo.GetSource(_cr), filter);
         }
         else if (image.Sharp)
         {
-            Cairo.PatternSetFilter(Cairo.GetSource(cr), CairoFilter.Nearest);
+            Cairo.PatternSetFilter(Cairo.GetSource(_cr), CairoFilter.Nearest);
         }
 
-        Cairo.PaintWithAlpha(cr, image.Opacity);
-        Cairo.Restore(cr);
-        hasColor = false;
+        Cairo.PaintWithAlpha(_cr, image.Opacity);
+        Cairo.Restore(_cr);
+        _hasColor = false;
     }
 
     private void PushClip(in DisplayItem item)
     {
-        Cairo.Save(cr);
+        Cairo.Save(_cr);
         Trace(item);
-        Cairo.SetFillRule(cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
-        Cairo.Clip(cr);
+        Cairo.SetFillRule(_cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
+        Cairo.Clip(_cr);
     }
 
     private void Trace(in DisplayItem item)
     {
-        Cairo.NewPath(cr);
-        ReadOnlySpan<double> c = list.CoordsOf(item);
+        Cairo.NewPath(_cr);
+        ReadOnlySpan<double> c = _list.CoordsOf(item);
         int at = 0;
-        foreach (PathVerb verb in list.VerbsOf(item))
+        foreach (PathVerb verb in _list.VerbsOf(item))
         {
             switch (verb)
             {
                 case PathVerb.Move:
                     Map(c, at, out double mx, out double my);
-                    Cairo.MoveTo(cr, mx, my);
+                    Cairo.MoveTo(_cr, mx, my);
                     at += 2;
                     break;
                 case PathVerb.Line:
                     Map(c, at, out double lx, out double ly);
-                    Cairo.LineTo(cr, lx, ly);
+                    Cairo.LineTo(_cr, lx, ly);
                     at += 2;
                     break;
                 case PathVerb.Curve:
                     Map(c, at, out double x1, out double y1);
                     Map(c, at + 2, out double x2, out double y2);
                     Map(c, at + 4, out double x3, out double y3);
-                    Cairo.CurveTo(cr, x1, y1, x2, y2, x3, y3);
+                    Cairo.CurveTo(_cr, x1, y1, x2, y2, x3, y3);
                     at += 6;
                     break;
                 default:
-                    Cairo.ClosePath(cr);
+                    Cairo.ClosePath(_cr);
                     break;
             }
         }
@@ -354,29 +357,29 @@ internal sealed unsafe class CairoPainter
     {
         double u = c[at];
         double v = c[at + 1];
-        x = Math.Clamp((map.Xx * u) + (map.Xy * v) + map.X0, -FarAway, FarAway);
-        y = Math.Clamp((map.Yx * u) + (map.Yy * v) + map.Y0, -FarAway, FarAway);
+        x = Math.Clamp((_map.Xx * u) + (_map.Xy * v) + _map.X0, -FarAway, FarAway);
+        y = Math.Clamp((_map.Yx * u) + (_map.Yy * v) + _map.Y0, -FarAway, FarAway);
     }
 
     private static bool IsNear(double x, double y) => Math.Abs(x) < FarAway && Math.Abs(y) < FarAway;
 
     private void SetColor(Rgba value)
     {
-        if (!hasColor || value != color)
+        if (!_hasColor || value != _color)
         {
-            Cairo.SetSourceRgba(cr, value.R / 255.0, value.G / 255.0, value.B / 255.0, value.A / 255.0);
-            color = value;
-            hasColor = true;
+            Cairo.SetSourceRgba(_cr, value.R / 255.0, value.G / 255.0, value.B / 255.0, value.A / 255.0);
+            _color = value;
+            _hasColor = true;
         }
     }
 
     /// <summary>After a restore the context is back at what held before the clip.</summary>
     private void ForgetState()
     {
-        hasColor = false;
-        lineWidth = -1;
-        look = null;
-        dash = int.MaxValue;
+        _hasColor = false;
+        _lineWidth = -1;
+        _look = null;
+        _dash = int.MaxValue;
         ClearDash();
     }
 

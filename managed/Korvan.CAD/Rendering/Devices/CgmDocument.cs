@@ -2,14 +2,14 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.FileFormats.Cgm.Export;
-using Korvan.CAD.ImageOptions;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;
@@ -176,7 +176,8 @@ internal sealed class CgmDocument : MetafilePlayer
     private static CgmColor Direct(Rgba color) => new(Color.FromArgb(color.R, color.G, color.B));
 
     private Action<Command> NewWriter(Stream stream) =>
-        _options.Encoding == CgmFileFormat.ClearText ? new DefaultClearTextWriter(stream).WriteCommand : new DefaultBinaryWriter(stream).WriteCommand;
+        _options.Encoding == CgmFileFormat.ClearText ? new DefaultClearTextWriter(stream).WriteCommand
+            : new DefaultBinaryWriter(stream).WriteCommand;
 
     private CgmPoint Point(Vec2 p) => new(Round(p.X), Round(Height - p.Y));
 
@@ -184,7 +185,8 @@ internal sealed class CgmDocument : MetafilePlayer
     {
         if (box is Bounds2 region)
         {
-            _put(new ClipRectangle(Point(new Vec2(region.MinX, region.MaxY)), Point(new Vec2(region.MaxX, region.MinY))));
+            _put(new ClipRectangle(Point(new Vec2(region.MinX, region.MaxY)),
+                Point(new Vec2(region.MaxX, region.MinY))));
         }
 
         _put(new ClipIndicator(box is not null));
@@ -240,7 +242,8 @@ internal sealed class CgmDocument : MetafilePlayer
             ReadOnlySpan<byte> row = rows.AsSpan((image.Height - 1 - y) * stride, image.Width * 3);
             for (int x = 0; x < image.Width; x++)
             {
-                pixels[(y * image.Width) + x] = (0xFF << 24) | (row[(3 * x) + 2] << 16) | (row[(3 * x) + 1] << 8) | row[3 * x];
+                pixels[(y * image.Width)
+                    + x] = (0xFF << 24) | (row[(3 * x) + 2] << 16) | (row[(3 * x) + 1] << 8) | row[3 * x];
             }
         }
 
@@ -268,7 +271,11 @@ internal sealed class CgmDocument : MetafilePlayer
     private void WritePictureHead(Action<Command> put, string name)
     {
         put(new BeginPicture(name));
-        put(new ScalingMode { Value = ScalingMode.Mode.Metric, MetricScaleFactor = MillimetresPerPoint / _unitsPerPoint });
+        put(new ScalingMode
+        {
+            Value = ScalingMode.Mode.Metric,
+            MetricScaleFactor = MillimetresPerPoint / _unitsPerPoint
+        });
         put(new ColourSelectionMode { Value = ColourSelectionMode.Type.Direct });
         put(new LineWidthSpecificationMode { Value = SpecificationMode.Absolute });
         put(new VdcExtent(new CgmPoint(), new CgmPoint(Round(Width), Round(Height))));

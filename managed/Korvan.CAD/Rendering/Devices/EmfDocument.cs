@@ -2,11 +2,10 @@ using System;
 using System.Collections.Generic;
 using System.Globalization;
 using System.IO;
-using System.Text;
-using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.ImageOptions;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;
@@ -46,7 +45,8 @@ internal sealed class EmfDocument : MetafilePlayer
         var document = new EmfDocument(engine, page, options);
         document.Start();
         document.Play();
-        document._records.Finish(output, (int)Math.Ceiling(document.Width), (int)Math.Ceiling(document.Height), document._handles.Count + 1, page.Name);
+        document._records.Finish(output, (int)Math.Ceiling(document.Width), (int)Math.Ceiling(document.Height),
+            document._handles.Count + 1, page.Name);
     }
 
     protected override void Line(PathBuffer path, Rgba color, double width, LineLook look)
@@ -147,7 +147,8 @@ internal sealed class EmfDocument : MetafilePlayer
         const int geometric = 0x10000;
         int size = Math.Max(1, Round(width));
         int style = geometric | PenEnds(look);
-        int handle = Handle((EmfObject.Pen, ColorRef(color), size, style.ToString(CultureInfo.InvariantCulture)), at => _records.AddPen(at, style, size, ColorRef(color)));
+        int handle = Handle((EmfObject.Pen, ColorRef(color), size, style.ToString(CultureInfo.InvariantCulture)), at =>
+            _records.AddPen(at, style, size, ColorRef(color)));
         if (handle != _selected.Pen)
         {
             _records.Add(EmfRecord.SelectObject, handle);
@@ -158,7 +159,8 @@ internal sealed class EmfDocument : MetafilePlayer
     private void SelectBrush(Rgba color)
     {
         int handle = Handle(
-            (EmfObject.Brush, ColorRef(color), 0, ""), at => _records.Add(EmfRecord.CreateBrushIndirect, at, 0, (int)ColorRef(color), 0));
+            (EmfObject.Brush, ColorRef(color), 0, ""), at =>
+                _records.Add(EmfRecord.CreateBrushIndirect, at, 0, (int)ColorRef(color), 0));
         if (handle != _selected.Brush)
         {
             _records.Add(EmfRecord.SelectObject, handle);
@@ -170,7 +172,8 @@ internal sealed class EmfDocument : MetafilePlayer
     {
         string family = font.Family.Split(',')[0].Trim();
         int look = (font.Bold ? 1 : 0) | (font.Italic ? 2 : 0);
-        int handle = Handle((EmfObject.Font, (uint)look, 0, family), at => _records.AddFont(at, -FontUnits, font.Bold, font.Italic, family));
+        int handle = Handle((EmfObject.Font, (uint)look, 0, family), at =>
+            _records.AddFont(at, -FontUnits, font.Bold, font.Italic, family));
         _records.Add(EmfRecord.SelectObject, handle);
     }
 
@@ -180,7 +183,9 @@ internal sealed class EmfDocument : MetafilePlayer
         {
             if (_handles.Count >= MaxHandles)
             {
-                throw new RenderException($"The page needs more than {MaxHandles} pens, brushes and fonts; an enhanced metafile holds no more.");
+                throw new RenderException(
+                    $"The page needs more than {MaxHandles} pens, brushes and fonts; an enhanced metafile holds no "
+                        + $"more.");
             }
 
             handle = _handles.Count + 1;
@@ -199,7 +204,8 @@ internal sealed class EmfDocument : MetafilePlayer
         for (int i = 0; i < widths.Length; i++)
         {
             bool pair = char.IsHighSurrogate(run.Text[i]) && i + 1 < widths.Length;
-            int until = pair ? before : Round(Engine.Advance(run.Font, run.Text[..(i + 1)], run.LetterSpacing) * FontUnits);
+            int until = pair ? before
+                : Round(Engine.Advance(run.Font, run.Text[..(i + 1)], run.LetterSpacing) * FontUnits);
             widths[i] = until - before;
             before = until;
         }

@@ -160,8 +160,10 @@ internal sealed class EmfRecords
         title.CopyTo(head.AsSpan(HeaderLength));
         long total = _content.Length + padded;
         WriteHead(head, [
-            (int)EmfRecord.Header, head.Length, 0, 0, width, height, 0, 0, width, height, 0x464D4520, 0x10000, (int)total, _count, handles,
-            title.Length / 2, HeaderLength, 0, width, height, Math.Max(1, width / 100), Math.Max(1, height / 100), 0, 0, 0, width * 10, height * 10]);
+            (int)EmfRecord.Header, head.Length, 0, 0, width, height, 0, 0, width, height, 0x464D4520, 0x10000,
+                (int)total, _count, handles,
+            title.Length / 2, HeaderLength, 0, width, height, Math.Max(1, width / 100), Math.Max(1, height / 100), 0, 0,
+                0, width * 10, height * 10]);
         output.Write(head);
         output.Write(_content.GetBuffer(), HeaderLength, (int)_content.Length - HeaderLength);
     }

@@ -4,10 +4,10 @@ using System.Globalization;
 using System.IO;
 using System.Text;
 using System.Text.Encodings.Web;
-using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.ImageOptions;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;
@@ -39,7 +39,8 @@ internal sealed class HtmlCanvasDocument : PagePlayer
           g.fillText(text, 0, 0); g.restore();
         };
         const i = (n, matrix, opacity, smooth) => {
-          g.save(); g.transform(...matrix); g.globalAlpha = opacity; g.imageSmoothingEnabled = smooth; g.drawImage(pictures[n], 0, 0, 1, 1); g.restore();
+          g.save(); g.transform(...matrix); g.globalAlpha = opacity; g.imageSmoothingEnabled = smooth; g.drawImage(
+              pictures[n], 0, 0, 1, 1); g.restore();
         };
         const c = (d, rule) => { g.save(); g.clip(p(d), rule); };
         const r = () => g.restore();
@@ -68,7 +69,8 @@ internal sealed class HtmlCanvasDocument : PagePlayer
     internal static void Write(Stream output, TextEngine engine, Page page, Html5Options options)
     {
         string id = options.CanvasTagId;
-        if (id.Length == 0 || !Array.TrueForAll(id.ToCharArray(), letter => char.IsAsciiLetterOrDigit(letter) || letter is '-' or '_'))
+        if (id.Length == 0
+            || !Array.TrueForAll(id.ToCharArray(), letter => char.IsAsciiLetterOrDigit(letter) || letter is '-' or '_'))
         {
             throw new RenderException($"'{id}' is no name for a canvas; it consists of letters, digits, '-' and '_'.");
         }
@@ -88,7 +90,8 @@ internal sealed class HtmlCanvasDocument : PagePlayer
         }
 
         string dash = stroke.Dash is null ? "[]" : $"[{string.Join(',', Array.ConvertAll(stroke.Dash, N))}]";
-        _calls.Append($"s(\"{Data(path)}\",\"{Css(stroke.Color)}\",{N(stroke.Width)},{dash},{N(stroke.DashOffset)});\n");
+        _calls.Append(
+            $"s(\"{Data(path)}\",\"{Css(stroke.Color)}\",{N(stroke.Width)},{dash},{N(stroke.DashOffset)});\n");
     }
 
     protected override void Fill(PathBuffer path, Rgba color, bool evenOdd) =>
@@ -96,8 +99,10 @@ internal sealed class HtmlCanvasDocument : PagePlayer
 
     protected override void FillGradient(PathBuffer path, Gradient gradient, in Affine2 matrix, bool evenOdd)
     {
-        string stops = string.Join(',', Array.ConvertAll(gradient.Stops, stop => $"[{N(stop.Offset)},\"{Css(stop.Color)}\"]"));
-        _calls.Append($"q(\"{Data(path)}\",{Matrix(matrix)},\"{Rule(evenOdd)}\",{(gradient.Radial ? "true" : "false")},");
+        string stops = string.Join(',',
+            Array.ConvertAll(gradient.Stops, stop => $"[{N(stop.Offset)},\"{Css(stop.Color)}\"]"));
+        _calls.Append(
+            $"q(\"{Data(path)}\",{Matrix(matrix)},\"{Rule(evenOdd)}\",{(gradient.Radial ? "true" : "false")},");
         _calls.Append($"{N(gradient.FocusX)},{N(gradient.FocusY)},[{stops}]);\n");
     }
 
@@ -112,18 +117,24 @@ internal sealed class HtmlCanvasDocument : PagePlayer
         // One unit of the run is an em, y up; the canvas' y runs down.
         Affine2 letters = matrix * new Affine2(1 / FontSize, 0, 0, -1 / FontSize, 0, 0);
         FontSpec font = Engine.SpecOf(run.Font);
-        string family = string.Join(',', Array.ConvertAll(font.Family.Split(','), name => $"'{name.Trim().Replace("'", string.Empty)}'"));
+        string family = string.Join(',',
+            Array.ConvertAll(font.Family.Split(','), name => $"'{name.Trim().Replace("'", string.Empty)}'"));
         string look = (font.Italic ? "italic " : "") + (font.Bold ? "bold " : "");
         double width = Engine.Advance(run.Font, run.Text, run.LetterSpacing) * FontSize;
-        _calls.Append($"t({Quoted(run.Text)},{Matrix(letters)},{Quoted($"{look}{FontSize}px {family}")},{N(width)},\"{Css(color)}\");\n");
+        _calls.Append(
+            $"t({Quoted(run.Text)},{Matrix(letters)},{Quoted($"{look}{FontSize}px {family}")},"
+            + $"{N(width)},\"{Css(color)}\");\n");
     }
 
     protected override void Image(PlacedImage image, in Affine2 matrix)
     {
         using var png = new MemoryStream();
-        PngEncoder.Write(image.Width, image.Height, y => image.Pixels.AsSpan(y * image.Width * 4, image.Width * 4), png, 6, 96);
+        PngEncoder.Write(image.Width, image.Height, y =>
+            image.Pixels.AsSpan(y * image.Width * 4, image.Width * 4), png, 6, 96);
         _pictures.Append($"\"data:image/png;base64,{Convert.ToBase64String(png.GetBuffer(), 0, (int)png.Length)}\",\n");
-        _calls.Append($"i({_pictureCount++},{Matrix(matrix * new Affine2(1, 0, 0, -1, 0, 1))},{N(image.Opacity)},{(image.Sharp ? "false" : "true")});\n");
+        _calls.Append(
+            $"i({_pictureCount++},{Matrix(matrix * new Affine2(1, 0, 0, -1, 0, 1))},{N(image.Opacity)},"
+            + $"{(image.Sharp ? "false" : "true")});\n");
     }
 
     protected override void PushClip(PathBuffer path, bool evenOdd)
@@ -159,13 +170,18 @@ internal sealed class HtmlCanvasDocument : PagePlayer
     {
         string title = HtmlEncoder.Default.Encode(Name);
         writer.Write(_options.FullHtmlPage
-            ? $"<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\"/>\n<title>{title}</title>\n</head>\n<body>\n" : "");
-        writer.Write($"<canvas id=\"{_options.CanvasTagId}\" width=\"{N(Math.Ceiling(Width))}\" height=\"{N(Math.Ceiling(Height))}\"></canvas>\n");
+            ? $"<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\"/>\n<title>{title}</title>\n</head>\n<body>\n"
+            : "");
+        writer.Write(
+            $"<canvas id=\"{_options.CanvasTagId}\" width=\"{N(Math.Ceiling(Width))}\" "
+                + $"height=\"{N(Math.Ceiling(Height))}\"></canvas>\n");
         writer.Write("<script>\n(async () => {\n");
         writer.Write($"const g = document.getElementById(\"{_options.CanvasTagId}\").getContext(\"2d\");\n");
         writer.Write("const pictures = await Promise.all([\n");
         writer.Write(_pictures);
-        writer.Write("].map(async source => { const picture = new Image(); picture.src = source; await picture.decode(); return picture; }));\n");
+        writer.Write(
+            "].map(async source => { const picture = new Image(); picture.src = source; await picture.decode(); "
+                + "return picture; }));\n");
         writer.Write(Functions);
         writer.Write(_calls);
         writer.Write("})();\n</script>\n");

@@ -5,7 +5,8 @@ using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;
 
-/// <summary>What metafiles have in common: opaque colours, lines without phase, pictures without transparency.</summary>
+/// <summary>What metafiles have in common: opaque colours, lines without phase, pictures without
+/// transparency.</summary>
 internal abstract class MetafilePlayer : PagePlayer
 {
     private readonly PathBuffer _dashes = new();
@@ -23,11 +24,13 @@ internal abstract class MetafilePlayer : PagePlayer
     protected sealed override void Stroke(PathBuffer path, in DeviceStroke stroke)
     {
         Rgba color = Opaque(stroke.Color);
-        bool cut = stroke.Dash is not null && DashSplitter.TrySplit(path, stroke.Dash, stroke.DashOffset, Tolerance, _dashes);
+        bool cut = stroke.Dash is not null
+            && DashSplitter.TrySplit(path, stroke.Dash, stroke.DashOffset, Tolerance, _dashes);
         Line(cut ? _dashes : path, color, stroke.Width, stroke.Look);
     }
 
-    /// <summary>Ends and joins as the flags of a pen ([MS-EMF] 2.1.25; those of [MS-WMF] 2.1.1.23 are the same).</summary>
+    /// <summary>Ends and joins as the flags of a pen ([MS-EMF] 2.1.25; those of [MS-WMF] 2.1.1.23 are the
+    /// same).</summary>
     protected static int PenEnds(LineLook look)
     {
         int cap = look.Cap switch { LineCaps.Butt => 0x200, LineCaps.Square => 0x100, _ => 0 };
@@ -35,7 +38,8 @@ internal abstract class MetafilePlayer : PagePlayer
         return cap | join;
     }
 
-    protected sealed override void Fill(PathBuffer path, Rgba color, bool evenOdd) => Area(path, Opaque(color), evenOdd);
+    protected sealed override void Fill(PathBuffer path, Rgba color, bool evenOdd) =>
+        Area(path, Opaque(color), evenOdd);
 
     protected abstract void Line(PathBuffer path, Rgba color, double width, LineLook look);
 

@@ -1,13 +1,14 @@
 using System;
-using Korvan.CAD.ImageOptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;
 
 /// <summary>How a line is drawn, in device units.</summary>
-internal readonly record struct DeviceStroke(Rgba Color, double Width, double[]? Dash, double DashOffset, LineLook Look);
+internal readonly record struct DeviceStroke(Rgba Color, double Width, double[]? Dash, double DashOffset,
+    LineLook Look);
 
 /// <summary>
 /// Goes through a page and hands its items on in device units, for formats that have primitives of their own. What a
@@ -137,7 +138,8 @@ internal abstract class PagePlayer
         return new Rgba(Between(from.R, to.R), Between(from.G, to.G), Between(from.B, to.B), Between(from.A, to.A));
     }
 
-    /// <summary>The colour that shows when a transparent one lies on the page, for formats without transparency.</summary>
+    /// <summary>The colour that shows when a transparent one lies on the page, for formats without
+    /// transparency.</summary>
     protected Rgba Opaque(Rgba color)
     {
         if (color.A == 255)
@@ -237,7 +239,8 @@ internal abstract class PagePlayer
                     at += 2;
                     break;
                 case PathVerb.Curve:
-                    _path.CurveTo(_map.Point(c[at], c[at + 1]), _map.Point(c[at + 2], c[at + 3]), _map.Point(c[at + 4], c[at + 5]));
+                    _path.CurveTo(_map.Point(c[at], c[at + 1]), _map.Point(c[at + 2], c[at + 3]),
+                        _map.Point(c[at + 4], c[at + 5]));
                     at += 6;
                     break;
                 default:

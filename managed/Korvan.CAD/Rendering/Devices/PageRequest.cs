@@ -16,7 +16,8 @@ internal enum FitMode
     Fill,
 }
 
-/// <summary>What a page is asked to be, in device units (points or pixels); sizes of 0 are left to the layout.</summary>
+/// <summary>What a page is asked to be, in device units (points or pixels); sizes of 0 are left to the
+/// layout.</summary>
 internal readonly record struct PageRequest
 {
     internal double Width { get; init; }
@@ -76,7 +77,8 @@ internal readonly record struct PageLayout(double Width, double Height, Affine2 
         if (!(boxWidth > 0 && boxHeight > 0))
         {
             throw new RenderException(
-                $"The borders leave no room on a page of {width:0.##} × {height:0.##}; give a larger page or smaller borders.");
+                $"The borders leave no room on a page of {width:0.##} × {height:0.##}; give a larger page or smaller "
+                    + $"borders.");
         }
 
         double used = scale ?? (FitScale(request, region, boxWidth, boxHeight) * request.Zoom);
@@ -88,7 +90,8 @@ internal readonly record struct PageLayout(double Width, double Height, Affine2 
         double centerX = request.Left + (boxWidth / 2) + (request.Shift.X * width);
         double centerY = request.Top + (boxHeight / 2) + (request.Shift.Y * height);
         Vec2 c = region.Center;
-        return new PageLayout(width, height, new Affine2(used, 0, 0, -used, centerX - (c.X * used), centerY + (c.Y * used)), used);
+        return new PageLayout(width, height,
+            new Affine2(used, 0, 0, -used, centerX - (c.X * used), centerY + (c.Y * used)), used);
     }
 
     private static double FitScale(in PageRequest request, in Bounds2 region, double boxWidth, double boxHeight)
@@ -104,7 +107,8 @@ internal readonly record struct PageLayout(double Width, double Height, Affine2 
         };
     }
 
-    private static (double Width, double Height) Size(in PageRequest request, in Bounds2 region, PaperSheet? sheet, double? scale)
+    private static (double Width, double Height) Size(in PageRequest request, in Bounds2 region, PaperSheet? sheet,
+        double? scale)
     {
         if (request.Width > 0 && request.Height > 0)
         {

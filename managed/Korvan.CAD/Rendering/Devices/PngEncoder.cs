@@ -17,7 +17,8 @@ internal static class PngEncoder
     internal static void Write(RasterPage page, Stream output, int compressionLevel, double pixelsPerInch) =>
         Write(page.Width, page.Height, page.Row, output, compressionLevel, pixelsPerInch);
 
-    internal static void Write(int width, int height, PixelRow rows, Stream output, int compressionLevel, double pixelsPerInch)
+    internal static void Write(int width, int height, PixelRow rows, Stream output, int compressionLevel,
+        double pixelsPerInch)
     {
         bool opaque = IsOpaque(height, rows);
         var head = new PngHeader(width, height, 8, opaque ? PngColorType.Truecolor : PngColorType.TruecolorWithAlpha);

@@ -1,7 +1,5 @@
 using System;
 using Korvan.CAD.DisplayList;
-using Korvan.CAD.Raster;
-using Korvan.CAD.Raster.Codecs;
 using Korvan.CAD.Raster.Pixels;
 using Korvan.CAD.Rendering.Native;
 using Korvan.CAD.Rendering.Text;

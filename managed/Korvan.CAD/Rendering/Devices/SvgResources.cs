@@ -2,11 +2,11 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Text;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.ImageOptions.SvgOptionsParameters;
 using Korvan.CAD.Raster;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.Raster.Pixels;
 using Korvan.CAD.Rendering.Text;
 
@@ -17,7 +17,8 @@ internal sealed class SvgResources(SvgOptions options)
 {
     private int _pictures;
 
-    /// <summary>The style sheet that leads from the families of texts to their fonts; empty where none is needed.</summary>
+    /// <summary>The style sheet that leads from the families of texts to their fonts; empty where none is
+    /// needed.</summary>
     internal string FontFaces(IEnumerable<DrawingList> lists, TextEngine engine)
     {
         if (options.FontStoreType == FontStoreType.Installed)
@@ -31,7 +32,10 @@ internal sealed class SvgResources(SvgOptions options)
             FontSpec spec = engine.SpecOf(font);
             if (engine.FileOf(font) is string file)
             {
-                style.Append(Face(new FontStoringArgs(FirstFamily(spec), spec.Bold, spec.Italic, file) { FontStoreType = options.FontStoreType }));
+                style.Append(
+                    Face(new FontStoringArgs(FirstFamily(spec), spec.Bold, spec.Italic,
+                        file)
+                    { FontStoreType = options.FontStoreType }));
             }
         }
 
@@ -48,7 +52,8 @@ internal sealed class SvgResources(SvgOptions options)
             _ => (new PngOptions(), "png", ".png"),
         };
         byte[] data = Encode(image, encoder);
-        string uri = options.Callback?.OnImageResourceReady(data, options.ImageType, $"picture{++_pictures}{ending}") ?? "";
+        string uri = options.Callback?.OnImageResourceReady(data, options.ImageType, $"picture{++_pictures}{ending}")
+            ?? "";
         return uri.Length > 0 ? uri : $"data:image/{media};base64,{Convert.ToBase64String(data)}";
     }
 
@@ -69,7 +74,8 @@ internal sealed class SvgResources(SvgOptions options)
         return fonts;
     }
 
-    private static string FirstFamily(FontSpec spec) => spec.Family.Split(',')[0].Trim().Replace("'", string.Empty, StringComparison.Ordinal);
+    private static string FirstFamily(FontSpec spec) =>
+        spec.Family.Split(',')[0].Trim().Replace("'", string.Empty, StringComparison.Ordinal);
 
     private static byte[] Encode(PlacedImage image, ImageOptionsBase encoder)
     {
@@ -110,7 +116,9 @@ internal sealed class SvgResources(SvgOptions options)
         {
             FontStoreType.Embedded => $"data:font/{Media(font)};base64,{Convert.ToBase64String(font.GetFontData())}",
             FontStoreType.Stream when font.FontFileUri.Length > 0 => font.FontFileUri,
-            FontStoreType.Stream => throw new RenderException($"The font '{font.FontFamily}' was stored, but it was not said where: FontFileUri is empty."),
+            FontStoreType.Stream =>
+                throw new RenderException(
+                    $"The font '{font.FontFamily}' was stored, but it was not said where: FontFileUri is empty."),
             _ => null,
         };
         if (source is null)
@@ -119,13 +127,15 @@ internal sealed class SvgResources(SvgOptions options)
         }
 
         string look = (font.IsBold ? "font-weight:bold;" : "") + (font.IsItalic ? "font-style:italic;" : "");
-        return $"@font-face{{font-family:'{font.FontFamily}';{look}src:url('{source.Replace("'", "%27", StringComparison.Ordinal)}')}}";
+        return $"@font-face{{font-family:'{font.FontFamily}';{look}"
+            + $"src:url('{source.Replace("'", "%27", StringComparison.Ordinal)}')}}";
     }
 
-    private static string Media(FontStoringArgs font) => Path.GetExtension(font.SourceFontFileName).ToLowerInvariant() switch
-    {
-        ".otf" => "otf",
-        ".ttc" => "collection",
-        _ => "ttf",
-    };
+    private static string Media(FontStoringArgs font) =>
+        Path.GetExtension(font.SourceFontFileName).ToLowerInvariant() switch
+        {
+            ".otf" => "otf",
+            ".ttc" => "collection",
+            _ => "ttf",
+        };
 }

@@ -2,10 +2,10 @@ using System;
 using System.Globalization;
 using System.IO;
 using System.Text;
-using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.ImageOptions;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;
@@ -19,23 +19,23 @@ internal sealed class SvgTextDocument
     private const double FontSize = 100;
     private const double SmallestPeriod = 0.75;
 
-    private readonly StreamWriter writer;
-    private readonly TextEngine engine;
-    private readonly SvgResources resources;
-    private readonly StringBuilder path = new();
-    private DrawingList list;
-    private PaintSettings settings;
-    private Affine2 map;
-    private int nextId;
+    private readonly StreamWriter _writer;
+    private readonly TextEngine _engine;
+    private readonly SvgResources _resources;
+    private readonly StringBuilder _path = new();
+    private DrawingList _list;
+    private readonly PaintSettings _settings;
+    private Affine2 _map;
+    private int _nextId;
 
     private SvgTextDocument(StreamWriter writer, TextEngine engine, Page page, SvgResources resources)
     {
-        this.resources = resources;
-        this.writer = writer;
-        this.engine = engine;
-        list = page.List;
-        settings = page.Settings;
-        map = settings.ToDevice;
+        _resources = resources;
+        _writer = writer;
+        _engine = engine;
+        _list = page.List;
+        _settings = page.Settings;
+        _map = _settings.ToDevice;
     }
 
     internal static void Write(Stream output, TextEngine engine, Page page, SvgOptions options)
@@ -55,43 +55,50 @@ internal sealed class SvgTextDocument
     {
         string width = N(page.Width);
         string height = N(page.Height);
-        writer.Write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
-        writer.Write($"<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"{width}\" height=\"{height}\" viewBox=\"0 0 {width} {height}\">\n");
-        writer.Write(resources.FontFaces(page.Overlay is null ? [page.List] : [page.List, page.Overlay], engine));
-        if (settings.PaintBackground)
+        _writer.Write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
+        _writer.Write(
+            $"<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"{width}\" height=\"{height}\" viewBox=\"0 0 {width} "
+                + $"{height}\">\n");
+        _writer.Write(_resources.FontFaces(page.Overlay is null ? [page.List] : [page.List, page.Overlay], _engine));
+        if (_settings.PaintBackground)
         {
-            writer.Write($"<rect width=\"{width}\" height=\"{height}\" fill=\"{Rgb(settings.Background)}\"{Opacity("fill-opacity", settings.Background)}/>\n");
+            _writer.Write(
+                $"<rect width=\"{width}\" height=\"{height}\" "
+                    + $"fill=\"{Rgb(_settings.Background)}\"{Opacity("fill-opacity", _settings.Background)}/>\n");
         }
 
-        writer.Write($"<g stroke-linecap=\"{settings.Look.CapWord}\" stroke-linejoin=\"round\" fill=\"none\"{OpenClip()}>\n");
+        _writer.Write(
+            $"<g stroke-linecap=\"{_settings.Look.CapWord}\" stroke-linejoin=\"round\" fill=\"none\"{OpenClip()}>\n");
         WriteItems();
-        writer.Write("</g>\n");
+        _writer.Write("</g>\n");
         if (page.Overlay != null)
         {
-            (list, map) = (page.Overlay, Affine2.Identity);
+            (_list, _map) = (page.Overlay, Affine2.Identity);
             WriteItems();
         }
 
-        writer.Write("</svg>\n");
+        _writer.Write("</svg>\n");
     }
 
     private string OpenClip()
     {
-        if (settings.Clip is not Bounds2 clip)
+        if (_settings.Clip is not Bounds2 clip)
         {
             return string.Empty;
         }
 
-        Vec2 a = map.Point(clip.MinX, clip.MaxY);
-        Vec2 b = map.Point(clip.MaxX, clip.MinY);
-        string id = "k" + nextId++;
-        writer.Write($"<clipPath id=\"{id}\"><rect x=\"{N(a.X)}\" y=\"{N(a.Y)}\" width=\"{N(b.X - a.X)}\" height=\"{N(b.Y - a.Y)}\"/></clipPath>\n");
+        Vec2 a = _map.Point(clip.MinX, clip.MaxY);
+        Vec2 b = _map.Point(clip.MaxX, clip.MinY);
+        string id = "k" + _nextId++;
+        _writer.Write(
+            $"<clipPath id=\"{id}\"><rect x=\"{N(a.X)}\" y=\"{N(a.Y)}\" width=\"{N(b.X - a.X)}\" "
+                + $"height=\"{N(b.Y - a.Y)}\"/></clipPath>\n");
         return $" clip-path=\"url(#{id})\"";
     }
 
     private void WriteItems()
     {
-        foreach (ref readonly DisplayItem item in list.Items)
+        foreach (ref readonly DisplayItem item in _list.Items)
         {
             switch (item.Kind)
             {
@@ -105,15 +112,17 @@ internal sealed class SvgTextDocument
                     WriteText(item);
                     break;
                 case DisplayKind.Image:
-                    WriteImage(list.ImageOf(item));
+                    WriteImage(_list.ImageOf(item));
                     break;
                 case DisplayKind.PushClip:
-                    string id = "k" + nextId++;
+                    string id = "k" + _nextId++;
                     string rule = item.EvenOdd ? " clip-rule=\"evenodd\"" : string.Empty;
-                    writer.Write($"<clipPath id=\"{id}\"><path d=\"{PathOf(item)}\"{rule}/></clipPath><g clip-path=\"url(#{id})\">\n");
+                    _writer.Write(
+                        $"<clipPath id=\"{id}\"><path d=\"{PathOf(item)}\"{rule}/></clipPath><g "
+                            + $"clip-path=\"url(#{id})\">\n");
                     break;
                 case DisplayKind.PopClip:
-                    writer.Write("</g>\n");
+                    _writer.Write("</g>\n");
                     break;
             }
         }
@@ -121,25 +130,27 @@ internal sealed class SvgTextDocument
 
     private void WriteStroke(in DisplayItem item)
     {
-        double width = settings.WidthOf(item);
-        writer.Write($"<path d=\"{PathOf(item)}\" stroke=\"{Rgb(item.Color)}\" stroke-width=\"{N(width)}\"{Opacity("stroke-opacity", item.Color)}");
-        if (list.LookOf(item) is LineLook look)
+        double width = _settings.WidthOf(item);
+        _writer.Write(
+            $"<path d=\"{PathOf(item)}\" stroke=\"{Rgb(item.Color)}\" "
+                + $"stroke-width=\"{N(width)}\"{Opacity("stroke-opacity", item.Color)}");
+        if (_list.LookOf(item) is LineLook look)
         {
-            writer.Write($" stroke-linecap=\"{look.CapWord}\" stroke-linejoin=\"{look.JoinWord}\"");
-            writer.Write(look.Join == LineJoins.Miter ? $" stroke-miterlimit=\"{N(look.MiterLimit)}\"" : "");
+            _writer.Write($" stroke-linecap=\"{look.CapWord}\" stroke-linejoin=\"{look.JoinWord}\"");
+            _writer.Write(look.Join == LineJoins.Miter ? $" stroke-miterlimit=\"{N(look.MiterLimit)}\"" : "");
         }
 
         if (item.Dash >= 0)
         {
-            WriteDash(list.DashOf(item), item.DashOffset);
+            WriteDash(_list.DashOf(item), item.DashOffset);
         }
 
-        writer.Write("/>\n");
+        _writer.Write("/>\n");
     }
 
     private void WriteDash(double[] lengths, double offset)
     {
-        double scale = Math.Sqrt(Math.Abs(map.Determinant));
+        double scale = Math.Sqrt(Math.Abs(_map.Determinant));
         double period = 0;
         foreach (double length in lengths)
         {
@@ -149,57 +160,69 @@ internal sealed class SvgTextDocument
         if (period >= SmallestPeriod)
         {
             string dashes = string.Join(' ', Array.ConvertAll(lengths, length => N(length * scale)));
-            writer.Write($" stroke-dasharray=\"{dashes}\" stroke-dashoffset=\"{N(offset * scale)}\"");
+            _writer.Write($" stroke-dasharray=\"{dashes}\" stroke-dashoffset=\"{N(offset * scale)}\"");
         }
     }
 
     private void WriteFill(in DisplayItem item)
     {
         string rule = item.EvenOdd ? " fill-rule=\"evenodd\"" : string.Empty;
-        string paint = item.Extra >= 0 ? $"url(#{WriteGradient(list.GradientOf(item))})" : Rgb(item.Color);
+        string paint = item.Extra >= 0 ? $"url(#{WriteGradient(_list.GradientOf(item))})" : Rgb(item.Color);
         string opacity = item.Extra >= 0 ? string.Empty : Opacity("fill-opacity", item.Color);
-        writer.Write($"<path d=\"{PathOf(item)}\" fill=\"{paint}\"{rule}{opacity}/>\n");
+        _writer.Write($"<path d=\"{PathOf(item)}\" fill=\"{paint}\"{rule}{opacity}/>\n");
     }
 
     private string WriteGradient(Gradient gradient)
     {
-        string id = "k" + nextId++;
+        string id = "k" + _nextId++;
         string kind = gradient.Radial ? "radialGradient" : "linearGradient";
         string place = gradient.Radial
             ? $"cx=\"0\" cy=\"0\" r=\"1\" fx=\"{N(gradient.FocusX)}\" fy=\"{N(gradient.FocusY)}\""
             : "x1=\"-1\" y1=\"0\" x2=\"1\" y2=\"0\"";
-        writer.Write($"<{kind} id=\"{id}\" gradientUnits=\"userSpaceOnUse\" {place} gradientTransform=\"{Matrix(map * gradient.Matrix)}\">");
+        _writer.Write(
+            $"<{kind} id=\"{id}\" gradientUnits=\"userSpaceOnUse\" {place} "
+                + $"gradientTransform=\"{Matrix(_map * gradient.Matrix)}\">");
         foreach (GradientStop stop in gradient.Stops)
         {
-            writer.Write($"<stop offset=\"{N(stop.Offset)}\" stop-color=\"{Rgb(stop.Color)}\"{Opacity("stop-opacity", stop.Color)}/>");
+            _writer.Write(
+                $"<stop offset=\"{N(stop.Offset)}\" "
+                    + $"stop-color=\"{Rgb(stop.Color)}\"{Opacity("stop-opacity", stop.Color)}/>");
         }
 
-        writer.Write($"</{kind}>\n");
+        _writer.Write($"</{kind}>\n");
         return id;
     }
 
     private void WriteText(in DisplayItem item)
     {
-        TextRun run = list.TextOf(item);
-        FontSpec font = engine.SpecOf(run.Font);
-        double length = engine.Advance(run.Font, run.Text, run.LetterSpacing) * FontSize;
+        TextRun run = _list.TextOf(item);
+        FontSpec font = _engine.SpecOf(run.Font);
+        double length = _engine.Advance(run.Font, run.Text, run.LetterSpacing) * FontSize;
 
         // One unit of the run is an em, y up; the element's y runs down.
-        Affine2 matrix = map * run.Matrix * new Affine2(1 / FontSize, 0, 0, -1 / FontSize, 0, 0);
-        string family = string.Join(',', Array.ConvertAll(font.Family.Split(','), f => $"'{f.Trim().Replace("'", string.Empty)}'"));
-        writer.Write($"<text xml:space=\"preserve\" transform=\"{Matrix(matrix)}\" font-family=\"{Escape(family)}\" font-size=\"{N(FontSize)}\"");
-        writer.Write(font.Bold ? " font-weight=\"bold\"" : string.Empty);
-        writer.Write(font.Italic ? " font-style=\"italic\"" : string.Empty);
-        writer.Write($" textLength=\"{N(length)}\" lengthAdjust=\"spacingAndGlyphs\" fill=\"{Rgb(item.Color)}\"{Opacity("fill-opacity", item.Color)}>");
-        writer.Write(Escape(run.Text));
-        writer.Write("</text>\n");
+        Affine2 matrix = _map * run.Matrix * new Affine2(1 / FontSize, 0, 0, -1 / FontSize, 0, 0);
+        string family = string.Join(',',
+            Array.ConvertAll(font.Family.Split(','), f => $"'{f.Trim().Replace("'", string.Empty)}'"));
+        _writer.Write(
+            $"<text xml:space=\"preserve\" transform=\"{Matrix(matrix)}\" font-family=\"{Escape(family)}\" "
+                + $"font-size=\"{N(FontSize)}\"");
+        _writer.Write(font.Bold ? " font-weight=\"bold\"" : string.Empty);
+        _writer.Write(font.Italic ? " font-style=\"italic\"" : string.Empty);
+        _writer.Write(
+            $" textLength=\"{N(length)}\" lengthAdjust=\"spacingAndGlyphs\" "
+                + $"fill=\"{Rgb(item.Color)}\"{Opacity("fill-opacity", item.Color)}>");
+        _writer.Write(Escape(run.Text));
+        _writer.Write("</text>\n");
     }
 
     private void WriteImage(PlacedImage image)
     {
-        Affine2 matrix = map * image.Matrix * new Affine2(1, 0, 0, -1, 0, 1);
-        writer.Write($"<image width=\"1\" height=\"1\" preserveAspectRatio=\"none\"{(image.Sharp ? " image-rendering=\"pixelated\"" : "")} transform=\"{Matrix(matrix)}\" opacity=\"{N(image.Opacity)}\" ");
-        writer.Write($"href=\"{Escape(resources.Address(image))}\"/>\n");
+        Affine2 matrix = _map * image.Matrix * new Affine2(1, 0, 0, -1, 0, 1);
+        _writer.Write(
+            $"<image width=\"1\" height=\"1\" "
+                + $"preserveAspectRatio=\"none\"{(image.Sharp ? " image-rendering=\"pixelated\"" : "")} "
+                + $"transform=\"{Matrix(matrix)}\" opacity=\"{N(image.Opacity)}\" ");
+        _writer.Write($"href=\"{Escape(_resources.Address(image))}\"/>\n");
     }
 
     private static string Matrix(in Affine2 m)
@@ -238,20 +261,20 @@ internal sealed class SvgTextDocument
 
     private StringBuilder PathOf(in DisplayItem item)
     {
-        path.Clear();
-        ReadOnlySpan<double> c = list.CoordsOf(item);
+        _path.Clear();
+        ReadOnlySpan<double> c = _list.CoordsOf(item);
         int at = 0;
-        foreach (PathVerb verb in list.VerbsOf(item))
+        foreach (PathVerb verb in _list.VerbsOf(item))
         {
             int points = verb switch { PathVerb.Curve => 3, PathVerb.Close => 0, _ => 1 };
-            path.Append(verb switch { PathVerb.Move => 'M', PathVerb.Line => 'L', PathVerb.Curve => 'C', _ => 'Z' });
+            _path.Append(verb switch { PathVerb.Move => 'M', PathVerb.Line => 'L', PathVerb.Curve => 'C', _ => 'Z' });
             for (int i = 0; i < points; i++, at += 2)
             {
-                Vec2 p = map.Point(c[at], c[at + 1]);
-                path.Append(N(p.X)).Append(' ').Append(N(p.Y)).Append(i + 1 < points ? " " : string.Empty);
+                Vec2 p = _map.Point(c[at], c[at + 1]);
+                _path.Append(N(p.X)).Append(' ').Append(N(p.Y)).Append(i + 1 < points ? " " : string.Empty);
             }
         }
 
-        return path;
+        return _path;
     }
 }

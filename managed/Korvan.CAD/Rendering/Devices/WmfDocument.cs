@@ -2,11 +2,10 @@ using System;
 using System.Collections.Generic;
 using System.Globalization;
 using System.IO;
-
-using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.ImageOptions;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;
@@ -40,7 +39,8 @@ internal sealed class WmfDocument : MetafilePlayer
         var document = new WmfDocument(engine, page, options, unitsPerPoint);
         document.Start();
         document.Play();
-        document._records.Finish(output, (short)document.Width, (short)document.Height, unitsPerPoint * 72, document._handles.Count);
+        document._records.Finish(output, (short)document.Width, (short)document.Height, unitsPerPoint * 72,
+            document._handles.Count);
     }
 
     protected override void Line(PathBuffer path, Rgba color, double width, LineLook look)
@@ -136,7 +136,8 @@ internal sealed class WmfDocument : MetafilePlayer
 
         // The matrix maps the unit square, y up, so that its y is negative where the picture stands upright.
         _records.AddPicture(
-            image.Width, image.Height, BottomUp(image), Round(matrix.X0), Round(matrix.Y0 + matrix.Yy), Round(matrix.Xx), Round(-matrix.Yy));
+            image.Width, image.Height, BottomUp(image), Round(matrix.X0), Round(matrix.Y0 + matrix.Yy),
+                Round(matrix.Xx), Round(-matrix.Yy));
     }
 
     private static uint ColorRef(Rgba color) => (uint)(color.R | (color.G << 8) | (color.B << 16));
@@ -183,7 +184,8 @@ internal sealed class WmfDocument : MetafilePlayer
     {
         int size = Math.Max(1, (int)Math.Round(width));
         int ends = PenEnds(look);
-        return Handle((0, ColorRef(color), size, ends.ToString(CultureInfo.InvariantCulture)), () => _records.AddPen((short)ends, Round(size), ColorRef(color)));
+        return Handle((0, ColorRef(color), size, ends.ToString(CultureInfo.InvariantCulture)), () =>
+            _records.AddPen((short)ends, Round(size), ColorRef(color)));
     }
 
     private int NoPen()
@@ -202,7 +204,8 @@ internal sealed class WmfDocument : MetafilePlayer
     {
         string family = font.Family.Split(',')[0].Trim();
         uint look = (uint)(((tenths + 3600) % 3600 << 2) | (font.Bold ? 1 : 0) | (font.Italic ? 2 : 0));
-        return Handle((3, look, size, family), () => _records.AddFont(Round(-size), (short)tenths, font.Bold, font.Italic, family));
+        return Handle((3, look, size, family), () =>
+            _records.AddFont(Round(-size), (short)tenths, font.Bold, font.Italic, family));
     }
 
     private int Handle((int Kind, uint Color, int Size, string Face) key, Action create)
@@ -211,7 +214,9 @@ internal sealed class WmfDocument : MetafilePlayer
         {
             if (_handles.Count >= short.MaxValue)
             {
-                throw new RenderException($"The page needs more than {short.MaxValue} pens, brushes and fonts; a Windows metafile holds no more.");
+                throw new RenderException(
+                    $"The page needs more than {short.MaxValue} pens, brushes and fonts; a Windows metafile holds no "
+                        + $"more.");
             }
 
             handle = _handles.Count;

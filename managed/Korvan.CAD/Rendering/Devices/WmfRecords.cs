@@ -4,8 +4,6 @@ using System.IO;
 using System.Text;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Encodings;
-using Korvan.CAD.FileFormats.Cad.Dxf;
-using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Devices;
@@ -34,7 +32,8 @@ internal enum WmfRecord
     StretchDib = 0x0F43,
 }
 
-/// <summary>The records of a Windows metafile, gathered in memory: its head tells their length and the longest.</summary>
+/// <summary>The records of a Windows metafile, gathered in memory: its head tells their length and the
+/// longest.</summary>
 internal sealed class WmfRecords
 {
     private const int FaceLength = 32;
@@ -55,7 +54,8 @@ internal sealed class WmfRecords
         Put(values);
     }
 
-    internal void AddPoints(WmfRecord record, ReadOnlySpan<short> counts, ReadOnlySpan<Vec2> points, Func<double, short> round)
+    internal void AddPoints(WmfRecord record, ReadOnlySpan<short> counts, ReadOnlySpan<Vec2> points, Func<double,
+        short> round)
     {
         Open(record, counts.Length + (2 * points.Length));
         Put(counts);

@@ -1,8 +1,8 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
 

@@ -1,9 +1,9 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Hatch;
 using Korvan.CAD.Rendering.Scene;

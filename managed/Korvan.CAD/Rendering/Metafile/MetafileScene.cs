@@ -1,9 +1,9 @@
 using System;
 using System.Collections.Generic;
 using System.Globalization;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Cgm.Commands;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 

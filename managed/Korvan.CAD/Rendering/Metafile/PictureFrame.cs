@@ -1,8 +1,8 @@
 using System;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
-using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.Rendering.Devices;
 
 namespace Korvan.CAD.Rendering.Metafile;
 

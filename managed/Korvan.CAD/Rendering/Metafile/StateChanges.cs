@@ -1,7 +1,7 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 using ASF = Korvan.CAD.FileFormats.Cgm.Commands.AspectSourceFlags.ASFType;
 using LineCapElement = Korvan.CAD.FileFormats.Cgm.Commands.LineCap;
 

@@ -1,8 +1,8 @@
 using System;
 using System.Buffers.Binary;
 using Korvan.CAD.CadExceptions;
-using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Rendering.Metafile;

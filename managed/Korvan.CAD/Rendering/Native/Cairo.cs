@@ -1,4 +1,3 @@
-using System;
 using System.Runtime.InteropServices;
 using Korvan.CAD.DisplayList;
 

@@ -90,7 +90,7 @@ internal static unsafe partial class Fontconfig
 
         PatternAddInteger(pattern, "weight", bold ? boldWeight : regularWeight);
         PatternAddInteger(pattern, "slant", italic ? italicSlant : 0);
-        ConfigSubstitute(config, pattern, 0);
+        _ = ConfigSubstitute(config, pattern, 0);
         DefaultSubstitute(pattern);
         using var match = new NativeHandle(FontMatch(config, pattern, out _), &PatternDestroy);
         return match.IsInvalid ? null : GetString(match.Pointer, "file");

@@ -2,12 +2,11 @@ using System;
 using System.Formats.Asn1;
 using System.Security.Cryptography;
 using System.Security.Cryptography.X509Certificates;
-using Korvan.CAD.FileFormats.Pdf;
-using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Rendering.Pdf;
 
-/// <summary>A detached signature as cryptographic message syntax (RFC 5652): the certificate, and signed attributes that
+/// <summary>A detached signature as cryptographic message syntax (RFC 5652): the certificate, and signed attributes
+/// that
 /// carry the digest of the content and the time.</summary>
 internal static class CmsSignature
 {
@@ -21,7 +20,8 @@ internal static class CmsSignature
     private static readonly Asn1Tag Context0 = new(TagClass.ContextSpecific, 0, true);
 
     /// <summary>Signs a digest with the private key of a certificate.</summary>
-    internal static byte[] Sign(byte[] digest, HashAlgorithmName hash, X509Certificate2 certificate, DateTimeOffset time)
+    internal static byte[] Sign(byte[] digest, HashAlgorithmName hash, X509Certificate2 certificate,
+        DateTimeOffset time)
     {
         byte[] attributes = Attributes(digest, time);
         (string algorithm, byte[] signature) = Signature(attributes, hash, certificate);
@@ -59,7 +59,8 @@ internal static class CmsSignature
     }
 
     private static void Signer(
-        AsnWriter writer, X509Certificate2 certificate, HashAlgorithmName hash, byte[] attributes, string algorithm, byte[] signature)
+        AsnWriter writer, X509Certificate2 certificate, HashAlgorithmName hash, byte[] attributes, string algorithm,
+            byte[] signature)
     {
         using (writer.PushSequence())
         {
@@ -118,7 +119,8 @@ internal static class CmsSignature
         }
     }
 
-    private static (string Algorithm, byte[] Signature) Signature(byte[] attributes, HashAlgorithmName hash, X509Certificate2 certificate)
+    private static (string Algorithm, byte[] Signature) Signature(byte[] attributes, HashAlgorithmName hash,
+        X509Certificate2 certificate)
     {
         if (certificate.GetRSAPrivateKey() is RSA rsa)
         {

@@ -7,9 +7,7 @@ using System.Security.Cryptography.X509Certificates;
 using System.Text;
 using System.Text.RegularExpressions;
 using Korvan.CAD.DisplayList;
-using Korvan.CAD.FileFormats.Pdf;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering;
 
 namespace Korvan.CAD.Rendering.Pdf;
 
@@ -19,7 +17,8 @@ namespace Korvan.CAD.Rendering.Pdf;
 /// </summary>
 internal sealed partial class PdfSigner
 {
-    /// <summary>Room for the signature, in hexadecimal digits: a certificate of an RSA key takes a few thousand.</summary>
+    /// <summary>Room for the signature, in hexadecimal digits: a certificate of an RSA key takes a few
+    /// thousand.</summary>
     private const int ContentDigits = 24_000;
     private const int RangeDigits = 10;
 
@@ -39,7 +38,8 @@ internal sealed partial class PdfSigner
         _tableAt = start.Success ? Number(start.Groups[1].Value) : -1;
         if (_tableAt < 0 || _tableAt >= _text.Length || string.CompareOrdinal(_text, _tableAt, "xref", 0, 4) != 0)
         {
-            throw new RenderException("The document has no plain table of its objects, so that no signature can be added to it.");
+            throw new RenderException(
+                "The document has no plain table of its objects, so that no signature can be added to it.");
         }
 
         _places = ReadTable(out _trailer);
@@ -86,7 +86,8 @@ internal sealed partial class PdfSigner
     private static int Find(Regex what, string where, string name)
     {
         Match match = what.Match(where);
-        return match.Success ? Number(match.Groups[1].Value) : throw new RenderException($"The document states no {name}, so that it cannot be signed.");
+        return match.Success ? Number(match.Groups[1].Value)
+            : throw new RenderException($"The document states no {name}, so that it cannot be signed.");
     }
 
     private static string Literal(string text)
@@ -123,10 +124,12 @@ internal sealed partial class PdfSigner
     /// <summary>The dictionary of an object, without the marks around it.</summary>
     private string Dictionary(int number)
     {
-        int start = _places.TryGetValue(number, out int place) ? _text.IndexOf("<<", place, StringComparison.Ordinal) : -1;
+        int start = _places.TryGetValue(number, out int place) ? _text.IndexOf("<<", place, StringComparison.Ordinal)
+            : -1;
         int end = start < 0 ? -1 : _text.IndexOf("endobj", start, StringComparison.Ordinal);
         int close = end < 0 ? -1 : _text.LastIndexOf(">>", end, StringComparison.Ordinal);
-        return close > start ? _text[(start + 2)..close] : throw new RenderException($"The object {number} of the document is no dictionary.");
+        return close > start ? _text[(start + 2)..close]
+            : throw new RenderException($"The object {number} of the document is no dictionary.");
     }
 
     private byte[] Signed(X509Certificate2 certificate)
@@ -141,7 +144,8 @@ internal sealed partial class PdfSigner
         string update = Update(time, out int rangeAt, out int contentAt);
         byte[] all = [.. _document, .. Encoding.Latin1.GetBytes(update)];
         int[] range = [0, contentAt, contentAt + ContentDigits + 2, all.Length - contentAt - ContentDigits - 2];
-        string words = string.Join(' ', Array.ConvertAll(range, n => n.ToString(CultureInfo.InvariantCulture).PadLeft(RangeDigits)));
+        string words = string.Join(' ',
+            Array.ConvertAll(range, n => n.ToString(CultureInfo.InvariantCulture).PadLeft(RangeDigits)));
         Encoding.Latin1.GetBytes(words).CopyTo(all, rangeAt);
 
         using IncrementalHash digest = IncrementalHash.CreateHash(hash);
@@ -150,14 +154,16 @@ internal sealed partial class PdfSigner
         string signature = Convert.ToHexString(CmsSignature.Sign(digest.GetHashAndReset(), hash, certificate, time));
         if (signature.Length > ContentDigits)
         {
-            throw new RenderException($"The signature takes {signature.Length / 2} bytes; there is room for {ContentDigits / 2}.");
+            throw new RenderException(
+                $"The signature takes {signature.Length / 2} bytes; there is room for {ContentDigits / 2}.");
         }
 
         Encoding.Latin1.GetBytes(signature).CopyTo(all, contentAt + 1);
         return all;
     }
 
-    /// <summary>The new objects with a table of them, and where range and content of the signature stand in all.</summary>
+    /// <summary>The new objects with a table of them, and where range and content of the signature stand in
+    /// all.</summary>
     private string Update(DateTimeOffset time, out int rangeAt, out int contentAt)
     {
         int root = Find(Root(), _trailer, "catalogue");
@@ -179,10 +185,12 @@ internal sealed partial class PdfSigner
         contentAt = _document.Length + text.Length;
         text.Append('<').Append('0', ContentDigits).Append('>').Append(Particulars(time)).Append(" >>\nendobj\n");
         Begin(field);
-        text.Append(CultureInfo.InvariantCulture, $" /Type /Annot /Subtype /Widget /FT /Sig /T (Signature) /V {signature} 0 R /F 132 ");
+        text.Append(CultureInfo.InvariantCulture,
+            $" /Type /Annot /Subtype /Widget /FT /Sig /T (Signature) /V {signature} 0 R /F 132 ");
         text.Append(CultureInfo.InvariantCulture, $"/Rect [0 0 0 0] /P {page} 0 R >>\nendobj\n");
         Begin(root);
-        text.Append(Dictionary(root)).Append(CultureInfo.InvariantCulture, $" /AcroForm << /Fields [{field} 0 R] /SigFlags 3 >> >>\nendobj\n");
+        text.Append(Dictionary(root)).Append(CultureInfo.InvariantCulture,
+            $" /AcroForm << /Fields [{field} 0 R] /SigFlags 3 >> >>\nendobj\n");
         Begin(page);
         text.Append(Dictionary(page)).Append(CultureInfo.InvariantCulture, $" /Annots [{field} 0 R] >>\nendobj\n");
         AppendTable(text, places, root, size + 2);
@@ -191,8 +199,10 @@ internal sealed partial class PdfSigner
 
     private string Particulars(DateTimeOffset time)
     {
-        StringBuilder text = new(string.Create(CultureInfo.InvariantCulture, $" /M (D:{time.UtcDateTime:yyyyMMddHHmmss}Z)"));
-        foreach ((string key, string value) in (ReadOnlySpan<(string, string)>)[("Reason", _details.Reason), ("Location", _details.Location), ("ContactInfo", _details.ContactInfo)])
+        StringBuilder text = new(string.Create(CultureInfo.InvariantCulture,
+            $" /M (D:{time.UtcDateTime:yyyyMMddHHmmss}Z)"));
+        foreach ((string key, string value) in (ReadOnlySpan<(string, string)>)[("Reason", _details.Reason),
+            ("Location", _details.Location), ("ContactInfo", _details.ContactInfo)])
         {
             text.Append(value.Length > 0 ? $" /{key} {Literal(value)}" : "");
         }
@@ -210,7 +220,8 @@ internal sealed partial class PdfSigner
         }
 
         Match info = InfoReference().Match(_trailer);
-        text.Append(CultureInfo.InvariantCulture, $"trailer\n<< /Size {size} /Root {root} 0 R /Prev {_tableAt} {(info.Success ? info.Value : "")} >>\n");
+        text.Append(CultureInfo.InvariantCulture,
+            $"trailer\n<< /Size {size} /Root {root} 0 R /Prev {_tableAt} {(info.Success ? info.Value : "")} >>\n");
         text.Append(CultureInfo.InvariantCulture, $"startxref\n{at}\n%%EOF\n");
     }
 

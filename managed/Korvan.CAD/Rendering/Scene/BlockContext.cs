@@ -1,4 +1,3 @@
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;

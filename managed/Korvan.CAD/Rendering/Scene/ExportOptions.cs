@@ -1,13 +1,12 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.CadExceptions;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats;
 using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.ImageOptions.SvgOptionsParameters;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.DisplayList;
-using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
 

@@ -3,8 +3,6 @@ using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
-using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 

@@ -1,10 +1,9 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -97,7 +96,8 @@ internal sealed class PageSource
         string? reason = _device == DeviceKind.Pixels ? RasterPage.Refuse(place.Width, place.Height) : null;
         if (!(place.Width <= LargestPage && place.Height <= LargestPage))
         {
-            reason ??= $"A page of {place.Width:0} × {place.Height:0} units is too large: at most {LargestPage} on a side; " +
+            reason ??= $"A page of {place.Width:0} × {place.Height:0} units is too large: at most {LargestPage} on a "
+                + $"side; " +
                 "give a page size, or let the drawing be scaled.";
         }
 
@@ -164,7 +164,17 @@ internal sealed class PageSource
         var list = new DrawingList();
         var place = new Affine2(page.Width, 0, 0, -page.Height, 0, page.Height);
         list.Image(
-            new PlacedImage(raster.Width, raster.Height, raster.CopyPixels(), place, 1), -1, Bounds2.Of(0, 0, page.Width, page.Height));
-        return page with { List = list, Settings = page.Settings with { ToDevice = Affine2.Identity, Clip = null, Interpolation = InterpolationMode.Default } };
+            new PlacedImage(raster.Width, raster.Height, raster.CopyPixels(), place, 1), -1,
+                Bounds2.Of(0, 0, page.Width, page.Height));
+        return page with
+        {
+            List = list,
+            Settings = page.Settings with
+            {
+                ToDevice = Affine2.Identity,
+                Clip = null,
+                Interpolation = InterpolationMode.Default
+            }
+        };
     }
 }

@@ -1,6 +1,6 @@
 using System;
-using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
 
 namespace Korvan.CAD.Rendering.Scene;
 

@@ -1,8 +1,6 @@
 using System;
 using System.Runtime.InteropServices;
-using Korvan.CAD.FileFormats;
 using Korvan.CAD.Raster;
-using Korvan.CAD.Raster.Codecs;
 using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Rendering.Scene;

@@ -21,7 +21,7 @@ internal sealed partial class SceneBuilder
         }
 
         (Pen pen, _, BlockContext context, _) = _current;
-        DimStyleInfo dim = tables.DimStyle(leader.DimensionStyleName);
+        DimStyleInfo dim = _tables.DimStyle(leader.DimensionStyleName);
         double arrow = dim.ArrowSize * dim.Scale;
         bool hasArrow = leader.ArrowheadFlag != 0 && arrow > 0 && (points[1] - points[0]).Length > 2 * arrow;
         Vec3 tip = points[0];
@@ -31,7 +31,7 @@ internal sealed partial class SceneBuilder
             points[0] = tip + (along * arrow);
         }
 
-        var path = new PathPen(canvas.NewPath(), context.Map);
+        var path = new PathPen(_canvas.NewPath(), context.Map);
         if (leader.PathType == SplinePath)
         {
             FitSpline.Draw(path, points, null, null, closed: false);
@@ -41,7 +41,7 @@ internal sealed partial class SceneBuilder
             points.ForEach(path.LineTo);
         }
 
-        canvas.Stroke(pen);
+        _canvas.Stroke(pen);
         if (hasArrow)
         {
             DrawArrowHead(tip, along, arrow, leader.ExtrusionDirection.ToVec3(), pen, context);
@@ -53,20 +53,20 @@ internal sealed partial class SceneBuilder
     {
         Vec3 across = Vec3.Cross(normal, along).Unit() * (length / 6);
         Vec3 foot = tip + (along * length);
-        var path = new PathPen(canvas.NewPath(), context.Map);
+        var path = new PathPen(_canvas.NewPath(), context.Map);
         path.MoveTo(tip);
         path.LineTo(foot + across);
         path.LineTo(foot - across);
         path.Close();
-        canvas.Fill(pen, evenOdd: false);
+        _canvas.Fill(pen, evenOdd: false);
     }
 
     /// <summary>A frame of rows of cells, its left edge centred on the insertion point for the first row.</summary>
     void IGeometrySink.Tolerance(CadTolerance tolerance, in Affine3 plane)
     {
-        DimStyleInfo dim = tables.DimStyle(tolerance.DimensionStyleName);
-        double height = (dim.TextHeight > 0 ? dim.TextHeight : tables.Settings.TextSize) * dim.Scale;
-        StyleInfo used = tables.Style(dim.TextStyle);
+        DimStyleInfo dim = _tables.DimStyle(tolerance.DimensionStyleName);
+        double height = (dim.TextHeight > 0 ? dim.TextHeight : _tables.Settings.TextSize) * dim.Scale;
+        StyleInfo used = _tables.Style(dim.TextStyle);
         Affine3 map = MapOf(plane);
         double top = height;
         foreach (string row in tolerance.VisualRepresentation.Replace("^J", "\n").Split('\n'))
@@ -93,20 +93,20 @@ internal sealed partial class SceneBuilder
             }
 
             MTextLayout layout = MTextLayout.Create(
-                canvas.Engine, MTextParser.Parse(cell, start), new MTextFrame(0, 4, 1, true), height);
+                _canvas.Engine, MTextParser.Parse(cell, start), new MTextFrame(0, 4, 1, true), height);
             double width = Math.Max(2 * height, layout.Box.Right - layout.Box.Left + (2 * pad));
             AddBox(map, left, top - (2 * height), left + width, top);
-            canvas.Stroke(pen);
+            _canvas.Stroke(pen);
             double inset = (width - (layout.Box.Right - layout.Box.Left)) / 2;
             Affine3 at = map * Affine3.Translation(new Vec3(left + inset, top - height, 0));
-            TextPainter.Draw(canvas, layout, at, pen, static _ => default);
+            TextPainter.Draw(_canvas, layout, at, pen, static _ => default);
             left += width;
         }
     }
 
     private void AddBox(in Affine3 map, double left, double bottom, double right, double top)
     {
-        var path = new PathPen(canvas.NewPath(), map);
+        var path = new PathPen(_canvas.NewPath(), map);
         path.MoveTo(new Vec2(left, bottom));
         path.LineTo(new Vec2(right, bottom));
         path.LineTo(new Vec2(right, top));

@@ -1,4 +1,3 @@
-using System;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -11,13 +10,13 @@ internal sealed partial class SceneBuilder
 {
     private void DrawInsert(CadInsertObject insert, LayerInfo layer, BlockContext context)
     {
-        if (pens.IsFrozen(layer, context) || (style.AsPlotted && !layer.IsPlotted))
+        if (_pens.IsFrozen(layer, context) || (_style.AsPlotted && !layer.IsPlotted))
         {
             return;
         }
 
-        Pen pen = pens.PenOf(insert, layer, context);
-        if (tables.Blocks.TryGetValue(insert.Name, out BlockInfo? block) && !block.IsExternal)
+        Pen pen = _pens.PenOf(insert, layer, context);
+        if (_tables.Blocks.TryGetValue(insert.Name, out BlockInfo? block) && !block.IsExternal)
         {
             DrawCells(insert, block, layer, pen, context);
         }
@@ -70,12 +69,12 @@ internal sealed partial class SceneBuilder
 
     private void DrawDimension(CadDimensionBase dimension, LayerInfo layer, BlockContext context)
     {
-        if (pens.IsFrozen(layer, context) || (style.AsPlotted && !layer.IsPlotted))
+        if (_pens.IsFrozen(layer, context) || (_style.AsPlotted && !layer.IsPlotted))
         {
             return;
         }
 
-        if (dimension.BlockName.Length == 0 || !tables.Blocks.TryGetValue(dimension.BlockName, out BlockInfo? block))
+        if (dimension.BlockName.Length == 0 || !_tables.Blocks.TryGetValue(dimension.BlockName, out BlockInfo? block))
         {
             List.Skip(dimension.TypeNameText + " without a picture");
             return;
@@ -88,6 +87,6 @@ internal sealed partial class SceneBuilder
             map *= dimension.ExtrusionDirection.ToPlane() * Affine3.Translation(dimension.InsertionPoint.ToVec3());
         }
 
-        DrawBlock(block, map, layer, pens.PenOf(dimension, layer, context), context);
+        DrawBlock(block, map, layer, _pens.PenOf(dimension, layer, context), context);
     }
 }

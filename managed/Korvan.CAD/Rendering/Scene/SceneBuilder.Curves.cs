@@ -16,7 +16,7 @@ internal sealed partial class SceneBuilder
 
     void IGeometrySink.Line(Vec3 from, Vec3 to, Vec3 thickness)
     {
-        var path = new PathPen(canvas.NewPath(), _current.Context.Map);
+        var path = new PathPen(_canvas.NewPath(), _current.Context.Map);
         path.MoveTo(from);
         path.LineTo(to);
         if (thickness != default)
@@ -29,20 +29,20 @@ internal sealed partial class SceneBuilder
             path.LineTo(to + thickness);
         }
 
-        canvas.Stroke(_current.Pen);
+        _canvas.Stroke(_current.Pen);
     }
 
     void IGeometrySink.Arc(in PlanarArc arc)
     {
         Affine3 map = MapOf(arc.Plane);
-        PathBuffer path = canvas.NewPath();
+        PathBuffer path = _canvas.NewPath();
         AddArc(new PathPen(path, map, arc.Center.Z), arc);
         if (arc.Thickness != 0)
         {
             AddArc(new PathPen(path, map, arc.Center.Z + arc.Thickness), arc);
         }
 
-        canvas.Stroke(_current.Pen);
+        _canvas.Stroke(_current.Pen);
     }
 
     private static void AddArc(in PathPen path, in PlanarArc arc)
@@ -60,7 +60,7 @@ internal sealed partial class SceneBuilder
     void IGeometrySink.EllipticArc(in EllipticArc arc)
     {
         (double sin, double cos) = Math.SinCos(arc.Start);
-        var path = new PathPen(canvas.NewPath(), _current.Context.Map);
+        var path = new PathPen(_canvas.NewPath(), _current.Context.Map);
         path.MoveTo(arc.Center + (arc.Major * cos) + (arc.Minor * sin));
         path.EllipseTo(arc.Center, arc.Major, arc.Minor, arc.Start, arc.Sweep);
         if (arc.IsWhole)
@@ -68,7 +68,7 @@ internal sealed partial class SceneBuilder
             path.Close();
         }
 
-        canvas.Stroke(_current.Pen);
+        _canvas.Stroke(_current.Pen);
     }
 
     void IGeometrySink.Point(Vec3 point)
@@ -77,8 +77,8 @@ internal sealed partial class SceneBuilder
         Vec2 at = context.Map.Project(point);
         Pen solid = _current.Pen;
         solid.Pattern = null;
-        PathBuffer path = canvas.NewPath();
-        int mode = tables.Settings.PointMode;
+        PathBuffer path = _canvas.NewPath();
+        int mode = _tables.Settings.PointMode;
         double size = PointSize(context) / 2;
         AddPointFigure(path, mode & PointFigureMask, at, size);
         if ((mode & PointInCircle) != 0)
@@ -95,7 +95,7 @@ internal sealed partial class SceneBuilder
             path.Close();
         }
 
-        canvas.Stroke(solid);
+        _canvas.Stroke(solid);
     }
 
     private static void AddPointFigure(PathBuffer path, int figure, Vec2 at, double size)
@@ -129,7 +129,7 @@ internal sealed partial class SceneBuilder
     // A size of zero or below is a share of the view; the extents drawn so far stand in for the view.
     private double PointSize(BlockContext context)
     {
-        double size = tables.Settings.PointSize;
+        double size = _tables.Settings.PointSize;
         if (size > 0)
         {
             return size * context.Map.PlaneScale;
@@ -142,10 +142,10 @@ internal sealed partial class SceneBuilder
 
     void IGeometrySink.Spline(in SplineCurve spline)
     {
-        var path = new PathPen(canvas.NewPath(), _current.Context.Map);
+        var path = new PathPen(_canvas.NewPath(), _current.Context.Map);
         if (spline.TryDraw(path, OutlineSink.ToleranceOf(spline.Control)))
         {
-            canvas.Stroke(_current.Pen);
+            _canvas.Stroke(_current.Pen);
         }
         else
         {
@@ -155,31 +155,31 @@ internal sealed partial class SceneBuilder
 
     void IGeometrySink.Quad(in FilledQuad quad)
     {
-        var path = new PathPen(canvas.NewPath(), MapOf(quad.Plane));
+        var path = new PathPen(_canvas.NewPath(), MapOf(quad.Plane));
         path.MoveTo(quad.A);
         path.LineTo(quad.B);
         path.LineTo(quad.C);
         path.LineTo(quad.D);
         path.Close();
-        if (tables.Settings.FillMode)
+        if (_tables.Settings.FillMode)
         {
-            canvas.Fill(_current.Pen, evenOdd: true);
+            _canvas.Fill(_current.Pen, evenOdd: true);
         }
         else
         {
-            canvas.Stroke(_current.Pen);
+            _canvas.Stroke(_current.Pen);
         }
     }
 
     void IGeometrySink.Face(ReadOnlySpan<Vec3> corners, int hiddenEdges)
     {
-        AddEdges(new PathPen(canvas.NewPath(), _current.Context.Map), corners, hiddenEdges);
-        canvas.Stroke(_current.Pen);
+        AddEdges(new PathPen(_canvas.NewPath(), _current.Context.Map), corners, hiddenEdges);
+        _canvas.Stroke(_current.Pen);
     }
 
     void IGeometrySink.Faces(FaceSet faces)
     {
-        var path = new PathPen(canvas.NewPath(), _current.Context.Map);
+        var path = new PathPen(_canvas.NewPath(), _current.Context.Map);
         foreach (FaceCorners face in faces.Faces)
         {
             if (face.Count >= 2)
@@ -188,7 +188,7 @@ internal sealed partial class SceneBuilder
             }
         }
 
-        canvas.Stroke(_current.Pen);
+        _canvas.Stroke(_current.Pen);
     }
 
     /// <summary>Adds the visible edges of a face; bit i of the mask hides the edge that leaves corner i.</summary>

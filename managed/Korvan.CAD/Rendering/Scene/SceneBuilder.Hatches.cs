@@ -1,9 +1,8 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Hatch;
 
@@ -20,7 +19,7 @@ internal sealed partial class SceneBuilder
     void IGeometrySink.Hatch(CadHatch hatch, in Affine3 ocs)
     {
         Pen pen = _current.Pen;
-        if (!tables.Settings.FillMode)
+        if (!_tables.Settings.FillMode)
         {
             return;
         }
@@ -32,21 +31,21 @@ internal sealed partial class SceneBuilder
         }
 
         var plane = new HatchPlane(MapOf(ocs), hatch.ElevationPoint.Z);
-        if (hatch.IsGradient != 0 && hatch.GradientColors.Count > 0 && style.SingleColor == null)
+        if (hatch.IsGradient != 0 && hatch.GradientColors.Count > 0 && _style.SingleColor == null)
         {
-            canvas.FillLoops(loops, plane, pen, GradientOf(hatch, loops, plane, pen));
+            _canvas.FillLoops(loops, plane, pen, GradientOf(hatch, loops, plane, pen));
         }
         else if (hatch.SolidFillFlag != 0)
         {
-            canvas.FillLoops(loops, plane, pen, null);
+            _canvas.FillLoops(loops, plane, pen, null);
         }
-        else if (style.CoarseHatches)
+        else if (_style.CoarseHatches)
         {
-            canvas.FillLoops(loops, plane, pen with { Color = pen.Color.WithAlpha((byte)(pen.Color.A / 2)) }, null);
+            _canvas.FillLoops(loops, plane, pen with { Color = pen.Color.WithAlpha((byte)(pen.Color.A / 2)) }, null);
         }
         else
         {
-            canvas.FillPattern(loops, Lines(hatch), plane, pen);
+            _canvas.FillPattern(loops, Lines(hatch), plane, pen);
         }
     }
 

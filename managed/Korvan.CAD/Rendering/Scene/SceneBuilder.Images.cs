@@ -1,9 +1,9 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
 using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -30,11 +30,11 @@ internal sealed partial class SceneBuilder
     {
         AddImageOutline(frame, wipeout.ClipBoundaryVertices);
         Pen mask = _current.Pen;
-        mask.Color = style.Background;
-        canvas.Fill(mask, evenOdd: true);
-        if (tables.Settings.WipeoutFrames)
+        mask.Color = _style.Background;
+        _canvas.Fill(mask, evenOdd: true);
+        if (_tables.Settings.WipeoutFrames)
         {
-            canvas.Stroke(_current.Pen);
+            _canvas.Stroke(_current.Pen);
         }
     }
 
@@ -44,7 +44,7 @@ internal sealed partial class SceneBuilder
         bool clipped = image.ClippingState != 0 && (image.DisplayFlags & UsesClipping) != 0;
         IList<Cad2DPoint> boundary = clipped ? image.ClipBoundaryVertices : [];
         bool isShown = (image.DisplayFlags & ShowsImage) != 0;
-        Picture? picture = isShown ? tables.Pictures.Find(image.ImageDefReference) : null;
+        Picture? picture = isShown ? _tables.Pictures.Find(image.ImageDefReference) : null;
         if (picture == null)
         {
             List.Skip(image.TypeNameText + DrawingList.MissingFile);
@@ -52,16 +52,16 @@ internal sealed partial class SceneBuilder
         else
         {
             AddImageOutline(frame, boundary);
-            Bounds2 extent = canvas.Path.Bounds;
-            List.PushClip(canvas.Path, evenOdd: true);
+            Bounds2 extent = _canvas.Path.Bounds;
+            List.PushClip(_canvas.Path, evenOdd: true);
             List.Image(Placed(picture, frame, image.Fade), pen.Layer, extent);
             List.PopClip();
         }
 
-        if (tables.Settings.ImageFrames)
+        if (_tables.Settings.ImageFrames)
         {
             AddImageOutline(frame, boundary);
-            canvas.Stroke(pen);
+            _canvas.Stroke(pen);
         }
     }
 
@@ -83,7 +83,7 @@ internal sealed partial class SceneBuilder
     private void AddImageOutline(in ImageFrame frame, IList<Cad2DPoint> boundary)
     {
         var pixels = new Affine3(frame.U, -frame.V, Vec3.UnitZ, frame.Corner + frame.Up);
-        var path = new PathPen(canvas.NewPath(), _current.Context.Map * pixels);
+        var path = new PathPen(_canvas.NewPath(), _current.Context.Map * pixels);
         if (boundary.Count > 2)
         {
             AddPolygon(path, boundary.ConvertAll(p => p.ToVec2() + new Vec2(0.5, 0.5)));
@@ -124,7 +124,7 @@ internal sealed partial class SceneBuilder
         }
         else
         {
-            infinite.Add(() => DrawClipped(start, along, bothWays, InfiniteRegion, pen));
+            _infinite.Add(() => DrawClipped(start, along, bothWays, InfiniteRegion, pen));
         }
     }
 
@@ -134,12 +134,12 @@ internal sealed partial class SceneBuilder
     {
         Bounds2 box = List.Bounds;
         InfiniteRegion = box.IsEmpty ? Bounds2.Of(-1, -1, 1, 1) : box;
-        foreach (Action draw in infinite)
+        foreach (Action draw in _infinite)
         {
             draw();
         }
 
-        infinite.Clear();
+        _infinite.Clear();
     }
 
     // Liang and Barsky's parametric clipping, 1984.
@@ -153,10 +153,10 @@ internal sealed partial class SceneBuilder
             && low < high;
         if (visible)
         {
-            PathBuffer path = canvas.NewPath();
+            PathBuffer path = _canvas.NewPath();
             path.MoveTo(start + (along * low));
             path.LineTo(start + (along * high));
-            canvas.Stroke(pen);
+            _canvas.Stroke(pen);
         }
     }
 

@@ -1,10 +1,10 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
-using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 
@@ -43,20 +43,20 @@ internal sealed partial class SceneBuilder
             return;
         }
 
-        LayerInfo layer = pens.LayerOf(viewport, context);
+        LayerInfo layer = _pens.LayerOf(viewport, context);
         Vec2 center = viewport.CenterPoint.ToVec3().Xy;
         Affine3 map = ViewTransform.Viewport(
             view.Target, view.Direction, view.Twist, view.Center, view.Height, center, viewport.Height);
         var scope = new ViewportScope(
-            FrozenNames(viewport, view), tables.Settings.PaperLinetypeScale ? 1 : viewport.Height / view.Height);
+            FrozenNames(viewport, view), _tables.Settings.PaperLinetypeScale ? 1 : viewport.Height / view.Height);
         AddViewportOutline(viewport, sheet, context);
-        List.PushClip(canvas.Path, evenOdd: true);
+        List.PushClip(_canvas.Path, evenOdd: true);
         DrawSpace(model, new BlockContext { Map = map, Viewport = scope });
         List.PopClip();
-        if (pens.IsVisible(layer, context))
+        if (_pens.IsVisible(layer, context))
         {
             AddViewportOutline(viewport, sheet, context);
-            canvas.Stroke(pens.PenOf(viewport, layer, context));
+            _canvas.Stroke(_pens.PenOf(viewport, layer, context));
         }
     }
 
@@ -66,7 +66,7 @@ internal sealed partial class SceneBuilder
         if (viewport.FrozenLayers.Count > 0)
         {
             var handles = new HashSet<string>(viewport.FrozenLayers, StringComparer.OrdinalIgnoreCase);
-            names.UnionWith(tables.Layers.Values.Where(l => handles.Contains(l.Handle)).Select(l => l.Name));
+            names.UnionWith(_tables.Layers.Values.Where(l => handles.Contains(l.Handle)).Select(l => l.Name));
         }
 
         return names;
@@ -74,20 +74,20 @@ internal sealed partial class SceneBuilder
 
     private void AddViewportOutline(CadViewport viewport, BlockInfo sheet, BlockContext context)
     {
-        canvas.NewPath();
+        _canvas.NewPath();
         if ((viewport.StatusFlags & ClippedByShape) != 0 && viewport.ClippingBoundaryHandle.Length > 0)
         {
             CadEntityBase? shape = sheet.Entities.FirstOrDefault(
                 e =>
                     string.Equals(e.ObjectHandle, viewport.ClippingBoundaryHandle, StringComparison.OrdinalIgnoreCase));
-            if (shape != null && TryAddShape(shape, context) && !canvas.Path.Bounds.IsEmpty)
+            if (shape != null && TryAddShape(shape, context) && !_canvas.Path.Bounds.IsEmpty)
             {
                 return;
             }
         }
 
         Vec2 c = viewport.CenterPoint.ToVec3().Xy;
-        canvas.NewPath();
+        _canvas.NewPath();
         AddBox(
             context.Map,
             c.X - (viewport.Width / 2),
@@ -99,5 +99,5 @@ internal sealed partial class SceneBuilder
     /// <summary>Adds the closed outline of an entity that may bound a viewport.</summary>
     private bool TryAddShape(CadEntityBase shape, BlockContext context) =>
         shape is CadLwPolyline or CadPolyline or CadEllipse or CadSpline or (CadCircle and not CadArc)
-            && EntityGeometry.Emit(shape, new OutlineSink(canvas.Path, context.Map));
+            && EntityGeometry.Emit(shape, new OutlineSink(_canvas.Path, context.Map));
 }

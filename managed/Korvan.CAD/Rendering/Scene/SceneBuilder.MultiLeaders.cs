@@ -23,7 +23,7 @@ internal sealed partial class SceneBuilder
             Pen own = entity;
             own.Color = (raw >> 24) == (RawColor.ByBlock >> 24)
                 ? entity.Color
-                : pens.ColorOf(RawColor.Decode(raw), layer, context).WithAlpha(entity.Color.A);
+                : _pens.ColorOf(RawColor.Decode(raw), layer, context).WithAlpha(entity.Color.A);
             return own;
         }
 
@@ -48,13 +48,14 @@ internal sealed partial class SceneBuilder
 
     private void DrawLeaderBlock(CadMLeaderBlock content, in Pen pen, LayerInfo layer, BlockContext context)
     {
-        if (!tables.BlocksByRecord.TryGetValue(HandleOf(content.BlockRecordHandle), out BlockInfo? block))
+        if (!_tables.BlocksByRecord.TryGetValue(HandleOf(content.BlockRecordHandle), out BlockInfo? block))
         {
             return;
         }
 
         Cad3DPoint s = content.Scale;
-        Affine3 map = context.Map * Affine3.Translation(content.Location.ToVec3()) * Ocs.ToWorld(content.Normal.ToVec3())
+        Affine3 map = context.Map * Affine3.Translation(content.Location.ToVec3()) * Ocs
+            .ToWorld(content.Normal.ToVec3())
             * Affine3.RotationZ(content.Rotation) * Affine3.Scaling(NotZero(s.X), NotZero(s.Y), NotZero(s.Z))
             * Affine3.Translation(-block.Base);
         DrawBlock(block, map, layer, pen, context);
@@ -67,10 +68,10 @@ internal sealed partial class SceneBuilder
         Vec3 start = branch.LastLeaderLinePoint.ToVec3();
         if (leader.Style.IsLandingEnabled && branch.DoglegLength > 0)
         {
-            var landing = new PathPen(canvas.NewPath(), context.Map);
+            var landing = new PathPen(_canvas.NewPath(), context.Map);
             landing.MoveTo(start);
             landing.LineTo(start + (branch.DoglegVector.ToVec3().Unit() * branch.DoglegLength));
-            canvas.Stroke(pen);
+            _canvas.Stroke(pen);
         }
 
         foreach (CadMLeaderLine line in branch.LeaderLines)
@@ -94,7 +95,7 @@ internal sealed partial class SceneBuilder
             points[0] = tip + (along * arrowSize);
         }
 
-        var path = new PathPen(canvas.NewPath(), context.Map);
+        var path = new PathPen(_canvas.NewPath(), context.Map);
         if (leader.Style.LeaderType == spline)
         {
             FitSpline.Draw(path, points, null, null, closed: false);
@@ -104,30 +105,30 @@ internal sealed partial class SceneBuilder
             points.ForEach(path.LineTo);
         }
 
-        canvas.Stroke(pen);
+        _canvas.Stroke(pen);
     }
 
     private void DrawLeaderText(CadMLeaderContextData data, in Pen pen, LayerInfo layer, BlockContext context)
     {
-        StyleInfo used = tables.StylesByHandle.TryGetValue(HandleOf(data.TextStyleHandle), out StyleInfo? style)
+        StyleInfo used = _tables.StylesByHandle.TryGetValue(HandleOf(data.TextStyleHandle), out StyleInfo? style)
             ? style
             : StyleInfo.Default;
-        double height = data.TextHeight > 0 ? data.TextHeight : tables.Settings.TextSize;
+        double height = data.TextHeight > 0 ? data.TextHeight : _tables.Settings.TextSize;
         MTextFormat start = StartFormat(used, height);
         double spacing = data.LineSpacingFactor is > 0 and < 100 ? data.LineSpacingFactor : 1;
         var frame = new MTextFrame(data.TextWidth, Math.Clamp((int)data.TextAttachment, 1, 3), spacing, false);
-        MTextLayout layout = MTextLayout.Create(canvas.Engine, MTextParser.Parse(data.Text, start), frame, height);
+        MTextLayout layout = MTextLayout.Create(_canvas.Engine, MTextParser.Parse(data.Text, start), frame, height);
         Vec3 x = data.TextDirection.ToVec3().Unit();
         Vec3 normal = data.TextNormal.ToVec3().Unit();
         var plane = new Affine3(x, Vec3.Cross(normal, x), normal, data.TextLocation.ToVec3());
         TextPainter.Draw(
-            canvas, layout, context.Map * plane, pen, color => InlineColorOf(color, layer, context));
+            _canvas, layout, context.Map * plane, pen, color => InlineColorOf(color, layer, context));
     }
 
     /// <summary>A table has its graphics in an anonymous block at its insertion point.</summary>
     void IGeometrySink.Table(CadTableEntity table, in Affine3 map)
     {
-        if (!tables.Blocks.TryGetValue(table.Name, out BlockInfo? block))
+        if (!_tables.Blocks.TryGetValue(table.Name, out BlockInfo? block))
         {
             List.Skip("ACAD_TABLE without a picture");
             return;

@@ -26,7 +26,7 @@ internal sealed partial class SceneBuilder
 
         (Pen pen, LayerInfo layer, BlockContext context, _) = _current;
 
-        tables.MlineStyles.TryGetValue(line.StyleName, out MlineStyle? mline);
+        _tables.MlineStyles.TryGetValue(line.StyleName, out MlineStyle? mline);
         bool closed = (line.Flags & CadMultiLineFlag.Closed) != 0;
         int elements = 0;
         line.Vertices.ForEach(v => elements = Math.Max(elements, v.ElementParameters.Count));
@@ -41,18 +41,18 @@ internal sealed partial class SceneBuilder
             if (mline != null && e < mline.Elements.Count)
             {
                 MlineElement element = mline.Elements[e];
-                own.Color = pens.ColorOf(element.Color, layer, context).WithAlpha(pen.Color.A);
-                own.Pattern = pens.PatternOf(element.LineType, layer, context) ?? pen.Pattern;
+                own.Color = _pens.ColorOf(element.Color, layer, context).WithAlpha(pen.Color.A);
+                own.Pattern = _pens.PatternOf(element.LineType, layer, context) ?? pen.Pattern;
             }
 
-            var path = new PathPen(canvas.NewPath(), context.Map);
+            var path = new PathPen(_canvas.NewPath(), context.Map);
             int segments = closed ? line.Vertices.Count : line.Vertices.Count - 1;
             for (int i = 0; i < segments; i++)
             {
                 AddMlinePiece(path, line.Vertices[i], line.Vertices[(i + 1) % line.Vertices.Count], e);
             }
 
-            canvas.Stroke(own);
+            _canvas.Stroke(own);
         }
 
         if (mline != null && elements > 1)
@@ -97,7 +97,7 @@ internal sealed partial class SceneBuilder
         BlockContext context)
     {
         (int low, int high) = OuterElements(line.Vertices[0], elements);
-        var path = new PathPen(canvas.NewPath(), context.Map);
+        var path = new PathPen(_canvas.NewPath(), context.Map);
         int segments = closed ? line.Vertices.Count : line.Vertices.Count - 1;
         for (int i = 0; i < segments; i++)
         {
@@ -111,15 +111,15 @@ internal sealed partial class SceneBuilder
         }
 
         Pen fill = pen;
-        fill.Color = pens.ColorOf(mline.FillColor, layer, context).WithAlpha(pen.Color.A);
-        canvas.Fill(fill, evenOdd: false);
+        fill.Color = _pens.ColorOf(mline.FillColor, layer, context).WithAlpha(pen.Color.A);
+        _canvas.Fill(fill, evenOdd: false);
     }
 
     private void DrawMlineJoints(
         CadMultiLine line, int elements, bool closed, int flags, in Pen pen, BlockContext context)
     {
         (int low, int high) = OuterElements(line.Vertices[0], elements);
-        var path = new PathPen(canvas.NewPath(), context.Map);
+        var path = new PathPen(_canvas.NewPath(), context.Map);
         int last = line.Vertices.Count - 1;
         for (int i = 0; i <= last; i++)
         {
@@ -147,7 +147,7 @@ internal sealed partial class SceneBuilder
             }
         }
 
-        canvas.Stroke(pen);
+        _canvas.Stroke(pen);
     }
 
     private static (int Low, int High) OuterElements(CadMultiLineVectorBlock vertex, int elements)

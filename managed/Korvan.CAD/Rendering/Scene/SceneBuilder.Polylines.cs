@@ -24,7 +24,7 @@ internal sealed partial class SceneBuilder
             return;
         }
 
-        var path = new PathPen(canvas.NewPath(), map, polyline.Elevation);
+        var path = new PathPen(_canvas.NewPath(), map, polyline.Elevation);
         if (_current.Pen.Pattern != null && !polyline.HasContinuousPattern)
         {
             DrawSegments(vertices, path, closed);
@@ -35,8 +35,8 @@ internal sealed partial class SceneBuilder
         if (polyline.Thickness != 0)
         {
             double top = polyline.Elevation + polyline.Thickness;
-            AddVertices(new PathPen(canvas.Path, map, top), vertices, closed);
-            var edges = new PathPen(canvas.Path, map);
+            AddVertices(new PathPen(_canvas.Path, map, top), vertices, closed);
+            var edges = new PathPen(_canvas.Path, map);
             foreach (PolyVertex v in vertices)
             {
                 edges.MoveTo(new Vec3(v.Point.X, v.Point.Y, polyline.Elevation));
@@ -44,27 +44,27 @@ internal sealed partial class SceneBuilder
             }
         }
 
-        canvas.Stroke(_current.Pen);
+        _canvas.Stroke(_current.Pen);
     }
 
     private void DrawWide(ReadOnlySpan<PolyVertex> all, in Affine3 map, double elevation, bool closed)
     {
         Pen pen = _current.Pen;
-        var path = new PathPen(canvas.NewPath(), map, elevation);
+        var path = new PathPen(_canvas.NewPath(), map, elevation);
         WidePolyline.AddOutline(path, all, closed);
-        if (tables.Settings.FillMode)
+        if (_tables.Settings.FillMode)
         {
-            canvas.Fill(pen, evenOdd: false);
+            _canvas.Fill(pen, evenOdd: false);
         }
         else
         {
             Pen outline = pen;
             outline.Pattern = null;
-            canvas.Stroke(outline);
+            _canvas.Stroke(outline);
         }
 
         // Segments without a width among wide ones are still lines.
-        canvas.NewPath();
+        _canvas.NewPath();
         int segments = closed ? all.Length : all.Length - 1;
         for (int i = 0; i < segments; i++)
         {
@@ -75,7 +75,7 @@ internal sealed partial class SceneBuilder
             }
         }
 
-        canvas.Stroke(pen);
+        _canvas.Stroke(pen);
     }
 
     /// <summary>Each segment begins its line type anew.</summary>
@@ -84,11 +84,11 @@ internal sealed partial class SceneBuilder
         int segments = closed ? vertices.Length : vertices.Length - 1;
         for (int i = 0; i < segments; i++)
         {
-            canvas.NewPath();
+            _canvas.NewPath();
             Vec2 from = vertices[i].Point;
             path.MoveTo(from);
             path.BulgeTo(from, vertices[(i + 1) % vertices.Length].Point, vertices[i].Bulge);
-            canvas.Stroke(_current.Pen);
+            _canvas.Stroke(_current.Pen);
         }
     }
 
@@ -114,7 +114,7 @@ internal sealed partial class SceneBuilder
 
     void IGeometrySink.Polyline(ReadOnlySpan<Vec3> points, bool closed)
     {
-        var path = new PathPen(canvas.NewPath(), _current.Context.Map);
+        var path = new PathPen(_canvas.NewPath(), _current.Context.Map);
         foreach (Vec3 point in points)
         {
             path.LineTo(point);
@@ -125,7 +125,7 @@ internal sealed partial class SceneBuilder
             path.Close();
         }
 
-        canvas.Stroke(_current.Pen);
+        _canvas.Stroke(_current.Pen);
     }
 
     void IGeometrySink.Grid(in PointGrid grid)
@@ -136,7 +136,7 @@ internal sealed partial class SceneBuilder
             return;
         }
 
-        var path = new PathPen(canvas.NewPath(), _current.Context.Map);
+        var path = new PathPen(_canvas.NewPath(), _current.Context.Map);
         for (int row = 0; row < grid.Rows; row++)
         {
             AddRun(path, grid.Points, row * grid.Columns, 1, grid.Columns, grid.ClosesRows);
@@ -147,7 +147,7 @@ internal sealed partial class SceneBuilder
             AddRun(path, grid.Points, column, grid.Columns, grid.Rows, grid.ClosesColumns);
         }
 
-        canvas.Stroke(_current.Pen);
+        _canvas.Stroke(_current.Pen);
     }
 
     private static void AddRun(in PathPen path, List<Vec3> points, int first, int step, int count, bool closed)

@@ -1,9 +1,6 @@
 using System;
-using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
@@ -27,11 +24,11 @@ internal sealed partial class SceneBuilder
             && _current.Context.BlockName.Length > 0;
         if (!isReplaced && IsShown(text) && !string.IsNullOrWhiteSpace(text.Shown))
         {
-            TextPainter.Draw(canvas, TextLayouts.LineOf(text, tables), MapOf(text.Plane), _current.Pen);
+            TextPainter.Draw(_canvas, TextLayouts.LineOf(text, _tables), MapOf(text.Plane), _current.Pen);
         }
     }
 
-    private bool IsShown(in TextLine text) => text.Role == TextRole.Text || tables.Settings.AttributeMode switch
+    private bool IsShown(in TextLine text) => text.Role == TextRole.Text || _tables.Settings.AttributeMode switch
     {
         0 => false,
         2 => true,
@@ -41,17 +38,17 @@ internal sealed partial class SceneBuilder
     void IGeometrySink.Paragraphs(CadMText text, in Affine3 plane)
     {
         (Pen pen, LayerInfo layer, BlockContext context, _) = _current;
-        double height = TextLayouts.HeightOf(text, tables);
-        MTextLayout layout = TextLayouts.LayoutOf(text, tables, canvas.Engine);
+        double height = TextLayouts.HeightOf(text, _tables);
+        MTextLayout layout = TextLayouts.LayoutOf(text, _tables, _canvas.Engine);
         Affine3 map = MapOf(plane);
         DrawBackground(text, layout, height, map, pen, layer, context);
-        TextPainter.Draw(canvas, layout, map, pen, color => InlineColorOf(color, layer, context));
+        TextPainter.Draw(_canvas, layout, map, pen, color => InlineColorOf(color, layer, context));
     }
 
     private static MTextFormat StartFormat(StyleInfo style, double height) => TextLayouts.StartFormat(style, height);
 
     private Rgba InlineColorOf(InlineColor color, LayerInfo layer, BlockContext context) =>
-        pens.ColorOf(
+        _pens.ColorOf(
             color.IsTrueColor ? new DrawingColor(0, color.Value) : new DrawingColor(color.Value), layer, context);
 
     private void DrawBackground(
@@ -68,7 +65,7 @@ internal sealed partial class SceneBuilder
 
         double grow = (Math.Clamp(text.FillBoxScale, 1, 5) - 1) * height;
         (double left, double bottom, double right, double top) = layout.Box;
-        var path = new PathPen(canvas.NewPath(), map);
+        var path = new PathPen(_canvas.NewPath(), map);
         path.MoveTo(new Vec2(left - grow, bottom - grow));
         path.LineTo(new Vec2(right + grow, bottom - grow));
         path.LineTo(new Vec2(right + grow, top + grow));
@@ -79,14 +76,14 @@ internal sealed partial class SceneBuilder
             bool window = (setting & BackgroundOfWindow) != 0;
             Pen fill = pen;
             fill.Color = window
-                ? style.Background
-                : pens.ColorOf(new DrawingColor(text.BackgroundColorId, text.BackgroundColor), layer, context);
-            canvas.Fill(fill, evenOdd: false);
+                ? _style.Background
+                : _pens.ColorOf(new DrawingColor(text.BackgroundColorId, text.BackgroundColor), layer, context);
+            _canvas.Fill(fill, evenOdd: false);
         }
 
         if (framed)
         {
-            canvas.Stroke(pen);
+            _canvas.Stroke(pen);
         }
     }
 }

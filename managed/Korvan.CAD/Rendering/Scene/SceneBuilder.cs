@@ -1,13 +1,9 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 
@@ -22,26 +18,26 @@ internal sealed partial class SceneBuilder : IGeometrySink
     private const int MaxEntities = 20_000_000;
     private const int CheckpointEvery = 4096;
 
-    private readonly SceneTables tables;
-    private readonly RenderStyle style;
-    private readonly Canvas canvas;
-    private readonly PenResolver pens;
-    private readonly List<Action> infinite = [];
-    private int drawn;
+    private readonly SceneTables _tables;
+    private readonly RenderStyle _style;
+    private readonly Canvas _canvas;
+    private readonly PenResolver _pens;
+    private readonly List<Action> _infinite = [];
+    private int _drawn;
     private Current _current;
 
     private SceneBuilder(SceneTables tables, RenderStyle style, TextEngine engine, bool onPaper)
     {
-        this.tables = tables;
-        this.style = style;
-        canvas = new Canvas(new DrawingList { ColorMap = style.ColorMap }, engine)
+        _tables = tables;
+        _style = style;
+        _canvas = new Canvas(new DrawingList { ColorMap = style.ColorMap }, engine)
         {
             StyleFont = name => tables.Style(name).Font,
         };
-        pens = new PenResolver(tables, style, canvas.List, onPaper);
+        _pens = new PenResolver(tables, style, _canvas.List, onPaper);
     }
 
-    private DrawingList List => canvas.List;
+    private DrawingList List => _canvas.List;
 
     /// <summary>The list of the model, in the plane of the view.</summary>
     internal static DrawingList BuildModel(SceneTables tables, RenderStyle style, TextEngine engine, BlockInfo model)
@@ -67,7 +63,7 @@ internal sealed partial class SceneBuilder : IGeometrySink
     private void Draw(CadEntityBase entity, BlockContext context)
     {
         Count();
-        LayerInfo layer = pens.LayerOf(entity, context);
+        LayerInfo layer = _pens.LayerOf(entity, context);
         if (entity.Visible != 0)
         {
             return;
@@ -81,9 +77,9 @@ internal sealed partial class SceneBuilder : IGeometrySink
         {
             DrawDimension(dimension, layer, context);
         }
-        else if (pens.IsVisible(layer, context))
+        else if (_pens.IsVisible(layer, context))
         {
-            Pen pen = pens.PenOf(entity, layer, context);
+            Pen pen = _pens.PenOf(entity, layer, context);
             DrawVisible(entity, pen, layer, context);
         }
     }
@@ -103,15 +99,15 @@ internal sealed partial class SceneBuilder : IGeometrySink
 
     private void Count()
     {
-        if (++drawn % CheckpointEvery == 0)
+        if (++_drawn % CheckpointEvery == 0)
         {
-            style.Checkpoint?.Invoke();
+            _style.Checkpoint?.Invoke();
         }
 
-        if (drawn > MaxEntities)
+        if (_drawn > MaxEntities)
         {
             throw new RenderException(
-                $"The drawing shows more than {MaxEntities} entities once its block references are drawn; "
+                $"The drawing shows more than {MaxEntities} entities once its block references are _drawn; "
                     + "it is too large to be rendered.");
         }
     }

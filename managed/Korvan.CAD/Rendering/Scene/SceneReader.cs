@@ -1,14 +1,13 @@
 using System;
 using System.Collections.Generic;
-using System.Globalization;
 using System.Linq;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadTables;
-using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.Rendering.Devices;
 
 namespace Korvan.CAD.Rendering.Scene;
 

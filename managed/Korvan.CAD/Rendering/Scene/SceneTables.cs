@@ -1,10 +1,8 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
-using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;
 

@@ -34,7 +34,8 @@ internal static class SortTables
         ulong entity = 0;
         foreach (CadCodeValue tag in table.UnknownCodes)
         {
-            if (!ulong.TryParse(tag.Value, NumberStyles.AllowHexSpecifier, CultureInfo.InvariantCulture, out ulong handle))
+            if (!ulong.TryParse(tag.Value, NumberStyles.AllowHexSpecifier, CultureInfo.InvariantCulture,
+                out ulong handle))
             {
                 continue;
             }

@@ -2,10 +2,8 @@ using System;
 using System.Collections.Generic;
 using System.Globalization;
 using Korvan.CAD.FileFormats.Cad;
-using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;
 
@@ -32,7 +30,8 @@ internal static class TableReader
     internal static StyleInfo Style(CadStyleTableObject style)
     {
         double width = style.WidthFactor is > 0.01 and < 100 ? style.WidthFactor : 1;
-        return new StyleInfo(Font(style), style.TextHeight, width, style.ObliqueAngle, FontTable.IsToleranceSymbolFont(style.PrimaryFontName));
+        return new StyleInfo(Font(style), style.TextHeight, width, style.ObliqueAngle,
+            FontTable.IsToleranceSymbolFont(style.PrimaryFontName));
     }
 
     internal static DimStyleInfo DimStyle(CadDimensionStyleTable style, double overallScale, string textStyle) =>
@@ -55,7 +54,8 @@ internal static class TableReader
     }
 
     private static bool TryText(
-        CadLineTypeTableObject type, int element, double at, IReadOnlyDictionary<string, string> styleNames, out PatternText text)
+        CadLineTypeTableObject type, int element, double at, IReadOnlyDictionary<string, string> styleNames,
+            out PatternText text)
     {
         int kind = 0;
         text = new PatternText(at, string.Empty, string.Empty, 1, 0, 0, 0);
@@ -72,7 +72,11 @@ internal static class TableReader
                     kind = (int)Number(tag);
                     break;
                 case 340:
-                    text = text with { Style = styleNames.TryGetValue(tag.Value.TrimStart('0'), out string? name) ? name : string.Empty };
+                    text = text with
+                    {
+                        Style = styleNames.TryGetValue(tag.Value.TrimStart('0'), out string? name) ? name
+                        : string.Empty
+                    };
                     break;
                 case 46:
                     text = text with { Height = Number(tag) };
@@ -95,7 +99,8 @@ internal static class TableReader
         return (kind & TextElement) != 0 && text.Text.Length > 0 && text.Height > 0;
     }
 
-    /// <summary>Outline fonts stand in extended data as a family and bits for weight and slant, stroke fonts as a file.</summary>
+    /// <summary>Outline fonts stand in extended data as a family and bits for weight and slant, stroke fonts as a
+    /// file.</summary>
     private static FontSpec Font(CadStyleTableObject style)
     {
         string family = style.FontFamily;
@@ -111,7 +116,8 @@ internal static class TableReader
 
     private static double Opacity(CadLayerTable layer)
     {
-        CadCodeValue? tag = layer.XdataOrNull?.Find(TransparencyApplication)?.Data.Find(static t => t.Attribute == 1071);
+        CadCodeValue? tag = layer.XdataOrNull?.Find(TransparencyApplication)?.Data.Find(static t =>
+            t.Attribute == 1071);
         return tag == null ? 1 : ((int)Number(tag) & 0xff) / 255.0;
     }
 

@@ -1,8 +1,8 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
-using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;

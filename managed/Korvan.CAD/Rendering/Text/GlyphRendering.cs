@@ -21,16 +21,16 @@ internal readonly record struct GlyphRendering(GlyphEdges Edges, bool IsHinted)
 
     internal static GlyphRendering Of(VectorRasterizationOptions? options) =>
         options?.GraphicsOptions?.TextRenderingHint switch
-    {
-        TextRenderingHint.SingleBitPerPixelGridFit => new GlyphRendering(GlyphEdges.Sharp, true),
-        TextRenderingHint.SingleBitPerPixel => new GlyphRendering(GlyphEdges.Sharp, false),
-        TextRenderingHint.AntiAliasGridFit => new GlyphRendering(GlyphEdges.Smooth, true),
-        TextRenderingHint.AntiAlias => new GlyphRendering(GlyphEdges.Smooth, false),
-        TextRenderingHint.ClearTypeGridFit => new GlyphRendering(GlyphEdges.Subpixel, true),
-        _ => options is CadRasterizationOptions { Quality.Text: RasterizationQualityValue.Low }
-            ? new GlyphRendering(GlyphEdges.Sharp, false)
-            : default,
-    };
+        {
+            TextRenderingHint.SingleBitPerPixelGridFit => new GlyphRendering(GlyphEdges.Sharp, true),
+            TextRenderingHint.SingleBitPerPixel => new GlyphRendering(GlyphEdges.Sharp, false),
+            TextRenderingHint.AntiAliasGridFit => new GlyphRendering(GlyphEdges.Smooth, true),
+            TextRenderingHint.AntiAlias => new GlyphRendering(GlyphEdges.Smooth, false),
+            TextRenderingHint.ClearTypeGridFit => new GlyphRendering(GlyphEdges.Subpixel, true),
+            _ => options is CadRasterizationOptions { Quality.Text: RasterizationQualityValue.Low }
+                ? new GlyphRendering(GlyphEdges.Sharp, false)
+                : default,
+        };
 }
 
 /// <summary>How the edges of glyphs are antialiased.</summary>

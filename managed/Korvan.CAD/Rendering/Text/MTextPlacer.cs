@@ -55,7 +55,9 @@ internal static class MTextPlacer
             layout.Runs.Add(Run(engine, token.Text, format, upperX, baseline + (h * 0.4), piece.UpperWidth));
             layout.Runs.Add(Run(engine, token.Lower, format, lowerX, baseline - (h * 0.4), piece.LowerWidth));
             double at = upperX + piece.UpperWidth + (h * 0.05);
-            layout.Bars.Add(new PlacedBar(at - (h * 0.3), baseline - (h * 0.4), at + (h * 0.3), baseline + (h * 1.4), h * BarThickness, format.Color));
+            layout.Bars
+                .Add(new PlacedBar(at - (h * 0.3), baseline - (h * 0.4), at + (h * 0.3), baseline
+                + (h * 1.4), h * BarThickness, format.Color));
             return;
         }
 
@@ -73,7 +75,9 @@ internal static class MTextPlacer
         layout.Runs.Add(Run(engine, token.Lower, format, lowerAt, middle - (h * 1.25), piece.LowerWidth));
         if (bar)
         {
-            layout.Bars.Add(new PlacedBar(x + (inset / 2), middle, x + piece.Width - (inset / 2), middle, h * BarThickness, format.Color));
+            layout.Bars
+                .Add(new PlacedBar(x + (inset / 2), middle, x
+                + piece.Width - (inset / 2), middle, h * BarThickness, format.Color));
         }
     }
 

@@ -31,8 +31,8 @@ internal static unsafe class CallbackStack
         nint size = 0;
         if (GetAttributes(Self(), attributes) == 0)
         {
-            GetStack(attributes, &lowest, &size);
-            DestroyAttributes(attributes);
+            _ = GetStack(attributes, &lowest, &size);
+            _ = DestroyAttributes(attributes);
         }
         if (attributes - lowest < size / 2 || size > 2 * RuntimeReserve)
         {

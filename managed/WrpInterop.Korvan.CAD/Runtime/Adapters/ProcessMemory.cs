@@ -45,7 +45,7 @@ internal static unsafe class ProcessMemory
         const int Size = 64;
         byte* text = stackalloc byte[Size];
         nint length = Read(file, text, Size);
-        Close(file);
+        _ = Close(file);
         return PagesOf(new ReadOnlySpan<byte>(text, (int)nint.Max(length, 0))) * Environment.SystemPageSize;
     }
 

@@ -168,7 +168,8 @@ public class TriangulationTests
         "spike without area" => [[new(0, 0), new(10, 0), new(10, 10), new(0, 10), new(0, 15), new(0, 10)]],
         "no area" => [[new(0, 0), new(5, 5), new(10, 10)]],
         "slit to the hole" =>
-            [[new(0, 0), new(10, 0), new(10, 10), new(0, 10), new(0, 0), new(4, 4), new(4, 6), new(6, 6), new(6, 4), new(4, 4)]],
+            [[new(0, 0), new(10, 0), new(10, 10), new(0, 10), new(0, 0), new(4, 4), new(4, 6), new(6, 6), new(6, 4),
+                new(4, 4)]],
         "hole at a corner" => [Box(0, 0, 10, 10), [new(0, 0), new(3, 1), new(4, 4), new(1, 3)], Box(20, 20, 20, 20)],
         "hole corner on an edge" => [Box(0, 0, 10, 10), [new(5, 0), new(7, 1), new(5, 2), new(3, 1)]],
         "hole edge on an edge" => [Box(0, 0, 10, 10), Box(4, 0, 6, 2)],
@@ -230,7 +231,8 @@ public class TriangulationTests
     private static Vec2[] Star(Random random, Vec2 center, double inner, double outer, int count)
     {
         Vec2[] ring = [.. Enumerable.Range(0, count).Select(i =>
-            center + Vec2.Polar((i + (0.8 * random.NextDouble())) * Math.Tau / count, inner + (random.NextDouble() * (outer - inner))))];
+            center + Vec2.Polar((i + (0.8 * random.NextDouble())) * Math.Tau / count, inner
+                + (random.NextDouble() * (outer - inner))))];
         if (random.Next(2) == 0)
         {
             Array.Reverse(ring);

@@ -4,7 +4,6 @@ using System.IO;
 using System.Linq;
 using System.Text;
 using Korvan.CAD.CadExceptions;
-using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Sources;
 using Korvan.CAD.Tests.FileFormats.Cad;

@@ -1,9 +1,7 @@
 using System;
-using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Dicom;
-using Korvan.CAD.FileFormats.Jpeg;
 using Korvan.CAD.FileFormats.Png;
 using Korvan.CAD.FileFormats.Psd;
 using Korvan.CAD.FileFormats.Tiff.Enums;

@@ -3,7 +3,6 @@ using System.Collections.Generic;
 using System.Linq;
 using System.Reflection;
 using System.Text.RegularExpressions;
-using Korvan.CAD.ImageOptions;
 using Korvan.WrpGen.Naming;
 
 namespace Korvan.CAD.Tests.Options;

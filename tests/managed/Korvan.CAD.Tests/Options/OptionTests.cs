@@ -4,10 +4,9 @@ using System.IO;
 using System.Linq;
 using System.Text;
 using System.Text.RegularExpressions;
-using Korvan.CAD.Formats;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering;
 using Korvan.CAD.Tests.Raster;
 using Xunit;
 

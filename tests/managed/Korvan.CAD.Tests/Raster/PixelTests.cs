@@ -1,11 +1,9 @@
 using System;
 using System.Collections.Generic;
-using System.IO;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.PaletteHelper;
-using Korvan.CAD.Raster;
 using Korvan.CAD.Tests.Rendering;
 using Xunit;
 

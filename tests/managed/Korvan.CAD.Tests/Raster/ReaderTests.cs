@@ -1,7 +1,6 @@
 using System;
 using System.IO;
 using System.Linq;
-using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Bitmap;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;

@@ -1,14 +1,13 @@
 using System;
 using System.Collections.Generic;
 using System.IO;
-using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.Rendering;
-using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.ImageOptions;
-using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 using Xunit;
@@ -38,7 +37,8 @@ public class DeviceTests
     {
         var list = new DrawingList();
         list.Stroke(Line(0, 20, 100, 20), new StrokeStyle { Color = Red, LineWeight = 1, Dash = list.Dash([20, 20]) });
-        list.Stroke(Line(0, 60, 100, 60), new StrokeStyle { Color = Red, LineWeight = 1, Dash = list.Dash([0.01, 0.01]) });
+        list.Stroke(Line(0, 60, 100, 60),
+            new StrokeStyle { Color = Red, LineWeight = 1, Dash = list.Dash([0.01, 0.01]) });
         using RasterPage page = Render(list);
         Assert.Equal(Red, At(page, 10, 20));
         Assert.Equal(Rgba.White, At(page, 30, 20));
@@ -57,7 +57,8 @@ public class DeviceTests
         corner.MoveTo(new Vec2(5, 5));
         corner.LineTo(new Vec2(20, 5));
         corner.LineTo(new Vec2(20, 20));
-        list.Stroke(corner, new StrokeStyle { Color = Red, LineWeight = 4, WeightInUnits = true, Look = square, Dash = -1 });
+        list.Stroke(corner,
+            new StrokeStyle { Color = Red, LineWeight = 4, WeightInUnits = true, Look = square, Dash = -1 });
         corner.Clear();
         corner.MoveTo(new Vec2(30, 5));
         corner.LineTo(new Vec2(45, 5));
@@ -65,7 +66,8 @@ public class DeviceTests
         list.Stroke(corner, new StrokeStyle { Color = Blue, LineWeight = 2, Look = butt, Dash = -1 });
         using var engine = new TextEngine();
         Page once = PageOf(list, Rgba.White);
-        using RasterPage page = RasterPage.Render(engine, once with { Settings = once.Settings with { ToDevice = new Affine2(2, 0, 0, -2, 0, 100) } });
+        using RasterPage page = RasterPage.Render(engine,
+            once with { Settings = once.Settings with { ToDevice = new Affine2(2, 0, 0, -2, 0, 100) } });
         Assert.Equal(Red, At(page, 20, 13)); // 4 units are 8 pixels
         Assert.Equal(Rgba.White, At(page, 20, 15));
         Assert.Equal(Red, At(page, 7, 10)); // beyond the end by half the width
@@ -134,7 +136,14 @@ public class DeviceTests
         using var engine = new TextEngine();
         var list = new DrawingList();
         var canvas = new Canvas(list, engine);
-        var line = new SingleLine { Text = "HHHH", Font = FontSpec.Default, First = new Vec3(10, 20, 0), Height = 40, WidthFactor = 1 };
+        var line = new SingleLine
+        {
+            Text = "HHHH",
+            Font = FontSpec.Default,
+            First = new Vec3(10, 20, 0),
+            Height = 40,
+            WidthFactor = 1
+        };
         TextPainter.Draw(canvas, line, Affine3.Identity, new Pen { Color = Rgba.Black });
         using RasterPage page = Render(list, engine);
         (int low, int high) = InkRows(page);
@@ -204,7 +213,8 @@ public class DeviceTests
             PngEncoder.Write(page, output, 9, 200);
         }
 
-        Assert.Equal("100x100 200", Tools.Run("identify", "-units", "PixelsPerInch", "-format", "%wx%h %[fx:round(resolution.x)]", file));
+        Assert.Equal("100x100 200",
+            Tools.Run("identify", "-units", "PixelsPerInch", "-format", "%wx%h %[fx:round(resolution.x)]", file));
         Assert.Equal("srgba(255,0,0,0.5", Tools.Run("convert", file, "-format", "%[pixel:p{10,90}]", "info:")[..17]);
     }
 
@@ -215,7 +225,8 @@ public class DeviceTests
         var list = new DrawingList();
         for (int i = 0; i < 20_000; i++)
         {
-            list.Stroke(Line(i % 97, i % 89, i % 83, i % 79), new StrokeStyle { Color = Red, LineWeight = i % 7, Dash = -1 });
+            list.Stroke(Line(i % 97, i % 89, i % 83, i % 79),
+                new StrokeStyle { Color = Red, LineWeight = i % 7, Dash = -1 });
         }
 
         var failed = Assert.Throws<IOException>(

@@ -1,6 +1,5 @@
 using System;
 using System.Collections;
-using System.Collections.Generic;
 using System.IO;
 using System.Linq;
 using System.Reflection;
@@ -19,14 +18,18 @@ public class EntityChaosTests
     private const int EntitiesInADrawing = 40;
     private const int DeepestObject = 3;
 
-    private static readonly double[] Reals = [0, 1, -1, 10, 50, 99.5, 0.001, -200, 1e-300, 1e9, -1e300, double.NaN, double.PositiveInfinity];
+    private static readonly double[] Reals = [0, 1, -1, 10, 50, 99.5, 0.001, -200, 1e-300, 1e9, -1e300, double.NaN,
+        double.PositiveInfinity];
     private static readonly int[] Numbers = [0, 1, 2, 3, 4, 5, 7, -1, -2, 100, 255, 32_767, int.MaxValue, int.MinValue];
-    private static readonly string[] Words = ["", "0", "block", "*Model_Space", "words {\\fArial|b1;in} a\\Pline", "%%c%%u\\U+2205", "\0\t", new('x', 300)];
+    private static readonly string[] Words = ["", "0", "block", "*Model_Space", "words {\\fArial|b1;in} a\\Pline",
+        "%%c%%u\\U+2205", "\0\t", new('x', 300)];
     private static readonly Type[] Types = [.. typeof(CadEntityBase).Assembly.GetTypes().Where(static type =>
-        type is { IsAbstract: false, IsPublic: true } && type.IsSubclassOf(typeof(CadEntityBase)) && type.GetConstructor([]) != null)];
+        type is { IsAbstract: false, IsPublic: true } && type.IsSubclassOf(typeof(CadEntityBase))
+            && type.GetConstructor([]) != null)];
 
     private static readonly ImageOptionsBase[] Outputs =
-        [new PngOptions(), new SvgOptions(), new PdfOptions(), new EmfOptions(), new CgmOptions(), new DxfOptions(), new GlbOptions(), new StlOptions()];
+        [new PngOptions(), new SvgOptions(), new PdfOptions(), new EmfOptions(), new CgmOptions(), new DxfOptions(),
+            new GlbOptions(), new StlOptions()];
 
     [Theory]
     [InlineData(1)]
@@ -62,14 +65,17 @@ public class EntityChaosTests
             }
             catch (Exception e)
             {
-                Assert.Fail($"{options.GetType().Name}, drawing {i} of seed {seed}, {string.Join(", ", entities.Select(static one => one.GetType().Name).Distinct())}: {e}");
+                Assert.Fail(
+                    $"{options.GetType().Name}, drawing {i} of seed {seed}, "
+                        + $"{string.Join(", ", entities.Select(static one => one.GetType().Name).Distinct())}: {e}");
             }
         }
 
         Assert.InRange(written, Drawings / 3, Drawings);
     }
 
-    private static CadEntityBase Any(Random random) => (CadEntityBase)Filled(Types[random.Next(Types.Length)], random, 0);
+    private static CadEntityBase Any(Random random) =>
+        (CadEntityBase)Filled(Types[random.Next(Types.Length)], random, 0);
 
     private static object Filled(Type type, Random random, int depth)
     {
@@ -77,11 +83,13 @@ public class EntityChaosTests
         foreach (PropertyInfo property in type.GetProperties().Where(static p => p.GetIndexParameters().Length == 0))
         {
             // Some members stay as they are: with all of them wild, little would be drawn.
-            if (property.SetMethod is { IsPublic: true } && random.Next(3) > 0 && Value(property.PropertyType, random, depth) is object value)
+            if (property.SetMethod is { IsPublic: true } && random.Next(3) > 0
+                && Value(property.PropertyType, random, depth) is object value)
             {
                 Set(made, property, value);
             }
-            else if (property.GetValue(made) is IList { IsFixedSize: false } list && property.PropertyType.IsGenericType)
+            else if (property.GetValue(made) is IList { IsFixedSize: false } list
+                && property.PropertyType.IsGenericType)
             {
                 Add(list, property.PropertyType.GetGenericArguments()[0], random, depth);
             }
@@ -97,7 +105,8 @@ public class EntityChaosTests
         {
             property.SetValue(made, value);
         }
-        catch (TargetInvocationException e) when (e.InnerException is ArgumentException or FormatException or FrameworkException)
+        catch (TargetInvocationException e) when (e.InnerException is ArgumentException or FormatException
+            or FrameworkException)
         {
             // It keeps what it has.
         }
@@ -119,7 +128,8 @@ public class EntityChaosTests
         Type plain = Nullable.GetUnderlyingType(type) ?? type;
         return plain switch
         {
-            _ when plain == typeof(double) => random.Next(4) > 0 ? random.NextDouble() * 100 : Reals[random.Next(Reals.Length)],
+            _ when plain == typeof(double) => random.Next(4) > 0 ? random.NextDouble() * 100
+                : Reals[random.Next(Reals.Length)],
             _ when plain == typeof(float) => (float)random.NextDouble() * 100,
             _ when plain == typeof(int) => Numbers[random.Next(Numbers.Length)],
             _ when plain == typeof(short) => (short)Numbers[random.Next(Numbers.Length)],
@@ -129,7 +139,8 @@ public class EntityChaosTests
             _ when plain == typeof(string) => Words[random.Next(Words.Length)],
             { IsEnum: true } => Enum.ToObject(plain, random.Next(-1, 9)),
             { IsAbstract: true } or { IsInterface: true } or { IsArray: true } or { IsGenericType: true } => null,
-            _ when depth < DeepestObject && plain.IsClass && plain.GetConstructor([]) != null => Filled(plain, random, depth + 1),
+            _ when depth < DeepestObject && plain.IsClass && plain.GetConstructor([]) != null =>
+                Filled(plain, random, depth + 1),
             _ => null,
         };
     }

@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -7,7 +8,6 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.FileFormats.Cad.CadTables;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
@@ -32,17 +32,33 @@ public class EntityTests
     [Fact]
     public void Planar_entities_follow_their_extrusion()
     {
-        DrawingList list = Build(new CadCircle { CenterPoint = P(10, 5, 0), Radius = 1, ExtrusionDirection = P(0, 0, -1) });
+        DrawingList list = Build(new CadCircle
+        {
+            CenterPoint = P(10, 5, 0),
+            Radius = 1,
+            ExtrusionDirection = P(0, 0, -1)
+        });
         Assert.Equal(-10, list.Bounds.Center.X, 6);
         Assert.Equal(5, list.Bounds.Center.Y, 6);
-        DrawingList line = Build(new CadLine { FirstPoint = P(1, 2, 0), SecondPoint = P(3, 4, 0), ExtrusionDirection = P(0, 0, -1) });
+        DrawingList line = Build(new CadLine
+        {
+            FirstPoint = P(1, 2, 0),
+            SecondPoint = P(3, 4, 0),
+            ExtrusionDirection = P(0, 0, -1)
+        });
         Assert.Equal((1.0, 3.0), (line.Bounds.MinX, line.Bounds.MaxX));
     }
 
     [Fact]
     public void Ellipses_turn_with_their_major_axis()
     {
-        DrawingList list = Build(new CadEllipse { MajorEndPoint = P(0, 10, 0), AxisRatio = 0.5, StartAngle = 0, EndAngle = Math.PI / 2 });
+        DrawingList list = Build(new CadEllipse
+        {
+            MajorEndPoint = P(0, 10, 0),
+            AxisRatio = 0.5,
+            StartAngle = 0,
+            EndAngle = Math.PI / 2
+        });
         AssertBox(list, -5, 0, 0, 10);
     }
 
@@ -71,7 +87,12 @@ public class EntityTests
     [Fact]
     public void Meshes_show_rows_and_columns_and_close_in_both_directions()
     {
-        var mesh = new CadPolygonMesh { MeshMVertexCount = 2, MeshNVertexCount = 3, Flag = CadPolylineFlag.PolygonMesh | CadPolylineFlag.ClosedN };
+        var mesh = new CadPolygonMesh
+        {
+            MeshMVertexCount = 2,
+            MeshNVertexCount = 3,
+            Flag = CadPolylineFlag.PolygonMesh | CadPolylineFlag.ClosedN
+        };
         for (int i = 0; i < 6; i++)
         {
             mesh.Vertices.Add(new CadPolygonMeshVertex { LocationPoint = P(i % 3 * 10, i / 3 * 5, 0) });
@@ -93,16 +114,31 @@ public class EntityTests
             mesh.Vertices.Add(new CadVertexPolyFaceMesh { LocationPoint = P(x, y, 0), VertexFlags = 192 });
         }
 
-        mesh.Vertices.Add(new CadFaceRecord { VertexIndex1 = 1, VertexIndex2 = -2, VertexIndex3 = 3, VertexIndex4 = 4, VertexFlags = 128 });
+        mesh.Vertices
+            .Add(new CadFaceRecord
+            {
+                VertexIndex1 = 1,
+                VertexIndex2 = -2,
+                VertexIndex3 = 3,
+                VertexIndex4 = 4,
+                VertexFlags = 128
+            });
         Assert.Equal(30, Length(Build(mesh)), 9);
-        mesh.Vertices.Add(new CadFaceRecord { VertexIndex1 = 99, VertexIndex2 = 1, VertexFlags = 128 }); // an index of no vertex
+        mesh.Vertices
+            .Add(new CadFaceRecord { VertexIndex1 = 99, VertexIndex2 = 1, VertexFlags = 128 }); // an index of no vertex
         Assert.Equal(30, Length(Build(mesh)), 9);
     }
 
     [Fact]
     public void Faces_hide_their_invisible_edges()
     {
-        var face = new Cad3DFace { FirstPoint = P(0, 0, 0), SecondPoint = P(10, 0, 0), ThirdPoint = P(10, 10, 5), FourthPoint = P(0, 10, 5) };
+        var face = new Cad3DFace
+        {
+            FirstPoint = P(0, 0, 0),
+            SecondPoint = P(10, 0, 0),
+            ThirdPoint = P(10, 10, 5),
+            FourthPoint = P(0, 10, 5)
+        };
         Assert.Equal(40, Length(Build(face)), 9);
         face.InvisibleEdges = 5;
         Assert.Equal(20, Length(Build(face)), 9);
@@ -156,7 +192,12 @@ public class EntityTests
         var line = new CadMultiLine { StyleName = "DOUBLE", Flags = CadMultiLineFlag.HasVertices };
         foreach (double x in new[] { 0.0, 100 })
         {
-            var vertex = new CadMultiLineVectorBlock { Location = P(x, 0, 0), Direction = P(1, 0, 0), Miter = P(0, 1, 0) };
+            var vertex = new CadMultiLineVectorBlock
+            {
+                Location = P(x, 0, 0),
+                Direction = P(1, 0, 0),
+                Miter = P(0, 1, 0)
+            };
             vertex.ElementParameters.Add([5, 0, 40, 60]);
             vertex.ElementParameters.Add([-5, 0]);
             line.Vertices.Add(vertex);
@@ -184,7 +225,8 @@ public class EntityTests
     [Fact]
     public void What_has_no_picture_is_counted()
     {
-        CadImage drawing = Picture.Drawing(new Cad3DSolid(), new Cad3DSolid(), Picture.Insert("MISSING"), new CadRotatedDimension { BlockName = "*D9" });
+        CadImage drawing = Picture.Drawing(new Cad3DSolid(), new Cad3DSolid(), Picture.Insert("MISSING"),
+            new CadRotatedDimension { BlockName = "*D9" });
         DrawingList list = Build(drawing);
         Assert.Equal(2, list.Skipped["3DSOLID"]);
         Assert.Equal(1, list.Skipped["INSERT of a missing block"]);
@@ -240,7 +282,8 @@ public class EntityTests
     [Fact]
     public void Colours_that_are_true_go_before_indexed_ones_and_off_layers_keep_theirs()
     {
-        CadImage drawing = Picture.Drawing(new CadLine { SecondPoint = P(1, 0, 0), ColorId = 1, ColorValue = 0x123456 });
+        CadImage drawing = Picture
+            .Drawing(new CadLine { SecondPoint = P(1, 0, 0), ColorId = 1, ColorValue = 0x123456 });
         Assert.Equal(new Rgba(0x12, 0x34, 0x56), Build(drawing).Items[0].Color);
         Assert.Equal(new Rgba(0, 255, 255), AciPalette.Color(4, Rgba.White));
     }
@@ -267,7 +310,8 @@ public class EntityTests
         return kinds;
     }
 
-    private static void AssertBox(DrawingList list, double left, double bottom, double right, double top, double tolerance = 1e-3)
+    private static void AssertBox(DrawingList list, double left, double bottom, double right, double top,
+        double tolerance = 1e-3)
     {
         Assert.Equal(left, list.Bounds.MinX, tolerance);
         Assert.Equal(bottom, list.Bounds.MinY, tolerance);
@@ -302,7 +346,8 @@ public class EntityTests
                         at += 2;
                         break;
                     case PathVerb.Curve:
-                        path.CurveTo(new Vec2(c[at], c[at + 1]), new Vec2(c[at + 2], c[at + 3]), new Vec2(c[at + 4], c[at + 5]));
+                        path.CurveTo(new Vec2(c[at], c[at + 1]), new Vec2(c[at + 2], c[at + 3]),
+                            new Vec2(c[at + 4], c[at + 5]));
                         at += 6;
                         break;
                     default:

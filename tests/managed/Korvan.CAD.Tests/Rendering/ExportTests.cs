@@ -1,14 +1,12 @@
-using System;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Pdf;
-using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering;
-using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering.Devices;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
@@ -34,7 +32,8 @@ public class ExportTests
         Assert.Matches(@"Page\s+1 size:\s+841\.89 x 595\.276", info);
         Assert.Contains("SHEETTEXT", Tools.Run("pdftotext", "-f", "1", "-l", "1", file, "-"));
         Assert.Contains("MODELTEXT", Tools.Run("pdftotext", "-f", "2", "-l", "2", file, "-"));
-        Assert.All(Tools.Run("pdffonts", file).Split('\n').Skip(2).Where(l => l.Length > 0), l => Assert.Contains("yes yes", l));
+        Assert.All(Tools.Run("pdffonts", file).Split('\n').Skip(2).Where(l => l.Length > 0), l =>
+            Assert.Contains("yes yes", l));
     }
 
     [Theory]
@@ -44,7 +43,8 @@ public class ExportTests
     public void Page_sizes_are_in_their_unit(UnitType unit, float width, float height, string expected)
     {
         var raster = new CadRasterizationOptions { PageWidth = width, PageHeight = height, UnitType = unit };
-        string file = Picture.SaveTo(Picture.Drawing(Text("X")), new PdfOptions { VectorRasterizationOptions = raster }, ".pdf");
+        string file = Picture.SaveTo(Picture.Drawing(Text("X")), new PdfOptions { VectorRasterizationOptions = raster },
+            ".pdf");
         Assert.Contains(expected, Tools.Run("pdfinfo", file));
     }
 
@@ -56,14 +56,16 @@ public class ExportTests
         for (int i = 0; i < 2; i++)
         {
             var raster = new CadRasterizationOptions { PageWidth = 200, PageHeight = 200 };
-            string file = Picture.SaveTo(drawing, new SvgOptions { TextAsShapes = i == 0, VectorRasterizationOptions = raster }, ".svg");
+            string file = Picture.SaveTo(drawing,
+                new SvgOptions { TextAsShapes = i == 0, VectorRasterizationOptions = raster }, ".svg");
             Tools.Run("xmllint", "--noout", file);
             Assert.Equal(i == 1, File.ReadAllText(file).Contains(">A&lt;B &amp; \u00c4</text>"));
             pictures[i] = Tools.TempFile(".png");
             Tools.Run("rsvg-convert", "-o", pictures[i], file);
         }
 
-        string difference = Tools.Run("convert", pictures[0], pictures[1], "-metric", "RMSE", "-compare", "-format", "%[distortion]", "info:");
+        string difference = Tools.Run("convert", pictures[0], pictures[1], "-metric", "RMSE", "-compare", "-format",
+            "%[distortion]", "info:");
         Assert.InRange(double.Parse(difference, System.Globalization.CultureInfo.InvariantCulture), 0, 0.05);
     }
 
@@ -120,7 +122,8 @@ public class ExportTests
     [Fact]
     public void Drawings_without_size_still_get_a_page()
     {
-        foreach (CadImage drawing in new[] { Picture.Drawing(), Picture.Drawing(new CadPoint()), Picture.Drawing(Horizontal(5)) })
+        foreach (CadImage drawing in new[] { Picture.Drawing(), Picture.Drawing(new CadPoint()),
+            Picture.Drawing(Horizontal(5)) })
         {
             string file = Picture.SaveTo(drawing, new PdfOptions(), ".pdf");
             Assert.Matches(@"Pages:\s+1", Tools.Run("pdfinfo", file));
@@ -131,13 +134,32 @@ public class ExportTests
     public void What_cannot_be_a_page_is_refused_with_its_reason()
     {
         CadImage wide = Picture.Drawing(Horizontal(1e9));
-        Refused(wide, new PdfOptions { VectorRasterizationOptions = new CadRasterizationOptions { NoScaling = true } }, "too large");
-        Refused(wide, new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = 90_000, PageHeight = 10 } }, "too large");
+        Refused(wide, new PdfOptions { VectorRasterizationOptions = new CadRasterizationOptions { NoScaling = true } },
+            "too large");
+        Refused(wide,
+            new PngOptions
+            {
+                VectorRasterizationOptions = new CadRasterizationOptions
+                {
+                    PageWidth = 90_000,
+                    PageHeight = 10
+                }
+            }, "too large");
         Refused(Picture.Drawing(Horizontal(1e308), Horizontal(-1e308)), new PngOptions(), "not finite");
         var borders = new CadRasterizationOptions { PageWidth = 10, PageHeight = 10, BorderX = 8 };
         Refused(wide, new PngOptions { VectorRasterizationOptions = borders }, "no room");
-        Refused(wide, new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { Layouts = ["Nope"] } }, "\"Nope\"");
-        Refused(wide, new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { Layouts = ["Model", "Model"] } }, "one page");
+        Refused(wide,
+            new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { Layouts = ["Nope"] } },
+                "\"Nope\"");
+        Refused(wide,
+            new PngOptions
+            {
+                VectorRasterizationOptions = new CadRasterizationOptions
+                {
+                    Layouts = ["Model",
+                "Model"]
+                }
+            }, "one page");
         Refused(wide, new PdfOptions { CorePdfOptions = new PdfDocumentOptions { Compliance = PdfCompliance.PdfA1b } },
             "PDF_A1B");
         Refused(wide,
@@ -148,7 +170,8 @@ public class ExportTests
     [Fact]
     public void Coordinates_that_are_not_numbers_do_not_reach_the_page()
     {
-        CadImage drawing = Picture.Drawing(Horizontal(double.NaN), Horizontal(double.PositiveInfinity), Picture.Square(0, 0, 50, 1));
+        CadImage drawing = Picture.Drawing(Horizontal(double.NaN), Horizontal(double.PositiveInfinity),
+            Picture.Square(0, 0, 50, 1));
         using Picture picture = Picture.Of(drawing);
         Assert.Equal(255, picture[20, 20].R);
     }
@@ -159,7 +182,8 @@ public class ExportTests
         Assert.Contains(reason, refused.Message);
     }
 
-    private static CadText Text(string text) => new() { DefaultValue = text, TextHeight = 10, FirstAlignment = new Cad3DPoint(20, 20, 0) };
+    private static CadText Text(string text) =>
+        new() { DefaultValue = text, TextHeight = 10, FirstAlignment = new Cad3DPoint(20, 20, 0) };
 
     private static CadLine Horizontal(double length) => new() { SecondPoint = new Cad3DPoint(length, 0, 0) };
 }

@@ -2,9 +2,8 @@ using System;
 using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
-using Korvan.CAD.ImageOptions;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.ImageOptions;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
@@ -56,7 +55,8 @@ public class FlatteningTests
         path.LineTo(new Vec2(10, 0));
         PathBuffer dashes = new();
         Assert.True(DashSplitter.TrySplit(path, [2, 1], offset, 0.1, dashes));
-        List<double> ends = FlatLine.Of(dashes, 0.1).SelectMany(line => new[] { line.Points[0].X, line.Points[^1].X }).ToList();
+        List<double> ends = FlatLine.Of(dashes, 0.1).SelectMany(line =>
+            new[] { line.Points[0].X, line.Points[^1].X }).ToList();
         Assert.Equal(expected, ends.ConvertAll(x => Math.Round(x, 9)));
     }
 
@@ -85,7 +85,8 @@ public class FlatteningTests
     public void A_limit_that_no_quality_keeps_to_is_an_error()
     {
         var settings = new RdOptimizerSettings { BppMax = 0.1, MinQuality = 30 };
-        RdOptimizationError error = Assert.Throws<RdOptimizationError>(() => settings.Optimize(8000, tried => new byte[tried * 20]));
+        RdOptimizationError error = Assert.Throws<RdOptimizationError>(() =>
+            settings.Optimize(8000, tried => new byte[tried * 20]));
         Assert.Contains("takes 0.6 bits", error.Message, StringComparison.Ordinal);
     }
 }

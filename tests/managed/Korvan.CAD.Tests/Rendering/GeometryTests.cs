@@ -127,7 +127,8 @@ public class GeometryTests
         var points = new Vec3[4];
         Assert.Null(Nurbs.Create(3, [0, 0, 0, 0, 1, 1, 1, 0.5], points, null));
         Assert.Null(Nurbs.Create(3, [0, 0, 0, 0, 1, 1, 1, 1], points, [1, -1, 1, 1]));
-        Assert.Null(Nurbs.Create(3, [0, 0, 0, 0, 1, 1, 1, 1], [default, default, default, new Vec3(double.NaN, 0, 0)], null));
+        Assert.Null(Nurbs.Create(3, [0, 0, 0, 0, 1, 1, 1, 1], [default, default, default, new Vec3(double.NaN, 0, 0)],
+            null));
     }
 
     [Fact]
@@ -152,7 +153,8 @@ public class GeometryTests
     [Fact]
     public void Wide_corner_is_mitred_and_filled_once()
     {
-        PolyVertex[] vertices = [new(new Vec2(0, 0), 2, 2, 0), new(new Vec2(10, 0), 2, 2, 0), new(new Vec2(10, 10), 2, 2, 0)];
+        PolyVertex[] vertices = [new(new Vec2(0, 0), 2, 2, 0), new(new Vec2(10, 0), 2, 2, 0),
+            new(new Vec2(10, 10), 2, 2, 0)];
         var path = new PathBuffer();
         WidePolyline.AddOutline(new PathPen(path, Affine3.Identity), vertices, closed: false);
         Assert.Equal((0.0, -1.0, 11.0, 10.0), (path.Bounds.MinX, path.Bounds.MinY, path.Bounds.MaxX, path.Bounds.MaxY));

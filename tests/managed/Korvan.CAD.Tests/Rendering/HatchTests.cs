@@ -11,7 +11,8 @@ public class HatchTests
     [Fact]
     public void Lines_are_cut_at_islands_and_spaced_by_their_offset()
     {
-        List<(Vec2 From, Vec2 To)> lines = Fill([Square(0, 0, 10), Square(4, 4, 2)], new HatchLine(0, new Vec2(0, 0.5), new Vec2(0, 1), []));
+        List<(Vec2 From, Vec2 To)> lines = Fill([Square(0, 0, 10), Square(4, 4, 2)],
+            new HatchLine(0, new Vec2(0, 0.5), new Vec2(0, 1), []));
         Assert.Equal(12, lines.Count); // ten rows, two of them cut in two
         Assert.Equal(100 - 4, TotalLength(lines), 9);
         Assert.Contains(lines, l => l is { From: { X: 0, Y: 4.5 }, To: { X: 4 } });
@@ -20,7 +21,8 @@ public class HatchTests
     [Fact]
     public void Dashes_start_at_the_base_point_and_shift_with_each_row()
     {
-        List<(Vec2 From, Vec2 To)> lines = Fill([Square(0, 0, 8)], new HatchLine(0, new Vec2(0, 1), new Vec2(1, 2), [2, -2]));
+        List<(Vec2 From, Vec2 To)> lines = Fill([Square(0, 0, 8)],
+            new HatchLine(0, new Vec2(0, 1), new Vec2(1, 2), [2, -2]));
         Assert.Contains((new Vec2(0, 1), new Vec2(2, 1)), lines);
         Assert.Contains((new Vec2(1, 3), new Vec2(3, 3)), lines);
         Assert.Contains((new Vec2(0, 7), new Vec2(1, 7)), lines); // cut by the boundary
@@ -38,7 +40,8 @@ public class HatchTests
     [Fact]
     public void Dots_are_lines_of_no_length()
     {
-        List<(Vec2 From, Vec2 To)> lines = Fill([Square(0, 0, 4)], new HatchLine(0, new Vec2(0.5, 0.5), new Vec2(0, 1), [0, -1]));
+        List<(Vec2 From, Vec2 To)> lines = Fill([Square(0, 0, 4)],
+            new HatchLine(0, new Vec2(0.5, 0.5), new Vec2(0, 1), [0, -1]));
         Assert.Equal(16, lines.Count);
         Assert.Equal(0, TotalLength(lines));
     }
@@ -49,7 +52,8 @@ public class HatchTests
     public void Patterns_of_millions_of_lines_are_refused(double spacing, double dash)
     {
         double[] dashes = dash > 0 ? [dash, -dash] : [];
-        Assert.False(PatternFill.TryFill([Square(0, 0, 10)], [new HatchLine(0, default, new Vec2(0, spacing), dashes)], new PathBuffer()));
+        Assert.False(PatternFill.TryFill([Square(0, 0, 10)], [new HatchLine(0, default, new Vec2(0, spacing), dashes)],
+            new PathBuffer()));
     }
 
     [Theory]

@@ -20,7 +20,8 @@ public class MetafileChaosTests
     private const int Pictures = 40;
     private const int CommandsInAPicture = 60;
 
-    private static readonly double[] Reals = [0, 1, -1, 10, 50, 99.5, 0.001, -200, 1e-300, 1e9, -1e300, double.NaN, double.PositiveInfinity];
+    private static readonly double[] Reals = [0, 1, -1, 10, 50, 99.5, 0.001, -200, 1e-300, 1e9, -1e300, double.NaN,
+        double.PositiveInfinity];
     private static readonly int[] Numbers = [0, 1, 2, 3, 4, 5, 7, -1, -2, 100, 255, 70_000, int.MaxValue, int.MinValue];
     private static readonly string[] Words = ["", "layer", "words in a line", "\0\t\u001b%G", "日本 ä", new('x', 300)];
     private static readonly Type[] Types = [.. RandomCommands.Kinds];
@@ -39,7 +40,12 @@ public class MetafileChaosTests
             Command[] body = [.. Enumerable.Range(0, CommandsInAPicture).Select(_ => Any(random))];
             CgmImage image = MetafilePage.Image([], [.. body.Where(_ => random.Next(8) == 0)], body);
             ImageOptionsBase options = i % 2 == 0 ? new PngOptions() : new SvgOptions();
-            options.VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = 40, PageHeight = 40, Layouts = [image.PictureNames[0]] };
+            options.VectorRasterizationOptions = new CadRasterizationOptions
+            {
+                PageWidth = 40,
+                PageHeight = 40,
+                Layouts = [image.PictureNames[0]]
+            };
             options.Timeout = 20_000;
             try
             {
@@ -54,7 +60,9 @@ public class MetafileChaosTests
             }
             catch (Exception e)
             {
-                Assert.Fail($"picture {i} of seed {seed}, {string.Join(", ", body.Select(static command => command.Keyword))}: {e}");
+                Assert.Fail(
+                    $"picture {i} of seed {seed}, "
+                        + $"{string.Join(", ", body.Select(static command => command.Keyword))}: {e}");
             }
         }
 
@@ -85,7 +93,8 @@ public class MetafileChaosTests
                 }
 
                 file.Position = 0;
-                int expected = image.File.Commands.Count(command => encoding == CgmFileFormat.Binary || command is not NoOp);
+                int expected = image.File.Commands.Count(command => encoding == CgmFileFormat.Binary
+                    || command is not NoOp);
                 Assert.Equal(expected, CgmFile.Load(file).Commands.Count);
                 written++;
             }
@@ -111,12 +120,15 @@ public class MetafileChaosTests
 
     private static object? Value(Type type, Random random) => type switch
     {
-        _ when type == typeof(double) => random.Next(4) > 0 ? random.NextDouble() * 100 : Reals[random.Next(Reals.Length)],
+        _ when type == typeof(double) => random.Next(4) > 0 ? random.NextDouble() * 100
+            : Reals[random.Next(Reals.Length)],
         _ when type == typeof(int) => Numbers[random.Next(Numbers.Length)],
         _ when type == typeof(bool) => random.Next(2) == 0,
         _ when type == typeof(string) => Words[random.Next(Words.Length)],
-        _ when type == typeof(CgmPoint) => new CgmPoint((double)Value(typeof(double), random)!, (double)Value(typeof(double), random)!),
-        _ when type == typeof(CgmColor) => random.Next(2) == 0 ? new CgmColor(random.Next(300)) : new CgmColor(Color.FromArgb(random.Next())),
+        _ when type == typeof(CgmPoint) =>
+            new CgmPoint((double)Value(typeof(double), random)!, (double)Value(typeof(double), random)!),
+        _ when type == typeof(CgmColor) => random.Next(2) == 0 ? new CgmColor(random.Next(300))
+            : new CgmColor(Color.FromArgb(random.Next())),
         _ when type == typeof(byte[]) => Bytes(random),
         _ when type == typeof(int[]) => Enumerable.Range(0, random.Next(20)).Select(_ => random.Next()).ToArray(),
         { IsEnum: true } => Enum.ToObject(type, random.Next(-2, 9)),
@@ -128,7 +140,8 @@ public class MetafileChaosTests
     {
         var list = (IList)Activator.CreateInstance(type)!;
         Type item = type.GetGenericArguments()[0];
-        bool isMakeable = item.IsValueType || item == typeof(string) || item == typeof(CgmPoint) || item == typeof(CgmColor);
+        bool isMakeable = item.IsValueType || item == typeof(string) || item == typeof(CgmPoint)
+            || item == typeof(CgmColor);
         for (int i = random.Next(9); i > 0 && isMakeable; i--)
         {
             list.Add(Value(item, random));

@@ -1,12 +1,11 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.DisplayList;
 
 namespace Korvan.CAD.Tests.Rendering;
 
@@ -42,7 +41,8 @@ internal sealed class MetafilePage : IDisposable
 
     internal static CgmImage Image(params Command[] body) => Image([], [], body);
 
-    /// <summary>A metafile of one picture, with further elements of its head, of the picture's head and of its body.</summary>
+    /// <summary>A metafile of one picture, with further elements of its head, of the picture's head and of its
+    /// body.</summary>
     internal static CgmImage Image(Command[] head, Command[] picture, Command[] body)
     {
         var file = new CgmFile();
@@ -73,7 +73,8 @@ internal sealed class MetafilePage : IDisposable
 
     internal static PolygonElement Polygon(params double[] xy) => new() { Points = Points(xy) };
 
-    internal static PolygonElement Box(double x0, double y0, double x1, double y1) => Polygon(x0, y0, x1, y0, x1, y1, x0, y1);
+    internal static PolygonElement Box(double x0, double y0, double x1, double y1) =>
+        Polygon(x0, y0, x1, y0, x1, y1, x0, y1);
 
     internal static List<CgmPoint> Points(params double[] xy)
     {
@@ -87,9 +88,11 @@ internal sealed class MetafilePage : IDisposable
     }
 
     /// <summary>Lines of a colour and width.</summary>
-    internal static Command[] Pen(Rgba color, double width) => [new LineColour { Color = C(color) }, new LineWidth { Width = width }];
+    internal static Command[] Pen(Rgba color, double width) =>
+        [new LineColour { Color = C(color) }, new LineWidth { Width = width }];
 
-    internal static Command[] Solid(Rgba color) => [new InteriorStyle { Value = InteriorStyle.Style.Solid }, new FillColour { Color = C(color) }];
+    internal static Command[] Solid(Rgba color) =>
+        [new InteriorStyle { Value = InteriorStyle.Style.Solid }, new FillColour { Color = C(color) }];
 
     internal static Command[] Edge(Rgba color, double width) =>
         [new EdgeVisibility { IsVisible = true }, new EdgeColour { Color = C(color) }, new EdgeWidth { Width = width }];

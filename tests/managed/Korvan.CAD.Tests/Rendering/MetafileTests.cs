@@ -1,14 +1,14 @@
 using System.Linq;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.DisplayList;
 using Xunit;
-using LineCapElement = Korvan.CAD.FileFormats.Cgm.Commands.LineCap;
 using static Korvan.CAD.Tests.Rendering.MetafilePage;
+using LineCapElement = Korvan.CAD.FileFormats.Cgm.Commands.LineCap;
 
 namespace Korvan.CAD.Tests.Rendering;
 
@@ -37,11 +37,13 @@ public class MetafileTests
         var metric = new ScalingMode { Value = ScalingMode.Mode.Metric, MetricScaleFactor = 1 };
         foreach ((SpecificationMode mode, double width, double mm, int pixels) in new[]
         {
-            (SpecificationMode.Absolute, 20.0, 1.0, 20), (SpecificationMode.Fractional, 0.2, 1.0, 20), (SpecificationMode.Millimetres, 20.0, 2.0, 10),
+            (SpecificationMode.Absolute, 20.0, 1.0, 20), (SpecificationMode.Fractional, 0.2, 1.0, 20),
+                (SpecificationMode.Millimetres, 20.0, 2.0, 10),
         })
         {
             metric.MetricScaleFactor = mm;
-            CgmImage image = Image([], [metric, new LineWidthSpecificationMode { Value = mode }], [.. Pen(Red, width), Line(0, 50, 100, 50)]);
+            CgmImage image = Image([], [metric, new LineWidthSpecificationMode { Value = mode }],
+                [.. Pen(Red, width), Line(0, 50, 100, 50)]);
             using MetafilePage page = Of(image);
             (int _, int y0, int _, int y1) = page.Ink();
             Assert.Equal(pixels, y1 - y0);
@@ -53,7 +55,9 @@ public class MetafileTests
     {
         var bundle = new LineRepresentation { BundleIndex = 2, Type = DashType.Solid, Width = 10, Color = C(Blue) };
         var flags = new AspectSourceFlags();
-        flags.Infos.Add(new AspectSourceFlags.AspectSourceFlagsInfo(AspectSourceFlags.ASFType.LineColour, AspectSourceFlags.ASFValue.Bundled));
+        flags.Infos
+            .Add(new AspectSourceFlags.AspectSourceFlagsInfo(AspectSourceFlags.ASFType.LineColour,
+            AspectSourceFlags.ASFValue.Bundled));
         CgmImage image = Image(
             [],
             [new LineAndEdgeTypeDefinition { TypeIndex = -1, RepeatLength = 40, Elements = [3, 1] }, bundle],
@@ -80,15 +84,18 @@ public class MetafileTests
         using MetafilePage page = Of(
         [
             .. Pen(Red, 4),
-            new CircularArcCentre { Centre = P(50, 50), StartX = 1, EndX = 0, EndY = 1, Radius = 20 }, // the upper right quarter
+            new CircularArcCentre { Centre = P(50, 50), StartX = 1, EndX = 0, EndY = 1, Radius = 20 },
+                // the upper right quarter
             .. Pen(Blue, 4),
-            new CircularArcCentreReversed { Centre = P(50, 50), StartX = 1, EndX = 0, EndY = 1, Radius = 30 }, // all but that
+            new CircularArcCentreReversed { Centre = P(50, 50), StartX = 1, EndX = 0, EndY = 1, Radius = 30 },
+                // all but that
             .. Pen(Green, 4),
             new CircularArc3Point { Start = P(90, 50), Intermediate = P(50, 10), End = P(10, 50) }, // the lower half
             .. Pen(Rgba.Black, 4),
             new EllipticalArc
             {
-                Centre = P(50, 50), FirstRadiusEnd = P(60, 50), SecondRadiusEnd = P(50, 55), StartX = -1, EndX = 1, EndY = 0,
+                Centre = P(50, 50), FirstRadiusEnd = P(60, 50), SecondRadiusEnd = P(50, 55), StartX = -1, EndX = 1,
+                    EndY = 0,
             }, // the lower half
         ]);
         Assert.Equal(Red, page[64, 64]);
@@ -107,18 +114,22 @@ public class MetafileTests
         using MetafilePage page = Of(
         [
             .. Pen(Red, 4),
-            new ParabolicArc { Start = P(10, 10), TangentIntersection = P(50, 90), End = P(90, 10) }, // the vertex lies halfway
+            new ParabolicArc { Start = P(10, 10), TangentIntersection = P(50, 90), End = P(90, 10) },
+                // the vertex lies halfway
             .. Pen(Blue, 4),
             new HyperbolicArc
             {
-                Centre = P(0, 0), TransverseRadiusEnd = P(30, 0), ConjugateRadiusEnd = P(0, 30), StartX = 50, StartY = -30, EndX = 50, EndY = 30,
+                Centre = P(0, 0), TransverseRadiusEnd = P(30, 0), ConjugateRadiusEnd = P(0, 30), StartX = 50,
+                    StartY = -30, EndX = 50, EndY = 30,
             },
             .. Pen(Green, 4),
-            new PolyBezier { ContinuityIndicator = 2, Points = Points(5, 60, 5, 80, 20, 80, 20, 60, 20, 40, 35, 40, 35, 60) },
+            new PolyBezier { ContinuityIndicator = 2,
+                Points = Points(5, 60, 5, 80, 20, 80, 20, 60, 20, 40, 35, 40, 35, 60) },
             .. Pen(Rgba.Black, 4),
             new NonUniformBSpline
             {
-                Order = 3, ControlPoints = Points(60, 60, 70, 100, 80, 60), Knots = [0, 0, 0, 1, 1, 1], StartParameter = 0, EndParameter = 0.5,
+                Order = 3, ControlPoints = Points(60, 60, 70, 100, 80, 60), Knots = [0, 0, 0, 1, 1, 1],
+                    StartParameter = 0, EndParameter = 0.5,
             },
         ]);
         Assert.Equal(Red, page[50, 50]);
@@ -141,13 +152,17 @@ public class MetafileTests
                 Points = Points(10, 10, 60, 10, 60, 60, 10, 60, 20, 20, 50, 20, 50, 50, 20, 50),
                 Flags =
                 [
-                    PolygonSet.EdgeFlag.Visible, PolygonSet.EdgeFlag.Invisible, PolygonSet.EdgeFlag.Visible, PolygonSet.EdgeFlag.CloseVisible,
-                    PolygonSet.EdgeFlag.Invisible, PolygonSet.EdgeFlag.Invisible, PolygonSet.EdgeFlag.Invisible, PolygonSet.EdgeFlag.CloseInvisible,
+                    PolygonSet.EdgeFlag.Visible, PolygonSet.EdgeFlag.Invisible, PolygonSet.EdgeFlag.Visible,
+                        PolygonSet.EdgeFlag.CloseVisible,
+                    PolygonSet.EdgeFlag.Invisible, PolygonSet.EdgeFlag.Invisible, PolygonSet.EdgeFlag.Invisible,
+                        PolygonSet.EdgeFlag.CloseInvisible,
                 ],
             },
             new EdgeVisibility(),
-            new CircularArcCentreClose { Centre = P(75, 75), StartX = 1, EndX = -1, EndY = 0, Radius = 20, Closure = ClosureType.Chord },
-            new CircularArcCentreClose { Centre = P(75, 40), StartX = 1, EndX = 0, EndY = -1, Radius = 20, Closure = ClosureType.Pie },
+            new CircularArcCentreClose { Centre = P(75, 75), StartX = 1, EndX = -1, EndY = 0, Radius = 20,
+                Closure = ClosureType.Chord },
+            new CircularArcCentreClose { Centre = P(75, 40), StartX = 1, EndX = 0, EndY = -1, Radius = 20,
+                Closure = ClosureType.Pie },
             new InteriorStyle { Value = InteriorStyle.Style.Empty },
             Box(0, 90, 10, 100),
         ]);
@@ -173,19 +188,23 @@ public class MetafileTests
                     new InteriorStyleSpecificationMode { Value = SpecificationMode.Absolute },
                     new HatchStyleDefinition
                     {
-                        HatchNumber = -2, FirstDirectionX = 1, FirstDirectionY = 0, CycleLength = 10, GapWidths = [1], LineTypes = [1],
+                        HatchNumber = -2, FirstDirectionX = 1, FirstDirectionY = 0, CycleLength = 10, GapWidths = [1],
+                            LineTypes = [1],
                     },
                 ],
                 [
                     pattern,
                     new InteriorStyle { Value = InteriorStyle.Style.Pattern }, new PatternIndex { Index = 3 },
-                    new PatternSize { WidthX = 20, WidthY = 0, HeightX = 0, HeightY = 10 }, new FillReferencePoint { Point = P(10, 10) },
+                    new PatternSize { WidthX = 20, WidthY = 0, HeightX = 0, HeightY = 10 },
+                        new FillReferencePoint { Point = P(10, 10) },
                     Box(0, 0, 50, 40),
                     new InteriorStyle { Value = InteriorStyle.Style.Hatch }, new HatchIndex { Index = -2 },
                     new FillColour { Color = C(Red) }, new FillReferencePoint { Point = P(0, 5) },
                     Box(50, 0, 100, 40),
-                    new InteriorStyle { Value = InteriorStyle.Style.Interpolated }, new FillReferencePoint { Point = P(0, 50) },
-                    new InterpolatedInterior { Style = 1, ReferenceGeometry = [100, 0], StageDesignators = [1], Colors = [C(Red), C(Blue)] },
+                    new InteriorStyle { Value = InteriorStyle.Style.Interpolated },
+                        new FillReferencePoint { Point = P(0, 50) },
+                    new InterpolatedInterior { Style = 1, ReferenceGeometry = [100, 0], StageDesignators = [1],
+                        Colors = [C(Red), C(Blue)] },
                     Box(0, 50, 100, 100),
                 ]));
         Assert.Equal(Red, page[15, 5]);
@@ -272,7 +291,8 @@ public class MetafileTests
         BitonalTile Tile(CompressionType type, byte[] data) =>
             new() { Compression = type, RowPadding = 8, Background = C(Green), Foreground = C(Red), Data = data };
         using MetafilePage page = Of(
-            array, Tile(CompressionType.T6, t6), Tile(CompressionType.Bitmap, [0xF0, 0xF0, 0xF0, 0xF0, 0, 0, 0, 0xFF]), new EndTileArray());
+            array, Tile(CompressionType.T6, t6), Tile(CompressionType.Bitmap, [0xF0, 0xF0, 0xF0, 0xF0, 0, 0, 0, 0xFF]),
+                new EndTileArray());
         Assert.Equal(Red, page[12, 88]);
         Assert.Equal(Red, page[48, 52]);
         Assert.Equal(Red, page[55, 85]);
@@ -292,16 +312,19 @@ public class MetafileTests
             CellSizeInPathDirection = 50,
             CellSizeInLineDirection = 50,
         };
-        Tile Tile(CompressionType type, int bits, params byte[] data) => new() { Compression = type, CellPrecision = bits, RowPadding = 8, Data = data };
+        Tile Tile(CompressionType type, int bits, params byte[] data) =>
+            new() { Compression = type, CellPrecision = bits, RowPadding = 8, Data = data };
         using MetafilePage direct = Of(array, Tile(CompressionType.Bitmap, 4, 0xF0, 0x00, 0x0F), new EndTileArray());
         Assert.Equal((Red, Blue), (direct[25, 75], direct[75, 75]));
 
         // A clear code, the cells 4 and 5, and the end, each of nine bits (TIFF 6.0, section 13).
         Tile packed = Tile(CompressionType.Lzw, 8, 0x80, 0x01, 0x00, 0xB0, 0x10);
         var table = new ColourTable { StartIndex = 4, Colors = [C(Green), C(Blue)] };
-        using MetafilePage indexed = Of(Image([], [new ColourSelectionMode()], [table, array, packed, new EndTileArray()]));
+        using MetafilePage indexed = Of(Image([], [new ColourSelectionMode()],
+            [table, array, packed, new EndTileArray()]));
         Assert.Equal((Green, Blue), (indexed[25, 75], indexed[75, 75]));
-        using MetafilePage colours = Of(array, Tile(CompressionType.Lzw, 8, 0x80, 0x3F, 0xC0, 0x00, 0x00, 0x00, 0x01, 0xFF, 0x01), new EndTileArray());
+        using MetafilePage colours = Of(array,
+            Tile(CompressionType.Lzw, 8, 0x80, 0x3F, 0xC0, 0x00, 0x00, 0x00, 0x01, 0xFF, 0x01), new EndTileArray());
         Assert.Equal((Red, Blue), (colours[25, 75], colours[75, 75]));
         using MetafilePage cut = Of(array, Tile(CompressionType.Bitmap, 8, 1, 2, 3), new EndTileArray());
         Assert.Equal(Rgba.White, cut[25, 75]); // not all cells are there
@@ -339,10 +362,12 @@ public class MetafileTests
                 .. Solid(Blue),
                 new CopySegment { SegmentIdentifier = 7, ScaleX = 2, ScaleY = 2, TranslationX = 20, TranslationY = 20 },
                 Box(60, 60, 70, 70),
-                new SavePrimitiveContext { ContextName = 1 }, .. Solid(Green), new RestorePrimitiveContext { ContextName = 1 },
+                new SavePrimitiveContext { ContextName = 1 }, .. Solid(Green),
+                    new RestorePrimitiveContext { ContextName = 1 },
                 Box(80, 80, 90, 90),
                 new BeginSegment { Identifier = 8 },
-                new SegmentTransformation { SegmentIdentifier = 8, TranslationX = 50 }, .. Solid(Green), Box(0, 0, 10, 10), new EndSegment(),
+                new SegmentTransformation { SegmentIdentifier = 8, TranslationX = 50 }, .. Solid(Green),
+                    Box(0, 0, 10, 10), new EndSegment(),
             ]);
         using MetafilePage page = Of(image);
         Assert.Equal(Rgba.White, page[5, 5]);
@@ -356,7 +381,8 @@ public class MetafileTests
     public void Segments_that_contain_themselves_are_refused_by_name()
     {
         CgmImage endless = Image(
-            [new BeginSegment { Identifier = 7 }, new CopySegment { SegmentIdentifier = 7 }, new EndSegment()], [], [new CopySegment { SegmentIdentifier = 7 }]);
+            [new BeginSegment { Identifier = 7 }, new CopySegment { SegmentIdentifier = 7 }, new EndSegment()], [],
+                [new CopySegment { SegmentIdentifier = 7 }]);
         Assert.Contains("\"one\"", Assert.Throws<ImageSaveException>(() => Of(endless)).Message);
     }
 
@@ -366,22 +392,29 @@ public class MetafileTests
         ApplicationStructureAttribute Attribute(string name, string value)
         {
             var attribute = new ApplicationStructureAttribute { AttributeType = name };
-            attribute.Value.Members.Add(new StructuredDataRecord.Member(StructuredDataRecord.StructuredDataType.Text, [value]));
+            attribute.Value.Members
+                .Add(new StructuredDataRecord.Member(StructuredDataRecord.StructuredDataType.Text, [value]));
             return attribute;
         }
 
         CgmImage image = Image(
         [
             .. Solid(Red),
-            new BeginApplicationStructure { Identifier = "a", StructureType = "layer" }, Attribute("layername", "Walls"),
+            new BeginApplicationStructure { Identifier = "a", StructureType = "layer" },
+                Attribute("layername", "Walls"),
             new BeginApplicationStructureBody(), Box(0, 0, 10, 10), new EndApplicationStructure(),
-            new BeginApplicationStructure { Identifier = "b", StructureType = "grobject" }, Attribute("visibility", "off"),
+            new BeginApplicationStructure { Identifier = "b", StructureType = "grobject" },
+                Attribute("visibility", "off"),
             new BeginApplicationStructureBody(), Box(20, 0, 30, 10), new EndApplicationStructure(),
             Box(40, 0, 50, 10),
         ]);
         using MetafilePage all = Of(image);
         Assert.Equal((Red, Rgba.White, Red), (all[5, 5], all[25, 5], all[45, 5]));
-        var options = new PngOptions { Layers = ["walls"], VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = 100, PageHeight = 100 } };
+        var options = new PngOptions
+        {
+            Layers = ["walls"],
+            VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = 100, PageHeight = 100 }
+        };
         using var walls = Rasterizer.Draw(image, options);
         Assert.Equal(0, walls.Row(95)[5 * 4]);
         Assert.Equal(255, walls.Row(95)[45 * 4]);
@@ -392,9 +425,11 @@ public class MetafileTests
     {
         var defaults = new MetafileDefaultsReplacement();
         defaults.Commands.AddRange(Solid(Blue));
-        CgmImage image = Image([defaults], [new VdcExtent(P(100, 100), P(0, 0))], [Box(0, 0, 30, 10), .. Solid(Red), Box(60, 60, 70, 70)]);
+        CgmImage image = Image([defaults], [new VdcExtent(P(100, 100), P(0, 0))],
+            [Box(0, 0, 30, 10), .. Solid(Red), Box(60, 60, 70, 70)]);
         image.File.Commands.InsertRange(image.File.Commands.Count - 1, Picture("one", [], [Box(0, 0, 30, 10)]));
-        image.File.Commands.InsertRange(image.File.Commands.Count - 1, Picture("", [new BackgroundColour { Color = C(Green) }], []));
+        image.File.Commands.InsertRange(image.File.Commands.Count - 1,
+            Picture("", [new BackgroundColour { Color = C(Green) }], []));
         Assert.Equal(["one", "one (2)", "Picture 3"], image.PictureNames);
         using MetafilePage first = Of(image, "one");
         using MetafilePage second = Of(image, "one (2)");
@@ -410,10 +445,12 @@ public class MetafileTests
     {
         var table = new ColourTable { StartIndex = 4, Colors = [C(Green), C(Blue)] };
         CgmImage image = Image([], [new ColourSelectionMode()], [
-            table, new InteriorStyle { Value = InteriorStyle.Style.Solid }, new FillColour { Color = new CgmColor(5) }, Box(0, 0, 10, 10),
+            table, new InteriorStyle { Value = InteriorStyle.Style.Solid }, new FillColour { Color = new CgmColor(5) },
+                Box(0, 0, 10, 10),
             new CellArray
             {
-                FirstCorner = P(20, 0), OppositeCorner = P(40, 10), LineEnd = P(40, 0), CellsPerLine = 2, LineCount = 1, Cells = [4, 1],
+                FirstCorner = P(20, 0), OppositeCorner = P(40, 10), LineEnd = P(40, 0), CellsPerLine = 2, LineCount = 1,
+                    Cells = [4, 1],
             },
         ]);
         using MetafilePage page = Of(image);
@@ -423,7 +460,8 @@ public class MetafileTests
     [Fact]
     public void Sizes_in_millimetres_make_pages_of_that_size()
     {
-        CgmImage image = Image([], [new ScalingMode { Value = ScalingMode.Mode.Metric, MetricScaleFactor = 2.1 }], [Box(0, 0, 10, 10)]);
+        CgmImage image = Image([], [new ScalingMode { Value = ScalingMode.Mode.Metric, MetricScaleFactor = 2.1 }],
+            [Box(0, 0, 10, 10)]);
         Assert.Equal((210, 210, UnitType.Millimeter), (image.Width, image.Height, image.UnitType));
         string file = Tools.TempFile(".pdf");
         image.Save(file, new PdfOptions());

@@ -20,7 +20,8 @@ public class MetafileTextTests
     [InlineData(Horizontal.Normal, Vertical.Normal, 50, 50)]
     [InlineData(Horizontal.Centre, Vertical.Half, 30, 40)]
     [InlineData(Horizontal.Right, Vertical.Cap, 10, 30)]
-    public void Alignment_puts_a_point_of_the_text_at_its_position(Horizontal horizontal, Vertical vertical, int left, int bottom)
+    public void Alignment_puts_a_point_of_the_text_at_its_position(Horizontal horizontal, Vertical vertical, int left,
+        int bottom)
     {
         // Two capitals of the height 20 are about 40 wide when stretched to that.
         (int x0, int y0, int x1, int y1) = InkOf(
@@ -33,10 +34,12 @@ public class MetafileTextTests
     [InlineData(RestrictedTextType.Type.BoxedCap, 40, 10, 40, 10)]
     [InlineData(RestrictedTextType.Type.IsotropicCap, 40, 5, 7, 5)]
     [InlineData(RestrictedTextType.Type.Basic, 400, 200, 40, 20)] // there is room, so nothing is stretched
-    public void Restricted_text_fits_its_box(RestrictedTextType.Type type, double width, double height, int inkWidth, int inkHeight)
+    public void Restricted_text_fits_its_box(RestrictedTextType.Type type, double width, double height, int inkWidth,
+        int inkHeight)
     {
         (int x0, int y0, int x1, int y1) = InkOf(
-            new CharacterHeight { Height = 20 }, new RestrictedTextType { Value = type }, Restricted("HH", width, height));
+            new CharacterHeight { Height = 20 }, new RestrictedTextType { Value = type },
+                Restricted("HH", width, height));
         Near((50, 50, 50 + inkWidth, 50 + inkHeight), (x0, y0, x1, y1));
     }
 
@@ -46,11 +49,15 @@ public class MetafileTextTests
         var height = new CharacterHeight { Height = 12 };
         (int x0, int y0, int x1, int y1) plain = InkOf(height, Text("HL"));
         int width = plain.x1 - plain.x0;
-        Near((50 - 12, 50, 50, 50 + width), InkOf(height, new CharacterOrientation { UpX = -1, UpY = 0, BaseX = 0, BaseY = 1 }, Text("HL")));
-        Near((50, 50 - 12, 50 + width, 50), InkOf(height, new CharacterOrientation { UpX = 0, UpY = -1, BaseX = 1, BaseY = 0 }, Text("HL")));
+        Near((50 - 12, 50, 50, 50 + width),
+            InkOf(height, new CharacterOrientation { UpX = -1, UpY = 0, BaseX = 0, BaseY = 1 }, Text("HL")));
+        Near((50, 50 - 12, 50 + width, 50),
+            InkOf(height, new CharacterOrientation { UpX = 0, UpY = -1, BaseX = 1, BaseY = 0 }, Text("HL")));
         Near(
-            (50, 50, 50 + (width / 2), 62), InkOf(height, new CharacterOrientation { UpX = 0, UpY = 2, BaseX = 1, BaseY = 0 }, Text("HL")));
-        Near((50, 50, 50 + (width * 3 / 2), 62), InkOf(height, new CharacterExpansionFactor { Factor = 1.5 }, Text("HL")));
+            (50, 50, 50 + (width / 2), 62),
+                InkOf(height, new CharacterOrientation { UpX = 0, UpY = 2, BaseX = 1, BaseY = 0 }, Text("HL")));
+        Near((50, 50, 50 + (width * 3 / 2), 62),
+            InkOf(height, new CharacterExpansionFactor { Factor = 1.5 }, Text("HL")));
         Near((50, 50, 50 + width + 6, 62), InkOf(height, new CharacterSpacing { Spacing = 0.5 }, Text("HL")));
     }
 
@@ -73,7 +80,8 @@ public class MetafileTextTests
         var centred = new TextAlignment { Horizontal = Horizontal.Centre, Vertical = Vertical.Base };
         Command[] pieces =
         [
-            height, centred, new TextElement { Position = P(50, 50), Content = "HI", Final = AppendText.FinalType.NotFinal },
+            height, centred,
+                new TextElement { Position = P(50, 50), Content = "HI", Final = AppendText.FinalType.NotFinal },
             new AppendText { Content = "HI", Final = AppendText.FinalType.Final },
         ];
         Near(InkOf(height, centred, Text("HIHI")), InkOf(pieces));
@@ -85,12 +93,18 @@ public class MetafileTextTests
     [Fact]
     public void Texts_are_told_with_the_font_that_their_bundle_gives()
     {
-        var flags = new AspectSourceFlags { Infos = [new(AspectSourceFlags.ASFType.AllText, AspectSourceFlags.ASFValue.Bundled)] };
+        var flags = new AspectSourceFlags
+        {
+            Infos = [new(AspectSourceFlags.ASFType.AllText,
+            AspectSourceFlags.ASFValue.Bundled)]
+        };
         CgmImage image = Image(
             [new FontList { Fonts = ["Helvetica", "Courier"] }],
             [new TextRepresentation { BundleIndex = 3, FontIndex = 2 }],
-            [flags, new TextBundleIndex { Index = 3 }, Text("first"), new TextBundleIndex { Index = 4 }, Text("second")]);
-        Assert.Equal([("first", "Courier"), ("second", "Helvetica")], System.Linq.Enumerable.Select(image.GetTexts(), text => (text.Text, text.FontName)));
+            [flags, new TextBundleIndex { Index = 3 }, Text("first"), new TextBundleIndex { Index = 4 },
+                Text("second")]);
+        Assert.Equal([("first", "Courier"), ("second", "Helvetica")],
+            System.Linq.Enumerable.Select(image.GetTexts(), text => (text.Text, text.FontName)));
     }
 
     [Fact]
@@ -108,7 +122,8 @@ public class MetafileTextTests
         return (spec.Family.Split(',')[0], spec.Bold, spec.Italic);
     }
 
-    private static TextElement Text(string content) => new() { Position = P(50, 50), Content = content, Final = AppendText.FinalType.Final };
+    private static TextElement Text(string content) =>
+        new() { Position = P(50, 50), Content = content, Final = AppendText.FinalType.Final };
 
     private static RestrictedText Restricted(string content, double width, double height) => new()
     {

@@ -5,15 +5,14 @@ using System.IO;
 using System.Linq;
 using System.Text.RegularExpressions;
 using System.Xml.Linq;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Pdf;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.DisplayList;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
@@ -23,7 +22,8 @@ public class PageTests
 {
     private static readonly Rgba Red = new(255, 0, 0, 255);
 
-    /// <summary>What is asked for, and the box of a square of 10 that is all there is to draw: x, y from above, width and height.</summary>
+    /// <summary>What is asked for, and the box of a square of 10 that is all there is to draw: x, y from above, width
+    /// and height.</summary>
     public static readonly TheoryData<string, Action<CadRasterizationOptions>, double[]> Places = new()
     {
         { "the square fills the page", o => { }, [0, 0, 200, 200] },
@@ -34,7 +34,8 @@ public class PageTests
         { "half as large", o => o.Zoom = 0.5f, [50, 50, 100, 100] },
         { "half as large by the other factor", o => o.RelativeScale = 0.5, [50, 50, 100, 100] },
         { "both factors", o => (o.Zoom, o.RelativeScale) = (0.5f, 0.5), [75, 75, 50, 50] },
-        { "moved by a quarter to the right and down", o => (o.Zoom, o.RelativePosition) = (0.5f, new PointF(0.25f, 0.25f)), [100, 100, 100, 100] },
+        { "moved by a quarter to the right and down", o =>
+            (o.Zoom, o.RelativePosition) = (0.5f, new PointF(0.25f, 0.25f)), [100, 100, 100, 100] },
         { "not scaled", o => o.NoScaling = true, [95, 95, 10, 10] },
         { "shrunk only where it is too large", o => o.ScaleMethod = ScaleType.ShrinkToFit, [95, 95, 10, 10] },
     };
@@ -46,10 +47,14 @@ public class PageTests
         CadRasterizationOptions raster = new() { PageWidth = 200, PageHeight = 200 };
         change(raster);
         using RasterPage page = Render(Picture.Drawing(Picture.Square(5, 5, 10, 1)), raster);
-        List<(int X, int Y)> ink = [.. Enumerable.Range(0, page.Width * page.Height).Select(i => (X: i % page.Width, Y: i / page.Width)).Where(place => At(page, place.X, place.Y) == Red)];
+        List<(int X,
+            int Y)> ink = [.. Enumerable.Range(0, page.Width * page.Height).Select(i =>
+                (X: i % page.Width, Y: i / page.Width)).Where(place => At(page, place.X, place.Y) == Red)];
         Assert.NotEmpty(ink);
-        double[] found = [ink.Min(place => place.X), ink.Min(place => place.Y), ink.Max(place => place.X) + 1 - ink.Min(place => place.X), ink.Max(place => place.Y) + 1 - ink.Min(place => place.Y)];
-        Assert.True(box.Zip(found).All(pair => Math.Abs(pair.First - pair.Second) <= 1), $"{why}: {string.Join(", ", found)} instead of {string.Join(", ", box)}");
+        double[] found = [ink.Min(place => place.X), ink.Min(place => place.Y), ink.Max(place => place.X)
+            + 1 - ink.Min(place => place.X), ink.Max(place => place.Y) + 1 - ink.Min(place => place.Y)];
+        Assert.True(box.Zip(found).All(pair => Math.Abs(pair.First - pair.Second) <= 1),
+            $"{why}: {string.Join(", ", found)} instead of {string.Join(", ", box)}");
     }
 
     [Fact]
@@ -66,7 +71,12 @@ public class PageTests
     public void Backgrounds_are_painted_or_left_open()
     {
         CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 10, 1), Picture.Square(90, 90, 10, 1));
-        CadRasterizationOptions raster = new() { PageWidth = 100, PageHeight = 100, BackgroundColor = Color.FromArgb(10, 20, 30) };
+        CadRasterizationOptions raster = new()
+        {
+            PageWidth = 100,
+            PageHeight = 100,
+            BackgroundColor = Color.FromArgb(10, 20, 30)
+        };
         using RasterPage painted = Render(drawing, raster);
         Assert.Equal(new Rgba(10, 20, 30, 255), At(painted, 50, 50));
         raster.BackgroundColor = Color.Transparent;
@@ -82,7 +92,8 @@ public class PageTests
         box.Vertices.AddRange([new(10, 10), new(90, 10), new(90, 90), new(10, 90)]);
         CadHatch hatch = new() { SolidFillFlag = 0, PatternName = "LINES", ColorId = 1, LineWeight = 53 }; // two pixels
         hatch.BoundaryPaths.Add(new CadHatchBoundaryPathContainer(box));
-        hatch.PatternDefinitions.Add(new CadHatchPatternData { LineAngle = 45, LineOffset = new(-7.0710678, 7.0710678) });
+        hatch.PatternDefinitions
+            .Add(new CadHatchPatternData { LineAngle = 45, LineOffset = new(-7.0710678, 7.0710678) });
         using Picture picture = Picture.Of(Picture.Drawing(hatch), o => o.VisibilityMode = VisibilityMode.AsPrint);
         double ink = Enumerable.Range(0, 100 * 100).Sum(i => 1 - (picture[i % 100, i / 100].G / 255.0));
         Assert.InRange(ink / (80 * 80), 0.17, 0.24); // lines of two, ten apart
@@ -95,9 +106,18 @@ public class PageTests
     [InlineData(CadAttachmentPoint.BottomLeft, 0, 0)]
     public void Text_of_several_lines_hangs_from_its_point(CadAttachmentPoint attachment, double left, double bottom)
     {
-        CadMText text = new() { Text = "HHH\\PHHH", InitialTextHeight = 9, InsertionPoint = new(50, 50, 0), AttachmentPoint = attachment, ColorId = 1 };
+        CadMText text = new()
+        {
+            Text = "HHH\\PHHH",
+            InitialTextHeight = 9,
+            InsertionPoint = new(50, 50, 0),
+            AttachmentPoint = attachment,
+            ColorId = 1
+        };
         using Picture picture = Picture.Of(Picture.Drawing(text));
-        List<(int X, int Y)> ink = [.. Enumerable.Range(0, 100 * 100).Select(i => (X: i % 100, Y: i / 100)).Where(place => picture[place.X, place.Y].G < 128)];
+        List<(int X,
+            int Y)> ink = [.. Enumerable.Range(0, 100 * 100).Select(i => (X: i % 100, Y: i / 100)).Where(place =>
+                picture[place.X, place.Y].G < 128)];
         double width = ink.Max(place => place.X) + 1 - ink.Min(place => place.X);
         Assert.Equal(9 + 15, ink.Max(place => place.Y) + 1 - ink.Min(place => place.Y), 1.5); // lines are 5/3 apart
         Assert.Equal(50 + (left * width), ink.Min(place => place.X), 3.0);
@@ -108,18 +128,27 @@ public class PageTests
     public void Words_stand_in_a_pdf_where_they_stand_in_the_drawing()
     {
         CadImage drawing = Picture.Drawing(
-            Picture.Square(0, 0, 1, 5), Picture.Square(199, 99, 1, 5), Word("FIRST", 20, 20), Word("SECOND", 120, 60), Word("\u00C4\u03A9\u0416", 20, 60));
+            Picture.Square(0, 0, 1, 5), Picture.Square(199, 99, 1, 5), Word("FIRST", 20, 20), Word("SECOND", 120, 60),
+                Word("\u00C4\u03A9\u0416", 20, 60));
         CadRasterizationOptions raster = new() { PageWidth = 400, PageHeight = 200 };
         PdfOptions options = new()
         {
             VectorRasterizationOptions = raster,
-            PdfDocumentInfo = new PdfDocumentInfo { Title = "(Plan) \\ \u6F22", Subject = "S", Keywords = "a, b", Author = "\u00C4" },
+            PdfDocumentInfo = new PdfDocumentInfo
+            {
+                Title = "(Plan) \\ \u6F22",
+                Subject = "S",
+                Keywords = "a, b",
+                Author = "\u00C4"
+            },
         };
         string file = Picture.SaveTo(drawing, options, ".pdf");
         string boxes = Tools.Run("pdftotext", "-bbox", file, "-");
-        foreach ((string word, double x, double y) in new[] { ("FIRST", 40.0, 160.0), ("SECOND", 240, 80), ("\u00C4\u03A9\u0416", 40, 80) })
+        foreach ((string word, double x, double y) in new[] { ("FIRST", 40.0, 160.0), ("SECOND", 240, 80),
+            ("\u00C4\u03A9\u0416", 40, 80) })
         {
-            Match box = Regex.Match(boxes, $"xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"[0-9.]+\" yMax=\"([0-9.]+)\">{word}<");
+            Match box = Regex.Match(boxes,
+                $"xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"[0-9.]+\" yMax=\"([0-9.]+)\">{word}<");
             Assert.True(box.Success, boxes);
             Assert.Equal(x, Number(box.Groups[1].Value), 3.0);
             Assert.InRange(y, Number(box.Groups[2].Value), Number(box.Groups[3].Value));
@@ -139,9 +168,13 @@ public class PageTests
         foreach (bool shapes in new[] { true, false })
         {
             CadRasterizationOptions raster = new() { PageWidth = 300, PageHeight = 150 };
-            XElement root = XDocument.Load(Picture.SaveTo(drawing, new SvgOptions { TextAsShapes = shapes, VectorRasterizationOptions = raster }, ".svg")).Root!;
+            XElement root = XDocument
+                .Load(Picture.SaveTo(drawing,
+                new SvgOptions { TextAsShapes = shapes, VectorRasterizationOptions = raster }, ".svg")).Root!;
             Assert.Equal("svg", root.Name.LocalName);
-            Assert.Equal([300, 150], new[] { "width", "height" }.Select(name => Number(Regex.Match(root.Attribute(name)!.Value, "^[0-9.]+").Value)));
+            Assert.Equal([300, 150],
+                new[] { "width", "height" }.Select(name =>
+                    Number(Regex.Match(root.Attribute(name)!.Value, "^[0-9.]+").Value)));
             Assert.Equal("0 0 300 150", root.Attribute("viewBox")!.Value);
             Assert.DoesNotContain(root.Descendants(), element => element.Name.LocalName == "script");
             Assert.Equal(!shapes, root.Value.Contains("<script>&\"'", StringComparison.Ordinal));
@@ -152,7 +185,15 @@ public class PageTests
     public void Pixels_state_their_size_on_paper()
     {
         CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 20, 1));
-        PngOptions options = new() { VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = 60, PageHeight = 40 }, ResolutionSettings = new ResolutionSetting(300, 300) };
+        PngOptions options = new()
+        {
+            VectorRasterizationOptions = new CadRasterizationOptions
+            {
+                PageWidth = 60,
+                PageHeight = 40
+            },
+            ResolutionSettings = new ResolutionSetting(300, 300)
+        };
         using MemoryStream output = new();
         drawing.Save(output, options);
         byte[] png = output.ToArray();
@@ -160,7 +201,9 @@ public class PageTests
         Assert.True(place > 0, "the resolution is not stated");
         int perMetre = System.Buffers.Binary.BinaryPrimitives.ReadInt32BigEndian(png.AsSpan(place + 4));
         Assert.Equal(300 / 0.0254, perMetre, 1.0);
-        Assert.Equal((60, 40), (System.Buffers.Binary.BinaryPrimitives.ReadInt32BigEndian(png.AsSpan(16)), System.Buffers.Binary.BinaryPrimitives.ReadInt32BigEndian(png.AsSpan(20))));
+        Assert.Equal((60, 40),
+            (System.Buffers.Binary.BinaryPrimitives.ReadInt32BigEndian(png.AsSpan(16)),
+                System.Buffers.Binary.BinaryPrimitives.ReadInt32BigEndian(png.AsSpan(20))));
         foreach (int level in new[] { 0, 9 })
         {
             options.CompressionLevel = level;
@@ -179,7 +222,8 @@ public class PageTests
         return new Rgba(pixel[2], pixel[1], pixel[0], pixel[3]);
     }
 
-    private static CadText Word(string text, double x, double y) => new() { DefaultValue = text, TextHeight = 10, FirstAlignment = new(x, y, 0) };
+    private static CadText Word(string text, double x, double y) =>
+        new() { DefaultValue = text, TextHeight = 10, FirstAlignment = new(x, y, 0) };
 
     private static double Number(string text) => double.Parse(text, CultureInfo.InvariantCulture);
 }

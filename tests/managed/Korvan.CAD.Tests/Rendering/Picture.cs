@@ -1,28 +1,27 @@
 using System;
 using System.IO;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.DisplayList;
 
 namespace Korvan.CAD.Tests.Rendering;
 
 /// <summary>A drawing put on a page of 100 × 100 pixels, one to a unit, its lower left corner at the origin.</summary>
 internal sealed class Picture : IDisposable
 {
-    private readonly RasterPage page;
+    private readonly RasterPage _page;
 
-    private Picture(RasterPage page) => this.page = page;
+    private Picture(RasterPage page) => _page = page;
 
     /// <summary>The colour at a place of the drawing.</summary>
     internal Rgba this[int x, int y]
     {
         get
         {
-            ReadOnlySpan<byte> pixel = page.Row(page.Height - 1 - y).Slice(x * 4, 4);
+            ReadOnlySpan<byte> pixel = _page.Row(_page.Height - 1 - y).Slice(x * 4, 4);
             return new Rgba(pixel[2], pixel[1], pixel[0], pixel[3]);
         }
     }
@@ -58,13 +57,14 @@ internal sealed class Picture : IDisposable
         LayerName = layer,
     };
 
-    internal static CadInsertObject Insert(string block, double x = 0, double y = 0, short color = 256, string layer = "0") => new()
-    {
-        Name = block,
-        InsertionPoint = new Cad3DPoint(x, y, 0),
-        ColorId = color,
-        LayerName = layer,
-    };
+    internal static CadInsertObject Insert(string block, double x = 0, double y = 0, short color = 256,
+        string layer = "0") => new()
+        {
+            Name = block,
+            InsertionPoint = new Cad3DPoint(x, y, 0),
+            ColorId = color,
+            LayerName = layer,
+        };
 
     internal static CadBlockEntity AddBlock(CadImage drawing, string name, params CadEntityBase[] entities)
     {
@@ -105,7 +105,7 @@ internal sealed class Picture : IDisposable
         return file;
     }
 
-    public void Dispose() => page.Dispose();
+    public void Dispose() => _page.Dispose();
 
     private static void Pin(CadImage drawing)
     {

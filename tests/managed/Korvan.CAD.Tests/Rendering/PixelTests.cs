@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -8,7 +9,6 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.DisplayList;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
@@ -21,17 +21,27 @@ public class PixelTests
     /// <summary>What is drawn thick in red, and where there is ink and where there is none.</summary>
     public static readonly TheoryData<string, CadEntityBase, int[], int[]> Strokes = new()
     {
-        { "a line", new CadLine { FirstPoint = P(10, 10), SecondPoint = P(90, 90) }, [50, 50, 20, 20], [50, 60, 95, 95] },
-        { "a circle", new CadCircle { CenterPoint = P(50, 50), Radius = 30 }, [80, 50, 50, 20, 20, 50], [50, 50, 75, 75] },
-        { "an arc through 0", new CadArc { CenterPoint = P(50, 50), Radius = 30, StartAngle = 270, EndAngle = 90 }, [80, 50, 71, 71], [20, 50, 29, 71] },
-        { "an arc seen from below", new CadArc { CenterPoint = P(-50, 50), Radius = 30, StartAngle = 270, EndAngle = 90, ExtrusionDirection = P(0, 0, -1) }, [20, 50], [80, 50] },
-        { "an ellipse", new CadEllipse { CenterPoint = P(50, 50), MajorEndPoint = P(0, 40), AxisRatio = 0.5 }, [50, 90, 70, 50], [90, 50, 50, 70] },
-        { "an ellipse seen from below", new CadEllipse { CenterPoint = P(50, 50), MajorEndPoint = P(40, 0), AxisRatio = 0.5, EndAngle = Math.PI, ExtrusionDirection = P(0, 0, -1) }, [50, 30], [50, 70] },
+        { "a line", new CadLine { FirstPoint = P(10, 10), SecondPoint = P(90, 90) }, [50, 50, 20, 20],
+            [50, 60, 95, 95] },
+        { "a circle", new CadCircle { CenterPoint = P(50, 50), Radius = 30 }, [80, 50, 50, 20, 20, 50],
+            [50, 50, 75, 75] },
+        { "an arc through 0", new CadArc { CenterPoint = P(50, 50), Radius = 30, StartAngle = 270, EndAngle = 90 },
+            [80, 50, 71, 71], [20, 50, 29, 71] },
+        { "an arc seen from below",
+            new CadArc { CenterPoint = P(-50, 50), Radius = 30, StartAngle = 270, EndAngle = 90,
+                ExtrusionDirection = P(0, 0, -1) }, [20, 50], [80, 50] },
+        { "an ellipse", new CadEllipse { CenterPoint = P(50, 50), MajorEndPoint = P(0, 40), AxisRatio = 0.5 },
+            [50, 90, 70, 50], [90, 50, 50, 70] },
+        { "an ellipse seen from below",
+            new CadEllipse { CenterPoint = P(50, 50), MajorEndPoint = P(40, 0), AxisRatio = 0.5, EndAngle = Math.PI,
+                ExtrusionDirection = P(0, 0, -1) }, [50, 30], [50, 70] },
         { "a bulged polyline", Poly([(20, 50, 1), (80, 50, 0)]), [50, 20], [50, 80, 50, 50] },
         { "a polyline that bulges the other way", Poly([(20, 50, -1), (80, 50, 0)]), [50, 80], [50, 20] },
         { "a wide polyline", Poly([(20, 50, 0), (80, 50, 0)], 20), [50, 58, 50, 42, 22, 55], [50, 63, 15, 50] },
         { "a ray", new CadRay { FirstPoint = P(50, 50), UnitDirection = P(1, 0) }, [70, 50], [30, 50] },
-        { "a face without its first edge", new Cad3DFace { FirstPoint = P(20, 20), SecondPoint = P(80, 20), ThirdPoint = P(80, 80), FourthPoint = P(20, 80), InvisibleEdges = 1 }, [80, 50, 50, 80, 20, 50], [50, 20] },
+        { "a face without its first edge",
+            new Cad3DFace { FirstPoint = P(20, 20), SecondPoint = P(80, 20), ThirdPoint = P(80, 80),
+                FourthPoint = P(20, 80), InvisibleEdges = 1 }, [80, 50, 50, 80, 20, 50], [50, 20] },
     };
 
     [Theory]
@@ -42,7 +52,8 @@ public class PixelTests
         using Picture picture = Picture.Of(Picture.Drawing(entity), o => o.VisibilityMode = VisibilityMode.AsPrint);
         foreach (int[] place in ink.Chunk(2))
         {
-            Assert.True(picture[place[0], place[1]] == Red, $"{why}: no ink at {place[0]}, {place[1]} but {picture[place[0], place[1]]}");
+            Assert.True(picture[place[0], place[1]] == Red,
+                $"{why}: no ink at {place[0]}, {place[1]} but {picture[place[0], place[1]]}");
         }
 
         foreach (int[] place in none.Chunk(2))
@@ -60,7 +71,8 @@ public class PixelTests
     [InlineData(211, -1, VisibilityMode.AsScreen, 1)] // weights are not shown
     public void Lines_are_as_thick_as_they_or_their_layer_say(short own, short layer, VisibilityMode mode, int pixels)
     {
-        CadImage drawing = Picture.Drawing(new CadLine { FirstPoint = P(10, 50), SecondPoint = P(90, 50), LineWeight = own, ColorId = 1 });
+        CadImage drawing = Picture
+            .Drawing(new CadLine { FirstPoint = P(10, 50), SecondPoint = P(90, 50), LineWeight = own, ColorId = 1 });
         drawing.Layers["0"].LineWeight = layer;
         using Picture picture = Picture.Of(drawing, o => o.VisibilityMode = mode);
         double ink = Enumerable.Range(30, 40).Sum(y => 1 - (picture[50, y].G / 255.0));
@@ -73,9 +85,20 @@ public class PixelTests
     [InlineData(5, 2, 5)]
     public void Dashes_are_as_many_as_fit(double dash, double scale, int dashes)
     {
-        CadImage drawing = Picture.Drawing(new CadLine { FirstPoint = P(5, 50), SecondPoint = P(95, 50), LineTypeName = "GAPS", LinetypeScale = scale, ColorId = 1, LineWeight = 100 });
+        CadImage drawing = Picture
+            .Drawing(new CadLine
+            {
+                FirstPoint = P(5, 50),
+                SecondPoint = P(95, 50),
+                LineTypeName = "GAPS",
+                LinetypeScale = scale,
+                ColorId = 1,
+                LineWeight = 100
+            });
         drawing.LineTypes.Add(new CadLineTypeTableObject { Name = "GAPS", Pattern = { dash, -dash } });
-        using Picture picture = Picture.Of(drawing, o => (o.VisibilityMode, o.PenOptions) = (VisibilityMode.AsPrint, new PenOptions { StartCap = LineCap.Flat, EndCap = LineCap.Flat }));
+        using Picture picture = Picture.Of(drawing, o =>
+            (o.VisibilityMode, o.PenOptions) = (VisibilityMode.AsPrint,
+                new PenOptions { StartCap = LineCap.Flat, EndCap = LineCap.Flat }));
         int found = Enumerable.Range(1, 98).Count(x => picture[x, 50].G < 128 && picture[x - 1, 50].G >= 128);
         Assert.Equal(dashes, found);
     }
@@ -105,7 +128,8 @@ public class PixelTests
     {
         CadImage drawing = Picture.Drawing();
         Picture.AddLayer(drawing, "GREEN", 3);
-        Picture.AddBlock(drawing, "INNER", Picture.Square(0, 0, 10, 0), Picture.Square(20, 0, 10, 256), Picture.Square(40, 0, 10, 4));
+        Picture.AddBlock(drawing, "INNER", Picture.Square(0, 0, 10, 0), Picture.Square(20, 0, 10, 256),
+            Picture.Square(40, 0, 10, 4));
         Picture.AddBlock(drawing, "OUTER", Picture.Insert("INNER", 0, 0, 0), Picture.Insert("INNER", 0, 20, 2));
         drawing.AddEntity(Picture.Insert("OUTER", 10, 10, 1, "GREEN"));
         using Picture picture = Picture.Of(drawing);
@@ -118,7 +142,8 @@ public class PixelTests
     public void Wipeouts_hide_what_was_drawn_before_and_not_what_comes_behind()
     {
         CadWipeout wipeout = new() { InsertionPoint = P(30, 30), VectorU = P(40, 0), VectorV = P(0, 40) };
-        using Picture picture = Picture.Of(Picture.Drawing(Picture.Square(0, 0, 100, 1), wipeout, Picture.Square(60, 60, 5, 5)));
+        using Picture picture = Picture
+            .Of(Picture.Drawing(Picture.Square(0, 0, 100, 1), wipeout, Picture.Square(60, 60, 5, 5)));
         Assert.Equal(Red, picture[20, 50]);
         Assert.Equal(Rgba.White, picture[40, 40]);
         Assert.Equal(255, picture[62, 62].B);
@@ -144,7 +169,13 @@ public class PixelTests
         disc.Vertices.AddRange([new(20, 50), new(80, 50)]);
         disc.Bulges.AddRange([1, 1]);
         CadEdgeBoundaryPath oval = new();
-        oval.Edges.Add(new CadBoundaryPathCircularEllipse { CenterPoint = new(50, 50), MajorEndPoint = new(20, 0), AxisRatio = 0.5 });
+        oval.Edges
+            .Add(new CadBoundaryPathCircularEllipse
+            {
+                CenterPoint = new(50, 50),
+                MajorEndPoint = new(20, 0),
+                AxisRatio = 0.5
+            });
         CadHatch hatch = Hatch(disc, oval);
         hatch.ColorId = 1;
         using Picture picture = Picture.Of(Picture.Drawing(hatch));
@@ -173,9 +204,19 @@ public class PixelTests
     [InlineData(0, 3, 0, 1, -1, 0)] // top left
     [InlineData(1, 2, -0.5, 0.5, -0.5, 0.5)]
     [InlineData(2, 3, -1, 0, -1, 0)]
-    public void Aligned_text_lies_around_its_point(short horizontal, short vertical, double left, double right, double bottom, double top)
+    public void Aligned_text_lies_around_its_point(short horizontal, short vertical, double left, double right,
+        double bottom, double top)
     {
-        CadText text = new() { DefaultValue = "HHH", TextHeight = 12, FirstAlignment = P(50, 50), SecondAlignment = P(50, 50), HorizontalAlignment = horizontal, VerticalAlignment = vertical, ColorId = 1 };
+        CadText text = new()
+        {
+            DefaultValue = "HHH",
+            TextHeight = 12,
+            FirstAlignment = P(50, 50),
+            SecondAlignment = P(50, 50),
+            HorizontalAlignment = horizontal,
+            VerticalAlignment = vertical,
+            ColorId = 1
+        };
         using Picture picture = Picture.Of(Picture.Drawing(text));
         (int minX, int minY, int maxX, int maxY) = InkBox(picture);
         double width = maxX - minX;
@@ -195,9 +236,11 @@ public class PixelTests
         insert.ScaleX = -1;
         drawing.AddEntity(insert);
         using Picture mirrored = Picture.Of(drawing);
-        CadImage plain = Picture.Drawing(new CadText { DefaultValue = "LLL", TextHeight = 20, FirstAlignment = P(10, 40), ColorId = 1 });
+        CadImage plain = Picture
+            .Drawing(new CadText { DefaultValue = "LLL", TextHeight = 20, FirstAlignment = P(10, 40), ColorId = 1 });
         using Picture expected = Picture.Of(plain);
-        int[] different = [.. Enumerable.Range(0, 100 * 100).Where(i => Math.Abs(mirrored[i % 100, i / 100].G - expected[99 - (i % 100), i / 100].G) > 60)];
+        int[] different = [.. Enumerable.Range(0, 100 * 100).Where(i =>
+            Math.Abs(mirrored[i % 100, i / 100].G - expected[99 - (i % 100), i / 100].G) > 60)];
         Assert.True(different.Length < 20, $"{different.Length} pixels differ");
         Assert.True(Ink(expected) > 100);
     }
@@ -205,9 +248,11 @@ public class PixelTests
     [Fact]
     public void Viewports_scale_turn_and_clip_what_they_show()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(100, 100, 10, 1), Picture.Square(100, 118, 4, 5), Picture.Square(160, 100, 10, 3));
+        CadImage drawing = Picture.Drawing(Picture.Square(100, 100, 10, 1), Picture.Square(100, 118, 4, 5),
+            Picture.Square(160, 100, 10, 3));
         CadLayout sheet = Picture.Sheet(drawing);
-        (sheet.PaperWidth, sheet.PaperHeight, sheet.LeftMargin, sheet.BottomMargin, sheet.RightMargin, sheet.TopMargin) = (100, 100, 0, 0, 0, 0);
+        (sheet.PaperWidth, sheet.PaperHeight, sheet.LeftMargin, sheet.BottomMargin, sheet.RightMargin,
+            sheet.TopMargin) = (100, 100, 0, 0, 0, 0);
         drawing.PaperSpaceEntities.Add(new CadViewport
         {
             ViewportId = 2,
@@ -239,7 +284,9 @@ public class PixelTests
     private static CadPolylineBoundaryPath Box(double corner, double side)
     {
         CadPolylineBoundaryPath path = new();
-        path.Vertices.AddRange([new(corner, corner), new(corner + side, corner), new(corner + side, corner + side), new(corner, corner + side)]);
+        path.Vertices
+            .AddRange([new(corner, corner), new(corner + side, corner), new(corner + side, corner + side),
+            new(corner, corner + side)]);
         return path;
     }
 
@@ -255,12 +302,16 @@ public class PixelTests
         return hatch;
     }
 
-    private static double Ink(Picture picture) => Enumerable.Range(0, 100 * 100).Sum(i => 1 - (picture[i % 100, i / 100].G / 255.0));
+    private static double Ink(Picture picture) =>
+        Enumerable.Range(0, 100 * 100).Sum(i => 1 - (picture[i % 100, i / 100].G / 255.0));
 
     private static (int MinX, int MinY, int MaxX, int MaxY) InkBox(Picture picture)
     {
-        List<(int X, int Y)> inked = [.. Enumerable.Range(0, 100 * 100).Select(i => (X: i % 100, Y: i / 100)).Where(place => picture[place.X, place.Y].G < 128)];
+        List<(int X,
+            int Y)> inked = [.. Enumerable.Range(0, 100 * 100).Select(i => (X: i % 100, Y: i / 100)).Where(place =>
+                picture[place.X, place.Y].G < 128)];
         Assert.NotEmpty(inked);
-        return (inked.Min(place => place.X), inked.Min(place => place.Y), inked.Max(place => place.X) + 1, inked.Max(place => place.Y) + 1);
+        return (inked.Min(place => place.X), inked.Min(place => place.Y), inked.Max(place => place.X)
+            + 1, inked.Max(place => place.Y) + 1);
     }
 }

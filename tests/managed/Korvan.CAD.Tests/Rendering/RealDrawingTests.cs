@@ -4,7 +4,6 @@ using System.IO;
 using System.Linq;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
@@ -35,7 +34,8 @@ public class RealDrawingTests
         Assert.Matches($@"Pages:\s+{layouts.Length}\b", Tools.Run("pdfinfo", pdf));
         Tools.Run("pdftocairo", "-svg", pdf, Tools.TempFile(".svg"));
         Tools.Run("xmllint", "--noout", "--huge", Picture.SaveTo(drawing, new SvgOptions(), ".svg"));
-        Tools.Run("xmllint", "--noout", "--huge", Picture.SaveTo(drawing, new SvgOptions { TextAsShapes = false }, ".svg"));
+        Tools.Run("xmllint", "--noout", "--huge",
+            Picture.SaveTo(drawing, new SvgOptions { TextAsShapes = false }, ".svg"));
         using var output = new MemoryStream();
         drawing.Save(output, new PngOptions());
         Assert.True(output.Length > 100);

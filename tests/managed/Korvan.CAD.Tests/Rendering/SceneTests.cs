@@ -1,5 +1,6 @@
 using System.IO;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
@@ -8,7 +9,6 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.Rendering.Scene;
 using Xunit;
 
@@ -37,7 +37,8 @@ public class SceneTests
     {
         CadImage drawing = Picture.Drawing();
         Picture.AddLayer(drawing, "GREEN", 3);
-        Picture.AddBlock(drawing, "INNER", Picture.Square(0, 0, 10, 0), Picture.Square(20, 0, 10), Picture.Square(40, 0, 10, 256, "GREEN"));
+        Picture.AddBlock(drawing, "INNER", Picture.Square(0, 0, 10, 0), Picture.Square(20, 0, 10),
+            Picture.Square(40, 0, 10, 256, "GREEN"));
         Picture.AddBlock(drawing, "OUTER", Picture.Insert("INNER", 0, 0, 0));
         Picture.AddLayer(drawing, "BLUE", 5);
         drawing.AddEntity(Picture.Insert("OUTER", 10, 10, 1, "BLUE"));
@@ -107,9 +108,11 @@ public class SceneTests
     public void Attributes_show_their_values_and_definitions_do_not_show_in_references()
     {
         CadImage drawing = Picture.Drawing();
-        Picture.AddBlock(drawing, "B", new CadAttDef { DefinitionTagString = "TAG", DefaultValue = "DEFAULT", TextHeight = 5 });
+        Picture.AddBlock(drawing, "B",
+            new CadAttDef { DefinitionTagString = "TAG", DefaultValue = "DEFAULT", TextHeight = 5 });
         CadInsertObject insert = Picture.Insert("B", 10, 10);
-        insert.Attributes.Add(new CadAttrib { DefaultValue = "SHOWN", TextHeight = 5, FirstAlignment = new Cad3DPoint(10, 10, 0) });
+        insert.Attributes
+            .Add(new CadAttrib { DefaultValue = "SHOWN", TextHeight = 5, FirstAlignment = new Cad3DPoint(10, 10, 0) });
         insert.Attributes.Add(new CadAttrib { DefaultValue = "HIDDEN", TextHeight = 5, AttFlags = 1 });
         drawing.AddEntity(insert);
         string text = Tools.Run("pdftotext", Picture.SaveTo(drawing, new PdfOptions(), ".pdf"), "-");
@@ -123,7 +126,12 @@ public class SceneTests
     {
         CadHatch hatch = Hatch(Rectangle(10, 10, 60), Rectangle(30, 30, 20));
         hatch.ColorId = 1;
-        var wipeout = new CadWipeout { InsertionPoint = new Cad3DPoint(10, 10, 0), VectorU = new Cad3DPoint(10, 0, 0), VectorV = new Cad3DPoint(0, 10, 0) };
+        var wipeout = new CadWipeout
+        {
+            InsertionPoint = new Cad3DPoint(10, 10, 0),
+            VectorU = new Cad3DPoint(10, 0, 0),
+            VectorV = new Cad3DPoint(0, 10, 0)
+        };
         using Picture picture = Picture.Of(Picture.Drawing(hatch, wipeout, Picture.Square(80, 80, 5, 5)));
         Assert.Equal(Red, picture[60, 25]);
         Assert.Equal(Rgba.White, picture[40, 40]);
@@ -135,7 +143,13 @@ public class SceneTests
     public void Arc_edges_of_a_hatch_run_both_ways()
     {
         // Two half circles make a disc: the upper one anticlockwise, the lower one clockwise by its own measure.
-        var upper = new CadBoundaryPathCircularArc { CenterPoint = new Cad2DPoint(50, 50), Radius = 30, StartAngle = 0, EndAngle = 180 };
+        var upper = new CadBoundaryPathCircularArc
+        {
+            CenterPoint = new Cad2DPoint(50, 50),
+            Radius = 30,
+            StartAngle = 0,
+            EndAngle = 180
+        };
         var lower = new CadBoundaryPathCircularArc
         {
             CenterPoint = new Cad2DPoint(50, 50),
@@ -146,7 +160,8 @@ public class SceneTests
         };
         var path = new CadEdgeBoundaryPath();
         path.Edges.Add(upper);
-        path.Edges.Add(new CadBoundaryPathLine { FirstPoint = new Cad2DPoint(20, 50), SecondPoint = new Cad2DPoint(80, 50) });
+        path.Edges
+            .Add(new CadBoundaryPathLine { FirstPoint = new Cad2DPoint(20, 50), SecondPoint = new Cad2DPoint(80, 50) });
         path.Edges.Add(lower);
         CadHatch hatch = Hatch(path);
         hatch.ColorId = 1;
@@ -173,7 +188,9 @@ public class SceneTests
         CadImage drawing = Picture.Drawing(line);
         drawing.LineTypes.Add(dashed);
         using Picture picture = Picture.Of(
-            drawing, o => (o.PenOptions, o.VisibilityMode) = (new PenOptions { StartCap = LineCap.Flat }, VisibilityMode.AsPrint));
+            drawing, o =>
+                (o.PenOptions, o.VisibilityMode) = (new PenOptions { StartCap = LineCap.Flat },
+                    VisibilityMode.AsPrint));
         Assert.Equal(Red, picture[10, 50]);
         Assert.Equal(Rgba.White, picture[20, 50]);
         Assert.Equal(Red, picture[90, 50]); // begins and ends with ink
@@ -187,7 +204,8 @@ public class SceneTests
         Assert.Equal(Rgba.White, dark[20, 20]);
         using Picture light = Picture.Of(drawing);
         Assert.Equal(Rgba.Black, light[20, 20]);
-        using Picture single = Picture.Of(drawing, o => (o.DrawType, o.DrawColor) = (CadDrawTypeMode.UseDrawColor, Color.FromArgb(0, 0, 255)));
+        using Picture single = Picture.Of(drawing, o =>
+            (o.DrawType, o.DrawColor) = (CadDrawTypeMode.UseDrawColor, Color.FromArgb(0, 0, 255)));
         Assert.Equal(Blue, single[20, 20]);
         Assert.Equal(Blue, single[60, 20]);
     }
@@ -195,7 +213,8 @@ public class SceneTests
     [Fact]
     public void Only_named_layers_are_drawn()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(10, 10, 20, 1, "A"), Picture.Square(50, 10, 20, 3, "B"), Picture.Square(0, 0, 100, 7, "C"));
+        CadImage drawing = Picture.Drawing(Picture.Square(10, 10, 20, 1, "A"), Picture.Square(50, 10, 20, 3, "B"),
+            Picture.Square(0, 0, 100, 7, "C"));
         using Picture picture = Picture.Of(drawing, o => (o.Layers, o.ScaleMethod) = (["a", "0"], ScaleType.GrowToFit));
         Assert.Equal(Red, picture[20, 20]);
         Assert.Equal(Rgba.White, picture[60, 20]);
@@ -204,7 +223,8 @@ public class SceneTests
     [Fact]
     public void Viewports_show_the_model_scaled_clipped_and_without_their_frozen_layers()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(1000, 1000, 10, 1), Picture.Square(1020, 1000, 10, 3, "FROZEN"), Picture.Square(1100, 1000, 10, 5));
+        CadImage drawing = Picture.Drawing(Picture.Square(1000, 1000, 10, 1),
+            Picture.Square(1020, 1000, 10, 3, "FROZEN"), Picture.Square(1100, 1000, 10, 5));
         CadLayerTable frozen = Picture.AddLayer(drawing, "FROZEN", 3);
         frozen.ObjectHandle = "ABC";
         CadLayout sheet = Picture.Sheet(drawing);
@@ -235,7 +255,8 @@ public class SceneTests
     {
         string folder = Directory.CreateTempSubdirectory("korvan-").FullName;
         string inner = Directory.CreateDirectory(Path.Combine(folder, "drawings")).FullName;
-        string target = Path.Combine(file.StartsWith("..", System.StringComparison.Ordinal) ? folder : inner, "red.png");
+        string target = Path.Combine(file.StartsWith("..", System.StringComparison.Ordinal) ? folder
+            : inner, "red.png");
         using (FileStream png = File.Create(target))
         {
             PngEncoder.Write(2, 2, _ => [0, 0, 255, 255, 0, 0, 255, 255], png, 6, 96);

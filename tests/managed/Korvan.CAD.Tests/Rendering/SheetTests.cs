@@ -1,10 +1,10 @@
 using System;
 using System.Linq;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
@@ -89,8 +89,10 @@ public class SheetTests
     {
         CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 1, 1));
         drawing.PaperSpaceEntities.Add(new CadViewport { ViewportId = 1, Width = 10, Height = 10, ViewHeight = 10 });
-        drawing.PaperSpaceEntities.Add(new CadViewport { ViewportId = 2, Width = 10, Height = 10, ViewHeight = 10, ViewportStatus = 0 });
-        drawing.PaperSpaceEntities.Add(new CadViewport { ViewportId = 3, Width = 10, Height = 10, ViewHeight = 10, StatusFlags = 0x20000 });
+        drawing.PaperSpaceEntities
+            .Add(new CadViewport { ViewportId = 2, Width = 10, Height = 10, ViewHeight = 10, ViewportStatus = 0 });
+        drawing.PaperSpaceEntities
+            .Add(new CadViewport { ViewportId = 3, Width = 10, Height = 10, ViewHeight = 10, StatusFlags = 0x20000 });
         drawing.PaperSpaceEntities.Add(new CadViewport { ViewportId = 4, Width = 10, Height = 10, ViewHeight = 0 });
         Assert.True(BuildSheet(drawing).Items.IsEmpty);
     }
@@ -102,8 +104,10 @@ public class SheetTests
         var data = new CadXdata("ACAD");
         (int, string)[] tags =
         [
-            (1000, "MVIEW"), (1002, "{"), (1070, "16"), (1010, "1"), (1020, "2"), (1030, "3"), (1010, "0"), (1020, "0"), (1030, "1"),
-            (1040, "90"), (1040, "42.5"), (1040, "7"), (1040, "8"), (1040, "50"), (1002, "{"), (1003, "HIDDEN"), (1002, "}"), (1002, "}"),
+            (1000, "MVIEW"), (1002, "{"), (1070, "16"), (1010, "1"), (1020, "2"), (1030, "3"), (1010, "0"), (1020, "0"),
+                (1030, "1"),
+            (1040, "90"), (1040, "42.5"), (1040, "7"), (1040, "8"), (1040, "50"), (1002, "{"), (1003, "HIDDEN"),
+                (1002, "}"), (1002, "}"),
         ];
         data.Data.AddRange(tags.Select(t => new CadCodeValue(t.Item1, t.Item2)));
         viewport.XdataContainer.XdataEntities.Add(data);
@@ -120,7 +124,8 @@ public class SheetTests
         var data = new CadXdata("ACAD");
         (int, string)[] tags =
         [
-            (1000, "ACAD_MTEXT_COLUMN_INFO_BEGIN"), (1070, "75"), (1070, "2"), (1070, "76"), (1070, "3"), (1070, "48"), (1040, "40"),
+            (1000, "ACAD_MTEXT_COLUMN_INFO_BEGIN"), (1070, "75"), (1070, "2"), (1070, "76"), (1070, "3"), (1070, "48"),
+                (1040, "40"),
             (1070, "49"), (1040, "5"), (1070, "50"), (1070, "1"), (1040, "100"), (1000, "ACAD_MTEXT_COLUMN_INFO_END"),
         ];
         data.Data.AddRange(tags.Select(t => new CadCodeValue(t.Item1, t.Item2)));
@@ -133,7 +138,8 @@ public class SheetTests
     public void Text_flows_from_column_to_column()
     {
         using var engine = new TextEngine();
-        var start = new MTextFormat(FontSpec.Default, 1, 1, 0, 1, default, StackAlign.Baseline, false, false, false, false);
+        var start = new MTextFormat(FontSpec.Default, 1, 1, 0, 1, default, StackAlign.Baseline, false, false, false,
+            false);
         var frame = new MTextFrame(0, 1, 1, true, ColumnCount: 2, ColumnWidth: 10, ColumnGutter: 2, ColumnHeight: 4);
         MTextLayout layout = MTextLayout.Create(engine, MTextParser.Parse("a\\Pb\\Pc\\Pd\\Ne", start), frame, 1);
         Assert.Equal([0.0, 0, 12, 12, 24], layout.Runs.Select(r => r.X));

@@ -19,9 +19,15 @@ public class SignatureTests
     [InlineData(false, PdfDigitalSignatureHashAlgorithmCore.Sha256, "SHA-256")]
     [InlineData(false, PdfDigitalSignatureHashAlgorithmCore.Sha512, "SHA-512")]
     [InlineData(true, PdfDigitalSignatureHashAlgorithmCore.Sha384, "SHA-384")]
-    public void A_signature_is_valid_and_covers_the_document(bool curve, PdfDigitalSignatureHashAlgorithmCore hash, string name)
+    public void A_signature_is_valid_and_covers_the_document(bool curve, PdfDigitalSignatureHashAlgorithmCore hash,
+        string name)
     {
-        var details = new PdfDigitalSignatureDetailsCore(Certificate(curve), Password) { HashAlgorithm = hash, Reason = "Geprüft", Location = "Köln" };
+        var details = new PdfDigitalSignatureDetailsCore(Certificate(curve), Password)
+        {
+            HashAlgorithm = hash,
+            Reason = "Geprüft",
+            Location = "Köln"
+        };
         string file = Write(details);
         try
         {
@@ -30,7 +36,8 @@ public class SignatureTests
             Assert.Contains("Total document signed", report, StringComparison.Ordinal);
             Assert.Contains(name, report, StringComparison.Ordinal);
             Assert.Contains("Signer Certificate Common Name: Drawing office", report, StringComparison.Ordinal);
-            Assert.Contains("/Reason <FEFF00470065007000720", File.ReadAllText(file, Encoding.Latin1), StringComparison.Ordinal);
+            Assert.Contains("/Reason <FEFF00470065007000720", File.ReadAllText(file, Encoding.Latin1),
+                StringComparison.Ordinal);
             Assert.Contains("Pages:           1", Tools.Run("pdfinfo", file), StringComparison.Ordinal);
         }
         finally
@@ -60,7 +67,14 @@ public class SignatureTests
     public void A_certificate_that_cannot_be_opened_is_an_error_and_leaves_no_file()
     {
         string file = Tools.TempFile(".pdf");
-        var options = new PdfOptions { CorePdfOptions = new() { DigitalSignatureDetails = new(Certificate(false), "wrong") } };
+        var options = new PdfOptions
+        {
+            CorePdfOptions = new()
+            {
+                DigitalSignatureDetails = new(Certificate(false),
+            "wrong")
+            }
+        };
         ImageSaveException error = Assert.Throws<ImageSaveException>(() => new CadImage().Save(file, options));
         Assert.Contains("could not be signed", error.Message, StringComparison.Ordinal);
         Assert.False(File.Exists(file));

@@ -69,7 +69,8 @@ public class TextCodeTests
     [InlineData("\\zq", "\\zq")] // no such code
     public void Escapes_and_broken_codes_are_shown(string text, string expected)
     {
-        string shown = string.Concat(MTextParser.Parse(text, Start).Select(t => t.Kind == MTextTokenKind.Space ? " " : t.Text));
+        string shown = string
+            .Concat(MTextParser.Parse(text, Start).Select(t => t.Kind == MTextTokenKind.Space ? " " : t.Text));
         Assert.Equal(expected, shown);
     }
 
@@ -82,7 +83,8 @@ public class TextCodeTests
     public void Stacks_split_at_their_divider(string text, string upper, string lower, char divider)
     {
         MTextToken stack = Assert.Single(MTextParser.Parse(text, Start));
-        Assert.Equal((MTextTokenKind.Stack, upper, lower, divider), (stack.Kind, stack.Text, stack.Lower, stack.Divider));
+        Assert.Equal((MTextTokenKind.Stack, upper, lower, divider),
+            (stack.Kind, stack.Text, stack.Lower, stack.Divider));
     }
 
     [Fact]
@@ -91,7 +93,8 @@ public class TextCodeTests
         ParagraphFormat p = Words("\\pi-1,l2.5,r1,qc,t4,c8,r12;x").Single().Paragraph;
         Assert.Equal((-2.0, 5.0, 2.0, ParagraphAlign.Center), (p.First, p.Left, p.Right, p.Align));
         Assert.Equal(
-            [new TabStop(8, ParagraphAlign.Left), new TabStop(16, ParagraphAlign.Center), new TabStop(24, ParagraphAlign.Right)], p.Tabs);
+            [new TabStop(8, ParagraphAlign.Left), new TabStop(16, ParagraphAlign.Center),
+                new TabStop(24, ParagraphAlign.Right)], p.Tabs);
         Assert.Equal(ParagraphAlign.Right, Words("\\pxqr;x").Single().Paragraph.Align);
     }
 
@@ -128,7 +131,8 @@ public class TextCodeTests
     {
         using var engine = new TextEngine();
         MTextLayout layout = Lay(engine, $"\\pq{alignment};mm mm mm mm mm mm mm mm mm", new MTextFrame(30, 1, 1, true));
-        double[] ends = [.. layout.Runs.GroupBy(run => run.Y).OrderByDescending(line => line.Key).Select(line => line.Max(run => run.X + run.Width))];
+        double[] ends = [.. layout.Runs.GroupBy(run => run.Y).OrderByDescending(line => line.Key).Select(line =>
+            line.Max(run => run.X + run.Width))];
         Assert.True(ends.Length >= 2);
         Assert.All(ends[..^1], end => Assert.Equal(lastToo is not null, Math.Abs(end - 30) < 1e-6));
         Assert.Equal(lastToo is true, Math.Abs(ends[^1] - 30) < 1e-6);

@@ -10,7 +10,8 @@ internal static class Tools
 {
     internal static void Require(string program)
     {
-        foreach (string folder in (Environment.GetEnvironmentVariable("PATH") ?? string.Empty).Split(Path.PathSeparator))
+        foreach (string folder in (Environment.GetEnvironmentVariable("PATH")
+            ?? string.Empty).Split(Path.PathSeparator))
         {
             if (File.Exists(Path.Combine(folder, program)))
             {

@@ -1,5 +1,4 @@
 using System;
-using System.Collections.Generic;
 using System.IO;
 using System.Linq;
 using System.Text.Json;
@@ -39,7 +38,8 @@ public class MeshTests
 
         var builder = new MeshBuilder();
         Vec3[] square = [new(0, 0, 1), new(9, 0, 1), new(9, 9, 1), new(0, 9, 1)];
-        builder.Add(square, [[new(1, 1, 1), new(2, 1, 1), new(2, 2, 1), new(1, 2, 1)], [new(5, 5, 1), new(5, 7, 1), new(7, 5, 1)]]);
+        builder.Add(square,
+            [[new(1, 1, 1), new(2, 1, 1), new(2, 2, 1), new(1, 2, 1)], [new(5, 5, 1), new(5, 7, 1), new(7, 5, 1)]]);
         Assert.Equal(81 - 1 - 2, UpwardArea(builder.Build("", Black)), 9);
     }
 
@@ -60,7 +60,8 @@ public class MeshTests
     public void References_share_the_meshes_of_their_block_unless_it_inherits_something_else()
     {
         CadImage drawing = Picture.Drawing(
-            Insert("fixed", 0, 1), Insert("fixed", 10, 2), Insert("by block", 0, 1), Insert("by block", 10, 1), Insert("by block", 20, 2));
+            Insert("fixed", 0, 1), Insert("fixed", 10, 2), Insert("by block", 0, 1), Insert("by block", 10, 1),
+                Insert("by block", 20, 2));
         Picture.AddLayer(drawing, "own", 3);
         Picture.AddBlock(drawing, "fixed", Picture.Square(0, 0, 1, 5, "own"), Picture.Square(2, 0, 1, 6, "own"));
         Picture.AddBlock(drawing, "by block", Picture.Square(0, 0, 1, 0, "own"));

@@ -1,5 +1,4 @@
 using Korvan.CAD.Binding;
-using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadConsts;
 

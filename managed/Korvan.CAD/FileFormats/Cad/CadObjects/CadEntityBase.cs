@@ -5,7 +5,6 @@ using Korvan.CAD.CadExceptions.ImageFormats;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.Geometry;
 using Korvan.CAD.Measurement;
 using Korvan.CAD.Primitives;
 

@@ -1,5 +1,3 @@
-using Korvan.CAD.FileFormats.Cad.CadConsts;
-
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A straight line.</summary>

@@ -1,5 +1,3 @@
-using Korvan.CAD.FileFormats.Cad.Exchange;
-
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A gap in a line of a multileader.</summary>

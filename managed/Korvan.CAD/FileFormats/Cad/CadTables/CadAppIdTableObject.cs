@@ -1,4 +1,3 @@
-using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;

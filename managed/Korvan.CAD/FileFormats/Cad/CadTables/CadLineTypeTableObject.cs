@@ -1,6 +1,4 @@
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad;
-using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 

@@ -3,7 +3,6 @@ using System.Globalization;
 using System.Text;
 using System.Text.Unicode;
 using Korvan.CAD.Encodings;
-using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 

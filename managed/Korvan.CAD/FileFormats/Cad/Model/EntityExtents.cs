@@ -3,9 +3,6 @@ using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;

@@ -1,5 +1,3 @@
-using Korvan.CAD.Rendering.Text;
-
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
 /// <summary>A face as pango is asked for it; the family may be a list, first choice first.</summary>

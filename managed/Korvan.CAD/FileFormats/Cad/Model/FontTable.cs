@@ -83,7 +83,8 @@ internal static class FontTable
     internal static bool IsToleranceSymbolFont(string file) =>
         Stem(file) is "gdt" or "amgdt" or "amgdtans" or "gdt___";
 
-    /// <summary>The face for a font file as style tables and inline codes name it ("romans.shx", "arial.ttf", "txt").</summary>
+    /// <summary>The face for a font file as style tables and inline codes name it ("romans.shx", "arial.ttf",
+    /// "txt").</summary>
     internal static FontSpec FromFile(string? file)
     {
         if (string.IsNullOrWhiteSpace(file))

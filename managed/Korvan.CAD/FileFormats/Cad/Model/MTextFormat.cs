@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
@@ -39,7 +38,8 @@ internal readonly record struct MTextFormat(
     bool ToleranceSymbols);
 
 /// <summary>Indents and tabs of a paragraph, in drawing units.</summary>
-internal sealed record ParagraphFormat(double First, double Left, double Right, ParagraphAlign Align, IReadOnlyList<TabStop> Tabs)
+internal sealed record ParagraphFormat(double First, double Left, double Right, ParagraphAlign Align,
+    IReadOnlyList<TabStop> Tabs)
 {
     internal static readonly ParagraphFormat Default = new(0, 0, 0, ParagraphAlign.Default, Array.Empty<TabStop>());
 }

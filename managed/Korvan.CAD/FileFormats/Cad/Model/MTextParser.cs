@@ -2,7 +2,6 @@ using System;
 using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
-using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
@@ -14,37 +13,37 @@ internal sealed class MTextParser
 {
     private const int DeepestGroup = 256;
 
-    private readonly string text;
-    private readonly double baseHeight;
-    private readonly List<MTextToken> tokens = [];
-    private readonly Stack<MTextFormat> groups = new();
-    private readonly StringBuilder word = new();
-    private MTextFormat format;
-    private ParagraphFormat paragraph = ParagraphFormat.Default;
-    private int at;
+    private readonly string _text;
+    private readonly double _baseHeight;
+    private readonly List<MTextToken> _tokens = [];
+    private readonly Stack<MTextFormat> _groups = new();
+    private readonly StringBuilder _word = new();
+    private MTextFormat _format;
+    private ParagraphFormat _paragraph = ParagraphFormat.Default;
+    private int _at;
 
     private MTextParser(string text, in MTextFormat start)
     {
-        this.text = text;
-        format = start;
-        baseHeight = start.Height;
+        _text = text;
+        _format = start;
+        _baseHeight = start.Height;
     }
 
     internal static List<MTextToken> Parse(string text, in MTextFormat start)
     {
         var parser = new MTextParser(text, start);
         parser.Run();
-        return parser.tokens;
+        return parser._tokens;
     }
 
     private void Run()
     {
-        while (at < text.Length)
+        while (_at < _text.Length)
         {
-            char c = text[at];
+            char c = _text[_at];
             switch (c)
             {
-                case '\\' when at + 1 < text.Length:
+                case '\\' when _at + 1 < _text.Length:
                     ReadCode();
                     break;
                 case '{':
@@ -57,24 +56,24 @@ internal sealed class MTextParser
                     break;
                 case ' ':
                     Emit(MTextTokenKind.Space);
-                    at++;
+                    _at++;
                     break;
                 case '\n':
                     Emit(MTextTokenKind.Paragraph);
-                    at++;
+                    _at++;
                     break;
                 case '\t':
                     Emit(MTextTokenKind.Tab);
-                    at++;
+                    _at++;
                     break;
-                case '^' when at + 1 < text.Length && text[at + 1] is 'I' or 'J' or 'M':
+                case '^' when _at + 1 < _text.Length && _text[_at + 1] is 'I' or 'J' or 'M':
                     ReadCaret();
                     break;
-                case '%' when at + 2 < text.Length && text[at + 1] == '%' && "uUoOkK".Contains(text[at + 2]):
-                    SwitchBar(text[at + 2]);
+                case '%' when _at + 2 < _text.Length && _text[_at + 1] == '%' && "uUoOkK".Contains(_text[_at + 2]):
+                    SwitchBar(_text[_at + 2]);
                     break;
                 default:
-                    at += TextCodes.ReadCharacter(text, at, word);
+                    _at += TextCodes.ReadCharacter(_text, _at, _word);
                     break;
             }
         }
@@ -84,22 +83,22 @@ internal sealed class MTextParser
 
     private void ReadCode()
     {
-        char code = text[at + 1];
-        if (code is 'U' or 'M' && TextCodes.TryReadUnicode(text, at, word, out int length))
+        char code = _text[_at + 1];
+        if (code is 'U' or 'M' && TextCodes.TryReadUnicode(_text, _at, _word, out int length))
         {
-            at += length;
+            _at += length;
             return;
         }
 
-        int codeStart = at;
-        at += 2;
+        int codeStart = _at;
+        _at += 2;
         switch (code)
         {
             case '\\' or '{' or '}':
-                word.Append(code);
+                _word.Append(code);
                 return;
             case '~':
-                word.Append('\u00a0');
+                _word.Append('\u00a0');
                 return;
             case 'P' or 'X':
                 Emit(MTextTokenKind.Paragraph);
@@ -112,8 +111,8 @@ internal sealed class MTextParser
         FlushWord();
         if (!TrySetBar(code) && !TryReadArgument(code))
         {
-            at = codeStart + 1;
-            word.Append('\\');
+            _at = codeStart + 1;
+            _word.Append('\\');
         }
     }
 
@@ -122,13 +121,13 @@ internal sealed class MTextParser
         switch (code)
         {
             case 'L' or 'l':
-                format = format with { Underline = code == 'L' };
+                _format = _format with { Underline = code == 'L' };
                 return true;
             case 'O' or 'o':
-                format = format with { Overline = code == 'O' };
+                _format = _format with { Overline = code == 'O' };
                 return true;
             case 'K' or 'k':
-                format = format with { Strike = code == 'K' };
+                _format = _format with { Strike = code == 'K' };
                 return true;
             default:
                 return false;
@@ -154,7 +153,7 @@ internal sealed class MTextParser
                 SetFont(argument);
                 return true;
             case 'p':
-                paragraph = ParagraphCodes.Parse(argument, paragraph, baseHeight);
+                _paragraph = ParagraphCodes.Parse(argument, _paragraph, _baseHeight);
                 return true;
             case 'S':
                 EmitStack(argument);
@@ -169,21 +168,22 @@ internal sealed class MTextParser
     {
         bool relative = argument.EndsWith('x') || argument.EndsWith('X');
         string digits = relative ? argument[..^1] : argument;
-        if (!double.TryParse(digits, NumberStyles.Float, CultureInfo.InvariantCulture, out double value) || !double.IsFinite(value))
+        if (!double.TryParse(digits, NumberStyles.Float, CultureInfo.InvariantCulture, out double value)
+            || !double.IsFinite(value))
         {
             return;
         }
 
-        format = code switch
+        _format = code switch
         {
-            'H' when value > 0 => format with { Height = relative ? format.Height * value : value },
-            'W' when value > 0 => format with { WidthFactor = relative ? format.WidthFactor * value : value },
-            'Q' => format with { ObliqueDegrees = Math.Clamp(value, -85, 85) },
-            'T' when value > 0 => format with { Tracking = relative ? format.Tracking * value : value },
-            'A' => format with { Align = (StackAlign)Math.Clamp((int)value, 0, 2) },
-            'C' => format with { Color = new InlineColor(true, false, (int)value) },
-            'c' => format with { Color = new InlineColor(true, true, SwapRedBlue((int)value)) },
-            _ => format,
+            'H' when value > 0 => _format with { Height = relative ? _format.Height * value : value },
+            'W' when value > 0 => _format with { WidthFactor = relative ? _format.WidthFactor * value : value },
+            'Q' => _format with { ObliqueDegrees = Math.Clamp(value, -85, 85) },
+            'T' when value > 0 => _format with { Tracking = relative ? _format.Tracking * value : value },
+            'A' => _format with { Align = (StackAlign)Math.Clamp((int)value, 0, 2) },
+            'C' => _format with { Color = new InlineColor(true, false, (int)value) },
+            'c' => _format with { Color = new InlineColor(true, true, SwapRedBlue((int)value)) },
+            _ => _format,
         };
     }
 
@@ -204,49 +204,50 @@ internal sealed class MTextParser
 
         bool outline = parts.Length > 1 || family.Contains(' ');
         FontSpec spec = outline ? FontTable.FromFamily(family, bold, italic) : FontTable.FromName(family);
-        format = format with { Font = spec, ToleranceSymbols = FontTable.IsToleranceSymbolFont(family) };
+        _format = _format with { Font = spec, ToleranceSymbols = FontTable.IsToleranceSymbolFont(family) };
     }
 
     /// <summary>The text up to the next semicolon, or null when there is none.</summary>
     private string? Argument()
     {
-        int end = text.IndexOf(';', at);
+        int end = _text.IndexOf(';', _at);
         if (end < 0)
         {
             return null;
         }
 
-        string argument = text[at..end];
-        at = end + 1;
+        string argument = _text[_at..end];
+        _at = end + 1;
         return argument;
     }
 
-    /// <summary>Like <see cref="Argument"/>, but a backslash keeps a semicolon or divider as text (marked by a zero).</summary>
+    /// <summary>Like <see cref="Argument"/>, but a backslash keeps a semicolon or divider as text (marked by a
+    /// zero).</summary>
     private string? StackArgument()
     {
         var result = new StringBuilder();
-        for (int i = at; i < text.Length; i++)
+        for (int i = _at; i < _text.Length; i++)
         {
-            char c = text[i];
+            char c = _text[i];
             if (c == ';')
             {
-                at = i + 1;
+                _at = i + 1;
                 return result.ToString();
             }
 
-            if (c == '\\' && i + 1 < text.Length)
+            if (c == '\\' && i + 1 < _text.Length)
             {
-                if (TextCodes.TryReadUnicode(text, i, result, out int length))
+                if (TextCodes.TryReadUnicode(_text, i, result, out int length))
                 {
                     i += length - 1;
                     continue;
                 }
 
-                result.Append('\0').Append(text[++i]);
+                result.Append('\0').Append(_text[++i]);
             }
-            else if (c == '%' && i + 2 < text.Length && text[i + 1] == '%')
+            else if (c == '%' && i + 2 < _text.Length && _text[i + 1] == '%')
             {
-                i += TextCodes.ReadCharacter(text, i, result) - 1;
+                i += TextCodes.ReadCharacter(_text, i, result) - 1;
             }
             else
             {
@@ -275,13 +276,13 @@ internal sealed class MTextParser
         string upper = (divider < 0 ? argument : argument[..divider]).Replace("\0", string.Empty);
         string lower = divider < 0 ? string.Empty : argument[(divider + 1)..].Replace("\0", string.Empty);
         char sign = divider < 0 ? '^' : argument[divider];
-        tokens.Add(new MTextToken(MTextTokenKind.Stack, upper.Trim(), lower.Trim(), sign, format, paragraph));
+        _tokens.Add(new MTextToken(MTextTokenKind.Stack, upper.Trim(), lower.Trim(), sign, _format, _paragraph));
     }
 
     private void ReadCaret()
     {
-        char next = text[at + 1];
-        at += 2;
+        char next = _text[_at + 1];
+        _at += 2;
         if (next == 'I')
         {
             Emit(MTextTokenKind.Tab);
@@ -295,46 +296,46 @@ internal sealed class MTextParser
     private void SwitchBar(char which)
     {
         FlushWord();
-        at += 3;
-        format = char.ToLowerInvariant(which) switch
+        _at += 3;
+        _format = char.ToLowerInvariant(which) switch
         {
-            'u' => format with { Underline = !format.Underline },
-            'o' => format with { Overline = !format.Overline },
-            _ => format with { Strike = !format.Strike },
+            'u' => _format with { Underline = !_format.Underline },
+            'o' => _format with { Overline = !_format.Overline },
+            _ => _format with { Strike = !_format.Strike },
         };
     }
 
     private void OpenGroup()
     {
-        at++;
-        if (groups.Count < DeepestGroup)
+        _at++;
+        if (_groups.Count < DeepestGroup)
         {
-            groups.Push(format);
+            _groups.Push(_format);
         }
     }
 
     private void CloseGroup()
     {
-        at++;
-        if (groups.Count > 0)
+        _at++;
+        if (_groups.Count > 0)
         {
-            format = groups.Pop();
+            _format = _groups.Pop();
         }
     }
 
     private void Emit(MTextTokenKind kind)
     {
         FlushWord();
-        tokens.Add(new MTextToken(kind, string.Empty, string.Empty, '\0', format, paragraph));
+        _tokens.Add(new MTextToken(kind, string.Empty, string.Empty, '\0', _format, _paragraph));
     }
 
     private void FlushWord()
     {
-        if (word.Length > 0)
+        if (_word.Length > 0)
         {
-            string letters = format.ToleranceSymbols ? ToleranceSymbols.Translate(word.ToString()) : word.ToString();
-            tokens.Add(new MTextToken(MTextTokenKind.Word, letters, string.Empty, '\0', format, paragraph));
-            word.Clear();
+            string letters = _format.ToleranceSymbols ? ToleranceSymbols.Translate(_word.ToString()) : _word.ToString();
+            _tokens.Add(new MTextToken(MTextTokenKind.Word, letters, string.Empty, '\0', _format, _paragraph));
+            _word.Clear();
         }
     }
 }

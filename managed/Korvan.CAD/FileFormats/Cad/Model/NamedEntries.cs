@@ -64,7 +64,8 @@ internal sealed class NamedEntries<T>(NamedObjects<T> items) : IDictionary
     {
         if (value is IKeyedObject keyed && !string.Equals(keyed.Key, key as string, StringComparison.OrdinalIgnoreCase))
         {
-            throw new DataMissmatchError($"An object called '{keyed.Key}' cannot stand under the key '{key}'; rename it first.");
+            throw new DataMissmatchError(
+                $"An object called '{keyed.Key}' cannot stand under the key '{key}'; rename it first.");
         }
 
         int index = this[key] is T old ? items.Items.IndexOf(old) : -1;

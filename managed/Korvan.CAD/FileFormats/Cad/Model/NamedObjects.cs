@@ -116,6 +116,7 @@ internal sealed class NamedObjects<T>(string what) : IList
     private T Typed(object? value)
     {
         return value as T ?? throw new DataMissmatchError(
-            $"A list of the kind {what} takes objects of type {typeof(T).Name}, not {value?.GetType().Name ?? "nothing"}.");
+            $"A list of the kind {what} takes objects of type {typeof(T).Name}, not "
+                + $"{value?.GetType().Name ?? "nothing"}.");
     }
 }

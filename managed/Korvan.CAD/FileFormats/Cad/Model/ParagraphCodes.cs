@@ -1,6 +1,5 @@
 using System.Collections.Generic;
 using System.Globalization;
-using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 

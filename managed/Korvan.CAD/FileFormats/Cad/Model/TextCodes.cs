@@ -2,7 +2,6 @@ using System;
 using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
-using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
@@ -80,7 +79,8 @@ internal static class TextCodes
         return result.ToString();
     }
 
-    /// <summary>Appends the sign that begins at <paramref name="at"/> and says how many characters its code takes.</summary>
+    /// <summary>Appends the sign that begins at <paramref name="at"/> and says how many characters its code
+    /// takes.</summary>
     internal static int ReadCharacter(string text, int at, StringBuilder into)
     {
         char c = text[at];
@@ -111,7 +111,8 @@ internal static class TextCodes
     internal static bool TryReadUnicode(string text, int at, StringBuilder into, out int length)
     {
         length = 0;
-        if (at + 6 < text.Length && text[at + 1] is 'U' or 'u' && text[at + 2] == '+' && TryHex(text, at + 3, out int unit))
+        if (at + 6 < text.Length && text[at + 1] is 'U' or 'u' && text[at + 2] == '+'
+            && TryHex(text, at + 3, out int unit))
         {
             into.Append((char)unit);
             length = 7;

@@ -1,5 +1,4 @@
 using System.Text;
-using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 

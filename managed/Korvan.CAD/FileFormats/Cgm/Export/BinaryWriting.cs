@@ -1,8 +1,8 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cgm.Classes;
-using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Coding;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Export;
 

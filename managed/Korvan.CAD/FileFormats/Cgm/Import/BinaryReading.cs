@@ -1,7 +1,7 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cgm.Classes;
-using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Coding;
+using Korvan.CAD.FileFormats.Cgm.Commands;
 
 namespace Korvan.CAD.FileFormats.Cgm.Import;
 

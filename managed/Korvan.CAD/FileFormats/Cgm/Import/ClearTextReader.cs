@@ -57,7 +57,7 @@ internal sealed class ClearTextReader
             if (TryRead(start, keyword) is Command command)
             {
                 _isAtEnd = command is
-                    { ElementClass: ClassCode.DelimiterElement, ElementId: (int)DelimiterElement.EndMetafile };
+                { ElementClass: ClassCode.DelimiterElement, ElementId: (int)DelimiterElement.EndMetafile };
                 return command;
             }
         }

@@ -147,7 +147,7 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IParameterCodec
             command.Apply(State);
             NoteRest(command);
             _isAtEnd = command is
-                { ElementClass: ClassCode.DelimiterElement, ElementId: (int)DelimiterElement.EndMetafile };
+            { ElementClass: ClassCode.DelimiterElement, ElementId: (int)DelimiterElement.EndMetafile };
             return command;
         }
         catch (CgmDataException e)

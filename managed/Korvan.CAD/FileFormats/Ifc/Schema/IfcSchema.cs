@@ -23,7 +23,6 @@ internal sealed class IfcSchema
     private readonly Assembly _assembly = Assembly.Load(AssemblyName);
     private readonly Dictionary<string, IfcClass> _byName = new(StringComparer.OrdinalIgnoreCase);
     private readonly Dictionary<string, string> _typeNames = new(StringComparer.OrdinalIgnoreCase);
-    private readonly Dictionary<string, string[]> _keywords = new(StringComparer.Ordinal);
     private readonly ConcurrentDictionary<string, Type> _types = new(StringComparer.Ordinal);
     private readonly ConcurrentDictionary<string, HashSet<string>> _members = new(StringComparer.Ordinal);
     private readonly IfcClass[] _classes;

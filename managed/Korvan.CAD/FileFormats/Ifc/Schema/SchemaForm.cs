@@ -1,5 +1,3 @@
-using System;
-
 namespace Korvan.CAD.FileFormats.Ifc.Schema;
 
 /// <summary>The declared type of an attribute: a name, or an aggregate of another form.</summary>

@@ -1,4 +1,3 @@
-using System;
 using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Psd.Resources;

@@ -1,5 +1,4 @@
 using Korvan.CAD.Binding;
-using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.FileFormats.Tiff.Enums;
 

@@ -1,5 +1,4 @@
 using System;
-using System.Collections.Generic;
 using System.Globalization;
 using System.IO;
 using System.Linq;
@@ -15,9 +14,11 @@ public class BinaryFormTests
 {
     private static readonly object[] Entities =
     [
-        0, "LINE", 5, "2A", 8, "Layer", 62, -3, 48, 0.1, 10, 1.0 / 3, 20, -1e-300, 30, 1e300, 11, 0, 21, 0, 31, 0, 370, -1, 420, 0x7f102030, 440, 0x02000080,
+        0, "LINE", 5, "2A", 8, "Layer", 62, -3, 48, 0.1, 10, 1.0 / 3, 20, -1e-300, 30, 1e300, 11, 0, 21, 0, 31, 0, 370,
+            -1, 420, 0x7f102030, 440, 0x02000080,
         0, "MTEXT", 5, "2B", 8, "0", 10, 0, 20, 0, 40, 2.5, 71, 1, 1, "one \\P two",
-        0, "WIDGET", 5, "2C", 8, "0", 90, -2000000000, 160, 5000000000, 280, 1, 290, 1, 310, "00FF7F", 460, 0.5, 1001, "ACME", 1070, -5, 1071, 100000, 1004, "CAFE", 1010, 1.5, 1020, 2, 1030, 3,
+        0, "WIDGET", 5, "2C", 8, "0", 90, -2000000000, 160, 5000000000, 280, 1, 290, 1, 310, "00FF7F", 460, 0.5, 1001,
+            "ACME", 1070, -5, 1071, 100000, 1004, "CAFE", 1010, 1.5, 1020, 2, 1030, 3,
     ];
 
     [Theory]
@@ -27,7 +28,8 @@ public class BinaryFormTests
     public void Both_forms_read_the_same(string release, bool words)
     {
         string text = DxfText.Header(release) + DxfText.Entities(Entities) + DxfText.Tags(0, "EOF");
-        Assert.Equal(DxfText.Save(DxfText.Load(text)), DxfText.Save(DxfText.Load(Binary(Encoding.Latin1.GetBytes(text), words))));
+        Assert.Equal(DxfText.Save(DxfText.Load(text)),
+            DxfText.Save(DxfText.Load(Binary(Encoding.Latin1.GetBytes(text), words))));
     }
 
     [DrawingFact]
@@ -54,7 +56,8 @@ public class BinaryFormTests
 
             compared++;
             string expected = Plain(DxfText.Save(first));
-            string actual = Plain(DxfText.Save(DxfText.Load(Binary(text, first.Version.ToString().CompareTo("AC1009") > 0))));
+            string actual = Plain(
+                DxfText.Save(DxfText.Load(Binary(text, first.Version.ToString().CompareTo("AC1009") > 0))));
             Assert.True(expected == actual, $"{Path.GetFileName(file)}: {Difference(expected, actual)}");
         }
 
@@ -85,7 +88,8 @@ public class BinaryFormTests
         using MemoryStream output = new();
         using BinaryWriter writer = new(output);
         writer.Write("AutoCAD Binary DXF\r\n\u001a\0"u8);
-        string[] lines = Encoding.Latin1.GetString(text).TrimStart('\u00EF', '\u00BB', '\u00BF').Replace("\r\n", "\n").Replace('\r', '\n').Split('\n');
+        string[] lines = Encoding.Latin1.GetString(text).TrimStart('\u00EF', '\u00BB', '\u00BF').Replace("\r\n",
+            "\n").Replace('\r', '\n').Split('\n');
         for (int i = 0; i + 1 < lines.Length; i += 2)
         {
             int code = int.Parse(lines[i], CultureInfo.InvariantCulture);
@@ -117,10 +121,12 @@ public class BinaryFormTests
     {
         switch (code)
         {
-            case (>= 10 and < 60) or (>= 110 and < 150) or (>= 210 and < 240) or (>= 460 and < 470) or (>= 1010 and < 1060):
+            case (>= 10 and < 60) or (>= 110 and < 150) or (>= 210 and < 240) or (>= 460 and < 470)
+                or (>= 1010 and < 1060):
                 writer.Write(double.Parse(value, CultureInfo.InvariantCulture));
                 break;
-            case (>= 60 and < 80) or (>= 170 and < 180) or (>= 270 and < 290) or (>= 370 and < 390) or (>= 400 and < 410) or (>= 1060 and < 1071):
+            case (>= 60 and < 80) or (>= 170 and < 180) or (>= 270 and < 290) or (>= 370 and < 390)
+                or (>= 400 and < 410) or (>= 1060 and < 1071):
                 writer.Write(unchecked((short)Whole(value)));
                 break;
             case (>= 90 and < 100) or (>= 420 and < 430) or (>= 440 and < 460) or 1071:
@@ -146,7 +152,8 @@ public class BinaryFormTests
 
     // Text files may write one number in many ways, which stay as they are where nobody interprets them.
     private static string Plain(string saved) => string.Join('\n', saved.Split("\r\n").Select(line =>
-        double.TryParse(line, CultureInfo.InvariantCulture, out double number) ? number.ToString("R", CultureInfo.InvariantCulture) : line));
+        double.TryParse(line, CultureInfo.InvariantCulture, out double number)
+            ? number.ToString("R", CultureInfo.InvariantCulture) : line));
 
     private static long Whole(string value) => (long)double.Parse(value, CultureInfo.InvariantCulture);
 
@@ -159,6 +166,7 @@ public class BinaryFormTests
             at++;
         }
 
-        return $"line {at + 1}: '{(at < left.Length ? left[at] : "")}' as text, '{(at < right.Length ? right[at] : "")}' as binary";
+        return $"line {at + 1}: '{(at < left.Length ? left[at] : "")}' as text, "
+            + $"'{(at < right.Length ? right[at] : "")}' as binary";
     }
 }

@@ -18,7 +18,8 @@ public class DamagedDrawingTests
         { "a text", "Dear Sir or Madam\nwe regret\n", "no known format" },
         { "a drawing database", "AC1032\0\0\0\0", "CAD_R2018" },
         { "cut within a section", Intact[..Intact.LastIndexOf("0\nENDSEC", StringComparison.Ordinal)], "never ends" },
-        { "cut behind a code", DxfText.Header("AC1015") + "0\nSECTION\n2\nENTITIES\n0\nLINE\n10\n", "value was expected" },
+        { "cut behind a code", DxfText.Header("AC1015")
+            + "0\nSECTION\n2\nENTITIES\n0\nLINE\n10\n", "value was expected" },
         { "cut between sections", DxfText.Header("AC1015"), "cut off" },
         { "a word as group code", Intact.Replace("\n10\n1\n", "\nten\n1\n"), "line 23: 'ten' is no group code" },
         { "a word as coordinate", Intact.Replace("\n10\n1\n", "\n10\nwest\n"), "'west'; a number was expected" },
@@ -26,7 +27,8 @@ public class DamagedDrawingTests
         { "no number at all", Intact.Replace("\n10\n1\n", "\n10\nNaN\n"), "finite" },
         { "a handle with a blank", Intact.Replace("LINE\n", "LINE\n5\nA 1\n"), "handle" },
         { "a section without name", "0\nSECTION\n0\nEOF\n", "no name" },
-        { "an entity outside of a block", DxfText.Tags(0, "SECTION", 2, "BLOCKS", 0, "LINE", 8, "0", 0, "ENDSEC", 0, "EOF"), "BLOCK was expected" },
+        { "an entity outside of a block",
+            DxfText.Tags(0, "SECTION", 2, "BLOCKS", 0, "LINE", 8, "0", 0, "ENDSEC", 0, "EOF"), "BLOCK was expected" },
         { "2 billion vertices", DxfText.Drawing(0, "LWPOLYLINE", 8, "0", 90, 2000000000), "announces 2000000000" },
         { "2 billion knots", DxfText.Drawing(0, "SPLINE", 8, "0", 72, 2000000000), "announces 2000000000" },
         { "2 billion outlines", DxfText.Drawing(0, "HATCH", 8, "0", 91, 2000000000), "announces 2000000000" },
@@ -58,7 +60,8 @@ public class DamagedDrawingTests
     [Fact]
     public void A_binary_drawing_that_is_cut_is_an_error()
     {
-        byte[] head = [.. "AutoCAD Binary DXF\r\n\u001a\0"u8, 0, 0, .. "SECTION\0"u8, 2, 0, .. "ENTITIES\0"u8, 10, 0, 1, 2];
+        byte[] head = [.. "AutoCAD Binary DXF\r\n\u001a\0"u8, 0, 0, .. "SECTION\0"u8, 2, 0, .. "ENTITIES\0"u8, 10, 0, 1,
+            2];
         Assert.Contains("ends within a tag", Assert.Throws<ImageLoadException>(() => DxfText.Load(head)).Message);
     }
 
@@ -67,7 +70,8 @@ public class DamagedDrawingTests
     {
         string folder = Path.GetTempPath();
         Assert.Contains("folder", Assert.Throws<ImageLoadException>(() => Image.Load(folder)).Message);
-        Assert.Contains("does not exist", Assert.Throws<ImageLoadException>(() => Image.Load(folder + "missing.dxf")).Message);
+        Assert.Contains("does not exist",
+            Assert.Throws<ImageLoadException>(() => Image.Load(folder + "missing.dxf")).Message);
         Assert.Contains("empty", Assert.Throws<ImageLoadException>(() => Image.Load(new MemoryStream())).Message);
         Assert.False(Image.CanLoad(folder + "missing.dxf"));
     }
@@ -86,9 +90,11 @@ public class DamagedDrawingTests
     public void A_block_that_inserts_itself_loads_and_has_a_size()
     {
         string blocks = DxfText.Tags(
-            0, "SECTION", 2, "BLOCKS", 0, "BLOCK", 2, "A", 70, 0, 10, 0, 20, 0, 0, "LINE", 8, "0", 10, 0, 20, 0, 11, 3, 21, 4,
+            0, "SECTION", 2, "BLOCKS", 0, "BLOCK", 2, "A", 70, 0, 10, 0, 20, 0, 0, "LINE", 8, "0", 10, 0, 20, 0, 11, 3,
+                21, 4,
             0, "INSERT", 8, "0", 2, "a", 10, 9, 20, 9, 0, "ENDBLK", 0, "ENDSEC");
-        DxfImage image = DxfText.Load(DxfText.Header("AC1009") + blocks + DxfText.Entities(0, "INSERT", 8, "0", 2, "A", 10, 1, 20, 1) + DxfText.Tags(0, "EOF"));
+        DxfImage image = DxfText.Load(DxfText.Header("AC1009") + blocks
+            + DxfText.Entities(0, "INSERT", 8, "0", 2, "A", 10, 1, 20, 1) + DxfText.Tags(0, "EOF"));
         Assert.Equal(3, image.Width);
         Assert.Single(DxfText.Reload(image).Entities);
     }

@@ -29,9 +29,11 @@ public class DxfReadingTests
 
     [Theory]
     [MemberData(nameof(Encodings))]
-    public void Texts_are_read_in_the_code_page_of_the_drawing(string release, string page, byte[] text, string expected)
+    public void Texts_are_read_in_the_code_page_of_the_drawing(string release, string page, byte[] text,
+        string expected)
     {
-        byte[] before = Encoding.ASCII.GetBytes(DxfText.Header(release, page) + DxfText.Tags(0, "SECTION", 2, "ENTITIES") + DxfText.Tags(Text));
+        byte[] before = Encoding.ASCII.GetBytes(DxfText.Header(release, page)
+            + DxfText.Tags(0, "SECTION", 2, "ENTITIES") + DxfText.Tags(Text));
         byte[] after = Encoding.ASCII.GetBytes("\n" + DxfText.Tags(0, "ENDSEC", 0, "EOF"));
         DxfImage image = DxfText.Load([.. before, .. text, .. after]);
         Assert.Equal(expected, ((CadText)image.Entities[0]).DefaultValue);
@@ -41,7 +43,8 @@ public class DxfReadingTests
     [Fact]
     public void A_wrong_code_page_can_be_overruled()
     {
-        byte[] bytes = Encoding.Latin1.GetBytes(DxfText.Header("AC1015") + DxfText.Entities([.. Text, "\u00C4"]) + DxfText.Tags(0, "EOF"));
+        byte[] bytes = Encoding.Latin1.GetBytes(DxfText.Header("AC1015") + DxfText.Entities([.. Text, "\u00C4"])
+            + DxfText.Tags(0, "EOF"));
         DxfImage image = DxfText.Load(bytes, new LoadOptions { SpecifiedEncoding = CodePages.Cyrillic });
         Assert.Equal("Д", ((CadText)image.Entities[0]).DefaultValue);
     }
@@ -52,7 +55,8 @@ public class DxfReadingTests
     [InlineData("\r")]
     public void Lines_end_as_on_any_system(string end)
     {
-        string text = DxfText.Tags(999, "a comment") + DxfText.Drawing(0, "LINE", "  8", "A b ", 10, " 1.5 ", 20, 2, 11, "3e2", 21, "+4.");
+        string text = DxfText.Tags(999, "a comment")
+            + DxfText.Drawing(0, "LINE", "  8", "A b ", 10, " 1.5 ", 20, 2, 11, "3e2", 21, "+4.");
         CadLine line = (CadLine)DxfText.Load(text.Replace("\n", end)).Entities[0];
         Assert.Equal("A b ", line.LayerName);
         Assert.True(line.FirstPoint.Is(1.5, 2, 0) && line.SecondPoint.Is(300, 4, 0));
@@ -61,7 +65,9 @@ public class DxfReadingTests
     [Fact]
     public void A_byte_order_mark_and_a_missing_header_do_no_harm()
     {
-        DxfImage image = DxfText.Load([.. "\uFEFF"u8, .. Encoding.ASCII.GetBytes(DxfText.Entities(0, "POINT", 8, "0", 10, 1, 20, 1) + DxfText.Tags(0, "EOF"))]);
+        DxfImage image = DxfText
+            .Load([.. "\uFEFF"u8,
+            .. Encoding.ASCII.GetBytes(DxfText.Entities(0, "POINT", 8, "0", 10, 1, 20, 1) + DxfText.Tags(0, "EOF"))]);
         Assert.IsType<CadPoint>(Assert.Single(image.Entities));
     }
 
@@ -73,7 +79,8 @@ public class DxfReadingTests
     public void The_flag_of_a_polyline_tells_its_class(int flag, Type expected)
     {
         DxfImage image = DxfText.Load(DxfText.Drawing(
-            0, "POLYLINE", 8, "0", 66, 1, 70, flag, 0, "VERTEX", 8, "0", 10, 7, 20, 8, 70, 64, 0, "SEQEND", 8, "0", 0, "POINT", 8, "0"));
+            0, "POLYLINE", 8, "0", 66, 1, 70, flag, 0, "VERTEX", 8, "0", 10, 7, 20, 8, 70, 64, 0, "SEQEND", 8, "0", 0,
+                "POINT", 8, "0"));
         CadPolylineBase polyline = (CadPolylineBase)image.Entities[0];
         Assert.IsType(expected, polyline);
         Assert.Equal(7, Assert.Single(polyline.Vertices).LocationPoint.X);
@@ -84,7 +91,8 @@ public class DxfReadingTests
     public void Codes_belong_to_the_class_whose_marker_they_stand_behind()
     {
         DxfImage image = DxfText.Load(DxfText.Drawing(
-            0, "HELIX", 5, "2A", 100, "AcDbEntity", 8, "0", 100, "AcDbSpline", 70, 8, 71, 3, 40, 0, 40, 1, 10, 5, 20, 6, 30, 7,
+            0, "HELIX", 5, "2A", 100, "AcDbEntity", 8, "0", 100, "AcDbSpline", 70, 8, 71, 3, 40, 0, 40, 1, 10, 5, 20, 6,
+                30, 7,
             100, "AcDbHelix", 40, 99, 10, 1, 20, 2, 30, 3, 290, 0, 4000, "odd"));
         CadHelix helix = (CadHelix)image.Entities[0];
         Assert.Equal([0, 1], helix.KnotValues);

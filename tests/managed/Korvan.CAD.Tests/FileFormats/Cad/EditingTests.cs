@@ -22,7 +22,13 @@ public class EditingTests
     public void A_new_drawing_keeps_what_is_put_into_it()
     {
         CadImage image = new();
-        image.AddEntity(new CadLine { FirstPoint = new(0.1, 1e-17, -3), SecondPoint = new(1.0 / 3, 2, 3), LayerName = "Walls", ColorId = 1 });
+        image.AddEntity(new CadLine
+        {
+            FirstPoint = new(0.1, 1e-17, -3),
+            SecondPoint = new(1.0 / 3, 2, 3),
+            LayerName = "Walls",
+            ColorId = 1
+        });
         image.AddEntity(new CadLwPolyline { Flag = CadLwPolylineFlag.Closed });
         CadLwPolyline outline = (CadLwPolyline)image.Entities[1];
         outline.Coordinates.AddRange([new(0, 0), new(4, 0), new(4, 3)]);
@@ -48,7 +54,14 @@ public class EditingTests
         block.Entities.Add(new CadCircle { Radius = 2 });
         image.BlockEntities.Add(block);
         CadInsertObject insert = new() { Name = "Door", ColumnCount = 3, ColumnSpacing = 5 };
-        insert.Attributes.Add(new CadAttrib { DefinitionTagString = "NUMBER", DefaultValue = "17", VerticalAlignment = 2, LockPosition = true });
+        insert.Attributes
+            .Add(new CadAttrib
+            {
+                DefinitionTagString = "NUMBER",
+                DefaultValue = "17",
+                VerticalAlignment = 2,
+                LockPosition = true
+            });
         CadHatch hatch = new();
         CadEdgeBoundaryPath edges = new();
         edges.Edges.Add(new CadBoundaryPathCircularArc { Radius = 3 });
@@ -72,7 +85,8 @@ public class EditingTests
     {
         DxfImage image = DxfText.Load(
             DxfText.Tags(0, "SECTION", 2, "HEADER", 9, "$ACADVER", 1, "AC1015", 9, "$HANDSEED", 5, "100", 0, "ENDSEC")
-            + DxfText.Entities(0, "POINT", 5, "2A", 100, "AcDbEntity", 8, "0", 100, "AcDbPoint", 10, 1, 20, 1) + DxfText.Tags(0, "EOF"));
+            + DxfText.Entities(0, "POINT", 5, "2A", 100, "AcDbEntity", 8, "0", 100, "AcDbPoint", 10, 1, 20, 1)
+            + DxfText.Tags(0, "EOF"));
         CadPoint added = new();
         image.AddEntity(added);
         DxfText.Save(image);
@@ -86,15 +100,18 @@ public class EditingTests
     {
         object[] tags =
         [
-            0, "WIDGET", 5, "2A", 102, "{ACME", 70, 1, 102, "}", 330, "1F", 100, "AcDbEntity", 8, "0", 100, "AcmeWidget", 70, 4,
+            0, "WIDGET", 5, "2A", 102, "{ACME", 70, 1, 102, "}", 330, "1F", 100, "AcDbEntity", 8, "0", 100,
+                "AcmeWidget", 70, 4,
             100, "AcmeMore", 102, "{X", 1, " a ", 102, "}", 1, "b", 1001, "ACME", 1000, "note", 1040, "0.5",
-            0, "LINE", 5, "2B", 100, "AcDbEntity", 8, "0", 92, 2, 310, "CAFE", 100, "AcDbLine", 10, 0, 20, 0, 11, 1, 21, 1, 100, "AcmeLine", 70, 9,
+            0, "LINE", 5, "2B", 100, "AcDbEntity", 8, "0", 92, 2, 310, "CAFE", 100, "AcDbLine", 10, 0, 20, 0, 11, 1, 21,
+                1, 100, "AcmeLine", 70, 9,
         ];
         DxfImage image = DxfText.Load(DxfText.Drawing(tags));
         Assert.Equal(1, image.UnknownEntityCount);
         Assert.Equal("note", image.Entities[0].XdataContainer.Find("acme")!.Data[0].Value);
         string saved = DxfText.Save(image).Replace("\r\n", "\n").Replace("\n ", "\n").Replace("\n ", "\n");
-        Assert.Contains(DxfText.Tags(100, "AcmeWidget", 70, 4, 100, "AcmeMore", 102, "{X", 1, "a ", 102, "}", 1, "b", 1001, "ACME", 1000, "note", 1040, "0.5"), saved);
+        Assert.Contains(DxfText.Tags(100, "AcmeWidget", 70, 4, 100, "AcmeMore", 102, "{X", 1, "a ", 102, "}", 1, "b",
+            1001, "ACME", 1000, "note", 1040, "0.5"), saved);
         Assert.Contains(DxfText.Tags(92, 2, 310, "CAFE", 100, "AcDbLine"), saved);
         Assert.Contains(DxfText.Tags(100, "AcmeLine", 70, 9), saved);
     }

@@ -12,7 +12,8 @@ namespace Korvan.CAD.Tests.FileFormats.Cad;
 /// <summary>Entities whose codes mean different things by their place.</summary>
 public class EntityCodecTests
 {
-    private static readonly object[] HatchHead = [0, "HATCH", 5, "A1", 100, "AcDbEntity", 8, "0", 100, "AcDbHatch", 10, 0, 20, 0, 30, 2, 210, 0, 220, 0, 230, 1];
+    private static readonly object[] HatchHead = [0, "HATCH", 5, "A1", 100, "AcDbEntity", 8, "0", 100, "AcDbHatch", 10,
+        0, 20, 0, 30, 2, 210, 0, 220, 0, 230, 1];
 
     [Fact]
     public void A_hatch_keeps_every_kind_of_edge()
@@ -47,8 +48,10 @@ public class EntityCodecTests
         CadHatch hatch = (CadHatch)Again(
         [
             .. HatchHead, 2, "ANSI", 70, 0, 71, 0, 91, 0, 75, 0, 76, 1, 52, 45, 41, 2, 77, 0, 78, 2,
-            53, 45, 43, 1, 44, 2, 45, 3, 46, 4, 79, 2, 49, 0.5, 49, -0.25, 53, 135, 43, 0, 44, 0, 45, 1, 46, 1, 79, 0, 98, 0,
-            450, 1, 451, 0, 460, 0.5, 461, 0, 452, 0, 462, 1, 453, 2, 463, 0, 63, 5, 421, 255, 463, 1, 63, 2, 421, 65280, 470, "LINEAR",
+            53, 45, 43, 1, 44, 2, 45, 3, 46, 4, 79, 2, 49, 0.5, 49, -0.25, 53, 135, 43, 0, 44, 0, 45, 1, 46, 1, 79, 0,
+                98, 0,
+            450, 1, 451, 0, 460, 0.5, 461, 0, 452, 0, 462, 1, 453, 2, 463, 0, 63, 5, 421, 255, 463, 1, 63, 2, 421,
+                65280, 470, "LINEAR",
         ]);
         Assert.Equal([0.5, -0.25], hatch.PatternDefinitions[0].DashLengths);
         Assert.True(hatch.PatternDefinitions[0].LineOffset.Is(3, 4));
@@ -69,9 +72,11 @@ public class EntityCodecTests
     public void The_type_of_a_dimension_tells_its_class(int type, Type expected)
     {
         CadDimensionBase dimension = (CadDimensionBase)Again(
-            [0, "DIMENSION", 5, "A1", 100, "AcDbEntity", 8, "0", 100, "AcDbDimension", 2, "*D1", 10, 1, 20, 2, 30, 3, 70, type, 1, "<> mm", 3, "ISO"]);
+            [0, "DIMENSION", 5, "A1", 100, "AcDbEntity", 8, "0", 100, "AcDbDimension", 2, "*D1", 10, 1, 20, 2, 30, 3,
+                70, type, 1, "<> mm", 3, "ISO"]);
         Assert.IsType(expected, dimension);
-        Assert.Equal((type, "*D1", "<> mm", "ISO"), (dimension.TypeOfDimension, dimension.BlockName, dimension.Text, dimension.StyleName));
+        Assert.Equal((type, "*D1", "<> mm", "ISO"),
+            (dimension.TypeOfDimension, dimension.BlockName, dimension.Text, dimension.StyleName));
         Assert.Equal(type & 7, (int)dimension.DimensionType);
     }
 
@@ -80,7 +85,8 @@ public class EntityCodecTests
     {
         CadMultiLine line = (CadMultiLine)Again(
         [
-            0, "MLINE", 5, "A1", 100, "AcDbEntity", 8, "0", 100, "AcDbMline", 2, "STANDARD", 40, 2, 70, 1, 71, 1, 72, 1, 73, 2,
+            0, "MLINE", 5, "A1", 100, "AcDbEntity", 8, "0", 100, "AcDbMline", 2, "STANDARD", 40, 2, 70, 1, 71, 1, 72, 1,
+                73, 2,
             10, 0, 20, 0, 30, 0, 210, 0, 220, 0, 230, 1, 11, 5, 21, 6, 31, 0, 12, 1, 22, 0, 32, 0, 13, 0, 23, 1, 33, 0,
             74, 2, 41, 0.5, 41, 0, 75, 0, 74, 1, 41, -0.5, 75, 0,
         ]);
@@ -94,8 +100,10 @@ public class EntityCodecTests
     {
         CadImage image = DxfText.Load(DxfText.Header("AC1015") + DxfText.Tags(
             0, "SECTION", 2, "TABLES", 0, "TABLE", 2, "LTYPE", 70, 1, 0, "LTYPE", 5, "14", 100, "AcDbSymbolTableRecord",
-            100, "AcDbLinetypeTableRecord", 2, "GAS", 70, 0, 3, "Gas", 72, 65, 73, 2, 40, 1.5, 49, 1, 74, 0, 49, -0.5, 74, 2, 75, 0,
-            340, "11", 46, 0.1, 50, 0, 44, -0.1, 45, -0.05, 9, "GAS", 0, "ENDTAB", 0, "ENDSEC") + DxfText.Entities() + DxfText.Tags(0, "EOF"));
+            100, "AcDbLinetypeTableRecord", 2, "GAS", 70, 0, 3, "Gas", 72, 65, 73, 2, 40, 1.5, 49, 1, 74, 0, 49, -0.5,
+                74, 2, 75, 0,
+            340, "11", 46, 0.1, 50, 0, 44, -0.1, 45, -0.05, 9, "GAS", 0, "ENDTAB", 0, "ENDSEC") + DxfText.Entities()
+                + DxfText.Tags(0, "EOF"));
         CadLineTypeTableObject type = DxfText.Reload(image).LineTypes["gas"];
         Assert.Equal([1, -0.5], type.Pattern);
         Assert.True(type.IsComplex);
@@ -113,7 +121,8 @@ public class EntityCodecTests
             100, "AcDbAttribute", 2, "TAG", 70, 8, 73, 12, 74, 3, 0, "SEQEND", 5, "A3", 100, "AcDbEntity", 8, "0",
         ]);
         var attribute = Assert.Single(insert.Attributes);
-        Assert.Equal((12, 3, "TAG", 8), (attribute.FieldLength, attribute.VerticalAlignment, attribute.DefinitionTagString, attribute.AttFlags));
+        Assert.Equal((12, 3, "TAG", 8),
+            (attribute.FieldLength, attribute.VerticalAlignment, attribute.DefinitionTagString, attribute.AttFlags));
         Assert.True(attribute.SecondAlignment.Is(3, 4, 0));
         Assert.NotNull(insert.Seqend);
     }

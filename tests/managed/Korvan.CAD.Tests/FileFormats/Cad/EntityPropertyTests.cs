@@ -76,10 +76,15 @@ public class EntityPropertyTests
             circle, At(0, Math.Tau, t => plane.Point(new Vec3(4 + (3 * Math.Cos(t)), -2 + (3 * Math.Sin(t)), 7))));
         var arc = new CadArc { Radius = 5, StartAngle = 200, EndAngle = 30, ExtrusionDirection = normal };
         double start = 200 * Math.PI / 180;
-        AssertBox(arc, At(start, start + (190 * Math.PI / 180), t => plane.Point(new Vec3(5 * Math.Cos(t), 5 * Math.Sin(t), 0))));
+        AssertBox(arc,
+            At(start, start + (190 * Math.PI / 180), t => plane.Point(new Vec3(5 * Math.Cos(t), 5 * Math.Sin(t), 0))));
         var solid = new CadSolid
         {
-            FirstPoint = new(0, 0, 1), SecondPoint = new(4, 1, 1), ThirdPoint = new(1, 5, 1), FourthPoint = new(6, 6, 1), ExtrusionDirection = normal,
+            FirstPoint = new(0, 0, 1),
+            SecondPoint = new(4, 1, 1),
+            ThirdPoint = new(1, 5, 1),
+            FourthPoint = new(6, 6, 1),
+            ExtrusionDirection = normal,
         };
         AssertBox(
             solid, [.. new Vec3[] { new(0, 0, 1), new(4, 1, 1), new(1, 5, 1), new(6, 6, 1) }.Select(plane.Point)]);

@@ -19,32 +19,46 @@ public class ExtentsTests
     public static readonly TheoryData<string, CadEntityBase, double[]> Flat = new()
     {
         { "a whole circle", new CadCircle { CenterPoint = P(1, 2), Radius = 3 }, [-2, -1, 4, 5] },
-        { "a circle seen from below", new CadCircle { CenterPoint = P(1, 2), Radius = 3, ExtrusionDirection = P(0, 0, -1) }, [-4, -1, 2, 5] },
-        { "an arc across the right", new CadArc { Radius = 2, StartAngle = 315, EndAngle = 45 }, [Root2, -Root2, 2, Root2] },
-        { "an arc within a quarter", new CadArc { Radius = 2, StartAngle = 45, EndAngle = 80 }, [2 * Math.Cos(80 * Math.PI / 180), Root2, Root2, 2 * Math.Sin(80 * Math.PI / 180)] },
+        { "a circle seen from below",
+            new CadCircle { CenterPoint = P(1, 2), Radius = 3, ExtrusionDirection = P(0, 0, -1) }, [-4, -1, 2, 5] },
+        { "an arc across the right", new CadArc { Radius = 2, StartAngle = 315, EndAngle = 45 },
+            [Root2, -Root2, 2, Root2] },
+        { "an arc within a quarter", new CadArc { Radius = 2, StartAngle = 45, EndAngle = 80 },
+            [2 * Math.Cos(80 * Math.PI / 180), Root2, Root2, 2 * Math.Sin(80 * Math.PI / 180)] },
         { "an arc by angles beyond a turn", new CadArc { Radius = 2, StartAngle = 720, EndAngle = 90 }, [0, 0, 2, 2] },
         { "an arc whose end is turns ahead", new CadArc { Radius = 2, StartAngle = 0, EndAngle = 450 }, [0, 0, 2, 2] },
         { "an arc of equal angles", new CadArc { Radius = 2, StartAngle = 30, EndAngle = 30 }, [-2, -2, 2, 2] },
-        { "a whole ellipse, turned", new CadEllipse { MajorEndPoint = P(3, 3), AxisRatio = 0.5 }, [-3 * Math.Sqrt(1.25), -3 * Math.Sqrt(1.25), 3 * Math.Sqrt(1.25), 3 * Math.Sqrt(1.25)] },
-        { "a quarter of an ellipse", new CadEllipse { MajorEndPoint = P(4, 0), AxisRatio = 0.5, StartAngle = 0, EndAngle = Math.PI / 2 }, [0, 0, 4, 2] },
-        { "an ellipse by odd ends", new CadEllipse { MajorEndPoint = P(1, 0), StartAngle = 1, EndAngle = 1 + Math.PI }, [-1, -Math.Sin(1), Math.Cos(1), 1] },
+        { "a whole ellipse, turned", new CadEllipse { MajorEndPoint = P(3, 3), AxisRatio = 0.5 },
+            [-3 * Math.Sqrt(1.25), -3 * Math.Sqrt(1.25), 3 * Math.Sqrt(1.25), 3 * Math.Sqrt(1.25)] },
+        { "a quarter of an ellipse",
+            new CadEllipse { MajorEndPoint = P(4, 0), AxisRatio = 0.5, StartAngle = 0, EndAngle = Math.PI / 2 },
+                [0, 0, 4, 2] },
+        { "an ellipse by odd ends", new CadEllipse { MajorEndPoint = P(1, 0), StartAngle = 1, EndAngle = 1 + Math.PI },
+            [-1, -Math.Sin(1), Math.Cos(1), 1] },
         { "a polyline of half circles", Light([(0, 0, 1), (4, 0, -1), (8, 0, 0)]), [0, -2, 8, 2] },
         { "a polyline of a bulge below a quarter", Light([(0, 0, Math.Tan(Math.PI / 8)), (1, 1, 0)]), [0, 0, 1, 1] },
         { "a polyline that closes with a bulge", Light([(0, 0, 0), (4, 0, 1)], closed: true), [0, 0, 4, 2] },
         { "an open polyline whose last bulge is nobody's", Light([(0, 0, 0), (4, 0, 1)]), [0, 0, 4, 0] },
         { "an old polyline with the frame of its spline", Framed(), [0, 0, 10, 0] },
         { "a spline below its handles", Spline(), [0, 0, 3, 1.5] },
-        { "a solid seen from below", new CadSolid { FirstPoint = P(1, 0), SecondPoint = P(2, 0), ThirdPoint = P(1, 1), FourthPoint = P(2, 1), ExtrusionDirection = P(0, 0, -1) }, [-2, 0, -1, 1] },
-        { "a wipeout on skew axes", new CadWipeout { InsertionPoint = P(1, 1), VectorU = P(2, 1), VectorV = P(-1, 2), ImageSize = new(1, 1) }, [0, 1, 3, 4] },
+        { "a solid seen from below",
+            new CadSolid { FirstPoint = P(1, 0), SecondPoint = P(2, 0), ThirdPoint = P(1, 1), FourthPoint = P(2, 1),
+                ExtrusionDirection = P(0, 0, -1) }, [-2, 0, -1, 1] },
+        { "a wipeout on skew axes",
+            new CadWipeout { InsertionPoint = P(1, 1), VectorU = P(2, 1), VectorV = P(-1, 2), ImageSize = new(1, 1) },
+                [0, 1, 3, 4] },
         { "a leader", Leader(P(1, 5), P(-2, 3)), [-2, 3, 1, 5] },
         { "a hatch within two half circles", Hatch(HalfCircles()), [-2, -2, 2, 2] },
         { "a hatch within an arc and its chord", Hatch(Edges(
             new CadBoundaryPathCircularArc { CenterPoint = new(0, 0), Radius = 2, StartAngle = 0, EndAngle = 180 },
             new CadBoundaryPathLine { FirstPoint = new(-2, 0), SecondPoint = new(2, 0) })), [-2, 0, 2, 2] },
         { "a hatch within an arc that runs clockwise", Hatch(Edges(
-            new CadBoundaryPathCircularArc { CenterPoint = new(0, 0), Radius = 2, StartAngle = 0, EndAngle = 180, CounterClockwise = false },
+            new CadBoundaryPathCircularArc { CenterPoint = new(0, 0), Radius = 2, StartAngle = 0, EndAngle = 180,
+                CounterClockwise = false },
             new CadBoundaryPathLine { FirstPoint = new(-2, 0), SecondPoint = new(2, 0) })), [-2, -2, 2, 0] },
-        { "a hatch within an ellipse", Hatch(Edges(new CadBoundaryPathCircularEllipse { MajorEndPoint = new(4, 0), AxisRatio = 0.5 })), [-4, -2, 4, 2] },
+        { "a hatch within an ellipse",
+            Hatch(Edges(new CadBoundaryPathCircularEllipse { MajorEndPoint = new(4, 0), AxisRatio = 0.5 })),
+                [-4, -2, 4, 2] },
     };
 
     [Theory]
@@ -54,7 +68,8 @@ public class ExtentsTests
         CadImage image = new();
         image.AddEntity(entity);
         double[] found = [image.MinPoint.X, image.MinPoint.Y, image.MaxPoint.X, image.MaxPoint.Y];
-        Assert.True(box.Zip(found).All(pair => Math.Abs(pair.First - pair.Second) < 1e-6), $"{why}: {string.Join(", ", found)} instead of {string.Join(", ", box)}");
+        Assert.True(box.Zip(found).All(pair => Math.Abs(pair.First - pair.Second) < 1e-6),
+            $"{why}: {string.Join(", ", found)} instead of {string.Join(", ", box)}");
     }
 
     [Theory]
@@ -63,10 +78,18 @@ public class ExtentsTests
     [InlineData(2, 3, 90, 7, 20, 10, 24)]
     [InlineData(1, 1, 180, 8, 19, 10, 20)]
     [InlineData(0.5, -2, 0, 10, 18, 11, 20)]
-    public void References_scale_and_turn_their_block(double scaleX, double scaleY, double rotation, double minX, double minY, double maxX, double maxY)
+    public void References_scale_and_turn_their_block(double scaleX, double scaleY, double rotation, double minX,
+        double minY, double maxX, double maxY)
     {
         CadImage image = WithBlock();
-        image.AddEntity(new CadInsertObject { Name = "B", InsertionPoint = P(10, 20), ScaleX = scaleX, ScaleY = scaleY, RotationAngle = rotation });
+        image.AddEntity(new CadInsertObject
+        {
+            Name = "B",
+            InsertionPoint = P(10, 20),
+            ScaleX = scaleX,
+            ScaleY = scaleY,
+            RotationAngle = rotation
+        });
         AssertBox(image, minX, minY, maxX, maxY);
     }
 
@@ -74,7 +97,14 @@ public class ExtentsTests
     public void References_repeat_nest_and_are_seen_from_below()
     {
         CadImage image = WithBlock();
-        image.AddEntity(new CadInsertObject { Name = "b", ColumnCount = 3, RowCount = 2, ColumnSpacing = 10, RowSpacing = -5 });
+        image.AddEntity(new CadInsertObject
+        {
+            Name = "b",
+            ColumnCount = 3,
+            RowCount = 2,
+            ColumnSpacing = 10,
+            RowSpacing = -5
+        });
         AssertBox(image, 0, -5, 22, 1);
 
         CadImage nested = WithBlock();

@@ -71,8 +71,14 @@ public class FieldExchangeTests
     [Fact]
     public void Fields_come_in_declared_order_with_what_they_refer_to()
     {
-        CadLine line = new() { LayerName = "Walls", LineTypeName = "DASHED", ColorId = 3, Thickness = 2,
-            SecondPoint = new Cad3DPoint(3, 4, 5) };
+        CadLine line = new()
+        {
+            LayerName = "Walls",
+            LineTypeName = "DASHED",
+            ColorId = 3,
+            Thickness = 2,
+            SecondPoint = new Cad3DPoint(3, 4, 5)
+        };
         Assert.Equal(
             ["Subclass 100", "Name 6 LineType", "Name 8 Layer", "Color 62", "Subclass 100", "Point 10", "Point 20",
                 "Point 30", "Point 11", "Point 21", "Point 31", "Double 39"],
@@ -129,7 +135,12 @@ public class FieldExchangeTests
     private static CadMLeader LeaderAt(double x)
     {
         CadMLeader leader = new();
-        leader.ContextData.LeaderNodes.Add(new CadMLeaderNode { LeaderLines = { new CadMLeaderLine { Vertices = { new Cad3DPoint(x, 0, 0) } } } });
+        leader.ContextData.LeaderNodes
+            .Add(new CadMLeaderNode
+            {
+                LeaderLines = { new CadMLeaderLine { Vertices = { new Cad3DPoint(x, 0,
+            0) } } }
+            });
         return leader;
     }
 

@@ -2,13 +2,11 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
-using System.Text;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Rendering;
 using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cad;
@@ -17,7 +15,8 @@ namespace Korvan.CAD.Tests.FileFormats.Cad;
 public class MutationTests
 {
     private static readonly string[] Values =
-        ["", "0", "-1", "1", "32767", "-32768", "2147483647", "1e308", "-1e308", "1e-320", "NaN", "FFFFFFFFFFFFFFFF", "{", "}", "ENDSEC", "LINE", "\\U+D800", "\u0080", "SECTION"];
+        ["", "0", "-1", "1", "32767", "-32768", "2147483647", "1e308", "-1e308", "1e-320", "NaN", "FFFFFFFFFFFFFFFF",
+            "{", "}", "ENDSEC", "LINE", "\\U+D800", "\u0080", "SECTION"];
 
     [Theory]
     [InlineData(1)]
@@ -32,8 +31,10 @@ public class MutationTests
             string text = Changed(lines, random);
             foreach (bool forgiving in new[] { false, true })
             {
-                Exception? failure = Record.Exception(() => Use(DxfText.Load(text, new LoadOptions { IgnoreErrors = forgiving })));
-                Assert.True(failure is null or ImageLoadException or ImageSaveException, $"seed {seed}, round {round}, forgiving {forgiving}: {failure}");
+                Exception? failure = Record.Exception(() =>
+                    Use(DxfText.Load(text, new LoadOptions { IgnoreErrors = forgiving })));
+                Assert.True(failure is null or ImageLoadException
+                    or ImageSaveException, $"seed {seed}, round {round}, forgiving {forgiving}: {failure}");
             }
         }
     }
@@ -45,7 +46,8 @@ public class MutationTests
         foreach (string file in SharedDrawings.AllDxf().Where(file => new FileInfo(file).Length < 1_000_000))
         {
             CadImage image = (CadImage)Image.Load(file);
-            foreach (DxfOutputVersion version in new[] { DxfOutputVersion.R2000, DxfOutputVersion.R2010, DxfOutputVersion.R2018 })
+            foreach (DxfOutputVersion version in new[] { DxfOutputVersion.R2000, DxfOutputVersion.R2010,
+                DxfOutputVersion.R2018 })
             {
                 using MemoryStream stream = new();
                 try
@@ -59,7 +61,8 @@ public class MutationTests
 
                 written++;
                 DxfImage again = DxfText.Load(stream.ToArray());
-                Assert.True(Count(image) == Count(again), $"{Path.GetFileName(file)} as {version}: {Count(again)} instead of {Count(image)}");
+                Assert.True(Count(image) == Count(again),
+                    $"{Path.GetFileName(file)} as {version}: {Count(again)} instead of {Count(image)}");
                 Assert.Equal(DxfText.Save(again), DxfText.Save(DxfText.Reload(again)));
             }
         }
@@ -71,7 +74,15 @@ public class MutationTests
     {
         _ = (image.Width, image.GetStrings(), image.UnknownEntityCount);
         DxfText.Save(image);
-        PngOptions options = new() { VectorRasterizationOptions = new CadRasterizationOptions { PageWidth = 20, PageHeight = 20 }, Timeout = 20_000 };
+        PngOptions options = new()
+        {
+            VectorRasterizationOptions = new CadRasterizationOptions
+            {
+                PageWidth = 20,
+                PageHeight = 20
+            },
+            Timeout = 20_000
+        };
         image.Save(Stream.Null, options);
     }
 
@@ -102,8 +113,10 @@ public class MutationTests
     {
         CadImage image = new();
         foreach (Type type in typeof(CadEntityBase).Assembly.GetExportedTypes().Where(type =>
-            type.IsSubclassOf(typeof(CadEntityBase)) && !type.IsAbstract && type.GetConstructor([]) is not null && type != typeof(CadSeqend) && type != typeof(CadBlockEntity)
-            && !type.Name.Contains("Vertex", StringComparison.Ordinal) && type != typeof(Korvan.CAD.FileFormats.Cad.CadObjects.Vertices.CadFaceRecord)))
+            type.IsSubclassOf(typeof(CadEntityBase)) && !type.IsAbstract && type.GetConstructor([]) is not null
+                && type != typeof(CadSeqend) && type != typeof(CadBlockEntity)
+            && !type.Name.Contains("Vertex", StringComparison.Ordinal)
+            && type != typeof(Korvan.CAD.FileFormats.Cad.CadObjects.Vertices.CadFaceRecord)))
         {
             image.AddEntity((CadEntityBase)Activator.CreateInstance(type)!);
         }
@@ -123,6 +136,8 @@ public class MutationTests
         return DxfText.Save(image).Replace("\r\n", "\n");
     }
 
-    private static string Count(CadImage image) => string.Join(' ', image.BlockEntities.Items.SelectMany(block => block.Entities).GroupBy(entity => entity.TypeNameText)
+    private static string Count(CadImage image) =>
+        string.Join(' ',
+            image.BlockEntities.Items.SelectMany(block => block.Entities).GroupBy(entity => entity.TypeNameText)
         .OrderBy(group => group.Key, StringComparer.Ordinal).Select(group => $"{group.Key}:{group.Count()}"));
 }

@@ -190,8 +190,11 @@ public class PropertyRoundTripTests
     }
 
     /// <summary>Parts of objects have fields of their own, but are no objects.</summary>
-    private static bool IsPart(Type type) => type is { IsClass: true,
-        IsAbstract: false } && !type.IsSubclassOf(typeof(CadBaseObject))
+    private static bool IsPart(Type type) => type is
+    {
+        IsClass: true,
+        IsAbstract: false
+    } && !type.IsSubclassOf(typeof(CadBaseObject))
         && type.GetMethod("Exchange",
             BindingFlags.Instance | BindingFlags.NonPublic | BindingFlags.DeclaredOnly) is not null;
 
@@ -225,7 +228,8 @@ public class PropertyRoundTripTests
             .Select(property => $"{property.Name} = {Shown(property.GetValue(item))}"),
         .. Lists(item).Where(property => property.PropertyType.GetGenericArguments()[0] is var part && (!part.IsClass
             || part == typeof(string) || IsPoint(part)))
-            .Select(property => $"{property.Name} = {string.Join(' ', ((IList)property.GetValue(item)!).Cast<object>().Select(Shown))}"),
+            .Select(property =>
+            $"{property.Name} = {string.Join(' ', ((IList)property.GetValue(item)!).Cast<object>().Select(Shown))}"),
         .. Parts(item).SelectMany(property => Describe(property.GetValue(item)!)),
         .. Lists(item).Where(property => IsPart(property.PropertyType.GetGenericArguments()[0]))
             .SelectMany(property => ((IList)property.GetValue(item)!).Cast<object>().SelectMany(Describe)),

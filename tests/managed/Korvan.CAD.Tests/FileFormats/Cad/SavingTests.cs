@@ -28,7 +28,8 @@ public sealed class SavingTests : IDisposable
     public void Every_release_is_told_apart_and_read(string release, FileFormat format)
     {
         string file = Path.Combine(_folder, "plan.dxf");
-        File.WriteAllText(file, DxfText.Header(release) + DxfText.Entities(0, "POINT", 8, "0", 10, 1, 20, 2) + DxfText.Tags(0, "EOF"));
+        File.WriteAllText(file, DxfText.Header(release) + DxfText.Entities(0, "POINT", 8, "0", 10, 1, 20, 2)
+            + DxfText.Tags(0, "EOF"));
         Assert.Equal(format, Image.GetFileFormat(file));
         Assert.True(Image.CanLoad(file));
         using CadImage image = (CadImage)Image.Load(file);
@@ -63,7 +64,8 @@ public sealed class SavingTests : IDisposable
     public void A_file_is_replaced_whole_and_read_from_where_it_lies()
     {
         string file = Path.Combine(_folder, "plan.dxf");
-        File.WriteAllText(file, DxfText.Drawing(0, "LINE", 8, "0", 10, 1, 20, 1, 11, 2, 21, 2) + new string('\n', 100_000));
+        File.WriteAllText(file, DxfText.Drawing(0, "LINE", 8, "0", 10, 1, 20, 1, 11, 2, 21, 2)
+            + new string('\n', 100_000));
         using (CadImage image = (CadImage)Image.Load(file))
         {
             image.Entities[0].LayerName = "Changed";

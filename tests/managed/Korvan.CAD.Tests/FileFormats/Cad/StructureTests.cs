@@ -8,7 +8,6 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadTables;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Xunit;
 
@@ -138,7 +137,8 @@ public class StructureTests
         }
 
         again = DxfText.Reload(again);
-        Assert.All(new[] { "A", "B", "C" }, name => Assert.Equal(name, ((CadText)again.GetLayoutEntities(name).Single()).DefaultValue));
+        Assert.All(new[] { "A", "B", "C" }, name =>
+            Assert.Equal(name, ((CadText)again.GetLayoutEntities(name).Single()).DefaultValue));
     }
 
     [Fact]
@@ -152,7 +152,8 @@ public class StructureTests
         Assert.Equal(handles.Count, handles.Distinct().Count());
         Assert.Contains("FF0", handles);
         ulong seed = ulong.Parse(image.Header.HandSeed, NumberStyles.HexNumber, CultureInfo.InvariantCulture);
-        Assert.All(handles, handle => Assert.True(ulong.Parse(handle, NumberStyles.HexNumber, CultureInfo.InvariantCulture) < seed));
+        Assert.All(handles, handle =>
+            Assert.True(ulong.Parse(handle, NumberStyles.HexNumber, CultureInfo.InvariantCulture) < seed));
         Assert.Throws<FormatException>(() => new CadPoint { ObjectHandle = "west" });
     }
 
@@ -163,8 +164,13 @@ public class StructureTests
         {
             CadImage image = (CadImage)Image.Load(file);
             image.AddEntity(new CadPoint());
-            image.AddEntity(new CadInsertObject { Name = "NEW", Attributes = { new CadAttrib { DefinitionTagString = "T" } } });
-            List<ulong> handles = [.. DrawingWalk.All(DxfText.Reload(image).Drawing).Select(item => item.Handle).Where(handle => handle != 0)];
+            image.AddEntity(new CadInsertObject
+            {
+                Name = "NEW",
+                Attributes = { new CadAttrib { DefinitionTagString = "T" } }
+            });
+            List<ulong> handles = [.. DrawingWalk.All(DxfText.Reload(image).Drawing).Select(item =>
+                item.Handle).Where(handle => handle != 0)];
             Assert.True(handles.Count == handles.Distinct().Count(), Path.GetFileName(file));
         }
     }
@@ -223,7 +229,11 @@ public class StructureTests
         door.Entities.Add(new CadAttDef { DefinitionTagString = "NO", PromptString = "Number?" });
         image.BlockEntities.Add(door);
         image.AddEntity(new CadLine { LayerName = "Walls" });
-        image.AddEntity(new CadInsertObject { Name = "Door", Attributes = { new CadAttrib { DefinitionTagString = "NO", DefaultValue = "17" } } });
+        image.AddEntity(new CadInsertObject
+        {
+            Name = "Door",
+            Attributes = { new CadAttrib { DefinitionTagString = "NO", DefaultValue = "17" } }
+        });
         return image;
     }
 }

@@ -5,7 +5,6 @@ using System.Linq;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cad;
@@ -65,7 +64,8 @@ public class TagSyntaxTests
     [InlineData("DOS437", new byte[] { 0x81 }, "ü")]
     public void Layer_names_are_read_and_written_in_the_code_page(string page, byte[] name, string expected)
     {
-        byte[] head = Encoding.ASCII.GetBytes(DxfText.Header("AC1015", page) + "0\nSECTION\n2\nENTITIES\n0\nPOINT\n8\n");
+        byte[] head = Encoding.ASCII.GetBytes(DxfText.Header("AC1015", page)
+            + "0\nSECTION\n2\nENTITIES\n0\nPOINT\n8\n");
         byte[] bytes = [.. head, .. name, .. "\n10\n1\n20\n1\n0\nENDSEC\n0\nEOF\n"u8];
         DxfImage image = DxfText.Load(bytes);
         Assert.Equal(expected, image.Entities[0].LayerName);
@@ -79,8 +79,10 @@ public class TagSyntaxTests
     {
         // The same bytes stand before and behind the code page: what was read first must not linger.
         byte[] head = Encoding.Latin1.GetBytes(DxfText.Tags(
-            0, "SECTION", 2, "HEADER", 9, "$ACADVER", 1, "AC1015", 9, "$CLAYER", 8, "\u00C4\u00D6", 9, "$DWGCODEPAGE", 3, "ANSI_1251", 0, "ENDSEC"));
-        byte[] bytes = [.. head, .. Encoding.Latin1.GetBytes(DxfText.Entities(0, "POINT", 8, "\u00C4\u00D6") + DxfText.Tags(0, "EOF"))];
+            0, "SECTION", 2, "HEADER", 9, "$ACADVER", 1, "AC1015", 9, "$CLAYER", 8, "\u00C4\u00D6", 9, "$DWGCODEPAGE",
+                3, "ANSI_1251", 0, "ENDSEC"));
+        byte[] bytes = [.. head,
+            .. Encoding.Latin1.GetBytes(DxfText.Entities(0, "POINT", 8, "\u00C4\u00D6") + DxfText.Tags(0, "EOF"))];
         DxfImage image = DxfText.Load(bytes);
         Assert.Equal("ДЦ", image.Entities[0].LayerName);
         Assert.Equal("ДЦ", image.Header.CurrentLayer);
@@ -123,7 +125,8 @@ public class TagSyntaxTests
     {
         DxfImage image = DxfText.Load(
             DxfText.Header("AC1015") + DxfText.Tags(
-                0, "SECTION", 2, "TABLES", 0, "TABLE", 2, "LAYER", 70, 1, 0, "LAYER", 2, "WÄnde".Replace("Ä", "\\U+00C4"), 70, 0, 62, 1, 6, "CONTINUOUS", 0, "ENDTAB", 0, "ENDSEC")
+                0, "SECTION", 2, "TABLES", 0, "TABLE", 2, "LAYER", 70, 1, 0, "LAYER", 2,
+                    "WÄnde".Replace("Ä", "\\U+00C4"), 70, 0, 62, 1, 6, "CONTINUOUS", 0, "ENDTAB", 0, "ENDSEC")
             + DxfText.Entities(0, "POINT", 8, "wände".Replace("ä", "\\U+00E4")) + DxfText.Tags(0, "EOF"));
         Assert.True(image.Layers.Contains("WÄNDE"));
         DxfText.Save(image);
@@ -134,15 +137,19 @@ public class TagSyntaxTests
     public void Groups_and_extended_data_are_told_apart_by_their_program()
     {
         DxfImage image = DxfText.Load(DxfText.Drawing(
-            0, "LINE", 5, "2A", 102, "{ACAD_REACTORS", 330, "1F", 330, "2F", 102, "}", 102, "{ACME", 360, "3F", 1, "a note", 102, "}", 8, "0",
-            10, 1, 20, 1, 11, 2, 21, 2, 1001, "ACME", 1000, "one", 1002, "{", 1070, 7, 1002, "}", 1010, 1, 1020, 2, 1030, 3, 1001, "OTHER", 1071, -70000, 1005, "2A"));
+            0, "LINE", 5, "2A", 102, "{ACAD_REACTORS", 330, "1F", 330, "2F", 102, "}", 102, "{ACME", 360, "3F", 1,
+                "a note", 102, "}", 8, "0",
+            10, 1, 20, 1, 11, 2, 21, 2, 1001, "ACME", 1000, "one", 1002, "{", 1070, 7, 1002, "}", 1010, 1, 1020, 2,
+                1030, 3, 1001, "OTHER", 1071, -70000, 1005, "2A"));
         CadLine line = (CadLine)image.Entities[0];
         CadLine again = (CadLine)DxfText.Reload(image).Entities[0];
         foreach (CadLine one in new[] { line, again })
         {
-            Assert.Equal(["ACAD_REACTORS: 330=1F 330=2F", "ACME: 360=3F 1=a note"], one.ApplicationCodesContainer.ApplicationCodes.Select(group =>
+            Assert.Equal(["ACAD_REACTORS: 330=1F 330=2F", "ACME: 360=3F 1=a note"],
+                one.ApplicationCodesContainer.ApplicationCodes.Select(group =>
                 $"{group.ApplicationName}: {Joined(group.Codes)}"));
-            Assert.Equal("1000=one 1002={ 1070=7 1002=} 1010=1 1020=2 1030=3", Joined(one.XdataContainer.Find("ACME")!.Data));
+            Assert.Equal("1000=one 1002={ 1070=7 1002=} 1010=1 1020=2 1030=3",
+                Joined(one.XdataContainer.Find("ACME")!.Data));
             Assert.Equal("1071=-70000 1005=2A", Joined(one.XdataContainer.Find("OTHER")!.Data));
             Assert.True(one.SecondPoint.Is(2, 2, 0));
         }
@@ -155,8 +162,10 @@ public class TagSyntaxTests
     public void Unknown_entities_sections_and_variables_come_back_tag_by_tag(string release)
     {
         object[] widget = [0, "WIDGET", 5, "2A", 8, "0", 10, 1.5, 20, 2.5, 70, 7, 310, "CAFE", 1, "text"];
-        string text = DxfText.Tags(0, "SECTION", 2, "HEADER", 9, "$ACADVER", 1, release, 9, "$ACMEVAR", 40, 0.125, 0, "ENDSEC")
-            + DxfText.Entities(widget) + DxfText.Tags(0, "SECTION", 2, "ACMEDATA", 0, "THING", 1, " kept ", 0, "ENDSEC", 0, "EOF");
+        string text = DxfText.Tags(0, "SECTION", 2, "HEADER", 9, "$ACADVER", 1, release, 9, "$ACMEVAR", 40, 0.125, 0,
+            "ENDSEC")
+            + DxfText.Entities(widget)
+            + DxfText.Tags(0, "SECTION", 2, "ACMEDATA", 0, "THING", 1, " kept ", 0, "ENDSEC", 0, "EOF");
         DxfImage image = DxfText.Load(text);
         Assert.Equal(1, image.UnknownEntityCount);
         List<string> lines = [.. DxfText.Save(image).Split("\r\n").Select(line => line.TrimStart())];
@@ -166,11 +175,13 @@ public class TagSyntaxTests
         Assert.Contains("ACMEDATA\n0\nTHING\n1\nkept \n0\nENDSEC", saved);
     }
 
-    private static string Joined(IEnumerable<CadCodeValue> values) => string.Join(' ', values.Select(value => $"{value.Attribute}={value.Value}"));
+    private static string Joined(IEnumerable<CadCodeValue> values) =>
+        string.Join(' ', values.Select(value => $"{value.Attribute}={value.Value}"));
 
     private static string Codes(string text, Func<string, string> change)
     {
         string[] lines = text.Split('\n');
-        return string.Join('\n', lines.Select((line, place) => place % 2 == 0 && line.Length > 0 ? change(line) : line));
+        return string.Join('\n',
+            lines.Select((line, place) => place % 2 == 0 && line.Length > 0 ? change(line) : line));
     }
 }

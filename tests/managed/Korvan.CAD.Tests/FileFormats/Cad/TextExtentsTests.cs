@@ -4,7 +4,6 @@ using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.Model;
-using Korvan.CAD.Geometry;
 using Korvan.CAD.Tests.Rendering;
 using Xunit;
 
@@ -35,7 +34,13 @@ public class TextExtentsTests
     [Fact]
     public void Paragraphs_wrap_and_hang_from_their_attachment_point()
     {
-        var text = new CadMText { Text = "one two three four", InitialTextHeight = 3, ReferenceRectangleWidth = 20, InsertionPoint = new(100, 100, 0) };
+        var text = new CadMText
+        {
+            Text = "one two three four",
+            InitialTextHeight = 3,
+            ReferenceRectangleWidth = 20,
+            InsertionPoint = new(100, 100, 0)
+        };
         text.AttachmentPoint = CadAttachmentPoint.TopLeft;
         CadImage drawing = Picture.Drawing(text);
         Assert.InRange(drawing.MaxPoint.X, 110, 120.001);
@@ -48,7 +53,8 @@ public class TextExtentsTests
     {
         CadImage drawing = Picture.Drawing(Picture.Insert("B", 50, 0));
         Picture.AddBlock(
-            drawing, "B", Picture.Square(0, 0, 1), new CadAttDef { DefinitionTagString = new string('W', 100), TextHeight = 10 });
+            drawing, "B", Picture.Square(0, 0, 1),
+                new CadAttDef { DefinitionTagString = new string('W', 100), TextHeight = 10 });
         Assert.Equal(51, drawing.MaxPoint.X);
         var attribute =
             new CadAttrib { DefaultValue = "12345", TextHeight = 10, FirstAlignment = new Cad3DPoint(60, 0, 0) };

@@ -1,18 +1,16 @@
 using System;
-using System.Collections.Generic;
-using System.IO;
 using System.Linq;
 using System.Text;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.Input;
 using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cad;
 
-/// <summary>Values that their types do not allow are defects with a number and a place; odd spellings are not.</summary>
+/// <summary>Values that their types do not allow are defects with a number and a place; odd spellings are
+/// not.</summary>
 public class ValueDefectTests
 {
     private static readonly byte[] Sentinel = "AutoCAD Binary DXF\r\n\u001a\0"u8.ToArray();
@@ -191,7 +189,8 @@ public class ValueDefectTests
         string[] objects = ["0\nLINE\n5\n2A\n8\n0\n", "0\nLINE\n5\n2B\n10\nwest\n", "0\nLINE\n10\neast\n5\n2C\n",
             "0\nPOINT\n5\n2D\n10\n1\n20\n2\n"];
         LoadOptions options = new() { IgnoreErrors = true };
-        CadImage image = DxfText.Load(DxfText.Header("AC1015") + "0\nSECTION\n2\nENTITIES\n" + string.Concat(objects) + "0\nENDSEC\n0\nEOF\n", options);
+        CadImage image = DxfText.Load(DxfText.Header("AC1015") + "0\nSECTION\n2\nENTITIES\n" + string.Concat(objects)
+            + "0\nENDSEC\n0\nEOF\n", options);
         Assert.Equal(["2A", "2D"], image.Entities.Select(entity => entity.ObjectHandle));
         Assert.Equal(["handle 2B", ""], options.Defects.Select(defect => defect.Place.Record));
         Assert.Equal(options.Errors, options.Defects.Select(defect => defect.ToString()));

@@ -118,7 +118,9 @@ public class CellTests
         const double scale = 0.01;
         var state = new CodingState
         {
-            ColorModel = model, ColorScale = [scale, scale, scale], ColorOffset = [0, -128, -128],
+            ColorModel = model,
+            ColorScale = [scale, scale, scale],
+            ColorOffset = [0, -128, -128],
         };
         var coding = new ColorCoding(state);
         long[] components = [(long)(first / scale), (long)((second + 128) / scale), (long)((third + 128) / scale)];

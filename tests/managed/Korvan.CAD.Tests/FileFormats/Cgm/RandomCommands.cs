@@ -46,13 +46,15 @@ internal sealed class RandomCommands
             [typeof(PictureDirectory)] = Adjust<PictureDirectory>(one => one.Infos =
                 List(() => new PictureDirectory.PDInfo
                 {
-                    Identifier = Text(), Location = Place((int)one.LocationType),
+                    Identifier = Text(),
+                    Location = Place((int)one.LocationType),
                     Directory = Place((int)one.LocationType),
                 })),
             [typeof(ApplicationStructureDirectory)] = Adjust<ApplicationStructureDirectory>(one => one.Infos =
                 List(() => new ApplicationStructureDirectory.ApplicationStructureInfo
                 {
-                    Identifier = Text(), Location = Place((int)one.LocationType),
+                    Identifier = Text(),
+                    Location = Place((int)one.LocationType),
                 })),
             [typeof(HatchStyleDefinition)] = Adjust<HatchStyleDefinition>(one =>
                 one.LineTypes = Repeat(one.GapWidths.Count, Integer)),
@@ -168,29 +170,29 @@ internal sealed class RandomCommands
 
     private object Value(Type type, CustomAttributeData attribute) =>
         attribute.AttributeType.Name["Cgm".Length..^"Attribute".Length] switch
-    {
-        "Integer" or "Name" => Integer(),
-        "Index" => type.IsEnum ? Member(type) : Integer(),
-        "ColorIndex" => ColorIndex(),
-        "Enum" => Member(type),
-        "Flag" or "YesNo" => _random.Next(2) == 0,
-        "Real" => Real(),
-        "FloatingReal" => (double)Choice(0, 1, -0.25f, float.MaxValue, float.Epsilon, _random.NextSingle()),
-        "Vdc" or "Size" => Vdc(),
-        "Point" => Point(),
-        "ViewportPoint" => new ViewportPoint(new VC(Real()), new VC(Real())),
-        "Color" => Colour(),
-        "DirectColor" => DirectColor(),
-        "String" => Text(),
-        "Data" => Bytes(_random.Next(400)),
-        "Record" => Record(2),
-        "Bits" => Bytes(2 * _random.Next(40)),
-        "SignedBits" or "UnsignedBits" => Width(attribute),
-        "LocalBits" => 0,
-        "RealForm" => Member<Precision>(),
-        "Groups" => Fill(Activator.CreateInstance(type)!),
-        string other => throw new InvalidOperationException($"no random value for {other}"),
-    };
+        {
+            "Integer" or "Name" => Integer(),
+            "Index" => type.IsEnum ? Member(type) : Integer(),
+            "ColorIndex" => ColorIndex(),
+            "Enum" => Member(type),
+            "Flag" or "YesNo" => _random.Next(2) == 0,
+            "Real" => Real(),
+            "FloatingReal" => (double)Choice(0, 1, -0.25f, float.MaxValue, float.Epsilon, _random.NextSingle()),
+            "Vdc" or "Size" => Vdc(),
+            "Point" => Point(),
+            "ViewportPoint" => new ViewportPoint(new VC(Real()), new VC(Real())),
+            "Color" => Colour(),
+            "DirectColor" => DirectColor(),
+            "String" => Text(),
+            "Data" => Bytes(_random.Next(400)),
+            "Record" => Record(2),
+            "Bits" => Bytes(2 * _random.Next(40)),
+            "SignedBits" or "UnsignedBits" => Width(attribute),
+            "LocalBits" => 0,
+            "RealForm" => Member<Precision>(),
+            "Groups" => Fill(Activator.CreateInstance(type)!),
+            string other => throw new InvalidOperationException($"no random value for {other}"),
+        };
 
     private int Width(CustomAttributeData attribute)
     {

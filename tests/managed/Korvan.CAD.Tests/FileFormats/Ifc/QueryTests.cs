@@ -14,7 +14,7 @@ namespace Korvan.CAD.Tests.FileFormats.Ifc;
 /// <summary>Queries compared to scans of whole models, and damaged records with the places in their errors.</summary>
 public class QueryTests
 {
-    private static readonly string[] s_types =
+    private static readonly string[] Types =
         [
             "IfcRoot", "IfcObject", "IfcProduct", "IfcElement", "IfcRelationship", "IfcProperty",
             "IfcRepresentationItem", "IfcCurve", "IfcPlacement", "IfcWall", "IfcCartesianPoint", "IfcNamedUnit",
@@ -31,7 +31,7 @@ public class QueryTests
         [
             .. image.Entities.Select(one => (one.InstanceId, Line(table, one.EntityName), one.EntityName)),
         ];
-        foreach (string type in s_types)
+        foreach (string type in Types)
         {
             Assert.Equal(
                 all.Where(one => one.Names.Contains(type)).Select(one => one.Id),

@@ -1,5 +1,4 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;

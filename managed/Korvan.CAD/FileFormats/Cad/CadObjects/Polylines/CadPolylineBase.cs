@@ -1,6 +1,5 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;

@@ -1,5 +1,3 @@
-using Korvan.CAD.FileFormats.Cad.CadObjects;
-
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 
 /// <summary>A face of a mesh: the numbers of its corners among the vertices, from 1; negative where the edge that

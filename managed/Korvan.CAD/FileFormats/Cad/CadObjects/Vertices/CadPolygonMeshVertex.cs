@@ -1,6 +1,3 @@
-using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.CadObjects;
-
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 
 /// <summary>A vertex of a mesh.</summary>

@@ -1,5 +1,3 @@
-using Korvan.CAD.FileFormats.Cad.CadObjects;
-
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
 
 /// <summary>An area that covers what was drawn before it.</summary>
