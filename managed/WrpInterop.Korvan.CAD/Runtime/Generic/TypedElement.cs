@@ -1,4 +1,3 @@
-using System;
 using Korvan.WrpGen.Interop;
 
 namespace Korvan.WrpGen.Generic;

@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using System.Linq;
 using Korvan.WrpGen.Interop;
 using Xunit;
 using Api = Korvan.WrpGen.Generic.ListApi<

@@ -1,5 +1,4 @@
 using System;
-using System.Runtime.InteropServices;
 using System.Text;
 using Korvan.WrpGen.Interop;
 using Xunit;
