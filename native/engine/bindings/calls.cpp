@@ -11,7 +11,7 @@ namespace {
 constexpr int max_arity = 24;
 constexpr int max_overloads = 48;
 
-// What stands behind an O& unit: the converter, its destination and its binding.
+// The arguments of an O& unit: the converter, its destination and its binding.
 struct BoundCell {
     CellConverter convert;
     void* cell;

@@ -14,7 +14,7 @@ public sealed partial class InheritanceFilter : Command
     private static readonly KeywordTable Settings = new([0, 1], ["STLIST", "SEG"]);
 
     // Only the end of the element tells which value is the setting. Binary files number it from 0; clear text has
-    // keywords for it, which stand behind those of the filters here.
+    // keywords for it, which follow those of the filters here.
     private static readonly KeywordTable FiltersAndSettings = new(
         [.. Enumerable.Range(0, FirstSetting + 2)],
         [.. EnumKeywords.InheritanceFilterFilter.Keywords, .. Settings.Keywords]);
