@@ -283,7 +283,10 @@ public abstract partial class Image : DataStreamSupporter
     private ImageOptionsBase OwnOptions(FileFormat format, string extension) =>
         FormatRegistry.OwnOptions(this, new SaveTarget(format, extension))
         ?? throw new ImageSaveException(
-            $"{GetType().Name} was read from {FileFormatInfo.Get(format).Name}, which it cannot be written back as; "
+            (SourceFormat == FileFormat.Undefined
+                ? $"{GetType().Name} is of format {FileFormatInfo.Get(format).Name}, which cannot be written yet; "
+                : $"{GetType().Name} was read from {FileFormatInfo.Get(format).Name}, which it cannot be written back "
+                    + "as; ")
             + $"pass {OptionNames()} and the path of another file.");
 
     private void WriteOwn(ImageOptionsBase options, Stream stream)

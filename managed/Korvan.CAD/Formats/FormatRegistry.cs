@@ -45,6 +45,9 @@ internal static class FormatRegistry
 
     private static readonly Lazy<Dictionary<Type, FormatWriter>> ByOptions = new(IndexWriters);
 
+    // Programs ask for the same pair again and again; one reference, so that threads never see half of it.
+    private static LastChoice? _last;
+
     /// <summary>Gets the formats that can be read.</summary>
     internal static IEnumerable<FileFormat> Readable =>
         All.Where(static record => record.Read is not null).SelectMany(static record => record.Formats);
@@ -93,8 +96,19 @@ internal static class FormatRegistry
 
     /// <summary>Returns the writer of some content with options of a class; <see langword="null"/> if there is
     /// none.</summary>
-    internal static FormatWriter? FindWriter(object content, Type options) =>
-        ByOptions.Value.GetValueOrDefault(options) is { } writer && writer.KindOf(content) is not null ? writer : null;
+    internal static FormatWriter? FindWriter(object content, Type options)
+    {
+        LastChoice? last = _last;
+        if (last is not null && last.Options == options && last.Content == content.GetType())
+        {
+            return last.Writer;
+        }
+
+        FormatWriter? writer = ByOptions.Value.GetValueOrDefault(options);
+        writer = writer?.KindOf(content) is null ? null : writer;
+        _last = new LastChoice(content.GetType(), options, writer);
+        return writer;
+    }
 
     /// <summary>Returns the classes of options with which some content can be written, by name.</summary>
     internal static IEnumerable<Type> OptionTypesFor(object content) =>
@@ -112,6 +126,8 @@ internal static class FormatRegistry
     /// if the format is not written, or the content is of another model.</summary>
     internal static ImageOptionsBase? OwnOptions(object content, SaveTarget place) =>
         Find(place.Format)?.OwnOptions(content, place);
+
+    private sealed record LastChoice(Type Content, Type Options, FormatWriter? Writer);
 
     private static Dictionary<Type, FormatWriter> IndexWriters() =>
         All.SelectMany(static record => record.Writers).ToDictionary(static writer => writer.OptionsType);

@@ -11,8 +11,8 @@ internal sealed class FormatWriter
     /// <summary>Gets the class of options that selects this writer.</summary>
     internal required Type OptionsType { get; init; }
 
-    /// <summary>Gets the function that returns the kind of output for some content; <see langword="null"/> for content
-    /// that cannot be written.</summary>
+    /// <summary>Gets the function that returns the kind of output for some content, by its type alone;
+    /// <see langword="null"/> for content that cannot be written.</summary>
     internal required Func<object, OutputKind?> KindOf { get; init; }
 
     /// <summary>Gets the function that writes the content.</summary>

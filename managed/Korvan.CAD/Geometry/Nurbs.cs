@@ -211,13 +211,13 @@ internal sealed class Nurbs
 
     private static double[] Clamped(int degree, int count)
     {
-        var _knots = new double[count + degree + 1];
-        for (int i = 0; i < _knots.Length; i++)
+        var knots = new double[count + degree + 1];
+        for (int i = 0; i < knots.Length; i++)
         {
-            _knots[i] = Math.Clamp(i - degree, 0, count - degree);
+            knots[i] = Math.Clamp(i - degree, 0, count - degree);
         }
 
-        return _knots;
+        return knots;
     }
 
     private static double[] Copy(IReadOnlyList<double> from)

@@ -44,7 +44,7 @@ internal sealed partial class CgmInterpreter
             return;
         }
 
-        Picture cells = TileImages.FromCells(x.Cells, x.CellsPerLine, x.LineCount, CellColor);
+        ImagePixels cells = TileImages.FromCells(x.Cells, x.CellsPerLine, x.LineCount, CellColor);
         Vec2 p = _map.Point(V(x.FirstCorner));
         Vec2 q = _map.Point(V(x.OppositeCorner));
         Vec2 r = _map.Point(V(x.LineEnd));
@@ -54,7 +54,7 @@ internal sealed partial class CgmInterpreter
         Place(cells, new Affine2(along.X, along.Y, up.X, up.Y, origin.X, origin.Y));
     }
 
-    private void DrawTile(TileElement tile, Func<PackedTile, Picture?> unpack)
+    private void DrawTile(TileElement tile, Func<PackedTile, ImagePixels?> unpack)
     {
         if (_tiles is not BeginTileArray array)
         {
@@ -68,7 +68,7 @@ internal sealed partial class CgmInterpreter
         (int width, int height) = (array.CellsPerTileInPathDirection, array.CellsPerTileInLineDirection);
         var packed = new PackedTile(tile.Compression, tile.Data, width, height) { RowPadding = tile.RowPadding };
         bool fits = packed.Width > 0 && packed.Height > 0 && (long)packed.Width * packed.Height <= MaxCells;
-        Picture? cells = fits ? unpack(packed) : null;
+        ImagePixels? cells = fits ? unpack(packed) : null;
         if (cells is null)
         {
             Skip($"tile packed as {tile.Compression}");
@@ -110,7 +110,7 @@ internal sealed partial class CgmInterpreter
         _ => new Vec2(0, -1),
     };
 
-    private void Place(Picture cells, in Affine2 place)
+    private void Place(ImagePixels cells, in Affine2 place)
     {
         EnsureClip();
         var image = new PlacedImage(cells.Width, cells.Height, cells.Pixels, place, 1) { Sharp = true };

@@ -186,7 +186,7 @@ internal sealed partial class CgmInterpreter
             return;
         }
 
-        Picture cells = TileImages.FromCells(pattern.Cells, pattern.CellsPerLine, pattern.LineCount, CellColor);
+        ImagePixels cells = TileImages.FromCells(pattern.Cells, pattern.CellsPerLine, pattern.LineCount, CellColor);
         (Vec2 width, Vec2 height) = PatternVectors();
         var tile = new Affine2(width.X, width.Y, height.X, height.Y, 0, 0);
         Vec2 origin = _map.Point(FillReference);
@@ -244,7 +244,7 @@ internal sealed partial class CgmInterpreter
         static int Floor(double value) => (int)Math.Floor(value);
     }
 
-    private static Rgba Mean(Picture picture)
+    private static Rgba Mean(ImagePixels picture)
     {
         long b = 0, g = 0, r = 0;
         int count = picture.Pixels.Length / 4;

@@ -40,7 +40,7 @@ internal static class TileImages
     };
 
     /// <summary>The pixels of a bitonal tile; null if it is damaged or its compression is not supported.</summary>
-    internal static Picture? Bitonal(in PackedTile tile, Rgba background, Rgba foreground)
+    internal static ImagePixels? Bitonal(in PackedTile tile, Rgba background, Rgba foreground)
     {
         if (tile.Compression is CompressionType.NullBackground or CompressionType.NullForeground)
         {
@@ -53,24 +53,24 @@ internal static class TileImages
         }
 
         if (TiffKind(tile.Compression) is not (int, int) kind
-            || Decoded(Tiff(tile, kind.Compression, kind.Options)) is not Picture picture)
+            || Decoded(Tiff(tile, kind.Compression, kind.Options)) is not ImagePixels decoded)
         {
             return null;
         }
 
         // The codec returns black for the foreground and white for the background.
-        byte[] pixels = picture.Pixels;
+        byte[] pixels = decoded.Pixels;
         for (int at = 0; at < pixels.Length; at += 4)
         {
             Put(pixels, at, pixels[at] < 128 ? foreground : background);
         }
 
-        return picture;
+        return decoded;
     }
 
     /// <summary>The pixels of a colour tile: an image file, uncompressed cells, or 8-bit cells of LZW. Null for any
     /// other.</summary>
-    internal static Picture? Coloured(in PackedTile tile, Func<int, Rgba> colorOf)
+    internal static ImagePixels? Coloured(in PackedTile tile, Func<int, Rgba> colorOf)
     {
         switch (tile.Compression)
         {
@@ -78,11 +78,12 @@ internal static class TileImages
                 return Decoded(tile.Cells);
             case CompressionType.Bitmap:
                 return Unpacked(tile) is int[] cells ? FromCells(cells, tile.Width, tile.Height, colorOf) : null;
-            case CompressionType.Lzw when tile.Bits == 8 && Decoded(Tiff(tile, LzwCompression, 0)) is Picture picture:
+            case CompressionType.Lzw
+                when tile.Bits == 8 && Decoded(Tiff(tile, LzwCompression, 0)) is ImagePixels decoded:
                 int[] found = new int[tile.Width * tile.Height];
                 for (int i = 0; i < found.Length; i++)
                 {
-                    ReadOnlySpan<byte> pixel = picture.Pixels.AsSpan(i * 4, 4);
+                    ReadOnlySpan<byte> pixel = decoded.Pixels.AsSpan(i * 4, 4);
                     found[i] = tile.Components == 1 ? pixel[0] : (pixel[2] << 16) | (pixel[1] << 8) | pixel[0];
                 }
 
@@ -93,7 +94,7 @@ internal static class TileImages
     }
 
     /// <summary>The pixels of uncompressed cells, row by row.</summary>
-    internal static Picture FromCells(ReadOnlySpan<int> cells, int width, int height, Func<int, Rgba> colorOf)
+    internal static ImagePixels FromCells(ReadOnlySpan<int> cells, int width, int height, Func<int, Rgba> colorOf)
     {
         byte[] pixels = new byte[checked(width * height * 4)];
         (int last, Rgba color) = (0, default(Rgba));
@@ -108,10 +109,10 @@ internal static class TileImages
             Put(pixels, i * 4, color);
         }
 
-        return new Picture(width, height, pixels);
+        return new ImagePixels(width, height, pixels);
     }
 
-    private static Picture Filled(in PackedTile tile, Rgba color)
+    private static ImagePixels Filled(in PackedTile tile, Rgba color)
     {
         byte[] pixels = new byte[checked(tile.Width * tile.Height * 4)];
         for (int at = 0; at < pixels.Length; at += 4)
@@ -119,10 +120,10 @@ internal static class TileImages
             Put(pixels, at, color);
         }
 
-        return new Picture(tile.Width, tile.Height, pixels);
+        return new ImagePixels(tile.Width, tile.Height, pixels);
     }
 
-    private static Picture? Painted(in PackedTile tile, Rgba background, Rgba foreground)
+    private static ImagePixels? Painted(in PackedTile tile, Rgba background, Rgba foreground)
     {
         long stride = Stride(tile);
         if ((stride * (tile.Height - 1)) + tile.Width > tile.Cells.Length * 8L)
@@ -141,7 +142,7 @@ internal static class TileImages
             }
         }
 
-        return new Picture(tile.Width, tile.Height, pixels);
+        return new ImagePixels(tile.Width, tile.Height, pixels);
     }
 
     private static long Stride(in PackedTile tile)
@@ -198,11 +199,11 @@ internal static class TileImages
         pixels[at + 3] = color.A;
     }
 
-    private static Picture? Decoded(byte[] data)
+    private static ImagePixels? Decoded(byte[] data)
     {
         try
         {
-            return Picture.Decode(data, "tile");
+            return ImagePixels.Decode(data, "tile");
         }
         catch (FrameworkException)
         {

@@ -47,22 +47,22 @@ internal sealed class Canvas
     internal void Stroke(PathBuffer path, in Pen pen)
     {
         var style = new StrokeStyle { Color = pen.Color, LineWeight = pen.LineWeight, Dash = -1, Layer = pen.Layer };
-        double _period = (pen.Pattern?.Period ?? 0) * pen.PatternScale;
-        if (pen.Pattern == null || !(_period > 0) || !double.IsFinite(_period))
+        double period = (pen.Pattern?.Period ?? 0) * pen.PatternScale;
+        if (pen.Pattern == null || !(period > 0) || !double.IsFinite(period))
         {
             List.Stroke(path, style);
             return;
         }
 
         double length = PathMeasure.Length(path);
-        if (length >= _period && length / _period * pen.Pattern.Lengths.Length < DashesPerPathLimit)
+        if (length >= period && length / period * pen.Pattern.Lengths.Length < DashesPerPathLimit)
         {
             style.Dash = DashIndex(pen);
-            path = Aligned(path, pen, length, _period, out double offset, out double lead);
+            path = Aligned(path, pen, length, period, out double offset, out double lead);
             style.DashOffset = (float)offset;
             if (pen.Pattern.Texts.Count > 0)
             {
-                PatternTexts(path, pen, _period, offset - lead);
+                PatternTexts(path, pen, period, offset - lead);
             }
         }
 

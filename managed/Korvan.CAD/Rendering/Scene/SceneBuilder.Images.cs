@@ -44,8 +44,8 @@ internal sealed partial class SceneBuilder
         bool clipped = image.ClippingState != 0 && (image.DisplayFlags & UsesClipping) != 0;
         IList<Cad2DPoint> boundary = clipped ? image.ClipBoundaryVertices : [];
         bool isShown = (image.DisplayFlags & ShowsImage) != 0;
-        Picture? picture = isShown ? _tables.Pictures.Find(image.ImageDefReference) : null;
-        if (picture == null)
+        ImagePixels? pixels = isShown ? _tables.Images.Find(image.ImageDefReference) : null;
+        if (pixels == null)
         {
             List.Skip(image.TypeNameText + DrawingList.MissingFile);
         }
@@ -54,7 +54,7 @@ internal sealed partial class SceneBuilder
             AddImageOutline(frame, boundary);
             Bounds2 extent = _canvas.Path.Bounds;
             List.PushClip(_canvas.Path, evenOdd: true);
-            List.Image(Placed(picture, frame, image.Fade), pen.Layer, extent);
+            List.Image(Placed(pixels, frame, image.Fade), pen.Layer, extent);
             List.PopClip();
         }
 
@@ -65,7 +65,7 @@ internal sealed partial class SceneBuilder
         }
     }
 
-    private PlacedImage Placed(Picture picture, in ImageFrame frame, double fade)
+    private PlacedImage Placed(ImagePixels pixels, in ImageFrame frame, double fade)
     {
         Affine3 map = _current.Context.Map;
         Vec3 across = map.Vector(frame.Across);
@@ -73,7 +73,7 @@ internal sealed partial class SceneBuilder
         Vec2 origin = map.Project(frame.Corner);
         var matrix = new Affine2(across.X, across.Y, up.X, up.Y, origin.X, origin.Y);
         double opacity = 1 - (Math.Clamp((int)fade, 0, 100) / 100.0);
-        return new PlacedImage(picture.Width, picture.Height, picture.Pixels, matrix, opacity);
+        return new PlacedImage(pixels.Width, pixels.Height, pixels.Pixels, matrix, opacity);
     }
 
     /// <summary>

@@ -109,7 +109,7 @@ internal sealed class SceneTables
     internal Dictionary<ulong, BlockInfo> BlocksByRecord { get; } = [];
 
     /// <summary>The pixels of images, by the handle of their definition.</summary>
-    internal PictureFiles Pictures { get; set; } = PictureFiles.None;
+    internal ImageFiles Images { get; set; } = ImageFiles.None;
 
     internal SceneSettings Settings { get; set; } = new();
 

@@ -6,11 +6,11 @@ using Korvan.CAD.Raster.Pixels;
 namespace Korvan.CAD.Rendering.Scene;
 
 /// <summary>Decoded pixels: blue first, alpha multiplied in.</summary>
-internal sealed record Picture(int Width, int Height, byte[] Pixels)
+internal sealed record ImagePixels(int Width, int Height, byte[] Pixels)
 {
     /// <summary>The first page of an image file, as far as it can be read; null for a format that has no
     /// reader.</summary>
-    internal static Picture? Decode(byte[] data, string name)
+    internal static ImagePixels? Decode(byte[] data, string name)
     {
         if (RasterCodecs.Detect(data) is not { } codec)
         {
@@ -18,13 +18,13 @@ internal sealed record Picture(int Width, int Height, byte[] Pixels)
         }
 
         DecodedFile decoded = codec.Decode(data, name, lenient: true);
-        Picture picture = From(decoded.Frames[0].Pixels);
+        ImagePixels image = From(decoded.Frames[0].Pixels);
         decoded.Frames.ForEach(static frame => frame.Dispose());
-        return picture;
+        return image;
     }
 
     /// <summary>Copies pixels; those of the grid have their opacity multiplied in from then on.</summary>
-    internal static Picture From(PixelGrid pixels)
+    internal static ImagePixels From(PixelGrid pixels)
     {
         var bytes = new byte[checked((int)(pixels.Count * 4))];
         for (int y = 0; y < pixels.Height; y++)
@@ -39,6 +39,6 @@ internal sealed record Picture(int Width, int Height, byte[] Pixels)
             MemoryMarshal.AsBytes(row).CopyTo(bytes.AsSpan(y * pixels.Width * 4));
         }
 
-        return new Picture(pixels.Width, pixels.Height, bytes);
+        return new ImagePixels(pixels.Width, pixels.Height, bytes);
     }
 }

@@ -12,48 +12,48 @@ namespace Korvan.CAD.Rendering.Scene;
 /// The files that a drawing's images name. Only files in the drawing's own folder, or below it, are opened: a path
 /// that leads elsewhere is tried by its file name alone.
 /// </summary>
-internal sealed class PictureFiles
+internal sealed class ImageFiles
 {
-    internal static readonly PictureFiles None = new(null, []);
+    internal static readonly ImageFiles None = new(null, []);
 
     private readonly string? _folder;
     private readonly Dictionary<string, string> _names;
-    private readonly Dictionary<string, Picture?> _loaded = new(StringComparer.Ordinal);
+    private readonly Dictionary<string, ImagePixels?> _loaded = new(StringComparer.Ordinal);
 
-    private PictureFiles(string? folder, Dictionary<string, string> names)
+    private ImageFiles(string? folder, Dictionary<string, string> names)
     {
         _folder = folder;
         _names = names;
     }
 
-    internal static PictureFiles Of(CadDrawing drawing)
+    internal static ImageFiles Of(CadDrawing drawing)
     {
-        string? _folder = drawing.Folder;
-        var _names = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
+        string? folder = drawing.Folder;
+        var names = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
         foreach (CadRasterImageDef definition in drawing.Objects.OfType<CadRasterImageDef>())
         {
-            _names.TryAdd(definition.ObjectHandle, definition.FileName);
+            names.TryAdd(definition.ObjectHandle, definition.FileName);
         }
 
-        return new PictureFiles(_folder, _names);
+        return new ImageFiles(folder, names);
     }
 
     /// <summary>The image of a definition, or null when its file is absent, elsewhere, or of no kind that is
     /// read.</summary>
-    internal Picture? Find(string definition)
+    internal ImagePixels? Find(string definition)
     {
         if (_folder == null || !_names.TryGetValue(definition, out string? name) || Locate(name) is not string file)
         {
             return null;
         }
 
-        if (!_loaded.TryGetValue(file, out Picture? picture))
+        if (!_loaded.TryGetValue(file, out ImagePixels? image))
         {
-            picture = Load(file);
-            _loaded.Add(file, picture);
+            image = Load(file);
+            _loaded.Add(file, image);
         }
 
-        return picture;
+        return image;
     }
 
     private string? Locate(string name)
@@ -74,12 +74,12 @@ internal sealed class PictureFiles
         return null;
     }
 
-    private static Picture? Load(string file)
+    private static ImagePixels? Load(string file)
     {
         try
         {
             byte[] data = File.ReadAllBytes(file);
-            return Picture.Decode(data, file);
+            return ImagePixels.Decode(data, file);
         }
         catch (Exception e) when (e is IOException or UnauthorizedAccessException or FrameworkException)
         {
