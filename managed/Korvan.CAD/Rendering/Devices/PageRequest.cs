@@ -50,7 +50,13 @@ internal readonly record struct PageRequest
 }
 
 /// <summary>The sheet of a paper layout: its rectangle in drawing units, and its size in millimetres.</summary>
-internal readonly record struct PaperSheet(Bounds2 Region, double WidthMm, double HeightMm);
+internal readonly record struct PaperSheet(Bounds2 Region, double WidthMm, double HeightMm)
+{
+    /// <summary>The part that is plotted; null for the whole sheet.</summary>
+    internal Bounds2? Window { get; init; }
+
+    internal Bounds2 Visible => Window ?? Region;
+}
 
 /// <summary>Where a drawing lies on its page.</summary>
 internal readonly record struct PageLayout(double Width, double Height, Affine2 ToDevice, double Scale)

@@ -4,6 +4,8 @@ using System.Globalization;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Cgm.Commands;
+using Korvan.CAD.Geometry;
+using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 
@@ -11,7 +13,10 @@ namespace Korvan.CAD.Rendering.Metafile;
 
 /// <summary>A picture of a metafile: the indexes of its first element after the descriptor and of its end.</summary>
 internal sealed record MetafilePicture(string Name, int First, int End, PictureState State, PictureFrame Frame)
-    : ScenePage(Name, Frame.Sheet);
+    : ScenePage(Name)
+{
+    internal override PaperSheet? SheetFor(in Bounds2 content) => Frame.Sheet;
+}
 
 /// <summary>A metafile as the renderer sees it: its pictures are its pages.</summary>
 internal sealed class MetafileScene : VectorScene

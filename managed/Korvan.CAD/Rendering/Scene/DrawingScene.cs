@@ -1,13 +1,16 @@
 using System.Collections.Generic;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;
 
 /// <summary>A layout that can be drawn: the model, or a sheet of paper.</summary>
-internal sealed record LayoutInfo(string Name, BlockInfo Block, bool IsModel, PaperSheet? Sheet) : ScenePage(
-    Name, Sheet);
+internal sealed record LayoutInfo(string Name, BlockInfo Block, bool IsModel, PlotArea? Plot) : ScenePage(Name)
+{
+    internal override PaperSheet? SheetFor(in Bounds2 content) => Plot?.SheetFor(content);
+}
 
 /// <summary>A drawing as the renderer sees it: tables for lookup and layouts in their order.</summary>
 internal sealed class DrawingScene(SceneTables tables, BlockInfo model, IReadOnlyList<LayoutInfo> layouts) : VectorScene

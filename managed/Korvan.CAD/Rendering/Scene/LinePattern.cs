@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Linq;
 
 namespace Korvan.CAD.Rendering.Scene;
 
@@ -14,6 +15,10 @@ internal readonly record struct PatternText(
 internal sealed class LinePattern
 {
     internal const int MaxElements = 64;
+
+    /// <summary>The length of a dot as a share of the period. Devices join the gaps around a dash of no length, so it has
+    /// one that does not show.</summary>
+    private const double DotShare = 0.001;
 
     private LinePattern(double[] lengths, PatternText[] texts)
     {
@@ -35,6 +40,7 @@ internal sealed class LinePattern
     internal static LinePattern? Create(IReadOnlyList<double> elements, PatternText[]? texts = null)
     {
         var lengths = new List<double>(elements.Count + 2);
+        double dot = DotShare * elements.Sum(Math.Abs);
         foreach (double element in elements)
         {
             if (!double.IsFinite(element) || lengths.Count >= MaxElements - 2)
@@ -43,10 +49,11 @@ internal sealed class LinePattern
             }
 
             bool isGap = element < 0;
+            double length = element == 0 ? dot : Math.Abs(element);
             bool gapIsNext = (lengths.Count & 1) == 1;
             if (isGap == gapIsNext)
             {
-                lengths.Add(Math.Abs(element));
+                lengths.Add(length);
             }
             else if (lengths.Count == 0)
             {
@@ -55,7 +62,7 @@ internal sealed class LinePattern
             }
             else
             {
-                lengths[^1] += Math.Abs(element);
+                lengths[^1] += length;
             }
         }
 

@@ -66,7 +66,7 @@ internal sealed class PageSource
     private Page Create(ScenePage layout)
     {
         DrawingList list = _scene.Build(layout, _options.Style(), _engine);
-        PaperSheet? sheet = layout.Sheet;
+        PaperSheet? sheet = layout.SheetFor(list.Bounds);
         if (sheet is PaperSheet paper && (_options.ContentOnly ? !list.Bounds.IsEmpty : _options.WholeLayoutContent))
         {
             Bounds2 all = _options.ContentOnly ? list.Bounds : paper.Region;
@@ -84,7 +84,7 @@ internal sealed class PageSource
         }
 
         Verify(place);
-        return new Page(layout.Name, place.Width, place.Height, list, Settings(place, sheet?.Region))
+        return new Page(layout.Name, place.Width, place.Height, list, Settings(place, sheet?.Visible))
         {
             Overlay = Watermark(place),
             Notes = _options.Notes,

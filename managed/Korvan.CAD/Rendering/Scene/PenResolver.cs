@@ -17,7 +17,6 @@ internal sealed class PenResolver
     private const string ByLayer = "BYLAYER";
     private const string ByBlock = "BYBLOCK";
     private const int TransparencyByBlock = 0x01000000;
-    private const int TransparencyValue = 0x02000000;
 
     private readonly SceneTables _tables;
     private readonly RenderStyle _style;
@@ -138,7 +137,7 @@ internal sealed class PenResolver
     private byte AlphaOf(CadEntityBase entity, LayerInfo layer, BlockContext context)
     {
         int value = entity.Transparency;
-        if ((value & TransparencyValue) != 0)
+        if ((value & RawColor.HasOpacity) != 0)
         {
             return (byte)value;
         }

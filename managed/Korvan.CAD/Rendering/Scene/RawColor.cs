@@ -5,6 +5,9 @@ internal static class RawColor
 {
     internal const uint ByBlock = 0xc1000000;
 
+    /// <summary>The bit of a transparency whose lowest byte is the opacity.</summary>
+    internal const int HasOpacity = 0x02000000;
+
     internal static DrawingColor Decode(uint raw) => (raw >> 24) switch
     {
         0xc1 => new DrawingColor(AciPalette.ByBlock),

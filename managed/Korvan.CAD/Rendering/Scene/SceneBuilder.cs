@@ -107,7 +107,7 @@ internal sealed partial class SceneBuilder : IGeometrySink
         if (_drawn > MaxEntities)
         {
             throw new RenderException(
-                $"The drawing shows more than {MaxEntities} entities once its block references are _drawn; "
+                $"The drawing shows more than {MaxEntities} entities once its block references are drawn; "
                     + "it is too large to be rendered.");
         }
     }

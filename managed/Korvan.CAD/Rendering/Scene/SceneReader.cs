@@ -2,20 +2,16 @@ using System;
 using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.FileFormats.Cad;
-using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.Geometry;
-using Korvan.CAD.Rendering.Devices;
 
 namespace Korvan.CAD.Rendering.Scene;
 
 /// <summary>Makes a scene of a drawing: its tables by name, its blocks, and its layouts with their sheets.</summary>
 internal static class SceneReader
 {
-    private const double MillimetresPerInch = 25.4;
-
     internal static DrawingScene Read(CadDrawing drawing)
     {
         SceneTables tables = ReadTables(drawing);
@@ -132,7 +128,7 @@ internal static class SceneReader
                 || string.Equals(block, model.Name, StringComparison.OrdinalIgnoreCase);
             BlockInfo content = isModel ? model : block != null
                 && tables.Blocks.TryGetValue(block, out BlockInfo? own) ? own : paper;
-            layouts.Add(new LayoutInfo(layout.LayoutName, content, isModel, isModel ? null : Sheet(layout)));
+            layouts.Add(new LayoutInfo(layout.LayoutName, content, isModel, isModel ? null : PlotArea.Of(drawing, layout, content)));
         }
 
         if (!layouts.Exists(l => l.IsModel))
@@ -141,40 +137,5 @@ internal static class SceneReader
         }
 
         return layouts;
-    }
-
-    /// <summary>
-    /// The rectangle of the paper in layout units. The origin of a layout is the lower left corner of what the
-    /// plotter can print; the paper reaches past it by the margins, and may be rotated.
-    /// </summary>
-    private static PaperSheet? Sheet(CadLayout layout)
-    {
-        double width = layout.PaperWidth;
-        double height = layout.PaperHeight;
-        if (!(width > 0 && height > 0) || !double.IsFinite(width + height))
-        {
-            return null;
-        }
-
-        (double left, double bottom) = (layout.LeftMargin, layout.BottomMargin);
-        switch (layout.PlotRotation)
-        {
-            case CadPlotRotation.Counterclockwise90Degrees:
-                (width, height, left, bottom) = (height, width, layout.TopMargin, layout.LeftMargin);
-                break;
-            case CadPlotRotation.UpsideDown:
-                (left, bottom) = (layout.RightMargin, layout.TopMargin);
-                break;
-            case CadPlotRotation.Clockwise90Degrees:
-                (width, height, left, bottom) = (height, width, layout.BottomMargin, layout.RightMargin);
-                break;
-        }
-
-        double unit = layout.PaperUnits == CadPlotPaperUnits.Inches ? 1 / MillimetresPerInch : 1;
-        bool scaled = layout.ScaleNumerator > 0 && layout.ScaleDenominator > 0;
-        double k = unit * (scaled ? layout.ScaleDenominator / layout.ScaleNumerator : 1);
-        double x = (-left - layout.PlotOriginX) * k;
-        double y = (-bottom - layout.PlotOriginY) * k;
-        return new PaperSheet(Bounds2.Of(x, y, x + (width * k), y + (height * k)), width, height);
     }
 }

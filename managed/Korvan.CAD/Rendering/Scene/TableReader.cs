@@ -118,7 +118,10 @@ internal static class TableReader
     {
         CadCodeValue? tag = layer.XdataOrNull?.Find(TransparencyApplication)?.Data.Find(static t =>
             t.Attribute == 1071);
-        return tag == null ? 1 : ((int)Number(tag) & 0xff) / 255.0;
+        int value = tag == null ? 0 : (int)Number(tag);
+
+        // Layer managers write a plain 0 for "not set"; only with this bit is the lowest byte an opacity.
+        return (value & RawColor.HasOpacity) == 0 ? 1 : (value & 0xff) / 255.0;
     }
 
     private static double Number(CadCodeValue tag) =>

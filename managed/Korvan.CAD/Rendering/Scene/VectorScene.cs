@@ -2,13 +2,19 @@ using System;
 using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;
 
 /// <summary>Something of a vector image that makes a page of its own.</summary>
-internal record ScenePage(string Name, PaperSheet? Sheet);
+internal abstract record ScenePage(string Name)
+{
+    /// <summary>The paper of a page that has one.</summary>
+    /// <param name="content">The extents of what the page shows, in drawing units.</param>
+    internal abstract PaperSheet? SheetFor(in Bounds2 content);
+}
 
 /// <summary>A vector image as the renderer sees it: pages with names, each of which becomes a display list.</summary>
 internal abstract class VectorScene

@@ -28,7 +28,8 @@ public class SheetTests
         CadLayout layout = Picture.Sheet(drawing);
         (layout.PaperWidth, layout.PaperHeight, layout.LeftMargin, layout.BottomMargin) = (297, 210, left, bottom);
         (layout.RightMargin, layout.TopMargin, layout.PlotRotation) = (30, 40, (CadPlotRotation)rotation);
-        Bounds2 region = SceneReader.Read(drawing.Drawing).Layouts.First(l => !l.IsModel).Sheet!.Value.Region;
+        Bounds2 region = SceneReader.Read(drawing.Drawing).Layouts.First(l => !l.IsModel).Plot!
+            .SheetFor(Bounds2.Empty).Region;
         Assert.Equal((minX, minY, maxX, maxY), (region.MinX, region.MinY, region.MaxX, region.MaxY));
     }
 

@@ -93,13 +93,13 @@ public partial class CadInsertObject : CadEntityBase
 
     partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
-        // Attributes follow or not: the list tells.
+        // Attributes follow or not: the list and its end tell.
         taken = code == 66;
     }
 
     partial void OnExchange(ObjectExchange fields)
     {
-        if (fields.Includes(0, Attributes.Count > 0))
+        if (fields.Includes(0, Attributes.Count > 0 || Seqend is not null))
         {
             fields.Bool(66, true);
         }

@@ -31,16 +31,19 @@ internal static class DrawingIntegrity
             AddTableHeaders(drawing);
         }
 
+        CadDictionary? layouts = null;
         if (release >= WithOwners)
         {
             RemoveLayouts(drawing);
             AddLayouts(drawing);
+            layouts = AddLayoutDictionary(drawing);
         }
 
         CompleteSequences(drawing);
         HandleAllocator.Assign(drawing, release >= WithRecords);
         if (release >= WithOwners)
         {
+            LinkDictionary(drawing, layouts);
             LinkLayouts(drawing);
             SetOwners(drawing);
         }
@@ -174,6 +177,41 @@ internal static class DrawingIntegrity
         }
     }
 
+    // A layout that no dictionary names is deleted by programs that recover drawings.
+    private static CadDictionary? AddLayoutDictionary(CadDrawing drawing)
+    {
+        if (NamedDictionary(drawing, LayoutDictionary) is not null)
+        {
+            return null;
+        }
+
+        CadDictionary layouts = new();
+        if (!drawing.Objects.OfType<CadDictionaryBase>().Any())
+        {
+            // The first object of a file is the root of the dictionaries.
+            drawing.Objects.Insert(0, new CadDictionary());
+        }
+
+        drawing.Objects.Add(layouts);
+        return layouts;
+    }
+
+    private static void LinkDictionary(CadDrawing drawing, CadDictionary? layouts)
+    {
+        if (layouts is null || drawing.Objects.OfType<CadDictionaryBase>().FirstOrDefault() is not { } root)
+        {
+            return;
+        }
+
+        root.Set(LayoutDictionary, layouts.Handle);
+        layouts.Owner = root.Handle;
+        foreach (CadLayout layout in drawing.Layouts)
+        {
+            layouts.Set(layout.LayoutName, layout.Handle);
+            layout.Owner = layouts.Handle;
+        }
+    }
+
     private static void AddSheet(CadDrawing drawing, CadLayout layout)
     {
         int number = 0;
@@ -272,9 +310,9 @@ internal static class DrawingIntegrity
                 polyline.Vertices.ForEach(vertex => vertex.Owner = entity.Handle);
                 polyline.Seqend!.Owner = entity.Handle;
                 break;
-            case CadInsertObject { Attributes.Count: > 0 } insert:
+            case CadInsertObject { Seqend: { } end } insert:
                 insert.Attributes.ForEach(attribute => attribute.Owner = entity.Handle);
-                insert.Seqend!.Owner = entity.Handle;
+                end.Owner = entity.Handle;
                 break;
         }
     }

@@ -255,8 +255,8 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
             }
             else
             {
-                // Without attributes a SEQEND that follows is nobody's; it is read like any entity.
-                insert.Seqend = insert.Attributes.Count > 0 ? ReadSeqend() : Decline();
+                // Some programs end a list of no attributes as well.
+                insert.Seqend = ReadSeqend();
                 return;
             }
         }

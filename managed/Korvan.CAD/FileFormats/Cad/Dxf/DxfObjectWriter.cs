@@ -23,7 +23,7 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
                 polyline.Vertices.ForEach(Write);
                 WriteSeqend(polyline.Seqend);
                 break;
-            case CadInsertObject { Attributes.Count: > 0 } insert:
+            case CadInsertObject insert:
                 insert.Attributes.ForEach(Write);
                 WriteSeqend(insert.Seqend);
                 break;
