@@ -1,4 +1,5 @@
 using System;
+using System.Collections.Generic;
 using System.IO;
 using System.Linq;
 using System.Text.Json;
@@ -113,6 +114,24 @@ public class MeshTests
         Assert.Equal((8.0, 10.0), (faces.MinPoint.X, faces.MaxPoint.X));
         Vec3[] corners = [.. faces.Triangles.Select(i => new Vec3(faces.Vertices[i].X, faces.Vertices[i].Y, 0))];
         Assert.True(Vec3.Cross(corners[1] - corners[0], corners[2] - corners[0]).Z > 0);
+    }
+
+    [Fact]
+    public void Nodes_are_where_their_insertions_are()
+    {
+        CadInsertObject first = Insert("one", 3, 1);
+        (first.InsertionPoint.Y, first.InsertionPoint.Z) = (5, 7);
+        CadImage drawing = Picture.Drawing(first, Insert("one", 0, 1));
+        Picture.AddBlock(drawing, "one", Picture.Square(-1, -1, 2, 1));
+        JsonElement[] nodes = [.. Gltf(drawing).GetProperty("nodes").EnumerateArray()];
+        Vec3 By(JsonElement node) => node.TryGetProperty("translation", out JsonElement by)
+            ? new Vec3(by[0].GetDouble(), by[1].GetDouble(), by[2].GetDouble())
+            : default;
+
+        // The root is in the middle of both.
+        IEnumerable<JsonElement> placed = nodes[0].GetProperty("children").EnumerateArray()
+            .Select(child => nodes[child.GetInt32()]);
+        Assert.Equal([new Vec3(1.5, 2.5, 3.5), new Vec3(-1.5, -2.5, -3.5)], placed.Select(By));
     }
 
     private static CadInsertObject Insert(string block, double x, short color) => Picture.Insert(block, x, 0, color);
