@@ -8,6 +8,8 @@ internal static class Angles
 
     internal static double Radians(double degrees) => degrees * Math.PI / 180;
 
+    internal static double Degrees(double radians) => radians * 180 / Math.PI;
+
     /// <summary>The counterclockwise way from one angle to another, in radians; equal angles are a full turn.</summary>
     internal static double Sweep(double start, double end)
     {

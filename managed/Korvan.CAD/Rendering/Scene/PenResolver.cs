@@ -118,7 +118,7 @@ internal sealed class PenResolver
         return context.Viewport == null ? scale : scale * context.Viewport.PatternScale;
     }
 
-    private float WeightOf(short weight, LayerInfo layer, BlockContext context)
+    internal float WeightOf(short weight, LayerInfo layer, BlockContext context)
     {
         if (!_showWeights)
         {

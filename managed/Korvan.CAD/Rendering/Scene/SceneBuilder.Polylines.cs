@@ -8,6 +8,26 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <content>Polylines of all kinds: flat with widths and bulges, in space, meshes and polyfaces.</content>
 internal sealed partial class SceneBuilder
 {
+    void IGeometrySink.FilledPolygon(ReadOnlySpan<Vec3> corners)
+    {
+        var path = new PathPen(_canvas.NewPath(), _current.Context.Map);
+        path.MoveTo(corners[0]);
+        foreach (Vec3 corner in corners[1..])
+        {
+            path.LineTo(corner);
+        }
+
+        path.Close();
+        if (_tables.Settings.FillMode)
+        {
+            _canvas.Fill(_current.Pen, evenOdd: true);
+        }
+        else
+        {
+            _canvas.Stroke(_current.Pen);
+        }
+    }
+
     /// <summary>Draws a band where the vertices have widths, else a line.</summary>
     void IGeometrySink.Polyline(in PlanarPolyline polyline, ReadOnlySpan<PolyVertex> vertices)
     {

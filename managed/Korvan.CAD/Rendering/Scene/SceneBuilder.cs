@@ -4,6 +4,7 @@ using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.FileFormats.Cad.Model.Proxy;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 
@@ -95,6 +96,32 @@ internal sealed partial class SceneBuilder : IGeometrySink
         }
 
         _current = outer;
+    }
+
+    void IGeometrySink.Traits(in ShapeTraits traits)
+    {
+        (_, LayerInfo layer, BlockContext context, CadEntityBase entity) = _current;
+        Pen own = _pens.PenOf(entity, layer, context);
+        if (traits.Layer >= 0 && traits.Layer < _tables.LayerNames.Count)
+        {
+            layer = _tables.Layer(_tables.LayerNames[traits.Layer]);
+            own.Layer = List.Layer(layer.Name);
+        }
+
+        if (traits.TrueColor >= 0 || traits.Color >= 0)
+        {
+            var color = new DrawingColor(traits.Color >= 0 ? traits.Color : AciPalette.ByLayer, traits.TrueColor);
+            own.Color = _pens.ColorOf(color, layer, context).WithAlpha(own.Color.A);
+        }
+
+        if (traits.LineType >= 0 && traits.LineType < _tables.LineTypeNames.Count)
+        {
+            own.Pattern = _pens.PatternOf(_tables.LineTypeNames[traits.LineType], layer, context);
+        }
+
+        own.LineWeight = traits.LineWeight is short weight ? _pens.WeightOf(weight, layer, context) : own.LineWeight;
+        own.PatternScale *= traits.LineTypeScale is > 0 and < double.MaxValue ? traits.LineTypeScale.Value : 1;
+        _current = _current with { Pen = own };
     }
 
     private void Count()

@@ -53,11 +53,13 @@ internal static class SceneReader
         foreach (CadLayerTable layer in drawing.Layers)
         {
             tables.Layers.TryAdd(layer.Name, TableReader.Layer(layer));
+            tables.LayerNames.Add(layer.Name);
         }
 
         foreach (CadLineTypeTableObject type in drawing.LineTypes)
         {
             tables.LineTypes.TryAdd(type.Name, TableReader.LineType(type, styleNames));
+            tables.LineTypeNames.Add(type.Name);
         }
 
         double overall = drawing.Header.Contains("$DIMSCALE") ? drawing.Header.GetDouble("$DIMSCALE") : 1;

@@ -95,6 +95,11 @@ internal sealed class SceneTables
 
     internal Dictionary<string, LinePattern?> LineTypes { get; } = new(StringComparer.OrdinalIgnoreCase);
 
+    /// <summary>Names in the order of their tables, as stored graphics refer to them.</summary>
+    internal List<string> LayerNames { get; } = [];
+
+    internal List<string> LineTypeNames { get; } = [];
+
     internal Dictionary<string, StyleInfo> Styles { get; } = new(StringComparer.OrdinalIgnoreCase);
 
     internal Dictionary<string, DimStyleInfo> DimStyles { get; } = new(StringComparer.OrdinalIgnoreCase);

@@ -6,6 +6,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
+using Korvan.CAD.FileFormats.Cad.Model.Proxy;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
@@ -62,7 +63,7 @@ internal static partial class EntityGeometry
             }
         }
 
-        return false;
+        return ProxyGraphics.Emit(entity, sink);
     }
 
     private static void Add<T>(

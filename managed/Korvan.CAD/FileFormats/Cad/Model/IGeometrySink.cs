@@ -4,6 +4,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
+using Korvan.CAD.FileFormats.Cad.Model.Proxy;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
@@ -63,6 +64,9 @@ internal interface IGeometrySink
     {
     }
 
+    /// <summary>A filled polygon in space.</summary>
+    void FilledPolygon(ReadOnlySpan<Vec3> corners) => Polyline(corners, closed: true);
+
     void Quad(in FilledQuad quad)
     {
     }
@@ -113,6 +117,11 @@ internal interface IGeometrySink
     }
 
     void BlockReference(CadInsertObject insert)
+    {
+    }
+
+    /// <summary>How the shapes that follow are drawn, up to the end of the entity.</summary>
+    void Traits(in ShapeTraits traits)
     {
     }
 
