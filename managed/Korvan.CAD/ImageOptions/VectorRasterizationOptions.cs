@@ -28,8 +28,8 @@ public abstract class VectorRasterizationOptions : DisposableObject
     public Margins? Margins { get; set; }
 
     /// <summary>Gets or sets the height of the page; 0 for the height of the layout's paper, or that of the drawing at
-    /// the given width. Pixels in raster formats; in page formats points of 1/72 inch unless <see cref="UnitType"/>
-    /// states another unit.</summary>
+    /// the given width. Pixels in raster formats and points of 1/72 inch in page formats, unless
+    /// <see cref="UnitType"/> states another unit.</summary>
     public float PageHeight
     {
         get => _pageHeight;
@@ -37,8 +37,8 @@ public abstract class VectorRasterizationOptions : DisposableObject
     }
 
     /// <summary>Gets or sets the width of the page; 0 for the width of the layout's paper, or that of the drawing at
-    /// the given height. Pixels in raster formats; in page formats points of 1/72 inch unless <see cref="UnitType"/>
-    /// states another unit.</summary>
+    /// the given height. Pixels in raster formats and points of 1/72 inch in page formats, unless
+    /// <see cref="UnitType"/> states another unit.</summary>
     public float PageWidth
     {
         get => _pageWidth;
@@ -74,8 +74,9 @@ public abstract class VectorRasterizationOptions : DisposableObject
     /// <summary>Gets or sets the colour of all content in modes with a single colour. Black by default.</summary>
     public Color DrawColor { get; set; } = Color.Black;
 
-    /// <summary>Gets or sets the unit of <see cref="PageWidth"/> and <see cref="PageHeight"/> in page formats.
-    /// </summary>
+    /// <summary>Gets or sets the unit of <see cref="PageWidth"/> and <see cref="PageHeight"/>. Raster formats follow it
+    /// where <see cref="ImageOptionsBase.ResolutionSettings"/> states how many pixels an inch has; they count pixels
+    /// otherwise.</summary>
     public UnitType UnitType { get; set; } = UnitType.Unitless;
 
     /// <summary>Gets or sets whether page formats get a bitmap of the content instead of vector graphics.</summary>

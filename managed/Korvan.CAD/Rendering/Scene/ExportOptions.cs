@@ -153,12 +153,12 @@ internal sealed class ExportOptions
             : _cad.ScaleMethod == ScaleType.ShrinkToFit ? FitMode.Shrink : FitMode.Fill;
     }
 
-    /// <summary>Device units in a unit of the page: rasters count pixels, page formats may state a unit of
-    /// length.</summary>
+    /// <summary>Device units in a unit of the page, where one of length is stated. Pixels have a length only with a
+    /// resolution.</summary>
     private double UnitScale()
     {
-        double? millimetres = _device == DeviceKind.Pixels || _vector == null ? null : LengthUnits.Millimetres(
-            _vector.UnitType);
+        bool hasLength = _device != DeviceKind.Pixels || _options.ResolutionSettings is not null;
+        double? millimetres = hasLength && _vector is not null ? LengthUnits.Millimetres(_vector.UnitType) : null;
         return millimetres is double mm ? mm * UnitsPerMillimetre : 1;
     }
 

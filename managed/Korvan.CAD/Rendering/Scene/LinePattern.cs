@@ -16,8 +16,8 @@ internal sealed class LinePattern
 {
     internal const int MaxElements = 64;
 
-    /// <summary>The length of a dot as a share of the period. Devices join the gaps around a dash of no length, so it has
-    /// one that does not show.</summary>
+    /// <summary>The length of a dot as a share of the period. Devices join the gaps around a dash of no length, so it
+    /// has one that does not show.</summary>
     private const double DotShare = 0.001;
 
     private LinePattern(double[] lengths, PatternText[] texts)

@@ -100,7 +100,7 @@ internal static class OptionExpectations
         (Lines, OnePage, Vector + "AutomaticLayoutsScaling", Any, "a page alone shares its scale with no other"),
         (Lines, Pixels, Vector + "ContentAsBitmap", Any, "raster output is a bitmap already"),
         (Lines, Pixels, Vector + "EmbedBackground", Any, "pixels always have the background"),
-        (Lines, Pixels, Vector + "UnitType", Any, "a size in pixels has no other unit"),
+        (Lines, Pixels, Vector + "UnitType", Any, "pixels have no length without a resolution"),
         ("drawing", Any, Vector + "GraphicsOptions.InterpolationMode", "Bilinear",
             "bilinear is the default for enlarged images"),
         (Lines, Any, Vector + "GraphicsOptions.SmoothingMode", "AntiAlias HighQuality", "antialiasing is the default"),

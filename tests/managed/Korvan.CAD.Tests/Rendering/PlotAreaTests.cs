@@ -83,6 +83,26 @@ public class PlotAreaTests
         Assert.Equal(110, sheet.Region.Width, 9);
     }
 
+    [Theory]
+    [InlineData(ImageOptions.UnitType.Millimeter, 254, 127, 1000, 500)]
+    [InlineData(ImageOptions.UnitType.Inch, 3, 2, 300, 200)]
+    [InlineData(ImageOptions.UnitType.Unitless, 30, 20, 30, 20)]
+    public void Pages_of_pixels_have_a_length_with_a_resolution(
+        object unit, float width, float height, int pixelsAcross, int pixelsDown)
+    {
+        using RasterPage page = Rasterizer.Draw(Picture.Drawing(Picture.Square(0, 0, 10)), new ImageOptions.PngOptions
+        {
+            ResolutionSettings = new ResolutionSetting(100, 100),
+            VectorRasterizationOptions = new ImageOptions.CadRasterizationOptions
+            {
+                UnitType = (ImageOptions.UnitType)unit,
+                PageWidth = width,
+                PageHeight = height,
+            },
+        });
+        Assert.Equal((pixelsAcross, pixelsDown), (page.Width, page.Height));
+    }
+
     private static CadLayout Layout(CadImage drawing, CadPlotType type, double unitsPerMillimetre)
     {
         CadLayout layout = Picture.Sheet(drawing);

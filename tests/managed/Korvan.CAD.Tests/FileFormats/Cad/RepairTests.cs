@@ -19,7 +19,8 @@ public class RepairTests
         {
             Assert.Equal(["INSERT", "INSERT", "POINT"], image.Entities.Select(static one => one.DxfName));
             var first = (CadInsertObject)image.Entities[0];
-            Assert.Equal((0xA2UL, (CadSeqend?)null), (first.Seqend!.Handle, ((CadInsertObject)image.Entities[1]).Seqend));
+            Assert.Equal(0xA2UL, first.Seqend!.Handle);
+            Assert.Null(((CadInsertObject)image.Entities[1]).Seqend);
         }
 
         string[] insertion = TagList.Objects(System.Text.Encoding.UTF8.GetBytes(DxfText.Save(drawing)), "SEQEND")["A2"];
