@@ -6,6 +6,9 @@ internal enum DisplayKind : byte
 {
     Stroke,
     Fill,
+
+    /// <summary>A hatched area, which becomes strokes and fills once the scale of the page is known.</summary>
+    Pattern,
     Text,
     Image,
     PushClip,
@@ -42,7 +45,7 @@ internal struct DisplayItem
 
     internal int Layer;
 
-    /// <summary>Index of the gradient of a fill (or -1), of the text run, or of the image.</summary>
+    /// <summary>Index of the gradient of a fill (or -1), of the pattern, of the text run, or of the image.</summary>
     internal int Extra;
 }
 

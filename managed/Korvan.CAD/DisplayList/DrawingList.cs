@@ -9,7 +9,7 @@ namespace Korvan.CAD.DisplayList;
 /// Everything that one page shows, in drawing units and in the order of drawing. It holds no reference to a device
 /// or to the drawing, so the same list is drawn to PDF, SVG and pixels alike.
 /// </summary>
-internal sealed class DrawingList
+internal sealed partial class DrawingList
 {
     /// <summary>Coordinates that a list may hold (1.2 GB): past it a drawing is a bomb of nested arrays, not a
     /// page.</summary>
@@ -233,8 +233,7 @@ internal sealed class DrawingList
         item = new DisplayItem
         {
             Kind = kind,
-            Color = ColorMap?.Invoke(color)
-            ?? color,
+            Color = _isMapped ? color : ColorMap?.Invoke(color) ?? color,
             Layer = layer,
             Dash = -1,
             Extra = -1

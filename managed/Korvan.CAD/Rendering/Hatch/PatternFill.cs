@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Hatch;
@@ -15,17 +16,28 @@ internal sealed class PatternFill
 
     private readonly List<(int Line, double At)> _crossings = [];
     private readonly PathBuffer _target;
+    private readonly Vec2[]? _window;
     private int _segments;
+    private double _firstRow;
+    private double _lastRow;
+    private double _start;
+    private double _end;
 
-    private PatternFill(PathBuffer target) => _target = target;
+    private PatternFill(PathBuffer target, Vec2[]? window)
+    {
+        _target = target;
+        _window = window;
+    }
 
     /// <summary>
     /// Adds the lines of the pattern to <paramref name="target"/>, in the coordinates of the rings. Returns false,
-    /// with the target in no useful state, when the pattern is too dense to be drawn line by line.
+    /// with the target in no useful state, when the pattern is too dense to be drawn line by line. Where corners of a
+    /// window are given, lines outside of it may be left out.
     /// </summary>
-    internal static bool TryFill(IReadOnlyList<Vec2[]> rings, IReadOnlyList<HatchLine> lines, PathBuffer target)
+    internal static bool TryFill(
+        IReadOnlyList<Vec2[]> rings, IReadOnlyList<HatchLine> lines, PathBuffer target, Vec2[]? window = null)
     {
-        var fill = new PatternFill(target);
+        var fill = new PatternFill(target, window);
         foreach (HatchLine line in lines)
         {
             if (!fill.TryAdd(rings, line))
@@ -47,6 +59,7 @@ internal sealed class PatternFill
         }
 
         _crossings.Clear();
+        Limit(line, along, spacing);
         foreach (Vec2[] ring in rings)
         {
             if (!TryCross(ring, line.Base, along, spacing))
@@ -69,13 +82,35 @@ internal sealed class PatternFill
             }
 
             Vec2 origin = line.Base + (along.Left * (index * spacing)) + (along * (index * shift));
-            if (!TryDash(origin, along, from - (index * shift), to - (index * shift), line.Dashes))
+            (from, to) = (Math.Max(from, _start), Math.Min(to, _end));
+            if (to >= from && !TryDash(origin, along, from - (index * shift), to - (index * shift), line.Dashes))
             {
                 return false;
             }
         }
 
         return true;
+    }
+
+    /// <summary>Finds the rows that cross the window, and the part of them in it.</summary>
+    private void Limit(in HatchLine line, Vec2 along, double spacing)
+    {
+        (_firstRow, _lastRow) = (double.NegativeInfinity, double.PositiveInfinity);
+        (_start, _end) = (double.NegativeInfinity, double.PositiveInfinity);
+        if (_window is null)
+        {
+            return;
+        }
+
+        (_firstRow, _lastRow, _start, _end) = (_lastRow, _firstRow, _end, _start);
+        foreach (Vec2 corner in _window)
+        {
+            Vec2 at = corner - line.Base;
+            double row = Vec2.Dot(at, along.Left) / spacing;
+            double place = Vec2.Dot(at, along);
+            (_firstRow, _lastRow) = (Math.Min(_firstRow, row - 1), Math.Max(_lastRow, row + 1));
+            (_start, _end) = (Math.Min(_start, place), Math.Max(_end, place));
+        }
     }
 
     // Edges are half open in the direction across the lines, so that a vertex on a line counts once.
@@ -87,8 +122,14 @@ internal sealed class PatternFill
         {
             Vec2 b = point - origin;
             double rowB = Vec2.Dot(b, along.Left) / spacing;
-            double first = Math.Ceiling(Math.Min(rowA, rowB));
-            double last = Math.Ceiling(Math.Max(rowA, rowB)) - 1;
+            double first = Math.Ceiling(Math.Max(Math.Min(rowA, rowB), _firstRow));
+            double last = Math.Min(Math.Ceiling(Math.Max(rowA, rowB)) - 1, Math.Floor(_lastRow));
+            if (first > last)
+            {
+                (a, rowA) = (b, rowB);
+                continue;
+            }
+
             if (!(last - first < MaxSegments) || Math.Abs(first) > int.MaxValue || Math.Abs(last) > int.MaxValue)
             {
                 return false;

@@ -97,29 +97,20 @@ internal sealed class Canvas
         List.Fill(path, pen.Color, pen.Layer, evenOdd: true, gradient);
     }
 
-    /// <summary>Draws a pattern in the loops, or a tint of a quarter of the colour where it is too dense for
-    /// lines.</summary>
+    /// <summary>Draws a pattern in the loops.</summary>
     internal void FillPattern(List<HatchLoop> loops, IReadOnlyList<HatchLine> lines, in HatchPlane plane, in Pen pen)
     {
-        var rings = new List<Vec2[]>(loops.Count);
+        PathBuffer path = NewPath();
         foreach (HatchLoop loop in loops)
         {
-            rings.Add(loop.Ring);
+            path.AppendMapped(loop.Path, plane.Map, plane.Elevation);
+            path.Close();
         }
 
-        var local = new PathBuffer();
-        if (PatternFill.TryFill(rings, lines, local))
-        {
-            PathBuffer path = NewPath();
-            path.AppendMapped(local, plane.Map, plane.Elevation);
-            List.Stroke(
-                path, new StrokeStyle { Color = pen.Color, LineWeight = pen.LineWeight, Dash = -1, Layer = pen.Layer });
-            return;
-        }
-
-        Pen tint = pen;
-        tint.Color = pen.Color.WithAlpha((byte)(pen.Color.A / 4));
-        FillLoops(loops, plane, tint, null);
+        List<Vec2[]> rings = loops.ConvertAll(static loop => loop.Ring);
+        List.Pattern(
+            path, new PatternArea(rings, lines, plane.Map, plane.Elevation),
+            new StrokeStyle { Color = pen.Color, LineWeight = pen.LineWeight, Layer = pen.Layer });
     }
 
     /// <summary>One run at a place: the matrix maps the run's ems to the page.</summary>

@@ -4,6 +4,7 @@ using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.Hatch;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -16,6 +17,9 @@ internal sealed class PageSource
     private const double HairlinePixels = 1;
     private const double HairlineMillimetres = 0.13;
     private const double BitmapPerInch = 300;
+
+    /// <summary>Half of the widest line that reaches onto a page from outside.</summary>
+    private const double BorderMillimetres = 5;
     private const double MaxBitmapPixels = 60_000_000;
 
     private readonly VectorScene _scene;
@@ -84,11 +88,33 @@ internal sealed class PageSource
         }
 
         Verify(place);
-        return new Page(layout.Name, place.Width, place.Height, list, Settings(place, sheet?.Visible))
+        PaintSettings settings = Settings(place, sheet?.Visible);
+        PatternDetail.Resolve(list, settings, Visible(place, settings));
+        return new Page(layout.Name, place.Width, place.Height, list, settings)
         {
             Overlay = Watermark(place),
             Notes = _options.Notes,
         };
+    }
+
+    /// <summary>The part of the drawing that lies on the page, with what lines at its border need.</summary>
+    private static Bounds2? Visible(in PageLayout place, in PaintSettings settings)
+    {
+        if (!place.ToDevice.TryInvert(out Affine2 back))
+        {
+            return settings.Clip;
+        }
+
+        double border = settings.UnitsPerMillimetre * BorderMillimetres;
+        Bounds2 page = Bounds2.Empty;
+        for (int corner = 0; corner < 4; corner++)
+        {
+            Vec2 p = back.Point(
+                (corner & 1) == 0 ? -border : place.Width + border, corner < 2 ? -border : place.Height + border);
+            page.Add(p.X, p.Y);
+        }
+
+        return page;
     }
 
     private void Verify(in PageLayout place)

@@ -1,6 +1,8 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Hatch;
 using Xunit;
 
@@ -85,6 +87,69 @@ public class HatchTests
         }
 
         Assert.Equal(count, HatchLoops.Select(loops, (HatchStyle)style).Count);
+    }
+
+    [Theory]
+    [InlineData(0.1, new double[0], 255)] // ten lines a pixel cover all
+    [InlineData(0.4, new[] { 1.0, -9.0 }, 128)] // dashes of 1 with an end of 1: a fifth of each line, 2.5 lines a pixel
+    [InlineData(0.4, new[] { 0.0, -20.0 }, 32)] // dots
+    public void Lines_too_near_to_be_told_apart_become_a_tone(double spacing, double[] dashes, int alpha)
+    {
+        DrawingList list = Resolved(new HatchLine(0, default, new Vec2(0, spacing), dashes));
+        DisplayItem item = Assert.Single(list.Items.ToArray());
+        Assert.Equal((DisplayKind.Fill, alpha), (item.Kind, item.Color.A));
+    }
+
+    [Fact]
+    public void Only_lines_on_the_page_are_drawn_and_short_dashes_join()
+    {
+        var dashed = new HatchLine(0, default, new Vec2(0, 2), [0.1, -0.1]);
+        DisplayItem item = Assert.Single(Resolved(dashed).Items.ToArray());
+        Assert.Equal((DisplayKind.Stroke, 2 * 50), (item.Kind, item.VerbCount));
+
+        // Of a square of 100 a window of 30 × 10 is seen: five lines and one to each side, cut to its width.
+        DrawingList part = Resolved(dashed with { Dashes = [] }, Bounds2.Of(20, 41, 50, 51));
+        item = Assert.Single(part.Items.ToArray());
+        Assert.InRange(item.VerbCount, 2 * 5, 2 * 7);
+        double[] c = part.CoordsOf(item)[..(2 * item.VerbCount)].ToArray();
+        Assert.Equal((20.0, 50.0), (c[0], c[2]));
+    }
+
+    [Fact]
+    public void Patterns_keep_their_place_among_other_items_and_are_mapped_to_colours_once()
+    {
+        var list = new DrawingList { ColorMap = static color => color with { R = (byte)(color.R + 10) } };
+        PathBuffer outline = Loop(0, 0, 100).Path;
+        var red = new Rgba(100, 0, 0, 255);
+        list.Fill(outline, red, 0, evenOdd: false);
+        list.Pattern(
+            outline, new PatternArea([Square(0, 0, 100)], [new HatchLine(0, default, new Vec2(0, 9), [])],
+                Affine3.Identity, 0), new StrokeStyle { Color = red });
+        list.Fill(outline, red, 0, evenOdd: true);
+        PatternDetail.Resolve(list, Settings, null);
+        Assert.Equal(
+            [DisplayKind.Fill, DisplayKind.Stroke, DisplayKind.Fill],
+            Array.ConvertAll(list.Items.ToArray(), static item => item.Kind));
+        Assert.All(list.Items.ToArray(), static item => Assert.Equal(110, item.Color.R));
+        Assert.True(list.Items[2].EvenOdd);
+    }
+
+    private static PaintSettings Settings => new()
+    {
+        ToDevice = Affine2.Identity,
+        UnitsPerMillimetre = 1,
+        Hairline = 1,
+        LineScale = 1,
+        Caps = LineCaps.Round,
+    };
+
+    private static DrawingList Resolved(HatchLine line, Bounds2? window = null)
+    {
+        var list = new DrawingList();
+        var area = new PatternArea([Square(0, 0, 100)], [line], Affine3.Identity, 0);
+        list.Pattern(Loop(0, 0, 100).Path, area, new StrokeStyle { Color = Rgba.Black });
+        PatternDetail.Resolve(list, Settings, window);
+        return list;
     }
 
     private static Vec2[] Square(double x, double y, double side) =>

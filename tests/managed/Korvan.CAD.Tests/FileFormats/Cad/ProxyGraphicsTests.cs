@@ -39,8 +39,10 @@ public class ProxyGraphicsTests
         Assert.Equal(
             [
                 "circle 1,2,3 r5", "arc from 0,2,0 to -2,0,0", "circle 0,0,0 r1", "arc from 1,0,0 to -1,0,0",
-                "path 0,0,0 4,0,0", "ring 0,0,0 4,0,0 4,4,0", "fill 0,0,0 4,0,0 4,4,0", "grid 2x2", "face of 3 hides 2",
-                "text ab 2.5 at 1,2,0 along 0,1,0 width 0.5 flags 0", "text Größe 3 at 1,2,0 along 1,0,0 width 1 flags 4",
+                "path 0,0,0 4,0,0", "ring 0,0,0 4,0,0 4,4,0", "fill 0,0,0 4,0,0 4,4,0", "grid 2x2",
+                "face of 3 hides 2",
+                "text ab 2.5 at 1,2,0 along 0,1,0 width 0.5 flags 0",
+                "text Größe 3 at 1,2,0 along 1,0,0 width 1 flags 4",
                 "line 0,0,0 0,1,0 both", "line 0,0,0 1,0,0 one",
             ],
             sink.Shapes);
@@ -56,7 +58,8 @@ public class ProxyGraphicsTests
             Chunk(14, 3), Chunk(16, 1), Chunk(18, 0x7fff), Chunk(23, 35), Chunk(29, shift), Chunk(29, twice), line,
             Chunk(31), Chunk(22, unchecked((int)0xc2102030)), Chunk(24, N([2.0])), line, Chunk(31), Chunk(31),
             Chunk(22, unchecked((int)0xc0000000)), line, line);
-        Assert.Equal(["path 10,20,0 12,20,0", "path 10,20,0 11,20,0", "path 0,0,0 1,0,0", "path 0,0,0 1,0,0"], sink.Shapes);
+        Assert.Equal(
+            ["path 10,20,0 12,20,0", "path 10,20,0 11,20,0", "path 0,0,0 1,0,0", "path 0,0,0 1,0,0"], sink.Shapes);
         var first = new ShapeTraits { Color = 3, Layer = 1, LineWeight = 35 };
         ShapeTraits second = first with { TrueColor = 0x102030, LineTypeScale = 2 };
         Assert.Equal([first, second, second with { Color = 256, TrueColor = -1 }], sink.Told);

@@ -18,7 +18,8 @@ internal ref struct ChunkReader(ReadOnlySpan<byte> data)
 
     internal readonly int Left => _data.Length - _position;
 
-    internal int Int() => Take(sizeof(int)) is { IsEmpty: false } bytes ? BinaryPrimitives.ReadInt32LittleEndian(bytes) : 0;
+    internal int Int() =>
+        Take(sizeof(int)) is { IsEmpty: false } bytes ? BinaryPrimitives.ReadInt32LittleEndian(bytes) : 0;
 
     internal double Double() =>
         Take(sizeof(double)) is { IsEmpty: false } bytes ? BinaryPrimitives.ReadDoubleLittleEndian(bytes) : 0;

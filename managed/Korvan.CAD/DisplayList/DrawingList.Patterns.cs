@@ -1,0 +1,102 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.Geometry;
+
+namespace Korvan.CAD.DisplayList;
+
+/// <content>Hatched areas, whose lines are made for the scale at which the page is drawn.</content>
+internal sealed partial class DrawingList
+{
+    private readonly List<PatternArea> _patterns = [];
+    private bool _isMapped;
+
+    /// <summary>Draws one hatched area by strokes and fills.</summary>
+    /// <param name="item">The item, with its colour and line weight.</param>
+    /// <param name="area">The rings and lines.</param>
+    /// <param name="outline">The boundary on the page.</param>
+    /// <param name="clip">The region that the clips leave; null for all.</param>
+    internal delegate void PatternPainter(
+        in DisplayItem item, PatternArea area, PathBuffer outline, Bounds2? clip);
+
+    /// <summary>Adds an area that is filled with lines.</summary>
+    internal void Pattern(PathBuffer outline, PatternArea area, in StrokeStyle style)
+    {
+        if (outline.IsEmpty || !AddPath(outline, DisplayKind.Pattern, style.Color, style.Layer, out int index))
+        {
+            return;
+        }
+
+        _items[index].LineWeight = style.LineWeight;
+        _items[index].Extra = _patterns.Count;
+        _patterns.Add(area);
+    }
+
+    /// <summary>Replaces the hatched areas by what a painter adds in their places. Colours are mapped already.</summary>
+    internal void ResolvePatterns(PatternPainter painter)
+    {
+        if (_patterns.Count == 0)
+        {
+            return;
+        }
+
+        DisplayItem[] before = _items;
+        int count = _itemCount;
+        _items = new DisplayItem[count];
+        _itemCount = 0;
+        _isMapped = true;
+        var outline = new PathBuffer();
+        for (int i = 0; i < count; i++)
+        {
+            ref readonly DisplayItem item = ref before[i];
+            if (item.Kind == DisplayKind.Pattern)
+            {
+                PathOf(item, outline);
+                painter(item, _patterns[item.Extra], outline, ActiveClip);
+                continue;
+            }
+
+            if (item.Kind == DisplayKind.PushClip)
+            {
+                PathOf(item, outline);
+                _clips.Add(ActiveClip is Bounds2 clip ? outline.Bounds.Clip(clip) : outline.Bounds);
+            }
+            else if (item.Kind == DisplayKind.PopClip)
+            {
+                _clips.RemoveAt(_clips.Count - 1);
+            }
+
+            NewItem(item.Kind, item.Color, item.Layer) = item;
+        }
+
+        _isMapped = false;
+        _patterns.Clear();
+    }
+
+    private void PathOf(in DisplayItem item, PathBuffer path)
+    {
+        path.Clear();
+        ReadOnlySpan<double> c = CoordsOf(item);
+        int at = 0;
+        foreach (PathVerb verb in VerbsOf(item))
+        {
+            switch (verb)
+            {
+                case PathVerb.Move:
+                    path.MoveTo(new Vec2(c[at], c[at + 1]));
+                    at += 2;
+                    break;
+                case PathVerb.Line:
+                    path.LineTo(new Vec2(c[at], c[at + 1]));
+                    at += 2;
+                    break;
+                case PathVerb.Curve:
+                    path.CurveTo(new Vec2(c[at], c[at + 1]), new Vec2(c[at + 2], c[at + 3]), new Vec2(c[at + 4], c[at + 5]));
+                    at += 6;
+                    break;
+                default:
+                    path.Close();
+                    break;
+            }
+        }
+    }
+}
