@@ -249,7 +249,7 @@ public class EntityTests
         Assert.Equal([5.0, 2, 0, 2], LinePattern.Create([5, -2, 0, -2])!.Lengths);
         Assert.Equal([3.0, 4], LinePattern.Create([1, 2, -3, -1])!.Lengths);
         Assert.Equal([3.0, 2], LinePattern.Create([-2, 3])!.Lengths); // opens with its gap
-        Assert.Equal([3.0, 2], LinePattern.Create([1, -2, 2])!.Lengths); // ends in ink
+        Assert.Equal([3.0, 2], LinePattern.Create([1, -2, 2])!.Lengths); // ends with a dash
         Assert.Null(LinePattern.Create([]));
         Assert.Null(LinePattern.Create([-1, -2]));
         Assert.Null(LinePattern.Create([5]));
