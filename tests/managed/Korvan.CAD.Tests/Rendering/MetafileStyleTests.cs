@@ -60,7 +60,9 @@ public class MetafileStyleTests
             [.. Individual, .. flags, Line(0, 0, 10, 0), Box(20, 20, 40, 40), new PolyMarker { Points = [P(80, 80)] }]);
         DisplayItem[] items = list.Items.ToArray();
         (string Name, DisplayItem Item, Rgba Bundled)[] found =
-            [("line", items[0], Blue), ("fill", items[1], Green), ("edge", items[2], Green), ("marker", items[3], Blue)];
+        [
+            ("line", items[0], Blue), ("fill", items[1], Green), ("edge", items[2], Green), ("marker", items[3], Blue),
+        ];
         foreach ((string name, DisplayItem item, Rgba bundled) in found)
         {
             Rgba expected = colors.Contains(name, StringComparison.Ordinal) ? bundled : Red;
@@ -170,7 +172,8 @@ public class MetafileStyleTests
     {
         DrawingList list = List([],
         [
-            new LineCapElement { Cap = cap }, new LineJoin { Join = join }, new MitreLimit { Limit = 4 }, Line(0, 0, 9, 9),
+            new LineCapElement { Cap = cap }, new LineJoin { Join = join }, new MitreLimit { Limit = 4 },
+            Line(0, 0, 9, 9),
             .. Edge(Red, 1), new InteriorStyle { Value = InteriorStyle.Style.Empty },
             new EdgeCap { Cap = cap }, new EdgeJoin { Join = join }, Box(1, 1, 5, 5),
         ]);
