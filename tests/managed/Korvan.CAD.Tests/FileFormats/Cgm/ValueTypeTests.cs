@@ -168,7 +168,8 @@ public class ValueTypeTests
             Assert.Contains("nested", Assert.Throws<ImageSaveException>(() => Save([inner], format)).Message);
         }
 
-        Assert.ThrowsAny<ArgumentException>(() => new CgmFile().Save(new MemoryStream(), (CgmFileFormat)99));
+        CgmFile file = Load(Save([], CgmFileFormat.Binary));
+        Assert.Throws<ArgumentOutOfRangeException>(() => file.Save(new MemoryStream(), (CgmFileFormat)99));
     }
 
     [Fact]
