@@ -84,6 +84,9 @@ public class EntityStyleTests
         }
 
         Assert.Equal((4 * 10) + (4 * 4), Length(Build(Picture.Drawing(square), front)), 9);
+        CadImage pattern = Picture.Drawing(dashed);
+        pattern.LineTypes.Add(LineType("D", 2, -1));
+        Assert.Equal((2 * 10) + (2 * 4), Length(Build(pattern, front)), 9);
     }
 
     [Fact]
