@@ -16,9 +16,9 @@ def elements(data: bytes) -> list[tuple[tuple[int, int], bytes]]:
     """Class, number and parameters of each element."""
     found, at = [], 0
     while at + 2 <= len(data):
-        (head,) = struct.unpack_from(">H", data, at)
+        (header,) = struct.unpack_from(">H", data, at)
         at += 2
-        body, length, more = b"", head & 31, False
+        body, length, more = b"", header & 31, False
         if length == 31:
             more = True
         while True:
@@ -30,7 +30,7 @@ def elements(data: bytes) -> list[tuple[tuple[int, int], bytes]]:
             at += length + length % 2
             if not more:
                 break
-        found.append(((head >> 12, head >> 5 & 127), body))
+        found.append(((header >> 12, header >> 5 & 127), body))
     return found
 
 
@@ -73,7 +73,8 @@ def to_svg(data: bytes) -> str:
             ux, uy, bx, by = (n / 10_000 for n in state[ORIENTATION])
             out.append(f'<text transform="matrix({bx} {-by} {-ux} {uy} {x} {height - y})" textLength="{wide}" '
                        f'lengthAdjust="spacingAndGlyphs" font-family="Liberation Sans" '
-                       f'font-size="{state[HEIGHT][0] / 0.7}" fill="{state[TEXT_COLOR]}"{state[CLIP]}>{escape(text)}</text>')
+                       f'font-size="{state[HEIGHT][0] / 0.7}" fill="{state[TEXT_COLOR]}"{state[CLIP]}>'
+                       f'{escape(text)}</text>')
         elif kind == CELL_ARRAY:
             out.append(picture(body, height))
     return "\n".join(out) + "</svg>"
@@ -99,6 +100,7 @@ def picture(body: bytes, page: int) -> str:
             else list(runs(body[20:], wide, high)))
     pixels = b"".join(b"".join(row[i : i + 3][::-1] for i in range(0, len(row), 3)) + bytes(-wide * 3 % 4)
                       for row in reversed(rows))
-    head = struct.pack("<2sIHHIIiiHHIIiiII", b"BM", 54 + len(pixels), 0, 0, 54, 40, wide, high, 1, 24, 0, len(pixels), 0, 0, 0, 0)
+    header = struct.pack("<2sIHHIIiiHHIIiiII", b"BM", 54 + len(pixels), 0, 0, 54, 40, wide, high, 1, 24, 0, len(pixels),
+                         0, 0, 0, 0)
     return (f'<image x="{x0}" y="{page - y0}" width="{x1 - x0}" height="{y0 - y1}" preserveAspectRatio="none" '
-            f'href="data:image/bmp;base64,{base64.b64encode(head + pixels).decode()}"/>')
+            f'href="data:image/bmp;base64,{base64.b64encode(header + pixels).decode()}"/>')

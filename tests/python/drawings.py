@@ -77,7 +77,7 @@ class Png:
     def pixel(self, x: int, y: int) -> tuple[int, ...]:
         return tuple(self._rows[y][x * self.channels : x * self.channels + 3])
 
-    def ink(self) -> float:
+    def coverage(self) -> float:
         """The share of pixels that are not the colour of the upper left one."""
         step = self.channels
         background = bytes(self._rows[0][:step])

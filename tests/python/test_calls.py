@@ -24,9 +24,9 @@ class Help(unittest.TestCase):
 
     def test_forms_are_told_in_the_order_of_tries(self) -> None:
         doc = probe.Box.scale.__doc__
-        heads = [line for line in doc.splitlines() if line.startswith("scale(")]
-        self.assertEqual(heads, ["scale(x: float, y: float) -> str", "scale(times: int) -> str",
-                                 "scale(factor: float) -> str"])
+        signatures = [line for line in doc.splitlines() if line.startswith("scale(")]
+        self.assertEqual(signatures, ["scale(x: float, y: float) -> str", "scale(times: int) -> str",
+                                      "scale(factor: float) -> str"])
         self.assertIn("    Scales by one factor.", doc)
         self.assertEqual(probe.Mixed().inflate.__doc__, "inflate(by: int) -> int")
         self.assertTrue(probe.Mixed.inflate.__doc__.startswith("inflate(target: Mixed | None, by: int)"))

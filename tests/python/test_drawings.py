@@ -43,7 +43,7 @@ class Outputs(unittest.TestCase):
         png = Png(outputs["png"].read_bytes())
         self.assertEqual((png.width, png.height), (420, 297))
         if path.name not in NOTHING_TO_DRAW:
-            self.assertGreater(png.ink(), 0.0, "something was drawn")
+            self.assertGreater(png.coverage(), 0.0, "something was drawn")
 
     def test_the_examples_convert(self) -> None:
         paths = sorted(EXAMPLES.glob("*.dxf"))

@@ -81,7 +81,7 @@ class Folders(unittest.TestCase):
             ("cut off", lambda data: data[: len(data) // 2]),
             ("a line of text", lambda _: b"this is no assembly\n"),
             ("nothing", lambda _: b""),
-            ("a head that leads nowhere", lambda data: data[:60] + b"\xff\xff\xff\x7f" + data[64:]),
+            ("a header that leads nowhere", lambda data: data[:60] + b"\xff\xff\xff\x7f" + data[64:]),
         ):
             with self.subTest(name), LinkedPackage() as package:
                 damage(package, change)

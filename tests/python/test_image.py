@@ -224,13 +224,13 @@ class Saving(unittest.TestCase):
 
         plain = png(rasterization())
         self.assertEqual((plain.width, plain.height), (400, 300))
-        self.assertGreater(plain.ink(), 0.01)
+        self.assertGreater(plain.coverage(), 0.01)
         dark = rasterization()
         dark.background_color = cad.Color.from_argb(10, 20, 30)
         self.assertEqual(png(dark).pixel(0, 0), (10, 20, 30))
         bordered = rasterization()
         bordered.border_x = bordered.border_y = 100.0
-        self.assertLess(png(bordered).ink(), plain.ink())
+        self.assertLess(png(bordered).coverage(), plain.coverage())
 
     def test_a_changed_entity_is_drawn_and_saved_changed(self) -> None:
         image = cad.Image.load(PLAN)

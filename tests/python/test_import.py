@@ -184,7 +184,8 @@ class FailedStart(unittest.TestCase):
 
     def test_a_wrapper_of_the_framework_fails_with_those_that_it_builds_on(self) -> None:
         code = "*[lambda kind=kind: str(kind._type_of()) and 'fine' for kind in WRAPPERS]"
-        names = ["IDisposable", "Iter", "Iterable", "ICol", "IList", "RoColBase", "ColBase", "Array", "ArrList", "Stream"]
+        names = ["IDisposable", "Iter", "Iterable", "ICol", "IList", "RoColBase", "ColBase", "Array", "ArrList",
+                 "Stream"]
         for host, method, own, dependent in (
             ("SiApiEnumerable", "GetEnumerator", "Iterable",
              ("ICol", "IList", "RoColBase", "ColBase", "Array", "ArrList")),

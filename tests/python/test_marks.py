@@ -77,7 +77,8 @@ class Watermarks(unittest.TestCase):
             drawing = self.marked()
             for tags in self.copies(drawing)[:count]:
                 damage(tags)
-            self.assertEqual(drawing.watermark_guard_service.validate("mine", "secret"), FOUND | DAMAGED | VALID, damage)
+            self.assertEqual(drawing.watermark_guard_service.validate("mine", "secret"), FOUND | DAMAGED | VALID,
+                             damage)
 
     def test_texts_of_all_lengths_come_back_and_tell_nothing(self) -> None:
         for text in ("", "x", "ü" * 500, "x" * 1000, "😀 \0 \n"):
@@ -148,7 +149,8 @@ class Annotations(unittest.TestCase):
 
 
 class Sequences(unittest.TestCase):
-    PAGES = (("cp932", "JAPANESE", 1), ("cp950", "TRAD_CHINESE", 2), ("cp949", "KOREAN", 3), ("cp936", "SIMP_CHINESE", 5))
+    PAGES = (("cp932", "JAPANESE", 1), ("cp950", "TRAD_CHINESE", 2), ("cp949", "KOREAN", 3),
+             ("cp936", "SIMP_CHINESE", 5))
 
     def test_letters_of_double_byte_pages_are_those_of_another_decoder(self) -> None:
         for codec, name, digit in self.PAGES:
@@ -173,7 +175,8 @@ class Sequences(unittest.TestCase):
 
     def test_single_byte_pages_are_those_of_another_encoder(self) -> None:
         helper = cad.CodePagesConvertHelper
-        pages = {"GREEK": "cp1253", "CYRILLIC": "cp1251", "TURKISH": "cp1254", "HEBREW": "cp1255", "BALTIC": "cp1257", "ENGLISH": "cp1252"}
+        pages = {"GREEK": "cp1253", "CYRILLIC": "cp1251", "TURKISH": "cp1254", "HEBREW": "cp1255", "BALTIC": "cp1257",
+                 "ENGLISH": "cp1252"}
         for name, codec in pages.items():
             page = getattr(CodePages, name)
             for code in range(0xA0, 0x100):
@@ -181,7 +184,8 @@ class Sequences(unittest.TestCase):
                     letter = bytes([code]).decode(codec)
                 except UnicodeDecodeError:
                     continue
-                self.assertEqual((bytes(helper.encode(letter, page)), helper.decode(bytes([code]), page)), (bytes([code]), letter), name)
+                self.assertEqual((bytes(helper.encode(letter, page)), helper.decode(bytes([code]), page)),
+                                 (bytes([code]), letter), name)
             self.assertEqual(bytes(helper.encode("漢", page)), b"\\U+6F22")
             self.assertEqual(helper.decode(b"x\\U+6F22\\U+D83D\\U+DE00y", page), "x漢😀y")
         self.assertEqual(helper.decode(b"\\U+6F2 \\U+ \\U+GGGG", CodePages.ENGLISH), "\\U+6F2 \\U+ \\U+GGGG")

@@ -93,7 +93,8 @@ class Metafiles(unittest.TestCase):
             paths = set()
             for encoding in "binary", "clear_text":
                 data = plot("-L", "Title", CGM_MAX_VERSION=version, CGM_ENCODING=encoding)
-                with cad.Image.load(io.BytesIO(data)) as image, cad.Image.load(io.BytesIO(gzip.compress(data))) as packed:
+                zipped = io.BytesIO(gzip.compress(data))
+                with cad.Image.load(io.BytesIO(data)) as image, cad.Image.load(zipped) as packed:
                     self.assertEqual((list(image.get_strings()), list(packed.get_strings())), (titles, titles))
                     options = SvgOptions()
                     out = io.BytesIO()
@@ -106,7 +107,8 @@ class Metafiles(unittest.TestCase):
     @needs_tools("pdftotext", "pdfinfo")
     def test_a_page_has_the_size_and_the_texts_of_its_picture(self) -> None:
         with cad.Image.load(str(VALVE)) as image:
-            self.assertEqual((image.width, image.height, image.unit_type), (210, 148, cad.imageoptions.UnitType.MILLIMETER))
+            self.assertEqual((image.width, image.height, image.unit_type),
+                             (210, 148, cad.imageoptions.UnitType.MILLIMETER))
             image.save(str(self.folder / "valve.pdf"), PdfOptions())
             options = CgmOptions()
             options.text_as_lines = True
@@ -146,7 +148,8 @@ class Metafiles(unittest.TestCase):
         self.assertEqual([type(c) for c in read], [type(c) for c in CgmFile.load(str(VALVE)).commands])
         self.assertTrue(isinstance(reader.command_factory, READING.ICommandFactory))
         line = bytes.fromhex("4028 0001 0002 0003 0004")
-        with READING.DefaultBinaryReader(io.BytesIO(bytes.fromhex("0022 0174") + line + bytes.fromhex("0040"))) as short:
+        picture = bytes.fromhex("0022 0174") + line + bytes.fromhex("0040")
+        with READING.DefaultBinaryReader(io.BytesIO(picture)) as short:
             self.assertEqual(short.read_command().identifier, "t")
             command = short.read_command()
             self.assertEqual((type(short.read_command()), short.read_command()), (EndMetafile, None))
@@ -155,7 +158,8 @@ class Metafiles(unittest.TestCase):
             kind(stream).write_command(command)
             self.assertEqual(stream.getvalue(), expected)
         begin = DelimiterElements.create_command(DelimiterElement.BEGIN_PICTURE)
-        self.assertEqual((begin.keyword, begin.element_class, begin.element_id), ("BEGPIC", ClassCode.DELIMITER_ELEMENT, 3))
+        self.assertEqual((begin.keyword, begin.element_class, begin.element_id),
+                         ("BEGPIC", ClassCode.DELIMITER_ELEMENT, 3))
 
     def test_damage_is_told_with_its_place_or_left_out(self) -> None:
         damaged = VALVE.read_bytes().replace(b"ELLIPSE (85, 124)", b"ELLIPSE (85, nothing)")
@@ -174,7 +178,8 @@ class Metafiles(unittest.TestCase):
         file = CgmFile()
         line = Polyline()
         line.points = [CgmPoint(40_000.0, 0.0)]
-        file.commands.extend([BeginMetafile("t"), BeginPicture("p"), BeginPictureBody(), line, EndPicture(), EndMetafile()])
+        file.commands.extend([BeginMetafile("t"), BeginPicture("p"), BeginPictureBody(), line, EndPicture(),
+                              EndMetafile()])
         path = self.folder / "wide.cgm"
         with self.assertRaisesRegex(RuntimeError, r"command 3, LINE \(4, 1\): the number 40000 does not fit"):
             file.save(str(path), CgmFileFormat.BINARY)

@@ -160,7 +160,8 @@ class Pages(Outputs):
             self.assert_looks_as_pixels(drawing, self.rendered(str(svg)), 0.93)
 
     def test_drawings_look_the_same_behind_a_graphics_metafile(self) -> None:
-        real = ("ezdxf__3_us_main", "ezdxf__ASCII_R12", "ezdxf__mtext_complex_inline_codes", "ezdxf__uncommon", "lwg__example_2018")
+        real = ("ezdxf__3_us_main", "ezdxf__ASCII_R12", "ezdxf__mtext_complex_inline_codes", "ezdxf__uncommon",
+                "lwg__example_2018")
         sources = [EXAMPLES / "floor_plan.dxf", EXAMPLES / "bearing_flange.dxf"]
         sources += [path for name in real if (path := SHARED / "dxf" / f"{name}.dxf").exists()]
         for source, encoding in zip(sources, [*CgmFileFormat] * len(sources)):
@@ -182,7 +183,8 @@ class Pages(Outputs):
         for as_shapes in (True, False):
             options = on_page(SvgOptions())
             options.text_as_shapes = as_shapes
-            self.assertGreater(likeness(expected, tones(self.rendered(self.write("valve.svg", options, valve)).read_bytes())), 0.97)
+            actual = tones(self.rendered(self.write("valve.svg", options, valve)).read_bytes())
+            self.assertGreater(likeness(expected, actual), 0.97)
         pdf = self.write("valve.pdf", on_page(PdfOptions()), valve)
         tool("pdftoppm", "-r", "72", "-png", "-singlefile", pdf, str(picture))
         self.assertGreater(likeness(expected, tones(picture.with_suffix(".png").read_bytes())), 0.97)
@@ -213,11 +215,13 @@ class Pages(Outputs):
     @needs_tools("openssl", "pdfsig")
     def test_a_portable_document_is_signed_with_a_certificate(self) -> None:
         key, cert, pfx = (str(self.folder / name) for name in ("key.pem", "cert.pem", "office.pfx"))
-        tool("openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "9", "-subj", "/CN=Office", "-keyout", key, "-out", cert)
+        tool("openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "9", "-subj", "/CN=Office", "-keyout",
+             key, "-out", cert)
         tool("openssl", "pkcs12", "-export", "-inkey", key, "-in", cert, "-passout", "pass:open", "-out", pfx)
         options = PdfOptions()
         options.core_pdf_options = PdfDocumentOptions()
-        for details in (PdfDigitalSignatureDetailsCore(pfx, "open"), PdfDigitalSignatureDetailsCore(Path(pfx).read_bytes(), "open")):
+        for details in (PdfDigitalSignatureDetailsCore(pfx, "open"),
+                        PdfDigitalSignatureDetailsCore(Path(pfx).read_bytes(), "open")):
             options.core_pdf_options.digital_signature_details = details
             report = tool("pdfsig", "-nocert", self.write("page.pdf", options))
             self.assertIn("Signature is Valid", report)
@@ -230,7 +234,7 @@ class Pages(Outputs):
             options.rd_opt_settings = RdOptimizerSettings()
             options.rd_opt_settings.bpp_max = most
             sizes.append(Path(self.write("page.jpg", options)).stat().st_size)
-            self.assertLessEqual(sizes[-1] * 8, most * SIZE[0] * SIZE[1] + 8 * 1000)  # heads are beside the pixels
+            self.assertLessEqual(sizes[-1] * 8, most * SIZE[0] * SIZE[1] + 8 * 1000)  # headers are beside the pixels
         self.assertEqual(sizes, sorted(set(sizes)))
         options.rd_opt_settings.bpp_max = 0.01
         with self.assertRaisesRegex(RuntimeError, "At min_quality, 10, the image takes"):
@@ -310,7 +314,8 @@ class Fonts(Outputs):
         path = self.folder / "page.svg"
         image.save(str(path), options)
         tool("xmllint", "--noout", str(path))
-        carried = re.search(r"@font-face\{font-family:'Arial';src:url\('data:font/ttf;base64,([^']+)'", path.read_text("utf-8"))
+        carried = re.search(r"@font-face\{font-family:'Arial';src:url\('data:font/ttf;base64,([^']+)'",
+                            path.read_text("utf-8"))
         self.assertTrue(base64.b64decode(carried[1]).startswith(b"\0\1\0\0"))
         options.store_resources_in(str(self.folder / "res"), "res")
         image.save(str(path), options)

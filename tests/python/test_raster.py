@@ -184,7 +184,8 @@ class Surface(unittest.TestCase):
         expected = (
             (image.width, int), (image.horizontal_resolution, float), (image.has_alpha, bool), (image.page_count, int),
             (image.page_title, str), (image.file_format, cad.FileFormat), (image.bounds, cad.Rectangle),
-            (image.get_pixel(0, 0), cad.Color), (image.get_argb_32_pixel(0, 0), int), (image.raw_data_settings, cad.RawDataSettings),
+            (image.get_pixel(0, 0), cad.Color), (image.get_argb_32_pixel(0, 0), int),
+            (image.raw_data_settings, cad.RawDataSettings),
         )
         for value, kind in expected:
             self.assertIsInstance(value, kind)
@@ -200,17 +201,20 @@ class Surface(unittest.TestCase):
         wrong_types = (
             lambda: image.get_pixel("0", 0), lambda: image.get_pixel(0), lambda: image.get_pixel(0.5, 0),
             lambda: image.set_pixel(0, 0, "red"), lambda: image.rotate_flip("up"),
-            lambda: image.load_raw_data(block, None, 1), lambda: image.resize(5, 5, "lanczos"), lambda: image.filter(3, None),
+            lambda: image.load_raw_data(block, None, 1), lambda: image.resize(5, 5, "lanczos"),
+            lambda: image.filter(3, None),
         )
         for number, call in enumerate(wrong_types):
             with self.subTest(number), self.assertRaises(TypeError):
                 call()
         wrong_values = (
-            (lambda: image.save_argb_32_pixels(block, [0] * 3), "4|2 × 2"), (lambda: image.get_pixel(-1, 0), "does not lie"),
+            (lambda: image.save_argb_32_pixels(block, [0] * 3), "4|2 × 2"),
+            (lambda: image.get_pixel(-1, 0), "does not lie"),
             (lambda: image.resize(0, 5), "no area"), (lambda: image.crop(cad.Rectangle(50, 0, 20, 1)), "does not lie"),
             (lambda: image.get_page(1), "1 pages"), (lambda: image.set_resolution(0.0, 1.0), "ArgumentOutOfRange"),
             (lambda: image.adjust_gamma(-1.0), "above 0"), (lambda: image.filter(cad.ImageFilterType.BOX, 4), "odd"),
-            (lambda: image.save_raw_data(b"123", block, cad.RawDataSettings(cad.PixelDataFormat.rgb_24_bpp, 2)), "need 12"),
+            (lambda: image.save_raw_data(b"123", block, cad.RawDataSettings(cad.PixelDataFormat.rgb_24_bpp, 2)),
+             "need 12"),
             (lambda: image.save_argb_32_pixels(block, ["a"] * 4), "TypeError: integer argument expected"),
             (lambda: image.dither(cad.DitheringMethod.ORDERED, 9), "1 to 8"),
         )
@@ -227,7 +231,8 @@ class Surface(unittest.TestCase):
         self.image.resize(4, 3, cad.ResizeType.NEAREST_NEIGHBOUR)
         self.image.save_argb_32_pixels(self.image.bounds, list(range(12)))
         order = ((kind.ROTATE_90_FLIP_NONE, [8, 4, 0, 9, 5, 1, 10, 6, 2, 11, 7, 3]),
-                 (kind.ROTATE_90_FLIP_NONE, list(range(11, -1, -1))), (kind.ROTATE_NONE_FLIP_X, [8, 9, 10, 11, 4, 5, 6, 7, 0, 1, 2, 3]),
+                 (kind.ROTATE_90_FLIP_NONE, list(range(11, -1, -1))),
+                 (kind.ROTATE_NONE_FLIP_X, [8, 9, 10, 11, 4, 5, 6, 7, 0, 1, 2, 3]),
                  (kind.ROTATE_NONE_FLIP_Y, list(range(12))))
         for turn, expected in order:
             self.image.rotate_flip(turn)
@@ -254,7 +259,8 @@ class Surface(unittest.TestCase):
     def test_pixels_of_a_closed_picture_are_gone(self) -> None:
         with self.image as image:
             image.grayscale()
-        for call in (lambda: image.get_pixel(0, 0), image.grayscale, lambda: image.load_pixels(cad.Rectangle(0, 0, 1, 1))):
+        for call in (lambda: image.get_pixel(0, 0), image.grayscale,
+                     lambda: image.load_pixels(cad.Rectangle(0, 0, 1, 1))):
             with self.assertRaisesRegex(RuntimeError, "ObjectDisposedException"):
                 call()
 
@@ -269,7 +275,8 @@ class Surface(unittest.TestCase):
         back = JpegExifData(bytes(exif.serialize_data()))
         self.assertEqual((back.exposure_time.numerator, back.exposure_time.denominator), (1, 4_000_000_000))
         self.assertAlmostEqual(back.gps_latitude, -90, 6)
-        self.assertEqual((bytes(back.thumbnail_data), back.orientation), (b"\xff\xd8\xff\xd9", ExifOrientation.LEFT_BOTTOM))
+        self.assertEqual((bytes(back.thumbnail_data), back.orientation),
+                         (b"\xff\xd8\xff\xd9", ExifOrientation.LEFT_BOTTOM))
         with self.assertRaisesRegex(RuntimeError, "JpegException"):
             exif.thumbnail_data = b"none"
         with self.assertRaises(TypeError):

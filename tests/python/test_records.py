@@ -48,7 +48,8 @@ DRAWINGS = ("site_plan.dxf", "floor_plan.dxf")
 STOCK = 0x80000000
 
 
-def written(options: ImageOptionsBase, source: str | CadImage = "site_plan.dxf", size: tuple[int, int] = (640, 480)) -> bytes:
+def written(options: ImageOptionsBase, source: str | CadImage = "site_plan.dxf",
+            size: tuple[int, int] = (640, 480)) -> bytes:
     if isinstance(options, (EmfOptions, WmfOptions, CgmOptions, Html5Options)):
         raster = CadRasterizationOptions()
         (raster.page_width, raster.page_height) = map(float, size)
@@ -78,19 +79,20 @@ class EnhancedMetafiles(unittest.TestCase):
             for size in ((640, 480), (50, 900)):
                 data = written(EmfOptions(), drawing, size)
                 found = self.records(data)
-                head = data[: struct.unpack_from("<I", data, 4)[0]]
-                signature, version, total, count, handles, reserved = struct.unpack_from("<IIIIHH", head, 40)
+                header = data[: struct.unpack_from("<I", data, 4)[0]]
+                signature, version, total, count, handles, reserved = struct.unpack_from("<IIIIHH", header, 40)
                 self.assertEqual((found[0][0], signature, version), (self.HEADER, 0x464D4520, 0x10000))
                 self.assertEqual((total, count, reserved), (len(data), len(found), 0))
-                length, offset = struct.unpack_from("<II", head, 60)
-                title = head[offset : offset + 2 * length].decode("utf-16-le")
+                length, offset = struct.unpack_from("<II", header, 60)
+                title = header[offset : offset + 2 * length].decode("utf-16-le")
                 self.assertTrue(title.startswith("korvan.cad\0") and title.endswith("\0\0"), title)
                 self.assertEqual(title.count("\0"), 3)
                 self.assertEqual((found[-1][0], found[-1][1]), (self.EOF, struct.pack("<III", 0, 16, 20)))
                 self.assertEqual([kind for kind, _ in found].count(self.HEADER), 1)
-                _, _, right, bottom = struct.unpack_from("<iiii", head, 24)  # the frame, in 0.01 mm
+                _, _, right, bottom = struct.unpack_from("<iiii", header, 24)  # the frame, in 0.01 mm
                 self.assertAlmostEqual(right / bottom, size[0] / size[1], 2)
-                made = {struct.unpack_from("<I", body)[0] for kind, body in found if kind in (self.BRUSH, self.FONT, self.PEN)}
+                made = {struct.unpack_from("<I", body)[0] for kind, body in found
+                        if kind in (self.BRUSH, self.FONT, self.PEN)}
                 self.assertEqual(made, set(range(1, handles)))
 
     def test_handles_are_made_before_they_are_selected_and_states_are_balanced(self) -> None:
@@ -156,8 +158,8 @@ class Metafiles(unittest.TestCase):
             self.assertEqual(total, checksum)
             self.assertAlmostEqual(right / bottom, 640 / 480, 2)
             self.assertGreater(inch, 0)
-            kind, head, version, words, handles, longest, members = struct.unpack_from("<HHHIHIH", data, 22)
-            self.assertEqual((kind, head, version, members), (1, 9, 0x0300, 0))
+            kind, header, version, words, handles, longest, members = struct.unpack_from("<HHHIHIH", data, 22)
+            self.assertEqual((kind, header, version, members), (1, 9, 0x0300, 0))
             self.assertEqual(words * 2, len(data) - 22)
             self.assertEqual(longest, max(3 + len(body) // 2 for _, body in found))
             self.assertEqual((found[-1], [one for one, _ in found].count(0)), ((0, b""), 1))
@@ -279,7 +281,8 @@ def volume(triangles: list[Triangle]) -> float:
 
 def read_stl(data: bytes) -> list[tuple[tuple[float, ...], Triangle]]:
     if data.startswith(b"solid"):
-        numbers = [tuple(map(float, one.split()[-3:])) for one in data.decode().splitlines() if "normal" in one or "vertex" in one]
+        numbers = [tuple(map(float, one.split()[-3:]))
+                   for one in data.decode().splitlines() if "normal" in one or "vertex" in one]
         return [(numbers[i], tuple(numbers[i + 1 : i + 4])) for i in range(0, len(numbers), 4)]
     (count,) = struct.unpack_from("<I", data, 80)
     if len(data) != 84 + 50 * count:
@@ -300,14 +303,16 @@ class Gltf:
             _, version, total = struct.unpack_from("<4sII", data)
             length, kind = struct.unpack_from("<I4s", data, 12)
             size, other = struct.unpack_from("<I4s", data, 20 + length)
-            if (version, total, kind, other) != (2, len(data), b"JSON", b"BIN\0") or length % 4 or size % 4 or 28 + length + size != total:
+            expected = (2, len(data), b"JSON", b"BIN\0")
+            if ((version, total, kind, other) != expected or length % 4 or size % 4
+                    or 28 + length + size != total):
                 raise AssertionError(f"chunks: {version} {total} {kind!r} {length} {other!r} {size}")
             self.root, self.binary = json.loads(data[20 : 20 + length]), data[28 + length :]
         else:
             self.root = json.loads(data)
-            head, _, content = self.root["buffers"][0]["uri"].partition(",")
-            if not head.startswith("data:application/"):
-                raise AssertionError(head)
+            header, _, content = self.root["buffers"][0]["uri"].partition(",")
+            if not header.startswith("data:application/"):
+                raise AssertionError(header)
             self.binary = base64.b64decode(content)
 
     def values(self, index: int) -> list[tuple[float, ...]]:
@@ -316,9 +321,11 @@ class Gltf:
         code = {5121: "B", 5123: "H", 5125: "I", 5126: "f"}[accessor["componentType"]]
         width = {"SCALAR": 1, "VEC3": 3, "VEC4": 4}[accessor["type"]]
         start, size = view.get("byteOffset", 0) + accessor.get("byteOffset", 0), struct.calcsize(f"<{width}{code}")
-        if start % struct.calcsize(code) or accessor.get("byteOffset", 0) + size * accessor["count"] > view["byteLength"]:
+        end = accessor.get("byteOffset", 0) + size * accessor["count"]
+        if start % struct.calcsize(code) or end > view["byteLength"]:
             raise AssertionError(f"accessor {index} is out of its view or not aligned")
-        found = [struct.unpack_from(f"<{width}{code}", self.binary, start + i * view.get("byteStride", size)) for i in range(accessor["count"])]
+        found = [struct.unpack_from(f"<{width}{code}", self.binary, start + i * view.get("byteStride", size))
+                 for i in range(accessor["count"])]
         for name, choose in (("min", min), ("max", max)):
             if name in accessor and accessor[name] != [choose(one[i] for one in found) for i in range(width)]:
                 raise AssertionError(f"{name} of accessor {index}")
@@ -334,10 +341,12 @@ class Gltf:
             for part in self.root["meshes"][node["mesh"]]["primitives"] if "mesh" in node else ():
                 points = self.values(part["attributes"]["POSITION"])
                 for m in maps:
-                    points = [tuple(m[i] * x + m[4 + i] * y + m[8 + i] * z + m[12 + i] for i in range(3)) for x, y, z in points]
+                    points = [tuple(m[i] * x + m[4 + i] * y + m[8 + i] * z + m[12 + i] for i in range(3))
+                              for x, y, z in points]
                 order = [i for i, in self.values(part["indices"])] if "indices" in part else range(len(points))
                 mirror = math.prod(self.determinant(m) for m in maps) < 0  # then the other side is the front
-                found.extend(tuple(points[i] for i in order[at : at + 3][:: -1 if mirror else 1]) for at in range(0, len(order), 3))
+                found.extend(tuple(points[i] for i in order[at : at + 3][:: -1 if mirror else 1])
+                             for at in range(0, len(order), 3))
             for child in node.get("children", ()):
                 walk(child, maps)
 
@@ -355,7 +364,8 @@ class Meshes(unittest.TestCase):
     def drums() -> dict[str, tuple[CadImage, float]]:
         """Drums, each upright or turned, and their height with sign."""
         made = {}
-        rows = (("up", 3.0, 1.0, 1.0), ("down", -3.0, 1.0, 1.0), ("turned", 3.0, -1.0, 1.0), ("mirrored", 3.0, 1.0, -1.0), ("all", -3.0, -1.0, -1.0))
+        rows = (("up", 3.0, 1.0, 1.0), ("down", -3.0, 1.0, 1.0), ("turned", 3.0, -1.0, 1.0),
+                ("mirrored", 3.0, 1.0, -1.0), ("all", -3.0, -1.0, -1.0))
         for name, height, axis, scale in rows:
             drum = CadCircle()
             (drum.center_point, drum.radius, drum.thickness) = (Cad3DPoint(10.0, 20.0, 5.0), 2.0, height)
@@ -389,7 +399,8 @@ class Meshes(unittest.TestCase):
                 with self.subTest(name, form=form):
                     unit = 1e-9 if form.startswith("gl") else 1.0
                     self.assertAlmostEqual(volume(triangles) / unit / (math.pi * 4 * 3), 1, 1)
-                    edges = Counter((self.place(a, unit), self.place(b, unit)) for one in triangles for a, b in zip(one, one[1:] + one[:1], strict=True))
+                    edges = Counter((self.place(a, unit), self.place(b, unit)) for one in triangles
+                                    for a, b in zip(one, one[1:] + one[:1], strict=True))
                     self.assertTrue(all(edges[(b, a)] == count for (a, b), count in edges.items()), "a gap")
 
     @staticmethod
@@ -472,7 +483,8 @@ class Signatures(unittest.TestCase):
         cls.addClassCleanup(folder.cleanup)
         cls.folder = Path(folder.name)
         key, cert, cls.pfx = (str(cls.folder / name) for name in ("key.pem", "cert.pem", "own.pfx"))
-        tool("openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "9", "-subj", "/CN=Own", "-keyout", key, "-out", cert)
+        tool("openssl", "req", "-x509", "-newkey", "rsa:2048", "-nodes", "-days", "9", "-subj", "/CN=Own", "-keyout",
+             key, "-out", cert)
         tool("openssl", "pkcs12", "-export", "-inkey", key, "-in", cert, "-passout", "pass:open", "-out", cls.pfx)
 
     def signed(self, password: str = "open", pfx: str | bytes | None = None) -> bytes:
@@ -488,7 +500,8 @@ class Signatures(unittest.TestCase):
 
     def test_all_but_the_signature_is_signed(self) -> None:
         data = self.signed()
-        start, length, behind, rest = map(int, re.search(rb"/ByteRange\s*\[\s*(\d+)\s+(\d+)\s+(\d+)\s+(\d+)", data).groups())
+        found = re.search(rb"/ByteRange\s*\[\s*(\d+)\s+(\d+)\s+(\d+)\s+(\d+)", data)
+        start, length, behind, rest = map(int, found.groups())
         self.assertEqual((start, behind + rest), (0, len(data)))
         self.assertRegex(data[length:behind], rb"^<[0-9A-Fa-f]+>$")
         self.assertIn("Signature is Valid", self.report(data))

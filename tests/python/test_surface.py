@@ -304,10 +304,11 @@ class Entities(unittest.TestCase):
 def picture(rows: list[str]) -> io.BytesIO:
     """A bitmap of 254 pixels an inch, so that a pixel is 0.1 mm; # is black."""
     stride = (len(rows[0]) * 3 + 3) // 4 * 4
-    lines = [b"".join(b"\0\0\0" if cell == "#" else b"\xff\xff\xff" for cell in row).ljust(stride, b"\0") for row in reversed(rows)]
-    head = struct.pack("<2sIHHIIiiHHIIiiII", b"BM", 54 + stride * len(rows), 0, 0, 54,
-                       40, len(rows[0]), len(rows), 1, 24, 0, stride * len(rows), 10_000, 10_000, 0, 0)
-    return io.BytesIO(head + b"".join(lines))
+    lines = [b"".join(b"\0\0\0" if cell == "#" else b"\xff\xff\xff" for cell in row).ljust(stride, b"\0")
+             for row in reversed(rows)]
+    header = struct.pack("<2sIHHIIiiHHIIiiII", b"BM", 54 + stride * len(rows), 0, 0, 54,
+                         40, len(rows[0]), len(rows), 1, 24, 0, stride * len(rows), 10_000, 10_000, 0, 0)
+    return io.BytesIO(header + b"".join(lines))
 
 
 class Tracing(unittest.TestCase):
@@ -322,7 +323,8 @@ class Tracing(unittest.TestCase):
 
     def test_outlines_run_around_what_is_dark_and_around_its_holes(self) -> None:
         ring = ["........", ".######.", ".#....#.", ".#....#.", ".######.", "......#.", "........"]
-        drawing = self.trace(ring, VectorizationMethod.CONTOUR, contour_options__tolerance=0.0, contour_options__fill=True)
+        drawing = self.trace(ring, VectorizationMethod.CONTOUR, contour_options__tolerance=0.0,
+                             contour_options__fill=True)
         outer, hole, hatch = drawing.entities
         measured = [IMeasurableEntity._cast_to(one).value.get_area() for one in (outer, hole)]
         self.assertAlmostEqual(measured[0], 0.25)  # 24 pixels of the ring and its hole, and the one below
@@ -334,8 +336,9 @@ class Tracing(unittest.TestCase):
 
     def test_specks_are_left_out_and_corners_join(self) -> None:
         steps = ["#....", ".#...", "..#..", "....#"]
-        self.assertEqual(len(self.trace(steps, VectorizationMethod.CONTOUR, contour_options__minimum_area=0).entities), 2)
-        self.assertEqual(len(self.trace(steps, VectorizationMethod.CONTOUR, contour_options__minimum_area=2).entities), 1)
+        for area, count in ((0, 2), (2, 1)):
+            drawing = self.trace(steps, VectorizationMethod.CONTOUR, contour_options__minimum_area=area)
+            self.assertEqual(len(drawing.entities), count)
 
     def test_strokes_become_lines_with_their_weight(self) -> None:
         bar = ["." * 60] * 5 + ["....." + "#" * 50 + "....."] * 5 + ["." * 60] * 5

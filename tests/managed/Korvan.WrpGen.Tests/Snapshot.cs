@@ -21,10 +21,10 @@ internal static class Snapshot
     }
 
     /// <summary>The block that begins with a line, up to the next line that is not indented under it.</summary>
-    public static string Block(string text, string head, string last)
+    public static string Block(string text, string header, string last)
     {
-        int start = text.IndexOf(head, StringComparison.Ordinal);
-        Assert.True(start >= 0, $"'{head}' was not written.");
+        int start = text.IndexOf(header, StringComparison.Ordinal);
+        Assert.True(start >= 0, $"'{header}' was not written.");
         int end = text.IndexOf(last, start, StringComparison.Ordinal);
         return text[start..(end < 0 ? text.Length : end + last.Length)];
     }

@@ -64,11 +64,14 @@ internal struct FillState
 /// <summary>Attributes that a picture saves and restores by name (ISO/IEC 8632-1, 7.4.11).</summary>
 internal sealed class PaintState
 {
-    internal LineState Line;
-    internal LineState Edge;
-    internal MarkerState Marker;
-    internal TextState Text;
-    internal FillState Fill;
+    /// <summary>The bundle index by default, in each of the tables (ISO/IEC 8632-1).</summary>
+    private const int FirstBundle = 1;
+
+    internal LineState Line = new() { Bundle = FirstBundle };
+    internal LineState Edge = new() { Bundle = FirstBundle };
+    internal MarkerState Marker = new() { Bundle = FirstBundle };
+    internal TextState Text = new() { Bundle = FirstBundle };
+    internal FillState Fill = new() { Bundle = FirstBundle };
     internal bool EdgeIsVisible;
     internal double MitreLimit = 32767;
     internal CgmColor? Auxiliary;

@@ -44,27 +44,40 @@ internal sealed partial class SceneBuilder
             return;
         }
 
-        var path = new PathPen(_canvas.NewPath(), map, polyline.Elevation);
+        var lower = new PathPen(_canvas.NewPath(), map, polyline.Elevation);
+        var upper = new PathPen(_canvas.Path, map, polyline.Elevation + polyline.Thickness);
         if (_current.Pen.Pattern != null && !polyline.HasContinuousPattern)
         {
-            DrawSegments(vertices, path, closed);
+            DrawSegments(vertices, lower, closed);
+            if (polyline.Thickness != 0)
+            {
+                DrawSegments(vertices, upper, closed);
+                _canvas.NewPath();
+                AddSides(polyline, vertices, map);
+                _canvas.Stroke(_current.Pen);
+            }
+
             return;
         }
 
-        AddVertices(path, vertices, closed);
+        AddVertices(lower, vertices, closed);
         if (polyline.Thickness != 0)
         {
-            double top = polyline.Elevation + polyline.Thickness;
-            AddVertices(new PathPen(_canvas.Path, map, top), vertices, closed);
-            var edges = new PathPen(_canvas.Path, map);
-            foreach (PolyVertex v in vertices)
-            {
-                edges.MoveTo(new Vec3(v.Point.X, v.Point.Y, polyline.Elevation));
-                edges.LineTo(new Vec3(v.Point.X, v.Point.Y, top));
-            }
+            AddVertices(upper, vertices, closed);
+            AddSides(polyline, vertices, map);
         }
 
         _canvas.Stroke(_current.Pen);
+    }
+
+    private void AddSides(in PlanarPolyline polyline, ReadOnlySpan<PolyVertex> vertices, in Affine3 map)
+    {
+        var path = new PathPen(_canvas.Path, map);
+        foreach (PolyVertex v in vertices)
+        {
+            path.MoveTo(new Vec3(v.Point.X, v.Point.Y, polyline.Elevation));
+            path.LineTo(new Vec3(v.Point.X, v.Point.Y, polyline.Elevation + polyline.Thickness));
+        }
     }
 
     private void DrawWide(ReadOnlySpan<PolyVertex> all, in Affine3 map, double elevation, bool closed)

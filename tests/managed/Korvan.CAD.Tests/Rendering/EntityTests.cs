@@ -10,8 +10,8 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
-using Korvan.CAD.Rendering.Text;
 using Xunit;
+using static Korvan.CAD.Tests.Rendering.SceneList;
 
 namespace Korvan.CAD.Tests.Rendering;
 
@@ -287,79 +287,5 @@ public class EntityTests
             .Drawing(new CadLine { SecondPoint = P(1, 0, 0), ColorId = 1, ColorValue = 0x123456 });
         Assert.Equal(new Rgba(0x12, 0x34, 0x56), Build(drawing).Items[0].Color);
         Assert.Equal(new Rgba(0, 255, 255), AciPalette.Color(4, Rgba.White));
-    }
-
-    private static Cad3DPoint P(double x, double y, double z) => new(x, y, z);
-
-    private static DrawingList Build(params CadEntityBase[] entities) => Build(Picture.Drawing(entities));
-
-    private static DrawingList Build(CadImage drawing)
-    {
-        using var engine = new TextEngine();
-        DrawingScene scene = SceneReader.Read(drawing.Drawing);
-        return scene.Build(scene.Choose([])[0], new RenderStyle(), engine);
-    }
-
-    private static List<DisplayKind> Kinds(DrawingList list)
-    {
-        var kinds = new List<DisplayKind>();
-        foreach (ref readonly DisplayItem item in list.Items)
-        {
-            kinds.Add(item.Kind);
-        }
-
-        return kinds;
-    }
-
-    private static void AssertBox(DrawingList list, double left, double bottom, double right, double top,
-        double tolerance = 1e-3)
-    {
-        Assert.Equal(left, list.Bounds.MinX, tolerance);
-        Assert.Equal(bottom, list.Bounds.MinY, tolerance);
-        Assert.Equal(right, list.Bounds.MaxX, tolerance);
-        Assert.Equal(top, list.Bounds.MaxY, tolerance);
-    }
-
-    /// <summary>The length of all strokes of a list.</summary>
-    private static double Length(DrawingList list)
-    {
-        double sum = 0;
-        foreach (ref readonly DisplayItem item in list.Items)
-        {
-            if (item.Kind != DisplayKind.Stroke)
-            {
-                continue;
-            }
-
-            var path = new PathBuffer();
-            ReadOnlySpan<double> c = list.CoordsOf(item);
-            int at = 0;
-            foreach (PathVerb verb in list.VerbsOf(item))
-            {
-                switch (verb)
-                {
-                    case PathVerb.Move:
-                        path.MoveTo(new Vec2(c[at], c[at + 1]));
-                        at += 2;
-                        break;
-                    case PathVerb.Line:
-                        path.LineTo(new Vec2(c[at], c[at + 1]));
-                        at += 2;
-                        break;
-                    case PathVerb.Curve:
-                        path.CurveTo(new Vec2(c[at], c[at + 1]), new Vec2(c[at + 2], c[at + 3]),
-                            new Vec2(c[at + 4], c[at + 5]));
-                        at += 6;
-                        break;
-                    default:
-                        path.Close();
-                        break;
-                }
-            }
-
-            sum += PathMeasure.Length(path);
-        }
-
-        return sum;
     }
 }

@@ -4,7 +4,6 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.Rendering.Scene;
-using Korvan.CAD.Rendering.Text;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
@@ -93,8 +92,6 @@ public class InheritanceTests
         Picture.AddBlock(drawing, "INNER", line);
         Picture.AddBlock(drawing, "OUTER", first);
         drawing.AddEntity(second);
-        using var engine = new TextEngine();
-        DrawingScene scene = SceneReader.Read(drawing.Drawing);
-        return scene.Build(scene.Choose([])[0], new RenderStyle { AsPlotted = true }, engine);
+        return SceneList.Build(drawing, new RenderStyle { AsPlotted = true });
     }
 }

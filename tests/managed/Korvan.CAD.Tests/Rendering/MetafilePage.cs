@@ -41,12 +41,12 @@ internal sealed class MetafilePage : IDisposable
 
     internal static CgmImage Image(params Command[] body) => Image([], [], body);
 
-    /// <summary>A metafile of one picture, with further elements of its head, of the picture's head and of its
+    /// <summary>A metafile of one picture, with further descriptors of it and of the picture, and elements of its
     /// body.</summary>
-    internal static CgmImage Image(Command[] head, Command[] picture, Command[] body)
+    internal static CgmImage Image(Command[] descriptors, Command[] picture, Command[] body)
     {
         var file = new CgmFile();
-        file.Commands.AddRange([new BeginMetafile("test"), new VdcType { Value = VdcType.Type.Real }, .. head]);
+        file.Commands.AddRange([new BeginMetafile("test"), new VdcType { Value = VdcType.Type.Real }, .. descriptors]);
         file.Commands.AddRange(Picture("one", picture, body));
         file.Commands.Add(new EndMetafile());
         return new CgmImage(file);
@@ -98,7 +98,7 @@ internal sealed class MetafilePage : IDisposable
         [new EdgeVisibility { IsVisible = true }, new EdgeColour { Color = C(color) }, new EdgeWidth { Width = width }];
 
     /// <summary>The box around all pixels that are not white, its upper bounds not included.</summary>
-    internal (int X0, int Y0, int X1, int Y1) Ink()
+    internal (int X0, int Y0, int X1, int Y1) Foreground()
     {
         (int x0, int y0, int x1, int y1) = (int.MaxValue, int.MaxValue, 0, 0);
         for (int y = 0; y < _page.Height; y++)

@@ -45,7 +45,7 @@ public class MetafileTests
             CgmImage image = Image([], [metric, new LineWidthSpecificationMode { Value = mode }],
                 [.. Pen(Red, width), Line(0, 50, 100, 50)]);
             using MetafilePage page = Of(image);
-            (int _, int y0, int _, int y1) = page.Ink();
+            (int _, int y0, int _, int y1) = page.Foreground();
             Assert.Equal(pixels, y1 - y0);
         }
     }

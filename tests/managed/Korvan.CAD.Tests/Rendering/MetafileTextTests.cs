@@ -9,10 +9,10 @@ using Vertical = Korvan.CAD.FileFormats.Cgm.Commands.TextAlignment.VerticalAlign
 
 namespace Korvan.CAD.Tests.Rendering;
 
-/// <summary>Texts of capital letters, whose ink is a box from the base line to the height of capitals.</summary>
+/// <summary>Texts of capital letters, whose foreground is a box from the base line to the height of capitals.</summary>
 public class MetafileTextTests
 {
-    /// <summary>Pixels that the ink may be off: side bearings of letters and grey edges.</summary>
+    /// <summary>Pixels that the foreground may be off: side bearings of glyphs and grey edges.</summary>
     private const int Off = 3;
 
     [Theory]
@@ -137,7 +137,7 @@ public class MetafileTextTests
     private static (int X0, int Y0, int X1, int Y1) InkOf(params Command[] body)
     {
         using MetafilePage page = Of([new TextColour { Color = C(CAD.DisplayList.Rgba.Black) }, .. body]);
-        return page.Ink();
+        return page.Foreground();
     }
 
     private static void Near((int X0, int Y0, int X1, int Y1) expected, (int X0, int Y0, int X1, int Y1) actual)
@@ -145,6 +145,6 @@ public class MetafileTextTests
         int worst = int.Max(
             int.Max(int.Abs(expected.X0 - actual.X0), int.Abs(expected.Y0 - actual.Y0)),
             int.Max(int.Abs(expected.X1 - actual.X1), int.Abs(expected.Y1 - actual.Y1)));
-        Assert.True(worst <= Off, $"ink at {actual}, expected at {expected}");
+        Assert.True(worst <= Off, $"foreground at {actual}, expected at {expected}");
     }
 }

@@ -48,11 +48,11 @@ public class PageTests
         change(raster);
         using RasterPage page = Render(Picture.Drawing(Picture.Square(5, 5, 10, 1)), raster);
         List<(int X,
-            int Y)> ink = [.. Enumerable.Range(0, page.Width * page.Height).Select(i =>
+            int Y)> drawn = [.. Enumerable.Range(0, page.Width * page.Height).Select(i =>
                 (X: i % page.Width, Y: i / page.Width)).Where(place => At(page, place.X, place.Y) == Red)];
-        Assert.NotEmpty(ink);
-        double[] found = [ink.Min(place => place.X), ink.Min(place => place.Y), ink.Max(place => place.X)
-            + 1 - ink.Min(place => place.X), ink.Max(place => place.Y) + 1 - ink.Min(place => place.Y)];
+        Assert.NotEmpty(drawn);
+        double[] found = [drawn.Min(place => place.X), drawn.Min(place => place.Y), drawn.Max(place => place.X)
+            + 1 - drawn.Min(place => place.X), drawn.Max(place => place.Y) + 1 - drawn.Min(place => place.Y)];
         Assert.True(box.Zip(found).All(pair => Math.Abs(pair.First - pair.Second) <= 1),
             $"{why}: {string.Join(", ", found)} instead of {string.Join(", ", box)}");
     }
@@ -95,8 +95,8 @@ public class PageTests
         hatch.PatternDefinitions
             .Add(new CadHatchPatternData { LineAngle = 45, LineOffset = new(-7.0710678, 7.0710678) });
         using Picture picture = Picture.Of(Picture.Drawing(hatch), o => o.VisibilityMode = VisibilityMode.AsPrint);
-        double ink = Enumerable.Range(0, 100 * 100).Sum(i => 1 - (picture[i % 100, i / 100].G / 255.0));
-        Assert.InRange(ink / (80 * 80), 0.17, 0.24); // lines of two, ten apart
+        double coverage = Enumerable.Range(0, 100 * 100).Sum(i => 1 - (picture[i % 100, i / 100].G / 255.0));
+        Assert.InRange(coverage / (80 * 80), 0.17, 0.24); // lines of two, ten apart
     }
 
     [Theory]
@@ -116,12 +116,12 @@ public class PageTests
         };
         using Picture picture = Picture.Of(Picture.Drawing(text));
         List<(int X,
-            int Y)> ink = [.. Enumerable.Range(0, 100 * 100).Select(i => (X: i % 100, Y: i / 100)).Where(place =>
+            int Y)> drawn = [.. Enumerable.Range(0, 100 * 100).Select(i => (X: i % 100, Y: i / 100)).Where(place =>
                 picture[place.X, place.Y].G < 128)];
-        double width = ink.Max(place => place.X) + 1 - ink.Min(place => place.X);
-        Assert.Equal(9 + 15, ink.Max(place => place.Y) + 1 - ink.Min(place => place.Y), 1.5); // lines are 5/3 apart
-        Assert.Equal(50 + (left * width), ink.Min(place => place.X), 3.0);
-        Assert.Equal(50 + (bottom * 24), ink.Min(place => place.Y), 3.0);
+        double width = drawn.Max(place => place.X) + 1 - drawn.Min(place => place.X);
+        Assert.Equal(9 + 15, drawn.Max(place => place.Y) + 1 - drawn.Min(place => place.Y), 1.5); // lines are 5/3 apart
+        Assert.Equal(50 + (left * width), drawn.Min(place => place.X), 3.0);
+        Assert.Equal(50 + (bottom * 24), drawn.Min(place => place.Y), 3.0);
     }
 
     [Fact]

@@ -13,12 +13,12 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
 
-/// <summary>Ink at places computed by hand, on a page of one pixel to a unit.</summary>
+/// <summary>Foreground at places computed by hand, on a page of one pixel to a unit.</summary>
 public class PixelTests
 {
     private static readonly Rgba Red = new(255, 0, 0, 255);
 
-    /// <summary>What is drawn thick in red, and where there is ink and where there is none.</summary>
+    /// <summary>What is drawn thick in red, and where there is foreground and where there is none.</summary>
     public static readonly TheoryData<string, CadEntityBase, int[], int[]> Strokes = new()
     {
         { "a line", new CadLine { FirstPoint = P(10, 10), SecondPoint = P(90, 90) }, [50, 50, 20, 20],
@@ -46,19 +46,19 @@ public class PixelTests
 
     [Theory]
     [MemberData(nameof(Strokes))]
-    public void Strokes_lie_where_geometry_puts_them(string why, CadEntityBase entity, int[] ink, int[] none)
+    public void Strokes_lie_where_geometry_puts_them(string why, CadEntityBase entity, int[] drawn, int[] blank)
     {
         (entity.ColorId, entity.LineWeight) = (1, 100); // almost four pixels
         using Picture picture = Picture.Of(Picture.Drawing(entity), o => o.VisibilityMode = VisibilityMode.AsPrint);
-        foreach (int[] place in ink.Chunk(2))
+        foreach (int[] place in drawn.Chunk(2))
         {
             Assert.True(picture[place[0], place[1]] == Red,
-                $"{why}: no ink at {place[0]}, {place[1]} but {picture[place[0], place[1]]}");
+                $"{why}: no foreground at {place[0]}, {place[1]} but {picture[place[0], place[1]]}");
         }
 
-        foreach (int[] place in none.Chunk(2))
+        foreach (int[] place in blank.Chunk(2))
         {
-            Assert.True(picture[place[0], place[1]] == Rgba.White, $"{why}: ink at {place[0]}, {place[1]}");
+            Assert.True(picture[place[0], place[1]] == Rgba.White, $"{why}: foreground at {place[0]}, {place[1]}");
         }
     }
 
@@ -75,12 +75,12 @@ public class PixelTests
             .Drawing(new CadLine { FirstPoint = P(10, 50), SecondPoint = P(90, 50), LineWeight = own, ColorId = 1 });
         drawing.Layers["0"].LineWeight = layer;
         using Picture picture = Picture.Of(drawing, o => o.VisibilityMode = mode);
-        double ink = Enumerable.Range(30, 40).Sum(y => 1 - (picture[50, y].G / 255.0));
-        Assert.InRange(ink, pixels - 0.6, pixels + 0.6);
+        double coverage = Enumerable.Range(30, 40).Sum(y => 1 - (picture[50, y].G / 255.0));
+        Assert.InRange(coverage, pixels - 0.6, pixels + 0.6);
     }
 
     [Theory]
-    [InlineData(10, 1, 5)] // 10 on and 10 off over 90: ink at both ends
+    [InlineData(10, 1, 5)] // 10 on and 10 off over 90: dashes at both ends
     [InlineData(5, 1, 10)]
     [InlineData(5, 2, 5)]
     public void Dashes_are_as_many_as_fit(double dash, double scale, int dashes)
@@ -159,7 +159,7 @@ public class PixelTests
         CadHatch hatch = Hatch(Box(20, 60), Box(30, 40), Box(40, 20));
         (hatch.HatchStyle, hatch.ColorId) = (style, 1);
         using Picture picture = Picture.Of(Picture.Drawing(hatch));
-        Assert.InRange(Ink(picture), area - 2, area + 2);
+        Assert.InRange(Coverage(picture), area - 2, area + 2);
     }
 
     [Fact]
@@ -180,7 +180,7 @@ public class PixelTests
         hatch.ColorId = 1;
         using Picture picture = Picture.Of(Picture.Drawing(hatch));
         double area = Math.PI * ((30 * 30) - (20 * 10));
-        Assert.InRange(Ink(picture), area * 0.995, area * 1.005);
+        Assert.InRange(Coverage(picture), area * 0.995, area * 1.005);
     }
 
     [Fact]
@@ -242,7 +242,7 @@ public class PixelTests
         int[] different = [.. Enumerable.Range(0, 100 * 100).Where(i =>
             Math.Abs(mirrored[i % 100, i / 100].G - expected[99 - (i % 100), i / 100].G) > 60)];
         Assert.True(different.Length < 20, $"{different.Length} pixels differ");
-        Assert.True(Ink(expected) > 100);
+        Assert.True(Coverage(expected) > 100);
     }
 
     [Fact]
@@ -302,7 +302,7 @@ public class PixelTests
         return hatch;
     }
 
-    private static double Ink(Picture picture) =>
+    private static double Coverage(Picture picture) =>
         Enumerable.Range(0, 100 * 100).Sum(i => 1 - (picture[i % 100, i / 100].G / 255.0));
 
     private static (int MinX, int MinY, int MaxX, int MaxY) InkBox(Picture picture)

@@ -193,7 +193,7 @@ public class SceneTests
                     VisibilityMode.AsPrint));
         Assert.Equal(Red, picture[10, 50]);
         Assert.Equal(Rgba.White, picture[20, 50]);
-        Assert.Equal(Red, picture[90, 50]); // begins and ends with ink
+        Assert.Equal(Red, picture[90, 50]); // begins and ends with a dash
     }
 
     [Fact]

@@ -32,8 +32,8 @@ public partial class EmitterTests
     public void NativeTables(string type)
     {
         string text = ProbeModel.Emit(CppEmitter.Write)["PyM_korvan_probe.cpp"];
-        string head = $"// Korvan.Probe.{type}\n";
-        int start = text.IndexOf(head, System.StringComparison.Ordinal);
+        string header = $"// Korvan.Probe.{type}\n";
+        int start = text.IndexOf(header, System.StringComparison.Ordinal);
         int end = text.IndexOf("\n\n", start, System.StringComparison.Ordinal);
         Snapshot.Matches($"{type}.cpp.txt", text[start..end] + "\n");
     }

@@ -166,11 +166,7 @@ internal sealed class ClearTextWriting(DefaultClearTextWriter writer, CodingStat
     internal override List<Command> Commands(List<Command> value)
     {
         writer.EndElement();
-        foreach (Command command in Needed(value, "a list"))
-        {
-            writer.WriteInner(Needed(command));
-        }
-
+        writer.WriteInner(Needed(value, "a list"));
         writer.BeginElement("ENDMFDEFAULTS");
         return value;
     }

@@ -1,5 +1,6 @@
 using System;
 using System.Buffers;
+using System.Collections.Generic;
 using System.Globalization;
 using System.IO;
 using System.Text;
@@ -149,8 +150,8 @@ public sealed class DefaultClearTextWriter : IClearTextWriter, IParameterCodec
         PutText(inner._text.WrittenSpan, (byte)'"');
     }
 
-    /// <summary>Writes an element between the beginning and the end of another.</summary>
-    internal void WriteInner(Command command)
+    /// <summary>Writes elements between the beginning and the end of another.</summary>
+    internal void WriteInner(List<Command> commands)
     {
         if (_isInner)
         {
@@ -158,7 +159,7 @@ public sealed class DefaultClearTextWriter : IClearTextWriter, IParameterCodec
         }
 
         _isInner = true;
-        Write(command);
+        commands.ForEach(command => Write(ParameterExchange.Needed(command)));
         _isInner = false;
     }
 

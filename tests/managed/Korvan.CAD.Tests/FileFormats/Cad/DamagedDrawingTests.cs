@@ -60,9 +60,9 @@ public class DamagedDrawingTests
     [Fact]
     public void A_binary_drawing_that_is_cut_is_an_error()
     {
-        byte[] head = [.. "AutoCAD Binary DXF\r\n\u001a\0"u8, 0, 0, .. "SECTION\0"u8, 2, 0, .. "ENTITIES\0"u8, 10, 0, 1,
-            2];
-        Assert.Contains("ends within a tag", Assert.Throws<ImageLoadException>(() => DxfText.Load(head)).Message);
+        byte[] header = [.. "AutoCAD Binary DXF\r\n\u001a\0"u8, 0, 0, .. "SECTION\0"u8, 2, 0, .. "ENTITIES\0"u8, 10,
+            0, 1, 2];
+        Assert.Contains("ends within a tag", Assert.Throws<ImageLoadException>(() => DxfText.Load(header)).Message);
     }
 
     [Fact]

@@ -51,9 +51,9 @@ public sealed class SavingTests : IDisposable
     [InlineData("AC1018\0\0\0", FileFormat.CadR2004)]
     [InlineData("0\nSECTIONS\n", FileFormat.Undefined)]
     [InlineData("", FileFormat.Undefined)]
-    public void Other_formats_are_named_and_not_loaded(string head, FileFormat format)
+    public void Other_formats_are_named_and_not_loaded(string header, FileFormat format)
     {
-        using MemoryStream stream = new(Encoding.Latin1.GetBytes("xx" + head)) { Position = 2 };
+        using MemoryStream stream = new(Encoding.Latin1.GetBytes("xx" + header)) { Position = 2 };
         Assert.Equal(format, Image.GetFileFormat(stream));
         Assert.False(Image.CanLoad(stream));
         Assert.Equal(2, stream.Position);

@@ -64,9 +64,9 @@ public class TagSyntaxTests
     [InlineData("DOS437", new byte[] { 0x81 }, "ü")]
     public void Layer_names_are_read_and_written_in_the_code_page(string page, byte[] name, string expected)
     {
-        byte[] head = Encoding.ASCII.GetBytes(DxfText.Header("AC1015", page)
+        byte[] header = Encoding.ASCII.GetBytes(DxfText.Header("AC1015", page)
             + "0\nSECTION\n2\nENTITIES\n0\nPOINT\n8\n");
-        byte[] bytes = [.. head, .. name, .. "\n10\n1\n20\n1\n0\nENDSEC\n0\nEOF\n"u8];
+        byte[] bytes = [.. header, .. name, .. "\n10\n1\n20\n1\n0\nENDSEC\n0\nEOF\n"u8];
         DxfImage image = DxfText.Load(bytes);
         Assert.Equal(expected, image.Entities[0].LayerName);
         using MemoryStream saved = new();
@@ -78,10 +78,10 @@ public class TagSyntaxTests
     public void The_code_page_holds_for_variables_that_stand_before_it()
     {
         // The same bytes stand before and behind the code page: what was read first must not linger.
-        byte[] head = Encoding.Latin1.GetBytes(DxfText.Tags(
+        byte[] header = Encoding.Latin1.GetBytes(DxfText.Tags(
             0, "SECTION", 2, "HEADER", 9, "$ACADVER", 1, "AC1015", 9, "$CLAYER", 8, "\u00C4\u00D6", 9, "$DWGCODEPAGE",
                 3, "ANSI_1251", 0, "ENDSEC"));
-        byte[] bytes = [.. head,
+        byte[] bytes = [.. header,
             .. Encoding.Latin1.GetBytes(DxfText.Entities(0, "POINT", 8, "\u00C4\u00D6") + DxfText.Tags(0, "EOF"))];
         DxfImage image = DxfText.Load(bytes);
         Assert.Equal("ДЦ", image.Entities[0].LayerName);

@@ -14,7 +14,7 @@ namespace Korvan.CAD.Tests.FileFormats.Ifc;
 /// <summary>Models in XML: elements become instances, and what is saved is a file of records.</summary>
 public class XmlTests
 {
-    private const string Head =
+    private const string Header =
         "<?xml version='1.0'?>\n<ex:iso_10303_28 version='2.0' "
         + "xmlns:ex='urn:iso.org:standard:10303:part(28):version(2):xmlschema:common'>\n"
         + "<ex:iso_10303_28_header><ex:name>Zo\u00EB</ex:name></ex:iso_10303_28_header>\n"
@@ -84,18 +84,18 @@ public class XmlTests
     [Fact]
     public void Entities_of_xml_and_absurd_depths_are_refused()
     {
-        string bomb = ("<!DOCTYPE x [<!ENTITY a 'aaaaaaaaaa'>]>" + Head + Tail)
+        string bomb = ("<!DOCTYPE x [<!ENTITY a 'aaaaaaaaaa'>]>" + Header + Tail)
             .Replace("<?xml version='1.0'?>\n", "", StringComparison.Ordinal);
         Assert.Contains("DTD", Refusal(bomb), StringComparison.Ordinal);
         string deep = string.Concat(Enumerable.Repeat("<IfcLocalPlacement><PlacementRelTo>", 5000))
             + string.Concat(Enumerable.Repeat("</PlacementRelTo></IfcLocalPlacement>", 5000));
-        Assert.Contains("nested deeper", Refusal(Head + deep + Tail), StringComparison.Ordinal);
+        Assert.Contains("nested deeper", Refusal(Header + deep + Tail), StringComparison.Ordinal);
     }
 
     private static string Refusal(string text) =>
         Assert.Throws<ImageLoadException>(() => Image.Load(new MemoryStream(Encoding.UTF8.GetBytes(text)))).Message;
 
     private static IfcImage Load(string elements, LoadOptions? options = null) =>
-        (IfcImage)Image.Load(
-            new MemoryStream(Encoding.UTF8.GetBytes(Head + elements + Tail)), "x.ifcxml", options ?? new LoadOptions());
+        (IfcImage)Image.Load(new MemoryStream(Encoding.UTF8.GetBytes(Header + elements + Tail)), "x.ifcxml",
+            options ?? new LoadOptions());
 }

@@ -15,7 +15,7 @@ using Xunit;
 namespace Korvan.CAD.Tests.Rendering;
 
 /// <summary>Pictures of all commands in any order, with values that no writer would choose.</summary>
-public class MetafileChaosTests
+public class MetafileFuzzTests
 {
     private const int Pictures = 40;
     private const int CommandsInAPicture = 60;

@@ -12,7 +12,7 @@ using Xunit;
 namespace Korvan.CAD.Tests.Rendering;
 
 /// <summary>Drawings of all entities, with values that no program would choose.</summary>
-public class EntityChaosTests
+public class EntityFuzzTests
 {
     private const int Drawings = 30;
     private const int EntitiesInADrawing = 40;
