@@ -15,5 +15,11 @@ internal sealed record Page(string Name, double Width, double Height, DrawingLis
 /// <summary>What a document says of itself.</summary>
 internal readonly record struct DocumentInfo(string? Title, string? Author, string? Subject, string? Keywords)
 {
+    /// <summary>Gets when the drawing was made, in universal time.</summary>
+    internal System.DateTime? Created { get; init; }
+
+    /// <summary>Gets when the drawing was last changed, in universal time.</summary>
+    internal System.DateTime? Modified { get; init; }
+
     internal const string Creator = "korvan.cad";
 }

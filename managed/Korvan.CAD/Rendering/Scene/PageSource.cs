@@ -12,7 +12,7 @@ namespace Korvan.CAD.Rendering.Scene;
 internal sealed class PageSource
 {
     /// <summary>The largest side of a page (about 50 m); cairo's coordinates end at eight million units.</summary>
-    private const double LargestPage = 144_000;
+    private const double DefaultLargestPage = 144_000;
     private const double HairlinePixels = 1;
     private const double HairlineMillimetres = 0.13;
     private const double BitmapPerInch = 300;
@@ -36,6 +36,9 @@ internal sealed class PageSource
         _scene = scene;
         _layouts = scene.Choose(_options.Layouts);
     }
+
+    /// <summary>Gets the largest side that a page may have, in units of the device.</summary>
+    internal double LargestPage { get; init; } = DefaultLargestPage;
 
     internal IEnumerable<Page> Pages()
     {
