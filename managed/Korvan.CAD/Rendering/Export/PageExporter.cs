@@ -20,6 +20,7 @@ internal static class PageExporter
         using TextEngine engine = context.NewEngine();
         var pages = new PageSource(scene, context, engine, DeviceKind.Points, PointsPerInch)
         {
+            InParts = true,
             LargestPage = PdfDocument.LargestPage,
         };
         PdfDocument.Write(output, engine, pages.Pages(), new PdfSettings

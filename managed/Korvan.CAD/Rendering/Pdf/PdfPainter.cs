@@ -69,7 +69,17 @@ internal sealed partial class PdfPainter
             PushBox(box);
         }
 
-        PaintList(_page.List, _settings.ToDevice);
+        SetMap(_settings.ToDevice);
+        if (_page.Replay is null)
+        {
+            PaintItems(_page.List);
+        }
+        else
+        {
+            _page.Replay(PaintItems);
+        }
+
+        EndList();
         if (clip is not null)
         {
             PopClip();
@@ -77,15 +87,21 @@ internal sealed partial class PdfPainter
 
         if (_page.Overlay is not null)
         {
-            PaintList(_page.Overlay, Affine2.Identity);
+            SetMap(Affine2.Identity);
+            PaintItems(_page.Overlay);
+            EndList();
         }
     }
 
-    private void PaintList(DrawingList list, in Affine2 toDevice)
+    private void SetMap(in Affine2 toDevice)
     {
-        _list = list;
         _map = _toPage * toDevice;
         _scale = Math.Sqrt(Math.Abs(_map.Determinant));
+    }
+
+    private void PaintItems(DrawingList list)
+    {
+        _list = list;
         foreach (ref readonly DisplayItem item in list.Items)
         {
             Draw(item);
@@ -100,7 +116,10 @@ internal sealed partial class PdfPainter
                 _document.Checkpoint?.Invoke();
             }
         }
+    }
 
+    private void EndList()
+    {
         SetLayer(-1);
         EndObject();
     }

@@ -18,6 +18,11 @@ internal sealed class PageSource
     private const double BitmapPerInch = 300;
     private const double MaxBitmapPixels = 60_000_000;
 
+    /// <summary>Items up to which a list is kept for a device that could draw it in parts. Past it, making the list twice
+    /// takes less than the memory that it needs.</summary>
+    private const int MaxStored = 65_536;
+    private const int PartSize = 4_096;
+
     private readonly VectorScene _scene;
     private readonly ExportOptions _options;
     private readonly TextEngine _engine;
@@ -36,6 +41,9 @@ internal sealed class PageSource
         _scene = scene;
         _layouts = scene.Choose(_options.Layouts);
     }
+
+    /// <summary>Gets whether the device draws lists in parts.</summary>
+    internal bool InParts { get; init; }
 
     /// <summary>Gets the largest side that a page may have, in units of the device.</summary>
     internal double LargestPage { get; init; } = DefaultLargestPage;
@@ -68,7 +76,8 @@ internal sealed class PageSource
 
     private Page Create(ScenePage layout)
     {
-        DrawingList list = _scene.Build(layout, _options.Style(), _engine);
+        RenderStyle style = _options.Style() with { MaxStored = InParts && !_options.AsBitmap ? MaxStored : null };
+        DrawingList list = _scene.Build(layout, style, _engine);
         PaperSheet? sheet = layout.Sheet;
         if (sheet is PaperSheet paper && (_options.ContentOnly ? !list.Bounds.IsEmpty : _options.WholeLayoutContent))
         {
@@ -90,9 +99,13 @@ internal sealed class PageSource
         return new Page(layout.Name, place.Width, place.Height, list, Settings(place, sheet?.Region))
         {
             Overlay = Watermark(place),
+            Replay = list.IsPartial ? drain => Replay(layout, style, drain) : null,
             Notes = _options.Notes,
         };
     }
+
+    private void Replay(ScenePage layout, RenderStyle style, Action<DrawingList> drain) =>
+        drain(_scene.Build(layout, style with { MaxStored = PartSize, Drain = drain }, _engine));
 
     private void Verify(in PageLayout place)
     {
