@@ -8,7 +8,8 @@ namespace Korvan.CAD.DisplayList;
 internal sealed partial class DrawingList
 {
     private readonly List<PatternArea> _patterns = [];
-    private bool _isMapped;
+    private readonly List<Bounds2> _openClips = [];
+    private bool _isResolving;
 
     /// <summary>Draws one hatched area by strokes and fills.</summary>
     /// <param name="item">The item, with its colour and line weight.</param>
@@ -31,7 +32,7 @@ internal sealed partial class DrawingList
         _patterns.Add(area);
     }
 
-    /// <summary>Replaces the hatched areas by what a painter adds in their places. Colours are mapped already.</summary>
+    /// <summary>Replaces the hatched areas by what a painter adds in their places.</summary>
     internal void ResolvePatterns(PatternPainter painter)
     {
         if (_patterns.Count == 0)
@@ -43,7 +44,10 @@ internal sealed partial class DrawingList
         int count = _itemCount;
         _items = new DisplayItem[count];
         _itemCount = 0;
-        _isMapped = true;
+        _isResolving = true;
+        Bounds2[] clips = [.. _clips];
+        _clips.Clear();
+        _clips.AddRange(_openClips);
         var outline = new PathBuffer();
         for (int i = 0; i < count; i++)
         {
@@ -68,8 +72,18 @@ internal sealed partial class DrawingList
             NewItem(item.Kind, item.Color, item.Layer) = item;
         }
 
-        _isMapped = false;
+        _isResolving = false;
+        _clips.Clear();
+        _clips.AddRange(clips);
         _patterns.Clear();
+    }
+
+    /// <summary>Removes the areas, and notes which clips hold at the start of what is stored next.</summary>
+    private void EmptyPatterns()
+    {
+        _patterns.Clear();
+        _openClips.Clear();
+        _openClips.AddRange(_clips);
     }
 
     private void PathOf(in DisplayItem item, PathBuffer path)
@@ -90,7 +104,8 @@ internal sealed partial class DrawingList
                     at += 2;
                     break;
                 case PathVerb.Curve:
-                    path.CurveTo(new Vec2(c[at], c[at + 1]), new Vec2(c[at + 2], c[at + 3]), new Vec2(c[at + 4], c[at + 5]));
+                    path.CurveTo(new Vec2(c[at], c[at + 1]), new Vec2(c[at + 2], c[at + 3]),
+                        new Vec2(c[at + 4], c[at + 5]));
                     at += 6;
                     break;
                 default:

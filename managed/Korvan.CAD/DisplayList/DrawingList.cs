@@ -18,6 +18,9 @@ internal sealed partial class DrawingList
     /// <summary>How the kinds of skipped things end that lack a file.</summary>
     internal const string MissingFile = " whose file is not there";
 
+    /// <summary>Coordinates that count as an item where the number of stored items is limited.</summary>
+    private const int CoordsPerItem = 16;
+
     private readonly List<TextRun> _texts = [];
     private readonly List<Gradient> _gradients = [];
     private readonly List<PlacedImage> _images = [];
@@ -38,6 +41,16 @@ internal sealed partial class DrawingList
 
     /// <summary>What becomes of every colour that is drawn with; null to keep them.</summary>
     internal Func<Rgba, Rgba>? ColorMap { get; init; }
+
+    /// <summary>Gets the most that is stored at once; nothing for all.</summary>
+    internal int? MaxStored { get; init; }
+
+    /// <summary>Gets what receives the stored items each time that the most is stored, before they are removed; null to
+    /// remove them all, so that nothing but extents and counts is known.</summary>
+    internal Action<DrawingList>? Drain { get; init; }
+
+    /// <summary>Gets whether items were removed.</summary>
+    internal bool IsPartial { get; private set; }
 
     internal ReadOnlySpan<DisplayItem> Items => _items.AsSpan(0, _itemCount);
 
@@ -184,16 +197,16 @@ internal sealed partial class DrawingList
     internal void PushClip(PathBuffer path, bool evenOdd)
     {
         Bounds2 region = _clips.Count > 0 ? path.Bounds.Clip(_clips[^1]) : path.Bounds;
-        _clips.Add(region);
         ref DisplayItem item = ref NewItem(DisplayKind.PushClip, default, -1);
         item.EvenOdd = evenOdd;
         Store(path, ref item);
+        _clips.Add(region);
     }
 
     internal void PopClip()
     {
-        _clips.RemoveAt(_clips.Count - 1);
         NewItem(DisplayKind.PopClip, default, -1);
+        _clips.RemoveAt(_clips.Count - 1);
     }
 
     private bool AddPath(PathBuffer path, DisplayKind kind, Rgba color, int layer, out int index)
@@ -222,8 +235,27 @@ internal sealed partial class DrawingList
         return true;
     }
 
+    /// <summary>Hands on what is stored, and removes it. Tables that items refer to by index stay.</summary>
+    private void Empty()
+    {
+        Drain?.Invoke(this);
+        IsPartial = true;
+        _itemCount = 0;
+        _verbCount = 0;
+        _coordCount = 0;
+        _texts.Clear();
+        _gradients.Clear();
+        _images.Clear();
+        EmptyPatterns();
+    }
+
     private ref DisplayItem NewItem(DisplayKind kind, Rgba color, int layer)
     {
+        if (!_isResolving && (_itemCount >= MaxStored || _coordCount / CoordsPerItem >= MaxStored))
+        {
+            Empty();
+        }
+
         if (_itemCount == _items.Length)
         {
             Array.Resize(ref _items, _itemCount * 2);
@@ -233,7 +265,7 @@ internal sealed partial class DrawingList
         item = new DisplayItem
         {
             Kind = kind,
-            Color = _isMapped ? color : ColorMap?.Invoke(color) ?? color,
+            Color = _isResolving ? color : ColorMap?.Invoke(color) ?? color,
             Layer = layer,
             Dash = -1,
             Extra = -1

@@ -1,7 +1,5 @@
 using System;
 using System.IO;
-using Korvan.CAD.Binding;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Pdf;
@@ -19,25 +17,19 @@ internal static class PageExporter
     /// <summary>Writes all pages that the options ask for.</summary>
     internal static void WritePdf(VectorScene scene, PdfOptions options, ExportContext context, Stream output)
     {
-        if (options.CorePdfOptions is { Compliance: not PdfCompliance.Pdf15 } document)
-        {
-            throw new RenderException(
-                $"Pages are written as PDF 1.5, not as {Verify.NameOf(document.Compliance)}; leave compliance at "
-                    + $"PDF15.");
-        }
-
         using TextEngine engine = context.NewEngine();
-        var pages = new PageSource(scene, context, engine, DeviceKind.Points, PointsPerInch);
-        DocumentInfo info = DocumentInfoReader.Read(options);
-        if (options.CorePdfOptions?.DigitalSignatureDetails is not { } signature)
+        var pages = new PageSource(scene, context, engine, DeviceKind.Points, PointsPerInch)
         {
-            VectorDocument.WritePdf(output, engine, pages.Pages(), info);
-            return;
-        }
-
-        using var unsigned = new MemoryStream();
-        VectorDocument.WritePdf(unsigned, engine, pages.Pages(), info);
-        PdfSigner.Write(unsigned.ToArray(), signature, output);
+            InParts = true,
+            LargestPage = PdfDocument.LargestPage,
+        };
+        PdfDocument.Write(output, engine, pages.Pages(), new PdfSettings
+        {
+            Info = DocumentInfoReader.Read(options) with { Created = scene.Created, Modified = scene.Modified },
+            Compliance = options.CorePdfOptions?.Compliance ?? PdfCompliance.Pdf15,
+            Signature = options.CorePdfOptions?.DigitalSignatureDetails,
+            Checkpoint = context.Checkpoint,
+        });
     }
 
     internal static void WriteSvg(VectorScene scene, SvgOptions options, ExportContext context, Stream output)

@@ -7,8 +7,8 @@ using Korvan.CAD.Rendering.Devices;
 namespace Korvan.CAD.Rendering.Hatch;
 
 /// <summary>
-/// Draws hatched areas for the scale of a page. Lines so close that they cover each other are one filled area, dashes so
-/// short that they run together are one line, and only what the page shows is drawn.
+/// Draws hatched areas for the scale of a page. Lines so close that they cover each other are one filled area, dashes
+/// so short that they run together are one line, and only what the page shows is drawn.
 /// </summary>
 internal sealed class PatternDetail
 {

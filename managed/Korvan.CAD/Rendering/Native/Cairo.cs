@@ -17,8 +17,6 @@ internal enum CairoAntialias { Default = 0, None = 1, Gray = 2, Subpixel = 3, Fa
 
 internal enum CairoOperator { Clear = 0, Source = 1, Over = 2 }
 
-internal enum CairoPdfMetadata { Title = 0, Author = 1, Subject = 2, Keywords = 3, Creator = 4 }
-
 [StructLayout(LayoutKind.Sequential)]
 internal struct CairoMatrix
 {
@@ -185,23 +183,6 @@ internal static unsafe partial class Cairo
 
     [LibraryImport(Library, EntryPoint = "cairo_image_surface_get_stride")]
     internal static partial int ImageSurfaceGetStride(nint surface);
-
-    [LibraryImport(Library, EntryPoint = "cairo_pdf_surface_create_for_stream")]
-    internal static partial nint PdfSurfaceCreate(
-        delegate* unmanaged[Cdecl]<nint, byte*, uint, int> write, nint closure, double width, double height);
-
-    [LibraryImport(Library, EntryPoint = "cairo_pdf_surface_restrict_to_version")]
-    internal static partial void PdfSurfaceRestrictToVersion(nint surface, int version);
-
-    [LibraryImport(Library, EntryPoint = "cairo_pdf_surface_set_size")]
-    internal static partial void PdfSurfaceSetSize(nint surface, double width, double height);
-
-    [LibraryImport(Library, EntryPoint = "cairo_pdf_surface_set_metadata", StringMarshalling = StringMarshalling.Utf8)]
-    internal static partial void PdfSurfaceSetMetadata(nint surface, CairoPdfMetadata key, string value);
-
-    [LibraryImport(
-        Library, EntryPoint = "cairo_pdf_surface_set_page_label", StringMarshalling = StringMarshalling.Utf8)]
-    internal static partial void PdfSurfaceSetPageLabel(nint surface, string label);
 
     [LibraryImport(Library, EntryPoint = "cairo_svg_surface_create_for_stream")]
     internal static partial nint SvgSurfaceCreate(

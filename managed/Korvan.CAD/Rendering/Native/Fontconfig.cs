@@ -1,6 +1,7 @@
 using System.Collections.Generic;
 using System.IO;
 using System.Runtime.InteropServices;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Native;
 
@@ -67,6 +68,26 @@ internal static unsafe partial class Fontconfig
 
     [LibraryImport(Library, EntryPoint = "FcFontMatch")]
     private static partial nint FontMatch(nint config, nint pattern, out int result);
+
+    [LibraryImport(Library, EntryPoint = "FcPatternGetBool", StringMarshalling = StringMarshalling.Utf8)]
+    private static partial int PatternGetBool(nint pattern, string name, int n, out int value);
+
+    [LibraryImport(Library, EntryPoint = "FcPatternGetMatrix", StringMarshalling = StringMarshalling.Utf8)]
+    private static partial int PatternGetMatrix(nint pattern, string name, int n, out double* value);
+
+    /// <summary>Whether a font is to be made bolder than its outlines are.</summary>
+    internal static bool IsEmboldened(nint pattern) =>
+        PatternGetBool(pattern, "embolden", 0, out int value) == 0 && value != 0;
+
+    /// <summary>The map that is applied to the glyphs of a font, as to make them oblique.</summary>
+    internal static Affine2 MatrixOf(nint pattern) =>
+        PatternGetMatrix(pattern, "matrix", 0, out double* m) == 0 && m != null
+            ? new Affine2(m[0], m[2], m[1], m[3], 0, 0)
+            : Affine2.Identity;
+
+    /// <summary>The name of a font in PostScript, or that of its family; null where it states none.</summary>
+    internal static string? NameOf(nint pattern) =>
+        GetString(pattern, "postscriptname") ?? GetString(pattern, "family");
 
     /// <summary>Fonts that are known beside each other: those of the system, unless they are left out, and
     /// more.</summary>

@@ -72,9 +72,6 @@ internal static unsafe partial class Pango
     [LibraryImport(Library, EntryPoint = "pango_layout_get_line_readonly")]
     internal static partial nint LayoutGetLine(nint layout, int line);
 
-    [LibraryImport(Library, EntryPoint = "pango_layout_get_unknown_glyphs_count")]
-    internal static partial int LayoutGetUnknownGlyphsCount(nint layout);
-
     [LibraryImport(Library, EntryPoint = "pango_layout_line_get_extents")]
     internal static partial void LayoutLineGetExtents(nint line, PangoRectangle* ink, PangoRectangle* logical);
 
@@ -111,4 +108,13 @@ internal static unsafe partial class Pango
 
     [LibraryImport(Library, EntryPoint = "pango_attr_letter_spacing_new")]
     internal static partial nint AttrLetterSpacingNew(int spacing);
+
+    [LibraryImport(Library, EntryPoint = "pango_font_get_hb_font")]
+    internal static partial nint FontGetHarfBuzz(nint font);
+
+    [LibraryImport(FreeTypeLibrary, EntryPoint = "pango_fc_font_get_pattern")]
+    internal static partial nint FcFontGetPattern(nint font);
+
+    [LibraryImport(ObjectLibrary, EntryPoint = "g_object_ref")]
+    internal static partial nint Reference(nint instance);
 }

@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
@@ -24,6 +25,10 @@ internal sealed class DrawingScene(SceneTables tables, BlockInfo model, IReadOnl
     internal IReadOnlyList<LayoutInfo> Layouts => layouts;
 
     internal override IReadOnlyList<ScenePage> Pages => layouts;
+
+    internal override DateTime? Created => tables.Settings.Created;
+
+    internal override DateTime? Modified => tables.Settings.Modified;
 
     protected override IReadOnlyList<ScenePage> UsualPages => Choose([ModelName]);
 

@@ -13,7 +13,7 @@ namespace Korvan.CAD.Rendering.Scene;
 internal sealed class PageSource
 {
     /// <summary>The largest side of a page (about 50 m); cairo's coordinates end at eight million units.</summary>
-    private const double LargestPage = 144_000;
+    private const double DefaultLargestPage = 144_000;
     private const double HairlinePixels = 1;
     private const double HairlineMillimetres = 0.13;
     private const double BitmapPerInch = 300;
@@ -21,6 +21,11 @@ internal sealed class PageSource
     /// <summary>Half of the widest line that reaches onto a page from outside.</summary>
     private const double BorderMillimetres = 5;
     private const double MaxBitmapPixels = 60_000_000;
+
+    /// <summary>Items up to which a list is kept for a device that could draw it in parts. Past it, making the list twice
+    /// takes less than the memory that it needs.</summary>
+    private const int MaxStored = 65_536;
+    private const int PartSize = 4_096;
 
     private readonly VectorScene _scene;
     private readonly ExportOptions _options;
@@ -40,6 +45,12 @@ internal sealed class PageSource
         _scene = scene;
         _layouts = scene.Choose(_options.Layouts);
     }
+
+    /// <summary>Gets whether the device draws lists in parts.</summary>
+    internal bool InParts { get; init; }
+
+    /// <summary>Gets the largest side that a page may have, in units of the device.</summary>
+    internal double LargestPage { get; init; } = DefaultLargestPage;
 
     internal IEnumerable<Page> Pages()
     {
@@ -69,7 +80,8 @@ internal sealed class PageSource
 
     private Page Create(ScenePage layout)
     {
-        DrawingList list = _scene.Build(layout, _options.Style(), _engine);
+        RenderStyle style = _options.Style() with { MaxStored = InParts && !_options.AsBitmap ? MaxStored : null };
+        DrawingList list = _scene.Build(layout, style, _engine);
         PaperSheet? sheet = layout.SheetFor(list.Bounds);
         if (sheet is PaperSheet paper && (_options.ContentOnly ? !list.Bounds.IsEmpty : _options.WholeLayoutContent))
         {
@@ -89,10 +101,22 @@ internal sealed class PageSource
 
         Verify(place);
         PaintSettings settings = Settings(place, sheet?.Visible);
-        PatternDetail.Resolve(list, settings, Visible(place, settings));
+        Bounds2? visible = Visible(place, settings);
+        if (!list.IsPartial)
+        {
+            PatternDetail.Resolve(list, settings, visible);
+        }
+
+        void Resolved(DrawingList part, Action<DrawingList> drain)
+        {
+            PatternDetail.Resolve(part, settings, visible);
+            drain(part);
+        }
+
         return new Page(layout.Name, place.Width, place.Height, list, settings)
         {
             Overlay = Watermark(place),
+            Replay = list.IsPartial ? drain => Replay(layout, style, part => Resolved(part, drain)) : null,
             Notes = _options.Notes,
         };
     }
@@ -116,6 +140,9 @@ internal sealed class PageSource
 
         return page;
     }
+
+    private void Replay(ScenePage layout, RenderStyle style, Action<DrawingList> drain) =>
+        drain(_scene.Build(layout, style with { MaxStored = PartSize, Drain = drain }, _engine));
 
     private void Verify(in PageLayout place)
     {

@@ -37,4 +37,10 @@ internal sealed record RenderStyle
 
     /// <summary>Called now and then; throws when the time is up.</summary>
     internal Action? Checkpoint { get; init; }
+
+    /// <summary>The most items that a list stores at once; nothing for all.</summary>
+    internal int? MaxStored { get; init; }
+
+    /// <summary>What receives the items of a list that stores a part of them.</summary>
+    internal Action<DrawingList>? Drain { get; init; }
 }

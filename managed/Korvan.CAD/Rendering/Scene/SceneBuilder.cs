@@ -31,7 +31,8 @@ internal sealed partial class SceneBuilder : IGeometrySink
     {
         _tables = tables;
         _style = style;
-        _canvas = new Canvas(new DrawingList { ColorMap = style.ColorMap }, engine)
+        var list = new DrawingList { ColorMap = style.ColorMap, MaxStored = style.MaxStored, Drain = style.Drain };
+        _canvas = new Canvas(list, engine)
         {
             StyleFont = name => tables.Style(name).Font,
         };

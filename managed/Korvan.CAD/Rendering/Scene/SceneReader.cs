@@ -97,7 +97,19 @@ internal static class SceneReader
             ShowLineWeights = header.LwDisplay != 0 || !header.Contains("$LWDISPLAY"),
             TextSize = header.TextSize > 0 ? header.TextSize : 2.5,
             WipeoutFrames = wipeout != null && wipeout.DisplayFrame != 0,
+            Created = Date(header, "$TDUCREATE") ?? Date(header, "$TDCREATE"),
+            Modified = Date(header, "$TDUUPDATE") ?? Date(header, "$TDUPDATE"),
         };
+    }
+
+    /// <summary>A date that is stated in Julian days; null where there is none of these centuries.</summary>
+    private static DateTime? Date(CadHeader header, string variable)
+    {
+        const double yearOne = 1_721_425.5, daysKnown = 3_652_059;
+        double days = header.GetDouble(variable) - yearOne;
+        return days is > 0 and < daysKnown
+            ? new DateTime(1, 1, 1, 0, 0, 0, DateTimeKind.Utc).AddSeconds(Math.Round(days * 86_400))
+            : null;
     }
 
     private static BlockInfo Block(

@@ -86,6 +86,12 @@ internal sealed record SceneSettings
     internal bool ImageFrames { get; init; } = true;
 
     internal bool WipeoutFrames { get; init; }
+
+    /// <summary>When the drawing was made, in universal time.</summary>
+    internal DateTime? Created { get; init; }
+
+    /// <summary>When the drawing was last changed, in universal time.</summary>
+    internal DateTime? Modified { get; init; }
 }
 
 /// <summary>Everything of a drawing that entities refer to by name, ready for lookup.</summary>

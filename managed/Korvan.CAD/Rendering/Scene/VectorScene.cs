@@ -21,6 +21,12 @@ internal abstract class VectorScene
 {
     internal abstract IReadOnlyList<ScenePage> Pages { get; }
 
+    /// <summary>Gets when the image was made, in universal time; null where it does not say.</summary>
+    internal virtual DateTime? Created => null;
+
+    /// <summary>Gets when the image was last changed, in universal time; null where it does not say.</summary>
+    internal virtual DateTime? Modified => null;
+
     /// <summary>The pages that are drawn when none is asked for.</summary>
     protected abstract IReadOnlyList<ScenePage> UsualPages { get; }
 

@@ -22,14 +22,15 @@ internal sealed unsafe class TextEngine : IDisposable
     private const int NormalWeight = 400;
     private const int ItalicStyle = 2;
     private const int HintMetricsOff = 1;
-    private const int MaxCachedAdvances = 50_000;
+    private const int MaxCachedLines = 50_000;
     private const double DefaultCapRatio = 0.7;
 
     private readonly List<NativeHandle> _descriptions = [];
     private readonly List<FontSpec> _specs = [];
     private readonly List<double> _capRatios = [];
     private readonly Dictionary<FontSpec, int> _fonts = [];
-    private readonly Dictionary<(int Font, string Text, double Spacing), double> _advances = [];
+    private readonly Dictionary<(int Font, string Text, double Spacing), ShapedLine> _lines = [];
+    private readonly FontUses _uses = new();
     private readonly FontFolders? _folders;
     private readonly NativeHandle _fontMap;
     private readonly NativeHandle _context;
@@ -89,30 +90,28 @@ internal sealed unsafe class TextEngine : IDisposable
     internal double CapRatio(int font) => _capRatios[font];
 
     /// <summary>How far the pen moves over the text, in ems.</summary>
-    internal double Advance(int font, string text, double letterSpacing = 0)
-    {
-        if (text.Length == 0)
-        {
-            return 0;
-        }
+    internal double Advance(int font, string text, double letterSpacing = 0) =>
+        text.Length == 0 ? 0 : Line(font, text, letterSpacing).Advance;
 
+    /// <summary>The glyphs of a run.</summary>
+    internal ShapedLine Line(in TextRun run) => Line(run.Font, run.Text, run.LetterSpacing);
+
+    private ShapedLine Line(int font, string text, double letterSpacing)
+    {
         var key = (font, text, letterSpacing);
-        if (!_advances.TryGetValue(key, out double advance))
+        if (!_lines.TryGetValue(key, out ShapedLine? line))
         {
-            PangoRectangle logical;
-            nint line = Shape(font, text, letterSpacing);
-            UnknownGlyphs += Pango.LayoutGetUnknownGlyphsCount(_layout.Pointer);
-            Pango.LayoutLineGetExtents(line, null, &logical);
-            advance = logical.Width / (Pango.Scale * EmSize);
-            if (_advances.Count >= MaxCachedAdvances)
+            line = LineReader.Read(Shape(font, text, letterSpacing), text, Pango.Scale * EmSize, _uses);
+            UnknownGlyphs += line.UnknownGlyphs;
+            if (_lines.Count >= MaxCachedLines)
             {
-                _advances.Clear();
+                _lines.Clear();
             }
 
-            _advances.Add(key, advance);
+            _lines.Add(key, line);
         }
 
-        return advance;
+        return line;
     }
 
     /// <summary>Shows a run with its baseline along the x axis of the current matrix, one em to a unit, y
@@ -160,6 +159,7 @@ internal sealed unsafe class TextEngine : IDisposable
         _outliner?.Dispose();
         _descriptions.ForEach(static description => description.Dispose());
         _descriptions.Clear();
+        _uses.Dispose();
         _layout.Dispose();
         _context.Dispose();
         _fontMap.Dispose();

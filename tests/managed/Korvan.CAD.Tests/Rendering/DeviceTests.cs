@@ -8,6 +8,7 @@ using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.Pdf;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 using Xunit;
@@ -230,7 +231,7 @@ public class DeviceTests
         }
 
         var failed = Assert.Throws<IOException>(
-            () => VectorDocument.WritePdf(new FullStream(), engine, [PageOf(list, Rgba.White)], default));
+            () => PdfDocument.Write(new FullStream(), engine, [PageOf(list, Rgba.White)], new PdfSettings()));
         Assert.Contains("disk is full", failed.Message);
     }
 

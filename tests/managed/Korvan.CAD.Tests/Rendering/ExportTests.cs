@@ -160,8 +160,13 @@ public class ExportTests
                 "Model"]
                 }
             }, "one page");
-        Refused(wide, new PdfOptions { CorePdfOptions = new PdfDocumentOptions { Compliance = PdfCompliance.PdfA1b } },
-            "PDF_A1B");
+        CadImage large = Picture.Drawing(Horizontal(20_000));
+        Refused(large,
+            new PdfOptions
+            {
+                CorePdfOptions = new PdfDocumentOptions { Compliance = PdfCompliance.PdfA1b },
+                VectorRasterizationOptions = new CadRasterizationOptions { NoScaling = true },
+            }, "too large for the archive");
         Refused(wide,
             new PngOptions { VectorRasterizationOptions = new CadRasterizationOptions { ShxFonts = ["a.shx"] } },
             "shx_fonts");

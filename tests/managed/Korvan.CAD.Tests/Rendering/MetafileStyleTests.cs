@@ -267,7 +267,7 @@ public class MetafileStyleTests
     {
         using var engine = new TextEngine();
         var scene = new MetafileScene(Image([], picture, body).File);
-        return scene.Build(scene.Pages[0], new RenderStyle(), engine);
+        return SceneList.WithHatchLines(scene.Build(scene.Pages[0], new RenderStyle(), engine));
     }
 
     private static List<(Vec2 A, Vec2 B)> Segments(DrawingList list, DisplayItem item)

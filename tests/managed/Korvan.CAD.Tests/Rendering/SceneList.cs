@@ -4,6 +4,8 @@ using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.Hatch;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 using Xunit;
@@ -21,7 +23,14 @@ internal static class SceneList
     {
         using var engine = new TextEngine();
         DrawingScene scene = SceneReader.Read(drawing.Drawing);
-        return scene.Build(scene.Choose([])[0], style ?? new RenderStyle(), engine);
+        return WithHatchLines(scene.Build(scene.Choose([])[0], style ?? new RenderStyle(), engine));
+    }
+
+    /// <summary>Makes the lines of hatches as for a page with ten thousand of the thinnest lines in a unit.</summary>
+    internal static DrawingList WithHatchLines(DrawingList list)
+    {
+        PatternDetail.Resolve(list, new PaintSettings { ToDevice = Affine2.Identity, UnitsPerMillimetre = 1e-4 }, null);
+        return list;
     }
 
     internal static List<DisplayKind> Kinds(DrawingList list)

@@ -1,0 +1,220 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using System.IO.Compression;
+
+namespace Korvan.CAD.Rendering.Pdf;
+
+/// <summary>
+/// The objects of a PDF file and where they are (ISO 32000-1, 7.5). In the compact form, objects without streams are
+/// collected in object streams, and the table of objects is a stream as well; in the plain form, as PDF 1.4 has it, each
+/// stands for itself.
+/// </summary>
+internal sealed class PdfFile
+{
+    private const int ObjectsPerStream = 200;
+    private const CompressionLevel Level = CompressionLevel.Fastest;
+
+    private readonly PdfOutput _output;
+    private readonly bool _compact;
+    private readonly List<Place> _places = [default];
+    private readonly PdfBuffer _scratch = new();
+    private readonly PdfBuffer _collected = new();
+    private readonly List<(int Number, int Start)> _index = [];
+
+    internal PdfFile(Stream target, bool compact)
+    {
+        _output = new PdfOutput(target);
+        _compact = compact;
+        _output.Write(compact ? "%PDF-1.5\n"u8 : "%PDF-1.4\n"u8);
+        _output.Write([(byte)'%', 0xE2, 0xE3, 0xCF, 0xD3, (byte)'\n']);
+    }
+
+    /// <summary>Returns the number of a new object, which has to be written later.</summary>
+    internal int New()
+    {
+        _places.Add(default);
+        return _places.Count - 1;
+    }
+
+    /// <summary>Writes an object without a stream.</summary>
+    internal void Add(int number, PdfBuffer body)
+    {
+        if (!_compact)
+        {
+            AddPlain(number, body);
+            return;
+        }
+
+        _index.Add((number, _collected.Count));
+        _collected.Raw(body.Bytes).Raw((byte)'\n');
+        if (_index.Count == ObjectsPerStream)
+        {
+            FlushCollected();
+        }
+    }
+
+    /// <summary>Writes an object that stands for itself, and returns where its body begins in the file.</summary>
+    internal long AddPlain(int number, PdfBuffer body)
+    {
+        Begin(number);
+        long start = _output.Position;
+        _output.Write(body.Bytes);
+        _output.Write("\nendobj\n"u8);
+        return start;
+    }
+
+    /// <summary>Writes an object with a stream. The entries are those of its dictionary but length and filter.</summary>
+    internal void AddStream(int number, PdfBuffer entries, ReadOnlySpan<byte> data, bool compress = true)
+    {
+        if (compress)
+        {
+            using var packed = new MemoryStream();
+            using (var zlib = new ZLibStream(packed, CompressionLevel.Optimal, leaveOpen: true))
+            {
+                zlib.Write(data);
+            }
+
+            WriteStream(number, entries, packed.GetBuffer().AsSpan(0, (int)packed.Length), "/Filter/FlateDecode"u8);
+        }
+        else
+        {
+            WriteStream(number, entries, data, default);
+        }
+    }
+
+    /// <summary>Begins an object with a compressed stream of unknown length, which ends when the result is closed.
+    /// </summary>
+    internal PdfStream Open(int number)
+    {
+        int length = New();
+        Begin(number);
+        _output.Write(_scratch.Cleared().Raw("<</Filter/FlateDecode/Length "u8).Ref(length).Raw(">>\nstream\n"u8).Bytes);
+        return new PdfStream(this, _output, length, Level);
+    }
+
+    /// <summary>Writes what ends the file.</summary>
+    internal void Finish(int root, int info)
+    {
+        FlushCollected();
+        byte[] identifier = _output.Identifier();
+        long start = _output.Position;
+        if (_compact)
+        {
+            WriteCrossReferenceStream(root, info, identifier);
+        }
+        else
+        {
+            WriteTable(root, info, identifier);
+        }
+
+        _output.Write(_scratch.Cleared().Raw("startxref\n"u8).Int(start).Raw("\n%%EOF\n"u8).Bytes);
+        _output.Drain();
+    }
+
+    /// <summary>Ends a stream that was opened, and states its length.</summary>
+    internal void Close(int lengthObject, long length)
+    {
+        _output.Write("\nendstream\nendobj\n"u8);
+        AddPlain(lengthObject, _scratch.Cleared().Int(length));
+    }
+
+    private void Begin(int number)
+    {
+        _places[number] = new Place(_output.Position, 0, 0);
+        var header = new PdfBuffer();
+        _output.Write(header.Int(number).Raw(" 0 obj\n"u8).Bytes);
+    }
+
+    private void WriteStream(int number, PdfBuffer entries, ReadOnlySpan<byte> data, ReadOnlySpan<byte> filter)
+    {
+        Begin(number);
+        _output.Write("<<"u8);
+        _output.Write(entries.Bytes);
+        _output.Write(_scratch.Cleared().Raw(filter).Raw("/Length "u8).Int(data.Length).Raw(">>\nstream\n"u8).Bytes);
+        _output.Write(data);
+        _output.Write("\nendstream\nendobj\n"u8);
+    }
+
+    private void FlushCollected()
+    {
+        if (_index.Count == 0)
+        {
+            return;
+        }
+
+        int number = New();
+        var content = new PdfBuffer();
+        for (int i = 0; i < _index.Count; i++)
+        {
+            content.Int(_index[i].Number).Raw((byte)' ').Int(_index[i].Start).Raw((byte)' ');
+            _places[_index[i].Number] = new Place(0, number, i);
+        }
+
+        int first = content.Count;
+        content.Raw(_collected.Bytes);
+        var entries = new PdfBuffer();
+        entries.Raw("/Type/ObjStm/N "u8).Int(_index.Count).Raw("/First "u8).Int(first);
+        _index.Clear();
+        _collected.Clear();
+        AddStream(number, entries, content.Bytes);
+    }
+
+    private void WriteCrossReferenceStream(int root, int info, byte[] identifier)
+    {
+        const int width = 8;
+        int number = New();
+        _places[number] = new Place(_output.Position, 0, 0);
+        var table = new byte[_places.Count * width];
+        for (int i = 0; i < _places.Count; i++)
+        {
+            Place place = _places[i];
+            Span<byte> row = table.AsSpan(i * width, width);
+            row[0] = (byte)(place.Stream > 0 ? 2 : place.Offset > 0 ? 1 : 0);
+            long value = place.Stream > 0 ? place.Stream : place.Offset;
+            for (int k = 5; k > 0; k--, value >>= 8)
+            {
+                row[k] = (byte)value;
+            }
+
+            row[6] = (byte)(place.Index >> 8);
+            row[7] = (byte)place.Index;
+        }
+
+        var entries = new PdfBuffer();
+        entries.Raw("/Type/XRef/W[1 5 2]"u8);
+        AppendTrailer(entries, root, info, identifier);
+        AddStream(number, entries, table);
+    }
+
+    private void WriteTable(int root, int info, byte[] identifier)
+    {
+        var text = new PdfBuffer();
+        text.Raw("xref\n0 "u8).Int(_places.Count).Raw("\n0000000000 65535 f \n"u8);
+        for (int i = 1; i < _places.Count; i++)
+        {
+            text.Ascii(_places[i].Offset.ToString("D10", System.Globalization.CultureInfo.InvariantCulture))
+                .Raw(" 00000 n \n"u8);
+        }
+
+        text.Raw("trailer\n<<"u8);
+        AppendTrailer(text, root, info, identifier);
+        _output.Write(text.Raw(">>\n"u8).Bytes);
+    }
+
+    private void AppendTrailer(PdfBuffer text, int root, int info, byte[] identifier)
+    {
+        text.Raw("/Size "u8).Int(_places.Count).Raw("/Root "u8).Ref(root).Raw("/Info "u8).Ref(info).Raw("/ID["u8);
+        for (int i = 0; i < 2; i++)
+        {
+            text.Raw((byte)'<');
+            Array.ForEach(identifier, one => text.Hex(one));
+            text.Raw((byte)'>');
+        }
+
+        text.Raw((byte)']');
+    }
+
+    /// <summary>Where an object is: an offset in the file, or an index in an object stream.</summary>
+    private readonly record struct Place(long Offset, int Stream, int Index);
+}

@@ -1,0 +1,79 @@
+using System;
+using System.Buffers.Binary;
+using System.Collections.Generic;
+using System.Linq;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Rendering.Native;
+using Korvan.CAD.Rendering.Text;
+
+namespace Korvan.CAD.Rendering.Pdf;
+
+/// <summary>The fonts of a document, one for each face. Subsets are made at its end, when all glyphs are known.
+/// </summary>
+internal sealed class PdfFonts(PdfFile file)
+{
+    private const int LicenseAt = 8;
+    private const int LicenseKinds = 0x000E;
+    private const int Restricted = 0x0002;
+    private const int NoSubset = 0x0100;
+    private const int BitmapOnly = 0x0200;
+    private const int MaxGlyphs = 0x10000;
+
+    private readonly Dictionary<nint, PdfFont?> _fonts = [];
+
+    /// <summary>The font of a face; null where it cannot be embedded.</summary>
+    internal PdfFont? Of(FontUse use)
+    {
+        if (!_fonts.TryGetValue(use.Face, out PdfFont? font))
+        {
+            bool isCompact = HarfBuzz.Table(use.Face, "CFF ").Length > 0;
+            bool hasOutlines = isCompact || HarfBuzz.Table(use.Face, "glyf").Length > 0;
+            bool usable = hasOutlines && MayBeEmbedded(use.Face) && HarfBuzz.IsVariable(use.Face) == 0
+                && HarfBuzz.FaceGetGlyphCount(use.Face) <= MaxGlyphs;
+            font = usable ? new PdfFont(file.New(), use.Face, NameOf(use.Name), isCompact) : null;
+            _fonts.Add(use.Face, font);
+        }
+
+        return font;
+    }
+
+    /// <summary>Notes that texts of a font became outlines.</summary>
+    internal static void NoteOutlines(FontUse use, RenderNotes notes) =>
+        notes.Add(RenderErrorCode.Success, $"texts became outlines, as their font {use.Name} cannot be embedded");
+
+    /// <summary>Writes the fonts with subsets of their glyphs.</summary>
+    internal void Write(bool listGlyphs)
+    {
+        foreach (PdfFont font in _fonts.Values.OfType<PdfFont>().Where(static font => font.Glyphs.Count > 0))
+        {
+            new PdfFontWriter(file, font).Write(listGlyphs);
+        }
+    }
+
+    internal void Release()
+    {
+        foreach (PdfFont? font in _fonts.Values)
+        {
+            font?.Release();
+        }
+    }
+
+    /// <summary>Whether the license of a face allows what is done with it (OpenType, OS/2, fsType).</summary>
+    private static bool MayBeEmbedded(nint face)
+    {
+        byte[] table = HarfBuzz.Table(face, "OS/2");
+        if (table.Length < LicenseAt + 2)
+        {
+            return true;
+        }
+
+        int license = BinaryPrimitives.ReadUInt16BigEndian(table.AsSpan(LicenseAt));
+        return (license & LicenseKinds) != Restricted && (license & (NoSubset | BitmapOnly)) == 0;
+    }
+
+    private static string NameOf(string name)
+    {
+        string plain = string.Concat(name.Where(static one => char.IsAsciiLetterOrDigit(one) || one is '-' or '_'));
+        return plain.Length > 0 ? plain[..Math.Min(plain.Length, 100)] : "Font";
+    }
+}
