@@ -5,7 +5,6 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
-using Korvan.CAD.FileFormats.Cgm.Import;
 using Xunit;
 using static Korvan.CAD.Tests.FileFormats.Cgm.CgmBytes;
 using DataType = Korvan.CAD.FileFormats.Cgm.Classes.StructuredDataRecord.StructuredDataType;
