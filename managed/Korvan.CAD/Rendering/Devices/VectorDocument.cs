@@ -5,10 +5,9 @@ using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;
 
-/// <summary>Writes pages as PDF (many) or SVG (one); device units are points and pixels of 1/96 inch.</summary>
+/// <summary>Writes pages as PDF; device units are points.</summary>
 internal static unsafe class VectorDocument
 {
-    private const int SvgUnitPixel = 3;
     private const int PdfVersion15 = 1;
 
     internal static void WritePdf(Stream output, TextEngine engine, IEnumerable<Page> pages, in DocumentInfo info)
@@ -55,18 +54,6 @@ internal static unsafe class VectorDocument
         Cairo.PdfSurfaceRestrictToVersion(pdf, PdfVersion15);
         Describe(pdf, info);
         return surface;
-    }
-
-    internal static void WriteSvg(Stream output, TextEngine engine, Page page)
-    {
-        using var sink = new StreamSink(output);
-        nint svg = Cairo.SvgSurfaceCreate(StreamSink.Callback, sink.Closure, page.Width, page.Height);
-        using var surface = new NativeHandle(svg, &Cairo.SurfaceDestroy);
-        using var cr = new NativeHandle(Cairo.Create(svg), &Cairo.Destroy);
-        Cairo.SvgSurfaceSetDocumentUnit(svg, SvgUnitPixel);
-        CairoPainter.Paint(cr.Pointer, engine, page);
-        Cairo.ShowPage(cr.Pointer);
-        Finish(surface, sink, "SVG");
     }
 
     private static void Describe(nint surface, in DocumentInfo info)

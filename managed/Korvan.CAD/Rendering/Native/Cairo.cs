@@ -203,13 +203,6 @@ internal static unsafe partial class Cairo
         Library, EntryPoint = "cairo_pdf_surface_set_page_label", StringMarshalling = StringMarshalling.Utf8)]
     internal static partial void PdfSurfaceSetPageLabel(nint surface, string label);
 
-    [LibraryImport(Library, EntryPoint = "cairo_svg_surface_create_for_stream")]
-    internal static partial nint SvgSurfaceCreate(
-        delegate* unmanaged[Cdecl]<nint, byte*, uint, int> write, nint closure, double width, double height);
-
-    [LibraryImport(Library, EntryPoint = "cairo_svg_surface_set_document_unit")]
-    internal static partial void SvgSurfaceSetDocumentUnit(nint surface, int unit);
-
     [LibraryImport(Library, EntryPoint = "cairo_font_options_create")]
     internal static partial nint FontOptionsCreate();
 
