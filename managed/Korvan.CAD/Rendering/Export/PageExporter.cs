@@ -36,15 +36,7 @@ internal static class PageExporter
     {
         using TextEngine engine = context.NewEngine();
         var pages = new PageSource(scene, context, engine, DeviceKind.UserUnits, UserUnitsPerInch);
-        Page page = pages.SinglePage();
-        if (options.TextAsShapes)
-        {
-            VectorDocument.WriteSvg(output, engine, page);
-        }
-        else
-        {
-            SvgTextDocument.Write(output, engine, page, options);
-        }
+        SvgDocument.Write(output, engine, pages.SinglePage(), options);
     }
 
     internal static void WriteHtml(VectorScene scene, Html5Options options, ExportContext context, Stream output)

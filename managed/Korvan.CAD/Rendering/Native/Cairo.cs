@@ -95,12 +95,6 @@ internal static unsafe partial class Cairo
     [LibraryImport(Library, EntryPoint = "cairo_paint_with_alpha")]
     internal static partial void PaintWithAlpha(nint cr, double alpha);
 
-    [LibraryImport(Library, EntryPoint = "cairo_show_page")]
-    internal static partial void ShowPage(nint cr);
-
-    [LibraryImport(Library, EntryPoint = "cairo_set_operator")]
-    internal static partial void SetOperator(nint cr, CairoOperator value);
-
     [LibraryImport(Library, EntryPoint = "cairo_set_source_rgba")]
     internal static partial void SetSourceRgba(nint cr, double red, double green, double blue, double alpha);
 
@@ -162,9 +156,6 @@ internal static unsafe partial class Cairo
     [LibraryImport(Library, EntryPoint = "cairo_surface_flush")]
     internal static partial void SurfaceFlush(nint surface);
 
-    [LibraryImport(Library, EntryPoint = "cairo_surface_finish")]
-    internal static partial void SurfaceFinish(nint surface);
-
     [LibraryImport(Library, EntryPoint = "cairo_surface_destroy")]
     internal static partial void SurfaceDestroy(nint surface);
 
@@ -183,13 +174,6 @@ internal static unsafe partial class Cairo
 
     [LibraryImport(Library, EntryPoint = "cairo_image_surface_get_stride")]
     internal static partial int ImageSurfaceGetStride(nint surface);
-
-    [LibraryImport(Library, EntryPoint = "cairo_svg_surface_create_for_stream")]
-    internal static partial nint SvgSurfaceCreate(
-        delegate* unmanaged[Cdecl]<nint, byte*, uint, int> write, nint closure, double width, double height);
-
-    [LibraryImport(Library, EntryPoint = "cairo_svg_surface_set_document_unit")]
-    internal static partial void SvgSurfaceSetDocumentUnit(nint surface, int unit);
 
     [LibraryImport(Library, EntryPoint = "cairo_font_options_create")]
     internal static partial nint FontOptionsCreate();

@@ -16,7 +16,11 @@ internal sealed unsafe class TextEngine : IDisposable
 {
     /// <summary>The size in device units at which everything is shaped; cairo's matrix brings it to the real
     /// one.</summary>
-    private const double EmSize = 256;
+    internal const double EmSize = 256;
+
+    /// <summary>Pango units in an em of what is shaped.</summary>
+    internal const double UnitsPerEm = EmSize * Pango.Scale;
+
     private const double PointsPerInch = 72;
     private const int BoldWeight = 700;
     private const int NormalWeight = 400;
@@ -134,6 +138,9 @@ internal sealed unsafe class TextEngine : IDisposable
         Cairo.MoveTo(cr, 0, 0);
         return line;
     }
+
+    /// <summary>Shapes a run at the size <see cref="EmSize"/>. The line is valid until another one is shaped.</summary>
+    internal nint ShapeLine(in TextRun run) => Shape(run.Font, run.Text, run.LetterSpacing);
 
     /// <summary>Adds the outlines of a run; the matrix maps its ems, y up from the baseline.</summary>
     internal void AddOutline(in TextRun run, in Affine2 matrix, PathBuffer target)

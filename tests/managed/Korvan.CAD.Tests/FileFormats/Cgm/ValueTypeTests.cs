@@ -1,15 +1,10 @@
 using System;
-using System.Collections.Generic;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Cgm.Classes;
-using Korvan.CAD.FileFormats.Cgm.Coding;
 using Korvan.CAD.FileFormats.Cgm.Commands;
-using Korvan.CAD.FileFormats.Cgm.Enums;
-using Korvan.CAD.FileFormats.Cgm.Export;
-using Korvan.CAD.FileFormats.Cgm.Import;
 using Xunit;
 using static Korvan.CAD.Tests.FileFormats.Cgm.CgmBytes;
 using DataType = Korvan.CAD.FileFormats.Cgm.Classes.StructuredDataRecord.StructuredDataType;
