@@ -7,6 +7,9 @@ using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;
 
+/// <summary>Rows of pixels that are painted; the last one is not among them.</summary>
+internal readonly record struct RowRange(int First, int End);
+
 /// <summary>
 /// Plays a list on a cairo context. Coordinates are mapped here, in double precision: cairo keeps 24.8 fixed point,
 /// and drawings lie at map coordinates of seven digits.
@@ -38,6 +41,7 @@ internal sealed unsafe class CairoPainter
     private readonly PaintSettings _settings;
     private readonly Affine2 _map;
     private readonly double _scale;
+    private readonly RowRange _rows;
     private Rgba _color;
     private bool _hasColor;
     private double _lineWidth = -1;
@@ -45,8 +49,9 @@ internal sealed unsafe class CairoPainter
     private int _dash = -1;
     private double _dashOffset;
 
-    private CairoPainter(nint cr, TextEngine engine, DrawingList list, in PaintSettings settings)
+    private CairoPainter(nint cr, TextEngine engine, DrawingList list, in PaintSettings settings, RowRange rows)
     {
+        _rows = rows;
         _cr = cr;
         _engine = engine;
         _list = list;
@@ -55,20 +60,21 @@ internal sealed unsafe class CairoPainter
         _scale = Math.Sqrt(Math.Abs(_map.Determinant));
     }
 
-    /// <summary>Paints a page with its background and what lies over it.</summary>
-    internal static void Paint(nint cr, TextEngine engine, Page page)
+    /// <summary>Paints rows of a page with its background and what lies over it.</summary>
+    internal static void Paint(nint cr, TextEngine engine, Page page, RowRange rows)
     {
-        Paint(cr, engine, page.List, page.Settings);
+        Paint(cr, engine, page.List, page.Settings, rows);
         if (page.Overlay != null)
         {
             Paint(cr, engine, page.Overlay,
-                page.Settings with { ToDevice = Affine2.Identity, PaintBackground = false, Clip = null });
+                page.Settings with { ToDevice = Affine2.Identity, PaintBackground = false, Clip = null }, rows);
         }
     }
 
-    private static void Paint(nint cr, TextEngine engine, DrawingList list, in PaintSettings settings)
+    private static void Paint(
+        nint cr, TextEngine engine, DrawingList list, in PaintSettings settings, RowRange rows)
     {
-        var painter = new CairoPainter(cr, engine, list, settings);
+        var painter = new CairoPainter(cr, engine, list, settings, rows);
         Cairo.Save(cr);
         painter.Start();
         foreach (ref readonly DisplayItem item in list.Items)
@@ -131,16 +137,22 @@ internal sealed unsafe class CairoPainter
 
     private void Stroke(in DisplayItem item)
     {
+        double width = _settings.WidthOf(item);
+        LineLook look = _list.LookOf(item) ?? _settings.Look;
+        if (!Crosses(item, width * Math.Max(1, look.Join == LineJoins.Miter ? look.MiterLimit : 1)))
+        {
+            return;
+        }
+
         Trace(item);
         SetColor(item.Color);
-        double width = _settings.WidthOf(item);
         if (width != _lineWidth)
         {
             Cairo.SetLineWidth(_cr, width);
             _lineWidth = width;
         }
 
-        SetLook(_list.LookOf(item) ?? _settings.Look);
+        SetLook(look);
         SetDash(item);
         Cairo.Stroke(_cr);
     }
@@ -206,6 +218,11 @@ internal sealed unsafe class CairoPainter
 
     private void Fill(in DisplayItem item)
     {
+        if (!Crosses(item, 0))
+        {
+            return;
+        }
+
         Trace(item);
         Cairo.SetFillRule(_cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
         if (item.Extra >= 0)
@@ -318,6 +335,28 @@ internal sealed unsafe class CairoPainter
         Trace(item);
         Cairo.SetFillRule(_cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
         Cairo.Clip(_cr);
+    }
+
+    /// <summary>Returns whether a path reaches into the rows that are painted.</summary>
+    private bool Crosses(in DisplayItem item, double border)
+    {
+        ReadOnlySpan<double> c = _list.CoordsOf(item);
+        int count = 0;
+        foreach (PathVerb verb in _list.VerbsOf(item))
+        {
+            count += verb switch { PathVerb.Curve => 6, PathVerb.Close => 0, _ => 2 };
+        }
+
+        double top = double.MaxValue;
+        double bottom = double.MinValue;
+        for (int at = 0; at < count; at += 2)
+        {
+            double y = (_map.Yx * c[at]) + (_map.Yy * c[at + 1]) + _map.Y0;
+            top = Math.Min(top, y);
+            bottom = Math.Max(bottom, y);
+        }
+
+        return bottom + border >= _rows.First - 1 && top - border <= _rows.End + 1;
     }
 
     private void Trace(in DisplayItem item)

@@ -1,4 +1,5 @@
 using System;
+using System.Runtime.ExceptionServices;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Raster.Pixels;
 using Korvan.CAD.Rendering.Native;
@@ -11,6 +12,11 @@ internal sealed unsafe class RasterPage : IDisposable
 {
     internal const int LargestSide = 32_000;
     internal const long MaxPixels = 400_000_000;
+
+    /// <summary>Below this, threads take longer to start than the page takes to paint.</summary>
+    private const int MinItemsInBands = 2_000;
+    private const int MinRowsInBands = 200;
+    private const int MaxBands = 8;
 
     private readonly NativeHandle _surface;
 
@@ -32,12 +38,12 @@ internal sealed unsafe class RasterPage : IDisposable
     {
         if (!(width >= 1 && height >= 1))
         {
-            return $"A picture of {width:0.##} × {height:0.##} pixels has no area; give a page of at least one pixel.";
+            return $"An image of {width:0.##} × {height:0.##} pixels has no area; give a page of at least one pixel.";
         }
 
         if (width > LargestSide || height > LargestSide || width * height > MaxPixels)
         {
-            return $"A picture of {width:0} × {height:0} pixels is too large: " +
+            return $"An image of {width:0} × {height:0} pixels is too large: " +
                 $"at most {LargestSide} pixels on a side and {MaxPixels} in all; give a smaller page.";
         }
 
@@ -52,11 +58,9 @@ internal sealed unsafe class RasterPage : IDisposable
         }
 
         var raster = new RasterPage((int)Math.Round(page.Width), (int)Math.Round(page.Height));
-        using var cr = new NativeHandle(Cairo.Create(raster._surface.Pointer), &Cairo.Destroy);
         try
         {
-            CairoPainter.Paint(cr.Pointer, engine, page);
-            Cairo.SurfaceFlush(raster._surface.Pointer);
+            raster.Paint(engine, page, raster.BandsFor(page));
             return raster;
         }
         catch
@@ -64,6 +68,66 @@ internal sealed unsafe class RasterPage : IDisposable
             raster.Dispose();
             throw;
         }
+    }
+
+    /// <summary>Paints the page in bands, each on a thread of its own.</summary>
+    internal static RasterPage Render(TextEngine engine, Page page, int bands)
+    {
+        var raster = new RasterPage((int)Math.Round(page.Width), (int)Math.Round(page.Height));
+        raster.Paint(engine, page, bands);
+        return raster;
+    }
+
+    private int BandsFor(Page page) => page.List.Items.Length < MinItemsInBands || Height < MinRowsInBands
+        ? 1
+        : Math.Min(Environment.ProcessorCount, MaxBands);
+
+    private void Paint(TextEngine engine, Page page, int bands)
+    {
+        var engines = new TextEngine[bands];
+        var failures = new ExceptionDispatchInfo?[bands];
+        engines[0] = engine;
+        try
+        {
+            for (int i = 1; i < bands; i++)
+            {
+                engines[i] = engine.ForThread();
+            }
+
+            ForkedProcess.RunPieces(bands, i =>
+            {
+                try
+                {
+                    PaintBand(engines[i], page, (int)((long)Height * i / bands), (int)((long)Height * (i + 1) / bands));
+                }
+                catch (Exception e) when (e is RenderException or OutOfMemoryException)
+                {
+                    failures[i] = ExceptionDispatchInfo.Capture(e);
+                }
+            });
+        }
+        finally
+        {
+            for (int i = 1; i < bands; i++)
+            {
+                engines[i]?.Dispose();
+            }
+        }
+
+        Array.Find(failures, static failure => failure is not null)?.Throw();
+        Cairo.SurfaceMarkDirty(_surface.Pointer);
+    }
+
+    private void PaintBand(TextEngine engine, Page page, int top, int bottom)
+    {
+        int stride = Cairo.ImageSurfaceGetStride(_surface.Pointer);
+        byte* first = Cairo.ImageSurfaceGetData(_surface.Pointer) + ((long)top * stride);
+        nint band = Cairo.ImageSurfaceCreateForData(first, CairoFormat.Argb32, Width, bottom - top, stride);
+        using var surface = new NativeHandle(band, &Cairo.SurfaceDestroy);
+        Cairo.SurfaceSetDeviceOffset(band, 0, -top);
+        using var cr = new NativeHandle(Cairo.Create(band), &Cairo.Destroy);
+        CairoPainter.Paint(cr.Pointer, engine, page, new RowRange(top, bottom));
+        Cairo.SurfaceFlush(band);
     }
 
     /// <summary>The pixels of one line of the picture.</summary>

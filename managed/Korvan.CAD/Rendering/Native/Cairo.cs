@@ -169,6 +169,13 @@ internal static unsafe partial class Cairo
     [LibraryImport(Library, EntryPoint = "cairo_image_surface_create")]
     internal static partial nint ImageSurfaceCreate(CairoFormat format, int width, int height);
 
+    [LibraryImport(Library, EntryPoint = "cairo_image_surface_create_for_data")]
+    internal static partial nint ImageSurfaceCreateForData(
+        byte* data, CairoFormat format, int width, int height, int stride);
+
+    [LibraryImport(Library, EntryPoint = "cairo_surface_set_device_offset")]
+    internal static partial void SurfaceSetDeviceOffset(nint surface, double x, double y);
+
     [LibraryImport(Library, EntryPoint = "cairo_image_surface_get_data")]
     internal static partial byte* ImageSurfaceGetData(nint surface);
 

@@ -35,7 +35,9 @@ internal sealed unsafe class TextEngine : IDisposable
     private readonly Dictionary<FontSpec, int> _fonts = [];
     private readonly Dictionary<(int Font, string Text, double Spacing), ShapedLine> _lines = [];
     private readonly FontUses _uses = new();
+    private readonly GlyphRendering _look;
     private readonly FontFolders? _folders;
+    private readonly bool _ownsFolders;
     private readonly NativeHandle _fontMap;
     private readonly NativeHandle _context;
     private readonly NativeHandle _layout;
@@ -47,10 +49,17 @@ internal sealed unsafe class TextEngine : IDisposable
     /// <summary>An engine. Fonts of other folders than those of the system are taken over, and released with the
     /// engine.</summary>
     internal TextEngine(GlyphRendering look = default, FontFolders? folders = null)
+        : this(look, folders, ownsFolders: true)
+    {
+    }
+
+    private TextEngine(GlyphRendering look, FontFolders? folders, bool ownsFolders)
     {
         NativeLibraries.Require();
         FontTable.ListInstalled = static () => Fontconfig.ListFonts();
+        _look = look;
         _folders = folders;
+        _ownsFolders = ownsFolders;
         _fontMap = new NativeHandle(Pango.CairoFontMapNew(), &Pango.Unref);
         if (_folders is not null)
         {
@@ -68,6 +77,15 @@ internal sealed unsafe class TextEngine : IDisposable
         _layout = new NativeHandle(Pango.LayoutNew(_context.Pointer), &Pango.Unref);
         Pango.LayoutSetSingleParagraphMode(_layout.Pointer, 1);
         Pango.LayoutSetAutoDir(_layout.Pointer, 1);
+    }
+
+    /// <summary>Creates an engine for another thread, which gives fonts the same numbers. It has to be released before
+    /// this one.</summary>
+    internal TextEngine ForThread()
+    {
+        var engine = new TextEngine(_look, _folders, ownsFolders: false);
+        _specs.ForEach(spec => engine.Font(spec));
+        return engine;
     }
 
     /// <summary>Characters that no installed font could show, over all runs measured or shown.</summary>
@@ -170,7 +188,10 @@ internal sealed unsafe class TextEngine : IDisposable
         _layout.Dispose();
         _context.Dispose();
         _fontMap.Dispose();
-        _folders?.Dispose();
+        if (_ownsFolders)
+        {
+            _folders?.Dispose();
+        }
     }
 
     /// <summary>The file of the font that is used for a face, or null when there is no font at all.</summary>
