@@ -90,7 +90,11 @@ internal struct StrokeStyle
 }
 
 /// <summary>One run of text in one font. The matrix maps the em square, baseline at y = 0, to drawing units.</summary>
-internal readonly record struct TextRun(string Text, int Font, Affine2 Matrix, double LetterSpacing);
+internal readonly record struct TextRun(string Text, int Font, Affine2 Matrix, double LetterSpacing)
+{
+    /// <summary>Gets how far the pen moves over the text, in ems; 0 where it was not measured.</summary>
+    internal double Advance { get; init; }
+}
 
 internal readonly record struct GradientStop(double Offset, Rgba Color);
 

@@ -10,6 +10,12 @@ namespace Korvan.CAD.Rendering.Devices;
 /// <summary>Rows of pixels that are painted; the last one is not among them.</summary>
 internal readonly record struct RowRange(int First, int End);
 
+/// <summary>The pixels that are painted: as a surface of cairo, and for thin lines directly.</summary>
+internal readonly record struct PixelTarget(nint Surface, RowRange Rows, ThinLinePainter ThinLines);
+
+/// <summary>What clips leave of the page: the box in pixels, and whether it is all that they leave.</summary>
+internal readonly record struct ClipArea(Bounds2 Box, bool IsBox);
+
 /// <summary>
 /// Plays a list on a cairo context. Coordinates are mapped here, in double precision: cairo keeps 24.8 fixed point,
 /// and drawings lie at map coordinates of seven digits.
@@ -23,8 +29,19 @@ internal sealed unsafe class CairoPainter
     private const double FarAway = 4_000_000;
     private const double SmallestText = 0.15;
 
+    /// <summary>Below this em in pixels no character can be told from another.</summary>
+    private const double BarText = 1.6;
+
+    /// <summary>The height and opacity of the bar for such a text: about what its characters cover.</summary>
+    private const double BarHeight = 0.6;
+    private const double BarOpacity = 0.4;
+    private static readonly PathVerb[] BarVerbs = [PathVerb.Move, PathVerb.Line];
+
     /// <summary>That of cairo itself, in device units.</summary>
     private const double DefaultTolerance = 0.1;
+
+    /// <summary>How far the sides of a box may be from upright, in pixels.</summary>
+    private const double BoxTolerance = 0.05;
 
     private static readonly Dictionary<InterpolationMode, CairoFilter> Filters = new()
     {
@@ -42,6 +59,10 @@ internal sealed unsafe class CairoPainter
     private readonly Affine2 _map;
     private readonly double _scale;
     private readonly RowRange _rows;
+    private readonly PixelTarget _target;
+    private readonly Stack<ClipArea> _clips = new();
+    private ClipArea _clip = new(Bounds2.Of(-FarAway, -FarAway, FarAway, FarAway), IsBox: true);
+    private bool _isDirect;
     private Rgba _color;
     private bool _hasColor;
     private double _lineWidth = -1;
@@ -49,9 +70,10 @@ internal sealed unsafe class CairoPainter
     private int _dash = -1;
     private double _dashOffset;
 
-    private CairoPainter(nint cr, TextEngine engine, DrawingList list, in PaintSettings settings, RowRange rows)
+    private CairoPainter(nint cr, TextEngine engine, DrawingList list, in PaintSettings settings, PixelTarget target)
     {
-        _rows = rows;
+        _target = target;
+        _rows = target.Rows;
         _cr = cr;
         _engine = engine;
         _list = list;
@@ -61,26 +83,28 @@ internal sealed unsafe class CairoPainter
     }
 
     /// <summary>Paints rows of a page with its background and what lies over it.</summary>
-    internal static void Paint(nint cr, TextEngine engine, Page page, RowRange rows)
+    internal static void Paint(nint cr, TextEngine engine, Page page, PixelTarget target)
     {
-        Paint(cr, engine, page.List, page.Settings, rows);
+        Paint(cr, engine, page.List, page.Settings, target);
         if (page.Overlay != null)
         {
             Paint(cr, engine, page.Overlay,
-                page.Settings with { ToDevice = Affine2.Identity, PaintBackground = false, Clip = null }, rows);
+                page.Settings with { ToDevice = Affine2.Identity, PaintBackground = false, Clip = null }, target);
         }
     }
 
     private static void Paint(
-        nint cr, TextEngine engine, DrawingList list, in PaintSettings settings, RowRange rows)
+        nint cr, TextEngine engine, DrawingList list, in PaintSettings settings, PixelTarget target)
     {
-        var painter = new CairoPainter(cr, engine, list, settings, rows);
+        var painter = new CairoPainter(cr, engine, list, settings, target);
         Cairo.Save(cr);
         painter.Start();
         foreach (ref readonly DisplayItem item in list.Items)
         {
             painter.Draw(item);
         }
+
+        painter.UseCairo();
 
         Cairo.Restore(cr);
         Cairo.Check(Cairo.Status(cr), "drawing a page");
@@ -100,6 +124,8 @@ internal sealed unsafe class CairoPainter
             Vec2 b = _map.Point(clip.MaxX, clip.MaxY);
             Cairo.Rectangle(_cr, Math.Min(a.X, b.X), Math.Min(a.Y, b.Y), Math.Abs(b.X - a.X), Math.Abs(b.Y - a.Y));
             Cairo.Clip(_cr);
+            _clip = new ClipArea(
+                Bounds2.Of(Math.Min(a.X, b.X), Math.Min(a.Y, b.Y), Math.Max(a.X, b.X), Math.Max(a.Y, b.Y)), IsBox: true);
         }
 
         Cairo.SetTolerance(_cr, DefaultTolerance * _settings.Coarseness);
@@ -129,8 +155,10 @@ internal sealed unsafe class CairoPainter
                 PushClip(item);
                 break;
             case DisplayKind.PopClip:
+                UseCairo();
                 Cairo.Restore(_cr);
                 ForgetState();
+                _clip = _clips.Pop();
                 break;
         }
     }
@@ -144,6 +172,13 @@ internal sealed unsafe class CairoPainter
             return;
         }
 
+        bool isDashed = item.Dash >= 0 && Period(item) >= ShortestPeriod;
+        bool isThin = width <= ThinLinePainter.MaxWidth && !isDashed && !_settings.Sharp;
+        if (isThin && _clip.IsBox && TryDrawDirectly(item, width))
+        {
+            return;
+        }
+
         Trace(item);
         SetColor(item.Color);
         if (width != _lineWidth)
@@ -153,8 +188,45 @@ internal sealed unsafe class CairoPainter
         }
 
         SetLook(look);
-        SetDash(item);
+        SetDash(item, isDashed);
         Cairo.Stroke(_cr);
+    }
+
+    private bool TryDrawDirectly(in DisplayItem item, double width) =>
+        DrawDirectly(_list.VerbsOf(item), _list.CoordsOf(item), _map, width, item.Color);
+
+    private bool DrawDirectly(
+        ReadOnlySpan<PathVerb> verbs, ReadOnlySpan<double> coords, in Affine2 map, double width, Rgba color)
+    {
+        if (!_isDirect)
+        {
+            Cairo.SurfaceFlush(_target.Surface);
+            _isDirect = true;
+        }
+
+        return _target.ThinLines.TryStroke(
+            verbs, coords, map, _clip.Box, width, color, DefaultTolerance * _settings.Coarseness);
+    }
+
+    /// <summary>Tells cairo of what was drawn without it, before it draws.</summary>
+    private void UseCairo()
+    {
+        if (_isDirect)
+        {
+            Cairo.SurfaceMarkDirty(_target.Surface);
+            _isDirect = false;
+        }
+    }
+
+    private double Period(in DisplayItem item)
+    {
+        double period = 0;
+        foreach (double length in _list.DashOf(item))
+        {
+            period += length * _scale;
+        }
+
+        return period;
     }
 
     private void SetLook(LineLook value)
@@ -170,9 +242,9 @@ internal sealed unsafe class CairoPainter
         _look = value;
     }
 
-    private void SetDash(in DisplayItem item)
+    private void SetDash(in DisplayItem item, bool isDashed)
     {
-        if (item.Dash < 0)
+        if (!isDashed)
         {
             ClearDash();
             return;
@@ -185,17 +257,9 @@ internal sealed unsafe class CairoPainter
 
         double[] lengths = _list.DashOf(item);
         Span<double> scaled = stackalloc double[lengths.Length <= 64 ? lengths.Length : 0];
-        double period = 0;
         for (int i = 0; i < scaled.Length; i++)
         {
             scaled[i] = lengths[i] * _scale;
-            period += scaled[i];
-        }
-
-        if (period < ShortestPeriod)
-        {
-            ClearDash();
-            return;
         }
 
         fixed (double* p = scaled)
@@ -273,6 +337,13 @@ internal sealed unsafe class CairoPainter
             return;
         }
 
+        if (area < BarText * BarText && _clip.IsBox && !_settings.Sharp && run.Advance > 0)
+        {
+            Bar(run, toDevice, item.Color);
+            return;
+        }
+
+        UseCairo();
         SetColor(item.Color);
         Cairo.Save(_cr);
 
@@ -295,8 +366,18 @@ internal sealed unsafe class CairoPainter
         Cairo.Restore(_cr);
     }
 
+    /// <summary>Draws what is seen of a text too small to be read: a faint bar.</summary>
+    private void Bar(in TextRun run, in Affine2 toDevice, Rgba color)
+    {
+        double height = new Vec2(toDevice.Xy, toDevice.Yy).Length * BarHeight;
+        ReadOnlySpan<double> ends = [0, BarHeight / 2, run.Advance, BarHeight / 2];
+        double alpha = color.A * BarOpacity * Math.Min(1, height);
+        DrawDirectly(BarVerbs, ends, toDevice, Math.Max(1, height), color.WithAlpha((byte)alpha));
+    }
+
     private void Image(in DisplayItem item)
     {
+        UseCairo();
         PlacedImage image = _list.ImageOf(item);
         nint surface = Cairo.ImageSurfaceCreate(CairoFormat.Argb32, image.Width, image.Height);
         using var owner = new NativeHandle(surface, &Cairo.SurfaceDestroy);
@@ -331,6 +412,10 @@ internal sealed unsafe class CairoPainter
 
     private void PushClip(in DisplayItem item)
     {
+        UseCairo();
+        _clips.Push(_clip);
+        Bounds2 box = BoxOf(item, out bool isBox);
+        _clip = new ClipArea(box.Clip(_clip.Box), _clip.IsBox && isBox);
         Cairo.Save(_cr);
         Trace(item);
         Cairo.SetFillRule(_cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
@@ -359,8 +444,34 @@ internal sealed unsafe class CairoPainter
         return bottom + border >= _rows.First - 1 && top - border <= _rows.End + 1;
     }
 
+    /// <summary>The box of a path on the page, and whether the path is that box.</summary>
+    private Bounds2 BoxOf(in DisplayItem item, out bool isBox)
+    {
+        ReadOnlySpan<PathVerb> verbs = _list.VerbsOf(item);
+        ReadOnlySpan<double> c = _list.CoordsOf(item);
+        isBox = verbs.Length is 4 or 5 or 6 && verbs[0] == PathVerb.Move
+            && verbs[1..4].IndexOfAnyExcept(PathVerb.Line) < 0 && verbs[4..].IndexOf(PathVerb.Move) < 0;
+        Bounds2 box = Bounds2.Empty;
+        Vec2 last = default;
+        for (int i = 0; i < 4 && isBox; i++)
+        {
+            Vec2 p = _map.Point(c[2 * i], c[(2 * i) + 1]);
+            isBox &= i == 0 || Math.Abs(p.X - last.X) < BoxTolerance || Math.Abs(p.Y - last.Y) < BoxTolerance;
+            box.Add(p.X, p.Y);
+            last = p;
+        }
+
+        if (verbs.Length > 4 && verbs[4] == PathVerb.Line)
+        {
+            isBox &= c[8] == c[0] && c[9] == c[1];
+        }
+
+        return isBox ? box : Bounds2.Of(-FarAway, -FarAway, FarAway, FarAway);
+    }
+
     private void Trace(in DisplayItem item)
     {
+        UseCairo();
         Cairo.NewPath(_cr);
         ReadOnlySpan<double> c = _list.CoordsOf(item);
         int at = 0;

@@ -126,7 +126,9 @@ internal sealed unsafe class RasterPage : IDisposable
         using var surface = new NativeHandle(band, &Cairo.SurfaceDestroy);
         Cairo.SurfaceSetDeviceOffset(band, 0, -top);
         using var cr = new NativeHandle(Cairo.Create(band), &Cairo.Destroy);
-        CairoPainter.Paint(cr.Pointer, engine, page, new RowRange(top, bottom));
+        var rows = new RowRange(top, bottom);
+        var target = new PixelTarget(band, rows, new ThinLinePainter(first, stride, Width, rows));
+        CairoPainter.Paint(cr.Pointer, engine, page, target);
         Cairo.SurfaceFlush(band);
     }
 

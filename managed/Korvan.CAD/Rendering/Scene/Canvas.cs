@@ -127,7 +127,7 @@ internal sealed class Canvas
 
         if (text.AsSpan().Trim().Length > 0)
         {
-            List.Text(new TextRun(text, font, matrix, letterSpacing), color, layer, box);
+            List.Text(new TextRun(text, font, matrix, letterSpacing) { Advance = advance }, color, layer, box);
         }
     }
 
