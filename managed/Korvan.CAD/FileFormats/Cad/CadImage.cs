@@ -86,6 +86,12 @@ public partial class CadImage : Image, IDrawingContent
     /// <summary>Gets the preview image, a bitmap without its file header; empty for none.</summary>
     public byte[] ThumbnailImage => _drawing.ThumbnailImage;
 
+    /// <summary>Gets the preview image with its size; null where the drawing has none.</summary>
+    public CadThumbnailImage? Thumbnail => ThumbnailImage.Length == 0 ? null : new CadThumbnailImage(ThumbnailImage);
+
+    /// <summary>Gets the data section: preview images, and the geometry of solids from release 2013 on.</summary>
+    public CadAcdsData AcdsData => Drawing.AcdsData;
+
     /// <summary>Gets how many entities are of a type that the library does not know. They survive loading and saving
     /// unchanged.</summary>
     public int UnknownEntityCount => Drawing.UnknownEntityCount;
