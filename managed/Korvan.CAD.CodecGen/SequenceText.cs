@@ -72,6 +72,7 @@ internal static class SequenceText
     {
         IEnumerable<string> known = sections.Select(section => Pattern(section, sections, model))
             .Concat(model.Leading.Concat(model.Trailing).Select(marker => $"\"{marker}\""));
+        text.AppendLine("    internal override bool HasOrderedFields => true;");
         text.AppendLine("    internal override bool HasSubclass(string? name) =>");
         string others = !model.IsSequenceBase ? " || base.HasSubclass(name)"
             : model.Kind == "CadEntityBase" ? " or \"AcDbEntity\"" : "";

@@ -171,6 +171,24 @@ public partial class CadImage : Image, IDrawingContent
             ?? throw new CadException($"The block of the layout '{layoutName}' is missing.");
     }
 
+    /// <summary>Returns the dynamic block that a block reference shows in one of its states.</summary>
+    /// <param name="reference">The block reference.</param>
+    /// <returns>The dynamic block; null where the reference is to another block.</returns>
+    public CadBlockEntity? GetDynamicBlock(CadInsertObject reference)
+    {
+        Verify.NotNull(reference);
+        return new DynamicBlocks(Drawing).BlockOf(reference);
+    }
+
+    /// <summary>Returns the visibility state in which a reference to a dynamic block is saved.</summary>
+    /// <param name="reference">The block reference.</param>
+    /// <returns>The name of the state; empty where the block has no visibility states.</returns>
+    public string GetVisibilityState(CadInsertObject reference)
+    {
+        Verify.NotNull(reference);
+        return new DynamicBlocks(Drawing).StateOf(reference);
+    }
+
     /// <summary>Gives the faces of the visible entities of model space in world coordinates: faces, meshes and solids,
     /// and what has a thickness. References to blocks are followed.</summary>
     /// <returns>The faces of the visible entities of model space in world coordinates.</returns>

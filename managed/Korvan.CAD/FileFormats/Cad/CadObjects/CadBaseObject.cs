@@ -81,6 +81,9 @@ public abstract partial class CadBaseObject : IKeyedObject
     /// say, so that this holds for all.</summary>
     internal virtual bool HasSubclass(string? name) => true;
 
+    /// <summary>Gets whether files have the fields in the order of their declaration.</summary>
+    internal virtual bool HasOrderedFields => false;
+
     /// <summary>Carries the marker of a subclass.</summary>
     internal virtual void BeginSubclass(ObjectExchange fields, string subclass) => fields.BeginSubclass(subclass);
 

@@ -14,6 +14,9 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// <summary>Reads one object: what all have in common, and through its codec what is its own.</summary>
 internal sealed class DxfObjectReader(DxfTagReader tags)
 {
+    // The markers of the current object so far: a second one begins no fields of its class.
+    private readonly HashSet<string> _entered = [];
+
     internal CadEntityBase ReadEntity(string name) => ReadEntity(Create(name));
 
     /// <summary>Reads into an entity that was made for it.</summary>
@@ -35,6 +38,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
 
     internal void ReadBody(CadBaseObject target)
     {
+        _entered.Clear();
         tags.EnterSubclass(null);
         tags.CurrentHandle = 0;
         while (tags.Next())
@@ -106,7 +110,8 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
             return;
         }
 
-        if (!target.HasSubclass(name))
+        bool isFirst = !target.HasOrderedFields || _entered.Add(name);
+        if (!isFirst || !target.HasSubclass(name))
         {
             ReadUnknownSubclass(target);
             return;

@@ -26,8 +26,8 @@ public partial class CadFieldData
     public int ValueType { get; set; }
 
     /// <summary>Gets or sets the value as an integer. Group code 91.</summary>
-    [CadInt(91, Optional = true)]
-    [CadWhen("(ValueType & 511) is 0 or 1")]
+    [CadInt(91)]
+    [CadWhen("(ValueType & 511) == 1")]
     public int Integer { get; set; }
 
     /// <summary>Gets or sets the value as a number. Group code 140.</summary>
@@ -70,6 +70,9 @@ public partial class CadFieldData
         {
             case StringType:
                 Text = fields.LongText(2, 1, Text);
+                break;
+            case 0 when ValueType == GeneralFlag && fields.Has(1, 0, Text.Length > 0):
+                Text = fields.Text(1, Text);
                 break;
             case DateType:
                 fields.Int32(92, Date.Length);
