@@ -4,7 +4,8 @@ namespace Korvan.CAD.CodecGen;
 
 /// <summary>The generated text of one class, compared by value so that unchanged classes are not written again.
 /// </summary>
-internal sealed class CodecUnit(string hintName, string text, string typeName, string dxfName, string kind, string alias)
+internal sealed class CodecUnit(
+    string hintName, string text, string typeName, string dxfName, string kind, string alias)
     : IEquatable<CodecUnit>
 {
     public string HintName { get; } = hintName;

@@ -82,7 +82,8 @@ internal static class SequenceText
     private static string Pattern(Section section, List<Section> sections, CadClass model)
     {
         string own = section.Subclass.Length == 0 ? "null" : $"\"{section.Subclass}\"";
-        return section == sections.Last() && model.AliasSubclass.Length > 0 ? $"{own} or \"{model.AliasSubclass}\"" : own;
+        bool hasAlias = section == sections.Last() && model.AliasSubclass.Length > 0;
+        return hasAlias ? $"{own} or \"{model.AliasSubclass}\"" : own;
     }
 
     private static void WriteMarker(string name, string content, StringBuilder text, CadClass? last = null)

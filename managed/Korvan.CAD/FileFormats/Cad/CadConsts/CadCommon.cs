@@ -18,7 +18,8 @@ public static class CadCommon
     /// <summary>Gets the name of the layer that every drawing has.</summary>
     public static string DefaultLayer => "0";
 
-    /// <summary>Gets the name of the layer of the points that dimensions are defined by, which is not plotted.</summary>
+    /// <summary>Gets the name of the layer of the points that dimensions are defined by, which is not
+    /// plotted.</summary>
     public static string DefinitionPointsLayer => "DEFPOINTS";
 
     /// <summary>Gets the name of the block with the entities of model space.</summary>
@@ -30,7 +31,8 @@ public static class CadCommon
     /// <summary>Gets the name of the layout of model space.</summary>
     public static string ModelLayout => "Model";
 
-    /// <summary>Gets the start of the names of blocks without a name of their own, as those of the states of dynamic blocks.</summary>
+    /// <summary>Gets the start of the names of blocks without a name of their own, as those of the states of dynamic
+    /// blocks.</summary>
     public static string AnonymousBlockPrefix => "*U";
 
     /// <summary>Gets the start of the names of blocks with the graphics of dimensions.</summary>

@@ -1,4 +1,3 @@
-using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;

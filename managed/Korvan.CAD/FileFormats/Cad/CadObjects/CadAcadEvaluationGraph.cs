@@ -1,6 +1,5 @@
 using System.Collections.Generic;
 using System.Linq;
-using Korvan.CAD.Binding;
 using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
@@ -37,8 +36,8 @@ public partial class CadAcadEvaluationGraph : CadObjectBase, ICadObjectContainer
     /// <returns>The handles.</returns>
     public string[] GetObjectHandles() => [.. NodeList.Select(static node => node.Expression)];
 
-    /// <summary>Gets the edges between nodes: for each the index of the node it comes from and of that it goes to. Group
-    /// code 91.</summary>
+    /// <summary>Gets the edges between nodes: for each the index of the node it comes from and of that it goes to.
+    /// Group code 91.</summary>
     /// <returns>Pairs of indices, one after the other.</returns>
     public int[] GetEdges() => [.. EdgeList.SelectMany(static edge => new[] { edge.From, edge.To })];
 }

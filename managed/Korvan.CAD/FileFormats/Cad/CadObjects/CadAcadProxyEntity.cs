@@ -44,15 +44,15 @@ public partial class CadAcadProxyEntity : CadEntityBase
     [CadBinary(310, Optional = true)]
     public byte[] EntityData { get; set; } = [];
 
-    /// <summary>Gets or sets the format of the drawing when the entity became a proxy: the release in the lower 16 bits,
-    /// its maintenance release in the upper 16 bits; 0 where the file has none. Group code 95.</summary>
+    /// <summary>Gets or sets the format of the drawing when the entity became a proxy: the release in the lower 16
+    /// bits, its maintenance release in the upper 16 bits; 0 where the file has none. Group code 95.</summary>
     public int DrawingFormat { get; set; }
 
     /// <summary>Gets or sets the format of the original: 0 a binary drawing, 1 a text file. Group code 70.</summary>
     public short OriginalFormat { get; set; }
 
-    /// <summary>Gets the handles of the objects that the entity refers to, in the order of the file, each with its group
-    /// code 330, 340, 350 or 360.</summary>
+    /// <summary>Gets the handles of the objects that the entity refers to, in the order of the file, each with its
+    /// group code 330, 340, 350 or 360.</summary>
     /// <returns>The tags.</returns>
     public CadCodeValue[] GetObjectReferences() => [.. References];
 

@@ -5,7 +5,8 @@ using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
-/// <summary>The data section of a drawing of release 2013 or later: preview images, and the geometry of solids.</summary>
+/// <summary>The data section of a drawing of release 2013 or later: preview images, and the geometry of
+/// solids.</summary>
 public sealed class CadAcdsData
 {
     internal CadAcdsData()

@@ -37,8 +37,8 @@ public partial class CadAcdsRecord : CadBaseAcds
         set
         {
             Verify.NotNull(value);
-            AcdsValue data = DataValue
-                ?? throw new CadException("The record has no value for data; only records of a drawing that was read have.");
+            AcdsValue data = DataValue ?? throw new CadException(
+                "The record has no value for data; only records of a drawing that was read have.");
             data.Data = value;
         }
     }

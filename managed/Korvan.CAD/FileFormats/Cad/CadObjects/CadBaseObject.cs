@@ -63,8 +63,8 @@ public abstract partial class CadBaseObject : IKeyedObject
 
     internal CadApplicationCodesContainer? ApplicationCodesOrNull => _applicationCodes;
 
-    /// <summary>Returns the fields that the class declares, with their present values, in the order of files. Fields that
-    /// files leave out at their defaults are left out.</summary>
+    /// <summary>Returns the fields that the class declares, with their present values, in the order of files. Fields
+    /// that files leave out at their defaults are left out.</summary>
     /// <returns>The fields.</returns>
     public CadParameter[] GetParameters()
     {
@@ -77,8 +77,8 @@ public abstract partial class CadBaseObject : IKeyedObject
     /// <returns>Whether the class has such a field.</returns>
     internal virtual bool ReadField(int code, FieldReader reader) => false;
 
-    /// <summary>Determines whether the class knows the marker of a subclass. Classes that take fields in any order do not
-    /// say, so that this holds for all.</summary>
+    /// <summary>Determines whether the class knows the marker of a subclass. Classes that take fields in any order do
+    /// not say, so that this holds for all.</summary>
     internal virtual bool HasSubclass(string? name) => true;
 
     /// <summary>Gets whether files have the fields in the order of their declaration.</summary>

@@ -2,7 +2,8 @@ using System.Collections.Generic;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
-/// <summary>An object within an object, as the text of an attribute of several lines. Group code 101 begins it.</summary>
+/// <summary>An object within an object, as the text of an attribute of several lines. Group code 101 begins
+/// it.</summary>
 public sealed class CadEmbeddedObject
 {
     internal CadEmbeddedObject(string name)
@@ -13,7 +14,7 @@ public sealed class CadEmbeddedObject
     /// <summary>Gets the name, group code 101.</summary>
     public string Name { get; }
 
-    /// <summary>Gets the tags, which are those of the drawing: a change of their values changes it. The list itself is a
-    /// copy.</summary>
+    /// <summary>Gets the tags, which are those of the drawing: a change of their values changes it. The list itself is
+    /// a copy.</summary>
     public List<CadCodeValue> Codes { get; } = [];
 }

@@ -7,8 +7,8 @@ public partial class CadHeader
 {
     private const int TextCode = 1;
 
-    /// <summary>Gets what the drawing states about itself: its title, its author and the like. Text files of release 2004
-    /// and later have it among the variables.</summary>
+    /// <summary>Gets what the drawing states about itself: its title, its author and the like. Text files of release
+    /// 2004 and later have it among the variables.</summary>
     public ISummaryInfo SummaryInfo => new SummaryInfoWrapper(this);
 
     /// <summary>What a drawing states about itself, in its variables.</summary>

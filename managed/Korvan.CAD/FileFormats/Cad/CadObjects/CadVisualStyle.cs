@@ -144,8 +144,8 @@ public partial class CadVisualStyle : CadObjectBase
     /// <summary>Gets or sets whether hidden lines are computed in double precision. Group code 290.</summary>
     public bool HidePrecision { get; set; }
 
-    /// <summary>Gets or sets which edges the style of edges is for: 0 all, 1 default ones. Files up to release 2007 have
-    /// it. Group code 174.</summary>
+    /// <summary>Gets or sets which edges the style of edges is for: 0 all, 1 default ones. Files up to release 2007
+    /// have it. Group code 174.</summary>
     public int StyleApplies { get; set; }
 
     /// <summary>Gets or sets flags of what is shown: 1 backgrounds, 2 lights, 4 materials, 8 shadows. Group code 93, or
@@ -162,8 +162,8 @@ public partial class CadVisualStyle : CadObjectBase
     /// <summary>Gets or sets a reserved number of files of release 2007. Group code 45.</summary>
     internal double Reserved { get; set; }
 
-    /// <summary>Gets whether each value is stated by this style (1) or inherited (0), in the order of the file. The list
-    /// is live. Group code 176.</summary>
+    /// <summary>Gets whether each value is stated by this style (1) or inherited (0), in the order of the file. The
+    /// list is live. Group code 176.</summary>
     public List<int> ValueSources { get; } = [];
 
     /// <summary>Returns the further values of release 2013 and later, which have no names.</summary>
@@ -210,7 +210,8 @@ public partial class CadVisualStyle : CadObjectBase
     {
         EdgeModel = walk.Integer(74, EdgeModel);
         EdgeStyle = walk.Integer(91, EdgeStyle);
-        (IntersectionColorId, IntersectionColorValue) = walk.Color(64, 422, IntersectionColorId, IntersectionColorValue);
+        (IntersectionColorId, IntersectionColorValue) =
+            walk.Color(64, 422, IntersectionColorId, IntersectionColorValue);
         (ObscuredColorId, ObscuredColorValue) = walk.Color(65, 423, ObscuredColorId, ObscuredColorValue);
         ObscuredLineType = walk.Integer(75, ObscuredLineType);
         IntersectionLineType = walk.Integer(175, IntersectionLineType);

@@ -8,9 +8,8 @@ using Korvan.CAD.FileFormats.Cad.CadTables;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
-/// <summary>
-/// Relates references to the dynamic blocks they show. A reference to a state names an anonymous block with the entities
-/// of that state; extended data of its record, and an object of the reference, state the dynamic block.
+/// <summary> Relates references to the dynamic blocks they show. A reference to a state names an anonymous block with
+/// the entities of that state; extended data of its record, and an object of the reference, state the dynamic block.
 /// </summary>
 internal sealed class DynamicBlocks(CadDrawing drawing)
 {

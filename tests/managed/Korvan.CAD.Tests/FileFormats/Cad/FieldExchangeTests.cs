@@ -186,7 +186,8 @@ public class FieldExchangeTests
     };
 
     private static bool IsDouble(int code) =>
-        code is (>= 10 and <= 59) or (>= 110 and <= 149) or (>= 210 and <= 239) or (>= 460 and <= 469) or (>= 1010 and <= 1059);
+        code is (>= 10 and <= 59) or (>= 110 and <= 149) or (>= 210 and <= 239)
+            or (>= 460 and <= 469) or (>= 1010 and <= 1059);
 
     private static bool IsInt16(int code) =>
         code is (>= 60 and <= 79) or (>= 170 and <= 179) or (>= 270 and <= 289) or (>= 370 and <= 389)

@@ -105,7 +105,8 @@ public class ObjectModelTests
         Assert.Equal(["AcDbDs::ID", "Thumbnail_Data"], schema.GetColumnNames());
         Assert.Equal(CadAcdsTypeName.Schema, schema.TypeName);
         Assert.NotEmpty(schema.EmbeddedObjectContainer.EmbeddedObjects);
-        image.AcdsData.Items.Items.OfType<CadAcdsRecord>().First(item => item.OwnerHandle == "37D").Data = [1, 2, 3];
+        image.AcdsData.Items.Items.OfType<CadAcdsRecord>().First(item => item.OwnerHandle == "37D").Data =
+            [1, 2, 3];
         CadImage again = DxfText.Reload(image);
         Assert.Equal([1, 2, 3], again.AcdsData.GetData("37d"));
         Assert.Equal(image.AcdsData.Items.Count, again.AcdsData.Items.Count);
@@ -140,8 +141,8 @@ public class ObjectModelTests
     {
         CadImage image = DxfText.Load(DxfText.Drawing(
             0, "ATTDEF", 5, "A1", 100, "AcDbEntity", 8, "0", 100, "AcDbText", 10, 0, 20, 0, 40, 1, 1, "v", 100,
-            "AcDbAttributeDefinition", 3, "?", 2, "TAG", 70, 0, 100, "AcDbXrecord", 280, 1, 70, 4, 70, 0, 70, 1, 340, "2F", 10,
-            1, 20, 2, 30, 3, 40, 0.5, 2, "TAG", 101, "Embedded Object", 70, 1, 10, 5));
+            "AcDbAttributeDefinition", 3, "?", 2, "TAG", 70, 0, 100, "AcDbXrecord", 280, 1, 70, 4, 70, 0, 70, 1, 340,
+            "2F", 10, 1, 20, 2, 30, 3, 40, 0.5, 2, "TAG", 101, "Embedded Object", 70, 1, 10, 5));
         CadAttDef definition = (CadAttDef)image.Entities.Single();
         Assert.Equal("2F", Assert.Single(definition.XrecordObject!.SecondaryAttributes));
         Assert.Equal((0.5, "TAG"), (definition.XrecordObject.Scale, definition.XrecordObject.Tag));

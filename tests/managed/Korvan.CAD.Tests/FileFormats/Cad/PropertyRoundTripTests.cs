@@ -323,5 +323,6 @@ public class PropertyRoundTripTests
     private static bool IsPoint(Type type) => type == typeof(Cad3DPoint) || type == typeof(Cad2DPoint)
         || type == typeof(CadSize);
 
-    private static string Shown(object? value) => value is byte[] bytes ? Convert.ToHexString(bytes) : Convert.ToString(value, CultureInfo.InvariantCulture) ?? "nothing";
+    private static string Shown(object? value) => value is byte[] bytes
+        ? Convert.ToHexString(bytes) : Convert.ToString(value, CultureInfo.InvariantCulture) ?? "nothing";
 }

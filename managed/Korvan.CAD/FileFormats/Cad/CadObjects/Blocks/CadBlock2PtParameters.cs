@@ -1,6 +1,5 @@
 using System.Collections.Generic;
 using System.Linq;
-using Korvan.CAD.Binding;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;

@@ -24,9 +24,9 @@ public class CadDataTableColumn
     {
     }
 
-    /// <summary>Gets or sets the type: 1 integers, 2 numbers, 3 strings, 4 points in space, 5 objects, 6 to 9 objects by
-    /// hard ownership, soft ownership, hard pointers and soft pointers, 10 booleans, 11 points in the plane. Group code
-    /// 92.</summary>
+    /// <summary>Gets or sets the type: 1 integers, 2 numbers, 3 strings, 4 points in space, 5 objects, 6 to 9 objects
+    /// by hard ownership, soft ownership, hard pointers and soft pointers, 10 booleans, 11 points in the plane. Group
+    /// code 92.</summary>
     public int ColumnType { get; set; } = NumberType;
 
     /// <summary>Gets or sets the name. Group code 2.</summary>

@@ -45,8 +45,8 @@ public partial class CadFieldData
     /// <summary>Gets or sets the value as a string. Group codes 1, 2.</summary>
     public string Text { get; set; } = "";
 
-    /// <summary>Gets or sets the value as a date: eight integers of 16 bits for year, month, weekday, day, hour, minute,
-    /// second and millisecond. Group code 310.</summary>
+    /// <summary>Gets or sets the value as a date: eight integers of 16 bits for year, month, weekday, day, hour,
+    /// minute, second and millisecond. Group code 310.</summary>
     public byte[] Date { get; set; } = [];
 
     /// <summary>Gets or sets the value as a point. Group codes 11, 21, 31.</summary>
@@ -55,7 +55,8 @@ public partial class CadFieldData
     /// <summary>Gets or sets the value as the handle of an object in hexadecimal. Group code 330.</summary>
     public string ObjectHandle { get; set; } = "0";
 
-    /// <summary>Gets or sets the unit: 0 none, 1 a distance, 2 an angle, 4 an area, 8 a volume. Group code 94.</summary>
+    /// <summary>Gets or sets the unit: 0 none, 1 a distance, 2 an angle, 4 an area, 8 a volume. Group code
+    /// 94.</summary>
     public int Unit { get; set; }
 
     /// <summary>Gets or sets the format that the value is shown in. Group code 300.</summary>

@@ -42,8 +42,8 @@ public partial class CadTableStyleCell
 
     private const int BorderCount = 6;
 
-    /// <summary>Gets the borders: top, inner horizontal, bottom, left, inner vertical and right. Group codes 274 to 279,
-    /// 284 to 289 and 64 to 69.</summary>
+    /// <summary>Gets the borders: top, inner horizontal, bottom, left, inner vertical and right. Group codes 274 to
+    /// 279, 284 to 289 and 64 to 69.</summary>
     public TableStyleCellBorder[] Borders { get; } =
         [.. Enumerable.Range(0, BorderCount).Select(static _ => new TableStyleCellBorder())];
 
