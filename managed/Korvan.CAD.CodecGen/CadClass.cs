@@ -22,6 +22,16 @@ internal sealed class CadClass
         Subclass = Named(attribute, "Subclass") as string;
         HandWritten = Named(attribute, "HandWritten") is true;
         Kind = Root(type);
+        IsSequence = Has(type, "CadSequenceAttribute");
+        IsSequenceBase = !(type.BaseType is { } parent && Has(parent, "CadSequenceAttribute"));
+        Leading = [.. Texts(type, "CadMarkersAttribute", "Leading")];
+        Trailing = [.. Texts(type, "CadMarkersAttribute", "Trailing")];
+        AttributeData? alias = type.GetAttributes().FirstOrDefault(candidate =>
+            candidate.AttributeClass?.Name == "CadAliasAttribute");
+        Alias = alias?.ConstructorArguments[0].Value as string ?? "";
+        AliasSubclass = alias?.ConstructorArguments[1].Value as string ?? "";
+        Labels = [.. CadLabel.On(type, "CadLabelAttribute")];
+        Ends = [.. CadLabel.On(type, "CadEndAttribute")];
         Parts = [.. PartsOf(type).Select(part => part.Name)];
     }
 
@@ -52,7 +62,31 @@ internal sealed class CadClass
     /// <summary>Base classes without a marker of their own: their codes stand among those of this class.</summary>
     public IReadOnlyList<string> Parts { get; }
 
-    public bool HasCodec => HasClassAttribute || Properties.Count > 0;
+    /// <summary>Whether files have the fields in declared order only, so that group codes may repeat.</summary>
+    public bool IsSequence { get; }
+
+    /// <summary>Whether no class that this one derives from is a sequence.</summary>
+    public bool IsSequenceBase { get; }
+
+    /// <summary>Another name in files; empty for none.</summary>
+    public string Alias { get; }
+
+    /// <summary>The last marker under the other name; empty where it is that of the class.</summary>
+    public string AliasSubclass { get; }
+
+    /// <summary>Markers without fields before the fields of the class.</summary>
+    public IReadOnlyList<string> Leading { get; }
+
+    /// <summary>Markers without fields after the fields of the class.</summary>
+    public IReadOnlyList<string> Trailing { get; }
+
+    /// <summary>Fixed strings that begin a part.</summary>
+    public IReadOnlyList<CadLabel> Labels { get; }
+
+    /// <summary>Fixed strings that end a part.</summary>
+    public IReadOnlyList<CadLabel> Ends { get; }
+
+    public bool HasCodec => HasClassAttribute || IsSequence || Properties.Count > 0;
 
     /// <summary>Whether the class is a part of objects, which has neither a type name nor subclasses.</summary>
     public bool IsPartOfObject => Kind.Length == 0;
@@ -104,12 +138,23 @@ internal sealed class CadClass
 
     private static bool IsRoot(INamedTypeSymbol type)
     {
-        return type.Name is "CadEntityBase" or "CadObjectBase" or "CadSymbolTableGroupCodes";
+        return type.Name is "CadEntityBase" or "CadObjectBase" or "CadBaseAcds" or "CadSymbolTableGroupCodes";
     }
 
     private static AttributeData? Attribute(INamedTypeSymbol type)
     {
         return type.GetAttributes().FirstOrDefault(attribute => attribute.AttributeClass?.Name == ClassAttribute);
+    }
+
+    private static bool Has(INamedTypeSymbol type, string attribute)
+    {
+        return type.GetAttributes().Any(candidate => candidate.AttributeClass?.Name == attribute);
+    }
+
+    private static IEnumerable<string> Texts(INamedTypeSymbol type, string attribute, string name)
+    {
+        return type.GetAttributes().Where(candidate => candidate.AttributeClass?.Name == attribute)
+            .Select(candidate => Named(candidate, name)).OfType<string>();
     }
 
     private static object? Named(AttributeData? attribute, string name)

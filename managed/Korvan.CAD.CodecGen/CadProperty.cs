@@ -1,3 +1,4 @@
+using System.Collections.Generic;
 using System.Linq;
 using Microsoft.CodeAnalysis;
 using Microsoft.CodeAnalysis.CSharp;
@@ -16,13 +17,20 @@ internal sealed class CadProperty
         Optional = attribute.NamedArguments.Any(argument => argument.Key == "Optional" && argument.Value.Value is true);
         Since = attribute.NamedArguments.Where(argument => argument.Key == "Since")
             .Select(argument => (int)argument.Value.Value!).FirstOrDefault();
-        TypeName = symbol.Type.ToDisplayString(SymbolDisplayFormat.FullyQualifiedFormat);
+        TypeName = symbol.Type.ToDisplayString(SymbolDisplayFormat.FullyQualifiedFormat)
+            + (symbol.NullableAnnotation == NullableAnnotation.Annotated ? "?" : "");
         When = symbol.GetAttributes().FirstOrDefault(one => one.AttributeClass?.Name == "CadWhenAttribute")
             ?.ConstructorArguments[0].Value as string ?? "";
         IsEnum = symbol.Type.TypeKind == TypeKind.Enum;
         ElementType = (symbol.Type as INamedTypeSymbol)?.TypeArguments.FirstOrDefault()?.Name ?? "";
         Count = attribute.NamedArguments.Where(argument => argument.Key == "Count")
             .Select(argument => (int)argument.Value.Value!).FirstOrDefault();
+        SecondCode = Kind == "CadSize" ? (int)attribute.ConstructorArguments[1].Value! : 0;
+        Max = attribute.NamedArguments.Where(argument => argument.Key == "Max")
+            .Select(argument => (int)argument.Value.Value!).FirstOrDefault();
+        Subclass = symbol.GetAttributes().FirstOrDefault(one => one.AttributeClass?.Name == "CadSubclassAttribute")
+            ?.ConstructorArguments[0].Value as string;
+        Labels = [.. CadLabel.On(symbol, "CadLabelAttribute")];
         Table = Kind == "CadName" ? $"global::{attribute.ConstructorArguments[1].ToCSharpString()}" : "";
         Symbol = symbol;
         Initial = symbol.DeclaringSyntaxReferences.Select(reference => reference.GetSyntax())
@@ -38,6 +46,9 @@ internal sealed class CadProperty
 
     public int Code { get; }
 
+    /// <summary>The group code of the height of a size.</summary>
+    public int SecondCode { get; }
+
     public bool Optional { get; }
 
     public int Since { get; }
@@ -52,7 +63,16 @@ internal sealed class CadProperty
     /// <summary>The group code of the number of items of a list; 0 where the format states none.</summary>
     public int Count { get; }
 
-    /// <summary>The property that tells whether the object has this one; empty for always.</summary>
+    /// <summary>The largest number of items of a list without a count; 0 for any number.</summary>
+    public int Max { get; }
+
+    /// <summary>The marker of the subclass that begins with this property; null within a subclass.</summary>
+    public string? Subclass { get; }
+
+    /// <summary>Fixed strings before the property.</summary>
+    public IReadOnlyList<CadLabel> Labels { get; }
+
+    /// <summary>The condition under which the object has the property, as source text; empty for always.</summary>
     public string When { get; }
 
     /// <summary>The symbol table that a name refers to, as source text.</summary>
@@ -91,7 +111,15 @@ internal sealed class CadProperty
     public static CadProperty? From(IPropertySymbol symbol)
     {
         AttributeData? attribute = symbol.GetAttributes().FirstOrDefault(candidate =>
-            candidate.AttributeClass?.BaseType?.Name == "CadPropertyAttribute");
+            Bases(candidate.AttributeClass).Any(type => type.Name == "CadPropertyAttribute"));
         return attribute is null ? null : new CadProperty(symbol, attribute);
+    }
+
+    private static IEnumerable<INamedTypeSymbol> Bases(INamedTypeSymbol? type)
+    {
+        for (INamedTypeSymbol? current = type?.BaseType; current is not null; current = current.BaseType)
+        {
+            yield return current;
+        }
     }
 }

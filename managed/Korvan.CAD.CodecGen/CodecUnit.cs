@@ -4,7 +4,8 @@ namespace Korvan.CAD.CodecGen;
 
 /// <summary>The generated text of one class, compared by value so that unchanged classes are not written again.
 /// </summary>
-internal sealed class CodecUnit(string hintName, string text, string typeName, string dxfName, string kind)
+internal sealed class CodecUnit(
+    string hintName, string text, string typeName, string dxfName, string kind, string alias)
     : IEquatable<CodecUnit>
 {
     public string HintName { get; } = hintName;
@@ -19,6 +20,9 @@ internal sealed class CodecUnit(string hintName, string text, string typeName, s
 
     /// <summary>The root class that tells where such objects stand: entities, objects or tables.</summary>
     public string Kind { get; } = kind;
+
+    /// <summary>Another name in files; empty for none.</summary>
+    public string Alias { get; } = alias;
 
     public bool Equals(CodecUnit? other) => other is not null && HintName == other.HintName && Text == other.Text;
 

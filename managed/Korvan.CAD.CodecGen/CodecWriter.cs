@@ -6,9 +6,9 @@ namespace Korvan.CAD.CodecGen;
 /// <summary>Writes how one class exchanges its fields: by group code in any order, and in declared order.</summary>
 internal static class CodecWriter
 {
-    private const string Exchange = "global::Korvan.CAD.FileFormats.Cad.Exchange";
-    private const string Reader = $"{Exchange}.FieldReader";
-    private const string Walk = $"{Exchange}.ObjectExchange";
+    internal const string Exchange = "global::Korvan.CAD.FileFormats.Cad.Exchange";
+    internal const string Reader = $"{Exchange}.FieldReader";
+    internal const string Walk = $"{Exchange}.ObjectExchange";
 
     public static CodecUnit Write(CadClass model)
     {
@@ -32,7 +32,11 @@ internal static class CodecWriter
             text.Append(PropertyText.Declaration(property));
         }
 
-        if (model.IsPartOfObject)
+        if (model.IsSequence)
+        {
+            SequenceText.Write(model, text);
+        }
+        else if (model.IsPartOfObject)
         {
             WritePart(model, text);
         }
@@ -42,18 +46,24 @@ internal static class CodecWriter
             WriteWalk(model, text);
         }
 
-        text.AppendLine($"    partial void OnReadField(int code, {Reader} reader, ref bool taken);");
+        if (!model.IsSequence)
+        {
+            text.AppendLine($"    partial void OnReadField(int code, {Reader} reader, ref bool taken);");
+        }
+
         text.AppendLine($"    partial void OnExchange({Walk} fields);");
         text.AppendLine("}");
         string full = $"{model.Namespace}.{model.Name}";
-        return new CodecUnit($"{full}.g.cs", text.ToString(), full, model.IsAbstract ? "" : model.DxfName, model.Kind);
+        return new CodecUnit(
+            $"{full}.g.cs", text.ToString(), full, model.IsAbstract ? "" : model.DxfName, model.Kind, model.Alias);
     }
 
     private static void WriteName(CadClass model, StringBuilder text)
     {
         if (model.DxfName.Length > 0)
         {
-            text.AppendLine($"    internal override string DxfName => \"{model.DxfName}\";");
+            string stored = model.Alias.Length > 0 ? "KeptTags?.ObjectName ?? " : "";
+            text.AppendLine($"    internal override string DxfName => {stored}\"{model.DxfName}\";");
         }
     }
 
@@ -62,6 +72,15 @@ internal static class CodecWriter
         text.AppendLine($"    internal override bool ReadField(int code, {Reader} reader)");
         text.AppendLine("    {");
         string guard = model.Subclass is null or "AcDbEntity" ? "true" : $"reader.InSubclass(\"{model.Subclass}\")";
+        foreach (CadProperty part in model.Properties.Where(property => property.Subclass is not null))
+        {
+            text.AppendLine($"        if (reader.Subclass == \"{part.Subclass}\")");
+            text.AppendLine("        {");
+            text.AppendLine($"            {part.Name} ??= new();");
+            text.AppendLine($"            return {Exchange}.SequenceReader.Read(this, reader, {part.Name}.Exchange);");
+            text.AppendLine("        }");
+        }
+
         text.AppendLine($"        if ({guard})");
         text.AppendLine("        {");
         text.AppendLine("            bool taken = false;");
@@ -104,7 +123,7 @@ internal static class CodecWriter
             return;
         }
 
-        foreach (CadProperty part in model.Properties.Where(property => property.IsPart))
+        foreach (CadProperty part in model.Properties.Where(property => property is { IsPart: true, Subclass: null }))
         {
             text.AppendLine($"            if ({part.Name}.ReadField(code, reader)) {{ return true; }}");
         }
@@ -163,12 +182,23 @@ internal static class CodecWriter
             text.AppendLine($"        fields.EndSubclass(this, \"{model.Subclass}\");");
         }
 
+        foreach (CadProperty part in model.Properties.Where(property => property.Subclass is not null))
+        {
+            text.AppendLine($"        if (fields.Includes(0, {part.Name} is not null))");
+            text.AppendLine("        {");
+            text.AppendLine($"            {part.Name} ??= new();");
+            text.AppendLine($"            BeginSubclass(fields, \"{part.Subclass}\");");
+            text.AppendLine($"            {part.Name}.Exchange(fields);");
+            text.AppendLine($"            fields.EndSubclass(this, \"{part.Subclass}\");");
+            text.AppendLine("        }");
+        }
+
         text.AppendLine("    }");
     }
 
     private static void WriteProperties(CadClass model, StringBuilder text)
     {
-        foreach (CadProperty property in model.Properties)
+        foreach (CadProperty property in model.Properties.Where(property => property.Subclass is null))
         {
             text.AppendLine($"        {FieldText.Condition(property)}{FieldText.Exchanged(property, Exchange)};");
         }

@@ -26,6 +26,15 @@ internal static class FieldText
                 : [$"case {property.Count}: {property.Name}.EnsureCapacity(reader.GetCount());"];
         }
 
+        if (property.Kind == "CadSize")
+        {
+            return
+            [
+                $"case {property.Code}: {property.Name}.Width = reader.GetDouble();",
+                $"case {property.SecondCode}: {property.Name}.Height = reader.GetDouble();",
+            ];
+        }
+
         return property.IsPoint ? PointCases(property)
             : [$"case {property.Code}: {property.Name} = {Read(property)};"];
     }
@@ -43,6 +52,7 @@ internal static class FieldText
         return property.Kind switch
         {
             "Cad2DPoint" or "Cad3DPoint" => $"fields.Point({code}, {name})",
+            "CadSize" => $"fields.Size({code}, {property.SecondCode}, {name})",
             "CadList" => ExchangedList(property, role),
             "CadRepeated" => $"fields.Parts({name}, fields.Count({property.Count}, {name}.Count), "
                 + "static (part, walk) => part.Exchange(walk))",
@@ -59,6 +69,34 @@ internal static class FieldText
     {
         return property is { Since: 0, Optional: false, When: "" } ? ""
             : $"if (fields.Includes({property.Since.ToString(CultureInfo.InvariantCulture)}, {Differs(property)})) ";
+    }
+
+    /// <summary>The statement that exchanges a property of a class whose fields come in declared order.</summary>
+    public static string InSequence(CadProperty property, string space)
+    {
+        if (property.Count != 0 || !(property.IsList || property.IsRepeated))
+        {
+            return Exchanged(property, space);
+        }
+
+        string arguments = $"{property.Code}, {property.Name}";
+        string max = property.Max == 0 ? "int.MaxValue" : property.Max.ToString(CultureInfo.InvariantCulture);
+        return property switch
+        {
+            { IsRepeated: true } => $"fields.Run({arguments}, static (part, walk) => part.Exchange(walk), {max})",
+            { ElementType: "String", Code: >= 320 } =>
+                $"fields.RunOfHandles({arguments}, {space}.HandleRole.{property.HandleRole}, {max})",
+            _ => $"fields.Run({arguments}, {max})",
+        };
+    }
+
+    /// <summary>The condition under which a file has a property; empty for always.</summary>
+    public static string Presence(CadProperty property)
+    {
+        string differs = Changed(property);
+        return property is { Since: 0, Optional: false } ? ""
+            : $"fields.Has({property.Code}, {property.Since.ToString(CultureInfo.InvariantCulture)}, "
+                + $"{(differs.Length == 0 ? "true" : differs)})";
     }
 
     private static IEnumerable<string> PointCases(CadProperty property)
@@ -154,6 +192,7 @@ internal static class FieldText
         if (!property.IsPoint)
         {
             return property.Kind == "CadBinary" ? $"{property.Name}.Length > 0"
+                : property.IsList || property.IsRepeated ? $"{property.Name}.Count > 0"
                 : $"{property.Name} != {property.Initial ?? "default"}";
         }
 

@@ -22,6 +22,7 @@ internal static class TypeTable
         text.AppendLine("{");
         WriteKind(units, "CadEntityBase", "CadObjects", "CreateEntity", text);
         WriteKind(units, "CadObjectBase", "CadObjects", "CreateObject", text);
+        WriteKind(units, "CadBaseAcds", "CadObjects", "CreateAcds", text);
         WriteKind(units, "CadSymbolTableGroupCodes", "CadTables", "CreateTableRecord", text);
         text.AppendLine("}");
         return text.ToString();
@@ -39,6 +40,12 @@ internal static class TypeTable
         foreach (CodecUnit unit in made)
         {
             text.AppendLine($"        \"{unit.DxfName}\" => new global::{unit.TypeName}(),");
+        }
+
+        foreach (CodecUnit unit in made.Where(unit => unit.Alias.Length > 0))
+        {
+            text.AppendLine($"        \"{unit.Alias}\" => global::Korvan.CAD.FileFormats.Cad.Model.KeptTags.Named("
+                + $"new global::{unit.TypeName}(), \"{unit.Alias}\"),");
         }
 
         text.AppendLine("        _ => null,");

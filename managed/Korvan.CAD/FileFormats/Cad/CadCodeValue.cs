@@ -1,6 +1,8 @@
 using System;
 using System.Globalization;
 using Korvan.CAD.Binding;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad;
 
@@ -22,6 +24,9 @@ public class CadCodeValue
 
     /// <summary>Gets or sets the text of the value.</summary>
     public string Value { get; set; }
+
+    /// <summary>Gets the type of the value, which the group code states.</summary>
+    public CadGroupCodeTypes CodeType => GroupCodes.TypeOf(Attribute);
 
     /// <summary>Gives the value as a number.</summary>
     /// <returns>The value as a number.</returns>

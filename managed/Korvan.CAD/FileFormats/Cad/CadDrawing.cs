@@ -64,6 +64,9 @@ internal sealed class CadDrawing
     /// <summary>Gets or sets the preview image, a bitmap without its file header; empty for none.</summary>
     internal byte[] ThumbnailImage { get; set; } = [];
 
+    /// <summary>Gets the data section.</summary>
+    internal CadAcdsData AcdsData { get; } = new();
+
     /// <summary>Gets or sets whether the file has a block for model space; old ones need not.</summary>
     internal bool ModelSpaceInFile { get; set; }
 

@@ -86,6 +86,12 @@ public partial class CadImage : Image, IDrawingContent
     /// <summary>Gets the preview image, a bitmap without its file header; empty for none.</summary>
     public byte[] ThumbnailImage => _drawing.ThumbnailImage;
 
+    /// <summary>Gets the preview image with its size; null where the drawing has none.</summary>
+    public CadThumbnailImage? Thumbnail => ThumbnailImage.Length == 0 ? null : new CadThumbnailImage(ThumbnailImage);
+
+    /// <summary>Gets the data section: preview images, and the geometry of solids from release 2013 on.</summary>
+    public CadAcdsData AcdsData => Drawing.AcdsData;
+
     /// <summary>Gets how many entities are of a type that the library does not know. They survive loading and saving
     /// unchanged.</summary>
     public int UnknownEntityCount => Drawing.UnknownEntityCount;
@@ -163,6 +169,24 @@ public partial class CadImage : Image, IDrawingContent
         CadLayout layout = Layouts[layoutName];
         return DrawingLinks.BlockOf(Drawing, layout)?.Entities
             ?? throw new CadException($"The block of the layout '{layoutName}' is missing.");
+    }
+
+    /// <summary>Returns the dynamic block that a block reference shows in one of its states.</summary>
+    /// <param name="reference">The block reference.</param>
+    /// <returns>The dynamic block; null where the reference is to another block.</returns>
+    public CadBlockEntity? GetDynamicBlock(CadInsertObject reference)
+    {
+        Verify.NotNull(reference);
+        return new DynamicBlocks(Drawing).BlockOf(reference);
+    }
+
+    /// <summary>Returns the visibility state in which a reference to a dynamic block is saved.</summary>
+    /// <param name="reference">The block reference.</param>
+    /// <returns>The name of the state; empty where the block has no visibility states.</returns>
+    public string GetVisibilityState(CadInsertObject reference)
+    {
+        Verify.NotNull(reference);
+        return new DynamicBlocks(Drawing).StateOf(reference);
     }
 
     /// <summary>Gives the faces of the visible entities of model space in world coordinates: faces, meshes and solids,

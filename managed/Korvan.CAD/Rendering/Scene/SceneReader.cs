@@ -40,7 +40,12 @@ internal static class SceneReader
     /// <summary>The tables of a drawing, without its blocks.</summary>
     internal static SceneTables ReadTables(CadDrawing drawing)
     {
-        var tables = new SceneTables { Settings = Settings(drawing), Images = ImageFiles.Of(drawing) };
+        var tables = new SceneTables
+        {
+            Settings = Settings(drawing),
+            Images = ImageFiles.Of(drawing),
+            Shapes = ShapeFiles.Of(drawing),
+        };
         var styleNames = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
         foreach (CadStyleTableObject text in drawing.Styles)
         {

@@ -122,6 +122,9 @@ internal sealed class SceneTables
     /// <summary>The pixels of images, by the handle of their definition.</summary>
     internal ImageFiles Images { get; set; } = ImageFiles.None;
 
+    /// <summary>The symbols of the shape files that the drawing names.</summary>
+    internal ShapeFiles Shapes { get; set; } = ShapeFiles.None;
+
     internal SceneSettings Settings { get; set; } = new();
 
     internal LayerInfo Layer(string name) => Layers.TryGetValue(name, out LayerInfo? layer) ? layer : AddLayer(name);

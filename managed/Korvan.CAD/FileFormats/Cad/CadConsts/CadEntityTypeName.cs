@@ -170,4 +170,7 @@ public enum CadEntityTypeName
 
     /// <summary>COORDINATION_MODEL.</summary>
     CoordinationModel = 54,
+
+    /// <summary>ACIDBLOCKREFERENCE.</summary>
+    AcidBlockReference = 55,
 }

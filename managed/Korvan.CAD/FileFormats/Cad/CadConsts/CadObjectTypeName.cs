@@ -119,4 +119,160 @@ public enum CadObjectTypeName
 
     /// <summary>LIGHTLIST.</summary>
     LightList = 37,
+
+    /// <summary>ACAD_EVALUATION_GRAPH.</summary>
+    EvaluationGraph = 38,
+
+    /// <summary>BLOCKALIGNMENTGRIP.</summary>
+    BlockAlignmentGrip = 39,
+
+    /// <summary>BLOCKALIGNMENTPARAMETER.</summary>
+    BlockAlignmentParameter = 40,
+
+    /// <summary>BLOCKBASEPOINTPARAMETER.</summary>
+    BlockBasePointParameter = 41,
+
+    /// <summary>BLOCKFLIPACTION.</summary>
+    BlockFlipAction = 42,
+
+    /// <summary>BLOCKFLIPGRIP.</summary>
+    BlockFlipGrip = 43,
+
+    /// <summary>BLOCKFLIPPARAMETER.</summary>
+    BlockFlipParameter = 44,
+
+    /// <summary>BLOCKGRIPLOCATIONCOMPONENT.</summary>
+    BlockGripLocationComponent = 45,
+
+    /// <summary>BLOCKLINEARGRIP.</summary>
+    BlockLinearGrip = 46,
+
+    /// <summary>BLOCKLINEARPARAMETER.</summary>
+    BlockLinearParameter = 47,
+
+    /// <summary>BLOCKMOVEACTION.</summary>
+    BlockMoveAction = 48,
+
+    /// <summary>BLOCKPOINTPARAMETER.</summary>
+    BlockPointParameter = 49,
+
+    /// <summary>BLOCKROTATEACTION.</summary>
+    BlockRotateAction = 50,
+
+    /// <summary>BLOCKROTATIONGRIP.</summary>
+    BlockRotationGrip = 51,
+
+    /// <summary>BLOCKROTATIONPARAMETER.</summary>
+    BlockRotationParameter = 52,
+
+    /// <summary>BLOCKSCALEACTION.</summary>
+    BlockScaleAction = 53,
+
+    /// <summary>BLOCKSTRETCHACTION.</summary>
+    BlockStretchAction = 54,
+
+    /// <summary>BLOCKVISIBILITYGRIP.</summary>
+    BlockVisibilityGrip = 55,
+
+    /// <summary>BLOCKVISIBILITYPARAMETER.</summary>
+    BlockVisibilityParameter = 56,
+
+    /// <summary>BLOCKXYGRIP.</summary>
+    BlockXYGrip = 57,
+
+    /// <summary>ACSH_BOX_CLASS.</summary>
+    HistoryBox = 58,
+
+    /// <summary>ACSH_WEDGE_CLASS.</summary>
+    HistoryWedge = 59,
+
+    /// <summary>ACSH_SPHERE_CLASS.</summary>
+    HistorySphere = 60,
+
+    /// <summary>ACSH_CYLINDER_CLASS.</summary>
+    HistoryCylinder = 61,
+
+    /// <summary>ACSH_CONE_CLASS.</summary>
+    HistoryCone = 62,
+
+    /// <summary>ACSH_PYRAMID_CLASS.</summary>
+    HistoryPyramid = 63,
+
+    /// <summary>ACSH_TORUS_CLASS.</summary>
+    HistoryTorus = 64,
+
+    /// <summary>ACSH_HISTORY_CLASS.</summary>
+    SolidHistory = 65,
+
+    /// <summary>ACDBASSOCACTION.</summary>
+    AssocAction = 66,
+
+    /// <summary>ACDBASSOCNETWORK.</summary>
+    AssocNetwork = 67,
+
+    /// <summary>ACDBASSOC2DCONSTRAINTGROUP.</summary>
+    AssocConstraintGroup = 68,
+
+    /// <summary>ACDBASSOCVARIABLE.</summary>
+    AssocVariable = 69,
+
+    /// <summary>ACDBASSOCDEPENDENCY.</summary>
+    AssocDependency = 70,
+
+    /// <summary>ACDBASSOCGEOMDEPENDENCY.</summary>
+    AssocGeomDependency = 71,
+
+    /// <summary>ACDBASSOCVALUEDEPENDENCY.</summary>
+    AssocValueDependency = 72,
+
+    /// <summary>ACDBPERSSUBENTMANAGER.</summary>
+    PersSubentManager = 73,
+
+    /// <summary>ACDBASSOCPERSSUBENTMANAGER.</summary>
+    AssocPersSubentManager = 74,
+
+    /// <summary>ACDB_ALDIMOBJECTCONTEXTDATA_CLASS.</summary>
+    AlignedDimensionContext = 75,
+
+    /// <summary>ACDB_MTEXTOBJECTCONTEXTDATA_CLASS.</summary>
+    MTextContext = 76,
+
+    /// <summary>ACDB_MLEADEROBJECTCONTEXTDATA_CLASS.</summary>
+    MLeaderContext = 77,
+
+    /// <summary>SECTIONMANAGER.</summary>
+    SectionManager = 78,
+
+    /// <summary>SECTIONSETTINGS.</summary>
+    SectionSettings = 79,
+
+    /// <summary>SOLID_BACKGROUND.</summary>
+    SolidBackground = 80,
+
+    /// <summary>GRADIENT_BACKGROUND.</summary>
+    GradientBackground = 81,
+
+    /// <summary>SKYLIGHT_BACKGROUND.</summary>
+    SkyBackground = 82,
+
+    /// <summary>ACDB_BLOCKREPRESENTATION_DATA.</summary>
+    BlockRepresentation = 83,
+
+    /// <summary>ACDB_DYNAMICBLOCKPURGEPREVENTER_VERSION.</summary>
+    DynamicBlockPurgePreventer = 84,
+
+    /// <summary>DBCOLOR.</summary>
+    Color = 85,
+
+    /// <summary>ACDBSECTIONVIEWSTYLE.</summary>
+    SectionViewStyle = 86,
+
+    /// <summary>VLO-VL.</summary>
+    Vlo = 87,
+
+    /// <summary>OBJECT_PTR.</summary>
+    ObjectPointer = 88,
+
+    /// <summary>UNUSED.</summary>
+    Unused = 89,
 }

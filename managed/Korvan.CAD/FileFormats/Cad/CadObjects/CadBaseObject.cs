@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Globalization;
+using Korvan.CAD.FileFormats.Cad.CadParameters;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
 
@@ -39,6 +40,9 @@ public abstract partial class CadBaseObject : IKeyedObject
     /// written back unchanged.</summary>
     public CadCodeValue[] UnknownCodes => KeptTags?.Values ?? [];
 
+    /// <summary>Gets the objects within this one, as the text of an attribute of several lines.</summary>
+    public CadEmbeddedObjectContainer EmbeddedObjectContainer => new(Embedded ?? []);
+
     /// <summary>Gets or sets the handle as a number; 0 for none.</summary>
     internal ulong Handle { get; set; }
 
@@ -59,9 +63,26 @@ public abstract partial class CadBaseObject : IKeyedObject
 
     internal CadApplicationCodesContainer? ApplicationCodesOrNull => _applicationCodes;
 
+    /// <summary>Returns the fields that the class declares, with their present values, in the order of files. Fields
+    /// that files leave out at their defaults are left out.</summary>
+    /// <returns>The fields.</returns>
+    public CadParameter[] GetParameters()
+    {
+        ParameterCollector collector = new();
+        Exchange(collector);
+        return [.. collector.Parameters];
+    }
+
     /// <summary>Takes the current field over.</summary>
     /// <returns>Whether the class has such a field.</returns>
     internal virtual bool ReadField(int code, FieldReader reader) => false;
+
+    /// <summary>Determines whether the class knows the marker of a subclass. Classes that take fields in any order do
+    /// not say, so that this holds for all.</summary>
+    internal virtual bool HasSubclass(string? name) => true;
+
+    /// <summary>Gets whether files have the fields in the order of their declaration.</summary>
+    internal virtual bool HasOrderedFields => false;
 
     /// <summary>Carries the marker of a subclass.</summary>
     internal virtual void BeginSubclass(ObjectExchange fields, string subclass) => fields.BeginSubclass(subclass);

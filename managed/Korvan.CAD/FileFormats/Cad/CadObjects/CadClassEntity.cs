@@ -1,5 +1,6 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -13,6 +14,9 @@ public partial class CadClassEntity : IKeyedObject
 
     /// <summary>Gets what the class is found by: the name of its records.</summary>
     public string Key => DxfRecordName;
+
+    /// <summary>Gets which class it is of those that the library knows.</summary>
+    public CadClassTypeName ClassType => ClassTypeNames.Parse(DxfRecordName);
 
     /// <summary>Gets or sets the name that objects have in files. Group code 1.</summary>
     [CadString(1)]

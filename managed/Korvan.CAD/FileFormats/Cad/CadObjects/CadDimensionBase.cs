@@ -5,7 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>What dimensions have in common.</summary>
 [CadObject("DIMENSION", Subclass = "AcDbDimension")]
-public abstract partial class CadDimensionBase : CadEntityBase
+public abstract partial class CadDimensionBase : CadDimensionBaseR12
 {
     internal CadDimensionBase()
     {
@@ -59,22 +59,8 @@ public abstract partial class CadDimensionBase : CadEntityBase
     [CadString(1, Optional = true)]
     public string Text { get; set; } = "";
 
-    /// <summary>Gets or sets the direction of the text against the default, in degrees. Group code 53.</summary>
-    [CadAngle(53, Optional = true)]
-    public double TextRotation { get; set; }
-
-    /// <summary>Gets or sets the negative of the angle of the horizontal direction, in degrees. Group code
-    /// 51.</summary>
-    [CadAngle(51, Optional = true)]
-    public double HorizontalDirection { get; set; }
-
-    /// <summary>Gets or sets the unit normal of the plane of the dimension. Group codes 210, 220, 230.</summary>
-    [Cad3DPoint(210, Optional = true)]
-    public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
-
-    /// <summary>Gets or sets the name of the dimension style. Group code 3.</summary>
-    [CadName(3, SymbolTable.DimensionStyle)]
-    public string StyleName { get; set; } = "STANDARD";
+    /// <inheritdoc/>
+    public override string GraphicsBlockName => BlockName;
 
     /// <summary>Gets the kind of the dimension without its flags.</summary>
     public CadDimensionType DimensionType => (CadDimensionType)(TypeOfDimension & 7);

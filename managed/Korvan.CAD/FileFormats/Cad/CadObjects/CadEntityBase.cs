@@ -30,6 +30,9 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEnt
     /// <summary>Gets the handle, which names the entity within its drawing.</summary>
     public string UniqueId => ObjectHandle;
 
+    /// <summary>Gets the coordinate system that the points of the entity are in.</summary>
+    public CadEntityCoordinates CoordinateSystem => EntityCoordinates.Of(this);
+
     /// <summary>Gets or sets the space that the entity lies in. Group code 67.</summary>
     [CadShort(67, Optional = true)]
     public CadEntitySpaceMode SpaceMode { get; set; }

@@ -90,6 +90,13 @@ public partial class CadHeader
             ?? throw new CadException($"The drawing has no variable {name}; use set_tag to add it.");
     }
 
+    /// <summary>Returns the tags of a variable. The list is live: changes change the drawing.</summary>
+    /// <param name="variable">The variable.</param>
+    /// <returns>The tags of the variable.</returns>
+    /// <exception cref="CadException">The drawing does not state it.</exception>
+    public List<CadCodeValue> GetVariable(CadHeaderAttribute variable) =>
+        GetTags($"${variable.ToString().ToUpperInvariant()}");
+
     /// <summary>Sets a variable of one tag.</summary>
     /// <param name="name">The name, as in $LTSCALE.</param>
     /// <param name="groupCode">The group code of the value: 40 numbers, 70 integers, 2 or 1 texts.</param>

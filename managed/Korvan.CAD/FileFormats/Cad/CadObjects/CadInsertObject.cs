@@ -9,7 +9,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>An insertion of a block, or a grid of insertions.</summary>
 [CadObject("INSERT", Subclass = "AcDbBlockReference")]
-public partial class CadInsertObject : CadEntityBase
+public partial class CadInsertObject : CadBlockNameEntity
 {
     /// <summary>Creates the object with its defaults.</summary>
     public CadInsertObject()
@@ -62,6 +62,9 @@ public partial class CadInsertObject : CadEntityBase
     /// 230.</summary>
     [Cad3DPoint(210, Optional = true)]
     public Cad3DPoint ExtrusionDirection { get; set; } = new(0, 0, 1);
+
+    /// <inheritdoc/>
+    public override string GraphicsBlockName => Name;
 
     /// <summary>Gets the attributes of the insertion. The list is live.</summary>
     public IList<CadAttrib> Attributes { get; }

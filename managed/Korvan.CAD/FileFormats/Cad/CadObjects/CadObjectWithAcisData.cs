@@ -37,7 +37,7 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
 
     internal void ExchangeAcis(ObjectExchange fields)
     {
-        if (fields.Includes(0, fields.Release < 2013 || AcisData.Count > 0))
+        if (fields.Has(70, 0, fields.Release < 2013 || AcisData.Count > 0))
         {
             ModelerFormatVersion = fields.Int16(70, ModelerFormatVersion);
         }

@@ -1,6 +1,7 @@
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -15,6 +16,10 @@ public partial class CadXRecord : CadObjectBase
 
     /// <summary>Gets the tags, group codes 1 to 369. The list is live.</summary>
     public IList<CadCodeValue> Data { get; } = new CheckedList<CadCodeValue>("data");
+
+    /// <summary>Returns the parts of a broken table; empty for a record that is not of a table.</summary>
+    /// <returns>The parts from top to bottom.</returns>
+    public CadBreakData[] GetTableBreaks() => TableBreaks.Read(Data);
 
     partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {

@@ -1,3 +1,4 @@
+using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
@@ -11,6 +12,9 @@ public partial class CadStyleTableObject : CadSymbolTableGroupCodes
     public CadStyleTableObject()
     {
     }
+
+    /// <summary>Gets the flags of the style.</summary>
+    public CadFontStyleTableFlag StyleFlags => (CadFontStyleTableFlag)Flags;
 
     /// <summary>Gets or sets the fixed height; 0 for none. Group code 40.</summary>
     [CadDouble(40)]

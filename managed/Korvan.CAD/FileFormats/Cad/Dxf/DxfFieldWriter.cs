@@ -7,37 +7,86 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// <summary>Writes the fields of objects as tags.</summary>
 internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 {
+    private Dictionary<string, SequenceLayout>? _layouts;
+    private SequenceLayout? _layout;
+    private int _call;
+
     internal override int Release => writer.Release;
 
     internal override bool IsReading => false;
 
-    internal override void BeginSubclass(string name) => writer.WriteSubclass(name);
+    /// <summary>Begins an object.</summary>
+    /// <param name="layouts">How its fields were in the file that it was read from, by subclass; null where they were
+    /// as its class writes them.</param>
+    internal void Begin(Dictionary<string, SequenceLayout>? layouts)
+    {
+        _layouts = layouts;
+        _layout = null;
+    }
 
-    internal override void EndSubclass(CadBaseObject target, string name) => writer.WriteKept(target, name);
+    internal override void BeginSubclass(string name)
+    {
+        // The fields of objects without subclasses follow no marker.
+        if (name.Length > 0)
+        {
+            writer.WriteSubclass(name);
+        }
+
+        _layout = _layouts?.GetValueOrDefault(name);
+        _call = 0;
+    }
+
+    internal override void EndSubclass(CadBaseObject target, string name)
+    {
+        _layout = null;
+        writer.WriteKept(target, name);
+    }
 
     internal override bool Includes(int since, bool isSet) => isSet && writer.Release >= since;
 
+    internal override bool Has(int code, int since, bool isSet)
+    {
+        bool includes = Includes(since, isSet);
+        return _layout?.Includes(_call++, includes) ?? includes;
+    }
+
     internal override bool Bool(int code, bool value)
     {
-        writer.Write(code, value ? 1 : 0);
+        if (Writes(value))
+        {
+            writer.Write(code, value ? 1 : 0);
+        }
+
         return value;
     }
 
     internal override short Int16(int code, short value)
     {
-        writer.Write(code, value);
+        if (Writes(value))
+        {
+            writer.Write(code, value);
+        }
+
         return value;
     }
 
     internal override int Int32(int code, int value)
     {
-        writer.Write(code, value);
+        if (Writes(value))
+        {
+            writer.Write(code, value);
+        }
+
         return value;
     }
 
     internal override long Int64(int code, long value)
     {
-        writer.Write(code, value);
+        if (Writes(value))
+        {
+            writer.Write(code, value);
+        }
+
         return value;
     }
 
@@ -47,19 +96,36 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override double Double(int code, double value)
     {
-        writer.Write(code, value);
+        if (Writes(value))
+        {
+            writer.Write(code, value);
+        }
+
         return value;
     }
 
     internal override double Angle(int code, double value) => Double(code, value);
 
-    internal override void Point(int code, Cad2DPoint point) => writer.Write(code, point);
+    internal override void Point(int code, Cad2DPoint point)
+    {
+        Double(code, point.X);
+        Double(code + 10, point.Y);
+    }
 
-    internal override void Point(int code, Cad3DPoint point) => writer.Write(code, point);
+    internal override void Point(int code, Cad3DPoint point)
+    {
+        Double(code, point.X);
+        Double(code + 10, point.Y);
+        Double(code + 20, point.Z);
+    }
 
     internal override string Text(int code, string value)
     {
-        writer.Write(code, value);
+        if (Writes(value))
+        {
+            writer.Write(code, value);
+        }
+
         return value;
     }
 
@@ -69,13 +135,21 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override ulong Handle(int code, HandleRole role, ulong value)
     {
-        writer.WriteHandle(code, value);
+        if (Writes(value))
+        {
+            writer.WriteHandle(code, value);
+        }
+
         return value;
     }
 
     internal override byte[] Binary(int code, byte[] value)
     {
-        writer.Write(code, value);
+        if (Writes(value))
+        {
+            writer.Write(code, value);
+        }
+
         return value;
     }
 
@@ -83,13 +157,49 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override string LongText(int pieceCode, int lastCode, string value)
     {
-        writer.WriteLongText(pieceCode, lastCode, value);
+        int[]? chunks = _layout?.ChunksOf(_call, value);
+        if (Writes(value))
+        {
+            WriteLongText(pieceCode, lastCode, value, chunks);
+        }
+
         return value;
     }
 
-    internal override void Lines(List<string> lines) => writer.WriteChunks(lines);
+    internal override void Lines(List<string> lines)
+    {
+        if (Writes(lines))
+        {
+            writer.WriteChunks(lines);
+        }
+    }
 
-    internal override void Brace(int code, string text) => writer.Write(code, text);
+    internal override void Brace(int code, string text) => Text(code, text);
 
-    internal override void Tags(IList<CadCodeValue> tags) => tags.ForEach(writer.Write);
+    internal override void Tags(IList<CadCodeValue> tags)
+    {
+        if (Writes(tags))
+        {
+            tags.ForEach(writer.Write);
+        }
+    }
+
+    private void WriteLongText(int pieceCode, int lastCode, string value, int[]? chunks)
+    {
+        if (chunks is null)
+        {
+            writer.WriteLongText(pieceCode, lastCode, value);
+            return;
+        }
+
+        int start = 0;
+        for (int i = 0; i < chunks.Length; i++)
+        {
+            writer.Write(i < chunks.Length - 1 ? pieceCode : lastCode, value.Substring(start, chunks[i]));
+            start += chunks[i];
+        }
+    }
+
+    // The value is boxed only where the file had other fields than the class writes.
+    private bool Writes<T>(T value) => _layout?.Writes(_call++, value) ?? true;
 }

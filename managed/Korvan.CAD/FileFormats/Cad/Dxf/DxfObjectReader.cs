@@ -4,6 +4,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -13,6 +14,9 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// <summary>Reads one object: what all have in common, and through its codec what is its own.</summary>
 internal sealed class DxfObjectReader(DxfTagReader tags)
 {
+    // The markers of the current object so far: a second one begins no fields of its class.
+    private readonly HashSet<string> _entered = [];
+
     internal CadEntityBase ReadEntity(string name) => ReadEntity(Create(name));
 
     /// <summary>Reads into an entity that was made for it.</summary>
@@ -34,6 +38,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
 
     internal void ReadBody(CadBaseObject target)
     {
+        _entered.Clear();
         tags.EnterSubclass(null);
         tags.CurrentHandle = 0;
         while (tags.Next())
@@ -54,11 +59,9 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
         tags.Unread();
     }
 
-    private static KeptTags KeptOf(CadBaseObject target) => (KeptTags)(target.Kept ??= new KeptTags());
-
     private void Keep(CadBaseObject target, string? subclass)
     {
-        KeptOf(target).Tags.Add(new KeptTag(subclass, tags.ToCodeValue()));
+        KeptTags.Of(target).Tags.Add(new KeptTag(subclass, tags.ToCodeValue()));
     }
 
     private static bool IsRaw(CadBaseObject target) => target is RawEntity or RawObject;
@@ -107,6 +110,13 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
             return;
         }
 
+        bool isFirst = !target.HasOrderedFields || _entered.Add(name);
+        if (!isFirst || !target.HasSubclass(name))
+        {
+            ReadUnknownSubclass(target);
+            return;
+        }
+
         tags.EnterSubclass(name == CadInsertObject.GridMarker ? CadInsertObject.SingleMarker : name);
     }
 
@@ -121,9 +131,21 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
         tags.Unread();
     }
 
+    // A subclass that the class does not know is kept with its marker, up to the next one.
+    private void ReadUnknownSubclass(CadBaseObject target)
+    {
+        do
+        {
+            Keep(target, KeptTag.Verbatim);
+        }
+        while (tags.Next() && tags.Code is not (0 or 100 or 101 or 1001));
+        tags.EnterSubclass(KeptTag.Verbatim);
+        tags.Unread();
+    }
+
     private void ReadEmbedded(CadBaseObject target)
     {
-        List<CadCodeValue> embedded = KeptOf(target).Embedded ??= [];
+        List<CadCodeValue> embedded = KeptTags.Of(target).Embedded ??= [];
         do
         {
             embedded.Add(tags.ToCodeValue());
@@ -202,6 +224,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
         "POLYLINE" => CreatePolyline(tags.Peek(70) ?? 0),
         "VERTEX" => new Cad2DVertex(),
         "MLEADER" => new CadMLeader(),
+        "WIPEOUT" => tags.HasMarker("AcDbRasterImage"u8) ? new CadWipeoutRasterImage() : new CadWipeout(),
         "DIMENSION" => CreateDimension(tags.Peek(70) ?? 0),
         _ => ObjectTypes.CreateEntity(name) ?? new RawEntity(name),
     };

@@ -42,6 +42,7 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
         }
 
         Begin(item);
+        _fields.Begin(item.KeptTags?.Layouts);
         item.Exchange(_fields);
         WriteRest(item);
     }

@@ -150,6 +150,26 @@ internal sealed partial class DxfReader
         }
     }
 
+    private void ReadAcdsData()
+    {
+        CadAcdsData section = _drawing.AcdsData;
+        section.IsInFile = true;
+        while (_tags.Next() && _tags.Code != 0)
+        {
+            section.Header.Add(_tags.ToCodeValue());
+        }
+
+        _tags.Unread();
+        while (NextObject() is { } name)
+        {
+            CadBaseAcds item = ObjectTypes.CreateAcds(name) ?? new RawAcds(name);
+            if (TryRead(item))
+            {
+                section.Items.Items.Add(item);
+            }
+        }
+    }
+
     private bool TryRead(CadBaseObject item)
     {
         try

@@ -114,6 +114,9 @@ internal sealed partial class DxfReader
             case "OBJECTS":
                 ReadObjects();
                 break;
+            case "ACDSDATA":
+                ReadAcdsData();
+                break;
             case "THUMBNAILIMAGE":
                 ReadThumbnail();
                 break;

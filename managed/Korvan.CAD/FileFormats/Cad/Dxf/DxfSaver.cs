@@ -98,6 +98,7 @@ internal sealed class DxfSaver
             WriteObjects();
         }
 
+        WriteAcdsData();
         foreach (RawSection section in _drawing.RawSections)
         {
             WriteRawSection(section);
@@ -218,6 +219,25 @@ internal sealed class DxfSaver
     {
         BeginSection("OBJECTS");
         _drawing.Objects.ForEach(_objects.Write);
+        EndSection();
+    }
+
+    // The data section came with release 2013.
+    private void WriteAcdsData()
+    {
+        CadAcdsData section = _drawing.AcdsData;
+        if (_writer.Release < 2013 || !(section.IsInFile || section.Items.Count > 0))
+        {
+            return;
+        }
+
+        BeginSection("ACDSDATA");
+        section.Header.ForEach(_writer.Write);
+        foreach (CadBaseAcds item in section.Items)
+        {
+            _objects.Write(item);
+        }
+
         EndSection();
     }
 

@@ -2,7 +2,9 @@ using System;
 using System.Buffers.Text;
 using System.Globalization;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
@@ -81,6 +83,16 @@ internal sealed partial class DxfTagReader : FieldReader
     {
         int? found = null;
         LookAhead(() => (found = Code == code ? GetInt() : null) is null);
+        return found;
+    }
+
+    /// <summary>Determines whether the rest of the current object has the marker of a subclass.</summary>
+    internal bool HasMarker(ReadOnlySpan<byte> name)
+    {
+        const int marker = 100;
+        bool found = false;
+        string text = System.Text.Encoding.ASCII.GetString(name);
+        LookAhead(() => !(found = Code == marker && GetName() == text));
         return found;
     }
 
@@ -199,7 +211,8 @@ internal sealed partial class DxfTagReader : FieldReader
     }
 
     /// <summary>Gives the current tag as it is in the file.</summary>
-    internal override CadCodeValue ToCodeValue() => new(Code, ValueText());
+    internal override CadCodeValue ToCodeValue() => GroupCodes.TypeOf(Code) == CadGroupCodeTypes.Binary
+        ? new CadBinaryCodeValue(Code, ValueText()) : new CadCodeValue(Code, ValueText());
 
     /// <summary>Describes damage at the current tag.</summary>
     internal ImageLoadException Fail(LoadDefectCode code, string cause)

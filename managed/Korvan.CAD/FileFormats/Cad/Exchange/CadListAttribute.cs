@@ -8,4 +8,8 @@ internal sealed class CadListAttribute(int code) : CadPropertyAttribute(code)
     /// <summary>Gets or sets the group code of the number of items, which stands before them; 0 where text files state
     /// none.</summary>
     public int Count { get; set; }
+
+    /// <summary>Gets or sets the largest number of items of a list whose length text files do not state; 0 for
+    /// any.</summary>
+    public int Max { get; set; }
 }

@@ -2,11 +2,12 @@ using System;
 
 namespace Korvan.CAD.FileFormats.Cad.Exchange;
 
-/// <summary>States that an object has a field only while another of its properties says so.</summary>
-/// <param name="property">The name of that property, which is boolean and is carried before.</param>
+/// <summary>States that an object has a field only under a condition on other properties.</summary>
+/// <param name="condition">The condition: the name of a boolean property, or an expression over properties, which are
+/// carried before.</param>
 [AttributeUsage(AttributeTargets.Property)]
-internal sealed class CadWhenAttribute(string property) : Attribute
+internal sealed class CadWhenAttribute(string condition) : Attribute
 {
-    /// <summary>Gets the name of the property.</summary>
-    internal string Property { get; } = property;
+    /// <summary>Gets the condition.</summary>
+    internal string Condition { get; } = condition;
 }

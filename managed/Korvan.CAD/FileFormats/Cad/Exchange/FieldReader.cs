@@ -17,7 +17,14 @@ internal abstract class FieldReader
     /// <summary>Tells whether the current field belongs to a subclass; old files have no markers.</summary>
     internal bool InSubclass(string name) => Subclass is null || Subclass == name;
 
-    internal void EnterSubclass(string? name) => Subclass = name;
+    /// <summary>Gets or sets whether the fields of the current subclass were read as a sequence.</summary>
+    internal bool HasReadSequence { get; set; }
+
+    internal void EnterSubclass(string? name)
+    {
+        Subclass = name;
+        HasReadSequence = false;
+    }
 
     /// <summary>Goes on to the next field.</summary>
     /// <returns>Whether there is one.</returns>

@@ -26,6 +26,17 @@ internal abstract partial class ObjectExchange
     /// <param name="isSet">Whether the object has something to write.</param>
     internal abstract bool Includes(int since, bool isSet);
 
+    /// <summary>Determines whether an optional field follows.</summary>
+    /// <param name="code">The group code of the field.</param>
+    /// <param name="since">The release that the field came with, as a year; 0 for all releases.</param>
+    /// <param name="isSet">Whether the object has something to write.</param>
+    internal virtual bool Has(int code, int since, bool isSet) => Includes(since, isSet);
+
+    /// <summary>Determines whether another item of a list follows whose length is not stated.</summary>
+    /// <param name="code">The group code that begins an item.</param>
+    /// <param name="isSet">Whether the object has one to write.</param>
+    internal virtual bool HasItem(int code, bool isSet) => Includes(0, isSet);
+
     internal abstract bool Bool(int code, bool value);
 
     internal abstract short Int16(int code, short value);

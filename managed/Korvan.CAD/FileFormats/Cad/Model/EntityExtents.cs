@@ -124,6 +124,8 @@ internal class EntityExtents(Extents extents, TextBoxes? texts = null) : IGeomet
         extents.Add(image.Corner + image.Across + image.Up);
     }
 
+    void IGeometrySink.Frame(in ContentFrame frame) => AddAll(frame.Corners);
+
     void IGeometrySink.Leader(CadLeader leader, List<Vec3> points) => points.ForEach(extents.Add);
 
     void IGeometrySink.MultiLine(CadMultiLine line) =>

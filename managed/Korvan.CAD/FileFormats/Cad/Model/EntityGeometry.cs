@@ -42,6 +42,8 @@ internal static partial class EntityGeometry
         On<CadShape>((shape, sink) => sink.Shape(shape, shape.InsertionPoint.ToVec3())),
         On<CadRasterImage>((i, sink) => sink.Image(ImageOf(i, i.InsertionPoint, i.VectorU, i.VectorV, i.ImageSize))),
         On<CadWipeoutBase>((i, sink) => sink.Image(ImageOf(i, i.InsertionPoint, i.VectorU, i.VectorV, i.ImageSize))),
+        On<CadUnderlay>(EmitUnderlay),
+        On<CadOle2Frame>(EmitOleFrame),
         On<CadLeader>((leader, sink) => sink.Leader(leader, leader.Coordinates.ConvertAll(ModelVectors.ToVec3))),
         On<CadMLeader>((leader, sink) => sink.MultiLeader(leader)),
         On<CadTableEntity>((table, sink) => sink.Table(table, MapOf(table))),

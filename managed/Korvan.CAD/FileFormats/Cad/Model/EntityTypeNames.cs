@@ -46,7 +46,7 @@ internal static class EntityTypeNames
         "ACAD_TABLE" => CadEntityTypeName.AcadTable,
         "LIGHT" => CadEntityTypeName.Light,
         "MESH" => CadEntityTypeName.Mesh,
-        "SECTION" => CadEntityTypeName.Section,
+        "SECTION" or "SECTIONOBJECT" => CadEntityTypeName.Section,
         "SUN" => CadEntityTypeName.Sun,
         "SURFACE" => CadEntityTypeName.Surface,
         "EXTRUDEDSURFACE" => CadEntityTypeName.ExtrudedSurface,
@@ -61,6 +61,7 @@ internal static class EntityTypeNames
         "DGNUNDERLAY" => CadEntityTypeName.DgnUnderlay,
         "ACAD_PROXY_ENTITY" => CadEntityTypeName.AcadProxyEntity,
         "COORDINATION_MODEL" => CadEntityTypeName.CoordinationModel,
+        "ACIDBLOCKREFERENCE" => CadEntityTypeName.AcidBlockReference,
         _ => CadEntityTypeName.None,
     };
 }

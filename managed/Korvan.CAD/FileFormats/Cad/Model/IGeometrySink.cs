@@ -93,6 +93,11 @@ internal interface IGeometrySink
     {
     }
 
+    /// <summary>A frame that content of another file or program fills.</summary>
+    void Frame(in ContentFrame frame)
+    {
+    }
+
     void Leader(CadLeader leader, List<Vec3> points)
     {
     }
@@ -129,6 +134,14 @@ internal interface IGeometrySink
     void Dimension(CadDimensionBase dimension)
     {
     }
+}
+
+/// <summary>A frame that content of another file or program fills: the corners of its outline in world
+/// coordinates.</summary>
+internal readonly record struct ContentFrame(Vec3[] Corners, CadEntityBase Source)
+{
+    /// <summary>Gets the outline of a part that is hidden; none for most frames.</summary>
+    internal Vec3[] Hidden { get; init; } = [];
 }
 
 /// <summary>An arc of a circle in a plane, with angles in radians; counterclockwise where the sweep is

@@ -1,4 +1,6 @@
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
@@ -14,13 +16,34 @@ internal sealed class KeptTags : KeptData
     /// <summary>Gets the tags without their markers, in the order of the file.</summary>
     internal CadCodeValue[] Values => [.. Tags.ConvertAll(static tag => tag.Value)];
 
+    /// <summary>Gets what files had of the fields of subclasses, by their markers; only where it is not what the class
+    /// would write.</summary>
+    internal Dictionary<string, SequenceLayout> Layouts { get; private init; } = [];
+
+    /// <summary>Gets or sets the name of the object in the file, where it is not the first name of its class.</summary>
+    internal string? ObjectName { get; set; }
+
     internal override string FormatName => "DXF";
+
+    /// <summary>Returns what is kept of an object; where that is nothing yet, it begins here.</summary>
+    internal static KeptTags Of(CadBaseObject target) => (KeptTags)(target.Kept ??= new KeptTags());
+
+    /// <summary>Notes that a file has another name for an object than its class.</summary>
+    internal static T Named<T>(T target, string name)
+        where T : CadBaseObject
+    {
+        Of(target).ObjectName = name;
+        return target;
+    }
 
     internal override KeptData Copy() => new KeptTags
     {
         Tags = Tags.ConvertAll(static tag => new KeptTag(tag.Subclass, Clone(tag.Value))),
         Embedded = Embedded?.ConvertAll(Clone),
+        Layouts = Layouts,
+        ObjectName = ObjectName,
     };
 
-    private static CadCodeValue Clone(CadCodeValue value) => new(value.Attribute, value.Value);
+    private static CadCodeValue Clone(CadCodeValue value) => value is CadBinaryCodeValue
+        ? new CadBinaryCodeValue(value.Attribute, value.Value) : new CadCodeValue(value.Attribute, value.Value);
 }

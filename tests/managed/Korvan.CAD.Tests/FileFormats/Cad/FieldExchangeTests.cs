@@ -186,13 +186,15 @@ public class FieldExchangeTests
     };
 
     private static bool IsDouble(int code) =>
-        code is (>= 10 and <= 59) or (>= 110 and <= 149) or (>= 210 and <= 239) or (>= 460 and <= 469);
+        code is (>= 10 and <= 59) or (>= 110 and <= 149) or (>= 210 and <= 239)
+            or (>= 460 and <= 469) or (>= 1010 and <= 1059);
 
     private static bool IsInt16(int code) =>
         code is (>= 60 and <= 79) or (>= 170 and <= 179) or (>= 270 and <= 289) or (>= 370 and <= 389)
             or (>= 400 and <= 409);
 
-    private static bool IsInt32(int code) => code is (>= 90 and <= 99) or (>= 420 and <= 429) or (>= 440 and <= 459);
+    private static bool IsInt32(int code) => code is (>= 90 and <= 99) or (>= 420 and <= 429) or (>= 440 and <= 459)
+        or 1071;
 
     private static bool IsByte(int code) => code is >= 290 and <= 299;
 }

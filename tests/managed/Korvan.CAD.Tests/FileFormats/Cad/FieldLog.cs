@@ -73,7 +73,11 @@ internal sealed class FieldLog(int release) : ObjectExchange
 
     internal override ulong Handle(int code, HandleRole role, ulong value) => Add(code, "Handle", value, role);
 
-    internal override byte[] Binary(int code, byte[] value) => Add(code, "Binary", value);
+    internal override byte[] Binary(int code, byte[] value)
+    {
+        Add(code, "Binary", Convert.ToHexString(value));
+        return value;
+    }
 
     internal override int Count(int code, int count) => code == 0 ? count : Add(code, "Count", count);
 
@@ -156,7 +160,7 @@ internal sealed class FieldLogReader(List<LoggedField> fields) : FieldReader
 
     internal override int GetCount() => GetInt();
 
-    internal override byte[] AppendBinary(byte[] before) => [.. before, .. (byte[])Value];
+    internal override byte[] AppendBinary(byte[] before) => [.. before, .. Convert.FromHexString((string)Value)];
 
     internal override CadCodeValue ToCodeValue() => new(Code, GetString());
 

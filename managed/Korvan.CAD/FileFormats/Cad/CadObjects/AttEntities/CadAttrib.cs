@@ -26,6 +26,11 @@ public partial class CadAttrib : CadText
     [CadShort(73, Optional = true)]
     public short FieldLength { get; set; }
 
+    /// <summary>Gets or sets the record of an attribute with text of several lines; null for one line.</summary>
+    [CadPart]
+    [CadSubclass("AcDbXrecord")]
+    public CadXrecordObject? XrecordObject { get; set; }
+
     /// <summary>Gets or sets whether the position within the block is locked. Group code 280.</summary>
     public bool LockPosition { get; set; }
 

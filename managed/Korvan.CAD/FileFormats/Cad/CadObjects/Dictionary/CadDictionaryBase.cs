@@ -5,7 +5,7 @@ using Korvan.CAD.FileFormats.Cad.Model;
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
 
 /// <summary>Objects by names.</summary>
-public abstract partial class CadDictionaryBase : CadObjectBase
+public abstract partial class CadDictionaryBase : CadObjectBase, ICadObjectContainer
 {
     internal CadDictionaryBase()
     {
@@ -37,6 +37,9 @@ public abstract partial class CadDictionaryBase : CadObjectBase
     /// <param name="name">The name; upper and lower case are the same.</param>
     /// <returns>The handle of an entry in hexadecimal, or an empty text where there is none of this name.</returns>
     public string GetHandle(string name) => TryGet(name, out ulong handle) ? HandleText.Format(handle) : "";
+
+    /// <inheritdoc/>
+    public string[] GetObjectHandles() => [.. _handles.ConvertAll(HandleText.Format)];
 
     /// <summary>Adds an entry or changes the one of this name.</summary>
     /// <param name="name">The name.</param>

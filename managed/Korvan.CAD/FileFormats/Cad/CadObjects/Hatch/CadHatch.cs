@@ -89,6 +89,9 @@ public partial class CadHatch : CadEntityBase
     /// <summary>Gets the colours of the gradient as 0xRRGGBB. The list is live. Group code 421.</summary>
     public List<int> GradientColors { get; } = [];
 
+    /// <summary>Gets the values of the gradient that the format reserves.</summary>
+    public CadReservedForFutureValues ReservedValues { get; } = new();
+
     /// <summary>Gets the boundary paths. The list is live. Group code 91.</summary>
     public IList<CadHatchBoundaryPathContainer> BoundaryPaths { get; } = new CheckedList<CadHatchBoundaryPathContainer>(
         "boundary_paths");
@@ -117,7 +120,10 @@ public partial class CadHatch : CadEntityBase
             case 98:
                 HatchFields.ReadSeeds(this, reader);
                 break;
-            case 451 or 453:
+            case 451:
+                ReservedValues.GradientValue = reader.GetInt();
+                break;
+            case 453:
                 break;
             case 463:
                 GradientStops.Add((reader.GetDouble(), null));

@@ -176,7 +176,7 @@ internal static class HatchFields
     private static void ExchangeGradient(CadHatch hatch, ObjectExchange fields)
     {
         hatch.IsGradient = fields.Int32(450, hatch.IsGradient);
-        fields.Int32(451, 0);
+        hatch.ReservedValues.GradientValue = fields.Int32(451, hatch.ReservedValues.GradientValue);
         hatch.GradientAngle = fields.Double(460, hatch.GradientAngle);
         hatch.GradientShift = fields.Double(461, hatch.GradientShift);
         hatch.SingleColorGradient = fields.Int32(452, hatch.SingleColorGradient);

@@ -1,0 +1,31 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>A torus in the history of a solid; its centre is the origin of the step.</summary>
+[CadSequence]
+[CadMarkers(Leading = "AcDbShPrimitive")]
+[CadObject("ACSH_TORUS_CLASS", Subclass = "AcDbShTorus")]
+public partial class CadAcshTorusClass : CadAcshHistoryNode
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadAcshTorusClass()
+    {
+    }
+
+    /// <summary>Gets or sets the major version of the program that wrote the solid. Group code 90.</summary>
+    [CadInt(90)]
+    public int PrimitiveMajorVersion { get; set; } = 33;
+
+    /// <summary>Gets or sets the minor version of the program that wrote the solid. Group code 91.</summary>
+    [CadInt(91)]
+    public int PrimitiveMinorVersion { get; set; } = 29;
+
+    /// <summary>Gets or sets the radius of the centre line of the tube. Group code 40.</summary>
+    [CadDouble(40)]
+    public double MajorRadius { get; set; }
+
+    /// <summary>Gets or sets the radius of the tube. Group code 41.</summary>
+    [CadDouble(41)]
+    public double MinorRadius { get; set; }
+}

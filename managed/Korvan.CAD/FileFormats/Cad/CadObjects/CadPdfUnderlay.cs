@@ -1,0 +1,11 @@
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>A page of a PDF file below the drawing.</summary>
+[CadObject("PDFUNDERLAY")]
+public partial class CadPdfUnderlay : CadUnderlay
+{
+    /// <summary>Creates the object with its defaults.</summary>
+    public CadPdfUnderlay()
+    {
+    }
+}

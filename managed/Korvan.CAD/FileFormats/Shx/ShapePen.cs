@@ -1,0 +1,252 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.Geometry;
+
+namespace Korvan.CAD.FileFormats.Shx;
+
+/// <summary>Carries out the code of shapes: vectors in 16 directions, displacements and arcs.</summary>
+/// <param name="codes">The code of all shapes by number.</param>
+internal sealed class ShapePen(Dictionary<int, byte[]> codes)
+{
+    private const int MaxDepth = 8;
+    private const int MaxStack = 4;
+    private const int ArcSegments = 8;
+
+    private readonly List<Vec2[]> _strokes = [];
+    private readonly List<Vec2> _stroke = [];
+    private readonly Stack<Vec2> _positions = new();
+    private Vec2 _at;
+    private double _scale = 1;
+    private bool _isDown = true;
+
+    /// <summary>Draws a shape.</summary>
+    internal List<Vec2[]> Draw(int number)
+    {
+        Run(number, 0);
+        EndStroke();
+        return _strokes;
+    }
+
+    // The components of the 16 directions: the longer one is always 1.
+    private static Vec2 Direction(int index)
+    {
+        ReadOnlySpan<double> steps = [1, 1, 1, 0.5, 0, -0.5, -1, -1, -1, -1, -1, -0.5, 0, 0.5, 1, 1];
+        return new Vec2(steps[index], steps[(index + 12) % 16]);
+    }
+
+    private void Run(int number, int depth)
+    {
+        if (depth > MaxDepth || !codes.TryGetValue(number, out byte[]? code))
+        {
+            return;
+        }
+
+        int i = 0;
+        while (i < code.Length && code[i] != 0)
+        {
+            i += Step(code.AsSpan(i), depth);
+        }
+    }
+
+    // Returns how many bytes the command takes; one that is cut short takes the rest.
+    private int Step(ReadOnlySpan<byte> code, int depth)
+    {
+        ReadOnlySpan<byte> arguments = code[1..];
+        int needed = code[0] switch
+        {
+            3 or 4 or 7 => 1,
+            8 or 0x0A => 2,
+            0x0B => 5,
+            0x0C => 3,
+            _ => 0,
+        };
+        if (arguments.Length < needed)
+        {
+            return code.Length;
+        }
+
+        switch (code[0])
+        {
+            case 1 or 2:
+                SetPen(code[0] == 1);
+                return 1;
+            case 3 or 4:
+                _scale = code[0] == 4 ? _scale * arguments[0] : _scale / Math.Max((int)arguments[0], 1);
+                return 2;
+            case 5 or 6:
+                PushOrPop(code[0] == 5);
+                return 1;
+            case 7:
+                Run(arguments[0], depth + 1);
+                return 2;
+            case 9 or 0x0D:
+                return 1 + Several(arguments, code[0] == 9 ? 2 : 3);
+            case 0x0E:
+                // The next command is for vertical text only.
+                return 1 + (arguments.Length > 0 ? Length(arguments) : 0);
+            case < 0x0E:
+                Curve(code[0], arguments);
+                return 1 + needed;
+            default:
+                MoveBy(Direction(code[0] & 15) * (code[0] >> 4));
+                return 1;
+        }
+    }
+
+    private void Curve(int command, ReadOnlySpan<byte> arguments)
+    {
+        switch (command)
+        {
+            case 8:
+                MoveBy(new Vec2((sbyte)arguments[0], (sbyte)arguments[1]));
+                break;
+            case 0x0A:
+                OctantArc(arguments[0], (sbyte)arguments[1], 0, 0);
+                break;
+            case 0x0B:
+                OctantArc((256 * arguments[2]) + arguments[3], (sbyte)arguments[4], arguments[0], arguments[1]);
+                break;
+            case 0x0C:
+                Bulge(new Vec2((sbyte)arguments[0], (sbyte)arguments[1]), (sbyte)arguments[2]);
+                break;
+        }
+    }
+
+    // Displacements, with bulges or without, up to a pair of zeros.
+    private int Several(ReadOnlySpan<byte> arguments, int size)
+    {
+        int i = 0;
+        while (i + 1 < arguments.Length && (arguments[i] | arguments[i + 1]) != 0)
+        {
+            if (i + size > arguments.Length)
+            {
+                return arguments.Length;
+            }
+
+            Vec2 by = new((sbyte)arguments[i], (sbyte)arguments[i + 1]);
+            Bulge(by, size == 3 ? (sbyte)arguments[i + 2] : 0);
+            i += size;
+        }
+
+        return Math.Min(i + 2, arguments.Length);
+    }
+
+    private static int Length(ReadOnlySpan<byte> code)
+    {
+        int size = code[0] switch
+        {
+            3 or 4 or 7 => 2,
+            8 or 0x0A => 3,
+            0x0B => 6,
+            0x0C => 4,
+            _ => 1,
+        };
+        if (code[0] is not (9 or 0x0D))
+        {
+            return Math.Min(size, code.Length);
+        }
+
+        int step = code[0] == 9 ? 2 : 3;
+        int i = 1;
+        while (i + 1 < code.Length && (code[i] | code[i + 1]) != 0)
+        {
+            i += step;
+        }
+
+        return Math.Min(i + 2, code.Length);
+    }
+
+    private void SetPen(bool down)
+    {
+        EndStroke();
+        _isDown = down;
+    }
+
+    private void PushOrPop(bool push)
+    {
+        if (push && _positions.Count < MaxStack)
+        {
+            _positions.Push(_at);
+        }
+        else if (!push && _positions.TryPop(out Vec2 position))
+        {
+            EndStroke();
+            _at = position;
+        }
+    }
+
+    private void MoveBy(Vec2 by) => MoveTo(_at + (by * _scale));
+
+    private void MoveTo(Vec2 to)
+    {
+        if (_isDown)
+        {
+            if (_stroke.Count == 0)
+            {
+                _stroke.Add(_at);
+            }
+
+            _stroke.Add(to);
+        }
+
+        _at = to;
+    }
+
+    // A bulge of 127 is a half circle; positive ones run counterclockwise.
+    private void Bulge(Vec2 by, int bulge)
+    {
+        Vec2 chord = by * _scale;
+        double length = Math.Sqrt((chord.X * chord.X) + (chord.Y * chord.Y));
+        if (bulge == 0 || length == 0)
+        {
+            MoveTo(_at + chord);
+            return;
+        }
+
+        double sweep = 4 * Math.Atan(bulge / 127.0);
+        double radius = length / 2 / Math.Sin(sweep / 2);
+        Vec2 middle = _at + (chord * 0.5);
+        Vec2 center = middle + (chord.Left * (radius * Math.Cos(sweep / 2) / length));
+        Arc(center, Math.Atan2(_at.Y - center.Y, _at.X - center.X), sweep);
+    }
+
+    // Octants count from 0 at the right, counterclockwise; offsets are 256ths of 45 degrees.
+    private void OctantArc(int radius, int octants, int startOffset, int endOffset)
+    {
+        const double octant = Math.PI / 4;
+        bool clockwise = octants < 0;
+        int packed = Math.Abs(octants);
+        int count = packed & 7;
+        double start = (packed >> 4 & 7) * octant;
+        double span = count == 0 ? 8 * octant : count * octant;
+        double from = startOffset / 256.0 * octant;
+        double to = endOffset == 0 ? 0 : octant - (endOffset / 256.0 * octant);
+        double sign = clockwise ? -1 : 1;
+        double angle = start + (sign * from);
+        double sweep = sign * (span - from - to);
+        Vec2 center = _at - (new Vec2(Math.Cos(angle), Math.Sin(angle)) * (radius * _scale));
+        Arc(center, angle, sweep);
+    }
+
+    private void Arc(Vec2 center, double start, double sweep)
+    {
+        Vec2 arm = _at - center;
+        double radius = Math.Sqrt((arm.X * arm.X) + (arm.Y * arm.Y));
+        int segments = Math.Max(2, (int)Math.Ceiling(Math.Abs(sweep) / (Math.PI / 4) * ArcSegments));
+        for (int i = 1; i <= segments; i++)
+        {
+            double angle = start + (sweep * i / segments);
+            MoveTo(center + (new Vec2(Math.Cos(angle), Math.Sin(angle)) * radius));
+        }
+    }
+
+    private void EndStroke()
+    {
+        if (_stroke.Count > 1)
+        {
+            _strokes.Add([.. _stroke]);
+        }
+
+        _stroke.Clear();
+    }
+}

@@ -1,0 +1,99 @@
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
+
+namespace Korvan.CAD.Rendering.Scene;
+
+/// <content>Frames of underlays and embedded documents, preview images, and symbols of shape files.</content>
+internal sealed partial class SceneBuilder
+{
+    private const string ContentOf = "content of ";
+
+    void IGeometrySink.Frame(in ContentFrame frame)
+    {
+        Picture? preview = frame.Source is CadOle2Frame document ? Preview(document) : null;
+        if (preview is not null && frame.Corners.Length == 4)
+        {
+            DrawPreview(frame, preview);
+            return;
+        }
+
+        List.Skip(ContentOf + frame.Source.TypeNameText);
+        if (frame.Corners.Length < 2)
+        {
+            return;
+        }
+
+        PathBuffer path = _canvas.NewPath();
+        AddRing(path, frame.Corners);
+        if (frame.Hidden.Length > 2)
+        {
+            AddRing(path, frame.Hidden);
+        }
+
+        _canvas.Stroke(_current.Pen);
+    }
+
+    void IGeometrySink.Shape(CadShape shape, Vec3 at)
+    {
+        if (_tables.Shapes.Find(shape.ShapeName) is not { } strokes)
+        {
+            List.Skip(shape.TypeNameText + DrawingList.MissingFile);
+            return;
+        }
+
+        Affine3 map = _current.Context.Map * Affine3.Translation(at) * PlaneOf(shape)
+            * Affine3.RotationZ(Angles.Radians(shape.RotationAngle))
+            * Affine3.Scaling(shape.Size * shape.ScaleX, shape.Size, 1);
+        double slant = System.Math.Tan(Angles.Radians(shape.ObliqueAngle));
+        PathBuffer path = _canvas.NewPath();
+        foreach (Vec2[] stroke in strokes)
+        {
+            for (int i = 0; i < stroke.Length; i++)
+            {
+                Vec2 point = map.Project(stroke[i].X + (slant * stroke[i].Y), stroke[i].Y, 0);
+                if (i == 0)
+                {
+                    path.MoveTo(point);
+                }
+                else
+                {
+                    path.LineTo(point);
+                }
+            }
+        }
+
+        _canvas.Stroke(_current.Pen);
+    }
+
+    private static Affine3 PlaneOf(CadShape shape) => shape.ExtrusionDirection.ToPlane();
+
+    private static Picture? Preview(CadOle2Frame document) => document.GetPreview() is { FileExtension: ".bmp" } image
+        ? Picture.Decode(image.Data, document.TypeNameText) : null;
+
+    private void DrawPreview(in ContentFrame frame, Picture picture)
+    {
+        Affine3 map = _current.Context.Map;
+        Vec2 origin = map.Project(frame.Corners[0]);
+        Vec2 across = map.Project(frame.Corners[1]) - origin;
+        Vec2 up = map.Project(frame.Corners[3]) - origin;
+        AddRing(_canvas.NewPath(), frame.Corners);
+        var matrix = new Affine2(across.X, across.Y, up.X, up.Y, origin.X, origin.Y);
+        Bounds2 extent = _canvas.Path.Bounds;
+        List.Image(
+            new PlacedImage(picture.Width, picture.Height, picture.Pixels, matrix, 1), _current.Pen.Layer, extent);
+    }
+
+    private void AddRing(PathBuffer path, Vec3[] corners)
+    {
+        Affine3 map = _current.Context.Map;
+        path.MoveTo(map.Project(corners[0]));
+        for (int i = 1; i < corners.Length; i++)
+        {
+            path.LineTo(map.Project(corners[i]));
+        }
+
+        path.Close();
+    }
+}
