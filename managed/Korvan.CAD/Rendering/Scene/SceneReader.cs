@@ -5,6 +5,7 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -40,7 +41,12 @@ internal static class SceneReader
     /// <summary>The tables of a drawing, without its blocks.</summary>
     internal static SceneTables ReadTables(CadDrawing drawing)
     {
-        var tables = new SceneTables { Settings = Settings(drawing), Images = ImageFiles.Of(drawing) };
+        var tables = new SceneTables
+        {
+            Settings = Settings(drawing),
+            Images = ImageFiles.Of(drawing),
+            Dimensions = new DimensionStyles(drawing),
+        };
         var styleNames = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
         foreach (CadStyleTableObject text in drawing.Styles)
         {
