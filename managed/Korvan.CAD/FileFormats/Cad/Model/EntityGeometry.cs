@@ -53,6 +53,16 @@ internal static partial class EntityGeometry
     /// <summary>Gives the shapes of an entity to a sink. False for entities whose shape is not known.</summary>
     internal static bool Emit(CadEntityBase entity, IGeometrySink sink)
     {
+        if (entity is CadObjectWithAcisData solid)
+        {
+            return EmitSolid(solid.AcisData, sink);
+        }
+
+        if (entity is RawEntity raw)
+        {
+            return EmitRaw(raw, sink);
+        }
+
         for (Type? type = entity.GetType(); type != typeof(CadEntityBase) && type is not null; type = type.BaseType)
         {
             if (Emitters.TryGetValue(type, out Action<CadEntityBase, IGeometrySink>? emit))
