@@ -134,7 +134,8 @@ internal static class SceneReader
                 || string.Equals(block, model.Name, StringComparison.OrdinalIgnoreCase);
             BlockInfo content = isModel ? model : block != null
                 && tables.Blocks.TryGetValue(block, out BlockInfo? own) ? own : paper;
-            layouts.Add(new LayoutInfo(layout.LayoutName, content, isModel, isModel ? null : PlotArea.Of(drawing, layout, content)));
+            PlotArea? area = isModel ? null : PlotArea.Of(drawing, layout, content);
+            layouts.Add(new LayoutInfo(layout.LayoutName, content, isModel, area));
         }
 
         if (!layouts.Exists(l => l.IsModel))

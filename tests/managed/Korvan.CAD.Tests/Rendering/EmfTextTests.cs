@@ -26,7 +26,10 @@ public class EmfTextTests
             new CadText { DefaultValue = "super", TextHeight = 10, FirstAlignment = new Cad3DPoint(10, 50, 0) },
             new CadText
             {
-                DefaultValue = "steep", TextHeight = 10, TextRotation = 30, FirstAlignment = new Cad3DPoint(50, 10, 0),
+                DefaultValue = "steep",
+                TextHeight = 10,
+                TextRotation = 30,
+                FirstAlignment = new Cad3DPoint(50, 10, 0),
             });
         Assert.All(texts, text => Assert.Null(text.Transform));
         Assert.Equal(5.0, (double)texts[1].Height / texts[0].Height, 0.02);

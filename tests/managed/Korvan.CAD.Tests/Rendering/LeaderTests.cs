@@ -30,7 +30,8 @@ public class LeaderTests
         bool landing, bool dogleg, short type, int expected)
     {
         CadMLeader leader = Leader(isFramed: false);
-        (leader.Style.IsLandingEnabled, leader.Style.IsDoglegEnabled, leader.Style.LeaderType) = (landing, dogleg, type);
+        (leader.Style.IsLandingEnabled, leader.Style.IsDoglegEnabled) = (landing, dogleg);
+        leader.Style.LeaderType = type;
         leader.ContextData.LeaderNodes.Add(new CadMLeaderNode
         {
             LastLeaderLinePoint = new Cad3DPoint(-10, 0, 0),

@@ -115,8 +115,8 @@ public class SolidEdgeTests
             + string.Concat(text) + "100\nAcDbSurface\n71\n6\n";
         const string polygon =
             "0\nMPOLYGON\n5\nA1\n100\nAcDbEntity\n8\n0\n62\n1\n100\nAcDbMPolygon\n70\n1\n10\n0\n20\n0\n"
-            + "30\n0\n210\n0\n220\n0\n230\n1\n2\nSOLID\n71\n1\n91\n1\n92\n3\n73\n1\n72\n0\n93\n3\n10\n0\n20\n50\n10\n90\n"
-            + "20\n50\n10\n45\n20\n95\n76\n1\n63\n5\n11\n0\n21\n0\n99\n0\n";
+            + "30\n0\n210\n0\n220\n0\n230\n1\n2\nSOLID\n71\n1\n91\n1\n92\n3\n73\n1\n72\n0\n93\n3\n10\n0\n"
+            + "20\n50\n10\n90\n20\n50\n10\n45\n20\n95\n76\n1\n63\n5\n11\n0\n21\n0\n99\n0\n";
         using DxfImage drawing = DxfText.Load(DxfText.Header("AC1015") + "0\nSECTION\n2\nENTITIES\n" + surface + polygon
             + "0\nENDSEC\n0\nEOF\n");
         Assert.Equal((95.0, 90.0), (drawing.MaxPoint.Y, drawing.MaxPoint.X));
