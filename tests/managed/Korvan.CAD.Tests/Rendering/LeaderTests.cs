@@ -1,6 +1,5 @@
 using System.Linq;
 using Korvan.CAD.DisplayList;
-using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;

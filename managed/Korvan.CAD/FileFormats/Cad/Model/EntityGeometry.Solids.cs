@@ -1,6 +1,5 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Acis;
-using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 

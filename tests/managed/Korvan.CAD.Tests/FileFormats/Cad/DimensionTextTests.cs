@@ -48,6 +48,7 @@ public class DimensionTextTests
             (v.Dimlfac, v.Dimrnd, v.Dimpost, v.Dimdsep, v.Dimdec) = (10, 0.5, "~<> mm", (short)',', 1);
         }));
         Assert.Equal("10.0 [254.00mm]", Text(10, v => (v.Dimdec, v.Dimalt, v.Dimapost) = (1, 1, "mm")));
+        Assert.Equal("10", Text(10, v => (v.Dimdec, v.Dimlfac) = (0, -2))); // for sheets of paper alone
         Assert.Equal("5%", Text(5, v => (v.Dimdec, v.Dimpost) = (0, "%"))); // a suffix without a place
     }
 

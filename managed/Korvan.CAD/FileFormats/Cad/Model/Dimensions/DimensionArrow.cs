@@ -1,7 +1,6 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
-using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Model.Dimensions;

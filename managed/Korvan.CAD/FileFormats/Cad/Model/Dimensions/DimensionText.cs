@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -58,7 +59,7 @@ internal static class DimensionText
         LengthFormat tolerance = main with { Decimals = v.Dimtdec, Zeros = v.Dimtzin };
         (string before, string after) = Affixes(v.Dimpost);
         before = before.Length > 0 ? before : SymbolOf(dimension);
-        double factor = v.Dimlfac == 0 ? 1 : Math.Abs(v.Dimlfac);
+        double factor = FactorOf(dimension, v);
         string text = WithTolerance(
             Rounded(value * factor, v.Dimrnd), v.Dimtp, v.Dimtm, style,
             length => before + main.Format(length) + after, length => tolerance.Format(length) + after);
@@ -71,10 +72,17 @@ internal static class DimensionText
         var main = new LengthFormat((LengthUnit)v.Dimaltu, v.Dimaltd, v.Dimaltz, style.Separator, v.Dimfrac);
         LengthFormat tolerance = main with { Decimals = v.Dimalttd, Zeros = v.Dimalttz };
         (string before, string after) = Affixes(v.Dimapost);
-        double factor = v.Dimaltf * (v.Dimlfac == 0 ? 1 : Math.Abs(v.Dimlfac));
+        double factor = v.Dimaltf * FactorOf(dimension, v);
         return WithTolerance(
             Rounded(dimension.ActualMeasurement * factor, v.Dimaltrnd), v.Dimtp * v.Dimaltf, v.Dimtm * v.Dimaltf, style,
             length => before + main.Format(length) + after, length => tolerance.Format(length) + after);
+    }
+
+    // A negative factor is for sheets of paper alone.
+    private static double FactorOf(CadDimensionBase dimension, CadDimensionStyleTable v)
+    {
+        bool isOnPaper = dimension.SpaceMode == CadEntitySpaceMode.PaperSpace;
+        return v.Dimlfac > 0 ? v.Dimlfac : v.Dimlfac < 0 && isOnPaper ? -v.Dimlfac : 1;
     }
 
     private static double Rounded(double value, double to) =>
