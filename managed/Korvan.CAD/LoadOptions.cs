@@ -50,7 +50,8 @@ public class LoadOptions
     /// <see cref="IgnoreErrors"/>; empty for the default of the format: black or transparent.</summary>
     public Color DataBackgroundColor { get; set; }
 
-    /// <summary>Gets the messages about defects of the file, one for each object that was left out.</summary>
+    /// <summary>Gets the messages about defects of the file, one for each object that was left out and one for each
+    /// value that was repaired without a loss.</summary>
     public List<string> Errors { get; } = [];
 
     /// <summary>Gets the defects whose messages are in <see cref="Errors"/>.</summary>

@@ -248,9 +248,11 @@ class Pages(Outputs):
         self.assertGreater(options.render_result.render_duration.total_seconds(), 0)
 
     @needs_shared
-    def test_bodies_that_have_no_picture_are_told_with_their_number(self) -> None:
+    def test_solids_without_readable_edges_are_told_with_their_number(self) -> None:
         options = PdfOptions()
         self.write("page.pdf", options, SHARED / "dxf" / "ezdxf__3dsolids.dxf")
+        self.assertEqual(list(options.render_result.failures), [])
+        self.write("page.pdf", options, SHARED / "dxf" / "ezdxf__uncommon.dxf")  # binary data of the modeler
         failures = options.render_result.failures
         self.assertEqual({one.render_code for one in failures}, {RenderErrorCode.ENTITY_NOT_DRAWN})
         self.assertRegex(failures[0].message, r"3DSOLID.*\(\d+\)")

@@ -15,16 +15,21 @@ namespace Korvan.CAD.Rendering.Devices;
 internal sealed class EmfDocument : MetafilePlayer
 {
     private const double UnitsPerPoint = 2540 / 72.0;
-    private const int FontUnits = 1000;
+    private const int ImageUnits = 1000;
     private const int MaxHandles = 60_000;
+
+    // Texts of more sizes and angles become outlines: lines and areas need handles as well.
+    private const int MaxFonts = 20_000;
+    private const double UniformTolerance = 0.01;
 
     private readonly EmfRecords _records = new();
     private readonly Dictionary<(EmfObject Kind, uint Color, int Size, string Face), int> _handles = [];
-    private readonly Stack<(int Pen, int Brush)> _saved = new();
+    private readonly Stack<(int Pen, int Brush, int Font)> _saved = new();
     private readonly List<int> _points = [];
     private readonly bool _textAsShapes;
     private int _coord;
-    private (int Pen, int Brush) _selected;
+    private (int Pen, int Brush, int Font) _selected;
+    private int _fonts;
     private bool? _evenOdd;
 
     private EmfDocument(TextEngine engine, Page page, EmfOptions options)
@@ -100,18 +105,39 @@ internal sealed class EmfDocument : MetafilePlayer
             return;
         }
 
-        FontSpec font = Engine.SpecOf(run.Font);
-        SelectFont(font);
+        double width = Math.Sqrt((matrix.Xx * matrix.Xx) + (matrix.Yx * matrix.Yx));
+        double height = Math.Abs(matrix.Determinant) / width;
+        if (!(height > 0))
+        {
+            return;
+        }
+
+        bool isUniform = IsUniform(matrix, height);
+        int tenths = isUniform ? TenthsOfDegree(matrix) : 0;
+        if (!TrySelectFont(Engine.SpecOf(run.Font), Math.Max(1, Round(height)), tenths))
+        {
+            Outline(run, matrix, color);
+            return;
+        }
+
         _records.Add(EmfRecord.SetTextColor, (int)ColorRef(Opaque(color)));
-        SetTransform(matrix * new Affine2(1.0 / FontUnits, 0, 0, -1.0 / FontUnits, 0, 0));
-        _records.AddText(run.Text, Advances(run));
+        int[] advances = Advances(run, height);
+        if (isUniform)
+        {
+            _records.AddText(run.Text, Round(matrix.X0), Round(matrix.Y0), advances);
+            return;
+        }
+
+        // A font has no mirrored, slanted or stretched characters. Readers that pass over transforms keep the height.
+        SetTransform(matrix * new Affine2(1 / height, 0, 0, -1 / height, 0, 0));
+        _records.AddText(run.Text, 0, 0, advances);
         ResetTransform();
     }
 
     protected override void Image(PlacedImage image, in Affine2 matrix)
     {
-        SetTransform(matrix * new Affine2(1.0 / FontUnits, 0, 0, -1.0 / FontUnits, 0, 1));
-        _records.AddPicture(image.Width, image.Height, BottomUp(image), FontUnits);
+        SetTransform(matrix * new Affine2(1.0 / ImageUnits, 0, 0, -1.0 / ImageUnits, 0, 1));
+        _records.AddImage(image.Width, image.Height, BottomUp(image), ImageUnits);
         ResetTransform();
     }
 
@@ -168,13 +194,35 @@ internal sealed class EmfDocument : MetafilePlayer
         }
     }
 
-    private void SelectFont(FontSpec font)
+    /// <summary>Selects a font by its height in device units and its angle. False where there are too many.</summary>
+    private bool TrySelectFont(FontSpec font, int height, int tenths)
     {
         string family = font.Family.Split(',')[0].Trim();
-        int look = (font.Bold ? 1 : 0) | (font.Italic ? 2 : 0);
-        int handle = Handle((EmfObject.Font, (uint)look, 0, family), at =>
-            _records.AddFont(at, -FontUnits, font.Bold, font.Italic, family));
-        _records.Add(EmfRecord.SelectObject, handle);
+        uint style = (uint)((tenths << 2) | (font.Bold ? 1 : 0) | (font.Italic ? 2 : 0));
+        var key = (EmfObject.Font, style, height, family);
+        if (!_handles.ContainsKey(key) && ++_fonts > MaxFonts)
+        {
+            return false;
+        }
+
+        int handle = Handle(key, at => _records.AddFont(at, -height, tenths, font.Bold, font.Italic, family));
+        if (handle != _selected.Font)
+        {
+            _records.Add(EmfRecord.SelectObject, handle);
+            _selected.Font = handle;
+        }
+
+        return true;
+    }
+
+    /// <summary>Whether a map of characters, whose Y axis points up, only rotates and scales them.</summary>
+    private static bool IsUniform(in Affine2 m, double height) =>
+        Math.Abs(m.Xx + m.Yy) <= UniformTolerance * height && Math.Abs(m.Yx - m.Xy) <= UniformTolerance * height;
+
+    private static int TenthsOfDegree(in Affine2 m)
+    {
+        int tenths = (int)Math.Round(Math.Atan2(-m.Yx, m.Xx) * 1800 / Math.PI);
+        return (tenths + 3600) % 3600;
     }
 
     private int Handle((EmfObject Kind, uint Color, int Size, string Face) key, Action<int> create)
@@ -196,8 +244,8 @@ internal sealed class EmfDocument : MetafilePlayer
         return handle;
     }
 
-    /// <summary>The width of each letter as laid out, so that another font keeps to it.</summary>
-    private int[] Advances(in TextRun run)
+    /// <summary>The width of each character as laid out, so that another font keeps to it.</summary>
+    private int[] Advances(in TextRun run, double height)
     {
         var widths = new int[run.Text.Length];
         int before = 0;
@@ -205,7 +253,7 @@ internal sealed class EmfDocument : MetafilePlayer
         {
             bool pair = char.IsHighSurrogate(run.Text[i]) && i + 1 < widths.Length;
             int until = pair ? before
-                : Round(Engine.Advance(run.Font, run.Text[..(i + 1)], run.LetterSpacing) * FontUnits);
+                : Round(Engine.Advance(run.Font, run.Text[..(i + 1)], run.LetterSpacing) * height);
             widths[i] = until - before;
             before = until;
         }

@@ -42,7 +42,7 @@ internal enum EmfRecord
     SetGraphicsMode = 98,
 }
 
-/// <summary>The records of an enhanced metafile, gathered in memory: its head tells their number and length.</summary>
+/// <summary>The records of an enhanced metafile, gathered in memory: the header has their number and length.</summary>
 internal sealed class EmfRecords
 {
     private const int HeaderLength = 108;
@@ -56,7 +56,7 @@ internal sealed class EmfRecords
     /// <summary>The bounds of a record that states none: left, top, right, bottom.</summary>
     internal int[] Everything { get; } = [0, 0, -1, -1];
 
-    /// <summary>Leaves room for the head.</summary>
+    /// <summary>Leaves room for the header.</summary>
     internal void Begin() => _content.Write(new byte[HeaderLength]);
 
     internal void Add(EmfRecord record, params ReadOnlySpan<int> values)
@@ -103,11 +103,15 @@ internal sealed class EmfRecords
         Add(EmfRecord.CreatePen, handle, 0, 0, 0, 0, style, width, 0, (int)color, 0, 0);
     }
 
-    internal void AddFont(int handle, int height, bool bold, bool italic, string face)
+    /// <summary>Adds a font by its height, negative for that of its em square, and its angle in tenths of a degree,
+    /// counterclockwise.</summary>
+    internal void AddFont(int handle, int height, int tenths, bool bold, bool italic, string face)
     {
         Open(EmfRecord.CreateFont, FontRecordLength);
         byte[] font = new byte[FontRecordLength - 12];
         BinaryPrimitives.WriteInt32LittleEndian(font, height);
+        BinaryPrimitives.WriteInt32LittleEndian(font.AsSpan(8), tenths);
+        BinaryPrimitives.WriteInt32LittleEndian(font.AsSpan(12), tenths);
         BinaryPrimitives.WriteInt32LittleEndian(font.AsSpan(16), bold ? 700 : 400);
         font[20] = italic ? (byte)1 : (byte)0;
         const byte defaultCharset = 1;
@@ -117,29 +121,30 @@ internal sealed class EmfRecords
         _content.Write(font);
     }
 
-    internal void AddText(string text, int[] advances)
+    /// <summary>Adds a text with its baseline at a point.</summary>
+    internal void AddText(string text, int x, int y, int[] advances)
     {
-        const int head = 76;
-        int letters = ((text.Length * 2) + 3) / 4 * 4;
-        Open(EmfRecord.ExtTextOut, head + letters + (4 * advances.Length));
+        const int header = 76;
+        int length = ((text.Length * 2) + 3) / 4 * 4;
+        Open(EmfRecord.ExtTextOut, header + length + (4 * advances.Length));
         Put(Everything);
         const int advanced = 2;
-        Put([advanced, 0, 0, 0, 0, text.Length, head, 0]);
+        Put([advanced, 0, 0, x, y, text.Length, header, 0]);
         Put(Everything);
-        Put(head + letters);
-        byte[] bytes = new byte[letters];
+        Put(header + length);
+        byte[] bytes = new byte[length];
         Encoding.Unicode.GetBytes(text, bytes);
         _content.Write(bytes);
         Put(advances);
     }
 
-    /// <summary>A picture of three bytes a pixel, put onto a square of a side at the origin.</summary>
-    internal void AddPicture(int width, int height, byte[] rows, int side)
+    /// <summary>Adds an image of three bytes a pixel, on a square of a side at the origin.</summary>
+    internal void AddImage(int width, int height, byte[] rows, int side)
     {
-        const int head = 80, info = 40, copy = 0x00CC0020;
-        Open(EmfRecord.StretchDiBits, head + info + rows.Length);
+        const int header = 80, info = 40, copy = 0x00CC0020;
+        Open(EmfRecord.StretchDiBits, header + info + rows.Length);
         Put(Everything);
-        Put([0, 0, 0, 0, width, height, head, info, head + info, rows.Length, 0, copy, side, side]);
+        Put([0, 0, 0, 0, width, height, header, info, header + info, rows.Length, 0, copy, side, side]);
         Put([info, width, height, 1 | (24 << 16), 0, rows.Length, 0, 0, 0, 0]);
         _content.Write(rows);
     }
@@ -153,26 +158,26 @@ internal sealed class EmfRecords
             throw new RenderException("The page takes more than 2 GB as an enhanced metafile; draw a part of it.");
         }
 
-        // The title stands between two zero letters behind the head, which makes the head longer.
+        // The title, between two characters of zero, makes the header longer.
         byte[] title = Encoding.Unicode.GetBytes($"korvan.cad\0{name}\0\0");
         int padded = (title.Length + 3) / 4 * 4;
-        byte[] head = new byte[HeaderLength + padded];
-        title.CopyTo(head.AsSpan(HeaderLength));
+        byte[] header = new byte[HeaderLength + padded];
+        title.CopyTo(header.AsSpan(HeaderLength));
         long total = _content.Length + padded;
-        WriteHead(head, [
-            (int)EmfRecord.Header, head.Length, 0, 0, width, height, 0, 0, width, height, 0x464D4520, 0x10000,
+        WriteHeader(header, [
+            (int)EmfRecord.Header, header.Length, 0, 0, width, height, 0, 0, width, height, 0x464D4520, 0x10000,
                 (int)total, _count, handles,
             title.Length / 2, HeaderLength, 0, width, height, Math.Max(1, width / 100), Math.Max(1, height / 100), 0, 0,
                 0, width * 10, height * 10]);
-        output.Write(head);
+        output.Write(header);
         output.Write(_content.GetBuffer(), HeaderLength, (int)_content.Length - HeaderLength);
     }
 
-    private static void WriteHead(byte[] head, ReadOnlySpan<int> values)
+    private static void WriteHeader(byte[] header, ReadOnlySpan<int> values)
     {
         for (int i = 0; i < values.Length; i++)
         {
-            BinaryPrimitives.WriteInt32LittleEndian(head.AsSpan(i * 4), values[i]);
+            BinaryPrimitives.WriteInt32LittleEndian(header.AsSpan(i * 4), values[i]);
         }
     }
 

@@ -1,6 +1,8 @@
+using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -8,6 +10,8 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <content>Block references, their arrays and attributes, and dimensions, which are blocks of their own.</content>
 internal sealed partial class SceneBuilder
 {
+    private const string DimensionBlock = "*D";
+
     private void DrawInsert(CadInsertObject insert, LayerInfo layer, BlockContext context)
     {
         if (_pens.IsFrozen(layer, context) || (_style.AsPlotted && !layer.IsPlotted))
@@ -74,9 +78,10 @@ internal sealed partial class SceneBuilder
             return;
         }
 
+        Pen pen = _pens.PenOf(dimension, layer, context);
         if (dimension.BlockName.Length == 0 || !_tables.Blocks.TryGetValue(dimension.BlockName, out BlockInfo? block))
         {
-            List.Skip(dimension.TypeNameText + " without a picture");
+            DrawFigure(dimension, layer, pen, context);
             return;
         }
 
@@ -87,6 +92,21 @@ internal sealed partial class SceneBuilder
             map *= dimension.ExtrusionDirection.ToPlane() * Affine3.Translation(dimension.InsertionPoint.ToVec3());
         }
 
-        DrawBlock(block, map, layer, _pens.PenOf(dimension, layer, context), context);
+        DrawBlock(block, map, layer, pen, context);
+    }
+
+    /// <summary>Draws a dimension by its points and its style.</summary>
+    private void DrawFigure(CadDimensionBase dimension, LayerInfo layer, in Pen pen, BlockContext context)
+    {
+        List<CadEntityBase> entities = DimensionGraphics.Create(
+            dimension, _tables.Dimensions.Of(dimension), text => TextLayouts.BoxOf(text, _tables, _canvas.Engine));
+        if (entities.Count == 0)
+        {
+            List.Skip(dimension.TypeNameText + " without a figure");
+            return;
+        }
+
+        var block = new BlockInfo(DimensionBlock + dimension.ObjectHandle, default, entities);
+        DrawBlock(block, context.Map, layer, pen, context);
     }
 }

@@ -1,4 +1,5 @@
 using System;
+using Korvan.CAD.FileFormats.Cad.Acis;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 
@@ -150,6 +151,15 @@ internal sealed partial class SceneBuilder
         else
         {
             List.Skip("SPLINE without a curve");
+        }
+    }
+
+    void IGeometrySink.Edges(AcisWireframe edges)
+    {
+        EntityGeometry.EmitEdges(edges, this);
+        for (int i = 0; i < edges.UnreadEdges; i++)
+        {
+            List.Skip($"{_current.Entity.TypeNameText} edge");
         }
     }
 

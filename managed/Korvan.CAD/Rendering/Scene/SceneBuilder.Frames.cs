@@ -12,7 +12,7 @@ internal sealed partial class SceneBuilder
 
     void IGeometrySink.Frame(in ContentFrame frame)
     {
-        Picture? preview = frame.Source is CadOle2Frame document ? Preview(document) : null;
+        ImagePixels? preview = frame.Source is CadOle2Frame document ? Preview(document) : null;
         if (preview is not null && frame.Corners.Length == 4)
         {
             DrawPreview(frame, preview);
@@ -69,10 +69,10 @@ internal sealed partial class SceneBuilder
 
     private static Affine3 PlaneOf(CadShape shape) => shape.ExtrusionDirection.ToPlane();
 
-    private static Picture? Preview(CadOle2Frame document) => document.GetPreview() is { FileExtension: ".bmp" } image
-        ? Picture.Decode(image.Data, document.TypeNameText) : null;
+    private static ImagePixels? Preview(CadOle2Frame document) => document.GetPreview() is { FileExtension: ".bmp" } image
+        ? ImagePixels.Decode(image.Data, document.TypeNameText) : null;
 
-    private void DrawPreview(in ContentFrame frame, Picture picture)
+    private void DrawPreview(in ContentFrame frame, ImagePixels picture)
     {
         Affine3 map = _current.Context.Map;
         Vec2 origin = map.Project(frame.Corners[0]);

@@ -49,6 +49,20 @@ internal sealed partial class SceneBuilder
         }
     }
 
+    void IGeometrySink.Polygon(CadHatch area, in Affine3 plane)
+    {
+        Current outline = _current;
+        var color = new DrawingColor(area.ColorId, area.ColorValue);
+        Rgba fill = _pens.ColorOf(color, outline.Layer, outline.Context).WithAlpha(outline.Pen.Color.A);
+        _current = outline with { Pen = outline.Pen with { Color = fill } };
+        ((IGeometrySink)this).Hatch(area, plane);
+        _current = outline;
+        foreach (CadHatchBoundaryPathContainer boundary in area.BoundaryPaths)
+        {
+            EntityGeometry.EmitBoundary(boundary, plane, area.ElevationPoint.Z, this);
+        }
+    }
+
     private static List<HatchLine> Lines(CadHatch hatch)
     {
         var lines = new List<HatchLine>(hatch.PatternDefinitions.Count);

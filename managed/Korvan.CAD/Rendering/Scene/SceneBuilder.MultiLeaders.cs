@@ -11,6 +11,9 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <content>Multileaders and tables.</content>
 internal sealed partial class SceneBuilder
 {
+    // Group code 170 of a multileader.
+    private const int SplineLeader = 2;
+
     void IGeometrySink.MultiLeader(CadMLeader leader)
     {
         (Pen pen, LayerInfo layer, BlockContext context, _) = _current;
@@ -38,7 +41,7 @@ internal sealed partial class SceneBuilder
 
         if (data.HasText && data.Text.Length > 0)
         {
-            DrawLeaderText(data, Own(data.TextColor), layer, context);
+            DrawLeaderText(leader, Own(data.TextColor), layer, context);
         }
         else if (data.HasBlock)
         {
@@ -66,7 +69,8 @@ internal sealed partial class SceneBuilder
     private void DrawBranch(CadMLeaderNode branch, CadMLeader leader, in Pen pen, BlockContext context)
     {
         Vec3 start = branch.LastLeaderLinePoint.ToVec3();
-        if (leader.Style.IsLandingEnabled && branch.DoglegLength > 0)
+        bool isStraight = leader.Style.LeaderType != SplineLeader;
+        if (isStraight && leader.Style is { IsLandingEnabled: true, IsDoglegEnabled: true } && branch.DoglegLength > 0)
         {
             var landing = new PathPen(_canvas.NewPath(), context.Map);
             landing.MoveTo(start);
@@ -85,7 +89,6 @@ internal sealed partial class SceneBuilder
 
     private void DrawLeaderLine(List<Vec3> points, CadMLeader leader, in Pen pen, BlockContext context)
     {
-        const int spline = 2;
         double arrowSize = leader.ContextData.ArrowheadSize;
         Vec3 tip = points[0];
         Vec3 along = (points[1] - tip).Unit();
@@ -96,7 +99,7 @@ internal sealed partial class SceneBuilder
         }
 
         var path = new PathPen(_canvas.NewPath(), context.Map);
-        if (leader.Style.LeaderType == spline)
+        if (leader.Style.LeaderType == SplineLeader)
         {
             FitSpline.Draw(path, points, null, null, closed: false);
         }
@@ -108,8 +111,9 @@ internal sealed partial class SceneBuilder
         _canvas.Stroke(pen);
     }
 
-    private void DrawLeaderText(CadMLeaderContextData data, in Pen pen, LayerInfo layer, BlockContext context)
+    private void DrawLeaderText(CadMLeader leader, in Pen pen, LayerInfo layer, BlockContext context)
     {
+        CadMLeaderContextData data = leader.ContextData;
         StyleInfo used = _tables.StylesByHandle.TryGetValue(HandleOf(data.TextStyleHandle), out StyleInfo? style)
             ? style
             : StyleInfo.Default;
@@ -121,8 +125,16 @@ internal sealed partial class SceneBuilder
         Vec3 x = data.TextDirection.ToVec3().Unit();
         Vec3 normal = data.TextNormal.ToVec3().Unit();
         var plane = new Affine3(x, Vec3.Cross(normal, x), normal, data.TextLocation.ToVec3());
-        TextPainter.Draw(
-            _canvas, layout, context.Map * plane, pen, color => InlineColorOf(color, layer, context));
+        Affine3 map = context.Map * plane;
+        if (leader.Style.IsTextFrameEnabled)
+        {
+            (double left, double bottom, double right, double top) = layout.Box;
+            double gap = data.LandingGap;
+            AddBox(map, left - gap, bottom - gap, right + gap, top + gap);
+            _canvas.Stroke(pen with { Pattern = null });
+        }
+
+        TextPainter.Draw(_canvas, layout, map, pen, color => InlineColorOf(color, layer, context));
     }
 
     /// <summary>A table has its graphics in an anonymous block at its insertion point.</summary>

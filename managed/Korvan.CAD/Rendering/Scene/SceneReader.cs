@@ -5,6 +5,7 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -45,6 +46,7 @@ internal static class SceneReader
             Settings = Settings(drawing),
             Images = ImageFiles.Of(drawing),
             Shapes = ShapeFiles.Of(drawing),
+            Dimensions = new DimensionStyles(drawing),
         };
         var styleNames = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
         foreach (CadStyleTableObject text in drawing.Styles)

@@ -1,7 +1,9 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -118,6 +120,9 @@ internal sealed class SceneTables
     internal Dictionary<ulong, StyleInfo> StylesByHandle { get; } = [];
 
     internal Dictionary<ulong, BlockInfo> BlocksByRecord { get; } = [];
+
+    /// <summary>The styles of dimensions that have no block.</summary>
+    internal DimensionStyles Dimensions { get; set; } = new(new CadDrawing(DrawingSeed.Blank));
 
     /// <summary>The pixels of images, by the handle of their definition.</summary>
     internal ImageFiles Images { get; set; } = ImageFiles.None;

@@ -1,6 +1,7 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -51,6 +52,13 @@ internal static class TextLayouts
             columns.Gutter,
             columns.Height);
         return MTextLayout.Create(engine, MTextParser.Parse(text.Text, start), frame, height);
+    }
+
+    /// <summary>Returns the box of a text in its own plane.</summary>
+    internal static Bounds2 BoxOf(CadMText text, SceneTables tables, TextEngine engine)
+    {
+        (double left, double bottom, double right, double top) = LayoutOf(text, tables, engine).Box;
+        return Bounds2.Of(left, bottom, right, top);
     }
 
     internal static MTextFormat StartFormat(StyleInfo style, double height) => new(

@@ -37,11 +37,7 @@ internal sealed class TextMeasurer : ITextMeasurer
         return canvas.List.Bounds;
     }
 
-    public Bounds2 Measure(CadMText text)
-    {
-        (double left, double bottom, double right, double top) = TextLayouts.LayoutOf(text, _tables, _engine).Box;
-        return Bounds2.Of(left, bottom, right, top);
-    }
+    public Bounds2 Measure(CadMText text) => TextLayouts.BoxOf(text, _tables, _engine);
 
     public void Dispose() => _engine.Dispose();
 }

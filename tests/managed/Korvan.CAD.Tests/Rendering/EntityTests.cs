@@ -224,11 +224,11 @@ public class EntityTests
     public void What_has_no_picture_is_counted()
     {
         CadImage drawing = Picture.Drawing(new Cad3DSolid(), new Cad3DSolid(), Picture.Insert("MISSING"),
-            new CadRotatedDimension { BlockName = "*D9" });
+            new CadRadialDimension { BlockName = "*D9" });
         DrawingList list = Build(drawing);
         Assert.Equal(2, list.Skipped["3DSOLID"]);
         Assert.Equal(1, list.Skipped["INSERT of a missing block"]);
-        Assert.Equal(1, list.Skipped["DIMENSION without a picture"]);
+        Assert.Equal(1, list.Skipped["DIMENSION without a figure"]);
     }
 
     [Fact]

@@ -1,5 +1,6 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -50,9 +51,13 @@ public abstract partial class CadDimensionBase : CadDimensionBaseR12
     [CadDouble(41, Optional = true)]
     public double LineSpacingFactor { get; set; } = 1;
 
-    /// <summary>Gets or sets the measured length, or the angle in radians. Group code 42.</summary>
-    [CadDouble(42, Optional = true)]
-    public double ActualMeasurement { get; set; }
+    /// <summary>Gets or sets the measured length in drawing units, or the angle in radians. Where neither the file nor
+    /// a program states it, it is measured between the points of the dimension. Group code 42.</summary>
+    public double ActualMeasurement
+    {
+        get => StoredMeasurement != 0 ? StoredMeasurement : DimensionMeasure.Of(this);
+        set => StoredMeasurement = value;
+    }
 
     /// <summary>Gets or sets the text; empty or "&lt;&gt;" for the measurement, a blank for none. Group code
     /// 1.</summary>
@@ -64,4 +69,8 @@ public abstract partial class CadDimensionBase : CadDimensionBaseR12
 
     /// <summary>Gets the kind of the dimension without its flags.</summary>
     public CadDimensionType DimensionType => (CadDimensionType)(TypeOfDimension & 7);
+
+    /// <summary>Gets or sets the measurement as it is in the file; 0 for none.</summary>
+    [CadDouble(42, Optional = true)]
+    internal double StoredMeasurement { get; set; }
 }

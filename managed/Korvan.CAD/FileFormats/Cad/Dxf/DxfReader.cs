@@ -20,7 +20,7 @@ internal sealed partial class DxfReader
 
     internal DxfReader(byte[] data, string fileName, LoadOptions options)
     {
-        _tags = new DxfTagReader(data, fileName);
+        _tags = new DxfTagReader(data, fileName) { Repaired = options.Report };
         _objects = new DxfObjectReader(_tags);
         _options = options;
         if (options.SpecifiedMifEncoding != MifCodePages.Undefined || options.RecoverMalformedCifMif)

@@ -37,6 +37,9 @@ internal sealed partial class DxfTagReader : FieldReader
     /// <summary>Gets or sets the handle of the object that is being read; 0 where none was read yet.</summary>
     internal ulong CurrentHandle { get; set; }
 
+    /// <summary>Gets or sets what is told of values that were repaired; without it none is.</summary>
+    internal Action<LoadDefect>? Repaired { get; set; }
+
     /// <summary>Gets whether the file is binary.</summary>
     internal bool IsBinary => _binary != BinaryLayout.None;
 
@@ -118,7 +121,7 @@ internal sealed partial class DxfTagReader : FieldReader
         {
             value = BinaryTags.ToDouble(Code, Value);
         }
-        else if (!FastDouble.TryParse(Trimmed(), out value))
+        else if (!FastDouble.TryParse(Trimmed(), out value) && !TryRepair(LoadDefectCode.BadNumber, out value))
         {
             throw NotA(LoadDefectCode.BadNumber, "a number");
         }
@@ -156,7 +159,8 @@ internal sealed partial class DxfTagReader : FieldReader
         }
 
         // Some programs write integers with a fraction of zero or a sign.
-        return FastDouble.TryParse(text, out double number) && Math.Abs(number) < 9e18 && number == Math.Floor(number)
+        return (FastDouble.TryParse(text, out double number) || TryRepair(LoadDefectCode.BadInteger, out number))
+            && Math.Abs(number) < 9e18 && number == Math.Floor(number)
             ? (long)number
             : throw NotA(LoadDefectCode.BadInteger, "an integer");
     }
@@ -215,13 +219,15 @@ internal sealed partial class DxfTagReader : FieldReader
         ? new CadBinaryCodeValue(Code, ValueText()) : new CadCodeValue(Code, ValueText());
 
     /// <summary>Describes damage at the current tag.</summary>
-    internal ImageLoadException Fail(LoadDefectCode code, string cause)
+    internal ImageLoadException Fail(LoadDefectCode code, string cause) => new(Defect(code, cause));
+
+    private LoadDefect Defect(LoadDefectCode code, string cause)
     {
         string record = CurrentHandle == 0 ? "" : $"handle {CurrentHandle.ToString("X", CultureInfo.InvariantCulture)}";
         LoadPlace place = IsBinary
             ? new LoadPlace(_fileName, Record: record, Offset: _tagOffset)
             : new LoadPlace(_fileName, _line, record);
-        return new ImageLoadException(new LoadDefect(code, place, cause));
+        return new LoadDefect(code, place, cause);
     }
 
     private static int SkipByteOrderMark(byte[] data)

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
+using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
@@ -16,6 +17,7 @@ internal sealed class DrawingExtents : IDisposable
     private readonly TextBoxes _texts;
     private readonly Dictionary<string, Extents> _blocks = new(StringComparer.OrdinalIgnoreCase);
     private readonly HashSet<string> _open = new(StringComparer.OrdinalIgnoreCase);
+    private DimensionStyles? _dimensions;
     private int _rotated;
 
     private DrawingExtents(CadDrawing drawing, Func<ITextMeasurer?>? createMeasurer)
@@ -23,6 +25,8 @@ internal sealed class DrawingExtents : IDisposable
         _drawing = drawing;
         _texts = new TextBoxes(createMeasurer);
     }
+
+    private DimensionStyles Dimensions => _dimensions ??= new DimensionStyles(_drawing);
 
     /// <summary>The corners of model space.</summary>
     /// <param name="drawing">The drawing.</param>
@@ -160,9 +164,16 @@ internal sealed class DrawingExtents : IDisposable
 
         protected override void AddDimension(CadDimensionBase dimension)
         {
-            if (dimension.BlockName.Length > 0)
+            if (dimension.BlockName.Length > 0 && owner._drawing.BlockEntities.Find(dimension.BlockName) is not null)
             {
                 owner.AddBlock(dimension.BlockName, Extents.Map, Extents);
+                return;
+            }
+
+            foreach (CadEntityBase entity in DimensionGraphics.Create(
+                dimension, owner.Dimensions.Of(dimension), owner._texts.BoxOf))
+            {
+                EntityGeometry.Emit(entity, this);
             }
         }
     }

@@ -1,5 +1,6 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
@@ -10,32 +11,34 @@ internal static class DrawingStrings
     internal static string[] Collect(CadDrawing drawing)
     {
         List<string> texts = [];
-        AddAll(drawing.ModelSpace.Entities.ItemsOf(), texts);
-        AddAll(drawing.PaperSpace.Entities.ItemsOf(), texts);
+        var sink = new Sink(drawing, texts);
+        AddAll(drawing.ModelSpace.Entities.ItemsOf(), sink);
+        AddAll(drawing.PaperSpace.Entities.ItemsOf(), sink);
         foreach (CadBlockEntity block in drawing.BlockEntities)
         {
             // Blocks of dimensions repeat the texts of the dimensions.
             bool ofDimension = block.Name.StartsWith("*D", System.StringComparison.OrdinalIgnoreCase);
             if (block != drawing.ModelSpace && block != drawing.PaperSpace && !ofDimension)
             {
-                AddAll(block.Entities.ItemsOf(), texts);
+                AddAll(block.Entities.ItemsOf(), sink);
             }
         }
 
         return [.. texts];
     }
 
-    private static void AddAll(List<CadEntityBase> entities, List<string> texts)
+    private static void AddAll(List<CadEntityBase> entities, Sink sink)
     {
-        var sink = new Sink(texts);
         foreach (CadEntityBase entity in entities)
         {
             EntityGeometry.Emit(entity, sink);
         }
     }
 
-    private sealed class Sink(List<string> texts) : IGeometrySink
+    private sealed class Sink(CadDrawing drawing, List<string> texts) : IGeometrySink
     {
+        private DimensionStyles? _dimensions;
+
         void IGeometrySink.Text(in TextLine text) => Add(PlainText.FromText(text.Content));
 
         void IGeometrySink.Paragraphs(CadMText text, in Affine3 plane) => Add(PlainText.FromMText(text.Text));
@@ -46,7 +49,14 @@ internal static class DrawingStrings
 
         void IGeometrySink.Dimension(CadDimensionBase dimension)
         {
-            if (dimension.Text is not ("" or "<>"))
+            bool hasBlock = dimension.BlockName.Length > 0
+                && drawing.BlockEntities.Find(dimension.BlockName) is not null;
+            if (!hasBlock)
+            {
+                _dimensions ??= new DimensionStyles(drawing);
+                Add(PlainText.FromMText(DimensionText.Of(dimension, _dimensions.Of(dimension))));
+            }
+            else if (dimension.Text is not ("" or "<>"))
             {
                 Add(PlainText.FromMText(dimension.Text));
             }

@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.Acis;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
@@ -92,6 +93,8 @@ internal class EntityExtents(Extents extents, TextBoxes? texts = null) : IGeomet
             EntityGeometry.EmitBoundary(boundary, plane, hatch.ElevationPoint.Z, this);
         }
     }
+
+    void IGeometrySink.Edges(AcisWireframe edges) => EntityGeometry.EmitEdges(edges, this);
 
     void IGeometrySink.Text(in TextLine text)
     {

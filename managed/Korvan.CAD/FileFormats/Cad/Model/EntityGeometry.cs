@@ -56,6 +56,17 @@ internal static partial class EntityGeometry
     /// <summary>Gives the shapes of an entity to a sink. False for entities whose shape is not known.</summary>
     internal static bool Emit(CadEntityBase entity, IGeometrySink sink)
     {
+        bool isDrawn = entity switch
+        {
+            CadObjectWithAcisData solid => EmitSolid(solid.AcisData, sink),
+            RawEntity raw => EmitRaw(raw, sink),
+            _ => false,
+        };
+        if (isDrawn)
+        {
+            return true;
+        }
+
         for (Type? type = entity.GetType(); type != typeof(CadEntityBase) && type is not null; type = type.BaseType)
         {
             if (Emitters.TryGetValue(type, out Action<CadEntityBase, IGeometrySink>? emit))

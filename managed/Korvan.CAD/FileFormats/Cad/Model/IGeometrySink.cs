@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.Acis;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
@@ -72,6 +73,14 @@ internal interface IGeometrySink
     }
 
     void Hatch(CadHatch hatch, in Affine3 plane)
+    {
+    }
+
+    /// <summary>An area whose boundaries are drawn, too; the colour of the hatch is that of the area.</summary>
+    void Polygon(CadHatch area, in Affine3 plane) => Hatch(area, plane);
+
+    /// <summary>The edges of a solid, a surface or a region.</summary>
+    void Edges(AcisWireframe edges)
     {
     }
 

@@ -36,6 +36,28 @@ internal sealed class KeptTags : KeptData
         return target;
     }
 
+    /// <summary>Returns the tags of a subclass of an entity without a class, whose markers are among its
+    /// tags.</summary>
+    internal List<CadCodeValue> Of(string subclass)
+    {
+        const int marker = 100;
+        List<CadCodeValue> found = [];
+        string current = "";
+        foreach (CadCodeValue tag in Values)
+        {
+            if (tag.Attribute == marker)
+            {
+                current = tag.Value.Trim();
+            }
+            else if (current == subclass)
+            {
+                found.Add(tag);
+            }
+        }
+
+        return found;
+    }
+
     internal override KeptData Copy() => new KeptTags
     {
         Tags = Tags.ConvertAll(static tag => new KeptTag(tag.Subclass, Clone(tag.Value))),

@@ -77,6 +77,9 @@ internal sealed class TextBoxes(Func<ITextMeasurer?>? createMeasurer) : IDisposa
         return true;
     }
 
+    /// <summary>Returns the box of a text in its own plane.</summary>
+    internal Bounds2 BoxOf(CadMText text) => Measurer?.Measure(text) ?? Approximate(text);
+
     /// <summary>Adds those of the noted texts to a box that may reach past what it holds by now.</summary>
     internal void Finish(Extents extents)
     {

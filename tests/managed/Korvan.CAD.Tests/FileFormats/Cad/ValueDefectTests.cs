@@ -1,5 +1,7 @@
 using System;
+using System.Globalization;
 using System.Linq;
+using System.Reflection;
 using System.Text;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad;
@@ -18,7 +20,7 @@ public class ValueDefectTests
     /// <summary>Why the value is bad, the group code, the value, and the number of the defect.</summary>
     public static readonly TheoryData<string, int, string, int> BadValues = new()
     {
-        { "digits that letters follow are no integer", 62, "12abc", (int)LoadDefectCode.BadInteger },
+        { "a fraction that letters follow", 62, "12.5abc", (int)LoadDefectCode.BadInteger },
         { "letters alone", 62, "red", (int)LoadDefectCode.BadInteger },
         { "an integer with a fraction would be cut", 62, "12.5", (int)LoadDefectCode.BadInteger },
         { "two integers in one value", 62, "1 2", (int)LoadDefectCode.BadInteger },
@@ -32,7 +34,8 @@ public class ValueDefectTests
         { "more than 64 bits hold", 420, "99999999999999999999", (int)LoadDefectCode.BadInteger },
         { "a word as coordinate", 10, "west", (int)LoadDefectCode.BadNumber },
         { "a decimal comma", 10, "1,5", (int)LoadDefectCode.BadNumber },
-        { "a number that letters follow", 10, "1.5mm", (int)LoadDefectCode.BadNumber },
+        { "a number that letters and digits follow", 10, "1.5mm2", (int)LoadDefectCode.BadNumber },
+        { "letters without a number", 10, "-mm", (int)LoadDefectCode.BadNumber },
         { "an exponent without digits", 10, "1e", (int)LoadDefectCode.BadNumber },
         { "a sign alone", 10, "-", (int)LoadDefectCode.BadNumber },
         { "a point alone", 10, ".", (int)LoadDefectCode.BadNumber },
@@ -79,6 +82,35 @@ public class ValueDefectTests
         CadText text = (CadText)Assert.Single(DxfText.Load(DxfText.Drawing(0, "TEXT", 8, "0", code, value)).Entities);
         object? actual = typeof(CadText).GetProperty(property)!.GetValue(text);
         Assert.True(expected.Equals(actual), $"{why}: {actual}");
+    }
+
+    /// <summary>Numbers with letters behind them lose nothing by a repair.</summary>
+    [Theory]
+    [InlineData(62, "256QSW", "ColorId", 256.0, (int)LoadDefectCode.BadInteger)]
+    [InlineData(62, "-7x", "StoredColor", -7.0, (int)LoadDefectCode.BadInteger)]
+    [InlineData(40, " 2.5mm ", "TextHeight", 2.5, (int)LoadDefectCode.BadNumber)]
+    public void Letters_after_a_number_are_passed_over_and_reported(
+        int code, string value, string property, double expected, int defect)
+    {
+        LoadOptions options = new();
+        string drawing = DxfText.Drawing(0, "TEXT", 5, "2A", 8, "0", code, value, 0, "POINT", 10, 1);
+        CadImage image = DxfText.Load(drawing, options);
+        Assert.Equal(2, image.Entities.Count);
+        const BindingFlags any = BindingFlags.Instance | BindingFlags.Public | BindingFlags.NonPublic;
+        object? actual = typeof(CadText).GetProperty(property, any)!.GetValue(image.Entities[0]);
+        Assert.Equal(expected, Convert.ToDouble(actual, CultureInfo.InvariantCulture));
+        LoadDefect found = Assert.Single(options.Defects);
+        Assert.Equal((defect, 25, "handle 2A"), ((int)found.Code, found.Place.Line, found.Place.Record));
+        Assert.Contains(value.Trim(), Assert.Single(options.Errors), StringComparison.Ordinal);
+    }
+
+    [Fact]
+    public void A_repaired_value_that_is_looked_at_in_advance_is_reported_once()
+    {
+        LoadOptions options = new();
+        CadImage image = DxfText.Load(DxfText.Drawing(0, "DIMENSION", 8, "0", 70, "33A", 10, 1), options);
+        Assert.IsType<CadAlignedDimension>(Assert.Single(image.Entities));
+        Assert.Single(options.Errors);
     }
 
     /// <summary>What is counted, and the tags up to its count.</summary>

@@ -47,6 +47,11 @@ internal static partial class ProxyGraphics
     // The length comes first; the bytes that follow it are the graphics, those after other lengths are not.
     private static byte[] DataOf(CadEntityBase entity)
     {
+        if (entity is CadAcadProxyEntity proxy)
+        {
+            return proxy.GraphicsData;
+        }
+
         if (entity.Kept is not KeptTags kept)
         {
             return [];

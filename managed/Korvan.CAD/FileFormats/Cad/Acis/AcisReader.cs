@@ -1,0 +1,284 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.Geometry;
+
+namespace Korvan.CAD.FileFormats.Cad.Acis;
+
+/// <summary>
+/// Reads the edges of a body out of the text of its modeler. An edge points to two vertices and to a curve; the places
+/// of the pointers differ between versions of the modeler, but not the types of what they point to.
+/// </summary>
+internal sealed class AcisReader
+{
+    private const string Edge = "edge";
+    private const string Vertex = "vertex";
+    private const string Point = "point";
+    private const string Transform = "transform";
+    private const string Curve = "-curve";
+    private const string Reversed = "reversed";
+
+    // A point is on a curve, and two points are one, within this part of the size of the curve.
+    private const double Tolerance = 1e-6;
+    private const int TrimmedPoints = 129;
+
+    private readonly List<SatRecord> _records;
+    private readonly SatSplines _splines;
+    private readonly AcisWireframe _wireframe = new();
+    private readonly Affine3 _map;
+
+    private AcisReader(SatText text)
+    {
+        _records = text.Records;
+        _map = MapOf(_records);
+        _splines = new SatSplines(_records, _map);
+    }
+
+    /// <summary>Returns the edges; null where the text has none that are known.</summary>
+    internal static AcisWireframe? Read(IReadOnlyList<string> lines)
+    {
+        if (SatText.Parse(lines) is not SatText text)
+        {
+            return null;
+        }
+
+        var reader = new AcisReader(text);
+        bool hasEdges = false;
+        foreach (SatRecord record in reader._records)
+        {
+            if (record.Type == Edge)
+            {
+                hasEdges = true;
+                reader.AddEdge(record);
+            }
+        }
+
+        if (!hasEdges)
+        {
+            reader.AddClosedSurfaces();
+        }
+
+        return reader._wireframe.IsEmpty ? null : reader._wireframe;
+    }
+
+    private void AddEdge(in SatRecord edge)
+    {
+        (Vec3 start, Vec3 end) = (default, default);
+        int vertices = 0;
+        int curve = -1;
+        int sense = -1;
+        for (int i = 1; i < edge.Tokens.Length; i++)
+        {
+            int target = edge.Target(i);
+            string type = target >= 0 && target < _records.Count ? _records[target].Type : "";
+            if (type == Vertex && vertices < 2)
+            {
+                Vec3 point = PointOf(_records[target]);
+                (start, end) = vertices++ == 0 ? (point, point) : (start, point);
+            }
+            else if (type.EndsWith(Curve, StringComparison.Ordinal))
+            {
+                (curve, sense) = (target, i + 1);
+            }
+        }
+
+        // An edge without a curve is a point, as the apex of a cone.
+        if (curve < 0 || vertices == 0)
+        {
+            return;
+        }
+
+        bool isReversed = sense < edge.Tokens.Length && edge.Tokens[sense] == Reversed;
+        if (!TryAdd(_records[curve], start, end, isReversed))
+        {
+            _wireframe.UnreadEdges++;
+        }
+    }
+
+    private bool TryAdd(in SatRecord curve, Vec3 start, Vec3 end, bool isReversed)
+    {
+        if (!start.IsFinite || !end.IsFinite)
+        {
+            return false;
+        }
+
+        switch (curve.Type)
+        {
+            case "straight-curve":
+                _wireframe.Lines.Add((_map.Point(start), _map.Point(end)));
+                return true;
+            case "ellipse-curve":
+                return TryAddEllipse(curve, start, end, isReversed);
+            case "intcurve-curve":
+                if (_splines.Of(curve) is not AcisSpline spline)
+                {
+                    return false;
+                }
+
+                AddSpline(spline, _map.Point(start), _map.Point(end));
+                return true;
+            default:
+                return false;
+        }
+    }
+
+    /// <summary>Adds an ellipse: its centre, normal, major axis and the ratio of its axes.</summary>
+    private bool TryAddEllipse(in SatRecord curve, Vec3 start, Vec3 end, bool isReversed)
+    {
+        int at = curve.Values;
+        (Vec3 center, Vec3 normal, Vec3 major) = (curve.Vector(at), curve.Vector(at + 3), curve.Vector(at + 6));
+        Vec3 minor = Vec3.Cross(normal.Unit(), major) * curve.Number(at + 9);
+        if (!center.IsFinite || !major.IsFinite || !minor.IsFinite || major == default || minor == default)
+        {
+            return false;
+        }
+
+        double AngleOf(Vec3 point) => Math.Atan2(
+            Vec3.Dot(point - center, minor) / Vec3.Dot(minor, minor),
+            Vec3.Dot(point - center, major) / Vec3.Dot(major, major));
+
+        (double from, double to) = (AngleOf(start), AngleOf(end));
+        (from, to) = isReversed ? (to, from) : (from, to);
+        bool isWhole = (end - start).Length <= Tolerance * major.Length;
+        double sweep = isWhole ? Math.Tau : Angles.Sweep(from, to);
+        AddArc(new AcisArc(center, major, minor, from, sweep));
+        return true;
+    }
+
+    private void AddSpline(in AcisSpline spline, Vec3 start, Vec3 end)
+    {
+        Nurbs curve = spline.Curve;
+        (Vec3 first, Vec3 last) = (curve.At(curve.First), curve.At(curve.Last));
+        double size = 0;
+        spline.Control.ForEach(point => size = Math.Max(size, (point - first).Length));
+        double tolerance = Tolerance * size;
+        bool AreOne(Vec3 a, Vec3 b) => (a - b).Length <= tolerance;
+        if ((AreOne(first, start) && AreOne(last, end)) || (AreOne(first, end) && AreOne(last, start)))
+        {
+            _wireframe.Splines.Add(spline);
+            return;
+        }
+
+        AddPart(curve, start, end);
+    }
+
+    // The parameters of an edge depend on the version of the modeler; its ends do not.
+    private void AddPart(Nurbs curve, Vec3 start, Vec3 end)
+    {
+        (double from, double to) = (Nearest(curve, start), Nearest(curve, end));
+        var points = new Vec3[TrimmedPoints];
+        for (int i = 0; i < points.Length; i++)
+        {
+            points[i] = curve.At(from + ((to - from) * i / (points.Length - 1)));
+        }
+
+        _wireframe.Polylines.Add(points);
+    }
+
+    private static double Nearest(Nurbs curve, Vec3 point)
+    {
+        const int samples = 256;
+        double step = (curve.Last - curve.First) / samples;
+        double best = curve.First;
+        for (int round = 0; round < 4; round++, step /= samples / 4)
+        {
+            double around = round == 0 ? (curve.First + curve.Last) / 2 : best;
+            double nearest = double.PositiveInfinity;
+            for (int i = 0; i <= samples; i++)
+            {
+                double t = Math.Clamp(around + ((i - (samples / 2)) * step), curve.First, curve.Last);
+                double distance = (curve.At(t) - point).Length;
+                (best, nearest) = distance < nearest ? (t, distance) : (best, nearest);
+            }
+        }
+
+        return best;
+    }
+
+    private void AddArc(in AcisArc arc) => _wireframe.Arcs.Add(arc with
+    {
+        Center = _map.Point(arc.Center),
+        Major = _map.Vector(arc.Major),
+        Minor = _map.Vector(arc.Minor),
+    });
+
+    /// <summary>Adds circles of spheres and tori, which have no edges.</summary>
+    private void AddClosedSurfaces()
+    {
+        foreach (SatRecord surface in _records)
+        {
+            int at = surface.Values;
+            if (surface.Type == "sphere-surface")
+            {
+                double radius = Math.Abs(surface.Number(at + 3));
+                AddCircles(surface.Vector(at), [Vec3.UnitX * radius, Vec3.UnitY * radius, Vec3.UnitZ * radius]);
+            }
+            else if (surface.Type == "torus-surface")
+            {
+                AddTorus(surface.Vector(at), surface.Vector(at + 3).Unit(), surface.Number(at + 6),
+                    surface.Number(at + 7));
+            }
+        }
+    }
+
+    private void AddTorus(Vec3 center, Vec3 normal, double ring, double tube)
+    {
+        Vec3 x = Ocs.ToWorld(normal).AxisX;
+        Vec3 y = Vec3.Cross(normal, x);
+        foreach (double radius in (ReadOnlySpan<double>)[ring + tube, ring - tube])
+        {
+            TryAddCircle(center, x * radius, y * radius);
+        }
+
+        foreach (Vec3 way in (ReadOnlySpan<Vec3>)[x, y, -x, -y])
+        {
+            TryAddCircle(center + (way * ring), way * tube, normal * tube);
+        }
+    }
+
+    private void AddCircles(Vec3 center, ReadOnlySpan<Vec3> axes)
+    {
+        for (int i = 0; i < axes.Length; i++)
+        {
+            TryAddCircle(center, axes[i], axes[(i + 1) % axes.Length]);
+        }
+    }
+
+    private void TryAddCircle(Vec3 center, Vec3 u, Vec3 v)
+    {
+        if (center.IsFinite && u.IsFinite && v.IsFinite && u != default && v != default)
+        {
+            AddArc(new AcisArc(center, u, v, 0, Math.Tau));
+        }
+    }
+
+    private Vec3 PointOf(in SatRecord vertex)
+    {
+        for (int i = vertex.Tokens.Length - 1; i > 0; i--)
+        {
+            int target = vertex.Target(i);
+            if (target >= 0 && target < _records.Count && _records[target].Type == Point)
+            {
+                return _records[target].Vector(_records[target].Values);
+            }
+        }
+
+        return new Vec3(double.NaN, 0, 0);
+    }
+
+    /// <summary>Returns the map of the body: three rows of a rotation, a translation and a scale.</summary>
+    private static Affine3 MapOf(List<SatRecord> records)
+    {
+        int at = records.FindIndex(static record => record.Type == Transform);
+        if (at < 0)
+        {
+            return Affine3.Identity;
+        }
+
+        SatRecord r = records[at];
+        int first = r.Values;
+        double scale = r.Number(first + 12) is > 0 and var stated && double.IsFinite(stated) ? stated : 1;
+        var map = new Affine3(
+            r.Vector(first) * scale, r.Vector(first + 3) * scale, r.Vector(first + 6) * scale, r.Vector(first + 9));
+        return map.IsFinite ? map : Affine3.Identity;
+    }
+}

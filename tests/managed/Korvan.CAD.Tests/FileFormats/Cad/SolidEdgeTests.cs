@@ -1,0 +1,157 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.Acis;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.Rendering.Scene;
+using Korvan.CAD.Rendering.Text;
+using Korvan.CAD.Tests.Rendering;
+using Xunit;
+
+namespace Korvan.CAD.Tests.FileFormats.Cad;
+
+/// <summary>Edges of solids, surfaces and regions out of the text of their modeler.</summary>
+public class SolidEdgeTests
+{
+    private const string Ellipse = "ellipse-curve $-1 0 0 0 0 0 1 1 0 0 1 I I";
+    private const string Spline =
+        "intcurve-curve $-1 forward { exactcur nubs 2 open 2 0 2 1 2 1 0 0 1 1 0 0 1 0 0 } I I";
+    private const string Rational =
+        "intcurve-curve $-1 forward { exactcur full nurbs 2 open 2 0 2 1 2 1 0 0 1 1 1 0 1 0 1 0 2 0 } I I";
+
+    // The body is twice as large as its records say, and moved by (10, 20, 30).
+    [Theory]
+    [InlineData("straight-curve $-1 1 0 0 -0.7 0.7 0 I I", "forward", "0 1", 10, 20, 12, 22)]
+    [InlineData(Ellipse, "forward", "0 1", 10, 20, 12, 22)]
+    [InlineData(Ellipse, "reversed", "0 1", 8, 18, 12, 22)] // the other way around
+    [InlineData(Ellipse, "forward", "1 0", 8, 18, 12, 22)] // one vertex: a whole turn
+    [InlineData(Spline, "forward", "0 1", 10, 20, 12, 22)]
+    [InlineData(Spline, "reversed", "0.75 0.75", 11.5, 20, 12, 21.5)] // half of the curve
+    [InlineData(Rational, "forward", "0 1", 10, 20, 12, 22)]
+    public void Edges_run_between_their_vertices_along_their_curve(
+        string curve, string sense, string end, double minX, double minY, double maxX, double maxY)
+    {
+        string[] text = Body(curve, sense, end);
+        CadImage drawing = Picture.Drawing(Solid(text), Solid([.. text.Select(Encipher)]));
+        foreach (CadEntityBase solid in drawing.Entities.ToArray())
+        {
+            drawing.Entities.Clear();
+            drawing.Entities.Add(solid);
+            Assert.Equal((minX, minY, 30), Rounded(drawing.MinPoint));
+            Assert.Equal((maxX, maxY, 30), Rounded(drawing.MaxPoint));
+            DrawingList list = Build(drawing);
+            Assert.Equal((1, 0), (list.Items.Length, list.Skipped.Count));
+        }
+    }
+
+    [Fact]
+    public void Newer_texts_have_parameters_indices_and_strings_between_the_pointers()
+    {
+        string[] text =
+        [
+            "700 0 1 0", "@13 Some modeler @9 ACIS 32.0", "1 1e-6 1e-10",
+            "body $-1 -1 $-1 $-1 $-1 $-1 #",
+            "name-attrib $-1 -1 $-1 @6 a # {b #",
+            "vertex $-1 -1 $-1 $6 $3 #", "point $-1 -1 $-1 1 2 3 #",
+            "vertex $-1 -1 $-1 $6 $5 #", "point $-1 -1 $-1 4 6 3 #",
+            "edge $-1 -1 $-1 $2 -2.5 $4 2.5 $-1 $7 forward @7 unknown #",
+            "straight-curve $-1 -1 $-1 1 2 3 0.6 0.8 0", "I I #", // a record over two lines
+            "edge $-1 -1 $-1 $2 0 $2 0 $-1 $-1 forward @7 unknown #", // the apex of a cone
+            "End-of-ACIS-data", "edge $-1 $2 $4 $-1 $7 forward #",
+        ];
+        AcisWireframe edges = AcisReader.Read(text)!;
+        Assert.Equal([(new(1, 2, 3), new(4, 6, 3))], edges.Lines);
+        Assert.Equal(0, edges.UnreadEdges);
+    }
+
+    [Fact]
+    public void Splines_are_found_by_the_index_of_their_definition()
+    {
+        string[] text =
+        [
+            .. Body(Spline, "forward", "0 1"), "intcurve-curve $-1 forward { ref 0 } I I #",
+            "edge $-1 $1 $3 $-1 $8 forward #", "intcurve-curve $-1 forward { ref 9 } I I #",
+            "edge $-1 $1 $3 $-1 $10 forward #",
+        ];
+        AcisWireframe edges = AcisReader.Read(text)!;
+        Assert.Equal((2, 1), (edges.Splines.Count, edges.UnreadEdges));
+        DrawingList list = Build(Picture.Drawing(Solid(text)));
+        Assert.Equal(1, list.Skipped["3DSOLID edge"]);
+    }
+
+    [Fact]
+    public void Spheres_and_tori_have_circles_for_edges()
+    {
+        string[] header = ["400 0 1 0", "x", "1 1e-6 1e-10", "body $-1 $-1 $-1 $-1 #"];
+        CadImage sphere = Picture.Drawing(
+            Solid([.. header, "sphere-surface $-1 1 2 3 5 1 0 0 0 0 1 forward_v I I I I #"]));
+        Assert.Equal((-4.0, -3.0, -2.0), Rounded(sphere.MinPoint));
+        CadImage torus = Picture.Drawing(
+            Solid([.. header, "torus-surface $-1 0 0 0 0 0 1 5 2 1 0 0 forward_v I I I I #"]));
+        Assert.Equal((7.0, 7.0, 2.0), Rounded(torus.MaxPoint));
+    }
+
+    [Theory]
+    [InlineData("")]
+    [InlineData("not a header|x|x|edge $-1 #")]
+    [InlineData("400 0 1 0|x|x|edge $99 $-7 $0 $ forward #|edge #|# #")]
+    [InlineData("400 0 1 0|x|x|vertex $0 $1 #|point $-1 nan 1e999 #|straight-curve $-1 #|edge $-1 $0 $0 $2 #")]
+    [InlineData("400 0 1 0|x|x|vertex $1 #|point 0 0 0 #|ellipse-curve $-1 1 2 #|edge $0 $0 $2 x #|@99999 z")]
+    [InlineData("400 0 1 0|x|x|vertex $1 #|point 0 0 0 #|intcurve-curve { nubs 3 open 999999 1 #|edge $0 $0 $2 #")]
+    public void Text_that_cannot_be_read_is_counted_and_draws_nothing(string lines)
+    {
+        DrawingList list = Build(Picture.Drawing(Solid(lines.Split('|'))));
+        Assert.True(list.Items.IsEmpty);
+        Assert.Equal(1, list.Skipped["3DSOLID"]);
+    }
+
+    [Fact]
+    public void Surfaces_and_polygons_are_drawn_from_the_tags_that_are_kept()
+    {
+        IEnumerable<string> text = Body(Ellipse, "forward", "1 0").Select(line => $"1\n{Encipher(line)}\n");
+        string surface = "0\nSURFACE\n5\nA0\n100\nAcDbEntity\n8\n0\n100\nAcDbModelerGeometry\n70\n1\n"
+            + string.Concat(text) + "100\nAcDbSurface\n71\n6\n";
+        const string polygon =
+            "0\nMPOLYGON\n5\nA1\n100\nAcDbEntity\n8\n0\n62\n1\n100\nAcDbMPolygon\n70\n1\n10\n0\n20\n0\n"
+            + "30\n0\n210\n0\n220\n0\n230\n1\n2\nSOLID\n71\n1\n91\n1\n92\n3\n73\n1\n72\n0\n93\n3\n10\n0\n"
+            + "20\n50\n10\n90\n20\n50\n10\n45\n20\n95\n76\n1\n63\n5\n11\n0\n21\n0\n99\n0\n";
+        using DxfImage drawing = DxfText.Load(DxfText.Header("AC1015") + "0\nSECTION\n2\nENTITIES\n" + surface + polygon
+            + "0\nENDSEC\n0\nEOF\n");
+        Assert.Equal((95.0, 90.0), (drawing.MaxPoint.Y, drawing.MaxPoint.X));
+        DrawingList list = Build(drawing);
+        Assert.Empty(list.Skipped);
+        Assert.Equal(
+            [new Rgba(0, 0, 255), new Rgba(255, 0, 0)], list.Items.ToArray()[1..].Select(item => item.Color));
+    }
+
+    /// <summary>A body with an edge from (1, 0, 0) to another point.</summary>
+    private static string[] Body(string curve, string sense, string end) =>
+    [
+        "400 7 1 0", "16 Some modeler 9 ACIS 1.0", "1 1e-6 1e-10",
+        "body $-1 $-1 $-1 $7 #", "vertex $-1 $6 $2 #", "point $-1 1 0 0 #", "vertex $-1 $6 $4 #",
+        $"point $-1 {end} 0 #", curve + " #", $"edge $-1 $1 $3 $-1 $5 {sense} #",
+        "transform $-1 1 0 0 0 1 0 0 0 1 10 20 30 2 no_rotate no_reflect no_shear #",
+    ];
+
+    private static string Encipher(string line) => string.Concat(line.Select(static c =>
+        c is > ' ' and < '\x7f' ? (char)(159 - c) == '^' ? "^ " : $"{(char)(159 - c)}" : $"{c}"));
+
+    private static Cad3DSolid Solid(string[] text)
+    {
+        var solid = new Cad3DSolid();
+        solid.AcisData.AddRange(text);
+        return solid;
+    }
+
+    private static (double, double, double) Rounded(Cad3DPoint point) =>
+        (Math.Round(point.X, 4), Math.Round(point.Y, 4), Math.Round(point.Z, 4));
+
+    private static DrawingList Build(CadImage drawing)
+    {
+        using var engine = new TextEngine();
+        DrawingScene scene = SceneReader.Read(drawing.Drawing);
+        return scene.Build(scene.Choose([])[0], new RenderStyle(), engine);
+    }
+}
