@@ -13,7 +13,7 @@ internal sealed class SvgLayers
     private readonly List<(string Name, int Runs)> _layers = [];
     private readonly HashSet<string> _taken = [];
 
-    /// <summary>Returns the name of a layer as an identifier, and the number of runs of items that it has had.</summary>
+    /// <summary>Returns the name of a layer as an identifier, and the number of this run of its items.</summary>
     internal (string Name, int Run) Next(int layer, IReadOnlyList<string> names)
     {
         while (_layers.Count <= layer)

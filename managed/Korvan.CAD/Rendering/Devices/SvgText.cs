@@ -56,8 +56,8 @@ internal sealed class SvgStrings(MarkupWriter writer, TextEngine engine) : SvgTe
 /// <summary>Text as glyph outlines: each is defined once, before its first use.</summary>
 internal sealed class SvgShapes(MarkupWriter writer, TextEngine engine) : SvgText
 {
-    /// <summary>Units of the outlines in an em.</summary>
-    private const double Units = 1000;
+    /// <summary>Units of the outlines in an em; their coordinates have three digits after the point.</summary>
+    private const double Units = 100;
 
     private readonly GlyphOutlines _outlines = new(engine);
     private readonly SvgPath _path = new(writer);
