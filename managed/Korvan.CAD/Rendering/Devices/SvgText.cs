@@ -16,9 +16,7 @@ internal abstract class SvgText : IDisposable
     /// <summary>Writes a run; the matrix maps its ems, y up from the baseline, to the page.</summary>
     internal abstract void Write(in TextRun run, in Affine2 matrix);
 
-    public virtual void Dispose()
-    {
-    }
+    public abstract void Dispose();
 }
 
 /// <summary>Text as text, to be searched and edited. Each run states the length that it was laid out with, so that it
@@ -50,6 +48,10 @@ internal sealed class SvgStrings(MarkupWriter writer, TextEngine engine) : SvgTe
         writer.Raw("\" lengthAdjust=\"spacingAndGlyphs\">"u8);
         writer.Escaped(run.Text);
         writer.Raw("</text>\n"u8);
+    }
+
+    public override void Dispose()
+    {
     }
 }
 
