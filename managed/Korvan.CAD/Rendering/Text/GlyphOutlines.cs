@@ -13,8 +13,8 @@ internal sealed record GlyphOutline(int Number, PathBuffer Path);
 /// <summary>A glyph of a run, by the number of its outline, and its origin in ems, y down from the baseline.</summary>
 internal sealed record PlacedGlyph(int Number, double X, double Y);
 
-/// <summary>Takes runs of text apart into glyphs whose outlines are found once. Collections are of classes alone: those of
-/// structures would be compiled at the first use, which the first document waits for.</summary>
+/// <summary>Takes runs of text apart into glyphs whose outlines are found once. Collections hold classes alone: those
+/// of structures would be compiled at the first use, which the first document waits for.</summary>
 internal sealed unsafe partial class GlyphOutlines : IDisposable
 {
     private const int MaxCachedRuns = 50_000;
