@@ -268,7 +268,7 @@ public partial class SvgTests
     {
         var list = new DrawingList();
         int layer = list.Layer("all");
-        var toPage = new Affine2(40, 0, 0, 40, 50, 50);
+        var toPage = new Affine2(30, 20, -20, 30, 40, 35);
         list.Fill(Line(5, 5, 95, 5, 95, 95, 5, 95), Red, layer, evenOdd: true, new Gradient(
             false, 0, 0, toPage, [new(0, Red), new(1, Blue)]));
         list.Fill(Line(10, 10, 30, 10, 30, 30, 10, 30), new Rgba(0, 255, 0, 128), layer, evenOdd: false);
