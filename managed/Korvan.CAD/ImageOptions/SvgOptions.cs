@@ -28,7 +28,7 @@ public class SvgOptions : ImageOptionsBase, ITextAsShapesOptions
     public SvgImageType ImageType { get; set; } = SvgImageType.Png;
 
     /// <summary>Gets or sets the callback that stores fonts and images outside the document; <see langword="null"/> to
-    /// embed them. It is used for documents whose text is not written as outlines.</summary>
+    /// embed them. Text that is written as outlines has no fonts to store.</summary>
     public ISvgResourceKeeperCallback? Callback { get; set; }
 
     /// <summary>Stores fonts and images as files in a folder: sets <see cref="Callback"/>, and
@@ -51,12 +51,6 @@ public class SvgOptions : ImageOptionsBase, ITextAsShapesOptions
         if (TextAsShapes && FontStoreType != FontStoreType.Installed)
         {
             throw NotHonoured(nameof(FontStoreType), "set text_as_shapes to False, as outlines need no fonts");
-        }
-
-        if (TextAsShapes && (Callback is not null || ImageType != SvgImageType.Png))
-        {
-            throw NotHonoured(
-                Callback is not null ? nameof(Callback) : nameof(ImageType), "set text_as_shapes to False");
         }
 
         if (FontStoreType == FontStoreType.Stream && Callback is null)

@@ -122,17 +122,23 @@ internal sealed class MarkupWriter(Stream output)
         _used += written;
     }
 
+    /// <summary>Writes a transform.</summary>
     internal void Matrix(in Affine2 m)
     {
         Raw("matrix("u8);
         Exact(m.Xx);
-        foreach (double factor in (ReadOnlySpan<double>)[m.Yx, m.Xy, m.Yy, m.X0, m.Y0])
+        Next(m.Yx);
+        Next(m.Xy);
+        Next(m.Yy);
+        Next(m.X0);
+        Next(m.Y0);
+        Raw((byte)')');
+
+        void Next(double factor)
         {
             Raw((byte)' ');
             Exact(factor);
         }
-
-        Raw((byte)')');
     }
 
     internal void Color(Rgba color)

@@ -1,6 +1,5 @@
 using System;
 using Korvan.CAD.DisplayList;
-using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Devices;
 

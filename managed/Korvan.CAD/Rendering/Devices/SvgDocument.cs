@@ -1,5 +1,4 @@
 using System;
-using System.Collections.Generic;
 using System.IO;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;

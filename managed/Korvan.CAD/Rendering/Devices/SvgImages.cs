@@ -2,7 +2,6 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
-using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.Rendering.Devices;
 

@@ -10,20 +10,18 @@ internal sealed class SvgLayers
 {
     private const string Prefix = "layer-";
 
-    private readonly List<(string Name, int Runs)> _layers = [];
+    private readonly List<Layer> _layers = [];
     private readonly HashSet<string> _taken = [];
 
-    /// <summary>Returns the name of a layer as an identifier, and the number of runs of items that it has had.</summary>
+    /// <summary>Returns the name of a layer as an identifier, and the number of this run of its items.</summary>
     internal (string Name, int Run) Next(int layer, IReadOnlyList<string> names)
     {
         while (_layers.Count <= layer)
         {
-            _layers.Add((NewName(names[_layers.Count]), 0));
+            _layers.Add(new Layer(NewName(names[_layers.Count])));
         }
 
-        (string name, int runs) = _layers[layer];
-        _layers[layer] = (name, runs + 1);
-        return (name, runs + 1);
+        return (_layers[layer].Name, ++_layers[layer].Runs);
     }
 
     /// <summary>Periods are left for the numbers of runs.</summary>
@@ -43,5 +41,12 @@ internal sealed class SvgLayers
         }
 
         return free;
+    }
+
+    private sealed class Layer(string name)
+    {
+        internal string Name { get; } = name;
+
+        internal int Runs { get; set; }
     }
 }

@@ -36,12 +36,12 @@ internal sealed class SvgPath(MarkupWriter writer)
                     at += 2;
                     break;
                 case PathVerb.Line:
-                    EnsureStart();
+                    EnsureStart(coords, at, map);
                     LineTo(Place(coords, at, map));
                     at += 2;
                     break;
                 case PathVerb.Curve:
-                    EnsureStart();
+                    EnsureStart(coords, at, map);
                     CurveTo(Place(coords, at, map), Place(coords, at + 2, map), Place(coords, at + 4, map));
                     at += 6;
                     break;
@@ -60,11 +60,18 @@ internal sealed class SvgPath(MarkupWriter writer)
             MarkupWriter.ToThousandths(Math.Clamp(y, -FarAway, FarAway)));
     }
 
-    private void EnsureStart()
+    /// <summary>Writes the move before the first segment of a subpath. A path without one begins at its first
+    /// point.</summary>
+    private void EnsureStart(ReadOnlySpan<double> coords, int at, in Affine2 map)
     {
         if (!_isMoved)
         {
-            return;
+            if (!_isEmpty)
+            {
+                return;
+            }
+
+            (_startX, _startY) = Place(coords, at, map);
         }
 
         (long fromX, long fromY) = _isEmpty ? (0, 0) : (_x, _y);

@@ -12,13 +12,12 @@ using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Devices;
 
-/// <summary>Where a scalable graphic has its fonts and pictures: in itself, or where its options say.</summary>
+/// <summary>Where a document has its fonts and images: embedded, or where its options say.</summary>
 internal sealed class SvgResources(SvgOptions options)
 {
-    private int _pictures;
+    private int _images;
 
-    /// <summary>The style sheet that leads from the families of texts to their fonts; empty where none is
-    /// needed.</summary>
+    /// <summary>Returns the style sheet that leads from font families to fonts; empty where none is needed.</summary>
     internal string FontFaces(IEnumerable<DrawingList> lists, TextEngine engine)
     {
         if (options.FontStoreType == FontStoreType.Installed)
@@ -42,17 +41,17 @@ internal sealed class SvgResources(SvgOptions options)
         return style.Append("</style>\n").ToString();
     }
 
-    /// <summary>What stands as the address of a picture.</summary>
+    /// <summary>Returns the address of an image: that of the callback, or the image itself.</summary>
     internal string Address(PlacedImage image)
     {
-        (ImageOptionsBase encoder, string media, string ending) = options.ImageType switch
+        (ImageOptionsBase encoder, string media, string extension) = options.ImageType switch
         {
             SvgImageType.Jpeg => (new JpegOptions(), "jpeg", ".jpg"),
             SvgImageType.Bmp => ((ImageOptionsBase)new BmpOptions(), "bmp", ".bmp"),
             _ => (new PngOptions(), "png", ".png"),
         };
         byte[] data = Encode(image, encoder);
-        string uri = options.Callback?.OnImageResourceReady(data, options.ImageType, $"picture{++_pictures}{ending}")
+        string uri = options.Callback?.OnImageResourceReady(data, options.ImageType, $"image{++_images}{extension}")
             ?? "";
         return uri.Length > 0 ? uri : $"data:image/{media};base64,{Convert.ToBase64String(data)}";
     }
@@ -85,7 +84,7 @@ internal sealed class SvgResources(SvgOptions options)
         return output.ToArray();
     }
 
-    // The pixels of a list have their opacity multiplied in, those of a grid have not.
+    // The pixels of a list are premultiplied with their opacity, those of a grid are not.
     private static PixelGrid ToGrid(PlacedImage image)
     {
         var grid = new PixelGrid(image.Width, image.Height);
@@ -126,8 +125,8 @@ internal sealed class SvgResources(SvgOptions options)
             return "";
         }
 
-        string look = (font.IsBold ? "font-weight:bold;" : "") + (font.IsItalic ? "font-style:italic;" : "");
-        return $"@font-face{{font-family:'{font.FontFamily}';{look}"
+        string style = (font.IsBold ? "font-weight:bold;" : "") + (font.IsItalic ? "font-style:italic;" : "");
+        return $"@font-face{{font-family:'{font.FontFamily}';{style}"
             + $"src:url('{source.Replace("'", "%27", StringComparison.Ordinal)}')}}";
     }
 

@@ -16,9 +16,7 @@ internal abstract class SvgText : IDisposable
     /// <summary>Writes a run; the matrix maps its ems, y up from the baseline, to the page.</summary>
     internal abstract void Write(in TextRun run, in Affine2 matrix);
 
-    public virtual void Dispose()
-    {
-    }
+    public abstract void Dispose();
 }
 
 /// <summary>Text as text, to be searched and edited. Each run states the length that it was laid out with, so that it
@@ -51,13 +49,17 @@ internal sealed class SvgStrings(MarkupWriter writer, TextEngine engine) : SvgTe
         writer.Escaped(run.Text);
         writer.Raw("</text>\n"u8);
     }
+
+    public override void Dispose()
+    {
+    }
 }
 
 /// <summary>Text as glyph outlines: each is defined once, before its first use.</summary>
 internal sealed class SvgShapes(MarkupWriter writer, TextEngine engine) : SvgText
 {
-    /// <summary>Units of the outlines in an em.</summary>
-    private const double Units = 1000;
+    /// <summary>Units of the outlines in an em; their coordinates have three digits after the point.</summary>
+    private const double Units = 100;
 
     private readonly GlyphOutlines _outlines = new(engine);
     private readonly SvgPath _path = new(writer);

@@ -11,9 +11,10 @@ namespace Korvan.CAD.Rendering.Text;
 internal sealed record GlyphOutline(int Number, PathBuffer Path);
 
 /// <summary>A glyph of a run, by the number of its outline, and its origin in ems, y down from the baseline.</summary>
-internal readonly record struct PlacedGlyph(int Number, double X, double Y);
+internal sealed record PlacedGlyph(int Number, double X, double Y);
 
-/// <summary>Takes runs of text apart into glyphs whose outlines are found once.</summary>
+/// <summary>Takes runs of text apart into glyphs whose outlines are found once. Collections hold classes alone: those
+/// of structures would be compiled at the first use, which the first document waits for.</summary>
 internal sealed unsafe partial class GlyphOutlines : IDisposable
 {
     private const int MaxCachedRuns = 50_000;
@@ -22,9 +23,8 @@ internal sealed unsafe partial class GlyphOutlines : IDisposable
     private const int Blank = -1;
 
     private readonly TextEngine _engine;
-    private readonly Dictionary<(nint Font, uint Glyph), int> _numbers = [];
-    private readonly Dictionary<(int Font, string Text, double Spacing), PlacedGlyph[]> _runs = [];
-    private readonly Dictionary<nint, NativeHandle> _fonts = [];
+    private readonly Dictionary<RunKey, PlacedGlyph[]> _runs = [];
+    private readonly List<FontGlyphs> _fonts = [];
     private readonly NativeHandle _context;
     private int _count;
 
@@ -39,7 +39,7 @@ internal sealed unsafe partial class GlyphOutlines : IDisposable
     /// <summary>Returns the glyphs of a run that show something. Outlines that are new are added to a list.</summary>
     internal PlacedGlyph[] Of(in TextRun run, List<GlyphOutline> added)
     {
-        var key = (run.Font, run.Text, run.LetterSpacing);
+        var key = new RunKey(run.Font, run.Text, run.LetterSpacing);
         if (!_runs.TryGetValue(key, out PlacedGlyph[]? placed))
         {
             placed = PangoGlyphs.IsKnown ? Shape(run, added) : [new PlacedGlyph(Whole(run, added), 0, 0)];
@@ -57,10 +57,7 @@ internal sealed unsafe partial class GlyphOutlines : IDisposable
     public void Dispose()
     {
         _context.Dispose();
-        foreach (NativeHandle font in _fonts.Values)
-        {
-            font.Dispose();
-        }
+        _fonts.ForEach(static font => font.Owner.Dispose());
     }
 
     private PlacedGlyph[] Shape(in TextRun run, List<GlyphOutline> added)
@@ -91,21 +88,31 @@ internal sealed unsafe partial class GlyphOutlines : IDisposable
 
     private int NumberOf(in PangoGlyph glyph, List<GlyphOutline> added)
     {
-        if (!_numbers.TryGetValue((glyph.Font, glyph.Index), out int number))
+        ref int number = ref FontOf(glyph.Font).NumberOf((int)glyph.Index);
+        if (number == 0)
         {
-            if (!_fonts.ContainsKey(glyph.Font))
-            {
-                // An address is that of another font once the font is gone.
-                _fonts.Add(glyph.Font, new NativeHandle(PangoGlyphs.Ref(glyph.Font), &Pango.Unref));
-            }
-
             var path = new PathBuffer();
             Trace(glyph, path);
             number = path.IsEmpty ? Blank : Add(path, added);
-            _numbers.Add((glyph.Font, glyph.Index), number);
         }
 
         return number;
+    }
+
+    private FontGlyphs FontOf(nint address)
+    {
+        foreach (FontGlyphs known in _fonts)
+        {
+            if (known.Owner.Pointer == address)
+            {
+                return known;
+            }
+        }
+
+        // A font that is owned keeps its address.
+        var font = new FontGlyphs(new NativeHandle(PangoGlyphs.Ref(address), &Pango.Unref));
+        _fonts.Add(font);
+        return font;
     }
 
     private void Trace(in PangoGlyph glyph, PathBuffer path)
@@ -131,6 +138,26 @@ internal sealed unsafe partial class GlyphOutlines : IDisposable
     {
         added.Add(new GlyphOutline(++_count, path));
         return _count;
+    }
+
+    private sealed record RunKey(int Font, string Text, double Spacing);
+
+    /// <summary>The numbers of the outlines of a font by its glyphs; 0 for those that are not known yet.</summary>
+    private sealed class FontGlyphs(NativeHandle owner)
+    {
+        private int[] _numbers = new int[256];
+
+        internal NativeHandle Owner { get; } = owner;
+
+        internal ref int NumberOf(int glyph)
+        {
+            if (glyph >= _numbers.Length)
+            {
+                Array.Resize(ref _numbers, Math.Max(glyph + 1, 2 * _numbers.Length));
+            }
+
+            return ref _numbers[glyph];
+        }
     }
 
     [StructLayout(LayoutKind.Sequential)]

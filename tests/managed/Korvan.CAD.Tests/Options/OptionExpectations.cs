@@ -70,7 +70,6 @@ internal static class OptionExpectations
             static o => o.TextAsShapes = false, static (o, _) => o.FontStoreType = FontStoreType.Stream)),
         (Any, "SvgOptions", "FontStoreType",
             With<SvgOptions>(static o => o.TextAsShapes = false, static (o, _) => o.Callback = new Elsewhere())),
-        (Any, "SvgOptions", "ImageType", With<SvgOptions>(static o => o.TextAsShapes = false)),
         (Any, "TiffOptions", "AlphaStorage", With<TiffOptions>(static o => o.BitsPerSample = [8, 8, 8, 8])),
         (Any, "TiffOptions", "CompressedQuality", With<TiffOptions>(static o => o.Compression = TiffCompressions.Jpeg)),
         (Any, "TiffOptions", "FaxT4Options", With<TiffOptions>(static o => Fax(o, TiffCompressions.CcittFax3))),
