@@ -27,7 +27,7 @@ internal sealed class PdfDocument
     private readonly TextEngine _engine;
     private readonly List<PdfPage> _pages = [];
     private readonly int _pageTree;
-    private readonly Dictionary<byte, int> _alphaStates = [];
+    private readonly int[] _alphaStates = new int[256];
 
     private PdfDocument(Stream output, TextEngine engine, PdfSettings settings)
     {
@@ -100,10 +100,10 @@ internal sealed class PdfDocument
     /// <summary>The state of an opacity.</summary>
     internal int AlphaState(byte alpha)
     {
-        if (!_alphaStates.TryGetValue(alpha, out int number))
+        ref int number = ref _alphaStates[alpha];
+        if (number == 0)
         {
             number = _file.New();
-            _alphaStates.Add(alpha, number);
             long part = PdfBuffer.Part(alpha);
             _file.Add(number, new PdfBuffer().Raw("<</Type/ExtGState/ca "u8).Fixed(part, 3).Raw("/CA "u8)
                 .Fixed(part, 3).Raw(">>"u8));
@@ -181,4 +181,4 @@ internal sealed class PdfDocument
 }
 
 /// <summary>A page that was written: its object, the name of its layout, and the points of its unit.</summary>
-internal readonly record struct PdfPage(int Number, string Name, double Unit);
+internal sealed record PdfPage(int Number, string Name, double Unit);

@@ -90,7 +90,7 @@ internal sealed partial class PdfPainter
         }
     }
 
-    private void Show(in ShapedRun run, PdfFont font, string text, in Affine2 map, Rgba color)
+    private void Show(ShapedRun run, PdfFont font, string text, in Affine2 map, Rgba color)
     {
         Affine2 shape = map * run.Font.Matrix;
         double size = Math.Sqrt((shape.Xy * shape.Xy) + (shape.Yy * shape.Yy));
@@ -167,8 +167,7 @@ internal sealed partial class PdfPainter
         }
     }
 
-    /// <summary>Draws a box for each character that no font has; it still is the character to search and copy.
-    /// </summary>
+    /// <summary>Draws a box for each character that no font has.</summary>
     private void Boxes(ShapedLine line, in Affine2 map, Rgba color)
     {
         EndText();

@@ -1,5 +1,4 @@
 using System;
-using System.Collections.Generic;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.ImageOptions;
@@ -24,7 +23,8 @@ internal sealed partial class PdfPainter
     private readonly TextEngine _engine;
     private readonly Page _page;
     private readonly PdfResources _resources;
-    private readonly Stack<PdfGraphicsState> _saved = [];
+    private PdfGraphicsState[] _saved = new PdfGraphicsState[8];
+    private int _savedCount;
     private readonly Affine2 _toPage;
     private readonly double _unit;
     private PdfGraphicsState _state = new();
@@ -379,13 +379,18 @@ internal sealed partial class PdfPainter
         SetLayer(-1);
         EndObject();
         _out.Raw("Q\n"u8);
-        _state = _saved.Pop();
+        _state = _saved[--_savedCount];
     }
 
     private void Save()
     {
         _out.Raw("q\n"u8);
-        _saved.Push(_state);
+        if (_savedCount == _saved.Length)
+        {
+            Array.Resize(ref _saved, 2 * _savedCount);
+        }
+
+        _saved[_savedCount++] = _state;
     }
 
     private void SetFill(Rgba given)
