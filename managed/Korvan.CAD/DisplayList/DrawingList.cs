@@ -211,13 +211,14 @@ internal sealed class DrawingList
 
     private bool AddPath(PathBuffer path, DisplayKind kind, Rgba color, int layer, out int index)
     {
-        index = _itemCount;
+        index = -1;
         if (!path.Bounds.IsFinite || !AddBounds(path.Bounds))
         {
             return false;
         }
 
         ref DisplayItem item = ref NewItem(kind, color, layer);
+        index = _itemCount - 1;
         Store(path, ref item);
         return true;
     }

@@ -6,8 +6,8 @@ namespace Korvan.CAD.Rendering.Pdf;
 
 /// <summary>
 /// The objects of a PDF file and where they are (ISO 32000-1, 7.5). In the compact form, objects without streams are
-/// collected in object streams, and the table of objects is a stream as well; in the plain form, as PDF 1.4 has it, each
-/// stands for itself.
+/// collected in object streams, and the table of objects is a stream as well; in the plain form, that of PDF 1.4, each
+/// is on its own.
 /// </summary>
 internal sealed class PdfFile
 {
@@ -64,7 +64,7 @@ internal sealed class PdfFile
         }
     }
 
-    /// <summary>Writes an object that stands for itself, and returns where its body begins in the file.</summary>
+    /// <summary>Writes an object on its own, and returns where its body begins in the file.</summary>
     internal long AddPlain(int number, PdfBuffer body)
     {
         Begin(number);
@@ -74,7 +74,7 @@ internal sealed class PdfFile
         return start;
     }
 
-    /// <summary>Writes an object with a stream. The entries are those of its dictionary but length and filter.</summary>
+    /// <summary>Writes an object with a stream; its dictionary gets the entries, length and filter.</summary>
     internal void AddStream(int number, PdfBuffer entries, ReadOnlySpan<byte> data, bool compress = true)
     {
         if (compress)
@@ -99,7 +99,8 @@ internal sealed class PdfFile
     {
         int length = New();
         Begin(number);
-        _output.Write(_scratch.Cleared().Raw("<</Filter/FlateDecode/Length "u8).Ref(length).Raw(">>\nstream\n"u8).Bytes);
+        _scratch.Cleared().Raw("<</Filter/FlateDecode/Length "u8).Ref(length).Raw(">>\nstream\n"u8);
+        _output.Write(_scratch.Bytes);
         return new PdfStream(this, _output, length, Level);
     }
 

@@ -68,8 +68,8 @@ internal sealed class PdfFont
         }
     }
 
-    /// <summary>Uses a glyph for characters; false where the document has to state them at the place, as the glyph means
-    /// others elsewhere or makes them up together with more glyphs.</summary>
+    /// <summary>Uses a glyph for characters; false where the document has to state them at the place, as the glyph
+    /// means others elsewhere or makes them up together with more glyphs.</summary>
     internal bool Use(uint glyph, ReadOnlySpan<char> text, bool isAlone)
     {
         Use(glyph);

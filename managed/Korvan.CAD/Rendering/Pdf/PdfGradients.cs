@@ -4,8 +4,8 @@ using Korvan.CAD.DisplayList;
 
 namespace Korvan.CAD.Rendering.Pdf;
 
-/// <summary>A shading in the space of its gradient. What is the same all over of its opacity is <paramref name="Alpha"/>;
-/// where it varies, <paramref name="State"/> is a state with a mask, else 0.</summary>
+/// <summary>A shading in the space of its gradient. <paramref name="Alpha"/> is its opacity; where that varies,
+/// <paramref name="State"/> is a state with a mask, else 0.</summary>
 internal sealed record PdfGradient(int Shading, int State, byte Alpha);
 
 /// <summary>The gradients of a document as axial and radial shadings (ISO 32000-1, 8.7.4.5).</summary>

@@ -1,7 +1,6 @@
 using System;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
-using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Pdf;
@@ -70,7 +69,8 @@ internal sealed partial class PdfPainter
         Bounds2 box = Bounds2.Empty;
         for (int corner = 0; corner < 4; corner++)
         {
-            Vec2 p = map.Point((corner & 1) == 0 ? -TextReach : advance + TextReach, corner < 2 ? -TextReach : TextReach);
+            double x = (corner & 1) == 0 ? -TextReach : advance + TextReach;
+            Vec2 p = map.Point(x, corner < 2 ? -TextReach : TextReach);
             box.Add(p.X, p.Y);
         }
 

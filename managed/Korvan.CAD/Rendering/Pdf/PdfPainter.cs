@@ -1,7 +1,6 @@
 using System;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
-using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Text;
 
@@ -29,7 +28,7 @@ internal sealed partial class PdfPainter
     private readonly double _unit;
     private PdfGraphicsState _state = new();
     private DrawingList _list;
-    private PaintSettings _settings;
+    private readonly PaintSettings _settings;
     private Affine2 _map;
     private double _scale;
     private int _layer = -1;
