@@ -11,7 +11,8 @@ import sys
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
-SUBJECTS = ("imports", "calls", "objects", "sequences", "streams", "values", "loading", "walking", "models", "images")
+SUBJECTS = ("imports", "calls", "objects", "sequences", "streams", "values", "loading", "walking", "models", "images",
+            "documents")
 
 
 def main() -> int:
