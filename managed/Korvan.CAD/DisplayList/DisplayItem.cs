@@ -89,6 +89,9 @@ internal struct StrokeStyle
 /// <summary>One run of text in one font. The matrix maps the em square, baseline at y = 0, to drawing units.</summary>
 internal readonly record struct TextRun(string Text, int Font, Affine2 Matrix, double LetterSpacing);
 
+/// <summary>A part of the page that leads elsewhere: to an address, or to a file beside the drawing.</summary>
+internal sealed record PlacedLink(string Target, Bounds2 Area);
+
 internal readonly record struct GradientStop(double Offset, Rgba Color);
 
 /// <summary>

@@ -13,7 +13,10 @@ internal sealed class PdfFile
 {
     private const int ObjectsPerStream = 200;
     private const int IndexBits = 8;
-    private const CompressionLevel Level = CompressionLevel.Fastest;
+
+    /// <summary>On content, level 2 takes a third more time than 1 for a third fewer bytes; further levels take as much
+    /// more for a tenth.</summary>
+    private static readonly ZLibCompressionOptions ContentLevel = new() { CompressionLevel = 2 };
 
     private readonly PdfOutput _output;
     private readonly bool _compact;
@@ -101,7 +104,7 @@ internal sealed class PdfFile
         Begin(number);
         _scratch.Cleared().Raw("<</Filter/FlateDecode/Length "u8).Ref(length).Raw(">>\nstream\n"u8);
         _output.Write(_scratch.Bytes);
-        return new PdfStream(this, _output, length, Level);
+        return new PdfStream(this, _output, length, ContentLevel);
     }
 
     /// <summary>Writes what ends the file.</summary>

@@ -25,11 +25,12 @@ internal sealed partial class PdfPainter
     private bool _pendingStroke;
     private int _pendingSegments;
 
-    /// <summary>How many decimals tell a hundred thousandth of a page apart.</summary>
+    /// <summary>The decimals that tell a hundred thousandth of a page apart: on paper, finer than what devices print, and
+    /// on screens, finer than a pixel at the largest zoom of viewers.</summary>
     private static int DecimalsOf(double side) => side switch
     {
         < 100 => 4,
-        < 20_000 => 3,
+        < 1000 => 3,
         _ => 2,
     };
 

@@ -140,7 +140,7 @@ internal sealed partial class PdfPainter
         if (bolder)
         {
             SetStrokeColor(_document.Flatten(color, _settings, _page.Notes));
-            SetWidth((long)Math.Round(size * BolderShare * _precision));
+            SetWidth(size * BolderShare);
             if (_state.Dash >= 0)
             {
                 _out.Raw("[]0 d\n"u8);

@@ -172,17 +172,16 @@ internal sealed partial class PdfPainter
     private void SetStroke(Rgba color, double width, in LineLook look, in DisplayItem item)
     {
         SetAlpha(color.A);
-        var scaled = (long)Math.Round(width * _precision);
         if (color.R != _state.Stroke.R || color.G != _state.Stroke.G || color.B != _state.Stroke.B)
         {
             EndPath();
             SetStrokeColor(color);
         }
 
-        if (scaled != _state.Width)
+        if (width != _state.Width)
         {
             EndPath();
-            SetWidth(scaled);
+            SetWidth(width);
         }
 
         if (look.Cap != _state.Cap || look.Join != _state.Join || look.MiterLimit != _state.MiterLimit)
@@ -205,10 +204,10 @@ internal sealed partial class PdfPainter
         _state.Stroke = color;
     }
 
-    private void SetWidth(long scaled)
+    private void SetWidth(double width)
     {
-        _out.Fixed(scaled, _decimals).Raw(" w\n"u8);
-        _state.Width = scaled;
+        _out.Real(width).Raw(" w\n"u8);
+        _state.Width = width;
     }
 
     private void SetLook(in LineLook look)
@@ -432,7 +431,7 @@ internal sealed partial class PdfPainter
             _ = _layer >= 0 ? _out.Raw("EMC\n"u8) : _out;
             if (layer >= 0)
             {
-                int number = _document.Layers.Of(_list.Layers[layer]);
+                int number = _document.Layers.Of(_list.Layers[layer], _list.IsPrinted(layer));
                 _resources.Use(PdfResources.Layer, number);
                 _out.Raw("/OC/L"u8).Int(number).Raw(" BDC\n"u8);
             }

@@ -14,7 +14,7 @@ internal sealed class PdfStream : IDisposable
     private readonly ZLibStream _zlib;
     private readonly int _lengthObject;
 
-    internal PdfStream(PdfFile file, PdfOutput output, int lengthObject, CompressionLevel level)
+    internal PdfStream(PdfFile file, PdfOutput output, int lengthObject, ZLibCompressionOptions level)
     {
         _file = file;
         _lengthObject = lengthObject;

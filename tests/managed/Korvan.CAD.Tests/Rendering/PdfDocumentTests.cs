@@ -7,6 +7,7 @@ using System.Text.RegularExpressions;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
@@ -64,6 +65,26 @@ public sealed class PdfDocumentTests : IDisposable
         static byte Step(byte value) => value is > 125 and < 130 ? (byte)(value < 128 ? 127 : 128) : value;
     }
 
+    [DrawingFact]
+    public void Real_drawings_show_what_their_pixels_show()
+    {
+        foreach (string drawing in SharedDrawings.AllDxf())
+        {
+            using Image image = Image.Load(drawing);
+            var raster = new CadRasterizationOptions { PageWidth = 900, PageHeight = 900, BorderX = 5, BorderY = 5 };
+            string file = Tools.TempFile(".pdf");
+            image.Save(file, new PdfOptions { VectorRasterizationOptions = raster });
+            var pixels = new PngOptions
+            {
+                VectorRasterizationOptions = raster,
+                ResolutionSettings = new ResolutionSetting(72, 72),
+            };
+            using RasterPage expected = Rasterizer.Draw((CadImage)image, pixels);
+            PixelMap.AssertAlike(PixelMap.Of(expected), PixelMap.OfPdf(file), 0.99);
+            File.Delete(file);
+        }
+    }
+
     [Fact]
     public void Layers_are_optional_content_that_shows_at_first()
     {
@@ -76,6 +97,46 @@ public sealed class PdfDocumentTests : IDisposable
         string number = Regex.Match(plain, @"/OCGs \[\s+(\d+) 0 R").Groups[1].Value;
         Assert.Contains($" {number} 0 R", Regex.Match(plain, @"/Properties <<(.*?)>>", RegexOptions.Singleline).Value);
         Assert.True(PdfSample.Count(plain, @"/OC/L\d+ BDC\n") >= 6);
+    }
+
+    [Fact]
+    public void Layers_that_are_not_plotted_are_not_printed()
+    {
+        CadImage drawing = Picture.Drawing(
+            Picture.Square(0, 0, 10, 1, "helplines"), Picture.Square(20, 0, 10, 1, "walls"));
+        Picture.AddLayer(drawing, "helplines", 3).IsPlottable = false;
+        Picture.AddLayer(drawing, "walls", 3);
+        string plain = PdfSample.Plain(PdfSample.ToFile(Save(drawing, new PdfOptions())));
+        string screen = Regex.Match(plain, @"(\d+) 0 obj\n<<[^>]*/Name \(helplines\)").Groups[1].Value;
+        Assert.Equal(1, PdfSample.Count(plain, "/PrintState /OFF"));
+        Assert.Equal(2, PdfSample.Count(plain, $@"/Event /(Print|View)\s+/OCGs \[\s+{screen} 0 R\s+\]"));
+    }
+
+    [Theory]
+    [InlineData("https://example.org/a b?c=ä", "https://example.org/a%20b?c=%C3%A4")]
+    [InlineData(@"details\door (2).dxf", "details/door%20%282%29.dxf")]
+    [InlineData("javascript:app.alert(1)", null)]
+    [InlineData("", null)]
+    public void Entities_lead_where_their_data_says(string target, string? address)
+    {
+        CadSolid door = Picture.Square(0, 0, 10, 1);
+        var link = new CadXdata("PE_URL");
+        link.Data.Add(new CadCodeValue(1000, target));
+        door.XdataContainer.XdataEntities.Add(link);
+        CadRasterizationOptions raster = new() { PageWidth = 400, PageHeight = 100 };
+        CadImage drawing = Picture.Drawing(door, Picture.Square(30, 0, 10, 1));
+        foreach (PdfCompliance compliance in (PdfCompliance[])[PdfCompliance.Pdf15, PdfCompliance.PdfA1b])
+        {
+            byte[] document = Save(drawing, new PdfOptions
+            {
+                VectorRasterizationOptions = raster,
+                CorePdfOptions = new PdfDocumentOptions { Compliance = compliance },
+            });
+            string plain = PdfSample.Plain(PdfSample.ToFile(document));
+            Assert.Equal(address is null ? 0 : 1, PdfSample.Count(plain, "/Subtype /Link"));
+            Assert.Equal(address is not null, plain.Contains($"/URI ({address})", StringComparison.Ordinal));
+            Assert.Equal(address is not null, Regex.IsMatch(plain, @"/Rect \[\s+0\s+0\s+100\s+100\s+\]"));
+        }
     }
 
     [Fact]
