@@ -80,7 +80,7 @@ internal sealed class PdfFile
     /// <summary>Writes an object with a stream; its dictionary gets the entries, length and filter.</summary>
     internal void AddStream(int number, PdfBuffer entries, ReadOnlySpan<byte> data, bool compress = true)
     {
-        if (compress)
+        if (compress && data.Length > 0)
         {
             using var packed = new MemoryStream();
             using (var zlib = new ZLibStream(packed, CompressionLevel.Optimal, leaveOpen: true))

@@ -55,6 +55,9 @@ internal sealed class PdfFont
     /// <summary>What a glyph means; null where it does not mean one thing.</summary>
     internal string? TextOf(uint glyph) => _texts[glyph];
 
+    /// <summary>A glyph that the font has: the first one in place of others, which damaged fonts refer to.</summary>
+    internal uint Known(uint glyph) => glyph < _advances.Length ? glyph : 0;
+
     /// <summary>The advance of a glyph in ems, as the document states it.</summary>
     internal double Advance(uint glyph) => _advances[glyph];
 

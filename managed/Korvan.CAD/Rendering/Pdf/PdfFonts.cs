@@ -30,8 +30,9 @@ internal sealed class PdfFonts(PdfFile file)
         {
             bool isCompact = HarfBuzz.Table(use.Face, "CFF ").Length > 0;
             bool hasOutlines = isCompact || HarfBuzz.Table(use.Face, "glyf").Length > 0;
-            bool usable = hasOutlines && MayBeEmbedded(use.Face) && HarfBuzz.IsVariable(use.Face) == 0
-                && HarfBuzz.FaceGetGlyphCount(use.Face) <= MaxGlyphs;
+            uint count = HarfBuzz.FaceGetGlyphCount(use.Face);
+            bool usable = hasOutlines && count is > 0 and <= MaxGlyphs && MayBeEmbedded(use.Face)
+                && HarfBuzz.IsVariable(use.Face) == 0;
             font = usable ? new PdfFont(file.New(), use.Face, NameOf(use.Name), isCompact) : null;
             _fonts.Add(use.Face, font);
             if (font is not null)

@@ -235,10 +235,11 @@ internal sealed partial class PdfPainter
 
         internal void Add(in ShapedGlyph glyph)
         {
+            uint number = _font.Known(glyph.Glyph);
             if (glyph.TextLength > 0)
             {
                 EndSpan();
-                if (!_font.Use(glyph.Glyph, _text.AsSpan(glyph.TextStart, glyph.TextLength), glyph.IsAlone))
+                if (!_font.Use(number, _text.AsSpan(glyph.TextStart, glyph.TextLength), glyph.IsAlone))
                 {
                     Close();
                     _out.Raw("/Span<</ActualText"u8).HexText(_text.Substring(glyph.TextStart, glyph.TextLength))
@@ -248,12 +249,12 @@ internal sealed partial class PdfPainter
             }
             else
             {
-                _font.Use(glyph.Glyph);
+                _font.Use(number);
             }
 
             Place(glyph);
-            Put(glyph.Glyph);
-            _pen += _font.Advance(glyph.Glyph);
+            Put(number);
+            _pen += _font.Advance(number);
         }
 
         internal void End()

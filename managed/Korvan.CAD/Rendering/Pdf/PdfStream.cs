@@ -28,6 +28,12 @@ internal sealed class PdfStream : IDisposable
     /// <summary>Ends the stream and states its length.</summary>
     internal void Close()
     {
+        if (_counter.Count == 0 && Content.Count == 0)
+        {
+            // Of no content at all, the compressor makes no valid stream.
+            Content.Raw((byte)'\n');
+        }
+
         Flush();
         _zlib.Dispose();
         _file.Close(_lengthObject, _counter.Count);

@@ -39,6 +39,7 @@ public sealed class PdfDocumentTests : IDisposable
             string file = PdfSample.ToFile(PdfSample.Write(_engine, pages, settings));
             Tools.Run("qpdf", "--check", file);
             Assert.Matches($@"Pages:\s+{pages.Length}\b", Tools.Run("pdfinfo", file));
+            Assert.True(File.ReadAllBytes(file).AsSpan().IndexOf("stream\n\nendstream"u8) < 0, "an empty flate stream");
             File.Delete(file);
         }
     }

@@ -1,6 +1,7 @@
 using System;
 using System.IO;
 using System.Linq;
+using Korvan.CAD.CadExceptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -131,6 +132,46 @@ public sealed class PdfTextTests : IDisposable
         Assert.Equal(!embedded, options.RenderResult!.Failures.Any(one => one.Message.Contains("cannot be embedded")));
         int count = PdfSample.Count(PdfSample.Plain(file), @" c\n");
         Assert.True(embedded ? count == 0 : count > 5, $"{why}: {count} curves");
+    }
+
+    [Fact]
+    public void Damaged_fonts_end_in_a_document_or_an_error()
+    {
+        byte[] sound = File.ReadAllBytes(Fontconfig.FileOf(0, "DejaVu Sans", false, false)!);
+        CadImage made = Picture.Drawing(new CadText { DefaultValue = "Damaged ÄΩ fi", TextHeight = 10 });
+        string drawing = Picture.SaveTo(made, new DxfOptions(), ".dxf");
+        int tables = System.Buffers.Binary.BinaryPrimitives.ReadUInt16BigEndian(sound.AsSpan(4));
+        for (int seed = 0; seed < 40; seed++)
+        {
+            var random = new Random(seed);
+            byte[] font = [.. sound];
+            int directory = 12 + (16 * tables);
+            for (int i = 0; i < 1 + (seed % 8); i++)
+            {
+                int place = seed % 2 == 0 ? random.Next(12, directory) : random.Next(directory, font.Length);
+                random.NextBytes(font.AsSpan(place, Math.Min(1 << (seed % 10), font.Length - place)));
+            }
+
+            string folder = Directory.CreateTempSubdirectory().FullName;
+            File.WriteAllBytes(Path.Combine(folder, "own.ttf"), font[..(seed % 5 == 0 ? font.Length / 2 : font.Length)]);
+            try
+            {
+                using Image image = Image.Load(drawing, new LoadOptions
+                {
+                    CustomFontFolders = [folder],
+                    CustomFontFolderOptions = CustomFontFolderOptions.IgnoreSystemFonts,
+                });
+                image.Save(Stream.Null, new PdfOptions());
+            }
+            catch (ImageSaveException error)
+            {
+                Assert.Matches("font", error.Message);
+            }
+            finally
+            {
+                Directory.Delete(folder, recursive: true);
+            }
+        }
     }
 
     private void DisplayListPage(DrawingList list, out string file, out PixelMap expected)
