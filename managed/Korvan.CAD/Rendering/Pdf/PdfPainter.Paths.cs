@@ -37,16 +37,7 @@ internal sealed partial class PdfPainter
     /// <summary>Maps a path to the page; false where it has no segments.</summary>
     private bool Map(ReadOnlySpan<PathVerb> verbs, ReadOnlySpan<double> c, in Affine2 map)
     {
-        if (_verbs.Length < verbs.Length)
-        {
-            _verbs = new PathVerb[verbs.Length * 2];
-        }
-
-        if (_points.Length < verbs.Length * 6)
-        {
-            _points = new long[verbs.Length * 12];
-        }
-
+        EnsureRoom(verbs.Length);
         verbs.CopyTo(_verbs);
         _verbCount = verbs.Length;
         double minX = double.PositiveInfinity, minY = minX, maxX = double.NegativeInfinity, maxY = maxX;
@@ -73,6 +64,19 @@ internal sealed partial class PdfPainter
 
         _box = new Bounds2 { MinX = minX, MinY = minY, MaxX = maxX, MaxY = maxY };
         return verbs.Length > 1;
+    }
+
+    private void EnsureRoom(int verbs)
+    {
+        if (_verbs.Length < verbs)
+        {
+            _verbs = new PathVerb[verbs * 2];
+        }
+
+        if (_points.Length < verbs * 6)
+        {
+            _points = new long[verbs * 12];
+        }
     }
 
     /// <summary>Whether the path that was mapped can show inside the clip.</summary>

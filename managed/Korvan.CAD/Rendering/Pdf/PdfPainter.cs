@@ -158,6 +158,11 @@ internal sealed partial class PdfPainter
             return;
         }
 
+        if (IsFar && item.Dash < 0)
+        {
+            ClipLines(_list.VerbsOf(item), _list.CoordsOf(item), width * reach);
+        }
+
         SetLayer(item.Layer);
         EndText();
         SetStroke(_document.Flatten(item.Color, _settings, _page.Notes), width, look, item);

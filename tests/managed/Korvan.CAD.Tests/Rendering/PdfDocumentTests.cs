@@ -244,6 +244,25 @@ public sealed class PdfDocumentTests : IDisposable
         Assert.True(new FileInfo(file).Length < 6_000_000);
     }
 
+    [Theory]
+    [InlineData(PdfCompliance.Pdf15)]
+    [InlineData(PdfCompliance.PdfA1b)]
+    public void Lines_from_far_away_keep_their_direction(object compliance)
+    {
+        var list = new DrawingList();
+        var style = new StrokeStyle { Color = Rgba.Black, LineWeight = 1, Dash = -1, Layer = -1 };
+        list.Stroke(PdfSample.Path(new Vec2(-30e6, -10e6), new Vec2(90e6, 30e6)), style); // a slope of a third
+        PathBuffer ring = PdfSample.Path(new Vec2(50, 150), new Vec2(9e6, 150), new Vec2(9e6, -9e6), new Vec2(50, -9e6));
+        ring.Close();
+        list.Stroke(ring, style);
+        string file = PdfSample.ToFile(PdfSample.Write(
+            _engine, [PdfSample.PageOf(list)], new PdfSettings { Compliance = (PdfCompliance)compliance }));
+        PixelMap shown = PixelMap.OfPdf(file);
+        bool IsDrawn(int x, int y) => shown[x, PdfSample.Height - 1 - y].R < 160;
+        Assert.All((int[])[30, 150, 270], x => Assert.True(IsDrawn(x, x / 3), $"at {x}"));
+        Assert.True(IsDrawn(50, 60) && IsDrawn(200, 150) && !IsDrawn(20, 150));
+    }
+
     [Fact]
     public void Writing_stops_when_the_time_is_over()
     {
