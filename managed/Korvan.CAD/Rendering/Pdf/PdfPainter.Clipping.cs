@@ -3,8 +3,8 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Pdf;
 
-/// <content>Lines that begin or end far outside of the page: they are clipped, as coordinates have limits and a line with
-/// an end that was moved would have another direction.</content>
+/// <content>Lines that begin or end far outside of the page: they are clipped, as coordinates have limits, and a line
+/// with an end that was moved would have another direction.</content>
 internal sealed partial class PdfPainter
 {
     /// <summary>Past the largest page, and within the numbers of archives.</summary>

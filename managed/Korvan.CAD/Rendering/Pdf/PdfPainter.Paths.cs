@@ -25,7 +25,7 @@ internal sealed partial class PdfPainter
     private bool _pendingStroke;
     private int _pendingSegments;
 
-    /// <summary>The decimals that tell a hundred thousandth of a page apart: on paper, finer than what devices print, and
+    /// <summary>The decimals that tell a hundred thousandth of a page apart: on paper, finer than what devices print;
     /// on screens, finer than a pixel at the largest zoom of viewers.</summary>
     private static int DecimalsOf(double side) => side switch
     {

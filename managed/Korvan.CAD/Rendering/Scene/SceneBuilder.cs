@@ -77,9 +77,12 @@ internal sealed partial class SceneBuilder : IGeometrySink
     }
 
     /// <summary>The address that an entity leads to, which is the first string of its extended data for it.</summary>
-    private static string? LinkOf(CadEntityBase entity) =>
-        entity.XdataOrNull?.Find(LinkApplication)?.Data.Find(static tag => tag.Attribute == XdataString)?.Value is
-            { Length: > 0 } target ? target : null;
+    private static string? LinkOf(CadEntityBase entity)
+    {
+        string? target = entity.XdataOrNull?.Find(LinkApplication)?.Data
+            .Find(static tag => tag.Attribute == XdataString)?.Value;
+        return string.IsNullOrEmpty(target) ? null : target;
+    }
 
     private void DrawEntity(CadEntityBase entity, BlockContext context)
     {

@@ -252,7 +252,8 @@ public sealed class PdfDocumentTests : IDisposable
         var list = new DrawingList();
         var style = new StrokeStyle { Color = Rgba.Black, LineWeight = 1, Dash = -1, Layer = -1 };
         list.Stroke(PdfSample.Path(new Vec2(-30e6, -10e6), new Vec2(90e6, 30e6)), style); // a slope of a third
-        PathBuffer ring = PdfSample.Path(new Vec2(50, 150), new Vec2(9e6, 150), new Vec2(9e6, -9e6), new Vec2(50, -9e6));
+        PathBuffer ring = PdfSample.Path(
+            new Vec2(50, 150), new Vec2(9e6, 150), new Vec2(9e6, -9e6), new Vec2(50, -9e6));
         ring.Close();
         list.Stroke(ring, style);
         string file = PdfSample.ToFile(PdfSample.Write(
