@@ -96,6 +96,9 @@ internal readonly record struct TextRun(string Text, int Font, Affine2 Matrix, d
     internal double Advance { get; init; }
 }
 
+/// <summary>A part of the page that leads elsewhere: to an address, or to a file beside the drawing.</summary>
+internal sealed record PlacedLink(string Target, Bounds2 Area);
+
 internal readonly record struct GradientStop(double Offset, Rgba Color);
 
 /// <summary>

@@ -18,6 +18,8 @@ internal sealed partial class DrawingList
     /// <summary>How the kinds of skipped things end that lack a file.</summary>
     internal const string MissingFile = " whose file is not there";
 
+    private const int MaxLinks = 100_000;
+
     /// <summary>Coordinates that count as an item where the number of stored items is limited.</summary>
     private const int CoordsPerItem = 16;
 
@@ -31,6 +33,8 @@ internal sealed partial class DrawingList
     private readonly List<Bounds2> _clips = [];
     private readonly List<LineLook> _looks = [];
     private readonly Dictionary<LineLook, int> _lookIndex = [];
+    private readonly HashSet<int> _screenLayers = [];
+    private readonly List<PlacedLink> _links = [];
     private DisplayItem[] _items = new DisplayItem[256];
     private PathVerb[] _verbs = new PathVerb[1024];
     private double[] _coords = new double[4096];
@@ -38,6 +42,8 @@ internal sealed partial class DrawingList
     private int _verbCount;
     private int _coordCount;
     private Bounds2 _bounds = Bounds2.Empty;
+    private Bounds2 _linked = Bounds2.Empty;
+    private int _openLinks;
 
     /// <summary>What becomes of every colour that is drawn with; null to keep them.</summary>
     internal Func<Rgba, Rgba>? ColorMap { get; init; }
@@ -55,6 +61,8 @@ internal sealed partial class DrawingList
     internal ReadOnlySpan<DisplayItem> Items => _items.AsSpan(0, _itemCount);
 
     internal IReadOnlyList<string> Layers => _layers;
+
+    internal IReadOnlyList<PlacedLink> Links => _links;
 
     /// <summary>What has been drawn so far, as far as it lies in the clips that hold it.</summary>
     internal Bounds2 Bounds => _bounds;
@@ -79,12 +87,16 @@ internal sealed partial class DrawingList
 
     internal PlacedImage ImageOf(in DisplayItem item) => _images[item.Extra];
 
-    internal int Layer(string name)
+    /// <summary>Whether a layer is printed, not only shown on screens.</summary>
+    internal bool IsPrinted(int layer) => !_screenLayers.Contains(layer);
+
+    internal int Layer(string name, bool isPrinted = true)
     {
         if (!_layerIndex.TryGetValue(name, out int index))
         {
             index = _layers.Count;
             _layers.Add(name);
+            _ = isPrinted || _screenLayers.Add(index);
             _layerIndex.Add(name, index);
         }
 
@@ -116,6 +128,28 @@ internal sealed partial class DrawingList
         }
 
         return index;
+    }
+
+    /// <summary>Begins what belongs to a link; <see cref="CloseLink"/> takes the result.</summary>
+    internal Bounds2 OpenLink()
+    {
+        Bounds2 outer = _linked;
+        _linked = Bounds2.Empty;
+        _openLinks++;
+        return outer;
+    }
+
+    /// <summary>Ends a link, which covers what was drawn since it began.</summary>
+    internal void CloseLink(string target, Bounds2 outer)
+    {
+        _openLinks--;
+        if (!_linked.IsEmpty && _links.Count < MaxLinks)
+        {
+            _links.Add(new PlacedLink(target, _linked));
+        }
+
+        outer.Add(_linked);
+        _linked = outer;
     }
 
     internal void Skip(string kind) =>
@@ -211,13 +245,14 @@ internal sealed partial class DrawingList
 
     private bool AddPath(PathBuffer path, DisplayKind kind, Rgba color, int layer, out int index)
     {
-        index = _itemCount;
+        index = -1;
         if (!path.Bounds.IsFinite || !AddBounds(path.Bounds))
         {
             return false;
         }
 
         ref DisplayItem item = ref NewItem(kind, color, layer);
+        index = _itemCount - 1;
         Store(path, ref item);
         return true;
     }
@@ -232,6 +267,11 @@ internal sealed partial class DrawingList
         }
 
         _bounds.Add(visible);
+        if (_openLinks > 0)
+        {
+            _linked.Add(visible);
+        }
+
         return true;
     }
 

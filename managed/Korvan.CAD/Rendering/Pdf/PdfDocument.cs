@@ -27,7 +27,7 @@ internal sealed class PdfDocument
     private readonly TextEngine _engine;
     private readonly List<PdfPage> _pages = [];
     private readonly int _pageTree;
-    private readonly Dictionary<byte, int> _alphaStates = [];
+    private readonly int[] _alphaStates = new int[256];
 
     private PdfDocument(Stream output, TextEngine engine, PdfSettings settings)
     {
@@ -100,10 +100,10 @@ internal sealed class PdfDocument
     /// <summary>The state of an opacity.</summary>
     internal int AlphaState(byte alpha)
     {
-        if (!_alphaStates.TryGetValue(alpha, out int number))
+        ref int number = ref _alphaStates[alpha];
+        if (number == 0)
         {
             number = _file.New();
-            _alphaStates.Add(alpha, number);
             long part = PdfBuffer.Part(alpha);
             _file.Add(number, new PdfBuffer().Raw("<</Type/ExtGState/ca "u8).Fixed(part, 3).Raw("/CA "u8)
                 .Fixed(part, 3).Raw(">>"u8));
@@ -154,13 +154,30 @@ internal sealed class PdfDocument
         _ = unit > 1 ? body.Raw("/UserUnit "u8).Real(unit) : body;
         _ = HasTransparency ? body.Raw("/Group<</S/Transparency/CS/DeviceRGB>>"u8) : body;
         _ = IsTagged ? body.Raw("/StructParents "u8).Int(_pages.Count) : body;
-        if (signer is not null && _pages.Count == 0)
-        {
-            body.Raw("/Annots["u8).Ref(signer.AddTo(_file, number)).Raw((byte)']');
-        }
+        AppendAnnotations(body, page, unit, number, _pages.Count == 0 ? signer : null);
 
         _file.Add(number, body.Raw(">>"u8));
         _pages.Add(new PdfPage(number, page.Name, unit));
+    }
+
+    /// <summary>Writes the links of a page and the field of a signature, and adds them to the page.</summary>
+    private void AppendAnnotations(PdfBuffer body, Page page, double unit, int number, PdfSigner? signer)
+    {
+        // A structure would have to hold the links as well.
+        int[] links = IsTagged ? [] : PdfLinks.Write(_file, page, unit);
+        if (links.Length == 0 && signer is null)
+        {
+            return;
+        }
+
+        body.Raw("/Annots["u8);
+        foreach (int link in links)
+        {
+            body.Ref(link).Raw((byte)' ');
+        }
+
+        _ = signer is null ? body : body.Ref(signer.AddTo(_file, number));
+        body.Raw((byte)']');
     }
 
     /// <summary>The points of a unit of a page: 1, or more for pages that are too large for it.</summary>
@@ -181,4 +198,4 @@ internal sealed class PdfDocument
 }
 
 /// <summary>A page that was written: its object, the name of its layout, and the points of its unit.</summary>
-internal readonly record struct PdfPage(int Number, string Name, double Unit);
+internal sealed record PdfPage(int Number, string Name, double Unit);

@@ -1,5 +1,4 @@
 using System;
-using System.Collections.Generic;
 using System.IO;
 using System.IO.Compression;
 
@@ -7,20 +6,29 @@ namespace Korvan.CAD.Rendering.Pdf;
 
 /// <summary>
 /// The objects of a PDF file and where they are (ISO 32000-1, 7.5). In the compact form, objects without streams are
-/// collected in object streams, and the table of objects is a stream as well; in the plain form, as PDF 1.4 has it, each
-/// stands for itself.
+/// collected in object streams, and the table of objects is a stream as well; in the plain form, that of PDF 1.4, each
+/// is on its own.
 /// </summary>
 internal sealed class PdfFile
 {
     private const int ObjectsPerStream = 200;
-    private const CompressionLevel Level = CompressionLevel.Fastest;
+    private const int IndexBits = 8;
+
+    /// <summary>On content, level 2 takes a third more time than 1 for a third fewer bytes; further levels take as much
+    /// more for a tenth.</summary>
+    private static readonly ZLibCompressionOptions ContentLevel = new() { CompressionLevel = 2 };
 
     private readonly PdfOutput _output;
     private readonly bool _compact;
-    private readonly List<Place> _places = [default];
     private readonly PdfBuffer _scratch = new();
     private readonly PdfBuffer _collected = new();
-    private readonly List<(int Number, int Start)> _index = [];
+    private readonly int[] _members = new int[ObjectsPerStream];
+    private readonly int[] _starts = new int[ObjectsPerStream];
+
+    /// <summary>Where each object is: its offset in the file, or, below zero, object stream and index in it.</summary>
+    private long[] _places = new long[256];
+    private int _count = 1;
+    private int _memberCount;
 
     internal PdfFile(Stream target, bool compact)
     {
@@ -33,8 +41,12 @@ internal sealed class PdfFile
     /// <summary>Returns the number of a new object, which has to be written later.</summary>
     internal int New()
     {
-        _places.Add(default);
-        return _places.Count - 1;
+        if (_count == _places.Length)
+        {
+            Array.Resize(ref _places, 2 * _count);
+        }
+
+        return _count++;
     }
 
     /// <summary>Writes an object without a stream.</summary>
@@ -46,15 +58,16 @@ internal sealed class PdfFile
             return;
         }
 
-        _index.Add((number, _collected.Count));
+        _members[_memberCount] = number;
+        _starts[_memberCount++] = _collected.Count;
         _collected.Raw(body.Bytes).Raw((byte)'\n');
-        if (_index.Count == ObjectsPerStream)
+        if (_memberCount == ObjectsPerStream)
         {
             FlushCollected();
         }
     }
 
-    /// <summary>Writes an object that stands for itself, and returns where its body begins in the file.</summary>
+    /// <summary>Writes an object on its own, and returns where its body begins in the file.</summary>
     internal long AddPlain(int number, PdfBuffer body)
     {
         Begin(number);
@@ -64,10 +77,10 @@ internal sealed class PdfFile
         return start;
     }
 
-    /// <summary>Writes an object with a stream. The entries are those of its dictionary but length and filter.</summary>
+    /// <summary>Writes an object with a stream; its dictionary gets the entries, length and filter.</summary>
     internal void AddStream(int number, PdfBuffer entries, ReadOnlySpan<byte> data, bool compress = true)
     {
-        if (compress)
+        if (compress && data.Length > 0)
         {
             using var packed = new MemoryStream();
             using (var zlib = new ZLibStream(packed, CompressionLevel.Optimal, leaveOpen: true))
@@ -89,8 +102,9 @@ internal sealed class PdfFile
     {
         int length = New();
         Begin(number);
-        _output.Write(_scratch.Cleared().Raw("<</Filter/FlateDecode/Length "u8).Ref(length).Raw(">>\nstream\n"u8).Bytes);
-        return new PdfStream(this, _output, length, Level);
+        _scratch.Cleared().Raw("<</Filter/FlateDecode/Length "u8).Ref(length).Raw(">>\nstream\n"u8);
+        _output.Write(_scratch.Bytes);
+        return new PdfStream(this, _output, length, ContentLevel);
     }
 
     /// <summary>Writes what ends the file.</summary>
@@ -121,7 +135,7 @@ internal sealed class PdfFile
 
     private void Begin(int number)
     {
-        _places[number] = new Place(_output.Position, 0, 0);
+        _places[number] = _output.Position;
         var header = new PdfBuffer();
         _output.Write(header.Int(number).Raw(" 0 obj\n"u8).Bytes);
     }
@@ -138,24 +152,24 @@ internal sealed class PdfFile
 
     private void FlushCollected()
     {
-        if (_index.Count == 0)
+        if (_memberCount == 0)
         {
             return;
         }
 
         int number = New();
         var content = new PdfBuffer();
-        for (int i = 0; i < _index.Count; i++)
+        for (int i = 0; i < _memberCount; i++)
         {
-            content.Int(_index[i].Number).Raw((byte)' ').Int(_index[i].Start).Raw((byte)' ');
-            _places[_index[i].Number] = new Place(0, number, i);
+            content.Int(_members[i]).Raw((byte)' ').Int(_starts[i]).Raw((byte)' ');
+            _places[_members[i]] = -(((long)number << IndexBits) | (long)i);
         }
 
         int first = content.Count;
         content.Raw(_collected.Bytes);
         var entries = new PdfBuffer();
-        entries.Raw("/Type/ObjStm/N "u8).Int(_index.Count).Raw("/First "u8).Int(first);
-        _index.Clear();
+        entries.Raw("/Type/ObjStm/N "u8).Int(_memberCount).Raw("/First "u8).Int(first);
+        _memberCount = 0;
         _collected.Clear();
         AddStream(number, entries, content.Bytes);
     }
@@ -164,21 +178,22 @@ internal sealed class PdfFile
     {
         const int width = 8;
         int number = New();
-        _places[number] = new Place(_output.Position, 0, 0);
-        var table = new byte[_places.Count * width];
-        for (int i = 0; i < _places.Count; i++)
+        _places[number] = _output.Position;
+        var table = new byte[_count * width];
+        for (int i = 0; i < _count; i++)
         {
-            Place place = _places[i];
+            long place = _places[i];
             Span<byte> row = table.AsSpan(i * width, width);
-            row[0] = (byte)(place.Stream > 0 ? 2 : place.Offset > 0 ? 1 : 0);
-            long value = place.Stream > 0 ? place.Stream : place.Offset;
+            row[0] = (byte)(place < 0 ? 2 : place > 0 ? 1 : 0);
+            long index = place < 0 ? -place & ((1 << IndexBits) - 1) : 0;
+            long value = place < 0 ? -place >> IndexBits : place;
             for (int k = 5; k > 0; k--, value >>= 8)
             {
                 row[k] = (byte)value;
             }
 
-            row[6] = (byte)(place.Index >> 8);
-            row[7] = (byte)place.Index;
+            row[6] = (byte)(index >> 8);
+            row[7] = (byte)index;
         }
 
         var entries = new PdfBuffer();
@@ -190,10 +205,10 @@ internal sealed class PdfFile
     private void WriteTable(int root, int info, byte[] identifier)
     {
         var text = new PdfBuffer();
-        text.Raw("xref\n0 "u8).Int(_places.Count).Raw("\n0000000000 65535 f \n"u8);
-        for (int i = 1; i < _places.Count; i++)
+        text.Raw("xref\n0 "u8).Int(_count).Raw("\n0000000000 65535 f \n"u8);
+        for (int i = 1; i < _count; i++)
         {
-            text.Ascii(_places[i].Offset.ToString("D10", System.Globalization.CultureInfo.InvariantCulture))
+            text.Ascii(_places[i].ToString("D10", System.Globalization.CultureInfo.InvariantCulture))
                 .Raw(" 00000 n \n"u8);
         }
 
@@ -204,7 +219,7 @@ internal sealed class PdfFile
 
     private void AppendTrailer(PdfBuffer text, int root, int info, byte[] identifier)
     {
-        text.Raw("/Size "u8).Int(_places.Count).Raw("/Root "u8).Ref(root).Raw("/Info "u8).Ref(info).Raw("/ID["u8);
+        text.Raw("/Size "u8).Int(_count).Raw("/Root "u8).Ref(root).Raw("/Info "u8).Ref(info).Raw("/ID["u8);
         for (int i = 0; i < 2; i++)
         {
             text.Raw((byte)'<');
@@ -214,7 +229,4 @@ internal sealed class PdfFile
 
         text.Raw((byte)']');
     }
-
-    /// <summary>Where an object is: an offset in the file, or an index in an object stream.</summary>
-    private readonly record struct Place(long Offset, int Stream, int Index);
 }

@@ -1,7 +1,5 @@
 using System;
 using System.Buffers.Binary;
-using System.Collections.Generic;
-using System.Linq;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Rendering.Native;
 
@@ -30,7 +28,7 @@ internal sealed class PdfFontWriter
     internal PdfFontWriter(PdfFile file, PdfFont font)
     {
         (_file, _font) = (file, font);
-        _glyphs = [.. font.Glyphs.Keys.Order()];
+        _glyphs = font.Glyphs();
         _name = $"{Tag()}+{font.Name}";
     }
 
@@ -146,14 +144,15 @@ internal sealed class PdfFontWriter
         text.Raw("/CIDInit/ProcSet findresource begin\n12 dict begin\nbegincmap\n/CIDSystemInfo<</Registry(Adobe)"u8)
             .Raw("/Ordering(UCS)/Supplement 0>>def\n/CMapName/Adobe-Identity-UCS def\n/CMapType 2 def\n"u8)
             .Raw("1 begincodespacerange\n<0000><FFFF>\nendcodespacerange\n"u8);
-        foreach (KeyValuePair<uint, string>[] part in
-            _font.Texts.OrderBy(static pair => pair.Key).Chunk(MaxRanges))
+        uint[] known = Array.FindAll(_glyphs, glyph => _font.TextOf(glyph) is not null);
+        for (int first = 0; first < known.Length; first += MaxRanges)
         {
+            ReadOnlySpan<uint> part = known.AsSpan(first, Math.Min(MaxRanges, known.Length - first));
             text.Int(part.Length).Raw(" beginbfchar\n"u8);
-            foreach ((uint glyph, string meaning) in part)
+            foreach (uint glyph in part)
             {
-                text.Raw((byte)'<').Hex((byte)(glyph >> 8)).Hex((byte)glyph).Raw("><"u8).HexCharacters(meaning)
-                    .Raw(">\n"u8);
+                text.Raw((byte)'<').Hex((byte)(glyph >> 8)).Hex((byte)glyph).Raw("><"u8)
+                    .HexCharacters(_font.TextOf(glyph)!).Raw(">\n"u8);
             }
 
             text.Raw("endbfchar\n"u8);

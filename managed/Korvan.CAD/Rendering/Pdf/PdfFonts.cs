@@ -1,7 +1,7 @@
 using System;
 using System.Buffers.Binary;
 using System.Collections.Generic;
-using System.Linq;
+using System.Text;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Native;
 using Korvan.CAD.Rendering.Text;
@@ -18,8 +18,10 @@ internal sealed class PdfFonts(PdfFile file)
     private const int NoSubset = 0x0100;
     private const int BitmapOnly = 0x0200;
     private const int MaxGlyphs = 0x10000;
+    private const int MaxName = 100;
 
     private readonly Dictionary<nint, PdfFont?> _fonts = [];
+    private readonly List<PdfFont> _embedded = [];
 
     /// <summary>The font of a face; null where it cannot be embedded.</summary>
     internal PdfFont? Of(FontUse use)
@@ -28,10 +30,15 @@ internal sealed class PdfFonts(PdfFile file)
         {
             bool isCompact = HarfBuzz.Table(use.Face, "CFF ").Length > 0;
             bool hasOutlines = isCompact || HarfBuzz.Table(use.Face, "glyf").Length > 0;
-            bool usable = hasOutlines && MayBeEmbedded(use.Face) && HarfBuzz.IsVariable(use.Face) == 0
-                && HarfBuzz.FaceGetGlyphCount(use.Face) <= MaxGlyphs;
+            uint count = HarfBuzz.FaceGetGlyphCount(use.Face);
+            bool usable = hasOutlines && count is > 0 and <= MaxGlyphs && MayBeEmbedded(use.Face)
+                && HarfBuzz.IsVariable(use.Face) == 0;
             font = usable ? new PdfFont(file.New(), use.Face, NameOf(use.Name), isCompact) : null;
             _fonts.Add(use.Face, font);
+            if (font is not null)
+            {
+                _embedded.Add(font);
+            }
         }
 
         return font;
@@ -44,19 +51,16 @@ internal sealed class PdfFonts(PdfFile file)
     /// <summary>Writes the fonts with subsets of their glyphs.</summary>
     internal void Write(bool listGlyphs)
     {
-        foreach (PdfFont font in _fonts.Values.OfType<PdfFont>().Where(static font => font.Glyphs.Count > 0))
+        foreach (PdfFont font in _embedded)
         {
-            new PdfFontWriter(file, font).Write(listGlyphs);
+            if (font.IsUsed)
+            {
+                new PdfFontWriter(file, font).Write(listGlyphs);
+            }
         }
     }
 
-    internal void Release()
-    {
-        foreach (PdfFont? font in _fonts.Values)
-        {
-            font?.Release();
-        }
-    }
+    internal void Release() => _embedded.ForEach(static font => font.Release());
 
     /// <summary>Whether the license of a face allows what is done with it (OpenType, OS/2, fsType).</summary>
     private static bool MayBeEmbedded(nint face)
@@ -73,7 +77,12 @@ internal sealed class PdfFonts(PdfFile file)
 
     private static string NameOf(string name)
     {
-        string plain = string.Concat(name.Where(static one => char.IsAsciiLetterOrDigit(one) || one is '-' or '_'));
-        return plain.Length > 0 ? plain[..Math.Min(plain.Length, 100)] : "Font";
+        var plain = new StringBuilder();
+        foreach (char one in name)
+        {
+            _ = char.IsAsciiLetterOrDigit(one) || one is '-' or '_' ? plain.Append(one) : plain;
+        }
+
+        return plain.Length > 0 ? plain.ToString(0, Math.Min(plain.Length, MaxName)) : "Font";
     }
 }

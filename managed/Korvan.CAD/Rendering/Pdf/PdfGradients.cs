@@ -4,9 +4,9 @@ using Korvan.CAD.DisplayList;
 
 namespace Korvan.CAD.Rendering.Pdf;
 
-/// <summary>A shading in the space of its gradient. What is the same all over of its opacity is <paramref name="Alpha"/>;
-/// where it varies, <paramref name="State"/> is a state with a mask, else 0.</summary>
-internal readonly record struct PdfGradient(int Shading, int State, byte Alpha);
+/// <summary>A shading in the space of its gradient. <paramref name="Alpha"/> is its opacity; where that varies,
+/// <paramref name="State"/> is a state with a mask, else 0.</summary>
+internal sealed record PdfGradient(int Shading, int State, byte Alpha);
 
 /// <summary>The gradients of a document as axial and radial shadings (ISO 32000-1, 8.7.4.5).</summary>
 internal sealed class PdfGradients(PdfFile file)
@@ -15,19 +15,19 @@ internal sealed class PdfGradients(PdfFile file)
     private const double SmallestStep = 1e-5;
 
     private readonly Dictionary<Gradient, PdfGradient> _known = new(ReferenceEqualityComparer.Instance);
-    private readonly Queue<(PdfGradient Objects, Gradient Gradient, GradientStop[] Stops)> _waiting = [];
+    private readonly Queue<Waiting> _waiting = [];
 
     /// <summary>Returns the objects of a gradient; <paramref name="map"/> is what becomes of its colours.</summary>
     internal PdfGradient Of(Gradient gradient, Func<Rgba, Rgba> map)
     {
-        if (!_known.TryGetValue(gradient, out PdfGradient objects))
+        if (!_known.TryGetValue(gradient, out PdfGradient? objects))
         {
             GradientStop[] stops = Array.ConvertAll(gradient.Stops, stop => stop with { Color = map(stop.Color) });
             byte alpha = stops[0].Color.A;
             bool varies = !Array.TrueForAll(stops, stop => stop.Color.A == alpha);
             objects = new PdfGradient(file.New(), varies ? file.New() : 0, varies ? (byte)255 : alpha);
             _known.Add(gradient, objects);
-            _waiting.Enqueue((objects, gradient, stops));
+            _waiting.Enqueue(new Waiting(objects, gradient, stops));
         }
 
         return objects;
@@ -36,7 +36,7 @@ internal sealed class PdfGradients(PdfFile file)
     /// <summary>Writes the gradients that content refers to.</summary>
     internal void Write()
     {
-        while (_waiting.TryDequeue(out (PdfGradient Objects, Gradient Gradient, GradientStop[] Stops) one))
+        while (_waiting.TryDequeue(out Waiting? one))
         {
             file.Add(one.Objects.Shading, Shading(one.Gradient, one.Stops, isMask: false));
             if (one.Objects.State > 0)
@@ -116,4 +116,7 @@ internal sealed class PdfGradients(PdfFile file)
 
     private static PdfBuffer AppendColor(PdfBuffer body, Rgba color, bool isMask) =>
         isMask ? body.Fixed(PdfBuffer.Part(color.A), 3) : body.Rgb(color);
+
+    /// <summary>A gradient that content refers to and that is not written yet.</summary>
+    private sealed record Waiting(PdfGradient Objects, Gradient Gradient, GradientStop[] Stops);
 }

@@ -4,7 +4,7 @@ using Korvan.CAD.Geometry;
 namespace Korvan.CAD.Rendering.Pdf;
 
 /// <summary>The part of the graphics state that a painter sets (ISO 32000-1, 8.4), with the values that a page begins
-/// with. Lengths are in units of the last decimal of coordinates.</summary>
+/// with.</summary>
 internal struct PdfGraphicsState
 {
     public PdfGraphicsState()
@@ -14,7 +14,7 @@ internal struct PdfGraphicsState
     internal Rgba Fill = Rgba.Black;
     internal Rgba Stroke = Rgba.Black;
     internal byte Alpha = 255;
-    internal long Width = -1;
+    internal double Width = -1;
     internal LineCaps Cap = LineCaps.Butt;
     internal LineJoins Join = LineJoins.Miter;
     internal double MiterLimit = LineLook.DefaultMiterLimit;

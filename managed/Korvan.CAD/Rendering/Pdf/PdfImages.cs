@@ -14,7 +14,7 @@ internal sealed class PdfImages(PdfFile file, bool hasTransparency)
     private const int Channels = 4;
 
     private readonly Dictionary<Key, int> _numbers = [];
-    private readonly Queue<(int Number, PlacedImage Image, Rgba Background, bool IsSmooth)> _waiting = [];
+    private readonly Queue<Waiting> _waiting = [];
 
     /// <summary>Returns the number of the object of an image.</summary>
     internal int Of(PlacedImage image, in PaintSettings settings, RenderNotes notes)
@@ -30,7 +30,7 @@ internal sealed class PdfImages(PdfFile file, bool hasTransparency)
 
         number = file.New();
         _numbers.Add(key, number);
-        _waiting.Enqueue((number, image, settings.Background, smooth));
+        _waiting.Enqueue(new Waiting(number, image, settings.Background, smooth));
         if (!hasTransparency && (HasAlpha(image) || image.Opacity < 1))
         {
             notes.Add(RenderErrorCode.TransparencyBlended, "transparent images were mixed with the colour of the page");
@@ -42,7 +42,7 @@ internal sealed class PdfImages(PdfFile file, bool hasTransparency)
     /// <summary>Writes the images that content refers to.</summary>
     internal void Write()
     {
-        while (_waiting.TryDequeue(out (int Number, PlacedImage Image, Rgba Background, bool IsSmooth) one))
+        while (_waiting.TryDequeue(out Waiting? one))
         {
             Write(one.Number, one.Image, one.Background, one.IsSmooth);
         }
@@ -157,12 +157,15 @@ internal sealed class PdfImages(PdfFile file, bool hasTransparency)
     }
 
     /// <summary>Images are the same when they share their pixels.</summary>
-    private readonly record struct Key(byte[] Pixels, int Width, int Height, bool IsSmooth)
+    private sealed record Key(byte[] Pixels, int Width, int Height, bool IsSmooth)
     {
-        public bool Equals(Key other) =>
-            ReferenceEquals(Pixels, other.Pixels) && Width == other.Width && Height == other.Height
+        public bool Equals(Key? other) =>
+            other is not null && ReferenceEquals(Pixels, other.Pixels) && Width == other.Width && Height == other.Height
                 && IsSmooth == other.IsSmooth;
 
         public override int GetHashCode() => RuntimeHelpers.GetHashCode(Pixels);
     }
+
+    /// <summary>An image that content refers to and that is not written yet.</summary>
+    private sealed record Waiting(int Number, PlacedImage Image, Rgba Background, bool IsSmooth);
 }

@@ -9,15 +9,22 @@ internal sealed class PdfLayers(PdfFile file)
 {
     private readonly Dictionary<string, int> _numbers = new(StringComparer.OrdinalIgnoreCase);
     private readonly List<string> _names = [];
+    private readonly List<string> _screenNames = [];
+    private readonly HashSet<string> _onScreen = new(StringComparer.OrdinalIgnoreCase);
 
-    /// <summary>Returns the number of the group of a layer.</summary>
-    internal int Of(string name)
+    /// <summary>Returns the number of the group of a layer, which is printed or shown on screens alone.</summary>
+    internal int Of(string name, bool isPrinted)
     {
         if (!_numbers.TryGetValue(name, out int number))
         {
             number = file.New();
             _numbers.Add(name, number);
             _names.Add(name);
+            if (!isPrinted)
+            {
+                _screenNames.Add(name);
+                _onScreen.Add(name);
+            }
         }
 
         return number;
@@ -35,7 +42,9 @@ internal sealed class PdfLayers(PdfFile file)
         foreach (string name in _names)
         {
             file.Add(_numbers[name],
-                body.Cleared().Raw("<</Type/OCG/Name"u8).Text(name).Raw("/Intent/View>>"u8));
+                body.Cleared().Raw("<</Type/OCG/Name"u8).Text(name).Raw(_onScreen.Contains(name)
+                    ? "/Intent/View/Usage<</Print<</PrintState/OFF>>/View<</ViewState/ON>>>>>>"u8
+                    : "/Intent/View>>"u8));
         }
 
         catalog.Raw("/OCProperties<</OCGs["u8);
@@ -44,6 +53,17 @@ internal sealed class PdfLayers(PdfFile file)
         var sorted = new List<string>(_names);
         sorted.Sort(StringComparer.OrdinalIgnoreCase);
         AppendReferences(catalog, sorted);
+        if (_screenNames.Count > 0)
+        {
+            foreach (string when in (string[])["Print", "View"])
+            {
+                catalog.Raw(when == "Print" ? "]/AS["u8 : ""u8).Raw("<</Event"u8).Name(when).Raw("/Category["u8)
+                    .Name(when).Raw("]/OCGs["u8);
+                AppendReferences(catalog, _screenNames);
+                catalog.Raw("]>>"u8);
+            }
+        }
+
         catalog.Raw("]>>>>"u8);
     }
 

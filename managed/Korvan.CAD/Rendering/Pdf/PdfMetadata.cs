@@ -48,8 +48,10 @@ internal static class PdfMetadata
     {
         DocumentInfo info = settings.Info;
         var text = new StringBuilder();
-        text.Append("<?xpacket begin=\"\uFEFF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>\n<x:xmpmeta xmlns:x=\"adobe:ns:meta/\">");
-        text.Append("<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\"><rdf:Description rdf:about=\"\"");
+        text.Append("<?xpacket begin=\"\uFEFF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>\n");
+        text.Append("<x:xmpmeta xmlns:x=\"adobe:ns:meta/\">");
+        text.Append("<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">");
+        text.Append("<rdf:Description rdf:about=\"\"");
         text.Append(" xmlns:dc=\"http://purl.org/dc/elements/1.1/\" xmlns:pdf=\"http://ns.adobe.com/pdf/1.3/\"");
         text.Append(" xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\" xmlns:pdfaid=\"http://www.aiim.org/pdfa/ns/id/\">\n");
         Add("dc:format", "application/pdf");
@@ -84,7 +86,8 @@ internal static class PdfMetadata
         }
     }
 
-    private static string? Date(DateTime? date) => date?.ToString("yyyy-MM-dd'T'HH:mm:ss'Z'", CultureInfo.InvariantCulture);
+    private static string? Date(DateTime? date) =>
+        date?.ToString("yyyy-MM-dd'T'HH:mm:ss'Z'", CultureInfo.InvariantCulture);
 
     /// <summary>A text without characters that XML excludes.</summary>
     private static string Clean(string text)

@@ -45,7 +45,7 @@ internal sealed class PdfOutput(Stream target)
         _used = 0;
     }
 
-    /// <summary>Returns 16 bytes that depend on all that was drained. They tell files apart and guard nothing.</summary>
+    /// <summary>Returns 16 bytes that depend on all that was drained. They tell files apart, no more.</summary>
     internal byte[] Identifier()
     {
         Drain();

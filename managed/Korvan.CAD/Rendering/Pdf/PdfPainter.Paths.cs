@@ -25,27 +25,19 @@ internal sealed partial class PdfPainter
     private bool _pendingStroke;
     private int _pendingSegments;
 
-    /// <summary>How many decimals tell a hundred thousandth of a page apart.</summary>
+    /// <summary>The decimals that tell a hundred thousandth of a page apart: on paper, finer than what devices print;
+    /// on screens, finer than a pixel at the largest zoom of viewers.</summary>
     private static int DecimalsOf(double side) => side switch
     {
         < 100 => 4,
-        < 20_000 => 3,
+        < 1000 => 3,
         _ => 2,
     };
 
     /// <summary>Maps a path to the page; false where it has no segments.</summary>
     private bool Map(ReadOnlySpan<PathVerb> verbs, ReadOnlySpan<double> c, in Affine2 map)
     {
-        if (_verbs.Length < verbs.Length)
-        {
-            _verbs = new PathVerb[verbs.Length * 2];
-        }
-
-        if (_points.Length < verbs.Length * 6)
-        {
-            _points = new long[verbs.Length * 12];
-        }
-
+        EnsureRoom(verbs.Length);
         verbs.CopyTo(_verbs);
         _verbCount = verbs.Length;
         double minX = double.PositiveInfinity, minY = minX, maxX = double.NegativeInfinity, maxY = maxX;
@@ -72,6 +64,19 @@ internal sealed partial class PdfPainter
 
         _box = new Bounds2 { MinX = minX, MinY = minY, MaxX = maxX, MaxY = maxY };
         return verbs.Length > 1;
+    }
+
+    private void EnsureRoom(int verbs)
+    {
+        if (_verbs.Length < verbs)
+        {
+            _verbs = new PathVerb[verbs * 2];
+        }
+
+        if (_points.Length < verbs * 6)
+        {
+            _points = new long[verbs * 12];
+        }
     }
 
     /// <summary>Whether the path that was mapped can show inside the clip.</summary>

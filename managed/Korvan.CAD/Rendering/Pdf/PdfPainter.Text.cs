@@ -1,7 +1,6 @@
 using System;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
-using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Pdf;
@@ -70,7 +69,8 @@ internal sealed partial class PdfPainter
         Bounds2 box = Bounds2.Empty;
         for (int corner = 0; corner < 4; corner++)
         {
-            Vec2 p = map.Point((corner & 1) == 0 ? -TextReach : advance + TextReach, corner < 2 ? -TextReach : TextReach);
+            double x = (corner & 1) == 0 ? -TextReach : advance + TextReach;
+            Vec2 p = map.Point(x, corner < 2 ? -TextReach : TextReach);
             box.Add(p.X, p.Y);
         }
 
@@ -90,7 +90,7 @@ internal sealed partial class PdfPainter
         }
     }
 
-    private void Show(in ShapedRun run, PdfFont font, string text, in Affine2 map, Rgba color)
+    private void Show(ShapedRun run, PdfFont font, string text, in Affine2 map, Rgba color)
     {
         Affine2 shape = map * run.Font.Matrix;
         double size = Math.Sqrt((shape.Xy * shape.Xy) + (shape.Yy * shape.Yy));
@@ -140,7 +140,7 @@ internal sealed partial class PdfPainter
         if (bolder)
         {
             SetStrokeColor(_document.Flatten(color, _settings, _page.Notes));
-            SetWidth((long)Math.Round(size * BolderShare * _precision));
+            SetWidth(size * BolderShare);
             if (_state.Dash >= 0)
             {
                 _out.Raw("[]0 d\n"u8);
@@ -167,8 +167,7 @@ internal sealed partial class PdfPainter
         }
     }
 
-    /// <summary>Draws a box for each character that no font has; it still is the character to search and copy.
-    /// </summary>
+    /// <summary>Draws a box for each character that no font has.</summary>
     private void Boxes(ShapedLine line, in Affine2 map, Rgba color)
     {
         EndText();
@@ -236,10 +235,11 @@ internal sealed partial class PdfPainter
 
         internal void Add(in ShapedGlyph glyph)
         {
+            uint number = _font.Known(glyph.Glyph);
             if (glyph.TextLength > 0)
             {
                 EndSpan();
-                if (!_font.Use(glyph.Glyph, _text.AsSpan(glyph.TextStart, glyph.TextLength), glyph.IsAlone))
+                if (!_font.Use(number, _text.AsSpan(glyph.TextStart, glyph.TextLength), glyph.IsAlone))
                 {
                     Close();
                     _out.Raw("/Span<</ActualText"u8).HexText(_text.Substring(glyph.TextStart, glyph.TextLength))
@@ -249,12 +249,12 @@ internal sealed partial class PdfPainter
             }
             else
             {
-                _font.Use(glyph.Glyph);
+                _font.Use(number);
             }
 
             Place(glyph);
-            Put(glyph.Glyph);
-            _pen += _font.Advance(glyph.Glyph);
+            Put(number);
+            _pen += _font.Advance(number);
         }
 
         internal void End()

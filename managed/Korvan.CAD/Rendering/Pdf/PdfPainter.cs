@@ -1,8 +1,6 @@
 using System;
-using System.Collections.Generic;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
-using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Text;
 
@@ -24,12 +22,13 @@ internal sealed partial class PdfPainter
     private readonly TextEngine _engine;
     private readonly Page _page;
     private readonly PdfResources _resources;
-    private readonly Stack<PdfGraphicsState> _saved = [];
+    private PdfGraphicsState[] _saved = new PdfGraphicsState[8];
+    private int _savedCount;
     private readonly Affine2 _toPage;
     private readonly double _unit;
     private PdfGraphicsState _state = new();
     private DrawingList _list;
-    private PaintSettings _settings;
+    private readonly PaintSettings _settings;
     private Affine2 _map;
     private double _scale;
     private int _layer = -1;
@@ -159,6 +158,11 @@ internal sealed partial class PdfPainter
             return;
         }
 
+        if (IsFar && item.Dash < 0)
+        {
+            ClipLines(_list.VerbsOf(item), _list.CoordsOf(item), width * reach);
+        }
+
         SetLayer(item.Layer);
         EndText();
         SetStroke(_document.Flatten(item.Color, _settings, _page.Notes), width, look, item);
@@ -173,17 +177,16 @@ internal sealed partial class PdfPainter
     private void SetStroke(Rgba color, double width, in LineLook look, in DisplayItem item)
     {
         SetAlpha(color.A);
-        var scaled = (long)Math.Round(width * _precision);
         if (color.R != _state.Stroke.R || color.G != _state.Stroke.G || color.B != _state.Stroke.B)
         {
             EndPath();
             SetStrokeColor(color);
         }
 
-        if (scaled != _state.Width)
+        if (width != _state.Width)
         {
             EndPath();
-            SetWidth(scaled);
+            SetWidth(width);
         }
 
         if (look.Cap != _state.Cap || look.Join != _state.Join || look.MiterLimit != _state.MiterLimit)
@@ -206,10 +209,10 @@ internal sealed partial class PdfPainter
         _state.Stroke = color;
     }
 
-    private void SetWidth(long scaled)
+    private void SetWidth(double width)
     {
-        _out.Fixed(scaled, _decimals).Raw(" w\n"u8);
-        _state.Width = scaled;
+        _out.Real(width).Raw(" w\n"u8);
+        _state.Width = width;
     }
 
     private void SetLook(in LineLook look)
@@ -379,13 +382,18 @@ internal sealed partial class PdfPainter
         SetLayer(-1);
         EndObject();
         _out.Raw("Q\n"u8);
-        _state = _saved.Pop();
+        _state = _saved[--_savedCount];
     }
 
     private void Save()
     {
         _out.Raw("q\n"u8);
-        _saved.Push(_state);
+        if (_savedCount == _saved.Length)
+        {
+            Array.Resize(ref _saved, 2 * _savedCount);
+        }
+
+        _saved[_savedCount++] = _state;
     }
 
     private void SetFill(Rgba given)
@@ -428,7 +436,7 @@ internal sealed partial class PdfPainter
             _ = _layer >= 0 ? _out.Raw("EMC\n"u8) : _out;
             if (layer >= 0)
             {
-                int number = _document.Layers.Of(_list.Layers[layer]);
+                int number = _document.Layers.Of(_list.Layers[layer], _list.IsPrinted(layer));
                 _resources.Use(PdfResources.Layer, number);
                 _out.Raw("/OC/L"u8).Int(number).Raw(" BDC\n"u8);
             }

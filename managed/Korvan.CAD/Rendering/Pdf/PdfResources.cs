@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 
 namespace Korvan.CAD.Rendering.Pdf;
@@ -11,29 +12,32 @@ internal sealed class PdfResources
     internal const string Shading = "S";
     internal const string Layer = "L";
 
-    private static readonly (string Prefix, string Category)[] Categories =
+    private static readonly string[][] Categories =
     [
-        (Font, "/Font"), (State, "/ExtGState"), (Image, "/XObject"), (Shading, "/Shading"), (Layer, "/Properties"),
+        [Font, "/Font"], [State, "/ExtGState"], [Image, "/XObject"], [Shading, "/Shading"], [Layer, "/Properties"],
     ];
 
-    private readonly SortedSet<(string Prefix, int Number)> _used = [];
+    private readonly Dictionary<int, string> _used = [];
 
-    internal void Use(string prefix, int number) => _used.Add((prefix, number));
+    internal void Use(string prefix, int number) => _used[number] = prefix;
 
     /// <summary>Adds the dictionary.</summary>
     internal void Append(PdfBuffer target)
     {
+        var numbers = new int[_used.Count];
+        _used.Keys.CopyTo(numbers, 0);
+        Array.Sort(numbers);
         target.Raw("<<"u8);
-        foreach ((string prefix, string category) in Categories)
+        foreach (string[] category in Categories)
         {
             bool open = false;
-            foreach ((string own, int number) in _used)
+            foreach (int number in numbers)
             {
-                if (own == prefix)
+                if (_used[number] == category[0])
                 {
-                    _ = open ? target : target.Ascii(category).Raw("<<"u8);
+                    _ = open ? target : target.Ascii(category[1]).Raw("<<"u8);
                     open = true;
-                    target.Raw((byte)'/').Ascii(prefix).Int(number).Raw((byte)' ').Ref(number);
+                    target.Raw((byte)'/').Ascii(category[0]).Int(number).Raw((byte)' ').Ref(number);
                 }
             }
 

@@ -14,7 +14,7 @@ internal sealed class PdfStream : IDisposable
     private readonly ZLibStream _zlib;
     private readonly int _lengthObject;
 
-    internal PdfStream(PdfFile file, PdfOutput output, int lengthObject, CompressionLevel level)
+    internal PdfStream(PdfFile file, PdfOutput output, int lengthObject, ZLibCompressionOptions level)
     {
         _file = file;
         _lengthObject = lengthObject;
@@ -28,6 +28,12 @@ internal sealed class PdfStream : IDisposable
     /// <summary>Ends the stream and states its length.</summary>
     internal void Close()
     {
+        if (_counter.Count == 0 && Content.Count == 0)
+        {
+            // Of no content at all, the compressor makes no valid stream.
+            Content.Raw((byte)'\n');
+        }
+
         Flush();
         _zlib.Dispose();
         _file.Close(_lengthObject, _counter.Count);

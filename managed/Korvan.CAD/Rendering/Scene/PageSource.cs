@@ -22,8 +22,8 @@ internal sealed class PageSource
     private const double BorderMillimetres = 5;
     private const double MaxBitmapPixels = 60_000_000;
 
-    /// <summary>Items up to which a list is kept for a device that could draw it in parts. Past it, making the list twice
-    /// takes less than the memory that it needs.</summary>
+    /// <summary>Items up to which a list is kept for a device that could draw it in parts. Of more, the list is made
+    /// twice, as that takes less than the memory for it.</summary>
     private const int MaxStored = 65_536;
     private const int PartSize = 4_096;
 

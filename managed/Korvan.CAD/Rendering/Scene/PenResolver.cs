@@ -73,7 +73,7 @@ internal sealed class PenResolver
             LineWeight = WeightOf(entity.LineWeight, layer, context),
             Pattern = PatternOf(entity.LineTypeName, layer, context),
             PatternScale = PatternScale(entity.LinetypeScale, context),
-            Layer = _list.Layer(layer.Name),
+            Layer = _list.Layer(layer.Name, layer.IsPlotted),
         };
     }
 

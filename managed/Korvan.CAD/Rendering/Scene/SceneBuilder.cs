@@ -18,6 +18,8 @@ internal sealed partial class SceneBuilder : IGeometrySink
 {
     private const int MaxEntities = 20_000_000;
     private const int CheckpointEvery = 4096;
+    private const string LinkApplication = "PE_URL";
+    private const int XdataString = 1000;
 
     private readonly SceneTables _tables;
     private readonly RenderStyle _style;
@@ -63,6 +65,27 @@ internal sealed partial class SceneBuilder : IGeometrySink
     }
 
     private void Draw(CadEntityBase entity, BlockContext context)
+    {
+        if (LinkOf(entity) is { } target)
+        {
+            Bounds2 outer = List.OpenLink();
+            DrawEntity(entity, context);
+            List.CloseLink(target, outer);
+            return;
+        }
+
+        DrawEntity(entity, context);
+    }
+
+    /// <summary>The address that an entity leads to, which is the first string of its extended data for it.</summary>
+    private static string? LinkOf(CadEntityBase entity)
+    {
+        string? target = entity.XdataOrNull?.Find(LinkApplication)?.Data
+            .Find(static tag => tag.Attribute == XdataString)?.Value;
+        return string.IsNullOrEmpty(target) ? null : target;
+    }
+
+    private void DrawEntity(CadEntityBase entity, BlockContext context)
     {
         Count();
         LayerInfo layer = _pens.LayerOf(entity, context);

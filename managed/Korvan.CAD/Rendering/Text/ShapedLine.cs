@@ -14,7 +14,7 @@ internal readonly record struct ShapedGlyph(
 }
 
 /// <summary>Glyphs of one font, from left to right.</summary>
-internal readonly record struct ShapedRun(FontUse Font, ShapedGlyph[] Glyphs)
+internal sealed record ShapedRun(FontUse Font, ShapedGlyph[] Glyphs)
 {
     /// <summary>Gets whether the font has any of the characters.</summary>
     internal bool HasGlyphs => System.Array.Exists(Glyphs, static glyph => !glyph.IsUnknown);

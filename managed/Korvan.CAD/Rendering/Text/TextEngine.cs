@@ -33,7 +33,7 @@ internal sealed unsafe class TextEngine : IDisposable
     private readonly List<FontSpec> _specs = [];
     private readonly List<double> _capRatios = [];
     private readonly Dictionary<FontSpec, int> _fonts = [];
-    private readonly Dictionary<(int Font, string Text, double Spacing), ShapedLine> _lines = [];
+    private readonly List<Dictionary<string, ShapedLine>> _lines = [];
     private readonly FontUses _uses = new();
     private readonly GlyphRendering _look;
     private readonly FontFolders? _folders;
@@ -97,6 +97,7 @@ internal sealed unsafe class TextEngine : IDisposable
         {
             index = _descriptions.Count;
             _descriptions.Add(Describe(spec));
+            _lines.Add([]);
             _specs.Add(spec);
             _fonts.Add(spec, index);
             _capRatios.Add(MeasureCapRatio(index));
@@ -120,17 +121,18 @@ internal sealed unsafe class TextEngine : IDisposable
 
     private ShapedLine Line(int font, string text, double letterSpacing)
     {
-        var key = (font, text, letterSpacing);
-        if (!_lines.TryGetValue(key, out ShapedLine? line))
+        Dictionary<string, ShapedLine> known = _lines[font];
+        string key = letterSpacing == 0 ? text : $"{letterSpacing:R}\0{text}";
+        if (!known.TryGetValue(key, out ShapedLine? line))
         {
             line = LineReader.Read(Shape(font, text, letterSpacing), text, Pango.Scale * EmSize, _uses);
             UnknownGlyphs += line.UnknownGlyphs;
-            if (_lines.Count >= MaxCachedLines)
+            if (known.Count >= MaxCachedLines)
             {
-                _lines.Clear();
+                known.Clear();
             }
 
-            _lines.Add(key, line);
+            known.Add(key, line);
         }
 
         return line;

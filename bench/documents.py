@@ -1,0 +1,90 @@
+"""How long a drawing takes to be loaded and written as PDF, how that grows, and what it needs of memory."""
+
+from __future__ import annotations
+
+import json
+import subprocess
+import sys
+import tempfile
+from dataclasses import dataclass
+from pathlib import Path
+
+from drawing_maker import BLOCK_HEAVY, HATCH_HEAVY, MAKERS, TEXT_HEAVY, Maker, make_drawing
+from report import Table, duration, ratio
+
+HERE = Path(__file__).resolve().parent
+SIZES = (12_500, 25_000, 50_000, 100_000, 500_000)
+KINDS: tuple[tuple[str, int, tuple[Maker, ...]], ...] = (
+    ("lines, arcs and texts", 100_000, MAKERS),
+    ("a third texts", 200_000, TEXT_HEAVY),
+    ("half hatches", 20_000, HATCH_HEAVY),
+    ("references of a block of 12", 40_000, BLOCK_HEAVY),
+)
+COLUMNS = ("entities", "load", "save", "both", "of the last, a doubling", "first save of the second", "peak memory", "PDF")
+GROWTH_AIM = 2.1
+FIRST_AIM = 1.3
+SECONDS_AIM = 3.0
+MEMORY_AIM = 400 * 1024
+
+
+@dataclass(frozen=True)
+class Save:
+    """Processor time and memory in KiB of one load and two saves; bytes of the document."""
+
+    load: float
+    first: float
+    second: float
+    peak: int
+    size: int
+
+    @property
+    def both(self) -> float:
+        """The time of the load and of the first save."""
+        return self.load + self.first
+
+
+def _save(folder: Path, count: int, makers: tuple[Maker, ...]) -> Save:
+    drawing = folder / "made.dxf"
+    make_drawing(drawing, count, makers)
+    command = [sys.executable, str(HERE / "save_ours.py"), str(drawing), str(folder / "made.pdf")]
+    result = subprocess.run(command, check=True, capture_output=True, text=True)
+    return Save(**json.loads(result.stdout.splitlines()[-1]))
+
+
+def _row(table: Table, name: str, save: Save, growth: str) -> None:
+    table.add(name, duration(save.load), duration(save.first), duration(save.both), growth,
+              ratio(save.first, save.second), f"{save.peak / 1024:.0f} MiB", f"{save.size / 1e6:.1f} MB")
+
+
+def _growth(folder: Path) -> None:
+    table = Table("Drawings to PDF, processor time", COLUMNS)
+    before: tuple[int, float] | None = None
+    worst = 0.0
+    for count in SIZES:
+        save = _save(folder, count, MAKERS)
+        growth = ""
+        if before is not None:
+            per_doubling = (save.both / before[1]) * 2 * before[0] / count
+            worst = max(worst, per_doubling)
+            growth = f"{per_doubling:.2f} x"
+        _row(table, str(count), save, growth)
+        before = (count, save.both)
+    table.print()
+    for name, held in (
+        (f"growth of {GROWTH_AIM} x a doubling", worst <= GROWTH_AIM),
+        (f"{SECONDS_AIM:g} s for {SIZES[-1]} entities", save.both <= SECONDS_AIM),
+        (f"{MEMORY_AIM >> 10} MiB for them", save.peak <= MEMORY_AIM),
+        (f"first save within {FIRST_AIM} x of the second", save.first <= FIRST_AIM * save.second),
+    ):
+        print(f"  aim, {name}: {'held' if held else 'MISSED'}")
+
+
+def run(_modules: Path) -> None:
+    """Prints the tables."""
+    with tempfile.TemporaryDirectory(prefix="korvan-bench-") as name:
+        folder = Path(name)
+        _growth(folder)
+        table = Table("Kinds of drawings to PDF, processor time", COLUMNS)
+        for label, count, makers in KINDS:
+            _row(table, f"{count}, {label}", _save(folder, count, makers), "")
+        table.print()
