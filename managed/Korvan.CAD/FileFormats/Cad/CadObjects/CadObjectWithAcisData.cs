@@ -1,10 +1,11 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A solid whose geometry is a text of the solid modeler.</summary>
-public abstract partial class CadObjectWithAcisData : CadEntityBase
+public abstract partial class CadObjectWithAcisData : CadEntityBase, IModelerData
 {
     internal CadObjectWithAcisData()
     {
@@ -16,6 +17,9 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
 
     /// <summary>Gets or sets the version of the modeler's text. Group code 70.</summary>
     public short ModelerFormatVersion { get; set; } = 1;
+
+    /// <inheritdoc/>
+    List<string>? IModelerData.ModelerChunks { get; set; }
 
     internal bool ReadAcis(int code, FieldReader reader)
     {

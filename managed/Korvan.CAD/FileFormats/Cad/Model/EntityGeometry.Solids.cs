@@ -1,3 +1,5 @@
+using System;
+using System.Buffers;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Acis;
 
@@ -20,15 +22,23 @@ internal static partial class EntityGeometry
         edges.Polylines.ForEach(points => sink.Polyline(points, closed: false));
     }
 
-    private static bool EmitSolid(IReadOnlyList<string> text, IGeometrySink sink)
+    private static bool EmitSolid(IReadOnlyList<string> text, IModelerData data, IGeometrySink sink)
     {
-        if (AcisReader.Read(text) is not AcisWireframe edges)
+        if ((AcisReader.Read(text) ?? ReadBinary(data.ModelerChunks)) is not AcisWireframe edges)
         {
             return false;
         }
 
         sink.Edges(edges);
         return true;
+    }
+
+    private static AcisWireframe? ReadBinary(List<string>? chunks)
+    {
+        string digits = string.Concat(chunks ?? []);
+        byte[] data = new byte[digits.Length / 2];
+        OperationStatus status = Convert.FromHexString(digits, data, out _, out _);
+        return status == OperationStatus.Done ? AcisReader.Read(data) : null;
     }
 
     private static bool EmitRaw(RawEntity entity, IGeometrySink sink)
@@ -45,8 +55,7 @@ internal static partial class EntityGeometry
             return true;
         }
 
-        List<string> text = TextOf(kept.Of(ModelerSubclass));
-        return text.Count > 0 && EmitSolid(text, sink);
+        return EmitSolid(TextOf(kept.Of(ModelerSubclass)), entity, sink);
     }
 
     private static List<string> TextOf(List<CadCodeValue> tags)

@@ -55,7 +55,7 @@ internal static partial class EntityGeometry
     {
         if (entity is CadObjectWithAcisData solid)
         {
-            return EmitSolid(solid.AcisData, sink);
+            return EmitSolid(solid.AcisData, solid, sink);
         }
 
         if (entity is RawEntity raw)
