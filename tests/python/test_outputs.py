@@ -171,7 +171,7 @@ class Pages(Outputs):
                 metafile = self.write("page.cgm", options, source)
                 before = tones(Path(self.write("before.png", on_page(PngOptions()), source)).read_bytes())
                 after = tones(Path(self.write("after.png", on_page(PngOptions()), Path(metafile))).read_bytes())
-                self.assertGreater(likeness(before, after), 0.99)
+                self.assertGreater(likeness(before, after), 0.985)  # thin lines move by parts of a pixel
 
     @needs_tools("rsvg-convert", "emf2svg-conv", "pdftoppm")
     def test_a_graphics_metafile_becomes_pages_of_every_format(self) -> None:
