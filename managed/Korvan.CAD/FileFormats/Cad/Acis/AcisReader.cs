@@ -5,8 +5,8 @@ using Korvan.CAD.Geometry;
 namespace Korvan.CAD.FileFormats.Cad.Acis;
 
 /// <summary>
-/// Reads the edges of a body out of the text of its modeler. An edge points to two vertices and to a curve; the places
-/// of the pointers differ between versions of the modeler, but not the types of what they point to.
+/// Reads the edges of a body out of the text or the binary data of its modeler. An edge points to two vertices and to a
+/// curve; the places of the pointers differ between versions of the modeler, but not the types of what they point to.
 /// </summary>
 internal sealed class AcisReader
 {
@@ -26,22 +26,23 @@ internal sealed class AcisReader
     private readonly AcisWireframe _wireframe = new();
     private readonly Affine3 _map;
 
-    private AcisReader(SatText text)
+    private AcisReader(List<SatRecord> records)
     {
-        _records = text.Records;
+        _records = records;
         _map = MapOf(_records);
         _splines = new SatSplines(_records, _map);
     }
 
     /// <summary>Returns the edges; null where the text has none that are known.</summary>
-    internal static AcisWireframe? Read(IReadOnlyList<string> lines)
-    {
-        if (SatText.Parse(lines) is not SatText text)
-        {
-            return null;
-        }
+    internal static AcisWireframe? Read(IReadOnlyList<string> lines) =>
+        SatText.Parse(lines) is SatText text ? Read(text.Records) : null;
 
-        var reader = new AcisReader(text);
+    /// <summary>Returns the edges of binary data; null where they have none that are known.</summary>
+    internal static AcisWireframe? Read(ReadOnlySpan<byte> data) => Read(SabData.Parse(data));
+
+    private static AcisWireframe? Read(List<SatRecord> records)
+    {
+        var reader = new AcisReader(records);
         bool hasEdges = false;
         foreach (SatRecord record in reader._records)
         {

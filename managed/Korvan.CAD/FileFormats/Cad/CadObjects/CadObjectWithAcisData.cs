@@ -1,5 +1,6 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -16,6 +17,9 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
 
     /// <summary>Gets or sets the version of the modeler's text. Group code 70.</summary>
     public short ModelerFormatVersion { get; set; } = 1;
+
+    /// <summary>Gets or sets the record of the data section with the modeler's binary data.</summary>
+    internal CadAcdsRecord? DataRecord { get; set; }
 
     internal bool ReadAcis(int code, FieldReader reader)
     {

@@ -46,6 +46,7 @@ internal sealed partial class DxfReader
         }
 
         DrawingLinks.Complete(_drawing);
+        ModelerSection.Attach(_drawing);
         return _drawing;
     }
 

@@ -10,7 +10,7 @@ internal sealed partial class DxfTagReader
 
     /// <summary>
     /// Takes the number that a value begins with, where only letters follow. Digits, signs and separators may be a part
-    /// of what was meant, so that such values are not repaired, and neither is a number that breaks off at its exponent.
+    /// of what was meant, so that such values are not repaired, and neither is a number that ends within its exponent.
     /// </summary>
     private bool TryRepair(LoadDefectCode defect, out double value)
     {

@@ -1,3 +1,5 @@
+using System;
+using System.Buffers;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Acis;
 
@@ -20,9 +22,9 @@ internal static partial class EntityGeometry
         edges.Polylines.ForEach(points => sink.Polyline(points, closed: false));
     }
 
-    private static bool EmitSolid(IReadOnlyList<string> text, IGeometrySink sink)
+    private static bool EmitSolid(IReadOnlyList<string> text, byte[] binary, IGeometrySink sink)
     {
-        if (AcisReader.Read(text) is not AcisWireframe edges)
+        if ((AcisReader.Read(text) ?? (binary.Length > 0 ? AcisReader.Read(binary) : null)) is not AcisWireframe edges)
         {
             return false;
         }
@@ -45,8 +47,7 @@ internal static partial class EntityGeometry
             return true;
         }
 
-        List<string> text = TextOf(kept.Of(ModelerSubclass));
-        return text.Count > 0 && EmitSolid(text, sink);
+        return EmitSolid(TextOf(kept.Of(ModelerSubclass)), [], sink);
     }
 
     private static List<string> TextOf(List<CadCodeValue> tags)

@@ -58,7 +58,7 @@ internal static partial class EntityGeometry
     {
         bool isDrawn = entity switch
         {
-            CadObjectWithAcisData solid => EmitSolid(solid.AcisData, sink),
+            CadObjectWithAcisData solid => EmitSolid(solid.AcisData, solid.DataRecord?.Data ?? [], sink),
             RawEntity raw => EmitRaw(raw, sink),
             _ => false,
         };

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Linq;
+using System.Text;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.Acis;
@@ -126,6 +127,53 @@ public class SolidEdgeTests
             [new Rgba(0, 0, 255), new Rgba(255, 0, 0)], list.Items.ToArray()[1..].Select(item => item.Color));
     }
 
+    [Theory]
+    [InlineData('4')]
+    [InlineData('8')]
+    public void Binary_data_comes_from_the_section_of_its_entity(char word)
+    {
+        var data = new Sab(word);
+        data.Type("asmheader").Add(0x0c, -1).Text("1.0").End();
+        data.Type("vertex").Add(0x0c, -1).Add(4, -1).Add(0x0c, 2).End();
+        data.Type("point").Add(0x0c, -1).Numbers(0x13, 1, 0, 0).End();
+        data.Type("vertex").Add(0x0c, -1).Add(4, -1).Add(0x0c, 4).End();
+        data.Type("point").Add(0x0c, -1).Numbers(0x13, 0, 1, 0).End();
+        data.Type("ellipse", "curve").Add(0x0c, -1).Numbers(0x13, 0, 0, 0).Numbers(0x14, 0, 0, 1)
+            .Numbers(0x14, 1, 0, 0).Numbers(6, 1).Flag(0x0b).Flag(0x0b).End();
+        data.Type("edge").Add(0x0c, -1).Add(0x0c, 1).Numbers(6, 0).Add(0x0c, 3).Numbers(6, 1).Add(0x0c, -1).Add(0x0c, 5)
+            .Flag(0x0a).End();
+        string digits = Convert.ToHexString(data.Bytes);
+        string text = DxfText.Header("AC1027") + DxfText.Entities(0, "3DSOLID", 5, "2A", 100, "AcDbEntity", 8, "0")
+            + DxfText.Tags(
+                0, "SECTION", 2, "ACDSDATA", 0, "ACDSRECORD", 320, "2A", 2, "ASM_Data", 310, digits[..50], 310,
+                digits[50..], 0, "ACDSRECORD", 320, "2B", 310, "00", 0, "ENDSEC", 0, "EOF");
+        using DxfImage drawing = DxfText.Load(text);
+        Assert.Equal((-1, -1, 0), Rounded(drawing.MinPoint)); // reversed: three quarters of the circle
+        Assert.Equal((1, 1, 0), Rounded(drawing.MaxPoint));
+        for (int length = 0; length < data.Bytes.Length; length++)
+        {
+            AcisReader.Read(data.Bytes.AsSpan(0, length)); // no cut does harm
+        }
+    }
+
+    [DrawingFact]
+    public void Solids_of_other_programs_are_the_same_as_text_and_as_binary_data()
+    {
+        using var text = (CadImage)Image.Load(SharedDrawings.Dxf("lwg__example_2000.dxf"));
+        using var binary = (CadImage)Image.Load(SharedDrawings.Dxf("lwg__example_2018.dxf"));
+        Assert.Equal(Only(text), Only(binary));
+
+        static (int Items, double Width, double Height) Only(CadImage drawing)
+        {
+            CadEntityBase[] solids = [.. drawing.Entities.Where(entity => entity is CadObjectWithAcisData)];
+            drawing.Entities.Clear();
+            drawing.Entities.AddRange(solids);
+            DrawingList list = Build(drawing);
+            Assert.Empty(list.Skipped);
+            return (list.Items.Length, Math.Round(list.Bounds.Width, 3), Math.Round(list.Bounds.Height, 3));
+        }
+    }
+
     /// <summary>A body with an edge from (1, 0, 0) to another point.</summary>
     private static string[] Body(string curve, string sense, string end) =>
     [
@@ -153,5 +201,58 @@ public class SolidEdgeTests
         using var engine = new TextEngine();
         DrawingScene scene = SceneReader.Read(drawing.Drawing);
         return scene.Build(scene.Choose([])[0], new RenderStyle(), engine);
+    }
+
+    /// <summary>Writes binary data of a modeler.</summary>
+    private sealed class Sab
+    {
+        private readonly List<byte> _bytes = [];
+        private readonly bool _isLong;
+
+        internal Sab(char word)
+        {
+            _isLong = word == '8';
+            _bytes.AddRange(Encoding.Latin1.GetBytes("ASM BinaryFile" + word));
+            _bytes.AddRange(new byte[4 * (_isLong ? 8 : 4)]);
+            Text("Some modeler").Numbers(6, 1e-6);
+        }
+
+        internal byte[] Bytes => [.. _bytes];
+
+        internal Sab Type(params string[] parts)
+        {
+            for (int i = 0; i < parts.Length; i++)
+            {
+                Text(parts[i], i == parts.Length - 1 ? (byte)0x0d : (byte)0x0e);
+            }
+
+            return this;
+        }
+
+        internal Sab Text(string text, byte kind = 7)
+        {
+            _bytes.AddRange([kind, (byte)text.Length, .. Encoding.Latin1.GetBytes(text)]);
+            return this;
+        }
+
+        internal Sab Add(byte kind, int value)
+        {
+            _bytes.AddRange([kind, .. _isLong ? BitConverter.GetBytes((long)value) : BitConverter.GetBytes(value)]);
+            return this;
+        }
+
+        internal Sab Numbers(byte kind, params double[] values)
+        {
+            _bytes.AddRange([kind, .. values.SelectMany(BitConverter.GetBytes)]);
+            return this;
+        }
+
+        internal Sab Flag(byte kind)
+        {
+            _bytes.Add(kind);
+            return this;
+        }
+
+        internal void End() => _bytes.Add(0x11);
     }
 }
