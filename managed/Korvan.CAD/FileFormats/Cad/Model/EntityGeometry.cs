@@ -52,7 +52,7 @@ internal static partial class EntityGeometry
         On<CadViewport>(static (_, _) => { }),
     };
 
-    /// <summary>Gives the shapes of an entity to a sink. False for entities whose shape is not known.</summary>
+    /// <summary>Passes the shapes of an entity to a sink. False for entities whose shape is not known.</summary>
     internal static bool Emit(CadEntityBase entity, IGeometrySink sink)
     {
         for (Type? type = entity.GetType(); type != typeof(CadEntityBase) && type is not null; type = type.BaseType)
