@@ -59,7 +59,7 @@ internal sealed class CadClass
     /// <summary>Entities, objects or tables: the name of the root class; empty for a part of an object.</summary>
     public string Kind { get; }
 
-    /// <summary>Base classes without a marker of their own: their codes stand among those of this class.</summary>
+    /// <summary>Base classes without a marker of their own: their codes are among those of this class.</summary>
     public IReadOnlyList<string> Parts { get; }
 
     /// <summary>Whether files have the fields in declared order only, so that group codes may repeat.</summary>

@@ -99,7 +99,7 @@ internal sealed class CadProperty
         _ => 1,
     };
 
-    /// <summary>What a handle means to its object, which the range of its group code tells.</summary>
+    /// <summary>What a handle means to its object, which the range of its group code states.</summary>
     public string HandleRole => Code switch
     {
         >= 330 and < 340 => "SoftPointer",

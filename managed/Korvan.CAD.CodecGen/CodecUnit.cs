@@ -18,7 +18,7 @@ internal sealed class CodecUnit(
     /// <summary>The name in files, or empty where the class cannot be made from a file by its name alone.</summary>
     public string DxfName { get; } = dxfName;
 
-    /// <summary>The root class that tells where such objects stand: entities, objects or tables.</summary>
+    /// <summary>The root class, which states where such objects are: entities, objects or tables.</summary>
     public string Kind { get; } = kind;
 
     /// <summary>Another name in files; empty for none.</summary>

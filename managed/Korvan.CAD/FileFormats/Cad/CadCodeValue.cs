@@ -28,12 +28,12 @@ public class CadCodeValue
     /// <summary>Gets the type of the value, which the group code states.</summary>
     public CadGroupCodeTypes CodeType => GroupCodes.TypeOf(Attribute);
 
-    /// <summary>Gives the value as a number.</summary>
+    /// <summary>Returns the value as a number.</summary>
     /// <returns>The value as a number.</returns>
     /// <exception cref="FormatException">The text is not a number.</exception>
     public double GetDoubleValue() => double.Parse(Value, NumberStyles.Float, CultureInfo.InvariantCulture);
 
-    /// <summary>Gives the value as an integer.</summary>
+    /// <summary>Returns the value as an integer.</summary>
     /// <returns>The value as an integer.</returns>
     /// <exception cref="FormatException">The text is not an integer.</exception>
     public int GetIntValue() => int.Parse(Value, NumberStyles.Integer, CultureInfo.InvariantCulture);

@@ -160,7 +160,7 @@ public partial class CadImage : Image, IDrawingContent
     /// <returns>Whether it was there.</returns>
     public bool RemoveEntity(CadEntityBase entity) => Entities.Remove(entity);
 
-    /// <summary>Gives the entities of a layout, in drawing order. The list is live.</summary>
+    /// <summary>Returns the entities of a layout, in drawing order. The list is live.</summary>
     /// <param name="layoutName">The name of the layout; upper and lower case are the same.</param>
     /// <returns>The entities of a layout, in drawing order.</returns>
     /// <exception cref="CadException">There is no such layout, or its block is missing.</exception>
@@ -189,8 +189,8 @@ public partial class CadImage : Image, IDrawingContent
         return new DynamicBlocks(Drawing).StateOf(reference);
     }
 
-    /// <summary>Gives the faces of the visible entities of model space in world coordinates: faces, meshes and solids,
-    /// and what has a thickness. References to blocks are followed.</summary>
+    /// <summary>Returns the faces of the visible entities of model space in world coordinates: faces, meshes and
+    /// solids, and what has a thickness. References to blocks are followed.</summary>
     /// <returns>The faces of the visible entities of model space in world coordinates.</returns>
     /// <exception cref="CadException">A block contains itself, or there are more than 50 million faces.</exception>
     public DrawingEntity3D[] GetEntities3D()

@@ -135,11 +135,12 @@ public abstract partial class CadEntityBase : CadOwnedObjectBase, IMeasurableEnt
     /// finite.</exception>
     public CadEntityBase Clone() => EntityCopy.Of(this);
 
-    /// <summary>Gives what the entity is, its layer and its position in one line.</summary>
+    /// <summary>Returns what the entity is, its layer and its position in one line.</summary>
     /// <returns>What the entity is, its layer and its position in one line.</returns>
     public override string ToString() => EntityText.Of(this);
 
-    /// <summary>Gives the point that an annotation points to: the middle of the entity, in world coordinates.</summary>
+    /// <summary>Returns the point that an annotation points to: the middle of the entity, in world
+    /// coordinates.</summary>
     /// <returns>The point that an annotation points to.</returns>
     /// <exception cref="CadException">The entity takes no room of its own, as a line without end.</exception>
     public virtual Point3D GetAnnotationPoint()

@@ -102,7 +102,7 @@ public partial class CadExtrudedSurface : CadObjectWithAcisData
     [CadBool(292)]
     public bool AlignStart { get; set; }
 
-    /// <summary>Gets or sets whether the profile turns with the path. Group code 293.</summary>
+    /// <summary>Gets or sets whether the profile rotates with the path. Group code 293.</summary>
     [CadBool(293)]
     public bool Bank { get; set; }
 

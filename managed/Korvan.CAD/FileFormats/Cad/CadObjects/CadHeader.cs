@@ -29,24 +29,24 @@ public partial class CadHeader
         set => Set("$ACADVER", 1, value.ToString());
     }
 
-    /// <summary>Tells whether the drawing states a variable.</summary>
+    /// <summary>Determines whether the drawing states a variable.</summary>
     /// <param name="name">The name, as in $LTSCALE; upper and lower case are the same.</param>
     /// <returns>Whether the drawing states a variable.</returns>
     public bool Contains(string name) => _values.ContainsKey(name);
 
-    /// <summary>Gives a variable as a number.</summary>
+    /// <summary>Returns a variable as a number.</summary>
     /// <param name="name">The name, as in $LTSCALE.</param>
     /// <returns>The value, or 0 where the drawing does not state it.</returns>
     /// <exception cref="CadException">The variable is not a number.</exception>
     public double GetDouble(string name) => GetDouble(name, 0);
 
-    /// <summary>Gives a variable as an integer.</summary>
+    /// <summary>Returns a variable as an integer.</summary>
     /// <param name="name">The name, as in $INSUNITS.</param>
     /// <returns>The value, or 0 where the drawing does not state it.</returns>
     /// <exception cref="CadException">The variable is not a number.</exception>
     public int GetInt(string name) => (int)GetDouble(name, 0);
 
-    /// <summary>Gives a variable as a text.</summary>
+    /// <summary>Returns a variable as a text.</summary>
     /// <param name="name">The name, as in $CLAYER.</param>
     /// <returns>The value, or an empty text where the drawing does not state it.</returns>
     public string GetString(string name)
@@ -54,7 +54,7 @@ public partial class CadHeader
         return _values.TryGetValue(name, out List<CadCodeValue>? tags) && tags.Count > 0 ? tags[0].Value.Trim() : "";
     }
 
-    /// <summary>Gives a variable as a point.</summary>
+    /// <summary>Returns a variable as a point.</summary>
     /// <param name="name">The name, as in $EXTMIN.</param>
     /// <returns>A copy of the value; the origin where the drawing does not state it.</returns>
     /// <exception cref="CadException">The variable is no point.</exception>
@@ -80,7 +80,7 @@ public partial class CadHeader
         return point;
     }
 
-    /// <summary>Gives the tags of a variable. The list is live: changes change the drawing.</summary>
+    /// <summary>Returns the tags of a variable. The list is live: changes change the drawing.</summary>
     /// <param name="name">The name; upper and lower case are the same.</param>
     /// <returns>The tags of a variable.</returns>
     /// <exception cref="CadException">The drawing does not state it.</exception>

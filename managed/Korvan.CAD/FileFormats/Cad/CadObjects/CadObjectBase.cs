@@ -16,7 +16,7 @@ public abstract partial class CadObjectBase : CadOwnedObjectBase
     /// <summary>Gets the type as files name it, group code 0.</summary>
     public string TypeNameText => DxfName;
 
-    /// <summary>Gives the type and what the object is found by in one line.</summary>
+    /// <summary>Returns the type and what the object is found by in one line.</summary>
     /// <returns>The type and what the object is found by in one line.</returns>
     public override string ToString() => Key.Length > 0 ? $"{DxfName} {Key}" : DxfName;
 }

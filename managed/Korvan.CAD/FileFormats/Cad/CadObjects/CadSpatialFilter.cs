@@ -41,7 +41,7 @@ public partial class CadSpatialFilter : CadObjectBase
     [CadWhen("HasFrontClipping != 0")]
     public double FrontClippingDistance { get; set; }
 
-    /// <summary>Gets or sets whether what is behind a plane is left out: 0 no, 1 yes. Group code 73.</summary>
+    /// <summary>Gets or sets whether what is beyond a plane is left out: 0 no, 1 yes. Group code 73.</summary>
     [CadShort(73)]
     public short HasBackClipping { get; set; }
 

@@ -214,7 +214,7 @@ internal sealed partial class DxfTagReader : FieldReader
         return [.. before, .. chunk];
     }
 
-    /// <summary>Gives the current tag as it is in the file.</summary>
+    /// <summary>Returns the current tag as it is in the file.</summary>
     internal override CadCodeValue ToCodeValue() => GroupCodes.TypeOf(Code) == CadGroupCodeTypes.Binary
         ? new CadBinaryCodeValue(Code, ValueText()) : new CadCodeValue(Code, ValueText());
 

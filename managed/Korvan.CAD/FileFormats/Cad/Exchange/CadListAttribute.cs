@@ -5,7 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.Exchange;
 /// <param name="code">The group code of an item; of a point that of its X.</param>
 internal sealed class CadListAttribute(int code) : CadPropertyAttribute(code)
 {
-    /// <summary>Gets or sets the group code of the number of items, which stands before them; 0 where text files state
+    /// <summary>Gets or sets the group code of the number of items, which precedes them; 0 where text files state
     /// none.</summary>
     public int Count { get; set; }
 

@@ -4,7 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.Exchange;
 /// <param name="code">The group code that begins a part.</param>
 internal sealed class CadRepeatedAttribute(int code) : CadPropertyAttribute(code)
 {
-    /// <summary>Gets or sets the group code of the number of parts, which stands before them; 0 where text files state
+    /// <summary>Gets or sets the group code of the number of parts, which precedes them; 0 where text files state
     /// none.</summary>
     public int Count { get; set; }
 }

@@ -3,8 +3,8 @@ using Korvan.CAD.CadExceptions;
 namespace Korvan.CAD.FileFormats.Cad.Exchange;
 
 /// <summary>
-/// Gives the fields of an object one by one, in the order of the file. Group codes name fields whatever the format is;
-/// the class of the object tells which type the value has.
+/// Returns the fields of an object one by one, in the order of the file. Group codes name fields whatever the format
+/// is; the class of the object states which type the value has.
 /// </summary>
 internal abstract class FieldReader
 {
@@ -14,7 +14,7 @@ internal abstract class FieldReader
     /// <summary>Gets the subclass that the current field belongs to, or nothing before the first marker.</summary>
     internal string? Subclass { get; private set; }
 
-    /// <summary>Tells whether the current field belongs to a subclass; old files have no markers.</summary>
+    /// <summary>Determines whether the current field belongs to a subclass; old files have no markers.</summary>
     internal bool InSubclass(string name) => Subclass is null || Subclass == name;
 
     /// <summary>Gets or sets whether the fields of the current subclass were read as a sequence.</summary>
@@ -36,7 +36,7 @@ internal abstract class FieldReader
 
     internal abstract double GetDouble();
 
-    /// <summary>Gives the value as an angle in degrees.</summary>
+    /// <summary>Returns the value as an angle in degrees.</summary>
     internal abstract double GetAngle();
 
     internal abstract int GetInt();
@@ -45,15 +45,15 @@ internal abstract class FieldReader
 
     internal abstract long GetLong();
 
-    /// <summary>Gives the value as a string.</summary>
+    /// <summary>Returns the value as a string.</summary>
     internal abstract string GetString();
 
-    /// <summary>Gives the value as a name: without blanks at its ends.</summary>
+    /// <summary>Returns the value as a name: without blanks at its ends.</summary>
     internal abstract string GetName();
 
     internal abstract ulong GetHandle();
 
-    /// <summary>Gives the value as a handle in hexadecimal.</summary>
+    /// <summary>Returns the value as a handle in hexadecimal.</summary>
     internal abstract string GetHandleText();
 
     /// <summary>Reads how many items follow; a count that the rest of the file cannot hold is damage.</summary>
@@ -62,7 +62,7 @@ internal abstract class FieldReader
     /// <summary>Appends a chunk of binary data to the chunks before.</summary>
     internal abstract byte[] AppendBinary(byte[] before);
 
-    /// <summary>Gives the current field as a tag of a text file.</summary>
+    /// <summary>Returns the current field as a tag of a text file.</summary>
     internal abstract CadCodeValue ToCodeValue();
 
     /// <summary>Describes a value that its class does not allow.</summary>

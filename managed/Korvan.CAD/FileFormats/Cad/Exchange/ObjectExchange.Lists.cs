@@ -117,7 +117,7 @@ internal abstract partial class ObjectExchange
         }
     }
 
-    /// <summary>Gives the item of a list whose fields follow; an object that takes values over gets a new
+    /// <summary>Returns the item of a list whose fields follow; an object that takes values over gets a new
     /// one.</summary>
     internal T Item<T>(IList<T> items, int index)
         where T : class, new()

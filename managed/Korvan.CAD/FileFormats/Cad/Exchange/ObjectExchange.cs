@@ -5,7 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.Exchange;
 
 /// <summary>
 /// Carries the fields of an object in the order that its class declares them: out of the object, or into it. Each
-/// method takes the present value and gives the one to keep, which is the same where the object is written.
+/// method takes the present value and returns the one to keep, which is the same where the object is written.
 /// </summary>
 internal abstract partial class ObjectExchange
 {

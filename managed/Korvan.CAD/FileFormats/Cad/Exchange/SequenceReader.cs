@@ -5,7 +5,7 @@ using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Exchange;
 
-/// <summary>Gives the fields of a subclass to an object in the order that its class declares. A field that is not next
+/// <summary>Passes the fields of a subclass to an object in the order that its class declares. A field that is not next
 /// in the file is missing; what is left at the end is kept.</summary>
 internal sealed class SequenceReader : ObjectExchange
 {

@@ -53,7 +53,7 @@ internal static partial class EntityGeometry
         On<CadViewport>(static (_, _) => { }),
     };
 
-    /// <summary>Gives the shapes of an entity to a sink. False for entities whose shape is not known.</summary>
+    /// <summary>Passes the shapes of an entity to a sink. False for entities whose shape is not known.</summary>
     internal static bool Emit(CadEntityBase entity, IGeometrySink sink)
     {
         bool isDrawn = entity switch

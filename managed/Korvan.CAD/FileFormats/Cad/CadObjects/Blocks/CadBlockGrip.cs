@@ -11,11 +11,11 @@ public abstract partial class CadBlockGrip : CadBlockElement
     {
     }
 
-    /// <summary>Gets or sets the index of the node that gives the X coordinate. Group code 91.</summary>
+    /// <summary>Gets or sets the index of the node with the X coordinate. Group code 91.</summary>
     [CadInt(91)]
     public int FirstParameterId { get; set; }
 
-    /// <summary>Gets or sets the index of the node that gives the Y coordinate. Group code 92.</summary>
+    /// <summary>Gets or sets the index of the node with the Y coordinate. Group code 92.</summary>
     [CadInt(92)]
     public int SecondParameterId { get; set; }
 

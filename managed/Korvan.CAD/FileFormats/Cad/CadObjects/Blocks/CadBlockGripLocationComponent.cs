@@ -2,7 +2,7 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 
-/// <summary>The value that gives one coordinate of a grip.</summary>
+/// <summary>The value of one coordinate of a grip.</summary>
 [CadSequence]
 [CadObject("BLOCKGRIPLOCATIONCOMPONENT", Subclass = "AcDbBlockGripExpr")]
 public partial class CadBlockGripLocationComponent : CadDbEvalExpr

@@ -32,7 +32,7 @@ public abstract partial class CadDictionaryBase : CadObjectBase, ICadObjectConta
     /// <summary>Gets the codes of the entries' handles as they stood in the file: 350 or 360.</summary>
     internal int HandleCode { get; set; } = SoftOwnerCode;
 
-    /// <summary>Gives the handle of an entry in hexadecimal, or an empty text where there is none of this
+    /// <summary>Returns the handle of an entry in hexadecimal, or an empty text where there is none of this
     /// name.</summary>
     /// <param name="name">The name; upper and lower case are the same.</param>
     /// <returns>The handle of an entry in hexadecimal, or an empty text where there is none of this name.</returns>
@@ -81,7 +81,7 @@ public abstract partial class CadDictionaryBase : CadObjectBase, ICadObjectConta
         _handles.Add(handle);
     }
 
-    /// <summary>Gives the entry of an object another name.</summary>
+    /// <summary>Renames the entry of an object.</summary>
     internal void Rename(ulong handle, string name)
     {
         int index = handle == 0 ? -1 : _handles.IndexOf(handle);
