@@ -16,6 +16,8 @@ internal sealed class DxfStructure
         "POLYLINE", "SEQEND", "SHAPE", "SOLID", "TEXT", "TRACE", "VERTEX", "VIEWPORT",
     ];
 
+    private const string NameCharacters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789$-_*|";
+
     private readonly List<Item> _items = [];
     private readonly string _name;
 
@@ -42,10 +44,6 @@ internal sealed class DxfStructure
         }
     }
 
-    internal int Count(string type) => _items.Count(item => item.Type == type && item.Section is "ENTITIES" or "BLOCKS");
-
-    internal IEnumerable<string> Types => _items.Select(static item => item.Type);
-
     internal void VerifyOwners()
     {
         Dictionary<string, Item> byHandle = VerifyHandles();
@@ -54,7 +52,7 @@ internal sealed class DxfStructure
             string? owner = item.Own(330);
             Check(owner is not null || item.Type is "TABLE" or "VIEWPORT", $"{item} has no owner");
             bool isRoot = item.Type is "TABLE" || item == _items.First(static one => one.Section == "OBJECTS");
-            Check(owner is null || isRoot || byHandle.ContainsKey(owner), $"{item} has the owner {owner}, who is not there");
+            Check(owner is null || isRoot || byHandle.ContainsKey(owner), $"{item} has no owner {owner}");
         }
 
         foreach (Item dictionary in _items.Where(static item => item.Type is "DICTIONARY" or "ACDBDICTIONARYWDFLT"))
@@ -88,11 +86,12 @@ internal sealed class DxfStructure
         ];
         foreach ((int code, string table, string[] implied) in references)
         {
-            HashSet<string> names = [.. Records(table).Select(static one => one.Own(2)!.ToUpperInvariant()), .. implied];
+            HashSet<string> names = new(implied, StringComparer.OrdinalIgnoreCase);
+            names.UnionWith(Records(table).Select(static one => one.Own(2)!));
             foreach (Item item in _items.Where(static item => item.Section is "ENTITIES" or "BLOCKS"))
             {
                 string? name = item.Own(code);
-                Check(name is null || names.Contains(name.ToUpperInvariant()), $"{item} names {name} of {table}");
+                Check(name is null || names.Contains(name), $"{item} names {name} of {table}");
             }
         }
     }
@@ -105,12 +104,13 @@ internal sealed class DxfStructure
         {
             Check(item.Section is not ("ENTITIES" or "BLOCKS") || Release12.Contains(item.Type)
                 || item.Type is "SECTION" or "ENDSEC" or "EOF", $"{item} came later");
-            Check(!item.Tags.Exists(static tag => tag.Code is 100 or 102 or 330 or 360 or 420 or 370), $"{item} has new tags");
-            foreach (string name in hasNewNames && item.Type is "LAYER" or "LTYPE" or "STYLE" or "BLOCK" ? item.All(2) : [])
+            bool isNew = item.Tags.Exists(static tag => tag.Code is 100 or 102 or 330 or 360 or 420 or 370);
+            Check(!isNew, $"{item} has new tags");
+            bool isNamed = hasNewNames && item.Type is "LAYER" or "LTYPE" or "STYLE" or "BLOCK";
+            foreach (string name in isNamed ? item.All(2) : [])
             {
-                bool valid = name.Length <= 31
-                    && name.All(static c => c is >= 'A' and <= 'Z' or >= '0' and <= '9' or '$' or '-' or '_' or '*' or '|');
-                Check(valid, $"{item} has the name '{name}'");
+                bool isValid = name.Length <= 31 && name.All(static c => NameCharacters.Contains(c));
+                Check(isValid, $"{item} is named '{name}'");
             }
         }
 
@@ -132,7 +132,8 @@ internal sealed class DxfStructure
         foreach (Item layout in _items.Where(static item => item.Type == "LAYOUT"))
         {
             string record = layout.All(330).Last();
-            Check(byHandle.TryGetValue(record, out Item? item) && item.Type == "BLOCK_RECORD", $"{layout} has no block");
+            bool isThere = byHandle.TryGetValue(record, out Item? item) && item.Type == "BLOCK_RECORD";
+            Check(isThere, $"{layout} has no block");
         }
     }
 
@@ -144,8 +145,10 @@ internal sealed class DxfStructure
     {
         internal List<(int Code, string Value)> Tags { get; } = [];
 
-        internal string? Handle => Type == "SECTION" || Section is "HEADER" or "CLASSES" or "THUMBNAILIMAGE" or "ACDSDATA" ? null
-            : Own(Type == "DIMSTYLE" ? 105 : 5);
+        internal string? Handle =>
+            Type == "SECTION" || Section is "HEADER" or "CLASSES" or "THUMBNAILIMAGE" or "ACDSDATA"
+                ? null
+                : Own(Type == "DIMSTYLE" ? 105 : 5);
 
         public override string ToString() => $"{Type} {Handle}";
 
@@ -170,6 +173,7 @@ internal sealed class DxfStructure
             return null;
         }
 
-        internal IEnumerable<string> All(int code) => Tags.Where(tag => tag.Code == code).Select(static tag => tag.Value);
+        internal IEnumerable<string> All(int code) =>
+            Tags.Where(tag => tag.Code == code).Select(static tag => tag.Value);
     }
 }

@@ -104,9 +104,4 @@ public class MutationTests
         image.AddEntity(new CadInsertObject { Name = "B", RotationAngle = 30, ColumnCount = 2, ColumnSpacing = 3 });
         return DxfText.Save(image).Replace("\r\n", "\n");
     }
-
-    private static string Count(CadImage image) =>
-        string.Join(' ',
-            image.BlockEntities.Items.SelectMany(block => block.Entities).GroupBy(entity => entity.TypeNameText)
-        .OrderBy(group => group.Key, StringComparer.Ordinal).Select(group => $"{group.Key}:{group.Count()}"));
 }

@@ -3,7 +3,8 @@ using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf.Releases;
 
-/// <summary>The arrow blocks of dimension styles: names up to release 14, handles of block records from 2000 on.</summary>
+/// <summary>The arrow blocks of dimension styles: names up to release 14, handles of block records from 2000
+/// on.</summary>
 internal static class DimensionArrows
 {
     internal static void ToHandles(CadDrawing drawing, CadDimensionStyleTable style)

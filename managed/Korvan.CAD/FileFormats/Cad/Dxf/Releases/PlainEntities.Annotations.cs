@@ -80,7 +80,8 @@ internal sealed partial class PlainEntities
             }
 
             string text = PlainText.FromMText(cell);
-            double width = Math.Max(2 * height, _measure(new CadText { DefaultValue = text, TextHeight = height }) + height);
+            double own = _measure(new CadText { DefaultValue = text, TextHeight = height });
+            double width = Math.Max(2 * height, own + height);
             AddPolyline(
             [
                 plane.Point(new Vec3(left, top - (2 * height), 0)),

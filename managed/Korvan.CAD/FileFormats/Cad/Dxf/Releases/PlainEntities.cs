@@ -265,7 +265,8 @@ internal sealed partial class PlainEntities : IGeometrySink
         }
     }
 
-    private void AddLine(Vec3 from, Vec3 to) => Add(new CadLine { FirstPoint = ToPoint(from), SecondPoint = ToPoint(to) });
+    private void AddLine(Vec3 from, Vec3 to) =>
+        Add(new CadLine { FirstPoint = ToPoint(from), SecondPoint = ToPoint(to) });
 
     // Level ones are polylines of the plane, since those in space have no line type.
     private void AddPolyline(List<Vec3> points, bool closed)

@@ -1,6 +1,6 @@
-using System;
 using System.Collections.Generic;
 using System.Linq;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -47,13 +47,11 @@ internal static class PlainRelease
                 continue;
             }
 
-            drawing.BlockEntities.Remove(block);
             CadLayout? layout = drawing.Layouts.Items.Find(one => DrawingLinks.BlockOf(drawing, one) == block);
+            drawing.BlockEntities.Remove(block);
             if (block.Entities.Count > 0)
             {
-                string name = layout?.LayoutName ?? drawing.Layouts.Items
-                    .Find(one => drawing.BlockRecords.Find(block.Name)?.ObjectHandle == one.BlockTableRecordHandle)
-                    ?.LayoutName ?? block.Name;
+                string name = layout?.LayoutName ?? block.Name;
                 changes.Add($"layout '{name}' with {block.Entities.Count} entities: left out");
             }
         }
@@ -99,8 +97,8 @@ internal static class PlainRelease
         if (entity is CadDimensionBase dimension)
         {
             dimension.TypeOfDimension &= ~OwnBlock;
-            dimension.AttachmentPoint = CadConsts.CadAttachmentPoint.MiddleCenter;
-            dimension.LineSpacingStyle = CadConsts.CadLineSpacing.AtLeast;
+            dimension.AttachmentPoint = CadAttachmentPoint.MiddleCenter;
+            dimension.LineSpacingStyle = CadLineSpacing.AtLeast;
             dimension.LineSpacingFactor = 1;
             dimension.ActualMeasurement = 0;
         }

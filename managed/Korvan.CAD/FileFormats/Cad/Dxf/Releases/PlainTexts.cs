@@ -30,8 +30,8 @@ internal sealed class PlainTexts(CadDrawing drawing, Func<CadText, double> measu
         {
             if (lines[i].Text.Length > 0)
             {
-                double base_ = top - height - (i * pitch);
-                yield return Entity(text, lines[i], plane, base_, (short)(attachment % 3));
+                double baseline = top - height - (i * pitch);
+                yield return Entity(text, lines[i], plane, baseline, (short)(attachment % 3));
             }
         }
     }
