@@ -1,5 +1,3 @@
-using System;
-
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
 /// <summary>
