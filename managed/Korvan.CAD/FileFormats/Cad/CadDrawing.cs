@@ -86,6 +86,13 @@ internal sealed class CadDrawing
     /// <summary>Gets or sets the unit that is assumed where the header states none.</summary>
     internal UnitType DefaultUnitType { get; set; } = UnitType.Unitless;
 
+    /// <summary>Gets or sets whether the drawing was read from a binary file, and is written as one.</summary>
+    internal bool IsBinary { get; set; }
+
+    /// <summary>Gets or sets the release that the content is of, whatever the header says by now; null for that of the
+    /// header.</summary>
+    internal CadAcadVersion? ContentRelease { get; set; }
+
     internal CadAcadVersion Version => Header.AcadVersion;
 
     internal UnitType UnitType => DrawingUnits.FromInsUnits(Header.InsUnits) is var unit

@@ -5,6 +5,7 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering;
+using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Formats.Dxf;
 
@@ -41,7 +42,8 @@ internal static class DxfFormat
 
     private static void Write(IDrawingContent content, DxfOptions options, ExportContext context, Stream output)
     {
-        foreach (string what in DxfSaver.Save(content.Drawing, options, output))
+        foreach (string what in DxfSaver.Save(
+            content.Drawing, options, output, () => TextMeasurer.TryCreate(content.Drawing)))
         {
             context.Notes.Add(RenderErrorCode.EntityNotDrawn, what);
         }

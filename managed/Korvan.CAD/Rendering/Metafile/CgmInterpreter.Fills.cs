@@ -5,7 +5,6 @@ using Korvan.CAD.FileFormats.Cgm.Classes;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.FileFormats.Cgm.Enums;
 using Korvan.CAD.Geometry;
-using Korvan.CAD.Rendering.Hatch;
 using Korvan.CAD.Rendering.Scene;
 using ASF = Korvan.CAD.FileFormats.Cgm.Commands.AspectSourceFlags.ASFType;
 using Style = Korvan.CAD.FileFormats.Cgm.Commands.InteriorStyle.Style;

@@ -3,7 +3,6 @@ using System.Collections.Generic;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
-using Korvan.CAD.Rendering.Hatch;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;

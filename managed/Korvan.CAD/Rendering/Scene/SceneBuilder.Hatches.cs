@@ -11,8 +11,6 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <content>Hatches: their boundaries as loops, then a solid, a gradient or pattern lines.</content>
 internal sealed partial class SceneBuilder
 {
-    private const double HatchTolerance = 1e-4;
-
     /// <summary>
     /// Fills what the boundaries enclose by the even-odd rule, which does not ask which way round they run.
     /// </summary>
@@ -24,7 +22,7 @@ internal sealed partial class SceneBuilder
             return;
         }
 
-        List<HatchLoop> loops = HatchLoops.Select(Loops(hatch), (HatchStyle)Math.Clamp((int)hatch.HatchStyle, 0, 2));
+        List<HatchLoop> loops = HatchLoops.Select(HatchAreas.Loops(hatch), (HatchStyle)Math.Clamp((int)hatch.HatchStyle, 0, 2));
         if (loops.Count == 0)
         {
             return;
@@ -45,7 +43,7 @@ internal sealed partial class SceneBuilder
         }
         else
         {
-            _canvas.FillPattern(loops, Lines(hatch), plane, pen);
+            _canvas.FillPattern(loops, HatchAreas.Lines(hatch), plane, pen);
         }
     }
 
@@ -61,18 +59,6 @@ internal sealed partial class SceneBuilder
         {
             EntityGeometry.EmitBoundary(boundary, plane, area.ElevationPoint.Z, this);
         }
-    }
-
-    private static List<HatchLine> Lines(CadHatch hatch)
-    {
-        var lines = new List<HatchLine>(hatch.PatternDefinitions.Count);
-        foreach (CadHatchPatternData line in hatch.PatternDefinitions)
-        {
-            double angle = Angles.Radians(line.LineAngle);
-            lines.Add(new HatchLine(angle, line.LineBasePoint.ToVec2(), line.LineOffset.ToVec2(), line.DashLengths));
-        }
-
-        return lines;
     }
 
     private static Gradient GradientOf(CadHatch hatch, List<HatchLoop> loops, in HatchPlane plane, in Pen pen)
@@ -99,23 +85,5 @@ internal sealed partial class SceneBuilder
         return t < 0.5
             ? HatchGradient.Mix(Rgba.Black.WithAlpha(color.A), color, t * 2)
             : HatchGradient.Mix(color, Rgba.White.WithAlpha(color.A), (t * 2) - 1);
-    }
-
-    private static List<HatchLoop> Loops(CadHatch hatch)
-    {
-        var loops = new List<HatchLoop>(hatch.BoundaryPaths.Count);
-        foreach (CadHatchBoundaryPathContainer container in hatch.BoundaryPaths)
-        {
-            var path = new PathBuffer();
-            EntityGeometry.EmitBoundary(container, Affine3.Identity, 0, new OutlineSink(path, Affine3.Identity));
-            if (!path.IsEmpty && path.Bounds.IsFinite)
-            {
-                path.Close();
-                double size = Math.Max(path.Bounds.Width, path.Bounds.Height);
-                loops.Add(new HatchLoop(path, Math.Max(size * HatchTolerance, 1e-9)));
-            }
-        }
-
-        return loops;
     }
 }

@@ -182,28 +182,28 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     public short Dimadec { get; set; }
 
     /// <summary>Gets or sets $DIMUNIT: the form of lengths in releases 13 and 14. Group code 270.</summary>
-    [CadShort(270, Optional = true)]
+    [CadShort(270, Optional = true, Since = 1994)]
     public short Dimunit { get; set; } = 2;
 
     /// <summary>Gets or sets $DIMDEC: the decimals of lengths. Group code 271.</summary>
-    [CadShort(271, Optional = true)]
+    [CadShort(271, Optional = true, Since = 1994)]
     public short Dimdec { get; set; } = 4;
 
     /// <summary>Gets or sets $DIMTDEC: the decimals of tolerances. Group code 272.</summary>
-    [CadShort(272, Optional = true)]
+    [CadShort(272, Optional = true, Since = 1994)]
     public short Dimtdec { get; set; } = 4;
 
     /// <summary>Gets or sets $DIMALTU: the form of alternate lengths. Group code 273.</summary>
-    [CadShort(273, Optional = true)]
+    [CadShort(273, Optional = true, Since = 1994)]
     public short Dimaltu { get; set; } = 2;
 
     /// <summary>Gets or sets $DIMALTTD: the decimals of alternate tolerances. Group code 274.</summary>
-    [CadShort(274, Optional = true)]
+    [CadShort(274, Optional = true, Since = 1994)]
     public short Dimalttd { get; set; } = 2;
 
     /// <summary>Gets or sets $DIMAUNIT: the form of angles: 0 degrees, 1 degrees, minutes and seconds, 2 gons, 3
     /// radians. Group code 275.</summary>
-    [CadShort(275, Optional = true)]
+    [CadShort(275, Optional = true, Since = 1994)]
     public short Dimaunit { get; set; }
 
     /// <summary>Gets or sets $DIMFRAC: how fractions are drawn. Group code 276.</summary>
@@ -224,40 +224,40 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     public short Dimtmove { get; set; }
 
     /// <summary>Gets or sets $DIMJUST: the position of the text along the line. Group code 280.</summary>
-    [CadShort(280, Optional = true)]
+    [CadShort(280, Optional = true, Since = 1994)]
     public short Dimjust { get; set; }
 
     /// <summary>Gets or sets $DIMSD1: whether the first half of the line is left out. Group code 281.</summary>
-    [CadShort(281, Optional = true)]
+    [CadShort(281, Optional = true, Since = 1994)]
     public short Dimsd1 { get; set; }
 
     /// <summary>Gets or sets $DIMSD2: whether the second half of the line is left out. Group code 282.</summary>
-    [CadShort(282, Optional = true)]
+    [CadShort(282, Optional = true, Since = 1994)]
     public short Dimsd2 { get; set; }
 
     /// <summary>Gets or sets $DIMTOLJ: the vertical position of tolerances. Group code 283.</summary>
-    [CadShort(283, Optional = true)]
+    [CadShort(283, Optional = true, Since = 1994)]
     public short Dimtolj { get; set; } = 1;
 
     /// <summary>Gets or sets $DIMTZIN: which zeros of tolerances are left out. Group code 284.</summary>
-    [CadShort(284, Optional = true)]
+    [CadShort(284, Optional = true, Since = 1994)]
     public short Dimtzin { get; set; }
 
     /// <summary>Gets or sets $DIMALTZ: which zeros of alternate lengths are left out. Group code 285.</summary>
-    [CadShort(285, Optional = true)]
+    [CadShort(285, Optional = true, Since = 1994)]
     public short Dimaltz { get; set; }
 
     /// <summary>Gets or sets $DIMALTTZ: which zeros of alternate tolerances are left out. Group code 286.</summary>
-    [CadShort(286, Optional = true)]
+    [CadShort(286, Optional = true, Since = 1994)]
     public short Dimalttz { get; set; }
 
     /// <summary>Gets or sets $DIMFIT: what is moved when space is short, in releases 13 and 14. Group code
     /// 287.</summary>
-    [CadShort(287, Optional = true)]
+    [CadShort(287, Optional = true, Since = 1994)]
     public short Dimfit { get; set; } = 3;
 
     /// <summary>Gets or sets $DIMUPT: whether the user places texts. Group code 288.</summary>
-    [CadShort(288, Optional = true)]
+    [CadShort(288, Optional = true, Since = 1994)]
     public short Dimupt { get; set; }
 
     /// <summary>Gets or sets $DIMATFIT: what is moved when space is short. Group code 289.</summary>
@@ -282,7 +282,7 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
     public short Dimtxtdirection { get; set; }
 
     /// <summary>Gets or sets $DIMTXSTY: the handle of the text style in hexadecimal. Group code 340.</summary>
-    [CadHandle(340, Optional = true)]
+    [CadHandle(340, Optional = true, Since = 1994)]
     public string Dimtxsty { get; set; } = "";
 
     /// <summary>Gets or sets $DIMLDRBLK: the handle of the block of leader arrowheads in hexadecimal. Group code

@@ -39,7 +39,7 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
     public override string ToString() => $"{DxfName} {Name}";
 
     /// <summary>Takes a name over as it is in the file.</summary>
-    private protected void StoreName(string name) => _name = name;
+    internal void StoreName(string name) => _name = name;
 
     /// <summary>Refuses a name that such a record cannot have; files are read whatever names are in them.</summary>
     private protected virtual void VerifyName(string name)

@@ -51,6 +51,9 @@ internal static class BinaryTags
 
     internal static bool IsDouble(int code) => KindOf(code) == Kind.Double;
 
+    /// <summary>Gets the number of bytes of a number; 0 for other values.</summary>
+    internal static int SizeOf(int code) => SizeOf(KindOf(code));
+
     internal static bool TryTake(
         byte[] data, BinaryLayout layout, ref int position, out int code, out int start, out int length)
     {

@@ -20,9 +20,8 @@ internal static class DrawingIntegrity
 
     internal static void Prepare(CadDrawing drawing, int release)
     {
-        VerifyPlaces(drawing);
         MarkSpaces(drawing);
-        AddLayers(drawing);
+        MissingRecords.Add(drawing);
         AddApplications(drawing);
         RenameBlocks(drawing);
         if (release >= WithRecords)
@@ -46,11 +45,22 @@ internal static class DrawingIntegrity
             LinkDictionary(drawing, layouts);
             LinkLayouts(drawing);
             SetOwners(drawing);
+            RemoveDanglingEntries(drawing);
+        }
+    }
+
+    // Programs refuse dictionaries whose entries are not there.
+    private static void RemoveDanglingEntries(CadDrawing drawing)
+    {
+        HashSet<ulong> present = DrawingWalk.Handles(drawing);
+        foreach (CadObjectBase item in drawing.Objects)
+        {
+            (item as CadDictionaryBase)?.RemoveDangling(present);
         }
     }
 
     // An entity that was put in the place of another may stand in its own as well.
-    private static void VerifyPlaces(CadDrawing drawing)
+    internal static void VerifyPlaces(CadDrawing drawing)
     {
         if (DrawingWalk.Entities(drawing).FirstOrDefault(static entity => entity.Places > 1) is { } entity)
         {
@@ -63,19 +73,6 @@ internal static class DrawingIntegrity
     {
         drawing.ModelSpace.Entities.ForEach(static entity => entity.SpaceMode = CadEntitySpaceMode.ModelSpace);
         drawing.PaperSpace.Entities.ForEach(static entity => entity.SpaceMode = CadEntitySpaceMode.PaperSpace);
-    }
-
-    // A layer that entities name has to stand in the table.
-    private static void AddLayers(CadDrawing drawing)
-    {
-        HashSet<string> seen = [];
-        foreach (CadEntityBase entity in DrawingWalk.Entities(drawing))
-        {
-            if (seen.Add(entity.LayerName) && entity.LayerName.Length > 0 && !drawing.Layers.Contains(entity.LayerName))
-            {
-                drawing.Layers.Add(CadLayerTable.Stored(entity.LayerName));
-            }
-        }
     }
 
     // Programs refuse extended data of an application that the table does not know.
@@ -113,7 +110,7 @@ internal static class DrawingIntegrity
         }
     }
 
-    private static void AddBlockRecords(CadDrawing drawing)
+    internal static void AddBlockRecords(CadDrawing drawing)
     {
         drawing.BlockRecords.Items.RemoveAll(record => !drawing.BlockEntities.Contains(record.Name));
         foreach (CadBlockEntity block in drawing.BlockEntities)

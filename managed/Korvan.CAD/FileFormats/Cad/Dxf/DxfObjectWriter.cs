@@ -101,7 +101,9 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
             writer.Write(102, "}");
         }
 
-        if (item is CadOwnedObjectBase owned && writer.HasSubclasses && (owned.Owner != 0 || writer.Release >= 2000))
+        // The first dictionary has no owner, and says so in every release.
+        if (item is CadOwnedObjectBase owned && writer.HasSubclasses
+            && (owned.Owner != 0 || writer.Release >= 2000 || item is CadObjectBase))
         {
             writer.WriteHandle(330, owned.Owner);
         }

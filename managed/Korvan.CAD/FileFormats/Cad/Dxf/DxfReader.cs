@@ -47,6 +47,8 @@ internal sealed partial class DxfReader
 
         DrawingLinks.Complete(_drawing);
         ModelerSection.Attach(_drawing);
+        _drawing.IsBinary = _tags.IsBinary;
+        _drawing.ContentRelease = _drawing.Version;
         return _drawing;
     }
 

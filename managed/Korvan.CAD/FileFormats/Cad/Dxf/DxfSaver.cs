@@ -1,20 +1,22 @@
+using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Text;
-using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Dxf.Releases;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
-/// <summary>Writes drawings as text interchange files.</summary>
+/// <summary>Writes drawings as text or binary interchange files.</summary>
 internal sealed class DxfSaver
 {
     private const int BitmapChunk = 127;
+    private const int WithWordCodes = 1994;
 
     private readonly CadDrawing _drawing;
     private readonly CadAcadVersion _version;
@@ -25,65 +27,52 @@ internal sealed class DxfSaver
     {
         _drawing = drawing;
         _version = version;
-        bool unicode = version >= CadAcadVersion.AC1021;
-        string page = drawing.Header.CodePage;
-        Encoding encoding = unicode
-            ? new UTF8Encoding(false)
-            : DwgCodePage.Get(page.Length > 0 ? page : DwgCodePage.DefaultName);
-        _writer = new DxfTagWriter(stream, encoding, DrawingRelease.Year(version));
+        int year = DrawingRelease.Year(version);
+        _writer = new DxfTagWriter(stream, EncodingOf(drawing, version), year, LayoutOf(drawing, year));
         _objects = new DxfObjectWriter(_writer);
     }
 
-    /// <summary>Writes a drawing.</summary>
-    /// <returns>What was left out because it is kept in the form of another format.</returns>
-    internal static IReadOnlyList<string> Save(CadDrawing drawing, DxfOptions options, Stream stream)
+    /// <summary>Writes a drawing. One that was read from a binary file is written as one.</summary>
+    /// <param name="drawing">The drawing. Objects that have none get handles; its content stays as it is.</param>
+    /// <param name="options">The release.</param>
+    /// <param name="stream">The file.</param>
+    /// <param name="createMeasurer">Makes what measures texts, where they have to be wrapped.</param>
+    /// <returns>What the release cannot hold, and what was left out because it is kept in the form of another
+    /// format.</returns>
+    internal static IReadOnlyList<string> Save(
+        CadDrawing drawing, DxfOptions options, Stream stream, Func<ITextMeasurer?>? createMeasurer = null)
     {
-        CadAcadVersion version = ChooseVersion(drawing, options.Version);
-        DrawingIntegrity.Prepare(drawing, DrawingRelease.Year(version));
-        DxfSaver saver = new(drawing, version, stream);
+        CadAcadVersion version = DxfRelease.From(options.Version) is var wanted && wanted == CadAcadVersion.None
+            ? drawing.Version
+            : wanted;
+        List<string> changes = [];
+        DrawingIntegrity.VerifyPlaces(drawing);
+        CadDrawing written = ReleaseConversion.IsNeeded(drawing, version)
+            ? ReleaseConversion.Convert(drawing, version, createMeasurer, changes)
+            : drawing;
+        DrawingIntegrity.Prepare(written, DrawingRelease.Year(version));
+        DxfSaver saver = new(written, version, stream);
         saver.Write();
-        return saver._objects.LeftOut;
+        return [.. changes, .. saver._objects.LeftOut];
     }
 
-    private static CadAcadVersion ChooseVersion(CadDrawing drawing, DxfOutputVersion wanted)
+    private static Encoding EncodingOf(CadDrawing drawing, CadAcadVersion version)
     {
-        CadAcadVersion present = drawing.Version;
-        CadAcadVersion chosen = wanted == DxfOutputVersion.Original ? present : DxfRelease.From(wanted);
-        if (DrawingRelease.Year(chosen) == DrawingRelease.Year(present))
-        {
-            return chosen == CadAcadVersion.None ? present : chosen;
-        }
-
-        if (present < CadAcadVersion.AC1015 || chosen < CadAcadVersion.AC1015)
-        {
-            throw new ImageSaveException($"A drawing of release {present} cannot be written as {chosen}: objects are "
-                + "carried over between releases 2000 and later only. Leave DxfOptions.version at ORIGINAL.");
-        }
-
-        VerifySolids(drawing, chosen);
-        return chosen;
+        string page = drawing.Header.CodePage;
+        return version >= CadAcadVersion.AC1021
+            ? new UTF8Encoding(false)
+            : DwgCodePage.Get(page.Length > 0 ? page : DwgCodePage.DefaultName);
     }
 
-    // From release 2013 on the data of solids is in a section that earlier releases do not know.
-    private static void VerifySolids(CadDrawing drawing, CadAcadVersion chosen)
+    private static BinaryLayout LayoutOf(CadDrawing drawing, int release)
     {
-        if (chosen >= CadAcadVersion.AC1027)
-        {
-            return;
-        }
-
-        foreach (CadBlockEntity block in drawing.BlockEntities)
-        {
-            if (block.Entities.Exists(static entity => entity is CadObjectWithAcisData { AcisData.Count: 0 }))
-            {
-                throw new ImageSaveException("The drawing has solids in the form of release 2013, which release "
-                    + $"{chosen} does not know. Write release 2013 or later.");
-            }
-        }
+        BinaryLayout binary = release < WithWordCodes ? BinaryLayout.ByteCodes : BinaryLayout.WordCodes;
+        return drawing.IsBinary ? binary : BinaryLayout.None;
     }
 
     private void Write()
     {
+        _writer.Begin();
         WriteHeader();
         if (_writer.HasSubclasses)
         {
@@ -119,21 +108,23 @@ internal sealed class DxfSaver
 
     private void WriteHeader()
     {
+        const string release = "$ACADVER";
         BeginSection("HEADER");
+        if (_version != CadAcadVersion.None)
+        {
+            // The release comes first: how the rest is read depends on it.
+            _writer.Write(9, release);
+            _writer.Write(1, _version.ToString());
+        }
+
         foreach (string name in _drawing.Header.VariableNames)
         {
-            if (HeaderVariables.Since(name) > _writer.Release)
+            if (HeaderVariables.Since(name) > _writer.Release || (name == release && _version != CadAcadVersion.None))
             {
                 continue;
             }
 
             _writer.Write(9, name);
-            if (name == "$ACADVER")
-            {
-                _writer.Write(1, _version.ToString());
-                continue;
-            }
-
             _drawing.Header.TagsOf(name).ForEach(_writer.Write);
         }
 
@@ -266,8 +257,8 @@ internal sealed class DxfSaver
         _writer.Write(90, image.Length);
         for (int start = 0; start < image.Length; start += BitmapChunk)
         {
-            int length = System.Math.Min(BitmapChunk, image.Length - start);
-            _writer.Write(310, System.Convert.ToHexString(image, start, length));
+            int length = Math.Min(BitmapChunk, image.Length - start);
+            _writer.Write(310, Convert.ToHexString(image, start, length));
         }
 
         EndSection();

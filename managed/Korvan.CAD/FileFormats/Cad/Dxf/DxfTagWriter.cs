@@ -11,8 +11,9 @@ using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
-/// <summary>Writes the tags of a text interchange file.</summary>
-internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release)
+/// <summary>Writes the tags of a text or binary interchange file.</summary>
+internal sealed partial class DxfTagWriter(
+    Stream stream, Encoding encoding, int release, BinaryLayout layout = BinaryLayout.None)
 {
     private const int ChunkLength = 250;
 
@@ -29,8 +30,23 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
 
     internal bool HasSubclasses => Release >= 1994;
 
+    /// <summary>Writes what a binary file starts with; nothing for a text file.</summary>
+    internal void Begin()
+    {
+        if (IsBinary)
+        {
+            stream.Write(BinaryTags.Sentinel);
+        }
+    }
+
     internal void Write(int code, string value)
     {
+        if (IsBinary)
+        {
+            WriteBinary(code, value);
+            return;
+        }
+
         WriteCode(code);
         WriteText(value);
         EndLine();
@@ -40,6 +56,12 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
 
     internal void Write(int code, long value)
     {
+        if (IsBinary)
+        {
+            WriteBinary(code, value);
+            return;
+        }
+
         WriteCode(code);
         Reserve(24);
         Utf8Formatter.TryFormat(value, _buffer.AsSpan(_used), out int count);
@@ -53,6 +75,12 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
         {
             throw new ImageSaveException($"{Subject} has the value {value} for group code {code}; "
                 + "only finite numbers can be written.");
+        }
+
+        if (IsBinary)
+        {
+            WriteBinary(code, value);
+            return;
         }
 
         WriteCode(code);
@@ -84,6 +112,12 @@ internal sealed class DxfTagWriter(Stream stream, Encoding encoding, int release
 
     internal void Write(int code, byte[] bytes)
     {
+        if (IsBinary && bytes.Length > 0)
+        {
+            WriteBinary(code, bytes);
+            return;
+        }
+
         const int chunk = 127;
         for (int start = 0; start < bytes.Length; start += chunk)
         {

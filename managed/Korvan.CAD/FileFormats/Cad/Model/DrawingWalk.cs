@@ -55,6 +55,19 @@ internal static class DrawingWalk
         }
     }
 
+    /// <summary>Gets the handles of everything that has one.</summary>
+    internal static HashSet<ulong> Handles(CadDrawing drawing)
+    {
+        HashSet<ulong> handles = [];
+        foreach (CadBaseObject item in All(drawing))
+        {
+            handles.Add(item.Handle);
+        }
+
+        handles.Remove(0);
+        return handles;
+    }
+
     private static IEnumerable<CadBaseObject> Parts(CadEntityBase entity) => entity switch
     {
         CadPolylineBase polyline => WithEnd(polyline.Vertices, polyline.Seqend),

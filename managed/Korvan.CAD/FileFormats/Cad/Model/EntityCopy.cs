@@ -46,17 +46,26 @@ internal static class EntityCopy
         CadEntityBase copy = New(entity);
         fields.Rewind();
         copy.Exchange(fields);
-        copy.Kept = entity.Kept?.Copy();
-        CopyXdata(entity, copy);
-        CopyGroups(entity, copy);
+        CopyAttached(entity, copy, Ties);
         return copy;
+    }
+
+    /// <summary>Copies what programs attached and what no class interprets.</summary>
+    /// <param name="from">The object.</param>
+    /// <param name="to">Its copy.</param>
+    /// <param name="without">The names of groups that the copy does not get.</param>
+    internal static void CopyAttached(CadBaseObject from, CadBaseObject to, string[] without)
+    {
+        to.Kept = from.Kept?.Copy();
+        CopyXdata(from, to);
+        CopyGroups(from, to, without);
     }
 
     private static CadEntityBase New(CadEntityBase entity) =>
         entity is RawEntity raw ? new RawEntity(raw.DxfName)
             : (CadEntityBase)Activator.CreateInstance(entity.GetType(), true)!;
 
-    private static void CopyXdata(CadEntityBase entity, CadEntityBase copy)
+    private static void CopyXdata(CadBaseObject entity, CadBaseObject copy)
     {
         foreach (CadXdata data in entity.XdataOrNull?.XdataEntities ?? [])
         {
@@ -66,11 +75,11 @@ internal static class EntityCopy
         }
     }
 
-    private static void CopyGroups(CadEntityBase entity, CadEntityBase copy)
+    private static void CopyGroups(CadBaseObject entity, CadBaseObject copy, string[] without)
     {
         foreach (CadApplicationCodes group in entity.ApplicationCodesOrNull?.ApplicationCodes ?? [])
         {
-            if (Array.IndexOf(Ties, group.ApplicationName) < 0)
+            if (Array.IndexOf(without, group.ApplicationName) < 0)
             {
                 CadApplicationCodes added = new(group.ApplicationName);
                 CopyTags(group.Codes, added.Codes);
@@ -79,7 +88,7 @@ internal static class EntityCopy
         }
     }
 
-    private static void CopyTags(IList<CadCodeValue> from, IList<CadCodeValue> to)
+    internal static void CopyTags(IList<CadCodeValue> from, IList<CadCodeValue> to)
     {
         from.ForEach(tag => to.Add(new CadCodeValue(tag.Attribute, tag.Value)));
     }

@@ -36,9 +36,18 @@ internal static class HandleAllocator
 
         foreach (CadBaseObject item in without)
         {
-            item.Handle = required || item is CadEntityBase ? next++ : 0;
+            item.Handle = required || IsWritten(drawing, item) ? next++ : 0;
         }
 
         drawing.Header.HandSeed = HandleText.Format(next);
+    }
+
+    // Old files need not have the blocks of model and paper space.
+    private static bool IsWritten(CadDrawing drawing, CadBaseObject item)
+    {
+        bool isModel = item == drawing.ModelSpace || item == drawing.ModelSpace.End;
+        bool isPaper = item == drawing.PaperSpace || item == drawing.PaperSpace.End;
+        return item is CadEntityBase
+            && !(isModel && !drawing.ModelSpaceInFile) && !(isPaper && !drawing.PaperSpaceInFile);
     }
 }

@@ -14,6 +14,7 @@ internal static class StandardDrawing
     internal static void Fill(CadDrawing drawing)
     {
         AddVariables(drawing.Header);
+        drawing.ContentRelease = CadAcadVersion.AC1032;
         drawing.ModelSpaceInFile = true;
         drawing.PaperSpaceInFile = true;
         drawing.BlockEntities.Add(drawing.ModelSpace);
@@ -95,10 +96,15 @@ internal static class StandardDrawing
             drawing.Layouts.Add(layout);
         }
 
-        CadMLineStyleObject lines = new() { StyleName = "STANDARD" };
-        lines.Elements.Add(new CadMLineStyleElement { Offset = 0.5 });
-        lines.Elements.Add(new CadMLineStyleElement { Offset = -0.5 });
-        drawing.Objects.Add(lines);
+        drawing.Objects.Add(CreateMlineStyle());
+    }
+
+    internal static CadMLineStyleObject CreateMlineStyle()
+    {
+        CadMLineStyleObject style = new() { StyleName = "STANDARD" };
+        style.Elements.Add(new CadMLineStyleElement { Offset = 0.5 });
+        style.Elements.Add(new CadMLineStyleElement { Offset = -0.5 });
+        return style;
     }
 
     private static readonly string[] Dictionaries = ["ACAD_GROUP", "ACAD_LAYOUT", "ACAD_MLINESTYLE"];

@@ -7,11 +7,12 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 /// <summary>Views of viewports in drawings up to release 14, which keep them in extended data.</summary>
 internal static class ViewportXdata
 {
+    private const string Application = "ACAD";
+    private const string Marker = "MVIEW";
+
     internal static void Apply(CadEntityBase entity)
     {
-        if (entity is not CadViewport viewport
-            || viewport.XdataOrNull?.Find("ACAD") is not { } xdata
-            || !xdata.Data.Exists(static tag => tag.Attribute == 1000 && tag.Value == "MVIEW"))
+        if (entity is not CadViewport viewport || ViewOf(viewport) is not { } xdata)
         {
             return;
         }
@@ -28,6 +29,82 @@ internal static class ViewportXdata
             SetView(viewport, numbers, points);
         }
     }
+
+    /// <summary>Removes the extended data, for releases that have fields instead.</summary>
+    internal static void Remove(CadEntityBase entity)
+    {
+        if (entity is CadViewport viewport && ViewOf(viewport) is { } xdata)
+        {
+            viewport.XdataContainer.XdataEntities.Remove(xdata);
+        }
+    }
+
+    /// <summary>Puts the fields into extended data, for releases that do not have them.</summary>
+    internal static void Store(CadEntityBase entity)
+    {
+        if (entity is not CadViewport viewport)
+        {
+            return;
+        }
+
+        Remove(viewport);
+        CadXdata xdata = new(Application);
+        Add(xdata, 1000, Marker);
+        Add(xdata, 1002, "{");
+        Add(xdata, 1070, "16");
+        Add(xdata, viewport.ViewTarget);
+        Add(xdata, viewport.ViewDirection);
+        foreach (double number in new[]
+            {
+                viewport.ViewTwistAngle, viewport.ViewHeight, viewport.ViewCenter.X, viewport.ViewCenter.Y,
+                viewport.LensLength, viewport.FrontClipPlaneZ, viewport.BackClipPlaneZ,
+            })
+        {
+            Add(xdata, 1040, Text(number));
+        }
+
+        foreach (int number in new[] { 0, viewport.CircleZoomPercent, 1, 0, 0, 0, 0, 0 })
+        {
+            Add(xdata, 1070, number.ToString(CultureInfo.InvariantCulture));
+        }
+
+        AddGrid(xdata, viewport);
+        Add(xdata, 1002, "{");
+        Add(xdata, 1002, "}");
+        Add(xdata, 1002, "}");
+        viewport.XdataContainer.XdataEntities.Add(xdata);
+    }
+
+    private static void AddGrid(CadXdata xdata, CadViewport viewport)
+    {
+        foreach (double number in new[]
+            {
+                viewport.SnapAngle, viewport.SnapBase.X, viewport.SnapBase.Y, viewport.SnapSpacing.X,
+                viewport.SnapSpacing.Y, viewport.GridSpacing.X, viewport.GridSpacing.Y,
+            })
+        {
+            Add(xdata, 1040, Text(number));
+        }
+
+        Add(xdata, 1070, "0");
+    }
+
+    private static CadXdata? ViewOf(CadViewport viewport) =>
+        viewport.XdataOrNull?.Find(Application) is { } xdata
+            && xdata.Data.Exists(static tag => tag.Attribute == 1000 && tag.Value == Marker)
+            ? xdata
+            : null;
+
+    private static void Add(CadXdata xdata, Cad3DPoint point)
+    {
+        Add(xdata, 1010, Text(point.X));
+        Add(xdata, 1020, Text(point.Y));
+        Add(xdata, 1030, Text(point.Z));
+    }
+
+    private static void Add(CadXdata xdata, int code, string value) => xdata.Data.Add(new CadCodeValue(code, value));
+
+    private static string Text(double value) => value.ToString("R", CultureInfo.InvariantCulture);
 
     private static void Collect(CadCodeValue tag, List<double> numbers, List<Cad3DPoint> points)
     {

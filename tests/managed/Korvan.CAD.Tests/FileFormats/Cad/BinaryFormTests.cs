@@ -29,7 +29,30 @@ public class BinaryFormTests
     {
         string text = DxfText.Header(release) + DxfText.Entities(Entities) + DxfText.Tags(0, "EOF");
         Assert.Equal(DxfText.Save(DxfText.Load(text)),
-            DxfText.Save(DxfText.Load(Binary(Encoding.Latin1.GetBytes(text), words))));
+            SaveAsText(DxfText.Load(Binary(Encoding.Latin1.GetBytes(text), words))));
+    }
+
+    [Theory]
+    [InlineData("AC1009", false)]
+    [InlineData("AC1015", true)]
+    [InlineData("AC1032", true)]
+    public void What_was_read_as_binary_is_saved_as_binary(string release, bool words)
+    {
+        string text = DxfText.Header(release) + DxfText.Entities(Entities) + DxfText.Tags(0, "EOF");
+        DxfImage image = DxfText.Load(Binary(Encoding.Latin1.GetBytes(text), words));
+        using MemoryStream saved = new();
+        image.Save(saved);
+        Assert.Equal(Binary(Encoding.Latin1.GetBytes(SaveAsText(image)), words), saved.ToArray());
+    }
+
+    [Fact]
+    public void A_value_that_has_no_binary_form_is_named()
+    {
+        DxfImage image = DxfText.Load(DxfText.Drawing(0, "WIDGET", 5, "2C", 8, "0", 100, "AcDbWidget", 90, "many"));
+        image.Drawing.IsBinary = true;
+        string message = Assert.Throws<ImageSaveException>(() => image.Save(new MemoryStream())).Message;
+        Assert.Contains("WIDGET 2C", message);
+        Assert.Contains("'many' for group code 90", message);
     }
 
     [DrawingFact]
@@ -57,7 +80,7 @@ public class BinaryFormTests
             compared++;
             string expected = Plain(DxfText.Save(first));
             string actual = Plain(
-                DxfText.Save(DxfText.Load(Binary(text, first.Version.ToString().CompareTo("AC1009") > 0))));
+                SaveAsText(DxfText.Load(Binary(text, first.Version.ToString().CompareTo("AC1009") > 0))));
             Assert.True(expected == actual, $"{Path.GetFileName(file)}: {Difference(expected, actual)}");
         }
 
@@ -80,6 +103,14 @@ public class BinaryFormTests
 
         ImageLoadException failure = Assert.Throws<ImageLoadException>(() => DxfText.Load(cut));
         Assert.Contains("byte", failure.Message);
+    }
+
+    private static string SaveAsText(CadImage image)
+    {
+        image.Drawing.IsBinary = false;
+        string text = DxfText.Save(image);
+        image.Drawing.IsBinary = true;
+        return text;
     }
 
     /// <summary>Writes the tags of a text file as binary ones.</summary>

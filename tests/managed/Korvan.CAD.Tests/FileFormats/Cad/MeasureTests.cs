@@ -92,7 +92,7 @@ public class MeasureTests
         boundary.Edges.Add(edge);
         var path = new PathBuffer();
         EntityGeometry.EmitBoundary(new CadHatchBoundaryPathContainer(boundary), Affine3.Identity, 0,
-            new Korvan.CAD.Rendering.Scene.OutlineSink(path, Affine3.Identity));
+            new OutlineSink(path, Affine3.Identity));
         Vec2[] found = FlatLine.Of(path, 1e-5).Single().Points;
         AssertAt(why, points[0], points[1], found[0]);
         AssertAt(why, points[2], points[3], found[^1]);

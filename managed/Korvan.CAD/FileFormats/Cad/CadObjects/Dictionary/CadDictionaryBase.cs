@@ -100,6 +100,19 @@ public abstract partial class CadDictionaryBase : CadObjectBase, ICadObjectConta
         }
     }
 
+    /// <summary>Removes the entries whose handles no object has.</summary>
+    internal void RemoveDangling(HashSet<ulong> present)
+    {
+        for (int i = _handles.Count - 1; i >= 0; i--)
+        {
+            if (!present.Contains(_handles[i]))
+            {
+                _names.RemoveAt(i);
+                _handles.RemoveAt(i);
+            }
+        }
+    }
+
     internal bool ReadEntry(int code, FieldReader reader)
     {
         switch (code)

@@ -1,8 +1,7 @@
 using System.Collections.Generic;
-using Korvan.CAD.Geometry;
 using Korvan.CAD.Geometry.Triangulation;
 
-namespace Korvan.CAD.Rendering.Hatch;
+namespace Korvan.CAD.Geometry;
 
 internal enum HatchStyle
 {

@@ -1,14 +1,12 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 
-namespace Korvan.CAD.Rendering.Scene;
+namespace Korvan.CAD.FileFormats.Cad.Model;
 
 /// <summary>
 /// Joins shapes to one outline. Where one does not begin at the end of the last, a line joins them, as rounding in
-/// files
-/// opens gaps.
+/// files opens gaps.
 /// </summary>
 internal sealed class OutlineSink(PathBuffer path, Affine3 map) : IGeometrySink
 {

@@ -1,12 +1,10 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.DisplayList;
-using Korvan.CAD.Geometry;
 
-namespace Korvan.CAD.Rendering.Hatch;
+namespace Korvan.CAD.Geometry;
 
 /// <summary>
-/// Cuts pattern lines to an even-odd area. Each edge of the area adds one crossing to each line that it crosses, so
+/// Clips pattern lines to an even-odd area. Each edge of the area adds one crossing to each line that it crosses, so
 /// the work is that of the crossings, however many lines and edges there are.
 /// </summary>
 internal sealed class PatternFill
