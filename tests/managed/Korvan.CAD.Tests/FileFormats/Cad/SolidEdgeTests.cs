@@ -145,8 +145,11 @@ public class SolidEdgeTests
         string digits = Convert.ToHexString(data.Bytes);
         string text = DxfText.Header("AC1027") + DxfText.Entities(0, "3DSOLID", 5, "2A", 100, "AcDbEntity", 8, "0")
             + DxfText.Tags(
-                0, "SECTION", 2, "ACDSDATA", 0, "ACDSRECORD", 320, "2A", 2, "ASM_Data", 310, digits[..50], 310,
-                digits[50..], 0, "ACDSRECORD", 320, "2B", 310, "00", 0, "ENDSEC", 0, "EOF");
+                0, "SECTION", 2, "ACDSDATA", 70, 2, 71, 2,
+                0, "ACDSRECORD", 90, 1, 2, "AcDbDs::ID", 280, 10, 320, "2A", 2, "ASM_Data", 280, 15, 94,
+                digits.Length / 2, 310, digits[..50], 310, digits[50..],
+                0, "ACDSRECORD", 90, 1, 2, "AcDbDs::ID", 280, 10, 320, "2B", 2, "ASM_Data", 280, 15, 94, 1, 310, "00",
+                0, "ENDSEC", 0, "EOF");
         using DxfImage drawing = DxfText.Load(text);
         Assert.Equal((-1, -1, 0), Rounded(drawing.MinPoint)); // reversed: three quarters of the circle
         Assert.Equal((1, 1, 0), Rounded(drawing.MaxPoint));
