@@ -265,15 +265,15 @@ internal static class AtomicFile
         // Files that a terminated process has left. A file that is being written is locked.
         private static void RemoveForgotten(string target)
         {
-            const int UniqueLength = 32;
+            const int uniqueLength = 32;
             string folder = Path.GetDirectoryName(target)!;
             string start = Path.GetFileName(target) + ".";
             foreach (string path in Directory.EnumerateFiles(folder, "*" + PartSuffix))
             {
                 string name = Path.GetFileName(path);
-                if (name.Length != start.Length + UniqueLength + PartSuffix.Length
+                if (name.Length != start.Length + uniqueLength + PartSuffix.Length
                     || !name.StartsWith(start, StringComparison.Ordinal)
-                    || !Guid.TryParseExact(name.AsSpan(start.Length, UniqueLength), "N", out _))
+                    || !Guid.TryParseExact(name.AsSpan(start.Length, uniqueLength), "N", out _))
                 {
                     continue;
                 }

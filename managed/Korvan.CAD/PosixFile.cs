@@ -57,7 +57,7 @@ internal static unsafe partial class PosixFile
     /// <returns>Whether the name was free.</returns>
     internal static bool TryName(SafeFileHandle file, string path)
     {
-        const int Exists = 17;
+        const int exists = 17;
         string source = DescriptorPath(file);
         if (LinkAt(CurrentFolder, source, CurrentFolder, path, FollowLink) == 0)
         {
@@ -65,7 +65,7 @@ internal static unsafe partial class PosixFile
         }
 
         int error = Marshal.GetLastPInvokeError();
-        return error == Exists ? false : throw Failure(error);
+        return error == exists ? false : throw Failure(error);
     }
 
     /// <summary>Whether the system supports <see cref="TryName"/>.</summary>

@@ -66,8 +66,8 @@ internal sealed class CommandParameter
         var documentation = XElement.Parse($"<doc>{_symbol.GetDocumentationCommentXml()}</doc>");
         string text = string.Concat(documentation.Descendants("summary").Nodes().Select(node => node.ToString()));
         text = Regex.Replace(text, @"\s+", " ").Trim();
-        const string Accessors = "Gets or sets ";
-        text = text.StartsWith(Accessors, System.StringComparison.Ordinal) ? text.Substring(Accessors.Length) : text;
+        const string accessors = "Gets or sets ";
+        text = text.StartsWith(accessors, System.StringComparison.Ordinal) ? text.Substring(accessors.Length) : text;
         return text.Length == 0 ? "" : char.ToUpperInvariant(text[0]) + text.Substring(1);
     }
 

@@ -93,10 +93,10 @@ internal sealed class TypeReader(
 
     private bool IsExplicit(string interfaceName)
     {
-        const BindingFlags Hidden = BindingFlags.NonPublic | BindingFlags.Instance | BindingFlags.DeclaredOnly;
+        const BindingFlags hidden = BindingFlags.NonPublic | BindingFlags.Instance | BindingFlags.DeclaredOnly;
         for (Type? level = type; level is not null; level = level.BaseType)
         {
-            if (level.GetMethods(Hidden).Any(m => m.Name.StartsWith(interfaceName + ".", StringComparison.Ordinal)))
+            if (level.GetMethods(hidden).Any(m => m.Name.StartsWith(interfaceName + ".", StringComparison.Ordinal)))
             {
                 return true;
             }

@@ -134,8 +134,8 @@ public static unsafe class Variants
 
     private static object TimeOf(int status, PyDateTimeOut* time)
     {
-        const int WithOffset = 2;
-        if (status == WithOffset)
+        const int withOffset = 2;
+        if (status == withOffset)
         {
             return PyValues.ReadDateTimeOffset(time);
         }

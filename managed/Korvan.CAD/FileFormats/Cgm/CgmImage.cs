@@ -86,7 +86,7 @@ public sealed class CgmImage : Image, IMetafileContent
 
     private static CgmFile NewFile()
     {
-        const int Side = 1000;
+        const int side = 1000;
         var file = new CgmFile();
         file.Commands.AddRange(
         [
@@ -97,7 +97,7 @@ public sealed class CgmImage : Image, IMetafileContent
             new RealPrecision { Value = Precision.Floating32 },
             new BeginPicture("drawing"),
             new ColourSelectionMode { Value = ColourSelectionMode.Type.Direct },
-            new VdcExtent(new CgmPoint(0, 0), new CgmPoint(Side, Side)),
+            new VdcExtent(new CgmPoint(0, 0), new CgmPoint(side, side)),
             new VdcRealPrecision { Value = Precision.Floating32 },
             new BeginPictureBody(),
             new EndPicture(),

@@ -217,21 +217,22 @@ internal ref struct StepParser
         }
 
         ReadOnlySpan<byte> digits = _data[start.._at];
-        const NumberStyles Whole = NumberStyles.AllowLeadingSign;
-        if (!isReal && long.TryParse(digits, Whole, CultureInfo.InvariantCulture, out long whole))
+        const NumberStyles wholeStyle = NumberStyles.AllowLeadingSign;
+        if (!isReal && long.TryParse(digits, wholeStyle, CultureInfo.InvariantCulture, out long whole))
         {
             return whole;
         }
 
-        const NumberStyles Real = Whole | NumberStyles.AllowDecimalPoint | NumberStyles.AllowExponent;
-        return double.TryParse(digits, Real, CultureInfo.InvariantCulture, out double real) && double.IsFinite(real)
+        const NumberStyles realStyle = wholeStyle | NumberStyles.AllowDecimalPoint | NumberStyles.AllowExponent;
+        return double.TryParse(digits, realStyle, CultureInfo.InvariantCulture, out double real)
+            && double.IsFinite(real)
             ? real
             : throw new StepException(InvalidValue, start, $"'{Excerpt(digits)}' is no value");
     }
 
     private static string Excerpt(ReadOnlySpan<byte> data)
     {
-        const int MaxLength = 20;
-        return Encoding.Latin1.GetString(data.Length > MaxLength ? data[..MaxLength] : data);
+        const int maxLength = 20;
+        return Encoding.Latin1.GetString(data.Length > maxLength ? data[..maxLength] : data);
     }
 }

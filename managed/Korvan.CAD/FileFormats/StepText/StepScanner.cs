@@ -97,10 +97,10 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
     private long Id(int start)
     {
         long id = 0;
-        const long MaxPrefix = long.MaxValue / 10 - 1;
+        const long maxPrefix = long.MaxValue / 10 - 1;
         while (_at < data.Length && StepCharacters.IsDigit(data[_at]))
         {
-            if (id > MaxPrefix)
+            if (id > maxPrefix)
             {
                 throw new StepException(InvalidId, start, "the number of an instance is out of range");
             }
@@ -411,7 +411,7 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
 
     private static string Excerpt(ReadOnlySpan<byte> name)
     {
-        const int MaxLength = 60;
-        return Encoding.Latin1.GetString(name.Length > MaxLength ? name[..MaxLength] : name);
+        const int maxLength = 60;
+        return Encoding.Latin1.GetString(name.Length > maxLength ? name[..maxLength] : name);
     }
 }

@@ -71,14 +71,14 @@ internal static class IfcFormat
     // A truncated archive has no directory; it is detected by the name of its first entry.
     private static bool FirstEntryIsModel(ReadOnlySpan<byte> start)
     {
-        const int FixedLength = 30;
-        if (start.Length < FixedLength)
+        const int fixedLength = 30;
+        if (start.Length < fixedLength)
         {
             return false;
         }
 
         int nameLength = BinaryPrimitives.ReadUInt16LittleEndian(start[26..]);
-        ReadOnlySpan<byte> name = start[FixedLength..Math.Min(start.Length, FixedLength + nameLength)];
+        ReadOnlySpan<byte> name = start[fixedLength..Math.Min(start.Length, fixedLength + nameLength)];
         return name.Length > 4 && Ascii.EqualsIgnoreCase(name[^4..], ".ifc"u8);
     }
 

@@ -16,9 +16,9 @@ internal static class IgesFormat
     // 2.2.1).
     private static bool IsIges(ReadOnlySpan<byte> start)
     {
-        const int Section = 72;
-        const int RecordLength = 80;
-        return start.Length >= RecordLength && start[Section] == 'S' &&
-            start[(Section + 1)..RecordLength].TrimStart(" 0"u8).SequenceEqual("1"u8);
+        const int section = 72;
+        const int recordLength = 80;
+        return start.Length >= recordLength && start[section] == 'S' &&
+            start[(section + 1)..recordLength].TrimStart(" 0"u8).SequenceEqual("1"u8);
     }
 }

@@ -125,7 +125,8 @@ internal sealed unsafe class CairoPainter
             Cairo.Rectangle(_cr, Math.Min(a.X, b.X), Math.Min(a.Y, b.Y), Math.Abs(b.X - a.X), Math.Abs(b.Y - a.Y));
             Cairo.Clip(_cr);
             _clip = new ClipArea(
-                Bounds2.Of(Math.Min(a.X, b.X), Math.Min(a.Y, b.Y), Math.Max(a.X, b.X), Math.Max(a.Y, b.Y)), IsBox: true);
+                Bounds2.Of(Math.Min(a.X, b.X), Math.Min(a.Y, b.Y), Math.Max(a.X, b.X), Math.Max(a.Y, b.Y)),
+                IsBox: true);
         }
 
         Cairo.SetTolerance(_cr, DefaultTolerance * _settings.Coarseness);

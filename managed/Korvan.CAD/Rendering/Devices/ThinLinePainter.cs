@@ -65,7 +65,8 @@ internal sealed unsafe class ThinLinePainter
     /// <param name="width">The width of the line in pixels.</param>
     /// <param name="color">The colour.</param>
     /// <param name="tolerance">How far chords may lie from curves, in pixels.</param>
-    /// <returns>Whether the path was drawn; a band too large for paths of several lines leaves them to others.</returns>
+    /// <returns>Whether the path was drawn; a band too large for paths of several lines leaves them to
+    /// others.</returns>
     internal bool TryStroke(
         ReadOnlySpan<PathVerb> verbs, ReadOnlySpan<double> coords, in Affine2 map, in Bounds2 clip, double width,
         Rgba color, double tolerance)

@@ -174,8 +174,8 @@ internal sealed partial class CgmInterpreter
             marker.Color = IsBundled(ASF.MarkerColour) ? bundle.Color : marker.Color;
         }
 
-        const int Asterisk = 3;
-        int type = marker.Type ?? Asterisk;
+        const int asteriskMarker = 3;
+        int type = marker.Type ?? asteriskMarker;
         double half = MarkerSize(marker.Size) / 2;
         PathPen pen = NewPath();
         foreach (CgmPoint point in points)

@@ -260,8 +260,8 @@ internal sealed partial class CgmInterpreter
     /// <summary>Fills by a parallel or elliptical gradient; triangular ones are drawn as a colour.</summary>
     private void FillGradient(PathBuffer path, InterpolatedInterior? gradient, Rgba color)
     {
-        const int Parallel = 1, Elliptical = 2;
-        if (gradient is null || gradient.Colors.Count < 2 || gradient.Style is not (Parallel or Elliptical))
+        const int parallel = 1, elliptical = 2;
+        if (gradient is null || gradient.Colors.Count < 2 || gradient.Style is not (parallel or elliptical))
         {
             Skip("interpolated interior without two colours or triangular, drawn as a colour");
             Rgba plain = gradient is { Colors.Count: > 0 } ? ColorOf(gradient.Colors[0]) : color;
@@ -272,12 +272,12 @@ internal sealed partial class CgmInterpreter
         List<double> g = gradient.ReferenceGeometry;
         double unit = UnitOf(_state.InteriorMode, LongerSide * DefaultWidthShare);
         Vec2 first = g.Count >= 2 ? new Vec2(g[0], g[1]) * unit : new Vec2(LongerSide, 0);
-        Vec2 second = gradient.Style == Elliptical && g.Count >= 4 ? new Vec2(g[2], g[3]) * unit : first.Left;
+        Vec2 second = gradient.Style == elliptical && g.Count >= 4 ? new Vec2(g[2], g[3]) * unit : first.Left;
         Vec2 at = FillReference;
-        Affine2 local = gradient.Style == Elliptical
+        Affine2 local = gradient.Style == elliptical
             ? new Affine2(first.X, first.Y, second.X, second.Y, at.X, at.Y)
             : new Affine2(first.X / 2, first.Y / 2, second.X, second.Y, at.X + (first.X / 2), at.Y + (first.Y / 2));
-        var shading = new Gradient(gradient.Style == Elliptical, 0, 0, _map * local, Stops(gradient));
+        var shading = new Gradient(gradient.Style == elliptical, 0, 0, _map * local, Stops(gradient));
         List.Fill(path, color, _layer, evenOdd: true, shading);
     }
 

@@ -197,14 +197,14 @@ internal sealed partial class CgmInterpreter
 
     private void UseRegion(ProtectionRegionIndicator indicator)
     {
-        const int Off = 1, Clip = 2;
-        if (indicator.Indicator == Off)
+        const int off = 1, clip = 2;
+        if (indicator.Indicator == off)
         {
             _activeRegions.Remove(indicator.RegionIndex);
         }
         else
         {
-            _activeRegions[indicator.RegionIndex] = indicator.Indicator == Clip;
+            _activeRegions[indicator.RegionIndex] = indicator.Indicator == clip;
         }
 
         _clipIsStale = true;

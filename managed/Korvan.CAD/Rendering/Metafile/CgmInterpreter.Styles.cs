@@ -201,10 +201,10 @@ internal sealed partial class CgmInterpreter
     /// <summary>The dash pattern of a definition in the picture: dashes and gaps as fractions of its length.</summary>
     private double[] OwnDashes(LineAndEdgeTypeDefinition own)
     {
-        const int MaxDashes = 64;
+        const int maxDashes = 64;
         double sum = 0;
         own.Elements.ForEach(element => sum += Math.Abs((double)element));
-        if (!(sum > 0) || own.Elements.Count > MaxDashes)
+        if (!(sum > 0) || own.Elements.Count > maxDashes)
         {
             return [];
         }

@@ -65,15 +65,15 @@ internal static class ConicArcs
     /// </summary>
     internal static bool TryHyperbola(in PathPen pen, Vec2 center, Vec2 a, Vec2 b, Vec2 startRay, Vec2 endRay)
     {
-        const int Pieces = 16;
+        const int pieces = 16;
         if (!TryHyperbolic(a, b, startRay, out double first) || !TryHyperbolic(a, b, endRay, out double last))
         {
             return false;
         }
 
-        double step = (last - first) / Pieces;
+        double step = (last - first) / pieces;
         pen.MoveTo(At(first));
-        for (int i = 0; i < Pieces; i++)
+        for (int i = 0; i < pieces; i++)
         {
             double t = first + (i * step);
             Vec2 from = At(t);
@@ -105,10 +105,10 @@ internal static class ConicArcs
 
     private static double Turn(double start, double end, bool counterclockwise)
     {
-        const double Epsilon = 1e-9;
+        const double epsilon = 1e-9;
         double sweep = (end - start) % FullTurn;
         sweep = sweep < 0 ? sweep + FullTurn : sweep;
-        if (sweep < Epsilon || sweep > FullTurn - Epsilon)
+        if (sweep < epsilon || sweep > FullTurn - epsilon)
         {
             return counterclockwise ? FullTurn : -FullTurn;
         }

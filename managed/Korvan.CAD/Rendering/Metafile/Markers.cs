@@ -33,10 +33,10 @@ internal static class Markers
                 Line(pen, at, new Vec2(-half, half));
                 break;
             default:
-                const double Slope = 0.8660254037844386; // three lines, 60 degrees apart
+                const double slope = 0.8660254037844386; // three lines, 60 degrees apart
                 Line(pen, at, new Vec2(0, half));
-                Line(pen, at, new Vec2(half * Slope, half / 2));
-                Line(pen, at, new Vec2(half * Slope, -half / 2));
+                Line(pen, at, new Vec2(half * slope, half / 2));
+                Line(pen, at, new Vec2(half * slope, -half / 2));
                 break;
         }
     }

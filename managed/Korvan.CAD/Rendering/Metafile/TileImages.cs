@@ -214,8 +214,8 @@ internal static class TileImages
     /// <summary>A TIFF of one strip (TIFF 6.0, sections 2, 11 and 13; big-endian).</summary>
     private static byte[] Tiff(in PackedTile tile, int compression, int options)
     {
-        const int WhiteIsZero = 0, BlackIsZero = 1, Rgb = 2, LongType = 4;
-        int photometric = tile.Components == 3 ? Rgb : tile.Bits > 1 ? BlackIsZero : WhiteIsZero;
+        const int whiteIsZero = 0, blackIsZero = 1, rgb = 2, longType = 4;
+        int photometric = tile.Components == 3 ? rgb : tile.Bits > 1 ? blackIsZero : whiteIsZero;
         (int Tag, int Value)[] entries =
         [
             (256, tile.Width), (257, tile.Height), (258, tile.Bits), (259, compression), (262, photometric), (273, 0),
@@ -230,7 +230,7 @@ internal static class TileImages
         {
             Span<byte> entry = file.AsSpan(HeaderLength + 2 + (i * EntryLength), EntryLength);
             BinaryPrimitives.WriteInt16BigEndian(entry, (short)entries[i].Tag);
-            BinaryPrimitives.WriteInt16BigEndian(entry[2..], LongType);
+            BinaryPrimitives.WriteInt16BigEndian(entry[2..], longType);
             BinaryPrimitives.WriteInt32BigEndian(entry[4..], 1);
             BinaryPrimitives.WriteInt32BigEndian(entry[8..], entries[i].Tag == 273 ? strip : entries[i].Value);
         }

@@ -182,9 +182,9 @@ internal sealed class Canvas
 
     private void PatternTexts(PathBuffer path, in Pen pen, double period, double offset)
     {
-        foreach (PatternText _text in pen.Pattern!.Texts)
+        foreach (PatternText text in pen.Pattern!.Texts)
         {
-            var walk = new TextWalk(this, pen, _text, period, ((_text.At * pen.PatternScale) - offset) % period);
+            var walk = new TextWalk(this, pen, text, period, ((text.At * pen.PatternScale) - offset) % period);
             PathMeasure.ForEachSegment(path, ref walk, static (ref TextWalk w, Vec2 a, Vec2 b) => w.Advance(a, b));
         }
     }

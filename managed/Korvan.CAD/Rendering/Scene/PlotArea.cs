@@ -3,7 +3,6 @@ using System.Linq;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Devices;
 

@@ -69,8 +69,10 @@ internal sealed partial class SceneBuilder
 
     private static Affine3 PlaneOf(CadShape shape) => shape.ExtrusionDirection.ToPlane();
 
-    private static ImagePixels? Preview(CadOle2Frame document) => document.GetPreview() is { FileExtension: ".bmp" } image
-        ? ImagePixels.Decode(image.Data, document.TypeNameText) : null;
+    private static ImagePixels? Preview(CadOle2Frame document) =>
+        document.GetPreview() is { FileExtension: ".bmp" } image
+            ? ImagePixels.Decode(image.Data, document.TypeNameText)
+            : null;
 
     private void DrawPreview(in ContentFrame frame, ImagePixels picture)
     {

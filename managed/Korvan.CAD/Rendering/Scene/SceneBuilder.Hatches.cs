@@ -22,7 +22,8 @@ internal sealed partial class SceneBuilder
             return;
         }
 
-        List<HatchLoop> loops = HatchLoops.Select(HatchAreas.Loops(hatch), (HatchStyle)Math.Clamp((int)hatch.HatchStyle, 0, 2));
+        var style = (HatchStyle)Math.Clamp((int)hatch.HatchStyle, 0, 2);
+        List<HatchLoop> loops = HatchLoops.Select(HatchAreas.Loops(hatch), style);
         if (loops.Count == 0)
         {
             return;

@@ -25,8 +25,8 @@ internal static unsafe class CallbackStack
     [MethodImpl(MethodImplOptions.NoInlining)]
     private static void EnsureHalf()
     {
-        const int AttributesSize = 64;
-        byte* attributes = stackalloc byte[AttributesSize];
+        const int attributesSize = 64;
+        byte* attributes = stackalloc byte[attributesSize];
         byte* lowest = null;
         nint size = 0;
         if (GetAttributes(Self(), attributes) == 0)

@@ -42,9 +42,9 @@ internal static unsafe class ProcessMemory
         {
             return 0;
         }
-        const int Size = 64;
-        byte* text = stackalloc byte[Size];
-        nint length = Read(file, text, Size);
+        const int size = 64;
+        byte* text = stackalloc byte[size];
+        nint length = Read(file, text, size);
         _ = Close(file);
         return PagesOf(new ReadOnlySpan<byte>(text, (int)nint.Max(length, 0))) * Environment.SystemPageSize;
     }

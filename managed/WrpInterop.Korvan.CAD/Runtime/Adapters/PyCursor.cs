@@ -44,22 +44,22 @@ internal sealed unsafe class PyCursor : IDisposable
     // A sequence that makes its items anew each time has another one here, or none.
     private nint Find(int index, nint handle)
     {
-        const int Item = 0;
-        const int End = 1;
+        const int itemStatus = 0;
+        const int end = 1;
         while (_next <= index)
         {
             nint keep = 0;
             VariantArg item = default;
             int status = PyCollectionApi.Next(_iterator.Value, &keep, &item);
-            if (status == End)
+            if (status == end)
             {
                 return 0;
             }
-            if (status != Item)
+            if (status != itemStatus)
             {
                 Boundary.TakePythonError();
             }
-            if (_next++ == index && status == Item && item.Value == handle)
+            if (_next++ == index && status == itemStatus && item.Value == handle)
             {
                 return keep;
             }

@@ -66,20 +66,20 @@ internal sealed class PyIterator<T> : IEnumerator<T>, IPyAdapter
 
     public bool MoveNext()
     {
-        const int Item = 0;
-        const int End = 1;
+        const int itemStatus = 0;
+        const int end = 1;
         if (_isOver)
         {
             return false;
         }
         int status = _element.Next(_iterator, _collection, out T item);
-        if (status == Item)
+        if (status == itemStatus)
         {
             _current = item;
             return true;
         }
         Dispose();
-        if (status != End)
+        if (status != end)
         {
             Boundary.ThrowPythonError();
         }

@@ -46,7 +46,7 @@ public class ThinLineTests
             }
 
             Assert.InRange(sum, (reference * 0.97) - 900, (reference * 1.03) + 900);
-            
+
             // Corners differ in a pixel or two.
             Assert.InRange(worst, 0, 140);
         }

@@ -1,6 +1,5 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Exchange;
-using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 

@@ -1,5 +1,3 @@
-using System;
-using System.Buffers;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Acis;
 

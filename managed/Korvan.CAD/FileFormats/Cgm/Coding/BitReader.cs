@@ -35,8 +35,8 @@ internal ref struct BitReader(ReadOnlySpan<byte> data)
     /// <summary>Skips to the next even byte, counted with a skew of 1 where the data start at an odd one.</summary>
     internal void AlignToWord(int skew)
     {
-        const int Word = 16;
+        const int word = 16;
         long place = _at + (skew * 8);
-        _at = ((place + Word - 1) / Word * Word) - (skew * 8);
+        _at = ((place + word - 1) / word * word) - (skew * 8);
     }
 }

@@ -32,9 +32,9 @@ internal sealed class CellEncoder
     {
         get
         {
-            const int MinRatio = 8;
+            const int minRatio = 8;
             long bits = ((_integerBits + _format.BitsPerCell) * CountRuns()) + (_format.Height * 8L);
-            return bits * MinRatio < _format.BytesPerLine * 8 * _format.Height;
+            return bits * minRatio < _format.BytesPerLine * 8 * _format.Height;
         }
     }
 

@@ -31,9 +31,9 @@ internal sealed class MessageLog
         }
         else if (_messages.Count == MaxMessages)
         {
-            const string More = "there are more messages";
+            const string moreText = "there are more messages";
             _messages.Add(
-                new Message(Severity.Warning, message.ElementClass, message.ElementId, message.Position, More));
+                new Message(Severity.Warning, message.ElementClass, message.ElementId, message.Position, moreText));
         }
     }
 }

@@ -78,11 +78,11 @@ internal static class StructuredDataCoding
 
     private static long Whole(ParameterExchange x, object? value)
     {
-        const double ExactLimit = 1L << 53;
+        const double exactLimit = 1L << 53;
         return value switch
         {
             _ when x.IsReading => 0,
-            double number when number == Math.Floor(number) && Math.Abs(number) <= ExactLimit => (long)number,
+            double number when number == Math.Floor(number) && Math.Abs(number) <= exactLimit => (long)number,
             int number => number,
             long number => number,
             bool flag => flag ? 1 : 0,

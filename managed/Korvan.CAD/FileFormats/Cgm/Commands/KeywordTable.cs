@@ -34,8 +34,8 @@ internal sealed class KeywordTable(int[] values, string[] keywords)
 
     private int FindAlike(string word)
     {
-        const int MinLength = 3;
-        bool IsAlike(string one) => Math.Min(one.Length, word.Length) >= MinLength
+        const int minLength = 3;
+        bool IsAlike(string one) => Math.Min(one.Length, word.Length) >= minLength
             && (one.StartsWith(word, StringComparison.OrdinalIgnoreCase)
                 || word.StartsWith(one, StringComparison.OrdinalIgnoreCase));
         int first = Array.FindIndex(keywords, IsAlike);

@@ -167,15 +167,15 @@ public sealed class DefaultBinaryWriter : IBinaryWriter, IParameterCodec
     public void WriteData(byte[] value)
     {
         Verify.NotNull(value);
-        const int LongString = 255;
-        if (value.Length < LongString)
+        const int longString = 255;
+        if (value.Length < longString)
         {
             WriteBits(value.Length, 8);
             WriteBytes(value);
             return;
         }
 
-        WriteBits(LongString, 8);
+        WriteBits(longString, 8);
         for (int at = 0; at < value.Length; at += MaxPartLength)
         {
             int count = Math.Min(MaxPartLength, value.Length - at);

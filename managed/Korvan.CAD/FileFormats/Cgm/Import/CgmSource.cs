@@ -100,8 +100,8 @@ internal static class CgmSource
     // BEGMF is the opcode 3/0 2/0 there, perhaps after sequences that select the coding.
     private static bool IsCharacterEncoding(ReadOnlySpan<byte> data)
     {
-        const byte Escape = 0x1B;
-        while (data.Length > 2 && data[0] == Escape)
+        const byte escape = 0x1B;
+        while (data.Length > 2 && data[0] == escape)
         {
             int end = data[1..].IndexOfAnyExceptInRange((byte)0x20, (byte)0x2F);
             data = end < 0 ? [] : data[(end + 2)..];

@@ -136,8 +136,8 @@ internal sealed class ClearTextReader
     private UnknownCommand Unknown(int start, string keyword)
     {
         _scanner.SkipElement();
-        const string Text = "the standard does not define the element; it is kept as it is";
-        Note(Severity.Unsupported, start, UnknownElement, keyword, Text);
+        const string text = "the standard does not define the element; it is kept as it is";
+        Note(Severity.Unsupported, start, UnknownElement, keyword, text);
         string source = _scanner.Source(start, _scanner.Position).TrimEnd(';', '/');
         return new UnknownCommand(UnknownElement) { Source = source };
     }

@@ -196,9 +196,9 @@ internal sealed class ClearTextScanner(byte[] data)
 
     private static string Shown(ReadOnlySpan<byte> word)
     {
-        const int ShownLength = 40;
-        string shown = Encoding.Latin1.GetString(word[..Math.Min(word.Length, ShownLength)]);
-        return word.Length > ShownLength ? shown + "..." : shown;
+        const int shownLength = 40;
+        string shown = Encoding.Latin1.GetString(word[..Math.Min(word.Length, shownLength)]);
+        return word.Length > shownLength ? shown + "..." : shown;
     }
 
     private static byte[] CreateKinds()

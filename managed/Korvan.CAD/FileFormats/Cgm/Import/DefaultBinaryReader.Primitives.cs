@@ -185,26 +185,26 @@ public sealed partial class DefaultBinaryReader
     // The length 255 announces partitions, each with a header word, whose highest bit announces another one.
     private ReadOnlySpan<byte> TakeString()
     {
-        const int LongForm = 255;
-        const int MorePartsFlag = 0x8000;
+        const int longForm = 255;
+        const int morePartsFlag = 0x8000;
         int length = Take(1)[0];
-        if (length != LongForm)
+        if (length != longForm)
         {
             return Take(length);
         }
 
         int word = BinaryPrimitives.ReadUInt16BigEndian(Take(2));
-        ReadOnlySpan<byte> text = Take(word & ~MorePartsFlag);
-        if ((word & MorePartsFlag) == 0)
+        ReadOnlySpan<byte> text = Take(word & ~morePartsFlag);
+        if ((word & morePartsFlag) == 0)
         {
             return text;
         }
 
         var parts = new List<byte>(text.ToArray());
-        while ((word & MorePartsFlag) != 0)
+        while ((word & morePartsFlag) != 0)
         {
             word = BinaryPrimitives.ReadUInt16BigEndian(Take(2));
-            parts.AddRange(Take(word & ~MorePartsFlag));
+            parts.AddRange(Take(word & ~morePartsFlag));
         }
 
         return parts.ToArray();

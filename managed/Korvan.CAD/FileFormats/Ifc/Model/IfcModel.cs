@@ -178,10 +178,10 @@ internal sealed class IfcModel
         List<IIfcEntity> referrers = [.. entity.Referrers.Where(one => one != entity)];
         if (referrers.Count > 0)
         {
-            const int Shown = 5;
+            const int shown = 5;
             string names = string.Join(
-                ", ", referrers.Take(Shown).Select(one => $"#{one.InstanceId}={one.EntityName}"));
-            string more = referrers.Count > Shown ? $" and {referrers.Count - Shown} more" : string.Empty;
+                ", ", referrers.Take(shown).Select(one => $"#{one.InstanceId}={one.EntityName}"));
+            string more = referrers.Count > shown ? $" and {referrers.Count - shown} more" : string.Empty;
             throw new IfcImageException(
                 $"{entity.DescribePlace()}it is not removed, because {names}{more} refer to it; change these first.");
         }

@@ -102,22 +102,22 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
             if (ids.Find(all[i]) is var other && other != i)
             {
                 int place = file.Index.Starts[other];
-                const string Cause = "its number is used again in line ";
-                _defects.Add(new StepDefect(LoadDefectCode.DuplicateId, file.Index.Starts[i], all[i], Cause, place));
+                const string cause = "its number is used again in line ";
+                _defects.Add(new StepDefect(LoadDefectCode.DuplicateId, file.Index.Starts[i], all[i], cause, place));
             }
         }
     }
 
     private void VerifyReferences(StepFile file, IfcIdMap ids)
     {
-        const int Block = 1 << 16;
-        int blocks = (file.Index.Count + Block - 1) / Block;
+        const int block = 1 << 16;
+        int blocks = (file.Index.Count + block - 1) / block;
         StepDefects[] found = new StepDefects[blocks];
         ForkedProcess.RunPieces(blocks, i =>
         {
             found[i] = new StepDefects();
-            int end = Math.Min(file.Index.Count, (i + 1) * Block);
-            for (int record = i * Block; record < end; record++)
+            int end = Math.Min(file.Index.Count, (i + 1) * block);
+            for (int record = i * block; record < end; record++)
             {
                 VerifyReferences(file, ids, record, found[i]);
             }

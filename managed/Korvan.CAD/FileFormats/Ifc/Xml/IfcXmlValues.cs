@@ -47,17 +47,17 @@ internal static class IfcXmlValues
 
     private static string? Integer(string text)
     {
-        const NumberStyles Style = NumberStyles.AllowLeadingSign;
-        return long.TryParse(text, Style, CultureInfo.InvariantCulture, out long value)
+        const NumberStyles style = NumberStyles.AllowLeadingSign;
+        return long.TryParse(text, style, CultureInfo.InvariantCulture, out long value)
             ? value.ToString(CultureInfo.InvariantCulture)
             : null;
     }
 
     private static string? Real(string text)
     {
-        const NumberStyles Style =
+        const NumberStyles style =
             NumberStyles.AllowLeadingSign | NumberStyles.AllowDecimalPoint | NumberStyles.AllowExponent;
-        return double.TryParse(text, Style, CultureInfo.InvariantCulture, out double value) && double.IsFinite(value)
+        return double.TryParse(text, style, CultureInfo.InvariantCulture, out double value) && double.IsFinite(value)
             ? Written(target => StepNumbers.WriteReal(value, target))
             : null;
     }

@@ -1,5 +1,4 @@
 using System;
-using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.Geometry;
 
@@ -170,7 +169,8 @@ internal static partial class ProxyGraphics
         return Arc(
             new PlanarArc(
                 state.Map * plane, default, toCenter.Length, 0,
-                isCircle ? Math.Tau : sweep > 0 ? sweep : sweep + Math.Tau) { IsCircle = isCircle },
+                isCircle ? Math.Tau : sweep > 0 ? sweep : sweep + Math.Tau)
+            { IsCircle = isCircle },
             state);
     }
 
