@@ -108,14 +108,20 @@ public class ProxyGraphicsTests
         Assert.False(EntityGeometry.Emit(Entity([]), new Recorder()));
     }
 
-    [Fact]
-    public void Stored_graphics_are_drawn_with_their_own_colours()
+    [Theory]
+    [InlineData("ACME_WALL")] // of no known class
+    [InlineData("ACAD_PROXY_ENTITY")]
+    public void Stored_graphics_are_drawn_with_their_own_colours(string name)
     {
         byte[] data = Data(Chunk(14, 1), Chunk(20, 1), Chunk(7, 4, N([10.0, 10, 0, 40, 10, 0, 40, 40, 0, 10, 40, 0])));
-        DxfImage drawing = DxfText.Load(DxfText.Drawing(Tags(data)));
-        using Picture picture = Picture.Of(drawing);
-        Assert.Equal((255, 0, 0), (picture[25, 25].R, picture[25, 25].G, picture[25, 25].B));
-        Assert.Equal((255, 255, 255), (picture[60, 60].R, picture[60, 60].G, picture[60, 60].B));
+        DxfImage drawing = DxfText.Load(DxfText.Drawing(Tags(data, name)));
+        foreach (CadImage image in new CadImage[] { drawing, DxfText.Reload(drawing) })
+        {
+            Assert.Equal(name, image.Entities[0].DxfName);
+            using Picture picture = Picture.Of(image);
+            Assert.Equal((255, 0, 0), (picture[25, 25].R, picture[25, 25].G, picture[25, 25].B));
+            Assert.Equal((255, 255, 255), (picture[60, 60].R, picture[60, 60].G, picture[60, 60].B));
+        }
     }
 
     private static Recorder Emit(params byte[][] chunks)
@@ -127,11 +133,15 @@ public class ProxyGraphicsTests
 
     private static CadEntityBase Entity(byte[] data) => DxfText.Load(DxfText.Drawing(Tags(data))).Entities[0];
 
-    private static object[] Tags(byte[] data) =>
-    [
-        0, "ACME_WALL", 5, "A1", 100, "AcDbEntity", 8, "0", 160, data.Length,
-        .. data.Chunk(127).SelectMany(static part => new object[] { 310, Convert.ToHexString(part) }),
-    ];
+    private static object[] Tags(byte[] data, string name = "ACME_WALL")
+    {
+        object[] graphics =
+            [.. data.Chunk(127).SelectMany(static part => new object[] { 310, Convert.ToHexString(part) })];
+        return name == "ACAD_PROXY_ENTITY"
+            ? [0, name, 5, "A1", 100, "AcDbEntity", 8, "0", 100, "AcDbProxyEntity", 90, 498, 91, 500, 92, data.Length,
+                .. graphics, 93, 8, 310, "FF", 94, 0]
+            : [0, name, 5, "A1", 100, "AcDbEntity", 8, "0", 160, data.Length, .. graphics];
+    }
 
     private static byte[] Data(params byte[][] chunks) =>
         [.. BitConverter.GetBytes(8 + chunks.Sum(static one => one.Length)), .. BitConverter.GetBytes(chunks.Length),
