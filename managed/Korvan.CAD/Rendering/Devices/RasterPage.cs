@@ -50,7 +50,11 @@ internal sealed unsafe class RasterPage : IDisposable
         return null;
     }
 
-    internal static RasterPage Render(TextEngine engine, Page page)
+    /// <summary>Paints a page in bands, each on a thread of its own.</summary>
+    /// <param name="engine">The engine whose fonts the page refers to.</param>
+    /// <param name="page">The page.</param>
+    /// <param name="bands">The number of bands; null for as many as serve the page.</param>
+    internal static RasterPage Render(TextEngine engine, Page page, int? bands = null)
     {
         if (Refuse(page.Width, page.Height) is string reason)
         {
@@ -60,7 +64,7 @@ internal sealed unsafe class RasterPage : IDisposable
         var raster = new RasterPage((int)Math.Round(page.Width), (int)Math.Round(page.Height));
         try
         {
-            raster.Paint(engine, page, raster.BandsFor(page));
+            raster.Paint(engine, page, bands ?? raster.BandsFor(page));
             return raster;
         }
         catch
@@ -68,14 +72,6 @@ internal sealed unsafe class RasterPage : IDisposable
             raster.Dispose();
             throw;
         }
-    }
-
-    /// <summary>Paints the page in bands, each on a thread of its own.</summary>
-    internal static RasterPage Render(TextEngine engine, Page page, int bands)
-    {
-        var raster = new RasterPage((int)Math.Round(page.Width), (int)Math.Round(page.Height));
-        raster.Paint(engine, page, bands);
-        return raster;
     }
 
     private int BandsFor(Page page) => page.List.Items.Length < MinItemsInBands || Height < MinRowsInBands
