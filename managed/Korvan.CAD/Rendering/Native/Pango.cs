@@ -117,4 +117,8 @@ internal static unsafe partial class Pango
 
     [LibraryImport(ObjectLibrary, EntryPoint = "g_object_ref")]
     internal static partial nint Reference(nint instance);
+
+    /// <summary>Returns cairo's face of a font at its size, which the font owns.</summary>
+    [LibraryImport(CairoLibrary, EntryPoint = "pango_cairo_font_get_scaled_font")]
+    internal static partial nint CairoFontGetScaledFont(nint font);
 }

@@ -42,7 +42,7 @@ internal sealed unsafe partial class GlyphOutlines : IDisposable
         var key = new RunKey(run.Font, run.Text, run.LetterSpacing);
         if (!_runs.TryGetValue(key, out PlacedGlyph[]? placed))
         {
-            placed = PangoGlyphs.IsKnown ? Shape(run, added) : [new PlacedGlyph(Whole(run, added), 0, 0)];
+            placed = Shape(run, added);
             if (_runs.Count >= MaxCachedRuns)
             {
                 _runs.Clear();
@@ -54,73 +54,66 @@ internal sealed unsafe partial class GlyphOutlines : IDisposable
         return placed;
     }
 
-    public void Dispose()
-    {
-        _context.Dispose();
-        _fonts.ForEach(static font => font.Owner.Dispose());
-    }
+    public void Dispose() => _context.Dispose();
 
     private PlacedGlyph[] Shape(in TextRun run, List<GlyphOutline> added)
     {
-        PangoGlyph[] glyphs = PangoGlyphs.Of(_engine.ShapeLine(run));
-        var placed = new List<PlacedGlyph>(glyphs.Length);
-        foreach (PangoGlyph glyph in glyphs)
+        var placed = new List<PlacedGlyph>();
+        foreach (ShapedRun part in _engine.Line(run).Runs)
         {
-            if (glyph.Index == PangoGlyphs.Empty)
+            foreach (ShapedGlyph glyph in part.Glyphs)
             {
-                continue;
-            }
+                if (glyph.IsUnknown)
+                {
+                    return [new PlacedGlyph(Whole(run, added), 0, 0)]; // boxes with the code point are more than glyphs
+                }
 
-            if ((glyph.Index & PangoGlyphs.UnknownFlag) != 0)
-            {
-                return [new PlacedGlyph(Whole(run, added), 0, 0)]; // boxes with the code point are more than glyphs
-            }
-
-            int number = NumberOf(glyph, added);
-            if (number != Blank)
-            {
-                placed.Add(new PlacedGlyph(number, glyph.X / TextEngine.UnitsPerEm, glyph.Y / TextEngine.UnitsPerEm));
+                int number = NumberOf(part.Font.Font, glyph.Glyph, added);
+                if (number != Blank)
+                {
+                    placed.Add(new PlacedGlyph(number, glyph.X, -glyph.Y));
+                }
             }
         }
 
         return [.. placed];
     }
 
-    private int NumberOf(in PangoGlyph glyph, List<GlyphOutline> added)
+    private int NumberOf(nint font, uint glyph, List<GlyphOutline> added)
     {
-        ref int number = ref FontOf(glyph.Font).NumberOf((int)glyph.Index);
+        ref int number = ref FontOf(font).NumberOf((int)glyph);
         if (number == 0)
         {
             var path = new PathBuffer();
-            Trace(glyph, path);
+            Trace(font, glyph, path);
             number = path.IsEmpty ? Blank : Add(path, added);
         }
 
         return number;
     }
 
+    // The engine keeps its fonts, so that an address is that of one font.
     private FontGlyphs FontOf(nint address)
     {
         foreach (FontGlyphs known in _fonts)
         {
-            if (known.Owner.Pointer == address)
+            if (known.Address == address)
             {
                 return known;
             }
         }
 
-        // A font that is owned keeps its address.
-        var font = new FontGlyphs(new NativeHandle(PangoGlyphs.Ref(address), &Pango.Unref));
+        var font = new FontGlyphs(address);
         _fonts.Add(font);
         return font;
     }
 
-    private void Trace(in PangoGlyph glyph, PathBuffer path)
+    private void Trace(nint font, uint glyph, PathBuffer path)
     {
-        var native = new CairoGlyph { Index = glyph.Index };
+        var native = new CairoGlyph { Index = glyph };
         nint cr = _context.Pointer;
         Cairo.NewPath(cr);
-        SetScaledFont(cr, PangoGlyphs.ScaledFontOf(glyph.Font));
+        SetScaledFont(cr, Pango.CairoFontGetScaledFont(font));
         GlyphPath(cr, &native, 1);
         const double em = 1 / TextEngine.EmSize;
         CairoPaths.Append(cr, new Affine2(em, 0, 0, em, 0, 0), path);
@@ -143,11 +136,11 @@ internal sealed unsafe partial class GlyphOutlines : IDisposable
     private sealed record RunKey(int Font, string Text, double Spacing);
 
     /// <summary>The numbers of the outlines of a font by its glyphs; 0 for those that are not known yet.</summary>
-    private sealed class FontGlyphs(NativeHandle owner)
+    private sealed class FontGlyphs(nint address)
     {
         private int[] _numbers = new int[256];
 
-        internal NativeHandle Owner { get; } = owner;
+        internal nint Address { get; } = address;
 
         internal ref int NumberOf(int glyph)
         {

@@ -43,7 +43,7 @@ internal sealed record ShapedLine(string Text, ShapedRun[] Runs, double Advance)
 }
 
 /// <summary>A font as text uses it: a face, and what is done to its outlines. It lives as long as its engine.</summary>
-internal sealed record FontUse(nint Face, string Name, Affine2 Matrix, bool IsEmboldened);
+internal sealed record FontUse(nint Font, nint Face, string Name, Affine2 Matrix, bool IsEmboldened);
 
 /// <summary>Fonts by the objects that pango has for them, which are kept so that no other gets the place of one.
 /// </summary>
@@ -59,7 +59,7 @@ internal sealed unsafe class FontUses : System.IDisposable
             _fonts.Add(new NativeHandle(Pango.Reference(font), &Pango.Unref));
             nint pattern = Pango.FcFontGetPattern(font);
             nint face = HarfBuzz.FontGetFace(Pango.FontGetHarfBuzz(font));
-            use = new FontUse(face, Fontconfig.NameOf(pattern) ?? "Font", Fontconfig.MatrixOf(pattern),
+            use = new FontUse(font, face, Fontconfig.NameOf(pattern) ?? "Font", Fontconfig.MatrixOf(pattern),
                 Fontconfig.IsEmboldened(pattern));
             _uses.Add(font, use);
         }

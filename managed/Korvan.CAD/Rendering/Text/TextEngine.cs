@@ -159,9 +159,6 @@ internal sealed unsafe class TextEngine : IDisposable
         return line;
     }
 
-    /// <summary>Shapes a run at the size <see cref="EmSize"/>. The line is valid until another one is shaped.</summary>
-    internal nint ShapeLine(in TextRun run) => Shape(run.Font, run.Text, run.LetterSpacing);
-
     /// <summary>Adds the outlines of a run; the matrix maps its ems, y up from the baseline.</summary>
     internal void AddOutline(in TextRun run, in Affine2 matrix, PathBuffer target)
     {
