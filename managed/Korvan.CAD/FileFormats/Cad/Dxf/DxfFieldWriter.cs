@@ -9,7 +9,8 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 {
     private Dictionary<string, SequenceLayout>? _layouts;
     private SequenceLayout? _layout;
-    private int _call;
+    private readonly FieldCounter _fields = new();
+    private bool _hasEnded;
 
     internal override int Release => writer.Release;
 
@@ -33,7 +34,8 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
         }
 
         _layout = _layouts?.GetValueOrDefault(name);
-        _call = 0;
+        _fields.Clear();
+        _hasEnded = _layout?.End == FieldKey.None;
     }
 
     internal override void EndSubclass(CadBaseObject target, string name)
@@ -47,12 +49,23 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
     internal override bool Has(int code, int since, bool isSet)
     {
         bool includes = Includes(since, isSet);
-        return _layout?.Includes(_call++, includes) ?? includes;
+        if (_layout is null)
+        {
+            return includes;
+        }
+
+        if (!_hasEnded && _layout.Includes(_fields.Peek(code), includes))
+        {
+            return true;
+        }
+
+        Pass(_fields.Next(code));
+        return false;
     }
 
     internal override bool Bool(int code, bool value)
     {
-        if (Writes(value))
+        if (Writes(code, value))
         {
             writer.Write(code, value ? 1 : 0);
         }
@@ -62,7 +75,7 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override short Int16(int code, short value)
     {
-        if (Writes(value))
+        if (Writes(code, value))
         {
             writer.Write(code, value);
         }
@@ -72,7 +85,7 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override int Int32(int code, int value)
     {
-        if (Writes(value))
+        if (Writes(code, value))
         {
             writer.Write(code, value);
         }
@@ -82,7 +95,7 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override long Int64(int code, long value)
     {
-        if (Writes(value))
+        if (Writes(code, value))
         {
             writer.Write(code, value);
         }
@@ -96,7 +109,7 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override double Double(int code, double value)
     {
-        if (Writes(value))
+        if (Writes(code, value))
         {
             writer.Write(code, value);
         }
@@ -121,7 +134,7 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override string Text(int code, string value)
     {
-        if (Writes(value))
+        if (Writes(code, value))
         {
             writer.Write(code, value);
         }
@@ -135,7 +148,7 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override ulong Handle(int code, HandleRole role, ulong value)
     {
-        if (Writes(value))
+        if (Writes(code, value))
         {
             writer.WriteHandle(code, value);
         }
@@ -145,7 +158,7 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override byte[] Binary(int code, byte[] value)
     {
-        if (Writes(value))
+        if (Writes(code, value))
         {
             writer.Write(code, value);
         }
@@ -157,8 +170,8 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override string LongText(int pieceCode, int lastCode, string value)
     {
-        int[]? chunks = _layout?.ChunksOf(_call, value);
-        if (Writes(value))
+        int[]? chunks = _layout?.ChunksOf(_fields.Peek(pieceCode), value);
+        if (Writes(pieceCode, value))
         {
             WriteLongText(pieceCode, lastCode, value, chunks);
         }
@@ -168,7 +181,7 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override void Lines(List<string> lines)
     {
-        if (Writes(lines))
+        if (Writes(1, lines))
         {
             writer.WriteChunks(lines);
         }
@@ -178,7 +191,7 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override void Tags(IList<CadCodeValue> tags)
     {
-        if (Writes(tags))
+        if (Writes(SequenceReader.AnyCode, tags))
         {
             tags.ForEach(writer.Write);
         }
@@ -201,5 +214,19 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
     }
 
     // The value is boxed only where the file had other fields than the class writes.
-    private bool Writes<T>(T value) => _layout?.Writes(_call++, value) ?? true;
+    private bool Writes<T>(int code, T value)
+    {
+        if (_layout is null)
+        {
+            return true;
+        }
+
+        FieldKey field = _fields.Next(code);
+        bool writes = !_hasEnded && _layout.Writes(field, value);
+        Pass(field);
+        return writes;
+    }
+
+    // What follows the last field that was understood is kept as it was.
+    private void Pass(FieldKey field) => _hasEnded |= field == _layout!.End;
 }

@@ -9,6 +9,9 @@ namespace Korvan.CAD.FileFormats.Cad.Exchange;
 /// in the file is missing; what is left at the end is kept.</summary>
 internal sealed class SequenceReader : ObjectExchange
 {
+    /// <summary>The code under which tags of any group codes are counted.</summary>
+    internal const int AnyCode = -2;
+
     private const int SubclassMarker = 100;
     private const int EmbeddedObject = 101;
     private const int Group = 102;
@@ -18,9 +21,9 @@ internal sealed class SequenceReader : ObjectExchange
     private readonly SequenceLayout _layout = new();
     private bool _ended;
     private bool _exhausted;
-    private int _call;
-    private int _lastRead = -1;
-    private int _optional = -1;
+    private readonly FieldCounter _fields = new();
+    private FieldKey _lastRead = FieldKey.None;
+    private FieldKey? _optional;
 
     private SequenceReader(FieldReader reader)
     {
@@ -60,10 +63,15 @@ internal sealed class SequenceReader : ObjectExchange
 
     internal override bool Has(int code, int since, bool isSet)
     {
-        int call = _call++;
-        bool isNext = IsNext(code);
-        _optional = isNext ? call : -1;
-        return isNext;
+        if (IsNext(code))
+        {
+            _optional = _fields.Peek(code);
+            return true;
+        }
+
+        _fields.Next(code);
+        _optional = null;
+        return false;
     }
 
     internal override bool HasItem(int code, bool isSet) => IsNext(code);
@@ -118,12 +126,13 @@ internal sealed class SequenceReader : ObjectExchange
 
     internal override string LongText(int pieceCode, int lastCode, string value)
     {
+        FieldKey field = _fields.Peek(pieceCode);
         if (IsNext(lastCode))
         {
-            return Text(lastCode, value);
+            _fields.Next(pieceCode);
+            return Value(field, lastCode, value, static reader => reader.GetString());
         }
 
-        int call = _call;
         List<string> chunks = [];
         if (!Run(pieceCode, value, () => chunks.Add(_reader.GetString())))
         {
@@ -137,7 +146,7 @@ internal sealed class SequenceReader : ObjectExchange
         }
 
         string text = string.Concat(chunks);
-        _layout.AddChunks(call, text, [.. chunks.ConvertAll(static chunk => chunk.Length)]);
+        _layout.AddChunks(field, text, [.. chunks.ConvertAll(static chunk => chunk.Length)]);
         return text;
     }
 
@@ -145,7 +154,7 @@ internal sealed class SequenceReader : ObjectExchange
     {
         const int first = 1;
         const int further = 3;
-        int call = _call++;
+        FieldKey field = _fields.Next(first);
         while (IsNext(first) || (IsNext(further) && lines.Count > 0))
         {
             if (_reader.Code == first)
@@ -157,40 +166,40 @@ internal sealed class SequenceReader : ObjectExchange
                 lines[^1] += _reader.GetString();
             }
 
-            _lastRead = call;
+            _lastRead = field;
             Advance();
         }
     }
 
     internal override void Brace(int code, string text)
     {
-        int call = _call++;
+        FieldKey field = _fields.Next(code);
         if (IsNext(code) && _reader.GetName() == text)
         {
-            _lastRead = call;
+            _lastRead = field;
             Advance();
         }
         else
         {
-            _layout.AddMissing(call, text);
+            _layout.AddMissing(field, text);
         }
     }
 
     internal override void Tags(IList<CadCodeValue> tags)
     {
-        for (int call = _call++; !_ended; Advance())
+        for (FieldKey field = _fields.Next(AnyCode); !_ended; Advance())
         {
             tags.Add(_reader.ToCodeValue());
-            _lastRead = call;
+            _lastRead = field;
         }
     }
 
     private bool Run(int code, object missing, Action read)
     {
-        int call = _call++;
+        FieldKey field = _fields.Next(code);
         if (!IsNext(code))
         {
-            _layout.AddMissing(call, missing);
+            _layout.AddMissing(field, missing);
             return false;
         }
 
@@ -199,30 +208,32 @@ internal sealed class SequenceReader : ObjectExchange
             read();
         }
 
-        _lastRead = call;
-        _optional = -1;
+        _lastRead = field;
+        _optional = null;
         return true;
     }
 
     private T Value<T>(int code, T present, Func<FieldReader, T> read)
+        where T : notnull => Value(_fields.Next(code), code, present, read);
+
+    private T Value<T>(FieldKey field, int code, T present, Func<FieldReader, T> read)
         where T : notnull
     {
-        int call = _call++;
-        int optional = _optional;
-        _optional = -1;
+        FieldKey? optional = _optional;
+        _optional = null;
         if (!IsNext(code))
         {
-            _layout.AddMissing(call, present);
+            _layout.AddMissing(field, present);
             return present;
         }
 
         T value = read(_reader);
-        if (optional >= 0 && EqualityComparer<T>.Default.Equals(value, present))
+        if (optional is { } key && EqualityComparer<T>.Default.Equals(value, present))
         {
-            _layout.AddPresent(optional);
+            _layout.AddPresent(key);
         }
 
-        _lastRead = call;
+        _lastRead = field;
         Advance();
         return value;
     }
@@ -246,7 +257,7 @@ internal sealed class SequenceReader : ObjectExchange
     {
         if (!_ended)
         {
-            _layout.SetEnd(_lastRead);
+            _layout.End = _lastRead;
         }
 
         for (; !_ended; Advance())

@@ -41,23 +41,24 @@ public class ObjectSampleTests
         Assert.Empty(Find(again).UnknownCodes);
     }
 
-    private static CadBaseObject Find(CadImage image) => image.Objects.Cast<CadBaseObject>().Concat(image.Entities)
+    internal static CadBaseObject Find(CadImage image) => image.Objects.Cast<CadBaseObject>().Concat(image.Entities)
         .Single(item => item.ObjectHandle == "ABC");
 
-    private static string[] Written(CadImage image, string type) =>
+    internal static string[] Written(CadImage image, string type) =>
         TagList.Objects(Encoding.UTF8.GetBytes(DxfText.Save(image)), type)["ABC"];
 
     // The owner of an entity is the block that it is in, which gets a handle when the drawing is saved.
-    private static IEnumerable<string> WithoutOwner(string[] tags) => [.. tags[..2], .. tags[3..]];
+    internal static IEnumerable<string> WithoutOwner(string[] tags) => [.. tags[..2], .. tags[3..]];
 
     // Entities have the fields of all entities first.
-    private static byte[] File(string type, string fields)
+    internal static byte[] File(string type, string fields)
     {
         bool isEntity = Activator.CreateInstance(TypeOf(type)) is CadEntityBase;
         object[] tags =
         [
             0, type, 5, "ABC", 330, "1F", .. isEntity ? new object[] { 100, "AcDbEntity", 8, "0" } : [],
-            .. fields.Split('|').SelectMany(tag => new object[] { tag.Split(' ')[0], tag[(tag.IndexOf(' ') + 1)..] }),
+            .. fields.Split('|', StringSplitOptions.RemoveEmptyEntries)
+                .SelectMany(tag => new object[] { tag.Split(' ')[0], tag[(tag.IndexOf(' ') + 1)..] }),
         ];
         return Encoding.Latin1.GetBytes(DxfText.Header("AC1032") + DxfText.Entities(isEntity ? tags : [])
             + DxfText.Tags([0, "SECTION", 2, "OBJECTS", .. isEntity ? [] : tags, 0, "ENDSEC", 0, "EOF"]));

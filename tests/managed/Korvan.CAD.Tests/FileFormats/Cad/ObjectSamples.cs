@@ -13,7 +13,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.UnderlayDefinition;
 namespace Korvan.CAD.Tests.FileFormats.Cad;
 
 /// <summary>Objects and entities as programs write them, with a value that has to be read and a change of it.</summary>
-internal static class ObjectSamples
+internal static partial class ObjectSamples
 {
     private const string Node = "100 AcDbEvalExpr|90 7|98 33|99 29|";
 
@@ -43,8 +43,12 @@ internal static class ObjectSamples
 
     private const string Modeler = "100 AcDbModelerGeometry|70 1|1 nqrq|1 l|100 AcDbSurface|71 6|72 8|";
 
-    internal static readonly (string Type, string Fields, Func<CadBaseObject, object> Get, Action<CadBaseObject> Change,
-        object Expected)[] All =
+    /// <summary>Gets all samples.</summary>
+    internal static (string Type, string Fields, Func<CadBaseObject, object> Get, Action<CadBaseObject> Change,
+        object Expected)[] All => [.. Objects, .. Entities];
+
+    private static (string Type, string Fields, Func<CadBaseObject, object> Get, Action<CadBaseObject> Change,
+        object Expected)[] Objects =>
     [
         Sample<CadBlockAligmentGrip>("BLOCKALIGNMENTGRIP", Grip + "100 AcDbBlockAlignmentGrip|140 0|141 1|142 0",
             o => o.DirectionY, o => o.DirectionY = -1, 1.0),

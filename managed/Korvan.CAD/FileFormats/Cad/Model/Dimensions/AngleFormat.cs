@@ -17,6 +17,7 @@ internal readonly record struct AngleFormat(int Unit, int Decimals, int Zeros, c
 
     internal string Format(double radians) => Unit switch
     {
+        Sexagesimal when radians < 0 => "-" + Minutes(-radians * DegreesPerTurn / Math.Tau),
         Sexagesimal => Minutes(radians * DegreesPerTurn / Math.Tau),
         Gons => Number(radians * GonsPerTurn / Math.Tau, Decimals) + "g",
         Radians => Number(radians, Decimals) + "r",

@@ -54,9 +54,13 @@ internal readonly record struct LengthFormat(
 
     private static string Sign(double value) => value < 0 ? "-" : "";
 
+    // Rounded first: what rounds up to ten has the next exponent.
     private string Scientific(double value)
     {
         int exponent = value == 0 ? 0 : (int)Math.Floor(Math.Log10(Math.Abs(value)));
+        double digits = Math.Pow(10, Math.Clamp(Decimals, 0, MaxDecimals));
+        double rounded = Math.Round(value / Math.Pow(10, exponent) * digits, MidpointRounding.AwayFromZero) / digits;
+        exponent += Math.Abs(rounded) >= 10 ? 1 : 0;
         return FormattableString.Invariant($"{Decimal(value / Math.Pow(10, exponent))}E{exponent:+00;-00}");
     }
 
