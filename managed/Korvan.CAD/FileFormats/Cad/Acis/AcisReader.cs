@@ -115,7 +115,7 @@ internal sealed class AcisReader
                     return false;
                 }
 
-                AddSpline(spline, _map.Point(start), _map.Point(end));
+                AddSpline(spline, _map.Point(start), _map.Point(end), isReversed);
                 return true;
             default:
                 return false;
@@ -145,7 +145,7 @@ internal sealed class AcisReader
         return true;
     }
 
-    private void AddSpline(in AcisSpline spline, Vec3 start, Vec3 end)
+    private void AddSpline(in AcisSpline spline, Vec3 start, Vec3 end, bool isReversed)
     {
         Nurbs curve = spline.Curve;
         (Vec3 first, Vec3 last) = (curve.At(curve.First), curve.At(curve.Last));
@@ -159,17 +159,26 @@ internal sealed class AcisReader
             return;
         }
 
-        AddPart(curve, start, end);
+        AddPart(curve, start, end, AreOne(first, last), isReversed);
     }
 
-    // The parameters of an edge depend on the version of the modeler; its ends do not.
-    private void AddPart(Nurbs curve, Vec3 start, Vec3 end)
+    // The parameters of an edge depend on the version of the modeler; its ends do not. On a closed curve the direction
+    // of the edge decides which of two parts it is.
+    private void AddPart(Nurbs curve, Vec3 start, Vec3 end, bool isClosed, bool isReversed)
     {
         (double from, double to) = (Nearest(curve, start), Nearest(curve, end));
+        double period = curve.Last - curve.First;
+        if (isClosed)
+        {
+            (from, to) = isReversed ? (to, from) : (from, to);
+            to += to <= from ? period : 0;
+        }
+
         var points = new Vec3[TrimmedPoints];
         for (int i = 0; i < points.Length; i++)
         {
-            points[i] = curve.At(from + ((to - from) * i / (points.Length - 1)));
+            double at = from + ((to - from) * i / (points.Length - 1));
+            points[i] = curve.At(at > curve.Last ? at - period : at);
         }
 
         _wireframe.Polylines.Add(points);

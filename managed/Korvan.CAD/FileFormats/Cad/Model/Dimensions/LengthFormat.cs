@@ -36,7 +36,9 @@ internal readonly record struct LengthFormat(
     /// <summary>Writes a number with decimals; no more of them than a number of double precision has.</summary>
     internal string Decimal(double value)
     {
-        string text = value.ToString("F" + Math.Clamp(Decimals, 0, MaxDecimals), CultureInfo.InvariantCulture);
+        int decimals = Math.Clamp(Decimals, 0, MaxDecimals);
+        string text = Math.Round(value, decimals, MidpointRounding.AwayFromZero)
+            .ToString("F" + decimals, CultureInfo.InvariantCulture);
         if ((Zeros & NoTrailingZeros) != 0 && text.Contains('.'))
         {
             text = text.TrimEnd('0').TrimEnd('.');
