@@ -16,7 +16,7 @@ public class ObjectEditTests
         ["ObjectHandle", "SoftOwner", "SpaceMode", "LayoutTabName", "ValueType", "Code", "SolidFillFlag", "Flags",
             "HardOwner", "OutputType", "HasBackClipping", "HasFrontClipping", "SelectRangeOfDates", "ColumnCount",
             "RowCount", "ActionVersion", "IsGradient", "GradientName",
-            "CoordinateSystemDefinition"];
+            "CoordinateSystemDefinition", "HasName", "ConstantWidth"];
 
     public static IEnumerable<object[]> Types => ObjectSamples.All.Select(sample => new object[] { sample.Type });
 

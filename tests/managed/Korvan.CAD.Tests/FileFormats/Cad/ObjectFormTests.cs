@@ -32,7 +32,7 @@ public class ObjectFormTests
     public void Fields_that_the_class_does_not_have_are_kept_wherever_they_are(string type)
     {
         string[] fields = FieldsOf(type);
-        int first = type == "HATCH" ? fields.Length : 1; // the parts of a hatch are one sequence
+        int first = type is "HATCH" or "MESH" ? fields.Length : 1; // their parts are one sequence
         for (int i = first; i <= fields.Length; i++)
         {
             if (i == fields.Length || !IsBound(fields[i]))

@@ -45,7 +45,7 @@ internal static partial class ObjectSamples
 
     /// <summary>Gets all samples.</summary>
     internal static (string Type, string Fields, Func<CadBaseObject, object> Get, Action<CadBaseObject> Change,
-        object Expected)[] All => [.. Objects, .. Entities];
+        object Expected)[] All => [.. Objects, .. Entities, .. Annotations];
 
     private static (string Type, string Fields, Func<CadBaseObject, object> Get, Action<CadBaseObject> Change,
         object Expected)[] Objects =>
