@@ -7,6 +7,7 @@
 #   make mutants    mutation run over single lines: ONLY=<text of a name or file>
 #   make sanitize   the native units under the address and undefined-behaviour sanitizers
 #   make bench      measurements beside hand-written baselines
+#   make fidelity   rendered drawings beside those of other programs; EZDXF=<checkout> names one of them
 #   make catalogue  which of the types of CATALOGUE=<table> stand, module by module
 #   make wheel      the package as a wheel, in build/dist
 #   make format     put the sources into the code style
@@ -27,7 +28,7 @@ export UseSharedCompilation := false
 export DOTNET_CLI_TELEMETRY_OPTOUT := 1
 export DOTNET_NOLOGO := 1
 
-.PHONY: build demo test fuzz-calls mutants sanitize bench catalogue wheel format lint clean packages
+.PHONY: build demo test fuzz-calls mutants sanitize bench fidelity catalogue wheel format lint clean packages
 
 build: packages $(BUILD)/build.ninja
 	@cmake --build --preset $(PRESET)
@@ -60,18 +61,23 @@ bench: bench_packages build
 	@cmake --build --preset $(PRESET) --target bench_modules
 	@build/python bench/run.py --modules $(BUILD)/bench
 
+fidelity: fidelity_packages build
+	@EZDXF='$(EZDXF)' build/python bench/fidelity/run.py
+
 catalogue: build
 	@build/python tools/catalogue.py $(CATALOGUE)
 
 wheel: build
 	@build/python tools/make_wheel.py --package $(BUILD)/package --out build/dist
 
-.PHONY: test_packages bench_packages lint_packages
+.PHONY: test_packages bench_packages fidelity_packages lint_packages
 test_packages:
 	@tools/ensure-packages.sh test
 	@tools/ensure-type-checker.sh
 bench_packages:
 	@tools/ensure-packages.sh bench
+fidelity_packages:
+	@tools/ensure-packages.sh fidelity
 lint_packages:
 	@tools/ensure-packages.sh lint
 

@@ -53,6 +53,24 @@ internal readonly struct Affine3
         outer.Vector(inner.AxisZ),
         outer.Point(inner.Origin));
 
+    /// <summary>Finds the map back, by Cramer's rule; there is none where the axes are in one plane.</summary>
+    internal bool TryInvert(out Affine3 inverse)
+    {
+        double volume = Vec3.Dot(AxisX, Vec3.Cross(AxisY, AxisZ));
+        if (volume == 0 || !double.IsFinite(1 / volume))
+        {
+            inverse = Identity;
+            return false;
+        }
+
+        Vec3 x = Vec3.Cross(AxisY, AxisZ) * (1 / volume);
+        Vec3 y = Vec3.Cross(AxisZ, AxisX) * (1 / volume);
+        Vec3 z = Vec3.Cross(AxisX, AxisY) * (1 / volume);
+        var linear = new Affine3(new Vec3(x.X, y.X, z.X), new Vec3(x.Y, y.Y, z.Y), new Vec3(x.Z, y.Z, z.Z), default);
+        inverse = new Affine3(linear.AxisX, linear.AxisY, linear.AxisZ, -linear.Vector(Origin));
+        return inverse.IsFinite;
+    }
+
     internal Vec3 Vector(Vec3 v) => (AxisX * v.X) + (AxisY * v.Y) + (AxisZ * v.Z);
 
     internal Vec3 Point(Vec3 p) => Vector(p) + Origin;

@@ -31,6 +31,9 @@ internal sealed class HatchLoop
     internal PathBuffer Path { get; }
 
     internal Vec2[] Ring { get; }
+
+    /// <summary>Gets whether it is the box of a text, which is left out and never filled.</summary>
+    internal bool IsTextBox { get; init; }
 }
 
 internal static class HatchLoops
@@ -39,6 +42,12 @@ internal static class HatchLoops
     internal static List<HatchLoop> Select(List<HatchLoop> loops, HatchStyle style)
     {
         loops.RemoveAll(l => l.Ring.Length < 3);
+        if (loops.Exists(static l => l.IsTextBox))
+        {
+            List<HatchLoop> areas = loops.FindAll(static l => !l.IsTextBox);
+            loops.RemoveAll(l => l.IsTextBox && !IsFilled(areas, Polygons.Center(l.Ring)));
+        }
+
         if (style == HatchStyle.Normal || loops.Count < 2
             || RingNesting.TryDepths(loops.ConvertAll(l => l.Ring)) is not int[] depths)
         {
@@ -50,4 +59,7 @@ internal static class HatchLoops
         loops.RemoveAll(_ => depths[at++] > deepest);
         return loops;
     }
+
+    private static bool IsFilled(List<HatchLoop> areas, Vec2 at) =>
+        (areas.FindAll(area => Polygons.Contains(area.Ring, at)).Count & 1) == 1;
 }

@@ -50,6 +50,18 @@ internal static class Polygons
         return twice / 2;
     }
 
+    /// <summary>Returns the mean of the corners.</summary>
+    internal static Vec2 Center(ReadOnlySpan<Vec2> ring)
+    {
+        Vec2 sum = default;
+        foreach (Vec2 corner in ring)
+        {
+            sum += corner;
+        }
+
+        return sum * (1.0 / ring.Length);
+    }
+
     /// <summary>Even-odd test by crossings of a ray to the right.</summary>
     internal static bool Contains(ReadOnlySpan<Vec2> ring, Vec2 p)
     {

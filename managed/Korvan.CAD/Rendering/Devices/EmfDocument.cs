@@ -112,26 +112,16 @@ internal sealed class EmfDocument : MetafilePlayer
             return;
         }
 
-        bool isUniform = IsUniform(matrix, height);
-        int tenths = isUniform ? TenthsOfDegree(matrix) : 0;
-        if (!TrySelectFont(Engine.SpecOf(run.Font), Math.Max(1, Round(height)), tenths))
+        // A font has no mirrored, slanted or stretched characters, and many readers pass over transforms of text.
+        if (!IsUniform(matrix, height)
+            || !TrySelectFont(Engine.SpecOf(run.Font), Math.Max(1, Round(height)), TenthsOfDegree(matrix)))
         {
             Outline(run, matrix, color);
             return;
         }
 
         _records.Add(EmfRecord.SetTextColor, (int)ColorRef(Opaque(color)));
-        int[] advances = Advances(run, height);
-        if (isUniform)
-        {
-            _records.AddText(run.Text, Round(matrix.X0), Round(matrix.Y0), advances);
-            return;
-        }
-
-        // A font has no mirrored, slanted or stretched characters. Readers that pass over transforms keep the height.
-        SetTransform(matrix * new Affine2(1 / height, 0, 0, -1 / height, 0, 0));
-        _records.AddText(run.Text, 0, 0, advances);
-        ResetTransform();
+        _records.AddText(run.Text, Round(matrix.X0), Round(matrix.Y0), Advances(run, height));
     }
 
     protected override void Image(PlacedImage image, in Affine2 matrix)

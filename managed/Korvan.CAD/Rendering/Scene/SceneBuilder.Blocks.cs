@@ -12,6 +12,10 @@ internal sealed partial class SceneBuilder
 {
     private const string DimensionBlock = "*D";
 
+    // The header variable XCLIPFRAME.
+    private const int OnAll = 1;
+    private const int OnScreens = 2;
+
     private void DrawInsert(CadInsertObject insert, LayerInfo layer, BlockContext context)
     {
         if (_pens.IsFrozen(layer, context) || (_style.AsPlotted && !layer.IsPlotted))
@@ -50,10 +54,35 @@ internal sealed partial class SceneBuilder
 
     private void DrawCells(CadInsertObject insert, BlockInfo block, LayerInfo layer, in Pen pen, BlockContext context)
     {
+        Vec3[]? boundary = _tables.Clips.Find(insert);
         foreach ((Vec3 cell, Affine3 map) in BlockCells.Of(insert, block, context))
         {
-            DrawBlock(block, map, layer, pen, context);
+            if (boundary is null)
+            {
+                DrawBlock(block, map, layer, pen, context);
+            }
+            else
+            {
+                DrawClipped(block, map, boundary, layer, pen, context);
+            }
+
             DrawAttributes(insert, cell, pen, context);
+        }
+    }
+
+    private void DrawClipped(
+        BlockInfo block, in Affine3 map, Vec3[] boundary, LayerInfo layer, in Pen pen, BlockContext context)
+    {
+        AddRing(_canvas.NewPath(), boundary, map);
+        List.PushClip(_canvas.Path, evenOdd: true);
+        DrawBlock(block, map, layer, pen, context);
+        List.PopClip();
+        bool isFramed = _tables.Settings.ClipFrames == OnAll
+            || (_tables.Settings.ClipFrames == OnScreens && !_style.AsPlotted);
+        if (isFramed && _pens.IsVisible(layer, context))
+        {
+            AddRing(_canvas.NewPath(), boundary, map);
+            _canvas.Stroke(pen);
         }
     }
 

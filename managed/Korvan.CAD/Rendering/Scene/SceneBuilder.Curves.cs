@@ -112,8 +112,8 @@ internal sealed partial class SceneBuilder
                 AddSegment(path, at, new Vec2(0, size * 2), both: true);
                 break;
             case 3:
-                AddSegment(path, at, new Vec2(size, size), both: true);
-                AddSegment(path, at, new Vec2(size, -size), both: true);
+                AddSegment(path, at, new Vec2(size * 2, size * 2), both: true);
+                AddSegment(path, at, new Vec2(size * 2, -size * 2), both: true);
                 break;
             case 4:
                 AddSegment(path, at, new Vec2(0, size), both: false);

@@ -87,9 +87,10 @@ internal sealed partial class SceneBuilder
             new PlacedImage(picture.Width, picture.Height, picture.Pixels, matrix, 1), _current.Pen.Layer, extent);
     }
 
-    private void AddRing(PathBuffer path, Vec3[] corners)
+    private void AddRing(PathBuffer path, Vec3[] corners) => AddRing(path, corners, _current.Context.Map);
+
+    private static void AddRing(PathBuffer path, Vec3[] corners, in Affine3 map)
     {
-        Affine3 map = _current.Context.Map;
         path.MoveTo(map.Project(corners[0]));
         for (int i = 1; i < corners.Length; i++)
         {

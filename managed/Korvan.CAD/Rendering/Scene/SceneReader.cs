@@ -46,6 +46,7 @@ internal static class SceneReader
             Settings = Settings(drawing),
             Images = ImageFiles.Of(drawing),
             Shapes = ShapeFiles.Of(drawing),
+            Clips = ClipBoundaries.Of(drawing),
             Dimensions = new DimensionStyles(drawing),
         };
         var styleNames = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
@@ -104,6 +105,7 @@ internal static class SceneReader
             ShowLineWeights = header.LwDisplay != 0 || !header.Contains("$LWDISPLAY"),
             TextSize = header.TextSize > 0 ? header.TextSize : 2.5,
             WipeoutFrames = wipeout != null && wipeout.DisplayFrame != 0,
+            ClipFrames = (int)header.GetDouble("$XCLIPFRAME"),
             Created = Date(header, "$TDUCREATE") ?? Date(header, "$TDCREATE"),
             Modified = Date(header, "$TDUUPDATE") ?? Date(header, "$TDUPDATE"),
         };

@@ -89,6 +89,9 @@ internal sealed record SceneSettings
 
     internal bool WipeoutFrames { get; init; }
 
+    /// <summary>Whether the boundaries of clipped block references show: 0 no, 1 yes, 2 on screens only.</summary>
+    internal int ClipFrames { get; init; }
+
     /// <summary>When the drawing was made, in universal time.</summary>
     internal DateTime? Created { get; init; }
 
@@ -129,6 +132,9 @@ internal sealed class SceneTables
 
     /// <summary>The symbols of the shape files that the drawing names.</summary>
     internal ShapeFiles Shapes { get; set; } = ShapeFiles.None;
+
+    /// <summary>What block references are clipped to.</summary>
+    internal ClipBoundaries Clips { get; set; } = ClipBoundaries.None;
 
     internal SceneSettings Settings { get; set; } = new();
 

@@ -40,18 +40,14 @@ public class EmfTextTests
     }
 
     [Fact]
-    public void What_a_font_has_not_is_left_to_a_transform_without_a_size()
+    public void Texts_that_no_font_has_become_outlines()
     {
         List<Shown> texts = Save(
             new CadText { DefaultValue = "plain", TextHeight = 10 },
-            new CadText { DefaultValue = "plain", TextHeight = 10, ScaleX = 0.5 },
-            new CadText { DefaultValue = "plain", TextHeight = 10, ObliqueAngle = 20 },
-            new CadText { DefaultValue = "plain", TextHeight = 10, TextGenerationFlags = 2 });
-        Assert.Null(texts[0].Transform);
-        Assert.All(texts[1..], text => Assert.Equal(1, Math.Abs(text.Transform![3]), 0.01));
-        Assert.Equal([0.5, 1, -1], texts[1..].Select(text => Math.Round(text.Transform![0], 2)));
-        Assert.Equal(texts[0].Height, texts[1].Height);
-        Assert.Equal(texts[0].Advance, texts[1].Advance);
+            new CadText { DefaultValue = "narrow", TextHeight = 10, ScaleX = 0.5 },
+            new CadText { DefaultValue = "slanted", TextHeight = 10, ObliqueAngle = 20 },
+            new CadText { DefaultValue = "mirrored", TextHeight = 10, TextGenerationFlags = 2 });
+        Assert.Equal("plain", Assert.Single(texts).Content);
     }
 
     private static List<Shown> Save(params CadEntityBase[] entities)

@@ -146,7 +146,7 @@ public class EntityTests
     [InlineData(0, 0)] // a dot
     [InlineData(2, 40)] // a plus of twice the size
     [InlineData(34, 40 + 31.416)] // and a circle
-    [InlineData(67, 28.284 + 40)] // a cross in a square
+    [InlineData(67, 56.569 + 40)] // a cross of twice the size in a square
     public void Points_are_drawn_as_their_mode_says(int mode, double length)
     {
         CadImage drawing = Picture.Drawing(new CadPoint());

@@ -68,6 +68,17 @@ public class HatchTests
         Assert.Equal(count, HatchLoops.Select(loops, (HatchStyle)style).Count);
     }
 
+    [Theory]
+    [InlineData(1, true)] // in the filled part: left out
+    [InlineData(5, false)] // in an island: not filled again
+    public void Boxes_of_texts_are_never_filled(double at, bool isLeftOut)
+    {
+        var box = new HatchLoop(Loop(at, at, 1).Path, 1e-3) { IsTextBox = true };
+        List<HatchLoop> found = HatchLoops.Select([Loop(0, 0, 10), Loop(4, 4, 4), box], HatchStyle.Normal);
+        Assert.Equal(isLeftOut, found.Contains(box));
+        Assert.Equal(isLeftOut ? 3 : 2, found.Count);
+    }
+
     [Fact]
     public void Loops_side_by_side_do_not_nest()
     {

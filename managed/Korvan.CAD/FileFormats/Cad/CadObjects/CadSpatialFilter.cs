@@ -15,8 +15,8 @@ public partial class CadSpatialFilter : CadObjectBase
     {
     }
 
-    /// <summary>Gets the boundary: two opposite corners of a rectangle or the corners of a polygon, in object
-    /// coordinates. The list is live. Group codes 10, 20.</summary>
+    /// <summary>Gets the boundary: two opposite corners of a rectangle or the corners of a polygon, in the coordinates
+    /// that <see cref="Transform"/> leads to. The list is live. Group codes 10, 20.</summary>
     [CadList(10, Count = 70)]
     public IList<Cad2DPoint> BoundaryPoints { get; } = new CheckedList<Cad2DPoint>("boundary_points");
 
@@ -28,7 +28,7 @@ public partial class CadSpatialFilter : CadObjectBase
     [Cad3DPoint(11)]
     public Cad3DPoint Origin { get; set; } = new();
 
-    /// <summary>Gets or sets whether the boundary is shown: 0 no, 1 yes. Group code 71.</summary>
+    /// <summary>Gets or sets whether the block reference is clipped: 0 no, 1 yes. Group code 71.</summary>
     [CadShort(71)]
     public short IsBoundaryShown { get; set; } = 1;
 
@@ -50,12 +50,13 @@ public partial class CadSpatialFilter : CadObjectBase
     [CadWhen("HasBackClipping != 0")]
     public double BackClippingDistance { get; set; }
 
-    /// <summary>Gets the inverse of the transform of the block reference: 12 numbers, row by row. The list is live.
-    /// Group code 40.</summary>
+    /// <summary>Gets the inverse of the transform that the block reference had when it was clipped: 12 numbers, row by
+    /// row. The list is live. Group code 40.</summary>
     [CadList(40, Max = 12)]
     public List<double> InverseTransform { get; } = [1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0];
 
-    /// <summary>Gets the transform of the boundary: 12 numbers, row by row. The list is live. Group code 40.</summary>
+    /// <summary>Gets the transform from world coordinates to those of the boundary: 12 numbers, row by row. The list is
+    /// live. Group code 40.</summary>
     [CadList(40, Max = 12)]
     public List<double> Transform { get; } = [1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0];
 }

@@ -8,18 +8,17 @@ using Korvan.CAD.FileFormats.Cad.CadTables;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
-/// <summary> Relates references to the dynamic blocks they show. A reference to a state names an anonymous block with
+/// <summary>Relates references to the dynamic blocks they show. A reference to a state names an anonymous block with
 /// the entities of that state; extended data of its record, and an object of the reference, state the dynamic block.
 /// </summary>
 internal sealed class DynamicBlocks(CadDrawing drawing)
 {
     private const string BlockTag = "AcDbBlockRepBTag";
-    private const string ExtensionDictionary = "ACAD_XDICTIONARY";
     private const string GraphEntry = "ACAD_ENHANCEDBLOCK";
     private const string RepresentationEntry = "AcDbBlockRepresentation";
     private const int HandleCode = 1005;
 
-    private readonly Dictionary<ulong, CadObjectBase> _objects = Index(drawing);
+    private readonly ExtensionDictionaries _owned = new(drawing);
 
     /// <summary>Returns the dynamic block that a reference shows in one of its states; null for other
     /// references.</summary>
@@ -32,7 +31,7 @@ internal sealed class DynamicBlocks(CadDrawing drawing)
     internal string StateOf(CadInsertObject reference)
     {
         CadBlockVisibilityParameter? parameter = RecordOf(reference) is { } record
-            ? GraphOf(record)?.GetObjectHandles().Select(Find).OfType<CadBlockVisibilityParameter>().FirstOrDefault()
+            ? GraphOf(record)?.GetObjectHandles().Select(_owned.Find).OfType<CadBlockVisibilityParameter>().FirstOrDefault()
             : null;
         if (parameter is null)
         {
@@ -41,17 +40,6 @@ internal sealed class DynamicBlocks(CadDrawing drawing)
 
         string[] names = parameter.GetStateNames();
         return StoredState(reference, parameter, names) ?? ShownState(reference, parameter, names) ?? "";
-    }
-
-    private static Dictionary<ulong, CadObjectBase> Index(CadDrawing drawing)
-    {
-        Dictionary<ulong, CadObjectBase> objects = [];
-        foreach (CadObjectBase item in drawing.Objects)
-        {
-            objects.TryAdd(item.Handle, item);
-        }
-
-        return objects;
     }
 
     private CadBlockTableObject? RecordOf(CadInsertObject reference)
@@ -97,19 +85,10 @@ internal sealed class DynamicBlocks(CadDrawing drawing)
                 .SetEquals(visible));
     }
 
-    private CadDictionaryBase? Dictionary(CadBaseObject? owner)
-    {
-        string? handle = owner?.ApplicationCodesOrNull?.ApplicationCodes
-            .Find(static group => group.ApplicationName == ExtensionDictionary)?.Codes.Find(static _ => true)?.Value;
-        return handle is null ? null : Find(handle) as CadDictionaryBase;
-    }
+    private CadDictionaryBase? Dictionary(CadBaseObject? owner) => _owned.Of(owner);
 
     private CadDictionaryBase? Dictionary(CadDictionaryBase? dictionary, string name) =>
         Entry(dictionary, name) as CadDictionaryBase;
 
-    private CadObjectBase? Entry(CadDictionaryBase? dictionary, string name) =>
-        dictionary is not null && dictionary.TryGet(name, out ulong handle) ? _objects.GetValueOrDefault(handle) : null;
-
-    private CadObjectBase? Find(string handle) =>
-        HandleText.TryParse(handle, out ulong number) ? _objects.GetValueOrDefault(number) : null;
+    private CadObjectBase? Entry(CadDictionaryBase? dictionary, string name) => _owned.Entry(dictionary, name);
 }

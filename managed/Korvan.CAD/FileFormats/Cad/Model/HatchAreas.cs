@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.Geometry;
 
@@ -21,7 +22,10 @@ internal static class HatchAreas
             {
                 path.Close();
                 double size = Math.Max(path.Bounds.Width, path.Bounds.Height);
-                loops.Add(new HatchLoop(path, Math.Max(size * Tolerance, 1e-9)));
+                loops.Add(new HatchLoop(path, Math.Max(size * Tolerance, 1e-9))
+                {
+                    IsTextBox = (container.PathTypeFlag & CadBoundaryPathTypeFlag.Textbox) != 0,
+                });
             }
         }
 

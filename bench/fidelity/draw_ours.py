@@ -1,0 +1,57 @@
+"""Renders the model space of drawings, on white, in the formats that are named.
+
+    build/python bench/fidelity/draw_ours.py SIDE FOLDER png,pdf DRAWING ...
+"""
+
+from __future__ import annotations
+
+import os
+import sys
+from pathlib import Path
+
+import korvan.cad
+from korvan.cad import Color, imageoptions
+from korvan.cad.fileformats.cad import CadDrawTypeMode
+
+OPTIONS = {
+    "png": imageoptions.PngOptions,
+    "pdf": imageoptions.PdfOptions,
+    "svg": imageoptions.SvgOptions,
+    "emf": imageoptions.EmfOptions,
+    "wmf": imageoptions.WmfOptions,
+    "html": imageoptions.Html5Options,
+    "cgm": imageoptions.CgmOptions,
+}
+
+
+def _page(side: float) -> imageoptions.CadRasterizationOptions:
+    page = imageoptions.CadRasterizationOptions()
+    page.page_width = page.page_height = side
+    page.layouts = ["Model"]
+    page.draw_type = CadDrawTypeMode.USE_OBJECT_COLOR
+    page.background_color = Color.white
+    return page
+
+
+def main() -> None:
+    side, folder, extensions, *drawings = sys.argv[1:]
+    Path(folder).mkdir(parents=True, exist_ok=True)
+    for drawing in drawings:
+        name = Path(folder) / Path(drawing).name
+        load = korvan.cad.LoadOptions()
+        load.ignore_errors = True
+        image = korvan.cad.Image.load(drawing, load)
+        for extension in extensions.split(","):
+            options = OPTIONS[extension]()
+            options.vector_rasterization_options = _page(float(side))
+            target = f"{name}.{extension}"
+            try:
+                image.save(target, options)
+            except RuntimeError as error:
+                print(f"{target}: {error}", file=sys.stderr)
+                if os.path.exists(target):
+                    os.remove(target)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,50 @@
+"""Renders the model space of a drawing by the drawing add-on of ezdxf, on white, with our fonts.
+
+Runs under the system's Python, with a checkout of ezdxf on its path: draw_reference.py SIDE DRAWING TARGET.
+"""
+
+from __future__ import annotations
+
+import subprocess
+import sys
+
+from ezdxf import recover
+from ezdxf.addons.drawing import Frontend, RenderContext, config, layout, svg
+from ezdxf.fonts import fonts
+
+PIXELS_PER_MM = 96 / 25.4
+# The fonts that ours takes instead of those of other systems and of stroke fonts; the others are found as they are.
+REPLACEMENT = "LiberationSans-Regular.ttf"
+REPLACEMENTS = {
+    "LiberationSans-Bold.ttf": "arialbd.ttf",
+    "LiberationSans-Italic.ttf": "ariali.ttf",
+    "LiberationSerif-Regular.ttf": "times.ttf",
+    "LiberationMono-Regular.ttf": "cour.ttf",
+    REPLACEMENT: "arial.ttf",
+}
+
+
+def _use_our_fonts() -> None:
+    manager = fonts.font_manager
+    manager._fallback_font_name = REPLACEMENT  # pylint: disable=protected-access
+    manager.add_synonyms({ours: theirs for ours, theirs in REPLACEMENTS.items() if manager.has_font(ours)})
+
+
+def main() -> None:
+    side, drawing, target = sys.argv[1:]
+    _use_our_fonts()
+    document, _ = recover.readfile(drawing)
+    settings = config.Configuration(
+        background_policy=config.BackgroundPolicy.WHITE,
+        min_lineweight=1 / PIXELS_PER_MM,
+    )
+    backend = svg.SVGBackend()
+    Frontend(RenderContext(document), backend, config=settings).draw_layout(document.modelspace())
+    size = float(side) / PIXELS_PER_MM
+    page = backend.get_string(layout.Page(size, size, layout.Units.mm, margins=layout.Margins.all(0)))
+    subprocess.run(["rsvg-convert", "-w", side, "-h", side, "--unlimited", "-b", "white", "-o", target],
+                   input=page, text=True, check=True)
+
+
+if __name__ == "__main__":
+    main()

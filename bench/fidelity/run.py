@@ -1,0 +1,165 @@
+"""Holds rendered drawings beside what other programs render: `make fidelity`.
+
+Two tables. The first has every drawing beside the drawing add-on of ezdxf, where EZDXF names a checkout of it; the
+second has our pages as other programs show them beside our own pixels. A figure is the share of the foreground that has
+foreground of the other side within two pixels. Programs that are not installed are named and left out.
+
+    build/python bench/fidelity/run.py [--drawings FOLDER] [--out FOLDER] [--only TEXT] [drawings] [pages]
+"""
+
+from __future__ import annotations
+
+import argparse
+import json
+import os
+import subprocess
+import sys
+import tomllib
+from dataclasses import dataclass
+from pathlib import Path
+
+HERE = Path(__file__).resolve().parent
+ROOT = HERE.parent.parent
+sys.path.insert(0, str(HERE.parent))
+
+from report import Table  # noqa: E402 the folder above has it
+from viewers import VIEWERS, SYSTEM_PYTHON, Viewer  # noqa: E402
+
+SIDE = 1600
+DRAWING_AIM = 98.0
+PAGE_AIM = 99.0
+SECONDS = 300
+
+
+@dataclass(frozen=True)
+class Shares:
+    """Per cent of the foreground of each side that the other side has, too."""
+
+    forth: float
+    back: float
+
+    @property
+    def least(self) -> float:
+        """The lower one."""
+        return min(self.forth, self.back)
+
+    def cells(self) -> tuple[str, str]:
+        """As the table has them."""
+        return f"{self.forth:.2f}", f"{self.back:.2f}"
+
+
+def _ours(drawings: list[Path], out: Path, extensions: list[str]) -> None:
+    command = [sys.executable, str(HERE / "draw_ours.py"), str(SIDE), str(out), ",".join(extensions)]
+    subprocess.run([*command, *map(str, drawings)], check=True)
+
+
+def _reference(drawing: Path, target: Path, checkout: Path) -> str | None:
+    """Renders by the add-on; returns why it could not."""
+    environment = {key: value for key, value in os.environ.items() if not key.startswith("PYTHON")}
+    environment |= {"PYTHONPATH": str(checkout / "src"), "XDG_CACHE_HOME": str(target.parent / "cache")}
+    command = [SYSTEM_PYTHON, str(HERE / "draw_reference.py"), str(SIDE), str(drawing), str(target)]
+    try:
+        result = subprocess.run(command, env=environment, capture_output=True, text=True, timeout=SECONDS)
+    except subprocess.TimeoutExpired:
+        return f"the add-on needs more than {SECONDS} s"
+    if result.returncode != 0:
+        return "the add-on fails: " + (result.stderr.strip().splitlines() or ["without a message"])[-1]
+    return None
+
+
+def _compare(pairs: list[tuple[Path, Path, Path]]) -> list[Shares | str]:
+    """The shares of pairs of images, each with the file that shows the difference; or why there are none."""
+    if not pairs:
+        return []
+    names = json.dumps([[str(path) for path in pair] for pair in pairs])
+    result = subprocess.run([SYSTEM_PYTHON, str(HERE / "compare.py")], input=names, capture_output=True, text=True,
+                            env={key: value for key, value in os.environ.items() if not key.startswith("PYTHON")})
+    if result.returncode != 0:
+        sys.exit(f"compare.py fails (it needs numpy, scipy and Pillow of {SYSTEM_PYTHON}):\n{result.stderr}")
+    found: list[list[float] | str] = [json.loads(line) for line in result.stdout.splitlines()]
+    return [row if isinstance(row, str) else Shares(*row) for row in found]
+
+
+def _add(table: Table, name: str, found: Shares | str, aim: float, known: dict[str, str]) -> bool:
+    """Adds a row; says whether it reaches the aim or has a known reason not to."""
+    if isinstance(found, str):
+        table.add(name, "", "", known.get(name, found))
+        return name in known
+    reason = "" if found.least >= aim else known.get(name, "?")
+    table.add(name, *found.cells(), reason)
+    return reason != "?"
+
+
+def _drawings(drawings: list[Path], out: Path, known: dict[str, str]) -> bool:
+    checkout = os.environ.get("EZDXF")
+    if not checkout:
+        print("\nEZDXF names no checkout of ezdxf: drawings are not compared")
+        return True
+    folder = out / "reference"
+    folder.mkdir(parents=True, exist_ok=True)
+    _ours(drawings, out / "ours", ["png"])
+    failures = {path: _reference(path, folder / f"{path.name}.png", Path(checkout)) for path in drawings}
+    able = [path for path, failure in failures.items() if failure is None]
+    shares = dict(zip(able, _compare([
+        (folder / f"{path.name}.png", out / "ours" / f"{path.name}.png", out / "drawings" / f"{path.name}.png")
+        for path in able])))
+    table = Table("Drawings beside the add-on, per cent of the foreground that the other has",
+                  ("", "its, in ours", "ours, in its", "below the aim because"))
+    rows = [_add(table, path.name, shares.get(path) or failures[path] or "", DRAWING_AIM, known) for path in drawings]
+    table.print()
+    print(f"  aim, {DRAWING_AIM:g} % both ways or a known reason: {'held' if all(rows) else 'MISSED'}")
+    return all(rows)
+
+
+def _pages(drawings: list[Path], out: Path, known: dict[str, str]) -> bool:
+    viewers = [viewer for viewer in VIEWERS if viewer.is_there()]
+    for viewer in VIEWERS:
+        if viewer not in viewers:
+            print(f"{viewer.name} is not installed: {viewer.extension} is not shown by it")
+    _ours(drawings, out / "ours", ["png", *sorted({viewer.extension for viewer in viewers})])
+    held = [_pages_by(viewer, drawings, out, known) for viewer in viewers]
+    return all(held)
+
+
+def _pages_by(viewer: Viewer, drawings: list[Path], out: Path, known: dict[str, str]) -> bool:
+    folder = out / viewer.key
+    folder.mkdir(parents=True, exist_ok=True)
+    there = [path for path in drawings if (out / "ours" / f"{path.name}.{viewer.extension}").exists()]
+    viewer.show([out / "ours" / f"{path.name}.{viewer.extension}" for path in there], folder, SIDE)
+    shown = [path for path in there if (folder / f"{path.name}.png").exists()]
+    shares = dict(zip(shown, _compare([
+        (folder / f"{path.name}.png", out / "ours" / f"{path.name}.png", out / f"pages-{viewer.key}" / f"{path.name}.png")
+        for path in shown])))
+    table = Table(f"{viewer.extension} by {viewer.name}, beside our pixels",
+                  ("", "its, in ours", "ours, in its", "below the aim because"))
+    rows = [_add(table, path.name, shares.get(path, "nothing was shown"), PAGE_AIM,
+                 {name: reason for name, reason in known.items()} | _of(known, viewer.key)) for path in there]
+    table.print()
+    print(f"  aim, {PAGE_AIM:g} % both ways or a known reason: {'held' if all(rows) else 'MISSED'}")
+    return all(rows)
+
+
+def _of(known: dict[str, str], key: str) -> dict[str, str]:
+    """The reasons that hold for one viewer, which are under its name and that of the drawing."""
+    return {name.removeprefix(f"{key}/"): reason for name, reason in known.items() if name.startswith(f"{key}/")}
+
+
+def main() -> int:
+    parser = argparse.ArgumentParser(description=(__doc__ or "").splitlines()[0])
+    parser.add_argument("--drawings", type=Path, default=ROOT.parent / "shared" / "drawings" / "dxf")
+    parser.add_argument("--out", type=Path, default=ROOT / "build" / "fidelity")
+    parser.add_argument("--only", default="", help="text that the names of the drawings have to contain")
+    parser.add_argument("tables", nargs="*", help="drawings, pages; both by default")
+    arguments = parser.parse_args()
+    drawings = sorted(path for path in arguments.drawings.glob("*.dxf*") if arguments.only in path.name)
+    if not drawings:
+        print(f"{arguments.drawings} has no drawings: nothing is compared")
+        return 0
+    known = tomllib.loads((HERE / "known.toml").read_text(encoding="utf-8"))
+    held = [table(drawings, arguments.out.resolve(), known[name]) for name, table in
+            (("drawings", _drawings), ("pages", _pages)) if not arguments.tables or name in arguments.tables]
+    return 0 if all(held) else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
