@@ -96,6 +96,35 @@ internal static unsafe partial class PosixFile
         }
     }
 
+    /// <summary>Makes a file of a length, whose every byte has its room on the disk.</summary>
+    internal static void Reserve(SafeFileHandle file, long length)
+    {
+        const long piece = 64L << 20;
+        for (long start = 0; start < length; start += piece)
+        {
+            Budget.Check();
+            int error;
+            do
+            {
+                error = Allocate((int)file.DangerousGetHandle(), start, Math.Min(piece, length - start));
+            }
+            while (error == Interrupted);
+
+            if (error != 0)
+            {
+                throw Failure(error);
+            }
+        }
+    }
+
+    /// <summary>Takes the pages of a mapped file out of the memory of the process; they come back when they are
+    /// used.</summary>
+    internal static void LeaveMemory(byte* start, long length)
+    {
+        const int notNeeded = 4; // MADV_DONTNEED
+        _ = Advise(start, (nuint)length, notNeeded);
+    }
+
     private static string DescriptorPath(SafeFileHandle file) => $"/proc/self/fd/{file.DangerousGetHandle()}";
 
     private static IOException Failure(int error) => new(Marshal.GetPInvokeErrorMessage(error));
@@ -108,6 +137,12 @@ internal static unsafe partial class PosixFile
 
     [LibraryImport("libc", EntryPoint = "linkat", StringMarshalling = StringMarshalling.Utf8, SetLastError = true)]
     private static partial int LinkAt(int fromFolder, string from, int toFolder, string to, int flags);
+
+    [LibraryImport("libc", EntryPoint = "posix_fallocate")]
+    private static partial int Allocate(int descriptor, long start, long length);
+
+    [LibraryImport("libc", EntryPoint = "madvise")]
+    private static partial int Advise(byte* start, nuint length, int advice);
 
     [LibraryImport("libc", EntryPoint = "write", SetLastError = true)]
     private static partial nint Write(int descriptor, byte* data, nint count);
