@@ -21,8 +21,9 @@ internal sealed class Budget : IDisposable
     /// <summary>The memory for each byte of larger files.</summary>
     internal const int MemoryPerByte = 44;
 
-    /// <summary>The memory that stands for one step: drawing an entity, a dash, a glyph.</summary>
-    private const int MemoryPerStep = 64;
+    /// <summary>The memory that stands for one step, which takes about 5 µs: drawing an entity, a dash, a
+    /// glyph.</summary>
+    private const int MemoryPerStep = 192;
     private const long PollInterval = 20; // milliseconds
 
     [ThreadStatic]
@@ -34,7 +35,7 @@ internal sealed class Budget : IDisposable
     private readonly long _deadline;
     private readonly int _timeout;
     private readonly long _heapAtStart;
-    private readonly long _maxSteps;
+    private long _maxSteps;
     private long _nextPoll;
     private long _nextCollection;
     private long _pixels;
@@ -55,7 +56,7 @@ internal sealed class Budget : IDisposable
     internal static Budget? Current => _current;
 
     /// <summary>Gets the bytes that the call may take.</summary>
-    internal long Memory { get; }
+    internal long Memory { get; private set; }
 
     /// <summary>Begins a call; disposing the result ends it.</summary>
     /// <param name="sourceLength">The length of the file in bytes; null for content that is not from a file, which has
@@ -112,6 +113,16 @@ internal sealed class Budget : IDisposable
         if (_current is { } budget && bytes > 1 << 20)
         {
             budget.VerifyHeap(bytes);
+        }
+    }
+
+    /// <summary>Adds what the call may take for a further file.</summary>
+    internal void AddSource(long length)
+    {
+        if (Memory < long.MaxValue)
+        {
+            Memory += length * MemoryPerByte;
+            _maxSteps = Memory / MemoryPerStep;
         }
     }
 
