@@ -15,6 +15,7 @@ public static class Cache
     private static readonly Lock Gate = new();
     private static string _folder = Path.GetTempPath();
     private static long _memoryLimit = DefaultMemory;
+    private static bool _isMemoryLimitSet;
     private static long _diskLimit = DefaultDisk;
     private static long _memoryUsed;
     private static long _diskUsed;
@@ -42,6 +43,8 @@ public static class Cache
 
     /// <summary>Gets or sets how many bytes the pixels of all images may take in memory; 0 for no limit. 1 GiB by
     /// default.</summary>
+    /// <remarks>Setting it also raises what a single file may take: by default, loading, rendering and writing a file
+    /// take at most 44 times its size, but at least 192 MiB, and pixels beyond that are stored on disk.</remarks>
     /// <exception cref="ArgumentOutOfRangeException">The number is negative.</exception>
     public static long MaxMemoryForCache
     {
@@ -50,6 +53,7 @@ public static class Cache
         {
             Verify.NotNegative(value);
             _memoryLimit = value;
+            _isMemoryLimitSet = true;
         }
     }
 
@@ -82,17 +86,29 @@ public static class Cache
         CacheType = CacheType.Auto;
         CacheFolder = Path.GetTempPath();
         MaxMemoryForCache = DefaultMemory;
+        _isMemoryLimitSet = false;
         MaxDiskSpaceForCache = DefaultDisk;
         ExactReallocateOnly = false;
     }
 
+    /// <summary>What a message advises that states a limit of a single file.</summary>
+    internal const string HowToRaise = $"set Cache.{nameof(MaxMemoryForCache)} to raise it";
+
+    /// <summary>Gets the bytes that the program allows each file to take; 0 if it leaves that to the size of the
+    /// file.</summary>
+    internal static long MemoryOfOneFile =>
+        !_isMemoryLimitSet ? 0 : _memoryLimit == 0 ? long.MaxValue : _memoryLimit;
+
     /// <summary>Reserves storage for pixels; returns whether it is on disk.</summary>
-    internal static bool Book(long bytes)
+    /// <param name="bytes">The length.</param>
+    /// <param name="fitsFile">Whether the file that the pixels are made of may take that much memory.</param>
+    internal static bool Book(long bytes, bool fitsFile)
     {
         lock (Gate)
         {
             bool fits = _memoryLimit == 0 || _memoryUsed + bytes <= _memoryLimit;
-            bool onDisk = CacheType == CacheType.CacheOnDiskOnly || (CacheType == CacheType.Auto && !fits);
+            bool onDisk = CacheType == CacheType.CacheOnDiskOnly
+                || (CacheType == CacheType.Auto && !(fits && fitsFile));
             if (onDisk ? _diskLimit != 0 && _diskUsed + bytes > _diskLimit : !fits)
             {
                 string place = onDisk ? $"on disk would pass Cache.{nameof(MaxDiskSpaceForCache)}"

@@ -1,7 +1,9 @@
 using System;
 using System.Diagnostics.CodeAnalysis;
 using System.Runtime.CompilerServices;
+using System.Runtime.ExceptionServices;
 using System.Runtime.InteropServices;
+using System.Threading;
 using System.Threading.Tasks;
 
 namespace Korvan.CAD;
@@ -24,15 +26,59 @@ internal static partial class ForkedProcess
     /// <param name="run">Processes the piece with an index.</param>
     internal static void RunPieces(int count, Action<int> run)
     {
-        if (count > 1 && !IsChild)
+        int next = 0;
+        Budget? budget = Budget.Current;
+        var helpers = new Task[count > 1 && !IsChild ? Math.Min(count, Environment.ProcessorCount) - 1 : 0];
+        for (int i = 0; i < helpers.Length; i++)
         {
-            Parallel.For(0, count, run);
-            return;
+            helpers[i] = Task.Run(RunNext);
         }
 
-        for (int i = 0; i < count; i++)
+        Exception? failure = null;
+        try
         {
-            run(i);
+            RunNext();
+        }
+        catch (Exception e)
+        {
+            failure = e;
+        }
+
+        WaitFor(helpers, budget, failure);
+
+        void RunNext()
+        {
+            using Budget.ThreadShare share = Budget.Share(budget);
+            for (int i = Interlocked.Increment(ref next) - 1; i < count; i = Interlocked.Increment(ref next) - 1)
+            {
+                run(i);
+            }
+        }
+    }
+
+    // The calling thread is the one that notices interruptions. It leaves when no thread works for it any more.
+    private static void WaitFor(Task[] helpers, Budget? budget, Exception? failure)
+    {
+        const int pollInterval = 20;
+        while (Array.Exists(helpers, static helper => !helper.IsCompleted))
+        {
+            try
+            {
+                if (!Task.WaitAll(helpers, pollInterval) && failure is null)
+                {
+                    budget?.Poll();
+                }
+            }
+            catch (Exception e)
+            {
+                failure ??= e is AggregateException { InnerException: { } first } ? first : e;
+            }
+        }
+
+        failure ??= Array.Find(helpers, static helper => helper.IsFaulted)?.Exception!.InnerException;
+        if (failure is not null)
+        {
+            ExceptionDispatchInfo.Throw(failure);
         }
     }
 

@@ -69,6 +69,10 @@ public abstract partial class Image : DataStreamSupporter
     /// <summary>Gets the position in its stream at which the image begins, in bytes.</summary>
     internal long DataStart { get; set; }
 
+    /// <summary>Gets the length of the file that the image was read from, in bytes; null for images that were created in
+    /// memory.</summary>
+    internal long? SourceLength { get; set; }
+
     /// <summary>Gets the path that the image was read from, or <see langword="null"/>.</summary>
     internal virtual string? FilePath { get; set; }
 
@@ -291,8 +295,9 @@ public abstract partial class Image : DataStreamSupporter
 
     private void WriteOwn(ImageOptionsBase options, Stream stream)
     {
+        using Budget budget = Budget.Begin(SourceLength, options.Timeout);
         ExportContext context = new(options, LoadOptions);
-        FormatRegistry.FindWriter(this, options.GetType())!.Write(this, context, stream);
+        FormatRegistry.FindWriter(this, options.GetType())!.Write(this, context, new WatchedStream(stream));
     }
 
     private string OptionNames() =>
@@ -304,7 +309,9 @@ public abstract partial class Image : DataStreamSupporter
         FormatWriter writer = FormatRegistry.FindWriter(this, options.GetType())!;
         options.RenderResult = null;
         options.VerifyHonoured(writer.KindOf(this)!.Value);
+        using Budget budget = Budget.Begin(SourceLength, options.Timeout);
         var context = new ExportContext(options, LoadOptions);
+        stream = new WatchedStream(stream);
         if (options.Source is null)
         {
             writer.Write(this, context, stream);

@@ -24,8 +24,7 @@ internal static class ImageLoader
     internal static Image Load(string filePath, LoadOptions loadOptions)
     {
         Verify.NotNull(loadOptions);
-        Content content = SourceFile.Read(filePath, ReadContent);
-        Image image = Read(content, filePath, loadOptions);
+        Image image = SourceFile.Read(filePath, source => Read(source, filePath, loadOptions));
         image.FilePath = Path.GetFullPath(filePath);
         return image;
     }
@@ -36,7 +35,7 @@ internal static class ImageLoader
         Verify.NotNull(loadOptions);
         string name = fileName ?? StreamName;
         SourceWindow source = SourceFile.Open(stream, name);
-        Image image = Read(ReadContent(source), name, loadOptions);
+        Image image = Read(source, name, loadOptions);
         image.DataStreamContainer = new StreamContainer(stream, loadOptions.UnloadOnDispose);
         image.DataStart = source.Start;
         image.FilePath = fileName is null ? null : Path.GetFullPath(fileName);
@@ -77,12 +76,20 @@ internal static class ImageLoader
         return new Content(source.All(), format);
     }
 
-    private static Image Read(Content content, string name, LoadOptions options)
+    private static Image Read(SourceWindow source, string name, LoadOptions options)
     {
+        Content content;
+        using (Budget.Begin(null))
+        {
+            content = ReadContent(source);
+        }
+
+        using Budget budget = Budget.Begin(content.Data.Length);
         object model = FormatRegistry.Find(content.Format)!.Read!(content.Data, name, content.Format, options);
         Image image = Vectorized(ImageOf(model), options);
         image.LoadOptions = options;
         image.SourceFormat = content.Format;
+        image.SourceLength = content.Data.Length;
         return image;
     }
 

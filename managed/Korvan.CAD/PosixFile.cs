@@ -13,6 +13,8 @@ internal static unsafe partial class PosixFile
     private const int FollowLink = 0x400; // AT_SYMLINK_FOLLOW
     private const int WriteOnly = 1;
     private const int ReadWrite = 2;
+    private const int NonBlocking = 0x800; // O_NONBLOCK
+    private const int EmptyPath = 0x1000; // AT_EMPTY_PATH
     private const int NoTerminal = 0x100; // O_NOCTTY
     private const int CloseOnExec = 0x80000;
     private const int Unnamed = 0x410000; // O_TMPFILE
@@ -40,7 +42,7 @@ internal static unsafe partial class PosixFile
     internal static Kind KindOf(string path)
     {
         byte* status = stackalloc byte[StatusLength];
-        return StatX(CurrentFolder, path, 0, KindRequested, status) == 0
+        return TryEncode(path) is { } name && StatX(CurrentFolder, name, 0, KindRequested, status) == 0
             ? (Kind)(*(ushort*)(status + ModeOffset) & KindMask)
             : Kind.Absent;
     }
@@ -78,6 +80,56 @@ internal static unsafe partial class PosixFile
         return file < 0 ? throw Failure(Marshal.GetLastPInvokeError()) : new SafeFileHandle(file, true);
     }
 
+    /// <summary>Opens an existing regular file for reading. Nothing else is opened: a FIFO would wait for a writer, a
+    /// device has no end, and files of the system state what is none of the caller's business.</summary>
+    internal static SafeFileHandle OpenRegular(string path)
+    {
+        int file = OpenEncoded(UndecodableFileName.Encode(path), NonBlocking | NoTerminal | CloseOnExec, 0);
+        if (file < 0)
+        {
+            throw Failure(Marshal.GetLastPInvokeError());
+        }
+
+        var handle = new SafeFileHandle(file, true);
+        byte* status = stackalloc byte[StatusLength];
+        bool isRegular = StatX(file, [0], EmptyPath, KindRequested, status) == 0
+            && (Kind)(*(ushort*)(status + ModeOffset) & KindMask) == Kind.Regular;
+        if (!isRegular || IsOfSystem(file))
+        {
+            handle.Dispose();
+            throw new IOException("it is not a regular file, but a device, a pipe or a file of the system; open it in "
+                + "Python and pass the stream");
+        }
+
+        return handle;
+    }
+
+    /// <summary>Returns where an open file is, without links.</summary>
+    internal static string PathOf(SafeFileHandle file) => File.ResolveLinkTarget(DescriptorPath(file), false)!.FullName;
+
+    /// <summary>Returns a path without links.</summary>
+    internal static string RealPath(string path)
+    {
+        byte* resolved = RealPath(path, null);
+        if (resolved == null)
+        {
+            throw Failure(Marshal.GetLastPInvokeError());
+        }
+
+        string result = Marshal.PtrToStringUTF8((nint)resolved)!;
+        NativeMemory.Free(resolved);
+        return result;
+    }
+
+    // Files of /proc and /sys have no length and no end that could be relied on.
+    private static bool IsOfSystem(int file)
+    {
+        const long processes = 0x9FA0;
+        const long devices = 0x62656572;
+        byte* status = stackalloc byte[StatusLength];
+        return StatFs(file, status) == 0 && *(long*)status is processes or devices;
+    }
+
     /// <summary>Writes at the position of the descriptor, and advances it.</summary>
     internal static void Write(int descriptor, ReadOnlySpan<byte> data)
     {
@@ -96,18 +148,74 @@ internal static unsafe partial class PosixFile
         }
     }
 
+    /// <summary>Makes a file of a length, whose every byte has its room on the disk.</summary>
+    internal static void Reserve(SafeFileHandle file, long length)
+    {
+        const long piece = 64L << 20;
+        for (long start = 0; start < length; start += piece)
+        {
+            Budget.Check();
+            int error;
+            do
+            {
+                error = Allocate((int)file.DangerousGetHandle(), start, Math.Min(piece, length - start));
+            }
+            while (error == Interrupted);
+
+            if (error != 0)
+            {
+                throw Failure(error);
+            }
+        }
+    }
+
+    /// <summary>Takes the pages of a mapped file out of the memory of the process; they come back when they are
+    /// used.</summary>
+    internal static void LeaveMemory(byte* start, long length)
+    {
+        const int notNeeded = 4; // MADV_DONTNEED
+        _ = Advise(start, (nuint)length, notNeeded);
+    }
+
+    private static byte[]? TryEncode(string path)
+    {
+        try
+        {
+            return UndecodableFileName.Encode(path);
+        }
+        catch (IOException)
+        {
+            return null; // no file has such a name
+        }
+    }
+
     private static string DescriptorPath(SafeFileHandle file) => $"/proc/self/fd/{file.DangerousGetHandle()}";
 
     private static IOException Failure(int error) => new(Marshal.GetPInvokeErrorMessage(error));
 
-    [LibraryImport("libc", EntryPoint = "statx", StringMarshalling = StringMarshalling.Utf8)]
-    private static partial int StatX(int folder, string path, int flags, uint mask, byte* status);
+    [LibraryImport("libc", EntryPoint = "statx")]
+    private static partial int StatX(int folder, byte[] path, int flags, uint mask, byte* status);
 
     [LibraryImport("libc", EntryPoint = "open", StringMarshalling = StringMarshalling.Utf8, SetLastError = true)]
     private static partial int Open(string path, int flags, uint mode);
 
+    [LibraryImport("libc", EntryPoint = "open", SetLastError = true)]
+    private static partial int OpenEncoded(byte[] path, int flags, uint mode);
+
+    [LibraryImport("libc", EntryPoint = "fstatfs")]
+    private static partial int StatFs(int file, byte* status);
+
+    [LibraryImport("libc", EntryPoint = "realpath", StringMarshalling = StringMarshalling.Utf8, SetLastError = true)]
+    private static partial byte* RealPath(string path, byte* buffer);
+
     [LibraryImport("libc", EntryPoint = "linkat", StringMarshalling = StringMarshalling.Utf8, SetLastError = true)]
     private static partial int LinkAt(int fromFolder, string from, int toFolder, string to, int flags);
+
+    [LibraryImport("libc", EntryPoint = "posix_fallocate")]
+    private static partial int Allocate(int descriptor, long start, long length);
+
+    [LibraryImport("libc", EntryPoint = "madvise")]
+    private static partial int Advise(byte* start, nuint length, int advice);
 
     [LibraryImport("libc", EntryPoint = "write", SetLastError = true)]
     private static partial nint Write(int descriptor, byte* data, nint count);

@@ -1,9 +1,7 @@
 using System;
 using System.IO;
-using System.Runtime.InteropServices;
 using System.Text;
 using Korvan.CAD.CadExceptions;
-using Microsoft.Win32.SafeHandles;
 
 namespace Korvan.CAD;
 
@@ -11,11 +9,8 @@ namespace Korvan.CAD;
 /// File names that are not UTF-8, which .NET cannot open. Python passes them with an unpaired surrogate, U+DC80 to
 /// U+DCFF, for each undecodable byte.
 /// </summary>
-internal static unsafe partial class UndecodableFileName
+internal static class UndecodableFileName
 {
-    private const int ReadOnly = 0;
-    private const int CloseOnExec = 0x80000;
-
     /// <summary>Returns whether a name has such bytes.</summary>
     internal static bool Is(string path)
     {
@@ -44,8 +39,7 @@ internal static unsafe partial class UndecodableFileName
 
         try
         {
-            using SafeFileHandle file = OpenByBytes(path);
-            return true;
+            return PosixFile.KindOf(path) is not (PosixFile.Kind.Absent or PosixFile.Kind.Folder);
         }
         catch (IOException)
         {
@@ -63,33 +57,17 @@ internal static unsafe partial class UndecodableFileName
         }
     }
 
-    /// <summary>Opens a file of any name.</summary>
-    internal static FileStream OpenToRead(string path)
-    {
-        return Is(path)
-            ? new FileStream(OpenByBytes(path), FileAccess.Read, 1)
-            : new FileStream(path, FileMode.Open, FileAccess.Read, FileShare.ReadWrite, 1);
-    }
+    /// <summary>Opens a regular file of any name.</summary>
+    internal static FileStream OpenToRead(string path) => new(PosixFile.OpenRegular(path), FileAccess.Read, 1);
 
-    private static SafeFileHandle OpenByBytes(string path)
+    /// <summary>Returns the bytes of a name, with a terminating NUL.</summary>
+    internal static byte[] Encode(string path)
     {
         if (path.Contains('\0', StringComparison.Ordinal))
         {
             throw new IOException("a NUL is part of no file's name");
         }
 
-        fixed (byte* name = Bytes(path))
-        {
-            int file = Open(name, ReadOnly | CloseOnExec, 0);
-            return file >= 0
-                ? new SafeFileHandle(file, true)
-                : throw new IOException(Marshal.GetLastPInvokeErrorMessage());
-        }
-    }
-
-    // With a terminating NUL.
-    private static byte[] Bytes(string path)
-    {
         using MemoryStream bytes = new();
         Span<byte> unit = stackalloc byte[4];
         for (int i = 0; i < path.Length; i++)
@@ -112,7 +90,4 @@ internal static unsafe partial class UndecodableFileName
         bytes.WriteByte(0);
         return bytes.ToArray();
     }
-
-    [LibraryImport("libc", EntryPoint = "open", SetLastError = true)]
-    private static partial int Open(byte* path, int flags, uint mode);
 }

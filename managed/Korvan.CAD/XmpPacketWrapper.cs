@@ -7,6 +7,7 @@ using System.Xml;
 using System.Xml.Linq;
 using Korvan.CAD.Binding;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD;
 
@@ -171,20 +172,14 @@ public class XmpPacketWrapper
 
     private static XElement Parse(string xml)
     {
-        var settings = new XmlReaderSettings
-        {
-            DtdProcessing = DtdProcessing.Prohibit,
-            XmlResolver = null,
-            MaxCharactersInDocument = MaxPacketCharacters,
-        };
         try
         {
-            using var reader = XmlReader.Create(new StringReader(xml), settings);
+            using var reader = SafeXml.Open(new StringReader(xml), MaxPacketCharacters, keepsNotes: true);
             return XDocument.Load(reader).Root!;
         }
         catch (XmlException e)
         {
-            throw new XmpException($"The packet is not well formed: {e.Message}");
+            throw new XmpException($"The packet is not well formed: {SafeXml.Reason(e)}.");
         }
     }
 

@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Runtime.CompilerServices;
 using System.Runtime.InteropServices;
 using Korvan.CAD.Geometry;
 
@@ -298,6 +299,7 @@ internal sealed partial class DrawingList
 
         if (_itemCount == _items.Length)
         {
+            Budget.VerifyRoom(2L * _itemCount * Unsafe.SizeOf<DisplayItem>());
             Array.Resize(ref _items, _itemCount * 2);
         }
 
@@ -338,7 +340,9 @@ internal sealed partial class DrawingList
     {
         if (needed > array.Length)
         {
-            Array.Resize(ref array, (int)Math.Min(Array.MaxLength, Math.Max((long)array.Length * 2, needed)));
+            long length = Math.Min(Array.MaxLength, Math.Max((long)array.Length * 2, needed));
+            Budget.VerifyRoom(length * Unsafe.SizeOf<T>());
+            Array.Resize(ref array, (int)length);
         }
     }
 }

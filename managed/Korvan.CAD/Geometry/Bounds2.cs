@@ -67,6 +67,31 @@ internal struct Bounds2
         MaxY = Math.Min(MaxY, other.MaxY),
     };
 
+    /// <summary>Determines the part of a line segment in the rectangle, as fractions of its length; false for none. By
+    /// the parametric clipping of Liang and Barsky, 1984.</summary>
+    internal readonly bool TryClip(Vec2 from, Vec2 to, out double first, out double last)
+    {
+        (first, last) = (0, 1);
+        return TryClip(to.X - from.X, from.X, MinX, MaxX, ref first, ref last)
+            && TryClip(to.Y - from.Y, from.Y, MinY, MaxY, ref first, ref last)
+            && first < last;
+    }
+
+    private static bool TryClip(
+        double along, double start, double min, double max, ref double first, ref double last)
+    {
+        if (along == 0)
+        {
+            return start >= min && start <= max;
+        }
+
+        double a = (min - start) / along;
+        double b = (max - start) / along;
+        first = Math.Max(first, Math.Min(a, b));
+        last = Math.Min(last, Math.Max(a, b));
+        return true;
+    }
+
     /// <summary>Adds a cubic by its end points and, where its polygon leaves the box, by the curve's own
     /// extremes.</summary>
     internal void AddCubic(Vec2 p0, Vec2 p1, Vec2 p2, Vec2 p3)

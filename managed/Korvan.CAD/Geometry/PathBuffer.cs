@@ -132,6 +132,34 @@ internal sealed class PathBuffer
         }
     }
 
+    /// <summary>Adds a path, given by its verbs and coordinates, through a map.</summary>
+    internal void AppendMapped(ReadOnlySpan<PathVerb> verbs, ReadOnlySpan<double> c, in Affine2 map)
+    {
+        int at = 0;
+        foreach (PathVerb verb in verbs)
+        {
+            switch (verb)
+            {
+                case PathVerb.Move:
+                    MoveTo(map.Point(c[at], c[at + 1]));
+                    at += 2;
+                    break;
+                case PathVerb.Line:
+                    LineTo(map.Point(c[at], c[at + 1]));
+                    at += 2;
+                    break;
+                case PathVerb.Curve:
+                    CurveTo(
+                        map.Point(c[at], c[at + 1]), map.Point(c[at + 2], c[at + 3]), map.Point(c[at + 4], c[at + 5]));
+                    at += 6;
+                    break;
+                default:
+                    Close();
+                    break;
+            }
+        }
+    }
+
     private void Put(Vec2 p)
     {
         _coords[_coordCount++] = p.X;

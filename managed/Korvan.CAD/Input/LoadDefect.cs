@@ -7,5 +7,5 @@ namespace Korvan.CAD.Input;
 internal sealed record LoadDefect(LoadDefectCode Code, LoadPlace Place, string Cause)
 {
     /// <summary>Returns the message that users see: place and cause.</summary>
-    public override string ToString() => $"{Place}: {Cause}.";
+    public override string ToString() => SafeText.Of($"{Place}: {Cause}.");
 }

@@ -7,7 +7,7 @@ using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering;
 
-/// <summary>One export: the options that it follows and does not change, what it could not draw, and when it gives up.
+/// <summary>One export: the options that it follows and does not change, what it could not draw, and how long it took.
 /// Two exports can share their options.</summary>
 internal sealed class ExportContext
 {
@@ -33,10 +33,6 @@ internal sealed class ExportContext
     internal double Resolution =>
         Options.ResolutionSettings is { HorizontalResolution: > 0 } set ? set.HorizontalResolution
             : DefaultPixelsPerInch;
-
-    /// <summary>Gets what long work calls from time to time; it throws when the time of the options is over. Nothing
-    /// where they set no limit.</summary>
-    internal Action? Checkpoint => Options.Timeout > 0 ? ThrowWhenLate : null;
 
     /// <summary>Makes a text engine with the fonts that the image was loaded with.</summary>
     internal TextEngine NewEngine() =>
@@ -64,15 +60,6 @@ internal sealed class ExportContext
         catch (OutOfMemoryException)
         {
             throw new ImageSaveException("The drawing needs more memory than there is to be rendered.");
-        }
-    }
-
-    private void ThrowWhenLate()
-    {
-        if (Stopwatch.GetElapsedTime(_start).TotalMilliseconds > Options.Timeout)
-        {
-            throw new OperationInterruptedException(
-                $"The export was not done after {Options.Timeout} milliseconds, the time that its options allow.");
         }
     }
 }

@@ -1,6 +1,7 @@
 using System.Collections.Generic;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Input;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering;
@@ -33,7 +34,7 @@ internal sealed class RenderNotes
         List<RenderResult> results = [];
         foreach (((RenderErrorCode code, string what), int count) in _counts)
         {
-            results.Add(new RenderResult(code, $"{what} ({count})"));
+            results.Add(new RenderResult(code, SafeText.Of($"{what} ({count})")));
         }
 
         if (_missingGlyphs > 0)

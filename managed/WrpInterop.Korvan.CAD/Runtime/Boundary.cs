@@ -18,6 +18,10 @@ public static unsafe class Boundary
     /// <summary>Makes a Python error of a managed exception.</summary>
     public static void Fail(Exception exception)
     {
+        if (Interruption.TryRaise())
+        {
+            return;
+        }
         nint name = NewString(exception.GetType().Name);
         nint text = NewString(Describe(exception));
         PyHost.OnException(name, text);

@@ -98,6 +98,7 @@ public static unsafe class ExchangeHost
             nint handle = Handles.New(typeof(ExchangeHost));
             _ = Handles.Object<Type>(handle);
             Handles.Free(handle);
+            Interruption.Install();
         }
         catch (Exception e)
         {

@@ -11,6 +11,7 @@ using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Input;
 using Korvan.CAD.Rendering;
 using Korvan.CAD.Rendering.Meshes;
 using Korvan.CAD.Rendering.Scene;
@@ -223,7 +224,7 @@ public partial class CadImage : Image, IDrawingContent
         set
         {
             base.FilePath = value;
-            _drawing.Folder = value is null ? null : Path.GetDirectoryName(Path.GetFullPath(value));
+            _drawing.Folder = value is null ? null : FolderFiles.FolderOf(value);
         }
     }
 

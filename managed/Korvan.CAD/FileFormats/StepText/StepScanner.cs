@@ -45,6 +45,7 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
         {
             try
             {
+                Budget.Check();
                 _recordStart = _at;
                 _at = StepCharacters.Skip(data, _at);
                 _recordStart = _at;

@@ -2,6 +2,7 @@ using System;
 using System.IO;
 using System.IO.MemoryMappedFiles;
 using System.Runtime.InteropServices;
+using System.Threading;
 using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD.Raster.Pixels;
@@ -11,6 +12,8 @@ internal sealed unsafe class PixelBlock : IDisposable
 {
     private readonly long _bytes;
     private readonly bool _onDisk;
+    private readonly Budget? _budget;
+    private long _touched;
     private MemoryMappedFile? _file;
     private MemoryMappedViewAccessor? _view;
     private int* _data;
@@ -18,15 +21,32 @@ internal sealed unsafe class PixelBlock : IDisposable
     internal PixelBlock(long pixels)
     {
         _bytes = pixels * sizeof(int);
-        _onDisk = Cache.Book(_bytes);
+        bool fitsFile = Budget.Current?.TryTakePixels(_bytes) ?? true;
+        _budget = fitsFile ? Budget.Current : null;
+        try
+        {
+            _onDisk = Cache.Book(_bytes, fitsFile);
+        }
+        catch
+        {
+            _budget?.ReturnPixels(_bytes);
+            GC.SuppressFinalize(this);
+            throw;
+        }
+
         try
         {
             _data = _onDisk ? Map() : (int*)NativeMemory.AllocZeroed((nuint)_bytes);
         }
         catch (Exception e)
         {
-            Cache.Release(_bytes, _onDisk);
+            Release();
             GC.SuppressFinalize(this);
+            if (e is FrameworkException)
+            {
+                throw;
+            }
+
             throw new LimitMemoryException(
                 $"There is no room for {_bytes} bytes of pixels {(_onDisk ? "on disk" : "in memory")}.", e);
         }
@@ -39,6 +59,21 @@ internal sealed unsafe class PixelBlock : IDisposable
 
     internal int* Data => _data;
 
+    /// <summary>Gets whether the pixels are on disk.</summary>
+    internal bool IsOnDisk => _onDisk;
+
+    /// <summary>Notes that pixels on disk were used. From time to time they leave the memory of the process, so that
+    /// one who goes through the whole does not hold the whole.</summary>
+    internal void Touch(long bytes)
+    {
+        const long kept = 32L << 20;
+        if (Interlocked.Add(ref _touched, bytes) > kept)
+        {
+            Interlocked.Exchange(ref _touched, 0);
+            PosixFile.LeaveMemory((byte*)_data, _bytes);
+        }
+    }
+
     public void Dispose()
     {
         Free();
@@ -49,16 +84,39 @@ internal sealed unsafe class PixelBlock : IDisposable
     {
         // Unlinked at once, so that no file remains, however the process ends.
         string path = Path.Combine(Cache.CacheFolder, $"korvan-{Guid.NewGuid():N}.pixels");
-        var stream = new FileStream(
-            path, FileMode.CreateNew, FileAccess.ReadWrite, FileShare.None, 1, FileOptions.DeleteOnClose);
+        var options = new FileStreamOptions
+        {
+            Mode = FileMode.CreateNew,
+            Access = FileAccess.ReadWrite,
+            Share = FileShare.None,
+            BufferSize = 0,
+            Options = FileOptions.DeleteOnClose,
+        };
+        if (!OperatingSystem.IsWindows())
+        {
+            options.UnixCreateMode = UnixFileMode.UserRead | UnixFileMode.UserWrite;
+        }
+
+        var stream = new FileStream(path, options);
         File.Delete(path);
-        stream.SetLength(_bytes);
-        _file = MemoryMappedFile.CreateFromFile(
-            stream, null, _bytes, MemoryMappedFileAccess.ReadWrite, HandleInheritability.None, false);
-        _view = _file.CreateViewAccessor(0, _bytes);
-        byte* start = null;
-        _view.SafeMemoryMappedViewHandle.AcquirePointer(ref start);
-        return (int*)start;
+        try
+        {
+            // A page of a mapped file that the disk has no room for would be a bus error.
+            PosixFile.Reserve(stream.SafeFileHandle, _bytes);
+            _file = MemoryMappedFile.CreateFromFile(
+                stream, null, _bytes, MemoryMappedFileAccess.ReadWrite, HandleInheritability.None, false);
+            _view = _file.CreateViewAccessor(0, _bytes);
+            byte* start = null;
+            _view.SafeMemoryMappedViewHandle.AcquirePointer(ref start);
+            return (int*)start;
+        }
+        catch
+        {
+            _view?.Dispose();
+            _file?.Dispose();
+            stream.Dispose();
+            throw;
+        }
     }
 
     private void Free()
@@ -80,7 +138,13 @@ internal sealed unsafe class PixelBlock : IDisposable
         }
 
         _data = null;
-        Cache.Release(_bytes, _onDisk);
+        Release();
         GC.RemoveMemoryPressure(_bytes);
+    }
+
+    private void Release()
+    {
+        Cache.Release(_bytes, _onDisk);
+        _budget?.ReturnPixels(_bytes);
     }
 }

@@ -15,6 +15,7 @@ internal sealed unsafe class PixelGrid : IDisposable
     internal const int Opaque = unchecked((int)0xFF000000);
 
     private readonly IDisposable _owner;
+    private readonly PixelBlock? _onDisk;
     private int* _data;
 
     internal PixelGrid(int width, int height)
@@ -22,6 +23,7 @@ internal sealed unsafe class PixelGrid : IDisposable
         VerifySize(width, height);
         var block = new PixelBlock((long)width * height);
         _owner = block;
+        _onDisk = block.IsOnDisk ? block : null;
         _data = block.Data;
         (Width, Height) = (width, height);
     }
@@ -66,8 +68,11 @@ internal sealed unsafe class PixelGrid : IDisposable
         }
     }
 
+    /// <summary>Returns a row. Every loop over pixels asks for its rows, so this is where they can be ended.</summary>
     internal Span<int> Row(int y)
     {
+        Budget.Check();
+        _onDisk?.Touch(Width * (long)sizeof(int));
         ObjectDisposedException.ThrowIf(_data == null, this);
         ArgumentOutOfRangeException.ThrowIfGreaterThanOrEqual((uint)y, (uint)Height, nameof(y));
         return new Span<int>(_data + ((long)y * Width), Width);

@@ -43,6 +43,16 @@ internal sealed unsafe class CairoPainter
     /// <summary>How far the sides of a box may be from upright, in pixels.</summary>
     private const double BoxTolerance = 0.05;
 
+    /// <summary>Pages from which on a line leads far away from its page.</summary>
+    private const double FarLine = 4;
+    private const double BorderPixels = 4;
+
+    /// <summary>The parts of a path that take about as long as one step of the budget.</summary>
+    private const int VerbsPerStep = 8;
+
+    /// <summary>The steps for an image that covers the page.</summary>
+    private const int StepsPerPage = 500;
+
     private static readonly Dictionary<InterpolationMode, CairoFilter> Filters = new()
     {
         [InterpolationMode.Low] = CairoFilter.Fast,
@@ -61,6 +71,8 @@ internal sealed unsafe class CairoPainter
     private readonly RowRange _rows;
     private readonly PixelTarget _target;
     private readonly Stack<ClipArea> _clips = new();
+    private readonly PathBuffer _far = new();
+    private readonly PathBuffer _dashes = new();
     private ClipArea _clip = new(Bounds2.Of(-FarAway, -FarAway, FarAway, FarAway), IsBox: true);
     private bool _isDirect;
     private Rgba _color;
@@ -101,6 +113,7 @@ internal sealed unsafe class CairoPainter
         painter.Start();
         foreach (ref readonly DisplayItem item in list.Items)
         {
+            Budget.Check();
             painter.Draw(item);
         }
 
@@ -180,7 +193,13 @@ internal sealed unsafe class CairoPainter
             return;
         }
 
-        Trace(item);
+        bool isSplit = isDashed && TraceDashes(item, width);
+        if (!isSplit)
+        {
+            Trace(item);
+        }
+
+        Budget.Step(1 + (item.VerbCount / VerbsPerStep));
         SetColor(item.Color);
         if (width != _lineWidth)
         {
@@ -189,8 +208,51 @@ internal sealed unsafe class CairoPainter
         }
 
         SetLook(look);
-        SetDash(item, isDashed);
+        SetDash(item, isDashed && !isSplit);
         Cairo.Stroke(_cr);
+    }
+
+    /// <summary>Makes the dashes on the page the path, for a line that leads far away from it: cairo would walk all of
+    /// them.</summary>
+    private bool TraceDashes(in DisplayItem item, double width)
+    {
+        double pageWidth = _target.ThinLines.Width;
+        double border = (2 * width) + BorderPixels;
+        double reach = Math.Max(pageWidth, _rows.End) * FarLine;
+        if (!IsFar(item, reach))
+        {
+            return false;
+        }
+
+        _far.Clear();
+        _far.AppendMapped(_list.VerbsOf(item), _list.CoordsOf(item), _map);
+        double[] lengths = Array.ConvertAll(_list.DashOf(item), length => length * _scale);
+        double tolerance = DefaultTolerance * _settings.Coarseness;
+        Bounds2 visible = Bounds2.Of(-border, _rows.First - border, pageWidth + border, _rows.End + border);
+        if (!DashSplitter.TrySplit(_far, lengths, item.DashOffset * _scale, tolerance, _dashes, visible))
+        {
+            return false;
+        }
+
+        UseCairo();
+        Cairo.NewPath(_cr);
+        Trace(_dashes.Verbs, _dashes.Coords, Affine2.Identity);
+        return true;
+    }
+
+    private bool IsFar(in DisplayItem item, double reach)
+    {
+        ReadOnlySpan<double> c = _list.CoordsOf(item)[..CoordCount(item)];
+        for (int at = 0; at < c.Length; at += 2)
+        {
+            Vec2 p = _map.Point(c[at], c[at + 1]);
+            if (!(Math.Abs(p.X) < reach && Math.Abs(p.Y) < reach))
+            {
+                return true;
+            }
+        }
+
+        return false;
     }
 
     private bool TryDrawDirectly(in DisplayItem item, double width) =>
@@ -289,6 +351,7 @@ internal sealed unsafe class CairoPainter
         }
 
         Trace(item);
+        Budget.Step(1 + (item.VerbCount / VerbsPerStep));
         Cairo.SetFillRule(_cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
         if (item.Extra >= 0)
         {
@@ -380,20 +443,28 @@ internal sealed unsafe class CairoPainter
     {
         UseCairo();
         PlacedImage image = _list.ImageOf(item);
-        nint surface = Cairo.ImageSurfaceCreate(CairoFormat.Argb32, image.Width, image.Height);
-        using var owner = new NativeHandle(surface, &Cairo.SurfaceDestroy);
-        Cairo.Check(Cairo.SurfaceStatus(surface), "placing an image");
-        int stride = Cairo.ImageSurfaceGetStride(surface);
-        byte* data = Cairo.ImageSurfaceGetData(surface);
-        for (int y = 0; y < image.Height; y++)
+        Affine2 place = _map * image.Matrix;
+        double shownWidth = new Vec2(place.Xx, place.Yx).Length;
+        double shownHeight = new Vec2(place.Xy, place.Yy).Length;
+        double share = Math.Min(1, shownWidth * shownHeight / ((double)_target.ThinLines.Width * _rows.End));
+        Budget.Step(1 + (long)(share * StepsPerPage));
+        bool isNearest = _settings.Interpolation == InterpolationMode.NearestNeighbor;
+        (int width, int height, byte[] pixels) = isNearest
+            ? (image.Width, image.Height, image.Pixels)
+            : ReducedImages.Of(image.Width, image.Height, image.Pixels, shownWidth, shownHeight);
+        fixed (byte* data = pixels)
         {
-            image.Pixels.AsSpan(y * image.Width * 4,
-                image.Width * 4).CopyTo(new Span<byte>(data + ((long)y * stride), stride));
+            nint surface = Cairo.ImageSurfaceCreateForData(data, CairoFormat.Argb32, width, height, width * 4);
+            using var owner = new NativeHandle(surface, &Cairo.SurfaceDestroy);
+            Cairo.Check(Cairo.SurfaceStatus(surface), "placing an image");
+            Paint(image, surface, width, height);
         }
+    }
 
-        Cairo.SurfaceMarkDirty(surface);
+    private void Paint(PlacedImage image, nint surface, int width, int height)
+    {
         Cairo.Save(_cr);
-        var toUnit = new Affine2(1.0 / image.Width, 0, 0, -1.0 / image.Height, 0, 1);
+        var toUnit = new Affine2(1.0 / width, 0, 0, -1.0 / height, 0, 1);
         CairoMatrix matrix = ToCairo(_map * image.Matrix * toUnit);
         Cairo.Transform(_cr, &matrix);
         Cairo.SetSourceSurface(_cr, surface, 0, 0);
@@ -427,12 +498,7 @@ internal sealed unsafe class CairoPainter
     private bool Crosses(in DisplayItem item, double border)
     {
         ReadOnlySpan<double> c = _list.CoordsOf(item);
-        int count = 0;
-        foreach (PathVerb verb in _list.VerbsOf(item))
-        {
-            count += verb switch { PathVerb.Curve => 6, PathVerb.Close => 0, _ => 2 };
-        }
-
+        int count = CoordCount(item);
         double top = double.MaxValue;
         double bottom = double.MinValue;
         for (int at = 0; at < count; at += 2)
@@ -443,6 +509,17 @@ internal sealed unsafe class CairoPainter
         }
 
         return bottom + border >= _rows.First - 1 && top - border <= _rows.End + 1;
+    }
+
+    private int CoordCount(in DisplayItem item)
+    {
+        int count = 0;
+        foreach (PathVerb verb in _list.VerbsOf(item))
+        {
+            count += verb switch { PathVerb.Curve => 6, PathVerb.Close => 0, _ => 2 };
+        }
+
+        return count;
     }
 
     /// <summary>The box of a path on the page, and whether the path is that box.</summary>
@@ -474,26 +551,30 @@ internal sealed unsafe class CairoPainter
     {
         UseCairo();
         Cairo.NewPath(_cr);
-        ReadOnlySpan<double> c = _list.CoordsOf(item);
+        Trace(_list.VerbsOf(item), _list.CoordsOf(item), _map);
+    }
+
+    private void Trace(ReadOnlySpan<PathVerb> verbs, ReadOnlySpan<double> c, in Affine2 map)
+    {
         int at = 0;
-        foreach (PathVerb verb in _list.VerbsOf(item))
+        foreach (PathVerb verb in verbs)
         {
             switch (verb)
             {
                 case PathVerb.Move:
-                    Map(c, at, out double mx, out double my);
+                    Map(map, c, at, out double mx, out double my);
                     Cairo.MoveTo(_cr, mx, my);
                     at += 2;
                     break;
                 case PathVerb.Line:
-                    Map(c, at, out double lx, out double ly);
+                    Map(map, c, at, out double lx, out double ly);
                     Cairo.LineTo(_cr, lx, ly);
                     at += 2;
                     break;
                 case PathVerb.Curve:
-                    Map(c, at, out double x1, out double y1);
-                    Map(c, at + 2, out double x2, out double y2);
-                    Map(c, at + 4, out double x3, out double y3);
+                    Map(map, c, at, out double x1, out double y1);
+                    Map(map, c, at + 2, out double x2, out double y2);
+                    Map(map, c, at + 4, out double x3, out double y3);
                     Cairo.CurveTo(_cr, x1, y1, x2, y2, x3, y3);
                     at += 6;
                     break;
@@ -504,12 +585,12 @@ internal sealed unsafe class CairoPainter
         }
     }
 
-    private void Map(ReadOnlySpan<double> c, int at, out double x, out double y)
+    private static void Map(in Affine2 map, ReadOnlySpan<double> c, int at, out double x, out double y)
     {
         double u = c[at];
         double v = c[at + 1];
-        x = Math.Clamp((_map.Xx * u) + (_map.Xy * v) + _map.X0, -FarAway, FarAway);
-        y = Math.Clamp((_map.Yx * u) + (_map.Yy * v) + _map.Y0, -FarAway, FarAway);
+        x = Math.Clamp((map.Xx * u) + (map.Xy * v) + map.X0, -FarAway, FarAway);
+        y = Math.Clamp((map.Yx * u) + (map.Yy * v) + map.Y0, -FarAway, FarAway);
     }
 
     private static bool IsNear(double x, double y) => Math.Abs(x) < FarAway && Math.Abs(y) < FarAway;

@@ -24,8 +24,10 @@ internal abstract class MetafilePlayer : PagePlayer
     protected sealed override void Stroke(PathBuffer path, in DeviceStroke stroke)
     {
         Rgba color = Opaque(stroke.Color);
+        double border = 2 * stroke.Width;
+        Bounds2 page = Bounds2.Of(-border, -border, Width + border, Height + border);
         bool cut = stroke.Dash is not null
-            && DashSplitter.TrySplit(path, stroke.Dash, stroke.DashOffset, Tolerance, _dashes);
+            && DashSplitter.TrySplit(path, stroke.Dash, stroke.DashOffset, Tolerance, _dashes, page);
         Line(cut ? _dashes : path, color, stroke.Width, stroke.Look);
     }
 

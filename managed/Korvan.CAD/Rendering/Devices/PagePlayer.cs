@@ -164,6 +164,7 @@ internal abstract class PagePlayer
     {
         foreach (ref readonly DisplayItem item in _list.Items)
         {
+            Budget.Check();
             switch (item.Kind)
             {
                 case DisplayKind.Stroke:
@@ -224,31 +225,7 @@ internal abstract class PagePlayer
     private PathBuffer Trace(in DisplayItem item)
     {
         _path.Clear();
-        ReadOnlySpan<double> c = _list.CoordsOf(item);
-        int at = 0;
-        foreach (PathVerb verb in _list.VerbsOf(item))
-        {
-            switch (verb)
-            {
-                case PathVerb.Move:
-                    _path.MoveTo(_map.Point(c[at], c[at + 1]));
-                    at += 2;
-                    break;
-                case PathVerb.Line:
-                    _path.LineTo(_map.Point(c[at], c[at + 1]));
-                    at += 2;
-                    break;
-                case PathVerb.Curve:
-                    _path.CurveTo(_map.Point(c[at], c[at + 1]), _map.Point(c[at + 2], c[at + 3]),
-                        _map.Point(c[at + 4], c[at + 5]));
-                    at += 6;
-                    break;
-                default:
-                    _path.Close();
-                    break;
-            }
-        }
-
+        _path.AppendMapped(_list.VerbsOf(item), _list.CoordsOf(item), _map);
         return _path;
     }
 }

@@ -55,6 +55,9 @@ internal sealed unsafe class ThinLinePainter
         _rows = rows;
     }
 
+    /// <summary>Gets the pixels of a row.</summary>
+    internal int Width => _width;
+
     private int Height => _rows.End - _rows.First;
 
     /// <summary>Draws a path.</summary>

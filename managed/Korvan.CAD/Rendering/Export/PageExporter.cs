@@ -28,7 +28,6 @@ internal static class PageExporter
             Info = DocumentInfoReader.Read(options) with { Created = scene.Created, Modified = scene.Modified },
             Compliance = options.CorePdfOptions?.Compliance ?? PdfCompliance.Pdf15,
             Signature = options.CorePdfOptions?.DigitalSignatureDetails,
-            Checkpoint = context.Checkpoint,
         });
     }
 

@@ -19,7 +19,6 @@ namespace Korvan.CAD.Rendering.Meshes;
 internal sealed class DrawingMeshes
 {
     private const int MaxTriangles = 50_000_000;
-    private const int CheckpointEvery = 4096;
     private const int ByBlockColor = AciPalette.ByBlock;
     private const int ByBlockTransparency = 0x01000000;
     private const string InheritingLayer = "0";
@@ -32,7 +31,6 @@ internal sealed class DrawingMeshes
     private readonly Dictionary<Rgba, Material> _materials = [];
     private readonly Dictionary<string, bool> _inheriting = new(StringComparer.OrdinalIgnoreCase);
     private readonly Dictionary<(string Block, string? Layer, Rgba Color), Content> _contents = [];
-    private int _seen;
     private int _farFaces;
     private int _tangledFaces;
 
@@ -82,11 +80,7 @@ internal sealed class DrawingMeshes
         var content = new Content();
         foreach (CadEntityBase entity in block.Entities)
         {
-            if (++_seen % CheckpointEvery == 0)
-            {
-                _style.Checkpoint?.Invoke();
-            }
-
+            Budget.Step();
             if (entity.Visible == 0)
             {
                 Add(entity, content, context);

@@ -13,7 +13,6 @@ internal sealed partial class CgmInterpreter
 {
     /// <summary>A limit to the elements of one page with all copies of segments, against exponential copies.</summary>
     private const int MaxElements = 50_000_000;
-    private const int ElementsPerCheckpoint = 1024;
 
     private static readonly Dictionary<Type, Action<CgmInterpreter, Command>> Drawers = Build();
 
@@ -76,12 +75,8 @@ internal sealed partial class CgmInterpreter
     {
         for (int at = first; at < end; at++)
         {
-            if (++_elements % ElementsPerCheckpoint == 0)
-            {
-                _style.Checkpoint?.Invoke();
-            }
-
-            if (_elements > MaxElements)
+            Budget.Step();
+            if (++_elements > MaxElements)
             {
                 throw new RenderException(
                     $"The picture \"{_picture.Name}\" is too large: with copies of segments it has more than "

@@ -54,8 +54,6 @@ internal sealed class PdfDocument
     /// <summary>Gets whether content has a structure.</summary>
     internal bool IsTagged => _settings.Compliance == PdfCompliance.PdfA1a;
 
-    internal Action? Checkpoint => _settings.Checkpoint;
-
     internal PdfFonts Fonts { get; }
 
     internal PdfImages Images { get; }

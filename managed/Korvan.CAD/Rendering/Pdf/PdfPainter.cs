@@ -14,7 +14,6 @@ internal sealed partial class PdfPainter
 {
     /// <summary>Dashes shorter than this in points melt into a line.</summary>
     private const double ShortestPeriod = 0.75;
-    private const int CheckpointEvery = 4096;
 
     private readonly PdfDocument _document;
     private readonly PdfStream _stream;
@@ -32,7 +31,6 @@ internal sealed partial class PdfPainter
     private Affine2 _map;
     private double _scale;
     private int _layer = -1;
-    private int _sinceCheckpoint;
 
     /// <summary>Creates a painter; a unit of the content of the page is so many points.</summary>
     internal PdfPainter(PdfDocument document, PdfStream stream, TextEngine engine, Page page, PdfResources resources,
@@ -103,16 +101,11 @@ internal sealed partial class PdfPainter
         _list = list;
         foreach (ref readonly DisplayItem item in list.Items)
         {
+            Budget.Check();
             Draw(item);
             if (_out.Count >= PdfStream.BlockSize)
             {
                 _stream.Flush();
-            }
-
-            if (++_sinceCheckpoint == CheckpointEvery)
-            {
-                _sinceCheckpoint = 0;
-                _document.Checkpoint?.Invoke();
             }
         }
     }

@@ -12,7 +12,4 @@ internal sealed record PdfSettings
     internal PdfCompliance Compliance { get; init; }
 
     internal PdfDigitalSignatureDetailsCore? Signature { get; init; }
-
-    /// <summary>Gets what is called from time to time, and may throw.</summary>
-    internal Action? Checkpoint { get; init; }
 }

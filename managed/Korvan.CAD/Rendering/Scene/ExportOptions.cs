@@ -103,7 +103,6 @@ internal sealed class ExportOptions
             ModelView = _cad?.ObserverPoint is ObserverPoint eye
                 ? ViewTransform.Turned(eye.RotationAngleX, eye.RotationAngleY, eye.RotationAngleZ)
                 : Affine3.Identity,
-            Checkpoint = _context.Checkpoint,
         };
     }
 

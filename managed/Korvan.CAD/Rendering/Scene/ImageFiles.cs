@@ -1,10 +1,10 @@
 using System;
 using System.Collections.Generic;
-using System.IO;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.Rendering.Scene;
 
@@ -42,46 +42,27 @@ internal sealed class ImageFiles
     /// read.</summary>
     internal ImagePixels? Find(string definition)
     {
-        if (_folder == null || !_names.TryGetValue(definition, out string? name) || Locate(name) is not string file)
+        if (_folder == null || !_names.TryGetValue(definition, out string? name) || FolderFiles.Find(_folder, name) is not string file)
         {
             return null;
         }
 
         if (!_loaded.TryGetValue(file, out ImagePixels? image))
         {
-            image = Load(file);
+            image = Load(_folder, file);
             _loaded.Add(file, image);
         }
 
         return image;
     }
 
-    private string? Locate(string name)
-    {
-        string relative = name.Replace('\\', '/');
-        bool elsewhere = relative.StartsWith('/') || relative.Contains(':') || relative.Split('/').Contains("..");
-        string bare = relative[(relative.LastIndexOf('/') + 1)..];
-        foreach (string candidate in elsewhere ? [bare] : new[] { relative, bare })
-        {
-            string full = Path.GetFullPath(Path.Combine(_folder!, candidate));
-            bool isBelow = full.StartsWith(_folder + Path.DirectorySeparatorChar, StringComparison.Ordinal);
-            if (candidate.Length > 0 && isBelow && File.Exists(full))
-            {
-                return full;
-            }
-        }
-
-        return null;
-    }
-
-    private static ImagePixels? Load(string file)
+    private static ImagePixels? Load(string folder, string file)
     {
         try
         {
-            byte[] data = File.ReadAllBytes(file);
-            return ImagePixels.Decode(data, file);
+            return FolderFiles.Read(folder, file) is { } data ? ImagePixels.Decode(data, file) : null;
         }
-        catch (Exception e) when (e is IOException or UnauthorizedAccessException or FrameworkException)
+        catch (FrameworkException e) when (e is not OperationInterruptedException)
         {
             return null; // a drawing is drawn without damaged images
         }

@@ -35,9 +35,6 @@ internal sealed record RenderStyle
     /// <summary>From world coordinates of the model to the plane that is drawn.</summary>
     internal Affine3 ModelView { get; init; } = Affine3.Identity;
 
-    /// <summary>Called now and then; throws when the time is up.</summary>
-    internal Action? Checkpoint { get; init; }
-
     /// <summary>The most items that a list stores at once; nothing for all.</summary>
     internal int? MaxStored { get; init; }
 

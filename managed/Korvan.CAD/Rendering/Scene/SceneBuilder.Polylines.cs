@@ -8,6 +8,8 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <content>Polylines of all kinds: flat with widths and bulges, in space, meshes and polyfaces.</content>
 internal sealed partial class SceneBuilder
 {
+    private const int MaxBands = 4_096;
+
     void IGeometrySink.FilledPolygon(ReadOnlySpan<Vec3> corners)
     {
         var path = new PathPen(_canvas.NewPath(), _current.Context.Map);
@@ -84,13 +86,13 @@ internal sealed partial class SceneBuilder
     {
         Pen pen = _current.Pen;
         var path = new PathPen(_canvas.NewPath(), map, elevation);
-        WidePolyline.AddOutline(path, all, closed);
         if (_tables.Settings.FillMode)
         {
-            _canvas.Fill(pen, evenOdd: false);
+            FillBands(path, all, closed);
         }
         else
         {
+            WidePolyline.AddOutline(path, all, closed);
             Pen outline = pen;
             outline.Pattern = null;
             _canvas.Stroke(outline);
@@ -109,6 +111,34 @@ internal sealed partial class SceneBuilder
         }
 
         _canvas.Stroke(pen);
+    }
+
+    /// <summary>Fills parts of a long polyline one by one: the time for one area grows faster than the number of its
+    /// edges.</summary>
+    private void FillBands(in PathPen path, ReadOnlySpan<PolyVertex> all, bool closed)
+    {
+        if (all.Length <= MaxBands)
+        {
+            WidePolyline.AddOutline(path, all, closed);
+            _canvas.Fill(_current.Pen, evenOdd: false);
+            return;
+        }
+
+        PolyVertex[] part = new PolyVertex[MaxBands + 1];
+        int segments = closed ? all.Length : all.Length - 1;
+        for (int first = 0; first < segments; first += MaxBands)
+        {
+            Budget.Step(MaxBands);
+            int count = Math.Min(MaxBands, segments - first);
+            for (int i = 0; i <= count; i++)
+            {
+                part[i] = all[(first + i) % all.Length];
+            }
+
+            _canvas.NewPath();
+            WidePolyline.AddOutline(path, part.AsSpan(0, count + 1), closed: false);
+            _canvas.Fill(_current.Pen, evenOdd: false);
+        }
     }
 
     /// <summary>Each segment begins its line type anew.</summary>

@@ -17,7 +17,6 @@ namespace Korvan.CAD.Rendering.Scene;
 internal sealed partial class SceneBuilder : IGeometrySink
 {
     private const int MaxEntities = 20_000_000;
-    private const int CheckpointEvery = 4096;
     private const string LinkApplication = "PE_URL";
     private const int XdataString = 1000;
 
@@ -150,12 +149,8 @@ internal sealed partial class SceneBuilder : IGeometrySink
 
     private void Count()
     {
-        if (++_drawn % CheckpointEvery == 0)
-        {
-            _style.Checkpoint?.Invoke();
-        }
-
-        if (_drawn > MaxEntities)
+        Budget.Step();
+        if (++_drawn > MaxEntities)
         {
             throw new RenderException(
                 $"The drawing shows more than {MaxEntities} entities once its block references are drawn; "

@@ -6,6 +6,7 @@ using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Shx;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.Rendering.Scene;
 
@@ -17,25 +18,28 @@ internal sealed class ShapeFiles
 
     private const string Extension = ".shx";
 
-    private readonly List<string> _paths;
+    private readonly List<(string Folder, string Path)> _paths;
     private readonly Dictionary<string, List<Vec2[]>?> _found = new(StringComparer.OrdinalIgnoreCase);
     private List<ShapeFile>? _files;
 
-    private ShapeFiles(List<string> paths)
+    private ShapeFiles(List<(string Folder, string Path)> paths)
     {
         _paths = paths;
     }
 
     internal static ShapeFiles Of(CadDrawing drawing)
     {
-        List<string> paths = [];
+        List<(string Folder, string Path)> paths = [];
         foreach (CadStyleTableObject style in drawing.Styles)
         {
             if ((style.StyleFlags & CadFontStyleTableFlag.Shape) != 0 && drawing.Folder is { } folder)
             {
-                string name = style.PrimaryFontName.Replace('\\', '/');
-                string bare = name[(name.LastIndexOf('/') + 1)..];
-                paths.Add(Path.Combine(folder, Path.HasExtension(bare) ? bare : bare + Extension));
+                string name = style.PrimaryFontName;
+                string file = Path.HasExtension(name) ? name : name + Extension;
+                if (FolderFiles.Find(folder, file) is { } path)
+                {
+                    paths.Add((folder, path));
+                }
             }
         }
 
@@ -63,18 +67,12 @@ internal sealed class ShapeFiles
     private List<ShapeFile> Load()
     {
         List<ShapeFile> files = [];
-        foreach (string path in _paths)
+        foreach ((string folder, string path) in _paths)
         {
-            try
+            // A drawing is rendered without files that cannot be read; its symbols are reported.
+            if (FolderFiles.Read(folder, path) is { } data && ShapeFile.TryRead(data) is { } file)
             {
-                if (File.Exists(path) && ShapeFile.TryRead(File.ReadAllBytes(path)) is { } file)
-                {
-                    files.Add(file);
-                }
-            }
-            catch (Exception e) when (e is IOException or UnauthorizedAccessException)
-            {
-                // A drawing is rendered without files that cannot be read; its symbols are reported.
+                files.Add(file);
             }
         }
 

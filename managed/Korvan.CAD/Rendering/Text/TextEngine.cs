@@ -27,6 +27,12 @@ internal sealed unsafe class TextEngine : IDisposable
     private const int ItalicStyle = 2;
     private const int HintMetricsOff = 1;
     private const int MaxCachedLines = 50_000;
+    private const int MaxFonts = 500;
+    private const int StepsPerFont = 100;
+    private const int CharactersPerStep = 16;
+
+    /// <summary>The characters of one line that are shown; the rest counts as glyphs that are missing.</summary>
+    private const int MaxCharacters = 32_768;
     private const double DefaultCapRatio = 0.7;
 
     private readonly List<NativeHandle> _descriptions = [];
@@ -95,6 +101,14 @@ internal sealed unsafe class TextEngine : IDisposable
     {
         if (!_fonts.TryGetValue(spec, out int index))
         {
+            // Each font takes time to be found, and most names of so many lead to the same font.
+            FontSpec fallback = FontSpec.Default with { Bold = spec.Bold, Italic = spec.Italic };
+            if (_specs.Count >= MaxFonts && spec != fallback)
+            {
+                return Font(fallback);
+            }
+
+            Budget.Step(StepsPerFont);
             index = _descriptions.Count;
             _descriptions.Add(Describe(spec));
             _lines.Add([]);
@@ -125,8 +139,10 @@ internal sealed unsafe class TextEngine : IDisposable
         string key = letterSpacing == 0 ? text : $"{letterSpacing:R}\0{text}";
         if (!known.TryGetValue(key, out ShapedLine? line))
         {
-            line = LineReader.Read(Shape(font, text, letterSpacing), text, Pango.Scale * EmSize, _uses);
-            UnknownGlyphs += line.UnknownGlyphs;
+            Budget.Step(1 + (text.Length / CharactersPerStep));
+            string shown = text.Length <= MaxCharacters ? text : text[..MaxCharacters];
+            line = LineReader.Read(Shape(font, shown, letterSpacing), shown, Pango.Scale * EmSize, _uses);
+            UnknownGlyphs += line.UnknownGlyphs + text.Length - shown.Length;
             if (known.Count >= MaxCachedLines)
             {
                 known.Clear();
@@ -255,9 +271,10 @@ internal sealed unsafe class TextEngine : IDisposable
 
     private void SetText(string text)
     {
-        int most = Encoding.UTF8.GetMaxByteCount(text.Length);
+        ReadOnlySpan<char> shown = text.AsSpan(0, Math.Min(text.Length, MaxCharacters));
+        int most = Encoding.UTF8.GetMaxByteCount(shown.Length);
         Span<byte> utf8 = most <= 1024 ? stackalloc byte[most] : new byte[most];
-        int length = Encoding.UTF8.GetBytes(text, utf8);
+        int length = Encoding.UTF8.GetBytes(shown, utf8);
         fixed (byte* bytes = utf8)
         {
             Pango.LayoutSetText(_layout.Pointer, bytes, length);

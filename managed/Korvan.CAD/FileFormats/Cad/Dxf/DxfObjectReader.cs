@@ -38,6 +38,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
 
     internal void ReadBody(CadBaseObject target)
     {
+        Budget.Check();
         _entered.Clear();
         tags.EnterSubclass(null);
         tags.CurrentHandle = 0;

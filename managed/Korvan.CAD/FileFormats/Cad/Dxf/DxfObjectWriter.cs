@@ -32,6 +32,7 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
 
     internal void Write(CadBaseObject item)
     {
+        Budget.Check();
         if (item.Kept is { } kept and not KeptTags)
         {
             LeftOut.Add($"{item.DxfName} {HandleText.Format(item.Handle)}: data kept in the form of {kept.FormatName}");

@@ -62,6 +62,7 @@ internal static class CgmSource
             byte[] block = new byte[1 << 16];
             for (int count = packed.Read(block); count > 0; count = packed.Read(block))
             {
+                Budget.VerifyRoom(2L * content.Length);
                 content.Write(block, 0, count);
                 if (content.Length > MaxUnpackedLength)
                 {

@@ -47,6 +47,7 @@ internal sealed class ClearTextReader
     {
         while (!_isAtEnd && SkipToKeyword())
         {
+            Budget.Check();
             int start = _scanner.Position;
             string keyword = _scanner.ReadWord();
             if (_isInDefaults && keyword.Equals(EndOfDefaults, StringComparison.OrdinalIgnoreCase))

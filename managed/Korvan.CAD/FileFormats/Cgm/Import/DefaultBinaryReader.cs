@@ -92,6 +92,7 @@ public sealed partial class DefaultBinaryReader : IBinaryReader, IParameterCodec
         ObjectDisposedException.ThrowIf(_isDisposed, this);
         while (!_isAtEnd)
         {
+            Budget.Check();
             if (TryRead() is Command command)
             {
                 return command;

@@ -117,6 +117,7 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         {
             found[i] = new StepDefects();
             int end = Math.Min(file.Index.Count, (i + 1) * block);
+            Budget.Check();
             for (int record = i * block; record < end; record++)
             {
                 VerifyReferences(file, ids, record, found[i]);
@@ -219,6 +220,7 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         }
 
         using Stream stream = entry.Open();
+        Budget.VerifyRoom(entry.Length);
         byte[] content = new byte[entry.Length];
         int count = stream.ReadAtLeast(content, content.Length, false);
         return count == content.Length

@@ -28,23 +28,15 @@ internal sealed class IfcXmlTranslator(string name, LoadOptions options)
     /// not ignored.</exception>
     internal byte[] Translate(byte[] data)
     {
-        XmlReaderSettings settings = new()
-        {
-            DtdProcessing = DtdProcessing.Prohibit,
-            XmlResolver = null,
-            IgnoreComments = true,
-            IgnoreWhitespace = true,
-            IgnoreProcessingInstructions = true,
-        };
         try
         {
-            using XmlReader reader = XmlReader.Create(new MemoryStream(data, false), settings);
+            using XmlReader reader = SafeXml.Open(new MemoryStream(data, false));
             Read(reader);
         }
         catch (XmlException e)
         {
             LoadPlace place = new(name, e.LineNumber);
-            throw new ImageLoadException(new LoadDefect(LoadDefectCode.InvalidXml, place, e.Message.TrimEnd('.')), e);
+            throw new ImageLoadException(new LoadDefect(LoadDefectCode.InvalidXml, place, SafeXml.Reason(e)));
         }
 
         string text = _header.Text() + _records.ToString() + "ENDSEC;\nEND-ISO-10303-21;\n";

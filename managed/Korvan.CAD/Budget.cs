@@ -1,0 +1,210 @@
+using System;
+using System.Threading;
+using Korvan.CAD.CadExceptions;
+
+namespace Korvan.CAD;
+
+/// <summary>
+/// What one load or save may take: time, memory and steps of work. Memory and steps are in proportion to the file, so
+/// that a small file cannot exhaust the machine. Everything that is made of a file on the calling thread, or on threads
+/// that work for it, counts against the budget of the call.
+/// </summary>
+internal sealed class Budget : IDisposable
+{
+    /// <summary>The name under which the host of the library leaves a function that returns whether the user has
+    /// interrupted the call.</summary>
+    internal const string InterruptionName = "Korvan.IsInterrupted";
+
+    /// <summary>The memory for the smallest file.</summary>
+    internal const long MinMemory = 192L << 20;
+
+    /// <summary>The memory for each byte of larger files.</summary>
+    internal const int MemoryPerByte = 44;
+
+    /// <summary>The memory that stands for one step, which takes about 5 µs: drawing an entity, a dash, a
+    /// glyph.</summary>
+    private const int MemoryPerStep = 192;
+    private const long PollInterval = 20; // milliseconds
+
+    [ThreadStatic]
+    private static Budget? _current;
+
+    private readonly Budget? _outer;
+    private readonly int _owner = Environment.CurrentManagedThreadId;
+    private readonly Func<bool>? _isInterrupted = AppContext.GetData(InterruptionName) as Func<bool>;
+    private readonly long _deadline;
+    private readonly int _timeout;
+    private readonly long _heapAtStart;
+    private long _maxSteps;
+    private long _nextPoll;
+    private long _nextCollection;
+    private long _pixels;
+    private long _steps;
+    private Exception? _end;
+
+    private Budget(long memory, int timeout)
+    {
+        _outer = _current;
+        _timeout = timeout;
+        _deadline = timeout > 0 ? Environment.TickCount64 + timeout : long.MaxValue;
+        _heapAtStart = GC.GetTotalMemory(false);
+        Memory = memory;
+        _maxSteps = memory / MemoryPerStep;
+    }
+
+    /// <summary>Gets the budget of the call that runs on this thread.</summary>
+    internal static Budget? Current => _current;
+
+    /// <summary>Gets the bytes that the call may take.</summary>
+    internal long Memory { get; private set; }
+
+    /// <summary>Begins a call; disposing the result ends it.</summary>
+    /// <param name="sourceLength">The length of the file in bytes; null for content that is not from a file, which has
+    /// no limits of memory and steps.</param>
+    /// <param name="timeout">The time in milliseconds; 0 for no limit.</param>
+    internal static Budget Begin(long? sourceLength, int timeout = 0)
+    {
+        long memory = sourceLength is long length
+            ? Math.Max(MinMemory, Math.Max(length * MemoryPerByte, Cache.MemoryOfOneFile))
+            : long.MaxValue;
+        return _current = new Budget(memory, timeout);
+    }
+
+    /// <summary>Makes a thread work for a call until the result is disposed.</summary>
+    internal static ThreadShare Share(Budget? budget)
+    {
+        Budget? own = _current;
+        _current = budget;
+        return new ThreadShare(own);
+    }
+
+    /// <summary>Ends the call if its time is over, if the user interrupts it, or if it has taken too much memory.
+    /// Takes next to no time, so that loops call it at each step.</summary>
+    internal static void Check()
+    {
+        if (_current is { } budget && Environment.TickCount64 >= budget._nextPoll)
+        {
+            budget.Poll();
+        }
+    }
+
+    /// <summary>Counts steps of work.</summary>
+    /// <exception cref="LimitMemoryException">The call has taken all its steps.</exception>
+    internal static void Step(long count = 1)
+    {
+        if (_current is not { } budget)
+        {
+            return;
+        }
+
+        if (Interlocked.Add(ref budget._steps, count) > budget._maxSteps)
+        {
+            throw budget.End(new LimitMemoryException(
+                $"The file takes more than {budget._maxSteps} steps to be drawn or converted, the limit for a file of its "
+                + $"size; {Cache.HowToRaise}."));
+        }
+
+        Check();
+    }
+
+    /// <summary>Throws if an array of a length, in bytes, would take more memory than is left.</summary>
+    internal static void VerifyRoom(long bytes)
+    {
+        if (_current is { } budget && bytes > 1 << 20)
+        {
+            budget.VerifyHeap(bytes);
+        }
+    }
+
+    /// <summary>Adds what the call may take for a further file.</summary>
+    internal void AddSource(long length)
+    {
+        if (Memory < long.MaxValue)
+        {
+            Memory += length * MemoryPerByte;
+            _maxSteps = Memory / MemoryPerStep;
+        }
+    }
+
+    /// <summary>Takes memory for pixels if there is enough left.</summary>
+    internal bool TryTakePixels(long bytes)
+    {
+        if (Interlocked.Add(ref _pixels, bytes) <= Memory)
+        {
+            return true;
+        }
+
+        ReturnPixels(bytes);
+        return false;
+    }
+
+    /// <summary>Gives back what <see cref="TryTakePixels"/> took.</summary>
+    internal void ReturnPixels(long bytes) => Interlocked.Add(ref _pixels, -bytes);
+
+    /// <summary>Looks at clock, user and memory without delay.</summary>
+    internal void Poll()
+    {
+        long now = Environment.TickCount64;
+        Volatile.Write(ref _nextPoll, now + PollInterval);
+        if (_end is not null)
+        {
+            throw End(_end);
+        }
+
+        if (now >= _deadline)
+        {
+            throw End(new OperationInterruptedException(
+                $"The export was not done after {_timeout} milliseconds, the time that its options allow."));
+        }
+
+        if (Environment.CurrentManagedThreadId == _owner && _isInterrupted?.Invoke() == true)
+        {
+            throw End(new OperationInterruptedException("The call was interrupted."));
+        }
+
+        VerifyHeap(0);
+    }
+
+    /// <inheritdoc/>
+    public void Dispose() => _current = _outer;
+
+    private void VerifyHeap(long more)
+    {
+        long limit = Memory - Interlocked.Read(ref _pixels);
+        if (Memory == long.MaxValue || Taken() + more <= limit || Taken() + more < _nextCollection)
+        {
+            return;
+        }
+
+        GC.Collect();
+        long taken = Taken() + more;
+        _nextCollection = taken + (limit / 8);
+        if (taken > limit)
+        {
+            throw End(new LimitMemoryException(
+                $"The file needs more than {Memory >> 20} MiB of memory, the limit for a file of its size; "
+                + $"{Cache.HowToRaise}."));
+        }
+    }
+
+    private long Taken() => GC.GetTotalMemory(false) - _heapAtStart;
+
+    // Every thread of the call ends, and whoever hides the exception meets it again.
+    private Exception End(Exception reason)
+    {
+        _end = reason;
+        Volatile.Write(ref _nextPoll, 0);
+        return reason switch
+        {
+            OperationInterruptedException => new OperationInterruptedException(reason.Message),
+            _ => new LimitMemoryException(reason.Message),
+        };
+    }
+
+    /// <summary>The time in which a thread works for the budget of another.</summary>
+    internal readonly ref struct ThreadShare(Budget? own)
+    {
+        /// <summary>Ends the work for the other budget.</summary>
+        public void Dispose() => _current = own;
+    }
+}
