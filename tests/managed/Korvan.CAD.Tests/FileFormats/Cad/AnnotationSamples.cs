@@ -28,8 +28,8 @@ internal static partial class ObjectSamples
             o => (o.Text, o.ActualMeasurement, o.StyleName, o.SecondExtensionPoint.X, o.RotationAngle),
             o => o.Text = "9", ("<> mm", 7.5, "Notes", 9.0, 90.0)),
         Sample<CadArcLengthDimension>("ARC_DIMENSION", Dimension.Replace("{0}", "37", StringComparison.Ordinal)
-            + "100 AcDbArcDimension|13 1|23 2|33 0|14 3|24 4|34 0|15 5|25 6|35 0|70 1|40 0.5|41 1.5|71 1|16 7|26 8|36 0|"
-            + "17 9|27 10|37 0", o => (o.ArcCenter.Y, o.EndAngle, o.LeaderEnd.Y), o => o.LeaderStart.X = 1,
+            + "100 AcDbArcDimension|13 1|23 2|33 0|14 3|24 4|34 0|15 5|25 6|35 0|70 1|40 0.5|41 1.5|71 1|16 7|26 8|"
+            + "36 0|17 9|27 10|37 0", o => (o.ArcCenter.Y, o.EndAngle, o.LeaderEnd.Y), o => o.LeaderStart.X = 1,
             (6.0, 1.5, 10.0)),
         Sample<CadJoggedDimension>("LARGE_RADIAL_DIMENSION", Dimension.Replace("{0}", "169", StringComparison.Ordinal)
             + "100 AcDbRadialDimensionLarge|13 1|23 2|33 0|14 3|24 4|34 0|15 5|25 6|35 0|40 0.75",
@@ -63,12 +63,12 @@ internal static partial class ObjectSamples
             o => (o.GraphHandle, o.LastNodeId, o.ShowHistory), o => o.RecordHistory = true, ("62E", 4, true)),
         Sample<CadGroup>("GROUP", "100 AcDbGroup|300 Doors|70 0|71 1|340 A1|340 A2|340 A3",
             o => (o.Description, o.EntityHandles.Count), o => o.EntityHandles.RemoveAt(1), ("Doors", 3)),
-        Sample<CadLight>("LIGHT", "100 AcDbLight|90 1|1 Spot|70 3|290 1|63 5|291 0|40 5.5|10 1|20 2|30 3|11 4|21 5|31 6|"
-            + "72 0|292 0|41 1|42 10|50 45|51 50|293 1|73 0|91 256|280 1",
+        Sample<CadLight>("LIGHT", "100 AcDbLight|90 1|1 Spot|70 3|290 1|63 5|291 0|40 5.5|10 1|20 2|30 3|11 4|21 5|"
+            + "31 6|72 0|292 0|41 1|42 10|50 45|51 50|293 1|73 0|91 256|280 1",
             o => (o.Name, o.Intensity, o.Target.Z, o.AttenuationStart), o => o.Position.Z = 0, ("Spot", 5.5, 6.0, 1.0)),
         Sample<CadMLeaderStyleObject>("MLEADERSTYLE", "100 AcDbMLeaderStyle|179 2|170 2|171 1|172 0|90 2|40 0|41 0.5|"
-            + "173 1|91 -1056964608|340 14|92 -2|290 1|42 2|291 1|43 8|3 Standard|341 0|44 4|300 text|342 11|174 1|178 1|"
-            + "175 1|176 0|93 -1056964608|45 4|292 0|297 0|46 4|343 0|94 -1056964608|47 1|49 1|140 1|293 1|141 0|294 1|"
+            + "173 1|91 -1056964608|340 14|92 -2|290 1|42 2|291 1|43 8|3 Standard|341 0|44 4|300 text|342 11|174 1|"
+            + "178 1|175 1|176 0|93 -1056964608|45 4|292 0|297 0|46 4|343 0|94 -1056964608|47 1|49 1|140 1|293 1|141 0|294 1|"
             + "177 0|142 1|295 0|296 0|143 3.75|271 0|272 9|273 9|298 0",
             o => (o.ContentType, o.SecondSegmentAngle, o.LandingGap), o => o.LandingGap = 3, ((short)2, 0.5, 2.0)),
         Sample<CadMLineStyleObject>("MLINESTYLE", "100 AcDbMlineStyle|2 Walls|70 0|3 Two lines|62 256|51 90|52 45|71 2|"

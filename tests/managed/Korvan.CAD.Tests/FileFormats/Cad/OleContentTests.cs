@@ -59,7 +59,8 @@ public class OleContentTests
     public void Other_data_has_no_preview(string why, byte[] data)
     {
         Assert.True(Preview(data) is null, why);
-        bool wouldBeWhole = why.Contains("than", StringComparison.Ordinal) || why.StartsWith("half", StringComparison.Ordinal);
+        bool wouldBeWhole = why.Contains("than", StringComparison.Ordinal)
+            || why.StartsWith("half", StringComparison.Ordinal);
         Assert.True(wouldBeWhole || Preview([.. data, .. Before]) is null, why);
     }
 
@@ -105,7 +106,7 @@ public class OleContentTests
         return [.. bytes];
     }
 
-    // Record type 1, its length, bounds, frame in hundredths of a millimetre, signature, version and length of the file.
+    // Record type 1, its length, bounds, frame in hundredths of a millimetre, signature, version, length of the file.
     private static byte[] Metafile(int stated, int length)
     {
         byte[] bytes = new byte[length];

@@ -105,7 +105,8 @@ public class RealDrawingEditTests
         object? old = property.GetValue(entity);
         try
         {
-            property.SetValue(entity, old switch { double d => d + 1, short s => (short)(s + 1), int i => i + 1, _ => old });
+            property.SetValue(
+                entity, old switch { double d => d + 1, short s => (short)(s + 1), int i => i + 1, _ => old });
         }
         catch (TargetInvocationException failure) when (failure.InnerException is ArgumentException)
         {

@@ -203,8 +203,10 @@ public class ReleaseGeometryTests
         return ReleaseTests.Converted(image, target).Image;
     }
 
-    private static string Corners(CadPolyline polyline) => string.Join(", ", polyline.Vertices.Select(static vertex =>
-        FormattableString.Invariant($"{Math.Round(vertex.LocationPoint.X, 9)} {Math.Round(vertex.LocationPoint.Y, 9)}")));
+    private static string Corners(CadPolyline polyline) => string.Join(", ", polyline.Vertices.Select(
+        static vertex => FormattableString.Invariant($"{R(vertex.LocationPoint.X)} {R(vertex.LocationPoint.Y)}")));
+
+    private static double R(double value) => Math.Round(value, 9);
 
     private static double Left(CadPolyline frame) => frame.Vertices.Min(static vertex => vertex.LocationPoint.X);
 

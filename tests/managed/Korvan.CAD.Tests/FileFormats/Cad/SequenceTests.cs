@@ -4,6 +4,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 using Korvan.CAD.FileFormats.Cad.CadObjects.DataTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Field;
+using Korvan.CAD.FileFormats.Cad.CadObjects.TableStyle;
 using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cad;
@@ -57,6 +58,64 @@ public class SequenceTests
         Assert.Equal(256, sun.ShadowMapSize);
         sun.Intensity = 7;
         Assert.Equal(["90: 1", "290: 1", "40: 7"], Written(image, "SUN")[^3..]);
+    }
+
+    [Fact]
+    public void Optional_fields_come_and_go_without_moving_others()
+    {
+        // The colour is missing, and so is the day: each of the others keeps its place.
+        CadImage image = Load("SUN", "AcDbSun", [.. Sun.Take(10), .. Sun.Skip(12)]);
+        CadSunObject sun = image.Objects.OfType<CadSunObject>().Single();
+        sun.ColorValue = 0x102030;
+        string[] tags = Written(image, "SUN");
+        Assert.Contains("421: 1056816", tags);
+        Assert.DoesNotContain(tags, static tag => tag.StartsWith("91:", System.StringComparison.Ordinal));
+        Assert.Equal(["92: 100", "292: 1", "70: 2", "71: 256", "280: 1"], tags[^5..]);
+
+        // The other way round: it is there, and goes.
+        image = Load("SUN", "AcDbSun", [.. Sun.Take(6), 421, 255, .. Sun.Skip(6).Take(4), .. Sun.Skip(12)]);
+        image.Objects.OfType<CadSunObject>().Single().ColorValue = -1;
+        Assert.Equal(
+            ["63: 5", "40: 2.5", "291: 0", "92: 100", "292: 1", "70: 2", "71: 256", "280: 1"],
+            Written(image, "SUN")[^8..]);
+    }
+
+    [Fact]
+    public void Cells_of_styles_have_formats_of_their_own_where_others_have_none()
+    {
+        object[] borders = [.. Enumerable.Range(0, 6).SelectMany(static i =>
+            new object[] { 274 + i, -2, 284 + i, 1, 64 + i, 0 })];
+        object[] plain = [7, "A", 140, 6, 170, 5, 62, 0, 63, 7, 283, 0, .. borders];
+        object[] formatted = [7, "B", 140, 6, 170, 5, 62, 0, 63, 7, 283, 0, 90, 4, 91, 0, 1, "%f", .. borders];
+        object[] fields = [3, "S", 70, 0, 71, 0, 40, 1, 41, 1, 280, 0, 281, 0, .. plain, .. formatted];
+        CadImage image = Load("TABLESTYLE", "AcDbTableStyle", fields);
+        CadTableStyle style = image.Objects.OfType<CadTableStyle>().Single();
+        Assert.Equal(["", "%f"], style.Cells.Select(static cell => cell.Content.Format));
+        style.Cells[1].Content.Format = "%d";
+        style.Cells[0].TextHeight = 9;
+        CadTableStyle again = DxfText.Reload(image).Objects.OfType<CadTableStyle>().Single();
+        Assert.Equal(["", "%d"], again.Cells.Select(static cell => cell.Content.Format));
+        Assert.Equal([9, 6], again.Cells.Select(static cell => (int)cell.TextHeight));
+        Assert.Empty(again.UnknownCodes);
+    }
+
+    [Theory]
+    [InlineData("<abc", "def>", 2)] // in chunks that another program chose
+    [InlineData("", "all", 1)]
+    public void Long_strings_keep_their_chunks_until_they_change(string piece, string last, int chunks)
+    {
+        const string type = "GEODATA";
+        object[] fields = [90, 3, 330, "1F", 70, 0, .. piece.Length > 0 ? new object[] { 303, piece } : [], 301, last];
+        CadImage image = Load(type, "AcDbGeoData", fields);
+        CadGeoData data = image.Objects.OfType<CadGeoData>().Single();
+        Assert.Equal(piece + last, data.CoordinateSystemDefinition);
+        static int Chunks(string[] tags) => tags.Count(static tag => tag[..3] is "303" or "301");
+        Assert.Equal(chunks, Chunks(Written(image, type)));
+        data.CoordinateSystemDefinition = new string('y', 600);
+        string[] tags = Written(image, type);
+        Assert.Equal(3, Chunks(tags));
+        CadGeoData again = DxfText.Reload(image).Objects.OfType<CadGeoData>().Single();
+        Assert.Equal(600, again.CoordinateSystemDefinition.Length);
     }
 
     [Fact]

@@ -220,6 +220,11 @@ internal static partial class ProxyGraphics
         }
 
         Vec3[] points = Array.ConvertAll(chunk.Points(rows * columns), state.Map.Point);
+        if (!Array.TrueForAll(points, static point => point.IsFinite))
+        {
+            return false;
+        }
+
         state.Sink.Grid(new PointGrid([.. points], rows, columns, false, false));
         return true;
     }
@@ -248,9 +253,14 @@ internal static partial class ProxyGraphics
             i += 1 + count;
         }
 
+        if (faces.Faces.Count == 0 || !Array.TrueForAll(points, static point => point.IsFinite))
+        {
+            return false;
+        }
+
         HideEdges(faces, ref chunk, edges);
         state.Sink.Faces(faces);
-        return faces.Faces.Count > 0;
+        return true;
     }
 
     /// <summary>Reads which edges are hidden, after what else is stored for each edge.</summary>
