@@ -2,6 +2,7 @@ using System;
 using System.IO;
 using System.Linq;
 using System.Text.RegularExpressions;
+using System.Threading;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
@@ -270,8 +271,10 @@ public sealed class PdfDocumentTests : IDisposable
             list.Fill(PdfSample.Box(0, 0, i % 99, 9), Rgba.Black, -1, evenOdd: false);
         }
 
-        var late = new PdfSettings { Checkpoint = static () => throw new OperationInterruptedException("late") };
-        Assert.Throws<OperationInterruptedException>(() => PdfSample.Write(_engine, [PdfSample.PageOf(list)], late));
+        using Budget budget = Budget.Begin(null, timeout: 1);
+        Thread.Sleep(50);
+        Assert.Throws<OperationInterruptedException>(
+            () => PdfSample.Write(_engine, [PdfSample.PageOf(list)], new PdfSettings()));
     }
 
     [Fact]
