@@ -1,0 +1,130 @@
+using System;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
+using Korvan.CAD.Rendering.Native;
+
+namespace Korvan.CAD.Rendering.Devices;
+
+/// <content>Strokes: thin lines directly, others by cairo, with their styles and dashes.</content>
+internal sealed unsafe partial class CairoPainter
+{
+    /// <summary>Dashes shorter than this in device units are drawn as a continuous line.</summary>
+    private const double ShortestPeriod = 0.75;
+
+    private void Stroke(in DisplayItem item)
+    {
+        double width = _settings.WidthOf(item);
+        StrokeStyle style = _list.StyleOf(item) ?? _settings.StrokeStyle;
+        if (!Crosses(item, width * Math.Max(1, style.Join == LineJoins.Miter ? style.MiterLimit : 1)))
+        {
+            return;
+        }
+
+        bool isDashed = item.Dash >= 0 && Period(item) >= ShortestPeriod;
+        bool isThin = width <= ThinLinePainter.MaxWidth && !isDashed && !_settings.Sharp;
+        if (isThin && _clip.IsBox && TryDrawDirectly(item, width))
+        {
+            return;
+        }
+
+        Trace(item);
+        SetColor(item.Color);
+        if (width != _lineWidth)
+        {
+            Cairo.SetLineWidth(_cr, width);
+            _lineWidth = width;
+        }
+
+        SetStyle(style);
+        SetDash(item, isDashed);
+        Cairo.Stroke(_cr);
+    }
+
+    private bool TryDrawDirectly(in DisplayItem item, double width) =>
+        DrawDirectly(_list.VerbsOf(item), _list.CoordsOf(item), _map, width, item.Color);
+
+    private bool DrawDirectly(
+        ReadOnlySpan<PathVerb> verbs, ReadOnlySpan<double> coords, in Affine2 map, double width, Rgba color)
+    {
+        if (!_isDirect)
+        {
+            Cairo.SurfaceFlush(_target.Surface);
+            _isDirect = true;
+        }
+
+        return _target.ThinLines.TryStroke(
+            verbs, coords, map, _clip.Box, width, color, DefaultTolerance * _settings.Coarseness);
+    }
+
+    /// <summary>Tells cairo of what was drawn without it, before it draws.</summary>
+    private void UseCairo()
+    {
+        if (_isDirect)
+        {
+            Cairo.SurfaceMarkDirty(_target.Surface);
+            _isDirect = false;
+        }
+    }
+
+    private double Period(in DisplayItem item)
+    {
+        double period = 0;
+        foreach (double length in _list.DashOf(item))
+        {
+            period += length * _scale;
+        }
+
+        return period;
+    }
+
+    private void SetStyle(StrokeStyle value)
+    {
+        if (_style == value)
+        {
+            return;
+        }
+
+        Cairo.SetLineCap(_cr, (CairoLineCap)value.Cap);
+        Cairo.SetLineJoin(_cr, (CairoLineJoin)value.Join);
+        Cairo.SetMiterLimit(_cr, value.MiterLimit);
+        _style = value;
+    }
+
+    private void SetDash(in DisplayItem item, bool isDashed)
+    {
+        if (!isDashed)
+        {
+            ClearDash();
+            return;
+        }
+
+        if (item.Dash == _dash && item.DashOffset == _dashOffset)
+        {
+            return;
+        }
+
+        double[] lengths = _list.DashOf(item);
+        Span<double> scaled = stackalloc double[lengths.Length <= 64 ? lengths.Length : 0];
+        for (int i = 0; i < scaled.Length; i++)
+        {
+            scaled[i] = lengths[i] * _scale;
+        }
+
+        fixed (double* p = scaled)
+        {
+            Cairo.SetDash(_cr, p, scaled.Length, item.DashOffset * _scale);
+        }
+
+        _dash = item.Dash;
+        _dashOffset = item.DashOffset;
+    }
+
+    private void ClearDash()
+    {
+        if (_dash >= 0)
+        {
+            Cairo.SetDash(_cr, null, 0, 0);
+            _dash = -1;
+        }
+    }
+}
