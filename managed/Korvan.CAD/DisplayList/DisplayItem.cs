@@ -34,8 +34,8 @@ internal struct DisplayItem
     /// <summary>Whether the line weight is in drawing units and grows with them.</summary>
     internal bool WeightInUnits;
 
-    /// <summary>Index into the table of line looks, or 0 for that of the page.</summary>
-    internal int Look;
+    /// <summary>Index into the table of stroke styles, or 0 for that of the page.</summary>
+    internal int Style;
 
     /// <summary>Index into the table of dash patterns, or -1 for a continuous line.</summary>
     internal int Dash;
@@ -65,25 +65,26 @@ internal enum LineJoins
     Bevel = 2,
 }
 
-/// <summary>Ends and joins of a line. Longer points than the limit, in line widths, are cut.</summary>
-internal readonly record struct LineLook(LineCaps Cap, LineJoins Join, double MiterLimit = LineLook.DefaultMiterLimit)
+/// <summary>Caps and joins of a line. Miters longer than the limit, in line widths, are beveled.</summary>
+internal readonly record struct StrokeStyle(
+    LineCaps Cap, LineJoins Join, double MiterLimit = StrokeStyle.DefaultMiterLimit)
 {
     internal const double DefaultMiterLimit = 10;
 
-    /// <summary>The word that SVG and the canvas of HTML have for the ends.</summary>
-    internal string CapWord => Cap switch { LineCaps.Butt => "butt", LineCaps.Square => "square", _ => "round" };
+    /// <summary>The keyword of SVG and of the canvas of HTML for the caps.</summary>
+    internal string CapKeyword => Cap switch { LineCaps.Butt => "butt", LineCaps.Square => "square", _ => "round" };
 
-    /// <summary>The word that SVG and the canvas of HTML have for the joins.</summary>
-    internal string JoinWord => Join switch { LineJoins.Miter => "miter", LineJoins.Bevel => "bevel", _ => "round" };
+    /// <summary>The keyword of SVG and of the canvas of HTML for the joins.</summary>
+    internal string JoinKeyword => Join switch { LineJoins.Miter => "miter", LineJoins.Bevel => "bevel", _ => "round" };
 }
 
-/// <summary>What a stroke looks like.</summary>
-internal struct StrokeStyle
+/// <summary>Colour, width, style, dashes and layer of a stroke.</summary>
+internal struct StrokeAttributes
 {
     internal Rgba Color;
     internal float LineWeight;
     internal bool WeightInUnits;
-    internal int Look;
+    internal int Style;
     internal int Dash;
     internal float DashOffset;
     internal int Layer;

@@ -20,7 +20,7 @@ internal sealed partial class DrawingList
         in DisplayItem item, PatternArea area, PathBuffer outline, Bounds2? clip);
 
     /// <summary>Adds an area that is filled with lines.</summary>
-    internal void Pattern(PathBuffer outline, PatternArea area, in StrokeStyle style)
+    internal void Pattern(PathBuffer outline, PatternArea area, in StrokeAttributes style)
     {
         if (outline.IsEmpty || !AddPath(outline, DisplayKind.Pattern, style.Color, style.Layer, out int index))
         {
@@ -32,10 +32,14 @@ internal sealed partial class DrawingList
         _patterns.Add(area);
     }
 
-    /// <summary>Replaces the hatched areas by what a painter adds in their places.</summary>
-    internal void ResolvePatterns(PatternPainter painter)
+    /// <summary>Replaces the hatched areas by what a painter adds in their places, and lines that reach far outside of
+    /// the page by their parts near it.</summary>
+    /// <param name="painter">Draws areas.</param>
+    /// <param name="near">The box that lines are clipped to; null to keep them.</param>
+    internal void Resolve(PatternPainter painter, Bounds2? near)
     {
-        if (_patterns.Count == 0)
+        bool hasFarLines = near is Bounds2 box && !box.Contains(_reach);
+        if (_patterns.Count == 0 && !hasFarLines)
         {
             return;
         }
@@ -59,16 +63,12 @@ internal sealed partial class DrawingList
                 continue;
             }
 
-            if (item.Kind == DisplayKind.PushClip)
+            if (hasFarLines && item.Kind == DisplayKind.Stroke && TryAddNear(item, near!.Value))
             {
-                PathOf(item, outline);
-                _clips.Add(ActiveClip is Bounds2 clip ? outline.Bounds.Clip(clip) : outline.Bounds);
-            }
-            else if (item.Kind == DisplayKind.PopClip)
-            {
-                _clips.RemoveAt(_clips.Count - 1);
+                continue;
             }
 
+            FollowClip(item, outline);
             NewItem(item.Kind, item.Color, item.Layer) = item;
         }
 
@@ -76,6 +76,20 @@ internal sealed partial class DrawingList
         _clips.Clear();
         _clips.AddRange(clips);
         _patterns.Clear();
+        _reach = Bounds2.Empty;
+    }
+
+    private void FollowClip(in DisplayItem item, PathBuffer outline)
+    {
+        if (item.Kind == DisplayKind.PushClip)
+        {
+            PathOf(item, outline);
+            _clips.Add(ActiveClip is Bounds2 clip ? outline.Bounds.Clip(clip) : outline.Bounds);
+        }
+        else if (item.Kind == DisplayKind.PopClip)
+        {
+            _clips.RemoveAt(_clips.Count - 1);
+        }
     }
 
     /// <summary>Removes the areas, and notes which clips hold at the start of what is stored next.</summary>

@@ -32,8 +32,8 @@ internal sealed partial class DrawingList
     private readonly List<double[]> _dashes = [];
     private readonly Dictionary<string, int> _dashIndex = [];
     private readonly List<Bounds2> _clips = [];
-    private readonly List<LineLook> _looks = [];
-    private readonly Dictionary<LineLook, int> _lookIndex = [];
+    private readonly List<StrokeStyle> _styles = [];
+    private readonly Dictionary<StrokeStyle, int> _styleIndex = [];
     private readonly HashSet<int> _screenLayers = [];
     private readonly List<PlacedLink> _links = [];
     private DisplayItem[] _items = new DisplayItem[256];
@@ -80,7 +80,7 @@ internal sealed partial class DrawingList
 
     internal double[] DashOf(in DisplayItem item) => _dashes[item.Dash];
 
-    internal LineLook? LookOf(in DisplayItem item) => item.Look > 0 ? _looks[item.Look - 1] : null;
+    internal StrokeStyle? StyleOf(in DisplayItem item) => item.Style > 0 ? _styles[item.Style - 1] : null;
 
     internal TextRun TextOf(in DisplayItem item) => _texts[item.Extra];
 
@@ -118,14 +118,14 @@ internal sealed partial class DrawingList
         return index;
     }
 
-    /// <summary>Keeps one copy of each look.</summary>
-    internal int Look(LineLook look)
+    /// <summary>Keeps one copy of each style.</summary>
+    internal int StyleIndex(StrokeStyle style)
     {
-        if (!_lookIndex.TryGetValue(look, out int index))
+        if (!_styleIndex.TryGetValue(style, out int index))
         {
-            _looks.Add(look);
-            index = _looks.Count;
-            _lookIndex.Add(look, index);
+            _styles.Add(style);
+            index = _styles.Count;
+            _styleIndex.Add(style, index);
         }
 
         return index;
@@ -156,17 +156,18 @@ internal sealed partial class DrawingList
     internal void Skip(string kind) =>
         Skipped[kind] = Skipped.TryGetValue(kind, out int count) ? count + 1 : 1;
 
-    internal void Stroke(PathBuffer path, in StrokeStyle style)
+    internal void Stroke(PathBuffer path, in StrokeAttributes style)
     {
         if (path.IsEmpty || !AddPath(path, DisplayKind.Stroke, style.Color, style.Layer, out int index))
         {
             return;
         }
 
+        _reach.Add(path.Bounds);
         ref DisplayItem item = ref _items[index];
         item.LineWeight = style.LineWeight;
         item.WeightInUnits = style.WeightInUnits;
-        item.Look = style.Look;
+        item.Style = style.Style;
         item.Dash = style.Dash;
         item.DashOffset = style.DashOffset;
     }

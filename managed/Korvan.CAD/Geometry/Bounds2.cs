@@ -39,6 +39,9 @@ internal struct Bounds2
 
     internal readonly bool Contains(double x, double y) => x >= MinX && x <= MaxX && y >= MinY && y <= MaxY;
 
+    internal readonly bool Contains(in Bounds2 other) => other.IsEmpty
+        || (other.MinX >= MinX && other.MaxX <= MaxX && other.MinY >= MinY && other.MaxY <= MaxY);
+
     internal readonly bool Intersects(in Bounds2 other) =>
         MinX <= other.MaxX && other.MinX <= MaxX && MinY <= other.MaxY && other.MinY <= MaxY;
 

@@ -39,7 +39,7 @@ internal sealed class RenderNotes
 
         if (_missingGlyphs > 0)
         {
-            results.Add(new RenderResult(RenderErrorCode.MissingGlyph, $"letters that no font has ({_missingGlyphs})"));
+            results.Add(new RenderResult(RenderErrorCode.MissingGlyph, $"missing glyphs ({_missingGlyphs})"));
         }
 
         return results;

@@ -20,11 +20,8 @@ internal readonly record struct ClipArea(Bounds2 Box, bool IsBox);
 /// Plays a list on a cairo context. Coordinates are mapped here, in double precision: cairo keeps 24.8 fixed point,
 /// and drawings lie at map coordinates of seven digits.
 /// </summary>
-internal sealed unsafe class CairoPainter
+internal sealed unsafe partial class CairoPainter
 {
-    /// <summary>Dashes shorter than this in device units melt into a line.</summary>
-    private const double ShortestPeriod = 0.75;
-
     /// <summary>Far outside of any page; keeps coordinates inside cairo's fixed point range.</summary>
     private const double FarAway = 4_000_000;
     private const double SmallestText = 0.15;
@@ -39,13 +36,6 @@ internal sealed unsafe class CairoPainter
 
     /// <summary>That of cairo itself, in device units.</summary>
     private const double DefaultTolerance = 0.1;
-
-    /// <summary>How far the sides of a box may be from upright, in pixels.</summary>
-    private const double BoxTolerance = 0.05;
-
-    /// <summary>Pages from which on a line leads far away from its page.</summary>
-    private const double FarLine = 4;
-    private const double BorderPixels = 4;
 
     /// <summary>The parts of a path that take about as long as one step of the budget.</summary>
     private const int VerbsPerStep = 8;
@@ -71,14 +61,12 @@ internal sealed unsafe class CairoPainter
     private readonly RowRange _rows;
     private readonly PixelTarget _target;
     private readonly Stack<ClipArea> _clips = new();
-    private readonly PathBuffer _far = new();
-    private readonly PathBuffer _dashes = new();
     private ClipArea _clip = new(Bounds2.Of(-FarAway, -FarAway, FarAway, FarAway), IsBox: true);
     private bool _isDirect;
     private Rgba _color;
     private bool _hasColor;
     private double _lineWidth = -1;
-    private LineLook? _look;
+    private StrokeStyle? _style;
     private int _dash = -1;
     private double _dashOffset;
 
@@ -174,172 +162,6 @@ internal sealed unsafe class CairoPainter
                 ForgetState();
                 _clip = _clips.Pop();
                 break;
-        }
-    }
-
-    private void Stroke(in DisplayItem item)
-    {
-        double width = _settings.WidthOf(item);
-        LineLook look = _list.LookOf(item) ?? _settings.Look;
-        if (!Crosses(item, width * Math.Max(1, look.Join == LineJoins.Miter ? look.MiterLimit : 1)))
-        {
-            return;
-        }
-
-        bool isDashed = item.Dash >= 0 && Period(item) >= ShortestPeriod;
-        bool isThin = width <= ThinLinePainter.MaxWidth && !isDashed && !_settings.Sharp;
-        if (isThin && _clip.IsBox && TryDrawDirectly(item, width))
-        {
-            return;
-        }
-
-        bool isSplit = isDashed && TraceDashes(item, width);
-        if (!isSplit)
-        {
-            Trace(item);
-        }
-
-        Budget.Step(1 + (item.VerbCount / VerbsPerStep));
-        SetColor(item.Color);
-        if (width != _lineWidth)
-        {
-            Cairo.SetLineWidth(_cr, width);
-            _lineWidth = width;
-        }
-
-        SetLook(look);
-        SetDash(item, isDashed && !isSplit);
-        Cairo.Stroke(_cr);
-    }
-
-    /// <summary>Makes the dashes on the page the path, for a line that leads far away from it: cairo would walk all of
-    /// them.</summary>
-    private bool TraceDashes(in DisplayItem item, double width)
-    {
-        double pageWidth = _target.ThinLines.Width;
-        double border = (2 * width) + BorderPixels;
-        double reach = Math.Max(pageWidth, _rows.End) * FarLine;
-        if (!IsFar(item, reach))
-        {
-            return false;
-        }
-
-        _far.Clear();
-        _far.AppendMapped(_list.VerbsOf(item), _list.CoordsOf(item), _map);
-        double[] lengths = Array.ConvertAll(_list.DashOf(item), length => length * _scale);
-        double tolerance = DefaultTolerance * _settings.Coarseness;
-        Bounds2 visible = Bounds2.Of(-border, _rows.First - border, pageWidth + border, _rows.End + border);
-        if (!DashSplitter.TrySplit(_far, lengths, item.DashOffset * _scale, tolerance, _dashes, visible))
-        {
-            return false;
-        }
-
-        UseCairo();
-        Cairo.NewPath(_cr);
-        Trace(_dashes.Verbs, _dashes.Coords, Affine2.Identity);
-        return true;
-    }
-
-    private bool IsFar(in DisplayItem item, double reach)
-    {
-        ReadOnlySpan<double> c = _list.CoordsOf(item)[..CoordCount(item)];
-        for (int at = 0; at < c.Length; at += 2)
-        {
-            Vec2 p = _map.Point(c[at], c[at + 1]);
-            if (!(Math.Abs(p.X) < reach && Math.Abs(p.Y) < reach))
-            {
-                return true;
-            }
-        }
-
-        return false;
-    }
-
-    private bool TryDrawDirectly(in DisplayItem item, double width) =>
-        DrawDirectly(_list.VerbsOf(item), _list.CoordsOf(item), _map, width, item.Color);
-
-    private bool DrawDirectly(
-        ReadOnlySpan<PathVerb> verbs, ReadOnlySpan<double> coords, in Affine2 map, double width, Rgba color)
-    {
-        if (!_isDirect)
-        {
-            Cairo.SurfaceFlush(_target.Surface);
-            _isDirect = true;
-        }
-
-        return _target.ThinLines.TryStroke(
-            verbs, coords, map, _clip.Box, width, color, DefaultTolerance * _settings.Coarseness);
-    }
-
-    /// <summary>Tells cairo of what was drawn without it, before it draws.</summary>
-    private void UseCairo()
-    {
-        if (_isDirect)
-        {
-            Cairo.SurfaceMarkDirty(_target.Surface);
-            _isDirect = false;
-        }
-    }
-
-    private double Period(in DisplayItem item)
-    {
-        double period = 0;
-        foreach (double length in _list.DashOf(item))
-        {
-            period += length * _scale;
-        }
-
-        return period;
-    }
-
-    private void SetLook(LineLook value)
-    {
-        if (_look == value)
-        {
-            return;
-        }
-
-        Cairo.SetLineCap(_cr, (CairoLineCap)value.Cap);
-        Cairo.SetLineJoin(_cr, (CairoLineJoin)value.Join);
-        Cairo.SetMiterLimit(_cr, value.MiterLimit);
-        _look = value;
-    }
-
-    private void SetDash(in DisplayItem item, bool isDashed)
-    {
-        if (!isDashed)
-        {
-            ClearDash();
-            return;
-        }
-
-        if (item.Dash == _dash && item.DashOffset == _dashOffset)
-        {
-            return;
-        }
-
-        double[] lengths = _list.DashOf(item);
-        Span<double> scaled = stackalloc double[lengths.Length <= 64 ? lengths.Length : 0];
-        for (int i = 0; i < scaled.Length; i++)
-        {
-            scaled[i] = lengths[i] * _scale;
-        }
-
-        fixed (double* p = scaled)
-        {
-            Cairo.SetDash(_cr, p, scaled.Length, item.DashOffset * _scale);
-        }
-
-        _dash = item.Dash;
-        _dashOffset = item.DashOffset;
-    }
-
-    private void ClearDash()
-    {
-        if (_dash >= 0)
-        {
-            Cairo.SetDash(_cr, null, 0, 0);
-            _dash = -1;
         }
     }
 
@@ -494,105 +316,6 @@ internal sealed unsafe class CairoPainter
         Cairo.Clip(_cr);
     }
 
-    /// <summary>Returns whether a path reaches into the rows that are painted.</summary>
-    private bool Crosses(in DisplayItem item, double border)
-    {
-        ReadOnlySpan<double> c = _list.CoordsOf(item);
-        int count = CoordCount(item);
-        double top = double.MaxValue;
-        double bottom = double.MinValue;
-        for (int at = 0; at < count; at += 2)
-        {
-            double y = (_map.Yx * c[at]) + (_map.Yy * c[at + 1]) + _map.Y0;
-            top = Math.Min(top, y);
-            bottom = Math.Max(bottom, y);
-        }
-
-        return bottom + border >= _rows.First - 1 && top - border <= _rows.End + 1;
-    }
-
-    private int CoordCount(in DisplayItem item)
-    {
-        int count = 0;
-        foreach (PathVerb verb in _list.VerbsOf(item))
-        {
-            count += verb switch { PathVerb.Curve => 6, PathVerb.Close => 0, _ => 2 };
-        }
-
-        return count;
-    }
-
-    /// <summary>The box of a path on the page, and whether the path is that box.</summary>
-    private Bounds2 BoxOf(in DisplayItem item, out bool isBox)
-    {
-        ReadOnlySpan<PathVerb> verbs = _list.VerbsOf(item);
-        ReadOnlySpan<double> c = _list.CoordsOf(item);
-        isBox = verbs.Length is 4 or 5 or 6 && verbs[0] == PathVerb.Move
-            && verbs[1..4].IndexOfAnyExcept(PathVerb.Line) < 0 && verbs[4..].IndexOf(PathVerb.Move) < 0;
-        Bounds2 box = Bounds2.Empty;
-        Vec2 last = default;
-        for (int i = 0; i < 4 && isBox; i++)
-        {
-            Vec2 p = _map.Point(c[2 * i], c[(2 * i) + 1]);
-            isBox &= i == 0 || Math.Abs(p.X - last.X) < BoxTolerance || Math.Abs(p.Y - last.Y) < BoxTolerance;
-            box.Add(p.X, p.Y);
-            last = p;
-        }
-
-        if (verbs.Length > 4 && verbs[4] == PathVerb.Line)
-        {
-            isBox &= c[8] == c[0] && c[9] == c[1];
-        }
-
-        return isBox ? box : Bounds2.Of(-FarAway, -FarAway, FarAway, FarAway);
-    }
-
-    private void Trace(in DisplayItem item)
-    {
-        UseCairo();
-        Cairo.NewPath(_cr);
-        Trace(_list.VerbsOf(item), _list.CoordsOf(item), _map);
-    }
-
-    private void Trace(ReadOnlySpan<PathVerb> verbs, ReadOnlySpan<double> c, in Affine2 map)
-    {
-        int at = 0;
-        foreach (PathVerb verb in verbs)
-        {
-            switch (verb)
-            {
-                case PathVerb.Move:
-                    Map(map, c, at, out double mx, out double my);
-                    Cairo.MoveTo(_cr, mx, my);
-                    at += 2;
-                    break;
-                case PathVerb.Line:
-                    Map(map, c, at, out double lx, out double ly);
-                    Cairo.LineTo(_cr, lx, ly);
-                    at += 2;
-                    break;
-                case PathVerb.Curve:
-                    Map(map, c, at, out double x1, out double y1);
-                    Map(map, c, at + 2, out double x2, out double y2);
-                    Map(map, c, at + 4, out double x3, out double y3);
-                    Cairo.CurveTo(_cr, x1, y1, x2, y2, x3, y3);
-                    at += 6;
-                    break;
-                default:
-                    Cairo.ClosePath(_cr);
-                    break;
-            }
-        }
-    }
-
-    private static void Map(in Affine2 map, ReadOnlySpan<double> c, int at, out double x, out double y)
-    {
-        double u = c[at];
-        double v = c[at + 1];
-        x = Math.Clamp((map.Xx * u) + (map.Xy * v) + map.X0, -FarAway, FarAway);
-        y = Math.Clamp((map.Yx * u) + (map.Yy * v) + map.Y0, -FarAway, FarAway);
-    }
-
     private static bool IsNear(double x, double y) => Math.Abs(x) < FarAway && Math.Abs(y) < FarAway;
 
     private void SetColor(Rgba value)
@@ -610,7 +333,7 @@ internal sealed unsafe class CairoPainter
     {
         _hasColor = false;
         _lineWidth = -1;
-        _look = null;
+        _style = null;
         _dash = int.MaxValue;
         ClearDash();
     }

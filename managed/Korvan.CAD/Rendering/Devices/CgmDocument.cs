@@ -34,7 +34,7 @@ internal sealed class CgmDocument : MetafilePlayer
     private readonly double _unitsPerPoint;
     private readonly PathBuffer _letters = new();
     private (Rgba Color, int Width) _line = (default, -1);
-    private LineLook _look;
+    private StrokeStyle _style;
     private Rgba? _fill;
 
     private CgmDocument(TextEngine engine, Page page, CgmOptions options, double unitsPerPoint)
@@ -42,7 +42,7 @@ internal sealed class CgmDocument : MetafilePlayer
     {
         _options = options;
         _unitsPerPoint = unitsPerPoint;
-        _look = Settings.Look;
+        _style = Settings.StrokeStyle;
 
         // The fonts of the head are known when the body is written. So a head is written before each of both, and the
         // one before the body is dropped: it says how the body is coded.
@@ -62,7 +62,7 @@ internal sealed class CgmDocument : MetafilePlayer
         document._content.CopyTo(output);
     }
 
-    protected override void Line(PathBuffer path, Rgba color, double width, LineLook look)
+    protected override void Line(PathBuffer path, Rgba color, double width, StrokeStyle style)
     {
         int size = Math.Max(1, (int)Math.Round(width));
         if (_line != (color, size))
@@ -72,10 +72,10 @@ internal sealed class CgmDocument : MetafilePlayer
             _line = (color, size);
         }
 
-        if (_look != look)
+        if (_style != style)
         {
-            PutLook(_put, look);
-            _look = look;
+            PutStyle(_put, style);
+            _style = style;
         }
 
         foreach (FlatLine line in FlatLine.Of(path, Tolerance))
@@ -123,7 +123,7 @@ internal sealed class CgmDocument : MetafilePlayer
         {
             _letters.Clear();
             Engine.AddOutline(run, matrix, _letters);
-            Line(_letters, Opaque(color), 1, _look);
+            Line(_letters, Opaque(color), 1, _style);
             return;
         }
 
@@ -282,18 +282,18 @@ internal sealed class CgmDocument : MetafilePlayer
         put(new BackgroundColour(Direct(Settings.Background)));
         put(new BeginPictureBody());
         put(new InteriorStyle { Value = InteriorStyle.Style.Solid });
-        PutLook(put, Settings.Look);
+        PutStyle(put, Settings.StrokeStyle);
     }
 
-    private static void PutLook(Action<Command> put, LineLook look)
+    private static void PutStyle(Action<Command> put, StrokeStyle style)
     {
-        LineCapIndicator cap = look.Cap switch
+        LineCapIndicator cap = style.Cap switch
         {
             LineCaps.Butt => LineCapIndicator.Butt,
             LineCaps.Square => LineCapIndicator.ProjectingSquare,
             _ => LineCapIndicator.Round,
         };
-        JoinIndicator join = look.Join switch
+        JoinIndicator join = style.Join switch
         {
             LineJoins.Miter => JoinIndicator.Mitre,
             LineJoins.Bevel => JoinIndicator.Bevel,

@@ -54,9 +54,9 @@ internal sealed class EmfDocument : MetafilePlayer
             document._handles.Count + 1, page.Name);
     }
 
-    protected override void Line(PathBuffer path, Rgba color, double width, LineLook look)
+    protected override void Line(PathBuffer path, Rgba color, double width, StrokeStyle style)
     {
-        SelectPen(color, width, look);
+        SelectPen(color, width, style);
         if (path.Verbs.Contains(PathVerb.Close))
         {
             AddPath(path);
@@ -158,13 +158,13 @@ internal sealed class EmfDocument : MetafilePlayer
         }
     }
 
-    private void SelectPen(Rgba color, double width, LineLook look)
+    private void SelectPen(Rgba color, double width, StrokeStyle style)
     {
         const int geometric = 0x10000;
         int size = Math.Max(1, Round(width));
-        int style = geometric | PenEnds(look);
-        int handle = Handle((EmfObject.Pen, ColorRef(color), size, style.ToString(CultureInfo.InvariantCulture)), at =>
-            _records.AddPen(at, style, size, ColorRef(color)));
+        int ends = geometric | PenEnds(style);
+        int handle = Handle((EmfObject.Pen, ColorRef(color), size, ends.ToString(CultureInfo.InvariantCulture)), at =>
+            _records.AddPen(at, ends, size, ColorRef(color)));
         if (handle != _selected.Pen)
         {
             _records.Add(EmfRecord.SelectObject, handle);

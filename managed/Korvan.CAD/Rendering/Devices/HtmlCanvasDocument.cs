@@ -50,15 +50,15 @@ internal sealed class HtmlCanvasDocument : PagePlayer
     private const double FontSize = 100;
 
     /// <summary>No line has this, so that the first one states its own.</summary>
-    private static readonly LineLook NoLook = new((LineCaps)(-1), default);
+    private static readonly StrokeStyle NoStyle = new((LineCaps)(-1), default);
 
     private readonly Html5Options _options;
     private readonly StringBuilder _calls = new();
     private readonly StringBuilder _pictures = new();
     private readonly StringBuilder _data = new();
-    private readonly Stack<LineLook> _saved = new();
+    private readonly Stack<StrokeStyle> _saved = new();
     private int _pictureCount;
-    private LineLook _look = NoLook;
+    private StrokeStyle _style = NoStyle;
 
     private HtmlCanvasDocument(TextEngine engine, Page page, Html5Options options)
         : base(engine, page, page.Notes)
@@ -83,10 +83,10 @@ internal sealed class HtmlCanvasDocument : PagePlayer
 
     protected override void Stroke(PathBuffer path, in DeviceStroke stroke)
     {
-        if (_look != stroke.Look)
+        if (_style != stroke.Style)
         {
-            _look = stroke.Look;
-            _calls.Append($"l(\"{_look.CapWord}\",\"{_look.JoinWord}\",{N(_look.MiterLimit)});\n");
+            _style = stroke.Style;
+            _calls.Append($"l(\"{_style.CapKeyword}\",\"{_style.JoinKeyword}\",{N(_style.MiterLimit)});\n");
         }
 
         string dash = stroke.Dash is null ? "[]" : $"[{string.Join(',', Array.ConvertAll(stroke.Dash, N))}]";
@@ -119,10 +119,10 @@ internal sealed class HtmlCanvasDocument : PagePlayer
         FontSpec font = Engine.SpecOf(run.Font);
         string family = string.Join(',',
             Array.ConvertAll(font.Family.Split(','), name => $"'{name.Trim().Replace("'", string.Empty)}'"));
-        string look = (font.Italic ? "italic " : "") + (font.Bold ? "bold " : "");
+        string traits = (font.Italic ? "italic " : "") + (font.Bold ? "bold " : "");
         double width = Engine.Advance(run.Font, run.Text, run.LetterSpacing) * FontSize;
         _calls.Append(
-            $"t({Quoted(run.Text)},{Matrix(letters)},{Quoted($"{look}{FontSize}px {family}")},"
+            $"t({Quoted(run.Text)},{Matrix(letters)},{Quoted($"{traits}{FontSize}px {family}")},"
             + $"{N(width)},\"{Css(color)}\");\n");
     }
 
@@ -139,13 +139,13 @@ internal sealed class HtmlCanvasDocument : PagePlayer
 
     protected override void PushClip(PathBuffer path, bool evenOdd)
     {
-        _saved.Push(_look);
+        _saved.Push(_style);
         _calls.Append($"c(\"{Data(path)}\",\"{Rule(evenOdd)}\");\n");
     }
 
     protected override void PopClip()
     {
-        _look = _saved.Pop();
+        _style = _saved.Pop();
         _calls.Append("r();\n");
     }
 

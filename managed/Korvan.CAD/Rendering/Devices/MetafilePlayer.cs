@@ -28,22 +28,22 @@ internal abstract class MetafilePlayer : PagePlayer
         Bounds2 page = Bounds2.Of(-border, -border, Width + border, Height + border);
         bool cut = stroke.Dash is not null
             && DashSplitter.TrySplit(path, stroke.Dash, stroke.DashOffset, Tolerance, _dashes, page);
-        Line(cut ? _dashes : path, color, stroke.Width, stroke.Look);
+        Line(cut ? _dashes : path, color, stroke.Width, stroke.Style);
     }
 
     /// <summary>Ends and joins as the flags of a pen ([MS-EMF] 2.1.25; those of [MS-WMF] 2.1.1.23 are the
     /// same).</summary>
-    protected static int PenEnds(LineLook look)
+    protected static int PenEnds(StrokeStyle style)
     {
-        int cap = look.Cap switch { LineCaps.Butt => 0x200, LineCaps.Square => 0x100, _ => 0 };
-        int join = look.Join switch { LineJoins.Miter => 0x2000, LineJoins.Bevel => 0x1000, _ => 0 };
+        int cap = style.Cap switch { LineCaps.Butt => 0x200, LineCaps.Square => 0x100, _ => 0 };
+        int join = style.Join switch { LineJoins.Miter => 0x2000, LineJoins.Bevel => 0x1000, _ => 0 };
         return cap | join;
     }
 
     protected sealed override void Fill(PathBuffer path, Rgba color, bool evenOdd) =>
         Area(path, Opaque(color), evenOdd);
 
-    protected abstract void Line(PathBuffer path, Rgba color, double width, LineLook look);
+    protected abstract void Line(PathBuffer path, Rgba color, double width, StrokeStyle style);
 
     protected abstract void Area(PathBuffer path, Rgba color, bool evenOdd);
 

@@ -8,7 +8,7 @@ namespace Korvan.CAD.Rendering.Devices;
 
 /// <summary>How a line is drawn, in device units.</summary>
 internal readonly record struct DeviceStroke(Rgba Color, double Width, double[]? Dash, double DashOffset,
-    LineLook Look);
+    StrokeStyle Style);
 
 /// <summary>
 /// Goes through a page and hands its items on in device units, for formats that have primitives of their own. What a
@@ -207,10 +207,10 @@ internal abstract class PagePlayer
     private DeviceStroke StrokeOf(in DisplayItem item)
     {
         double width = Settings.WidthOf(item) * _scale;
-        LineLook look = _list.LookOf(item) ?? Settings.Look;
+        StrokeStyle style = _list.StyleOf(item) ?? Settings.StrokeStyle;
         if (item.Dash < 0)
         {
-            return new DeviceStroke(item.Color, width, null, 0, look);
+            return new DeviceStroke(item.Color, width, null, 0, style);
         }
 
         double scale = Math.Sqrt(Math.Abs(_map.Determinant));
@@ -218,8 +218,8 @@ internal abstract class PagePlayer
         double[] lengths = Array.ConvertAll(_list.DashOf(item), length => length * scale);
         Array.ForEach(lengths, length => period += length);
         return period < ShortestPeriod * _scale
-            ? new DeviceStroke(item.Color, width, null, 0, look)
-            : new DeviceStroke(item.Color, width, lengths, item.DashOffset * scale, look);
+            ? new DeviceStroke(item.Color, width, null, 0, style)
+            : new DeviceStroke(item.Color, width, lengths, item.DashOffset * scale, style);
     }
 
     private PathBuffer Trace(in DisplayItem item)

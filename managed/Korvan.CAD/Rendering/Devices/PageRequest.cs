@@ -46,7 +46,7 @@ internal readonly record struct PageRequest
     internal required double UnitsPerMillimetre { get; init; }
 
     /// <summary>The longer side of a page that nothing else gives a size.</summary>
-    internal required double UsualSide { get; init; }
+    internal required double DefaultSide { get; init; }
 }
 
 /// <summary>The sheet of a paper layout: its rectangle in drawing units, and its size in millimetres.</summary>
@@ -145,11 +145,11 @@ internal readonly record struct PageLayout(double Width, double Height, Affine2 
         }
 
         double longest = Math.Max(region.Width, region.Height);
-        double unit = longest > 0 ? request.UsualSide / longest : 0;
-        double least = request.UsualSide * NarrowestShare;
+        double unit = longest > 0 ? request.DefaultSide / longest : 0;
+        double least = request.DefaultSide * NarrowestShare;
         return longest > 0
             ? (borderX + Math.Max(least, region.Width * unit), borderY + Math.Max(least, region.Height * unit))
-            : (borderX + request.UsualSide, borderY + request.UsualSide);
+            : (borderX + request.DefaultSide, borderY + request.DefaultSide);
     }
 
     /// <summary>The shape of a drawing, kept between 1:20 and 20:1 so that a single line still gets a page.</summary>

@@ -32,10 +32,10 @@ internal readonly record struct PaintSettings
 
     internal LineCaps Caps { get; init; }
 
-    /// <summary>How far chords may lie from their curves, as a factor on what is usual.</summary>
+    /// <summary>How far flattened curves may be from the curves, as a factor on the default.</summary>
     internal double Coarseness { get; init; } = 1;
 
-    /// <summary>Texts are filled as exact outlines, not put down letter by letter on whole pixels.</summary>
+    /// <summary>Texts are filled as exact outlines, not placed glyph by glyph on whole pixels.</summary>
     internal bool ExactText { get; init; }
 
     internal InterpolationMode Interpolation { get; init; }
@@ -44,7 +44,7 @@ internal readonly record struct PaintSettings
     internal Bounds2? Clip { get; init; }
 
     /// <summary>Ends and joins of lines that have none of their own.</summary>
-    internal LineLook Look => new(Caps, LineJoins.Round);
+    internal StrokeStyle StrokeStyle => new(Caps, LineJoins.Round);
 
     /// <summary>The width of a line in device units.</summary>
     internal double WidthOf(in DisplayItem item)

@@ -43,7 +43,7 @@ internal sealed partial class SvgDocument
 
     private static bool IsSameStroke(in DisplayItem a, in DisplayItem b) =>
         b.Kind == DisplayKind.Stroke && a.Color == b.Color && a.Layer == b.Layer && a.LineWeight == b.LineWeight
-        && a.WeightInUnits == b.WeightInUnits && a.Look == b.Look && a.Dash == b.Dash
+        && a.WeightInUnits == b.WeightInUnits && a.Style == b.Style && a.Dash == b.Dash
         && (a.Dash < 0 || a.DashOffset == b.DashOffset);
 
     private void WriteStrokeStyle(in DisplayItem item)
@@ -53,16 +53,16 @@ internal sealed partial class SvgDocument
         _writer.Raw((byte)'"');
         Attribute(" stroke-width"u8, _settings.WidthOf(item));
         WriteOpacity(" stroke-opacity"u8, item.Color);
-        if (_list.LookOf(item) is LineLook look)
+        if (_list.StyleOf(item) is StrokeStyle style)
         {
             _writer.Raw(" stroke-linecap=\""u8);
-            _writer.Text(look.CapWord);
+            _writer.Text(style.CapKeyword);
             _writer.Raw("\" stroke-linejoin=\""u8);
-            _writer.Text(look.JoinWord);
+            _writer.Text(style.JoinKeyword);
             _writer.Raw((byte)'"');
-            if (look.Join == LineJoins.Miter)
+            if (style.Join == LineJoins.Miter)
             {
-                Attribute(" stroke-miterlimit"u8, look.MiterLimit);
+                Attribute(" stroke-miterlimit"u8, style.MiterLimit);
             }
         }
 

@@ -97,7 +97,7 @@ internal sealed partial class SvgDocument
         }
 
         _writer.Raw("<g fill=\"none\" stroke-linecap=\""u8);
-        _writer.Text(_settings.Look.CapWord);
+        _writer.Text(_settings.StrokeStyle.CapKeyword);
         _writer.Raw("\" stroke-linejoin=\"round\""u8);
         _writer.Raw(_settings.Sharp ? " shape-rendering=\"crispEdges\""u8 : default);
         _writer.Raw(_settings.Clip is null ? ">\n"u8 : " clip-path=\"url(#page)\">\n"u8);

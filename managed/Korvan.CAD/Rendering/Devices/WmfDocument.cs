@@ -43,9 +43,9 @@ internal sealed class WmfDocument : MetafilePlayer
             document._handles.Count);
     }
 
-    protected override void Line(PathBuffer path, Rgba color, double width, LineLook look)
+    protected override void Line(PathBuffer path, Rgba color, double width, StrokeStyle style)
     {
-        Select(ref _selected.Pen, Pen(color, width, look));
+        Select(ref _selected.Pen, Pen(color, width, style));
         foreach (FlatLine line in FlatLine.Of(path, Tolerance))
         {
             // A line of many points is cut into several that share their ends.
@@ -180,10 +180,10 @@ internal sealed class WmfDocument : MetafilePlayer
         }
     }
 
-    private int Pen(Rgba color, double width, LineLook look)
+    private int Pen(Rgba color, double width, StrokeStyle style)
     {
         int size = Math.Max(1, (int)Math.Round(width));
-        int ends = PenEnds(look);
+        int ends = PenEnds(style);
         return Handle((0, ColorRef(color), size, ends.ToString(CultureInfo.InvariantCulture)), () =>
             _records.AddPen((short)ends, Round(size), ColorRef(color)));
     }
@@ -203,8 +203,8 @@ internal sealed class WmfDocument : MetafilePlayer
     private int Font(FontSpec font, int size, int tenths)
     {
         string family = font.Family.Split(',')[0].Trim();
-        uint look = (uint)(((tenths + 3600) % 3600 << 2) | (font.Bold ? 1 : 0) | (font.Italic ? 2 : 0));
-        return Handle((3, look, size, family), () =>
+        uint traits = (uint)(((tenths + 3600) % 3600 << 2) | (font.Bold ? 1 : 0) | (font.Italic ? 2 : 0));
+        return Handle((3, traits, size, family), () =>
             _records.AddFont(Round(-size), (short)tenths, font.Bold, font.Italic, family));
     }
 

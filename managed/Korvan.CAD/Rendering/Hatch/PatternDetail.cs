@@ -15,6 +15,9 @@ internal sealed class PatternDetail
     /// <summary>Lines nearer to each other than this share of their width leave no gap that could be seen.</summary>
     private const double ClosestLines = 0.5;
 
+    /// <summary>How far lines may reach outside of a page, in sizes of the page.</summary>
+    private const double FarPages = 2;
+
     private readonly DrawingList _list;
     private readonly PaintSettings _settings;
     private readonly Bounds2? _window;
@@ -30,14 +33,22 @@ internal sealed class PatternDetail
         _scale = Math.Sqrt(Math.Abs(settings.ToDevice.Determinant));
     }
 
-    /// <summary>Replaces the hatched areas of a list by lines and fills.</summary>
+    /// <summary>Replaces the hatched areas of a list by lines and fills, and lines that reach far outside of the window
+    /// by their parts near it.</summary>
     /// <param name="list">The list.</param>
     /// <param name="settings">How it is put on its page.</param>
     /// <param name="window">The part of the drawing that can be seen; null for all.</param>
     internal static void Resolve(DrawingList list, in PaintSettings settings, Bounds2? window)
     {
         var detail = new PatternDetail(list, settings, window);
-        list.ResolvePatterns(detail.Draw);
+        list.Resolve(detail.Draw, window is Bounds2 page ? Near(page) : null);
+    }
+
+    private static Bounds2? Near(in Bounds2 page)
+    {
+        double margin = FarPages * (page.Width + page.Height);
+        return page.IsEmpty || !double.IsFinite(margin) ? null
+            : Bounds2.Of(page.MinX - margin, page.MinY - margin, page.MaxX + margin, page.MaxY + margin);
     }
 
     private void Draw(in DisplayItem item, PatternArea area, PathBuffer outline, Bounds2? clip)
@@ -76,7 +87,7 @@ internal sealed class PatternDetail
             _lines.AppendMapped(_local, area.Map, area.Elevation);
             _list.Stroke(
                 _lines,
-                new StrokeStyle { Color = item.Color, LineWeight = item.LineWeight, Dash = -1, Layer = item.Layer });
+                new StrokeAttributes { Color = item.Color, LineWeight = item.LineWeight, Dash = -1, Layer = item.Layer });
             return;
         }
 

@@ -195,7 +195,7 @@ internal sealed partial class CgmInterpreter
         }
         else
         {
-            DisplayList.StrokeStyle style = Width(null, SpecificationMode.Scaled);
+            DisplayList.StrokeAttributes style = Width(null, SpecificationMode.Scaled);
             style.Color = ColorOf(marker.Color);
             style.Layer = _layer;
             List.Stroke(_path, style);

@@ -96,7 +96,7 @@ internal sealed partial class CgmInterpreter
 
     private void StrokeHollow(PathBuffer path, Rgba color)
     {
-        StrokeStyle style = Width(null, SpecificationMode.Scaled);
+        StrokeAttributes style = Width(null, SpecificationMode.Scaled);
         style.Color = color;
         style.Layer = _layer;
         List.Stroke(path, style);
@@ -120,7 +120,7 @@ internal sealed partial class CgmInterpreter
         }
 
         rings.RemoveAll(static ring => ring.Ring.Length < 3);
-        StrokeStyle width = Width(null, SpecificationMode.Scaled);
+        StrokeAttributes width = Width(null, SpecificationMode.Scaled);
         var pen = new Pen { Color = color, LineWeight = width.LineWeight, Layer = _layer };
         if (rings.Count > 0)
         {

@@ -88,10 +88,10 @@ internal sealed partial class CgmInterpreter
         EnsureClip();
         LineState line = isEdge ? CurrentEdge() : CurrentLine();
         SpecificationMode mode = isEdge ? _state.EdgeWidthMode : _state.LineWidthMode;
-        StrokeStyle style = Width(line.Width, mode);
+        StrokeAttributes style = Width(line.Width, mode);
         style.Color = ColorOf(line.Color);
         style.Layer = _layer;
-        style.Look = List.Look(StyleOf(line));
+        style.Style = List.StyleIndex(StyleOf(line));
         style.Dash = DashOf(line, style, out double period);
         style.DashOffset = (float)(line.DashOffset * period);
         List.Stroke(path, style);
@@ -124,7 +124,7 @@ internal sealed partial class CgmInterpreter
     }
 
     /// <summary>The stroke style of a width in the unit of its mode.</summary>
-    private StrokeStyle Width(double? stated, SpecificationMode mode)
+    private StrokeAttributes Width(double? stated, SpecificationMode mode)
     {
         double width = Math.Abs(stated ?? DefaultWidth(mode));
         double? units = mode switch
@@ -136,8 +136,8 @@ internal sealed partial class CgmInterpreter
         };
         double millimetres = mode == SpecificationMode.Scaled ? width * NominalWidthMm : width;
         return units is double length
-            ? new StrokeStyle { LineWeight = (float)(length * Scale), WeightInUnits = true, Dash = -1 }
-            : new StrokeStyle { LineWeight = (float)millimetres, Dash = -1 };
+            ? new StrokeAttributes { LineWeight = (float)(length * Scale), WeightInUnits = true, Dash = -1 }
+            : new StrokeAttributes { LineWeight = (float)millimetres, Dash = -1 };
     }
 
     private double DefaultWidth(SpecificationMode mode) => mode switch
@@ -148,7 +148,7 @@ internal sealed partial class CgmInterpreter
         _ => DefaultWidthShare * LongerSide,
     };
 
-    private LineLook StyleOf(in LineState line)
+    private StrokeStyle StyleOf(in LineState line)
     {
         LineCaps cap = line.Cap switch
         {
@@ -162,10 +162,10 @@ internal sealed partial class CgmInterpreter
             JoinIndicator.Bevel => LineJoins.Bevel,
             _ => LineJoins.Round,
         };
-        return new LineLook(cap, join, Math.Clamp(Paint.MitreLimit, 1, 100));
+        return new StrokeStyle(cap, join, Math.Clamp(Paint.MitreLimit, 1, 100));
     }
 
-    private int DashOf(in LineState line, in StrokeStyle style, out double period)
+    private int DashOf(in LineState line, in StrokeAttributes style, out double period)
     {
         period = 0;
         if (line.Type is not DashType type)

@@ -43,7 +43,7 @@ internal sealed class MetafileScene : VectorScene
     /// <summary>Global segments, which all pictures may copy, by their names.</summary>
     internal Dictionary<int, Segment> Segments { get; } = [];
 
-    protected override IReadOnlyList<ScenePage> UsualPages => _pictures;
+    protected override IReadOnlyList<ScenePage> DefaultPages => _pictures;
 
     internal override DrawingList Build(ScenePage page, RenderStyle style, TextEngine engine)
     {

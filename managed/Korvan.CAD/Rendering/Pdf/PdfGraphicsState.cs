@@ -17,7 +17,7 @@ internal struct PdfGraphicsState
     internal double Width = -1;
     internal LineCaps Cap = LineCaps.Butt;
     internal LineJoins Join = LineJoins.Miter;
-    internal double MiterLimit = LineLook.DefaultMiterLimit;
+    internal double MiterLimit = StrokeStyle.DefaultMiterLimit;
     internal int Dash = -1;
     internal float DashOffset;
     internal int Font;

@@ -53,19 +53,15 @@ internal sealed partial class PdfPainter
         }
     }
 
-    /// <summary>Adds the part of a line within a box (Liang and Barsky).</summary>
+    /// <summary>Adds the part of a line within a box.</summary>
     private void AddClipped(Vec2 from, Vec2 to, in Bounds2 box, ref int used)
     {
-        Vec2 way = to - from;
-        (double enter, double leave) = (0, 1);
-        if (!Narrow(-way.X, from.X - box.MinX, ref enter, ref leave)
-            || !Narrow(way.X, box.MaxX - from.X, ref enter, ref leave)
-            || !Narrow(-way.Y, from.Y - box.MinY, ref enter, ref leave)
-            || !Narrow(way.Y, box.MaxY - from.Y, ref enter, ref leave))
+        if (!Segments.TryClip(from, to, box, out double enter, out double leave))
         {
             return;
         }
 
+        Vec2 way = to - from;
         Vec2 first = from + (way * enter);
         if (_verbCount == 0 || enter > 0 || first != _lastClipped)
         {
@@ -81,26 +77,5 @@ internal sealed partial class PdfPainter
         _verbs[_verbCount++] = verb;
         _points[used++] = (long)Math.Round(p.X * _precision);
         _points[used++] = (long)Math.Round(p.Y * _precision);
-    }
-
-    /// <summary>Narrows the part of a line by an edge; false where nothing is left.</summary>
-    private static bool Narrow(double speed, double distance, ref double enter, ref double leave)
-    {
-        if (speed == 0)
-        {
-            return distance >= 0;
-        }
-
-        double at = distance / speed;
-        if (speed < 0)
-        {
-            enter = Math.Max(enter, at);
-        }
-        else
-        {
-            leave = Math.Min(leave, at);
-        }
-
-        return enter <= leave;
     }
 }

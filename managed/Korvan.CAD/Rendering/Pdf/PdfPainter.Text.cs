@@ -199,7 +199,7 @@ internal sealed partial class PdfPainter
             EndPath();
             var plain = new DisplayItem { Dash = -1, Color = color };
             SetStroke(_document.Flatten(color, _settings, _page.Notes), pen * Math.Sqrt(Math.Abs(map.Determinant)),
-                new LineLook(LineCaps.Butt, LineJoins.Miter), plain);
+                new StrokeStyle(LineCaps.Butt, LineJoins.Miter), plain);
             _pendingStroke |= WritePath(isStroke: true);
         }
     }

@@ -144,8 +144,8 @@ internal sealed partial class PdfPainter
     private void Stroke(in DisplayItem item)
     {
         double width = _settings.WidthOf(item) / _unit;
-        LineLook look = _list.LookOf(item) ?? _settings.Look;
-        double reach = look.Join == LineJoins.Miter ? look.MiterLimit : 1.5;
+        StrokeStyle style = _list.StyleOf(item) ?? _settings.StrokeStyle;
+        double reach = style.Join == LineJoins.Miter ? style.MiterLimit : 1.5;
         if (!Map(_list.VerbsOf(item), _list.CoordsOf(item), _map) || !IsVisible(width * reach))
         {
             return;
@@ -158,7 +158,7 @@ internal sealed partial class PdfPainter
 
         SetLayer(item.Layer);
         EndText();
-        SetStroke(_document.Flatten(item.Color, _settings, _page.Notes), width, look, item);
+        SetStroke(_document.Flatten(item.Color, _settings, _page.Notes), width, style, item);
         if (_document.HasTransparency && item.Color.A != 255)
         {
             EndPath();
@@ -167,7 +167,7 @@ internal sealed partial class PdfPainter
         _pendingStroke |= WritePath(isStroke: true);
     }
 
-    private void SetStroke(Rgba color, double width, in LineLook look, in DisplayItem item)
+    private void SetStroke(Rgba color, double width, in StrokeStyle style, in DisplayItem item)
     {
         SetAlpha(color.A);
         if (color.R != _state.Stroke.R || color.G != _state.Stroke.G || color.B != _state.Stroke.B)
@@ -182,10 +182,10 @@ internal sealed partial class PdfPainter
             SetWidth(width);
         }
 
-        if (look.Cap != _state.Cap || look.Join != _state.Join || look.MiterLimit != _state.MiterLimit)
+        if (style.Cap != _state.Cap || style.Join != _state.Join || style.MiterLimit != _state.MiterLimit)
         {
             EndPath();
-            SetLook(look);
+            SetStyle(style);
         }
 
         int dash = item.Dash >= 0 && IsDashVisible(item) ? item.Dash : -1;
@@ -208,24 +208,24 @@ internal sealed partial class PdfPainter
         _state.Width = width;
     }
 
-    private void SetLook(in LineLook look)
+    private void SetStyle(in StrokeStyle style)
     {
-        if (look.Cap != _state.Cap)
+        if (style.Cap != _state.Cap)
         {
-            _out.Int((int)look.Cap).Raw(" J\n"u8);
+            _out.Int((int)style.Cap).Raw(" J\n"u8);
         }
 
-        if (look.Join != _state.Join)
+        if (style.Join != _state.Join)
         {
-            _out.Int((int)look.Join).Raw(" j\n"u8);
+            _out.Int((int)style.Join).Raw(" j\n"u8);
         }
 
-        if (look.MiterLimit != _state.MiterLimit)
+        if (style.MiterLimit != _state.MiterLimit)
         {
-            _out.Real(Math.Max(1, look.MiterLimit)).Raw(" M\n"u8);
+            _out.Real(Math.Max(1, style.MiterLimit)).Raw(" M\n"u8);
         }
 
-        (_state.Cap, _state.Join, _state.MiterLimit) = (look.Cap, look.Join, look.MiterLimit);
+        (_state.Cap, _state.Join, _state.MiterLimit) = (style.Cap, style.Join, style.MiterLimit);
     }
 
     private bool IsDashVisible(in DisplayItem item)

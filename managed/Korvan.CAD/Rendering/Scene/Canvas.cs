@@ -45,7 +45,7 @@ internal sealed class Canvas
     /// <summary>Strokes with the line type of the pen; a path shorter than one period is drawn continuous.</summary>
     internal void Stroke(PathBuffer path, in Pen pen)
     {
-        var style = new StrokeStyle { Color = pen.Color, LineWeight = pen.LineWeight, Dash = -1, Layer = pen.Layer };
+        var style = new StrokeAttributes { Color = pen.Color, LineWeight = pen.LineWeight, Dash = -1, Layer = pen.Layer };
         double period = (pen.Pattern?.Period ?? 0) * pen.PatternScale;
         if (pen.Pattern == null || !(period > 0) || !double.IsFinite(period))
         {
@@ -109,7 +109,7 @@ internal sealed class Canvas
         List<Vec2[]> rings = loops.ConvertAll(static loop => loop.Ring);
         List.Pattern(
             path, new PatternArea(rings, lines, plane.Map, plane.Elevation),
-            new StrokeStyle { Color = pen.Color, LineWeight = pen.LineWeight, Layer = pen.Layer });
+            new StrokeAttributes { Color = pen.Color, LineWeight = pen.LineWeight, Layer = pen.Layer });
     }
 
     /// <summary>One run at a place: the matrix maps the run's ems to the page.</summary>

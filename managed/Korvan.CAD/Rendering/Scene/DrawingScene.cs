@@ -30,7 +30,7 @@ internal sealed class DrawingScene(SceneTables tables, BlockInfo model, IReadOnl
 
     internal override DateTime? Modified => tables.Settings.Modified;
 
-    protected override IReadOnlyList<ScenePage> UsualPages => Choose([ModelName]);
+    protected override IReadOnlyList<ScenePage> DefaultPages => Choose([ModelName]);
 
     internal override DrawingList Build(ScenePage page, RenderStyle style, TextEngine engine)
     {

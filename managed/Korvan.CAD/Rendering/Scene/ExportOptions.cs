@@ -118,8 +118,8 @@ internal sealed class ExportOptions
     internal PageRequest Request()
     {
         double unit = UnitScale();
-        double usual = _device == DeviceKind.Pixels ? DefaultPixels : DefaultPageMillimetres * UnitsPerMillimetre;
-        double border = _vector == null ? usual * DefaultBorderShare : 0;
+        double side = _device == DeviceKind.Pixels ? DefaultPixels : DefaultPageMillimetres * UnitsPerMillimetre;
+        double border = _vector == null ? side * DefaultBorderShare : 0;
         Margins? margins = _vector?.Margins;
         double borderX = border + ((_vector?.BorderX ?? 0) * unit);
         double borderY = border + ((_vector?.BorderY ?? 0) * unit);
@@ -136,7 +136,7 @@ internal sealed class ExportOptions
             Zoom = (_cad?.Zoom ?? 1) * (_vector?.RelativeScale ?? 1),
             Shift = _vector == null ? default : new Vec2(_vector.RelativePosition.X, _vector.RelativePosition.Y),
             UnitsPerMillimetre = UnitsPerMillimetre,
-            UsualSide = usual,
+            DefaultSide = side,
         };
     }
 

@@ -2,16 +2,18 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;
 
-/// <content>Leaders with their arrow heads and feature control frames.</content>
+/// <content>Leaders with their arrowheads and feature control frames.</content>
 internal sealed partial class SceneBuilder
 {
     private const string CellBreak = "%%v";
     private const int SplinePath = 1;
+    private const string ArrowheadBlock = "*Arrowhead";
 
     void IGeometrySink.Leader(CadLeader leader, List<Vec3> points)
     {
@@ -21,14 +23,14 @@ internal sealed partial class SceneBuilder
         }
 
         (Pen pen, _, BlockContext context, _) = _current;
-        DimStyleInfo dim = _tables.DimStyle(leader.DimensionStyleName);
-        double arrow = dim.ArrowSize * dim.Scale;
+        DimensionStyle style = _tables.Dimensions.Of(leader);
+        double arrow = style.ArrowSize;
         bool hasArrow = leader.ArrowheadFlag != 0 && arrow > 0 && (points[1] - points[0]).Length > 2 * arrow;
         Vec3 tip = points[0];
         Vec3 along = (points[1] - tip).Unit();
         if (hasArrow && leader.PathType != SplinePath)
         {
-            points[0] = tip + (along * arrow);
+            points[0] = tip + (along * (arrow * style.LeaderArrow.Setback));
         }
 
         var path = new PathPen(_canvas.NewPath(), context.Map);
@@ -44,21 +46,25 @@ internal sealed partial class SceneBuilder
         _canvas.Stroke(pen);
         if (hasArrow)
         {
-            DrawArrowHead(tip, along, arrow, leader.ExtrusionDirection.ToVec3(), pen, context);
+            DrawArrowhead(style.LeaderArrow, tip, along, arrow, leader.ExtrusionDirection);
         }
     }
 
-    /// <summary>A closed, filled arrow head that is three times as long as it is wide.</summary>
-    private void DrawArrowHead(Vec3 tip, Vec3 along, double length, Vec3 normal, in Pen pen, BlockContext context)
+    /// <summary>Draws an arrowhead, or the block that stands for it, at the tip of a line that goes on along a
+    /// direction.</summary>
+    private void DrawArrowhead(DimensionArrow arrow, Vec3 tip, Vec3 along, double size, Cad3DPoint normal)
     {
-        Vec3 across = Vec3.Cross(normal, along).Unit() * (length / 6);
-        Vec3 foot = tip + (along * length);
-        var path = new PathPen(_canvas.NewPath(), context.Map);
-        path.MoveTo(tip);
-        path.LineTo(foot + across);
-        path.LineTo(foot - across);
-        path.Close();
-        _canvas.Fill(pen, evenOdd: false);
+        (Pen pen, LayerInfo layer, BlockContext context, _) = _current;
+        var shape = new DimensionPen(normal, tip);
+        Vec2 direction = shape.Flat(along) * -1;
+        if (direction == default)
+        {
+            return;
+        }
+
+        arrow.Draw(shape, shape.Flat(tip), direction.Unit(), size);
+        var block = new BlockInfo(ArrowheadBlock, default, shape.Entities);
+        DrawBlock(block, context.Map, layer, pen with { Pattern = null }, context);
     }
 
     /// <summary>A frame of rows of cells, its left edge centred on the insertion point for the first row.</summary>

@@ -3,6 +3,7 @@ using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 
@@ -13,6 +14,10 @@ internal sealed partial class SceneBuilder
 {
     // Group code 170 of a multileader.
     private const int SplineLeader = 2;
+
+    // Group code 93 of a leader line.
+    private const int OwnSize = 16;
+    private const int OwnArrowhead = 32;
 
     void IGeometrySink.MultiLeader(CadMLeader leader)
     {
@@ -82,23 +87,28 @@ internal sealed partial class SceneBuilder
         {
             if (line.Vertices.Count > 0)
             {
-                DrawLeaderLine([.. line.Vertices.ConvertAll(ModelVectors.ToVec3), start], leader, pen, context);
+                DrawLeaderLine([.. line.Vertices.ConvertAll(ModelVectors.ToVec3), start], leader, line, pen);
             }
         }
     }
 
-    private void DrawLeaderLine(List<Vec3> points, CadMLeader leader, in Pen pen, BlockContext context)
+    private void DrawLeaderLine(List<Vec3> points, CadMLeader leader, CadMLeaderLine line, in Pen pen)
     {
-        double arrowSize = leader.ContextData.ArrowheadSize;
+        double arrowSize = (line.OverrideFlags & OwnSize) != 0 ? line.ArrowheadSize : leader.ContextData.ArrowheadSize;
+        DimensionArrow arrow = _tables.Dimensions.ArrowOf(
+            (line.OverrideFlags & OwnArrowhead) != 0 ? line.ArrowheadHandle : leader.Style.ArrowheadHandle);
         Vec3 tip = points[0];
         Vec3 along = (points[1] - tip).Unit();
         if (arrowSize > 0 && (points[1] - tip).Length > arrowSize)
         {
-            DrawArrowHead(tip, along, arrowSize, leader.ContextData.TextNormal.ToVec3(), pen, context);
-            points[0] = tip + (along * arrowSize);
+            Current entity = _current;
+            _current = entity with { Pen = pen };
+            DrawArrowhead(arrow, tip, along, arrowSize, leader.ContextData.TextNormal);
+            _current = entity;
+            points[0] = tip + (along * (arrowSize * arrow.Setback));
         }
 
-        var path = new PathPen(_canvas.NewPath(), context.Map);
+        var path = new PathPen(_canvas.NewPath(), _current.Context.Map);
         if (leader.Style.LeaderType == SplineLeader)
         {
             FitSpline.Draw(path, points, null, null, closed: false);

@@ -28,7 +28,7 @@ internal abstract class VectorScene
     internal virtual DateTime? Modified => null;
 
     /// <summary>The pages that are drawn when none is asked for.</summary>
-    protected abstract IReadOnlyList<ScenePage> UsualPages { get; }
+    protected abstract IReadOnlyList<ScenePage> DefaultPages { get; }
 
     internal abstract DrawingList Build(ScenePage page, RenderStyle style, TextEngine engine);
 
@@ -38,7 +38,7 @@ internal abstract class VectorScene
         var chosen = new List<ScenePage>();
         if (names.Count == 0)
         {
-            return [.. UsualPages];
+            return [.. DefaultPages];
         }
 
         foreach (string name in names)

@@ -25,7 +25,7 @@ public class DeviceTests
     {
         var list = new DrawingList();
         list.Fill(Box(10, 10, 40, 40), Red, 0, evenOdd: false);
-        list.Stroke(Line(0, 80, 100, 80), new StrokeStyle { Color = Blue, LineWeight = 2, Dash = -1 });
+        list.Stroke(Line(0, 80, 100, 80), new StrokeAttributes { Color = Blue, LineWeight = 2, Dash = -1 });
         using RasterPage page = Render(list);
         Assert.Equal(Red, At(page, 25, 25));
         Assert.Equal(Blue, At(page, 50, 80));
@@ -37,9 +37,9 @@ public class DeviceTests
     public void Dashes_leave_gaps_and_tiny_ones_melt()
     {
         var list = new DrawingList();
-        list.Stroke(Line(0, 20, 100, 20), new StrokeStyle { Color = Red, LineWeight = 1, Dash = list.Dash([20, 20]) });
+        list.Stroke(Line(0, 20, 100, 20), new StrokeAttributes { Color = Red, LineWeight = 1, Dash = list.Dash([20, 20]) });
         list.Stroke(Line(0, 60, 100, 60),
-            new StrokeStyle { Color = Red, LineWeight = 1, Dash = list.Dash([0.01, 0.01]) });
+            new StrokeAttributes { Color = Red, LineWeight = 1, Dash = list.Dash([0.01, 0.01]) });
         using RasterPage page = Render(list);
         Assert.Equal(Red, At(page, 10, 20));
         Assert.Equal(Rgba.White, At(page, 30, 20));
@@ -51,20 +51,20 @@ public class DeviceTests
     {
         // A millimetre of the page is 4 pixels; the list is drawn at twice its size.
         var list = new DrawingList();
-        int square = list.Look(new LineLook(LineCaps.Square, LineJoins.Miter));
-        int butt = list.Look(new LineLook(LineCaps.Butt, LineJoins.Bevel));
-        Assert.Equal(square, list.Look(new LineLook(LineCaps.Square, LineJoins.Miter)));
+        int square = list.StyleIndex(new StrokeStyle(LineCaps.Square, LineJoins.Miter));
+        int butt = list.StyleIndex(new StrokeStyle(LineCaps.Butt, LineJoins.Bevel));
+        Assert.Equal(square, list.StyleIndex(new StrokeStyle(LineCaps.Square, LineJoins.Miter)));
         var corner = new PathBuffer();
         corner.MoveTo(new Vec2(5, 5));
         corner.LineTo(new Vec2(20, 5));
         corner.LineTo(new Vec2(20, 20));
         list.Stroke(corner,
-            new StrokeStyle { Color = Red, LineWeight = 4, WeightInUnits = true, Look = square, Dash = -1 });
+            new StrokeAttributes { Color = Red, LineWeight = 4, WeightInUnits = true, Style = square, Dash = -1 });
         corner.Clear();
         corner.MoveTo(new Vec2(30, 5));
         corner.LineTo(new Vec2(45, 5));
         corner.LineTo(new Vec2(45, 20));
-        list.Stroke(corner, new StrokeStyle { Color = Blue, LineWeight = 2, Look = butt, Dash = -1 });
+        list.Stroke(corner, new StrokeAttributes { Color = Blue, LineWeight = 2, Style = butt, Dash = -1 });
         using var engine = new TextEngine();
         Page once = PageOf(list, Rgba.White);
         using RasterPage page = RasterPage.Render(engine,
@@ -227,7 +227,7 @@ public class DeviceTests
         for (int i = 0; i < 20_000; i++)
         {
             list.Stroke(Line(i % 97, i % 89, i % 83, i % 79),
-                new StrokeStyle { Color = Red, LineWeight = i % 7, Dash = -1 });
+                new StrokeAttributes { Color = Red, LineWeight = i % 7, Dash = -1 });
         }
 
         var failed = Assert.Throws<IOException>(

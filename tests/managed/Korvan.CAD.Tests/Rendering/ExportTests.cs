@@ -108,7 +108,7 @@ public class ExportTests
             UnitScale = 1,
             Zoom = 1,
             UnitsPerMillimetre = 1,
-            UsualSide = 420,
+            DefaultSide = 420,
         };
         Assert.Equal(5, PageLayout.Create(Request(FitMode.Fill), extents, null).Scale);
         Assert.Equal(1, PageLayout.Create(Request(FitMode.Shrink), extents, null).Scale);

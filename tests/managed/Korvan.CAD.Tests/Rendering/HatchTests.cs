@@ -135,7 +135,7 @@ public class HatchTests
         list.Fill(outline, red, 0, evenOdd: false);
         list.Pattern(
             outline, new PatternArea([Square(0, 0, 100)], [new HatchLine(0, default, new Vec2(0, 9), [])],
-                Affine3.Identity, 0), new StrokeStyle { Color = red });
+                Affine3.Identity, 0), new StrokeAttributes { Color = red });
         list.Fill(outline, red, 0, evenOdd: true);
         PatternDetail.Resolve(list, Settings, null);
         Assert.Equal(
@@ -158,7 +158,7 @@ public class HatchTests
     {
         var list = new DrawingList();
         var area = new PatternArea([Square(0, 0, 100)], [line], Affine3.Identity, 0);
-        list.Pattern(Loop(0, 0, 100).Path, area, new StrokeStyle { Color = Rgba.Black });
+        list.Pattern(Loop(0, 0, 100).Path, area, new StrokeAttributes { Color = Rgba.Black });
         PatternDetail.Resolve(list, Settings, window);
         return list;
     }

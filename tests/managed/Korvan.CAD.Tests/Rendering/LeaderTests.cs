@@ -1,6 +1,8 @@
 using System.Linq;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 using Xunit;
@@ -40,6 +42,41 @@ public class LeaderTests
         Assert.Equal(expected, Build(leader).Items.ToArray().Count(item => item.Kind == DisplayKind.Stroke));
     }
 
+    [Theory]
+    [InlineData("", 1, 1)] // closed and filled: an area, and the line behind it
+    [InlineData("_None", 0, 1)]
+    [InlineData("_Origin", 0, 3)] // a circle with a tail
+    [InlineData("Own", 1, 2)] // a block of the drawing, which has an area and a line
+    public void Arrowheads_are_those_of_their_blocks(string name, int areas, int lines)
+    {
+        var leader = new CadLeader();
+        var multi = new CadMLeader();
+        var branch = new CadMLeaderNode { LastLeaderLinePoint = new Cad3DPoint(20, 0, 0) };
+        var line = new CadMLeaderLine();
+        line.Vertices.Add(new Cad3DPoint(0, 0, 0));
+        branch.LeaderLines.Add(line);
+        multi.ContextData.LeaderNodes.Add(branch);
+        (multi.Style.IsDoglegEnabled, multi.Style.LeaderType) = (false, 1);
+        leader.Coordinates.Add(new Cad3DPoint(0, 0, 0));
+        leader.Coordinates.Add(new Cad3DPoint(20, 0, 0));
+        foreach (CadEntityBase entity in new CadEntityBase[] { leader, multi })
+        {
+            CadImage drawing = Picture.Drawing(entity);
+            Picture.AddBlock(drawing, "Own", Picture.Square(0, 0, 1), new CadLine());
+            var record = new CadBlockTableObject { Name = name, ObjectHandle = "E1" };
+            drawing.BlockRecords.Add(record);
+            multi.Style.ArrowheadHandle = line.ArrowheadHandle = record.ObjectHandle;
+            foreach (CadDimensionStyleTable style in drawing.DimensionStyles)
+            {
+                style.Dimldrblk = record.ObjectHandle;
+            }
+
+            DisplayItem[] items = Build(drawing).Items.ToArray();
+            Assert.Equal(areas, items.Count(item => item.Kind == DisplayKind.Fill));
+            Assert.Equal(lines, items.Count(item => item.Kind == DisplayKind.Stroke));
+        }
+    }
+
     private static CadMLeader Leader(bool isFramed)
     {
         var leader = new CadMLeader();
@@ -50,10 +87,12 @@ public class LeaderTests
         return leader;
     }
 
-    private static DrawingList Build(CadMLeader leader)
+    private static DrawingList Build(CadMLeader leader) => Build(Picture.Drawing(leader));
+
+    private static DrawingList Build(CadImage drawing)
     {
         using var engine = new TextEngine();
-        DrawingScene scene = SceneReader.Read(Picture.Drawing(leader).Drawing);
+        DrawingScene scene = SceneReader.Read(drawing.Drawing);
         return scene.Build(scene.Choose([])[0], new RenderStyle(), engine);
     }
 }

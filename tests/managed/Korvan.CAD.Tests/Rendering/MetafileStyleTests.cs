@@ -179,7 +179,7 @@ public class MetafileStyleTests
         Assert.Equal(2, list.Items.Length);
         foreach (DisplayItem item in list.Items.ToArray())
         {
-            Assert.Equal(new LineLook((LineCaps)caps, (LineJoins)joins, 4), list.LookOf(item));
+            Assert.Equal(new StrokeStyle((LineCaps)caps, (LineJoins)joins, 4), list.StyleOf(item));
         }
     }
 

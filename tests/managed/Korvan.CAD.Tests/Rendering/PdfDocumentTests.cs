@@ -190,7 +190,7 @@ public sealed class PdfDocumentTests : IDisposable
     public void What_cannot_show_is_left_out_and_equal_strokes_share_a_path()
     {
         var list = new DrawingList();
-        var style = new StrokeStyle { Color = Rgba.Black, LineWeight = 0.2f, Dash = -1, Layer = -1 };
+        var style = new StrokeAttributes { Color = Rgba.Black, LineWeight = 0.2f, Dash = -1, Layer = -1 };
         list.PushClip(PdfSample.Box(0, 0, 50, 50), evenOdd: false);
         list.PopClip();
         for (int i = 0; i < 3000; i++)
@@ -230,10 +230,10 @@ public sealed class PdfDocumentTests : IDisposable
         {
             int layer = list.Layer($"layer {i}");
             list.Stroke(PdfSample.Path(new Vec2(i % 300, 0), new Vec2(i % 300, 100)),
-                new StrokeStyle { Color = Rgba.Black, Dash = -1, Layer = layer });
+                new StrokeAttributes { Color = Rgba.Black, Dash = -1, Layer = layer });
         }
 
-        list.Stroke(PdfSample.Path(new Vec2(1e300, 5), new Vec2(-1e300, 5)), new StrokeStyle { Dash = -1 });
+        list.Stroke(PdfSample.Path(new Vec2(1e300, 5), new Vec2(-1e300, 5)), new StrokeAttributes { Dash = -1 });
         list.Fill(PdfSample.Path(new Vec2(0, 0), new Vec2(0, 0), new Vec2(0, 0)), Rgba.Black, -1, evenOdd: false);
         PdfSample.AddText(list, _engine, "far", new Affine2(1e200, 0, 0, 1e200, 1e300, 0));
         PdfSample.AddText(list, _engine, "flat", new Affine2(0, 0, 0, 10, 5, 5));
@@ -248,7 +248,7 @@ public sealed class PdfDocumentTests : IDisposable
     public void Lines_from_far_away_keep_their_direction(object compliance)
     {
         var list = new DrawingList();
-        var style = new StrokeStyle { Color = Rgba.Black, LineWeight = 1, Dash = -1, Layer = -1 };
+        var style = new StrokeAttributes { Color = Rgba.Black, LineWeight = 1, Dash = -1, Layer = -1 };
         list.Stroke(PdfSample.Path(new Vec2(-30e6, -10e6), new Vec2(90e6, 30e6)), style); // a slope of a third
         PathBuffer ring = PdfSample.Path(
             new Vec2(50, 150), new Vec2(9e6, 150), new Vec2(9e6, -9e6), new Vec2(50, -9e6));

@@ -27,18 +27,18 @@ internal static class PdfSample
         var list = new DrawingList { MaxStored = maxStored, Drain = drain };
         int walls = list.Layer("walls");
         int notes = list.Layer("Möbel (alt)");
-        foreach ((LineLook look, double y) in ((LineLook, double)[])[
+        foreach ((StrokeStyle ends, double y) in ((StrokeStyle, double)[])[
             (new(LineCaps.Butt, LineJoins.Miter), 10), (new(LineCaps.Square, LineJoins.Bevel), 40),
             (new(LineCaps.Round, LineJoins.Round), 70)])
         {
-            var style = new StrokeStyle
+            var style = new StrokeAttributes
             {
                 Color = Red,
                 LineWeight = 2,
                 Dash = y == 70 ? list.Dash([8, 5]) : -1,
                 DashOffset = 3,
                 Layer = walls,
-                Look = list.Look(look),
+                Style = list.StyleIndex(ends),
             };
             list.Stroke(Path(new Vec2(10, y), new Vec2(40, y + 20), new Vec2(70, y)), style);
         }
@@ -46,7 +46,7 @@ internal static class PdfSample
         var curve = new PathBuffer();
         curve.MoveTo(new Vec2(10, 110));
         curve.CurveTo(new Vec2(30, 190), new Vec2(50, 80), new Vec2(70, 140));
-        list.Stroke(curve, new StrokeStyle { Color = Blue.WithAlpha(128), LineWeight = 3, Dash = -1, Layer = notes });
+        list.Stroke(curve, new StrokeAttributes { Color = Blue.WithAlpha(128), LineWeight = 3, Dash = -1, Layer = notes });
         list.Fill(Box(80, 10, 130, 60), Blue, walls, evenOdd: false);
         list.Fill(Box(100, 30, 150, 80), Red.WithAlpha(128), notes, evenOdd: true);
         GradientStop[] stops = [new(0, Red), new(0.4, Rgba.White), new(0.4, Blue), new(1, Rgba.Black)];

@@ -125,9 +125,9 @@ public partial class SvgTests
     {
         var list = new DrawingList();
         int dash = list.Dash([3, 2]);
-        StrokeStyle[] styles = [Style(Red), Style(Red), Style(Red) with { LineWeight = 2 }, Style(Blue), Style(Red),
+        StrokeAttributes[] styles = [Style(Red), Style(Red), Style(Red) with { LineWeight = 2 }, Style(Blue), Style(Red),
             Style(Red) with { Dash = dash }, Style(Red) with { Dash = dash, DashOffset = 1 },
-            Style(Red.WithAlpha(128)), Style(Red.WithAlpha(128)), Style(Red) with { Look = list.Look(default) }];
+            Style(Red.WithAlpha(128)), Style(Red.WithAlpha(128)), Style(Red) with { Style = list.StyleIndex(default) }];
         for (int i = 0; i < styles.Length; i++)
         {
             list.Stroke(Line(i, 0, i, 10), styles[i]);
@@ -282,7 +282,7 @@ public partial class SvgTests
         {
             LineWeight = 4,
             Dash = list.Dash([8, 8]),
-            Look = list.Look(new LineLook(LineCaps.Butt, LineJoins.Miter)),
+            Style = list.StyleIndex(new StrokeStyle(LineCaps.Butt, LineJoins.Miter)),
         });
         int font = engine.Font(FontSpec.Default);
         list.Text(new TextRun("HTE", font, new Affine2(24, 0, 0, 24, 8, 70), 0), Rgba.White, layer,
@@ -329,7 +329,7 @@ public partial class SvgTests
         Caps = LineCaps.Round,
     });
 
-    private static StrokeStyle Style(Rgba color) => new() { Color = color, LineWeight = 1, Dash = -1 };
+    private static StrokeAttributes Style(Rgba color) => new() { Color = color, LineWeight = 1, Dash = -1 };
 
     private static PathBuffer Line(params double[] xy)
     {

@@ -77,7 +77,7 @@ public class ThinLineTests
         path.MoveTo(new Vec2(-1e12, -1e12));
         path.LineTo(new Vec2(1e12, 1e12));
         path.LineTo(new Vec2(45, double.MaxValue / 4));
-        list.Stroke(path, new StrokeStyle { Color = Rgba.Black, Dash = -1 });
+        list.Stroke(path, new StrokeAttributes { Color = Rgba.Black, Dash = -1 });
         list.PopClip();
         byte[] pixels = Render(list, 1);
         for (int y = 0; y < Side; y++)
@@ -110,7 +110,7 @@ public class ThinLineTests
                     list.Fill(path, color, 0, evenOdd: true);
                     break;
                 case 1:
-                    list.Stroke(path, new StrokeStyle { Color = color, LineWeight = i % 5, Dash = -1 });
+                    list.Stroke(path, new StrokeAttributes { Color = color, LineWeight = i % 5, Dash = -1 });
                     break;
                 case 2:
                     var matrix = new Affine2(6, 0, 0, -6, x, y);
@@ -118,7 +118,7 @@ public class ThinLineTests
                     break;
                 default:
                     list.PushClip(Rectangle(x - 5, y - 5, x + 9, y + 30), evenOdd: false);
-                    list.Stroke(path, new StrokeStyle { Color = color, Dash = list.Dash([3, 2]) });
+                    list.Stroke(path, new StrokeAttributes { Color = color, Dash = list.Dash([3, 2]) });
                     list.PopClip();
                     break;
             }
@@ -174,7 +174,7 @@ public class ThinLineTests
             list.PushClip(triangle, evenOdd: false);
         }
 
-        list.Stroke(path, new StrokeStyle { Color = color ?? Rgba.Black, Dash = -1 });
+        list.Stroke(path, new StrokeAttributes { Color = color ?? Rgba.Black, Dash = -1 });
         if (withGeneralStroker)
         {
             list.PopClip();

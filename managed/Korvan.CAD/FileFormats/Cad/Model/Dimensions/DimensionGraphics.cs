@@ -97,7 +97,7 @@ internal sealed partial class DimensionGraphics
             return default;
         }
 
-        CadMText text = _pen.Text(_text, default, 0, _style.TextHeight, _style.TextStyle);
+        CadMText text = TextAt(default, 0);
         Bounds2 box = measure(text);
         bool isTall = _text.Contains("\\P", StringComparison.Ordinal)
             || _text.Contains("\\S", StringComparison.Ordinal);
@@ -139,6 +139,14 @@ internal sealed partial class DimensionGraphics
             4 => -above,
             _ => above,
         };
+    }
+
+    private CadMText TextAt(Vec2 at, double rotation)
+    {
+        CadMText text = _pen.Text(_text, at, rotation, _style.TextHeight, _style.TextStyle);
+        text.LineSpacingStyle = _dimension.LineSpacingStyle;
+        text.LineSpacingFactor = _dimension.LineSpacingFactor > 0 ? _dimension.LineSpacingFactor : 1;
+        return text;
     }
 
     /// <summary>What fits between the extension lines: both, text or arrowheads, by $DIMTIX and $DIMATFIT.</summary>
@@ -256,7 +264,7 @@ internal sealed partial class DimensionGraphics
             _pen.Polyline(corners, [0, 0, 0, 0], 0, CadLwPolylineFlag.Closed);
         }
 
-        CadMText text = _pen.Text(_text, label.Middle, label.Rotation, _style.TextHeight, _style.TextStyle);
+        CadMText text = TextAt(label.Middle, label.Rotation);
         if (Values.Dimtfill != 0)
         {
             text.BackgroundFillSetting = Values.Dimtfill == 1 ? CadFillSetting.WindowColor

@@ -8,14 +8,21 @@ namespace Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 
 /// <summary>
 /// Adds the entities of a dimension that its block would have: on layer 0 and by block where the style states nothing,
-/// so that they follow the dimension.
+/// so that they follow the dimension. Arrowheads of leaders are drawn likewise.
 /// </summary>
-internal sealed class DimensionPen(CadDimensionBase dimension)
+/// <param name="normal">The normal of the plane that the entities are in.</param>
+/// <param name="origin">A point of that plane, in world coordinates.</param>
+internal sealed class DimensionPen(Cad3DPoint normal, Vec3 origin)
 {
     private const int TransparencyByBlock = 0x01000000;
 
-    private readonly Affine3 _plane = dimension.ExtrusionDirection.ToPlane();
-    private readonly double _elevation = ElevationOf(dimension);
+    private readonly Affine3 _plane = normal.ToPlane();
+    private readonly double _elevation = Vec3.Dot(normal.ToPlane().AxisZ, origin);
+
+    internal DimensionPen(CadDimensionBase dimension)
+        : this(dimension.ExtrusionDirection, dimension.DefinitionPoint.ToVec3())
+    {
+    }
 
     internal List<CadEntityBase> Entities { get; } = [];
 
@@ -25,12 +32,11 @@ internal sealed class DimensionPen(CadDimensionBase dimension)
 
     internal string LineType { get; set; } = DimensionStyle.ByBlock;
 
-    /// <summary>Maps a point of the world to the plane of the dimension.</summary>
-    internal Vec2 Flat(Cad3DPoint point)
-    {
-        Vec3 p = point.ToVec3();
-        return new Vec2(Vec3.Dot(_plane.AxisX, p), Vec3.Dot(_plane.AxisY, p));
-    }
+    /// <summary>Maps a point of the world to the plane.</summary>
+    internal Vec2 Flat(Cad3DPoint point) => Flat(point.ToVec3());
+
+    /// <summary>Maps a point or a direction of the world to the plane.</summary>
+    internal Vec2 Flat(Vec3 point) => new(Vec3.Dot(_plane.AxisX, point), Vec3.Dot(_plane.AxisY, point));
 
     internal void Line(Vec2 from, Vec2 to)
     {
@@ -111,8 +117,6 @@ internal sealed class DimensionPen(CadDimensionBase dimension)
             InitialTextHeight = height,
             TextStyleName = style,
             TextDirection = new Cad3DPoint(direction.X, direction.Y, direction.Z),
-            LineSpacingStyle = dimension.LineSpacingStyle,
-            LineSpacingFactor = dimension.LineSpacingFactor > 0 ? dimension.LineSpacingFactor : 1,
             ExtrusionDirection = Normal(),
         };
     }
@@ -129,12 +133,6 @@ internal sealed class DimensionPen(CadDimensionBase dimension)
 
     private static double Degrees(double radians) => radians * 180 / Math.PI;
 
-    private static double ElevationOf(CadDimensionBase dimension)
-    {
-        Vec3 normal = dimension.ExtrusionDirection.ToPlane().AxisZ;
-        return Vec3.Dot(normal, dimension.DefinitionPoint.ToVec3());
-    }
-
     private Cad3DPoint World(Vec2 point)
     {
         Vec3 p = _plane.Point(new Vec3(point.X, point.Y, _elevation));
@@ -144,9 +142,5 @@ internal sealed class DimensionPen(CadDimensionBase dimension)
     private Cad3DPoint InPlane(Vec2 point) => new(point.X, point.Y, _elevation);
 
     // Each entity has a point of its own, since points can be changed.
-    private Cad3DPoint Normal()
-    {
-        Cad3DPoint normal = dimension.ExtrusionDirection;
-        return new Cad3DPoint(normal.X, normal.Y, normal.Z);
-    }
+    private Cad3DPoint Normal() => new(normal.X, normal.Y, normal.Z);
 }

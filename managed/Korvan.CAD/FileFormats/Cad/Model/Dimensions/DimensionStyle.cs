@@ -17,6 +17,8 @@ internal sealed record DimensionStyle(CadDimensionStyleTable Values, double Scal
 
     internal DimensionArrow SecondArrow { get; init; } = DimensionArrow.ClosedFilled;
 
+    internal DimensionArrow LeaderArrow { get; init; } = DimensionArrow.ClosedFilled;
+
     internal string LineType { get; init; } = ByBlock;
 
     internal string FirstExtensionType { get; init; } = ByBlock;

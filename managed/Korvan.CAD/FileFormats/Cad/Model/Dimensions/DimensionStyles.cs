@@ -52,14 +52,23 @@ internal sealed class DimensionStyles
     }
 
     /// <summary>Gets the style of a dimension; one that its drawing lacks has the defaults of the format.</summary>
-    internal DimensionStyle Of(CadDimensionBase dimension)
+    internal DimensionStyle Of(CadDimensionBase dimension) => Of(dimension.StyleName, dimension);
+
+    /// <summary>Gets the style of a leader.</summary>
+    internal DimensionStyle Of(CadLeader leader) => Of(leader.DimensionStyleName, leader);
+
+    /// <summary>Gets the arrowhead of a block by the handle of its record; closed and filled where there is
+    /// none.</summary>
+    internal DimensionArrow ArrowOf(string handle) => ArrowOf(handle, "");
+
+    private DimensionStyle Of(string name, CadEntityBase entity)
     {
-        if (!_styles.TryGetValue(dimension.StyleName, out CadDimensionStyleTable? named))
+        if (!_styles.TryGetValue(name, out CadDimensionStyleTable? named))
         {
-            _styles.Add(dimension.StyleName, named = new CadDimensionStyleTable());
+            _styles.Add(name, named = new CadDimensionStyleTable());
         }
 
-        CadDimensionStyleTable own = StyleOverrides.Apply(named, dimension);
+        CadDimensionStyleTable own = StyleOverrides.Apply(named, entity);
         if (!ReferenceEquals(own, named))
         {
             return Resolve(own);
@@ -85,6 +94,7 @@ internal sealed class DimensionStyles
             TextHeight = text?.TextHeight > 0 ? text.TextHeight : Math.Max(0, values.Dimtxt) * scale,
             FirstArrow = hasTwo ? ArrowOf(values.Dimblk1, values.Dimblk1Name) : both,
             SecondArrow = hasTwo ? ArrowOf(values.Dimblk2, values.Dimblk2Name) : both,
+            LeaderArrow = ArrowOf(values.Dimldrblk),
             LineType = LineTypeOf(values.Dimltype),
             FirstExtensionType = LineTypeOf(values.Dimltex1),
             SecondExtensionType = LineTypeOf(values.Dimltex2),

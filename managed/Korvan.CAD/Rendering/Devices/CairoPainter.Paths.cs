@@ -1,0 +1,112 @@
+using System;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
+using Korvan.CAD.Rendering.Native;
+
+namespace Korvan.CAD.Rendering.Devices;
+
+/// <content>Paths: to cairo, and which of them show.</content>
+internal sealed unsafe partial class CairoPainter
+{
+    /// <summary>How far the sides of a box may be from upright, in pixels.</summary>
+    private const double BoxTolerance = 0.05;
+
+    /// <summary>Returns whether a path reaches into the rows that are painted.</summary>
+    private bool Crosses(in DisplayItem item, double border)
+    {
+        ReadOnlySpan<double> c = _list.CoordsOf(item);
+        int count = CoordCount(item);
+        double top = double.MaxValue;
+        double bottom = double.MinValue;
+        for (int at = 0; at < count; at += 2)
+        {
+            double y = (_map.Yx * c[at]) + (_map.Yy * c[at + 1]) + _map.Y0;
+            top = Math.Min(top, y);
+            bottom = Math.Max(bottom, y);
+        }
+
+        return bottom + border >= _rows.First - 1 && top - border <= _rows.End + 1;
+    }
+
+    private int CoordCount(in DisplayItem item)
+    {
+        int count = 0;
+        foreach (PathVerb verb in _list.VerbsOf(item))
+        {
+            count += verb switch { PathVerb.Curve => 6, PathVerb.Close => 0, _ => 2 };
+        }
+
+        return count;
+    }
+
+    /// <summary>The box of a path on the page, and whether the path is that box.</summary>
+    private Bounds2 BoxOf(in DisplayItem item, out bool isBox)
+    {
+        ReadOnlySpan<PathVerb> verbs = _list.VerbsOf(item);
+        ReadOnlySpan<double> c = _list.CoordsOf(item);
+        isBox = verbs.Length is 4 or 5 or 6 && verbs[0] == PathVerb.Move
+            && verbs[1..4].IndexOfAnyExcept(PathVerb.Line) < 0 && verbs[4..].IndexOf(PathVerb.Move) < 0;
+        Bounds2 box = Bounds2.Empty;
+        Vec2 last = default;
+        for (int i = 0; i < 4 && isBox; i++)
+        {
+            Vec2 p = _map.Point(c[2 * i], c[(2 * i) + 1]);
+            isBox &= i == 0 || Math.Abs(p.X - last.X) < BoxTolerance || Math.Abs(p.Y - last.Y) < BoxTolerance;
+            box.Add(p.X, p.Y);
+            last = p;
+        }
+
+        if (verbs.Length > 4 && verbs[4] == PathVerb.Line)
+        {
+            isBox &= c[8] == c[0] && c[9] == c[1];
+        }
+
+        return isBox ? box : Bounds2.Of(-FarAway, -FarAway, FarAway, FarAway);
+    }
+
+    private void Trace(in DisplayItem item)
+    {
+        UseCairo();
+        Cairo.NewPath(_cr);
+        Trace(_list.VerbsOf(item), _list.CoordsOf(item), _map);
+    }
+
+    private void Trace(ReadOnlySpan<PathVerb> verbs, ReadOnlySpan<double> c, in Affine2 map)
+    {
+        int at = 0;
+        foreach (PathVerb verb in verbs)
+        {
+            switch (verb)
+            {
+                case PathVerb.Move:
+                    Map(map, c, at, out double mx, out double my);
+                    Cairo.MoveTo(_cr, mx, my);
+                    at += 2;
+                    break;
+                case PathVerb.Line:
+                    Map(map, c, at, out double lx, out double ly);
+                    Cairo.LineTo(_cr, lx, ly);
+                    at += 2;
+                    break;
+                case PathVerb.Curve:
+                    Map(map, c, at, out double x1, out double y1);
+                    Map(map, c, at + 2, out double x2, out double y2);
+                    Map(map, c, at + 4, out double x3, out double y3);
+                    Cairo.CurveTo(_cr, x1, y1, x2, y2, x3, y3);
+                    at += 6;
+                    break;
+                default:
+                    Cairo.ClosePath(_cr);
+                    break;
+            }
+        }
+    }
+
+    private static void Map(in Affine2 map, ReadOnlySpan<double> c, int at, out double x, out double y)
+    {
+        double u = c[at];
+        double v = c[at + 1];
+        x = Math.Clamp((map.Xx * u) + (map.Xy * v) + map.X0, -FarAway, FarAway);
+        y = Math.Clamp((map.Yx * u) + (map.Yy * v) + map.Y0, -FarAway, FarAway);
+    }
+}
