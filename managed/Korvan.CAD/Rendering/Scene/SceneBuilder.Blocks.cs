@@ -50,8 +50,16 @@ internal sealed partial class SceneBuilder
 
     private void DrawCells(CadInsertObject insert, BlockInfo block, LayerInfo layer, in Pen pen, BlockContext context)
     {
-        foreach ((Vec3 cell, Affine3 map) in BlockCells.Of(insert, block, context))
+        if (BlockCells.Refuse(insert, block) is { } reason)
         {
+            List.Skip(reason);
+            return;
+        }
+
+        bool isEmpty = block.Entities.Count == 0 && insert.Attributes.Count == 0;
+        foreach ((Vec3 cell, Affine3 map) in isEmpty ? [] : BlockCells.Of(insert, block, context))
+        {
+            Budget.Step();
             DrawBlock(block, map, layer, pen, context);
             DrawAttributes(insert, cell, pen, context);
         }
@@ -61,7 +69,12 @@ internal sealed partial class SceneBuilder
 
     private void DrawBlock(BlockInfo block, in Affine3 map, LayerInfo layer, in Pen pen, BlockContext context)
     {
-        BlockCells.VerifyNesting(block, context);
+        if (BlockCells.Refuse(block, context) is { } reason)
+        {
+            List.Skip(reason);
+            return;
+        }
+
         if (!map.IsFinite)
         {
             List.Skip("INSERT that is not finite");
