@@ -14,8 +14,6 @@ namespace Korvan.CAD;
 /// </summary>
 internal static class AtomicFile
 {
-    private const string PartSuffix = ".part";
-    private const int BufferSize = 1 << 16;
 
     private static readonly string[] DescriptorFolders = ["/dev/fd/", "/proc/self/fd/"];
 
@@ -29,6 +27,11 @@ internal static class AtomicFile
     {
         Verify.NotEmpty(filePath);
         UndecodableFileName.RefuseAsTarget(filePath);
+        if (filePath.Contains('\0', StringComparison.Ordinal))
+        {
+            throw NotWritten(filePath, "a NUL is part of no file's name.");
+        }
+
         string target = Path.GetFullPath(filePath);
         PosixFile.Kind kind = PosixFile.KindOf(target);
         if (kind == PosixFile.Kind.Folder)
@@ -102,7 +105,7 @@ internal static class AtomicFile
         {
             using (part.Stream)
             {
-                KeepMode(part.Target, part.Stream.SafeFileHandle);
+                PosixFile.KeepOwnerAndMode(part.Target, part.Stream.SafeFileHandle);
                 write(part.Stream);
                 part.Stream.Flush();
                 part.Name(overWrite);
@@ -152,142 +155,24 @@ internal static class AtomicFile
     // A link is kept, and its target is replaced.
     private static string ResolveLinks(string path)
     {
-        return new FileInfo(path).LinkTarget is null ? path : File.ResolveLinkTarget(path, true)!.FullName;
-    }
-
-    private static void KeepMode(string target, SafeFileHandle part)
-    {
-        if (!OperatingSystem.IsWindows() && File.Exists(target))
+        try
         {
-            File.SetUnixFileMode(part, File.GetUnixFileMode(target));
+            return new FileInfo(path).LinkTarget is null ? path : File.ResolveLinkTarget(path, true)!.FullName;
+        }
+        catch (IOException e)
+        {
+            throw NotWritten(path, e.Message);
         }
     }
 
-    private static bool IsOfTarget(Exception e) => e is IOException or UnauthorizedAccessException;
+    internal static bool IsOfTarget(Exception e) => e is IOException or UnauthorizedAccessException;
 
     // The reason is part of the message: an inner exception would repeat it.
-    private static ImageSaveException NotWritten(string filePath, string why) =>
+    internal static ImageSaveException NotWritten(string filePath, string why) =>
         new($"'{filePath}' could not be written: {why}");
 
-    private static ImageSaveException ExistsAlready(string filePath) =>
+    internal static ImageSaveException ExistsAlready(string filePath) =>
         new($"'{filePath}' exists already; pass over_write=True to replace it.");
 
     private delegate void SpanAction(ReadOnlySpan<byte> data);
-
-    /// <summary>A file that is being written.</summary>
-    private sealed class PartFile
-    {
-        private string? _name;
-
-        private PartFile(string target, string shown, string? name, FileStream stream)
-        {
-            Target = target;
-            Shown = shown;
-            _name = name;
-            Stream = stream;
-        }
-
-        /// <summary>Gets the path of the final file.</summary>
-        internal string Target { get; }
-
-        /// <summary>Gets that path as the program passed it.</summary>
-        internal string Shown { get; }
-
-        internal FileStream Stream { get; }
-
-        internal static PartFile Open(string target, string shown, bool avoidName)
-        {
-            if (avoidName && PosixFile.OpenUnnamed(Path.GetDirectoryName(target)!) is { } file)
-            {
-                if (PosixFile.CanName(file))
-                {
-                    return new PartFile(target, shown, null, new FileStream(file, FileAccess.ReadWrite, BufferSize));
-                }
-
-                file.Dispose();
-            }
-
-            RemoveForgotten(target);
-            string name = NewName(target);
-            try
-            {
-                return new PartFile(
-                    target, shown, name,
-                    new FileStream(name, FileMode.CreateNew, FileAccess.ReadWrite, FileShare.None, BufferSize));
-            }
-            catch (Exception e) when (IsOfTarget(e))
-            {
-                throw NotWritten(shown, e.Message.Replace(name, shown, StringComparison.Ordinal));
-            }
-        }
-
-        /// <summary>Assigns the final name to an unnamed file if it is free, otherwise a temporary name, from which it
-        /// is moved.</summary>
-        internal void Name(bool overWrite)
-        {
-            if (_name is not null || PosixFile.TryName(Stream.SafeFileHandle, Target))
-            {
-                return;
-            }
-
-            if (!overWrite)
-            {
-                throw ExistsAlready(Shown);
-            }
-
-            string name = NewName(Target);
-            PosixFile.TryName(Stream.SafeFileHandle, name);
-            _name = name;
-        }
-
-        internal void MoveIntoPlace(bool overWrite)
-        {
-            if (_name is not null)
-            {
-                File.Move(_name, Target, overWrite);
-            }
-        }
-
-        internal void Remove()
-        {
-            if (_name is not null)
-            {
-                File.Delete(_name);
-            }
-        }
-
-        /// <summary>A message of the system, with the final name in place of the temporary one.</summary>
-        internal string WithoutName(string message) =>
-            _name is null ? message : message.Replace(_name, Shown, StringComparison.Ordinal);
-
-        private static string NewName(string target) => $"{target}.{Guid.NewGuid():N}{PartSuffix}";
-
-        // Files that a terminated process has left. A file that is being written is locked.
-        private static void RemoveForgotten(string target)
-        {
-            const int uniqueLength = 32;
-            string folder = Path.GetDirectoryName(target)!;
-            string start = Path.GetFileName(target) + ".";
-            foreach (string path in Directory.EnumerateFiles(folder, "*" + PartSuffix))
-            {
-                string name = Path.GetFileName(path);
-                if (name.Length != start.Length + uniqueLength + PartSuffix.Length
-                    || !name.StartsWith(start, StringComparison.Ordinal)
-                    || !Guid.TryParseExact(name.AsSpan(start.Length, uniqueLength), "N", out _))
-                {
-                    continue;
-                }
-
-                try
-                {
-                    using var unused = new FileStream(path, FileMode.Open, FileAccess.ReadWrite, FileShare.None, 1,
-                        FileOptions.DeleteOnClose);
-                }
-                catch (Exception e) when (IsOfTarget(e))
-                {
-                    // Another process is writing it.
-                }
-            }
-        }
-    }
 }

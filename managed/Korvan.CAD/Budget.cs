@@ -42,14 +42,14 @@ internal sealed class Budget : IDisposable
     private long _steps;
     private Exception? _end;
 
-    private Budget(long memory, int timeout)
+    private Budget(long memory, long maxSteps, int timeout)
     {
         _outer = _current;
         _timeout = timeout;
         _deadline = timeout > 0 ? Environment.TickCount64 + timeout : long.MaxValue;
         _heapAtStart = GC.GetTotalMemory(false);
         Memory = memory;
-        _maxSteps = memory / MemoryPerStep;
+        _maxSteps = maxSteps;
     }
 
     /// <summary>Gets the budget of the call that runs on this thread.</summary>
@@ -58,16 +58,24 @@ internal sealed class Budget : IDisposable
     /// <summary>Gets the bytes that the call may take.</summary>
     internal long Memory { get; private set; }
 
+    /// <summary>Gets the managed memory that the call has taken so far, in bytes.</summary>
+    internal long Taken => GC.GetTotalMemory(false) - _heapAtStart;
+
     /// <summary>Begins a call; disposing the result ends it.</summary>
     /// <param name="sourceLength">The length of the file in bytes; null for content that is not from a file, which has
     /// no limits of memory and steps.</param>
     /// <param name="timeout">The time in milliseconds; 0 for no limit.</param>
-    internal static Budget Begin(long? sourceLength, int timeout = 0)
+    /// <param name="loaded">The memory that the file has taken before.</param>
+    internal static Budget Begin(long? sourceLength, int timeout = 0, long loaded = 0)
     {
-        long memory = sourceLength is long length
-            ? Math.Max(MinMemory, Math.Max(length * MemoryPerByte, Cache.MemoryOfOneFile))
-            : long.MaxValue;
-        return _current = new Budget(memory, timeout);
+        if (sourceLength is not long length)
+        {
+            return _current = new Budget(long.MaxValue, long.MaxValue, timeout);
+        }
+
+        long whole = Math.Max(length * MemoryPerByte, Cache.MemoryOfOneFile);
+        long left = Math.Max(MinMemory, whole - Math.Max(loaded, 0));
+        return _current = new Budget(left, Math.Max(MinMemory, whole) / MemoryPerStep, timeout);
     }
 
     /// <summary>Makes a thread work for a call until the result is disposed.</summary>
@@ -122,7 +130,7 @@ internal sealed class Budget : IDisposable
         if (Memory < long.MaxValue)
         {
             Memory += length * MemoryPerByte;
-            _maxSteps = Memory / MemoryPerStep;
+            _maxSteps += length * MemoryPerByte / MemoryPerStep;
         }
     }
 
@@ -171,13 +179,13 @@ internal sealed class Budget : IDisposable
     private void VerifyHeap(long more)
     {
         long limit = Memory - Interlocked.Read(ref _pixels);
-        if (Memory == long.MaxValue || Taken() + more <= limit || Taken() + more < _nextCollection)
+        if (Memory == long.MaxValue || Taken + more <= limit || Taken + more < _nextCollection)
         {
             return;
         }
 
         GC.Collect();
-        long taken = Taken() + more;
+        long taken = Taken + more;
         _nextCollection = taken + (limit / 8);
         if (taken > limit)
         {
@@ -186,8 +194,6 @@ internal sealed class Budget : IDisposable
                 + $"{Cache.HowToRaise}."));
         }
     }
-
-    private long Taken() => GC.GetTotalMemory(false) - _heapAtStart;
 
     // Every thread of the call ends, and whoever hides the exception meets it again.
     private Exception End(Exception reason)

@@ -73,6 +73,9 @@ public abstract partial class Image : DataStreamSupporter
     /// memory.</summary>
     internal long? SourceLength { get; set; }
 
+    /// <summary>Gets the memory that the content took when it was loaded, in bytes.</summary>
+    internal long LoadedMemory { get; set; }
+
     /// <summary>Gets the path that the image was read from, or <see langword="null"/>.</summary>
     internal virtual string? FilePath { get; set; }
 
@@ -295,7 +298,7 @@ public abstract partial class Image : DataStreamSupporter
 
     private void WriteOwn(ImageOptionsBase options, Stream stream)
     {
-        using Budget budget = Budget.Begin(SourceLength, options.Timeout);
+        using Budget budget = Budget.Begin(SourceLength, options.Timeout, LoadedMemory);
         ExportContext context = new(options, LoadOptions);
         FormatRegistry.FindWriter(this, options.GetType())!.Write(this, context, new WatchedStream(stream));
     }
@@ -309,7 +312,7 @@ public abstract partial class Image : DataStreamSupporter
         FormatWriter writer = FormatRegistry.FindWriter(this, options.GetType())!;
         options.RenderResult = null;
         options.VerifyHonoured(writer.KindOf(this)!.Value);
-        using Budget budget = Budget.Begin(SourceLength, options.Timeout);
+        using Budget budget = Budget.Begin(SourceLength, options.Timeout, LoadedMemory);
         var context = new ExportContext(options, LoadOptions);
         stream = new WatchedStream(stream);
         if (options.Source is null)

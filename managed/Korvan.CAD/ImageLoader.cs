@@ -90,6 +90,7 @@ internal static class ImageLoader
         image.LoadOptions = options;
         image.SourceFormat = content.Format;
         image.SourceLength = content.Data.Length;
+        image.LoadedMemory = budget.Taken;
         return image;
     }
 

@@ -26,6 +26,9 @@ internal static unsafe partial class PosixFile
     private const int ModeOffset = 28;
     private const uint KindRequested = 1; // STATX_TYPE
     private const int KindMask = 0xF000;
+    private const uint OwnerRequested = 0x1B; // STATX_TYPE | STATX_MODE | STATX_UID | STATX_GID
+    private const int OwnerOffset = 20;
+    private const uint PermissionMask = 0x1FF; // without setuid, setgid and sticky bit
 
     /// <summary>Gets the type of a file; symbolic links are followed.</summary>
     internal enum Kind
@@ -72,6 +75,34 @@ internal static unsafe partial class PosixFile
 
     /// <summary>Whether the system supports <see cref="TryName"/>.</summary>
     internal static bool CanName(SafeFileHandle file) => KindOf(DescriptorPath(file)) == Kind.Regular;
+
+    /// <summary>Gives a new file the permissions of the file that it is to replace, and its owner where the process may
+    /// do that. It never takes on the rights of its owner when it is run.</summary>
+    internal static void KeepOwnerAndMode(string replaced, SafeFileHandle file)
+    {
+        byte* status = stackalloc byte[StatusLength];
+        if (TryEncode(replaced) is not { } name || StatX(CurrentFolder, name, 0, OwnerRequested, status) != 0)
+        {
+            return;
+        }
+
+        int descriptor = (int)file.DangerousGetHandle();
+        uint owner = *(uint*)(status + OwnerOffset);
+        uint group = *(uint*)(status + OwnerOffset + sizeof(uint));
+        if (ChangeOwner(descriptor, owner, group) != 0)
+        {
+            _ = ChangeOwner(descriptor, uint.MaxValue, group); // a member of the group may do that
+        }
+
+        _ = ChangeMode(descriptor, *(ushort*)(status + ModeOffset) & PermissionMask);
+    }
+
+    /// <summary>Locks a file until it is closed; whoever holds the lock is writing the file.</summary>
+    internal static void Lock(SafeFileHandle file)
+    {
+        const int exclusively = 2, orNot = 4; // LOCK_EX, LOCK_NB
+        _ = Lock((int)file.DangerousGetHandle(), exclusively | orNot);
+    }
 
     /// <summary>Opens an existing file for writing: a device, or a FIFO as soon as it has a reader.</summary>
     internal static SafeFileHandle OpenToWrite(string path)
@@ -210,6 +241,15 @@ internal static unsafe partial class PosixFile
 
     [LibraryImport("libc", EntryPoint = "linkat", StringMarshalling = StringMarshalling.Utf8, SetLastError = true)]
     private static partial int LinkAt(int fromFolder, string from, int toFolder, string to, int flags);
+
+    [LibraryImport("libc", EntryPoint = "fchown")]
+    private static partial int ChangeOwner(int descriptor, uint owner, uint group);
+
+    [LibraryImport("libc", EntryPoint = "fchmod")]
+    private static partial int ChangeMode(int descriptor, uint mode);
+
+    [LibraryImport("libc", EntryPoint = "flock")]
+    private static partial int Lock(int descriptor, int operation);
 
     [LibraryImport("libc", EntryPoint = "posix_fallocate")]
     private static partial int Allocate(int descriptor, long start, long length);

@@ -156,6 +156,10 @@ public class XmpPacketWrapper
     /// <inheritdoc/>
     public override string ToString() => ToXml();
 
+    /// <summary>Adds the properties of another packet.</summary>
+    internal void Append(XmpPacketWrapper other) => _root.Add(other.Descriptions.Where(
+        static description => description.HasElements || Attributes(description).Any()));
+
     /// <summary>Reads a packet of a file; returns null where it is damaged, since an image can be shown without
     /// it.</summary>
     internal static XmpPacketWrapper? TryRead(ReadOnlySpan<byte> data)

@@ -49,7 +49,9 @@ internal sealed class RasterCodec
     {
         try
         {
-            return Reader(new RasterSource(data, name, lenient) { Background = background });
+            var source = new RasterSource(data, name, lenient) { Background = background };
+            return LongCall.Run(
+                () => Reader(source), static file => file.Frames.ForEach(static frame => frame.Dispose()));
         }
         catch (OutOfMemoryException e)
         {

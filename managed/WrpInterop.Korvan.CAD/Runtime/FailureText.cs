@@ -19,6 +19,15 @@ internal static class FailureText
 
     public static string Of(Exception exception)
     {
+        // What Python raised has lines of its own.
+        bool isPython = exception is PythonException || exception.InnerException is PythonException
+            || exception.Message.Contains("Traceback (most recent call last)", StringComparison.Ordinal);
+        string text = Told(exception);
+        return isPython ? text : WithoutActive(text);
+    }
+
+    private static string Told(Exception exception)
+    {
         if (exception is not ArgumentException argument)
         {
             return WithoutLoneSurrogates(exception.Message);
@@ -98,4 +107,30 @@ internal static class FailureText
         }
         return escaped?.ToString() ?? text;
     }
+
+    // Names and values of files are part of messages: what would act on a terminal, a log or a web page is escaped.
+    private static string WithoutActive(string text)
+    {
+        StringBuilder? escaped = null;
+        for (int at = 0; at < text.Length; at++)
+        {
+            if (IsActive(text, at))
+            {
+                escaped ??= new StringBuilder(text, 0, at, text.Length + 8);
+                escaped.Append(text[at] < 256 ? $"\\x{(int)text[at]:x2}" : $"\\u{(int)text[at]:x4}");
+            }
+            else
+            {
+                escaped?.Append(text[at]);
+            }
+        }
+        return escaped?.ToString() ?? text;
+    }
+
+    private static bool IsActive(string text, int at) => text[at] switch
+    {
+        '<' => at + 1 < text.Length && (char.IsAsciiLetter(text[at + 1]) || text[at + 1] is '/' or '!' or '?'),
+        '\u2028' or '\u2029' or (>= '\u202A' and <= '\u202E') or (>= '\u2066' and <= '\u2069') => true,
+        char c => char.IsControl(c),
+    };
 }

@@ -24,7 +24,6 @@ internal sealed unsafe class GifReader
     private readonly GifReadHandle _gif;
     private readonly List<DecodedFrame> _frames = [];
     private PixelGrid? _canvas;
-    private long _total;
     private int _transparent = -1;
     private int _disposal;
 
@@ -71,6 +70,7 @@ internal sealed unsafe class GifReader
         }
 
         PixelGrid.VerifySize(_gif.File.Width, _gif.File.Height);
+        VerifyTotal(GifFrameCount.Of(_source.Bytes, MaxFrames));
         Gif.Record record;
         do
         {
@@ -93,6 +93,15 @@ internal sealed unsafe class GifReader
         if (_frames.Count == 0)
         {
             throw new GifImageException($"'{_source.Name}' holds no image.");
+        }
+    }
+
+    private void VerifyTotal(int frames)
+    {
+        if (frames * (long)_gif.File.Width * _gif.File.Height > PixelGrid.MaxPixels)
+        {
+            throw new LimitMemoryException(
+                $"The frames of '{_source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
         }
     }
 
@@ -149,13 +158,7 @@ internal sealed unsafe class GifReader
 
         Gif.ImageDescription image = _gif.File.Image;
         int[] palette = Palette(image.Map != null ? image.Map : _gif.File.Map);
-        _total += (long)_gif.File.Width * _gif.File.Height;
-        if (_total > PixelGrid.MaxPixels)
-        {
-            throw new LimitMemoryException(
-                $"The frames of '{_source.Name}' have more than {PixelGrid.MaxPixels} pixels in all.");
-        }
-
+        VerifyTotal(_frames.Count + 1);
         if (image.Width < 1 || image.Height < 1)
         {
             throw new GifImageException(

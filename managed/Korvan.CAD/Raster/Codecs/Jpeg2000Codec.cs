@@ -17,9 +17,17 @@ internal static unsafe class Jpeg2000Codec
 
     internal static void Write(PixelGrid pixels, Jpeg2000Options options, Stream output)
     {
-        SeekableOutput.Write(output, target =>
-            Encode(
-                pixels, options.Codec, options.Irreversible, options.CompressionRatio, gray: pixels.IsGray(), target));
+        (J2K container, bool irreversible, float ratio) = (
+            options.Codec, options.Irreversible, options.CompressionRatio);
+        using MemoryStream content = LongCall.Run(
+            () =>
+            {
+                var target = new MemoryStream();
+                Encode(pixels, container, irreversible, ratio, pixels.IsGray(), target);
+                return target;
+            },
+            null, pixels.Lifetime);
+        content.WriteTo(output);
     }
 
     /// <summary>Compresses pixels; <paramref name="target"/> must be seekable.</summary>

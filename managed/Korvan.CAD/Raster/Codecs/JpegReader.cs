@@ -31,7 +31,7 @@ internal static class JpegReader
                 },
             ],
             Exif = ReadExif(JpegSegments.Find(segments, JpegSegments.App1, JpegSegments.ExifSignature)),
-            Xmp = XmpPacketWrapper.TryRead(JpegSegments.Find(segments, JpegSegments.App1, JpegSegments.XmpSignature)),
+            Xmp = ExtendedXmp.Read(segments),
         };
     }
 

@@ -13,7 +13,9 @@ internal static class JpegWriter
     internal static void Write(RasterPageData page, JpegOptions options, Stream output)
     {
         bool progressive = options.CompressionType == JpegCompressionMode.Progressive;
-        byte[] Compress(int quality) => JpegCodec.Compress(page.Pixels, options.ColorType, quality, progressive);
+        byte[] Compress(int quality) => LongCall.Run(
+            () => JpegCodec.Compress(page.Pixels, options.ColorType, quality, progressive), null,
+            page.Pixels.Lifetime);
         byte[] jpeg = options.RdOptSettings?.Optimize(page.Pixels.Count, Compress) ?? Compress(options.Quality);
         JpegSegments.Write(jpeg, Segments(page, options), output);
     }
@@ -29,12 +31,21 @@ internal static class JpegWriter
 
         if ((options.ExifData ?? page.Exif) is ExifData exif)
         {
-            yield return new JpegSegment(JpegSegments.App1, [.. JpegSegments.ExifSignature, .. exif.SerializeData()]);
+            byte[] data = [.. JpegSegments.ExifSignature, .. exif.SerializeData()];
+
+            // What comes along with an image does not keep its pixels from being saved.
+            if (data.Length <= JpegSegments.MaxSegmentBytes || options.ExifData is not null)
+            {
+                yield return new JpegSegment(JpegSegments.App1, data);
+            }
         }
 
         if ((options.XmpData ?? page.Xmp) is XmpPacketWrapper xmp)
         {
-            yield return new JpegSegment(JpegSegments.App1, [.. JpegSegments.XmpSignature, .. xmp.ToBytes()]);
+            foreach (JpegSegment segment in ExtendedXmp.Segments(xmp))
+            {
+                yield return segment;
+            }
         }
 
         if (options.Comment.Length > 0)

@@ -19,18 +19,20 @@ internal static unsafe class WebPCodec
                 $"A WebP holds at most {WebP.MaxSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
         }
 
+        output.Write(LongCall.Run(() => Encode(pixels, options.Lossless, options.Quality), null, pixels.Lifetime));
+    }
+
+    private static byte[] Encode(PixelGrid pixels, bool lossless, float quality)
+    {
         int stride = pixels.Width * 4;
-        nuint size = options.Lossless
+        nuint size = lossless
             ? WebP.EncodeLossless(pixels.Pointer, pixels.Width, pixels.Height, stride, out WebPBufferHandle data)
-            : WebP.EncodeBgra(pixels.Pointer, pixels.Width, pixels.Height, stride, options.Quality, out data);
+            : WebP.EncodeBgra(pixels.Pointer, pixels.Width, pixels.Height, stride, quality, out data);
         using (data)
         {
-            if (size == 0)
-            {
-                throw new ImageSaveException("The image could not be compressed as WebP.");
-            }
-
-            output.Write(data.Bytes(size));
+            return size > 0
+                ? data.Bytes(size).ToArray()
+                : throw new ImageSaveException("The image could not be compressed as WebP.");
         }
     }
 

@@ -14,16 +14,15 @@ internal sealed unsafe class PixelGrid : IDisposable
     internal const long MaxPixels = RasterPage.MaxPixels;
     internal const int Opaque = unchecked((int)0xFF000000);
 
-    private readonly IDisposable _owner;
-    private readonly PixelBlock? _onDisk;
+    private readonly MappedMemory? _mapped;
     private int* _data;
 
     internal PixelGrid(int width, int height)
     {
         VerifySize(width, height);
         var block = new PixelBlock((long)width * height);
-        _owner = block;
-        _onDisk = block.IsOnDisk ? block : null;
+        Lifetime = new Lifetime(block.Dispose);
+        _mapped = block.Mapped;
         _data = block.Data;
         (Width, Height) = (width, height);
     }
@@ -31,10 +30,13 @@ internal sealed unsafe class PixelGrid : IDisposable
     /// <summary>Takes over pixels of another owner.</summary>
     internal PixelGrid(int* data, int width, int height, IDisposable owner)
     {
-        _owner = owner;
+        Lifetime = new Lifetime(owner.Dispose);
         _data = data;
         (Width, Height) = (width, height);
     }
+
+    /// <summary>Gets what keeps the pixels for work that outlives their owner.</summary>
+    internal Lifetime Lifetime { get; }
 
     internal int Width { get; private set; }
 
@@ -72,7 +74,7 @@ internal sealed unsafe class PixelGrid : IDisposable
     internal Span<int> Row(int y)
     {
         Budget.Check();
-        _onDisk?.Touch(Width * (long)sizeof(int));
+        _mapped?.Touch(Width * (long)sizeof(int));
         ObjectDisposedException.ThrowIf(_data == null, this);
         ArgumentOutOfRangeException.ThrowIfGreaterThanOrEqual((uint)y, (uint)Height, nameof(y));
         return new Span<int>(_data + ((long)y * Width), Width);
@@ -183,7 +185,7 @@ internal sealed unsafe class PixelGrid : IDisposable
     public void Dispose()
     {
         _data = null;
-        _owner.Dispose();
+        Lifetime.End();
     }
 
     private static bool AllHaveBits(ReadOnlySpan<int> row, int bits)

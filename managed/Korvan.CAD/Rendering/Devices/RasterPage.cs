@@ -61,6 +61,11 @@ internal sealed unsafe class RasterPage : IDisposable
             throw new RenderException(reason);
         }
 
+        return LongCall.Run(() => Painted(engine, page, bands), static raster => raster.Dispose(), engine.Lifetime);
+    }
+
+    private static RasterPage Painted(TextEngine engine, Page page, int? bands)
+    {
         var raster = new RasterPage((int)Math.Round(page.Width), (int)Math.Round(page.Height));
         try
         {

@@ -25,6 +25,7 @@ internal sealed class DrawingMeshes
 
     private readonly SceneTables _tables;
     private readonly RenderStyle _style;
+    private readonly SortedDictionary<string, int> _refused = new(StringComparer.Ordinal);
     private readonly PenResolver _pens;
     private readonly bool _mergeLayers;
     private readonly bool _doubleSided;
@@ -62,6 +63,11 @@ internal sealed class DrawingMeshes
 
     private void AddNotes(RenderNotes? notes)
     {
+        foreach ((string reason, int count) in _refused)
+        {
+            notes?.Add(RenderErrorCode.EntityNotDrawn, reason, count);
+        }
+
         if (_farFaces > 0)
         {
             const string what = "faces too far out for numbers of single precision";
@@ -160,7 +166,12 @@ internal sealed class DrawingMeshes
             return;
         }
 
-        BlockCells.VerifyNesting(block, context);
+        if ((BlockCells.Refuse(block, context) ?? BlockCells.Refuse(insert, block)) is { } reason)
+        {
+            _refused[reason] = _refused.GetValueOrDefault(reason) + 1;
+            return;
+        }
+
         Pen pen = _pens.PenOf(insert, layer, context);
         bool inherits = Inherits(block);
         (string, string?, Rgba) key = inherits ? (block.Name, layer.Name, pen.Color) : (block.Name, null, default);
@@ -172,6 +183,7 @@ internal sealed class DrawingMeshes
 
         foreach ((Vec3 _, Affine3 map) in shared.Nodes.Count == 0 ? [] : BlockCells.Of(insert, block, context))
         {
+            Budget.Step();
             Bounds3 box = shared.Box.Mapped(map);
             if (!MeshBuilder.IsNear(box.Min) || !MeshBuilder.IsNear(box.Max))
             {

@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
@@ -13,34 +12,28 @@ internal static class BlockCells
     private const int DeepestNesting = 64;
     private const long MaxCells = 1_000_000;
 
-    /// <summary>Each cell's offset from the first, and the map from the block to where the reference stands.</summary>
+    /// <summary>Returns the offset of each cell from the first, and the map from the block to the place of the
+    /// reference.</summary>
     internal static IEnumerable<(Vec3 Cell, Affine3 Map)> Of(
-        CadInsertObject insert, BlockInfo block, BlockContext context)
-    {
-        long columns = Math.Max(1, (int)insert.ColumnCount);
-        long rows = Math.Max(1, (int)insert.RowCount);
-        if (columns * rows > MaxCells)
-        {
-            throw new RenderException(
-                $"A reference to the block \"{insert.Name}\" repeats it {columns} × {rows} times; "
-                    + $"at most {MaxCells} cells can be drawn.");
-        }
+        CadInsertObject insert, BlockInfo block, BlockContext context) =>
+        Cells(insert, block, context, Columns(insert), Rows(insert));
 
-        return Cells(insert, block, context, columns, rows);
-    }
+    /// <summary>Returns why a reference cannot be drawn; null if it can. The rest of the drawing does not depend on
+    /// it.</summary>
+    internal static string? Refuse(BlockInfo block, BlockContext context) =>
+        context.IsInside(block.Name) ? "reference to a block in itself"
+        : context.Depth >= DeepestNesting ? $"reference in blocks that are nested more than {DeepestNesting} levels deep"
+        : null;
 
-    internal static void VerifyNesting(BlockInfo block, BlockContext context)
-    {
-        if (context.IsInside(block.Name))
-        {
-            throw new RenderException($"The block \"{block.Name}\" contains a reference to itself, so it has no end.");
-        }
+    /// <summary>Returns why the cells of a reference cannot be drawn; null if they can.</summary>
+    internal static string? Refuse(CadInsertObject insert, BlockInfo block) =>
+        block.Entities.Count > 0 && Columns(insert) * Rows(insert) > MaxCells
+            ? $"reference that repeats a block more than {MaxCells} times"
+            : null;
 
-        if (context.Depth >= DeepestNesting)
-        {
-            throw new RenderException($"The block \"{block.Name}\" is nested more than {DeepestNesting} levels deep.");
-        }
-    }
+    private static long Columns(CadInsertObject insert) => Math.Max(1, (int)insert.ColumnCount);
+
+    private static long Rows(CadInsertObject insert) => Math.Max(1, (int)insert.RowCount);
 
     internal static double NotZero(double scale) => scale == 0 ? 1 : scale;
 

@@ -54,9 +54,17 @@ internal sealed partial class SceneBuilder
 
     private void DrawCells(CadInsertObject insert, BlockInfo block, LayerInfo layer, in Pen pen, BlockContext context)
     {
-        Vec3[]? boundary = _tables.Clips.Find(insert);
-        foreach ((Vec3 cell, Affine3 map) in BlockCells.Of(insert, block, context))
+        if (BlockCells.Refuse(insert, block) is { } reason)
         {
+            List.Skip(reason);
+            return;
+        }
+
+        Vec3[]? boundary = _tables.Clips.Find(insert);
+        bool isEmpty = block.Entities.Count == 0 && insert.Attributes.Count == 0;
+        foreach ((Vec3 cell, Affine3 map) in isEmpty ? [] : BlockCells.Of(insert, block, context))
+        {
+            Budget.Step();
             if (boundary is null)
             {
                 DrawBlock(block, map, layer, pen, context);
@@ -90,7 +98,12 @@ internal sealed partial class SceneBuilder
 
     private void DrawBlock(BlockInfo block, in Affine3 map, LayerInfo layer, in Pen pen, BlockContext context)
     {
-        BlockCells.VerifyNesting(block, context);
+        if (BlockCells.Refuse(block, context) is { } reason)
+        {
+            List.Skip(reason);
+            return;
+        }
+
         if (!map.IsFinite)
         {
             List.Skip("INSERT that is not finite");

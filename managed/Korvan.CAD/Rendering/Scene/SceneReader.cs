@@ -70,7 +70,9 @@ internal static class SceneReader
             tables.LineTypeNames.Add(type.Name);
         }
 
-        double overall = drawing.Header.Contains("$DIMSCALE") ? drawing.Header.GetDouble("$DIMSCALE") : 1;
+        double overall = drawing.Header.Contains("$DIMSCALE") && drawing.Header.Unreadable("$DIMSCALE").Length == 0
+            ? drawing.Header.GetDouble("$DIMSCALE")
+            : 1;
         foreach (CadDimensionStyleTable dim in drawing.DimensionStyles)
         {
             string text = styleNames.TryGetValue(dim.Dimtxsty, out string? name)
@@ -90,12 +92,20 @@ internal static class SceneReader
         return tables;
     }
 
+    private static readonly string[] Variables =
+    [
+        "$LTSCALE", "$PSLTSCALE", "$PDMODE", "$PDSIZE", "$FILLMODE", "$ATTMODE", "$LWDISPLAY", "$TEXTSIZE",
+        "$TDUCREATE", "$TDCREATE", "$TDUUPDATE", "$TDUPDATE",
+    ];
+
     private static SceneSettings Settings(CadDrawing drawing)
     {
-        CadHeader header = drawing.Header;
+        string[] unreadable = drawing.Header.Unreadable(Variables);
+        CadHeader header = unreadable.Length == 0 ? drawing.Header : Readable(drawing.Header, unreadable);
         CadWipeoutVariables? wipeout = drawing.Objects.OfType<CadWipeoutVariables>().FirstOrDefault();
         return new SceneSettings
         {
+            Unreadable = unreadable,
             LinetypeScale = header.LtScale > 0 ? header.LtScale : 1,
             PaperLinetypeScale = header.PsLtScale != 0,
             PointMode = header.PdMode,
@@ -109,6 +119,20 @@ internal static class SceneReader
             Created = Date(header, "$TDUCREATE") ?? Date(header, "$TDCREATE"),
             Modified = Date(header, "$TDUUPDATE") ?? Date(header, "$TDUPDATE"),
         };
+    }
+
+    private static CadHeader Readable(CadHeader header, string[] unreadable)
+    {
+        var copy = new CadHeader();
+        foreach (string name in header.VariableNames)
+        {
+            if (Array.IndexOf(unreadable, name) < 0)
+            {
+                copy.TagsOf(name).AddRange(header.TagsOf(name));
+            }
+        }
+
+        return copy;
     }
 
     /// <summary>A date that is stated in Julian days; null where there is none of these centuries.</summary>

@@ -65,6 +65,9 @@ internal sealed record BlockInfo(string Name, Vec3 Base, IReadOnlyList<CadEntity
 /// <summary>The header variables that rendering depends on.</summary>
 internal sealed record SceneSettings
 {
+    /// <summary>Gets the variables of the header without a readable value, which have that of a new drawing.</summary>
+    internal string[] Unreadable { get; init; } = [];
+
     internal double LinetypeScale { get; init; } = 1;
 
     internal bool PaperLinetypeScale { get; init; } = true;

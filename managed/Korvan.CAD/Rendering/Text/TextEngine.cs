@@ -61,6 +61,7 @@ internal sealed unsafe class TextEngine : IDisposable
 
     private TextEngine(GlyphRendering look, FontFolders? folders, bool ownsFolders)
     {
+        Lifetime = new Lifetime(Release);
         NativeLibraries.Require();
         FontTable.ListInstalled = static () => Fontconfig.ListFonts();
         _look = look;
@@ -84,6 +85,9 @@ internal sealed unsafe class TextEngine : IDisposable
         Pango.LayoutSetSingleParagraphMode(_layout.Pointer, 1);
         Pango.LayoutSetAutoDir(_layout.Pointer, 1);
     }
+
+    /// <summary>Gets what keeps the engine for work that outlives its owner.</summary>
+    internal Lifetime Lifetime { get; }
 
     /// <summary>Creates an engine for another thread, which gives fonts the same numbers. It has to be released before
     /// this one.</summary>
@@ -135,6 +139,7 @@ internal sealed unsafe class TextEngine : IDisposable
 
     private ShapedLine Line(int font, string text, double letterSpacing)
     {
+        Budget.Check();
         Dictionary<string, ShapedLine> known = _lines[font];
         string key = letterSpacing == 0 ? text : $"{letterSpacing:R}\0{text}";
         if (!known.TryGetValue(key, out ShapedLine? line))
@@ -194,7 +199,9 @@ internal sealed unsafe class TextEngine : IDisposable
         CairoPaths.Append(outliner, matrix * new Affine2(1 / EmSize, 0, 0, -1 / EmSize, 0, 0), target);
     }
 
-    public void Dispose()
+    public void Dispose() => Lifetime.End();
+
+    private void Release()
     {
         _outliner?.Dispose();
         _descriptions.ForEach(static description => description.Dispose());

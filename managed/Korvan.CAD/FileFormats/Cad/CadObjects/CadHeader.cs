@@ -161,6 +161,23 @@ public partial class CadHeader
             : missing;
     }
 
+    /// <summary>Returns the names of those variables of one number whose value is none.</summary>
+    internal string[] Unreadable(params ReadOnlySpan<string> names)
+    {
+        List<string> unreadable = [];
+        foreach (string name in names)
+        {
+            if (_values.TryGetValue(name, out List<CadCodeValue>? tags) && tags.Count > 0
+                && !(double.TryParse(tags[0].Value, NumberStyles.Float, CultureInfo.InvariantCulture, out double value)
+                    && double.IsFinite(value)))
+            {
+                unreadable.Add(name);
+            }
+        }
+
+        return [.. unreadable];
+    }
+
     private static double Number(string name, CadCodeValue tag)
     {
         return double.TryParse(tag.Value, NumberStyles.Float, CultureInfo.InvariantCulture, out double value)

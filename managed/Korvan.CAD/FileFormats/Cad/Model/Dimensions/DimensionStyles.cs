@@ -46,7 +46,9 @@ internal sealed class DimensionStyles
             _blockNames.Add(block.Name);
         }
 
-        double scale = drawing.Header.Contains(OverallScale) ? drawing.Header.GetDouble(OverallScale) : 1;
+        double scale = drawing.Header.Contains(OverallScale) && drawing.Header.Unreadable(OverallScale).Length == 0
+            ? drawing.Header.GetDouble(OverallScale)
+            : 1;
         _scale = scale > 0 ? scale : 1;
         _currentTextStyle = drawing.Header.CurrentTextStyle;
     }

@@ -1,0 +1,66 @@
+using System;
+using System.Threading.Tasks;
+
+namespace Korvan.CAD;
+
+/// <summary>
+/// Work that cannot be ended in its middle, such as a call into a native codec. It runs on another thread, while this
+/// one watches the <see cref="Budget"/>: if that ends, nobody waits for the work, which releases what it has used and
+/// made when it is done.
+/// </summary>
+internal static class LongCall
+{
+    private const int PollInterval = 20; // milliseconds
+
+    /// <summary>Runs work that touches nothing of Python and nothing that others change meanwhile.</summary>
+    /// <param name="work">The work.</param>
+    /// <param name="discard">Releases a result that nobody waits for.</param>
+    /// <param name="used">What the work uses, which is not released before it is done.</param>
+    internal static T Run<T>(Func<T> work, Action<T>? discard, params ReadOnlySpan<Lifetime> used)
+    {
+        if (Budget.Current is not { } budget || ForkedProcess.IsChild)
+        {
+            return work();
+        }
+
+        Lifetime[] held = used.ToArray();
+        Array.ForEach(held, static lifetime => lifetime.Hold());
+        Task<T> task = Task.Run(() =>
+        {
+            try
+            {
+                using Budget.ThreadShare share = Budget.Share(budget);
+                return work();
+            }
+            finally
+            {
+                Array.ForEach(held, static lifetime => lifetime.Release());
+            }
+        });
+        try
+        {
+            while (Task.WaitAny([task], PollInterval) < 0)
+            {
+                budget.Poll();
+                MappedMemory.TrimAll();
+            }
+        }
+        catch
+        {
+            task.ContinueWith(
+                done => Discard(done, discard), TaskContinuationOptions.ExecuteSynchronously);
+            throw;
+        }
+
+        return task.GetAwaiter().GetResult();
+    }
+
+    // A failure that nobody waits for is observed, so that it is not reported by the runtime.
+    private static void Discard<T>(Task<T> done, Action<T>? discard)
+    {
+        if (done.Exception is null)
+        {
+            discard?.Invoke(done.Result);
+        }
+    }
+}
