@@ -1,0 +1,25 @@
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+
+namespace Korvan.CAD.FileFormats.Cad.Dwg.Container;
+
+/// <summary>Reads the sections of drawing databases from release 13 on.</summary>
+internal static class DwgContainer
+{
+    /// <summary>Reads the sections of a file.</summary>
+    /// <param name="data">The whole file.</param>
+    /// <param name="name">Its name in messages.</param>
+    /// <param name="version">The release that its first bytes state.</param>
+    /// <param name="options">The load options.</param>
+    /// <exception cref="ImageLoadException">The file is damaged, or of a release that has other files.</exception>
+    internal static DwgFile Read(byte[] data, string name, CadAcadVersion version, LoadOptions options)
+    {
+        DwgSource source = new(data, name, options);
+        return version switch
+        {
+            CadAcadVersion.AC1012 or CadAcadVersion.AC1014 or CadAcadVersion.AC1015 =>
+                PlainContainer.Read(source, version),
+            _ => throw new ImageLoadException($"'{name}' is of release {version}, whose container cannot be read."),
+        };
+    }
+}
