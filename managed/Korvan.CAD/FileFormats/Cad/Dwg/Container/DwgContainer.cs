@@ -1,5 +1,6 @@
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Dwg.Container.Paged;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Container;
 
@@ -19,6 +20,8 @@ internal static class DwgContainer
         {
             CadAcadVersion.AC1012 or CadAcadVersion.AC1014 or CadAcadVersion.AC1015 =>
                 PlainContainer.Read(source, version),
+            CadAcadVersion.AC1018 or CadAcadVersion.AC1024 or CadAcadVersion.AC1027 or CadAcadVersion.AC1032 =>
+                PagedContainer.Read(source, version),
             _ => throw new ImageLoadException($"'{name}' is of release {version}, whose container cannot be read."),
         };
     }
