@@ -44,9 +44,8 @@ internal static class HeaderFields
             "BS textqlty =50", "BD LTSCALE =1", "BD TEXTSIZE =0.2", "BD TRACEWID =0.05", "BD SKETCHINC =0.1",
             "BD FILLETRAD", "BD THICKNESS", "BD ANGBASE :50", "BD PDSIZE", "BD PLINEWID", "BD USERR1", "BD USERR2",
             "BD USERR3", "BD USERR4", "BD USERR5", "BD CHAMFERA", "BD CHAMFERB", "BD CHAMFERC", "BD CHAMFERD",
-            "BD facetres =0.5", "BD CMLSCALE =1", "BD CELTSCALE =1"),
-        .. In(First, 2004, "T MENU"),
-        .. In(First, Last, "TIME TDUCREATE", "TIME TDUUPDATE"),
+            "BD facetres =0.5", "BD CMLSCALE =1", "BD CELTSCALE =1", "T MENU",
+            "TIME TDUCREATE", "TIME TDUUPDATE"),
         .. In(2004, Last, "BL unknown15", "BL unknown16", "BL unknown17"),
         .. In(First, Last, "TIME TDINDWG", "TIME TDUSRTIMER", "CMC CECOLOR :62 =256", "OH HANDSEED", "H CLAYER :8",
             "H TEXTSTYLE :7", "H CELTYPE :6"),
@@ -82,7 +81,7 @@ internal static class HeaderFields
             "T PROJECTNAME"),
         .. In(First, Last, "H paperSpace", "H modelSpace", "H byLayer", "H byBlock", "H continuous"),
         .. Views(),
-        .. In(1997, Last, "BS unknown54 =65535", "BS unknown55 =65535", "BS unknown56 =65535", "BS unknown57 =65535"),
+        .. In(1997, 2004, "BS unknown54 =65535", "BS unknown55 =65535", "BS unknown56 =65535", "BS unknown57 =65535"),
     ];
 
     private static string[] Space(string prefix) =>
