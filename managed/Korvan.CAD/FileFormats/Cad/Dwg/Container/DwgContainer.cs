@@ -1,6 +1,7 @@
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container.Paged;
+using Korvan.CAD.FileFormats.Cad.Dwg.Container.Release2007;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Container;
 
@@ -22,6 +23,7 @@ internal static class DwgContainer
                 PlainContainer.Read(source, version),
             CadAcadVersion.AC1018 or CadAcadVersion.AC1024 or CadAcadVersion.AC1027 or CadAcadVersion.AC1032 =>
                 PagedContainer.Read(source, version),
+            CadAcadVersion.AC1021 => EncodedContainer.Read(source),
             _ => throw new ImageLoadException($"'{name}' is of release {version}, whose container cannot be read."),
         };
     }

@@ -1,3 +1,5 @@
+using System;
+using System.Text;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Encodings;
 using Korvan.CAD.Input;
@@ -10,11 +12,17 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Container;
 /// <param name="options">The load options: whether a defect ends the load or is collected.</param>
 internal sealed class DwgSource(byte[] data, string name, LoadOptions options)
 {
+    private const int MaxRatio = 256;
+
     internal byte[] Data { get; } = data;
 
     internal string Name { get; } = name;
 
     internal LoadOptions Options { get; } = options;
+
+    /// <summary>Gets the largest size that a section of this file may have, so that a small file cannot ask for all
+    /// memory.</summary>
+    internal long MaxSectionSize => Math.Min((Data.Length + 4096L) * MaxRatio, Array.MaxLength);
 
     /// <summary>Gets whether defects are collected.</summary>
     internal bool IsTolerant => Options.IgnoreErrors;
@@ -42,7 +50,7 @@ internal sealed class DwgSource(byte[] data, string name, LoadOptions options)
 
     /// <summary>Returns the encoding of strings of 8-bit characters.</summary>
     /// <param name="codePage">The index of the code page in the file header.</param>
-    internal System.Text.Encoding EncodingOf(int codePage) => Options.SpecifiedEncoding != CodePages.Default
+    internal Encoding EncodingOf(int codePage) => Options.SpecifiedEncoding != CodePages.Default
         ? DwgCodePage.Get((int)Options.SpecifiedEncoding)
         : DwgCodePage.Get(CodePageIndex.NameOf(codePage));
 }

@@ -24,6 +24,12 @@ internal static class PageMap
         {
             int number = entries.Int32();
             uint size = entries.UInt32();
+            if (address > source.Data.Length)
+            {
+                source.Report(LoadDefectCode.InvalidPage, Section, header.PageMapAddress,
+                    $"page {number} of {size} bytes is beyond the end of the file");
+                return pages;
+            }
             if (number < 0)
             {
                 entries.Skip(GapFields);

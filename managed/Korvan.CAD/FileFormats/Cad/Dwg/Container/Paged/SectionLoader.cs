@@ -25,13 +25,15 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
     internal byte[] Read(SectionInfo section)
     {
         long limit = LimitOf(section);
-        if (section.Size < 0 || section.Size > limit)
+        if (section.Size < 0 || section.Size > limit || section.Pages.Count > addresses.Count)
         {
             source.Report(LoadDefectCode.CountTooLarge, section.Name, -1,
-                $"the section states {section.Size} bytes; its pages hold {limit} at most");
+                $"the section states {section.Size} bytes in {section.Pages.Count} pages; the pages of the file hold "
+                    + $"{limit}");
+            return [];
         }
 
-        byte[] target = new byte[Math.Clamp(section.Size, 0, Math.Min(limit, Array.MaxLength))];
+        byte[] target = new byte[section.Size];
         PageFault[] faults = new PageFault[section.Pages.Count];
         int pieces = (section.Pages.Count + PagesOfPiece - 1) / PagesOfPiece;
         ForkedProcess.RunPieces(pieces, piece =>
@@ -53,8 +55,8 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
         return target;
     }
 
-    // Pages of zeros are not stored, but their number is not larger than what a page can hold of others.
-    private static long LimitOf(SectionInfo section)
+    // Pages of zeros are not stored, but there are no more of them than one at the end.
+    private long LimitOf(SectionInfo section)
     {
         long limit = section.PageSize;
         foreach (PageInfo page in section.Pages)
@@ -62,7 +64,7 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
             limit += section.IsCompressed ? Math.Min(section.PageSize, page.Stored * (long)Lz77.MaxRatio) : page.Stored;
         }
 
-        return Math.Min(limit, (long)Lz77.MaxRatio * Array.MaxLength);
+        return Math.Min(limit, source.MaxSectionSize);
     }
 
     private PageFault ReadPage(SectionInfo section, PageInfo page, byte[] target)
