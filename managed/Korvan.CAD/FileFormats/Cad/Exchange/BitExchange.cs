@@ -71,6 +71,10 @@ internal abstract partial class BitExchange
     /// <summary>Carries the reference to a record of a symbol table, which the object knows by its name.</summary>
     internal abstract string Name(SymbolTable table, string value);
 
+    /// <summary>Carries a line type by its place in the table (BS), as styles of multilines have it up to release
+    /// 2013.</summary>
+    internal abstract string LineTypeByIndex(string value);
+
     /// <summary>Carries a colour (CMC).</summary>
     /// <param name="index">The index of the colour.</param>
     /// <param name="rgb">The colour as 0xRRGGBB; -1 for none.</param>
@@ -91,6 +95,14 @@ internal abstract partial class BitExchange
 
     /// <summary>Carries the references from a block to what begins and ends it, and to its entities.</summary>
     internal abstract void BlockParts(CadBaseObject owner, bool hasEntities);
+
+    /// <summary>Carries values after their group codes, whose number of bytes precedes them.</summary>
+    /// <param name="tags">The values.</param>
+    /// <param name="cloningCode">The group code under which the object has its cloning flag.</param>
+    internal abstract void TypedTags(System.Collections.Generic.IList<CadCodeValue> tags, int cloningCode);
+
+    /// <summary>Creates the exception for a value that the class does not allow.</summary>
+    internal abstract System.Exception Fault(string cause);
 
     /// <summary>Carries all bits of the data stream that are left.</summary>
     internal abstract byte[] Rest(byte[] value);

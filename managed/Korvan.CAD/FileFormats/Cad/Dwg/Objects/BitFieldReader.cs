@@ -20,6 +20,7 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
     private const int UnicodeStrings = 2007;
     private const int TrueColors = 2004;
     private const int OwnedLists = 2004;
+    private const int StatedCloning = 2000;
 
     private BitReader _data;
     private BitReader _strings;
@@ -117,6 +118,13 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
 
     internal override string Name(SymbolTable table, string value) => names.Find(NextHandle()) ?? value;
 
+    internal override string LineTypeByIndex(string value) => _data.BitShort() switch
+    {
+        0x7FFF => "BYLAYER",
+        0x7FFE => "BYBLOCK",
+        var index => names.LineType(index) ?? value,
+    };
+
     internal override (int Index, int Rgb, string Name) Color(int index, int rgb, string name)
     {
         int plain = _data.BitShort();
@@ -160,6 +168,21 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
 
         Parts.End = NextHandle();
     }
+
+    internal override void TypedTags(IList<CadCodeValue> tags, int cloningCode)
+    {
+        int size = _data.BitLong();
+        _data.VerifyCount(size, 8);
+        int place = tags.Count;
+        RecordTags.Read(_data.Bytes(size), tags, new RecordFormat(release, encoding, names));
+        if (release >= StatedCloning)
+        {
+            int cloning = _data.BitShort();
+            tags.Insert(place, new CadCodeValue(cloningCode, cloning.ToString(CultureInfo.InvariantCulture)));
+        }
+    }
+
+    internal override Exception Fault(string cause) => new DwgFault(_data.Position, cause);
 
     internal override byte[] Rest(byte[] value)
     {
