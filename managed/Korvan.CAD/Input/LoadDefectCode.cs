@@ -110,6 +110,9 @@ internal enum LoadDefectCode
     /// <summary>A value is none of those that the format defines.</summary>
     BadValue = 518,
 
+    /// <summary>The record of an object cannot be read.</summary>
+    DamagedObject = 531,
+
     /// <summary>Further defects were counted, but not kept.</summary>
     NotKept = 901,
 }
