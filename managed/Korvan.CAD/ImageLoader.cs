@@ -8,6 +8,7 @@ using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Ifc;
 using Korvan.CAD.FileFormats.Ifc.Model;
 using Korvan.CAD.Formats;
+using Korvan.CAD.Formats.Dwg;
 using Korvan.CAD.Input;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Raster.Vectorizing;
@@ -80,14 +81,15 @@ internal static class ImageLoader
     private static Image Read(Content content, string name, LoadOptions options)
     {
         object model = FormatRegistry.Find(content.Format)!.Read!(content.Data, name, content.Format, options);
-        Image image = Vectorized(ImageOf(model), options);
+        Image image = Vectorized(ImageOf(model, content.Format), options);
         image.LoadOptions = options;
         image.SourceFormat = content.Format;
         return image;
     }
 
-    private static Image ImageOf(object model) => model switch
+    private static Image ImageOf(object model, FileFormat format) => model switch
     {
+        CadDrawing drawing when DwgFormat.Record.Has(format) => new DwgImage(drawing),
         CadDrawing drawing => new DxfImage(drawing),
         CgmFile metafile => new CgmImage(metafile),
         IfcContent building => new IfcImage(building),
