@@ -9,6 +9,8 @@ internal sealed class CadClass
 {
     private const string ClassAttribute = "CadObjectAttribute";
 
+    private readonly INamedTypeSymbol _type;
+
     private CadClass(INamedTypeSymbol type)
     {
         Name = type.Name;
@@ -33,6 +35,11 @@ internal sealed class CadClass
         Labels = [.. CadLabel.On(type, "CadLabelAttribute")];
         Ends = [.. CadLabel.On(type, "CadEndAttribute")];
         Parts = [.. PartsOf(type).Select(part => part.Name)];
+        _type = type;
+        AttributeData? bits = type.GetAttributes().FirstOrDefault(candidate =>
+            candidate.AttributeClass?.Name == "CadBitsAttribute");
+        Bits = bits is null ? null
+            : [.. bits.ConstructorArguments[0].Values.Select(item => new BitItem((string)item.Value!))];
     }
 
     public string Name { get; }
@@ -86,7 +93,10 @@ internal sealed class CadClass
     /// <summary>Fixed strings that end a part.</summary>
     public IReadOnlyList<CadLabel> Ends { get; }
 
-    public bool HasCodec => HasClassAttribute || IsSequence || Properties.Count > 0;
+    /// <summary>The fields in drawing databases; null for a class that states none.</summary>
+    public IReadOnlyList<BitItem>? Bits { get; }
+
+    public bool HasCodec => HasClassAttribute || IsSequence || Properties.Count > 0 || Bits is not null;
 
     /// <summary>Whether the class is a part of objects, which has neither a type name nor subclasses.</summary>
     public bool IsPartOfObject => Kind.Length == 0;
@@ -95,6 +105,37 @@ internal sealed class CadClass
     public bool IsPart => !HasClassAttribute && IsAbstract;
 
     public static CadClass From(INamedTypeSymbol type) => new(type);
+
+    /// <summary>Finds a property of the class, of its base classes or of its parts.</summary>
+    /// <param name="path">The name, after those of the parts and periods.</param>
+    /// <returns>The type, and what the attributes of the property say; null for none.</returns>
+    public (ITypeSymbol? Type, CadProperty? Property) Find(string path)
+    {
+        ITypeSymbol? at = _type;
+        CadProperty? property = null;
+        foreach (string name in path.Split('.'))
+        {
+            IPropertySymbol? found = Member(at, name) ?? (at is INamedTypeSymbol owner
+                ? IncludedIn(owner).FirstOrDefault(included => included.Name == name)?.Symbol : null);
+            at = found?.Type;
+            property = found is null ? null : CadProperty.From(found);
+        }
+
+        return (at, property);
+    }
+
+    private static IPropertySymbol? Member(ITypeSymbol? type, string name)
+    {
+        for (ITypeSymbol? current = type; current is not null; current = current.BaseType)
+        {
+            if (current.GetMembers(name).OfType<IPropertySymbol>().FirstOrDefault() is { } found)
+            {
+                return found;
+            }
+        }
+
+        return null;
+    }
 
     private static IEnumerable<CadProperty> Fields(INamedTypeSymbol type)
     {

@@ -51,6 +51,7 @@ internal static class CodecWriter
             text.AppendLine($"    partial void OnReadField(int code, {Reader} reader, ref bool taken);");
         }
 
+        BitsText.Write(model, text);
         text.AppendLine($"    partial void OnExchange({Walk} fields);");
         text.AppendLine("}");
         string full = $"{model.Namespace}.{model.Name}";

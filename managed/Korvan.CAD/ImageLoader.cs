@@ -8,6 +8,7 @@ using Korvan.CAD.FileFormats.Cgm;
 using Korvan.CAD.FileFormats.Ifc;
 using Korvan.CAD.FileFormats.Ifc.Model;
 using Korvan.CAD.Formats;
+using Korvan.CAD.Formats.Dwg;
 using Korvan.CAD.Input;
 using Korvan.CAD.Raster;
 using Korvan.CAD.Raster.Vectorizing;
@@ -86,7 +87,7 @@ internal static class ImageLoader
 
         using Budget budget = Budget.Begin(content.Data.Length);
         object model = FormatRegistry.Find(content.Format)!.Read!(content.Data, name, content.Format, options);
-        Image image = Vectorized(ImageOf(model), options);
+        Image image = Vectorized(ImageOf(model, content.Format), options);
         image.LoadOptions = options;
         image.SourceFormat = content.Format;
         image.SourceLength = content.Data.Length;
@@ -94,8 +95,9 @@ internal static class ImageLoader
         return image;
     }
 
-    private static Image ImageOf(object model) => model switch
+    private static Image ImageOf(object model, FileFormat format) => model switch
     {
+        CadDrawing drawing when DwgFormat.Record.Has(format) => new DwgImage(drawing),
         CadDrawing drawing => new DxfImage(drawing),
         CgmFile metafile => new CgmImage(metafile),
         IfcContent building => new IfcImage(building),

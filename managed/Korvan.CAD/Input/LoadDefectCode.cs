@@ -56,6 +56,18 @@ internal enum LoadDefectCode
     /// <summary>The ZIP archive is damaged, or does not contain exactly one model.</summary>
     InvalidArchive = 402,
 
+    /// <summary>A checksum is not that of the data.</summary>
+    WrongChecksum = 403,
+
+    /// <summary>Compressed data cannot be decompressed.</summary>
+    InvalidCompression = 404,
+
+    /// <summary>The file is encrypted.</summary>
+    Encrypted = 405,
+
+    /// <summary>A page or section is stated where the file has none.</summary>
+    InvalidPage = 406,
+
     /// <summary>A tag begins with something that is not a group code.</summary>
     BadGroupCode = 501,
 
@@ -97,6 +109,9 @@ internal enum LoadDefectCode
 
     /// <summary>A value is none of those that the format defines.</summary>
     BadValue = 518,
+
+    /// <summary>The record of an object cannot be read.</summary>
+    DamagedObject = 531,
 
     /// <summary>Further defects were counted, but not kept.</summary>
     NotKept = 901,

@@ -1,51 +1,80 @@
 using System;
+using System.IO;
+using System.Linq;
 using System.Text;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Dwg;
+using Korvan.CAD.FileFormats.Cad.Dwg.Early;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Input;
 
 namespace Korvan.CAD.Formats.Dwg;
 
-/// <summary>Drawing databases, which are told apart by the release that their first six bytes name.</summary>
+/// <summary>Drawing databases and their templates. The release is in the first six bytes; a template has the same
+/// content, but another file extension.</summary>
 internal static class DwgFormat
 {
     private const int VersionLength = 6;
+    private const string TemplateExtension = ".dwt";
+
+    // The first bytes, and the formats of drawings and templates.
+    private static readonly (string Start, FileFormat Drawing, FileFormat Template)[] Releases =
+    [
+        ("AC1.", FileFormat.CadR1_4, FileFormat.DwtCadR1_4),
+        ("AC2.", FileFormat.CadR2_10, FileFormat.DwtCadR2_10),
+        ("AC1001", FileFormat.CadR2_22, FileFormat.DwtCadR2_22),
+        ("AC1002", FileFormat.CadR2_5, FileFormat.DwtCadR2_5),
+        ("AC1003", FileFormat.CadR2_6, FileFormat.DwtCadR2_6),
+        ("AC1004", FileFormat.CadR9, FileFormat.DwtCadR9),
+        ("AC1006", FileFormat.CadR010, FileFormat.DwtCadR010),
+        ("AC1009", FileFormat.CadR011_012, FileFormat.DwtCadR011_012),
+        ("AC1012", FileFormat.CadR013, FileFormat.DwtCadR013),
+        ("AC1014", FileFormat.CadR014, FileFormat.DwtCadR014),
+        ("AC1015", FileFormat.CadR2000, FileFormat.DwtCadR2000),
+        ("AC1018", FileFormat.CadR2004, FileFormat.DwtCadR2004),
+        ("AC1021", FileFormat.CadR2007, FileFormat.DwtCadR2007),
+        ("AC1024", FileFormat.CadR2010, FileFormat.DwtCadR2010),
+        ("AC1027", FileFormat.CadR2013, FileFormat.DwtCadR2013),
+        ("AC1032", FileFormat.CadR2018, FileFormat.DwtCadR2018),
+    ];
 
     internal static FormatRecord Record { get; } = new()
     {
         Name = "DWG",
         Formats =
         [
-            FileFormat.CadR1_4, FileFormat.CadR2_10, FileFormat.CadR2_22, FileFormat.CadR2_5, FileFormat.CadR2_6,
-            FileFormat.CadR9, FileFormat.CadR010, FileFormat.CadR011_012, FileFormat.CadR013, FileFormat.CadR014,
-            FileFormat.CadR2000, FileFormat.CadR2004, FileFormat.CadR2007, FileFormat.CadR2010, FileFormat.CadR2013,
-            FileFormat.CadR2018,
+            .. Releases.Select(static release => release.Drawing),
+            .. Releases.Select(static release => release.Template),
         ],
-        Detect = static source => Detect(source.FirstBytes),
+        Detect = Detect,
+        Read = static (data, name, _, options) => Read(data, name, options),
     };
 
-    private static FileFormat Detect(ReadOnlySpan<byte> head) => head switch
+    private static FileFormat Detect(SourceWindow source)
     {
-        _ when head.StartsWith("AC10"u8) && head.Length > VersionLength =>
-            Release(Encoding.ASCII.GetString(head[..VersionLength])),
-        _ when head.StartsWith("AC1."u8) => FileFormat.CadR1_4,
-        _ when head.StartsWith("AC2."u8) => FileFormat.CadR2_10,
-        _ => FileFormat.Undefined,
-    };
+        ReadOnlySpan<byte> start = source.FirstBytes;
+        if (!start.StartsWith("AC"u8) || start.Length <= VersionLength)
+        {
+            return FileFormat.Undefined;
+        }
 
-    private static FileFormat Release(string version) => version switch
+        string version = Encoding.ASCII.GetString(start[..VersionLength]);
+        foreach ((string code, FileFormat drawing, FileFormat template) in Releases)
+        {
+            if (version.StartsWith(code, StringComparison.Ordinal))
+            {
+                return Path.GetExtension(source.Name).Equals(TemplateExtension, StringComparison.OrdinalIgnoreCase)
+                    ? template : drawing;
+            }
+        }
+
+        return FileFormat.Undefined;
+    }
+
+    private static object Read(byte[] data, string name, LoadOptions options)
     {
-        "AC1001" => FileFormat.CadR2_22,
-        "AC1002" => FileFormat.CadR2_5,
-        "AC1003" => FileFormat.CadR2_6,
-        "AC1004" => FileFormat.CadR9,
-        "AC1006" => FileFormat.CadR010,
-        "AC1009" => FileFormat.CadR011_012,
-        "AC1012" => FileFormat.CadR013,
-        "AC1014" => FileFormat.CadR014,
-        "AC1015" => FileFormat.CadR2000,
-        "AC1018" => FileFormat.CadR2004,
-        "AC1021" => FileFormat.CadR2007,
-        "AC1024" => FileFormat.CadR2010,
-        "AC1027" => FileFormat.CadR2013,
-        "AC1032" => FileFormat.CadR2018,
-        _ => FileFormat.Undefined,
-    };
+        CadAcadVersion version = DrawingRelease.Parse(Encoding.ASCII.GetString(data, 0, VersionLength));
+        return version >= CadAcadVersion.AC1012
+            ? DwgLoader.Load(data, name, version, options) : EarlyDwgReader.Read(data, name, options);
+    }
 }

@@ -1,9 +1,11 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A dimension of the angle between two lines; the second line ends at the definition point.</summary>
 [CadObject("DIMENSION", Subclass = "AcDb2LineAngularDimension")]
+[CadBits("base", "2RD ArcPoint", "3BD FirstPoint", "3BD SecondPoint", "3BD ThirdPoint", "3BD DefinitionPoint")]
 public partial class Cad2LineAngularDimension : CadDimensionBase
 {
     /// <summary>Gets or sets the start of the first line, in world coordinates. Group codes 13, 23, 33.</summary>

@@ -1,7 +1,12 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A face with three or four corners in space.</summary>
 [CadObject("3DFACE", Subclass = "AcDbFace")]
+[CadBits(
+    "-1997 3BD FirstPoint", "-1997 3BD SecondPoint", "-1997 3BD ThirdPoint", "-1997 3BD FourthPoint",
+    "-1997 BS InvisibleEdges", "2000+ ExchangeCorners()")]
 public partial class Cad3DFace : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -30,4 +35,17 @@ public partial class Cad3DFace : CadEntityBase
     /// 70.</summary>
     [CadShort(70, Optional = true)]
     public short InvisibleEdges { get; set; }
+
+    // A corner is stored as its difference from the one before.
+    private void ExchangeCorners(BitExchange fields)
+    {
+        bool allVisible = fields.Bit(InvisibleEdges == 0);
+        bool isFlat = fields.Bit(FirstPoint.Z == 0);
+        fields.RawPoint2(FirstPoint);
+        FirstPoint.Z = isFlat ? 0 : fields.RawDouble(FirstPoint.Z);
+        fields.PointAfter(SecondPoint, FirstPoint);
+        fields.PointAfter(ThirdPoint, SecondPoint);
+        fields.PointAfter(FourthPoint, ThirdPoint);
+        InvisibleEdges = allVisible ? (short)0 : (short)fields.BitShort(InvisibleEdges);
+    }
 }

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A dimension along the line between two points.</summary>
 [CadObject("DIMENSION", Subclass = "AcDbAlignedDimension")]
+[CadBits("base", "3BD FirstExtensionPoint", "3BD SecondExtensionPoint", "3BD DefinitionPoint", "BD ObliqueAngle")]
 public partial class CadAlignedDimension : CadDimensionBase
 {
     /// <summary>Gets or sets the start of the first extension line, in world coordinates. Group codes 13, 23,

@@ -1,9 +1,11 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A dimension of the angle between two points as seen from a third.</summary>
 [CadObject("DIMENSION", Subclass = "AcDb3PointAngularDimension")]
+[CadBits("base", "3BD DefinitionPoint", "3BD FirstPoint", "3BD SecondPoint", "3BD ThirdPoint")]
 public partial class CadAngularDimension : CadDimensionBase
 {
     /// <summary>Gets or sets the first point, in world coordinates. Group codes 13, 23, 33.</summary>

@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A circular arc, drawn counterclockwise from its start to its end angle.</summary>
 [CadObject("ARC", Subclass = "AcDbArc")]
+[CadBits("base", "BD StartAngle", "BD EndAngle")]
 public partial class CadArc : CadCircle
 {
     /// <summary>Creates the object with its defaults.</summary>

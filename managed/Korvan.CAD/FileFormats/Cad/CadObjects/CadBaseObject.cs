@@ -84,11 +84,19 @@ public abstract partial class CadBaseObject : IKeyedObject
     /// <summary>Gets whether files have the fields in the order of their declaration.</summary>
     internal virtual bool HasOrderedFields => false;
 
+    /// <summary>Gets whether the class states its fields in drawing databases.</summary>
+    internal virtual bool HasBits => false;
+
     /// <summary>Carries the marker of a subclass.</summary>
     internal virtual void BeginSubclass(ObjectExchange fields, string subclass) => fields.BeginSubclass(subclass);
 
     /// <summary>Carries the fields in the order of their declaration.</summary>
     internal virtual void Exchange(ObjectExchange fields)
+    {
+    }
+
+    /// <summary>Carries the fields as drawing databases pack them.</summary>
+    internal virtual void ExchangeBits(BitExchange fields)
     {
     }
 }

@@ -1,9 +1,11 @@
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A block: entities under a name that are inserted as one.</summary>
 [CadObject("BLOCK", Subclass = "AcDbBlockBegin")]
+[CadBits("T Name")]
 public partial class CadBlockEntity : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -1,7 +1,10 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A circle.</summary>
 [CadObject("CIRCLE", Subclass = "AcDbCircle")]
+[CadBits("3BD CenterPoint", "BD Radius", "BT Thickness", "BE ExtrusionDirection")]
 public partial class CadCircle : CadExtrudedEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>

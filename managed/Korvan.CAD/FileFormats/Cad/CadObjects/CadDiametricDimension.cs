@@ -1,9 +1,11 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A dimension of a diameter.</summary>
 [CadObject("DIMENSION", Subclass = "AcDbDiametricDimension")]
+[CadBits("base", "3BD FarChordPoint", "3BD DefinitionPoint", "BD LeaderLength")]
 public partial class CadDiametricDimension : CadDimensionBase
 {
     /// <summary>Gets or sets the point of the circle opposite to the definition point, in world coordinates. Group

@@ -6,6 +6,11 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>What dimensions have in common.</summary>
 [CadObject("DIMENSION", Subclass = "AcDbDimension")]
+[CadBits(
+    "2010+ RC Version", "3BD ExtrusionDirection", "2RD MiddleOfTextPoint", "ExchangeElevationAndFlags()", "T Text",
+    "BD TextRotation", "BD HorizontalDirection", "BD = 1", "BD = 1", "BD = 1", "BD", "2000+ BS AttachmentPoint",
+    "2000+ BS LineSpacingStyle", "2000+ BD LineSpacingFactor", "2000+ BD StoredMeasurement", "2007+ B", "2007+ B",
+    "2007+ B", "2RD InsertionPoint", "H StyleName", "H BlockName")]
 public abstract partial class CadDimensionBase : CadDimensionBaseR12
 {
     internal CadDimensionBase()
@@ -73,4 +78,17 @@ public abstract partial class CadDimensionBase : CadDimensionBaseR12
     /// <summary>Gets or sets the measurement as it is in the file; 0 for none.</summary>
     [CadDouble(42, Optional = true)]
     internal double StoredMeasurement { get; set; }
+
+    // One elevation for the points of the plane; of the flags, one is stored as its opposite.
+    private void ExchangeElevationAndFlags(BitExchange fields)
+    {
+        const int ownBlock = 32;
+        const int userPosition = 128;
+        double elevation = fields.BitDouble(MiddleOfTextPoint.Z);
+        (MiddleOfTextPoint.Z, InsertionPoint.Z) = (elevation, elevation);
+        int flags = ((TypeOfDimension & userPosition) == 0 ? 1 : 0) | ((TypeOfDimension & ownBlock) != 0 ? 2 : 0);
+        flags = fields.RawByte(flags);
+        TypeOfDimension = (short)((TypeOfDimension & ~(ownBlock | userPosition))
+            | ((flags & 1) == 0 ? userPosition : 0) | ((flags & 2) != 0 ? ownBlock : 0));
+    }
 }

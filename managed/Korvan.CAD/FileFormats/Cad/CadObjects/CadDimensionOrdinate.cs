@@ -1,9 +1,11 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A dimension of a coordinate.</summary>
 [CadObject("DIMENSION", Subclass = "AcDbOrdinateDimension")]
+[CadBits("base", "3BD DefinitionPoint", "3BD FeaturePoint", "3BD LeaderEndPoint", "ExchangeAxis()")]
 public partial class CadDimensionOrdinate : CadDimensionBase
 {
     /// <summary>Gets or sets the point whose coordinate is shown, in world coordinates. Group codes 13, 23,
@@ -19,5 +21,12 @@ public partial class CadDimensionOrdinate : CadDimensionBase
     public CadDimensionOrdinate()
     {
         TypeOfDimension = (short)CadDimensionType.Ordinate;
+    }
+
+    private void ExchangeAxis(BitExchange fields)
+    {
+        const int alongX = 64;
+        bool isAlongX = (fields.RawByte((TypeOfDimension & alongX) != 0 ? 1 : 0) & 1) != 0;
+        TypeOfDimension = (short)((TypeOfDimension & ~alongX) | (isAlongX ? alongX : 0));
     }
 }

@@ -1,7 +1,11 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>An ellipse or elliptic arc.</summary>
 [CadObject("ELLIPSE", Subclass = "AcDbEllipse")]
+[CadBits(
+    "3BD CenterPoint", "3BD MajorEndPoint", "3BD ExtrusionDirection", "BD AxisRatio", "BD StartAngle", "BD EndAngle")]
 public partial class CadEllipse : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A group of entities.</summary>
 [CadObject("GROUP", Subclass = "AcDbGroup")]
+[CadBits("T Description", "BS Unnamed", "BS Selectable", "H[BL] EntityHandles")]
 public partial class CadGroup : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -9,6 +9,10 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>An insertion of a block, or a grid of insertions.</summary>
 [CadObject("INSERT", Subclass = "AcDbBlockReference")]
+[CadBits(
+    "3BD InsertionPoint", "ExchangeScale()", "BD RotationAngle", "3BD ExtrusionDirection", "H Name",
+    "ExchangeAttributes()", "if HasGrid: BS ColumnCount", "if HasGrid: BS RowCount", "if HasGrid: BD ColumnSpacing",
+    "if HasGrid: BD RowSpacing")]
 public partial class CadInsertObject : CadBlockNameEntity
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -105,6 +109,39 @@ public partial class CadInsertObject : CadBlockNameEntity
         if (fields.Includes(0, Attributes.Count > 0 || Seqend is not null))
         {
             fields.Bool(66, true);
+        }
+    }
+
+    /// <summary>Gets or sets whether the reference has columns and rows in drawing databases, which have a type of its
+    /// own for those.</summary>
+    internal bool HasGrid { get; set; }
+
+    private void ExchangeScale(BitExchange fields)
+    {
+        const int allOne = 3;
+        const int allSame = 2;
+        const int firstIsOne = 1;
+        int kind = fields.Release < 2000 ? 0 : fields.BitPair(
+            ScaleX != ScaleY || ScaleX != ScaleZ ? (ScaleX == 1 ? firstIsOne : 0) : ScaleX == 1 ? allOne : allSame);
+        if (fields.Release < 2000)
+        {
+            ScaleX = fields.BitDouble(ScaleX);
+            ScaleY = fields.BitDouble(ScaleY);
+            ScaleZ = fields.BitDouble(ScaleZ);
+            return;
+        }
+
+        ScaleX = kind is allOne or firstIsOne ? 1 : fields.RawDouble(ScaleX);
+        ScaleY = kind is allOne or allSame ? ScaleX : fields.DoubleAfter(ScaleY, ScaleX);
+        ScaleZ = kind is allOne or allSame ? ScaleX : fields.DoubleAfter(ScaleZ, ScaleX);
+    }
+
+    private void ExchangeAttributes(BitExchange fields)
+    {
+        if (fields.Bit(Attributes.Count > 0))
+        {
+            fields.ChildCount(true);
+            fields.Children(this);
         }
     }
 }

@@ -1,3 +1,4 @@
+using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
@@ -5,8 +6,15 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A layout: the model, or a sheet of paper with views of it.</summary>
 [CadObject("LAYOUT", Subclass = "AcDbLayout")]
+[CadBits(
+    "base", "T LayoutName", "BL TabOrder", "BS ControlFlags", "3BD UcsOrigin", "2RD MinLimits", "2RD MaxLimits",
+    "3BD InsertionBasePoint", "3BD UcsXAxis", "3BD UcsYAxis", "BD Elevation", "BS UcsOrthographicType",
+    "3BD MinExtents", "3BD MaxExtents", "2004+ ExchangeViewportCount()", "H BlockTableRecordHandle",
+    "H LastActiveViewportHandle", "H", "H", "2004+ ExchangeViewports()")]
 public partial class CadLayout : CadPlotSettings
 {
+    private readonly List<string> _viewports = [];
+
     /// <summary>Creates the object with its defaults.</summary>
     public CadLayout()
     {
@@ -76,4 +84,17 @@ public partial class CadLayout : CadPlotSettings
     /// 331.</summary>
     [CadHandle(331, Optional = true)]
     public string LastActiveViewportHandle { get; set; } = "";
+
+    // The references to the viewports follow from the entities of the layout.
+    private void ExchangeViewportCount(BitExchange fields)
+    {
+        _viewports.Clear();
+        for (int count = fields.CountLong(0); count > 0; count--)
+        {
+            _viewports.Add("0");
+        }
+    }
+
+    private void ExchangeViewports(BitExchange fields) =>
+        _viewports.ForEach(viewport => fields.Handle(HandleRole.SoftPointer, viewport));
 }

@@ -6,6 +6,11 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A line with an arrowhead that leads to an annotation.</summary>
 [CadObject("LEADER", Subclass = "AcDbLeader")]
+[CadBits(
+    "B", "BS AnnotationType", "BS PathType", "3BD[BL] Coordinates", "ExchangePlane()", "-1997 BD", "BD TextHeight",
+    "BD TextWidth", "B HookLineDirection", "B ArrowheadFlag", "-1997 BS", "-1997 BD", "-1997 B", "-1997 B",
+    "-1997 BS", "-1997 BS ColorToUse", "-1997 B", "-1997 B", "2000+ BS", "2000+ B", "2000+ B", "H AnnotationHandle",
+    "H DimensionStyleName")]
 public partial class CadLeader : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -77,4 +82,16 @@ public partial class CadLeader : CadEntityBase
     /// 233.</summary>
     [Cad3DPoint(213, Optional = true)]
     public Cad3DPoint LastVertexOffsetFromAnnotation { get; set; } = new();
+
+    private void ExchangePlane(BitExchange fields)
+    {
+        fields.Point3(Coordinates.Count > 0 ? new Cad3DPoint(Coordinates[0].X, Coordinates[0].Y, Coordinates[0].Z) : new());
+        fields.Point3(ExtrusionDirection);
+        fields.Point3(HorizontalDirection);
+        fields.Point3(LastVertexOffsetFromBlock);
+        if (fields.Release >= 1997)
+        {
+            fields.Point3(LastVertexOffsetFromAnnotation);
+        }
+    }
 }

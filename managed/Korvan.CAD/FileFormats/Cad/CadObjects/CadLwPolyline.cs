@@ -7,8 +7,13 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A flat polyline with widths and arcs.</summary>
 [CadObject("LWPOLYLINE", Subclass = "AcDbPolyline", HandWritten = true)]
+[CadBits("ExchangePolyline()")]
 public partial class CadLwPolyline : CadExtrudedEntityBase
 {
+    // The flags as drawing databases have them.
+    private const int PackedClosed = 512;
+    private const int PackedGeneration = 256;
+
     /// <summary>Creates the object with its defaults.</summary>
     public CadLwPolyline()
     {
@@ -133,5 +138,88 @@ public partial class CadLwPolyline : CadExtrudedEntityBase
         }
 
         values.Add(value);
+    }
+
+    // What is at its default is left out, as flags say.
+    private void ExchangePolyline(BitExchange fields)
+    {
+        const int hasExtrusion = 1;
+        const int hasThickness = 2;
+        const int hasWidth = 4;
+        const int hasElevation = 8;
+        const int hasBulges = 16;
+        const int hasWidths = 32;
+        const int hasIdentifiers = 1024;
+        int flags = fields.BitShort(PackFlags());
+        ConstantWidth = (flags & hasWidth) != 0 ? fields.BitDouble(ConstantWidth) : 0;
+        Elevation = (flags & hasElevation) != 0 ? fields.BitDouble(Elevation) : 0;
+        Thickness = (flags & hasThickness) != 0 ? fields.BitDouble(Thickness) : 0;
+        if ((flags & hasExtrusion) != 0)
+        {
+            fields.Point3(ExtrusionDirection);
+        }
+
+        int points = fields.CountLong(Coordinates.Count);
+        int bulges = (flags & hasBulges) != 0 ? fields.CountLong(Bulges.Count) : 0;
+        int identifiers = (flags & hasIdentifiers) != 0 ? fields.CountLong(0) : 0;
+        int widths = (flags & hasWidths) != 0 ? fields.CountLong(points) : 0;
+        ExchangePoints(fields, points);
+        fields.Doubles(Bulges, bulges);
+        for (int i = 0; i < identifiers; i++)
+        {
+            fields.BitLong(0);
+        }
+
+        ExchangeWidths(fields, widths);
+        TakeFlags(fields, flags);
+    }
+
+    private int PackFlags() => (ExtrusionDirection.Is(0, 0, 1) ? 0 : 1) | (Thickness != 0 ? 2 : 0)
+        | (ConstantWidth != 0 ? 4 : 0) | (Elevation != 0 ? 8 : 0) | (Bulges.Count > 0 ? 16 : 0)
+        | (StartWidths.Count > 0 || EndWidths.Count > 0 ? 32 : 0) | (IsClosed ? PackedClosed : 0)
+        | ((Flag & CadLwPolylineFlag.Plinegen) != 0 ? PackedGeneration : 0);
+
+    private void TakeFlags(BitExchange fields, int flags)
+    {
+        if (fields.IsReading)
+        {
+            Flag = ((flags & PackedClosed) != 0 ? CadLwPolylineFlag.Closed : 0)
+                | ((flags & PackedGeneration) != 0 ? CadLwPolylineFlag.Plinegen : 0);
+        }
+    }
+
+    private void ExchangePoints(BitExchange fields, int count)
+    {
+        for (int i = 0; i < count; i++)
+        {
+            Cad2DPoint point = fields.Item(Coordinates, i);
+            if (i == 0 || fields.Release < 2000)
+            {
+                fields.RawPoint2(point);
+            }
+            else
+            {
+                fields.PointAfter(point, Coordinates[i - 1]);
+            }
+        }
+    }
+
+    private void ExchangeWidths(BitExchange fields, int count)
+    {
+        if (fields.IsReading)
+        {
+            fields.Resize(StartWidths, count);
+            fields.Resize(EndWidths, count);
+        }
+
+        for (int i = 0; i < count; i++)
+        {
+            double start = fields.BitDouble(StartWidthAt(i));
+            double end = fields.BitDouble(EndWidthAt(i));
+            if (fields.IsReading)
+            {
+                (StartWidths[i], EndWidths[i]) = (start, end);
+            }
+        }
     }
 }

@@ -6,6 +6,11 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A text of several lines with formatting codes.</summary>
 [CadObject("MTEXT", Subclass = "AcDbMText")]
+[CadBits(
+    "3BD InsertionPoint", "3BD ExtrusionDirection", "3BD TextDirection", "BD ReferenceRectangleWidth",
+    "2007+ BD ReferenceRectangleHeight", "BD InitialTextHeight", "BS AttachmentPoint", "BS DrawingDirection", "BD",
+    "BD", "T Text", "H TextStyleName", "2000+ BS LineSpacingStyle", "2000+ BD LineSpacingFactor", "2000+ B",
+    "2004+ BL BackgroundFillSetting", "2004+ ExchangeBackground()", "2018+ ExchangeColumns()")]
 public partial class CadMText : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -104,4 +109,54 @@ public partial class CadMText : CadEntityBase
     }
 
     partial void OnExchange(ObjectExchange fields) => Text = fields.LongText(3, 1, Text);
+
+    private void ExchangeBackground(BitExchange fields)
+    {
+        const int fill = 1;
+        const int frame = 16;
+        int setting = (int)BackgroundFillSetting;
+        if ((setting & fill) != 0 || (fields.Release >= 2018 && (setting & frame) != 0))
+        {
+            FillBoxScale = fields.BitDouble(FillBoxScale);
+            (int index, BackgroundColor, _) = fields.Color(BackgroundColorId, BackgroundColor, "");
+            BackgroundColorId = (short)index;
+            fields.BitLong(0);
+        }
+    }
+
+    // The columns are not kept, and not the fields again that precede them.
+    private void ExchangeColumns(BitExchange fields)
+    {
+        const int dynamicColumns = 2;
+        if (fields.Bit(true))
+        {
+            return;
+        }
+
+        fields.BitShort(0);
+        fields.Bit(false);
+        fields.Handle(HandleRole.HardPointer, 0);
+        fields.BitLong((int)AttachmentPoint);
+        fields.Point3(new Cad3DPoint());
+        fields.Point3(new Cad3DPoint());
+        fields.BitDouble(ReferenceRectangleWidth);
+        fields.BitDouble(ReferenceRectangleHeight);
+        fields.BitDouble(0);
+        fields.BitDouble(0);
+        int kind = fields.BitShort(0);
+        if (kind == 0)
+        {
+            return;
+        }
+
+        int heights = fields.CountLong(0);
+        fields.BitDouble(0);
+        fields.BitDouble(0);
+        bool isAutomatic = fields.Bit(false);
+        fields.Bit(false);
+        for (int i = 0; i < heights && !isAutomatic && kind == dynamicColumns; i++)
+        {
+            fields.BitDouble(0);
+        }
+    }
 }

@@ -7,6 +7,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>Parallel lines along common vertices.</summary>
 [CadObject("MLINE", Subclass = "AcDbMline")]
+[CadBits(
+    "BD ScaleFactor", "RC Justification", "3BD StartPoint", "3BD ExtrusionDirection", "BS Flags",
+    "ExchangeVertices()", "H StyleHandle")]
 public partial class CadMultiLine : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -50,4 +53,14 @@ public partial class CadMultiLine : CadEntityBase
     /// <summary>Gets the vertices. The list is live.</summary>
     [CadRepeated(11, Count = 72)]
     public IList<CadMultiLineVectorBlock> Vertices { get; } = new CheckedList<CadMultiLineVectorBlock>("vertices");
+
+    private void ExchangeVertices(BitExchange fields)
+    {
+        ElementCount = (short)fields.CountByte(ElementCount);
+        int count = fields.CountShort(Vertices.Count);
+        for (int i = 0; i < count; i++)
+        {
+            fields.Item(Vertices, i).ExchangeBits(fields, ElementCount);
+        }
+    }
 }

@@ -74,4 +74,28 @@ public partial class CadMultiLineVectorBlock
         List<double> lengths = index < all.Count ? all[index] : [];
         fields.Items(code, lengths, fields.Count(countCode, lengths.Count));
     }
+
+    /// <summary>Carries the vertex as drawing databases have it.</summary>
+    internal void ExchangeBits(BitExchange fields, int elements)
+    {
+        fields.Point3(Location);
+        fields.Point3(Direction);
+        fields.Point3(Miter);
+        for (int i = 0; i < elements; i++)
+        {
+            ExchangeLengths(fields, ElementParameters, i);
+            ExchangeLengths(fields, FillParameters, i);
+        }
+    }
+
+    private static void ExchangeLengths(BitExchange fields, List<List<double>> all, int index)
+    {
+        if (fields.IsReading)
+        {
+            all.Add([]);
+        }
+
+        List<double> lengths = index < all.Count ? all[index] : [];
+        fields.Doubles(lengths, fields.CountShort(lengths.Count));
+    }
 }

@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>An embedded or linked document of another program.</summary>
 [CadSequence]
 [CadObject("OLE2FRAME", Subclass = "AcDbOle2Frame")]
+[CadBits("BS OleVersion", "2000+ BS TileMode", "ExchangeData()", "2000+ RC")]
 public partial class CadOle2Frame : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -62,4 +63,6 @@ public partial class CadOle2Frame : CadEntityBase
     /// compression, or an enhanced metafile.</summary>
     /// <returns>The image.</returns>
     public CadEmbeddedImage? GetPreview() => OleContent.FindPreview(Data);
+
+    private void ExchangeData(BitExchange fields) => Data = fields.Block(Data);
 }

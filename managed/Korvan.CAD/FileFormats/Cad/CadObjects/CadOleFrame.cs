@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>An embedded document of another program, as drawings up to release 13 have it.</summary>
 [CadSequence]
 [CadObject("OLEFRAME", Subclass = "AcDbOleFrame")]
+[CadBits("BS OleVersion", "2000+ BS", "ExchangeData()")]
 public partial class CadOleFrame : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -37,4 +38,6 @@ public partial class CadOleFrame : CadEntityBase
     /// compression, or an enhanced metafile.</summary>
     /// <returns>The image.</returns>
     public CadEmbeddedImage? GetPreview() => OleContent.FindPreview(Data);
+
+    private void ExchangeData(BitExchange fields) => Data = fields.Block(Data);
 }

@@ -5,6 +5,14 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>How something is plotted.</summary>
 [CadObject("PLOTSETTINGS", Subclass = "AcDbPlotSettings")]
+[CadBits(
+    "T PageSetupName", "T PlotterName", "BS PlotFlags", "BD LeftMargin", "BD BottomMargin", "BD RightMargin",
+    "BD TopMargin", "BD PaperWidth", "BD PaperHeight", "T PaperSize", "BD PlotOriginX", "BD PlotOriginY",
+    "BS PaperUnits", "BS PlotRotation", "BS PlotType", "BD PlotWindowLeft", "BD PlotWindowBottom",
+    "BD PlotWindowRight", "BD PlotWindowTop", "-2000 T PlotViewName", "BD ScaleNumerator", "BD ScaleDenominator",
+    "T CurrentStyleSheet", "BS StandardScale", "BD ScaleFactor", "BD PaperImageOriginX", "BD PaperImageOriginY",
+    "2004+ BS ShadePlotMode", "2004+ BS ShadePlotResolution", "2004+ BS ShadePlotCustomDpi", "2004+ H",
+    "2007+ H ShadePlotHandle")]
 public partial class CadPlotSettings : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A point. How it is drawn is told by $PDMODE and $PDSIZE.</summary>
 [CadObject("POINT", Subclass = "AcDbPoint")]
+[CadBits("3BD CenterPoint", "BT Thickness", "BE ExtrusionDirection", "BD PointAngle")]
 public partial class CadPoint : CadExtrudedEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>

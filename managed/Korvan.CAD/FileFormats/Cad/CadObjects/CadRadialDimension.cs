@@ -1,9 +1,11 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A dimension of a radius; the definition point is the centre.</summary>
 [CadObject("DIMENSION", Subclass = "AcDbRadialDimension")]
+[CadBits("base", "3BD DefinitionPoint", "3BD ChordPoint", "BD LeaderLength")]
 public partial class CadRadialDimension : CadDimensionBase
 {
     /// <summary>Gets or sets a point of the circle, in world coordinates. Group codes 15, 25, 35.</summary>

@@ -4,6 +4,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A symbol of a shape file.</summary>
 [CadObject("SHAPE", Subclass = "AcDbShape")]
+[CadBits(
+    "3BD InsertionPoint", "BD Size", "BD RotationAngle", "BD ScaleX", "BD ObliqueAngle", "BD Thickness",
+    "BS ShapeNumber", "3BD ExtrusionDirection", "H StyleName")]
 public partial class CadShape : CadExtrudedEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -34,4 +37,11 @@ public partial class CadShape : CadExtrudedEntityBase
     /// <summary>Gets or sets the slant, in degrees. Group code 51.</summary>
     [CadAngle(51, Optional = true)]
     public double ObliqueAngle { get; set; }
+
+    /// <summary>Gets or sets the number of the shape in its file, by which drawing databases know it.</summary>
+    internal int ShapeNumber { get; set; }
+
+    /// <summary>Gets or sets the name of the style of its file in drawing databases.</summary>
+    [CadName(0, SymbolTable.Style)]
+    internal string StyleName { get; set; } = "";
 }

@@ -1,8 +1,11 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A filled quadrilateral or triangle. The third and fourth corners are swapped: the boundary runs 1, 2, 4,
 /// 3.</summary>
 [CadObject("SOLID", Subclass = "AcDbTrace")]
+[CadBits("BT Thickness", "ExchangeCorners()", "BE ExtrusionDirection")]
 public partial class CadSolid : CadExtrudedEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -26,4 +29,15 @@ public partial class CadSolid : CadExtrudedEntityBase
     /// 23, 33.</summary>
     [Cad3DPoint(13)]
     public Cad3DPoint FourthPoint { get; set; } = new();
+
+    // One elevation for all corners.
+    private void ExchangeCorners(BitExchange fields)
+    {
+        double elevation = fields.BitDouble(FirstPoint.Z);
+        foreach (Cad3DPoint corner in (Cad3DPoint[])[FirstPoint, SecondPoint, ThirdPoint, FourthPoint])
+        {
+            fields.RawPoint2(corner);
+            corner.Z = elevation;
+        }
+    }
 }

@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A rational or plain B-spline curve.</summary>
 [CadObject("SPLINE", Subclass = "AcDbSpline", HandWritten = true)]
+[CadBits("ExchangeSpline()")]
 public partial class CadSpline : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -129,5 +130,70 @@ public partial class CadSpline : CadEntityBase
         {
             fields.Point(13, EndTangent);
         }
+    }
+
+    private void ExchangeSpline(BitExchange fields)
+    {
+        const int controlPoints = 1;
+        const int onlyFitPoints = 2;
+        const int closedSince2013 = 4;
+        const int customKnots = 15;
+        bool isFit = ControlPoints.Count == 0 && FitPoints.Count > 0;
+        int scenario = fields.BitLong(isFit ? onlyFitPoints : controlPoints);
+        if (fields.Release >= 2013)
+        {
+            int flags = fields.BitLong(isFit ? 1 | (IsClosed ? closedSince2013 : 0) : 0);
+            int knots = fields.BitLong(isFit ? 0 : customKnots);
+            scenario = fields.IsReading && (flags & 1) != 0 && knots != customKnots ? onlyFitPoints : scenario;
+        }
+
+        Degree = (short)fields.BitLong(Degree);
+        if (scenario == onlyFitPoints)
+        {
+            ExchangeFitPoints(fields);
+        }
+        else
+        {
+            ExchangeControlPoints(fields);
+        }
+    }
+
+    private void ExchangeFitPoints(BitExchange fields)
+    {
+        const int planarFromFit = 0x408;
+        FitTolerance = fields.BitDouble(FitTolerance);
+        fields.Point3(StartTangent);
+        fields.Point3(EndTangent);
+        fields.Points3(FitPoints, fields.CountLong(FitPoints.Count));
+        Flag = fields.IsReading ? (short)planarFromFit : Flag;
+    }
+
+    private void ExchangeControlPoints(BitExchange fields)
+    {
+        const int closed = 1;
+        const int periodic = 2;
+        const int rational = 4;
+        const int planar = 8;
+        bool isRational = fields.Bit((Flag & rational) != 0);
+        bool isClosed = fields.Bit((Flag & closed) != 0);
+        bool isPeriodic = fields.Bit((Flag & periodic) != 0);
+        KnotTolerance = fields.BitDouble(KnotTolerance);
+        ControlPointTolerance = fields.BitDouble(ControlPointTolerance);
+        int knots = fields.CountLong(KnotValues.Count);
+        int points = fields.CountLong(ControlPoints.Count);
+        bool hasWeights = fields.Bit(Weights.Count > 0);
+        fields.Doubles(KnotValues, knots);
+        fields.Resize(Weights, hasWeights ? points : 0);
+        for (int i = 0; i < points; i++)
+        {
+            fields.Point3(fields.Item(ControlPoints, i));
+            if (hasWeights)
+            {
+                Weights[i] = fields.BitDouble(Weights[i]);
+            }
+        }
+
+        Flag = fields.IsReading ? (short)(planar | (isRational ? rational : 0) | (isClosed ? closed : 0)
+            | (isPeriodic ? periodic : 0)) : Flag;
     }
 }

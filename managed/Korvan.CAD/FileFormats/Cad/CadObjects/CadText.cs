@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A text in a single line.</summary>
 [CadObject("TEXT", Subclass = "AcDbText")]
+[CadBits("ExchangeText()", "H StyleType")]
 public partial class CadText : CadExtrudedEntityBase
 {
     /// <summary>The group code of the vertical alignment of an attribute, for which that of a text is the field
@@ -99,4 +100,63 @@ public partial class CadText : CadExtrudedEntityBase
             VerticalAlignment = fields.Int16(code, VerticalAlignment);
         }
     }
+
+    private void ExchangeText(BitExchange fields)
+    {
+        if (fields.Release >= 2000)
+        {
+            ExchangeSparseText(fields);
+            return;
+        }
+
+        double elevation = fields.BitDouble(FirstAlignment.Z);
+        fields.RawPoint2(FirstAlignment);
+        fields.RawPoint2(SecondAlignment);
+        fields.Point3(ExtrusionDirection);
+        (FirstAlignment.Z, SecondAlignment.Z) = (elevation, elevation);
+        Thickness = fields.BitDouble(Thickness);
+        ObliqueAngle = fields.Angle(ObliqueAngle);
+        TextRotation = fields.Angle(TextRotation);
+        TextHeight = fields.BitDouble(TextHeight);
+        ScaleX = fields.BitDouble(ScaleX);
+        DefaultValue = fields.Text(DefaultValue);
+        TextGenerationFlags = (short)fields.BitShort(TextGenerationFlags);
+        HorizontalAlignment = (short)fields.BitShort(HorizontalAlignment);
+        VerticalAlignment = (short)fields.BitShort(VerticalAlignment);
+    }
+
+    // A bit for each field that is at its default and left out.
+    private void ExchangeSparseText(BitExchange fields)
+    {
+        int left = fields.RawByte(DefaultFields());
+        double elevation = (left & 1) == 0 ? fields.RawDouble(FirstAlignment.Z) : 0;
+        fields.RawPoint2(FirstAlignment);
+        FirstAlignment.Z = elevation;
+        if ((left & 2) == 0)
+        {
+            SecondAlignment.X = fields.DoubleAfter(SecondAlignment.X, FirstAlignment.X);
+            SecondAlignment.Y = fields.DoubleAfter(SecondAlignment.Y, FirstAlignment.Y);
+            SecondAlignment.Z = elevation;
+        }
+
+        fields.Extrusion(ExtrusionDirection);
+        Thickness = fields.Thickness(Thickness);
+        ObliqueAngle = (left & 4) == 0 ? fields.RawAngle(ObliqueAngle) : 0;
+        TextRotation = (left & 8) == 0 ? fields.RawAngle(TextRotation) : 0;
+        TextHeight = fields.RawDouble(TextHeight);
+        ScaleX = (left & 16) == 0 ? fields.RawDouble(ScaleX) : 1;
+        DefaultValue = fields.Text(DefaultValue);
+        TextGenerationFlags = (left & 32) == 0 ? (short)fields.BitShort(TextGenerationFlags) : (short)0;
+        HorizontalAlignment = (left & 64) == 0 ? (short)fields.BitShort(HorizontalAlignment) : (short)0;
+        VerticalAlignment = (left & 128) == 0 ? (short)fields.BitShort(VerticalAlignment) : (short)0;
+    }
+
+    private int DefaultFields() => (FirstAlignment.Z == 0 ? 1 : 0)
+        | (HorizontalAlignment == 0 && VerticalAlignment == 0 && SecondAlignment.Is(0, 0, 0) ? 2 : 0)
+        | (ObliqueAngle == 0 ? 4 : 0)
+        | (TextRotation == 0 ? 8 : 0)
+        | (ScaleX == 1 ? 16 : 0)
+        | (TextGenerationFlags == 0 ? 32 : 0)
+        | (HorizontalAlignment == 0 ? 64 : 0)
+        | (VerticalAlignment == 0 ? 128 : 0);
 }

@@ -4,6 +4,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A frame with tolerances of form and position.</summary>
 [CadObject("TOLERANCE", Subclass = "AcDbFcf")]
+[CadBits(
+    "-1997 BS", "-1997 BD", "-1997 BD", "3BD InsertionPoint", "3BD DirectionVector", "3BD ExtrusionDirection",
+    "T VisualRepresentation", "H DimensionStyleName")]
 public partial class CadTolerance : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -6,10 +6,22 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// 1, 2, 4, 3.</summary>
 [CadFieldsOf(typeof(CadSolid))]
 [CadObject("TRACE", Subclass = "AcDbTrace")]
+[CadBits("BT Thickness", "ExchangeCorners()", "BE ExtrusionDirection")]
 public partial class CadTrace : CadExtrudedEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
     public CadTrace()
     {
+    }
+
+    // One elevation for all corners.
+    private void ExchangeCorners(BitExchange fields)
+    {
+        double elevation = fields.BitDouble(FirstPoint.Z);
+        foreach (Cad3DPoint corner in (Cad3DPoint[])[FirstPoint, SecondPoint, ThirdPoint, FourthPoint])
+        {
+            fields.RawPoint2(corner);
+            corner.Z = elevation;
+        }
     }
 }

@@ -5,6 +5,16 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A window of a paper sheet that shows the model.</summary>
 [CadObject("VIEWPORT", Subclass = "AcDbViewport")]
+[CadBits(
+    "3BD CenterPoint", "BD Width", "BD Height", "2000+ 3BD ViewTarget", "2000+ 3BD ViewDirection",
+    "2000+ BD ViewTwistAngle", "2000+ BD ViewHeight", "2000+ BD LensLength", "2000+ BD FrontClipPlaneZ",
+    "2000+ BD BackClipPlaneZ", "2000+ BD SnapAngle", "2000+ 2RD ViewCenter", "2000+ 2RD SnapBase",
+    "2000+ 2RD SnapSpacing", "2000+ 2RD GridSpacing", "2000+ BS CircleZoomPercent", "2007+ BS = 5",
+    "2000+ H[BL] FrozenLayers", "2000+ BL StatusFlags", "2000+ T PlotStyleSheet", "2000+ RC RenderMode",
+    "2000+ B UcsIconAtOrigin", "2000+ B UcsPerViewport", "2000+ 3BD UcsOrigin", "2000+ 3BD UcsXAxis",
+    "2000+ 3BD UcsYAxis", "2000+ BD", "2000+ BS", "2004+ BS", "2007+ B = true", "2007+ RC = 1", "2007+ BD",
+    "2007+ BD", "2007+ CMC = 250", "-1997 H", "2000+ H ClippingBoundaryHandle", "2000-2000 H", "2000+ H", "2000+ H",
+    "2007+ H", "2007+ H", "2007+ H", "2007+ H")]
 public partial class CadViewport : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -7,6 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>Any tags that a program keeps in a drawing.</summary>
 [CadObject("XRECORD", Subclass = "AcDbXrecord")]
+[CadBits("ExchangeData()")]
 public partial class CadXRecord : CadObjectBase
 {
     /// <summary>Creates a record without content.</summary>
@@ -31,4 +32,6 @@ public partial class CadXRecord : CadObjectBase
     }
 
     partial void OnExchange(ObjectExchange fields) => fields.Tags(Data);
+
+    private void ExchangeData(BitExchange fields) => fields.TypedTags(Data, 280);
 }

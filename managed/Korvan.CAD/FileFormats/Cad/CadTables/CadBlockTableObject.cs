@@ -5,6 +5,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
 /// <summary>The record of a block: it owns the entities of the block.</summary>
 [CadObject("BLOCK_RECORD", Subclass = "AcDbBlockTableRecord")]
+[CadBits(
+    "ExchangeRecord()", "ExchangeDefinition()", "2007+ BS Units", "2007+ B Explodability", "2007+ RC Scalability",
+    "ExchangeParts()", "2000+ H LayoutHandle")]
 public partial class CadBlockTableObject : CadSymbolTableGroupCodes
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -31,4 +34,15 @@ public partial class CadBlockTableObject : CadSymbolTableGroupCodes
 
     /// <inheritdoc/>
     internal override void ExchangeNameAndFlags(ObjectExchange fields) => ExchangeName(fields);
+
+    /// <summary>Gets or sets what drawing databases have here of the block.</summary>
+    internal BlockDefinition? Definition { get; set; }
+
+    private void ExchangeDefinition(BitExchange fields)
+    {
+        BlockDefinition block = Definition ??= new BlockDefinition();
+        block.ExchangeBits(fields);
+    }
+
+    private void ExchangeParts(BitExchange fields) => Definition!.ExchangeParts(fields, this);
 }

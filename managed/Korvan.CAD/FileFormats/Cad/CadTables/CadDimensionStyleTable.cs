@@ -5,6 +5,33 @@ namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
 /// <summary>A dimension style. Properties are named after the variables.</summary>
 [CadObject("DIMSTYLE", Subclass = "AcDbDimStyleTableRecord")]
+[CadBits(
+    "ExchangeRecord()", "-1997 B Dimtol", "-1997 B Dimlim", "-1997 B Dimtih", "-1997 B Dimtoh", "-1997 B Dimse1",
+    "-1997 B Dimse2", "-1997 B Dimalt", "-1997 B Dimtofl", "-1997 B Dimsah", "-1997 B Dimtix", "-1997 B Dimsoxd",
+    "-1997 RC Dimaltd", "-1997 RC Dimzin", "-1997 B Dimsd1", "-1997 B Dimsd2", "-1997 RC Dimtolj", "-1997 RC Dimjust",
+    "-1997 RC Dimfit", "-1997 B Dimupt", "-1997 RC Dimtzin", "-1997 RC Dimaltz", "-1997 RC Dimalttz",
+    "-1997 RC Dimtad", "-1997 BS Dimunit", "-1997 BS Dimaunit", "-1997 BS Dimdec", "-1997 BS Dimtdec",
+    "-1997 BS Dimaltu", "-1997 BS Dimalttd", "-1997 BD Dimscale", "-1997 BD Dimasz", "-1997 BD Dimexo",
+    "-1997 BD Dimdli", "-1997 BD Dimexe", "-1997 BD Dimrnd", "-1997 BD Dimdle", "-1997 BD Dimtp", "-1997 BD Dimtm",
+    "-1997 BD Dimtxt", "-1997 BD Dimcen", "-1997 BD Dimtsz", "-1997 BD Dimaltf", "-1997 BD Dimlfac",
+    "-1997 BD Dimtvp", "-1997 BD Dimtfac", "-1997 BD Dimgap", "-1997 T Dimpost", "-1997 T Dimapost",
+    "-1997 T DimblkName", "-1997 T Dimblk1Name", "-1997 T Dimblk2Name", "-1997 CMC Dimclrd", "-1997 CMC Dimclre",
+    "-1997 CMC Dimclrt", "2000+ T Dimpost", "2000+ T Dimapost", "2000+ BD Dimscale", "2000+ BD Dimasz",
+    "2000+ BD Dimexo", "2000+ BD Dimdli", "2000+ BD Dimexe", "2000+ BD Dimrnd", "2000+ BD Dimdle", "2000+ BD Dimtp",
+    "2000+ BD Dimtm", "2007+ BD Dimfxl", "2007+ BD Dimjogang", "2007+ BS Dimtfill", "2007+ CMC Dimtfillclr",
+    "2000+ B Dimtol", "2000+ B Dimlim", "2000+ B Dimtih", "2000+ B Dimtoh", "2000+ B Dimse1", "2000+ B Dimse2",
+    "2000+ BS Dimtad", "2000+ BS Dimzin", "2000+ BS Dimazin", "2007+ BS Dimarcsym", "2000+ BD Dimtxt",
+    "2000+ BD Dimcen", "2000+ BD Dimtsz", "2000+ BD Dimaltf", "2000+ BD Dimlfac", "2000+ BD Dimtvp",
+    "2000+ BD Dimtfac", "2000+ BD Dimgap", "2000+ BD Dimaltrnd", "2000+ B Dimalt", "2000+ BS Dimaltd",
+    "2000+ B Dimtofl", "2000+ B Dimsah", "2000+ B Dimtix", "2000+ B Dimsoxd", "2000+ CMC Dimclrd",
+    "2000+ CMC Dimclre", "2000+ CMC Dimclrt", "2000+ BS Dimadec", "2000+ BS Dimdec", "2000+ BS Dimtdec",
+    "2000+ BS Dimaltu", "2000+ BS Dimalttd", "2000+ BS Dimaunit", "2000+ BS Dimfrac", "2000+ BS Dimlunit",
+    "2000+ BS Dimdsep", "2000+ BS Dimtmove", "2000+ BS Dimjust", "2000+ B Dimsd1", "2000+ B Dimsd2",
+    "2000+ BS Dimtolj", "2000+ BS Dimtzin", "2000+ BS Dimaltz", "2000+ BS Dimalttz", "2000+ B Dimupt",
+    "2000+ BS Dimatfit", "2007+ B Dimfxlon", "2010+ B Dimtxtdirection", "2010+ BD = 100", "2010+ T", "2010+ BD = 100",
+    "2010+ T", "2000+ BS Dimlwd", "2000+ BS Dimlwe", "ExchangeFlag()", "H Dimtxsty", "2000+ H Dimldrblk",
+    "2000+ H Dimblk", "2000+ H Dimblk1", "2000+ H Dimblk2", "2007+ H Dimltype", "2007+ H Dimltex1",
+    "2007+ H Dimltex2")]
 public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -376,4 +403,7 @@ public partial class CadDimensionStyleTable : CadSymbolTableGroupCodes
             Dimtfillclr = fields.Color(70, Dimtfillclr);
         }
     }
+
+    private void ExchangeFlag(BitExchange fields) =>
+        Flags = (short)((Flags & ~1) | (fields.Bit((Flags & 1) != 0) ? 1 : 0));
 }

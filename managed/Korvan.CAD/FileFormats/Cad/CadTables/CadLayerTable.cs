@@ -8,9 +8,16 @@ namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
 /// <summary>A layer.</summary>
 [CadObject("LAYER", Subclass = "AcDbLayerTableRecord")]
+[CadBits(
+    "ExchangeRecord()", "ExchangeState()", "ExchangeColor()", "2000+ H PlotStyleHandle", "2007+ H MaterialHandle",
+    "H LineTypeName", "2013+ H")]
 public partial class CadLayerTable : CadSymbolTableGroupCodes
 {
     private const int LastColor = 255;
+    private const int FrozenInNew = 2;
+    private const int OffState = 2;
+    private const int PlottedState = 16;
+    private const int WeightShift = 5;
 
     /// <summary>Creates the object with its defaults.</summary>
     public CadLayerTable()
@@ -109,5 +116,38 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
     {
         get => PlotFlag != 0;
         set => PlotFlag = (short)(value ? 1 : 0);
+    }
+
+    // The kinds that files have since release 2000: frozen, on, frozen in new viewports, locked, plotted, line weight.
+    private void ExchangeState(BitExchange fields)
+    {
+        if (fields.Release < 2000)
+        {
+            bool frozen = fields.Bit(IsFrozen);
+            bool isOn = fields.Bit(IsOn);
+            bool frozenInNew = fields.Bit((Flags & FrozenInNew) != 0);
+            TakeState(frozen, isOn, frozenInNew, fields.Bit(IsLocked));
+            return;
+        }
+
+        int state = (IsFrozen ? 1 : 0) | (IsOn ? 0 : OffState) | ((Flags & FrozenInNew) << 1) | (IsLocked ? 8 : 0)
+            | (IsPlottable ? PlottedState : 0) | (LineWeights.ToNumber(LineWeight) << WeightShift);
+        state = fields.BitShort(state);
+        TakeState((state & 1) != 0, (state & OffState) == 0, (state & 4) != 0, (state & 8) != 0);
+        PlotFlag = (short)((state & PlottedState) != 0 ? 1 : 0);
+        LineWeight = LineWeights.ToLineWeight((state >> WeightShift) & LineWeights.Mask);
+    }
+
+    private void TakeState(bool isFrozen, bool isOn, bool isFrozenInNew, bool isLocked)
+    {
+        Flags = (short)((Flags & ~7) | (isFrozen ? 1 : 0) | (isFrozenInNew ? FrozenInNew : 0) | (isLocked ? 4 : 0));
+        StoredColor = (short)(isOn ? Math.Abs((int)StoredColor) : -Math.Abs((int)StoredColor));
+    }
+
+    private void ExchangeColor(BitExchange fields)
+    {
+        bool isOn = IsOn;
+        (int index, ColorValue, ColorName) = fields.Color(Math.Abs((int)StoredColor), ColorValue, ColorName);
+        StoredColor = (short)(isOn ? index : -index);
     }
 }

@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
 /// <summary>A line type.</summary>
 [CadObject("LTYPE", Subclass = "AcDbLinetypeTableRecord")]
+[CadBits("ExchangeRecord()", "T Description", "BD PatternLength", "RC = 65", "ExchangePattern()")]
 public partial class CadLineTypeTableObject : CadSymbolTableGroupCodes
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -83,6 +84,29 @@ public partial class CadLineTypeTableObject : CadSymbolTableGroupCodes
         if (fields.IsReading)
         {
             tags.ForEach(tag => ComplexTags.Add((element, tag)));
+        }
+    }
+
+    // The strings of all elements are in one area of bytes, in which an element states its place.
+    private void ExchangePattern(BitExchange fields)
+    {
+        List<LineTypeElement> elements = LineTypeElement.From(Pattern, ComplexTags);
+        int count = fields.CountByte(elements.Count);
+        byte[] area = LineTypeElement.PackStrings(elements, fields.Release >= 2007);
+        for (int i = 0; i < count; i++)
+        {
+            fields.Item(elements, i).ExchangeBits(fields);
+        }
+
+        if (fields.Release < 2007 || elements.Exists(static element => element.IsText))
+        {
+            area = fields.Bytes(area, fields.Release < 2007 ? 256 : 512);
+        }
+
+        elements.ForEach(element => element.ExchangeStyle(fields));
+        if (fields.IsReading)
+        {
+            elements.ForEach(element => element.AddTo(Pattern, ComplexTags, area, fields.Release >= 2007));
         }
     }
 }

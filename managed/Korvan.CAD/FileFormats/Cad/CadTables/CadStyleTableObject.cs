@@ -6,6 +6,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
 /// <summary>A text style.</summary>
 [CadObject("STYLE", Subclass = "AcDbTextStyleTableRecord")]
+[CadBits(
+    "ExchangeRecord()", "ExchangeKind()", "BD TextHeight", "BD WidthFactor", "BD ObliqueAngle",
+    "RC TextGenerationFlag", "BD LastHeight", "T PrimaryFontName", "T BigFontName")]
 public partial class CadStyleTableObject : CadSymbolTableGroupCodes
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -62,5 +65,14 @@ public partial class CadStyleTableObject : CadSymbolTableGroupCodes
             xdata.Data.Add(new CadCodeValue(1000, value));
             xdata.Data.Add(new CadCodeValue(1071, "0"));
         }
+    }
+
+    private void ExchangeKind(BitExchange fields)
+    {
+        const int shapes = 1;
+        const int vertical = 4;
+        bool isShapeFile = fields.Bit((Flags & shapes) != 0);
+        bool isVertical = fields.Bit((Flags & vertical) != 0);
+        Flags = (short)((Flags & ~(shapes | vertical)) | (isShapeFile ? shapes : 0) | (isVertical ? vertical : 0));
     }
 }

@@ -8,6 +8,10 @@ namespace Korvan.CAD.FileFormats.Cad.CadTables;
 /// <summary>A record of a symbol table: something with a name that entities refer to.</summary>
 public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
 {
+    private const int DependentFlag = 16;
+    private const int DependentFlags = 48;
+    private const int ResolvedReference = 256;
+
     private string _name = "";
 
     internal CadSymbolTableGroupCodes()
@@ -39,6 +43,10 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
     public override string ToString() => $"{DxfName} {Name}";
 
     /// <summary>Takes a name over as it is in the file.</summary>
+    /// <summary>Gets or sets the block record of the external reference that the record comes from; 0 for
+    /// none.</summary>
+    internal ulong ExternalReference { get; set; }
+
     internal void StoreName(string name) => _name = name;
 
     /// <summary>Refuses a name that such a record cannot have; files are read whatever names are in them.</summary>
@@ -76,4 +84,24 @@ public abstract partial class CadSymbolTableGroupCodes : CadOwnedObjectBase
     }
 
     private protected void ExchangeName(ObjectExchange fields) => _name = fields.Text(2, _name);
+
+    /// <summary>Carries what the records of all tables begin with in drawing databases.</summary>
+    private protected void ExchangeRecord(BitExchange fields)
+    {
+        _name = fields.Text(_name);
+        bool isDependent = (Flags & DependentFlag) != 0;
+        if (fields.Release < 2007)
+        {
+            fields.Bit(true);
+            fields.BitShort(isDependent ? ResolvedReference : 0);
+            isDependent = fields.Bit(isDependent);
+        }
+        else
+        {
+            isDependent = fields.BitShort(isDependent ? ResolvedReference : 0) == ResolvedReference;
+        }
+
+        Flags = (short)((Flags & ~DependentFlags) | (isDependent ? DependentFlags : 0));
+        ExternalReference = fields.Handle(HandleRole.HardPointer, ExternalReference);
+    }
 }

@@ -5,6 +5,14 @@ namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
 /// <summary>A part of the screen with a view of the model.</summary>
 [CadObject("VPORT", Subclass = "AcDbViewportTableRecord")]
+[CadBits(
+    "ExchangeRecord()", "BD ViewHeight", "ExchangeWidth()", "2RD ViewCenter", "3BD ViewTarget", "3BD ViewDirection",
+    "BD ViewTwistAngle", "BD LensLength", "BD FrontClippingPlane", "BD BackClippingPlane", "ExchangeMode()",
+    "2000+ RC", "2007+ B = true", "2007+ RC = 1", "2007+ BD", "2007+ BD", "2007+ CMC = 250", "2RD LowerLeft",
+    "2RD UpperRight", "ExchangeFollow()", "BS CircleSides", "B = true", "B = true", "B = true", "B",
+    "2RD GridSpacing", "B", "B", "BS", "BD SnapRotationAngle", "2RD SnapBasePoint", "2RD SnapSpacing", "2000+ B",
+    "2000+ B = true", "2000+ ExchangeUcs()", "2007+ BS = 3", "2007+ BS = 5", "2007+ H", "2007+ H", "2007+ H",
+    "2000+ H", "2000+ H")]
 public partial class CadVportTableObject : CadSymbolTableGroupCodes
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -80,4 +88,35 @@ public partial class CadVportTableObject : CadSymbolTableGroupCodes
     /// <summary>Gets or sets how finely circles are drawn. Group code 72.</summary>
     [CadShort(72)]
     public short CircleSides { get; set; } = 1000;
+
+    // The bit of perspective and so on; front clipping at the eye is stored as its opposite.
+    private void ExchangeMode(BitExchange fields)
+    {
+        int mode = ViewMode & 8;
+        mode |= fields.Bit((ViewMode & 1) != 0) ? 1 : 0;
+        mode |= fields.Bit((ViewMode & 2) != 0) ? 2 : 0;
+        mode |= fields.Bit((ViewMode & 4) != 0) ? 4 : 0;
+        mode |= fields.Bit((ViewMode & 16) == 0) ? 0 : 16;
+        ViewMode = (short)mode;
+    }
+
+    // Files have the width of the view, and not its ratio to the height.
+    private void ExchangeWidth(BitExchange fields)
+    {
+        double width = fields.BitDouble(ViewHeight * ViewAspectRatio);
+        ViewAspectRatio = ViewHeight == 0 ? ViewAspectRatio : width / ViewHeight;
+    }
+
+    private void ExchangeFollow(BitExchange fields) =>
+        ViewMode = (short)((ViewMode & ~8) | (fields.Bit((ViewMode & 8) != 0) ? 8 : 0));
+
+    // The coordinate system of the viewport is not kept.
+    private static void ExchangeUcs(BitExchange fields)
+    {
+        fields.Point3(new Cad3DPoint());
+        fields.Point3(new Cad3DPoint(1, 0, 0));
+        fields.Point3(new Cad3DPoint(0, 1, 0));
+        fields.BitDouble(0);
+        fields.BitShort(0);
+    }
 }

@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
 
 /// <summary>Objects by names.</summary>
 [CadObject("DICTIONARY", Subclass = "AcDbDictionary")]
+[CadBits("ExchangeEntries()")]
 public partial class CadDictionary : CadDictionaryBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -20,4 +21,6 @@ public partial class CadDictionary : CadDictionaryBase
     {
         ExchangeEntries(fields);
     }
+
+    private void ExchangeEntries(BitExchange fields) => ExchangeEntryBits(fields);
 }

@@ -162,6 +162,36 @@ public abstract partial class CadDictionaryBase : CadObjectBase, ICadObjectConta
         }
     }
 
+    /// <summary>Carries the entries as drawing databases have them: names, and apart from them references.</summary>
+    private protected void ExchangeEntryBits(BitExchange fields)
+    {
+        int count = fields.CountLong(_names.Count);
+        if (fields.Release == 1997)
+        {
+            fields.RawByte(0);
+        }
+
+        if (fields.Release >= 2000)
+        {
+            DuplicateRecordCloning = (short)fields.BitShort(DuplicateRecordCloning);
+            HardOwnerFlag = (short)fields.RawByte(HardOwnerFlag);
+        }
+
+        HandleRole role = HandleCode == HardOwnerCode ? HandleRole.HardOwner : HandleRole.SoftOwner;
+        for (int i = 0; i < count; i++)
+        {
+            string name = fields.Text(i < _names.Count ? _names[i] : "");
+            ulong handle = fields.Handle(role, i < _handles.Count ? _handles[i] : 0);
+            if (fields.IsReading)
+            {
+                _names.Add(name);
+                _handles.Add(handle);
+            }
+        }
+
+        HandleCode = fields.IsReading && HardOwnerFlag != 0 ? HardOwnerCode : HandleCode;
+    }
+
     private int IndexOf(string name)
     {
         return _names.FindIndex(known => string.Equals(known, name, System.StringComparison.OrdinalIgnoreCase));

@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
 
 /// <summary>Objects by names, and one for all other names.</summary>
 [CadObject("ACDBDICTIONARYWDFLT", Subclass = "AcDbDictionaryWithDefault")]
+[CadBits("base", "H DefaultHandle")]
 public partial class CadDictionaryWithDefault : CadDictionary
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -66,4 +66,14 @@ public class CadBoundaryPathCircularArc : ICadBoundaryPathEntity
         EndAngle = fields.Angle(51, EndAngle);
         CounterClockwise = fields.Bool(73, CounterClockwise);
     }
+
+    /// <inheritdoc/>
+    void ICadBoundaryPathEntity.ExchangeBits(BitExchange fields)
+    {
+        fields.RawPoint2(CenterPoint);
+        Radius = fields.BitDouble(Radius);
+        StartAngle = fields.Angle(StartAngle);
+        EndAngle = fields.Angle(EndAngle);
+        CounterClockwise = fields.Bit(CounterClockwise);
+    }
 }

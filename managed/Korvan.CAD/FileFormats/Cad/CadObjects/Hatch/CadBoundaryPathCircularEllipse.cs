@@ -76,4 +76,15 @@ public class CadBoundaryPathCircularEllipse : ICadBoundaryPathEntity
         EndAngle = fields.Angle(51, EndAngle);
         CounterClockwise = fields.Bool(73, CounterClockwise);
     }
+
+    /// <inheritdoc/>
+    void ICadBoundaryPathEntity.ExchangeBits(BitExchange fields)
+    {
+        fields.RawPoint2(CenterPoint);
+        fields.RawPoint2(MajorEndPoint);
+        AxisRatio = fields.BitDouble(AxisRatio);
+        StartAngle = fields.Angle(StartAngle);
+        EndAngle = fields.Angle(EndAngle);
+        CounterClockwise = fields.Bit(CounterClockwise);
+    }
 }

@@ -46,4 +46,11 @@ public class CadBoundaryPathLine : ICadBoundaryPathEntity
         fields.Point(10, FirstPoint);
         fields.Point(11, SecondPoint);
     }
+
+    /// <inheritdoc/>
+    void ICadBoundaryPathEntity.ExchangeBits(BitExchange fields)
+    {
+        fields.RawPoint2(FirstPoint);
+        fields.RawPoint2(SecondPoint);
+    }
 }

@@ -134,4 +134,49 @@ public class CadBoundaryPathSpline : ICadBoundaryPathEntity
             fields.Point(13, EndTangent);
         }
     }
+
+    /// <inheritdoc/>
+    void ICadBoundaryPathEntity.ExchangeBits(BitExchange fields)
+    {
+        Degree = fields.BitLong(Degree);
+        Rational = fields.Bit(Rational);
+        Periodic = fields.Bit(Periodic);
+        int knots = fields.CountLong(KnotValues.Count);
+        int points = fields.CountLong(ControlPoints.Count);
+        fields.Doubles(KnotValues, knots);
+        fields.Resize(Weights, Rational ? points : 0);
+        for (int i = 0; i < points; i++)
+        {
+            fields.RawPoint2(fields.Item(ControlPoints, i));
+            if (Rational)
+            {
+                double weight = fields.BitDouble(i < Weights.Count ? Weights[i] : 1);
+                if (fields.IsReading)
+                {
+                    Weights[i] = weight;
+                }
+            }
+        }
+
+        if (fields.Release >= 2010)
+        {
+            ExchangeFitBits(fields);
+        }
+    }
+
+    private void ExchangeFitBits(BitExchange fields)
+    {
+        int count = fields.CountLong(FitPoints.Count);
+        for (int i = 0; i < count; i++)
+        {
+            fields.RawPoint2(fields.Item(FitPoints, i));
+        }
+
+        if (count > 0)
+        {
+            _hasTangents |= fields.IsReading;
+            fields.RawPoint2(StartTangent);
+            fields.RawPoint2(EndTangent);
+        }
+    }
 }

@@ -59,4 +59,20 @@ public class CadEdgeBoundaryPath : ICadBoundaryPath
 
     private static string BadKind(int kind) =>
         $"Group code 72 has the value {kind}; the type of a hatch edge is 1 to 4";
+
+    /// <inheritdoc/>
+    void ICadBoundaryPath.ExchangeBits(BitExchange fields)
+    {
+        int count = fields.CountLong(Edges.Count);
+        for (int i = 0; i < count; i++)
+        {
+            int kind = fields.RawByte(i < Edges.Count ? (int)Edges[i].EdgeType : 0);
+            if (fields.IsReading)
+            {
+                Edges.Add(Create(kind) ?? throw fields.Fault($"the type of a hatch edge is {kind}; 1 to 4 is expected"));
+            }
+
+            Edges[i].ExchangeBits(fields);
+        }
+    }
 }

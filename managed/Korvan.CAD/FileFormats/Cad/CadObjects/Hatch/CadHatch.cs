@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 
 /// <summary>An area filled with a colour, a pattern or a gradient.</summary>
 [CadObject("HATCH", Subclass = "AcDbHatch", HandWritten = true)]
+[CadBits("ExchangeHatch()")]
 public partial class CadHatch : CadEntityBase
 {
     /// <summary>Creates a solid fill without boundaries.</summary>
@@ -141,4 +142,6 @@ public partial class CadHatch : CadEntityBase
     }
 
     partial void OnExchange(ObjectExchange fields) => HatchFields.Exchange(this, fields);
+
+    private void ExchangeHatch(BitExchange fields) => HatchBits.Exchange(this, fields);
 }

@@ -63,4 +63,25 @@ public class CadPolylineBoundaryPath : ICadBoundaryPath
             }
         }
     }
+
+    /// <inheritdoc/>
+    void ICadBoundaryPath.ExchangeBits(BitExchange fields)
+    {
+        bool hasBulges = fields.Bit(Bulges.Count > 0);
+        IsClosed = fields.Bit(IsClosed);
+        int count = fields.CountLong(Vertices.Count);
+        fields.Resize(Bulges, hasBulges ? count : 0);
+        for (int i = 0; i < count; i++)
+        {
+            fields.RawPoint2(fields.Item(Vertices, i));
+            if (hasBulges)
+            {
+                double bulge = fields.BitDouble(i < Bulges.Count ? Bulges[i] : 0);
+                if (fields.IsReading)
+                {
+                    Bulges[i] = bulge;
+                }
+            }
+        }
+    }
 }

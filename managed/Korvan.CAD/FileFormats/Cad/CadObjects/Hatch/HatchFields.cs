@@ -87,7 +87,7 @@ internal static class HatchFields
         }
     }
 
-    private static CadHatchBoundaryPathContainer CreatePath(CadBoundaryPathTypeFlag flag)
+    internal static CadHatchBoundaryPathContainer CreatePath(CadBoundaryPathTypeFlag flag)
     {
         ICadBoundaryPath path = (flag & CadBoundaryPathTypeFlag.Polyline) != 0
             ? new CadPolylineBoundaryPath()

@@ -8,4 +8,7 @@ public interface ICadBoundaryPath
     internal bool ReadField(int code, FieldReader reader);
 
     internal void Exchange(ObjectExchange fields);
+
+    /// <summary>Carries the fields as drawing databases have them.</summary>
+    internal void ExchangeBits(BitExchange fields);
 }

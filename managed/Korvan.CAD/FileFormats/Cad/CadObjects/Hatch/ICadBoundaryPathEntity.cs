@@ -12,4 +12,7 @@ public interface ICadBoundaryPathEntity
     internal bool ReadField(int code, FieldReader reader);
 
     internal void Exchange(ObjectExchange fields);
+
+    /// <summary>Carries the fields as drawing databases have them.</summary>
+    internal void ExchangeBits(BitExchange fields);
 }

@@ -3,6 +3,7 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 
 /// <summary>A line of a multiline style.</summary>
+[CadBits("BD Offset", "CMC ColorId ColorValue", "-2013 ExchangeLineType()", "2018+ H LineTypeName")]
 public partial class CadMLineStyleElement
 {
     /// <summary>Creates a line in the middle.</summary>
@@ -25,4 +26,6 @@ public partial class CadMLineStyleElement
     /// <summary>Gets or sets the name of the line type. Group code 6.</summary>
     [CadName(6, SymbolTable.LineType)]
     public string LineTypeName { get; set; } = "BYLAYER";
+
+    private void ExchangeLineType(BitExchange fields) => LineTypeName = fields.LineTypeByIndex(LineTypeName);
 }

@@ -6,6 +6,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 
 /// <summary>A style of multilines.</summary>
 [CadObject("MLINESTYLE", Subclass = "AcDbMlineStyle")]
+[CadBits(
+    "T StyleName", "T Description", "ExchangeFlags()", "CMC FillColorId", "BD StartAngle", "BD EndAngle",
+    "Part[RC] Elements")]
 public partial class CadMLineStyleObject : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -41,4 +44,14 @@ public partial class CadMLineStyleObject : CadObjectBase
     /// <summary>Gets the lines of the style. The list is live.</summary>
     [CadRepeated(49, Count = 71)]
     public IList<CadMLineStyleElement> Elements { get; } = new CheckedList<CadMLineStyleElement>("elements");
+
+    // Pairs of flags have changed places.
+    private void ExchangeFlags(BitExchange fields)
+    {
+        int flags = fields.BitShort(Swap(Flags));
+        Flags = (short)Swap(flags);
+    }
+
+    private static int Swap(int flags) => (flags & ~0x663) | ((flags & 1) << 1) | ((flags & 2) >> 1)
+        | ((flags & 0x20) << 1) | ((flags & 0x40) >> 1) | ((flags & 0x200) << 1) | ((flags & 0x400) >> 1);
 }

@@ -1,10 +1,12 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 
 /// <summary>A mesh of vertices and of faces between them.</summary>
 [CadObject("POLYLINE", Subclass = "AcDbPolyFaceMesh")]
+[CadBits("BS MeshMVertexCount", "BS MeshNVertexCount", "ExchangeVertices()")]
 public partial class CadPolyFaceMesh : CadPolylineBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -1,6 +1,7 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 
@@ -65,4 +66,11 @@ public abstract partial class CadPolylineBase : CadExtrudedEntityBase
 
     /// <summary>Creates a vertex of the kind that this polyline has.</summary>
     internal abstract CadVertexBase CreateVertex(int flags);
+
+    /// <summary>Carries the references to the vertices.</summary>
+    private protected void ExchangeVertices(BitExchange fields)
+    {
+        fields.ChildCount(true);
+        fields.Children(this);
+    }
 }

@@ -1,8 +1,11 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 
 /// <summary>A face of a mesh: the numbers of its corners among the vertices, from 1; negative where the edge that
 /// begins there is not drawn.</summary>
 [CadObject("VERTEX", Subclass = "AcDbFaceRecord")]
+[CadBits("BS VertexIndex1", "BS VertexIndex2", "BS VertexIndex3", "BS VertexIndex4")]
 public partial class CadFaceRecord : CadVertexBase
 {
     /// <summary>Gets or sets the first corner. Group code 71.</summary>

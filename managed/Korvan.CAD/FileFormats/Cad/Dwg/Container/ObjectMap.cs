@@ -1,0 +1,120 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.Input;
+
+namespace Korvan.CAD.FileFormats.Cad.Dwg.Container;
+
+/// <summary>Where the objects of a drawing are, by their handles. Source: Open Design Specification for .dwg files,
+/// 5.4.1, chapter 23.</summary>
+/// <param name="handles">The handles, ascending.</param>
+/// <param name="offsets">The first byte of each object in <see cref="DwgFile.Objects"/>.</param>
+internal sealed class ObjectMap(ulong[] handles, long[] offsets)
+{
+    /// <summary>The name of the section.</summary>
+    internal const string Section = "AcDb:Handles";
+
+    private const int SizeLength = 2;
+
+    /// <summary>Gets the map of a file without objects.</summary>
+    internal static ObjectMap Empty { get; } = new([], []);
+
+    internal ulong[] Handles { get; } = handles;
+
+    internal long[] Offsets { get; } = offsets;
+
+    internal int Count => Handles.Length;
+
+    /// <summary>Returns the first byte of an object; -1 if there is none with this handle.</summary>
+    internal long Find(ulong handle)
+    {
+        int index = Array.BinarySearch(Handles, handle);
+        return index < 0 ? -1 : Offsets[index];
+    }
+
+    /// <summary>Reads a map: parts with a size, pairs of differences and a checksum each, until an empty one.</summary>
+    /// <param name="source">The file, for defects.</param>
+    /// <param name="data">The section.</param>
+    /// <param name="start">Its place in the file; -1 if it was compressed.</param>
+    internal static ObjectMap Read(DwgSource source, ReadOnlySpan<byte> data, long start)
+    {
+        List<ulong> handles = [];
+        List<long> offsets = [];
+        RawReader map = new(data);
+        while (true)
+        {
+            int at = map.Position;
+            long place = start < 0 ? -1 : start + at;
+            int size = map.UInt16BigEndian();
+            if (map.IsShort || size < SizeLength || size - SizeLength > map.Remaining)
+            {
+                source.Report(LoadDefectCode.Truncated, Section, place, "the object map ends early");
+                break;
+            }
+
+            ReadPairs(source, map.Take(size - SizeLength), place, handles, offsets);
+            if (map.UInt16BigEndian() != Crc16.Compute(Crc16.Seed, data.Slice(at, size)) && size > SizeLength)
+            {
+                source.Report(LoadDefectCode.WrongChecksum, Section, place, "a part of the object map has another "
+                    + "checksum than it states");
+            }
+
+            if (size == SizeLength)
+            {
+                break;
+            }
+        }
+
+        return FromPairs([.. handles], [.. offsets]);
+    }
+
+    /// <summary>Creates a map of pairs in any order; of several with one handle, the last counts.</summary>
+    internal static ObjectMap FromPairs(ulong[] handles, long[] offsets)
+    {
+        if (IsAscending(handles))
+        {
+            return new ObjectMap(handles, offsets);
+        }
+
+        SortedDictionary<ulong, long> sorted = [];
+        for (int i = 0; i < handles.Length; i++)
+        {
+            sorted[handles[i]] = offsets[i];
+        }
+
+        return new ObjectMap([.. sorted.Keys], [.. sorted.Values]);
+    }
+
+    private static bool IsAscending(ulong[] handles)
+    {
+        for (int i = 1; i < handles.Length; i++)
+        {
+            if (handles[i] <= handles[i - 1])
+            {
+                return false;
+            }
+        }
+
+        return true;
+    }
+
+    private static void ReadPairs(
+        DwgSource source, ReadOnlySpan<byte> part, long place, List<ulong> handles, List<long> offsets)
+    {
+        RawReader pairs = new(part);
+        ulong handle = 0;
+        long offset = 0;
+        while (pairs.Remaining > 0)
+        {
+            handle += pairs.ModularChar();
+            offset += pairs.SignedModularChar();
+            if (pairs.IsShort)
+            {
+                source.Report(LoadDefectCode.Truncated, Section, place, "an entry of the object map ends early");
+                return;
+            }
+
+            handles.Add(handle);
+            offsets.Add(offset);
+        }
+    }
+}

@@ -1,0 +1,45 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.Input;
+
+namespace Korvan.CAD.FileFormats.Cad.Dwg.Container.Paged;
+
+/// <summary>Drawing databases of releases 2004, 2010, 2013 and 2018: sections in compressed pages, which two maps lead
+/// to. Source: Open Design Specification for .dwg files, 5.4.1, chapters 4 and 6 to 8.</summary>
+internal static class PagedContainer
+{
+    internal static DwgFile Read(DwgSource source, CadAcadVersion version)
+    {
+        FileHeader header = FileHeader.Read(source);
+        PlainFields plain = PlainFields.Read(source);
+        DwgFile file = new()
+        {
+            Source = source,
+            Version = version,
+            MaintenanceVersion = plain.MaintenanceVersion,
+            CodePage = plain.CodePage,
+            Encoding = source.EncodingOf(plain.CodePage),
+        };
+        Dictionary<int, long> pages = PageMap.Read(source, header);
+        if (!pages.TryGetValue(header.SectionMapPage, out long sectionMap))
+        {
+            source.Report(LoadDefectCode.InvalidPage, SectionMap.Section, -1,
+                $"page {header.SectionMapPage}, which has the map, is not in the file");
+        }
+
+        SectionLoader loader = new(source, pages);
+        foreach (SectionInfo section in SectionMap.Read(source, sectionMap))
+        {
+            if (section.IsEncrypted && plain.IsEncrypted)
+            {
+                continue;
+            }
+
+            NamedSections.Store(file, section.Name, () => loader.Read(section));
+        }
+
+        NamedSections.VerifyComplete(file);
+        return file;
+    }
+}

@@ -1,0 +1,101 @@
+using System;
+using System.Collections.Generic;
+using System.Text;
+using Korvan.CAD.Input;
+
+namespace Korvan.CAD.FileFormats.Cad.Dwg.Container.Release2007;
+
+/// <summary>The maps of pages and of sections of release 2007. Source: Open Design Specification for .dwg files, 5.4.1,
+/// chapter 5.2.</summary>
+internal static class EncodedMaps
+{
+    internal const string PageSection = "page map";
+
+    internal const string SectionSection = "section map";
+
+    private const int PageEntry = 16;
+    private const int PageFields = 56;
+    private const int Interleaved = 4;
+
+    /// <summary>Reads the addresses of pages by their numbers.</summary>
+    internal static Dictionary<long, long> ReadPages(DwgSource source, EncodedHeader header)
+    {
+        Dictionary<long, long> pages = [];
+        if (EncodedPages.ReadSystem(source, header.PageMap, header.CrcSeed, PageSection) is not { } map)
+        {
+            return pages;
+        }
+
+        RawReader entries = new(map);
+        long address = EncodedHeader.FirstPage;
+        while (entries.Remaining >= PageEntry)
+        {
+            long size = entries.Int64();
+            pages.TryAdd(Math.Abs(Math.Max(entries.Int64(), -long.MaxValue)), address);
+            if (size < 0 || size > source.Data.Length - address)
+            {
+                source.Report(LoadDefectCode.InvalidPage, PageSection, header.PageMap.Address,
+                    $"a page of {size} bytes at byte {address} extends beyond the end of the file");
+                break;
+            }
+
+            address += size;
+        }
+
+        return pages;
+    }
+
+    /// <summary>Reads the map of sections.</summary>
+    internal static List<EncodedSection> ReadSections(
+        DwgSource source, EncodedHeader header, Dictionary<long, long> pages)
+    {
+        List<EncodedSection> sections = [];
+        long address = pages.GetValueOrDefault(header.SectionMap.Address, -1);
+        if (EncodedPages.ReadSystem(source, header.SectionMap with { Address = address }, header.CrcSeed,
+            SectionSection) is not { } map)
+        {
+            return sections;
+        }
+
+        RawReader fields = new(map);
+        while (fields.Remaining >= PageFields && !fields.IsShort)
+        {
+            sections.Add(ReadSection(ref fields));
+        }
+
+        if (fields.IsShort || fields.Remaining > 0)
+        {
+            source.Report(LoadDefectCode.Truncated, SectionSection, address, "the map of sections ends early");
+        }
+
+        return sections;
+    }
+
+    private static EncodedSection ReadSection(ref RawReader fields)
+    {
+        long size = fields.Int64();
+        fields.Skip(8);
+        bool isEncrypted = fields.Int64() == 1;
+        fields.Skip(8);
+        long nameLength = fields.Int64();
+        fields.Skip(8);
+        bool isInterleaved = fields.Int64() == Interleaved;
+        long count = fields.Int64();
+        string name = Encoding.Unicode.GetString(fields.Take(nameLength)).TrimEnd('\0');
+        List<EncodedPage> pages = [];
+        for (long i = 0; i < count && fields.Remaining >= PageFields; i++)
+        {
+            long start = fields.Int64();
+            fields.Skip(8);
+            pages.Add(new EncodedPage(
+                start, fields.Int64(), fields.Int64(), fields.Int64(), (uint)fields.Int64(), (ulong)fields.Int64()));
+        }
+
+        if (pages.Count < count)
+        {
+            fields.Skip(PageFields);
+        }
+
+        return new EncodedSection(name, size, isEncrypted, isInterleaved, pages);
+    }
+}

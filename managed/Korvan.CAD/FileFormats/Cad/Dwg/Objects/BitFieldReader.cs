@@ -1,0 +1,274 @@
+using System;
+using System.Collections.Generic;
+using System.Globalization;
+using System.Text;
+using Korvan.CAD.Encodings;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
+using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
+
+namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
+
+/// <summary>Gives an object the fields that a record of a drawing database has for it. Source: Open Design
+/// Specification for .dwg files, 5.4.1, chapters 2 and 20.</summary>
+/// <param name="release">The release as a year.</param>
+/// <param name="encoding">The encoding of strings of 8-bit characters.</param>
+/// <param name="names">The names of the records of symbol tables.</param>
+internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames names) : BitExchange
+{
+    private const int UnicodeStrings = 2007;
+    private const int TrueColors = 2004;
+    private const int OwnedLists = 2004;
+    private const int StatedCloning = 2000;
+
+    private BitReader _data;
+    private BitReader _strings;
+    private BitReader _handles;
+    private ulong _self;
+    private int _childCount;
+
+    internal override int Release => release;
+
+    internal override bool IsReading => true;
+
+    /// <summary>Gets the references to the parts of the object; null for an object without.</summary>
+    internal ChildHandles? Parts { get; private set; }
+
+    /// <summary>Gets how many bits of data are left.</summary>
+    internal long DataRemaining => _data.Remaining;
+
+    /// <summary>Gets how many bits of references are left.</summary>
+    internal long HandlesRemaining => _handles.Remaining;
+
+    /// <summary>Gets the bit of the data that is read next.</summary>
+    internal long Position => _data.Position;
+
+    /// <summary>Begins the data of an object.</summary>
+    /// <param name="self">Its handle, which other handles are relative to.</param>
+    /// <param name="data">Its data, from its first own field on.</param>
+    internal void Begin(ulong self, BitReader data)
+    {
+        _self = self;
+        _data = data;
+        Parts = null;
+    }
+
+    /// <summary>Sets where the references of the object begin: there its data ends.</summary>
+    internal void SetHandles(long start, long end)
+    {
+        byte[] bytes = _data.Data;
+        if (start < _data.Position || start > end)
+        {
+            throw new DwgFault(_data.Position, $"the references begin at bit {start}, outside of the object");
+        }
+
+        _handles = new BitReader(bytes, start, end);
+        _data = new BitReader(bytes, _data.Position, start);
+        if (release >= UnicodeStrings)
+        {
+            FindStrings();
+        }
+    }
+
+    internal override bool Bit(bool value) => _data.Bit();
+
+    internal override int BitPair(int value) => _data.BitPair();
+
+    internal override int BitShort(int value) => _data.BitShort();
+
+    internal override int BitLong(int value) => _data.BitLong();
+
+    internal override long BitLongLong(long value) => (long)_data.BitLongLong();
+
+    internal override double BitDouble(double value) => Finite(_data.BitDouble());
+
+    internal override double DoubleAfter(double value, double before) => Finite(_data.DoubleAfter(before));
+
+    internal override int RawByte(int value) => _data.RawByte();
+
+    internal override int RawShort(int value) => _data.RawShort();
+
+    internal override int RawLong(int value) => _data.RawLong();
+
+    internal override double RawDouble(double value) => Finite(_data.RawDouble());
+
+    internal override byte[] Bytes(byte[] value, int count) => _data.Bytes(count);
+
+    internal override string Text(string value)
+    {
+        if (release >= UnicodeStrings)
+        {
+            return _strings.Remaining > 0 ? _strings.Utf16Text() : "";
+        }
+
+        string text = _data.Text(encoding);
+        return text.Contains('\\') ? TextEscapes.Standard.Decode(text) : text;
+    }
+
+    internal override string Handle(HandleRole role, string value)
+    {
+        ulong handle = NextHandle();
+        return handle != 0 ? handle.ToString("X", CultureInfo.InvariantCulture) : value.Length == 0 ? "" : "0";
+    }
+
+    internal override ulong Handle(HandleRole role, ulong value) => NextHandle();
+
+    internal override ulong PlainHandle(ulong value) => _data.Handle().Value;
+
+    internal override string Name(SymbolTable table, string value) => names.Find(NextHandle()) ?? value;
+
+    internal override string LineTypeByIndex(string value) => _data.BitShort() switch
+    {
+        0x7FFF => "BYLAYER",
+        0x7FFE => "BYBLOCK",
+        var index => names.LineType(index) ?? value,
+    };
+
+    internal override (int Index, int Rgb, string Name) Color(int index, int rgb, string name)
+    {
+        int plain = _data.BitShort();
+        if (release < TrueColors)
+        {
+            return (plain, -1, "");
+        }
+
+        uint value = (uint)_data.BitLong();
+        int flags = _data.RawByte();
+        string color = (flags & 1) != 0 ? Text("") : "";
+        string book = (flags & 2) != 0 ? Text("") : "";
+        string full = book.Length > 0 ? $"{book}${color}" : color;
+        return PackedColor.Unpack(plain, value) is var (found, trueColor) ? (found, trueColor, full) : default;
+    }
+
+    internal override int Verify(int count)
+    {
+        long bits = Math.Max(_data.Remaining, Math.Max(_strings.Remaining, _handles.Remaining));
+        return count >= 0 && count <= bits ? count : throw new DwgFault(
+            _data.Position, $"{count} items are announced, but only {bits} bits follow");
+    }
+
+    internal override void ChildCount(bool hasParts) =>
+        _childCount = hasParts && release >= OwnedLists ? CountLong(0) : 0;
+
+    internal override void Children(CadBaseObject owner)
+    {
+        Parts = new ChildHandles();
+        ReadChildren(Parts);
+        Parts.End = NextHandle();
+    }
+
+    internal override void BlockParts(CadBaseObject owner, bool hasEntities)
+    {
+        Parts = new ChildHandles { Begin = NextHandle() };
+        if (hasEntities)
+        {
+            ReadChildren(Parts);
+        }
+
+        Parts.End = NextHandle();
+    }
+
+    internal override void TypedTags(IList<CadCodeValue> tags, int cloningCode)
+    {
+        int size = _data.BitLong();
+        _data.VerifyCount(size, 8);
+        int place = tags.Count;
+        RecordTags.Read(_data.Bytes(size), tags, new RecordFormat(release, encoding, names));
+        if (release >= StatedCloning)
+        {
+            int cloning = _data.BitShort();
+            tags.Insert(place, new CadCodeValue(cloningCode, cloning.ToString(CultureInfo.InvariantCulture)));
+        }
+    }
+
+    internal override Exception Fault(string cause) => new DwgFault(_data.Position, cause);
+
+    internal override byte[] Rest(byte[] value)
+    {
+        long bits = _data.Remaining;
+        byte[] bytes = new byte[(bits + 7) >> 3];
+        _data.Bytes(bytes.AsSpan(0, (int)(bits >> 3)));
+        for (int i = 0; i < (bits & 7); i++)
+        {
+            bytes[^1] |= (byte)(_data.Bit() ? 0x80 >> i : 0);
+        }
+
+        return bytes;
+    }
+
+    internal override void RestOfHandles(IList<string> handles)
+    {
+        while (_handles.Remaining >= 8)
+        {
+            handles.Add(HandleText.Format(NextHandle()));
+        }
+    }
+
+    /// <summary>Reads the next reference; 0 for none.</summary>
+    internal ulong NextHandle()
+    {
+        (int code, ulong value) = _handles.Handle();
+        return code switch
+        {
+            6 => _self + 1,
+            8 => _self - 1,
+            0xA => _self + value,
+            0xC => _self - value,
+            _ => value,
+        };
+    }
+
+    private void ReadChildren(ChildHandles parts)
+    {
+        if (release < OwnedLists)
+        {
+            parts.First = NextHandle();
+            parts.Last = NextHandle();
+        }
+
+        for (int i = 0; i < _childCount; i++)
+        {
+            parts.Owned.Add(NextHandle());
+        }
+    }
+
+    // The last bit of the data says whether there are strings, which end before their length.
+    private void FindStrings()
+    {
+        const int length = 16;
+        _strings = default;
+        long end = _data.End - 1;
+        if (end < _data.Position)
+        {
+            throw new DwgFault(end, "the object has no room for its strings");
+        }
+
+        byte[] bytes = _data.Data;
+        bool hasStrings = new BitReader(bytes, end, end + 1).Bit();
+        _data = new BitReader(bytes, _data.Position, end);
+        if (!hasStrings)
+        {
+            return;
+        }
+
+        end -= length;
+        long size = (ushort)new BitReader(bytes, end, end + length).RawShort();
+        if ((size & 0x8000) != 0)
+        {
+            end -= length;
+            size = (size & 0x7FFF) | ((long)(ushort)new BitReader(bytes, end, end + length).RawShort() << 15);
+        }
+
+        if (size > end - _data.Position)
+        {
+            throw new DwgFault(end, $"strings of {size} bits, where {end - _data.Position} are left");
+        }
+
+        _strings = new BitReader(bytes, end - size, end);
+        _data = new BitReader(bytes, _data.Position, end - size);
+    }
+
+    // Some programs wrote the width of a view that they did not know.
+    private static double Finite(double value) => double.IsFinite(value) ? value : 0;
+}

@@ -1,0 +1,215 @@
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
+using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Model;
+
+namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
+
+/// <summary>Puts the objects of a file together: records into tables, entities into blocks, vertices and attributes
+/// into their entities.</summary>
+internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects)
+{
+    private ulong _modelSpace;
+    private ulong _paperSpace;
+
+    internal void Build()
+    {
+        foreach (string table in TableRecords.Names)
+        {
+            AddRecords(table);
+        }
+
+        _modelSpace = drawing.BlockRecords.Find(BlockNames.ModelSpace)?.Handle ?? 0;
+        _paperSpace = drawing.BlockRecords.Find(BlockNames.PaperSpace)?.Handle ?? 0;
+        foreach (CadBlockTableObject record in drawing.BlockRecords.Items)
+        {
+            AddBlock(record);
+        }
+
+        AddObjects();
+    }
+
+    private void AddRecords(string table)
+    {
+        if (!objects.Tables.TryGetValue(table, out SymbolTableHandles? handles))
+        {
+            AddUnlisted(table);
+            return;
+        }
+
+        AddRecord(handles.First);
+        AddRecord(handles.Second);
+        handles.Records.ForEach(AddRecord);
+    }
+
+    private void AddRecord(ulong handle)
+    {
+        if (objects.Take(handle) is >= 0 and var index && objects[index].Target is CadSymbolTableGroupCodes record)
+        {
+            TableRecords.Add(drawing, record);
+        }
+    }
+
+    // The header of the table is damaged: what there is counts.
+    private void AddUnlisted(string table)
+    {
+        for (int i = 0; i < objects.Count; i++)
+        {
+            if (objects[i].Target is CadSymbolTableGroupCodes record && record.DxfName == table)
+            {
+                AddRecord(record.Handle);
+            }
+        }
+    }
+
+    private void AddBlock(CadBlockTableObject record)
+    {
+        int at = objects.Find(record.Handle);
+        ChildHandles parts = objects[at].Parts ?? new ChildHandles();
+        CadBlockEntity block = Take<CadBlockEntity>(parts.Begin) ?? new CadBlockEntity { Owner = record.Handle };
+        if (Take<CadEndBlock>(parts.End) is { } end)
+        {
+            block.End = end;
+        }
+
+        block.Name = record.Name;
+        block.NameAgain = record.Name;
+        TakeDefinition(block, record.Definition);
+        foreach (int index in Children(parts))
+        {
+            if (objects[index] is { Target: CadEntityBase entity } content)
+            {
+                block.Entities.Add(entity);
+                Place(entity, content.Frame, record.Handle);
+                Complete(entity, content);
+            }
+        }
+
+        Add(block);
+    }
+
+    private static void TakeDefinition(CadBlockEntity block, BlockDefinition? definition)
+    {
+        if (definition is null)
+        {
+            return;
+        }
+
+        block.Flags = (short)definition.Flags;
+        block.BasePoint = definition.BasePoint;
+        block.XRefPathName = definition.Path;
+        block.Description = definition.Description;
+    }
+
+    private void Add(CadBlockEntity block)
+    {
+        if (BlockNames.IsModelSpace(block.Name) && !drawing.ModelSpaceInFile)
+        {
+            drawing.ModelSpace = block;
+            drawing.ModelSpaceInFile = true;
+        }
+        else if (BlockNames.IsActivePaperSpace(block.Name) && !drawing.PaperSpaceInFile)
+        {
+            drawing.PaperSpace = block;
+            drawing.PaperSpaceInFile = true;
+        }
+
+        drawing.BlockEntities.Add(block);
+    }
+
+    private void Place(CadEntityBase entity, ObjectFrame frame, ulong owner)
+    {
+        entity.Owner = frame.Mode switch
+        {
+            ObjectFrame.InModelSpace => _modelSpace,
+            ObjectFrame.InPaperSpace => _paperSpace,
+            _ => frame.Owner != 0 ? frame.Owner : owner,
+        };
+        if (frame.Mode == ObjectFrame.InPaperSpace)
+        {
+            entity.SpaceMode = CadEntitySpaceMode.PaperSpace;
+        }
+    }
+
+    private void Complete(CadEntityBase entity, RecordContent content)
+    {
+        if (content.Parts is not { } parts)
+        {
+            return;
+        }
+
+        switch (entity)
+        {
+            case CadPolylineBase polyline:
+                AddParts(polyline.Vertices, parts, entity);
+                polyline.Seqend = TakeEnd(parts, entity);
+                break;
+            case CadInsertObject insert:
+                AddParts(insert.Attributes, parts, entity);
+                insert.Seqend = TakeEnd(parts, entity);
+                break;
+        }
+    }
+
+    private void AddParts<T>(IList<T> target, ChildHandles parts, CadEntityBase owner)
+        where T : CadEntityBase
+    {
+        foreach (int index in Children(parts))
+        {
+            if (objects[index].Target is T part)
+            {
+                target.Add(part);
+                Place(part, objects[index].Frame, owner.Handle);
+            }
+        }
+    }
+
+    private CadSeqend? TakeEnd(ChildHandles parts, CadEntityBase owner)
+    {
+        int index = objects.Take(parts.End);
+        if (index < 0 || objects[index].Target is not CadSeqend end)
+        {
+            return null;
+        }
+
+        Place(end, objects[index].Frame, owner.Handle);
+        return end;
+    }
+
+    private T? Take<T>(ulong handle)
+        where T : CadBaseObject => objects.Take(handle) is >= 0 and var index ? objects[index].Target as T : null;
+
+    private IEnumerable<int> Children(ChildHandles parts)
+    {
+        foreach (ulong handle in parts.Owned)
+        {
+            if (objects.Take(handle) is >= 0 and var index)
+            {
+                yield return index;
+            }
+        }
+
+        // Each can be taken once, so that links in a circle end.
+        for (ulong handle = parts.First; objects.Take(handle) is >= 0 and var index;)
+        {
+            yield return index;
+            ObjectFrame frame = objects[index].Frame;
+            handle = handle == parts.Last ? 0 : frame.IsBetweenNeighbours ? handle + 1 : frame.Next;
+        }
+    }
+
+    private void AddObjects()
+    {
+        for (int i = 0; i < objects.Count; i++)
+        {
+            if (objects[i].Target is CadObjectBase item && !ObjectTypeTable.IsOfFilesOnly(item.DxfName))
+            {
+                drawing.Objects.Add(item);
+            }
+        }
+    }
+}

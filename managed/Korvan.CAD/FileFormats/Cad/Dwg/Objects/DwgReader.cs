@@ -1,0 +1,100 @@
+using System;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
+using Korvan.CAD.FileFormats.Cad.Dwg.Container;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Input;
+
+namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
+
+/// <summary>Reads the objects of a drawing database and makes the drawing of them.</summary>
+/// <param name="file">The sections of the file.</param>
+/// <param name="drawing">The drawing, with its classes.</param>
+internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
+{
+    private const string Section = "AcDb:AcDbObjects";
+
+    private readonly RecordNames _names = new();
+    private readonly ObjectSet _objects = new(file.Map.Handles);
+
+    /// <summary>Adds the objects of the file to the drawing.</summary>
+    /// <exception cref="ImageLoadException">An object is damaged, and defects end the load.</exception>
+    internal void Read()
+    {
+        RecordFormat format = new(file.Release, file.Encoding, _names);
+        RecordReader reader = new(file.Objects, format, drawing.ClassEntities.Items);
+        RecordHeader?[] headers = new RecordHeader?[file.Map.Count];
+        for (int i = 0; i < headers.Length; i++)
+        {
+            headers[i] = ReadHeader(reader, i);
+        }
+
+        for (int i = 0; i < headers.Length; i++)
+        {
+            ReadRecord(reader, headers[i], i);
+        }
+
+        new DrawingAssembly(drawing, _objects).Build();
+        DrawingLinks.Complete(drawing);
+        ModelerSection.Attach(drawing);
+        drawing.ContentRelease = drawing.Version;
+    }
+
+    // The names of records are read first, so that the others know them.
+    private RecordHeader? ReadHeader(RecordReader reader, int index)
+    {
+        try
+        {
+            RecordHeader header = reader.ReadHeader(file.Map.Offsets[index]);
+            if (ObjectTypeTable.IsRecord(header.Type))
+            {
+                (_, string name) = reader.ReadName(header);
+                _names.Add(file.Map.Handles[index], name);
+            }
+
+            return header;
+        }
+        catch (DwgFault fault)
+        {
+            Report(fault, index, "object");
+            return null;
+        }
+    }
+
+    private void ReadRecord(RecordReader reader, RecordHeader? found, int index)
+    {
+        if (found is not { } header)
+        {
+            return;
+        }
+
+        try
+        {
+            if (ObjectTypeTable.ControlledTable(header.Type) is { } table)
+            {
+                CadTableHeader target = new() { Name = table };
+                _objects.Tables[table] = reader.ReadControl(header, target);
+                drawing.TableHeaders[table] = target;
+            }
+            else
+            {
+                _objects.Set(index, reader.Read(header));
+            }
+        }
+        catch (DwgFault fault)
+        {
+            Report(fault, index, reader.NameOf(header.Type));
+        }
+    }
+
+    private void Report(DwgFault fault, int index, string type)
+    {
+        string handle = HandleText.Format(file.Map.Handles[index]);
+        file.Source.Report(
+            LoadDefectCode.DamagedObject,
+            $"{Section}, {type} {handle}",
+            file.Release <= 2000 ? fault.Position >> 3 : -1,
+            $"bit {fault.Position}: {fault.Message}");
+    }
+}

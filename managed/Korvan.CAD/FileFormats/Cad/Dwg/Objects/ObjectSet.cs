@@ -1,0 +1,44 @@
+using System;
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
+namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
+
+/// <summary>The objects of a file by their handles.</summary>
+/// <param name="handles">The handles, ascending.</param>
+internal sealed class ObjectSet(ulong[] handles)
+{
+    private readonly RecordContent[] _contents = new RecordContent[handles.Length];
+    private readonly bool[] _taken = new bool[handles.Length];
+
+    /// <summary>Gets the references of the headers of symbol tables by the names of the tables.</summary>
+    internal Dictionary<string, SymbolTableHandles> Tables { get; } = [];
+
+    internal int Count => handles.Length;
+
+    /// <summary>Returns an object; its target is null for one that could not be read.</summary>
+    internal RecordContent this[int index] => _contents[index];
+
+    internal void Set(int index, RecordContent content) => _contents[index] = content;
+
+    /// <summary>Returns the index of an object; -1 for a handle of none.</summary>
+    internal int Find(ulong handle) => Math.Max(Array.BinarySearch(handles, handle), -1);
+
+    /// <summary>Returns the object of a handle; null where there is none of the class.</summary>
+    internal T? Get<T>(ulong handle)
+        where T : CadBaseObject => Find(handle) is >= 0 and var index ? _contents[index].Target as T : null;
+
+    /// <summary>Takes an object, which belongs to one owner only.</summary>
+    /// <returns>The index; -1 for a handle of none, or of one that was taken before.</returns>
+    internal int Take(ulong handle)
+    {
+        int index = Find(handle);
+        if (index < 0 || _contents[index].Target is null || _taken[index])
+        {
+            return -1;
+        }
+
+        _taken[index] = true;
+        return index;
+    }
+}

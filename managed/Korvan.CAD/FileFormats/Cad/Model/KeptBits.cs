@@ -1,0 +1,22 @@
+namespace Korvan.CAD.FileFormats.Cad.Model;
+
+/// <summary>What a drawing database (DWG) has of an object that no class interprets.</summary>
+internal sealed class KeptBits : KeptData
+{
+    /// <summary>Gets the release of the database, as a year.</summary>
+    internal required int Release { get; init; }
+
+    /// <summary>Gets the record of an object that has no class, without its size and checksum; empty where a class
+    /// interprets it.</summary>
+    internal byte[] Record { get; init; } = [];
+
+    /// <summary>Gets how many bits of the record are references, in releases from 2010 on.</summary>
+    internal int HandleBits { get; init; }
+
+    /// <summary>Gets the graphics that a program stored with the entity.</summary>
+    internal byte[] Graphics { get; init; } = [];
+
+    internal override string FormatName => "DWG";
+
+    internal override KeptData Copy() => this;
+}
