@@ -2,9 +2,10 @@ using System;
 using System.IO;
 using System.Linq;
 using System.Text;
-using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dwg;
+using Korvan.CAD.FileFormats.Cad.Dwg.Early;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Input;
 
@@ -71,10 +72,10 @@ internal static class DwgFormat
         return FileFormat.Undefined;
     }
 
-    private static object Read(byte[] data, string name, LoadOptions options)
+    private static CadDrawing Read(byte[] data, string name, LoadOptions options)
     {
         CadAcadVersion version = DrawingRelease.Parse(Encoding.ASCII.GetString(data, 0, VersionLength));
         return version >= CadAcadVersion.AC1012 ? DwgLoader.Load(data, name, version, options)
-            : throw new ImageLoadException($"'{name}' is of release {version}, which cannot be read yet.");
+            : EarlyDwgReader.Read(data, name, options);
     }
 }
