@@ -13,7 +13,7 @@ internal static class BitsText
     private static readonly Dictionary<string, string> Integers = new()
     {
         ["BB"] = "BitPair", ["BS"] = "BitShort", ["BL"] = "BitLong", ["BLL"] = "BitLongLong",
-        ["RC"] = "RawByte", ["RS"] = "RawShort", ["RL"] = "RawLong",
+        ["RC"] = "RawByte", ["RS"] = "RawShort", ["RL"] = "RawLong", ["CMP"] = "PackedColor",
     };
 
     private static readonly Dictionary<string, string> Numbers = new()

@@ -107,6 +107,17 @@ internal abstract partial class BitExchange
     /// <summary>Carries all bits of the data stream that are left.</summary>
     internal abstract byte[] Rest(byte[] value);
 
-    /// <summary>Carries the references that are left.</summary>
-    internal abstract void RestOfHandles(System.Collections.Generic.IList<string> handles);
+    /// <summary>Carries bytes up to the end of one of several strings.</summary>
+    internal abstract byte[] BytesUpTo(byte[] value, params byte[][] ends);
+
+    /// <summary>Carries a colour of which an object has the packed value: kind in the highest byte.</summary>
+    internal abstract int PackedColor(int value);
+
+    /// <summary>Carries whether an attribute has several lines, and then the text with them.</summary>
+    /// <param name="attribute">The attribute.</param>
+    /// <param name="kind">The number for several lines.</param>
+    internal abstract void AttributeKind(CadText attribute, int kind);
+
+    /// <summary>Carries the references that are left, with group codes.</summary>
+    internal abstract void RestOfHandles(System.Collections.Generic.IList<CadCodeValue> handles);
 }

@@ -1,8 +1,11 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 
 /// <summary>A dependency of an associative action on a value of an object, as that of a variable; its fields are those
 /// of any dependency.</summary>
 [CadObject("ACDBASSOCVALUEDEPENDENCY")]
+[CadBits("base")]
 public partial class CadAcDbAssocValueDependency : CadAcDbAssocDependency
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>The action that scales entities of a dynamic block.</summary>
 [CadSequence]
 [CadObject("BLOCKSCALEACTION", Subclass = "AcDbBlockScaleAction")]
+[CadBits("base", "BL ScaleId", "T ScaleName", "BL XScaleId", "T XScaleName", "BL YScaleId", "T YScaleName")]
 public partial class CadBlockScaleAction : CadBlockActionWithBasePt
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -6,6 +6,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.PersSubentManager;
 /// <summary>Names of faces, edges and vertices that associative actions refer to.</summary>
 [CadSequence]
 [CadObject("ACDBASSOCPERSSUBENTMANAGER", Subclass = "AcDbAssocPersSubentManager")]
+[CadBits(
+    "BL Version", "BL FirstReserved", "BL SecondReserved", "BL ThirdReserved", "BL StepCount", "BL SubentityCount",
+    "BL[BL] Steps")]
 public partial class CadAcDbAssocPersSubentManager : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

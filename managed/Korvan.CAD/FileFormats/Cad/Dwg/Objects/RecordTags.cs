@@ -88,6 +88,10 @@ internal static class RecordTags
             case Kind.Binary:
                 tags.Add(new CadBinaryCodeValue(code, Convert.ToHexString(value[1..])));
                 break;
+            case Kind.Number when code is >= 50 and < 59:
+                double degrees = BinaryPrimitives.ReadDoubleLittleEndian(value) * 180 / Math.PI;
+                tags.Add(new CadCodeValue(code, degrees.ToString("R", CultureInfo.InvariantCulture)));
+                break;
             default:
                 tags.Add(new CadCodeValue(code, TextOf(KindOf(code), value, format)));
                 break;
