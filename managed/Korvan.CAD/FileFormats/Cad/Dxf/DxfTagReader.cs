@@ -1,4 +1,5 @@
 using System;
+using System.Buffers;
 using System.Buffers.Text;
 using System.Globalization;
 using Korvan.CAD.CadExceptions;
@@ -195,23 +196,40 @@ internal sealed partial class DxfTagReader : FieldReader
 
     internal override ImageLoadException BadValue(string cause) => Fail(LoadDefectCode.BadValue, cause);
 
+    /// <summary>Appends the bytes of the current tag, and of those of its code that follow: one after the other would
+    /// copy what is there as often as there are tags.</summary>
     internal override byte[] AppendBinary(byte[] before)
     {
-        byte[] chunk;
-        try
+        ArrayBufferWriter<byte> bytes = new(Math.Max(before.Length + Value.Length, 1));
+        bytes.Write(before);
+        int code = Code;
+        do
         {
-            chunk = BinaryTags.HasBinaryValue(Code) && IsBinary
-                ? Value.ToArray()
-                : Convert.FromHexString(ValueText().Trim());
+            AppendChunk(bytes);
         }
-        catch (FormatException)
+        while (Next() && Code == code);
+        Unread();
+        return bytes.WrittenSpan.ToArray();
+    }
+
+    private void AppendChunk(ArrayBufferWriter<byte> bytes)
+    {
+        if (BinaryTags.HasBinaryValue(Code) && IsBinary)
+        {
+            bytes.Write(Value);
+            return;
+        }
+
+        ReadOnlySpan<byte> digits = Trimmed();
+        Span<byte> room = bytes.GetSpan((digits.Length / 2) + 1);
+        if (Convert.FromHexString(digits, room, out _, out int written) != OperationStatus.Done)
         {
             throw Fail(
                 LoadDefectCode.BadBinary,
                 $"group code {Code} holds bytes that are not written in pairs of hexadecimal digits");
         }
 
-        return [.. before, .. chunk];
+        bytes.Advance(written);
     }
 
     /// <summary>Returns the current tag as it is in the file.</summary>
