@@ -270,8 +270,16 @@ public sealed class PdfDocumentTests : IDisposable
             list.Fill(PdfSample.Box(0, 0, i % 99, 9), Rgba.Black, -1, evenOdd: false);
         }
 
-        var late = new PdfSettings { Checkpoint = static () => throw new OperationInterruptedException("late") };
-        Assert.Throws<OperationInterruptedException>(() => PdfSample.Write(_engine, [PdfSample.PageOf(list)], late));
+        using Budget budget = Budget.Begin(null, timeout: 1);
+        void WriteAgain()
+        {
+            while (true)
+            {
+                PdfSample.Write(_engine, [PdfSample.PageOf(list)], new PdfSettings());
+            }
+        }
+
+        Assert.Throws<OperationInterruptedException>(WriteAgain);
     }
 
     [Fact]
