@@ -4,6 +4,7 @@
 #   make demo       convert examples/drawings into build/demo
 #   make test       everything there is, under ctest
 #   make fuzz-calls hostile calls of every member for MINUTES=60, from SEED=1 on
+#   make fuzz       mutated files for every reader and writer for MINUTES=60, from SEED=1 on
 #   make mutants    mutation run over single lines: ONLY=<text of a name or file>
 #   make sanitize   the native units under the address and undefined-behaviour sanitizers
 #   make bench      measurements beside hand-written baselines
@@ -28,7 +29,7 @@ export UseSharedCompilation := false
 export DOTNET_CLI_TELEMETRY_OPTOUT := 1
 export DOTNET_NOLOGO := 1
 
-.PHONY: build demo test fuzz-calls mutants sanitize bench fidelity catalogue wheel format lint clean packages
+.PHONY: build demo test fuzz fuzz-calls mutants sanitize bench fidelity catalogue wheel format lint clean packages
 
 build: packages $(BUILD)/build.ninja
 	@cmake --build --preset $(PRESET)
@@ -48,6 +49,9 @@ test: test_packages build
 
 fuzz-calls: build
 	@build/python tests/python/hostile_calls.py --seed $(SEED) --rounds $(ROUNDS) --minutes $(MINUTES)
+
+fuzz: build
+	@build/python tests/python/fuzz.py --seed $(SEED) --minutes $(MINUTES)
 
 mutants: test_packages packages
 	@python=$$(tools/find-python.sh) && "$$python" tools/mutants.py --only '$(ONLY)'

@@ -28,6 +28,7 @@ internal sealed class Budget : IDisposable
 
     [ThreadStatic]
     private static Budget? _current;
+    private static long _settled;
 
     private readonly Budget? _outer;
     private readonly int _owner = Environment.CurrentManagedThreadId;
@@ -44,6 +45,7 @@ internal sealed class Budget : IDisposable
 
     private Budget(long memory, long maxSteps, int timeout)
     {
+        SettleHeap();
         _outer = _current;
         _timeout = timeout;
         _deadline = timeout > 0 ? Environment.TickCount64 + timeout : long.MaxValue;
@@ -175,6 +177,21 @@ internal sealed class Budget : IDisposable
 
     /// <inheritdoc/>
     public void Dispose() => _current = _outer;
+
+    // What a call before has left would hide what this one takes.
+    private static void SettleHeap()
+    {
+        const long unsettled = 128L << 20;
+        long taken = GC.GetTotalMemory(false);
+        if (taken > _settled + unsettled)
+        {
+            GC.Collect();
+            taken = GC.GetTotalMemory(false);
+            _settled = taken;
+        }
+
+        _settled = Math.Min(_settled, taken);
+    }
 
     private void VerifyHeap(long more)
     {

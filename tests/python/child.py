@@ -18,15 +18,15 @@ ASSEMBLY_VARIABLE = "NETCORE_WRAPPER_ASSEMBLY_DIR_korvan"
 WRAP_LIBRARY = "libkorvan.embed.coreclrwrap.so"
 
 
-def run(code: str, **environment: str | None) -> subprocess.CompletedProcess[str]:
-    """Runs the code; a variable given as None is unset for it."""
+def run(code: str, *arguments: str, **environment: str | None) -> subprocess.CompletedProcess[str]:
+    """Runs the code with arguments; a variable given as None is unset for it."""
     env = dict(os.environ)
     for name, value in environment.items():
         env.pop(name, None)
         if value is not None:
             env[name] = value
     return subprocess.run(
-        [sys.executable, "-c", textwrap.dedent(code)],
+        [sys.executable, "-c", textwrap.dedent(code), *arguments],
         env=env,
         capture_output=True,
         text=True,

@@ -99,6 +99,10 @@ class Examples(unittest.TestCase):
         self.assertIn("['Model', 'Site 1:500', 'Plot 1']", printed)
         self.assertTrue((self.out / "build" / "sheets.pdf").exists())
 
+    def test_the_page_on_services_runs(self) -> None:
+        self.run_snippets("docs/services.md")
+        self.assertTrue((self.out / "build" / "site_plan.pdf").exists())
+
 
 if __name__ == "__main__":
     unittest.main()

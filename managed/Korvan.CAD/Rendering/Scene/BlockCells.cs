@@ -21,14 +21,15 @@ internal static class BlockCells
     /// <summary>Returns why a reference cannot be drawn; null if it can. The rest of the drawing does not depend on
     /// it.</summary>
     internal static string? Refuse(BlockInfo block, BlockContext context) =>
-        context.IsInside(block.Name) ? "reference to a block in itself"
-        : context.Depth >= DeepestNesting ? $"reference in blocks that are nested more than {DeepestNesting} levels deep"
+        context.IsInside(block.Name) ? $"reference to the block \"{block.Name}\" in itself"
+        : context.Depth >= DeepestNesting
+            ? $"reference to the block \"{block.Name}\", nested more than {DeepestNesting} levels deep"
         : null;
 
     /// <summary>Returns why the cells of a reference cannot be drawn; null if they can.</summary>
     internal static string? Refuse(CadInsertObject insert, BlockInfo block) =>
         block.Entities.Count > 0 && Columns(insert) * Rows(insert) > MaxCells
-            ? $"reference that repeats a block more than {MaxCells} times"
+            ? $"reference that repeats the block \"{block.Name}\" more than {MaxCells} times"
             : null;
 
     private static long Columns(CadInsertObject insert) => Math.Max(1, (int)insert.ColumnCount);

@@ -112,10 +112,15 @@ internal static class DrawingIntegrity
 
     internal static void AddBlockRecords(CadDrawing drawing)
     {
-        drawing.BlockRecords.Items.RemoveAll(record => !drawing.BlockEntities.Contains(record.Name));
+        // Lists look for a name that they do not have from end to end.
+        var blocks = drawing.BlockEntities.Items.Select(static block => block.Name)
+            .ToHashSet(StringComparer.OrdinalIgnoreCase);
+        drawing.BlockRecords.Items.RemoveAll(record => !blocks.Contains(record.Name));
+        var records = drawing.BlockRecords.Items.Select(static record => record.Name)
+            .ToHashSet(StringComparer.OrdinalIgnoreCase);
         foreach (CadBlockEntity block in drawing.BlockEntities)
         {
-            if (!drawing.BlockRecords.Contains(block.Name))
+            if (records.Add(block.Name))
             {
                 drawing.BlockRecords.Add(new CadBlockTableObject { Name = block.Name });
             }

@@ -31,7 +31,7 @@ internal sealed partial class DxfTagWriter
         else
         {
             WriteBinaryCode(code);
-            WriteText(value.Replace("\0", "", StringComparison.Ordinal));
+            WriteText(value);
             Reserve(1);
             _buffer[_used++] = 0;
         }

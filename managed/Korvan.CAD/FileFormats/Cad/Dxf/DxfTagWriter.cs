@@ -240,16 +240,29 @@ internal sealed partial class DxfTagWriter(
         _used += _encoding.GetBytes(text, _buffer.AsSpan(_used));
     }
 
-    // A line break would end the value: control characters are written as a caret and a character.
+    // A line break or a NUL would end the value: line breaks are written as a caret and a character, other control
+    // characters by their number.
     private static string Escaped(string text)
     {
-        if (text.AsSpan().IndexOfAny('\r', '\n') < 0)
+        int first = text.AsSpan().IndexOfAnyInRange('\0', '\u001F');
+        if (first < 0)
         {
             return text;
         }
 
-        return text.Replace("\r\n", "^J", StringComparison.Ordinal).Replace("\n", "^J", StringComparison.Ordinal)
-            .Replace("\r", "^M", StringComparison.Ordinal);
+        StringBuilder escaped = new(text, 0, first, text.Length + 16);
+        foreach (char character in text.Replace("\r\n", "\n", StringComparison.Ordinal).AsSpan(first))
+        {
+            _ = character switch
+            {
+                '\n' => escaped.Append("^J"),
+                '\r' => escaped.Append("^M"),
+                '\t' or >= ' ' => escaped.Append(character),
+                _ => escaped.Append($"\\U+{(int)character:X4}"),
+            };
+        }
+
+        return escaped.ToString();
     }
 
     private void EndLine()
