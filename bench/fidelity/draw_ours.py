@@ -20,7 +20,6 @@ OPTIONS = {
     "emf": imageoptions.EmfOptions,
     "wmf": imageoptions.WmfOptions,
     "html": imageoptions.Html5Options,
-    "cgm": imageoptions.CgmOptions,
 }
 
 
