@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import json
+import os
 import subprocess
 import sys
 import tempfile
@@ -13,6 +14,11 @@ from drawing_maker import BLOCK_HEAVY, HATCH_HEAVY, MAKERS, TEXT_HEAVY, Maker, m
 from report import Table, duration, ratio
 
 HERE = Path(__file__).resolve().parent
+SHARED = HERE.parent.parent / "shared" / "drawings" / "dxf"
+SYSTEM_PYTHON = "/usr/bin/python3"
+LARGEST = 10
+REFERENCE_SIDE = 1600
+REFERENCE_SECONDS = 300
 SIZES = (12_500, 25_000, 50_000, 100_000, 500_000)
 KINDS: tuple[tuple[str, int, tuple[Maker, ...]], ...] = (
     ("lines, arcs and texts", 100_000, MAKERS),
@@ -46,9 +52,47 @@ class Save:
 def _save(folder: Path, count: int, makers: tuple[Maker, ...]) -> Save:
     drawing = folder / "made.dxf"
     make_drawing(drawing, count, makers)
+    return _save_drawing(drawing, folder)
+
+
+def _save_drawing(drawing: Path, folder: Path) -> Save:
     command = [sys.executable, str(HERE / "save_ours.py"), str(drawing), str(folder / "made.pdf")]
     result = subprocess.run(command, check=True, capture_output=True, text=True)
     return Save(**json.loads(result.stdout.splitlines()[-1]))
+
+
+def _reference(drawing: Path) -> float | None:
+    """Processor time of the drawing add-on of ezdxf for loading and drawing; none without a checkout of it."""
+    checkout = os.environ.get("EZDXF")
+    if not checkout:
+        return None
+    # Another Python: nothing of ours may reach it.
+    environment = {key: value for key, value in os.environ.items() if not key.startswith("PYTHON")}
+    command = [SYSTEM_PYTHON, str(HERE / "fidelity" / "draw_reference.py"), str(REFERENCE_SIDE), str(drawing)]
+    try:
+        result = subprocess.run(command, env=environment | {"PYTHONPATH": f"{checkout}/src"}, capture_output=True,
+                                text=True, timeout=REFERENCE_SECONDS)
+    except subprocess.TimeoutExpired:
+        return None
+    return sum(json.loads(result.stdout.splitlines()[-1]).values()) if result.returncode == 0 else None
+
+
+def _real_drawings(folder: Path) -> None:
+    drawings = sorted(SHARED.glob("*.dxf"), key=lambda path: path.stat().st_size, reverse=True)[:LARGEST]
+    if not drawings:
+        print(f"\n{SHARED} is not there: no real drawings are measured")
+        return
+    if not os.environ.get("EZDXF"):
+        print("\nEZDXF names no checkout of ezdxf: real drawings are measured without it")
+    table = Table("The largest real drawings to PDF, processor time, beside the drawing add-on of ezdxf (to SVG)",
+                  ("", *COLUMNS[1:4], "first save of the second", "peak memory", "PDF", "add-on", "faster"))
+    for drawing in drawings:
+        save, theirs = _save_drawing(drawing, folder), _reference(drawing)
+        table.add(f"{drawing.name}, {drawing.stat().st_size / 1e6:.1f} MB", duration(save.load), duration(save.first),
+                  duration(save.both), ratio(save.first, save.second), f"{save.peak / 1024:.0f} MiB",
+                  f"{save.size / 1e6:.2f} MB", duration(theirs) if theirs else "",
+                  f"{theirs / save.both:.1f} x" if theirs else "")
+    table.print()
 
 
 def _row(table: Table, name: str, save: Save, growth: str) -> None:
@@ -88,3 +132,4 @@ def run(_modules: Path) -> None:
         for label, count, makers in KINDS:
             _row(table, f"{count}, {label}", _save(folder, count, makers), "")
         table.print()
+        _real_drawings(folder)

@@ -20,13 +20,15 @@ OPTIONS = {
     "emf": imageoptions.EmfOptions,
     "wmf": imageoptions.WmfOptions,
     "html": imageoptions.Html5Options,
-    "cgm": imageoptions.CgmOptions,
 }
+MARGIN = 0.01
 
 
 def _page(side: float) -> imageoptions.CadRasterizationOptions:
     page = imageoptions.CadRasterizationOptions()
     page.page_width = page.page_height = side
+    # Lines on the border of a page are drawn by half, or not at all, as programs round.
+    page.border_x = page.border_y = side * MARGIN
     page.layouts = ["Model"]
     page.draw_type = CadDrawTypeMode.USE_OBJECT_COLOR
     page.background_color = Color.white

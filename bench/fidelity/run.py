@@ -80,12 +80,17 @@ def _compare(pairs: list[tuple[Path, Path, Path]]) -> list[Shares | str]:
     return [row if isinstance(row, str) else Shares(*row) for row in found]
 
 
+def _reason(name: str, known: dict[str, str]) -> str | None:
+    """Why a drawing is not as another program shows it; the part of its name up to "__" says where it is from."""
+    return known.get(name.rpartition("__")[2])
+
+
 def _add(table: Table, name: str, found: Shares | str, aim: float, known: dict[str, str]) -> bool:
     """Adds a row; says whether it reaches the aim or has a known reason not to."""
     if isinstance(found, str):
-        table.add(name, "", "", known.get(name, found))
-        return name in known
-    reason = "" if found.least >= aim else known.get(name, "?")
+        table.add(name, "", "", _reason(name, known) or found)
+        return _reason(name, known) is not None
+    reason = "" if found.least >= aim else _reason(name, known) or "?"
     table.add(name, *found.cells(), reason)
     return reason != "?"
 
@@ -111,7 +116,7 @@ def _drawings(drawings: list[Path], out: Path, known: dict[str, str]) -> bool:
     return all(rows)
 
 
-def _pages(drawings: list[Path], out: Path, known: dict[str, str]) -> bool:
+def _pages(drawings: list[Path], out: Path, known: dict[str, dict[str, str]]) -> bool:
     viewers = [viewer for viewer in VIEWERS if viewer.is_there()]
     for viewer in VIEWERS:
         if viewer not in viewers:
@@ -121,7 +126,7 @@ def _pages(drawings: list[Path], out: Path, known: dict[str, str]) -> bool:
     return all(held)
 
 
-def _pages_by(viewer: Viewer, drawings: list[Path], out: Path, known: dict[str, str]) -> bool:
+def _pages_by(viewer: Viewer, drawings: list[Path], out: Path, known: dict[str, dict[str, str]]) -> bool:
     folder = out / viewer.key
     folder.mkdir(parents=True, exist_ok=True)
     there = [path for path in drawings if (out / "ours" / f"{path.name}.{viewer.extension}").exists()]
@@ -133,15 +138,10 @@ def _pages_by(viewer: Viewer, drawings: list[Path], out: Path, known: dict[str, 
     table = Table(f"{viewer.extension} by {viewer.name}, beside our pixels",
                   ("", "its, in ours", "ours, in its", "below the aim because"))
     rows = [_add(table, path.name, shares.get(path, "nothing was shown"), PAGE_AIM,
-                 {name: reason for name, reason in known.items()} | _of(known, viewer.key)) for path in there]
+                 known.get(viewer.key, {})) for path in there]
     table.print()
     print(f"  aim, {PAGE_AIM:g} % both ways or a known reason: {'held' if all(rows) else 'MISSED'}")
     return all(rows)
-
-
-def _of(known: dict[str, str], key: str) -> dict[str, str]:
-    """The reasons that hold for one viewer, which are under its name and that of the drawing."""
-    return {name.removeprefix(f"{key}/"): reason for name, reason in known.items() if name.startswith(f"{key}/")}
 
 
 def main() -> int:

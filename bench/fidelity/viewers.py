@@ -48,7 +48,7 @@ def _target(page: Path, folder: Path) -> Path:
 def _poppler(pages: list[Path], folder: Path, side: int) -> None:
     for page in pages:
         target = _target(page, folder)
-        _run("pdftoppm", "-png", "-singlefile", "-scale-to", str(side), page, target.with_suffix(""))
+        _run("pdftocairo", "-png", "-singlefile", "-scale-to", str(side), page, target.with_suffix(""))
 
 
 def _rsvg(pages: list[Path], folder: Path, side: int) -> None:
@@ -69,7 +69,7 @@ def _office(pages: list[Path], folder: Path, side: int) -> None:
         for page in pages:
             made = Path(name) / f"{page.name.removesuffix(page.suffix)}.pdf"
             if made.exists():
-                _run("pdftoppm", "-png", "-singlefile", "-scale-to", str(side), made,
+                _run("pdftocairo", "-png", "-singlefile", "-scale-to", str(side), made,
                      _target(page, folder).with_suffix(""))
 
 
@@ -81,13 +81,13 @@ def _chromium(pages: list[Path], folder: Path, side: int) -> None:
                  f"--screenshot={_target(page, folder)}", page.as_uri())
 
 
+# No program of Debian shows CGM.
 VIEWERS = (
-    Viewer("poppler", "pdftoppm", "pdf", _poppler),
+    Viewer("poppler", "pdftocairo", "pdf", _poppler),
     Viewer("librsvg", "rsvg-convert", "svg", _rsvg),
     Viewer("Chromium", "chromium", "html", _chromium),
     Viewer("Inkscape", "inkscape", "emf", _inkscape),
     Viewer("LibreOffice", "soffice", "emf", _office),
     Viewer("Inkscape", "inkscape", "wmf", _inkscape),
     Viewer("LibreOffice", "soffice", "wmf", _office),
-    Viewer("LibreOffice", "soffice", "cgm", _office),
 )

@@ -3,8 +3,8 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.DisplayList;
 
-/// <content>Lines that reach far outside of the page. Devices have limits for coordinates, and a line whose end is moved
-/// has another direction; so they are clipped before, dashes going on as if they were whole.</content>
+/// <content>Lines that reach far outside of the page. Devices have limits for coordinates, and a line whose end is
+/// moved has another direction; so they are clipped before, with the dashes of the whole line.</content>
 internal sealed partial class DrawingList
 {
     private readonly PathBuffer _piece = new();

@@ -87,7 +87,13 @@ internal sealed class PatternDetail
             _lines.AppendMapped(_local, area.Map, area.Elevation);
             _list.Stroke(
                 _lines,
-                new StrokeAttributes { Color = item.Color, LineWeight = item.LineWeight, Dash = -1, Layer = item.Layer });
+                new StrokeAttributes
+                {
+                    Color = item.Color,
+                    LineWeight = item.LineWeight,
+                    Dash = -1,
+                    Layer = item.Layer,
+                });
             return;
         }
 

@@ -45,7 +45,13 @@ internal sealed class Canvas
     /// <summary>Strokes with the line type of the pen; a path shorter than one period is drawn continuous.</summary>
     internal void Stroke(PathBuffer path, in Pen pen)
     {
-        var style = new StrokeAttributes { Color = pen.Color, LineWeight = pen.LineWeight, Dash = -1, Layer = pen.Layer };
+        var style = new StrokeAttributes
+        {
+            Color = pen.Color,
+            LineWeight = pen.LineWeight,
+            Dash = -1,
+            Layer = pen.Layer,
+        };
         double period = (pen.Pattern?.Period ?? 0) * pen.PatternScale;
         if (pen.Pattern == null || !(period > 0) || !double.IsFinite(period))
         {

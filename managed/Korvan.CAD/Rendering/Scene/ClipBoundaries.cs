@@ -22,14 +22,15 @@ internal sealed class ClipBoundaries
     private ClipBoundaries(ExtensionDictionaries? owned) => _owned = owned;
 
     internal static ClipBoundaries Of(CadDrawing drawing) =>
-        drawing.Objects.OfType<CadSpatialFilter>().Any() ? new ClipBoundaries(new ExtensionDictionaries(drawing)) : None;
+        drawing.Objects.OfType<CadSpatialFilter>().Any()
+            ? new ClipBoundaries(new ExtensionDictionaries(drawing)) : None;
 
     /// <summary>Returns the corners of the boundary of a block reference; null for one that is not clipped.</summary>
     internal Vec3[]? Find(CadInsertObject insert)
     {
         CadObjectBase? filters = _owned?.Entry(_owned.Of(insert), Filters);
-        return _owned?.Entry(filters as CadDictionaryBase, Spatial) is CadSpatialFilter { IsBoundaryShown: not 0 } filter
-            ? CornersOf(filter) : null;
+        CadObjectBase? filter = _owned?.Entry(filters as CadDictionaryBase, Spatial);
+        return filter is CadSpatialFilter { IsBoundaryShown: not 0 } spatial ? CornersOf(spatial) : null;
     }
 
     private static Vec3[]? CornersOf(CadSpatialFilter filter)

@@ -35,7 +35,7 @@ internal static class OptionSamples
 
     private static CadImage Drawing()
     {
-        CadImage drawing = Picture.Drawing(
+        CadImage drawing = TestPage.Drawing(
             new CadLine { FirstPoint = P(3, 4), SecondPoint = P(61, 37), LineWeight = 211, ColorId = 1 },
             new CadLine { FirstPoint = P(3, 70), SecondPoint = P(97, 66), LineTypeName = "Gaps", LineWeight = 50 },
             new CadCircle { CenterPoint = P(70, 40), Radius = 19, Thickness = 30, LayerName = "Walls" },
@@ -55,9 +55,9 @@ internal static class OptionSamples
             });
         drawing.Header.LwDisplay = 1;
         drawing.LineTypes.Add(new CadLineTypeTableObject { Name = "Gaps", Pattern = { 6, -4 } });
-        Picture.AddLayer(drawing, "Walls", 6);
-        Picture.AddLayer(drawing, "Notes to self", 2).PlotFlag = 0;
-        CadLayout sheet = Picture.Sheet(drawing);
+        TestPage.AddLayer(drawing, "Walls", 6);
+        TestPage.AddLayer(drawing, "Notes to self", 2).PlotFlag = 0;
+        CadLayout sheet = TestPage.Sheet(drawing);
         (sheet.LayoutName, sheet.PaperWidth, sheet.PaperHeight) = ("Sheet", 60, 40);
         drawing.PaperSpaceEntities.Add(new CadLine { FirstPoint = P(5, 5), SecondPoint = P(90, 70) });
         drawing.FilePath = Path.Combine(Folder.Value, "plan.dxf");

@@ -247,7 +247,7 @@ public class ReaderTests
         ImageOptionsBase options =
             extension switch { ".jpg" => new JpegOptions(), ".tif" => new TiffOptions(), _ => new BmpOptions() };
         photo.Save(Path.Combine(folder, "photo" + extension), options);
-        CadImage drawing = Picture.Drawing(new CadRasterImage
+        CadImage drawing = TestPage.Drawing(new CadRasterImage
         {
             ImageDefReference = "77",
             ImageSize = new Cad2DPoint(32, 32),
@@ -258,7 +258,7 @@ public class ReaderTests
         });
         drawing.Objects.Add(new CadRasterImageDef { FileName = "photo" + extension, ObjectHandle = "77" });
         drawing.FilePath = Path.Combine(folder, "plan.dxf");
-        using Picture page = Picture.Of(drawing);
+        using TestPage page = TestPage.Of(drawing);
         Assert.InRange(page[36, 36].R, 240, 255);
         Assert.InRange(page[36, 36].G, 0, 10);
         Directory.Delete(folder, true);

@@ -123,10 +123,10 @@ public class WriterTests
     [Fact]
     public void Layouts_become_pages_and_frames()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 100, 1));
-        CadLayout sheet = Picture.Sheet(drawing);
+        CadImage drawing = TestPage.Drawing(TestPage.Square(0, 0, 100, 1));
+        CadLayout sheet = TestPage.Sheet(drawing);
         (sheet.PaperWidth, sheet.PaperHeight) = (150, 100);
-        drawing.PaperSpaceEntities.Add(Picture.Square(0, 0, 100, 5));
+        drawing.PaperSpaceEntities.Add(TestPage.Square(0, 0, 100, 5));
         var raster =
             new CadRasterizationOptions { PageWidth = 60, PageHeight = 40, Layouts = ["Model", sheet.LayoutName] };
         string tiff =

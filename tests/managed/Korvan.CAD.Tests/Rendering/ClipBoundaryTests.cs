@@ -29,7 +29,7 @@ public class ClipBoundaryTests
         }
 
         filter.IsBoundaryShown = (short)(name == "switched off" ? 0 : 1);
-        using Picture page = Picture.Of(Clipped(filter));
+        using TestPage page = TestPage.Of(Clipped(filter));
         Assert.Equal(Shown, page[x, y]);
         Assert.Equal(name == "switched off" ? Shown : Rgba.White, page[45, 50]);
         Assert.Equal(name is "polygon" ? Rgba.White : Shown, page[18, 45]);
@@ -37,9 +37,9 @@ public class ClipBoundaryTests
 
     private static CadImage Clipped(CadSpatialFilter filter)
     {
-        CadInsertObject reference = Picture.Insert("B");
-        CadImage drawing = Picture.Drawing(reference);
-        Picture.AddBlock(drawing, "B", Picture.Square(0, 5, 85, 1));
+        CadInsertObject reference = TestPage.Insert("B");
+        CadImage drawing = TestPage.Drawing(reference);
+        TestPage.AddBlock(drawing, "B", TestPage.Square(0, 5, 85, 1));
         reference = (CadInsertObject)drawing.Entities[0];
         var filters = new CadDictionary();
         var extension = new CadDictionary();

@@ -37,7 +37,8 @@ public class DeviceTests
     public void Dashes_leave_gaps_and_tiny_ones_melt()
     {
         var list = new DrawingList();
-        list.Stroke(Line(0, 20, 100, 20), new StrokeAttributes { Color = Red, LineWeight = 1, Dash = list.Dash([20, 20]) });
+        list.Stroke(
+            Line(0, 20, 100, 20), new StrokeAttributes { Color = Red, LineWeight = 1, Dash = list.Dash([20, 20]) });
         list.Stroke(Line(0, 60, 100, 60),
             new StrokeAttributes { Color = Red, LineWeight = 1, Dash = list.Dash([0.01, 0.01]) });
         using RasterPage page = Render(list);
@@ -190,7 +191,7 @@ public class DeviceTests
     {
         using var file = new MemoryStream();
         var raster = new CadRasterizationOptions { PageWidth = 200, PageHeight = 100 };
-        CadImage drawing = Picture.Drawing(new CadLine { SecondPoint = new Cad3DPoint(200, 100, 0) });
+        CadImage drawing = TestPage.Drawing(new CadLine { SecondPoint = new Cad3DPoint(200, 100, 0) });
         drawing.Save(file, new EmfOptions { VectorRasterizationOptions = raster });
         int Field(int at) => BitConverter.ToInt32(file.GetBuffer(), at);
         (int width, int height) = (Field(72), Field(76));

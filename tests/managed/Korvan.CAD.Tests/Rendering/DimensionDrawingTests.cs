@@ -24,7 +24,7 @@ public class DimensionDrawingTests
             StyleName = "Coloured",
             ColorId = 1,
         };
-        CadImage drawing = Picture.Drawing(dimension);
+        CadImage drawing = TestPage.Drawing(dimension);
         drawing.DimensionStyles.Add(new CadDimensionStyleTable { Name = "Coloured", Dimclre = 5, Dimscale = 20 });
         DrawingList list = Build(drawing);
         Assert.Empty(list.Skipped);
@@ -32,7 +32,7 @@ public class DimensionDrawingTests
         Assert.Equal(2, list.Items.ToArray().Count(item => item.Color == new Rgba(0, 0, 255)));
         Assert.Contains(
             list.Items.ToArray(), item => item.Kind == DisplayKind.Text && item.Color == new Rgba(255, 0, 0));
-        using Picture picture = Picture.Of(drawing);
+        using TestPage picture = TestPage.Of(drawing);
         Assert.True(picture[3, 30] is { R: 255, G: < 200, B: < 200 }, "within the arrowhead");
     }
 

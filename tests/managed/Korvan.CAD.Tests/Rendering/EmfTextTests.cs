@@ -54,7 +54,7 @@ public class EmfTextTests
     {
         using var file = new MemoryStream();
         var raster = new CadRasterizationOptions { PageWidth = 1000, PageHeight = 1000 };
-        Picture.Drawing(entities).Save(file, new EmfOptions { VectorRasterizationOptions = raster });
+        TestPage.Drawing(entities).Save(file, new EmfOptions { VectorRasterizationOptions = raster });
         return Read(file.ToArray());
     }
 

@@ -43,8 +43,8 @@ public class EntityFuzzTests
         for (int i = 0; i < Drawings; i++)
         {
             CadEntityBase[] entities = [.. Enumerable.Range(0, EntitiesInADrawing).Select(_ => Any(random))];
-            using CadImage drawing = Picture.Drawing(entities);
-            Picture.AddBlock(drawing, "block", Any(random));
+            using CadImage drawing = TestPage.Drawing(entities);
+            TestPage.AddBlock(drawing, "block", Any(random));
             ImageOptionsBase options = Outputs[i % Outputs.Length];
             if (options is not (DxfOptions or GlbOptions or StlOptions))
             {

@@ -29,13 +29,13 @@ public class EntityStyleTests
     {
         (string Why, CadEntityBase Entity, double Area, double Outline)[] rows =
         [
-            ("a solid", Picture.Square(0, 0, 10), 100, 40),
+            ("a solid", TestPage.Square(0, 0, 10), 100, 40),
             ("a wide polyline", Polyline(CadLwPolylineFlag.None, 2, (0, 0, 0), (10, 0, 0)), 20, 24),
             ("a hatch", SolidHatch(), 100, 0),
         ];
         foreach ((string why, CadEntityBase entity, double area, double outline) in rows)
         {
-            CadImage drawing = Picture.Drawing(entity);
+            CadImage drawing = TestPage.Drawing(entity);
             DrawingList filled = Build(drawing);
             Assert.True(Math.Abs(Area(filled) - area) < 1e-6 && Length(filled) == 0, why);
             drawing.Header.FillMode = 0;
@@ -52,7 +52,7 @@ public class EntityStyleTests
     {
         CadLwPolyline polyline = Polyline(flag, 0, (0, 0, 0), (30, 0, 1), (30, 30, 0), (0, 30, 0));
         polyline.LineTypeName = "D";
-        CadImage drawing = Picture.Drawing(polyline);
+        CadImage drawing = TestPage.Drawing(polyline);
         drawing.LineTypes.Add(LineType("D", 2, -1));
         DrawingList list = Build(drawing);
         Assert.Equal(strokes, list.Items.Length);
@@ -78,13 +78,13 @@ public class EntityStyleTests
         ];
         foreach (CadEntityBase entity in entities)
         {
-            CadImage drawing = Picture.Drawing(entity);
+            CadImage drawing = TestPage.Drawing(entity);
             drawing.LineTypes.Add(LineType("D", 2, -1));
             AssertBox(Build(drawing, front), 0, 1, 10, 5);
         }
 
-        Assert.Equal((4 * 10) + (4 * 4), Length(Build(Picture.Drawing(square), front)), 9);
-        CadImage pattern = Picture.Drawing(dashed);
+        Assert.Equal((4 * 10) + (4 * 4), Length(Build(TestPage.Drawing(square), front)), 9);
+        CadImage pattern = TestPage.Drawing(dashed);
         pattern.LineTypes.Add(LineType("D", 2, -1));
         Assert.Equal((2 * 10) + (2 * 4), Length(Build(pattern, front)), 9);
     }
@@ -146,7 +146,7 @@ public class EntityStyleTests
             type.ComplexTags.Add((2, new CadCodeValue(code, value)));
         }
 
-        CadImage drawing = Picture.Drawing(
+        CadImage drawing = TestPage.Drawing(
             new CadLine { FirstPoint = P(5, 0, 0), SecondPoint = P(5, 60, 0), LineTypeName = "GAS", ColorId = 1 });
         drawing.LineTypes.Add(type);
         DrawingList list = Build(drawing);
@@ -170,15 +170,15 @@ public class EntityStyleTests
     public void Transparency_comes_from_the_entity_its_layer_or_the_reference(
         short color, short insertColor, int own, int alpha)
     {
-        CadImage drawing = Picture.Drawing();
-        CadLayerTable layer = Picture.AddLayer(drawing, "GLASS", 5);
+        CadImage drawing = TestPage.Drawing();
+        CadLayerTable layer = TestPage.AddLayer(drawing, "GLASS", 5);
         var xdata = new CadXdata("AcCmTransparency");
         xdata.Data.Add(new CadCodeValue(1071, (0x02000000 | 128).ToString()));
         layer.XdataContainer.XdataEntities.Add(xdata);
-        CadSolid square = Picture.Square(0, 0, 10, color, "GLASS");
+        CadSolid square = TestPage.Square(0, 0, 10, color, "GLASS");
         square.Transparency = own;
-        Picture.AddBlock(drawing, "B", square);
-        CadInsertObject insert = Picture.Insert("B", 0, 0, insertColor);
+        TestPage.AddBlock(drawing, "B", square);
+        CadInsertObject insert = TestPage.Insert("B", 0, 0, insertColor);
         insert.Transparency = 0x02000000 | 77;
         drawing.AddEntity(insert);
         Assert.Equal(alpha, Build(drawing).Items[0].Color.A);
@@ -187,8 +187,8 @@ public class EntityStyleTests
     [Fact]
     public void Multileaders_show_their_block_scaled_and_turned()
     {
-        CadImage drawing = Picture.Drawing();
-        Picture.AddBlock(drawing, "TAG", new CadLine { FirstPoint = P(1, 1, 0), SecondPoint = P(4, 1, 0) })
+        CadImage drawing = TestPage.Drawing();
+        TestPage.AddBlock(drawing, "TAG", new CadLine { FirstPoint = P(1, 1, 0), SecondPoint = P(4, 1, 0) })
             .BasePoint = P(1, 1, 0);
         drawing.BlockRecords.Add(new CadBlockTableObject { Name = "TAG", ObjectHandle = "AB1" });
         var leader = new CadMLeader();
@@ -249,7 +249,7 @@ public class EntityStyleTests
             line.Vertices.Add(vertex);
         }
 
-        CadImage drawing = Picture.Drawing(line);
+        CadImage drawing = TestPage.Drawing(line);
         var style = new CadMLineStyleObject { StyleName = "DOUBLE", Flags = (short)flags, FillColorId = 3 };
         style.Elements.AddRange([
             new CadMLineStyleElement { Offset = 5, ColorId = 1 }, new CadMLineStyleElement { Offset = -5, ColorId = 5 },

@@ -149,7 +149,7 @@ public class EntityTests
     [InlineData(67, 56.569 + 40)] // a cross of twice the size in a square
     public void Points_are_drawn_as_their_mode_says(int mode, double length)
     {
-        CadImage drawing = Picture.Drawing(new CadPoint());
+        CadImage drawing = TestPage.Drawing(new CadPoint());
         drawing.Header.PdMode = mode;
         drawing.Header.PdSize = 10;
         Assert.Equal(length, Length(Build(drawing)), 0.05);
@@ -202,7 +202,7 @@ public class EntityTests
         }
 
         Assert.Equal(80 + 100, Length(Build(line)), 9);
-        CadImage capped = Picture.Drawing(line);
+        CadImage capped = TestPage.Drawing(line);
         var style = new CadMLineStyleObject { StyleName = "DOUBLE", Flags = 16 | 256 };
         style.Elements.AddRange([new CadMLineStyleElement { Offset = 5 }, new CadMLineStyleElement { Offset = -5 }]);
         capped.Objects.Add(style);
@@ -223,7 +223,7 @@ public class EntityTests
     [Fact]
     public void What_has_no_picture_is_counted()
     {
-        CadImage drawing = Picture.Drawing(new Cad3DSolid(), new Cad3DSolid(), Picture.Insert("MISSING"),
+        CadImage drawing = TestPage.Drawing(new Cad3DSolid(), new Cad3DSolid(), TestPage.Insert("MISSING"),
             new CadRadialDimension { BlockName = "*D9" });
         DrawingList list = Build(drawing);
         Assert.Equal(2, list.Skipped["3DSOLID"]);
@@ -234,8 +234,8 @@ public class EntityTests
     [Fact]
     public void Dimensions_draw_their_block_where_it_stands()
     {
-        CadImage drawing = Picture.Drawing(new CadRotatedDimension { BlockName = "*D1", ColorId = 1 });
-        Picture.AddBlock(drawing, "*D1", new CadLine { SecondPoint = P(30, 0, 0), ColorId = 0 });
+        CadImage drawing = TestPage.Drawing(new CadRotatedDimension { BlockName = "*D1", ColorId = 1 });
+        TestPage.AddBlock(drawing, "*D1", new CadLine { SecondPoint = P(30, 0, 0), ColorId = 0 });
         DrawingList list = Build(drawing);
         AssertBox(list, 0, 0, 30, 0);
         Assert.Equal(new Rgba(255, 0, 0), list.Items[0].Color);
@@ -261,7 +261,7 @@ public class EntityTests
     public void Dashes_need_room_for_a_period(double length, bool dashed)
     {
         var line = new CadLine { SecondPoint = P(length, 0, 0), LineTypeName = "D" };
-        CadImage drawing = Picture.Drawing(line);
+        CadImage drawing = TestPage.Drawing(line);
         var type = new CadLineTypeTableObject { Name = "D" };
         type.Pattern.AddRange([3, -2]);
         drawing.LineTypes.Add(type);
@@ -281,7 +281,7 @@ public class EntityTests
     [Fact]
     public void Colours_that_are_true_go_before_indexed_ones_and_off_layers_keep_theirs()
     {
-        CadImage drawing = Picture
+        CadImage drawing = TestPage
             .Drawing(new CadLine { SecondPoint = P(1, 0, 0), ColorId = 1, ColorValue = 0x123456 });
         Assert.Equal(new Rgba(0x12, 0x34, 0x56), Build(drawing).Items[0].Color);
         Assert.Equal(new Rgba(0, 255, 255), AciPalette.Color(4, Rgba.White));

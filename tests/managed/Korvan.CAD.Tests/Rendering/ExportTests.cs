@@ -16,8 +16,8 @@ public class ExportTests
     [Fact]
     public void Pdf_has_a_page_for_each_layout_in_the_asked_order_with_real_text()
     {
-        CadImage drawing = Picture.Drawing(Text("MODELTEXT"));
-        CadLayout sheet = Picture.Sheet(drawing);
+        CadImage drawing = TestPage.Drawing(Text("MODELTEXT"));
+        CadLayout sheet = TestPage.Sheet(drawing);
         (sheet.PaperWidth, sheet.PaperHeight) = (297, 210);
         drawing.PaperSpaceEntities.Add(Text("SHEETTEXT"));
         var options = new PdfOptions
@@ -25,7 +25,7 @@ public class ExportTests
             VectorRasterizationOptions = new CadRasterizationOptions { Layouts = [sheet.LayoutName, "Model"] },
             PdfDocumentInfo = new PdfDocumentInfo { Title = "Plan \u00c4", Author = "Someone" },
         };
-        string file = Picture.SaveTo(drawing, options, ".pdf");
+        string file = TestPage.SaveTo(drawing, options, ".pdf");
         string info = Tools.Run("pdfinfo", "-f", "1", "-l", "2", file);
         Assert.Contains("Plan \u00c4", info);
         Assert.Matches(@"Pages:\s+2", info);
@@ -43,20 +43,20 @@ public class ExportTests
     public void Page_sizes_are_in_their_unit(UnitType unit, float width, float height, string expected)
     {
         var raster = new CadRasterizationOptions { PageWidth = width, PageHeight = height, UnitType = unit };
-        string file = Picture.SaveTo(Picture.Drawing(Text("X")), new PdfOptions { VectorRasterizationOptions = raster },
-            ".pdf");
+        string file = TestPage.SaveTo(
+            TestPage.Drawing(Text("X")), new PdfOptions { VectorRasterizationOptions = raster }, ".pdf");
         Assert.Contains(expected, Tools.Run("pdfinfo", file));
     }
 
     [Fact]
     public void Svg_can_keep_text_as_text_at_the_same_place()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 100, 3), Text("A<B & \u00c4"));
+        CadImage drawing = TestPage.Drawing(TestPage.Square(0, 0, 100, 3), Text("A<B & \u00c4"));
         string[] pictures = new string[2];
         for (int i = 0; i < 2; i++)
         {
             var raster = new CadRasterizationOptions { PageWidth = 200, PageHeight = 200 };
-            string file = Picture.SaveTo(drawing,
+            string file = TestPage.SaveTo(drawing,
                 new SvgOptions { TextAsShapes = i == 0, VectorRasterizationOptions = raster }, ".svg");
             Tools.Run("xmllint", "--noout", file);
             Assert.Equal(i == 1, File.ReadAllText(file).Contains(">A&lt;B &amp; \u00c4</text>"));
@@ -73,8 +73,8 @@ public class ExportTests
     public void Svg_is_well_formed_and_shows_the_same_in_another_renderer()
     {
         var raster = new CadRasterizationOptions { PageWidth = 100, PageHeight = 100 };
-        CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 100, 1), Picture.Square(20, 20, 30, 5), Text("x"));
-        string file = Picture.SaveTo(drawing, new SvgOptions { VectorRasterizationOptions = raster }, ".svg");
+        CadImage drawing = TestPage.Drawing(TestPage.Square(0, 0, 100, 1), TestPage.Square(20, 20, 30, 5), Text("x"));
+        string file = TestPage.SaveTo(drawing, new SvgOptions { VectorRasterizationOptions = raster }, ".svg");
         Tools.Run("xmllint", "--noout", file);
         string png = Tools.TempFile(".png");
         Tools.Run("rsvg-convert", "-o", png, file);
@@ -87,9 +87,9 @@ public class ExportTests
     public void Content_as_bitmap_and_watermarks_reach_the_page()
     {
         var raster = new CadRasterizationOptions { PageWidth = 200, PageHeight = 200, ContentAsBitmap = true };
-        CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 100, 1), Text("NOTEXT"));
+        CadImage drawing = TestPage.Drawing(TestPage.Square(0, 0, 100, 1), Text("NOTEXT"));
         var options = new PdfOptions { VectorRasterizationOptions = raster, UserWatermarkText = "DRAFT" };
-        string file = Picture.SaveTo(drawing, options, ".pdf");
+        string file = TestPage.SaveTo(drawing, options, ".pdf");
         string text = Tools.Run("pdftotext", "-raw", file, "-");
         Assert.DoesNotContain("NOTEXT", text);
         Assert.Equal("DRAFT", string.Concat(text.Where(char.IsLetter)));
@@ -122,10 +122,10 @@ public class ExportTests
     [Fact]
     public void Drawings_without_size_still_get_a_page()
     {
-        foreach (CadImage drawing in new[] { Picture.Drawing(), Picture.Drawing(new CadPoint()),
-            Picture.Drawing(Horizontal(5)) })
+        foreach (CadImage drawing in new[] { TestPage.Drawing(), TestPage.Drawing(new CadPoint()),
+            TestPage.Drawing(Horizontal(5)) })
         {
-            string file = Picture.SaveTo(drawing, new PdfOptions(), ".pdf");
+            string file = TestPage.SaveTo(drawing, new PdfOptions(), ".pdf");
             Assert.Matches(@"Pages:\s+1", Tools.Run("pdfinfo", file));
         }
     }
@@ -133,7 +133,7 @@ public class ExportTests
     [Fact]
     public void What_cannot_be_a_page_is_refused_with_its_reason()
     {
-        CadImage wide = Picture.Drawing(Horizontal(1e9));
+        CadImage wide = TestPage.Drawing(Horizontal(1e9));
         Refused(wide, new PdfOptions { VectorRasterizationOptions = new CadRasterizationOptions { NoScaling = true } },
             "too large");
         Refused(wide,
@@ -145,7 +145,7 @@ public class ExportTests
                     PageHeight = 10
                 }
             }, "too large");
-        Refused(Picture.Drawing(Horizontal(1e308), Horizontal(-1e308)), new PngOptions(), "not finite");
+        Refused(TestPage.Drawing(Horizontal(1e308), Horizontal(-1e308)), new PngOptions(), "not finite");
         var borders = new CadRasterizationOptions { PageWidth = 10, PageHeight = 10, BorderX = 8 };
         Refused(wide, new PngOptions { VectorRasterizationOptions = borders }, "no room");
         Refused(wide,
@@ -160,7 +160,7 @@ public class ExportTests
                 "Model"]
                 }
             }, "one page");
-        CadImage large = Picture.Drawing(Horizontal(20_000));
+        CadImage large = TestPage.Drawing(Horizontal(20_000));
         Refused(large,
             new PdfOptions
             {
@@ -175,9 +175,9 @@ public class ExportTests
     [Fact]
     public void Coordinates_that_are_not_numbers_do_not_reach_the_page()
     {
-        CadImage drawing = Picture.Drawing(Horizontal(double.NaN), Horizontal(double.PositiveInfinity),
-            Picture.Square(0, 0, 50, 1));
-        using Picture picture = Picture.Of(drawing);
+        CadImage drawing = TestPage.Drawing(Horizontal(double.NaN), Horizontal(double.PositiveInfinity),
+            TestPage.Square(0, 0, 50, 1));
+        using TestPage picture = TestPage.Of(drawing);
         Assert.Equal(255, picture[20, 20].R);
     }
 

@@ -32,7 +32,7 @@ public sealed class FrameTests : IDisposable
     {
         Place(underlay);
         underlay.ClipPoints.AddRange([new Cad2DPoint(1, 1), new Cad2DPoint(3, 2)]);
-        DrawingList list = Build(Picture.Drawing(underlay));
+        DrawingList list = Build(TestPage.Drawing(underlay));
 
         // Scaled by 2 and 3, rotated by 90 degrees, moved by (10, 0).
         AssertBox(list, 4, 2, 7, 6);
@@ -62,13 +62,13 @@ public sealed class FrameTests : IDisposable
             LowerRightPoint = new Cad3DPoint(80, 20, 0),
             Data = [1, 2, 3, .. Bitmap(), 9, 9],
         };
-        using Picture picture = Picture.Of(Picture.Drawing(frame));
+        using TestPage picture = TestPage.Of(TestPage.Drawing(frame));
         Rgba lowerLeft = picture[35, 35];
         Rgba upperRight = picture[65, 65];
         Assert.True(lowerLeft is { R: > 200, G: < 40, B: < 40 }, $"{lowerLeft}");
         Assert.True(upperRight is { R: < 40, G: < 40, B: > 200 }, $"{upperRight}");
         Assert.Equal((".bmp", 2.0), (frame.GetPreview()!.FileExtension, frame.GetPreview()!.Size.Width));
-        Assert.Empty(Build(Picture.Drawing(frame)).Skipped);
+        Assert.Empty(Build(TestPage.Drawing(frame)).Skipped);
     }
 
     [Theory]
@@ -82,7 +82,7 @@ public sealed class FrameTests : IDisposable
             LowerRightPoint = new Cad3DPoint(6, 2, 0),
             Data = hasMetafile ? [7, .. Metafile()] : [0x28, 0, 0, 0, 255, 255, 255, 255],
         };
-        DrawingList list = Build(Picture.Drawing(frame));
+        DrawingList list = Build(TestPage.Drawing(frame));
         AssertBox(list, 1, 2, 6, 4);
         Assert.Equal(1, list.Skipped["content of OLE2FRAME"]);
         Assert.Equal(hasMetafile ? ".emf" : null, frame.GetPreview()?.FileExtension);
@@ -140,13 +140,13 @@ public sealed class FrameTests : IDisposable
 
     private static (double Left, double Right) Extents(CadUnderlay underlay)
     {
-        CadImage drawing = Picture.Drawing(underlay);
+        CadImage drawing = TestPage.Drawing(underlay);
         return (drawing.MinPoint.X, drawing.MaxPoint.X);
     }
 
     private CadImage Drawing(CadShape shape)
     {
-        CadImage drawing = Picture.Drawing(shape);
+        CadImage drawing = TestPage.Drawing(shape);
         drawing.Styles.Add(new CadStyleTableObject
         {
             Name = "",
@@ -198,7 +198,7 @@ public sealed class FrameTests : IDisposable
 
     private static int Lines(CadEntityBase entity)
     {
-        DrawingList list = Build(Picture.Drawing(entity));
+        DrawingList list = Build(TestPage.Drawing(entity));
         int lines = 0;
         foreach (ref readonly DisplayItem item in list.Items)
         {

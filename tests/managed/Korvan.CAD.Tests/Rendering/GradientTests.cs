@@ -86,7 +86,7 @@ public class GradientTests
         Gradient mirrored = GradientOf(hatch);
         Assert.Equal(Red, ColorAt(mirrored, new Vec2(0, 5)));
         Assert.Equal(Blue, ColorAt(mirrored, new Vec2(-10, 5)));
-        CadImage drawing = Picture.Drawing(hatch);
+        CadImage drawing = TestPage.Drawing(hatch);
         DrawingList list = SceneList.Build(drawing, new RenderStyle { SingleColor = Blue });
         Assert.Equal((-1, Blue), (list.Items[0].Extra, list.Items[0].Color)); // one colour for all
     }

@@ -74,13 +74,13 @@ public class InheritanceTests
     private static DrawingList List(Action<CadLine> own, Action<CadInsertObject> inner, Action<CadInsertObject> outer)
     {
         var line = new CadLine { SecondPoint = new Cad3DPoint(1000, 0, 0) };
-        CadInsertObject first = Picture.Insert("INNER", 0, 0, 256, "LAYER");
-        CadInsertObject second = Picture.Insert("OUTER", 0, 0, 256, "LAYER");
+        CadInsertObject first = TestPage.Insert("INNER", 0, 0, 256, "LAYER");
+        CadInsertObject second = TestPage.Insert("OUTER", 0, 0, 256, "LAYER");
         own(line);
         inner(first);
         outer(second);
-        CadImage drawing = Picture.Drawing();
-        CadLayerTable layer = Picture.AddLayer(drawing, "LAYER", 3);
+        CadImage drawing = TestPage.Drawing();
+        CadLayerTable layer = TestPage.AddLayer(drawing, "LAYER", 3);
         (layer.LineWeight, layer.LineTypeName) = (50, "MIDDLE");
         foreach ((string name, double dash) in new[] { ("SHORT", 3.0), ("MIDDLE", 5.0), ("LONG", 8.0) })
         {
@@ -89,8 +89,8 @@ public class InheritanceTests
             drawing.LineTypes.Add(type);
         }
 
-        Picture.AddBlock(drawing, "INNER", line);
-        Picture.AddBlock(drawing, "OUTER", first);
+        TestPage.AddBlock(drawing, "INNER", line);
+        TestPage.AddBlock(drawing, "OUTER", first);
         drawing.AddEntity(second);
         return SceneList.Build(drawing, new RenderStyle { AsPlotted = true });
     }

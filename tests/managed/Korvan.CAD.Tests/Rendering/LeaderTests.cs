@@ -61,8 +61,8 @@ public class LeaderTests
         leader.Coordinates.Add(new Cad3DPoint(20, 0, 0));
         foreach (CadEntityBase entity in new CadEntityBase[] { leader, multi })
         {
-            CadImage drawing = Picture.Drawing(entity);
-            Picture.AddBlock(drawing, "Own", Picture.Square(0, 0, 1), new CadLine());
+            CadImage drawing = TestPage.Drawing(entity);
+            TestPage.AddBlock(drawing, "Own", TestPage.Square(0, 0, 1), new CadLine());
             var record = new CadBlockTableObject { Name = name, ObjectHandle = "E1" };
             drawing.BlockRecords.Add(record);
             multi.Style.ArrowheadHandle = line.ArrowheadHandle = record.ObjectHandle;
@@ -87,7 +87,7 @@ public class LeaderTests
         return leader;
     }
 
-    private static DrawingList Build(CadMLeader leader) => Build(Picture.Drawing(leader));
+    private static DrawingList Build(CadMLeader leader) => Build(TestPage.Drawing(leader));
 
     private static DrawingList Build(CadImage drawing)
     {

@@ -46,7 +46,7 @@ public class PageTests
     {
         CadRasterizationOptions raster = new() { PageWidth = 200, PageHeight = 200 };
         change(raster);
-        using RasterPage page = Render(Picture.Drawing(Picture.Square(5, 5, 10, 1)), raster);
+        using RasterPage page = Render(TestPage.Drawing(TestPage.Square(5, 5, 10, 1)), raster);
         List<(int X,
             int Y)> drawn = [.. Enumerable.Range(0, page.Width * page.Height).Select(i =>
                 (X: i % page.Width, Y: i / page.Width)).Where(place => At(page, place.X, place.Y) == Red)];
@@ -60,7 +60,7 @@ public class PageTests
     [Fact]
     public void The_side_that_is_not_given_follows_the_drawing()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 10, 1), Picture.Square(30, 0, 10, 1));
+        CadImage drawing = TestPage.Drawing(TestPage.Square(0, 0, 10, 1), TestPage.Square(30, 0, 10, 1));
         using RasterPage wide = Render(drawing, new CadRasterizationOptions { PageWidth = 400 });
         Assert.Equal((400, 100), (wide.Width, wide.Height));
         using RasterPage high = Render(drawing, new CadRasterizationOptions { PageHeight = 50 });
@@ -70,7 +70,7 @@ public class PageTests
     [Fact]
     public void Backgrounds_are_painted_or_left_open()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 10, 1), Picture.Square(90, 90, 10, 1));
+        CadImage drawing = TestPage.Drawing(TestPage.Square(0, 0, 10, 1), TestPage.Square(90, 90, 10, 1));
         CadRasterizationOptions raster = new()
         {
             PageWidth = 100,
@@ -94,7 +94,7 @@ public class PageTests
         hatch.BoundaryPaths.Add(new CadHatchBoundaryPathContainer(box));
         hatch.PatternDefinitions
             .Add(new CadHatchPatternData { LineAngle = 45, LineOffset = new(-7.0710678, 7.0710678) });
-        using Picture picture = Picture.Of(Picture.Drawing(hatch), o => o.VisibilityMode = VisibilityMode.AsPrint);
+        using TestPage picture = TestPage.Of(TestPage.Drawing(hatch), o => o.VisibilityMode = VisibilityMode.AsPrint);
         double coverage = Enumerable.Range(0, 100 * 100).Sum(i => 1 - (picture[i % 100, i / 100].G / 255.0));
         Assert.InRange(coverage / (80 * 80), 0.17, 0.24); // lines of two, ten apart
     }
@@ -114,7 +114,7 @@ public class PageTests
             AttachmentPoint = attachment,
             ColorId = 1
         };
-        using Picture picture = Picture.Of(Picture.Drawing(text));
+        using TestPage picture = TestPage.Of(TestPage.Drawing(text));
         List<(int X,
             int Y)> drawn = [.. Enumerable.Range(0, 100 * 100).Select(i => (X: i % 100, Y: i / 100)).Where(place =>
                 picture[place.X, place.Y].G < 128)];
@@ -127,8 +127,8 @@ public class PageTests
     [Fact]
     public void Words_stand_in_a_pdf_where_they_stand_in_the_drawing()
     {
-        CadImage drawing = Picture.Drawing(
-            Picture.Square(0, 0, 1, 5), Picture.Square(199, 99, 1, 5), Word("FIRST", 20, 20), Word("SECOND", 120, 60),
+        CadImage drawing = TestPage.Drawing(
+            TestPage.Square(0, 0, 1, 5), TestPage.Square(199, 99, 1, 5), Word("FIRST", 20, 20), Word("SECOND", 120, 60),
                 Word("\u00C4\u03A9\u0416", 20, 60));
         CadRasterizationOptions raster = new() { PageWidth = 400, PageHeight = 200 };
         PdfOptions options = new()
@@ -142,7 +142,7 @@ public class PageTests
                 Author = "\u00C4"
             },
         };
-        string file = Picture.SaveTo(drawing, options, ".pdf");
+        string file = TestPage.SaveTo(drawing, options, ".pdf");
         string boxes = Tools.Run("pdftotext", "-bbox", file, "-");
         foreach ((string word, double x, double y) in new[] { ("FIRST", 40.0, 160.0), ("SECOND", 240, 80),
             ("\u00C4\u03A9\u0416", 40, 80) })
@@ -164,12 +164,12 @@ public class PageTests
     [Fact]
     public void Svg_has_the_size_of_its_page_and_nothing_that_runs()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 20, 1), Word("<script>&\"'", 0, 5));
+        CadImage drawing = TestPage.Drawing(TestPage.Square(0, 0, 20, 1), Word("<script>&\"'", 0, 5));
         foreach (bool shapes in new[] { true, false })
         {
             CadRasterizationOptions raster = new() { PageWidth = 300, PageHeight = 150 };
             XElement root = XDocument
-                .Load(Picture.SaveTo(drawing,
+                .Load(TestPage.SaveTo(drawing,
                 new SvgOptions { TextAsShapes = shapes, VectorRasterizationOptions = raster }, ".svg")).Root!;
             Assert.Equal("svg", root.Name.LocalName);
             Assert.Equal([300, 150],
@@ -184,7 +184,7 @@ public class PageTests
     [Fact]
     public void Pixels_state_their_size_on_paper()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 20, 1));
+        CadImage drawing = TestPage.Drawing(TestPage.Square(0, 0, 20, 1));
         PngOptions options = new()
         {
             VectorRasterizationOptions = new CadRasterizationOptions

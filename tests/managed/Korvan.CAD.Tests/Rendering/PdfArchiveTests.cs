@@ -137,9 +137,9 @@ public sealed class PdfArchiveTests : IDisposable
     [Fact]
     public void Options_ask_for_archives_and_drawings_date_them()
     {
-        CadImage drawing = Picture.Drawing(new CadText { DefaultValue = "Plan", TextHeight = 5 });
+        CadImage drawing = TestPage.Drawing(new CadText { DefaultValue = "Plan", TextHeight = 5 });
         drawing.Drawing.Header.Set("$TDUCREATE", 40, "2460000.25");
-        string file = Picture.SaveTo(drawing, new PdfOptions
+        string file = TestPage.SaveTo(drawing, new PdfOptions
         {
             CorePdfOptions = new PdfDocumentOptions { Compliance = PdfCompliance.PdfA1b },
             PdfDocumentInfo = new PdfDocumentInfo { Title = "Plan" },

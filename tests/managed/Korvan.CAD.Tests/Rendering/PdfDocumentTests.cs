@@ -101,10 +101,10 @@ public sealed class PdfDocumentTests : IDisposable
     [Fact]
     public void Layers_that_are_not_plotted_are_not_printed()
     {
-        CadImage drawing = Picture.Drawing(
-            Picture.Square(0, 0, 10, 1, "helplines"), Picture.Square(20, 0, 10, 1, "walls"));
-        Picture.AddLayer(drawing, "helplines", 3).IsPlottable = false;
-        Picture.AddLayer(drawing, "walls", 3);
+        CadImage drawing = TestPage.Drawing(
+            TestPage.Square(0, 0, 10, 1, "helplines"), TestPage.Square(20, 0, 10, 1, "walls"));
+        TestPage.AddLayer(drawing, "helplines", 3).IsPlottable = false;
+        TestPage.AddLayer(drawing, "walls", 3);
         string plain = PdfSample.Plain(PdfSample.ToFile(Save(drawing, new PdfOptions())));
         string screen = Regex.Match(plain, @"(\d+) 0 obj\n<<[^>]*/Name \(helplines\)").Groups[1].Value;
         Assert.Equal(1, PdfSample.Count(plain, "/PrintState /OFF"));
@@ -118,12 +118,12 @@ public sealed class PdfDocumentTests : IDisposable
     [InlineData("", null)]
     public void Entities_lead_where_their_data_says(string target, string? address)
     {
-        CadSolid door = Picture.Square(0, 0, 10, 1);
+        CadSolid door = TestPage.Square(0, 0, 10, 1);
         var link = new CadXdata("PE_URL");
         link.Data.Add(new CadCodeValue(1000, target));
         door.XdataContainer.XdataEntities.Add(link);
         CadRasterizationOptions raster = new() { PageWidth = 400, PageHeight = 100 };
-        CadImage drawing = Picture.Drawing(door, Picture.Square(30, 0, 10, 1));
+        CadImage drawing = TestPage.Drawing(door, TestPage.Square(30, 0, 10, 1));
         foreach (PdfCompliance compliance in (PdfCompliance[])[PdfCompliance.Pdf15, PdfCompliance.PdfA1b])
         {
             byte[] document = Save(drawing, new PdfOptions
@@ -169,8 +169,8 @@ public sealed class PdfDocumentTests : IDisposable
     [Fact]
     public void Scenes_of_many_entities_are_drawn_in_parts()
     {
-        CadImage drawing = Picture.Drawing([.. Enumerable.Range(0, 70_000).Select(i =>
-            Picture.Square(i % 300, i / 300, 0.5, (short)(1 + (i % 7))))]);
+        CadImage drawing = TestPage.Drawing([.. Enumerable.Range(0, 70_000).Select(i =>
+            TestPage.Square(i % 300, i / 300, 0.5, (short)(1 + (i % 7))))]);
         byte[] document = Save(drawing, new PdfOptions());
         string plain = PdfSample.Plain(PdfSample.ToFile(document));
         Assert.Equal(70_000, PdfSample.Count(plain, @"\nf\*?\n"));
@@ -213,7 +213,7 @@ public sealed class PdfDocumentTests : IDisposable
     {
         var raster = new CadRasterizationOptions { PageWidth = (float)side, PageHeight = 100 };
         byte[] document = Save(
-            Picture.Drawing(Picture.Square(0, 0, 10, 1)), new PdfOptions { VectorRasterizationOptions = raster });
+            TestPage.Drawing(TestPage.Square(0, 0, 10, 1)), new PdfOptions { VectorRasterizationOptions = raster });
         string plain = PdfSample.Plain(PdfSample.ToFile(document));
         double width = double.Parse(Regex.Match(plain, @"/MediaBox \[\s+0\s+0\s+([0-9.]+)").Groups[1].Value,
             System.Globalization.CultureInfo.InvariantCulture);

@@ -46,7 +46,8 @@ internal static class PdfSample
         var curve = new PathBuffer();
         curve.MoveTo(new Vec2(10, 110));
         curve.CurveTo(new Vec2(30, 190), new Vec2(50, 80), new Vec2(70, 140));
-        list.Stroke(curve, new StrokeAttributes { Color = Blue.WithAlpha(128), LineWeight = 3, Dash = -1, Layer = notes });
+        list.Stroke(
+            curve, new StrokeAttributes { Color = Blue.WithAlpha(128), LineWeight = 3, Dash = -1, Layer = notes });
         list.Fill(Box(80, 10, 130, 60), Blue, walls, evenOdd: false);
         list.Fill(Box(100, 30, 150, 80), Red.WithAlpha(128), notes, evenOdd: true);
         GradientStop[] stops = [new(0, Red), new(0.4, Rgba.White), new(0.4, Blue), new(1, Rgba.Black)];

@@ -116,8 +116,8 @@ public sealed class PdfTextTests : IDisposable
         byte[] font = File.ReadAllBytes(Fontconfig.FileOf(0, "DejaVu Sans", false, false)!);
         SetLicense(font, license);
         File.WriteAllBytes(Path.Combine(folder, "own.ttf"), font);
-        CadImage made = Picture.Drawing(new CadText { DefaultValue = "LICENSE", TextHeight = 10 });
-        string drawing = Picture.SaveTo(made, new DxfOptions(), ".dxf");
+        CadImage made = TestPage.Drawing(new CadText { DefaultValue = "LICENSE", TextHeight = 10 });
+        string drawing = TestPage.SaveTo(made, new DxfOptions(), ".dxf");
         var fonts = new LoadOptions
         {
             CustomFontFolders = [folder],
@@ -138,8 +138,8 @@ public sealed class PdfTextTests : IDisposable
     public void Damaged_fonts_end_in_a_document_or_an_error()
     {
         byte[] sound = File.ReadAllBytes(Fontconfig.FileOf(0, "DejaVu Sans", false, false)!);
-        CadImage made = Picture.Drawing(new CadText { DefaultValue = "Damaged ÄΩ fi", TextHeight = 10 });
-        string drawing = Picture.SaveTo(made, new DxfOptions(), ".dxf");
+        CadImage made = TestPage.Drawing(new CadText { DefaultValue = "Damaged ÄΩ fi", TextHeight = 10 });
+        string drawing = TestPage.SaveTo(made, new DxfOptions(), ".dxf");
         int tables = System.Buffers.Binary.BinaryPrimitives.ReadUInt16BigEndian(sound.AsSpan(4));
         for (int seed = 0; seed < 40; seed++)
         {

@@ -49,7 +49,7 @@ public class PixelTests
     public void Strokes_lie_where_geometry_puts_them(string why, CadEntityBase entity, int[] drawn, int[] blank)
     {
         (entity.ColorId, entity.LineWeight) = (1, 100); // almost four pixels
-        using Picture picture = Picture.Of(Picture.Drawing(entity), o => o.VisibilityMode = VisibilityMode.AsPrint);
+        using TestPage picture = TestPage.Of(TestPage.Drawing(entity), o => o.VisibilityMode = VisibilityMode.AsPrint);
         foreach (int[] place in drawn.Chunk(2))
         {
             Assert.True(picture[place[0], place[1]] == Red,
@@ -71,10 +71,10 @@ public class PixelTests
     [InlineData(211, -1, VisibilityMode.AsScreen, 1)] // weights are not shown
     public void Lines_are_as_thick_as_they_or_their_layer_say(short own, short layer, VisibilityMode mode, int pixels)
     {
-        CadImage drawing = Picture
+        CadImage drawing = TestPage
             .Drawing(new CadLine { FirstPoint = P(10, 50), SecondPoint = P(90, 50), LineWeight = own, ColorId = 1 });
         drawing.Layers["0"].LineWeight = layer;
-        using Picture picture = Picture.Of(drawing, o => o.VisibilityMode = mode);
+        using TestPage picture = TestPage.Of(drawing, o => o.VisibilityMode = mode);
         double coverage = Enumerable.Range(30, 40).Sum(y => 1 - (picture[50, y].G / 255.0));
         Assert.InRange(coverage, pixels - 0.6, pixels + 0.6);
     }
@@ -85,7 +85,7 @@ public class PixelTests
     [InlineData(5, 2, 5)]
     public void Dashes_are_as_many_as_fit(double dash, double scale, int dashes)
     {
-        CadImage drawing = Picture
+        CadImage drawing = TestPage
             .Drawing(new CadLine
             {
                 FirstPoint = P(5, 50),
@@ -96,7 +96,7 @@ public class PixelTests
                 LineWeight = 100
             });
         drawing.LineTypes.Add(new CadLineTypeTableObject { Name = "GAPS", Pattern = { dash, -dash } });
-        using Picture picture = Picture.Of(drawing, o =>
+        using TestPage picture = TestPage.Of(drawing, o =>
             (o.VisibilityMode, o.PenOptions) = (VisibilityMode.AsPrint,
                 new PenOptions { StartCap = LineCap.Flat, EndCap = LineCap.Flat }));
         int found = Enumerable.Range(1, 98).Count(x => picture[x, 50].G < 128 && picture[x - 1, 50].G >= 128);
@@ -112,27 +112,27 @@ public class PixelTests
     [InlineData("invisible", VisibilityMode.AsScreen, false)]
     public void Layers_hide_what_lies_on_them(string state, VisibilityMode mode, bool shown)
     {
-        CadSolid square = Picture.Square(20, 20, 60, 1, "L");
-        CadImage drawing = Picture.Drawing(square);
-        CadLayerTable layer = Picture.AddLayer(drawing, "l", 5); // found whatever the case
+        CadSolid square = TestPage.Square(20, 20, 60, 1, "L");
+        CadImage drawing = TestPage.Drawing(square);
+        CadLayerTable layer = TestPage.AddLayer(drawing, "l", 5); // found whatever the case
         layer.IsOn = state != "off";
         layer.IsFrozen = state == "frozen";
         layer.PlotFlag = (short)(state == "no plot" ? 0 : 1);
         square.Visible = (short)(state == "invisible" ? 1 : 0);
-        using Picture picture = Picture.Of(drawing, o => o.VisibilityMode = mode);
+        using TestPage picture = TestPage.Of(drawing, o => o.VisibilityMode = mode);
         Assert.Equal(shown ? Red : Rgba.White, picture[50, 50]);
     }
 
     [Fact]
     public void By_block_goes_up_to_the_first_reference_that_has_a_colour()
     {
-        CadImage drawing = Picture.Drawing();
-        Picture.AddLayer(drawing, "GREEN", 3);
-        Picture.AddBlock(drawing, "INNER", Picture.Square(0, 0, 10, 0), Picture.Square(20, 0, 10, 256),
-            Picture.Square(40, 0, 10, 4));
-        Picture.AddBlock(drawing, "OUTER", Picture.Insert("INNER", 0, 0, 0), Picture.Insert("INNER", 0, 20, 2));
-        drawing.AddEntity(Picture.Insert("OUTER", 10, 10, 1, "GREEN"));
-        using Picture picture = Picture.Of(drawing);
+        CadImage drawing = TestPage.Drawing();
+        TestPage.AddLayer(drawing, "GREEN", 3);
+        TestPage.AddBlock(drawing, "INNER", TestPage.Square(0, 0, 10, 0), TestPage.Square(20, 0, 10, 256),
+            TestPage.Square(40, 0, 10, 4));
+        TestPage.AddBlock(drawing, "OUTER", TestPage.Insert("INNER", 0, 0, 0), TestPage.Insert("INNER", 0, 20, 2));
+        drawing.AddEntity(TestPage.Insert("OUTER", 10, 10, 1, "GREEN"));
+        using TestPage picture = TestPage.Of(drawing);
         Assert.Equal(Red, picture[15, 15]); // by block twice: that of the outermost
         Assert.Equal(new Rgba(255, 255, 0, 255), picture[15, 35]); // the inner reference has its own
         Assert.Equal(new Rgba(0, 255, 255, 255), picture[55, 15]); // a colour stays itself
@@ -142,8 +142,8 @@ public class PixelTests
     public void Wipeouts_hide_what_was_drawn_before_and_not_what_comes_behind()
     {
         CadWipeout wipeout = new() { InsertionPoint = P(30, 30), VectorU = P(40, 0), VectorV = P(0, 40) };
-        using Picture picture = Picture
-            .Of(Picture.Drawing(Picture.Square(0, 0, 100, 1), wipeout, Picture.Square(60, 60, 5, 5)));
+        using TestPage picture = TestPage
+            .Of(TestPage.Drawing(TestPage.Square(0, 0, 100, 1), wipeout, TestPage.Square(60, 60, 5, 5)));
         Assert.Equal(Red, picture[20, 50]);
         Assert.Equal(Rgba.White, picture[40, 40]);
         Assert.Equal(255, picture[62, 62].B);
@@ -158,7 +158,7 @@ public class PixelTests
     {
         CadHatch hatch = Hatch(Box(20, 60), Box(30, 40), Box(40, 20));
         (hatch.HatchStyle, hatch.ColorId) = (style, 1);
-        using Picture picture = Picture.Of(Picture.Drawing(hatch));
+        using TestPage picture = TestPage.Of(TestPage.Drawing(hatch));
         Assert.InRange(Coverage(picture), area - 2, area + 2);
     }
 
@@ -178,7 +178,7 @@ public class PixelTests
             });
         CadHatch hatch = Hatch(disc, oval);
         hatch.ColorId = 1;
-        using Picture picture = Picture.Of(Picture.Drawing(hatch));
+        using TestPage picture = TestPage.Of(TestPage.Drawing(hatch));
         double area = Math.PI * ((30 * 30) - (20 * 10));
         Assert.InRange(Coverage(picture), area * 0.995, area * 1.005);
     }
@@ -189,7 +189,7 @@ public class PixelTests
         CadHatch hatch = Hatch(Box(10, 80));
         (hatch.IsGradient, hatch.GradientName) = (1, "LINEAR");
         hatch.GradientColors.AddRange([0xFF0000, 0x0000FF]);
-        using Picture picture = Picture.Of(Picture.Drawing(hatch));
+        using TestPage picture = TestPage.Of(TestPage.Drawing(hatch));
         (Rgba left, Rgba right) = (picture[11, 50], picture[88, 50]);
         Assert.True(left.R > 235 && left.B < 20, $"left {left}");
         Assert.True(right.B > 235 && right.R < 20, $"right {right}");
@@ -217,7 +217,7 @@ public class PixelTests
             VerticalAlignment = vertical,
             ColorId = 1
         };
-        using Picture picture = Picture.Of(Picture.Drawing(text));
+        using TestPage picture = TestPage.Of(TestPage.Drawing(text));
         (int minX, int minY, int maxX, int maxY) = InkBox(picture);
         double width = maxX - minX;
         Assert.InRange(maxY - minY, 11, 13);
@@ -230,15 +230,15 @@ public class PixelTests
     [Fact]
     public void Text_in_a_mirrored_reference_is_mirrored_with_it()
     {
-        CadImage drawing = Picture.Drawing();
-        Picture.AddBlock(drawing, "T", new CadText { DefaultValue = "LLL", TextHeight = 20, ColorId = 1 });
-        CadInsertObject insert = Picture.Insert("T", 90, 40);
+        CadImage drawing = TestPage.Drawing();
+        TestPage.AddBlock(drawing, "T", new CadText { DefaultValue = "LLL", TextHeight = 20, ColorId = 1 });
+        CadInsertObject insert = TestPage.Insert("T", 90, 40);
         insert.ScaleX = -1;
         drawing.AddEntity(insert);
-        using Picture mirrored = Picture.Of(drawing);
-        CadImage plain = Picture
+        using TestPage mirrored = TestPage.Of(drawing);
+        CadImage plain = TestPage
             .Drawing(new CadText { DefaultValue = "LLL", TextHeight = 20, FirstAlignment = P(10, 40), ColorId = 1 });
-        using Picture expected = Picture.Of(plain);
+        using TestPage expected = TestPage.Of(plain);
         int[] different = [.. Enumerable.Range(0, 100 * 100).Where(i =>
             Math.Abs(mirrored[i % 100, i / 100].G - expected[99 - (i % 100), i / 100].G) > 60)];
         Assert.True(different.Length < 20, $"{different.Length} pixels differ");
@@ -248,9 +248,9 @@ public class PixelTests
     [Fact]
     public void Viewports_scale_turn_and_clip_what_they_show()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(100, 100, 10, 1), Picture.Square(100, 118, 4, 5),
-            Picture.Square(160, 100, 10, 3));
-        CadLayout sheet = Picture.Sheet(drawing);
+        CadImage drawing = TestPage.Drawing(TestPage.Square(100, 100, 10, 1), TestPage.Square(100, 118, 4, 5),
+            TestPage.Square(160, 100, 10, 3));
+        CadLayout sheet = TestPage.Sheet(drawing);
         (sheet.PaperWidth, sheet.PaperHeight, sheet.LeftMargin, sheet.BottomMargin, sheet.RightMargin,
             sheet.TopMargin) = (100, 100, 0, 0, 0, 0);
         drawing.PaperSpaceEntities.Add(new CadViewport
@@ -263,7 +263,7 @@ public class PixelTests
             ViewTarget = P(100, 100),
             ViewTwistAngle = 90,
         });
-        using Picture picture = Picture.Of(drawing, o => o.Layouts = [sheet.LayoutName]);
+        using TestPage picture = TestPage.Of(drawing, o => o.Layouts = [sheet.LayoutName]);
         Assert.Equal(Red, picture[40, 60]); // what lay up and right lies up and left
         Assert.Equal(Rgba.White, picture[60, 60]);
         Assert.Equal(255, picture[12, 54].B);
@@ -302,10 +302,10 @@ public class PixelTests
         return hatch;
     }
 
-    private static double Coverage(Picture picture) =>
+    private static double Coverage(TestPage picture) =>
         Enumerable.Range(0, 100 * 100).Sum(i => 1 - (picture[i % 100, i / 100].G / 255.0));
 
-    private static (int MinX, int MinY, int MaxX, int MaxY) InkBox(Picture picture)
+    private static (int MinX, int MinY, int MaxX, int MaxY) InkBox(TestPage picture)
     {
         List<(int X,
             int Y)> inked = [.. Enumerable.Range(0, 100 * 100).Select(i => (X: i % 100, Y: i / 100)).Where(place =>

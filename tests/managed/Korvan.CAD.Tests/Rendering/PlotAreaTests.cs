@@ -30,7 +30,7 @@ public class PlotAreaTests
         object type, double unitsPerMillimetre, bool centered,
         double minX, double minY, double maxX, double maxY)
     {
-        CadImage drawing = Picture.Drawing();
+        CadImage drawing = TestPage.Drawing();
         CadLayout layout = Layout(drawing, (CadPlotType)type, unitsPerMillimetre);
         layout.PlotFlags |= centered ? CadPlotLayoutFlag.PlotCentered : 0;
         layout.StandardScale = 16;
@@ -51,9 +51,9 @@ public class PlotAreaTests
     [Fact]
     public void Only_the_window_is_plotted()
     {
-        CadImage drawing = Picture.Drawing();
-        drawing.PaperSpaceEntities.Add(Picture.Square(0, 0, 40, 1));
-        drawing.PaperSpaceEntities.Add(Picture.Square(50, 0, 40, 5));
+        CadImage drawing = TestPage.Drawing();
+        drawing.PaperSpaceEntities.Add(TestPage.Square(0, 0, 40, 1));
+        drawing.PaperSpaceEntities.Add(TestPage.Square(50, 0, 40, 5));
         CadLayout layout = Layout(drawing, CadPlotType.WindowSpecified, 1);
         (layout.PlotOriginX, layout.PlotOriginY) = (0, 0);
         (layout.PlotWindowLeft, layout.PlotWindowBottom, layout.PlotWindowRight, layout.PlotWindowTop) = (0, 0, 40, 40);
@@ -75,7 +75,7 @@ public class PlotAreaTests
     [InlineData(CadPlotType.WindowSpecified, 1 / 25.4)]
     public void Content_that_misses_the_paper_is_fitted_to_it(object type, double unitsPerMillimetre)
     {
-        CadImage drawing = Picture.Drawing();
+        CadImage drawing = TestPage.Drawing();
         Layout(drawing, (CadPlotType)type, unitsPerMillimetre);
         PaperSheet sheet = SheetOf(drawing, Content);
         Assert.True(sheet.Region.Contains(Content.MinX, Content.MinY));
@@ -90,7 +90,7 @@ public class PlotAreaTests
     public void Pages_of_pixels_have_a_length_with_a_resolution(
         object unit, float width, float height, int pixelsAcross, int pixelsDown)
     {
-        using RasterPage page = Rasterizer.Draw(Picture.Drawing(Picture.Square(0, 0, 10)), new ImageOptions.PngOptions
+        using RasterPage page = Rasterizer.Draw(TestPage.Drawing(TestPage.Square(0, 0, 10)), new ImageOptions.PngOptions
         {
             ResolutionSettings = new ResolutionSetting(100, 100),
             VectorRasterizationOptions = new ImageOptions.CadRasterizationOptions
@@ -105,7 +105,7 @@ public class PlotAreaTests
 
     private static CadLayout Layout(CadImage drawing, CadPlotType type, double unitsPerMillimetre)
     {
-        CadLayout layout = Picture.Sheet(drawing);
+        CadLayout layout = TestPage.Sheet(drawing);
         (layout.PaperWidth, layout.PaperHeight, layout.PlotType) = (220, 120, type);
         (layout.LeftMargin, layout.BottomMargin, layout.RightMargin, layout.TopMargin) = (10, 10, 10, 10);
         (layout.PlotOriginX, layout.PlotOriginY) = (5, 2);

@@ -33,12 +33,12 @@ public class RealDrawingTests
         using var drawing = (CadImage)Image.Load(SharedDrawings.Dxf(name));
         string[] layouts = [.. drawing.Layouts.Names];
         var raster = new CadRasterizationOptions { Layouts = layouts };
-        string pdf = Picture.SaveTo(drawing, new PdfOptions { VectorRasterizationOptions = raster }, ".pdf");
+        string pdf = TestPage.SaveTo(drawing, new PdfOptions { VectorRasterizationOptions = raster }, ".pdf");
         Assert.Matches($@"Pages:\s+{layouts.Length}\b", Tools.Run("pdfinfo", pdf));
         Tools.Run("pdftocairo", "-svg", pdf, Tools.TempFile(".svg"));
-        Tools.Run("xmllint", "--noout", "--huge", Picture.SaveTo(drawing, new SvgOptions(), ".svg"));
+        Tools.Run("xmllint", "--noout", "--huge", TestPage.SaveTo(drawing, new SvgOptions(), ".svg"));
         Tools.Run("xmllint", "--noout", "--huge",
-            Picture.SaveTo(drawing, new SvgOptions { TextAsShapes = false }, ".svg"));
+            TestPage.SaveTo(drawing, new SvgOptions { TextAsShapes = false }, ".svg"));
         using var output = new MemoryStream();
         drawing.Save(output, new PngOptions());
         Assert.True(output.Length > 100);
@@ -52,11 +52,11 @@ public class RealDrawingTests
         using var drawing = (CadImage)Image.Load(SharedDrawings.Dxf(name));
         var raster = new CadRasterizationOptions { PageWidth = Width, PageHeight = Height };
         bool[] expected = Foreground(
-            Picture.SaveTo(drawing, new PngOptions { VectorRasterizationOptions = raster }, ".png"));
+            TestPage.SaveTo(drawing, new PngOptions { VectorRasterizationOptions = raster }, ".png"));
         foreach (bool shapes in new[] { true, false })
         {
             var options = new SvgOptions { TextAsShapes = shapes, VectorRasterizationOptions = raster };
-            string svg = Picture.SaveTo(drawing, options, ".svg");
+            string svg = TestPage.SaveTo(drawing, options, ".svg");
             string png = Tools.TempFile(".png");
             Tools.Run("rsvg-convert", "--unlimited", "-b", "white", "-o", png, svg);
             bool[] actual = Foreground(png);

@@ -17,7 +17,7 @@ internal static class SceneList
 {
     internal static Cad3DPoint P(double x, double y, double z) => new(x, y, z);
 
-    internal static DrawingList Build(params CadEntityBase[] entities) => Build(Picture.Drawing(entities));
+    internal static DrawingList Build(params CadEntityBase[] entities) => Build(TestPage.Drawing(entities));
 
     internal static DrawingList Build(CadImage drawing, RenderStyle? style = null)
     {

@@ -36,14 +36,14 @@ public class SceneTests
     [Fact]
     public void Colours_come_from_layers_blocks_and_nested_references()
     {
-        CadImage drawing = Picture.Drawing();
-        Picture.AddLayer(drawing, "GREEN", 3);
-        Picture.AddBlock(drawing, "INNER", Picture.Square(0, 0, 10, 0), Picture.Square(20, 0, 10),
-            Picture.Square(40, 0, 10, 256, "GREEN"));
-        Picture.AddBlock(drawing, "OUTER", Picture.Insert("INNER", 0, 0, 0));
-        Picture.AddLayer(drawing, "BLUE", 5);
-        drawing.AddEntity(Picture.Insert("OUTER", 10, 10, 1, "BLUE"));
-        using Picture picture = Picture.Of(drawing);
+        CadImage drawing = TestPage.Drawing();
+        TestPage.AddLayer(drawing, "GREEN", 3);
+        TestPage.AddBlock(drawing, "INNER", TestPage.Square(0, 0, 10, 0), TestPage.Square(20, 0, 10),
+            TestPage.Square(40, 0, 10, 256, "GREEN"));
+        TestPage.AddBlock(drawing, "OUTER", TestPage.Insert("INNER", 0, 0, 0));
+        TestPage.AddLayer(drawing, "BLUE", 5);
+        drawing.AddEntity(TestPage.Insert("OUTER", 10, 10, 1, "BLUE"));
+        using TestPage picture = TestPage.Of(drawing);
         Assert.Equal(Red, picture[15, 15]); // by block, through two references
         Assert.Equal(Blue, picture[35, 15]); // layer 0 stands for the reference's layer
         Assert.Equal(Green, picture[55, 15]); // a layer of its own
@@ -54,14 +54,14 @@ public class SceneTests
     [InlineData(false, true, true, false)] // off: only what lies on it goes
     public void Frozen_and_off_layers_hide_references_differently(bool frozen, bool off, bool ownShown, bool zeroShown)
     {
-        CadImage drawing = Picture.Drawing();
-        CadLayerTable layer = Picture.AddLayer(drawing, "SWITCHED", 5);
+        CadImage drawing = TestPage.Drawing();
+        CadLayerTable layer = TestPage.AddLayer(drawing, "SWITCHED", 5);
         layer.IsFrozen = frozen;
         layer.IsOn = !off;
-        Picture.AddLayer(drawing, "OWN", 1);
-        Picture.AddBlock(drawing, "B", Picture.Square(0, 0, 10, 256, "OWN"), Picture.Square(20, 0, 10));
-        drawing.AddEntity(Picture.Insert("B", 10, 10, 256, "SWITCHED"));
-        using Picture picture = Picture.Of(drawing);
+        TestPage.AddLayer(drawing, "OWN", 1);
+        TestPage.AddBlock(drawing, "B", TestPage.Square(0, 0, 10, 256, "OWN"), TestPage.Square(20, 0, 10));
+        drawing.AddEntity(TestPage.Insert("B", 10, 10, 256, "SWITCHED"));
+        using TestPage picture = TestPage.Of(drawing);
         Assert.Equal(ownShown, picture[15, 15] == Red);
         Assert.Equal(zeroShown, picture[35, 15] == Blue);
     }
@@ -69,13 +69,13 @@ public class SceneTests
     [Fact]
     public void References_are_mirrored_stretched_turned_and_repeated()
     {
-        CadImage drawing = Picture.Drawing();
-        Picture.AddBlock(drawing, "B", Picture.Square(1, 1, 4, 1)).BasePoint = new Cad3DPoint(1, 1, 0);
-        CadInsertObject insert = Picture.Insert("B", 50, 50);
+        CadImage drawing = TestPage.Drawing();
+        TestPage.AddBlock(drawing, "B", TestPage.Square(1, 1, 4, 1)).BasePoint = new Cad3DPoint(1, 1, 0);
+        CadInsertObject insert = TestPage.Insert("B", 50, 50);
         (insert.ScaleX, insert.ScaleY, insert.RotationAngle) = (-2, 1, 90);
         (insert.ColumnCount, insert.ColumnSpacing) = (2, 20);
         drawing.AddEntity(insert);
-        using Picture picture = Picture.Of(drawing);
+        using TestPage picture = TestPage.Of(drawing);
         Assert.Equal(Red, picture[48, 45]); // 8 long down, 4 wide to the left
         Assert.Equal(Rgba.White, picture[48, 40]);
         Assert.Equal(Red, picture[48, 65]); // the second column, up along the turned axis
@@ -85,29 +85,29 @@ public class SceneTests
     [Fact]
     public void References_without_end_are_left_out_by_name()
     {
-        CadImage loop = Picture.Drawing(Picture.Insert("A"));
-        Picture.AddBlock(loop, "A", Picture.Insert("B"));
-        Picture.AddBlock(loop, "B", Picture.Insert("a"));
+        CadImage loop = TestPage.Drawing(TestPage.Insert("A"));
+        TestPage.AddBlock(loop, "A", TestPage.Insert("B"));
+        TestPage.AddBlock(loop, "B", TestPage.Insert("a"));
         Assert.Contains("\"A\" in itself", NotesOf(loop));
 
-        CadImage deep = Picture.Drawing(Picture.Insert("L0"));
+        CadImage deep = TestPage.Drawing(TestPage.Insert("L0"));
         for (int i = 0; i < 70; i++)
         {
-            Picture.AddBlock(deep, "L" + i, Picture.Insert("L" + (i + 1)));
+            TestPage.AddBlock(deep, "L" + i, TestPage.Insert("L" + (i + 1)));
         }
 
         Assert.Contains("\"L64\", nested", NotesOf(deep));
 
-        CadInsertObject array = Picture.Insert("CELL");
+        CadInsertObject array = TestPage.Insert("CELL");
         (array.ColumnCount, array.RowCount) = (32000, 32000);
-        CadImage huge = Picture.Drawing(array);
-        Picture.AddBlock(huge, "CELL", Picture.Square(0, 0, 1));
+        CadImage huge = TestPage.Drawing(array);
+        TestPage.AddBlock(huge, "CELL", TestPage.Square(0, 0, 1));
         Assert.Contains("\"CELL\" more than", NotesOf(huge));
     }
 
     private static string NotesOf(CadImage drawing)
     {
-        drawing.AddEntity(Picture.Square(0, 0, 1));
+        drawing.AddEntity(TestPage.Square(0, 0, 1));
         var options = new PdfOptions();
         drawing.Save(new MemoryStream(), options);
         return string.Join(' ', options.RenderResult!.Failures.Select(static note => note.Message));
@@ -116,15 +116,15 @@ public class SceneTests
     [Fact]
     public void Attributes_show_their_values_and_definitions_do_not_show_in_references()
     {
-        CadImage drawing = Picture.Drawing();
-        Picture.AddBlock(drawing, "B",
+        CadImage drawing = TestPage.Drawing();
+        TestPage.AddBlock(drawing, "B",
             new CadAttDef { DefinitionTagString = "TAG", DefaultValue = "DEFAULT", TextHeight = 5 });
-        CadInsertObject insert = Picture.Insert("B", 10, 10);
+        CadInsertObject insert = TestPage.Insert("B", 10, 10);
         insert.Attributes
             .Add(new CadAttrib { DefaultValue = "SHOWN", TextHeight = 5, FirstAlignment = new Cad3DPoint(10, 10, 0) });
         insert.Attributes.Add(new CadAttrib { DefaultValue = "HIDDEN", TextHeight = 5, AttFlags = 1 });
         drawing.AddEntity(insert);
-        string text = Tools.Run("pdftotext", Picture.SaveTo(drawing, new PdfOptions(), ".pdf"), "-");
+        string text = Tools.Run("pdftotext", TestPage.SaveTo(drawing, new PdfOptions(), ".pdf"), "-");
         Assert.Contains("SHOWN", text);
         Assert.DoesNotContain("TAG", text);
         Assert.DoesNotContain("HIDDEN", text);
@@ -141,7 +141,7 @@ public class SceneTests
             VectorU = new Cad3DPoint(10, 0, 0),
             VectorV = new Cad3DPoint(0, 10, 0)
         };
-        using Picture picture = Picture.Of(Picture.Drawing(hatch, wipeout, Picture.Square(80, 80, 5, 5)));
+        using TestPage picture = TestPage.Of(TestPage.Drawing(hatch, wipeout, TestPage.Square(80, 80, 5, 5)));
         Assert.Equal(Red, picture[60, 25]);
         Assert.Equal(Rgba.White, picture[40, 40]);
         Assert.Equal(Rgba.White, picture[15, 15]);
@@ -174,7 +174,7 @@ public class SceneTests
         path.Edges.Add(lower);
         CadHatch hatch = Hatch(path);
         hatch.ColorId = 1;
-        using Picture picture = Picture.Of(Picture.Drawing(hatch));
+        using TestPage picture = TestPage.Of(TestPage.Drawing(hatch));
         Assert.Equal(Red, picture[50, 75]);
         Assert.Equal(Red, picture[50, 25]);
         Assert.Equal(Rgba.White, picture[22, 75]);
@@ -194,9 +194,9 @@ public class SceneTests
             LinetypeScale = 2,
             LineWeight = 211,
         };
-        CadImage drawing = Picture.Drawing(line);
+        CadImage drawing = TestPage.Drawing(line);
         drawing.LineTypes.Add(dashed);
-        using Picture picture = Picture.Of(
+        using TestPage picture = TestPage.Of(
             drawing, o =>
                 (o.PenOptions, o.VisibilityMode) = (new PenOptions { StartCap = LineCap.Flat },
                     VisibilityMode.AsPrint));
@@ -208,12 +208,12 @@ public class SceneTests
     [Fact]
     public void Black_and_white_swap_with_the_background_and_one_colour_may_serve_all()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(10, 10, 20, 7), Picture.Square(50, 10, 20, 3));
-        using Picture dark = Picture.Of(drawing, o => o.BackgroundColor = Color.Black);
+        CadImage drawing = TestPage.Drawing(TestPage.Square(10, 10, 20, 7), TestPage.Square(50, 10, 20, 3));
+        using TestPage dark = TestPage.Of(drawing, o => o.BackgroundColor = Color.Black);
         Assert.Equal(Rgba.White, dark[20, 20]);
-        using Picture light = Picture.Of(drawing);
+        using TestPage light = TestPage.Of(drawing);
         Assert.Equal(Rgba.Black, light[20, 20]);
-        using Picture single = Picture.Of(drawing, o =>
+        using TestPage single = TestPage.Of(drawing, o =>
             (o.DrawType, o.DrawColor) = (CadDrawTypeMode.UseDrawColor, Color.FromArgb(0, 0, 255)));
         Assert.Equal(Blue, single[20, 20]);
         Assert.Equal(Blue, single[60, 20]);
@@ -222,9 +222,10 @@ public class SceneTests
     [Fact]
     public void Only_named_layers_are_drawn()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(10, 10, 20, 1, "A"), Picture.Square(50, 10, 20, 3, "B"),
-            Picture.Square(0, 0, 100, 7, "C"));
-        using Picture picture = Picture.Of(drawing, o => (o.Layers, o.ScaleMethod) = (["a", "0"], ScaleType.GrowToFit));
+        CadImage drawing = TestPage.Drawing(TestPage.Square(10, 10, 20, 1, "A"), TestPage.Square(50, 10, 20, 3, "B"),
+            TestPage.Square(0, 0, 100, 7, "C"));
+        using TestPage picture = TestPage.Of(
+            drawing, o => (o.Layers, o.ScaleMethod) = (["a", "0"], ScaleType.GrowToFit));
         Assert.Equal(Red, picture[20, 20]);
         Assert.Equal(Rgba.White, picture[60, 20]);
     }
@@ -232,11 +233,11 @@ public class SceneTests
     [Fact]
     public void Viewports_show_the_model_scaled_clipped_and_without_their_frozen_layers()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(1000, 1000, 10, 1),
-            Picture.Square(1020, 1000, 10, 3, "FROZEN"), Picture.Square(1100, 1000, 10, 5));
-        CadLayerTable frozen = Picture.AddLayer(drawing, "FROZEN", 3);
+        CadImage drawing = TestPage.Drawing(TestPage.Square(1000, 1000, 10, 1),
+            TestPage.Square(1020, 1000, 10, 3, "FROZEN"), TestPage.Square(1100, 1000, 10, 5));
+        CadLayerTable frozen = TestPage.AddLayer(drawing, "FROZEN", 3);
         frozen.ObjectHandle = "ABC";
-        CadLayout sheet = Picture.Sheet(drawing);
+        CadLayout sheet = TestPage.Sheet(drawing);
         (sheet.PaperWidth, sheet.PaperHeight, sheet.LeftMargin, sheet.BottomMargin) = (100, 100, 0, 0);
         var viewport = new CadViewport
         {
@@ -249,7 +250,7 @@ public class SceneTests
         };
         viewport.FrozenLayers.Add("ABC");
         drawing.PaperSpaceEntities.Add(viewport);
-        using Picture picture = Picture.Of(drawing, o => o.Layouts = [sheet.LayoutName]);
+        using TestPage picture = TestPage.Of(drawing, o => o.Layouts = [sheet.LayoutName]);
         Assert.Equal(Red, picture[30, 30]); // model (1005, 1005) at twice its size
         Assert.Equal(Rgba.White, picture[70, 30]);
         Assert.Equal(Rgba.White, picture[90, 30]);
@@ -279,10 +280,10 @@ public class SceneTests
             ImageSize = new Cad2DPoint(2, 2),
             ImageDefReference = "77",
         };
-        CadImage drawing = Picture.Drawing(image);
+        CadImage drawing = TestPage.Drawing(image);
         drawing.FilePath = Path.Combine(inner, "plan.dxf");
         drawing.Objects.Add(new CadRasterImageDef { FileName = file, ObjectHandle = "77" });
-        using Picture picture = Picture.Of(drawing);
+        using TestPage picture = TestPage.Of(drawing);
         Assert.Equal(shown ? Red : Rgba.White, picture[30, 30]);
     }
 

@@ -24,8 +24,8 @@ public class SheetTests
     public void Paper_reaches_past_the_printable_area_by_its_turned_margins(
         object rotation, double left, double bottom, double minX, double minY, double maxX, double maxY)
     {
-        CadImage drawing = Picture.Drawing();
-        CadLayout layout = Picture.Sheet(drawing);
+        CadImage drawing = TestPage.Drawing();
+        CadLayout layout = TestPage.Sheet(drawing);
         (layout.PaperWidth, layout.PaperHeight, layout.LeftMargin, layout.BottomMargin) = (297, 210, left, bottom);
         (layout.RightMargin, layout.TopMargin, layout.PlotRotation) = (30, 40, (CadPlotRotation)rotation);
         Bounds2 region = SceneReader.Read(drawing.Drawing).Layouts.First(l => !l.IsModel).Plot!
@@ -48,8 +48,8 @@ public class SheetTests
     [Fact]
     public void Viewports_are_clipped_by_the_shape_that_bounds_them()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(-100, -100, 200, 1));
-        CadLayout sheet = Picture.Sheet(drawing);
+        CadImage drawing = TestPage.Drawing(TestPage.Square(-100, -100, 200, 1));
+        CadLayout sheet = TestPage.Sheet(drawing);
         (sheet.PaperWidth, sheet.PaperHeight, sheet.LeftMargin, sheet.BottomMargin) = (100, 100, 0, 0);
         var circle = new CadCircle { CenterPoint = new Cad3DPoint(50, 50, 0), Radius = 20, ObjectHandle = "F1" };
         drawing.PaperSpaceEntities.Add(circle);
@@ -63,7 +63,7 @@ public class SheetTests
             StatusFlags = 0x10000,
             ClippingBoundaryHandle = "F1",
         });
-        using Picture picture = Picture.Of(drawing, o => o.Layouts = [sheet.LayoutName]);
+        using TestPage picture = TestPage.Of(drawing, o => o.Layouts = [sheet.LayoutName]);
         Assert.Equal(255, picture[50, 60].R);
         Assert.Equal(Rgba.White, picture[75, 75]);
     }
@@ -74,7 +74,7 @@ public class SheetTests
     public void Line_types_keep_their_size_on_paper_when_the_drawing_says_so(int paperScale, double expected)
     {
         var line = new CadLine { SecondPoint = new Cad3DPoint(10, 0, 0), LineTypeName = "D" };
-        CadImage drawing = Picture.Drawing(line);
+        CadImage drawing = TestPage.Drawing(line);
         drawing.Header.PsLtScale = paperScale;
         var type = new CadLineTypeTableObject { Name = "D" };
         type.Pattern.AddRange([2, -1]);
@@ -88,7 +88,7 @@ public class SheetTests
     [Fact]
     public void The_first_viewport_and_those_that_are_off_show_nothing()
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 1, 1));
+        CadImage drawing = TestPage.Drawing(TestPage.Square(0, 0, 1, 1));
         drawing.PaperSpaceEntities.Add(new CadViewport { ViewportId = 1, Width = 10, Height = 10, ViewHeight = 10 });
         drawing.PaperSpaceEntities
             .Add(new CadViewport { ViewportId = 2, Width = 10, Height = 10, ViewHeight = 10, ViewportStatus = 0 });
@@ -151,7 +151,7 @@ public class SheetTests
     public void Mirrored_text_keeps_its_axes()
     {
         // Seen from below, without a direction of its own: the world's x still leads, and y runs down.
-        CadImage drawing = Picture.Drawing(new CadMText
+        CadImage drawing = TestPage.Drawing(new CadMText
         {
             Text = "W",
             InitialTextHeight = 10,
@@ -167,7 +167,7 @@ public class SheetTests
 
     private static DrawingList BuildSheet(CadImage drawing)
     {
-        Picture.Sheet(drawing);
+        TestPage.Sheet(drawing);
         DrawingScene scene = SceneReader.Read(drawing.Drawing);
         using var engine = new TextEngine();
         return scene.Build(scene.Layouts.First(l => !l.IsModel), new RenderStyle(), engine);

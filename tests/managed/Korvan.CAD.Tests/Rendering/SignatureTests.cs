@@ -83,7 +83,7 @@ public class SignatureTests
     private static string Write(PdfDigitalSignatureDetailsCore details)
     {
         string file = Tools.TempFile(".pdf");
-        CadImage drawing = Picture.Drawing(Picture.Square(0, 0, 10));
+        CadImage drawing = TestPage.Drawing(TestPage.Square(0, 0, 10));
         drawing.Save(file, new PdfOptions { CorePdfOptions = new() { DigitalSignatureDetails = details } });
         return file;
     }

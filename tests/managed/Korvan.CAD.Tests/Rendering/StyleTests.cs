@@ -16,24 +16,24 @@ public class StyleTests
     [InlineData("33554432", 0)]
     public void A_layer_has_the_opacity_that_is_set(string value, int red)
     {
-        CadImage drawing = Picture.Drawing(Picture.Square(10, 10, 50, layer: "Faint"));
-        CadLayerTable layer = Picture.AddLayer(drawing, "Faint", 1);
+        CadImage drawing = TestPage.Drawing(TestPage.Square(10, 10, 50, layer: "Faint"));
+        CadLayerTable layer = TestPage.AddLayer(drawing, "Faint", 1);
         var data = new CadXdata("AcCmTransparency");
         data.Data.Add(new CadCodeValue(1071, value));
         layer.XdataContainer.XdataEntities.Add(data);
-        using Picture picture = Picture.Of(drawing);
+        using TestPage picture = TestPage.Of(drawing);
         Assert.Equal(255 - red, picture[30, 30].G, 1.5);
     }
 
     [Fact]
     public void Dots_between_dashes_are_drawn()
     {
-        CadImage drawing = Picture.Drawing(
+        CadImage drawing = TestPage.Drawing(
             new CadLine { FirstPoint = new(0, 50, 0), SecondPoint = new(100, 50, 0), LineTypeName = "DASHDOT" });
         CadLineTypeTableObject type = new() { Name = "DASHDOT" };
         type.Pattern.AddRange([12, -8, 0, -8]);
         drawing.LineTypes.Add(type);
-        using Picture picture = Picture.Of(drawing);
+        using TestPage picture = TestPage.Of(drawing);
         List<int> runs = [];
         bool wasDark = false;
         for (int x = 0; x < 100; x++)

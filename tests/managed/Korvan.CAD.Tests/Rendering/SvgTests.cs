@@ -125,7 +125,8 @@ public partial class SvgTests
     {
         var list = new DrawingList();
         int dash = list.Dash([3, 2]);
-        StrokeAttributes[] styles = [Style(Red), Style(Red), Style(Red) with { LineWeight = 2 }, Style(Blue), Style(Red),
+        StrokeAttributes[] styles = [
+            Style(Red), Style(Red), Style(Red) with { LineWeight = 2 }, Style(Blue), Style(Red),
             Style(Red) with { Dash = dash }, Style(Red) with { Dash = dash, DashOffset = 1 },
             Style(Red.WithAlpha(128)), Style(Red.WithAlpha(128)), Style(Red) with { Style = list.StyleIndex(default) }];
         for (int i = 0; i < styles.Length; i++)

@@ -29,8 +29,8 @@ public class MeshOutputTests
     [Fact]
     public void All_formats_hold_the_same_triangles_in_the_same_sense()
     {
-        CadImage drawing = Picture.Drawing(Box(3), Picture.Insert("B", 20, 5), Mirrored());
-        Picture.AddBlock(drawing, "B", new Cad3DFace
+        CadImage drawing = TestPage.Drawing(Box(3), TestPage.Insert("B", 20, 5), Mirrored());
+        TestPage.AddBlock(drawing, "B", new Cad3DFace
         {
             FirstPoint = new(0, 0, 0),
             SecondPoint = new(2, 0, 1),
@@ -70,9 +70,9 @@ public class MeshOutputTests
             }
         }
 
-        Assert.Equal(2 * cells, Stl(Save(Picture.Drawing(mesh), new StlOptions { Binary = true })).Count);
+        Assert.Equal(2 * cells, Stl(Save(TestPage.Drawing(mesh), new StlOptions { Binary = true })).Count);
         mesh.Vertices.RemoveAt(11); // a grid with a hole has no faces
-        Assert.ThrowsAny<Exception>(() => Save(Picture.Drawing(mesh), new StlOptions()));
+        Assert.ThrowsAny<Exception>(() => Save(TestPage.Drawing(mesh), new StlOptions()));
     }
 
     [Fact]
@@ -143,7 +143,7 @@ public class MeshOutputTests
 
     private static CadInsertObject Mirrored()
     {
-        CadInsertObject insert = Picture.Insert("B", -5, 0);
+        CadInsertObject insert = TestPage.Insert("B", -5, 0);
         (insert.ScaleX, insert.ScaleY, insert.RotationAngle) = (-1, 2, 90);
         return insert;
     }

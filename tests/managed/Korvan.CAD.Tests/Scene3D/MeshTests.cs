@@ -60,12 +60,12 @@ public class MeshTests
     [Fact]
     public void References_share_the_meshes_of_their_block_unless_it_inherits_something_else()
     {
-        CadImage drawing = Picture.Drawing(
+        CadImage drawing = TestPage.Drawing(
             Insert("fixed", 0, 1), Insert("fixed", 10, 2), Insert("by block", 0, 1), Insert("by block", 10, 1),
                 Insert("by block", 20, 2));
-        Picture.AddLayer(drawing, "own", 3);
-        Picture.AddBlock(drawing, "fixed", Picture.Square(0, 0, 1, 5, "own"), Picture.Square(2, 0, 1, 6, "own"));
-        Picture.AddBlock(drawing, "by block", Picture.Square(0, 0, 1, 0, "own"));
+        TestPage.AddLayer(drawing, "own", 3);
+        TestPage.AddBlock(drawing, "fixed", TestPage.Square(0, 0, 1, 5, "own"), TestPage.Square(2, 0, 1, 6, "own"));
+        TestPage.AddBlock(drawing, "by block", TestPage.Square(0, 0, 1, 0, "own"));
         Scene scene = DrawingMeshes.Read(drawing.Drawing, null, new MeshRequest());
         Assert.Equal(5, scene.Roots.Count);
         Assert.Equal(7, scene.Instances().Count());
@@ -77,8 +77,8 @@ public class MeshTests
     [Fact]
     public void A_file_holds_shared_meshes_once_near_their_origin_and_with_short_indices()
     {
-        CadImage drawing = Picture.Drawing([.. Enumerable.Range(0, 100).Select(i => Insert("far", i, 1))]);
-        CadBlockEntity block = Picture.AddBlock(drawing, "far", Picture.Square(5e6, 5e6, 1, 1));
+        CadImage drawing = TestPage.Drawing([.. Enumerable.Range(0, 100).Select(i => Insert("far", i, 1))]);
+        CadBlockEntity block = TestPage.AddBlock(drawing, "far", TestPage.Square(5e6, 5e6, 1, 1));
         block.BasePoint = new Cad3DPoint(5e6, 5e6, 0);
         JsonElement root = Gltf(drawing);
         JsonElement mesh = Assert.Single(root.GetProperty("meshes").EnumerateArray());
@@ -96,8 +96,8 @@ public class MeshTests
     [Fact]
     public void Colours_are_materials_each_once()
     {
-        CadImage drawing = Picture.Drawing(
-            [.. Enumerable.Range(0, 600).Select(i => Picture.Square(i, 0, 1, (short)(1 + (i % 7))))]);
+        CadImage drawing = TestPage.Drawing(
+            [.. Enumerable.Range(0, 600).Select(i => TestPage.Square(i, 0, 1, (short)(1 + (i % 7))))]);
         Assert.Equal(7, Gltf(drawing).GetProperty("materials").GetArrayLength());
     }
 
@@ -106,8 +106,8 @@ public class MeshTests
     {
         CadInsertObject insert = Insert("block", 10, 1);
         insert.ScaleX = -2;
-        CadImage drawing = Picture.Drawing(insert);
-        Picture.AddBlock(drawing, "block", Picture.Square(0, 0, 1, 5));
+        CadImage drawing = TestPage.Drawing(insert);
+        TestPage.AddBlock(drawing, "block", TestPage.Square(0, 0, 1, 5));
         DrawingEntity3D faces = Assert.Single(drawing.GetEntities3D());
         Assert.Equal("SOLID", faces.TypeNameText);
         Assert.Equal(2.0, faces.GetArea());
@@ -121,8 +121,8 @@ public class MeshTests
     {
         CadInsertObject first = Insert("one", 3, 1);
         (first.InsertionPoint.Y, first.InsertionPoint.Z) = (5, 7);
-        CadImage drawing = Picture.Drawing(first, Insert("one", 0, 1));
-        Picture.AddBlock(drawing, "one", Picture.Square(-1, -1, 2, 1));
+        CadImage drawing = TestPage.Drawing(first, Insert("one", 0, 1));
+        TestPage.AddBlock(drawing, "one", TestPage.Square(-1, -1, 2, 1));
         JsonElement[] nodes = [.. Gltf(drawing).GetProperty("nodes").EnumerateArray()];
         Vec3 By(JsonElement node) => node.TryGetProperty("translation", out JsonElement by)
             ? new Vec3(by[0].GetDouble(), by[1].GetDouble(), by[2].GetDouble())
@@ -134,7 +134,7 @@ public class MeshTests
         Assert.Equal([new Vec3(1.5, 2.5, 3.5), new Vec3(-1.5, -2.5, -3.5)], placed.Select(By));
     }
 
-    private static CadInsertObject Insert(string block, double x, short color) => Picture.Insert(block, x, 0, color);
+    private static CadInsertObject Insert(string block, double x, short color) => TestPage.Insert(block, x, 0, color);
 
     private static JsonElement Gltf(CadImage drawing)
     {

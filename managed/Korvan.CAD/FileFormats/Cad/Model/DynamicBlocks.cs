@@ -31,7 +31,8 @@ internal sealed class DynamicBlocks(CadDrawing drawing)
     internal string StateOf(CadInsertObject reference)
     {
         CadBlockVisibilityParameter? parameter = RecordOf(reference) is { } record
-            ? GraphOf(record)?.GetObjectHandles().Select(_owned.Find).OfType<CadBlockVisibilityParameter>().FirstOrDefault()
+            ? GraphOf(record)?.GetObjectHandles().Select(_owned.Find)
+                .OfType<CadBlockVisibilityParameter>().FirstOrDefault()
             : null;
         if (parameter is null)
         {

@@ -118,7 +118,7 @@ public class ProxyGraphicsTests
         foreach (CadImage image in new CadImage[] { drawing, DxfText.Reload(drawing) })
         {
             Assert.Equal(name, image.Entities[0].DxfName);
-            using Picture picture = Picture.Of(image);
+            using TestPage picture = TestPage.Of(image);
             Assert.Equal((255, 0, 0), (picture[25, 25].R, picture[25, 25].G, picture[25, 25].B));
             Assert.Equal((255, 255, 255), (picture[60, 60].R, picture[60, 60].G, picture[60, 60].B));
         }

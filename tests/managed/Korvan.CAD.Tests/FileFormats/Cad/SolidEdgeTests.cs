@@ -35,7 +35,7 @@ public class SolidEdgeTests
         string curve, string sense, string end, double minX, double minY, double maxX, double maxY)
     {
         string[] text = Body(curve, sense, end);
-        CadImage drawing = Picture.Drawing(Solid(text), Solid([.. text.Select(Encipher)]));
+        CadImage drawing = TestPage.Drawing(Solid(text), Solid([.. text.Select(Encipher)]));
         foreach (CadEntityBase solid in drawing.Entities.ToArray())
         {
             drawing.Entities.Clear();
@@ -78,7 +78,7 @@ public class SolidEdgeTests
         ];
         AcisWireframe edges = AcisReader.Read(text)!;
         Assert.Equal((2, 1), (edges.Splines.Count, edges.UnreadEdges));
-        DrawingList list = Build(Picture.Drawing(Solid(text)));
+        DrawingList list = Build(TestPage.Drawing(Solid(text)));
         Assert.Equal(1, list.Skipped["3DSOLID edge"]);
     }
 
@@ -86,10 +86,10 @@ public class SolidEdgeTests
     public void Spheres_and_tori_have_circles_for_edges()
     {
         string[] header = ["400 0 1 0", "x", "1 1e-6 1e-10", "body $-1 $-1 $-1 $-1 #"];
-        CadImage sphere = Picture.Drawing(
+        CadImage sphere = TestPage.Drawing(
             Solid([.. header, "sphere-surface $-1 1 2 3 5 1 0 0 0 0 1 forward_v I I I I #"]));
         Assert.Equal((-4.0, -3.0, -2.0), Rounded(sphere.MinPoint));
-        CadImage torus = Picture.Drawing(
+        CadImage torus = TestPage.Drawing(
             Solid([.. header, "torus-surface $-1 0 0 0 0 0 1 5 2 1 0 0 forward_v I I I I #"]));
         Assert.Equal((7.0, 7.0, 2.0), Rounded(torus.MaxPoint));
     }
@@ -103,7 +103,7 @@ public class SolidEdgeTests
     [InlineData("400 0 1 0|x|x|vertex $1 #|point 0 0 0 #|intcurve-curve { nubs 3 open 999999 1 #|edge $0 $0 $2 #")]
     public void Text_that_cannot_be_read_is_counted_and_draws_nothing(string lines)
     {
-        DrawingList list = Build(Picture.Drawing(Solid(lines.Split('|'))));
+        DrawingList list = Build(TestPage.Drawing(Solid(lines.Split('|'))));
         Assert.True(list.Items.IsEmpty);
         Assert.Equal(1, list.Skipped["3DSOLID"]);
     }

@@ -14,19 +14,19 @@ public class TextExtentsTests
     [Fact]
     public void A_text_takes_the_room_of_its_characters()
     {
-        CadImage drawing = Picture.Drawing(Text("Hello world", 10));
+        CadImage drawing = TestPage.Drawing(Text("Hello world", 10));
         Assert.InRange(drawing.MaxPoint.X, 50, 110);
         Assert.Equal((0, 0, 10), (drawing.MinPoint.X, drawing.MinPoint.Y, Math.Round(drawing.MaxPoint.Y, 6)));
 
         CadText upwards = Text("Hello world", 10);
         upwards.TextRotation = 90;
-        CadImage rotated = Picture.Drawing(upwards);
+        CadImage rotated = TestPage.Drawing(upwards);
         Assert.Equal(drawing.MaxPoint.X, rotated.MaxPoint.Y, 6);
         Assert.Equal(-10, rotated.MinPoint.X, 6);
 
         CadText centred = Text("Hello world", 10);
         (centred.HorizontalAlignment, centred.SecondAlignment) = (1, new Cad3DPoint(200, 5, 0));
-        CadImage aligned = Picture.Drawing(centred);
+        CadImage aligned = TestPage.Drawing(centred);
         Assert.Equal(200, (aligned.MinPoint.X + aligned.MaxPoint.X) / 2, 6);
         Assert.Equal(drawing.MaxPoint.X, aligned.MaxPoint.X - aligned.MinPoint.X, 6);
     }
@@ -42,7 +42,7 @@ public class TextExtentsTests
             InsertionPoint = new(100, 100, 0)
         };
         text.AttachmentPoint = CadAttachmentPoint.TopLeft;
-        CadImage drawing = Picture.Drawing(text);
+        CadImage drawing = TestPage.Drawing(text);
         Assert.InRange(drawing.MaxPoint.X, 110, 120.001);
         Assert.Equal(100, drawing.MinPoint.X, 6);
         Assert.InRange(drawing.MinPoint.Y, 80, 95);
@@ -51,9 +51,9 @@ public class TextExtentsTests
     [Fact]
     public void References_show_their_attributes_instead_of_definitions()
     {
-        CadImage drawing = Picture.Drawing(Picture.Insert("B", 50, 0));
-        Picture.AddBlock(
-            drawing, "B", Picture.Square(0, 0, 1),
+        CadImage drawing = TestPage.Drawing(TestPage.Insert("B", 50, 0));
+        TestPage.AddBlock(
+            drawing, "B", TestPage.Square(0, 0, 1),
                 new CadAttDef { DefinitionTagString = new string('W', 100), TextHeight = 10 });
         Assert.Equal(51, drawing.MaxPoint.X);
         var attribute =
@@ -75,7 +75,7 @@ public class TextExtentsTests
         }
 
         CadText inside = Text("inside", 1);
-        CadImage drawing = Picture.Drawing(
+        CadImage drawing = TestPage.Drawing(
             inside, new CadLine { FirstPoint = new(-100, -100, 0), SecondPoint = new(100, 100, 0) });
         DrawingExtents.OfModel(drawing.Drawing, Fonts);
         Assert.Equal(0, asked);

@@ -10,11 +10,11 @@ using Korvan.CAD.Rendering.Devices;
 namespace Korvan.CAD.Tests.Rendering;
 
 /// <summary>A drawing put on a page of 100 × 100 pixels, one to a unit, its lower left corner at the origin.</summary>
-internal sealed class Picture : IDisposable
+internal sealed class TestPage : IDisposable
 {
     private readonly RasterPage _page;
 
-    private Picture(RasterPage page) => _page = page;
+    private TestPage(RasterPage page) => _page = page;
 
     /// <summary>The colour at a place of the drawing.</summary>
     internal Rgba this[int x, int y]
@@ -26,13 +26,13 @@ internal sealed class Picture : IDisposable
         }
     }
 
-    internal static Picture Of(CadImage drawing, Action<CadRasterizationOptions>? change = null)
+    internal static TestPage Of(CadImage drawing, Action<CadRasterizationOptions>? change = null)
     {
         // Invisible corners pin the extents to the page.
         Pin(drawing);
         var raster = new CadRasterizationOptions { PageWidth = 100, PageHeight = 100 };
         change?.Invoke(raster);
-        return new Picture(Rasterizer.Draw(drawing, new PngOptions { VectorRasterizationOptions = raster }));
+        return new TestPage(Rasterizer.Draw(drawing, new PngOptions { VectorRasterizationOptions = raster }));
     }
 
     internal static CadImage Drawing(params CadEntityBase[] entities)
