@@ -14,6 +14,8 @@ internal static class SharedDrawings
 
     internal static string Dxf(string name) => Path.Combine(Root!, "dxf", name);
 
+    internal static string Dwg(string name) => Path.Combine(Root!, "dwg", name);
+
     internal static IEnumerable<string> AllDxf() => Directory.EnumerateFiles(Path.Combine(Root!, "dxf"));
 
     private static string? Find(string name)

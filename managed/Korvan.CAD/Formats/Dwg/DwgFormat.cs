@@ -2,9 +2,9 @@ using System;
 using System.IO;
 using System.Linq;
 using System.Text;
-using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dwg;
+using Korvan.CAD.FileFormats.Cad.Dwg.Early;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Input;
 
@@ -74,7 +74,7 @@ internal static class DwgFormat
     private static object Read(byte[] data, string name, LoadOptions options)
     {
         CadAcadVersion version = DrawingRelease.Parse(Encoding.ASCII.GetString(data, 0, VersionLength));
-        return version >= CadAcadVersion.AC1012 ? DwgLoader.Load(data, name, version, options)
-            : throw new ImageLoadException($"'{name}' is of release {version}, which cannot be read yet.");
+        return version >= CadAcadVersion.AC1012
+            ? DwgLoader.Load(data, name, version, options) : EarlyDwgReader.Read(data, name, options);
     }
 }

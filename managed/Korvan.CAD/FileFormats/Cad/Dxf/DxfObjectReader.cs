@@ -229,7 +229,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
         _ => ObjectTypes.CreateEntity(name) ?? new RawEntity(name),
     };
 
-    private static CadPolylineBase CreatePolyline(int flags) => (CadPolylineFlag)flags switch
+    internal static CadPolylineBase CreatePolyline(int flags) => (CadPolylineFlag)flags switch
     {
         var flag when (flag & CadPolylineFlag.PolyfaceMesh) != 0 => new CadPolyFaceMesh(),
         var flag when (flag & CadPolylineFlag.PolygonMesh) != 0 => new CadPolygonMesh(),
@@ -237,7 +237,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
         _ => new CadPolyline(),
     };
 
-    private static CadDimensionBase CreateDimension(int type) => (CadDimensionType)(type & 7) switch
+    internal static CadDimensionBase CreateDimension(int type) => (CadDimensionType)(type & 7) switch
     {
         CadDimensionType.Aligned => new CadAlignedDimension(),
         CadDimensionType.Angular => new Cad2LineAngularDimension(),
