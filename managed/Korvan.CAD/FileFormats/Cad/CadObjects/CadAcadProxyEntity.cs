@@ -8,6 +8,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// it.</summary>
 [CadSequence]
 [CadObject("ACAD_PROXY_ENTITY", Subclass = "AcDbProxyEntity")]
+[CadBits(
+    "BL ApplicationClassId", "-2013 BL DrawingFormat", "2018+ ExchangeFormat()", "2000+ B OriginalFormat",
+    "ExchangeEntity()")]
 public partial class CadAcadProxyEntity : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -115,4 +118,17 @@ public partial class CadAcadProxyEntity : CadEntityBase
         360 => HandleRole.HardOwner,
         _ => HandleRole.HardPointer,
     };
+
+    private void ExchangeFormat(BitExchange fields)
+    {
+        int release = fields.BitLong(DrawingFormat & 0xFFFF);
+        DrawingFormat = (release & 0xFFFF) | (fields.BitLong(DrawingFormat >> 16) << 16);
+    }
+
+    private void ExchangeEntity(BitExchange fields)
+    {
+        EntityData = fields.Rest(EntityData);
+        EntitySize = fields.IsReading ? EntityData.Length * 8 : EntitySize;
+        fields.RestOfHandles(References);
+    }
 }

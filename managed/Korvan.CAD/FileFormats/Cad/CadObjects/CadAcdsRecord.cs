@@ -45,6 +45,14 @@ public partial class CadAcdsRecord : CadBaseAcds
 
     private AcdsValue? DataValue => Values.FirstOrDefault(static value => value.DataType == AcdsValue.BinaryType);
 
+    /// <summary>Creates a record of data that is not in the section of data.</summary>
+    internal static CadAcdsRecord Holding(byte[] data)
+    {
+        CadAcdsRecord record = new();
+        record.Values.Add(new AcdsValue { Name = "ASM_Data", DataType = AcdsValue.BinaryType, Data = data });
+        return record;
+    }
+
     /// <summary>Returns the names of the values. Group code 2.</summary>
     /// <returns>The names in the order of the file.</returns>
     public string[] GetValueNames() => [.. Values.Select(static value => value.Name)];

@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A body of the solid modeler.</summary>
 [CadObject("BODY", Subclass = "AcDbModelerGeometry")]
+[CadBits("ExchangeModeler()")]
 public partial class CadBody : CadObjectWithAcisData
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A colour that entities refer to.</summary>
 [CadSequence]
 [CadObject("DBCOLOR", Subclass = "AcDbColor")]
+[CadBits("CMC ColorId ColorValue ColorName")]
 public partial class CadDbColor : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -1,7 +1,10 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A setting of the drawing.</summary>
 [CadObject("DICTIONARYVAR", Subclass = "DictionaryVariables")]
+[CadBits("RC ObjectSchemaNumber", "T Value")]
 public partial class CadDictionaryVar : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -7,6 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadMarkers(Trailing = "AcDbFieldList")]
 [CadObject("FIELDLIST", Subclass = "AcDbIdSet")]
+[CadBits("ExchangeFields()")]
 public partial class CadFieldList : CadObjectBase, ICadObjectContainer
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -20,4 +21,11 @@ public partial class CadFieldList : CadObjectBase, ICadObjectContainer
 
     /// <inheritdoc/>
     public string[] GetObjectHandles() => [.. FieldHandles];
+
+    private void ExchangeFields(BitExchange fields)
+    {
+        int count = fields.CountLong(FieldHandles.Count);
+        fields.Bit(false);
+        fields.Handles(HandleRole.SoftPointer, FieldHandles, count);
+    }
 }

@@ -7,6 +7,14 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>Where on Earth a drawing is.</summary>
 [CadSequence]
 [CadObject("GEODATA", Subclass = "AcDbGeoData")]
+[CadBits(
+    "BL Version", "H HostBlockHandle", "BS CoordinateType", "2010+ 3BD DesignPoint", "2010+ 3BD ReferencePoint",
+    "2010+ BD HorizontalUnitScale", "2010+ BL HorizontalUnits", "2010+ BD VerticalUnitScale",
+    "2010+ BL VerticalUnits", "2010+ 3BD UpDirection", "2010+ 2RD NorthDirection", "2010+ BL ScaleEstimationMethod",
+    "2010+ BD UserScaleFactor", "2010+ B DoSeaLevelCorrection", "2010+ BD SeaLevelElevation",
+    "2010+ BD CoordinateProjectionRadius", "2010+ T CoordinateSystemDefinition", "2010+ T GeoRssTag",
+    "-2007 ExchangeEarly()", "T ObservationFromTag", "T ObservationToTag", "T ObservationCoverageTag",
+    "ExchangeMesh()")]
 public partial class CadGeoData : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -127,6 +135,40 @@ public partial class CadGeoData : CadObjectBase
         for (int i = 0; i < 3 * faces; i++)
         {
             fields.ItemAt(97 + (i % 3), MeshFaces, i);
+        }
+    }
+
+    // The form of the first release that had such data; its other fields are not kept.
+    private void ExchangeEarly(BitExchange fields)
+    {
+        fields.Point3(ReferencePoint);
+        HorizontalUnits = fields.BitLong(HorizontalUnits);
+        fields.Point3(DesignPoint);
+        fields.Point3(new Cad3DPoint());
+        fields.Point3(UpDirection);
+        fields.BitDouble(0);
+        fields.Point3(new Cad3DPoint(1, 1, 1));
+        CoordinateSystemDefinition = fields.Text(CoordinateSystemDefinition);
+        GeoRssTag = fields.Text(GeoRssTag);
+        HorizontalUnitScale = fields.BitDouble(HorizontalUnitScale);
+        fields.Text("");
+        fields.Text("");
+    }
+
+    private void ExchangeMesh(BitExchange fields)
+    {
+        int points = fields.CountLong(MeshSourcePoints.Count);
+        for (int i = 0; i < points; i++)
+        {
+            fields.RawPoint2(fields.Item(MeshSourcePoints, i));
+            fields.RawPoint2(fields.Item(MeshTargetPoints, i));
+        }
+
+        int corners = 3 * fields.CountLong(MeshFaces.Count / 3);
+        fields.Resize(MeshFaces, corners);
+        for (int i = 0; i < corners; i++)
+        {
+            MeshFaces[i] = fields.BitLong(MeshFaces[i]);
         }
     }
 }

@@ -1,9 +1,13 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A helix, kept together with the curve that draws it.</summary>
 [CadObject("HELIX", Subclass = "AcDbHelix")]
+[CadBits(
+    "base", "BL MajorReleaseNumber", "BL MaintenanceReleaseNumber", "3BD AxisBasePoint", "3BD StartPoint",
+    "3BD AxisVector", "BD Radius", "BD NumberOfTurns", "BD TurnHeight", "B Handedness", "RC Constrain")]
 public partial class CadHelix : CadSpline
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -7,6 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadMarkers(Leading = "AcDbFilter")]
 [CadObject("LAYER_FILTER", Subclass = "AcDbLayerFilter")]
+[CadBits("T[BL] LayerNames")]
 public partial class CadLayerFilter : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

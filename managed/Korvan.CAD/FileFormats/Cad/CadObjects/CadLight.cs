@@ -5,6 +5,11 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A light of a model.</summary>
 [CadSequence]
 [CadObject("LIGHT", Subclass = "AcDbLight")]
+[CadBits(
+    "BL Version", "T Name", "BL LightType", "B IsOn", "CMC LightColorId LightColorValue", "B IsGlyphPlotted",
+    "BD Intensity", "3BD Position", "3BD Target", "BL AttenuationType", "B UseAttenuationLimits",
+    "BD AttenuationStart", "BD AttenuationEnd", "BD HotspotAngle", "BD FalloffAngle", "B CastShadows",
+    "BL ShadowType", "BS ShadowMapSize", "RC ShadowMapSoftness")]
 public partial class CadLight : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>

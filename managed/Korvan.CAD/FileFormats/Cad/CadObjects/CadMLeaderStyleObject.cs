@@ -4,6 +4,17 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A style of multileaders.</summary>
 [CadObject("MLEADERSTYLE", Subclass = "AcDbMLeaderStyle")]
+[CadBits(
+    "2010+ BS Version", "BS ContentType", "BS DrawMLeaderOrder", "BS DrawLeaderOrder", "BL MaxLeaderSegments",
+    "BD FirstSegmentAngle", "BD SecondSegmentAngle", "BS LeaderType", "CMP LeaderColor", "H LineTypeHandle",
+    "BL LineWeight", "B IsLandingEnabled", "BD LandingGap", "B IsDoglegEnabled", "BD DoglegLength", "T Description",
+    "H ArrowheadHandle", "BD ArrowheadSize", "T DefaultText", "H TextStyleHandle", "BS TextLeftAttachment",
+    "BS TextRightAttachment", "BS TextAngleType", "BS TextAlignmentType", "CMP TextColor", "BD TextHeight",
+    "B IsTextFrameEnabled", "B IsTextAlwaysLeft", "BD AlignSpace", "H BlockContentHandle", "CMP BlockContentColor",
+    "BD BlockContentScaleX", "BD BlockContentScaleY", "BD BlockContentScaleZ", "B IsBlockScaleEnabled",
+    "BD BlockContentRotation", "B IsBlockRotationEnabled", "BS BlockContentConnectionType", "BD Scale",
+    "B IsPropertyChanged", "B IsAnnotative", "BD BreakSize", "2010+ BS TextAttachmentDirection",
+    "2010+ BS TextTopAttachment", "2010+ BS TextBottomAttachment", "2013+ B IsLeaderExtendedToText")]
 public partial class CadMLeaderStyleObject : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

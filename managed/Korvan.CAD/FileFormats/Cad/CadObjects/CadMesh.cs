@@ -7,6 +7,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A subdivision mesh: the vertices, faces and creases of its control mesh, and how often it is
 /// subdivided.</summary>
 [CadObject("MESH", Subclass = "AcDbSubDMesh")]
+[CadBits(
+    "BS Version", "B BlendCrease", "BL SubdivisionLevel", "3BD[BL] Vertices", "BL[BL] FaceList", "ExchangeEdges()",
+    "BD[BL] Creases", "BL")]
 public partial class CadMesh : CadEntityBase
 {
     /// <summary>Creates a mesh without vertices.</summary>
@@ -117,5 +120,15 @@ public partial class CadMesh : CadEntityBase
         }
         while (reader.Next() && reader.Code is not (0 or subclassMarker or >= firstXdata));
         reader.Unread();
+    }
+
+    private void ExchangeEdges(BitExchange fields)
+    {
+        int count = fields.CountLong(EdgeList.Count / 2);
+        fields.Resize(EdgeList, 2 * count);
+        for (int i = 0; i < 2 * count; i++)
+        {
+            EdgeList[i] = fields.BitLong(EdgeList[i]);
+        }
     }
 }

@@ -47,4 +47,22 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
 
         fields.Lines(AcisData);
     }
+
+    /// <summary>Carries the data of the modeler as drawing databases have it.</summary>
+    private protected void ExchangeModeler(BitExchange fields)
+    {
+        const int stored = 2;
+        if (fields.HasStoredData)
+        {
+            ModelerFormatVersion = stored;
+        }
+        else if (!fields.Bit(AcisData.Count == 0))
+        {
+            fields.Bit(false);
+            ModelerFormatVersion = (short)fields.BitShort(ModelerBits.TextVersion);
+            ModelerBits.ExchangeData(this, fields);
+        }
+
+        ModelerBits.ExchangeRest(this, fields);
+    }
 }

@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadMarkers(Trailing = "AcDbPlaneSurface")]
 [CadObject("PLANESURFACE", Subclass = "AcDbModelerGeometry")]
+[CadBits("ExchangeModeler()", "BS UIsolines", "BS VIsolines")]
 public partial class CadPlaneSurface : CadObjectWithAcisData
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -6,6 +6,10 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A raster image placed in the drawing.</summary>
 [CadObject("IMAGE", Subclass = "AcDbRasterImage")]
+[CadBits(
+    "BL ClassVersion", "3BD InsertionPoint", "3BD VectorU", "3BD VectorV", "2RD ImageSize", "BS DisplayFlags",
+    "B ClippingState", "RC Brightness", "RC Contrast", "RC Fade", "2010+ B ClipMode", "BS ClippingBoundaryType",
+    "ExchangeClip()", "H ImageDefReference", "H ImageDefReactorReference")]
 public partial class CadRasterImage : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -76,4 +80,7 @@ public partial class CadRasterImage : CadEntityBase
     /// 290.</summary>
     [CadShort(290, Optional = true, Since = 2010)]
     public short ClipMode { get; set; }
+
+    private void ExchangeClip(BitExchange fields) =>
+        RasterClip.Exchange(fields, ClippingBoundaryType, ClipBoundaryVertices);
 }

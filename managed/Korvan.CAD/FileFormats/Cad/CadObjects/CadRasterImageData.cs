@@ -1,7 +1,10 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>How the raster images of a drawing are shown.</summary>
 [CadObject("RASTERVARIABLES", Subclass = "AcDbRasterVariables")]
+[CadBits("BL Version", "BS FrameMode", "BS Quality", "BS Units")]
 public partial class CadRasterImageData : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -1,7 +1,10 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>The definition of a raster image: the file that image entities show.</summary>
 [CadObject("IMAGEDEF", Subclass = "AcDbRasterImageDef")]
+[CadBits("BL ClassVersion", "2RD ImageSize", "T FileName", "B IsLoaded", "RC ResolutionUnits", "2RD PixelSize")]
 public partial class CadRasterImageDef : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

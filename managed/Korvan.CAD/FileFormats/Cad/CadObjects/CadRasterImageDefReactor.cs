@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>Tells an image entity that its definition changed.</summary>
 [CadObject("IMAGEDEF_REACTOR", Subclass = "AcDbRasterImageDefReactor")]
+[CadBits("BL ClassVersion")]
 public partial class CadRasterImageDefReactor : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

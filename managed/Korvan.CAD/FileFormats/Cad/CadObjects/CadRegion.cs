@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A flat region.</summary>
 [CadObject("REGION", Subclass = "AcDbModelerGeometry")]
+[CadBits("ExchangeModeler()")]
 public partial class CadRegion : CadObjectWithAcisData
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -7,6 +7,10 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A section plane, which may have bends.</summary>
 [CadSequence]
 [CadObject("SECTIONOBJECT", Subclass = "AcDbSection")]
+[CadBits(
+    "BL State", "BL SectionFlags", "T Name", "3BD VerticalDirection", "BD TopHeight", "BD BottomHeight",
+    "BS IndicatorTransparency", "CMC IndicatorColorId _ IndicatorColorName", "3BD[BL] Vertices",
+    "3BD[BL] BackLineVertices", "H GeometrySettingsHandle")]
 public partial class CadSection : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -8,6 +8,10 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadMarkers(Leading = "AcDbFilter")]
 [CadObject("SPATIAL_FILTER", Subclass = "AcDbSpatialFilter")]
+[CadBits(
+    "2RD[BS] BoundaryPoints", "3BD ExtrusionDirection", "3BD Origin", "BS IsBoundaryShown", "BS HasFrontClipping",
+    "if HasFrontClipping != 0: BD FrontClippingDistance", "BS HasBackClipping",
+    "if HasBackClipping != 0: BD BackClippingDistance", "BD[12] InverseTransform", "BD[12] Transform")]
 public partial class CadSpatialFilter : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>The sun of a viewport.</summary>
 [CadSequence]
 [CadObject("SUN", Subclass = "AcDbSun")]
+[CadBits(
+    "BL Version", "B IsOn", "CMC ColorId ColorValue", "BD Intensity", "B HasShadows", "BL JulianDay",
+    "BL Milliseconds", "B IsDaylightSaving", "BL ShadowType", "BS ShadowMapSize", "RC ShadowSoftness")]
 public partial class CadSunObject : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

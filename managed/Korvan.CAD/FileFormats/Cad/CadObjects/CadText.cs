@@ -101,7 +101,7 @@ public partial class CadText : CadExtrudedEntityBase
         }
     }
 
-    private void ExchangeText(BitExchange fields)
+    private protected void ExchangeText(BitExchange fields)
     {
         if (fields.Release >= 2000)
         {

@@ -7,6 +7,10 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A page of another file below the drawing: what PDF, DWF and DGN underlays have in common.</summary>
 [CadSequence]
 [CadObject("", Subclass = "AcDbUnderlayReference")]
+[CadBits(
+    "3BD Normal", "3BD InsertionPoint", "BD RotationAngle", "BD ScaleX", "BD ScaleY", "BD ScaleZ", "RC Flags",
+    "RC Contrast", "RC Fade", "2RD[BL] ClipPoints",
+    "2010+ if (Flags & UnderlayFlags.ClipInside) != 0: 2RD[BS] InnerClipPoints", "H UnderlayDefinition")]
 public abstract partial class CadUnderlay : CadEntityBase
 {
     internal CadUnderlay()

@@ -17,6 +17,9 @@ internal abstract partial class BitExchange
     /// <summary>Gets whether the object takes values over.</summary>
     internal abstract bool IsReading { get; }
 
+    /// <summary>Gets or sets whether data of the object is in the section of data, from release 2013 on.</summary>
+    internal bool HasStoredData { get; set; }
+
     /// <summary>Gets the exchange for classes whose fields are in the order of their group codes.</summary>
     internal ObjectExchange Declared => _declared ??= new DeclaredBits(this);
 
@@ -107,6 +110,17 @@ internal abstract partial class BitExchange
     /// <summary>Carries all bits of the data stream that are left.</summary>
     internal abstract byte[] Rest(byte[] value);
 
-    /// <summary>Carries the references that are left.</summary>
-    internal abstract void RestOfHandles(System.Collections.Generic.IList<string> handles);
+    /// <summary>Carries bytes up to the end of one of several strings.</summary>
+    internal abstract byte[] BytesUpTo(byte[] value, params byte[][] ends);
+
+    /// <summary>Carries a colour of which an object has the packed value: kind in the highest byte.</summary>
+    internal abstract int PackedColor(int value);
+
+    /// <summary>Carries whether an attribute has several lines, and then the text with them.</summary>
+    /// <param name="attribute">The attribute.</param>
+    /// <param name="kind">The number for several lines.</param>
+    internal abstract void AttributeKind(CadText attribute, int kind);
+
+    /// <summary>Carries the references that are left, with group codes.</summary>
+    internal abstract void RestOfHandles(System.Collections.Generic.IList<CadCodeValue> handles);
 }

@@ -5,6 +5,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 /// <summary>The definition of an attribute in a block.</summary>
 [CadFieldsOf(typeof(CadAttrib))]
 [CadObject("ATTDEF", Subclass = "AcDbAttributeDefinition")]
+[CadBits(
+    "ExchangeText()", "H StyleType", "2010+ RC", "2018+ ExchangeKind()", "T DefinitionTagString", "BS FieldLength",
+    "RC AttFlags", "2007+ B LockPosition", "2010+ RC", "T PromptString")]
 public partial class CadAttDef : CadText
 {
     private const int LockCode = 280;
@@ -40,4 +43,6 @@ public partial class CadAttDef : CadText
             LockPosition = fields.Bool(LockCode, LockPosition);
         }
     }
+
+    private void ExchangeKind(BitExchange fields) => fields.AttributeKind(this, 4);
 }

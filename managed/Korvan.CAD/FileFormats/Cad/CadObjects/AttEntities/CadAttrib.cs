@@ -4,6 +4,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 
 /// <summary>The value of an attribute of a block insertion.</summary>
 [CadObject("ATTRIB", Subclass = "AcDbAttribute")]
+[CadBits(
+    "ExchangeText()", "H StyleType", "2010+ RC", "2018+ ExchangeKind()", "T DefinitionTagString", "BS FieldLength",
+    "RC AttFlags", "2007+ B LockPosition")]
 public partial class CadAttrib : CadText
 {
     private const int LockCode = 280;
@@ -53,4 +56,6 @@ public partial class CadAttrib : CadText
             LockPosition = fields.Bool(LockCode, LockPosition);
         }
     }
+
+    private void ExchangeKind(BitExchange fields) => fields.AttributeKind(this, 2);
 }

@@ -7,6 +7,10 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Field;
 /// <summary>A field: a string of a drawing that is computed, as a date or an area.</summary>
 [CadSequence]
 [CadObject("FIELD", Subclass = "AcDbField")]
+[CadBits(
+    "T Evaluator", "T Code", "H[BL] ChildHandles", "H[BL] ReferencedHandles", "-2004 T Format", "BL EvaluationOption",
+    "BL FilingOption", "BL State", "BL EvaluationStatus", "BL EvaluationErrorCode", "T EvaluationErrorMessage",
+    "Part Value", "T ValueText", "BL ValueTextLength", "ExchangeData()")]
 public partial class CadField : CadObjectBase, ICadObjectContainer
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -94,5 +98,16 @@ public partial class CadField : CadObjectBase, ICadObjectContainer
         }
 
         ValueTextLength = fields.Int32(98, ValueTextLength);
+    }
+
+    private void ExchangeData(BitExchange fields)
+    {
+        int count = fields.CountLong(Data.Count);
+        for (int i = 0; i < count; i++)
+        {
+            CadFieldData data = fields.Item(Data, i);
+            data.Key = fields.Text(data.Key);
+            data.ExchangeBits(fields);
+        }
     }
 }

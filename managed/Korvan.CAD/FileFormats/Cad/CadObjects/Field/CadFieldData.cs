@@ -1,3 +1,4 @@
+using System.Text;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Field;
@@ -5,6 +6,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Field;
 /// <summary>A value of a field or of a cell: an integer, a number, a string, a date, a point or an object, with its
 /// unit, its format and the string that shows it.</summary>
 [CadSequence]
+[CadBits(
+    "2007+ BL Flags", "BL ValueType", "ExchangeValue()", "2007+ BL Unit", "2007+ T Format", "2007+ T FormattedText")]
 public partial class CadFieldData
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -104,5 +107,52 @@ public partial class CadFieldData
         {
             Point.Z = fields.Double(31, Point.Z);
         }
+    }
+
+    // A value of some flags is none.
+    private void ExchangeValue(BitExchange fields)
+    {
+        const int noValue = 1;
+        if (fields.Release >= 2007 && (Flags & noValue) != 0)
+        {
+            return;
+        }
+
+        switch (ValueType & ~GeneralFlag)
+        {
+            case 0 when ValueType == GeneralFlag && fields.Release >= 2007:
+                fields.Block([]);
+                break;
+            case 0 or 1:
+                Integer = fields.BitLong(Integer);
+                break;
+            case 2:
+                Number = fields.BitDouble(Number);
+                break;
+            case StringType:
+                Text = fields.Release < 2007 ? fields.Text(Text) : ExchangeUtf16(fields, Text);
+                break;
+            case DateType:
+                Date = fields.Block(Date);
+                break;
+            case PlanePointType:
+                fields.BitLong(2 * sizeof(double));
+                fields.RawPoint2(Point);
+                break;
+            case SpacePointType:
+                fields.BitLong(3 * sizeof(double));
+                fields.RawPoint3(Point);
+                break;
+            case ObjectType:
+                ObjectHandle = fields.Handle(HandleRole.SoftPointer, ObjectHandle);
+                break;
+        }
+    }
+
+    // Strings of values are not among the other strings of the object.
+    private static string ExchangeUtf16(BitExchange fields, string value)
+    {
+        byte[] bytes = fields.Block(value.Length == 0 ? [] : Encoding.Unicode.GetBytes(value + '\0'));
+        return Encoding.Unicode.GetString(bytes).TrimEnd('\0');
     }
 }

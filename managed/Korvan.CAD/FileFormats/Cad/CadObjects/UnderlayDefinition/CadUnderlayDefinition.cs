@@ -1,7 +1,10 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.UnderlayDefinition;
 
 /// <summary>The file and page that underlays show.</summary>
 [CadObject("", Subclass = "AcDbUnderlayDefinition")]
+[CadBits("T FileName", "T ItemName")]
 public abstract partial class CadUnderlayDefinition : CadObjectBase
 {
     internal CadUnderlayDefinition()

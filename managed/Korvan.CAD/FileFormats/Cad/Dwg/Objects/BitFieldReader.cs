@@ -2,7 +2,6 @@ using System;
 using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
-using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 using Korvan.CAD.FileFormats.Cad.Exchange;
@@ -52,6 +51,7 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
         _self = self;
         _data = data;
         Parts = null;
+        HasStoredData = false;
     }
 
     /// <summary>Sets where the references of the object begin: there its data ends.</summary>
@@ -97,13 +97,9 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
 
     internal override string Text(string value)
     {
-        if (release >= UnicodeStrings)
-        {
-            return _strings.Remaining > 0 ? _strings.Utf16Text() : "";
-        }
-
-        string text = _data.Text(encoding);
-        return text.Contains('\\') ? TextEscapes.Standard.Decode(text) : text;
+        string text = release < UnicodeStrings ? _data.Text(encoding)
+            : _strings.Remaining > 0 ? _strings.Utf16Text() : "";
+        return RecordText.FromFile(text);
     }
 
     internal override string Handle(HandleRole role, string value)
@@ -138,7 +134,7 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
         string color = (flags & 1) != 0 ? Text("") : "";
         string book = (flags & 2) != 0 ? Text("") : "";
         string full = book.Length > 0 ? $"{book}${color}" : color;
-        return PackedColor.Unpack(plain, value) is var (found, trueColor) ? (found, trueColor, full) : default;
+        return Objects.PackedColor.Unpack(plain, value) is var (found, trueColor) ? (found, trueColor, full) : default;
     }
 
     internal override int Verify(int count)
@@ -197,11 +193,63 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
         return bytes;
     }
 
-    internal override void RestOfHandles(IList<string> handles)
+    internal override void RestOfHandles(IList<CadCodeValue> handles)
     {
         while (_handles.Remaining >= 8)
         {
-            handles.Add(HandleText.Format(NextHandle()));
+            BitReader ahead = _handles;
+            int group = ahead.Handle().Code switch { 2 => 350, 3 => 360, 5 => 340, _ => 330 };
+            handles.Add(new CadCodeValue(group, HandleText.Format(NextHandle())));
+        }
+    }
+
+    internal override byte[] BytesUpTo(byte[] value, params byte[][] ends)
+    {
+        BitReader ahead = _data;
+        byte[] rest = ahead.Bytes(_data.Remaining >> 3);
+        int length = -1;
+        foreach (byte[] end in ends)
+        {
+            int at = rest.AsSpan().IndexOf(end);
+            length = at >= 0 && (length < 0 || at + end.Length < length) ? at + end.Length : length;
+        }
+
+        return length >= 0 ? _data.Bytes(length) : throw new DwgFault(_data.Position, "the data of a solid has no end");
+    }
+
+    internal override int PackedColor(int value)
+    {
+        int index = _data.BitShort();
+        if (release < TrueColors)
+        {
+            return (int)Objects.PackedColor.Pack(index, -1);
+        }
+
+        int packed = _data.BitLong();
+        int flags = _data.RawByte();
+        _ = (flags & 1) != 0 ? Text("") : "";
+        _ = (flags & 2) != 0 ? Text("") : "";
+        return packed;
+    }
+
+    internal override void AttributeKind(CadText attribute, int kind)
+    {
+        const int annotative = 8;
+        if (_data.RawByte() < 2)
+        {
+            return;
+        }
+
+        CadMText lines = new();
+        CommonData.ExchangeEntity(this, lines, new ObjectFrame());
+        lines.ExchangeBits(this);
+        int size = _data.BitShort();
+        if (size > 0)
+        {
+            _data.VerifyCount(size, annotative);
+            _data.Position += (long)size << 3;
+            NextHandle();
+            _data.BitShort();
         }
     }
 

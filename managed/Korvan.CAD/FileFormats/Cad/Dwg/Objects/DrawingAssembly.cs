@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -11,11 +12,8 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 
 /// <summary>Puts the objects of a file together: records into tables, entities into blocks, vertices and attributes
 /// into their entities.</summary>
-internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects)
+internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, RecordNames names)
 {
-    private ulong _modelSpace;
-    private ulong _paperSpace;
-
     internal void Build()
     {
         foreach (string table in TableRecords.Names)
@@ -23,8 +21,6 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects)
             AddRecords(table);
         }
 
-        _modelSpace = drawing.BlockRecords.Find(BlockNames.ModelSpace)?.Handle ?? 0;
-        _paperSpace = drawing.BlockRecords.Find(BlockNames.PaperSpace)?.Handle ?? 0;
         foreach (CadBlockTableObject record in drawing.BlockRecords.Items)
         {
             AddBlock(record);
@@ -50,6 +46,7 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects)
     {
         if (objects.Take(handle) is >= 0 and var index && objects[index].Target is CadSymbolTableGroupCodes record)
         {
+            record.StoreName(names.Find(handle) ?? record.Name);
             TableRecords.Add(drawing, record);
         }
     }
@@ -70,11 +67,11 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects)
     {
         int at = objects.Find(record.Handle);
         ChildHandles parts = objects[at].Parts ?? new ChildHandles();
-        CadBlockEntity block = Take<CadBlockEntity>(parts.Begin) ?? new CadBlockEntity { Owner = record.Handle };
-        if (Take<CadEndBlock>(parts.End) is { } end)
-        {
-            block.End = end;
-        }
+        bool isPaper = record.Name.StartsWith(BlockNames.PaperSpace, StringComparison.OrdinalIgnoreCase);
+        CadBlockEntity block = Take<CadBlockEntity>(parts.Begin) ?? new CadBlockEntity();
+        block.End = Take<CadEndBlock>(parts.End) ?? new CadEndBlock();
+        PlaceIn(block, record.Handle, isPaper);
+        PlaceIn(block.End, record.Handle, isPaper);
 
         block.Name = record.Name;
         block.NameAgain = record.Name;
@@ -84,9 +81,14 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects)
             if (objects[index] is { Target: CadEntityBase entity } content)
             {
                 block.Entities.Add(entity);
-                Place(entity, content.Frame, record.Handle);
+                PlaceIn(entity, record.Handle, isPaper);
                 Complete(entity, content);
             }
+        }
+
+        if (isPaper)
+        {
+            ViewportNumbers.Assign(block, isActive: BlockNames.IsActivePaperSpace(block.Name));
         }
 
         Add(block);
@@ -121,15 +123,10 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects)
         drawing.BlockEntities.Add(block);
     }
 
-    private void Place(CadEntityBase entity, ObjectFrame frame, ulong owner)
+    private static void PlaceIn(CadEntityBase entity, ulong owner, bool isPaper)
     {
-        entity.Owner = frame.Mode switch
-        {
-            ObjectFrame.InModelSpace => _modelSpace,
-            ObjectFrame.InPaperSpace => _paperSpace,
-            _ => frame.Owner != 0 ? frame.Owner : owner,
-        };
-        if (frame.Mode == ObjectFrame.InPaperSpace)
+        entity.Owner = owner;
+        if (isPaper)
         {
             entity.SpaceMode = CadEntitySpaceMode.PaperSpace;
         }
@@ -163,7 +160,7 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects)
             if (objects[index].Target is T part)
             {
                 target.Add(part);
-                Place(part, objects[index].Frame, owner.Handle);
+                PlaceIn(part, owner.Handle, owner.SpaceMode == CadEntitySpaceMode.PaperSpace);
             }
         }
     }
@@ -176,7 +173,7 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects)
             return null;
         }
 
-        Place(end, objects[index].Frame, owner.Handle);
+        PlaceIn(end, owner.Handle, owner.SpaceMode == CadEntitySpaceMode.PaperSpace);
         return end;
     }
 
@@ -209,6 +206,10 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects)
             if (objects[i].Target is CadObjectBase item && !ObjectTypeTable.IsOfFilesOnly(item.DxfName))
             {
                 drawing.Objects.Add(item);
+                if (item is CadRasterImageDefReactor { AssociatedImageHandle.Length: 0 } reactor)
+                {
+                    reactor.AssociatedImageHandle = HandleText.Format(reactor.Owner);
+                }
             }
         }
     }

@@ -32,10 +32,16 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
 
         for (int i = 0; i < headers.Length; i++)
         {
+            ReadControl(reader, headers[i], i);
+        }
+
+        CompleteNames();
+        for (int i = 0; i < headers.Length; i++)
+        {
             ReadRecord(reader, headers[i], i);
         }
 
-        new DrawingAssembly(drawing, _objects).Build();
+        new DrawingAssembly(drawing, _objects, _names).Build();
         DrawingLinks.Complete(drawing);
         ModelerSection.Attach(drawing);
         drawing.ContentRelease = drawing.Version;
@@ -62,25 +68,56 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
         }
     }
 
-    private void ReadRecord(RecordReader reader, RecordHeader? found, int index)
+    private void ReadControl(RecordReader reader, RecordHeader? found, int index)
     {
-        if (found is not { } header)
+        if (found is not { } header || ObjectTypeTable.ControlledTable(header.Type) is not { } table)
         {
             return;
         }
 
         try
         {
-            if (ObjectTypeTable.ControlledTable(header.Type) is { } table)
+            CadTableHeader target = new() { Name = table };
+            _objects.Tables[table] = reader.ReadControl(header, target);
+            drawing.TableHeaders[table] = target;
+        }
+        catch (DwgFault fault)
+        {
+            Report(fault, index, table);
+        }
+    }
+
+    // Blocks without a name of their own have a name of the kind, to which their place in the table is added.
+    private void CompleteNames()
+    {
+        if (_objects.Tables.TryGetValue("BLOCK_RECORD", out SymbolTableHandles? blocks))
+        {
+            for (int i = 0; i < blocks.Records.Count; i++)
             {
-                CadTableHeader target = new() { Name = table };
-                _objects.Tables[table] = reader.ReadControl(header, target);
-                drawing.TableHeaders[table] = target;
+                ulong handle = blocks.Records[i];
+                if (_names.Find(handle) is ['*', .., var last] name && !char.IsAsciiDigit(last))
+                {
+                    _names.Add(handle, $"{name}{i}");
+                }
             }
-            else
-            {
-                _objects.Set(index, reader.Read(header));
-            }
+        }
+
+        if (_objects.Tables.TryGetValue("LTYPE", out SymbolTableHandles? lineTypes))
+        {
+            _names.LineTypes = lineTypes.Records;
+        }
+    }
+
+    private void ReadRecord(RecordReader reader, RecordHeader? found, int index)
+    {
+        if (found is not { } header || ObjectTypeTable.ControlledTable(header.Type) is not null)
+        {
+            return;
+        }
+
+        try
+        {
+            _objects.Set(index, reader.Read(header));
         }
         catch (DwgFault fault)
         {

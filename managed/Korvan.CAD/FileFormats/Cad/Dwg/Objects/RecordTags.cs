@@ -3,7 +3,6 @@ using System.Buffers.Binary;
 using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
-using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -88,6 +87,10 @@ internal static class RecordTags
             case Kind.Binary:
                 tags.Add(new CadBinaryCodeValue(code, Convert.ToHexString(value[1..])));
                 break;
+            case Kind.Number when code is >= 50 and < 59:
+                double degrees = BinaryPrimitives.ReadDoubleLittleEndian(value) * 180 / Math.PI;
+                tags.Add(new CadCodeValue(code, degrees.ToString("R", CultureInfo.InvariantCulture)));
+                break;
             default:
                 tags.Add(new CadCodeValue(code, TextOf(KindOf(code), value, format)));
                 break;
@@ -96,8 +99,8 @@ internal static class RecordTags
 
     private static string TextOf(Kind kind, ReadOnlySpan<byte> value, RecordFormat format) => kind switch
     {
-        Kind.Text => format.HasUnicode ? Encoding.Unicode.GetString(value[2..])
-            : TextEscapes.Standard.Decode(format.Encoding.GetString(value[3..])),
+        Kind.Text => RecordText.FromFile(
+            format.HasUnicode ? Encoding.Unicode.GetString(value[2..]) : format.Encoding.GetString(value[3..])),
         Kind.Number => Number(value),
         Kind.Byte => value[0].ToString(CultureInfo.InvariantCulture),
         Kind.Short => BinaryPrimitives.ReadInt16LittleEndian(value).ToString(CultureInfo.InvariantCulture),

@@ -1,0 +1,149 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using System.Text;
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
+namespace Korvan.CAD.FileFormats.Cad.CadObjects;
+
+/// <summary>Carries the data of modelers as drawing databases have it: text in blocks, or binary data up to its own
+/// end, and after it a wireframe, which is not kept. Source: Open Design Specification for .dwg files, 5.4.1, section
+/// 20.4.41.</summary>
+internal static class ModelerBits
+{
+    /// <summary>The version of data that is text.</summary>
+    internal const int TextVersion = 1;
+
+    private const int MaxBlock = 4096;
+
+    private static readonly byte[] EndOfAcis = "\u000E\u0003End\u000E\u0002of\u000E\u0004ACIS\r\u0004data"u8.ToArray();
+    private static readonly byte[] EndOfAsm = "\u000E\u0003End\u000E\u0002of\u000E\u0003ASM\r\u0004data"u8.ToArray();
+
+    internal static void ExchangeData(CadObjectWithAcisData solid, BitExchange fields)
+    {
+        if (solid.ModelerFormatVersion != TextVersion)
+        {
+            byte[] data = fields.BytesUpTo([], EndOfAcis, EndOfAsm);
+            solid.DataRecord = CadAcdsRecord.Holding(data);
+            return;
+        }
+
+        if (fields.IsReading)
+        {
+            ReadText(solid, fields);
+        }
+        else
+        {
+            WriteText(solid, fields);
+        }
+    }
+
+    internal static void ExchangeRest(CadObjectWithAcisData solid, BitExchange fields)
+    {
+        if (fields.Bit(false))
+        {
+            PassWireframe(fields);
+        }
+
+        fields.Bit(true);
+        if (fields.Release >= 2007 && solid.ModelerFormatVersion > TextVersion)
+        {
+            for (int materials = fields.CountLong(0); materials > 0; materials--)
+            {
+                fields.BitLong(0);
+                fields.BitLong(0);
+                fields.Handle(HandleRole.HardPointer, 0);
+            }
+        }
+
+        if (fields.Release >= 2013)
+        {
+            fields.Bit(false);
+            fields.BitLong(0);
+            fields.BitShort(0);
+            fields.BitShort(0);
+            fields.Bytes(new byte[sizeof(long)], sizeof(long));
+            fields.BitLong(0);
+        }
+    }
+
+    private static void ReadText(CadObjectWithAcisData solid, BitExchange fields)
+    {
+        StringBuilder text = new();
+        for (int size = fields.CountLong(0); size > 0; size = fields.CountLong(0))
+        {
+            text.Append(Encoding.Latin1.GetString(fields.Bytes([], size)));
+        }
+
+        string[] lines = text.ToString().Replace("\r", "").Split('\n');
+        solid.AcisData.AddRange(lines[^1].Length == 0 ? lines[..^1] : lines);
+    }
+
+    private static void WriteText(CadObjectWithAcisData solid, BitExchange fields)
+    {
+        string text = string.Concat(solid.AcisData.Select(static line => line.Replace("^ ", "^") + "\r\n"));
+        byte[] bytes = Encoding.Latin1.GetBytes(text);
+        for (int at = 0; at < bytes.Length; at += MaxBlock)
+        {
+            int size = Math.Min(MaxBlock, bytes.Length - at);
+            fields.Bytes(bytes[at..(at + size)], fields.CountLong(size));
+        }
+
+        fields.BitLong(0);
+    }
+
+    private static void PassWireframe(BitExchange fields)
+    {
+        if (fields.Bit(false))
+        {
+            fields.Point3(new Cad3DPoint());
+        }
+
+        fields.BitLong(0);
+        if (!fields.Bit(false))
+        {
+            return;
+        }
+
+        PassWires(fields);
+        for (int silhouettes = fields.CountLong(0); silhouettes > 0; silhouettes--)
+        {
+            fields.BitLong(0);
+            PassPoints(fields, 3);
+            fields.Bit(false);
+            if (fields.Bit(false))
+            {
+                PassWires(fields);
+            }
+        }
+    }
+
+    private static void PassWires(BitExchange fields)
+    {
+        for (int wires = fields.CountLong(0); wires > 0; wires--)
+        {
+            fields.RawByte(0);
+            fields.BitLong(0);
+            fields.BitShort(0);
+            fields.BitLong(0);
+            PassPoints(fields, fields.CountLong(0));
+            if (fields.Bit(false))
+            {
+                PassPoints(fields, 4);
+                fields.BitDouble(0);
+                fields.Bit(false);
+                fields.Bit(false);
+                fields.Bit(false);
+            }
+        }
+    }
+
+    private static void PassPoints(BitExchange fields, int count)
+    {
+        Cad3DPoint point = new();
+        for (int i = 0; i < count; i++)
+        {
+            fields.Point3(point);
+        }
+    }
+}
