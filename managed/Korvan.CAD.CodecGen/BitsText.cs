@@ -77,7 +77,7 @@ internal static class BitsText
                 return Constant(item);
         }
 
-        if (item.Coding == "CMC")
+        if (item.Coding is "CMC" or "TC")
         {
             return Color(item, model);
         }
@@ -139,7 +139,7 @@ internal static class BitsText
             takes.Add($"{name} = {cast}color{i};");
         }
 
-        return $"({string.Join(", ", targets)}) = fields.Color({string.Join(", ", values)}); "
+        return $"({string.Join(", ", targets)}) = fields.{(item.Coding == "TC" ? "TrueColor" : "Color")}({string.Join(", ", values)}); "
             + string.Join(" ", takes);
     }
 

@@ -1,3 +1,4 @@
+using System.Text;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Field;
@@ -111,7 +112,7 @@ public partial class CadFieldData
     // A value of some flags is none.
     private void ExchangeValue(BitExchange fields)
     {
-        const int noValue = 3;
+        const int noValue = 1;
         if (fields.Release >= 2007 && (Flags & noValue) != 0)
         {
             return;
@@ -127,7 +128,7 @@ public partial class CadFieldData
                 Number = fields.BitDouble(Number);
                 break;
             case StringType:
-                Text = fields.Text(Text);
+                Text = fields.Release >= 2007 ? CountedText(fields) : fields.Text(Text);
                 break;
             case DateType:
                 Date = fields.Block(Date);
@@ -144,5 +145,12 @@ public partial class CadFieldData
                 ObjectHandle = fields.Handle(HandleRole.SoftPointer, ObjectHandle);
                 break;
         }
+    }
+
+    // A string is among the data, after its length in bytes with the zero that ends it.
+    private string CountedText(BitExchange fields)
+    {
+        byte[] bytes = fields.Block(Encoding.Unicode.GetBytes(Text + '\0'));
+        return fields.IsReading ? Encoding.Unicode.GetString(bytes).TrimEnd('\0') : Text;
     }
 }
