@@ -35,12 +35,17 @@ internal static class BitsText
     {
         if (model.Bits is null)
         {
+            // The list of a base class is not that of the class.
+            text.AppendLine(model.IsPartOfObject || model.IsAbstract || model.Kind == "CadBaseAcds" ? ""
+                : "    internal override bool HasBits => false;");
             return;
         }
 
         if (!model.IsPartOfObject && !model.IsAbstract)
         {
+            bool isWhole = model.Bits.All(item => item.Call != "partial");
             text.AppendLine("    internal override bool HasBits => true;");
+            text.AppendLine($"    internal override bool HasAllBits => {(isWhole ? "true" : "false")};");
         }
 
         text.AppendLine($"    internal {Modifier(model)}void ExchangeBits({Exchange} fields)");
@@ -65,6 +70,8 @@ internal static class BitsText
     {
         switch (item)
         {
+            case { Call: "partial" }:
+                return "";
             case { Call: "base" }:
                 return "base.ExchangeBits(fields);";
             case { Call: "declared" }:

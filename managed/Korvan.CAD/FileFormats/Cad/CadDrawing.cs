@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
@@ -11,6 +12,9 @@ namespace Korvan.CAD.FileFormats.Cad;
 /// renderers read it, and <see cref="CadImage"/> shows it to programs.</summary>
 internal sealed class CadDrawing
 {
+    private byte[] _thumbnail = [];
+    private Func<byte[]>? _readThumbnail;
+
     /// <summary>Creates a drawing.</summary>
     /// <param name="seed">What it has from the start.</param>
     internal CadDrawing(DrawingSeed seed)
@@ -62,7 +66,23 @@ internal sealed class CadDrawing
     internal IList<CadEntityBase> PaperSpaceEntities => PaperSpace.Entities;
 
     /// <summary>Gets or sets the preview image, a bitmap without its file header; empty for none.</summary>
-    internal byte[] ThumbnailImage { get; set; } = [];
+    internal byte[] ThumbnailImage
+    {
+        get
+        {
+            if (_readThumbnail is { } read)
+            {
+                ThumbnailImage = read();
+            }
+
+            return _thumbnail;
+        }
+
+        set => (_thumbnail, _readThumbnail) = (value, null);
+    }
+
+    /// <summary>Gets what a drawing database has beside its objects and variables.</summary>
+    internal DrawingProperties Properties { get; } = new();
 
     /// <summary>Gets the data section.</summary>
     internal CadAcdsData AcdsData { get; } = new();
@@ -112,6 +132,9 @@ internal sealed class CadDrawing
             return count;
         }
     }
+
+    /// <summary>Sets the function that returns the preview image when it is asked for.</summary>
+    internal void DeferThumbnail(Func<byte[]> read) => _readThumbnail = read;
 
     private static int CountUnknown(CadBlockEntity block) =>
         block.Entities.FindAll(static entity => entity is RawEntity).Count;

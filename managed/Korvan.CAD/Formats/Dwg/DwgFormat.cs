@@ -2,7 +2,6 @@ using System;
 using System.IO;
 using System.Linq;
 using System.Text;
-using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dwg;
 using Korvan.CAD.FileFormats.Cad.Dwg.Early;
@@ -72,10 +71,10 @@ internal static class DwgFormat
         return FileFormat.Undefined;
     }
 
-    private static CadDrawing Read(byte[] data, string name, LoadOptions options)
+    private static object Read(byte[] data, string name, LoadOptions options)
     {
         CadAcadVersion version = DrawingRelease.Parse(Encoding.ASCII.GetString(data, 0, VersionLength));
-        return version >= CadAcadVersion.AC1012 ? DwgLoader.Load(data, name, version, options)
-            : EarlyDwgReader.Read(data, name, options);
+        return version >= CadAcadVersion.AC1012
+            ? DwgLoader.Load(data, name, version, options) : EarlyDwgReader.Read(data, name, options);
     }
 }

@@ -51,7 +51,12 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
     /// <summary>Carries the data of the modeler as drawing databases have it.</summary>
     private protected void ExchangeModeler(BitExchange fields)
     {
-        if (!fields.Bit(AcisData.Count == 0))
+        const int stored = 2;
+        if (fields.HasStoredData)
+        {
+            ModelerFormatVersion = stored;
+        }
+        else if (!fields.Bit(AcisData.Count == 0))
         {
             fields.Bit(false);
             ModelerFormatVersion = (short)fields.BitShort(ModelerBits.TextVersion);

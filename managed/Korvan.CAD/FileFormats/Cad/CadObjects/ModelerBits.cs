@@ -16,11 +16,14 @@ internal static class ModelerBits
 
     private const int MaxBlock = 4096;
 
+    private static readonly byte[] EndOfAcis = "\u000E\u0003End\u000E\u0002of\u000E\u0004ACIS\r\u0004data"u8.ToArray();
+    private static readonly byte[] EndOfAsm = "\u000E\u0003End\u000E\u0002of\u000E\u0003ASM\r\u0004data"u8.ToArray();
+
     internal static void ExchangeData(CadObjectWithAcisData solid, BitExchange fields)
     {
         if (solid.ModelerFormatVersion != TextVersion)
         {
-            byte[] data = fields.BytesUpTo([], "End-of-ACIS-data"u8.ToArray(), "End-of-ASM-data"u8.ToArray());
+            byte[] data = fields.BytesUpTo([], EndOfAcis, EndOfAsm);
             solid.DataRecord = CadAcdsRecord.Holding(data);
             return;
         }
@@ -61,11 +64,6 @@ internal static class ModelerBits
             fields.BitShort(0);
             fields.Bytes(new byte[sizeof(long)], sizeof(long));
             fields.BitLong(0);
-        }
-
-        if (fields.Release >= 2007)
-        {
-            fields.Handle(HandleRole.SoftPointer, 0);
         }
     }
 

@@ -10,6 +10,7 @@ using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Dwg.Header;
 using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
+using Korvan.CAD.FileFormats.Cad.Dwg.Sections;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Input;
 
@@ -40,7 +41,16 @@ internal static class DwgLoader
         new DwgReader(file, drawing).Read();
         Dictionary<ulong, string> names = NamesOf(drawing);
         HeaderVariableCodec.ToHeader(header, file.Release, drawing.Header, handle => names.GetValueOrDefault(handle));
+        CompleteTimes(drawing.Header);
+        PropertySections.Read(file, drawing);
         return drawing;
+    }
+
+    // Files have the universal time only; programs expect the local one as well.
+    private static void CompleteTimes(CadHeader header)
+    {
+        header.Set("$TDCREATE", 40, header.GetString("$TDUCREATE"));
+        header.Set("$TDUPDATE", 40, header.GetString("$TDUUPDATE"));
     }
 
     private static HeaderValues ReadHeader(DwgFile file)

@@ -17,6 +17,9 @@ internal abstract partial class BitExchange
     /// <summary>Gets whether the object takes values over.</summary>
     internal abstract bool IsReading { get; }
 
+    /// <summary>Gets or sets whether data of the object is in the section of data, from release 2013 on.</summary>
+    internal bool HasStoredData { get; set; }
+
     /// <summary>Gets the exchange for classes whose fields are in the order of their group codes.</summary>
     internal ObjectExchange Declared => _declared ??= new DeclaredBits(this);
 

@@ -163,15 +163,15 @@ public abstract partial class CadDictionaryBase : CadObjectBase, ICadObjectConta
     }
 
     /// <summary>Carries the entries as drawing databases have them: names, and apart from them references.</summary>
-    private protected void ExchangeEntryBits(BitExchange fields)
+    private protected void ExchangeEntryBits(BitExchange fields, bool hasAllFlags)
     {
         int count = fields.CountLong(_names.Count);
-        if (fields.Release == 1997)
+        if (fields.Release == 1997 && !hasAllFlags)
         {
             fields.RawByte(0);
         }
 
-        if (fields.Release >= 2000)
+        if (fields.Release >= 2000 || hasAllFlags)
         {
             DuplicateRecordCloning = (short)fields.BitShort(DuplicateRecordCloning);
             HardOwnerFlag = (short)fields.RawByte(HardOwnerFlag);

@@ -121,6 +121,8 @@ public partial class CadFieldData
         switch (ValueType & ~GeneralFlag)
         {
             case 0 when ValueType == GeneralFlag && fields.Release >= 2007:
+                fields.Block([]);
+                break;
             case 0 or 1:
                 Integer = fields.BitLong(Integer);
                 break;
@@ -128,7 +130,7 @@ public partial class CadFieldData
                 Number = fields.BitDouble(Number);
                 break;
             case StringType:
-                Text = fields.Release >= 2007 ? CountedText(fields) : fields.Text(Text);
+                Text = fields.Release < 2007 ? fields.Text(Text) : ExchangeUtf16(fields, Text);
                 break;
             case DateType:
                 Date = fields.Block(Date);
@@ -147,10 +149,10 @@ public partial class CadFieldData
         }
     }
 
-    // A string is among the data, after its length in bytes with the zero that ends it.
-    private string CountedText(BitExchange fields)
+    // Strings of values are not among the other strings of the object.
+    private static string ExchangeUtf16(BitExchange fields, string value)
     {
-        byte[] bytes = fields.Block(Encoding.Unicode.GetBytes(Text + '\0'));
-        return fields.IsReading ? Encoding.Unicode.GetString(bytes).TrimEnd('\0') : Text;
+        byte[] bytes = fields.Block(value.Length == 0 ? [] : Encoding.Unicode.GetBytes(value + '\0'));
+        return Encoding.Unicode.GetString(bytes).TrimEnd('\0');
     }
 }

@@ -1,3 +1,4 @@
+using System.IO;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container.Paged;
@@ -26,5 +27,19 @@ internal static class DwgContainer
             CadAcadVersion.AC1021 => EncodedContainer.Read(source),
             _ => throw new ImageLoadException($"'{name}' is of release {version}, whose container cannot be read."),
         };
+    }
+
+    /// <summary>Writes a drawing database of release 2000, 2004, 2010, 2013 or 2018.</summary>
+    /// <param name="content">What it is written of.</param>
+    /// <param name="output">The file.</param>
+    internal static void Write(DwgContent content, Stream output)
+    {
+        if (content.Version == CadAcadVersion.AC1015)
+        {
+            PlainWriter.Write(content, output);
+            return;
+        }
+
+        PagedWriter.Write(content, output);
     }
 }

@@ -47,4 +47,22 @@ internal static class FramedSection
 
         return bytes[(first + extra)..(int)end];
     }
+
+    /// <summary>Writes a section.</summary>
+    /// <param name="data">The data between its sizes and its checksum.</param>
+    /// <param name="sentinel">The sequence that it begins with.</param>
+    /// <param name="extra">The number of bytes of further sizes.</param>
+    /// <param name="trailer">The number of zeros after the checksum.</param>
+    internal static byte[] Write(ReadOnlySpan<byte> data, ReadOnlySpan<byte> sentinel, int extra, int trailer)
+    {
+        byte[] section = new byte[(2 * Sentinels.Length) + SizeLength + extra + data.Length + ChecksumLength + trailer];
+        sentinel.CopyTo(section);
+        BinaryPrimitives.WriteInt32LittleEndian(section.AsSpan(Sentinels.Length), data.Length);
+        int end = Sentinels.Length + SizeLength + extra + data.Length;
+        data.CopyTo(section.AsSpan(end - data.Length));
+        ushort checksum = Crc16.Compute(Crc16.Seed, section.AsSpan(Sentinels.Length..end));
+        BinaryPrimitives.WriteUInt16LittleEndian(section.AsSpan(end), checksum);
+        Sentinels.EndOf(sentinel).CopyTo(section, end + ChecksumLength);
+        return section;
+    }
 }

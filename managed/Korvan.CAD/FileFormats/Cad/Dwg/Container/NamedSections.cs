@@ -94,11 +94,14 @@ internal static class NamedSections
         }
     }
 
-    // From some maintenance release of 2010 on, sizes have 64 bits, of which the first one counts only the lower half.
-    private static int ExtraOf(DwgFile file) => file.Version switch
+    /// <summary>Returns the number of bytes of further sizes: from some maintenance release of 2010 on, sizes have 64
+    /// bits, of which the first size counts only the lower half.</summary>
+    internal static int ExtraOf(CadAcadVersion version, int maintenance) => version switch
     {
-        CadAcadVersion.AC1024 or CadAcadVersion.AC1027 => file.MaintenanceVersion > LastShortSizes ? 4 : 0,
+        CadAcadVersion.AC1024 or CadAcadVersion.AC1027 => maintenance > LastShortSizes ? 4 : 0,
         >= CadAcadVersion.AC1032 => 4,
         _ => 0,
     };
+
+    private static int ExtraOf(DwgFile file) => ExtraOf(file.Version, file.MaintenanceVersion);
 }

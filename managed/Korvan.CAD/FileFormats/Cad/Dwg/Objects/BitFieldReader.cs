@@ -2,7 +2,6 @@ using System;
 using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
-using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 using Korvan.CAD.FileFormats.Cad.Exchange;
@@ -51,6 +50,7 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
         _self = self;
         _data = data;
         Parts = null;
+        HasStoredData = false;
     }
 
     /// <summary>Sets where the references of the object begin: there its data ends.</summary>
@@ -96,13 +96,9 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
 
     internal override string Text(string value)
     {
-        if (release >= UnicodeStrings)
-        {
-            return _strings.Remaining > 0 ? _strings.Utf16Text() : "";
-        }
-
-        string text = _data.Text(encoding);
-        return text.Contains('\\') ? TextEscapes.Standard.Decode(text) : text;
+        string text = release < UnicodeStrings ? _data.Text(encoding)
+            : _strings.Remaining > 0 ? _strings.Utf16Text() : "";
+        return RecordText.FromFile(text);
     }
 
     internal override string Handle(HandleRole role, string value)

@@ -21,7 +21,8 @@ internal readonly record struct FileHeader(long PageMapAddress, int SectionMapPa
     /// <summary>The first byte after the file header, where pages begin.</summary>
     internal const int FirstPage = 0x100;
 
-    private const int ChecksumOffset = 0x68;
+    /// <summary>The place of the checksum in the masked part.</summary>
+    internal const int ChecksumOffset = 0x68;
 
     internal static ReadOnlySpan<byte> Id => "AcFssFcAJMB\0"u8;
 
