@@ -84,7 +84,7 @@ internal static class BitsText
                 return Constant(item);
         }
 
-        if (item.Coding == "CMC")
+        if (item.Coding is "CMC" or "TC")
         {
             return Color(item, model);
         }
@@ -146,7 +146,7 @@ internal static class BitsText
             takes.Add($"{name} = {cast}color{i};");
         }
 
-        return $"({string.Join(", ", targets)}) = fields.Color({string.Join(", ", values)}); "
+        return $"({string.Join(", ", targets)}) = fields.{(item.Coding == "TC" ? "TrueColor" : "Color")}({string.Join(", ", values)}); "
             + string.Join(" ", takes);
     }
 

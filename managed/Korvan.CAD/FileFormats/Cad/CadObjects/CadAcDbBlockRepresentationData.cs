@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>Which dynamic block an anonymous block represents in one of its states.</summary>
 [CadSequence]
 [CadObject("ACDB_BLOCKREPRESENTATION_DATA", Subclass = "AcDbBlockRepresentationData")]
+[CadBits("BS Version", "H BlockHandle")]
 public partial class CadAcDbBlockRepresentationData : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>What keeps a dynamic block from being purged while references to its states are left.</summary>
 [CadSequence]
 [CadObject("ACDB_DYNAMICBLOCKPURGEPREVENTER_VERSION", Subclass = "AcDbDynamicBlockPurgePreventer")]
+[CadBits("BS Version", "H BlockHandle")]
 public partial class CadAcDbDynamicBlockPurgePreventerVersion : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

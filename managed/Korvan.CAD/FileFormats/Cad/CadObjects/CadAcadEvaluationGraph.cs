@@ -9,6 +9,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// depend on one another.</summary>
 [CadSequence]
 [CadObject("ACAD_EVALUATION_GRAPH", Subclass = "AcDbEvalGraph")]
+[CadBits("BL LastNodeId", "BL LastNodeIdAgain", "Part[BL] NodeList", "Part[BL] EdgeList")]
 public partial class CadAcadEvaluationGraph : CadObjectBase, ICadObjectContainer
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -6,6 +6,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadMarkers(Leading = "AcDbShPrimitive")]
 [CadObject("ACSH_CONE_CLASS", Subclass = "AcDbShCone")]
+[CadBits(
+    "base", "BL PrimitiveMajorVersion", "BL PrimitiveMinorVersion", "BD Height", "BD MajorRadius", "BD MinorRadius",
+    "BD TopRadius")]
 public partial class CadAcshConeClass : CadAcshHistoryNode
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -6,6 +6,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadMarkers(Leading = "AcDbShPrimitive")]
 [CadObject("ACSH_CYLINDER_CLASS", Subclass = "AcDbShCylinder")]
+[CadBits(
+    "base", "BL PrimitiveMajorVersion", "BL PrimitiveMinorVersion", "BD Height", "BD MajorRadius", "BD MinorRadius",
+    "BD XRadius")]
 public partial class CadAcshCylinderClass : CadAcshHistoryNode
 {
     /// <summary>Creates the object with its defaults.</summary>

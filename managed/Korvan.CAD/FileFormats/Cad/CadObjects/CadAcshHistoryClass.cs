@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>The history of a solid.</summary>
 [CadSequence]
 [CadObject("ACSH_HISTORY_CLASS", Subclass = "AcDbShHistory")]
+[CadBits("BL MajorVersion", "BL MinorVersion", "H GraphHandle", "BL LastNodeId", "B ShowHistory", "B RecordHistory")]
 public partial class CadAcshHistoryClass : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,10 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A step in the history of a solid.</summary>
 [CadSequence]
 [CadObject("", Subclass = "AcDbShHistoryNode")]
+[CadBits(
+    "base", "BL HistoryMajorVersion", "BL HistoryMinorVersion", "BD M00", "BD M01", "BD M02", "BD M03", "BD M10",
+    "BD M11", "BD M12", "BD M13", "BD M20", "BD M21", "BD M22", "BD M23", "BD M30", "BD M31", "BD M32", "BD M33",
+    "CMC ColorId", "BL StepId", "H Material")]
 public abstract partial class CadAcshHistoryNode : CadDbEvalExpr
 {
     internal CadAcshHistoryNode()

@@ -6,6 +6,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadMarkers(Leading = "AcDbShPrimitive")]
 [CadObject("ACSH_PYRAMID_CLASS", Subclass = "AcDbShPyramid")]
+[CadBits(
+    "base", "BL PrimitiveMajorVersion", "BL PrimitiveMinorVersion", "BD Height", "BL SideCount", "BD Radius",
+    "BD TopRadius")]
 public partial class CadAcshPyramidClass : CadAcshHistoryNode
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadMarkers(Leading = "AcDbShPrimitive")]
 [CadObject("ACSH_SPHERE_CLASS", Subclass = "AcDbShSphere")]
+[CadBits("base", "BL PrimitiveMajorVersion", "BL PrimitiveMinorVersion", "BD Radius")]
 public partial class CadAcshSphereClass : CadAcshHistoryNode
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadMarkers(Leading = "AcDbShPrimitive")]
 [CadObject("ACSH_TORUS_CLASS", Subclass = "AcDbShTorus")]
+[CadBits("base", "BL PrimitiveMajorVersion", "BL PrimitiveMinorVersion", "BD MajorRadius", "BD MinorRadius")]
 public partial class CadAcshTorusClass : CadAcshHistoryNode
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadMarkers(Leading = "AcDbShPrimitive")]
 [CadObject("ACSH_WEDGE_CLASS", Subclass = "AcDbShWedge")]
+[CadBits("base", "BL PrimitiveMajorVersion", "BL PrimitiveMinorVersion", "BD Length", "BD Width", "BD Height")]
 public partial class CadAcshWedgeClass : CadAcshHistoryNode
 {
     /// <summary>Creates the object with its defaults.</summary>

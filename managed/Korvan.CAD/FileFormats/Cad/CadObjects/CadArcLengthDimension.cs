@@ -1,9 +1,13 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A dimension of the length of an arc.</summary>
 [CadObject("ARC_DIMENSION", Subclass = "AcDbArcDimension")]
+[CadBits(
+    "base", "3BD DefinitionPoint", "3BD FirstExtensionPoint", "3BD SecondExtensionPoint", "3BD ArcCenter",
+    "B IsPartial", "BD StartAngle", "BD EndAngle", "B HasLeader", "3BD LeaderStart", "3BD LeaderEnd")]
 public partial class CadArcLengthDimension : CadDimensionBase
 {
     /// <summary>Gets or sets the start of the first extension line, in world coordinates. Group codes 13, 23,

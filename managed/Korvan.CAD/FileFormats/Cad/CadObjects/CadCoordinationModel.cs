@@ -7,6 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadAlias("COORDINATION")]
 [CadObject("COORDINATION_MODEL", Subclass = "AcDbNavisworksModel")]
+[CadBits("BS Flags", "H DefinitionHandle", "BD[16] Transform", "BD UnitFactor")]
 public partial class CadCoordinationModel : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>

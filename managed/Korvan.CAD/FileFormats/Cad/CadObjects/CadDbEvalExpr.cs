@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A node of an evaluation graph: an object whose value is computed from those of other nodes.</summary>
 [CadSequence]
 [CadObject("", Subclass = "AcDbEvalExpr")]
+[CadBits("BL = -1", "BL MajorVersion", "BL MinorVersion", "Part Value", "BL NodeId")]
 public abstract partial class CadDbEvalExpr : CadObjectBase
 {
     internal CadDbEvalExpr()

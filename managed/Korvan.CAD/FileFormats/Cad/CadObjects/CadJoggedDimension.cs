@@ -1,9 +1,11 @@
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A dimension of a large radius with a jog in its line.</summary>
 [CadObject("LARGE_RADIAL_DIMENSION", Subclass = "AcDbRadialDimensionLarge")]
+[CadBits("base", "3BD DefinitionPoint", "3BD ChordPoint", "BD JogAngle", "3BD OverrideCenter", "3BD JogPoint")]
 public partial class CadJoggedDimension : CadDimensionBase
 {
     /// <summary>Gets or sets the point that replaces the centre, in world coordinates. Group codes 13, 23,

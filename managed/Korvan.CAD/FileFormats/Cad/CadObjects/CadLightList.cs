@@ -8,6 +8,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>The lights of a drawing.</summary>
 [CadSequence]
 [CadObject("LIGHTLIST", Subclass = "AcDbLightList")]
+[CadBits("BL Version", "Part[BL] Entries")]
 public partial class CadLightList : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -6,6 +6,17 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>The appearance of section views: their lines, arrows, labels and hatches.</summary>
 [CadSequence]
 [CadObject("ACDBSECTIONVIEWSTYLE", Subclass = "AcDbModelDocViewStyle")]
+[CadBits(
+    "BS ModelDocVersion", "T StyleName", "B IsModified", "2018+ T DisplayName", "2018+ BL ViewStyleFlags", "BS Version",
+    "BL Flags", "H IdentifierStyleHandle", "CMC IdentifierColorId IdentifierColorValue", "BD IdentifierHeight",
+    "H ArrowStartSymbolHandle", "H ArrowEndSymbolHandle", "CMC ArrowColorId ArrowColorValue", "BD ArrowSize",
+    "T ExcludedCharacters", "BD ArrowExtensionLength", "H PlaneLineTypeHandle", "BL PlaneLineWeight",
+    "CMC PlaneColorId PlaneColorValue", "H BendLineTypeHandle", "BL BendLineWeight", "CMC BendColorId BendColorValue",
+    "BD BendLineLength", "BD EndLineLength", "H LabelStyleHandle", "CMC LabelColorId LabelColorValue", "BD LabelHeight",
+    "BL LabelAttachment", "BD LabelOffset", "BL LabelAlignment", "T LabelPattern", "CMC HatchColorId HatchColorValue",
+    "CMC HatchBackgroundColorId HatchBackgroundColorValue", "T HatchPattern", "BD HatchScale", "BL HatchTransparency",
+    "B HideHatching", "B ReverseHatching", "BL IdentifierPosition", "BD IdentifierOffset", "BL ArrowPosition",
+    "BD EndLineOvershoot", "BD[BL] HatchAngles")]
 public partial class CadSectionViewStyle : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A background of a view that shows the sky.</summary>
 [CadSequence]
 [CadObject("SKYLIGHT_BACKGROUND", Subclass = "AcDbSkyBackground")]
+[CadBits("BL Version", "H SunHandle")]
 public partial class CadSkyLightBackGround : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

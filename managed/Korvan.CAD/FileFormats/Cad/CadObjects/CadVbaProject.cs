@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>The macros of a drawing.</summary>
 [CadSequence]
 [CadObject("VBA_PROJECT", Subclass = "AcDbVbaProject")]
+[CadBits("ExchangeData()")]
 public partial class CadVbaProject : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -20,4 +21,6 @@ public partial class CadVbaProject : CadObjectBase
         fields.Int32(90, Data.Length);
         Data = fields.Binary(310, Data);
     }
+
+    private void ExchangeData(BitExchange fields) => Data = fields.Block(Data);
 }

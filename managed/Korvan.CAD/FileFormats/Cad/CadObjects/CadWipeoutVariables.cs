@@ -1,7 +1,10 @@
+using Korvan.CAD.FileFormats.Cad.Exchange;
+
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>Settings of wipeouts.</summary>
 [CadObject("WIPEOUTVARIABLES", Subclass = "AcDbWipeoutVariables")]
+[CadBits("BS DisplayFrame")]
 public partial class CadWipeoutVariables : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>An edge of an evaluation graph.</summary>
 [CadSequence]
+[CadBits("BL Id", "BL Flags", "BL ReferenceCount", "BL From", "BL To", "BL[5] Links")]
 internal sealed partial class EvaluationEdge
 {
     /// <summary>Gets or sets the index. Group code 92.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A node of an evaluation graph.</summary>
 [CadSequence]
+[CadBits("BL Id", "BL Flags", "BL NextId", "H Expression", "BL[4] Edges")]
 internal sealed partial class EvaluationNode
 {
     /// <summary>Gets or sets the index. Group code 91.</summary>

@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A light of a light list.</summary>
 [CadSequence]
+[CadBits("H LightHandle", "T Name")]
 internal sealed partial class LightListEntry
 {
     /// <summary>Gets or sets the handle of the light. Group code 5.</summary>

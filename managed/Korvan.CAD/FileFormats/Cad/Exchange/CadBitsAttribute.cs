@@ -11,7 +11,8 @@ namespace Korvan.CAD.FileFormats.Cad.Exchange;
 /// of which the class has the packed value. Angles are converted
 /// to degrees where the property is one; H takes its kind from the group code, and becomes a name where the
 /// property is one.</item>
-/// <item><c>CMC Color Rgb Name</c>: a colour by its index, and where the class has them RGB and name.</item>
+/// <item><c>CMC Color Rgb Name</c>: a colour by its index, and where the class has them RGB and name; <c>TC</c> the
+/// same in the form of release 2004, whatever the release is.</item>
 /// <item><c>3BD[BL] Points</c>: a list after its number of items in the coding within the brackets, or as many as an
 /// expression there says.</item>
 /// <item><c>Part Margin</c>, <c>Part[BL] Cells</c>: objects with lists of their own.</item>

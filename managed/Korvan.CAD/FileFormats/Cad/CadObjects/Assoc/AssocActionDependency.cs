@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 
 /// <summary>A dependency or action that an associative action refers to.</summary>
 [CadSequence]
+[CadBits("B IsOwned", "ExchangeHandle()")]
 public partial class AssocActionDependency
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -26,4 +27,7 @@ public partial class AssocActionDependency
         ObjectHandle = fields.Handle(
             IsOwned ? OwnerCode : PointerCode, IsOwned ? HandleRole.HardOwner : HandleRole.SoftPointer, ObjectHandle);
     }
+
+    private void ExchangeHandle(BitExchange fields) =>
+        ObjectHandle = fields.Handle(IsOwned ? HandleRole.HardOwner : HandleRole.SoftPointer, ObjectHandle);
 }

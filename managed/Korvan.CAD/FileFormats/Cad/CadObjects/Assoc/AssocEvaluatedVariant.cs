@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 
 /// <summary>A value of one of several types; its group code states which.</summary>
 [CadSequence]
+[CadBits("ExchangeVariant()")]
 public partial class AssocEvaluatedVariant
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -58,6 +59,36 @@ public partial class AssocEvaluatedVariant
         if (fields.Has(Code + 20, 0, Point.Z != 0))
         {
             Point.Z = fields.Double(Code + 20, Point.Z);
+        }
+    }
+
+    // Databases have a code of their own for no value.
+    private void ExchangeVariant(BitExchange fields)
+    {
+        const short none = -9999;
+        short code = (short)fields.BitShort(Code == 0 ? none : Code);
+        Code = code == none ? (short)0 : code;
+        switch (Code)
+        {
+            case >= 10 and < 20:
+                Point.X = fields.RawDouble(Point.X);
+                Point.Y = fields.RawDouble(Point.Y);
+                break;
+            case (>= 40 and < 60) or (>= 140 and < 150):
+                Number = fields.BitDouble(Number);
+                break;
+            case (> 0 and < 10) or (>= 300 and < 370):
+                Text = fields.Text(Text);
+                break;
+            case (>= 60 and < 80) or (>= 170 and < 180) or (>= 280 and < 300):
+                Integer = fields.BitShort(Integer);
+                break;
+            case 91:
+                Text = fields.Handle(HandleRole.HardPointer, Text);
+                break;
+            case >= 80 and < 100:
+                Integer = fields.BitLong(Integer);
+                break;
         }
     }
 }

@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 
 /// <summary>A named value of an associative action.</summary>
 [CadSequence]
+[CadBits("BL Version", "T Name", "BL Unit", "Part[BL] Inputs", "H ControlledDependency")]
 internal sealed partial class AssocValue
 {
     /// <summary>Gets or sets the version of the data. Group code 90.</summary>

@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 
 /// <summary>An expression of a named value, and the dependency that it comes from.</summary>
 [CadSequence]
+[CadBits("Part Value", "H Dependency")]
 internal sealed partial class AssocValueInput
 {
     /// <summary>Gets the value.</summary>

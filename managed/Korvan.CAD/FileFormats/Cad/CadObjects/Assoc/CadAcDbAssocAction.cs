@@ -8,6 +8,11 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 /// <summary>An associative action: it evaluates objects when those it depends on change.</summary>
 [CadSequence]
 [CadObject("ACDBASSOCACTION", Subclass = "AcDbAssocAction")]
+[CadBits(
+    "BS ActionVersion", "BL Status", "H OwningNetwork", "H ActionBody", "BL ActionIndex", "BL MaxDependencyIndex",
+    "Part[BL] Dependencies", "if ActionVersion > 1: BS ParameterVersion",
+    "if ActionVersion > 1: H[BL] ParameterHandles", "if ActionVersion > 1: BS ValueVersion",
+    "if ActionVersion > 1: Part[BL] ValueList")]
 public partial class CadAcDbAssocAction : CadObjectBase, ICadObjectContainer
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,10 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 /// <summary>A dependency of an associative action on an object.</summary>
 [CadSequence]
 [CadObject("ACDBASSOCDEPENDENCY", Subclass = "AcDbAssocDependency")]
+[CadBits(
+    "BS DependencyVersion", "BL Status", "B IsReadDependency", "B IsWriteDependency", "B IsAttachedToObject",
+    "B IsDelegatingToOwningAction", "BL Order", "H DependentOnObject", "B HasName", "if HasName: T Name",
+    "H ReadDependency", "H NextDependency", "H DependencyBody", "BL DependencyIndex")]
 public partial class CadAcDbAssocDependency : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

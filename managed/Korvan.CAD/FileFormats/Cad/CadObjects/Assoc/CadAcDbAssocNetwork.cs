@@ -8,6 +8,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 /// <summary>A network of associative actions, which are evaluated in the order of their dependencies.</summary>
 [CadSequence]
 [CadObject("ACDBASSOCNETWORK", Subclass = "AcDbAssocNetwork")]
+[CadBits("base", "BS NetworkVersion", "BL MaxActionIndex", "Part[BL] Actions", "H[BL] ActionsToEvaluate")]
 public partial class CadAcDbAssocNetwork : CadAcDbAssocAction
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 /// <summary>A variable of an associative network: a name and an expression.</summary>
 [CadSequence]
 [CadObject("ACDBASSOCVARIABLE", Subclass = "AcDbAssocVariable")]
+[CadBits(
+    "base", "BL VariableVersion", "T Name", "T Expression", "T Evaluator", "T Description", "Part Value", "B HasError",
+    "T ErrorMessage", "B IsAnonymous", "BL")]
 public partial class CadAcDbAssocVariable : CadAcDbAssocAction
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Background;
 /// <summary>A background of a view that fades between colours from top to bottom.</summary>
 [CadSequence]
 [CadObject("GRADIENT_BACKGROUND", Subclass = "AcDbGradientBackground")]
+[CadBits("BL Version", "BL ColorTop", "BL ColorMiddle", "BL ColorBottom", "BD Horizon", "BD Height", "BD Rotation")]
 public partial class CadGradientBackground : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Background;
 /// <summary>A background of a view in one colour.</summary>
 [CadSequence]
 [CadObject("SOLID_BACKGROUND", Subclass = "AcDbSolidBackground")]
+[CadBits("BL Version", "BL Color")]
 public partial class CadSolidBackground : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -7,6 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>What parameters of dynamic blocks have in common that are defined by one point.</summary>
 [CadSequence]
 [CadObject("", Subclass = "AcDbBlockParameter")]
+[CadBits("base", "B ShowProperties", "B ChainActions", "3BD DefinitionPoint", "ExchangeConnections()", "BL GripId")]
 public abstract partial class CadBlock1PtParameters : CadBlockElement
 {
     internal CadBlock1PtParameters()
@@ -49,6 +50,14 @@ public abstract partial class CadBlock1PtParameters : CadBlockElement
         for (int i = 0; i < ConnectionCodes.Length; i++)
         {
             ParameterConnection.Exchange(fields, ConnectionCodes[i], _connections[i]);
+        }
+    }
+
+    private void ExchangeConnections(BitExchange fields)
+    {
+        foreach (List<ParameterConnection> connections in _connections)
+        {
+            ParameterConnection.Exchange(fields, connections);
         }
     }
 }

@@ -7,6 +7,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>What parameters of dynamic blocks have in common that are defined by two points.</summary>
 [CadSequence]
 [CadObject("", Subclass = "AcDbBlockParameter")]
+[CadBits(
+    "base", "B ShowProperties", "B ChainActions", "3BD BasePoint", "3BD EndPoint", "ExchangeConnections()",
+    "ExchangeGrips()", "BS BaseLocation")]
 public abstract partial class CadBlock2PtParameters : CadBlockElement
 {
     internal CadBlock2PtParameters()
@@ -59,5 +62,27 @@ public abstract partial class CadBlock2PtParameters : CadBlockElement
         }
 
         BaseLocation = fields.Int16(177, BaseLocation);
+    }
+
+    private void ExchangeConnections(BitExchange fields)
+    {
+        foreach (List<ParameterConnection> connections in _connections)
+        {
+            ParameterConnection.Exchange(fields, connections);
+        }
+    }
+
+    private void ExchangeGrips(BitExchange fields)
+    {
+        const int count = 4;
+        fields.Resize(GripIds, fields.IsReading ? count : GripIds.Count);
+        for (int i = 0; i < count; i++)
+        {
+            int id = fields.BitLong(i < GripIds.Count ? GripIds[i] : 0);
+            if (fields.IsReading)
+            {
+                GripIds[i] = id;
+            }
+        }
     }
 }

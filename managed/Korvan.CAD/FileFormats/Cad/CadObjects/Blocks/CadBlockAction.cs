@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>What actions of dynamic blocks have in common: they change entities when a parameter changes.</summary>
 [CadSequence]
 [CadObject("", Subclass = "AcDbBlockAction")]
+[CadBits("base", "3BD DisplayLocation", "H[BL] SelectionHandles", "BL[BL] NodeIds")]
 public abstract partial class CadBlockAction : CadBlockElement
 {
     internal CadBlockAction()

@@ -5,6 +5,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>What actions of dynamic blocks have in common that have a base point.</summary>
 [CadSequence]
 [CadObject("", Subclass = "AcDbBlockActionWithBasePt")]
+[CadBits(
+    "base", "3BD Offset", "BL FirstConnectionId", "T FirstConnectionName", "BL SecondConnectionId",
+    "T SecondConnectionName", "B IsDependent", "3BD ActionBasePoint")]
 public abstract partial class CadBlockActionWithBasePt : CadBlockAction
 {
     internal CadBlockActionWithBasePt()

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>The grip of an alignment parameter.</summary>
 [CadSequence]
 [CadObject("BLOCKALIGNMENTGRIP", Subclass = "AcDbBlockAlignmentGrip")]
+[CadBits("base", "BD DirectionX", "BD DirectionY", "BD DirectionZ")]
 public partial class CadBlockAligmentGrip : CadBlockGrip
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>A parameter that rotates the block to the objects it is placed at.</summary>
 [CadSequence]
 [CadObject("BLOCKALIGNMENTPARAMETER", Subclass = "AcDbBlockAlignmentParameter")]
+[CadBits("base", "B AlignPerpendicular")]
 public partial class CadBlockAligmentParameter : CadBlock2PtParameters
 {
     /// <summary>Creates the object with its defaults.</summary>

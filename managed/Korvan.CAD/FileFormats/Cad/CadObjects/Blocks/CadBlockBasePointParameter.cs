@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>The parameter that moves the base point of a dynamic block.</summary>
 [CadSequence]
 [CadObject("BLOCKBASEPOINTPARAMETER", Subclass = "AcDbBlockBasepointParameter")]
+[CadBits("base", "3BD Point", "3BD BasePoint")]
 public partial class CadBlockBasePointParameter : CadBlock1PtParameters
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>What parameters, actions and grips of dynamic blocks have in common.</summary>
 [CadSequence]
 [CadObject("", Subclass = "AcDbBlockElement")]
+[CadBits("base", "T ElementName", "BL ElementMajorVersion", "BL ElementMinorVersion", "BL ElementFlags")]
 public abstract partial class CadBlockElement : CadDbEvalExpr
 {
     internal CadBlockElement()

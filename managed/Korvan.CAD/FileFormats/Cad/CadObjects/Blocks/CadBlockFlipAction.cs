@@ -5,6 +5,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>The action that mirrors entities of a dynamic block.</summary>
 [CadSequence]
 [CadObject("BLOCKFLIPACTION", Subclass = "AcDbBlockFlipAction")]
+[CadBits(
+    "base", "BL FlipStateId", "T FlipStateName", "BL UpdatedFlipStateId", "T UpdatedFlipStateName",
+    "BL UpdatedBasePointId", "T UpdatedBasePointName", "BL UpdatedEndPointId", "T UpdatedEndPointName")]
 public partial class CadBlockFlipAction : CadBlockAction
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>The grip of a flip parameter.</summary>
 [CadSequence]
 [CadObject("BLOCKFLIPGRIP", Subclass = "AcDbBlockFlipGrip")]
+[CadBits("base", "BL CombinedState", "BD DirectionX", "BD DirectionY", "BD DirectionZ")]
 public partial class CadBlockFlipGrip : CadBlockGrip
 {
     /// <summary>Creates the object with its defaults.</summary>

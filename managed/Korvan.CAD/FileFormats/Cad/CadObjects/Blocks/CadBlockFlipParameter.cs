@@ -5,6 +5,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>A parameter that mirrors parts of the block at a line.</summary>
 [CadSequence]
 [CadObject("BLOCKFLIPPARAMETER", Subclass = "AcDbBlockFlipParameter")]
+[CadBits(
+    "base", "T Label", "T Description", "T BaseStateLabel", "T FlippedStateLabel", "3BD LabelPoint", "BL FlipState",
+    "T Tooltip")]
 public partial class CadBlockFlipParameter : CadBlock2PtParameters
 {
     /// <summary>Creates the object with its defaults.</summary>

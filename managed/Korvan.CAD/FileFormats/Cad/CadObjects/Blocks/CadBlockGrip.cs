@@ -5,6 +5,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>A grip of a dynamic block: the point by which a user changes a parameter.</summary>
 [CadSequence]
 [CadObject("", Subclass = "AcDbBlockGrip")]
+[CadBits(
+    "base", "BL FirstParameterId", "BL SecondParameterId", "3BD Location", "B InsertCycling", "BL InsertCyclingWeight")]
 public abstract partial class CadBlockGrip : CadBlockElement
 {
     internal CadBlockGrip()

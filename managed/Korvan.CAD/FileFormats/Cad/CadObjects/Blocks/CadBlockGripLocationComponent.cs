@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>The value of one coordinate of a grip.</summary>
 [CadSequence]
 [CadObject("BLOCKGRIPLOCATIONCOMPONENT", Subclass = "AcDbBlockGripExpr")]
+[CadBits("base", "BL GripId", "T Expression")]
 public partial class CadBlockGripLocationComponent : CadDbEvalExpr
 {
     /// <summary>Creates the object with its defaults.</summary>

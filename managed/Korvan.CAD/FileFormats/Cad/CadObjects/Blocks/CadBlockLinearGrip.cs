@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>A grip of a linear parameter.</summary>
 [CadSequence]
 [CadObject("BLOCKLINEARGRIP", Subclass = "AcDbBlockLinearGrip")]
+[CadBits("base", "BD DirectionX", "BD DirectionY", "BD DirectionZ")]
 public partial class CadBlockLinearGrip : CadBlockGrip
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>A parameter that is the distance of two points.</summary>
 [CadSequence]
 [CadObject("BLOCKLINEARPARAMETER", Subclass = "AcDbBlockLinearParameter")]
+[CadBits("base", "T DistanceLabel", "T DistanceDescription", "BD Distance", "ExchangeValues()")]
 public partial class CadBlockLinearParameter : CadBlock2PtParameters
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -60,4 +61,6 @@ public partial class CadBlockLinearParameter : CadBlock2PtParameters
     public List<double> Values => _values.Values;
 
     partial void OnExchange(ObjectExchange fields) => _values.Exchange(fields, (307, 96, 141, 175));
+
+    private void ExchangeValues(BitExchange fields) => _values.ExchangeBits(fields);
 }

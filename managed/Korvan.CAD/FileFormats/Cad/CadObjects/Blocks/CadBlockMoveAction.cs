@@ -5,6 +5,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>The action that moves entities of a dynamic block.</summary>
 [CadSequence]
 [CadObject("BLOCKMOVEACTION", Subclass = "AcDbBlockMoveAction")]
+[CadBits(
+    "base", "BL XDeltaId", "T XDeltaName", "BL YDeltaId", "T YDeltaName", "BD DistanceMultiplier", "BD AngleOffset",
+    "RC XYType")]
 public partial class CadBlockMoveAction : CadBlockAction
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>A parameter that is a position.</summary>
 [CadSequence]
 [CadObject("BLOCKPOINTPARAMETER", Subclass = "AcDbBlockPointParameter")]
+[CadBits("base", "T PositionLabel", "T PositionDescription", "3BD LabelPoint")]
 public partial class CadBlockPointParameter : CadBlock1PtParameters
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>The action that rotates entities of a dynamic block.</summary>
 [CadSequence]
 [CadObject("BLOCKROTATEACTION", Subclass = "AcDbBlockRotationAction")]
+[CadBits("base", "BL AngleDeltaId", "T AngleDeltaName")]
 public partial class CadBlockRotateAction : CadBlockActionWithBasePt
 {
     /// <summary>Creates the object with its defaults.</summary>

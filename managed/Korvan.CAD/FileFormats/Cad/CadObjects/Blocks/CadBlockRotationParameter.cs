@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>A parameter that is an angle.</summary>
 [CadSequence]
 [CadObject("BLOCKROTATIONPARAMETER", Subclass = "AcDbBlockRotationParameter")]
+[CadBits("base", "3BD BaseAnglePoint", "T AngleLabel", "T AngleDescription", "BD Angle", "ExchangeValues()")]
 public partial class CadBlockRotationParameter : CadBlock2PtParameters
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -65,4 +66,6 @@ public partial class CadBlockRotationParameter : CadBlock2PtParameters
     public List<double> Values => _values.Values;
 
     partial void OnExchange(ObjectExchange fields) => _values.Exchange(fields, (307, 96, 141, 175));
+
+    private void ExchangeValues(BitExchange fields) => _values.ExchangeBits(fields);
 }

@@ -7,6 +7,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>The action that stretches entities of a dynamic block: it moves the points within a frame.</summary>
 [CadSequence]
 [CadObject("BLOCKSTRETCHACTION", Subclass = "AcDbBlockStretchAction")]
+[CadBits(
+    "base", "BL XDeltaId", "T XDeltaName", "BL YDeltaId", "T YDeltaName", "2RD[BL] Frame", "Part[BL] Elements",
+    "Part[BL] NodeList", "BD DistanceMultiplier", "BD AngleOffset", "RC XYType")]
 public partial class CadBlockStretchAction : CadBlockAction
 {
     /// <summary>Creates the object with its defaults.</summary>

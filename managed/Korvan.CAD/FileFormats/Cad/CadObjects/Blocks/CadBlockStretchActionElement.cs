@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 
 /// <summary>An entity of which a stretch action moves some points.</summary>
 [CadSequence]
+[CadBits("H EntityHandle", "BL[BS] PointIndices")]
 public partial class CadBlockStretchActionElement
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -9,6 +9,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>The states of a dynamic block, each of which shows some of its entities.</summary>
 [CadSequence]
 [CadObject("BLOCKVISIBILITYPARAMETER", Subclass = "AcDbBlockVisibilityParameter")]
+[CadBits(
+    "base", "B IsInitialized", "T Label", "T Description", "B HistoryFlags", "H[BL] EntityHandles",
+    "Part[BL] StateList")]
 public partial class CadBlockVisibilityParameter : CadBlock1PtParameters
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// it.</summary>
 [CadSequence]
 [CadObject("BLOCKXYGRIP", Subclass = "AcDbBlockXYGrip")]
+[CadBits("base")]
 public partial class CadBlockXYGrip : CadBlockGrip
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 
 /// <summary>A value that a parameter offers to other nodes.</summary>
 [CadSequence]
+[CadBits("BL NodeId", "T Value")]
 internal sealed partial class ParameterConnection
 {
 
@@ -24,6 +25,16 @@ internal sealed partial class ParameterConnection
             ParameterConnection one = fields.Item(connections, i);
             one.NodeId = fields.Int32(codes.Node, one.NodeId);
             one.Value = fields.Text(codes.Name, one.Value);
+        }
+    }
+
+    /// <summary>Carries a list of connections.</summary>
+    internal static void Exchange(BitExchange fields, List<ParameterConnection> connections)
+    {
+        int count = fields.CountLong(connections.Count);
+        for (int i = 0; i < count; i++)
+        {
+            fields.Item(connections, i).ExchangeBits(fields);
         }
     }
 }

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 
 /// <summary>The values that a parameter may take: any, those of a list, or steps within a range.</summary>
 [CadSequence]
+[CadBits("BL Flags", "BD Minimum", "BD Maximum", "BD Increment", "BD[BS] Values")]
 internal sealed partial class ParameterValueSet
 {
 

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 
 /// <summary>A parameter or action of which a stretch action moves some points.</summary>
 [CadSequence]
+[CadBits("BL NodeId", "BL[BS] PointIndices")]
 internal sealed partial class StretchNode
 {
     /// <summary>Gets or sets the index of the node. Group code 95.</summary>

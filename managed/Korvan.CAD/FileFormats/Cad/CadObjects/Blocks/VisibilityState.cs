@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 
 /// <summary>A visibility state of a dynamic block.</summary>
 [CadSequence]
+[CadBits("T Name", "H[BL] EntityHandles", "H[BL] ElementHandles")]
 internal sealed partial class VisibilityState
 {
     /// <summary>Gets or sets the name. Group code 303.</summary>

@@ -8,6 +8,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.DimAssoc;
 /// <summary>The points of entities that a dimension follows.</summary>
 [CadSequence]
 [CadObject("DIMASSOC", Subclass = "AcDbDimAssoc")]
+[CadBits(
+    "BL AssociativityFlags", "B TransSpaceFlag", "RC RotatedDimensionType", "H DimensionHandle",
+    "ExchangeReferences()")]
 public partial class CadDimAssoc : CadObjectBase, ICadObjectContainer
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -40,4 +43,27 @@ public partial class CadDimAssoc : CadObjectBase, ICadObjectContainer
 
     /// <inheritdoc/>
     public string[] GetObjectHandles() => [.. PointReferences.SelectMany(static point => point.ObjectHandles)];
+
+    // A bit for each point that is associated; one that refers to its last point is followed by that.
+    private void ExchangeReferences(BitExchange fields)
+    {
+        const int points = 6;
+        bool isLast = false;
+        for (int bit = 0, index = 0; bit < points; bit++)
+        {
+            if ((AssociativityFlags & (1 << bit)) == 0 && !isLast)
+            {
+                continue;
+            }
+
+            if (!fields.IsReading && index == PointReferences.Count)
+            {
+                throw fields.Fault($"the flags {AssociativityFlags} need more than {index} references to points");
+            }
+
+            CadOsnapPointRef point = fields.Item(PointReferences, index++);
+            point.ExchangeBits(fields);
+            isLast = point.HasLastPointReference;
+        }
+    }
 }

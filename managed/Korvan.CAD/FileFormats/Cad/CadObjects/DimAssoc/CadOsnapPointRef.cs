@@ -5,6 +5,12 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.DimAssoc;
 
 /// <summary>A point of an entity that a dimension follows.</summary>
 [CadSequence]
+[CadBits(
+    "T ClassName", "RC OsnapType", "H[BL] ObjectHandles", "if OsnapType != 0: BL SubentityType",
+    "if OsnapType != 0: BL SubentityIndex", "if OsnapType != 0: T[BL] ReferencePaths", "BD Parameter", "3BD Point",
+    "if OsnapType is 6 or 11: H[BL] IntersectionHandles", "if OsnapType is 6 or 11: BL IntersectionSubentityType",
+    "if OsnapType is 6 or 11: BL IntersectionSubentityIndex", "if OsnapType is 6 or 11: T[BL] IntersectionPaths",
+    "B HasLastPointReference")]
 public partial class CadOsnapPointRef
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,10 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.ObjectContextData;
 /// <summary>The appearance of an aligned dimension at one annotation scale.</summary>
 [CadSequence]
 [CadObject("ACDB_ALDIMOBJECTCONTEXTDATA_CLASS", Subclass = "AcDbDimensionObjectContextData")]
+[CadBits(
+    "base", "2RD TextPoint", "B IsDefaultTextLocation", "BD TextRotation", "H BlockName", "B IsBlockUsed",
+    "B ForceDimensionLine", "B SuppressOutsideLines", "B FitOption", "B ForceTextInside", "B TextMovement",
+    "RC OverrideCode", "B HasSecondArrow", "B FlipSecondArrow", "B FlipFirstArrow", "3BD DimensionLinePoint")]
 public partial class CadAcDbAlDimObjectContextData : CadAcDbObjectContextData
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -6,6 +6,11 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.ObjectContextData;
 /// <summary>The appearance of a multiline text at one annotation scale.</summary>
 [CadSequence]
 [CadObject("ACDB_MTEXTOBJECTCONTEXTDATA_CLASS", Subclass = "AcDbMTextObjectContextData")]
+[CadBits(
+    "base", "BL Attachment", "3BD XAxis", "3BD InsertionPoint", "BD Width", "BD Height", "BD ExtentsWidth",
+    "BD ExtentsHeight", "BL ColumnType", "if ColumnType != 0: BL ColumnCount", "if ColumnType != 0: BD ColumnWidth",
+    "if ColumnType != 0: BD ColumnGutter", "if ColumnType != 0: B IsAutoHeight", "if ColumnType != 0: B IsFlowReversed",
+    "if ColumnType == 2 && !IsAutoHeight: ExchangeHeights()")]
 public partial class CadAcDbMTextObjectContextData : CadAcDbObjectContextData
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -75,4 +80,18 @@ public partial class CadAcDbMTextObjectContextData : CadAcDbObjectContextData
     [CadList(46)]
     [CadWhen("ColumnType != 0")]
     public List<double> ColumnHeights { get; } = [];
+
+    private void ExchangeHeights(BitExchange fields)
+    {
+        int count = fields.Verify(ColumnCount);
+        fields.Resize(ColumnHeights, count);
+        for (int i = 0; i < count; i++)
+        {
+            double height = fields.BitDouble(i < ColumnHeights.Count ? ColumnHeights[i] : 0);
+            if (fields.IsReading)
+            {
+                ColumnHeights[i] = height;
+            }
+        }
+    }
 }

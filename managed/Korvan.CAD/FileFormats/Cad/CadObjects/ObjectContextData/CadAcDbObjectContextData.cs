@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.ObjectContextData;
 /// <summary>The appearance of an annotative object at one annotation scale.</summary>
 [CadSequence]
 [CadObject("", Subclass = "AcDbObjectContextData")]
+[CadBits("BS ContextVersion", "B IsDefault", "H ScaleHandle")]
 public abstract partial class CadAcDbObjectContextData : CadObjectBase
 {
     internal CadAcDbObjectContextData()

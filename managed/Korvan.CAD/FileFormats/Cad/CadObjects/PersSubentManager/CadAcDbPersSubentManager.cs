@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.PersSubentManager;
 /// <summary>Names of faces, edges and vertices that stay the same when a solid changes.</summary>
 [CadSequence]
 [CadObject("ACDBPERSSUBENTMANAGER", Subclass = "AcDbPersSubentManager")]
+[CadBits("BL Version", "BL FirstReserved", "BL SecondReserved", "BL StepCount", "BL SubentityCount", "BL[BL] Steps")]
 public partial class CadAcDbPersSubentManager : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

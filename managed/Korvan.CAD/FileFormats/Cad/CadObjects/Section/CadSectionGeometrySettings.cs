@@ -7,6 +7,10 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Section;
 [CadSequence]
 [CadLabel(2, "SectionGeometrySettings")]
 [CadEnd(3, "SectionGeometrySettingsEnd")]
+[CadBits(
+    "BL SectionType", "BL GeometryType", "BL Flags", "CMC IndexedColorId ColorValue", "T LayerName", "T LineTypeName",
+    "BD LineTypeScale", "T PlotStyleName", "BL LineWeight", "BS FaceTransparency", "BS EdgeTransparency",
+    "BS HatchPatternType", "T HatchPatternName", "BD HatchAngle", "BD HatchScale", "BD HatchSpacing")]
 public partial class CadSectionGeometrySettings
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -7,6 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Section;
 [CadSequence]
 [CadAlias("SECTION_MANAGER")]
 [CadObject("SECTIONMANAGER", Subclass = "AcDbSectionManager")]
+[CadBits("B RequiresUpdate", "H[BS] SectionHandles")]
 public partial class CadSectionManager : CadObjectBase, ICadObjectContainer
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -8,6 +8,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Section;
 [CadSequence]
 [CadAlias("SECTION_SETTINGS")]
 [CadObject("SECTIONSETTINGS", Subclass = "AcDbSectionSettings")]
+[CadBits("BL SectionType", "Part[BL] TypeSettings")]
 public partial class CadSectionSettings : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

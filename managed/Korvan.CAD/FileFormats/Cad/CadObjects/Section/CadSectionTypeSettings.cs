@@ -8,6 +8,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Section;
 [CadSequence]
 [CadLabel(1, "SectionTypeSettings")]
 [CadEnd(3, "SectionTypeSettingsEnd")]
+[CadBits(
+    "BL SectionType", "BL GenerationOptions", "H[BL] SourceHandles", "H DestinationBlockHandle",
+    "T DestinationFileName", "Part[BL] GeometrySettings")]
 public partial class CadSectionTypeSettings
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -7,6 +7,13 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.SunStudy;
 /// <summary>How a series of views is made that show the light of the sun at several times.</summary>
 [CadSequence]
 [CadObject("SUNSTUDY", Subclass = "AcDbSunStudy")]
+[CadBits(
+    "BL Version", "T SetupName", "T Description", "BL OutputType", "if OutputType == 0: B UseSubset",
+    "if OutputType == 0: T SheetSetName", "if OutputType == 0: T SheetSubsetName", "B SelectDatesFromCalendar",
+    "Part[BL] Dates", "B SelectRangeOfDates", "if SelectRangeOfDates: BL StartTime",
+    "if SelectRangeOfDates: BL EndTime", "if SelectRangeOfDates: BL Interval", "B[BL] Hours", "BL ShadePlotType",
+    "BL ViewportsPerPage", "BL RowCount", "BL ColumnCount", "BD Spacing", "B LockViewports", "B LabelViewports",
+    "H PageSetupHandle", "H ViewHandle", "H VisualStyleHandle", "H TextStyleHandle")]
 public partial class CadSunStudy : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

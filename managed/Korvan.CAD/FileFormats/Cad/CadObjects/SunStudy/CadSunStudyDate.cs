@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.SunStudy;
 
 /// <summary>A date and time of a sun study.</summary>
 [CadSequence]
+[CadBits("BL JulianDay", "BL Milliseconds")]
 public partial class CadSunStudyDate
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -34,8 +34,7 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
     /// <summary>Gets the references to the parts of the object; null for an object without.</summary>
     internal ChildHandles? Parts { get; private set; }
 
-    /// <summary>Gets how many bits of data are left.</summary>
-    internal long DataRemaining => _data.Remaining;
+    internal override long DataRemaining => _data.Remaining;
 
     /// <summary>Gets how many bits of references are left.</summary>
     internal long HandlesRemaining => _handles.Remaining;
@@ -121,14 +120,12 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
         var index => names.LineType(index) ?? value,
     };
 
-    internal override (int Index, int Rgb, string Name) Color(int index, int rgb, string name)
+    internal override (int Index, int Rgb, string Name) Color(int index, int rgb, string name) =>
+        release < TrueColors ? (_data.BitShort(), -1, "") : TrueColor(index, rgb, name);
+
+    internal override (int Index, int Rgb, string Name) TrueColor(int index, int rgb, string name)
     {
         int plain = _data.BitShort();
-        if (release < TrueColors)
-        {
-            return (plain, -1, "");
-        }
-
         uint value = (uint)_data.BitLong();
         int flags = _data.RawByte();
         string color = (flags & 1) != 0 ? Text("") : "";
