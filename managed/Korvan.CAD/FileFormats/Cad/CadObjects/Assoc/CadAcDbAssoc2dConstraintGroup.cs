@@ -50,7 +50,4 @@ public partial class CadAcDbAssoc2dConstraintGroup : CadAcDbAssocAction
     internal List<CadCodeValue> Nodes { get; } = [];
 
     partial void OnExchange(ObjectExchange fields) => fields.Tags(Nodes);
-
-    // The nodes of constraints have no fields yet, so that databases give the object as it is.
-    internal override bool HasBits => false;
 }

@@ -21,7 +21,4 @@ public partial class CadAcDbMLeaderObjectContextData : CadAcDbObjectContextData
     internal List<CadCodeValue> Context { get; } = [];
 
     partial void OnExchange(ObjectExchange fields) => fields.Tags(Context);
-
-    // The context has no fields yet, so that databases give the object as it is.
-    internal override bool HasBits => false;
 }

@@ -30,7 +30,8 @@ public class ClassObjectTests
         Dictionary<string, int> exact = [];
         foreach (string file in DwgSamples.Files())
         {
-            foreach (string name in ExactObjects(DwgSamples.Open(file, new LoadOptions { IgnoreErrors = true })))
+            LoadOptions options = new() { IgnoreErrors = true };
+            foreach (string name in ExactObjects(DwgSamples.Open(File.ReadAllBytes(file), file, options)))
             {
                 exact[name] = exact.GetValueOrDefault(name) + 1;
             }
