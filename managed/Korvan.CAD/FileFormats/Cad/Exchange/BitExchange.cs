@@ -84,6 +84,9 @@ internal abstract partial class BitExchange
     /// <param name="name">The name in a book of colours, as <c>BOOK$COLOUR</c>; empty for none.</param>
     internal abstract (int Index, int Rgb, string Name) Color(int index, int rgb, string name);
 
+    /// <summary>Determines whether an object is there, which an entry refers to.</summary>
+    internal virtual bool IsPresent(ulong handle) => true;
+
     /// <summary>Carries how many items follow; the object has at least a bit for each.</summary>
     /// <param name="count">The number as it was read or is written.</param>
     internal abstract int Verify(int count);
