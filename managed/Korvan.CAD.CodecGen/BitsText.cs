@@ -146,7 +146,8 @@ internal static class BitsText
             takes.Add($"{name} = {cast}color{i};");
         }
 
-        return $"({string.Join(", ", targets)}) = fields.{(item.Coding == "TC" ? "TrueColor" : "Color")}({string.Join(", ", values)}); "
+        string method = item.Coding == "TC" ? "TrueColor" : "Color";
+        return $"({string.Join(", ", targets)}) = fields.{method}({string.Join(", ", values)}); "
             + string.Join(" ", takes);
     }
 

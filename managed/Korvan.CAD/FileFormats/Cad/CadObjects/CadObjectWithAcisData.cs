@@ -56,10 +56,10 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
         {
             ModelerFormatVersion = stored;
         }
-        else if (!fields.Bit(AcisData.Count == 0))
+        else if (!fields.Bit(AcisData.Count == 0 && DataRecord is not { Data.Length: > 0 }))
         {
             fields.Bit(false);
-            ModelerFormatVersion = (short)fields.BitShort(ModelerBits.TextVersion);
+            ModelerFormatVersion = (short)fields.BitShort(AcisData.Count > 0 ? ModelerBits.TextVersion : stored);
             ModelerBits.ExchangeData(this, fields);
         }
 

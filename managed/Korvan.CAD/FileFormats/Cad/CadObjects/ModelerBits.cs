@@ -23,8 +23,8 @@ internal static class ModelerBits
     {
         if (solid.ModelerFormatVersion != TextVersion)
         {
-            byte[] data = fields.BytesUpTo([], EndOfAcis, EndOfAsm);
-            solid.DataRecord = CadAcdsRecord.Holding(data);
+            byte[] data = fields.BytesUpTo(solid.DataRecord?.Data ?? [], EndOfAcis, EndOfAsm);
+            solid.DataRecord = fields.IsReading ? CadAcdsRecord.Holding(data) : solid.DataRecord;
             return;
         }
 

@@ -87,6 +87,9 @@ internal abstract partial class BitExchange
     /// <summary>Carries a colour as releases from 2004 on have it, whatever the release is (TC).</summary>
     internal abstract (int Index, int Rgb, string Name) TrueColor(int index, int rgb, string name);
 
+    /// <summary>Determines whether an object is there, which an entry refers to.</summary>
+    internal virtual bool IsPresent(ulong handle) => true;
+
     /// <summary>Carries how many items follow; the object has at least a bit for each.</summary>
     /// <param name="count">The number as it was read or is written.</param>
     internal abstract int Verify(int count);

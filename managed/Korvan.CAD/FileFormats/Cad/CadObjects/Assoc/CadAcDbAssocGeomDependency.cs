@@ -39,7 +39,8 @@ public partial class CadAcDbAssocGeomDependency : CadAcDbAssocDependency
 
     partial void OnExchange(ObjectExchange fields) => fields.Tags(Subentity);
 
-    // Up to release 2010 the class of the identifier is a string; afterwards it is a number, or a string if it has none.
+    // Up to release 2010 the class of the identifier is a string; afterwards it is a number, or a string if it has
+    // none.
     private void ExchangeClass(BitExchange fields)
     {
         const int numbered = 2013;

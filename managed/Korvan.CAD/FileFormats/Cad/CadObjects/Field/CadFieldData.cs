@@ -120,6 +120,10 @@ public partial class CadFieldData
 
         switch (ValueType & ~GeneralFlag)
         {
+            case 0 when ValueType == GeneralFlag && fields.Release < 2007:
+                Text = fields.Text(Text);
+                fields.BitLong(0);
+                break;
             case 0 when ValueType == GeneralFlag && fields.Release >= 2007:
                 fields.Block([]);
                 break;

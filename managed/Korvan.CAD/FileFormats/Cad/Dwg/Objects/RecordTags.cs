@@ -56,7 +56,7 @@ internal static class RecordTags
         }
     }
 
-    private static Kind KindOf(int code) => code switch
+    internal static Kind KindOf(int code) => code switch
     {
         < 0 => Kind.Handle,
         5 or 105 or (>= 320 and < 370) or (>= 390 and < 400) or (>= 480 and < 482) or 1005 => Kind.Handle,
@@ -112,7 +112,7 @@ internal static class RecordTags
     private static string Number(ReadOnlySpan<byte> value) =>
         BinaryPrimitives.ReadDoubleLittleEndian(value).ToString("R", CultureInfo.InvariantCulture);
 
-    private enum Kind
+    internal enum Kind
     {
         Text,
         Number,
