@@ -7,6 +7,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
+using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Dxf.Releases;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -27,13 +28,12 @@ internal static class DwgSaver
     /// <param name="drawing">The drawing. Objects that have none get handles; its content stays as it is.</param>
     /// <param name="options">The release.</param>
     /// <param name="output">The file.</param>
-    /// <param name="writeObjects">Writes the records of the objects.</param>
     /// <param name="createMeasurer">Makes what measures texts, where they have to be wrapped.</param>
     /// <returns>What the release cannot hold, and what was left out because it is kept in the form of another
     /// format.</returns>
     /// <exception cref="ImageSaveException">The release is not written.</exception>
-    internal static IReadOnlyList<string> Save(CadDrawing drawing, DwgOptions options, Stream output,
-        ObjectRecordWriter writeObjects, Func<ITextMeasurer?>? createMeasurer = null)
+    internal static IReadOnlyList<string> Save(
+        CadDrawing drawing, DwgOptions options, Stream output, Func<ITextMeasurer?>? createMeasurer = null)
     {
         CadAcadVersion version = VersionOf(drawing, options);
         int release = DrawingRelease.Year(version);
@@ -43,11 +43,11 @@ internal static class DwgSaver
             ? ReleaseConversion.Convert(drawing, version, createMeasurer, notes)
             : drawing;
         DrawingIntegrity.Prepare(written, release);
-        ObjectStore objects = new(release);
         Encoding encoding = DwgCodePage.Get(CodePageIndex.NameOf(CodePageIndex.IndexOf(written.Header.CodePage)));
-        ulong viewports = writeObjects(written, release, encoding, objects, notes);
-        DwgContainer.Write(DwgContentBuilder.Build(written, version, objects, viewports), output);
-        return notes;
+        DwgObjectWriter objects = new(written, release, encoding);
+        objects.Write();
+        DwgContainer.Write(DwgContentBuilder.Build(written, version, objects.Objects, objects.Classes), output);
+        return [.. notes, .. objects.LeftOut];
     }
 
     // Drawings of a release that is not written become those of the next one.
@@ -63,13 +63,3 @@ internal static class DwgSaver
                 + $"{string.Join(", ", Written)}.");
     }
 }
-
-/// <summary>Writes the records of all objects of a drawing.</summary>
-/// <param name="drawing">The drawing, whose objects have handles.</param>
-/// <param name="release">The release as a year.</param>
-/// <param name="encoding">The encoding of strings of 8-bit characters.</param>
-/// <param name="objects">Where the records go.</param>
-/// <param name="notes">What was left out.</param>
-/// <returns>The handle of the table of viewport entity headers of release 2000; 0 for later releases.</returns>
-internal delegate ulong ObjectRecordWriter(
-    CadDrawing drawing, int release, Encoding encoding, ObjectStore objects, ICollection<string> notes);
