@@ -69,7 +69,7 @@ internal sealed class BitItem
     {
         Match constant = Constant.Match(text);
         Match coded = Coded.Match(text);
-        if (text is "base" or "declared" || text.EndsWith("()", System.StringComparison.Ordinal))
+        if (text is "base" or "declared" or "partial" || text.EndsWith("()", System.StringComparison.Ordinal))
         {
             Call = text;
         }

@@ -35,12 +35,17 @@ internal static class BitsText
     {
         if (model.Bits is null)
         {
+            // The list of a base class is not that of the class.
+            text.AppendLine(model.IsPartOfObject || model.IsAbstract || model.Kind == "CadBaseAcds" ? ""
+                : "    internal override bool HasBits => false;");
             return;
         }
 
         if (!model.IsPartOfObject && !model.IsAbstract)
         {
+            bool isWhole = model.Bits.All(item => item.Call != "partial");
             text.AppendLine("    internal override bool HasBits => true;");
+            text.AppendLine($"    internal override bool HasAllBits => {(isWhole ? "true" : "false")};");
         }
 
         text.AppendLine($"    internal {Modifier(model)}void ExchangeBits({Exchange} fields)");
@@ -65,6 +70,8 @@ internal static class BitsText
     {
         switch (item)
         {
+            case { Call: "partial" }:
+                return "";
             case { Call: "base" }:
                 return "base.ExchangeBits(fields);";
             case { Call: "declared" }:
@@ -77,7 +84,7 @@ internal static class BitsText
                 return Constant(item);
         }
 
-        if (item.Coding == "CMC")
+        if (item.Coding is "CMC" or "TC")
         {
             return Color(item, model);
         }
@@ -139,7 +146,8 @@ internal static class BitsText
             takes.Add($"{name} = {cast}color{i};");
         }
 
-        return $"({string.Join(", ", targets)}) = fields.Color({string.Join(", ", values)}); "
+        string method = item.Coding == "TC" ? "TrueColor" : "Color";
+        return $"({string.Join(", ", targets)}) = fields.{method}({string.Join(", ", values)}); "
             + string.Join(" ", takes);
     }
 
@@ -166,13 +174,19 @@ internal static class BitsText
             return $"{start}{loop}{{ fields.{point}(fields.Item({name}, i)); }}";
         }
 
-        string value = element is null ? "0" : Assigned(item.Coding, element, property, $"{name}[i]");
-        return $"{start}fields.Resize({name}, count); {loop}{{ {value}; }}";
+        string value = element is null ? "" : Assigned(item.Coding, element, property, $"{name}[i]");
+        string missing = Constant(new BitItem(item.Coding));
+        return $"{start}fields.Resize({name}, count); {loop}{{ if (i < {name}.Count) {{ {value}; }} else {{ {missing} }} }}";
     }
 
     private static string Value(
         string coding, ITypeSymbol type, CadProperty? property, string name, CadClass model)
     {
+        if (coding == "Matrix")
+        {
+            return $"fields.Matrix({name});";
+        }
+
         if (coding == "Part")
         {
             return $"{name}.ExchangeBits(fields);";

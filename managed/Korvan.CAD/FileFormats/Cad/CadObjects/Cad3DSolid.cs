@@ -4,7 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A 3D solid.</summary>
 [CadObject("3DSOLID", Subclass = "AcDbModelerGeometry")]
-[CadBits("ExchangeModeler()")]
+[CadBits("ExchangeModeler()", "2007+ H")]
 public partial class Cad3DSolid : CadObjectWithAcisData
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -87,6 +87,9 @@ public abstract partial class CadBaseObject : IKeyedObject
     /// <summary>Gets whether the class states its fields in drawing databases.</summary>
     internal virtual bool HasBits => false;
 
+    /// <summary>Gets whether these are all fields of a record, so that a record can be written.</summary>
+    internal virtual bool HasAllBits => HasBits;
+
     /// <summary>Carries the marker of a subclass.</summary>
     internal virtual void BeginSubclass(ObjectExchange fields, string subclass) => fields.BeginSubclass(subclass);
 

@@ -7,6 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadLabel(301, "MARGIN")]
 [CadLabel(1, "CELLMARGIN_BEGIN")]
 [CadEnd(309, "CELLMARGIN_END")]
+[CadBits("BD Vertical", "BD Horizontal", "BD Bottom", "BD Right", "BD HorizontalSpacing", "BD VerticalSpacing")]
 public partial class CadCellMargin
 {
     /// <summary>Creates the object with its defaults.</summary>

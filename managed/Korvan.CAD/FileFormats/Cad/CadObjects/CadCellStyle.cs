@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadLabel(300, "CELLSTYLE")]
 [CadEnd(309, "CELLSTYLE_END")]
+[CadBits("Part Format", "BL Id", "BL StyleClass", "T Name")]
 public partial class CadCellStyle
 {
     /// <summary>Creates the object with its defaults.</summary>

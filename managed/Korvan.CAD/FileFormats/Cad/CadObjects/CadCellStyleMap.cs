@@ -7,6 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>The cell styles of a table style.</summary>
 [CadSequence]
 [CadObject("CELLSTYLEMAP", Subclass = "AcDbCellStyleMap")]
+[CadBits("Part[BL] Styles")]
 public partial class CadCellStyleMap : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

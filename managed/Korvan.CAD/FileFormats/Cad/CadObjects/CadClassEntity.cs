@@ -46,6 +46,13 @@ public partial class CadClassEntity : IKeyedObject
     [CadBool(281)]
     public bool IsEntity { get; set; }
 
+    /// <summary>Gets or sets the release that the class came with, by the number that drawing databases have for it; 0 if
+    /// it is not stated.</summary>
+    internal int FormatVersion { get; set; }
+
+    /// <summary>Gets or sets the maintenance release that the class came with; 0 if it is not stated.</summary>
+    internal int MaintenanceVersion { get; set; }
+
     /// <summary>Gets fields that the class does not have.</summary>
     internal List<CadCodeValue> Kept { get; } = [];
 

@@ -7,6 +7,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadLabel(300, "CONTENTFORMAT")]
 [CadLabel(1, "CONTENTFORMAT_BEGIN")]
 [CadEnd(309, "CONTENTFORMAT_END")]
+[CadBits(
+    "BL OverrideFlags", "BL PropertyFlags", "BL ValueType", "BL ValueUnit", "T ValueFormat", "BD Rotation",
+    "BD BlockScale", "BL Alignment", "TC ColorId ColorValue ColorName", "H TextStyleHandle", "BD TextHeight")]
 public partial class CadContentFormat
 {
     /// <summary>Creates the object with its defaults.</summary>

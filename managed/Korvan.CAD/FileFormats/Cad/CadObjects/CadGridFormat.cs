@@ -5,6 +5,11 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A border of table cells.</summary>
 [CadSequence]
 [CadEnd(309, "GRIDFORMAT_END")]
+[CadBits(
+    "BL EdgeFlags", "if EdgeFlags != 0: BL OverrideFlags", "if EdgeFlags != 0: BL BorderType",
+    "if EdgeFlags != 0: TC ColorId ColorValue ColorName", "if EdgeFlags != 0: BL LineWeight",
+    "if EdgeFlags != 0: H LineTypeHandle", "if EdgeFlags != 0: BL Visibility",
+    "if EdgeFlags != 0: BD DoubleLineSpacing")]
 public partial class CadGridFormat
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -15,6 +15,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
     "if HasGrid: BD RowSpacing")]
 public partial class CadInsertObject : CadBlockNameEntity
 {
+    private bool _hasGrid;
+
     /// <summary>Creates the object with its defaults.</summary>
     public CadInsertObject()
     {
@@ -114,7 +116,11 @@ public partial class CadInsertObject : CadBlockNameEntity
 
     /// <summary>Gets or sets whether the reference has columns and rows in drawing databases, which have a type of its
     /// own for those.</summary>
-    internal bool HasGrid { get; set; }
+    internal bool HasGrid
+    {
+        get => _hasGrid || IsGrid;
+        set => _hasGrid = value;
+    }
 
     private void ExchangeScale(BitExchange fields)
     {

@@ -7,7 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A line with an arrowhead that leads to an annotation.</summary>
 [CadObject("LEADER", Subclass = "AcDbLeader")]
 [CadBits(
-    "B", "BS AnnotationType", "BS PathType", "3BD[BL] Coordinates", "ExchangePlane()", "-1997 BD", "BD TextHeight",
+    "B", "BS AnnotationType", "BS PathType", "3BD[BL] Coordinates", "ExchangePlane()", "2010+ BD", "-1997 BD", "BD TextHeight",
     "BD TextWidth", "B HookLineDirection", "B ArrowheadFlag", "-1997 BS", "-1997 BD", "-1997 B", "-1997 B",
     "-1997 BS", "-1997 BS ColorToUse", "-1997 B", "-1997 B", "2000+ BS", "2000+ B", "2000+ B", "H AnnotationHandle",
     "H DimensionStyleName")]
@@ -89,7 +89,7 @@ public partial class CadLeader : CadEntityBase
         fields.Point3(ExtrusionDirection);
         fields.Point3(HorizontalDirection);
         fields.Point3(LastVertexOffsetFromBlock);
-        if (fields.Release >= 1997)
+        if (fields.Release is >= 1997 and <= 2007)
         {
             fields.Point3(LastVertexOffsetFromAnnotation);
         }

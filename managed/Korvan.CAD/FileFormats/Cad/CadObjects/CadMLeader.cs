@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A multileader: leader lines with arrowheads that point from a text or a block.</summary>
 [CadObject("MULTILEADER", Subclass = "AcDbMLeader")]
+[CadBits("2010+ BS Version", "Part ContextData", "Part Style")]
 public partial class CadMLeader : CadEntityBase
 {
     /// <summary>The colour of the block, or of the multileader, in the form that multileaders keep colours

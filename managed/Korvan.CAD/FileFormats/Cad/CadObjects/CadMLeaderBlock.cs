@@ -4,6 +4,9 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>The block that a multileader shows as its content.</summary>
+[CadBits(
+    "H BlockRecordHandle", "3BD Normal", "3BD Location", "3BD Scale", "BD Rotation", "CMP Color",
+    "Matrix TransformationMatrix")]
 public partial class CadMLeaderBlock
 {
     /// <summary>Creates the content with its defaults.</summary>

@@ -7,6 +7,20 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>The geometry of a multileader at one annotation scale: its leaders and its content, which is a text or a
 /// block.</summary>
+[CadBits(
+    "Part[BL] LeaderNodes", "BD Scale", "3BD ContentBasePoint", "BD TextHeight", "BD ArrowheadSize", "BD LandingGap",
+    "BS LeftAttachment", "BS RightAttachment", "BS TextAlignType", "BS BlockAttachment", "B HasText",
+    "if HasText: T Text", "if HasText: 3BD TextNormal", "if HasText: H TextStyleHandle",
+    "if HasText: 3BD TextLocation", "if HasText: 3BD TextDirection", "if HasText: BD TextRotation",
+    "if HasText: BD TextWidth", "if HasText: BD DefinedHeight", "if HasText: BD LineSpacingFactor",
+    "if HasText: BS LineSpacingStyle", "if HasText: CMP TextColor", "if HasText: BS TextAttachment",
+    "if HasText: BS FlowDirection", "if HasText: CMP BackgroundColor", "if HasText: BD BackgroundScaleFactor",
+    "if HasText: BL BackgroundTransparency", "if HasText: B IsBackgroundFillEnabled",
+    "if HasText: B IsBackgroundMaskEnabled", "if HasText: BS ColumnType", "if HasText: B IsTextHeightAutomatic",
+    "if HasText: BD ColumnWidth", "if HasText: BD ColumnGutter", "if HasText: B IsColumnFlowReversed",
+    "if HasText: BD[BL] ColumnSizes", "if HasText: B WordBreak", "if HasText: B", "if !HasText: B HasBlock",
+    "if HasBlock: Part Block", "3BD PlaneOrigin", "3BD PlaneXAxis", "3BD PlaneYAxis", "B IsPlaneNormalReversed",
+    "2010+ BS TopAttachment", "2010+ BS BottomAttachment")]
 public partial class CadMLeaderContextData
 {
     private const int LeaderStart = 302;

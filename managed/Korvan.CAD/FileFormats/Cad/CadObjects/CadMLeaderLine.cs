@@ -5,6 +5,10 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A leader line of a multileader: from the arrowhead to the landing of its leader.</summary>
+[CadBits(
+    "3BD[BL] Vertices", "ExchangeBreaks()", "BL Index", "2010+ ExchangePresence()", "2010+ BS LeaderType",
+    "2010+ CMP Color", "2010+ H LineTypeHandle", "2010+ BL LineWeight", "2010+ BD ArrowheadSize",
+    "2010+ H ArrowheadHandle", "2010+ BL OverrideFlags")]
 public partial class CadMLeaderLine
 {
     /// <summary>Creates a line without vertices.</summary>
@@ -79,4 +83,25 @@ public partial class CadMLeaderLine
     }
 
     partial void OnExchange(ObjectExchange fields) => fields.Tags(Kept);
+
+    private void ExchangePresence(BitExchange fields) => HasOwnProperties |= fields.IsReading;
+
+    // Breaks of one segment follow each other after its number.
+    private void ExchangeBreaks(BitExchange fields)
+    {
+        if (fields.CountLong(Breaks.Count > 0 ? 1 : 0) == 0)
+        {
+            return;
+        }
+
+        int segment = fields.BitLong(Breaks.Count > 0 ? Breaks[0].Segment : 0);
+        int count = fields.CountLong(Breaks.Count);
+        for (int i = 0; i < count; i++)
+        {
+            MLeaderBreak gap = fields.Item(Breaks, i);
+            gap.Segment = segment;
+            fields.Point3(gap.Start);
+            fields.Point3(gap.End);
+        }
+    }
 }

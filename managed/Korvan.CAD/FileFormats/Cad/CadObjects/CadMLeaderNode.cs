@@ -5,6 +5,10 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A leader of a multileader: lines that meet at a landing.</summary>
+[CadBits(
+    "B HasLastLeaderLinePoint", "B HasDoglegVector", "if HasLastLeaderLinePoint: 3BD LastLeaderLinePoint",
+    "if HasDoglegVector: 3BD DoglegVector", "ExchangeBreaks()", "BL LeaderIndex", "BD DoglegLength",
+    "Part[BL] LeaderLines", "2010+ BS AttachmentDirection")]
 public partial class CadMLeaderNode
 {
     private const int LineStart = 304;
@@ -97,5 +101,15 @@ public partial class CadMLeaderNode
         }
 
         fields.Tags(Kept);
+    }
+
+    private void ExchangeBreaks(BitExchange fields)
+    {
+        int count = fields.CountLong(BreakStartPoints.Count);
+        for (int i = 0; i < count; i++)
+        {
+            fields.Point3(fields.Item(BreakStartPoints, i));
+            fields.Point3(fields.Item(BreakEndPoints, i));
+        }
     }
 }

@@ -5,6 +5,15 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>The properties of one multileader: those of its style, and what the multileader changes of
 /// them.</summary>
+[CadBits(
+    "H StyleHandle", "BL OverrideFlags", "BS LeaderType", "CMP LeaderColor", "H LineTypeHandle", "BL LineWeight",
+    "B IsLandingEnabled", "B IsDoglegEnabled", "BD DoglegLength", "H ArrowheadHandle", "BD ArrowheadSize",
+    "BS ContentType", "H TextStyleHandle", "BS TextLeftAttachment", "BS TextRightAttachment", "BS TextAngleType",
+    "BS TextAlignmentType", "CMP TextColor", "B IsTextFrameEnabled", "H BlockContentHandle", "CMP BlockContentColor",
+    "3BD BlockContentScale", "BD BlockContentRotation", "BS BlockContentConnectionType", "B IsAnnotative",
+    "-2007 Part[BL] Arrowheads", "Part[BL] BlockAttributes", "B IsTextDirectionNegative", "BS TextAlignInIpe",
+    "BS TextAttachmentPoint", "BD Scale", "2010+ BS TextAttachmentDirection", "2010+ BS TextTopAttachment",
+    "2010+ BS TextBottomAttachment", "2013+ B IsLeaderExtendedToText")]
 public partial class CadMLeaderStyle
 {
     /// <summary>Creates the properties with their defaults.</summary>

@@ -128,17 +128,19 @@ public partial class CadMText : CadEntityBase
     private void ExchangeColumns(BitExchange fields)
     {
         const int dynamicColumns = 2;
-        if (fields.Bit(true))
+        const int columnsVersion = 4;
+        bool isAnnotative = !fields.Bit(true);
+        if (isAnnotative)
         {
             return;
         }
 
-        fields.BitShort(0);
-        fields.Bit(false);
+        fields.BitShort(columnsVersion);
+        fields.Bit(true);
         fields.Handle(HandleRole.HardPointer, 0);
         fields.BitLong((int)AttachmentPoint);
-        fields.Point3(new Cad3DPoint());
-        fields.Point3(new Cad3DPoint());
+        fields.Point3(fields.IsReading ? new Cad3DPoint() : TextDirection);
+        fields.Point3(fields.IsReading ? new Cad3DPoint() : InsertionPoint);
         fields.BitDouble(ReferenceRectangleWidth);
         fields.BitDouble(ReferenceRectangleHeight);
         fields.BitDouble(0);

@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>The margins of table cells as far as they differ from the style.</summary>
 [CadSequence]
+[CadBits("BS OverrideFlags", "if OverrideFlags != 0: Part Values")]
 public partial class CadMargin
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -6,6 +6,26 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A material: how surfaces reflect light, and the images on them.</summary>
 [CadSequence]
 [CadObject("MATERIAL", Subclass = "AcDbMaterial")]
+[CadBits(
+    "T Name", "T Description", "RC AmbientColorMethod", "BD AmbientColorFactor",
+    "if AmbientColorMethod == 1: BL AmbientColorValue", "RC DiffuseColorMethod", "BD DiffuseColorFactor",
+    "if DiffuseColorMethod == 1: BL DiffuseColorValue", "BD DiffuseMapBlendFactor", "RC DiffuseMapProjection",
+    "RC DiffuseMapTiling", "RC DiffuseMapAutoTransform", "Matrix DiffuseMapTransform", "RC DiffuseMapSource",
+    "if DiffuseMapSource == 1: T DiffuseMapFileName", "RC SpecularColorMethod", "BD SpecularColorFactor",
+    "if SpecularColorMethod == 1: BL SpecularColorValue", "BD SpecularMapBlendFactor", "RC SpecularMapProjection",
+    "RC SpecularMapTiling", "RC SpecularMapAutoTransform", "Matrix SpecularMapTransform", "RC SpecularMapSource",
+    "if SpecularMapSource == 1: T SpecularMapFileName", "BD SpecularGlossFactor", "BD ReflectionMapBlendFactor",
+    "RC ReflectionMapProjection", "RC ReflectionMapTiling", "RC ReflectionMapAutoTransform",
+    "Matrix ReflectionMapTransform", "RC ReflectionMapSource", "if ReflectionMapSource == 1: T ReflectionMapFileName",
+    "BD OpacityPercent", "BD OpacityMapBlendFactor", "RC OpacityMapProjection", "RC OpacityMapTiling",
+    "RC OpacityMapAutoTransform", "Matrix OpacityMapTransform", "RC OpacityMapSource",
+    "if OpacityMapSource == 1: T OpacityMapFileName", "BD BumpMapBlendFactor", "RC BumpMapProjection",
+    "RC BumpMapTiling", "RC BumpMapAutoTransform", "Matrix BumpMapTransform", "RC BumpMapSource",
+    "if BumpMapSource == 1: T BumpMapFileName", "BD RefractionIndex", "BD RefractionMapBlendFactor",
+    "RC RefractionMapProjection", "RC RefractionMapTiling", "RC RefractionMapAutoTransform",
+    "Matrix RefractionMapTransform", "RC RefractionMapSource", "if RefractionMapSource == 1: T RefractionMapFileName",
+    "2007+ BD Translucence", "2007+ BD SelfIllumination", "2007+ BD Reflectivity", "2007+ BL IlluminationModel",
+    "2007+ BL ChannelFlags", "2007+ BL Mode")]
 public partial class CadMaterial : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -51,13 +51,20 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
     /// <summary>Carries the data of the modeler as drawing databases have it.</summary>
     private protected void ExchangeModeler(BitExchange fields)
     {
-        if (!fields.Bit(AcisData.Count == 0))
+        const int stored = 2;
+        int version = ModelerBits.TextVersion;
+        if (fields.HasStoredData)
+        {
+            version = stored;
+        }
+        else if (!fields.Bit(AcisData.Count == 0 && DataRecord is not { Data.Length: > 0 }))
         {
             fields.Bit(false);
-            ModelerFormatVersion = (short)fields.BitShort(ModelerBits.TextVersion);
-            ModelerBits.ExchangeData(this, fields);
+            version = fields.BitShort(AcisData.Count > 0 ? ModelerBits.TextVersion : stored);
+            ModelerBits.ExchangeData(this, version, fields);
         }
 
-        ModelerBits.ExchangeRest(this, fields);
+        ModelerFormatVersion = fields.IsReading ? (short)version : ModelerFormatVersion;
+        ModelerBits.ExchangeRest(version, fields);
     }
 }

@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>The content of a table.</summary>
 [CadSequence]
 [CadObject("TABLECONTENT", Subclass = "AcDbTableContent")]
+[CadBits("base", "H TableStyleHandle")]
 public partial class CadTableContent : CadFormattedTableData
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -8,6 +8,11 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadLabel(1, "TABLEFORMAT_BEGIN")]
 [CadEnd(309, "TABLEFORMAT_END")]
+[CadBits(
+    "BL FormatType", "BS HasData", "if HasData != 0: BL OverrideFlags", "if HasData != 0: BL MergeFlags",
+    "if HasData != 0: TC BackgroundColorId BackgroundColorValue BackgroundColorName",
+    "if HasData != 0: BL ContentLayout", "if HasData != 0: Part ContentFormat", "if HasData != 0: Part Margin",
+    "if HasData != 0: Part[BL] Borders")]
 public partial class CadTableFormat
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -9,6 +9,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>The places and sizes of the cells of a table and of their contents.</summary>
 [CadSequence]
 [CadObject("TABLEGEOMETRY", Subclass = "AcDbTableGeometry")]
+[CadBits("BL RowCount", "BL ColumnCount", "Part[BL] CellList")]
 public partial class CadTableGeometry : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -10,7 +10,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadBits(
     "3BD Normal", "3BD InsertionPoint", "BD RotationAngle", "BD ScaleX", "BD ScaleY", "BD ScaleZ", "RC Flags",
     "RC Contrast", "RC Fade", "2RD[BL] ClipPoints",
-    "if (Flags & UnderlayFlags.ClipInside) != 0: 2RD[BS] InnerClipPoints", "H UnderlayDefinition")]
+    "2010+ if (Flags & UnderlayFlags.ClipInside) != 0: 2RD[BS] InnerClipPoints", "H UnderlayDefinition")]
 public abstract partial class CadUnderlay : CadEntityBase
 {
     internal CadUnderlay()

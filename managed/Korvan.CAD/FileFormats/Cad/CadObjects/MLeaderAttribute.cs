@@ -3,6 +3,7 @@ using Korvan.CAD.FileFormats.Cad.Exchange;
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>The value of an attribute of the block that a multileader shows.</summary>
+[CadBits("H DefinitionHandle", "T Value", "BS Index", "BD Width")]
 internal sealed partial class MLeaderAttribute
 {
     [CadHandle(330)]

@@ -7,6 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>The size of a table cell.</summary>
 [CadSequence]
+[CadBits("BL Flags", "BD Size.Width", "BD Size.Height", "H GeometryHandle", "Part[BL] Contents")]
 internal sealed partial class TableGeometryCell
 {
     /// <summary>Gets or sets flags. Group code 93.</summary>

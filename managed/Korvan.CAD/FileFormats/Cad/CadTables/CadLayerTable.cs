@@ -124,7 +124,7 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
         if (fields.Release < 2000)
         {
             bool frozen = fields.Bit(IsFrozen);
-            bool isOn = fields.Bit(IsOn);
+            bool isOn = !fields.Bit(!IsOn);
             bool frozenInNew = fields.Bit((Flags & FrozenInNew) != 0);
             TakeState(frozen, isOn, frozenInNew, fields.Bit(IsLocked));
             return;

@@ -34,7 +34,8 @@ internal static class DwgLoader
         DwgFile file = DwgContainer.Read(data, name, version, options);
         CadDrawing drawing = new(DrawingSeed.Blank);
         drawing.Header.AcadVersion = version;
-        drawing.Header.Set("$ACADMAINTVER", 70, file.MaintenanceVersion.ToString(CultureInfo.InvariantCulture));
+        int code = version >= CadAcadVersion.AC1032 ? 90 : 70;
+        drawing.Header.Set("$ACADMAINTVER", code, file.MaintenanceVersion.ToString(CultureInfo.InvariantCulture));
         drawing.Header.CodePage = CodePageIndex.NameOf(file.CodePage);
         HeaderValues header = ReadHeader(file);
         ReadClasses(file).ForEach(drawing.ClassEntities.Add);
@@ -42,8 +43,21 @@ internal static class DwgLoader
         Dictionary<ulong, string> names = NamesOf(drawing);
         HeaderVariableCodec.ToHeader(header, file.Release, drawing.Header, handle => names.GetValueOrDefault(handle));
         CompleteTimes(drawing.Header);
+        MoveRootToFront(drawing, header.HandleOf("namedObjects"));
         PropertySections.Read(file, drawing);
         return drawing;
+    }
+
+    // The first dictionary of a drawing is the one that leads to all others.
+    private static void MoveRootToFront(CadDrawing drawing, ulong handle)
+    {
+        int index = drawing.Objects.Items.FindIndex(item => item.Handle == handle);
+        if (index > 0)
+        {
+            CadObjectBase root = drawing.Objects[index];
+            drawing.Objects.RemoveAt(index);
+            drawing.Objects.Insert(0, root);
+        }
     }
 
     // Files have the universal time only; programs expect the local one as well.

@@ -17,6 +17,9 @@ internal abstract partial class BitExchange
     /// <summary>Gets whether the object takes values over.</summary>
     internal abstract bool IsReading { get; }
 
+    /// <summary>Gets or sets whether data of the object is in the section of data, from release 2013 on.</summary>
+    internal bool HasStoredData { get; set; }
+
     /// <summary>Gets the exchange for classes whose fields are in the order of their group codes.</summary>
     internal ObjectExchange Declared => _declared ??= new DeclaredBits(this);
 
@@ -81,6 +84,12 @@ internal abstract partial class BitExchange
     /// <param name="name">The name in a book of colours, as <c>BOOK$COLOUR</c>; empty for none.</param>
     internal abstract (int Index, int Rgb, string Name) Color(int index, int rgb, string name);
 
+    /// <summary>Carries a colour as releases from 2004 on have it, whatever the release is (TC).</summary>
+    internal abstract (int Index, int Rgb, string Name) TrueColor(int index, int rgb, string name);
+
+    /// <summary>Determines whether an object is there, which an entry refers to.</summary>
+    internal virtual bool IsPresent(ulong handle) => true;
+
     /// <summary>Carries how many items follow; the object has at least a bit for each.</summary>
     /// <param name="count">The number as it was read or is written.</param>
     internal abstract int Verify(int count);
@@ -103,6 +112,9 @@ internal abstract partial class BitExchange
 
     /// <summary>Creates the exception for a value that the class does not allow.</summary>
     internal abstract System.Exception Fault(string cause);
+
+    /// <summary>Gets how many bits of the data stream are left; 0 where the object is written.</summary>
+    internal virtual long DataRemaining => 0;
 
     /// <summary>Carries all bits of the data stream that are left.</summary>
     internal abstract byte[] Rest(byte[] value);

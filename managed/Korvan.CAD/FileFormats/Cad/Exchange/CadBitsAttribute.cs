@@ -11,13 +11,16 @@ namespace Korvan.CAD.FileFormats.Cad.Exchange;
 /// of which the class has the packed value. Angles are converted
 /// to degrees where the property is one; H takes its kind from the group code, and becomes a name where the
 /// property is one.</item>
-/// <item><c>CMC Color Rgb Name</c>: a colour by its index, and where the class has them RGB and name.</item>
+/// <item><c>CMC Color Rgb Name</c>: a colour by its index, and where the class has them RGB and name; <c>TC</c> the
+/// same in the form of release 2004, whatever the release is.</item>
 /// <item><c>3BD[BL] Points</c>: a list after its number of items in the coding within the brackets, or as many as an
 /// expression there says.</item>
+/// <item><c>Matrix Transform</c>: sixteen numbers.</item>
 /// <item><c>Part Margin</c>, <c>Part[BL] Cells</c>: objects with lists of their own.</item>
 /// <item><c>BS = 1</c>: a value that the class does not keep, and what is written.</item>
 /// <item><c>base</c>: the fields of the base class. <c>declared</c>: the fields in the order of their group codes and
 /// in the coding that their types have.</item>
+/// <item><c>partial</c>, at the end: further fields are not stated, so that records are kept as they are.</item>
 /// <item><c>ExchangeFaces()</c>: a method of the class that takes the <see cref="BitExchange"/>.</item>
 /// </list>
 /// Before an item there may be releases as years (<c>2007+</c>, <c>-1997</c>, <c>2000-2004</c>) and a condition

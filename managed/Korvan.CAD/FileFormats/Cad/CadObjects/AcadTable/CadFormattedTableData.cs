@@ -7,6 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 /// <summary>The data of a table with formats and merged cells.</summary>
 [CadSequence]
 [CadObject("", Subclass = "AcDbFormattedTableData")]
+[CadBits("base", "Part Format", "Part[BL] MergedCells")]
 public abstract partial class CadFormattedTableData : CadLinkedTableData
 {
     internal CadFormattedTableData()

@@ -7,6 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 /// <summary>The data of a table: its columns, rows and cells.</summary>
 [CadSequence]
 [CadObject("", Subclass = "AcDbLinkedData")]
+[CadBits("T Name", "T Description", "Part[BL] Columns", "Part[BL] Rows", "H[BL] FieldHandles")]
 public abstract partial class CadLinkedTableData : CadObjectBase
 {
     internal CadLinkedTableData()

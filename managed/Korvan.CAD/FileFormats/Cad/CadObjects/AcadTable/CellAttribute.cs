@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 
 /// <summary>The value of an attribute of a block in a table cell.</summary>
 [CadSequence]
+[CadBits("H DefinitionHandle", "T Text", "BL Index")]
 internal sealed partial class CellAttribute
 {
     /// <summary>Gets or sets the handle of the attribute definition. Group code 330.</summary>

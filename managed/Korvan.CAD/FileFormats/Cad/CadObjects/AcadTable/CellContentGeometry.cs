@@ -4,6 +4,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 
 /// <summary>The place of a content within its table cell.</summary>
 [CadSequence]
+[CadBits(
+    "3BD FromTopLeft", "3BD FromCenter", "BD ContentSize.Width", "BD ContentSize.Height", "BD Size.Width",
+    "BD Size.Height", "BL Flags")]
 public partial class CellContentGeometry
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 
 /// <summary>Cells of a table that are merged.</summary>
 [CadSequence]
+[CadBits("BL TopRow", "BL LeftColumn", "BL BottomRow", "BL RightColumn")]
 public partial class FormattedTableCellRange
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -5,6 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 
 /// <summary>A value that a program attached to a column, row or cell.</summary>
 [CadSequence]
+[CadBits("T Key", "Part Value")]
 public partial class TableCustomData
 {
     /// <summary>Creates the object with its defaults.</summary>

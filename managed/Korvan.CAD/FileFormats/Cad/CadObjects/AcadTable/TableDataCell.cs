@@ -9,6 +9,13 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 [CadLabel(300, "CELL")]
 [CadLabel(1, "LINKEDTABLEDATACELL_BEGIN")]
 [CadEnd(309, "TABLECELL_END")]
+[CadBits(
+    "BL Flags", "T Tooltip", "BL DataFlags", "Part[BL] CustomData", "BL HasLinkedData",
+    "if HasLinkedData != 0: H DataLinkHandle", "if HasLinkedData != 0: BL LinkedRowCount",
+    "if HasLinkedData != 0: BL LinkedColumnCount", "if HasLinkedData != 0: BL LinkFlags", "Part[BL] Contents",
+    "Part Format", "BL StyleId", "BL HasGeometry", "if HasGeometry != 0: BL GeometryFlags",
+    "if HasGeometry != 0: BD Width", "if HasGeometry != 0: BD Height", "if HasGeometry != 0: H GeometryHandle",
+    "if HasGeometry != 0: Part[BL] Geometry")]
 public partial class TableDataCell
 {
     /// <summary>Creates the object with its defaults.</summary>

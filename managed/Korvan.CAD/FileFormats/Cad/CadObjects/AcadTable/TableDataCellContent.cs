@@ -10,6 +10,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 [CadLabel(302, "CONTENT")]
 [CadLabel(1, "CELLCONTENT_BEGIN")]
 [CadEnd(309, "FORMATTEDCELLCONTENT_END")]
+[CadBits(
+    "BL ContentType", "if ContentType == 1: Part Value", "if ContentType is 2 or 4: H ObjectHandle",
+    "Part[BL] AttributeList", "BS HasFormat", "if HasFormat != 0: Part Format")]
 public partial class TableDataCellContent
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -9,6 +9,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 [CadLabel(300, "COLUMN")]
 [CadLabel(1, "LINKEDTABLEDATACOLUMN_BEGIN")]
 [CadEnd(309, "TABLECOLUMN_END")]
+[CadBits("T Name", "BL DataFlags", "Part[BL] CustomData", "Part Format", "BL StyleId", "BD Width")]
 public partial class TableDataColumn
 {
     /// <summary>Creates the object with its defaults.</summary>

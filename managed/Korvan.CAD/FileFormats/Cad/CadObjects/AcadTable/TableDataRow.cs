@@ -9,6 +9,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 [CadLabel(301, "ROW")]
 [CadLabel(1, "LINKEDTABLEDATAROW_BEGIN")]
 [CadEnd(309, "TABLEROW_END")]
+[CadBits("Part[BL] Cells", "BL DataFlags", "Part[BL] CustomData", "Part Format", "BL StyleId", "BD Height")]
 public partial class TableDataRow
 {
     /// <summary>Creates the object with its defaults.</summary>

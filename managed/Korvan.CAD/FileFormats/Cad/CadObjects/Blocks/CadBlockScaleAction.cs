@@ -5,7 +5,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 /// <summary>The action that scales entities of a dynamic block.</summary>
 [CadSequence]
 [CadObject("BLOCKSCALEACTION", Subclass = "AcDbBlockScaleAction")]
-[CadBits("base", "BL ScaleId", "T ScaleName", "BL XScaleId", "T XScaleName", "BL YScaleId", "T YScaleName")]
+[CadBits(
+    "base", "BL ScaleId", "T ScaleName", "BL XScaleId", "T XScaleName", "BL YScaleId", "T YScaleName", "RC ScaleType")]
 public partial class CadBlockScaleAction : CadBlockActionWithBasePt
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -36,4 +37,7 @@ public partial class CadBlockScaleAction : CadBlockActionWithBasePt
     /// <summary>Gets or sets the name of the factor along Y. Group code 305.</summary>
     [CadString(305)]
     public string YScaleName { get; set; } = "";
+
+    /// <summary>Gets or sets which axes are scaled, as databases state it: 0 both, 1 X, 2 Y.</summary>
+    internal int ScaleType { get; set; }
 }

@@ -8,6 +8,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.DataTable;
 [CadSequence]
 [CadAlias("ACDBDATATABLE", "ACDBDATATABLE")]
 [CadObject("DATATABLE", Subclass = "AcDbDataTable")]
+[CadBits("BS Version", "ExchangeTable()")]
 public partial class CadDataTable : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -33,6 +34,17 @@ public partial class CadDataTable : CadObjectBase
         int count = fields.Count(90, Columns.Count);
         RowCount = fields.Count(91, RowCount);
         TableName = fields.Text(1, TableName);
+        for (int i = 0; i < count; i++)
+        {
+            fields.Item(Columns, i).Exchange(fields, RowCount);
+        }
+    }
+
+    private void ExchangeTable(BitExchange fields)
+    {
+        int count = fields.CountLong(Columns.Count);
+        RowCount = fields.CountLong(RowCount);
+        TableName = fields.Text(TableName);
         for (int i = 0; i < count; i++)
         {
             fields.Item(Columns, i).Exchange(fields, RowCount);

@@ -80,18 +80,65 @@ public class CadDataTableColumn
 
     private void ExchangeHandles(ObjectExchange fields, int rows)
     {
-        (int code, HandleRole role) = ColumnType switch
-        {
-            HardOwnerType => (360, HandleRole.HardOwner),
-            SoftOwnerType => (350, HandleRole.SoftOwner),
-            HardPointerType => (340, HandleRole.HardPointer),
-            SoftPointerType => (330, HandleRole.SoftPointer),
-            ObjectType => (331, HandleRole.SoftPointer),
-            _ => (0, HandleRole.SoftPointer),
-        };
+        (int code, HandleRole role) = CodeAndRole();
         if (code != 0)
         {
             fields.RunOfHandles(code, Strings, role, rows);
+        }
+    }
+
+    private (int Code, HandleRole Role) CodeAndRole() => ColumnType switch
+    {
+        HardOwnerType => (360, HandleRole.HardOwner),
+        SoftOwnerType => (350, HandleRole.SoftOwner),
+        HardPointerType => (340, HandleRole.HardPointer),
+        SoftPointerType => (330, HandleRole.SoftPointer),
+        ObjectType => (331, HandleRole.SoftPointer),
+        _ => (0, HandleRole.SoftPointer),
+    };
+
+    /// <summary>Carries the column.</summary>
+    /// <param name="fields">What carries it.</param>
+    /// <param name="rows">The number of rows.</param>
+    internal void Exchange(BitExchange fields, int rows)
+    {
+        ColumnType = fields.BitLong(ColumnType);
+        Name = fields.Text(Name);
+        switch (ColumnType)
+        {
+            case IntegerType:
+                Run(fields, Integers, rows, static (to, value) => to.BitLong(value));
+                break;
+            case BooleanType:
+                Run(fields, Integers, rows, static (to, value) => to.Bit(value != 0) ? 1 : 0);
+                break;
+            case NumberType:
+                Run(fields, Numbers, rows, static (to, value) => to.BitDouble(value));
+                break;
+            case StringType:
+                Run(fields, Strings, rows, static (to, value) => to.Text(value ?? ""));
+                break;
+            case SpacePointType or PlanePointType:
+                fields.Points3(Points, rows);
+                break;
+            default:
+                HandleRole role = CodeAndRole().Role;
+                Run(fields, Strings, rows, (to, value) => to.Handle(role, value ?? "0"));
+                break;
+        }
+    }
+
+    // A table that a program made may have fewer values than rows.
+    private static void Run<T>(BitExchange fields, List<T> values, int rows, System.Func<BitExchange, T?, T> carry)
+    {
+        fields.Resize(values, rows);
+        for (int i = 0; i < rows; i++)
+        {
+            T value = carry(fields, i < values.Count ? values[i] : default);
+            if (fields.IsReading)
+            {
+                values[i] = value;
+            }
         }
     }
 }

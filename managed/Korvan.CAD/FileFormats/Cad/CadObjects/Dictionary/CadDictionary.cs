@@ -22,5 +22,5 @@ public partial class CadDictionary : CadDictionaryBase
         ExchangeEntries(fields);
     }
 
-    private void ExchangeEntries(BitExchange fields) => ExchangeEntryBits(fields);
+    private void ExchangeEntries(BitExchange fields) => ExchangeEntryBits(fields, GetType() != typeof(CadDictionary));
 }

@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -163,15 +164,21 @@ public abstract partial class CadDictionaryBase : CadObjectBase, ICadObjectConta
     }
 
     /// <summary>Carries the entries as drawing databases have them: names, and apart from them references.</summary>
-    private protected void ExchangeEntryBits(BitExchange fields)
+    private protected void ExchangeEntryBits(BitExchange fields, bool hasAllFlags)
     {
-        int count = fields.CountLong(_names.Count);
-        if (fields.Release == 1997)
+        List<int> present = [];
+        for (int i = 0; i < _names.Count; i++)
+        {
+            present.AddRange(fields.IsPresent(_handles[i]) ? [i] : Array.Empty<int>());
+        }
+
+        int count = fields.CountLong(present.Count);
+        if (fields.Release == 1997 && !hasAllFlags)
         {
             fields.RawByte(0);
         }
 
-        if (fields.Release >= 2000)
+        if (fields.Release >= 2000 || hasAllFlags)
         {
             DuplicateRecordCloning = (short)fields.BitShort(DuplicateRecordCloning);
             HardOwnerFlag = (short)fields.RawByte(HardOwnerFlag);
@@ -180,13 +187,15 @@ public abstract partial class CadDictionaryBase : CadObjectBase, ICadObjectConta
         HandleRole role = HandleCode == HardOwnerCode ? HandleRole.HardOwner : HandleRole.SoftOwner;
         for (int i = 0; i < count; i++)
         {
-            string name = fields.Text(i < _names.Count ? _names[i] : "");
-            ulong handle = fields.Handle(role, i < _handles.Count ? _handles[i] : 0);
             if (fields.IsReading)
             {
-                _names.Add(name);
-                _handles.Add(handle);
+                _names.Add(fields.Text(""));
+                _handles.Add(fields.Handle(role, 0));
+                continue;
             }
+
+            fields.Text(_names[present[i]]);
+            fields.Handle(role, _handles[present[i]]);
         }
 
         HandleCode = fields.IsReading && HardOwnerFlag != 0 ? HardOwnerCode : HandleCode;

@@ -1,3 +1,4 @@
+using System.Text;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Field;
@@ -111,7 +112,7 @@ public partial class CadFieldData
     // A value of some flags is none.
     private void ExchangeValue(BitExchange fields)
     {
-        const int noValue = 3;
+        const int noValue = 1;
         if (fields.Release >= 2007 && (Flags & noValue) != 0)
         {
             return;
@@ -119,7 +120,13 @@ public partial class CadFieldData
 
         switch (ValueType & ~GeneralFlag)
         {
+            case 0 when ValueType == GeneralFlag && fields.Release < 2007:
+                Text = fields.Text(Text);
+                fields.BitLong(0);
+                break;
             case 0 when ValueType == GeneralFlag && fields.Release >= 2007:
+                fields.Block([]);
+                break;
             case 0 or 1:
                 Integer = fields.BitLong(Integer);
                 break;
@@ -127,7 +134,7 @@ public partial class CadFieldData
                 Number = fields.BitDouble(Number);
                 break;
             case StringType:
-                Text = fields.Text(Text);
+                Text = fields.Release < 2007 ? fields.Text(Text) : ExchangeUtf16(fields, Text);
                 break;
             case DateType:
                 Date = fields.Block(Date);
@@ -144,5 +151,12 @@ public partial class CadFieldData
                 ObjectHandle = fields.Handle(HandleRole.SoftPointer, ObjectHandle);
                 break;
         }
+    }
+
+    // Strings of values are not among the other strings of the object.
+    private static string ExchangeUtf16(BitExchange fields, string value)
+    {
+        byte[] bytes = fields.Block(value.Length == 0 ? [] : Encoding.Unicode.GetBytes(value + '\0'));
+        return Encoding.Unicode.GetString(bytes).TrimEnd('\0');
     }
 }

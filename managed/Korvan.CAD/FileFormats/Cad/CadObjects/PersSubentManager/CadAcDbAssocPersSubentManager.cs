@@ -1,4 +1,5 @@
 using System.Collections.Generic;
+using System.Globalization;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.PersSubentManager;
@@ -8,7 +9,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.PersSubentManager;
 [CadObject("ACDBASSOCPERSSUBENTMANAGER", Subclass = "AcDbAssocPersSubentManager")]
 [CadBits(
     "BL Version", "BL FirstReserved", "BL SecondReserved", "BL ThirdReserved", "BL StepCount", "BL SubentityCount",
-    "BL[BL] Steps")]
+    "BL[BL] Steps", "ExchangeSubentities()")]
 public partial class CadAcDbAssocPersSubentManager : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -48,4 +49,37 @@ public partial class CadAcDbAssocPersSubentManager : CadObjectBase
     internal List<CadCodeValue> Subentities { get; } = [];
 
     partial void OnExchange(ObjectExchange fields) => fields.Tags(Subentities);
+
+    // Integers up to the last bit.
+    private void ExchangeSubentities(BitExchange fields)
+    {
+        const int integer = 90;
+        const int flag = 290;
+        if (!fields.IsReading)
+        {
+            Subentities.ForEach(tag => Write(fields, tag));
+            return;
+        }
+
+        while (fields.DataRemaining > 1)
+        {
+            Subentities.Add(new CadCodeValue(integer, fields.BitLong(0).ToString(CultureInfo.InvariantCulture)));
+        }
+
+        Subentities.Add(new CadCodeValue(flag, fields.Bit(false) ? "1" : "0"));
+    }
+
+    private static void Write(BitExchange fields, CadCodeValue tag)
+    {
+        const int flag = 290;
+        int value = int.TryParse(tag.Value, CultureInfo.InvariantCulture, out int number) ? number : 0;
+        if (tag.Attribute == flag)
+        {
+            fields.Bit(value != 0);
+        }
+        else
+        {
+            fields.BitLong(value);
+        }
+    }
 }

@@ -246,10 +246,10 @@ internal sealed class BitWriter
         }
     }
 
-    /// <summary>Writes a string of bytes after its length (TV).</summary>
+    /// <summary>Writes a string of bytes after its length (TV); a zero ends it, which counts.</summary>
     internal void Text(string value, Encoding encoding)
     {
-        byte[] bytes = encoding.GetBytes(value);
+        byte[] bytes = value.Length == 0 ? [] : encoding.GetBytes(value + "\0");
         BitShort(bytes.Length);
         Raw(bytes);
     }

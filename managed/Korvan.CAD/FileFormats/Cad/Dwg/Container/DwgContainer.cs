@@ -9,6 +9,12 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Container;
 /// <summary>Reads the sections of drawing databases from release 13 on.</summary>
 internal static class DwgContainer
 {
+    private const int LastPlain = 2000;
+
+    // Where objects can begin: after the file header, and after the number that a section begins with.
+    private const int FirstPlainObject = 0x60;
+    private const int FirstObject = 4;
+
     /// <summary>Reads the sections of a file.</summary>
     /// <param name="data">The whole file.</param>
     /// <param name="name">Its name in messages.</param>
@@ -18,7 +24,7 @@ internal static class DwgContainer
     internal static DwgFile Read(byte[] data, string name, CadAcadVersion version, LoadOptions options)
     {
         DwgSource source = new(data, name, options);
-        return version switch
+        DwgFile file = version switch
         {
             CadAcadVersion.AC1012 or CadAcadVersion.AC1014 or CadAcadVersion.AC1015 =>
                 PlainContainer.Read(source, version),
@@ -27,6 +33,12 @@ internal static class DwgContainer
             CadAcadVersion.AC1021 => EncodedContainer.Read(source),
             _ => throw new ImageLoadException($"'{name}' is of release {version}, whose container cannot be read."),
         };
+        if (source.IsTolerant && (file.Map.Count == 0 || file.Map.IsDamaged))
+        {
+            file.Map = ObjectWalk.Complete(file, file.Release <= LastPlain ? FirstPlainObject : FirstObject);
+        }
+
+        return file;
     }
 
     /// <summary>Writes a drawing database of release 2000, 2004, 2010, 2013 or 2018.</summary>

@@ -5,7 +5,7 @@ using Korvan.CAD.FileFormats.Cad.Model;
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Container;
 
 /// <summary>What a drawing database is written of.</summary>
-internal sealed class DwgContent
+internal sealed record DwgContent
 {
     internal required CadAcadVersion Version { get; init; }
 

@@ -24,6 +24,9 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
 
     internal int Count => Handles.Length;
 
+    /// <summary>Gets whether a part of the map was damaged, so that objects may be missing.</summary>
+    internal bool IsDamaged { get; private init; }
+
     /// <summary>Returns the first byte of an object; -1 if there is none with this handle.</summary>
     internal long Find(ulong handle)
     {
@@ -40,6 +43,7 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
         List<ulong> handles = [];
         List<long> offsets = [];
         RawReader map = new(data);
+        int defects = source.Options.Errors.Count;
         while (true)
         {
             int at = map.Position;
@@ -64,15 +68,15 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
             }
         }
 
-        return FromPairs([.. handles], [.. offsets]);
+        return FromPairs([.. handles], [.. offsets], source.Options.Errors.Count > defects);
     }
 
     /// <summary>Creates a map of pairs in any order; of several with one handle, the last counts.</summary>
-    internal static ObjectMap FromPairs(ulong[] handles, long[] offsets)
+    private static ObjectMap FromPairs(ulong[] handles, long[] offsets, bool isDamaged)
     {
         if (IsAscending(handles))
         {
-            return new ObjectMap(handles, offsets);
+            return new ObjectMap(handles, offsets) { IsDamaged = isDamaged };
         }
 
         SortedDictionary<ulong, long> sorted = [];
@@ -81,7 +85,7 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
             sorted[handles[i]] = offsets[i];
         }
 
-        return new ObjectMap([.. sorted.Keys], [.. sorted.Values]);
+        return new ObjectMap([.. sorted.Keys], [.. sorted.Values]) { IsDamaged = isDamaged };
     }
 
     private static bool IsAscending(ulong[] handles)

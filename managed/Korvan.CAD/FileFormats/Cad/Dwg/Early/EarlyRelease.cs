@@ -13,7 +13,7 @@ internal enum EarlyRelease
     /// <summary>Release 1.4, AC1.40: a header and entities, with layers that have numbers only.</summary>
     R14,
 
-    /// <summary>Release 2.0, AC1.50: the first one with sections, tables and entities that state their length.</summary>
+    /// <summary>Release 2.0, AC1.50: the first with sections, tables and entities that state their length.</summary>
     R20,
 
     /// <summary>Release 2.1, AC2.10.</summary>

@@ -85,8 +85,8 @@ internal static class ClassSection
         if (stream.Release >= Counted)
         {
             item.InstanceCount = stream.BitLong(item.InstanceCount);
-            stream.BitLong(0); // the release and maintenance release that the class came with
-            stream.BitLong(0);
+            item.FormatVersion = stream.BitLong(item.FormatVersion);
+            item.MaintenanceVersion = stream.BitLong(item.MaintenanceVersion);
             stream.BitLong(0);
             stream.BitLong(0);
         }

@@ -58,6 +58,14 @@ internal static class HeaderVariableCodec
         return values;
     }
 
+    /// <summary>Returns days and milliseconds.</summary>
+    /// <param name="time">The days and their fraction.</param>
+    internal static HeaderValue TimeOf(double time)
+    {
+        double days = Math.Floor(time);
+        return new HeaderValue(days, Math.Round((time - days) * MillisecondsOfDay));
+    }
+
     private static void SetVariable(
         CadHeader header, HeaderField field, HeaderValue value, Func<ulong, string?> nameOf)
     {
@@ -127,9 +135,7 @@ internal static class HeaderVariableCodec
             case HeaderCoding.Text:
                 return new HeaderValue(0) { Text = header.GetString(field.Name) };
             case HeaderCoding.Time:
-                double days = Math.Floor(header.GetDouble(field.Name));
-                double part = header.GetDouble(field.Name) - days;
-                return new HeaderValue(days, Math.Floor(part * MillisecondsOfDay));
+                return TimeOf(header.GetDouble(field.Name));
             case HeaderCoding.OwnHandle:
                 return new HeaderValue(0) { Handle = HandleOf(header.GetString(field.Name)) };
             case HeaderCoding.Handle:

@@ -1,4 +1,5 @@
 using System.Text;
+using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Header;
@@ -12,6 +13,7 @@ internal sealed class HeaderWriter(int release, Encoding encoding) : HeaderStrea
     private const int LongString = 0x8000;
 
     private readonly bool _isSplit = release >= 2007;
+    private readonly Encoding _encoding = TextEscapes.Escaping(encoding);
     private readonly BitWriter _data = new();
     private readonly BitWriter _strings = new();
     private readonly BitWriter _handles = new();
@@ -97,7 +99,7 @@ internal sealed class HeaderWriter(int release, Encoding encoding) : HeaderStrea
         }
         else
         {
-            _data.Text(value, encoding);
+            _data.Text(value, _encoding);
         }
 
         return value;

@@ -2,7 +2,6 @@ using System;
 using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
-using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 using Korvan.CAD.FileFormats.Cad.Exchange;
@@ -35,8 +34,7 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
     /// <summary>Gets the references to the parts of the object; null for an object without.</summary>
     internal ChildHandles? Parts { get; private set; }
 
-    /// <summary>Gets how many bits of data are left.</summary>
-    internal long DataRemaining => _data.Remaining;
+    internal override long DataRemaining => _data.Remaining;
 
     /// <summary>Gets how many bits of references are left.</summary>
     internal long HandlesRemaining => _handles.Remaining;
@@ -52,6 +50,7 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
         _self = self;
         _data = data;
         Parts = null;
+        HasStoredData = false;
     }
 
     /// <summary>Sets where the references of the object begin: there its data ends.</summary>
@@ -97,13 +96,9 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
 
     internal override string Text(string value)
     {
-        if (release >= UnicodeStrings)
-        {
-            return _strings.Remaining > 0 ? _strings.Utf16Text() : "";
-        }
-
-        string text = _data.Text(encoding);
-        return text.Contains('\\') ? TextEscapes.Standard.Decode(text) : text;
+        string text = release < UnicodeStrings ? _data.Text(encoding)
+            : _strings.Remaining > 0 ? _strings.Utf16Text() : "";
+        return RecordText.FromFile(text);
     }
 
     internal override string Handle(HandleRole role, string value)
@@ -125,14 +120,12 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
         var index => names.LineType(index) ?? value,
     };
 
-    internal override (int Index, int Rgb, string Name) Color(int index, int rgb, string name)
+    internal override (int Index, int Rgb, string Name) Color(int index, int rgb, string name) =>
+        release < TrueColors ? (_data.BitShort(), -1, "") : TrueColor(index, rgb, name);
+
+    internal override (int Index, int Rgb, string Name) TrueColor(int index, int rgb, string name)
     {
         int plain = _data.BitShort();
-        if (release < TrueColors)
-        {
-            return (plain, -1, "");
-        }
-
         uint value = (uint)_data.BitLong();
         int flags = _data.RawByte();
         string color = (flags & 1) != 0 ? Text("") : "";

@@ -25,7 +25,7 @@ internal static class CommonData
         bool hasDictionary = fields.Release < 2004 || !fields.Bit(frame.Dictionary == 0);
         if (fields.Release >= 2013)
         {
-            frame.HasStoredData = fields.Bit(frame.HasStoredData);
+            fields.HasStoredData = fields.Bit(fields.HasStoredData);
         }
 
         frame.Owner = fields.Handle(HandleRole.SoftPointer, frame.Owner);
@@ -47,7 +47,7 @@ internal static class CommonData
         frame.IsBetweenNeighbours = fields.Release >= 2004 || fields.Bit(frame.IsBetweenNeighbours);
         if (fields.Release >= 2013)
         {
-            frame.HasStoredData = fields.Bit(frame.HasStoredData);
+            fields.HasStoredData = fields.Bit(fields.HasStoredData);
         }
 
         bool hasColor = ExchangeColor(fields, entity, frame);
@@ -128,13 +128,17 @@ internal static class CommonData
         if (fields.Release >= 2000)
         {
             kinds.LineType = fields.BitPair(lineType);
-            kinds.PlotStyle = fields.BitPair(entity.PlotStyle.Length > 0 ? HandleFollows : 0);
         }
 
         if (fields.Release >= 2007)
         {
             kinds.Material = fields.BitPair(entity.Material.Length > 0 ? HandleFollows : 0);
             entity.ShadowMode = (CadShadowMode)fields.RawByte((int)entity.ShadowMode);
+        }
+
+        if (fields.Release >= 2000)
+        {
+            kinds.PlotStyle = fields.BitPair(entity.PlotStyle.Length > 0 ? HandleFollows : 0);
         }
 
         if (fields.Release >= 2010)

@@ -3,7 +3,6 @@ using System.Buffers.Binary;
 using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
-using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 
@@ -99,8 +98,8 @@ internal static class ExtendedData
 
     private static string TextOf(int code, ReadOnlySpan<byte> value, RecordFormat format) => code switch
     {
-        0 or 1 => format.HasUnicode ? Encoding.Unicode.GetString(value[2..])
-            : TextEscapes.Standard.Decode(format.Encoding.GetString(value[3..])),
+        0 or 1 => RecordText.FromFile(
+            format.HasUnicode ? Encoding.Unicode.GetString(value[2..]) : format.Encoding.GetString(value[3..])),
         2 => value[0] == 0 ? "{" : "}",
         3 => LayerName(BinaryPrimitives.ReadUInt64BigEndian(value), format),
         5 => BinaryPrimitives.ReadUInt64BigEndian(value).ToString("X", CultureInfo.InvariantCulture),

@@ -33,9 +33,6 @@ internal sealed class ObjectFrame
     /// <summary>Gets or sets the entity after, up to release 2000.</summary>
     internal ulong Next { get; set; }
 
-    /// <summary>Gets or sets whether data of the object is in the section of data, from release 2013 on.</summary>
-    internal bool HasStoredData { get; set; }
-
     /// <summary>Gets or sets the object that has the name and value of the colour; 0 for none.</summary>
     internal ulong Color { get; set; }
 }

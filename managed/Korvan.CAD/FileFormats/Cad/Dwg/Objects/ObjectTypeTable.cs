@@ -13,7 +13,7 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 
 /// <summary>The types of objects that have fixed numbers. Source: Open Design Specification for .dwg files, 5.4.1,
 /// section 20.3.</summary>
-internal static class ObjectTypeTable
+internal static partial class ObjectTypeTable
 {
     internal const int BlockControl = 48;
     internal const int LineTypeControl = 56;
@@ -84,6 +84,18 @@ internal static class ObjectTypeTable
         68 => "DIMSTYLE",
         _ => null,
     };
+
+    /// <summary>Returns the type of the header of a symbol table.</summary>
+    internal static int ControlOf(string table)
+    {
+        int type = BlockControl;
+        while (ControlledTable(type) != table)
+        {
+            type++;
+        }
+
+        return type;
+    }
 
     /// <summary>Determines whether a type is a record of a symbol table.</summary>
     internal static bool IsRecord(int type) => type is 49 or 51 or 53 or 57 or 61 or 63 or 65 or 67 or 69;

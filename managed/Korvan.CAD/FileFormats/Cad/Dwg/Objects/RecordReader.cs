@@ -127,7 +127,7 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
 
     private void Keep(in RecordHeader header, CadBaseObject target, byte[] graphics)
     {
-        bool isRaw = target is RawEntity or RawObject;
+        bool isRaw = !target.HasAllBits;
         if (target is CadAcadProxyEntity proxy)
         {
             proxy.GraphicsData = graphics;

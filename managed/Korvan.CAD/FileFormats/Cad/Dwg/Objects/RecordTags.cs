@@ -3,7 +3,6 @@ using System.Buffers.Binary;
 using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
-using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -57,7 +56,7 @@ internal static class RecordTags
         }
     }
 
-    private static Kind KindOf(int code) => code switch
+    internal static Kind KindOf(int code) => code switch
     {
         < 0 => Kind.Handle,
         5 or 105 or (>= 320 and < 370) or (>= 390 and < 400) or (>= 480 and < 482) or 1005 => Kind.Handle,
@@ -100,8 +99,8 @@ internal static class RecordTags
 
     private static string TextOf(Kind kind, ReadOnlySpan<byte> value, RecordFormat format) => kind switch
     {
-        Kind.Text => format.HasUnicode ? Encoding.Unicode.GetString(value[2..])
-            : TextEscapes.Standard.Decode(format.Encoding.GetString(value[3..])),
+        Kind.Text => RecordText.FromFile(
+            format.HasUnicode ? Encoding.Unicode.GetString(value[2..]) : format.Encoding.GetString(value[3..])),
         Kind.Number => Number(value),
         Kind.Byte => value[0].ToString(CultureInfo.InvariantCulture),
         Kind.Short => BinaryPrimitives.ReadInt16LittleEndian(value).ToString(CultureInfo.InvariantCulture),
@@ -113,7 +112,7 @@ internal static class RecordTags
     private static string Number(ReadOnlySpan<byte> value) =>
         BinaryPrimitives.ReadDoubleLittleEndian(value).ToString("R", CultureInfo.InvariantCulture);
 
-    private enum Kind
+    internal enum Kind
     {
         Text,
         Number,

@@ -22,24 +22,50 @@ internal static class PagedContainer
             Encoding = source.EncodingOf(plain.CodePage),
         };
         Dictionary<int, long> pages = PageMap.Read(source, header);
-        if (!pages.TryGetValue(header.SectionMapPage, out long sectionMap))
-        {
-            source.Report(LoadDefectCode.InvalidPage, SectionMap.Section, -1,
-                $"page {header.SectionMapPage}, which has the map, is not in the file");
-        }
-
         SectionLoader loader = new(source, pages);
-        foreach (SectionInfo section in SectionMap.Read(source, sectionMap))
+        foreach (SectionInfo section in ReadSections(source, header, pages))
         {
-            if (section.IsEncrypted && plain.IsEncrypted)
+            if (!section.IsEncrypted || !plain.IsEncrypted)
             {
-                continue;
+                NamedSections.Store(file, section.Name, () => loader.Read(section));
             }
-
-            NamedSections.Store(file, section.Name, () => loader.Read(section));
         }
 
         NamedSections.VerifyComplete(file);
         return file;
+    }
+
+    // Where defects do not end the load, the pages themselves tell where they belong.
+    private static List<SectionInfo> ReadSections(DwgSource source, FileHeader header, Dictionary<int, long> pages)
+    {
+        if (!pages.TryGetValue(header.SectionMapPage, out long sectionMap))
+        {
+            source.Report(LoadDefectCode.InvalidPage, SectionMap.Section, -1,
+                $"page {header.SectionMapPage}, which has the map, is not in the file");
+            sectionMap = PageScan.FindSystemPage(source.Data, SystemPage.SectionMapType);
+        }
+
+        List<SectionInfo> sections = sectionMap < 0 ? [] : SectionMap.Read(source, sectionMap);
+        if (sections.Count == 0)
+        {
+            return PageScan.GuessSections(source.Data, PageScan.FindDataPages(source.Data), pages);
+        }
+
+        if (pages.Count == 0)
+        {
+            Dictionary<(int Section, long Start), long> found = PageScan.FindDataPages(source.Data);
+            foreach (SectionInfo section in sections)
+            {
+                foreach (PageInfo page in section.Pages)
+                {
+                    if (found.TryGetValue((section.Id, page.Start), out long address))
+                    {
+                        pages[page.Number] = address;
+                    }
+                }
+            }
+        }
+
+        return sections;
     }
 }

@@ -32,11 +32,14 @@ internal sealed class EncodedHeader
     /// <summary>Gets the place of the page map.</summary>
     internal SystemPageInfo PageMap { get; private init; }
 
+    /// <summary>Gets the place of the copy of the page map.</summary>
+    internal SystemPageInfo PageMapCopy { get; private init; }
+
     /// <summary>Gets the place of the section map; its address is the number of its page.</summary>
     internal SystemPageInfo SectionMap { get; private init; }
 
-    /// <summary>Gets the largest page number.</summary>
-    internal long MaxPage { get; private init; }
+    /// <summary>Gets the place of the copy of the section map; its address is the number of its page.</summary>
+    internal SystemPageInfo SectionMapCopy { get; private init; }
 
     internal ulong CrcSeed { get; private init; }
 
@@ -89,13 +92,16 @@ internal sealed class EncodedHeader
     private static EncodedHeader FromFields(byte[] header)
     {
         long At(int offset) => BitConverter.ToInt64(header, offset);
+        SystemPageInfo pages = new(
+            At(0x38) + FirstPage, At(0x50), At(0x58), At(0x18), (ulong)At(0x10), (ulong)At(0x80));
+        SystemPageInfo sections = new(
+            At(0xC0), At(0xB0), At(0xC8), At(0xD8), (ulong)At(0xD0), (ulong)At(0xA8));
         return new EncodedHeader
         {
-            PageMap = new SystemPageInfo(
-                At(0x38) + FirstPage, At(0x50), At(0x58), At(0x18), (ulong)At(0x10), (ulong)At(0x80)),
-            SectionMap = new SystemPageInfo(
-                At(0xC0), At(0xB0), At(0xC8), At(0xD8), (ulong)At(0xD0), (ulong)At(0xA8)),
-            MaxPage = At(0x68),
+            PageMap = pages,
+            PageMapCopy = pages with { Address = At(0x28) + FirstPage },
+            SectionMap = sections,
+            SectionMapCopy = sections with { Address = At(0xB8) },
             CrcSeed = (ulong)At(0xF0),
         };
     }

@@ -21,7 +21,7 @@ internal static class EncodedMaps
     internal static Dictionary<long, long> ReadPages(DwgSource source, EncodedHeader header)
     {
         Dictionary<long, long> pages = [];
-        if (EncodedPages.ReadSystem(source, header.PageMap, header.CrcSeed, PageSection) is not { } map)
+        if (ReadEither(source, header.PageMap, header.PageMapCopy, header.CrcSeed, PageSection) is not { } map)
         {
             return pages;
         }
@@ -51,8 +51,9 @@ internal static class EncodedMaps
     {
         List<EncodedSection> sections = [];
         long address = pages.GetValueOrDefault(header.SectionMap.Address, -1);
-        if (EncodedPages.ReadSystem(source, header.SectionMap with { Address = address }, header.CrcSeed,
-            SectionSection) is not { } map)
+        long copy = pages.GetValueOrDefault(header.SectionMapCopy.Address, -1);
+        if (ReadEither(source, header.SectionMap with { Address = address },
+            header.SectionMapCopy with { Address = copy }, header.CrcSeed, SectionSection) is not { } map)
         {
             return sections;
         }
@@ -69,6 +70,15 @@ internal static class EncodedMaps
         }
 
         return sections;
+    }
+
+    // Each map has a copy, which is used where defects do not end the load.
+    private static byte[]? ReadEither(
+        DwgSource source, in SystemPageInfo page, in SystemPageInfo copy, ulong seed, string name)
+    {
+        int defects = source.Options.Errors.Count;
+        byte[]? map = EncodedPages.ReadSystem(source, page, seed, name);
+        return source.Options.Errors.Count == defects ? map : EncodedPages.ReadSystem(source, copy, seed, name) ?? map;
     }
 
     private static EncodedSection ReadSection(ref RawReader fields)

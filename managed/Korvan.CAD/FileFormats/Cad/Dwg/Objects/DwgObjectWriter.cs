@@ -1,0 +1,253 @@
+using System;
+using System.Collections.Generic;
+using System.Linq;
+using System.Text;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
+using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Dwg.Container;
+using Korvan.CAD.FileFormats.Cad.Model;
+
+namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
+
+/// <summary>Writes all objects of a drawing whose handles and owners are complete.</summary>
+internal sealed class DwgObjectWriter
+{
+    private readonly CadDrawing _drawing;
+    private readonly int _release;
+    private readonly WrittenHandles _handles;
+    private readonly RecordWriter _records;
+    private readonly WrittenClasses _classes;
+    private readonly Dictionary<string, List<ulong>> _inserts = new(StringComparer.OrdinalIgnoreCase);
+    private ulong _modelSpace;
+    private ulong _paperSpace;
+
+    /// <summary>Creates a writer.</summary>
+    /// <param name="drawing">The drawing.</param>
+    /// <param name="release">The release as a year, from 2000 on.</param>
+    /// <param name="encoding">The encoding of strings of 8-bit characters.</param>
+    internal DwgObjectWriter(CadDrawing drawing, int release, Encoding encoding)
+    {
+        _drawing = drawing;
+        _release = release;
+        _handles = new WrittenHandles(drawing);
+        _classes = new WrittenClasses(drawing.ClassEntities.Items);
+        Objects = new ObjectStore(release);
+        _records = new RecordWriter(release, encoding, _handles, Objects);
+    }
+
+    /// <summary>Gets the records.</summary>
+    internal ObjectStore Objects { get; }
+
+    /// <summary>Gets the classes of the file: those of the drawing, and those that its objects need.</summary>
+    internal IReadOnlyList<CadClassEntity> Classes => _classes.All;
+
+    /// <summary>Gets what was left out because it is kept in the form of another format or release.</summary>
+    internal List<string> LeftOut { get; } = [];
+
+    /// <summary>Writes all objects.</summary>
+    internal void Write()
+    {
+        RemoveUnwritten();
+        CountInserts();
+        foreach (string table in TableRecords.Names)
+        {
+            WriteTable(table);
+        }
+
+        foreach (CadObjectBase item in _drawing.Objects)
+        {
+            if (_handles.IsPresent(item.Handle))
+            {
+                WriteObject(item, new ObjectFrame { Owner = item.Owner }, null);
+            }
+        }
+    }
+
+    // References to what is not written lead nowhere, so that it has to be known first.
+    private void RemoveUnwritten()
+    {
+        foreach (CadBaseObject item in DrawingWalk.All(_drawing))
+        {
+            if (item is CadTableHeader or CadSymbolTableGroupCodes || IsWritten(item))
+            {
+                continue;
+            }
+
+            _handles.Remove(item.Handle);
+            string form = item.Kept?.FormatName ?? "another release";
+            LeftOut.Add($"{item.DxfName} {HandleText.Format(item.Handle)}: data kept in the form of {form}");
+        }
+    }
+
+    private bool IsWritten(CadBaseObject item) => KeptOf(item) is not null || item is CadInsertObject
+        || item.DxfName == "ACDBPLACEHOLDER"
+        || (item.HasAllBits && (ObjectTypeTable.NumberOf(item) > 0 || WrittenClasses.IsKnown(item.DxfName)
+            || _classes.Has(item.DxfName)));
+
+    private KeptBits? KeptOf(CadBaseObject item) =>
+        !item.HasAllBits && item.Kept is KeptBits { Record.Length: > 0 } kept && kept.Release == _release ? kept : null;
+
+    private void CountInserts()
+    {
+        foreach (CadInsertObject insert in DrawingWalk.Entities(_drawing).OfType<CadInsertObject>())
+        {
+            if (!_inserts.TryGetValue(insert.Name, out List<ulong>? found))
+            {
+                _inserts[insert.Name] = found = [];
+            }
+
+            found.Add(insert.Handle);
+        }
+    }
+
+    private void WriteTable(string name)
+    {
+        CadTableHeader header = _drawing.TableHeaders[name];
+        SymbolTableHandles table = new();
+        bool isBlocks = name == "BLOCK_RECORD";
+        foreach (CadSymbolTableGroupCodes record in TableRecords.Of(_drawing, name))
+        {
+            AddRecord(table, record, isBlocks);
+        }
+
+        (_modelSpace, _paperSpace) = isBlocks ? (table.First, table.Second) : (_modelSpace, _paperSpace);
+        _records.WriteControl(ObjectTypeTable.ControlOf(name), header, table);
+        foreach (CadSymbolTableGroupCodes record in TableRecords.Of(_drawing, name))
+        {
+            ObjectFrame frame = new() { Owner = header.Handle };
+            if (record is CadBlockTableObject block)
+            {
+                WriteBlock(block, frame);
+            }
+            else
+            {
+                _records.Write(ObjectTypeTable.NumberOf(record), record, frame, null);
+            }
+        }
+    }
+
+    private static void AddRecord(SymbolTableHandles table, CadSymbolTableGroupCodes record, bool isBlocks)
+    {
+        bool isLineType = record is CadLineTypeTableObject;
+        if (isBlocks && BlockNames.IsModelSpace(record.Name) && table.First == 0)
+        {
+            table.First = record.Handle;
+        }
+        else if (isBlocks && BlockNames.IsActivePaperSpace(record.Name) && table.Second == 0)
+        {
+            table.Second = record.Handle;
+        }
+        else if (isLineType && string.Equals(record.Name, "BYBLOCK", StringComparison.OrdinalIgnoreCase))
+        {
+            table.First = record.Handle;
+        }
+        else if (isLineType && string.Equals(record.Name, "BYLAYER", StringComparison.OrdinalIgnoreCase))
+        {
+            table.Second = record.Handle;
+        }
+        else
+        {
+            table.Records.Add(record.Handle);
+        }
+    }
+
+    private void WriteBlock(CadBlockTableObject record, ObjectFrame frame)
+    {
+        CadBlockEntity block = _drawing.BlockEntities.Find(record.Name) ?? new CadBlockEntity { Name = record.Name };
+        ChildHandles parts = new() { Begin = block.Handle, End = block.End.Handle };
+        List<CadEntityBase> entities = [.. block.Entities.Where(entity => _handles.IsPresent(entity.Handle))];
+        parts.Owned.AddRange(entities.Select(static entity => entity.Handle));
+        record.Definition = DefinitionOf(block, record.Definition);
+        _records.Write(ObjectTypeTable.NumberOf(record), record, frame, parts);
+        WritePart(block, record.Handle);
+        for (int i = 0; i < entities.Count; i++)
+        {
+            ObjectFrame place = FrameOf(record.Handle);
+            Link(place, entities[i].Handle, i > 0 ? parts.Owned[i - 1] : 0,
+                i + 1 < entities.Count ? parts.Owned[i + 1] : 0);
+            WriteEntity(entities[i], place);
+        }
+
+        WritePart(block.End, record.Handle);
+    }
+
+    private BlockDefinition DefinitionOf(CadBlockEntity block, BlockDefinition? before)
+    {
+        BlockDefinition definition = new()
+        {
+            Flags = block.Flags,
+            Path = block.XRefPathName,
+            Description = block.Description,
+            Preview = before?.Preview ?? [],
+        };
+        (definition.BasePoint.X, definition.BasePoint.Y, definition.BasePoint.Z) =
+            (block.BasePoint.X, block.BasePoint.Y, block.BasePoint.Z);
+        definition.Inserts.AddRange(_inserts.GetValueOrDefault(block.Name) ?? []);
+        return definition;
+    }
+
+    private void WriteEntity(CadEntityBase entity, ObjectFrame frame)
+    {
+        switch (entity)
+        {
+            case CadPolylineBase polyline:
+                WriteSequence(entity, frame, [.. polyline.Vertices], polyline.Seqend);
+                break;
+            case CadInsertObject { Attributes.Count: > 0 } insert when KeptOf(insert) is null:
+                WriteSequence(entity, frame, [.. insert.Attributes], insert.Seqend);
+                break;
+            default:
+                WriteObject(entity, frame, null);
+                break;
+        }
+    }
+
+    private void WriteSequence(CadEntityBase owner, ObjectFrame frame, List<CadEntityBase> items, CadSeqend? end)
+    {
+        ChildHandles parts = new() { End = end?.Handle ?? 0 };
+        parts.Owned.AddRange(items.Select(static item => item.Handle));
+        WriteObject(owner, frame, parts);
+        for (int i = 0; i < items.Count; i++)
+        {
+            ObjectFrame place = new() { Owner = owner.Handle };
+            Link(place, items[i].Handle, i > 0 ? parts.Owned[i - 1] : 0, i + 1 < items.Count ? parts.Owned[i + 1] : 0);
+            WriteObject(items[i], place, null);
+        }
+
+        if (end is not null)
+        {
+            WriteObject(end, new ObjectFrame { Owner = owner.Handle }, null);
+        }
+    }
+
+    private void WritePart(CadEntityBase part, ulong owner) => WriteObject(part, FrameOf(owner), null);
+
+    private ObjectFrame FrameOf(ulong owner) => new()
+    {
+        Mode = owner == _modelSpace ? ObjectFrame.InModelSpace
+            : owner == _paperSpace ? ObjectFrame.InPaperSpace : ObjectFrame.OwnerIsStated,
+        Owner = owner,
+    };
+
+    private static void Link(ObjectFrame frame, ulong self, ulong previous, ulong next)
+    {
+        frame.IsBetweenNeighbours = previous == self - 1 && next == self + 1;
+        (frame.Previous, frame.Next) = (previous, next);
+    }
+
+    private void WriteObject(CadBaseObject item, ObjectFrame frame, ChildHandles? parts)
+    {
+        if (KeptOf(item) is { } kept)
+        {
+            int stated = _records.TypeOf(kept);
+            bool isFixed = stated < ObjectTypeTable.FirstClass;
+            _records.WriteKept(isFixed ? stated : _classes.NumberOf(item), item.Handle, kept);
+            return;
+        }
+
+        int type = ObjectTypeTable.NumberOf(item);
+        _records.Write(type > 0 ? type : _classes.NumberOf(item), item, frame, parts);
+    }
+}

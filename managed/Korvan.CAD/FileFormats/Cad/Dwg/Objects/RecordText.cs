@@ -1,0 +1,50 @@
+using System.Linq;
+using System.Text;
+using Korvan.CAD.Encodings;
+
+namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
+
+/// <summary>Strings of drawing databases, and as text files have them: control characters are a caret and a
+/// letter.</summary>
+internal static class RecordText
+{
+    private const char Caret = '^';
+    private const char FirstPrintable = ' ';
+    private const int Offset = '@';
+
+    /// <summary>Returns a string of a file as the model has it.</summary>
+    internal static string FromFile(string text)
+    {
+        string decoded = text.Contains('\\') ? TextEscapes.Standard.Decode(text) : text;
+        return decoded.Any(static c => c < FirstPrintable) ? WithCarets(decoded) : decoded;
+    }
+
+    /// <summary>Returns a string of the model as files have it.</summary>
+    internal static string ToFile(string text)
+    {
+        if (!text.Contains(Caret))
+        {
+            return text;
+        }
+
+        StringBuilder result = new(text.Length);
+        for (int i = 0; i < text.Length; i++)
+        {
+            bool isControl = text[i] == Caret && i + 1 < text.Length && text[i + 1] is 'I' or 'J' or 'M';
+            result.Append(isControl ? (char)(text[++i] - Offset) : text[i]);
+        }
+
+        return result.ToString();
+    }
+
+    private static string WithCarets(string text)
+    {
+        StringBuilder result = new(text.Length + 1);
+        foreach (char c in text)
+        {
+            _ = c < FirstPrintable ? result.Append(Caret).Append((char)(c + Offset)) : result.Append(c);
+        }
+
+        return result.ToString();
+    }
+}

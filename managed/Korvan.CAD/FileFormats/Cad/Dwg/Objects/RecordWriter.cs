@@ -1,0 +1,219 @@
+using System;
+using System.Collections.Generic;
+using System.Text;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
+using Korvan.CAD.FileFormats.Cad.Dwg.Container;
+using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
+
+namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
+
+/// <summary>Writes the records of objects, as <see cref="RecordReader"/> reads them.</summary>
+/// <param name="release">The release as a year.</param>
+/// <param name="encoding">The encoding of strings of 8-bit characters.</param>
+/// <param name="handles">The handles of what objects refer to.</param>
+/// <param name="store">Takes the records.</param>
+internal sealed class RecordWriter(int release, Encoding encoding, WrittenHandles handles, ObjectStore store)
+{
+    private const int ExtendedTypes = 2010;
+    private const int UnicodeStrings = 2007;
+    private const int SizeBits = 32;
+    private const int LongStrings = 0x8000;
+
+    private readonly BitFieldWriter _fields = new(release, encoding, handles);
+
+    /// <summary>Writes an object.</summary>
+    /// <param name="type">The number of its type.</param>
+    /// <param name="item">The object.</param>
+    /// <param name="frame">Its place among the others.</param>
+    /// <param name="parts">Its parts.</param>
+    internal void Write(int type, CadBaseObject item, ObjectFrame frame, ChildHandles? parts)
+    {
+        Begin(item, frame);
+        _fields.Parts = parts ?? new ChildHandles();
+        if (item is CadEntityBase entity)
+        {
+            WriteGraphics(entity);
+            CommonData.ExchangeEntity(_fields, entity, frame);
+        }
+        else
+        {
+            CommonData.ExchangeObject(_fields, frame);
+        }
+
+        item.ExchangeBits(_fields);
+        End(type, item.Handle);
+    }
+
+    /// <summary>Writes the header of a symbol table.</summary>
+    /// <param name="type">The number of its type.</param>
+    /// <param name="header">The header.</param>
+    /// <param name="table">The references to its records.</param>
+    internal void WriteControl(int type, CadBaseObject header, SymbolTableHandles table)
+    {
+        const int dimensionStyles = 68;
+        ObjectFrame frame = new();
+        Begin(header, frame);
+        CommonData.ExchangeObject(_fields, frame);
+        _fields.BitLong(table.Records.Count);
+        if (type == dimensionStyles)
+        {
+            _fields.RawByte(0);
+        }
+
+        table.Records.ForEach(record => _fields.Handle(HandleRole.SoftOwner, record));
+        if (type is ObjectTypeTable.BlockControl or ObjectTypeTable.LineTypeControl)
+        {
+            _fields.Handle(HandleRole.HardOwner, table.First);
+            _fields.Handle(HandleRole.HardOwner, table.Second);
+        }
+
+        End(type, header.Handle);
+    }
+
+    /// <summary>Returns the number of the type of a kept record.</summary>
+    internal int TypeOf(KeptBits kept)
+    {
+        BitReader record = new(kept.Record);
+        return ReadType(ref record);
+    }
+
+    /// <summary>Writes a record as it was read; only the number of its class may be another one.</summary>
+    internal void WriteKept(int type, ulong handle, KeptBits kept)
+    {
+        BitReader old = new(kept.Record);
+        if (ReadType(ref old) == type)
+        {
+            store.Add(handle, kept.Record, kept.HandleBits);
+            return;
+        }
+
+        BitWriter record = new();
+        WriteType(record, type);
+        byte[] rest = kept.Record;
+        BitReader body = new(rest, old.Position, (long)rest.Length << 3);
+        while (body.Remaining >= 8)
+        {
+            record.RawByte(body.RawByte());
+        }
+
+        while (body.Remaining > 0)
+        {
+            record.Bit(body.Bit());
+        }
+
+        store.Add(handle, record.Bytes, kept.HandleBits);
+    }
+
+    private int ReadType(ref BitReader record) =>
+        release >= ExtendedTypes ? record.ObjectType() : record.BitShort();
+
+    private void Begin(CadBaseObject item, ObjectFrame frame)
+    {
+        _fields.Begin($"{item.DxfName} {HandleText.Format(item.Handle)}");
+        _fields.Data.Handle(0, item.Handle);
+        ExtendedDataWriter.Write(_fields.Data, item, release, encoding, handles);
+        foreach (CadApplicationCodes group in item.ApplicationCodesOrNull?.ApplicationCodes ?? [])
+        {
+            Take(group, frame);
+        }
+    }
+
+    private void Take(CadApplicationCodes group, ObjectFrame frame)
+    {
+        foreach (CadCodeValue tag in group.Codes)
+        {
+            if (!HandleText.TryParse(tag.Value.Trim(), out ulong handle) || !handles.IsPresent(handle))
+            {
+                continue;
+            }
+
+            if (group.ApplicationName == "ACAD_REACTORS")
+            {
+                frame.Reactors.Add(handle);
+            }
+            else if (group.ApplicationName == "ACAD_XDICTIONARY")
+            {
+                frame.Dictionary = handle;
+            }
+        }
+    }
+
+    private void WriteGraphics(CadEntityBase entity)
+    {
+        byte[] graphics = entity is CadAcadProxyEntity proxy ? proxy.GraphicsData
+            : entity.Kept is KeptBits kept ? kept.Graphics : [];
+        _fields.Data.Bit(graphics.Length > 0);
+        if (graphics.Length == 0)
+        {
+            return;
+        }
+
+        if (release >= ExtendedTypes)
+        {
+            _fields.Data.BitLongLong((ulong)graphics.Length);
+        }
+        else
+        {
+            _fields.Data.RawLong(graphics.Length);
+        }
+
+        _fields.Data.Raw(graphics);
+    }
+
+    private void End(int type, ulong handle)
+    {
+        if (release >= UnicodeStrings)
+        {
+            AddStrings();
+        }
+
+        BitWriter record = new();
+        WriteType(record, type);
+        if (release < ExtendedTypes)
+        {
+            record.RawLong((int)(record.Position + SizeBits + _fields.Data.Position));
+        }
+
+        record.Bits(_fields.Data.Bytes, _fields.Data.Position);
+        long start = record.Position;
+        record.Bits(_fields.References.Bytes, _fields.References.Position);
+        record.Align();
+        store.Add(handle, record.Bytes, release >= ExtendedTypes ? record.Position - start : 0);
+    }
+
+    private void WriteType(BitWriter record, int type)
+    {
+        if (release >= ExtendedTypes)
+        {
+            record.ObjectType(type);
+        }
+        else
+        {
+            record.BitShort(type);
+        }
+    }
+
+    // Strings follow the data, then their length, and a bit that says whether there are any.
+    private void AddStrings()
+    {
+        long length = _fields.Strings.Position;
+        BitWriter data = _fields.Data;
+        if (length > 0)
+        {
+            data.Bits(_fields.Strings.Bytes, length);
+            if (length >= LongStrings)
+            {
+                data.RawShort((int)(length >> 15));
+                data.RawShort((int)(length & (LongStrings - 1)) | LongStrings);
+            }
+            else
+            {
+                data.RawShort((int)length);
+            }
+        }
+
+        data.Bit(length > 0);
+    }
+}

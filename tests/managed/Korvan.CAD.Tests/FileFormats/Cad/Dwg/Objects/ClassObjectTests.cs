@@ -1,0 +1,83 @@
+using System.Collections.Generic;
+using System.IO;
+using System.Linq;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
+using Korvan.CAD.FileFormats.Cad.Dwg.Container;
+using Korvan.CAD.FileFormats.Cad.Dwg.Header;
+using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Tests.FileFormats.Cad.Dwg.Container;
+using Xunit;
+
+namespace Korvan.CAD.Tests.FileFormats.Cad.Dwg.Objects;
+
+/// <summary>Objects of classes that files define: the fields that their classes state use up the data of each object of
+/// the real drawings to the last bit.</summary>
+public class ClassObjectTests
+{
+    // How many of each class the drawings have.
+    private const string Expected = """
+        ACAD_EVALUATION_GRAPH 27, ACDBASSOCACTION 12, ACDBASSOCDEPENDENCY 37, ACDBASSOCGEOMDEPENDENCY 47,
+        ACDBASSOCNETWORK 31, ACDBASSOCPERSSUBENTMANAGER 10, ACDBASSOCVALUEDEPENDENCY 18, ACDBASSOCVARIABLE 22,
+        ACDBPERSSUBENTMANAGER 9, ACDBSECTIONVIEWSTYLE 133, ACDB_BLOCKREPRESENTATION_DATA 21,
+        ACDB_DYNAMICBLOCKPURGEPREVENTER_VERSION 15, ACSH_BOX_CLASS 2, ACSH_CONE_CLASS 1, ACSH_HISTORY_CLASS 11,
+        ARC_DIMENSION 8, BLOCKALIGNMENTGRIP 3, BLOCKALIGNMENTPARAMETER 3, BLOCKBASEPOINTPARAMETER 2,
+        BLOCKFLIPACTION 5, BLOCKFLIPGRIP 5, BLOCKFLIPPARAMETER 5, BLOCKGRIPLOCATIONCOMPONENT 77, BLOCKLINEARGRIP 8,
+        BLOCKLINEARPARAMETER 6, BLOCKMOVEACTION 3, BLOCKPOINTPARAMETER 1, BLOCKROTATEACTION 2, BLOCKROTATIONGRIP 2,
+        BLOCKROTATIONPARAMETER 2, BLOCKSCALEACTION 3, BLOCKSTRETCHACTION 9, BLOCKVISIBILITYGRIP 5,
+        BLOCKVISIBILITYPARAMETER 5, BLOCKXYGRIP 5, CELLSTYLEMAP 73, DATATABLE 6, DIMASSOC 94, TABLECONTENT 10,
+        TABLEGEOMETRY 10, WIPEOUTVARIABLES 10
+        """;
+
+    [DrawingFact]
+    public void Fields_use_up_the_data_of_objects()
+    {
+        Dictionary<string, int> exact = [];
+        foreach (string file in DwgSamples.Files())
+        {
+            LoadOptions options = new() { IgnoreErrors = true };
+            foreach (string name in ExactObjects(DwgSamples.Open(File.ReadAllBytes(file), file, options)))
+            {
+                exact[name] = exact.GetValueOrDefault(name) + 1;
+            }
+        }
+
+        string[] expected = [.. Expected.Split([',', '\n']).Select(static item => item.Trim())
+            .Where(static item => item.Length > 0)];
+        Assert.Equal(expected, expected.Select(item =>
+        {
+            string name = item.Split(' ')[0];
+            return $"{name} {exact.GetValueOrDefault(name)}";
+        }));
+    }
+
+    private static IEnumerable<string> ExactObjects(DwgFile file)
+    {
+        List<CadClassEntity> classes = ClassSection.Read(new HeaderReader(file.Classes, file.Release, file.Encoding));
+        RecordReader reader = new(
+            file.Objects, new RecordFormat(file.Release, file.Encoding, new RecordNames()), classes);
+        foreach (long offset in file.Map.Offsets)
+        {
+            if (TryRead(reader, offset) is { } name)
+            {
+                yield return name;
+            }
+        }
+    }
+
+    private static string? TryRead(RecordReader reader, long offset)
+    {
+        try
+        {
+            RecordHeader header = reader.ReadHeader(offset);
+            bool isKnown = reader.Read(header).Target is not (RawObject or RawEntity);
+            return isKnown && reader.DataRemaining == 0 ? reader.NameOf(header.Type) : null;
+        }
+        catch (DwgFault)
+        {
+            return null;
+        }
+    }
+}
