@@ -84,7 +84,7 @@ internal static class DwgFormat
         return FileFormat.Undefined;
     }
 
-    private static object Read(byte[] data, string name, LoadOptions options)
+    private static CadDrawing Read(byte[] data, string name, LoadOptions options)
     {
         CadAcadVersion version = DrawingRelease.Parse(Encoding.ASCII.GetString(data, 0, VersionLength));
         return version >= CadAcadVersion.AC1012
