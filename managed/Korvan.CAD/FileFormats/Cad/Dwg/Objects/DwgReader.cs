@@ -1,4 +1,5 @@
 using System;
+using System.Buffers.Binary;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
@@ -14,6 +15,7 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
 {
     private const string Section = "AcDb:AcDbObjects";
+    private const int LastPlainRelease = 2000;
 
     private readonly RecordNames _names = new();
     private readonly ObjectSet _objects = new(file.Map.Handles);
@@ -115,9 +117,14 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
             return;
         }
 
+        bool isWhole = VerifyChecksum(header, index);
         try
         {
             _objects.Set(index, reader.Read(header));
+        }
+        catch (DwgFault fault) when (isWhole && !ObjectTypeTable.IsRecord(header.Type))
+        {
+            Keep(reader, header, index, fault);
         }
         catch (DwgFault fault)
         {
@@ -125,13 +132,50 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
         }
     }
 
-    private void Report(DwgFault fault, int index, string type)
+    // Later releases have checksums of their pages, which were verified before.
+    private bool VerifyChecksum(in RecordHeader header, int index)
     {
-        string handle = HandleText.Format(file.Map.Handles[index]);
+        if (file.Release > LastPlainRelease)
+        {
+            return true;
+        }
+
+        ReadOnlySpan<byte> rest = file.Objects.AsSpan((int)file.Map.Offsets[index]);
+        int end = (int)((header.End >> 3) - file.Map.Offsets[index]);
+        if (rest.Length >= end + sizeof(ushort)
+            && Crc16.Compute(Crc16.Seed, rest[..end]) == BinaryPrimitives.ReadUInt16LittleEndian(rest[end..]))
+        {
+            return true;
+        }
+
         file.Source.Report(
-            LoadDefectCode.DamagedObject,
-            $"{Section}, {type} {handle}",
-            file.Release <= 2000 ? fault.Position >> 3 : -1,
-            $"bit {fault.Position}: {fault.Message}");
+            LoadDefectCode.WrongChecksum, PlaceOf(index, "object"), file.Map.Offsets[index], "its checksum is wrong");
+        return false;
     }
+
+    // A record that is whole and cannot be read has fields that its class does not know: it is kept like one without a
+    // class.
+    private void Keep(RecordReader reader, in RecordHeader header, int index, DwgFault fault)
+    {
+        try
+        {
+            _objects.Set(index, reader.ReadKept(header));
+            file.Source.Options.Report(new LoadDefect(
+                LoadDefectCode.UnknownFields,
+                new LoadPlace(file.Source.Name, 0, PlaceOf(index, reader.NameOf(header.Type)), -1),
+                $"bit {fault.Position}: {fault.Message}; the object is kept as it is"));
+        }
+        catch (DwgFault)
+        {
+            Report(fault, index, reader.NameOf(header.Type));
+        }
+    }
+
+    private void Report(DwgFault fault, int index, string type) => file.Source.Report(
+        LoadDefectCode.DamagedObject,
+        PlaceOf(index, type),
+        file.Release <= LastPlainRelease ? fault.Position >> 3 : -1,
+        $"bit {fault.Position}: {fault.Message}");
+
+    private string PlaceOf(int index, string type) => $"{Section}, {type} {HandleText.Format(file.Map.Handles[index])}";
 }

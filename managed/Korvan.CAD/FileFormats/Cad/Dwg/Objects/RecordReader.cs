@@ -87,9 +87,17 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
     }
 
     /// <summary>Reads an object.</summary>
-    internal RecordContent Read(in RecordHeader header)
+    internal RecordContent Read(in RecordHeader header) => Read(header, Create(header.Type));
+
+    /// <summary>Reads what all objects have in common, and keeps the record for what is its own.</summary>
+    internal RecordContent ReadKept(in RecordHeader header)
     {
-        CadBaseObject target = Create(header.Type);
+        CadBaseObject known = Create(header.Type);
+        return Read(header, known is CadEntityBase ? new RawEntity(known.DxfName) : new RawObject(known.DxfName));
+    }
+
+    private RecordContent Read(in RecordHeader header, CadBaseObject target)
+    {
         ReadFrame(header, target, out ulong handle, out byte[] graphics);
         target.Handle = handle;
         ObjectFrame frame = new();
