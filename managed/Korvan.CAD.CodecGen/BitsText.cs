@@ -174,13 +174,19 @@ internal static class BitsText
             return $"{start}{loop}{{ fields.{point}(fields.Item({name}, i)); }}";
         }
 
-        string value = element is null ? "0" : Assigned(item.Coding, element, property, $"{name}[i]");
-        return $"{start}fields.Resize({name}, count); {loop}{{ {value}; }}";
+        string value = element is null ? "" : Assigned(item.Coding, element, property, $"{name}[i]");
+        string missing = Constant(new BitItem(item.Coding));
+        return $"{start}fields.Resize({name}, count); {loop}{{ if (i < {name}.Count) {{ {value}; }} else {{ {missing} }} }}";
     }
 
     private static string Value(
         string coding, ITypeSymbol type, CadProperty? property, string name, CadClass model)
     {
+        if (coding == "Matrix")
+        {
+            return $"fields.Matrix({name});";
+        }
+
         if (coding == "Part")
         {
             return $"{name}.ExchangeBits(fields);";

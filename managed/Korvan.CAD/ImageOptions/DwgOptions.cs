@@ -11,7 +11,9 @@ public class DwgOptions : ImageOptionsBase
     {
     }
 
-    /// <summary>Gets or sets the release that is written; <see langword="null"/> for the one that the drawing
-    /// has.</summary>
+    /// <summary>Gets or sets the release that is written: <see cref="CadAcadVersion.AC1015"/>,
+    /// <see cref="CadAcadVersion.AC1018"/>, <see cref="CadAcadVersion.AC1024"/>, <see cref="CadAcadVersion.AC1027"/> or
+    /// <see cref="CadAcadVersion.AC1032"/>; <see langword="null"/> for that of the drawing, or the next one of
+    /// these.</summary>
     public CadAcadVersion? Version { get; set; }
 }

@@ -6,7 +6,10 @@ using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dwg;
 using Korvan.CAD.FileFormats.Cad.Dwg.Early;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Input;
+using Korvan.CAD.Rendering;
+using Korvan.CAD.Rendering.Scene;
 
 namespace Korvan.CAD.Formats.Dwg;
 
@@ -48,6 +51,15 @@ internal static class DwgFormat
         ],
         Detect = Detect,
         Read = static (data, name, _, options) => Read(data, name, options),
+        Writers =
+        [
+            FormatWriter.For<IDrawingContent, DwgOptions>(OutputKind.Model, Write),
+        ],
+        Written =
+        [
+            FileFormat.CadR2000, FileFormat.CadR2004, FileFormat.CadR2010, FileFormat.CadR2013, FileFormat.CadR2018,
+        ],
+        OwnOptions = static (content, _) => content is IDrawingContent ? new DwgOptions() : null,
     };
 
     private static FileFormat Detect(SourceWindow source)
@@ -76,5 +88,14 @@ internal static class DwgFormat
         CadAcadVersion version = DrawingRelease.Parse(Encoding.ASCII.GetString(data, 0, VersionLength));
         return version >= CadAcadVersion.AC1012
             ? DwgLoader.Load(data, name, version, options) : EarlyDwgReader.Read(data, name, options);
+    }
+
+    private static void Write(IDrawingContent content, DwgOptions options, ExportContext context, Stream output)
+    {
+        foreach (string what in DwgSaver.Save(
+            content.Drawing, options, output, () => TextMeasurer.TryCreate(content.Drawing)))
+        {
+            context.Notes.Add(RenderErrorCode.EntityNotDrawn, what);
+        }
     }
 }

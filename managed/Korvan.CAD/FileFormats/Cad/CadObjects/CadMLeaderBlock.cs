@@ -6,7 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>The block that a multileader shows as its content.</summary>
 [CadBits(
     "H BlockRecordHandle", "3BD Normal", "3BD Location", "3BD Scale", "BD Rotation", "CMP Color",
-    "BD[16] TransformationMatrix")]
+    "Matrix TransformationMatrix")]
 public partial class CadMLeaderBlock
 {
     /// <summary>Creates the content with its defaults.</summary>

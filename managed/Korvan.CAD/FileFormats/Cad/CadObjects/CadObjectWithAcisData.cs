@@ -52,17 +52,19 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
     private protected void ExchangeModeler(BitExchange fields)
     {
         const int stored = 2;
+        int version = ModelerBits.TextVersion;
         if (fields.HasStoredData)
         {
-            ModelerFormatVersion = stored;
+            version = stored;
         }
         else if (!fields.Bit(AcisData.Count == 0 && DataRecord is not { Data.Length: > 0 }))
         {
             fields.Bit(false);
-            ModelerFormatVersion = (short)fields.BitShort(AcisData.Count > 0 ? ModelerBits.TextVersion : stored);
-            ModelerBits.ExchangeData(this, fields);
+            version = fields.BitShort(AcisData.Count > 0 ? ModelerBits.TextVersion : stored);
+            ModelerBits.ExchangeData(this, version, fields);
         }
 
-        ModelerBits.ExchangeRest(this, fields);
+        ModelerFormatVersion = fields.IsReading ? (short)version : ModelerFormatVersion;
+        ModelerBits.ExchangeRest(version, fields);
     }
 }

@@ -19,9 +19,9 @@ internal static class ModelerBits
     private static readonly byte[] EndOfAcis = "\u000E\u0003End\u000E\u0002of\u000E\u0004ACIS\r\u0004data"u8.ToArray();
     private static readonly byte[] EndOfAsm = "\u000E\u0003End\u000E\u0002of\u000E\u0003ASM\r\u0004data"u8.ToArray();
 
-    internal static void ExchangeData(CadObjectWithAcisData solid, BitExchange fields)
+    internal static void ExchangeData(CadObjectWithAcisData solid, int version, BitExchange fields)
     {
-        if (solid.ModelerFormatVersion != TextVersion)
+        if (version != TextVersion)
         {
             byte[] data = fields.BytesUpTo(solid.DataRecord?.Data ?? [], EndOfAcis, EndOfAsm);
             solid.DataRecord = fields.IsReading ? CadAcdsRecord.Holding(data) : solid.DataRecord;
@@ -38,7 +38,7 @@ internal static class ModelerBits
         }
     }
 
-    internal static void ExchangeRest(CadObjectWithAcisData solid, BitExchange fields)
+    internal static void ExchangeRest(int version, BitExchange fields)
     {
         if (fields.Bit(false))
         {
@@ -46,7 +46,7 @@ internal static class ModelerBits
         }
 
         fields.Bit(true);
-        if (fields.Release >= 2007 && solid.ModelerFormatVersion > TextVersion)
+        if (fields.Release >= 2007 && version > TextVersion)
         {
             for (int materials = fields.CountLong(0); materials > 0; materials--)
             {

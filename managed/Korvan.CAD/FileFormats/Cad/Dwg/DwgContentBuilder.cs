@@ -1,3 +1,4 @@
+using System.Collections.Generic;
 using System.Text;
 using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
@@ -18,25 +19,23 @@ internal static class DwgContentBuilder
     /// <param name="drawing">The drawing, whose objects have handles.</param>
     /// <param name="version">The release: 2000, 2004, 2010, 2013 or 2018.</param>
     /// <param name="objects">The records of the objects.</param>
-    /// <param name="viewportEntities">The table of viewport entity headers of release 2000; 0 for later
-    /// releases.</param>
+    /// <param name="classes">The classes of the objects.</param>
     internal static DwgContent Build(
-        CadDrawing drawing, CadAcadVersion version, ObjectStore objects, ulong viewportEntities)
+        CadDrawing drawing, CadAcadVersion version, ObjectStore objects, IReadOnlyList<CadClassEntity> classes)
     {
         int release = DrawingRelease.Year(version);
         int codePage = CodePageIndex.IndexOf(drawing.Header.CodePage);
         Encoding encoding = DwgCodePage.Get(CodePageIndex.NameOf(codePage));
         HeaderValues values = ValuesOf(drawing);
-        values["viewportEntityTable"] = new HeaderValue(0) { Handle = viewportEntities };
         HeaderWriter header = new(release, encoding);
         values.Exchange(header);
-        HeaderWriter classes = new(release, encoding);
-        ClassSection.Write(classes, drawing.ClassEntities.Items);
+        HeaderWriter classSection = new(release, encoding);
+        ClassSection.Write(classSection, classes);
         return Build(drawing, version, objects, values, new SectionText(release, encoding)) with
         {
             CodePage = codePage,
             Header = header.ToArray(),
-            Classes = classes.ToArray(),
+            Classes = classSection.ToArray(),
         };
     }
 

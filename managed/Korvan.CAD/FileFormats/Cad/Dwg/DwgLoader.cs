@@ -34,7 +34,8 @@ internal static class DwgLoader
         DwgFile file = DwgContainer.Read(data, name, version, options);
         CadDrawing drawing = new(DrawingSeed.Blank);
         drawing.Header.AcadVersion = version;
-        drawing.Header.Set("$ACADMAINTVER", 70, file.MaintenanceVersion.ToString(CultureInfo.InvariantCulture));
+        int code = version >= CadAcadVersion.AC1032 ? 90 : 70;
+        drawing.Header.Set("$ACADMAINTVER", code, file.MaintenanceVersion.ToString(CultureInfo.InvariantCulture));
         drawing.Header.CodePage = CodePageIndex.NameOf(file.CodePage);
         HeaderValues header = ReadHeader(file);
         ReadClasses(file).ForEach(drawing.ClassEntities.Add);

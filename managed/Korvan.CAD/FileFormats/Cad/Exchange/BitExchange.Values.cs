@@ -141,6 +141,22 @@ internal abstract partial class BitExchange
         }
     }
 
+    /// <summary>Carries a matrix of four rows; one without items is the identity.</summary>
+    internal void Matrix(List<double> items)
+    {
+        const int size = 4;
+        bool isPresent = IsReading || items.Count == size * size;
+        Resize(items, size * size);
+        for (int i = 0; i < size * size; i++)
+        {
+            double value = BitDouble(!IsReading && isPresent ? items[i] : i % (size + 1) == 0 ? 1 : 0);
+            if (IsReading)
+            {
+                items[i] = value;
+            }
+        }
+    }
+
     internal void Points3(IList<Cad3DPoint> points, int count)
     {
         for (int i = 0; i < count; i++)

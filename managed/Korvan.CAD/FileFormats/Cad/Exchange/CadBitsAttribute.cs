@@ -15,6 +15,7 @@ namespace Korvan.CAD.FileFormats.Cad.Exchange;
 /// same in the form of release 2004, whatever the release is.</item>
 /// <item><c>3BD[BL] Points</c>: a list after its number of items in the coding within the brackets, or as many as an
 /// expression there says.</item>
+/// <item><c>Matrix Transform</c>: sixteen numbers.</item>
 /// <item><c>Part Margin</c>, <c>Part[BL] Cells</c>: objects with lists of their own.</item>
 /// <item><c>BS = 1</c>: a value that the class does not keep, and what is written.</item>
 /// <item><c>base</c>: the fields of the base class. <c>declared</c>: the fields in the order of their group codes and

@@ -241,8 +241,9 @@ internal sealed class DwgObjectWriter
     {
         if (KeptOf(item) is { } kept)
         {
-            int number = ObjectTypeTable.NumberOf(item) is > 0 and var known and not (7 or 8) ? known : 0;
-            _records.WriteKept(number > 0 ? number : _classes.NumberOf(item), item.Handle, kept);
+            int stated = _records.TypeOf(kept);
+            bool isFixed = stated < ObjectTypeTable.FirstClass;
+            _records.WriteKept(isFixed ? stated : _classes.NumberOf(item), item.Handle, kept);
             return;
         }
 

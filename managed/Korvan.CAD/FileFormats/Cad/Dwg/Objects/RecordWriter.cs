@@ -72,12 +72,18 @@ internal sealed class RecordWriter(int release, Encoding encoding, WrittenHandle
         End(type, header.Handle);
     }
 
+    /// <summary>Returns the number of the type of a kept record.</summary>
+    internal int TypeOf(KeptBits kept)
+    {
+        BitReader record = new(kept.Record);
+        return ReadType(ref record);
+    }
+
     /// <summary>Writes a record as it was read; only the number of its class may be another one.</summary>
     internal void WriteKept(int type, ulong handle, KeptBits kept)
     {
         BitReader old = new(kept.Record);
-        int stated = release >= ExtendedTypes ? old.ObjectType() : old.BitShort();
-        if (stated == type || type == 0)
+        if (ReadType(ref old) == type)
         {
             store.Add(handle, kept.Record, kept.HandleBits);
             return;
@@ -99,6 +105,9 @@ internal sealed class RecordWriter(int release, Encoding encoding, WrittenHandle
 
         store.Add(handle, record.Bytes, kept.HandleBits);
     }
+
+    private int ReadType(ref BitReader record) =>
+        release >= ExtendedTypes ? record.ObjectType() : record.BitShort();
 
     private void Begin(CadBaseObject item, ObjectFrame frame)
     {

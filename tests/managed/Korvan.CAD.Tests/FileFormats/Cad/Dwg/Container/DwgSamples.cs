@@ -34,6 +34,9 @@ internal static class DwgSamples
     internal static DwgFile Open(byte[] data, string name, LoadOptions options) =>
         DwgContainer.Read(data, name, VersionOf(data), options);
 
+    internal static DwgFile Open(string path, LoadOptions options) =>
+        Open(File.ReadAllBytes(path), Path.GetFileName(path), options);
+
     /// <summary>Returns the data of an object and the number of bits of its references.</summary>
     internal static (byte[] Record, long HandleBits) RecordOf(DwgFile file, int index)
     {

@@ -17,6 +17,14 @@ public class HeaderVariableTests
     private static readonly string[] NotInDrawing =
         ["currentViewport", "viewportEntityTable", "plotSettings", "plotStyles", "materials", "colors", "visualStyles"];
 
+    // What changes with each save, what text files of some releases only have, and what has another case.
+    private static readonly string[] Changing =
+    [
+        "$ACADMAINTVER", "$EXTMIN", "$EXTMAX", "$TDCREATE", "$TDUPDATE", "$TDUUPDATE", "$TDINDWG", "$TDUSRTIMER",
+        "$HANDSEED", "$CMLSTYLE", "$ATTDIA", "$HANDLING", "$HYPERLINKBASE", "$XCLIPFRAME",
+        "$INTERFEREOBJVS", "$INTERFEREVPVS",
+    ];
+
     [DrawingFact]
     public void Variables_and_references_of_a_drawing_are_those_of_its_file()
     {
@@ -39,24 +47,19 @@ public class HeaderVariableTests
         Assert.Empty(wrong);
     }
 
-    // The same drawing as text, which another program wrote.
+    // The same drawing as text, which another program wrote at another time.
     [DrawingTheory]
-    [InlineData("lwg__example_2000")]
-    [InlineData("lwg__example_2018")]
     [InlineData("lwg__example_r14")]
+    [InlineData("lwg__example_2000")]
+    [InlineData("lwg__example_2007")]
+    [InlineData("lwg__example_2018")]
     public void Variables_are_those_of_the_text_file_of_the_same_drawing(string name)
     {
         using CadImage binary = (CadImage)Image.Load(DwgSamples.PathOf(name + ".dwg"), new() { IgnoreErrors = true });
         using CadImage text = (CadImage)Image.Load(SharedDrawings.Dxf(name + ".dxf"));
-        string[] differing =
-        [
-            .. text.Header.VariableNames.Where(variable => binary.Header.Contains(variable)
-                && Join(text.Header.GetTags(variable)) != Join(binary.Header.GetTags(variable))),
-        ];
-        string[] missing = [.. text.Header.VariableNames.Where(variable => !binary.Header.Contains(variable))];
-        Assert.Equal([], differing.Select(variable => $"{variable}: {Join(text.Header.GetTags(variable))} and "
-            + Join(binary.Header.GetTags(variable))));
-        Assert.Equal([], missing);
+        IEnumerable<string> stated = text.Header.VariableNames.Where(variable => !Changing.Contains(variable));
+        Assert.All(stated, variable => Assert.Equal(
+            $"{variable} {Join(text.Header.GetTags(variable))}", $"{variable} {Join(binary.Header.GetTags(variable))}"));
     }
 
     private static bool AreSame(HeaderValue one, HeaderValue other) =>

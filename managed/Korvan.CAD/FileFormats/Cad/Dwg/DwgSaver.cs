@@ -1,0 +1,65 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using System.Linq;
+using System.Text;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Encodings;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.Dwg.Container;
+using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
+using Korvan.CAD.FileFormats.Cad.Dxf;
+using Korvan.CAD.FileFormats.Cad.Dxf.Releases;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.ImageOptions;
+
+namespace Korvan.CAD.FileFormats.Cad.Dwg;
+
+/// <summary>Writes drawing databases of releases 2000, 2004, 2010, 2013 and 2018.</summary>
+internal static class DwgSaver
+{
+    private static readonly CadAcadVersion[] Written =
+    [
+        CadAcadVersion.AC1015, CadAcadVersion.AC1018, CadAcadVersion.AC1024, CadAcadVersion.AC1027,
+        CadAcadVersion.AC1032,
+    ];
+
+    /// <summary>Writes a drawing.</summary>
+    /// <param name="drawing">The drawing. Objects that have none get handles; its content stays as it is.</param>
+    /// <param name="options">The release.</param>
+    /// <param name="output">The file.</param>
+    /// <param name="createMeasurer">Makes what measures texts, where they have to be wrapped.</param>
+    /// <returns>What the release cannot hold, and what was left out because it is kept in the form of another
+    /// format.</returns>
+    /// <exception cref="ImageSaveException">The release is not written.</exception>
+    internal static IReadOnlyList<string> Save(
+        CadDrawing drawing, DwgOptions options, Stream output, Func<ITextMeasurer?>? createMeasurer = null)
+    {
+        CadAcadVersion version = VersionOf(drawing, options);
+        int release = DrawingRelease.Year(version);
+        List<string> notes = [];
+        DrawingIntegrity.VerifyPlaces(drawing);
+        CadDrawing written = ReleaseConversion.IsNeeded(drawing, version)
+            ? ReleaseConversion.Convert(drawing, version, createMeasurer, notes)
+            : drawing;
+        DrawingIntegrity.Prepare(written, release);
+        Encoding encoding = DwgCodePage.Get(CodePageIndex.NameOf(CodePageIndex.IndexOf(written.Header.CodePage)));
+        DwgObjectWriter objects = new(written, release, encoding);
+        objects.Write();
+        DwgContainer.Write(DwgContentBuilder.Build(written, version, objects.Objects, objects.Classes), output);
+        return [.. notes, .. objects.LeftOut];
+    }
+
+    // Drawings of a release that is not written become those of the next one.
+    private static CadAcadVersion VersionOf(CadDrawing drawing, DwgOptions options)
+    {
+        if (options.Version is not { } wanted || wanted == CadAcadVersion.None)
+        {
+            return Written.FirstOrDefault(version => version >= drawing.Version, CadAcadVersion.AC1032);
+        }
+
+        return Written.Contains(wanted) ? wanted : throw new ImageSaveException(
+            $"Drawing databases of release {wanted} are not written; set version to one of "
+                + $"{string.Join(", ", Written)}.");
+    }
+}
