@@ -1,4 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
@@ -6,4 +7,10 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 internal sealed class RawObject(string dxfName) : CadObjectBase
 {
     internal override string DxfName => dxfName;
+
+    /// <inheritdoc/>
+    internal override bool HasBits => RawRecord.IsKnown(dxfName);
+
+    /// <inheritdoc/>
+    internal override void ExchangeBits(BitExchange fields) => RawRecord.Exchange(this, fields);
 }

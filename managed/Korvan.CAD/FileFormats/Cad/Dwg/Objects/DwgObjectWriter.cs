@@ -82,7 +82,6 @@ internal sealed class DwgObjectWriter
     }
 
     private bool IsWritten(CadBaseObject item) => KeptOf(item) is not null || item is CadInsertObject
-        || item.DxfName == "ACDBPLACEHOLDER"
         || (item.HasAllBits && (ObjectTypeTable.NumberOf(item) > 0 || WrittenClasses.IsKnown(item.DxfName)
             || _classes.Has(item.DxfName)));
 

@@ -42,6 +42,9 @@ internal sealed class WrittenClasses
         ["DWFDEFINITION"] = ("AcDbDwfDefinition", 1153),
         ["DGNUNDERLAY"] = ("AcDbDgnReference", 1153),
         ["DGNDEFINITION"] = ("AcDbDgnDefinition", 1153),
+        ["SCALE"] = ("AcDbScale", 1153),
+        ["SORTENTSTABLE"] = ("AcDbSortentsTable", 0),
+        ["IDBUFFER"] = ("AcDbIdBuffer", 0),
         ["PLANESURFACE"] = ("AcDbPlaneSurface", 4095),
     };
 
