@@ -176,7 +176,8 @@ internal static class BitsText
 
         string value = element is null ? "" : Assigned(item.Coding, element, property, $"{name}[i]");
         string missing = Constant(new BitItem(item.Coding));
-        return $"{start}fields.Resize({name}, count); {loop}{{ if (i < {name}.Count) {{ {value}; }} else {{ {missing} }} }}";
+        return $"{start}fields.Resize({name}, count); "
+            + $"{loop}{{ if (i < {name}.Count) {{ {value}; }} else {{ {missing} }} }}";
     }
 
     private static string Value(

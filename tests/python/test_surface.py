@@ -20,7 +20,7 @@ from korvan.cad.fileformats.cad import CadImage
 from korvan.cad.fileformats.cad.cadobjects import Cad2DPoint, Cad3DPoint, CadCircle, CadLwPolyline, CadText
 from korvan.cad.fileformats.cad.cadtables import CadLayerTable
 from korvan.cad.fileformats.cad.cadobjects.hatch import CadHatch
-from korvan.cad.imageoptions import DwgOptions, UnitType
+from korvan.cad.imageoptions import DwfOptions, UnitType
 from korvan.cad.measurement import IMeasurableEntity
 from korvan.cad.primitives import Point2D, Point3D
 from korvan.cad.timeprovision import TimeProvisionType
@@ -221,7 +221,8 @@ class Formats(unittest.TestCase):
         self.assertTrue(SupportedFileFormats.Input.contains(FileFormat.DXF_CAD_R2000))
         self.assertFalse(SupportedFileFormats.Input.contains(FileFormat.DRACO))
         self.assertIn(".pdf", SupportedFileFormats.Output.extensions)
-        self.assertNotIn(".dwg", SupportedFileFormats.Output.extensions)
+        self.assertIn(".dwg", SupportedFileFormats.Output.extensions)
+        self.assertNotIn(".dwf", SupportedFileFormats.Output.extensions)
         for info in SupportedFileFormats.Output.formats:
             self.assertTrue(info.can_save, info)
 
@@ -234,9 +235,9 @@ class Formats(unittest.TestCase):
 
     def test_a_format_without_writer_is_refused_by_name(self) -> None:
         drawing = CadImage()
-        self.assertFalse(drawing.can_save(DwgOptions()))
-        with self.assertRaisesRegex(RuntimeError, "DwgOptions: it is not written as CAD_R2018.*PdfOptions"):
-            drawing.save(io.BytesIO(), DwgOptions())
+        self.assertFalse(drawing.can_save(DwfOptions()))
+        with self.assertRaisesRegex(RuntimeError, "DwfOptions: it is not written as DWF.*PdfOptions"):
+            drawing.save(io.BytesIO(), DwfOptions())
 
     def test_the_build_tells_its_version(self) -> None:
         self.assertRegex(cad.BuildVersionInfo.product_version, r"^\d+\.\d+\.\d+$")

@@ -82,7 +82,7 @@ internal sealed class CadDrawing
     }
 
     /// <summary>Gets what a drawing database has beside its objects and variables.</summary>
-    internal DrawingProperties Properties { get; } = new();
+    internal DrawingProperties Properties { get; init; } = new();
 
     /// <summary>Gets the data section.</summary>
     internal CadAcdsData AcdsData { get; } = new();

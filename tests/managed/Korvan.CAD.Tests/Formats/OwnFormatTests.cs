@@ -46,7 +46,8 @@ public sealed class OwnFormatTests
 
     [Theory]
     [InlineData(".pdf", "PdfOptions")]
-    [InlineData(".dwg", "cannot be written in that format")]
+    [InlineData(".dwg", "DwgOptions")]
+    [InlineData(".dgn", "cannot be written in that format")]
     [InlineData(".TIFF", "TiffOptions")]
     public void An_extension_of_another_format_names_the_options_to_pass(string extension, string expected)
     {

@@ -46,8 +46,8 @@ public partial class CadClassEntity : IKeyedObject
     [CadBool(281)]
     public bool IsEntity { get; set; }
 
-    /// <summary>Gets or sets the release that the class came with, by the number that drawing databases have for it; 0 if
-    /// it is not stated.</summary>
+    /// <summary>Gets or sets the release that the class came with, by the number that drawing databases have for it; 0
+    /// if it is not stated.</summary>
     internal int FormatVersion { get; set; }
 
     /// <summary>Gets or sets the maintenance release that the class came with; 0 if it is not stated.</summary>

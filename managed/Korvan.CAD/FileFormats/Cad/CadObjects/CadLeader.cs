@@ -7,7 +7,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A line with an arrowhead that leads to an annotation.</summary>
 [CadObject("LEADER", Subclass = "AcDbLeader")]
 [CadBits(
-    "B", "BS AnnotationType", "BS PathType", "3BD[BL] Coordinates", "ExchangePlane()", "2010+ BD", "-1997 BD", "BD TextHeight",
+    "B", "BS AnnotationType", "BS PathType", "3BD[BL] Coordinates", "ExchangePlane()",
+    "2010+ BD", "-1997 BD", "BD TextHeight",
     "BD TextWidth", "B HookLineDirection", "B ArrowheadFlag", "-1997 BS", "-1997 BD", "-1997 B", "-1997 B",
     "-1997 BS", "-1997 BS ColorToUse", "-1997 B", "-1997 B", "2000+ BS", "2000+ B", "2000+ B", "H AnnotationHandle",
     "H DimensionStyleName")]
@@ -85,7 +86,8 @@ public partial class CadLeader : CadEntityBase
 
     private void ExchangePlane(BitExchange fields)
     {
-        fields.Point3(Coordinates.Count > 0 ? new Cad3DPoint(Coordinates[0].X, Coordinates[0].Y, Coordinates[0].Z) : new());
+        Cad3DPoint origin = Coordinates.Count > 0 && !fields.IsReading ? Coordinates[0] : new Cad3DPoint();
+        fields.Point3(origin);
         fields.Point3(ExtrusionDirection);
         fields.Point3(HorizontalDirection);
         fields.Point3(LastVertexOffsetFromBlock);

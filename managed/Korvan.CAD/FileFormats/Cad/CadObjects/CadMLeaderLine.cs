@@ -6,9 +6,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A leader line of a multileader: from the arrowhead to the landing of its leader.</summary>
 [CadBits(
-    "3BD[BL] Vertices", "ExchangeBreaks()", "BL Index", "2010+ ExchangePresence()", "2010+ BS LeaderType",
+    "3BD[BL] Vertices", "ExchangeBreaks()", "BL Index", "2010+ BS LeaderType",
     "2010+ CMP Color", "2010+ H LineTypeHandle", "2010+ BL LineWeight", "2010+ BD ArrowheadSize",
-    "2010+ H ArrowheadHandle", "2010+ BL OverrideFlags")]
+    "2010+ H ArrowheadHandle", "2010+ BL OverrideFlags", "2010+ ExchangePresence()")]
 public partial class CadMLeaderLine
 {
     /// <summary>Creates a line without vertices.</summary>
@@ -84,7 +84,8 @@ public partial class CadMLeaderLine
 
     partial void OnExchange(ObjectExchange fields) => fields.Tags(Kept);
 
-    private void ExchangePresence(BitExchange fields) => HasOwnProperties |= fields.IsReading;
+    private void ExchangePresence(BitExchange fields) =>
+        HasOwnProperties = fields.IsReading ? OverrideFlags != 0 : HasOwnProperties;
 
     // Breaks of one segment follow each other after its number.
     private void ExchangeBreaks(BitExchange fields)

@@ -6,7 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadObject("SHAPE", Subclass = "AcDbShape")]
 [CadBits(
     "3BD InsertionPoint", "BD Size", "BD RotationAngle", "BD ScaleX", "BD ObliqueAngle", "BD Thickness",
-    "BS ShapeNumber", "3BD ExtrusionDirection", "H StyleName")]
+    "BS ShapeNumber", "3BD ExtrusionDirection", "ExchangeStyle()")]
 public partial class CadShape : CadExtrudedEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -42,6 +42,7 @@ public partial class CadShape : CadExtrudedEntityBase
     internal int ShapeNumber { get; set; }
 
     /// <summary>Gets or sets the name of the style of its file in drawing databases.</summary>
-    [CadName(0, SymbolTable.Style)]
     internal string StyleName { get; set; } = "";
+
+    private void ExchangeStyle(BitExchange fields) => StyleName = fields.Name(SymbolTable.Style, StyleName);
 }

@@ -116,6 +116,9 @@ internal abstract partial class BitExchange
     /// <summary>Gets how many bits of the data stream are left; 0 where the object is written.</summary>
     internal virtual long DataRemaining => 0;
 
+    /// <summary>Gets whether fields follow that some programs leave out at the end of an object.</summary>
+    internal bool HasMore => !IsReading || DataRemaining > 0;
+
     /// <summary>Carries all bits of the data stream that are left.</summary>
     internal abstract byte[] Rest(byte[] value);
 

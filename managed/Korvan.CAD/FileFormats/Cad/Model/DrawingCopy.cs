@@ -18,6 +18,7 @@ internal static class DrawingCopy
         CadDrawing copy = new(DrawingSeed.Blank)
         {
             ThumbnailImage = drawing.ThumbnailImage,
+            Properties = drawing.Properties,
             ModelSpaceInFile = drawing.ModelSpaceInFile,
             PaperSpaceInFile = drawing.PaperSpaceInFile,
             Folder = drawing.Folder,

@@ -5,7 +5,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 /// <summary>A dependency of an associative action on a value of an object, as that of a variable; its fields are those
 /// of any dependency.</summary>
 [CadObject("ACDBASSOCVALUEDEPENDENCY")]
-[CadBits("base", "BS", "Part CachedValue")]
+[CadBits("base", "if fields.HasMore: BS", "if fields.HasMore: Part CachedValue")]
 public partial class CadAcDbAssocValueDependency : CadAcDbAssocDependency
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -7,7 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 [CadObject("ACDBASSOCVARIABLE", Subclass = "AcDbAssocVariable")]
 [CadBits(
     "base", "BL VariableVersion", "T Name", "T Expression", "T Evaluator", "T Description", "Part Value", "B HasError",
-    "T ErrorMessage", "B IsAnonymous", "BL")]
+    "T ErrorMessage", "B IsAnonymous", "if fields.HasMore: BL")]
 public partial class CadAcDbAssocVariable : CadAcDbAssocAction
 {
     /// <summary>Creates the object with its defaults.</summary>

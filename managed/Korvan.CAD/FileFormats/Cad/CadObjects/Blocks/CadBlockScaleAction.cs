@@ -6,7 +6,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Blocks;
 [CadSequence]
 [CadObject("BLOCKSCALEACTION", Subclass = "AcDbBlockScaleAction")]
 [CadBits(
-    "base", "BL ScaleId", "T ScaleName", "BL XScaleId", "T XScaleName", "BL YScaleId", "T YScaleName", "RC ScaleType")]
+    "base", "BL ScaleId", "T ScaleName", "BL XScaleId", "T XScaleName", "BL YScaleId", "T YScaleName",
+    "if fields.HasMore: RC ScaleType")]
 public partial class CadBlockScaleAction : CadBlockActionWithBasePt
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -121,8 +121,9 @@ public partial class CadFieldData
         switch (ValueType & ~GeneralFlag)
         {
             case 0 when ValueType == GeneralFlag && fields.Release < 2007:
-                Text = fields.Text(Text);
+                // The length of nothing, and a zero.
                 fields.BitLong(0);
+                fields.RawByte(0);
                 break;
             case 0 when ValueType == GeneralFlag && fields.Release >= 2007:
                 fields.Block([]);

@@ -69,7 +69,8 @@ public class CadEdgeBoundaryPath : ICadBoundaryPath
             int kind = fields.RawByte(i < Edges.Count ? (int)Edges[i].EdgeType : 0);
             if (fields.IsReading)
             {
-                Edges.Add(Create(kind) ?? throw fields.Fault($"the type of a hatch edge is {kind}; 1 to 4 is expected"));
+                Edges.Add(Create(kind)
+                    ?? throw fields.Fault($"the type of a hatch edge is {kind}; 1 to 4 is expected"));
             }
 
             Edges[i].ExchangeBits(fields);

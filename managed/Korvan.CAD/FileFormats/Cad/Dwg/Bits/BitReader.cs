@@ -291,7 +291,8 @@ internal struct BitReader
     {
         if (count < 0 || count > Remaining / bits)
         {
-            throw new DwgFault(_position, $"{count} items are announced, but only {Math.Max(Remaining, 0)} bits follow");
+            throw new DwgFault(
+                _position, $"{count} items are announced, but only {Math.Max(Remaining, 0)} bits follow");
         }
     }
 

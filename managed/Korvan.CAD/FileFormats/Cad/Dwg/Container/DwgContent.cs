@@ -24,8 +24,8 @@ internal sealed record DwgContent
     /// <summary>Gets the records of the objects.</summary>
     internal required ObjectStore Objects { get; init; }
 
-    /// <summary>Gets the handles that the second header of release 2000 repeats: the next free one, those of the tables,
-    /// and those of the dictionaries of named objects, multiline styles and groups.</summary>
+    /// <summary>Gets the handles that the second header of release 2000 repeats: the next free one, those of the
+    /// tables, and those of the dictionaries of named objects, multiline styles and groups.</summary>
     internal ulong[] SecondHeaderHandles { get; init; } = [];
 
     /// <summary>Gets a bitmap without its file header, or a file in the PNG format; empty for none.</summary>

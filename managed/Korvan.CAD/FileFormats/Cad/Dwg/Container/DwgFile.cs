@@ -1,4 +1,5 @@
 using System;
+using System.Buffers.Binary;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -66,4 +67,11 @@ internal sealed class DwgFile
     internal byte[] Signature { get; set; } = [];
 
     internal byte[] Security { get; set; } = [];
+
+    /// <summary>Determines whether a record of an object has the checksum that follows it.</summary>
+    /// <param name="start">The first byte of its size in <see cref="Objects"/>.</param>
+    /// <param name="end">The byte after it.</param>
+    internal bool HasRightChecksum(long start, long end) => start >= 0 && end <= Objects.Length - sizeof(ushort)
+        && Crc16.Compute(Crc16.Seed, Objects.AsSpan((int)start, (int)(end - start)))
+            == BinaryPrimitives.ReadUInt16LittleEndian(Objects.AsSpan((int)end));
 }

@@ -24,7 +24,12 @@ internal static class EarlyEntityFields
     internal const int EndBlock = 13;
     internal const int Jump = 18;
 
-    private const int ShapeNumber = 2;
+    /// <summary>The code that stands for the number of a shape, which text files do not have.</summary>
+    internal const int ShapeNumber = -1;
+
+    /// <summary>The code that stands for the style of a shape.</summary>
+    internal const int ShapeStyle = -2;
+
     private const int DimensionPoint = 15;
 
     private static readonly EarlyField[] Corners = [Flat(10), Flat(11), Flat(12), Flat(13), .. Extruded(1, 2)];
@@ -43,8 +48,8 @@ internal static class EarlyEntityFields
         new("CIRCLE", static _ => new CadCircle(), [Flat(10), Real(40), .. Extruded(1, 2)]),
         new("SHAPE", static _ => new CadShape(),
             Flat(10), Real(40), Angle(50).UpTo(EarlyRelease.R14), Short(ShapeNumber).UpTo(EarlyRelease.R14),
-            Byte(ShapeNumber).From(EarlyRelease.R20), Angle(50).If(1), Unused(1).If(2), Real(41).If(4),
-            Angle(51).If(8)),
+            Byte(ShapeNumber).From(EarlyRelease.R20), Angle(50).If(1), StyleByte(ShapeStyle).If(2),
+            Real(41).If(4), Angle(51).If(8)),
         new("REPEAT", null),
         new("ENDREP", static _ => new CadInsertObject(), Short(70), Short(71), Real(44), Real(45)),
         new("TEXT", static _ => new CadText(),

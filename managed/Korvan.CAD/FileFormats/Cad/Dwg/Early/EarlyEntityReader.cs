@@ -50,7 +50,7 @@ internal sealed class EarlyEntityReader(EarlyValues values)
 
         CadEntityBase entity = owner(fields.Peek(VertexFlags)) ?? type.Create(fields);
         common.GiveTo(entity);
-        fields.GiveTo(entity);
+        Fill(entity, fields);
         return entity;
     }
 
@@ -65,10 +65,21 @@ internal sealed class EarlyEntityReader(EarlyValues values)
         if (entity is not null)
         {
             entity.StoredLayer = layer.ToString(CultureInfo.InvariantCulture);
-            fields.GiveTo(entity);
+            Fill(entity, fields);
         }
 
         return entity;
+    }
+
+    // The name of a shape is in its file, which the number is the place in.
+    private static void Fill(CadEntityBase entity, EarlyFieldReader fields)
+    {
+        fields.GiveTo(entity);
+        if (entity is CadShape shape)
+        {
+            shape.ShapeNumber = fields.Peek(EarlyEntityFields.ShapeNumber);
+            shape.StyleName = fields.PeekText(EarlyEntityFields.ShapeStyle);
+        }
     }
 
     private static EarlyEntityType TypeOf(int number, EarlyBytes bytes) =>

@@ -40,7 +40,7 @@ internal sealed class EarlyFieldReader(EarlyBytes bytes) : FieldReader
         EnterSubclass(null);
         while (Next())
         {
-            if (!target.ReadField(Code, this))
+            if (Code > 0 && !target.ReadField(Code, this))
             {
                 KeptTags.Of(target).Tags.Add(new KeptTag(null, ToCodeValue()));
             }

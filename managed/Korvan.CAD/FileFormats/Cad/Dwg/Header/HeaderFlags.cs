@@ -7,6 +7,7 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Header;
 /// <summary>The variables that share the bits of one integer of the header section.</summary>
 internal static class HeaderFlags
 {
+    private const int ByLayer = -1;
     private const int HidesLineWeights = 0x200;
     private const int ForbidsEditing = 0x400;
 
@@ -35,7 +36,7 @@ internal static class HeaderFlags
 
     internal static int FromHeader(CadHeader header)
     {
-        int flags = LineWeights.ToNumber(header.Contains("$CELWEIGHT") ? (short)header.GetInt("$CELWEIGHT") : (short)-1);
+        int flags = LineWeights.ToNumber((short)header.GetDouble("$CELWEIGHT", ByLayer));
         flags |= header.Contains("$LWDISPLAY") ? 0 : HidesLineWeights;
         foreach ((string name, _, int shift, int mask, int inverted) in Fields)
         {

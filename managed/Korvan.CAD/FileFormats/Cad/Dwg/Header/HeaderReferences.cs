@@ -1,5 +1,4 @@
 using System;
-using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
 using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;

@@ -82,6 +82,7 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
             {
                 block.Entities.Add(entity);
                 PlaceIn(entity, record.Handle, isPaper);
+                TakeColor(entity, content.Frame);
                 Complete(entity, content);
             }
         }
@@ -129,6 +130,16 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
         if (isPaper)
         {
             entity.SpaceMode = CadEntitySpaceMode.PaperSpace;
+        }
+    }
+
+    // A colour of a book is an object of its own.
+    private void TakeColor(CadEntityBase entity, ObjectFrame frame)
+    {
+        if (frame.Color != 0 && objects.Get<CadDbColor>(frame.Color) is { } color)
+        {
+            entity.ColorValue = color.ColorValue;
+            entity.ColorName = color.ColorName;
         }
     }
 

@@ -55,6 +55,7 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
         try
         {
             RecordHeader header = reader.ReadHeader(file.Map.Offsets[index]);
+            VerifyChecksum(header, index);
             if (ObjectTypeTable.IsRecord(header.Type))
             {
                 (_, string name) = reader.ReadName(header);
@@ -67,6 +68,17 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
         {
             Report(fault, index, "object");
             return null;
+        }
+    }
+
+    private void VerifyChecksum(in RecordHeader header, int index)
+    {
+        long start = file.Map.Offsets[index];
+        if (!file.HasRightChecksum(start, header.End >> 3))
+        {
+            string handle = HandleText.Format(file.Map.Handles[index]);
+            file.Source.Report(LoadDefectCode.WrongChecksum, $"{Section}, object {handle}",
+                file.Release <= 2000 ? start : -1, "the record has another checksum than it states");
         }
     }
 

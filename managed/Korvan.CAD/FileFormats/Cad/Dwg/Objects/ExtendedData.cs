@@ -34,7 +34,8 @@ internal static class ExtendedData
 
             long place = bits.Position;
             byte[] data = bits.Bytes(size);
-            CadXdata xdata = new(format.Names.Find(application) ?? application.ToString("X", CultureInfo.InvariantCulture));
+            string name = format.Names.Find(application) ?? application.ToString("X", CultureInfo.InvariantCulture);
+            CadXdata xdata = new(name);
             target.XdataContainer.XdataEntities.Add(xdata);
             if (!ReadItems(data, xdata.Data, format))
             {

@@ -5,8 +5,8 @@ using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Sections;
 
-/// <summary>The section AcDb:AppInfo, whose form depends on the program that wrote it. Source: Open Design Specification
-/// for .dwg files, 5.4.1, chapter 16.</summary>
+/// <summary>The section AcDb:AppInfo, whose form depends on the program that wrote it. Source: Open Design
+/// Specification for .dwg files, 5.4.1, chapter 16.</summary>
 internal static class AppInfoSection
 {
     private const string ListName = "AppInfoDataList";

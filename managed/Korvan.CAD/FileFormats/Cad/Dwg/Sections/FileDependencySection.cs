@@ -7,7 +7,8 @@ using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Sections;
 
-/// <summary>The section AcDb:FileDepList. Source: Open Design Specification for .dwg files, 5.4.1, chapter 17.</summary>
+/// <summary>The section AcDb:FileDepList. Source: Open Design Specification for .dwg files, 5.4.1, chapter
+/// 17.</summary>
 internal static class FileDependencySection
 {
     private const int MinLength = 34; // of an entry with empty strings

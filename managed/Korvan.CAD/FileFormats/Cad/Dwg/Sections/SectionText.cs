@@ -56,5 +56,6 @@ internal sealed class SectionText(int release, Encoding encoding)
         return text.Contains('\\') ? TextEscapes.Standard.Decode(text) : text;
     }
 
-    private byte[] Encode(string value) => IsUnicode ? Encoding.Unicode.GetBytes(value) : TextEscapes.Escaping(encoding).GetBytes(value);
+    private byte[] Encode(string value) =>
+        (IsUnicode ? Encoding.Unicode : TextEscapes.Escaping(encoding)).GetBytes(value);
 }

@@ -5,7 +5,8 @@ using Korvan.CAD.FileFormats.Cad.Dwg.SummaryInfo;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Sections;
 
-/// <summary>The section AcDb:SummaryInfo. Source: Open Design Specification for .dwg files, 5.4.1, chapter 13.</summary>
+/// <summary>The section AcDb:SummaryInfo. Source: Open Design Specification for .dwg files, 5.4.1, chapter
+/// 13.</summary>
 internal static class SummaryInfoSection
 {
     private const double MillisecondsOfDay = 86_400_000;

@@ -52,6 +52,11 @@ internal static partial class ProxyGraphics
             return proxy.GraphicsData;
         }
 
+        if (entity.Kept is KeptBits bits)
+        {
+            return bits.Graphics;
+        }
+
         if (entity.Kept is not KeptTags kept)
         {
             return [];

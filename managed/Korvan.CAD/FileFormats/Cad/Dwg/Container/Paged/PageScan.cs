@@ -4,8 +4,8 @@ using System.Linq;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Container.Paged;
 
-/// <summary>Finds pages without the maps: they begin at multiples of 32 bytes with a header that is told by its type and
-/// checksum.</summary>
+/// <summary>Finds pages without the maps: they begin at multiples of 32 bytes with a header that has a certain type and
+/// a checksum.</summary>
 internal static class PageScan
 {
     private const int Alignment = 0x20;

@@ -15,7 +15,8 @@ internal static class Crc64
     private const ulong LowerHalves = 0x0000FFFF0000FFFF;
 
     private static readonly ulong[] Table = Build(static crc => (crc << 1) ^ ((crc >> 63) * Polynomial), 56);
-    private static readonly ulong[] MirroredTable = Build(static crc => (crc >> 1) ^ ((crc & 1) * MirroredPolynomial), 0);
+    private static readonly ulong[] MirroredTable =
+        Build(static crc => (crc >> 1) ^ ((crc & 1) * MirroredPolynomial), 0);
 
     /// <summary>Returns the check of a file header.</summary>
     internal static ulong Compute(ulong seed, ReadOnlySpan<byte> data)

@@ -14,20 +14,23 @@ public class BitReaderTests
     [InlineData("01 11111111", 255)] // one byte has no sign
     [InlineData("10", 0)]
     [InlineData("11", 256)]
-    public void ShortsAreReadByTheirCodes(string bits, int expected) => Equal(expected, bits, (ref BitReader r) => r.BitShort());
+    public void ShortsAreReadByTheirCodes(string bits, int expected) =>
+        Equal(expected, bits, (ref BitReader r) => r.BitShort());
 
     [Theory]
     [InlineData("00 00000001 00000000 00000000 10000000", int.MinValue + 1)]
     [InlineData("01 10000000", 128)]
     [InlineData("10", 0)]
-    public void LongsAreReadByTheirCodes(string bits, int expected) => Equal(expected, bits, (ref BitReader r) => r.BitLong());
+    public void LongsAreReadByTheirCodes(string bits, int expected) =>
+        Equal(expected, bits, (ref BitReader r) => r.BitLong());
 
     [Theory]
     [InlineData("0", 0)]
     [InlineData("10", 2)]
     [InlineData("110", 6)]
     [InlineData("111", 7)]
-    public void TripletsEndAtAZero(string bits, int expected) => Equal(expected, bits, (ref BitReader r) => r.BitTriplet());
+    public void TripletsEndAtAZero(string bits, int expected) =>
+        Equal(expected, bits, (ref BitReader r) => r.BitTriplet());
 
     [Theory]
     [InlineData("10000010 00100100", 4610)] // the example of the format's description

@@ -94,8 +94,9 @@ public class ContainerWritingTests
         }
     }
 
-    private static string Describe(CadClassEntity item) => $"{item.DxfRecordName} {item.ClassName} {item.ApplicationName}"
-        + $"{item.ProxyFlags} {item.InstanceCount} {item.WasAProxy} {item.IsEntity} {item.FormatVersion}";
+    private static string Describe(CadClassEntity item) =>
+        $"{item.DxfRecordName} {item.ClassName} {item.ApplicationName} {item.ProxyFlags}"
+        + $"{item.InstanceCount} {item.WasAProxy} {item.IsEntity} {item.FormatVersion}";
 
     private static DwgContent ContentOf(DwgFile file)
     {

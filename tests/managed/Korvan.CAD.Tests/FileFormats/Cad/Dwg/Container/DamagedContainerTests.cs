@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Diagnostics;
+using System.IO;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
@@ -54,6 +55,22 @@ public class DamagedContainerTests
         DwgFile file = DwgSamples.Open(data, "plan.dwg", options);
         Assert.Single(options.Defects);
         Assert.Equal(143, file.Map.Count);
+    }
+
+    [DrawingFact]
+    public void A_changed_byte_of_an_object_is_a_defect_that_names_its_handle()
+    {
+        byte[] data = DwgSamples.Bytes("lwg__2000_entities-2d.dwg");
+        DwgFile file = DwgSamples.Open(data, "a", new LoadOptions());
+        data[file.Map.Offsets[^1] + 8] ^= 0x20;
+        ImageLoadException failure = Assert.Throws<ImageLoadException>(
+            () => Image.Load(new MemoryStream(data), "plan.dwg", new LoadOptions()));
+        Assert.Equal(LoadDefectCode.WrongChecksum, failure.Defect!.Code);
+        Assert.Equal(file.Map.Offsets[^1], failure.Defect.Place.Offset);
+        Assert.Contains($"object {file.Map.Handles[^1]:X}", failure.Message, StringComparison.Ordinal);
+        LoadOptions options = new() { IgnoreErrors = true };
+        using Image image = Image.Load(new MemoryStream(data), "plan.dwg", options);
+        Assert.Contains("AcDb:AcDbObjects", options.Errors[0], StringComparison.Ordinal);
     }
 
     // Objects that no handle leads to any more are in the file as well.

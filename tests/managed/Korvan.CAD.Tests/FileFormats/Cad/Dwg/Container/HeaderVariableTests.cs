@@ -59,13 +59,17 @@ public class HeaderVariableTests
         using CadImage text = (CadImage)Image.Load(SharedDrawings.Dxf(name + ".dxf"));
         IEnumerable<string> stated = text.Header.VariableNames.Where(variable => !Changing.Contains(variable));
         Assert.All(stated, variable => Assert.Equal(
-            $"{variable} {Join(text.Header.GetTags(variable))}", $"{variable} {Join(binary.Header.GetTags(variable))}"));
+            $"{variable} {Join(text.Header.GetTags(variable))}",
+            $"{variable} {Join(binary.Header.GetTags(variable))}"));
     }
 
     private static bool AreSame(HeaderValue one, HeaderValue other) =>
         one.X == other.X && one.Y == other.Y && one.Z == other.Z && one.Handle == other.Handle
         && (one.Text ?? "") == (other.Text ?? "");
 
-    private static string Join(List<CadCodeValue> tags) => string.Join(' ', tags.Select(tag =>
-        $"{tag.Attribute}={(double.TryParse(tag.Value, out double number) ? number.ToString("G12") : tag.Value.Trim())}"));
+    private static string Join(List<CadCodeValue> tags) => string.Join(' ', tags.Select(static tag =>
+        $"{tag.Attribute}={Round(tag.Value)}"));
+
+    private static string Round(string value) =>
+        double.TryParse(value, out double number) ? number.ToString("G12") : value.Trim();
 }

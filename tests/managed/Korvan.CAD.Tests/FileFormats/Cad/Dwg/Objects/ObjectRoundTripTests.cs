@@ -73,9 +73,12 @@ public class ObjectRoundTripTests
     private static CadDrawing Sample()
     {
         CadDrawing drawing = new(DrawingSeed.Standard);
-        drawing.Layers.Add(new CadLayerTable { Name = "Walls", ColorId = -3, LineWeight = 35, PlotFlag = 0, IsFrozen = true });
+        drawing.Layers.Add(new CadLayerTable
+        {
+            Name = "Walls", ColorId = -3, LineWeight = 35, PlotFlag = 0, IsFrozen = true,
+        });
         drawing.LineTypes.Add(LineType());
-        CadBlockEntity block = new() { Name = "Door", NameAgain = "Door", Flags = 2, BasePoint = new Cad3DPoint(1, 2, 3) };
+        CadBlockEntity block = new() { Name = "Door", NameAgain = "Door", Flags = 2, BasePoint = new(1, 2, 3) };
         block.Entities.Add(new CadAttDef { DefinitionTagString = "TAG", PromptString = "Value?", DefaultValue = "1" });
         drawing.BlockEntities.Add(block);
         foreach (CadEntityBase entity in Entities())
@@ -103,8 +106,8 @@ public class ObjectRoundTripTests
         yield return new CadLine { FirstPoint = new(1, 2, 0), SecondPoint = new(1, 2.5, 0), LineTypeName = "GAS" };
         yield return new CadLine { FirstPoint = new(1, 2, 3), SecondPoint = new(-1e300, 4, 5), Thickness = 2.5 };
         yield return new CadArc { Radius = 3, StartAngle = 30, EndAngle = 359.5, ExtrusionDirection = new(0, 0, -1) };
-        yield return new CadText { DefaultValue = "Ж∅ plan", TextRotation = 45, HorizontalAlignment = 1, ScaleX = 0.8,
-            SecondAlignment = new(5, 6, 0) };
+        yield return new CadText { DefaultValue = "Ж∅ plan", TextRotation = 45, HorizontalAlignment = 1,
+            ScaleX = 0.8, SecondAlignment = new(5, 6, 0) };
         yield return new CadMText { Text = new string('x', 5000) + "\\PЖ", TextDirection = new(0, 1, 0) };
         yield return new Cad3DFace { SecondPoint = new(1, 0, 1), ThirdPoint = new(1, 1, 1), InvisibleEdges = 5 };
         yield return new CadSolid { FirstPoint = new(0, 0, 4), SecondPoint = new(1, 0, 4), ThirdPoint = new(0, 1, 4),
@@ -115,7 +118,7 @@ public class ObjectRoundTripTests
         yield return new CadInsertObject { Name = "Door", ScaleX = 2, ScaleY = 2, ScaleZ = 2, ColumnCount = 3,
             ColumnSpacing = 10 };
         CadInsertObject insert = new() { Name = "Door", ScaleX = 3, ScaleY = 4, ScaleZ = 5 };
-        insert.Attributes.Add(new CadAttrib { DefinitionTagString = "TAG", DefaultValue = "7", LockPosition = true });
+        insert.Attributes.Add(new CadAttrib { DefinitionTagString = "TAG", DefaultValue = "7" });
         insert.Attributes.Add(new CadAttrib { DefinitionTagString = "TAG2", DefaultValue = "", AttFlags = 1 });
         yield return insert;
         yield return new CadEllipse { MajorEndPoint = new(2, 1, 0), AxisRatio = 0.5, EndAngle = 3 };
@@ -127,7 +130,8 @@ public class ObjectRoundTripTests
     private static CadPolyline Polyline()
     {
         CadPolyline polyline = new() { Flag = CadPolylineFlag.Closed, Elevation = new(0, 0, 7) };
-        polyline.Vertices.Add(new Cad2DVertex { LocationPoint = new(1, 1, 7), StartWidth = 2, EndWidth = 2, Bulge = -1 });
+        polyline.Vertices.Add(
+            new Cad2DVertex { LocationPoint = new(1, 1, 7), StartWidth = 2, EndWidth = 2, Bulge = -1 });
         polyline.Vertices.Add(new Cad2DVertex { LocationPoint = new(2, 1, 7), StartWidth = 0, EndWidth = 2 });
         return polyline;
     }

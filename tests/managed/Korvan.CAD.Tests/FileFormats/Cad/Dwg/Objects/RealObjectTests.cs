@@ -147,11 +147,18 @@ public class RealObjectTests
     private static bool IsCompared(CadBaseObject item) =>
         item is CadEntityBase or CadSymbolTableGroupCodes or CadLayout && !Derived.Contains(item.GetType());
 
-    // Handles of dictionaries that each save makes anew, numbers of blocks without names, and what tables hold.
-    private static bool IsOfAnotherSave(string line) =>
-        line.Contains("ACAD_TABLE") || line.Contains(": AcDbBlockTableRecord 340") || line.Contains("*D")
-            || line.Contains("the extended data") || line.Contains("AcDbModelerGeometry") || line.Contains("ARC_DIM")
-            || line.Contains("LIGHT 75E: AcDbLight 90") || line.Contains("AcDbWipeout");
+    // What each save makes anew: handles of dictionaries, numbers of blocks without names, what tables hold.
+    private static bool IsOfAnotherSave(string line)
+    {
+        string[] known =
+        [
+            "ACAD_TABLE", ": AcDbBlockTableRecord 340", "*D", "*T", "the extended data", "AcDbModelerGeometry", "ARC_DIM",
+            "LIGHT 75E: AcDbLight 90", "AcDbWipeout", "is a RawObject",
+        ];
+        bool isAdded = line.EndsWith(" is missing", StringComparison.Ordinal)
+            && (line.StartsWith("APPID", StringComparison.Ordinal) || line.StartsWith("DICT", StringComparison.Ordinal));
+        return isAdded || known.Any(part => line.Contains(part, StringComparison.Ordinal));
+    }
 
     private static List<CadClassEntity> ClassesOf(DwgFile file) => file.Classes.IsEmpty ? []
         : ClassSection.Read(new HeaderReader(file.Classes, file.Release, file.Encoding));
