@@ -12,23 +12,37 @@ internal static class BitsText
 
     private static readonly Dictionary<string, string> Integers = new()
     {
-        ["BB"] = "BitPair", ["BS"] = "BitShort", ["BL"] = "BitLong", ["BLL"] = "BitLongLong",
-        ["RC"] = "RawByte", ["RS"] = "RawShort", ["RL"] = "RawLong", ["CMP"] = "PackedColor",
+        ["BB"] = "BitPair",
+        ["BS"] = "BitShort",
+        ["BL"] = "BitLong",
+        ["BLL"] = "BitLongLong",
+        ["RC"] = "RawByte",
+        ["RS"] = "RawShort",
+        ["RL"] = "RawLong",
+        ["CMP"] = "PackedColor",
     };
 
     private static readonly Dictionary<string, string> Numbers = new()
     {
-        ["BD"] = "BitDouble", ["RD"] = "RawDouble", ["BT"] = "Thickness",
+        ["BD"] = "BitDouble",
+        ["RD"] = "RawDouble",
+        ["BT"] = "Thickness",
     };
 
     private static readonly Dictionary<string, string> Points = new()
     {
-        ["3BD"] = "Point3", ["2BD"] = "Point2", ["3RD"] = "RawPoint3", ["2RD"] = "RawPoint2", ["BE"] = "Extrusion",
+        ["3BD"] = "Point3",
+        ["2BD"] = "Point2",
+        ["3RD"] = "RawPoint3",
+        ["2RD"] = "RawPoint2",
+        ["BE"] = "Extrusion",
     };
 
     private static readonly Dictionary<string, string> Counts = new()
     {
-        ["BL"] = "CountLong", ["BS"] = "CountShort", ["RC"] = "CountByte",
+        ["BL"] = "CountLong",
+        ["BS"] = "CountShort",
+        ["RC"] = "CountByte",
     };
 
     public static void Write(CadClass model, StringBuilder text)

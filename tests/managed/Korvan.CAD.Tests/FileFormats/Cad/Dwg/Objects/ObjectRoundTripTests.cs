@@ -75,7 +75,11 @@ public class ObjectRoundTripTests
         CadDrawing drawing = new(DrawingSeed.Standard);
         drawing.Layers.Add(new CadLayerTable
         {
-            Name = "Walls", ColorId = -3, LineWeight = 35, PlotFlag = 0, IsFrozen = true,
+            Name = "Walls",
+            ColorId = -3,
+            LineWeight = 35,
+            PlotFlag = 0,
+            IsFrozen = true,
         });
         drawing.LineTypes.Add(LineType());
         CadBlockEntity block = new() { Name = "Door", NameAgain = "Door", Flags = 2, BasePoint = new(1, 2, 3) };
@@ -106,17 +110,35 @@ public class ObjectRoundTripTests
         yield return new CadLine { FirstPoint = new(1, 2, 0), SecondPoint = new(1, 2.5, 0), LineTypeName = "GAS" };
         yield return new CadLine { FirstPoint = new(1, 2, 3), SecondPoint = new(-1e300, 4, 5), Thickness = 2.5 };
         yield return new CadArc { Radius = 3, StartAngle = 30, EndAngle = 359.5, ExtrusionDirection = new(0, 0, -1) };
-        yield return new CadText { DefaultValue = "Ж∅ plan", TextRotation = 45, HorizontalAlignment = 1,
-            ScaleX = 0.8, SecondAlignment = new(5, 6, 0) };
+        yield return new CadText
+        {
+            DefaultValue = "Ж∅ plan",
+            TextRotation = 45,
+            HorizontalAlignment = 1,
+            ScaleX = 0.8,
+            SecondAlignment = new(5, 6, 0)
+        };
         yield return new CadMText { Text = new string('x', 5000) + "\\PЖ", TextDirection = new(0, 1, 0) };
         yield return new Cad3DFace { SecondPoint = new(1, 0, 1), ThirdPoint = new(1, 1, 1), InvisibleEdges = 5 };
-        yield return new CadSolid { FirstPoint = new(0, 0, 4), SecondPoint = new(1, 0, 4), ThirdPoint = new(0, 1, 4),
-            FourthPoint = new(1, 1, 4) };
+        yield return new CadSolid
+        {
+            FirstPoint = new(0, 0, 4),
+            SecondPoint = new(1, 0, 4),
+            ThirdPoint = new(0, 1, 4),
+            FourthPoint = new(1, 1, 4)
+        };
         yield return Polyline();
         yield return LwPolyline();
         yield return new CadInsertObject { Name = "Door", ScaleX = 1, ScaleY = 2, ScaleZ = 1, RotationAngle = 90 };
-        yield return new CadInsertObject { Name = "Door", ScaleX = 2, ScaleY = 2, ScaleZ = 2, ColumnCount = 3,
-            ColumnSpacing = 10 };
+        yield return new CadInsertObject
+        {
+            Name = "Door",
+            ScaleX = 2,
+            ScaleY = 2,
+            ScaleZ = 2,
+            ColumnCount = 3,
+            ColumnSpacing = 10
+        };
         CadInsertObject insert = new() { Name = "Door", ScaleX = 3, ScaleY = 4, ScaleZ = 5 };
         insert.Attributes.Add(new CadAttrib { DefinitionTagString = "TAG", DefaultValue = "7" });
         insert.Attributes.Add(new CadAttrib { DefinitionTagString = "TAG2", DefaultValue = "", AttFlags = 1 });
