@@ -1,4 +1,3 @@
-using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;

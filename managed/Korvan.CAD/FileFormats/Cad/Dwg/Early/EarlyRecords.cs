@@ -1,5 +1,4 @@
 using System.Collections.Generic;
-using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.Input;
 
