@@ -110,8 +110,8 @@ internal sealed class Budget : IDisposable
         if (Interlocked.Add(ref budget._steps, count) > budget._maxSteps)
         {
             throw budget.End(new LimitMemoryException(
-                $"The file takes more than {budget._maxSteps} steps to be drawn or converted, the limit for a file of its "
-                + $"size; {Cache.HowToRaise}."));
+                $"The file takes more than {budget._maxSteps} steps to be drawn or converted, the limit for a file of "
+                + $"its size; {Cache.HowToRaise}."));
         }
 
         Check();

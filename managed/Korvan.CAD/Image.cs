@@ -69,8 +69,8 @@ public abstract partial class Image : DataStreamSupporter
     /// <summary>Gets the position in its stream at which the image begins, in bytes.</summary>
     internal long DataStart { get; set; }
 
-    /// <summary>Gets the length of the file that the image was read from, in bytes; null for images that were created in
-    /// memory.</summary>
+    /// <summary>Gets the length of the file that the image was read from, in bytes; null for images that were created
+    /// in memory.</summary>
     internal long? SourceLength { get; set; }
 
     /// <summary>Gets the memory that the content took when it was loaded, in bytes.</summary>

@@ -1,4 +1,5 @@
 using System;
+using System.Threading;
 using System.Threading.Tasks;
 
 namespace Korvan.CAD;
@@ -25,7 +26,7 @@ internal static class LongCall
 
         Lifetime[] held = used.ToArray();
         Array.ForEach(held, static lifetime => lifetime.Hold());
-        Task<T> task = Task.Run(() =>
+        Task<T> task = Start(() =>
         {
             try
             {
@@ -47,12 +48,31 @@ internal static class LongCall
         }
         catch
         {
-            task.ContinueWith(
-                done => Discard(done, discard), TaskContinuationOptions.ExecuteSynchronously);
+            task.ContinueWith(done => Discard(done, discard), TaskContinuationOptions.ExecuteSynchronously);
             throw;
         }
 
         return task.GetAwaiter().GetResult();
+    }
+
+    // A thread that ends leaves its part of the native heap to the next one; those of the pool would keep one each.
+    private static Task<T> Start<T>(Func<T> work)
+    {
+        var result = new TaskCompletionSource<T>();
+        var thread = new Thread(() =>
+        {
+            try
+            {
+                result.SetResult(work());
+            }
+            catch (Exception e)
+            {
+                result.SetException(e);
+            }
+        });
+        thread.IsBackground = true;
+        thread.Start();
+        return result.Task;
     }
 
     // A failure that nobody waits for is observed, so that it is not reported by the runtime.

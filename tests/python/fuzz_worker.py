@@ -43,8 +43,15 @@ def place(message: str) -> str:
     return re.sub(r"'[^']*'|\"[^\"]*\"|#?[-+]?\d[\w.+-]*", "~", message)[:120]
 
 
+def memory(name: str) -> int:
+    """A size in kibibytes that the system states of this process."""
+    status = Path("/proc/self/status").read_text(encoding="ascii")
+    return int(re.search(rf"{name}:\s*(\d+)", status).group(1))
+
+
 def convert(path: str, seed: int) -> dict:
     rnd, errors, stage = random.Random(seed), [], "load"
+    before = memory("VmRSS")
     Path("/proc/self/clear_refs").write_text("5", encoding="ascii")
     start = resource.getrusage(resource.RUSAGE_SELF)
 
@@ -74,9 +81,8 @@ def convert(path: str, seed: int) -> dict:
             attempt("again", lambda: cad.Image.load(io.BytesIO(saved.getvalue())))
         attempt("close", lambda: image.__exit__(None, None, None))
     used = resource.getrusage(resource.RUSAGE_SELF)
-    status = Path("/proc/self/status").read_text(encoding="ascii")
     seconds = used.ru_utime + used.ru_stime - start.ru_utime - start.ru_stime
-    megabytes = int(re.search(r"VmHWM:\s*(\d+)", status).group(1)) >> 10
+    megabytes = (memory("VmHWM") - before) >> 10
     return {"errors": errors, "seconds": seconds, "megabytes": megabytes, "stage": stage}
 
 

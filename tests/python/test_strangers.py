@@ -233,6 +233,21 @@ class Texts(Folder):
 
 
 class BadObjects(Folder):
+    def test_a_model_that_was_loaded_with_defects_is_written_without_them(self) -> None:
+        sound = "#1=IFCCARTESIANPOINT((0.,0.));\n#2=IFCDIRECTION((1.,0.));\n"
+        broken = "#3=IFCAXIS2PLACEMENT2D(#1,#9);\n#1=IFCCARTESIANPOINT((1.,1.));\n"
+        data = (
+            "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\nFILE_NAME('','',(''),(''),'','','');\n"
+            f"FILE_SCHEMA(('IFC4'));\nENDSEC;\nDATA;\n{sound}{broken}ENDSEC;\nEND-ISO-10303-21;\n"
+        ).encode()
+        with self.assertRaises(RuntimeError):
+            self.load(data)
+        saved = io.BytesIO()
+        self.load(data, ignore_errors=True).save(saved)
+        self.load(saved.getvalue())
+        self.assertIn(b"#3=IFCAXIS2PLACEMENT2D(#1,$);", saved.getvalue())
+        self.assertEqual(saved.getvalue().count(b"#1=IFCCARTESIANPOINT"), 1)
+
     def test_a_bad_object_costs_itself(self) -> None:
         deep = "".join(hostile.block(f"D{i}", hostile.insert(f"D{i - 1}")) for i in range(1, 100))
         for reason, data in (

@@ -6,7 +6,8 @@ using Microsoft.Win32.SafeHandles;
 namespace Korvan.CAD.Input;
 
 /// <summary>Files that a drawing names. Only regular files in the folder of the drawing or below it are opened; a name
-/// that leads elsewhere is tried by its last part alone, and links that lead out of the folder are not followed.</summary>
+/// that leads elsewhere is tried by its last part alone, and links that lead out of the folder are not
+/// followed.</summary>
 internal static class FolderFiles
 {
     /// <summary>Returns the folder with the files of a drawing; <see langword="null"/> for a drawing that was read from

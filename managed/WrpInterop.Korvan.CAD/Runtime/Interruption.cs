@@ -4,8 +4,8 @@ using System.Runtime.InteropServices;
 namespace Korvan.WrpGen.Interop;
 
 /// <summary>
-/// Signals that arrive while managed code runs. The library asks from time to time; Python's handlers run then, and what
-/// they raise, such as KeyboardInterrupt, is the error of the call.
+/// Signals that arrive while managed code runs. The library asks from time to time; Python's handlers run then, and
+/// what they raise, such as KeyboardInterrupt, is the error of the call.
 /// </summary>
 internal static unsafe class Interruption
 {
@@ -19,8 +19,8 @@ internal static unsafe class Interruption
     private static Func<bool>? _answer;
     private static nint _raised;
 
-    /// <summary>Finds what is needed in the interpreter. Where its symbols are not in sight, signals wait for the end of
-    /// the call. The modules of a process share what the first of them installs.</summary>
+    /// <summary>Finds what is needed in the interpreter. Where its symbols are not in sight, signals wait for the end
+    /// of the call. The modules of a process share what the first of them installs.</summary>
     internal static void Install()
     {
         _answer = AppContext.GetData(AnswerName) as Func<bool>;

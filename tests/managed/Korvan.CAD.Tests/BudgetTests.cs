@@ -123,7 +123,8 @@ public sealed class BudgetTests
     {
         static int Read(int depth)
         {
-            string xml = string.Concat(Enumerable.Repeat("<a>", depth)) + string.Concat(Enumerable.Repeat("</a>", depth));
+            string xml = string.Concat(Enumerable.Repeat("<a>", depth))
+                + string.Concat(Enumerable.Repeat("</a>", depth));
             using XmlReader reader = SafeXml.Open(new MemoryStream(Encoding.ASCII.GetBytes(xml)));
             int deepest = 0;
             while (reader.Read())

@@ -25,6 +25,9 @@ internal ref struct StepReferenceWalk
     /// <summary>Gets the number of the instance that is referred to.</summary>
     internal long Id { get; private set; }
 
+    /// <summary>Gets the range of the reference in the record.</summary>
+    internal Range Place { get; private set; }
+
     /// <summary>Gets the zero-based index of the attribute.</summary>
     internal int Attribute { get; private set; }
 
@@ -81,11 +84,13 @@ internal ref struct StepReferenceWalk
     private void ReadId()
     {
         long id = 0;
+        int start = _at;
         for (_at++; _at < _data.Length && StepCharacters.IsDigit(_data[_at]); _at++)
         {
             id = id < long.MaxValue / 16 ? (id * 10) + _data[_at] - '0' : id;
         }
 
         Id = id;
+        Place = start.._at;
     }
 }

@@ -5,8 +5,8 @@ using System.Text;
 
 namespace Korvan.CAD.Raster.Codecs;
 
-/// <summary>XMP metadata in JPEG (ISO 16684-1 and its part 3, 1.1.3.1): one segment with the packet or, where that is too
-/// long, a short packet that names the digest of the whole, which follows in parts.</summary>
+/// <summary>XMP metadata in JPEG (ISO 16684-3): one segment with the packet or, where that is too long, a short packet
+/// that names the digest of the whole, which follows in parts.</summary>
 internal static class ExtendedXmp
 {
     private const string NoteNamespace = "http://ns.adobe.com/xmp/note/";

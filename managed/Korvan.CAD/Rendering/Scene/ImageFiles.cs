@@ -42,7 +42,8 @@ internal sealed class ImageFiles
     /// read.</summary>
     internal ImagePixels? Find(string definition)
     {
-        if (_folder == null || !_names.TryGetValue(definition, out string? name) || FolderFiles.Find(_folder, name) is not string file)
+        if (_folder == null || !_names.TryGetValue(definition, out string? name)
+            || FolderFiles.Find(_folder, name) is not string file)
         {
             return null;
         }

@@ -38,7 +38,8 @@ internal sealed partial class SceneBuilder : IGeometrySink
             StyleFont = name => tables.Style(name).Font,
         };
         _pens = new PenResolver(tables, style, _canvas.List, onPaper);
-        Array.ForEach(tables.Settings.Unreadable, name => list.Skip($"header variable {name} without a readable value"));
+        Array.ForEach(
+            tables.Settings.Unreadable, name => list.Skip($"header variable {name} without a readable value"));
     }
 
     private DrawingList List => _canvas.List;

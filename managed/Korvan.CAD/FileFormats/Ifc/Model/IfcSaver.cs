@@ -48,6 +48,11 @@ internal static class IfcSaver
             changes.Add((model.File.Index.Starts[record], model.File.Index.Ends[record], Record(entity, line)));
         }
 
+        if (model.File.HasBrokenReferences)
+        {
+            AddRepairs(model, changes);
+        }
+
         int end = model.File.DataEnd;
         foreach (IfcEntityBase entity in model.Added)
         {
@@ -61,6 +66,37 @@ internal static class IfcSaver
         }
 
         return [.. changes.OrderBy(one => one.Start).ThenBy(one => one.End)];
+    }
+
+    // What was loaded in spite of its defects is written without them: a number has one record, and a reference that
+    // leads nowhere is no value.
+    private static void AddRepairs(IfcModel model, List<(int Start, int End, byte[] Text)> changes)
+    {
+        HashSet<int> replaced = [.. model.Removed, .. model.Changed.Select(static entity => entity.Record)];
+        StepText.StepIndex index = model.File.Index;
+        for (int record = 0; record < index.Count; record++)
+        {
+            (int start, int end) = (index.Starts[record], index.Ends[record]);
+            if (replaced.Contains(record))
+            {
+                continue;
+            }
+
+            if (model.RecordOf(index.Ids[record]) != record)
+            {
+                changes.Add((start, end, []));
+                continue;
+            }
+
+            StepText.StepReferenceWalk walk = new(model.File.Data.AsSpan(start..end));
+            while (walk.MoveNext())
+            {
+                if (model.RecordOf(walk.Id) < 0)
+                {
+                    changes.Add((start + walk.Place.Start.Value, start + walk.Place.End.Value, [(byte)'$']));
+                }
+            }
+        }
     }
 
     private static byte[] Record(IfcEntityBase entity, StringBuilder line)
