@@ -36,10 +36,11 @@ def _use_our_fonts() -> None:
 
 
 def _read(drawing: str) -> ezdxf.document.Drawing:
+    # Recovering decodes more, but knows no binary form.
     try:
-        return ezdxf.readfile(drawing)
-    except DXFError:
         return recover.readfile(drawing)[0]
+    except DXFError:
+        return ezdxf.readfile(drawing)
 
 
 def main() -> None:

@@ -53,7 +53,11 @@ internal sealed class AcisReader
             }
         }
 
-        if (!hasEdges)
+        if (hasEdges)
+        {
+            new AcisIsolines(records, reader.EndsOf, ArcOf).AddTo(reader._wireframe, reader._map);
+        }
+        else
         {
             reader.AddClosedSurfaces();
         }
@@ -61,7 +65,17 @@ internal sealed class AcisReader
         return reader._wireframe.IsEmpty ? null : reader._wireframe;
     }
 
-    private void AddEdge(in SatRecord edge)
+    private void AddEdge(SatRecord edge)
+    {
+        // An edge without a curve is a point, as the apex of a cone.
+        if (EndsOf(edge) is { Curve: >= 0 } ends && !TryAdd(_records[ends.Curve], ends))
+        {
+            _wireframe.UnreadEdges++;
+        }
+    }
+
+    /// <summary>Returns what an edge points to; null for one without vertices.</summary>
+    private AcisEdge? EndsOf(SatRecord edge)
     {
         (Vec3 start, Vec3 end) = (default, default);
         int vertices = 0;
@@ -82,21 +96,13 @@ internal sealed class AcisReader
             }
         }
 
-        // An edge without a curve is a point, as the apex of a cone.
-        if (curve < 0 || vertices == 0)
-        {
-            return;
-        }
-
-        bool isReversed = sense < edge.Tokens.Length && edge.Tokens[sense] == Reversed;
-        if (!TryAdd(_records[curve], start, end, isReversed))
-        {
-            _wireframe.UnreadEdges++;
-        }
+        bool isReversed = sense >= 0 && sense < edge.Tokens.Length && edge.Tokens[sense] == Reversed;
+        return vertices > 0 ? new AcisEdge(start, end, curve, isReversed) : null;
     }
 
-    private bool TryAdd(in SatRecord curve, Vec3 start, Vec3 end, bool isReversed)
+    private bool TryAdd(SatRecord curve, in AcisEdge edge)
     {
+        (Vec3 start, Vec3 end, _, _) = edge;
         if (!start.IsFinite || !end.IsFinite)
         {
             return false;
@@ -108,7 +114,13 @@ internal sealed class AcisReader
                 _wireframe.Lines.Add((_map.Point(start), _map.Point(end)));
                 return true;
             case "ellipse-curve":
-                return TryAddEllipse(curve, start, end, isReversed);
+                if (ArcOf(curve, edge) is not AcisArc arc)
+                {
+                    return false;
+                }
+
+                AddArc(arc);
+                return true;
             case "intcurve-curve":
                 if (_splines.Of(curve) is not AcisSpline spline)
                 {
@@ -122,27 +134,27 @@ internal sealed class AcisReader
         }
     }
 
-    /// <summary>Adds an ellipse: its centre, normal, major axis and the ratio of its axes.</summary>
-    private bool TryAddEllipse(in SatRecord curve, Vec3 start, Vec3 end, bool isReversed)
+    /// <summary>Returns the arc of an edge on an ellipse: its centre, normal, major axis and the ratio of its
+    /// axes.</summary>
+    private static AcisArc? ArcOf(SatRecord curve, AcisEdge edge)
     {
         int at = curve.Values;
         (Vec3 center, Vec3 normal, Vec3 major) = (curve.Vector(at), curve.Vector(at + 3), curve.Vector(at + 6));
         Vec3 minor = Vec3.Cross(normal.Unit(), major) * curve.Number(at + 9);
         if (!center.IsFinite || !major.IsFinite || !minor.IsFinite || major == default || minor == default)
         {
-            return false;
+            return null;
         }
 
         double AngleOf(Vec3 point) => Math.Atan2(
             Vec3.Dot(point - center, minor) / Vec3.Dot(minor, minor),
             Vec3.Dot(point - center, major) / Vec3.Dot(major, major));
 
-        (double from, double to) = (AngleOf(start), AngleOf(end));
-        (from, to) = isReversed ? (to, from) : (from, to);
-        bool isWhole = (end - start).Length <= Tolerance * major.Length;
+        (double from, double to) = (AngleOf(edge.Start), AngleOf(edge.End));
+        (from, to) = edge.IsReversed ? (to, from) : (from, to);
+        bool isWhole = (edge.End - edge.Start).Length <= Tolerance * major.Length;
         double sweep = isWhole ? Math.Tau : Angles.Sweep(from, to);
-        AddArc(new AcisArc(center, major, minor, from, sweep));
-        return true;
+        return new AcisArc(center, major, minor, from, sweep);
     }
 
     private void AddSpline(in AcisSpline spline, Vec3 start, Vec3 end, bool isReversed)

@@ -95,6 +95,36 @@ public class SolidEdgeTests
     }
 
     [Theory]
+    [InlineData("0 0 5", "1", 4)] // a cylinder
+    [InlineData("0 0 5", "0.5", 4)] // a cone
+    [InlineData("1 0 5", "1", 0)] // the other end is not around the axis
+    [InlineData("0 0 0", "1", 0)] // both ends are in one place
+    public void Cylinders_and_cones_have_lines_between_their_ends(string top, string radius, int lines)
+    {
+        string[] text =
+        [
+            "400 0 1 0", "x", "1 1e-6 1e-10",
+            "face $-1 $-1 $1 $-1 $-1 $9 forward #", // 0
+            "loop $-1 $2 $3 $0 #", "loop $-1 $-1 $4 $0 #", // 1, 2
+            "coedge $-1 $3 $3 $-1 $5 forward $1 #", "coedge $-1 $4 $4 $-1 $6 forward $2 #", // 3, 4
+            "edge $-1 $7 $7 $3 $10 forward #", "edge $-1 $8 $8 $4 $11 forward #", // 5, 6
+            "vertex $-1 $5 $12 #", "vertex $-1 $6 $13 #", // 7, 8
+            "cone-surface $-1 0 0 0 0 0 1 1 0 0 1 I I 0 1 forward I I I I #", // 9
+            "ellipse-curve $-1 0 0 0 0 0 1 1 0 0 1 I I #",
+            $"ellipse-curve $-1 {top} 0 0 -1 {radius} 0 0 1 I I #",
+            "point $-1 1 0 0 #", $"point $-1 {radius} 0 5 #",
+        ];
+        AcisWireframe edges = AcisReader.Read(text)!;
+        Assert.Equal((2, lines), (edges.Arcs.Count, edges.Lines.Count));
+        double foot = double.Parse(radius, System.Globalization.CultureInfo.InvariantCulture);
+        Assert.All(edges.Lines, line =>
+        {
+            Assert.Equal([1, 0, foot, 5], [
+                Math.Round(line.From.Xy.Length, 6), line.From.Z, Math.Round(line.To.Xy.Length, 6), line.To.Z]);
+        });
+    }
+
+    [Theory]
     [InlineData("")]
     [InlineData("not a header|x|x|edge $-1 #")]
     [InlineData("400 0 1 0|x|x|edge $99 $-7 $0 $ forward #|edge #|# #")]
