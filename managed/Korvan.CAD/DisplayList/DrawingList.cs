@@ -168,6 +168,7 @@ internal sealed partial class DrawingList
         item.Look = style.Look;
         item.Dash = style.Dash;
         item.DashOffset = style.DashOffset;
+        item.TextHeight = style.TextHeight;
     }
 
     internal void Fill(PathBuffer path, Rgba color, int layer, bool evenOdd, Gradient? gradient = null)
