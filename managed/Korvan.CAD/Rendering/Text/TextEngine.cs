@@ -118,6 +118,9 @@ internal sealed unsafe class TextEngine : IDisposable
         return index;
     }
 
+    /// <summary>Returns the strokes of a symbol of the compiled fonts, in units of its file; null for none.</summary>
+    internal List<Vec2[]>? FindSymbol(string name) => _strokeFaces.FindSymbol(name);
+
     /// <summary>Gets the fonts that drawings name and that were replaced, with what they were replaced by.</summary>
     internal IReadOnlyDictionary<string, string> Replaced => _replaced;
 

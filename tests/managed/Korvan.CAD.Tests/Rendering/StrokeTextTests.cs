@@ -17,7 +17,8 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Rendering;
 
-/// <summary>Text of stroke fonts: the face of the library, compiled fonts of folders, and what the result tells.</summary>
+/// <summary>Text of stroke fonts: the face of the library, compiled fonts of folders, and what the result
+/// lists.</summary>
 public sealed class StrokeTextTests : IDisposable
 {
     private const byte Up = 0x14;
@@ -30,7 +31,8 @@ public sealed class StrokeTextTests : IDisposable
     {
         IEnumerable<int> wanted = Enumerable.Range(0x20, 95).Concat(Enumerable.Range(0xA0, 224))
             .Concat(Enumerable.Range(0x391, 17)).Concat(Enumerable.Range(0x3A3, 39))
-            .Concat(Enumerable.Range(0x401, 79)).Concat("ёђѓєѕіїјљњћќўџ⌀□⅓⅔⅛⅜⅝⅞≤≥–„“€".Select(static c => (int)c));
+            .Concat(Enumerable.Range(0x401, 79))
+            .Concat("ёђѓєѕіїјљњћќўџ⌀□⅓⅔⅛⅜⅝⅞≤≥–„“€".Select(static c => (int)c));
         int[] lacking = [.. wanted.Where(static c => StrokeGlyphs.Face.Find(c) is null)];
         Assert.True(lacking.Length == 0, string.Join(' ', lacking.Select(static c => $"U+{c:X4}")));
         foreach (int character in StrokeGlyphs.Face.Characters.Where(static c => !StrokeGlyphs.IsMark(c)))
@@ -127,6 +129,42 @@ public sealed class StrokeTextTests : IDisposable
         Drawing(font, "A").Save(Stream.Null, options);
         Assert.Equal([expected], Result(options).FontSubstitutions);
         Assert.True(Result(options).IsRenderComplete);
+    }
+
+    [Fact]
+    public void Symbols_are_found_in_the_fonts_of_the_options()
+    {
+        Write("marks.shx", ShapeBytes.Shapes((130, "GATE", [0x24, 0x20, 0])));
+        CadImage drawing = Picture.Drawing(new CadShape { ShapeName = "gate", Size = 3 });
+        DrawingList list = Build(drawing, Faces([_folder + "/marks.shx"], []));
+        Assert.Equal("0,0 0,6 6,6", Text(list.CoordsOf(Assert.Single(list.Items.ToArray()))[..6]));
+        Assert.Equal(1, Build(drawing).Skipped["SHAPE whose file is not there"]);
+    }
+
+    [Fact]
+    public void Text_of_mixed_scripts_falls_back_as_a_whole_and_keeps_its_place()
+    {
+        CadImage drawing = Drawing("simplex", "A\u4e2dB");
+        DrawingList list = Build(drawing);
+        DisplayItem item = Assert.Single(list.Items.ToArray());
+        Assert.False(list.TextOf(item).IsHidden);
+        using var engine = new TextEngine();
+        int font = engine.Font(FontTable.FromFile("simplex"));
+        double em = 10 / engine.CapRatio(font);
+        Assert.Equal(engine.Advance(font, "A\u4e2dB") * em, list.TextOf(item).Advance * list.TextOf(item).Matrix.Xx, 6);
+    }
+
+    [Fact]
+    public void Hidden_text_is_as_long_as_its_strokes_and_tiny_text_is_a_bar()
+    {
+        CadImage drawing = Drawing("simplex", "WWWWWWWW");
+        DrawingList list = Build(drawing);
+        DisplayItem[] items = list.Items.ToArray();
+        TextRun run = list.TextOf(items[0]);
+        Assert.Equal(8 * 24.0 / 21 * 10, run.Advance * run.Matrix.Xx, 6);
+        drawing.AddEntity(new CadLine { SecondPoint = new Cad3DPoint(9000, 9000, 0), ColorId = 1 });
+        using Picture picture = Picture.Of(drawing);
+        Assert.InRange(picture[0, 0].G, 1, 254); // a hundredth of its height: grey, not the strokes in black
     }
 
     [Fact]

@@ -3,6 +3,7 @@ using System.Collections.Generic;
 using System.IO;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Shx;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Text.Strokes;
 
@@ -97,6 +98,20 @@ internal sealed class StrokeFaces
         return face;
     }
 
+    /// <summary>Returns the strokes of a symbol, in units of its file; null where no file has it.</summary>
+    internal List<Vec2[]>? FindSymbol(string name)
+    {
+        foreach (string file in _files.Keys)
+        {
+            if (ReadFile(file) is { } shapes && shapes.Find(name) is { } strokes)
+            {
+                return strokes;
+            }
+        }
+
+        return null;
+    }
+
     private StrokeFace? Make(string name, string bigName, IDictionary<string, string> notes)
     {
         StrokeFace? big = bigName.Length > 0 && Read(bigName, notes) is { } bigFile
@@ -128,6 +143,7 @@ internal sealed class StrokeFaces
     private CodePages PageOf(string name) => _files.TryGetValue(name, out (string Path, CodePages CodePage) file)
         ? file.CodePage : CodePages.Default;
 
+    // A file of symbols alone is no font.
     private ShapeFile? Read(string name, IDictionary<string, string> notes)
     {
         if (!_files.TryGetValue(name, out (string Path, CodePages CodePage) known))
@@ -135,6 +151,17 @@ internal sealed class StrokeFaces
             return null;
         }
 
+        if (ReadFile(name) is { Above: > 0 } font)
+        {
+            return font;
+        }
+
+        notes.TryAdd(name + Extension, $"{OwnFace}: the file '{known.Path}' is damaged or no font");
+        return null;
+    }
+
+    private ShapeFile? ReadFile(string name)
+    {
         if (_read.TryGetValue(name, out ShapeFile? file))
         {
             return file;
@@ -142,16 +169,11 @@ internal sealed class StrokeFaces
 
         try
         {
-            file = ShapeFile.TryRead(File.ReadAllBytes(known.Path));
-            file = file is { Above: > 0 } ? file : null;
-            if (file is null)
-            {
-                notes[name + Extension] = $"{OwnFace}: the file '{known.Path}' is damaged or no font";
-            }
+            file = ShapeFile.TryRead(File.ReadAllBytes(_files[name].Path));
         }
         catch (Exception e) when (e is IOException or UnauthorizedAccessException)
         {
-            notes[name + Extension] = $"{OwnFace}: the file '{known.Path}' cannot be read";
+            // The result of the export lists it as one that was replaced.
         }
 
         _read.Add(name, file);
