@@ -65,7 +65,7 @@ internal sealed unsafe class TextEngine : IDisposable
     {
         _strokeFaces = strokes;
         NativeLibraries.Require();
-        FontTable.ListInstalled = static () => Fontconfig.ListFonts();
+        ProvideFontList();
         _look = look;
         _folders = folders;
         _ownsFolders = ownsFolders;
@@ -87,6 +87,22 @@ internal sealed unsafe class TextEngine : IDisposable
         Pango.LayoutSetSingleParagraphMode(_layout.Pointer, 1);
         Pango.LayoutSetAutoDir(_layout.Pointer, 1);
     }
+
+    /// <summary>Lets the tables of drawings know the fonts that are installed; none where the libraries are
+    /// missing.</summary>
+    internal static void ProvideFontList() => FontTable.ListInstalled = static () =>
+    {
+        try
+        {
+            NativeLibraries.Require();
+        }
+        catch (RenderException)
+        {
+            return [];
+        }
+
+        return Fontconfig.ListFonts();
+    };
 
     /// <summary>Creates an engine for another thread, which gives fonts the same numbers. It has to be released before
     /// this one.</summary>
