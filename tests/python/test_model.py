@@ -121,8 +121,8 @@ class Model(unittest.TestCase):
             PdfOptions().timeout = -5
         options = PdfOptions()
         options.vector_rasterization_options = raster = CadRasterizationOptions()
-        raster.shx_fonts = ["a.shx"]
-        words = r"PdfOptions\.vector_rasterization_options\.shx_fonts cannot be honoured"
+        raster.pdf_product_location = "a"
+        words = r"PdfOptions\.vector_rasterization_options\.pdf_product_location cannot be honoured"
         with self.assertRaisesRegex(RuntimeError, words):
             self.image.save(io.BytesIO(), options)
 

@@ -203,15 +203,16 @@ class Pages(Outputs):
                 self.assertEqual(len(re.findall(rf"^{word} ", text, re.M)), count)
                 self.assertEqual(count > 0, kind != cgm.RESTRICTED_TEXT or not options.text_as_lines)
 
-    def test_a_long_text_keeps_all_its_letters_as_shapes(self) -> None:
+    def test_a_long_text_keeps_all_its_characters_as_shapes(self) -> None:
         text = CadText()
         (text.default_value, text.text_height) = ("o" * 300, 1.0)
         drawing = CadImage()
+        drawing.styles.get("Standard").primary_font_name = "LiberationSans-Regular.ttf"
         drawing.add_entity(text)
         options = Html5Options()
         options.text_as_shapes = True
         page = Path(self.write("page.html", options, drawing)).read_text(encoding="utf-8")
-        self.assertEqual(page.count("Z"), 600)  # each letter is a ring with a hole
+        self.assertEqual(page.count("Z"), 600)  # each character is a ring with a hole
 
     @needs_tools("openssl", "pdfsig")
     def test_a_portable_document_is_signed_with_a_certificate(self) -> None:

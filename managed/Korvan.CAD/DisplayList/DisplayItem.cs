@@ -45,6 +45,10 @@ internal struct DisplayItem
 
     internal int Layer;
 
+    /// <summary>Of the strokes of a text, its height in drawing units, which limits the width of the strokes; else
+    /// 0.</summary>
+    internal float TextHeight;
+
     /// <summary>Index of the gradient of a fill (or -1), of the pattern, of the text run, or of the image.</summary>
     internal int Extra;
 }
@@ -88,6 +92,7 @@ internal struct StrokeAttributes
     internal int Dash;
     internal float DashOffset;
     internal int Layer;
+    internal float TextHeight;
 }
 
 /// <summary>One run of text in one font. The matrix maps the em square, baseline at y = 0, to drawing units.</summary>
@@ -95,6 +100,9 @@ internal readonly record struct TextRun(string Text, int Font, Affine2 Matrix, d
 {
     /// <summary>Gets how far the pen moves over the text, in ems; 0 where it was not measured.</summary>
     internal double Advance { get; init; }
+
+    /// <summary>Gets whether the run is there to be searched and copied alone: strokes after it show it.</summary>
+    internal bool IsHidden { get; init; }
 }
 
 /// <summary>A part of the page that leads elsewhere: to an address, or to a file beside the drawing.</summary>

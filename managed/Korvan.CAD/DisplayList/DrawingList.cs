@@ -170,6 +170,7 @@ internal sealed partial class DrawingList
         item.Style = style.Style;
         item.Dash = style.Dash;
         item.DashOffset = style.DashOffset;
+        item.TextHeight = style.TextHeight;
     }
 
     internal void Fill(PathBuffer path, Rgba color, int layer, bool evenOdd, Gradient? gradient = null)

@@ -101,6 +101,11 @@ internal sealed class PathBuffer
         }
     }
 
+    /// <summary>Adds another path through a map.</summary>
+    internal void AppendMapped(PathBuffer other, in Affine2 map) => AppendMapped(
+        other, new Affine3(
+            new Vec3(map.Xx, map.Yx, 0), new Vec3(map.Xy, map.Yy, 0), Vec3.UnitZ, new Vec3(map.X0, map.Y0, 0)), 0);
+
     /// <summary>Adds another path through a map; its plane lies at the local z <paramref name="elevation"/>.</summary>
     internal void AppendMapped(PathBuffer other, in Affine3 map, double elevation)
     {

@@ -62,12 +62,13 @@ public class CadRasterizationOptions : VectorRasterizationOptions
     /// <summary>Gets or sets whether content of a layout outside its paper is exported as well.</summary>
     public bool ExportAllLayoutContent { get; set; }
 
-    /// <summary>Gets or sets the paths of compiled shape fonts that take precedence over installed ones. Such fonts are
-    /// not supported yet: setting any raises an error.</summary>
+    /// <summary>Gets or sets the paths of compiled shape fonts (SHX), or of folders with such fonts. They draw the text
+    /// of styles that name them, as strokes. Styles whose font is not among them are drawn with the stroke face of the
+    /// library. A path that does not exist raises an error when the drawing is exported.</summary>
     public string[] ShxFonts { get; set; } = [];
 
-    /// <summary>Gets or sets the code pages of text that compiled shape fonts draw. Such fonts are not supported yet:
-    /// setting any raises an error.</summary>
+    /// <summary>Gets or sets the code pages of the character numbers in <see cref="ShxFonts"/>, one for each path; the
+    /// last one holds for the rest. Fonts whose numbers are Unicode need none.</summary>
     public CodePages[] ShxCodePages { get; set; } = [];
 
     /// <summary>Gets or sets the path of a program that writes PDF. The library writes PDF itself: setting any raises

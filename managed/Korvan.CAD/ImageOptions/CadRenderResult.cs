@@ -25,6 +25,10 @@ public class CadRenderResult : RenderResult
     /// <summary>Gets what was not rendered faithfully.</summary>
     public RenderResult[] Failures => [.. _failures];
 
+    /// <summary>Gets the fonts that the drawing names and that were not available, each with what replaced it, such as
+    /// "simplex.shx: the stroke face of the library". A replacement is no failure.</summary>
+    public string[] FontSubstitutions { get; internal init; } = [];
+
     /// <summary>Gets the duration of the export.</summary>
     public TimeSpan RenderDuration { get; }
 

@@ -83,10 +83,10 @@ internal static class OptionRules
             static o => o.ScaleMethod != FileFormats.Cad.ScaleType.GrowToFit),
         new(nameof(CadRasterizationOptions.NoScaling), Drawn, static o => o.NoScaling),
         new(nameof(CadRasterizationOptions.ExportAllLayoutContent), Drawn, static o => o.ExportAllLayoutContent),
-        new(nameof(CadRasterizationOptions.ShxFonts), None, static o => o.ShxFonts.Length > 0,
-            "compiled shape fonts are not supported, installed outline fonts replace them; leave it empty"),
-        new(nameof(CadRasterizationOptions.ShxCodePages), None, static o => o.ShxCodePages.Length > 0,
-            "compiled shape fonts are not supported; leave it empty"),
+        new(nameof(CadRasterizationOptions.ShxFonts), Drawn, static o => o.ShxFonts.Length > 0),
+        new(nameof(CadRasterizationOptions.ShxCodePages), None,
+            static o => o.ShxCodePages.Length > 0 && o.ShxFonts.Length == 0,
+            "they are for the fonts of shx_fonts, which names none"),
         new(nameof(CadRasterizationOptions.PdfProductLocation), None,
             static o => !string.IsNullOrEmpty(o.PdfProductLocation),
             "the library writes PDF itself; leave it empty"),
@@ -101,6 +101,8 @@ internal static class OptionRules
     private static readonly Rule<CadRasterizationOptions>[] Metafile =
     [
         new(nameof(CadRasterizationOptions.ObserverPoint), None, IsNotPlanView, "pictures of metafiles are flat"),
+        new(nameof(CadRasterizationOptions.ShxFonts), None, static o => o.ShxFonts.Length > 0,
+            "metafiles have outline fonts"),
         new(nameof(CadRasterizationOptions.VisibilityMode), None,
             static o => o.VisibilityMode != VisibilityMode.AsScreen,
             "metafiles have no layers that are not plottable"),

@@ -4,6 +4,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Text;
+using Korvan.CAD.Rendering.Text.Strokes;
 
 namespace Korvan.CAD.Rendering;
 
@@ -35,11 +36,23 @@ internal sealed class ExportContext
             : DefaultPixelsPerInch;
 
     /// <summary>Makes a text engine with the fonts that the image was loaded with.</summary>
-    internal TextEngine NewEngine() =>
-        new(GlyphRendering.Of(Options.VectorRasterizationOptions), FontFolders.Of(_loadOptions));
+    internal TextEngine NewEngine()
+    {
+        var strokes = new StrokeFaces();
+        if (Options.VectorRasterizationOptions is CadRasterizationOptions drawing)
+        {
+            strokes.AddFiles(drawing.ShxFonts, drawing.ShxCodePages);
+        }
+
+        return new TextEngine(
+            GlyphRendering.Of(Options.VectorRasterizationOptions), FontFolders.Of(_loadOptions, strokes), strokes);
+    }
 
     /// <summary>Tells what became of the export.</summary>
-    internal CadRenderResult Result() => new(Notes.Results(), Stopwatch.GetElapsedTime(_start));
+    internal CadRenderResult Result() => new(Notes.Results(), Stopwatch.GetElapsedTime(_start))
+    {
+        FontSubstitutions = Notes.Fonts,
+    };
 
     /// <summary>Runs the export. Every failure is an <see cref="ImageSaveException"/> that says why, but those of the
     /// stream that is written to.</summary>

@@ -1,4 +1,5 @@
 using System.Collections.Generic;
+using System.Linq;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Input;
@@ -27,7 +28,14 @@ internal sealed class RenderNotes
     }
 
     /// <summary>The engine counts over all its pages.</summary>
-    internal void SetGlyphs(TextEngine engine) => _missingGlyphs = engine.UnknownGlyphs;
+    internal void SetFonts(TextEngine engine)
+    {
+        _missingGlyphs = engine.UnknownGlyphs;
+        Fonts = [.. engine.Replaced.Select(static font => $"{font.Key}: {font.Value}")];
+    }
+
+    /// <summary>Gets the fonts that were replaced, each with what it was replaced by.</summary>
+    internal string[] Fonts { get; private set; } = [];
 
     internal List<RenderResult> Results()
     {

@@ -4,11 +4,20 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Shx;
 
+/// <summary>The strokes of a shape, where the pen is after them, and whether they are all: what calls itself without
+/// end is cut off.</summary>
+internal sealed record ShapeStrokes(List<Vec2[]> Strokes, Vec2 End, bool IsWhole);
+
 /// <summary>Carries out the code of shapes: vectors in 16 directions, displacements and arcs.</summary>
 /// <param name="codes">The code of all shapes by number.</param>
-internal sealed class ShapePen(Dictionary<int, byte[]> codes)
+/// <param name="kind">What the numbers of the shapes mean.</param>
+/// <param name="height">The height of characters, which parts of big fonts are scaled from.</param>
+internal sealed class ShapePen(
+    Dictionary<int, byte[]> codes, ShapeFileKind kind = ShapeFileKind.Shapes, int height = 0)
 {
     private const int MaxDepth = 8;
+    private const int MaxSteps = 20_000;
+    private const double MaxCoordinate = 1e6;
     private const int MaxStack = 4;
     private const int ArcSegments = 8;
 
@@ -17,14 +26,16 @@ internal sealed class ShapePen(Dictionary<int, byte[]> codes)
     private readonly Stack<Vec2> _positions = new();
     private Vec2 _at;
     private double _scale = 1;
+    private double _stretch = 1;
     private bool _isDown = true;
+    private int _steps;
 
     /// <summary>Draws a shape.</summary>
-    internal List<Vec2[]> Draw(int number)
+    internal ShapeStrokes Draw(int number)
     {
         Run(number, 0);
         EndStroke();
-        return _strokes;
+        return new ShapeStrokes(_strokes, _at, _steps < MaxSteps);
     }
 
     // The components of the 16 directions: the longer one is always 1.
@@ -42,7 +53,7 @@ internal sealed class ShapePen(Dictionary<int, byte[]> codes)
         }
 
         int i = 0;
-        while (i < code.Length && code[i] != 0)
+        while (i < code.Length && code[i] != 0 && ++_steps < MaxSteps)
         {
             i += Step(code.AsSpan(i), depth);
         }
@@ -77,8 +88,7 @@ internal sealed class ShapePen(Dictionary<int, byte[]> codes)
                 PushOrPop(code[0] == 5);
                 return 1;
             case 7:
-                Run(arguments[0], depth + 1);
-                return 2;
+                return 1 + Part(arguments, depth);
             case 9 or 0x0D:
                 return 1 + Several(arguments, code[0] == 9 ? 2 : 3);
             case 0x0E:
@@ -91,6 +101,39 @@ internal sealed class ShapePen(Dictionary<int, byte[]> codes)
                 MoveBy(Direction(code[0] & 15) * (code[0] >> 4));
                 return 1;
         }
+    }
+
+    // Numbers of Unicode have two bytes. In big fonts a zero precedes the two bytes of a part, its place, width and
+    // height.
+    private int Part(ReadOnlySpan<byte> arguments, int depth)
+    {
+        const int placedLength = 7;
+        if (kind == ShapeFileKind.Unicode && arguments.Length >= 2)
+        {
+            Run((arguments[0] << 8) | arguments[1], depth + 1);
+            return 2;
+        }
+
+        if (kind != ShapeFileKind.Big || arguments[0] != 0)
+        {
+            Run(arguments[0], depth + 1);
+            return 1;
+        }
+
+        if (arguments.Length < placedLength)
+        {
+            return arguments.Length;
+        }
+
+        (double scale, double stretch) = (_scale, _stretch);
+        EndStroke();
+        _at += new Vec2((sbyte)arguments[3] * stretch, (sbyte)arguments[4]) * scale;
+        double size = height > 0 ? height : Math.Max((int)arguments[6], 1);
+        _scale = scale * arguments[6] / size;
+        _stretch = stretch * arguments[5] / Math.Max((int)arguments[6], 1);
+        Run((arguments[1] << 8) | arguments[2], depth + 1);
+        (_scale, _stretch) = (scale, stretch);
+        return placedLength;
     }
 
     private void Curve(int command, ReadOnlySpan<byte> arguments)
@@ -118,7 +161,7 @@ internal sealed class ShapePen(Dictionary<int, byte[]> codes)
         int i = 0;
         while (i + 1 < arguments.Length && (arguments[i] | arguments[i + 1]) != 0)
         {
-            if (i + size > arguments.Length)
+            if (i + size > arguments.Length || ++_steps >= MaxSteps)
             {
                 return arguments.Length;
             }
@@ -131,10 +174,12 @@ internal sealed class ShapePen(Dictionary<int, byte[]> codes)
         return Math.Min(i + 2, arguments.Length);
     }
 
-    private static int Length(ReadOnlySpan<byte> code)
+    private int Length(ReadOnlySpan<byte> code)
     {
         int size = code[0] switch
         {
+            7 when kind == ShapeFileKind.Unicode => 3,
+            7 when kind == ShapeFileKind.Big && code.Length > 1 && code[1] == 0 => 8,
             3 or 4 or 7 => 2,
             8 or 0x0A => 3,
             0x0B => 6,
@@ -175,10 +220,16 @@ internal sealed class ShapePen(Dictionary<int, byte[]> codes)
         }
     }
 
-    private void MoveBy(Vec2 by) => MoveTo(_at + (by * _scale));
+    private void MoveBy(Vec2 by) => MoveTo(_at + (new Vec2(by.X * _stretch, by.Y) * _scale));
 
     private void MoveTo(Vec2 to)
     {
+        if (!(Math.Abs(to.X) < MaxCoordinate) || !(Math.Abs(to.Y) < MaxCoordinate))
+        {
+            _steps = MaxSteps;
+            return;
+        }
+
         if (_isDown)
         {
             if (_stroke.Count == 0)
@@ -195,7 +246,7 @@ internal sealed class ShapePen(Dictionary<int, byte[]> codes)
     // A bulge of 127 is a half circle; positive ones run counterclockwise.
     private void Bulge(Vec2 by, int bulge)
     {
-        Vec2 chord = by * _scale;
+        Vec2 chord = new Vec2(by.X * _stretch, by.Y) * _scale;
         double length = Math.Sqrt((chord.X * chord.X) + (chord.Y * chord.Y));
         if (bulge == 0 || length == 0)
         {

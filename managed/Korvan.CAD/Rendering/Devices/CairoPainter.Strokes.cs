@@ -20,6 +20,11 @@ internal sealed unsafe partial class CairoPainter
 
     private void Stroke(in DisplayItem item)
     {
+        if (item.TextHeight > 0 && _skipsStrokes)
+        {
+            return;
+        }
+
         double width = _settings.WidthOf(item);
         StrokeStyle style = _list.StyleOf(item) ?? _settings.StrokeStyle;
         if (!Crosses(item, width * Math.Max(1, style.Join == LineJoins.Miter ? style.MiterLimit : 1)))

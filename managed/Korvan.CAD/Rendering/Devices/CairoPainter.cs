@@ -54,6 +54,7 @@ internal sealed unsafe partial class CairoPainter
 
     private readonly nint _cr;
     private readonly TextEngine _engine;
+    private bool _skipsStrokes;
     private readonly DrawingList _list;
     private readonly PaintSettings _settings;
     private readonly Affine2 _map;
@@ -218,6 +219,12 @@ internal sealed unsafe partial class CairoPainter
         TextRun run = _list.TextOf(item);
         Affine2 toDevice = _map * run.Matrix;
         double area = Math.Abs(toDevice.Determinant);
+        if (run.IsHidden)
+        {
+            ReplaceStrokes(run, toDevice, item.Color);
+            return;
+        }
+
         if (!(area > SmallestText * SmallestText) || !IsNear(toDevice.X0, toDevice.Y0))
         {
             return;
@@ -250,6 +257,18 @@ internal sealed unsafe partial class CairoPainter
         }
 
         Cairo.Restore(_cr);
+    }
+
+    /// <summary>The strokes of a text that is too small to be read are not drawn, but a bar.</summary>
+    private void ReplaceStrokes(in TextRun run, in Affine2 toDevice, Rgba color)
+    {
+        double area = Math.Abs(toDevice.Determinant);
+        bool isTiny = !(area > SmallestText * SmallestText);
+        _skipsStrokes = isTiny || (area < BarText * BarText && _clip.IsBox && !_settings.Sharp);
+        if (_skipsStrokes && !isTiny && IsNear(toDevice.X0, toDevice.Y0))
+        {
+            Bar(run, toDevice, color);
+        }
     }
 
     /// <summary>Draws what is seen of a text too small to be read: a faint bar.</summary>

@@ -198,7 +198,7 @@ internal abstract class PagePlayer
     {
         TextRun run = _list.TextOf(item);
         Affine2 matrix = _map * run.Matrix;
-        if (Math.Abs(matrix.Determinant) > SmallestText * SmallestText * _scale * _scale)
+        if (!run.IsHidden && Math.Abs(matrix.Determinant) > SmallestText * SmallestText * _scale * _scale)
         {
             Text(run, matrix, item.Color);
         }

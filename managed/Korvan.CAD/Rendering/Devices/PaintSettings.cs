@@ -7,6 +7,9 @@ namespace Korvan.CAD.Rendering.Devices;
 /// <summary>How one list is put on one surface.</summary>
 internal readonly record struct PaintSettings
 {
+    /// <summary>The widest stroke of a character, as a share of its height.</summary>
+    private const double MaxStrokeShare = 0.14;
+
     public PaintSettings()
     {
     }
@@ -50,6 +53,14 @@ internal readonly record struct PaintSettings
     internal double WidthOf(in DisplayItem item)
     {
         double unit = item.WeightInUnits ? Math.Sqrt(Math.Abs(ToDevice.Determinant)) : LineScale * UnitsPerMillimetre;
-        return Math.Max(item.LineWeight * unit, Hairline);
+        double width = item.LineWeight * unit;
+        if (item.TextHeight > 0 && !Sharp)
+        {
+            // Wider strokes would fill small characters.
+            double most = item.TextHeight * MaxStrokeShare * Math.Sqrt(Math.Abs(ToDevice.Determinant));
+            return Math.Min(Math.Max(width, Hairline), Math.Max(most, Hairline / 2));
+        }
+
+        return Math.Max(width, Hairline);
     }
 }

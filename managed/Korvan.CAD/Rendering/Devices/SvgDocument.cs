@@ -193,16 +193,30 @@ internal sealed partial class SvgDocument
     private int WriteTexts(ReadOnlySpan<DisplayItem> items)
     {
         ref readonly DisplayItem first = ref items[0];
-        int font = _list.TextOf(first).Font;
+        (int font, bool isHidden) = (_list.TextOf(first).Font, _list.TextOf(first).IsHidden);
         int count = 1;
         while (count < items.Length && items[count].Kind == DisplayKind.Text && items[count].Color == first.Color
-            && items[count].Layer == first.Layer && _list.TextOf(items[count]).Font == font)
+            && items[count].Layer == first.Layer && _list.TextOf(items[count]).Font == font
+            && _list.TextOf(items[count]).IsHidden == isHidden)
         {
             count++;
         }
 
+        if (isHidden && !_text.IsSearchable)
+        {
+            return count;
+        }
+
         _writer.Raw("<g"u8);
-        WriteFill(first.Color);
+        if (isHidden)
+        {
+            _writer.Raw(" fill=\"none\" stroke=\"none\""u8);
+        }
+        else
+        {
+            WriteFill(first.Color);
+        }
+
         _text.WriteFont(font);
         _writer.Raw(">\n"u8);
         foreach (ref readonly DisplayItem item in items[..count])

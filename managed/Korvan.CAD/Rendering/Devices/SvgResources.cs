@@ -63,7 +63,7 @@ internal sealed class SvgResources(SvgOptions options)
         {
             foreach (ref readonly DisplayItem item in list.Items)
             {
-                if (item.Kind == DisplayKind.Text)
+                if (item.Kind == DisplayKind.Text && !list.TextOf(item).IsHidden)
                 {
                     fonts.Add(list.TextOf(item).Font);
                 }

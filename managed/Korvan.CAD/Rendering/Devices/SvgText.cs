@@ -10,6 +10,9 @@ namespace Korvan.CAD.Rendering.Devices;
 /// <summary>How the runs of text of a document are written.</summary>
 internal abstract class SvgText : IDisposable
 {
+    /// <summary>Gets whether text is written as text.</summary>
+    internal virtual bool IsSearchable => false;
+
     /// <summary>Writes the attributes that the runs of a font share.</summary>
     internal abstract void WriteFont(int font);
 
@@ -24,6 +27,8 @@ internal abstract class SvgText : IDisposable
 internal sealed class SvgStrings(MarkupWriter writer, TextEngine engine) : SvgText
 {
     private const double FontSize = 100;
+
+    internal override bool IsSearchable => true;
 
     internal override void WriteFont(int font)
     {

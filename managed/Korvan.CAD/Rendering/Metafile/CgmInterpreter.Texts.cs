@@ -5,6 +5,7 @@ using System.Text;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cgm.Commands;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.Rendering.Scene;
 using Horizontal = Korvan.CAD.FileFormats.Cgm.Commands.TextAlignment.HorizontalAlignmentType;
 using TextElement = Korvan.CAD.FileFormats.Cgm.Commands.Text;
 using Vertical = Korvan.CAD.FileFormats.Cgm.Commands.TextAlignment.VerticalAlignmentType;
@@ -61,7 +62,7 @@ internal sealed partial class CgmInterpreter
         }
 
         TextState style = _state.CurrentText();
-        int font = _canvas.Engine.Font(FontNames.Find(_state.FontName(style)));
+        int font = _canvas.Engine.Font(FontNames.Find(_state.FontName(style)) with { Stroke = null });
         double height = style.HeightIn(_picture.Frame);
         string content = Printable(text.Content);
         if (content.Length > 0 && height > 0)
@@ -181,7 +182,8 @@ internal sealed partial class CgmInterpreter
     {
         double em = EmOf(piece);
         Affine2 matrix = frame * new Affine2(em * piece.Expansion, 0, 0, em, 0, 0);
-        _canvas.Text(content, piece.Font, matrix, CharacterSpacing(piece), piece.Color, _layer);
+        _canvas.Text(
+            content, piece.Font, matrix, CharacterSpacing(piece), new Pen { Color = piece.Color, Layer = _layer });
     }
 
     private double EmOf(in Piece piece) => piece.Height / _canvas.Engine.CapRatio(piece.Font);

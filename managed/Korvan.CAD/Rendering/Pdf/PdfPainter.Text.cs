@@ -43,8 +43,12 @@ internal sealed partial class PdfPainter
         {
             if (part.HasGlyphs && _document.Fonts.Of(part.Font) is null)
             {
-                PdfFonts.NoteOutlines(part.Font, _page.Notes);
-                Outline(run, map, item.Color);
+                if (!run.IsHidden)
+                {
+                    PdfFonts.NoteOutlines(part.Font, _page.Notes);
+                    Outline(run, map, item.Color);
+                }
+
                 return;
             }
         }
@@ -54,11 +58,11 @@ internal sealed partial class PdfPainter
         {
             if (part.HasGlyphs)
             {
-                Show(part, _document.Fonts.Of(part.Font)!, line.Text, map, item.Color);
+                Show(part, _document.Fonts.Of(part.Font)!, line.Text, map, run.IsHidden ? null : item.Color);
             }
         }
 
-        if (line.UnknownGlyphs > 0)
+        if (line.UnknownGlyphs > 0 && !run.IsHidden)
         {
             Boxes(line, map, item.Color);
         }
@@ -90,7 +94,8 @@ internal sealed partial class PdfPainter
         }
     }
 
-    private void Show(ShapedRun run, PdfFont font, string text, in Affine2 map, Rgba color)
+    /// <summary>Shows glyphs; without a colour, they are there to be searched and copied alone.</summary>
+    private void Show(ShapedRun run, PdfFont font, string text, in Affine2 map, Rgba? color)
     {
         Affine2 shape = map * run.Font.Matrix;
         double size = Math.Sqrt((shape.Xy * shape.Xy) + (shape.Yy * shape.Yy));
@@ -100,9 +105,13 @@ internal sealed partial class PdfPainter
         }
 
         BeginText();
-        SetFill(color);
+        if (color is { } visible)
+        {
+            SetFill(visible);
+        }
+
         SetFont(font, size);
-        SetBolder(run.Font.IsEmboldened, color, size);
+        SetMode(run.Font.IsEmboldened, color, size);
         var shown = new TextShow(this, font, text, map, shape, size, run.Font.IsEmboldened ? BolderShare / 2 : 0);
         foreach (ref readonly ShapedGlyph glyph in run.Glyphs.AsSpan())
         {
@@ -128,18 +137,19 @@ internal sealed partial class PdfPainter
     }
 
     /// <summary>Outlines that are made bolder are filled, and stroked with a round pen.</summary>
-    private void SetBolder(bool bolder, Rgba color, double size)
+    private void SetMode(bool bolder, Rgba? color, double size)
     {
-        int mode = bolder ? 2 : 0;
+        const int filled = 0, filledAndStroked = 2, invisible = 3;
+        int mode = color is null ? invisible : bolder ? filledAndStroked : filled;
         if (mode != _state.TextMode)
         {
             _out.Int(mode).Raw(" Tr\n"u8);
             _state.TextMode = mode;
         }
 
-        if (bolder)
+        if (bolder && color is { } visible)
         {
-            SetStrokeColor(_document.Flatten(color, _settings, _page.Notes));
+            SetStrokeColor(_document.Flatten(visible, _settings, _page.Notes));
             SetWidth(size * BolderShare);
             if (_state.Dash >= 0)
             {

@@ -4,6 +4,7 @@ using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
+using Korvan.CAD.Rendering.Text.Strokes;
 
 namespace Korvan.CAD.Rendering.Scene;
 
@@ -118,10 +119,12 @@ internal sealed class Canvas
             new StrokeAttributes { Color = pen.Color, LineWeight = pen.LineWeight, Layer = pen.Layer });
     }
 
-    /// <summary>One run at a place: the matrix maps the run's ems to the page.</summary>
-    internal void Text(string text, int font, in Affine2 matrix, double letterSpacing, Rgba color, int layer)
+    /// <summary>One run at a place: the matrix maps the run's ems to the page. The pen draws the strokes of a stroke
+    /// font.</summary>
+    internal void Text(string text, int font, in Affine2 matrix, double letterSpacing, in Pen pen)
     {
-        double advance = Engine.Advance(font, text, letterSpacing);
+        StrokeLine? strokes = Engine.StrokesOf(font, text, letterSpacing);
+        double advance = strokes?.Advance ?? Engine.Advance(font, text, letterSpacing);
         double cap = Engine.CapRatio(font);
         Bounds2 box = Bounds2.Empty;
         for (int corner = 0; corner < 4; corner++)
@@ -130,11 +133,41 @@ internal sealed class Canvas
             box.Add(p.X, p.Y);
         }
 
-        if (text.AsSpan().Trim().Length > 0)
+        if (text.AsSpan().Trim().Length == 0)
         {
-            List.Text(new TextRun(text, font, matrix, letterSpacing) { Advance = advance }, color, layer, box);
+            return;
         }
+
+        int outline = Engine.OutlineOf(font);
+        if (strokes is null)
+        {
+            double width = Engine.WidthOf(font);
+            var run = new TextRun(text, outline, Wider(matrix, width), letterSpacing / width);
+            List.Text(run with { Advance = advance / width }, pen.Color, pen.Layer, box);
+            return;
+        }
+
+        double own = Engine.HiddenAdvance(outline, text);
+        if (own > 0 && advance > 0)
+        {
+            List.Text(
+                new TextRun(text, outline, Wider(matrix, advance / own), 0) { Advance = own, IsHidden = true },
+                pen.Color, pen.Layer, box);
+        }
+
+        PathBuffer path = NewPath();
+        path.AppendMapped(strokes.Path, matrix);
+        List.Stroke(path, new StrokeStyle
+        {
+            Color = pen.Color,
+            LineWeight = pen.LineWeight,
+            Dash = -1,
+            Layer = pen.Layer,
+            TextHeight = (float)(cap * Math.Sqrt(Math.Abs(matrix.Determinant))),
+        });
     }
+
+    private static Affine2 Wider(in Affine2 matrix, double factor) => matrix * new Affine2(factor, 0, 0, 1, 0, 0);
 
     private int DashIndex(in Pen pen)
     {
@@ -236,7 +269,7 @@ internal sealed class Canvas
             double angle = Math.Atan2(direction.Y, direction.X) + _text.Rotation;
             (double sin, double cos) = Math.SinCos(angle);
             var matrix = new Affine2(cos * em, sin * em, -sin * em, cos * em, origin.X, origin.Y);
-            _canvas.Text(_text.Text, _font, matrix, 0, _pen.Color, _pen.Layer);
+            _canvas.Text(_text.Text, _font, matrix, 0, _pen);
         }
     }
 }

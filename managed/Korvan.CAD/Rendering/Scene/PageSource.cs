@@ -92,7 +92,7 @@ internal sealed class PageSource
         }
 
         _options.Notes.AddSkipped(list);
-        _options.Notes.SetGlyphs(_engine);
+        _options.Notes.SetFonts(_engine);
         PageLayout place = PageLayout.Create(_options.Request(), list.Bounds, sheet, _sharedScale);
         if (!_options.FitEachLayout)
         {
@@ -196,7 +196,8 @@ internal sealed class PageSource
         Vec2 start = new Vec2(place.Width / 2, place.Height / 2)
             - (new Vec2(cos, -sin) * (advance * em / 2)) + (new Vec2(sin, cos) * (em * _engine.CapRatio(font) / 2));
         var matrix = new Affine2(cos * em, -sin * em, -sin * em, -cos * em, start.X, start.Y);
-        new Canvas(list, _engine).Text(_options.Watermark, font, matrix, 0, _options.WatermarkColor, -1);
+        new Canvas(list, _engine).Text(
+            _options.Watermark, font, matrix, 0, new Pen { Color = _options.WatermarkColor, Layer = -1 });
         return list;
     }
 

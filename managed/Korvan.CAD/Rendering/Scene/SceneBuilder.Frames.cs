@@ -37,7 +37,7 @@ internal sealed partial class SceneBuilder
 
     void IGeometrySink.Shape(CadShape shape, Vec3 at)
     {
-        if (_tables.Shapes.Find(shape.ShapeName) is not { } strokes)
+        if ((_tables.Shapes.Find(shape.ShapeName) ?? _canvas.Engine.FindSymbol(shape.ShapeName)) is not { } strokes)
         {
             List.Skip(shape.TypeNameText + DrawingList.MissingFile);
             return;

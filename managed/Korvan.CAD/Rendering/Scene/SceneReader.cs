@@ -7,6 +7,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Scene;
 
@@ -41,6 +42,7 @@ internal static class SceneReader
     /// <summary>The tables of a drawing, without its blocks.</summary>
     internal static SceneTables ReadTables(CadDrawing drawing)
     {
+        TextEngine.ProvideFontList();
         var tables = new SceneTables
         {
             Settings = Settings(drawing),

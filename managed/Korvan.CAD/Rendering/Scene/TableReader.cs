@@ -106,7 +106,9 @@ internal static class TableReader
         string family = style.FontFamily;
         if (family.Length == 0)
         {
-            return FontTable.FromFile(style.PrimaryFontName);
+            FontSpec font = FontTable.FromFile(style.PrimaryFontName);
+            string big = FontTable.NameOf(style.BigFontName);
+            return font.Stroke is null || big.Length == 0 ? font : font with { BigFont = big };
         }
 
         CadCodeValue? bits = style.XdataOrNull?.Find("ACAD")?.Data.Find(static tag => tag.Attribute == 1071);

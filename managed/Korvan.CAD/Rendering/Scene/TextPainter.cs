@@ -72,7 +72,7 @@ internal static class TextPainter
         {
             double width = canvas.Engine.Advance(font, piece.Text);
             Affine2 matrix = plane * local * new Affine2(1, 0, 0, 1, pen0, 0);
-            canvas.Text(piece.Text, font, matrix, 0, pen.Color, pen.Layer);
+            canvas.Text(piece.Text, font, matrix, 0, pen);
             DrawBars(canvas, piece, matrix, width, canvas.Engine.CapRatio(font), pen);
             pen0 += width;
         }
@@ -86,8 +86,9 @@ internal static class TextPainter
         foreach (PlacedRun run in layout.Runs)
         {
             var local = new Affine2(run.Em * run.WidthFactor, 0, run.Em * run.Slant, run.Em, run.X, run.Y);
-            canvas.Text(
-                run.Text, run.Font, plane * local, run.LetterSpacing, Color(run.Color, pen, colorOf), pen.Layer);
+            Pen own = pen;
+            own.Color = Color(run.Color, pen, colorOf);
+            canvas.Text(run.Text, run.Font, plane * local, run.LetterSpacing, own);
         }
 
         foreach (PlacedBar bar in layout.Bars)

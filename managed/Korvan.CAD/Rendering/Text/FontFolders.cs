@@ -3,6 +3,7 @@ using System.Collections.Generic;
 using System.IO;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Rendering.Native;
+using Korvan.CAD.Rendering.Text.Strokes;
 
 namespace Korvan.CAD.Rendering.Text;
 
@@ -20,6 +21,8 @@ internal sealed class FontFolders : IDisposable
 
     private readonly Dictionary<string, string> _families = new(StringComparer.OrdinalIgnoreCase);
 
+    private readonly HashSet<string> _names = new(StringComparer.OrdinalIgnoreCase);
+
     private readonly NativeHandle _config;
 
     private FontFolders(bool withSystem) => _config = Fontconfig.NewConfig(withSystem);
@@ -28,7 +31,7 @@ internal sealed class FontFolders : IDisposable
     internal nint Config => _config.Pointer;
 
     /// <summary>The fonts that the options name, or null when they name no folder.</summary>
-    internal static FontFolders? Of(LoadOptions options)
+    internal static FontFolders? Of(LoadOptions options, StrokeFaces strokes)
     {
         NativeLibraries.Require();
         if (options.CustomFontFolders.Length == 0)
@@ -40,7 +43,7 @@ internal sealed class FontFolders : IDisposable
             (options.CustomFontFolderOptions & CustomFontFolderOptions.IgnoreSystemFonts) == 0);
         try
         {
-            folders.Fill(options);
+            folders.Fill(options, strokes);
             return folders;
         }
         catch
@@ -58,21 +61,27 @@ internal sealed class FontFolders : IDisposable
         return _families.TryGetValue(first.Trim(), out string? family) ? family + "," + families : families;
     }
 
+    /// <summary>Determines whether the folders have a family, or a file of its name.</summary>
+    internal bool Knows(string family) => _families.ContainsKey(family) || _names.Contains(family);
+
     public void Dispose()
     {
         _config.Dispose();
     }
 
-    private void Fill(LoadOptions options)
+    private void Fill(LoadOptions options, StrokeFaces strokes)
     {
         bool deep = (options.CustomFontFolderOptions & CustomFontFolderOptions.IncludeSubfolders) != 0;
         HashSet<string> files = new(StringComparer.OrdinalIgnoreCase);
+        int compiled = 0;
         foreach (string folder in options.CustomFontFolders)
         {
             AddFolder(folder, deep ? WholeTree : TopOnly, files);
+            compiled += strokes.AddFolder(folder, deep ? WholeTree : TopOnly);
         }
 
-        if (files.Count == 0)
+        bool isAlone = (options.CustomFontFolderOptions & CustomFontFolderOptions.IgnoreSystemFonts) != 0;
+        if (files.Count == 0 && (compiled == 0 || isAlone))
         {
             throw new RenderException(
                 $"There are no fonts in the custom folders {string.Join(", ", options.CustomFontFolders)}"
@@ -83,6 +92,7 @@ internal sealed class FontFolders : IDisposable
         {
             if (files.Contains(file))
             {
+                _names.Add(family);
                 _families.TryAdd(Path.GetFileNameWithoutExtension(file), family);
             }
         }

@@ -5,6 +5,7 @@ using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Native;
+using Korvan.CAD.Rendering.Text.Strokes;
 
 namespace Korvan.CAD.Rendering.Text;
 
@@ -35,12 +36,19 @@ internal sealed unsafe class TextEngine : IDisposable
     private const int MaxCharacters = 32_768;
     private const double DefaultCapRatio = 0.7;
 
+    /// <summary>Replacements whose width differs by less are not fitted.</summary>
+    private const double SmallestFit = 0.02;
+
     private readonly List<NativeHandle> _descriptions = [];
     private readonly List<FontSpec> _specs = [];
     private readonly List<double> _capRatios = [];
     private readonly Dictionary<FontSpec, int> _fonts = [];
     private readonly List<Dictionary<string, ShapedLine>> _lines = [];
+    private readonly List<FontUse> _faces = [];
+    private readonly List<Dictionary<string, StrokeLine?>> _strokes = [];
+    private readonly SortedDictionary<string, string> _replaced = new(StringComparer.OrdinalIgnoreCase);
     private readonly FontUses _uses = new();
+    private readonly StrokeFaces _strokeFaces;
     private readonly GlyphRendering _look;
     private readonly FontFolders? _folders;
     private readonly bool _ownsFolders;
@@ -54,16 +62,17 @@ internal sealed unsafe class TextEngine : IDisposable
 
     /// <summary>An engine. Fonts of other folders than those of the system are taken over, and released with the
     /// engine.</summary>
-    internal TextEngine(GlyphRendering look = default, FontFolders? folders = null)
-        : this(look, folders, ownsFolders: true)
+    internal TextEngine(GlyphRendering look = default, FontFolders? folders = null, StrokeFaces? strokes = null)
+        : this(look, folders, ownsFolders: true, strokes ?? new StrokeFaces())
     {
     }
 
-    private TextEngine(GlyphRendering look, FontFolders? folders, bool ownsFolders)
+    private TextEngine(GlyphRendering look, FontFolders? folders, bool ownsFolders, StrokeFaces strokes)
     {
         Lifetime = new Lifetime(Release);
+        _strokeFaces = strokes;
         NativeLibraries.Require();
-        FontTable.ListInstalled = static () => Fontconfig.ListFonts();
+        ProvideFontList();
         _look = look;
         _folders = folders;
         _ownsFolders = ownsFolders;
@@ -89,11 +98,27 @@ internal sealed unsafe class TextEngine : IDisposable
     /// <summary>Gets what keeps the engine for work that outlives its owner.</summary>
     internal Lifetime Lifetime { get; }
 
+    /// <summary>Lets the tables of drawings know the fonts that are installed; none where the libraries are
+    /// missing.</summary>
+    internal static void ProvideFontList() => FontTable.ListInstalled = static () =>
+    {
+        try
+        {
+            NativeLibraries.Require();
+        }
+        catch (RenderException)
+        {
+            return [];
+        }
+
+        return Fontconfig.ListFonts();
+    };
+
     /// <summary>Creates an engine for another thread, which gives fonts the same numbers. It has to be released before
     /// this one.</summary>
     internal TextEngine ForThread()
     {
-        var engine = new TextEngine(_look, _folders, ownsFolders: false);
+        var engine = new TextEngine(_look, _folders, ownsFolders: false, _strokeFaces);
         _specs.ForEach(spec => engine.Font(spec));
         return engine;
     }
@@ -116,13 +141,101 @@ internal sealed unsafe class TextEngine : IDisposable
             index = _descriptions.Count;
             _descriptions.Add(Describe(spec));
             _lines.Add([]);
+            _strokes.Add([]);
             _specs.Add(spec);
             _fonts.Add(spec, index);
             _capRatios.Add(MeasureCapRatio(index));
+            _faces.Add(new FontUse(index, null, 1));
+            _faces[index] = UseOf(spec, index);
         }
 
         return index;
     }
+
+    /// <summary>Returns the strokes of a symbol of the compiled fonts, in units of its file; null for none.</summary>
+    internal List<Vec2[]>? FindSymbol(string name) => _strokeFaces.FindSymbol(name);
+
+    /// <summary>Gets the fonts that drawings name and that were replaced, with what they were replaced by.</summary>
+    internal IReadOnlyDictionary<string, string> Replaced => _replaced;
+
+    /// <summary>Returns the font that shows the outlines of another one: that one itself, unless it is drawn by strokes
+    /// or made as wide as the one that it replaces.</summary>
+    internal int OutlineOf(int font) => _faces[font].Outline;
+
+    /// <summary>Returns the factor on the width of the outlines of a font.</summary>
+    internal double WidthOf(int font) => _faces[font].Width;
+
+    /// <summary>Returns the strokes of a run; null where its font has none, or not for all characters.</summary>
+    internal StrokeLine? StrokesOf(int font, string text, double letterSpacing)
+    {
+        if (_faces[font].Strokes is not { } face || text.Length == 0)
+        {
+            return null;
+        }
+
+        Dictionary<string, StrokeLine?> known = _strokes[font];
+        string key = letterSpacing == 0 ? text : $"{letterSpacing:R}\0{text}";
+        if (!known.TryGetValue(key, out StrokeLine? line))
+        {
+            line = StrokeRun.Draw(face, text, CapRatio(font), letterSpacing);
+            if (known.Count >= MaxCachedLines)
+            {
+                known.Clear();
+            }
+
+            known.Add(key, line);
+        }
+
+        return line;
+    }
+
+    /// <summary>How far the pen moves over the outlines of a text, in ems. Characters that no font has do not count as
+    /// unknown, since they are drawn otherwise.</summary>
+    internal double HiddenAdvance(int font, string text)
+    {
+        int unknown = UnknownGlyphs;
+        double advance = Advance(font, text);
+        UnknownGlyphs = unknown;
+        return advance;
+    }
+
+    private FontUse UseOf(in FontSpec spec, int index)
+    {
+        if (spec.IsPlain)
+        {
+            return new FontUse(index, null, 1);
+        }
+
+        FontSpec plain = spec with { Stroke = null, BigFont = null, IsPlain = true };
+        if (spec.Stroke is not null)
+        {
+            StrokeFace? strokes = _strokeFaces.Find(spec, _replaced);
+            if (strokes is null)
+            {
+                _replaced.TryAdd(spec.Stroke + ".shx", FirstOf(spec.Family));
+            }
+
+            return new FontUse(Font(plain), strokes, 1);
+        }
+
+        string family = FirstOf(spec.Family);
+        if (spec == FontSpec.Default || _folders?.Knows(family) == true || FontTable.IsInstalled(family))
+        {
+            return new FontUse(index, null, 1);
+        }
+
+        _replaced.TryAdd(family, ReplacementOf(index));
+        double factor = FontWidths.FactorOf(family, Advance(index, "0"));
+        return Math.Abs(factor - 1) < SmallestFit
+            ? new FontUse(index, null, 1)
+            : new FontUse(Font(plain), null, factor);
+    }
+
+    private static string FirstOf(string families) => families.Split(',')[0].Trim();
+
+    private string ReplacementOf(int font) => FileOf(font) is { } file
+        ? FontTable.FamilyOf(file) ?? System.IO.Path.GetFileNameWithoutExtension(file)
+        : "no font";
 
     internal FontSpec SpecOf(int font) => _specs[font];
 
@@ -131,8 +244,17 @@ internal sealed unsafe class TextEngine : IDisposable
     internal double CapRatio(int font) => _capRatios[font];
 
     /// <summary>How far the pen moves over the text, in ems.</summary>
-    internal double Advance(int font, string text, double letterSpacing = 0) =>
-        text.Length == 0 ? 0 : Line(font, text, letterSpacing).Advance;
+    internal double Advance(int font, string text, double letterSpacing = 0)
+    {
+        if (text.Length == 0)
+        {
+            return 0;
+        }
+
+        (int outline, _, double width) = _faces[font];
+        return StrokesOf(font, text, letterSpacing)?.Advance
+            ?? Line(outline, text, letterSpacing / width).Advance * width;
+    }
 
     /// <summary>The glyphs of a run.</summary>
     internal ShapedLine Line(in TextRun run) => Line(run.Font, run.Text, run.LetterSpacing);
@@ -223,6 +345,9 @@ internal sealed unsafe class TextEngine : IDisposable
         return Fontconfig.FileOf(
             _folders?.Config ?? 0, _folders?.Resolve(spec.Family) ?? spec.Family, spec.Bold, spec.Italic);
     }
+
+    /// <summary>How a font is shown: by the outlines of a font, made wider or narrower, or by strokes.</summary>
+    private readonly record struct FontUse(int Outline, StrokeFace? Strokes, double Width);
 
     private NativeHandle Describe(FontSpec spec)
     {

@@ -12,6 +12,9 @@ namespace Korvan.CAD.Tests.Rendering;
 /// <summary>A drawing put on a page of 100 × 100 pixels, one to a unit, its lower left corner at the origin.</summary>
 internal sealed class TestPage : IDisposable
 {
+    /// <summary>The file of a font that is installed.</summary>
+    internal const string OutlineFont = "LiberationSans-Regular.ttf";
+
     private readonly RasterPage _page;
 
     private TestPage(RasterPage page) => _page = page;
@@ -35,9 +38,11 @@ internal sealed class TestPage : IDisposable
         return new TestPage(Rasterizer.Draw(drawing, new PngOptions { VectorRasterizationOptions = raster }));
     }
 
+    /// <summary>A drawing whose texts have an outline font.</summary>
     internal static CadImage Drawing(params CadEntityBase[] entities)
     {
         var drawing = new CadImage();
+        drawing.Styles[0].PrimaryFontName = OutlineFont;
         foreach (CadEntityBase entity in entities)
         {
             drawing.AddEntity(entity.Home is null ? entity : entity.Clone());

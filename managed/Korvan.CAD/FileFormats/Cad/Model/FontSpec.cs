@@ -4,4 +4,14 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 internal readonly record struct FontSpec(string Family, bool Bold = false, bool Italic = false)
 {
     internal static readonly FontSpec Default = new("Liberation Sans,DejaVu Sans");
+
+    /// <summary>Gets the name of the stroke font that the face stands for, without its extension; null for
+    /// none.</summary>
+    internal string? Stroke { get; init; }
+
+    /// <summary>Gets the name of the big font beside the stroke font, without its extension; null for none.</summary>
+    internal string? BigFont { get; init; }
+
+    /// <summary>Gets whether the face is used as it is, with its own widths.</summary>
+    internal bool IsPlain { get; init; }
 }

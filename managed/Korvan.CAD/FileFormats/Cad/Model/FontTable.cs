@@ -73,7 +73,16 @@ internal static class FontTable
         ["symbol"] = new("Symbol,Standard Symbols PS,DejaVu Sans"),
     };
 
-    private static readonly Lazy<Dictionary<string, string>> InstalledFiles = new(ReadInstalledFiles);
+    private static Dictionary<string, string>? _installedFiles;
+    private static HashSet<string>? _installedFamilies;
+
+    // Tables may be read before there is a text engine: a list without fonts is not final.
+    private static Dictionary<string, string> InstalledFiles =>
+        _installedFiles is { Count: > 0 } known ? known : _installedFiles = ReadInstalledFiles();
+
+    private static HashSet<string> InstalledFamilies => _installedFamilies is { Count: > 0 } known
+        ? known
+        : _installedFamilies = new HashSet<string>(InstalledFiles.Values, StringComparer.OrdinalIgnoreCase);
 
     /// <summary>Gets or sets what lists the font files that are installed, with their families; the text engine knows
     /// them.</summary>
@@ -100,7 +109,8 @@ internal static class FontTable
 
         if (!IsOutlineFile(file))
         {
-            return StrokeFonts.TryGetValue(stem, out FontSpec stroke) ? stroke : FontSpec.Default;
+            FontSpec nearest = StrokeFonts.TryGetValue(stem, out FontSpec stroke) ? stroke : FontSpec.Default;
+            return nearest with { Stroke = stem };
         }
 
         if (OutlineFiles.TryGetValue(stem, out FontSpec known))
@@ -108,10 +118,23 @@ internal static class FontTable
             return known;
         }
 
-        return InstalledFiles.Value.TryGetValue(stem, out string? family)
+        return InstalledFiles.TryGetValue(stem, out string? family)
             ? new FontSpec(family + "," + Sans)
             : new FontSpec(Path.GetFileNameWithoutExtension(file) + "," + Sans);
     }
+
+    /// <summary>Determines whether a family is installed.</summary>
+    internal static bool IsInstalled(string family) => InstalledFamilies.Contains(family);
+
+    /// <summary>Returns the family of an installed file; null where it is not known.</summary>
+    internal static string? FamilyOf(string file) =>
+        InstalledFiles.GetValueOrDefault(Path.GetFileNameWithoutExtension(file));
+
+    /// <summary>Determines whether a name is that of a common stroke font.</summary>
+    internal static bool IsStrokeFont(string name) => StrokeFonts.ContainsKey(name);
+
+    /// <summary>Returns the name of a font file without folder and extension; empty for none.</summary>
+    internal static string NameOf(string file) => string.IsNullOrWhiteSpace(file) ? "" : Stem(file);
 
     /// <summary>The face for a bare name, which may be a stroke font without its extension or a family.</summary>
     internal static FontSpec FromName(string name) =>
