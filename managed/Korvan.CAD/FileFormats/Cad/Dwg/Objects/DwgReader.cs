@@ -1,5 +1,4 @@
 using System;
-using System.Buffers.Binary;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
@@ -73,14 +72,18 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
 
     private void VerifyChecksum(in RecordHeader header, int index)
     {
-        long start = file.Map.Offsets[index];
-        if (!file.HasRightChecksum(start, header.End >> 3))
+        if (!IsWhole(header, index))
         {
-            string handle = HandleText.Format(file.Map.Handles[index]);
-            file.Source.Report(LoadDefectCode.WrongChecksum, $"{Section}, object {handle}",
-                file.Release <= 2000 ? start : -1, "the record has another checksum than it states");
+            file.Source.Report(
+                LoadDefectCode.WrongChecksum,
+                PlaceOf(index, "object"),
+                file.Release <= LastPlainRelease ? file.Map.Offsets[index] : -1,
+                "the record has another checksum than it states");
         }
     }
+
+    private bool IsWhole(in RecordHeader header, int index) =>
+        file.HasRightChecksum(file.Map.Offsets[index], header.End >> 3);
 
     private void ReadControl(RecordReader reader, RecordHeader? found, int index)
     {
@@ -129,12 +132,11 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
             return;
         }
 
-        bool isWhole = VerifyChecksum(header, index);
         try
         {
             _objects.Set(index, reader.Read(header));
         }
-        catch (DwgFault fault) when (isWhole && !ObjectTypeTable.IsRecord(header.Type))
+        catch (DwgFault fault) when (IsWhole(header, index) && !ObjectTypeTable.IsRecord(header.Type))
         {
             Keep(reader, header, index, fault);
         }
@@ -142,27 +144,6 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
         {
             Report(fault, index, reader.NameOf(header.Type));
         }
-    }
-
-    // Later releases have checksums of their pages, which were verified before.
-    private bool VerifyChecksum(in RecordHeader header, int index)
-    {
-        if (file.Release > LastPlainRelease)
-        {
-            return true;
-        }
-
-        ReadOnlySpan<byte> rest = file.Objects.AsSpan((int)file.Map.Offsets[index]);
-        int end = (int)((header.End >> 3) - file.Map.Offsets[index]);
-        if (rest.Length >= end + sizeof(ushort)
-            && Crc16.Compute(Crc16.Seed, rest[..end]) == BinaryPrimitives.ReadUInt16LittleEndian(rest[end..]))
-        {
-            return true;
-        }
-
-        file.Source.Report(
-            LoadDefectCode.WrongChecksum, PlaceOf(index, "object"), file.Map.Offsets[index], "its checksum is wrong");
-        return false;
     }
 
     // A record that is whole and cannot be read has fields that its class does not know: it is kept like one without a
