@@ -32,7 +32,8 @@ public sealed class StrokeTextTests : IDisposable
         IEnumerable<int> wanted = Enumerable.Range(0x20, 95).Concat(Enumerable.Range(0xA0, 224))
             .Concat(Enumerable.Range(0x391, 17)).Concat(Enumerable.Range(0x3A3, 39))
             .Concat(Enumerable.Range(0x401, 79))
-            .Concat("ёђѓєѕіїјљњћќўџ⌀□⅓⅔⅛⅜⅝⅞≤≥–„“€".Select(static c => (int)c));
+            .Concat("ёђѓєѕіїјљњћќўџ⌀□⅓⅔⅛⅜⅝⅞≤≥–„“€".Select(
+                static c => (int)c));
         int[] lacking = [.. wanted.Where(static c => StrokeGlyphs.Face.Find(c) is null)];
         Assert.True(lacking.Length == 0, string.Join(' ', lacking.Select(static c => $"U+{c:X4}")));
         foreach (int character in StrokeGlyphs.Face.Characters.Where(static c => !StrokeGlyphs.IsMark(c)))
@@ -105,7 +106,10 @@ public sealed class StrokeTextTests : IDisposable
         CadImage drawing = Drawing("Simplex", "A", "KANJI.SHX");
         drawing.AddEntity(new CadText
         {
-            DefaultValue = "\u65e5", StyleType = "S", TextHeight = 10, FirstAlignment = new Cad3DPoint(50, 0, 0),
+            DefaultValue = "\u65e5",
+            StyleType = "S",
+            TextHeight = 10,
+            FirstAlignment = new Cad3DPoint(50, 0, 0),
         });
         PngOptions options = Png([_folder], [CodePages.Japanese]);
         DrawingList list = Build(drawing, Faces([_folder], [CodePages.Japanese]));

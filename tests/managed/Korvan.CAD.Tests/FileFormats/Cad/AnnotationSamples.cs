@@ -68,8 +68,8 @@ internal static partial class ObjectSamples
             o => (o.Name, o.Intensity, o.Target.Z, o.AttenuationStart), o => o.Position.Z = 0, ("Spot", 5.5, 6.0, 1.0)),
         Sample<CadMLeaderStyleObject>("MLEADERSTYLE", "100 AcDbMLeaderStyle|179 2|170 2|171 1|172 0|90 2|40 0|41 0.5|"
             + "173 1|91 -1056964608|340 14|92 -2|290 1|42 2|291 1|43 8|3 Standard|341 0|44 4|300 text|342 11|174 1|"
-            + "178 1|175 1|176 0|93 -1056964608|45 4|292 0|297 0|46 4|343 0|94 -1056964608|47 1|49 1|140 1|293 1|141 0|294 1|"
-            + "177 0|142 1|295 0|296 0|143 3.75|271 0|272 9|273 9|298 0",
+            + "178 1|175 1|176 0|93 -1056964608|45 4|292 0|297 0|46 4|343 0|94 -1056964608|47 1|49 1|140 1|293 1|"
+            + "141 0|294 1|177 0|142 1|295 0|296 0|143 3.75|271 0|272 9|273 9|298 0",
             o => (o.ContentType, o.SecondSegmentAngle, o.LandingGap), o => o.LandingGap = 3, ((short)2, 0.5, 2.0)),
         Sample<CadMLineStyleObject>("MLINESTYLE", "100 AcDbMlineStyle|2 Walls|70 0|3 Two lines|62 256|51 90|52 45|71 2|"
             + "49 0.5|62 1|6 DASHED|49 -0.5|62 256|6 BYLAYER",

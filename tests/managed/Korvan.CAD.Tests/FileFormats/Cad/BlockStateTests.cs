@@ -68,9 +68,9 @@ public class BlockStateTests
         + Dictionary("F5", "3|ACAD_ENHANCEDBLOCK|360|F6|")
         + "0|ACAD_EVALUATION_GRAPH|5|F6|100|AcDbEvalGraph|96|7|97|7|91|0|93|32|95|7|360|F7|92|-1|92|-1|92|-1|92|-1|"
         + "0|BLOCKVISIBILITYPARAMETER|5|F7|330|F6|100|AcDbEvalExpr|90|7|98|33|99|29|100|AcDbBlockElement|300|"
-        + "Visibility|98|33|99|29|1071|0|100|AcDbBlockParameter|280|1|281|0|100|AcDbBlock1PtParameter|1010|1|1020|2|1030|0|"
-        + "93|8|170|0|171|0|100|AcDbBlockVisibilityParameter|281|1|301|State|302||91|0|93|1|331|E1|92|2|303|Open|94|1|332|"
-        + "E1|95|0|303|Closed|94|0|95|0|"
+        + "Visibility|98|33|99|29|1071|0|100|AcDbBlockParameter|280|1|281|0|100|AcDbBlock1PtParameter|1010|1|1020|2|"
+        + "1030|0|93|8|170|0|171|0|100|AcDbBlockVisibilityParameter|281|1|301|State|302||91|0|93|1|331|E1|92|2|303|"
+        + "Open|94|1|332|E1|95|0|303|Closed|94|0|95|0|"
         + Dictionary("C1", "3|AcDbBlockRepresentation|360|C2|") + Dictionary("C2", "3|AppDataCache|360|C3|")
         + Dictionary("C3", "3|ACAD_ENHANCEDBLOCKDATA|360|C4|") + Dictionary("C4", "3|7|360|C5|")
         + "0|XRECORD|5|C5|100|AcDbXrecord|280|1|70|25|1|Closed|0|ENDSEC|0|EOF|";
