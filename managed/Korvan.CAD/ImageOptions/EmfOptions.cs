@@ -10,7 +10,7 @@ public class EmfOptions : ImageOptionsBase, ITextAsShapesOptions
     }
 
     /// <summary>Gets or sets whether text is written as glyph outlines, so that its appearance does not depend on
-    /// installed fonts. Off by default. Text that is stretched, slanted or mirrored always is, since many readers show it
-    /// otherwise.</summary>
+    /// installed fonts. Off by default. Text that is stretched, slanted or mirrored always is, since many readers show
+    /// it otherwise.</summary>
     public bool TextAsShapes { get; set; }
 }

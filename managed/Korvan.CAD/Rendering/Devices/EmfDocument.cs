@@ -234,16 +234,16 @@ internal sealed class EmfDocument : MetafilePlayer
         return handle;
     }
 
-    /// <summary>The width of each character as laid out, so that another font keeps to it.</summary>
+    /// <summary>The distance of each character to the next as laid out, with kerning, so that another font keeps to
+    /// it.</summary>
     private int[] Advances(in TextRun run, double height)
     {
         var widths = new int[run.Text.Length];
         int before = 0;
-        for (int i = 0; i < widths.Length; i++)
+        for (int i = 0, next; i < widths.Length; i = next)
         {
-            bool pair = char.IsHighSurrogate(run.Text[i]) && i + 1 < widths.Length;
-            int until = pair ? before
-                : Round(Engine.Advance(run.Font, run.Text[..(i + 1)], run.LetterSpacing) * height);
+            next = i + LengthAt(run.Text, i);
+            int until = Round(StartOf(run, next) * height);
             widths[i] = until - before;
             before = until;
         }

@@ -71,6 +71,17 @@ internal abstract class MetafilePlayer : PagePlayer
         return rows;
     }
 
+    /// <summary>Where a character starts, in ems. What is kerned is the advance of the one before.</summary>
+    protected double StartOf(in TextRun run, int at)
+    {
+        int end = at + LengthAt(run.Text, at);
+        double until = Engine.Advance(run.Font, run.Text[..end], run.LetterSpacing);
+        return at == end ? until : until - Engine.Advance(run.Font, run.Text[at..end], run.LetterSpacing);
+    }
+
+    protected static int LengthAt(string text, int at) =>
+        at >= text.Length ? 0 : char.IsHighSurrogate(text[at]) && at + 1 < text.Length ? 2 : 1;
+
     // The pixels have their opacity multiplied in.
     private static byte Over(byte part, byte paper, double opacity, double rest) =>
         (byte)Math.Clamp(Math.Round((part * opacity) + (paper * rest)), 0, 255);

@@ -231,9 +231,10 @@ internal sealed class WmfDocument : MetafilePlayer
     {
         var widths = new short[run.Text.Length];
         double before = 0;
-        for (int i = 0; i < widths.Length; i++)
+        for (int i = 0, next; i < widths.Length; i = next)
         {
-            double until = Math.Round(Engine.Advance(run.Font, run.Text[..(i + 1)], run.LetterSpacing) * size);
+            next = i + LengthAt(run.Text, i);
+            double until = Math.Round(StartOf(run, next) * size);
             widths[i] = Round(until - before);
             before = until;
         }

@@ -40,6 +40,14 @@ public class EmfTextTests
     }
 
     [Fact]
+    public void Kerning_is_that_of_the_character_before()
+    {
+        List<Shown> texts = Save(
+            new CadText { DefaultValue = "TA", TextHeight = 10 }, new CadText { DefaultValue = "TH", TextHeight = 10 });
+        Assert.True(texts[0].Advance < texts[1].Advance);
+    }
+
+    [Fact]
     public void Texts_that_no_font_has_become_outlines()
     {
         List<Shown> texts = Save(
