@@ -157,7 +157,7 @@ internal sealed class Canvas
 
         PathBuffer path = NewPath();
         path.AppendMapped(strokes.Path, matrix);
-        List.Stroke(path, new StrokeStyle
+        List.Stroke(path, new StrokeAttributes
         {
             Color = pen.Color,
             LineWeight = pen.LineWeight,

@@ -139,7 +139,7 @@ public sealed class StrokeTextTests : IDisposable
     public void Symbols_are_found_in_the_fonts_of_the_options()
     {
         Write("marks.shx", ShapeBytes.Shapes((130, "GATE", [0x24, 0x20, 0])));
-        CadImage drawing = Picture.Drawing(new CadShape { ShapeName = "gate", Size = 3 });
+        CadImage drawing = TestPage.Drawing(new CadShape { ShapeName = "gate", Size = 3 });
         DrawingList list = Build(drawing, Faces([_folder + "/marks.shx"], []));
         Assert.Equal("0,0 0,6 6,6", Text(list.CoordsOf(Assert.Single(list.Items.ToArray()))[..6]));
         Assert.Equal(1, Build(drawing).Skipped["SHAPE whose file is not there"]);
@@ -167,7 +167,7 @@ public sealed class StrokeTextTests : IDisposable
         TextRun run = list.TextOf(items[0]);
         Assert.Equal(8 * 24.0 / 21 * 10, run.Advance * run.Matrix.Xx, 6);
         drawing.AddEntity(new CadLine { SecondPoint = new Cad3DPoint(9000, 9000, 0), ColorId = 1 });
-        using Picture picture = Picture.Of(drawing);
+        using TestPage picture = TestPage.Of(drawing);
         Assert.InRange(picture[0, 0].G, 1, 254); // a hundredth of its height: grey, not the strokes in black
     }
 

@@ -127,7 +127,7 @@ internal sealed class AcisReader
                     return false;
                 }
 
-                AddSpline(spline, _map.Point(start), _map.Point(end), isReversed);
+                AddSpline(spline, _map.Point(start), _map.Point(end), edge.IsReversed);
                 return true;
             default:
                 return false;
