@@ -1,6 +1,5 @@
 using System;
 using System.IO;
-using Korvan.CAD.CadExceptions;
 using Microsoft.Win32.SafeHandles;
 
 namespace Korvan.CAD.Input;

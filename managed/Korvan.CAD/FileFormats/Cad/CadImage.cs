@@ -1,5 +1,4 @@
 using System.Collections.Generic;
-using System.IO;
 using System.Linq;
 using Korvan.CAD.Annotations;
 using Korvan.CAD.Binding;

@@ -1,4 +1,3 @@
-using System;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
 
