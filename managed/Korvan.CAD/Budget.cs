@@ -1,4 +1,5 @@
 using System;
+using System.Collections.Generic;
 using System.Threading;
 using Korvan.CAD.CadExceptions;
 
@@ -26,9 +27,15 @@ internal sealed class Budget : IDisposable
     private const int MemoryPerStep = 192;
     private const long PollInterval = 20; // milliseconds
 
+    /// <summary>The memory that a call on another thread is taken to need, where it has no limit itself.</summary>
+    private const long MaxOther = 1L << 30;
+
     [ThreadStatic]
     private static Budget? _current;
     private static long _settled;
+
+    private static readonly Lock ActiveLock = new();
+    private static readonly List<Budget> Active = [];
 
     private readonly Budget? _outer;
     private readonly int _owner = Environment.CurrentManagedThreadId;
@@ -40,6 +47,7 @@ internal sealed class Budget : IDisposable
     private long _nextPoll;
     private long _nextCollection;
     private long _pixels;
+    private long _others;
     private long _steps;
     private Exception? _end;
 
@@ -52,6 +60,7 @@ internal sealed class Budget : IDisposable
         _heapAtStart = GC.GetTotalMemory(false);
         Memory = memory;
         _maxSteps = maxSteps;
+        AddToActive();
     }
 
     /// <summary>Gets the budget of the call that runs on this thread.</summary>
@@ -176,14 +185,39 @@ internal sealed class Budget : IDisposable
     }
 
     /// <inheritdoc/>
-    public void Dispose() => _current = _outer;
+    public void Dispose()
+    {
+        _current = _outer;
+        lock (ActiveLock)
+        {
+            Active.Remove(this);
+        }
+    }
+
+    // The heap is one for all threads: what calls on others may take at the same time is no fault of this one.
+    private void AddToActive()
+    {
+        lock (ActiveLock)
+        {
+            foreach (Budget other in Active)
+            {
+                if (other._owner != _owner)
+                {
+                    other._others += Math.Min(Memory, MaxOther);
+                    _others += Math.Min(other.Memory, MaxOther);
+                }
+            }
+
+            Active.Add(this);
+        }
+    }
 
     // What a call before has left would hide what this one takes.
     private static void SettleHeap()
     {
         const long unsettled = 128L << 20;
         long taken = GC.GetTotalMemory(false);
-        if (taken > _settled + unsettled)
+        if (taken > _settled + Math.Max(unsettled, _settled))
         {
             GC.Collect();
             taken = GC.GetTotalMemory(false);
@@ -195,8 +229,9 @@ internal sealed class Budget : IDisposable
 
     private void VerifyHeap(long more)
     {
-        long limit = Memory - Interlocked.Read(ref _pixels);
-        if (Memory == long.MaxValue || Taken + more <= limit || Taken + more < _nextCollection)
+        long own = Memory - Interlocked.Read(ref _pixels);
+        long limit = Memory == long.MaxValue ? Memory : own + Interlocked.Read(ref _others);
+        if (more <= own && (Taken + more <= limit || Taken + more < _nextCollection))
         {
             return;
         }
@@ -204,7 +239,7 @@ internal sealed class Budget : IDisposable
         GC.Collect();
         long taken = Taken + more;
         _nextCollection = taken + (limit / 8);
-        if (taken > limit)
+        if (taken > limit || more > own)
         {
             throw End(new LimitMemoryException(
                 $"The file needs more than {Memory >> 20} MiB of memory, the limit for a file of its size; "

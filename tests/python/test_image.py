@@ -147,13 +147,17 @@ class BadInput(unittest.TestCase):
         self.assertIn(cause, str(caught.exception))
         self.assertEqual(os.listdir(self.folder), ["bad.dxf"], "no half-written output stays")
 
-    def test_a_block_in_itself_and_infinite_extents_do_not_render(self) -> None:
-        self.check_export_fails(
+    def test_a_block_in_itself_is_left_out_by_name(self) -> None:
+        path, options = self.folder / "loop.dxf", PdfOptions()
+        path.write_text(
             "0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n8\n0\n2\nLOOP\n10\n0\n20\n0\n0\nINSERT\n8\n0\n2\nLOOP\n"
             "10\n0\n20\n0\n0\nENDBLK\n8\n0\n0\nENDSEC\n"
-            + self.entity(0, "INSERT", 8, 0, 2, "LOOP", 10, 0, 20, 0),
-            "LOOP",
+            + self.entity(0, "INSERT", 8, 0, 2, "LOOP", 10, 0, 20, 0)
         )
+        cad.Image.load(str(path)).save(str(self.folder / "loop.pdf"), options)
+        self.assertIn("LOOP", " ".join(failure.message for failure in options.render_result.failures))
+
+    def test_infinite_extents_do_not_render(self) -> None:
         self.check_export_fails(
             self.entity(0, "LINE", 8, 0, 10, "1e308", 20, "-1e308", 11, "-1e308", 21, "1e308"),
             "extents",
@@ -185,7 +189,7 @@ class Saving(unittest.TestCase):
             if isinstance(kind, type) and issubclass(kind, ImageOptionsBase) and name.endswith("Options"):
                 options = kind()
                 if image.can_save(options):
-                    if name.removesuffix("Options") not in ("Dxf", "Glb", "Gltf", "Obj", "Stl"):  # those have no page
+                    if name.removesuffix("Options") not in ("Dwg", "Dxf", "Glb", "Gltf", "Obj", "Stl"):  # no pages
                         options.vector_rasterization_options = rasterization()
                     yield name, options
 

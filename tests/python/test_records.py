@@ -194,9 +194,10 @@ class Metafiles(unittest.TestCase):
         self.assertEqual(depth, 0)
         self.assertTrue(drawn[self.POLYLINE] and drawn[self.TEXT])
 
-    def test_letters_beyond_its_code_page_are_shapes(self) -> None:
+    def test_characters_beyond_its_code_page_are_shapes(self) -> None:
         for text, words in (("Café", 1), ("Ωmega", 0), ("odd", 1), ("even", 1)):
             drawing = CadImage()
+            drawing.styles.get("Standard").primary_font_name = "LiberationSans-Regular.ttf"
             entity = CadText()
             (entity.default_value, entity.text_height) = (text, 10.0)
             drawing.add_entity(entity)

@@ -47,6 +47,22 @@ public sealed class BudgetTests
     }
 
     [Fact]
+    public void What_calls_on_other_threads_take_counts_against_theirs()
+    {
+        byte[] held = [];
+        using Budget budget = Budget.Begin(Small);
+        var other = new System.Threading.Thread(() =>
+        {
+            using Budget large = Budget.Begin(64 << 20);
+            held = new byte[1 << 30];
+        });
+        other.Start();
+        other.Join();
+        budget.Poll();
+        Assert.Equal(1 << 30, held.Length);
+    }
+
+    [Fact]
     public void Pixels_beyond_the_memory_of_the_file_are_on_disk()
     {
         using Budget budget = Budget.Begin(Small);

@@ -16,7 +16,7 @@ public class DamagedDrawingTests
     public static readonly TheoryData<string, string, string> Damage = new()
     {
         { "a text", "Dear Sir or Madam\nwe regret\n", "no known format" },
-        { "a drawing database", "AC1032\0\0\0\0", "CAD_R2018" },
+        { "a drawing database", "AC1032\0\0\0\0", "ends within its header" },
         { "cut within a section", Intact[..Intact.LastIndexOf("0\nENDSEC", StringComparison.Ordinal)], "never ends" },
         { "cut behind a code", DxfText.Header("AC1015")
             + "0\nSECTION\n2\nENTITIES\n0\nLINE\n10\n", "value was expected" },

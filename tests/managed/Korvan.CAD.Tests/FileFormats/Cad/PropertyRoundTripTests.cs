@@ -278,8 +278,8 @@ public class PropertyRoundTripTests
         IsClass: true,
         IsAbstract: false
     } && !type.IsSubclassOf(typeof(CadBaseObject))
-        && type.GetMethod("Exchange",
-            BindingFlags.Instance | BindingFlags.NonPublic | BindingFlags.DeclaredOnly) is not null;
+        && type.GetMethods(BindingFlags.Instance | BindingFlags.NonPublic | BindingFlags.DeclaredOnly)
+            .Any(static method => method.Name == "Exchange");
 
     private static IEnumerable<PropertyInfo> Parts(object item) => item.GetType().GetProperties()
         .Where(property => IsPart(property.PropertyType));

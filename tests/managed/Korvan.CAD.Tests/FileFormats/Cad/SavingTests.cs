@@ -48,7 +48,6 @@ public sealed class SavingTests : IDisposable
     [InlineData("solid cube\nfacet", FileFormat.Stl)]
     [InlineData("ISO-10303-21;\nHEADER;\nFILE_SCHEMA(('AUTOMOTIVE_DESIGN'));", FileFormat.Stp)]
     [InlineData("<?xml version=\"1.0\"?><svg xmlns=\"x\"/>", FileFormat.Svg)]
-    [InlineData("AC1018\0\0\0", FileFormat.CadR2004)]
     [InlineData("0\nSECTIONS\n", FileFormat.Undefined)]
     [InlineData("", FileFormat.Undefined)]
     public void Other_formats_are_named_and_not_loaded(string header, FileFormat format)
