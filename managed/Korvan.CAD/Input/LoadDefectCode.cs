@@ -113,7 +113,8 @@ internal enum LoadDefectCode
     /// <summary>The record of an object cannot be read.</summary>
     DamagedObject = 531,
 
-    /// <summary>The record of an object is whole, but has other fields than those that are known for its type.</summary>
+    /// <summary>The record of an object is whole, but has other fields than those that are known for its
+    /// type.</summary>
     UnknownFields = 532,
 
     /// <summary>Further defects were counted, but not kept.</summary>

@@ -3,7 +3,6 @@ using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.Exchange;
-using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -11,7 +10,6 @@ namespace Korvan.CAD.FileFormats.Cad.CadTables;
 /// .dwg files, 5.4.1, section 20.4.58.</summary>
 internal sealed class LineTypeElement
 {
-    private const int AbsoluteFlag = 1;
     private const int TextFlag = 2;
     private const int ShapeFlag = 4;
 

@@ -1,6 +1,4 @@
 using System;
-using System.Collections.Generic;
-using System.Text;
 using Korvan.CAD.FileFormats.Shx;
 using Korvan.CAD.Geometry;
 

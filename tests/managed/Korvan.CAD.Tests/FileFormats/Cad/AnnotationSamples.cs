@@ -1,9 +1,7 @@
 using System;
-using System.Linq;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 using Korvan.CAD.FileFormats.Cad.CadObjects.DimAssoc;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
 using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadObjects.PersSubentManager;
 

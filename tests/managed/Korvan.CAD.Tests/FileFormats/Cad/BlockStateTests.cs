@@ -1,5 +1,4 @@
 using System;
-using System.Linq;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Xunit;

@@ -1,12 +1,7 @@
 using System;
-using System.Linq;
-using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.DataTable;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Field;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.CadObjects.ObjectContextData;
 

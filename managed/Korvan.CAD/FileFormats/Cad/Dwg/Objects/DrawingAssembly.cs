@@ -2,9 +2,7 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
-using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model;
 

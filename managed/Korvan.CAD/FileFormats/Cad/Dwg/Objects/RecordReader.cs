@@ -1,4 +1,3 @@
-using System;
 using System.Collections.Generic;
 using System.Globalization;
 using Korvan.CAD.FileFormats.Cad.CadObjects;

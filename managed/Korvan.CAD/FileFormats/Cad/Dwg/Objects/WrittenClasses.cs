@@ -1,6 +1,4 @@
-using System;
 using System.Collections.Generic;
-using System.Linq;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;

@@ -152,11 +152,12 @@ public class RealObjectTests
     {
         string[] known =
         [
-            "ACAD_TABLE", ": AcDbBlockTableRecord 340", "*D", "*T", "the extended data", "AcDbModelerGeometry", "ARC_DIM",
-            "LIGHT 75E: AcDbLight 90", "AcDbWipeout", "is a RawObject",
+            "ACAD_TABLE", ": AcDbBlockTableRecord 340", "*D", "*T", "the extended data", "AcDbModelerGeometry",
+            "ARC_DIM", "LIGHT 75E: AcDbLight 90", "AcDbWipeout", "is a RawObject",
         ];
         bool isAdded = line.EndsWith(" is missing", StringComparison.Ordinal)
-            && (line.StartsWith("APPID", StringComparison.Ordinal) || line.StartsWith("DICT", StringComparison.Ordinal));
+            && (line.StartsWith("APPID", StringComparison.Ordinal)
+                || line.StartsWith("DICT", StringComparison.Ordinal));
         return isAdded || known.Any(part => line.Contains(part, StringComparison.Ordinal));
     }
 
