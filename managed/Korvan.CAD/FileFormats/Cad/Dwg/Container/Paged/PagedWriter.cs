@@ -242,6 +242,9 @@ internal sealed class PagedWriter
             fields.AsSpan(offset), (int)_addresses.GetValueOrDefault(section));
         Put(0x0D, "AcDb:Preview");
         fields[0x11] = DwgContent.NumberOf(_content.Release);
+
+        // That of the program: some readers ask it, not the one before, whether sizes have 64 bits.
+        fields[0x12] = fields[0x0B];
         BinaryPrimitives.WriteInt16LittleEndian(fields.AsSpan(0x13), (short)_content.CodePage);
         Put(0x20, "AcDb:SummaryInfo");
         Put(0x24, "AcDb:VBAProject");
