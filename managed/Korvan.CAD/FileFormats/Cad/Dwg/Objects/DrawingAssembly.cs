@@ -63,8 +63,9 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
 
     private void AddBlock(CadBlockTableObject record)
     {
+        // A damaged record may state another handle than the object map.
         int at = objects.Find(record.Handle);
-        ChildHandles parts = objects[at].Parts ?? new ChildHandles();
+        ChildHandles parts = (at < 0 ? null : objects[at].Parts) ?? new ChildHandles();
         bool isPaper = record.Name.StartsWith(BlockNames.PaperSpace, StringComparison.OrdinalIgnoreCase);
         CadBlockEntity block = Take<CadBlockEntity>(parts.Begin) ?? new CadBlockEntity();
         block.End = Take<CadEndBlock>(parts.End) ?? new CadEndBlock();
