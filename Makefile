@@ -11,6 +11,7 @@
 #   make fidelity   rendered drawings beside those of other programs; EZDXF=<checkout> names one of them
 #   make catalogue  which of the types of CATALOGUE=<table> stand, module by module
 #   make wheel      the package as a wheel, in build/dist
+#   make acceptance checks of what is shipped, in bare roots, browsers and clusters: CHECK=<names> selects
 #   make format     put the sources into the code style
 #   make lint       the format check, .NET analyzers and clang-tidy
 #   make clean      forget what was built
@@ -29,7 +30,7 @@ export UseSharedCompilation := false
 export DOTNET_CLI_TELEMETRY_OPTOUT := 1
 export DOTNET_NOLOGO := 1
 
-.PHONY: build demo test fuzz fuzz-calls mutants sanitize bench fidelity catalogue wheel format lint clean packages
+.PHONY: build demo test fuzz fuzz-calls mutants sanitize bench fidelity catalogue wheel acceptance format lint clean packages
 
 build: packages $(BUILD)/build.ninja
 	@cmake --build --preset $(PRESET)
@@ -71,10 +72,13 @@ fidelity: fidelity_packages build
 catalogue: build
 	@build/python tools/catalogue.py $(CATALOGUE)
 
-wheel: build
+wheel: wheel_packages build
 	@build/python tools/make_wheel.py --package $(BUILD)/package --out build/dist
 
-.PHONY: test_packages bench_packages fidelity_packages lint_packages
+acceptance: wheel
+	@build/python tests/acceptance/run.py $(CHECK)
+
+.PHONY: test_packages bench_packages fidelity_packages lint_packages wheel_packages
 test_packages:
 	@tools/ensure-packages.sh test
 	@tools/ensure-type-checker.sh
@@ -82,6 +86,8 @@ bench_packages:
 	@tools/ensure-packages.sh bench
 fidelity_packages:
 	@tools/ensure-packages.sh fidelity
+wheel_packages:
+	@tools/ensure-packages.sh wheel
 lint_packages:
 	@tools/ensure-packages.sh lint
 
