@@ -14,6 +14,8 @@ if TYPE_CHECKING:
     from korvan.tools.errors import ToolError as ToolError
     from korvan.tools.opening import cast as cast
     from korvan.tools.opening import open_drawing as open_drawing
+    from korvan.tools.pool import Outcome as Outcome
+    from korvan.tools.pool import Pool as Pool
 
 _MODULES = {
     "ConversionResult": "conversion",
@@ -21,9 +23,11 @@ _MODULES = {
     "ToolError": "errors",
     "cast": "opening",
     "open_drawing": "opening",
+    "Outcome": "pool",
+    "Pool": "pool",
 }
 
-__all__ = ["ConversionResult", "ToolError", "cast", "convert", "open_drawing"]
+__all__ = ["ConversionResult", "Outcome", "Pool", "ToolError", "cast", "convert", "open_drawing"]
 
 
 def __getattr__(name: str) -> object:
