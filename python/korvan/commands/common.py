@@ -1,0 +1,124 @@
+"""What the commands share: errors, JSON, progress, lists of files."""
+
+from __future__ import annotations
+
+import argparse
+import json
+import os
+import shutil
+import sys
+import time
+from collections.abc import Callable, Iterable, Iterator, Sequence
+from typing import Any, TypeVar
+
+Item = TypeVar("Item")
+EXTENSIONS = (".dxf", ".dwg", ".dwt", ".cgm", ".ifc", ".ifczip", ".ifcxml")
+
+
+class Usage(Exception):
+    """Wrong usage that the parser cannot see: it ends the command with exit code 2."""
+
+
+def fail(path: object, failure: BaseException | str) -> None:
+    """Prints an error about a file: one line on stderr."""
+    from korvan.tools.errors import message_of
+
+    text = failure if isinstance(failure, str) else message_of(failure)
+    print(f"korvan: {path}: {text}", file=sys.stderr)
+
+
+def print_json(value: object) -> None:
+    """Prints a JSON document on a line of its own."""
+    print(json.dumps(value, default=str, ensure_ascii=False))
+
+
+def add_json(parser: argparse.ArgumentParser) -> None:
+    parser.add_argument("--json", action="store_true", help="print JSON: one document a line, one line a file")
+
+
+def add_files(parser: argparse.ArgumentParser, what: str = "drawings") -> None:
+    parser.add_argument("files", nargs="+", metavar="FILE", help=f"{what}; folders stand for the drawings in them")
+
+
+def expand(paths: Iterable[str]) -> Iterator[str]:
+    """The files, and the drawings in folders and below, in the order of their names."""
+    for path in paths:
+        if not os.path.isdir(path):
+            yield path
+            continue
+        for folder, folders, names in os.walk(path):
+            folders.sort()
+            yield from (os.path.join(folder, name) for name in sorted(names) if name.lower().endswith(EXTENSIONS))
+
+
+def each(paths: Sequence[str], work: Callable[[str], Item]) -> Iterator[tuple[str, Item]]:
+    """The results of some work on files. A file that fails gives a line on stderr, and no result."""
+    from korvan.tools.errors import ToolError
+
+    for path in paths:
+        try:
+            done = work(path)
+        except (ToolError, RuntimeError, OSError) as failure:
+            fail(path, failure)
+            continue
+        yield path, done
+
+
+def table(rows: Sequence[Sequence[object]], headings: Sequence[str]) -> str:
+    """Columns of text, numbers to the right."""
+    texts = [[str(one) for one in row] for row in rows]
+    widths = [max(len(row[i]) for row in [list(headings), *texts]) for i in range(len(headings))]
+    numeric = [bool(rows) and all(isinstance(row[i], (int, float)) for row in rows) for i in range(len(headings))]
+
+    def line(row: Sequence[str]) -> str:
+        cells = (cell.rjust(width) if right else cell.ljust(width)
+                 for cell, width, right in zip(row, widths, numeric, strict=True))
+        return "  ".join(cells).rstrip()
+
+    return "\n".join([line(headings), *map(line, texts)])
+
+
+def size_text(count: int) -> str:
+    """A number of bytes for people."""
+    value = float(count)
+    for unit in ("B", "KiB", "MiB"):
+        if value < 1024:
+            return f"{value:.0f} {unit}" if unit == "B" else f"{value:.1f} {unit}"
+        value /= 1024
+    return f"{value:.1f} GiB"
+
+
+class Progress:
+    """A progress bar on stderr, only where that is a terminal and there is more than one step."""
+
+    def __init__(self, total: int) -> None:
+        self._total = total
+        self._done = 0
+        self._start = time.monotonic()
+        self._shown = total > 1 and sys.stderr.isatty()
+
+    def step(self, name: str) -> None:
+        """Counts a step, and shows its name."""
+        self._done += 1
+        if not self._shown:
+            return
+        width = shutil.get_terminal_size().columns
+        bar = min(24, width // 4)
+        filled = bar * self._done // self._total
+        passed = time.monotonic() - self._start
+        left = passed / self._done * (self._total - self._done)
+        text = f"[{'#' * filled}{'.' * (bar - filled)}] {self._done}/{self._total}  {left:.0f} s left  {name}"
+        print("\r\x1b[K" + text[: width - 1], end="", file=sys.stderr, flush=True)
+
+    def clear(self) -> None:
+        """Takes the bar away, so that a line can be printed."""
+        if self._shown:
+            print("\r\x1b[K", end="", file=sys.stderr, flush=True)
+
+
+def parser_for(subparsers: Any, name: str, summary: str, examples: str) -> argparse.ArgumentParser:
+    """The parser of a command, with examples at the end of its help."""
+    parser: argparse.ArgumentParser = subparsers.add_parser(
+        name, help=summary[0].lower() + summary[1:].rstrip("."), description=summary, epilog=f"examples:\n{examples}",
+        formatter_class=argparse.RawDescriptionHelpFormatter)
+    return parser

@@ -1,0 +1,217 @@
+"""Converts a file to the format of the target's extension."""
+
+from __future__ import annotations
+
+import os
+import signal
+import stat
+import threading
+import time
+from collections.abc import Generator, Mapping, Sequence
+from contextlib import contextmanager
+from dataclasses import dataclass, field
+from pathlib import Path
+from types import FrameType
+
+from korvan.cad import Image, RasterImage
+from korvan.cad.fileformats.cad import CadDrawTypeMode, CadImage
+from korvan.cad.fileformats.cgm import CgmImage
+from korvan.cad.imageoptions import CadRasterizationOptions, ImageOptionsBase
+from korvan.tools.errors import ToolError, matching, message_of
+from korvan.tools.formats import Target, find_target
+from korvan.tools.opening import load, load_options
+from korvan.tools.pages import set_page
+from korvan.tools.settings import Settings, parse_color
+
+MODEL = "Model"
+
+
+@dataclass(frozen=True)
+class ConversionResult:
+    """What a conversion wrote."""
+
+    output: Path
+    """The file that was written."""
+    format: str
+    """Its format, such as PDF."""
+    seconds: float
+    """How long loading and saving took."""
+    warnings: list[str] = field(default_factory=list[str])
+    """What was left out or approximated, one line each."""
+    fonts: list[str] = field(default_factory=list[str])
+    """Fonts that were not available, with what replaced them."""
+
+
+@dataclass(frozen=True)
+class _Request:
+    """The options of a conversion as they were given."""
+
+    layouts: Sequence[str] | None
+    layers: Sequence[str] | None
+    size: str | None
+    paper: str | None
+    dpi: float | None
+    background: str | None
+    color_mode: str | None
+    fonts: Sequence[str | os.PathLike[str]]
+    settings: Settings
+
+    @property
+    def concerns_page(self) -> bool:
+        given = (self.layouts, self.layers, self.size, self.paper, self.background, self.color_mode)
+        return any(one is not None for one in given) or self.settings.concerns_page
+
+
+def layout_names(image: Image) -> list[str]:
+    """The names of the pages of a drawing."""
+    if isinstance(image, CadImage):
+        return list(image.layouts.names)
+    if isinstance(image, CgmImage):
+        return list(image.picture_names)
+    return []
+
+
+def used_layouts(drawing: CadImage) -> list[str]:
+    """The layouts that have content: model space, and those with more than the viewport of their paper."""
+    return [name for name in drawing.layouts.names
+            if any(entity.type_name_text != "VIEWPORT" for entity in drawing.get_layout_entities(name))
+            or (name != MODEL and len(drawing.get_layout_entities(name)) > 1)]
+
+
+@contextmanager
+def _deadline(seconds: float | None) -> Generator[None]:
+    """Ends what runs inside by ``TimeoutError``, where signals can do so: in the main thread."""
+    if seconds is None or threading.current_thread() is not threading.main_thread():
+        yield
+        return
+    if signal.getsignal(signal.SIGALRM) not in (signal.SIG_DFL, signal.SIG_IGN):
+        yield  # the program has a timer of its own
+        return
+
+    def late(_number: int, _frame: FrameType | None) -> None:
+        raise TimeoutError(f"takes longer than {seconds:g} s")
+
+    before = signal.signal(signal.SIGALRM, late)
+    signal.setitimer(signal.ITIMER_REAL, seconds)
+    try:
+        yield
+    finally:
+        signal.setitimer(signal.ITIMER_REAL, 0)
+        signal.signal(signal.SIGALRM, before)
+
+
+def output_path(source: str | os.PathLike[str], target: str | os.PathLike[str], to: str | None) -> Path:
+    """The file to write: the target, or in a folder the name of the source with the extension of the format."""
+    path = Path(os.fspath(target))
+    if not (path.is_dir() or os.fspath(target).endswith("/")):
+        return path
+    if to is None:
+        raise ToolError(f"{path} is a folder: name the format (--to), such as pdf")
+    extension = to.lower().removeprefix(".")
+    find_target(path, extension)
+    return path / f"{Path(os.fspath(source)).stem}.{extension}"
+
+
+def _check_output(path: Path, force: bool) -> None:
+    try:
+        mode = path.stat().st_mode
+    except FileNotFoundError:
+        if not path.parent.is_dir():
+            raise ToolError(f"the folder {path.parent} does not exist") from None
+        return
+    except OSError as failure:
+        raise ToolError(f"{path}: {message_of(failure)}") from failure
+    if stat.S_ISREG(mode) and not force:
+        raise ToolError(f"{path} exists; say force (--force) to replace it")
+
+
+def _color_options(raster: CadRasterizationOptions, request: _Request, target: Target) -> None:
+    if request.background is not None:
+        raster.background_color = parse_color(request.background)
+        raster.embed_background = not target.is_raster
+    if request.color_mode is not None and request.color_mode != "object":
+        raster.draw_type = CadDrawTypeMode.USE_DRAW_COLOR
+        raster.draw_color = parse_color(request.color_mode)
+
+
+def _page_options(image: Image, request: _Request, target: Target, options: ImageOptionsBase) -> None:
+    """Sets how the content is rendered, as far as anything of that was asked for."""
+    raster = CadRasterizationOptions()
+    if request.layouts is not None:
+        raster.layouts = matching("layout", request.layouts, layout_names(image))
+    if request.layers is not None:
+        known = list(image.layers.names) if isinstance(image, CadImage) else []
+        raster.layers = matching("layer", request.layers, known)
+    set_page(options, raster, size=request.size, paper=request.paper, dpi=request.dpi, is_raster=target.is_raster,
+             is_wide=request.paper is not None and image.width >= image.height)
+    _color_options(raster, request, target)
+    files = [os.path.abspath(path) for path in request.fonts if not os.path.isdir(path)]
+    if files:
+        raster.shx_fonts = files
+    is_rendered = target.has_pages and not isinstance(image, RasterImage)
+    request.settings.apply(options, raster)
+    if request.concerns_page or files or (is_rendered and request.dpi is not None):
+        options.vector_rasterization_options = raster
+
+
+def _warnings(options: ImageOptionsBase, defects: Sequence[str]) -> tuple[list[str], list[str]]:
+    """What was not loaded or rendered faithfully, and fonts that were replaced."""
+    result = options.render_result
+    if result is None:
+        return list(defects), []
+    return [*defects, *(one.message for one in result.failures)], list(result.font_substitutions)
+
+
+def convert(
+    src: str | os.PathLike[str], dst: str | os.PathLike[str], *, to: str | None = None,
+    layouts: Sequence[str] | None = None, layers: Sequence[str] | None = None, size: str | None = None,
+    paper: str | None = None, dpi: float | None = None, background: str | None = None,
+    color_mode: str | None = None, fonts: Sequence[str | os.PathLike[str]] = (), release: str | None = None,
+    settings: Mapping[str, str] | None = None, force: bool = False, tolerant: bool = False,
+    timeout: float | None = None
+) -> ConversionResult:
+    """Converts a file to the format of the target's extension.
+
+    :param src: The file to convert; its format is detected from the content.
+    :param dst: The file to write. In a folder, it gets the name of the source, and ``to`` states its format.
+    :param to: The format as an extension, such as ``pdf``; by default that of ``dst``.
+    :param layouts: The layouts to render, as names or patterns such as ``Sheet*``; model space by default.
+    :param layers: The layers to render, as names or patterns; all by default.
+    :param size: The size of the page: ``1600x1200`` or ``1600x``, in pixels for images and in points of 1/72 inch
+        for pages, or ``420x297mm``.
+    :param paper: The paper instead, such as ``A3``, ``A3-portrait`` or ``letter``.
+    :param dpi: The resolution in pixels per inch; 150 for images on paper.
+    :param background: The colour of the background, such as ``black`` or ``#202428``.
+    :param color_mode: ``object`` for the colours of the drawing, or one colour for all, such as ``black``.
+    :param fonts: Folders with fonts, and shape font files.
+    :param release: The release of a drawing that is written, such as ``R2000`` or ``2018``.
+    :param settings: Any option by class and member: ``{"PngOptions.compression_level": "9"}``.
+    :param force: Whether a file that exists is replaced.
+    :param tolerant: Whether damaged objects are left out instead of raising an error.
+    :param timeout: How many seconds it may take.
+    :raises ToolError: A file, a name or an option is wrong; the message says which, and what would be right.
+    """
+    start = time.perf_counter()
+    path = output_path(src, dst, to)
+    target = find_target(path, to)
+    request = _Request(layouts, layers, size, paper, dpi, background, color_mode, fonts, Settings(settings))
+    options = target.make_options(release)
+    _check_output(path, force)
+    for font in fonts:
+        if not os.path.exists(font):
+            raise ToolError(f"fonts {font}: there is no such file or folder")
+    try:
+        with _deadline(timeout):
+            given = load_options(fonts, tolerant)
+            request.settings.apply_to_load(given)
+            with load(src, given) as image:
+                _page_options(image, request, target, options)
+                if timeout is not None:
+                    options.timeout = max(1, int((timeout - (time.perf_counter() - start)) * 1000))
+                image.save(os.fspath(path), options)
+                warnings, replaced = _warnings(options, list(given.errors))
+    except TimeoutError as failure:
+        raise ToolError(str(failure)) from None
+    except (OSError, RuntimeError) as failure:
+        raise ToolError(message_of(failure)) from failure
+    return ConversionResult(path, target.name, time.perf_counter() - start, warnings, replaced)

@@ -1,0 +1,99 @@
+"""Formats that are written, by file extension."""
+
+from __future__ import annotations
+
+import os
+from collections.abc import Callable
+from dataclasses import dataclass
+from functools import cache
+from pathlib import Path
+from typing import Any
+
+from korvan.cad import FileFormat, FileFormatCategory, imageoptions
+from korvan.cad.fileformats import FileFormatFamily, FileFormatInfo, SupportedFileFormats
+from korvan.cad.fileformats.cad.cadconsts import CadAcadVersion
+from korvan.cad.imageoptions import DwgOptions, DxfOptions, DxfOutputVersion, ImageOptionsBase
+from korvan.tools.errors import ToolError, nearest
+
+_RELEASES = {
+    "2000": CadAcadVersion.AC1015, "2004": CadAcadVersion.AC1018, "2007": CadAcadVersion.AC1021,
+    "2010": CadAcadVersion.AC1024, "2013": CadAcadVersion.AC1027, "2018": CadAcadVersion.AC1032,
+}
+
+
+@dataclass(frozen=True)
+class Target:
+    """A format that is written."""
+
+    name: str
+    extensions: tuple[str, ...]
+    options: Callable[[], ImageOptionsBase]
+    category: FileFormatCategory
+    family: FileFormatFamily
+
+    @property
+    def is_raster(self) -> bool:
+        """Whether it has pixels."""
+        return self.category == FileFormatCategory.BITMAP
+
+    @property
+    def has_pages(self) -> bool:
+        """Whether drawings are rendered on pages of it."""
+        return self.category in (FileFormatCategory.BITMAP, FileFormatCategory.VECTOR)
+
+    def make_options(self, release: str | None = None) -> ImageOptionsBase:
+        """New options of the format, of a release where it has some."""
+        options = self.options()
+        if release is None:
+            return options
+        year = release.upper().removeprefix("R")
+        if isinstance(options, DxfOptions):
+            versions = {name.removeprefix("R"): one for name, one in DxfOutputVersion.__members__.items()}
+            if year in versions:
+                options.version = versions[year]
+                return options
+            raise ToolError(f"DXF is not written as {release}: use one of {', '.join(versions)}")
+        if isinstance(options, DwgOptions):
+            if year in _RELEASES:
+                options.version = _RELEASES[year]
+                return options
+            raise ToolError(f"DWG is not written as {release}: use one of {', '.join(_RELEASES)}")
+        raise ToolError(f"{self.name} has no releases")
+
+
+@cache
+def targets() -> dict[str, Target]:
+    """The formats that are written, by extension without its period."""
+    written = {int(info.format): info for info in SupportedFileFormats.Output.formats}
+    found: dict[str, Target] = {}
+    kind: Any
+    for name in dir(imageoptions):
+        kind = getattr(imageoptions, name)
+        if not (name.endswith("Options") and ImageOptionsBase in getattr(kind, "__mro__", ())):
+            continue
+        try:
+            format_of_kind: FileFormat = kind().target_format
+        except TypeError:
+            continue  # a base of others
+        info: FileFormatInfo | None = written.get(int(format_of_kind))
+        if info is None:
+            continue
+        extensions = tuple(extension.removeprefix(".") for extension in info.extensions)
+        target = Target(name.removesuffix("Options").upper(), extensions, kind, info.category, info.family)
+        found.update(dict.fromkeys(extensions, target))
+    return found
+
+
+def find_target(path: str | os.PathLike[str], to: str | None = None) -> Target:
+    """The format to write: the one that is named, else that of the extension.
+
+    :raises ToolError: There is none, with the extensions that come near.
+    """
+    extension = (to if to is not None else Path(os.fspath(path)).suffix).lower().removeprefix(".")
+    known = targets()
+    if extension in known:
+        return known[extension]
+    if not extension:
+        raise ToolError("the target has no extension: name the format (--to), such as pdf")
+    near = nearest(extension, known) or sorted(known)
+    raise ToolError(f"{extension!r} is no format that is written; the nearest are {', '.join(near)}")
