@@ -1,9 +1,11 @@
 using System.Collections.Generic;
 using System.Text;
+using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dwg.AppInfo;
+using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Dwg.Header;
 using Korvan.CAD.FileFormats.Cad.Dwg.Sections;
@@ -20,6 +22,7 @@ internal static class DwgContentBuilder
     /// <param name="version">The release: 2000, 2004, 2010, 2013 or 2018.</param>
     /// <param name="objects">The records of the objects.</param>
     /// <param name="classes">The classes of the objects.</param>
+    /// <exception cref="ImageSaveException">A value does not fit its field.</exception>
     internal static DwgContent Build(
         CadDrawing drawing, CadAcadVersion version, ObjectStore objects, IReadOnlyList<CadClassEntity> classes)
     {
@@ -28,9 +31,17 @@ internal static class DwgContentBuilder
         Encoding encoding = DwgCodePage.Get(CodePageIndex.NameOf(codePage));
         HeaderValues values = ValuesOf(drawing);
         HeaderWriter header = new(release, encoding);
-        values.Exchange(header);
         HeaderWriter classSection = new(release, encoding);
-        ClassSection.Write(classSection, classes);
+        try
+        {
+            values.Exchange(header);
+            ClassSection.Write(classSection, classes);
+        }
+        catch (DwgFault fault)
+        {
+            throw new ImageSaveException($"The header of the drawing cannot be written: {fault.Message}.");
+        }
+
         return Build(drawing, version, objects, values, new SectionText(release, encoding)) with
         {
             CodePage = codePage,

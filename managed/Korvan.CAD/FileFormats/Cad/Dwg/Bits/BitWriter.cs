@@ -10,6 +10,7 @@ internal sealed class BitWriter
 {
     private const int FirstCapacity = 256;
     private const int WordBits = 64;
+    private const int MaxLongBytes = 7;
 
     private byte[] _data = new byte[FirstCapacity];
 
@@ -79,9 +80,15 @@ internal sealed class BitWriter
     }
 
     /// <summary>Writes an integer of up to 7 bytes after their number (BLL).</summary>
+    /// <exception cref="DwgFault">The integer has 8 bytes.</exception>
     internal void BitLongLong(ulong value)
     {
         int bytes = LengthOf(value);
+        if (bytes > MaxLongBytes)
+        {
+            throw new DwgFault(Position, $"the integer {value} has more than {MaxLongBytes} bytes");
+        }
+
         Put((uint)bytes, 3);
         for (int i = 0; i < bytes; i++)
         {
@@ -247,22 +254,34 @@ internal sealed class BitWriter
     }
 
     /// <summary>Writes a string of bytes after its length (TV); a zero ends it, which counts.</summary>
+    /// <exception cref="DwgFault">The string is longer than its length can state.</exception>
     internal void Text(string value, Encoding encoding)
     {
         byte[] bytes = value.Length == 0 ? [] : encoding.GetBytes(value + "\0");
-        BitShort(bytes.Length);
+        TextLength(bytes.Length);
         Raw(bytes);
     }
 
     /// <summary>Writes a string of UTF-16 after its length (TU).</summary>
+    /// <exception cref="DwgFault">The string is longer than its length can state.</exception>
     internal void Utf16Text(string value)
     {
-        BitShort(value.Length);
+        TextLength(value.Length);
         Raw(Encoding.Unicode.GetBytes(value));
     }
 
     /// <summary>Fills the last byte with zeros.</summary>
     internal void Align() => Position = (Position + 7) & ~7L;
+
+    private void TextLength(int length)
+    {
+        if (length > ushort.MaxValue)
+        {
+            throw new DwgFault(Position, $"a string has {length} characters; at most {ushort.MaxValue} can be written");
+        }
+
+        BitShort(length);
+    }
 
     /// <summary>Writes up to 32 bits.</summary>
     private void Put(uint value, int count)

@@ -47,7 +47,7 @@ internal static class PreviewSection
         {
             int code = reader.Byte();
             (uint start, uint length) = (reader.UInt32(), reader.UInt32());
-            first = Math.Min(first, start);
+            first = length > 0 ? Math.Min(first, start) : first;
             found = code is Bitmap or Png && length > 0 ? (start, length) : found;
         }
 

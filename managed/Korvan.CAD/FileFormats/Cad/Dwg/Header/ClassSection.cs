@@ -34,7 +34,13 @@ internal static class ClassSection
         List<CadClassEntity> classes = [];
         foreach ((int number, CadClassEntity item) in found)
         {
-            while (classes.Count < number - FirstNumber && number < FirstNumber + MaxClasses)
+            // A class with a damaged number must not shift the others.
+            if (number is < FirstNumber or >= FirstNumber + MaxClasses)
+            {
+                continue;
+            }
+
+            while (classes.Count < number - FirstNumber)
             {
                 classes.Add(new CadClassEntity { DxfRecordName = $"CLASS_{FirstNumber + classes.Count}" });
             }

@@ -1,4 +1,5 @@
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Header;
@@ -23,6 +24,7 @@ internal sealed class HeaderValues
     internal ulong HandleOf(string name) => this[name].Handle;
 
     /// <summary>Exchanges all fields of a release with its section.</summary>
+    /// <exception cref="DwgFault">The section is damaged, or a value does not fit its field.</exception>
     internal void Exchange(HeaderStream stream)
     {
         foreach (HeaderField field in HeaderFields.All)
@@ -34,7 +36,14 @@ internal sealed class HeaderValues
 
             HeaderValue before = _values.TryGetValue(field.Name, out HeaderValue known)
                 ? known : new HeaderValue(field.Default);
-            _values[field.Name] = Exchange(stream, field, before);
+            try
+            {
+                _values[field.Name] = Exchange(stream, field, before);
+            }
+            catch (DwgFault fault)
+            {
+                throw new DwgFault(fault.Position, $"{field.Name}: {fault.Message}");
+            }
         }
     }
 

@@ -27,6 +27,12 @@ internal static class ExtendedDataWriter
         {
             ulong application = handles.Application(xdata.RegisteredApplicationName);
             byte[] data = Pack(xdata.Data, release, encoding, handles);
+            if (application != 0 && data.Length > ushort.MaxValue)
+            {
+                throw new DwgFault(bits.Position,
+                    $"its extended data has {data.Length} bytes; at most {ushort.MaxValue} can be written");
+            }
+
             if (application != 0 && data.Length > 0)
             {
                 bits.BitShort(data.Length);

@@ -1,4 +1,5 @@
 using System.Text;
+using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
@@ -26,22 +27,17 @@ internal sealed class RecordWriter(int release, Encoding encoding, WrittenHandle
     /// <param name="item">The object.</param>
     /// <param name="frame">Its place among the others.</param>
     /// <param name="parts">Its parts.</param>
+    /// <exception cref="ImageSaveException">A value does not fit its field.</exception>
     internal void Write(int type, CadBaseObject item, ObjectFrame frame, ChildHandles? parts)
     {
-        Begin(item, frame);
-        _fields.Parts = parts ?? new ChildHandles();
-        if (item is CadEntityBase entity)
+        try
         {
-            WriteGraphics(entity);
-            CommonData.ExchangeEntity(_fields, entity, frame);
+            WriteFields(type, item, frame, parts);
         }
-        else
+        catch (DwgFault fault)
         {
-            CommonData.ExchangeObject(_fields, frame);
+            throw new ImageSaveException($"{_fields.Subject}: {fault.Message}.");
         }
-
-        item.ExchangeBits(_fields);
-        End(type, item.Handle);
     }
 
     /// <summary>Writes the header of a symbol table.</summary>
@@ -102,6 +98,24 @@ internal sealed class RecordWriter(int release, Encoding encoding, WrittenHandle
         }
 
         store.Add(handle, record.Bytes, kept.HandleBits);
+    }
+
+    private void WriteFields(int type, CadBaseObject item, ObjectFrame frame, ChildHandles? parts)
+    {
+        Begin(item, frame);
+        _fields.Parts = parts ?? new ChildHandles();
+        if (item is CadEntityBase entity)
+        {
+            WriteGraphics(entity);
+            CommonData.ExchangeEntity(_fields, entity, frame);
+        }
+        else
+        {
+            CommonData.ExchangeObject(_fields, frame);
+        }
+
+        item.ExchangeBits(_fields);
+        End(type, item.Handle);
     }
 
     private int ReadType(ref BitReader record) =>
