@@ -116,12 +116,12 @@ def carry(libraries: dict[str, Path], folder: Path) -> list[Library]:
         added = _lower(elf)
         target = folder / names[name]
         target.write_bytes(elf.data)
-        edit = ["patchelf", "--set-soname", names[name], "--set-rpath", "$ORIGIN"]
-        for needed in elf.needed:
-            edit += ["--replace-needed", needed, names[needed]] if needed in names else []
-        for needed in added:
-            edit += ["--add-needed", names[needed]]
-        subprocess.run([*edit, str(target)], check=True)
+        replaced = [part for needed in elf.needed if needed in names for part in ("--replace-needed", needed, names[needed])]
+        # One step at a time: the program loses changes of names that it makes beside others.
+        for step in (replaced, *(["--add-needed", names[needed]] for needed in added),
+                     ["--set-soname", names[name]], ["--set-rpath", "$ORIGIN"]):  # fmt: skip
+            if step:
+                subprocess.run(["patchelf", *step, str(target)], check=True)
         carried.append(Library(path, target))
     return carried
 
