@@ -1,7 +1,8 @@
-"""Packs the built package into a wheel: `make wheel`.
+"""Packs the built package into a wheel that runs on a system with nothing but a C library: `make wheel`.
 
-A wheel is a zip with three text files beside the package. Nothing is compiled here: what goes in is
-what `build/python` imports, less debug symbols and XML documentation.
+What `build/python` imports goes in, less debug symbols, XML documentation and the assemblies of the runtime that nothing
+refers to; and what the library opens by name: shared libraries with those that they need, fonts as a last resort, and
+the licences of all that. The same inputs give the same bytes.
 """
 
 from __future__ import annotations
@@ -14,14 +15,31 @@ import subprocess
 import sys
 import tempfile
 import zipfile
+from collections import Counter
+from collections.abc import Mapping
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
+sys.path.insert(0, str(ROOT / "tools"))
+
+from packing import assemblies, fonts, libraries, licences  # noqa: E402
+
 NAME = "korvan_cad"
-# The interpreter's own ABI, and the C library of the machine that compiled it.
-TAG = "cp312-cp312-linux_x86_64"
+# The interpreter's own ABI, and the oldest C library that has what our files need.
+TAG = "cp312-cp312-manylinux_2_34_x86_64"
 LEFT_OUT = {".pdb", ".xml", ".pyc"}
+RUNTIME = "korvan/netcore/netcore10.0/"
+RUNTIME_LIBRARIES = {
+    "libcoreclr.so",
+    "libclrjit.so",
+    "libSystem.Native.so",
+    "libSystem.IO.Compression.Native.so",
+    libraries.ENCRYPTION_BRIDGE,
+    "libkorvan.embed.coreclrwrap.so",
+}
 STAMP = (2025, 1, 1, 0, 0, 0)
+
+Contents = dict[str, bytes]
 
 
 def project_version() -> str:
@@ -55,25 +73,71 @@ def wheel_file() -> str:
 
 
 def entry_points() -> str:
-    """entry_points.txt: where PyInstaller asks for the folders of the package's hooks."""
-    return "[pyinstaller40]\nhook-dirs = korvan.cad:get_pyinstaller_hook_dirs\n"
+    """entry_points.txt: the command, and where PyInstaller asks for the folders of the package's hooks."""
+    return (
+        "[console_scripts]\nkorvan = korvan.commands:main\n\n"
+        "[pyinstaller40]\nhook-dirs = korvan.cad:get_pyinstaller_hook_dirs\n"
+    )
 
 
-def stripped(path: Path, scratch: Path) -> bytes:
-    """The bytes of a file; of our own libraries without their debug symbols."""
-    is_ours = path.suffix == ".so" and ("cpython" in path.name or "coreclrwrap" in path.name)
-    if not is_ours:
-        return path.read_bytes()
-    target = scratch / path.name
-    subprocess.run(["strip", "--strip-debug", "-o", str(target), str(path)], check=True)
-    return target.read_bytes()
+def stripped(path: Path) -> bytes:
+    """The bytes of a library of ours without the symbols that only debuggers read."""
+    with tempfile.TemporaryDirectory() as scratch:
+        target = Path(scratch, path.name)
+        subprocess.run(["strip", "--strip-unneeded", "-o", str(target), str(path)], check=True)
+        return target.read_bytes()
+
+
+def own_files(package: Path) -> Contents:
+    """What the build made, and of the runtime what it needs."""
+    runtime = package / RUNTIME
+    wanted = assemblies.needed((package / "korvan" / "assemblies").glob("*/*.dll"), runtime) | RUNTIME_LIBRARIES
+    contents = {}
+    for path in sorted(package.rglob("*")):
+        name = path.relative_to(package).as_posix()
+        if not path.is_file() or path.suffix in LEFT_OUT or (name.startswith(RUNTIME) and path.name not in wanted):
+            continue
+        is_ours = path.suffix == ".so" and ("cpython" in path.name or "coreclrwrap" in path.name)
+        contents[name] = stripped(path) if is_ours else path.read_bytes()
+    return contents
+
+
+def carried_files(package: Path, substitutes: Path, info: str) -> Contents:
+    """What the package takes from systems: libraries, fonts, and the licences of these and of the runtime."""
+    opened = {name for path in (package / "korvan" / "assemblies").glob("*/*.dll")
+              for name in assemblies.native_libraries(path)} - {"libc"}  # fmt: skip
+    needed = libraries.closure(opened | {libraries.ENCRYPTION})
+    replaced = {name: substitutes / name for name in needed if (substitutes / name).exists()}
+    contents: Contents = {}
+    sources = []
+    with tempfile.TemporaryDirectory() as scratch:
+        for library in libraries.carry(needed | replaced, Path(scratch)):
+            name = f"korvan/libraries/{library.file.name}"
+            contents[name] = library.file.read_bytes()
+            if library.source not in replaced.values():
+                sources.append((library.source, name))
+        bridge = Path(scratch, libraries.ENCRYPTION_BRIDGE)
+        libraries.redirect_encryption(package / RUNTIME / bridge.name, bridge)
+        contents[RUNTIME + bridge.name] = bridge.read_bytes()
+    for path in libraries.last_resort():
+        contents[f"korvan/libraries/last-resort/{path.name}"] = path.read_bytes()
+        sources.append((path.resolve(), f"korvan/libraries/last-resort/{path.name}"))
+    for name, path in fonts.files().items():
+        contents[f"korvan/{name}"] = path.read_bytes()
+        if not path.is_relative_to(ROOT):
+            sources.append((path, f"korvan/{name}"))
+    components = licences.of_debian(sources) + licences.of_runtime(RUNTIME)
+    for component in components:
+        contents[f"{info}/licenses/{component.name}.txt"] = component.text.read_bytes()
+    contents[f"{info}/licenses/components.json"] = licences.listing(components).encode()
+    return contents
 
 
 class Wheel:
     """A wheel that is being written; keeps its RECORD."""
 
     def __init__(self, path: Path, info: str) -> None:
-        self._zip = zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED, compresslevel=6)
+        self._zip = zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED, compresslevel=9)
         self._info = info
         self._record: list[str] = []
 
@@ -82,7 +146,7 @@ class Wheel:
         entry = zipfile.ZipInfo(name, STAMP)
         entry.compress_type = zipfile.ZIP_DEFLATED
         entry.external_attr = (0o100000 | mode) << 16
-        self._zip.writestr(entry, data)
+        self._zip.writestr(entry, data, compresslevel=9)
         digest = base64.urlsafe_b64encode(hashlib.sha256(data).digest()).rstrip(b"=").decode()
         self._record.append(f"{name},sha256={digest},{len(data)}")
 
@@ -94,18 +158,15 @@ class Wheel:
         self._zip.close()
 
 
-def make(package: Path, out: Path) -> Path:
-    """Writes the wheel and gives its path."""
+def write(contents: Mapping[str, bytes], out: Path) -> Path:
+    """Writes a wheel with the files of a package, and gives its path."""
     version = project_version()
-    info = f"{NAME}-{version}.dist-info"
+    info = dist_info()
     out.mkdir(parents=True, exist_ok=True)
     target = out / f"{NAME}-{version}-{TAG}.whl"
     wheel = Wheel(target, info)
-    with tempfile.TemporaryDirectory() as scratch:
-        for path in sorted(package.rglob("*")):
-            if path.is_file() and path.suffix not in LEFT_OUT:
-                mode = 0o755 if path.suffix == ".so" else 0o644
-                wheel.add(path.relative_to(package).as_posix(), stripped(path, Path(scratch)), mode)
+    for name, data in sorted(contents.items()):
+        wheel.add(name, data, 0o755 if data.startswith(b"\x7fELF") else 0o644)
     wheel.add(f"{info}/METADATA", metadata(version).encode())
     wheel.add(f"{info}/WHEEL", wheel_file().encode())
     wheel.add(f"{info}/entry_points.txt", entry_points().encode())
@@ -114,13 +175,48 @@ def make(package: Path, out: Path) -> Path:
     return target
 
 
+def dist_info() -> str:
+    """The folder of the wheel's own files."""
+    return f"{NAME}-{project_version()}.dist-info"
+
+
+def part_of(name: str) -> str:
+    """The part that a file is counted with."""
+    parts = name.split("/")
+    if parts[0] != "korvan" or len(parts) == 2:
+        return "extension modules" if name.endswith(".so") else "metadata and licences"
+    return {
+        "netcore": "runtime",
+        "assemblies": "assemblies",
+        "libraries": "shared libraries",
+        "fonts": "fonts",
+        "cad": "stubs",
+    }.get(parts[1], "Python")
+
+
+def print_sizes(wheel: Path) -> None:
+    """Prints what each part takes, packed and installed."""
+    packed: Counter[str] = Counter()
+    installed: Counter[str] = Counter()
+    for entry in zipfile.ZipFile(wheel).infolist():
+        packed[part_of(entry.filename)] += entry.compress_size
+        installed[part_of(entry.filename)] += entry.file_size
+    for part, size in packed.most_common():
+        print(f"{part:24}{size / 1e6:7.1f} MB packed{installed[part] / 1e6:7.1f} MB installed")
+    print(f"{'all':24}{wheel.stat().st_size / 1e6:7.1f} MB packed{installed.total() / 1e6:7.1f} MB installed")
+
+
 def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--package", type=Path, required=True, help="folder that holds korvan/")
+    parser.add_argument("--substitutes", type=Path, required=True, help="folder of libraries in place of the system's")
     parser.add_argument("--out", type=Path, required=True, help="where to write the wheel")
     arguments = parser.parse_args()
-    target = make(arguments.package, arguments.out)
-    print(f"{target}  {target.stat().st_size / 2**20:.1f} MiB")
+    contents = own_files(arguments.package)
+    contents |= carried_files(arguments.package, arguments.substitutes, dist_info())
+    target = write(contents, arguments.out)
+    print(target)
+    print_sizes(target)
     return 0
 
 

@@ -1,6 +1,5 @@
 using System;
 using System.Linq;
-using System.Runtime.InteropServices;
 using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD;
@@ -11,16 +10,19 @@ namespace Korvan.CAD;
 /// </summary>
 internal static class OpenSsl
 {
-    private static readonly string[] Files = ["libssl.so.3", "libssl.so.1.1"];
+    /// <summary>The name by which the runtime of an installed package asks for the library beside it.</summary>
+    private const string CarriedName = "korvanssl.3";
 
-    private static readonly Lazy<bool> Found = new(() => Files.Any(static file => NativeLibrary.TryLoad(file, out _)));
+    private static readonly string[] Files = [CarriedName, "libssl.so.3", "libssl.so.1.1"];
+
+    private static readonly Lazy<bool> Found = new(() => Files.Any(static file => CarriedLibraries.TryLoad(file, out _)));
 
     internal static void Require()
     {
         if (!Found.Value)
         {
             throw new FrameworkException(
-                $"Signatures and sealed watermarks need the shared library {Files[0]}, which could not be loaded. "
+                "Signatures and sealed watermarks need the shared library libssl.so.3, which could not be loaded. "
                 + "On Debian and Ubuntu it comes with the package libssl3.");
         }
     }

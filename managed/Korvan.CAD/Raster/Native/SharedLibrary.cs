@@ -1,5 +1,4 @@
 using System.Collections.Concurrent;
-using System.Runtime.InteropServices;
 using Korvan.CAD.CadExceptions;
 
 namespace Korvan.CAD.Raster.Native;
@@ -12,7 +11,7 @@ internal static class SharedLibrary
 
     internal static void Require(string file, string package)
     {
-        if (!Found.GetOrAdd(file, static name => NativeLibrary.TryLoad(name, out _)))
+        if (!Found.GetOrAdd(file, static name => CarriedLibraries.TryLoad(name, out _)))
         {
             Found.TryRemove(file, out _);
             throw new FrameworkException($"This format needs the shared library {file}, which could not be loaded. "

@@ -51,6 +51,21 @@ internal static unsafe partial class Fontconfig
     [LibraryImport(Library, EntryPoint = "FcInitLoadConfigAndFonts")]
     private static partial nint InitLoadConfigAndFonts();
 
+    [LibraryImport(Library, EntryPoint = "FcConfigParseAndLoad", StringMarshalling = StringMarshalling.Utf8)]
+    private static partial int ConfigParseAndLoad(nint config, string file, int complain);
+
+    [LibraryImport(Library, EntryPoint = "FcConfigBuildFonts")]
+    private static partial int ConfigBuildFonts(nint config);
+
+    [LibraryImport(Library, EntryPoint = "FcConfigAppFontAddDir", StringMarshalling = StringMarshalling.Utf8)]
+    private static partial int ConfigAppFontAddDir(nint config, string folder);
+
+    [LibraryImport(Library, EntryPoint = "FcConfigSetRescanInterval")]
+    private static partial int ConfigSetRescanInterval(nint config, int seconds);
+
+    [LibraryImport(Library, EntryPoint = "FcConfigSetCurrent")]
+    private static partial int ConfigSetCurrent(nint config);
+
     [LibraryImport(Library, EntryPoint = "FcConfigDestroy")]
     private static partial void ConfigDestroy(nint config);
 
@@ -92,7 +107,30 @@ internal static unsafe partial class Fontconfig
     /// <summary>Fonts that are known beside each other: those of the system, unless they are left out, and
     /// more.</summary>
     internal static NativeHandle NewConfig(bool withSystem) =>
-        new(withSystem ? InitLoadConfigAndFonts() : ConfigCreate(), &ConfigDestroy);
+        withSystem ? CarriedFonts.NewConfig() : new(ConfigCreate(), &ConfigDestroy);
+
+    /// <summary>The configuration of the system, with its fonts.</summary>
+    internal static NativeHandle LoadSystemConfig() => new(InitLoadConfigAndFonts(), &ConfigDestroy);
+
+    /// <summary>The configuration that a file states, with its fonts.</summary>
+    internal static NativeHandle LoadConfig(string file)
+    {
+        var config = new NativeHandle(ConfigCreate(), &ConfigDestroy);
+        _ = ConfigParseAndLoad(config.Pointer, file, 1);
+        _ = ConfigBuildFonts(config.Pointer);
+        return config;
+    }
+
+    /// <summary>Makes a configuration that of the process. It is not loaded anew when fonts are installed, which would
+    /// lose what was added to it.</summary>
+    internal static void MakeCurrent(nint config)
+    {
+        _ = ConfigSetRescanInterval(config, 0);
+        _ = ConfigSetCurrent(config);
+    }
+
+    /// <summary>Makes the fonts of a folder known; false where it has none.</summary>
+    internal static bool AddFolder(nint config, string folder) => ConfigAppFontAddDir(config, folder) != 0;
 
     /// <summary>Makes one more font file known; false for what is no font.</summary>
     internal static bool AddFile(nint config, string file) => ConfigAppFontAddFile(config, file) != 0;

@@ -1,10 +1,9 @@
-using System.Runtime.InteropServices;
 using Korvan.CAD.DisplayList;
 
 namespace Korvan.CAD.Rendering.Native;
 
 /// <summary>Looks for the shared libraries before the first call, so that a missing one is named with its
-/// cure.</summary>
+/// package.</summary>
 internal static class NativeLibraries
 {
     private static readonly (string File, string Package)[] Needed =
@@ -31,6 +30,7 @@ internal static class NativeLibraries
             Require(file, package);
         }
 
+        CarriedFonts.Provide();
         _found = true;
     }
 
@@ -38,7 +38,7 @@ internal static class NativeLibraries
     /// it.</summary>
     internal static void Require(string file, string package)
     {
-        if (!NativeLibrary.TryLoad(file, out _))
+        if (!CarriedLibraries.TryLoad(file, out _))
         {
             throw new RenderException(
                 $"Rendering needs the shared library {file}, which could not be loaded. " +

@@ -1,0 +1,1 @@
+"""The steps of tools/make_wheel.py."""
