@@ -63,6 +63,9 @@ internal sealed partial class SvgDocument
         _writer.Number(page.Width);
         _writer.Raw((byte)' ');
         _writer.Number(page.Height);
+        // What measures on the page needs the way back to drawing units.
+        _writer.Raw("\" data-from-drawing=\""u8);
+        _writer.Matrix(_map);
         _writer.Raw("\">\n"u8);
         _writer.Text(style);
         if (_settings.PaintBackground)

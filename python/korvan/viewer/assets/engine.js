@@ -1,0 +1,108 @@
+// The worker: reads layouts and draws views of them, so that the page never waits.
+"use strict";
+
+const INTERIM = 250;  // milliseconds between unfinished pictures of a slow view
+
+let painter = null;
+let newest = 0;
+const channel = new MessageChannel();
+let resume = null;
+channel.port1.onmessage = () => resume();
+
+/** Lets messages in between two slices. */
+function nextTask() {
+  return new Promise((resolve) => {
+    resume = resolve;
+    channel.port2.postMessage(0);
+  });
+}
+
+async function inflate(bytes) {
+  const stream = new Blob([bytes]).stream().pipeThrough(new DecompressionStream("gzip"));
+  return new Response(stream).text();
+}
+
+async function decodeImage(url) {
+  const [head, data] = url.split(",", 2);
+  const bytes = Uint8Array.from(atob(data), (character) => character.charCodeAt(0));
+  try {
+    return await createImageBitmap(new Blob([bytes], { type: head.slice(5).split(";")[0] }));
+  } catch {
+    return null;  // damaged: its place stays empty
+  }
+}
+
+/** The scene of a page that is an image. */
+async function imageScene(bytes) {
+  const bitmap = await createImageBitmap(new Blob([bytes]));
+  const { width, height } = bitmap;
+  const place = { kind: IMAGE, layer: -1, image: 0, alpha: 1, matrix: [width, 0, 0, height, 0, 0] };
+  const scene = { width, height, matrix: [1, 0, 0, -1, 0, height], layers: [], texts: [],
+    geometry: new Geometry(), images: [{ sharp: false }],
+    items: [{ ...place, minX: 0, minY: 0, maxX: width, maxY: height }] };
+  return [scene, [bitmap]];
+}
+
+async function open({ bytes, isImage, isPlotted, settings }) {
+  let scene, images;
+  if (isImage) {
+    [scene, images] = await imageScene(bytes);
+  } else {
+    scene = new SceneReader().read(await inflate(bytes));
+    images = await Promise.all(scene.images.map((image) => decodeImage(image.url)));
+  }
+  painter = new Painter(scene, images);
+  painter.plotted = isPlotted;
+  apply(settings);
+  const { width, height, matrix, texts } = scene;
+  const layers = scene.layers.map((name, i) => ({ name, color: painter.colorOfLayer(i) }));
+  postMessage({ type: "opened", width, height, matrix, layers, texts, bounds: painter.visibleBounds(),
+    count: scene.items.length });
+}
+
+function apply({ hidden, dark, weights }) {
+  const names = new Set(hidden);
+  painter.hidden = new Set([...painter.scene.layers.keys()].filter((i) => names.has(painter.scene.layers[i])));
+  painter.setTheme(dark);
+  painter.weights = weights;
+}
+
+async function draw({ id, view, width, height, overview }) {
+  newest = id;
+  const canvas = new OffscreenCanvas(width, height);
+  const context = canvas.getContext("2d");
+  let shown = performance.now();
+  const finished = await painter.draw(context, view, async (isWhole) => {
+    if (isWhole && !overview && performance.now() - shown > INTERIM) {
+      const bitmap = await createImageBitmap(canvas);
+      postMessage({ type: "drawn", id, view, overview, bitmap, done: false }, [bitmap]);
+      shown = performance.now();
+    }
+    await nextTask();
+    return newest === id;
+  });
+  if (finished) {
+    const bitmap = canvas.transferToImageBitmap();
+    postMessage({ type: "drawn", id, view, overview, bitmap, done: true }, [bitmap]);
+  }
+}
+
+const HANDLERS = {
+  open,
+  draw,
+  settings({ settings }) {
+    apply(settings);
+    postMessage({ type: "bounds", bounds: painter.visibleBounds() });
+  },
+  snap({ id, x, y, distance }) {
+    postMessage({ type: "snapped", id, point: painter.nearest(x, y, distance) });
+  },
+};
+
+onmessage = async ({ data }) => {
+  try {
+    await HANDLERS[data.type](data);
+  } catch (error) {
+    postMessage({ type: "failed", message: error.message });
+  }
+};

@@ -1,0 +1,187 @@
+"""What a page shows of a file: its layouts as SVG documents, or its pages as images."""
+
+from __future__ import annotations
+
+import gzip
+import io
+import os
+from collections.abc import Iterator, Sequence
+from contextlib import contextmanager
+from dataclasses import dataclass, field
+from pathlib import Path
+from typing import TYPE_CHECKING
+
+if TYPE_CHECKING:
+    import korvan.cad
+    from korvan.cad.fileformats.cad import CadImage
+    from korvan.cad.imageoptions import ImageOptionsBase
+
+# Coordinates of a document have three decimal places: on a large page they keep what a deep zoom shows.
+_MODEL_WIDTH = 25_400.0
+_MOST_PAGES = 500
+_MOST_NOTES = 50
+_FASTEST = 4  # level of gzip: the smallest one takes five times as long for a tenth less
+_UNITS = {
+    "KILOMETER": "km",
+    "METER": "m",
+    "DECIMETER": "dm",
+    "CENTIMETER": "cm",
+    "MILLIMETER": "mm",
+    "MICROMETER": "µm",
+    "INCH": "in",
+    "FOOT": "ft",
+    "YARD": "yd",
+    "MILE": "mi",
+}
+
+
+class ViewerError(RuntimeError):
+    """A file that cannot be shown, and why."""
+
+
+@dataclass(frozen=True)
+class Layout:
+    """A layout of a drawing, or a page of an image."""
+
+    name: str
+    data: bytes
+    """The SVG document, compressed with gzip, or the file of an image."""
+    is_image: bool = False
+    is_sheet: bool = False
+    """Whether it has a paper, with which line widths are scaled."""
+    unit: str = ""
+    message: str = ""
+    """Why it cannot be shown; empty if it can."""
+
+
+@dataclass(frozen=True)
+class Layer:
+    """A layer, and whether the file shows it."""
+
+    name: str
+    visible: bool
+
+
+@dataclass
+class Contents:
+    """What a page shows."""
+
+    title: str
+    layouts: list[Layout]
+    layers: list[Layer] = field(default_factory=list)
+    notes: list[str] = field(default_factory=list)
+    """What was not drawn faithfully, and fonts that were replaced."""
+
+
+def read_contents(source: str | os.PathLike[str], layouts: Sequence[str] | None = None) -> Contents:
+    """Reads a file.
+
+    :param source: The path of a drawing, a metafile or an image.
+    :param layouts: Names of the layouts to show, in order; None for all of them.
+    :raises ViewerError: The file has no 2D content, or not the layouts.
+    :raises RuntimeError: The file cannot be read.
+    """
+    import korvan.cad
+    from korvan.cad import Image, RasterImage
+    from korvan.cad.fileformats.cad import CadImage
+    from korvan.cad.imageoptions import PngOptions, SvgOptions
+
+    path = Path(source)
+    if not path.is_file():
+        raise ViewerError(f"{path}: there is no such file")
+    with Image.load(str(path)) as image:
+        if drawing := CadImage._cast_to(image):
+            return _read_drawing(path.name, image, drawing.value, layouts)
+        if layouts:
+            raise ViewerError(f"{path}: only drawings have layouts to select")
+        if RasterImage._cast_to(image) or not image.can_save(SvgOptions()):
+            if not image.can_save(PngOptions()):
+                raise ViewerError(f"{path}: there is no 2D view of this kind of file; drawings and images have one")
+            return Contents(path.name, list(_read_pages(image)))
+        contents = Contents(path.name, [])
+        contents.layouts.append(_render(image, path.stem, None, contents, is_sheet=True))
+        return contents
+
+
+def _read_drawing(
+    title: str, image: korvan.cad.Image, drawing: CadImage, wanted: Sequence[str] | None
+) -> Contents:
+    names = list(drawing.layouts.names)
+    if wanted is not None:
+        known = {name.casefold(): name for name in names}
+        if missing := [name for name in wanted if name.casefold() not in known]:
+            raise ViewerError(f"{title}: no layout {missing[0]!r}; it has {', '.join(map(repr, names))}")
+        names = [known[name.casefold()] for name in wanted]
+    contents = Contents(title, [])
+    contents.layers += [Layer(layer.name, layer.is_on and not layer.is_frozen) for layer in drawing.layers]
+    contents.layers.sort(key=lambda layer: layer.name.casefold())
+    unit = _UNITS.get(image.unit_type.name or "", "")
+    with _all_layers(drawing):
+        for name in names:
+            is_sheet = name.casefold() != "model"
+            contents.layouts.append(_render(image, name, unit, contents, is_sheet=is_sheet))
+    return contents
+
+
+@contextmanager
+def _all_layers(drawing: CadImage) -> Iterator[None]:
+    """Shows all layers while it is open: the page has switches of its own."""
+    stored = [(layer, layer.is_on, layer.is_frozen) for layer in drawing.layers]
+    for layer, _, _ in stored:
+        layer.is_on = True
+        layer.is_frozen = False
+    try:
+        yield
+    finally:
+        for layer, is_on, is_frozen in stored:
+            layer.is_on = is_on
+            layer.is_frozen = is_frozen
+
+
+def _render(image: korvan.cad.Image, name: str, unit: str | None, contents: Contents, *, is_sheet: bool) -> Layout:
+    from korvan.cad.imageoptions import CadRasterizationOptions, SvgOptions
+
+    options = SvgOptions()
+    options.text_as_shapes = False
+    if unit is not None:
+        page = CadRasterizationOptions()
+        page.layouts = [name]
+        if not is_sheet:
+            page.page_width = _MODEL_WIDTH
+        options.vector_rasterization_options = page
+    target = io.BytesIO()
+    try:
+        image.save(target, options)
+    except RuntimeError as error:
+        return Layout(name, b"", message=f"This layout cannot be drawn: {error}")
+    _add_notes(options, contents)
+    document = gzip.compress(target.getbuffer(), _FASTEST, mtime=0)
+    return Layout(name, document, is_sheet=is_sheet, unit="" if is_sheet else unit or "")
+
+
+def _add_notes(options: ImageOptionsBase, contents: Contents) -> None:
+    result = options.render_result
+    if result is None:
+        return
+    found = [failure.message for failure in result.failures]
+    found += [f"Font: {substitution}" for substitution in result.font_substitutions]
+    for note in found:
+        if note not in contents.notes and len(contents.notes) < _MOST_NOTES:
+            contents.notes.append(note)
+
+
+def _read_pages(image: korvan.cad.Image) -> Iterator[Layout]:
+    """The pages of an image, as PNG files."""
+    from korvan.cad.imageoptions import MultiPageOptions, PngOptions
+
+    for number in range(_MOST_PAGES):
+        options = PngOptions()
+        options.multi_page_options = MultiPageOptions(number, 1)
+        target = io.BytesIO()
+        try:
+            image.save(target, options)
+        except RuntimeError:
+            if number == 0:
+                raise
+            return  # there are no more pages
+        yield Layout(f"Page {number + 1}", target.getvalue(), is_image=True, unit="px")
