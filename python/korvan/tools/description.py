@@ -39,7 +39,8 @@ def _layouts(drawing: CadImage) -> list[dict[str, Any]]:
             for layout in drawing.layouts]
 
 
-def _layers(drawing: CadImage) -> list[dict[str, Any]]:
+def layers(drawing: CadImage) -> list[dict[str, Any]]:
+    """The layers with their properties, and how many entities of all blocks and layouts are on them."""
     counts: Counter[str] = Counter()
     for block in drawing.block_entities:
         counts.update(entity.layer_name.casefold() for entity in block.entities)
@@ -84,7 +85,7 @@ def _describe_drawing(drawing: CadImage) -> dict[str, Any]:
     return {
         "release": RELEASES.get(int(drawing.version), enum_name(drawing.version)),
         "title": summary.title, "author": summary.author, "units": enum_name(drawing.unit_type).lower(),
-        "extents": _extents(drawing), "layouts": _layouts(drawing), "layers": _layers(drawing),
+        "extents": _extents(drawing), "layouts": _layouts(drawing), "layers": layers(drawing),
         "blocks": sum(not block.name.startswith("*") for block in drawing.block_entities),
         "entities": dict(counts.most_common()), "unknown_entities": drawing.unknown_entity_count,
     }

@@ -1,0 +1,79 @@
+"""``korvan texts``: searches the texts of drawings."""
+
+from __future__ import annotations
+
+import argparse
+import re
+import sys
+from dataclasses import asdict
+from functools import partial
+from typing import Any
+
+from korvan.commands.common import Usage, add_json, each, expand, parser_for, print_json
+
+_EXAMPLES = """  korvan texts door plan.dxf               texts with "door"; case is ignored
+  korvan texts 'DN *[0-9]+' archive/       a regular expression, in all drawings below a folder
+  korvan texts '' plan.dxf                 all texts
+  korvan texts --layer 'A-*' --kind MTEXT room plan.dxf
+  korvan texts --count door *.dwg          how many there are in each
+"""
+
+
+def add_parser(subparsers: Any) -> None:
+    parser = parser_for(subparsers, "texts", "Searches the texts of drawings, metafiles and building models.",
+                        _EXAMPLES)
+    parser.add_argument("pattern", metavar="PATTERN", help="a regular expression; '' for all texts")
+    parser.add_argument("files", nargs="+", metavar="FILE", help="drawings; folders stand for the drawings in them")
+    parser.add_argument("-F", "--fixed", action="store_true", help="the pattern is a plain string")
+    parser.add_argument("-s", "--case-sensitive", action="store_true", help="tell upper and lower case apart")
+    parser.add_argument("-c", "--count", action="store_true", help="print how many texts match")
+    parser.add_argument("-l", "--list", action="store_true", help="print the names of files with a match")
+    parser.add_argument("--layer", metavar="NAME", help="only on layers of this name or pattern")
+    parser.add_argument("--kind", metavar="TYPE", help="only of this type: TEXT, MTEXT, ATTRIB")
+    add_json(parser)
+
+
+def _find(path: str, pattern: re.Pattern[str], layer: str | None, kind: str | None) -> list[Any]:
+    from fnmatch import fnmatchcase
+
+    from korvan.tools import open_drawing, texts
+
+    def fits(text: Any) -> bool:
+        return (pattern.search(text.text) is not None
+                and (layer is None or fnmatchcase(text.layer.casefold(), layer.casefold()))
+                and (kind is None or text.kind.casefold() == kind.casefold()))
+
+    with open_drawing(path, tolerant=True) as image:
+        return [text for text in texts(image) if fits(text)]
+
+
+def _print(arguments: argparse.Namespace, path: str, found: list[Any], pattern: re.Pattern[str]) -> None:
+    if arguments.json:
+        print_json({"file": path, "texts": [asdict(text) for text in found]})
+    elif arguments.count:
+        print(f"{path}: {len(found)}")
+    elif arguments.list:
+        print(path)
+    else:
+        colored = sys.stdout.isatty()
+        for text in found:
+            shown = " | ".join(text.text.split("\n"))
+            if colored and pattern.pattern:
+                shown = pattern.sub(lambda match: f"\x1b[1;31m{match[0]}\x1b[0m", shown)
+            where = ", ".join(filter(None, (text.place, text.layer, f"{text.kind} {text.handle}".strip(), text.tag)))
+            print(f"{path}: {shown}  ({where})")
+
+
+def run(arguments: argparse.Namespace) -> int:
+    try:
+        pattern = re.compile(re.escape(arguments.pattern) if arguments.fixed else arguments.pattern,
+                             0 if arguments.case_sensitive else re.IGNORECASE)
+    except re.error as failure:
+        raise Usage(f"{arguments.pattern!r} is no regular expression: {failure}; -F takes it as it is") from failure
+    paths = list(expand(arguments.files))
+    count = 0
+    for path, found in each(paths, partial(_find, pattern=pattern, layer=arguments.layer, kind=arguments.kind)):
+        count += 1
+        if found or arguments.count or arguments.json:
+            _print(arguments, path, found, pattern)
+    return 1 if count < len(paths) else 0
