@@ -172,16 +172,26 @@ def _add_notes(options: ImageOptionsBase, contents: Contents) -> None:
 
 def _read_pages(image: korvan.cad.Image) -> Iterator[Layout]:
     """The pages of an image, as PNG files."""
-    from korvan.cad.imageoptions import MultiPageOptions, PngOptions
+    from korvan.cad import Image
+    from korvan.cad.imageoptions import MultiPageOptions, TiffOptions
 
-    for number in range(_MOST_PAGES):
-        options = PngOptions()
+    yield _page(1, image)
+    for number in range(1, _MOST_PAGES):
+        options = TiffOptions()  # one of the formats whose options select pages
         options.multi_page_options = MultiPageOptions(number, 1)
-        target = io.BytesIO()
+        single = io.BytesIO()
         try:
-            image.save(target, options)
+            image.save(single, options)
         except RuntimeError:
-            if number == 0:
-                raise
             return  # there are no more pages
-        yield Layout(f"Page {number + 1}", target.getvalue(), is_image=True, unit="px")
+        single.seek(0)
+        with Image.load(single) as page:
+            yield _page(number + 1, page)
+
+
+def _page(number: int, image: korvan.cad.Image) -> Layout:
+    from korvan.cad.imageoptions import PngOptions
+
+    target = io.BytesIO()
+    image.save(target, PngOptions())
+    return Layout(f"Page {number}", target.getvalue(), is_image=True, unit="px")

@@ -1,8 +1,9 @@
 // The view: what part of the layout is on screen, and the pictures of it that the worker made.
 "use strict";
 
-const MARGIN = 0.12;  // of the window, drawn around it so that short moves need no new picture
+const MARGIN = 0.15;  // of the window, drawn around it so that short moves need no new picture
 const NEAREST = 40000;  // zoom over the one that shows everything
+const STALE = 3;  // how much a picture is enlarged while the zoom goes on
 const QUIET = 90;  // milliseconds without a change after which an outdated request is given up
 
 class Camera {
@@ -23,6 +24,7 @@ class Camera {
     this._changed = 0;
     this.firstPicture = 0;
     this.isSharp = false;
+    this._readColors();
     this.resize();
   }
 
@@ -46,7 +48,13 @@ class Camera {
   /** Forgets pictures, after a change of the settings. */
   restyle() {
     this._state++;
+    this._readColors();
     this.refresh();
+  }
+
+  _readColors() {
+    const style = getComputedStyle(document.documentElement);
+    this._colors = { desk: style.getPropertyValue("--desk"), sheet: style.getPropertyValue("--sheet") };
   }
 
   refresh() {
@@ -150,12 +158,11 @@ class Camera {
 
   _paint() {
     const { context, canvas, view } = this;
-    const style = getComputedStyle(document.documentElement);
     context.setTransform(1, 0, 0, 1, 0, 0);
-    context.fillStyle = style.getPropertyValue(this.page.isSheet ? "--desk" : "--sheet");
+    context.fillStyle = this.page.isSheet ? this._colors.desk : this._colors.sheet;
     context.fillRect(0, 0, canvas.width, canvas.height);
     if (this.page.isSheet) {
-      context.fillStyle = style.getPropertyValue("--sheet");
+      context.fillStyle = this._colors.sheet;
       context.fillRect(-view.x * view.scale, -view.y * view.scale, this.page.width * view.scale,
         this.page.height * view.scale);
     }
@@ -208,13 +215,14 @@ class Camera {
         this._pending = null;
       } else {
         if (isOutdated) {
-          clearTimeout(this._later);
-          this._later = setTimeout(() => this._frame(), QUIET);
+          this._askLater();
         }
         return;
       }
     }
-    if (!isSharp) {
+    if (!isSharp && this._isZooming()) {
+      this._askLater();
+    } else if (!isSharp) {
       const marginX = Math.round(canvas.width * MARGIN), marginY = Math.round(canvas.height * MARGIN);
       this._ask({ ...view, x: view.x - marginX / view.scale, y: view.y - marginY / view.scale },
         canvas.width + 2 * marginX, canvas.height + 2 * marginY, false);
@@ -224,6 +232,20 @@ class Camera {
       this._ask({ x: minX - 4 / scale, y: minY - 4 / scale, scale, ratio: this.ratio },
         Math.ceil((maxX - minX) * scale) + 8, Math.ceil((maxY - minY) * scale) + 8, true);
     }
+  }
+
+  /** Whether the scale has just changed, but not by so much that the enlarged picture shows little. */
+  _isZooming() {
+    if (this._sharp === null || this._sharp.state !== this._state || performance.now() - this._changed > QUIET) {
+      return false;
+    }
+    const ratio = this.view.scale / this._sharp.view.scale;
+    return ratio !== 1 && ratio > 1 / STALE && ratio < STALE;
+  }
+
+  _askLater() {
+    clearTimeout(this._later);
+    this._later = setTimeout(() => this._request(), QUIET);
   }
 
   _ask(view, width, height, overview) {

@@ -4,6 +4,7 @@
 const INTERIM = 250;  // milliseconds between unfinished pictures of a slow view
 
 let painter = null;
+let last = null;  // the last picture of a view that is whole
 let newest = 0;
 const channel = new MessageChannel();
 let resume = null;
@@ -65,26 +66,64 @@ function apply({ hidden, dark, weights }) {
   painter.hidden = new Set([...painter.scene.layers.keys()].filter((i) => names.has(painter.scene.layers[i])));
   painter.setTheme(dark);
   painter.weights = weights;
+  painter.style = {};  // another one after each change
+  last = null;
 }
 
 async function draw({ id, view, width, height, overview }) {
   newest = id;
   const canvas = new OffscreenCanvas(width, height);
   const context = canvas.getContext("2d");
+  const send = async (done) => {
+    const bitmap = await createImageBitmap(canvas);
+    postMessage({ type: "drawn", id, view, overview, bitmap, done }, [bitmap]);
+  };
+  const { style } = painter;
+  const areas = overview ? [{ x: 0, y: 0, width, height }] : reuseLast(context, view);
+  const isMove = areas.length !== 1 || areas[0].width * areas[0].height < width * height;
   let shown = performance.now();
-  const finished = await painter.draw(context, view, async (isWhole) => {
-    if (isWhole && !overview && performance.now() - shown > INTERIM) {
-      const bitmap = await createImageBitmap(canvas);
-      postMessage({ type: "drawn", id, view, overview, bitmap, done: false }, [bitmap]);
-      shown = performance.now();
+  for (const area of areas) {
+    const finished = await painter.draw(context, view, area, async (isWhole) => {
+      if (isWhole && !isMove && !overview && performance.now() - shown > INTERIM) {
+        await send(false);
+        shown = performance.now();
+      }
+      await nextTask();
+      return newest === id;
+    });
+    if (!finished) {
+      return;
     }
-    await nextTask();
-    return newest === id;
-  });
-  if (finished) {
-    const bitmap = canvas.transferToImageBitmap();
-    postMessage({ type: "drawn", id, view, overview, bitmap, done: true }, [bitmap]);
   }
+  await send(true);
+  if (!overview) {
+    last = { canvas, view, style };
+  }
+}
+
+/** Copies what the last picture has of a view of the same scale, and returns the areas that it has not. */
+function reuseLast(context, view) {
+  const { width, height } = context.canvas;
+  const whole = [{ x: 0, y: 0, width, height }];
+  if (last === null || last.style !== painter.style || last.view.scale !== view.scale) {
+    return whole;
+  }
+  const x = Math.round((last.view.x - view.x) * view.scale), y = Math.round((last.view.y - view.y) * view.scale);
+  const { canvas } = last;
+  const left = Math.max(0, x), right = Math.min(width, x + canvas.width);
+  const top = Math.max(0, y), bottom = Math.min(height, y + canvas.height);
+  if (right <= left || bottom <= top) {
+    return whole;
+  }
+  view.x = last.view.x - x / view.scale;  // a whole number of pixels apart
+  view.y = last.view.y - y / view.scale;
+  context.drawImage(canvas, x, y);
+  return [
+    { x: 0, y: 0, width, height: top },
+    { x: 0, y: bottom, width, height: height - bottom },
+    { x: 0, y: top, width: left, height: bottom - top },
+    { x: right, y: top, width: width - right, height: bottom - top },
+  ].filter((area) => area.width > 0 && area.height > 0);
 }
 
 const HANDLERS = {

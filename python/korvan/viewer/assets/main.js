@@ -237,7 +237,8 @@ function connectPointer(viewer) {
     pointers.delete(event.pointerId);
     canvas.classList.remove("dragging");
     if (isClick && measure.mode !== null && event.button === 0) {
-      measure.add();
+      const at = local(event);
+      measure.add(at.x, at.y, !event.altKey);
     }
   };
   canvas.onpointerup = canvas.onpointercancel = release;

@@ -49,13 +49,17 @@ class Measure {
     this._snapId = 0;
     this._snapWanted = null;
     this._snapBusy = false;
+    this._clicks = new Map();  // points of the page that wait for what is drawn near them, by number
+    this._clickIds = 0;
+    this._isFinishing = false;
   }
 
   start(mode) {
     this.mode = this.mode === mode ? null : mode;
     this.points = [];
     this.pointer = null;
-    this._finished = false;
+    this._finished = this._isFinishing = false;
+    this._clicks.clear();
     this.onMode(this.mode);
     this.update();
   }
@@ -86,6 +90,14 @@ class Measure {
   }
 
   accept({ id, point }) {
+    if (id < 0) {
+      const clicked = this._clicks.get(id);
+      if (clicked !== undefined) {
+        this._clicks.delete(id);
+        this._push(point ?? clicked);
+      }
+      return;
+    }
     this._snapBusy = false;
     if (id === this._snapId && point !== null && this.pointer !== null && this._snapWanted === null) {
       this.pointer = { ...point, snapped: true };
@@ -94,21 +106,45 @@ class Measure {
     this._askSnap();
   }
 
-  add() {
-    if (this.mode === null || this.pointer === null) {
+  /** Adds the point of a click, or what is drawn near it. */
+  add(windowX, windowY, snaps) {
+    if (this.mode === null) {
       return;
     }
+    const { camera } = this;
+    const clicked = camera.toPage(windowX, windowY);
+    if (!snaps) {
+      this._push(clicked);
+      return;
+    }
+    const id = -(++this._clickIds);
+    this._clicks.set(id, clicked);
+    camera.engine.postMessage({ type: "snap", id, ...clicked, distance: SNAP * camera.ratio / camera.view.scale });
+  }
+
+  _push(point) {
     if (this._finished) {
       this.points = [];
       this._finished = false;
     }
-    this.points.push(this.pointer);
+    const last = this.points[this.points.length - 1];
+    // The second click of a double click adds nothing.
+    if (last === undefined || Math.hypot(last.x - point.x, last.y - point.y) * this.camera.view.scale > 1) {
+      this.points.push(point);
+    }
+    this.pointer ??= point;
+    if (this._isFinishing && this._clicks.size === 0) {
+      this.finish();
+    }
     this.update();
   }
 
   finish() {
-    this._finished = this.points.length > 1;
-    this.update();
+    this._isFinishing = this._clicks.size > 0;
+    if (!this._isFinishing) {
+      this._finished = this.points.length > 1;
+      this.update();
+    }
   }
 
   undo() {
@@ -146,6 +182,11 @@ class Measure {
 
   _draw() {
     const { overlay, camera } = this;
+    const isEmpty = this.mode === null && this.matches.length === 0;
+    overlay.hidden = isEmpty;
+    if (isEmpty) {  // one surface less to compose in each frame
+      return;
+    }
     const context = overlay.getContext("2d");
     const width = camera.canvas.width, height = camera.canvas.height;
     if (overlay.width !== width || overlay.height !== height) {

@@ -33,6 +33,7 @@ class Painter {
     this.hidden = new Set();  // numbers of layers
     this.dark = false;
     this.weights = true;
+    this.style = null;
     this.plotted = false;  // whether line weights grow with the sheet
     this._colors = new Map();
   }
@@ -55,18 +56,21 @@ class Painter {
       : { minX: 0, minY: 0, maxX: this.scene.width, maxY: this.scene.height };
   }
 
-  /** Draws a view: the page point at the top left corner and the pixels of a page unit. Pauses between slices, and
-   * stops when it has been cancelled. */
-  async draw(context, view, pause) {
+  /** Draws an area, in pixels, of a view: the page point at the top left corner and the pixels of a page unit. Pauses
+   * between slices, and stops when it has been cancelled. */
+  async draw(context, view, area, pause) {
     const { items } = this.scene;
-    const right = view.x + context.canvas.width / view.scale;
-    const bottom = view.y + context.canvas.height / view.scale;
-    const clips = context.canvas;
+    const left = view.x + area.x / view.scale, right = left + area.width / view.scale;
+    const top = view.y + area.y / view.scale, bottom = top + area.height / view.scale;
+    const margin = 4 / view.scale;  // of lines that are wider than their geometry
     context.setTransform(1, 0, 0, 1, 0, 0);
-    context.clearRect(0, 0, clips.width, clips.height);
+    context.save();
+    context.beginPath();
+    context.rect(area.x, area.y, area.width, area.height);
+    context.clip();
+    context.clearRect(area.x, area.y, area.width, area.height);
+    let depth = 1;
     let until = performance.now() + SLICE;
-    let depth = 0;
-    let margin = 4 / view.scale;
     for (let i = 0; i < items.length; i++) {
       const item = items[i];
       if (item.kind === UNCLIP) {
@@ -74,8 +78,8 @@ class Painter {
         depth--;
         continue;
       }
-      const outside = item.minX > right + margin || item.maxX < view.x - margin || item.minY > bottom + margin
-        || item.maxY < view.y - margin;
+      const outside = item.minX > right + margin || item.maxX < left - margin || item.minY > bottom + margin
+        || item.maxY < top - margin;
       if (item.kind === CLIP) {
         if (outside) {
           i = item.end;
@@ -92,15 +96,13 @@ class Painter {
       }
       this._drawItem(context, view, item);
       if ((i & 15) === 0 && performance.now() > until) {
-        if (!await pause(depth === 0)) {
-          for (; depth > 0; depth--) {
-            context.restore();
-          }
+        if (!await pause(depth === 1)) {
           return false;
         }
         until = performance.now() + SLICE;
       }
     }
+    context.restore();
     return true;
   }
 

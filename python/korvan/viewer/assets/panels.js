@@ -14,7 +14,6 @@ class Layers {
     $$("all-layers").onclick = () => this._set(() => true);
     $$("no-layers").onclick = () => this._set(() => false);
     $$("own-layers").onclick = () => this._set((name) => this._stored.get(name) ?? true);
-    $$("layers-section").hidden = layers.length === 0;
   }
 
   /** Names of the layers that are switched off. */
@@ -24,6 +23,12 @@ class Layers {
 
   /** Marks the layers that have something on this layout, and shows a colour of theirs. */
   mark(layers) {
+    for (const { name } of layers) {  // a file need not list all layers that it uses
+      if (!this._boxes.has(name)) {
+        this._add({ name, visible: true });
+      }
+    }
+    $$("layers-section").hidden = this._boxes.size === 0;
     const colors = new Map(layers.map((layer) => [layer.name, layer.color]));
     for (const [name, { item, swatch }] of this._boxes) {
       item.classList.toggle("empty", !colors.has(name));

@@ -1,0 +1,185 @@
+"""The pages of the viewer, as far as no browser is needed: what is in them, and how they are served."""
+
+from __future__ import annotations
+
+import argparse
+import base64
+import contextlib
+import gzip
+import hashlib
+import html.parser
+import http.client
+import io
+import json
+import re
+import tempfile
+import unittest
+from pathlib import Path
+from typing import Any
+from urllib.parse import urlsplit
+
+from korvan.cad import Image
+from korvan.cad.fileformats.cad import CadImage
+from korvan.cad.imageoptions import CadRasterizationOptions, TiffOptions
+from korvan.commands import view
+from korvan.viewer import Contents, Layout, PageServer, ViewerError, build_page, read_contents, render_page
+
+DRAWINGS = Path(__file__).resolve().parents[2] / "examples" / "drawings"
+SITE = DRAWINGS / "site_plan.dxf"
+MARKUP = "</script><script>alert(1)</script>"
+
+
+class Page(html.parser.HTMLParser):
+    """The elements of a page with their text."""
+
+    def __init__(self, text: str) -> None:
+        super().__init__()
+        self.elements: list[tuple[str, dict[str, str | None], list[str]]] = []
+        self.feed(text)
+
+    def handle_starttag(self, tag: str, attrs: list[tuple[str, str | None]]) -> None:
+        self.elements.append((tag, dict(attrs), []))
+
+    def handle_data(self, data: str) -> None:
+        if self.elements:
+            self.elements[-1][2].append(data)
+
+    def text(self, tag: str, **attributes: str) -> str:
+        found = [text for name, attrs, text in self.elements if name == tag and attributes.items() <= attrs.items()]
+        return "".join(found[-1])
+
+    def block(self, name: str) -> bytes:
+        return base64.b64decode(self.text("script", id=name), validate=True)
+
+    def contents(self) -> Any:
+        return json.loads(gzip.decompress(self.block("contents")))
+
+
+class Pages(unittest.TestCase):
+    def test_a_page_holds_each_layout_with_what_the_scripts_need(self) -> None:
+        page = Page(build_page(SITE))
+        contents = page.contents()
+        self.assertEqual([layout["name"] for layout in contents["layouts"]], ["Model", "Site 1:500", "Plot 1"])
+        self.assertEqual([layout["isSheet"] for layout in contents["layouts"]], [False, True, True])
+        self.assertEqual((contents["layouts"][0]["unit"], contents["first"]), ("m", 0))
+        for i in range(3):
+            document = gzip.decompress(page.block(f"layout-{i}")).decode()
+            self.assertRegex(document, r'data-from-drawing="matrix\([^"]+\)"')
+            self.assertIn('data-name="WATER"', document)
+            self.assertIn(">Mill Pond</text>", document)
+
+    def test_the_matrix_of_a_layout_leads_from_drawing_units_to_its_page(self) -> None:
+        document = gzip.decompress(read_contents(SITE, ["Model"]).layouts[0].data).decode()
+        a, b, c, d, e, f = map(float, re.findall(r"-?[\d.]+", document.split('data-from-drawing="')[1].split('"')[0]))
+        # The scale bar of 40 m ends at a corner of the drawing's own coordinates.
+        width = float(document.split('viewBox="0 0 ')[1].split()[0])
+        self.assertEqual((b, c, d), (0, 0, -a))
+        with Image.load(str(SITE)) as image:
+            drawing = CadImage._cast_to(image).value
+            self.assertAlmostEqual(a * drawing.max_point.x + e, width, delta=width / 100)
+            self.assertAlmostEqual(d * drawing.max_point.y + f, 0, delta=width / 20)
+
+    def test_layers_start_as_stored_and_are_all_there(self) -> None:
+        contents = read_contents(SITE)
+        self.assertEqual([layer.name for layer in contents.layers if not layer.visible], ["OLD"])
+        self.assertIn(b'data-name="OLD"', gzip.decompress(contents.layouts[0].data))
+
+    def test_nothing_is_loaded_and_only_the_own_script_may_run(self) -> None:
+        text = build_page(SITE)
+        page = Page(text)
+        self.assertEqual([attrs for _, attrs, _ in page.elements if "src" in attrs or "href" in attrs], [])
+        policy = next(attrs["content"] for tag, attrs, _ in page.elements if "http-equiv" in attrs) or ""
+        self.assertIn("default-src 'none'", policy)
+        for directive, tag in (("script-src", "script"), ("style-src", "style")):
+            own = re.findall(rf"<{tag}>(.*?)</{tag}>", text, re.DOTALL)
+            self.assertEqual(len(own), 1)
+            digest = base64.b64encode(hashlib.sha256(own[0].encode()).digest()).decode()
+            self.assertIn(f"{directive} 'sha256-{digest}';", policy)
+        self.assertNotRegex(policy, "unsafe|connect-src|https?:")
+
+    def test_names_are_not_markup(self) -> None:
+        layout = Layout(MARKUP, gzip.compress(MARKUP.encode()), message=MARKUP)
+        page = render_page(Contents(MARKUP, [layout], notes=[MARKUP]))
+        self.assertNotIn(MARKUP, page)
+        contents = Page(page).contents()
+        self.assertEqual([contents["title"], contents["layouts"][0]["name"], contents["notes"][0]], [MARKUP] * 3)
+        self.assertIn(f"<title>{html.escape(MARKUP)}</title>", page)
+
+    def test_pages_of_an_image_are_layouts(self) -> None:
+        with tempfile.TemporaryDirectory() as folder:
+            path = Path(folder) / "sheets.tif"
+            options = TiffOptions()
+            options.vector_rasterization_options = CadRasterizationOptions()
+            options.vector_rasterization_options.page_width = 300.0
+            options.vector_rasterization_options.layouts = ["Model", "Plot 1"]
+            with Image.load(str(SITE)) as image:
+                image.save(str(path), options)
+            layouts = read_contents(path).layouts
+        self.assertEqual([layout.name for layout in layouts], ["Page 1", "Page 2"])
+        self.assertTrue(all(layout.is_image and layout.data.startswith(b"\x89PNG") for layout in layouts))
+        self.assertNotEqual(layouts[0].data, layouts[1].data)
+
+    def test_what_cannot_be_shown_is_named(self) -> None:
+        for path, layouts, message in (
+            (DRAWINGS / "garden_house.ifc", None, "no 2D view"),
+            (SITE, ["Plan"], "no layout 'Plan'; it has 'Model', 'Site 1:500', 'Plot 1'"),
+            (DRAWINGS / "gate_valve.cgm", ["Model"], "only drawings have layouts"),
+            (DRAWINGS / "nothing.dxf", None, "no such file"),
+        ):
+            with self.subTest(path=path.name), self.assertRaisesRegex(ViewerError, re.escape(message)):
+                build_page(path, layouts=layouts)
+        self.assertEqual([layout.name for layout in read_contents(SITE, ["plot 1"]).layouts], ["Plot 1"])
+
+
+class Server(unittest.TestCase):
+    def answer(self, url: str, path: str, **headers: str) -> tuple[http.client.HTTPResponse, bytes]:
+        connection = http.client.HTTPConnection(urlsplit(url).netloc, timeout=10)
+        self.addCleanup(connection.close)
+        connection.request("GET", path, headers=headers)
+        response = connection.getresponse()
+        return response, response.read()
+
+    def test_the_page_has_an_address_of_its_own(self) -> None:
+        with PageServer("<p>plan</p>") as one, PageServer("<p>other</p>") as other:
+            self.assertNotEqual(urlsplit(one.url).path, urlsplit(other.url).path)
+            path = urlsplit(one.url).path
+            response, body = self.answer(one.url, path)
+            self.assertEqual((response.status, body), (200, b"<p>plan</p>"))
+            response, body = self.answer(one.url, path, **{"Accept-Encoding": "gzip"})
+            self.assertEqual(gzip.decompress(body), b"<p>plan</p>")
+            for wrong, headers in (("/", {}), (path[:-2] + "/", {}), (path, {"Host": "drawings.example:80"})):
+                with self.subTest(path=wrong, headers=headers):
+                    response, body = self.answer(one.url, wrong, **headers)
+                    self.assertEqual(response.status, 404)
+                    self.assertNotIn(b"plan", body)
+
+
+class Command(unittest.TestCase):
+    def run_command(self, *arguments: str) -> tuple[int, str, str]:
+        parser = argparse.ArgumentParser()
+        view.add_parser(parser.add_subparsers())
+        parsed = parser.parse_args(["view", *arguments])
+        with contextlib.redirect_stdout(io.StringIO()) as out, contextlib.redirect_stderr(io.StringIO()) as err:
+            code: int = parsed.run(parsed)
+        return code, out.getvalue(), err.getvalue()
+
+    def test_a_page_is_written(self) -> None:
+        with tempfile.TemporaryDirectory() as folder:
+            page = Path(folder) / "plan.html"
+            arguments = ("-o", str(page), "--layout", "Plot 1", "--title", "Plot", "--json")
+            code, out, err = self.run_command(str(SITE), *arguments)
+            self.assertEqual((code, err), (0, ""))
+            self.assertEqual((json.loads(out)["page"], json.loads(out)["bytes"]), (str(page), page.stat().st_size))
+            contents = Page(page.read_text(encoding="utf-8")).contents()
+            self.assertEqual((contents["title"], contents["layouts"][0]["name"]), ("Plot", "Plot 1"))
+
+    def test_a_failure_is_one_line(self) -> None:
+        for arguments in ((str(DRAWINGS / "garden_house.ifc"),), (str(SITE), "-o", "/nowhere/page.html")):
+            with self.subTest(arguments=arguments):
+                code, out, err = self.run_command(*arguments)
+                self.assertEqual((code, out, err.count("\n")), (1, "", 1))
+                self.assertIn(Path(arguments[0]).name, err)
+
+
+if __name__ == "__main__":
+    unittest.main()
