@@ -1,0 +1,225 @@
+"""A process that converts one file after the other, as it is told over a socket: ``worker.py DESCRIPTOR``.
+
+Results are written into a folder of its own and moved in place when they are whole.
+"""
+
+from __future__ import annotations
+
+import base64
+import ctypes
+import io
+import json
+import os
+import shutil
+import signal
+import socket
+import stat
+import sys
+import time
+from hashlib import blake2b
+from pathlib import Path
+from typing import Any
+
+from korvan.batch.errors import FULL, reason
+
+THUMBNAIL = (160.0, 120.0)
+SLOW = 10.0  # who waited so long for a result is not to wait as long again for its thumbnail
+NEARLY_FULL = 1 << 16
+_DIE_WITH_PARENT = 1
+
+
+class Refused(Exception):
+    """A file that gets no result, with the kind of the reason."""
+
+    def __init__(self, kind: str, text: str) -> None:
+        super().__init__(text)
+        self.kind = kind
+
+
+def die_with_parent(parent: int) -> None:
+    """Ends this process when the one that started it does: a killed batch leaves nothing running."""
+    ctypes.CDLL(None, use_errno=True).prctl(_DIE_WITH_PARENT, signal.SIGKILL, 0, 0, 0)
+    if os.getppid() != parent:
+        os._exit(1)
+
+
+def _status(name: str) -> int:
+    """A line of the process's status, in bytes."""
+    with open("/proc/self/status", encoding="ascii") as file:
+        for line in file:
+            if line.startswith(name + ":"):
+                return int(line.split()[1]) * 1024
+    return 0
+
+
+def _forget_peak() -> None:
+    try:
+        with open("/proc/self/clear_refs", "w", encoding="ascii") as file:
+            file.write("5")
+    except OSError:
+        pass  # then the peak of the files before counts, too
+
+
+def _is_text(path: str) -> bool:
+    """Whether the library can be told of a path: names that are no UTF-8 have no characters."""
+    try:
+        path.encode("utf-8")
+    except UnicodeEncodeError:
+        return False
+    return True
+
+
+def _hash(path: str) -> tuple[str, os.stat_result]:
+    """The hash of a file, and its status when it was read."""
+    try:
+        # Without waiting: what was a file when it was found may be a pipe by now.
+        handle = os.open(path, os.O_RDONLY | os.O_NONBLOCK | os.O_CLOEXEC)
+        with open(handle, "rb") as file:
+            status = os.fstat(handle)
+            if not stat.S_ISREG(status.st_mode):
+                raise Refused("missing", "is no file any more")
+            digest = blake2b(digest_size=16)
+            while block := file.read(1 << 20):
+                digest.update(block)
+            return digest.hexdigest(), status
+    except FileNotFoundError:
+        raise Refused("missing", "is not there any more") from None
+    except OSError as failure:
+        raise Refused("input", reason(failure)) from failure
+
+
+def _changed(path: str, before: os.stat_result) -> bool:
+    try:
+        now = os.stat(path)
+    except OSError:
+        return True
+    return (now.st_mtime_ns, now.st_size) != (before.st_mtime_ns, before.st_size)
+
+
+def _call(source: str, result: str, task: dict[str, Any]) -> list[str]:
+    """Writes the result, and gives the warnings."""
+    from korvan.tools import ToolError, convert
+
+    start = time.perf_counter()
+    limit = task["timeout"] or None
+    try:
+        return convert(source, result, to=task["to"], timeout=limit, force=True, **task["options"]).warnings
+    except (ToolError, RuntimeError, ValueError, OSError) as failure:
+        _refuse_full(failure, task["scratch"])
+        if limit and time.perf_counter() - start >= limit:
+            raise Refused("timeout", f"takes longer than {limit:g} s") from failure
+        raise Refused("input", str(failure) or type(failure).__name__) from failure
+
+
+def _convert(source: str, result: Path, task: dict[str, Any]) -> list[str]:
+    """Writes the result; names that the library cannot be told are given to it as others."""
+    if _is_text(source) and _is_text(str(result)):
+        return _call(source, str(result), task)
+    link = "source" + os.path.splitext(source)[1].encode("ascii", "ignore").decode()
+    os.chdir(result.parent)
+    try:
+        os.symlink(source, link)
+        warnings = _call(link, "result" + result.suffix, task)
+        os.unlink(link)
+        os.rename("result" + result.suffix, result.name)
+    finally:
+        os.chdir("/")
+    return ["the name is no UTF-8: files that the drawing refers to were not looked for", *warnings]
+
+
+def _refuse_full(failure: BaseException, folder: str) -> None:
+    """Tells a full disk from a bad drawing."""
+    space = os.statvfs(folder)
+    if getattr(failure, "errno", None) in FULL or space.f_bavail * space.f_frsize < NEARLY_FULL or not space.f_favail:
+        raise Refused("full", "No space left on device") from failure
+
+
+def _move(result: Path, target: str, *, replace: bool) -> os.stat_result:
+    """Moves a result in place, after the files that belong to it."""
+    folder = os.path.dirname(target)
+    try:
+        os.makedirs(folder, exist_ok=True)
+        for name in sorted(os.listdir(result.parent), key=lambda name: name == result.name):
+            place = target if name == result.name else os.path.join(folder, name)
+            if not replace and os.path.lexists(place):
+                raise Refused("output", f"{os.path.basename(place)} exists and is not of this batch")
+            os.replace(result.parent / name, place)
+        return os.stat(target)
+    except OSError as failure:
+        _refuse_full(failure, str(result.parent))
+        raise Refused("output", f"{folder}: {reason(failure)}") from failure
+
+
+def _thumbnail(source: str) -> bytes | None:
+    from korvan.cad import Image
+    from korvan.cad.imageoptions import CadRasterizationOptions, PngOptions
+
+    options, page = PngOptions(), CadRasterizationOptions()
+    page.page_width, page.page_height = THUMBNAIL
+    options.vector_rasterization_options = page
+    stream = io.BytesIO()
+    try:
+        with Image.load(source) as image:
+            image.save(stream, options)
+    except (RuntimeError, ValueError, OSError):
+        return None  # what has no pixels
+    return stream.getvalue()
+
+
+def _result(task: dict[str, Any]) -> dict[str, Any]:
+    source, target = task["source"], task["target"]
+    digest, status = _hash(source)
+    reply: dict[str, Any] = {"hash": digest, "size": status.st_size, "modified": status.st_mtime_ns}
+    if digest == task["known"]:
+        return {**reply, "state": "unchanged"}
+    scratch = Path(task["scratch"])
+    start = time.perf_counter()
+    try:
+        scratch.mkdir(parents=True, exist_ok=True)
+        result = scratch / os.path.basename(target)
+        reply["warnings"] = _convert(source, result, task)
+    except OSError as failure:
+        _refuse_full(failure, str(scratch.parent))
+        raise Refused("output", f"{scratch}: {reason(failure)}") from failure
+    seconds = time.perf_counter() - start
+    if _changed(source, status):
+        raise Refused("changed", "was changed while it was converted")
+    moved = _move(result, target, replace=task["replace"])
+    reply.update(state="done", result_size=moved.st_size, result_modified=moved.st_mtime_ns)
+    if task["thumbnail"] and seconds < SLOW and _is_text(source):
+        image = _thumbnail(source)
+        reply["thumbnail"] = base64.b64encode(image).decode() if image else None
+    return reply
+
+
+def work(task: dict[str, Any]) -> dict[str, Any]:
+    """Converts a file and tells what became of it."""
+    _forget_peak()
+    start = time.perf_counter()
+    reply: dict[str, Any]
+    try:
+        reply = _result(task)
+    except Refused as failure:
+        reply = {"state": "failed", "kind": failure.kind, "error": " ".join(str(failure).split())}
+        shutil.rmtree(task["scratch"], ignore_errors=True)  # what was begun is not to be moved with the next result
+    return {**reply, "seconds": time.perf_counter() - start, "memory": _status("VmHWM"), "resident": _status("VmRSS")}
+
+
+def main(descriptor: int, parent: int) -> None:
+    die_with_parent(parent)
+    signal.signal(signal.SIGINT, signal.SIG_IGN)  # the batch decides when to end
+    connection = socket.socket(fileno=descriptor)
+
+    def say(message: dict[str, Any]) -> None:
+        connection.sendall(json.dumps(message).encode("ascii") + b"\n")
+
+    import korvan.cad
+
+    say({"version": str(korvan.cad.BuildVersionInfo.product_version)})
+    with connection.makefile("rb") as tasks:
+        for line in tasks:
+            say(work(json.loads(line)))
+
+
+if __name__ == "__main__":
+    main(int(sys.argv[1]), int(sys.argv[2]))
