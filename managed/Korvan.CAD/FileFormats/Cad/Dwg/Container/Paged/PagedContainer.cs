@@ -1,4 +1,6 @@
+using System;
 using System.Collections.Generic;
+using System.Linq;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.Input;
 
@@ -8,6 +10,8 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Container.Paged;
 /// to. Source: Open Design Specification for .dwg files, 5.4.1, chapters 4 and 6 to 8.</summary>
 internal static class PagedContainer
 {
+    private static readonly string[] Needed = ["AcDb:Header", "AcDb:Classes", "AcDb:AcDbObjects", ObjectMap.Section];
+
     internal static DwgFile Read(DwgSource source, CadAcadVersion version)
     {
         FileHeader header = FileHeader.Read(source);
@@ -45,26 +49,12 @@ internal static class PagedContainer
         }
 
         List<SectionInfo> sections = sectionMap < 0 ? [] : SectionMap.Read(source, sectionMap);
-        if (sections.Count == 0)
+        if (source.IsTolerant && Array.Exists(Needed, name => !sections.Exists(section => section.Name == name)))
         {
-            return PageScan.GuessSections(source.Data, PageScan.FindDataPages(source.Data), pages);
+            sections.AddRange(PageScan.GuessSections(source.Data, PageScan.FindDataPages(source.Data), pages));
         }
 
-        if (pages.Count == 0)
-        {
-            Dictionary<(int Section, long Start), long> found = PageScan.FindDataPages(source.Data);
-            foreach (SectionInfo section in sections)
-            {
-                foreach (PageInfo page in section.Pages)
-                {
-                    if (found.TryGetValue((section.Id, page.Start), out long address))
-                    {
-                        pages[page.Number] = address;
-                    }
-                }
-            }
-        }
-
-        return sections;
+        // Sections of one name have the same place, and the same pages where somebody repeats them.
+        return [.. sections.DistinctBy(static section => section.Name)];
     }
 }

@@ -21,27 +21,23 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
 
     private const int PagesOfPiece = 4; // a thread is worth its start for so many
 
+    // Where defects do not end the load, a page that is not where the map states is looked for.
+    private readonly Lazy<Dictionary<(int Section, long Start), long>> _found =
+        new(() => source.IsTolerant ? PageScan.FindDataPages(source.Data) : []);
+
     /// <summary>Reads a section.</summary>
     internal byte[] Read(SectionInfo section)
     {
-        long limit = LimitOf(section);
-        if (section.Size < 0 || section.Size > limit || section.Pages.Count > addresses.Count)
-        {
-            source.Report(LoadDefectCode.CountTooLarge, section.Name, -1,
-                $"the section states {section.Size} bytes in {section.Pages.Count} pages; the pages of the file hold "
-                    + $"{limit}");
-            return [];
-        }
-
-        byte[] target = new byte[section.Size];
-        PageFault[] faults = new PageFault[section.Pages.Count];
-        int pieces = (section.Pages.Count + PagesOfPiece - 1) / PagesOfPiece;
+        byte[] target = new byte[SizeOf(section)];
+        List<(PageInfo Page, long Address)> pages = Locate(section);
+        PageFault[] faults = new PageFault[pages.Count];
+        int pieces = (pages.Count + PagesOfPiece - 1) / PagesOfPiece;
         ForkedProcess.RunPieces(pieces, piece =>
         {
-            int end = Math.Min(section.Pages.Count, (piece + 1) * PagesOfPiece);
+            int end = Math.Min(pages.Count, (piece + 1) * PagesOfPiece);
             for (int i = piece * PagesOfPiece; i < end; i++)
             {
-                faults[i] = ReadPage(section, section.Pages[i], target);
+                faults[i] = ReadPage(section, pages[i].Page, pages[i].Address, target);
             }
         });
         foreach (PageFault fault in faults)
@@ -55,34 +51,83 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
         return target;
     }
 
-    // Pages of zeros are not stored, but there are no more of them than one at the end.
-    private long LimitOf(SectionInfo section)
+    private long SizeOf(SectionInfo section)
     {
+        // Pages of zeros are not stored, but there are no more of them than one at the end.
         long limit = section.PageSize;
         foreach (PageInfo page in section.Pages)
         {
             limit += section.IsCompressed ? Math.Min(section.PageSize, page.Stored * (long)Lz77.MaxRatio) : page.Stored;
         }
 
-        return Math.Min(limit, source.MaxSectionSize);
+        limit = Math.Min(limit, source.MaxSectionSize);
+        if (section.Size >= 0 && section.Size <= limit)
+        {
+            return section.Size;
+        }
+
+        source.Report(LoadDefectCode.CountTooLarge, section.Name, -1, $"the section states {section.Size} bytes in "
+            + $"{section.Pages.Count} pages; the pages of the file hold {limit}");
+        return limit;
     }
 
-    private PageFault ReadPage(SectionInfo section, PageInfo page, byte[] target)
+    // A page belongs to one place only, so that a file cannot have it decompressed again and again.
+    private List<(PageInfo Page, long Address)> Locate(SectionInfo section)
     {
-        if (!addresses.TryGetValue(page.Number, out long address)
-            || address < FileHeader.FirstPage || address > source.Data.Length - HeaderLength)
+        List<(PageInfo, long)> located = [];
+        List<int> moved = [];
+        List<int> missing = [];
+        HashSet<long> used = [];
+        foreach (PageInfo page in section.Pages)
         {
-            return new PageFault(LoadDefectCode.InvalidPage, -1, $"page {page.Number} is not in the file");
+            bool isPlaced = addresses.TryGetValue(page.Number, out long address) && IsPageOf(section, address);
+            if (!isPlaced && _found.Value.TryGetValue((section.Id, page.Start), out long found))
+            {
+                address = found;
+            }
+
+            if (!used.Contains(address) && (isPlaced || IsPageOf(section, address)))
+            {
+                used.Add(address);
+                located.Add((page, address));
+                (isPlaced || addresses.Count == 0 ? [] : moved).Add(page.Number);
+            }
+            else
+            {
+                missing.Add(page.Number);
+            }
+        }
+
+        Report(section, missing, "not in the file, or not whole");
+        Report(section, moved, "not where the page map states");
+        return located;
+    }
+
+    private void Report(SectionInfo section, List<int> pages, string cause)
+    {
+        if (pages.Count > 0)
+        {
+            string more = pages.Count == 1 ? "" : $", as are {pages.Count - 1} more";
+            source.Report(LoadDefectCode.InvalidPage, section.Name, addresses.GetValueOrDefault(pages[0], -1),
+                $"page {pages[0]} is {cause}{more}");
+        }
+    }
+
+    private bool IsPageOf(SectionInfo section, long address)
+    {
+        if (address < FileHeader.FirstPage || address > source.Data.Length - HeaderLength)
+        {
+            return false;
         }
 
         DataPageHeader header = DataPageHeader.Read(source.Data, address);
-        long room = source.Data.Length - address - HeaderLength;
-        if (header.Type != PageType || header.Section != section.Id || header.Stored > room)
-        {
-            return new PageFault(LoadDefectCode.InvalidPage, address,
-                $"page {page.Number} is not a page of this section, or extends beyond the end of the file");
-        }
+        return header.Type == PageType && header.Section == section.Id
+            && header.Stored <= source.Data.Length - address - HeaderLength;
+    }
 
+    private PageFault ReadPage(SectionInfo section, PageInfo page, long address, byte[] target)
+    {
+        DataPageHeader header = DataPageHeader.Read(source.Data, address);
         if (page.Start < 0 || page.Start > target.Length)
         {
             return new PageFault(LoadDefectCode.InvalidPage, address,

@@ -40,49 +40,79 @@ internal static class EncodedContainer
     private static byte[] ReadSection(
         DwgSource source, EncodedSection section, Dictionary<long, long> pages, ulong seed)
     {
-        long limit = 0;
-        foreach (EncodedPage page in section.Pages)
-        {
-            limit += page.Stored == page.Size ? Math.Clamp(page.Size, 0, source.Data.Length)
-                : Math.Clamp(page.Size, 0, MaxPageSize);
-        }
-
-        limit = Math.Min(limit, source.MaxSectionSize);
-        if (section.Size < 0 || section.Size > limit || section.Pages.Count > pages.Count)
-        {
-            source.Report(LoadDefectCode.CountTooLarge, section.Name, -1,
-                $"the section states {section.Size} bytes in {section.Pages.Count} pages; the pages of the file hold "
-                    + $"{limit}");
-            return [];
-        }
-
-        byte[] target = new byte[section.Size];
-        string?[] faults = new string?[section.Pages.Count];
-        ForkedProcess.RunPieces(section.Pages.Count, i =>
-            faults[i] = ReadPage(source.Data, section, section.Pages[i], pages, seed, target));
-        foreach (string? fault in faults)
+        byte[] target = new byte[SizeOf(source, section)];
+        List<(EncodedPage Page, long Address)> located = Locate(source, section, pages);
+        PageFault?[] faults = new PageFault?[located.Count];
+        ForkedProcess.RunPieces(located.Count, i =>
+            faults[i] = ReadPage(source.Data, section, located[i].Page, located[i].Address, seed, target));
+        foreach (PageFault? fault in faults)
         {
             if (fault is not null)
             {
-                source.Report(LoadDefectCode.InvalidPage, section.Name, -1, fault);
+                source.Report(fault.Code, section.Name, fault.Address, fault.Cause);
             }
         }
 
         return target;
     }
 
-    private static string? ReadPage(byte[] data, EncodedSection section, in EncodedPage page,
-        Dictionary<long, long> pages, ulong seed, byte[] target)
+    private static long SizeOf(DwgSource source, EncodedSection section)
     {
-        if (!pages.TryGetValue(page.Number, out long address))
+        long limit = 0;
+        foreach (EncodedPage page in section.Pages)
         {
-            return $"page {page.Number} is not in the file";
+            limit += page.Size < 0 ? MaxPageSize
+                : Math.Min(page.Size, page.Stored == page.Size ? source.Data.Length : MaxPageSize);
         }
 
+        limit = Math.Min(limit, source.MaxSectionSize);
+        if (section.Size >= 0 && section.Size <= limit)
+        {
+            return section.Size;
+        }
+
+        source.Report(LoadDefectCode.CountTooLarge, section.Name, -1, $"the section states {section.Size} bytes in "
+            + $"{section.Pages.Count} pages; the pages of the file hold {limit}");
+        return limit;
+    }
+
+    // A page belongs to one place only, so that a file cannot have it decompressed again and again.
+    private static List<(EncodedPage Page, long Address)> Locate(
+        DwgSource source, EncodedSection section, Dictionary<long, long> pages)
+    {
+        List<(EncodedPage, long)> located = [];
+        HashSet<long> used = [];
+        long missing = -1;
+        foreach (EncodedPage page in section.Pages)
+        {
+            if (pages.TryGetValue(page.Number, out long address) && used.Add(address))
+            {
+                located.Add((page, address));
+            }
+            else
+            {
+                missing = page.Number;
+            }
+        }
+
+        int count = section.Pages.Count - located.Count;
+        if (count > 0)
+        {
+            string more = count == 1 ? "" : $", as are {count - 1} more";
+            source.Report(
+                LoadDefectCode.InvalidPage, section.Name, -1, $"page {missing} is not in the file{more}");
+        }
+
+        return located;
+    }
+
+    private static PageFault? ReadPage(
+        byte[] data, EncodedSection section, in EncodedPage page, long address, ulong seed, byte[] target)
+    {
         if (page.Start < 0 || page.Size < 0 || page.Start > target.Length || page.Size > target.Length - page.Start)
         {
-            return $"page {page.Number} of {page.Size} bytes begins at byte {page.Start} of a section of "
-                + $"{target.Length} bytes";
+            return new PageFault(LoadDefectCode.InvalidPage, address, $"page {page.Number} of {page.Size} bytes begins "
+                + $"at byte {page.Start} of a section of {target.Length} bytes");
         }
 
         return EncodedPages.ReadData(

@@ -24,13 +24,16 @@ internal readonly record struct EncodedPage(
 internal sealed record EncodedSection(
     string Name, long Size, bool IsEncrypted, bool IsInterleaved, List<EncodedPage> Pages);
 
+/// <summary>What is wrong with a page.</summary>
+/// <param name="Code">The kind of defect.</param>
+/// <param name="Address">The first byte of the page in the file; -1 if it has none.</param>
+/// <param name="Cause">What is wrong.</param>
+internal sealed record PageFault(LoadDefectCode Code, long Address, string Cause);
+
 /// <summary>Decodes and decompresses pages of release 2007. Source: Open Design Specification for .dwg files, 5.4.1,
 /// chapters 5.3 and 5.4.</summary>
 internal static class EncodedPages
 {
-    /// <summary>No byte of input stands for more bytes than this, but for the runs of the longest matches.</summary>
-    private const long MaxRatio = 0x4000;
-
     private const int CheckBlock = 8;
 
     /// <summary>Reads a map.</summary>
@@ -43,7 +46,7 @@ internal static class EncodedPages
         if (page.Compressed <= 0 || page.Repeats <= 0 || page.Repeats > source.Data.Length
             || page.Compressed > source.Data.Length
             || page.Address < 0 || page.Address + (blocks * ReedSolomon.BlockLength) > source.Data.Length
-            || page.Size < 0 || page.Size > page.Compressed * MaxRatio)
+            || page.Size < 0 || page.Size > source.MaxSectionSize)
         {
             source.Report(LoadDefectCode.InvalidPage, name, page.Address, "the page with the map is outside of the "
                 + $"file, or its {page.Compressed} compressed bytes cannot be {page.Size} bytes");
@@ -76,7 +79,7 @@ internal static class EncodedPages
     /// <param name="seed">The seed of checks.</param>
     /// <param name="target">Where the decompressed bytes go.</param>
     /// <returns>What is wrong; <see langword="null"/> if nothing is.</returns>
-    internal static string? ReadData(
+    internal static PageFault? ReadData(
         byte[] data, long address, EncodedSection section, in EncodedPage page, ulong seed, Span<byte> target)
     {
         ReedSolomon code = ReedSolomon.Data;
@@ -85,7 +88,8 @@ internal static class EncodedPages
         if (page.Stored < 0 || page.Stored > data.Length || address < EncodedHeader.FirstPage
             || address + length > data.Length)
         {
-            return $"page {page.Number} extends beyond the end of the file";
+            return new PageFault(
+                LoadDefectCode.InvalidPage, address, $"page {page.Number} extends beyond the end of the file");
         }
 
         byte[] stored = new byte[page.Stored];
@@ -100,10 +104,12 @@ internal static class EncodedPages
         if (!isValid || page.Check != Crc64.ComputeMirrored(Crc64.SeedOf(seed, stored.Length), stored)
             || page.Checksum != ChecksumOf(target))
         {
-            return $"page {page.Number} has another checksum than it states";
+            return new PageFault(
+                LoadDefectCode.WrongChecksum, address, $"page {page.Number} has another checksum than it states");
         }
 
-        return isWhole ? null : $"page {page.Number} cannot be decompressed";
+        return isWhole ? null : new PageFault(
+            LoadDefectCode.InvalidCompression, address, $"page {page.Number} cannot be decompressed");
     }
 
     /// <summary>Returns the checksum of a page as the section map states it.</summary>

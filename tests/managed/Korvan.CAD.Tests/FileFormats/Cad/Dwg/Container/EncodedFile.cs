@@ -12,7 +12,7 @@ namespace Korvan.CAD.Tests.FileFormats.Cad.Dwg.Container;
 internal sealed class EncodedFile
 {
     private const ulong Seed = 0x1234567;
-    private const int PageSize = 0x600;
+    private const int PageSize = 0x200;
     private const int HeaderSize = 0x110;
     private const int PageMapNumber = 1;
     private const int SectionMapNumber = 2;
@@ -139,20 +139,26 @@ internal sealed class EncodedFile
         Put(0xF0, (long)Seed);
         ChangeHeader(header);
         Put(HeaderSize - 8, (long)Crc64.Compute(Crc64.HeaderSeedOf(0, HeaderSize), header));
-        byte[] decoded = new byte[3 * ReedSolomon.System.DataLength];
+        const int blocks = 3;
+        byte[] decoded = new byte[blocks * ReedSolomon.System.DataLength];
         BitConverter.GetBytes(-HeaderSize).CopyTo(decoded, 0x18); // less than 0: not compressed
         header.CopyTo(decoded, 0x20);
-        return Encode(ReedSolomon.System, decoded);
+        return Encode(ReedSolomon.System, decoded, blocks);
     }
 
     private static ulong CheckOf(byte[] data) => Crc64.ComputeMirrored(Crc64.SeedOf(Seed, data.Length), data);
 
     private static byte[] Join(IEnumerable<long> values) => [.. values.SelectMany(BitConverter.GetBytes)];
 
-    // Blocks, whose bytes alternate.
-    private static byte[] Encode(ReedSolomon code, byte[] data)
+    /// <summary>Returns the number of blocks of a page.</summary>
+    internal static int BlocksOf(ReedSolomon code, int length) =>
+        (((length + 7) & -8) + code.DataLength - 1) / code.DataLength;
+
+    private static byte[] Encode(ReedSolomon code, byte[] data) => Encode(code, data, BlocksOf(code, data.Length));
+
+    // The bytes of the blocks alternate.
+    private static byte[] Encode(ReedSolomon code, byte[] data, int blocks)
     {
-        int blocks = (((data.Length + 7) & -8) + code.DataLength - 1) / code.DataLength;
         byte[] encoded = new byte[blocks * ReedSolomon.BlockLength];
         byte[] block = new byte[ReedSolomon.BlockLength];
         for (int i = 0; i < blocks; i++)
