@@ -7,6 +7,17 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// release; an object keeps the form that it was read in.</summary>
 [CadObject("VISUALSTYLE", Subclass = "AcDbVisualStyle")]
 [CadSequence]
+[CadBits(
+    "T Description", "BL StyleType", "2010+ ExchangeFlagged()", "-2007 BL FaceLightingModel",
+    "-2007 BL FaceLightingQuality", "-2007 BL FaceColorMode", "-2007 BD FaceOpacity", "-2007 BD FaceSpecular",
+    "-2007 CMC FaceColorId FaceColorValue", "-2007 BL FaceModifiers", "-2007 BL EdgeModel", "-2007 BL EdgeStyle",
+    "-2007 CMC IntersectionColorId IntersectionColorValue", "-2007 CMC ObscuredColorId ObscuredColorValue",
+    "-2007 BL ObscuredLineType", "-2007 BD CreaseAngle", "-2007 BL EdgeModifiers",
+    "-2007 CMC EdgeColorId EdgeColorValue", "-2007 BD EdgeOpacity", "-2007 BS EdgeWidth", "-2007 BS EdgeOverhang",
+    "-2007 BL EdgeJitter", "-2007 CMC SilhouetteColorId SilhouetteColorValue", "-2007 BS SilhouetteWidth",
+    "-2007 RC HaloGap", "-2007 BS IsolineCount", "-2007 B HidePrecision", "-2007 BS StyleApplies",
+    "-2007 BS IntersectionLineType", "-2007 BL DisplaySettings", "-2007 BL Brightness", "-2007 BL ShadowType",
+    "2007-2007 BD Reserved", "-2007 B IsInternal")]
 public partial class CadVisualStyle : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -188,11 +199,34 @@ public partial class CadVisualStyle : CadObjectBase
             ValueCount = fields.Int32(70, ValueCount);
         }
 
-        VisualStyleWalk walk = new(fields, Form, ValueSources);
+        VisualStyleTags walk = new(fields, Form, ValueSources);
         ExchangeFaces(walk);
         ExchangeEdges(walk);
         ExchangeDisplay(walk, fields);
         fields.Tags(Further);
+    }
+
+    // A flag follows each value. Styles of other releases are written in the form of the release.
+    private void ExchangeFlagged(BitExchange fields)
+    {
+        const int typedRelease = 2013;
+        short form = fields.Release >= typedRelease ? VisualStyleWalk.TypedForm : VisualStyleWalk.FlaggedForm;
+        fields.BitShort(VisualStyleWalk.FlaggedForm);
+        IsInternal = fields.Bit(IsInternal);
+        VisualStyleBits walk = new(fields, form, ValueSources);
+        ExchangeFaces(walk);
+        ExchangeEdges(walk);
+        ExchangeDisplay(walk);
+        if (fields.IsReading)
+        {
+            Form = form;
+        }
+
+        if (fields.Release >= typedRelease)
+        {
+            List<CadCodeValue> further = fields.IsReading ? Further : [.. Further];
+            walk.ExchangeFurther(further);
+        }
     }
 
     private void ExchangeFaces(VisualStyleWalk walk)
@@ -236,13 +270,18 @@ public partial class CadVisualStyle : CadObjectBase
             StyleApplies = fields.Int32(174, StyleApplies);
         }
 
-        DisplaySettings = walk.Integer(93, DisplaySettings);
-        Brightness = walk.Number(44, Brightness);
-        ShadowType = walk.Integer(173, ShadowType);
+        ExchangeDisplay(walk);
         if (Form == 0)
         {
             IsInternal = fields.Bool(291, IsInternal);
             Reserved = fields.Double(45, Reserved);
         }
+    }
+
+    private void ExchangeDisplay(VisualStyleWalk walk)
+    {
+        DisplaySettings = walk.Integer(93, DisplaySettings);
+        Brightness = walk.Number(44, Brightness);
+        ShadowType = walk.Integer(173, ShadowType);
     }
 }

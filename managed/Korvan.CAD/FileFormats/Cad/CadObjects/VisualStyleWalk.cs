@@ -5,62 +5,56 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>Carries the values of a visual style: each has a group code of its own, or that of its type, and a flag
 /// after it in later releases.</summary>
-/// <param name="fields">What carries them.</param>
+/// <param name="isReading">Whether the style takes values over.</param>
 /// <param name="form">The form of the fields.</param>
 /// <param name="sources">The flags.</param>
-internal sealed class VisualStyleWalk(ObjectExchange fields, short form, List<int> sources)
+internal abstract class VisualStyleWalk(bool isReading, short form, List<int> sources)
 {
+    /// <summary>The form of release 2010, with a flag after each value.</summary>
+    internal const short FlaggedForm = 2;
+
     /// <summary>The form in which group codes state types.</summary>
     internal const short TypedForm = 3;
-
-    private const int PlainColor = 62;
-    private const int TrueColor = 420;
-    private const int Source = 176;
-
-    // Files of release 2010 have a reserved colour before that of faces.
-    private const int FaceColor = 63;
 
     private int _index;
 
     internal int Integer(int code, int value)
     {
-        int result = fields.Int32(form == TypedForm ? 90 : code, value);
+        int result = CarryInteger(code, value);
         Next();
         return result;
     }
 
     internal double Number(int code, double value)
     {
-        double result = fields.Double(form == TypedForm ? 40 : code, value);
+        double result = CarryNumber(code, value);
         Next();
         return result;
     }
 
     internal bool Boolean(int code, bool value)
     {
-        bool result = fields.Bool(form == TypedForm ? 290 : code, value);
+        bool result = CarryBoolean(code, value);
         Next();
         return result;
     }
 
     internal (short Index, int Value) Color(int code, int trueCode, short index, int value)
     {
-        const int reserved = 5;
-        if (code == FaceColor && form != TypedForm && fields.Has(PlainColor, 0, form == 0))
-        {
-            fields.Int32(PlainColor, reserved);
-        }
-
-        index = fields.Color(form == TypedForm ? PlainColor : code, index);
-        int codeOfValue = form == TypedForm ? TrueColor : trueCode;
-        if (fields.Has(codeOfValue, 2004, value != -1))
-        {
-            value = fields.Int32(codeOfValue, value);
-        }
-
+        (short Index, int Value) result = CarryColor(code, trueCode, index, value);
         Next();
-        return (index, value);
+        return result;
     }
+
+    private protected abstract int CarryInteger(int code, int value);
+
+    private protected abstract double CarryNumber(int code, double value);
+
+    private protected abstract bool CarryBoolean(int code, bool value);
+
+    private protected abstract (short Index, int Value) CarryColor(int code, int trueCode, short index, int value);
+
+    private protected abstract int CarrySource(int value);
 
     private void Next()
     {
@@ -69,8 +63,8 @@ internal sealed class VisualStyleWalk(ObjectExchange fields, short form, List<in
             return;
         }
 
-        int source = fields.Int32(Source, _index < sources.Count ? sources[_index] : 1);
-        if (fields.IsReading)
+        int source = CarrySource(_index < sources.Count ? sources[_index] : 1);
+        if (isReading)
         {
             sources.Add(source);
         }

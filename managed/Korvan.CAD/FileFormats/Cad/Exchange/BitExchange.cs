@@ -74,6 +74,12 @@ internal abstract partial class BitExchange
     /// <summary>Carries the reference to a record of a symbol table, which the object knows by its name.</summary>
     internal abstract string Name(SymbolTable table, string value);
 
+    /// <summary>Returns the name of a record of a symbol table by its handle in hexadecimal; null for none.</summary>
+    internal virtual string? FindName(string handle) => null;
+
+    /// <summary>Returns the handle of a record of a symbol table in hexadecimal; "0" for none.</summary>
+    internal virtual string FindHandle(SymbolTable table, string name) => "0";
+
     /// <summary>Carries a line type by its place in the table (BS), as styles of multilines have it up to release
     /// 2013.</summary>
     internal abstract string LineTypeByIndex(string value);

@@ -10,12 +10,14 @@ public partial class CadTableCell
     /// <summary>The group code that begins a cell.</summary>
     internal const int Start = 171;
 
+    /// <summary>The group code of the block of a cell.</summary>
+    internal const int BlockRecord = 340;
+
     // From this release on cells have values of several types.
     private const int ValueRelease = 2007;
 
     private const int ValueStart = 301;
     private const int ValueEnd = 304;
-    private const int BlockRecord = 340;
     private const short TextCell = 1;
     private const int TextValue = 4;
     private const int SetValue = 6;

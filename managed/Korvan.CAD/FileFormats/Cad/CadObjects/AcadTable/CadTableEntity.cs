@@ -9,7 +9,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 /// <summary>A table: rows and columns of cells. Its graphics stand in an anonymous block, which the table refers to
 /// as a block reference does.</summary>
 [CadObject("ACAD_TABLE", Subclass = "AcDbTable")]
-[CadBits("base", "partial")]
+[CadBits("base", "-2007 ExchangeOwn()", "2010+ ExchangeContent()")]
 public partial class CadTableEntity : CadInsertObject
 {
     /// <summary>Creates a table without cells.</summary>

@@ -6,6 +6,10 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.TableStyle;
 
 /// <summary>A style of tables: margins, and the cells of data, titles and headers.</summary>
 [CadSequence]
+[CadBits(
+    "-2007 T StyleName", "-2007 BS FlowDirection", "-2007 BS Flags", "-2007 BD HorizontalMargin",
+    "-2007 BD VerticalMargin", "-2007 B IsTitleSuppressed", "-2007 B IsHeaderSuppressed", "-2007 ExchangeCells()",
+    "2010+ ExchangeStyles()")]
 [CadObject("TABLESTYLE", Subclass = "AcDbTableStyle")]
 public partial class CadTableStyle : CadObjectBase
 {

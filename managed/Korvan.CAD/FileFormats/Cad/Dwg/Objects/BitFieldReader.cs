@@ -113,6 +113,9 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
 
     internal override string Name(SymbolTable table, string value) => names.Find(NextHandle()) ?? value;
 
+    internal override string? FindName(string handle) =>
+        HandleText.TryParse(handle, out ulong value) ? names.Find(value) : null;
+
     internal override string LineTypeByIndex(string value) => _data.BitShort() switch
     {
         0x7FFF => "BYLAYER",

@@ -171,6 +171,9 @@ internal sealed class BitFieldWriter(int release, Encoding encoding, WrittenHand
         return value;
     }
 
+    internal override string FindHandle(SymbolTable table, string name) =>
+        HandleText.Format(handles.Find(table, name));
+
     internal override string LineTypeByIndex(string value)
     {
         const int byLayer = 0x7FFF;

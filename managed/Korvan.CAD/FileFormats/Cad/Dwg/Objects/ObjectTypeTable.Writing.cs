@@ -1,4 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
@@ -21,6 +22,7 @@ internal static partial class ObjectTypeTable
         CadBlockEntity => 4,
         CadEndBlock => 5,
         CadSeqend => 6,
+        CadTableEntity => 0,
         CadInsertObject insert => insert.IsGrid ? 8 : 7,
         Cad2DVertex => 10,
         Cad3DVertex => 11,

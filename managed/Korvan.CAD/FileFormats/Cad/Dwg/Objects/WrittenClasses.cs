@@ -43,6 +43,12 @@ internal sealed class WrittenClasses
         ["SCALE"] = ("AcDbScale", 1153),
         ["SORTENTSTABLE"] = ("AcDbSortentsTable", 0),
         ["IDBUFFER"] = ("AcDbIdBuffer", 0),
+        ["ACAD_TABLE"] = ("AcDbTable", 1025),
+        ["TABLESTYLE"] = ("AcDbTableStyle", 4095),
+        ["CELLSTYLEMAP"] = ("AcDbCellStyleMap", 1152),
+        ["TABLECONTENT"] = ("AcDbTableContent", 1152),
+        ["TABLEGEOMETRY"] = ("AcDbTableGeometry", 1152),
+        ["VISUALSTYLE"] = ("AcDbVisualStyle", 4095),
         ["PLANESURFACE"] = ("AcDbPlaneSurface", 4095),
     };
 

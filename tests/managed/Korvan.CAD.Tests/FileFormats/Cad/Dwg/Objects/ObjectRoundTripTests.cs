@@ -62,7 +62,7 @@ public class ObjectRoundTripTests
 
         (CadDrawing again, IReadOnlyList<string> leftOut) = WriteAndRead(drawing, CadAcadVersion.AC1018);
 
-        Assert.Contains(leftOut, static line => line.StartsWith("VISUALSTYLE ", StringComparison.Ordinal));
+        Assert.Contains(leftOut, static line => line.StartsWith("ACSH_SWEEP_CLASS ", StringComparison.Ordinal));
         HashSet<ulong> present = DrawingWalk.Handles(again);
         Assert.All(
             again.Objects.OfType<CadDictionaryBase>(),
