@@ -80,7 +80,7 @@ def _normal(name: str, value: Any) -> Any:
     if name == "line_type_name" and isinstance(value, str):
         return value.upper()
     if name in _DEFAULTS:
-        items: tuple[Any, ...] = value
+        items: Any = value
         while items and items[-1] == _DEFAULTS[name]:
             items = items[:-1]
         return items
