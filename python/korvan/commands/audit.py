@@ -103,7 +103,8 @@ def run(arguments: argparse.Namespace) -> int:
         stay += sum(not one.is_fixed for one in found)
         count += 1
         if arguments.json:
-            print_json({"file": path, "findings": [vars(one) for one in found]})
+            rows: list[object] = [vars(one) for one in found]
+            print_json({"file": path, "findings": rows})
         else:
             _print(path, found, arguments.summary)
     return 1 if count < len(paths) or (stay and arguments.exit_code) else 0
