@@ -90,15 +90,17 @@ def _entities(place: str, before: list[_Entity], after: list[_Entity]) -> Iterat
             partners.pop(same)
         else:
             left.append(one)
-    others = {(one.handle, one.kind): one for ones in alike.values() for one in ones}
+    rest = [one for ones in alike.values() for one in ones]
+    others = {(one.handle, one.kind): one for one in rest if one.handle}
     for one in left:
         other = others.pop((one.handle, one.kind), None)
         if other is None:
             yield Difference("removed", one.kind, one.handle, place, one.layer)
         else:
             yield Difference("changed", one.kind, one.handle, place, other.layer, _changed(one.values, other.values))
-    for one in others.values():
-        yield Difference("added", one.kind, one.handle, place, one.layer)
+    for one in rest:
+        if not one.handle or (one.handle, one.kind) in others:
+            yield Difference("added", one.kind, one.handle, place, one.layer)
 
 
 def _spaces(drawing: CadImage) -> dict[str, Iterable[CadEntityBase]]:

@@ -9,10 +9,11 @@ from korvan.cad import Color
 from korvan.cad.fileformats.cad.cadobjects import Cad2DPoint, Cad3DPoint
 from korvan.tools.opening import cast
 
-# Identity, place in the file and data of applications: two alike entities differ in them.
+# Identity, place in the file, handles of others and data of applications: two alike entities differ in them.
 _LEFT_OUT = {
-    "application_codes_container", "coordinate_system", "embedded_object_container", "graphics_block_name", "key",
-    "layout_tab_name", "object_handle", "seqend", "soft_owner", "type_name", "unique_id", "unknown_codes",
+    "annotation_handle", "application_codes_container", "coordinate_system", "embedded_object_container", "graphics_block_name", "key",
+    "dimblk", "dimblk1", "dimblk2", "dimldrblk", "dimltex1", "dimltex2", "dimltype", "dimtxsty",
+    "layout_tab_name", "material", "object_handle", "plot_style", "seqend", "soft_owner", "type_name", "unique_id", "unknown_codes",
     "viewport_id", "viewport_status", "xdata_container",
 }
 # Left out at the end of a list where they are the default.
@@ -27,7 +28,7 @@ def member_names(kind: type[Any]) -> tuple[str, ...]:
     if found is None:
         found = _members[kind] = tuple(
             name for name in dir(kind) if not name.startswith("_") and name not in _LEFT_OUT
-            and type(getattr(kind, name)).__name__ == "getset_descriptor")
+            and not name.endswith("_handle") and type(getattr(kind, name)).__name__ == "getset_descriptor")
     return found
 
 
@@ -80,7 +81,7 @@ def _normal(name: str, value: Any) -> Any:
     if name == "line_type_name" and isinstance(value, str):
         return value.upper()
     if name in _DEFAULTS:
-        items: tuple[Any, ...] = value
+        items: Any = value
         while items and items[-1] == _DEFAULTS[name]:
             items = items[:-1]
         return items

@@ -1,0 +1,259 @@
+"""Copies entities between drawings with all they refer to, merges drawings, renames layers."""
+
+from __future__ import annotations
+
+from collections.abc import Iterable
+from typing import Any, Literal
+
+from korvan.cad.fileformats.cad import CadImage
+from korvan.cad.fileformats.cad.cadobjects import CadBlockEntity, CadEntityBase
+from korvan.cad.fileformats.cad.cadtables import (
+    CadBlockTableObject, CadDimensionStyleTable, CadLayerTable, CadLineTypeTableObject,
+    CadStyleTableObject)
+from korvan.tools.errors import ToolError, unknown
+from korvan.tools.opening import cast
+from korvan.tools.queries import MODEL
+from korvan.tools.transforms import Transform, transform
+from korvan.tools.values import fingerprint, member_names, values
+
+Conflict = Literal["keep", "rename", "error"]
+# What refers to the entities and objects of its own drawing by handles, which mean nothing in another one.
+_BOUND = {"IMAGE", "PDFUNDERLAY", "DWFUNDERLAY", "DGNUNDERLAY", "ACAD_TABLE", "VIEWPORT", "ACAD_PROXY_ENTITY"}
+_KEPT_BY_HANDLE = {
+    "dimtxsty": "styles", "dimltype": "line_types", "dimltex1": "line_types", "dimltex2": "line_types",
+    "dimblk": "block_records", "dimblk1": "block_records", "dimblk2": "block_records",
+    "dimldrblk": "block_records",
+}
+
+
+def _copy_values(source: Any, target: Any) -> None:
+    """Copies the plain values and lists of a record of a table to a new one."""
+    for name in member_names(source.__class__):
+        if name == "name":
+            continue
+        value = getattr(source, name)
+        if hasattr(value, "extend"):
+            getattr(target, name).extend(list(value))
+            continue
+        try:
+            setattr(target, name, value)
+        except AttributeError:  # what can only be read follows from the rest
+            continue
+
+
+def _handle(drawing: CadImage, record: Any) -> str:
+    """The handle of a record; a new one where it has none yet."""
+    if not record.object_handle:
+        seed = drawing.header.hand_seed or "100"
+        record.object_handle = seed
+        drawing.header.hand_seed = f"{int(seed, 16) + 1:X}"
+    return str(record.object_handle)
+
+
+class _Copier:
+    """Copies from one drawing to another; knows which names got another one there."""
+
+    def __init__(self, source: CadImage, target: CadImage, conflict: Conflict) -> None:
+        self.source, self.target, self.conflict = source, target, conflict
+        self._names: dict[tuple[str, str], str] = {}
+
+    def record(self, table: str, name: str, kind: type[Any]) -> str:
+        """The name in the target of a record of a symbol table, which is copied there if need be."""
+        key = table, name.casefold()
+        if key in self._names:
+            return self._names[key]
+        self._names[key] = name
+        found = getattr(self.source, table).find(name)
+        if found is None:
+            return name
+        there: Any = getattr(self.target, table)
+        other = there.find(name)
+        if other is not None:
+            # One of a layer or style of the same name is enough, even where its colour differs.
+            if self.conflict != "rename" or fingerprint(values(other)) == fingerprint(values(found)):
+                return name
+            name = self._names[key] = self._free(name, there)
+        new = kind()
+        new.name = name
+        _copy_values(found, new)
+        there.add(new)
+        self._refer(found, new)
+        return name
+
+    def _refer(self, found: Any, new: Any) -> None:
+        """Lets a new record refer to others of the target as the old one does in the source."""
+        if hasattr(found, "line_type_name"):
+            new.line_type_name = self.line_type(found.line_type_name)
+        for member, table in _KEPT_BY_HANDLE.items():
+            handle = getattr(found, member, "")
+            if not handle or handle == "0":
+                continue
+            record = next((one for one in getattr(self.source, table) if one.object_handle == handle), None)
+            if record is None:
+                continue
+            name = (self.style(record.name) if table == "styles" else self.line_type(record.name)
+                    if table == "line_types" else self.block(record.name))
+            other = getattr(self.target, table).find(name)
+            if other is not None:
+                setattr(new, member, _handle(self.target, other))
+
+    @staticmethod
+    def _free(name: str, there: Any) -> str:
+        number = 1
+        while there.find(f"{name}_{number}") is not None:
+            number += 1
+        return f"{name}_{number}"
+
+    def layer(self, name: str) -> str:
+        return self.record("layers", name, CadLayerTable)
+
+    def style(self, name: str) -> str:
+        return self.record("styles", name, CadStyleTableObject)
+
+    def line_type(self, name: str) -> str:
+        if name.upper() in ("BYLAYER", "BYBLOCK", "CONTINUOUS"):
+            return name
+        return self.record("line_types", name, CadLineTypeTableObject)
+
+    def block(self, name: str) -> str:
+        """The name of a block in the target, with its entities copied there if need be."""
+        key = "blocks", name.casefold()
+        if key in self._names:
+            return self._names[key]
+        self._names[key] = name
+        found = self.source.block_entities.find(name)
+        if found is None:
+            return name
+        other = self.target.block_entities.find(name)
+        if other is not None:
+            same = [fingerprint(values(one)) for one in other.entities] == [
+                fingerprint(values(one)) for one in found.entities]
+            if same or (self.conflict == "keep" and not name.startswith("*")):
+                return name
+            if self.conflict == "error" and not name.startswith("*"):
+                raise ToolError(f"both drawings have a block {name!r}, and they differ")
+            name = self._names[key] = self._free(name, self.target.block_entities)
+        new = CadBlockEntity()
+        new.name = new.name_again = name
+        new.base_point = found.base_point
+        new.flags, new.description, new.x_ref_path_name = found.flags, found.description, found.x_ref_path_name
+        new.layer_name = self.layer(found.layer_name)
+        self.target.block_entities.add(new)
+        if self.target.block_records.find(name) is None:  # what dimension styles refer to
+            record = CadBlockTableObject()
+            record.name = name
+            self.target.block_records.add(record)
+        for entity in found.entities:
+            if (copied := self.entity(entity)) is not None:
+                new.entities.append(copied)
+        return name
+
+    def entity(self, entity: CadEntityBase) -> Any:
+        """A copy of an entity that refers to the target; ``None`` for what cannot leave its drawing."""
+        if entity.type_name_text in _BOUND:
+            return None
+        own = cast(entity.clone())
+        self.adopt(own)
+        for part in getattr(own, "attributes", None) or getattr(own, "vertices", None) or ():
+            one = cast(part)
+            if isinstance(one, CadEntityBase):
+                self.adopt(one)
+        return own
+
+    def adopt(self, own: Any) -> None:
+        own.layer_name = self.layer(own.layer_name)
+        own.line_type_name = self.line_type(own.line_type_name)
+        for member in ("text_style_name", "style_type"):
+            name = getattr(own, member, None)
+            if isinstance(name, str) and name:
+                setattr(own, member, self.style(name))
+        for member in ("dimension_style_name", "style_name"):
+            name = getattr(own, member, None)
+            if isinstance(name, str) and name and self.source.dimension_styles.find(name) is not None:
+                setattr(own, member, self.record("dimension_styles", name, CadDimensionStyleTable))
+        if own.type_name_text == "INSERT":
+            own.name = self.block(own.name)
+        elif getattr(own, "block_name", ""):
+            own.block_name = self.block(own.block_name)
+
+
+def copy_entities(
+    entities: Iterable[CadEntityBase], source: CadImage, target: CadImage, *, layout: str = MODEL,
+    change: Transform | None = None, conflict: Conflict = "keep"
+) -> list[Any]:
+    """Copies entities to another drawing, or within one, with the layers, styles and blocks that they need.
+
+    Images, underlays, tables and viewports stay behind, as they refer to objects of their own drawing.
+
+    :param entities: What is copied, such as the result of a query.
+    :param source: The drawing that they are from.
+    :param target: The drawing that gets the copies; it may be the same.
+    :param layout: The layout that they are put into.
+    :param change: A transform of the copies.
+    :param conflict: What happens where a block, layer or style of the same name differs: ``keep`` that of the
+        target, ``rename`` the one that comes, or ``error`` for blocks.
+    :returns: The copies, each as its own class.
+    """
+    if layout not in target.layouts.names:
+        raise unknown("layout", layout, list(target.layouts.names))
+    copier = _Copier(source, target, conflict)
+    copies = [copied for entity in list(entities) if (copied := copier.entity(entity)) is not None]
+    if change is not None:
+        transform(copies, change)
+    place = target.get_layout_entities(layout)
+    for copied in copies:
+        place.append(copied)
+    return copies
+
+
+def merge(
+    target: CadImage, source: CadImage, *, change: Transform | None = None, conflict: Conflict = "keep"
+) -> int:
+    """Copies model space of a drawing into another one, with layers, styles and blocks; returns how many entities.
+
+    Layers without entities come along as well. The drawings should have the same unit, or ``change`` a scale.
+    """
+    copier = _Copier(source, target, conflict)
+    for layer in source.layers:
+        copier.layer(layer.name)
+    return len(copy_entities(source.entities, source, target, change=change, conflict=conflict))
+
+
+def rename_layer(drawing: CadImage, old: str, new: str) -> int:
+    """Renames a layer, and everything that refers to it; returns how many entities.
+
+    If there is a layer of the new name, the entities move to it, and the old layer is removed.
+
+    :raises ToolError: There is no such layer, or it is layer 0, which every drawing has.
+    """
+    layer = drawing.layers.find(old)
+    if layer is None:
+        raise unknown("layer", old, list(drawing.layers.names))
+    if old == "0":
+        raise ToolError("layer 0 keeps its name: every drawing has it")
+    key, other = old.casefold(), drawing.layers.find(new)
+    if other is None or other == layer:
+        layer.name = new
+    else:
+        drawing.layers.remove(layer)
+    count = 0
+    for block in drawing.block_entities:
+        count += _move_to_layer([block, *block.entities], key, new)
+    if drawing.header.current_layer.casefold() == key:
+        drawing.header.current_layer = new
+    return count
+
+
+def _move_to_layer(entities: Iterable[CadEntityBase], key: str, new: str) -> int:
+    count = 0
+    for entity in entities:
+        if entity.layer_name.casefold() == key:
+            entity.layer_name = new
+            count += entity.type_name_text != "BLOCK"
+        if entity.type_name_text in ("INSERT", "POLYLINE"):
+            own = cast(entity)
+            parts: Any = getattr(own, "attributes", None) or getattr(own, "vertices", ())
+            for part in parts:
+                if part.layer_name.casefold() == key:
+                    part.layer_name = new
+    return count
