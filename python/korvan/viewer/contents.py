@@ -33,6 +33,11 @@ _UNITS = {
     "YARD": "yd",
     "MILE": "mi",
 }
+_REASONS = {
+    "ENTITY_NOT_DRAWN": "Not drawn",
+    "MISSING_GLYPH": "Without a glyph",
+    "MISSING_PICTURE": "Image not found",
+}
 
 
 class ViewerError(RuntimeError):
@@ -162,8 +167,8 @@ def _add_notes(options: ImageOptionsBase, contents: Contents) -> None:
     result = options.render_result
     if result is None:
         return
-    found = [failure.message for failure in result.failures]
-    found += [f"Font: {substitution}" for substitution in result.font_substitutions]
+    found = [f"{_REASONS.get(failure.render_code.name or '', 'Changed')}: {failure.message}" for failure in result.failures]
+    found += [f"Font {substitution}" for substitution in result.font_substitutions]
     for note in found:
         if note not in contents.notes and len(contents.notes) < _MOST_NOTES:
             contents.notes.append(note)
