@@ -176,21 +176,13 @@ def _add_notes(options: ImageOptionsBase, contents: Contents) -> None:
 
 def _read_pages(image: korvan.cad.Image) -> Iterator[Layout]:
     """The pages of an image, as PNG files."""
-    from korvan.cad import Image
-    from korvan.cad.imageoptions import MultiPageOptions, TiffOptions
+    from korvan.cad import RasterImage
 
-    yield _page(1, image)
-    for number in range(1, _MOST_PAGES):
-        options = TiffOptions()  # one of the formats whose options select pages
-        options.multi_page_options = MultiPageOptions(number, 1)
-        single = io.BytesIO()
-        try:
-            image.save(single, options)
-        except RuntimeError:
-            return  # there are no more pages
-        single.seek(0)
-        with Image.load(single) as page:
-            yield _page(number + 1, page)
+    if raster := RasterImage._cast_to(image):
+        for number in range(min(raster.value.page_count, _MOST_PAGES)):
+            yield _page(number + 1, raster.value.get_page(number))
+    else:
+        yield _page(1, image)
 
 
 def _page(number: int, image: korvan.cad.Image) -> Layout:
