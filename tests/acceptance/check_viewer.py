@@ -161,7 +161,9 @@ def check_layers_and_layouts(browser: Browser, folder: Path) -> None:
 
 def check_search_and_theme(browser: Browser, folder: Path) -> None:
     open_page(browser, write_page(DRAWINGS / "site_plan.dxf", folder))
-    browser.press("/", *"mill", "\ue007")
+    browser.press("/", *"plot 3")  # a paragraph, which is drawn word by word
+    expect(inner_text(browser, "matches") == "1 match", inner_text(browser, "matches"))
+    browser.press("\ue00c", "/", *"mill", "\ue007")
     settle(browser)
     expect(inner_text(browser, "matches") == "1 of 2 matches", inner_text(browser, "matches"))
     highlighted = browser.run(

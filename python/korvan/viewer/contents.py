@@ -5,7 +5,7 @@ from __future__ import annotations
 import gzip
 import io
 import os
-from collections.abc import Iterator, Sequence
+from collections.abc import Generator, Iterator, Sequence
 from contextlib import contextmanager
 from dataclasses import dataclass, field
 from pathlib import Path
@@ -32,6 +32,11 @@ _UNITS = {
     "FOOT": "ft",
     "YARD": "yd",
     "MILE": "mi",
+}
+_REASONS = {
+    "ENTITY_NOT_DRAWN": "Not drawn",
+    "MISSING_GLYPH": "Without a glyph",
+    "MISSING_PICTURE": "Image not found",
 }
 
 
@@ -68,8 +73,8 @@ class Contents:
 
     title: str
     layouts: list[Layout]
-    layers: list[Layer] = field(default_factory=list)
-    notes: list[str] = field(default_factory=list)
+    layers: list[Layer] = field(default_factory=list[Layer])
+    notes: list[str] = field(default_factory=list[str])
     """What was not drawn faithfully, and fonts that were replaced."""
 
 
@@ -81,22 +86,21 @@ def read_contents(source: str | os.PathLike[str], layouts: Sequence[str] | None 
     :raises ViewerError: The file has no 2D content, or not the layouts.
     :raises RuntimeError: The file cannot be read.
     """
-    import korvan.cad
     from korvan.cad import Image, RasterImage
     from korvan.cad.fileformats.cad import CadImage
     from korvan.cad.imageoptions import PngOptions, SvgOptions
 
     path = Path(source)
     if not path.is_file():
-        raise ViewerError(f"{path}: there is no such file")
+        raise ViewerError("there is no such file")
     with Image.load(str(path)) as image:
         if drawing := CadImage._cast_to(image):
             return _read_drawing(path.name, image, drawing.value, layouts)
         if layouts:
-            raise ViewerError(f"{path}: only drawings have layouts to select")
+            raise ViewerError("only drawings have layouts to select")
         if RasterImage._cast_to(image) or not image.can_save(SvgOptions()):
             if not image.can_save(PngOptions()):
-                raise ViewerError(f"{path}: there is no 2D view of this kind of file; drawings and images have one")
+                raise ViewerError("there is no 2D view of this kind of file; drawings and images have one")
             return Contents(path.name, list(_read_pages(image)))
         contents = Contents(path.name, [])
         contents.layouts.append(_render(image, path.stem, None, contents, is_sheet=True))
@@ -110,7 +114,7 @@ def _read_drawing(
     if wanted is not None:
         known = {name.casefold(): name for name in names}
         if missing := [name for name in wanted if name.casefold() not in known]:
-            raise ViewerError(f"{title}: no layout {missing[0]!r}; it has {', '.join(map(repr, names))}")
+            raise ViewerError(f"no layout {missing[0]!r}; it has {', '.join(map(repr, names))}")
         names = [known[name.casefold()] for name in wanted]
     contents = Contents(title, [])
     contents.layers += [Layer(layer.name, layer.is_on and not layer.is_frozen) for layer in drawing.layers]
@@ -124,7 +128,7 @@ def _read_drawing(
 
 
 @contextmanager
-def _all_layers(drawing: CadImage) -> Iterator[None]:
+def _all_layers(drawing: CadImage) -> Generator[None, None, None]:
     """Shows all layers while it is open: the page has switches of its own."""
     stored = [(layer, layer.is_on, layer.is_frozen) for layer in drawing.layers]
     for layer, _, _ in stored:
@@ -163,8 +167,8 @@ def _add_notes(options: ImageOptionsBase, contents: Contents) -> None:
     result = options.render_result
     if result is None:
         return
-    found = [failure.message for failure in result.failures]
-    found += [f"Font: {substitution}" for substitution in result.font_substitutions]
+    found = [f"{_REASONS.get(failure.render_code.name or '', 'Changed')}: {failure.message}" for failure in result.failures]
+    found += [f"Font {substitution}" for substitution in result.font_substitutions]
     for note in found:
         if note not in contents.notes and len(contents.notes) < _MOST_NOTES:
             contents.notes.append(note)
@@ -172,21 +176,13 @@ def _add_notes(options: ImageOptionsBase, contents: Contents) -> None:
 
 def _read_pages(image: korvan.cad.Image) -> Iterator[Layout]:
     """The pages of an image, as PNG files."""
-    from korvan.cad import Image
-    from korvan.cad.imageoptions import MultiPageOptions, TiffOptions
+    from korvan.cad import RasterImage
 
-    yield _page(1, image)
-    for number in range(1, _MOST_PAGES):
-        options = TiffOptions()  # one of the formats whose options select pages
-        options.multi_page_options = MultiPageOptions(number, 1)
-        single = io.BytesIO()
-        try:
-            image.save(single, options)
-        except RuntimeError:
-            return  # there are no more pages
-        single.seek(0)
-        with Image.load(single) as page:
-            yield _page(number + 1, page)
+    if raster := RasterImage._cast_to(image):
+        for number in range(min(raster.value.page_count, _MOST_PAGES)):
+            yield _page(number + 1, raster.value.get_page(number))
+    else:
+        yield _page(1, image)
 
 
 def _page(number: int, image: korvan.cad.Image) -> Layout:

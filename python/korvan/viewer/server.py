@@ -23,13 +23,13 @@ class PageServer:
             server.wait()
     """
 
-    def __init__(self, page: str, port: int = 0) -> None:
+    def __init__(self, page: str | bytes, port: int = 0) -> None:
         """
         :param page: The page, as ``build_page`` gives it.
         :param port: The port; 0 for a free one.
         """
         path = f"/{secrets.token_urlsafe(24)}/"
-        self._server = ThreadingHTTPServer((_HOST, port), _handler(path, page.encode()))
+        self._server = ThreadingHTTPServer((_HOST, port), _handler(path, page.encode() if isinstance(page, str) else page))
         self._server.daemon_threads = True
         self.url = f"http://{_HOST}:{self._server.server_port}{path}"
         self._thread = Thread(target=self._server.serve_forever, daemon=True)

@@ -256,6 +256,21 @@ function interleave(x, y) {
 const matrixOf = (text) => (text.match(/-?[\d.]+(?:e[+-]?\d+)?/gi) ?? []).map(Number);
 const colorOf = (text) => [1, 3, 5].map((at) => parseInt(text.slice(at, at + 2), 16));
 
+/** From the end of a text to the start of another: along its baseline and across it. */
+function gapBetween({ matrix: [a, b, , , e, f], length }, { matrix }) {
+  const scale = Math.hypot(a, b);
+  const x = matrix[4] - e - a * length, y = matrix[5] - f - b * length;
+  return { along: (x * a + y * b) / scale, across: (y * a - x * b) / scale };
+}
+
+function isContinued(text, next) {
+  const { along, across } = gapBetween(text, next);
+  const isParallel = Math.abs(text.matrix[0] * next.matrix[1] - text.matrix[1] * next.matrix[0])
+    < 1e-3 * Math.hypot(text.matrix[0], text.matrix[1]) * Math.hypot(next.matrix[0], next.matrix[1]);
+  return text.layer === next.layer && isParallel && Math.abs(across) < 0.3 * text.height
+    && along > -0.3 * text.height && along < 0.8 * text.height;
+}
+
 class SceneReader {
   constructor() {
     this.geometry = new Geometry();
@@ -462,13 +477,26 @@ class SceneReader {
     const hidden = style.fill === "none";
     const height = Math.hypot(matrix[2], matrix[3]) * size;
     const bounds = boundsOfCorners(matrix, 0, -size * 0.9, length, size * 0.25);
-    this.texts.push({ string, layer: this._layer, ...bounds });
+    this._addText({ string, layer: this._layer, matrix, height, length, ...bounds });
     if (!hidden && string.trim() !== "") {
       const font = `${style["font-style"] ?? ""} ${style["font-weight"] ?? ""} ${size}px ` +
         unescapeText(style["font-family"]);
       this.items.push({ kind: TEXT, layer: this._layer, string, matrix, size, length, height, font, stretch: 0,
         color: colorOf(style.fill), alpha: Number(style["fill-opacity"] ?? 1), ...bounds });
     }
+  }
+
+  /** Adds a text to those that are searched. Words that were written one by one are one text. */
+  _addText(text) {
+    const last = this.texts[this.texts.length - 1];
+    if (last === undefined || !isContinued(last, text)) {
+      this.texts.push(text);
+      return;
+    }
+    const isApart = gapBetween(last, text).along > 0.1 * text.height;
+    last.string += (isApart && !last.string.endsWith(" ") ? " " : "") + text.string;
+    [last.matrix, last.length] = [text.matrix, text.length];
+    Object.assign(last, boundsOf([last, text]));
   }
 
   _use(attributes) {
