@@ -71,7 +71,7 @@ def run_batch(settings: Settings, engine: str = "processes", *, modes: Modes = M
         if engine == "processes":
             summary = _process(run, shards)
         else:
-            with Pool(settings.limits, 1, stop) as pool:
+            with Pool(settings.recipe, settings.limits, 1, stop) as pool:
                 recipe = settings.recipe.key(pool.version())
             todo = [shard for shard in shards if modes.retry or modes.verify or not is_finished(folder, shard, recipe)]
             if engine == "commands":
@@ -104,7 +104,7 @@ def run_shards(out: str | os.PathLike[str], shards: Sequence[int], *, modes: Mod
     if wrong:
         raise BatchError(f"{printable(out)}: has {len(plan['starts'])} shards, none {wrong[0]}")
     total = Summary()
-    with Stop() as stop, Pool(settings.limits, jobs, stop) as pool:
+    with Stop() as stop, Pool(settings.recipe, settings.limits, jobs, stop) as pool:
         for shard in shards:
             lease = Lease(folder.lease_path(shard))
             lease.wait(stop)
@@ -167,7 +167,7 @@ def _run_shard(run: Run, shard: int, pool: Pool, on_tick: Callable[[], None]) ->
 
 def _process(run: Run, shards: Sequence[int]) -> Summary:
     total = Summary()
-    with Pool(run.settings.limits, run.settings.jobs, run.stop) as pool:
+    with Pool(run.settings.recipe, run.settings.limits, run.settings.jobs, run.stop) as pool:
         for shard in shards:
             with Lease(run.folder.lease_path(shard)) as lease:
                 def tick(lease: Lease = lease) -> None:

@@ -14,6 +14,10 @@ class BatchError(Exception):
     """The batch cannot begin or go on: the folder is in use, unwritable or of another batch, or the disk is full."""
 
 
+class BadRecipe(BatchError):
+    """What is asked for makes no sense, whatever the file."""
+
+
 class Interrupted(BatchError):
     """The batch was stopped by a signal; the journal is true, and the same command goes on."""
 

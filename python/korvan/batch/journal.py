@@ -50,6 +50,12 @@ CREATE TABLE IF NOT EXISTS files (
     ours INTEGER NOT NULL DEFAULT 0 -- whether a file in the place of the result is of this batch
 ) WITHOUT ROWID;
 """
+_RENEW = """
+UPDATE files SET size = ?, modified = ?, target = ?, recipe = ?, state = 'pending', crashes = 0, alone = 0,
+    interruptions = CASE state WHEN 'pending' THEN interruptions ELSE 0 END,
+    hash = CASE WHEN ? THEN hash END, ours = CASE WHEN ? THEN ours ELSE 0 END
+WHERE path = ?
+"""
 
 
 @dataclass(frozen=True, slots=True)
@@ -140,9 +146,9 @@ class Journal:
         with Transaction(self._connection) as change:
             change.execute("UPDATE files SET state = 'pending', interruptions = interruptions + 1 "
                            "WHERE state = 'running'")
-            change.execute("UPDATE files SET state = 'crashed', kind = 'interrupted', error = ? WHERE state = 'pending' "
-                           "AND interruptions >= ?", (f"the whole run ended {INTERRUPTIONS} times while this file was "
-                                                      "converted", INTERRUPTIONS))
+            change.execute("UPDATE files SET state = 'crashed', kind = 'interrupted', error = ? "
+                           "WHERE state = 'pending' AND interruptions >= ?",
+                           (f"the whole run ended {INTERRUPTIONS} times while it was converted", INTERRUPTIONS))
             change.execute("UPDATE files SET alone = 1 WHERE state = 'pending' AND interruptions > 1")
             known = {row["path"]: row for row in change.execute(
                 "SELECT path, size, modified, target, recipe, state, kind FROM files")}
@@ -155,16 +161,12 @@ class Journal:
                                                                  recipe, lost))
                 elif not _stands(row, source, target, recipe, retry):
                     same = row["target"] == target
-                    hold = row["recipe"] == recipe and same
-                    change.execute("UPDATE files SET size = ?, modified = ?, target = ?, recipe = ?, state = 'pending', "
-                                   "crashes = 0, interruptions = CASE state WHEN 'pending' THEN interruptions ELSE 0 "
-                                   "END, hash = CASE WHEN ? THEN hash END, ours = CASE WHEN ? THEN ours ELSE 0 END "
-                                   "WHERE path = ?", (source.size, source.modified, target, recipe, hold, same,
-                                                      source.path))
+                    hold = same and row["recipe"] == recipe
+                    change.execute(_RENEW, (source.size, source.modified, target, recipe, hold, same, source.path))
             change.executemany("UPDATE files SET state = 'gone' WHERE path = ?", [(path,) for path in known])
 
     def check_results(self, out: bytes, *, contents: bool) -> None:
-        """Makes pending what is done, but whose result is not as it was written; with ``contents``, all is looked at."""
+        """Makes pending what is done, but whose result is not as it was written; with ``contents``, all."""
         missing: list[tuple[bytes]] = []
         for row in self._connection.execute(
                 "SELECT path, target, result_size, result_modified FROM files WHERE state = 'done'"):

@@ -127,8 +127,8 @@ class ShardRun:
             place = os.path.join(self._out, work.target)
             if work.ours or self._settings.force or not os.path.lexists(place):
                 return work
-            self._finished.append((work, Outcome(FAILED, "output", f"{os.fsdecode(work.target)} exists and is not of "
-                                                                   "this batch (--force replaces it)")))
+            text = f"{printable(work.target)} exists and is not of this batch (--force replaces it)"
+            self._finished.append((work, Outcome(FAILED, "output", text)))
         return None
 
     def _send(self, worker: Worker, work: Work) -> None:
@@ -136,7 +136,7 @@ class ShardRun:
             "source": os.fsdecode(os.path.join(self._source, work.path)),
             "target": os.fsdecode(os.path.join(self._out, work.target)),
             "scratch": str(self._scratch(worker)),
-            "to": self._settings.recipe.to, "options": dict(self._settings.recipe.options), "known": work.known_hash,
+            "known": work.known_hash,
             "replace": work.ours or self._settings.force, "timeout": self._settings.limits.timeout,
             "thumbnail": self._settings.thumbnails and not work.crashes,
         }
@@ -161,7 +161,7 @@ class ShardRun:
     def _take(self, work: Work, reply: dict[str, Any]) -> None:
         if reply.get("kind") == "full":
             self._given_back.append(work)
-            raise BatchError(f"{printable(self._folder.out)}: No space left on device; the same command goes on from here")
+            raise BatchError(f"{printable(self._folder.out)}: {reply['error']}; the same command goes on from here")
         thumbnail = reply.get("thumbnail")
         outcome = Outcome(
             reply["state"], reply.get("kind", ""), reply.get("error", ""), reply.get("hash"), reply.get("size", 0),

@@ -201,8 +201,33 @@ def work(task: dict[str, Any]) -> dict[str, Any]:
         reply = _result(task)
     except Refused as failure:
         reply = {"state": "failed", "kind": failure.kind, "error": " ".join(str(failure).split())}
+    except Exception as failure:  # a fault of ours costs no more than a file
+        reply = {"state": "failed", "kind": "fault", "error": f"{type(failure).__name__}: {failure}"}
+    if reply["state"] == "failed":
         shutil.rmtree(task["scratch"], ignore_errors=True)  # what was begun is not to be moved with the next result
     return {**reply, "seconds": time.perf_counter() - start, "memory": _status("VmHWM"), "resident": _status("VmRSS")}
+
+
+def check(to: str, options: dict[str, Any]) -> str:
+    """What is wrong with a recipe for each of the files; empty if nothing is."""
+    from korvan.tools import ToolError
+    from korvan.tools.formats import find_target
+    from korvan.tools.pages import paper_size, parse_size
+    from korvan.tools.settings import Settings, parse_color
+
+    try:
+        find_target(to, to).make_options(options.get("release"))
+        Settings(options.get("settings"))
+        if "size" in options:
+            parse_size(options["size"])
+        if "paper" in options:
+            paper_size(options["paper"], is_wide=True)
+        for color in (options.get("background"), options.get("color_mode")):
+            if color is not None and color != "object":
+                parse_color(color)
+    except ToolError as failure:
+        return str(failure)
+    return ""
 
 
 def main(descriptor: int, parent: int) -> None:
@@ -215,10 +240,12 @@ def main(descriptor: int, parent: int) -> None:
 
     import korvan.cad
 
-    say({"version": str(korvan.cad.BuildVersionInfo.product_version)})
     with connection.makefile("rb") as tasks:
+        recipe = json.loads(next(tasks, b"{}"))
+        wrong = check(recipe["to"], recipe["options"])
+        say({"version": str(korvan.cad.BuildVersionInfo.product_version), "wrong": wrong})
         for line in tasks:
-            say(work(json.loads(line)))
+            say(work({**json.loads(line), **recipe}))
 
 
 if __name__ == "__main__":

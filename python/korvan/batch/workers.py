@@ -17,12 +17,13 @@ from pathlib import Path
 from typing import Any
 
 import korvan
-from korvan.batch.errors import BatchError
+from korvan.batch.errors import BadRecipe, BatchError
 from korvan.batch.journal import Work
-from korvan.batch.settings import MEBIBYTE, Limits
+from korvan.batch.settings import MEBIBYTE, Limits, Recipe
 from korvan.batch.stopping import Stop
 
 TICK = 0.1
+START = 120.0  # seconds until a worker has to be ready
 GRACE = 2.0  # how much later than the library's own deadline a process is ended
 STARTS = 3  # failed starts of workers, one after the other, that end the batch
 _PACKAGES = str(Path(korvan.__file__).resolve().parents[1])
@@ -48,14 +49,14 @@ class Event:
 class Worker:
     """A process. Its output is kept for the case that it ends, and told as the reason."""
 
-    def __init__(self, number: int, threads: int) -> None:
+    def __init__(self, number: int, recipe: Recipe, threads: int) -> None:
         self.number = number
         self.work: Work | None = None
         self.version = ""
         self.files = 0
         self.memory = 0
         """The limit for the present work, in bytes."""
-        self._deadline = float("inf")
+        self._deadline = time.monotonic() + START
         self._killed_for = ("", "")
         self._buffer = b""
         self._output = tempfile.TemporaryFile()
@@ -66,6 +67,7 @@ class Worker:
                 stdin=subprocess.DEVNULL, stdout=self._output, stderr=self._output, pass_fds=[theirs.fileno()],
                 cwd="/", process_group=0,  # Ctrl-C in a terminal is for the batch, which ends its workers itself
                 env={**os.environ, **command_environment(), "DOTNET_PROCESSOR_COUNT": str(threads)})
+        self._tell({"to": recipe.to, "options": dict(recipe.options)})
 
     def fileno(self) -> int:
         return self._socket.fileno()
@@ -81,10 +83,7 @@ class Worker:
         self.work, self.memory = work, memory
         self.files += 1
         self._deadline = time.monotonic() + seconds * 1.1 + GRACE if seconds else float("inf")
-        try:
-            self._socket.sendall(json.dumps(task).encode("ascii") + b"\n")
-        except (BrokenPipeError, ConnectionResetError):
-            pass
+        self._tell(task)
 
     def receive(self) -> Event | None:
         """What the worker said, once it is whole."""
@@ -100,7 +99,10 @@ class Worker:
         message: dict[str, Any] = json.loads(self._buffer)
         self._buffer = b""
         if not self.version:
+            if message["wrong"]:
+                raise BadRecipe(message["wrong"])
             self.version = message["version"]
+            self._deadline = float("inf")
             return Event(self)
         work, self.work = self.work, None
         self._deadline = float("inf")
@@ -108,11 +110,11 @@ class Worker:
 
     def watch(self) -> None:
         """Ends the process if its file takes too long or too much."""
-        if self.work is None or self._killed_for[0]:
+        if self._killed_for[0]:
             return
         if time.monotonic() > self._deadline:
             self._kill_for("timeout", "takes longer than it may, and did not stop when it was asked to")
-        elif self.memory and (taken := _resident(self._process.pid)) > self.memory:
+        elif self.work and self.memory and (taken := _resident(self._process.pid)) > self.memory:
             self._kill_for("memory", f"takes more than {self.memory // MEBIBYTE} MiB of memory "
                                      f"({taken // MEBIBYTE} MiB when it was ended)")
 
@@ -121,6 +123,12 @@ class Worker:
         self._process.wait()
         self._socket.close()
         self._output.close()
+
+    def _tell(self, message: dict[str, Any]) -> None:
+        try:
+            self._socket.sendall(json.dumps(message).encode("ascii") + b"\n")
+        except (BrokenPipeError, ConnectionResetError):
+            pass  # the end of the process is an event of its own
 
     def _kill_for(self, kind: str, error: str) -> None:
         self._killed_for = kind, error
@@ -146,8 +154,9 @@ class Worker:
 class Pool:
     """As many workers as there are jobs, and their events."""
 
-    def __init__(self, limits: Limits, jobs: int, stop: Stop) -> None:
+    def __init__(self, recipe: Recipe, limits: Limits, jobs: int, stop: Stop) -> None:
         self.limits = limits
+        self._recipe = recipe
         self.jobs = jobs or len(os.sched_getaffinity(0))
         self.memory = _usable_memory()
         self._stop = stop
@@ -158,7 +167,10 @@ class Pool:
         self._threads = max(1, len(os.sched_getaffinity(0)) // self.jobs)
 
     def version(self) -> str:
-        """The version of the converter, which the first worker tells."""
+        """The version of the converter, which the first worker tells.
+
+        :raises BadRecipe: The worker finds the recipe wrong for any file.
+        """
         self.fill(1)
         while not any(worker.version for worker in self._workers):
             for event in self.events():
@@ -171,7 +183,7 @@ class Pool:
         taken = {worker.number for worker in self._workers}
         for number in range(min(count, self.jobs)):
             if number not in taken:
-                worker = Worker(number, self._threads)
+                worker = Worker(number, self._recipe, self._threads)
                 self._workers.append(worker)
                 self._selector.register(worker, selectors.EVENT_READ, worker)
 

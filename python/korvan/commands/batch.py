@@ -45,7 +45,8 @@ def add_parser(subparsers: Any) -> None:
                       help="seconds that a file may take, 0 for any (default: 300)")
     work.add_argument("--memory", type=int, default=0, metavar="MIB",
                       help="memory that a file may take (default: its share of what is free)")
-    work.add_argument("--no-thumbnails", action="store_true", help="report without thumbnails; saves a third of the time")
+    work.add_argument("--no-thumbnails", action="store_true",
+                      help="report without thumbnails, which takes half the time")
     work.add_argument("-f", "--force", action="store_true", help="replace files that are not of this batch")
     work.add_argument("--retry", action="store_true", help="try again what failed or crashed")
     work.add_argument("--verify", action="store_true", help="compare contents, not only times and sizes")
@@ -55,7 +56,8 @@ def add_parser(subparsers: Any) -> None:
     cluster.add_argument("--shard-size", type=int, default=0, metavar="N",
                          help="files of a shard, as a new batch is begun (default: 20000, on clusters 1000)")
     cluster.add_argument("--sbatch", action="append", default=[], metavar="OPTIONS", help="options for sbatch")
-    cluster.add_argument("--tasks", type=int, default=0, metavar="N", help="tasks of the job array (default: one a shard)")
+    cluster.add_argument("--tasks", type=int, default=0, metavar="N",
+                         help="tasks of the job array (default: one a shard)")
     cluster.add_argument("--shard", metavar="N,...", help="work off these shards of a batch that was begun before")
     parser.add_argument("-q", "--quiet", action="store_true", help="print errors only")
     add_json(parser)
@@ -189,7 +191,7 @@ def _task_jobs() -> int:
 
 
 def run(arguments: argparse.Namespace) -> int:
-    from korvan.batch.errors import BatchError, Interrupted
+    from korvan.batch.errors import BadRecipe, BatchError, Interrupted
 
     watcher = _make_watcher(arguments.quiet)
     try:
@@ -197,6 +199,8 @@ def run(arguments: argparse.Namespace) -> int:
     except Interrupted as failure:
         watcher.message(str(failure))
         return 130
+    except BadRecipe as failure:
+        raise Usage(str(failure)) from failure
     except BatchError as failure:
         watcher.message(str(failure))
         return 1
