@@ -64,6 +64,24 @@ public sealed class PdfDocumentTests : IDisposable
         static byte Step(byte value) => value is > 125 and < 130 ? (byte)(value < 128 ? 127 : 128) : value;
     }
 
+    /// <summary>Lines of equal style are one path as long as their width is the same.</summary>
+    [Fact]
+    public void Lines_that_follow_each_other_keep_their_own_widths()
+    {
+        var list = new DrawingList();
+        foreach ((float width, double y) in ((float, double)[])[(0.2f, 40), (0.2f, 60), (5, 100), (0.2f, 150)])
+        {
+            var style = new StrokeAttributes { Color = Rgba.Black, LineWeight = width, Dash = -1, Layer = -1 };
+            list.Stroke(PdfSample.Path(new Vec2(50, y), new Vec2(250, y)), style);
+        }
+
+        string file = PdfSample.ToFile(PdfSample.Write(_engine, [PdfSample.PageOf(list)]));
+        PixelMap shown = PixelMap.OfPdf(file);
+        bool IsWide(int y) => shown[150, PdfSample.Height - 1 - y - 4] == Rgba.Black;
+        int[] heights = [40, 60, 100, 150];
+        Assert.Equal([100], heights.Where(IsWide));
+    }
+
     [DrawingFact]
     public void Real_drawings_show_what_their_pixels_show()
     {
