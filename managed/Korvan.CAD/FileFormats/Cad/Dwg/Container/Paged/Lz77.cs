@@ -11,6 +11,7 @@ internal static class Lz77
 
     private const int EndOfData = 0x11;
     private const int FarOffset = 0x3FFF;
+    private const int TooFar = int.MaxValue / 2; // the distance of a match that the input cuts
     private const int Run = 16; // the length of the copies that short matches and literals are made with
 
     /// <summary>Decompresses a page.</summary>
@@ -62,8 +63,7 @@ internal static class Lz77
         if (opcode >= 0x40)
         {
             length = (opcode >> 4) - 1;
-            int high = from < source.Length ? source[from++] : 0;
-            distance += (high << 2) | ((opcode & 0x0C) >> 2);
+            distance += from < source.Length ? (source[from++] << 2) | ((opcode & 0x0C) >> 2) : TooFar;
             literals = opcode & 3;
         }
         else if (opcode >= 0x20)
@@ -91,7 +91,7 @@ internal static class Lz77
         if (from + 2 > source.Length)
         {
             literals = 0;
-            return int.MaxValue / 2; // farther back than anything
+            return TooFar;
         }
 
         int first = source[from++];

@@ -41,14 +41,23 @@ internal static class PagedContainer
     // Where defects do not end the load, the pages themselves tell where they belong.
     private static List<SectionInfo> ReadSections(DwgSource source, FileHeader header, Dictionary<int, long> pages)
     {
-        if (!pages.TryGetValue(header.SectionMapPage, out long sectionMap))
+        List<SectionInfo> sections = [];
+        if (pages.TryGetValue(header.SectionMapPage, out long address))
+        {
+            sections = SectionMap.Read(source, address);
+        }
+        else
         {
             source.Report(LoadDefectCode.InvalidPage, SectionMap.Section, -1,
                 $"page {header.SectionMapPage}, which has the map, is not in the file");
-            sectionMap = PageScan.FindSystemPage(source.Data, SystemPage.SectionMapType);
         }
 
-        List<SectionInfo> sections = sectionMap < 0 ? [] : SectionMap.Read(source, sectionMap);
+        if (sections.Count == 0
+            && PageScan.FindSystemPage(source.Data, SystemPage.SectionMapType) is >= 0 and var found)
+        {
+            sections = SectionMap.Read(source, found);
+        }
+
         if (source.IsTolerant && Array.Exists(Needed, name => !sections.Exists(section => section.Name == name)))
         {
             sections.AddRange(PageScan.GuessSections(source.Data, PageScan.FindDataPages(source.Data), pages));

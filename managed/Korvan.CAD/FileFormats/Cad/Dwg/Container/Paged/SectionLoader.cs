@@ -75,8 +75,7 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
     private List<(PageInfo Page, long Address)> Locate(SectionInfo section)
     {
         List<(PageInfo, long)> located = [];
-        List<int> moved = [];
-        List<int> missing = [];
+        List<int> misplaced = [];
         HashSet<long> used = [];
         foreach (PageInfo page in section.Pages)
         {
@@ -86,31 +85,26 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
                 address = found;
             }
 
-            if (!used.Contains(address) && (isPlaced || IsPageOf(section, address)))
+            bool isUsed = !used.Contains(address) && (isPlaced || IsPageOf(section, address)) && used.Add(address);
+            if (isUsed)
             {
-                used.Add(address);
                 located.Add((page, address));
-                (isPlaced || addresses.Count == 0 ? [] : moved).Add(page.Number);
             }
-            else
+
+            if (!isUsed || (!isPlaced && addresses.Count > 0))
             {
-                missing.Add(page.Number);
+                misplaced.Add(page.Number);
             }
         }
 
-        Report(section, missing, "not in the file, or not whole");
-        Report(section, moved, "not where the page map states");
-        return located;
-    }
-
-    private void Report(SectionInfo section, List<int> pages, string cause)
-    {
-        if (pages.Count > 0)
+        if (misplaced.Count > 0)
         {
-            string more = pages.Count == 1 ? "" : $", as are {pages.Count - 1} more";
-            source.Report(LoadDefectCode.InvalidPage, section.Name, addresses.GetValueOrDefault(pages[0], -1),
-                $"page {pages[0]} is {cause}{more}");
+            string more = misplaced.Count == 1 ? "" : $", as are {misplaced.Count - 1} more";
+            source.Report(LoadDefectCode.InvalidPage, section.Name, addresses.GetValueOrDefault(misplaced[0], -1),
+                $"page {misplaced[0]} is not where the page map states, or not whole{more}");
         }
+
+        return located;
     }
 
     private bool IsPageOf(SectionInfo section, long address)

@@ -97,8 +97,6 @@ internal sealed class PagedFile
         }
 
         entries.AddRange([MapNumber, map.Length, MapNumber + 1, 0x100]);
-        long mapAddress = FileHeader.FirstPage + Pages.Sum(static page => (long)(uint)page.Size);
-        stream.Position = mapAddress <= _file.Length ? mapAddress : _file.Length;
         stream.Write(map);
         long address = stream.Position;
         stream.Write(Page(SystemPage.PageMapType, [.. entries.SelectMany(BitConverter.GetBytes)], -1));
