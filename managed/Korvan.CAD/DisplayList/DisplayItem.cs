@@ -11,6 +11,9 @@ internal enum DisplayKind : byte
     Pattern,
     Text,
     Image,
+
+    /// <summary>A symbol, placed by a map.</summary>
+    Symbol,
     PushClip,
     PopClip,
 }
@@ -49,7 +52,8 @@ internal struct DisplayItem
     /// 0.</summary>
     internal float TextHeight;
 
-    /// <summary>Index of the gradient of a fill (or -1), of the pattern, of the text run, or of the image.</summary>
+    /// <summary>Index of the gradient of a fill (or -1), of the pattern, of the text run, of the image, or of the
+    /// placement.</summary>
     internal int Extra;
 }
 
@@ -100,6 +104,9 @@ internal readonly record struct TextRun(string Text, int Font, Affine2 Matrix, d
 {
     /// <summary>Gets how far the pen moves over the text, in ems; 0 where it was not measured.</summary>
     internal double Advance { get; init; }
+
+    /// <summary>Gets the height of the capitals, in ems; 0 where it was not measured.</summary>
+    internal double CapHeight { get; init; }
 
     /// <summary>Gets whether the run is there to be searched and copied alone: strokes after it show it.</summary>
     internal bool IsHidden { get; init; }

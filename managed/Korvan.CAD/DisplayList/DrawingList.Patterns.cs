@@ -53,9 +53,15 @@ internal sealed partial class DrawingList
         _clips.Clear();
         _clips.AddRange(_openClips);
         var outline = new PathBuffer();
+        var firsts = new int[_symbols.Count > 0 ? count + 1 : 0];
         for (int i = 0; i < count; i++)
         {
             ref readonly DisplayItem item = ref before[i];
+            if (firsts.Length > 0)
+            {
+                firsts[i] = _itemCount;
+            }
+
             if (item.Kind == DisplayKind.Pattern)
             {
                 PathOf(item, outline);
@@ -68,8 +74,20 @@ internal sealed partial class DrawingList
                 continue;
             }
 
+            if (hasFarLines && item.Kind == DisplayKind.Symbol && !near!.Value.Contains(BoxOf(item)))
+            {
+                Expand(_placements[item.Extra], near.Value, outline);
+                continue;
+            }
+
             FollowClip(item, outline);
             NewItem(item.Kind, item.Color, item.Layer) = item;
+        }
+
+        if (firsts.Length > 0)
+        {
+            firsts[count] = _itemCount;
+            MoveSymbols(firsts);
         }
 
         _isResolving = false;

@@ -46,6 +46,10 @@ internal sealed partial class DrawingList
     private Bounds2 _linked = Bounds2.Empty;
     private int _openLinks;
 
+    internal DrawingList()
+    {
+    }
+
     /// <summary>What becomes of every colour that is drawn with; null to keep them.</summary>
     internal Func<Rgba, Rgba>? ColorMap { get; init; }
 
@@ -289,6 +293,7 @@ internal sealed partial class DrawingList
         _texts.Clear();
         _gradients.Clear();
         _images.Clear();
+        _placements.Clear();
         EmptyPatterns();
     }
 

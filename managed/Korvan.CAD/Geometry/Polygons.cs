@@ -80,6 +80,36 @@ internal static class Polygons
         return inside;
     }
 
+    /// <summary>Returns the corners of the convex hull of points, by the monotone chain of Andrew, 1979.</summary>
+    internal static Vec2[] ConvexHull(List<Vec2> points)
+    {
+        points.Sort(static (a, b) => a.X != b.X ? a.X.CompareTo(b.X) : a.Y.CompareTo(b.Y));
+        var hull = new List<Vec2>();
+        for (int side = 0; side < 2; side++)
+        {
+            int start = hull.Count;
+            foreach (Vec2 p in points)
+            {
+                while (hull.Count >= start + 2 && Vec2.Cross(hull[^1] - hull[^2], p - hull[^1]) <= 0)
+                {
+                    hull.RemoveAt(hull.Count - 1);
+                }
+
+                hull.Add(p);
+            }
+
+            // The last corner begins the other side.
+            if (hull.Count > 1)
+            {
+                hull.RemoveAt(hull.Count - 1);
+            }
+
+            points.Reverse();
+        }
+
+        return [.. hull];
+    }
+
     private static void AddCurve(List<Vec2> ring, ReadOnlySpan<double> c, double tolerance)
     {
         Vec2 p0 = ring.Count > 0 ? ring[^1] : new Vec2(c[0], c[1]);

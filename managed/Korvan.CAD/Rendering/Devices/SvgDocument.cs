@@ -104,13 +104,19 @@ internal sealed partial class SvgDocument
         _writer.Raw("\" stroke-linejoin=\"round\""u8);
         _writer.Raw(_settings.Sharp ? " shape-rendering=\"crispEdges\""u8 : default);
         _writer.Raw(_settings.Clip is null ? ">\n"u8 : " clip-path=\"url(#page)\">\n"u8);
+        WriteSymbols();
         WriteItems();
         _writer.Raw("</g>\n"u8);
     }
 
     private void WriteItems()
     {
-        ReadOnlySpan<DisplayItem> rest = _list.Items;
+        WriteRuns(_list.Items);
+        EnterLayer(-1);
+    }
+
+    private void WriteRuns(ReadOnlySpan<DisplayItem> rest)
+    {
         while (rest.Length > 0)
         {
             ref readonly DisplayItem item = ref rest[0];
@@ -121,12 +127,11 @@ internal sealed partial class SvgDocument
                 DisplayKind.Fill => WriteFills(rest),
                 DisplayKind.Text => WriteTexts(rest),
                 DisplayKind.Image => WriteImage(item),
+                DisplayKind.Symbol => WriteSymbol(item),
                 DisplayKind.PushClip => OpenClip(item),
                 _ => CloseClip(),
             })..];
         }
-
-        EnterLayer(-1);
     }
 
     /// <summary>Begins the group of another layer; -1 for none. Clips have none, so that groups nest.</summary>

@@ -61,16 +61,25 @@ internal sealed class SvgResources(SvgOptions options)
         SortedSet<int> fonts = [];
         foreach (DrawingList list in lists)
         {
-            foreach (ref readonly DisplayItem item in list.Items)
+            AddFonts(list, fonts);
+            if (list.HasSymbols)
             {
-                if (item.Kind == DisplayKind.Text && !list.TextOf(item).IsHidden)
-                {
-                    fonts.Add(list.TextOf(item).Font);
-                }
+                AddFonts(list.Definitions, fonts);
             }
         }
 
         return fonts;
+    }
+
+    private static void AddFonts(DrawingList list, SortedSet<int> fonts)
+    {
+        foreach (ref readonly DisplayItem item in list.Items)
+        {
+            if (item.Kind == DisplayKind.Text && !list.TextOf(item).IsHidden)
+            {
+                fonts.Add(list.TextOf(item).Font);
+            }
+        }
     }
 
     private static string FirstFamily(FontSpec spec) =>

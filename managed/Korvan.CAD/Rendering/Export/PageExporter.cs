@@ -21,6 +21,7 @@ internal static class PageExporter
         var pages = new PageSource(scene, context, engine, DeviceKind.Points, PointsPerInch)
         {
             InParts = true,
+            HasSymbols = true,
             LargestPage = PdfDocument.LargestPage,
         };
         PdfDocument.Write(output, engine, pages.Pages(), new PdfSettings
@@ -34,7 +35,10 @@ internal static class PageExporter
     internal static void WriteSvg(VectorScene scene, SvgOptions options, ExportContext context, Stream output)
     {
         using TextEngine engine = context.NewEngine();
-        var pages = new PageSource(scene, context, engine, DeviceKind.UserUnits, UserUnitsPerInch);
+        var pages = new PageSource(scene, context, engine, DeviceKind.UserUnits, UserUnitsPerInch)
+        {
+            HasSymbols = true,
+        };
         SvgDocument.Write(output, engine, pages.SinglePage(), options);
     }
 

@@ -40,6 +40,11 @@ internal sealed class PatternDetail
     /// <param name="window">The part of the drawing that can be seen; null for all.</param>
     internal static void Resolve(DrawingList list, in PaintSettings settings, Bounds2? window)
     {
+        if (list.HasSymbols)
+        {
+            list.Definitions.Resolve(new PatternDetail(list.Definitions, settings, null).Draw, null);
+        }
+
         var detail = new PatternDetail(list, settings, window);
         list.Resolve(detail.Draw, window is Bounds2 page ? Near(page) : null);
     }

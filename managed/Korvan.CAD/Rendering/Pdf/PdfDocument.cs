@@ -95,6 +95,9 @@ internal sealed class PdfDocument
         return new Rgba(Blend(color.R, page.R), Blend(color.G, page.G), Blend(color.B, page.B));
     }
 
+    /// <summary>Returns the number of a new object.</summary>
+    internal int NewObject() => _file.New();
+
     /// <summary>The state of an opacity.</summary>
     internal int AlphaState(byte alpha)
     {
@@ -136,9 +139,11 @@ internal sealed class PdfDocument
         using (PdfStream stream = _file.Open(content))
         {
             _ = IsTagged ? stream.Content.Raw("/Figure<</MCID 0>>BDC\n"u8) : stream.Content;
-            new PdfPainter(this, stream, _engine, page, resources, unit).Paint();
+            var painter = new PdfPainter(this, stream, _engine, page, resources, unit);
+            painter.Paint();
             _ = IsTagged ? stream.Content.Raw("EMC\n"u8) : stream.Content;
             stream.Close();
+            painter.WriteForms(_file);
         }
 
         Images.Write();

@@ -82,6 +82,7 @@ internal sealed partial class PdfPainter
     /// <summary>Whether the path that was mapped can show inside the clip.</summary>
     private bool IsVisible(double margin)
     {
+        Cover(_box, margin);
         ref Bounds2 clip = ref _state.Clip;
         return _box.MinX - margin <= clip.MaxX && _box.MaxX + margin >= clip.MinX
             && _box.MinY - margin <= clip.MaxY && _box.MaxY + margin >= clip.MinY;

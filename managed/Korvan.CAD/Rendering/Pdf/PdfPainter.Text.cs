@@ -78,6 +78,7 @@ internal sealed partial class PdfPainter
             box.Add(p.X, p.Y);
         }
 
+        Cover(box, 0);
         return box.IsFinite && box.Intersects(_state.Clip);
     }
 

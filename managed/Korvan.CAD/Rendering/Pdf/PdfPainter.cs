@@ -16,7 +16,7 @@ internal sealed partial class PdfPainter
     private const double ShortestPeriod = 0.75;
 
     private readonly PdfDocument _document;
-    private readonly PdfStream _stream;
+    private readonly PdfStream? _stream;
     private readonly PdfBuffer _out;
     private readonly TextEngine _engine;
     private readonly Page _page;
@@ -105,7 +105,7 @@ internal sealed partial class PdfPainter
             Draw(item);
             if (_out.Count >= PdfStream.BlockSize)
             {
-                _stream.Flush();
+                _stream?.Flush();
             }
         }
     }
@@ -131,6 +131,9 @@ internal sealed partial class PdfPainter
                 break;
             case DisplayKind.Image:
                 Image(item);
+                break;
+            case DisplayKind.Symbol:
+                PlaceSymbol(_list.PlacementOf(item));
                 break;
             case DisplayKind.PushClip:
                 PushClip(item);
@@ -323,6 +326,7 @@ internal sealed partial class PdfPainter
             return;
         }
 
+        Cover(box, 0);
         SetLayer(item.Layer);
         EndObject();
         SetAlpha(_document.HasTransparency ? (byte)Math.Round(Math.Clamp(image.Opacity, 0, 1) * 255) : (byte)255);

@@ -9,7 +9,7 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <summary>The cells of a block reference, and what keeps references within bounds.</summary>
 internal static class BlockCells
 {
-    private const int DeepestNesting = 64;
+    internal const int DeepestNesting = 64;
     private const long MaxCells = 1_000_000;
 
     /// <summary>Returns the offset of each cell from the first, and the map from the block to the place of the

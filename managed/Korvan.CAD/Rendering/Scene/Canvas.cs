@@ -25,7 +25,8 @@ internal sealed class Canvas
         Engine = engine;
     }
 
-    internal DrawingList List { get; }
+    /// <summary>Gets or sets the list that is added to.</summary>
+    internal DrawingList List { get; set; }
 
     internal TextEngine Engine { get; }
 
@@ -143,7 +144,7 @@ internal sealed class Canvas
         {
             double width = Engine.WidthOf(font);
             var run = new TextRun(text, outline, Wider(matrix, width), letterSpacing / width);
-            List.Text(run with { Advance = advance / width }, pen.Color, pen.Layer, box);
+            List.Text(run with { Advance = advance / width, CapHeight = cap }, pen.Color, pen.Layer, box);
             return;
         }
 
@@ -151,7 +152,7 @@ internal sealed class Canvas
         if (own > 0 && advance > 0)
         {
             List.Text(
-                new TextRun(text, outline, Wider(matrix, advance / own), 0) { Advance = own, IsHidden = true },
+                new TextRun(text, outline, Wider(matrix, advance / own), 0) { Advance = own, CapHeight = cap, IsHidden = true },
                 pen.Color, pen.Layer, box);
         }
 

@@ -49,6 +49,9 @@ internal sealed class PageSource
     /// <summary>Gets whether the device draws lists in parts.</summary>
     internal bool InParts { get; init; }
 
+    /// <summary>Gets whether the device draws symbols.</summary>
+    internal bool HasSymbols { get; init; }
+
     /// <summary>Gets the largest side that a page may have, in units of the device.</summary>
     internal double LargestPage { get; init; } = DefaultLargestPage;
 
@@ -80,7 +83,11 @@ internal sealed class PageSource
 
     private Page Create(ScenePage layout)
     {
-        RenderStyle style = _options.Style() with { MaxStored = InParts && !_options.AsBitmap ? MaxStored : null };
+        RenderStyle style = _options.Style() with
+        {
+            MaxStored = InParts && !_options.AsBitmap ? MaxStored : null,
+            HasSymbols = HasSymbols && !_options.AsBitmap,
+        };
         DrawingList list = _scene.Build(layout, style, _engine);
         PaperSheet? sheet = layout.SheetFor(list.Bounds);
         if (sheet is PaperSheet paper && (_options.ContentOnly ? !list.Bounds.IsEmpty : _options.WholeLayoutContent))

@@ -3,7 +3,7 @@ using Korvan.CAD.DisplayList;
 namespace Korvan.CAD.Rendering.Scene;
 
 /// <summary>What an entity is drawn with, after layers, blocks and defaults have had their say.</summary>
-internal struct Pen
+internal record struct Pen
 {
     internal Rgba Color;
 

@@ -35,6 +35,9 @@ internal sealed record RenderStyle
     /// <summary>From world coordinates of the model to the plane that is drawn.</summary>
     internal Affine3 ModelView { get; init; } = Affine3.Identity;
 
+    /// <summary>Draws blocks that repeat as symbols, for devices that have them.</summary>
+    internal bool HasSymbols { get; init; }
+
     /// <summary>The most items that a list stores at once; nothing for all.</summary>
     internal int? MaxStored { get; init; }
 

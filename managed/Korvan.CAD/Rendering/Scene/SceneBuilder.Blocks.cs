@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
@@ -110,7 +111,11 @@ internal sealed partial class SceneBuilder
             return;
         }
 
-        DrawSpace(block, context.Inside(block, map, layer, pen));
+        _deepest = Math.Max(_deepest, context.Depth + 1);
+        if (!TryPlaceSymbol(block, map, layer, pen, context))
+        {
+            DrawSpace(block, context.Inside(block, map, layer, pen));
+        }
     }
 
     private void DrawDimension(CadDimensionBase dimension, LayerInfo layer, BlockContext context)

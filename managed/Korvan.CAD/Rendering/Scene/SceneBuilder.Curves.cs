@@ -80,6 +80,7 @@ internal sealed partial class SceneBuilder
         solid.Pattern = null;
         PathBuffer path = _canvas.NewPath();
         int mode = _tables.Settings.PointMode;
+        _isPlaceBound |= mode != 0; // the figures of points are upright, wherever they are
         double size = PointSize(context) / 2;
         AddPointFigure(path, mode & PointFigureMask, at, size);
         if ((mode & PointInCircle) != 0)

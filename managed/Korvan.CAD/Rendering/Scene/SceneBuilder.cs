@@ -149,10 +149,11 @@ internal sealed partial class SceneBuilder : IGeometrySink
         _current = _current with { Pen = own };
     }
 
-    private void Count()
+    private void Count(int entities = 1)
     {
-        Budget.Step();
-        if (++_drawn > MaxEntities)
+        Budget.Step(entities);
+        _drawn += entities;
+        if (_drawn > MaxEntities)
         {
             throw new RenderException(
                 $"The drawing shows more than {MaxEntities} entities once its block references are drawn; "

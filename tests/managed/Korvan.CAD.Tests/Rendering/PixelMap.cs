@@ -2,6 +2,7 @@ using System;
 using System.IO;
 using System.Text;
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.Raster;
 using Korvan.CAD.Rendering.Devices;
 using Xunit;
 
@@ -36,6 +37,23 @@ internal sealed class PixelMap(int width, int height, byte[] rgb)
         return new PixelMap(int.Parse(size[0]), int.Parse(size[1]), data[start..]);
     }
 
+    /// <summary>A document as another program draws it.</summary>
+    internal static PixelMap OfSvg(string file)
+    {
+        string png = Tools.TempFile(".png");
+        Tools.Run("rsvg-convert", "-b", "white", "-o", png, file);
+        using var image = (RasterImage)Image.Load(png);
+        var rgb = new byte[image.Width * image.Height * 3];
+        for (int i = 0; i < image.Width * image.Height; i++)
+        {
+            Color color = image.GetPixel(i % image.Width, i / image.Width);
+            (rgb[3 * i], rgb[(3 * i) + 1], rgb[(3 * i) + 2]) = (color.R, color.G, color.B);
+        }
+
+        File.Delete(png);
+        return new PixelMap(image.Width, image.Height, rgb);
+    }
+
     internal static PixelMap Of(RasterPage page)
     {
         var rgb = new byte[page.Width * page.Height * 3];
@@ -58,6 +76,24 @@ internal sealed class PixelMap(int width, int height, byte[] rgb)
     {
         Assert.InRange(a.ShareOf(b), share, 1);
         Assert.InRange(b.ShareOf(a), share, 1);
+    }
+
+    /// <summary>Asserts that two pages are the same but for what rounding moves by a fraction of a pixel.</summary>
+    internal static void AssertSame(PixelMap expected, PixelMap actual)
+    {
+        Assert.Equal((expected.Width, expected.Height), (actual.Width, actual.Height));
+        (int shown, int other) = (0, 0);
+        for (int i = 0; i < expected.Width * expected.Height; i++)
+        {
+            (int x, int y) = (i % expected.Width, i / expected.Width);
+            (Rgba a, Rgba b) = (expected[x, y], actual[x, y]);
+            int off = Math.Max(Math.Max(Math.Abs(a.R - b.R), Math.Abs(a.G - b.G)), Math.Abs(a.B - b.B));
+            shown += expected.Strength(x, y) > Clear ? 1 : 0;
+            other += off > Clear ? 1 : 0;
+        }
+
+        Assert.True(shown > 100, "the page shows nothing");
+        Assert.True(other <= shown / 500, $"{other} of {shown} pixels differ");
     }
 
     private double ShareOf(PixelMap other)
