@@ -20,7 +20,7 @@ from korvan.tools.errors import ToolError
 from korvan.tools.opening import open_drawing
 from korvan.tools.properties import property_sets
 from korvan.tools.queries import is_space
-from korvan.tools.values import fingerprint, values
+from korvan.tools.plain_values import fingerprint, values
 
 Change = Literal["added", "removed", "changed"]
 
