@@ -189,7 +189,7 @@ class Inspecting(Commands):
         self.assertIn(f"{PLAN}: Terrace | 13.0 m2 | brick on sand  (Model, A-NOTE, MTEXT 2EE)", out)
         self.assertIn("Garden door  (Name, IfcDoor #148)", out)
         self.assertEqual(self.good("texts", "-s", "TERRACE", PLAN), "")
-        self.assertEqual(self.good("texts", "-c", "-F", "m2", "--layer", "A-NOTE", PLAN).split()[-1], "8")
+        self.assertEqual(self.good("texts", "-c", "-F", "m2", "--layer", "A-NOTE", PLAN).split()[-1], "7")
         self.assertEqual(self.good("texts", "-l", "terrace", *DRAWINGS), PLAN + "\n")
 
     def test_properties(self) -> None:

@@ -42,6 +42,7 @@ class Pools(unittest.TestCase):
             self.assertEqual([first.count(one) for one in dict.fromkeys(first)], [3, 3])
             last = next(iter(pool.map(work, ["pid"]))).value
             os.kill(int(str(last)), signal.SIGKILL)  # while it has nothing to do
+            os.waitid(os.P_PID, int(str(last)), os.WEXITED | os.WNOWAIT)
             self.assertEqual([one.value for one in pool.map(work, ["a"])], ["A"])
             (pid,) = [one.value for one in pool.map(work, ["pid"])]
         self.assertFalse(Path(f"/proc/{pid}").exists())

@@ -210,12 +210,14 @@ class Pool:
             if not queue:
                 return
             try:
-                worker.give(function, queue[0])
-            except OSError:  # it was killed while it was idle
-                worker.kill()
-                self._workers.remove(worker)
-            else:
-                queue.popleft()
+                if worker.process.is_alive():
+                    worker.give(function, queue[0])
+                    queue.popleft()
+                    continue
+            except OSError:
+                pass
+            worker.kill()  # it was ended while it was idle
+            self._workers.remove(worker)
         starting = sum(not worker.is_ready for worker in self._workers)
         for _ in range(min(len(queue) - starting, self._size - len(self._workers))):
             self._workers.append(_Worker(self._imports))
