@@ -15,9 +15,10 @@ from importlib import import_module
 from importlib.util import find_spec
 
 from korvan.commands.common import Usage, fail
+from korvan.tools.errors import ToolError
 
 COMMANDS = ("convert", "info", "layers", "texts", "blocks", "properties", "diff", "audit", "view", "batch",
-            "completion")
+            "completion", "man")
 _EPILOG = """examples:
   korvan convert plan.dxf -o plan.pdf             one drawing to PDF
   korvan convert *.dwg -o pdf/ --to pdf           many into a folder
@@ -69,6 +70,9 @@ def _run(arguments: argparse.Namespace) -> int:
     except Usage as failure:
         print(f"korvan {arguments.command}: {failure}", file=sys.stderr)
         return 2
+    except ToolError as failure:
+        print(f"korvan {arguments.command}: {failure}", file=sys.stderr)
+        return 1
     except BrokenPipeError:  # the reader of the output has enough, as in a pipe to head
         os.dup2(os.open(os.devnull, os.O_WRONLY), sys.stdout.fileno())
         return 1
@@ -76,6 +80,13 @@ def _run(arguments: argparse.Namespace) -> int:
         fail("output", failure)
         os.dup2(os.open(os.devnull, os.O_WRONLY), sys.stdout.fileno())
         return 1
+
+
+def _is_interrupt(failure: BaseException | None) -> bool:
+    """Whether Ctrl-C is the cause; while the library is imported, it ends that import."""
+    while failure is not None and not isinstance(failure, KeyboardInterrupt):
+        failure = failure.__cause__ or failure.__context__
+    return failure is not None
 
 
 def main(argv: Sequence[str] | None = None) -> int:
@@ -90,7 +101,9 @@ def main(argv: Sequence[str] | None = None) -> int:
             parser.print_help()
             return 2
         return _run(arguments)
-    except KeyboardInterrupt:
+    except (KeyboardInterrupt, ImportError) as failure:
+        if not _is_interrupt(failure):
+            raise
         print("korvan: interrupted", file=sys.stderr)
         return 128 + signal.SIGINT
     except SystemExit as end:  # argparse ends the program

@@ -5,6 +5,7 @@ from __future__ import annotations
 import argparse
 import os
 import sys
+from collections.abc import Iterator
 from typing import TYPE_CHECKING, Any
 
 from korvan.commands.common import Progress, Usage, add_json, fail, parser_for, print_json, size_text
@@ -46,6 +47,8 @@ def add_parser(subparsers: Any) -> None:
     parser.add_argument("-f", "--force", action="store_true", help="replace files that exist")
     parser.add_argument("--tolerant", action="store_true", help="leave damaged objects out")
     parser.add_argument("--timeout", type=float, metavar="S", help="seconds that a file may take")
+    parser.add_argument("-j", "--jobs", type=int, default=1, metavar="N",
+                        help="work in N processes, where a file that crashes fails alone; 0 for one a processor")
     parser.add_argument("-v", "--verbose", action="store_true", help="list what was left out or approximated")
     parser.add_argument("-q", "--quiet", action="store_true", help="print errors only")
     add_json(parser)
@@ -102,45 +105,81 @@ def _report(arguments: argparse.Namespace, source: str, done: ConversionResult) 
     elif not arguments.quiet:
         notes = [*done.warnings, *(f"font {font}" for font in done.fonts)]
         size = size_text(done.output.stat().st_size)
-        count = f", {len(notes)} notes (-v lists them)" if notes and not arguments.verbose else ""
+        plural = "s" if len(notes) > 1 else ""
+        count = f", {len(notes)} note{plural} (-v lists them)" if notes and not arguments.verbose else ""
         print(f"{source} -> {done.output} ({size}, {done.seconds:.2f} s{count})")
         for note in notes if arguments.verbose else ():
             print(f"  {note}")
 
 
+def _tasks(arguments: argparse.Namespace, target: str) -> Iterator[tuple[str, str, dict[str, Any]]]:
+    """Source, target and options of each conversion; a target that is there twice fails here."""
+    from korvan.tools.conversion import output_path
+
+    options: dict[str, Any] = {
+        name: getattr(arguments, name) for name in (
+            "to", "layouts", "layers", "size", "paper", "dpi", "background", "color_mode", "fonts", "release", "force",
+            "tolerant", "timeout")}
+    options["settings"] = parse_settings(arguments.settings)
+    written: dict[str, str] = {}
+    for source in arguments.files:
+        path = str(output_path(source, target, arguments.to))
+        if path in written and len(arguments.files) > 1:
+            raise Usage(f"{source} and {written[path]} would both become {path}")
+        written[path] = source
+        yield source, path, options
+
+
+def convert_task(task: tuple[str, str, dict[str, Any]]) -> ConversionResult:
+    """One conversion, for worker processes too."""
+    from korvan.tools.conversion import convert
+
+    source, path, options = task
+    return convert(source, path, **options)
+
+
+def _outcomes(tasks: list[tuple[str, str, dict[str, Any]]], jobs: int
+              ) -> Iterator[tuple[str, ConversionResult | None, str]]:
+    """Source, result and error of each conversion as they come."""
+    from korvan.tools.errors import ToolError, message_of
+
+    if jobs == 1 or len(tasks) == 1:
+        for task in tasks:
+            try:
+                yield task[0], convert_task(task), ""
+            except (ToolError, RuntimeError, OSError) as failure:
+                yield task[0], None, message_of(failure)
+        return
+    from korvan.tools.pool import Pool
+
+    timeout = tasks[0][2]["timeout"]
+    # The conversion ends itself in time where it can; the pool ends what does not.
+    deadline = timeout + 5 if timeout is not None else None
+    with Pool(jobs or None, deadline=deadline) as pool:
+        for outcome in pool.map(convert_task, tasks):
+            yield outcome.task[0], outcome.value, outcome.error
+
+
 def run(arguments: argparse.Namespace) -> int:
     target = _target(arguments)
     _check(arguments)
+    if arguments.jobs < 0:
+        raise Usage(f"--jobs {arguments.jobs}: write 1 or more, or 0 for one a processor")
     if target.endswith("/"):
         os.makedirs(target, exist_ok=True)
-    from korvan.tools.conversion import convert, output_path
-    from korvan.tools.errors import ToolError
-
+    tasks = list(_tasks(arguments, target))
     to_stdout = arguments.out == "-"
-    settings = parse_settings(arguments.settings)
-    written: dict[str, str] = {}
-    progress = Progress(len(arguments.files))
+    progress = Progress(len(tasks))
     failed = 0
-    for source in arguments.files:
-        try:
-            path = str(output_path(source, target, arguments.to))
-            if path in written:
-                raise ToolError(f"{path} is the result of {written[path]} already")
-            done = convert(
-                source, path, to=arguments.to, layouts=arguments.layouts, layers=arguments.layers,
-                size=arguments.size, paper=arguments.paper, dpi=arguments.dpi, background=arguments.background,
-                color_mode=arguments.color_mode, fonts=arguments.fonts, release=arguments.release,
-                settings=settings, force=arguments.force, tolerant=arguments.tolerant, timeout=arguments.timeout)
-            written[path] = source
-            progress.clear()
-            if not to_stdout:
-                _report(arguments, source, done)
-        except (ToolError, RuntimeError, OSError) as failure:
+    for source, done, error in _outcomes(tasks, arguments.jobs):
+        progress.clear()
+        if done is None:
             failed += 1
-            progress.clear()
-            fail(source, failure)
+            fail(source, error)
             if arguments.json and not to_stdout:
-                print_json({"source": source, "error": str(failure)})
+                print_json({"source": source, "error": error})
+        elif not to_stdout:
+            _report(arguments, source, done)
         sys.stdout.flush()
         progress.step(source)
     progress.clear()

@@ -9,7 +9,7 @@ from typing import TYPE_CHECKING, Any
 from korvan.commands.common import add_json, fail, parser_for, print_json
 
 if TYPE_CHECKING:
-    from korvan.tools.differences import Difference
+    from korvan.tools.comparison import Difference
 
 _EXAMPLES = """  korvan diff old.dxf new.dxf
   korvan diff old.dxf new.dxf --overlay diff.png      red: only old, blue: only new
@@ -50,7 +50,7 @@ def _print(found: list[Difference], summary: bool) -> None:
 
 
 def _write_overlay(arguments: argparse.Namespace) -> None:
-    from korvan.tools.differences import overlay
+    from korvan.tools.comparison import overlay
     from korvan.tools.errors import ToolError
     from korvan.tools.files import write_file
 
@@ -61,7 +61,7 @@ def _write_overlay(arguments: argparse.Namespace) -> None:
 
 def run(arguments: argparse.Namespace) -> int:
     from korvan.tools import open_drawing
-    from korvan.tools.differences import differences
+    from korvan.tools.comparison import differences
     from korvan.tools.errors import ToolError
 
     path = arguments.before

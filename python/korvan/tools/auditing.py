@@ -11,7 +11,7 @@ from korvan.cad.fileformats.cad import CadImage
 from korvan.cad.fileformats.cad.cadobjects import CadBlockEntity, CadEntityBase
 from korvan.cad.fileformats.cad.cadtables import CadLayerTable
 from korvan.tools.opening import cast
-from korvan.tools.values import fingerprint, values
+from korvan.tools.plain_values import fingerprint, values
 
 CODES = {
     101: "an object was left out when the file was read",

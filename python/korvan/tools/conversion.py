@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import io
 import os
 import signal
 import stat
@@ -18,6 +19,7 @@ from korvan.cad.fileformats.cad import CadDrawTypeMode, CadImage
 from korvan.cad.fileformats.cgm import CgmImage
 from korvan.cad.imageoptions import CadRasterizationOptions, ImageOptionsBase
 from korvan.tools.errors import ToolError, matching, message_of
+from korvan.tools.files import write_file
 from korvan.tools.formats import Target, find_target
 from korvan.tools.opening import load, load_options
 from korvan.tools.pages import set_page
@@ -118,6 +120,8 @@ def _check_output(path: Path, force: bool) -> None:
     except FileNotFoundError:
         if not path.parent.is_dir():
             raise ToolError(f"the folder {path.parent} does not exist") from None
+        if not os.access(path.parent, os.W_OK | os.X_OK):
+            raise ToolError(f"the folder {path.parent} may not be written") from None
         return
     except OSError as failure:
         raise ToolError(f"{path}: {message_of(failure)}") from failure
@@ -152,6 +156,18 @@ def _page_options(image: Image, request: _Request, target: Target, options: Imag
     request.settings.apply(options, raster)
     if request.concerns_page or files or (is_rendered and request.dpi is not None):
         options.vector_rasterization_options = raster
+
+
+def _save(image: Image, path: Path, options: ImageOptionsBase) -> None:
+    name = os.fspath(path)
+    try:
+        name.encode()
+    except UnicodeEncodeError:  # a name of bytes that are no UTF-8
+        page = io.BytesIO()
+        image.save(page, options)
+        write_file(path, page.getvalue())
+    else:
+        image.save(name, options)
 
 
 def _warnings(options: ImageOptionsBase, defects: Sequence[str]) -> tuple[list[str], list[str]]:
@@ -208,7 +224,7 @@ def convert(
                 _page_options(image, request, target, options)
                 if timeout is not None:
                     options.timeout = max(1, int((timeout - (time.perf_counter() - start)) * 1000))
-                image.save(os.fspath(path), options)
+                _save(image, path, options)
                 warnings, replaced = _warnings(options, list(given.errors))
     except TimeoutError as failure:
         raise ToolError(str(failure)) from None

@@ -14,7 +14,7 @@ from korvan.tools.errors import ToolError, unknown
 from korvan.tools.opening import cast
 from korvan.tools.queries import MODEL
 from korvan.tools.transforms import Transform, transform
-from korvan.tools.values import fingerprint, member_names, values
+from korvan.tools.plain_values import fingerprint, member_names, values
 
 Conflict = Literal["keep", "rename", "error"]
 # What refers to the entities and objects of its own drawing by handles, which mean nothing in another one.

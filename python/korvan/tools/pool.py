@@ -58,6 +58,7 @@ def _end_with_parent() -> None:
 def _work(pipe: Connection, imports: tuple[str, ...], ends_with_parent: bool) -> None:
     """The life of a worker: imports, then tasks until the pipe is closed."""
     signal.signal(signal.SIGINT, signal.SIG_IGN)  # the parent decides what Ctrl-C means
+    signal.pthread_sigmask(signal.SIG_UNBLOCK, {signal.SIGINT})
     if ends_with_parent:
         _end_with_parent()
     for name in imports:
@@ -108,7 +109,12 @@ class _Worker:
         # A parent's thread that ends would take its workers along.
         is_main = threading.current_thread() is threading.main_thread()
         self.process = context.Process(target=_work, args=(other, imports, is_main), daemon=True)
-        self.process.start()
+        # The process starts with Ctrl-C blocked, until it can ignore it.
+        mask = signal.pthread_sigmask(signal.SIG_BLOCK, {signal.SIGINT})
+        try:
+            self.process.start()
+        finally:
+            signal.pthread_sigmask(signal.SIG_SETMASK, mask)
         other.close()
         self.is_ready = False
         self.is_busy = False
@@ -204,12 +210,14 @@ class Pool:
             if not queue:
                 return
             try:
-                worker.give(function, queue[0])
-            except OSError:  # it was killed while it was idle
-                worker.kill()
-                self._workers.remove(worker)
-            else:
-                queue.popleft()
+                if worker.process.is_alive():
+                    worker.give(function, queue[0])
+                    queue.popleft()
+                    continue
+            except OSError:
+                pass
+            worker.kill()  # it was ended while it was idle
+            self._workers.remove(worker)
         starting = sum(not worker.is_ready for worker in self._workers)
         for _ in range(min(len(queue) - starting, self._size - len(self._workers))):
             self._workers.append(_Worker(self._imports))

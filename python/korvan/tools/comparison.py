@@ -20,8 +20,10 @@ from korvan.tools.errors import ToolError
 from korvan.tools.opening import open_drawing
 from korvan.tools.properties import property_sets
 from korvan.tools.queries import is_space
-from korvan.tools.values import fingerprint, values
+from korvan.tools.plain_values import fingerprint, values
 
+# Around the extents, as widths of lines and texts may reach beyond them.
+_MARGIN = 0.06
 Change = Literal["added", "removed", "changed"]
 
 
@@ -175,8 +177,10 @@ def _frame(drawings: Iterable[CadImage]) -> tuple[float, float, float, float] | 
     corners = [(one.min_point, one.max_point) for one in drawings if len(one.entities)]
     if not corners:
         return None
-    return (min(low.x for low, _ in corners), min(low.y for low, _ in corners),
-            max(high.x for _, high in corners), max(high.y for _, high in corners))
+    left, lower = min(low.x for low, _ in corners), min(low.y for low, _ in corners)
+    right, upper = max(high.x for _, high in corners), max(high.y for _, high in corners)
+    margin = _MARGIN * max(right - left, upper - lower)
+    return left - margin, lower - margin, right + margin, upper + margin
 
 
 def _gray(drawing: CadImage, frame: tuple[float, float, float, float] | None, width: int

@@ -11,10 +11,10 @@ from korvan.tools.opening import cast
 
 # Identity, place in the file, handles of others and data of applications: two alike entities differ in them.
 _LEFT_OUT = {
-    "annotation_handle", "application_codes_container", "coordinate_system", "embedded_object_container", "graphics_block_name", "key",
-    "dimblk", "dimblk1", "dimblk2", "dimldrblk", "dimltex1", "dimltex2", "dimltype", "dimtxsty",
-    "layout_tab_name", "material", "object_handle", "plot_style", "seqend", "soft_owner", "type_name", "unique_id", "unknown_codes",
-    "viewport_id", "viewport_status", "xdata_container",
+    "annotation_handle", "application_codes_container", "coordinate_system", "dimblk", "dimblk1", "dimblk2",
+    "dimldrblk", "dimltex1", "dimltex2", "dimltype", "dimtxsty", "embedded_object_container",
+    "graphics_block_name", "key", "layout_tab_name", "material", "object_handle", "plot_style", "seqend",
+    "soft_owner", "type_name", "unique_id", "unknown_codes", "viewport_id", "viewport_status", "xdata_container",
 }
 # Left out at the end of a list where they are the default.
 _DEFAULTS = {"bulges": 0.0, "start_widths": 0.0, "end_widths": 0.0}

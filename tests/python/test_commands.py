@@ -1,0 +1,297 @@
+"""The command line, as a user types it: results, errors in one line, exit codes."""
+
+from __future__ import annotations
+
+import contextlib
+import csv
+import io
+import json
+import os
+import re
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+from pathlib import Path
+from unittest import mock
+
+from korvan.commands import installed_commands, main
+from korvan.commands.common import Progress
+
+from drawings import EXAMPLES, SHARED, Png, needs_shared, needs_tools
+
+PLAN = str(EXAMPLES / "floor_plan.dxf")
+HOUSE = str(EXAMPLES / "garden_house.ifc")
+DRAWINGS = sorted(str(path) for path in EXAMPLES.glob("*.dxf"))
+
+
+class Commands(unittest.TestCase):
+    def setUp(self) -> None:
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.out = Path(folder.name)
+
+    def korvan(self, *arguments: object) -> tuple[int, str, str]:
+        """Exit code, output and errors of a command."""
+        out, err = io.StringIO(), io.StringIO()
+        with contextlib.redirect_stdout(out), contextlib.redirect_stderr(err):
+            status = main([str(one) for one in arguments])
+        return status, out.getvalue(), err.getvalue()
+
+    def good(self, *arguments: object) -> str:
+        status, out, err = self.korvan(*arguments)
+        self.assertEqual((status, err), (0, ""))
+        return out
+
+    def child(self, *arguments: object, **options: object) -> subprocess.Popen[str]:
+        return subprocess.Popen([sys.executable, "-m", "korvan", *map(str, arguments)], stdout=subprocess.PIPE,
+                                stderr=subprocess.PIPE, text=True, errors="surrogateescape", **options)
+
+
+class Converting(Commands):
+    def test_one_file_and_many(self) -> None:
+        self.good("convert", PLAN, "-o", self.out / "a.pdf", "--paper", "A3", "--layout", "*")
+        self.assertTrue((self.out / "a.pdf").read_bytes().startswith(b"%PDF"))
+        for jobs in (1, 2):
+            rows = [json.loads(line) for line in self.good(
+                "convert", *DRAWINGS, "-o", f"{self.out}/{jobs}/", "--to", "png", "--size", "200x", "--json", "-j",
+                jobs).splitlines()]
+            self.assertEqual(sorted(row["source"] for row in rows), DRAWINGS)
+            for row in rows:
+                self.assertEqual((row["format"], Png(Path(row["output"]).read_bytes()).width), ("PNG", 200))
+
+    def test_a_file_that_fails_leaves_the_others_alone(self) -> None:
+        bad = self.out / "bad.dxf"
+        bad.write_text("no drawing")
+        for jobs in ("1", "2"):
+            status, out, err = self.korvan("convert", bad, PLAN, "/no/such.dxf", "-o", f"{self.out}/o{jobs}/", "--to",
+                                           "svg", "-j", jobs)
+            self.assertEqual(status, 1)
+            self.assertIn("floor_plan.svg", out)
+            self.assertEqual(len(err.splitlines()), 2, err)
+            self.assertRegex(err, rf"korvan: {bad}: .*no known format")
+            self.assertRegex(err, "korvan: /no/such.dxf: No such file")
+
+    def test_wrong_usage_is_said_before_anything_is_read(self) -> None:
+        rows = (
+            (["convert", PLAN, HOUSE, "-o", "one.pdf"], "one.pdf is not a folder"),
+            (["convert", PLAN, "-o", "plan"], "no extension"),
+            (["convert", PLAN, "-o", "plan.pfd"], "nearest are .*pdf"),
+            (["convert", PLAN, "-o", "-"], "by --to"),
+            (["convert", PLAN, "-o", "a.pdf", "--set", "zoom=1"], "CLASS.MEMBER=VALUE"),
+            (["convert", PLAN, "-o", "a.pdf", "--set", "pfd.zoom=1"], "no options 'pfd'"),
+            (["convert", PLAN, "-o", "a.pdf", "--paper", "A99"], "no paper"),
+            (["convert", PLAN, "-o", "a.pdf", "--release", "R2000"], "no releases"),
+            (["convert", PLAN, "-o", "a.pdf", "-j", "-1"], "--jobs"),
+            (["convert", PLAN, PLAN, "-o", "/tmp/", "--to", "pdf"], "would both become"),
+            (["texts", "(", PLAN], "no regular expression"),
+            (["audit", "--fix", PLAN], "-o OUT"),
+            (["convrt", PLAN], "invalid choice"),
+            (["convert", PLAN], "required"),
+        )
+        for arguments, words in rows:
+            with self.subTest(arguments):
+                status, out, err = self.korvan(*arguments)
+                self.assertEqual((status, out), (2, ""))
+                self.assertRegex(err, words)
+
+    def test_what_exists_is_kept_without_force(self) -> None:
+        kept = self.out / "a.svg"
+        kept.write_text("mine")
+        status, _, err = self.korvan("convert", PLAN, "-o", kept)
+        self.assertEqual((status, kept.read_text(), len(err.splitlines())), (1, "mine", 1))
+        self.good("convert", PLAN, "-o", kept, "--force", "-q")
+        self.assertGreater(kept.stat().st_size, 1000)
+
+    def test_pipes_and_devices(self) -> None:
+        with self.child("convert", PLAN, "-o", "-", "--to", "svg") as done:
+            out, err = done.communicate(timeout=60)
+        self.assertTrue(out.startswith("<?xml") and out.rstrip().endswith("</svg>"), err)
+        status, _, err = self.korvan("convert", PLAN, "-o", "/dev/full", "--to", "pdf")
+        self.assertEqual(status, 1)
+        self.assertRegex(err, "No space left on device")
+        pipe = self.out / "pipe"
+        os.mkfifo(pipe)
+        with subprocess.Popen(["cp", PLAN, str(pipe)]):
+            self.assertIn("DXF 2010", self.good("info", "--quick", pipe))
+
+    def test_a_full_disk_leaves_no_file(self) -> None:
+        with self.child("convert", PLAN, "-o", self.out / "a.pdf", preexec_fn=limit_files) as done:
+            _, err = done.communicate(timeout=60)
+        self.assertEqual(done.returncode, 1)
+        self.assertEqual(len(err.splitlines()), 1, err)
+        self.assertEqual(list(self.out.iterdir()), [])
+
+    def test_names_that_are_no_text(self) -> None:
+        source = os.fsdecode(os.fsencode(self.out / "a") + b"\xff.dxf")
+        shutil.copy(PLAN, source)
+        with self.child("convert", source, "-o", f"{self.out}/o/", "--to", "pdf") as done:
+            out, err = done.communicate(timeout=60)
+        self.assertEqual((done.returncode, err), (0, ""))
+        self.assertIn("\udcff.pdf", out)
+
+    @needs_shared
+    def test_ctrl_c_ends_it_within_a_second_and_leaves_no_half_file(self) -> None:
+        files = sorted((SHARED / "dxf").glob("lwg__example_*.dxf"))
+        for wait, jobs in ((0.2, "1"), (1.5, "1"), (1.5, "2")):
+            with self.subTest(wait=wait, jobs=jobs):
+                target = self.out / f"{wait}{jobs}"
+                running = self.child("convert", *files, "-o", f"{target}/", "--to", "png", "--size", "5000x", "-j",
+                                     jobs, start_new_session=True)
+                time.sleep(wait)
+                start = time.monotonic()
+                os.killpg(running.pid, signal.SIGINT)
+                _, err = running.communicate(timeout=60)
+                self.assertLess(time.monotonic() - start, 5)  # a second where nothing else runs
+                self.assertIn(running.returncode, (130, -signal.SIGINT))
+                self.assertIn(err, ("", "korvan: interrupted\n"))
+                for path in target.glob("*"):
+                    Png(path.read_bytes())
+
+
+class Inspecting(Commands):
+    def test_info(self) -> None:
+        found = json.loads(self.good("info", PLAN, "--json"))
+        self.assertEqual((found["format"], found["release"], found["units"]), ("DXF", "2010", "millimeter"))
+        self.assertEqual([one["name"] for one in found["layouts"]], ["Model", "Ground floor"])
+        self.assertEqual(found["extents"]["max"], [18000.0, 11720.0, 0.0])
+        self.assertEqual(found["entities"]["DIMENSION"], 23)
+        self.assertIn({"name": "DejaVuSans.ttf", "replaced_by": None}, found["fonts"])
+        flange = json.loads(self.good("info", "--json", EXAMPLES / "bearing_flange.dxf"))
+        self.assertIn("isocp.shx", [one["name"] for one in flange["fonts"] if one["replaced_by"]])
+        text = self.good("info", PLAN, HOUSE, EXAMPLES / "gate_valve.cgm")
+        for words in ("DXF 2010", "IFC IFC4", "IfcWall 6", "CGM", "Gate valve", "A-WALL"):
+            self.assertIn(words, text)
+
+    @needs_shared
+    def test_info_of_all_real_drawings(self) -> None:
+        status, out, _ = self.korvan("info", "--quick", "--json", SHARED / "dxf", SHARED / "dwg", SHARED / "ifc")
+        self.assertIn(status, (0, 1))
+        self.assertGreater(len(out.splitlines()), 150)
+
+    def test_layers_and_blocks(self) -> None:
+        text = self.good("layers", PLAN)
+        self.assertRegex(text, r"(?m)^A-DIMS +92  on +1  CONTINUOUS +0.18 mm  yes$")
+        self.assertEqual([one["name"] for one in json.loads(self.good("layers", "--empty", "--json", PLAN))["layers"]],
+                         ["A-WALL"])
+        status, _, err = self.korvan("layers", PLAN, "--match", "A-WAL")
+        self.assertEqual(status, 1)
+        self.assertIn("'A-WALL'", err)
+        self.assertRegex(self.good("blocks", PLAN), r"(?m)^GRID-BUBBLE +7 +2  MARK")
+        rows = list(csv.DictReader(io.StringIO(self.good("blocks", PLAN, "--attributes", "GRID*"))))
+        self.assertEqual("".join(row["MARK"] for row in rows), "ABCD123")
+
+    def test_texts(self) -> None:
+        out = self.good("texts", "garden|TERRACE", EXAMPLES)
+        self.assertIn(f"{PLAN}: Terrace | 13.0 m2 | brick on sand  (Model, A-NOTE, MTEXT 2EE)", out)
+        self.assertIn("Garden door  (Name, IfcDoor #148)", out)
+        self.assertEqual(self.good("texts", "-s", "TERRACE", PLAN), "")
+        self.assertEqual(self.good("texts", "-c", "-F", "m2", "--layer", "A-NOTE", PLAN).split()[-1], "7")
+        self.assertEqual(self.good("texts", "-l", "terrace", *DRAWINGS), PLAN + "\n")
+
+    def test_properties(self) -> None:
+        rows = list(csv.DictReader(io.StringIO(self.good("properties", HOUSE))))
+        self.assertIn({"file": HOUSE, "entity": "IfcWall", "name": "Wall south W1", "global_id": rows[0]["global_id"],
+                       "set": "Pset_WallCommon", "property": "FireRating", "value": "REI 30"}, rows)
+        wide = list(csv.DictReader(io.StringIO(
+            self.good("properties", HOUSE, "--type", "IfcWall", "--wide", "--set", "qto*"))))
+        self.assertEqual(len(wide), 6)
+        self.assertEqual(wide[0]["Qto_WallBaseQuantities.GrossVolume"], "3.0")
+
+    def test_diff(self) -> None:
+        changed = self.out / "b.dxf"
+        changed.write_text(Path(PLAN).read_text().replace("Bedroom 2", "Study"))
+        self.assertEqual(self.good("diff", PLAN, PLAN), "no differences\n")
+        out = self.good("diff", PLAN, changed, "--overlay", self.out / "o.png")
+        self.assertRegex(out, r"~ MTEXT \w+  \(Model, A-NOTE\)\n    text: .*Bedroom 2.* -> .*Study")
+        self.assertTrue(out.endswith("0 added, 0 removed, 1 changed\n"))
+        self.assertEqual(Png((self.out / "o.png").read_bytes()).width, 1600)
+        self.assertEqual(self.korvan("diff", PLAN, changed, "--exit-code")[0], 1)
+        status, _, err = self.korvan("diff", PLAN, "/no/such.dxf")
+        self.assertEqual((status, err), (1, "korvan: /no/such.dxf: No such file or directory\n"))
+
+    @needs_shared
+    def test_audit(self) -> None:
+        source, target = SHARED / "dxf" / "ezdxf__recover01.dxf", self.out / "sound.dxf"
+        out = self.good("audit", source, "--summary")
+        for code in ("201: 1504", "203: 63", "301: 18", "306: 22"):
+            self.assertIn(code, out)
+        self.good("audit", source, "--fix", "-o", target)
+        left = json.loads(self.good("audit", target, "--json"))["findings"]
+        self.assertEqual([one["code"] for one in left], [401])
+        self.assertEqual(self.korvan("audit", target, "--exit-code")[0], 1)
+        self.assertIn("301  a line has no length", self.good("audit", "--codes"))
+
+
+class Surroundings(Commands):
+    def test_every_command_teaches_by_example(self) -> None:
+        top = self.good("--help")
+        for name in installed_commands():
+            text = self.good(name, "--help")
+            self.assertIn(f"  korvan {name} ", text)
+            self.assertRegex(top, rf"(?m)^    {name}\b")
+            examples = re.findall(r"(?m)^  korvan (\w+) (.*)$", text)
+            self.assertTrue(examples and all(one == name for one, _ in examples))
+
+    def test_help_does_not_load_the_library(self) -> None:
+        code = ("import sys\nfrom korvan.commands import main\nfor one in [['--help'], ['convert', '--help'], ['x']]:"
+                "\n    main(one)\nsys.exit('korvan.cad' in sys.modules)")
+        done = subprocess.run([sys.executable, "-c", code], capture_output=True, timeout=60, check=False)
+        self.assertEqual(done.returncode, 0)
+
+    def test_completion(self) -> None:
+        script = self.out / "korvan.bash"
+        script.write_text(self.good("completion", "bash"))
+        self.assertIn("complete -c korvan", self.good("completion", "fish"))
+        self.assertTrue(self.good("completion", "zsh").startswith("#compdef korvan\n"))
+        (self.out / "a b.dxf").touch()
+        asked = (("co", "convert completion"), ("convert --pap", "--paper"), ("convert --paper A4", "A4"),
+                 ("convert --to sv", "svg"), ("completion z", "zsh"), ("convert a", "a b.dxf"))
+        for line, answer in asked:
+            with self.subTest(line):
+                code = (f'source "{script}"; COMP_WORDS=(korvan {line}); COMP_CWORD={len(line.split())}; _korvan;'
+                        'echo "${COMPREPLY[*]}"')
+                done = subprocess.run(["bash", "-c", code], cwd=self.out, capture_output=True, text=True, timeout=60,
+                                      check=True)
+                self.assertEqual(done.stdout.strip(), answer)
+
+    @needs_tools("groff")
+    def test_the_manual_page_is_sound(self) -> None:
+        page = self.good("man")
+        done = subprocess.run(["groff", "-man", "-ww", "-Tutf8"], input=page, capture_output=True, text=True,
+                              timeout=60, check=False)
+        self.assertEqual(done.stderr, "")
+        self.assertIn("korvan convert [OPTION]... IN", page)
+
+    def test_progress_is_for_terminals_only(self) -> None:
+        with mock.patch("sys.stderr", io.StringIO()) as err:
+            Progress(3).step("a.dxf")
+            self.assertEqual(err.getvalue(), "")
+            err.isatty = lambda: True  # type: ignore[method-assign]
+            progress = Progress(2)
+            progress.step("a.dxf")
+            self.assertIn("1/2", err.getvalue())
+            progress.clear()
+            self.assertTrue(err.getvalue().endswith("\r\x1b[K"))
+
+    def test_a_reader_who_has_enough_is_no_error(self) -> None:
+        with self.child("info", "--quick", *DRAWINGS * 20) as running:
+            assert running.stdout is not None and running.stderr is not None
+            running.stdout.readline()
+            running.stdout.close()
+            self.assertEqual(running.stderr.read(), "")
+
+
+def limit_files() -> None:
+    """Lets a child write nothing that is larger than a few blocks, as on a disk that is nearly full."""
+    import resource
+
+    signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+    resource.setrlimit(resource.RLIMIT_FSIZE, (8192, 8192))
+
+
+if __name__ == "__main__":
+    unittest.main()
