@@ -67,7 +67,7 @@ class Archive:
         exec(module.__spec__.loader_state.get_code(module.__name__), vars(module))
 
 
-sys.meta_path.append(Archive())
+sys.meta_path.insert(-1, Archive())  # before the finder of folders
 import io, korvan.cad as cad
 from korvan import pycore, _pickling
 from korvan.cad.imageoptions import PdfOptions
