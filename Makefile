@@ -73,8 +73,8 @@ catalogue: build
 	@build/python tools/catalogue.py $(CATALOGUE)
 
 wheel: wheel_packages build
-	@build/python tools/make_wheel.py --package $(BUILD)/package \
-		--substitutes $(BUILD)/substitutes --out build/dist
+	@cmake --build --preset $(PRESET) --target wheel_runtime
+	@build/python tools/make_wheel.py --build $(BUILD) --out build/dist
 
 acceptance: wheel
 	@build/python tests/acceptance/run.py $(CHECK)

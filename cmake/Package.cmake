@@ -50,6 +50,20 @@ add_custom_target(package_files ALL DEPENDS
   "${KORVAN_STAMPS}/runtime" "${KORVAN_STAMPS}/interop_cad" "${KORVAN_STAMPS}/interop_pyreflection"
   "${KORVAN_STAMPS}/package" cad pycore pydrawing pygc pyreflection korvan.embed.coreclrwrap)
 
+# For the wheel: the runtime's assemblies with what ours refer to alone. Their versions have to be those of the package.
+set(wheel_runtime "${CMAKE_BINARY_DIR}/wheel-runtime")
+add_custom_command(
+  OUTPUT "${KORVAN_STAMPS}/wheel_runtime"
+  COMMAND "${CMAKE_COMMAND}" -E rm -rf "${wheel_runtime}"
+  COMMAND "${DOTNET}" publish "${CMAKE_SOURCE_DIR}/tools/packing/runtime/Runtime.csproj" ${KORVAN_DOTNET_FLAGS}
+    "--property:Assemblies=${KORVAN_ASSEMBLIES}" -o "${wheel_runtime}"
+  COMMAND "${CMAKE_COMMAND}" -E compare_files "${wheel_runtime}/libcoreclr.so" "${runtime_target}/libcoreclr.so"
+  COMMAND "${CMAKE_COMMAND}" -E touch "${KORVAN_STAMPS}/wheel_runtime"
+  DEPENDS "${KORVAN_STAMPS}/interop_cad" "${KORVAN_STAMPS}/interop_pyreflection" "${KORVAN_STAMPS}/runtime"
+    "${CMAKE_SOURCE_DIR}/tools/packing/runtime/Runtime.csproj"
+  JOB_POOL dotnet COMMENT "Trimming the runtime for the wheel" VERBATIM)
+add_custom_target(wheel_runtime DEPENDS "${KORVAN_STAMPS}/wheel_runtime")
+
 configure_file("${CMAKE_SOURCE_DIR}/tools/python.in" "${CMAKE_BINARY_DIR}/python" @ONLY
   FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
                    WORLD_READ WORLD_EXECUTE)

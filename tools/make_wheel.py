@@ -1,6 +1,6 @@
 """Packs the built package into a wheel that runs on a system with nothing but a C library: `make wheel`.
 
-What `build/python` imports goes in, less debug symbols, XML documentation and the assemblies of the runtime that nothing
+What `build/python` imports goes in, less debug symbols, XML documentation and the parts of the runtime that nothing
 refers to; and what the library opens by name: shared libraries with those that they need, fonts as a last resort, and
 the licences of all that. The same inputs give the same bytes.
 """
@@ -89,17 +89,23 @@ def stripped(path: Path) -> bytes:
 
 
 def own_files(package: Path) -> Contents:
-    """What the build made, and of the runtime what it needs."""
-    runtime = package / RUNTIME
-    wanted = assemblies.needed((package / "korvan" / "assemblies").glob("*/*.dll"), runtime) | RUNTIME_LIBRARIES
+    """What the build made, and the libraries of the runtime."""
     contents = {}
     for path in sorted(package.rglob("*")):
         name = path.relative_to(package).as_posix()
-        if not path.is_file() or path.suffix in LEFT_OUT or (name.startswith(RUNTIME) and path.name not in wanted):
-            continue
-        is_ours = path.suffix == ".so" and ("cpython" in path.name or "coreclrwrap" in path.name)
-        contents[name] = stripped(path) if is_ours else path.read_bytes()
+        is_of_others = name.startswith(RUNTIME) and path.name not in RUNTIME_LIBRARIES
+        if path.is_file() and path.suffix not in LEFT_OUT and not is_of_others:
+            is_ours = path.suffix == ".so" and ("cpython" in path.name or "coreclrwrap" in path.name)
+            contents[name] = stripped(path) if is_ours else path.read_bytes()
     return contents
+
+
+def runtime_files(package: Path, runtime: Path) -> Contents:
+    """The trimmed runtime: ours, and of its own assemblies those that ours need."""
+    ours = sorted((package / "korvan" / "assemblies").glob("*/*.dll"))
+    files = {path.relative_to(package).as_posix(): path.name for path in ours}
+    files |= {f"{RUNTIME}{name}": name for name in assemblies.needed(ours, runtime)}
+    return {name: (runtime / file).read_bytes() for name, file in files.items()}
 
 
 def carried_files(package: Path, substitutes: Path, info: str) -> Contents:
@@ -208,12 +214,12 @@ def print_sizes(wheel: Path) -> None:
 
 def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("--package", type=Path, required=True, help="folder that holds korvan/")
-    parser.add_argument("--substitutes", type=Path, required=True, help="folder of libraries in place of the system's")
+    parser.add_argument("--build", type=Path, required=True, help="folder of the build")
     parser.add_argument("--out", type=Path, required=True, help="where to write the wheel")
     arguments = parser.parse_args()
-    contents = own_files(arguments.package)
-    contents |= carried_files(arguments.package, arguments.substitutes, dist_info())
+    package = arguments.build / "package"
+    contents = own_files(package) | runtime_files(package, arguments.build / "wheel-runtime")
+    contents |= carried_files(package, arguments.build / "substitutes", dist_info())
     target = write(contents, arguments.out)
     print(target)
     print_sizes(target)

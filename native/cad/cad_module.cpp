@@ -1,6 +1,7 @@
 // The entry of korvan.cad: one straight line from import to the first usable type.
 #include "bindings/modules.h"
 #include "dependencies.h"
+#include "entity_rows.h"
 #include "module/family.h"
 #include "module/version_attributes.h"
 #include "packaging_hook.h"
@@ -19,6 +20,8 @@ static constexpr const char* doc_get_pyinstaller_hook_dirs =
 static PyMethodDef wrpPy_mlmd_821C260C_cad[] = {{"get_pyinstaller_hook_dirs",
                                                  wrpPy_bltp_FFFFFFFF_get_pyinstaller_hook_dirs,
                                                  METH_NOARGS, doc_get_pyinstaller_hook_dirs},
+                                                {"_entity_rows", cad_entity_rows, METH_VARARGS,
+                                                 doc_entity_rows},
                                                 {}};
 
 static PyModuleDef wrpPy_mlds_821C260C_cad = {PyModuleDef_HEAD_INIT,

@@ -37,6 +37,7 @@ _ASSEMBLIES = {
     "cad": ("WrpInterop.Korvan.CAD.dll", "Korvan.CAD.dll", "Korvan.CAD.Schemas.dll"),
     "pyreflection": ("WrpInterop.Korvan.PyReflection.dll",),
 }
+_LAST_RESORT = ("libgcc_s.so.1", "libstdc++.so.6")
 _LARGEST_VERSION = 2**31 - 1
 
 
@@ -159,12 +160,29 @@ class _Environment:
 _environment = _Environment()
 
 
+def _load_last_resort() -> None:
+    """Loads the compiler's libraries that the package has for systems without them.
+
+    Where the system has some, all of the process have to use these: they may be newer.
+    """
+    import ctypes
+
+    for name in _LAST_RESORT:
+        ctypes.CDLL(os.path.join(_HERE, "libraries", "last-resort", name))
+
+
 class _ExtensionLoader(ExtensionFileLoader):
     """Loads an extension of the family, which starts the runtime."""
 
     def create_module(self, spec: ModuleSpec) -> ModuleType:
         with _environment:
-            return super().create_module(spec)
+            try:
+                return super().create_module(spec)
+            except ImportError as error:
+                if not str(error).startswith(_LAST_RESORT) or not os.path.isdir(os.path.join(_HERE, "libraries")):
+                    raise
+                _load_last_resort()
+                return super().create_module(spec)
 
 
 class _NamespaceFinder:
@@ -184,6 +202,8 @@ class _NamespaceFinder:
         if len(parts) == 2:
             spec = PathFinder.find_spec(name, path)
             if spec is not None and spec.origin is None:
+                if getattr(sys, "frozen", False):
+                    return None  # a folder of data alone: another finder has the module
                 # A folder of stubs or hooks alone: its extension is not there.
                 raise ModuleNotFoundError(f"No module named {name!r}", name=name)
             if spec is not None and spec.origin is not None and spec.origin.endswith(".so"):

@@ -6,9 +6,11 @@ the file is named after, for its lists `datas`, `binaries` and `hiddenimports`.
 
 from __future__ import annotations
 
-import importlib.metadata
 import importlib.util
+import os
 import shutil
+import subprocess
+import sysconfig
 import tempfile
 import unittest
 import zipfile
@@ -17,9 +19,11 @@ from types import ModuleType
 
 import korvan.cad
 
-from child import ASSEMBLY_VARIABLE, PACKAGE, RUNTIME_VARIABLE, WRAP_LIBRARY, run
+from child import PACKAGE, WRAP_LIBRARY
+from drawings import EXAMPLES
 
 ROOT = Path(__file__).resolve().parent.parent.parent
+FROZEN_START = os.environ.get("KORVAN_FROZEN_START")
 MODULES = ("cad", "pydrawing", "pyreflection", "pygc", "pycore")
 
 
@@ -30,6 +34,78 @@ def load(path: Path) -> ModuleType:
     module = importlib.util.module_from_spec(spec)
     spec.loader.exec_module(module)
     return module
+
+
+# Finds pure modules in an archive and gives them the names that they would have in the application's folder.
+FROZEN_PROGRAM = """
+import os, sys, zipimport
+from importlib.machinery import ModuleSpec
+
+ROOT = os.path.dirname(os.path.abspath(__file__))
+sys.frozen, sys._MEIPASS = True, ROOT
+
+
+class Archive:
+    def __init__(self):
+        self.archive = zipimport.zipimporter(os.path.join(ROOT, "pure.zip"))
+
+    def find_spec(self, name, path=None, target=None):
+        found = zipimport.zipimporter(os.path.join(ROOT, "pure.zip", *name.split(".")[:-1])).find_spec(name)
+        if found is None or found.loader is None:
+            return None
+        spec = ModuleSpec(name, self, origin=found.origin, is_package=found.submodule_search_locations is not None)
+        spec.origin = found.origin.replace("pure.zip" + os.sep, "")
+        spec.has_location, spec.loader_state = True, found.loader
+        if spec.submodule_search_locations is not None:
+            spec.submodule_search_locations.append(os.path.dirname(spec.origin))
+        return spec
+
+    def create_module(self, spec):
+        return None
+
+    def exec_module(self, module):
+        exec(module.__spec__.loader_state.get_code(module.__name__), vars(module))
+
+
+sys.meta_path.insert(-1, Archive())  # before the finder of folders
+import io, korvan.cad as cad
+from korvan import pycore, _pickling
+from korvan.cad.imageoptions import PdfOptions
+
+print(cad.__file__, cad.Image._type_of(), PdfOptions().get_type().name, sep="\\n")
+target = io.BytesIO()
+cad.Image.load(os.path.join(ROOT, "drawing.dxf")).save(target, PdfOptions())
+print(len(target.getvalue()))
+modules = [getattr(module, "__file__", None) for module in list(sys.modules.values())]
+print([file for file in modules if file and not file.startswith(ROOT)])
+"""
+
+
+def freeze(root: Path) -> None:
+    """Lays out an application that imports korvan.cad: what the hooks collect, and what an analysis finds by itself."""
+    found = hooks()
+    for hook in found.values():
+        for source, target in hook.datas + hook.binaries:
+            (root / target).mkdir(parents=True, exist_ok=True)
+            shutil.copy(source, root / target)
+    modules = {"korvan.cad", *(name for hook in found.values() for name in hook.hiddenimports)}
+    with zipfile.ZipFile(root / "pure.zip", "w") as archive:
+        for name in ("korvan", *sorted(modules)):
+            source = importlib.util.find_spec(name)
+            assert source is not None
+            if name == "korvan" or source.origin is not None and source.origin.startswith(str(PACKAGE)):
+                path = Path(str(source.origin))
+                if path.suffix == ".so":
+                    shutil.copy(path, root / "korvan")
+                else:
+                    archive.write(path, path.relative_to(PACKAGE.parent))
+    library = Path(sysconfig.get_path("stdlib"))
+    shutil.copytree(library / "lib-dynload", root / "lib-dynload")
+    with zipfile.ZipFile(root / "base_library.zip", "w") as archive:
+        for path in library.rglob("*.py"):
+            if not {"test", "tests", "site-packages", "idlelib", "lib2to3"} & set(path.parts):
+                archive.write(path, path.relative_to(library))
+    shutil.copy(EXAMPLES / "floor_plan.dxf", root / "drawing.dxf")
 
 
 def hooks() -> dict[str, ModuleType]:
@@ -54,7 +130,7 @@ class Hooks(unittest.TestCase):
 
     def test_every_module_has_its_hook_and_every_entry_its_file(self) -> None:
         found = hooks()
-        self.assertEqual(set(found), {"korvan", *(f"korvan.{name}" for name in MODULES)})
+        self.assertEqual(set(found), {"korvan", "korvan.viewer", *(f"korvan.{name}" for name in MODULES)})
         for name, hook in found.items():
             with self.subTest(name):
                 for source, target in hook.datas + hook.binaries:
@@ -75,54 +151,21 @@ class Hooks(unittest.TestCase):
         self.assertEqual({path.suffix for path in data} & {".so", ".pdb", ".xml"}, set())
         self.assertEqual(len(names), len(data))
 
+    @unittest.skipUnless(FROZEN_START, "CPython has no shared library")
     def test_what_the_hooks_collect_is_enough_to_run(self) -> None:
-        found = hooks()
         with tempfile.TemporaryDirectory() as folder:
-            root = Path(folder)
-            (root / "korvan").mkdir()
-            shutil.copy(PACKAGE / "__init__.py", root / "korvan")
-            # What an analysis would find by itself: the extension that the application names.
-            modules = {"korvan.cad", *found["korvan.cad"].hiddenimports}
-            for name in (name for name in modules if name.startswith("korvan.")):
-                for path in PACKAGE.glob(name.removeprefix("korvan.") + ".*.so"):
-                    shutil.copy(path, root / "korvan")
-            for hook in found.values():
-                for source, target in hook.datas + hook.binaries:
-                    (root / target).mkdir(parents=True, exist_ok=True)
-                    (root / target / Path(source).name).symlink_to(source)
-            done = run(
-                """
-                import io, korvan.cad as cad
-                from korvan import pycore
-                from korvan.cad.imageoptions import PdfOptions
-                print(cad.__file__, cad.Image._type_of(), PdfOptions().get_type().name)
-                """,
-                **{"PYTHONPATH": folder, RUNTIME_VARIABLE: None, ASSEMBLY_VARIABLE: None},
-            )
+            root = Path(folder, "application")
+            root.mkdir()
+            freeze(root)
+            (root / "main.py").write_text(FROZEN_PROGRAM)
+            done = subprocess.run([str(FROZEN_START), str(root)], cwd=folder, env={"HOME": folder}, timeout=120,
+                                  capture_output=True, text=True, check=False)
             self.assertEqual(done.returncode, 0, done.stderr)
-            file, *rest = done.stdout.split()
+            file, assembly, name, size, outside = done.stdout.splitlines()
             self.assertEqual(Path(file).parent, root / "korvan")
-            self.assertEqual(rest, ["Korvan.CAD.Image", "PdfOptions"])
-
-
-class Wheel(unittest.TestCase):
-    def test_a_wheel_holds_the_hooks_and_names_them_to_pyinstaller(self) -> None:
-        with tempfile.TemporaryDirectory() as folder:
-            package = Path(folder, "package", "korvan")
-            # The runtime takes long to pack and has no part in this.
-            shutil.copytree(PACKAGE, package,
-                            ignore=shutil.ignore_patterns("netcore", "assemblies", "__pycache__"))
-            wheel = load(ROOT / "tools" / "make_wheel.py").make(package.parent, Path(folder, "dist"))
-            installed = Path(folder, "installed")
-            zipfile.ZipFile(wheel).extractall(installed)
-            for name in ("", *MODULES):
-                hook = f"hook-korvan{'.' if name else ''}{name}.py"
-                self.assertTrue((installed / "korvan" / name / "__pyinstaller" / hook).is_file())
-            for name in MODULES[1:]:
-                self.assertTrue((installed / "korvan" / f"{name}.pyi").is_file())
-            (distribution,) = importlib.metadata.distributions(path=[str(installed)])
-            (entry,) = distribution.entry_points.select(group="pyinstaller40", name="hook-dirs")
-            self.assertEqual(len(entry.load()()), 6)
+            self.assertEqual((assembly, name), ("Korvan.CAD.Image", "PdfOptions"))
+            self.assertGreater(int(size), 1000)
+            self.assertEqual(outside, "[]")
 
 
 if __name__ == "__main__":

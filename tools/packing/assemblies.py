@@ -153,12 +153,13 @@ def native_libraries(path: Path) -> list[str]:
 
 def needed(assemblies: Iterable[Path], runtime: Path) -> set[str]:
     """The file names of the runtime's assemblies that have to be there for ours."""
+    ours = {path.stem: path for path in assemblies}
     found = {CORE}
-    left = [name for path in assemblies for name in references(path)]
+    left = [name for path in ours.values() for name in references(path)]
     while left:
         name = left.pop()
         path = runtime / f"{name}.dll"
-        if name not in found and name not in NOT_LOADED and path.is_file():
+        if name not in found | ours.keys() | NOT_LOADED.keys() and path.is_file():
             found.add(name)
             left += references(path)
     return {f"{name}.dll" for name in found}

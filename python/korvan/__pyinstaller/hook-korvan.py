@@ -1,6 +1,6 @@
-"""PyInstaller hook: the managed runtime, which every module of the family shares."""
+"""PyInstaller hook: the managed runtime, which every module of the family shares, with its libraries and fonts."""
 
 from korvan.__pyinstaller import collect
 
-datas, binaries = collect("netcore")
+datas, binaries = collect("netcore", "libraries", "fonts")
 hiddenimports: list[str] = []

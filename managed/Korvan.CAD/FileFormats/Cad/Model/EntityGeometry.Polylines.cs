@@ -62,7 +62,7 @@ internal static partial class EntityGeometry
     }
 
     /// <summary>The vertices that show: the frame of a fitted curve is in files, but no part of the line.</summary>
-    private static List<CadVertexBase> Drawn(CadPolylineBase polyline) =>
+    internal static List<CadVertexBase> Drawn(CadPolylineBase polyline) =>
         polyline.Vertices.FindAll(static vertex => (vertex.VertexFlags & SplineFrameVertex) == 0);
 
     private static void EmitGrid(CadPolygonMesh mesh, IGeometrySink sink)

@@ -1,0 +1,53 @@
+using System;
+using System.Collections.Generic;
+using System.Runtime.InteropServices;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model;
+
+namespace Korvan.WrpGen.Interop;
+
+/// <summary>Hands the numbers of all entities of a kind to Python in one call.</summary>
+public static unsafe class EntityRowsHost
+{
+    /// <summary>Fills the places of four bytearrays (rows, ends, indices, closed), each a new reference or 0 after an error, and of the
+    /// number of columns. Layers are separated by line breaks; null for all.</summary>
+    [UnmanagedCallersOnly]
+    public static int call_Collect(
+        nint source, PyStringArg* kind, PyStringArg* layers, nint* arrays, int* width)
+    {
+        try
+        {
+            IEnumerable<CadEntityBase> entities = Handles.Target(source) switch
+            {
+                CadImage image => image.Entities,
+                CadBlockEntity block => block.Entities,
+                IEnumerable<CadEntityBase> list => list,
+                _ => throw new ArgumentException("The source of entities has to be a drawing, a block or a list."),
+            };
+            EntityRows rows = EntityRows.Of(entities, PyText.Read(kind) ?? "", PyText.Read(layers)?.Split('\n'));
+            if (rows.Values.Length > int.MaxValue / sizeof(double))
+            {
+                throw new ArgumentException("The entities have more than 2 GiB of numbers; ask for some layers only.");
+            }
+            *width = rows.Width;
+            arrays[0] = NewArray(MemoryMarshal.AsBytes(rows.Values));
+            arrays[1] = NewArray(MemoryMarshal.AsBytes(rows.Ends));
+            arrays[2] = NewArray(MemoryMarshal.AsBytes(rows.Indices));
+            arrays[3] = NewArray(rows.Closed);
+            return 0;
+        }
+        catch (Exception e)
+        {
+            return Boundary.Failed(e);
+        }
+    }
+
+    private static nint NewArray(ReadOnlySpan<byte> bytes)
+    {
+        fixed (byte* start = bytes)
+        {
+            return PyHost.NewBytes(start, bytes.Length);
+        }
+    }
+}

@@ -1,0 +1,6 @@
+"""PyInstaller hook: the parts of the page."""
+
+from korvan.__pyinstaller import collect
+
+datas, binaries = collect("viewer")
+hiddenimports: list[str] = []

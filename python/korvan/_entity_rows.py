@@ -1,0 +1,54 @@
+"""The numbers of all entities of a kind, as buffers that are filled in one call."""
+
+from __future__ import annotations
+
+from collections.abc import Iterable
+from typing import NamedTuple, cast
+
+KINDS = (
+    "LINE", "POINT", "CIRCLE", "ARC", "ELLIPSE", "INSERT", "3DFACE", "SOLID", "TRACE", "LWPOLYLINE", "POLYLINE", "SPLINE",
+)  # fmt: skip
+
+
+class EntityRows(NamedTuple):
+    """A table with rows of floats. Points are in world coordinates.
+
+    One row an entity: LINE ``x1 y1 z1 x2 y2 z2``; POINT ``x y z``; CIRCLE centre, radius, normal; ARC as CIRCLE, then
+    start and end angle in degrees; ELLIPSE centre, major axis, normal, ratio of the axes, start and end parameter in
+    radians; INSERT position, scale factors, rotation in degrees, normal; 3DFACE, SOLID and TRACE four corners, as they
+    are in the file. One row a vertex: LWPOLYLINE and POLYLINE ``x y z bulge``; SPLINE ``x y z weight`` of its control
+    points. Meshes, which files store as POLYLINE too, are left out.
+    """
+
+    values: memoryview
+    """The floats, row after row (format ``d``)."""
+    ends: memoryview
+    """For each entity the number of rows up to its last one (``q``)."""
+    indices: memoryview
+    """For each entity its index among the entities of the source (``q``)."""
+    closed: memoryview
+    """For each entity 1 if its last vertex leads to its first, else 0 (``B``)."""
+    width: int
+    """The number of columns."""
+
+
+def entity_rows(source: object, kind: str, layers: Iterable[str] | None = None) -> EntityRows:
+    """Collects the rows of the entities of one kind.
+
+    ``source`` is a ``CadImage`` (its model space), a ``CadBlockEntity`` or a list of entities of the library; ``layers``
+    are names, of which case is ignored.
+    """
+    from korvan import cad
+
+    collect = getattr(cad, "_entity_rows")  # noqa: B009: it is no part of the stubs
+    names = None if layers is None else "\n".join(layers)
+    values, ends, indices, closed, width = cast(
+        "tuple[bytearray, bytearray, bytearray, bytearray, int]", collect(source, kind, names)
+    )
+    return EntityRows(
+        memoryview(values).cast("d"),
+        memoryview(ends).cast("q"),
+        memoryview(indices).cast("q"),
+        memoryview(closed),
+        width,
+    )
