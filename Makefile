@@ -12,6 +12,7 @@
 #   make catalogue  which of the types of CATALOGUE=<table> stand, module by module
 #   make wheel      the package as a wheel, in build/dist
 #   make acceptance checks of what is shipped, in bare roots, browsers and clusters: CHECK=<names> selects
+#   make docs       the documentation as a site, in build/docs/site
 #   make format     put the sources into the code style
 #   make lint       the format check, .NET analyzers and clang-tidy
 #   make clean      forget what was built
@@ -30,7 +31,7 @@ export UseSharedCompilation := false
 export DOTNET_CLI_TELEMETRY_OPTOUT := 1
 export DOTNET_NOLOGO := 1
 
-.PHONY: build demo test fuzz fuzz-calls mutants sanitize bench fidelity catalogue wheel acceptance format lint clean packages
+.PHONY: build demo test fuzz fuzz-calls mutants sanitize bench fidelity catalogue wheel acceptance docs format lint clean packages
 
 build: packages $(BUILD)/build.ninja
 	@cmake --build --preset $(PRESET)
@@ -79,7 +80,10 @@ wheel: wheel_packages build
 acceptance: wheel
 	@build/python tests/acceptance/run.py $(CHECK)
 
-.PHONY: test_packages bench_packages fidelity_packages lint_packages wheel_packages
+docs: docs_packages build
+	@build/python tools/site/make_docs.py --package $(BUILD)/package/korvan
+
+.PHONY: test_packages bench_packages docs_packages fidelity_packages lint_packages wheel_packages
 test_packages:
 	@tools/ensure-packages.sh test
 	@tools/ensure-type-checker.sh
@@ -89,6 +93,8 @@ fidelity_packages:
 	@tools/ensure-packages.sh fidelity
 wheel_packages:
 	@tools/ensure-packages.sh wheel
+docs_packages:
+	@tools/ensure-packages.sh docs
 lint_packages:
 	@tools/ensure-packages.sh lint
 
