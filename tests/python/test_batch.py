@@ -20,7 +20,7 @@ from batches import SMALL, Batch
 
 from korvan.batch.folder import BatchFolder
 from korvan.batch.lease import Holder, Lease, LeaseHeld, LeaseLost, STALE_AFTER
-from korvan.batch.scan import Place, Source, read_list, scan
+from korvan.batch.scan import Place, Source, Wanted, read_list, scan
 
 
 class Conversion(unittest.TestCase):
@@ -253,7 +253,7 @@ class Dealing(unittest.TestCase):
     def places(self, batch: Batch, starts: list[Place], size: int = 4) -> tuple[list[Place], list[list[bytes]]]:
         folder = BatchFolder(batch.out)
         folder.create()
-        dealer, _ = scan(folder, batch.source, (), starts, size, lambda files: None)
+        dealer, _ = scan(folder, batch.source, Wanted((), [".dxf", ".dwg"]), starts, size, lambda files: None)
         lists = [read_list(folder.list_path(shard).read_bytes()) for shard in range(len(dealer.starts))]
         return dealer.starts, [[source.path for source in sources] for sources in lists]
 

@@ -14,7 +14,7 @@ from korvan.batch.errors import BatchError, printable
 from korvan.batch.folder import BatchFolder
 from korvan.batch.lease import Lease
 from korvan.batch.report import write_report
-from korvan.batch.scan import check_folders, places_from_json, places_to_json, scan
+from korvan.batch.scan import Wanted, check_folders, places_from_json, places_to_json, scan
 from korvan.batch.settings import Settings
 from korvan.batch.shard import Modes, ShardRun, is_finished, read_summary
 from korvan.batch.slurm import Slurm, SlurmOptions
@@ -65,24 +65,21 @@ def run_batch(settings: Settings, engine: str = "processes", *, modes: Modes = M
     with Stop() as stop, Lease(folder.lease) as lease:
         settings = replace(settings, source=os.path.abspath(settings.source))
         run = Run(folder, settings, modes, watch, stop, lease)
-        plan = _plan(run, engine)
-        shards = range(len(plan["starts"]))
-        watch.begin(plan["files"])
-        if engine == "processes":
-            summary = _process(run, shards)
-        else:
-            with Pool(settings.recipe, settings.limits, 1, stop) as pool:
-                recipe = settings.recipe.key(pool.version())
+        with Pool(settings.recipe, settings.limits, settings.jobs if engine == "processes" else 1, stop) as pool:
+            plan = _plan(run, engine, pool.extensions())
+            shards = range(len(plan["starts"]))
+            watch.begin(plan["files"])
+            summary = _process(run, shards, pool) if engine == "processes" else None
+            recipe = settings.recipe.key(pool.version())
+        if summary is None:
             todo = [shard for shard in shards if modes.retry or modes.verify or not is_finished(folder, shard, recipe)]
-            if engine == "commands":
+            if engine == "commands" and todo:
                 for shard in todo:
                     emit(task_command(folder, [shard], modes))
-            elif todo:
-                _distribute(run, Slurm(folder, slurm or SlurmOptions(), watch), todo, recipe)
+                return _add_up(folder, shards)
+            _distribute(run, Slurm(folder, slurm or SlurmOptions(), watch), todo, recipe)
             summary = _add_up(folder, shards)
-            summary.converted = summary.converted if todo else 0
-            if engine == "commands" and todo:
-                return summary
+            summary.converted = _add_up(folder, todo).converted
         summary.seconds = time.monotonic() - start
         summary.unreadable = plan["unreadable"]
         write_report(folder, summary, settings, shards)
@@ -138,7 +135,7 @@ def _read_plan(folder: BatchFolder) -> dict[str, Any] | None:
     return plan
 
 
-def _plan(run: Run, engine: str) -> dict[str, Any]:
+def _plan(run: Run, engine: str, extensions: Sequence[str]) -> dict[str, Any]:
     """Finds the files and writes the lists of the shards; ranges that were dealt out once stay."""
     before = _read_plan(run.folder)
     if before and before["settings"]["source"] != os.fspath(run.settings.source):
@@ -150,7 +147,7 @@ def _plan(run: Run, engine: str) -> dict[str, Any]:
         run.tick()
 
     starts = places_from_json(before["starts"]) if before else []
-    dealer, unreadable = scan(run.folder, run.settings.source, run.settings.patterns, starts,
+    dealer, unreadable = scan(run.folder, run.settings.source, Wanted(run.settings.patterns, extensions), starts,
                               run.settings.shard_size or SHARD_SIZES[engine], step)
     for text in unreadable:
         run.watcher.message(text)
@@ -165,16 +162,15 @@ def _run_shard(run: Run, shard: int, pool: Pool, on_tick: Callable[[], None]) ->
                     on_outcome=run.watcher.outcome).run()
 
 
-def _process(run: Run, shards: Sequence[int]) -> Summary:
+def _process(run: Run, shards: Sequence[int], pool: Pool) -> Summary:
     total = Summary()
-    with Pool(run.settings.recipe, run.settings.limits, run.settings.jobs, run.stop) as pool:
-        for shard in shards:
-            with Lease(run.folder.lease_path(shard)) as lease:
-                def tick(lease: Lease = lease) -> None:
-                    run.tick()
-                    lease.renew()
+    for shard in shards:
+        with Lease(run.folder.lease_path(shard)) as lease:
+            def tick(lease: Lease = lease) -> None:
+                run.tick()
+                lease.renew()
 
-                total.add(_run_shard(run, shard, pool, tick))
+            total.add(_run_shard(run, shard, pool, tick))
     return total
 
 

@@ -15,7 +15,7 @@ from fnmatch import fnmatchcase
 from korvan.batch.errors import BatchError, printable, reason
 from korvan.batch.folder import NAME, BatchFolder, replace_file
 
-# File extensions of what the library reads as a drawing or a model.
+# File extensions that a name without its own may still end in: such names are kept whole, in any version.
 DRAWINGS = frozenset((b".dxf .dxb .dwg .dwt .dwf .dwfx .dgn .cgm .plt .hpgl .hpg .cf2 .ifc .ifcxml .ifczip .stp .step"
                       b" .stpz .igs .iges .stl .obj .fbx .3ds .3mf .dae .gltf .glb .u3d .x3d").split())
 
@@ -37,7 +37,7 @@ class Source:
     def target(self, extension: bytes) -> bytes:
         """The path of the result below the folder of results.
 
-        No two sources have the same: names without an extension never end in one of a drawing, whole names do.
+        No two sources have the same: whole names end in the extension of a drawing, others never do.
         """
         stem = self.path if self.whole_name else os.path.splitext(self.path)[0]
         return stem + b"." + extension
@@ -47,13 +47,26 @@ class Source:
         return tuple(folders), os.path.splitext(name)[0]
 
 
+class Wanted:
+    """Which names are taken: those that match a pattern, or else those with an extension that can be read."""
+
+    def __init__(self, patterns: Sequence[str], extensions: Sequence[str]) -> None:
+        self._patterns = [os.fsencode(pattern).lower() for pattern in patterns]
+        self._extensions = frozenset(extension.encode().lower() for extension in extensions)
+
+    def has(self, name: bytes) -> bool:
+        if self._patterns:
+            return any(fnmatchcase(name.lower(), pattern) for pattern in self._patterns)
+        return os.path.splitext(name)[1].lower() in self._extensions and not name.startswith(b".")
+
+
 class Scanner:
     """One walk over a folder. What cannot be read is kept, so that it is told and not lost."""
 
-    def __init__(self, root: bytes, patterns: Sequence[str], leave_out: bytes, on_step: Callable[[], None]) -> None:
+    def __init__(self, root: bytes, wanted: Wanted, leave_out: bytes, on_step: Callable[[], None]) -> None:
         self.unreadable: list[str] = []
         self._root = root
-        self._patterns = [os.fsencode(pattern).lower() for pattern in patterns]
+        self._wanted = wanted
         self._leave_out = os.path.realpath(leave_out)
         self._on_step = on_step
 
@@ -78,16 +91,11 @@ class Scanner:
                     if entry.is_dir(follow_symlinks=False):
                         if entry.name != NAME.encode() and not self._is_left_out(entry.path):
                             folders.append(folder + entry.name + b"/")
-                    elif self._is_wanted(entry.name) and entry.is_file():
+                    elif self._wanted.has(entry.name) and entry.is_file():
                         files.append((entry.name, entry.stat()))
         except OSError as failure:
             self.unreadable.append(f"{printable(full)}: {reason(failure)}")
         return list(_name(folder, files)), folders
-
-    def _is_wanted(self, name: bytes) -> bool:
-        if self._patterns:
-            return any(fnmatchcase(name.lower(), pattern) for pattern in self._patterns)
-        return os.path.splitext(name)[1].lower() in DRAWINGS and not name.startswith(b".")
 
     def _is_left_out(self, path: bytes) -> bool:
         return os.path.basename(path) == os.path.basename(self._leave_out) \
@@ -100,9 +108,10 @@ def _name(folder: bytes, files: list[tuple[bytes, os.stat_result]]) -> Iterator[
     for name, _ in files:
         stem = os.path.splitext(name)[0]
         counts[stem] = counts.get(stem, 0) + 1
+    known = DRAWINGS.union(os.path.splitext(name)[1].lower() for name, _ in files)
     for name, status in sorted(files, key=lambda file: (os.path.splitext(file[0])[0], file[0])):
         stem = os.path.splitext(name)[0]
-        whole = counts[stem] > 1 or os.path.splitext(stem)[1].lower() in DRAWINGS
+        whole = counts[stem] > 1 or os.path.splitext(stem)[1].lower() in known - {b""}
         yield Source(folder + name, status.st_size, status.st_mtime_ns, whole)
 
 
@@ -188,11 +197,11 @@ def check_folders(source: str | os.PathLike[str], out: str | os.PathLike[str]) -
                          "beside or below them")
 
 
-def scan(folder: BatchFolder, source: str | os.PathLike[str], patterns: Sequence[str], starts: Sequence[Place],
-         size: int, on_step: Callable[[int], None]) -> tuple[Dealer, list[str]]:
+def scan(folder: BatchFolder, source: str | os.PathLike[str], wanted: Wanted, starts: Sequence[Place], size: int,
+         on_step: Callable[[int], None]) -> tuple[Dealer, list[str]]:
     """Walks over the sources and writes the lists of shards; gives their places, and what could not be read."""
     dealer = Dealer(folder, starts, size)
-    scanner = Scanner(os.fsencode(source), patterns, os.fsencode(folder.out), lambda: on_step(dealer.files))
+    scanner = Scanner(os.fsencode(source), wanted, os.fsencode(folder.out), lambda: on_step(dealer.files))
     for sources in scanner.walk():
         dealer.deal(sources)
     dealer.finish()

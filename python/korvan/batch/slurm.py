@@ -31,8 +31,8 @@ class SlurmOptions:
     """Tasks that the shards are dealt out to; 0 is one task a shard, as far as the cluster takes so many."""
     jobs: int = 0
     """Processors of one task; 0 is one."""
-    poll: float = 5.0
-    """Seconds between two looks at the queue."""
+    poll: float = 10.0
+    """Seconds between two looks at the queue, at most; the first ones come sooner."""
 
 
 class Slurm:
@@ -77,11 +77,13 @@ class Slurm:
 
         :raises Interrupted: A stop was asked for; the job is cancelled.
         """
+        pause = 0.5
         try:
             while self._queue("--jobs", job):
                 self._watcher.count(self._count())
                 on_tick()
-                stop.wait(self._options.poll)
+                stop.wait(pause)
+                pause = min(self._options.poll, pause * 1.3)
         except Interrupted:
             _call(["scancel", job])
             raise

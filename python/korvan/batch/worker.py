@@ -230,6 +230,15 @@ def check(to: str, options: dict[str, Any]) -> str:
     return ""
 
 
+def read_extensions() -> list[str]:
+    """The file extensions of what can be read and has no pixels."""
+    from korvan.cad import FileFormatCategory
+    from korvan.cad.fileformats import SupportedFileFormats
+
+    formats = (info for info in SupportedFileFormats.Input.formats if info.category != FileFormatCategory.BITMAP)
+    return sorted({extension for info in formats for extension in info.extensions})
+
+
 def main(descriptor: int, parent: int) -> None:
     die_with_parent(parent)
     signal.signal(signal.SIGINT, signal.SIG_IGN)  # the batch decides when to end
@@ -243,7 +252,8 @@ def main(descriptor: int, parent: int) -> None:
     with connection.makefile("rb") as tasks:
         recipe = json.loads(next(tasks, b"{}"))
         wrong = check(recipe["to"], recipe["options"])
-        say({"version": str(korvan.cad.BuildVersionInfo.product_version), "wrong": wrong})
+        say({"version": str(korvan.cad.BuildVersionInfo.product_version), "extensions": read_extensions(),
+             "wrong": wrong})
         for line in tasks:
             say(work({**json.loads(line), **recipe}))
 

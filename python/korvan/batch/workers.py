@@ -53,6 +53,7 @@ class Worker:
         self.number = number
         self.work: Work | None = None
         self.version = ""
+        self.extensions: list[str] = []
         self.files = 0
         self.memory = 0
         """The limit for the present work, in bytes."""
@@ -101,7 +102,7 @@ class Worker:
         if not self.version:
             if message["wrong"]:
                 raise BadRecipe(message["wrong"])
-            self.version = message["version"]
+            self.version, self.extensions = message["version"], message["extensions"]
             self._deadline = float("inf")
             return Event(self)
         work, self.work = self.work, None
@@ -171,12 +172,21 @@ class Pool:
 
         :raises BadRecipe: The worker finds the recipe wrong for any file.
         """
-        self.fill(1)
-        while not any(worker.version for worker in self._workers):
+        return self._first().version
+
+    def extensions(self) -> list[str]:
+        """The file extensions of drawings that the converter reads."""
+        return self._first().extensions
+
+    def _first(self) -> Worker:
+        """A worker that has told of itself."""
+        while True:
+            self.fill(1)
+            for worker in self._workers:
+                if worker.version:
+                    return worker
             for event in self.events():
                 self.drop(event)
-            self.fill(1)
-        return next(worker.version for worker in self._workers if worker.version)
 
     def fill(self, count: int) -> None:
         """Starts workers until there are as many."""
