@@ -68,7 +68,9 @@ public sealed class SymbolTests : IDisposable
     {
         CadImage drawing = Drawing(Everything());
         string shared = WritePdf(drawing, hasSymbols: true);
-        PixelMap.AssertSame(PixelMap.OfPdf(WritePdf(drawing, hasSymbols: false)), PixelMap.OfPdf(shared));
+        string flat = WritePdf(drawing, hasSymbols: false);
+        PixelMap.AssertSame(PixelMap.OfPdf(flat), PixelMap.OfPdf(shared));
+        Assert.Equal(Tools.Run("pdftotext", flat, "-"), Tools.Run("pdftotext", shared, "-"));
         string plain = PdfSample.Plain(shared);
         int forms = PdfSample.Count(plain, "/Subtype /Form");
         Assert.Equal(5, forms);
@@ -80,7 +82,6 @@ public sealed class SymbolTests : IDisposable
         }
 
         Tools.Run("qpdf", "--check", shared);
-        Assert.Equal(drawing.Entities.Count, PdfSample.Count(Tools.Run("pdftotext", shared, "-"), "V7"));
     }
 
     [Fact]
