@@ -59,14 +59,14 @@ internal static class PageScan
         byte[] data, Dictionary<(int Section, long Start), long> pages, Dictionary<int, long> numbers)
     {
         List<SectionInfo> sections = [];
+        int number = numbers.Count == 0 ? 0 : numbers.Keys.Max();
         foreach (IGrouping<int, KeyValuePair<(int Section, long Start), long>> group in
             pages.GroupBy(static page => page.Key.Section))
         {
             List<PageInfo> infos = [];
             foreach (((_, long start), long address) in group.OrderBy(static page => page.Key.Start))
             {
-                int number = numbers.Count == 0 ? 1 : numbers.Keys.Max() + 1;
-                numbers[number] = address;
+                numbers[++number] = address;
                 infos.Add(new PageInfo(number, DataPageHeader.Read(data, address).Stored, start));
             }
 

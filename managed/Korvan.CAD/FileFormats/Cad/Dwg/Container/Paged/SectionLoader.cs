@@ -19,6 +19,8 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
     /// <summary>The mask of the header of a page, combined with the page's address.</summary>
     internal const uint Mask = 0x4164536B;
 
+    private const int StepsPerPage = 8;
+    private const int BytesPerStep = 4096;
     private const int PagesOfPiece = 4; // a thread is worth its start for so many
 
     /// <summary>Reads a section.</summary>
@@ -33,6 +35,8 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
             return [];
         }
 
+        Budget.Step(section.Size / BytesPerStep);
+        Budget.VerifyRoom(section.Size);
         byte[] target = new byte[section.Size];
         PageFault[] faults = new PageFault[section.Pages.Count];
         int pieces = (section.Pages.Count + PagesOfPiece - 1) / PagesOfPiece;
@@ -41,6 +45,7 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
             int end = Math.Min(section.Pages.Count, (piece + 1) * PagesOfPiece);
             for (int i = piece * PagesOfPiece; i < end; i++)
             {
+                Budget.Step(StepsPerPage);
                 faults[i] = ReadPage(section, section.Pages[i], target);
             }
         });
@@ -116,7 +121,9 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
             return Lz77.Decompress(stored, place) >= 0;
         }
 
-        byte[] page = new byte[Math.Min(section.PageSize, stored.Length * (long)Lz77.MaxRatio)];
+        long room = Math.Min(section.PageSize, stored.Length * (long)Lz77.MaxRatio);
+        Budget.VerifyRoom(room);
+        byte[] page = new byte[room];
         int length = Lz77.Decompress(stored, page);
         page.AsSpan(0, Math.Min(length < 0 ? page.Length : length, place.Length)).CopyTo(place);
         return length >= 0;

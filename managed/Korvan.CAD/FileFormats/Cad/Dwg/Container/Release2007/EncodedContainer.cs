@@ -11,6 +11,7 @@ internal static class EncodedContainer
 {
     // Pages have 0xF800 bytes at most where they are compressed.
     private const long MaxPageSize = 1 << 20;
+    private const int BytesPerStep = 1024;
 
     internal static DwgFile Read(DwgSource source)
     {
@@ -56,10 +57,15 @@ internal static class EncodedContainer
             return [];
         }
 
+        Budget.Step(section.Size / BytesPerStep);
+        Budget.VerifyRoom(section.Size);
         byte[] target = new byte[section.Size];
         string?[] faults = new string?[section.Pages.Count];
         ForkedProcess.RunPieces(section.Pages.Count, i =>
-            faults[i] = ReadPage(source.Data, section, section.Pages[i], pages, seed, target));
+        {
+            Budget.Step(1 + ((Math.Max(section.Pages[i].Size, 0) + Math.Max(section.Pages[i].Stored, 0)) / BytesPerStep));
+            faults[i] = ReadPage(source.Data, section, section.Pages[i], pages, seed, target);
+        });
         foreach (string? fault in faults)
         {
             if (fault is not null)

@@ -43,7 +43,7 @@ internal static class EncodedPages
         if (page.Compressed <= 0 || page.Repeats <= 0 || page.Repeats > source.Data.Length
             || page.Compressed > source.Data.Length
             || page.Address < 0 || page.Address + (blocks * ReedSolomon.BlockLength) > source.Data.Length
-            || page.Size < 0 || page.Size > page.Compressed * MaxRatio)
+            || page.Size < 0 || page.Size > Math.Min(page.Compressed * MaxRatio, source.MaxSectionSize))
         {
             source.Report(LoadDefectCode.InvalidPage, name, page.Address, "the page with the map is outside of the "
                 + $"file, or its {page.Compressed} compressed bytes cannot be {page.Size} bytes");
@@ -52,6 +52,7 @@ internal static class EncodedPages
 
         byte[] stored = new byte[page.Compressed];
         bool isValid = code.DecodeInterleaved(source.Data.AsSpan((int)page.Address), (int)blocks, stored);
+        Budget.VerifyRoom(page.Size);
         byte[] map = new byte[page.Size];
         bool isWhole = Unpack(stored, map);
         if (!isValid || page.CompressedCheck != Crc64.ComputeMirrored(Crc64.SeedOf(seed, stored.Length), stored)
