@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.Threading;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD;
 
@@ -27,6 +28,9 @@ internal sealed class Budget : IDisposable
     private const int MemoryPerStep = 192;
     private const long PollInterval = 20; // milliseconds
 
+    /// <summary>The memory that a save may take where loading took all.</summary>
+    private const long MemoryBesidesLoaded = 64L << 20;
+
     /// <summary>The memory that a call on another thread is taken to need, where it has no limit itself.</summary>
     private const long MaxOther = 1L << 30;
 
@@ -50,6 +54,12 @@ internal sealed class Budget : IDisposable
     private long _others;
     private long _steps;
     private Exception? _end;
+
+    static Budget()
+    {
+        Workload.Counter = Step;
+        Workload.Limiter = VerifyRoom;
+    }
 
     private Budget(long memory, long maxSteps, int timeout)
     {
@@ -85,7 +95,8 @@ internal sealed class Budget : IDisposable
         }
 
         long whole = Math.Max(length * MemoryPerByte, Cache.MemoryOfOneFile);
-        long left = Math.Max(MinMemory, whole - Math.Max(loaded, 0));
+        long all = Math.Max(MinMemory, whole);
+        long left = Math.Clamp(all + MemoryBesidesLoaded - Math.Max(loaded, 0), MinMemory / 2, all);
         return _current = new Budget(left, Math.Max(MinMemory, whole) / MemoryPerStep, timeout);
     }
 

@@ -24,6 +24,7 @@ MAX_SEED = 300_000
 MAX_CORPUS = 4_000
 SLOW = 10.0
 HANG = 60.0
+LIMITS = ("LimitMemoryException",)
 MAX_MEGABYTES = 250  # more than the process had before
 NUMBERS = [
     b"0", b"-1", b"1", b"65535", b"-32768", b"2147483647", b"-2147483648", b"4294967295", b"9223372036854775807",
@@ -33,7 +34,6 @@ STRINGS = [
     b"]]>", b"<script>alert(1)</script>", b"\\U+0000", b"\\U+FFFE", b"\\U+D800", b"../../etc/passwd", b"/dev/zero",
     b"%n%s", b"\x1b[2J", b"a" * 5000, b"{" * 300,
 ]
-KEPT = "the schema has no entity"
 TEXT_NUMBER = re.compile(rb"-?\d+(?:\.\d*)?(?:[eE][-+]?\d+)?")
 
 
@@ -140,10 +140,11 @@ def reason(reply: dict | None, length: int) -> str | None:
         return f"slow-{reply['stage']}"
     if reply["megabytes"] > max(MAX_MEGABYTES, 50 * length >> 20):
         return f"memory-{reply['stage']}"
-    # Records of entities that no schema has are written as they were read.
-    again = [error for error in reply["errors"] if error["stage"] == "again" and KEPT not in error["place"]]
-    if again:
-        return f"again-{again[0]['type']}"
+    # What was loaded is written, and what was written is loaded without being told to ignore errors.
+    for stage in ("own format", "again"):
+        failed = [error for error in reply["errors"] if error["stage"] == stage and error["type"] not in LIMITS]
+        if failed:
+            return f"{stage.replace(' ', '-')}-{failed[0]['type']}"
     nameless = [error for error in reply["errors"] if not error["is_named"]]
     return f"nameless-{nameless[0]['stage']}-{nameless[0]['type']}" if nameless else None
 

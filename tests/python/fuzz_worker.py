@@ -13,6 +13,7 @@ from pathlib import Path
 
 from korvan import cad
 from korvan.cad import imageoptions
+from korvan.cad.fileformats.cad.cadconsts import CadAcadVersion
 
 NAMED = re.compile(r"Proxy error\((\w+)\): (.*)", re.DOTALL)
 
@@ -23,6 +24,7 @@ PAGES = ["PngOptions", "PdfOptions", "SvgOptions", "Html5Options", "EmfOptions",
 IMAGES = ["PngOptions", "JpegOptions", "TiffOptions", "BmpOptions", "GifOptions", "WebPOptions", "Jpeg2000Options",
           "PsdOptions", "DicomOptions"]
 MESHES = ["GltfOptions", "GlbOptions", "ObjOptions", "StlOptions"]
+DRAWINGS = ["DxfOptions", "DwgOptions"]
 EXTENSIONS = {"Png": "png", "Jpeg": "jpg", "Tiff": "tif", "Bmp": "bmp", "Gif": "gif", "WebP": "webp",
               "Jpeg2000": "jp2", "Psd": "psd", "Dicom": "dcm", "Cgm": "cgm"}
 
@@ -70,7 +72,7 @@ def convert(path: str, seed: int) -> dict:
     options.ignore_errors = rnd.random() < 0.5
     image = attempt("load", lambda: cad.Image.load(path, options))
     if image is not None:
-        names = rnd.sample(PAGES, 2) + rnd.sample(IMAGES, 1) + rnd.sample(MESHES, 1)
+        names = rnd.sample(PAGES, 2) + rnd.sample(IMAGES, 1) + rnd.sample(MESHES, 1) + rnd.sample(DRAWINGS, 1)
         for name in names:
             one = make(name)
             if image.can_save(one):
@@ -87,8 +89,16 @@ def convert(path: str, seed: int) -> dict:
 
 
 def write_seeds(source: str, folder: Path) -> None:
-    """Writes a drawing in every format that is read."""
+    """Writes a drawing in every format that is read, and in every release of drawings."""
     image = cad.Image.load(source)
+    for version in (CadAcadVersion.AC1015, CadAcadVersion.AC1018, CadAcadVersion.AC1024, CadAcadVersion.AC1032):
+        options = imageoptions.DwgOptions()
+        options.version = version
+        image.save(str(folder / f"seed{version.name}.dwg"), options)
+    for version in (imageoptions.DxfOutputVersion.R12, imageoptions.DxfOutputVersion.R2007):
+        options = imageoptions.DxfOptions()
+        options.version = version
+        image.save(str(folder / f"seed{version.name}.dxf"), options)
     for name, extension in EXTENSIONS.items():
         image.save(str(folder / f"seed.{extension}"), small(make(f"{name}Options")))
 

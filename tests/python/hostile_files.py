@@ -79,6 +79,12 @@ def far_dashes(count: int) -> bytes:
     ).encode()
 
 
+def nested_records(depth: int) -> bytes:
+    return (
+        "BEGMF 'x';\nMFVERSION 4;\nBEGPIC 'p';\nBEGPICBODY;\nAPSATTR 'a' '" + "1 1 " * depth + "';\nENDPIC;\nENDMF;\n"
+    ).encode()
+
+
 def copied_segments(lines: int, copies: int) -> bytes:
     return (
         "BEGMF 'x';\nMFVERSION 2;\nVDCTYPE INTEGER;\nBEGSEG 1;\n" + "LINE (0,0) (100,100);\n" * lines
@@ -110,6 +116,41 @@ def text(content: str, layer: str = "0") -> str:
     return f"0\nTEXT\n8\n{layer}\n10\n0\n20\n40\n40\n5\n1\n{content}\n"
 
 
+def mtext(content: str, width: float = 100) -> str:
+    pieces = [content[at : at + 250] for at in range(0, len(content), 250)]
+    chunks = "".join(f"3\n{piece}\n" for piece in pieces[:-1])
+    return f"0\nMTEXT\n8\n0\n10\n0\n20\n0\n40\n2.5\n41\n{width}\n71\n1\n{chunks}1\n{pieces[-1]}\n"
+
+
+def square(x: float, y: float, side: float, flags: int = 2) -> str:
+    corners = "".join(f"10\n{a}\n20\n{b}\n" for a, b in ((x, y), (x + side, y), (x + side, y + side), (x, y + side)))
+    return f"92\n{flags}\n72\n0\n73\n1\n93\n4\n{corners}97\n0\n"
+
+
+def hatch(loops: list[str], *lines: str, style: int = 0) -> str:
+    pattern = f"75\n{style}\n76\n1\n52\n0\n41\n1\n77\n0\n78\n{len(lines)}\n{''.join(lines)}98\n0\n"
+    return (
+        "0\nHATCH\n8\n0\n10\n0\n20\n0\n30\n0\n210\n0\n220\n0\n230\n1\n2\nX\n70\n0\n71\n0\n"
+        f"91\n{len(loops)}\n{''.join(loops)}{pattern}"
+    )
+
+
+def hatch_line(angle: float, offset: float, *dashes: float) -> str:
+    lengths = "".join(f"49\n{dash}\n" for dash in dashes)
+    return f"53\n{angle}\n43\n0\n44\n0\n45\n0\n46\n{offset}\n79\n{len(dashes)}\n{lengths}"
+
+
+def spline(degree: int, points: int, knot: str) -> str:
+    """A rational spline; its knots are a format of their number."""
+    knots = "".join(f"40\n{knot % i}\n" for i in range(points + degree + 1))
+    weights = "".join(f"41\n{1 + i % 7}\n" for i in range(points))
+    places = "".join(f"10\n{i * 7919 % 1000}\n20\n{i * 104729 % 1000}\n" for i in range(points))
+    return (
+        f"0\nSPLINE\n8\n0\n70\n4\n71\n{degree}\n72\n{points + degree + 1}\n73\n{points}\n74\n0\n"
+        f"{knots}{weights}{places}"
+    )
+
+
 def block(name: str, entities: str) -> str:
     return f"0\nBLOCK\n8\n0\n2\n{name}\n70\n0\n10\n0\n20\n0\n3\n{name}\n{entities}0\nENDBLK\n8\n0\n"
 
@@ -138,3 +179,54 @@ def placed_images(name: str, count: int, width: int, height: int) -> bytes:
     )
     definition = f"0\nIMAGEDEF\n5\nA1\n90\n0\n1\n{name}\n10\n{width}\n20\n{height}\n"
     return drawing(line() + image * count, objects=definition)
+
+
+def _crc(seed: int, data: bytes) -> int:
+    for byte in data:
+        seed ^= byte
+        for _ in range(8):
+            seed = seed >> 1 ^ 0xA001 if seed & 1 else seed >> 1
+    return seed
+
+
+def _varying(value: int, is_signed: bool = False) -> bytes:
+    last = 0x3F if is_signed else 0x7F
+    found = b""
+    while value > last:
+        found += bytes([value & 0x7F | 0x80])
+        value >>= 7
+    return found + bytes([value])
+
+
+def dwg_of_one_record(data: bytes, count: int) -> bytes:
+    """A drawing database of release 2000 whose object map leads to its first object again and again."""
+    file = bytearray(data)
+    locators = struct.unpack_from("<I", file, 0x15)[0]
+    places = {file[0x19 + 9 * i]: 0x19 + 9 * i for i in range(locators)}
+    start = struct.unpack_from("<I", file, places[2] + 1)[0]
+    known = bytes(file[start + 2 : start + struct.unpack_from(">H", file, start)[0]])
+    entries, at = [], 0
+    while not entries:
+        values = []
+        for _ in range(2):
+            value = shift = 0
+            while True:
+                byte = known[at]
+                at += 1
+                value |= (byte & 0x7F) << shift
+                shift += 7
+                if not byte & 0x80:
+                    break
+            values.append(value)
+        entries.append(values)
+    (_, offset), object_map = entries[0], b""
+    for first in range(0, count, 900):
+        body = _varying(0x10000 + first) + _varying(offset, True)
+        part = struct.pack(">H", len(body) + 1800) + body + b"\1\0" * 899
+        object_map += part + struct.pack(">H", _crc(0xC0C1, part))
+    object_map += struct.pack(">H", 2) + struct.pack(">H", _crc(0xC0C1, struct.pack(">H", 2)))
+    struct.pack_into("<II", file, places[2] + 1, len(file), len(object_map))
+    end = 0x19 + 9 * locators
+    masks = {3: 0xA598, 4: 0x8101, 5: 0x3CC4, 6: 0x8461}
+    struct.pack_into("<H", file, end, _crc(0, bytes(file[:end])) ^ masks[locators])
+    return bytes(file) + object_map

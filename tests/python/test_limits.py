@@ -67,13 +67,54 @@ class Bombs(unittest.TestCase):
             ("nested.ifcxml", hostile.nested_ifcxml(100_000), (), {"ImageLoadException"}),
             ("metadata.png", hostile.png(9, 9, hostile.xmp("<a>" * 40_000 + "</a>" * 40_000)), ("JpegOptions",), {"done"}),
             ("dashes.cgm", hostile.far_dashes(1000), ("PngOptions", "PdfOptions", "EmfOptions"), {"done"}),
+            ("records.cgm", hostile.nested_records(100_000), (), {"ImageLoadException"}),
             ("copies.cgm", hostile.copied_segments(1000, 2000), pages, NOT_SAVED),
             ("blocks.dxf", hostile.doubling_blocks(24), pages, NOT_SAVED),
             ("bulges.dxf", hostile.bulges(10_000), pages, {"done"}),
+            ("spaces.dxf", hostile.drawing(hostile.mtext(" " * 300_000 + "a " * 150_000, 0)), pages, {"done"}),
+            ("formats.dxf", hostile.drawing(hostile.mtext("\\La\\la" * 150_000)), pages, {"done"}),
+            ("unended.dxf", hostile.drawing(hostile.mtext("\\f\\S\\;" * 100_000)), pages, {"done"}),
+            ("recursive.dxf", hostile.drawing(hostile.mtext("\\p" + "x" * 900_000 + ";a")), pages, {"done"}),
+            ("gaps.dxf", hostile.drawing(hostile.hatch(
+                [hostile.square(0, 0, 1e4)], *(hostile.hatch_line(angle, 20, -0.02) for angle in range(500))
+            )), pages, {"done"}),
+            ("boxes.dxf", hostile.drawing(hostile.hatch(
+                [hostile.square(i % 100, i // 100, 1, 16 if i % 2 else 2) for i in range(10_000)],
+                hostile.hatch_line(0, 1),
+            )), pages, {"done"}),
+            ("far.dxf", hostile.drawing(hostile.hatch(
+                [hostile.square(1e18, 1e18, 1e5)], hostile.hatch_line(0, 300, 31, -32)
+            )), pages, {"done"}),
+            ("knots.dxf", hostile.drawing(hostile.spline(25, 10_000, "%de-320")), pages, NOT_SAVED),
         ):
             results = self.convert(name, data, *options)
             with self.subTest(name):
                 self.assertEqual(set(results), expected)
+
+    def test_a_small_database_may_not_unpack_to_everything(self) -> None:
+        path = str(self.folder / "in.dxf")
+        points = "10\n1\n20\n2\n" * 2_000_000
+        for name, entities in (
+            ("AC1018", f"0\nLWPOLYLINE\n8\n0\n90\n2000000\n70\n1\n{points}"),
+            ("AC1015", hostile.line()),
+        ):
+            Path(path).write_bytes(hostile.drawing(entities))
+            run("""
+                import sys
+                import korvan.cad as cad
+                from korvan.cad.fileformats.cad.cadconsts import CadAcadVersion
+                from korvan.cad.imageoptions import DwgOptions
+                options = DwgOptions()
+                options.version = getattr(CadAcadVersion, sys.argv[2])
+                cad.Image.load(sys.argv[1]).save(sys.argv[1] + ".dwg", options)
+            """, path, name)
+            data = Path(path + ".dwg").read_bytes()
+            if name == "AC1015":
+                results = self.convert("records.dwg", hostile.dwg_of_one_record(data, 400_000))
+                self.assertEqual(set(results), NOT_READ)
+            else:
+                self.assertLess(len(data), 20_000)
+                self.assertLessEqual(set(self.convert("packed.dwg", data, "PngOptions", "PdfOptions")), NOT_SAVED)
 
     def test_the_program_can_allow_more(self) -> None:
         (self.folder / "packed.ifczip").write_bytes(hostile.ifczip(300 << 20))
@@ -155,12 +196,46 @@ for name in sys.argv[3:]:
         self.assertEqual(output, expected)
         self.assertEqual([path.name for path in self.folder.iterdir()], ["in.dxf"])
 
+    def test_the_timeout_ends_long_work_on_one_entity(self) -> None:
+        vertices = "".join(f"10\n{i * 7919 % 1000}\n20\n{i * 104729 % 1000}\n" for i in range(60_000))
+        lines = [hostile.hatch_line(angle / 7, 0.5, 3, -2) for angle in range(200)]
+        boxes = [hostile.square(i % 100, i // 100, 1, 16 if i % 2 else 2) for i in range(20_000)]
+        for name, entities, options in (
+            ("text", hostile.mtext(" ".join(f"{i:x}" for i in range(300_000)), 100), "PdfOptions"),
+            ("formats", hostile.mtext("".join(f"\\H{i}.5;a" for i in range(200_000))), "PngOptions"),
+            ("hatch", hostile.hatch([hostile.square(0, 0, 5000)], *lines) * 20, "SvgOptions"),
+            ("loops", hostile.hatch(boxes, hostile.hatch_line(0, 0.1)), "PdfOptions"),
+            ("outer", hostile.hatch([f"92\n2\n72\n0\n73\n1\n93\n60000\n{vertices}97\n0\n"] * 2,
+                                    hostile.hatch_line(0, 50), style=1), "PngOptions"),
+            ("spline", hostile.spline(25, 40_000, "%d"), "PngOptions"),
+            ("wide", f"0\nLWPOLYLINE\n8\n0\n90\n60000\n70\n1\n43\n5\n{vertices}", "PdfOptions"),
+        ):
+            (self.folder / "in.dxf").write_bytes(hostile.drawing(entities))
+            output = run(INTERRUPT + """
+image = cad.Image.load(sys.argv[1])
+options = getattr(imageoptions, sys.argv[3])()
+for options.timeout in (10, 40):
+    print(late(lambda: image.save(sys.argv[2], options)), os.path.exists(sys.argv[2]))
+""", str(self.folder / "in.dxf"), str(self.folder / "out"), options).stdout
+            with self.subTest(name):
+                self.assertEqual(output, "OperationInterruptedException False\n" * 2)
+
     def test_signals_end_loading_and_native_codecs(self) -> None:
+        points = "".join(f"#{i}=IFCCARTESIANPOINT((0.,0.));\n" for i in range(1, 600_000))
+        (self.folder / "in.ifc").write_text(
+            "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\nFILE_NAME('','',(''),(''),'','','');\n"
+            f"FILE_SCHEMA(('IFC4'));\nENDSEC;\nDATA;\n{points}ENDSEC;\nEND-ISO-10303-21;\n", encoding="ascii")
+        (self.folder / "in.cgm").write_bytes(hostile.far_dashes(500_000))
         (self.folder / "in.dxf").write_bytes(hostile.drawing(hostile.line() * 200_000))
         (self.folder / "in.png").write_bytes(hostile.png(20_000, 20_000))
-        for name in ("in.dxf", "in.png"):
+        run("""
+            import sys, korvan.cad as cad
+            from korvan.cad.imageoptions import DwgOptions
+            cad.Image.load(sys.argv[1]).save(sys.argv[2], DwgOptions())
+        """, str(self.folder / "in.dxf"), str(self.folder / "in.dwg"))
+        for name in ("in.dxf", "in.png", "in.ifc", "in.cgm", "in.dwg"):
             output = run(INTERRUPT + """
-print(timer(0.05, lambda: cad.Image.load(sys.argv[1])))
+print(timer(0.02, lambda: cad.Image.load(sys.argv[1])))
 print(cad.Image.get_file_format(sys.argv[1]) is not None)
 """, str(self.folder / name)).stdout
             with self.subTest(name):

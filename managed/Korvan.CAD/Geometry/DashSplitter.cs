@@ -8,6 +8,7 @@ internal static class DashSplitter
 {
     /// <summary>Past this a line is drawn whole: its dashes could not be told apart.</summary>
     private const int MaxDashes = 200_000;
+    private const int SegmentsPerStep = 64;
 
     /// <summary>Puts the dashes into the target; lengths alternate between dash and gap. False when there are too
     /// many.</summary>
@@ -25,11 +26,13 @@ internal static class DashSplitter
         Array.ForEach(lengths, length => period += length);
         target.Clear();
         int dashes = 0;
+        int segments = 0;
         foreach (FlatLine line in FlatLine.Of(path, tolerance))
         {
             var walk = new Walk(lengths, period, offset, visible);
             for (int i = 0; i + 1 < line.Points.Length; i++)
             {
+                Workload.Count(ref segments, SegmentsPerStep);
                 if (!walk.AddSegment(line.Points[i], line.Points[i + 1], target, ref dashes))
                 {
                     return false;

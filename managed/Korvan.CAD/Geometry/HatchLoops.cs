@@ -38,6 +38,8 @@ internal sealed class HatchLoop
 
 internal static class HatchLoops
 {
+    private const int CornersPerStep = 1024;
+
     /// <summary>The loops that bound the hatched area under a style, which is filled by the even-odd rule.</summary>
     internal static List<HatchLoop> Select(List<HatchLoop> loops, HatchStyle style)
     {
@@ -61,5 +63,11 @@ internal static class HatchLoops
     }
 
     private static bool IsFilled(List<HatchLoop> areas, Vec2 at) =>
-        (areas.FindAll(area => Polygons.Contains(area.Ring, at)).Count & 1) == 1;
+        (areas.FindAll(area => Contains(area, at)).Count & 1) == 1;
+
+    private static bool Contains(HatchLoop area, Vec2 at)
+    {
+        Workload.Step(area.Ring.Length / CornersPerStep);
+        return area.Path.Bounds.Contains(at.X, at.Y) && Polygons.Contains(area.Ring, at);
+    }
 }

@@ -12,12 +12,14 @@ internal sealed class Nurbs
 {
     private const int HighestDegree = 25;
     private const int DeepestSplit = 12;
+    private const int EvaluationsPerStep = 16;
 
     private readonly int _degree;
     private readonly double[] _knots;
     private readonly Vec3[] _points;
     private readonly double[] _weights;
     private readonly bool _rational;
+    private int _evaluations;
 
     private Nurbs(int degree, double[] knots, Vec3[] points, double[] weights)
     {
@@ -123,7 +125,7 @@ internal sealed class Nurbs
     {
         double mid = (a + b) / 2;
         Vec3 pm = Evaluate(mid, span, out Vec3 dm);
-        if (depth > 0 && (depth >= DeepestSplit || Deviation(span, a, b, pa, da, pb, db) <= tolerance))
+        if (depth > 0 && (depth >= DeepestSplit || !(Deviation(span, a, b, pa, da, pb, db) > tolerance)))
         {
             Hermite(pen, pa, da, pb, db, b - a);
             return;
@@ -176,6 +178,7 @@ internal sealed class Nurbs
     // De Boor's recursion in homogeneous coordinates; the last step but one gives the derivative as well.
     private Vec3 Evaluate(double t, int span, out Vec3 derivative)
     {
+        Workload.Count(ref _evaluations, EvaluationsPerStep);
         Span<Vec3> p = stackalloc Vec3[HighestDegree + 1];
         Span<double> w = stackalloc double[HighestDegree + 1];
         for (int j = 0; j <= _degree; j++)

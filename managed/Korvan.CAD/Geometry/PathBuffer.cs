@@ -183,7 +183,9 @@ internal sealed class PathBuffer
 
         if (_coordCount + newCoords > _coords.Length)
         {
-            Array.Resize(ref _coords, Math.Max(_coords.Length * 2, _coordCount + newCoords));
+            int length = Math.Max(_coords.Length * 2, _coordCount + newCoords);
+            Workload.Reserve((long)length * sizeof(double));
+            Array.Resize(ref _coords, length);
         }
     }
 }

@@ -12,10 +12,17 @@ internal sealed class PatternFill
     /// <summary>Segments and crossings that one hatch may ask for; past it the hatch is shown as a tint.</summary>
     internal const int MaxSegments = 1_000_000;
 
+    /// <summary>Edges, dashes and gaps that one hatch may ask for, seen or not; a crossing, which is sorted, counts as
+    /// several.</summary>
+    private const long MaxWork = 100_000_000;
+    private const int WorkPerCrossing = 8;
+    private const int WorkPerStep = 256;
+
     private readonly List<(int Line, double At)> _crossings = [];
     private readonly PathBuffer _target;
     private readonly Vec2[]? _window;
     private int _segments;
+    private long _work;
     private double _firstRow;
     private double _lastRow;
     private double _start;
@@ -111,6 +118,14 @@ internal sealed class PatternFill
         }
     }
 
+    private bool TryWork(long count)
+    {
+        long before = _work / WorkPerStep;
+        _work += count;
+        Workload.Step((_work / WorkPerStep) - before);
+        return _work <= MaxWork;
+    }
+
     // Edges are half open in the direction across the lines, so that a vertex on a line counts once.
     private bool TryCross(Vec2[] ring, Vec2 origin, Vec2 along, double spacing)
     {
@@ -122,6 +137,11 @@ internal sealed class PatternFill
             double rowB = Vec2.Dot(b, along.Left) / spacing;
             double first = Math.Ceiling(Math.Max(Math.Min(rowA, rowB), _firstRow));
             double last = Math.Min(Math.Ceiling(Math.Max(rowA, rowB)) - 1, Math.Floor(_lastRow));
+            if (!TryWork(1))
+            {
+                return false;
+            }
+
             if (first > last)
             {
                 (a, rowA) = (b, rowB);
@@ -140,7 +160,7 @@ internal sealed class PatternFill
                 _crossings.Add((row, ta + ((row - rowA) * slope)));
             }
 
-            if (_crossings.Count > 2 * MaxSegments)
+            if (_crossings.Count > 2 * MaxSegments || !TryWork(WorkPerCrossing * (long)(last - first)))
             {
                 return false;
             }
@@ -169,9 +189,11 @@ internal sealed class PatternFill
             return false;
         }
 
-        double at = Math.Floor(from / period) * period;
-        while (at < to)
+        // Counted, not added up: far from the origin a period may be lost to rounding.
+        double first = Math.Floor(from / period);
+        for (int i = 0; first + i < to / period && TryWork(dashes.Count); i++)
         {
+            double at = (first + i) * period;
             foreach (double dash in dashes)
             {
                 double next = at + Math.Abs(dash);
@@ -185,7 +207,7 @@ internal sealed class PatternFill
             }
         }
 
-        return true;
+        return _work <= MaxWork;
     }
 
     private bool TryLine(Vec2 origin, Vec2 along, double from, double to)

@@ -6,6 +6,8 @@ namespace Korvan.CAD.Geometry;
 /// <summary>Closed rings of points, flattened from paths.</summary>
 internal static class Polygons
 {
+    private const int VerbsPerStep = 128;
+
     /// <summary>Flattens the curves of a path; each subpath becomes a ring of at least three points.</summary>
     internal static List<Vec2[]> Flatten(PathBuffer path, double tolerance)
     {
@@ -13,8 +15,10 @@ internal static class Polygons
         var ring = new List<Vec2>();
         ReadOnlySpan<double> c = path.Coords;
         int at = 0;
+        int count = 0;
         foreach (PathVerb verb in path.Verbs)
         {
+            Workload.Count(ref count, VerbsPerStep);
             switch (verb)
             {
                 case PathVerb.Move:

@@ -14,6 +14,7 @@ internal static class WidePolyline
 {
     private const double SharpestMiter = 6;
     private const double ArcStep = Math.PI / 36;
+    private const int BandsPerStep = 32;
 
     internal static bool HasWidth(ReadOnlySpan<PolyVertex> vertices)
     {
@@ -41,8 +42,10 @@ internal static class WidePolyline
         }
 
         // Only now: a closing mitre moves the start of the first band.
+        int drawn = 0;
         foreach (Band band in bands)
         {
+            Workload.Count(ref drawn, BandsPerStep);
             band.Draw(pen);
         }
     }

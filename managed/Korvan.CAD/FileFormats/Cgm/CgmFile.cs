@@ -17,6 +17,7 @@ namespace Korvan.CAD.FileFormats.Cgm;
 public sealed class CgmFile
 {
     private IReadOnlyList<Message> _messages = [];
+    private bool _isDamaged;
 
     /// <summary>Creates a metafile without commands.</summary>
     public CgmFile()
@@ -107,26 +108,67 @@ public sealed class CgmFile
 
         IEnumerable<Message> errors = file._messages.Where(one => one.Severity == Severity.Error);
         options.Errors.AddRange(errors.Select(one => $"'{name}', {one.Text}."));
+        file._isDamaged = options.IgnoreErrors && file._messages.Any(one => one.Severity != Severity.Unsupported);
         return file;
+    }
+
+    /// <summary>Writes the commands. Of a file that was read in spite of its damage, what is whole is written.</summary>
+    /// <param name="stream">The stream.</param>
+    /// <param name="format">The encoding.</param>
+    /// <param name="name">The name of the file in messages.</param>
+    /// <param name="report">Receives what is left out.</param>
+    internal void Write(Stream stream, CgmFileFormat format, string name, Action<Command, string> report)
+    {
+        if (!_isDamaged)
+        {
+            Write(stream, format, name);
+            return;
+        }
+
+        List<Command> whole = [.. Commands.Where(static one => one is not (BeginMetafile or EndMetafile))];
+        whole.Insert(0, Commands.OfType<BeginMetafile>().FirstOrDefault() ?? new BeginMetafile());
+        whole.Add(new EndMetafile());
+        Action<Command> write = WriterOf(stream, format, name);
+        foreach (Command command in whole)
+        {
+            try
+            {
+                write(command);
+            }
+            catch (ImageSaveException e)
+            {
+                report(command, e.Message);
+            }
+        }
     }
 
     private void Write(Stream stream, CgmFileFormat format, string name)
     {
+        if (_isDamaged)
+        {
+            List<Message> messages = [.. _messages];
+            Write(stream, format, name, (command, text) => messages.Add(
+                new Message(Severity.Error, command.ElementClass, command.ElementId, Commands.IndexOf(command), text)));
+            _messages = messages;
+            return;
+        }
+
         if (Commands.FirstOrDefault() is not BeginMetafile || Commands[^1] is not EndMetafile)
         {
             throw new ImageSaveException(
                 $"'{name}': a metafile starts with BeginMetafile and ends with EndMetafile, but the commands do not.");
         }
 
-        Action<Command> write = format switch
-        {
-            CgmFileFormat.Binary => new DefaultBinaryWriter(stream, name).WriteCommand,
-            CgmFileFormat.ClearText => new DefaultClearTextWriter(stream, name).WriteCommand,
-            _ => throw Verify.OutOfRange(nameof(format), format,
-                "Binary and ClearText are the encodings that can be written."),
-        };
-        Commands.ForEach(write);
+        Commands.ForEach(WriterOf(stream, format, name));
     }
+
+    private static Action<Command> WriterOf(Stream stream, CgmFileFormat format, string name) => format switch
+    {
+        CgmFileFormat.Binary => new DefaultBinaryWriter(stream, name).WriteCommand,
+        CgmFileFormat.ClearText => new DefaultClearTextWriter(stream, name).WriteCommand,
+        _ => throw Verify.OutOfRange(nameof(format), format,
+            "Binary and ClearText are the encodings that can be written."),
+    };
 
     private void ReadBinary(byte[] data, string name, bool ignoreErrors)
     {

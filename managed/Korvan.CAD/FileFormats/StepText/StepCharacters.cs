@@ -12,6 +12,10 @@ internal static class StepCharacters
 
     internal static bool IsKeyword(byte one) => IsLetter(one) || IsDigit(one) || one is (byte)'-' or (byte)'!';
 
+    /// <summary>Determines whether a name is that of an entity outside of the schema, which parties agree on (ISO
+    /// 10303-21, 11.4).</summary>
+    internal static bool IsUserDefined(ReadOnlySpan<byte> name) => name.Length > 1 && name[0] == '!' && IsLetter(name[1]);
+
     internal static bool IsSpace(byte one) => one <= ' ';
 
     /// <summary>Returns the offset of the next token, after spaces and comments; the length at the end.</summary>

@@ -35,8 +35,8 @@ internal sealed class StepFile
     /// <summary>Gets the ranges of records that are left out because they are damaged.</summary>
     internal List<(int Start, int End)> Damaged => _damaged;
 
-    /// <summary>Gets or sets whether numbers are used twice, or references lead to no record.</summary>
-    internal bool HasBrokenReferences { get; set; }
+    /// <summary>Gets or sets whether records have defects that saving repairs.</summary>
+    internal bool NeedsRepair { get; set; }
 
     /// <summary>Gets the offset of the ENDSEC keyword of the last DATA section; new records are written ahead of
     /// it.</summary>

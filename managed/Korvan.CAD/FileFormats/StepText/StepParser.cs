@@ -106,7 +106,7 @@ internal ref struct StepParser
             case (byte)'(':
                 return List(depth);
             default:
-                return StepCharacters.IsLetter(one) ? Typed(depth) : Number();
+                return StepCharacters.IsLetter(one) || one == '!' ? Typed(depth) : Number();
         }
     }
 

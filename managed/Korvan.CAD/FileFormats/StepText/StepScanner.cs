@@ -118,6 +118,11 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
     private short Verified(short keyword, ReadOnlySpan<byte> name, int count, int start, long id)
     {
         int arity = keyword < 0 ? -1 : arities[keyword];
+        if (StepCharacters.IsUserDefined(name))
+        {
+            return -1;
+        }
+
         if (arity < 0)
         {
             _defects.Add(keyword < 0
@@ -153,7 +158,7 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
             }
 
             ReadOnlySpan<byte> name = data.AsSpan(nameStart, _at - nameStart);
-            if (keywords.Find(name) < 0)
+            if (keywords.Find(name) < 0 && !StepCharacters.IsUserDefined(name))
             {
                 _defects.Add(new StepDefect(UnknownEntity, start, id, $"the schema has no entity {Excerpt(name)}"));
             }
@@ -249,7 +254,7 @@ internal sealed class StepScanner(byte[] data, KeywordTable keywords, int[] arit
                 SkipBinary();
                 return false;
             default:
-                if (StepCharacters.IsLetter(one))
+                if (StepCharacters.IsLetter(one) || one == '!')
                 {
                     SkipKeyword();
                     _at = StepCharacters.Skip(data, _at);

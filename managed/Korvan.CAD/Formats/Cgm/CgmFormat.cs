@@ -39,7 +39,11 @@ internal static class CgmFormat
         {
             if (content is IMetafileContent metafile && IsCopy((CgmOptions)context.Options))
             {
-                metafile.File.Save(output, ((CgmOptions)context.Options).Encoding);
+                using var copy = new MemoryStream();
+                metafile.File.Write(
+                    copy, ((CgmOptions)context.Options).Encoding, "stream",
+                    (_, what) => context.Notes.Add(RenderErrorCode.EntityNotDrawn, what));
+                copy.WriteTo(output);
                 return;
             }
 

@@ -16,6 +16,7 @@ internal sealed class CrossingSplitter
     internal const int MaxSplits = 1_000_000;
 
     private const int None = SweepStatus.None;
+    private const int PointsPerStep = 2;
 
     // Four digits of a number are left below the grid.
     private const int GridDigits = 48;
@@ -28,6 +29,7 @@ internal sealed class CrossingSplitter
     private readonly List<(int Edge, int Point)> _missed = [];
     private readonly List<int> _starts = [];
     private int _splits;
+    private int _visits;
 
     private CrossingSplitter(PlanarGraph graph)
     {
@@ -53,6 +55,7 @@ internal sealed class CrossingSplitter
         var splitter = new CrossingSplitter(graph);
         while (splitter._splits <= MaxSplits && splitter._events.TryDequeue(out int point, out _))
         {
+            Workload.Count(ref splitter._visits, PointsPerStep);
             splitter.Visit(point);
         }
 

@@ -11,6 +11,7 @@ namespace Korvan.CAD.Geometry.Triangulation;
 internal abstract class RegionSweep(PlanarGraph graph)
 {
     private const int None = SweepStatus.None;
+    private const int PointsPerStep = 4;
 
     private readonly SweepStatus _status = new(graph);
     private readonly int[] _windings = new int[graph.Edges.Length];
@@ -27,8 +28,10 @@ internal abstract class RegionSweep(PlanarGraph graph)
     internal bool TryRun()
     {
         SortEdges();
+        int visits = 0;
         foreach (int point in SortedPoints())
         {
+            Workload.Count(ref visits, PointsPerStep);
             if (!TryVisit(point))
             {
                 return false;

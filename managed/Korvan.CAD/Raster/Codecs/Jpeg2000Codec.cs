@@ -13,6 +13,9 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>Reads and writes JPEG 2000, as a JP2 file and as a bare codestream.</summary>
 internal static unsafe class Jpeg2000Codec
 {
+    /// <summary>Samples up to which an image is one tile; the library takes up to eight bytes for each.</summary>
+    private const long MaxWholeSamples = 16_000_000;
+    private const int TileSide = 1024;
     private const int MaxResolutions = 6;
 
     internal static void Write(PixelGrid pixels, Jpeg2000Options options, Stream output)
@@ -37,10 +40,14 @@ internal static unsafe class Jpeg2000Codec
         OpenJpeg.Require();
         bool alpha = !pixels.IsOpaque();
         int colors = gray ? 1 : 3;
-        using OpenJpegImageHandle image = Planes(pixels, colors, alpha);
+        int count = colors + (alpha ? 1 : 0);
+        bool hasTiles = pixels.Count * count > MaxWholeSamples;
+        using OpenJpegImageHandle image = Planes(pixels, colors, alpha, hasTiles);
         OpenJpeg.EncoderParameters parameters;
         OpenJpeg.SetDefaults(&parameters);
         parameters.Layers = 1;
+        parameters.HasTiles = hasTiles ? 1 : 0;
+        parameters.TileWidth = parameters.TileHeight = TileSide;
         parameters.FirstRate = ratio <= 1 ? 0 : ratio;
         parameters.AllocateByRate = 1;
         parameters.Irreversible = irreversible ? 1 : 0;
@@ -54,7 +61,8 @@ internal static unsafe class Jpeg2000Codec
         {
             OpenJpeg.SetErrorHandler(codec, &OnError, bridge.Closure);
             done = OpenJpeg.SetupEncoder(codec, &parameters, image) != 0 && OpenJpeg.Start(codec, image, stream) != 0
-                && OpenJpeg.Encode(codec, stream) != 0 && OpenJpeg.End(codec, stream) != 0;
+                && (hasTiles ? WriteTiles(codec, stream, pixels, colors, count) : OpenJpeg.Encode(codec, stream) != 0)
+                && OpenJpeg.End(codec, stream) != 0;
         }
 
         bridge.Rethrow(); // closing the stream writes, too
@@ -92,6 +100,7 @@ internal static unsafe class Jpeg2000Codec
         using OpenJpegImageHandle image = opened;
         Verify(read, source, bridge);
         VerifySize(image.Header, source, data.Length);
+        using var room = new NativeRoom(SampleBytes(image.Header));
         bool whole = OpenJpeg.Decode(codec, stream, image) != 0 && OpenJpeg.EndDecompress(codec, stream) != 0;
         Verify(whole, source, bridge);
         return Jpeg2000Planes.ToPixels(image.Header, source, out bitsPerPixel);
@@ -124,6 +133,9 @@ internal static unsafe class Jpeg2000Codec
         }
     }
 
+    private static long SampleBytes(in OpenJpeg.ImageHeader image) =>
+        ((long)image.X1 - image.X0) * ((long)image.Y1 - image.Y0) * image.ComponentCount * sizeof(int);
+
     private static int Resolutions(int side)
     {
         int count = 1;
@@ -135,7 +147,7 @@ internal static unsafe class Jpeg2000Codec
         return count;
     }
 
-    private static OpenJpegImageHandle Planes(PixelGrid pixels, int colors, bool alpha)
+    private static OpenJpegImageHandle Planes(PixelGrid pixels, int colors, bool alpha, bool hasTiles)
     {
         int count = colors + (alpha ? 1 : 0);
         OpenJpeg.ComponentParameters* components = stackalloc OpenJpeg.ComponentParameters[4];
@@ -146,10 +158,12 @@ internal static unsafe class Jpeg2000Codec
         }
 
         int space = colors == 1 ? OpenJpeg.ColorGray : OpenJpeg.ColorRgb;
-        OpenJpegImageHandle image = Allocated(OpenJpeg.CreateImage((uint)count, components, space));
+        OpenJpegImageHandle image = Allocated(hasTiles
+            ? OpenJpeg.CreateTileImage((uint)count, components, space)
+            : OpenJpeg.CreateImage((uint)count, components, space));
         ref OpenJpeg.ImageHeader header = ref image.Header;
         (header.X1, header.Y1) = ((uint)pixels.Width, (uint)pixels.Height);
-        for (int c = 0; c < count; c++)
+        for (int c = 0; c < count && !hasTiles; c++)
         {
             int shift = c < colors ? 16 - (8 * c) : 24;
             int* to = header.Components[c].Data;
@@ -168,6 +182,45 @@ internal static unsafe class Jpeg2000Codec
         }
 
         return image;
+    }
+
+    // The samples of a component follow those of the one before.
+    private static bool WriteTiles(
+        OpenJpegCodecHandle codec, OpenJpegStreamHandle stream, PixelGrid pixels, int colors, int count)
+    {
+        var samples = new byte[TileSide * TileSide * count];
+        uint index = 0;
+        for (int top = 0; top < pixels.Height; top += TileSide)
+        {
+            for (int left = 0; left < pixels.Width; left += TileSide)
+            {
+                Budget.Check();
+                int width = Math.Min(TileSide, pixels.Width - left);
+                int height = Math.Min(TileSide, pixels.Height - top);
+                int used = 0;
+                for (int c = 0; c < count; c++)
+                {
+                    int shift = c < colors ? 16 - (8 * c) : 24;
+                    for (int y = top; y < top + height; y++)
+                    {
+                        foreach (int pixel in pixels.Row(y).Slice(left, width))
+                        {
+                            samples[used++] = (byte)(pixel >> shift);
+                        }
+                    }
+                }
+
+                fixed (byte* data = samples)
+                {
+                    if (OpenJpeg.WriteTile(codec, index++, data, (uint)used, stream) == 0)
+                    {
+                        return false;
+                    }
+                }
+            }
+        }
+
+        return true;
     }
 
     /// <summary>Throws where the library had no memory.</summary>

@@ -53,6 +53,14 @@ internal static unsafe partial class OpenJpeg
     internal static partial OpenJpegImageHandle CreateImage(
         uint components, ComponentParameters* parameters, int colors);
 
+    [LibraryImport(Library, EntryPoint = "opj_image_tile_create")]
+    internal static partial OpenJpegImageHandle CreateTileImage(
+        uint components, ComponentParameters* parameters, int colors);
+
+    [LibraryImport(Library, EntryPoint = "opj_write_tile")]
+    internal static partial int WriteTile(
+        OpenJpegCodecHandle codec, uint index, byte* data, uint length, OpenJpegStreamHandle stream);
+
     [LibraryImport(Library, EntryPoint = "opj_image_destroy")]
     internal static partial void DestroyImage(nint image);
 
@@ -109,6 +117,15 @@ internal static unsafe partial class OpenJpeg
     [StructLayout(LayoutKind.Explicit, Size = 18720)]
     internal struct EncoderParameters
     {
+        [FieldOffset(0)]
+        public int HasTiles;
+
+        [FieldOffset(12)]
+        public int TileWidth;
+
+        [FieldOffset(16)]
+        public int TileHeight;
+
         [FieldOffset(20)]
         public int AllocateByRate;
 

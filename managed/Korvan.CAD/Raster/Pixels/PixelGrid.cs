@@ -28,10 +28,11 @@ internal sealed unsafe class PixelGrid : IDisposable
     }
 
     /// <summary>Takes over pixels of another owner.</summary>
-    internal PixelGrid(int* data, int width, int height, IDisposable owner)
+    internal PixelGrid(PixelBlock block, int width, int height, IDisposable owner)
     {
         Lifetime = new Lifetime(owner.Dispose);
-        _data = data;
+        _mapped = block.Mapped;
+        _data = block.Data;
         (Width, Height) = (width, height);
     }
 

@@ -55,7 +55,7 @@ internal sealed unsafe partial class CairoPainter
     private readonly nint _cr;
     private readonly TextEngine _engine;
     private bool _skipsStrokes;
-    private readonly DrawingList _list;
+    private DrawingList _list;
     private readonly PaintSettings _settings;
     private readonly Affine2 _map;
     private readonly double _scale;
@@ -86,7 +86,7 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>Paints rows of a page with its background and what lies over it.</summary>
     internal static void Paint(nint cr, TextEngine engine, Page page, PixelTarget target)
     {
-        Paint(cr, engine, page.List, page.Settings, target);
+        Paint(cr, engine, page.List, page.Settings, target, page.Replay);
         if (page.Overlay != null)
         {
             Paint(cr, engine, page.Overlay,
@@ -95,21 +95,38 @@ internal sealed unsafe partial class CairoPainter
     }
 
     private static void Paint(
-        nint cr, TextEngine engine, DrawingList list, in PaintSettings settings, PixelTarget target)
+        nint cr, TextEngine engine, DrawingList list, in PaintSettings settings, PixelTarget target,
+        Action<Action<DrawingList>>? replay = null)
     {
         var painter = new CairoPainter(cr, engine, list, settings, target);
         Cairo.Save(cr);
         painter.Start();
-        foreach (ref readonly DisplayItem item in list.Items)
+        if (replay is null)
         {
-            Budget.Check();
-            painter.Draw(item);
+            painter.DrawItems(list);
+        }
+        else
+        {
+            replay(painter.DrawItems);
         }
 
         painter.UseCairo();
 
         Cairo.Restore(cr);
         Cairo.Check(Cairo.Status(cr), "drawing a page");
+    }
+
+    private void DrawItems(DrawingList list)
+    {
+        // The indices of dashes are those of the list.
+        _list = list;
+        _dash = int.MaxValue;
+        ClearDash();
+        foreach (ref readonly DisplayItem item in list.Items)
+        {
+            Budget.Check();
+            Draw(item);
+        }
     }
 
     private void Start()

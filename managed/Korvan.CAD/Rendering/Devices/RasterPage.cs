@@ -18,6 +18,7 @@ internal sealed unsafe class RasterPage : IDisposable
     private const int MinRowsInBands = 200;
     private const int MaxBands = 8;
 
+    private readonly PixelBlock _pixels;
     private readonly NativeHandle _surface;
 
     private RasterPage(int width, int height)
@@ -25,8 +26,11 @@ internal sealed unsafe class RasterPage : IDisposable
         NativeLibraries.Require();
         Width = width;
         Height = height;
-        _surface = new NativeHandle(Cairo.ImageSurfaceCreate(CairoFormat.Argb32, width, height), &Cairo.SurfaceDestroy);
-        Cairo.Check(Cairo.SurfaceStatus(_surface.Pointer), $"making an image of {width} × {height} pixels");
+        _pixels = new PixelBlock((long)width * height);
+        nint surface = Cairo.ImageSurfaceCreateForData(
+            (byte*)_pixels.Data, CairoFormat.Argb32, width, height, width * sizeof(int));
+        _surface = new NativeHandle(surface, &Cairo.SurfaceDestroy);
+        Cairo.Check(Cairo.SurfaceStatus(surface), $"making an image of {width} × {height} pixels");
     }
 
     internal int Width { get; }
@@ -79,7 +83,9 @@ internal sealed unsafe class RasterPage : IDisposable
         }
     }
 
-    private int BandsFor(Page page) => page.List.Items.Length < MinItemsInBands || Height < MinRowsInBands
+    // What is drawn in parts is made by one thread, which draws them, too.
+    private int BandsFor(Page page) =>
+        page.Replay is not null || page.List.Items.Length < MinItemsInBands || Height < MinRowsInBands
         ? 1
         : Math.Min(Environment.ProcessorCount, MaxBands);
 
@@ -145,7 +151,7 @@ internal sealed unsafe class RasterPage : IDisposable
     /// <summary>Gives the pixels with alpha no longer multiplied in; they own this page from now on.</summary>
     internal PixelGrid ToGrid()
     {
-        var grid = new PixelGrid((int*)Cairo.ImageSurfaceGetData(_surface.Pointer), Width, Height, this);
+        var grid = new PixelGrid(_pixels, Width, Height, this);
         for (int y = 0; y < Height; y++)
         {
             foreach (ref int pixel in grid.Row(y))
@@ -159,6 +165,7 @@ internal sealed unsafe class RasterPage : IDisposable
 
     internal byte[] CopyPixels()
     {
+        Budget.VerifyRoom((long)Width * Height * 4);
         var pixels = new byte[(long)Width * Height * 4];
         for (int y = 0; y < Height; y++)
         {
@@ -168,5 +175,9 @@ internal sealed unsafe class RasterPage : IDisposable
         return pixels;
     }
 
-    public void Dispose() => _surface.Dispose();
+    public void Dispose()
+    {
+        _surface.Dispose();
+        _pixels.Dispose();
+    }
 }

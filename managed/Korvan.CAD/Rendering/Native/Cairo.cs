@@ -166,9 +166,6 @@ internal static unsafe partial class Cairo
     [LibraryImport(Library, EntryPoint = "cairo_recording_surface_create")]
     internal static partial nint RecordingSurfaceCreate(int content, double* extents);
 
-    [LibraryImport(Library, EntryPoint = "cairo_image_surface_create")]
-    internal static partial nint ImageSurfaceCreate(CairoFormat format, int width, int height);
-
     [LibraryImport(Library, EntryPoint = "cairo_image_surface_create_for_data")]
     internal static partial nint ImageSurfaceCreateForData(
         byte* data, CairoFormat format, int width, int height, int stride);

@@ -25,6 +25,9 @@ internal sealed class PageSource
     /// <summary>Items up to which a list is kept for a device that could draw it in parts. Of more, the list is made
     /// twice, as that takes less than the memory for it.</summary>
     private const int MaxStored = 65_536;
+
+    /// <summary>The same for pixels, which several threads draw where all items are there.</summary>
+    private const int MaxStoredForPixels = 262_144;
     private const int PartSize = 4_096;
 
     private readonly VectorScene _scene;
@@ -83,9 +86,11 @@ internal sealed class PageSource
 
     private Page Create(ScenePage layout)
     {
+        int? stored = _device == DeviceKind.Pixels ? MaxStoredForPixels
+            : InParts && !_options.AsBitmap ? MaxStored : null;
         RenderStyle style = _options.Style() with
         {
-            MaxStored = InParts && !_options.AsBitmap ? MaxStored : null,
+            MaxStored = stored,
             HasSymbols = HasSymbols && !_options.AsBitmap,
         };
         DrawingList list = _scene.Build(layout, style, _engine);

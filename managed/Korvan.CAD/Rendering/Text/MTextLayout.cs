@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Text;
 
@@ -43,6 +44,14 @@ internal sealed class MTextLayout
     private readonly MTextFrame _frame;
     private readonly double _height;
     private readonly List<Line> _lines = [];
+    private readonly List<PlacedRun> _runs = [];
+    private readonly List<PlacedBar> _bars = [];
+    private readonly List<LinePiece> _pieces = [];
+    private readonly List<LinePiece> _group = [];
+    private Line _line = new() { IsFirst = true };
+    private ParagraphFormat _groupParagraph = ParagraphFormat.Default;
+    private double _widest;
+    private Vec2 _anchor;
 
     private MTextLayout(TextEngine engine, in MTextFrame frame, double height)
     {
@@ -51,9 +60,11 @@ internal sealed class MTextLayout
         _height = height;
     }
 
-    internal List<PlacedRun> Runs { get; } = [];
+    /// <summary>Gets the runs, which are placed as they are asked for.</summary>
+    internal IEnumerable<PlacedRun> Runs => Placed(_runs);
 
-    internal List<PlacedBar> Bars { get; } = [];
+    /// <summary>Gets the bars of decorations and fractions, which are placed as they are asked for.</summary>
+    internal IEnumerable<PlacedBar> Bars => Placed(_bars);
 
     /// <summary>The box of the text around the attachment point.</summary>
     internal (double Left, double Bottom, double Right, double Top) Box { get; private set; }
@@ -61,7 +72,7 @@ internal sealed class MTextLayout
     private double WrapWidth => _frame.ColumnCount > 1 ? _frame.ColumnWidth : _frame.Width;
 
     internal static MTextLayout Create(
-        TextEngine engine, IReadOnlyList<MTextToken> tokens, in MTextFrame frame, double height)
+        TextEngine engine, IEnumerable<MTextToken> tokens, in MTextFrame frame, double height)
     {
         var layout = new MTextLayout(engine, frame, height);
         layout.BreakLines(tokens);
@@ -69,108 +80,132 @@ internal sealed class MTextLayout
         return layout;
     }
 
-    private void BreakLines(IReadOnlyList<MTextToken> tokens)
+    private void BreakLines(IEnumerable<MTextToken> tokens)
     {
-        var line = new Line { IsFirst = true };
-        for (int i = 0; i < tokens.Count;)
+        foreach (MTextToken token in tokens)
         {
-            MTextToken token = tokens[i];
-            if (line.Pieces.Count == 0)
+            if (token.Kind is MTextTokenKind.Word or MTextTokenKind.Stack)
             {
-                line.Paragraph = token.Paragraph;
+                _groupParagraph = _group.Count == 0 ? token.Paragraph : _groupParagraph;
+                _group.Add(Measure(token));
+                continue;
+            }
+
+            AddGroup();
+            if (_line.Count == 0)
+            {
+                _line.Paragraph = token.Paragraph;
             }
 
             switch (token.Kind)
             {
                 case MTextTokenKind.Paragraph or MTextTokenKind.Column:
-                    line.EndsParagraph = true;
-                    line.EndsColumn = token.Kind == MTextTokenKind.Column;
-                    line.NoteHeight(token.Format.Height, onlyIfEmpty: true);
-                    _lines.Add(line);
-                    line = new Line { IsFirst = true, Paragraph = token.Paragraph };
-                    i++;
+                    _line.EndsParagraph = true;
+                    _line.EndsColumn = token.Kind == MTextTokenKind.Column;
+                    _line.NoteHeight(token.Format.Height, onlyIfEmpty: true);
+                    _lines.Add(_line);
+                    _line = new Line { First = _pieces.Count, IsFirst = true, Paragraph = token.Paragraph };
                     break;
                 case MTextTokenKind.Space:
-                    double space = _engine.Advance(Font(token), " ", Spacing(token)) * Em(token);
-                    line.Add(Piece(token, space * token.Format.WidthFactor));
-                    i++;
-                    break;
-                case MTextTokenKind.Tab:
-                    line.Add(Piece(token, TabWidth(line)));
-                    i++;
+                    double space = _engine.Advance(Font(token.Format), " ", Spacing(token.Format)) * Em(token.Format);
+                    Add(new LinePiece(token, space * token.Format.WidthFactor));
                     break;
                 default:
-                    i = AddUnbreakable(tokens, i, ref line);
+                    Add(new LinePiece(token, TabWidth(_line)));
                     break;
             }
         }
 
-        line.EndsParagraph = true;
-        _lines.Add(line);
+        AddGroup();
+        _line.EndsParagraph = true;
+        _lines.Add(_line);
     }
 
     /// <summary>Takes words that touch each other as one, and starts a new line when they do not fit.</summary>
-    private int AddUnbreakable(IReadOnlyList<MTextToken> tokens, int start, ref Line line)
+    private void AddGroup()
     {
-        int end = start;
-        double width = 0;
-        var group = new List<LinePiece>();
-        while (end < tokens.Count && tokens[end].Kind is MTextTokenKind.Word or MTextTokenKind.Stack)
+        if (_group.Count == 0)
         {
-            LinePiece piece = Measure(tokens[end]);
-            group.Add(piece);
-            width += piece.Width;
-            end++;
+            return;
         }
 
-        double limit = WrapWidth - line.Paragraph.Right;
-        bool hasInk = line.Pieces.Exists(p => p.Token.Kind is MTextTokenKind.Word or MTextTokenKind.Stack);
-        if (WrapWidth > 0 && hasInk && line.Indent + line.Width + width > limit * (1 + 1e-9))
+        double width = 0;
+        foreach (LinePiece piece in _group)
         {
-            _lines.Add(line);
-            line = new Line { Paragraph = tokens[start].Paragraph };
+            width += piece.Width;
+        }
+
+        if (_line.Count == 0)
+        {
+            _line.Paragraph = _groupParagraph;
+        }
+
+        double limit = WrapWidth - _line.Paragraph.Right;
+        if (WrapWidth > 0 && _line.HasText && _line.Indent + _line.Width + width > limit * (1 + 1e-9))
+        {
+            _lines.Add(_line);
+            _line = new Line { First = _pieces.Count, Paragraph = _groupParagraph };
         }
 
         // A single word wider than the column is left whole: the text box lets it stick out.
-        foreach (LinePiece piece in group)
+        foreach (LinePiece piece in _group)
         {
-            line.Add(piece);
-            line.NoteHeight(piece.Token.Format.Height, onlyIfEmpty: false);
-            line.Rise = Math.Max(line.Rise, Rise(piece.Token));
+            Add(piece);
+            _line.HasText = true;
+            _line.NoteHeight(piece.Format.Height, onlyIfEmpty: false);
+            _line.Rise = Math.Max(_line.Rise, Rise(piece));
         }
 
-        return end;
+        _group.Clear();
+    }
+
+    private void Add(in LinePiece piece)
+    {
+        _pieces.Add(piece);
+        _line.Count++;
+        _line.Width += piece.Width;
+    }
+
+    /// <summary>Finds where the spaces at the end of a line begin.</summary>
+    private void Finish(Line line)
+    {
+        line.VisibleWidth = line.Width;
+        int last = line.First + line.Count - 1;
+        for (; last >= line.First && _pieces[last].Kind == MTextTokenKind.Space; last--)
+        {
+            line.VisibleWidth -= _pieces[last].Width;
+        }
+
+        line.LastVisible = last;
+        for (int i = line.First; i < last; i++)
+        {
+            line.InnerSpaces += _pieces[i].Kind == MTextTokenKind.Space ? 1 : 0;
+        }
     }
 
     /// <summary>How far a stack reaches above the baseline; capitals reach no further than their own height.</summary>
-    private static double Rise(in MTextToken token)
+    private static double Rise(in LinePiece piece)
     {
-        if (token.Kind != MTextTokenKind.Stack || token.Divider == '#')
+        if (piece.Kind != MTextTokenKind.Stack || piece.Divider == '#')
         {
             return 0;
         }
 
-        return token.Format.Height * (token.Format.Align == StackAlign.Baseline ? 2.5 : 1.75);
+        return piece.Format.Height * (piece.Format.Align == StackAlign.Baseline ? 2.5 : 1.75);
     }
 
-    private LinePiece Measure(MTextToken token)
+    private LinePiece Measure(in MTextToken token)
     {
-        double em = Em(token) * token.Format.WidthFactor;
-        int font = Font(token);
-        double spacing = Spacing(token);
-        double upper = _engine.Advance(font, token.Text, spacing) * em;
+        double upper = MTextPlacer.WidthOf(_engine, token.Text, token.Format);
         if (token.Kind == MTextTokenKind.Word)
         {
-            return Piece(token, upper);
+            return new LinePiece(token, upper);
         }
 
-        double lower = _engine.Advance(font, token.Lower, spacing) * em;
+        double lower = MTextPlacer.WidthOf(_engine, token.Lower, token.Format);
         double gap = token.Format.Height * 0.2;
-        double width = token.Divider == '#' ? upper + lower + gap : Math.Max(upper, lower) + gap;
-        return new LinePiece(token, width, upper, lower);
+        return new LinePiece(token, token.Divider == '#' ? upper + lower + gap : Math.Max(upper, lower) + gap);
     }
-
-    private static LinePiece Piece(MTextToken token, double width) => new(token, width, width, 0);
 
     private double TabWidth(Line line)
     {
@@ -192,12 +227,13 @@ internal sealed class MTextLayout
         double column = 0;
         double baseline = 0;
         double lowest = 0;
-        double widest = WrapWidth;
         bool top = true;
         int columns = 1;
+        _widest = WrapWidth;
         foreach (Line line in _lines)
         {
-            widest = Math.Max(widest, line.Indent + line.VisibleWidth);
+            Finish(line);
+            _widest = Math.Max(_widest, line.Indent + line.VisibleWidth);
         }
 
         foreach (Line line in _lines)
@@ -209,7 +245,7 @@ internal sealed class MTextLayout
                 && -(baseline - advance) > _frame.ColumnHeight;
             if (!top && columnFull)
             {
-                (top, column, columns) = (true, column + widest + _frame.ColumnGutter, columns + 1);
+                (top, column, columns) = (true, column + _widest + _frame.ColumnGutter, columns + 1);
             }
 
             baseline = top ? -tallest : baseline - advance;
@@ -219,53 +255,55 @@ internal sealed class MTextLayout
             lowest = Math.Min(lowest, baseline);
             if (line.EndsColumn)
             {
-                (top, column, columns) = (true, column + widest + _frame.ColumnGutter, columns + 1);
+                (top, column, columns) = (true, column + _widest + _frame.ColumnGutter, columns + 1);
             }
         }
 
-        double total = column + widest;
-        Anchor(total, -lowest, out double dx, out double dy);
-        Box = (dx, lowest + dy, dx + total, dy);
+        double total = column + _widest;
+        int attachment = Math.Clamp(_frame.Attachment, 1, 9) - 1;
+        _anchor = new Vec2(-total * (attachment % 3) / 2, -lowest * (attachment / 3) / 2);
+        Box = (_anchor.X, lowest + _anchor.Y, _anchor.X + total, _anchor.Y);
+    }
+
+    /// <summary>Places the pieces one by one: only one of the lists is of interest.</summary>
+    private IEnumerable<T> Placed<T>(List<T> made)
+    {
         foreach (Line line in _lines)
         {
-            PlaceLine(line, line.X + dx, line.Y + dy, widest);
+            (double x, double stretch) = Start(line);
+            for (int i = line.First; i <= line.LastVisible; i++)
+            {
+                LinePiece piece = _pieces[i];
+                double width = piece.Width + (piece.Kind == MTextTokenKind.Space ? stretch : 0);
+                _runs.Clear();
+                _bars.Clear();
+                MTextPlacer.Place(_runs, _bars, _engine, piece, x, line.Y + _anchor.Y, width, line.Height);
+                x += width;
+                for (int k = 0; k < made.Count; k++)
+                {
+                    yield return made[k];
+                }
+            }
         }
     }
 
-    private void Anchor(double width, double total, out double dx, out double dy)
+    /// <summary>Where a line begins, and what each of its spaces is wider.</summary>
+    private (double X, double Stretch) Start(Line line)
     {
-        int attachment = Math.Clamp(_frame.Attachment, 1, 9) - 1;
-        dx = -width * (attachment % 3) / 2;
-        dy = total * (attachment / 3) / 2;
-    }
-
-    private void PlaceLine(Line line, double left, double baseline, double width)
-    {
-        double room = width - line.Indent - line.Paragraph.Right - line.VisibleWidth;
+        double room = _widest - line.Indent - line.Paragraph.Right - line.VisibleWidth;
         ParagraphAlign align = line.Paragraph.Align == ParagraphAlign.Default ? DefaultAlign() : line.Paragraph.Align;
-        double x = left + line.Indent;
-        double stretch = 0;
+        double x = line.X + _anchor.X + line.Indent;
         switch (align)
         {
             case ParagraphAlign.Center:
-                x += room / 2;
-                break;
+                return (x + (room / 2), 0);
             case ParagraphAlign.Right:
-                x += room;
-                break;
+                return (x + room, 0);
             case ParagraphAlign.Justified when !line.EndsParagraph && room > 0:
             case ParagraphAlign.Distributed when room > 0:
-                stretch = room / Math.Max(1, line.InnerSpaces);
-                break;
-        }
-
-        int last = line.LastVisible;
-        for (int i = 0; i <= last; i++)
-        {
-            LinePiece piece = line.Pieces[i];
-            double extra = piece.Token.Kind == MTextTokenKind.Space ? stretch : 0;
-            MTextPlacer.Place(this, _engine, piece, x, baseline, piece.Width + extra, line.Height);
-            x += piece.Width + extra;
+                return (x, room / Math.Max(1, line.InnerSpaces));
+            default:
+                return (x, 0);
         }
     }
 
@@ -276,15 +314,18 @@ internal sealed class MTextLayout
         _ => ParagraphAlign.Left,
     };
 
-    private int Font(in MTextToken token) => _engine.Font(token.Format.Font);
+    private int Font(MTextFormat format) => _engine.Font(format.Font);
 
-    private double Em(in MTextToken token) => token.Format.Height / _engine.CapRatio(Font(token));
+    private double Em(MTextFormat format) => format.Height / _engine.CapRatio(Font(format));
 
-    private double Spacing(in MTextToken token) => MTextPlacer.LetterSpacing(token.Format);
+    private static double Spacing(MTextFormat format) => MTextPlacer.LetterSpacing(format);
 
     private sealed class Line
     {
-        internal List<LinePiece> Pieces { get; } = [];
+        /// <summary>Gets the index of the first piece.</summary>
+        internal int First { get; init; }
+
+        internal int Count { get; set; }
 
         internal ParagraphFormat Paragraph { get; set; } = ParagraphFormat.Default;
 
@@ -294,7 +335,7 @@ internal sealed class MTextLayout
 
         internal bool EndsColumn { get; set; }
 
-        internal double Width { get; private set; }
+        internal double Width { get; set; }
 
         internal double Height { get; set; }
 
@@ -306,30 +347,16 @@ internal sealed class MTextLayout
 
         internal double Indent => Math.Max(0, Paragraph.Left + (IsFirst ? Paragraph.First : 0));
 
-        internal int LastVisible => Pieces.FindLastIndex(p => p.Token.Kind is not MTextTokenKind.Space);
+        /// <summary>Gets or sets whether the line has more than spaces and tabs.</summary>
+        internal bool HasText { get; set; }
 
-        internal double VisibleWidth
-        {
-            get
-            {
-                double width = Width;
-                for (int i = Pieces.Count - 1; i > LastVisible; i--)
-                {
-                    width -= Pieces[i].Width;
-                }
+        /// <summary>Gets the last piece that is no space.</summary>
+        internal int LastVisible { get; set; } = -1;
 
-                return width;
-            }
-        }
+        internal double VisibleWidth { get; set; }
 
-        internal int InnerSpaces =>
-            Pieces.FindAll(p => p.Token.Kind == MTextTokenKind.Space).Count - (Pieces.Count - 1 - LastVisible);
-
-        internal void Add(LinePiece piece)
-        {
-            Pieces.Add(piece);
-            Width += piece.Width;
-        }
+        /// <summary>Gets the number of spaces before the last piece that is none.</summary>
+        internal int InnerSpaces { get; set; }
 
         internal void NoteHeight(double value, bool onlyIfEmpty)
         {
@@ -341,4 +368,18 @@ internal sealed class MTextLayout
     }
 }
 
-internal readonly record struct LinePiece(MTextToken Token, double Width, double UpperWidth, double LowerWidth);
+/// <summary>A token with its width; there are as many as a text has words and spaces, so it is kept small.</summary>
+internal readonly struct LinePiece(in MTextToken token, double width)
+{
+    internal MTextTokenKind Kind { get; } = token.Kind;
+
+    internal char Divider { get; } = token.Divider;
+
+    internal string Text { get; } = token.Text;
+
+    internal string Lower { get; } = token.Lower;
+
+    internal MTextFormat Format { get; } = token.Format;
+
+    internal double Width { get; } = width;
+}

@@ -28,6 +28,7 @@ internal sealed unsafe class TextEngine : IDisposable
     private const int ItalicStyle = 2;
     private const int HintMetricsOff = 1;
     private const int MaxCachedLines = 50_000;
+    private const int MaxCachedCharacters = 500_000;
     private const int MaxFonts = 500;
     private const int StepsPerFont = 100;
     private const int CharactersPerStep = 16;
@@ -56,6 +57,7 @@ internal sealed unsafe class TextEngine : IDisposable
     private readonly NativeHandle _context;
     private readonly NativeHandle _layout;
     private NativeHandle? _outliner;
+    private int _cachedCharacters;
     private int _currentFont = -1;
     private string? _currentText;
     private double _currentSpacing;
@@ -177,11 +179,9 @@ internal sealed unsafe class TextEngine : IDisposable
         string key = letterSpacing == 0 ? text : $"{letterSpacing:R}\0{text}";
         if (!known.TryGetValue(key, out StrokeLine? line))
         {
-            line = StrokeRun.Draw(face, text, CapRatio(font), letterSpacing);
-            if (known.Count >= MaxCachedLines)
-            {
-                known.Clear();
-            }
+            Budget.Step(1 + (text.Length / CharactersPerStep));
+            line = StrokeRun.Draw(face, Shown(text), CapRatio(font), letterSpacing);
+            ClearIfFull(known, text);
 
             known.Add(key, line);
         }
@@ -267,18 +267,32 @@ internal sealed unsafe class TextEngine : IDisposable
         if (!known.TryGetValue(key, out ShapedLine? line))
         {
             Budget.Step(1 + (text.Length / CharactersPerStep));
-            string shown = text.Length <= MaxCharacters ? text : text[..MaxCharacters];
+            string shown = Shown(text);
             line = LineReader.Read(Shape(font, shown, letterSpacing), shown, Pango.Scale * EmSize, _uses);
             UnknownGlyphs += line.UnknownGlyphs + text.Length - shown.Length;
-            if (known.Count >= MaxCachedLines)
-            {
-                known.Clear();
-            }
-
+            ClearIfFull(known, text);
             known.Add(key, line);
         }
 
         return line;
+    }
+
+    private static string Shown(string text) => text.Length <= MaxCharacters ? text : text[..MaxCharacters];
+
+    // Glyphs and strokes take a hundred bytes a character.
+    private void ClearIfFull<T>(Dictionary<string, T> known, string text)
+    {
+        _cachedCharacters += text.Length;
+        if (_cachedCharacters > MaxCachedCharacters)
+        {
+            _lines.ForEach(static lines => lines.Clear());
+            _strokes.ForEach(static lines => lines.Clear());
+            _cachedCharacters = 0;
+        }
+        else if (known.Count >= MaxCachedLines)
+        {
+            known.Clear();
+        }
     }
 
     /// <summary>Shows a run with its baseline along the x axis of the current matrix, one em to a unit, y

@@ -144,7 +144,7 @@ public class SheetTests
         var frame = new MTextFrame(0, 1, 1, true, ColumnCount: 2, ColumnWidth: 10, ColumnGutter: 2, ColumnHeight: 4);
         MTextLayout layout = MTextLayout.Create(engine, MTextParser.Parse("a\\Pb\\Pc\\Pd\\Ne", start), frame, 1);
         Assert.Equal([0.0, 0, 12, 12, 24], layout.Runs.Select(r => r.X));
-        Assert.Equal(layout.Runs[0].Y, layout.Runs[2].Y);
+        Assert.Equal(layout.Runs.First().Y, layout.Runs.ElementAt(2).Y);
     }
 
     [Fact]

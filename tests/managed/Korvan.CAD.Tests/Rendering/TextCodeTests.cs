@@ -160,7 +160,7 @@ public class TextCodeTests
         Assert.StartsWith(family, FontTable.FromFile(file).Family);
 
     private static List<MTextToken> Words(string text) =>
-        MTextParser.Parse(text, Start).FindAll(t => t.Kind == MTextTokenKind.Word);
+        [.. MTextParser.Parse(text, Start).Where(t => t.Kind == MTextTokenKind.Word)];
 
     private static MTextLayout Lay(TextEngine engine, string text, in MTextFrame frame) =>
         MTextLayout.Create(engine, MTextParser.Parse(text, Start), frame, Start.Height);

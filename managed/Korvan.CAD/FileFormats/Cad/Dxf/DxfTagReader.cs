@@ -16,6 +16,8 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// </summary>
 internal sealed partial class DxfTagReader : FieldReader
 {
+    private const int TagsPerCheck = 256; // a power of two
+
     private readonly byte[] _data;
     private readonly string _fileName;
     private readonly BinaryLayout _binary;
@@ -23,6 +25,7 @@ internal sealed partial class DxfTagReader : FieldReader
     private int _start;
     private int _length;
     private int _line;
+    private int _count;
     private int _tagOffset;
     private bool _unread;
     private bool _ended;
@@ -61,6 +64,11 @@ internal sealed partial class DxfTagReader : FieldReader
         {
             _unread = false;
             return true;
+        }
+
+        if ((++_count & (TagsPerCheck - 1)) == 0)
+        {
+            Budget.Check();
         }
 
         do

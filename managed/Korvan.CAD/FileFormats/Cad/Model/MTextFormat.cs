@@ -23,8 +23,8 @@ internal enum ParagraphAlign
     Distributed,
 }
 
-/// <summary>How characters look from one code to the next.</summary>
-internal readonly record struct MTextFormat(
+/// <summary>The format of characters from one code to the next, which all tokens between them share.</summary>
+internal sealed record MTextFormat(
     FontSpec Font,
     double Height,
     double WidthFactor,
@@ -35,7 +35,12 @@ internal readonly record struct MTextFormat(
     bool Underline,
     bool Overline,
     bool Strike,
-    bool ToleranceSymbols);
+    bool ToleranceSymbols)
+{
+    /// <summary>The format where nothing is known of the entity.</summary>
+    internal static readonly MTextFormat None =
+        new(default, 0, 0, 0, 0, default, StackAlign.Baseline, false, false, false, false);
+}
 
 /// <summary>Indents and tabs of a paragraph, in drawing units.</summary>
 internal sealed record ParagraphFormat(double First, double Left, double Right, ParagraphAlign Align,

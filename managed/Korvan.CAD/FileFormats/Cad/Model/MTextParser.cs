@@ -11,74 +11,89 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 /// </summary>
 internal sealed class MTextParser
 {
-    private const int DeepestGroup = 256;
+    private const int MaxGroups = 256;
+
+    /// <summary>The characters in which the semicolon after the argument of a code is looked for.</summary>
+    private const int MaxArgument = 1024;
+    private const int MaxSharedFormats = 256;
 
     private readonly string _text;
     private readonly double _baseHeight;
-    private readonly List<MTextToken> _tokens = [];
+    private readonly Queue<MTextToken> _tokens = new();
+    private readonly Dictionary<MTextFormat, MTextFormat> _formats = [];
     private readonly Stack<MTextFormat> _groups = new();
     private readonly StringBuilder _word = new();
     private MTextFormat _format;
     private ParagraphFormat _paragraph = ParagraphFormat.Default;
     private int _at;
+    private int _semicolon = -1;
 
-    private MTextParser(string text, in MTextFormat start)
+    private MTextParser(string text, MTextFormat start)
     {
         _text = text;
         _format = start;
         _baseHeight = start.Height;
     }
 
-    internal static List<MTextToken> Parse(string text, in MTextFormat start)
+    /// <summary>Reads tokens one by one, so that a long text is never in memory as a whole.</summary>
+    internal static IEnumerable<MTextToken> Parse(string text, MTextFormat start)
     {
         var parser = new MTextParser(text, start);
-        parser.Run();
-        return parser._tokens;
-    }
-
-    private void Run()
-    {
-        while (_at < _text.Length)
+        while (parser._at < text.Length)
         {
-            char c = _text[_at];
-            switch (c)
+            parser.ReadNext();
+            while (parser._tokens.TryDequeue(out MTextToken token))
             {
-                case '\\' when _at + 1 < _text.Length:
-                    ReadCode();
-                    break;
-                case '{':
-                    FlushWord();
-                    OpenGroup();
-                    break;
-                case '}':
-                    FlushWord();
-                    CloseGroup();
-                    break;
-                case ' ':
-                    Emit(MTextTokenKind.Space);
-                    _at++;
-                    break;
-                case '\n':
-                    Emit(MTextTokenKind.Paragraph);
-                    _at++;
-                    break;
-                case '\t':
-                    Emit(MTextTokenKind.Tab);
-                    _at++;
-                    break;
-                case '^' when _at + 1 < _text.Length && _text[_at + 1] is 'I' or 'J' or 'M':
-                    ReadCaret();
-                    break;
-                case '%' when _at + 2 < _text.Length && _text[_at + 1] == '%' && "uUoOkK".Contains(_text[_at + 2]):
-                    SwitchBar(_text[_at + 2]);
-                    break;
-                default:
-                    _at += TextCodes.ReadCharacter(_text, _at, _word);
-                    break;
+                Budget.Check();
+                yield return token;
             }
         }
 
-        FlushWord();
+        parser.FlushWord();
+        while (parser._tokens.TryDequeue(out MTextToken token))
+        {
+            yield return token;
+        }
+    }
+
+    private void ReadNext()
+    {
+        char c = _text[_at];
+        switch (c)
+        {
+            case '\\' when _at + 1 < _text.Length:
+                ReadCode();
+                break;
+            case '{':
+                FlushWord();
+                OpenGroup();
+                break;
+            case '}':
+                FlushWord();
+                CloseGroup();
+                break;
+            case ' ':
+                Emit(MTextTokenKind.Space);
+                _at++;
+                break;
+            case '\n':
+                Emit(MTextTokenKind.Paragraph);
+                _at++;
+                break;
+            case '\t':
+                Emit(MTextTokenKind.Tab);
+                _at++;
+                break;
+            case '^' when _at + 1 < _text.Length && _text[_at + 1] is 'I' or 'J' or 'M':
+                ReadCaret();
+                break;
+            case '%' when _at + 2 < _text.Length && _text[_at + 1] == '%' && "uUoOkK".Contains(_text[_at + 2]):
+                SwitchBar(_text[_at + 2]);
+                break;
+            default:
+                _at += TextCodes.ReadCharacter(_text, _at, _word);
+                break;
+        }
     }
 
     private void ReadCode()
@@ -121,13 +136,13 @@ internal sealed class MTextParser
         switch (code)
         {
             case 'L' or 'l':
-                _format = _format with { Underline = code == 'L' };
+                SetFormat(_format with { Underline = code == 'L' });
                 return true;
             case 'O' or 'o':
-                _format = _format with { Overline = code == 'O' };
+                SetFormat(_format with { Overline = code == 'O' });
                 return true;
             case 'K' or 'k':
-                _format = _format with { Strike = code == 'K' };
+                SetFormat(_format with { Strike = code == 'K' });
                 return true;
             default:
                 return false;
@@ -174,7 +189,7 @@ internal sealed class MTextParser
             return;
         }
 
-        _format = code switch
+        SetFormat(code switch
         {
             'H' when value > 0 => _format with { Height = relative ? _format.Height * value : value },
             'W' when value > 0 => _format with { WidthFactor = relative ? _format.WidthFactor * value : value },
@@ -184,7 +199,7 @@ internal sealed class MTextParser
             'C' => _format with { Color = new InlineColor(true, false, (int)value) },
             'c' => _format with { Color = new InlineColor(true, true, SwapRedBlue((int)value)) },
             _ => _format,
-        };
+        });
     }
 
     // Inline true colours keep red in the low byte.
@@ -204,20 +219,25 @@ internal sealed class MTextParser
 
         bool outline = parts.Length > 1 || family.Contains(' ');
         FontSpec spec = outline ? FontTable.FromFamily(family, bold, italic) : FontTable.FromName(family);
-        _format = _format with { Font = spec, ToleranceSymbols = FontTable.IsToleranceSymbolFont(family) };
+        SetFormat(_format with { Font = spec, ToleranceSymbols = FontTable.IsToleranceSymbolFont(family) });
     }
 
     /// <summary>The text up to the next semicolon, or null when there is none.</summary>
     private string? Argument()
     {
-        int end = _text.IndexOf(';', _at);
-        if (end < 0)
+        if (_semicolon < _at)
+        {
+            int found = _text.IndexOf(';', _at);
+            _semicolon = found < 0 ? int.MaxValue : found;
+        }
+
+        if (_semicolon == int.MaxValue || _semicolon - _at > MaxArgument)
         {
             return null;
         }
 
-        string argument = _text[_at..end];
-        _at = end + 1;
+        string argument = _text[_at.._semicolon];
+        _at = _semicolon + 1;
         return argument;
     }
 
@@ -226,7 +246,7 @@ internal sealed class MTextParser
     private string? StackArgument()
     {
         var result = new StringBuilder();
-        for (int i = _at; i < _text.Length; i++)
+        for (int i = _at; i < _text.Length && i - _at <= MaxArgument; i++)
         {
             char c = _text[i];
             if (c == ';')
@@ -276,7 +296,7 @@ internal sealed class MTextParser
         string upper = (divider < 0 ? argument : argument[..divider]).Replace("\0", string.Empty);
         string lower = divider < 0 ? string.Empty : argument[(divider + 1)..].Replace("\0", string.Empty);
         char sign = divider < 0 ? '^' : argument[divider];
-        _tokens.Add(new MTextToken(MTextTokenKind.Stack, upper.Trim(), lower.Trim(), sign, _format, _paragraph));
+        _tokens.Enqueue(new MTextToken(MTextTokenKind.Stack, upper.Trim(), lower.Trim(), sign, _format, _paragraph));
     }
 
     private void ReadCaret()
@@ -297,18 +317,18 @@ internal sealed class MTextParser
     {
         FlushWord();
         _at += 3;
-        _format = char.ToLowerInvariant(which) switch
+        SetFormat(char.ToLowerInvariant(which) switch
         {
             'u' => _format with { Underline = !_format.Underline },
             'o' => _format with { Overline = !_format.Overline },
             _ => _format with { Strike = !_format.Strike },
-        };
+        });
     }
 
     private void OpenGroup()
     {
         _at++;
-        if (_groups.Count < DeepestGroup)
+        if (_groups.Count < MaxGroups)
         {
             _groups.Push(_format);
         }
@@ -326,7 +346,22 @@ internal sealed class MTextParser
     private void Emit(MTextTokenKind kind)
     {
         FlushWord();
-        _tokens.Add(new MTextToken(kind, string.Empty, string.Empty, '\0', _format, _paragraph));
+        _tokens.Enqueue(new MTextToken(kind, string.Empty, string.Empty, '\0', _format, _paragraph));
+    }
+
+    private void SetFormat(MTextFormat format)
+    {
+        if (_formats.TryGetValue(format, out MTextFormat? shared))
+        {
+            _format = shared;
+            return;
+        }
+
+        _format = format;
+        if (_formats.Count < MaxSharedFormats)
+        {
+            _formats.Add(format, format);
+        }
     }
 
     private void FlushWord()
@@ -334,7 +369,7 @@ internal sealed class MTextParser
         if (_word.Length > 0)
         {
             string letters = _format.ToleranceSymbols ? ToleranceSymbols.Translate(_word.ToString()) : _word.ToString();
-            _tokens.Add(new MTextToken(MTextTokenKind.Word, letters, string.Empty, '\0', _format, _paragraph));
+            _tokens.Enqueue(new MTextToken(MTextTokenKind.Word, letters, string.Empty, '\0', _format, _paragraph));
             _word.Clear();
         }
     }

@@ -9,19 +9,22 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 /// </summary>
 internal static class ParagraphCodes
 {
+    private const int MaxTabs = 256;
+
     internal static ParagraphFormat Parse(string argument, ParagraphFormat current, double unit)
     {
         ParagraphFormat result = current;
         List<TabStop>? tabs = null;
         foreach (string part in argument.Split(','))
         {
-            string item = part.Trim();
+            // An "x" says that an extended code follows: the rest of the item is one more setting.
+            string item = part.Trim().TrimStart('x');
             if (item.Length == 0)
             {
                 continue;
             }
 
-            if (tabs != null && TryTab(item, unit, out TabStop stop))
+            if (tabs != null && tabs.Count < MaxTabs && TryTab(item, unit, out TabStop stop))
             {
                 tabs.Add(stop);
                 continue;
@@ -29,10 +32,6 @@ internal static class ParagraphCodes
 
             switch (item[0])
             {
-                case 'x':
-                    // An extended code follows: the rest of the item is one more setting.
-                    result = item.Length > 1 ? Parse(item[1..], result, unit) : result;
-                    break;
                 case 't':
                     tabs = [];
                     if (TryTab(item[1..], unit, out TabStop first))

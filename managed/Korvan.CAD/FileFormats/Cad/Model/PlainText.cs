@@ -11,7 +11,7 @@ internal static class PlainText
     internal static string FromMText(string text)
     {
         StringBuilder result = new(text.Length);
-        foreach (MTextToken token in MTextParser.Parse(text, default))
+        foreach (MTextToken token in MTextParser.Parse(text, MTextFormat.None))
         {
             _ = token.Kind switch
             {

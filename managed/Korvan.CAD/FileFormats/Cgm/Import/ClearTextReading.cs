@@ -30,7 +30,7 @@ internal sealed class ClearTextReading(ClearTextScanner scanner, CodingState sta
 
     internal override bool IsAtString => scanner.Peek() == ClearTextToken.String;
 
-    internal void BeginElement(bool isIncremental) => (IsIncremental, _last) = (isIncremental, null);
+    internal void BeginElement(bool isIncremental) => (IsIncremental, _last, _depth) = (isIncremental, null, 0);
 
     internal override int Integer(int value) => (int)Whole(int.MinValue, int.MaxValue);
 
@@ -73,14 +73,17 @@ internal sealed class ClearTextReading(ClearTextScanner scanner, CodingState sta
 
     internal override StructuredDataRecord Record(StructuredDataRecord? value)
     {
-        if (!IsAtString)
-        {
-            return StructuredDataCoding.Read(this);
-        }
-
         if (_depth == MaxRecordDepth)
         {
             throw new CgmDataException($"records are nested more than {MaxRecordDepth} deep");
+        }
+
+        if (!IsAtString)
+        {
+            _depth++;
+            StructuredDataRecord rest = StructuredDataCoding.Read(this);
+            _depth--;
+            return rest;
         }
 
         var record = new ClearTextScanner(scanner.ReadString());

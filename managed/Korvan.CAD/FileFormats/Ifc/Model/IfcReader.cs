@@ -64,10 +64,9 @@ internal sealed class IfcReader(byte[] data, string name, LoadOptions options)
         file.ScanData(start, new KeywordTable([.. schema.Classes.Select(one => one.Keyword)]), arities);
         _defects.Add(file.Defects);
         IfcIdMap ids = new(file.Index.Ids);
-        int before = _defects.Count;
         VerifyIds(file, ids);
         VerifyReferences(file, ids);
-        file.HasBrokenReferences = _defects.Count > before;
+        file.NeedsRepair = _defects.Count > 0;
         Report(file);
         IfcFileForm form = isPacked ? IfcFileForm.Packed : isXml ? IfcFileForm.Xml : IfcFileForm.Plain;
         return new IfcContent(new IfcModel(file, schema, ids), header, form);

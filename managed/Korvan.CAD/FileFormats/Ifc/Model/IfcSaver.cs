@@ -48,7 +48,7 @@ internal static class IfcSaver
             changes.Add((model.File.Index.Starts[record], model.File.Index.Ends[record], Record(entity, line)));
         }
 
-        if (model.File.HasBrokenReferences)
+        if (model.File.NeedsRepair)
         {
             AddRepairs(model, changes);
         }
@@ -68,8 +68,8 @@ internal static class IfcSaver
         return [.. changes.OrderBy(one => one.Start).ThenBy(one => one.End)];
     }
 
-    // What was loaded in spite of its defects is written without them: a number has one record, and a reference that
-    // leads nowhere is no value.
+    // What was loaded in spite of its defects is written without them: a number has one record, a reference that leads
+    // nowhere is no value, and an entity that the schema does not have is a user-defined one.
     private static void AddRepairs(IfcModel model, List<(int Start, int End, byte[] Text)> changes)
     {
         HashSet<int> replaced = [.. model.Removed, .. model.Changed.Select(static entity => entity.Record)];
@@ -88,6 +88,11 @@ internal static class IfcSaver
                 continue;
             }
 
+            if (index.Keywords[record] < 0)
+            {
+                AddMarks(model, start, end, changes);
+            }
+
             StepText.StepReferenceWalk walk = new(model.File.Data.AsSpan(start..end));
             while (walk.MoveNext())
             {
@@ -95,6 +100,23 @@ internal static class IfcSaver
                 {
                     changes.Add((start + walk.Place.Start.Value, start + walk.Place.End.Value, [(byte)'$']));
                 }
+            }
+        }
+    }
+
+    private static void AddMarks(
+        IfcModel model, int start, int end, List<(int Start, int End, byte[] Text)> changes)
+    {
+        ReadOnlySpan<byte> record = model.File.Data.AsSpan(start..end);
+        foreach (Range place in StepText.StepEntityNames.Of(record, out bool isComplex))
+        {
+            ReadOnlySpan<byte> name = record[place];
+            bool isKnown = model.Schema.FindClass(Encoding.ASCII.GetString(name)) is { } found
+                && (isComplex || !found.IsAbstract);
+            if (!isKnown && !StepText.StepCharacters.IsUserDefined(name))
+            {
+                int at = start + place.Start.Value;
+                changes.Add((at, at, StepText.StepCharacters.IsLetter(name[0]) ? "!"u8.ToArray() : "!_"u8.ToArray()));
             }
         }
     }

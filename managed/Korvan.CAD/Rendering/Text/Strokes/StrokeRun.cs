@@ -6,6 +6,8 @@ namespace Korvan.CAD.Rendering.Text.Strokes;
 /// <summary>Puts the glyphs of a stroke face side by side.</summary>
 internal static class StrokeRun
 {
+    private const int VerbsPerStep = 256;
+
     /// <summary>Draws a run; null where the face lacks one of its characters.</summary>
     /// <param name="face">The face.</param>
     /// <param name="text">The text.</param>
@@ -23,6 +25,7 @@ internal static class StrokeRun
                 return null;
             }
 
+            Budget.Step(glyph.Path.Verbs.Length / VerbsPerStep);
             path.AppendMapped(glyph.Path, new Affine2(capRatio, 0, 0, capRatio, at, 0));
             at += (glyph.Advance * capRatio) + letterSpacing;
         }

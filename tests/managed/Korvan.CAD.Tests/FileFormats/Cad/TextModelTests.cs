@@ -55,7 +55,7 @@ public class TextModelTests
     [Fact]
     public void Bars_are_switched_by_letters_of_either_case_and_by_percent_signs()
     {
-        List<MTextToken> tokens = MTextParser.Parse("\\La\\lb%%Uc%%ud%%oe%%Kf%%k%%Og\\O\\Kh\\o\\ki", Start);
+        List<MTextToken> tokens = [.. MTextParser.Parse("\\La\\lb%%Uc%%ud%%oe%%Kf%%k%%Og\\O\\Kh\\o\\ki", Start)];
         Assert.Equal("abcdefghi", string.Concat(tokens.Select(token => token.Text)));
         string Bars(Func<MTextFormat, bool> has) =>
             string.Concat(tokens.Select(token => has(token.Format) ? '1' : '0'));

@@ -85,6 +85,20 @@ public class DefectTests
         Assert.Equal(2, options.Defects.Count);
     }
 
+    [Theory]
+    [InlineData("#5=IFCALIEN('IFCWALL(',(1.,0.));\n", "#5=!IFCALIEN('IFCWALL(',(1.,0.));")]
+    [InlineData("#5= /* IFCX(1) */ IFCALIEN(IFCLABEL('x'));\n", "#5= /* IFCX(1) */ !IFCALIEN(IFCLABEL('x'));")]
+    [InlineData("#5=(IFCALIEN(1.)IFCROOT('it''s'));\n", "#5=(!IFCALIEN(1.)IFCROOT('it''s'));")]
+    [InlineData("#5=IFCROOT($,$,$,$);\n", "#5=!IFCROOT($,$,$,$);")] // abstract
+    [InlineData("#5=9X();\n", "#5=!_9X();")]
+    [InlineData("#5=!();\n#6=IFCVERTEXPOINT(#7);\n", "#5=!_!();\n#6=IFCVERTEXPOINT($);")]
+    public void Entities_outside_of_the_schema_are_written_as_user_defined_ones(string records, string written)
+    {
+        string saved = IfcText.Saved(IfcText.Load(records, new LoadOptions { IgnoreErrors = true }));
+        Assert.Contains(written, saved);
+        Assert.Equal(saved, IfcText.Saved(IfcText.LoadFile(saved)));
+    }
+
     private static LoadDefect Refused(string text)
     {
         using MemoryStream stream = new(Encoding.Latin1.GetBytes(text));

@@ -109,6 +109,7 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
         long offset = 0;
         while (pairs.Remaining > 0)
         {
+            Budget.Check();
             handle += pairs.ModularChar();
             offset += pairs.SignedModularChar();
             if (pairs.IsShort)

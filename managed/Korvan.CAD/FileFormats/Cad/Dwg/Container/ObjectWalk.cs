@@ -12,6 +12,7 @@ internal static class ObjectWalk
     private const int ChecksumLength = 2;
     private const int MinRecord = 4;
     private const int MaxType = 0x800;
+    private const int BytesPerStep = 1024;
     private const int MaxTries = 64; // how often a byte may be checked as a part of something that is no record
 
     /// <summary>Returns a map with the objects that a damaged one leaves out.</summary>
@@ -39,6 +40,7 @@ internal static class ObjectWalk
         long budget = (long)MaxTries * file.Objects.Length;
         for (int at = start; at < file.Objects.Length - MinRecord && budget > 0;)
         {
+            Budget.Check();
             int length = LengthOf(file, at, ref budget, out ulong handle);
             if (length > 0)
             {
@@ -78,6 +80,7 @@ internal static class ObjectWalk
         }
 
         budget -= end;
+        Budget.Step(end / BytesPerStep);
         int stated = rest[end] | (rest[end + 1] << 8);
         if (Crc16.Compute(Crc16.Seed, rest[..end]) != stated)
         {

@@ -279,6 +279,7 @@ internal sealed class EarlyDwgReader
         bool inBlock = !_collector.IsBlockDone;
         while (!(inBlock && _collector.IsBlockDone) && Next(records))
         {
+            Budget.Check();
             if (records.Type == EarlyEntityFields.Block)
             {
                 records.Unread();
@@ -321,6 +322,7 @@ internal sealed class EarlyDwgReader
         };
         while (bytes.Remaining > 0)
         {
+            Budget.Check();
             int type = bytes.Int16();
             CadEntityBase? entity = _entities.ReadOldest(System.Math.Abs(type), bytes);
             if (type > 0)

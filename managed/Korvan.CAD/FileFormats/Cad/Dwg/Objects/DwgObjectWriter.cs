@@ -237,6 +237,7 @@ internal sealed class DwgObjectWriter
 
     private void WriteObject(CadBaseObject item, ObjectFrame frame, ChildHandles? parts)
     {
+        Budget.Check();
         if (KeptOf(item) is { } kept)
         {
             int stated = _records.TypeOf(kept);

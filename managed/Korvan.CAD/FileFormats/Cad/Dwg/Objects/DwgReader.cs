@@ -13,6 +13,7 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
 {
     private const string Section = "AcDb:AcDbObjects";
     private const int LastPlainRelease = 2000;
+    private const int BitsPerStep = 8 * 512;
 
     private readonly RecordNames _names = new();
     private readonly ObjectSet _objects = new(file.Map.Handles);
@@ -52,6 +53,7 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
         try
         {
             RecordHeader header = reader.ReadHeader(file.Map.Offsets[index]);
+            CountWork(header);
             VerifyChecksum(header, index);
             if (ObjectTypeTable.IsRecord(header.Type))
             {
@@ -67,6 +69,9 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
             return null;
         }
     }
+
+    // Many entries of an object map may lead to one record.
+    private static void CountWork(in RecordHeader header) => Budget.Step(1 + ((header.End - header.Start) / BitsPerStep));
 
     private void VerifyChecksum(in RecordHeader header, int index)
     {
@@ -130,6 +135,7 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
             return;
         }
 
+        CountWork(header);
         try
         {
             _objects.Set(index, reader.Read(header));

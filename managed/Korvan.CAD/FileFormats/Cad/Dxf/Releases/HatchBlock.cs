@@ -50,6 +50,7 @@ internal static class HatchBlock
         corners.AddRange(Array.ConvertAll(filled.Added, static added => added.At));
         for (int i = 0; i + 2 < filled.Triangles.Length; i += 3)
         {
+            Budget.Step();
             block.Entities.Add(new CadSolid
             {
                 FirstPoint = At(filled.Triangles[i]),

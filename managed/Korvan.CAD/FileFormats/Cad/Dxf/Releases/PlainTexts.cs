@@ -18,7 +18,7 @@ internal sealed class PlainTexts(CadDrawing drawing, Func<CadText, double> measu
     internal IEnumerable<CadText> Lines(CadMText text, Affine3 plane)
     {
         double height = text.InitialTextHeight;
-        var start = default(MTextFormat) with { Height = height, WidthFactor = 1 };
+        MTextFormat start = MTextFormat.None with { Height = height, WidthFactor = 1 };
         List<Line> lines = Wrapped(MTextParser.Parse(text.Text, start), text);
         double spacing = text.LineSpacingFactor is > 0 and < 100 ? text.LineSpacingFactor : 1;
         double pitch = height * LinePitch * spacing;
@@ -68,7 +68,7 @@ internal sealed class PlainTexts(CadDrawing drawing, Func<CadText, double> measu
     private static Vec3 InPlane(in Affine3 plane, Vec3 v) =>
         new(Vec3.Dot(v, plane.AxisX), Vec3.Dot(v, plane.AxisY), Vec3.Dot(v, plane.AxisZ));
 
-    private List<Line> Wrapped(List<MTextToken> tokens, CadMText text)
+    private List<Line> Wrapped(IEnumerable<MTextToken> tokens, CadMText text)
     {
         List<Line> lines = [];
         var line = new LineBuilder(text.InitialTextHeight);
@@ -82,17 +82,26 @@ internal sealed class PlainTexts(CadDrawing drawing, Func<CadText, double> measu
 
             string added = StringOf(token);
             bool isBlank = token.Kind is MTextTokenKind.Space or MTextTokenKind.Tab;
+            double width = text.ReferenceRectangleWidth > 0 ? WidthOf(text, added, isBlank) : 0;
             if (!isBlank && text.ReferenceRectangleWidth > 0 && !line.IsEmpty
-                && measure(Styled(text, line.With(added))) > text.ReferenceRectangleWidth)
+                && (line.Width + width) * line.Scale > text.ReferenceRectangleWidth)
             {
                 lines.Add(line.Take());
             }
 
-            line.Add(added, token.Format, isBlank);
+            line.Add(added, width, token.Format, isBlank);
         }
 
         lines.Add(line.Take());
         return lines;
+    }
+
+    // The pieces are measured, not the whole line again and again, at a height and width factor of 1. A box around
+    // blanks alone is empty.
+    private double WidthOf(CadMText text, string piece, bool isBlank)
+    {
+        double Measured(string content) => measure(Styled(text, new Line(content, 1, 1)));
+        return isBlank ? Measured($"n{piece}n") - Measured("nn") : Measured(piece);
     }
 
     private static string StringOf(in MTextToken token) => token.Kind switch
@@ -114,11 +123,15 @@ internal sealed class PlainTexts(CadDrawing drawing, Func<CadText, double> measu
 
         internal bool IsEmpty => _height == 0;
 
-        internal Line With(string more) => Made(_text + more);
+        /// <summary>Gets the width at a height and width factor of 1.</summary>
+        internal double Width { get; private set; }
 
-        internal void Add(string text, in MTextFormat format, bool isBlank)
+        internal double Scale => (_height > 0 ? _height : initialHeight) * _factor;
+
+        internal void Add(string text, double width, MTextFormat format, bool isBlank)
         {
             _text.Append(text);
+            Width += width;
             if (!isBlank)
             {
                 _factor = IsEmpty && format.WidthFactor > 0 ? format.WidthFactor : _factor;
@@ -130,7 +143,7 @@ internal sealed class PlainTexts(CadDrawing drawing, Func<CadText, double> measu
         {
             Line line = Made(_text.ToString().TrimEnd());
             _text.Clear();
-            (_height, _factor) = (0, 1);
+            (_height, _factor, Width) = (0, 1, 0);
             return line;
         }
 

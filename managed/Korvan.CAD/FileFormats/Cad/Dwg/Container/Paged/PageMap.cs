@@ -22,6 +22,7 @@ internal static class PageMap
         long address = FileHeader.FirstPage;
         while (entries.Remaining >= 8)
         {
+            Budget.Check();
             int number = entries.Int32();
             uint size = entries.UInt32();
             if (address > source.Data.Length)

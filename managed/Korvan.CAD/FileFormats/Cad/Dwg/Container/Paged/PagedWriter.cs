@@ -81,6 +81,7 @@ internal sealed class PagedWriter
         byte[] page = new byte[pageSize];
         for (int start = 0; start < data.Length; start += pageSize)
         {
+            Budget.Check();
             page.AsSpan().Clear();
             data.Slice(start, Math.Min(pageSize, data.Length - start)).CopyTo(page);
             byte[] stored = section.IsCompressed ? _encoder.Compress(page) : page;

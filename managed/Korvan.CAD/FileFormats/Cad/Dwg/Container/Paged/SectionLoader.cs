@@ -19,6 +19,8 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
     /// <summary>The mask of the header of a page, combined with the page's address.</summary>
     internal const uint Mask = 0x4164536B;
 
+    private const int StepsPerPage = 8;
+    private const int BytesPerStep = 4096;
     private const int PagesOfPiece = 4; // a thread is worth its start for so many
 
     // Where defects do not end the load, a page that is not where the map states is looked for.
@@ -28,7 +30,10 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
     /// <summary>Reads a section.</summary>
     internal byte[] Read(SectionInfo section)
     {
-        byte[] target = new byte[SizeOf(section)];
+        long size = SizeOf(section);
+        Budget.Step(size / BytesPerStep);
+        Budget.VerifyRoom(size);
+        byte[] target = new byte[size];
         List<(PageInfo Page, long Address)> pages = Locate(section);
         PageFault[] faults = new PageFault[pages.Count];
         int pieces = (pages.Count + PagesOfPiece - 1) / PagesOfPiece;
@@ -37,6 +42,7 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
             int end = Math.Min(pages.Count, (piece + 1) * PagesOfPiece);
             for (int i = piece * PagesOfPiece; i < end; i++)
             {
+                Budget.Step(StepsPerPage);
                 faults[i] = ReadPage(section, pages[i].Page, pages[i].Address, target);
             }
         });
@@ -155,7 +161,9 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
             return Lz77.Decompress(stored, place) >= 0;
         }
 
-        byte[] page = new byte[Math.Min(section.PageSize, stored.Length * (long)Lz77.MaxRatio)];
+        long room = Math.Min(section.PageSize, stored.Length * (long)Lz77.MaxRatio);
+        Budget.VerifyRoom(room);
+        byte[] page = new byte[room];
         int length = Lz77.Decompress(stored, page);
         page.AsSpan(0, Math.Min(length < 0 ? page.Length : length, place.Length)).CopyTo(place);
         return length >= 0;

@@ -71,6 +71,7 @@ internal static class SectionMap
         List<PageInfo> pages = [];
         for (uint i = 0; i < pageCount && fields.Remaining >= PageLength; i++)
         {
+            Budget.Check();
             pages.Add(new PageInfo(fields.Int32(), fields.UInt32(), fields.Int64()));
         }
 

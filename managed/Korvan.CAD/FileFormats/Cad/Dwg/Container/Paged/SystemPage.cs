@@ -49,6 +49,7 @@ internal static class SystemPage
                 "the page has another checksum than it states");
         }
 
+        Budget.VerifyRoom(size);
         byte[] map = new byte[size];
         if (compression != Compressed)
         {

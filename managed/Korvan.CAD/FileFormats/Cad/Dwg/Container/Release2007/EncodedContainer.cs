@@ -11,6 +11,7 @@ internal static class EncodedContainer
 {
     // Pages have 0xF800 bytes at most where they are compressed.
     private const long MaxPageSize = 1 << 20;
+    private const int BytesPerStep = 1024;
 
     internal static DwgFile Read(DwgSource source)
     {
@@ -40,11 +41,18 @@ internal static class EncodedContainer
     private static byte[] ReadSection(
         DwgSource source, EncodedSection section, Dictionary<long, long> pages, ulong seed)
     {
-        byte[] target = new byte[SizeOf(source, section)];
+        long size = SizeOf(source, section);
+        Budget.Step(size / BytesPerStep);
+        Budget.VerifyRoom(size);
+        byte[] target = new byte[size];
         List<(EncodedPage Page, long Address)> located = Locate(source, section, pages);
         PageFault?[] faults = new PageFault?[located.Count];
         ForkedProcess.RunPieces(located.Count, i =>
-            faults[i] = ReadPage(source.Data, section, located[i].Page, located[i].Address, seed, target));
+        {
+            (EncodedPage page, long address) = located[i];
+            Budget.Step(1 + ((Math.Max(page.Size, 0) + Math.Max(page.Stored, 0)) / BytesPerStep));
+            faults[i] = ReadPage(source.Data, section, page, address, seed, target);
+        });
         foreach (PageFault? fault in faults)
         {
             if (fault is not null)

@@ -30,6 +30,7 @@ internal static class EncodedMaps
         long address = EncodedHeader.FirstPage;
         while (entries.Remaining >= PageEntry)
         {
+            Budget.Check();
             long size = entries.Int64();
             pages.TryAdd(Math.Abs(Math.Max(entries.Int64(), -long.MaxValue)), address);
             if (size < 0 || size > source.Data.Length - address)
@@ -95,6 +96,7 @@ internal static class EncodedMaps
         List<EncodedPage> pages = [];
         for (long i = 0; i < count && fields.Remaining >= PageFields; i++)
         {
+            Budget.Check();
             long start = fields.Int64();
             fields.Skip(8);
             pages.Add(new EncodedPage(

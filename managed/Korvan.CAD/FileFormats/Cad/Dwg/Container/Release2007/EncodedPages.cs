@@ -55,6 +55,7 @@ internal static class EncodedPages
 
         byte[] stored = new byte[page.Compressed];
         bool isValid = code.DecodeInterleaved(source.Data.AsSpan((int)page.Address), (int)blocks, stored);
+        Budget.VerifyRoom(page.Size);
         byte[] map = new byte[page.Size];
         bool isWhole = Unpack(stored, map);
         if (!isValid || page.CompressedCheck != Crc64.ComputeMirrored(Crc64.SeedOf(seed, stored.Length), stored)
