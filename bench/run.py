@@ -12,7 +12,7 @@ from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
 SUBJECTS = ("imports", "calls", "objects", "sequences", "streams", "values", "loading", "walking", "models", "images",
-            "documents", "pages_svg", "dwg_files", "batches")
+            "documents", "pages_svg", "dwg_files", "commands", "batches")
 
 
 def main() -> int:

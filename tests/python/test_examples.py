@@ -99,6 +99,13 @@ class Examples(unittest.TestCase):
         self.assertIn("['Model', 'Site 1:500', 'Plot 1']", printed)
         self.assertTrue((self.out / "build" / "sheets.pdf").exists())
 
+    def test_the_page_on_helpers_runs(self) -> None:
+        printed = self.run_snippets("docs/helpers.md")
+        for line in ("floor_plan.pdf", "Wall south W1 REI 30 3.0", "examples/drawings/site_plan.dxf done 2018",
+                     "examples/drawings/none.dxf failed No such file or directory"):
+            self.assertIn(line, printed)
+        self.assertTrue((self.out / "build" / "merged.dxf").exists())
+
     def test_the_page_on_services_runs(self) -> None:
         self.run_snippets("docs/services.md")
         self.assertTrue((self.out / "build" / "site_plan.pdf").exists())

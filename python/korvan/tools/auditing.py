@@ -107,7 +107,8 @@ class _Audit:
                 self.find(code, text, block.name, own, ("removes it", lambda at=at: removed.append(at)))
                 break
             else:
-                self.check_duplicate(own, block.name, seen, ("removes the second one", lambda at=at: removed.append(at)))
+                fix: tuple[str, Fix] = "removes the second one", lambda at=at: removed.append(at)
+                self.check_duplicate(own, block.name, seen, fix)
         for at in reversed(removed):
             block.entities.pop(at)
 
