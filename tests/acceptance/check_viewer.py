@@ -157,6 +157,17 @@ def check_layers_and_layouts(browser: Browser, folder: Path) -> None:
     expect(inner_text(browser, "message") == "", inner_text(browser, "message"))
     expect(browser.run(f"return {VIEWER}.camera.page.unit") == "mm", "the unit of the sheet")
     browser.screenshot(RESULTS / "viewer-layout.png")
+    # The scale bar of 40 m, through the viewport of 1:500: its ends lie 80 mm apart on the paper.
+    scale, offset = browser.run(f"const port = {VIEWER}.camera.page.viewports[0]; return [port.scale, port.offset]")
+    expect(abs(scale - 0.5) < 1e-9, f"the scale of the viewport is {scale}")
+    browser.click("#distance")
+    for x in (120.0, 160.0):
+        at = [(x - offset[0]) / scale, (-2.0 - offset[1]) / scale]
+        browser.move(*browser.run(PLACE, *at), click=True)
+    browser.press("\ue007")
+    browser.wait_for("document.getElementById('reading').textContent.includes(' m ')", "the distance in the model")
+    found = float(inner_text(browser, "reading").split()[1])
+    expect(abs(found - 40) < 0.5, inner_text(browser, "reading"))
 
 
 def check_search_and_theme(browser: Browser, folder: Path) -> None:

@@ -58,7 +58,8 @@ def pages() -> list[Path]:
 
 
 def code_of(text: str) -> str:
-    return "\n".join(re.findall(r"```python\n(.*?)```", text, re.DOTALL))
+    """The code of a page. What cannot run has a comment before it that tells why: ``<!-- not run: a server -->``."""
+    return "\n".join(re.findall(r"(?<!-->\n)```python\n(.*?)```", text, re.DOTALL))
 
 
 def slug(heading: str) -> str:

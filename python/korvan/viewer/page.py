@@ -13,6 +13,7 @@ import html
 import json
 import os
 from collections.abc import Sequence
+from dataclasses import asdict
 from functools import cache
 from importlib.resources import files
 from string import Template
@@ -82,6 +83,7 @@ def _description(contents: Contents) -> str:
                     "isImage": layout.is_image,
                     "isSheet": layout.is_sheet,
                     "unit": layout.unit,
+                    "viewports": [asdict(viewport) for viewport in layout.viewports],
                     "message": layout.message,
                 }
                 for layout in layouts
