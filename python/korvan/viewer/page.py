@@ -21,7 +21,7 @@ from string import Template
 from korvan.viewer.contents import Contents, read_contents
 
 _STYLE = ("page.css",)
-_ENGINE = ("scene.js", "painter.js", "engine.js")
+_ENGINE = ("markup.js", "geometry.js", "scene.js", "painter.js", "engine.js")
 _SCRIPT = ("camera.js", "measure.js", "panels.js", "main.js")
 
 
