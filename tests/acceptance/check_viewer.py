@@ -71,13 +71,16 @@ return [at.x + box.left, at.y + box.top];
 """
 
 
-def dxf(entities: Iterable[object], layers: Iterable[str] = ()) -> str:
+def dxf(entities: Iterable[object], layers: Iterable[str] = (), block: Iterable[object] = ()) -> str:
+    """A drawing; its block is named B."""
     tags: list[object] = [0, "SECTION", 2, "HEADER", 9, "$ACADVER", 1, "AC1021", 9, "$INSUNITS", 70, 4, 0, "ENDSEC"]
     names = list(layers)
     tags += [0, "SECTION", 2, "TABLES", 0, "TABLE", 2, "LAYER", 70, len(names)]
     for name in names:
         tags += [0, "LAYER", 2, name, 70, 0, 62, 7, 6, "CONTINUOUS"]
-    tags += [0, "ENDTAB", 0, "ENDSEC", 0, "SECTION", 2, "ENTITIES", *entities, 0, "ENDSEC", 0, "EOF"]
+    tags += [0, "ENDTAB", 0, "ENDSEC", 0, "SECTION", 2, "BLOCKS"]
+    tags += [0, "BLOCK", 8, "0", 2, "B", 70, 0, 10, 0, 20, 0, *block, 0, "ENDBLK", 0, "ENDSEC"]
+    tags += [0, "SECTION", 2, "ENTITIES", *entities, 0, "ENDSEC", 0, "EOF"]
     return "\n".join(map(str, tags)) + "\n"
 
 
@@ -157,6 +160,17 @@ def check_layers_and_layouts(browser: Browser, folder: Path) -> None:
     expect(inner_text(browser, "message") == "", inner_text(browser, "message"))
     expect(browser.run(f"return {VIEWER}.camera.page.unit") == "mm", "the unit of the sheet")
     browser.screenshot(RESULTS / "viewer-layout.png")
+    # The scale bar of 40 m, through the viewport of 1:500: its ends lie 80 mm apart on the paper.
+    scale, offset = browser.run(f"const port = {VIEWER}.camera.page.viewports[0]; return [port.scale, port.offset]")
+    expect(abs(scale - 0.5) < 1e-9, f"the scale of the viewport is {scale}")
+    browser.click("#distance")
+    for x in (120.0, 160.0):
+        at = [(x - offset[0]) / scale, (-2.0 - offset[1]) / scale]
+        browser.move(*browser.run(PLACE, *at), click=True)
+    browser.press("\ue007")
+    browser.wait_for("document.getElementById('reading').textContent.includes(' m ')", "the distance in the model")
+    found = float(inner_text(browser, "reading").split()[1])
+    expect(abs(found - 40) < 0.5, inner_text(browser, "reading"))
 
 
 def check_search_and_theme(browser: Browser, folder: Path) -> None:
@@ -210,6 +224,31 @@ def check_measuring(browser: Browser, folder: Path) -> None:
     reading = inner_text(browser, "reading")
     expect("Area 120000 mm²" in reading and "perimeter 1400 mm" in reading, reading)
     browser.screenshot(RESULTS / "viewer-measure.png")
+
+
+def check_blocks(browser: Browser, folder: Path) -> None:
+    """Blocks, which a layout may hold once however often they are used, lie where their references say."""
+    star = [tag for i in range(40) for tag in line("0", 1, i % 2 * 10, i, 20 + i % 7, i)]
+    uses = [tag for i in range(60) for tag in (0, "INSERT", 8, "A", 2, "B", 10, i % 10 * 100, 20, i // 10 * 100,
+                                               50, i % 4 * 90)]
+    corner = line("A", 5, -200, -200, -200.5, -200)
+    source = folder / "blocks.dxf"
+    source.write_text(dxf(uses + corner, ["A"], star + text("0", 40, 0, 5, "Star")))
+    open_page(browser, write_page(source, folder))
+    red = (255, 0, 0)
+    whole = count(browser, red)
+    expect(whole > 5000, f"{whole} pixels of blocks")
+    browser.press("/", *"star")
+    expect(inner_text(browser, "matches") == "60 matches", inner_text(browser, "matches"))
+    browser.press("\ue00c")
+    # The third block of the first row is turned by 180 degrees: its longest line ends at the left.
+    browser.run(f"const {{ camera }} = {VIEWER}; const [a, b, c, d, e, f] = camera.page.matrix; "
+                "const [x, y] = [a * 187 + e, d * -20 + f]; "
+                "camera.show({ minX: x - a * 15, maxX: x + a * 15, minY: y + d * 21, maxY: y - d * 21 }, 1)")
+    settle(browser)
+    browser.screenshot(RESULTS / "viewer-blocks.png")
+    near = count(browser, red)
+    expect(near > 1000, f"{near} pixels of the turned block")
 
 
 def check_hostile_names(browser: Browser, folder: Path) -> None:
@@ -276,6 +315,7 @@ CHECKS = (
     check_layers_and_layouts,
     check_search_and_theme,
     check_measuring,
+    check_blocks,
     check_hostile_names,
     check_pages_of_other_kinds,
     check_speed,

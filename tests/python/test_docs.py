@@ -18,8 +18,8 @@ import api_pages  # noqa: E402
 import gallery  # noqa: E402
 import make_docs  # noqa: E402
 
-# Pages whose code needs files that only their readers have; the tutorial, and what runs with it, has a test of its own.
-NOT_RUN = {"concepts.md", "fonts.md", "services.md", "tutorial.md"}
+# Pages whose code needs files that only their readers have, and those that run with the examples (test_examples.py).
+NOT_RUN = {"concepts.md", "fonts.md", "helpers.md", "services.md", "tutorial.md"}
 LINK = re.compile(r"\]\((?!https?:)([^)#\s]*)(?:#([\w-]+))?\)")
 STUB = '''
 class Base: ...
@@ -58,7 +58,8 @@ def pages() -> list[Path]:
 
 
 def code_of(text: str) -> str:
-    return "\n".join(re.findall(r"```python\n(.*?)```", text, re.DOTALL))
+    """The code of a page. What cannot run has a comment before it that tells why: ``<!-- not run: a server -->``."""
+    return "\n".join(re.findall(r"(?<!-->\n)```python\n(.*?)```", text, re.DOTALL))
 
 
 def slug(heading: str) -> str:

@@ -61,6 +61,10 @@ class Pages(unittest.TestCase):
         self.assertEqual([layout["name"] for layout in contents["layouts"]], ["Model", "Site 1:500", "Plot 1"])
         self.assertEqual([layout["isSheet"] for layout in contents["layouts"]], [False, True, True])
         self.assertEqual((contents["layouts"][0]["unit"], contents["first"]), ("m", 0))
+        scales = [[port["scale"] for port in layout["viewports"]] for layout in contents["layouts"]]
+        self.assertEqual([len(ports) for ports in scales], [0, 1, 1])
+        for ports, scale in zip(scales[1:], (0.5, 0.25), strict=True):  # millimetres of paper, metres of the model
+            self.assertAlmostEqual(ports[0], scale)
         documents = [gzip.decompress(page.block(f"layout-{i}")).decode() for i in range(3)]
         found = [[part in text for part in ('data-name="WATER"', ">Mill Pond<", "data-from-drawing=")]
                  for text in documents]

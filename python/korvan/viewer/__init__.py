@@ -9,7 +9,7 @@ on this machine:
 
 from __future__ import annotations
 
-from korvan.viewer.contents import Contents, Layout, ViewerError, read_contents
+from korvan.viewer.contents import Contents, Layout, Viewport, ViewerError, read_contents
 from korvan.viewer.page import build_page, render_page, write_page
 from korvan.viewer.server import PageServer
 
@@ -18,6 +18,7 @@ __all__ = [
     "Layout",
     "PageServer",
     "ViewerError",
+    "Viewport",
     "build_page",
     "read_contents",
     "render_page",

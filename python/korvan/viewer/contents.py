@@ -7,7 +7,7 @@ import io
 import os
 from collections.abc import Generator, Iterator, Sequence
 from contextlib import contextmanager
-from dataclasses import dataclass, field
+from dataclasses import dataclass, field, replace
 from pathlib import Path
 from typing import TYPE_CHECKING
 
@@ -20,6 +20,8 @@ if TYPE_CHECKING:
 _MODEL_WIDTH = 25_400.0
 _MOST_PAGES = 500
 _MOST_NOTES = 50
+_SHEET = 1  # the number of the viewport that is the sheet itself
+_PERSPECTIVE, _OFF = 1, 131072  # status of a viewport
 _FASTEST = 4  # level of gzip: the smallest one takes five times as long for a tenth less
 _UNITS = {
     "KILOMETER": "km",
@@ -45,6 +47,19 @@ class ViewerError(RuntimeError):
 
 
 @dataclass(frozen=True)
+class Viewport:
+    """A viewport of a sheet that shows model space in plan view; what is measured in it is in units of the model."""
+
+    bounds: tuple[float, float, float, float]
+    """The least and the largest X and Y, in units of the paper."""
+    scale: float
+    """Units of the model to one unit of the paper."""
+    offset: tuple[float, float]
+    """The model point of the paper's origin; without meaning if the view is turned."""
+    unit: str
+
+
+@dataclass(frozen=True)
 class Layout:
     """A layout of a drawing, or a page of an image."""
 
@@ -55,6 +70,7 @@ class Layout:
     is_sheet: bool = False
     """Whether it has a paper, with which line widths are scaled."""
     unit: str = ""
+    viewports: tuple[Viewport, ...] = ()
     message: str = ""
     """Why it cannot be shown; empty if it can."""
 
@@ -123,8 +139,33 @@ def _read_drawing(
     with _all_layers(drawing):
         for name in names:
             is_sheet = name.casefold() != "model"
-            contents.layouts.append(_render(image, name, unit, contents, is_sheet=is_sheet))
+            layout = _render(image, name, unit, contents, is_sheet=is_sheet)
+            viewports = tuple(_viewports(drawing, name, unit)) if is_sheet else ()
+            contents.layouts.append(replace(layout, viewports=viewports))
     return contents
+
+
+def _viewports(drawing: CadImage, layout: str, unit: str) -> Iterator[Viewport]:
+    from korvan.cad.fileformats.cad.cadobjects import CadViewport
+
+    for entity in drawing.get_layout_entities(layout):
+        cast = CadViewport._cast_to(entity)
+        if not cast or cast.value.viewport_id == _SHEET:
+            continue
+        port = cast.value
+        direction = port.view_direction
+        is_plan = direction.z > 0 and abs(direction.x) + abs(direction.y) < 1e-9 * direction.z
+        is_shown = port.viewport_status != 0 and not port.status_flags & (_PERSPECTIVE | _OFF)
+        if is_plan and is_shown and port.height > 0 and port.view_height > 0:
+            x, y = port.center_point.x, port.center_point.y
+            scale = port.view_height / port.height
+            yield Viewport(
+                bounds=(x - port.width / 2, y - port.height / 2, x + port.width / 2, y + port.height / 2),
+                scale=scale,
+                offset=(port.view_target.x + port.view_center.x - x * scale,
+                        port.view_target.y + port.view_center.y - y * scale),
+                unit=unit,
+            )
 
 
 @contextmanager

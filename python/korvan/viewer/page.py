@@ -13,6 +13,7 @@ import html
 import json
 import os
 from collections.abc import Sequence
+from dataclasses import asdict
 from functools import cache
 from importlib.resources import files
 from string import Template
@@ -20,7 +21,7 @@ from string import Template
 from korvan.viewer.contents import Contents, read_contents
 
 _STYLE = ("page.css",)
-_ENGINE = ("scene.js", "painter.js", "engine.js")
+_ENGINE = ("markup.js", "geometry.js", "scene.js", "painter.js", "engine.js")
 _SCRIPT = ("camera.js", "measure.js", "panels.js", "main.js")
 
 
@@ -82,6 +83,7 @@ def _description(contents: Contents) -> str:
                     "isImage": layout.is_image,
                     "isSheet": layout.is_sheet,
                     "unit": layout.unit,
+                    "viewports": [asdict(viewport) for viewport in layout.viewports],
                     "message": layout.message,
                 }
                 for layout in layouts

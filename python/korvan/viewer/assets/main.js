@@ -82,7 +82,8 @@ class Viewer {
     this._names = layers.map((layer) => layer.name);
     this._texts = texts;
     const whole = { minX: 0, minY: 0, maxX: width, maxY: height };
-    this.camera.open({ width, height, matrix, isSheet, unit: layout.unit || paperUnit(layout, matrix) }, isSheet ? whole : bounds);
+    const { viewports } = layout;
+    this.camera.open({ width, height, matrix, isSheet, viewports, unit: layout.unit || paperUnit(layout, matrix) }, isSheet ? whole : bounds);
     this._updateSearch();
     $$("message").textContent = count === 0 ? "There is nothing on this layout." : "";
   }

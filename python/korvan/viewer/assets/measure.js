@@ -9,6 +9,19 @@ function drawingPoint([a, b, c, d, e, f], { x, y }) {
   return { x: (d * (x - e) - c * (y - f)) / determinant, y: (a * (y - f) - b * (x - e)) / determinant };
 }
 
+/** Points of a sheet as those of the model, if one viewport shows them all. */
+function throughViewport({ viewports, unit }, points) {
+  const around = viewports.filter(({ bounds: [left, bottom, right, top] }) => points.length > 0
+    && points.every(({ x, y }) => x >= left && x <= right && y >= bottom && y <= top));
+  if (around.length === 0) {
+    return { points, unit };
+  }
+  const areaOfPort = ({ bounds: [left, bottom, right, top] }) => (right - left) * (top - bottom);
+  const port = around.reduce((least, other) => (areaOfPort(other) < areaOfPort(least) ? other : least));
+  const [x0, y0] = port.offset;
+  return { points: points.map(({ x, y }) => ({ x: x0 + x * port.scale, y: y0 + y * port.scale })), unit: port.unit };
+}
+
 function formatNumber(value) {
   const magnitude = Math.abs(value);
   const digits = magnitude >= 1e7 || magnitude === 0 ? 0 : Math.min(8, Math.max(0, 6 - Math.ceil(Math.log10(magnitude))));
@@ -159,9 +172,10 @@ class Measure {
   }
 
   _report() {
-    const { matrix, unit } = this.camera.page;
+    const { matrix } = this.camera.page;
     const free = this.pointer !== null && !this._finished ? [this.pointer] : [];
-    const points = [...this.points, ...free].map((point) => drawingPoint(matrix, point));
+    const { points, unit } = throughViewport(this.camera.page,
+      [...this.points, ...free].map((point) => drawingPoint(matrix, point)));
     const suffix = unit ? " " + unit : "";
     if (this.points.length === 0) {
       return this.mode === "area" ? "Click the corners of an area." : "Click the first point.";

@@ -1,248 +1,12 @@
 // Reads one layout, an SVG document of the library, into a list of items to draw.
 "use strict";
 
-const MOVE = 0, LINE = 1, CURVE = 2, CLOSE = 3;
 const STROKE = 0, FILL = 1, TEXT = 2, IMAGE = 3, CLIP = 4, UNCLIP = 5;
-const COORDINATES = [2, 2, 6, 0];
 // Strokes of one style are drawn together, up to this many: more would be drawn where few are in view.
 const CHUNK = 48;
 // Widths of lines that do not grow with the drawing, in hundredths of a millimetre; 13 is the thinnest one written.
 const LINE_WEIGHTS = [13, 15, 18, 20, 25, 30, 35, 40, 50, 53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211];
 const PIXELS_PER_MILLIMETRE = 96 / 25.4;
-
-/** Calls the handler at each start tag, with its attributes and the text up to the next tag, and at each end tag. */
-function scanTags(source, onOpen, onClose) {
-  const attribute = /\s+([\w:.-]+)="([^"]*)"/y;
-  const name = /[\w:.-]+/y;
-  let at = source.indexOf("<");
-  while (at >= 0) {
-    const next = source.charCodeAt(at + 1);
-    if (next === 33 || next === 63) {  // <! and <?
-      at = source.indexOf("<", at + 1);
-      continue;
-    }
-    if (next === 47) {  // </
-      onClose();
-      at = source.indexOf("<", at + 1);
-      continue;
-    }
-    name.lastIndex = at + 1;
-    const tag = name.exec(source)[0];
-    const attributes = {};
-    let end = name.lastIndex;
-    attribute.lastIndex = end;
-    for (let match; (match = attribute.exec(source)) !== null; end = attribute.lastIndex) {
-      attributes[match[1]] = match[2];
-    }
-    const close = source.indexOf(">", end);
-    at = source.indexOf("<", close);
-    onOpen(tag, attributes, tag === "text" ? source.slice(close + 1, at < 0 ? undefined : at) : "");
-    if (source.charCodeAt(close - 1) === 47) {
-      onClose();
-    }
-  }
-}
-
-const ENTITIES = { lt: "<", gt: ">", amp: "&", quot: '"', apos: "'" };
-
-function unescapeText(text) {
-  return text.replace(/&(#x[0-9a-f]+|#\d+|\w+);/gi, (whole, entity) => {
-    if (entity[0] !== "#") {
-      return ENTITIES[entity] ?? whole;
-    }
-    const hexadecimal = entity[1] === "x" || entity[1] === "X";
-    const code = hexadecimal ? parseInt(entity.slice(2), 16) : parseInt(entity.slice(1), 10);
-    return code <= 0x10ffff ? String.fromCodePoint(code) : whole;
-  });
-}
-
-/** Verbs and absolute coordinates of all paths, in two arrays that grow. */
-class Geometry {
-  constructor() {
-    this.verbs = new Uint8Array(1 << 14);
-    this.coords = new Float64Array(1 << 16);
-    this.verbCount = 0;
-    this.coordCount = 0;
-  }
-
-  add(verb) {
-    if (this.verbCount === this.verbs.length) {
-      const larger = new Uint8Array(this.verbs.length * 2);
-      larger.set(this.verbs);
-      this.verbs = larger;
-    }
-    this.verbs[this.verbCount++] = verb;
-  }
-
-  point(x, y) {
-    if (this.coordCount + 2 > this.coords.length) {
-      const larger = new Float64Array(this.coords.length * 2);
-      larger.set(this.coords);
-      this.coords = larger;
-    }
-    this.coords[this.coordCount++] = x;
-    this.coords[this.coordCount++] = y;
-  }
-
-  /** Reads path data; returns its parts, each from one move to the next, with their bounds. */
-  read(data) {
-    const parts = [];
-    const length = data.length;
-    let at = 0, command = 0, x = 0, y = 0, startX = 0, startY = 0, part = null;
-    const number = () => {
-      let c = data.charCodeAt(at);
-      while (c === 32 || c === 44 || c === 10) {
-        c = data.charCodeAt(++at);
-      }
-      const negative = c === 45;
-      if (negative) {
-        c = data.charCodeAt(++at);
-      }
-      let value = 0, scale = 0;
-      for (;; c = data.charCodeAt(++at)) {
-        if (c >= 48 && c <= 57) {
-          value = value * 10 + c - 48;
-          scale *= 10;
-        } else if (c === 46 && scale === 0) {
-          scale = 1;
-        } else {
-          break;
-        }
-      }
-      value = scale > 1 ? value / scale : value;
-      return negative ? -value : value;
-    };
-    const extend = () => {
-      part.minX = Math.min(part.minX, x);
-      part.maxX = Math.max(part.maxX, x);
-      part.minY = Math.min(part.minY, y);
-      part.maxY = Math.max(part.maxY, y);
-    };
-    const begin = () => {
-      part = { verb: this.verbCount, coord: this.coordCount, verbEnd: 0, minX: x, maxX: x, minY: y, maxY: y };
-      parts.push(part);
-      this.add(MOVE);
-      this.point(x, y);
-    };
-    const lineTo = () => {
-      if (part === null) {
-        begin();
-      }
-      this.add(LINE);
-      this.point(x, y);
-      extend();
-    };
-    while (at < length) {
-      const c = data.charCodeAt(at);
-      if (c === 32 || c === 44 || c === 10) {
-        at++;
-        continue;
-      }
-      if (c >= 65) {
-        command = c;
-        at++;
-      }
-      const from = command >= 97 ? 1 : 0;  // lower case: relative to the current point
-      switch (command | 32) {
-        case 109:  // m
-          x = number() + from * x;
-          y = number() + from * y;
-          startX = x;
-          startY = y;
-          begin();
-          command = from ? 108 : 76;
-          break;
-        case 108:  // l
-          x = number() + from * x;
-          y = number() + from * y;
-          lineTo();
-          break;
-        case 104:  // h
-          x = number() + from * x;
-          lineTo();
-          break;
-        case 118:  // v
-          y = number() + from * y;
-          lineTo();
-          break;
-        case 99: {  // c
-          if (part === null) {
-            begin();
-          }
-          const originX = from * x, originY = from * y;
-          this.add(CURVE);
-          for (let i = 0; i < 3; i++) {
-            x = number() + originX;
-            y = number() + originY;
-            this.point(x, y);
-            extend();
-          }
-          break;
-        }
-        case 122:  // z
-          if (part !== null) {
-            this.add(CLOSE);
-          }
-          x = startX;
-          y = startY;
-          part = null;
-          break;
-        default:
-          throw new Error(`The path command ${String.fromCharCode(command)} is not known.`);
-      }
-    }
-    for (let i = 0; i < parts.length; i++) {
-      parts[i].verbEnd = i + 1 < parts.length ? parts[i + 1].verb : this.verbCount;
-    }
-    return parts;
-  }
-
-  /** Draws parts as one path, with coordinates relative to a point near them, which keeps their precision. */
-  path(parts, originX, originY) {
-    const path = new Path2D();
-    const { verbs, coords } = this;
-    for (const part of parts) {
-      let at = part.coord;
-      for (let i = part.verb; i < part.verbEnd; i++) {
-        switch (verbs[i]) {
-          case MOVE:
-            path.moveTo(coords[at] - originX, coords[at + 1] - originY);
-            break;
-          case LINE:
-            path.lineTo(coords[at] - originX, coords[at + 1] - originY);
-            break;
-          case CURVE:
-            path.bezierCurveTo(coords[at] - originX, coords[at + 1] - originY, coords[at + 2] - originX,
-              coords[at + 3] - originY, coords[at + 4] - originX, coords[at + 5] - originY);
-            break;
-          default:
-            path.closePath();
-        }
-        at += COORDINATES[verbs[i]];
-      }
-    }
-    return path;
-  }
-}
-
-function boundsOf(parts) {
-  const bounds = { minX: Infinity, minY: Infinity, maxX: -Infinity, maxY: -Infinity };
-  for (const part of parts) {
-    bounds.minX = Math.min(bounds.minX, part.minX);
-    bounds.minY = Math.min(bounds.minY, part.minY);
-    bounds.maxX = Math.max(bounds.maxX, part.maxX);
-    bounds.maxY = Math.max(bounds.maxY, part.maxY);
-  }
-  return bounds;
-}
-
-/** Bounds of a rectangle after a matrix. */
-function boundsOfCorners(matrix, left, top, right, bottom) {
-  const [a, b, c, d, e, f] = matrix;
-  const xs = [left, right].flatMap((x) => [top, bottom].map((y) => a * x + c * y + e));
-  const ys = [left, right].flatMap((x) => [top, bottom].map((y) => b * x + d * y + f));
-  return { minX: Math.min(...xs), minY: Math.min(...ys), maxX: Math.max(...xs), maxY: Math.max(...ys) };
-}
 
 /** Orders cells of a grid of 1024 by 1024 so that near ones are near in the order. */
 function interleave(x, y) {
@@ -253,7 +17,6 @@ function interleave(x, y) {
   return order;
 }
 
-const matrixOf = (text) => (text.match(/-?[\d.]+(?:e[+-]?\d+)?/gi) ?? []).map(Number);
 const colorOf = (text) => [1, 3, 5].map((at) => parseInt(text.slice(at, at + 2), 16));
 
 /** From the end of a text to the start of another: along its baseline and across it. */
@@ -288,6 +51,10 @@ class SceneReader {
     this._gradients = new Map();
     this._imageNumbers = new Map();
     this._definition = null;
+    this._symbols = new Map();  // the tags of what is drawn in several places, by identifier
+    this._recorded = null;
+    this._depth = 0;
+    this._place = null;  // the matrix of the symbol that is drawn
     this._strokeStyle = null;
     this._strokeParts = [];
   }
@@ -299,6 +66,16 @@ class SceneReader {
   }
 
   _open(tag, attributes, text) {
+    if (this._recorded !== null) {
+      this._depth++;
+      this._recorded.push([tag, attributes, text]);
+      return;
+    }
+    if (tag === "g" && attributes.id?.startsWith("symbol-")) {
+      this._recorded = [];
+      this._depth = 0;
+      this._symbols.set("#" + attributes.id, this._recorded);
+    }
     const frame = { tag, layer: this._layer, top: this._top, clip: false, definition: this._definition };
     this._frames.push(frame);
     switch (tag) {
@@ -324,7 +101,8 @@ class SceneReader {
         break;
       case "linearGradient":
       case "radialGradient":
-        this._definition = { tag, ...attributes, stops: [], matrix: matrixOf(attributes.gradientTransform) };
+        this._definition = { tag, ...attributes, stops: [],
+          matrix: multiply(this._place, matrixOf(attributes.gradientTransform)) };
         this._gradients.set(attributes.id, this._definition);
         break;
       case "stop":
@@ -332,6 +110,9 @@ class SceneReader {
           alpha: Number(attributes["stop-opacity"] ?? 1) });
         break;
       case "image":
+        if (this._imageNumbers.has("#" + attributes.id)) {
+          break;
+        }
         this._imageNumbers.set("#" + attributes.id, this.images.length);
         this.images.push({ url: attributes["xlink:href"], sharp: attributes["image-rendering"] === "pixelated" });
         break;
@@ -342,6 +123,13 @@ class SceneReader {
   }
 
   _close() {
+    if (this._recorded !== null) {
+      if (--this._depth >= 0) {
+        this._recorded.push(null);
+        return;
+      }
+      this._recorded = null;
+    }
     const frame = this._frames.pop();
     if (frame === undefined) {
       return;
@@ -387,7 +175,7 @@ class SceneReader {
   }
 
   _path(attributes) {
-    const parts = this.geometry.read(attributes.d);
+    const parts = this.geometry.read(attributes.d, this._place);
     if (Array.isArray(this._definition)) {
       this._definition.push(...parts);
       this._definition.evenOdd = attributes["clip-rule"] === "evenodd";
@@ -470,7 +258,7 @@ class SceneReader {
   _text(attributes, text) {
     this._flushStrokes();
     const style = { ...this._top, ...attributes };
-    const matrix = matrixOf(style.transform);
+    const matrix = multiply(this._place, matrixOf(style.transform));
     const size = Number(style["font-size"]);
     const length = Number(style.textLength);
     const string = unescapeText(text);
@@ -499,13 +287,32 @@ class SceneReader {
     Object.assign(last, boundsOf([last, text]));
   }
 
+  /** Draws a symbol: its tags are read again, with the matrix of the place. */
+  _useSymbol(tags, place) {
+    const before = this._place;
+    this._place = multiply(before, place);
+    for (const found of tags) {
+      if (found === null) {
+        this._close();
+      } else {
+        this._open(...found);
+      }
+    }
+    this._place = before;
+  }
+
   _use(attributes) {
+    const symbol = this._symbols.get(attributes["xlink:href"]);
+    if (symbol !== undefined) {
+      this._useSymbol(symbol, placeOf(attributes.transform ?? ""));
+      return;
+    }
     const number = this._imageNumbers.get(attributes["xlink:href"]);
     if (number === undefined) {
       return;
     }
     this._flushStrokes();
-    const matrix = matrixOf(attributes.transform);
+    const matrix = multiply(this._place, matrixOf(attributes.transform));
     this.items.push({ kind: IMAGE, layer: this._layer, image: number, matrix, alpha: Number(attributes.opacity ?? 1),
       ...boundsOfCorners(matrix, 0, 0, 1, 1) });
   }

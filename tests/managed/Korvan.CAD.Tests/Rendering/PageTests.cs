@@ -176,6 +176,9 @@ public class PageTests
                 new[] { "width", "height" }.Select(name =>
                     Number(Regex.Match(root.Attribute(name)!.Value, "^[0-9.]+").Value)));
             Assert.Equal("0 0 300 150", root.Attribute("viewBox")!.Value);
+            double[] map = [.. Regex.Matches(root.Attribute("data-from-drawing")!.Value, "-?[0-9.]+")
+                .Select(match => Number(match.Value))];
+            Assert.Equal((0, 0, -map[0], 0), (map[1], map[2], map[3], Math.Round(map[4], 3)));
             Assert.DoesNotContain(root.Descendants(), element => element.Name.LocalName == "script");
             Assert.Equal(!shapes, root.Value.Contains("<script>&\"'", StringComparison.Ordinal));
         }
