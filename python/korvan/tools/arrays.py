@@ -8,6 +8,7 @@ from __future__ import annotations
 
 from collections.abc import Iterable, Iterator
 from dataclasses import dataclass
+from importlib import import_module
 from typing import Any
 
 from korvan._entity_rows import KINDS, entity_rows
@@ -35,10 +36,9 @@ COLUMNS: dict[str, tuple[str, ...]] = {
 
 def _numpy() -> Any:
     try:
-        import numpy
+        return import_module("numpy")
     except ImportError:
         return None
-    return numpy
 
 
 @dataclass(frozen=True)

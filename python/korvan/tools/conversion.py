@@ -6,13 +6,12 @@ import io
 import os
 import signal
 import stat
-import threading
 import time
 from collections.abc import Generator, Mapping, Sequence
 from contextlib import contextmanager
-from dataclasses import dataclass, field
 from pathlib import Path
 from types import FrameType
+from typing import NamedTuple
 
 from korvan.cad import Image, RasterImage
 from korvan.cad.fileformats.cad import CadDrawTypeMode, CadImage
@@ -28,8 +27,7 @@ from korvan.tools.settings import Settings, parse_color
 MODEL = "Model"
 
 
-@dataclass(frozen=True)
-class ConversionResult:
+class ConversionResult(NamedTuple):
     """What a conversion wrote."""
 
     output: Path
@@ -38,14 +36,13 @@ class ConversionResult:
     """Its format, such as PDF."""
     seconds: float
     """How long loading and saving took."""
-    warnings: list[str] = field(default_factory=list[str])
+    warnings: list[str]
     """What was left out or approximated, one line each."""
-    fonts: list[str] = field(default_factory=list[str])
+    fonts: list[str]
     """Fonts that were not available, with what replaced them."""
 
 
-@dataclass(frozen=True)
-class _Request:
+class _Request(NamedTuple):
     """The options of a conversion as they were given."""
 
     layouts: Sequence[str] | None
@@ -83,17 +80,18 @@ def used_layouts(drawing: CadImage) -> list[str]:
 @contextmanager
 def _deadline(seconds: float | None) -> Generator[None]:
     """Ends what runs inside by ``TimeoutError``, where signals can do so: in the main thread."""
-    if seconds is None or threading.current_thread() is not threading.main_thread():
-        yield
-        return
-    if signal.getsignal(signal.SIGALRM) not in (signal.SIG_DFL, signal.SIG_IGN):
-        yield  # the program has a timer of its own
+    if seconds is None or signal.getsignal(signal.SIGALRM) not in (signal.SIG_DFL, signal.SIG_IGN):
+        yield  # no limit, or the program has a timer of its own
         return
 
     def late(_number: int, _frame: FrameType | None) -> None:
         raise TimeoutError(f"takes longer than {seconds:g} s")
 
-    before = signal.signal(signal.SIGALRM, late)
+    try:
+        before = signal.signal(signal.SIGALRM, late)
+    except ValueError:  # not the main thread
+        yield
+        return
     signal.setitimer(signal.ITIMER_REAL, seconds)
     try:
         yield

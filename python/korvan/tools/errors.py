@@ -2,7 +2,6 @@
 
 from __future__ import annotations
 
-import difflib
 import re
 from collections.abc import Iterable, Sequence
 from fnmatch import fnmatchcase
@@ -24,6 +23,8 @@ def message_of(failure: BaseException) -> str:
 
 def nearest(name: str, known: Iterable[str], count: int = 3) -> list[str]:
     """The names most similar to one; case is ignored."""
+    import difflib  # only where something is wrong
+
     by_key: dict[str, str] = {}
     for one in known:
         by_key.setdefault(one.casefold(), one)

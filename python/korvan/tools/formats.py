@@ -4,10 +4,9 @@ from __future__ import annotations
 
 import os
 from collections.abc import Callable
-from dataclasses import dataclass
 from functools import cache
 from pathlib import Path
-from typing import Any
+from typing import Any, NamedTuple
 
 from korvan.cad import FileFormat, FileFormatCategory, imageoptions
 from korvan.cad.fileformats import FileFormatFamily, FileFormatInfo, SupportedFileFormats
@@ -21,8 +20,7 @@ _RELEASES = {
 }
 
 
-@dataclass(frozen=True)
-class Target:
+class Target(NamedTuple):
     """A format that is written."""
 
     name: str
@@ -62,26 +60,35 @@ class Target:
 
 
 @cache
+def _target(name: str) -> Target | None:
+    """What options of that name write; ``None`` where they write nothing, or are a base of others."""
+    kind: Any = getattr(imageoptions, name)
+    if not (name.endswith("Options") and ImageOptionsBase in getattr(kind, "__mro__", ())):
+        return None
+    try:
+        written: FileFormat = kind().target_format
+    except TypeError:
+        return None
+    if not SupportedFileFormats.Output.contains(written):
+        return None
+    info = FileFormatInfo.get(written)
+    extensions = tuple(extension.removeprefix(".") for extension in info.extensions)
+    return Target(name.removesuffix("Options").upper(), extensions, kind, info.category, info.family)
+
+
+@cache
 def targets() -> dict[str, Target]:
     """The formats that are written, by extension without its period."""
-    written = {int(info.format): info for info in SupportedFileFormats.Output.formats}
-    found: dict[str, Target] = {}
-    kind: Any
+    found = [target for name in dir(imageoptions) if (target := _target(name)) is not None]
+    return {extension: target for target in found for extension in target.extensions}
+
+
+def _find(extension: str) -> Target | None:
+    """The format of an extension. Options that are named like it are asked first: to ask all takes time."""
     for name in dir(imageoptions):
-        kind = getattr(imageoptions, name)
-        if not (name.endswith("Options") and ImageOptionsBase in getattr(kind, "__mro__", ())):
-            continue
-        try:
-            format_of_kind: FileFormat = kind().target_format
-        except TypeError:
-            continue  # a base of others
-        info: FileFormatInfo | None = written.get(int(format_of_kind))
-        if info is None:
-            continue
-        extensions = tuple(extension.removeprefix(".") for extension in info.extensions)
-        target = Target(name.removesuffix("Options").upper(), extensions, kind, info.category, info.family)
-        found.update(dict.fromkeys(extensions, target))
-    return found
+        if name.lower() == f"{extension}options" and (target := _target(name)) is not None:
+            return target
+    return targets().get(extension)
 
 
 def find_target(path: str | os.PathLike[str], to: str | None = None) -> Target:
@@ -90,10 +97,10 @@ def find_target(path: str | os.PathLike[str], to: str | None = None) -> Target:
     :raises ToolError: There is none, with the extensions that come near.
     """
     extension = (to if to is not None else Path(os.fspath(path)).suffix).lower().removeprefix(".")
-    known = targets()
-    if extension in known:
-        return known[extension]
+    found = _find(extension)
+    if found is not None:
+        return found
     if not extension:
         raise ToolError("the target has no extension: name the format (--to), such as pdf")
-    near = nearest(extension, known) or sorted(known)
+    near = nearest(extension, targets()) or sorted(targets())
     raise ToolError(f"{extension!r} is no format that is written; the nearest are {', '.join(near)}")
