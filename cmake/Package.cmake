@@ -56,11 +56,12 @@ add_custom_command(
   OUTPUT "${KORVAN_STAMPS}/wheel_runtime"
   COMMAND "${CMAKE_COMMAND}" -E rm -rf "${wheel_runtime}"
   COMMAND "${DOTNET}" publish "${CMAKE_SOURCE_DIR}/tools/packing/runtime/Runtime.csproj" ${KORVAN_DOTNET_FLAGS}
-    "--property:Assemblies=${KORVAN_ASSEMBLIES}" -o "${wheel_runtime}"
+    "--property:Assemblies=${KORVAN_ASSEMBLIES}" "--property:Probe=${CMAKE_BINARY_DIR}/testing/assemblies/probe"
+    -o "${wheel_runtime}"
   COMMAND "${CMAKE_COMMAND}" -E compare_files "${wheel_runtime}/libcoreclr.so" "${runtime_target}/libcoreclr.so"
   COMMAND "${CMAKE_COMMAND}" -E touch "${KORVAN_STAMPS}/wheel_runtime"
   DEPENDS "${KORVAN_STAMPS}/interop_cad" "${KORVAN_STAMPS}/interop_pyreflection" "${KORVAN_STAMPS}/runtime"
-    "${CMAKE_SOURCE_DIR}/tools/packing/runtime/Runtime.csproj"
+    "${KORVAN_STAMPS}/interop_probe" "${CMAKE_SOURCE_DIR}/tools/packing/runtime/Runtime.csproj"
   JOB_POOL dotnet COMMENT "Trimming the runtime for the wheel" VERBATIM)
 add_custom_target(wheel_runtime DEPENDS "${KORVAN_STAMPS}/wheel_runtime")
 

@@ -90,7 +90,7 @@ def stripped(path: Path) -> bytes:
 
 def own_files(package: Path) -> Contents:
     """What the build made, and the libraries of the runtime."""
-    contents = {}
+    contents: Contents = {}
     for path in sorted(package.rglob("*")):
         name = path.relative_to(package).as_posix()
         is_of_others = name.startswith(RUNTIME) and path.name not in RUNTIME_LIBRARIES
@@ -115,7 +115,7 @@ def carried_files(package: Path, substitutes: Path, info: str) -> Contents:
     needed = libraries.closure(opened | {libraries.ENCRYPTION})
     replaced = {name: substitutes / name for name in needed if (substitutes / name).exists()}
     contents: Contents = {}
-    sources = []
+    sources: list[tuple[Path, str]] = []
     with tempfile.TemporaryDirectory() as scratch:
         for library in libraries.carry(needed | replaced, Path(scratch)):
             name = f"korvan/libraries/{library.file.name}"
@@ -213,7 +213,7 @@ def print_sizes(wheel: Path) -> None:
 
 
 def main() -> int:
-    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser = argparse.ArgumentParser(description=str(__doc__).splitlines()[0])
     parser.add_argument("--build", type=Path, required=True, help="folder of the build")
     parser.add_argument("--out", type=Path, required=True, help="where to write the wheel")
     arguments = parser.parse_args()

@@ -15,7 +15,8 @@ internal static class OpenSsl
 
     private static readonly string[] Files = [CarriedName, "libssl.so.3", "libssl.so.1.1"];
 
-    private static readonly Lazy<bool> Found = new(() => Files.Any(static file => CarriedLibraries.TryLoad(file, out _)));
+    private static readonly Lazy<bool> Found =
+        new(static () => Files.Any(static file => CarriedLibraries.TryLoad(file, out _)));
 
     internal static void Require()
     {

@@ -17,12 +17,11 @@ static constexpr const char* doc_get_pyinstaller_hook_dirs =
     "Function required by PyInstaller. Returns paths to module\n"
     "PyInstaller hooks. Not intended to be called explicitly.\n\n";
 
-static PyMethodDef wrpPy_mlmd_821C260C_cad[] = {{"get_pyinstaller_hook_dirs",
-                                                 wrpPy_bltp_FFFFFFFF_get_pyinstaller_hook_dirs,
-                                                 METH_NOARGS, doc_get_pyinstaller_hook_dirs},
-                                                {"_entity_rows", cad_entity_rows, METH_VARARGS,
-                                                 doc_entity_rows},
-                                                {}};
+static PyMethodDef wrpPy_mlmd_821C260C_cad[] = {
+    {"get_pyinstaller_hook_dirs", wrpPy_bltp_FFFFFFFF_get_pyinstaller_hook_dirs, METH_NOARGS,
+     doc_get_pyinstaller_hook_dirs},
+    {"_entity_rows", cad_entity_rows, METH_VARARGS, doc_entity_rows},
+    {}};
 
 static PyModuleDef wrpPy_mlds_821C260C_cad = {PyModuleDef_HEAD_INIT,
                                               "korvan.cad",

@@ -47,8 +47,8 @@ PyObject* cad_entity_rows(PyObject*, PyObject* arguments) {
     }
     PyObject* arrays[array_count] = {};
     int width = 0;
-    const int status = host_slot<Collect>(host, collect)(entities.value, &kind_text, &layers_text,
-                                                         arrays, &width);
+    const int status =
+        host_slot<Collect>(host, collect)(entities.value, &kind_text, &layers_text, arrays, &width);
     const Ref owned[array_count] = {Ref::steal(arrays[0]), Ref::steal(arrays[1]),
                                     Ref::steal(arrays[2]), Ref::steal(arrays[3])};
     if (status != 0 || PyErr_Occurred() != nullptr) {

@@ -20,7 +20,7 @@ class EntityRows(NamedTuple):
     points. Meshes, which files store as POLYLINE too, are left out.
     """
 
-    values: memoryview
+    values: memoryview[float]
     """The floats, row after row (format ``d``)."""
     ends: memoryview
     """For each entity the number of rows up to its last one (``q``)."""

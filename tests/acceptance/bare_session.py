@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-import ctypes  # noqa: F401: its libraries are Python's
+import ctypes
 import io
 import re
 import sys
@@ -16,6 +16,7 @@ def loaded() -> set[Path]:
     return {Path(line.split()[-1]) for line in lines if ".so" in line}
 
 
+ctypes.CDLL(None)  # what this module needs is Python's
 of_python = loaded()
 
 from korvan import cad  # noqa: E402
@@ -42,7 +43,9 @@ with cad.Image.load(str(samples / "plan.dxf")) as plan:
     families = set(re.findall(rb"(DejaVu|Liberation)", text))
     assert families, "no carried face is in the document"
     # Sealed watermarks are encrypted.
-    plan.watermark_guard_service.embed("carried", "secret1234")
+    guard = plan.watermark_guard_service
+    assert guard is not None
+    guard.embed("carried", "secret1234")
 
 carried = {re.sub(r"-[0-9a-f]{8}(?=\.so)", "", path.name) for path in package.glob("libraries/**/*") if path.is_file()}
 for file in loaded() - of_python:

@@ -20,6 +20,8 @@ def checked(done: subprocess.CompletedProcess[str], step: str) -> str:
     if done.returncode != 0:
         print(done.stdout + done.stderr)
         sys.exit(f"{step}: ended with {done.returncode}")
+    if done.stderr.strip():
+        print(done.stderr)
     print(f"{step}: {(done.stdout.strip().splitlines() or ['done'])[-1]}", flush=True)
     return done.stdout
 

@@ -24,12 +24,15 @@ def main() -> int:
         shutil.rmtree(folder, ignore_errors=True)
     with zipfile.ZipFile(newest_wheel()) as wheel:
         wheel.extractall(package)
-    # The probe's assemblies lie beside those of the library, which the wheel has of its own.
+    # The probe's assemblies lie beside copies of the library's; all of them are taken as they were trimmed.
     shutil.copytree(build / "testing", testing)
-    for name in ("cad", "pyreflection"):
-        shutil.rmtree(testing / "assemblies" / name)
-        shutil.copytree(package / "korvan" / "assemblies" / name, testing / "assemblies" / name)
-    environment = {**os.environ, "KORVAN_PACKAGE": str(package), "KORVAN_TESTING": str(testing)}
+    for path in testing.glob("assemblies/*/*.dll"):
+        trimmed = build / "wheel-runtime" / path.name
+        if trimmed.is_file():
+            shutil.copy(trimmed, path)
+    # This interpreter was started with the folders of the build.
+    inherited = {name: value for name, value in os.environ.items() if name != "PYTHONPATH" and "NETCORE" not in name}
+    environment = {**inherited, "KORVAN_PACKAGE": str(package), "KORVAN_TESTING": str(testing)}
     command = ["ctest", "--preset", "release", "-R", "^python\\.", "-E", OTHER, "--output-on-failure"]
     return subprocess.run(command, cwd=ROOT, env=environment, check=False).returncode
 

@@ -44,7 +44,7 @@ def main(names: Sequence[str]) -> int:
         print(f"acceptance: there is no {', '.join(unknown)}", file=sys.stderr)
         return 2
     install()
-    summary = []
+    summary: list[tuple[str, str]] = []
     for check in checks:
         name = check.stem.removeprefix("check_")
         print(f"{name}:", flush=True)

@@ -223,6 +223,7 @@ class Names(unittest.TestCase):
 
 @unittest.skipUnless(SCRIPTED_PYTHON, "the library to preload was not named")
 class Libraries(unittest.TestCase):
+    @unittest.skipIf((PACKAGE / "libraries").is_dir(), "the installed package has the library")
     def test_cryptography_without_its_library_is_an_error(self) -> None:
         code = """
             import korvan.cad as cad

@@ -110,7 +110,7 @@ def freeze(root: Path) -> None:
 
 def hooks() -> dict[str, ModuleType]:
     """The hooks in the folders that the extension names, by the module that each is for."""
-    found = {}
+    found: dict[str, ModuleType] = {}
     for folder in korvan.cad.get_pyinstaller_hook_dirs():
         for path in Path(folder).glob("hook-*.py"):
             found[path.stem.removeprefix("hook-")] = load(path)

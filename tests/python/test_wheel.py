@@ -13,7 +13,7 @@ import zipfile
 from pathlib import Path
 
 from child import PACKAGE
-from drawings import ROOT, needs_tools
+from drawings import ROOT
 
 sys.path.insert(0, str(ROOT / "tools"))
 
@@ -48,8 +48,8 @@ class Files(unittest.TestCase):
             self.assertEqual(len(hooks.load()()), 6)
             (command,) = distribution.entry_points.select(group="console_scripts")
             self.assertEqual((command.name, command.value), ("korvan", "korvan.commands:main"))
-            self.assertEqual({str(file) for file in distribution.files or ()},
-                             {path.relative_to(installed).as_posix() for path in installed.rglob("*") if path.is_file()})
+            files = {path.relative_to(installed).as_posix() for path in installed.rglob("*") if path.is_file()}
+            self.assertEqual({str(file) for file in distribution.files or ()}, files)
 
     def test_assemblies_that_ours_lead_to_are_kept_and_others_are_not(self) -> None:
         needed = assemblies.needed(OURS, RUNTIME)
@@ -62,11 +62,12 @@ class Files(unittest.TestCase):
         sources += [(path, name) for name, path in libraries.closure(["libcairo.so.2"]).items()]
         components = licences.of_debian(sources) + licences.of_runtime("runtime")
         listed = json.loads(licences.listing(components))
-        self.assertEqual({file for entry in listed for file in entry["files"]}, {name for _, name in sources} | {"runtime"})
+        named = {file for entry in listed for file in entry["files"]}
+        self.assertEqual(named, {"runtime", *(name for _, name in sources)})
         self.assertEqual([component.name for component in components if not component.text.is_file()], [])
 
 
-@needs_tools("patchelf")
+@unittest.skipUnless(shutil.which("patchelf"), "not installed: patchelf")
 class Libraries(unittest.TestCase):
     """All libraries that the assemblies call, as they go into the wheel."""
 

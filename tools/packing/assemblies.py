@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import struct
 from collections.abc import Iterable
+from dataclasses import dataclass
 from pathlib import Path
 
 CORE = "System.Private.CoreLib"
@@ -13,29 +14,39 @@ NOT_LOADED = {
 }
 """References that nothing follows, with the reason. The suite of tests runs without these assemblies."""
 
-# Columns of the metadata tables up to that of references (ECMA-335, II.22): a number of bytes, a heap (s, g, b), or
-# the tables that an index leads to, with the bits that tell which.
-_TYPE = ("index", 2, 0x02, 0x01, 0x1B)
-_CONSTANT = ("index", 2, 0x04, 0x08, 0x17)
-_ATTRIBUTE_PARENT = (
-    "index", 5, 0x06, 0x04, 0x01, 0x02, 0x08, 0x09, 0x0A, 0x00, 0x0E, 0x17, 0x14, 0x11, 0x1A, 0x1B, 0x20, 0x23, 0x26,
-    0x27, 0x28, 0x2A, 0x2B, 0x2C,
-)  # fmt: skip
-_MARSHAL = ("index", 1, 0x04, 0x08)
-_SECURITY = ("index", 2, 0x02, 0x06, 0x20)
-_MEMBER_PARENT = ("index", 3, 0x02, 0x01, 0x1A, 0x06, 0x1B)
-_SEMANTICS = ("index", 1, 0x14, 0x17)
-_METHOD = ("index", 1, 0x06, 0x0A)
-_FORWARDED = ("index", 1, 0x04, 0x06)
-_ATTRIBUTE_TYPE = ("index", 3, 0x06, 0x0A)
-_SCOPE = ("index", 2, 0x00, 0x1A, 0x23, 0x01)
+
+@dataclass(frozen=True)
+class _Index:
+    """A column with a row of one of several tables, and the bits that tell of which."""
+
+    bits: int
+    tables: tuple[int, ...]
 
 
-def _row(table: int) -> tuple[str, int, *tuple[int, ...]]:
-    return ("index", 0, table)
+# Columns of the metadata tables up to that of references (ECMA-335, II.22): a number of bytes, a heap (s, g, b), or an
+# index of rows.
+type _Column = int | str | _Index
+_TYPE = _Index(2, (0x02, 0x01, 0x1B))
+_CONSTANT = _Index(2, (0x04, 0x08, 0x17))
+_ATTRIBUTE_PARENT = _Index(5, (
+    0x06, 0x04, 0x01, 0x02, 0x08, 0x09, 0x0A, 0x00, 0x0E, 0x17, 0x14, 0x11, 0x1A, 0x1B, 0x20, 0x23, 0x26, 0x27, 0x28,
+    0x2A, 0x2B, 0x2C,
+))  # fmt: skip
+_MARSHAL = _Index(1, (0x04, 0x08))
+_SECURITY = _Index(2, (0x02, 0x06, 0x20))
+_MEMBER_PARENT = _Index(3, (0x02, 0x01, 0x1A, 0x06, 0x1B))
+_SEMANTICS = _Index(1, (0x14, 0x17))
+_METHOD = _Index(1, (0x06, 0x0A))
+_FORWARDED = _Index(1, (0x04, 0x06))
+_ATTRIBUTE_TYPE = _Index(3, (0x06, 0x0A))
+_SCOPE = _Index(2, (0x00, 0x1A, 0x23, 0x01))
 
 
-_TABLES: dict[int, tuple[object, ...]] = {
+def _row(table: int) -> _Index:
+    return _Index(0, (table,))
+
+
+_TABLES: dict[int, tuple[_Column, ...]] = {
     0x00: (2, "s", "g", "g", "g"),
     0x01: (_SCOPE, "s", "s"),
     0x02: (4, "s", "s", _TYPE, _row(0x04), _row(0x06)),
@@ -109,21 +120,19 @@ class _Metadata:
         at = root + 16 + struct.unpack_from("<I", self._data, root + 12)[0]
         count = struct.unpack_from("<H", self._data, at + 2)[0]
         at += 4
-        streams = {}
+        streams: dict[str, int] = {}
         for _ in range(count):
             end = self._data.index(0, at + 8)
             streams[self._data[at + 8 : end].decode()] = root + struct.unpack_from("<I", self._data, at)[0]
             at += 8 + ((end - at - 8) // 4 + 1) * 4
         return streams
 
-    def _width(self, column: object) -> int:
+    def _width(self, column: _Column) -> int:
         if isinstance(column, int):
             return column
         if isinstance(column, str):
             return self._heaps[column]
-        assert isinstance(column, tuple)
-        _, bits, *tables = column
-        return 4 if max(self._rows[table] for table in tables) >= 1 << (16 - bits) else 2
+        return 4 if max(self._rows[table] for table in column.tables) >= 1 << (16 - column.bits) else 2
 
     def strings(self, table: int, column: int) -> list[str]:
         """The strings of a column of a table."""
@@ -133,7 +142,7 @@ class _Metadata:
                 at += self._rows[earlier] * sum(self._width(each) for each in _TABLES[earlier])
         widths = [self._width(each) for each in _TABLES[table]]
         before, size, string = sum(widths[:column]), sum(widths), self._heaps["s"]
-        names = []
+        names: list[str] = []
         for row in range(self._rows[table]):
             place = at + row * size + before
             start = self._names + int.from_bytes(self._data[place : place + string], "little")

@@ -40,7 +40,7 @@ class Elf:
     def __init__(self, path: Path) -> None:
         self.path = path
         self.data = bytearray(path.read_bytes())
-        if self.data[:6] != b"\x7fELF\x02\x01":
+        if bytes(self.data[:6]) != b"\x7fELF\x02\x01":
             raise ValueError(f"{path} is no 64-bit little-endian ELF file")
         start, size, count = struct.unpack_from("<Q14xHH", self.data, 32)
         headers = [struct.unpack_from("<IIQQQQ", self.data, start + size * i) for i in range(count)]
@@ -83,7 +83,7 @@ class Elf:
     @property
     def versions(self) -> list[Version]:
         """The versions of symbols that the file needs."""
-        found = []
+        found: list[Version] = []
         at = self._offset(self._dynamic[VERNEED][0]) if VERNEED in self._dynamic else 0
         for _ in range(self._dynamic.get(VERNEEDNUM, [0])[0]):
             _, count, library, entries, following = struct.unpack_from("<HHIII", self.data, at)
@@ -98,7 +98,7 @@ class Elf:
     def symbols(self, version: Version) -> dict[str, int]:
         """The symbols that are needed in a version, and where each refers to it."""
         names, indices = (self._offset(self._dynamic[tag][0]) for tag in (SYMTAB, VERSYM))
-        found = {}
+        found: dict[str, int] = {}
         # The symbols end where the strings begin, in files of both linkers in use.
         count = (self._offset(self._dynamic[STRTAB][0]) - names) // SYMBOL_SIZE
         for i in range(count):

@@ -90,9 +90,9 @@ def _carried_name(name: str, path: Path) -> str:
 
 def _lower(elf: Elf) -> list[str]:
     """Makes a library fit the policy; the libraries that it needs on top for that."""
-    added = []
+    added: list[str] = []
     for version in filter(exceeds_policy, elf.versions):
-        older = set()
+        older: set[str] = set()
         for symbol, place in elf.symbols(version).items():
             if symbol in OLDER:
                 older.add(OLDER[symbol])
@@ -110,13 +110,15 @@ def _lower(elf: Elf) -> list[str]:
 def carry(libraries: dict[str, Path], folder: Path) -> list[Library]:
     """Writes the libraries into a folder, so that they find each other and fit the policy."""
     names = {name: _carried_name(name, path) for name, path in libraries.items()}
-    carried = []
+    carried: list[Library] = []
     for name, path in libraries.items():
         elf = Elf(path)
         added = _lower(elf)
         target = folder / names[name]
         target.write_bytes(elf.data)
-        replaced = [part for needed in elf.needed if needed in names for part in ("--replace-needed", needed, names[needed])]
+        replaced: list[str] = []
+        for needed in elf.needed:
+            replaced += ["--replace-needed", needed, names[needed]] if needed in names else []
         # One step at a time: the program loses changes of names that it makes beside others.
         for step in (replaced, *(["--add-needed", names[needed]] for needed in added),
                      ["--set-soname", names[name]], ["--set-rpath", "$ORIGIN"]):  # fmt: skip

@@ -18,7 +18,7 @@ class Component:
     version: str
     licences: list[str]
     text: Path
-    files: list[str] = field(default_factory=list)
+    files: list[str] = field(default_factory=list[str])
 
 
 def _package_of(path: Path) -> str:

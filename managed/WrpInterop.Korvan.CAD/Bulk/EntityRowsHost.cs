@@ -10,8 +10,8 @@ namespace Korvan.WrpGen.Interop;
 /// <summary>Hands the numbers of all entities of a kind to Python in one call.</summary>
 public static unsafe class EntityRowsHost
 {
-    /// <summary>Fills the places of four bytearrays (rows, ends, indices, closed), each a new reference or 0 after an error, and of the
-    /// number of columns. Layers are separated by line breaks; null for all.</summary>
+    /// <summary>Fills the places of four bytearrays (rows, ends, indices, closed), each a new reference or 0 after an
+    /// error, and of the number of columns. Layers are separated by line breaks; null for all.</summary>
     [UnmanagedCallersOnly]
     public static int call_Collect(
         nint source, PyStringArg* kind, PyStringArg* layers, nint* arrays, int* width)
