@@ -23,7 +23,7 @@ from korvan.batch.summary import Summary
 from korvan.batch.watching import Watcher
 from korvan.batch.workers import Pool, command_environment
 
-SHARD_SIZES = {"processes": 20_000, "slurm": 1_000, "commands": 1_000}
+SHARD_SIZES = {"processes": 5_000, "slurm": 1_000, "commands": 1_000}
 ATTEMPTS = 3  # jobs, one after the other, that finish no shard
 LAYOUT = 1  # version of the folder of a batch
 

@@ -150,7 +150,8 @@ def _headings() -> str:
 def _line(row: Row, to_results: str) -> str:
     image = ""
     if row["thumbnail"]:
-        image = f'<img alt="" loading="lazy" src="data:image/png;base64,{base64.b64encode(row["thumbnail"]).decode()}">'
+        data = base64.b64encode(row["thumbnail"]).decode()
+        image = f'<img alt="" loading="lazy" src="data:image/webp;base64,{data}">'
     name = escape(printable(row["path"]))
     if row["state"] == "done":
         name = f'<a href="{to_results}/{escape(quote(row["target"]))}">{name}</a>'

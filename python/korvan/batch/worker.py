@@ -25,7 +25,9 @@ from korvan.batch.errors import FULL, reason
 THUMBNAIL = (160.0, 120.0)
 SLOW = 10.0  # who waited so long for a result is not to wait as long again for its thumbnail
 NEARLY_FULL = 1 << 16
+FOLDERS = 10_000  # that are remembered
 _DIE_WITH_PARENT = 1
+_folders: set[str] = set()
 
 
 class Refused(Exception):
@@ -134,11 +136,20 @@ def _refuse_full(failure: BaseException, folder: str) -> None:
         raise Refused("full", "No space left on device") from failure
 
 
+def _make_folder(path: str) -> None:
+    """Makes sure of a folder, without asking a file server each time for one that this process has seen."""
+    if path not in _folders:
+        os.makedirs(path, exist_ok=True)
+        if len(_folders) == FOLDERS:
+            _folders.clear()
+        _folders.add(path)
+
+
 def _move(result: Path, target: str, *, replace: bool) -> os.stat_result:
     """Moves a result in place, after the files that belong to it."""
     folder = os.path.dirname(target)
     try:
-        os.makedirs(folder, exist_ok=True)
+        _make_folder(folder)
         for name in sorted(os.listdir(result.parent), key=lambda name: name == result.name):
             place = target if name == result.name else os.path.join(folder, name)
             if not replace and os.path.lexists(place):
@@ -146,15 +157,17 @@ def _move(result: Path, target: str, *, replace: bool) -> os.stat_result:
             os.replace(result.parent / name, place)
         return os.stat(target)
     except OSError as failure:
+        _folders.discard(folder)  # the next file may make it again
         _refuse_full(failure, str(result.parent))
         raise Refused("output", f"{folder}: {reason(failure)}") from failure
 
 
 def _thumbnail(source: str) -> bytes | None:
     from korvan.cad import Image
-    from korvan.cad.imageoptions import CadRasterizationOptions, PngOptions
+    from korvan.cad.imageoptions import CadRasterizationOptions, WebPOptions
 
-    options, page = PngOptions(), CadRasterizationOptions()
+    options, page = WebPOptions(), CadRasterizationOptions()
+    options.lossless, options.quality = False, 50.0  # thin lines take five times the bytes as PNG
     page.page_width, page.page_height = THUMBNAIL
     options.vector_rasterization_options = page
     stream = io.BytesIO()
@@ -175,7 +188,7 @@ def _result(task: dict[str, Any]) -> dict[str, Any]:
     scratch = Path(task["scratch"])
     start = time.perf_counter()
     try:
-        scratch.mkdir(parents=True, exist_ok=True)
+        _make_folder(str(scratch))
         result = scratch / os.path.basename(target)
         reply["warnings"] = _convert(source, result, task)
     except OSError as failure:
@@ -204,6 +217,7 @@ def work(task: dict[str, Any]) -> dict[str, Any]:
     except Exception as failure:  # a fault of ours costs no more than a file
         reply = {"state": "failed", "kind": "fault", "error": f"{type(failure).__name__}: {failure}"}
     if reply["state"] == "failed":
+        _folders.discard(task["scratch"])
         shutil.rmtree(task["scratch"], ignore_errors=True)  # what was begun is not to be moved with the next result
     return {**reply, "seconds": time.perf_counter() - start, "memory": _status("VmHWM"), "resident": _status("VmRSS")}
 

@@ -54,7 +54,7 @@ def add_parser(subparsers: Any) -> None:
     cluster.add_argument("--engine", choices=("processes", "slurm", "commands"), default="processes",
                          help="processes of this machine, a Slurm job array, or a line for a shell for each shard")
     cluster.add_argument("--shard-size", type=int, default=0, metavar="N",
-                         help="files of a shard, as a new batch is begun (default: 20000, on clusters 1000)")
+                         help="files of a shard, as a new batch is begun (default: 5000, on clusters 1000)")
     cluster.add_argument("--sbatch", action="append", default=[], metavar="OPTIONS", help="options for sbatch")
     cluster.add_argument("--tasks", type=int, default=0, metavar="N",
                          help="tasks of the job array (default: one a shard)")
