@@ -58,7 +58,7 @@ class Opening(InFolder):
                             (self.out / "bad.dxf", "no known format")):
             with self.subTest(path.name), self.assertRaisesRegex(ToolError, words):
                 open_drawing(path)
-        with self.assertRaisesRegex(ToolError, "is a DxfImage, not a IfcImage"):
+        with self.assertRaisesRegex(ToolError, r"is a drawing \(DxfImage\), not a building model \(IfcImage\)"):
             open_drawing(PLAN, IfcImage)
 
     @needs_shared
