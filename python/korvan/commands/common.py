@@ -39,7 +39,7 @@ def add_json(parser: argparse.ArgumentParser) -> None:
 
 
 def add_files(parser: argparse.ArgumentParser, what: str = "drawings") -> None:
-    parser.add_argument("files", nargs="+", metavar="FILE", help=f"{what}; folders stand for the drawings in them")
+    parser.add_argument("files", nargs="+", metavar="FILE", help=f"{what}; a folder means the drawings in it and below")
 
 
 def expand(paths: Iterable[str], extensions: tuple[str, ...] = EXTENSIONS) -> Iterator[str]:
@@ -54,7 +54,7 @@ def expand(paths: Iterable[str], extensions: tuple[str, ...] = EXTENSIONS) -> It
 
 
 def each(paths: Sequence[str], work: Callable[[str], Item]) -> Iterator[tuple[str, Item]]:
-    """The results of some work on files. A file that fails gives a line on stderr, and no result."""
+    """The results of some work on files. For a file that fails, an error is printed."""
     from korvan.tools.errors import ToolError
 
     for path in paths:

@@ -59,7 +59,7 @@ def _find(path: str, kind: str, wanted: str | None, own: bool) -> list[dict[str,
 
 
 def _text(value: object) -> object:
-    """A value as it stands in a cell."""
+    """A value as the content of a cell."""
     if value is None:
         return ""
     if isinstance(value, list):

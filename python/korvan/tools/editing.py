@@ -189,7 +189,7 @@ def copy_entities(
 ) -> list[Any]:
     """Copies entities to another drawing, or within one, with the layers, styles and blocks that they need.
 
-    Images, underlays, tables and viewports stay behind, as they refer to objects of their own drawing.
+    Images, underlays, tables and viewports are not copied, as they refer to objects of their own drawing.
 
     :param entities: What is copied, such as the result of a query.
     :param source: The drawing that they are from.

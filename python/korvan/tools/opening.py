@@ -96,11 +96,11 @@ def load(source: str | os.PathLike[str], options: LoadOptions | None = None) -> 
 
 
 def _describe(kind: type[Image]) -> str:
-    """A class of images in words."""
+    """A class of images as messages name it."""
     names = ((CadImage, "a drawing"), (CgmImage, "a metafile"), (IfcImage, "a building model"),
              (RasterImage, "a raster image"))
-    words = next((words for base, words in names if issubclass(kind, base)), "a file")
-    return f"{words} ({kind.__name__})"
+    name = next((name for base, name in names if issubclass(kind, base)), "a file")
+    return f"{name} ({kind.__name__})"
 
 
 @overload

@@ -85,7 +85,7 @@ def _parse(current: object, text: str) -> Any:
 
 
 def _assign_unknown(target: Any, member: str, text: str) -> None:
-    """Sets a member that has no value yet, of which only the error of a wrong value tells the class."""
+    """Sets a member that has no value yet, whose class only the error of a wrong value names."""
     try:
         setattr(target, member, text)
     except TypeError as failure:
