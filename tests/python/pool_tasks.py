@@ -13,6 +13,6 @@ def work(task: str) -> object:
     actions: dict[str, Callable[[], object]] = {
         "killed": lambda: os.kill(os.getpid(), signal.SIGKILL), "exits": lambda: os._exit(3),
         "hangs": lambda: time.sleep(600), "raises": lambda: [][1], "cannot be sent": lambda: lambda: None,
-        "takes memory": lambda: time.sleep(600 * len(bytearray(1 << 30))), "pid": os.getpid,
+        "takes memory": lambda: time.sleep(600 * len(bytearray(1 << 29))), "pid": os.getpid,
     }
     return actions.get(task, lambda: task.upper())()

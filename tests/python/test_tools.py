@@ -9,12 +9,13 @@ import unittest
 from collections import Counter
 from pathlib import Path
 
-from korvan.cad import RasterImage
+from korvan.cad import CodePages, Color, LoadOptions, RasterImage
 from korvan.cad.fileformats.cad import CadImage, DxfImage
 from korvan.cad.fileformats.cad.cadobjects import (
     Cad2DPoint, Cad3DPoint, CadArc, CadCircle, CadInsertObject, CadLine, CadLwPolyline, CadText)
 from korvan.cad.fileformats.cgm import CgmImage
 from korvan.cad.fileformats.ifc import IfcImage
+from korvan.cad.imageoptions import CadRasterizationOptions, TiffOptions
 from korvan.tools import (
     ToolError, Transform, add_diameter_dimension, add_linear_dimension, add_radius_dimension, audit, blocks, cast,
     convert, copy_entities, differences, entities, extents, measure, measure_layers, merge, open_drawing, overlay,
@@ -22,6 +23,7 @@ from korvan.tools import (
 from korvan.tools.formats import find_target, targets
 from korvan.tools.pages import paper_size, parse_size
 from korvan.tools.properties import elements
+from korvan.tools.settings import Settings
 
 from drawings import EXAMPLES, SHARED, Png, needs_shared
 
@@ -58,7 +60,7 @@ class Opening(InFolder):
                             (self.out / "bad.dxf", "no known format")):
             with self.subTest(path.name), self.assertRaisesRegex(ToolError, words):
                 open_drawing(path)
-        with self.assertRaisesRegex(ToolError, "is a DxfImage, not a IfcImage"):
+        with self.assertRaisesRegex(ToolError, r"is a drawing \(DxfImage\), not a building model \(IfcImage\)"):
             open_drawing(PLAN, IfcImage)
 
     @needs_shared
@@ -142,6 +144,31 @@ class Converting(InFolder):
         drawing = convert(PLAN, self.out / "a.dxf", release="R2000").output
         with open_drawing(drawing, CadImage) as found:
             self.assertEqual(found.version.name, "AC1015")
+
+    def test_settings_are_parsed_by_what_a_member_takes(self) -> None:
+        options, page, load = TiffOptions(), CadRasterizationOptions(), LoadOptions()
+        settings = Settings({
+            "tiff.bits_per_sample": "8, 8, 8", "tiff.compression": "lzw", "MultiPageOptions.pages": "0,2",
+            "TiffOptions.userWatermarkText": "draft", "tiff.user_watermark_color": "#102030", "tiff.timeout": "5",
+            "page.relative_position": "0.5,0.25", "page.shx_code_pages": "GREEK,THAI", "page.layers": "A, B",
+            "ObserverPoint.rotation_angle_x": "30", "page.no_scaling": "yes", "ResolutionSetting.vertical_resolution":
+            "200", "load.specified_encoding": "cyrillic", "VectorizationOptions.threshold": "99"})
+        settings.apply_to_load(load)
+        settings.apply(options, page)
+        self.assertEqual((list(options.bits_per_sample), options.user_watermark_text, options.timeout),
+                         ([8, 8, 8], "draft", 5))
+        self.assertEqual(options.user_watermark_color, Color.from_argb(16, 32, 48))
+        self.assertEqual(list(options.multi_page_options.pages), [0, 2])
+        self.assertEqual(options.resolution_settings.vertical_resolution, 200)
+        self.assertEqual((page.relative_position.x, page.no_scaling, list(page.layers)), (0.5, True, ["A", "B"]))
+        self.assertEqual(list(page.shx_code_pages), [CodePages.GREEK, CodePages.THAI])
+        self.assertEqual(page.observer_point.rotation_angle_x, 30)
+        self.assertEqual(load.specified_encoding, CodePages.CYRILLIC)
+        self.assertEqual(load.vectorization_options.threshold, 99)
+        for key, value in (("page.zoom", "x"), ("page.zoom", "-1"), ("page.page_size", "1"), ("page.no_scaling", "2"),
+                           ("tiff.render_result", "x"), ("page.margins", "5")):
+            with self.subTest(key), self.assertRaises(ToolError):
+                Settings({key: value}).apply(options, page)
 
     def test_names_that_are_no_text_are_names(self) -> None:
         source = os.fsdecode(os.fsencode(self.out / "a") + b"\xff.dxf")

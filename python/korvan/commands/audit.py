@@ -8,7 +8,7 @@ from collections import Counter
 from functools import partial
 from typing import Any
 
-from korvan.commands.common import Usage, add_files, add_json, each, expand, parser_for, print_json
+from korvan.commands.common import DRAWINGS, Usage, add_files, add_json, each, expand, parser_for, print_json
 
 _EXAMPLES = """  korvan audit plan.dxf
   korvan audit --summary archive/
@@ -92,7 +92,7 @@ def _print(path: str, found: list[Any], summary: bool) -> None:
 def run(arguments: argparse.Namespace) -> int:
     if arguments.fix != (arguments.out is not None):
         raise Usage("--fix and -o OUT belong together")
-    paths = list(expand(arguments.files))
+    paths = list(expand(arguments.files, DRAWINGS))
     if arguments.fix and len(paths) > 1 and not (arguments.out.endswith("/") or os.path.isdir(arguments.out)):
         raise Usage(f"{arguments.out} is not a folder, but there are {len(paths)} files: write {arguments.out}/")
     if arguments.fix and arguments.out.endswith("/"):

@@ -7,7 +7,7 @@ from collections import Counter
 from functools import partial
 from typing import Any
 
-from korvan.commands.common import add_files, add_json, each, expand, parser_for, print_json, table
+from korvan.commands.common import DRAWINGS, add_files, add_json, each, expand, parser_for, print_json, table
 
 _EXAMPLES = """  korvan blocks plan.dxf
   korvan blocks --unused *.dwg
@@ -93,7 +93,7 @@ def _run_attributes(arguments: argparse.Namespace, paths: list[str]) -> int:
 
 
 def run(arguments: argparse.Namespace) -> int:
-    paths = list(expand(arguments.files))
+    paths = list(expand(arguments.files, DRAWINGS))
     if arguments.attributes is not None:
         return _run_attributes(arguments, paths)
     count = 0

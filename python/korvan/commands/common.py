@@ -12,7 +12,9 @@ from collections.abc import Callable, Iterable, Iterator, Sequence
 from typing import Any, TypeVar
 
 Item = TypeVar("Item")
-EXTENSIONS = (".dxf", ".dwg", ".dwt", ".cgm", ".ifc", ".ifczip", ".ifcxml")
+DRAWINGS = (".dxf", ".dwg", ".dwt")
+MODELS = (".ifc", ".ifczip", ".ifcxml")
+EXTENSIONS = (*DRAWINGS, *MODELS, ".cgm")
 
 
 class Usage(Exception):
@@ -37,22 +39,22 @@ def add_json(parser: argparse.ArgumentParser) -> None:
 
 
 def add_files(parser: argparse.ArgumentParser, what: str = "drawings") -> None:
-    parser.add_argument("files", nargs="+", metavar="FILE", help=f"{what}; folders stand for the drawings in them")
+    parser.add_argument("files", nargs="+", metavar="FILE", help=f"{what}; a folder means the drawings in it and below")
 
 
-def expand(paths: Iterable[str]) -> Iterator[str]:
-    """The files, and the drawings in folders and below, in the order of their names."""
+def expand(paths: Iterable[str], extensions: tuple[str, ...] = EXTENSIONS) -> Iterator[str]:
+    """The files, and those with the extensions in folders and below, in the order of their names."""
     for path in paths:
         if not os.path.isdir(path):
             yield path
             continue
         for folder, folders, names in os.walk(path):
             folders.sort()
-            yield from (os.path.join(folder, name) for name in sorted(names) if name.lower().endswith(EXTENSIONS))
+            yield from (os.path.join(folder, name) for name in sorted(names) if name.lower().endswith(extensions))
 
 
 def each(paths: Sequence[str], work: Callable[[str], Item]) -> Iterator[tuple[str, Item]]:
-    """The results of some work on files. A file that fails gives a line on stderr, and no result."""
+    """The results of some work on files. For a file that fails, an error is printed."""
     from korvan.tools.errors import ToolError
 
     for path in paths:

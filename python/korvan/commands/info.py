@@ -17,7 +17,7 @@ _SHOWN = 12
 
 
 def add_parser(subparsers: Any) -> None:
-    parser = parser_for(subparsers, "info", "Tells what is in drawings: release, units, extents, layers, fonts.",
+    parser = parser_for(subparsers, "info", "Shows what is in drawings: release, units, extents, layers, fonts.",
                         _EXAMPLES)
     add_files(parser)
     parser.add_argument("--quick", action="store_true",

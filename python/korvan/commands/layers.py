@@ -6,7 +6,7 @@ import argparse
 from functools import partial
 from typing import Any
 
-from korvan.commands.common import add_files, add_json, each, expand, parser_for, print_json, table
+from korvan.commands.common import DRAWINGS, add_files, add_json, each, expand, parser_for, print_json, table
 
 _EXAMPLES = """  korvan layers plan.dxf
   korvan layers plan.dxf --match 'WALL*'
@@ -46,7 +46,7 @@ def _row(layer: dict[str, Any]) -> tuple[object, ...]:
 
 
 def run(arguments: argparse.Namespace) -> int:
-    paths = list(expand(arguments.files))
+    paths = list(expand(arguments.files, DRAWINGS))
     count = 0
     for path, found in each(paths, partial(_find, match=arguments.match, empty=arguments.empty)):
         if arguments.json:

@@ -9,7 +9,7 @@ from collections.abc import Iterable, Mapping
 from functools import partial
 from typing import Any
 
-from korvan.commands.common import add_files, add_json, each, expand, parser_for, print_json
+from korvan.commands.common import MODELS, add_files, add_json, each, expand, parser_for, print_json
 
 _EXAMPLES = """  korvan properties house.ifc > house.csv
   korvan properties house.ifc --type IfcWall --set 'Pset_*'
@@ -59,7 +59,7 @@ def _find(path: str, kind: str, wanted: str | None, own: bool) -> list[dict[str,
 
 
 def _text(value: object) -> object:
-    """A value as it stands in a cell."""
+    """A value as the content of a cell."""
     if value is None:
         return ""
     if isinstance(value, list):
@@ -79,7 +79,7 @@ def _rows(path: str, found: list[dict[str, Any]], wide: bool) -> Iterable[dict[s
 
 
 def run(arguments: argparse.Namespace) -> int:
-    paths = list(expand(arguments.files))
+    paths = list(expand(arguments.files, MODELS))
     rows: list[dict[str, object]] = []
     count = 0
     work = partial(_find, kind=arguments.type, wanted=arguments.set, own=arguments.own)

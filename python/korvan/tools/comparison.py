@@ -169,7 +169,7 @@ def differences(before: Image, after: Image, *, digits: int = 6) -> list[Differe
     if isinstance(before, IfcImage) and isinstance(after, IfcImage):
         return list(_models(before, after))
     raise ToolError(f"a {type(before).__name__} and a {type(after).__name__} are not compared: "
-                    "give two drawings, or two building models")
+                    "compare two drawings, or two building models")
 
 
 def _frame(drawings: Iterable[CadImage]) -> tuple[float, float, float, float] | None:
@@ -187,7 +187,7 @@ def _gray(drawing: CadImage, frame: tuple[float, float, float, float] | None, wi
           ) -> tuple[int, int, bytes]:
     """Width, height and lightness of the pixels of model space, black on white."""
     if frame is not None:
-        for x, y in (frame[:2], frame[2:]):  # dots at the corners give both the same extents
+        for x, y in (frame[:2], frame[2:]):  # with dots at the corners, both have the same extents
             dot = CadLine()
             dot.first_point = dot.second_point = Cad3DPoint(x, y, 0.0)
             drawing.add_entity(dot)

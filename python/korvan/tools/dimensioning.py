@@ -146,7 +146,7 @@ def add_linear_dimension(
     :param through: A point of the dimension line.
     :param angle: The direction of the dimension line in degrees, 0 for horizontal; by default that of the points.
     :param style: The name of the dimension style.
-    :param text: A text instead of the measurement; ``<>`` in it stands for the measurement.
+    :param text: A text instead of the measurement; ``<>`` in it is replaced by the measurement.
     :param layer: The name of the layer.
     :raises ToolError: There is no such style.
     """

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import re
 from collections.abc import Iterable
 from typing import Any, Literal
 
@@ -50,6 +51,9 @@ def _handle(drawing: CadImage, record: Any) -> str:
     return str(record.object_handle)
 
 
+_RESERVED = re.compile(r"""[<>/\\":;?*|=`\x00-\x1f]""")
+
+
 class _Copier:
     """Copies from one drawing to another; knows which names got another one there."""
 
@@ -67,6 +71,8 @@ class _Copier:
         if found is None:
             return name
         there: Any = getattr(self.target, table)
+        # Files may have names that cannot be given, such as those of programs with an asterisk.
+        name = self._names[key] = _RESERVED.sub("_", name)
         other = there.find(name)
         if other is not None:
             # One of a layer or style of the same name is enough, even where its colour differs.
@@ -183,7 +189,7 @@ def copy_entities(
 ) -> list[Any]:
     """Copies entities to another drawing, or within one, with the layers, styles and blocks that they need.
 
-    Images, underlays, tables and viewports stay behind, as they refer to objects of their own drawing.
+    Images, underlays, tables and viewports are not copied, as they refer to objects of their own drawing.
 
     :param entities: What is copied, such as the result of a query.
     :param source: The drawing that they are from.

@@ -95,6 +95,14 @@ def load(source: str | os.PathLike[str], options: LoadOptions | None = None) -> 
     return cast(image)
 
 
+def _describe(kind: type[Image]) -> str:
+    """A class of images as messages name it."""
+    names = ((CadImage, "a drawing"), (CgmImage, "a metafile"), (IfcImage, "a building model"),
+             (RasterImage, "a raster image"))
+    name = next((name for base, name in names if issubclass(kind, base)), "a file")
+    return f"{name} ({kind.__name__})"
+
+
 @overload
 def open_drawing(
     source: str | os.PathLike[str], kind: type[AnyImage], *, fonts: Iterable[str | os.PathLike[str]] = (),
@@ -122,7 +130,7 @@ def open_drawing(
     """
     image = load(source, load_options(fonts, tolerant))
     if kind is not None and not isinstance(image, kind):
-        name = type(image).__name__
+        found = type(image)
         image.dispose()
-        raise ToolError(f"is a {name}, not a {kind.__name__}")
+        raise ToolError(f"is {_describe(found)}, not {_describe(kind)}")
     return image

@@ -123,7 +123,7 @@ class _Worker:
         self.memory = 0
         self.count = 0
 
-    def give(self, function: Callable[[Any], Any], task: Any) -> None:
+    def assign(self, function: Callable[[Any], Any], task: Any) -> None:
         self.task, self.is_busy, self.started, self.memory = task, True, time.monotonic(), 0
         self.count += 1
         self.pipe.send((function, task))
@@ -195,7 +195,7 @@ class Pool:
         try:
             while True:
                 queue.extend(islice(waiting, self._size - len(queue)))
-                self._give(function, queue)
+                self._assign(function, queue)
                 if not queue and not any(worker.is_busy for worker in self._workers):
                     return
                 yield from self._collect()
@@ -204,14 +204,14 @@ class Pool:
                 worker.kill()
                 self._workers.remove(worker)
 
-    def _give(self, function: Callable[[Any], Any], queue: deque[Any]) -> None:
-        """Gives tasks to workers that are free, and starts as many more as there are tasks."""
+    def _assign(self, function: Callable[[Any], Any], queue: deque[Any]) -> None:
+        """Assigns tasks to workers that are free, and starts as many more as there are tasks."""
         for worker in [one for one in self._workers if one.is_ready and not one.is_busy]:
             if not queue:
                 return
             try:
                 if worker.process.is_alive():
-                    worker.give(function, queue[0])
+                    worker.assign(function, queue[0])
                     queue.popleft()
                     continue
             except OSError:
@@ -223,7 +223,7 @@ class Pool:
             self._workers.append(_Worker(self._imports))
 
     def _collect(self) -> Iterator[Outcome[Any, Any]]:
-        """Waits a moment for answers, and looks after the workers."""
+        """Waits a moment for answers, and checks time and memory of the workers."""
         watched = {worker.pipe: worker for worker in self._workers if worker.is_busy or not worker.is_ready}
         ready = wait(list(watched), _WATCH)
         for pipe, worker in watched.items():

@@ -12,7 +12,7 @@ Sets = dict[str, dict[str, Any]]
 
 
 def _plain(value: Any) -> Any:
-    """A value without the type that the schema gives it."""
+    """The plain value of a typed value of the schema."""
     while hasattr(value, "value") and not isinstance(value, (str, int, float, bool)):
         value = value.value
     if hasattr(value, "__len__") and not isinstance(value, (str, bytes, bytearray)):

@@ -8,9 +8,9 @@ from collections.abc import Callable, Mapping
 from importlib import import_module
 from typing import Any
 
-from korvan.cad import Color, ColorTranslator, LoadOptions, ResolutionSetting
+from korvan.cad import Color, ColorTranslator, LoadOptions, PointF, Rectangle, ResolutionSetting, SizeF
 from korvan.cad.imageoptions import ImageOptionsBase, VectorRasterizationOptions
-from korvan.tools.errors import ToolError, nearest, unknown
+from korvan.tools.errors import ToolError, message_of, nearest, unknown
 
 # Options that are part of others: their class, whose they are, and the member that has them.
 _PARTS = {
@@ -22,9 +22,12 @@ _PARTS = {
     "PenOptions": ("raster", "pen_options"),
     "Margins": ("raster", "margins"),
     "RasterizationQuality": ("raster", "quality"),
+    "ObserverPoint": ("raster", "observer_point"),
+    "RdOptimizerSettings": ("options", "rd_opt_settings"),
+    "VectorizationOptions": ("load", "vectorization_options"),
 }
 _ALIASES = {"load": "LoadOptions", "page": "CadRasterizationOptions", "quality": "RasterizationQuality"}
-_MODULES = ("korvan.cad", "korvan.cad.imageoptions", "korvan.cad.fileformats.pdf", "korvan.cad.fileformats.cad",
+_MODULES = ("korvan.cad", "korvan.cad.imageoptions", "korvan.cad.fileformats", "korvan.cad.fileformats.pdf", "korvan.cad.fileformats.cad",
             "korvan.cad.fileformats.cad.cadconsts", "korvan.cad.fileformats.png")
 _SWITCHES = {"true": True, "yes": True, "on": True, "1": True, "false": False, "no": False, "off": False, "0": False}
 
@@ -79,19 +82,53 @@ def _parse(current: object, text: str) -> Any:
         return _number(type(current), text)
     if isinstance(current, Color):
         return parse_color(text)
-    if hasattr(current, "__len__") and not isinstance(current, str):
-        return [item.strip() for item in text.split(",")]
+    if isinstance(current, (SizeF, PointF)):
+        return type(current)(*_numbers(float, text, 2))
+    if isinstance(current, Rectangle):
+        return Rectangle(*_numbers(int, text, 4))
     return text
 
 
+def _is_list(current: object) -> bool:
+    return hasattr(current, "__len__") and not isinstance(current, (str, enum.Enum))
+
+
+def _numbers(kind: Callable[[str], Any], text: str, count: int) -> list[Any]:
+    found = [_number(kind, one) for one in text.split(",")]
+    if len(found) != count:
+        raise ToolError(f"{text!r} has to be {count} numbers, separated by commas")
+    return found
+
+
+def _assign_list(target: Any, member: str, items: list[str]) -> None:
+    """Sets a list, whose items may be strings, numbers or names of members of an enumeration."""
+    try:
+        setattr(target, member, items)
+        return
+    except (TypeError, RuntimeError) as failure:
+        kind = _wanted(failure)
+        if kind is None and "integer" not in str(failure):
+            raise
+    if kind is not None:
+        setattr(target, member, [_member_of(kind, item) for item in items])
+    else:
+        setattr(target, member, [_number(int, item) for item in items])
+
+
+def _wanted(failure: Exception) -> type[Any] | None:
+    """The enumeration that a member takes, by the error of a wrong value."""
+    match = re.search(r"can't build (\w+) value", str(failure))
+    kind = find_class(match[1]) if match else None
+    return kind if isinstance(kind, enum.EnumType) else None
+
+
 def _assign_unknown(target: Any, member: str, text: str) -> None:
-    """Sets a member that has no value yet, of which only the error of a wrong value tells the class."""
+    """Sets a member that has no value yet, whose class only the error of a wrong value names."""
     try:
         setattr(target, member, text)
     except TypeError as failure:
-        match = re.search(r"can't build (\w+) value", str(failure))
-        kind = find_class(match[1]) if match else None
-        if kind is None or not isinstance(kind, enum.EnumType):
+        kind = _wanted(failure)
+        if kind is None:
             raise ToolError(f"{member} takes no text: set the members of its class") from failure
         setattr(target, member, _member_of(kind, text))
 
@@ -111,10 +148,13 @@ def assign(target: Any, member: str, text: str) -> None:
         if current is None:
             _assign_unknown(target, name, text)
         else:
-            setattr(target, name, _parse(current, text))
+            if _is_list(current):
+                _assign_list(target, name, [item.strip() for item in text.split(",")])
+            else:
+                setattr(target, name, _parse(current, text))
     except (AttributeError, RuntimeError, TypeError, OverflowError) as failure:
-        reason = "it cannot be set" if isinstance(failure, AttributeError) else str(failure).partition("): ")[2]
-        raise ToolError(f"{type(target).__name__}.{name}: {reason or failure}") from failure
+        reason = "it cannot be set" if isinstance(failure, AttributeError) else message_of(failure)
+        raise ToolError(f"{type(target).__name__}.{name}: {reason}") from failure
     except ToolError as failure:
         raise ToolError(f"{type(target).__name__}.{name}: {failure}") from failure
 
@@ -150,6 +190,8 @@ class Settings:
         for name, member, text in self._given:
             if name == "LoadOptions":
                 assign(options, member, text)
+            elif _PARTS.get(name, ("",))[0] == "load":
+                assign(self._part(name, options), member, text)
 
     def apply(self, options: ImageOptionsBase, raster: VectorRasterizationOptions) -> None:
         """Applies what is not for loading.
@@ -164,15 +206,16 @@ class Settings:
             elif name in page:
                 assign(raster, member, text)
             elif name in _PARTS:
-                assign(self._part(name, options, raster), member, text)
+                owner = _PARTS[name][0]
+                if owner != "load":
+                    assign(self._part(name, options if owner == "options" else raster), member, text)
             elif name != "LoadOptions":
                 raise ToolError(f"{name} has no part in this conversion, which takes {type(options).__name__}")
 
     @staticmethod
-    def _part(name: str, options: ImageOptionsBase, raster: VectorRasterizationOptions) -> Any:
+    def _part(name: str, owner: Any) -> Any:
         """The options of a class that are part of others, made where there are none yet."""
-        owner_name, member = _PARTS[name]
-        owner = options if owner_name == "options" else raster
+        member = _PARTS[name][1]
         if not hasattr(owner, member):
             raise ToolError(f"{type(owner).__name__} has no {name}")
         part = getattr(owner, member)
@@ -187,4 +230,4 @@ class Settings:
     def concerns_page(self) -> bool:
         """Whether a setting is for how pages are rendered."""
         return self.wants("CadRasterizationOptions", "VectorRasterizationOptions", "GraphicsOptions", "PenOptions",
-                          "Margins", "RasterizationQuality")
+                          "Margins", "RasterizationQuality", "ObserverPoint")

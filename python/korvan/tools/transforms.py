@@ -112,9 +112,9 @@ class _Plane:
 
     def __init__(self, transform: Transform, normal: Vector) -> None:
         self.before = plane_axes(normal)
-        turned = _unit(transform.vector(self.before[2]))
+        rotated = _unit(transform.vector(self.before[2]))
         # The other side of the plane undoes the reflection: arcs and texts keep their sense in it.
-        self.normal: Vector = (-turned[0], -turned[1], -turned[2]) if transform.is_mirror else turned
+        self.normal: Vector = (-rotated[0], -rotated[1], -rotated[2]) if transform.is_mirror else rotated
         self.after = plane_axes(self.normal)
         self.transform = transform
         along = transform.vector(self.before[0])
