@@ -82,7 +82,7 @@ def run_batch(settings: Settings, engine: str = "processes", *, modes: Modes = M
             summary.converted = _add_up(folder, todo).converted
         summary.seconds = time.monotonic() - start
         summary.unreadable = plan["unreadable"]
-        write_report(folder, summary, settings, shards)
+        write_report(folder, summary, settings, shards, run.tick)
         return summary
 
 

@@ -14,8 +14,8 @@ NAME = "_batch"
 
 
 def replace_file(path: Path, content: bytes) -> None:
-    """Writes a file so that others see the old or the new content, never a part."""
-    part = path.with_name(f".{path.name}.{os.getpid()}.part")
+    """Writes a file so that others see the old or the new content, never a part. The caller is the only writer."""
+    part = path.with_name(f".{path.name}.part")
     try:
         part.write_bytes(content)
         os.replace(part, path)
@@ -36,13 +36,9 @@ class BatchFolder:
         self.slurm = self.root / "slurm"
 
     def create(self) -> None:
-        """Makes sure that the folder is there and takes files."""
+        """Makes sure that the folder is there."""
         with telling(self.out):
             self.shards.mkdir(parents=True, exist_ok=True)
-        with telling(self.root):
-            trial = self.root / f"writable.{os.getpid()}"
-            replace_file(trial, b"")
-            trial.unlink()
 
     def shard(self, shard: int) -> Path:
         """The folder of a shard: one each, so that tasks on many machines do not list and change a common one."""

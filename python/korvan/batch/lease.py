@@ -119,8 +119,12 @@ class Lease:
                 handle = os.open(self._file(last + 1), os.O_WRONLY | os.O_CREAT | os.O_EXCL, 0o644)
             except FileExistsError:
                 raise LeaseHeld(f"{printable(self._path.parent)}: another process has just taken it") from None
-            with open(handle, "wb") as file:
-                file.write(_encode(Holder.me()))
+            try:
+                with open(handle, "wb") as file:
+                    file.write(_encode(Holder.me()))
+            except OSError:
+                self._file(last + 1).unlink(missing_ok=True)
+                raise
             self._generation = last + 1
             self._renewed = time.monotonic()
             # Who listed the generations long ago may have created one that was given up and removed since.
@@ -160,8 +164,10 @@ class Lease:
 
         :raises LeaseLost: Another process took over.
         """
-        if self._last() != self._generation:
-            holder = Holder.read(self._file(self._last()))
+        with telling(self._path.parent):
+            last = self._last()
+        if last != self._generation:
+            holder = Holder.read(self._file(last))
             raise LeaseLost(f"{printable(self._path)}: was taken over by {holder or 'another process'}")
 
     def release(self) -> None:

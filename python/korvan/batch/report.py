@@ -9,7 +9,7 @@ import base64
 import csv
 import json
 import os
-from collections.abc import Iterable, Iterator, Sequence
+from collections.abc import Callable, Iterable, Iterator, Sequence
 from contextlib import ExitStack
 from hashlib import sha256
 from html import escape
@@ -33,8 +33,9 @@ _FORMULA = ("=", "+", "-", "@", "\t", "\r")
 Row = dict[str, Any]
 
 
-def write_report(folder: BatchFolder, summary: Summary, settings: Settings, shards: Sequence[int]) -> None:
-    """Writes ``report.json``, ``report.csv`` and ``report.html``.
+def write_report(folder: BatchFolder, summary: Summary, settings: Settings, shards: Sequence[int],
+                 on_step: Callable[[], None] = lambda: None) -> None:
+    """Writes ``report.json``, ``report.csv`` and ``report.html``. ``on_step`` is called for each shard.
 
     Where the files are too many for one page, the shards have pages of their own, and the first one has what failed.
     """
@@ -43,7 +44,8 @@ def write_report(folder: BatchFolder, summary: Summary, settings: Settings, shar
     with telling(folder.root), ExitStack() as stack:
         table = stack.enter_context(_Replacing(folder.report_path("csv")))
         document = stack.enter_context(_Replacing(folder.report_path("json")))
-        _write_rows(_rows(folder, shards, settings, summary, chosen, many=many), table, document, summary, settings)
+        rows = _rows(folder, shards, settings, chosen, on_step, many=many)
+        _write_rows(rows, table, document, summary, settings)
         page = stack.enter_context(_Replacing(folder.report_path("html")))
         pages = [folder.shard_report_path(shard).relative_to(folder.root) for shard in shards] if many else []
         page.write(_page(chosen, summary, settings, pages, ".."))
@@ -70,10 +72,11 @@ class _Replacing:
             self._part.unlink(missing_ok=True)
 
 
-def _rows(folder: BatchFolder, shards: Sequence[int], settings: Settings, summary: Summary, chosen: list[Row], *,
-          many: bool) -> Iterator[Row]:
+def _rows(folder: BatchFolder, shards: Sequence[int], settings: Settings, chosen: list[Row],
+          on_step: Callable[[], None], *, many: bool) -> Iterator[Row]:
     """The rows of all journals; on the way, the pages of the shards are written and rows for the first page chosen."""
     for shard in shards:
+        on_step()
         try:
             with JournalReader(folder.journal_path(shard)) as journal:
                 rows = list(journal.rows())

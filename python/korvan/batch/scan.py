@@ -19,6 +19,7 @@ from korvan.batch.folder import NAME, BatchFolder, replace_file
 DRAWINGS = frozenset((b".dxf .dxb .dwg .dwt .dwf .dwfx .dgn .cgm .plt .hpgl .hpg .cf2 .ifc .ifcxml .ifczip .stp .step"
                       b" .stpz .igs .iges .stl .obj .fbx .3ds .3mf .dae .gltf .glb .u3d .x3d").split())
 
+STEP = 1000  # entries of a folder between two looks at whether to stop
 Place = tuple[tuple[bytes, ...], bytes]
 """Where a file stands in the order of a walk: the folders that lead to it, and its name without the extension."""
 
@@ -87,7 +88,9 @@ class Scanner:
         full = os.path.join(self._root, folder) if folder else self._root
         try:
             with os.scandir(full) as entries:
-                for entry in entries:
+                for number, entry in enumerate(entries, 1):
+                    if number % STEP == 0:
+                        self._on_step()
                     if entry.is_dir(follow_symlinks=False):
                         if entry.name != NAME.encode() and not self._is_left_out(entry.path):
                             folders.append(folder + entry.name + b"/")

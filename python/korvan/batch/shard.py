@@ -6,6 +6,7 @@ import base64
 import json
 import os
 import shutil
+import sqlite3
 import time
 from collections import deque
 from collections.abc import Callable
@@ -74,6 +75,8 @@ class ShardRun:
             self._alone.extend(work for work in works if work.alone)
             self._work_off(journal)
             summary = journal.summary()
+        except sqlite3.Error as failure:
+            raise BatchError(f"{printable(self._folder.journal_path(self._shard))}: {failure}") from failure
         finally:
             journal.close()
         summary.converted, summary.seconds = self._converted, time.monotonic() - start

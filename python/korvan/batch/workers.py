@@ -226,7 +226,7 @@ class Pool:
         """Forgets a worker that ended, or that served long enough; others are started in its place."""
         worker = event.worker
         reply = event.reply or {}
-        large = reply.get("resident", 0) > self.memory // self.jobs // 2
+        large = reply.get("resident", 0) > (self.limits.memory or self.memory // self.jobs) // 2
         if event.error or worker.files >= self.limits.recycle or large and worker.files:
             self.remove(worker)
 

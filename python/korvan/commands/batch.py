@@ -8,12 +8,13 @@ import shlex
 import shutil
 import sys
 import time
+from dataclasses import replace
 from typing import TYPE_CHECKING, Any
 
 from korvan.commands.common import Usage, add_json, parser_for, print_json
 
 if TYPE_CHECKING:
-    from korvan.batch.settings import Settings
+    from korvan.batch.settings import Limits, Settings
     from korvan.batch.summary import Summary
     from korvan.batch.watching import Watcher
 
@@ -41,9 +42,9 @@ def add_parser(subparsers: Any) -> None:
     _add_page(parser)
     work = parser.add_argument_group("how it is done")
     work.add_argument("-j", "--jobs", type=int, default=0, metavar="N", help="processes (default: one a processor)")
-    work.add_argument("--timeout", type=float, default=300.0, metavar="S",
+    work.add_argument("--timeout", type=float, metavar="S",
                       help="seconds that a file may take, 0 for any (default: 300)")
-    work.add_argument("--memory", type=int, default=0, metavar="MIB",
+    work.add_argument("--memory", type=int, metavar="MIB",
                       help="memory that a file may take (default: its share of what is free)")
     work.add_argument("--no-thumbnails", action="store_true",
                       help="report without thumbnails, which takes half the time")
@@ -93,23 +94,34 @@ def _options(arguments: argparse.Namespace) -> dict[str, Any]:
     return found
 
 
+def _limits(arguments: argparse.Namespace, known: Limits) -> Limits:
+    """The limits of a file, as far as they were given."""
+    from korvan.batch.settings import MEBIBYTE
+
+    timeout = known.timeout if arguments.timeout is None else arguments.timeout
+    return replace(known, timeout=timeout,
+                   memory=known.memory if arguments.memory is None else arguments.memory * MEBIBYTE)
+
+
 def _settings(arguments: argparse.Namespace) -> Settings:
     from korvan.batch.engines import resume
-    from korvan.batch.settings import MEBIBYTE, Limits, Recipe, Settings
+    from korvan.batch.settings import Limits, Recipe, Settings
 
     for name in ("jobs", "timeout", "memory", "shard_size", "tasks"):
-        if not 0 <= getattr(arguments, name) < float("inf"):
+        if getattr(arguments, name) is not None and not 0 <= getattr(arguments, name) < float("inf"):
             raise Usage(f"--{name.replace('_', '-')} {getattr(arguments, name)}: is no number of this kind")
     if arguments.folder is None:
-        if arguments.to is not None or _options(arguments):
-            raise Usage("name the folder of the drawings; without it, all options are those that OUT was begun with")
-        return resume(arguments.out, arguments.jobs)
+        if arguments.to is not None or arguments.patterns or _options(arguments):
+            raise Usage("name the folder of the drawings; without it, what is drawn is what OUT was begun with")
+        kept = resume(arguments.out, arguments.jobs)
+        return replace(kept, limits=_limits(arguments, kept.limits), force=arguments.force or kept.force,
+                       thumbnails=kept.thumbnails and not arguments.no_thumbnails)
     if arguments.to is None:
         raise Usage("name the format of the results (--to), such as pdf")
     recipe = Recipe(arguments.to.lower().removeprefix("."), _options(arguments))
     if not recipe.to.isalnum():
         raise Usage(f"--to {arguments.to}: is no extension")
-    limits = Limits(arguments.timeout, arguments.memory * MEBIBYTE)
+    limits = _limits(arguments, Limits())
     return Settings(arguments.folder, arguments.out, recipe, limits, tuple(arguments.patterns),
                     not arguments.no_thumbnails, arguments.force, arguments.jobs, arguments.shard_size)
 
