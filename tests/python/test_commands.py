@@ -86,6 +86,7 @@ class Converting(Commands):
             (["convert", PLAN, "-o", "a.pdf", "--paper", "A99"], "no paper"),
             (["convert", PLAN, "-o", "a.pdf", "--release", "R2000"], "no releases"),
             (["convert", PLAN, "-o", "a.pdf", "-j", "-1"], "--jobs"),
+            (["convert", PLAN, "-o", "a.pdf", "--memory", "0"], "--memory"),
             (["convert", PLAN, PLAN, "-o", "/tmp/", "--to", "pdf"], "would both become"),
             (["texts", "(", PLAN], "no regular expression"),
             (["audit", "--fix", PLAN], "-o OUT"),
@@ -123,6 +124,12 @@ class Converting(Commands):
             _, err = done.communicate(timeout=60)
         self.assertEqual(done.returncode, 1)
         self.assertEqual(len(err.splitlines()), 1, err)
+        self.assertEqual(list(self.out.iterdir()), [])
+
+    def test_a_file_that_takes_too_much_memory_fails_alone(self) -> None:
+        status, out, err = self.korvan("convert", PLAN, "-o", self.out / "a.png", "--size", "12000x", "--memory", "150")
+        self.assertEqual((status, out), (1, ""))
+        self.assertEqual(err, f"korvan: {PLAN}: takes more than 150 MiB of memory\n")
         self.assertEqual(list(self.out.iterdir()), [])
 
     def test_names_that_are_no_text(self) -> None:

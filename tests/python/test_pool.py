@@ -7,6 +7,8 @@ import signal
 import subprocess
 import sys
 import tempfile
+import threading
+import time
 import unittest
 from pathlib import Path
 
@@ -19,6 +21,17 @@ from korvan.tools import Pool
 from pool_tasks import work
 print([outcome.value for outcome in Pool(2).map(work, ["a", "b"])])
 """
+
+
+def kill_a_child() -> None:
+    """Kills the first worker that this process has, long before it is ready."""
+    while True:
+        for path in Path("/proc/self/task").glob("*/children"):
+            for pid in path.read_text().split():
+                if b"spawn_main" in Path(f"/proc/{pid}/cmdline").read_bytes():
+                    os.kill(int(pid), signal.SIGKILL)
+                    return
+        time.sleep(0.001)
 
 
 class Pools(unittest.TestCase):
@@ -46,6 +59,15 @@ class Pools(unittest.TestCase):
             self.assertEqual([one.value for one in pool.map(work, ["a"])], ["A"])
             (pid,) = [one.value for one in pool.map(work, ["pid"])]
         self.assertFalse(Path(f"/proc/{pid}").exists())
+
+    def test_workers_that_are_killed_while_they_start_are_replaced(self) -> None:
+        with Pool(2) as pool:
+            outcomes = pool.map(work, ["a", "b", "c"])
+            thread = threading.Thread(target=kill_a_child, daemon=True)
+            thread.start()
+            found = sorted((outcome.task, outcome.status) for outcome in outcomes)
+            thread.join(60)
+        self.assertEqual(found, [("a", "done"), ("b", "done"), ("c", "done")])
 
     def test_leaving_the_loop_ends_what_runs(self) -> None:
         with Pool(2, imports=()) as pool:

@@ -57,13 +57,19 @@ def each(paths: Sequence[str], work: Callable[[str], Item]) -> Iterator[tuple[st
     """The results of some work on files. For a file that fails, an error is printed."""
     from korvan.tools.errors import ToolError
 
+    progress = Progress(len(paths))
     for path in paths:
         try:
             done = work(path)
         except (ToolError, RuntimeError, OSError) as failure:
+            progress.clear()
             fail(path, failure)
             continue
+        progress.clear()
         yield path, done
+        sys.stdout.flush()
+        progress.step(path)
+    progress.clear()
 
 
 def table(rows: Sequence[Sequence[object]], headings: Sequence[str]) -> str:

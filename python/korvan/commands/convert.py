@@ -49,6 +49,8 @@ def add_parser(subparsers: Any) -> None:
     parser.add_argument("--timeout", type=float, metavar="S", help="seconds that a file may take")
     parser.add_argument("-j", "--jobs", type=int, default=1, metavar="N",
                         help="work in N processes, where a file that crashes fails alone; 0 for one a processor")
+    parser.add_argument("--memory", type=int, metavar="MIB",
+                        help="memory that a file may take in MiB, with what a process takes (about 120)")
     parser.add_argument("-v", "--verbose", action="store_true", help="list what was left out or approximated")
     parser.add_argument("-q", "--quiet", action="store_true", help="print errors only")
     add_json(parser)
@@ -138,12 +140,12 @@ def convert_task(task: tuple[str, str, dict[str, Any]]) -> ConversionResult:
     return convert(source, path, **options)
 
 
-def _outcomes(tasks: list[tuple[str, str, dict[str, Any]]], jobs: int
+def _outcomes(tasks: list[tuple[str, str, dict[str, Any]]], jobs: int, memory: int | None
               ) -> Iterator[tuple[str, ConversionResult | None, str]]:
     """Source, result and error of each conversion as they come."""
     from korvan.tools.errors import ToolError, message_of
 
-    if jobs == 1 or len(tasks) == 1:
+    if memory is None and (jobs == 1 or len(tasks) == 1):
         for task in tasks:
             try:
                 yield task[0], convert_task(task), ""
@@ -155,7 +157,7 @@ def _outcomes(tasks: list[tuple[str, str, dict[str, Any]]], jobs: int
     timeout = tasks[0][2]["timeout"]
     # The conversion ends itself in time where it can; the pool ends what does not.
     deadline = timeout + 5 if timeout is not None else None
-    with Pool(jobs or None, deadline=deadline) as pool:
+    with Pool(jobs or None, deadline=deadline, memory=memory) as pool:
         for outcome in pool.map(convert_task, tasks):
             yield outcome.task[0], outcome.value, outcome.error
 
@@ -165,13 +167,16 @@ def run(arguments: argparse.Namespace) -> int:
     _check(arguments)
     if arguments.jobs < 0:
         raise Usage(f"--jobs {arguments.jobs}: write 1 or more, or 0 for one a processor")
+    if arguments.memory is not None and arguments.memory < 1:
+        raise Usage(f"--memory {arguments.memory}: write a number of MiB, such as 1000")
     if target.endswith("/"):
         os.makedirs(target, exist_ok=True)
     tasks = list(_tasks(arguments, target))
     to_stdout = arguments.out == "-"
+    memory = arguments.memory << 20 if arguments.memory is not None else None
     progress = Progress(len(tasks))
     failed = 0
-    for source, done, error in _outcomes(tasks, arguments.jobs):
+    for source, done, error in _outcomes(tasks, arguments.jobs, memory):
         progress.clear()
         if done is None:
             failed += 1

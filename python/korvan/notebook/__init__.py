@@ -10,6 +10,7 @@ import base64
 import io
 import os
 from collections.abc import Iterable, Sequence
+from functools import cached_property
 from html import escape, unescape
 from typing import Any
 
@@ -64,12 +65,16 @@ class View:
             parts.append(f"{image.width} × {image.height} " + ("" if unit in ("unitless", "custom") else unit))
         return escape(", ".join(part.strip() for part in parts))
 
-    def svg(self) -> str | None:
-        """The image as SVG; ``None`` where it would be large, or has pixels."""
+    @cached_property
+    def _drawn(self) -> str | None:
         if isinstance(self._image, (RasterImage, IfcImage)):
             return None
         found = self._render(SvgOptions())
         return found.decode() if len(found) <= _MAX_SVG else None
+
+    def svg(self) -> str | None:
+        """The image as SVG; ``None`` where it would be large, or has pixels."""
+        return self._drawn
 
     def png(self) -> bytes | None:
         """The image as PNG; ``None`` of a building model."""

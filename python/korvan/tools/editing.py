@@ -244,10 +244,20 @@ def rename_layer(drawing: CadImage, old: str, new: str) -> int:
         drawing.layers.remove(layer)
     count = 0
     for block in drawing.block_entities:
+        if other is not None and other != layer:
+            _replace_frozen(block.entities, layer.object_handle, other.object_handle)
         count += _move_to_layer([block, *block.entities], key, new)
     if drawing.header.current_layer.casefold() == key:
         drawing.header.current_layer = new
     return count
+
+
+def _replace_frozen(entities: Iterable[CadEntityBase], old: str, new: str) -> None:
+    """Viewports that freeze a layer which is removed freeze the other one."""
+    for entity in entities:
+        if entity.type_name_text == "VIEWPORT" and old:
+            frozen: Any = cast(entity).frozen_layers
+            frozen[:] = [new if handle == old else handle for handle in frozen]
 
 
 def _move_to_layer(entities: Iterable[CadEntityBase], key: str, new: str) -> int:

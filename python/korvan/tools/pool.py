@@ -29,6 +29,7 @@ Status = Literal["done", "failed", "died", "timeout", "memory"]
 _PAGE = os.sysconf("SC_PAGE_SIZE")
 _WATCH = 0.05
 _START_LIMIT = 120.0
+_MAX_LOST = 10
 _PR_SET_PDEATHSIG = 1
 
 
@@ -161,6 +162,7 @@ class Pool:
         self._memory, self._deadline, self._recycle = memory, deadline, max(1, recycle)
         self._imports = tuple(imports)
         self._workers: list[_Worker] = []
+        self._lost = 0
 
     def __enter__(self) -> Self:
         return self
@@ -239,6 +241,9 @@ class Pool:
             self._workers.remove(worker)
             reason = _end_of(worker.process)
             if not worker.is_ready:
+                self._lost += 1
+                if (worker.process.exitcode or 0) < 0 and self._lost <= _MAX_LOST:  # by a signal: another is started
+                    return
                 raise ToolError(f"no worker can start: {reason}. A program that uses a pool has to begin its work "
                                 "under if __name__ == '__main__'") from None
             yield worker.outcome("died", error=reason)
