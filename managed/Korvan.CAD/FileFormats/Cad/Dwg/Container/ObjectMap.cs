@@ -68,15 +68,17 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
             }
         }
 
-        return FromPairs([.. handles], [.. offsets], source.Options.Errors.Count > defects);
+        ObjectMap sorted = FromPairs([.. handles], [.. offsets]);
+        ObjectMap single = WithoutRepeats(source, sorted);
+        return new ObjectMap(single.Handles, single.Offsets) { IsDamaged = source.Options.Errors.Count > defects };
     }
 
     /// <summary>Creates a map of pairs in any order; of several with one handle, the last counts.</summary>
-    private static ObjectMap FromPairs(ulong[] handles, long[] offsets, bool isDamaged)
+    private static ObjectMap FromPairs(ulong[] handles, long[] offsets)
     {
         if (IsAscending(handles))
         {
-            return new ObjectMap(handles, offsets) { IsDamaged = isDamaged };
+            return new ObjectMap(handles, offsets);
         }
 
         SortedDictionary<ulong, long> sorted = [];
@@ -85,7 +87,37 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
             sorted[handles[i]] = offsets[i];
         }
 
-        return new ObjectMap([.. sorted.Keys], [.. sorted.Values]) { IsDamaged = isDamaged };
+        return new ObjectMap([.. sorted.Keys], [.. sorted.Values]);
+    }
+
+    // An object has one handle, so that a file cannot have it read again and again.
+    private static ObjectMap WithoutRepeats(DwgSource source, ObjectMap map)
+    {
+        HashSet<long> places = new(map.Count);
+        List<ulong> handles = new(map.Count);
+        List<long> offsets = new(map.Count);
+        ulong repeated = 0;
+        for (int i = 0; i < map.Count; i++)
+        {
+            if (places.Add(map.Offsets[i]))
+            {
+                handles.Add(map.Handles[i]);
+                offsets.Add(map.Offsets[i]);
+            }
+            else
+            {
+                repeated = map.Handles[i];
+            }
+        }
+
+        if (handles.Count == map.Count)
+        {
+            return map;
+        }
+
+        source.Report(LoadDefectCode.DuplicateId, Section, -1, $"{map.Count - handles.Count} objects are where another "
+            + $"one is, the last of them {repeated:X}");
+        return new ObjectMap([.. handles], [.. offsets]);
     }
 
     private static bool IsAscending(ulong[] handles)

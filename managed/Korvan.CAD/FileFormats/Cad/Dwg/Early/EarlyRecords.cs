@@ -100,18 +100,35 @@ internal sealed class EarlyRecords(DwgSource source, EarlyLayout layout, EarlyPr
     /// <returns>Whether there is one.</returns>
     internal bool Resume()
     {
+        int next = Search();
+        _position = next < 0 ? _section.End : next;
+        return next >= 0 && Next();
+    }
+
+    // What is damaged may be the length of the record.
+    private void FindNext()
+    {
+        int position = Bytes.Position;
+        if (_position < _section.End && !IsRecord(_position) && Search() is >= 0 and var next)
+        {
+            _position = next;
+        }
+
+        Bytes.Position = position;
+    }
+
+    private int Search()
+    {
         for (int start = _start + 1; start < _section.End - HeaderLength && progress.Effort > 0; start++)
         {
             progress.Effort--;
             if (!progress.Seen.Contains(start) && IsRecord(start))
             {
-                _position = start;
-                return Next();
+                return start;
             }
         }
 
-        _position = _section.End;
-        return false;
+        return -1;
     }
 
     private bool IsRecord(int start)
@@ -150,9 +167,10 @@ internal sealed class EarlyRecords(DwgSource source, EarlyLayout layout, EarlyPr
         if (!Bytes.HasChecksum(start))
         {
             Bytes.Report(LoadDefectCode.WrongChecksum, start, "the checksum of a record is wrong");
+            FindNext();
         }
 
-        Bytes.End -= sizeof(ushort);
+        Bytes.End = _position - sizeof(ushort);
     }
 
     private void Follow(uint target, int after)

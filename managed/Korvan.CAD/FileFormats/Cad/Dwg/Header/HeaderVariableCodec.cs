@@ -63,7 +63,8 @@ internal static class HeaderVariableCodec
     internal static HeaderValue TimeOf(double time)
     {
         double days = Math.Floor(time);
-        return new HeaderValue(days, Math.Round((time - days) * MillisecondsOfDay));
+        double milliseconds = Math.Round((time - days) * MillisecondsOfDay);
+        return milliseconds < MillisecondsOfDay ? new HeaderValue(days, milliseconds) : new HeaderValue(days + 1);
     }
 
     private static void SetVariable(

@@ -2,7 +2,9 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model;
 
@@ -12,6 +14,9 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 /// into their entities.</summary>
 internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, RecordNames names)
 {
+    // Blocks whose entities are linked to each other, where the links end before the last one.
+    private readonly Dictionary<ulong, CadBlockEntity> _cut = [];
+
     internal void Build()
     {
         foreach (string table in TableRecords.Names)
@@ -24,6 +29,7 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
             AddBlock(record);
         }
 
+        AddUnlinked();
         AddObjects();
     }
 
@@ -75,15 +81,16 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
         block.Name = record.Name;
         block.NameAgain = record.Name;
         TakeDefinition(block, record.Definition);
+        ulong last = 0;
         foreach (int index in Children(parts))
         {
-            if (objects[index] is { Target: CadEntityBase entity } content)
-            {
-                block.Entities.Add(entity);
-                PlaceIn(entity, record.Handle, isPaper);
-                TakeColor(entity, content.Frame);
-                Complete(entity, content);
-            }
+            AddTo(block, index, record.Handle, isPaper);
+            last = objects.HandleOf(index);
+        }
+
+        if (last != parts.Last)
+        {
+            _cut[record.Handle] = block;
         }
 
         if (isPaper)
@@ -93,6 +100,42 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
 
         Add(block);
     }
+
+    private void AddTo(CadBlockEntity block, int index, ulong owner, bool isPaper)
+    {
+        if (objects[index] is { Target: CadEntityBase entity } content)
+        {
+            block.Entities.Add(entity);
+            PlaceIn(entity, owner, isPaper);
+            TakeColor(entity, content.Frame);
+            Complete(entity, content);
+        }
+    }
+
+    // Where the record of a block or a link is damaged, entities themselves state where they belong.
+    private void AddUnlinked()
+    {
+        for (int i = 0; i < objects.Count; i++)
+        {
+            (CadBaseObject? target, ObjectFrame frame, _) = objects[i];
+            if (target is CadEntityBase and not (CadVertexBase or CadAttrib or CadSeqend or CadBlockEntity or CadEndBlock)
+                && !objects.IsTaken(i) && UnlinkedBlockOf(frame) is { } block)
+            {
+                objects.Take(objects.HandleOf(i));
+                AddTo(block, i, frame.Owner, ReferenceEquals(block, drawing.PaperSpace));
+            }
+        }
+    }
+
+    private CadBlockEntity? UnlinkedBlockOf(ObjectFrame frame) => frame.Mode switch
+    {
+        ObjectFrame.InModelSpace => UnlinkedOrNull(drawing.ModelSpace, drawing.ModelSpaceInFile),
+        ObjectFrame.InPaperSpace => UnlinkedOrNull(drawing.PaperSpace, drawing.PaperSpaceInFile),
+        _ => _cut.GetValueOrDefault(frame.Owner),
+    };
+
+    private CadBlockEntity? UnlinkedOrNull(CadBlockEntity block, bool isInFile) =>
+        !isInFile || _cut.ContainsValue(block) ? block : null;
 
     private static void TakeDefinition(CadBlockEntity block, BlockDefinition? definition)
     {

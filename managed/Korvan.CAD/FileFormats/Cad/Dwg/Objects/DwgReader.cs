@@ -14,9 +14,13 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
     private const string Section = "AcDb:AcDbObjects";
     private const int LastPlainRelease = 2000;
     private const int BitsPerStep = 8 * 512;
+    private const int MaxOverlap = 4;
 
     private readonly RecordNames _names = new();
     private readonly ObjectSet _objects = new(file.Map.Handles);
+
+    // How many bits records may have together: a damaged map may have each overlap many others.
+    private long _budget = (long)MaxOverlap * file.Objects.Length * 8;
 
     /// <summary>Adds the objects of the file to the drawing.</summary>
     /// <exception cref="ImageLoadException">An object is damaged, and defects end the load.</exception>
@@ -54,6 +58,12 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
         {
             RecordHeader header = reader.ReadHeader(file.Map.Offsets[index]);
             CountWork(header);
+            _budget -= header.End - header.Start;
+            if (_budget < 0)
+            {
+                throw new DwgFault(header.Start, "it overlaps other objects, which have all bytes of the file");
+            }
+
             VerifyChecksum(header, index);
             if (ObjectTypeTable.IsRecord(header.Type))
             {
@@ -138,7 +148,9 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
         CountWork(header);
         try
         {
-            _objects.Set(index, reader.Read(header));
+            RecordContent content = reader.Read(header);
+            VerifyHandle(content, header, index);
+            _objects.Set(index, content);
         }
         catch (DwgFault fault) when (IsWhole(header, index) && !ObjectTypeTable.IsRecord(header.Type))
         {
@@ -147,6 +159,17 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
         catch (DwgFault fault)
         {
             Report(fault, index, reader.NameOf(header.Type));
+        }
+    }
+
+    // Others refer to the object by the handle that the map states.
+    private void VerifyHandle(RecordContent content, in RecordHeader header, int index)
+    {
+        if (content.Target is { } target && target.Handle != file.Map.Handles[index])
+        {
+            Report(new DwgFault(header.Fields, $"the record states the handle {HandleText.Format(target.Handle)}"), index,
+                target.DxfName);
+            target.Handle = file.Map.Handles[index];
         }
     }
 

@@ -21,6 +21,12 @@ internal sealed class ObjectSet(ulong[] handles)
 
     internal void Set(int index, RecordContent content) => _contents[index] = content;
 
+    /// <summary>Returns the handle that the object map states for an object.</summary>
+    internal ulong HandleOf(int index) => handles[index];
+
+    /// <summary>Gets whether an object has been taken by its owner.</summary>
+    internal bool IsTaken(int index) => _taken[index];
+
     /// <summary>Returns the index of an object; -1 for a handle of none.</summary>
     internal int Find(ulong handle) => Math.Max(Array.BinarySearch(handles, handle), -1);
 

@@ -29,6 +29,11 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
     /// <summary>Reads where a record is and of what type.</summary>
     internal RecordHeader ReadHeader(long offset)
     {
+        if (offset < 0 || offset >= data.Length)
+        {
+            throw new DwgFault(0, $"it is at byte {offset} of {data.Length}");
+        }
+
         BitReader bits = new(data, offset << 3, long.MaxValue);
         int size = bits.ModularShort();
         long handleBits = format.Release >= ExtendedTypes ? (long)bits.UnsignedModularChar() : 0;

@@ -1,6 +1,7 @@
 using System;
 using System.IO;
 using System.Text;
+using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 
@@ -30,10 +31,18 @@ internal sealed class SectionText(int release, Encoding encoding)
     internal string ReadLong(ref RawReader reader) => Decode(reader.Take(reader.UInt32()));
 
     /// <summary>Writes a string after the number of its characters, with a zero at its end.</summary>
+    /// <exception cref="ImageSaveException">The string is longer than the number can state.</exception>
     internal void Write(BinaryWriter writer, string value)
     {
         byte[] bytes = Encode(value + "\0");
-        writer.Write((ushort)Math.Min(IsUnicode ? bytes.Length / 2 : bytes.Length, ushort.MaxValue));
+        int length = IsUnicode ? bytes.Length / 2 : bytes.Length;
+        if (length > ushort.MaxValue)
+        {
+            throw new ImageSaveException($"A string of the summary of the drawing has {length - 1} characters; drawing "
+                + $"databases hold at most {ushort.MaxValue - 1}.");
+        }
+
+        writer.Write((ushort)length);
         writer.Write(bytes);
     }
 

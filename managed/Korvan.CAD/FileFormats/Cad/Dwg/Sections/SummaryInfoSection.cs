@@ -1,6 +1,7 @@
 using System;
 using System.IO;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
+using Korvan.CAD.FileFormats.Cad.Dwg.Header;
 using Korvan.CAD.FileFormats.Cad.Dwg.SummaryInfo;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Sections;
@@ -74,8 +75,8 @@ internal static class SummaryInfoSection
     /// <summary>Writes days and milliseconds.</summary>
     internal static void WriteTime(BinaryWriter writer, double time)
     {
-        double days = Math.Floor(time);
-        writer.Write((int)days);
-        writer.Write((int)Math.Round((time - days) * MillisecondsOfDay));
+        HeaderValue value = HeaderVariableCodec.TimeOf(time);
+        writer.Write((int)value.X);
+        writer.Write((int)value.Y);
     }
 }

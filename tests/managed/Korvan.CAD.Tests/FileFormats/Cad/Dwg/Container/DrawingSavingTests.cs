@@ -102,6 +102,42 @@ public class DrawingSavingTests
         Assert.Contains("AC1024", failure.Message, StringComparison.Ordinal);
     }
 
+    // What was cut silently would be lost; what was written whole would be read as other values.
+    [Theory]
+    [InlineData(CadAcadVersion.AC1015)]
+    [InlineData(CadAcadVersion.AC1032)]
+    public void Values_that_do_not_fit_their_fields_are_refused_by_name(CadAcadVersion version)
+    {
+        string text = new('x', 70_000);
+        (Action<DwgImage> Change, string Cause)[] cases =
+        [
+            (image => image.Entities.Add(new CadText { DefaultValue = text }), "TEXT "),
+            (image => image.Header.Set("$MENU", 1, text), "$MENU: a string has 7000"),
+            (image => image.Entities.Add(WithXdata(text)), "POINT "),
+        ];
+        foreach ((Action<DwgImage> change, string cause) in cases)
+        {
+            using DwgImage image = new();
+            change(image);
+            ImageSaveException failure = Assert.Throws<ImageSaveException>(
+                () => image.Save(Stream.Null, new DwgOptions { Version = version }));
+            Assert.Contains(cause, failure.Message, StringComparison.Ordinal);
+        }
+    }
+
+    private static CadPoint WithXdata(string text)
+    {
+        CadXdata xdata = new("ACAD");
+        for (int i = 0; i < 400; i++)
+        {
+            xdata.Data.Add(new CadCodeValue(1000, text[..250]));
+        }
+
+        CadPoint point = new();
+        point.XdataContainer.XdataEntities.Add(xdata);
+        return point;
+    }
+
     private static DwgImage SaveAndLoad(CadImage image, CadAcadVersion version)
     {
         using MemoryStream stream = new();

@@ -17,6 +17,8 @@ internal sealed class EncodedFile
     private const int PageMapNumber = 1;
     private const int SectionMapNumber = 2;
 
+    private static readonly byte[][][] Steps = [StepsOf(4, 0x11D), StepsOf(16, 0x169)];
+
     private readonly MemoryStream _file = new();
 
     /// <summary>Creates the file of a drawing.</summary>
@@ -179,11 +181,28 @@ internal sealed class EncodedFile
     /// <summary>Completes a block whose data is at its start.</summary>
     internal static void AddParity(ReedSolomon code, byte[] block)
     {
-        int polynomial = code.Parity == 4 ? 0x11D : 0x169;
-        byte[] generator = new byte[code.Parity + 1];
+        byte[][] steps = Steps[code.Parity == 4 ? 0 : 1];
+        byte[] rest = new byte[code.Parity + 1];
+        for (int i = 0; i < code.DataLength; i++)
+        {
+            byte[] step = steps[block[i] ^ rest[0]];
+            for (int j = 0; j < code.Parity; j++)
+            {
+                rest[j] = (byte)(rest[j + 1] ^ step[j]);
+            }
+        }
+
+        rest.AsSpan(0, code.Parity).CopyTo(block.AsSpan(code.DataLength));
+    }
+
+    // The byte at an index of a block is the coefficient of that power, and the parity bytes are the highest ones: read
+    // backwards, a block is divisible by the generator read backwards. These are the multiples of that one.
+    private static byte[][] StepsOf(int parity, int polynomial)
+    {
+        byte[] generator = new byte[parity + 1];
         generator[0] = 1;
         byte root = 1;
-        for (int i = 1; i <= code.Parity; i++)
+        for (int i = 1; i <= parity; i++)
         {
             root = Multiply(root, 2, polynomial);
             for (int j = i; j >= 0; j--)
@@ -192,23 +211,9 @@ internal sealed class EncodedFile
             }
         }
 
-        // The byte at an index is the coefficient of that power, so that the parity bytes are the highest ones.
-        // A polynomial read backwards is divisible by the generator read backwards.
-        byte[] backwards = [.. generator.Reverse()];
-        byte scale = Invert(backwards[code.Parity], polynomial);
-        backwards = [.. backwards.Select(one => Multiply(one, scale, polynomial))];
-        byte[] rest = new byte[code.Parity];
-        for (int i = 0; i < code.DataLength; i++)
-        {
-            byte lead = (byte)(block[i] ^ rest[0]);
-            for (int j = 0; j < code.Parity; j++)
-            {
-                byte next = j + 1 < code.Parity ? rest[j + 1] : (byte)0;
-                rest[j] = (byte)(next ^ Multiply(lead, backwards[code.Parity - 1 - j], polynomial));
-            }
-        }
-
-        rest.CopyTo(block, code.DataLength);
+        byte scale = Invert(generator[0], polynomial);
+        return [.. Enumerable.Range(0, 256).Select(lead => generator.Skip(1).Select(one =>
+            Multiply((byte)lead, Multiply(one, scale, polynomial), polynomial)).ToArray())];
     }
 
     private static byte Multiply(byte a, byte b, int polynomial)

@@ -78,6 +78,28 @@ internal sealed class EarlyFile(string code, int variables)
         records.Add(Checked(Bytes(flags, padded, used, Bytes(values))));
     }
 
+    /// <summary>Adds records of each structure: entities, a block, a polyline, and text.</summary>
+    internal void AddSample()
+    {
+        Add("STYLE", "STANDARD", 0, 0.0, 1.0, 0.0, (byte)0, 0.2, new byte[128]);
+        Add("BLOCK", "DOOR", 2, 0x40000000, (short)0, (short)0);
+        BlockEntities.Add(Entity(12, 0, 0, 0, 7.0, 8.0));
+        BlockEntities.Add(Entity(15, 0, 0, 2, 0.0, 0.0, 0.5, "A", "ask", "TAG", (byte)4, 1.5));
+        BlockEntities.Add(Entity(13, 0, 0, 0));
+        for (int i = 0; i < 4; i++)
+        {
+            Entities.Add(Entity(3, 0, i % 2, 0, 10.0 * i, 1.0, 0.5));
+            Entities.Add(Entity(7, 1, 0, 1, (byte)i, 10.0 * i, 1.0, 0.5, "text", 0.5));
+        }
+
+        Entities.Add(Entity(14, 128, 0, 4, (short)0, 1.0, 2.0, 1.0));
+        Entities.Add(Entity(16, 0, 0, 0, 1.0, 1.0, 0.5, "B", "TAG", (byte)0));
+        Entities.Add(Entity(17, 0, 0, 0, 0));
+        Entities.Add(Entity(19, 128 | 4, 0, 1, 3.0, (byte)1));
+        Entities.Add(Entity(20, 4, 0, 4, 3.0, 0.0, 0.0, 0.5));
+        Entities.Add(Entity(17, 0, 1, 0, 0));
+    }
+
     internal byte[] Build()
     {
         List<EarlyField> fields = [.. EarlyHeaderFields.Parts.Where(part => variables > part.Above)
