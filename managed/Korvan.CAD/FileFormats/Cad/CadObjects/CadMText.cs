@@ -1,6 +1,7 @@
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -124,10 +125,9 @@ public partial class CadMText : CadEntityBase
         }
     }
 
-    // The columns are not kept, and not the fields again that precede them.
+    // Text files have the columns in an embedded object. What precedes them is that of the text again.
     private void ExchangeColumns(BitExchange fields)
     {
-        const int dynamicColumns = 2;
         const int columnsVersion = 4;
         bool isAnnotative = !fields.Bit(true);
         if (isAnnotative)
@@ -143,22 +143,11 @@ public partial class CadMText : CadEntityBase
         fields.Point3(fields.IsReading ? new Cad3DPoint() : InsertionPoint);
         fields.BitDouble(ReferenceRectangleWidth);
         fields.BitDouble(ReferenceRectangleHeight);
-        fields.BitDouble(0);
-        fields.BitDouble(0);
-        int kind = fields.BitShort(0);
-        if (kind == 0)
+        TextColumns columns = fields.IsReading ? new TextColumns() : TextColumns.FromTags(Embedded);
+        columns.ExchangeBits(fields);
+        if (fields.IsReading && columns.Kind != 0)
         {
-            return;
-        }
-
-        int heights = fields.CountLong(0);
-        fields.BitDouble(0);
-        fields.BitDouble(0);
-        bool isAutomatic = fields.Bit(false);
-        fields.Bit(false);
-        for (int i = 0; i < heights && !isAutomatic && kind == dynamicColumns; i++)
-        {
-            fields.BitDouble(0);
+            KeptTags.Of(this).Embedded = columns.ToTags(this);
         }
     }
 }

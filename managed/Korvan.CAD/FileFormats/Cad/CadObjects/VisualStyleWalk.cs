@@ -1,5 +1,4 @@
 using System.Collections.Generic;
-using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 

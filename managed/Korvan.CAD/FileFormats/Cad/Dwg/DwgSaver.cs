@@ -18,6 +18,8 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg;
 /// <summary>Writes drawing databases of releases 2000, 2004, 2010, 2013 and 2018.</summary>
 internal static class DwgSaver
 {
+    private const int WithBinarySolids = 2010;
+
     private static readonly CadAcadVersion[] Written =
     [
         CadAcadVersion.AC1015, CadAcadVersion.AC1018, CadAcadVersion.AC1024, CadAcadVersion.AC1027,
@@ -40,7 +42,7 @@ internal static class DwgSaver
         List<string> notes = [];
         DrawingIntegrity.VerifyPlaces(drawing);
         CadDrawing written = ReleaseConversion.IsNeeded(drawing, version)
-            ? ReleaseConversion.Convert(drawing, version, createMeasurer, notes)
+            ? ReleaseConversion.Convert(drawing, version, createMeasurer, notes, release >= WithBinarySolids)
             : drawing;
         DrawingIntegrity.Prepare(written, release);
         Encoding encoding = DwgCodePage.Get(CodePageIndex.NameOf(CodePageIndex.IndexOf(written.Header.CodePage)));

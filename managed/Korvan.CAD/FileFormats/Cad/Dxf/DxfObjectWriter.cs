@@ -113,7 +113,11 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
     private void WriteRest(CadBaseObject item)
     {
         WriteKeptElsewhere(item);
-        item.Embedded?.ForEach(writer.Write);
+        if (writer.Release >= 2018 || item is not CadMText)
+        {
+            item.Embedded?.ForEach(writer.Write);
+        }
+
         foreach (CadXdata xdata in item.XdataOrNull?.XdataEntities ?? [])
         {
             writer.Write(1001, xdata.RegisteredApplicationName);

@@ -62,6 +62,9 @@ internal abstract partial class BitExchange
     /// <summary>Carries a string (T).</summary>
     internal abstract string Text(string value);
 
+    /// <summary>Carries a string among the data, after its length in bytes of 32 bits.</summary>
+    internal abstract string CountedText(string value);
+
     /// <summary>Carries the reference to an object (H) as its handle in hexadecimal.</summary>
     internal abstract string Handle(HandleRole role, string value);
 

@@ -28,7 +28,30 @@ internal static class ModelerSection
 
         foreach (CadObjectWithAcisData solid in DrawingWalk.Entities(drawing).OfType<CadObjectWithAcisData>())
         {
-            solid.DataRecord = records.GetValueOrDefault(solid.Handle);
+            solid.DataRecord = records.GetValueOrDefault(solid.Handle) ?? solid.DataRecord;
+        }
+    }
+
+    /// <summary>Gives the solids of a copy of a drawing the data that those of the drawing have.</summary>
+    internal static void Carry(CadDrawing source, CadDrawing copy)
+    {
+        var records = new Dictionary<ulong, CadAcdsRecord>();
+        foreach (CadObjectWithAcisData solid in DrawingWalk.Entities(source).OfType<CadObjectWithAcisData>())
+        {
+            if (solid is { DataRecord: { } record, Handle: not 0 })
+            {
+                records.TryAdd(solid.Handle, record);
+            }
+        }
+
+        if (records.Count == 0)
+        {
+            return;
+        }
+
+        foreach (CadObjectWithAcisData solid in DrawingWalk.Entities(copy).OfType<CadObjectWithAcisData>())
+        {
+            solid.DataRecord ??= records.GetValueOrDefault(solid.Handle);
         }
     }
 }

@@ -12,7 +12,8 @@ internal static class RawRecord
     private const int Marker = 100;
 
     /// <summary>Determines whether the fields of objects of a name are known.</summary>
-    internal static bool IsKnown(string name) => name is "SCALE" or "SORTENTSTABLE" or "IDBUFFER" or "ACDBPLACEHOLDER";
+    internal static bool IsKnown(string name) =>
+        name is "SCALE" or "SORTENTSTABLE" or "IDBUFFER" or "ACDBPLACEHOLDER" || RawFields.Of(name) is not null;
 
     /// <summary>Carries the fields.</summary>
     internal static void Exchange(RawObject item, BitExchange fields)
@@ -29,6 +30,9 @@ internal static class RawRecord
                 break;
             case "IDBUFFER":
                 ExchangeReferences(fields, tags, result);
+                break;
+            default:
+                result.AddRange(RawFields.Of(item.DxfName)?.Exchange(fields, tags) ?? []);
                 break;
         }
 

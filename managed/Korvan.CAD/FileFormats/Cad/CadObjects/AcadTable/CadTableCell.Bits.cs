@@ -34,6 +34,10 @@ public partial class CadTableCell
     /// codes.</summary>
     internal List<CadCodeValue> Content => _content;
 
+    private (short, short, short, short, double, int, string, string, int, int) Shown => (
+        CellType, IsMerged, MergedWidth, MergedHeight, Rotation, OverrideFlags, FieldHandle, _text, ValueType,
+        ValueUnit);
+
     /// <summary>Carries the cell.</summary>
     internal void ExchangeBits(BitExchange fields)
     {
@@ -134,12 +138,9 @@ public partial class CadTableCell
     }
 
     /// <summary>Determines whether another cell shows the same.</summary>
-    internal bool IsSame(CadTableCell other) =>
-        (CellType, IsMerged, MergedWidth, MergedHeight, Rotation, OverrideFlags, FieldHandle, _text, ValueType, ValueUnit)
-            == (other.CellType, other.IsMerged, other.MergedWidth, other.MergedHeight, other.Rotation,
-                other.OverrideFlags, other.FieldHandle, other._text, other.ValueType, other.ValueUnit)
-            && ValueFormat == other.ValueFormat && FormattedText == other.FormattedText
-            && HasSame(_content, other._content) && HasSame(_value, other._value);
+    internal bool IsSame(CadTableCell other) => Shown == other.Shown
+        && (ValueFormat, FormattedText) == (other.ValueFormat, other.FormattedText)
+        && HasSame(_content, other._content) && HasSame(_value, other._value);
 
     private static bool HasSame(List<CadCodeValue> one, List<CadCodeValue> other) => one.Count == other.Count
         && one.Zip(other).All(static pair =>

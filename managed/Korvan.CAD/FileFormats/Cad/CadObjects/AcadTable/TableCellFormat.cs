@@ -39,7 +39,8 @@ internal static class TableCellFormat
         [(1, 0x40, 69), (2, 0x80, 65), (4, 0x100, 66), (8, 0x200, 68)];
 
     /// <summary>Gives a cell the properties that its format states.</summary>
-    internal static void Read(CadTableCell cell, CadTableFormat format, TableDataCellContent? content, BitExchange fields)
+    internal static void Read(
+        CadTableCell cell, CadTableFormat format, TableDataCellContent? content, BitExchange fields)
     {
         if (content is { HasFormat: not 0 })
         {
@@ -67,7 +68,8 @@ internal static class TableCellFormat
     }
 
     /// <summary>Gives the format the properties that a cell states.</summary>
-    internal static void Write(CadTableCell cell, CadTableFormat format, TableDataCellContent content, BitExchange fields)
+    internal static void Write(
+        CadTableCell cell, CadTableFormat format, TableDataCellContent content, BitExchange fields)
     {
         List<CadCodeValue> tags = [.. cell.Content.Where(static tag =>
             tag.Attribute is not (CadTableCell.AttributeText or CadTableCell.AttributeDefinition))];

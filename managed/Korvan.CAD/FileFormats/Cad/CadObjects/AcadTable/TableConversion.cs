@@ -23,7 +23,9 @@ internal static class TableConversion
     /// <summary>Gives a table the cells of its data.</summary>
     internal static void ToCells(CadTableEntity table, CadTableContent content, BitExchange fields)
     {
+        const int blockAndDown = 0x16;
         table.TableStyleHandle = content.TableStyleHandle;
+        table.TableFlags = blockAndDown;
         table.NumberOfRows = content.Rows.Count;
         table.NumberOfColumns = content.Columns.Count;
         table.ColumnWidths.AddRange(content.Columns.Select(static column => column.Width));

@@ -1,4 +1,3 @@
-using System.Text;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Field;
@@ -135,7 +134,7 @@ public partial class CadFieldData
                 Number = fields.BitDouble(Number);
                 break;
             case StringType:
-                Text = fields.Release < 2007 ? fields.Text(Text) : ExchangeUtf16(fields, Text);
+                Text = fields.CountedText(Text);
                 break;
             case DateType:
                 Date = fields.Block(Date);
@@ -152,12 +151,5 @@ public partial class CadFieldData
                 ObjectHandle = fields.Handle(HandleRole.SoftPointer, ObjectHandle);
                 break;
         }
-    }
-
-    // Strings of values are not among the other strings of the object.
-    private static string ExchangeUtf16(BitExchange fields, string value)
-    {
-        byte[] bytes = fields.Block(value.Length == 0 ? [] : Encoding.Unicode.GetBytes(value + '\0'));
-        return Encoding.Unicode.GetString(bytes).TrimEnd('\0');
     }
 }

@@ -36,6 +36,8 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
 
     internal override long DataRemaining => _data.Remaining;
 
+    private Encoding StringEncoding => release >= UnicodeStrings ? Encoding.Unicode : encoding;
+
     /// <summary>Gets how many bits of references are left.</summary>
     internal long HandlesRemaining => _handles.Remaining;
 
@@ -99,6 +101,12 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
         string text = release < UnicodeStrings ? _data.Text(encoding)
             : _strings.Remaining > 0 ? _strings.Utf16Text() : "";
         return RecordText.FromFile(text);
+    }
+
+    internal override string CountedText(string value)
+    {
+        byte[] bytes = _data.Bytes(CountLong(0));
+        return RecordText.FromFile(StringEncoding.GetString(bytes).TrimEnd('\0'));
     }
 
     internal override string Handle(HandleRole role, string value)
@@ -250,6 +258,12 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
             _data.Position += (long)size << 3;
             NextHandle();
             _data.BitShort();
+        }
+
+        KeptTags.Of(attribute).Embedded = EmbeddedMText.ToTags(lines);
+        if (attribute.DefaultValue.Length == 0)
+        {
+            attribute.DefaultValue = PlainText.FromMText(lines.Text).Replace("\n", "^J");
         }
     }
 

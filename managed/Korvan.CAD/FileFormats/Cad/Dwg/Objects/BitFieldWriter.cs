@@ -145,6 +145,15 @@ internal sealed class BitFieldWriter(int release, Encoding encoding, WrittenHand
         return value;
     }
 
+    internal override string CountedText(string value)
+    {
+        Encoding characters = release >= UnicodeStrings ? Encoding.Unicode : _encoding;
+        byte[] bytes = value.Length == 0 ? [] : characters.GetBytes(RecordText.ToFile(value) + "\0");
+        Data.BitLong(bytes.Length);
+        Data.Raw(bytes);
+        return value;
+    }
+
     internal override string Handle(HandleRole role, string value)
     {
         Handle(role, HandleText.TryParse(value, out ulong handle) ? handle : 0);
@@ -291,8 +300,17 @@ internal sealed class BitFieldWriter(int release, Encoding encoding, WrittenHand
         }
     }
 
-    // Text of several lines is written as one line.
-    internal override void AttributeKind(CadText attribute, int kind) => Data.RawByte(1);
+    internal override void AttributeKind(CadText attribute, int kind)
+    {
+        CadMText? lines = EmbeddedMText.FromTags(attribute.Embedded);
+        Data.RawByte(lines is null ? 1 : kind);
+        if (lines is not null)
+        {
+            CommonData.ExchangeEntity(this, lines, new ObjectFrame());
+            lines.ExchangeBits(this);
+            Data.BitShort(0);
+        }
+    }
 
     private static int CodeOf(HandleRole role) => role switch
     {

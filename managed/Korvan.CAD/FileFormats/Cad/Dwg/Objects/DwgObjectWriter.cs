@@ -19,6 +19,7 @@ internal sealed class DwgObjectWriter
     private readonly RecordWriter _records;
     private readonly WrittenClasses _classes;
     private readonly Dictionary<string, List<ulong>> _inserts = new(StringComparer.OrdinalIgnoreCase);
+    private readonly Dictionary<string, ulong> _colors = [];
     private ulong _modelSpace;
     private ulong _paperSpace;
 
@@ -50,6 +51,11 @@ internal sealed class DwgObjectWriter
     {
         RemoveUnwritten();
         CountInserts();
+        foreach (CadDbColor color in _drawing.Objects.OfType<CadDbColor>())
+        {
+            _colors.TryAdd(color.ColorName, color.Handle);
+        }
+
         foreach (string table in TableRecords.Names)
         {
             WriteTable(table);
@@ -244,6 +250,11 @@ internal sealed class DwgObjectWriter
             bool isFixed = stated < ObjectTypeTable.FirstClass;
             _records.WriteKept(isFixed ? stated : _classes.NumberOf(item), item.Handle, kept);
             return;
+        }
+
+        if (item is CadEntityBase { ColorName.Length: > 0 } entity)
+        {
+            frame.Color = _colors.GetValueOrDefault(entity.ColorName);
         }
 
         int type = ObjectTypeTable.NumberOf(item);

@@ -12,6 +12,7 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
 {
     private const string Section = "AcDb:AcDbObjects";
+    private const string DataSection = "AcDb:AcDsPrototype_1b";
     private const int LastPlainRelease = 2000;
     private const int BitsPerStep = 8 * 512;
     private const int MaxOverlap = 4;
@@ -47,8 +48,18 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
 
         new DrawingAssembly(drawing, _objects, _names).Build();
         DrawingLinks.Complete(drawing);
+        ReadSolids();
         ModelerSection.Attach(drawing);
         drawing.ContentRelease = drawing.Version;
+    }
+
+    private void ReadSolids()
+    {
+        if (!DataStore.Read(file.AcdsPrototype, drawing))
+        {
+            file.Source.Report(
+                LoadDefectCode.InvalidSection, DataSection, -1, "the data of solids is not where its index says");
+        }
     }
 
     // The names of records are read first, so that the others know them.

@@ -140,6 +140,12 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
     private void Keep(in RecordHeader header, CadBaseObject target, byte[] graphics)
     {
         bool isRaw = !target.HasAllBits;
+        if (!isRaw && target.Kept is not null)
+        {
+            // Tags that the class keeps take the place of stored graphics, which it can draw without.
+            return;
+        }
+
         if (target is CadAcadProxyEntity proxy)
         {
             proxy.GraphicsData = graphics;

@@ -49,6 +49,12 @@ internal sealed class WrittenClasses
         ["TABLECONTENT"] = ("AcDbTableContent", 1152),
         ["TABLEGEOMETRY"] = ("AcDbTableGeometry", 1152),
         ["VISUALSTYLE"] = ("AcDbVisualStyle", 4095),
+        ["ACDBDETAILVIEWSTYLE"] = ("AcDbDetailViewStyle", 1025),
+        ["ACDBSECTIONVIEWSTYLE"] = ("AcDbSectionViewStyle", 1025),
+        ["ACDB_TEXTOBJECTCONTEXTDATA_CLASS"] = ("AcDbTextObjectContextData", 1153),
+        ["ACDB_LEADEROBJECTCONTEXTDATA_CLASS"] = ("AcDbLeaderObjectContextData", 1153),
+        ["ACDB_BLKREFOBJECTCONTEXTDATA_CLASS"] = ("AcDbBlkRefObjectContextData", 1153),
+        ["ACDB_FCFOBJECTCONTEXTDATA_CLASS"] = ("AcDbFcfObjectContextData", 1153),
         ["PLANESURFACE"] = ("AcDbPlaneSurface", 4095),
     };
 

@@ -25,10 +25,16 @@ internal static class ReleaseConversion
     /// <param name="createMeasurer">Makes what measures texts that are wrapped; without it widths are
     /// approximate.</param>
     /// <param name="changes">Gets what could not be kept as it is.</param>
+    /// <param name="hasBinarySolids">Whether the format has the binary data of solids with the solids.</param>
     internal static CadDrawing Convert(
-        CadDrawing source, CadAcadVersion target, Func<ITextMeasurer?>? createMeasurer, List<string> changes)
+        CadDrawing source,
+        CadAcadVersion target,
+        Func<ITextMeasurer?>? createMeasurer,
+        List<string> changes,
+        bool hasBinarySolids = false)
     {
         CadDrawing drawing = DrawingCopy.Of(source);
+        ModelerSection.Carry(source, drawing);
         int from = DrawingRelease.Year(source.ContentRelease ?? source.Version);
         int to = DrawingRelease.Year(target);
         drawing.Header.AcadVersion = target;
@@ -45,7 +51,11 @@ internal static class ReleaseConversion
 
         if (to < WithDataSection && from >= WithDataSection)
         {
-            RemoveDataSection(drawing, changes);
+            drawing.RawSections.RemoveAll(static section => section.Name == "ACDSDATA");
+            if (!hasBinarySolids)
+            {
+                RemoveBinarySolids(drawing, changes);
+            }
         }
 
         ConvertEntities(drawing, to, createMeasurer, changes);
@@ -104,9 +114,8 @@ internal static class ReleaseConversion
     }
 
     // From release 2013 on the data of solids is in a section that earlier releases do not have.
-    private static void RemoveDataSection(CadDrawing drawing, List<string> changes)
+    private static void RemoveBinarySolids(CadDrawing drawing, List<string> changes)
     {
-        drawing.RawSections.RemoveAll(static section => section.Name == "ACDSDATA");
         foreach (CadBlockEntity block in drawing.BlockEntities)
         {
             EntityConversion.RemoveWhere(

@@ -200,7 +200,7 @@ public class ObjectRoundTripTests
         return circle;
     }
 
-    private static (CadDrawing Drawing, IReadOnlyList<string> LeftOut) WriteAndRead(
+    internal static (CadDrawing Drawing, IReadOnlyList<string> LeftOut) WriteAndRead(
         CadDrawing drawing, CadAcadVersion version)
     {
         int release = DrawingRelease.Year(version);

@@ -1,0 +1,132 @@
+using System;
+using System.Collections.Generic;
+using System.IO;
+using System.Linq;
+using System.Text.RegularExpressions;
+using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Tests.FileFormats.Cad.Dwg.Container;
+using Xunit;
+using Xunit.Abstractions;
+
+namespace Korvan.CAD.Tests.FileFormats.Cad.Dwg.Objects;
+
+/// <summary>What drawings lose that are saved as DWG of each release and as DXF, field by field: nothing but what the
+/// table says. The files are the smallest that have all classes of the real drawings.</summary>
+public partial class LossTests(ITestOutputHelper output)
+{
+    private const string AnyDwg = "AC10..";
+    private const string Before2004 = "AC1015";
+    private const string Before2007 = "AC101.";
+    private const string Before2013 = "AC10(15|18|24)";
+    private const string Before2018 = "AC10(15|18|24|27)";
+    private const string NoFields = "no class knows its fields: its bits are written to the release that they are from";
+    private const string NoTarget = "it leads to, belongs to or contains what is not written";
+    private const string Newer = "the release does not have it";
+
+    // Format, object or field, and reason.
+    private static readonly (string Format, string What, string Reason)[] Exceptions =
+    [
+        (".*", "^(ACAM|ACG|ACI|ACM|AM_?|AMD|AMG|AMI|CAMS|CSAC|DM|MAPI|TCH_)\\w* \\w+ is missing", NoFields),
+        (".*", "^ACAD_PROXY_OBJECT \\w+ is missing", NoFields),
+        (".*", "^ACDBASSOC(2DCONSTRAINTGROUP|\\w+ACTIONBODY|\\w+ACTIONPARAM) \\w+ is missing", NoFields),
+        (".*", "^(ACSH_(EXTRUSION|SWEEP)_CLASS|ASSOCDIMDEPENDENCYBODY) \\w+ is missing", NoFields),
+        (".*", "^(BLOCK(ARRAY|POLAR|XY)|ACDB_DYNAMICBLOCKPROXYNODE)\\w* \\w+ is missing", NoFields),
+        (".*", "^(MENTALRAY|RAPIDRT)RENDERSETTINGS \\w+ is missing", NoFields),
+        (".*", "^(EXTRUDED|LOFTED|REVOLVED|SWEPT)SURFACE \\w+ is (missing|a CadPoly)", NoFields),
+        (".*", "^BLOCK \\w+: other entities", NoTarget),
+        (AnyDwg, "^(DICTIONARY|XRECORD|ACDBASSOC\\w+) \\w+(: another owner| is missing)", NoTarget),
+        (AnyDwg, "^DICTIONARY \\w+: AcDbDictionary (3|350|360) ", NoTarget),
+        (AnyDwg, "^(ACDBASSOC\\w+|ACAD_EVALUATION_GRAPH|HATCH) \\w+: \\w+ (330|360) ", NoTarget),
+        (AnyDwg, "^VISUALSTYLE \\w+: AcDbVisualStyle ", "each release has a form of its own"),
+        (AnyDwg, "^XRECORD \\w+: AcDbXrecord 280 ", "R13 and R14 do not state it"),
+        (AnyDwg, "^VIEWPORT \\w+: the extended data ", "R13 and R14 have the fields in extended data"),
+        (AnyDwg, "^LEADER \\w+: AcDbLeader 2[123]3 ", "R2010 no longer has it"),
+        (AnyDwg, "^FIELD \\w+: AcDbField (4|9\\d) ", "the releases have it in other forms"),
+        (AnyDwg, "^ACAD_TABLE \\w+: AcDbTable \\d+ ", "cells in the form of the release"),
+        (AnyDwg, "^TABLESTYLE \\w+: AcDbTableStyle (280|90|91|1|63) ", "values came with 2007, no fill with 2010"),
+        (Before2004, "^\\w+ \\w+: AcDb(Entity|Hatch|MText|Sun|Color|LayerTableRecord) 4[2-6]\\d ", Newer),
+        (Before2004, "^\\w+ \\w+: AcDbEntity 62 ", "the nearest of the indexed colours"),
+        (Before2004, "^HATCH \\w+: AcDbHatch (45\\d|46\\d|470|63) ", Newer),
+        (Before2007, "^\\w+ \\w+: AcDb(Entity|LayerTableRecord|PlotSettings) (34\\d|7[678]|333) ", Newer),
+        (Before2007, "^(DIMSTYLE|BLOCK_RECORD|MATERIAL|GEODATA|TABLECONTENT|FIELD|MTEXT) \\w+: ", Newer),
+        (Before2007, "^ATT(DEF|RIB) \\w+: AcDbAttribute(Definition)? 280 ", Newer),
+        (Before2007, "^(ACAD_TABLE|ARC_DIMENSION|HELIX|MESH|MULTILEADER|PLANESURFACE) \\w+ is (a |missing)", Newer),
+        (Before2007, "^(LIGHT|PDFUNDERLAY) \\w+ is missing", Newer),
+        (Before2007, "^(3DSOLID|REGION|ACSH_\\w+|ACAD_EVALUATION_GRAPH) \\w+ is missing", "binary solids since 2010"),
+        (Before2013, "^(MULTILEADER|MLEADERSTYLE) \\w+: \\w+ (295|298) ", Newer),
+        (Before2018, "^ACDB(SECTION|DETAIL)VIEWSTYLE \\w+: AcDbModelDocViewStyle (300|90) ", Newer),
+        ("DXF", "^3DSOLID data of ", "text files before release 2013 have the data of solids as text"),
+        ("DXF", "^XRECORD \\w+: (AcDbXrecord 10\\d\\d|the extended data) ", "text files take it for extended data"),
+    ];
+
+    [DrawingFact]
+    public void NothingIsLostButWhatTheTableSays()
+    {
+        List<string> unknown = [];
+        SortedDictionary<string, int> table = new(StringComparer.Ordinal);
+        foreach (CadImage image in FilesOfAllClasses())
+        {
+            foreach (string format in new[] { "AC1015", "AC1018", "AC1024", "AC1027", "AC1032", "DXF" })
+            {
+                foreach (string line in Losses(image, format))
+                {
+                    string reason = Array.Find(Exceptions, known => Regex.IsMatch(format, known.Format)
+                        && Regex.IsMatch(line, known.What)).Reason ?? "";
+                    string row = $"{ClassOf(line)}\t{format}\t{reason}";
+                    table[row] = table.GetValueOrDefault(row) + 1;
+                    if (reason.Length == 0)
+                    {
+                        unknown.Add($"{format}: {line}");
+                    }
+                }
+            }
+        }
+
+        output.WriteLine(string.Join('\n', table.Select(static row => $"{row.Key}\t{row.Value}")));
+        Assert.Empty(unknown.Take(20));
+    }
+
+    private static IEnumerable<CadImage> FilesOfAllClasses()
+    {
+        HashSet<string> seen = [];
+        foreach (string path in DwgSamples.Files().OrderBy(static path => new FileInfo(path).Length))
+        {
+            CadImage image = (CadImage)Image.Load(path, new LoadOptions { IgnoreErrors = true });
+            if (DrawingWalk.All(image.Drawing).Count(item => seen.Add(item.DxfName)) > 0)
+            {
+                yield return image;
+            }
+        }
+    }
+
+    private static List<string> Losses(CadImage image, string format)
+    {
+        using MemoryStream file = new();
+        image.Save(file, format == "DXF" ? new DxfOptions()
+            : new DwgOptions { Version = Enum.Parse<CadAcadVersion>(format) });
+        file.Position = 0;
+        CadImage again = (CadImage)Image.Load(file, new LoadOptions());
+        List<string> found = DrawingDifferences.Between(again.Drawing, image.Drawing, static _ => true);
+        int solids = SolidsOf(again);
+        if (format is not ("AC1015" or "AC1018") && solids != SolidsOf(image))
+        {
+            found.Add($"3DSOLID data of {SolidsOf(image)} solids, not {solids}");
+        }
+
+        return found;
+    }
+
+    private static int SolidsOf(CadImage image) => DrawingWalk.Entities(image.Drawing)
+        .OfType<CadObjectWithAcisData>().Count(static solid =>
+            solid.AcisData.Count > 0 || solid.DataRecord is { Data.Length: > 0 });
+
+    private static string ClassOf(string line) => Field().Match(line) is { Success: true } field
+        ? field.Groups[1].Value + " " + field.Groups[2].Value : line.Split(' ')[0];
+
+    [GeneratedRegex("^(\\w+) \\w+: \\w+ (\\d+) is ")]
+    private static partial Regex Field();
+}
