@@ -85,7 +85,7 @@ internal sealed class PageSource
     {
         RenderStyle style = _options.Style() with
         {
-            MaxStored = InParts && !_options.AsBitmap ? MaxStored : null,
+            MaxStored = !InParts || _options.AsBitmap ? null : layout.Entities > MaxStored ? PartSize : MaxStored,
             HasSymbols = HasSymbols && !_options.AsBitmap,
         };
         DrawingList list = _scene.Build(layout, style, _engine);
