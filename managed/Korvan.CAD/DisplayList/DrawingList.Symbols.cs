@@ -273,7 +273,10 @@ internal sealed partial class DrawingList
         for (int i = _itemCount - 1; i >= first; i--)
         {
             ref readonly DisplayItem item = ref _items[i];
-            (_verbCount, _coordCount) = item.VerbCount > 0 ? (item.FirstVerb, item.FirstCoord) : (_verbCount, _coordCount);
+            if (item.VerbCount > 0)
+            {
+                (_verbCount, _coordCount) = (item.FirstVerb, item.FirstCoord);
+            }
         }
 
         _itemCount = first;

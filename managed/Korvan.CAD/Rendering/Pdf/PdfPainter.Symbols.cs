@@ -95,8 +95,8 @@ internal sealed partial class PdfPainter
             .Raw(" Do Q\n"u8);
     }
 
-    /// <summary>Whether a form takes less than its content at each place. A list that is drawn in parts was made before,
-    /// and knows how often.</summary>
+    /// <summary>Whether a form takes less than its content at each place. A list that is drawn in parts was made
+    /// before, and knows how often.</summary>
     private bool IsSmallerAsForm(int index, Symbol symbol)
     {
         IReadOnlyList<Symbol> counted = _page.List.Definitions.Symbols;

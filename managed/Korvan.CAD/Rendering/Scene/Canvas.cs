@@ -36,6 +36,9 @@ internal sealed class Canvas
     /// <summary>Scratch for one path; whoever draws clears it first.</summary>
     internal PathBuffer Path { get; } = new();
 
+    /// <summary>Scratch for the pieces of one text.</summary>
+    internal List<TextPiece> Pieces { get; } = [];
+
     internal PathBuffer NewPath()
     {
         Path.Clear();
@@ -152,7 +155,12 @@ internal sealed class Canvas
         if (own > 0 && advance > 0)
         {
             List.Text(
-                new TextRun(text, outline, Wider(matrix, advance / own), 0) { Advance = own, CapHeight = cap, IsHidden = true },
+                new TextRun(text, outline, Wider(matrix, advance / own), 0)
+                {
+                    Advance = own,
+                    CapHeight = cap,
+                    IsHidden = true,
+                },
                 pen.Color, pen.Layer, box);
         }
 

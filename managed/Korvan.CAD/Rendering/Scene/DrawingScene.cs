@@ -10,6 +10,8 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <summary>A layout that can be drawn: the model, or a sheet of paper.</summary>
 internal sealed record LayoutInfo(string Name, BlockInfo Block, bool IsModel, PlotArea? Plot) : ScenePage(Name)
 {
+    internal override int Entities => Block.Entities.Count;
+
     internal override PaperSheet? SheetFor(in Bounds2 content) => Plot?.SheetFor(content);
 }
 

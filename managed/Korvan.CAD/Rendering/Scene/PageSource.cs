@@ -86,11 +86,9 @@ internal sealed class PageSource
 
     private Page Create(ScenePage layout)
     {
-        int? stored = _device == DeviceKind.Pixels ? MaxStoredForPixels
-            : InParts && !_options.AsBitmap ? MaxStored : null;
         RenderStyle style = _options.Style() with
         {
-            MaxStored = stored,
+            MaxStored = Stored(layout),
             HasSymbols = HasSymbols && !_options.AsBitmap,
         };
         DrawingList list = _scene.Build(layout, style, _engine);
@@ -151,6 +149,16 @@ internal sealed class PageSource
         }
 
         return page;
+    }
+
+    private int? Stored(ScenePage layout)
+    {
+        if (_device == DeviceKind.Pixels)
+        {
+            return MaxStoredForPixels;
+        }
+
+        return !InParts || _options.AsBitmap ? null : layout.Entities > MaxStored ? PartSize : MaxStored;
     }
 
     private void Replay(ScenePage layout, RenderStyle style, Action<DrawingList> drain) =>

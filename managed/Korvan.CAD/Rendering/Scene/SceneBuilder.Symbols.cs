@@ -5,8 +5,8 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
 
-/// <content>Blocks that repeat. The first reference is drawn as it is; the second one with the same layer, pen and scale
-/// makes a symbol of the block, which it and all others place.</content>
+/// <content>Blocks that repeat. The first reference is drawn as it is; the second one with the same layer, pen and
+/// scale makes a symbol of the block, which it and all others place.</content>
 internal sealed partial class SceneBuilder
 {
     private const int MaxSymbolKeys = 50_000;

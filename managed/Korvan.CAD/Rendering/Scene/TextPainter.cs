@@ -49,7 +49,7 @@ internal static class TextPainter
     internal static void Draw(Canvas canvas, in SingleLine line, in Affine3 map, in Pen pen)
     {
         int font = canvas.Engine.Font(line.Font);
-        List<TextPiece> pieces = Pieces(line);
+        List<TextPiece> pieces = Pieces(canvas, line);
         double em = line.Height / canvas.Engine.CapRatio(font);
         double advance = 0;
         foreach (TextPiece piece in pieces)
@@ -109,9 +109,11 @@ internal static class TextPainter
         return new Affine2(map.AxisX.X, map.AxisX.Y, map.AxisY.X, map.AxisY.Y, origin.X, origin.Y);
     }
 
-    private static List<TextPiece> Pieces(in SingleLine line)
+    private static List<TextPiece> Pieces(Canvas canvas, in SingleLine line)
     {
-        List<TextPiece> pieces = TextCodes.Parse(line.Text);
+        List<TextPiece> pieces = canvas.Pieces;
+        pieces.Clear();
+        TextCodes.Parse(line.Text, pieces);
         for (int i = 0; line.ToleranceSymbols && i < pieces.Count; i++)
         {
             pieces[i] = pieces[i] with { Text = ToleranceSymbols.Translate(pieces[i].Text) };

@@ -11,6 +11,9 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <summary>Something of a vector image that makes a page of its own.</summary>
 internal abstract record ScenePage(string Name)
 {
+    /// <summary>Gets about how many items the page has at least.</summary>
+    internal virtual int Entities => 0;
+
     /// <summary>The paper of a page that has one.</summary>
     /// <param name="content">The extents of what the page shows, in drawing units.</param>
     internal abstract PaperSheet? SheetFor(in Bounds2 content);

@@ -31,7 +31,8 @@ public sealed class SymbolTests : IDisposable
     [InlineData(-120, -1)]
     public void Extents_are_those_of_the_drawn_blocks(double angle, double scale)
     {
-        CadImage drawing = Drawing([.. Enumerable.Range(0, 6).Select(i => Place(40 * i, 7 * i, angle + (45 * i), scale))]);
+        CadImage drawing = Drawing(
+            [.. Enumerable.Range(0, 6).Select(i => Place(40 * i, 7 * i, angle + (45 * i), scale))]);
         DrawingList flat = Build(drawing, hasSymbols: false);
         DrawingList shared = Build(drawing, hasSymbols: true);
         Assert.Equal(5, Count(shared, DisplayKind.Symbol));
@@ -90,7 +91,8 @@ public sealed class SymbolTests : IDisposable
         CadImage drawing = Drawing(Everything());
         string shared = WriteSvg(drawing, hasSymbols: true);
         string text = File.ReadAllText(shared);
-        Assert.True(PdfSample.Count(text, "<use xlink:href=\"#symbol-") == 0, "content of two layers is in their groups");
+        Assert.True(
+            PdfSample.Count(text, "<use xlink:href=\"#symbol-") == 0, "content of two layers is in their groups");
         drawing.BlockEntities["VALVE"].Entities.RemoveAll(entity => entity.LayerName == "pipes");
         shared = WriteSvg(drawing, hasSymbols: true);
         PixelMap.AssertSame(PixelMap.OfSvg(WriteSvg(drawing, hasSymbols: false)), PixelMap.OfSvg(shared));

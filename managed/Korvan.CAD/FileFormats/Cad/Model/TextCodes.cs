@@ -1,4 +1,5 @@
 using System;
+using System.Buffers;
 using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
@@ -23,9 +24,26 @@ internal static class TextCodes
         ['5'] = 936,
     };
 
+    /// <summary>The characters of codes, and those that are not shown as they are.</summary>
+    private static readonly SearchValues<char> Special = SearchValues.Create(
+        [.. "%^\\", .. ControlCharacters('\0', ' '), .. ControlCharacters('\u007f', '\u00a0')]);
+
     internal static List<TextPiece> Parse(string text)
     {
         var pieces = new List<TextPiece>();
+        Parse(text, pieces);
+        return pieces;
+    }
+
+    /// <summary>Adds the pieces of a text; most have one, which is the text itself.</summary>
+    internal static void Parse(string text, List<TextPiece> pieces)
+    {
+        if (text.Length > 0 && !text.AsSpan().ContainsAny(Special))
+        {
+            pieces.Add(new TextPiece(text, false, false, false));
+            return;
+        }
+
         var pending = new StringBuilder();
         bool underline = false;
         bool overline = false;
@@ -64,12 +82,16 @@ internal static class TextCodes
         }
 
         Flush();
-        return pieces;
     }
 
     /// <summary>The text as it reads, without bars.</summary>
     internal static string Plain(string text)
     {
+        if (!text.AsSpan().ContainsAny(Special))
+        {
+            return text;
+        }
+
         var result = new StringBuilder(text.Length);
         foreach (TextPiece piece in Parse(text))
         {
@@ -128,6 +150,14 @@ internal static class TextCodes
         }
 
         return false;
+    }
+
+    private static IEnumerable<char> ControlCharacters(char first, char end)
+    {
+        for (char c = first; c < end; c++)
+        {
+            yield return c;
+        }
     }
 
     private static char SwitchAt(string text, int at)
