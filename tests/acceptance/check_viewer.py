@@ -116,13 +116,13 @@ def write_page(source: Path, folder: Path) -> Path:
 
 def open_page(browser: Browser, page: Path) -> None:
     browser.open(page.as_uri())
-    browser.wait_for(SHARP, f"the picture of {page.name}")
+    browser.wait_for(SHARP, f"the image of {page.name}")
 
 
 def settle(browser: Browser) -> None:
     """Lets a change reach the canvas."""
     browser.run("return new Promise((resolve) => requestAnimationFrame(() => requestAnimationFrame(resolve)))")
-    browser.wait_for(SHARP, "the next picture")
+    browser.wait_for(SHARP, "the next image")
 
 
 def count(browser: Browser, color: tuple[int, int, int]) -> int:
@@ -288,9 +288,9 @@ def check_speed(browser: Browser, folder: Path) -> None:
     page = write_page(source, folder)
     results: dict[str, object] = {"written": round(time.monotonic() - started, 2), "bytes": page.stat().st_size}
     browser.open(page.as_uri())
-    browser.wait_for(f"{VIEWER}?.camera.firstPicture", "the first picture")
-    results["first picture, ms"] = round(browser.run(f"return {VIEWER}.camera.firstPicture"))
-    browser.wait_for(SHARP, "the picture")
+    browser.wait_for(f"{VIEWER}?.camera.firstImage", "the first image")
+    results["first image, ms"] = round(browser.run(f"return {VIEWER}.camera.firstImage"))
+    browser.wait_for(SHARP, "the image")
     for name, step in (
         ("move", "camera.pan(Math.sin(n / 20) * 9, Math.cos(n / 20) * 6)"),
         ("zoom", "camera.zoom(n < 120 ? 1.03 : 1 / 1.03, 500, 300)"),

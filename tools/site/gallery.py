@@ -9,6 +9,7 @@ _PLAN = """
     raster.layouts = ["Ground floor"]
     raster.page_width = 1400.0
 """
+VIEWED = "floor_plan.dxf"
 # Title, drawing, code between the options and the save, and what the image shows.
 ENTRIES = (
     ("A layout as it is plotted", "floor_plan.dxf", _PLAN,
@@ -57,6 +58,8 @@ def code_of(drawing: str, settings: str, image: str) -> str:
 
 def write_gallery(target: Path) -> None:
     """Writes the page and its images; the working directory has to be that of the project."""
+    from korvan.viewer import write_page
+
     folder = target / "gallery"
     folder.mkdir(parents=True, exist_ok=True)
     lines = ["# Gallery", "", "Made by the build of this documentation from the drawings in `examples/drawings`.", ""]
@@ -65,4 +68,7 @@ def write_gallery(target: Path) -> None:
         exec(compile(code_of(drawing, settings, str(folder / name)), title, "exec"), {})
         code = code_of(drawing, settings, f"build/{name}")
         lines += [f"## {title}", "", about, "", f"![{title}](gallery/{name})", "", "```python", code.strip(), "```", ""]
+    write_page(Path("examples") / "drawings" / VIEWED, folder / "viewer.html")
+    lines += ["## In the browser", "", "The page that `korvan view` makes of a drawing: [open it](gallery/viewer.html). "
+              "It has layouts, layers, text search and measuring. See [View](viewer.md).", ""]
     (target / "gallery.md").write_text("\n".join(lines), encoding="utf-8")

@@ -1,9 +1,9 @@
-// The view: what part of the layout is on screen, and the pictures of it that the worker made.
+// The view: what part of the layout is on screen, and the images of it that the worker made.
 "use strict";
 
-const MARGIN = 0.15;  // of the window, drawn around it so that short moves need no new picture
+const MARGIN = 0.15;  // of the window, drawn around it so that short moves need no new image
 const NEAREST = 40000;  // zoom over the one that shows everything
-const STALE = 3;  // how much a picture is enlarged while the zoom goes on
+const STALE = 3;  // how much an image is enlarged while the zoom goes on
 const QUIET = 90;  // milliseconds without a change after which an outdated request is given up
 
 class Camera {
@@ -18,11 +18,11 @@ class Camera {
     this._overview = null;
     this._overviewState = -1;
     this._pending = null;
-    this._state = 0;  // counts what changes pictures: layers, theme, widths
+    this._state = 0;  // counts what changes images: layers, theme, widths
     this._ids = 0;
     this._dirty = false;
     this._changed = 0;
-    this.firstPicture = 0;
+    this.firstImage = 0;
     this.isSharp = false;
     this._readColors();
     this.resize();
@@ -45,7 +45,7 @@ class Camera {
     this.refresh();
   }
 
-  /** Forgets pictures, after a change of the settings. */
+  /** Forgets images, after a change of the settings. */
   restyle() {
     this._state++;
     this._readColors();
@@ -124,20 +124,20 @@ class Camera {
     return { x: (point.x - x) * scale / this.ratio, y: (point.y - y) * scale / this.ratio };
   }
 
-  /** Takes a picture from the worker. */
+  /** Takes an image from the worker. */
   accept({ id, view, overview, bitmap, done }) {
     if (this._pending === null || id !== this._pending.id) {
       bitmap.close();
       return;
     }
-    const picture = { view, bitmap, state: this._pending.state, done };
+    const image = { view, bitmap, state: this._pending.state, done };
     if (overview) {
       this._overview?.bitmap.close();
-      this._overview = picture;
+      this._overview = image;
     } else {
       this._sharp?.bitmap.close();
-      this._sharp = picture;
-      this.firstPicture ||= performance.now();
+      this._sharp = image;
+      this.firstImage ||= performance.now();
     }
     if (done) {
       this._pending = null;
@@ -174,12 +174,12 @@ class Camera {
     }
   }
 
-  _covers(picture) {
-    if (picture === null || !picture.done) {
+  _covers(image) {
+    if (image === null || !image.done) {
       return false;
     }
     const { view, canvas } = this;
-    const { bitmap, view: { x, y, scale } } = picture;
+    const { bitmap, view: { x, y, scale } } = image;
     return x <= view.x && y <= view.y && x + bitmap.width / scale >= view.x + canvas.width / view.scale
       && y + bitmap.height / scale >= view.y + canvas.height / view.scale;
   }
@@ -203,10 +203,10 @@ class Camera {
     }
   }
 
-  /** Asks for the picture that is missing, one at a time. */
+  /** Asks for the image that is missing, one at a time. */
   _request() {
     const { view, canvas } = this;
-    const isCurrent = (picture) => picture !== null && picture.state === this._state;
+    const isCurrent = (image) => image !== null && image.state === this._state;
     const isSharp = isCurrent(this._sharp) && this._covers(this._sharp) && this._sharp.view.scale === view.scale;
     this.isSharp = isSharp && this._pending === null;
     if (this._pending !== null) {
@@ -234,7 +234,7 @@ class Camera {
     }
   }
 
-  /** Whether the scale has just changed, but not by so much that the enlarged picture shows little. */
+  /** Whether the scale has just changed, but not by so much that the enlarged image shows little. */
   _isZooming() {
     if (this._sharp === null || this._sharp.state !== this._state || performance.now() - this._changed > QUIET) {
       return false;

@@ -1,10 +1,10 @@
 // The worker: reads layouts and draws views of them, so that the page never waits.
 "use strict";
 
-const INTERIM = 250;  // milliseconds between unfinished pictures of a slow view
+const INTERIM = 250;  // milliseconds between unfinished images of a slow view
 
 let painter = null;
-let last = null;  // the last picture of a view that is whole
+let last = null;  // the last image of a view that is whole
 let newest = 0;
 const channel = new MessageChannel();
 let resume = null;
@@ -101,7 +101,7 @@ async function draw({ id, view, width, height, overview }) {
   }
 }
 
-/** Copies what the last picture has of a view of the same scale, and returns the areas that it has not. */
+/** Copies what the last image has of a view of the same scale, and returns the areas that it has not. */
 function reuseLast(context, view) {
   const { width, height } = context.canvas;
   const whole = [{ x: 0, y: 0, width, height }];

@@ -88,9 +88,9 @@ class Viewer {
     $$("message").textContent = count === 0 ? "There is nothing on this layout." : "";
   }
 
-  _drawn(picture) {
-    this.camera.accept(picture);
-    $$("state").textContent = picture.done ? "" : "Drawing …";
+  _drawn(image) {
+    this.camera.accept(image);
+    $$("state").textContent = image.done ? "" : "Drawing …";
   }
 
   _bounds({ bounds }) {
