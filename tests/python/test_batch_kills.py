@@ -27,6 +27,14 @@ def children(process: int) -> list[int]:
         return []
 
 
+def wait_for_end(processes: list[int]) -> None:
+    end = time.monotonic() + 10
+    while any(os.path.exists(f"/proc/{process}") for process in processes):
+        if time.monotonic() > end:
+            raise AssertionError("workers outlive the batch")
+        time.sleep(0.01)
+
+
 class Kills(unittest.TestCase):
     def setUp(self) -> None:
         self.random = random.Random(7)
@@ -55,33 +63,45 @@ class Kills(unittest.TestCase):
         self.assertEqual(list(self.batch.out.rglob("*.part")), [])
         self.assertFalse(BatchFolder(self.batch.out).scratch(0).exists())
 
-    def run_for(self, seconds: float) -> subprocess.Popen[str]:
-        process = self.batch.start("--jobs", "2", "--no-thumbnails")
-        try:
-            process.wait(seconds)
-        except subprocess.TimeoutExpired:
-            pass
-        return process
+    def wait_for(self, process: subprocess.Popen[str], results: int) -> None:
+        """Waits until there are so many results, and a moment more."""
+        end = time.monotonic() + 60
+        while process.poll() is None and len(self.batch.results()) < results:
+            self.assertLess(time.monotonic(), end, "the batch makes no progress")
+            time.sleep(0.002)
+        time.sleep(self.random.uniform(0, 0.03))
 
     def test_the_whole_batch_is_killed_again_and_again(self) -> None:
         done = [0]
         for _ in range(KILLS):
-            process = self.run_for(self.random.uniform(0.2, 2.5))
+            process = self.batch.start("--jobs", "2", "--no-thumbnails")
+            self.wait_for(process, len(self.batch.results()) + self.random.randint(0, 5))
             workers = children(process.pid)
             process.kill()
             process.communicate()
-            end = time.monotonic() + 10
-            while any(os.path.exists(f"/proc/{worker}") for worker in workers):
-                self.assertLess(time.monotonic(), end, "workers outlive the batch")
-                time.sleep(0.01)
+            wait_for_end(workers)
             done.append(self.check())
             self.assertGreaterEqual(done[-1], done[-2])
         self.finish()
 
+    def test_a_worker_at_work_ends_with_the_batch(self) -> None:
+        with Batch() as batch:
+            batch.script()
+            batch.add("slow.dxf")
+            process = batch.start()
+            while not batch.runs_of("slow.dxf"):
+                time.sleep(0.01)
+            workers = children(process.pid)
+            self.assertEqual(batch.states(), {"slow.dxf": "running"})  # a journal that is written can be read
+            process.kill()
+            process.communicate()
+            wait_for_end(workers)
+            self.assertEqual(batch.states(), {"slow.dxf": "running"})
+
     def test_workers_are_killed_again_and_again(self) -> None:
         process = self.batch.start("--jobs", "2", "--no-thumbnails")
-        for _ in range(KILLS):
-            time.sleep(self.random.uniform(0.05, 0.6))
+        for kill in range(KILLS):
+            self.wait_for(process, 4 * kill)
             workers = children(process.pid)
             if workers:
                 os.kill(self.random.choice(workers), signal.SIGKILL)
