@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -83,6 +84,7 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
                 PlaceIn(entity, record.Handle, isPaper);
                 TakeColor(entity, content.Frame);
                 Complete(entity, content);
+                TakeBlockRecord(entity);
             }
         }
 
@@ -139,6 +141,16 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
         {
             entity.ColorValue = color.ColorValue;
             entity.ColorName = color.ColorName;
+        }
+    }
+
+    // Text files state the record of the block with the graphics as well.
+    private void TakeBlockRecord(CadEntityBase entity)
+    {
+        if (entity is CadTableEntity table && drawing.BlockRecords.Items.Find(record =>
+            string.Equals(record.Name, table.Name, StringComparison.OrdinalIgnoreCase)) is { } block)
+        {
+            table.BlockRecordHandle = HandleText.Format(block.Handle);
         }
     }
 
