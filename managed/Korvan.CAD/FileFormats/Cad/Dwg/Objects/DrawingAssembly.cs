@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
@@ -16,6 +17,7 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
 {
     // Blocks whose entities are linked to each other, where the links end before the last one.
     private readonly Dictionary<ulong, CadBlockEntity> _cut = [];
+    private readonly HashSet<CadBlockEntity> _cutBlocks = [];
 
     internal void Build()
     {
@@ -91,6 +93,7 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
         if (last != parts.Last)
         {
             _cut[record.Handle] = block;
+            _cutBlocks.Add(block);
         }
 
         if (isPaper)
@@ -109,6 +112,7 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
             PlaceIn(entity, owner, isPaper);
             TakeColor(entity, content.Frame);
             Complete(entity, content);
+            TakeBlockRecord(entity);
         }
     }
 
@@ -135,7 +139,7 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
     };
 
     private CadBlockEntity? UnlinkedOrNull(CadBlockEntity block, bool isInFile) =>
-        !isInFile || _cut.ContainsValue(block) ? block : null;
+        !isInFile || _cutBlocks.Contains(block) ? block : null;
 
     private static void TakeDefinition(CadBlockEntity block, BlockDefinition? definition)
     {
@@ -182,6 +186,15 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
         {
             entity.ColorValue = color.ColorValue;
             entity.ColorName = color.ColorName;
+        }
+    }
+
+    // Text files state the record of the block with the graphics as well.
+    private void TakeBlockRecord(CadEntityBase entity)
+    {
+        if (entity is CadTableEntity table && drawing.BlockRecords.Find(table.Name) is { } block)
+        {
+            table.BlockRecordHandle = HandleText.Format(block.Handle);
         }
     }
 
