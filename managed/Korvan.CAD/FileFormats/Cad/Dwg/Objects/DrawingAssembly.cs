@@ -122,7 +122,8 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
         for (int i = 0; i < objects.Count; i++)
         {
             (CadBaseObject? target, ObjectFrame frame, _) = objects[i];
-            if (target is CadEntityBase and not (CadVertexBase or CadAttrib or CadSeqend or CadBlockEntity or CadEndBlock)
+            if (target is CadEntityBase
+                and not (CadVertexBase or CadAttrib or CadSeqend or CadBlockEntity or CadEndBlock)
                 && !objects.IsTaken(i) && UnlinkedBlockOf(frame) is { } block)
             {
                 objects.Take(objects.HandleOf(i));

@@ -178,8 +178,8 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
     {
         if (content.Target is { } target && target.Handle != file.Map.Handles[index])
         {
-            Report(new DwgFault(header.Fields, $"the record states the handle {HandleText.Format(target.Handle)}"), index,
-                target.DxfName);
+            string cause = $"the record states the handle {HandleText.Format(target.Handle)}";
+            Report(new DwgFault(header.Fields, cause), index, target.DxfName);
             target.Handle = file.Map.Handles[index];
         }
     }

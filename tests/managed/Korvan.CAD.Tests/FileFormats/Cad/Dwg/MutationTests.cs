@@ -17,8 +17,8 @@ using Xunit;
 namespace Korvan.CAD.Tests.FileFormats.Cad.Dwg;
 
 /// <summary>Many small files with wrong bytes: each is read, or refused with a defect that names its place, in time and
-/// memory in proportion to the file. For longer runs, KORVAN_DWG_MUTANTS states their number in each family of releases, and
-/// KORVAN_DWG_SEED which ones.</summary>
+/// memory in proportion to the file. For longer runs, KORVAN_DWG_MUTANTS states how many there are in each family of
+/// releases, and KORVAN_DWG_SEED which ones.</summary>
 public class MutationTests
 {
     private const int MaxMilliseconds = 20_000;

@@ -1,5 +1,4 @@
 using System;
-using System.Collections.Generic;
 using System.Linq;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
@@ -171,7 +170,8 @@ public class BitCodeTests
     [Fact]
     public void Numbers_keep_all_their_bits()
     {
-        foreach (double value in new[] { -0.0, double.Epsilon, double.MaxValue, -1, double.PositiveInfinity, 1 + 1e-15 })
+        double[] values = [-0.0, double.Epsilon, double.MaxValue, -1, double.PositiveInfinity, 1 + 1e-15];
+        foreach (double value in values)
         {
             BitWriter writer = new();
             writer.BitDouble(value);

@@ -4,6 +4,7 @@ using System.Diagnostics;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container.Paged;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container.Release2007;
@@ -162,15 +163,16 @@ public class DamagedContainerTests
         }
     }
 
-    [DrawingTheory]
-    [InlineData("tika__testDWG2004.dwg")]
-    [InlineData("lwg__2007_Line.dwg")]
-    public void Encrypted_files_are_refused_by_name(string name)
+    [Theory]
+    [InlineData(CadAcadVersion.AC1018)]
+    [InlineData(CadAcadVersion.AC1021)]
+    [InlineData(CadAcadVersion.AC1032)]
+    public void Encrypted_files_are_refused_by_name(CadAcadVersion version)
     {
-        byte[] data = DwgSamples.Bytes(name);
+        byte[] data = MadeFiles.Of(version);
         data[0x18] |= 1;
         ImageLoadException failure = Assert.Throws<ImageLoadException>(
-            () => DwgSamples.Open(data, name, new LoadOptions { IgnoreErrors = true }));
+            () => MadeFiles.Open(data, new LoadOptions { IgnoreErrors = true }));
         Assert.Equal(LoadDefectCode.Encrypted, failure.Defect!.Code);
         Assert.Contains("password", failure.Message, StringComparison.Ordinal);
     }

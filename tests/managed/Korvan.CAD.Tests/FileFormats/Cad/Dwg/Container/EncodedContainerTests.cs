@@ -36,7 +36,8 @@ public class EncodedContainerTests
         byte[] whole = file.Build();
         DwgFile expected = MadeFiles.Open(whole);
         List<(string Section, int Address, int Blocks, int Correctable)> pages = [(FileHeader, 0x80, 3, 8)];
-        pages.Add(("page map", file.Addresses[1], EncodedFile.BlocksOf(ReedSolomon.System, 16 * (file.Pages.Count + 2)), 8));
+        int mapBlocks = EncodedFile.BlocksOf(ReedSolomon.System, 16 * (file.Pages.Count + 2));
+        pages.Add(("page map", file.Addresses[1], mapBlocks, 8));
         pages.Add(("section map", file.Addresses[2], 0, 8));
         pages.AddRange(file.Sections.SelectMany(section => section.Pages.Select(page =>
             (section.Name, file.Addresses[page.Number], EncodedFile.BlocksOf(ReedSolomon.Data, (int)page.Stored), 2))));

@@ -8,7 +8,7 @@ using Korvan.CAD.FileFormats.Cad.Dwg.Container.Release2007;
 
 namespace Korvan.CAD.Tests.FileFormats.Cad.Dwg.Container;
 
-/// <summary>Builds files of release 2007 without compression. Each statement about pages can be changed before.</summary>
+/// <summary>Builds files of release 2007 without compression. What the maps state can be changed before.</summary>
 internal sealed class EncodedFile
 {
     private const ulong Seed = 0x1234567;

@@ -39,7 +39,8 @@ internal static class MadeFiles
     internal static TheoryData<CadAcadVersion> EachVersion => [.. Versions];
 
     /// <summary>Returns a copy of a file with an entity of each kind of structure.</summary>
-    internal static byte[] Of(CadAcadVersion version) => [.. Files.GetOrAdd(version, static key => Write(Drawing(), key))];
+    internal static byte[] Of(CadAcadVersion version) =>
+        [.. Files.GetOrAdd(version, static key => Write(Drawing(), key))];
 
     /// <summary>Returns the sections that a drawing is written of, also for the release that has no writer.</summary>
     internal static DwgContent ContentOf(CadDrawing drawing, CadAcadVersion version)
@@ -84,7 +85,8 @@ internal static class MadeFiles
     /// <summary>Verifies that a damaged file is refused with a defect that names its place, and that it is read with
     /// such a defect where defects do not end the load.</summary>
     /// <returns>The file and its defects.</returns>
-    internal static (DwgFile File, List<LoadDefect> Defects) VerifyDefect(byte[] data, LoadDefectCode code, string place)
+    internal static (DwgFile File, List<LoadDefect> Defects) VerifyDefect(
+        byte[] data, LoadDefectCode code, string place)
     {
         LoadDefect first = Assert.Throws<ImageLoadException>(() => Open(data)).Defect!;
         Assert.Equal((code, place), (first.Code, first.Place.Record));

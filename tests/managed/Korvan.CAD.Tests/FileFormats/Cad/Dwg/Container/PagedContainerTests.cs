@@ -89,7 +89,7 @@ public class PagedContainerTests
     [InlineData(IdField, 99, nameof(LoadDefectCode.InvalidPage), "not where the page map states, or not whole")]
     [InlineData(FirstPage, 4711, nameof(LoadDefectCode.InvalidPage), "page 4711 is not where the page map states")]
     [InlineData(FirstPage, -1, nameof(LoadDefectCode.InvalidPage), "page -1 is not where the page map states")]
-    [InlineData(FirstPage, 1, nameof(LoadDefectCode.InvalidPage), "page 1 is not where the page map states")] // of another section
+    [InlineData(FirstPage, 1, nameof(LoadDefectCode.InvalidPage), "page 1 is not where")] // but another section
     [InlineData(PageStart, int.MaxValue, nameof(LoadDefectCode.InvalidPage), "begins at byte 2147483647 of a section")]
     [InlineData(PageStart + 4, -1, nameof(LoadDefectCode.InvalidPage), "of a section")]
     public void A_section_that_the_map_describes_wrongly_is_named(int field, int value, string code, string cause)
@@ -207,7 +207,7 @@ public class PagedContainerTests
     {
         PagedFile file = new(Whole) { StatedMapSize = size };
         LoadDefect defect = Assert.Throws<ImageLoadException>(() => MadeFiles.Open(file.Build())).Defect!;
-        Assert.Equal("section map", size == 0 ? "section map" : defect.Place.Record);
+        Assert.Equal("section map", defect.Place.Record);
         DwgFile found = MadeFiles.Open(file.Build(), new LoadOptions { IgnoreErrors = true });
         Assert.Equal(MadeFiles.Open(Whole).Map.Handles, found.Map.Handles);
     }
@@ -220,8 +220,11 @@ public class PagedContainerTests
     [InlineData(0x5C, 1, "section map")]
     public void Maps_that_the_header_misplaces_are_found(int field, int value, string map)
     {
-        PagedFile file = new(Whole) { ChangeHeader = header => BitConverter.GetBytes((long)value).AsSpan(
-            0, field == 0x54 ? 8 : 4).CopyTo(header.AsSpan(field)) };
+        PagedFile file = new(Whole)
+        {
+            ChangeHeader = header => BitConverter.GetBytes((long)value).AsSpan(
+            0, field == 0x54 ? 8 : 4).CopyTo(header.AsSpan(field))
+        };
         (DwgFile found, _) = MadeFiles.VerifyDefect(file.Build(), LoadDefectCode.InvalidPage, map);
         DwgFile whole = MadeFiles.Open(Whole);
         Assert.Equal(whole.SummaryInfo, found.SummaryInfo);

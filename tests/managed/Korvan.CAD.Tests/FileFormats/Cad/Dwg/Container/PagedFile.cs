@@ -55,7 +55,7 @@ internal sealed class PagedFile
 
     internal SectionInfo this[string name] => Sections.Find(section => section.Name == name)!;
 
-    /// <summary>Returns the place of a section in the map: size, number of pages, page size and further fields.</summary>
+    /// <summary>Returns the place of a section in the map: size, number of pages, page size and more.</summary>
     internal int PlaceOf(string name)
     {
         const int nameOffset = 32;

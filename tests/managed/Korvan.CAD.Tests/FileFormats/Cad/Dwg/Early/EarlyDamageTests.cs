@@ -127,22 +127,22 @@ public class EarlyDamageTests
     }
 
     [Theory]
-    [InlineData(5, 0x7FFF, "CountTooLarge", "the file has room for")]
-    [InlineData(3, 20, "InvalidSection", "the records of the table have 20 bytes")]
-    [InlineData(9, 0x7FFFFFFF, "InvalidSection", "it begins at another place")]
+    [InlineData(2, 0x7FFF, "CountTooLarge", "the file has room for")]
+    [InlineData(0, 20, "InvalidSection", "the records of the table have 20 bytes")]
+    [InlineData(6, 0x7FFFFFFF, "InvalidSection", "it begins at another place")]
     public void A_table_that_the_header_describes_wrongly_is_named(int field, int value, string code, string cause)
     {
         EarlyFile file = Sample();
         byte[] data = file.Build();
         int place = data.AsSpan(0, 0x5E).IndexOf(BitConverter.GetBytes(file.Places["LAYER"])) - 6;
         byte[] bytes = BitConverter.GetBytes(value);
-        bytes.AsSpan(0, field == 9 ? 4 : 2).CopyTo(data.AsSpan(field switch { 3 => place, 5 => place + 2, _ => place + 6 }));
+        bytes.AsSpan(0, field == 6 ? 4 : 2).CopyTo(data.AsSpan(place + field));
         LoadOptions options = new() { IgnoreErrors = true };
         CadDrawing drawing = Read(data, options);
         Assert.Contains(options.Defects, defect =>
             defect.Code.ToString() == code && defect.Place.Record == "LAYER" && defect.Cause.Contains(cause));
         Assert.Equal(12, drawing.Entities.Count);
-        Assert.Equal(field == 3 ? 0 : 2, drawing.Layers.Items.Count(static layer => layer.Name is "0" or "WALLS"));
+        Assert.Equal(field == 0 ? 0 : 2, drawing.Layers.Items.Count(static layer => layer.Name is "0" or "WALLS"));
     }
 
     [Theory]

@@ -152,7 +152,7 @@ public class EarlyRecordTests
         file.Add("BLOCK", "*D", 1, 0x40000000, (short)0, (short)0);
         file.BlockEntities.Add(file.Entity(12, 0, 0, 0, 0.0, 0.0));
         file.BlockEntities.Add(file.Entity(13, 0, 0, 0));
-        file.Add("DIMSTYLE", "ISO", 0, [.. Enumerable.Range(1, 15).Select(static i => (object)1.0), new byte[14 + 130]]);
+        file.Add("DIMSTYLE", "ISO", 0, new byte[(15 * sizeof(double)) + 14 + 130]);
         file.Entities.Add(file.Entity(23, 0, 0, 0x8000 | 0x101E, (short)0, 1.0, 2.0, 3.0, 4.0, 5.0, (byte)1, "<>",
             6.0, 7.0, 8.0, 9.0, 10.0, 11.0, (short)0));
         file.Entities.Add(file.Entity(24, 64, 0, 0, (byte)4, (short)2, 1.0, 2.0, 0.0, 30.0, 20.0, (short)2));

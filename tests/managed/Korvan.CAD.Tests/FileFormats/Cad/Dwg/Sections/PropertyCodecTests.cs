@@ -2,7 +2,6 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
-using System.Text;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.Dwg.AppInfo;
@@ -54,7 +53,14 @@ public class PropertyCodecTests
     [Fact]
     public void The_program_is_read_in_both_forms()
     {
-        AppInfoData21 data = new() { Form = 3, Name = "AppInfoDataList", Version = "24.0", Comment = "é", Product = "<>" };
+        AppInfoData21 data = new()
+        {
+            Form = 3,
+            Name = "AppInfoDataList",
+            Version = "24.0",
+            Comment = "é",
+            Product = "<>",
+        };
         byte[] section = AppInfoSection.Write(data);
         var again = Assert.IsType<AppInfoData21>(AppInfoSection.Read(section, Bytes));
         Assert.Equal((3, "AppInfoDataList", "24.0", "é", "<>"), (
