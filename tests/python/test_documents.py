@@ -4,6 +4,8 @@ from __future__ import annotations
 
 import io
 import json
+import os
+import re
 import subprocess
 import sys
 import tempfile
@@ -70,6 +72,16 @@ class Documents(unittest.TestCase):
     def test_each_process_writes_the_same_bytes(self) -> None:
         runs = [subprocess.run([sys.executable, "-c", SAVE], check=True, capture_output=True).stdout for _ in range(2)]
         self.assertEqual(runs[0], runs[1])
+
+    def test_the_first_save_compiles_few_methods(self) -> None:
+        methods = Path(self.path).with_name("methods.txt")
+        compiled = os.environ | {"DOTNET_JitStdOutFile": str(methods), "DOTNET_JitDisasmSummary": "1"}
+        subprocess.run([sys.executable, "-c", SAVE], check=True, capture_output=True, env=compiled)
+        names = [line.split("compiled ")[1] for line in methods.read_text().splitlines() if " compiled " in line]
+        self.assertGreater(len(names), 0)
+        collections = re.compile(r"Generic\.(List`1|Dictionary`2)\[[^:]*Korvan[^:]*:(Add|TryInsert|FindValue)\(")
+        self.assertEqual([name for name in names if collections.search(name)], [])
+        self.assertLess(len(names), 220)
 
     def test_pages_are_as_large_as_they_are_asked_to_be(self) -> None:
         options = PdfOptions()
