@@ -47,7 +47,7 @@ SCRIPTED = """
                 os.utime(source, (1, 1))
             path.write_text("the result of " + name)
             path.with_suffix(".side").write_text("beside")
-            return ConversionResult(path, to, 0.01, ["a warning"])
+            return ConversionResult(path, to, 0.01, ["a warning"], [])
 
         korvan.tools.convert = convert
 """

@@ -184,7 +184,7 @@ def _distribute(run: Run, slurm: Slurm, todo: Sequence[int], recipe: str) -> Non
         before, left = left, [shard for shard in left if not is_finished(run.folder, shard, recipe)]
         vain = vain + 1 if len(left) == len(before) else 0
         if vain == ATTEMPTS:
-            raise BatchError(f"Slurm ended job {job} and no shard was finished: {slurm.last_words()}")
+            raise BatchError(f"Slurm ended job {job} and no shard was finished: {slurm.last_line()}")
         if left:
             run.watcher.message(f"{len(left)} shards are left after job {job}: submitted again")
 

@@ -29,7 +29,7 @@ def printable(path: str | bytes | os.PathLike[str]) -> str:
 
 
 def reason(failure: OSError) -> str:
-    """The words of the system for an error, without number and path."""
+    """The message of the system for an error, without number and path."""
     return failure.strerror or str(failure)
 
 

@@ -96,9 +96,9 @@ def _rows(folder: BatchFolder, shards: Sequence[int], settings: Settings, chosen
 def _write_rows(rows: Iterable[Row], table: IO[str], document: IO[str], summary: Summary, settings: Settings) -> None:
     writer = csv.writer(table)
     writer.writerow(_COLUMNS)
-    head = {**summary.to_json(), "source": os.fspath(settings.source), "to": settings.recipe.to,
-            "options": dict(settings.recipe.options)}
-    document.write(json.dumps(head, default=str)[:-1] + ', "results": [')
+    header = {**summary.to_json(), "source": os.fspath(settings.source), "to": settings.recipe.to,
+              "options": dict(settings.recipe.options)}
+    document.write(json.dumps(header, default=str)[:-1] + ', "results": [')
     separator = "\n"
     for row in rows:
         values = {**row, "path": printable(row["path"]), "target": printable(row["target"])}

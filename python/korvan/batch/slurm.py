@@ -88,7 +88,7 @@ class Slurm:
             _call(["scancel", job])
             raise
 
-    def last_words(self) -> str:
+    def last_line(self) -> str:
         """The last line that a task printed."""
         logs = sorted(self._folder.slurm.glob("*.log"), key=lambda path: path.stat().st_mtime, reverse=True)
         for path in logs[:20]:

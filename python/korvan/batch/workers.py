@@ -156,6 +156,8 @@ class Pool:
     """As many workers as there are jobs, and their events."""
 
     def __init__(self, recipe: Recipe, limits: Limits, jobs: int, stop: Stop) -> None:
+        if getattr(sys, "frozen", False):
+            raise BatchError("a frozen application has no interpreter that workers could run in")
         self.limits = limits
         self._recipe = recipe
         self.jobs = jobs or len(os.sched_getaffinity(0))
