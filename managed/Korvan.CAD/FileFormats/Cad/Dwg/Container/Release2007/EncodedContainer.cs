@@ -63,8 +63,9 @@ internal static class EncodedContainer
         string?[] faults = new string?[section.Pages.Count];
         ForkedProcess.RunPieces(section.Pages.Count, i =>
         {
-            Budget.Step(1 + ((Math.Max(section.Pages[i].Size, 0) + Math.Max(section.Pages[i].Stored, 0)) / BytesPerStep));
-            faults[i] = ReadPage(source.Data, section, section.Pages[i], pages, seed, target);
+            EncodedPage page = section.Pages[i];
+            Budget.Step(1 + ((Math.Max(page.Size, 0) + Math.Max(page.Stored, 0)) / BytesPerStep));
+            faults[i] = ReadPage(source.Data, section, page, pages, seed, target);
         });
         foreach (string? fault in faults)
         {
