@@ -108,7 +108,7 @@ public sealed class CgmFile
 
         IEnumerable<Message> errors = file._messages.Where(one => one.Severity == Severity.Error);
         options.Errors.AddRange(errors.Select(one => $"'{name}', {one.Text}."));
-        file._isDamaged = options.IgnoreErrors && file._messages.Any(one => one.Severity != Severity.Unsupported);
+        file._isDamaged = file._messages.Any(one => one.Severity != Severity.Unsupported);
         return file;
     }
 
