@@ -83,7 +83,8 @@ internal sealed class PageSource
 
     private Page Create(ScenePage layout)
     {
-        int? stored = _device == DeviceKind.Pixels ? MaxStoredForPixels : InParts && !_options.AsBitmap ? MaxStored : null;
+        int? stored = _device == DeviceKind.Pixels ? MaxStoredForPixels
+            : InParts && !_options.AsBitmap ? MaxStored : null;
         RenderStyle style = _options.Style() with { MaxStored = stored };
         DrawingList list = _scene.Build(layout, style, _engine);
         PaperSheet? sheet = layout.SheetFor(list.Bounds);
