@@ -28,9 +28,6 @@ internal sealed class Budget : IDisposable
     private const int MemoryPerStep = 192;
     private const long PollInterval = 20; // milliseconds
 
-    /// <summary>The memory that a save may take where loading took all.</summary>
-    private const long MemoryBesidesLoaded = 64L << 20;
-
     /// <summary>The memory that a call on another thread is taken to need, where it has no limit itself.</summary>
     private const long MaxOther = 1L << 30;
 
@@ -96,7 +93,7 @@ internal sealed class Budget : IDisposable
 
         long whole = Math.Max(length * MemoryPerByte, Cache.MemoryOfOneFile);
         long all = Math.Max(MinMemory, whole);
-        long left = Math.Clamp(all + MemoryBesidesLoaded - Math.Max(loaded, 0), MinMemory / 2, all);
+        long left = Math.Clamp(all - Math.Max(loaded, 0), MinMemory / 2, all);
         return _current = new Budget(left, Math.Max(MinMemory, whole) / MemoryPerStep, timeout);
     }
 

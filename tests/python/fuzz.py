@@ -172,7 +172,8 @@ def main() -> int:
         if why is not None:
             finds += 1
             (folder / "finds" / f"{why}-{arguments.seed}-{rounds}{kind}").write_bytes(data)
-            print(f"{why}: {path.name}, round {rounds}", json.dumps(reply)[:400], flush=True)
+            worst = [error for error in (reply or {"errors": []})["errors"] if error["stage"].replace(" ", "-") in why]
+            print(f"{why}: {path.name}, round {rounds}", json.dumps(worst or reply)[:400], flush=True)
         if reply is None:
             worker.end()
             worker = Worker()

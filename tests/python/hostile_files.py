@@ -181,11 +181,18 @@ def placed_images(name: str, count: int, width: int, height: int) -> bytes:
     return drawing(line() + image * count, objects=definition)
 
 
+def _crc_of(byte: int) -> int:
+    for _ in range(8):
+        byte = byte >> 1 ^ 0xA001 if byte & 1 else byte >> 1
+    return byte
+
+
+CRC_TABLE = [_crc_of(byte) for byte in range(256)]
+
+
 def _crc(seed: int, data: bytes) -> int:
     for byte in data:
-        seed ^= byte
-        for _ in range(8):
-            seed = seed >> 1 ^ 0xA001 if seed & 1 else seed >> 1
+        seed = seed >> 8 ^ CRC_TABLE[(seed ^ byte) & 0xFF]
     return seed
 
 
@@ -199,27 +206,24 @@ def _varying(value: int, is_signed: bool = False) -> bytes:
 
 
 def dwg_of_one_record(data: bytes, count: int) -> bytes:
-    """A drawing database of release 2000 whose object map leads to its first object again and again."""
+    """A drawing database of release 2000 whose object map leads to one of its objects again and again."""
     file = bytearray(data)
     locators = struct.unpack_from("<I", file, 0x15)[0]
     places = {file[0x19 + 9 * i]: 0x19 + 9 * i for i in range(locators)}
     start = struct.unpack_from("<I", file, places[2] + 1)[0]
     known = bytes(file[start + 2 : start + struct.unpack_from(">H", file, start)[0]])
-    entries, at = [], 0
-    while not entries:
-        values = []
-        for _ in range(2):
+    offset = at = 0
+    while at < len(known):
+        for mask in (0x7F, 0x3F):  # a handle; then an offset, whose last byte has a sign
             value = shift = 0
-            while True:
-                byte = known[at]
-                at += 1
-                value |= (byte & 0x7F) << shift
+            while known[at] >= 0x80:
+                value |= (known[at] & 0x7F) << shift
                 shift += 7
-                if not byte & 0x80:
-                    break
-            values.append(value)
-        entries.append(values)
-    (_, offset), object_map = entries[0], b""
+                at += 1
+            value |= (known[at] & mask) << shift
+            at += 1
+        offset += -value if known[at - 1] & 0x40 else value
+    object_map = b""
     for first in range(0, count, 900):
         body = _varying(0x10000 + first) + _varying(offset, True)
         part = struct.pack(">H", len(body) + 1800) + body + b"\1\0" * 899

@@ -16,9 +16,9 @@ import resource, sys
 import korvan.cad as cad
 from korvan.cad import imageoptions
 
-def peak():
+def memory(name):
     with open("/proc/self/status") as status:
-        return next(int(line.split()[1]) for line in status if line.startswith("VmHWM"))
+        return next(int(line.split()[1]) for line in status if line.startswith(name))
 
 def told(action):
     try:
@@ -26,13 +26,14 @@ def told(action):
     except RuntimeError as error:
         return str(error).split(")")[0].removeprefix("Proxy error(")
 
+before = memory("VmRSS")
 images = []
 result = [told(lambda: images.append(cad.Image.load(sys.argv[1])))]
 for image in images:
     for name in sys.argv[3:]:
         result.append(told(lambda: image.save(sys.argv[2], getattr(imageoptions, name)())))
 used = resource.getrusage(resource.RUSAGE_SELF)
-print(round(used.ru_utime + used.ru_stime), peak() // 1024, *result)
+print(round(used.ru_utime + used.ru_stime), (memory("VmHWM") - before) // 1024, *result)
 """
 
 NOT_READ = {"LimitMemoryException"}
@@ -71,21 +72,21 @@ class Bombs(unittest.TestCase):
             ("copies.cgm", hostile.copied_segments(1000, 2000), pages, NOT_SAVED),
             ("blocks.dxf", hostile.doubling_blocks(24), pages, NOT_SAVED),
             ("bulges.dxf", hostile.bulges(10_000), pages, {"done"}),
-            ("spaces.dxf", hostile.drawing(hostile.mtext(" " * 300_000 + "a " * 150_000, 0)), pages, {"done"}),
-            ("formats.dxf", hostile.drawing(hostile.mtext("\\La\\la" * 150_000)), pages, {"done"}),
+            ("spaces.dxf", hostile.drawing(hostile.mtext(" " * 200_000 + "a " * 100_000, 0)), pages, {"done"}),
+            ("formats.dxf", hostile.drawing(hostile.mtext("\\La\\la" * 80_000)), pages, {"done"}),
             ("unended.dxf", hostile.drawing(hostile.mtext("\\f\\S\\;" * 100_000)), pages, {"done"}),
             ("recursive.dxf", hostile.drawing(hostile.mtext("\\p" + "x" * 900_000 + ";a")), pages, {"done"}),
             ("gaps.dxf", hostile.drawing(hostile.hatch(
-                [hostile.square(0, 0, 1e4)], *(hostile.hatch_line(angle, 20, -0.02) for angle in range(500))
+                [hostile.square(0, 0, 1e4)], *(hostile.hatch_line(angle, 20, -0.02) for angle in range(40))
             )), pages, {"done"}),
             ("boxes.dxf", hostile.drawing(hostile.hatch(
-                [hostile.square(i % 100, i // 100, 1, 16 if i % 2 else 2) for i in range(10_000)],
+                [hostile.square(i % 100, i // 100, 1, 18 if i % 2 else 2) for i in range(10_000)],
                 hostile.hatch_line(0, 1),
             )), pages, {"done"}),
             ("far.dxf", hostile.drawing(hostile.hatch(
                 [hostile.square(1e18, 1e18, 1e5)], hostile.hatch_line(0, 300, 31, -32)
             )), pages, {"done"}),
-            ("knots.dxf", hostile.drawing(hostile.spline(25, 10_000, "%de-320")), pages, NOT_SAVED),
+            ("knots.dxf", hostile.drawing(hostile.spline(25, 10_000, "%de-320")), pages, {"done"}),
         ):
             results = self.convert(name, data, *options)
             with self.subTest(name):
@@ -110,7 +111,7 @@ class Bombs(unittest.TestCase):
             """, path, name)
             data = Path(path + ".dwg").read_bytes()
             if name == "AC1015":
-                results = self.convert("records.dwg", hostile.dwg_of_one_record(data, 400_000))
+                results = self.convert("records.dwg", hostile.dwg_of_one_record(data, 500_000))
                 self.assertEqual(set(results), NOT_READ)
             else:
                 self.assertLess(len(data), 20_000)
@@ -199,7 +200,7 @@ for name in sys.argv[3:]:
     def test_the_timeout_ends_long_work_on_one_entity(self) -> None:
         vertices = "".join(f"10\n{i * 7919 % 1000}\n20\n{i * 104729 % 1000}\n" for i in range(60_000))
         lines = [hostile.hatch_line(angle / 7, 0.5, 3, -2) for angle in range(200)]
-        boxes = [hostile.square(i % 100, i // 100, 1, 16 if i % 2 else 2) for i in range(20_000)]
+        boxes = [hostile.square(i % 100, i // 100, 1, 18 if i % 2 else 2) for i in range(20_000)]
         for name, entities, options in (
             ("text", hostile.mtext(" ".join(f"{i:x}" for i in range(300_000)), 100), "PdfOptions"),
             ("formats", hostile.mtext("".join(f"\\H{i}.5;a" for i in range(200_000))), "PngOptions"),
@@ -214,7 +215,7 @@ for name in sys.argv[3:]:
             output = run(INTERRUPT + """
 image = cad.Image.load(sys.argv[1])
 options = getattr(imageoptions, sys.argv[3])()
-for options.timeout in (10, 40):
+for options.timeout in (3, 10):
     print(late(lambda: image.save(sys.argv[2], options)), os.path.exists(sys.argv[2]))
 """, str(self.folder / "in.dxf"), str(self.folder / "out"), options).stdout
             with self.subTest(name):
@@ -235,7 +236,7 @@ for options.timeout in (10, 40):
         """, str(self.folder / "in.dxf"), str(self.folder / "in.dwg"))
         for name in ("in.dxf", "in.png", "in.ifc", "in.cgm", "in.dwg"):
             output = run(INTERRUPT + """
-print(timer(0.02, lambda: cad.Image.load(sys.argv[1])))
+print(timer(0.05, lambda: cad.Image.load(sys.argv[1])))
 print(cad.Image.get_file_format(sys.argv[1]) is not None)
 """, str(self.folder / name)).stdout
             with self.subTest(name):

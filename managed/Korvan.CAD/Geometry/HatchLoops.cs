@@ -39,6 +39,7 @@ internal sealed class HatchLoop
 internal static class HatchLoops
 {
     private const int CornersPerStep = 1024;
+    private const int AreasPerStep = 512;
 
     /// <summary>The loops that bound the hatched area under a style, which is filled by the even-odd rule.</summary>
     internal static List<HatchLoop> Select(List<HatchLoop> loops, HatchStyle style)
@@ -47,7 +48,8 @@ internal static class HatchLoops
         if (loops.Exists(static l => l.IsTextBox))
         {
             List<HatchLoop> areas = loops.FindAll(static l => !l.IsTextBox);
-            loops.RemoveAll(l => l.IsTextBox && !IsFilled(areas, Polygons.Center(l.Ring)));
+            int tests = 0;
+            loops.RemoveAll(l => l.IsTextBox && !IsFilled(areas, Polygons.Center(l.Ring), ref tests));
         }
 
         if (style == HatchStyle.Normal || loops.Count < 2
@@ -62,12 +64,19 @@ internal static class HatchLoops
         return loops;
     }
 
-    private static bool IsFilled(List<HatchLoop> areas, Vec2 at) =>
-        (areas.FindAll(area => Contains(area, at)).Count & 1) == 1;
-
-    private static bool Contains(HatchLoop area, Vec2 at)
+    private static bool IsFilled(List<HatchLoop> areas, Vec2 at, ref int tests)
     {
-        Workload.Step(area.Ring.Length / CornersPerStep);
-        return area.Path.Bounds.Contains(at.X, at.Y) && Polygons.Contains(area.Ring, at);
+        bool isFilled = false;
+        foreach (HatchLoop area in areas)
+        {
+            Workload.Count(ref tests, AreasPerStep);
+            if (area.Path.Bounds.Contains(at.X, at.Y))
+            {
+                Workload.Step(area.Ring.Length / CornersPerStep);
+                isFilled ^= Polygons.Contains(area.Ring, at);
+            }
+        }
+
+        return isFilled;
     }
 }

@@ -14,7 +14,7 @@ internal sealed class PatternFill
 
     /// <summary>Edges, dashes and gaps that one hatch may ask for, seen or not; a crossing, which is sorted, counts as
     /// several.</summary>
-    private const long MaxWork = 100_000_000;
+    private const long MaxWork = 40_000_000;
     private const int WorkPerCrossing = 8;
     private const int WorkPerStep = 256;
 

@@ -19,7 +19,13 @@ internal static class Workload
     internal static void Reserve(long bytes) => Limiter?.Invoke(bytes);
 
     /// <summary>Counts steps.</summary>
-    internal static void Step(long count = 1) => Counter?.Invoke(count);
+    internal static void Step(long count = 1)
+    {
+        if (count > 0)
+        {
+            Counter?.Invoke(count);
+        }
+    }
 
     /// <summary>Counts a step each time that a counter has risen by a power of two.</summary>
     /// <param name="counter">Counts units of work.</param>

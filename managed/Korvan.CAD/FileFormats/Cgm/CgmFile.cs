@@ -108,16 +108,18 @@ public sealed class CgmFile
 
         IEnumerable<Message> errors = file._messages.Where(one => one.Severity == Severity.Error);
         options.Errors.AddRange(errors.Select(one => $"'{name}', {one.Text}."));
-        file._isDamaged = options.IgnoreErrors && file._messages.Any(one => one.Severity != Severity.Unsupported);
+        file._isDamaged = file._messages.Any(one => one.Severity != Severity.Unsupported);
         return file;
     }
 
-    /// <summary>Writes the commands. Of a file that was read in spite of its damage, what is whole is written.</summary>
+    /// <summary>Writes the commands. Of a file that was read in spite of its damage, what is whole is
+    /// written.</summary>
     /// <param name="stream">The stream.</param>
     /// <param name="format">The encoding.</param>
     /// <param name="name">The name of the file in messages.</param>
     /// <param name="report">Receives what is left out.</param>
-    internal void Write(Stream stream, CgmFileFormat format, string name, Action<Command, string> report)
+    internal void Write(
+        Stream stream, CgmFileFormat format, string name, Action<Command, string> report)
     {
         if (!_isDamaged)
         {

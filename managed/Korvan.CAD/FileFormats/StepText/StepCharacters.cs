@@ -14,7 +14,8 @@ internal static class StepCharacters
 
     /// <summary>Determines whether a name is that of an entity outside of the schema, which parties agree on (ISO
     /// 10303-21, 11.4).</summary>
-    internal static bool IsUserDefined(ReadOnlySpan<byte> name) => name.Length > 1 && name[0] == '!' && IsLetter(name[1]);
+    internal static bool IsUserDefined(ReadOnlySpan<byte> name) =>
+        name.Length > 1 && name[0] == '!' && IsLetter(name[1]);
 
     internal static bool IsSpace(byte one) => one <= ' ';
 

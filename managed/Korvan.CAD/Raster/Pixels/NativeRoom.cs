@@ -17,8 +17,8 @@ internal sealed class NativeRoom : IDisposable
         if (_budget?.TryTakePixels(bytes) == false)
         {
             throw new LimitMemoryException(
-                $"The codec needs {bytes >> 20} MiB of memory for the image, and {_budget.Memory >> 20} MiB are the limit "
-                    + $"for a file of its size; {Cache.HowToRaise}.");
+                $"The codec needs {bytes >> 20} MiB of memory for the image, and {_budget.Memory >> 20} MiB are the "
+                    + $"limit for a file of its size; {Cache.HowToRaise}.");
         }
     }
 

@@ -16,6 +16,8 @@ internal sealed unsafe class ThinLinePainter
     /// <summary>The largest band that has a second plane for the coverage of a path.</summary>
     private const long MaxPlane = 64_000_000;
     private const int MaxCurveLines = 4_096;
+    private const int PixelsPerLine = 16; // what takes as long as one line of no length
+    private const int PixelsPerStep = 2048;
     private const int Opaque = 255;
     private const uint Channels = 0x00ff_00ff;
 
@@ -32,6 +34,7 @@ internal sealed unsafe class ThinLinePainter
     private byte[] _plane = [];
     private int[] _touched = new int[256];
     private int _touchedCount;
+    private double _pixels;
     private bool _usesPlane;
     private double _left;
     private double _top;
@@ -221,6 +224,16 @@ internal sealed unsafe class ThinLinePainter
         return parts < MaxCurveLines ? Math.Max(1, (int)parts) : MaxCurveLines;
     }
 
+    private void Count(double length)
+    {
+        _pixels += Math.Min(length, _width + Height) + PixelsPerLine;
+        if (_pixels >= PixelsPerStep)
+        {
+            Workload.Step((long)(_pixels / PixelsPerStep));
+            _pixels = 0;
+        }
+    }
+
     private void Line(Vec2 a, Vec2 b)
     {
         (a, b) = (new Vec2(a.X, a.Y - _rows.First), new Vec2(b.X, b.Y - _rows.First));
@@ -231,6 +244,7 @@ internal sealed unsafe class ThinLinePainter
             return;
         }
 
+        Count(Math.Abs(dx) + Math.Abs(dy));
         if (Math.Abs(dx) >= Math.Abs(dy))
         {
             Span(a.X, a.Y, b.X, b.Y, _left, _right, _top, _bottom, isSteep: false);

@@ -64,7 +64,7 @@ internal static class DwgContentBuilder
     // Drawings of release 14 and before state the local time only.
     private static void CompleteTime(HeaderValues values, CadHeader header, string universal, string local)
     {
-        if (!values.Contains(universal))
+        if (!values.Contains(universal) && header.Unreadable(local).Length == 0)
         {
             values[universal] = HeaderVariableCodec.TimeOf(header.GetDouble(local));
         }

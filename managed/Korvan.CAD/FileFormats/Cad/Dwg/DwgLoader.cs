@@ -62,8 +62,13 @@ internal static class DwgLoader
     // Files have the universal time only; programs expect the local one as well.
     private static void CompleteTimes(CadHeader header)
     {
-        header.Set("$TDCREATE", 40, header.GetString("$TDUCREATE"));
-        header.Set("$TDUPDATE", 40, header.GetString("$TDUUPDATE"));
+        foreach ((string local, string universal) in new[] { ("$TDCREATE", "$TDUCREATE"), ("$TDUPDATE", "$TDUUPDATE") })
+        {
+            if (header.GetString(universal) is { Length: > 0 } time)
+            {
+                header.Set(local, 40, time);
+            }
+        }
     }
 
     private static HeaderValues ReadHeader(DwgFile file)

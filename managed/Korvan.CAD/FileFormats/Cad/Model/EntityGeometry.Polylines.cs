@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Runtime.CompilerServices;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
@@ -19,6 +20,7 @@ internal static partial class EntityGeometry
     private static void EmitPolyline(CadLwPolyline polyline, IGeometrySink sink)
     {
         int count = polyline.Coordinates.Count;
+        Budget.VerifyRoom((long)count * Unsafe.SizeOf<PolyVertex>());
         Span<PolyVertex> vertices = count <= MaxOnStack ? stackalloc PolyVertex[count] : new PolyVertex[count];
         for (int i = 0; i < count; i++)
         {
@@ -38,6 +40,7 @@ internal static partial class EntityGeometry
     private static void EmitPolyline(CadPolyline polyline, IGeometrySink sink)
     {
         List<CadVertexBase> drawn = Drawn(polyline);
+        Budget.VerifyRoom((long)drawn.Count * Unsafe.SizeOf<PolyVertex>());
         var vertices = new PolyVertex[drawn.Count];
         for (int i = 0; i < vertices.Length; i++)
         {

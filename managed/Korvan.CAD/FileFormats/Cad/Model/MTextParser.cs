@@ -245,8 +245,13 @@ internal sealed class MTextParser
     /// zero).</summary>
     private string? StackArgument()
     {
+        if (!HasStackEnd())
+        {
+            return null;
+        }
+
         var result = new StringBuilder();
-        for (int i = _at; i < _text.Length && i - _at <= MaxArgument; i++)
+        for (int i = _at; i < _text.Length; i++)
         {
             char c = _text[i];
             if (c == ';')
@@ -276,6 +281,23 @@ internal sealed class MTextParser
         }
 
         return null;
+    }
+
+    private bool HasStackEnd()
+    {
+        for (int i = _at; i < _text.Length && i - _at <= MaxArgument; i++)
+        {
+            switch (_text[i])
+            {
+                case ';':
+                    return true;
+                case '\\':
+                    i++;
+                    break;
+            }
+        }
+
+        return false;
     }
 
     private void EmitStack(string argument)

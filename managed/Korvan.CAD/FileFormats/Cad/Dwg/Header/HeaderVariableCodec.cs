@@ -49,7 +49,7 @@ internal static class HeaderVariableCodec
             {
                 values[field.Name] = new HeaderValue(HeaderFlags.FromHeader(header));
             }
-            else if (field.IsVariable && header.Contains(field.Name))
+            else if (field.IsVariable && header.Contains(field.Name) && IsReadable(header, field))
             {
                 values[field.Name] = ValueOf(header, field, handleOf);
             }
@@ -57,6 +57,11 @@ internal static class HeaderVariableCodec
 
         return values;
     }
+
+    // A number that a damaged file has no digits for has the value of a new drawing.
+    private static bool IsReadable(CadHeader header, HeaderField field) =>
+        field.Coding is HeaderCoding.Text or HeaderCoding.Handle or HeaderCoding.OwnHandle
+        || header.Unreadable(field.Name).Length == 0;
 
     /// <summary>Returns days and milliseconds.</summary>
     /// <param name="time">The days and their fraction.</param>

@@ -92,7 +92,8 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
     }
 
     // Many entries of an object map may lead to one record.
-    private static void CountWork(in RecordHeader header) => Budget.Step(1 + ((header.End - header.Start) / BitsPerStep));
+    private static void CountWork(in RecordHeader header) =>
+        Budget.Step(1 + ((header.End - header.Start) / BitsPerStep));
 
     private void VerifyChecksum(in RecordHeader header, int index)
     {
