@@ -52,7 +52,8 @@ public class HeaderSectionTests
         for (int length = 0; length < data.Length - 1; length += 3)
         {
             var fault = Assert.Throws<DwgFault>(
-                () => new HeaderValues().Exchange(new HeaderReader(data.AsMemory(0, length), release, Encoding.Latin1)));
+                () => new HeaderValues().Exchange(
+                    new HeaderReader(data.AsMemory(0, length), release, Encoding.Latin1)));
             named += names.Contains(fault.Message.Split(':')[0]) ? 1 : 0;
             Assert.InRange(fault.Position, 0, length * 8);
         }
