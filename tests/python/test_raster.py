@@ -164,9 +164,12 @@ class Settings(unittest.TestCase):
             before = cad.Cache.allocated_disk_bytes_count
             image = load(drawn(PngOptions()))
             self.assertEqual(cad.Cache.allocated_disk_bytes_count - before, 300 * image.height * 4)
+            pixels = drawn(PngOptions())
             cad.Cache.set_max_disk_space_for_cache(1)
             with self.assertRaisesRegex(RuntimeError, "LimitMemoryException"):
-                load(drawn(PngOptions()))
+                load(pixels)
+            with self.assertRaisesRegex(RuntimeError, "ImageSaveException.*MaxDiskSpaceForCache"):
+                drawn(PngOptions())
         with self.assertRaises(TypeError):
             cad.Cache.set_cache_type(1)
         with self.assertRaisesRegex(TypeError, "type has no available constructor"):
