@@ -43,8 +43,21 @@ internal static class CarriedLibraries
         int end = file.IndexOf(".so", StringComparison.Ordinal);
         int start = end - ChecksumLength - 1;
         bool isMarked = start > 0 && file[start] == '-'
-            && file.AsSpan(start + 1, ChecksumLength).IndexOfAnyExcept("0123456789abcdef") < 0;
+            && IsHexadecimal(file.AsSpan(start + 1, ChecksumLength));
         return isMarked ? string.Concat(file.AsSpan(0, start), file.AsSpan(end)) : file;
+    }
+
+    private static bool IsHexadecimal(ReadOnlySpan<char> text)
+    {
+        foreach (char digit in text)
+        {
+            if (!char.IsAsciiHexDigitLower(digit))
+            {
+                return false;
+            }
+        }
+
+        return true;
     }
 
     private static nint Resolve(string name, Assembly assembly, DllImportSearchPath? searchPath) =>

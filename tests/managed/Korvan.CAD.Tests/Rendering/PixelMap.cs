@@ -2,7 +2,6 @@ using System;
 using System.IO;
 using System.Text;
 using Korvan.CAD.DisplayList;
-using Korvan.CAD.Raster;
 using Korvan.CAD.Rendering.Devices;
 using Xunit;
 

@@ -5,7 +5,6 @@ using System.Linq;
 using System.Text.RegularExpressions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
-using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.ImageOptions;

@@ -14,7 +14,6 @@ public partial class CadTableStyle
     private const int HeaderStyle = 2;
     private const int DataStyle = 3;
     private const int TableStyleId = 4;
-    private const int Upwards = 0x10000;
     private const int MergeAll = 0x8000;
 
     /// <summary>Gets the style of the table as a whole.</summary>

@@ -96,7 +96,9 @@ public partial class LossTests(ITestOutputHelper output)
         foreach (string path in DwgSamples.Files().OrderBy(static path => new FileInfo(path).Length))
         {
             CadImage image = (CadImage)Image.Load(path, new LoadOptions { IgnoreErrors = true });
-            if (DrawingWalk.All(image.Drawing).Count(item => seen.Add(item.DxfName)) > 0)
+            int known = seen.Count;
+            seen.UnionWith(DrawingWalk.All(image.Drawing).Select(static item => item.DxfName));
+            if (seen.Count > known)
             {
                 yield return image;
             }
