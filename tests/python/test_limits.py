@@ -71,6 +71,8 @@ class Bombs(unittest.TestCase):
             ("records.cgm", hostile.nested_records(100_000), (), {"ImageLoadException"}),
             ("copies.cgm", hostile.copied_segments(1000, 2000), pages, NOT_SAVED),
             ("blocks.dxf", hostile.doubling_blocks(24), pages, NOT_SAVED),
+            ("names.dxf", hostile.drawing("".join(hostile.line(layer=f"L{i}") for i in range(120_000))),
+             ("DxfOptions", "DwgOptions"), {"done"}),
             ("bulges.dxf", hostile.bulges(10_000), pages, {"done"}),
             ("spaces.dxf", hostile.drawing(hostile.mtext(" " * 200_000 + "a " * 100_000, 0)), pages, {"done"}),
             ("formats.dxf", hostile.drawing(hostile.mtext("\\La\\la" * 80_000)), pages, {"done"}),

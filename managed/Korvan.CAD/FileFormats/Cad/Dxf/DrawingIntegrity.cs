@@ -93,31 +93,28 @@ internal static class DrawingIntegrity
     // The name of a block stands in three places, of which one is its property.
     private static void RenameBlocks(CadDrawing drawing)
     {
+        HashSet<string> blocks = NamesOf(drawing.BlockEntities.Items.Select(static block => block.Name));
+        HashSet<string> records = NamesOf(drawing.BlockRecords.Items.Select(static record => record.Name));
+        ILookup<ulong, CadBlockTableObject> byHandle =
+            drawing.BlockRecords.Items.ToLookup(static record => record.Handle);
         foreach (CadBlockEntity block in drawing.BlockEntities)
         {
             bool same = string.Equals(block.NameAgain, block.Name, StringComparison.OrdinalIgnoreCase);
             block.NameAgain = same || block.NameAgain.Length == 0 ? block.NameAgain : block.Name;
-            if (block.Owner == 0 || drawing.BlockRecords.Contains(block.Name))
-            {
-                continue;
-            }
-
-            if (drawing.BlockRecords.Items.Find(record => record.Handle == block.Owner) is { } record
-                && !drawing.BlockEntities.Contains(record.Name))
+            if (block.Owner != 0 && !records.Contains(block.Name)
+                && byHandle[block.Owner].FirstOrDefault() is { } record && !blocks.Contains(record.Name))
             {
                 record.Name = block.Name;
+                records.Add(block.Name);
             }
         }
     }
 
     internal static void AddBlockRecords(CadDrawing drawing)
     {
-        // Lists look for a name that they do not have from end to end.
-        var blocks = drawing.BlockEntities.Items.Select(static block => block.Name)
-            .ToHashSet(StringComparer.OrdinalIgnoreCase);
+        HashSet<string> blocks = NamesOf(drawing.BlockEntities.Items.Select(static block => block.Name));
         drawing.BlockRecords.Items.RemoveAll(record => !blocks.Contains(record.Name));
-        var records = drawing.BlockRecords.Items.Select(static record => record.Name)
-            .ToHashSet(StringComparer.OrdinalIgnoreCase);
+        HashSet<string> records = NamesOf(drawing.BlockRecords.Items.Select(static record => record.Name));
         foreach (CadBlockEntity block in drawing.BlockEntities)
         {
             if (records.Add(block.Name))
@@ -126,6 +123,10 @@ internal static class DrawingIntegrity
             }
         }
     }
+
+    // Lists look for a name that they do not have from end to end.
+    internal static HashSet<string> NamesOf(IEnumerable<string> names) =>
+        new(names, StringComparer.OrdinalIgnoreCase);
 
     private static void AddTableHeaders(CadDrawing drawing)
     {

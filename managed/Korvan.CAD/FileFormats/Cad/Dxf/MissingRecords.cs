@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Linq;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -14,10 +15,11 @@ internal static class MissingRecords
 
     internal static void Add(CadDrawing drawing)
     {
-        var layers = new HashSet<string>();
-        var lineTypes = new HashSet<string>(Implied, Implied.Comparer);
-        var styles = new HashSet<string>(Implied, Implied.Comparer);
-        var dimensionStyles = new HashSet<string>(Implied, Implied.Comparer);
+        HashSet<string> layers = DrawingIntegrity.NamesOf(drawing.Layers.Items.Select(static layer => layer.Name));
+        HashSet<string> lineTypes = DrawingIntegrity.NamesOf(drawing.LineTypes.Items.Select(static type => type.Name));
+        HashSet<string> styles = DrawingIntegrity.NamesOf(drawing.Styles.Items.Select(static style => style.Name));
+        HashSet<string> dimensionStyles =
+            DrawingIntegrity.NamesOf(drawing.DimensionStyles.Items.Select(static style => style.Name));
         foreach (CadEntityBase entity in DrawingWalk.Entities(drawing))
         {
             Add(drawing, layers, lineTypes, styles, entity);
@@ -26,8 +28,7 @@ internal static class MissingRecords
                 insert.Attributes.ForEach(attribute => Add(drawing, layers, lineTypes, styles, attribute));
             }
 
-            if (entity is CadDimensionBase dimension && dimensionStyles.Add(dimension.StyleName)
-                && !drawing.DimensionStyles.Contains(dimension.StyleName))
+            if (entity is CadDimensionBase dimension && IsMissing(dimensionStyles, dimension.StyleName))
             {
                 drawing.DimensionStyles.Add(new CadDimensionStyleTable { Name = dimension.StyleName });
             }
@@ -42,20 +43,22 @@ internal static class MissingRecords
         CadEntityBase entity)
     {
         string layer = entity.LayerName;
-        if (layers.Add(layer) && layer.Length > 0 && !drawing.Layers.Contains(layer))
+        if (layers.Add(layer) && layer.Length > 0)
         {
             drawing.Layers.Add(CadLayerTable.Stored(layer));
         }
 
-        if (lineTypes.Add(entity.LineTypeName) && !drawing.LineTypes.Contains(entity.LineTypeName))
+        if (IsMissing(lineTypes, entity.LineTypeName))
         {
             drawing.LineTypes.Add(new CadLineTypeTableObject { Name = entity.LineTypeName });
         }
 
         string style = (entity as CadText)?.StyleType ?? (entity as CadMText)?.TextStyleName ?? "";
-        if (styles.Add(style) && !drawing.Styles.Contains(style))
+        if (IsMissing(styles, style))
         {
             drawing.Styles.Add(new CadStyleTableObject { Name = style });
         }
     }
+
+    private static bool IsMissing(HashSet<string> known, string name) => !Implied.Contains(name) && known.Add(name);
 }
