@@ -201,7 +201,7 @@ for name in sys.argv[3:]:
 
     def test_the_timeout_ends_long_work_on_one_entity(self) -> None:
         vertices = "".join(f"10\n{i * 7919 % 1000}\n20\n{i * 104729 % 1000}\n" for i in range(60_000))
-        lines = [hostile.hatch_line(angle / 7, 0.5, 3, -2) for angle in range(200)]
+        lines = [hostile.hatch_line(angle / 7, 20, 300, -200) for angle in range(200)]
         boxes = [hostile.square(i % 100, i // 100, 1, 18 if i % 2 else 2) for i in range(20_000)]
         for name, entities, options in (
             ("text", hostile.mtext(" ".join(f"{i:x}" for i in range(300_000)), 100), "PdfOptions"),
