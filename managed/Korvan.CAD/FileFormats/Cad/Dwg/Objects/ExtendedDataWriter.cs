@@ -18,6 +18,7 @@ internal static class ExtendedDataWriter
     private const int AxisStep = 10;
     private const int UnicodeStrings = 2007;
     private const int MaxBytes = 255;
+    private const int RealCode = 40;
 
     internal static void Write(
         BitWriter bits, CadBaseObject item, int release, Encoding encoding, WrittenHandles handles)
@@ -57,6 +58,8 @@ internal static class ExtendedDataWriter
                 continue;
             }
 
+            // A coordinate without the ones before it has no coding but that of numbers.
+            code = IsCoded(code) ? code : RealCode;
             writer.Write((byte)code);
             if (code is >= 10 and <= 15)
             {
@@ -75,6 +78,9 @@ internal static class ExtendedDataWriter
 
         return data.ToArray();
     }
+
+    private static bool IsCoded(int code) =>
+        code is 0 or (>= 2 and <= 5) or (>= 10 and <= 15) or (>= 40 and <= 45) or 70 or 71;
 
     private static void WriteValue(
         BinaryWriter writer, int code, CadCodeValue tag, int release, Encoding encoding, WrittenHandles handles)

@@ -70,6 +70,26 @@ public class ObjectRoundTripTests
                 dictionary.GetObjectHandles(), handle => Assert.Contains(Convert.ToUInt64(handle, 16), present)));
     }
 
+    /// <summary>Text files may have coordinates by themselves, which records have no coding for.</summary>
+    [Theory]
+    [MemberData(nameof(Releases))]
+    public void CoordinatesByThemselvesAreNumbers(CadAcadVersion version)
+    {
+        CadDrawing drawing = new(DrawingSeed.Standard);
+        CadCircle circle = new();
+        CadXdata data = new("SURVEY");
+        data.Data.AddRange([new(1011, "1"), new(1021, "2"), new(1021, "4"), new(1031, "5"), new(1070, "6")]);
+        circle.XdataContainer.XdataEntities.Add(data);
+        drawing.ModelSpace.Entities.Add(circle);
+
+        (CadDrawing again, _) = WriteAndRead(drawing, version);
+
+        CadXdata read = Assert.Single(Assert.Single(again.ModelSpace.Entities).XdataContainer.XdataEntities);
+        Assert.Equal(
+            ["1011=1", "1021=2", "1031=0", "1040=4", "1040=5", "1070=6"],
+            read.Data.Select(static tag => $"{tag.Attribute}={tag.Value}"));
+    }
+
     private static CadDrawing Sample()
     {
         CadDrawing drawing = new(DrawingSeed.Standard);
