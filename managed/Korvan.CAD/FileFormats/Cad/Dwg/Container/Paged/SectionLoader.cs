@@ -91,7 +91,7 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
                 address = found;
             }
 
-            bool isUsed = !used.Contains(address) && (isPlaced || IsPageOf(section, address)) && used.Add(address);
+            bool isUsed = (isPlaced || IsPageOf(section, address)) && used.Add(address);
             if (isUsed)
             {
                 located.Add((page, address));

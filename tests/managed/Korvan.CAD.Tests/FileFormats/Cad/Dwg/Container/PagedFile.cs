@@ -93,7 +93,7 @@ internal sealed class PagedFile
         List<int> entries = [];
         foreach ((int number, int size) in Pages)
         {
-            entries.AddRange(number < 0 ? [number, size, 0, 0, 0, 0] : [number, size]);
+            entries.AddRange(number < 0 ? [number, size, 1, 0x20, 2, 0] : [number, size]);
         }
 
         entries.AddRange([MapNumber, map.Length, MapNumber + 1, 0x100]);
