@@ -24,6 +24,14 @@ def _linked(paths: Sequence[Path]) -> set[Path]:
     return {path for path in found if not C_LIBRARY.fullmatch(path.name)}
 
 
+def _namespaces() -> list[str]:
+    """The command for a session with mounts of its own and without network."""
+    command = ["unshare", "--mount", "--net"]
+    # Where the root of this process is no mount, as in a changed root, its propagation can't be set.
+    done = subprocess.run([*command, "true"], capture_output=True, check=False)
+    return command if done.returncode == 0 else [*command, "--propagation", "unchanged"]
+
+
 class BareRoot:
     """The root, below the build folder; made anew of an unpacked minimal Debian."""
 
@@ -68,7 +76,7 @@ class BareRoot:
         # A user of mount namespaces sees /proc of this machine alone: the session reads its own maps there.
         script = 'mount -t proc proc "$0/proc" && exec chroot "$0" "$@"'
         return subprocess.run(
-            ["unshare", "--mount", "--net", "sh", "-c", script, self.path, "env", "-i", *environment, *command],
+            [*_namespaces(), "sh", "-c", script, self.path, "env", "-i", *environment, *command],
             capture_output=True, text=True, timeout=300, check=False,
         )  # fmt: skip
 

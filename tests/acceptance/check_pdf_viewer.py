@@ -19,6 +19,7 @@ HERE = Path(__file__).resolve().parent
 RESULTS = ROOT / "build" / "acceptance" / "pdf"
 MODULES = ROOT / "build" / "npm" / "node_modules"
 VERSION = "4.10.38"
+OLDEST_NODE = 20
 SIDE = 900.0
 MOST_OFF = 0.01
 """The share of pixels of a page or of its image that the other may lack."""
@@ -94,6 +95,9 @@ def check_forms(seen: dict[str, Any]) -> list[str]:
 
 def main() -> int:
     require("node", "pdftotext")
+    node = subprocess.run(["node", "--version"], check=True, capture_output=True, text=True).stdout.strip()
+    if int(node.removeprefix("v").split(".")[0]) < OLDEST_NODE:
+        skip(f"PDF.js {VERSION} needs Node.js {OLDEST_NODE}; {node} is installed")
     ensure = ROOT / "tools" / "ensure-npm-package.sh"
     if subprocess.run([ensure, "pdfjs-dist", VERSION], check=False).returncode != 0:
         skip("PDF.js cannot be installed")
