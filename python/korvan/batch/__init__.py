@@ -11,7 +11,7 @@ report. The same command goes on where it stood.
 
 from __future__ import annotations
 
-from importlib import import_module
+from korvan._exports import lazy_exports
 
 TYPE_CHECKING = False  # the typing module costs more to import than this package
 if TYPE_CHECKING:
@@ -40,14 +40,4 @@ _MODULES = {
 __all__ = ["BatchError", "Interrupted", "Limits", "Recipe", "Settings", "Summary", "run_batch", "run_shards",
            "write_report"]
 
-
-def __getattr__(name: str) -> object:
-    if name not in _MODULES:
-        raise AttributeError(f"module {__name__!r} has no attribute {name!r}")
-    found = getattr(import_module(f"{__name__}.{_MODULES[name]}"), name)
-    globals()[name] = found
-    return found
-
-
-def __dir__() -> list[str]:
-    return sorted({*globals(), *_MODULES})
+__getattr__, __dir__ = lazy_exports(globals(), _MODULES)

@@ -7,7 +7,9 @@ from collections import Counter
 from functools import partial
 from typing import Any
 
-from korvan.commands.common import DRAWINGS, add_files, add_json, each, expand, parser_for, print_json, table
+from korvan.commands.common import (
+    DRAWINGS, add_files, add_json, each, expand, parser_for, print_json, print_tables, table
+)
 
 _EXAMPLES = """  korvan blocks plan.dxf
   korvan blocks --unused *.dwg
@@ -96,13 +98,5 @@ def run(arguments: argparse.Namespace) -> int:
     paths = list(expand(arguments.files, DRAWINGS))
     if arguments.attributes is not None:
         return _run_attributes(arguments, paths)
-    count = 0
-    for path, found in each(paths, partial(_find, unused=arguments.unused)):
-        if arguments.json:
-            print_json({"file": path, "blocks": found})
-        else:
-            if len(paths) > 1:
-                print(("\n" if count else "") + path)
-            print(table([_row(one) for one in found], _HEADINGS))
-        count += 1
-    return 1 if count < len(paths) else 0
+    find = partial(_find, unused=arguments.unused)
+    return print_tables(paths, find, "blocks", _row, _HEADINGS, as_json=arguments.json)

@@ -86,6 +86,23 @@ def table(rows: Sequence[Sequence[object]], headings: Sequence[str]) -> str:
     return "\n".join([line(headings), *map(line, texts)])
 
 
+def print_tables(
+    paths: Sequence[str], find: Callable[[str], list[dict[str, Any]]], what: str,
+    row: Callable[[dict[str, Any]], Sequence[object]], headings: Sequence[str], *, as_json: bool
+) -> int:
+    """Prints what is found in each file, as a table or, by the name of ``what``, as JSON; returns the exit code."""
+    count = 0
+    for path, found in each(paths, find):
+        if as_json:
+            print_json({"file": path, what: found})
+        else:
+            if len(paths) > 1:
+                print(("\n" if count else "") + path)
+            print(table([row(one) for one in found], headings))
+        count += 1
+    return 1 if count < len(paths) else 0
+
+
 def size_text(count: int) -> str:
     """A number of bytes for people."""
     value = float(count)

@@ -6,7 +6,7 @@ import argparse
 from functools import partial
 from typing import Any
 
-from korvan.commands.common import DRAWINGS, add_files, add_json, each, expand, parser_for, print_json, table
+from korvan.commands.common import DRAWINGS, add_files, add_json, expand, parser_for, print_tables
 
 _EXAMPLES = """  korvan layers plan.dxf
   korvan layers plan.dxf --match 'WALL*'
@@ -47,13 +47,5 @@ def _row(layer: dict[str, Any]) -> tuple[object, ...]:
 
 def run(arguments: argparse.Namespace) -> int:
     paths = list(expand(arguments.files, DRAWINGS))
-    count = 0
-    for path, found in each(paths, partial(_find, match=arguments.match, empty=arguments.empty)):
-        if arguments.json:
-            print_json({"file": path, "layers": found})
-        else:
-            if len(paths) > 1:
-                print(("\n" if count else "") + path)
-            print(table([_row(one) for one in found], _HEADINGS))
-        count += 1
-    return 1 if count < len(paths) else 0
+    find = partial(_find, match=arguments.match, empty=arguments.empty)
+    return print_tables(paths, find, "layers", _row, _HEADINGS, as_json=arguments.json)

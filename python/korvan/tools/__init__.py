@@ -5,7 +5,7 @@ Names are imported when they are first used: ``from korvan.tools import convert`
 
 from __future__ import annotations
 
-from importlib import import_module
+from korvan._exports import lazy_exports
 
 TYPE_CHECKING = False  # the typing module costs more to import than this package
 if TYPE_CHECKING:
@@ -87,14 +87,4 @@ __all__ = [
     "texts", "transform", "values",
 ]
 
-
-def __getattr__(name: str) -> object:
-    if name not in _MODULES:
-        raise AttributeError(f"module {__name__!r} has no attribute {name!r}")
-    found = getattr(import_module(f"{__name__}.{_MODULES[name]}"), name)
-    globals()[name] = found
-    return found
-
-
-def __dir__() -> list[str]:
-    return sorted({*globals(), *_MODULES})
+__getattr__, __dir__ = lazy_exports(globals(), _MODULES)
