@@ -26,7 +26,8 @@ KINDS: tuple[tuple[str, int, tuple[Maker, ...]], ...] = (
     ("half hatches", 20_000, HATCH_HEAVY),
     ("references of a block of 12", 40_000, BLOCK_HEAVY),
 )
-COLUMNS = ("entities", "load", "save", "both", "of the last, a doubling", "first save of the second", "peak memory", "PDF")
+COLUMNS = ("entities", "load", "save", "both", "of the last, a doubling", "first save of the second",
+           "peak memory", "PDF")
 GROWTH_AIM = 2.1
 FIRST_AIM = 1.3
 SECONDS_AIM = 3.0

@@ -59,7 +59,8 @@ def _hatch(rng: random.Random) -> list[Tag]:
 
 
 def _insert(rng: random.Random) -> list[Tag]:
-    return [(0, "INSERT"), (100, "AcDbBlockReference"), (2, BLOCK), *_point(10, rng), (50, f"{rng.uniform(0, 360):.4f}")]
+    return [(0, "INSERT"), (100, "AcDbBlockReference"), (2, BLOCK), *_point(10, rng),
+            (50, f"{rng.uniform(0, 360):.4f}")]
 
 
 BLOCK = "VALVE"

@@ -56,12 +56,13 @@ def run(_modules: Path) -> None:
         image.save(str(plain), TiffOptions(TiffExpectedFormat.TIFF_NO_COMPRESSION_RGB))
         cjpeg = ["cjpeg", "-quality", "90", "-sample", "1x1", "-outfile", str(target), str(folder / "plain.bmp")]
         rows = (
-            ("JPEG, quality 90", JpegOptions(), lambda: subprocess.run(cjpeg, check=True, capture_output=True), "cjpeg"),
+            ("JPEG, quality 90", JpegOptions(), lambda: subprocess.run(cjpeg, check=True, capture_output=True),
+             "cjpeg"),
             ("TIFF, LZW", lzw, _tool(["tiffcp", "-c", "lzw:2", str(plain)], target), "tiffcp"),
             ("TIFF, Deflate", deflate, _tool(["tiffcp", "-c", "zip:2", str(plain)], target), "tiffcp"),
         )
-        table = Table(f"Compressing {image.width} x {image.height} pixels to a file, beside a process of the codec's own tool",
-                      ("", "size", "time", "tool", "its time", "its size", "of the tool's time"))
+        title = f"Compressing {image.width} x {image.height} pixels to a file, beside a process of the codec's own tool"
+        table = Table(title, ("", "size", "time", "tool", "its time", "its size", "of the tool's time"))
         for label, options, tool, tool_name in rows:
             path = folder / "ours"
             ours, theirs = _best(lambda: image.save(str(path), options)), _best(tool)

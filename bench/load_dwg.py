@@ -1,4 +1,4 @@
-"""Loads a drawing database, and the same drawing as DXF, and prints times and the number of objects as a line of JSON."""
+"""Loads a drawing database and the same drawing as DXF; prints times and the number of objects as a line of JSON."""
 
 from __future__ import annotations
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Fails where a line of a C# or C++ source is longer than 120 columns."""
+"""Fails where a line of a source is longer than 120 columns."""
 
 from __future__ import annotations
 
@@ -8,7 +8,7 @@ import sys
 from pathlib import Path
 
 MAX_COLUMNS = 120
-PATTERNS = ["*.cs", "*.cpp", "*.h"]
+PATTERNS = ["*.cs", "*.cpp", "*.h", "*.py", "*.js", "*.mjs", "*.css", "*.sh"]
 
 
 def main() -> int:

@@ -180,7 +180,8 @@ def passes(suite: str, mutant: str) -> bool:
     if not suite.startswith("managed."):
         return run(["ctest", "--test-dir", f"build/{PRESET}", "--no-tests=error", "-R", f"^{suite}$"], mutant)
     project, wanted = managed_project(suite)
-    command = ["dotnet", "test", project, "-c", "Release", "--artifacts-path", "build/dotnet", "--no-build", "-v", "quiet"]
+    command = ["dotnet", "test", project, "-c", "Release", "--artifacts-path", "build/dotnet", "--no-build", "-v",
+               "quiet"]
     return run(command + (["--filter", f"FullyQualifiedName~{wanted}"] if wanted else []), mutant)
 
 

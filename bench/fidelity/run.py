@@ -132,9 +132,9 @@ def _pages_by(viewer: Viewer, drawings: list[Path], out: Path, known: dict[str, 
     there = [path for path in drawings if (out / "ours" / f"{path.name}.{viewer.extension}").exists()]
     viewer.show([out / "ours" / f"{path.name}.{viewer.extension}" for path in there], folder, SIDE)
     shown = [path for path in there if (folder / f"{path.name}.png").exists()]
+    compared = out / f"pages-{viewer.key}"
     shares = dict(zip(shown, _compare([
-        (folder / f"{path.name}.png", out / "ours" / f"{path.name}.png", out / f"pages-{viewer.key}" / f"{path.name}.png")
-        for path in shown])))
+        (folder / name, out / "ours" / name, compared / name) for name in (f"{path.name}.png" for path in shown)])))
     table = Table(f"{viewer.extension} by {viewer.name}, beside our pixels",
                   ("", "its, in ours", "ours, in its", "below the aim because"))
     rows = [_add(table, path.name, shares.get(path, "nothing was shown"), PAGE_AIM,

@@ -64,8 +64,8 @@ def _inkscape(pages: list[Path], folder: Path, side: int) -> None:
 
 def _office(pages: list[Path], folder: Path, side: int) -> None:
     with tempfile.TemporaryDirectory() as name:
-        _run("soffice", f"-env:UserInstallation=file://{name}/profile", "--headless", "--convert-to", "pdf:draw_pdf_Export",
-             "--outdir", name, *pages)
+        _run("soffice", f"-env:UserInstallation=file://{name}/profile", "--headless", "--convert-to",
+             "pdf:draw_pdf_Export", "--outdir", name, *pages)
         for page in pages:
             made = Path(name) / f"{page.name.removesuffix(page.suffix)}.pdf"
             if made.exists():

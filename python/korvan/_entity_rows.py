@@ -6,7 +6,8 @@ from collections.abc import Iterable
 from typing import NamedTuple, cast
 
 KINDS = (
-    "LINE", "POINT", "CIRCLE", "ARC", "ELLIPSE", "INSERT", "3DFACE", "SOLID", "TRACE", "LWPOLYLINE", "POLYLINE", "SPLINE",
+    "LINE", "POINT", "CIRCLE", "ARC", "ELLIPSE", "INSERT", "3DFACE", "SOLID", "TRACE", "LWPOLYLINE", "POLYLINE",
+    "SPLINE",
 )  # fmt: skip
 
 
@@ -35,8 +36,8 @@ class EntityRows(NamedTuple):
 def entity_rows(source: object, kind: str, layers: Iterable[str] | None = None) -> EntityRows:
     """Collects the rows of the entities of one kind.
 
-    ``source`` is a ``CadImage`` (its model space), a ``CadBlockEntity`` or a list of entities of the library; ``layers``
-    are names, of which case is ignored.
+    ``source`` is a ``CadImage`` (its model space), a ``CadBlockEntity`` or a list of entities of the library;
+    ``layers`` are names, of which case is ignored.
     """
     from korvan import cad
 

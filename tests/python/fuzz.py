@@ -123,7 +123,8 @@ def seeds(folder: Path) -> dict[str, list[bytes]]:
     made = folder / "seeds"
     made.mkdir(parents=True, exist_ok=True)
     if not any(made.iterdir()):
-        subprocess.run([sys.executable, str(WORKER), "--seeds", str(EXAMPLES / "floor_plan.dxf"), str(made)], check=True)
+        plan = EXAMPLES / "floor_plan.dxf"
+        subprocess.run([sys.executable, str(WORKER), "--seeds", str(plan), str(made)], check=True)
     found: dict[str, list[bytes]] = {}
     for place in (EXAMPLES, made, folder / "corpus"):
         for path in sorted(place.glob("*.*")):

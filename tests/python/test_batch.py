@@ -165,7 +165,8 @@ class Trouble(unittest.TestCase):
             self.assertIn("more than 600 MiB", rows["greedy.dxf"][1])
             self.assertIn("results/dir: File exists", rows["dir/c.dxf"][1])
             self.assertEqual((batch.runs_of("crash.dxf"), batch.runs_of("always_crash.dxf")), (2, 2))
-            self.assertEqual([name for name in batch.results() if name.endswith("pdf")], ["a.pdf", "b.pdf", "crash.pdf"])
+            pages = [name for name in batch.results() if name.endswith("pdf")]
+            self.assertEqual(pages, ["a.pdf", "b.pdf", "crash.pdf"])
             self.assertEqual((batch.out / "crash.pdf").read_text(), "the result of crash.dxf")
 
     def test_what_makes_no_sense_is_refused_in_one_line(self) -> None:

@@ -66,7 +66,8 @@ class Bombs(unittest.TestCase):
             ("placed.dxf", hostile.placed_images("large.png", 20, 9000, 9000), pages, {"done"}),
             ("packed.ifczip", hostile.ifczip(300 << 20), (), NOT_READ),
             ("nested.ifcxml", hostile.nested_ifcxml(100_000), (), {"ImageLoadException"}),
-            ("metadata.png", hostile.png(9, 9, hostile.xmp("<a>" * 40_000 + "</a>" * 40_000)), ("JpegOptions",), {"done"}),
+            ("metadata.png", hostile.png(9, 9, hostile.xmp("<a>" * 40_000 + "</a>" * 40_000)), ("JpegOptions",),
+             {"done"}),
             ("dashes.cgm", hostile.far_dashes(1000), ("PngOptions", "PdfOptions", "EmfOptions"), {"done"}),
             ("records.cgm", hostile.nested_records(100_000), (), {"ImageLoadException"}),
             ("copies.cgm", hostile.copied_segments(1000, 2000), pages, NOT_SAVED),
@@ -141,7 +142,8 @@ class Bombs(unittest.TestCase):
             except RuntimeError as error:
                 print(error)
         """, str(self.folder / "large.png")).stdout
-        self.assertIn("Proxy error(LimitMemoryException): There is no room for 324000000 bytes of pixels on disk", output)
+        self.assertIn("Proxy error(LimitMemoryException): There is no room for 324000000 bytes of pixels on disk",
+                      output)
 
 
 # Interrupts whatever runs after a while, by a timer and by the limit of the options.

@@ -174,10 +174,11 @@ class Collections(unittest.TestCase):
 
 
 class Texts(unittest.TestCase):
-    def test_letters_outside_of_a_code_page_are_sequences(self) -> None:
+    def test_characters_outside_of_a_code_page_are_sequences(self) -> None:
         helper = cad.CodePagesConvertHelper
         for text, page, written in (("é", CodePages.ENGLISH, b"\xe9"), ("Ж", CodePages.ENGLISH, b"\\U+0416"),
-                                    ("😀", CodePages.GREEK, b"\\U+D83D\\U+DE00"), ("Ж", CodePages.CYRILLIC, b"\xc6")):
+                                    ("😀", CodePages.GREEK, b"\\U+D83D\\U+DE00"),
+                                    ("Ж", CodePages.CYRILLIC, b"\xc6")):
             self.assertEqual(bytes(helper.encode(text, page)), written)
             self.assertEqual(helper.decode(written, page), text)
         self.assertEqual(helper.from_name("ansi_932"), CodePages.JAPANESE)

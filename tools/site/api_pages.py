@@ -161,7 +161,8 @@ class ClassPage:
         for i, node in enumerate(body):
             if isinstance(node, ast.Assign) and isinstance(node.targets[0], ast.Name):
                 after = body[i + 1] if i + 1 < len(body) else None
-                about = after.value.value if isinstance(after, ast.Expr) and isinstance(after.value, ast.Constant) else ""
+                is_docstring = isinstance(after, ast.Expr) and isinstance(after.value, ast.Constant)
+                about = after.value.value if is_docstring else ""
                 text = self._links.in_text(str(about), self._class.module)
                 rows.append(f"| `{node.targets[0].id}` | {ast.unparse(node.value)} | {_cell(text)} |")
         if rows:

@@ -69,6 +69,7 @@ def write_gallery(target: Path) -> None:
         code = code_of(drawing, settings, f"build/{name}")
         lines += [f"## {title}", "", about, "", f"![{title}](gallery/{name})", "", "```python", code.strip(), "```", ""]
     write_page(Path("examples") / "drawings" / VIEWED, folder / "viewer.html")
-    lines += ["## In the browser", "", "The page that `korvan view` makes of a drawing: [open it](gallery/viewer.html). "
-              "It has layouts, layers, text search and measuring. See [View](viewer.md).", ""]
+    lines += ["## In the browser", "", "The page that `korvan view` makes of a drawing: "
+              "[open it](gallery/viewer.html). It has layouts, layers, text search and measuring. "
+              "See [View](viewer.md).", ""]
     (target / "gallery.md").write_text("\n".join(lines), encoding="utf-8")

@@ -23,7 +23,8 @@ def add_parser(subparsers: Any) -> None:
     parser = parser_for(subparsers, "texts", "Searches the texts of drawings, metafiles and building models.",
                         _EXAMPLES)
     parser.add_argument("pattern", metavar="PATTERN", help="a regular expression; '' for all texts")
-    parser.add_argument("files", nargs="+", metavar="FILE", help="drawings; a folder means the drawings in it and below")
+    parser.add_argument("files", nargs="+", metavar="FILE",
+                        help="drawings; a folder means the drawings in it and below")
     parser.add_argument("-F", "--fixed", action="store_true", help="the pattern is a plain string")
     parser.add_argument("-s", "--case-sensitive", action="store_true", help="distinguish upper and lower case")
     parser.add_argument("-c", "--count", action="store_true", help="print how many texts match")

@@ -27,7 +27,8 @@ _PARTS = {
     "VectorizationOptions": ("load", "vectorization_options"),
 }
 _ALIASES = {"load": "LoadOptions", "page": "CadRasterizationOptions", "quality": "RasterizationQuality"}
-_MODULES = ("korvan.cad", "korvan.cad.imageoptions", "korvan.cad.fileformats", "korvan.cad.fileformats.pdf", "korvan.cad.fileformats.cad",
+_MODULES = ("korvan.cad", "korvan.cad.imageoptions", "korvan.cad.fileformats", "korvan.cad.fileformats.pdf",
+            "korvan.cad.fileformats.cad",
             "korvan.cad.fileformats.cad.cadconsts", "korvan.cad.fileformats.png")
 _SWITCHES = {"true": True, "yes": True, "on": True, "1": True, "false": False, "no": False, "off": False, "0": False}
 

@@ -208,7 +208,8 @@ def _add_notes(options: ImageOptionsBase, contents: Contents) -> None:
     result = options.render_result
     if result is None:
         return
-    found = [f"{_REASONS.get(failure.render_code.name or '', 'Changed')}: {failure.message}" for failure in result.failures]
+    found = [f"{_REASONS.get(failure.render_code.name or '', 'Changed')}: {failure.message}"
+             for failure in result.failures]
     found += [f"Font {substitution}" for substitution in result.font_substitutions]
     for note in found:
         if note not in contents.notes and len(contents.notes) < _MOST_NOTES:

@@ -25,7 +25,9 @@ _ENGINE = ("markup.js", "geometry.js", "scene.js", "painter.js", "engine.js")
 _SCRIPT = ("camera.js", "measure.js", "panels.js", "main.js")
 
 
-def build_page(source: str | os.PathLike[str], *, title: str | None = None, layouts: Sequence[str] | None = None) -> str:
+def build_page(
+    source: str | os.PathLike[str], *, title: str | None = None, layouts: Sequence[str] | None = None
+) -> str:
     """Gives the page of a file.
 
     :param source: The path of a drawing, a metafile or an image.

@@ -29,7 +29,8 @@ class PageServer:
         :param port: The port; 0 for a free one.
         """
         path = f"/{secrets.token_urlsafe(24)}/"
-        self._server = ThreadingHTTPServer((_HOST, port), _handler(path, page.encode() if isinstance(page, str) else page))
+        content = page.encode() if isinstance(page, str) else page
+        self._server = ThreadingHTTPServer((_HOST, port), _handler(path, content))
         self._server.daemon_threads = True
         self.url = f"http://{_HOST}:{self._server.server_port}{path}"
         self._thread = Thread(target=self._server.serve_forever, daemon=True)

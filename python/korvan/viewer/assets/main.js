@@ -83,7 +83,8 @@ class Viewer {
     this._texts = texts;
     const whole = { minX: 0, minY: 0, maxX: width, maxY: height };
     const { viewports } = layout;
-    this.camera.open({ width, height, matrix, isSheet, viewports, unit: layout.unit || paperUnit(layout, matrix) }, isSheet ? whole : bounds);
+    const unit = layout.unit || paperUnit(layout, matrix);
+    this.camera.open({ width, height, matrix, isSheet, viewports, unit }, isSheet ? whole : bounds);
     this._updateSearch();
     $$("message").textContent = count === 0 ? "There is nothing on this layout." : "";
   }

@@ -24,7 +24,8 @@ function throughViewport({ viewports, unit }, points) {
 
 function formatNumber(value) {
   const magnitude = Math.abs(value);
-  const digits = magnitude >= 1e7 || magnitude === 0 ? 0 : Math.min(8, Math.max(0, 6 - Math.ceil(Math.log10(magnitude))));
+  const isWhole = magnitude >= 1e7 || magnitude === 0;
+  const digits = isWhole ? 0 : Math.min(8, Math.max(0, 6 - Math.ceil(Math.log10(magnitude))));
   return Number(value.toFixed(digits)).toLocaleString("en", { maximumFractionDigits: digits, useGrouping: false });
 }
 

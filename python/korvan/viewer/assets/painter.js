@@ -238,7 +238,8 @@ class Painter {
     const { scale } = view;
     context.setTransform(a * scale, b * scale, c * scale, d * scale, (e - view.x) * scale, (f - view.y) * scale);
     context.globalAlpha = item.alpha;
-    context.imageSmoothingEnabled = !(this.scene.images[item.image].sharp || scale * Math.hypot(a, b) > 8 * image.width);
+    const isEnlarged = scale * Math.hypot(a, b) > 8 * image.width;
+    context.imageSmoothingEnabled = !(this.scene.images[item.image].sharp || isEnlarged);
     context.drawImage(image, 0, 0, 1, 1);
     context.globalAlpha = 1;
   }
