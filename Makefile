@@ -4,7 +4,7 @@
 #   make demo       convert examples/drawings into build/demo
 #   make test       everything there is, under ctest
 #   make fuzz-calls hostile calls of every member for MINUTES=60, from SEED=1 on
-#   make fuzz       mutated files for every reader and writer for MINUTES=60, from SEED=1 on
+#   make fuzz       mutated files for every reader and writer for MINUTES=60, from SEED=1 on, in WORKERS=1 processes
 #   make mutants    mutation run over single lines: ONLY=<text of a name or file>
 #   make sanitize   the native units under the address and undefined-behaviour sanitizers
 #   make bench      measurements beside hand-written baselines
@@ -24,6 +24,7 @@ CATALOGUE ?= ../shared/catalogue.tsv
 SEED ?= 1
 ROUNDS ?= 20000
 MINUTES ?= 60
+WORKERS ?= 1
 BUILD := build/$(PRESET)
 # A build leaves no servers behind: they would outlive it, hold its pipes open, and mix with other builds.
 export MSBUILDDISABLENODEREUSE := 1
@@ -53,7 +54,7 @@ fuzz-calls: build
 	@build/python tests/python/hostile_calls.py --seed $(SEED) --rounds $(ROUNDS) --minutes $(MINUTES)
 
 fuzz: build
-	@build/python tests/python/fuzz.py --seed $(SEED) --minutes $(MINUTES)
+	@build/python tests/python/fuzz.py --seed $(SEED) --minutes $(MINUTES) --workers $(WORKERS)
 
 mutants: test_packages packages
 	@python=$$(tools/find-python.sh) && "$$python" tools/mutants.py --only '$(ONLY)'

@@ -1,194 +1,143 @@
 """Mutated files for all readers and writers: nothing may crash, hang, raise without a name, or take too much.
 
-Starts from the example drawings and from files of every format that is written. A mutant that leads to a message that
-was not met before joins the corpus, so that the next ones begin behind it. What fails is kept with its reason; its
-smallest form belongs into the tests.
+Starts from small drawings of each kind of entity and from files of every format that is read. A mutant that leads to a
+message that was not met before joins the corpus, so that the next ones begin behind it. What fails is kept with its
+reason; its smallest form belongs into the tests.
 """
 
 from __future__ import annotations
 
 import argparse
 import json
-import random
-import re
-import select
+import os
+import shutil
 import subprocess
 import sys
 import time
+from collections import Counter
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 WORKER = Path(__file__).with_name("fuzz_worker.py")
-EXAMPLES = ROOT / "examples" / "drawings"
-MAX_SEED = 300_000
-MAX_CORPUS = 4_000
-SLOW = 10.0
-HANG = 60.0
-LIMITS = ("LimitMemoryException",)
-MAX_MEGABYTES = 250  # more than the process had before
-NUMBERS = [
-    b"0", b"-1", b"1", b"65535", b"-32768", b"2147483647", b"-2147483648", b"4294967295", b"9223372036854775807",
-    b"1e308", b"-1e308", b"1e-320", b"NaN", b"1e999", b"", b"abc", b"0x7f",
-]
-STRINGS = [
-    b"]]>", b"<script>alert(1)</script>", b"\\U+0000", b"\\U+FFFE", b"\\U+D800", b"../../etc/passwd", b"/dev/zero",
-    b"%n%s", b"\x1b[2J", b"a" * 5000, b"{" * 300,
-]
-TEXT_NUMBER = re.compile(rb"-?\d+(?:\.\d*)?(?:[eE][-+]?\d+)?")
-
-
-def mutate(data: bytes, others: list[bytes], rnd: random.Random) -> bytes:
-    out = bytearray(data)
-    for _ in range(rnd.choice([1, 1, 2, 4, 16])):
-        rnd.choice(MUTATORS)(out, others, rnd)
-        if not out:
-            out = bytearray(data)
-    return bytes(out)
-
-
-def flip(out: bytearray, _: list[bytes], rnd: random.Random) -> None:
-    out[rnd.randrange(len(out))] ^= 1 << rnd.randrange(8)
-
-
-def put(out: bytearray, _: list[bytes], rnd: random.Random) -> None:
-    size = rnd.choice([1, 2, 4, 8])
-    value = rnd.choice([0, 1, -1, 1 << (8 * size - 1), rnd.getrandbits(8 * size)]) % (1 << 8 * size)
-    at = rnd.randrange(len(out))
-    out[at : at + size] = value.to_bytes(size, rnd.choice(["little", "big"]))[: len(out) - at]
-
-
-def delete(out: bytearray, _: list[bytes], rnd: random.Random) -> None:
-    at = rnd.randrange(len(out))
-    del out[at : at + rnd.choice([1, 4, 64, 1024])]
-
-
-def repeat(out: bytearray, _: list[bytes], rnd: random.Random) -> None:
-    at = rnd.randrange(len(out))
-    out[at:at] = bytes(out[at : at + rnd.choice([1, 16, 256])]) * rnd.choice([1, 8, 100])
-
-
-def cross(out: bytearray, others: list[bytes], rnd: random.Random) -> None:
-    other = rnd.choice(others)
-    at = rnd.randrange(len(other))
-    place = rnd.randrange(len(out))
-    out[place : place + rnd.choice([0, 64])] = other[at : at + rnd.choice([4, 64, 1024])]
-
-
-def number(out: bytearray, _: list[bytes], rnd: random.Random) -> None:
-    at = rnd.randrange(len(out))
-    found = TEXT_NUMBER.search(out, at, at + 4096)
-    if found:
-        out[found.start() : found.end()] = rnd.choice(NUMBERS)
-
-
-def word(out: bytearray, _: list[bytes], rnd: random.Random) -> None:
-    at = rnd.randrange(len(out))
-    end = min((e for e in (out.find(mark, at) for mark in (b"\n", b"'", b'"', b";")) if e >= 0), default=at)
-    out[at : min(end, at + 64)] = rnd.choice(STRINGS)
-
-
-def swap_lines(out: bytearray, _: list[bytes], rnd: random.Random) -> None:
-    lines = bytes(out).split(b"\n")
-    a, b = rnd.randrange(len(lines)), rnd.randrange(len(lines))
-    lines[a : a + 2], lines[b : b + 2] = lines[b : b + 2], lines[a : a + 2]
-    out[:] = b"\n".join(lines)
-
-
-MUTATORS = [flip, flip, put, put, delete, repeat, cross, number, number, number, word, swap_lines]
+HANG = 40.0  # seconds of the processor for one mutant
+LAST = 1 << 40
 
 
 class Worker:
-    """A process that converts files, one at a time."""
+    """A process that runs the rounds of a seed, with what it has printed."""
 
-    def __init__(self) -> None:
+    def __init__(self, folder: Path, seed: int, first: int, last: int, kinds: str) -> None:
+        self.folder, self.seed, self.last, self.kinds = folder, seed, last, kinds
+        self.state = folder / f"state{seed}"
+        self.state.write_bytes(first.to_bytes(8, "little"))
+        self.log = folder / f"log{seed}"
+        self.start(first)
+
+    def start(self, first: int) -> None:
+        self.read, self.log_file = 0, self.log.open("wb")
+        self.watched = (first, 0.0)
         self.process = subprocess.Popen(
-            [sys.executable, str(WORKER)], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True
+            [sys.executable, str(WORKER), str(self.folder), str(self.seed), str(first), str(self.last), self.kinds],
+            stdout=self.log_file,
         )
 
-    def convert(self, path: Path, seed: int) -> dict | None:
-        """What came of it; None where the process ended or hangs."""
-        self.process.stdin.write(json.dumps({"path": str(path), "seed": seed}) + "\n")
-        self.process.stdin.flush()
-        ready, _, _ = select.select([self.process.stdout], [], [], HANG)
-        reply = self.process.stdout.readline() if ready else ""
-        return json.loads(reply) if reply else None
+    @property
+    def round(self) -> int:
+        return int.from_bytes(self.state.read_bytes(), "little")
 
-    def end(self) -> int:
+    def replies(self) -> list[dict]:
+        with self.log.open("rb") as log:
+            log.seek(self.read)
+            whole = log.read().rpartition(b"\n")[0]
+        self.read += len(whole) + 1 if whole else 0
+        return [json.loads(line) for line in whole.splitlines()]
+
+    def is_hanging(self) -> bool:
+        fields = Path(f"/proc/{self.process.pid}/stat").read_text(encoding="ascii").rpartition(") ")[2].split()
+        used = (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+        if self.round != self.watched[0]:
+            self.watched = (self.round, used)
+        return used - self.watched[1] > HANG
+
+    def fail(self, reason: str) -> str:
+        """Keeps the mutant at which the process ended or hangs, and goes on behind it."""
         self.process.kill()
-        return self.process.wait()
+        self.process.wait()
+        number = self.round
+        mutant = max(self.folder.glob(f"mutant{self.seed}.*"), key=lambda path: path.stat().st_mtime, default=None)
+        name = f"{reason}-{self.seed}-{number}{mutant.suffix if mutant else ''}"
+        if mutant:
+            shutil.copy(mutant, self.folder / "finds" / name)
+        self.start(number + 1)
+        return name
 
 
-def seeds(folder: Path) -> dict[str, list[bytes]]:
-    """Files by their extension: examples, and what the library writes of one of them."""
-    made = folder / "seeds"
-    made.mkdir(parents=True, exist_ok=True)
-    if not any(made.iterdir()):
-        plan = EXAMPLES / "floor_plan.dxf"
-        subprocess.run([sys.executable, str(WORKER), "--seeds", str(plan), str(made)], check=True)
-    found: dict[str, list[bytes]] = {}
-    for place in (EXAMPLES, made, folder / "corpus"):
-        for path in sorted(place.glob("*.*")):
-            if path.stat().st_size <= MAX_SEED:
-                found.setdefault(path.suffix, []).append(path.read_bytes())
-    return found
+def prepare(folder: Path, more: Path | None) -> None:
+    for name in ("corpus", "finds"):
+        (folder / name).mkdir(parents=True, exist_ok=True)
+    seeds = folder / "seeds"
+    if not seeds.exists():
+        made = folder / "seeds.part"
+        made.mkdir(exist_ok=True)
+        subprocess.run([sys.executable, str(WORKER), "--seeds", str(made), *([str(more)] if more else [])], check=True)
+        made.rename(seeds)
 
 
-def reason(reply: dict | None, length: int) -> str | None:
-    """What is wrong with a reply; None for a good one."""
-    if reply is None:
-        return "ended"
-    if reply["seconds"] > SLOW:
-        return f"slow-{reply['stage']}"
-    if reply["megabytes"] > max(MAX_MEGABYTES, 50 * length >> 20):
-        return f"memory-{reply['stage']}"
-    # What was loaded is written, and what was written is loaded without being told to ignore errors.
-    for stage in ("own format", "again"):
-        failed = [error for error in reply["errors"] if error["stage"] == stage and error["type"] not in LIMITS]
-        if failed:
-            return f"{stage.replace(' ', '-')}-{failed[0]['type']}"
-    nameless = [error for error in reply["errors"] if not error["is_named"]]
-    return f"nameless-{nameless[0]['stage']}-{nameless[0]['type']}" if nameless else None
+class Totals:
+    """What all workers have reported."""
+
+    def __init__(self) -> None:
+        self.counts: Counter[str] = Counter()
+        self.places = self.finds = 0
+
+    def take(self, reply: dict) -> None:
+        if "find" in reply:
+            self.finds += 1
+            print(f"{reply['find']}:", json.dumps(reply["error"])[:400], flush=True)
+            return
+        self.counts.update(reply["counts"])
+        self.places = max(self.places, reply["places"])
+
+    def __str__(self) -> str:
+        by_kind = ", ".join(f"{kind[1:]} {count}" for kind, count in sorted(self.counts.items()))
+        return f"{self.counts.total()} mutants ({by_kind}), {self.places} places of errors, {self.finds} finds"
 
 
 def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--minutes", type=float, default=5)
-    parser.add_argument("--rounds", type=int, default=sys.maxsize)
+    parser.add_argument("--rounds", type=int, default=LAST, help="of each worker")
+    parser.add_argument("--workers", type=int, default=1, help="processes, each with the next seed")
+    parser.add_argument("--kinds", default="", help="file extensions to mutate, separated by commas")
+    parser.add_argument("--more", type=Path, help="folder with further drawings, whose entities become seeds")
+    parser.add_argument("--first", type=int, default=0, help="the first round")
     parser.add_argument("--folder", type=Path, default=ROOT / "build" / "fuzz")
     arguments = parser.parse_args()
-    folder, rnd = arguments.folder, random.Random(arguments.seed)
-    (folder / "corpus").mkdir(parents=True, exist_ok=True)
-    (folder / "finds").mkdir(exist_ok=True)
-    corpus, met, worker = seeds(folder), set(), Worker()
-    end, rounds, finds = time.monotonic() + 60 * arguments.minutes, 0, 0
-    while time.monotonic() < end and rounds < arguments.rounds:
-        rounds += 1
-        kind = rnd.choice(sorted(corpus))
-        data = mutate(rnd.choice(corpus[kind]), corpus[rnd.choice(sorted(corpus))], rnd)
-        path = folder / f"mutant{arguments.seed}{kind}"
-        path.write_bytes(data)
-        reply = worker.convert(path, rounds)
-        why = reason(reply, len(data))
-        if why is not None:
-            finds += 1
-            (folder / "finds" / f"{why}-{arguments.seed}-{rounds}{kind}").write_bytes(data)
-            worst = [error for error in (reply or {"errors": []})["errors"] if error["stage"].replace(" ", "-") in why]
-            print(f"{why}: {path.name}, round {rounds}", json.dumps(worst or reply)[:400], flush=True)
-        if reply is None:
-            worker.end()
-            worker = Worker()
-            continue
-        places = {(kind, error["stage"], error["type"], error["place"]) for error in reply["errors"]}
-        if places - met and len(corpus[kind]) < MAX_CORPUS and len(data) <= MAX_SEED:
-            met |= places
-            corpus[kind].append(data)
-            (folder / "corpus" / f"{arguments.seed}-{rounds}{kind}").write_bytes(data)
-        if rounds % 1000 == 0:
-            print(f"{rounds} mutants, {len(met)} places of errors, {finds} finds", flush=True)
-    worker.end()
-    print(f"{rounds} mutants, {len(met)} places of errors, {finds} finds", flush=True)
-    return 1 if finds else 0
+    folder, totals, first = arguments.folder, Totals(), arguments.first
+    prepare(folder, arguments.more)
+    workers = [Worker(folder, seed, first, first + arguments.rounds, arguments.kinds)
+               for seed in range(arguments.seed, arguments.seed + arguments.workers)]
+    end, shown = time.monotonic() + 60 * arguments.minutes, 0
+    running = list(workers)
+    while running and time.monotonic() < end:
+        time.sleep(0.2)
+        for worker in list(running):
+            ended = worker.process.poll()
+            for reply in worker.replies():
+                totals.take(reply)
+            if ended == 0:
+                running.remove(worker)
+            elif ended is not None or worker.is_hanging():
+                totals.take({"find": worker.fail("hang" if ended is None else "ended"), "error": ended})
+        if totals.counts.total() >= shown + 10_000:
+            shown = totals.counts.total()
+            print(totals, flush=True)
+    for worker in workers:
+        worker.process.kill()
+        worker.process.wait()
+    print(totals, flush=True)
+    return 1 if totals.finds else 0
 
 
 if __name__ == "__main__":

@@ -18,6 +18,7 @@ public sealed class CgmFile
 {
     private IReadOnlyList<Message> _messages = [];
     private bool _isDamaged;
+    private bool _hasFractions;
 
     /// <summary>Creates a metafile without commands.</summary>
     public CgmFile()
@@ -128,6 +129,12 @@ public sealed class CgmFile
         }
 
         List<Command> whole = [.. Commands.Where(static one => one is not (BeginMetafile or EndMetafile))];
+        if (_hasFractions && whole.Any(static one => one is VdcExtent))
+        {
+            whole.RemoveAll(static one => one is VdcType);
+            whole.Insert(0, new VdcType { Value = VdcType.Type.Real });
+        }
+
         whole.Insert(0, Commands.OfType<BeginMetafile>().FirstOrDefault() ?? new BeginMetafile());
         whole.Add(new EndMetafile());
         Action<Command> write = WriterOf(stream, format, name);
@@ -193,5 +200,6 @@ public sealed class CgmFile
         }
 
         _messages = reader.Messages;
+        _hasFractions = reader.HasFractions;
     }
 }

@@ -20,10 +20,13 @@ internal static class NumberRange
         }
     }
 
+    internal static bool IsWhole(double value) =>
+        value == Math.Floor(value) && value is >= int.MinValue and <= int.MaxValue;
+
     /// <summary>Returns a whole coordinate as an integer.</summary>
     internal static int Whole(double value)
     {
-        return value == Math.Floor(value) && value is >= int.MinValue and <= int.MaxValue
+        return IsWhole(value)
             ? (int)value
             : throw new CgmDataException(string.Create(
                 CultureInfo.InvariantCulture,

@@ -67,6 +67,9 @@ internal sealed class CodingState
 
     internal bool HasRealCoordinates => VdcType == Commands.VdcType.Type.Real;
 
+    /// <summary>Gets or sets whether a coordinate has a fraction although the type of coordinates is integer.</summary>
+    internal bool HasFractions { get; set; }
+
     internal int ColorComponents => ColorModel == ColourModel.Model.Cmyk ? 4 : 3;
 
     /// <summary>Resets what a metafile before this one in the same file changed.</summary>
@@ -78,7 +81,7 @@ internal sealed class CodingState
         (ColorLow, ColorHigh) = (fresh.ColorLow, fresh.ColorHigh);
         (ColorScale, ColorOffset) = (fresh.ColorScale, fresh.ColorOffset);
         CharacterSets = fresh.CharacterSets;
-        (VdcType, ViewportMode) = (fresh.VdcType, fresh.ViewportMode);
+        (VdcType, ViewportMode, HasFractions) = (fresh.VdcType, fresh.ViewportMode, false);
         (Picture, Defaults) = (fresh.Picture, fresh.Defaults);
     }
 

@@ -41,6 +41,9 @@ internal sealed class ClearTextReader
 
     internal IReadOnlyList<Message> Messages => _log.Messages;
 
+    /// <summary>Gets whether a coordinate has a fraction although the type of coordinates is integer.</summary>
+    internal bool HasFractions { get; private set; }
+
     /// <summary>Reads the next element.</summary>
     /// <returns>Its command, or <c>null</c> after the end of the metafile.</returns>
     internal Command? ReadCommand()
@@ -57,6 +60,7 @@ internal sealed class ClearTextReader
 
             if (TryRead(start, keyword) is Command command)
             {
+                NoteFractions(start, command, keyword);
                 _isAtEnd = command is
                 { ElementClass: ClassCode.DelimiterElement, ElementId: (int)DelimiterElement.EndMetafile };
                 return command;
@@ -75,6 +79,16 @@ internal sealed class ClearTextReader
         }
 
         return null;
+    }
+
+    private void NoteFractions(int start, Command command, string keyword)
+    {
+        if (_state.HasFractions && !HasFractions)
+        {
+            HasFractions = true;
+            var element = new CommandConstructorArguments(command.ElementClass, command.ElementId);
+            Note(Severity.Warning, start, element, keyword, "a coordinate is not whole, but the VDC type is INTEGER");
+        }
     }
 
     private static ElementEntry? Find(string keyword, out bool isIncremental)

@@ -46,12 +46,17 @@ internal sealed class ClearTextReading(ClearTextScanner scanner, CodingState sta
 
     internal override double Real(double value) => scanner.ReadReal();
 
-    internal override double Vdc(double value) => scanner.ReadReal();
+    internal override double Vdc(double value)
+    {
+        double read = scanner.ReadReal();
+        State.HasFractions |= !State.HasRealCoordinates && !NumberRange.IsWhole(read);
+        return read;
+    }
 
     internal override CgmPoint Point(CgmPoint? value)
     {
-        double x = scanner.ReadReal();
-        double y = scanner.ReadReal();
+        double x = Vdc(0);
+        double y = Vdc(0);
         if (!IsIncremental || _last is null)
         {
             return _last = new CgmPoint(x, y);

@@ -32,6 +32,22 @@ public sealed class DamagedSaveTests
         Assert.Single(again.Commands.OfType<Polyline>());
     }
 
+    [Theory]
+    [InlineData("", CgmFileFormat.ClearText)]
+    [InlineData("VDCTYPE INTEGER;\n", CgmFileFormat.Binary)]
+    public void Fractions_in_integer_coordinates_are_kept(string type, CgmFileFormat encoding)
+    {
+        CgmFile file = CgmFile.Load(Bytes("BEGMF 'x';\n" + type
+            + "BEGPIC 'p';\nVDCEXT (0,0) (9,9);\nBEGPICBODY;\nLINE (0,0.5) (9,9);\nENDPIC;\nENDMF;\n"));
+        Assert.Single(file.Messages, static one => one.Severity == Severity.Warning);
+        using var saved = new MemoryStream();
+        file.Save(saved, encoding);
+        saved.Position = 0;
+        CgmFile again = CgmFile.Load(saved);
+        Assert.Empty(again.Messages);
+        Assert.Equal(0.5, again.Commands.OfType<Polyline>().Single().Points[0].Y);
+    }
+
     [Fact]
     public void A_sound_metafile_with_a_command_that_cannot_be_written_is_not_written()
     {
