@@ -13,6 +13,18 @@ internal sealed class EntityList<T>(string name, CadEntityBase owner) : CheckedL
 {
     public CadEntityBase Owner => owner;
 
+    /// <summary>Adds an item at the end, as a load does with many.</summary>
+    internal void Append(T item)
+    {
+        if (item.Home is not null)
+        {
+            throw Taken(item);
+        }
+
+        Items.Add(item);
+        Enter(item);
+    }
+
     /// <inheritdoc/>
     protected override void InsertItem(int index, T item)
     {

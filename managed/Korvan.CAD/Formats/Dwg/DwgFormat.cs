@@ -1,6 +1,5 @@
 using System;
 using System.IO;
-using System.Linq;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
@@ -45,11 +44,7 @@ internal static class DwgFormat
     internal static FormatRecord Record { get; } = new()
     {
         Name = "DWG",
-        Formats =
-        [
-            .. Releases.Select(static release => release.Drawing),
-            .. Releases.Select(static release => release.Template),
-        ],
+        Formats = AllFormats(),
         Detect = Detect,
         Read = static (data, name, _, options) => Read(data, name, options),
         Writers =
@@ -62,6 +57,17 @@ internal static class DwgFormat
         ],
         OwnOptions = static (content, _) => content is IDrawingContent ? new DwgOptions() : null,
     };
+
+    private static FileFormat[] AllFormats()
+    {
+        FileFormat[] formats = new FileFormat[2 * Releases.Length];
+        for (int i = 0; i < Releases.Length; i++)
+        {
+            (_, formats[i], formats[Releases.Length + i]) = Releases[i];
+        }
+
+        return formats;
+    }
 
     private static FileFormat Detect(SourceWindow source)
     {

@@ -10,8 +10,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>What every object of a drawing has: a handle, extended data, and whatever else stood in the file.</summary>
 public abstract partial class CadBaseObject : IKeyedObject
 {
-    private CadXdataContainer? _xdata;
-    private CadApplicationCodesContainer? _applicationCodes;
+    // The containers, or what they are made of.
+    private object? _xdata;
+    private object? _applicationCodes;
 
     internal CadBaseObject()
     {
@@ -31,10 +32,12 @@ public abstract partial class CadBaseObject : IKeyedObject
     public virtual string Key => ObjectHandle;
 
     /// <summary>Gets the extended data that programs attached, group codes from 1000 on.</summary>
-    public CadXdataContainer XdataContainer => _xdata ??= new CadXdataContainer();
+    public CadXdataContainer XdataContainer =>
+        XdataOrNull ?? (CadXdataContainer)(_xdata = new CadXdataContainer());
 
     /// <summary>Gets the groups that programs attached, between group codes 102.</summary>
-    public CadApplicationCodesContainer ApplicationCodesContainer => _applicationCodes ??= new();
+    public CadApplicationCodesContainer ApplicationCodesContainer =>
+        ApplicationCodesOrNull ?? (CadApplicationCodesContainer)(_applicationCodes = new CadApplicationCodesContainer());
 
     /// <summary>Gets the tags of this object that the library does not interpret, in the order of the file. They are
     /// written back unchanged.</summary>
@@ -59,9 +62,10 @@ public abstract partial class CadBaseObject : IKeyedObject
     /// <summary>Gets the embedded object: group code 101 and all tags after it up to extended data.</summary>
     internal List<CadCodeValue>? Embedded => KeptTags?.Embedded;
 
-    internal CadXdataContainer? XdataOrNull => _xdata;
+    internal CadXdataContainer? XdataOrNull => Deferred<CadXdataContainer>.Get(ref _xdata);
 
-    internal CadApplicationCodesContainer? ApplicationCodesOrNull => _applicationCodes;
+    internal CadApplicationCodesContainer? ApplicationCodesOrNull =>
+        Deferred<CadApplicationCodesContainer>.Get(ref _applicationCodes);
 
     /// <summary>Returns the fields that the class declares, with their present values, in the order of files. Fields
     /// that files leave out at their defaults are left out.</summary>
@@ -72,6 +76,12 @@ public abstract partial class CadBaseObject : IKeyedObject
         Exchange(collector);
         return [.. collector.Parameters];
     }
+
+    /// <summary>Sets extended data of which a container is made when it is asked for.</summary>
+    internal void Defer(Deferred<CadXdataContainer> xdata) => _xdata = xdata;
+
+    /// <summary>Sets groups of which a container is made when it is asked for.</summary>
+    internal void Defer(Deferred<CadApplicationCodesContainer> groups) => _applicationCodes = groups;
 
     /// <summary>Takes the current field over.</summary>
     /// <returns>Whether the class has such a field.</returns>

@@ -115,9 +115,9 @@ internal abstract partial class BitExchange
     internal abstract void BlockParts(CadBaseObject owner, bool hasEntities);
 
     /// <summary>Carries values after their group codes, whose number of bytes precedes them.</summary>
-    /// <param name="tags">The values.</param>
+    /// <param name="record">The object with the values.</param>
     /// <param name="cloningCode">The group code under which the object has its cloning flag.</param>
-    internal abstract void TypedTags(System.Collections.Generic.IList<CadCodeValue> tags, int cloningCode);
+    internal abstract void TypedTags(CadXRecord record, int cloningCode);
 
     /// <summary>Creates the exception for a value that the class does not allow.</summary>
     internal abstract System.Exception Fault(string cause);

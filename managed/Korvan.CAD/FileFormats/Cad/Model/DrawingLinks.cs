@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using System.Linq;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 
@@ -21,8 +20,7 @@ internal static class DrawingLinks
             drawing.BlockEntities.Items.Insert(1, drawing.PaperSpace);
         }
 
-        IEnumerable<CadLayout> layouts = drawing.Objects.OfType<CadLayout>().OrderBy(static layout => layout.TabOrder);
-        foreach (CadLayout layout in layouts)
+        foreach (CadLayout layout in LayoutsInOrder(drawing))
         {
             drawing.Layouts.Add(layout);
         }
@@ -46,6 +44,21 @@ internal static class DrawingLinks
 
         CadBlockTableObject? record = drawing.BlockRecords.Items.Find(candidate => candidate.Handle == handle);
         return record is null ? null : drawing.BlockEntities.Find(record.Name);
+    }
+
+    private static List<CadLayout> LayoutsInOrder(CadDrawing drawing)
+    {
+        List<CadLayout> layouts = [];
+        foreach (CadObjectBase item in drawing.Objects)
+        {
+            if (item is CadLayout layout)
+            {
+                int next = layouts.FindIndex(other => other.TabOrder > layout.TabOrder);
+                layouts.Insert(next < 0 ? layouts.Count : next, layout);
+            }
+        }
+
+        return layouts;
     }
 
     // Old drawings have a model and one sheet without saying so.

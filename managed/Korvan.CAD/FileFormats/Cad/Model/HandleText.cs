@@ -25,5 +25,17 @@ internal static class HandleText
         return ulong.TryParse(text, NumberStyles.AllowHexSpecifier, CultureInfo.InvariantCulture, out handle);
     }
 
-    internal static string Format(ulong handle) => handle.ToString("X", CultureInfo.InvariantCulture);
+    internal static string Format(ulong handle)
+    {
+        const int bitsOfDigit = 4;
+        Span<char> text = stackalloc char[sizeof(ulong) * 8 / bitsOfDigit];
+        int start = text.Length;
+        do
+        {
+            text[--start] = "0123456789ABCDEF"[(int)(handle & 0xF)];
+            handle >>= bitsOfDigit;
+        }
+        while (handle != 0);
+        return new string(text[start..]);
+    }
 }

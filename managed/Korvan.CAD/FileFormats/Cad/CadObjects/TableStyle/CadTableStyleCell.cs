@@ -1,4 +1,3 @@
-using System.Linq;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.TableStyle;
@@ -44,8 +43,7 @@ public partial class CadTableStyleCell
 
     /// <summary>Gets the borders: top, inner horizontal, bottom, left, inner vertical and right. Group codes 274 to
     /// 279, 284 to 289 and 64 to 69.</summary>
-    public TableStyleCellBorder[] Borders { get; } =
-        [.. Enumerable.Range(0, BorderCount).Select(static _ => new TableStyleCellBorder())];
+    public TableStyleCellBorder[] Borders { get; } = [new(), new(), new(), new(), new(), new()];
 
     partial void OnExchange(ObjectExchange fields)
     {

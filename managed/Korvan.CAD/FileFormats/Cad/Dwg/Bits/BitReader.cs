@@ -1,5 +1,7 @@
 using System;
 using System.Buffers.Binary;
+using System.Diagnostics.CodeAnalysis;
+using System.Runtime.CompilerServices;
 using System.Text;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Bits;
@@ -57,7 +59,7 @@ internal struct BitReader
         long at = _position;
         if (at >= _end)
         {
-            throw Short(1);
+            ThrowShort(1);
         }
 
         _position = at + 1;
@@ -92,13 +94,7 @@ internal struct BitReader
     internal ulong BitLongLong()
     {
         int bytes = (int)Take(3);
-        ulong value = 0;
-        for (int i = 0; i < bytes; i++)
-        {
-            value |= (ulong)RawByte() << (8 * i);
-        }
-
-        return value;
+        return bytes == 0 ? 0 : BinaryPrimitives.ReverseEndianness(Take(bytes * 8)) >> (WordBits - (bytes * 8));
     }
 
     /// <summary>Reads a number (BD).</summary>
@@ -140,18 +136,11 @@ internal struct BitReader
     internal int RawLong() => (int)BinaryPrimitives.ReverseEndianness((uint)Take(32));
 
     /// <summary>Reads eight bytes (RLL).</summary>
-    internal ulong RawLongLong()
-    {
-        uint low = (uint)RawLong();
-        return low | ((ulong)(uint)RawLong() << 32);
-    }
+    internal ulong RawLongLong() => BinaryPrimitives.ReverseEndianness(TakeWord());
 
     /// <summary>Reads a number of eight bytes (RD).</summary>
-    internal double RawDouble()
-    {
-        ulong high = Take(32);
-        return BitConverter.UInt64BitsToDouble(BinaryPrimitives.ReverseEndianness((high << 32) | Take(32)));
-    }
+    internal double RawDouble() =>
+        BitConverter.UInt64BitsToDouble(BinaryPrimitives.ReverseEndianness(TakeWord()));
 
     /// <summary>Reads a signed integer of seven bits a byte (MC); the last byte has the sign.</summary>
     internal int ModularChar()
@@ -214,12 +203,7 @@ internal struct BitReader
             throw Fault($"a handle of {bytes} bytes; at most {MaxHandleBytes} were expected", 8);
         }
 
-        ulong value = 0;
-        for (int i = 0; i < bytes; i++)
-        {
-            value = (value << 8) | RawByte();
-        }
-
+        ulong value = bytes switch { 0 => 0, MaxHandleBytes => TakeWord(), _ => Take(bytes * 8) };
         return (first >> 4, value);
     }
 
@@ -248,9 +232,19 @@ internal struct BitReader
             return;
         }
 
+        ReadOnlySpan<byte> source = _data.AsSpan(index, target.Length + 1);
+        while (target.Length >= sizeof(ulong))
+        {
+            ulong word = BinaryPrimitives.ReadUInt64BigEndian(source) << shift;
+            word |= (uint)source[sizeof(ulong)] >> (8 - shift);
+            BinaryPrimitives.WriteUInt64BigEndian(target, word);
+            source = source[sizeof(ulong)..];
+            target = target[sizeof(ulong)..];
+        }
+
         for (int i = 0; i < target.Length; i++)
         {
-            target[i] = (byte)((_data[index + i] << shift) | (_data[index + i + 1] >> (8 - shift)));
+            target[i] = (byte)((source[i] << shift) | (source[i + 1] >> (8 - shift)));
         }
     }
 
@@ -258,7 +252,7 @@ internal struct BitReader
     internal byte[] Bytes(long count)
     {
         VerifyCount(count, 8);
-        byte[] bytes = new byte[count];
+        byte[] bytes = GC.AllocateUninitializedArray<byte>((int)count);
         Bytes(bytes);
         return bytes;
     }
@@ -296,22 +290,39 @@ internal struct BitReader
         }
     }
 
-    /// <summary>Takes up to 57 bits.</summary>
+    /// <summary>Takes 1 to 57 bits.</summary>
+    [MethodImpl(MethodImplOptions.AggressiveInlining)]
     private ulong Take(int count)
     {
         long at = _position;
         if (count > _end - at)
         {
-            throw Short(count);
+            ThrowShort(count);
         }
 
         _position = at + count;
-        int index = (int)(at >> 3);
-        ReadOnlySpan<byte> rest = _data.AsSpan(index);
+        ReadOnlySpan<byte> rest = _data.AsSpan((int)(at >> 3));
         ulong word = rest.Length >= sizeof(ulong) ? BinaryPrimitives.ReadUInt64BigEndian(rest) : LastWord(rest);
         return (word << (int)(at & 7)) >> (WordBits - count);
     }
 
+    /// <summary>Takes 64 bits.</summary>
+    private ulong TakeWord()
+    {
+        long at = _position;
+        if (WordBits > _end - at)
+        {
+            ThrowShort(WordBits);
+        }
+
+        _position = at + WordBits;
+        ReadOnlySpan<byte> rest = _data.AsSpan((int)(at >> 3));
+        ulong word = BinaryPrimitives.ReadUInt64BigEndian(rest);
+        int shift = (int)(at & 7);
+        return shift == 0 ? word : (word << shift) | ((uint)rest[sizeof(ulong)] >> (8 - shift));
+    }
+
+    [MethodImpl(MethodImplOptions.NoInlining)]
     private static ulong LastWord(ReadOnlySpan<byte> rest)
     {
         Span<byte> bytes = stackalloc byte[sizeof(ulong)];
@@ -319,6 +330,9 @@ internal struct BitReader
         rest.CopyTo(bytes);
         return BinaryPrimitives.ReadUInt64BigEndian(bytes);
     }
+
+    [DoesNotReturn]
+    private readonly void ThrowShort(long count) => throw Short(count);
 
     private readonly DwgFault Short(long count) =>
         new(_position, $"{count} bits are read where {Math.Max(Remaining, 0)} are left");

@@ -40,8 +40,9 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
     /// <param name="start">Its place in the file; -1 if it was compressed.</param>
     internal static ObjectMap Read(DwgSource source, ReadOnlySpan<byte> data, long start)
     {
-        List<ulong> handles = [];
-        List<long> offsets = [];
+        const int bytesOfEntry = 3;
+        List<ulong> handles = new(data.Length / bytesOfEntry);
+        List<long> offsets = new(data.Length / bytesOfEntry);
         RawReader map = new(data);
         int defects = source.Options.Errors.Count;
         while (true)
@@ -93,6 +94,11 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
     // An object has one handle, so that a file cannot have it read again and again.
     private static ObjectMap WithoutRepeats(DwgSource source, ObjectMap map)
     {
+        if (!MayRepeat(map.Offsets))
+        {
+            return map;
+        }
+
         HashSet<long> places = new(map.Count);
         List<ulong> handles = new(map.Count);
         List<long> offsets = new(map.Count);
@@ -120,6 +126,39 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
         return new ObjectMap([.. handles], [.. offsets]);
     }
 
+    // A bit for each byte is less work than a set, as long as the places are within a file.
+    private static bool MayRepeat(long[] offsets)
+    {
+        const long fewBytes = 1 << 16;
+        const long bytesOfObject = 256;
+        ulong limit = (ulong)(fewBytes + (offsets.Length * bytesOfObject));
+        ulong[] seen = new ulong[64];
+        foreach (long offset in offsets)
+        {
+            ulong place = (ulong)offset;
+            if (place >= limit)
+            {
+                return true;
+            }
+
+            int at = (int)(place / 64);
+            if (at >= seen.Length)
+            {
+                Array.Resize(ref seen, 2 * (at + 1));
+            }
+
+            ulong bit = 1UL << (int)(place % 64);
+            if ((seen[at] & bit) != 0)
+            {
+                return true;
+            }
+
+            seen[at] |= bit;
+        }
+
+        return false;
+    }
+
     private static bool IsAscending(ulong[] handles)
     {
         for (int i = 1; i < handles.Length; i++)
@@ -137,11 +176,11 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
         DwgSource source, ReadOnlySpan<byte> part, long place, List<ulong> handles, List<long> offsets)
     {
         RawReader pairs = new(part);
+        Budget.Check();
         ulong handle = 0;
         long offset = 0;
         while (pairs.Remaining > 0)
         {
-            Budget.Check();
             handle += pairs.ModularChar();
             offset += pairs.SignedModularChar();
             if (pairs.IsShort)

@@ -46,7 +46,7 @@ internal static class PlainContainer
             Objects = data,
             Preview = PreviewSection.Cut(source, BitConverter.ToUInt32(data, PreviewAddress)),
         };
-        Dictionary<Part, Locator> parts = ReadLocators(source);
+        Dictionary<int, Locator> parts = ReadLocators(source);
         file.Header = Framed(source, parts, Part.Header, "AcDb:Header", Sentinels.Header);
         file.Classes = Framed(source, parts, Part.Classes, "AcDb:Classes", Sentinels.Classes);
         file.ObjFreeSpace = Optional(source, parts, Part.FreeSpace, "AcDb:ObjFreeSpace");
@@ -57,7 +57,7 @@ internal static class PlainContainer
         return file;
     }
 
-    private static Dictionary<Part, Locator> ReadLocators(DwgSource source)
+    private static Dictionary<int, Locator> ReadLocators(DwgSource source)
     {
         RawReader reader = new(source.Data);
         reader.Seek(LocatorCount);
@@ -69,10 +69,10 @@ internal static class PlainContainer
             count = (uint)Math.Min(Enum.GetValues<Part>().Length, (source.Data.Length - FirstLocator) / LocatorLength);
         }
 
-        Dictionary<Part, Locator> parts = [];
+        Dictionary<int, Locator> parts = [];
         for (uint i = 0; i < count; i++)
         {
-            Part part = (Part)reader.Byte();
+            int part = reader.Byte();
             parts.TryAdd(part, new Locator(reader.UInt32(), reader.UInt32()));
         }
 
@@ -98,22 +98,22 @@ internal static class PlainContainer
         });
 
     private static ReadOnlyMemory<byte> Framed(
-        DwgSource source, Dictionary<Part, Locator> parts, Part part, string name, ReadOnlySpan<byte> sentinel)
+        DwgSource source, Dictionary<int, Locator> parts, Part part, string name, ReadOnlySpan<byte> sentinel)
     {
         ReadOnlySpan<byte> bytes = Bytes(source, parts, part, name, out long start);
         return start < 0 ? default
             : FramedSection.Open(source, source.Data.AsMemory((int)start, bytes.Length), name, sentinel, 0, start);
     }
 
-    private static byte[] Optional(DwgSource source, Dictionary<Part, Locator> parts, Part part, string name) =>
-        parts.ContainsKey(part) ? Bytes(source, parts, part, name, out _).ToArray() : [];
+    private static byte[] Optional(DwgSource source, Dictionary<int, Locator> parts, Part part, string name) =>
+        parts.ContainsKey((int)part) ? Bytes(source, parts, part, name, out _).ToArray() : [];
 
     // What extends beyond the end of the file is cut there.
     private static ReadOnlySpan<byte> Bytes(
-        DwgSource source, Dictionary<Part, Locator> parts, Part part, string name, out long start)
+        DwgSource source, Dictionary<int, Locator> parts, Part part, string name, out long start)
     {
         start = -1;
-        if (!parts.TryGetValue(part, out Locator found))
+        if (!parts.TryGetValue((int)part, out Locator found))
         {
             source.Report(LoadDefectCode.InvalidSection, name, -1, "the file has no such section");
             return default;

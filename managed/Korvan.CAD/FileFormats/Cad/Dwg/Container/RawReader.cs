@@ -16,7 +16,16 @@ internal ref struct RawReader(ReadOnlySpan<byte> data)
 
     internal readonly int Remaining => _data.Length - Position;
 
-    internal byte Byte() => Take(1) is [var one] ? one : (byte)0;
+    internal byte Byte()
+    {
+        if (Position < _data.Length)
+        {
+            return _data[Position++];
+        }
+
+        IsShort = true;
+        return 0;
+    }
 
     internal ushort UInt16() =>
         Take(2) is { Length: 2 } bytes ? BinaryPrimitives.ReadUInt16LittleEndian(bytes) : (ushort)0;

@@ -23,7 +23,7 @@ internal static class ClassSection
     internal static List<CadClassEntity> Read(HeaderReader reader)
     {
         int last = ExchangeStart(reader, 0);
-        SortedDictionary<int, CadClassEntity> found = [];
+        Dictionary<int, CadClassEntity> found = [];
         while (reader.Remaining >= MinBits && found.Count < MaxClasses
             && (reader.Release < Counted || !found.ContainsKey(last)))
         {
@@ -32,7 +32,10 @@ internal static class ClassSection
         }
 
         List<CadClassEntity> classes = [];
-        foreach ((int number, CadClassEntity item) in found)
+        int[] numbers = new int[found.Count];
+        found.Keys.CopyTo(numbers, 0);
+        Array.Sort(numbers);
+        foreach (int number in numbers)
         {
             // A class with a damaged number must not shift the others.
             if (number is < FirstNumber or >= FirstNumber + MaxClasses)
@@ -45,7 +48,7 @@ internal static class ClassSection
                 classes.Add(new CadClassEntity { DxfRecordName = $"CLASS_{FirstNumber + classes.Count}" });
             }
 
-            classes.Add(item);
+            classes.Add(found[number]);
         }
 
         return classes;

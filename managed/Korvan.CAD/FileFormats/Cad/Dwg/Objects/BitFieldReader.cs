@@ -21,11 +21,14 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
     private const int OwnedLists = 2004;
     private const int StatedCloning = 2000;
 
+    private readonly RecordFormat _format = new(release, encoding, names);
     private BitReader _data;
     private BitReader _strings;
     private BitReader _handles;
     private ulong _self;
     private int _childCount;
+    private ulong _named;
+    private string? _name;
 
     internal override int Release => release;
 
@@ -112,14 +115,24 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
     internal override string Handle(HandleRole role, string value)
     {
         ulong handle = NextHandle();
-        return handle != 0 ? handle.ToString("X", CultureInfo.InvariantCulture) : value.Length == 0 ? "" : "0";
+        return handle != 0 ? HandleText.Format(handle) : value.Length == 0 ? "" : "0";
     }
 
     internal override ulong Handle(HandleRole role, ulong value) => NextHandle();
 
     internal override ulong PlainHandle(ulong value) => _data.Handle().Value;
 
-    internal override string Name(SymbolTable table, string value) => names.Find(NextHandle()) ?? value;
+    // Entities that follow each other are mostly on one layer.
+    internal override string Name(SymbolTable table, string value)
+    {
+        ulong handle = NextHandle();
+        if (handle != _named)
+        {
+            (_named, _name) = (handle, names.Find(handle));
+        }
+
+        return _name ?? value;
+    }
 
     internal override string? FindName(string handle) =>
         HandleText.TryParse(handle, out ulong value) ? names.Find(value) : null;
@@ -173,17 +186,13 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
         Parts.End = NextHandle();
     }
 
-    internal override void TypedTags(IList<CadCodeValue> tags, int cloningCode)
+    internal override void TypedTags(CadXRecord record, int cloningCode)
     {
-        int size = _data.BitLong();
-        _data.VerifyCount(size, 8);
-        int place = tags.Count;
-        RecordTags.Read(_data.Bytes(size), tags, new RecordFormat(release, encoding, names));
-        if (release >= StatedCloning)
-        {
-            int cloning = _data.BitShort();
-            tags.Insert(place, new CadCodeValue(cloningCode, cloning.ToString(CultureInfo.InvariantCulture)));
-        }
+        byte[] data = _data.Bytes((long)_data.BitLong());
+        RecordTags.Verify(data, _format);
+        CadCodeValue? cloning = release < StatedCloning ? null
+            : new CadCodeValue(cloningCode, _data.BitShort().ToString(CultureInfo.InvariantCulture));
+        record.Defer(new StoredTags(data, cloning, _format));
     }
 
     internal override Exception Fault(string cause) => new DwgFault(_data.Position, cause);

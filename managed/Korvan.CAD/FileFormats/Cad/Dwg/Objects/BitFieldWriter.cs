@@ -263,8 +263,9 @@ internal sealed class BitFieldWriter(int release, Encoding encoding, WrittenHand
         Handle(HandleRole.HardOwner, Parts.End);
     }
 
-    internal override void TypedTags(IList<CadCodeValue> tags, int cloningCode)
+    internal override void TypedTags(CadXRecord record, int cloningCode)
     {
+        IList<CadCodeValue> tags = record.Data;
         bool hasCloning = tags.Count > 0 && tags[0].Attribute == cloningCode;
         byte[] data = RecordTagWriter.Write(tags, hasCloning ? 1 : 0, release, _encoding);
         Data.BitLong(data.Length);

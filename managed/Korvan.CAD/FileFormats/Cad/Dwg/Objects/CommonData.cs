@@ -37,7 +37,7 @@ internal static class CommonData
     {
         frame.Mode = fields.BitPair(frame.Mode);
         int reactors = fields.CountLong(frame.Reactors.Count);
-        int lineType = LineTypeKind(entity, fields.Release);
+        int lineType = fields.IsReading ? 0 : LineTypeKind(entity, fields.Release);
         if (fields.Release < 2000)
         {
             lineType = fields.Bit(lineType == 0) ? 0 : HandleFollows;

@@ -31,8 +31,13 @@ internal sealed class DataStore
     /// <returns>Whether the section is sound as far as it was read.</returns>
     internal static bool Read(byte[] data, CadDrawing drawing)
     {
+        if (data.Length == 0)
+        {
+            return true;
+        }
+
         DataStore store = new(data);
-        bool isSound = data.Length == 0 || store.ReadSegments();
+        bool isSound = store.ReadSegments();
         if (store._solids.Count == 0)
         {
             return isSound;

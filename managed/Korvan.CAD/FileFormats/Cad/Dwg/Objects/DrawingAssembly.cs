@@ -84,9 +84,12 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
         block.NameAgain = record.Name;
         TakeDefinition(block, record.Definition);
         ulong last = 0;
-        foreach (int index in Children(parts))
+        EntityList<CadEntityBase> entities = (EntityList<CadEntityBase>)block.Entities;
+        entities.Items.EnsureCapacity(parts.Owned.Count);
+        Children children = new(objects, parts);
+        while (children.TakeNext(out int index))
         {
-            AddTo(block, index, record.Handle, isPaper);
+            AddTo(entities, index, record.Handle, isPaper);
             last = objects.HandleOf(index);
         }
 
@@ -104,14 +107,15 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
         Add(block);
     }
 
-    private void AddTo(CadBlockEntity block, int index, ulong owner, bool isPaper)
+    private void AddTo(EntityList<CadEntityBase> block, int index, ulong owner, bool isPaper)
     {
-        if (objects[index] is { Target: CadEntityBase entity } content)
+        ref readonly RecordContent content = ref objects[index];
+        if (content.Target is CadEntityBase entity)
         {
-            block.Entities.Add(entity);
+            block.Append(entity);
             PlaceIn(entity, owner, isPaper);
-            TakeColor(entity, content.Frame);
-            Complete(entity, content);
+            TakeColor(entity, content.Place.Color);
+            Complete(entity, content.Parts);
             TakeBlockRecord(entity);
         }
     }
@@ -121,22 +125,28 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
     {
         for (int i = 0; i < objects.Count; i++)
         {
-            (CadBaseObject? target, ObjectFrame frame, _) = objects[i];
-            if (target is CadEntityBase
+            if (objects.IsTaken(i))
+            {
+                continue;
+            }
+
+            ref readonly RecordContent content = ref objects[i];
+            if (content.Target is CadEntityBase
                 and not (CadVertexBase or CadAttrib or CadSeqend or CadBlockEntity or CadEndBlock)
-                && !objects.IsTaken(i) && UnlinkedBlockOf(frame) is { } block)
+                && UnlinkedBlockOf(content.Place) is { } block)
             {
                 objects.Take(objects.HandleOf(i));
-                AddTo(block, i, frame.Owner, ReferenceEquals(block, drawing.PaperSpace));
+                EntityList<CadEntityBase> entities = (EntityList<CadEntityBase>)block.Entities;
+                AddTo(entities, i, content.Place.Owner, ReferenceEquals(block, drawing.PaperSpace));
             }
         }
     }
 
-    private CadBlockEntity? UnlinkedBlockOf(ObjectFrame frame) => frame.Mode switch
+    private CadBlockEntity? UnlinkedBlockOf(in ObjectPlace place) => place.Mode switch
     {
         ObjectFrame.InModelSpace => UnlinkedOrNull(drawing.ModelSpace, drawing.ModelSpaceInFile),
         ObjectFrame.InPaperSpace => UnlinkedOrNull(drawing.PaperSpace, drawing.PaperSpaceInFile),
-        _ => _cut.GetValueOrDefault(frame.Owner),
+        _ => _cut.GetValueOrDefault(place.Owner),
     };
 
     private CadBlockEntity? UnlinkedOrNull(CadBlockEntity block, bool isInFile) =>
@@ -181,9 +191,9 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
     }
 
     // A colour of a book is an object of its own.
-    private void TakeColor(CadEntityBase entity, ObjectFrame frame)
+    private void TakeColor(CadEntityBase entity, ulong handle)
     {
-        if (frame.Color != 0 && objects.Get<CadDbColor>(frame.Color) is { } color)
+        if (handle != 0 && objects.Get<CadDbColor>(handle) is { } color)
         {
             entity.ColorValue = color.ColorValue;
             entity.ColorName = color.ColorName;
@@ -199,9 +209,9 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
         }
     }
 
-    private void Complete(CadEntityBase entity, RecordContent content)
+    private void Complete(CadEntityBase entity, ChildHandles? parts)
     {
-        if (content.Parts is not { } parts)
+        if (parts is null)
         {
             return;
         }
@@ -222,7 +232,8 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
     private void AddParts<T>(IList<T> target, ChildHandles parts, CadEntityBase owner)
         where T : CadEntityBase
     {
-        foreach (int index in Children(parts))
+        Children children = new(objects, parts);
+        while (children.TakeNext(out int index))
         {
             if (objects[index].Target is T part)
             {
@@ -247,25 +258,6 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
     private T? Take<T>(ulong handle)
         where T : CadBaseObject => objects.Take(handle) is >= 0 and var index ? objects[index].Target as T : null;
 
-    private IEnumerable<int> Children(ChildHandles parts)
-    {
-        foreach (ulong handle in parts.Owned)
-        {
-            if (objects.Take(handle) is >= 0 and var index)
-            {
-                yield return index;
-            }
-        }
-
-        // Each can be taken once, so that links in a circle end.
-        for (ulong handle = parts.First; objects.Take(handle) is >= 0 and var index;)
-        {
-            yield return index;
-            ObjectFrame frame = objects[index].Frame;
-            handle = handle == parts.Last ? 0 : frame.IsBetweenNeighbours ? handle + 1 : frame.Next;
-        }
-    }
-
     private void AddObjects()
     {
         for (int i = 0; i < objects.Count; i++)
@@ -278,6 +270,36 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
                     reactor.AssociatedImageHandle = HandleText.Format(reactor.Owner);
                 }
             }
+        }
+    }
+
+    /// <summary>Takes the parts of an object one after another.</summary>
+    private struct Children(ObjectSet objects, ChildHandles parts)
+    {
+        private int _owned;
+        private ulong _link = parts.First;
+
+        internal bool TakeNext(out int index)
+        {
+            while (_owned < parts.Owned.Count)
+            {
+                index = objects.Take(parts.Owned[_owned++]);
+                if (index >= 0)
+                {
+                    return true;
+                }
+            }
+
+            // Each can be taken once, so that links in a circle end.
+            index = objects.Take(_link);
+            if (index < 0)
+            {
+                return false;
+            }
+
+            ref readonly RecordContent content = ref objects[index];
+            _link = _link == parts.Last ? 0 : content.Place.IsBetweenNeighbours ? _link + 1 : content.Place.Next;
+            return true;
         }
     }
 }

@@ -1,3 +1,5 @@
+using System;
+using System.Collections.Generic;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
@@ -11,47 +13,45 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 /// <param name="drawing">The drawing, with its classes.</param>
 internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
 {
-    private const string Section = "AcDb:AcDbObjects";
     private const string DataSection = "AcDb:AcDsPrototype_1b";
-    private const int LastPlainRelease = 2000;
-    private const int BitsPerStep = 8 * 512;
     private const int MaxOverlap = 4;
 
-    private readonly RecordNames _names = new();
+    private readonly RecordFormat _format = new(file.Release, file.Encoding, new RecordNames());
     private readonly ObjectSet _objects = new(file.Map.Handles);
+    private readonly RecordDefects _defects = new(file);
+    private readonly RecordPieces _pieces = new(file.Map.Count, file.Objects.Length);
 
-    // How many bits records may have together: a damaged map may have each overlap many others.
-    private long _budget = (long)MaxOverlap * file.Objects.Length * 8;
+    /// <summary>Gets how pieces of work are run, whose order does not matter.</summary>
+    internal Action<int, Action<int>> Run { get; init; } = ForkedProcess.RunPieces;
 
     /// <summary>Adds the objects of the file to the drawing.</summary>
     /// <exception cref="ImageLoadException">An object is damaged, and defects end the load.</exception>
     internal void Read()
     {
-        RecordFormat format = new(file.Release, file.Encoding, _names);
-        RecordReader reader = new(file.Objects, format, drawing.ClassEntities.Items);
-        RecordHeader?[] headers = new RecordHeader?[file.Map.Count];
-        for (int i = 0; i < headers.Length; i++)
+        RecordReader reader = CreateReader();
+        RecordHeader[] headers = new RecordHeader[file.Map.Count];
+        (List<int> records, List<int> controls) = ReadHeaders(reader, headers);
+        foreach (int index in records)
         {
-            headers[i] = ReadHeader(reader, i);
+            ReadName(reader, ref headers[index], index);
         }
 
-        for (int i = 0; i < headers.Length; i++)
+        foreach (int index in controls)
         {
-            ReadControl(reader, headers[i], i);
+            ReadControl(reader, ref headers[index], index);
         }
 
         CompleteNames();
-        for (int i = 0; i < headers.Length; i++)
-        {
-            ReadRecord(reader, headers[i], i);
-        }
-
-        new DrawingAssembly(drawing, _objects, _names).Build();
+        ReadObjects(headers);
+        _defects.Report();
+        new DrawingAssembly(drawing, _objects, _format.Names).Build();
         DrawingLinks.Complete(drawing);
         ReadSolids();
         ModelerSection.Attach(drawing);
         drawing.ContentRelease = drawing.Version;
     }
+
+    private RecordReader CreateReader() => new(file.Objects, _format, drawing.ClassEntities.Items);
 
     private void ReadSolids()
     {
@@ -62,61 +62,63 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
         }
     }
 
-    // The names of records are read first, so that the others know them.
-    private RecordHeader? ReadHeader(RecordReader reader, int index)
+    // The records of symbol tables and the headers of the tables are found first, so that all others know their names.
+    private (List<int> Records, List<int> Controls) ReadHeaders(RecordReader reader, RecordHeader[] headers)
+    {
+        // How many bits records may have together: a damaged map may have each overlap many others.
+        long budget = (long)MaxOverlap * file.Objects.Length * 8;
+        List<int> records = [];
+        List<int> controls = [];
+        for (int i = 0; i < headers.Length; i++)
+        {
+            try
+            {
+                RecordHeader header = reader.ReadHeader(file.Map.Offsets[i]);
+                budget -= header.End - header.Start;
+                if (budget < 0)
+                {
+                    throw new DwgFault(header.Start, "it overlaps other objects, which have all bytes of the file");
+                }
+
+                headers[i] = header;
+                _pieces.Add(header.End - header.Start);
+                if (ObjectTypeTable.IsRecord(header.Type))
+                {
+                    records.Add(i);
+                }
+                else if (ObjectTypeTable.ControlledTable(header.Type) is not null)
+                {
+                    controls.Add(i);
+                }
+            }
+            catch (DwgFault fault)
+            {
+                _pieces.Add(0);
+                _defects.Add(RecordDefects.Stage.Header, i, "object", fault);
+            }
+        }
+
+        _pieces.End();
+        return (records, controls);
+    }
+
+    private void ReadName(RecordReader reader, ref RecordHeader header, int index)
     {
         try
         {
-            RecordHeader header = reader.ReadHeader(file.Map.Offsets[index]);
-            CountWork(header);
-            _budget -= header.End - header.Start;
-            if (_budget < 0)
-            {
-                throw new DwgFault(header.Start, "it overlaps other objects, which have all bytes of the file");
-            }
-
-            VerifyChecksum(header, index);
-            if (ObjectTypeTable.IsRecord(header.Type))
-            {
-                (_, string name) = reader.ReadName(header);
-                _names.Add(file.Map.Handles[index], name);
-            }
-
-            return header;
+            (_, string name) = reader.ReadName(header);
+            _format.Names.Add(file.Map.Handles[index], name);
         }
         catch (DwgFault fault)
         {
-            Report(fault, index, "object");
-            return null;
+            _defects.Add(RecordDefects.Stage.Header, index, "object", fault);
+            header = header.WithoutContent();
         }
     }
 
-    // Many entries of an object map may lead to one record.
-    private static void CountWork(in RecordHeader header) =>
-        Budget.Step(1 + ((header.End - header.Start) / BitsPerStep));
-
-    private void VerifyChecksum(in RecordHeader header, int index)
+    private void ReadControl(RecordReader reader, ref RecordHeader header, int index)
     {
-        if (!IsWhole(header, index))
-        {
-            file.Source.Report(
-                LoadDefectCode.WrongChecksum,
-                PlaceOf(index, "object"),
-                file.Release <= LastPlainRelease ? file.Map.Offsets[index] : -1,
-                "the record has another checksum than it states");
-        }
-    }
-
-    private bool IsWhole(in RecordHeader header, int index) =>
-        file.HasRightChecksum(file.Map.Offsets[index], header.End >> 3);
-
-    private void ReadControl(RecordReader reader, RecordHeader? found, int index)
-    {
-        if (found is not { } header || ObjectTypeTable.ControlledTable(header.Type) is not { } table)
-        {
-            return;
-        }
-
+        string table = ObjectTypeTable.ControlledTable(header.Type)!;
         try
         {
             CadTableHeader target = new() { Name = table };
@@ -125,89 +127,46 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
         }
         catch (DwgFault fault)
         {
-            Report(fault, index, table);
+            _defects.Add(RecordDefects.Stage.Table, index, table, fault);
         }
+
+        header = header.WithoutContent();
     }
 
     // Blocks without a name of their own have a name of the kind, to which their place in the table is added.
     private void CompleteNames()
     {
+        RecordNames names = _format.Names;
         if (_objects.Tables.TryGetValue("BLOCK_RECORD", out SymbolTableHandles? blocks))
         {
             for (int i = 0; i < blocks.Records.Count; i++)
             {
                 ulong handle = blocks.Records[i];
-                if (_names.Find(handle) is ['*', .., var last] name && !char.IsAsciiDigit(last))
+                if (names.Find(handle) is ['*', .., var last] name && !char.IsAsciiDigit(last))
                 {
-                    _names.Add(handle, $"{name}{i}");
+                    names.Add(handle, $"{name}{i}");
                 }
             }
         }
 
         if (_objects.Tables.TryGetValue("LTYPE", out SymbolTableHandles? lineTypes))
         {
-            _names.LineTypes = lineTypes.Records;
+            names.LineTypes = lineTypes.Records;
         }
     }
 
-    private void ReadRecord(RecordReader reader, RecordHeader? found, int index)
+    // Objects know of each other by handles only, so that pieces are read in any order.
+    private void ReadObjects(RecordHeader[] headers)
     {
-        if (found is not { } header || ObjectTypeTable.ControlledTable(header.Type) is not null)
+        RecordDefects[] defects = new RecordDefects[_pieces.Count];
+        bool isGoingOn = file.Source.IsTolerant || _defects.IsEmpty;
+        Run(_pieces.Count, piece =>
         {
-            return;
-        }
-
-        CountWork(header);
-        try
-        {
-            RecordContent content = reader.Read(header);
-            VerifyHandle(content, header, index);
-            _objects.Set(index, content);
-        }
-        catch (DwgFault fault) when (IsWhole(header, index) && !ObjectTypeTable.IsRecord(header.Type))
-        {
-            Keep(reader, header, index, fault);
-        }
-        catch (DwgFault fault)
-        {
-            Report(fault, index, reader.NameOf(header.Type));
-        }
+            (int start, int end, long steps) = _pieces[piece];
+            Budget.Step(steps);
+            defects[piece] = new RecordDefects(file);
+            new PieceReader(file, CreateReader(), _objects, defects[piece]).Read(headers, start, end, isGoingOn);
+        });
+        Array.ForEach(defects, _defects.Add);
     }
-
-    // Others refer to the object by the handle that the map states.
-    private void VerifyHandle(RecordContent content, in RecordHeader header, int index)
-    {
-        if (content.Target is { } target && target.Handle != file.Map.Handles[index])
-        {
-            string cause = $"the record states the handle {HandleText.Format(target.Handle)}";
-            Report(new DwgFault(header.Fields, cause), index, target.DxfName);
-            target.Handle = file.Map.Handles[index];
-        }
-    }
-
-    // A record that is whole and cannot be read has fields that its class does not know: it is kept like one without a
-    // class.
-    private void Keep(RecordReader reader, in RecordHeader header, int index, DwgFault fault)
-    {
-        try
-        {
-            _objects.Set(index, reader.ReadKept(header));
-            file.Source.Options.Report(new LoadDefect(
-                LoadDefectCode.UnknownFields,
-                new LoadPlace(file.Source.Name, 0, PlaceOf(index, reader.NameOf(header.Type)), -1),
-                $"bit {fault.Position}: {fault.Message}; the object is kept as it is"));
-        }
-        catch (DwgFault)
-        {
-            Report(fault, index, reader.NameOf(header.Type));
-        }
-    }
-
-    private void Report(DwgFault fault, int index, string type) => file.Source.Report(
-        LoadDefectCode.DamagedObject,
-        PlaceOf(index, type),
-        file.Release <= LastPlainRelease ? fault.Position >> 3 : -1,
-        $"bit {fault.Position}: {fault.Message}");
-
-    private string PlaceOf(int index, string type) => $"{Section}, {type} {HandleText.Format(file.Map.Handles[index])}";
 }

@@ -5,6 +5,7 @@ using System.Globalization;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 
@@ -22,6 +23,7 @@ internal static class ExtendedData
     /// <param name="format">What the strings of the file are.</param>
     internal static void Read(ref BitReader bits, CadBaseObject? target, RecordFormat format)
     {
+        StoredXdata? last = null;
         for (int size = (ushort)bits.BitShort(); size != 0; size = (ushort)bits.BitShort())
         {
             ulong application = bits.Handle().Value;
@@ -33,29 +35,50 @@ internal static class ExtendedData
             }
 
             long place = bits.Position;
-            byte[] data = bits.Bytes(size);
-            string name = format.Names.Find(application) ?? application.ToString("X", CultureInfo.InvariantCulture);
-            CadXdata xdata = new(name);
-            target.XdataContainer.XdataEntities.Add(xdata);
-            if (!ReadItems(data, xdata.Data, format))
+            StoredXdata xdata = new(application, bits.Bytes((long)size), format);
+            if (!IsWhole(xdata.Data, format))
             {
-                throw new DwgFault(place, $"extended data of {xdata.RegisteredApplicationName} ends within a value");
+                throw new DwgFault(place, $"extended data of {xdata.Name} ends within a value");
             }
+
+            if (last is null)
+            {
+                target.Defer(xdata);
+            }
+            else
+            {
+                last.Next = xdata;
+            }
+
+            last = xdata;
         }
     }
 
-    private static bool ReadItems(ReadOnlySpan<byte> data, IList<CadCodeValue> items, RecordFormat format)
+    /// <summary>Adds the values of a program to a list.</summary>
+    /// <param name="data">The values, which are whole.</param>
+    /// <param name="items">The list.</param>
+    /// <param name="format">What the strings of the file are.</param>
+    internal static void ReadItems(ReadOnlySpan<byte> data, IList<CadCodeValue> items, RecordFormat format)
     {
         while (!data.IsEmpty)
         {
             int code = data[0];
             int length = LengthOf(code, data[1..], format);
+            Add(code, data.Slice(1, length), items, format);
+            data = data[(1 + length)..];
+        }
+    }
+
+    private static bool IsWhole(ReadOnlySpan<byte> data, RecordFormat format)
+    {
+        while (!data.IsEmpty)
+        {
+            int length = LengthOf(data[0], data[1..], format);
             if (length < 0 || length > data.Length - 1)
             {
                 return false;
             }
 
-            Add(code, data.Slice(1, length), items, format);
             data = data[(1 + length)..];
         }
 
@@ -114,4 +137,32 @@ internal static class ExtendedData
 
     private static string Number(ReadOnlySpan<byte> value) =>
         BinaryPrimitives.ReadDoubleLittleEndian(value).ToString("R", CultureInfo.InvariantCulture);
+}
+
+/// <summary>The extended data of a program as it is in the file.</summary>
+/// <param name="application">The handle of the program.</param>
+/// <param name="data">The values, which are whole.</param>
+/// <param name="format">What the strings of the file are.</param>
+internal sealed class StoredXdata(ulong application, byte[] data, RecordFormat format) : Deferred<CadXdataContainer>
+{
+    internal byte[] Data => data;
+
+    /// <summary>Gets the name of the program, or its handle where the file does not name it.</summary>
+    internal string Name => format.Names.Find(application) ?? HandleText.Format(application);
+
+    /// <summary>Gets or sets the data of the next program at the object.</summary>
+    internal StoredXdata? Next { get; set; }
+
+    internal override CadXdataContainer Create()
+    {
+        CadXdataContainer container = new();
+        for (StoredXdata? one = this; one is not null; one = one.Next)
+        {
+            CadXdata xdata = new(one.Name);
+            ExtendedData.ReadItems(one.Data, xdata.Data, format);
+            container.XdataEntities.Add(xdata);
+        }
+
+        return container;
+    }
 }

@@ -35,4 +35,17 @@ internal sealed class ObjectFrame
 
     /// <summary>Gets or sets the object that has the name and value of the colour; 0 for none.</summary>
     internal ulong Color { get; set; }
+
+    /// <summary>Gets what the assembly of a drawing asks for.</summary>
+    internal ObjectPlace Place => new(Mode, IsBetweenNeighbours, Owner, Next, Color);
+
+    /// <summary>Makes it that of another object, of which nothing is known.</summary>
+    internal void Clear()
+    {
+        (Mode, Owner, Dictionary, IsBetweenNeighbours, Previous, Next, Color) = (0, 0, 0, true, 0, 0, 0);
+        Reactors.Clear();
+    }
 }
+
+/// <summary>The place of an object among the others.</summary>
+internal readonly record struct ObjectPlace(int Mode, bool IsBetweenNeighbours, ulong Owner, ulong Next, ulong Color);

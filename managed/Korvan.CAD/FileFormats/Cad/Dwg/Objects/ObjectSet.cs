@@ -10,6 +10,7 @@ internal sealed class ObjectSet(ulong[] handles)
 {
     private readonly RecordContent[] _contents = new RecordContent[handles.Length];
     private readonly bool[] _taken = new bool[handles.Length];
+    private int _next;
 
     /// <summary>Gets the references of the headers of symbol tables by the names of the tables.</summary>
     internal Dictionary<string, SymbolTableHandles> Tables { get; } = [];
@@ -17,9 +18,9 @@ internal sealed class ObjectSet(ulong[] handles)
     internal int Count => handles.Length;
 
     /// <summary>Returns an object; its target is null for one that could not be read.</summary>
-    internal RecordContent this[int index] => _contents[index];
+    internal ref readonly RecordContent this[int index] => ref _contents[index];
 
-    internal void Set(int index, RecordContent content) => _contents[index] = content;
+    internal void Set(int index, in RecordContent content) => _contents[index] = content;
 
     /// <summary>Returns the handle that the object map states for an object.</summary>
     internal ulong HandleOf(int index) => handles[index];
@@ -28,7 +29,22 @@ internal sealed class ObjectSet(ulong[] handles)
     internal bool IsTaken(int index) => _taken[index];
 
     /// <summary>Returns the index of an object; -1 for a handle of none.</summary>
-    internal int Find(ulong handle) => Math.Max(Array.BinarySearch(handles, handle), -1);
+    internal int Find(ulong handle)
+    {
+        // Entities of a block mostly follow each other.
+        int index = _next;
+        if ((uint)index >= (uint)handles.Length || handles[index] != handle)
+        {
+            index = Array.BinarySearch(handles, handle);
+            if (index < 0)
+            {
+                return -1;
+            }
+        }
+
+        _next = index + 1;
+        return index;
+    }
 
     /// <summary>Returns the object of a handle; null where there is none of the class.</summary>
     internal T? Get<T>(ulong handle)

@@ -1,4 +1,3 @@
-using System;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
@@ -18,13 +17,6 @@ internal static partial class ObjectTypeTable
     internal const int BlockControl = 48;
     internal const int LineTypeControl = 56;
     internal const int FirstClass = 500;
-
-    /// <summary>The names in text files of types that no class interprets.</summary>
-    private static readonly (int Type, string Name)[] Others =
-    [
-        (70, "VX_CONTROL"), (71, "VX_TABLE_RECORD"), (75, "DUMMY"), (76, "LONG_TRANSACTION"),
-        (0x1F3, "ACAD_PROXY_OBJECT"),
-    ];
 
     /// <summary>Creates an object of a type; null for a type that no class interprets.</summary>
     internal static CadBaseObject? Create(int type) => type switch
@@ -67,8 +59,15 @@ internal static partial class ObjectTypeTable
     };
 
     /// <summary>Returns the name of a type that no class interprets.</summary>
-    internal static string NameOf(int type) =>
-        Array.Find(Others, other => other.Type == type).Name ?? $"DWG_TYPE_{type}";
+    internal static string NameOf(int type) => type switch
+    {
+        70 => "VX_CONTROL",
+        71 => "VX_TABLE_RECORD",
+        75 => "DUMMY",
+        76 => "LONG_TRANSACTION",
+        0x1F3 => "ACAD_PROXY_OBJECT",
+        _ => $"DWG_TYPE_{type}",
+    };
 
     /// <summary>Returns the name of the symbol table of a header; null for other types.</summary>
     internal static string? ControlledTable(int type) => type switch

@@ -1,5 +1,4 @@
 using System.Collections.Generic;
-using System.Globalization;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
@@ -19,6 +18,7 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
     private const int StatedSize = 2000;
 
     private readonly BitFieldReader _fields = new(format.Release, format.Encoding, format.Names);
+    private readonly ObjectFrame _frame = new();
 
     /// <summary>Gets the bit that is read next.</summary>
     internal long Position => _fields.Position;
@@ -61,7 +61,7 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
     internal (ulong Handle, string Name) ReadName(in RecordHeader header)
     {
         ReadFrame(header, null, out ulong handle, out _);
-        CommonData.ExchangeObject(_fields, new ObjectFrame());
+        CommonData.ExchangeObject(_fields, _frame);
         return (handle, _fields.Text(""));
     }
 
@@ -69,9 +69,8 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
     internal SymbolTableHandles ReadControl(in RecordHeader header, CadBaseObject target)
     {
         ReadFrame(header, target, out ulong handle, out _);
-        ObjectFrame frame = new();
-        CommonData.ExchangeObject(_fields, frame);
-        AddGroups(target, frame);
+        CommonData.ExchangeObject(_fields, _frame);
+        AddGroups(target);
         target.Handle = handle;
         int count = _fields.CountLong(0);
         SymbolTableHandles table = new();
@@ -104,29 +103,28 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
     {
         ReadFrame(header, target, out ulong handle, out byte[] graphics);
         target.Handle = handle;
-        ObjectFrame frame = new();
         if (target is CadEntityBase entity)
         {
-            CommonData.ExchangeEntity(_fields, entity, frame);
+            CommonData.ExchangeEntity(_fields, entity, _frame);
+            entity.Owner = _frame.Owner;
         }
         else
         {
-            CommonData.ExchangeObject(_fields, frame);
+            CommonData.ExchangeObject(_fields, _frame);
+            if (target is CadOwnedObjectBase owned)
+            {
+                owned.Owner = _frame.Owner;
+            }
         }
 
-        if (target is CadOwnedObjectBase owned)
-        {
-            owned.Owner = frame.Owner;
-        }
-
-        AddGroups(target, frame);
+        AddGroups(target);
         if (target.HasBits)
         {
             target.ExchangeBits(_fields);
         }
 
         Keep(header, target, graphics);
-        return new RecordContent(target, frame, _fields.Parts);
+        return new RecordContent(target, _frame.Place, _fields.Parts);
     }
 
     /// <summary>Returns the name of a type, for messages.</summary>
@@ -182,6 +180,7 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
             handles = header.Start + (uint)bits.RawLong();
         }
 
+        _frame.Clear();
         _fields.Begin(handle, bits);
         _fields.SetHandles(handles, header.End);
     }
@@ -189,24 +188,11 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
     private byte[] ReadGraphics(ref BitReader bits) =>
         bits.Bytes(format.Release >= ExtendedTypes ? (long)bits.BitLongLong() : (uint)bits.RawLong());
 
-    private static void AddGroups(CadBaseObject target, ObjectFrame frame)
+    private void AddGroups(CadBaseObject target)
     {
-        if (frame.Dictionary != 0)
+        if (_frame.Dictionary != 0 || _frame.Reactors.Count > 0)
         {
-            CadApplicationCodes group = new("ACAD_XDICTIONARY");
-            group.Codes.Add(new CadCodeValue(360, HandleText.Format(frame.Dictionary)));
-            target.ApplicationCodesContainer.ApplicationCodes.Add(group);
-        }
-
-        if (frame.Reactors.Count > 0)
-        {
-            CadApplicationCodes group = new("ACAD_REACTORS");
-            foreach (ulong reactor in frame.Reactors)
-            {
-                group.Codes.Add(new CadCodeValue(330, reactor.ToString("X", CultureInfo.InvariantCulture)));
-            }
-
-            target.ApplicationCodesContainer.ApplicationCodes.Add(group);
+            target.Defer(new StoredGroups(_frame.Dictionary, [.. _frame.Reactors]));
         }
     }
 
@@ -249,10 +235,20 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
 /// <param name="HandleBits">How many bits of references it has, from release 2010 on.</param>
 /// <param name="Type">The number of its type.</param>
 /// <param name="Fields">The bit after its type.</param>
-internal readonly record struct RecordHeader(long Start, long End, long HandleBits, int Type, long Fields);
+internal readonly record struct RecordHeader(long Start, long End, long HandleBits, int Type, long Fields)
+{
+    /// <summary>Gets whether there is no record.</summary>
+    internal bool IsMissing => End == 0;
+
+    /// <summary>Gets whether there are fields that were not read yet.</summary>
+    internal bool HasContent => Fields != 0;
+
+    /// <summary>Returns it without the place of its fields.</summary>
+    internal RecordHeader WithoutContent() => this with { Fields = 0 };
+}
 
 /// <summary>An object and its place among the others.</summary>
-internal readonly record struct RecordContent(CadBaseObject? Target, ObjectFrame Frame, ChildHandles? Parts);
+internal readonly record struct RecordContent(CadBaseObject? Target, ObjectPlace Place, ChildHandles? Parts);
 
 /// <summary>The records of a symbol table, and the two that are apart in some tables.</summary>
 internal sealed class SymbolTableHandles

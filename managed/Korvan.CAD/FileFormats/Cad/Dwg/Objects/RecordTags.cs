@@ -3,7 +3,9 @@ using System.Buffers.Binary;
 using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 
@@ -13,21 +15,40 @@ internal static class RecordTags
 {
     private const int AxisStep = 10;
 
+    /// <summary>Adds the values to a list.</summary>
+    /// <exception cref="DwgFault">A value ends early.</exception>
     internal static void Read(ReadOnlySpan<byte> data, IList<CadCodeValue> tags, RecordFormat format)
     {
         while (data.Length >= sizeof(short))
         {
-            int code = BinaryPrimitives.ReadInt16LittleEndian(data);
-            data = data[sizeof(short)..];
-            int length = LengthOf(code, data, format);
-            if (length < 0 || length > data.Length)
-            {
-                throw new DwgFault(0, $"the value of group code {code} in a record ends early");
-            }
-
-            Add(code, data[..length], tags, format);
-            data = data[length..];
+            ReadOnlySpan<byte> value = Next(ref data, format, out int code);
+            Add(code, value, tags, format);
         }
+    }
+
+    /// <summary>Verifies that the values can be read.</summary>
+    /// <exception cref="DwgFault">A value ends early.</exception>
+    internal static void Verify(ReadOnlySpan<byte> data, RecordFormat format)
+    {
+        while (data.Length >= sizeof(short))
+        {
+            Next(ref data, format, out _);
+        }
+    }
+
+    private static ReadOnlySpan<byte> Next(ref ReadOnlySpan<byte> data, RecordFormat format, out int code)
+    {
+        code = BinaryPrimitives.ReadInt16LittleEndian(data);
+        data = data[sizeof(short)..];
+        int length = LengthOf(code, data, format);
+        if (length < 0 || length > data.Length)
+        {
+            throw new DwgFault(0, $"the value of group code {code} in a record ends early");
+        }
+
+        ReadOnlySpan<byte> value = data[..length];
+        data = data[length..];
+        return value;
     }
 
     private static int LengthOf(int code, ReadOnlySpan<byte> rest, RecordFormat format)
@@ -121,5 +142,25 @@ internal static class RecordTags
         Long,
         Handle,
         Binary,
+    }
+}
+
+/// <summary>The values of an XRECORD as they are in the file.</summary>
+/// <param name="data">The values, which were verified.</param>
+/// <param name="first">A tag that precedes them; null for none.</param>
+/// <param name="format">What the strings of the file are.</param>
+internal sealed class StoredTags(byte[] data, CadCodeValue? first, RecordFormat format)
+    : Deferred<IList<CadCodeValue>>
+{
+    internal override IList<CadCodeValue> Create()
+    {
+        IList<CadCodeValue> tags = CadXRecord.NewList();
+        if (first is not null)
+        {
+            tags.Add(first);
+        }
+
+        RecordTags.Read(data, tags, format);
+        return tags;
     }
 }

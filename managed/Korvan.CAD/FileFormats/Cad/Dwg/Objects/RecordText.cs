@@ -1,4 +1,4 @@
-using System.Linq;
+using System;
 using System.Text;
 using Korvan.CAD.Encodings;
 
@@ -9,14 +9,14 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 internal static class RecordText
 {
     private const char Caret = '^';
-    private const char FirstPrintable = ' ';
+    private const char LastControl = '\x1F';
     private const int Offset = '@';
 
     /// <summary>Returns a string of a file as the model has it.</summary>
     internal static string FromFile(string text)
     {
         string decoded = text.Contains('\\') ? TextEscapes.Standard.Decode(text) : text;
-        return decoded.Any(static c => c < FirstPrintable) ? WithCarets(decoded) : decoded;
+        return decoded.AsSpan().IndexOfAnyInRange('\0', LastControl) < 0 ? decoded : WithCarets(decoded);
     }
 
     /// <summary>Returns a string of the model as files have it.</summary>
@@ -42,7 +42,7 @@ internal static class RecordText
         StringBuilder result = new(text.Length + 1);
         foreach (char c in text)
         {
-            _ = c < FirstPrintable ? result.Append(Caret).Append((char)(c + Offset)) : result.Append(c);
+            _ = c <= LastControl ? result.Append(Caret).Append((char)(c + Offset)) : result.Append(c);
         }
 
         return result.ToString();

@@ -1,0 +1,141 @@
+using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
+using Korvan.CAD.FileFormats.Cad.Dwg.Container;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Input;
+
+namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
+
+/// <summary>Reads some of the objects of a file. Several threads do so at once: each changes its own objects, and
+/// collects defects in a list of its own.</summary>
+/// <param name="file">The file.</param>
+/// <param name="reader">A reader of its records.</param>
+/// <param name="objects">The objects of the file.</param>
+/// <param name="defects">Gets what is wrong.</param>
+internal sealed class PieceReader(DwgFile file, RecordReader reader, ObjectSet objects, RecordDefects defects)
+{
+    /// <summary>Reads the objects in a range.</summary>
+    /// <param name="headers">The places of all records.</param>
+    /// <param name="start">The first object.</param>
+    /// <param name="end">The object after the last one.</param>
+    /// <param name="readsContent">Whether more than checksums is asked for: not after a defect that ends the
+    /// load.</param>
+    internal void Read(RecordHeader[] headers, int start, int end, bool readsContent)
+    {
+        for (int i = start; i < end; i++)
+        {
+            ref readonly RecordHeader header = ref headers[i];
+            if (header.IsMissing)
+            {
+                continue;
+            }
+
+            bool isWhole = file.HasRightChecksum(file.Map.Offsets[i], header.End >> 3);
+            if (!isWhole)
+            {
+                defects.AddChecksum(i);
+            }
+
+            if (header.HasContent && readsContent && (file.Source.IsTolerant || defects.IsEmpty))
+            {
+                Read(header, i, isWhole);
+            }
+        }
+    }
+
+    private void Read(in RecordHeader header, int index, bool isWhole)
+    {
+        try
+        {
+            RecordContent content = reader.Read(header);
+            VerifyHandle(content, header, index);
+            objects.Set(index, content);
+        }
+        catch (DwgFault fault) when (isWhole && !ObjectTypeTable.IsRecord(header.Type))
+        {
+            Keep(header, index, fault);
+        }
+        catch (DwgFault fault)
+        {
+            defects.Add(RecordDefects.Stage.Content, index, reader.NameOf(header.Type), fault);
+        }
+    }
+
+    // Others refer to the object by the handle that the map states.
+    private void VerifyHandle(RecordContent content, in RecordHeader header, int index)
+    {
+        if (content.Target is { } target && target.Handle != file.Map.Handles[index])
+        {
+            string cause = $"the record states the handle {HandleText.Format(target.Handle)}";
+            defects.Add(
+                RecordDefects.Stage.Content, index, target.DxfName, new DwgFault(header.Fields, cause));
+            target.Handle = file.Map.Handles[index];
+        }
+    }
+
+    // A record that is whole and cannot be read has fields that its class does not know: it is kept like one without a
+    // class.
+    private void Keep(in RecordHeader header, int index, DwgFault fault)
+    {
+        string type = reader.NameOf(header.Type);
+        try
+        {
+            objects.Set(index, reader.ReadKept(header));
+            defects.AddKept(index, type, fault);
+        }
+        catch (DwgFault)
+        {
+            defects.Add(RecordDefects.Stage.Content, index, type, fault);
+        }
+    }
+}
+
+/// <summary>Parts of the objects of a file, which are worth a thread each.</summary>
+/// <param name="records">The number of objects.</param>
+/// <param name="bytes">The bytes that they have together, or more.</param>
+internal sealed class RecordPieces(int records, int bytes)
+{
+    private const int MinRecords = 2048; // fewer are read before another thread has begun
+    private const int MinBytes = 1 << 18;
+    private const long MaxBits = 8L << 17;
+    private const int MaxRecords = 512;
+    private const int BitsPerStep = 8 * 512;
+
+    private readonly List<(int Start, int End, long Steps)> _pieces = [];
+    private readonly bool _isDivided = records >= MinRecords || bytes >= MinBytes;
+    private int _start;
+    private int _end;
+    private long _bits;
+    private long _steps;
+
+    internal int Count => _pieces.Count;
+
+    /// <summary>Gets the first object of a piece, the object after its last one, and how many steps of work it
+    /// is.</summary>
+    internal (int Start, int End, long Steps) this[int piece] => _pieces[piece];
+
+    /// <summary>Adds the next object.</summary>
+    /// <param name="bits">The length of its record; 0 for an object that is not there.</param>
+    internal void Add(long bits)
+    {
+        _bits += bits;
+        _steps += 1 + (bits / BitsPerStep);
+        _end++;
+        if (_isDivided && (_bits >= MaxBits || _end - _start >= MaxRecords))
+        {
+            End();
+        }
+    }
+
+    /// <summary>Ends the last piece. Many entries of an object map may lead to one record, so that finding the records
+    /// counts as work.</summary>
+    internal void End()
+    {
+        if (_end > _start)
+        {
+            Budget.Step(_steps);
+            _pieces.Add((_start, _end, _steps));
+            (_start, _bits, _steps) = (_end, 0, 0);
+        }
+    }
+}
