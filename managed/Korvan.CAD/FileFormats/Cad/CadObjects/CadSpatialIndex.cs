@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>The entities of a block by their places; text files have it without content.</summary>
 [CadSequence]
 [CadObject("SPATIAL_INDEX", Subclass = "AcDbIndex")]
+[CadBits("ExchangeTime()", "partial")]
 public partial class CadSpatialIndex : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -22,4 +23,11 @@ public partial class CadSpatialIndex : CadObjectBase
     [CadList(40)]
     [CadSubclass("AcDbSpatialIndex")]
     public List<double> Extents { get; } = [];
+
+    private void ExchangeTime(BitExchange fields)
+    {
+        const double millisecondsPerDay = 86_400_000;
+        int day = fields.BitLong((int)LastUpdated);
+        LastUpdated = day + (fields.BitLong((int)((LastUpdated - day) * millisecondsPerDay)) / millisecondsPerDay);
+    }
 }

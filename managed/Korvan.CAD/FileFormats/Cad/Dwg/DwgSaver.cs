@@ -6,6 +6,7 @@ using System.Text;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
@@ -44,12 +45,20 @@ internal static class DwgSaver
         CadDrawing written = ReleaseConversion.IsNeeded(drawing, version)
             ? ReleaseConversion.Convert(drawing, version, createMeasurer, notes, release >= WithBinarySolids)
             : drawing;
-        DrawingIntegrity.Prepare(written, release);
+        Prepare(written, release);
         Encoding encoding = DwgCodePage.Get(CodePageIndex.NameOf(CodePageIndex.IndexOf(written.Header.CodePage)));
         DwgObjectWriter objects = new(written, release, encoding);
         objects.Write();
         DwgContainer.Write(DwgContentBuilder.Build(written, version, objects.Objects, objects.Classes), output);
         return [.. notes, .. objects.LeftOut];
+    }
+
+    /// <summary>Completes a drawing before its objects are written.</summary>
+    internal static void Prepare(CadDrawing drawing, int release)
+    {
+        List<CadDbColor> colors = BookColors.AddMissing(drawing, release);
+        DrawingIntegrity.Prepare(drawing, release);
+        BookColors.Link(drawing, colors);
     }
 
     // Drawings of a release that is not written become those of the next one.

@@ -9,31 +9,14 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 /// Carries objects without a class between drawing databases and tags by a list of their fields. A field is a group
 /// code and a coding (<c>40 BD</c>), in the order of text files. <c>100=AcDbText</c> is a tag that text files have
 /// only; <c>2018+ 300 T</c> begins with a release; a field after <c>&gt;</c> stands in databases where <c>&lt;</c> is;
-/// <c>n70 BL</c> is the number of the fields after it that begin with <c>*</c>.
+/// <c>n70 BL(10 3BD)</c> is the number of the fields in parentheses; <c>v90 BS</c> is a version, and fields as in
+/// <c>if1+(90 BL)</c> are there from a version on, as in <c>if1-(90 BL)</c> up to one.
 /// </summary>
-internal sealed class RawFields
+internal sealed partial class RawFields
 {
-    private const string ViewStyle = "100=AcDbModelDocViewStyle|70 BS|3 T|290 B|2018+ 300 T|2018+ 90 BL|";
-    private const string Context =
-        "100=AcDbObjectContextData|70 BS|290 B|100=AcDbAnnotScaleObjectContextData|340 H|";
-
-    private static readonly Dictionary<string, RawFields> Lists = new()
-    {
-        ["ACDBDETAILVIEWSTYLE"] = new(ViewStyle + "100=AcDbDetailViewStyle|70 BS|71=0|90 BL|71=1|340 H|62 CMC|40 BD|"
-            + ">340 H|>62 CMC|>40 BD|300 T|40 BD|280 RC|<|71=2|340 H|90 BL|62 CMC|71=3|340 H|62 CMC|40 BD|90 BL|40 BD|"
-            + "90 BL|300 T|71=4|340 H|90 BL|62 CMC|340 H|90 BL|62 CMC|280 RC"),
-        ["ACDB_TEXTOBJECTCONTEXTDATA_CLASS"] = new(
-            Context + "100=AcDbTextObjectContextData|70 BS|50 BD|10 2RD|11 2RD"),
-        ["ACDB_LEADEROBJECTCONTEXTDATA_CLASS"] = new(
-            Context + "100=AcDbLeaderObjectContextData|n70 BL|*10 3BD|11 3BD|290 B|12 3BD|13 3BD"),
-        ["ACDB_BLKREFOBJECTCONTEXTDATA_CLASS"] = new(
-            Context + "100=AcDbBlkrefObjectContextData|50 BD|10 3BD|41 BD|42 BD|43 BD"),
-        ["ACDB_FCFOBJECTCONTEXTDATA_CLASS"] = new(Context + "100=AcDbFcfObjectContextData|10 3BD|11 3BD"),
-    };
-
     private readonly Field[] _fields;
 
-    private RawFields(string list) => _fields = Array.ConvertAll(list.Split('|'), Field.Parse);
+    private RawFields(string list) => _fields = Field.ParseList(list);
 
     /// <summary>Returns the fields of the objects of a name; null where they are not known.</summary>
     internal static RawFields? Of(string name) => Lists.GetValueOrDefault(name);
@@ -44,69 +27,140 @@ internal sealed class RawFields
     /// <returns>The tags.</returns>
     internal List<CadCodeValue> Exchange(BitExchange fields, List<CadCodeValue> tags)
     {
-        List<Slot> slots = [];
-        List<Slot> deferred = [];
-        int next = 0;
-        int repeated = 0;
-        foreach (Field field in _fields)
-        {
-            if (fields.Release < field.Since)
-            {
-                continue;
-            }
-
-            if (field.Code == 0)
-            {
-                deferred.ForEach(slot => slot.Carry(fields));
-                continue;
-            }
-
-            int times = field.IsRepeated ? repeated : 1;
-            for (int i = 0; i < times; i++)
-            {
-                Slot slot = new(field, tags, ref next);
-                slots.Add(slot);
-                if (field.IsDeferred)
-                {
-                    deferred.Add(slot);
-                }
-                else
-                {
-                    slot.Carry(fields);
-                }
-            }
-
-            repeated = field.IsCount ? fields.Verify((int)Slot.Number(slots[^1].Tags[0].Value)) : repeated;
-        }
-
+        Walk walk = new(fields, tags);
+        walk.Carry(_fields);
         List<CadCodeValue> result = [];
-        slots.ForEach(slot => result.AddRange(slot.Tags));
+        walk.Slots.ForEach(slot => result.AddRange(slot.Tags));
         return result;
     }
 
-    /// <summary>A field of the list.</summary>
-    private sealed record Field(
-        int Code, string Coding, string Constant, int Since, bool IsDeferred, bool IsCount, bool IsRepeated)
+    /// <summary>Goes through a list of fields.</summary>
+    private sealed class Walk(BitExchange fields, List<CadCodeValue> tags)
     {
-        internal static Field Parse(string text)
+        private readonly List<Slot> _deferred = [];
+        private int _next;
+        private int _version;
+
+        internal List<Slot> Slots { get; } = [];
+
+        internal void Carry(Field[] list)
         {
-            if (text == "<")
+            foreach (Field field in list)
             {
-                return new Field(0, "", "", 0, false, false, false);
+                if (fields.Release >= field.Since)
+                {
+                    Carry(field);
+                }
+            }
+        }
+
+        private void Carry(Field field)
+        {
+            switch (field.Kind)
+            {
+                case FieldKind.Deferral:
+                    _deferred.ForEach(slot => slot.Carry(fields));
+                    return;
+                case FieldKind.FromVersion when _version >= field.Code:
+                case FieldKind.UpToVersion when _version <= field.Code:
+                    Carry(field.Items);
+                    return;
+                case FieldKind.FromVersion or FieldKind.UpToVersion:
+                    return;
             }
 
-            string[] parts = text.Split(' ');
-            int since = parts.Length == 3 ? int.Parse(parts[0].TrimEnd('+'), CultureInfo.InvariantCulture) : 0;
-            string[] code = (parts.Length == 3 ? parts[1] : parts[0]).Split('=');
-            return new Field(
-                int.Parse(code[0].TrimStart('>', 'n', '*'), CultureInfo.InvariantCulture),
-                code.Length > 1 ? "=" : parts[^1],
-                code.Length > 1 ? text[(text.IndexOf('=') + 1)..] : "",
-                since,
-                text[0] == '>',
-                text[0] == 'n',
-                text[0] == '*');
+            Slot slot = new(field, tags, ref _next);
+            Slots.Add(slot);
+            if (field.Kind == FieldKind.Deferred)
+            {
+                _deferred.Add(slot);
+                return;
+            }
+
+            if (field.Kind == FieldKind.Count && !fields.IsReading)
+            {
+                slot.Limit(tags.Count);
+            }
+
+            slot.Carry(fields);
+            if (field.Kind == FieldKind.Version)
+            {
+                _version = slot.Integer;
+            }
+
+            int count = field.Kind == FieldKind.Count ? fields.Verify(slot.Integer) : 0;
+            for (int i = 0; i < count; i++)
+            {
+                Carry(field.Items);
+            }
         }
+    }
+
+    private enum FieldKind
+    {
+        Plain,
+        Deferred,
+        Deferral,
+        Count,
+        Version,
+        FromVersion,
+        UpToVersion,
+    }
+
+    /// <summary>A field of the list.</summary>
+    private sealed record Field(FieldKind Kind, int Code, string Coding, string Constant, int Since, Field[] Items)
+    {
+        internal static Field[] ParseList(string list)
+        {
+            List<Field> fields = [];
+            int start = 0;
+            int depth = 0;
+            for (int i = 0; i <= list.Length; i++)
+            {
+                char c = i < list.Length ? list[i] : '|';
+                depth += c == '(' ? 1 : c == ')' ? -1 : 0;
+                if (c == '|' && depth == 0)
+                {
+                    fields.Add(Parse(list[start..i]));
+                    start = i + 1;
+                }
+            }
+
+            return [.. fields];
+        }
+
+        private static Field Parse(string text)
+        {
+            int open = text.IndexOf('(');
+            Field[] items = open >= 0 ? ParseList(text[(open + 1)..^1]) : [];
+            string plain = open >= 0 ? text[..open] : text;
+            if (plain.StartsWith("if", StringComparison.Ordinal))
+            {
+                FieldKind bound = plain[^1] == '+' ? FieldKind.FromVersion : FieldKind.UpToVersion;
+                return new Field(bound, Integer(plain[2..^1]), "", "", 0, items);
+            }
+
+            FieldKind kind = plain[0] switch
+            {
+                '<' => FieldKind.Deferral,
+                '>' => FieldKind.Deferred,
+                'n' => FieldKind.Count,
+                'v' => FieldKind.Version,
+                _ => FieldKind.Plain,
+            };
+            string[] parts = plain.TrimStart('<', '>', 'n', 'v').Split(' ');
+            int since = parts.Length == 3 ? Integer(parts[0].TrimEnd('+')) : 0;
+            string[] code = parts[parts.Length == 3 ? 1 : 0].Split('=');
+            return new Field(
+                kind,
+                code[0].Length > 0 ? Integer(code[0]) : 0,
+                code.Length > 1 ? "=" : parts[^1],
+                code.Length > 1 ? code[1] : "",
+                since,
+                items);
+        }
+
+        private static int Integer(string text) => int.Parse(text, CultureInfo.InvariantCulture);
     }
 
     /// <summary>The values of a field.</summary>
@@ -126,7 +180,8 @@ internal sealed class RawFields
             _given = new string[size];
             for (int i = 0; i < size; i++)
             {
-                _given[i] = Take(tags, field.Code + (10 * i), ref next);
+                _given[i] = field.Code == Marker ? TakeMarker(tags, field.Constant, ref next)
+                    : Take(tags, field.Code + (10 * i), ref next);
             }
 
             bool isTrue = next < tags.Count && tags[next].Attribute == field.Code + TrueColor;
@@ -135,7 +190,13 @@ internal sealed class RawFields
 
         internal List<CadCodeValue> Tags { get; } = [];
 
-        internal static double Number(string text) => double.TryParse(
+        /// <summary>Gets the value of an integer.</summary>
+        internal int Integer => (int)Number(Tags[0].Value);
+
+        /// <summary>Lowers a given value that is larger than another one.</summary>
+        internal void Limit(int most) => _given[0] = Text(Math.Clamp(Number(_given[0]), 0, most));
+
+        private static double Number(string text) => double.TryParse(
             text, NumberStyles.Float, CultureInfo.InvariantCulture, out double value) ? value : 0;
 
         internal void Carry(BitExchange fields)
@@ -186,6 +247,13 @@ internal sealed class RawFields
             }
 
             return "";
+        }
+
+        private static string TakeMarker(List<CadCodeValue> tags, string name, ref int next)
+        {
+            int at = tags.FindIndex(next, tag => tag.Attribute == Marker && tag.Value.Trim() == name);
+            next = at < 0 ? next : at + 1;
+            return name;
         }
 
         private void CarryColor(BitExchange fields)

@@ -141,13 +141,13 @@ public class PropertyRoundTripTests
     internal static IEnumerable<Type> Concrete(Type parent) => parent.Assembly.GetExportedTypes()
         .Where(type => type.IsSubclassOf(parent) && !type.IsAbstract && type.GetConstructor([]) is not null);
 
-    private static void Add(CadImage image, CadSymbolTableGroupCodes record)
+    internal static void Add(CadImage image, CadSymbolTableGroupCodes record)
     {
         IEnumerable table = TableOf(image, record);
         table.GetType().GetMethod("Add", [record.GetType()])!.Invoke(table, [record]);
     }
 
-    private static object? Find(CadImage image, CadSymbolTableGroupCodes record)
+    internal static object? Find(CadImage image, CadSymbolTableGroupCodes record)
     {
         IEnumerable table = TableOf(image, record);
         return table.GetType().GetMethod("Find")!.Invoke(table, [record.Name]);
@@ -306,7 +306,8 @@ public class PropertyRoundTripTests
         Assert.Equal(Describe(expected), Describe(actual));
     }
 
-    private static string[] Describe(object item) =>
+    /// <summary>Returns a line for each property of an object and its parts.</summary>
+    internal static string[] Describe(object item) =>
     [
         .. Settable(item).Where(property => !property.PropertyType.IsClass || property.PropertyType == typeof(string)
             || IsPoint(property.PropertyType) || property.PropertyType == typeof(byte[]))
@@ -315,7 +316,7 @@ public class PropertyRoundTripTests
             || part == typeof(string) || IsPoint(part)))
             .Select(property =>
             $"{property.Name} = {string.Join(' ', ((IList)property.GetValue(item)!).Cast<object>().Select(Shown))}"),
-        .. Parts(item).SelectMany(property => Describe(property.GetValue(item)!)),
+        .. Parts(item).SelectMany(property => property.GetValue(item) is { } part ? Describe(part) : []),
         .. Lists(item).Where(property => IsPart(property.PropertyType.GetGenericArguments()[0]))
             .SelectMany(property => ((IList)property.GetValue(item)!).Cast<object>().SelectMany(Describe)),
     ];

@@ -68,6 +68,8 @@ internal sealed class DwgObjectWriter
                 WriteObject(item, new ObjectFrame { Owner = item.Owner }, null);
             }
         }
+
+        _classes.Complete();
     }
 
     // References to what is not written lead nowhere, so that it has to be known first.

@@ -16,7 +16,10 @@ internal sealed class PagedWriter
     private const int SmallPage = 0x80;
     private const int PageAlignment = 0x20;
     private const int Compressed = 2;
+    private const int SummaryPage = 0x100;
+    private const int MapHeadroom = 64;
     private const string PreviewName = "AcDb:Preview";
+    private const string SummaryName = "AcDb:SummaryInfo";
 
     private readonly DwgContent _content;
     private readonly MemoryStream _file = new();
@@ -46,7 +49,7 @@ internal sealed class PagedWriter
         int extra = NamedSections.ExtraOf(_content.Version, DwgContent.MaintenanceOf(_content.Version));
         Pending[] sections =
         [
-            new(7, "AcDb:SummaryInfo", false, _content.SummaryInfo),
+            new(7, SummaryName, false, _content.SummaryInfo),
             new(6, PreviewName, false, PreviewSection.Write(_content.PreviewImage, 0)),
             new(4, "AcDb:VBAProject", false, _content.VbaProject),
             new(5, "AcDb:AppInfo", false, _content.AppInfo),
@@ -76,7 +79,7 @@ internal sealed class PagedWriter
         _addresses[section.Name] = address;
         ReadOnlySpan<byte> data = section.Name == PreviewName
             ? PreviewSection.Write(_content.PreviewImage, address) : section.Data;
-        int pageSize = section.IsCompressed ? PageSize : (data.Length + SmallPage - 1) & -SmallPage;
+        int pageSize = section.IsCompressed ? PageSize : PageSizeOf(section.Name, data.Length);
         List<PageInfo> pages = [];
         byte[] page = new byte[pageSize];
         for (int start = 0; start < data.Length; start += pageSize)
@@ -90,6 +93,18 @@ internal sealed class PagedWriter
         }
 
         _sections.Add(new SectionInfo(id, section.Name, data.Length, pageSize, section.IsCompressed, false, pages));
+    }
+
+    // Other programs ask for no larger pages of these two sections, and for one page of each of the others.
+    private static int PageSizeOf(string section, int length)
+    {
+        int whole = (length + SmallPage - 1) & -SmallPage;
+        return section switch
+        {
+            SummaryName => SummaryPage,
+            PreviewName => Math.Min(whole, PageSize),
+            _ => whole,
+        };
     }
 
     private void WritePage(int id, ReadOnlySpan<byte> stored, int start)
@@ -128,6 +143,7 @@ internal sealed class PagedWriter
         long address = _file.Position;
         byte[] map = WritePageMap(pageMap);
         WriteSystemPage(SystemPage.PageMapType, map);
+        _file.Write(new byte[address + SizeOfPageMap(map.Length) - _file.Position]);
         byte[] header = WriteHeader(address, pageMap, sectionMap);
         _file.Write(header);
         _file.Position = 0;
@@ -193,7 +209,7 @@ internal sealed class PagedWriter
         }
     }
 
-    // The map has its own page as well, whose size depends on the map.
+    // The map has its own page as well, whose size is stated before it is known.
     private byte[] WritePageMap(int number)
     {
         byte[] map = new byte[(_pages.Count + 1) * 8];
@@ -204,10 +220,12 @@ internal sealed class PagedWriter
         }
 
         BinaryPrimitives.WriteInt32LittleEndian(map.AsSpan(_pages.Count * 8), number);
-        int size = Aligned((2 * SystemPage.HeaderLength) + map.Length + 64);
-        BinaryPrimitives.WriteInt32LittleEndian(map.AsSpan((_pages.Count * 8) + 4), size);
+        BinaryPrimitives.WriteInt32LittleEndian(map.AsSpan((_pages.Count * 8) + 4), SizeOfPageMap(map.Length));
         return map;
     }
+
+    private static int SizeOfPageMap(int length) =>
+        Aligned((2 * SystemPage.HeaderLength) + length + (length / MapHeadroom) + MapHeadroom);
 
     private byte[] WriteHeader(long pageMapAddress, int pageMap, int sectionMap)
     {
@@ -241,13 +259,13 @@ internal sealed class PagedWriter
         fields[0x0C] = 3;
         void Put(int offset, string section) => BinaryPrimitives.WriteInt32LittleEndian(
             fields.AsSpan(offset), (int)_addresses.GetValueOrDefault(section));
-        Put(0x0D, "AcDb:Preview");
+        Put(0x0D, PreviewName);
         fields[0x11] = DwgContent.NumberOf(_content.Release);
 
         // That of the program: some readers ask it, not the one before, whether sizes have 64 bits.
         fields[0x12] = fields[0x0B];
         BinaryPrimitives.WriteInt16LittleEndian(fields.AsSpan(0x13), (short)_content.CodePage);
-        Put(0x20, "AcDb:SummaryInfo");
+        Put(0x20, SummaryName);
         Put(0x24, "AcDb:VBAProject");
         BinaryPrimitives.WriteInt32LittleEndian(fields.AsSpan(0x28), FileHeader.Start);
         Put(0x2C, "AcDb:AppInfo");

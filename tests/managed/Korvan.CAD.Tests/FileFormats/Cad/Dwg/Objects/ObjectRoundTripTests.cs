@@ -10,9 +10,9 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Dwg;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
-using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Xunit;
 
@@ -224,7 +224,7 @@ public class ObjectRoundTripTests
         CadDrawing drawing, CadAcadVersion version)
     {
         int release = DrawingRelease.Year(version);
-        DrawingIntegrity.Prepare(drawing, release);
+        DwgSaver.Prepare(drawing, release);
         DwgObjectWriter writer = new(drawing, release, Encoding.Latin1);
         writer.Write();
         DwgSource source = new([], "written", new LoadOptions());
