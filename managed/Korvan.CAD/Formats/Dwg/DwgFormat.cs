@@ -51,7 +51,7 @@ internal static class DwgFormat
             .. Releases.Select(static release => release.Template),
         ],
         Detect = Detect,
-        Read = static (data, name, _, options) => Read(data, name, options),
+        Read = static (source, _, options) => Read(source.All(), source.Name, options),
         Writers =
         [
             FormatWriter.For<IDrawingContent, DwgOptions>(OutputKind.Model, Write),
