@@ -1,4 +1,5 @@
 using System;
+using System.Globalization;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
@@ -6,10 +7,18 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 /// <summary>Releases of drawings, by their codes and as years.</summary>
 internal static class DrawingRelease
 {
+    private const int CodeLength = 6;
+
+    /// <summary>Gives the release of a code such as AC1015. The names of the enumeration would be found by reflection,
+    /// which takes longer than a small file.</summary>
     internal static CadAcadVersion Parse(string code)
     {
-        return Enum.TryParse(code.Trim(), true, out CadAcadVersion version) && Enum.IsDefined(version)
-            ? version
+        ReadOnlySpan<char> text = code.AsSpan().Trim();
+        bool isCode = text.Length == CodeLength && text.StartsWith("AC", StringComparison.OrdinalIgnoreCase);
+        return isCode && int.TryParse(text[2..], NumberStyles.None, CultureInfo.InvariantCulture, out int number)
+            && number is 1001 or 1002 or 1003 or 1004 or 1006 or 1009 or 1012 or 1014 or 1015 or 1018 or 1021 or 1024
+                or 1027 or 1032
+            ? (CadAcadVersion)number
             : CadAcadVersion.None;
     }
 
