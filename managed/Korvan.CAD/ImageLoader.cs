@@ -25,7 +25,7 @@ internal static class ImageLoader
     internal static Image Load(string filePath, LoadOptions loadOptions)
     {
         Verify.NotNull(loadOptions);
-        Image image = SourceFile.Read(filePath, source => Read(source, filePath, loadOptions));
+        Image image = SourceFile.Read(filePath, source => Read(source, loadOptions));
         image.FilePath = Path.GetFullPath(filePath);
         return image;
     }
@@ -36,7 +36,7 @@ internal static class ImageLoader
         Verify.NotNull(loadOptions);
         string name = fileName ?? StreamName;
         SourceWindow source = SourceFile.Open(stream, name);
-        Image image = Read(source, name, loadOptions);
+        Image image = Read(source, loadOptions);
         image.DataStreamContainer = new StreamContainer(stream, loadOptions.UnloadOnDispose);
         image.DataStart = source.Start;
         image.FilePath = fileName is null ? null : Path.GetFullPath(fileName);
@@ -63,10 +63,10 @@ internal static class ImageLoader
     }
 
     // What is not readable is told by as little of the source as that takes.
-    private static Content ReadContent(SourceWindow source)
+    private static FormatRecord Detect(SourceWindow source, out FileFormat format)
     {
         SourceFile.VerifyContent(source);
-        FileFormat format = FormatRegistry.Detect(source);
+        format = FormatRegistry.Detect(source);
         if (!FormatRegistry.CanRead(format))
         {
             string message = $"'{source.Name}' {FormatRegistry.Explain(source, format)}. "
@@ -74,23 +74,31 @@ internal static class ImageLoader
             throw format == FileFormat.Iges ? new IgesImageException(message) : new ImageLoadException(message);
         }
 
-        return new Content(source.All(), format);
-    }
-
-    private static Image Read(SourceWindow source, string name, LoadOptions options)
-    {
-        Content content;
-        using (Budget.Begin(null))
+        FormatRecord record = FormatRegistry.Find(format)!;
+        if (!record.ReadsInPieces)
         {
-            content = ReadContent(source);
+            source.All();
         }
 
-        using Budget budget = Budget.Begin(content.Data.Length);
-        object model = FormatRegistry.Find(content.Format)!.Read!(content.Data, name, content.Format, options);
-        Image image = Vectorized(ImageOf(model, content.Format), options);
+        return record;
+    }
+
+    private static Image Read(SourceWindow source, LoadOptions options)
+    {
+        FormatRecord record;
+        FileFormat format;
+        using (Budget.Begin(null))
+        {
+            record = Detect(source, out format);
+        }
+
+        using Budget budget = Budget.Begin(source.Length);
+        object model = record.Read!(source, format, options);
+        source.Leave();
+        Image image = Vectorized(ImageOf(model, format), options);
         image.LoadOptions = options;
-        image.SourceFormat = content.Format;
-        image.SourceLength = content.Data.Length;
+        image.SourceFormat = format;
+        image.SourceLength = source.Length;
         image.LoadedMemory = budget.Taken;
         return image;
     }
@@ -118,6 +126,4 @@ internal static class ImageLoader
             return new DxfImage(Vectorizer.Trace(raster.Pixels, raster.HorizontalResolution, how));
         }
     }
-
-    private sealed record Content(byte[] Data, FileFormat Format);
 }

@@ -4,72 +4,56 @@ using Korvan.CAD.Geometry;
 namespace Korvan.CAD.DisplayList;
 
 /// <content>Lines that reach far outside of the page. Devices have limits for coordinates, and a line whose end is
-/// moved has another direction; so they are clipped before, with the dashes of the whole line.</content>
+/// moved has another direction; so they are clipped before, with the dashes of the whole line. Dashed curves are
+/// flattened for that: devices would walk all their dashes.</content>
 internal sealed partial class DrawingList
 {
     private readonly PathBuffer _piece = new();
+    private readonly PathBuffer _whole = new();
     private Bounds2 _reach = Bounds2.Empty;
     private double _pieceOffset;
 
-    /// <summary>Adds the parts of a line that are in a box. False for a line that is whole in it, and for
-    /// curves.</summary>
-    private bool TryAddNear(in DisplayItem item, in Bounds2 box)
+    /// <summary>Adds the parts of a line that are in a box. False for a line that is whole in it, and for curves
+    /// without dashes.</summary>
+    private bool TryAddNear(in DisplayItem item, in NearBox near)
     {
-        ReadOnlySpan<PathVerb> verbs = VerbsOf(item);
-        if (verbs.Contains(PathVerb.Curve) || IsInside(item, box))
+        bool isKept = item.Dash < 0 && VerbsOf(item).Contains(PathVerb.Curve);
+        if (isKept || IsInside(item, near.Box))
         {
             return false;
         }
 
-        // The arrays grow while parts are added, so the line is read by index.
-        int at = item.FirstCoord;
-        double walked = item.DashOffset;
-        Vec2 start = default, last = default;
+        PathOf(item, _whole);
         _piece.Clear();
-        for (int i = item.FirstVerb; i < item.FirstVerb + item.VerbCount; i++)
+        foreach (FlatLine line in FlatLine.Of(_whole, near.Tolerance))
         {
-            PathVerb verb = _verbs[i];
-            Vec2 next = start;
-            if (verb != PathVerb.Close)
+            double walked = item.DashOffset;
+            for (int i = 0; i + 1 < line.Points.Length; i++)
             {
-                next = new Vec2(_coords[at], _coords[at + 1]);
-                at += 2;
+                AddNear(item, line.Points[i], line.Points[i + 1], near.Box, ref walked);
             }
 
-            if (verb == PathVerb.Move)
-            {
-                AddPiece(item);
-                (start, walked) = (next, item.DashOffset);
-            }
-            else
-            {
-                AddNear(item, last, next, box, ref walked);
-            }
-
-            last = next;
+            AddPiece(item);
         }
 
-        AddPiece(item);
         return true;
     }
 
     private bool IsInside(in DisplayItem item, in Bounds2 box)
     {
         ReadOnlySpan<double> c = CoordsOf(item);
-        int at = 0;
+        int count = 0;
         foreach (PathVerb verb in VerbsOf(item))
         {
-            if (verb == PathVerb.Close)
-            {
-                continue;
-            }
+            count += verb switch { PathVerb.Curve => 6, PathVerb.Close => 0, _ => 2 };
+        }
 
+        for (int at = 0; at < count; at += 2)
+        {
             if (!(c[at] >= box.MinX && c[at] <= box.MaxX && c[at + 1] >= box.MinY && c[at + 1] <= box.MaxY))
             {
                 return false;
             }
-
-            at += 2;
         }
 
         return true;

@@ -19,6 +19,11 @@ internal sealed partial class DrawingList
     internal delegate void PatternPainter(
         in DisplayItem item, PatternArea area, PathBuffer outline, Bounds2? clip);
 
+    /// <summary>The surroundings of a page that lines are clipped to.</summary>
+    /// <param name="Box">The box.</param>
+    /// <param name="Tolerance">The distance of chords from curves, in drawing units.</param>
+    internal readonly record struct NearBox(Bounds2 Box, double Tolerance);
+
     /// <summary>Adds an area that is filled with lines.</summary>
     internal void Pattern(PathBuffer outline, PatternArea area, in StrokeAttributes style)
     {
@@ -35,10 +40,10 @@ internal sealed partial class DrawingList
     /// <summary>Replaces the hatched areas by what a painter adds in their places, and lines that reach far outside of
     /// the page by their parts near it.</summary>
     /// <param name="painter">Draws areas.</param>
-    /// <param name="near">The box that lines are clipped to; null to keep them.</param>
-    internal void Resolve(PatternPainter painter, Bounds2? near)
+    /// <param name="near">What lines are clipped to; null to keep them.</param>
+    internal void Resolve(PatternPainter painter, NearBox? near)
     {
-        bool hasFarLines = near is Bounds2 box && !box.Contains(_reach);
+        bool hasFarLines = near is NearBox limits && !limits.Box.Contains(_reach);
         if (_patterns.Count == 0 && !hasFarLines)
         {
             return;
@@ -74,7 +79,7 @@ internal sealed partial class DrawingList
                 continue;
             }
 
-            if (hasFarLines && item.Kind == DisplayKind.Symbol && !near!.Value.Contains(BoxOf(item)))
+            if (hasFarLines && item.Kind == DisplayKind.Symbol && !near!.Value.Box.Contains(BoxOf(item)))
             {
                 Expand(_placements[item.Extra], near.Value, outline);
                 continue;

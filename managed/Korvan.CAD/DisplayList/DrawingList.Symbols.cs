@@ -213,9 +213,9 @@ internal sealed partial class DrawingList
         }
     }
 
-    /// <summary>Adds the items of a symbol where it is placed; lines that reach out of a box, by their parts in it.
+    /// <summary>Adds the items of a symbol where it is placed; lines that reach far out of the page, by their parts near it.
     /// </summary>
-    private void Expand(in Placement place, in Bounds2 box, PathBuffer path)
+    private void Expand(in Placement place, in NearBox near, PathBuffer path)
     {
         DrawingList from = Definitions;
         foreach (ref readonly DisplayItem item in from.ItemsOf(from._symbols[place.Symbol]))
@@ -226,7 +226,7 @@ internal sealed partial class DrawingList
                 path.Clear();
                 path.AppendMapped(from.VerbsOf(item), from.CoordsOf(item), place.Map);
                 Store(path, ref copy);
-                if (item.Kind == DisplayKind.Stroke && TryAddNear(copy, box))
+                if (item.Kind == DisplayKind.Stroke && TryAddNear(copy, near))
                 {
                     continue;
                 }

@@ -76,7 +76,7 @@ internal sealed partial class DrawingList
     internal Bounds2? ActiveClip => _clips.Count > 0 ? _clips[^1] : null;
 
     /// <summary>Kinds of entities that were met but have no picture, with their counts.</summary>
-    internal SortedDictionary<string, int> Skipped { get; } = new(StringComparer.Ordinal);
+    internal Dictionary<string, int> Skipped { get; } = new(StringComparer.Ordinal);
 
     internal ReadOnlySpan<PathVerb> VerbsOf(in DisplayItem item) => _verbs.AsSpan(item.FirstVerb, item.VerbCount);
 

@@ -22,6 +22,10 @@ internal sealed class FormatRecord
     /// read.</summary>
     internal FormatReader? Read { get; init; }
 
+    /// <summary>Gets whether the reader takes a source in pieces (<see cref="SourceWindow.ReadMore"/>), so that the
+    /// whole of it is never in memory.</summary>
+    internal bool ReadsInPieces { get; init; }
+
     /// <summary>Gets the writers, one for each class of options.</summary>
     internal FormatWriter[] Writers { get; init; } = [];
 
@@ -52,13 +56,12 @@ internal sealed class FormatRecord
     internal Func<SourceWindow, string?> Explain { get; init; } = static _ => null;
 }
 
-/// <summary>Reads a whole file.</summary>
-/// <param name="data">The bytes.</param>
-/// <param name="name">The name of the file in messages.</param>
+/// <summary>Reads a source.</summary>
+/// <param name="source">The source; all of it was read, unless <see cref="FormatRecord.ReadsInPieces"/>.</param>
 /// <param name="format">The format that was detected.</param>
 /// <param name="options">The load options.</param>
 /// <returns>A model: a drawing, a metafile, a building model or decoded pixels.</returns>
-internal delegate object FormatReader(byte[] data, string name, FileFormat format, LoadOptions options);
+internal delegate object FormatReader(SourceWindow source, FileFormat format, LoadOptions options);
 
 /// <summary>The destination of an image that is saved in its own format.</summary>
 /// <param name="Format">The format that the image was read from.</param>

@@ -9,6 +9,11 @@ internal readonly record struct Vec2(double X, double Y)
     /// <summary>This vector rotated by 90° counterclockwise.</summary>
     internal Vec2 Left => new(-Y, X);
 
+    // Written out: the comparison that records are given asks a comparer for each number.
+    public bool Equals(Vec2 other) => X == other.X && Y == other.Y;
+
+    public override int GetHashCode() => HashCode.Combine(X, Y);
+
     public static Vec2 operator +(Vec2 a, Vec2 b) => new(a.X + b.X, a.Y + b.Y);
 
     public static Vec2 operator -(Vec2 a, Vec2 b) => new(a.X - b.X, a.Y - b.Y);
@@ -43,6 +48,10 @@ internal readonly record struct Vec3(double X, double Y, double Z)
     internal Vec2 Xy => new(X, Y);
 
     internal bool IsFinite => double.IsFinite(X) && double.IsFinite(Y) && double.IsFinite(Z);
+
+    public bool Equals(Vec3 other) => X == other.X && Y == other.Y && Z == other.Z;
+
+    public override int GetHashCode() => HashCode.Combine(X, Y, Z);
 
     public static Vec3 operator +(Vec3 a, Vec3 b) => new(a.X + b.X, a.Y + b.Y, a.Z + b.Z);
 

@@ -5,14 +5,16 @@ using Korvan.CAD.CadExceptions;
 namespace Korvan.CAD.Input;
 
 /// <summary>The bytes of a source from its position on, read on demand: detection of the format reads only as much of a
-/// file as it needs, loading reads the rest.</summary>
+/// file as it needs, loading reads the rest, as a whole or in pieces.</summary>
 internal sealed class SourceWindow
 {
     /// <summary>The number of bytes that are read at first, within which are the signatures of all binary
     /// formats.</summary>
     internal const int SignatureLength = 4096;
 
-    private const int Block = 1 << 18; // a crossing a block, where the stream is Python's
+    /// <summary>The number of bytes that are read at once: a call of Python a block, where the stream is
+    /// Python's.</summary>
+    internal const int Block = 1 << 18;
 
     private readonly Stream? _stream;
     private readonly string _name;
@@ -42,6 +44,10 @@ internal sealed class SourceWindow
     /// <summary>Gets the position in its stream at which the source begins, in bytes; 0 for streams that are not
     /// seekable.</summary>
     internal long Start { get; }
+
+    /// <summary>Gets the number of bytes: what the source states, or what was read of it where that is
+    /// more.</summary>
+    internal int Length => Math.Max(_expected, _count);
 
     /// <summary>Gets the first bytes: enough for all signatures, or the whole of a short source.</summary>
     internal ReadOnlySpan<byte> FirstBytes => First(SignatureLength);
@@ -77,6 +83,43 @@ internal sealed class SourceWindow
         Fill(Array.MaxLength);
         Array.Resize(ref _data, _count);
         return _data;
+    }
+
+    /// <summary>Gets whether all bytes were read.</summary>
+    internal bool IsAtEnd => _isWhole;
+
+    /// <summary>Hands over what was read so far to a reader that goes on with <see cref="ReadMore"/>. A source that
+    /// does not state its length is read to its end.</summary>
+    /// <param name="count">The number of bytes.</param>
+    /// <returns>An array that begins with them.</returns>
+    internal byte[] TakeStart(out int count)
+    {
+        Fill(_expected == 0 ? Array.MaxLength : SignatureLength);
+        byte[] start = _data;
+        (_data, count) = ([], _count);
+        return start;
+    }
+
+    /// <summary>Reads on behind what was handed over.</summary>
+    /// <param name="target">The array.</param>
+    /// <param name="start">Where the bytes go in it, as many as it has room for and are read at once.</param>
+    /// <returns>The number of bytes; 0 at the end of the source.</returns>
+    internal int ReadMore(byte[] target, int start)
+    {
+        int read = _isWhole ? 0 : _stream!.Read(target, start, Math.Min(target.Length - start, Block));
+        VerifyLength((long)_count + read, _name);
+        _count += read;
+        _isWhole = read == 0;
+        return read;
+    }
+
+    /// <summary>Goes to the end of the source, as reading the whole does.</summary>
+    internal void Leave()
+    {
+        if (!_isWhole && _stream is { CanSeek: true })
+        {
+            _stream.Position = Start + Length;
+        }
     }
 
     private void Fill(int wanted)

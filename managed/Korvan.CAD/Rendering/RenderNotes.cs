@@ -1,5 +1,5 @@
+using System;
 using System.Collections.Generic;
-using System.Linq;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Input;
@@ -20,10 +20,12 @@ internal sealed class RenderNotes
 
     internal void AddSkipped(DrawingList list)
     {
-        foreach ((string kind, int count) in list.Skipped)
+        string[] kinds = [.. list.Skipped.Keys];
+        Array.Sort(kinds, StringComparer.Ordinal);
+        foreach (string kind in kinds)
         {
-            bool picture = kind.EndsWith(DrawingList.MissingFile, System.StringComparison.Ordinal);
-            Add(picture ? RenderErrorCode.MissingPicture : RenderErrorCode.EntityNotDrawn, kind, count);
+            bool picture = kind.EndsWith(DrawingList.MissingFile, StringComparison.Ordinal);
+            Add(picture ? RenderErrorCode.MissingPicture : RenderErrorCode.EntityNotDrawn, kind, list.Skipped[kind]);
         }
     }
 
@@ -31,7 +33,9 @@ internal sealed class RenderNotes
     internal void SetFonts(TextEngine engine)
     {
         _missingGlyphs = engine.UnknownGlyphs;
-        Fonts = [.. engine.Replaced.Select(static font => $"{font.Key}: {font.Value}")];
+        string[] names = [.. engine.Replaced.Keys];
+        Array.Sort(names, StringComparer.OrdinalIgnoreCase);
+        Fonts = Array.ConvertAll(names, name => $"{name}: {engine.Replaced[name]}");
     }
 
     /// <summary>Gets the fonts that were replaced, each with what it was replaced by.</summary>

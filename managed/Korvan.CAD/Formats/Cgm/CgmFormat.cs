@@ -21,7 +21,7 @@ internal static class CgmFormat
         Name = "CGM",
         Formats = [FileFormat.Cgm],
         Detect = static source => IsMetafile(source.FirstBytes) ? FileFormat.Cgm : FileFormat.Undefined,
-        Read = static (data, name, _, options) => CgmFile.Load(data, name, options),
+        Read = static (source, _, options) => CgmFile.Load(source.All(), source.Name, options),
         Writers = [Copying(PageWriters.For<CgmOptions>(Draw))],
         OwnOptions = static (content, _) =>
             content is IMetafileContent metafile ? new CgmOptions { Encoding = metafile.File.Encoding } : null,

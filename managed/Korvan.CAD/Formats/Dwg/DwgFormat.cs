@@ -46,7 +46,7 @@ internal static class DwgFormat
         Name = "DWG",
         Formats = AllFormats(),
         Detect = Detect,
-        Read = static (data, name, _, options) => Read(data, name, options),
+        Read = static (source, _, options) => Read(source.All(), source.Name, options),
         Writers =
         [
             FormatWriter.For<IDrawingContent, DwgOptions>(OutputKind.Model, Write),

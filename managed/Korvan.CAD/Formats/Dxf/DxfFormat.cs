@@ -27,7 +27,8 @@ internal static class DxfFormat
             FileFormat.DxfCadR2010, FileFormat.DxfCadR2013,
         ],
         Detect = static source => source.Search(Detect),
-        Read = static (data, name, _, options) => new DxfReader(data, name, options).Read(),
+        Read = static (source, _, options) => new DxfReader(source, options).Read(),
+        ReadsInPieces = true,
         Writers =
         [
             FormatWriter.For<IDrawingContent, DxfOptions>(OutputKind.Model, Write),

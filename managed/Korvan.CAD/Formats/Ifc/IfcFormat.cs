@@ -23,7 +23,7 @@ internal static class IfcFormat
         Name = "IFC",
         Formats = [FileFormat.IFC2X3, FileFormat.IFC4],
         Detect = Detect,
-        Read = static (data, name, _, options) => new IfcReader(data, name, options).Read(),
+        Read = static (source, _, options) => new IfcReader(source.All(), source.Name, options).Read(),
         Writers =
         [
             FormatWriter.For<IBuildingContent, IfcOptions>(OutputKind.Model, static (content, options, _, output) =>

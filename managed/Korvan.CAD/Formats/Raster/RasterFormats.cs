@@ -18,8 +18,8 @@ internal static class RasterFormats
         Name = codec.Name,
         Formats = [codec.Format],
         Detect = source => codec.Matches(source.FirstBytes) ? codec.Format : FileFormat.Undefined,
-        Read = (data, name, _, options) => codec.Decode(
-            data, name, options.IgnoreErrors,
+        Read = (source, _, options) => codec.Decode(
+            source.All(), source.Name, options.IgnoreErrors,
             options.DataBackgroundColor.IsEmpty ? null : options.DataBackgroundColor.ToArgb()),
         Writers =
         [

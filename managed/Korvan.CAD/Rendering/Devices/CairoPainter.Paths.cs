@@ -14,7 +14,7 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>Returns whether a path reaches into the rows that are painted.</summary>
     private bool Crosses(in DisplayItem item, double border)
     {
-        ReadOnlySpan<double> c = _list.CoordsOf(item);
+        ReadOnlySpan<double> c = List.CoordsOf(item);
         int count = CoordCount(item);
         double top = double.MaxValue;
         double bottom = double.MinValue;
@@ -31,7 +31,7 @@ internal sealed unsafe partial class CairoPainter
     private int CoordCount(in DisplayItem item)
     {
         int count = 0;
-        foreach (PathVerb verb in _list.VerbsOf(item))
+        foreach (PathVerb verb in List.VerbsOf(item))
         {
             count += verb switch { PathVerb.Curve => 6, PathVerb.Close => 0, _ => 2 };
         }
@@ -42,8 +42,8 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>The box of a path on the page, and whether the path is that box.</summary>
     private Bounds2 BoxOf(in DisplayItem item, out bool isBox)
     {
-        ReadOnlySpan<PathVerb> verbs = _list.VerbsOf(item);
-        ReadOnlySpan<double> c = _list.CoordsOf(item);
+        ReadOnlySpan<PathVerb> verbs = List.VerbsOf(item);
+        ReadOnlySpan<double> c = List.CoordsOf(item);
         isBox = verbs.Length is 4 or 5 or 6 && verbs[0] == PathVerb.Move
             && verbs[1..4].IndexOfAnyExcept(PathVerb.Line) < 0 && verbs[4..].IndexOf(PathVerb.Move) < 0;
         Bounds2 box = Bounds2.Empty;
@@ -68,7 +68,7 @@ internal sealed unsafe partial class CairoPainter
     {
         UseCairo();
         Cairo.NewPath(_cr);
-        Trace(_list.VerbsOf(item), _list.CoordsOf(item), _map);
+        Trace(List.VerbsOf(item), List.CoordsOf(item), _map);
     }
 
     private void Trace(ReadOnlySpan<PathVerb> verbs, ReadOnlySpan<double> c, in Affine2 map)

@@ -20,7 +20,7 @@ internal readonly record struct ClipArea(Bounds2 Box, bool IsBox);
 /// Plays a list on a cairo context. Coordinates are mapped here, in double precision: cairo keeps 24.8 fixed point,
 /// and drawings lie at map coordinates of seven digits.
 /// </summary>
-internal sealed unsafe partial class CairoPainter
+internal sealed unsafe partial class CairoPainter : ItemPlayer
 {
     /// <summary>Far outside of any page; keeps coordinates inside cairo's fixed point range.</summary>
     private const double FarAway = 4_000_000;
@@ -55,7 +55,6 @@ internal sealed unsafe partial class CairoPainter
     private readonly nint _cr;
     private readonly TextEngine _engine;
     private bool _skipsStrokes;
-    private DrawingList _list;
     private readonly PaintSettings _settings;
     private readonly Affine2 _map;
     private readonly double _scale;
@@ -72,12 +71,12 @@ internal sealed unsafe partial class CairoPainter
     private double _dashOffset;
 
     private CairoPainter(nint cr, TextEngine engine, DrawingList list, in PaintSettings settings, PixelTarget target)
+        : base(list)
     {
         _target = target;
         _rows = target.Rows;
         _cr = cr;
         _engine = engine;
-        _list = list;
         _settings = settings;
         _map = settings.ToDevice;
         _scale = Math.Sqrt(Math.Abs(_map.Determinant));
@@ -119,14 +118,9 @@ internal sealed unsafe partial class CairoPainter
     private void DrawItems(DrawingList list)
     {
         // The indices of dashes are those of the list.
-        _list = list;
         _dash = int.MaxValue;
         ClearDash();
-        foreach (ref readonly DisplayItem item in list.Items)
-        {
-            Budget.Check();
-            Draw(item);
-        }
+        PlayItems(list);
     }
 
     private void Start()
@@ -155,35 +149,7 @@ internal sealed unsafe partial class CairoPainter
         }
     }
 
-    private void Draw(in DisplayItem item)
-    {
-        switch (item.Kind)
-        {
-            case DisplayKind.Stroke:
-                Stroke(item);
-                break;
-            case DisplayKind.Fill:
-                Fill(item);
-                break;
-            case DisplayKind.Text:
-                Text(item);
-                break;
-            case DisplayKind.Image:
-                Image(item);
-                break;
-            case DisplayKind.PushClip:
-                PushClip(item);
-                break;
-            case DisplayKind.PopClip:
-                UseCairo();
-                Cairo.Restore(_cr);
-                ForgetState();
-                _clip = _clips.Pop();
-                break;
-        }
-    }
-
-    private void Fill(in DisplayItem item)
+    protected override void PlayFill(in DisplayItem item)
     {
         if (!Crosses(item, 0))
         {
@@ -195,7 +161,7 @@ internal sealed unsafe partial class CairoPainter
         Cairo.SetFillRule(_cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
         if (item.Extra >= 0)
         {
-            FillGradient(_list.GradientOf(item));
+            FillGradient(List.GradientOf(item));
             return;
         }
 
@@ -231,9 +197,9 @@ internal sealed unsafe partial class CairoPainter
         _hasColor = false;
     }
 
-    private void Text(in DisplayItem item)
+    protected override void PlayText(in DisplayItem item)
     {
-        TextRun run = _list.TextOf(item);
+        TextRun run = List.TextOf(item);
         Affine2 toDevice = _map * run.Matrix;
         double area = Math.Abs(toDevice.Determinant);
         if (run.IsHidden)
@@ -297,10 +263,10 @@ internal sealed unsafe partial class CairoPainter
         DrawDirectly(BarVerbs, ends, toDevice, Math.Max(1, height), color.WithAlpha((byte)alpha));
     }
 
-    private void Image(in DisplayItem item)
+    protected override void PlayImage(in DisplayItem item)
     {
         UseCairo();
-        PlacedImage image = _list.ImageOf(item);
+        PlacedImage image = List.ImageOf(item);
         Affine2 place = _map * image.Matrix;
         double shownWidth = new Vec2(place.Xx, place.Yx).Length;
         double shownHeight = new Vec2(place.Xy, place.Yy).Length;
@@ -340,7 +306,7 @@ internal sealed unsafe partial class CairoPainter
         _hasColor = false;
     }
 
-    private void PushClip(in DisplayItem item)
+    protected override void BeginClip(in DisplayItem item)
     {
         UseCairo();
         _clips.Push(_clip);
@@ -350,6 +316,14 @@ internal sealed unsafe partial class CairoPainter
         Trace(item);
         Cairo.SetFillRule(_cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
         Cairo.Clip(_cr);
+    }
+
+    protected override void EndClip()
+    {
+        UseCairo();
+        Cairo.Restore(_cr);
+        ForgetState();
+        _clip = _clips.Pop();
     }
 
     private static bool IsNear(double x, double y) => Math.Abs(x) < FarAway && Math.Abs(y) < FarAway;

@@ -14,7 +14,7 @@ internal readonly record struct DeviceStroke(Rgba Color, double Width, double[]?
 /// Goes through a page and hands its items on in device units, for formats that have primitives of their own. What a
 /// format lacks is done here with what it has, and noted: gradients as one colour, texts as outlines.
 /// </summary>
-internal abstract class PagePlayer
+internal abstract class PagePlayer : ItemPlayer
 {
     /// <summary>Dashes shorter than this in device units melt into a line.</summary>
     private const double ShortestPeriod = 0.75;
@@ -23,17 +23,16 @@ internal abstract class PagePlayer
     private readonly PathBuffer _path = new();
     private readonly Page _page;
     private readonly double _scale;
-    private DrawingList _list;
     private Affine2 _map;
 
     /// <summary>A player; formats of whole numbers have device units that are parts of those of the page.</summary>
     protected PagePlayer(TextEngine engine, Page page, RenderNotes notes, double scale = 1)
+        : base(page.List)
     {
         Engine = engine;
         Notes = notes;
         _page = page;
         _scale = scale;
-        _list = page.List;
         _map = new Affine2(scale, 0, 0, scale, 0, 0) * page.Settings.ToDevice;
     }
 
@@ -68,7 +67,7 @@ internal abstract class PagePlayer
             PushClip(_path, evenOdd: false);
         }
 
-        PlayList();
+        PlayItems(_page.List);
         if (Settings.Clip is not null)
         {
             PopClip();
@@ -76,8 +75,8 @@ internal abstract class PagePlayer
 
         if (_page.Overlay is not null)
         {
-            (_list, _map) = (_page.Overlay, new Affine2(_scale, 0, 0, _scale, 0, 0));
-            PlayList();
+            _map = new Affine2(_scale, 0, 0, _scale, 0, 0);
+            PlayItems(_page.Overlay);
         }
     }
 
@@ -160,43 +159,33 @@ internal abstract class PagePlayer
         _path.Close();
     }
 
-    private void PlayList()
+    protected override void PlayStroke(in DisplayItem item) => Stroke(Trace(item), StrokeOf(item));
+
+    protected override void PlayFill(in DisplayItem item)
     {
-        foreach (ref readonly DisplayItem item in _list.Items)
+        if (item.Extra < 0)
         {
-            Budget.Check();
-            switch (item.Kind)
-            {
-                case DisplayKind.Stroke:
-                    Stroke(Trace(item), StrokeOf(item));
-                    break;
-                case DisplayKind.Fill when item.Extra >= 0:
-                    Gradient gradient = _list.GradientOf(item);
-                    FillGradient(Trace(item), gradient, _map * gradient.Matrix, item.EvenOdd);
-                    break;
-                case DisplayKind.Fill:
-                    Fill(Trace(item), item.Color, item.EvenOdd);
-                    break;
-                case DisplayKind.Text:
-                    PlayText(item);
-                    break;
-                case DisplayKind.Image:
-                    PlacedImage image = _list.ImageOf(item);
-                    Image(image, _map * image.Matrix);
-                    break;
-                case DisplayKind.PushClip:
-                    PushClip(Trace(item), item.EvenOdd);
-                    break;
-                case DisplayKind.PopClip:
-                    PopClip();
-                    break;
-            }
+            Fill(Trace(item), item.Color, item.EvenOdd);
+            return;
         }
+
+        Gradient gradient = List.GradientOf(item);
+        FillGradient(Trace(item), gradient, _map * gradient.Matrix, item.EvenOdd);
     }
 
-    private void PlayText(in DisplayItem item)
+    protected override void PlayImage(in DisplayItem item)
     {
-        TextRun run = _list.TextOf(item);
+        PlacedImage image = List.ImageOf(item);
+        Image(image, _map * image.Matrix);
+    }
+
+    protected override void BeginClip(in DisplayItem item) => PushClip(Trace(item), item.EvenOdd);
+
+    protected override void EndClip() => PopClip();
+
+    protected override void PlayText(in DisplayItem item)
+    {
+        TextRun run = List.TextOf(item);
         Affine2 matrix = _map * run.Matrix;
         if (!run.IsHidden && Math.Abs(matrix.Determinant) > SmallestText * SmallestText * _scale * _scale)
         {
@@ -207,7 +196,7 @@ internal abstract class PagePlayer
     private DeviceStroke StrokeOf(in DisplayItem item)
     {
         double width = Settings.WidthOf(item) * _scale;
-        StrokeStyle style = _list.StyleOf(item) ?? Settings.StrokeStyle;
+        StrokeStyle style = List.StyleOf(item) ?? Settings.StrokeStyle;
         if (item.Dash < 0)
         {
             return new DeviceStroke(item.Color, width, null, 0, style);
@@ -215,7 +204,7 @@ internal abstract class PagePlayer
 
         double scale = Math.Sqrt(Math.Abs(_map.Determinant));
         double period = 0;
-        double[] lengths = Array.ConvertAll(_list.DashOf(item), length => length * scale);
+        double[] lengths = Array.ConvertAll(List.DashOf(item), length => length * scale);
         Array.ForEach(lengths, length => period += length);
         return period < ShortestPeriod * _scale
             ? new DeviceStroke(item.Color, width, null, 0, style)
@@ -225,7 +214,7 @@ internal abstract class PagePlayer
     private PathBuffer Trace(in DisplayItem item)
     {
         _path.Clear();
-        _path.AppendMapped(_list.VerbsOf(item), _list.CoordsOf(item), _map);
+        _path.AppendMapped(List.VerbsOf(item), List.CoordsOf(item), _map);
         return _path;
     }
 }

@@ -18,6 +18,9 @@ internal sealed class PatternDetail
     /// <summary>How far lines may reach outside of a page, in sizes of the page.</summary>
     private const double FarPages = 2;
 
+    /// <summary>The distance of chords from curves, in device units.</summary>
+    private const double Tolerance = 0.1;
+
     private readonly DrawingList _list;
     private readonly PaintSettings _settings;
     private readonly Bounds2? _window;
@@ -46,14 +49,16 @@ internal sealed class PatternDetail
         }
 
         var detail = new PatternDetail(list, settings, window);
-        list.Resolve(detail.Draw, window is Bounds2 page ? Near(page) : null);
+        list.Resolve(detail.Draw, window is Bounds2 page ? detail.Near(page) : null);
     }
 
-    private static Bounds2? Near(in Bounds2 page)
+    private DrawingList.NearBox? Near(in Bounds2 page)
     {
         double margin = FarPages * (page.Width + page.Height);
         return page.IsEmpty || !double.IsFinite(margin) ? null
-            : Bounds2.Of(page.MinX - margin, page.MinY - margin, page.MaxX + margin, page.MaxY + margin);
+            : new DrawingList.NearBox(
+                Bounds2.Of(page.MinX - margin, page.MinY - margin, page.MaxX + margin, page.MaxY + margin),
+                Tolerance * _settings.Coarseness / _scale);
     }
 
     private void Draw(in DisplayItem item, PatternArea area, PathBuffer outline, Bounds2? clip)

@@ -20,7 +20,7 @@ internal sealed class PdfFonts(PdfFile file)
     private const int MaxGlyphs = 0x10000;
     private const int MaxName = 100;
 
-    private readonly Dictionary<nint, PdfFont?> _fonts = [];
+    private readonly Dictionary<long, PdfFont?> _fonts = [];
     private readonly List<PdfFont> _embedded = [];
 
     /// <summary>The font of a face; null where it cannot be embedded.</summary>

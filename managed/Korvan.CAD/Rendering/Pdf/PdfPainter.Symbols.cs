@@ -22,11 +22,12 @@ internal sealed partial class PdfPainter
 
     /// <summary>Creates a painter of a form for the page of another.</summary>
     private PdfPainter(PdfPainter page, DrawingList list, in Affine2 map)
+        : base(list)
     {
         (_document, _engine, _page, _unit, _settings) =
             (page._document, page._engine, page._page, page._unit, page._settings);
         (_decimals, _precision, _farthest) = (page._decimals, page._precision, page._farthest);
-        (_list, _map, _scale) = (list, map, page._scale);
+        (_map, _scale) = (map, page._scale);
         (_out, _resources, _isForm) = (new PdfBuffer(), new PdfResources(), true);
         _state.Clip = Bounds2.Of(
             double.NegativeInfinity, double.NegativeInfinity, double.PositiveInfinity, double.PositiveInfinity);
@@ -44,9 +45,10 @@ internal sealed partial class PdfPainter
         }
     }
 
-    private void PlaceSymbol(in Placement place)
+    protected override void PlaySymbol(in DisplayItem item)
     {
-        DrawingList definitions = _list.Definitions;
+        Placement place = List.PlacementOf(item);
+        DrawingList definitions = List.Definitions;
         Symbol symbol = definitions.Symbols[place.Symbol];
         if (!_forms.TryGetValue(place.Symbol, out PdfForm? form))
         {
@@ -113,7 +115,7 @@ internal sealed partial class PdfPainter
         Affine2 toForm = (_map with { X0 = 0, Y0 = 0 }) * new Affine2(1, 0, 0, 1, -center.X, -center.Y);
         var painter = new PdfPainter(this, definitions, toForm);
         painter._out.Raw("0 g 0 G 0 J 0 j 10 M []0 d 0 Tr\n"u8);
-        painter.PaintRange(definitions.ItemsOf(symbol));
+        painter.PlayItems(definitions, definitions.ItemsOf(symbol));
         painter.EndList();
         Bounds2 covered = painter._covered;
         double reach = Math.Max(
@@ -126,19 +128,10 @@ internal sealed partial class PdfPainter
     /// <summary>Draws the items of a symbol where it is placed.</summary>
     private void Expand(DrawingList definitions, Symbol symbol, in Affine2 place)
     {
-        (DrawingList list, Affine2 map) = (_list, _map);
-        (_list, _map) = (definitions, _map * place);
-        PaintRange(definitions.ItemsOf(symbol));
-        (_list, _map) = (list, map);
-    }
-
-    private void PaintRange(ReadOnlySpan<DisplayItem> items)
-    {
-        foreach (ref readonly DisplayItem item in items)
-        {
-            Budget.Check();
-            Draw(item);
-        }
+        Affine2 map = _map;
+        _map *= place;
+        PlayItems(definitions, definitions.ItemsOf(symbol));
+        _map = map;
     }
 
     /// <summary>Notes what the content of a form covers.</summary>

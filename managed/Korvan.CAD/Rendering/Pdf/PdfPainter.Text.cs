@@ -23,9 +23,9 @@ internal sealed partial class PdfPainter
     private readonly PathBuffer _outline = new();
     private bool _inText;
 
-    private void Text(in DisplayItem item)
+    protected override void PlayText(in DisplayItem item)
     {
-        TextRun run = _list.TextOf(item);
+        TextRun run = List.TextOf(item);
         Affine2 map = _map * run.Matrix;
         if (!(Math.Abs(map.Determinant) > SmallestText) || !double.IsFinite(map.X0 + map.Y0))
         {

@@ -10,7 +10,7 @@ namespace Korvan.CAD.Rendering.Pdf;
 /// Writes display lists as the content of a page. Operators of the state are written where the state changes, and
 /// strokes of the same state follow each other in one path. What lies outside of the page or of a clip is left out.
 /// </summary>
-internal sealed partial class PdfPainter
+internal sealed partial class PdfPainter : ItemPlayer
 {
     /// <summary>Dashes shorter than this in points melt into a line.</summary>
     private const double ShortestPeriod = 0.75;
@@ -26,7 +26,6 @@ internal sealed partial class PdfPainter
     private readonly Affine2 _toPage;
     private readonly double _unit;
     private PdfGraphicsState _state = new();
-    private DrawingList _list;
     private readonly PaintSettings _settings;
     private Affine2 _map;
     private double _scale;
@@ -35,6 +34,7 @@ internal sealed partial class PdfPainter
     /// <summary>Creates a painter; a unit of the content of the page is so many points.</summary>
     internal PdfPainter(PdfDocument document, PdfStream stream, TextEngine engine, Page page, PdfResources resources,
         double unit)
+        : base(page.List)
     {
         _document = document;
         _stream = stream;
@@ -43,7 +43,6 @@ internal sealed partial class PdfPainter
         _page = page;
         _resources = resources;
         _unit = unit;
-        _list = page.List;
         _settings = page.Settings;
         _toPage = new Affine2(1 / unit, 0, 0, -1 / unit, 0, page.Height / unit);
         _decimals = DecimalsOf(Math.Max(page.Width, page.Height) / unit);
@@ -69,23 +68,23 @@ internal sealed partial class PdfPainter
         SetMap(_settings.ToDevice);
         if (_page.Replay is null)
         {
-            PaintItems(_page.List);
+            PlayItems(_page.List);
         }
         else
         {
-            _page.Replay(PaintItems);
+            _page.Replay(PlayItems);
         }
 
         EndList();
         if (clip is not null)
         {
-            PopClip();
+            EndClip();
         }
 
         if (_page.Overlay is not null)
         {
             SetMap(Affine2.Identity);
-            PaintItems(_page.Overlay);
+            PlayItems(_page.Overlay);
             EndList();
         }
     }
@@ -96,17 +95,11 @@ internal sealed partial class PdfPainter
         _scale = Math.Sqrt(Math.Abs(_map.Determinant));
     }
 
-    private void PaintItems(DrawingList list)
+    protected override void EndItem()
     {
-        _list = list;
-        foreach (ref readonly DisplayItem item in list.Items)
+        if (_out.Count >= PdfStream.BlockSize)
         {
-            Budget.Check();
-            Draw(item);
-            if (_out.Count >= PdfStream.BlockSize)
-            {
-                _stream?.Flush();
-            }
+            _stream?.Flush();
         }
     }
 
@@ -116,47 +109,19 @@ internal sealed partial class PdfPainter
         EndObject();
     }
 
-    private void Draw(in DisplayItem item)
-    {
-        switch (item.Kind)
-        {
-            case DisplayKind.Stroke:
-                Stroke(item);
-                break;
-            case DisplayKind.Fill:
-                Fill(item);
-                break;
-            case DisplayKind.Text:
-                Text(item);
-                break;
-            case DisplayKind.Image:
-                Image(item);
-                break;
-            case DisplayKind.Symbol:
-                PlaceSymbol(_list.PlacementOf(item));
-                break;
-            case DisplayKind.PushClip:
-                PushClip(item);
-                break;
-            case DisplayKind.PopClip:
-                PopClip();
-                break;
-        }
-    }
-
-    private void Stroke(in DisplayItem item)
+    protected override void PlayStroke(in DisplayItem item)
     {
         double width = _settings.WidthOf(item) / _unit;
-        StrokeStyle style = _list.StyleOf(item) ?? _settings.StrokeStyle;
+        StrokeStyle style = List.StyleOf(item) ?? _settings.StrokeStyle;
         double reach = style.Join == LineJoins.Miter ? style.MiterLimit : 1.5;
-        if (!Map(_list.VerbsOf(item), _list.CoordsOf(item), _map) || !IsVisible(width * reach))
+        if (!Map(List.VerbsOf(item), List.CoordsOf(item), _map) || !IsVisible(width * reach))
         {
             return;
         }
 
         if (IsFar && item.Dash < 0)
         {
-            ClipLines(_list.VerbsOf(item), _list.CoordsOf(item), width * reach);
+            ClipLines(List.VerbsOf(item), List.CoordsOf(item), width * reach);
         }
 
         SetLayer(item.Layer);
@@ -234,7 +199,7 @@ internal sealed partial class PdfPainter
     private bool IsDashVisible(in DisplayItem item)
     {
         double period = 0;
-        foreach (double length in _list.DashOf(item))
+        foreach (double length in List.DashOf(item))
         {
             period += length;
         }
@@ -247,7 +212,7 @@ internal sealed partial class PdfPainter
         _out.Raw((byte)'[');
         if (dash >= 0)
         {
-            foreach (double length in _list.DashOf(item))
+            foreach (double length in List.DashOf(item))
             {
                 _out.Real(length * _scale).Raw((byte)' ');
             }
@@ -257,9 +222,9 @@ internal sealed partial class PdfPainter
         (_state.Dash, _state.DashOffset) = (dash, item.DashOffset);
     }
 
-    private void Fill(in DisplayItem item)
+    protected override void PlayFill(in DisplayItem item)
     {
-        if (!Map(_list.VerbsOf(item), _list.CoordsOf(item), _map) || !IsVisible(0))
+        if (!Map(List.VerbsOf(item), List.CoordsOf(item), _map) || !IsVisible(0))
         {
             return;
         }
@@ -268,7 +233,7 @@ internal sealed partial class PdfPainter
         EndObject();
         if (item.Extra >= 0)
         {
-            FillGradient(_list.GradientOf(item), item.EvenOdd);
+            FillGradient(List.GradientOf(item), item.EvenOdd);
             return;
         }
 
@@ -310,9 +275,9 @@ internal sealed partial class PdfPainter
         _out.Raw("/S"u8).Int(shading.Shading).Raw(" sh Q\n"u8);
     }
 
-    private void Image(in DisplayItem item)
+    protected override void PlayImage(in DisplayItem item)
     {
-        PlacedImage image = _list.ImageOf(item);
+        PlacedImage image = List.ImageOf(item);
         Affine2 map = _map * image.Matrix;
         Bounds2 box = Bounds2.Empty;
         for (int corner = 0; corner < 4; corner++)
@@ -353,9 +318,9 @@ internal sealed partial class PdfPainter
         _state.Clip = box.Clip(_state.Clip);
     }
 
-    private void PushClip(in DisplayItem item)
+    protected override void BeginClip(in DisplayItem item)
     {
-        bool holds = Map(_list.VerbsOf(item), _list.CoordsOf(item), _map);
+        bool holds = Map(List.VerbsOf(item), List.CoordsOf(item), _map);
         SetLayer(-1);
         EndObject();
         Save();
@@ -374,7 +339,7 @@ internal sealed partial class PdfPainter
         }
     }
 
-    private void PopClip()
+    protected override void EndClip()
     {
         SetLayer(-1);
         EndObject();
@@ -421,7 +386,7 @@ internal sealed partial class PdfPainter
     /// <summary>Content belongs to one layer at a time; -1 is none.</summary>
     private void SetLayer(int given)
     {
-        int layer = given < _list.Layers.Count ? given : -1;
+        int layer = given < List.Layers.Count ? given : -1;
         if (layer == _layer)
         {
             return;
@@ -433,7 +398,7 @@ internal sealed partial class PdfPainter
             _ = _layer >= 0 ? _out.Raw("EMC\n"u8) : _out;
             if (layer >= 0)
             {
-                int number = _document.Layers.Of(_list.Layers[layer], _list.IsPrinted(layer));
+                int number = _document.Layers.Of(List.Layers[layer], List.IsPrinted(layer));
                 _resources.Use(PdfResources.Layer, number);
                 _out.Raw("/OC/L"u8).Int(number).Raw(" BDC\n"u8);
             }

@@ -35,7 +35,7 @@ internal sealed class PageSource
     private readonly TextEngine _engine;
     private readonly DeviceKind _device;
     private readonly List<ScenePage> _layouts;
-    private readonly string _format;
+    private readonly FileFormat _format;
     private double? _sharedScale;
 
     internal PageSource(
@@ -44,7 +44,7 @@ internal sealed class PageSource
         _engine = engine;
         _device = device;
         _options = new ExportOptions(context, device, unitsPerInch);
-        _format = context.Options.TargetFormat.ToString();
+        _format = context.Options.TargetFormat;
         _scene = scene;
         _layouts = scene.Choose(_options.Layouts);
     }

@@ -49,7 +49,7 @@ internal sealed record FontUse(nint Font, nint Face, string Name, Affine2 Matrix
 /// </summary>
 internal sealed unsafe class FontUses : System.IDisposable
 {
-    private readonly Dictionary<nint, FontUse> _uses = [];
+    private readonly Dictionary<long, FontUse> _uses = [];
     private readonly List<NativeHandle> _fonts = [];
 
     internal FontUse Of(nint font)

@@ -43,11 +43,11 @@ internal sealed unsafe class TextEngine : IDisposable
     private readonly List<NativeHandle> _descriptions = [];
     private readonly List<FontSpec> _specs = [];
     private readonly List<double> _capRatios = [];
-    private readonly Dictionary<FontSpec, int> _fonts = [];
+    private readonly Dictionary<FontSpec, int> _fonts = new(FontSpec.ByValue);
     private readonly List<Dictionary<string, ShapedLine>> _lines = [];
     private readonly List<FontUse> _faces = [];
     private readonly List<Dictionary<string, StrokeLine?>> _strokes = [];
-    private readonly SortedDictionary<string, string> _replaced = new(StringComparer.OrdinalIgnoreCase);
+    private readonly Dictionary<string, string> _replaced = new(StringComparer.OrdinalIgnoreCase);
     private readonly FontUses _uses = new();
     private readonly StrokeFaces _strokeFaces;
     private readonly GlyphRendering _look;
@@ -158,7 +158,7 @@ internal sealed unsafe class TextEngine : IDisposable
     internal List<Vec2[]>? FindSymbol(string name) => _strokeFaces.FindSymbol(name);
 
     /// <summary>Gets the fonts that drawings name and that were replaced, with what they were replaced by.</summary>
-    internal IReadOnlyDictionary<string, string> Replaced => _replaced;
+    internal Dictionary<string, string> Replaced => _replaced;
 
     /// <summary>Returns the font that shows the outlines of another one: that one itself, unless it is drawn by strokes
     /// or made as wide as the one that it replaces.</summary>

@@ -9,7 +9,7 @@ namespace Korvan.CAD.Tests.Rendering;
 /// <summary>Lines that reach far outside of the page are clipped, with their direction and their dashes.</summary>
 public class FarLineTests
 {
-    private static readonly Bounds2 Near = Bounds2.Of(-100, -100, 100, 100);
+    private static readonly DrawingList.NearBox Near = new(Bounds2.Of(-100, -100, 100, 100), 0.1);
 
     [Fact]
     public void Lines_keep_their_direction_and_the_phase_of_their_dashes()
@@ -64,6 +64,26 @@ public class FarLineTests
                 path.Close();
             }, null, 0);
         Assert.Equal(3, Assert.Single(list.Items.ToArray()).VerbCount);
+    }
+
+    [Fact]
+    public void Dashed_curves_are_flattened_with_their_phase_and_others_are_kept()
+    {
+        static void Draw(PathBuffer path)
+        {
+            path.MoveTo(new Vec2(-1000, 0));
+            path.CurveTo(new Vec2(-400, 0), new Vec2(400, 0), new Vec2(1000, 0));
+        }
+
+        DrawingList list = Clipped(Draw, [7, 3], 2);
+        DisplayItem piece = Assert.Single(list.Items.ToArray());
+        int last = 2 * piece.VerbCount;
+        Assert.Equal([-100, 0], list.CoordsOf(piece)[..2].ToArray().Select(value => Math.Round(value, 6)));
+        Assert.Equal([100, 0], list.CoordsOf(piece)[(last - 2)..last].ToArray().Select(value => Math.Round(value, 6)));
+        Assert.Equal(902 % 10, piece.DashOffset, 0.01);
+
+        list = Clipped(Draw, null, 0);
+        Assert.Contains(PathVerb.Curve, list.VerbsOf(Assert.Single(list.Items.ToArray())).ToArray());
     }
 
     private static DrawingList Clipped(Action<PathBuffer> draw, double[]? dashes, float offset)

@@ -55,7 +55,8 @@ internal static class BinaryTags
     internal static int SizeOf(int code) => SizeOf(KindOf(code));
 
     internal static bool TryTake(
-        byte[] data, BinaryLayout layout, ref int position, out int code, out int start, out int length)
+        ReadOnlySpan<byte> data, BinaryLayout layout, ref int position, out int code, out int start,
+        out int length)
     {
         (start, length) = (0, 0);
         if (!TryTakeCode(data, layout, ref position, out code))
@@ -68,7 +69,7 @@ internal static class BinaryTags
         length = SizeOf(kind);
         if (kind == Kind.Text)
         {
-            length = data.AsSpan(position).IndexOf((byte)0);
+            length = data[position..].IndexOf((byte)0);
             position += length + 1;
             return length >= 0;
         }
@@ -103,9 +104,9 @@ internal static class BinaryTags
         _ => 0,
     };
 
-    private static bool TryTakeCode(byte[] data, BinaryLayout layout, ref int position, out int code)
+    private static bool TryTakeCode(ReadOnlySpan<byte> data, BinaryLayout layout, ref int position, out int code)
     {
-        ReadOnlySpan<byte> rest = data.AsSpan(position);
+        ReadOnlySpan<byte> rest = data[position..];
         bool wide = layout == BinaryLayout.WordCodes || rest[0] == 255;
         int skip = wide && layout == BinaryLayout.ByteCodes ? 1 : 0;
         int size = wide ? 2 + skip : 1;

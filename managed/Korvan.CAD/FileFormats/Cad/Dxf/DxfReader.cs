@@ -18,9 +18,9 @@ internal sealed partial class DxfReader
     private readonly CadDrawing _drawing = new(DrawingSeed.Blank);
     private bool _hasEntities;
 
-    internal DxfReader(byte[] data, string fileName, LoadOptions options)
+    internal DxfReader(SourceWindow source, LoadOptions options)
     {
-        _tags = new DxfTagReader(data, fileName) { Repaired = options.Report };
+        _tags = new DxfTagReader(source) { Repaired = options.Report };
         _objects = new DxfObjectReader(_tags);
         _options = options;
         if (options.SpecifiedMifEncoding != MifCodePages.Undefined || options.RecoverMalformedCifMif)

@@ -30,9 +30,9 @@ internal sealed partial class DxfTagReader
         }
 
         // A value may be looked at before it is read.
-        if (_repairedOffset < _tagOffset)
+        if (_repairedOffset < TagOffset)
         {
-            _repairedOffset = _tagOffset;
+            _repairedOffset = TagOffset;
             Repaired(Defect(
                 defect,
                 FormattableString.Invariant(

@@ -12,7 +12,8 @@ internal sealed partial class DxfTagReader
     private const int PoolSize = 1024;
     private const int LongestPooled = 40;
 
-    private readonly (int Start, int Length, string Text)[] _pool = new (int, int, string)[PoolSize];
+    private readonly (int Length, string Text)[] _pool = new (int, string)[PoolSize];
+    private readonly byte[] _pooled = new byte[PoolSize * LongestPooled];
 
     private Encoding _encoding = DwgCodePage.Get(DwgCodePage.DefaultName);
 
@@ -89,10 +90,13 @@ internal sealed partial class DxfTagReader
             hash = (hash ^ value) * 16777619;
         }
 
-        ref (int Start, int Length, string Text) entry = ref _pool[(hash ^ (hash >> 15)) % PoolSize];
-        if (entry.Length != bytes.Length || !_data.AsSpan(entry.Start, entry.Length).SequenceEqual(bytes))
+        int index = (int)((hash ^ (hash >> 15)) % PoolSize);
+        ref (int Length, string Text) entry = ref _pool[index];
+        Span<byte> known = _pooled.AsSpan(index * LongestPooled, bytes.Length);
+        if (entry.Length != bytes.Length || !known.SequenceEqual(bytes))
         {
-            entry = (_start, bytes.Length, Decode(bytes));
+            entry = (bytes.Length, Decode(bytes));
+            bytes.CopyTo(known);
         }
 
         return entry.Text;

@@ -11,31 +11,33 @@ using Korvan.CAD.Input;
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
 /// <summary>
-/// Reads the tags of an interchange file, text or binary, from memory. A tag is a group code and a value; the value
-/// stays a slice of the file until it is asked for in one of its types.
+/// Reads the tags of an interchange file, text or binary, in blocks. A tag is a group code and a value; the value stays
+/// a slice of the block until it is asked for in one of its types.
 /// </summary>
 internal sealed partial class DxfTagReader : FieldReader
 {
     private const int TagsPerCheck = 256; // a power of two
 
-    private readonly byte[] _data;
-    private readonly string _fileName;
+    private readonly SourceWindow _source;
     private readonly BinaryLayout _binary;
+    private byte[] _data;
+    private int _end;
     private int _position;
     private int _start;
     private int _length;
     private int _line;
     private int _count;
-    private int _tagOffset;
+    private int _tagStart;
     private bool _unread;
     private bool _ended;
 
-    internal DxfTagReader(byte[] data, string fileName)
+    internal DxfTagReader(SourceWindow source)
     {
-        _data = data;
-        _fileName = fileName;
-        _binary = BinaryTags.Detect(data);
-        _position = _binary == BinaryLayout.None ? SkipByteOrderMark(data) : BinaryTags.Sentinel.Length;
+        _source = source;
+        _data = source.TakeStart(out _end);
+        ReadOnlySpan<byte> start = _data.AsSpan(0, _end);
+        _binary = BinaryTags.Detect(start);
+        _position = _binary == BinaryLayout.None ? SkipByteOrderMark(start) : BinaryTags.Sentinel.Length;
     }
 
     /// <summary>Gets or sets the handle of the object that is being read; 0 where none was read yet.</summary>
@@ -48,7 +50,7 @@ internal sealed partial class DxfTagReader : FieldReader
     internal bool IsBinary => _binary != BinaryLayout.None;
 
     /// <summary>Gets how many bytes follow the current tag.</summary>
-    internal int Remaining => _data.Length - _position;
+    internal int Remaining => _source.Length - _base - _position;
 
     /// <summary>Gets the number of the line that the current tag begins on, from 1.</summary>
     internal int Line => _line;
@@ -112,15 +114,23 @@ internal sealed partial class DxfTagReader : FieldReader
     /// <param name="go">What is done at each tag; tells whether to go on.</param>
     internal void LookAhead(Func<bool> go)
     {
-        (int position, int start, int length, int line, int offset, int current) =
-            (_position, _start, _length, _line, _tagOffset, Code);
-        (bool unread, bool ended) = (_unread, _ended);
-        while (Next() && Code != 0 && go())
+        (int position, int start, int length, int line, int current) =
+            (_base + _position, _base + _start, _length, _line, Code);
+        (int tag, int? outer, bool unread, bool ended) = (_base + _tagStart, _kept, _unread, _ended);
+        _kept ??= tag;
+        try
         {
+            while (Next() && Code != 0 && go())
+            {
+            }
+        }
+        finally
+        {
+            _kept = outer;
         }
 
-        (_position, _start, _length, _line, _tagOffset, Code) = (position, start, length, line, offset, current);
-        (_unread, _ended) = (unread, ended);
+        (_position, _start, _length, _line, Code) = (position - _base, start - _base, length, line, current);
+        (_tagStart, _unread, _ended) = (tag - _base, unread, ended);
     }
 
     internal override double GetDouble()
@@ -251,20 +261,20 @@ internal sealed partial class DxfTagReader : FieldReader
     {
         string record = CurrentHandle == 0 ? "" : $"handle {CurrentHandle.ToString("X", CultureInfo.InvariantCulture)}";
         LoadPlace place = IsBinary
-            ? new LoadPlace(_fileName, Record: record, Offset: _tagOffset)
-            : new LoadPlace(_fileName, _line, record);
+            ? new LoadPlace(_source.Name, Record: record, Offset: TagOffset)
+            : new LoadPlace(_source.Name, _line, record);
         return new LoadDefect(code, place, cause);
     }
 
-    private static int SkipByteOrderMark(byte[] data)
+    private static int SkipByteOrderMark(ReadOnlySpan<byte> data)
     {
-        return data.AsSpan().StartsWith("\uFEFF"u8) ? 3 : 0;
+        return data.StartsWith("\uFEFF"u8) ? 3 : 0;
     }
 
     private bool NextText()
     {
-        _tagOffset = _position;
-        if (_position >= _data.Length)
+        _tagStart = _position;
+        if (IsAtEnd())
         {
             return false;
         }
@@ -277,7 +287,7 @@ internal sealed partial class DxfTagReader : FieldReader
         }
 
         Code = code;
-        if (_position >= _data.Length)
+        if (IsAtEnd())
         {
             throw Fail(
                 LoadDefectCode.EndsWithinTag, $"the file ends after group code {code}; its value was expected");
@@ -289,30 +299,27 @@ internal sealed partial class DxfTagReader : FieldReader
 
     private bool EndOrBadCode(int start, int length)
     {
-        ReadOnlySpan<byte> text = _data.AsSpan(start, length);
-        if (text.Trim(" \t\0\u001a"u8).IsEmpty && _data.AsSpan(_position).Trim(" \t\0\r\n\u001a"u8).IsEmpty)
+        (_start, _length) = (start, Math.Min(length, 40));
+        if (_data.AsSpan(start, length).Trim(" \t\0\u001a"u8).IsEmpty && HasOnlyBlanks())
         {
-            _position = _data.Length;
             return false;
         }
 
-        (_start, _length) = (start, Math.Min(length, 40));
         throw Fail(
             LoadDefectCode.BadGroupCode, $"'{Shortened(ValueText())}' is no group code; an integer was expected");
     }
 
     private (int Start, int Length) TakeLine()
     {
+        int length = _data.AsSpan(_position, _end - _position).IndexOfAny((byte)'\n', (byte)'\r');
         int start = _position;
-        int length = _data.AsSpan(start).IndexOfAny((byte)'\n', (byte)'\r');
-        if (length < 0)
+        int end = start + length;
+        if (length < 0 || (_data[end] == '\r' && end + 1 == _end))
         {
-            _position = _data.Length;
-            return (start, _data.Length - start);
+            return TakeCutLine();
         }
 
-        int end = start + length;
-        bool pair = _data[end] == '\r' && end + 1 < _data.Length && _data[end + 1] == '\n';
+        bool pair = _data[end] == '\r' && _data[end + 1] == '\n';
         _position = end + (pair ? 2 : 1);
         return (start, length);
     }
@@ -340,16 +347,21 @@ internal sealed partial class DxfTagReader : FieldReader
 
     private bool NextBinary()
     {
-        _tagOffset = _position;
-        if (_position >= _data.Length)
+        _tagStart = _position;
+        if (IsAtEnd())
         {
             return false;
         }
 
-        if (!BinaryTags.TryTake(_data, _binary, ref _position, out int code, out _start, out _length))
+        int code;
+        while (!BinaryTags.TryTake(_data.AsSpan(0, _end), _binary, ref _position, out code, out _start, out _length))
         {
-            _position = _data.Length;
-            throw Fail(LoadDefectCode.EndsWithinTag, "the file ends within a tag");
+            _position = _tagStart;
+            if (!TryReadMore())
+            {
+                _position = _end;
+                throw Fail(LoadDefectCode.EndsWithinTag, "the file ends within a tag");
+            }
         }
 
         Code = code;

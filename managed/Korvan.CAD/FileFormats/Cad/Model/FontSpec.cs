@@ -1,3 +1,5 @@
+using System.Collections.Generic;
+
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
 /// <summary>A face as pango is asked for it; the family may be a list, first choice first.</summary>
@@ -14,4 +16,15 @@ internal readonly record struct FontSpec(string Family, bool Bold = false, bool 
 
     /// <summary>Gets whether the face is used as it is, with its own widths.</summary>
     internal bool IsPlain { get; init; }
+
+    /// <summary>Gets a comparer for dictionaries: the one that the runtime makes of a type of values takes longer than
+    /// a small drawing.</summary>
+    internal static IEqualityComparer<FontSpec> ByValue { get; } = new Comparer();
+
+    private sealed class Comparer : IEqualityComparer<FontSpec>
+    {
+        public bool Equals(FontSpec x, FontSpec y) => x == y;
+
+        public int GetHashCode(FontSpec obj) => obj.GetHashCode();
+    }
 }

@@ -1,5 +1,4 @@
 using System;
-using System.Buffers;
 using System.Collections.Generic;
 using System.Globalization;
 using System.Text;
@@ -15,19 +14,6 @@ internal readonly record struct TextPiece(string Text, bool Underline, bool Over
 /// </summary>
 internal static class TextCodes
 {
-    private static readonly Dictionary<char, int> MultibytePages = new()
-    {
-        ['1'] = 932,
-        ['2'] = 950,
-        ['3'] = 949,
-        ['4'] = 1361,
-        ['5'] = 936,
-    };
-
-    /// <summary>The characters of codes, and those that are not shown as they are.</summary>
-    private static readonly SearchValues<char> Special = SearchValues.Create(
-        [.. "%^\\", .. ControlCharacters('\0', ' '), .. ControlCharacters('\u007f', '\u00a0')]);
-
     internal static List<TextPiece> Parse(string text)
     {
         var pieces = new List<TextPiece>();
@@ -38,7 +24,7 @@ internal static class TextCodes
     /// <summary>Adds the pieces of a text; most have one, which is the text itself.</summary>
     internal static void Parse(string text, List<TextPiece> pieces)
     {
-        if (text.Length > 0 && !text.AsSpan().ContainsAny(Special))
+        if (text.Length > 0 && !HasSpecial(text))
         {
             pieces.Add(new TextPiece(text, false, false, false));
             return;
@@ -87,7 +73,7 @@ internal static class TextCodes
     /// <summary>The text as it reads, without bars.</summary>
     internal static string Plain(string text)
     {
-        if (!text.AsSpan().ContainsAny(Special))
+        if (!HasSpecial(text))
         {
             return text;
         }
@@ -142,7 +128,7 @@ internal static class TextCodes
         }
 
         if (at + 7 < text.Length && text[at + 1] is 'M' or 'm' && text[at + 2] == '+'
-            && MultibytePages.TryGetValue(text[at + 3], out int page) && TryHex(text, at + 4, out int pair))
+            && MultibytePage(text[at + 3]) is int page && TryHex(text, at + 4, out int pair))
         {
             into.Append(DecodePair(page, pair));
             length = 8;
@@ -152,12 +138,28 @@ internal static class TextCodes
         return false;
     }
 
-    private static IEnumerable<char> ControlCharacters(char first, char end)
+    private static int? MultibytePage(char digit) => digit switch
     {
-        for (char c = first; c < end; c++)
+        '1' => 932,
+        '2' => 950,
+        '3' => 949,
+        '4' => 1361,
+        '5' => 936,
+        _ => null,
+    };
+
+    // Most texts have a few characters: less than a search by vectors takes to be prepared.
+    private static bool HasSpecial(string text)
+    {
+        foreach (char c in text)
         {
-            yield return c;
+            if (c is < ' ' or '%' or '^' or '\\' or (>= '\u007f' and < '\u00a0'))
+            {
+                return true;
+            }
         }
+
+        return false;
     }
 
     private static char SwitchAt(string text, int at)

@@ -114,7 +114,7 @@ public class BinaryFormTests
     }
 
     /// <summary>Writes the tags of a text file as binary ones.</summary>
-    private static byte[] Binary(byte[] text, bool words)
+    internal static byte[] Binary(byte[] text, bool words)
     {
         using MemoryStream output = new();
         using BinaryWriter writer = new(output);

@@ -48,6 +48,25 @@ internal sealed class DwgSource(byte[] data, string name, LoadOptions options)
         Options.Report(failure);
     }
 
+    /// <summary>Returns the size of a section; where its pages cannot hold what the file states, reports that and
+    /// returns what they can hold.</summary>
+    /// <param name="section">The name of the section.</param>
+    /// <param name="stated">The size in bytes that the file states.</param>
+    /// <param name="pages">The number of its pages.</param>
+    /// <param name="held">The bytes that its pages can hold at most.</param>
+    internal long SizeOf(string section, long stated, int pages, long held)
+    {
+        long limit = Math.Min(held, MaxSectionSize);
+        if (stated >= 0 && stated <= limit)
+        {
+            return stated;
+        }
+
+        Report(LoadDefectCode.CountTooLarge, section, -1, $"the section states {stated} bytes in "
+            + $"{pages} pages; the pages of the file hold {limit}");
+        return limit;
+    }
+
     /// <summary>Returns the encoding of strings of 8-bit characters.</summary>
     /// <param name="codePage">The index of the code page in the file header.</param>
     internal Encoding EncodingOf(int codePage) => Options.SpecifiedEncoding != CodePages.Default

@@ -66,15 +66,7 @@ internal sealed class SectionLoader(DwgSource source, Dictionary<int, long> addr
             limit += section.IsCompressed ? Math.Min(section.PageSize, page.Stored * (long)Lz77.MaxRatio) : page.Stored;
         }
 
-        limit = Math.Min(limit, source.MaxSectionSize);
-        if (section.Size >= 0 && section.Size <= limit)
-        {
-            return section.Size;
-        }
-
-        source.Report(LoadDefectCode.CountTooLarge, section.Name, -1, $"the section states {section.Size} bytes in "
-            + $"{section.Pages.Count} pages; the pages of the file hold {limit}");
-        return limit;
+        return source.SizeOf(section.Name, section.Size, section.Pages.Count, limit);
     }
 
     // A page belongs to one place only, so that a file cannot have it decompressed again and again.

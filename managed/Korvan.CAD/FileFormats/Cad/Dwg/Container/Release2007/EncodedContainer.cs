@@ -73,15 +73,7 @@ internal static class EncodedContainer
                 : Math.Min(page.Size, page.Stored == page.Size ? source.Data.Length : MaxPageSize);
         }
 
-        limit = Math.Min(limit, source.MaxSectionSize);
-        if (section.Size >= 0 && section.Size <= limit)
-        {
-            return section.Size;
-        }
-
-        source.Report(LoadDefectCode.CountTooLarge, section.Name, -1, $"the section states {section.Size} bytes in "
-            + $"{section.Pages.Count} pages; the pages of the file hold {limit}");
-        return limit;
+        return source.SizeOf(section.Name, section.Size, section.Pages.Count, limit);
     }
 
     // A page belongs to one place only, so that a file cannot have it decompressed again and again.

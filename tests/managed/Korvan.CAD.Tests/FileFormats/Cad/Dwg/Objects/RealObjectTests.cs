@@ -13,6 +13,7 @@ using Korvan.CAD.FileFormats.Cad.Dwg.Header;
 using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Input;
 using Korvan.CAD.Tests.FileFormats.Cad.Dwg.Container;
 using Xunit;
 
@@ -38,7 +39,8 @@ public class RealObjectTests
     public void EntitiesAndTablesAreThoseOfTheTextFile(string name)
     {
         CadDrawing text = new DxfReader(
-            File.ReadAllBytes(SharedDrawings.Dxf($"lwg__{name}.dxf")), name, new LoadOptions()).Read();
+            new SourceWindow(File.ReadAllBytes(SharedDrawings.Dxf($"lwg__{name}.dxf")), name), new LoadOptions())
+            .Read();
         CadDrawing database = Load(SharedDrawings.Dwg($"lwg__{name}.dwg"), new LoadOptions());
 
         List<string> found = DrawingDifferences.Between(database, text, IsCompared);
