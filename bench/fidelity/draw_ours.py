@@ -1,6 +1,8 @@
 """Renders the model space of drawings, on white, in the formats that are named.
 
     build/python bench/fidelity/draw_ours.py SIDE FOLDER png,pdf DRAWING ...
+
+STROKE_FONTS names a folder of compiled fonts, where there is one.
 """
 
 from __future__ import annotations
@@ -32,6 +34,8 @@ def _page(side: float) -> imageoptions.CadRasterizationOptions:
     page.layouts = ["Model"]
     page.draw_type = CadDrawTypeMode.USE_OBJECT_COLOR
     page.background_color = Color.white
+    if os.environ.get("STROKE_FONTS"):
+        page.shx_fonts = [os.environ["STROKE_FONTS"]]
     return page
 
 

@@ -1,15 +1,18 @@
 """Renders the model space of a drawing by the drawing add-on of ezdxf, on white, with our fonts.
 
-Runs under the system's Python, with a checkout of ezdxf on its path: draw_reference.py SIDE DRAWING [TARGET]. Prints
-the processor time of loading and of drawing, up to the text of an SVG, as a line of JSON.
+Runs under the system's Python, with a checkout of ezdxf on its path: draw_reference.py SIDE DRAWING [TARGET].
+STROKE_FONTS names a folder of compiled fonts, where there is one. Prints the processor time of loading and of drawing,
+up to the text of an SVG, as a line of JSON.
 """
 
 from __future__ import annotations
 
 import json
+import os
 import subprocess
 import sys
 import time
+from pathlib import Path
 
 import ezdxf
 from ezdxf import recover
@@ -31,6 +34,8 @@ REPLACEMENTS = {
 
 def _use_our_fonts() -> None:
     manager = fonts.font_manager
+    if os.environ.get("STROKE_FONTS"):
+        manager.scan_folder(Path(os.environ["STROKE_FONTS"]))
     manager._fallback_font_name = REPLACEMENT  # pylint: disable=protected-access
     manager.add_synonyms({ours: theirs for ours, theirs in REPLACEMENTS.items() if manager.has_font(ours)})
 

@@ -12,6 +12,7 @@ from __future__ import annotations
 import argparse
 import json
 import os
+import shutil
 import subprocess
 import sys
 import tomllib
@@ -29,6 +30,9 @@ SIDE = 1600
 DRAWING_AIM = 98.0
 PAGE_AIM = 99.0
 SECONDS = 300
+# The checkout has few compiled fonts: one of them is drawn by both sides for all of these.
+STROKE_FONT = "fonts/strokefonts/iso3098.shx"
+STROKE_FONTS = ("txt", "monotxt", "simplex", "romans", "romand", "isocp", "isoct")
 
 
 @dataclass(frozen=True)
@@ -48,14 +52,22 @@ class Shares:
         return f"{self.forth:.2f}", f"{self.back:.2f}"
 
 
-def _ours(drawings: list[Path], out: Path, extensions: list[str]) -> None:
+def _stroke_fonts(checkout: Path, folder: Path) -> dict[str, str]:
+    """A folder of compiled fonts, as a variable for programs."""
+    folder.mkdir(parents=True, exist_ok=True)
+    for name in STROKE_FONTS:
+        shutil.copy(checkout / STROKE_FONT, folder / f"{name}.shx")
+    return {"STROKE_FONTS": str(folder)}
+
+
+def _ours(drawings: list[Path], out: Path, extensions: list[str], variables: dict[str, str]) -> None:
     command = [sys.executable, str(HERE / "draw_ours.py"), str(SIDE), str(out), ",".join(extensions)]
-    subprocess.run([*command, *map(str, drawings)], check=True)
+    subprocess.run([*command, *map(str, drawings)], check=True, env=os.environ | variables)
 
 
-def _reference(drawing: Path, target: Path, checkout: Path) -> str | None:
+def _reference(drawing: Path, target: Path, checkout: Path, variables: dict[str, str]) -> str | None:
     """Renders by the add-on; returns why it could not."""
-    environment = {key: value for key, value in os.environ.items() if not key.startswith("PYTHON")}
+    environment = {key: value for key, value in os.environ.items() if not key.startswith("PYTHON")} | variables
     environment |= {"PYTHONPATH": str(checkout / "src"), "XDG_CACHE_HOME": str(target.parent / "cache")}
     command = [SYSTEM_PYTHON, str(HERE / "draw_reference.py"), str(SIDE), str(drawing), str(target)]
     try:
@@ -102,11 +114,12 @@ def _drawings(drawings: list[Path], out: Path, known: dict[str, str]) -> bool:
         return True
     folder = out / "reference"
     folder.mkdir(parents=True, exist_ok=True)
-    _ours(drawings, out / "ours", ["png"])
-    failures = {path: _reference(path, folder / f"{path.name}.png", Path(checkout)) for path in drawings}
+    variables = _stroke_fonts(Path(checkout), out / "fonts")
+    _ours(drawings, out / "same-fonts", ["png"], variables)
+    failures = {path: _reference(path, folder / f"{path.name}.png", Path(checkout), variables) for path in drawings}
     able = [path for path, failure in failures.items() if failure is None]
     shares = dict(zip(able, _compare([
-        (folder / f"{path.name}.png", out / "ours" / f"{path.name}.png", out / "drawings" / f"{path.name}.png")
+        (folder / f"{path.name}.png", out / "same-fonts" / f"{path.name}.png", out / "drawings" / f"{path.name}.png")
         for path in able])))
     table = Table("Drawings beside the add-on, per cent of the foreground that the other has",
                   ("", "its, in ours", "ours, in its", "below the aim because"))
@@ -121,7 +134,7 @@ def _pages(drawings: list[Path], out: Path, known: dict[str, dict[str, str]]) ->
     for viewer in VIEWERS:
         if viewer not in viewers:
             print(f"{viewer.name} is not installed: {viewer.extension} is not shown by it")
-    _ours(drawings, out / "ours", ["png", *sorted({viewer.extension for viewer in viewers})])
+    _ours(drawings, out / "ours", ["png", *sorted({viewer.extension for viewer in viewers})], {})
     held = [_pages_by(viewer, drawings, out, known) for viewer in viewers]
     return all(held)
 
