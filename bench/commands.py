@@ -1,4 +1,5 @@
-"""How long commands take from their start to their end: their start, and conversions beside those of ezdxf."""
+"""How long commands take from their start to their end: their start, and conversions beside those of ezdxf and
+LibreCAD."""
 
 from __future__ import annotations
 
@@ -8,6 +9,8 @@ import subprocess
 import sys
 import tempfile
 import time
+from collections.abc import Callable
+from dataclasses import dataclass
 from pathlib import Path
 
 from report import Table, duration, ratio
@@ -60,36 +63,60 @@ def _starts() -> None:
         print(f"  {name}: {'held' if is_held else 'MISSED'} (processor time)")
 
 
-def _conversions(folder: Path) -> None:
-    if shutil.which("ezdxf") is None:
-        print("\nezdxf is not installed: conversions are measured without it")
-        return
-    # Another Python: nothing of ours may reach it.
-    environment = {key: value for key, value in os.environ.items() if not key.startswith("PYTHON")}
-    drawings = sorted(EXAMPLES.glob("*.dxf")) + [path for name in REAL if (path := SHARED / name).is_file()]
-    table = Table("korvan convert beside ezdxf draw, to PDF, the whole command",
-                  ("", "korvan", "ezdxf", "faster", "faster by processor time"))
-    worst = float("inf")
-    total = total_use = 0.0
-    for drawing in drawings:
-        target = str(folder / "out.pdf")
-        passed, used = seconds(korvan("convert", str(drawing), "-o", target, "-f", "-q"))
+@dataclass(frozen=True)
+class Other:
+    """A program that draws DXF files to PDF, and its command for a drawing and a file to write."""
+
+    name: str
+    command: Callable[[Path, Path], list[str]]
+
+    def seconds(self, drawing: Path, target: Path) -> tuple[float, float] | None:
+        """Time and processor time of a drawing; nothing if the program fails at it."""
+        # Another Python: nothing of ours may reach it. Qt draws without a display.
+        environment = {key: value for key, value in os.environ.items() if not key.startswith("PYTHON")}
+        target.unlink(missing_ok=True)
         try:
-            theirs, their_use = seconds(["ezdxf", "draw", "-o", target, str(drawing)], environment, rounds=2)
+            found = seconds(self.command(drawing, target), environment | {"QT_QPA_PLATFORM": "offscreen"}, rounds=2)
         except (subprocess.CalledProcessError, subprocess.TimeoutExpired):
-            table.add(drawing.name, duration(passed), "failed", "", "")
-            continue
-        worst = min(worst, their_use / used)
-        total, total_use = total + theirs, total_use + their_use
-        table.add(drawing.name, duration(passed), duration(theirs), f"{theirs / passed:.1f} x",
-                  f"{their_use / used:.1f} x")
+            return None
+        return found if target.exists() else None
+
+
+OTHERS = (
+    Other("ezdxf", lambda drawing, target: ["ezdxf", "draw", "-o", str(target), str(drawing)]),
+    # It names the file after the drawing.
+    Other("librecad", lambda drawing, target: ["librecad", "dxf2pdf", "-a", "-t", str(target.parent), str(drawing)]),
+)
+
+
+def _conversions(folder: Path) -> None:
+    there = [other for other in OTHERS if shutil.which(other.name) is not None]
+    for other in OTHERS:
+        if other not in there:
+            print(f"\n{other.name} is not installed: conversions are measured without it")
+    drawings = sorted(EXAMPLES.glob("*.dxf")) + [path for name in REAL if (path := SHARED / name).is_file()]
+    table = Table("korvan convert beside other programs, to PDF, the whole command: time, processor time",
+                  ("", "korvan", *(f"{other.name}, faster" for other in there)))
+    worst = dict.fromkeys((other.name for other in there), float("inf"))
+    for drawing in drawings:
+        passed, used = seconds(korvan("convert", str(drawing), "-o", str(folder / "out.pdf"), "-f", "-q"))
+        cells = [f"{duration(passed)}, {duration(used)}"]
+        for other in there:
+            found = other.seconds(drawing, folder / f"{drawing.stem}.pdf")
+            if found is None:
+                cells.append("failed")
+                continue
+            worst[other.name] = min(worst[other.name], found[1] / used)
+            cells.append(f"{duration(found[0])}, {duration(found[1])}: {found[0] / passed:.1f} x, "
+                         f"{found[1] / used:.1f} x")
+        table.add(drawing.name, *cells)
     target = str(folder / "all") + "/"
     passed, used = seconds(korvan("convert", *map(str, drawings), "-o", target, "--to", "pdf", "-f", "-q"))
-    table.add("all of them by one command", duration(passed), duration(total), f"{total / passed:.1f} x",
-              f"{total_use / used:.1f} x")
+    table.add("all of them by one command", f"{duration(passed)}, {duration(used)}", *("" for _ in there))
     table.print()
-    held = "held" if worst >= FASTER_AIM else "MISSED"
-    print(f"  {FASTER_AIM:g} times as fast as ezdxf draw: {held} ({worst:.1f} x by processor time)")
+    if "ezdxf" in worst:
+        held = "held" if worst["ezdxf"] >= FASTER_AIM else "MISSED"
+        print(f"  {FASTER_AIM:g} times as fast as ezdxf draw: {held} ({worst['ezdxf']:.1f} x by processor time)")
 
 
 def run(modules: Path) -> None:

@@ -22,7 +22,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "tools"))
 
-from packing import assemblies, fonts, libraries, licences  # noqa: E402
+from packing import assemblies, fonts, libraries, licences, shell_files  # noqa: E402
 
 NAME = "korvan_cad"
 # The interpreter's own ABI, and the oldest C library that has what our files need.
@@ -139,6 +139,12 @@ def carried_files(package: Path, substitutes: Path, info: str) -> Contents:
     return contents
 
 
+def shared_files() -> Contents:
+    """What goes below the prefix of an installation and not into the package."""
+    folder = f"{NAME}-{project_version()}.data/data"
+    return {f"{folder}/{name}": content for name, content in shell_files.files().items()}
+
+
 class Wheel:
     """A wheel that is being written; keeps its RECORD."""
 
@@ -219,7 +225,7 @@ def main() -> int:
     arguments = parser.parse_args()
     package = arguments.build / "package"
     contents = own_files(package) | runtime_files(package, arguments.build / "wheel-runtime")
-    contents |= carried_files(package, arguments.build / "substitutes", dist_info())
+    contents |= carried_files(package, arguments.build / "substitutes", dist_info()) | shared_files()
     target = write(contents, arguments.out)
     print(target)
     print_sizes(target)

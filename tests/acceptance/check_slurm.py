@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import contextlib
 import json
 import os
 import shutil
@@ -69,15 +70,23 @@ class Check:
     def results(self) -> set[str]:
         return {str(path.relative_to(self.out)) for path in self.out.rglob("*.pdf")}
 
+    def kill_task(self) -> None:
+        """Kills a task that outlives the main process; one may end and another begin meanwhile."""
+        killed = False
+        while not killed:
+            wait_for(lambda: find_task(self.out), "a task that outlives the main process")
+            if task := find_task(self.out):
+                with contextlib.suppress(ProcessLookupError):
+                    os.kill(task, signal.SIGKILL)
+                    killed = True
+
     def check_kills(self) -> None:
         process = self.start()
         wait_for(lambda: find_task(self.out), "the first task")
         wait_for(self.results, "the first result")
         process.kill()
         process.communicate()
-        task = find_task(self.out)
-        expect(task, "a task that outlives the main process")
-        os.kill(task or 0, signal.SIGKILL)
+        self.kill_task()
         for path in self.out.rglob("*.pdf"):
             expect(path.read_bytes()[-6:].strip() == b"%%EOF", f"{path} is half-written")
         summary, errors = self.finish(self.start())
@@ -98,9 +107,10 @@ class Check:
         process = self.start()
         wait_for(lambda: find_task(self.out), "a task")
         process.send_signal(signal.SIGINT)
-        start = time.monotonic()
         _, errors = self.finish(process)
-        expect(process.returncode == 130 and time.monotonic() - start < 2, f"Ctrl-C: {process.returncode}, {errors}")
+        expect(process.returncode == 130, f"Ctrl-C: {process.returncode}, {errors}")
+        done = len(self.results())
+        expect(done < FILES, "the batch was over before Ctrl-C reached it")
         wait_for(lambda: not self.cluster.call("squeue", "--noheader") and not find_task(self.out), "the job is gone")
         summary, _ = self.finish(self.start())
         expect(summary.get("done") == FILES, f"after Ctrl-C not all files are done: {summary}")

@@ -48,9 +48,13 @@ def main() -> int:
     checked(root.run("/venv/bin/python", "/bare_session.py", "/samples"), "use")
     checked(root.run("/venv/bin/python", "-c", "import korvan.cad; print(korvan.cad.VERSION)"), "import")
     if (root.path / "venv/lib/python3.12/site-packages/korvan/commands").is_dir():
+        for shared in ("man/man1/korvan.1", "bash-completion/completions/korvan"):
+            if not (root.path / "venv/share" / shared).is_file():
+                sys.exit(f"not installed: share/{shared}")
         checked(root.run("/venv/bin/korvan", "convert", "/samples/plan.dxf", "-o", "/plan.pdf"), "the command")
     checked(root.run("/venv/bin/pip", "uninstall", "--yes", "korvan.cad"), "uninstall")
     left = [str(path.relative_to(packages)) for path in packages.glob("korvan*/**/*") if path.is_file()]
+    left += [str(path) for path in (root.path / "venv/share").rglob("*korvan*") if path.is_file()]
     if left:
         sys.exit(f"left after the uninstall: {', '.join(left[:10])}")
     return 0

@@ -22,11 +22,12 @@ SMALL = DRAWINGS / "heating_schematic.dxf"
 SCRIPTED = """
     import sys
     if "korvan.batch.worker" in sys.orig_argv:
-        import os, pathlib, signal, time
+        import contextlib, os, pathlib, signal, time
         import korvan.tools
-        from korvan.tools.conversion import ConversionResult
+        from korvan.tools import conversion
 
-        def convert(source, target, *, force, to, timeout, **options):
+        @contextlib.contextmanager
+        def converted(source, target, request):
             name, path = os.path.basename(source), pathlib.Path(target)
             marker = os.environ["SCRIPT_MARKERS"] + "/" + name
             first = not os.path.exists(marker)
@@ -37,19 +38,20 @@ SCRIPTED = """
                 os.abort()
             if "greedy" in name:
                 block = bytearray(os.urandom(1 << 20)) * 700
-                time.sleep(30)
+                time.sleep(600)
             if "slow" in name:
                 signal.pthread_sigmask(signal.SIG_BLOCK, [signal.SIGALRM])
-                time.sleep(30)
+                time.sleep(600)
             if "bad" in name:
                 raise korvan.tools.ToolError("cannot be read:\\nline 3")
             if "moving" in name and first:
                 os.utime(source, (1, 1))
             path.write_text("the result of " + name)
             path.with_suffix(".side").write_text("beside")
-            return ConversionResult(path, to, 0.01, ["a warning"], [])
+            image = korvan.cad.Image.load(%r)  # for the thumbnail
+            yield image, conversion.ConversionResult(path, request.to, 0.01, ["a warning"], [], [path])
 
-        korvan.tools.convert = convert
+        conversion.converted = converted
 """
 
 
@@ -67,7 +69,7 @@ class Batch:
         """Workers convert by what file names say."""
         path = self.root / "scripts"
         path.mkdir()
-        (path / "sitecustomize.py").write_text(textwrap.dedent(SCRIPTED))
+        (path / "sitecustomize.py").write_text(textwrap.dedent(SCRIPTED) % str(SMALL))
         self.environment["PYTHONPATH"] = f"{path}:{os.environ['PYTHONPATH']}"
         self.environment["SCRIPT_MARKERS"] = str(path)
 
@@ -93,7 +95,7 @@ class Batch:
 
     def run(self, *arguments: str) -> subprocess.CompletedProcess[str]:
         return subprocess.run(self.command(*arguments), env=self.environment, capture_output=True, text=True,
-                              errors="surrogateescape", timeout=120, check=False)
+                              errors="surrogateescape", timeout=600, check=False)
 
     def summary(self, *arguments: str) -> dict[str, Any]:
         """Runs the batch and gives the counts that it tells."""

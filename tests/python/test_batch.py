@@ -206,7 +206,7 @@ class Trouble(unittest.TestCase):
             self.assertEqual(second.returncode, 1)
             self.assertRegex(second.stderr, f"is in use by process {process.pid} on ")
             process.send_signal(signal.SIGINT)
-            _, errors = process.communicate(timeout=10)
+            _, errors = process.communicate(timeout=100)
             self.assertEqual((process.returncode, errors.count("\n")), (130, 1))
             self.assertEqual(batch.results(), [])
             self.assertEqual(set(batch.states().values()), {"pending"})

@@ -28,7 +28,7 @@ def children(process: int) -> list[int]:
 
 
 def wait_for_end(processes: list[int]) -> None:
-    end = time.monotonic() + 10
+    end = time.monotonic() + 100
     while any(os.path.exists(f"/proc/{process}") for process in processes):
         if time.monotonic() > end:
             raise AssertionError("workers outlive the batch")
@@ -65,7 +65,7 @@ class Kills(unittest.TestCase):
 
     def wait_for(self, process: subprocess.Popen[str], results: int) -> None:
         """Waits until there are so many results, and a moment more."""
-        end = time.monotonic() + 60
+        end = time.monotonic() + 300
         while process.poll() is None and len(self.batch.results()) < results:
             self.assertLess(time.monotonic(), end, "the batch makes no progress")
             time.sleep(0.002)
@@ -105,7 +105,7 @@ class Kills(unittest.TestCase):
             workers = children(process.pid)
             if workers:
                 os.kill(self.random.choice(workers), signal.SIGKILL)
-        output, errors = process.communicate(timeout=120)
+        output, errors = process.communicate(timeout=600)
         # A file at which a worker was killed twice is told as crashed, and nothing else is.
         rows = self.batch.rows()
         self.assertLessEqual({row["state"] for row in rows.values()}, {"done", "crashed"}, output + errors)

@@ -109,7 +109,7 @@ class Converting(Commands):
 
     def test_pipes_and_devices(self) -> None:
         with self.child("convert", PLAN, "-o", "-", "--to", "svg") as done:
-            out, err = done.communicate(timeout=60)
+            out, err = done.communicate(timeout=300)
         self.assertTrue(out.startswith("<?xml") and out.rstrip().endswith("</svg>"), err)
         status, _, err = self.korvan("convert", PLAN, "-o", "/dev/full", "--to", "pdf")
         self.assertEqual(status, 1)
@@ -121,7 +121,7 @@ class Converting(Commands):
 
     def test_a_full_disk_leaves_no_file(self) -> None:
         with self.child("convert", PLAN, "-o", self.out / "a.pdf", preexec_fn=limit_files) as done:
-            _, err = done.communicate(timeout=60)
+            _, err = done.communicate(timeout=300)
         self.assertEqual(done.returncode, 1)
         self.assertEqual(len(err.splitlines()), 1, err)
         self.assertEqual(list(self.out.iterdir()), [])
@@ -136,7 +136,7 @@ class Converting(Commands):
         source = os.fsdecode(os.fsencode(self.out / "a") + b"\xff.dxf")
         shutil.copy(PLAN, source)
         with self.child("convert", source, "-o", f"{self.out}/o/", "--to", "pdf") as done:
-            out, err = done.communicate(timeout=60)
+            out, err = done.communicate(timeout=300)
         self.assertEqual((done.returncode, err), (0, ""))
         self.assertIn("\udcff.pdf", out)
 
@@ -146,14 +146,17 @@ class Converting(Commands):
         files = [self.out / f"copy{number}.dxf" for number in range(100)]  # half a minute of work: none is ever done
         for file in files:
             file.symlink_to(drawing)
-        for wait, jobs in ((0.2, "1"), (1.5, "1"), (1.5, "2")):
-            with self.subTest(wait=wait, jobs=jobs):
-                target = self.out / f"{wait}{jobs}"
+        for jobs, moment in (("1", "the library is loaded"), ("1", "a file is written"), ("2", "a file is written")):
+            with self.subTest(moment=moment, jobs=jobs):
+                target = self.out / f"{jobs}{moment}"
                 running = self.child("convert", *files, "-o", f"{target}/", "--to", "png", "--size", "5000x", "-j",
                                      jobs, start_new_session=True)
-                time.sleep(wait)
+                while running.poll() is None and not (
+                        any(target.glob("*.png")) if "written" in moment
+                        else b"/cad.cpython" in Path(f"/proc/{running.pid}/maps").read_bytes()):
+                    time.sleep(0.01)
                 os.killpg(running.pid, signal.SIGINT)
-                _, err = running.communicate(timeout=60)
+                _, err = running.communicate(timeout=300)
                 self.assertIn(running.returncode, (130, -signal.SIGINT))
                 self.assertIn(err, ("", "korvan: interrupted\n"))
                 for path in target.glob("*"):
@@ -247,7 +250,7 @@ class Surroundings(Commands):
     def test_help_does_not_load_the_library(self) -> None:
         code = ("import sys\nfrom korvan.commands import main\nfor one in [['--help'], ['convert', '--help'], ['x']]:"
                 "\n    main(one)\nsys.exit('korvan.cad' in sys.modules)")
-        done = subprocess.run([sys.executable, "-c", code], capture_output=True, timeout=60, check=False)
+        done = subprocess.run([sys.executable, "-c", code], capture_output=True, timeout=300, check=False)
         self.assertEqual(done.returncode, 0)
 
     def test_completion(self) -> None:
@@ -262,7 +265,7 @@ class Surroundings(Commands):
             with self.subTest(line):
                 code = (f'source "{script}"; COMP_WORDS=(korvan {line}); COMP_CWORD={len(line.split())}; _korvan;'
                         'echo "${COMPREPLY[*]}"')
-                done = subprocess.run(["bash", "-c", code], cwd=self.out, capture_output=True, text=True, timeout=60,
+                done = subprocess.run(["bash", "-c", code], cwd=self.out, capture_output=True, text=True, timeout=300,
                                       check=True)
                 self.assertEqual(done.stdout.strip(), answer)
 
@@ -270,7 +273,7 @@ class Surroundings(Commands):
     def test_the_manual_page_is_sound(self) -> None:
         page = self.good("man")
         done = subprocess.run(["groff", "-man", "-ww", "-Tutf8"], input=page, capture_output=True, text=True,
-                              timeout=60, check=False)
+                              timeout=300, check=False)
         self.assertEqual(done.stderr, "")
         self.assertIn("korvan convert [OPTION]... IN", page)
 

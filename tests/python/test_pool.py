@@ -40,12 +40,12 @@ class Pools(unittest.TestCase):
                   "cannot be sent": "failed"}
         good = [f"good {number}" for number in range(20)]
         tasks = [task for pair in zip(wanted, good, strict=False) for task in pair] + good[len(wanted):]
-        with Pool(2, memory=300 << 20, deadline=6) as pool:
+        with Pool(2, memory=300 << 20, deadline=12) as pool:
             found = {outcome.task: outcome for outcome in pool.map(work, tasks)}
         self.assertEqual(set(found), set(tasks))
         self.assertEqual({task: found[task].status for task in wanted}, wanted)
         self.assertEqual([found[task].value for task in good], [task.upper() for task in good])
-        for task, words in (("killed", "SIGKILL"), ("exits", "exit code 3"), ("hangs", "longer than 6 s"),
+        for task, words in (("killed", "SIGKILL"), ("exits", "exit code 3"), ("hangs", "longer than 12 s"),
                             ("takes memory", "300 MiB"), ("raises", "out of range"), ("cannot be sent", "be sent")):
             self.assertIn(words, found[task].error)
 

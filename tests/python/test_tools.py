@@ -12,7 +12,10 @@ from pathlib import Path
 from korvan.cad import CodePages, Color, LoadOptions, RasterImage
 from korvan.cad.fileformats.cad import CadImage, DxfImage
 from korvan.cad.fileformats.cad.cadobjects import (
-    Cad2DPoint, Cad3DPoint, CadArc, CadCircle, CadInsertObject, CadLine, CadLwPolyline, CadText)
+    Cad2DPoint, Cad3DPoint, CadArc, CadCircle, CadInsertObject, CadLine, CadLwPolyline, CadPdfUnderlay, CadRasterImage,
+    CadRasterImageDef, CadText, CadViewport)
+from korvan.cad.fileformats.cad.cadobjects.underlaydefinition import CadPdfDefinition
+from korvan.cad.fileformats.cad.cadtables import CadLayerTable
 from korvan.cad.fileformats.cgm import CgmImage
 from korvan.cad.fileformats.ifc import IfcImage
 from korvan.cad.imageoptions import CadRasterizationOptions, TiffOptions
@@ -107,6 +110,21 @@ class Converting(InFolder):
         self.assertEqual(some.pixel(0, 0), (16, 32, 48))
         self.assertLess(some.coverage(), whole.coverage())
 
+    def test_each_layout_has_a_file_where_the_name_or_the_format_says_so(self) -> None:
+        whole = convert(PLAN, self.out / "{layout}.png", size="200x")
+        self.assertEqual([path.name for path in whole.outputs], ["Model.png", "Ground floor.png"])
+        single = convert(PLAN, self.out / "single.png", size="200x", layouts=["ground*"])
+        self.assertEqual(single.output.read_bytes(), whole.outputs[1].read_bytes())
+        self.assertNotEqual(single.output.read_bytes(), whole.outputs[0].read_bytes())
+        there = self.out / "many"
+        there.mkdir()
+        for to, names in (("svg", {"floor_plan-Model.svg", "floor_plan-Ground floor.svg"}), ("pdf", {"floor_plan.pdf"})):
+            found = convert(PLAN, there, to=to, layouts=["*"])
+            self.assertEqual({path.name for path in found.outputs}, names)
+            self.assertEqual({path for path in there.glob(f"*.{to}")}, set(found.outputs))
+        with self.assertRaisesRegex(ToolError, "Model.png exists"):
+            convert(PLAN, self.out / "{layout}.png")
+
     def test_what_is_wrong_is_said_with_what_would_be_right(self) -> None:
         kept = self.out / "kept.pdf"
         kept.write_text("mine")
@@ -119,6 +137,7 @@ class Converting(InFolder):
             ({"settings": {"PdfOptions.timeout": "1"}}, "a.png", "no part"),
             ({"settings": {"DwgOptions.version": "AC99"}}, "a.dwg", "AC1015"),
             ({"release": "1999"}, "a.dxf", "R2000|2000"),
+            ({"layouts": ["*"]}, "a.png", r"write a-\{layout\}.png"),
             ({"size": "wide"}, "a.png", "no size"),
             ({"size": "10x10", "paper": "A4"}, "a.png", "either"),
             ({"paper": "A33"}, "a.png", "A3"),
@@ -310,6 +329,11 @@ class Comparing(InFolder):
 
 
 class Editing(InFolder):
+    @needs_shared
+    def test_the_spaces_of_old_releases_are_no_unused_blocks(self) -> None:
+        found = audit(open_drawing(SHARED / "dxf" / "lwg__example_r12.dxf", CadImage))
+        self.assertEqual([one.place for one in found if one.code == 402 and "SPACE" in one.place], [])
+
     def test_a_transform_keeps_lengths_and_areas_and_can_be_undone(self) -> None:
         for path in (PLAN, FLANGE, EXAMPLES / "site_plan.dxf"):
             with self.subTest(path.name):
@@ -362,6 +386,53 @@ class Editing(InFolder):
         self.assertIn(style.dimtxsty, [one.object_handle for one in found.styles if one.name == "NOTE"])
         self.assertIn(style.dimblk, [one.object_handle for one in found.block_records if one.name == "_ARCHTICK"])
         self.assertEqual(audit(found), [])
+
+    def test_images_underlays_and_viewports_come_with_what_they_refer_to(self) -> None:
+        source = CadImage()
+        definition, pdf, handles = CadRasterImageDef(), CadPdfDefinition(), ("F01", "F02")
+        definition.file_name, pdf.file_name = "photos\\site.png", "sheet.pdf"
+        for one, handle in zip((definition, pdf), handles, strict=True):
+            one.object_handle = handle
+            source.objects.append(one)
+        layer = CadLayerTable()
+        layer.name, layer.object_handle = "HIDDEN", "F03"
+        source.layers.add(layer)
+        image, again, sheet, view = CadRasterImage(), CadRasterImage(), CadPdfUnderlay(), CadViewport()
+        image.image_def_reference = again.image_def_reference = "F01"
+        again.insertion_point = Cad3DPoint(9.0, 9.0, 0.0)
+        sheet.underlay_definition, sheet.insertion_point = "F02", Cad3DPoint(1.0, 2.0, 0.0)
+        view.frozen_layers.append("F03")
+        view.width = view.height = 10.0
+        target = open_drawing(PLAN, CadImage)
+        copy_entities([image, again, sheet], source, target, change=Transform.rotate(90) @ Transform.scale(2))
+        copy_entities([view], source, target, layout="Ground floor")
+        found = self.saved(target)
+        files = {one.object_handle: cast(one).file_name for one in found.objects
+                 if one.type_name_text in ("IMAGEDEF", "PDFDEFINITION")}
+        self.assertEqual(sorted(files.values()), ["photos\\site.png", "sheet.pdf"])
+        self.assertEqual({files[one.image_def_reference] for one in query(found, "IMAGE")}, {"photos\\site.png"})
+        (underlay,) = query(found, "PDFUNDERLAY")
+        self.assertEqual(files[underlay.underlay_definition], "sheet.pdf")
+        self.assertEqual((underlay.rotation_angle, underlay.scale_x), (90, 2))
+        self.assertAlmostEqual(math.hypot(underlay.insertion_point.x + 4, underlay.insertion_point.y - 2), 0)
+        views = list(query(found, "VIEWPORT", layout="Ground floor"))
+        self.assertEqual(len({one.viewport_id for one in views}), len(views))
+        (frozen,) = views[-1].frozen_layers
+        self.assertEqual([one.name for one in found.layers if one.object_handle == frozen], ["HIDDEN"])
+        self.assertEqual([one for one in audit(found) if one.code < 400], [])
+
+    @needs_shared
+    def test_a_table_comes_as_the_block_that_shows_it(self) -> None:
+        source, target = open_drawing(SHARED / "dxf" / "lwg__example_2007.dxf", CadImage), CadImage()
+        table, multiline = (next(iter(query(source, kind))) for kind in ("ACAD_TABLE", "MLINE"))
+        shown, lines = copy_entities([table, multiline], source, target,
+                                     change=Transform.move(5, 0) @ Transform.rotate(90))
+        self.assertEqual((shown.type_name_text, shown.rotation_angle), ("INSERT", 90))
+        self.assertAlmostEqual(shown.insertion_point.x, 5 - table.insertion_point.y)
+        self.assertGreater(len(self.saved(target).block_entities.get(shown.name).entities), 10)
+        self.assertAlmostEqual(lines.vertices[1].location.y, multiline.vertices[1].location.x)
+        with self.assertRaisesRegex(ToolError, "MLINE .is moved and rotated only"):
+            transform([multiline], Transform.scale(2))
 
     def test_blocks_of_one_name_are_told_apart_when_asked(self) -> None:
         for conflict, names in (("keep", {"PLANT"}), ("rename", {"PLANT", "PLANT_1"})):

@@ -123,7 +123,7 @@ class Pages(unittest.TestCase):
 
     def test_what_cannot_be_shown_is_named(self) -> None:
         for path, layouts, message in (
-            (DRAWINGS / "garden_house.ifc", None, "no 2D view"),
+            (DRAWINGS / "garden_house.ifc", None, "solids are not drawn yet; korvan info"),
             (SITE, ["Plan"], "no layout 'Plan'; it has 'Model', 'Site 1:500', 'Plot 1'"),
             (DRAWINGS / "gate_valve.cgm", ["Model"], "only drawings have layouts"),
             (DRAWINGS / "nothing.dxf", None, "no such file"),
@@ -135,7 +135,7 @@ class Pages(unittest.TestCase):
 
 class Server(unittest.TestCase):
     def answer(self, url: str, path: str, **headers: str) -> tuple[http.client.HTTPResponse, bytes]:
-        connection = http.client.HTTPConnection(urlsplit(url).netloc, timeout=10)
+        connection = http.client.HTTPConnection(urlsplit(url).netloc, timeout=100)
         self.addCleanup(connection.close)
         connection.request("GET", path, headers=headers)
         response = connection.getresponse()

@@ -32,7 +32,7 @@ class Files(unittest.TestCase):
             package = Path(folder, "package", "korvan")
             # The runtime takes long to pack and has no part in this.
             shutil.copytree(PACKAGE, package, ignore=shutil.ignore_patterns("netcore", "assemblies", "__pycache__"))
-            contents = make_wheel.own_files(package.parent)
+            contents = make_wheel.own_files(package.parent) | make_wheel.shared_files()
             wheels = [make_wheel.write(contents, Path(folder, name)) for name in ("first", "second")]
             self.assertEqual(wheels[0].read_bytes(), wheels[1].read_bytes())
             installed = Path(folder, "installed")
@@ -48,6 +48,9 @@ class Files(unittest.TestCase):
             self.assertEqual(len(hooks.load()()), 6)
             (command,) = distribution.entry_points.select(group="console_scripts")
             self.assertEqual((command.name, command.value), ("korvan", "korvan.commands:main"))
+            shared = installed / f"{make_wheel.NAME}-{distribution.version}.data" / "data" / "share"
+            self.assertIn(".SS korvan convert", (shared / "man/man1/korvan.1").read_text())
+            self.assertIn("--color-mode", (shared / "bash-completion/completions/korvan").read_text())
             files = {path.relative_to(installed).as_posix() for path in installed.rglob("*") if path.is_file()}
             self.assertEqual({str(file) for file in distribution.files or ()}, files)
 

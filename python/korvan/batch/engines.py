@@ -14,7 +14,7 @@ from korvan.batch.errors import BatchError, printable
 from korvan.batch.folder import BatchFolder
 from korvan.batch.lease import Lease
 from korvan.batch.report import write_report
-from korvan.batch.scan import Wanted, check_folders, places_from_json, places_to_json, scan
+from korvan.batch.scan import Wanted, check_folders, count_files, places_from_json, places_to_json, scan
 from korvan.batch.settings import Settings
 from korvan.batch.shard import Modes, ShardRun, is_finished, read_summary
 from korvan.batch.slurm import Slurm, SlurmOptions
@@ -66,6 +66,8 @@ def run_batch(settings: Settings, engine: str = "processes", *, modes: Modes = M
         settings = replace(settings, source=os.path.abspath(settings.source))
         run = Run(folder, settings, modes, watch, stop, lease)
         with Pool(settings.recipe, settings.limits, settings.jobs if engine == "processes" else 1, stop) as pool:
+            if folder.read_plan() is None:  # all of it is to be done: workers start together, while files are looked for
+                pool.fill(count_files(settings.source, pool.jobs))
             plan = _plan(run, engine, pool.extensions())
             shards = range(len(plan["starts"]))
             watch.begin(plan["files"])

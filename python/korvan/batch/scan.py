@@ -200,6 +200,16 @@ def check_folders(source: str | os.PathLike[str], out: str | os.PathLike[str]) -
                          "beside or below them")
 
 
+def count_files(folder: str | os.PathLike[str], most: int) -> int:
+    """How many files there are in a folder and below, of any kind; the search ends at ``most``."""
+    count = 0
+    for _, _, names in os.walk(os.fsencode(folder)):
+        count += len(names)
+        if count >= most:
+            return most
+    return count
+
+
 def scan(folder: BatchFolder, source: str | os.PathLike[str], wanted: Wanted, starts: Sequence[Place], size: int,
          on_step: Callable[[int], None]) -> tuple[Dealer, list[str]]:
     """Walks over the sources and writes the lists of shards; gives their places, and what could not be read."""

@@ -18,9 +18,13 @@ import sys
 import time
 from hashlib import blake2b
 from pathlib import Path
-from typing import Any
+from typing import TYPE_CHECKING, Any
 
 from korvan.batch.errors import FULL, reason
+
+if TYPE_CHECKING:
+    from korvan.cad import Image
+    from korvan.tools.conversion import Request
 
 THUMBNAIL = (160.0, 120.0)
 SLOW = 10.0  # who waited so long for a result is not to wait as long again for its thumbnail
@@ -98,14 +102,44 @@ def _changed(path: str, before: os.stat_result) -> bool:
     return (now.st_mtime_ns, now.st_size) != (before.st_mtime_ns, before.st_size)
 
 
-def _call(source: str, result: str, task: dict[str, Any]) -> list[str]:
-    """Writes the result, and gives the warnings."""
-    from korvan.tools import ToolError, convert
+def _thumbnail(image: Image) -> bytes | None:
+    from korvan.cad.imageoptions import CadRasterizationOptions, WebPOptions
+
+    options, page = WebPOptions(), CadRasterizationOptions()
+    options.lossless, options.quality = False, 50.0  # thin lines take five times the bytes as PNG
+    page.page_width, page.page_height = THUMBNAIL
+    options.vector_rasterization_options = page
+    stream = io.BytesIO()
+    try:
+        image.save(stream, options)
+    except (RuntimeError, ValueError, OSError):
+        return None  # what has no pixels
+    return stream.getvalue()
+
+
+def _file_for(result: str, request: Request) -> str:
+    """The file to write: with the name of each layout, where several are wanted and a file holds one."""
+    from korvan.tools.conversion import PLACEHOLDER
+    from korvan.tools.formats import find_target
+
+    stem, extension = os.path.splitext(result)
+    is_split = request.layouts is not None and find_target(result, request.to).has_one_page
+    return f"{stem}-{PLACEHOLDER}{extension}" if is_split else result
+
+
+def _call(source: str, result: str, task: dict[str, Any]) -> tuple[list[str], bytes | None]:
+    """Writes the result, and gives the warnings and the thumbnail. Layouts after the first have files beside it."""
+    from korvan.tools import ToolError
+    from korvan.tools.conversion import Request, converted
 
     start = time.perf_counter()
     limit = task["timeout"] or None
     try:
-        return convert(source, result, to=task["to"], timeout=limit, force=True, **task["options"]).warnings
+        request = Request(to=task["to"], timeout=limit, force=True, **task["options"])
+        with converted(source, _file_for(result, request), request) as (image, done):
+            os.replace(done.output, result)
+            in_time = time.perf_counter() - start < SLOW
+            return done.warnings, _thumbnail(image) if task["thumbnail"] and in_time else None
     except (ToolError, RuntimeError, ValueError, OSError) as failure:
         _refuse_full(failure, task["scratch"])
         if limit and time.perf_counter() - start >= limit:
@@ -113,20 +147,21 @@ def _call(source: str, result: str, task: dict[str, Any]) -> list[str]:
         raise Refused("input", str(failure) or type(failure).__name__) from failure
 
 
-def _convert(source: str, result: Path, task: dict[str, Any]) -> list[str]:
-    """Writes the result; names that the library cannot be told are given to it as others."""
-    if _is_text(source) and _is_text(str(result)):
+def _convert(source: str, result: Path, task: dict[str, Any]) -> tuple[list[str], bytes | None]:
+    """As above; names that the library cannot be told are given to it as others."""
+    if _is_text(source) and _is_text(str(result)) and "{" not in result.name:
         return _call(source, str(result), task)
     link = "source" + os.path.splitext(source)[1].encode("ascii", "ignore").decode()
     os.chdir(result.parent)
     try:
         os.symlink(source, link)
-        warnings = _call(link, "result" + result.suffix, task)
+        warnings, thumbnail = _call(link, "result" + result.suffix, task)
         os.unlink(link)
-        os.rename("result" + result.suffix, result.name)
+        for name in os.listdir():
+            os.rename(name, result.stem + name.removeprefix("result"))
     finally:
         os.chdir("/")
-    return ["the name is no UTF-8: files that the drawing refers to were not looked for", *warnings]
+    return ["the name is no UTF-8: files that the drawing refers to were not looked for", *warnings], thumbnail
 
 
 def _refuse_full(failure: BaseException, folder: str) -> None:
@@ -162,23 +197,6 @@ def _move(result: Path, target: str, *, replace: bool) -> os.stat_result:
         raise Refused("output", f"{folder}: {reason(failure)}") from failure
 
 
-def _thumbnail(source: str) -> bytes | None:
-    from korvan.cad import Image
-    from korvan.cad.imageoptions import CadRasterizationOptions, WebPOptions
-
-    options, page = WebPOptions(), CadRasterizationOptions()
-    options.lossless, options.quality = False, 50.0  # thin lines take five times the bytes as PNG
-    page.page_width, page.page_height = THUMBNAIL
-    options.vector_rasterization_options = page
-    stream = io.BytesIO()
-    try:
-        with Image.load(source) as image:
-            image.save(stream, options)
-    except (RuntimeError, ValueError, OSError):
-        return None  # what has no pixels
-    return stream.getvalue()
-
-
 def _result(task: dict[str, Any]) -> dict[str, Any]:
     source, target = task["source"], task["target"]
     digest, status = _hash(source)
@@ -186,22 +204,18 @@ def _result(task: dict[str, Any]) -> dict[str, Any]:
     if digest == task["known"]:
         return {**reply, "state": "unchanged"}
     scratch = Path(task["scratch"])
-    start = time.perf_counter()
     try:
         _make_folder(str(scratch))
         result = scratch / os.path.basename(target)
-        reply["warnings"] = _convert(source, result, task)
+        reply["warnings"], image = _convert(source, result, task)
     except OSError as failure:
         _refuse_full(failure, str(scratch.parent))
         raise Refused("output", f"{scratch}: {reason(failure)}") from failure
-    seconds = time.perf_counter() - start
     if _changed(source, status):
         raise Refused("changed", "was changed while it was converted")
     moved = _move(result, target, replace=task["replace"])
     reply.update(state="done", result_size=moved.st_size, result_modified=moved.st_mtime_ns)
-    if task["thumbnail"] and seconds < SLOW and _is_text(source):
-        image = _thumbnail(source)
-        reply["thumbnail"] = base64.b64encode(image).decode() if image else None
+    reply["thumbnail"] = base64.b64encode(image).decode() if image else None
     return reply
 
 

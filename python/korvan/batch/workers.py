@@ -119,8 +119,11 @@ class Worker:
             self._kill_for("memory", f"takes more than {self.memory // MEBIBYTE} MiB of memory "
                                      f"({taken // MEBIBYTE} MiB when it was ended)")
 
-    def end(self) -> None:
+    def kill(self) -> None:
         self._process.kill()
+
+    def end(self) -> None:
+        self.kill()
         self._process.wait()
         self._socket.close()
         self._output.close()
@@ -165,6 +168,7 @@ class Pool:
         self._stop = stop
         self._workers: list[Worker] = []
         self._failed_starts = 0
+        self._next_watch = 0.0
         self._selector = selectors.DefaultSelector()
         self._selector.register(stop, selectors.EVENT_READ)
         self._threads = max(1, len(os.sched_getaffinity(0)) // self.jobs)
@@ -221,8 +225,10 @@ class Pool:
             if isinstance(key.data, Worker) and (event := key.data.receive()):
                 self._count_start(event)
                 yield event
-        for worker in self._workers:
-            worker.watch()
+        if (now := time.monotonic()) >= self._next_watch:
+            self._next_watch = now + TICK
+            for worker in self._workers:
+                worker.watch()
 
     def drop(self, event: Event) -> None:
         """Forgets a worker that ended, or that served long enough; others are started in its place."""
@@ -249,6 +255,8 @@ class Pool:
             self.remove(worker)
 
     def close(self) -> None:
+        for worker in self._workers:
+            worker.kill()  # all at once: to give much memory back takes the system a while
         for worker in list(self._workers):
             self.remove(worker)
         self._selector.close()

@@ -66,8 +66,10 @@ def add_parser(subparsers: Any) -> None:
 
 def _add_page(parser: argparse.ArgumentParser) -> None:
     page = parser.add_argument_group("what is drawn, and how (see korvan convert --help)")
-    page.add_argument("--layout", action="append", dest="layouts", metavar="NAME", help="a layout, or a pattern")
-    page.add_argument("--layer", action="append", dest="layers", metavar="NAME", help="a layer, or a pattern")
+    page.add_argument("--layout", "--layouts", action="append", dest="layouts", metavar="NAME",
+                      help="a layout, or a pattern")
+    page.add_argument("--layer", "--layers", action="append", dest="layers", metavar="NAME",
+                      help="a layer, or a pattern")
     page.add_argument("--size", metavar="WxH", help="size of the page")
     page.add_argument("--paper", metavar="NAME", help="paper, such as A3")
     page.add_argument("--dpi", type=float, metavar="N", help="pixels per inch")

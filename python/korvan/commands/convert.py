@@ -15,6 +15,7 @@ if TYPE_CHECKING:
 
 _EXAMPLES = """  korvan convert plan.dxf -o plan.pdf
   korvan convert plan.dxf -o plan.pdf --layout '*' --paper A3
+  korvan convert plan.dxf -o 'plan-{layout}.png'
   korvan convert *.dwg -o images/ --to png --size 1600x --background black
   korvan convert plan.dxf -o plan.svg --layer 'WALL*' --layer DOOR --color-mode black
   korvan convert new.dwg -o old.dxf --release R2000
@@ -27,12 +28,13 @@ def add_parser(subparsers: Any) -> None:
     parser = parser_for(subparsers, "convert", "Converts drawings to the format of the target.", _EXAMPLES)
     parser.add_argument("files", nargs="+", metavar="IN", help="drawings, metafiles, building models or images")
     parser.add_argument("-o", "--out", required=True, metavar="OUT",
-                        help="the file to write; a folder (ends with /) for many; - for standard output")
+                        help="the file to write, with {layout} in its name a file for each layout; a folder (ends with /) "
+                             "for many; - for standard output")
     parser.add_argument("--to", metavar="EXT", help="the format, as an extension; by default that of OUT")
     page = parser.add_argument_group("what is drawn, and how")
-    page.add_argument("--layout", action="append", dest="layouts", metavar="NAME",
+    page.add_argument("--layout", "--layouts", action="append", dest="layouts", metavar="NAME",
                       help="a layout to draw, or a pattern; repeat for more (default: Model)")
-    page.add_argument("--layer", action="append", dest="layers", metavar="NAME",
+    page.add_argument("--layer", "--layers", action="append", dest="layers", metavar="NAME",
                       help="a layer to draw, or a pattern; repeat for more (default: all)")
     page.add_argument("--size", metavar="WxH", help="page: 1600x1200 or 1600x (pixels, points), 420x297mm, 11x17in")
     page.add_argument("--paper", metavar="NAME", help="paper: A4, A3-portrait, letter, ARCH-D")
@@ -102,14 +104,14 @@ def _check(arguments: argparse.Namespace) -> None:
 
 def _report(arguments: argparse.Namespace, source: str, done: ConversionResult) -> None:
     if arguments.json:
-        print_json({"source": source, "output": str(done.output), "format": done.format,
-                    "seconds": round(done.seconds, 4), "warnings": done.warnings, "fonts": done.fonts})
+        print_json({"source": source, "output": str(done.output), "outputs": list(map(str, done.outputs)),
+                    "format": done.format, "seconds": round(done.seconds, 4), "warnings": done.warnings, "fonts": done.fonts})
     elif not arguments.quiet:
         notes = [*done.warnings, *(f"font {font}" for font in done.fonts)]
-        size = size_text(done.output.stat().st_size)
+        size = size_text(sum(output.stat().st_size for output in done.outputs))
         plural = "s" if len(notes) > 1 else ""
         count = f", {len(notes)} note{plural} (-v lists them)" if notes and not arguments.verbose else ""
-        print(f"{source} -> {done.output} ({size}, {done.seconds:.2f} s{count})")
+        print(f"{source} -> {', '.join(map(str, done.outputs))} ({size}, {done.seconds:.2f} s{count})")
         for note in notes if arguments.verbose else ():
             print(f"  {note}")
 
@@ -129,15 +131,15 @@ def _tasks(arguments: argparse.Namespace, target: str) -> Iterator[tuple[str, st
         if path in written and len(arguments.files) > 1:
             raise Usage(f"{source} and {written[path]} would both become {path}")
         written[path] = source
-        yield source, path, options
+        yield source, target, options
 
 
 def convert_task(task: tuple[str, str, dict[str, Any]]) -> ConversionResult:
     """One conversion, for worker processes too."""
     from korvan.tools.conversion import convert
 
-    source, path, options = task
-    return convert(source, path, **options)
+    source, target, options = task
+    return convert(source, target, **options)
 
 
 def _outcomes(tasks: list[tuple[str, str, dict[str, Any]]], jobs: int, memory: int | None

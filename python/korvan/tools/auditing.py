@@ -33,6 +33,8 @@ CODES = {
 }
 _BY = {"BYLAYER", "BYBLOCK", "CONTINUOUS", ""}
 _FAR = 1e9
+# Anonymous blocks, arrowheads, and the spaces of R12, where they are no anonymous blocks.
+_NEVER_REFERENCED = ("*", "_", "$MODEL_SPACE", "$PAPER_SPACE")
 _SAME = "STANDARD"
 
 
@@ -94,7 +96,7 @@ class _Audit:
         self.check_cycles()
         for block in list(self.drawing.block_entities):
             name = block.name
-            if not name.startswith(("*", "_")) and name.casefold() not in self.used:
+            if not name.upper().startswith(_NEVER_REFERENCED) and name.casefold() not in self.used:
                 self.find(402, f"block {name!r} is not used", name)
 
     def check_entities(self, block: CadBlockEntity) -> None:

@@ -4,11 +4,12 @@ from __future__ import annotations
 
 import io
 import os
+import re
 import signal
 import stat
 import time
 from collections.abc import Generator, Mapping, Sequence
-from contextlib import contextmanager
+from contextlib import ExitStack, contextmanager
 from pathlib import Path
 from types import FrameType
 from typing import NamedTuple
@@ -25,13 +26,15 @@ from korvan.tools.pages import set_page
 from korvan.tools.settings import Settings, parse_color
 
 MODEL = "Model"
+PLACEHOLDER = "{layout}"
+_NOT_IN_NAMES = re.compile(r'[\x00-\x1f/\\<>:"|?*]')
 
 
 class ConversionResult(NamedTuple):
     """What a conversion wrote."""
 
     output: Path
-    """The file that was written."""
+    """The file that was written; the first one, where each layout has a file."""
     format: str
     """Its format, such as PDF."""
     seconds: float
@@ -40,25 +43,31 @@ class ConversionResult(NamedTuple):
     """What was left out or approximated, one line each."""
     fonts: list[str]
     """Fonts that were not available, with what replaced them."""
+    outputs: list[Path]
+    """All files that were written."""
 
 
-class _Request(NamedTuple):
-    """The options of a conversion as they were given."""
+class Request(NamedTuple):
+    """The options of a conversion, as :func:`convert` explains them."""
 
-    layouts: Sequence[str] | None
-    layers: Sequence[str] | None
-    size: str | None
-    paper: str | None
-    dpi: float | None
-    background: str | None
-    color_mode: str | None
-    fonts: Sequence[str | os.PathLike[str]]
-    settings: Settings
+    to: str | None = None
+    layouts: Sequence[str] | None = None
+    layers: Sequence[str] | None = None
+    size: str | None = None
+    paper: str | None = None
+    dpi: float | None = None
+    background: str | None = None
+    color_mode: str | None = None
+    fonts: Sequence[str | os.PathLike[str]] = ()
+    release: str | None = None
+    settings: Mapping[str, str] | None = None
+    force: bool = False
+    tolerant: bool = False
+    timeout: float | None = None
 
-    @property
-    def concerns_page(self) -> bool:
+    def concerns_page(self, settings: Settings) -> bool:
         given = (self.layouts, self.layers, self.size, self.paper, self.background, self.color_mode)
-        return any(one is not None for one in given) or self.settings.concerns_page
+        return any(one is not None for one in given) or settings.concerns_page
 
 
 def layout_names(image: Image) -> list[str]:
@@ -127,7 +136,7 @@ def _check_output(path: Path, force: bool) -> None:
         raise ToolError(f"{path} exists; say force (--force) to replace it")
 
 
-def _color_options(raster: CadRasterizationOptions, request: _Request, target: Target) -> None:
+def _color_options(raster: CadRasterizationOptions, request: Request, target: Target) -> None:
     if request.background is not None:
         raster.background_color = parse_color(request.background)
         raster.embed_background = not target.is_raster
@@ -136,11 +145,12 @@ def _color_options(raster: CadRasterizationOptions, request: _Request, target: T
         raster.draw_color = parse_color(request.color_mode)
 
 
-def _page_options(image: Image, request: _Request, target: Target, options: ImageOptionsBase) -> None:
+def _page_options(image: Image, request: Request, target: Target, settings: Settings, options: ImageOptionsBase
+                  ) -> None:
     """Sets how the content is rendered, as far as anything of that was asked for."""
     raster = CadRasterizationOptions()
     if request.layouts is not None:
-        raster.layouts = matching("layout", request.layouts, layout_names(image))
+        raster.layouts = list(request.layouts)
     if request.layers is not None:
         known = list(image.layers.names) if isinstance(image, CadImage) else []
         raster.layers = matching("layer", request.layers, known)
@@ -151,8 +161,8 @@ def _page_options(image: Image, request: _Request, target: Target, options: Imag
     if files:
         raster.shx_fonts = files
     is_rendered = target.has_pages and not isinstance(image, RasterImage)
-    request.settings.apply(options, raster)
-    if request.concerns_page or files or (is_rendered and request.dpi is not None):
+    settings.apply(options, raster)
+    if request.concerns_page(settings) or files or (is_rendered and request.dpi is not None):
         options.vector_rasterization_options = raster
 
 
@@ -176,6 +186,82 @@ def _warnings(options: ImageOptionsBase, defects: Sequence[str]) -> tuple[list[s
     return [*defects, *(one.message for one in result.failures)], list(result.font_substitutions)
 
 
+def _file_names(path: Path, layouts: Sequence[str]) -> list[Path]:
+    """A file for each layout: the placeholder is replaced by its name, as far as a file can have that."""
+    found: list[Path] = []
+    for layout in layouts:
+        name = _NOT_IN_NAMES.sub("_", layout)
+        one, number = path.with_name(path.name.replace(PLACEHOLDER, name)), 1
+        while one in found:  # pictures of a metafile may have one name
+            number += 1
+            one = path.with_name(path.name.replace(PLACEHOLDER, f"{name}-{number}"))
+        found.append(one)
+    return found
+
+
+def _outputs(image: Image, path: Path, target: Target, request: Request, dst: str
+             ) -> list[tuple[Path, Sequence[str] | None]]:
+    """The files to write, and the layouts of each."""
+    layouts = None if request.layouts is None else matching("layout", request.layouts, layout_names(image))
+    in_folder = path != Path(dst)
+    is_split = PLACEHOLDER in path.name and not in_folder
+    if layouts is not None and len(layouts) > 1 and target.has_one_page and not is_split:
+        split = f"{path.stem}-{PLACEHOLDER}{path.suffix}"
+        if not in_folder:
+            raise ToolError(f"a {target.name} file holds one layout, not {len(layouts)}: write {split} for a file each")
+        path, is_split = path.with_name(split), True
+    if not is_split:
+        return [(path, layouts)]
+    if layouts is None:
+        layouts = used_layouts(image) if isinstance(image, CadImage) else layout_names(image)
+    if not layouts:
+        raise ToolError(f"{path.name}: there are no layouts to name files after")
+    return [(one, [layout]) for one, layout in zip(_file_names(path, layouts), layouts, strict=True)]
+
+
+@contextmanager
+def converted(src: str | os.PathLike[str], dst: str | os.PathLike[str], request: Request
+              ) -> Generator[tuple[Image, ConversionResult]]:
+    """Converts a file as :func:`convert` does, and leaves what was loaded open for the body of the statement."""
+    start = time.perf_counter()
+    path = output_path(src, dst, request.to)
+    target = find_target(path, request.to)
+    settings = Settings(request.settings)
+    target.make_options(request.release)
+    if PLACEHOLDER not in path.name:
+        _check_output(path, request.force)
+    for font in request.fonts:
+        if not os.path.exists(font):
+            raise ToolError(f"fonts {font}: there is no such file or folder")
+    given = load_options(request.fonts, request.tolerant)
+    settings.apply_to_load(given)
+    with ExitStack() as opened:
+        warnings: list[str] = []
+        fonts: list[str] = []
+        try:
+            with _deadline(request.timeout):
+                image = opened.enter_context(load(src, given))
+                outputs = _outputs(image, path, target, request, os.fspath(dst))
+                for one, _ in outputs:
+                    _check_output(one, request.force)
+                for one, layouts in outputs:
+                    options = target.make_options(request.release)
+                    _page_options(image, request._replace(layouts=layouts), target, settings, options)
+                    if request.timeout is not None:
+                        left = request.timeout - (time.perf_counter() - start)
+                        options.timeout = max(1, int(left * 1000))
+                    _save(image, one, options)
+                    found, replaced = _warnings(options, () if warnings else given.errors)
+                    warnings += [text for text in found if text not in warnings]
+                    fonts += [font for font in replaced if font not in fonts]
+        except TimeoutError as failure:
+            raise ToolError(str(failure)) from None
+        except (OSError, RuntimeError) as failure:
+            raise ToolError(message_of(failure)) from failure
+        files = [one for one, _ in outputs]
+        yield image, ConversionResult(files[0], target.name, time.perf_counter() - start, warnings, fonts, files)
+
+
 def convert(
     src: str | os.PathLike[str], dst: str | os.PathLike[str], *, to: str | None = None,
     layouts: Sequence[str] | None = None, layers: Sequence[str] | None = None, size: str | None = None,
@@ -187,9 +273,12 @@ def convert(
     """Converts a file to the format of the target's extension.
 
     :param src: The file to convert; its format is detected from the content.
-    :param dst: The file to write. In a folder, it gets the name of the source, and ``to`` states its format.
+    :param dst: The file to write. In a folder, it gets the name of the source, and ``to`` states its format. With
+        ``{layout}`` in its name, each layout gets a file of its own, and so it does in a folder where a format holds
+        one page: ``plan-Layout1.png``.
     :param to: The format as an extension, such as ``pdf``; by default that of ``dst``.
-    :param layouts: The layouts to render, as names or patterns such as ``Sheet*``; model space by default.
+    :param layouts: The layouts to render, as names or patterns such as ``Sheet*``; model space by default, and
+        with ``{layout}`` in the name of the file those that have content.
     :param layers: The layers to render, as names or patterns; all by default.
     :param size: The size of the page: ``1600x1200`` or ``1600x``, in pixels for images and in points of 1/72 inch
         for pages, or ``420x297mm``.
@@ -205,27 +294,7 @@ def convert(
     :param timeout: How many seconds it may take.
     :raises ToolError: A file, a name or an option is wrong; the message says which, and what would be right.
     """
-    start = time.perf_counter()
-    path = output_path(src, dst, to)
-    target = find_target(path, to)
-    request = _Request(layouts, layers, size, paper, dpi, background, color_mode, fonts, Settings(settings))
-    options = target.make_options(release)
-    _check_output(path, force)
-    for font in fonts:
-        if not os.path.exists(font):
-            raise ToolError(f"fonts {font}: there is no such file or folder")
-    try:
-        with _deadline(timeout):
-            given = load_options(fonts, tolerant)
-            request.settings.apply_to_load(given)
-            with load(src, given) as image:
-                _page_options(image, request, target, options)
-                if timeout is not None:
-                    options.timeout = max(1, int((timeout - (time.perf_counter() - start)) * 1000))
-                _save(image, path, options)
-                warnings, replaced = _warnings(options, list(given.errors))
-    except TimeoutError as failure:
-        raise ToolError(str(failure)) from None
-    except (OSError, RuntimeError) as failure:
-        raise ToolError(message_of(failure)) from failure
-    return ConversionResult(path, target.name, time.perf_counter() - start, warnings, replaced)
+    request = Request(to, layouts, layers, size, paper, dpi, background, color_mode, fonts, release, settings, force,
+                      tolerant, timeout)
+    with converted(src, dst, request) as (_, result):
+        return result

@@ -2,24 +2,27 @@
 
 from __future__ import annotations
 
+import math
 import re
 from collections.abc import Iterable
+from operator import mul
 from typing import Any, Literal
 
 from korvan.cad.fileformats.cad import CadImage
-from korvan.cad.fileformats.cad.cadobjects import CadBlockEntity, CadEntityBase
+from korvan.cad.fileformats.cad.cadobjects import CadBlockEntity, CadEntityBase, CadInsertObject
 from korvan.cad.fileformats.cad.cadtables import (
     CadBlockTableObject, CadDimensionStyleTable, CadLayerTable, CadLineTypeTableObject,
     CadStyleTableObject)
+from korvan.tools.definitions import REFERENCES, copy_definition, new_handle
 from korvan.tools.errors import ToolError, unknown
 from korvan.tools.opening import cast
 from korvan.tools.queries import MODEL
-from korvan.tools.transforms import Transform, transform
-from korvan.tools.plain_values import fingerprint, member_names, values
+from korvan.tools.transforms import Transform, plane_axes, transform
+from korvan.tools.plain_values import copy_values, fingerprint, values
 
 Conflict = Literal["keep", "rename", "error"]
-# What refers to the entities and objects of its own drawing by handles, which mean nothing in another one.
-_BOUND = {"IMAGE", "PDFUNDERLAY", "DWFUNDERLAY", "DGNUNDERLAY", "ACAD_TABLE", "VIEWPORT", "ACAD_PROXY_ENTITY"}
+# What only the program that wrote it understands.
+_BOUND = {"ACAD_PROXY_ENTITY"}
 _KEPT_BY_HANDLE = {
     "dimtxsty": "styles", "dimltype": "line_types", "dimltex1": "line_types", "dimltex2": "line_types",
     "dimblk": "block_records", "dimblk1": "block_records", "dimblk2": "block_records",
@@ -27,27 +30,10 @@ _KEPT_BY_HANDLE = {
 }
 
 
-def _copy_values(source: Any, target: Any) -> None:
-    """Copies the plain values and lists of a record of a table to a new one."""
-    for name in member_names(source.__class__):
-        if name == "name":
-            continue
-        value = getattr(source, name)
-        if hasattr(value, "extend"):
-            getattr(target, name).extend(list(value))
-            continue
-        try:
-            setattr(target, name, value)
-        except AttributeError:  # what can only be read follows from the rest
-            continue
-
-
 def _handle(drawing: CadImage, record: Any) -> str:
     """The handle of a record; a new one where it has none yet."""
     if not record.object_handle:
-        seed = drawing.header.hand_seed or "100"
-        record.object_handle = seed
-        drawing.header.hand_seed = f"{int(seed, 16) + 1:X}"
+        record.object_handle = new_handle(drawing)
     return str(record.object_handle)
 
 
@@ -81,7 +67,7 @@ class _Copier:
             name = self._names[key] = self._free(name, there)
         new = kind()
         new.name = name
-        _copy_values(found, new)
+        copy_values(found, new)
         there.add(new)
         self._refer(found, new)
         return name
@@ -159,6 +145,8 @@ class _Copier:
         if entity.type_name_text in _BOUND:
             return None
         own = cast(entity.clone())
+        if own.type_name_text == "ACAD_TABLE":
+            own = _block_of_table(own)
         self.adopt(own)
         for part in getattr(own, "attributes", None) or getattr(own, "vertices", None) or ():
             one = cast(part)
@@ -181,6 +169,41 @@ class _Copier:
             own.name = self.block(own.name)
         elif getattr(own, "block_name", ""):
             own.block_name = self.block(own.block_name)
+        elif own.type_name_text in REFERENCES:
+            copy_definition(self.source, self.target, own)
+            if hasattr(own, "image_def_reactor_reference"):
+                own.image_def_reactor_reference = ""
+        elif own.type_name_text == "VIEWPORT":
+            self.view(own)
+
+    def view(self, own: Any) -> None:
+        """A viewport freezes the layers of these names; its clip boundary stays behind."""
+        names = {layer.object_handle: layer.name for layer in self.source.layers}
+        copied = (self.target.layers.find(self.layer(names[one])) for one in own.frozen_layers if one in names)
+        own.frozen_layers[:] = [_handle(self.target, layer) for layer in copied]
+        own.clipping_boundary_handle = ""
+
+
+def _block_of_table(table: Any) -> Any:
+    """A reference to the block that shows a table, as its cells refer to styles and fields of its drawing."""
+    shown = CadInsertObject()
+    for member in ("name", "layer_name", "line_type_name", "linetype_scale", "line_weight", "color_id", "color_value",
+                   "color_name", "transparency", "visible", "insertion_point", "extrusion_direction", "scale_x",
+                   "scale_y", "scale_z"):
+        setattr(shown, member, getattr(table, member))
+    along, normal = table.horizontal_direction, table.extrusion_direction
+    x, y, _ = plane_axes((normal.x, normal.y, normal.z))
+    across = (along.x, along.y, along.z)
+    shown.rotation_angle = math.degrees(math.atan2(sum(map(mul, across, y)), sum(map(mul, across, x))))
+    return shown
+
+
+def _number_viewports(place: Iterable[CadEntityBase], copies: Iterable[Any]) -> None:
+    """Viewports of a layout have numbers; 1 is the sheet itself."""
+    views = [one for one in copies if one.type_name_text == "VIEWPORT"]
+    number = max([1, *(cast(one).viewport_id for one in place if one.type_name_text == "VIEWPORT")]) if views else 1
+    for number, view in enumerate(views, number + 1):
+        view.viewport_id = view.viewport_status = number
 
 
 def copy_entities(
@@ -189,7 +212,9 @@ def copy_entities(
 ) -> list[Any]:
     """Copies entities to another drawing, or within one, with the layers, styles and blocks that they need.
 
-    Images, underlays, tables and viewports are not copied, as they refer to objects of their own drawing.
+    Images and underlays take their definitions along; paths of files stay as they are written. A table comes as a
+    reference to the block that shows it, a viewport without its clip boundary. Proxy entities are not copied, as only
+    the program that wrote them knows what they refer to.
 
     :param entities: What is copied, such as the result of a query.
     :param source: The drawing that they are from.
@@ -207,6 +232,7 @@ def copy_entities(
     if change is not None:
         transform(copies, change)
     place = target.get_layout_entities(layout)
+    _number_viewports(place, copies)
     for copied in copies:
         place.append(copied)
     return copies

@@ -11,13 +11,23 @@ from typing import Any, NamedTuple
 from korvan.cad import FileFormat, FileFormatCategory, imageoptions
 from korvan.cad.fileformats import FileFormatFamily, FileFormatInfo, SupportedFileFormats
 from korvan.cad.fileformats.cad.cadconsts import CadAcadVersion
-from korvan.cad.imageoptions import DwgOptions, DxfOptions, DxfOutputVersion, ImageOptionsBase
+from korvan.cad.imageoptions import (
+    DicomOptions,
+    DwgOptions,
+    DxfOptions,
+    DxfOutputVersion,
+    GifOptions,
+    ImageOptionsBase,
+    PdfOptions,
+    TiffOptions,
+)
 from korvan.tools.errors import ToolError, nearest
 
 _RELEASES = {
     "2000": CadAcadVersion.AC1015, "2004": CadAcadVersion.AC1018, "2007": CadAcadVersion.AC1021,
     "2010": CadAcadVersion.AC1024, "2013": CadAcadVersion.AC1027, "2018": CadAcadVersion.AC1032,
 }
+_WITH_PAGES = (PdfOptions, TiffOptions, GifOptions, DicomOptions)
 
 
 class Target(NamedTuple):
@@ -38,6 +48,11 @@ class Target(NamedTuple):
     def has_pages(self) -> bool:
         """Whether drawings are rendered on pages of it."""
         return self.category in (FileFormatCategory.BITMAP, FileFormatCategory.VECTOR)
+
+    @property
+    def has_one_page(self) -> bool:
+        """Whether a file of it holds one page only."""
+        return self.has_pages and not isinstance(self.options(), _WITH_PAGES)
 
     def make_options(self, release: str | None = None) -> ImageOptionsBase:
         """New options of the format, of a release where it has some."""

@@ -97,3 +97,18 @@ def fingerprint(found: Any) -> Any:
         several: Any = found  # type: ignore[reportUnknownVariableType]
         return tuple(fingerprint(value) for value in several)
     return found
+
+
+def copy_values(source: Any, target: Any) -> None:
+    """Copies the plain values and lists of an object to a new one of its class, but for the name of a record of a table."""
+    for name in member_names(source.__class__):
+        if name == "name":
+            continue
+        value = getattr(source, name)
+        if hasattr(value, "extend"):
+            getattr(target, name).extend(list(value))
+            continue
+        try:
+            setattr(target, name, value)
+        except AttributeError:  # what can only be read follows from the rest
+            continue

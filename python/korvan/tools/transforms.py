@@ -269,11 +269,29 @@ def _leader(own: Any, transform: Transform, _plane: _Plane) -> None:
                 point.x, point.y, point.z = transform.point(_vector(point))
 
 
+def _underlay(own: Any, transform: Transform, plane: _Plane) -> None:
+    for name in ("scale_x", "scale_y", "scale_z"):
+        setattr(own, name, getattr(own, name) * transform.factor)
+    own.normal = Cad3DPoint(*plane.normal)
+
+
+def _helix(own: Any, transform: Transform, _plane: _Plane) -> None:
+    own.handedness = own.handedness != transform.is_mirror
+
+
+def _multiline(own: Any, transform: Transform, _plane: _Plane) -> None:
+    for vertex in own.vertices:
+        vertex.location = Cad3DPoint(*transform.point(_vector(vertex.location)))
+        for name in ("direction", "miter"):
+            setattr(vertex, name, Cad3DPoint(*_unit(transform.vector(_vector(getattr(vertex, name))))))
+
+
 _TEXT = _Shape(plane=("first_alignment", "second_alignment"), degrees=("text_rotation",),
                lengths=("text_height", "thickness"))
 _FLAT4 = _Shape(plane=("first_point", "second_point", "third_point", "fourth_point"), lengths=("thickness",))
 _DIMENSION = _Shape(points=("definition_point",), more=_dimension)
 _IMAGE = _Shape(points=("insertion_point",), vectors=("vector_u", "vector_v"))
+_UNDERLAY = _Shape(plane=("insertion_point",), degrees=("rotation_angle",), more=_underlay)
 _SHAPES: dict[str, _Shape] = {
     "LINE": _Shape(points=("first_point", "second_point"), lengths=("thickness",)),
     "POINT": _Shape(points=("center_point",), lengths=("thickness",)),
@@ -298,15 +316,30 @@ _SHAPES: dict[str, _Shape] = {
                      lengths=("text_height", "text_width")),
     "MULTILEADER": _Shape(more=_leader), "MLEADER": _Shape(more=_leader),
     "IMAGE": _IMAGE, "WIPEOUT": _IMAGE,
+    "PDFUNDERLAY": _UNDERLAY, "DWFUNDERLAY": _UNDERLAY, "DGNUNDERLAY": _UNDERLAY,
+    "SHAPE": _Shape(plane=("insertion_point",), degrees=("rotation_angle",), lengths=("size", "thickness")),
+    "HELIX": _Shape(points=("axis_base_point", "start_point"), directions=("axis_vector",),
+                    vectors=("start_tangent", "end_tangent"), lists=("control_points", "fit_points"),
+                    lengths=("radius", "turn_height"), more=_helix),
+    "LIGHT": _Shape(points=("position", "target")),
+    "MLINE": _Shape(points=("start_point",), more=_multiline),
+    "ACAD_TABLE": _Shape(points=("insertion_point",), directions=("horizontal_direction",)),
     "MESH": _Shape(lists=("vertices",)),
     "TOLERANCE": _Shape(points=("insertion_point",), directions=("direction_vector",)),
     "VIEWPORT": _Shape(points=("center_point",), lengths=("width", "height")),
 }
+_UNABLE = {
+    "3DSOLID": "is a solid in ACIS data", "BODY": "is a solid in ACIS data", "REGION": "is a solid in ACIS data",
+    "OLE2FRAME": "is a document of another program",
+    "ACAD_PROXY_ENTITY": "is known to its own program alone",
+}
+# Types with sizes that nothing tells, such as the offsets of the lines of a multiline: they are moved and rotated.
+_RIGID = {"MLINE", "ACAD_TABLE"}
 
 
 def _apply(own: Any, transform: Transform) -> None:
     shape = _SHAPES[own.type_name_text]
-    normal = getattr(own, "extrusion_direction", None)
+    normal = getattr(own, "extrusion_direction", getattr(own, "normal", None))
     plane = _Plane(transform, _vector(normal) if normal is not None else (0.0, 0.0, 1.0))
     for name in shape.directions:
         direction = _vector(getattr(own, name))
@@ -327,21 +360,29 @@ def _apply(own: Any, transform: Transform) -> None:
             point.x, point.y, point.z = transform.point(_vector(point))
     if shape.more is not None:
         shape.more(own, transform, plane)
-    if normal is not None and any(_vector(normal)):
+    if normal is not None and hasattr(own, "extrusion_direction") and any(_vector(normal)):
         own.extrusion_direction = Cad3DPoint(*plane.normal)
+
+
+def _reason(kind: str) -> str:
+    return "is a surface in ACIS data" if kind.endswith("SURFACE") else _UNABLE.get(kind, "is of an unknown type")
 
 
 def transform(entities: Iterable[CadEntityBase], change: Transform) -> int:
     """Transforms entities in place; returns how many there were.
 
-    Dimensions lose the block with their graphics, which is made anew from their points when they are drawn.
+    Solids, regions and surfaces of ACIS data, OLE objects and proxies are refused, multilines and tables where the
+    change is more than a movement and a rotation. Dimensions lose the block with their graphics, which is made anew from their points when they are drawn.
 
     :raises ToolError: One is of a type that cannot be transformed; nothing is changed then.
     """
     found = [cast(entity) for entity in entities]
-    unable = sorted({one.type_name_text for one in found if one.type_name_text not in _SHAPES})
+    kinds = sorted({one.type_name_text for one in found})
+    unable = [f"{kind} ({_reason(kind)})" for kind in kinds if kind not in _SHAPES]
+    if change.is_mirror or not math.isclose(change.factor, 1):
+        unable += [f"{kind} (is moved and rotated only)" for kind in kinds if kind in _RIGID]
     if unable:
-        raise ToolError(f"{', '.join(unable)} cannot be transformed; leave these entities out of the query")
+        raise ToolError(f"{', '.join(unable)} cannot be transformed so; leave these entities out of the query")
     for own in found:
         _apply(own, change)
     return len(found)

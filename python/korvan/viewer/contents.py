@@ -94,6 +94,16 @@ class Contents:
     """What was not drawn faithfully, and fonts that were replaced."""
 
 
+def _why_no_view(image: korvan.cad.Image) -> str:
+    """What is missing, and which commands tell of such a file."""
+    from korvan.cad.fileformats.ifc import IfcImage
+
+    if IfcImage._cast_to(image):
+        return ("there is no 2D view of building models: their solids are not drawn yet; korvan info lists their "
+                "contents, korvan properties their property sets")
+    return "there is no 2D view of this kind of file: its meshes and solids are not drawn yet; korvan info describes it"
+
+
 def read_contents(source: str | os.PathLike[str], layouts: Sequence[str] | None = None) -> Contents:
     """Reads a file.
 
@@ -116,7 +126,7 @@ def read_contents(source: str | os.PathLike[str], layouts: Sequence[str] | None 
             raise ViewerError("only drawings have layouts to select")
         if RasterImage._cast_to(image) or not image.can_save(SvgOptions()):
             if not image.can_save(PngOptions()):
-                raise ViewerError("there is no 2D view of this kind of file; drawings and images have one")
+                raise ViewerError(_why_no_view(image))
             return Contents(path.name, list(_read_pages(image)))
         contents = Contents(path.name, [])
         contents.layouts.append(_render(image, path.stem, None, contents, is_sheet=True))
