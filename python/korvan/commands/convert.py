@@ -8,7 +8,7 @@ import sys
 from collections.abc import Iterator
 from typing import TYPE_CHECKING, Any
 
-from korvan.commands.common import Progress, Usage, add_json, fail, parser_for, print_json, size_text
+from korvan.commands.common import Progress, Usage, add_json, fail, parser_for, print_json, show, size_text
 
 if TYPE_CHECKING:
     from korvan.tools import ConversionResult
@@ -109,9 +109,9 @@ def _report(arguments: argparse.Namespace, source: str, done: ConversionResult) 
         size = size_text(done.output.stat().st_size)
         plural = "s" if len(notes) > 1 else ""
         count = f", {len(notes)} note{plural} (-v lists them)" if notes and not arguments.verbose else ""
-        print(f"{source} -> {done.output} ({size}, {done.seconds:.2f} s{count})")
+        show(f"{source} -> {done.output} ({size}, {done.seconds:.2f} s{count})")
         for note in notes if arguments.verbose else ():
-            print(f"  {note}")
+            show(f"  {note}")
 
 
 def _tasks(arguments: argparse.Namespace, target: str) -> Iterator[tuple[str, str, dict[str, Any]]]:
