@@ -21,6 +21,7 @@ from unittest import mock
 from korvan.commands import installed_commands, main
 from korvan.commands.common import Progress
 
+import hostile_files as hostile
 from drawings import EXAMPLES, SHARED, Png, needs_shared, needs_tools
 
 PLAN = str(EXAMPLES / "floor_plan.dxf")
@@ -211,6 +212,29 @@ class Inspecting(Commands):
             self.good("properties", HOUSE, "--type", "IfcWall", "--wide", "--set", "qto*"))))
         self.assertEqual(len(wide), 6)
         self.assertEqual(wide[0]["Qto_WallBaseQuantities.GrossVolume"], "3.0")
+
+    def test_text_of_strangers_controls_neither_terminals_nor_tables(self) -> None:
+        hidden = "\x1b]0;x\x07\x1b[2J\u009b1m\u202e=A"
+        names = ('=cmd|"/c calc"!A1', "@SUM(A1)", "-2+3", "-2.5", "+")
+        attributes = "".join(f"0\nATTRIB\n8\n0\n10\n0\n20\n0\n40\n1\n2\n{tag}{i}\n1\n{value}\n"
+                             for i, (tag, value) in enumerate(zip("TU=VW", names, strict=True)))
+        path = self.out / "a.dxf"
+        path.write_bytes(hostile.drawing(
+            hostile.text(hidden, hidden) + hostile.insert("B", more="66\n1\n") + attributes + "0\nSEQEND\n",
+            hostile.block("B", hostile.line()), tables=hostile.layers("0", hidden),
+        ).replace(b"AC1015", b"AC1021"))
+        for command in (("texts", "", path), ("layers", path), ("info", path), ("diff", path, PLAN),
+                        ("audit", path), ("texts", "", path, "--json"), ("layers", path, "--json")):
+            status, out, err = self.korvan(*command)
+            with self.subTest(command):
+                self.assertEqual(status, 0, err)
+                self.assertNotRegex(out + err, "[\x00-\x08\x0b-\x1f\x7f-\x9f\u202e]")
+                if "--json" in command:
+                    self.assertIn(repr(hidden), str(json.loads(out)))
+        header, row = csv.reader(io.StringIO(self.good("blocks", path, "--attributes", "B")))
+        cells = dict(zip(header, row, strict=True))
+        self.assertEqual([cells[name] for name in ("T0", "U1", "'=2", "V3", "W4")],
+                         [f"'{names[0]}", f"'{names[1]}", f"'{names[2]}", names[3], "'+"])
 
     def test_diff(self) -> None:
         changed = self.out / "b.dxf"

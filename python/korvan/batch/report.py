@@ -23,12 +23,12 @@ from korvan.batch.folder import BatchFolder
 from korvan.batch.journal import JournalReader
 from korvan.batch.settings import MEBIBYTE, Settings
 from korvan.batch.summary import Summary
+from korvan.tools.printing import cell
 
 ROWS_OF_ONE_PAGE = 5000
 _COLUMNS = ("path", "state", "target", "size", "result_size", "seconds", "memory", "kind", "error", "warnings", "hash",
             "crashes")
 _STATES = ("done", "failed", "crashed", "pending", "gone")
-_FORMULA = ("=", "+", "-", "@", "\t", "\r")
 
 Row = dict[str, Any]
 
@@ -102,15 +102,10 @@ def _write_rows(rows: Iterable[Row], table: IO[str], document: IO[str], summary:
     separator = "\n"
     for row in rows:
         values = {**row, "path": printable(row["path"]), "target": printable(row["target"])}
-        writer.writerow([_cell(values[name]) for name in _COLUMNS])
+        writer.writerow([cell(values[name]) for name in _COLUMNS])
         document.write(separator + json.dumps({name: values[name] for name in _COLUMNS}))
         separator = ",\n"
     document.write("\n]}\n")
-
-
-def _cell(value: object) -> object:
-    """A cell that programs for tables take as text: names of files may begin as formulas do."""
-    return f"'{value}" if isinstance(value, str) and value.startswith(_FORMULA) else value
 
 
 def _page(rows: Sequence[Row], summary: Summary, settings: Settings, pages: Sequence[Path], to_results: str) -> str:

@@ -8,7 +8,7 @@ from collections import Counter
 from functools import partial
 from typing import Any
 
-from korvan.commands.common import DRAWINGS, Usage, add_files, add_json, each, expand, parser_for, print_json
+from korvan.commands.common import DRAWINGS, Usage, add_files, add_json, each, expand, parser_for, print_json, show
 
 _EXAMPLES = """  korvan audit plan.dxf
   korvan audit --summary archive/
@@ -25,7 +25,7 @@ class _Codes(argparse.Action):
         from korvan.tools.auditing import CODES
 
         for code, text in CODES.items():
-            print(f"{code}  {text}")
+            show(f"{code}  {text}")
         parser.exit()
 
 
@@ -74,19 +74,19 @@ def _print(path: str, found: list[Any], summary: bool) -> None:
     from korvan.tools.auditing import CODES
 
     fixed = sum(one.count for one in found if one.is_fixed)
-    print(f"{path}: {sum(one.count for one in found)} findings" + (f", {fixed} corrected" if fixed else ""))
+    show(f"{path}: {sum(one.count for one in found)} findings" + (f", {fixed} corrected" if fixed else ""))
     if summary:
         counts: Counter[int] = Counter()
         for one in found:
             counts[one.code] += one.count
         for code, count in sorted(counts.items()):
-            print(f"  {code}: {count}  {CODES[code]}")
+            show(f"  {code}: {count}  {CODES[code]}")
         return
     for one in found:
         where = " ".join(part for part in (one.place, one.handle) if part)
         fix = f"; {'corrected' if one.is_fixed else 'a fix'}: {one.fix}" if one.fix else ""
         more = f", and {one.count - 1} more" if one.count > 1 else ""
-        print(f"  {one.code} {one.text}" + (f" ({where}{more})" if where else "") + fix)
+        show(f"  {one.code} {one.text}" + (f" ({where}{more})" if where else "") + fix)
 
 
 def run(arguments: argparse.Namespace) -> int:

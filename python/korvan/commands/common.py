@@ -21,17 +21,25 @@ class Usage(Exception):
     """Wrong usage that the parser cannot see: it ends the command with exit code 2."""
 
 
+def show(text: str) -> None:
+    """Prints text that may come from a file, without its control sequences."""
+    from korvan.tools.printing import shown
+
+    print(shown(text))
+
+
 def fail(path: object, failure: BaseException | str) -> None:
     """Prints an error about a file: one line on stderr."""
     from korvan.tools.errors import message_of
+    from korvan.tools.printing import shown
 
     text = failure if isinstance(failure, str) else message_of(failure)
-    print(f"korvan: {path}: {text}", file=sys.stderr)
+    print(shown(f"korvan: {path}: {text}"), file=sys.stderr)
 
 
 def print_json(value: object) -> None:
     """Prints a JSON document on a line of its own."""
-    print(json.dumps(value, default=str, ensure_ascii=False))
+    show(json.dumps(value, default=str, ensure_ascii=False))
 
 
 def add_json(parser: argparse.ArgumentParser) -> None:
@@ -97,8 +105,8 @@ def print_tables(
             print_json({"file": path, what: found})
         else:
             if len(paths) > 1:
-                print(("\n" if count else "") + path)
-            print(table([row(one) for one in found], headings))
+                show(("\n" if count else "") + path)
+            show(table([row(one) for one in found], headings))
         count += 1
     return 1 if count < len(paths) else 0
 

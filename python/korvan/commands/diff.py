@@ -6,7 +6,7 @@ import argparse
 import os
 from typing import TYPE_CHECKING, Any
 
-from korvan.commands.common import add_json, fail, parser_for, print_json
+from korvan.commands.common import add_json, fail, parser_for, print_json, show
 
 if TYPE_CHECKING:
     from korvan.tools.comparison import Difference
@@ -42,11 +42,11 @@ def _short(value: object) -> str:
 def _print(found: list[Difference], summary: bool) -> None:
     for one in () if summary else found:
         place = ", ".join(part for part in (one.place, one.layer) if part)
-        print(f"{_SIGNS[one.change]} {one.kind} {one.name}" + (f"  ({place})" if place else ""))
+        show(f"{_SIGNS[one.change]} {one.kind} {one.name}" + (f"  ({place})" if place else ""))
         for name, (before, after) in one.values.items():
-            print(f"    {name}: {_short(before)} -> {_short(after)}")
+            show(f"    {name}: {_short(before)} -> {_short(after)}")
     counts = [f"{sum(one.change == change for one in found)} {change}" for change in _SIGNS]
-    print("no differences" if not found else ", ".join(counts))
+    show("no differences" if not found else ", ".join(counts))
 
 
 def _write_overlay(arguments: argparse.Namespace) -> None:

@@ -7,7 +7,7 @@ from collections.abc import Mapping, Sequence
 from functools import partial
 from typing import Any
 
-from korvan.commands.common import add_files, add_json, each, expand, parser_for, print_json, size_text
+from korvan.commands.common import add_files, add_json, each, expand, parser_for, print_json, show, size_text
 
 _EXAMPLES = """  korvan info plan.dxf
   korvan info --quick archive/            every drawing below a folder, without rendering
@@ -78,10 +78,10 @@ def run(arguments: argparse.Namespace) -> int:
         if arguments.json:
             print_json(found)
         else:
-            print(("\n" if count else "") + path)
+            show(("\n" if count else "") + path)
             rows = lines(found)
             width = max(len(label) for label, _ in rows)
             for label, text in rows:
-                print(f"  {label:<{width}}  {text}")
+                show(f"  {label:<{width}}  {text}")
         count += 1
     return 1 if count < len(paths) else 0

@@ -31,13 +31,15 @@ def add_parser(subparsers: Any) -> None:
 
 
 def write_csv(rows: Iterable[Mapping[str, object]]) -> None:
-    """Rows as CSV, with a column for each key of any row."""
+    """Rows as CSV, with a column for each key of any row. Texts that begin as formulas do stay texts."""
+    from korvan.tools.printing import cell
+
     listed = list(rows)
     columns = list(dict.fromkeys(key for row in listed for key in row))
     if columns:
-        writer = csv.DictWriter(sys.stdout, columns, lineterminator="\n")
-        writer.writeheader()
-        writer.writerows(listed)
+        writer = csv.writer(sys.stdout, lineterminator="\n")
+        writer.writerow([cell(column) for column in columns])
+        writer.writerows([cell(row.get(column, "")) for column in columns] for row in listed)
 
 
 def _find(path: str, kind: str, wanted: str | None, own: bool) -> list[dict[str, Any]]:

@@ -9,7 +9,7 @@ from dataclasses import asdict
 from functools import partial
 from typing import Any
 
-from korvan.commands.common import Usage, add_json, each, expand, parser_for, print_json
+from korvan.commands.common import Usage, add_json, each, expand, parser_for, print_json, show
 
 _EXAMPLES = """  korvan texts door plan.dxf               texts with "door"; case is ignored
   korvan texts 'DN *[0-9]+' archive/       a regular expression, in all drawings below a folder
@@ -49,20 +49,22 @@ def _find(path: str, pattern: re.Pattern[str], layer: str | None, kind: str | No
 
 
 def _print(arguments: argparse.Namespace, path: str, found: list[Any], pattern: re.Pattern[str]) -> None:
+    from korvan.tools.printing import shown
+
     if arguments.json:
         print_json({"file": path, "texts": [asdict(text) for text in found]})
     elif arguments.count:
-        print(f"{path}: {len(found)}")
+        show(f"{path}: {len(found)}")
     elif arguments.list:
-        print(path)
+        show(path)
     else:
         colored = sys.stdout.isatty()
         for text in found:
-            shown = " | ".join(text.text.split("\n"))
+            content = shown(" | ".join(text.text.split("\n")))
             if colored and pattern.pattern:
-                shown = pattern.sub(lambda match: f"\x1b[1;31m{match[0]}\x1b[0m", shown)
+                content = pattern.sub(lambda match: f"\x1b[1;31m{match[0]}\x1b[0m", content)
             where = ", ".join(filter(None, (text.place, text.layer, f"{text.kind} {text.handle}".strip(), text.tag)))
-            print(f"{path}: {shown}  ({where})")
+            print(f"{shown(path)}: {content}  ({shown(where)})")
 
 
 def run(arguments: argparse.Namespace) -> int:
