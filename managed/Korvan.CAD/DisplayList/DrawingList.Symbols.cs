@@ -213,8 +213,8 @@ internal sealed partial class DrawingList
         }
     }
 
-    /// <summary>Adds the items of a symbol where it is placed; lines that reach far out of the page, by their parts near
-    /// it.</summary>
+    /// <summary>Adds the items of a symbol where it is placed; lines that reach far out of the page, by their parts
+    /// near it.</summary>
     private void Expand(in Placement place, in NearBox near, PathBuffer path)
     {
         DrawingList from = Definitions;
