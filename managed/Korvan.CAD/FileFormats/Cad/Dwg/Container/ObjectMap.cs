@@ -1,5 +1,8 @@
 using System;
+using System.Buffers;
+using System.Buffers.Binary;
 using System.Collections.Generic;
+using System.Runtime.InteropServices;
 using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Container;
@@ -40,9 +43,19 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
     /// <param name="start">Its place in the file; -1 if it was compressed.</param>
     internal static ObjectMap Read(DwgSource source, ReadOnlySpan<byte> data, long start)
     {
-        const int bytesOfEntry = 3;
-        List<ulong> handles = new(data.Length / bytesOfEntry);
-        List<long> offsets = new(data.Length / bytesOfEntry);
+        Pairs pairs = new();
+        try
+        {
+            return Read(source, data, start, ref pairs);
+        }
+        finally
+        {
+            pairs.Return();
+        }
+    }
+
+    private static ObjectMap Read(DwgSource source, ReadOnlySpan<byte> data, long start, ref Pairs pairs)
+    {
         RawReader map = new(data);
         int defects = source.Options.Errors.Count;
         while (true)
@@ -56,7 +69,7 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
                 break;
             }
 
-            ReadPairs(source, map.Take(size - SizeLength), place, handles, offsets);
+            ReadPairs(source, map.Take(size - SizeLength), place, ref pairs);
             if (map.UInt16BigEndian() != Crc16.Compute(Crc16.Seed, data.Slice(at, size)) && size > SizeLength)
             {
                 source.Report(LoadDefectCode.WrongChecksum, Section, place, "a part of the object map has another "
@@ -69,7 +82,7 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
             }
         }
 
-        ObjectMap sorted = FromPairs([.. handles], [.. offsets]);
+        ObjectMap sorted = FromPairs(pairs.Handles, pairs.Offsets);
         ObjectMap single = WithoutRepeats(source, sorted);
         return new ObjectMap(single.Handles, single.Offsets) { IsDamaged = source.Options.Errors.Count > defects };
     }
@@ -172,25 +185,64 @@ internal sealed class ObjectMap(ulong[] handles, long[] offsets)
         return true;
     }
 
-    private static void ReadPairs(
-        DwgSource source, ReadOnlySpan<byte> part, long place, List<ulong> handles, List<long> offsets)
+    private static void ReadPairs(DwgSource source, ReadOnlySpan<byte> part, long place, ref Pairs pairs)
     {
-        RawReader pairs = new(part);
+        RawReader reader = new(part);
         Budget.Check();
         ulong handle = 0;
         long offset = 0;
-        while (pairs.Remaining > 0)
+        while (reader.Remaining > 0)
         {
-            handle += pairs.ModularChar();
-            offset += pairs.SignedModularChar();
-            if (pairs.IsShort)
+            handle += reader.ModularChar();
+            offset += reader.SignedModularChar();
+            if (reader.IsShort)
             {
                 source.Report(LoadDefectCode.Truncated, Section, place, "an entry of the object map ends early");
                 return;
             }
 
-            handles.Add(handle);
-            offsets.Add(offset);
+            pairs.Add(handle, offset);
+        }
+    }
+
+    /// <summary>The entries of a map, in a buffer that is used again.</summary>
+    private struct Pairs()
+    {
+        private const int MinLength = 1 << 16;
+        private const int EntryLength = sizeof(ulong) + sizeof(long);
+
+        private byte[] _buffer = ArrayPool<byte>.Shared.Rent(MinLength);
+        private int _count;
+
+        internal readonly ulong[] Handles => MemoryMarshal.Cast<byte, ulong>(_buffer)[.._count].ToArray();
+
+        internal readonly long[] Offsets =>
+            MemoryMarshal.Cast<byte, long>(_buffer.AsSpan(Half))[.._count].ToArray();
+
+        private readonly int Half => _buffer.Length / EntryLength * sizeof(ulong);
+
+        internal void Add(ulong handle, long offset)
+        {
+            int at = _count * sizeof(ulong);
+            if (at == Half)
+            {
+                Grow();
+            }
+
+            BinaryPrimitives.WriteUInt64LittleEndian(_buffer.AsSpan(at), handle);
+            BinaryPrimitives.WriteInt64LittleEndian(_buffer.AsSpan(Half + at), offset);
+            _count++;
+        }
+
+        internal readonly void Return() => ArrayPool<byte>.Shared.Return(_buffer);
+
+        private void Grow()
+        {
+            byte[] larger = ArrayPool<byte>.Shared.Rent(checked(2 * _buffer.Length));
+            _buffer.AsSpan(0, Half).CopyTo(larger);
+            _buffer.AsSpan(Half, Half).CopyTo(larger.AsSpan(larger.Length / EntryLength * sizeof(ulong)));
+            Return();
+            _buffer = larger;
         }
     }
 }

@@ -29,20 +29,21 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
     internal void Read()
     {
         RecordReader reader = CreateReader();
-        RecordHeader[] headers = new RecordHeader[file.Map.Count];
-        (List<int> records, List<int> controls) = ReadHeaders(reader, headers);
+        RecordState[] states = new RecordState[file.Map.Count];
+        (List<int> records, List<int> controls) = FindRecords(reader, states);
         foreach (int index in records)
         {
-            ReadName(reader, ref headers[index], index);
+            states[index] = ReadName(reader, index);
         }
 
         foreach (int index in controls)
         {
-            ReadControl(reader, ref headers[index], index);
+            ReadControl(reader, index);
+            states[index] = RecordState.IsRead;
         }
 
         CompleteNames();
-        ReadObjects(headers);
+        ReadObjects(states);
         _defects.Report();
         new DrawingAssembly(drawing, _objects, _format.Names).Build();
         DrawingLinks.Complete(drawing);
@@ -63,13 +64,13 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
     }
 
     // The records of symbol tables and the headers of the tables are found first, so that all others know their names.
-    private (List<int> Records, List<int> Controls) ReadHeaders(RecordReader reader, RecordHeader[] headers)
+    private (List<int> Records, List<int> Controls) FindRecords(RecordReader reader, RecordState[] states)
     {
         // How many bits records may have together: a damaged map may have each overlap many others.
         long budget = (long)MaxOverlap * file.Objects.Length * 8;
         List<int> records = [];
         List<int> controls = [];
-        for (int i = 0; i < headers.Length; i++)
+        for (int i = 0; i < states.Length; i++)
         {
             try
             {
@@ -80,7 +81,7 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
                     throw new DwgFault(header.Start, "it overlaps other objects, which have all bytes of the file");
                 }
 
-                headers[i] = header;
+                states[i] = RecordState.IsFound;
                 _pieces.Add(header.End - header.Start);
                 if (ObjectTypeTable.IsRecord(header.Type))
                 {
@@ -102,22 +103,24 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
         return (records, controls);
     }
 
-    private void ReadName(RecordReader reader, ref RecordHeader header, int index)
+    private RecordState ReadName(RecordReader reader, int index)
     {
         try
         {
-            (_, string name) = reader.ReadName(header);
+            (_, string name) = reader.ReadName(reader.ReadHeader(file.Map.Offsets[index]));
             _format.Names.Add(file.Map.Handles[index], name);
+            return RecordState.IsFound;
         }
         catch (DwgFault fault)
         {
             _defects.Add(RecordDefects.Stage.Header, index, "object", fault);
-            header = header.WithoutContent();
+            return RecordState.IsRead;
         }
     }
 
-    private void ReadControl(RecordReader reader, ref RecordHeader header, int index)
+    private void ReadControl(RecordReader reader, int index)
     {
+        RecordHeader header = reader.ReadHeader(file.Map.Offsets[index]);
         string table = ObjectTypeTable.ControlledTable(header.Type)!;
         try
         {
@@ -129,8 +132,6 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
         {
             _defects.Add(RecordDefects.Stage.Table, index, table, fault);
         }
-
-        header = header.WithoutContent();
     }
 
     // Blocks without a name of their own have a name of the kind, to which their place in the table is added.
@@ -156,7 +157,7 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
     }
 
     // Objects know of each other by handles only, so that pieces are read in any order.
-    private void ReadObjects(RecordHeader[] headers)
+    private void ReadObjects(RecordState[] states)
     {
         RecordDefects[] defects = new RecordDefects[_pieces.Count];
         bool isGoingOn = file.Source.IsTolerant || _defects.IsEmpty;
@@ -165,7 +166,7 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
             (int start, int end, long steps) = _pieces[piece];
             Budget.Step(steps);
             defects[piece] = new RecordDefects(file);
-            new PieceReader(file, CreateReader(), _objects, defects[piece]).Read(headers, start, end, isGoingOn);
+            new PieceReader(file, CreateReader(), _objects, defects[piece]).Read(states, start, end, isGoingOn);
         });
         Array.ForEach(defects, _defects.Add);
     }

@@ -15,28 +15,28 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 internal sealed class PieceReader(DwgFile file, RecordReader reader, ObjectSet objects, RecordDefects defects)
 {
     /// <summary>Reads the objects in a range.</summary>
-    /// <param name="headers">The places of all records.</param>
+    /// <param name="states">What is known of all objects.</param>
     /// <param name="start">The first object.</param>
     /// <param name="end">The object after the last one.</param>
     /// <param name="readsContent">Whether more than checksums is asked for: not after a defect that ends the
     /// load.</param>
-    internal void Read(RecordHeader[] headers, int start, int end, bool readsContent)
+    internal void Read(RecordState[] states, int start, int end, bool readsContent)
     {
         for (int i = start; i < end; i++)
         {
-            ref readonly RecordHeader header = ref headers[i];
-            if (header.IsMissing)
+            if (states[i] == RecordState.IsMissing)
             {
                 continue;
             }
 
+            RecordHeader header = reader.ReadHeader(file.Map.Offsets[i]);
             bool isWhole = file.HasRightChecksum(file.Map.Offsets[i], header.End >> 3);
             if (!isWhole)
             {
                 defects.AddChecksum(i);
             }
 
-            if (header.HasContent && readsContent && (file.Source.IsTolerant || defects.IsEmpty))
+            if (states[i] == RecordState.IsFound && readsContent && (file.Source.IsTolerant || defects.IsEmpty))
             {
                 Read(header, i, isWhole);
             }
@@ -90,6 +90,25 @@ internal sealed class PieceReader(DwgFile file, RecordReader reader, ObjectSet o
     }
 }
 
+/// <summary>What is known of an object that the object map names.</summary>
+internal enum RecordState : byte
+{
+    /// <summary>There is no record where the map says.</summary>
+    IsMissing,
+
+    /// <summary>There is a record.</summary>
+    IsFound,
+
+    /// <summary>There is a record of which no more is to be read.</summary>
+    IsRead,
+}
+
+/// <summary>A part of the objects of a file.</summary>
+/// <param name="Start">The first object.</param>
+/// <param name="End">The object after the last one.</param>
+/// <param name="Steps">How many steps of work it is.</param>
+internal sealed record RecordPiece(int Start, int End, long Steps);
+
 /// <summary>Parts of the objects of a file, which are worth a thread each.</summary>
 /// <param name="records">The number of objects.</param>
 /// <param name="bytes">The bytes that they have together, or more.</param>
@@ -101,7 +120,7 @@ internal sealed class RecordPieces(int records, int bytes)
     private const int MaxRecords = 512;
     private const int BitsPerStep = 8 * 512;
 
-    private readonly List<(int Start, int End, long Steps)> _pieces = [];
+    private readonly List<RecordPiece> _pieces = [];
     private readonly bool _isDivided = records >= MinRecords || bytes >= MinBytes;
     private int _start;
     private int _end;
@@ -110,9 +129,7 @@ internal sealed class RecordPieces(int records, int bytes)
 
     internal int Count => _pieces.Count;
 
-    /// <summary>Gets the first object of a piece, the object after its last one, and how many steps of work it
-    /// is.</summary>
-    internal (int Start, int End, long Steps) this[int piece] => _pieces[piece];
+    internal RecordPiece this[int piece] => _pieces[piece];
 
     /// <summary>Adds the next object.</summary>
     /// <param name="bits">The length of its record; 0 for an object that is not there.</param>
@@ -134,7 +151,7 @@ internal sealed class RecordPieces(int records, int bytes)
         if (_end > _start)
         {
             Budget.Step(_steps);
-            _pieces.Add((_start, _end, _steps));
+            _pieces.Add(new RecordPiece(_start, _end, _steps));
             (_start, _bits, _steps) = (_end, 0, 0);
         }
     }

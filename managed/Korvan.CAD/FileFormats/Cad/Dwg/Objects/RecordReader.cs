@@ -235,17 +235,7 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
 /// <param name="HandleBits">How many bits of references it has, from release 2010 on.</param>
 /// <param name="Type">The number of its type.</param>
 /// <param name="Fields">The bit after its type.</param>
-internal readonly record struct RecordHeader(long Start, long End, long HandleBits, int Type, long Fields)
-{
-    /// <summary>Gets whether there is no record.</summary>
-    internal bool IsMissing => End == 0;
-
-    /// <summary>Gets whether there are fields that were not read yet.</summary>
-    internal bool HasContent => Fields != 0;
-
-    /// <summary>Returns it without the place of its fields.</summary>
-    internal RecordHeader WithoutContent() => this with { Fields = 0 };
-}
+internal readonly record struct RecordHeader(long Start, long End, long HandleBits, int Type, long Fields);
 
 /// <summary>An object and its place among the others.</summary>
 internal readonly record struct RecordContent(CadBaseObject? Target, ObjectPlace Place, ChildHandles? Parts);

@@ -1,4 +1,5 @@
 using System;
+using System.Buffers.Binary;
 using Korvan.CAD.Binding;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.R2004;
@@ -9,6 +10,13 @@ public class SectionPageDataChecksum
 {
     private const uint Modulus = 0xFFF1;
     private const int Stride = 0x15B0; // the number of bytes after which the sums are reduced
+
+    // The upper 16 bits of a product are a sum of all lanes of 16 bits by weights: a byte counts once for each that is
+    // added with it or after it.
+    private const ulong EvenBytes = 0x00FF00FF00FF00FF;
+    private const ulong EvenWeights = 0x0008000600040002;
+    private const ulong OddWeights = 0x0007000500030001;
+    private const ulong Ones = 0x0001000100010001;
 
     /// <summary>Creates a checksum of no data.</summary>
     /// <param name="seed">The initial value: 0 for data, the checksum of the data for the header of its page.</param>
@@ -37,6 +45,17 @@ public class SectionPageDataChecksum
         while (!data.IsEmpty)
         {
             ReadOnlySpan<byte> part = data[..Math.Min(Stride, data.Length)];
+            data = data[part.Length..];
+            for (; part.Length >= sizeof(ulong); part = part[sizeof(ulong)..])
+            {
+                ulong word = BinaryPrimitives.ReadUInt64LittleEndian(part);
+                ulong even = word & EvenBytes;
+                ulong odd = (word >> 8) & EvenBytes;
+                sumOfSums += (sizeof(ulong) * sum) + (uint)((even * EvenWeights) >> 48)
+                    + (uint)((odd * OddWeights) >> 48);
+                sum += (uint)(((even + odd) * Ones) >> 48);
+            }
+
             foreach (byte one in part)
             {
                 sum += one;
@@ -45,7 +64,6 @@ public class SectionPageDataChecksum
 
             sum %= Modulus;
             sumOfSums %= Modulus;
-            data = data[part.Length..];
         }
 
         return (sumOfSums << 16) | (sum & 0xFFFF);

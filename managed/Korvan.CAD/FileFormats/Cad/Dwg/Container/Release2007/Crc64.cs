@@ -13,10 +13,13 @@ internal static class Crc64
     private const ulong Multiplier = 0x343FD;
     private const ulong Increment = 0x269EC3;
     private const ulong LowerHalves = 0x0000FFFF0000FFFF;
+    private const int Stride = sizeof(ulong);
+    private const int Values = 256;
 
     private static readonly ulong[] Table = Build(static crc => (crc << 1) ^ ((crc >> 63) * Polynomial), 56);
-    private static readonly ulong[] MirroredTable =
-        Build(static crc => (crc >> 1) ^ ((crc & 1) * MirroredPolynomial), 0);
+    // A table for each byte of a stride, so that a stride is one step.
+    private static readonly ulong[] MirroredTables = BuildStrides(
+        Build(static crc => (crc >> 1) ^ ((crc & 1) * MirroredPolynomial), 0));
 
     /// <summary>Returns the check of a file header.</summary>
     internal static ulong Compute(ulong seed, ReadOnlySpan<byte> data)
@@ -33,10 +36,21 @@ internal static class Crc64
     /// <summary>Returns the check of a page.</summary>
     internal static ulong ComputeMirrored(ulong seed, ReadOnlySpan<byte> data)
     {
+        ulong[] tables = MirroredTables;
         ulong crc = seed;
+        while (data.Length >= Stride)
+        {
+            ulong word = crc ^ Reorder(BinaryPrimitives.ReadUInt64LittleEndian(data));
+            crc = tables[(7 * Values) + (byte)word] ^ tables[(6 * Values) + (byte)(word >> 8)]
+                ^ tables[(5 * Values) + (byte)(word >> 16)] ^ tables[(4 * Values) + (byte)(word >> 24)]
+                ^ tables[(3 * Values) + (byte)(word >> 32)] ^ tables[(2 * Values) + (byte)(word >> 40)]
+                ^ tables[Values + (byte)(word >> 48)] ^ tables[(byte)(word >> 56)];
+            data = data[Stride..];
+        }
+
         foreach (byte one in Reorder(data))
         {
-            crc = MirroredTable[(byte)(one ^ crc)] ^ (crc >> 8);
+            crc = tables[(byte)(one ^ crc)] ^ (crc >> 8);
         }
 
         return crc;
@@ -62,12 +76,10 @@ internal static class Crc64
     {
         byte[] ordered = data.ToArray();
         Span<byte> rest = ordered;
-        while (rest.Length >= sizeof(ulong))
+        while (rest.Length >= Stride)
         {
-            ulong value = BitOperations.RotateLeft(BinaryPrimitives.ReadUInt64LittleEndian(rest), 32);
-            value = ((value & LowerHalves) << 16) | ((value >> 16) & LowerHalves);
-            BinaryPrimitives.WriteUInt64LittleEndian(rest, value);
-            rest = rest[sizeof(ulong)..];
+            BinaryPrimitives.WriteUInt64LittleEndian(rest, Reorder(BinaryPrimitives.ReadUInt64LittleEndian(rest)));
+            rest = rest[Stride..];
         }
 
         if (rest.Length >= sizeof(uint))
@@ -79,9 +91,28 @@ internal static class Crc64
         return ordered;
     }
 
+    private static ulong Reorder(ulong word)
+    {
+        ulong value = BitOperations.RotateLeft(word, 32);
+        return ((value & LowerHalves) << 16) | ((value >> 16) & LowerHalves);
+    }
+
+    private static ulong[] BuildStrides(ulong[] table)
+    {
+        ulong[] tables = new ulong[Stride * Values];
+        table.CopyTo(tables, 0);
+        for (int i = Values; i < tables.Length; i++)
+        {
+            ulong before = tables[i - Values];
+            tables[i] = (before >> 8) ^ tables[(byte)before];
+        }
+
+        return tables;
+    }
+
     private static ulong[] Build(Func<ulong, ulong> step, int shift)
     {
-        ulong[] table = new ulong[256];
+        ulong[] table = new ulong[Values];
         for (int i = 0; i < table.Length; i++)
         {
             ulong crc = (ulong)i << shift;

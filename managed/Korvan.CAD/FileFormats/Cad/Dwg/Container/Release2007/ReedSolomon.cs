@@ -13,6 +13,7 @@ internal sealed class ReedSolomon
     private readonly byte[] _powers = new byte[2 * BlockLength];
     private readonly byte[] _logarithms = new byte[256];
     private readonly uint[]? _remainders;
+    private readonly (ulong High, ulong Low)[]? _wideRemainders;
 
     private ReedSolomon(int polynomial, int parity)
     {
@@ -26,7 +27,9 @@ internal sealed class ReedSolomon
             power = power > 255 ? power ^ polynomial : power;
         }
 
-        _remainders = parity == sizeof(uint) ? BuildRemainders() : null;
+        byte[] generator = BuildGenerator();
+        _remainders = parity == sizeof(uint) ? BuildRemainders(generator) : null;
+        _wideRemainders = parity == 2 * sizeof(ulong) ? BuildWideRemainders(generator) : null;
     }
 
     /// <summary>Gets the code of maps and of the file header: 239 bytes of data, 8 wrong bytes corrected.</summary>
@@ -49,6 +52,7 @@ internal sealed class ReedSolomon
     internal bool DecodeInterleaved(ReadOnlySpan<byte> source, int blocks, Span<byte> target)
     {
         bool isValid = true;
+        uint[]? remainders = _remainders is { } table ? RemaindersOf(source, blocks, table) : null;
         Span<byte> block = stackalloc byte[BlockLength];
         for (int i = 0; i < blocks; i++)
         {
@@ -57,12 +61,29 @@ internal sealed class ReedSolomon
                 block[at] = source[from];
             }
 
-            isValid &= Correct(block);
+            isValid &= remainders?[i] == 0 || Correct(block);
             Span<byte> place = target[Math.Min(target.Length, i * DataLength)..];
             block[..Math.Min(DataLength, place.Length)].CopyTo(place);
         }
 
         return isValid;
+    }
+
+    // Steps of one block wait for each other, those of different blocks do not.
+    private static uint[] RemaindersOf(ReadOnlySpan<byte> source, int blocks, uint[] table)
+    {
+        uint[] remainders = new uint[blocks];
+        for (int at = BlockLength - 1; at >= 0; at--)
+        {
+            ReadOnlySpan<byte> bytes = source.Slice(at * blocks, blocks);
+            for (int i = 0; i < remainders.Length; i++)
+            {
+                uint remainder = remainders[i];
+                remainders[i] = (remainder << 8) ^ table[(remainder >> 24) ^ bytes[i]];
+            }
+        }
+
+        return remainders;
     }
 
     /// <summary>Corrects a block.</summary>
@@ -74,21 +95,23 @@ internal sealed class ReedSolomon
             || (CorrectErrors(block, syndromes) && !Evaluate(block, syndromes));
     }
 
-    // A division by the generator is one step a byte where its remainder fits a register.
+    // A division by the generator is one step a byte where its remainder fits registers.
     private bool IsValid(ReadOnlySpan<byte> block)
     {
-        if (_remainders is not { } table)
+        if (_wideRemainders is not { } table)
         {
             return false;
         }
 
-        uint remainder = 0;
+        (ulong high, ulong low) = (0, 0);
         for (int i = BlockLength - 1; i >= 0; i--)
         {
-            remainder = (remainder << 8) ^ table[(remainder >> 24) ^ block[i]];
+            (ulong High, ulong Low) step = table[(int)(high >> 56) ^ block[i]];
+            high = ((high << 8) | (low >> 56)) ^ step.High;
+            low = (low << 8) ^ step.Low;
         }
 
-        return remainder == 0;
+        return (high | low) == 0;
     }
 
     private bool Evaluate(ReadOnlySpan<byte> block, Span<byte> syndromes)
@@ -211,7 +234,7 @@ internal sealed class ReedSolomon
 
     private byte Invert(byte value) => _powers[BlockLength - _logarithms[value]];
 
-    private uint[] BuildRemainders()
+    private byte[] BuildGenerator()
     {
         byte[] generator = new byte[Parity + 1];
         generator[0] = 1;
@@ -223,12 +246,33 @@ internal sealed class ReedSolomon
             }
         }
 
+        return generator;
+    }
+
+    private uint[] BuildRemainders(byte[] generator)
+    {
         uint[] table = new uint[256];
         for (int value = 0; value < table.Length; value++)
         {
             for (int i = Parity - 1; i >= 0; i--)
             {
                 table[value] = (table[value] << 8) | Multiply((byte)value, generator[i]);
+            }
+        }
+
+        return table;
+    }
+
+    private (ulong High, ulong Low)[] BuildWideRemainders(byte[] generator)
+    {
+        (ulong High, ulong Low)[] table = new (ulong, ulong)[256];
+        for (int value = 0; value < table.Length; value++)
+        {
+            ref (ulong High, ulong Low) remainder = ref table[value];
+            for (int i = Parity - 1; i >= 0; i--)
+            {
+                remainder.High = (remainder.High << 8) | (remainder.Low >> 56);
+                remainder.Low = (remainder.Low << 8) | Multiply((byte)value, generator[i]);
             }
         }
 
