@@ -56,6 +56,10 @@ internal sealed class WrittenClasses
         ["ACDB_BLKREFOBJECTCONTEXTDATA_CLASS"] = ("AcDbBlkRefObjectContextData", 1153),
         ["ACDB_FCFOBJECTCONTEXTDATA_CLASS"] = ("AcDbFcfObjectContextData", 1153),
         ["PLANESURFACE"] = ("AcDbPlaneSurface", 4095),
+        ["EXTRUDEDSURFACE"] = ("AcDbExtrudedSurface", 4095),
+        ["LOFTEDSURFACE"] = ("AcDbLoftedSurface", 4095),
+        ["REVOLVEDSURFACE"] = ("AcDbRevolvedSurface", 4095),
+        ["SWEPTSURFACE"] = ("AcDbSweptSurface", 4095),
     };
 
     private readonly List<CadClassEntity> _classes;
