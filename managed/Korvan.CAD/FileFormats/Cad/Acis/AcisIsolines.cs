@@ -5,136 +5,119 @@ using Korvan.CAD.Geometry;
 namespace Korvan.CAD.FileFormats.Cad.Acis;
 
 /// <summary>
-/// Adds straight lines on cylinders and cones, which have no edges along them. Only faces are considered that end at
-/// circles around the axis and at straight edges.
+/// Adds lines on cylinders, cones, spheres and tori, which have few edges of their own, as far as they are in the face.
+/// Faces with edges that are not on their surface get none.
 /// </summary>
 /// <param name="records">The records of the body.</param>
 /// <param name="endsOf">Returns what an edge points to.</param>
-/// <param name="arcOf">Returns the arc of an edge on an ellipse.</param>
+/// <param name="pointsOf">Returns points along an edge from its start to its end; null for unknown curves.</param>
 internal sealed class AcisIsolines(
-    List<SatRecord> records, Func<SatRecord, AcisEdge?> endsOf, Func<SatRecord, AcisEdge, AcisArc?> arcOf)
+    List<SatRecord> records, Func<SatRecord, AcisEdge?> endsOf, Func<AcisEdge, List<Vec3>?> pointsOf)
 {
     /// <summary>The default of the header variable ISOLINES.</summary>
     private const int Count = 4;
-
-    /// <summary>Within this part of the radius, points are one.</summary>
-    private const double Tolerance = 1e-6;
     private const int MaxEdges = 4_096;
+    private const string Reversed = "reversed";
 
     internal void AddTo(AcisWireframe wireframe, Affine3 map)
     {
         foreach (SatRecord face in records)
         {
-            if (face.Type == "face" && Find(face, static type => type == "cone-surface") is SatRecord surface)
+            if (face.Type == "face" && Find(face, static type => type.EndsWith("-surface", StringComparison.Ordinal))
+                is SatRecord record && AcisSurface.Of(record) is AcisSurface surface
+                && TrimOf(face, surface) is AcisTrim trim)
             {
-                AddLines(face, surface, wireframe, map);
+                AddLines(surface, trim, surface.IsInward != face.HasKeyword(Reversed), wireframe, map);
             }
         }
     }
 
-    private void AddLines(SatRecord face, SatRecord surface, AcisWireframe wireframe, in Affine3 map)
+    private static void AddLines(
+        AcisSurface surface, AcisTrim trim, bool isFlipped, AcisWireframe wireframe, Affine3 map)
     {
-        int at = surface.Values;
-        (Vec3 origin, Vec3 axis) = (surface.Vector(at), surface.Vector(at + 3).Unit());
-        Vec3 major = surface.Vector(at + 6);
-        if (!(major.Length > 0) || EndsOf(face, origin, axis, major.Length * Tolerance) is not { Count: > 1 } ends)
-        {
-            return;
-        }
-
-        Vec3 minor = Vec3.Cross(axis, major);
-        ends.Sort(static (a, b) => a.Height.CompareTo(b.Height));
+        (double From, double To) limits = surface.Limits;
         for (int i = 0; i < Count; i++)
         {
-            (double sin, double cos) = Math.SinCos(Math.Tau * i / Count);
-            Vec3 way = (major * cos) + (minor * sin);
-            if (PointAt(ends, ends[0].Height, way, major.Length) is Vec3 from
-                && PointAt(ends, ends[^1].Height, way, major.Length) is Vec3 to && from != to)
+            double u = Math.Tau * i / Count;
+            foreach ((double from, double to) in trim.PartsOf(
+                u, true, limits, surface.IsPeriodic, true, isFlipped) ?? Whole(trim, limits))
             {
-                wireframe.Lines.Add((map.Point(from), map.Point(to)));
+                surface.AddMeridian(u, from, to, AddArc, (a, b) => wireframe.Lines.Add((map.Point(a), map.Point(b))));
             }
         }
+
+        (double, double) turn = (0, Math.Tau);
+        foreach (double v in surface.Rings)
+        {
+            foreach ((double from, double to) in trim.PartsOf(
+                v, false, turn, true, surface.IsPeriodic, isFlipped) ?? Whole(trim, turn))
+            {
+                AddArc(surface.Ring(v, from, to - from));
+            }
+        }
+
+        void AddArc(AcisArc arc) => wireframe.Arcs.Add(arc with
+        {
+            Center = map.Point(arc.Center),
+            Major = map.Vector(arc.Major),
+            Minor = map.Vector(arc.Minor),
+        });
     }
 
-    /// <summary>Returns the arcs and the apex that a face ends at, with their places along the axis; null where it has
-    /// other edges, or ends at more than two places.</summary>
-    private List<(double Height, AcisArc Arc)>? EndsOf(SatRecord face, Vec3 origin, Vec3 axis, double tolerance)
+    // Isolines that no edge crosses are whole on closed surfaces. Elsewhere they are left out, as they may be outside.
+    private static List<(double From, double To)> Whole(AcisTrim trim, (double From, double To) limits) =>
+        trim.IsEmpty && double.IsFinite(limits.From) && double.IsFinite(limits.To) ? [limits] : [];
+
+    /// <summary>Returns the boundary of a face; null where an edge is not on the surface.</summary>
+    private AcisTrim? TrimOf(SatRecord face, AcisSurface surface)
     {
-        var ends = new List<(double Height, AcisArc Arc)>();
-        var heights = new List<double>();
-        foreach (SatRecord record in EdgesOf(face))
+        AcisTrim trim = new();
+        foreach ((SatRecord record, bool isReversed) in EdgesOf(face))
         {
             if (endsOf(record) is not AcisEdge edge)
             {
                 return null;
             }
 
-            if (edge.Curve >= 0 && records[edge.Curve].Type == "straight-curve")
+            if (edge.Curve < 0)
             {
                 continue;
             }
 
-            AcisArc? end = edge.Curve < 0 ? new AcisArc(edge.Start, default, default, 0, Math.Tau)
-                : records[edge.Curve].Type == "ellipse-curve" ? arcOf(records[edge.Curve], edge) : null;
-            if (end is not AcisArc arc || !IsAround(arc, origin, axis, tolerance))
+            if (pointsOf(edge) is not List<Vec3> points)
             {
                 return null;
             }
 
-            double height = Vec3.Dot(arc.Center - origin, axis);
-            int known = heights.FindIndex(other => Math.Abs(other - height) <= tolerance);
-            if (known < 0)
+            List<(double U, double V)> found = [];
+            foreach (Vec3 point in points)
             {
-                heights.Add(height);
+                if (surface.Find(point) is not { } place)
+                {
+                    return null;
+                }
+
+                if (!double.IsNaN(place.U))
+                {
+                    found.Add(place);
+                }
             }
 
-            ends.Add((known < 0 ? height : heights[known], arc));
+            if (isReversed)
+            {
+                found.Reverse();
+            }
+
+            trim.Add(found, surface.IsPeriodic);
         }
 
-        return heights.Count == 2 ? ends : null;
-    }
-
-    private static bool IsAround(in AcisArc arc, Vec3 origin, Vec3 axis, double tolerance)
-    {
-        Vec3 off = arc.Center - origin;
-        bool isCentred = (off - (axis * Vec3.Dot(off, axis))).Length <= tolerance;
-        return isCentred && Math.Abs(Vec3.Dot(arc.Major, axis)) <= tolerance
-            && Math.Abs(Vec3.Dot(arc.Minor, axis)) <= tolerance;
-    }
-
-    /// <summary>Returns the point at a height in a direction from the axis; null where no arc reaches it.</summary>
-    private static Vec3? PointAt(List<(double Height, AcisArc Arc)> ends, double height, Vec3 way, double radius)
-    {
-        foreach ((double at, AcisArc arc) in ends)
-        {
-            if (at != height)
-            {
-                continue;
-            }
-
-            if (arc.Major == default)
-            {
-                return arc.Center;
-            }
-
-            double angle = Math.Atan2(
-                Vec3.Dot(way, arc.Minor) / Vec3.Dot(arc.Minor, arc.Minor),
-                Vec3.Dot(way, arc.Major) / Vec3.Dot(arc.Major, arc.Major));
-            double turn = Angles.Sweep(arc.Start, angle);
-            double slack = Tolerance * radius / arc.Major.Length;
-            if (turn <= arc.Sweep + slack || turn >= Math.Tau - slack)
-            {
-                return arc.At(angle);
-            }
-        }
-
-        return null;
+        return trim;
     }
 
     /// <summary>Walks the loops of a face and the coedges of each loop, which form rings.</summary>
-    private List<SatRecord> EdgesOf(SatRecord face)
+    private List<(SatRecord Edge, bool IsReversed)> EdgesOf(SatRecord face)
     {
-        var edges = new List<SatRecord>();
+        var edges = new List<(SatRecord Edge, bool IsReversed)>();
         var loops = new HashSet<int>();
         int loop = IndexOf(face, "loop");
         while (loop >= 0 && loops.Add(loop))
@@ -145,7 +128,7 @@ internal sealed class AcisIsolines(
             {
                 if (Find(records[coedge], static type => type == "edge") is SatRecord edge)
                 {
-                    edges.Add(edge);
+                    edges.Add((edge, records[coedge].HasKeyword(Reversed)));
                 }
 
                 coedge = IndexOf(records[coedge], "coedge");

@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Linq;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.Acis;
@@ -20,9 +21,11 @@ internal sealed class AcisReader
     // A point is on a curve, and two points are one, within this part of the size of the curve.
     private const double Tolerance = 1e-6;
     private const int TrimmedPoints = 129;
+    private const int ArcPoints = 65;
 
     private readonly List<SatRecord> _records;
     private readonly SatSplines _splines;
+    private readonly SatSplines _plainSplines;
     private readonly AcisWireframe _wireframe = new();
     private readonly Affine3 _map;
 
@@ -31,14 +34,19 @@ internal sealed class AcisReader
         _records = records;
         _map = MapOf(_records);
         _splines = new SatSplines(_records, _map);
+        _plainSplines = new SatSplines(_records, Affine3.Identity);
     }
 
     /// <summary>Returns the edges; null where the text has none that are known.</summary>
     internal static AcisWireframe? Read(IReadOnlyList<string> lines) =>
-        SatText.Parse(lines) is SatText text ? Read(text.Records) : null;
+        SatText.Parse(lines) is not SatText text ? null
+            : text.Version >= AcisVersions.Keywords ? Read(text.Records)
+            : SatReader.Read(lines) is AcisFile file ? Read([.. SatWriter.Records(file, AcisVersions.Keywords)]) : null;
 
     /// <summary>Returns the edges of binary data; null where they have none that are known.</summary>
-    internal static AcisWireframe? Read(ReadOnlySpan<byte> data) => Read(SabData.Parse(data));
+    internal static AcisWireframe? Read(ReadOnlySpan<byte> data) =>
+        SabReader.Read(data, out _) is AcisFile file ? Read([.. SatWriter.Records(
+            file, Math.Max(file.Version, AcisVersions.Keywords))]) : null;
 
     private static AcisWireframe? Read(List<SatRecord> records)
     {
@@ -55,7 +63,7 @@ internal sealed class AcisReader
 
         if (hasEdges)
         {
-            new AcisIsolines(records, reader.EndsOf, ArcOf).AddTo(reader._wireframe, reader._map);
+            new AcisIsolines(reader._records, reader.EndsOf, reader.PointsOf).AddTo(reader._wireframe, reader._map);
         }
         else
         {
@@ -159,28 +167,40 @@ internal sealed class AcisReader
 
     private void AddSpline(in AcisSpline spline, Vec3 start, Vec3 end, bool isReversed)
     {
-        Nurbs curve = spline.Curve;
-        (Vec3 first, Vec3 last) = (curve.At(curve.First), curve.At(curve.Last));
-        double size = 0;
-        spline.Control.ForEach(point => size = Math.Max(size, (point - first).Length));
-        double tolerance = Tolerance * size;
-        bool AreOne(Vec3 a, Vec3 b) => (a - b).Length <= tolerance;
-        if ((AreOne(first, start) && AreOne(last, end)) || (AreOne(first, end) && AreOne(last, start)))
+        if (IsWhole(spline, start, end))
         {
             _wireframe.Splines.Add(spline);
-            return;
         }
+        else
+        {
+            _wireframe.Polylines.Add(PartOf(spline, start, end, isReversed));
+        }
+    }
 
-        AddPart(curve, start, end, AreOne(first, last), isReversed);
+    private static bool IsWhole(in AcisSpline spline, Vec3 start, Vec3 end)
+    {
+        (Vec3 first, Vec3 last) = (spline.Curve.At(spline.Curve.First), spline.Curve.At(spline.Curve.Last));
+        double tolerance = ToleranceOf(spline);
+        bool AreOne(Vec3 a, Vec3 b) => (a - b).Length <= tolerance;
+        return (AreOne(first, start) && AreOne(last, end)) || (AreOne(first, end) && AreOne(last, start));
+    }
+
+    private static double ToleranceOf(in AcisSpline spline)
+    {
+        Vec3 first = spline.Curve.At(spline.Curve.First);
+        double size = 0;
+        spline.Control.ForEach(point => size = Math.Max(size, (point - first).Length));
+        return Tolerance * size;
     }
 
     // The parameters of an edge depend on the version of the modeler; its ends do not. On a closed curve the direction
     // of the edge decides which of two parts it is.
-    private void AddPart(Nurbs curve, Vec3 start, Vec3 end, bool isClosed, bool isReversed)
+    private static Vec3[] PartOf(in AcisSpline spline, Vec3 start, Vec3 end, bool isReversed)
     {
+        Nurbs curve = spline.Curve;
         (double from, double to) = (Nearest(curve, start), Nearest(curve, end));
         double period = curve.Last - curve.First;
-        if (isClosed)
+        if ((curve.At(curve.First) - curve.At(curve.Last)).Length <= ToleranceOf(spline))
         {
             (from, to) = isReversed ? (to, from) : (from, to);
             to += to <= from ? period : 0;
@@ -193,7 +213,40 @@ internal sealed class AcisReader
             points[i] = curve.At(at > curve.Last ? at - period : at);
         }
 
-        _wireframe.Polylines.Add(points);
+        return points;
+    }
+
+    /// <summary>Returns points along an edge from its start to its end, where the body says it is; null for curves that
+    /// are not known.</summary>
+    private List<Vec3>? PointsOf(AcisEdge edge)
+    {
+        SatRecord curve = _records[edge.Curve];
+        if (curve.Type == "straight-curve")
+        {
+            return [edge.Start, edge.End];
+        }
+
+        Vec3[] points;
+        if (curve.Type == "ellipse-curve" && ArcOf(curve, edge) is AcisArc arc)
+        {
+            points = new Vec3[ArcPoints];
+            for (int i = 0; i < ArcPoints; i++)
+            {
+                points[i] = arc.At(arc.Start + (arc.Sweep * i / (ArcPoints - 1)));
+            }
+        }
+        else if (_plainSplines.Of(curve) is AcisSpline spline)
+        {
+            points = PartOf(spline, edge.Start, edge.End, edge.IsReversed);
+        }
+        else
+        {
+            return null;
+        }
+
+        bool isBackwards = (points[0] - edge.End).Length < (points[0] - edge.Start).Length
+            || (edge.IsReversed && edge.Start == edge.End);
+        return isBackwards ? [.. points.Reverse()] : [.. points];
     }
 
     private static double Nearest(Nurbs curve, Vec3 point)

@@ -39,6 +39,8 @@ internal readonly record struct SatRecord(string[] Tokens)
 
     internal Vec3 Vector(int token) => new(Number(token), Number(token + 1), Number(token + 2));
 
+    internal bool HasKeyword(string keyword) => Find(keyword) > 0;
+
     internal int Find(string keyword) => Array.IndexOf(Tokens, keyword);
 
     // Between the pointers newer texts have indices of the history.

@@ -6,9 +6,9 @@ using System.Text;
 namespace Korvan.CAD.FileFormats.Cad.Acis;
 
 /// <summary>
-/// The text of a solid modeler as drawings keep it: records of tokens, each ended by a number sign, after three lines
-/// of header. Drawings replace each printable character by the one as far from the other end of ASCII (DXF reference,
-/// "3DSOLID").
+/// The text of a solid modeler as drawings keep it: records of tokens, each ended by a number sign, after a header of
+/// three lines, which in the oldest versions is one. Drawings replace each printable character by the one as far from
+/// the other end of ASCII (DXF reference, "3DSOLID").
 /// </summary>
 internal sealed class SatText
 {
@@ -17,14 +17,20 @@ internal sealed class SatText
     private const char RecordEnd = '#';
     private const string EndMark = "End-of-";
 
-    private SatText(List<SatRecord> records) => Records = records;
+    private SatText(string[] header, List<SatRecord> records) => (Header, Records) = (header, records);
+
+    /// <summary>Gets the lines before the records.</summary>
+    internal string[] Header { get; }
 
     internal List<SatRecord> Records { get; }
+
+    /// <summary>Gets the version of the format.</summary>
+    internal int Version => VersionOf(Header[0]);
 
     /// <summary>Parses lines, deciphered or not. Null for what is no such text.</summary>
     internal static SatText? Parse(IReadOnlyList<string> lines)
     {
-        if (lines.Count <= HeaderLines)
+        if (lines.Count == 0)
         {
             return null;
         }
@@ -35,14 +41,27 @@ internal sealed class SatText
             return null;
         }
 
-        var text = new StringBuilder();
-        for (int i = HeaderLines; i < lines.Count; i++)
+        string LineAt(int i) => isPlain ? lines[i] : Decipher(lines[i]);
+        int count = VersionOf(LineAt(0)) < AcisVersions.Keywords ? 1 : HeaderLines;
+        if (lines.Count <= count)
         {
-            text.Append(isPlain ? lines[i] : Decipher(lines[i])).Append(' ');
+            return null;
+        }
+
+        string[] header = new string[count];
+        for (int i = 0; i < count; i++)
+        {
+            header[i] = LineAt(i);
+        }
+
+        var text = new StringBuilder();
+        for (int i = count; i < lines.Count; i++)
+        {
+            text.Append(LineAt(i)).Append(' ');
         }
 
         List<SatRecord> records = Split(text.ToString());
-        return records.Count > 0 ? new SatText(records) : null;
+        return records.Count > 0 ? new SatText(header, records) : null;
     }
 
     /// <summary>Reverts the substitution; a caret may have a blank after it, which is then a part of it.</summary>
@@ -62,6 +81,19 @@ internal sealed class SatText
         return text.ToString();
     }
 
+    /// <summary>Makes the substitution; a caret gets a blank, as interchange files have it.</summary>
+    internal static string Encipher(string line)
+    {
+        var text = new StringBuilder(line.Length);
+        foreach (char c in line)
+        {
+            char other = c is > ' ' and < '\x7f' ? (char)(CipherSum - c) : c;
+            text.Append(other).Append(other == '^' ? " " : "");
+        }
+
+        return text.ToString();
+    }
+
     // The version and three counts.
     private static bool IsHeader(string line)
     {
@@ -69,6 +101,9 @@ internal sealed class SatText
         return parts.Length >= 3 && Array.TrueForAll(
             parts[..3], part => int.TryParse(part, NumberStyles.Integer, CultureInfo.InvariantCulture, out _));
     }
+
+    private static int VersionOf(string line) => int.Parse(
+        line.Split(' ', StringSplitOptions.RemoveEmptyEntries)[0], NumberStyles.Integer, CultureInfo.InvariantCulture);
 
     private static List<SatRecord> Split(string text)
     {

@@ -6,6 +6,13 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A surface that was made by moving a profile along a line.</summary>
 [CadSequence]
 [CadObject("EXTRUDEDSURFACE", Subclass = "AcDbModelerGeometry")]
+[CadBits(
+    "ExchangeModeler()", "BS UIsolines", "BS VIsolines",
+    "BD DraftAngle", "BD DraftStartDistance", "BD DraftEndDistance", "BD TwistAngle", "BD ScaleFactor", "BD AlignAngle",
+    "B IsSolid", "BS SweepAlignment", "BS PathFlags", "B AlignStart", "B Bank", "B HasBasePoint", "3BD TwistReference",
+    "B IsSweepTransformComputed", "B IsPathTransformComputed", "Matrix SweepEntityTransform",
+    "Matrix PathEntityTransform", "3BD SweepVector",
+    "Matrix ExtrudedEntityTransform", "ExchangeProfile()")]
 public partial class CadExtrudedSurface : CadObjectWithAcisData
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -31,11 +38,11 @@ public partial class CadExtrudedSurface : CadObjectWithAcisData
     [CadSubclass("AcDbExtrudedSurface")]
     public int SweepEntityClass { get; set; }
 
-    /// <summary>Gets or sets the size of the profile in bytes, which follows from the data. Group code 90.</summary>
+    /// <summary>Gets or sets the size of the profile in bits, which follows from the data. Group code 90.</summary>
     [CadInt(90)]
     internal int SweepEntitySize
     {
-        get => SweepEntityData.Length;
+        get => SweepEntityData.Length * 8;
         set => _ = value;
     }
 
@@ -121,4 +128,7 @@ public partial class CadExtrudedSurface : CadObjectWithAcisData
     /// <summary>Gets or sets the direction that twists are measured from. Group codes 11, 21, 31.</summary>
     [Cad3DPoint(11)]
     public Cad3DPoint TwistReference { get; set; } = new();
+
+    private void ExchangeProfile(BitExchange fields) =>
+        (SweepEntityClass, SweepEntityData) = ModelerBits.ExchangeProfile(fields, SweepEntityClass, SweepEntityData);
 }

@@ -7,6 +7,12 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A surface through several profiles.</summary>
 [CadSequence]
 [CadObject("LOFTEDSURFACE", Subclass = "AcDbModelerGeometry")]
+[CadBits(
+    "ExchangeModeler()", "BS UIsolines", "BS VIsolines",
+    "Matrix LoftEntityTransform", "ExchangeCounts()", "BD StartDraftAngle", "BD EndDraftAngle",
+    "BD StartDraftMagnitude", "BD EndDraftMagnitude", "B ArcLengthParameterization", "B NoTwist", "B AlignDirection",
+    "B CreateSimpleSurfaces", "B CreateClosedSurface", "B IsSolid", "B CreateRuledSurface", "B HasVirtualGuide",
+    "BS PlaneNormalLofting", "ExchangeEntities()")]
 public partial class CadLoftedSurface : CadObjectWithAcisData
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -35,6 +41,12 @@ public partial class CadLoftedSurface : CadObjectWithAcisData
     /// <summary>Gets the profiles, guides and paths. The list is live. Group code 90.</summary>
     [CadRepeated(90)]
     internal IList<LoftEntity> Entities { get; } = new CheckedList<LoftEntity>("entities");
+
+    /// <summary>Gets or sets how many of the entities are guides; they follow the profiles.</summary>
+    internal int GuideCount { get; set; }
+
+    /// <summary>Gets or sets whether the last of the entities is a path.</summary>
+    internal bool HasPath { get; set; }
 
     /// <summary>Gets or sets where the surface is perpendicular to the profiles: 0 ruled, 1 smooth, 2 at the first, 3
     /// at the last, 4 at both, 5 at all, 6 by draft angles. Group code 70.</summary>
@@ -88,4 +100,24 @@ public partial class CadLoftedSurface : CadObjectWithAcisData
     /// <summary>Gets or sets whether a guide was added. Group code 297.</summary>
     [CadBool(297)]
     public bool HasVirtualGuide { get; set; }
+
+    private void ExchangeCounts(BitExchange fields)
+    {
+        int others = GuideCount + (HasPath ? 1 : 0);
+        int profiles = fields.CountLong(System.Math.Max(0, Entities.Count - others));
+        GuideCount = fields.CountLong(GuideCount);
+        HasPath = fields.Bit(HasPath);
+        for (int i = profiles + GuideCount + (HasPath ? 1 : 0); fields.IsReading && i > 0; i--)
+        {
+            Entities.Add(new LoftEntity());
+        }
+    }
+
+    private void ExchangeEntities(BitExchange fields)
+    {
+        foreach (LoftEntity entity in Entities)
+        {
+            (entity.EntityClass, entity.Data) = ModelerBits.ExchangeProfile(fields, entity.EntityClass, entity.Data);
+        }
+    }
 }

@@ -1,4 +1,5 @@
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.Acis;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -20,6 +21,20 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
     /// <summary>Gets or sets the record of the data section with the modeler's binary data.</summary>
     internal CadAcdsRecord? DataRecord { get; set; }
 
+    /// <summary>Gets or sets the binary data of a surface before it was trimmed; empty for none.</summary>
+    internal byte[] UntrimmedData { get; set; } = [];
+
+    /// <summary>Gets whether the object has data of the modeler in any form.</summary>
+    internal bool HasModelerData => AcisData.Count > 0 || DataRecord is { Data.Length: > 0 };
+
+    /// <summary>Returns the data of the modeler in their binary form; empty where there are none.</summary>
+    internal byte[] GetBinaryData() =>
+        AcisData.Count > 0 ? AcisForms.ToBinary(AcisData) : DataRecord?.Data ?? [];
+
+    /// <summary>Returns the data of the modeler as enciphered lines; none where there are none.</summary>
+    internal List<string> GetTextData() =>
+        AcisData.Count > 0 ? AcisData : AcisForms.ToText(DataRecord?.Data ?? []);
+
     internal bool ReadAcis(int code, FieldReader reader)
     {
         switch (code)
@@ -40,31 +55,41 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
 
     internal void ExchangeAcis(ObjectExchange fields)
     {
-        if (fields.Has(70, 0, fields.Release < 2013 || AcisData.Count > 0))
+        List<string> lines = fields.Modeler switch
         {
-            ModelerFormatVersion = fields.Int16(70, ModelerFormatVersion);
+            ModelerForm.Text => GetTextData(),
+            ModelerForm.Separate when GetBinaryData().Length > 0 => [],
+            _ => AcisData,
+        };
+        short version = fields.Modeler == ModelerForm.Text && lines.Count > 0
+            ? (short)ModelerBits.TextVersion : ModelerFormatVersion;
+        if (fields.Has(70, 0, fields.Release < 2013 || lines.Count > 0))
+        {
+            version = fields.Int16(70, version);
+            ModelerFormatVersion = fields.IsReading ? version : ModelerFormatVersion;
         }
 
-        fields.Lines(AcisData);
+        fields.Lines(lines);
     }
 
     /// <summary>Carries the data of the modeler as drawing databases have it.</summary>
     private protected void ExchangeModeler(BitExchange fields)
     {
-        const int stored = 2;
         int version = ModelerBits.TextVersion;
         if (fields.HasStoredData)
         {
-            version = stored;
+            version = ModelerBits.StoredVersion;
         }
-        else if (!fields.Bit(AcisData.Count == 0 && DataRecord is not { Data.Length: > 0 }))
+        else if (!fields.Bit(!HasModelerData))
         {
+            const int withBinaryData = 2004;
+            bool isText = AcisData.Count > 0 || fields.Release < withBinaryData;
             fields.Bit(false);
-            version = fields.BitShort(AcisData.Count > 0 ? ModelerBits.TextVersion : stored);
+            version = fields.BitShort(isText ? ModelerBits.TextVersion : ModelerBits.StoredVersion);
             ModelerBits.ExchangeData(this, version, fields);
         }
 
         ModelerFormatVersion = fields.IsReading ? (short)version : ModelerFormatVersion;
-        ModelerBits.ExchangeRest(version, fields);
+        ModelerBits.ExchangeRest(this, version, fields);
     }
 }

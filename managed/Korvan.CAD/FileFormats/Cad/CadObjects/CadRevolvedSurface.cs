@@ -6,6 +6,11 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A surface that was made by rotating a profile about an axis.</summary>
 [CadSequence]
 [CadObject("REVOLVEDSURFACE", Subclass = "AcDbModelerGeometry")]
+[CadBits(
+    "ExchangeModeler()", "BS UIsolines", "BS VIsolines",
+    "BD DraftAngle", "BD DraftStartDistance", "BD DraftEndDistance", "BD TwistAngle", "B IsSolid", "B IsCloseToAxis",
+    "3BD AxisPoint", "3BD AxisVector", "BD RevolveAngle", "BD StartAngle", "Matrix RevolvedEntityTransform",
+    "ExchangeProfile()")]
 public partial class CadRevolvedSurface : CadObjectWithAcisData
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -31,11 +36,11 @@ public partial class CadRevolvedSurface : CadObjectWithAcisData
     [CadSubclass("AcDbRevolvedSurface")]
     public int RevolvedEntityClass { get; set; }
 
-    /// <summary>Gets or sets the size of the profile in bytes, which follows from the data. Group code 90.</summary>
+    /// <summary>Gets or sets the size of the profile in bits, which follows from the data. Group code 90.</summary>
     [CadInt(90)]
     internal int RevolvedEntitySize
     {
-        get => RevolvedEntityData.Length;
+        get => RevolvedEntityData.Length * 8;
         set => _ = value;
     }
 
@@ -86,4 +91,8 @@ public partial class CadRevolvedSurface : CadObjectWithAcisData
     /// <summary>Gets or sets whether ends of the profile are connected to the axis. Group code 291.</summary>
     [CadBool(291)]
     public bool IsCloseToAxis { get; set; }
+
+    private void ExchangeProfile(BitExchange fields) =>
+        (RevolvedEntityClass, RevolvedEntityData) =
+            ModelerBits.ExchangeProfile(fields, RevolvedEntityClass, RevolvedEntityData);
 }

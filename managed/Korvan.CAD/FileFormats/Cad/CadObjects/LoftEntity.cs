@@ -10,11 +10,11 @@ internal sealed partial class LoftEntity
     [CadInt(90)]
     public int EntityClass { get; set; }
 
-    /// <summary>Gets or sets the size of the data in bytes, which follows from the data. Group code 90.</summary>
+    /// <summary>Gets or sets the size of the data in bits, which follows from the data. Group code 90.</summary>
     [CadInt(90)]
     internal int Size
     {
-        get => Data.Length;
+        get => Data.Length * 8;
         set => _ = value;
     }
 

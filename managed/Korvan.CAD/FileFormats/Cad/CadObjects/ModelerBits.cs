@@ -13,6 +13,9 @@ internal static class ModelerBits
     /// <summary>The version of data that is text.</summary>
     internal const int TextVersion = 1;
 
+    /// <summary>The version of binary data.</summary>
+    internal const int StoredVersion = 2;
+
     private const int MaxBlock = 4096;
 
     private static readonly byte[] EndOfAcis = "\u000E\u0003End\u000E\u0002of\u000E\u0004ACIS\r\u0004data"u8.ToArray();
@@ -37,14 +40,38 @@ internal static class ModelerBits
         }
     }
 
-    internal static void ExchangeRest(int version, BitExchange fields)
+    /// <summary>Carries an entity that a surface was made of, as its class and its own fields.</summary>
+    internal static (int Class, byte[] Data) ExchangeProfile(BitExchange fields, int type, byte[] data)
     {
-        if (fields.Bit(false))
+        const int bits = 8;
+        type = fields.BitLong(type);
+        int size = fields.CountLong(data.Length * bits);
+        return size % bits == 0 ? (type, fields.Bytes(data, size / bits))
+            : throw fields.Fault($"the profile has {size} bits, which are no whole bytes");
+    }
+
+    internal static void ExchangeRest(CadObjectWithAcisData solid, int version, BitExchange fields)
+    {
+        // Solids with data in a section have an empty wireframe at least.
+        if (fields.Bit(fields.HasStoredData))
         {
             PassWireframe(fields);
         }
 
-        fields.Bit(true);
+        // Surfaces have the data of what they were before they were trimmed.
+        bool isUntrimmed = solid.UntrimmedData.Length > 0 && version == StoredVersion && !fields.HasStoredData;
+        if (!fields.Bit(!isUntrimmed))
+        {
+            fields.Bit(false);
+            int form = fields.BitShort(StoredVersion);
+            if (form == TextVersion)
+            {
+                throw fields.Fault("the second data of the modeler are text");
+            }
+
+            solid.UntrimmedData = fields.BytesUpTo(solid.UntrimmedData, EndOfAcis, EndOfAsm);
+        }
+
         if (fields.Release >= 2007 && version > TextVersion)
         {
             for (int materials = fields.CountLong(0); materials > 0; materials--)
@@ -80,7 +107,7 @@ internal static class ModelerBits
 
     private static void WriteText(CadObjectWithAcisData solid, BitExchange fields)
     {
-        string text = string.Concat(solid.AcisData.Select(static line => line.Replace("^ ", "^") + "\r\n"));
+        string text = string.Concat(solid.GetTextData().Select(static line => line.Replace("^ ", "^") + "\r\n"));
         byte[] bytes = Encoding.Latin1.GetBytes(text);
         for (int at = 0; at < bytes.Length; at += MaxBlock)
         {
@@ -93,13 +120,14 @@ internal static class ModelerBits
 
     private static void PassWireframe(BitExchange fields)
     {
-        if (fields.Bit(false))
+        const int isolines = 4;
+        if (fields.Bit(true))
         {
             fields.Point3(new Cad3DPoint());
         }
 
-        fields.BitLong(0);
-        if (!fields.Bit(false))
+        fields.BitLong(isolines);
+        if (!fields.Bit(true))
         {
             return;
         }

@@ -8,6 +8,7 @@ using Korvan.CAD.FileFormats.Cad.Dwg.AppInfo;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Dwg.Header;
+using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 using Korvan.CAD.FileFormats.Cad.Dwg.Sections;
 using Korvan.CAD.FileFormats.Cad.Dwg.SummaryInfo;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -96,6 +97,8 @@ internal static class DwgContentBuilder
                 ? MinorSections.WriteFreeSpace(release, objects.Count, summary.UpdateTime) : [],
             AuxHeader = MinorSections.WriteAuxHeader(
                 release, values.HandleOf("$HANDSEED"), summary.CreateTime, summary.UpdateTime),
+            AcdsPrototype = release >= ModelerSection.Since
+                ? DataStoreWriter.Write(ModelerSection.DataOf(drawing)) : [],
         };
     }
 

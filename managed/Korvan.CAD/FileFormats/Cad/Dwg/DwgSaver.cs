@@ -19,7 +19,7 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg;
 /// <summary>Writes drawing databases of releases 2000, 2004, 2010, 2013 and 2018.</summary>
 internal static class DwgSaver
 {
-    private const int WithBinarySolids = 2010;
+    private const int WithBinarySolids = 2004;
 
     private static readonly CadAcadVersion[] Written =
     [

@@ -1,6 +1,7 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
@@ -15,6 +16,9 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
     internal override int Release => writer.Release;
 
     internal override bool IsReading => false;
+
+    internal override ModelerForm Modeler =>
+        writer.Release < ModelerSection.Since ? ModelerForm.Text : ModelerForm.Separate;
 
     /// <summary>Begins an object.</summary>
     /// <param name="layouts">How its fields were in the file that it was read from, by subclass; null where they were

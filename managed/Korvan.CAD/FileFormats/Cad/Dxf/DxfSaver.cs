@@ -217,17 +217,20 @@ internal sealed class DxfSaver
     private void WriteAcdsData()
     {
         CadAcdsData section = _drawing.AcdsData;
-        if (_writer.Release < 2013 || !(section.IsInFile || section.Items.Count > 0))
+        if (_writer.Release < ModelerSection.Since)
+        {
+            return;
+        }
+
+        List<CadBaseAcds> items = ModelerSection.ItemsOf(_drawing);
+        if (!section.IsInFile && items.Count == 0)
         {
             return;
         }
 
         BeginSection("ACDSDATA");
-        section.Header.ForEach(_writer.Write);
-        foreach (CadBaseAcds item in section.Items)
-        {
-            _objects.Write(item);
-        }
+        (section.Header.Count > 0 ? section.Header : ModelerSection.HeaderFor(items)).ForEach(_writer.Write);
+        items.ForEach(_objects.Write);
 
         EndSection();
     }

@@ -15,6 +15,9 @@ internal abstract partial class ObjectExchange
     /// <summary>Gets whether the object takes values over.</summary>
     internal abstract bool IsReading { get; }
 
+    /// <summary>Gets the form in which the format has the data of solids.</summary>
+    internal virtual ModelerForm Modeler => ModelerForm.Unchanged;
+
     /// <summary>Begins the fields of a subclass.</summary>
     internal abstract void BeginSubclass(string name);
 

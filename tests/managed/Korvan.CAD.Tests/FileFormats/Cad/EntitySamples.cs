@@ -17,12 +17,12 @@ internal static partial class ObjectSamples
     private static (string Type, string Fields, Func<CadBaseObject, object> Get, Action<CadBaseObject> Change,
         object Expected)[] Entities =>
     [
-        Sample<CadSweptSurface>("SWEPTSURFACE", Modeler + "100 AcDbSweptSurface|90 36|90 2|310 0102|90 77|90 1|310 03|"
+        Sample<CadSweptSurface>("SWEPTSURFACE", Modeler + "100 AcDbSweptSurface|90 36|90 16|310 0102|90 77|90 8|310 03|"
             + Repeat(40, Matrix) + "|" + Repeat(41, Matrix) + "|" + Sweep + Repeat(46, Matrix) + "|"
             + Repeat(47, Matrix) + "|" + SweepOptions,
             o => (o.SweepEntityData.Length, o.PathEntityClass, o.TwistAngle, o.TwistReference.Z),
             o => o.PathEntityData = [1, 2], (2, 77, 0.5, 3.0)),
-        Sample<CadExtrudedSurface>("EXTRUDEDSURFACE", Modeler + "100 AcDbExtrudedSurface|90 18|90 1|310 0A|10 0|20 0|"
+        Sample<CadExtrudedSurface>("EXTRUDEDSURFACE", Modeler + "100 AcDbExtrudedSurface|90 18|90 8|310 0A|10 0|20 0|"
             + "30 5|" + Repeat(40, Matrix) + "|" + Sweep + Repeat(46, Matrix) + "|" + Repeat(47, Matrix) + "|"
             + SweepOptions, o => (o.SweepVector.Z, o.SweepAlignment, o.AlignStart), o => o.SweepVector.Z = 9,
             (5.0, (short)2, true)),

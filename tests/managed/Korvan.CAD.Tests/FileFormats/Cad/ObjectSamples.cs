@@ -176,12 +176,12 @@ internal static partial class ObjectSamples
             o => o.Cells[0].Borders[0].LineWeight = 50, (true, "Title", "%f", false, (short)5)),
         Sample<CadPlaneSurface>("PLANESURFACE", Modeler + "100 AcDbPlaneSurface",
             o => (o.AcisData[0], o.VIsolines), o => o.UIsolines = 3, ("nqrq", (short)8)),
-        Sample<CadRevolvedSurface>("REVOLVEDSURFACE", Modeler + "100 AcDbRevolvedSurface|90 36|90 2|310 0102|10 1|"
+        Sample<CadRevolvedSurface>("REVOLVEDSURFACE", Modeler + "100 AcDbRevolvedSurface|90 36|90 16|310 0102|10 1|"
             + "20 2|30 3|"
             + "11 0|21 0|31 1|40 3.14|41 0|" + Repeat(42, Matrix) + "|43 0|44 0|45 0|46 0.5|290 0|291 1",
             o => (o.RevolveAngle, o.TwistAngle, o.IsCloseToAxis), o => o.StartAngle = 1, (3.14, 0.5, true)),
         Sample<CadLoftedSurface>("LOFTEDSURFACE", Modeler + "100 AcDbLoftedSurface|" + Repeat(40, Matrix)
-            + "|90 36|90 1|310 01|90 77|90 2|310 0203|70 1|41 0|42 0.25|43 0|44 0|290 0|291 1|292 1|293 0|294 1|"
+            + "|90 36|90 8|310 01|90 77|90 16|310 0203|70 1|41 0|42 0.25|43 0|44 0|290 0|291 1|292 1|293 0|294 1|"
             + "295 0|296 0|"
             + "297 0", o => (o.EndDraftAngle, o.CreateClosedSurface), o => o.EndDraftMagnitude = 1, (0.25, true)),
         Sample<CadSection>("SECTIONOBJECT", "100 AcDbSection|90 1|91 1|1 A-A|10 0|20 0|30 1|40 9|41 1|70 70|63 5|"

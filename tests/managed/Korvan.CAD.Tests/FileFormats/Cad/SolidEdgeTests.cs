@@ -101,6 +101,7 @@ public class SolidEdgeTests
     [InlineData("0 0 0", "1", 0)] // both ends are in one place
     public void Cylinders_and_cones_have_lines_between_their_ends(string top, string radius, int lines)
     {
+        string slope = radius == "1" ? "0" : "-0.1";
         string[] text =
         [
             "400 0 1 0", "x", "1 1e-6 1e-10",
@@ -109,7 +110,7 @@ public class SolidEdgeTests
             "coedge $-1 $3 $3 $-1 $5 forward $1 #", "coedge $-1 $4 $4 $-1 $6 forward $2 #", // 3, 4
             "edge $-1 $7 $7 $3 $10 forward #", "edge $-1 $8 $8 $4 $11 forward #", // 5, 6
             "vertex $-1 $5 $12 #", "vertex $-1 $6 $13 #", // 7, 8
-            "cone-surface $-1 0 0 0 0 0 1 1 0 0 1 I I 0 1 forward I I I I #", // 9
+            $"cone-surface $-1 0 0 0 0 0 1 1 0 0 1 I I {slope} 1 forward I I I I #", // 9
             "ellipse-curve $-1 0 0 0 0 0 1 1 0 0 1 I I #",
             $"ellipse-curve $-1 {top} 0 0 -1 {radius} 0 0 1 I I #",
             "point $-1 1 0 0 #", $"point $-1 {radius} 0 5 #",
@@ -122,6 +123,43 @@ public class SolidEdgeTests
             Assert.Equal([1, 0, foot, 5], [
                 Math.Round(line.From.Xy.Length, 6), line.From.Z, Math.Round(line.To.Xy.Length, 6), line.To.Z]);
         });
+    }
+
+    // Circles with the face on their left; the axis of all surfaces is Z, and all angles are from X.
+    [Theory]
+    [InlineData("sphere-surface $-1 0 0 0 5 1 0 0 0 0 1", "forward", "3:4", "forward", 3.0, 5.0)] // the cap above
+    [InlineData("sphere-surface $-1 0 0 0 5 1 0 0 0 0 1", "forward", "3:4", "reversed", -5.0, 3.0)] // the rest
+    [InlineData("sphere-surface $-1 0 0 0 -5 1 0 0 0 0 1", "forward", "3:4", "forward", -5.0, 3.0)] // from inside
+    [InlineData("sphere-surface $-1 0 0 0 5 1 0 0 0 0 1", "reversed", "3:4", "forward", -5.0, 3.0)]
+    [InlineData("torus-surface $-1 0 0 0 0 0 1 5 2 1 0 0", "forward", "2:5", "forward", -2.0, 2.0)] // no other edge
+    [InlineData("cone-surface $-1 0 0 0 0 0 1 1 0 0 1 I I 1 1", "forward", "2:3", "reversed", -1.0, 2.0)] // an apex
+    [InlineData("cone-surface $-1 0 0 0 0 0 1 1 0 0 1 I I 0 1", "forward", "2:1", "forward", 0, 0)] // no other end
+    [InlineData("sphere-surface $-1 0 0 0 5 1 0 0 0 0 1", "forward", "3:4.1", "forward", 0, 0)] // not on the surface
+    public void Isolines_end_at_the_edges_of_their_face(
+        string surface, string sense, string circle, string direction, double bottom, double top)
+    {
+        string[] parts = circle.Split(':'); // height and radius
+        string[] text =
+        [
+            "400 0 1 0", "x", "1 1e-6 1e-10",
+            $"face $-1 $-1 $1 $-1 $-1 $6 {sense} single #", "loop $-1 $-1 $2 $0 #",
+            $"coedge $-1 $2 $2 $-1 $3 {direction} $1 #", "edge $-1 $4 $4 $2 $7 forward #",
+            "vertex $-1 $3 $5 #", $"point $-1 {parts[1]} 0 {parts[0]} #", surface + " forward_v I I I I #",
+            $"ellipse-curve $-1 0 0 {parts[0]} 0 0 1 {parts[1]} 0 0 1 I I #",
+        ];
+        AcisWireframe edges = AcisReader.Read(text)!;
+        edges.Arcs.RemoveAt(0); // the edge
+        List<double> heights = [.. edges.Lines.SelectMany(static line => new[] { line.From.Z, line.To.Z })];
+        foreach (AcisArc arc in edges.Arcs)
+        {
+            for (int i = 0; i <= 64; i++)
+            {
+                heights.Add(arc.At(arc.Start + (arc.Sweep * i / 64)).Z);
+            }
+        }
+
+        Assert.Equal((bottom, top), heights.Count == 0 ? (0, 0)
+            : (Math.Round(heights.Min(), 3), Math.Round(heights.Max(), 3)));
     }
 
     [Theory]

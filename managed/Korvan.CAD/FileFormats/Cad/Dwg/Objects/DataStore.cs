@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using System.Globalization;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -14,7 +13,6 @@ internal sealed class DataStore
     private const uint BlobReference = 0xBB106BB1;
     private const int SegmentHeader = 48;
     private const int DataAlignment = 36;
-    private const int IdentifierType = 10;
 
     // The data of solids begins with the name of the modeler that wrote it.
     private static readonly byte[][] Beginnings = ["ACIS BinaryFile"u8.ToArray(), "ASM BinaryFile"u8.ToArray()];
@@ -44,40 +42,16 @@ internal sealed class DataStore
         }
 
         CadAcdsData section = drawing.AcdsData;
-        section.Items.Items.Add(Schema());
+        section.Items.Items.Add(ModelerSection.CreateSchema(0));
         foreach ((ulong owner, byte[] bytes) in store._solids)
         {
-            section.Items.Items.Add(Record(owner, bytes));
+            section.Items.Items.Add(ModelerSection.CreateRecord(0, owner, bytes));
         }
 
         section.IsInFile = true;
-        section.Header.Add(new CadCodeValue(70, "2"));
-        section.Header.Add(new CadCodeValue(71, Text(section.Items.Count)));
+        section.Header.AddRange(ModelerSection.HeaderFor(section.Items.Items));
         return isSound;
     }
-
-    private static CadAcdsSchema Schema()
-    {
-        CadAcdsSchema schema = new() { Name = "AcDb3DSolid_ASM_Data" };
-        schema.Columns.Add(new AcdsColumn { Name = "AcDbDs::ID", DataType = IdentifierType, Reserved = 8 });
-        schema.Columns.Add(new AcdsColumn { Name = "ASM_Data", DataType = AcdsValue.BinaryType, Reserved = 0 });
-        return schema;
-    }
-
-    private static CadAcdsRecord Record(ulong owner, byte[] data)
-    {
-        CadAcdsRecord record = new();
-        record.Values.Add(new AcdsValue
-        {
-            Name = "AcDbDs::ID",
-            DataType = IdentifierType,
-            Handle = HandleText.Format(owner),
-        });
-        record.Values.Add(new AcdsValue { Name = "ASM_Data", DataType = AcdsValue.BinaryType, Data = data });
-        return record;
-    }
-
-    private static string Text(int value) => value.ToString(CultureInfo.InvariantCulture);
 
     private bool ReadSegments()
     {

@@ -104,6 +104,8 @@ internal sealed class RecordWriter(int release, Encoding encoding, WrittenHandle
     {
         Begin(item, frame);
         _fields.Parts = parts ?? new ChildHandles();
+        _fields.HasStoredData = release >= ModelerSection.Since && item is CadObjectWithAcisData solid
+            && solid.GetBinaryData().Length > 0;
         if (item is CadEntityBase entity)
         {
             WriteGraphics(entity);

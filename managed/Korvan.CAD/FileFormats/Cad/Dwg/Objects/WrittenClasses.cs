@@ -125,6 +125,10 @@ internal sealed class WrittenClasses
         ["GRADIENT_BACKGROUND"] = ("AcDbGradientBackground", 4095),
         ["SKYLIGHT_BACKGROUND"] = ("AcDbSkyBackground", 4095),
         ["SOLID_BACKGROUND"] = ("AcDbSolidBackground", 4095),
+        ["EXTRUDEDSURFACE"] = ("AcDbExtrudedSurface", 4095),
+        ["LOFTEDSURFACE"] = ("AcDbLoftedSurface", 4095),
+        ["REVOLVEDSURFACE"] = ("AcDbRevolvedSurface", 4095),
+        ["SWEPTSURFACE"] = ("AcDbSweptSurface", 4095),
     };
 
     private readonly List<CadClassEntity> _classes;

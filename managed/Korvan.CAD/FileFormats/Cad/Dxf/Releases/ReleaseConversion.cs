@@ -13,7 +13,6 @@ internal static class ReleaseConversion
     private const int WithRecords = 1994;
     private const int WithLayouts = 2000;
     private const int WithTrueColors = 2004;
-    private const int WithDataSection = 2013;
 
     /// <summary>Determines whether the content of a drawing is of another release than the one to be written.</summary>
     internal static bool IsNeeded(CadDrawing drawing, CadAcadVersion target) =>
@@ -49,7 +48,7 @@ internal static class ReleaseConversion
             IndexedOnly.Apply(drawing, changes);
         }
 
-        if (to < WithDataSection && from >= WithDataSection)
+        if (to < ModelerSection.Since)
         {
             drawing.RawSections.RemoveAll(static section => section.Name == "ACDSDATA");
             if (!hasBinarySolids)
@@ -113,13 +112,14 @@ internal static class ReleaseConversion
         while (drawing.Objects.Count < count);
     }
 
-    // From release 2013 on the data of solids is in a section that earlier releases do not have.
+    // Text is made of the binary data of solids, unless they are damaged or missing.
     private static void RemoveBinarySolids(CadDrawing drawing, List<string> changes)
     {
         foreach (CadBlockEntity block in drawing.BlockEntities)
         {
             EntityConversion.RemoveWhere(
-                block, static entity => entity is CadObjectWithAcisData { AcisData.Count: 0 }, changes);
+                block, static entity => entity is CadObjectWithAcisData { HasModelerData: true } solid
+                    && solid.GetTextData().Count == 0, changes);
         }
     }
 }

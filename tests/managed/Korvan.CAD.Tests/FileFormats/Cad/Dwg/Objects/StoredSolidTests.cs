@@ -3,7 +3,9 @@ using System.Collections.Generic;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Xunit;
@@ -59,6 +61,56 @@ public class StoredSolidTests
         Assert.True(solids.Count >= 3);
         Assert.All(solids, static solid => Assert.NotEmpty(solid.DataRecord!.Data));
     }
+
+    [Fact]
+    public void WrittenSectionsHaveWhatTheyAreGiven()
+    {
+        List<(ulong Owner, byte[] Data)> solids = [(0x2A, Small), (0x2B, Large), (0x2C, Sized(0x40000)),
+            (0x2D, Sized(0x40001)), (0x2E, Sized(0x140000)), (0x2F, Small)];
+        CadDrawing drawing = new(DrawingSeed.Blank);
+
+        byte[] section = DataStoreWriter.Write(solids);
+
+        Assert.True(DataStore.Read(section, drawing));
+        Assert.Equal(0, section.Length % 128);
+        Assert.All(solids, solid => Assert.Equal(solid.Data, drawing.AcdsData.GetData($"{solid.Owner:X}")));
+        Assert.Equal(solids.Count + 1, drawing.AcdsData.Items.Count);
+    }
+
+    // The schemas, byte for byte, are those of other programs.
+    [DrawingFact]
+    public void SchemasAreThoseOfRealDrawings()
+    {
+        byte[] file = File.ReadAllBytes(SharedDrawings.Dwg("acs__sample_base.dwg"));
+        byte[] real = DwgContainer.Read(file, "", CadAcadVersion.AC1032, new LoadOptions()).AcdsPrototype;
+        const int attributes = 0x60;
+
+        Assert.True(real.AsSpan().IndexOf(SolidSchemas.Data.AsSpan(attributes)) > 0);
+        Assert.True(real.AsSpan().IndexOf(SolidSchemas.DataNames.AsSpan(sizeof(int), 11)) > 0);
+    }
+
+    [DrawingFact]
+    public void SurfacesHaveWhatTheyWereMadeOf()
+    {
+        CadDrawing drawing = RealObjectTests.Load(
+            SharedDrawings.Dwg("lc__assoc_surface_r2004.dwg"), new LoadOptions { IgnoreErrors = true });
+
+        CadExtrudedSurface extruded = DrawingWalk.Entities(drawing).OfType<CadExtrudedSurface>().Single();
+        CadSweptSurface swept = DrawingWalk.Entities(drawing).OfType<CadSweptSurface>().Single();
+        CadRevolvedSurface revolved = DrawingWalk.Entities(drawing).OfType<CadRevolvedSurface>().Single();
+        CadLoftedSurface lofted = DrawingWalk.Entities(drawing).OfType<CadLoftedSurface>().Single();
+
+        Assert.Equal((200.0, 35, 59), (extruded.SweepVector.Z, extruded.SweepEntityClass,
+            extruded.SweepEntityData.Length));
+        Assert.Equal((77, 134, 19, 43), (swept.SweepEntityClass, swept.SweepEntityData.Length, swept.PathEntityClass,
+            swept.PathEntityData.Length));
+        Assert.Equal((1.0, 0.193, 77), (revolved.AxisVector.Y, Math.Round(revolved.RevolveAngle, 3),
+            revolved.RevolvedEntityClass));
+        Assert.Equal([68, 76], lofted.Entities.Select(static profile => profile.Data.Length));
+        Assert.Equal(Math.PI / 2, lofted.StartDraftAngle, 9);
+    }
+
+    private static byte[] Sized(int size) => [.. "ACIS BinaryFile"u8, .. new byte[size - 15]];
 
     // A header, then segments: their index, that of the data, the data, and a page of large data.
     private static byte[] Section()
