@@ -11,7 +11,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
     "BS PaperUnits", "BS PlotRotation", "BS PlotType", "BD PlotWindowLeft", "BD PlotWindowBottom",
     "BD PlotWindowRight", "BD PlotWindowTop", "-2000 T PlotViewName", "BD ScaleNumerator", "BD ScaleDenominator",
     "T CurrentStyleSheet", "BS StandardScale", "BD ScaleFactor", "BD PaperImageOriginX", "BD PaperImageOriginY",
-    "2004+ BS ShadePlotMode", "2004+ BS ShadePlotResolution", "2004+ BS ShadePlotCustomDpi", "2004+ H",
+    "2004+ BS ShadePlotMode", "2004+ BS ShadePlotResolution", "2004+ BS ShadePlotCustomDpi", "2004+ ExchangeView()",
     "2007+ H ShadePlotHandle")]
 public partial class CadPlotSettings : CadObjectBase
 {
@@ -145,4 +145,10 @@ public partial class CadPlotSettings : CadObjectBase
     /// <summary>Gets or sets the handle of the visual style of shaded plots in hexadecimal. Group code 333.</summary>
     [CadHandle(333, Optional = true, Since = 2007)]
     public string ShadePlotHandle { get; set; } = "";
+
+    private void ExchangeView(BitExchange fields)
+    {
+        string view = fields.Handle(HandleRole.HardPointer, fields.FindHandle(SymbolTable.View, PlotViewName));
+        PlotViewName = fields.IsReading ? fields.FindName(view) ?? "" : PlotViewName;
+    }
 }

@@ -7,6 +7,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
@@ -59,6 +60,21 @@ internal static class DwgSaver
         List<CadDbColor> colors = BookColors.AddMissing(drawing, release);
         DrawingIntegrity.Prepare(drawing, release);
         BookColors.Link(drawing, colors);
+        LinkMultilineStyles(drawing);
+    }
+
+    // Records lead to the style of a multiline, which programs and old text files may know by its name only.
+    private static void LinkMultilineStyles(CadDrawing drawing)
+    {
+        List<CadMLineStyleObject> styles = [.. drawing.Objects.OfType<CadMLineStyleObject>()];
+        foreach (CadMultiLine line in DrawingWalk.Entities(drawing).OfType<CadMultiLine>())
+        {
+            bool isLinked = HandleText.TryParse(line.StyleHandle, out ulong handle)
+                && styles.Exists(style => style.Handle == handle);
+            CadMLineStyleObject? named = isLinked ? null : styles.Find(style =>
+                string.Equals(style.StyleName, line.StyleName, StringComparison.OrdinalIgnoreCase));
+            line.StyleHandle = named?.ObjectHandle ?? line.StyleHandle;
+        }
     }
 
     // Drawings of a release that is not written become those of the next one.

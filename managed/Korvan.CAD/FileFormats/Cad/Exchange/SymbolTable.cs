@@ -18,4 +18,7 @@ internal enum SymbolTable
 
     /// <summary>Block records.</summary>
     BlockRecord,
+
+    /// <summary>Named views.</summary>
+    View,
 }

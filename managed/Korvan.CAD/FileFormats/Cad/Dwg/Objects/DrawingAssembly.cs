@@ -4,6 +4,7 @@ using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
+using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.FileFormats.Cad.CadTables;
@@ -117,6 +118,7 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
             TakeColor(entity, content.Place.Color);
             Complete(entity, content.Parts);
             TakeBlockRecord(entity);
+            TakeStyle(entity);
         }
     }
 
@@ -206,6 +208,16 @@ internal sealed class DrawingAssembly(CadDrawing drawing, ObjectSet objects, Rec
         if (entity is CadTableEntity table && drawing.BlockRecords.Find(table.Name) is { } block)
         {
             table.BlockRecordHandle = HandleText.Format(block.Handle);
+        }
+    }
+
+    // Text files state the name of the style as well.
+    private void TakeStyle(CadEntityBase entity)
+    {
+        if (entity is CadMultiLine line && HandleText.TryParse(line.StyleHandle, out ulong handle)
+            && objects.Get<CadMLineStyleObject>(handle) is { } style)
+        {
+            line.StyleName = style.StyleName;
         }
     }
 

@@ -14,6 +14,7 @@ internal sealed class WrittenHandles
     [
         (SymbolTable.Layer, "LAYER"), (SymbolTable.LineType, "LTYPE"), (SymbolTable.Style, "STYLE"),
         (SymbolTable.DimensionStyle, "DIMSTYLE"), (SymbolTable.BlockRecord, "BLOCK_RECORD"),
+        (SymbolTable.View, "VIEW"),
     ];
 
     private readonly Dictionary<SymbolTable, Dictionary<string, ulong>> _records = [];

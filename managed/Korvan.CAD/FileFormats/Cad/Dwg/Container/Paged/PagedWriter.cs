@@ -95,17 +95,9 @@ internal sealed class PagedWriter
         _sections.Add(new SectionInfo(id, section.Name, data.Length, pageSize, section.IsCompressed, false, pages));
     }
 
-    // Other programs ask for no larger pages of these two sections, and for one page of each of the others.
-    private static int PageSizeOf(string section, int length)
-    {
-        int whole = (length + SmallPage - 1) & -SmallPage;
-        return section switch
-        {
-            SummaryName => SummaryPage,
-            PreviewName => Math.Min(whole, PageSize),
-            _ => whole,
-        };
-    }
+    // Programs read the preview by its address, so that it is in one page, whatever its size.
+    private static int PageSizeOf(string section, int length) =>
+        section == SummaryName ? SummaryPage : (length + SmallPage - 1) & -SmallPage;
 
     private void WritePage(int id, ReadOnlySpan<byte> stored, int start)
     {

@@ -221,13 +221,13 @@ public class ObjectRoundTripTests
     }
 
     internal static (CadDrawing Drawing, IReadOnlyList<string> LeftOut) WriteAndRead(
-        CadDrawing drawing, CadAcadVersion version)
+        CadDrawing drawing, CadAcadVersion version, LoadOptions? options = null)
     {
         int release = DrawingRelease.Year(version);
         DwgSaver.Prepare(drawing, release);
         DwgObjectWriter writer = new(drawing, release, Encoding.Latin1);
         writer.Write();
-        DwgSource source = new([], "written", new LoadOptions());
+        DwgSource source = new([], "written", options ?? new LoadOptions());
         DwgFile file = new()
         {
             Source = source,
