@@ -108,43 +108,57 @@ internal sealed partial class SceneBuilder
         path.Close();
     }
 
-    /// <summary>
-    /// Rays and construction lines are clipped to the visible region: at once inside of a viewport, else when the
-    /// extents
-    /// of everything else are known.
-    /// </summary>
+    /// <summary>Clips rays and construction lines to the visible region: at once in a viewport, else when the
+    /// extents of everything else are known.</summary>
     void IGeometrySink.InfiniteLine(Vec3 from, Vec3 direction, bool bothWays)
     {
         (Pen pen, _, BlockContext context, _) = _current;
         Vec2 start = context.Map.Project(from);
-        Vec2 along = (context.Map.Project(from + direction) - start).Unit();
+        var line = new InfiniteLine(start, (context.Map.Project(from + direction) - start).Unit(), bothWays, pen);
         if (List.ActiveClip is Bounds2 clip)
         {
-            DrawClipped(start, along, bothWays, clip, pen);
+            DrawClipped(line, clip);
         }
         else
         {
-            _infinite.Add(() => DrawClipped(start, along, bothWays, InfiniteRegion, pen));
+            _infinite.Add(line);
         }
     }
 
-    private Bounds2 InfiniteRegion { get; set; }
-
     private void FinishInfinite()
     {
-        Bounds2 box = List.Bounds;
-        InfiniteRegion = box.IsEmpty ? Bounds2.Of(-1, -1, 1, 1) : box;
-        foreach (Action draw in _infinite)
+        Bounds2 region = InfiniteRegion();
+        foreach (InfiniteLine line in _infinite)
         {
-            draw();
+            DrawClipped(line, region);
         }
 
         _infinite.Clear();
     }
 
-    // Liang and Barsky's parametric clipping, 1984.
-    private void DrawClipped(Vec2 start, Vec2 along, bool bothWays, in Bounds2 box, in Pen pen)
+    // Where nothing else has an extent, the lines are shown around where they start.
+    private Bounds2 InfiniteRegion()
     {
+        Bounds2 box = List.Bounds;
+        if (box.IsEmpty)
+        {
+            _infinite.ForEach(line => box.Add(line.Start.X, line.Start.Y));
+        }
+
+        if (box.IsEmpty || (box.Width > 0 && box.Height > 0))
+        {
+            return box;
+        }
+
+        double side = Math.Max(box.Width, box.Height);
+        double margin = side > 0 ? side / 2 : 1;
+        return Bounds2.Of(box.MinX - margin, box.MinY - margin, box.MaxX + margin, box.MaxY + margin);
+    }
+
+    // Liang and Barsky's parametric clipping, 1984.
+    private void DrawClipped(in InfiniteLine line, in Bounds2 box)
+    {
+        (Vec2 start, Vec2 along, bool bothWays, Pen pen) = line;
         double low = bothWays ? double.NegativeInfinity : 0;
         double high = double.PositiveInfinity;
         bool visible = along != default
@@ -173,4 +187,6 @@ internal sealed partial class SceneBuilder
         high = Math.Min(high, Math.Max(a, b));
         return true;
     }
+
+    private readonly record struct InfiniteLine(Vec2 Start, Vec2 Along, bool BothWays, Pen Pen);
 }

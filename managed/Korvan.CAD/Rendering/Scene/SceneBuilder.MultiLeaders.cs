@@ -1,7 +1,10 @@
 using System;
 using System.Collections.Generic;
+using System.Linq;
+using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 using Korvan.CAD.Geometry;
@@ -50,12 +53,13 @@ internal sealed partial class SceneBuilder
         }
         else if (data.HasBlock)
         {
-            DrawLeaderBlock(data.Block, pen, layer, context);
+            DrawLeaderBlock(leader, Own(data.Block.Color), layer, context);
         }
     }
 
-    private void DrawLeaderBlock(CadMLeaderBlock content, in Pen pen, LayerInfo layer, BlockContext context)
+    private void DrawLeaderBlock(CadMLeader leader, in Pen pen, LayerInfo layer, BlockContext context)
     {
+        CadMLeaderBlock content = leader.ContextData.Block;
         if (!_tables.BlocksByRecord.TryGetValue(HandleOf(content.BlockRecordHandle), out BlockInfo? block))
         {
             return;
@@ -67,7 +71,36 @@ internal sealed partial class SceneBuilder
             * Affine3.RotationZ(content.Rotation) * Affine3.Scaling(NotZero(s.X), NotZero(s.Y), NotZero(s.Z))
             * Affine3.Translation(-block.Base);
         DrawBlock(block, map, layer, pen, context);
+        BlockContext inside = context.Inside(block, map, layer, pen);
+        foreach (CadAttDef definition in block.Entities.OfType<CadAttDef>())
+        {
+            MLeaderAttribute? attribute = leader.Style.BlockAttributes.Find(
+                value => HandleOf(value.DefinitionHandle) == HandleOf(definition.ObjectHandle));
+            if (attribute is not null)
+            {
+                Draw(TextOf(definition, attribute.Value), inside);
+            }
+        }
     }
+
+    private static CadText TextOf(CadAttDef definition, string value) => new()
+    {
+        DefaultValue = value,
+        LayerName = definition.LayerName,
+        ColorId = definition.ColorId,
+        ColorValue = definition.ColorValue,
+        FirstAlignment = definition.FirstAlignment,
+        SecondAlignment = definition.SecondAlignment,
+        HorizontalAlignment = definition.HorizontalAlignment,
+        VerticalAlignment = definition.VerticalAlignment,
+        TextHeight = definition.TextHeight,
+        TextRotation = definition.TextRotation,
+        ScaleX = definition.ScaleX,
+        ObliqueAngle = definition.ObliqueAngle,
+        StyleType = definition.StyleType,
+        TextGenerationFlags = definition.TextGenerationFlags,
+        ExtrusionDirection = definition.ExtrusionDirection,
+    };
 
     private static ulong HandleOf(string text) => HandleText.TryParse(text, out ulong handle) ? handle : 0;
 
@@ -136,9 +169,19 @@ internal sealed partial class SceneBuilder
         Vec3 normal = data.TextNormal.ToVec3().Unit();
         var plane = new Affine3(x, Vec3.Cross(normal, x), normal, data.TextLocation.ToVec3());
         Affine3 map = context.Map * plane;
+        (double left, double bottom, double right, double top) = layout.Box;
+        if (data.IsBackgroundMaskEnabled)
+        {
+            double grow = (Math.Clamp(data.BackgroundScaleFactor, 1, 5) - 1) * height;
+            AddBox(map, left - grow, bottom - grow, right + grow, top + grow);
+            Rgba color = data.IsBackgroundFillEnabled
+                ? _style.Background
+                : _pens.ColorOf(RawColor.Decode(unchecked((uint)data.BackgroundColor)), layer, context);
+            _canvas.Fill(pen with { Color = color }, evenOdd: false);
+        }
+
         if (leader.Style.IsTextFrameEnabled)
         {
-            (double left, double bottom, double right, double top) = layout.Box;
             double gap = data.LandingGap;
             AddBox(map, left - gap, bottom - gap, right + gap, top + gap);
             _canvas.Stroke(pen with { Pattern = null });

@@ -24,7 +24,7 @@ internal sealed partial class SceneBuilder : IGeometrySink
     private readonly RenderStyle _style;
     private readonly Canvas _canvas;
     private readonly PenResolver _pens;
-    private readonly List<Action> _infinite = [];
+    private readonly List<InfiniteLine> _infinite = [];
     private int _drawn;
     private Current _current;
 

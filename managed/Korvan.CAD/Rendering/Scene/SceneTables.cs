@@ -39,6 +39,9 @@ internal sealed record StyleInfo(
     FontSpec Font, double FixedHeight, double WidthFactor, double ObliqueDegrees, bool IsToleranceFont)
 {
     internal static readonly StyleInfo Default = new(FontSpec.Default, 0, 1, 0, false);
+
+    /// <summary>Gets whether characters are below each other.</summary>
+    internal bool IsVertical { get; init; }
 }
 
 /// <summary>What leaders and tolerance frames take from a dimension style.</summary>

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.Globalization;
 using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model;
 
@@ -31,7 +32,10 @@ internal static class TableReader
     {
         double width = style.WidthFactor is > 0.01 and < 100 ? style.WidthFactor : 1;
         return new StyleInfo(Font(style), style.TextHeight, width, style.ObliqueAngle,
-            FontTable.IsToleranceSymbolFont(style.PrimaryFontName));
+            FontTable.IsToleranceSymbolFont(style.PrimaryFontName))
+        {
+            IsVertical = (style.StyleFlags & CadFontStyleTableFlag.VerticalText) != 0,
+        };
     }
 
     internal static DimStyleInfo DimStyle(CadDimensionStyleTable style, double overallScale, string textStyle) =>

@@ -30,6 +30,7 @@ internal static class TextLayouts
             Horizontal = text.Horizontal,
             Vertical = text.Vertical,
             ToleranceSymbols = style.IsToleranceFont,
+            IsVertical = style.IsVertical && style.Font.Stroke is not null,
         };
     }
 

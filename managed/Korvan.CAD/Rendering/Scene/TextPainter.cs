@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Globalization;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
@@ -37,11 +38,17 @@ internal readonly record struct SingleLine
     internal VerticalAlign Vertical { get; init; }
 
     internal bool ToleranceSymbols { get; init; }
+
+    /// <summary>Gets whether characters are below each other. The rotation is that of the line, 270 degrees for one
+    /// down the page.</summary>
+    internal bool IsVertical { get; init; }
 }
 
 /// <summary>Places single-line and multi-line text on a canvas.</summary>
 internal static class TextPainter
 {
+    /// <summary>The distance of characters below each other, in heights of capitals.</summary>
+    private const double VerticalStep = 1.5;
     private const double BarThickness = 0.06;
     private const double DescenderPart = 1.0 / 3.0;
     private const double SteepestOblique = 85 * Math.PI / 180;
@@ -50,6 +57,12 @@ internal static class TextPainter
     {
         int font = canvas.Engine.Font(line.Font);
         List<TextPiece> pieces = Pieces(canvas, line);
+        if (line.IsVertical)
+        {
+            DrawVertical(canvas, line, pieces, font, map, pen);
+            return;
+        }
+
         double em = line.Height / canvas.Engine.CapRatio(font);
         double advance = 0;
         foreach (TextPiece piece in pieces)
@@ -75,6 +88,40 @@ internal static class TextPainter
             canvas.Text(piece.Text, font, matrix, 0, pen);
             DrawBars(canvas, piece, matrix, width, canvas.Engine.CapRatio(font), pen);
             pen0 += width;
+        }
+    }
+
+    // The line goes through the middle of the characters and begins at the top of the first one.
+    private static void DrawVertical(
+        Canvas canvas, in SingleLine line, List<TextPiece> pieces, int font, in Affine3 map, in Pen pen)
+    {
+        double em = line.Height / canvas.Engine.CapRatio(font);
+        string text = string.Concat(pieces.ConvertAll(static piece => piece.Text));
+        List<string> characters = [];
+        for (TextElementEnumerator all = StringInfo.GetTextElementEnumerator(text); all.MoveNext();)
+        {
+            characters.Add(all.GetTextElement());
+        }
+
+        double step = line.Height * VerticalStep;
+        double length = (step * (characters.Count - 1)) + line.Height;
+        double shift = line.Horizontal switch
+        {
+            HorizontalAlign.Center or HorizontalAlign.Middle => length / 2,
+            HorizontalAlign.Right => length,
+            _ => 0,
+        };
+        bool isAtFirst = line.Horizontal is HorizontalAlign.Left or HorizontalAlign.Aligned or HorizontalAlign.Fit
+            && line.Vertical == VerticalAlign.Baseline;
+        Vec2 at = isAtFirst ? line.First.Xy : line.Second.Xy;
+        (double sin, double cos) = Math.SinCos(line.Rotation + (Math.PI / 2));
+        double factor = em * (line.WidthFactor > 0 ? line.WidthFactor : 1);
+        Affine2 plane = PlaneMap(map, line.First.Z) * new Affine2(cos, sin, -sin, cos, at.X, at.Y);
+        for (int i = 0; i < characters.Count && double.IsFinite(em); i++)
+        {
+            double width = canvas.Engine.Advance(font, characters[i]) * factor;
+            double y = shift - line.Height - (i * step);
+            canvas.Text(characters[i], font, plane * new Affine2(factor, 0, 0, em, -width / 2, y), 0, pen);
         }
     }
 

@@ -236,6 +236,8 @@ internal sealed class MTextLayout
             _widest = Math.Max(_widest, line.Indent + line.VisibleWidth);
         }
 
+        SetOrder();
+
         foreach (Line line in _lines)
         {
             double tallest = line.Height > 0 ? line.Height : _height;
@@ -265,6 +267,24 @@ internal sealed class MTextLayout
         Box = (_anchor.X, lowest + _anchor.Y, _anchor.X + total, _anchor.Y);
     }
 
+    /// <summary>Finds the order of the pieces in lines with scripts that run from right to left.</summary>
+    private void SetOrder()
+    {
+        bool isRightToLeft = false;
+        for (int i = 0; i < _lines.Count; i++)
+        {
+            if (i == 0 || _lines[i - 1].EndsParagraph)
+            {
+                int last = _lines.FindIndex(i, static line => line.EndsParagraph);
+                int end = _lines[last].First + _lines[last].Count;
+                isRightToLeft = VisualOrder.IsRightToLeft(_pieces, _lines[i].First, end - _lines[i].First);
+            }
+
+            Line line = _lines[i];
+            line.Order = VisualOrder.Of(_pieces, line.First, line.LastVisible - line.First + 1, isRightToLeft);
+        }
+    }
+
     /// <summary>Places the pieces one by one: only one of the lists is of interest.</summary>
     private IEnumerable<T> Placed<T>(List<T> made)
     {
@@ -273,7 +293,7 @@ internal sealed class MTextLayout
             (double x, double stretch) = Start(line);
             for (int i = line.First; i <= line.LastVisible; i++)
             {
-                LinePiece piece = _pieces[i];
+                LinePiece piece = _pieces[line.Order?[i - line.First] ?? i];
                 double width = piece.Width + (piece.Kind == MTextTokenKind.Space ? stretch : 0);
                 _runs.Clear();
                 _bars.Clear();
@@ -349,6 +369,9 @@ internal sealed class MTextLayout
 
         /// <summary>Gets or sets whether the line has more than spaces and tabs.</summary>
         internal bool HasText { get; set; }
+
+        /// <summary>Gets or sets the indices of the pieces from left to right; null where they are in order.</summary>
+        internal int[]? Order { get; set; }
 
         /// <summary>Gets the last piece that is no space.</summary>
         internal int LastVisible { get; set; } = -1;

@@ -167,6 +167,16 @@ public class EntityTests
     }
 
     [Fact]
+    public void Rays_and_construction_lines_by_themselves_are_drawn_around_their_starts()
+    {
+        var ray = new CadRay { FirstPoint = P(500, 700, 0), UnitDirection = P(1, 0, 0) };
+        var line = new CadXLine { FirstPoint = P(520, 700, 0), UnitDirection = P(0, 1, 0) };
+        AssertBox(Build(ray), 500, 700, 501, 700);
+        AssertBox(Build(ray, line), 500, 690, 530, 710);
+        AssertBox(Build(line, new CadPoint { CenterPoint = P(520, 705, 0) }), 520, 704, 520, 706);
+    }
+
+    [Fact]
     public void Leaders_carry_a_head_unless_their_first_segment_is_too_short()
     {
         var leader = new CadLeader();
@@ -180,7 +190,7 @@ public class EntityTests
     public void Tolerance_frames_have_a_box_for_each_filled_cell()
     {
         DrawingList list = Build(new CadTolerance { VisualRepresentation = "{\\Fgdt;j}%%v0.5%%vA%%v%%v^J0.1" });
-        Assert.Equal(4, Kinds(list).FindAll(k => k == DisplayKind.Stroke).Count);
+        Assert.Equal(5, Kinds(list).FindAll(k => k == DisplayKind.Stroke).Count); // one is that of the sign
         Assert.Equal(4, Kinds(list).FindAll(k => k == DisplayKind.Text).Count);
     }
 

@@ -2,6 +2,7 @@ using System.Linq;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
@@ -75,6 +76,37 @@ public class LeaderTests
             Assert.Equal(areas, items.Count(item => item.Kind == DisplayKind.Fill));
             Assert.Equal(lines, items.Count(item => item.Kind == DisplayKind.Stroke));
         }
+    }
+
+    [Fact]
+    public void Blocks_show_the_attributes_of_the_leader_at_their_definitions()
+    {
+        var leader = new CadMLeader();
+        CadImage drawing = TestPage.Drawing(leader);
+        var definition = new CadAttDef { ObjectHandle = "D1", FirstAlignment = new Cad3DPoint(2, 3, 0) };
+        TestPage.AddBlock(drawing, "Balloon", definition, new CadAttDef { ObjectHandle = "D2" });
+        var record = new CadBlockTableObject { Name = "Balloon", ObjectHandle = "E1" };
+        drawing.BlockRecords.Add(record);
+        (leader.ContextData.HasBlock, leader.ContextData.Block.BlockRecordHandle) = (true, record.ObjectHandle);
+        leader.ContextData.Block.Location = new Cad3DPoint(100, 0, 0);
+        leader.Style.BlockAttributes.Add(new MLeaderAttribute { DefinitionHandle = "D1", Value = "42" });
+        DrawingList list = Build(drawing);
+        DisplayItem shown = list.Items.ToArray().Single(static item => item.Kind == DisplayKind.Text);
+        Assert.Equal("42", list.TextOf(shown).Text);
+        Assert.InRange(list.Bounds.MinX, 102, 103);
+    }
+
+    [Theory]
+    [InlineData(false, 255, 0, 0)]
+    [InlineData(true, 255, 255, 255)] // the colour of the background
+    public void Masks_are_filled_behind_the_text(bool asBackground, byte red, byte green, byte blue)
+    {
+        CadMLeader leader = Leader(isFramed: false);
+        leader.ContextData.IsBackgroundMaskEnabled = true;
+        leader.ContextData.IsBackgroundFillEnabled = asBackground;
+        leader.ContextData.BackgroundColor = unchecked((int)0xC3000001);
+        DisplayItem mask = Build(leader).Items[0];
+        Assert.Equal((DisplayKind.Fill, new Rgba(red, green, blue)), (mask.Kind, mask.Color));
     }
 
     private static CadMLeader Leader(bool isFramed)

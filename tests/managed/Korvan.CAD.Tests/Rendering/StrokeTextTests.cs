@@ -5,9 +5,11 @@ using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
@@ -123,6 +125,27 @@ public sealed class StrokeTextTests : IDisposable
         Assert.True(Result(options).IsRenderComplete);
     }
 
+    [Fact]
+    public void Characters_of_vertical_styles_are_below_each_other()
+    {
+        CadImage drawing = Drawing("simplex", "HH", "", CadFontStyleTableFlag.VerticalText);
+        ((CadText)drawing.Entities[0]).TextRotation = 270;
+        Bounds2 box = Build(drawing).Bounds;
+        Assert.Equal((0, -25), (Math.Round(box.MaxY, 6), Math.Round(box.MinY, 6)));
+        Assert.Equal(-box.MinX, box.MaxX, 6);
+    }
+
+    [Fact]
+    public void Characters_that_a_compiled_font_lacks_are_strokes_of_the_library()
+    {
+        Write("simplex.shx", ShapeBytes.Shapes((0, "font", [4, 1, 0, 0]), (65, "", [0x44, 2, 8, 3, 0xFC, 0])));
+        using var engine = new TextEngine(strokes: Faces([_folder], []));
+        int font = engine.Font(FontTable.FromFile("simplex.shx"));
+        double blank = 16.0 / 21;
+        Assert.Equal(0.75 + blank + 0.75, engine.Advance(font, "A A") / engine.CapRatio(font), 6);
+        Assert.NotNull(engine.StrokesOf(font, "A A: A", 0));
+    }
+
     [Theory]
     [InlineData("simplex.shx", "simplex.shx: the stroke face of the library")]
     [InlineData("Arial.ttf", "Arial: Liberation Sans")]
@@ -230,10 +253,17 @@ public sealed class StrokeTextTests : IDisposable
         return scene.Build(scene.Choose([])[0], new RenderStyle(), engine);
     }
 
-    private static CadImage Drawing(string font, string text, string bigFont = "")
+    private static CadImage Drawing(
+        string font, string text, string bigFont = "", CadFontStyleTableFlag flags = CadFontStyleTableFlag.None)
     {
         CadImage drawing = new();
-        drawing.Styles.Add(new CadStyleTableObject { Name = "S", PrimaryFontName = font, BigFontName = bigFont });
+        drawing.Styles.Add(new CadStyleTableObject
+        {
+            Name = "S",
+            PrimaryFontName = font,
+            BigFontName = bigFont,
+            Flags = (short)flags,
+        });
         drawing.AddEntity(new CadText { DefaultValue = text, StyleType = "S", TextHeight = 10 });
         return drawing;
     }

@@ -124,6 +124,20 @@ public class TextCodeTests
     }
 
     [Theory]
+    [InlineData("\u05d0 \u05d1 12 3 ab c", "ab c 3 12 \u05d1 \u05d0")] // begins from the right
+    [InlineData("ab \u05d0 \u05d1 12 c", "ab 12 \u05d1 \u05d0 c")]
+    [InlineData("ab 12 \u05d0 - \u05d1. - 3", "ab 12 3 - \u05d1. - \u05d0")] // signs are as their neighbours
+    [InlineData("ab 12 cd", "ab 12 cd")]
+    [InlineData("\u0627\\Pab \u0627 \u0628", "\u0627 ab \u0628 \u0627")] // each paragraph has a direction of its own
+    public void Words_from_right_to_left_are_placed_so(string text, string expected)
+    {
+        using var engine = new TextEngine();
+        MTextLayout layout = Lay(engine, text, new MTextFrame(0, 1, 1, true));
+        IEnumerable<PlacedRun> seen = layout.Runs.OrderByDescending(run => run.Y).ThenBy(run => run.X);
+        Assert.Equal(expected, string.Join(' ', seen.Select(run => run.Text)));
+    }
+
+    [Theory]
     [InlineData("j", false)] // justified: all lines but the last
     [InlineData("d", true)] // distributed: the last one, too
     [InlineData("l", null)]
@@ -146,7 +160,8 @@ public class TextCodeTests
         Assert.InRange(engine.CapRatio(font), 0.6, 0.8);
         Assert.True(engine.Advance(font, "mm") > 1.9 * engine.Advance(font, "m") - 1e-9);
         engine.Advance(font, "\u00d8\u00b0\u00b1\u03a9\u20ac\u0416");
-        engine.Advance(engine.Font(FontTable.FromFile("gdt.shx")), ToleranceSymbols.Translate("abcdefghijklmnprstu"));
+        int signs = engine.Font(FontTable.FromFile("gdt.shx"));
+        Assert.NotNull(engine.StrokesOf(signs, ToleranceSymbols.Translate("abcdefghijklmnprstuvwxyz"), 0));
         Assert.Equal(0, engine.UnknownGlyphs);
     }
 

@@ -104,7 +104,7 @@ internal static class FontTable
         string stem = Stem(file);
         if (IsToleranceSymbolFont(file))
         {
-            return StrokeFonts["gdt"];
+            return StrokeFonts["gdt"] with { Stroke = "gdt" };
         }
 
         if (!IsOutlineFile(file))

@@ -2,10 +2,8 @@ using System.Text;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
-/// <summary>
-/// The signs of ISO 1101 that tolerance fonts have at lower case letters, as characters that common text fonts
-/// have: circled letters become bracketed ones, the position sign a circled cross.
-/// </summary>
+/// <summary>The signs of ISO 1101 that tolerance fonts have at the lower case letters, as characters of
+/// Unicode.</summary>
 internal static class ToleranceSymbols
 {
     internal static string Translate(string letters)
@@ -22,29 +20,29 @@ internal static class ToleranceSymbols
     private static string Translate(char letter) => letter switch
     {
         'a' => "\u2220",
-        'b' => "\u22a5",
-        'c' => "\u25b1",
-        'd' => "\u25e0",
+        'b' => "\u27c2",
+        'c' => "\u23e5",
+        'd' => "\u2313",
         'e' => "\u25cb",
-        'f' => "\u2225",
-        'g' => "/\u25cb/",
+        'f' => "\u2afd",
+        'g' => "\u232d",
         'h' => "\u2197",
-        'i' => "\u2261",
-        'j' => "\u2295",
+        'i' => "\u232f",
+        'j' => "\u2316",
         'k' => "\u2312",
-        'l' => "(L)",
-        'm' => "(M)",
+        'l' => "\u24c1",
+        'm' => "\u24c2",
         'n' => "\u2300",
-        'p' => "(P)",
+        'p' => "\u24c5",
         'r' => "\u25ce",
-        's' => "(S)",
-        't' => "\u2197\u2197",
-        'u' => "\u2212",
-        'v' => "\u2423",
-        'w' => "\u2228",
+        's' => "\u24c8",
+        't' => "\u2330",
+        'u' => "\u23e4",
+        'v' => "\u2334",
+        'w' => "\u2335",
         'x' => "\u21a7",
-        'y' => "\u25b7",
-        'z' => "\u25b7",
+        'y' => "\u2332",
+        'z' => "\u2333",
         _ => letter.ToString(),
     };
 }

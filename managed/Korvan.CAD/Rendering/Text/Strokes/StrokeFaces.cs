@@ -24,6 +24,7 @@ internal sealed class StrokeFaces
         ["romand"] = new(1),
         ["greeks"] = new(1),
         ["ltypeshp"] = new(1),
+        ["gdt"] = new(1),
         ["txt"] = new(0.95),
         ["monotxt"] = new(1, FullPitch),
         ["isocp"] = new(Condensed),
@@ -124,7 +125,9 @@ internal sealed class StrokeFaces
 
         if (Read(name, notes) is { } file)
         {
-            return new ShapeFace(file, PageOf(name), big);
+            // What a font lacks, often the blank, is drawn by the face of the library: the rest stays as it is.
+            return new JoinedFace(
+                new ShapeFace(file, PageOf(name), big), Drawn.GetValueOrDefault(name) ?? Drawn["txt"]);
         }
 
         if (!Drawn.TryGetValue(name, out DrawnFace? own))
