@@ -149,6 +149,8 @@ class Converting(InFolder):
         for options, name, words in rows:
             with self.subTest(words), self.assertRaisesRegex(ToolError, words):
                 convert(PLAN, self.out / name, **options)
+        with self.assertRaisesRegex(ToolError, "no PDF of them; they are written as .*ifc"):
+            convert(HOUSE, self.out / "a.pdf")
         self.assertEqual([path.name for path in self.out.iterdir()], ["kept.pdf"])
         self.assertEqual(kept.read_text(), "mine")
         self.assertGreater(convert(PLAN, kept, force=True).output.stat().st_size, 1000)
