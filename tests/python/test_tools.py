@@ -118,7 +118,8 @@ class Converting(InFolder):
         self.assertNotEqual(single.output.read_bytes(), whole.outputs[0].read_bytes())
         there = self.out / "many"
         there.mkdir()
-        for to, names in (("svg", {"floor_plan-Model.svg", "floor_plan-Ground floor.svg"}), ("pdf", {"floor_plan.pdf"})):
+        for to, names in (("svg", {"floor_plan-Model.svg", "floor_plan-Ground floor.svg"}),
+                          ("pdf", {"floor_plan.pdf"})):
             found = convert(PLAN, there, to=to, layouts=["*"])
             self.assertEqual({path.name for path in found.outputs}, names)
             self.assertEqual({path for path in there.glob(f"*.{to}")}, set(found.outputs))

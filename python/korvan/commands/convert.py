@@ -28,8 +28,8 @@ def add_parser(subparsers: Any) -> None:
     parser = parser_for(subparsers, "convert", "Converts drawings to the format of the target.", _EXAMPLES)
     parser.add_argument("files", nargs="+", metavar="IN", help="drawings, metafiles, building models or images")
     parser.add_argument("-o", "--out", required=True, metavar="OUT",
-                        help="the file to write, with {layout} in its name a file for each layout; a folder (ends with /) "
-                             "for many; - for standard output")
+                        help="the file to write, with {layout} in its name a file for each layout; a folder (ends "
+                             "with /) for many; - for standard output")
     parser.add_argument("--to", metavar="EXT", help="the format, as an extension; by default that of OUT")
     page = parser.add_argument_group("what is drawn, and how")
     page.add_argument("--layout", "--layouts", action="append", dest="layouts", metavar="NAME",
@@ -105,7 +105,8 @@ def _check(arguments: argparse.Namespace) -> None:
 def _report(arguments: argparse.Namespace, source: str, done: ConversionResult) -> None:
     if arguments.json:
         print_json({"source": source, "output": str(done.output), "outputs": list(map(str, done.outputs)),
-                    "format": done.format, "seconds": round(done.seconds, 4), "warnings": done.warnings, "fonts": done.fonts})
+                    "format": done.format, "seconds": round(done.seconds, 4), "warnings": done.warnings,
+                    "fonts": done.fonts})
     elif not arguments.quiet:
         notes = [*done.warnings, *(f"font {font}" for font in done.fonts)]
         size = size_text(sum(output.stat().st_size for output in done.outputs))

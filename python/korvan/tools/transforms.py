@@ -372,7 +372,8 @@ def transform(entities: Iterable[CadEntityBase], change: Transform) -> int:
     """Transforms entities in place; returns how many there were.
 
     Solids, regions and surfaces of ACIS data, OLE objects and proxies are refused, multilines and tables where the
-    change is more than a movement and a rotation. Dimensions lose the block with their graphics, which is made anew from their points when they are drawn.
+    change is more than a movement and a rotation. Dimensions lose the block with their graphics, which is made anew
+    from their points when they are drawn.
 
     :raises ToolError: One is of a type that cannot be transformed; nothing is changed then.
     """
