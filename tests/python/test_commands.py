@@ -73,7 +73,7 @@ class Converting(Commands):
             self.assertEqual(status, 1)
             self.assertIn("floor_plan.svg", out)
             self.assertEqual(len(err.splitlines()), 2, err)
-            self.assertRegex(err, rf"korvan: {bad}: .*no known format")
+            self.assertRegex(err, rf"korvan: {bad}: is of no known format")
             self.assertRegex(err, "korvan: /no/such.dxf: No such file")
 
     def test_wrong_usage_is_said_before_anything_is_read(self) -> None:

@@ -118,8 +118,8 @@ class Converting(InFolder):
         self.assertNotEqual(single.output.read_bytes(), whole.outputs[0].read_bytes())
         there = self.out / "many"
         there.mkdir()
-        layouts = {"floor_plan-Model.svg", "floor_plan-Ground floor.svg"}
-        for to, names in (("svg", layouts), ("pdf", {"floor_plan.pdf"})):
+        for to, names in (("svg", {"floor_plan-Model.svg", "floor_plan-Ground floor.svg"}),
+                          ("pdf", {"floor_plan.pdf"})):
             found = convert(PLAN, there, to=to, layouts=["*"])
             self.assertEqual({path.name for path in found.outputs}, names)
             self.assertEqual({path for path in there.glob(f"*.{to}")}, set(found.outputs))
@@ -150,6 +150,8 @@ class Converting(InFolder):
         for options, name, words in rows:
             with self.subTest(words), self.assertRaisesRegex(ToolError, words):
                 convert(PLAN, self.out / name, **options)
+        with self.assertRaisesRegex(ToolError, "no PDF of them; they are written as .*ifc"):
+            convert(HOUSE, self.out / "a.pdf")
         self.assertEqual([path.name for path in self.out.iterdir()], ["kept.pdf"])
         self.assertEqual(kept.read_text(), "mine")
         self.assertGreater(convert(PLAN, kept, force=True).output.stat().st_size, 1000)

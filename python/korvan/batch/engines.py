@@ -66,7 +66,7 @@ def run_batch(settings: Settings, engine: str = "processes", *, modes: Modes = M
         settings = replace(settings, source=os.path.abspath(settings.source))
         run = Run(folder, settings, modes, watch, stop, lease)
         with Pool(settings.recipe, settings.limits, settings.jobs if engine == "processes" else 1, stop) as pool:
-            if folder.read_plan() is None:  # all is to be done: workers start together, while files are looked for
+            if folder.read_plan() is None:  # all of it is to be done: workers start together
                 pool.fill(count_files(settings.source, pool.jobs))
             plan = _plan(run, engine, pool.extensions())
             shards = range(len(plan["starts"]))

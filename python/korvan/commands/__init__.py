@@ -14,7 +14,7 @@ from collections.abc import Sequence
 from importlib import import_module
 from importlib.util import find_spec
 
-from korvan.commands.common import Usage, fail
+from korvan.commands.common import HelpFormatter, Usage, fail
 from korvan.tools.errors import ToolError
 
 COMMANDS = ("convert", "info", "layers", "texts", "blocks", "properties", "diff", "audit", "view", "batch",
@@ -48,7 +48,7 @@ def make_parser(names: Sequence[str]) -> argparse.ArgumentParser:
     """A parser that knows the commands of those names."""
     parser = argparse.ArgumentParser(
         prog="korvan", description="Converts, inspects, searches and compares CAD drawings.", epilog=_EPILOG,
-        formatter_class=argparse.RawDescriptionHelpFormatter)
+        formatter_class=HelpFormatter)
     parser.add_argument("--version", action=_Version, nargs=0, help="print the version and exit")
     subparsers = parser.add_subparsers(dest="command", metavar="COMMAND", title="commands")
     for name in names:

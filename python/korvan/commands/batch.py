@@ -5,13 +5,12 @@ from __future__ import annotations
 import argparse
 import os
 import shlex
-import shutil
 import sys
 import time
 from dataclasses import replace
 from typing import TYPE_CHECKING, Any
 
-from korvan.commands.common import Usage, add_json, parser_for, print_json
+from korvan.commands.common import Usage, add_json, columns, parser_for, print_json
 
 if TYPE_CHECKING:
     from korvan.batch.settings import Limits, Settings
@@ -155,7 +154,7 @@ def _make_watcher(quiet: bool) -> Watcher:
             now = time.monotonic()
             if self._terminal and now - self._shown > 0.1:
                 self._shown = now
-                width = shutil.get_terminal_size().columns
+                width = columns()
                 print("\r\x1b[K" + text[: width - 1], end="", file=sys.stderr, flush=True)
 
         def found(self, files: int) -> None:

@@ -28,8 +28,8 @@ def add_parser(subparsers: Any) -> None:
     parser = parser_for(subparsers, "convert", "Converts drawings to the format of the target.", _EXAMPLES)
     parser.add_argument("files", nargs="+", metavar="IN", help="drawings, metafiles, building models or images")
     parser.add_argument("-o", "--out", required=True, metavar="OUT",
-                        help="the file to write, with {layout} in its name a file for each layout; a folder (ends with "
-                             "/) for many; - for standard output")
+                        help="the file to write, with {layout} in its name a file for each layout; a folder (ends "
+                             "with /) for many; - for standard output")
     parser.add_argument("--to", metavar="EXT", help="the format, as an extension; by default that of OUT")
     page = parser.add_argument_group("what is drawn, and how")
     page.add_argument("--layout", "--layouts", action="append", dest="layouts", metavar="NAME",

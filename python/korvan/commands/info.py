@@ -35,10 +35,15 @@ def _layer(layer: Mapping[str, Any]) -> str:
     return f"{layer['name']} ({off})" if off else str(layer["name"])
 
 
+def _length(value: float) -> str:
+    """A length with the digits that count: coordinates of maps in full, small ones with decimals."""
+    return f"{value:.0f}" if 1e5 <= abs(value) < 1e12 else f"{value:g}"
+
+
 def _extents(found: Mapping[str, Any]) -> str:
     low, high = found["extents"]["min"], found["extents"]["max"]
-    size = " x ".join(f"{b - a:g}" for a, b in zip(low, high, strict=True) if b - a or len(low) == 2)
-    corners = " to ".join("(" + ", ".join(f"{one:g}" for one in corner) + ")" for corner in (low, high))
+    size = " x ".join(_length(b - a) for a, b in zip(low, high, strict=True) if b - a or len(low) == 2)
+    corners = " to ".join("(" + ", ".join(map(_length, corner)) + ")" for corner in (low, high))
     units = "" if found["units"] == "unitless" else f" {found['units']}"
     return f"{size or 0}{units}, {corners}"
 

@@ -20,8 +20,10 @@ def add_parser(subparsers: Any) -> None:
     parser = parser_for(subparsers, "view", "Shows a drawing in the browser: layers, layouts, search, measuring.",
                         _EXAMPLES)
     parser.add_argument("file", metavar="FILE", help="a drawing, a metafile or an image")
-    parser.add_argument("-o", "--output", metavar="PAGE", type=Path, help="write the page to a file and serve nothing")
-    parser.add_argument("--layout", action="append", metavar="NAME", help="show only this layout; may be repeated")
+    parser.add_argument("-o", "--out", "--output", metavar="PAGE", type=Path, dest="output",
+                        help="write the page to a file and serve nothing")
+    parser.add_argument("--layout", "--layouts", dest="layout", action="append", metavar="NAME",
+                        help="show only this layout; may be repeated")
     parser.add_argument("--title", help="the title of the page; the name of the file by default")
     parser.add_argument("--no-browser", action="store_true", help="print the address and open no browser")
     parser.add_argument("--port", type=int, default=0, help="the port on 127.0.0.1; a free one by default")

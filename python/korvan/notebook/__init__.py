@@ -19,7 +19,7 @@ from korvan.cad.fileformats.cad import CadImage
 from korvan.cad.fileformats.cgm import CgmImage
 from korvan.cad.fileformats.ifc import IfcImage
 from korvan.cad.imageoptions import CadRasterizationOptions, ImageOptionsBase, PngOptions, SvgOptions
-from korvan.tools.conversion import layout_names
+from korvan.tools.layouts import layout_names
 from korvan.tools.description import format_name
 from korvan.tools.errors import matching
 from korvan.tools.opening import cast, enum_name, open_drawing

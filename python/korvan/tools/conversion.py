@@ -16,16 +16,16 @@ from typing import NamedTuple
 
 from korvan.cad import Image, RasterImage
 from korvan.cad.fileformats.cad import CadDrawTypeMode, CadImage
-from korvan.cad.fileformats.cgm import CgmImage
+from korvan.cad.fileformats.ifc import IfcImage
 from korvan.cad.imageoptions import CadRasterizationOptions, ImageOptionsBase
 from korvan.tools.errors import ToolError, matching, message_of
 from korvan.tools.files import write_file
-from korvan.tools.formats import Target, find_target
+from korvan.tools.formats import Target, find_target, targets
+from korvan.tools.layouts import layout_names, used_layouts
 from korvan.tools.opening import load, load_options
 from korvan.tools.pages import set_page
 from korvan.tools.settings import Settings, parse_color
 
-MODEL = "Model"
 PLACEHOLDER = "{layout}"
 _NOT_IN_NAMES = re.compile(r'[\x00-\x1f/\\<>:"|?*]')
 
@@ -68,22 +68,6 @@ class Request(NamedTuple):
     def concerns_page(self, settings: Settings) -> bool:
         given = (self.layouts, self.layers, self.size, self.paper, self.background, self.color_mode)
         return any(one is not None for one in given) or settings.concerns_page
-
-
-def layout_names(image: Image) -> list[str]:
-    """The names of the pages of a drawing."""
-    if isinstance(image, CadImage):
-        return list(image.layouts.names)
-    if isinstance(image, CgmImage):
-        return list(image.picture_names)
-    return []
-
-
-def used_layouts(drawing: CadImage) -> list[str]:
-    """The layouts that have content: model space, and those with more than the viewport of their paper."""
-    return [name for name in drawing.layouts.names
-            if any(entity.type_name_text != "VIEWPORT" for entity in drawing.get_layout_entities(name))
-            or (name != MODEL and len(drawing.get_layout_entities(name)) > 1)]
 
 
 @contextmanager
@@ -219,6 +203,14 @@ def _outputs(image: Image, path: Path, target: Target, request: Request, dst: st
     return [(one, [layout]) for one, layout in zip(_file_names(path, layouts), layouts, strict=True)]
 
 
+def _check_model(image: Image, target: Target) -> None:
+    """Refuses what a building model is not written as, and names what it is written as."""
+    if isinstance(image, IfcImage) and not image.can_save(target.options()):
+        known = sorted(extension for extension, one in targets().items() if image.can_save(one.options()))
+        raise ToolError(f"building models are not drawn yet, so there is no {target.name} of them; they are written as "
+                        + ", ".join(known))
+
+
 @contextmanager
 def converted(src: str | os.PathLike[str], dst: str | os.PathLike[str], request: Request
               ) -> Generator[tuple[Image, ConversionResult]]:
@@ -241,6 +233,7 @@ def converted(src: str | os.PathLike[str], dst: str | os.PathLike[str], request:
         try:
             with _deadline(request.timeout):
                 image = opened.enter_context(load(src, given))
+                _check_model(image, target)
                 outputs = _outputs(image, path, target, request, os.fspath(dst))
                 for one, _ in outputs:
                     _check_output(one, request.force)

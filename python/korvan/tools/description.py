@@ -12,7 +12,7 @@ from korvan.cad.fileformats.cad import CadImage
 from korvan.cad.fileformats.cgm import CgmImage
 from korvan.cad.fileformats.ifc import IfcImage
 from korvan.cad.imageoptions import CadRasterizationOptions, PdfOptions
-from korvan.tools.conversion import used_layouts
+from korvan.tools.layouts import used_layouts
 from korvan.tools.errors import message_of
 from korvan.tools.opening import enum_name, load, load_options
 
@@ -53,6 +53,8 @@ def layers(drawing: CadImage) -> list[dict[str, Any]]:
 def _render(image: Image) -> tuple[list[str], dict[str, str], str | None]:
     """What is not drawn faithfully, the fonts that are replaced, and why nothing can be drawn if so."""
     options = PdfOptions()
+    if isinstance(image, IfcImage) and not image.can_save(options):
+        return [], {}, "building models are not drawn yet"
     if isinstance(image, CadImage):
         raster = CadRasterizationOptions()
         raster.layouts = used_layouts(image) or ["Model"]

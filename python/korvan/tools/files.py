@@ -3,7 +3,6 @@
 from __future__ import annotations
 
 import os
-import tempfile
 
 
 def write_file(path: str | os.PathLike[str], data: bytes) -> None:
@@ -13,6 +12,8 @@ def write_file(path: str | os.PathLike[str], data: bytes) -> None:
         with open(target, "wb") as file:
             file.write(data)
         return
+    import tempfile  # takes longer to import than most files to write
+
     handle, temporary = tempfile.mkstemp(dir=os.path.dirname(os.path.abspath(target)), prefix=".korvan-")
     try:
         with open(handle, "wb") as file:

@@ -100,7 +100,7 @@ def fingerprint(found: Any) -> Any:
 
 
 def copy_values(source: Any, target: Any) -> None:
-    """Copies the plain values and lists of an object to a new one of its class, but not the name of a table record."""
+    """Copies the plain values and lists of an object to a new one of its class, but not its name."""
     for name in member_names(source.__class__):
         if name == "name":
             continue
