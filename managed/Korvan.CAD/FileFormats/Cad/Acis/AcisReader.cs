@@ -21,6 +21,8 @@ internal sealed class AcisReader
     private const double Tolerance = 1e-6;
     private const int TrimmedPoints = 129;
 
+    private const int PointsPerStep = 512;
+
     private readonly List<SatRecord> _records;
     private readonly SatSplines _splines;
     private readonly AcisWireframe _wireframe = new();
@@ -77,6 +79,7 @@ internal sealed class AcisReader
     /// <summary>Returns what an edge points to; null for one without vertices.</summary>
     private AcisEdge? EndsOf(SatRecord edge)
     {
+        edge.Step();
         (Vec3 start, Vec3 end) = (default, default);
         int vertices = 0;
         int curve = -1;
@@ -160,6 +163,7 @@ internal sealed class AcisReader
     private void AddSpline(in AcisSpline spline, Vec3 start, Vec3 end, bool isReversed)
     {
         Nurbs curve = spline.Curve;
+        Workload.Step(spline.Control.Count / PointsPerStep);
         (Vec3 first, Vec3 last) = (curve.At(curve.First), curve.At(curve.Last));
         double size = 0;
         spline.Control.ForEach(point => size = Math.Max(size, (point - first).Length));
@@ -275,6 +279,7 @@ internal sealed class AcisReader
 
     private Vec3 PointOf(in SatRecord vertex)
     {
+        vertex.Step();
         for (int i = vertex.Tokens.Length - 1; i > 0; i--)
         {
             int target = vertex.Target(i);

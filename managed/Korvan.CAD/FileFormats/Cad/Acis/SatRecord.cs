@@ -8,6 +8,7 @@ namespace Korvan.CAD.FileFormats.Cad.Acis;
 internal readonly record struct SatRecord(string[] Tokens)
 {
     private const char Pointer = '$';
+    private const int TokensPerStep = 64;
 
     internal string Type => Tokens[0];
 
@@ -38,6 +39,9 @@ internal readonly record struct SatRecord(string[] Tokens)
         Tokens[token], NumberStyles.Float, CultureInfo.InvariantCulture, out double value) ? value : double.NaN;
 
     internal Vec3 Vector(int token) => new(Number(token), Number(token + 1), Number(token + 2));
+
+    /// <summary>Counts the work of a search through the record.</summary>
+    internal void Step() => Workload.Step(1 + (Tokens.Length / TokensPerStep));
 
     internal int Find(string keyword) => Array.IndexOf(Tokens, keyword);
 
