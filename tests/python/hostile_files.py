@@ -47,6 +47,43 @@ def gif_frames(count: int, side: int = 4000) -> bytes:
     return b"GIF89a" + struct.pack("<HHBBB", side, side, 0x80, 0, 0) + bytes(6) + frame * count + b";"
 
 
+def webp(side: int) -> bytes:
+    """A lossless image of one colour: five prefix codes of one symbol (RFC 9649, section 3)."""
+    fields = [(0x2F, 8), (side - 1, 14), (side - 1, 14), (0, 1), (0, 3), (0, 1), (0, 1), (0, 1)]
+    fields += [(1, 1), (0, 1), (0, 1), (0, 1)] * 5
+    value = length = 0
+    for field, bits in fields:
+        value, length = value | field << length, length + bits
+    data = value.to_bytes((length + 7) // 8, "little").ljust(16, b"\0")
+    return b"RIFF" + struct.pack("<I", 12 + len(data)) + b"WEBPVP8L" + struct.pack("<I", len(data)) + data
+
+
+def progressive_jpeg(side: int, comments: int) -> bytes:
+    """An image with one scan, of DC coefficients; comments make it as long as its size calls for."""
+
+    def segment(marker: int, data: bytes) -> bytes:
+        return bytes([0xFF, marker]) + struct.pack(">H", len(data) + 2) + data
+
+    frame = struct.pack(">BHHB", 8, side, side, 3) + b"\1\x11\0\2\x11\0\3\x11\0"
+    tables = segment(0xDB, b"\0" + b"\1" * 64) + segment(0xC4, b"\0\1" + bytes(16))
+    scan = segment(0xDA, b"\3\1\0\2\0\3\0\0\0\0") + bytes(1000)
+    return (b"\xff\xd8" + segment(0xFE, bytes(65_000)) * comments + tables + segment(0xC2, frame) + scan
+            + b"\xff\xd9")
+
+
+def tiff(side: int, samples: int, block: int | None = None) -> bytes:
+    """An image of 8-bit samples that are zero, in one strip, or in one tile that is larger than the image."""
+    stored = block or side
+    packer = zlib.compressobj(9)
+    row = bytes(stored * samples)
+    data = b"".join(packer.compress(row) for _ in range(stored)) + packer.flush()
+    tags = [(256, side), (257, side), (258, 8), (259, 8), (262, 2 if samples == 3 else 1), (277, samples)]
+    tags += ([(322, stored), (323, stored), (324, 8), (325, len(data))] if block
+             else [(273, 8), (278, side), (279, len(data))])
+    entries = b"".join(struct.pack("<HHII", tag, 4, 1, value) for tag, value in sorted(tags))
+    return b"II*\0" + struct.pack("<I", 8 + len(data)) + data + struct.pack("<H", len(tags)) + entries + bytes(4)
+
+
 def bmp_of_one_run(side: int) -> bytes:
     header = struct.pack("<IiiHHIIiiII", 40, side, side, 1, 8, 1, 0, 0, 0, 256, 0)
     return b"BM" + struct.pack("<IHHI", 1200, 0, 0, 54 + 1024) + header + bytes(1024) + b"\0\1"
@@ -76,6 +113,14 @@ def far_dashes(count: int) -> bytes:
     return (
         "BEGMF 'x';\nMFVERSION 1;\nVDCTYPE INTEGER;\nINTEGERPREC -2147483648 2147483647;\n"
         "BEGPIC 'p';\nVDCEXT (0, 0) (210, 210);\nBEGPICBODY;\nLINETYPE 4;\n" + lines + "ENDPIC;\nENDMF;\n"
+    ).encode()
+
+
+def giant_text(length: int) -> bytes:
+    return (
+        "BEGMF 'x';\nMFVERSION 1;\nVDCTYPE INTEGER;\nINTEGERPREC -2147483648 2147483647;\nBEGPIC 'p';\n"
+        "VDCEXT (0, 0) (210, 210);\nBEGPICBODY;\nLINE (0, 0) (9, 9);\nCHARHEIGHT 2000000000;\n"
+        "TEXT (0, 0) FINAL '" + "x" * length + "';\nENDPIC;\nENDMF;\n"
     ).encode()
 
 
@@ -149,6 +194,30 @@ def spline(degree: int, points: int, knot: str) -> str:
         f"0\nSPLINE\n8\n0\n70\n4\n71\n{degree}\n72\n{points + degree + 1}\n73\n{points}\n74\n0\n"
         f"{knots}{weights}{places}"
     )
+
+
+def solid(*records: str) -> str:
+    lines = ["400 10 1 0", "7 unknown 12 ACIS 7.0 NT 24 Mon Jan 01 00:00:00 2001", "1 9.9e-007 1e-010", *records]
+    text = "".join(f"1\n{line[:250]}\n" + "".join(f"3\n{line[at:at + 250]}\n" for at in range(250, len(line), 250))
+                   for line in lines)
+    return f"0\n3DSOLID\n100\nAcDbEntity\n8\n0\n100\nAcDbModelerGeometry\n70\n1\n{text}"
+
+
+def solid_of_one_loop(faces: int, coedges: int) -> str:
+    """Faces of a cone that share a loop whose coedges share an edge."""
+    return solid(
+        "point $-1 0 0 0 #", "vertex $-1 $-1 $0 #", "ellipse-curve $-1 0 0 0 0 0 1 1 0 0 1 #",
+        "edge $-1 $1 $1 $2 forward #", "cone-surface $-1 0 0 0 0 0 1 1 0 0 1 0 1 #", "loop $-1 $6 #",
+        *(f"coedge $-1 ${7 + i} $3 #" for i in range(coedges)), *(["face $-1 $5 $4 #"] * faces),
+    )
+
+
+def solid_of_one_spline(edges: int, points: int) -> str:
+    knots = " ".join(f"{i} {3 if i in (0, points - 3) else 1}" for i in range(points - 2))
+    control = " ".join(f"{i} {i * 7919 % 100} 0" for i in range(points))
+    curve = f"intcurve-curve $-1 -1 $-1 forward {{ exactcur nubs 3 open {points - 2} {knots} {control} }} #"
+    return solid("point $-1 0 0 0 #", "vertex $-1 $-1 $0 #", curve,
+                 *(["edge $-1 $1 0 $1 1 $-1 $2 forward #"] * edges))
 
 
 def block(name: str, entities: str) -> str:

@@ -62,6 +62,10 @@ class Bombs(unittest.TestCase):
         for name, data, options, expected in (
             ("image.png", small, ("PngOptions",), {"done"}),
             ("frames.gif", hostile.gif_frames(20_000), (), NOT_READ),
+            ("codes.webp", hostile.webp(16_383), (), NOT_READ),
+            ("scan.jpg", hostile.progressive_jpeg(20_000, 13), (), NOT_READ),
+            ("strip.tif", hostile.tiff(10_000, 3), ("PngOptions",), {"done"}),
+            ("tile.tif", hostile.tiff(1, 1, 20_000), (), NOT_READ),
             ("run.bmp", hostile.bmp_of_one_run(20_000), (), NOT_READ),
             ("placed.dxf", hostile.placed_images("large.png", 20, 9000, 9000), pages, {"done"}),
             ("packed.ifczip", hostile.ifczip(300 << 20), (), NOT_READ),
@@ -69,6 +73,7 @@ class Bombs(unittest.TestCase):
             ("metadata.png", hostile.png(9, 9, hostile.xmp("<a>" * 40_000 + "</a>" * 40_000)), ("JpegOptions",),
              {"done"}),
             ("dashes.cgm", hostile.far_dashes(1000), ("PngOptions", "PdfOptions", "EmfOptions"), {"done"}),
+            ("text.cgm", hostile.giant_text(30_000), pages, {"done"}),
             ("records.cgm", hostile.nested_records(100_000), (), {"ImageLoadException"}),
             ("copies.cgm", hostile.copied_segments(1000, 2000), pages, NOT_SAVED),
             ("blocks.dxf", hostile.doubling_blocks(24), pages, NOT_SAVED),
@@ -89,6 +94,8 @@ class Bombs(unittest.TestCase):
             ("far.dxf", hostile.drawing(hostile.hatch(
                 [hostile.square(1e18, 1e18, 1e5)], hostile.hatch_line(0, 300, 31, -32)
             )), pages, {"done"}),
+            ("loop.dxf", hostile.drawing(hostile.solid_of_one_loop(20_000, 4_000)), pages, NOT_SAVED),
+            ("curve.dxf", hostile.drawing(hostile.solid_of_one_spline(20_000, 20_000)), pages, NOT_SAVED),
             ("knots.dxf", hostile.drawing(hostile.spline(25, 10_000, "%de-320")), pages, {"done"}),
         ):
             results = self.convert(name, data, *options)

@@ -14,6 +14,10 @@ internal sealed class Nurbs
     private const int DeepestSplit = 12;
     private const int EvaluationsPerStep = 16;
 
+    /// <summary>The degree from which an evaluation, whose work grows with the square, takes four times as
+    /// long.</summary>
+    private const int HighDegree = 12;
+
     private readonly int _degree;
     private readonly double[] _knots;
     private readonly Vec3[] _points;
@@ -178,7 +182,7 @@ internal sealed class Nurbs
     // De Boor's recursion in homogeneous coordinates; the last step but one gives the derivative as well.
     private Vec3 Evaluate(double t, int span, out Vec3 derivative)
     {
-        Workload.Count(ref _evaluations, EvaluationsPerStep);
+        Workload.Count(ref _evaluations, _degree < HighDegree ? EvaluationsPerStep : EvaluationsPerStep / 4);
         Span<Vec3> p = stackalloc Vec3[HighestDegree + 1];
         Span<double> w = stackalloc double[HighestDegree + 1];
         for (int j = 0; j <= _degree; j++)

@@ -17,6 +17,7 @@ internal sealed class ShapePen(
 {
     private const int MaxDepth = 8;
     private const int MaxSteps = 20_000;
+    private const int CommandsPerStep = 16;
     private const double MaxCoordinate = 1e6;
     private const int MaxStack = 4;
     private const int ArcSegments = 8;
@@ -35,6 +36,7 @@ internal sealed class ShapePen(
     {
         Run(number, 0);
         EndStroke();
+        Workload.Step(_steps / CommandsPerStep);
         return new ShapeStrokes(_strokes, _at, _steps < MaxSteps);
     }
 

@@ -84,6 +84,7 @@ internal static unsafe class JpegCodec
 
         bool isCmyk = (TurboJpeg.Colors)colors is TurboJpeg.Colors.Cmyk or TurboJpeg.Colors.Ycck;
         bitsPerPixel = isCmyk ? 32 : (TurboJpeg.Colors)colors == TurboJpeg.Colors.Gray ? 8 : 24;
+        using var room = new NativeRoom(JpegSegments.CoefficientBytes(new ReadOnlySpan<byte>(data, length)));
         var pixels = new PixelGrid(width, height);
         int flags = TurboJpeg.FlagLimitScans | (source.Lenient ? 0 : TurboJpeg.FlagStopOnWarning);
         TurboJpeg.PixelLayout layout = isCmyk ? TurboJpeg.PixelLayout.Cmyk : TurboJpeg.PixelLayout.Bgra;

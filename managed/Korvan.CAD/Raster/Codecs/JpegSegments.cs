@@ -66,6 +66,61 @@ internal static class JpegSegments
         return segments;
     }
 
+    /// <summary>Returns the memory that a decoder takes for the coefficients of a whole image, in bytes. That of an
+    /// image with one scan is 0, since it is decoded row by row.</summary>
+    internal static long CoefficientBytes(ReadOnlySpan<byte> jpeg)
+    {
+        List<JpegSegment> segments = Read(jpeg);
+        int at = segments.FindIndex(static one => IsFrame(one.Marker) && one.Data.Length >= 6);
+        if (at < 0)
+        {
+            return 0;
+        }
+
+        byte[] frame = segments[at].Data;
+        int count = Math.Min(frame[5], (frame.Length - 6) / 3);
+        bool isWhole = segments[at].Marker is not (0xC2 or 0xC6 or 0xCA or 0xCE) && ComponentsOfScan(jpeg) >= count;
+        return isWhole ? 0 : SamplesOf(frame, count) * sizeof(short);
+    }
+
+    // SOF0 to SOF15 without the tables DHT, JPG and DAC, which have markers of the same range.
+    private static bool IsFrame(byte marker) => marker is >= 0xC0 and <= 0xCF and not (0xC4 or 0xC8 or 0xCC);
+
+    private static int ComponentsOfScan(ReadOnlySpan<byte> jpeg)
+    {
+        int at = 2;
+        while (at + 4 < jpeg.Length && jpeg[at] == 0xFF && jpeg[at + 1] != StartOfScan)
+        {
+            at += jpeg[at + 1] == 0xFF ? 1 : 2 + BinaryPrimitives.ReadUInt16BigEndian(jpeg[(at + 2)..]);
+        }
+
+        return at + 4 < jpeg.Length ? jpeg[at + 4] : 0;
+    }
+
+    // Samples of all components, each a whole number of blocks of 8 × 8.
+    private static long SamplesOf(ReadOnlySpan<byte> frame, int count)
+    {
+        long height = BinaryPrimitives.ReadUInt16BigEndian(frame[1..]);
+        long width = BinaryPrimitives.ReadUInt16BigEndian(frame[3..]);
+        (int maxX, int maxY) = (1, 1);
+        for (int i = 0; i < count; i++)
+        {
+            maxX = Math.Max(maxX, frame[7 + (3 * i)] >> 4);
+            maxY = Math.Max(maxY, frame[7 + (3 * i)] & 15);
+        }
+
+        long samples = 0;
+        for (int i = 0; i < count; i++)
+        {
+            int factors = frame[7 + (3 * i)];
+            long columns = ((width * (factors >> 4)) + (8 * maxX) - 1) / (8 * maxX);
+            long rows = ((height * (factors & 15)) + (8 * maxY) - 1) / (8 * maxY);
+            samples += columns * rows * 64;
+        }
+
+        return samples;
+    }
+
     /// <summary>Writes a JPEG whose own APP0 segment is replaced by the given segments.</summary>
     internal static void Write(ReadOnlySpan<byte> jpeg, IEnumerable<JpegSegment> segments, Stream output)
     {

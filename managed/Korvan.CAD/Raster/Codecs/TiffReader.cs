@@ -77,6 +77,7 @@ internal static unsafe class TiffReader
             VerifyConvertible(tiff, source);
         }
 
+        using NativeRoom? room = samples.Fits ? null : new NativeRoom(BlockBytes(tiff));
         var pixels = new PixelGrid((int)width, (int)height);
         try
         {
@@ -94,6 +95,11 @@ internal static unsafe class TiffReader
             throw;
         }
     }
+
+    // libtiff's conversion decodes a block as a whole.
+    private static long BlockBytes(TiffFile tiff) =>
+        (long)Math.Min(Tiff.IsTiled(tiff.Handle) != 0 ? Tiff.TileSize(tiff.Handle) : Tiff.StripSize(tiff.Handle),
+            long.MaxValue / 4);
 
     private static bool ReadPremultiplied(TiffFile tiff, RasterSource source, PixelGrid pixels)
     {

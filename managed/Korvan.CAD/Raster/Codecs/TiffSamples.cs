@@ -18,6 +18,11 @@ internal sealed unsafe class TiffSamples
     private const uint Floats = 3;
     private const int MinBuffer = 1024;
 
+    /// <summary>The size of a strip, in bytes, from which it is read by rows, and of the rows that are read
+    /// together.</summary>
+    private const int MaxStrip = 64 << 20;
+    private const int RowsTogether = 4 << 20;
+
     // The supported photometric interpretations, with the samples of their colour and the maximum bits of a sample.
     private static readonly (TiffPhotometrics Kind, int Colors, int MostBits)[] Kinds =
     [
@@ -64,12 +69,16 @@ internal sealed unsafe class TiffSamples
         && _bits is 1 or 2 or 4 or 8 or 16 or 32 && _bits <= _maxBits && Number(TiffTags.SampleFormat) != Floats
         && Number(TiffTags.Compression) != (uint)TiffCompressions.OldJpeg
         && (_kind != TiffPhotometrics.Separated || Number(TiffTags.InkSet) == InkSetCmyk)
-        && (_alphaSample >= 0 || _bits == 32 || HasSmallTiles
+        && (_alphaSample >= 0 || _bits == 32 || HasSmallTiles || HasLargeStrips
             || (_bits == 16 && _kind is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette)));
 
     // libtiff's conversion compares the size of its buffer with that of an uncompressed tile, and rejects smaller ones.
     private bool HasSmallTiles => _tiled && Number(TiffTags.Compression) == (uint)TiffCompressions.None
         && Tiff.TileRowSize(_tiff) * (long)Number(TiffTags.TileLength) < MinBuffer;
+
+    // Rows of several planes are far from each other, and a JPEG has rows of blocks.
+    private bool HasLargeStrips => !_tiled && !_planar && Tiff.StripSize(_tiff) > MaxStrip
+        && Number(TiffTags.Compression) != (uint)TiffCompressions.Jpeg;
 
     /// <summary>Returns whether all blocks could be read. Missing blocks stay empty; unless reading is lenient, the
     /// first one ends it.</summary>
@@ -86,12 +95,18 @@ internal sealed unsafe class TiffSamples
             return false;
         }
 
+        if (HasLargeStrips)
+        {
+            height = (int)Math.Clamp(RowsTogether / rowBytes, 1, height);
+        }
+
         if ((long)rowBytes * height > Array.MaxLength)
         {
             throw new LimitMemoryException(
                 $"A block of {width} × {height} pixels has more than {Array.MaxLength} bytes.");
         }
 
+        using var room = new NativeRoom((long)rowBytes * height * (_planar ? _samples : 1));
         var planes = new byte[_planar ? _samples : 1][];
         for (int i = 0; i < planes.Length; i++)
         {
@@ -99,12 +114,14 @@ internal sealed unsafe class TiffSamples
         }
 
         var block = new Block(width, height, (int)rowBytes, planes);
+        bool byRows = HasLargeStrips;
         bool whole = true;
         for (int top = 0; top < pixels.Height; top += height)
         {
             for (int left = 0; left < pixels.Width; left += width)
             {
-                whole &= Fetch(block, left, top);
+                Budget.Check();
+                whole &= byRows ? FetchRows(block, top, pixels.Height) : Fetch(block, left, top);
                 if (!whole && !lenient)
                 {
                     return false;
@@ -132,6 +149,22 @@ internal sealed unsafe class TiffSamples
                 whole &= _tiled
                     ? Tiff.ReadTile(_tiff, number, start, data.Length) >= 0
                     : Tiff.ReadStrip(_tiff, number, start, data.Length) >= 0;
+            }
+        }
+
+        return whole;
+    }
+
+    private bool FetchRows(Block block, int top, int bottom)
+    {
+        byte[] data = block.Planes[0];
+        Array.Clear(data);
+        bool whole = true;
+        fixed (byte* start = data)
+        {
+            for (int y = 0; y < Math.Min(block.Height, bottom - top) && whole; y++)
+            {
+                whole = Tiff.ReadScanline(_tiff, start + ((long)y * block.RowBytes), (uint)(top + y), 0) == 1;
             }
         }
 

@@ -1,4 +1,5 @@
 using System;
+using System.Buffers.Binary;
 using System.IO;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.ImageOptions;
@@ -52,9 +53,10 @@ internal static unsafe class WebPCodec
                 throw new ImageLoadException($"'{source.Name}' is an animated WebP, which is not read.");
             }
 
+            using var room = new NativeRoom((long)width * height * (IsLossless(source.Data) ? sizeof(int) : 1));
             var pixels = new PixelGrid(width, height);
-            var room = (nuint)(pixels.Count * 4);
-            if (WebP.DecodeBgra(data, (nuint)source.Data.Length, pixels.Pointer, room, width * 4) == null)
+            var size = (nuint)(pixels.Count * 4);
+            if (WebP.DecodeBgra(data, (nuint)source.Data.Length, pixels.Pointer, size, width * 4) == null)
             {
                 pixels.Dispose();
                 throw new ImageLoadException($"The image of '{source.Name}' is damaged or cut off.");
@@ -66,6 +68,30 @@ internal static unsafe class WebPCodec
                 Frames = [new DecodedFrame { Pixels = pixels, BitsPerPixel = 32 }],
             };
         }
+    }
+
+    // Lossless images are decoded as a whole, lossy ones row by row but for their alpha (RFC 9649, sections 2.5, 2.6).
+    private static bool IsLossless(ReadOnlySpan<byte> data)
+    {
+        const int header = 12;
+        for (int at = header; at + 8 <= data.Length;)
+        {
+            ReadOnlySpan<byte> chunk = data.Slice(at, 4);
+            if (chunk.SequenceEqual("VP8 "u8))
+            {
+                return false;
+            }
+
+            if (chunk.SequenceEqual("VP8L"u8))
+            {
+                return true;
+            }
+
+            long next = at + 8 + ((BinaryPrimitives.ReadUInt32LittleEndian(data[(at + 4)..]) + 1L) & ~1L);
+            at = (int)Math.Min(next, data.Length);
+        }
+
+        return true;
     }
 
     // A flag of the extended header (RFC 9649, section 2.7).

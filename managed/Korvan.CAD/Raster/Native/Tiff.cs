@@ -85,6 +85,15 @@ internal static unsafe partial class Tiff
     [LibraryImport(Library, EntryPoint = "TIFFScanlineSize")]
     internal static partial nint ScanlineSize(TiffHandle tiff);
 
+    [LibraryImport(Library, EntryPoint = "TIFFReadScanline")]
+    internal static partial int ReadScanline(TiffHandle tiff, byte* target, uint row, ushort plane);
+
+    [LibraryImport(Library, EntryPoint = "TIFFStripSize64")]
+    internal static partial ulong StripSize(TiffHandle tiff);
+
+    [LibraryImport(Library, EntryPoint = "TIFFTileSize64")]
+    internal static partial ulong TileSize(TiffHandle tiff);
+
     [LibraryImport(Library, EntryPoint = "TIFFIsTiled")]
     internal static partial int IsTiled(TiffHandle tiff);
 

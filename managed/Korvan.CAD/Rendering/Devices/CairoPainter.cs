@@ -26,6 +26,10 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
     private const double FarAway = 4_000_000;
     private const double SmallestText = 0.15;
 
+    /// <summary>Characters of this many pixels exceed what FreeType scales outlines to; a page shows nothing of
+    /// them but the inside of a stroke, or the space between two.</summary>
+    private const double MaxText = 30_000;
+
     /// <summary>Below this em in pixels no character can be told from another.</summary>
     private const double BarText = 1.6;
 
@@ -208,7 +212,8 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
             return;
         }
 
-        if (!(area > SmallestText * SmallestText) || !IsNear(toDevice.X0, toDevice.Y0))
+        if (area is not (> SmallestText * SmallestText and < MaxText * MaxText)
+            || !IsNear(toDevice.X0, toDevice.Y0))
         {
             return;
         }

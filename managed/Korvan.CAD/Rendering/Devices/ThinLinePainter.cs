@@ -17,7 +17,7 @@ internal sealed unsafe class ThinLinePainter
     private const long MaxPlane = 64_000_000;
     private const int MaxCurveLines = 4_096;
     private const int PixelsPerLine = 16; // what takes as long as one line of no length
-    private const int PixelsPerStep = 2048;
+    private const int PixelsPerStep = 512;
     private const int Opaque = 255;
     private const uint Channels = 0x00ff_00ff;
 

@@ -120,7 +120,7 @@ internal sealed class AcisIsolines(
         var edges = new List<(SatRecord Edge, bool IsReversed)>();
         var loops = new HashSet<int>();
         int loop = IndexOf(face, "loop");
-        while (loop >= 0 && loops.Add(loop))
+        while (loop >= 0 && loops.Add(loop) && edges.Count < MaxEdges)
         {
             var ring = new HashSet<int>();
             int coedge = IndexOf(records[loop], "coedge");
@@ -151,6 +151,7 @@ internal sealed class AcisIsolines(
     /// <summary>Returns the first record of a type that another points to; negative for none.</summary>
     private int IndexOf(SatRecord from, Predicate<string> isWanted)
     {
+        from.Step();
         for (int i = 1; i < from.Tokens.Length; i++)
         {
             int target = from.Target(i);

@@ -22,6 +22,7 @@ internal sealed class AcisReader
     private const double Tolerance = 1e-6;
     private const int TrimmedPoints = 129;
     private const int ArcPoints = 65;
+    private const int PointsPerStep = 512;
 
     private readonly List<SatRecord> _records;
     private readonly SatSplines _splines;
@@ -85,6 +86,7 @@ internal sealed class AcisReader
     /// <summary>Returns what an edge points to; null for one without vertices.</summary>
     private AcisEdge? EndsOf(SatRecord edge)
     {
+        edge.Step();
         (Vec3 start, Vec3 end) = (default, default);
         int vertices = 0;
         int curve = -1;
@@ -167,6 +169,7 @@ internal sealed class AcisReader
 
     private void AddSpline(in AcisSpline spline, Vec3 start, Vec3 end, bool isReversed)
     {
+        Workload.Step(spline.Control.Count / PointsPerStep);
         if (IsWhole(spline, start, end))
         {
             _wireframe.Splines.Add(spline);
@@ -328,6 +331,7 @@ internal sealed class AcisReader
 
     private Vec3 PointOf(in SatRecord vertex)
     {
+        vertex.Step();
         for (int i = vertex.Tokens.Length - 1; i > 0; i--)
         {
             int target = vertex.Target(i);

@@ -8,6 +8,7 @@ namespace Korvan.CAD.FileFormats.Cad.Acis;
 internal readonly record struct SatRecord(string[] Tokens)
 {
     private const char Pointer = '$';
+    private const int TokensPerStep = 64;
 
     internal string Type => Tokens[0];
 
@@ -40,6 +41,9 @@ internal readonly record struct SatRecord(string[] Tokens)
     internal Vec3 Vector(int token) => new(Number(token), Number(token + 1), Number(token + 2));
 
     internal bool HasKeyword(string keyword) => Find(keyword) > 0;
+
+    /// <summary>Counts the work of a search through the record.</summary>
+    internal void Step() => Workload.Step(1 + (Tokens.Length / TokensPerStep));
 
     internal int Find(string keyword) => Array.IndexOf(Tokens, keyword);
 

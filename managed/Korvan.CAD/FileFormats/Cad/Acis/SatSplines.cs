@@ -15,6 +15,7 @@ internal sealed class SatSplines
     private const int MaxKnotCount = 1 << 20;
 
     private readonly List<(int Record, int Token)> _definitions = [];
+    private readonly Dictionary<(string[] Tokens, int At), AcisSpline?> _read = [];
     private readonly List<SatRecord> _records;
     private readonly Affine3 _map;
 
@@ -45,7 +46,7 @@ internal sealed class SatSplines
 
         if (curve.Tokens[at + 1] != Reference)
         {
-            return Read(curve, at);
+            return Shared(curve, at);
         }
 
         double index = curve.Number(at + 2);
@@ -55,7 +56,19 @@ internal sealed class SatSplines
         }
 
         (int record, int token) = _definitions[(int)index];
-        return Read(_records[record], token);
+        return Shared(_records[record], token);
+    }
+
+    // Any number of edges may point to one curve.
+    private AcisSpline? Shared(in SatRecord record, int from)
+    {
+        if (!_read.TryGetValue((record.Tokens, from), out AcisSpline? spline))
+        {
+            spline = Read(record, from);
+            _read.Add((record.Tokens, from), spline);
+        }
+
+        return spline;
     }
 
     /// <summary>
