@@ -37,7 +37,8 @@ public abstract partial class CadBaseObject : IKeyedObject
 
     /// <summary>Gets the groups that programs attached, between group codes 102.</summary>
     public CadApplicationCodesContainer ApplicationCodesContainer =>
-        ApplicationCodesOrNull ?? (CadApplicationCodesContainer)(_applicationCodes = new CadApplicationCodesContainer());
+        ApplicationCodesOrNull
+        ?? (CadApplicationCodesContainer)(_applicationCodes = new CadApplicationCodesContainer());
 
     /// <summary>Gets the tags of this object that the library does not interpret, in the order of the file. They are
     /// written back unchanged.</summary>
