@@ -29,9 +29,15 @@ internal static partial class ForkedProcess
         int next = 0;
         Budget? budget = Budget.Current;
         var helpers = new Task[count > 1 && !IsChild ? Math.Min(count, Environment.ProcessorCount) - 1 : 0];
+        bool[] hasBegun = new bool[helpers.Length];
         for (int i = 0; i < helpers.Length; i++)
         {
-            helpers[i] = Task.Run(RunNext);
+            int helper = i;
+            helpers[i] = Task.Run(() =>
+            {
+                Volatile.Write(ref hasBegun[helper], true);
+                RunNext();
+            });
         }
 
         Exception? failure = null;
@@ -44,6 +50,9 @@ internal static partial class ForkedProcess
             failure = e;
         }
 
+        // No piece is left for a thread that begins from now on: on a busy machine, that may be much later.
+        Interlocked.Exchange(ref next, count);
+        helpers = Array.FindAll(helpers, helper => Volatile.Read(ref hasBegun[Array.IndexOf(helpers, helper)]));
         WaitFor(helpers, budget, failure);
 
         void RunNext()
