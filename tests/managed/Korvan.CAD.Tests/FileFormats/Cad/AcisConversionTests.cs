@@ -10,7 +10,6 @@ using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
-using Korvan.CAD.Tests.FileFormats.Cad.Dwg.Objects;
 using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cad;
