@@ -1,8 +1,8 @@
 """Renders the model space of a drawing by the drawing add-on of ezdxf, on white, with our fonts.
 
-Runs under the system's Python, with a checkout of ezdxf on its path: draw_reference.py SIDE DRAWING [TARGET]. STROKE_FONTS
-names a folder of compiled fonts, where there is one. Prints the processor time of loading and of drawing, up to the text
-of an SVG, as a line of JSON.
+Runs under the system's Python, with a checkout of ezdxf on its path: draw_reference.py SIDE DRAWING [TARGET].
+STROKE_FONTS names a folder of compiled fonts, where there is one. Prints the processor time of loading and of drawing,
+up to the text of an SVG, as a line of JSON.
 """
 
 from __future__ import annotations
