@@ -1,7 +1,8 @@
-"""Programs that show pages, each with the format that it is asked for."""
+"""Programs that show pages or drawings, each with the format that it is asked for."""
 
 from __future__ import annotations
 
+import os
 import shutil
 import subprocess
 import tempfile
@@ -11,6 +12,8 @@ from typing import Callable
 
 SYSTEM_PYTHON = "/usr/bin/python3"
 SECONDS = 600
+# LibreCAD asks about drawings that it cannot read, where nobody can answer.
+READER_SECONDS = 20
 
 Show = Callable[[list[Path], Path, int], None]
 
@@ -23,6 +26,7 @@ class Viewer:
     program: str
     extension: str
     show: Show
+    may_refuse: bool = False
 
     @property
     def key(self) -> str:
@@ -34,11 +38,12 @@ class Viewer:
         return shutil.which(self.program) is not None
 
 
-def _run(*command: str | Path) -> None:
+def _run(*command: str | Path, seconds: int = SECONDS, variables: dict[str, str] | None = None) -> None:
     try:
-        subprocess.run([str(part) for part in command], capture_output=True, timeout=SECONDS)
+        subprocess.run([str(part) for part in command], capture_output=True, timeout=seconds,
+                       env=os.environ | (variables or {}))
     except subprocess.TimeoutExpired:
-        print(f"{command[0]} needs more than {SECONDS} s")
+        print(f"{command[0]} needs more than {seconds} s")
 
 
 def _target(page: Path, folder: Path) -> Path:
@@ -81,7 +86,18 @@ def _chromium(pages: list[Path], folder: Path, side: int) -> None:
                  f"--screenshot={_target(page, folder)}", page.as_uri())
 
 
-# No program of Debian shows CGM.
+def _librecad(pages: list[Path], folder: Path, side: int) -> None:
+    with tempfile.TemporaryDirectory() as home:
+        for page in pages:
+            made = Path(home) / page.with_suffix(".pdf").name
+            _run("librecad", "dxf2pdf", "-a", "-m", "-t", home, page,
+                 seconds=READER_SECONDS, variables={"HOME": home, "QT_QPA_PLATFORM": "minimal"})
+            if made.exists():
+                _run("pdftocairo", "-png", "-singlefile", "-scale-to", str(side), made,
+                     _target(page, folder).with_suffix(""))
+
+
+# LibreOffice shows CGM on a slide, which cuts it off; no other program of Debian shows it.
 VIEWERS = (
     Viewer("poppler", "pdftocairo", "pdf", _poppler),
     Viewer("librsvg", "rsvg-convert", "svg", _rsvg),
@@ -90,4 +106,9 @@ VIEWERS = (
     Viewer("LibreOffice", "soffice", "emf", _office),
     Viewer("Inkscape", "inkscape", "wmf", _inkscape),
     Viewer("LibreOffice", "soffice", "wmf", _office),
+)
+# These read the drawings themselves.
+READERS = (
+    Viewer("LibreCAD", "librecad", "dxf", _librecad, may_refuse=True),
+    Viewer("LibreOffice", "soffice", "dxf", _office),
 )

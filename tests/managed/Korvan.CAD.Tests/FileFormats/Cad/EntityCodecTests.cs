@@ -43,6 +43,23 @@ public class EntityCodecTests
     }
 
     [Fact]
+    public void Unknown_fields_among_the_boundaries_of_a_hatch_are_kept_and_the_rest_is_read()
+    {
+        CadHatch hatch = (CadHatch)Again(
+        [
+            .. HatchHead, 2, "SOLID", 70, 1, 71, 0, 91, 2,
+            92, 2, 72, 0, 73, 1, 93, 3, 10, 0, 20, 0, 399, "x", 10, 4, 20, 0, 10, 4, 20, 4, 97, 0, 398, "y",
+            92, 1, 93, 1, 72, 1, 10, 1, 20, 2, 11, 3, 21, 4, 97, 0,
+            75, 1, 76, 1, 98, 1, 10, 7, 20, 8,
+        ]);
+        Assert.Equal(3, ((CadPolylineBoundaryPath)hatch.BoundaryPaths[0].BoundaryPath).Vertices.Count);
+        CadEdgeBoundaryPath edges = (CadEdgeBoundaryPath)hatch.BoundaryPaths[1].BoundaryPath;
+        Assert.Equal(4, Assert.IsType<CadBoundaryPathLine>(edges.Edges.Single()).SecondPoint.Y);
+        Assert.Equal((2d, 1, 8d), (hatch.ElevationPoint.Z, hatch.HatchStyle, hatch.SeedPoints.Single().Y));
+        Assert.Equal(["x", "y"], hatch.UnknownCodes.Select(static code => code.Value));
+    }
+
+    [Fact]
     public void A_hatch_keeps_its_pattern_and_gradient()
     {
         CadHatch hatch = (CadHatch)Again(

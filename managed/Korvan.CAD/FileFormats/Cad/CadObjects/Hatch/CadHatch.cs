@@ -9,6 +9,9 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 [CadBits("ExchangeHatch()")]
 public partial class CadHatch : CadEntityBase
 {
+    // Whether the fields that are read are those between the number of paths and what follows them.
+    private bool _isAmongPaths;
+
     /// <summary>Creates a solid fill without boundaries.</summary>
     public CadHatch()
     {
@@ -110,10 +113,17 @@ public partial class CadHatch : CadEntityBase
     partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {
         taken = true;
+        _isAmongPaths &= code is not (75 or 76 or 78 or 98 or 100 or 450);
+        if (_isAmongPaths && HatchFields.TryResumePaths(this, reader))
+        {
+            return;
+        }
+
         switch (code)
         {
             case 91:
                 HatchFields.ReadPaths(this, reader);
+                _isAmongPaths = true;
                 break;
             case 78:
                 HatchFields.ReadPattern(this, reader);

@@ -9,20 +9,43 @@ internal static class HatchFields
     internal static void ReadPaths(CadHatch hatch, FieldReader reader)
     {
         hatch.BoundaryPaths.EnsureCapacity(reader.GetCount());
-        CadHatchBoundaryPathContainer? container = null;
+        ReadMorePaths(hatch, reader);
+    }
+
+    /// <summary>Reads on in the paths after a field that is in none of them, from the current field on.</summary>
+    /// <returns>Whether that one belongs to a path.</returns>
+    internal static bool TryResumePaths(CadHatch hatch, FieldReader reader)
+    {
+        bool isOfPath = TryReadPathField(hatch, reader);
+        if (isOfPath)
+        {
+            ReadMorePaths(hatch, reader);
+        }
+
+        return isOfPath;
+    }
+
+    private static void ReadMorePaths(CadHatch hatch, FieldReader reader)
+    {
         while (reader.Next())
         {
-            if (reader.Code == 92)
-            {
-                container = CreatePath((CadBoundaryPathTypeFlag)reader.GetInt());
-                hatch.BoundaryPaths.Add(container);
-            }
-            else if (container is null || !ReadPathCode(container, reader))
+            if (!TryReadPathField(hatch, reader))
             {
                 reader.Unread();
                 return;
             }
         }
+    }
+
+    private static bool TryReadPathField(CadHatch hatch, FieldReader reader)
+    {
+        if (reader.Code == 92)
+        {
+            hatch.BoundaryPaths.Add(CreatePath((CadBoundaryPathTypeFlag)reader.GetInt()));
+            return true;
+        }
+
+        return hatch.BoundaryPaths.Count > 0 && ReadPathCode(hatch.BoundaryPaths[^1], reader);
     }
 
     internal static void ReadPattern(CadHatch hatch, FieldReader reader)
