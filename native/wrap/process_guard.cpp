@@ -22,9 +22,6 @@ constexpr Variable variables[] = {
     // back into Python. All code there that was built for plain x86-64 then pays for a switch of
     // states at each instruction on a float, ten times what the crossing costs.
     {"DOTNET_PreferredVectorBitWidth", "128"},
-    // New objects take 16 MB at most before a collection; the value is hexadecimal. The default
-    // follows the caches of the processor: large ones raise the peak of a large drawing by a tenth.
-    {"DOTNET_GCgen0MaxBudget", "1000000"},
 };
 
 } // namespace

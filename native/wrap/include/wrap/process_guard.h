@@ -16,7 +16,7 @@ public:
     ScopedRuntimeVariables& operator=(const ScopedRuntimeVariables&) = delete;
 
 private:
-    static constexpr int count = 4;
+    static constexpr int count = 3;
     bool m_was_set_here[count] = {};
 };
 
