@@ -186,7 +186,8 @@ def main() -> int:
         return 0
     known = tomllib.loads((HERE / "known.toml").read_text(encoding="utf-8"))
     held = [table(drawings, arguments.out.resolve(), known[name]) for name, table in
-            (("drawings", _drawings), ("readers", _readers), ("pages", _pages)) if not arguments.tables or name in arguments.tables]
+            (("drawings", _drawings), ("readers", _readers), ("pages", _pages))
+            if not arguments.tables or name in arguments.tables]
     return 0 if all(held) else 1
 
 

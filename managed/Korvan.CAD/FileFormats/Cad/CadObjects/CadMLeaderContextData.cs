@@ -19,8 +19,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
     "if HasText: B IsBackgroundMaskEnabled", "if HasText: BS ColumnType", "if HasText: B IsTextHeightAutomatic",
     "if HasText: BD ColumnWidth", "if HasText: BD ColumnGutter", "if HasText: B IsColumnFlowReversed",
     "if HasText: BD[BL] ColumnSizes", "if HasText: B WordBreak", "if HasText: B", "if !HasText: B HasBlock",
-    "if !HasText && HasBlock: Part Block", "3BD PlaneOrigin", "3BD PlaneXAxis", "3BD PlaneYAxis", "B IsPlaneNormalReversed",
-    "2010+ BS TopAttachment", "2010+ BS BottomAttachment")]
+    "if !HasText && HasBlock: Part Block", "3BD PlaneOrigin", "3BD PlaneXAxis", "3BD PlaneYAxis",
+    "B IsPlaneNormalReversed", "2010+ BS TopAttachment", "2010+ BS BottomAttachment")]
 public partial class CadMLeaderContextData
 {
     private const int LeaderStart = 302;
