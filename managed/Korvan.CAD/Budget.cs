@@ -58,9 +58,9 @@ internal sealed class Budget : IDisposable
         Workload.Limiter = VerifyRoom;
     }
 
-    private Budget(long memory, long maxSteps, int timeout, long loaded)
+    private Budget(long memory, long maxSteps, int timeout)
     {
-        SettleHeap(loaded);
+        SettleHeap();
         _outer = _current;
         _timeout = timeout;
         _deadline = timeout > 0 ? Environment.TickCount64 + timeout : long.MaxValue;
@@ -88,13 +88,13 @@ internal sealed class Budget : IDisposable
     {
         if (sourceLength is not long length)
         {
-            return _current = new Budget(long.MaxValue, long.MaxValue, timeout, loaded);
+            return _current = new Budget(long.MaxValue, long.MaxValue, timeout);
         }
 
         long whole = Math.Max(length * MemoryPerByte, Cache.MemoryOfOneFile);
         long all = Math.Max(MinMemory, whole);
         long left = Math.Clamp(all - Math.Max(loaded, 0), MinMemory / 2, all);
-        return _current = new Budget(left, Math.Max(MinMemory, whole) / MemoryPerStep, timeout, loaded);
+        return _current = new Budget(left, Math.Max(MinMemory, whole) / MemoryPerStep, timeout);
     }
 
     /// <summary>Makes a thread work for a call until the result is disposed.</summary>
@@ -220,12 +220,12 @@ internal sealed class Budget : IDisposable
         }
     }
 
-    // What a call before has left would hide what this one takes; what the file has taken before is in use.
-    private static void SettleHeap(long loaded)
+    // What a call before has left would hide what this one takes.
+    private static void SettleHeap()
     {
         const long unsettled = 128L << 20;
         long taken = GC.GetTotalMemory(false);
-        if (taken - loaded > _settled + Math.Max(unsettled, _settled))
+        if (taken > _settled + Math.Max(unsettled, _settled))
         {
             GC.Collect();
             taken = GC.GetTotalMemory(false);
