@@ -273,6 +273,11 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
         UseCairo();
         PlacedImage image = List.ImageOf(item);
         Affine2 place = _map * image.Matrix;
+        if (!place.TryInvert(out _))
+        {
+            return; // cairo draws nothing more after a matrix without an inverse
+        }
+
         double shownWidth = new Vec2(place.Xx, place.Yx).Length;
         double shownHeight = new Vec2(place.Xy, place.Yy).Length;
         double share = Math.Min(1, shownWidth * shownHeight / ((double)_target.ThinLines.Width * _rows.End));

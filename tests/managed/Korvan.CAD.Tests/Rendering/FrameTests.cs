@@ -71,6 +71,15 @@ public sealed class FrameTests : IDisposable
         Assert.Empty(Build(TestPage.Drawing(frame)).Skipped);
     }
 
+    [Fact]
+    public void A_bitmap_without_area_leaves_the_rest_of_the_page()
+    {
+        CadOle2Frame frame = new() { Data = Bitmap(), LowerRightPoint = new Cad3DPoint(50, 0, 0) };
+        CadLine line = new() { FirstPoint = new Cad3DPoint(0, 50, 0), SecondPoint = new Cad3DPoint(100, 50, 0) };
+        using TestPage page = TestPage.Of(TestPage.Drawing(frame, line));
+        Assert.Contains(Enumerable.Range(45, 10), y => page[50, y].R < 200);
+    }
+
     [Theory]
     [InlineData(false)]
     [InlineData(true)]

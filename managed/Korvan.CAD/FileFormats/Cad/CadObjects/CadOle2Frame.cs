@@ -64,5 +64,19 @@ public partial class CadOle2Frame : CadEntityBase
     /// <returns>The image.</returns>
     public CadEmbeddedImage? GetPreview() => OleContent.FindPreview(Data);
 
-    private void ExchangeData(BitExchange fields) => Data = fields.Block(Data);
+    // Drawing databases state the corners in the data alone.
+    private void ExchangeData(BitExchange fields)
+    {
+        if (!fields.IsReading)
+        {
+            fields.Block(OleContent.WithCorners(Data, UpperLeftPoint, LowerRightPoint));
+            return;
+        }
+
+        Data = fields.Block(Data);
+        if (OleContent.ReadCorners(Data) is var (upperLeft, lowerRight))
+        {
+            (UpperLeftPoint, LowerRightPoint) = (upperLeft, lowerRight);
+        }
+    }
 }

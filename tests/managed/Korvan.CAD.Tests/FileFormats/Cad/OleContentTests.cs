@@ -2,8 +2,10 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using System.Runtime.InteropServices;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.ImageOptions;
 using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cad;
@@ -90,6 +92,27 @@ public class OleContentTests
         Assert.Equal(3, frame.GetPreview()!.Size.Width);
         frame.Data = [];
         Assert.Null(frame.GetPreview());
+    }
+
+    [Fact]
+    public void Drawing_databases_state_the_corners_in_the_data()
+    {
+        byte[] data = [0x80, 0x55, .. new byte[12 * sizeof(double)], 7];
+        DxfImage image = new();
+        image.AddEntity(new CadOle2Frame
+        {
+            UpperLeftPoint = new Cad3DPoint(1, 9, 2), LowerRightPoint = new Cad3DPoint(4, 3, 2), Data = data,
+        });
+        using MemoryStream saved = new();
+        image.Save(saved, new DwgOptions());
+        saved.Position = 0;
+        CadOle2Frame frame = ((CadImage)Image.Load(saved)).Entities.OfType<CadOle2Frame>().Single();
+        double[] corners = [.. MemoryMarshal.Cast<byte, double>(frame.Data.AsSpan(2, 12 * sizeof(double)))];
+        Assert.Equal([1, 9, 2, 4, 9, 2, 4, 3, 2, 1, 3, 2], corners);
+        Assert.Equal((1.0, 9.0, 2.0), (frame.UpperLeftPoint.X, frame.UpperLeftPoint.Y, frame.UpperLeftPoint.Z));
+        Assert.Equal((4.0, 3.0), (frame.LowerRightPoint.X, frame.LowerRightPoint.Y));
+        Assert.Equal(7, frame.Data[^1]);
+        Assert.All(data[2..^1], value => Assert.Equal(0, value));
     }
 
     private static CadEmbeddedImage? Preview(byte[] data) => new CadOle2Frame { Data = data }.GetPreview();
