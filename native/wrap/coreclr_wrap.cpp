@@ -40,9 +40,6 @@ constexpr Setting settings[] = {
     {"System.Globalization.PredefinedCulturesOnly", "false"},
     {"System.GC.Concurrent", "false"},
     {"System.Runtime.TieredPGO", "0"},
-    // What is compiled ahead of time serves short programs: compiling it again while they start and save their first
-    // page takes longer than it saves them.
-    {"System.Runtime.TieredCompilation.CallCountingDelayMs", "300"},
 };
 
 template <class Function> bool resolve(void* library, const char* name, Function& function) {
