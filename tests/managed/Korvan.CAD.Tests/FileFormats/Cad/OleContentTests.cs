@@ -101,7 +101,9 @@ public class OleContentTests
         DxfImage image = new();
         image.AddEntity(new CadOle2Frame
         {
-            UpperLeftPoint = new Cad3DPoint(1, 9, 2), LowerRightPoint = new Cad3DPoint(4, 3, 2), Data = data,
+            UpperLeftPoint = new Cad3DPoint(1, 9, 2),
+            LowerRightPoint = new Cad3DPoint(4, 3, 2),
+            Data = data,
         });
         using MemoryStream saved = new();
         image.Save(saved, new DwgOptions());

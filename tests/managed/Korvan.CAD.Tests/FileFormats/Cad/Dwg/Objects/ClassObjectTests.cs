@@ -8,7 +8,6 @@ using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Dwg.Header;
 using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
-using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Tests.FileFormats.Cad.Dwg.Container;
 using Xunit;
 
