@@ -23,9 +23,13 @@ internal sealed unsafe class GifReader
     private readonly RasterSource _source;
     private readonly GifReadHandle _gif;
     private readonly List<DecodedFrame> _frames = [];
-    private PixelGrid? _canvas;
     private int _transparent = -1;
     private int _disposal;
+
+    // The last frame, how it ends, and what the canvas showed before it where that comes back.
+    private Gif.ImageDescription _last;
+    private int _lastDisposal;
+    private PixelGrid? _before;
 
     private GifReader(RasterSource source, GifReadHandle gif)
     {
@@ -57,7 +61,7 @@ internal sealed unsafe class GifReader
         }
         finally
         {
-            reader._canvas?.Dispose();
+            reader._before?.Dispose();
         }
     }
 
@@ -114,7 +118,7 @@ internal sealed unsafe class GifReader
             return true;
         }
 
-        if (_source.Lenient && (_frames.Count > 0 || _canvas != null))
+        if (_source.Lenient && _frames.Count > 0)
         {
             return false;
         }
@@ -165,14 +169,29 @@ internal sealed unsafe class GifReader
                 $"A frame of '{_source.Name}' is {image.Width} × {image.Height} pixels large.");
         }
 
-        _canvas ??= new PixelGrid(_gif.File.Width, _gif.File.Height);
-        using PixelGrid? before = _disposal == DisposalPrevious ? _canvas.Copy() : null;
-        bool whole = Draw(image, palette);
-        _frames.Add(
-            new DecodedFrame { Pixels = _canvas.Copy(), BitsPerPixel = 8, Palette = new ColorPalette(palette) });
-        DisposeFrame(image, before);
+        PixelGrid canvas = NextCanvas();
+        _frames.Add(new DecodedFrame { Pixels = canvas, BitsPerPixel = 8, Palette = new ColorPalette(palette) });
+        _before = _disposal == DisposalPrevious ? canvas.Copy() : null;
+        bool whole = Draw(canvas, image, palette);
+        (_last, _lastDisposal) = (image, _disposal);
         (_transparent, _disposal) = (-1, DisposalKeep);
         return whole;
+    }
+
+    /// <summary>Returns what a frame is drawn on. It becomes the frame, so that only the next one needs a
+    /// copy.</summary>
+    private PixelGrid NextCanvas()
+    {
+        if (_frames.Count == 0)
+        {
+            return new PixelGrid(_gif.File.Width, _gif.File.Height);
+        }
+
+        PixelGrid canvas = _frames[^1].Pixels.Copy();
+        EndFrame(canvas);
+        _before?.Dispose();
+        _before = null;
+        return canvas;
     }
 
     private int[] Palette(Gif.ColorMap* map)
@@ -198,7 +217,7 @@ internal sealed unsafe class GifReader
         return palette;
     }
 
-    private bool Draw(in Gif.ImageDescription image, int[] palette)
+    private bool Draw(PixelGrid canvas, in Gif.ImageDescription image, int[] palette)
     {
         var line = new byte[image.Width];
         foreach ((int first, int step) in image.Interlace != 0 ? InterlacePasses : [(0, 1)])
@@ -216,21 +235,21 @@ internal sealed unsafe class GifReader
                     return false;
                 }
 
-                PlaceLine(line, image.Left, image.Top + y, palette);
+                PlaceLine(canvas, line, image.Left, image.Top + y, palette);
             }
         }
 
         return true;
     }
 
-    private void PlaceLine(byte[] line, int left, int y, int[] palette)
+    private static void PlaceLine(PixelGrid canvas, byte[] line, int left, int y, int[] palette)
     {
-        if (y >= _canvas!.Height)
+        if (y >= canvas.Height)
         {
             return;
         }
 
-        Span<int> row = _canvas.Row(y);
+        Span<int> row = canvas.Row(y);
         for (int x = 0; x < line.Length && left + x < row.Length; x++)
         {
             int color = palette[line[x]];
@@ -238,24 +257,25 @@ internal sealed unsafe class GifReader
         }
     }
 
-    private void DisposeFrame(in Gif.ImageDescription image, PixelGrid? before)
+    /// <summary>Takes the last frame off a canvas as it asks for.</summary>
+    private void EndFrame(PixelGrid canvas)
     {
-        if (before == null && _disposal != DisposalBackground)
+        if (_before == null && _lastDisposal != DisposalBackground)
         {
             return;
         }
 
-        int width = Math.Clamp(_canvas!.Width - image.Left, 0, image.Width);
-        for (int y = image.Top; y < Math.Min(_canvas.Height, image.Top + image.Height); y++)
+        int width = Math.Clamp(canvas.Width - _last.Left, 0, _last.Width);
+        for (int y = _last.Top; y < Math.Min(canvas.Height, _last.Top + _last.Height); y++)
         {
-            Span<int> place = width == 0 ? [] : _canvas.Row(y).Slice(image.Left, width);
-            if (before == null)
+            Span<int> place = width == 0 ? [] : canvas.Row(y).Slice(_last.Left, width);
+            if (_before == null)
             {
                 place.Clear();
             }
             else if (width > 0)
             {
-                before.Row(y).Slice(image.Left, width).CopyTo(place);
+                _before.Row(y).Slice(_last.Left, width).CopyTo(place);
             }
         }
     }
