@@ -69,12 +69,12 @@ public partial class CadOle2Frame : CadEntityBase
     {
         if (!fields.IsReading)
         {
-            fields.Block(OleContent.WithCorners(Data, UpperLeftPoint, LowerRightPoint));
+            fields.Block(OleCorners.With(Data, UpperLeftPoint, LowerRightPoint));
             return;
         }
 
         Data = fields.Block(Data);
-        if (OleContent.ReadCorners(Data) is var (upperLeft, lowerRight))
+        if (OleCorners.Read(Data) is var (upperLeft, lowerRight))
         {
             (UpperLeftPoint, LowerRightPoint) = (upperLeft, lowerRight);
         }

@@ -6,8 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 
 /// <summary>
 /// Finds the preview image in the data of an embedded document: a bitmap file, a bitmap without file header, or an
-/// enhanced metafile. The headers are those of the published formats of Windows bitmaps and metafiles. The data begins
-/// with a mark and the four corners of the frame, clockwise from the upper left one.
+/// enhanced metafile. The headers are those of the published formats of Windows bitmaps and metafiles.
 /// </summary>
 internal static class OleContent
 {
@@ -16,30 +15,6 @@ internal static class OleContent
     private const int EmfHeader = 88;
     private const int EmfSignatureAt = 40;
     private const uint EmfSignature = 0x464D4520;
-    private const ushort CornersMark = 0x5580;
-    private const int PointLength = 3 * sizeof(double);
-    private const int CornersEnd = sizeof(ushort) + (4 * PointLength);
-
-    /// <summary>Returns the corners that the data states; null for none.</summary>
-    internal static (Cad3DPoint UpperLeft, Cad3DPoint LowerRight)? ReadCorners(ReadOnlySpan<byte> data) =>
-        HasCorners(data) ? (PointAt(data, 0), PointAt(data, 2)) : null;
-
-    /// <summary>Returns the data with other corners; the same data where it has none, or these.</summary>
-    internal static byte[] WithCorners(byte[] data, Cad3DPoint upperLeft, Cad3DPoint lowerRight)
-    {
-        if (ReadCorners(data) is not var (first, third)
-            || (first.ToVec3() == upperLeft.ToVec3() && third.ToVec3() == lowerRight.ToVec3()))
-        {
-            return data;
-        }
-
-        byte[] changed = [.. data];
-        Set(changed, 0, upperLeft.X, upperLeft.Y, upperLeft.Z);
-        Set(changed, 1, lowerRight.X, upperLeft.Y, upperLeft.Z);
-        Set(changed, 2, lowerRight.X, lowerRight.Y, lowerRight.Z);
-        Set(changed, 3, upperLeft.X, lowerRight.Y, lowerRight.Z);
-        return changed;
-    }
 
     /// <summary>Finds the first image.</summary>
     /// <returns>The image; null for none.</returns>
@@ -62,27 +37,6 @@ internal static class OleContent
         }
 
         return null;
-    }
-
-    private static bool HasCorners(ReadOnlySpan<byte> data) =>
-        data.Length >= CornersEnd && BinaryPrimitives.ReadUInt16LittleEndian(data) == CornersMark;
-
-    private static Cad3DPoint PointAt(ReadOnlySpan<byte> data, int corner)
-    {
-        ReadOnlySpan<byte> point = data.Slice(sizeof(ushort) + (corner * PointLength), PointLength);
-        return new Cad3DPoint(
-            BinaryPrimitives.ReadDoubleLittleEndian(point),
-            BinaryPrimitives.ReadDoubleLittleEndian(point[sizeof(double)..]),
-            BinaryPrimitives.ReadDoubleLittleEndian(point[(2 * sizeof(double))..]));
-    }
-
-    private static void Set(byte[] data, int corner, params ReadOnlySpan<double> coordinates)
-    {
-        Span<byte> point = data.AsSpan(sizeof(ushort) + (corner * PointLength), PointLength);
-        for (int i = 0; i < coordinates.Length; i++)
-        {
-            BinaryPrimitives.WriteDoubleLittleEndian(point[(i * sizeof(double))..], coordinates[i]);
-        }
     }
 
     private static CadEmbeddedImage? TryEnhancedMetafile(ReadOnlySpan<byte> data)

@@ -20,8 +20,8 @@ public class SourceBlockTests
     private static readonly string Drawing = DxfText.Drawing(
         0, "POLYLINE", 8, "Walls", 66, 1, 70, 8, 0, "VERTEX", 8, "Walls", 10, 1, 20, 2, 30, 3, 70, 32, 0, "SEQEND",
         0, "WIPEOUT", 8, "0", 100, "AcDbEntity", 100, "AcDbRasterImage", 10, 1, 20, 1, 0, "TEXT", 8, "Walls", 10, 0, 20,
-        0, 40, 2.5, 1, "é and more than forty bytes, which no pool of names keeps", 0, "LINE", 8, "Doors", 10, 1.25, 20,
-        -2, 11, 3, 21, 4);
+        0, 40, 2.5, 1, "é and more than forty bytes, which no pool of names keeps", 0, "LINE", 8, "Doors", 10, 1.25,
+        20, -2, 11, 3, 21, 4);
 
     [Theory]
     [InlineData("\n")]
