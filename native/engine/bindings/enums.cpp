@@ -1,5 +1,6 @@
 #include "bindings/enums.h"
 
+#include "bindings/enum_types.h"
 #include "runtime/descriptors.h"
 #include "runtime/failures.h"
 #include "runtime/identifiers.h"
@@ -8,26 +9,6 @@
 
 namespace {
 
-PyObject* member_value(const EnumBinding& binding, const EnumMember& member) {
-    return binding.storage == EnumStorage::uint64
-               ? PyLong_FromUnsignedLongLong(static_cast<unsigned long>(member.value))
-               : PyLong_FromLongLong(member.value);
-}
-
-// ((name, value), ...) in the order of declaration.
-PyObject* member_list(const EnumBinding& binding) {
-    Ref members = Ref::steal(PyTuple_New(binding.count));
-    for (int i = 0; members && i < binding.count; ++i) {
-        PyObject* pair = Py_BuildValue("(NN)", PyUnicode_FromString(binding.members[i].name),
-                                       member_value(binding, binding.members[i]));
-        if (pair == nullptr) {
-            return nullptr;
-        }
-        PyTuple_SET_ITEM(members.get(), i, pair);
-    }
-    return members.release();
-}
-
 PyObject* create_type(const EnumBinding& binding) {
     const Ref family = Ref::steal(PyShImport_ImportType("enum", binding.kind == EnumKind::integer
                                                                     ? PyWrpIdTypeName_IntEnum
@@ -35,12 +16,7 @@ PyObject* create_type(const EnumBinding& binding) {
     if (!family) {
         return nullptr;
     }
-    const Ref members = Ref::steal(member_list(binding));
-    const Ref name = Ref::steal(PyUnicode_FromString(binding.short_name));
-    if (!members || !name) {
-        return nullptr;
-    }
-    return PyObject_CallFunctionObjArgs(family.get(), name.get(), members.get(), nullptr);
+    return create_enum_type(binding, family.get());
 }
 
 // The cast methods go into the finished type's dictionary, so that they are no members.
