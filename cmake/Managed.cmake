@@ -112,6 +112,7 @@ korvan_generate(cad
 
 Python_add_library(cad MODULE WITH_SOABI
   native/cad/cad_module.cpp native/cad/dependencies.cpp native/cad/entity_rows.cpp native/cad/packaging_hook.cpp
+  native/cad/warm_up.cpp
   ${cad_shards})
 # Tables have nothing to step through, and their debug information would outweigh the module.
 set_source_files_properties(${cad_shards} PROPERTIES COMPILE_OPTIONS "-g0")

@@ -33,14 +33,17 @@ internal sealed class Budget : IDisposable
 
     [ThreadStatic]
     private static Budget? _current;
+    [ThreadStatic]
+    private static Func<bool>? _question;
     private static long _settled;
+    private static volatile bool _hasLeftGarbage;
 
     private static readonly Lock ActiveLock = new();
     private static readonly List<Budget> Active = [];
 
     private readonly Budget? _outer;
     private readonly int _owner = Environment.CurrentManagedThreadId;
-    private readonly Func<bool>? _isInterrupted = AppContext.GetData(InterruptionName) as Func<bool>;
+    private readonly Func<bool>? _isInterrupted = _question ?? AppContext.GetData(InterruptionName) as Func<bool>;
     private readonly long _deadline;
     private readonly int _timeout;
     private readonly long _heapAtStart;
@@ -103,6 +106,14 @@ internal sealed class Budget : IDisposable
         Budget? own = _current;
         _current = budget;
         return new ThreadShare(own);
+    }
+
+    /// <summary>Lets calls of this thread, which is the library's own, ask a question instead of the user, and count
+    /// for nobody else, until the result is disposed.</summary>
+    internal static ThreadQuestion Ask(Func<bool> isInterrupted)
+    {
+        _question = isInterrupted;
+        return default;
     }
 
     /// <summary>Ends the call if its time is over, if the user interrupts it, or if it has taken too much memory.
@@ -205,6 +216,11 @@ internal sealed class Budget : IDisposable
     // The heap is one for all threads: what calls on others may take at the same time is no fault of this one.
     private void AddToActive()
     {
+        if (_question is not null)
+        {
+            return;
+        }
+
         lock (ActiveLock)
         {
             foreach (Budget other in Active)
@@ -225,8 +241,9 @@ internal sealed class Budget : IDisposable
     {
         const long unsettled = 128L << 20;
         long taken = GC.GetTotalMemory(false);
-        if (taken > _settled + Math.Max(unsettled, _settled))
+        if (_hasLeftGarbage || taken > _settled + Math.Max(unsettled, _settled))
         {
+            _hasLeftGarbage = false;
             GC.Collect();
             taken = GC.GetTotalMemory(false);
             _settled = taken;
@@ -249,6 +266,7 @@ internal sealed class Budget : IDisposable
         _nextCollection = taken + (limit / 8);
         if (taken > limit || more > own)
         {
+            _hasLeftGarbage = true;
             throw End(new LimitMemoryException(
                 $"The file needs more than {Memory >> 20} MiB of memory, the limit for a file of its size; "
                 + $"{Cache.HowToRaise}."));
@@ -265,6 +283,13 @@ internal sealed class Budget : IDisposable
             OperationInterruptedException => new OperationInterruptedException(reason.Message),
             _ => new LimitMemoryException(reason.Message),
         };
+    }
+
+    /// <summary>The time in which calls of a thread ask its own question.</summary>
+    internal readonly ref struct ThreadQuestion
+    {
+        /// <summary>Ends the time.</summary>
+        public void Dispose() => _question = null;
     }
 
     /// <summary>The time in which a thread works for the budget of another.</summary>

@@ -8,6 +8,7 @@
 #include "runtime/callbacks.h"
 #include "runtime/failures.h"
 #include "runtime/identifiers.h"
+#include "warm_up.h"
 
 extern const BoundTree bound_tree; // generated
 
@@ -60,6 +61,7 @@ PyMODINIT_FUNC PyInit_cad() {
                             bound_tree.generic_callbacks) < 0) {
         return fail(load_error::hosts);
     }
+    start_warm_up();
     Ref module = Ref::steal(wrpPy_mlit_821C260C_cad());
     if (!module) {
         return fail(load_error::namespace_tree);

@@ -78,7 +78,9 @@ bool is_waited_for(const char* name) {
            (begins_with(name, "(.NET ") && !begins_with(name, "(.NET SigHandler)"));
 }
 
-// Whether a thread of this process is one of them and not asleep: "12 (.NET Finalizer) S ...".
+// Whether a thread of this process is one of them and not asleep: "12 (.NET Finalizer) S ...". The
+// one that runs at the start of a program ends by itself, and may sleep with a lock of the runtime
+// in hand.
 bool is_busy(const char* thread) {
     char path[64];
     std::snprintf(path, sizeof(path), "/proc/self/task/%.20s/stat", thread);
@@ -91,7 +93,8 @@ bool is_busy(const char* thread) {
     close(file);
     const char* name = length > 0 ? std::strchr(line, '(') : nullptr;
     const char* name_end = name != nullptr ? std::strrchr(name, ')') : nullptr;
-    return name_end != nullptr && name_end[1] == ' ' && name_end[2] != 'S' && is_waited_for(name);
+    return name_end != nullptr && name_end[1] == ' ' && is_waited_for(name) &&
+           (name_end[2] != 'S' || begins_with(name, "(.NET Warm-up)"));
 }
 
 bool any_is_busy() {

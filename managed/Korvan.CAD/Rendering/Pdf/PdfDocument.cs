@@ -65,7 +65,6 @@ internal sealed class PdfDocument
     /// <summary>Writes a document of pages.</summary>
     internal static void Write(Stream output, TextEngine engine, IEnumerable<Page> pages, PdfSettings settings)
     {
-        NativeLibraries.Require(HarfBuzz.SubsetLibrary, HarfBuzz.SubsetPackage);
         if (settings.Signature is null)
         {
             new PdfDocument(output, engine, settings).WriteAll(pages, null);

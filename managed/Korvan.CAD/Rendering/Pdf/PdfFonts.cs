@@ -28,6 +28,7 @@ internal sealed class PdfFonts(PdfFile file)
     {
         if (!_fonts.TryGetValue(use.Face, out PdfFont? font))
         {
+            NativeLibraries.Require(HarfBuzz.SubsetLibrary, HarfBuzz.SubsetPackage);
             bool isCompact = HarfBuzz.Table(use.Face, "CFF ").Length > 0;
             bool hasOutlines = isCompact || HarfBuzz.Table(use.Face, "glyf").Length > 0;
             uint count = HarfBuzz.FaceGetGlyphCount(use.Face);

@@ -33,12 +33,12 @@ internal sealed class FontFolders : IDisposable
     /// <summary>The fonts that the options name, or null when they name no folder.</summary>
     internal static FontFolders? Of(LoadOptions options, StrokeFaces strokes)
     {
-        NativeLibraries.Require();
         if (options.CustomFontFolders.Length == 0)
         {
             return null;
         }
 
+        NativeLibraries.Require();
         var folders = new FontFolders(
             (options.CustomFontFolderOptions & CustomFontFolderOptions.IgnoreSystemFonts) == 0);
         try

@@ -22,11 +22,9 @@ internal sealed unsafe class TextEngine : IDisposable
     /// <summary>Pango units in an em of what is shaped.</summary>
     internal const double UnitsPerEm = EmSize * Pango.Scale;
 
-    private const double PointsPerInch = 72;
     private const int BoldWeight = 700;
     private const int NormalWeight = 400;
     private const int ItalicStyle = 2;
-    private const int HintMetricsOff = 1;
     private const int MaxCachedLines = 50_000;
     private const int MaxCachedCharacters = 500_000;
     private const int MaxFonts = 500;
@@ -53,9 +51,7 @@ internal sealed unsafe class TextEngine : IDisposable
     private readonly GlyphRendering _look;
     private readonly FontFolders? _folders;
     private readonly bool _ownsFolders;
-    private readonly NativeHandle _fontMap;
-    private readonly NativeHandle _context;
-    private readonly NativeHandle _layout;
+    private TextLayout? _layout;
     private NativeHandle? _outliner;
     private int _cachedCharacters;
     private int _currentFont = -1;
@@ -73,32 +69,17 @@ internal sealed unsafe class TextEngine : IDisposable
     {
         Lifetime = new Lifetime(Release);
         _strokeFaces = strokes;
-        NativeLibraries.Require();
         ProvideFontList();
         _look = look;
         _folders = folders;
         _ownsFolders = ownsFolders;
-        _fontMap = new NativeHandle(Pango.CairoFontMapNew(), &Pango.Unref);
-        if (_folders is not null)
-        {
-            Pango.FcFontMapSetConfig(_fontMap.Pointer, _folders.Config);
-        }
-
-        _context = new NativeHandle(Pango.FontMapCreateContext(_fontMap.Pointer), &Pango.Unref);
-        Pango.CairoContextSetResolution(_context.Pointer, PointsPerInch);
-        Pango.ContextSetRoundGlyphPositions(_context.Pointer, 0);
-        using var options = new NativeHandle(Cairo.FontOptionsCreate(), &Cairo.FontOptionsDestroy);
-        Cairo.FontOptionsSetHintStyle(options.Pointer, look.Hinting);
-        Cairo.FontOptionsSetHintMetrics(options.Pointer, HintMetricsOff);
-        Cairo.FontOptionsSetAntialias(options.Pointer, look.Antialias);
-        Pango.CairoContextSetFontOptions(_context.Pointer, options.Pointer);
-        _layout = new NativeHandle(Pango.LayoutNew(_context.Pointer), &Pango.Unref);
-        Pango.LayoutSetSingleParagraphMode(_layout.Pointer, 1);
-        Pango.LayoutSetAutoDir(_layout.Pointer, 1);
     }
 
     /// <summary>Gets what keeps the engine for work that outlives its owner.</summary>
     internal Lifetime Lifetime { get; }
+
+    // Made when the first text asks for it: a drawing without text needs no shared library.
+    private nint Layout => (_layout ??= new TextLayout(_look, _folders)).Pointer;
 
     /// <summary>Lets the tables of drawings know the fonts that are installed; none where the libraries are
     /// missing.</summary>
@@ -343,9 +324,7 @@ internal sealed unsafe class TextEngine : IDisposable
         _descriptions.ForEach(static description => description.Dispose());
         _descriptions.Clear();
         _uses.Dispose();
-        _layout.Dispose();
-        _context.Dispose();
-        _fontMap.Dispose();
+        _layout?.Dispose();
         if (_ownsFolders)
         {
             _folders?.Dispose();
@@ -386,7 +365,7 @@ internal sealed unsafe class TextEngine : IDisposable
     {
         if (font != _currentFont)
         {
-            Pango.LayoutSetFontDescription(_layout.Pointer, _descriptions[font].Pointer);
+            Pango.LayoutSetFontDescription(Layout, _descriptions[font].Pointer);
             _currentFont = font;
         }
 
@@ -400,7 +379,7 @@ internal sealed unsafe class TextEngine : IDisposable
             SetText(text);
         }
 
-        return Pango.LayoutGetLine(_layout.Pointer, 0);
+        return Pango.LayoutGetLine(Layout, 0);
     }
 
     private void SetSpacing(double ems)
@@ -411,7 +390,7 @@ internal sealed unsafe class TextEngine : IDisposable
             Pango.AttrListInsert(list.Pointer, Pango.AttrLetterSpacingNew((int)Math.Round(ems * EmSize * Pango.Scale)));
         }
 
-        Pango.LayoutSetAttributes(_layout.Pointer, list.Pointer);
+        Pango.LayoutSetAttributes(Layout, list.Pointer);
         _currentSpacing = ems;
     }
 
@@ -423,7 +402,7 @@ internal sealed unsafe class TextEngine : IDisposable
         int length = Encoding.UTF8.GetBytes(shown, utf8);
         fixed (byte* bytes = utf8)
         {
-            Pango.LayoutSetText(_layout.Pointer, bytes, length);
+            Pango.LayoutSetText(Layout, bytes, length);
         }
 
         _currentText = text;
