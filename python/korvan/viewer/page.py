@@ -18,6 +18,7 @@ from functools import cache
 from importlib.resources import files
 from string import Template
 
+from korvan.tools.files import write_file
 from korvan.viewer.contents import Contents, read_contents
 
 _STYLE = ("page.css",)
@@ -51,8 +52,7 @@ def write_page(
 ) -> None:
     """Writes the page of a file, as ``build_page`` gives it."""
     page = build_page(source, title=title, layouts=layouts)
-    with open(target, "w", encoding="utf-8", newline="\n") as file:
-        file.write(page)
+    write_file(target, page.encode())
 
 
 def render_page(contents: Contents) -> str:
