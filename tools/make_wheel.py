@@ -23,6 +23,7 @@ ROOT = Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "tools"))
 
 from packing import assemblies, fonts, libraries, licences, shell_files  # noqa: E402
+from packing.description import description  # noqa: E402
 
 NAME = "korvan_cad"
 # The interpreter's own ABI, and the oldest C library that has what our files need.
@@ -51,7 +52,7 @@ def project_version() -> str:
 
 
 def metadata(version: str) -> str:
-    """METADATA: the core metadata and the README as description."""
+    """METADATA: the core metadata, and the description for an index of packages."""
     fields = (
         "Metadata-Version: 2.1",
         "Name: korvan.cad",
@@ -59,12 +60,20 @@ def metadata(version: str) -> str:
         "Summary: Read, change and convert CAD drawings",
         "License: MIT",
         "Requires-Python: ==3.12.*",
+        "Keywords: CAD,DWG,DXF,IFC,CGM,PDF,SVG,drawings",
+        "Classifier: Environment :: Console",
+        "Classifier: Intended Audience :: Developers",
+        "Classifier: License :: OSI Approved :: MIT License",
         "Classifier: Operating System :: POSIX :: Linux",
+        "Classifier: Programming Language :: Python :: 3 :: Only",
         "Classifier: Programming Language :: Python :: 3.12",
+        "Classifier: Programming Language :: Python :: Implementation :: CPython",
+        "Classifier: Topic :: Multimedia :: Graphics :: Graphics Conversion",
+        "Classifier: Topic :: Scientific/Engineering",
         "Classifier: Typing :: Typed",
         "Description-Content-Type: text/markdown",
     )
-    return "\n".join(fields) + "\n\n" + (ROOT / "README.md").read_text(encoding="utf-8")
+    return "\n".join(fields) + "\n\n" + description((ROOT / "README.md").read_text(encoding="utf-8"))
 
 
 def wheel_file() -> str:

@@ -39,10 +39,22 @@ def entity_rows(source: object, kind: str, layers: Iterable[str] | None = None) 
     ``source`` is a ``CadImage`` (its model space), a ``CadBlockEntity`` or a list of entities of the library;
     ``layers`` are names, of which case is ignored.
     """
+    return _collect(source, kind, None if layers is None else "\n".join(layers))
+
+
+def entity_bounds(drawing: object, layout: str) -> EntityRows:
+    """Collects the boxes of the entities of a layout: the least X and Y, the largest X and Y.
+
+    ``drawing`` is a ``CadImage``. Entities that take no space have no row, as lines without end. Boxes of texts are
+    approximate.
+    """
+    return _collect(drawing, "BOUNDS", layout)
+
+
+def _collect(source: object, kind: str, names: str | None) -> EntityRows:
     from korvan import cad
 
     collect = getattr(cad, "_entity_rows")  # noqa: B009: it is no part of the stubs
-    names = None if layers is None else "\n".join(layers)
     values, ends, indices, closed, width = cast(
         "tuple[bytearray, bytearray, bytearray, bytearray, int]", collect(source, kind, names)
     )

@@ -24,4 +24,7 @@ def lazy_exports(
         package[name] = getattr(import_module(f"{package['__name__']}.{modules[name]}"), name)
         return package[name]
 
-    return get, lambda: sorted({*package, *modules})
+    def names() -> list[str]:
+        return sorted({*modules, *(name for name in package if name.startswith("__"))})
+
+    return get, names

@@ -1,25 +1,30 @@
-"""Shows documents in PDF.js, the viewer of browsers: each page beside its image, its texts and its layers.
+"""Shows documents with PDF.js in a headless Chromium: each page beside its image, its texts and its layers.
 
 Rendered pages are in build/acceptance/pdf afterwards.
 """
 
 from __future__ import annotations
 
-import json
+import base64
 import re
 import subprocess
 import sys
 from collections import Counter
+from collections.abc import Generator
+from contextlib import contextmanager
+from http.server import SimpleHTTPRequestHandler, ThreadingHTTPServer
 from pathlib import Path
+from threading import Thread
 from typing import Any
 
+from browser import Browser
 from prerequisites import ROOT, require, skip
 
 HERE = Path(__file__).resolve().parent
 RESULTS = ROOT / "build" / "acceptance" / "pdf"
 MODULES = ROOT / "build" / "npm" / "node_modules"
 VERSION = "4.10.38"
-OLDEST_NODE = 20
+EMPTY = "<!DOCTYPE html><title>PDF.js</title>"
 SIDE = 900.0
 MOST_OFF = 0.01
 """The share of pixels of a page or of its image that the other may lack."""
@@ -42,10 +47,34 @@ def save(drawing: Path) -> tuple[Path, Path]:
     return document, pixels
 
 
-def show(document: Path, pixels: Path) -> dict[str, Any]:
-    command = ["node", HERE / "show_pdf.mjs", MODULES, document, pixels, document.with_suffix(".shown.png")]
-    done = subprocess.run(command, check=True, capture_output=True, text=True, timeout=120)
-    result: dict[str, Any] = json.loads(done.stdout)
+class Files(SimpleHTTPRequestHandler):
+    """The script of the page, PDF.js, and what is to be shown."""
+
+    extensions_map = {**SimpleHTTPRequestHandler.extensions_map, ".mjs": "text/javascript"}
+
+    def translate_path(self, path: str) -> str:
+        name = path.removeprefix("/")
+        folder = MODULES if name.startswith("pdfjs-dist/") else HERE if name == "show_pdf.mjs" else RESULTS
+        return str(folder / name)
+
+    def log_message(self, format: str, *arguments: object) -> None:
+        pass
+
+
+@contextmanager
+def served() -> Generator[str]:
+    """The address of a server on this machine."""
+    with ThreadingHTTPServer(("127.0.0.1", 0), Files) as server:
+        Thread(target=server.serve_forever, daemon=True).start()
+        yield f"http://127.0.0.1:{server.server_port}"
+        server.shutdown()
+
+
+def show(browser: Browser, document: Path, pixels: Path, *, try_layers: bool) -> dict[str, Any]:
+    script = "return import('/show_pdf.mjs').then((module) => module.show(...arguments))"
+    result: dict[str, Any] = browser.run(script, document.name, pixels.name, try_layers)
+    shown = base64.b64decode(result.pop("shown").partition(",")[2])
+    document.with_suffix(".shown.png").write_bytes(shown)
     return result
 
 
@@ -88,31 +117,38 @@ def check_forms(seen: dict[str, Any]) -> list[str]:
     found = ["nothing is shown"] if seen["pixels"] < 1000 else []
     if sorted(seen["layers"]) != ["notes", "pipes", "walls"]:
         found.append(f"layers {seen['layers']}")
+    without = seen["without"]
+    if without.pop("", 1) != 0 or not all(0 < count < 0.95 * seen["pixels"] for count in without.values()):
+        found.append(f"of {seen['pixels']} pixels, {without} are left when a layer is off")
     if seen["text"].count("Pumpe") != 200:
         found.append(f"{seen['text'].count('Pumpe')} of 200 texts of blocks")
     return found
 
 
+def check(browser: Browser, drawing: Path, *, has_forms: bool) -> list[str]:
+    """What is wrong with the document of a drawing."""
+    document, pixels = save(drawing)
+    seen = show(browser, document, pixels, try_layers=has_forms)
+    return faults(document, seen) + (check_forms(seen) if has_forms else [])
+
+
 def main() -> int:
-    require("node", "pdftotext")
-    node = subprocess.run(["node", "--version"], check=True, capture_output=True, text=True).stdout.strip()
-    if int(node.removeprefix("v").split(".")[0]) < OLDEST_NODE:
-        skip(f"PDF.js {VERSION} needs Node.js {OLDEST_NODE}; {node} is installed")
-    ensure = ROOT / "tools" / "ensure-npm-package.sh"
-    if subprocess.run([ensure, "pdfjs-dist", VERSION], check=False).returncode != 0:
+    require("chromium", "chromedriver", "npm", "pdftotext")
+    if subprocess.run([ROOT / "tools" / "ensure-npm-package.sh", "pdfjs-dist", VERSION], check=False).returncode != 0:
         skip("PDF.js cannot be installed")
     RESULTS.mkdir(parents=True, exist_ok=True)
+    (RESULTS / "index.html").write_text(EMPTY, encoding="ascii")
     forms = RESULTS / "forms.dxf"
     block_drawing(forms)
     drawings = [forms, *sorted((ROOT / "examples" / "drawings").glob("*.dxf")),
                 *sorted((ROOT.parent / "shared" / "drawings" / "dxf").glob("*.dxf"))]
     count = 0
-    for drawing in drawings:
-        document, pixels = save(drawing)
-        seen = show(document, pixels)
-        found = faults(document, seen) + (check_forms(seen) if drawing is forms else [])
-        count += 1 if found else 0
-        print(f"{drawing.name}: {'; '.join(found) or 'as its image'}")
+    with served() as address, Browser() as browser:
+        browser.open(f"{address}/index.html")
+        for drawing in drawings:
+            found = check(browser, drawing, has_forms=drawing is forms)
+            count += 1 if found else 0
+            print(f"{drawing.name}: {'; '.join(found) or 'as its image'}")
     print(f"{len(drawings) - count} of {len(drawings)} documents are shown as their images")
     return int(count > 0)
 

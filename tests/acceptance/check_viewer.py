@@ -251,6 +251,24 @@ def check_blocks(browser: Browser, folder: Path) -> None:
     expect(near > 1000, f"{near} pixels of the turned block")
 
 
+def check_picking(browser: Browser, folder: Path) -> None:
+    """Clicks tell the entity that is drawn there, the smaller one first, and nothing where nothing is drawn."""
+    entities = [*line("A", 5, 0, 0, 100, 80), 0, "CIRCLE", 8, "R", 5, "2F", 10, 50, 20, 40, 40, 5,
+                0, "INSERT", 5, "3B", 8, "A", 2, "B", 10, 150, 20, 0, *line("0", 3, 0, 0, 200, 0)]
+    source = folder / "picked.dxf"
+    source.write_text(dxf(entities, ["A", "R"], [*line("PART", 1, 0, 0, 20, 30), *text("PART", 0, 32, 4, "Pump")]))
+    open_page(browser, write_page(source, folder))
+    entity = "document.getElementById('entity').textContent"
+    for (x, y), wanted in (((45, 40), "TypeCIRCLEHandle2FLayerR"), ((160, 15), "TypeINSERTBlockBHandle3BLayerA"),
+                           ((25, 20), "TypeLINE")):
+        at = browser.run(PLACE, x, y)
+        browser.move(*at, click=True)
+        browser.wait_for(f"{entity}.startsWith('{wanted}')", f"{wanted} at {x}, {y}")
+    browser.screenshot(RESULTS / "viewer-picking.png")
+    browser.move(*browser.run(PLACE, 120, 60), click=True)
+    browser.wait_for("document.getElementById('entity-section').hidden", "nothing where nothing is drawn")
+
+
 def check_hostile_names(browser: Browser, folder: Path) -> None:
     """Names and texts of a drawing that are markup stay what they are."""
     source = folder / "a <b>&amp;'\".dxf"
@@ -316,6 +334,7 @@ CHECKS = (
     check_search_and_theme,
     check_measuring,
     check_blocks,
+    check_picking,
     check_hostile_names,
     check_pages_of_other_kinds,
     check_speed,

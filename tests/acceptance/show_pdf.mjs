@@ -1,18 +1,10 @@
 // Renders the first page of a PDF document with PDF.js, the viewer of browsers, and compares it with an image of the
-// page: node show_pdf.mjs <folder of node_modules> <document> <image> <rendered>. Prints one line of JSON.
-import { readFileSync, writeFileSync } from "node:fs";
-import { createRequire } from "node:module";
-import { join } from "node:path";
-import { pathToFileURL } from "node:url";
+// page. Is imported by a page of a browser.
+import * as pdfjs from "/pdfjs-dist/legacy/build/pdf.mjs";
 
 const REACH = 2;
 const CLEAR = 48;
 const FAINT = 8;
-
-const [modules, document, image, rendered] = process.argv.slice(2);
-const require = createRequire(join(modules, "index.js"));
-const { createCanvas, loadImage } = require("@napi-rs/canvas");
-const pdfjs = await import(pathToFileURL(join(modules, "pdfjs-dist/legacy/build/pdf.mjs")));
 
 // How much each pixel differs from white.
 function strengths(context, width, height) {
@@ -50,34 +42,73 @@ function showsNear(pixels, x, y, width, height) {
   return false;
 }
 
-const warnings = [];
-console.log = (message) => warnings.push(String(message)); // PDF.js writes its warnings there
-const pdf = await pdfjs.getDocument({
-  data: new Uint8Array(readFileSync(document)), isEvalSupported: false, verbosity: pdfjs.VerbosityLevel.WARNINGS,
-}).promise;
-const page = await pdf.getPage(1);
-const viewport = page.getViewport({ scale: 1 });
-const [width, height] = [Math.round(viewport.width), Math.round(viewport.height)];
-const canvas = createCanvas(width, height);
-const context = canvas.getContext("2d");
-await page.render({ canvasContext: context, viewport, background: "white" }).promise;
-writeFileSync(rendered, canvas.toBuffer("image/png"));
+function count(pixels) {
+  return pixels.reduce((sum, pixel) => sum + (pixel > CLEAR ? 1 : 0), 0);
+}
 
-const expected = await loadImage(readFileSync(image));
-const other = createCanvas(width, height).getContext("2d");
-other.fillStyle = "white";
-other.fillRect(0, 0, width, height);
-other.drawImage(expected, 0, 0);
-const [shown, wanted] = [strengths(context, width, height), strengths(other, width, height)];
-const content = await page.getTextContent();
-const groups = await pdf.getOptionalContentConfig();
-process.stdout.write(JSON.stringify({
-  size: [width, height],
-  image: [expected.width, expected.height],
-  pixels: wanted.reduce((sum, pixel) => sum + (pixel > CLEAR ? 1 : 0), 0),
-  missing: 1 - share(wanted, shown, width, height),
-  extra: 1 - share(shown, wanted, width, height),
-  text: content.items.map((item) => item.str + (item.hasEOL ? "\n" : "")).join(" "),
-  layers: Object.values(groups.getGroups() ?? {}).map((group) => group.name),
-  warnings,
-}) + "\n");
+function contextOf(width, height) {
+  const canvas = Object.assign(document.createElement("canvas"), { width, height });
+  return canvas.getContext("2d", { willReadFrequently: true });
+}
+
+async function render(page, groups) {
+  const viewport = page.getViewport({ scale: 1 });
+  const [width, height] = [Math.round(viewport.width), Math.round(viewport.height)];
+  const canvasContext = contextOf(width, height);
+  const optionalContentConfigPromise = Promise.resolve(groups);
+  await page.render({ canvasContext, viewport, background: "white", optionalContentConfigPromise }).promise;
+  return { width, height, canvas: canvasContext.canvas, pixels: strengths(canvasContext, width, height) };
+}
+
+async function imageOf(address, width, height) {
+  const image = await createImageBitmap(await (await fetch(address)).blob());
+  const context = contextOf(width, height);
+  context.fillStyle = "white";
+  context.fillRect(0, 0, width, height);
+  context.drawImage(image, 0, 0);
+  return { size: [image.width, image.height], pixels: strengths(context, width, height) };
+}
+
+// How many pixels the page shows when a layer is off, by the name of the layer, and when all are.
+async function withoutLayers(pdf, page) {
+  const names = {};
+  const groups = await pdf.getOptionalContentConfig();
+  const all = Object.entries(groups.getGroups() ?? {});
+  for (const [id, group] of all) {
+    groups.setVisibility(id, false);
+    names[group.name] = count((await render(page, groups)).pixels);
+    groups.setVisibility(id, true);
+  }
+  all.forEach(([id]) => groups.setVisibility(id, false));
+  names[""] = count((await render(page, groups)).pixels);
+  return names;
+}
+
+export async function show(documentAddress, imageAddress, tryLayers) {
+  const warnings = [];
+  // PDF.js writes its warnings to the console, of this thread where its worker is there already.
+  console.log = (message) => String(message).endsWith("Setting up fake worker.") || warnings.push(String(message));
+  globalThis.pdfjsWorker ??= await import("/pdfjs-dist/legacy/build/pdf.worker.mjs");
+  const data = new Uint8Array(await (await fetch(documentAddress)).arrayBuffer());
+  const pdf = await pdfjs.getDocument({
+    data, isEvalSupported: false, verbosity: pdfjs.VerbosityLevel.WARNINGS,
+  }).promise;
+  const page = await pdf.getPage(1);
+  const groups = await pdf.getOptionalContentConfig();
+  const shown = await render(page, groups);
+  const { width, height } = shown;
+  const wanted = await imageOf(imageAddress, width, height);
+  const content = await page.getTextContent();
+  return {
+    size: [width, height],
+    image: wanted.size,
+    pixels: count(wanted.pixels),
+    missing: 1 - share(wanted.pixels, shown.pixels, width, height),
+    extra: 1 - share(shown.pixels, wanted.pixels, width, height),
+    text: content.items.map((item) => item.str + (item.hasEOL ? "\n" : "")).join(" "),
+    layers: Object.values(groups.getGroups() ?? {}).map((group) => group.name),
+    without: tryLayers ? await withoutLayers(pdf, page) : {},
+    shown: shown.canvas.toDataURL("image/png"),
+    warnings,
+  };
+}

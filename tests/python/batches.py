@@ -21,7 +21,7 @@ SMALL = DRAWINGS / "heating_schematic.dxf"
 # Stands in for the converter of worker processes: site-packages are not theirs, but the path is.
 SCRIPTED = """
     import sys
-    if "korvan.batch.worker" in sys.orig_argv:
+    if any("korvan.tools.worker" in one for one in sys.orig_argv):
         import contextlib, os, pathlib, signal, time
         import korvan.tools
         from korvan.tools import conversion

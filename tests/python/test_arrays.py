@@ -68,12 +68,21 @@ class Arrays(unittest.TestCase):
         self.assertIsInstance(table.values, numpy.ndarray)
         self.assertFalse(table.values.flags.owndata)
         self.assertTrue(numpy.shares_memory(table.values, table.column("x1")))
+        self.assertEqual([self.plan.entities[at].type_name_text for at in table.indices], ["LINE"] * len(table))
+        faces = arrays(self.plan, "3DFACE")
+        self.assertEqual((faces.values.shape, faces.column("x1").tolist(), list(faces.split())), ((0, 12), [], []))
+
+    def test_tables_are_compared_by_identity(self) -> None:
+        table = arrays(self.plan, "LINE")
+        self.assertIn(table, {table})
+        self.assertNotEqual(table, arrays(self.plan, "LINE"))
 
     def test_what_is_not_there_is_named(self) -> None:
         for call, words in ((lambda: arrays(self.plan, "TEXT"), "no table of 'TEXT'"),
                             (lambda: arrays(self.plan, "LINE", layer="A-WAL"), "'A-WALL'"),
                             (lambda: arrays(self.plan, "LINE").column("x"), "'x1'"),
-                            (lambda: arrays(list(self.plan.entities), "LINE", layer="A*"), "of a drawing only")):
+                            (lambda: arrays(self.plan.entities, "LINE", layer="A*"), "of a drawing only"),
+                            (lambda: arrays(iter(self.plan.entities), "LINE"), "one by one")):
             with self.assertRaisesRegex(ToolError, words):
                 call()
 

@@ -86,6 +86,9 @@ class Converting(Commands):
             (["convert", PLAN, "-o", "a.pdf", "--set", "pfd.zoom=1"], "no options 'pfd'"),
             (["convert", PLAN, "-o", "a.pdf", "--paper", "A99"], "no paper"),
             (["convert", PLAN, "-o", "a.pdf", "--release", "R2000"], "no releases"),
+            (["convert", PLAN, "-o", "a.dwg", "--release", "2007"], "not written as 2007: use one of 2000, 2004, 2010"),
+            (["convert", PLAN, "-o", "a.png", "--size", "0x0"], "'0x0' is no size"),
+            (["convert", PLAN, "-o", "a.pdf", "--timeout", "-1"], "--timeout"),
             (["convert", PLAN, "-o", "a.pdf", "-j", "-1"], "--jobs"),
             (["convert", PLAN, "-o", "a.pdf", "--memory", "0"], "--memory"),
             (["convert", PLAN, PLAN, "-o", "/tmp/", "--to", "pdf"], "would both become"),
@@ -112,6 +115,9 @@ class Converting(Commands):
         with self.child("convert", PLAN, "-o", "-", "--to", "svg") as done:
             out, err = done.communicate(timeout=300)
         self.assertTrue(out.startswith("<?xml") and out.rstrip().endswith("</svg>"), err)
+        with self.child("convert", PLAN, "-o", "-", "--to", "pdf") as done:
+            done.stdout.close()  # a reader that has enough, as head has
+            self.assertEqual((done.stderr.read(), done.wait(300)), ("", 1))
         status, _, err = self.korvan("convert", PLAN, "-o", "/dev/full", "--to", "pdf")
         self.assertEqual(status, 1)
         self.assertRegex(err, "No space left on device")
@@ -130,8 +136,16 @@ class Converting(Commands):
     def test_a_file_that_takes_too_much_memory_fails_alone(self) -> None:
         status, out, err = self.korvan("convert", PLAN, "-o", self.out / "a.png", "--size", "12000x", "--memory", "150")
         self.assertEqual((status, out), (1, ""))
-        self.assertEqual(err, f"korvan: {PLAN}: takes more than 150 MiB of memory\n")
+        self.assertRegex(err, rf"\Akorvan: {PLAN}: takes more than 150 MiB of memory \(\d+ MiB when it was ended\)\n\Z")
         self.assertEqual(list(self.out.iterdir()), [])
+
+    def test_names_with_line_breaks_take_one_line(self) -> None:
+        source = self.out / "a\nb.dxf"
+        source.write_bytes(Path(PLAN).read_bytes()[:5000])
+        status, _, err = self.korvan("convert", source, "-o", self.out / "a.pdf")
+        self.assertEqual((status, err.count("\n"), err.count("b.dxf")), (1, 1, 1), err)
+        shutil.copy(PLAN, source)
+        self.assertEqual(self.good("convert", source, "-o", f"{self.out}/", "--to", "svg").count("\n"), 1)
 
     def test_names_that_are_no_text(self) -> None:
         source = os.fsdecode(os.fsencode(self.out / "a") + b"\xff.dxf")

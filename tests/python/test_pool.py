@@ -28,7 +28,7 @@ def kill_a_child() -> None:
     while True:
         for path in Path("/proc/self/task").glob("*/children"):
             for pid in path.read_text().split():
-                if b"spawn_main" in Path(f"/proc/{pid}/cmdline").read_bytes():
+                if b"korvan.tools.worker" in Path(f"/proc/{pid}/cmdline").read_bytes():
                     os.kill(int(pid), signal.SIGKILL)
                     return
         time.sleep(0.001)

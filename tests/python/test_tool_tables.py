@@ -7,6 +7,8 @@ import tempfile
 import unittest
 from pathlib import Path
 
+import korvan.batch
+import korvan.tools
 from korvan.cad import Image
 from korvan.cad.fileformats.cad import CadImage
 from korvan.cad.fileformats.cad.cadobjects import (
@@ -160,6 +162,12 @@ class Others(unittest.TestCase):
             self.assertEqual((found["format"], found["size"], found["pages"]), ("PNG", [300, 200], 1))
         self.assertTrue(describe(EXAMPLES / "garden_house.ifc")["not_drawn"])
         self.assertEqual(describe(EXAMPLES / "garden_house.ifc", render=False)["not_drawn"], [])
+
+    def test_packages_list_what_they_export(self) -> None:
+        for package in (korvan.tools, korvan.batch):
+            names = [name for name in dir(package) if not name.startswith("__")]
+            self.assertEqual(names, sorted(package.__all__))
+            self.assertTrue(all(getattr(package, name) for name in names))
 
     def test_files_are_replaced_whole(self) -> None:
         with tempfile.TemporaryDirectory() as folder:

@@ -9,6 +9,7 @@ import hashlib
 import html.parser
 import http.client
 import io
+import itertools
 import json
 import re
 import tempfile
@@ -19,8 +20,10 @@ from urllib.parse import urlsplit
 
 from korvan.cad import Image
 from korvan.cad.fileformats.cad import CadImage
+from korvan.cad.fileformats.cad.cadobjects import CadCircle
 from korvan.cad.imageoptions import CadRasterizationOptions, TiffOptions
 from korvan.commands import main
+from korvan.viewer.entities import entity_table
 from korvan.viewer import Contents, Layout, PageServer, ViewerError, build_page, read_contents, render_page
 
 DRAWINGS = Path(__file__).resolve().parents[2] / "examples" / "drawings"
@@ -79,6 +82,28 @@ class Pages(unittest.TestCase):
             drawing = CadImage._cast_to(image).value
             self.assertAlmostEqual(a * drawing.max_point.x + e, width, delta=width / 100)
             self.assertAlmostEqual(d * drawing.max_point.y + f, 0, delta=width / 20)
+
+    def test_entities_can_be_found_by_their_boxes(self) -> None:
+        table = json.loads(gzip.decompress(Page(build_page(SITE)).block("entities-0")))
+        with Image.load(str(SITE)) as image:
+            drawing = CadImage._cast_to(image).value
+            known = {int(one.object_handle, 16): one for one in drawing.entities}
+            handles = list(itertools.accumulate(table["handle"]))
+            self.assertEqual(set(handles) - set(known), set())
+            columns = (itertools.accumulate(table["x"]), itertools.accumulate(table["y"]), table["width"],
+                       table["height"], table["kind"], table["layer"])
+            for handle, x, y, width, height, kind, layer in zip(handles, *columns, strict=True):
+                one, (left, bottom), step = known[handle], table["origin"], table["step"]
+                self.assertEqual(table["kinds"][kind][0], one.type_name_text)
+                self.assertEqual(table["layers"][layer], one.layer_name)
+                if circle := CadCircle._cast_to(one):
+                    at, radius = circle.value.center_point, circle.value.radius
+                    self.assertAlmostEqual(left + x * step, at.x - radius, delta=step)
+                    self.assertAlmostEqual(bottom + (y + height) * step, at.y + radius, delta=step)
+                    self.assertAlmostEqual(width * step, 2 * radius, delta=2 * step)
+        self.assertIn("TREE", {block for kind, block, _ in table["kinds"] if kind == "INSERT"})
+        with Image.load(str(SITE)) as image:
+            self.assertEqual(entity_table(CadImage._cast_to(image).value, "Plot 1", 0)[:2], b"\x1f\x8b")
 
     def test_layers_start_as_stored_and_are_all_there(self) -> None:
         contents = read_contents(SITE)

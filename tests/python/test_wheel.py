@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import importlib.metadata
 import json
+import re
 import shutil
 import subprocess
 import sys
@@ -44,6 +45,12 @@ class Files(unittest.TestCase):
                 self.assertTrue((installed / "korvan" / f"{name}.pyi").is_file(), name)
             (distribution,) = importlib.metadata.distributions(path=[str(installed)])
             self.assertEqual(distribution.version, make_wheel.project_version())
+            about = distribution.metadata
+            self.assertIn("License :: OSI Approved :: MIT License", about.get_all("Classifier"))
+            text = str(about.get_payload())
+            self.assertIn("pip install", text)
+            self.assertEqual([link for link in re.findall(r"\]\(([^)]*)\)", text) if not link.startswith("#")], [])
+            self.assertNotIn("make demo", text)
             (hooks,) = distribution.entry_points.select(group="pyinstaller40", name="hook-dirs")
             self.assertEqual(len(hooks.load()()), 6)
             (command,) = distribution.entry_points.select(group="console_scripts")

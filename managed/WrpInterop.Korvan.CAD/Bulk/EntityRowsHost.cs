@@ -11,21 +11,15 @@ namespace Korvan.WrpGen.Interop;
 public static unsafe class EntityRowsHost
 {
     /// <summary>Fills the places of four bytearrays (rows, ends, indices, closed), each a new reference or 0 after an
-    /// error, and of the number of columns. Layers are separated by line breaks; null for all.</summary>
+    /// error, and of the number of columns. Layers are separated by line breaks; null for all. Of the kind "BOUNDS", the
+    /// boxes of the entities of a layout are collected, whose name is in the place of the layers.</summary>
     [UnmanagedCallersOnly]
     public static int call_Collect(
         nint source, PyStringArg* kind, PyStringArg* layers, nint* arrays, int* width)
     {
         try
         {
-            IEnumerable<CadEntityBase> entities = Handles.Target(source) switch
-            {
-                CadImage image => image.Entities,
-                CadBlockEntity block => block.Entities,
-                IEnumerable<CadEntityBase> list => list,
-                _ => throw new ArgumentException("The source of entities has to be a drawing, a block or a list."),
-            };
-            EntityRows rows = EntityRows.Of(entities, PyText.Read(kind) ?? "", PyText.Read(layers)?.Split('\n'));
+            EntityRows rows = RowsOf(Handles.Target(source), PyText.Read(kind) ?? "", PyText.Read(layers));
             if (rows.Values.Length > int.MaxValue / sizeof(double))
             {
                 throw new ArgumentException("The entities have more than 2 GiB of numbers; ask for some layers only.");
@@ -41,6 +35,23 @@ public static unsafe class EntityRowsHost
         {
             return Boundary.Failed(e);
         }
+    }
+
+    private static EntityRows RowsOf(object? source, string kind, string? layers)
+    {
+        if (source is CadImage drawing && kind == "BOUNDS")
+        {
+            return EntityRows.BoundsOf(drawing, layers ?? "Model");
+        }
+
+        IEnumerable<CadEntityBase> entities = source switch
+        {
+            CadImage image => image.Entities,
+            CadBlockEntity block => block.Entities,
+            IEnumerable<CadEntityBase> list => list,
+            _ => throw new ArgumentException("The source of entities has to be a drawing, a block or a list."),
+        };
+        return EntityRows.Of(entities, kind, layers?.Split('\n'));
     }
 
     private static nint NewArray(ReadOnlySpan<byte> bytes)

@@ -153,7 +153,7 @@ def _line(row: Row, to_results: str) -> str:
     name = escape(printable(row["path"]))
     if row["state"] == "done":
         name = f'<a href="{to_results}/{escape(quote(row["target"]))}">{name}</a>'
-    notes = "".join(f"<small>{escape(text)}</small>" for text in (row["error"], row["warnings"])
+    notes = "".join(f"<small>{escape('; '.join(text.splitlines()))}</small>" for text in (row["error"], row["warnings"])
                     if text and (row["state"] != "done" or text == row["warnings"]))
     return (f'<tr data-state="{"pending" if row["state"] == "running" else row["state"]}"><td>{image}</td>'
             f"<td>{name}{notes}</td><td class={row['state']}>{row['state']}</td>"

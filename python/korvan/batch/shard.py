@@ -21,7 +21,8 @@ from korvan.batch.journal import CRASHED, FAILED, Journal, Outcome, Work
 from korvan.batch.scan import read_list
 from korvan.batch.settings import Settings
 from korvan.batch.summary import Summary
-from korvan.batch.workers import Event, Pool, Worker
+from korvan.batch.workers import Pool
+from korvan.tools.processes import Event, Worker
 
 Report = Callable[[Work, Outcome], None]
 
@@ -99,7 +100,7 @@ class ShardRun:
                         self._handle(event, journal)
                 self._on_tick()
         finally:
-            self._given_back += [worker.work for worker in self._pool.busy() if worker.work]
+            self._given_back += [worker.task for worker in self._pool.busy()]
             self._pool.end_busy()
             self._folder.clear_scratch(self._shard)
             try:
@@ -143,23 +144,25 @@ class ShardRun:
             "replace": work.ours or self._settings.force, "timeout": self._settings.limits.timeout,
             "thumbnail": self._settings.thumbnails and not work.crashes,
         }
-        worker.send(work, task, self._settings.limits.timeout, self._pool.memory_for(work))
+        self._pool.send(worker, work, task)
 
     def _scratch(self, worker: Worker) -> Path:
         return self._folder.scratch(self._shard) / str(worker.number)
 
     def _handle(self, event: Event, journal: Journal) -> None:
         self._pool.drop(event)
-        if event.work is None:
+        if not event.was_busy:
             return
-        if event.error:  # what it left half-written is not to be moved with the next result
+        work: Work = event.task
+        if event.end:  # what it left half-written is not to be moved with the next result
             shutil.rmtree(self._scratch(event.worker), ignore_errors=True)
         if event.reply is not None:
-            self._take(event.work, event.reply)
-        elif event.kind == "crash" or event.kind == "memory" and not self._settings.limits.memory:
-            self._crash(event.work, event, journal)
+            succeeded, reply = event.reply
+            self._take(work, reply if succeeded else {"state": FAILED, "kind": "fault", "error": reply})
+        elif event.end == "died" or event.end == "memory" and not self._settings.limits.memory:
+            self._crash(work, event, journal)
         else:
-            self._take(event.work, {"state": FAILED, "kind": event.kind, "error": event.error})
+            self._take(work, {"state": FAILED, "kind": event.end, "error": event.error})
 
     def _take(self, work: Work, reply: dict[str, Any]) -> None:
         if reply.get("kind") == "full":
@@ -177,8 +180,8 @@ class ShardRun:
     def _crash(self, work: Work, event: Event, journal: Journal) -> None:
         """The first crash puts a file at the end, where it is tried alone; the second one is its result."""
         if work.alone and work.crashes:
-            state = CRASHED if event.kind == "crash" else FAILED
-            self._take(work, {"state": state, "kind": event.kind, "error": event.error})
+            state, kind = (CRASHED, "crash") if event.end == "died" else (FAILED, event.end)
+            self._take(work, {"state": state, "kind": kind, "error": event.error})
             return
         journal.crash(work, event.error)
         self._alone.append(Work(work.path, work.target, work.size, work.modified, work.known_hash, work.crashes + 1,

@@ -1,21 +1,17 @@
-"""A process that converts one file after the other, as it is told over a socket: ``worker.py DESCRIPTOR``.
+"""What worker processes do: they convert one file after the other.
 
-Results are written into a folder of its own and moved in place when they are whole.
+Results are written into a folder of the worker's own and moved in place when they are whole.
 """
 
 from __future__ import annotations
 
 import base64
-import ctypes
 import io
-import json
 import os
 import shutil
-import signal
-import socket
 import stat
-import sys
 import time
+from dataclasses import dataclass
 from hashlib import blake2b
 from pathlib import Path
 from typing import TYPE_CHECKING, Any
@@ -30,8 +26,8 @@ THUMBNAIL = (160.0, 120.0)
 SLOW = 10.0  # who waited so long for a result is not to wait as long again for its thumbnail
 NEARLY_FULL = 1 << 16
 FOLDERS = 10_000  # that are remembered
-_DIE_WITH_PARENT = 1
 _folders: set[str] = set()
+_recipe: dict[str, Any] = {}
 
 
 class Refused(Exception):
@@ -40,13 +36,6 @@ class Refused(Exception):
     def __init__(self, kind: str, text: str) -> None:
         super().__init__(text)
         self.kind = kind
-
-
-def die_with_parent(parent: int) -> None:
-    """Ends this process when the one that started it does: a killed batch leaves nothing running."""
-    ctypes.CDLL(None, use_errno=True).prctl(_DIE_WITH_PARENT, signal.SIGKILL, 0, 0, 0)
-    if os.getppid() != parent:
-        os._exit(1)
 
 
 def _status(name: str) -> int:
@@ -221,6 +210,7 @@ def _result(task: dict[str, Any]) -> dict[str, Any]:
 
 def work(task: dict[str, Any]) -> dict[str, Any]:
     """Converts a file and tells what became of it."""
+    task = {**task, **_recipe}
     _forget_peak()
     start = time.perf_counter()
     reply: dict[str, Any]
@@ -234,6 +224,26 @@ def work(task: dict[str, Any]) -> dict[str, Any]:
         _folders.discard(task["scratch"])
         shutil.rmtree(task["scratch"], ignore_errors=True)  # what was begun is not to be moved with the next result
     return {**reply, "seconds": time.perf_counter() - start, "memory": _status("VmHWM"), "resident": _status("VmRSS")}
+
+
+@dataclass(frozen=True)
+class Greeting:
+    """What a worker tells of itself when it is ready."""
+
+    version: str
+    """The version of the converter."""
+    extensions: list[str]
+    """The file extensions of drawings that it reads."""
+    wrong: str
+    """What is wrong with the recipe for each of the files; empty if nothing is."""
+
+
+def greet(to: str, options: dict[str, Any]) -> Greeting:
+    """Makes a worker ready for the files of a recipe."""
+    import korvan.cad
+
+    _recipe.update(to=to, options=options)
+    return Greeting(str(korvan.cad.BuildVersionInfo.product_version), read_extensions(), check(to, options))
 
 
 def check(to: str, options: dict[str, Any]) -> str:
@@ -265,26 +275,3 @@ def read_extensions() -> list[str]:
 
     formats = (info for info in SupportedFileFormats.Input.formats if info.category != FileFormatCategory.BITMAP)
     return sorted({extension for info in formats for extension in info.extensions})
-
-
-def main(descriptor: int, parent: int) -> None:
-    die_with_parent(parent)
-    signal.signal(signal.SIGINT, signal.SIG_IGN)  # the batch decides when to end
-    connection = socket.socket(fileno=descriptor)
-
-    def say(message: dict[str, Any]) -> None:
-        connection.sendall(json.dumps(message).encode("ascii") + b"\n")
-
-    import korvan.cad
-
-    with connection.makefile("rb") as tasks:
-        recipe = json.loads(next(tasks, b"{}"))
-        wrong = check(recipe["to"], recipe["options"])
-        say({"version": str(korvan.cad.BuildVersionInfo.product_version), "extensions": read_extensions(),
-             "wrong": wrong})
-        for line in tasks:
-            say(work({**json.loads(line), **recipe}))
-
-
-if __name__ == "__main__":
-    main(int(sys.argv[1]), int(sys.argv[2]))

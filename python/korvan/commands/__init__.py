@@ -26,7 +26,7 @@ _EPILOG = """examples:
   korvan texts 'door|window' *.dxf                search the texts of drawings
   korvan COMMAND --help                           options of a command, with examples
 
-exit codes: 0 all succeeded, 1 some failed, 2 wrong usage
+exit codes: 0 all succeeded, 1 some failed, 2 wrong usage, 130 interrupted
 """
 
 

@@ -49,14 +49,14 @@ def _target(path: str, out: str, force: bool) -> str:
 
     target = os.path.join(out, os.path.basename(path)) if out.endswith("/") or os.path.isdir(out) else out
     if os.path.exists(target) and not force:
-        raise ToolError(f"{target} exists; say force (--force) to replace it")
+        raise ToolError(f"{target} exists; --force replaces it")
     return target
 
 
 def _audit(path: str, out: str | None, force: bool) -> list[Any]:
     from korvan.cad.fileformats.cad import CadImage
     from korvan.tools.auditing import audit
-    from korvan.tools.errors import ToolError
+    from korvan.tools.errors import ToolError, without_name
     from korvan.tools.opening import load, load_options
 
     options = load_options(tolerant=True)
@@ -64,7 +64,8 @@ def _audit(path: str, out: str | None, force: bool) -> list[Any]:
         if not isinstance(drawing, CadImage):
             raise ToolError("is no drawing, so it cannot be audited")
         target = _target(path, out, force) if out is not None else None
-        found = audit(drawing, fix=target is not None, defects=list(options.errors))
+        defects = [without_name(text, path).rstrip(".") for text in options.errors]
+        found = audit(drawing, fix=target is not None, defects=defects)
         if target is not None:
             drawing.save(target)
         return found
@@ -72,9 +73,12 @@ def _audit(path: str, out: str | None, force: bool) -> list[Any]:
 
 def _print(path: str, found: list[Any], summary: bool) -> None:
     from korvan.tools.auditing import CODES
+    from korvan.tools.printing import one_line
 
     fixed = sum(one.count for one in found if one.is_fixed)
-    show(f"{path}: {sum(one.count for one in found)} findings" + (f", {fixed} corrected" if fixed else ""))
+    count = sum(one.count for one in found)
+    corrected = f", {fixed} corrected" if fixed else ""
+    show(f"{one_line(path)}: {count} finding{'' if count == 1 else 's'}{corrected}")
     if summary:
         counts: Counter[int] = Counter()
         for one in found:

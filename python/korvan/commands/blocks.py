@@ -7,9 +7,7 @@ from collections import Counter
 from functools import partial
 from typing import Any
 
-from korvan.commands.common import (
-    DRAWINGS, add_files, add_json, each, expand, parser_for, print_json, print_tables, table
-)
+from korvan.commands.common import DRAWINGS, add_files, add_json, each, expand, parser_for, print_json, print_tables
 
 _EXAMPLES = """  korvan blocks plan.dxf
   korvan blocks --unused *.dwg

@@ -26,14 +26,21 @@ def show(text: str) -> None:
     print(shown(text))
 
 
+def show_name(path: str, *, is_first: bool) -> None:
+    """Prints the name of a file above what is said of it."""
+    from korvan.tools.printing import one_line
+
+    print(("" if is_first else "\n") + one_line(path))
+
+
 def fail(path: object, failure: BaseException | str) -> None:
     """Prints an error about a file: one line on stderr."""
-    from korvan.tools.errors import message_of
-    from korvan.tools.printing import shown
+    from korvan.tools.errors import message_of, without_name
+    from korvan.tools.printing import one_line
 
     text = failure if isinstance(failure, str) else message_of(failure)
-    text = text.removeprefix(f"'{path}' ")  # messages of the library begin with the name
-    print(shown(f"korvan: {path}: {text}"), file=sys.stderr)
+    text = without_name(text, str(path))
+    print(f"korvan: {one_line(path)}: {one_line(text)}", file=sys.stderr)
 
 
 def print_json(value: object) -> None:
@@ -106,7 +113,7 @@ def print_tables(
             print_json({"file": path, what: found})
         else:
             if len(paths) > 1:
-                show(("\n" if count else "") + path)
+                show_name(path, is_first=not count)
             show(table([row(one) for one in found], headings))
         count += 1
     return 1 if count < len(paths) else 0

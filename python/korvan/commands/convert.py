@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import argparse
+import errno
 import os
 import sys
 from collections.abc import Iterator
@@ -103,16 +104,19 @@ def _check(arguments: argparse.Namespace) -> None:
 
 
 def _report(arguments: argparse.Namespace, source: str, done: ConversionResult) -> None:
+    from korvan.tools.printing import one_line
+
     if arguments.json:
         print_json({"source": source, "output": str(done.output), "outputs": list(map(str, done.outputs)),
                     "format": done.format, "seconds": round(done.seconds, 4), "warnings": done.warnings,
                     "fonts": done.fonts})
     elif not arguments.quiet:
-        notes = [*done.warnings, *(f"font {font}" for font in done.fonts)]
+        notes = [*done.warnings, *(f"font {font.replace(': ', ' is replaced by ', 1)}" for font in done.fonts)]
+        names = ", ".join(map(one_line, done.outputs))
         size = size_text(sum(output.stat().st_size for output in done.outputs))
         plural = "s" if len(notes) > 1 else ""
         count = f", {len(notes)} note{plural} (-v lists them)" if notes and not arguments.verbose else ""
-        show(f"{source} -> {', '.join(map(str, done.outputs))} ({size}, {done.seconds:.2f} s{count})")
+        show(f"{one_line(source)} -> {names} ({size}, {done.seconds:.2f} s{count})")
         for note in notes if arguments.verbose else ():
             show(f"  {note}")
 
@@ -172,6 +176,8 @@ def run(arguments: argparse.Namespace) -> int:
         raise Usage(f"--jobs {arguments.jobs}: write 1 or more, or 0 for one a processor")
     if arguments.memory is not None and arguments.memory < 1:
         raise Usage(f"--memory {arguments.memory}: write a number of MiB, such as 1000")
+    if arguments.timeout is not None and arguments.timeout <= 0:
+        raise Usage(f"--timeout {arguments.timeout:g}: write more than 0 seconds")
     if target.endswith("/"):
         os.makedirs(target, exist_ok=True)
     tasks = list(_tasks(arguments, target))
@@ -183,7 +189,9 @@ def run(arguments: argparse.Namespace) -> int:
         progress.clear()
         if done is None:
             failed += 1
-            fail(source, error)
+            if to_stdout and error.endswith(os.strerror(errno.EPIPE)):
+                break  # the reader has enough
+            fail(source, error + ("; korvan batch converts folders" if os.path.isdir(source) else ""))
             if arguments.json and not to_stdout:
                 print_json({"source": source, "error": error})
         elif not to_stdout:

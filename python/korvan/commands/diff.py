@@ -55,7 +55,7 @@ def _write_overlay(arguments: argparse.Namespace) -> None:
     from korvan.tools.files import write_file
 
     if os.path.exists(arguments.overlay) and not arguments.force:
-        raise ToolError(f"{arguments.overlay} exists; say force (--force) to replace it")
+        raise ToolError(f"{arguments.overlay} exists; --force replaces it")
     write_file(arguments.overlay, overlay(arguments.before, arguments.after, width=arguments.width))
 
 

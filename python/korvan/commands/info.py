@@ -7,7 +7,7 @@ from collections.abc import Mapping, Sequence
 from functools import partial
 from typing import Any
 
-from korvan.commands.common import add_files, add_json, each, expand, parser_for, print_json, show, size_text
+from korvan.commands.common import add_files, add_json, each, expand, parser_for, print_json, show, show_name, size_text
 
 _EXAMPLES = """  korvan info plan.dxf
   korvan info --quick archive/            every drawing below a folder, without rendering
@@ -44,6 +44,8 @@ def _extents(found: Mapping[str, Any]) -> str:
     low, high = found["extents"]["min"], found["extents"]["max"]
     size = " x ".join(_length(b - a) for a, b in zip(low, high, strict=True) if b - a or len(low) == 2)
     corners = " to ".join("(" + ", ".join(map(_length, corner)) + ")" for corner in (low, high))
+    if not size and not any(found.get("entities", {}).values()):
+        return "none"
     units = "" if found["units"] == "unitless" else f" {found['units']}"
     return f"{size or 0}{units}, {corners}"
 
@@ -83,10 +85,10 @@ def run(arguments: argparse.Namespace) -> int:
         if arguments.json:
             print_json(found)
         else:
-            show(("\n" if count else "") + path)
+            show_name(path, is_first=not count)
             rows = lines(found)
             width = max(len(label) for label, _ in rows)
             for label, text in rows:
-                show(f"  {label:<{width}}  {text}")
+                show(f"  {label:<{width}}  {text}".rstrip())
         count += 1
     return 1 if count < len(paths) else 0

@@ -49,14 +49,14 @@ def _find(path: str, pattern: re.Pattern[str], layer: str | None, kind: str | No
 
 
 def _print(arguments: argparse.Namespace, path: str, found: list[Any], pattern: re.Pattern[str]) -> None:
-    from korvan.tools.printing import shown
+    from korvan.tools.printing import one_line, shown
 
     if arguments.json:
         print_json({"file": path, "texts": [asdict(text) for text in found]})
     elif arguments.count:
-        show(f"{path}: {len(found)}")
+        show(f"{one_line(path)}: {len(found)}")
     elif arguments.list:
-        show(path)
+        print(one_line(path))
     else:
         colored = sys.stdout.isatty()
         for text in found:
@@ -64,7 +64,7 @@ def _print(arguments: argparse.Namespace, path: str, found: list[Any], pattern: 
             if colored and pattern.pattern:
                 content = pattern.sub(lambda match: f"\x1b[1;31m{match[0]}\x1b[0m", content)
             where = ", ".join(filter(None, (text.place, text.layer, f"{text.kind} {text.handle}".strip(), text.tag)))
-            print(f"{shown(path)}: {content}  ({shown(where)})")
+            print(f"{one_line(path)}: {content}  ({shown(where)})")
 
 
 def run(arguments: argparse.Namespace) -> int:

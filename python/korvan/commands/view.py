@@ -20,8 +20,9 @@ def add_parser(subparsers: Any) -> None:
     parser = parser_for(subparsers, "view", "Shows a drawing in the browser: layers, layouts, search, measuring.",
                         _EXAMPLES)
     parser.add_argument("file", metavar="FILE", help="a drawing, a metafile or an image")
-    parser.add_argument("-o", "--out", "--output", metavar="PAGE", type=Path, dest="output",
-                        help="write the page to a file and serve nothing")
+    parser.add_argument("-o", "--out", "--output", metavar="PAGE", dest="output",
+                        help="write the page to a file, or to standard output (-), and serve nothing")
+    parser.add_argument("-f", "--force", action="store_true", help="replace a page that exists")
     parser.add_argument("--layout", "--layouts", dest="layout", action="append", metavar="NAME",
                         help="show only this layout; may be repeated")
     parser.add_argument("--title", help="the title of the page; the name of the file by default")
@@ -34,6 +35,10 @@ def run(arguments: argparse.Namespace) -> int:
     """Writes or serves the page. Returns 0, or 1 if the file cannot be shown."""
     from korvan.viewer import build_page
 
+    target = None if arguments.output is None else Path(arguments.output)
+    if target is not None and arguments.output != "-" and target.is_file() and not arguments.force:
+        fail(target, "exists; --force replaces it")
+        return 1
     started = time.monotonic()
     try:
         page = build_page(arguments.file, title=arguments.title, layouts=arguments.layout).encode()
@@ -41,17 +46,27 @@ def run(arguments: argparse.Namespace) -> int:
         fail(arguments.file, failure)
         return 1
     seconds = round(time.monotonic() - started, 3)
-    if arguments.output is None:
+    if target is None:
         return _serve(page, arguments, seconds)
+    return _write(page, target, arguments, seconds)
+
+
+def _write(page: bytes, target: Path, arguments: argparse.Namespace, seconds: float) -> int:
+    from korvan.tools.files import write_file
+    from korvan.tools.printing import one_line
+
+    if arguments.output == "-":
+        sys.stdout.buffer.write(page)
+        return 0
     try:
-        arguments.output.write_bytes(page)
+        write_file(target, page)
     except OSError as failure:
-        fail(arguments.output, failure)
+        fail(target, failure)
         return 1
     if arguments.json:
-        print_json({"page": str(arguments.output), "bytes": len(page), "seconds": seconds})
+        print_json({"page": str(target), "bytes": len(page), "seconds": seconds})
     else:
-        print(f"{arguments.output}  {size_text(len(page))}  {seconds:.2f} s")
+        print(f"{one_line(target)}  {size_text(len(page))}  {seconds:.2f} s")
     return 0
 
 

@@ -9,14 +9,18 @@ from __future__ import annotations
 from collections.abc import Iterable, Iterator
 from dataclasses import dataclass
 from importlib import import_module
-from typing import Any
+from typing import TYPE_CHECKING, Any, TypeAlias
 
 from korvan._entity_rows import KINDS, entity_rows
 from korvan.cad.fileformats.cad import CadImage
-from korvan.cad.fileformats.cad.cadobjects import CadBlockEntity, CadEntityBase
+from korvan.cad.fileformats.cad.cadobjects import CadBlockEntity
 from korvan.tools.errors import ToolError, matching, unknown
 
-Source = CadImage | CadBlockEntity | Iterable[CadEntityBase]
+if TYPE_CHECKING:
+    from korvan.cad._typing import ListView
+    from korvan.cad.fileformats.cad.cadobjects import CadEntityBase
+
+Source: TypeAlias = "CadImage | CadBlockEntity | ListView[CadEntityBase]"
 Names = str | Iterable[str]
 _CIRCLE = ("x", "y", "z", "radius", "normal_x", "normal_y", "normal_z")
 _CORNERS = tuple(f"{axis}{number}" for number in (1, 2, 3, 4) for axis in "xyz")
@@ -41,7 +45,7 @@ def _numpy() -> Any:
         return None
 
 
-@dataclass(frozen=True)
+@dataclass(frozen=True, eq=False)
 class Rows:
     """A table of numbers: a row an entity, or for polylines and splines a row a vertex."""
 
@@ -91,11 +95,15 @@ def _layer_names(source: Source, layer: Names | None) -> list[str] | None:
 def arrays(source: Source, kind: str, *, layer: Names | None = None) -> Rows:
     """The numbers of all entities of a kind.
 
-    :param source: A drawing, whose model space is meant, a block, or a list of entities of the library.
+    :param source: A drawing, whose model space is meant, a block, or the ``entities`` of either or of a layout. Other
+        sequences are not taken; ``layer`` selects.
     :param kind: The type of the entities as in files: one of ``COLUMNS``.
     :param layer: Names or patterns of layers; all by default.
-    :raises ToolError: The kind has no table, or there is no such layer.
+    :raises ToolError: The kind has no table, there is no such layer, or the source is of another type.
     """
+    if isinstance(source, (list, tuple, set, frozenset, Iterator)):
+        raise ToolError("the source is a drawing, a block or its entities; "
+                        f"of a {type(source).__name__} of entities, read the numbers one by one")
     keyword = kind.upper()
     if keyword not in COLUMNS:
         raise unknown("table of", kind, KINDS)

@@ -18,11 +18,11 @@ from korvan.cad import Image, RasterImage
 from korvan.cad.fileformats.cad import CadDrawTypeMode, CadImage
 from korvan.cad.fileformats.ifc import IfcImage
 from korvan.cad.imageoptions import CadRasterizationOptions, ImageOptionsBase
-from korvan.tools.errors import ToolError, matching, message_of
+from korvan.tools.errors import ToolError, matching, message_of, without_name
 from korvan.tools.files import write_file
 from korvan.tools.formats import Target, find_target, targets
 from korvan.tools.layouts import layout_names, used_layouts
-from korvan.tools.opening import load, load_options
+from korvan.tools.opening import describe_kind, load, load_options
 from korvan.tools.pages import set_page
 from korvan.tools.settings import Settings, parse_color
 
@@ -117,7 +117,7 @@ def _check_output(path: Path, force: bool) -> None:
     except OSError as failure:
         raise ToolError(f"{path}: {message_of(failure)}") from failure
     if stat.S_ISREG(mode) and not force:
-        raise ToolError(f"{path} exists; say force (--force) to replace it")
+        raise ToolError(f"{path} exists; --force (force=True) replaces it")
 
 
 def _color_options(raster: CadRasterizationOptions, request: Request, target: Target) -> None:
@@ -203,12 +203,15 @@ def _outputs(image: Image, path: Path, target: Target, request: Request, dst: st
     return [(one, [layout]) for one, layout in zip(_file_names(path, layouts), layouts, strict=True)]
 
 
-def _check_model(image: Image, target: Target) -> None:
-    """Refuses what a building model is not written as, and names what it is written as."""
-    if isinstance(image, IfcImage) and not image.can_save(target.options()):
-        known = sorted(extension for extension, one in targets().items() if image.can_save(one.options()))
+def _check_content(image: Image, target: Target) -> None:
+    """Refuses what content of this kind is not written as, and names what it is written as."""
+    if image.can_save(target.options()):
+        return
+    known = ", ".join(sorted(extension for extension, one in targets().items() if image.can_save(one.options())))
+    if isinstance(image, IfcImage):
         raise ToolError(f"building models are not drawn yet, so there is no {target.name} of them; they are written as "
-                        + ", ".join(known))
+                        f"{known}")
+    raise ToolError(f"{describe_kind(type(image))} is not written as {target.name}; it is written as {known}")
 
 
 @contextmanager
@@ -219,6 +222,8 @@ def converted(src: str | os.PathLike[str], dst: str | os.PathLike[str], request:
     path = output_path(src, dst, request.to)
     target = find_target(path, request.to)
     settings = Settings(request.settings)
+    if request.timeout is not None and request.timeout <= 0:
+        raise ToolError(f"a timeout is more than 0 seconds, not {request.timeout:g}")
     target.make_options(request.release)
     if PLACEHOLDER not in path.name:
         _check_output(path, request.force)
@@ -233,7 +238,7 @@ def converted(src: str | os.PathLike[str], dst: str | os.PathLike[str], request:
         try:
             with _deadline(request.timeout):
                 image = opened.enter_context(load(src, given))
-                _check_model(image, target)
+                _check_content(image, target)
                 outputs = _outputs(image, path, target, request, os.fspath(dst))
                 for one, _ in outputs:
                     _check_output(one, request.force)
@@ -244,7 +249,8 @@ def converted(src: str | os.PathLike[str], dst: str | os.PathLike[str], request:
                         left = request.timeout - (time.perf_counter() - start)
                         options.timeout = max(1, int(left * 1000))
                     _save(image, one, options)
-                    found, replaced = _warnings(options, () if warnings else given.errors)
+                    defects = [without_name(text, os.fspath(src)) for text in given.errors]
+                    found, replaced = _warnings(options, () if warnings else defects)
                     warnings += [text for text in found if text not in warnings]
                     fonts += [font for font in replaced if font not in fonts]
         except TimeoutError as failure:

@@ -13,7 +13,7 @@ from korvan.cad.fileformats.cgm import CgmImage
 from korvan.cad.fileformats.ifc import IfcImage
 from korvan.cad.imageoptions import CadRasterizationOptions, PdfOptions
 from korvan.tools.layouts import used_layouts
-from korvan.tools.errors import message_of
+from korvan.tools.errors import message_of, without_name
 from korvan.tools.opening import enum_name, load, load_options
 
 # The releases of drawings, by the version that files state.
@@ -152,5 +152,5 @@ def describe(source: str | os.PathLike[str], *, render: bool = True) -> dict[str
         not_drawn, replaced, cannot = _render(image) if render and not isinstance(image, RasterImage) else ([], {}, "")
         found["fonts"] = _fonts(_wanted_fonts(image), replaced)
         found["not_drawn"] = [cannot] if cannot else not_drawn
-        found["defects"] = list(given.errors)
+        found["defects"] = [without_name(text, os.fspath(source)) for text in given.errors]
         return found

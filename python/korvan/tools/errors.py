@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import os
 import re
 from collections.abc import Iterable, Sequence
 from fnmatch import fnmatchcase
@@ -21,6 +22,21 @@ def message_of(failure: BaseException) -> str:
     return re.sub(r"^Proxy error\(\w+\): ", "", text)
 
 
+def without_name(text: str, path: str) -> str:
+    """A message of the library about a file without the name of the file, which it begins with."""
+    escaped = "".join(one if one >= " " else f"\\x{ord(one):02x}" for one in path)
+    for name in (escaped, os.path.basename(escaped)):
+        for lead in (f"'{name}' ", f"'{name}', ", f"'{name}': "):
+            if text.startswith(lead):
+                return text.removeprefix(lead)
+    return text
+
+
+def nearest_are(names: Sequence[str]) -> str:
+    """The end of a message about a name that is not there."""
+    return f"the nearest {'is' if len(names) == 1 else 'are'} {', '.join(names)}"
+
+
 def nearest(name: str, known: Iterable[str], count: int = 3) -> list[str]:
     """The names most similar to one; case is ignored."""
     import difflib  # only where something is wrong
@@ -36,9 +52,10 @@ def unknown(kind: str, name: str, known: Sequence[str]) -> ToolError:
     """An error about a name that is not there, with the names that come near."""
     near = nearest(name, known)
     if near:
-        return ToolError(f"there is no {kind} {name!r}; the nearest are {', '.join(map(repr, near))}")
+        return ToolError(f"there is no {kind} {name!r}; {nearest_are(list(map(repr, near)))}")
     listed = ", ".join(map(repr, known[:8])) + (", …" if len(known) > 8 else "")
-    return ToolError(f"there is no {kind} {name!r}; there are {listed}" if known else f"there is no {kind} {name!r}")
+    there = f"; there {'is' if len(known) == 1 else 'are'} {listed}" if known else ""
+    return ToolError(f"there is no {kind} {name!r}{there}")
 
 
 def matching(kind: str, patterns: Iterable[str], known: Sequence[str]) -> list[str]:

@@ -21,11 +21,11 @@ from korvan.cad.imageoptions import (
     PdfOptions,
     TiffOptions,
 )
-from korvan.tools.errors import ToolError, nearest
+from korvan.tools.errors import ToolError, nearest, nearest_are
 
 _RELEASES = {
-    "2000": CadAcadVersion.AC1015, "2004": CadAcadVersion.AC1018, "2007": CadAcadVersion.AC1021,
-    "2010": CadAcadVersion.AC1024, "2013": CadAcadVersion.AC1027, "2018": CadAcadVersion.AC1032,
+    "2000": CadAcadVersion.AC1015, "2004": CadAcadVersion.AC1018, "2010": CadAcadVersion.AC1024,
+    "2013": CadAcadVersion.AC1027, "2018": CadAcadVersion.AC1032,
 }
 _WITH_PAGES = (PdfOptions, TiffOptions, GifOptions, DicomOptions)
 
@@ -117,5 +117,6 @@ def find_target(path: str | os.PathLike[str], to: str | None = None) -> Target:
         return found
     if not extension:
         raise ToolError("the target has no extension: name the format (--to), such as pdf")
-    near = nearest(extension, targets()) or sorted(targets())
-    raise ToolError(f"{extension!r} is no format that is written; the nearest are {', '.join(near)}")
+    near = nearest(extension, targets())
+    known = nearest_are(near) if near else f"there are {', '.join(sorted(targets()))}"
+    raise ToolError(f"{extension!r} is no format that is written; {known}")

@@ -15,7 +15,7 @@ from korvan.cad import CustomFontFolderOptions, Image, LoadOptions, RasterImage
 from korvan.cad.fileformats.cad import CadImage
 from korvan.cad.fileformats.cgm import CgmImage
 from korvan.cad.fileformats.ifc import IfcImage
-from korvan.tools.errors import ToolError, message_of
+from korvan.tools.errors import ToolError, message_of, without_name
 
 Opened = CadImage | CgmImage | IfcImage | RasterImage
 AnyImage = TypeVar("AnyImage", bound=Image)
@@ -91,11 +91,11 @@ def load(source: str | os.PathLike[str], options: LoadOptions | None = None) -> 
             else:  # a pipe can be read only once
                 image = Image.load(io.BytesIO(file.read()), given)
     except (OSError, RuntimeError) as failure:
-        raise ToolError(message_of(failure)) from failure
+        raise ToolError(without_name(message_of(failure), path)) from failure
     return cast(image)
 
 
-def _describe(kind: type[Image]) -> str:
+def describe_kind(kind: type[Image]) -> str:
     """A class of images as messages name it."""
     names = ((CadImage, "a drawing"), (CgmImage, "a metafile"), (IfcImage, "a building model"),
              (RasterImage, "a raster image"))
@@ -132,5 +132,5 @@ def open_drawing(
     if kind is not None and not isinstance(image, kind):
         found = type(image)
         image.dispose()
-        raise ToolError(f"is {_describe(found)}, not {_describe(kind)}")
+        raise ToolError(f"is {describe_kind(found)}, not {describe_kind(kind)}")
     return image

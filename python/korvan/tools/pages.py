@@ -6,7 +6,7 @@ import re
 
 from korvan.cad import ResolutionSetting
 from korvan.cad.imageoptions import ImageOptionsBase, UnitType, VectorRasterizationOptions
-from korvan.tools.errors import ToolError, nearest
+from korvan.tools.errors import ToolError, nearest, nearest_are
 
 DEFAULT_DPI = 150.0
 _UNITS = {"mm": UnitType.MILLIMETER, "cm": UnitType.CENTIMETER, "m": UnitType.METER, "in": UnitType.INCH}
@@ -33,7 +33,7 @@ def paper_size(text: str, is_wide: bool) -> tuple[float, float]:
         name, orientation = text.upper(), "LANDSCAPE" if is_wide else "PORTRAIT"
     if name not in PAPERS:
         near = nearest(name, PAPERS) or ["A4", "A3", "LETTER"]
-        raise ToolError(f"there is no paper {text!r}; the nearest are {', '.join(near)}")
+        raise ToolError(f"there is no paper {text!r}; {nearest_are(near)}")
     short, long = PAPERS[name]
     return (long, short) if orientation == "LANDSCAPE" else (short, long)
 
@@ -43,6 +43,8 @@ def parse_size(text: str) -> tuple[float, float, UnitType | None]:
     match = _SIZE.fullmatch(text.strip())
     if match is None or not (match[1] or match[2]):
         raise ToolError(f"{text!r} is no size: write 1600x1200, 1600x, 420x297mm or 11x17in")
+    if any(side is not None and not float(side) for side in (match[1], match[2])):
+        raise ToolError(f"{text!r} is no size: a side is more than 0; leave one out that follows from the other")
     return float(match[1] or 0), float(match[2] or 0), _UNITS.get((match[3] or "").lower())
 
 

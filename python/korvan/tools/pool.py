@@ -1,36 +1,27 @@
 """A pool of processes in which a task that crashes, hangs or takes too much memory costs only itself.
 
-Workers are started anew (``spawn``), since a runtime with threads does not survive a fork well. The parent watches
-them: one that passes its deadline or its memory is killed, and a new one takes its place. The library writes files
-atomically, so a killed worker leaves no half file.
+Workers are new processes, which the parent watches: one that passes its deadline or its memory is killed, and a new one
+takes its place. The library writes files atomically, so a killed worker leaves no half file.
 """
 
 from __future__ import annotations
 
-import multiprocessing
 import os
-import signal
-import threading
-import time
 from collections import deque
-from collections.abc import Callable, Generator, Iterable, Iterator
+from collections.abc import Callable, Generator, Iterable
 from dataclasses import dataclass
+from functools import partial
 from itertools import islice
-from multiprocessing.connection import Connection, wait
-from multiprocessing.context import SpawnProcess
 from types import TracebackType
 from typing import Any, Generic, Literal, Self, TypeVar
 
-from korvan.tools.errors import ToolError, message_of
+from korvan.tools.errors import ToolError
+from korvan.tools.processes import Event, Program, Workers
+from korvan.tools.worker import import_modules
 
 Task = TypeVar("Task")
 Result = TypeVar("Result")
 Status = Literal["done", "failed", "died", "timeout", "memory"]
-_PAGE = os.sysconf("SC_PAGE_SIZE")
-_WATCH = 0.05
-_START_LIMIT = 120.0
-_MAX_LOST = 10
-_PR_SET_PDEATHSIG = 1
 
 
 @dataclass(frozen=True)
@@ -46,101 +37,7 @@ class Outcome(Generic[Task, Result]):
     """Why it was not done, in one line."""
     seconds: float = 0.0
     memory: int = 0
-    """The most resident memory that the worker was seen with, in bytes; 0 where none was watched."""
-
-
-def _end_with_parent() -> None:
-    """Lets the system kill this process when its parent ends, however that ends."""
-    import ctypes
-
-    ctypes.CDLL(None).prctl(_PR_SET_PDEATHSIG, signal.SIGKILL)
-
-
-def _work(pipe: Connection, imports: tuple[str, ...], ends_with_parent: bool) -> None:
-    """The life of a worker: imports, then tasks until the pipe is closed."""
-    signal.signal(signal.SIGINT, signal.SIG_IGN)  # the parent decides what Ctrl-C means
-    signal.pthread_sigmask(signal.SIG_UNBLOCK, {signal.SIGINT})
-    if ends_with_parent:
-        _end_with_parent()
-    for name in imports:
-        __import__(name)
-    pipe.send(("ready",))
-    while True:
-        try:
-            function, task = pipe.recv()
-        except EOFError:
-            return
-        try:
-            answer = (True, function(task))
-        except BaseException as failure:
-            answer = (False, message_of(failure))
-        try:
-            pipe.send(answer)
-        except Exception as failure:  # what cannot be pickled
-            pipe.send((False, f"the result cannot be sent: {message_of(failure)}"))
-
-
-def _resident(pid: int | None) -> int:
-    """The resident memory of a process in bytes; 0 of one that is gone."""
-    try:
-        with open(f"/proc/{pid}/statm", encoding="ascii") as file:
-            return int(file.read().split()[1]) * _PAGE
-    except (OSError, IndexError, ValueError):
-        return 0
-
-
-def _end_of(process: SpawnProcess) -> str:
-    """How a process ended, for people."""
-    process.join(5)
-    code = process.exitcode
-    if code is not None and code < 0:
-        try:
-            return f"the worker was ended by {signal.Signals(-code).name}"
-        except ValueError:
-            return f"the worker was ended by signal {-code}"
-    return f"the worker ended with exit code {code}"
-
-
-class _Worker:
-    """A process, the pipe to it, and the task that it has."""
-
-    def __init__(self, imports: tuple[str, ...]) -> None:
-        context = multiprocessing.get_context("spawn")
-        self.pipe, other = context.Pipe()
-        # A parent's thread that ends would take its workers along.
-        is_main = threading.current_thread() is threading.main_thread()
-        self.process = context.Process(target=_work, args=(other, imports, is_main), daemon=True)
-        # The process starts with Ctrl-C blocked, until it can ignore it.
-        mask = signal.pthread_sigmask(signal.SIG_BLOCK, {signal.SIGINT})
-        try:
-            self.process.start()
-        finally:
-            signal.pthread_sigmask(signal.SIG_SETMASK, mask)
-        other.close()
-        self.is_ready = False
-        self.is_busy = False
-        self.task: Any = None
-        self.started = time.monotonic()
-        self.memory = 0
-        self.count = 0
-
-    def assign(self, function: Callable[[Any], Any], task: Any) -> None:
-        self.task, self.is_busy, self.started, self.memory = task, True, time.monotonic(), 0
-        self.count += 1
-        self.pipe.send((function, task))
-
-    def outcome(self, status: Status, value: Any = None, error: str = "") -> Outcome[Any, Any]:
-        self.is_busy = False
-        return Outcome(self.task, status, value, error, time.monotonic() - self.started, self.memory)
-
-    def close(self) -> None:
-        """Lets an idle worker end by itself."""
-        self.pipe.close()
-
-    def kill(self) -> None:
-        self.process.kill()
-        self.process.join(5)
-        self.pipe.close()
+    """The most resident memory that the worker was seen with, in bytes; 0 where none was limited."""
 
 
 class Pool:
@@ -156,13 +53,14 @@ class Pool:
 
     def __init__(self, workers: int | None = None, *, memory: int | None = None, deadline: float | None = None,
                  recycle: int = 1000, imports: Iterable[str] = ("korvan.cad",)) -> None:
-        self._size = workers if workers is not None else len(os.sched_getaffinity(0))
-        if self._size < 1:
+        size = workers if workers is not None else len(os.sched_getaffinity(0))
+        if size < 1:
             raise ToolError(f"a pool has at least one worker, not {workers}")
         self._memory, self._deadline, self._recycle = memory, deadline, max(1, recycle)
-        self._imports = tuple(imports)
-        self._workers: list[_Worker] = []
-        self._lost = 0
+        program = Program(partial(import_modules, tuple(imports)), has_main=True)
+        self._size = size
+        self._start = partial(Workers, program, size)
+        self._workers = self._start()
 
     def __enter__(self) -> Self:
         return self
@@ -173,16 +71,8 @@ class Pool:
 
     def close(self) -> None:
         """Ends the workers; those that are at work are killed."""
-        for worker in self._workers:
-            if worker.is_busy or not worker.is_ready:
-                worker.kill()
-            else:
-                worker.close()
-        for worker in self._workers:
-            worker.process.join(2)
-            if worker.process.is_alive():
-                worker.process.kill()
-        self._workers.clear()
+        self._workers.close(gently=True)
+        self._workers = self._start()
 
     def map(self, function: Callable[[Task], Result], tasks: Iterable[Task]) -> Generator[Outcome[Task, Result]]:
         """Calls a function for each task; returns the outcomes as they come, not in the order of the tasks.
@@ -197,81 +87,27 @@ class Pool:
         try:
             while True:
                 queue.extend(islice(waiting, self._size - len(queue)))
-                self._assign(function, queue)
-                if not queue and not any(worker.is_busy for worker in self._workers):
+                self._workers.fill(len(queue) + len(self._workers.busy()))
+                for worker in self._workers.free()[:len(queue)]:
+                    worker.send(function, queue.popleft(), seconds=self._deadline, memory=self._memory)
+                if not queue and not self._workers.busy():
                     return
-                yield from self._collect()
+                for event in self._workers.events():
+                    if (outcome := self._outcome(event)) is not None:
+                        yield outcome
         finally:
-            for worker in [one for one in self._workers if one.is_busy]:  # the caller wants no more
-                worker.kill()
+            for worker in self._workers.busy():  # the caller wants no more
                 self._workers.remove(worker)
 
-    def _assign(self, function: Callable[[Any], Any], queue: deque[Any]) -> None:
-        """Assigns tasks to workers that are free, and starts as many more as there are tasks."""
-        for worker in [one for one in self._workers if one.is_ready and not one.is_busy]:
-            if not queue:
-                return
-            try:
-                if worker.process.is_alive():
-                    worker.assign(function, queue[0])
-                    queue.popleft()
-                    continue
-            except OSError:
-                pass
-            worker.kill()  # it was ended while it was idle
-            self._workers.remove(worker)
-        starting = sum(not worker.is_ready for worker in self._workers)
-        for _ in range(min(len(queue) - starting, self._size - len(self._workers))):
-            self._workers.append(_Worker(self._imports))
-
-    def _collect(self) -> Iterator[Outcome[Any, Any]]:
-        """Waits a moment for answers, and checks time and memory of the workers."""
-        watched = {worker.pipe: worker for worker in self._workers if worker.is_busy or not worker.is_ready}
-        ready = wait(list(watched), _WATCH)
-        for pipe, worker in watched.items():
-            if pipe in ready:
-                yield from self._receive(worker)
-            else:
-                yield from self._watch(worker)
-
-    def _receive(self, worker: _Worker) -> Iterator[Outcome[Any, Any]]:
-        try:
-            answer = worker.pipe.recv()
-        except (EOFError, ConnectionResetError):
-            self._workers.remove(worker)
-            reason = _end_of(worker.process)
-            if not worker.is_ready:
-                self._lost += 1
-                if (worker.process.exitcode or 0) < 0 and self._lost <= _MAX_LOST:  # by a signal: another is started
-                    return
-                raise ToolError(f"no worker can start: {reason}. A program that uses a pool has to begin its work "
-                                "under if __name__ == '__main__'") from None
-            yield worker.outcome("died", error=reason)
-            return
-        if not worker.is_ready:
-            worker.is_ready = True
-            return
-        succeeded, value = answer
-        yield worker.outcome("done", value) if succeeded else worker.outcome("failed", error=value)
-        if worker.count >= self._recycle:
-            worker.close()
-            self._workers.remove(worker)
-
-    def _watch(self, worker: _Worker) -> Iterator[Outcome[Any, Any]]:
-        passed = time.monotonic() - worker.started
-        if not worker.is_ready:
-            if passed > _START_LIMIT:
-                raise ToolError(f"a worker has not started within {_START_LIMIT:g} s")
-            return
-        if self._memory is not None:
-            worker.memory = max(worker.memory, _resident(worker.process.pid))
-            if worker.memory > self._memory:
-                yield self._lose(worker, "memory", f"takes more than {self._memory >> 20} MiB of memory")
-                return
-        if self._deadline is not None and passed > self._deadline:
-            yield self._lose(worker, "timeout", f"takes longer than {self._deadline:g} s")
-
-    def _lose(self, worker: _Worker, status: Status, error: str) -> Outcome[Any, Any]:
-        worker.kill()
-        self._workers.remove(worker)
-        return worker.outcome(status, error=error)
+    def _outcome(self, event: Event) -> Outcome[Any, Any] | None:
+        """What became of a task, if the event tells of one."""
+        if event.reply is None:
+            if not event.was_busy:
+                return None
+            return Outcome(event.task, event.end or "died", None, event.error, event.seconds, event.memory)
+        if event.worker.count >= self._recycle:
+            self._workers.remove(event.worker, gently=True)
+        succeeded, value = event.reply
+        if succeeded:
+            return Outcome(event.task, "done", value, "", event.seconds, event.memory)
+        return Outcome(event.task, "failed", None, value, event.seconds, event.memory)

@@ -19,6 +19,11 @@ def shown(text: str) -> str:
     return text.translate(_CONTROLS)
 
 
+def one_line(text: object) -> str:
+    """A name as one line: line breaks and tabs are escapes, too."""
+    return shown(str(text)).replace("\n", "\\n").replace("\t", "\\t")
+
+
 def cell(value: object) -> object:
     """A value as programs for tables take it: what begins as a formula does has an apostrophe before it.
 

@@ -10,7 +10,7 @@ from typing import Any
 
 from korvan.cad import Color, ColorTranslator, LoadOptions, PointF, Rectangle, ResolutionSetting, SizeF
 from korvan.cad.imageoptions import ImageOptionsBase, VectorRasterizationOptions
-from korvan.tools.errors import ToolError, message_of, nearest, unknown
+from korvan.tools.errors import ToolError, message_of, nearest, nearest_are, unknown
 
 # Options that are part of others: their class, whose they are, and the member that has them.
 _PARTS = {
@@ -181,7 +181,7 @@ class Settings:
             if key in by_key:
                 return by_key[key]
         near = nearest(owner, known)
-        raise ToolError(f"there are no options {owner!r}" + (f"; the nearest are {', '.join(near)}" if near else ""))
+        raise ToolError(f"there are no options {owner!r}" + (f"; {nearest_are(near)}" if near else ""))
 
     def wants(self, *classes: str) -> bool:
         """Whether any setting is for one of the classes."""

@@ -11,6 +11,8 @@ from dataclasses import dataclass, field, replace
 from pathlib import Path
 from typing import TYPE_CHECKING
 
+from korvan.viewer.entities import entity_table
+
 if TYPE_CHECKING:
     import korvan.cad
     from korvan.cad.fileformats.cad import CadImage
@@ -38,7 +40,7 @@ _UNITS = {
 _REASONS = {
     "ENTITY_NOT_DRAWN": "Not drawn",
     "MISSING_GLYPH": "Without a glyph",
-    "MISSING_PICTURE": "Image not found",
+    "MISSING_PICTURE": "Not found",
 }
 
 
@@ -73,6 +75,8 @@ class Layout:
     viewports: tuple[Viewport, ...] = ()
     message: str = ""
     """Why it cannot be shown; empty if it can."""
+    entities: bytes = b""
+    """What a click tells of entities, as ``entity_table`` gives it; empty without."""
 
 
 @dataclass(frozen=True)
@@ -151,7 +155,8 @@ def _read_drawing(
             is_sheet = name.casefold() != "model"
             layout = _render(image, name, unit, contents, is_sheet=is_sheet)
             viewports = tuple(_viewports(drawing, name, unit)) if is_sheet else ()
-            contents.layouts.append(replace(layout, viewports=viewports))
+            entities = b"" if layout.message else entity_table(drawing, name, len(layout.data) // 6)
+            contents.layouts.append(replace(layout, viewports=viewports, entities=entities))
     return contents
 
 
@@ -220,7 +225,7 @@ def _add_notes(options: ImageOptionsBase, contents: Contents) -> None:
         return
     found = [f"{_REASONS.get(failure.render_code.name or '', 'Changed')}: {failure.message}"
              for failure in result.failures]
-    found += [f"Font {substitution}" for substitution in result.font_substitutions]
+    found += [f"Font {substitution.replace(': ', ' is replaced by ', 1)}" for substitution in result.font_substitutions]
     for note in found:
         if note not in contents.notes and len(contents.notes) < _MOST_NOTES:
             contents.notes.append(note)

@@ -18,11 +18,12 @@ from functools import cache
 from importlib.resources import files
 from string import Template
 
+from korvan.tools.files import write_file
 from korvan.viewer.contents import Contents, read_contents
 
 _STYLE = ("page.css",)
 _ENGINE = ("markup.js", "geometry.js", "scene.js", "painter.js", "engine.js")
-_SCRIPT = ("camera.js", "measure.js", "panels.js", "main.js")
+_SCRIPT = ("camera.js", "measure.js", "picking.js", "panels.js", "main.js")
 
 
 def build_page(
@@ -51,8 +52,7 @@ def write_page(
 ) -> None:
     """Writes the page of a file, as ``build_page`` gives it."""
     page = build_page(source, title=title, layouts=layouts)
-    with open(target, "w", encoding="utf-8", newline="\n") as file:
-        file.write(page)
+    write_file(target, page.encode())
 
 
 def render_page(contents: Contents) -> str:
@@ -60,6 +60,7 @@ def render_page(contents: Contents) -> str:
     style, engine, script = _asset(*_STYLE), _asset(*_ENGINE), _asset(*_SCRIPT)
     blocks = [_block("contents", gzip.compress(_description(contents).encode(), mtime=0))]
     blocks += [_block(f"layout-{i}", layout.data) for i, layout in enumerate(contents.layouts)]
+    blocks += [_block(f"entities-{i}", layout.entities) for i, layout in enumerate(contents.layouts) if layout.entities]
     return Template(_asset("page.html")).substitute(
         policy=_policy(style, script),
         title=html.escape(contents.title),

@@ -133,6 +133,10 @@ const HANDLERS = {
     apply(settings);
     postMessage({ type: "bounds", bounds: painter.visibleBounds() });
   },
+  pick({ id, x, y, distance }) {
+    const layers = [...painter.layersAt(x, y, distance)].map((layer) => painter.scene.layers[layer] ?? "");
+    postMessage({ type: "picked", id, layers });
+  },
   snap({ id, x, y, distance }) {
     postMessage({ type: "snapped", id, point: painter.nearest(x, y, distance) });
   },

@@ -30,6 +30,7 @@ class Viewer {
     this.engine = startEngine();
     this.camera = new Camera($$("drawing"), this.engine, () => this._moved());
     this.measure = new Measure(this.camera, $$("overlay"), $$("reading"), (mode) => this._measuring(mode));
+    this.picker = new Picker(this.camera, (entity) => this._pick(entity));
     this.layers = new Layers(drawing.layers, () => this._restyle());
     this.search = new Search((match) => this._show(match));
     this.tabs = new Tabs(drawing.layouts.map((layout) => layout.name), (index) => this._open(index));
@@ -63,6 +64,7 @@ class Viewer {
 
   _open(index) {
     const layout = this.drawing.layouts[index];
+    this.picker.open(null);
     $$("message").textContent = layout.message ?? "";
     this.measure.start(null);
     this.camera.view = null;
@@ -86,7 +88,25 @@ class Viewer {
     const unit = layout.unit || paperUnit(layout, matrix);
     this.camera.open({ width, height, matrix, isSheet, viewports, unit }, isSheet ? whole : bounds);
     this._updateSearch();
+    this._readEntities(this.tabs.selected);
     $$("message").textContent = count === 0 ? "There is nothing on this layout." : "";
+  }
+
+  async _readEntities(index) {
+    const table = $$(`entities-${index}`) && JSON.parse(await storedText(`entities-${index}`));
+    if (index === this.tabs.selected) {
+      this.picker.open(table);
+    }
+  }
+
+  _picked(answer) {
+    this.picker.accept(answer);
+  }
+
+  _pick(entity) {
+    this.measure.picked = entity && boxOnPage(this.camera.page.matrix, entity);
+    this.measure.update();
+    showEntity(entity);
   }
 
   _drawn(image) {
@@ -238,9 +258,13 @@ function connectPointer(viewer) {
     const isClick = pointers.size === 1 && travelled <= 3 && event.type === "pointerup";
     pointers.delete(event.pointerId);
     canvas.classList.remove("dragging");
-    if (isClick && measure.mode !== null && event.button === 0) {
+    if (isClick && event.button === 0) {
       const at = local(event);
-      measure.add(at.x, at.y, !event.altKey);
+      if (measure.mode !== null) {
+        measure.add(at.x, at.y, !event.altKey);
+      } else {
+        viewer.picker.pick(at.x, at.y);
+      }
     }
   };
   canvas.onpointerup = canvas.onpointercancel = release;
@@ -268,7 +292,11 @@ function connectKeys(viewer) {
     d: () => measure.start("distance"), a: () => measure.start("area"),
     w: () => viewer.toggleWeights(), t: () => viewer.toggleTheme(), "?": () => viewer.toggleHelp(),
     PageUp: () => tabs.select(tabs.selected - 1), PageDown: () => tabs.select(tabs.selected + 1),
-    Escape: () => measure.start(null), Backspace: () => measure.undo(),
+    Escape: () => {
+      measure.start(null);
+      viewer.picker.clear();
+    },
+    Backspace: () => measure.undo(),
     "/": () => {
       $$("side").hidden = false;
       $$("query").focus();

@@ -59,6 +59,7 @@ class Measure {
     this.pointer = null;
     this.matches = [];
     this.current = -1;
+    this.picked = null;  // the box of an entity on the page
     this._finished = false;
     this._snapId = 0;
     this._snapWanted = null;
@@ -197,7 +198,7 @@ class Measure {
 
   _draw() {
     const { overlay, camera } = this;
-    const isEmpty = this.mode === null && this.matches.length === 0;
+    const isEmpty = this.mode === null && this.matches.length === 0 && this.picked === null;
     overlay.hidden = isEmpty;
     if (isEmpty) {  // one surface less to compose in each frame
       return;
@@ -214,6 +215,7 @@ class Measure {
     }
     context.scale(camera.ratio, camera.ratio);
     this._drawMatches(context);
+    this._drawPicked(context);
     if (this.mode !== null) {
       this._drawMeasure(context);
     }
@@ -232,6 +234,19 @@ class Measure {
         context.strokeRect(a.x - 4, a.y - 4, b.x - a.x + 8, b.y - a.y + 8);
       }
     });
+  }
+
+  _drawPicked(context) {
+    if (this.picked === null) {
+      return;
+    }
+    const a = this.camera.toWindow({ x: this.picked.minX, y: this.picked.minY });
+    const b = this.camera.toWindow({ x: this.picked.maxX, y: this.picked.maxY });
+    context.strokeStyle = "#0b8fe0";
+    context.lineWidth = 1.5;
+    context.setLineDash([5, 4]);
+    context.strokeRect(a.x - 4, a.y - 4, b.x - a.x + 8, b.y - a.y + 8);
+    context.setLineDash([]);
   }
 
   _drawMeasure(context) {

@@ -244,6 +244,31 @@ class Painter {
     context.globalAlpha = 1;
   }
 
+  /** The numbers of the layers of what is drawn at a page point, or within a distance. */
+  layersAt(x, y, distance) {
+    this._probe ??= new OffscreenCanvas(1, 1).getContext("2d");
+    this._probe.lineWidth = 2 * distance;
+    const found = new Set();
+    for (const item of this.scene.items) {
+      if (item.kind < CLIP && !found.has(item.layer) && !this.hidden.has(item.layer) && isNear(item, x, y, distance)
+        && this._isAt(item, x, y)) {
+        found.add(item.layer);
+      }
+    }
+    return found;
+  }
+
+  _isAt(item, x, y) {
+    if (item.kind > FILL) {
+      return true;  // the box of a text or an image
+    }
+    const context = this._probe;
+    const centerX = (item.minX + item.maxX) / 2, centerY = (item.minY + item.maxY) / 2;
+    item.path ??= this.scene.geometry.path(item.parts, centerX, centerY);
+    return context.isPointInStroke(item.path, x - centerX, y - centerY) || (item.kind === FILL
+      && context.isPointInPath(item.path, x - centerX, y - centerY, item.evenOdd ? "evenodd" : "nonzero"));
+  }
+
   /** The end point or corner that is nearest to a page point, within a distance; null if there is none. */
   nearest(x, y, distance) {
     let found = null;

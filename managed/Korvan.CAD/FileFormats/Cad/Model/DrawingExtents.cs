@@ -41,6 +41,23 @@ internal sealed class DrawingExtents : IDisposable
         return (extents.Min, extents.Max);
     }
 
+    /// <summary>The boxes of entities one by one; empty for those that take no space.</summary>
+    /// <param name="drawing">The drawing.</param>
+    /// <param name="entities">Entities of the drawing.</param>
+    /// <param name="createMeasurer">Makes what measures texts; without it their boxes are approximate.</param>
+    internal static IEnumerable<Extents> OfEach(
+        CadDrawing drawing, IEnumerable<CadEntityBase> entities, Func<ITextMeasurer?>? createMeasurer)
+    {
+        using var measure = new DrawingExtents(drawing, createMeasurer);
+        foreach (CadEntityBase entity in entities)
+        {
+            Extents extents = new();
+            EntityGeometry.Emit(entity, new Sink(measure, extents, isBlock: false));
+            measure._texts.Finish(extents);
+            yield return extents;
+        }
+    }
+
     internal static int ToWhole(double from, double to)
     {
         return (int)Math.Clamp(Math.Ceiling(to - from), 0, int.MaxValue);

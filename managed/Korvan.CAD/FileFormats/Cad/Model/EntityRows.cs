@@ -102,6 +102,30 @@ internal sealed class EntityRows
         return rows;
     }
 
+    /// <summary>Collects the boxes of the entities of a layout: the lowest X and Y, the highest X and Y. Entities that take
+    /// no space have no row.</summary>
+    /// <param name="image">The drawing.</param>
+    /// <param name="layout">The name of the layout.</param>
+    internal static EntityRows BoundsOf(CadImage image, string layout)
+    {
+        var rows = new EntityRows(4);
+        long index = -1;
+        foreach (Extents extents in DrawingExtents.OfEach(image.Drawing, image.GetLayoutEntities(layout), null))
+        {
+            index++;
+            if (!extents.IsEmpty)
+            {
+                rows.Add(extents.Min.X, extents.Min.Y);
+                rows.Add(extents.Max.X, extents.Max.Y);
+                rows._ends.Add(rows._indices.Count + 1);
+                rows._indices.Add(index);
+                rows._closed.Add(0);
+            }
+        }
+
+        return rows;
+    }
+
     // A file may keep an entity of the name in another class, as polygon meshes are polylines by name.
     private static Func<EntityRows, CadEntityBase, bool> For<T>(Action<EntityRows, T> add)
         where T : CadEntityBase => (rows, entity) =>
