@@ -54,6 +54,7 @@ internal sealed class Canvas
         {
             Color = pen.Color,
             LineWeight = pen.LineWeight,
+            Style = pen.Style,
             Dash = -1,
             Layer = pen.Layer,
         };
@@ -120,7 +121,13 @@ internal sealed class Canvas
         List<Vec2[]> rings = loops.ConvertAll(static loop => loop.Ring);
         List.Pattern(
             path, new PatternArea(rings, lines, plane.Map, plane.Elevation),
-            new StrokeAttributes { Color = pen.Color, LineWeight = pen.LineWeight, Layer = pen.Layer });
+            new StrokeAttributes
+            {
+                Color = pen.Color,
+                LineWeight = pen.LineWeight,
+                Style = pen.Style,
+                Layer = pen.Layer,
+            });
     }
 
     /// <summary>One run at a place: the matrix maps the run's ems to the page. The pen draws the strokes of a stroke

@@ -31,11 +31,9 @@ internal sealed partial class SceneBuilder
         Pen Own(int stored)
         {
             uint raw = unchecked((uint)stored);
-            Pen own = entity;
-            own.Color = (raw >> 24) == (RawColor.ByBlock >> 24)
-                ? entity.Color
-                : _pens.ColorOf(RawColor.Decode(raw), layer, context).WithAlpha(entity.Color.A);
-            return own;
+            return (raw >> 24) == (RawColor.ByBlock >> 24)
+                ? entity
+                : _pens.Colored(entity, RawColor.Decode(raw), entity.Color.A, layer, context);
         }
 
         CadMLeaderContextData data = leader.ContextData;

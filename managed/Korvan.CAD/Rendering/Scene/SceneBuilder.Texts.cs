@@ -49,7 +49,8 @@ internal sealed partial class SceneBuilder
 
     private Rgba InlineColorOf(InlineColor color, LayerInfo layer, BlockContext context) =>
         _pens.ColorOf(
-            color.IsTrueColor ? new DrawingColor(0, color.Value) : new DrawingColor(color.Value), layer, context);
+            color.IsTrueColor ? new DrawingColor(0, color.Value) : new DrawingColor(color.Value), layer, context,
+            _current.Pen.Plot);
 
     private void DrawBackground(
         CadMText text, MTextLayout layout, double height, in Affine3 map, in Pen pen, LayerInfo layer,
@@ -77,7 +78,7 @@ internal sealed partial class SceneBuilder
             Pen fill = pen;
             fill.Color = window
                 ? _style.Background
-                : _pens.ColorOf(new DrawingColor(text.BackgroundColorId, text.BackgroundColor), layer, context);
+                : _pens.ColorOf(new DrawingColor(text.BackgroundColorId, text.BackgroundColor), layer, context, pen.Plot);
             _canvas.Fill(fill, evenOdd: false);
         }
 
