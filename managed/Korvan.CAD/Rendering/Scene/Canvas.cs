@@ -19,6 +19,9 @@ internal sealed class Canvas
 
     private readonly PathBuffer _aligned = new();
 
+    // Line types have texts along the path that is being drawn.
+    private readonly PathBuffer _glyphs = new();
+
     internal Canvas(DrawingList list, TextEngine engine)
     {
         List = list;
@@ -171,9 +174,9 @@ internal sealed class Canvas
                 pen.Color, pen.Layer, box);
         }
 
-        PathBuffer path = NewPath();
-        path.AppendMapped(strokes.Path, matrix);
-        List.Stroke(path, new StrokeAttributes
+        _glyphs.Clear();
+        _glyphs.AppendMapped(strokes.Path, matrix);
+        List.Stroke(_glyphs, new StrokeAttributes
         {
             Color = pen.Color,
             LineWeight = pen.LineWeight,

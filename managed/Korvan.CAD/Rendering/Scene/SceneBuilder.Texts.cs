@@ -22,7 +22,17 @@ internal sealed partial class SceneBuilder
     {
         bool isReplaced = text.Role == TextRole.AttributeDefinition && !text.IsConstant
             && _current.Context.BlockName.Length > 0;
-        if (!isReplaced && IsShown(text) && !string.IsNullOrWhiteSpace(text.Shown))
+        if (isReplaced || !IsShown(text))
+        {
+            return;
+        }
+
+        bool showsValue = text.Role == TextRole.Attribute || text.IsConstant;
+        if (showsValue && EmbeddedMText.FromTags(text.Source.Embedded) is { } lines)
+        {
+            ((IGeometrySink)this).Paragraphs(lines, EntityGeometry.PlaneOf(lines));
+        }
+        else if (!string.IsNullOrWhiteSpace(text.Shown))
         {
             TextPainter.Draw(_canvas, TextLayouts.LineOf(text, _tables), MapOf(text.Plane), _current.Pen);
         }
