@@ -291,11 +291,11 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
             nint surface = Cairo.ImageSurfaceCreateForData(data, CairoFormat.Argb32, width, height, width * 4);
             using var owner = new NativeHandle(surface, &Cairo.SurfaceDestroy);
             Cairo.Check(Cairo.SurfaceStatus(surface), "placing an image");
-            Paint(image, surface, width, height);
+            Paint(image, surface, width, height, isEnlarged: shownWidth > width || shownHeight > height);
         }
     }
 
-    private void Paint(PlacedImage image, nint surface, int width, int height)
+    private void Paint(PlacedImage image, nint surface, int width, int height, bool isEnlarged)
     {
         Cairo.Save(_cr);
         var toUnit = new Affine2(1.0 / width, 0, 0, -1.0 / height, 0, 1);
@@ -309,6 +309,15 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
         else if (image.Sharp)
         {
             Cairo.PatternSetFilter(Cairo.GetSource(_cr), CairoFilter.Nearest);
+        }
+
+        if (isEnlarged && !image.Sharp)
+        {
+            // The outer pixels would fade into what is around them.
+            Cairo.PatternSetExtend(Cairo.GetSource(_cr), CairoExtend.Pad);
+            Cairo.NewPath(_cr);
+            Cairo.Rectangle(_cr, 0, 0, width, height);
+            Cairo.Clip(_cr);
         }
 
         Cairo.PaintWithAlpha(_cr, image.Opacity);

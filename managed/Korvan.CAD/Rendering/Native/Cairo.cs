@@ -9,6 +9,8 @@ internal enum CairoFillRule { Winding = 0, EvenOdd = 1 }
 
 internal enum CairoLineCap { Butt = 0, Round = 1, Square = 2 }
 
+internal enum CairoExtend { None = 0, Pad = 3 }
+
 internal enum CairoFilter { Fast = 0, Good = 1, Best = 2, Nearest = 3, Bilinear = 4 }
 
 internal enum CairoLineJoin { Miter = 0, Round = 1, Bevel = 2 }
@@ -121,6 +123,10 @@ internal static unsafe partial class Cairo
 
     [LibraryImport(Library, EntryPoint = "cairo_pattern_set_filter")]
     internal static partial void PatternSetFilter(nint pattern, CairoFilter filter);
+
+    /// <summary>States what a pattern is outside of its surface.</summary>
+    [LibraryImport(Library, EntryPoint = "cairo_pattern_set_extend")]
+    internal static partial void PatternSetExtend(nint pattern, CairoExtend extend);
 
     [LibraryImport(Library, EntryPoint = "cairo_set_dash")]
     internal static partial void SetDash(nint cr, double* dashes, int count, double offset);

@@ -19,6 +19,9 @@ internal sealed class Canvas
 
     private readonly PathBuffer _aligned = new();
 
+    // Line types have texts along the path that is being drawn.
+    private readonly PathBuffer _glyphs = new();
+
     internal Canvas(DrawingList list, TextEngine engine)
     {
         List = list;
@@ -54,6 +57,7 @@ internal sealed class Canvas
         {
             Color = pen.Color,
             LineWeight = pen.LineWeight,
+            Style = pen.Style,
             Dash = -1,
             Layer = pen.Layer,
         };
@@ -120,7 +124,13 @@ internal sealed class Canvas
         List<Vec2[]> rings = loops.ConvertAll(static loop => loop.Ring);
         List.Pattern(
             path, new PatternArea(rings, lines, plane.Map, plane.Elevation),
-            new StrokeAttributes { Color = pen.Color, LineWeight = pen.LineWeight, Layer = pen.Layer });
+            new StrokeAttributes
+            {
+                Color = pen.Color,
+                LineWeight = pen.LineWeight,
+                Style = pen.Style,
+                Layer = pen.Layer,
+            });
     }
 
     /// <summary>One run at a place: the matrix maps the run's ems to the page. The pen draws the strokes of a stroke
@@ -164,9 +174,9 @@ internal sealed class Canvas
                 pen.Color, pen.Layer, box);
         }
 
-        PathBuffer path = NewPath();
-        path.AppendMapped(strokes.Path, matrix);
-        List.Stroke(path, new StrokeAttributes
+        _glyphs.Clear();
+        _glyphs.AppendMapped(strokes.Path, matrix);
+        List.Stroke(_glyphs, new StrokeAttributes
         {
             Color = pen.Color,
             LineWeight = pen.LineWeight,

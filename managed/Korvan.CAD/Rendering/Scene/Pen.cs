@@ -1,4 +1,5 @@
 using Korvan.CAD.DisplayList;
+using Korvan.CAD.FileFormats.PlotStyles;
 
 namespace Korvan.CAD.Rendering.Scene;
 
@@ -17,4 +18,10 @@ internal record struct Pen
 
     /// <summary>Index of the layer in the list.</summary>
     internal int Layer;
+
+    /// <summary>Index of the caps and joins in the list, or 0 for those of the page.</summary>
+    internal int Style;
+
+    /// <summary>What the colour, the weight and the ends come from, where the page is plotted by styles.</summary>
+    internal PlotStyle? Plot;
 }

@@ -1,6 +1,7 @@
 using System;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.PlotStyles;
 
 namespace Korvan.CAD.Rendering.Scene;
 
@@ -22,6 +23,7 @@ internal sealed class PenResolver
     private readonly RenderStyle _style;
     private readonly DrawingList _list;
     private readonly bool _showWeights;
+    private readonly PlotColors _plots;
     private string? _lastLayerName;
     private LayerInfo? _lastLayer;
 
@@ -33,7 +35,11 @@ internal sealed class PenResolver
         _tables = tables;
         _style = style;
         _list = list;
+        _plots = new PlotColors(style.Background);
     }
+
+    /// <summary>Gets the styles that the page is plotted by; null for none.</summary>
+    internal PlotStyleTable? Styles { get; init; }
 
     /// <summary>The layer whose properties hold for the entity.</summary>
     internal LayerInfo LayerOf(CadEntityBase entity, BlockContext context)
@@ -66,24 +72,56 @@ internal sealed class PenResolver
 
     internal Pen PenOf(CadEntityBase entity, LayerInfo layer, BlockContext context)
     {
-        Rgba color = ColorOf(new DrawingColor(entity.ColorId, entity.ColorValue), layer, context);
-        return new Pen
+        var pen = new Pen
         {
-            Color = color.WithAlpha(AlphaOf(entity, layer, context)),
             LineWeight = WeightOf(entity.LineWeight, layer, context),
             Pattern = PatternOf(entity.LineTypeName, layer, context),
             PatternScale = PatternScale(entity.LinetypeScale, context),
             Layer = _list.Layer(layer.Name, layer.IsPlotted),
+            Plot = Styles is { IsNamed: true } ? NamedStyle(entity, layer) : null,
         };
+        var color = new DrawingColor(entity.ColorId, entity.ColorValue);
+        return Colored(pen, color, AlphaOf(entity, layer, context), layer, context);
     }
 
-    internal Rgba ColorOf(DrawingColor color, LayerInfo layer, BlockContext context)
+    /// <summary>Gives a pen another colour, with what the plot style of that colour changes.</summary>
+    internal Pen Colored(Pen pen, DrawingColor color, byte alpha, LayerInfo layer, BlockContext context)
+    {
+        pen.Color = ColorOf(color, layer, context, pen.Plot).WithAlpha(alpha);
+        if (Styles is null)
+        {
+            return pen;
+        }
+
+        pen.Plot = Styles.IsNamed ? pen.Plot : StyleOf(color, layer, context);
+        pen.Style = _plots.StrokeStyle(pen.Plot) is StrokeStyle stroke ? _list.StyleIndex(stroke) : 0;
+        pen.LineWeight = pen.Plot?.LineWeight ?? pen.LineWeight;
+        pen.Pattern = pen.Plot is { IsContinuous: true } ? null : pen.Pattern;
+        return pen;
+    }
+
+    /// <summary>The colour on the page. Where plot styles are assigned by name, that of the entity is given.</summary>
+    internal Rgba ColorOf(DrawingColor color, LayerInfo layer, BlockContext context, PlotStyle? named = null)
     {
         if (_style.SingleColor is Rgba single)
         {
             return single;
         }
 
+        if (Styles is null)
+        {
+            return OwnColor(color, layer, context);
+        }
+
+        bool isInherited = color.TrueColor < 0 && color.Index == AciPalette.ByBlock && context.Parent != null;
+        return isInherited
+            ? context.ByBlock.Color.WithAlpha(255)
+            : _plots.Apply(
+                Styles.IsNamed ? named : StyleOf(color, layer, context), OwnColor(color, layer, context));
+    }
+
+    private Rgba OwnColor(DrawingColor color, LayerInfo layer, BlockContext context)
+    {
         if (color.TrueColor >= 0)
         {
             return Rgba.FromRgb(color.TrueColor);
@@ -97,6 +135,29 @@ internal sealed class PenResolver
             AciPalette.ByBlock => context.ByBlock.Color.WithAlpha(255),
             _ => AciPalette.Color(Math.Abs(color.Index), _style.Background),
         };
+    }
+
+    /// <summary>The plot style of a colour. Colours that are no index have none.</summary>
+    private PlotStyle? StyleOf(DrawingColor color, LayerInfo layer, BlockContext context)
+    {
+        if (color.TrueColor >= 0)
+        {
+            return null;
+        }
+
+        return color.Index switch
+        {
+            AciPalette.ByLayer => layer.Color.TrueColor >= 0 ? null : Styles!.Of(Math.Abs(layer.Color.Index)),
+            AciPalette.ByBlock when context.Parent != null => context.ByBlock.Plot,
+            AciPalette.ByBlock => Styles!.Of(AciPalette.Contrast),
+            _ => Styles!.Of(Math.Abs(color.Index)),
+        };
+    }
+
+    private PlotStyle? NamedStyle(CadEntityBase entity, LayerInfo layer)
+    {
+        string handle = entity.PlotStyle.Length > 0 ? entity.PlotStyle : layer.PlotStyleHandle;
+        return _tables.PlotStyles.NameOf(handle) is string name ? Styles!.Of(name) : null;
     }
 
     internal LinePattern? PatternOf(string name, LayerInfo layer, BlockContext context)

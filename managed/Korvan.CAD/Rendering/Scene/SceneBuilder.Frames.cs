@@ -2,6 +2,7 @@ using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.Rendering.Gdi;
 
 namespace Korvan.CAD.Rendering.Scene;
 
@@ -9,13 +10,13 @@ namespace Korvan.CAD.Rendering.Scene;
 internal sealed partial class SceneBuilder
 {
     private const string ContentOf = "content of ";
+    private const string BitmapExtension = ".bmp";
 
     void IGeometrySink.Frame(in ContentFrame frame)
     {
-        ImagePixels? preview = frame.Source is CadOle2Frame document ? Preview(document) : null;
-        if (preview is not null && frame.Corners.Length == 4)
+        CadEmbeddedImage? preview = frame.Source is CadOle2Frame document ? document.GetPreview() : null;
+        if (preview is not null && frame.Corners.Length == 4 && TryDrawPreview(frame, preview))
         {
-            DrawPreview(frame, preview);
             return;
         }
 
@@ -69,22 +70,35 @@ internal sealed partial class SceneBuilder
 
     private static Affine3 PlaneOf(CadShape shape) => shape.ExtrusionDirection.ToPlane();
 
-    private static ImagePixels? Preview(CadOle2Frame document) =>
-        document.GetPreview() is { FileExtension: ".bmp" } image
-            ? ImagePixels.Decode(image.Data, document.TypeNameText)
-            : null;
-
-    private void DrawPreview(in ContentFrame frame, ImagePixels picture)
+    /// <summary>Draws the preview of a document: the pixels of a bitmap, or what a metafile draws.</summary>
+    private bool TryDrawPreview(in ContentFrame frame, CadEmbeddedImage preview)
     {
         Affine3 map = _current.Context.Map;
         Vec2 origin = map.Project(frame.Corners[0]);
         Vec2 across = map.Project(frame.Corners[1]) - origin;
         Vec2 up = map.Project(frame.Corners[3]) - origin;
-        AddRing(_canvas.NewPath(), frame.Corners);
         var matrix = new Affine2(across.X, across.Y, up.X, up.Y, origin.X, origin.Y);
+        AddRing(_canvas.NewPath(), frame.Corners);
+        string name = frame.Source.TypeNameText;
+        PlacedImage? Decode(byte[] file) => ImagePixels.Decode(file, name) is { } pixels
+            ? new PlacedImage(pixels.Width, pixels.Height, pixels.Pixels, matrix, 1) : null;
+        if (preview.FileExtension != BitmapExtension)
+        {
+            List.PushClip(_canvas.Path, evenOdd: false);
+            var target = new GdiTarget(List, _canvas.Engine, _current.Pen.Layer, matrix, Decode);
+            bool isDrawn = WindowsMetafile.TryDraw(preview.Data, target);
+            List.PopClip();
+            return isDrawn;
+        }
+
+        if (Decode(preview.Data) is not { } image)
+        {
+            return false;
+        }
+
         Bounds2 extent = _canvas.Path.Bounds;
-        List.Image(
-            new PlacedImage(picture.Width, picture.Height, picture.Pixels, matrix, 1), _current.Pen.Layer, extent);
+        List.Image(image, _current.Pen.Layer, extent);
+        return true;
     }
 
     private void AddRing(PathBuffer path, Vec3[] corners) => AddRing(path, corners, _current.Context.Map);

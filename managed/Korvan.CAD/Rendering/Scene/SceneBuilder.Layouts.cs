@@ -19,9 +19,10 @@ internal sealed partial class SceneBuilder
 
     /// <summary>The list of a sheet: first what its viewports show, then what is drawn on the paper itself.</summary>
     internal static DrawingList BuildLayout(
-        SceneTables tables, RenderStyle style, TextEngine engine, BlockInfo sheet, BlockInfo model)
+        SceneTables tables, RenderStyle style, TextEngine engine, BlockInfo sheet, BlockInfo model,
+        PlotSetup? plot)
     {
-        var builder = new SceneBuilder(tables, style, engine, onPaper: true);
+        var builder = new SceneBuilder(tables, style, engine, onPaper: true, plot);
         var context = new BlockContext { Map = Affine3.Identity };
         foreach (CadViewport viewport in sheet.Entities.OfType<CadViewport>())
         {

@@ -31,11 +31,9 @@ internal sealed partial class SceneBuilder
         Pen Own(int stored)
         {
             uint raw = unchecked((uint)stored);
-            Pen own = entity;
-            own.Color = (raw >> 24) == (RawColor.ByBlock >> 24)
-                ? entity.Color
-                : _pens.ColorOf(RawColor.Decode(raw), layer, context).WithAlpha(entity.Color.A);
-            return own;
+            return (raw >> 24) == (RawColor.ByBlock >> 24)
+                ? entity
+                : _pens.Colored(entity, RawColor.Decode(raw), entity.Color.A, layer, context);
         }
 
         CadMLeaderContextData data = leader.ContextData;
@@ -107,32 +105,78 @@ internal sealed partial class SceneBuilder
     private void DrawBranch(CadMLeaderNode branch, CadMLeader leader, in Pen pen, BlockContext context)
     {
         Vec3 start = branch.LastLeaderLinePoint.ToVec3();
+        bool isSideways = branch.AttachmentDirection == 0;
+        Vec3 landing = isSideways && branch.DoglegLength > 0
+            ? branch.DoglegVector.ToVec3().Unit() * branch.DoglegLength : default;
         bool isStraight = leader.Style.LeaderType != SplineLeader;
-        if (isStraight && leader.Style is { IsLandingEnabled: true, IsDoglegEnabled: true } && branch.DoglegLength > 0)
+        bool hasLanding = isStraight && leader.Style is { IsLandingEnabled: true, IsDoglegEnabled: true };
+        if (hasLanding && landing != default)
         {
-            var landing = new PathPen(_canvas.NewPath(), context.Map);
-            landing.MoveTo(start);
-            landing.LineTo(start + (branch.DoglegVector.ToVec3().Unit() * branch.DoglegLength));
-            _canvas.Stroke(pen);
+            StrokeLine(start, start + landing, pen, context);
         }
 
+        // Lines without a landing lead to where it would end.
+        Vec3 end = hasLanding ? start : start + landing;
         foreach (CadMLeaderLine line in branch.LeaderLines)
         {
             if (line.Vertices.Count > 0)
             {
-                DrawLeaderLine([.. line.Vertices.ConvertAll(ModelVectors.ToVec3), start], leader, line, pen);
+                DrawLeaderLine([.. line.Vertices.ConvertAll(ModelVectors.ToVec3), end], leader, line, pen, landing);
             }
+        }
+
+        if (leader.ContextData is { HasText: true, Text.Length: > 0 })
+        {
+            DrawTextLine(start + landing, isSideways, leader.ContextData, pen, context);
         }
     }
 
-    private void DrawLeaderLine(List<Vec3> points, CadMLeader leader, CadMLeaderLine line, in Pen pen)
+    private void StrokeLine(Vec3 from, Vec3 to, in Pen pen, BlockContext context)
+    {
+        var path = new PathPen(_canvas.NewPath(), context.Map);
+        path.MoveTo(from);
+        path.LineTo(to);
+        _canvas.Stroke(pen);
+    }
+
+    /// <summary>Draws the line under, over or below the text that some attachments have, from where the leader
+    /// ends.</summary>
+    private void DrawTextLine(
+        Vec3 end, bool isSideways, CadMLeaderContextData data, in Pen pen, BlockContext context)
+    {
+        const int bottomUnderlined = 5, topUnderlined = 6, allUnderlined = 8, withLine = 10;
+        Vec3 along = data.TextDirection.ToVec3().Unit();
+        (double left, double bottom, double right, double top) = LayoutOf(data, out _).Box;
+        Vec3 way = end - data.TextLocation.ToVec3();
+        double x = Vec3.Dot(way, along);
+        if (isSideways)
+        {
+            bool isAtLeft = x < (left + right) / 2;
+            if ((isAtLeft ? data.LeftAttachment : data.RightAttachment)
+                is bottomUnderlined or topUnderlined or allUnderlined)
+            {
+                StrokeLine(end, end + (along * ((isAtLeft ? right : left) - x)), pen, context);
+            }
+
+            return;
+        }
+
+        double y = Vec3.Dot(way, Vec3.Cross(data.TextNormal.ToVec3().Unit(), along));
+        if ((y > (top + bottom) / 2 ? data.TopAttachment : data.BottomAttachment) == withLine)
+        {
+            StrokeLine(end + (along * (left - x)), end + (along * (right - x)), pen, context);
+        }
+    }
+
+    private void DrawLeaderLine(
+        List<Vec3> points, CadMLeader leader, CadMLeaderLine line, in Pen pen, Vec3 landing)
     {
         double arrowSize = (line.OverrideFlags & OwnSize) != 0 ? line.ArrowheadSize : leader.ContextData.ArrowheadSize;
         DimensionArrow arrow = _tables.Dimensions.ArrowOf(
             (line.OverrideFlags & OwnArrowhead) != 0 ? line.ArrowheadHandle : leader.Style.ArrowheadHandle);
         Vec3 tip = points[0];
         Vec3 along = (points[1] - tip).Unit();
-        if (arrowSize > 0 && (points[1] - tip).Length > arrowSize)
+        if (arrowSize > 0 && (points[1] - tip).Length > 2 * arrowSize)
         {
             Current entity = _current;
             _current = entity with { Pen = pen };
@@ -144,7 +188,7 @@ internal sealed partial class SceneBuilder
         var path = new PathPen(_canvas.NewPath(), _current.Context.Map);
         if (leader.Style.LeaderType == SplineLeader)
         {
-            FitSpline.Draw(path, points, null, null, closed: false);
+            FitSpline.Draw(path, points, along, landing == default ? null : landing, closed: false);
         }
         else
         {
@@ -154,17 +198,22 @@ internal sealed partial class SceneBuilder
         _canvas.Stroke(pen);
     }
 
-    private void DrawLeaderText(CadMLeader leader, in Pen pen, LayerInfo layer, BlockContext context)
+    private MTextLayout LayoutOf(CadMLeaderContextData data, out double height)
     {
-        CadMLeaderContextData data = leader.ContextData;
         StyleInfo used = _tables.StylesByHandle.TryGetValue(HandleOf(data.TextStyleHandle), out StyleInfo? style)
             ? style
             : StyleInfo.Default;
-        double height = data.TextHeight > 0 ? data.TextHeight : _tables.Settings.TextSize;
-        MTextFormat start = StartFormat(used, height);
+        height = data.TextHeight > 0 ? data.TextHeight : _tables.Settings.TextSize;
         double spacing = data.LineSpacingFactor is > 0 and < 100 ? data.LineSpacingFactor : 1;
         var frame = new MTextFrame(data.TextWidth, Math.Clamp((int)data.TextAttachment, 1, 3), spacing, false);
-        MTextLayout layout = MTextLayout.Create(_canvas.Engine, MTextParser.Parse(data.Text, start), frame, height);
+        return MTextLayout.Create(
+            _canvas.Engine, MTextParser.Parse(data.Text, StartFormat(used, height)), frame, height);
+    }
+
+    private void DrawLeaderText(CadMLeader leader, in Pen pen, LayerInfo layer, BlockContext context)
+    {
+        CadMLeaderContextData data = leader.ContextData;
+        MTextLayout layout = LayoutOf(data, out double height);
         Vec3 x = data.TextDirection.ToVec3().Unit();
         Vec3 normal = data.TextNormal.ToVec3().Unit();
         var plane = new Affine3(x, Vec3.Cross(normal, x), normal, data.TextLocation.ToVec3());

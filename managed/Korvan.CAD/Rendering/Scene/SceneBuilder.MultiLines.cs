@@ -41,7 +41,7 @@ internal sealed partial class SceneBuilder
             if (mline != null && e < mline.Elements.Count)
             {
                 MlineElement element = mline.Elements[e];
-                own.Color = _pens.ColorOf(element.Color, layer, context).WithAlpha(pen.Color.A);
+                own = _pens.Colored(own, element.Color, pen.Color.A, layer, context);
                 own.Pattern = _pens.PatternOf(element.LineType, layer, context) ?? pen.Pattern;
             }
 
@@ -111,7 +111,7 @@ internal sealed partial class SceneBuilder
         }
 
         Pen fill = pen;
-        fill.Color = _pens.ColorOf(mline.FillColor, layer, context).WithAlpha(pen.Color.A);
+        fill.Color = _pens.ColorOf(mline.FillColor, layer, context, pen.Plot).WithAlpha(pen.Color.A);
         _canvas.Fill(fill, evenOdd: false);
     }
 

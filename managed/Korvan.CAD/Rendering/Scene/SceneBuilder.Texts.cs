@@ -22,7 +22,17 @@ internal sealed partial class SceneBuilder
     {
         bool isReplaced = text.Role == TextRole.AttributeDefinition && !text.IsConstant
             && _current.Context.BlockName.Length > 0;
-        if (!isReplaced && IsShown(text) && !string.IsNullOrWhiteSpace(text.Shown))
+        if (isReplaced || !IsShown(text))
+        {
+            return;
+        }
+
+        bool showsValue = text.Role == TextRole.Attribute || text.IsConstant;
+        if (showsValue && EmbeddedMText.FromTags(text.Source.Embedded) is { } lines)
+        {
+            ((IGeometrySink)this).Paragraphs(lines, EntityGeometry.PlaneOf(lines));
+        }
+        else if (!string.IsNullOrWhiteSpace(text.Shown))
         {
             TextPainter.Draw(_canvas, TextLayouts.LineOf(text, _tables), MapOf(text.Plane), _current.Pen);
         }
@@ -49,7 +59,8 @@ internal sealed partial class SceneBuilder
 
     private Rgba InlineColorOf(InlineColor color, LayerInfo layer, BlockContext context) =>
         _pens.ColorOf(
-            color.IsTrueColor ? new DrawingColor(0, color.Value) : new DrawingColor(color.Value), layer, context);
+            color.IsTrueColor ? new DrawingColor(0, color.Value) : new DrawingColor(color.Value), layer, context,
+            _current.Pen.Plot);
 
     private void DrawBackground(
         CadMText text, MTextLayout layout, double height, in Affine3 map, in Pen pen, LayerInfo layer,
@@ -77,7 +88,7 @@ internal sealed partial class SceneBuilder
             Pen fill = pen;
             fill.Color = window
                 ? _style.Background
-                : _pens.ColorOf(new DrawingColor(text.BackgroundColorId, text.BackgroundColor), layer, context);
+                : _pens.ColorOf(new DrawingColor(text.BackgroundColorId, text.BackgroundColor), layer, context, pen.Plot);
             _canvas.Fill(fill, evenOdd: false);
         }
 

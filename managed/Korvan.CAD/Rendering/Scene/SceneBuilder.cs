@@ -28,7 +28,7 @@ internal sealed partial class SceneBuilder : IGeometrySink
     private int _drawn;
     private Current _current;
 
-    private SceneBuilder(SceneTables tables, RenderStyle style, TextEngine engine, bool onPaper)
+    private SceneBuilder(SceneTables tables, RenderStyle style, TextEngine engine, bool onPaper, PlotSetup? plot)
     {
         _tables = tables;
         _style = style;
@@ -37,7 +37,12 @@ internal sealed partial class SceneBuilder : IGeometrySink
         {
             StyleFont = name => tables.Style(name).Font,
         };
-        _pens = new PenResolver(tables, style, _canvas.List, onPaper);
+        _pens = new PenResolver(tables, style, _canvas.List, onPaper) { Styles = plot?.Table };
+        if (plot is { Table: null })
+        {
+            list.Skip("plot style table " + plot.Name + DrawingList.MissingFile);
+        }
+
         Array.ForEach(
             tables.Settings.Unreadable, name => list.Skip($"header variable {name} without a readable value"));
     }
@@ -45,9 +50,10 @@ internal sealed partial class SceneBuilder : IGeometrySink
     private DrawingList List => _canvas.List;
 
     /// <summary>The list of the model, in the plane of the view.</summary>
-    internal static DrawingList BuildModel(SceneTables tables, RenderStyle style, TextEngine engine, BlockInfo model)
+    internal static DrawingList BuildModel(
+        SceneTables tables, RenderStyle style, TextEngine engine, BlockInfo model, PlotSetup? plot)
     {
-        var builder = new SceneBuilder(tables, style, engine, onPaper: false);
+        var builder = new SceneBuilder(tables, style, engine, onPaper: false, plot);
         builder.DrawSpace(model, new BlockContext { Map = style.ModelView });
         builder.FinishInfinite();
         return builder.List;
@@ -136,7 +142,7 @@ internal sealed partial class SceneBuilder : IGeometrySink
         if (traits.TrueColor >= 0 || traits.Color >= 0)
         {
             var color = new DrawingColor(traits.Color >= 0 ? traits.Color : AciPalette.ByLayer, traits.TrueColor);
-            own.Color = _pens.ColorOf(color, layer, context).WithAlpha(own.Color.A);
+            own = _pens.Colored(own, color, own.Color.A, layer, context);
         }
 
         if (traits.LineType >= 0 && traits.LineType < _tables.LineTypeNames.Count)
@@ -144,7 +150,8 @@ internal sealed partial class SceneBuilder : IGeometrySink
             own.Pattern = _pens.PatternOf(_tables.LineTypeNames[traits.LineType], layer, context);
         }
 
-        own.LineWeight = traits.LineWeight is short weight ? _pens.WeightOf(weight, layer, context) : own.LineWeight;
+        own.LineWeight = traits.LineWeight is short weight && own.Plot?.LineWeight is null
+            ? _pens.WeightOf(weight, layer, context) : own.LineWeight;
         own.PatternScale *= traits.LineTypeScale is > 0 and < double.MaxValue ? traits.LineTypeScale.Value : 1;
         _current = _current with { Pen = own };
     }

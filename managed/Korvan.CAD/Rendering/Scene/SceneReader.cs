@@ -49,6 +49,7 @@ internal static class SceneReader
             Images = ImageFiles.Of(drawing),
             Shapes = ShapeFiles.Of(drawing),
             Clips = ClipBoundaries.Of(drawing),
+            PlotStyles = PlotStyleFiles.Of(drawing),
             Dimensions = new DimensionStyles(drawing),
         };
         var styleNames = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
@@ -178,7 +179,10 @@ internal static class SceneReader
             BlockInfo content = isModel ? model : block != null
                 && tables.Blocks.TryGetValue(block, out BlockInfo? own) ? own : paper;
             PlotArea? plot = isModel ? null : PlotArea.Of(drawing, layout, content);
-            layouts.Add(new LayoutInfo(layout.LayoutName, content, isModel, plot));
+            layouts.Add(new LayoutInfo(layout.LayoutName, content, isModel, plot)
+            {
+                Styles = tables.PlotStyles.SetupOf(layout),
+            });
         }
 
         if (!layouts.Exists(l => l.IsModel))

@@ -20,6 +20,8 @@ internal sealed record LayerInfo(string Name)
 
     internal string LineType { get; init; } = string.Empty;
 
+    internal string PlotStyleHandle { get; init; } = string.Empty;
+
     internal short LineWeight { get; init; } = PenResolver.DefaultWeight;
 
     internal double Opacity { get; init; } = 1;
@@ -138,6 +140,9 @@ internal sealed class SceneTables
 
     /// <summary>The symbols of the shape files that the drawing names.</summary>
     internal ShapeFiles Shapes { get; set; } = ShapeFiles.None;
+
+    /// <summary>The plot styles that page setups name.</summary>
+    internal PlotStyleFiles PlotStyles { get; set; } = PlotStyleFiles.None;
 
     /// <summary>What block references are clipped to.</summary>
     internal ClipBoundaries Clips { get; set; } = ClipBoundaries.None;

@@ -21,6 +21,7 @@ internal static class TableReader
         Handle = layer.ObjectHandle,
         Color = new DrawingColor(layer.ColorId, layer.ColorValue),
         LineType = layer.LineTypeName,
+        PlotStyleHandle = layer.PlotStyleHandle,
         LineWeight = layer.LineWeight,
         IsOff = !layer.IsOn,
         IsFrozen = layer.IsFrozen,

@@ -250,7 +250,8 @@ internal sealed class MTextLayout
                 (top, column, columns) = (true, column + _widest + _frame.ColumnGutter, columns + 1);
             }
 
-            baseline = top ? -tallest : baseline - advance;
+            double first = _frame.ExactSpacing ? tallest : Math.Max(tallest, line.Rise);
+            baseline = top ? -first : baseline - advance;
             line.X = column;
             line.Y = baseline;
             top = false;

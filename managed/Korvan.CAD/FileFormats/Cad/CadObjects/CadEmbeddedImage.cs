@@ -10,7 +10,7 @@ public sealed class CadEmbeddedImage
         Size = size;
     }
 
-    /// <summary>Gets the extension of a file of this format: ".bmp" or ".emf".</summary>
+    /// <summary>Gets the extension of a file of this format: ".bmp", ".emf" or ".wmf".</summary>
     public string FileExtension { get; }
 
     /// <summary>Gets the image as a file of its format.</summary>

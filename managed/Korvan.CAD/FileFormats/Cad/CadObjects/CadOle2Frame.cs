@@ -60,7 +60,7 @@ public partial class CadOle2Frame : CadEntityBase
     internal string EndMark { get; set; } = "OLE";
 
     /// <summary>Gets the preview image; null where the data has none that the library reads: a bitmap without
-    /// compression, or an enhanced metafile.</summary>
+    /// compression, or a metafile of Windows.</summary>
     /// <returns>The image.</returns>
     public CadEmbeddedImage? GetPreview() => OleContent.FindPreview(Data);
 

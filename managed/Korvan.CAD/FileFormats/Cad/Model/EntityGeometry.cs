@@ -158,7 +158,7 @@ internal static partial class EntityGeometry
     /// The text's own axes: its direction vector where it has one, else the rotated x axis of the world, which holds
     /// even for text that is seen from below; only a plane that stands on that axis takes its object axes.
     /// </summary>
-    private static Affine3 PlaneOf(CadMText text)
+    internal static Affine3 PlaneOf(CadMText text)
     {
         Affine3 ocs = text.ExtrusionDirection.ToPlane();
         Vec3 direction = text.TextDirection.ToVec3();

@@ -5,8 +5,8 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
 /// <summary>
-/// Finds the preview image in the data of an embedded document: a bitmap file, a bitmap without file header, or an
-/// enhanced metafile. The headers are those of the published formats of Windows bitmaps and metafiles.
+/// Finds the preview image in the data of an embedded document: a bitmap file, a bitmap without file header, or a
+/// metafile, plain or enhanced. The headers are those of the published formats of Windows bitmaps and metafiles.
 /// </summary>
 internal static class OleContent
 {
@@ -15,6 +15,9 @@ internal static class OleContent
     private const int EmfHeader = 88;
     private const int EmfSignatureAt = 40;
     private const uint EmfSignature = 0x464D4520;
+
+    /// <summary>A metafile in memory, with a header of nine words.</summary>
+    private const uint MetafileStart = 0x00090001;
 
     /// <summary>Finds the first image.</summary>
     /// <returns>The image; null for none.</returns>
@@ -28,6 +31,7 @@ internal static class OleContent
             {
                 1 => TryEnhancedMetafile(rest),
                 BitmapInfoHeader => TryBitmap(rest),
+                MetafileStart => TryMetafile(rest),
                 _ => null,
             };
             if (image is not null)
@@ -58,6 +62,20 @@ internal static class OleContent
             BinaryPrimitives.ReadInt32LittleEndian(bytes[(frameAt + (4 * index))..]);
         CadSize size = new(Frame(data, 2) - (double)Frame(data, 0), Frame(data, 3) - (double)Frame(data, 1));
         return new CadEmbeddedImage(".emf", data[..(int)length].ToArray(), size);
+    }
+
+    private static CadEmbeddedImage? TryMetafile(ReadOnlySpan<byte> data)
+    {
+        const int header = 18, versionAt = 4, lengthAt = 6;
+        const ushort version = 0x300;
+        if (BinaryPrimitives.ReadUInt16LittleEndian(data[versionAt..]) != version)
+        {
+            return null;
+        }
+
+        long length = 2L * BinaryPrimitives.ReadUInt32LittleEndian(data[lengthAt..]);
+        return length > header && length <= data.Length
+            ? new CadEmbeddedImage(".wmf", data[..(int)length].ToArray(), new CadSize(0, 0)) : null;
     }
 
     private static CadEmbeddedImage? TryBitmap(ReadOnlySpan<byte> data)
