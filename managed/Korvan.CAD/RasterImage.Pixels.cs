@@ -38,7 +38,7 @@ public abstract partial class RasterImage
     public void SetArgb32Pixel(int x, int y, int argb32Color)
     {
         VerifyInside(new Rectangle(x, y, 1, 1));
-        Pixels.Row(y)[x] = argb32Color;
+        Pixels.WritableRow(y)[x] = argb32Color;
     }
 
     /// <summary>Returns a block of pixels as 32-bit ARGB values, row by row.</summary>
@@ -66,7 +66,7 @@ public abstract partial class RasterImage
         VerifyCount(rectangle, pixels.Length);
         for (int y = 0; y < rectangle.Height; y++)
         {
-            pixels.AsSpan(y * rectangle.Width, rectangle.Width).CopyTo(Pixels.Row(rectangle.Y + y)[rectangle.X..]);
+            pixels.AsSpan(y * rectangle.Width, rectangle.Width).CopyTo(Pixels.WritableRow(rectangle.Y + y)[rectangle.X..]);
         }
     }
 

@@ -98,7 +98,7 @@ public abstract partial class RasterImage
             ResolutionSetting? set = options.ResolutionSettings;
             double across = set?.HorizontalResolution ?? page.HorizontalResolution;
             double down = set?.VerticalResolution ?? page.VerticalResolution;
-            return new RasterPageData(page.Pixels.Copy(), across, down)
+            return new RasterPageData(page.Pixels.CopyOnWrite(), across, down)
             {
                 Exif = image.ExifData,
                 Xmp = image.XmpData,

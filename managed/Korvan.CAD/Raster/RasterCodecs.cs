@@ -151,6 +151,6 @@ internal static class RasterCodecs
     {
         public IReadOnlyList<string> Titles { get; } = [""];
 
-        public RasterPageData Render(int index) => new(pixels.Copy(), DefaultResolution, DefaultResolution);
+        public RasterPageData Render(int index) => new(pixels.CopyOnWrite(), DefaultResolution, DefaultResolution);
     }
 }

@@ -71,7 +71,7 @@ public sealed class BudgetTests
         Assert.True(Cache.AllocatedDiskBytesCount >= 8000 * 8000 * 4);
         for (int y = 0; y < large.Height; y++)
         {
-            large.Row(y).Fill(y);
+            large.WritableRow(y).Fill(y);
         }
 
         Assert.All([0, 5000, 7999], y => Assert.True(large.Row(y).IndexOfAnyExcept(y) < 0));

@@ -166,7 +166,7 @@ internal sealed class BmpReader
         var pixels = new PixelGrid(_width, _height);
         for (int y = 0; y < _height; y++)
         {
-            Span<int> row = pixels.Row(y);
+            Span<int> row = pixels.WritableRow(y);
             for (int x = 0; x < _width; x++)
             {
                 row[x] = _palette[indices[(y * _width) + x]];
@@ -198,7 +198,7 @@ internal sealed class BmpReader
                 break;
             }
 
-            Span<int> to = pixels.Row(_topDown ? y : _height - 1 - y);
+            Span<int> to = pixels.WritableRow(_topDown ? y : _height - 1 - y);
             opacity |= Unpack(from, to);
             read++;
         }
@@ -207,7 +207,7 @@ internal sealed class BmpReader
         {
             for (int y = 0; y < read; y++)
             {
-                MakeOpaque(pixels.Row(_topDown ? y : _height - 1 - y));
+                MakeOpaque(pixels.WritableRow(_topDown ? y : _height - 1 - y));
             }
         }
 

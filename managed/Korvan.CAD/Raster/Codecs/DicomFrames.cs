@@ -148,7 +148,7 @@ internal sealed class DicomFrames
     {
         for (int y = 0; y < _height && _photometric == "MONOCHROME1"; y++)
         {
-            foreach (ref int pixel in pixels.Row(y))
+            foreach (ref int pixel in pixels.WritableRow(y))
             {
                 pixel ^= 0xFFFFFF;
             }
@@ -200,7 +200,7 @@ internal sealed class DicomFrames
         int pairBytes = (_width + 1) / 2 * 4;
         for (int y = 0, at = 0; y < _height; y++)
         {
-            Span<int> row = pixels.Row(y);
+            Span<int> row = pixels.WritableRow(y);
             for (int x = 0; x < row.Length; x++, at++)
             {
                 int pair = (y * pairBytes) + (x / 2 * 4);

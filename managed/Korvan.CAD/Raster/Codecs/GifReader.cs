@@ -111,19 +111,16 @@ internal sealed unsafe class GifReader
 
     /// <summary>Throws after a failure; returns false instead where reading is lenient and there is something to
     /// show.</summary>
-    private bool Verify(int result)
-    {
-        if (result == Gif.Ok)
-        {
-            return true;
-        }
+    private bool Verify(int result) => result == Gif.Ok || Fail(_gif.File.Error);
 
+    private bool Fail(int error)
+    {
         if (_source.Lenient && _frames.Count > 0)
         {
             return false;
         }
 
-        string reason = Gif.Error(_gif.File.Error);
+        string reason = Gif.Error(error);
         throw new GifImageException($"'{_source.Name}' is damaged: {reason}.", new LzwCompressorException(reason));
     }
 
@@ -220,26 +217,21 @@ internal sealed unsafe class GifReader
     private bool Draw(PixelGrid canvas, in Gif.ImageDescription image, int[] palette)
     {
         var line = new byte[image.Width];
+        var pixels = new GifLzw(_gif);
         foreach ((int first, int step) in image.Interlace != 0 ? InterlacePasses : [(0, 1)])
         {
             for (int y = first; y < image.Height; y += step)
             {
-                bool read;
-                fixed (byte* start = line)
+                if (!pixels.TryRead(line))
                 {
-                    read = Verify(Gif.GetLine(_gif, start, line.Length));
-                }
-
-                if (!read)
-                {
-                    return false;
+                    return Fail(pixels.Error);
                 }
 
                 PlaceLine(canvas, line, image.Left, image.Top + y, palette);
             }
         }
 
-        return true;
+        return pixels.TryFinish() || Fail(pixels.Error);
     }
 
     private static void PlaceLine(PixelGrid canvas, byte[] line, int left, int y, int[] palette)
@@ -249,11 +241,15 @@ internal sealed unsafe class GifReader
             return;
         }
 
-        Span<int> row = canvas.Row(y);
-        for (int x = 0; x < line.Length && left + x < row.Length; x++)
+        Span<int> row = canvas.WritableRow(y);
+        row = row[Math.Min(left, row.Length)..];
+        for (int x = 0; x < line.Length && x < row.Length; x++)
         {
             int color = palette[line[x]];
-            row[left + x] = color == 0 ? row[left + x] : color;
+            if (color != 0)
+            {
+                row[x] = color;
+            }
         }
     }
 
@@ -268,7 +264,7 @@ internal sealed unsafe class GifReader
         int width = Math.Clamp(canvas.Width - _last.Left, 0, _last.Width);
         for (int y = _last.Top; y < Math.Min(canvas.Height, _last.Top + _last.Height); y++)
         {
-            Span<int> place = width == 0 ? [] : canvas.Row(y).Slice(_last.Left, width);
+            Span<int> place = width == 0 ? [] : canvas.WritableRow(y).Slice(_last.Left, width);
             if (_before == null)
             {
                 place.Clear();

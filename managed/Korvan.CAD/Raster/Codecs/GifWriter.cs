@@ -71,7 +71,12 @@ internal sealed unsafe class GifWriter
         RasterPageData page = PageChoice.Render(pages, index, options.MultiPageOptions);
         for (int y = 0; y < page.Pixels.Height; y++)
         {
-            foreach (ref int pixel in page.Pixels.Row(y))
+            if (PixelGrid.AreOpaque(page.Pixels.Row(y)))
+            {
+                continue;
+            }
+
+            foreach (ref int pixel in page.Pixels.WritableRow(y))
             {
                 pixel = (pixel >>> 24) < 128 ? 0 : PixelGrid.Over(pixel, -1);
             }

@@ -24,7 +24,7 @@ internal static unsafe class Jpeg2000Planes
         var samples = new int[colors + 1];
         for (int y = 0; y < pixels.Height; y++)
         {
-            Span<int> row = pixels.Row(y);
+            Span<int> row = pixels.WritableRow(y);
             for (int x = 0; x < row.Length; x++)
             {
                 samples[colors] = 255;

@@ -88,7 +88,7 @@ internal static unsafe class JpegCodec
         var pixels = new PixelGrid(width, height);
         int flags = TurboJpeg.FlagLimitScans | (source.Lenient ? 0 : TurboJpeg.FlagStopOnWarning);
         TurboJpeg.PixelLayout layout = isCmyk ? TurboJpeg.PixelLayout.Cmyk : TurboJpeg.PixelLayout.Bgra;
-        if (TurboJpeg.Decompress(handle, data, (nuint)length, pixels.Pointer, width, 0, height, layout, flags) != 0
+        if (TurboJpeg.Decompress(handle, data, (nuint)length, pixels.WritablePointer, width, 0, height, layout, flags) != 0
             && !source.Lenient)
         {
             pixels.Dispose();
@@ -109,7 +109,7 @@ internal static unsafe class JpegCodec
         var isCmyk = new PixelGrid(pixels.Width, pixels.Height);
         for (int y = 0; y < pixels.Height; y++)
         {
-            Span<int> to = isCmyk.Row(y);
+            Span<int> to = isCmyk.WritableRow(y);
             ReadOnlySpan<int> from = pixels.Row(y);
             for (int x = 0; x < to.Length; x++)
             {
@@ -124,7 +124,7 @@ internal static unsafe class JpegCodec
     {
         for (int y = 0; y < pixels.Height; y++)
         {
-            foreach (ref int pixel in pixels.Row(y))
+            foreach (ref int pixel in pixels.WritableRow(y))
             {
                 pixel = CmykColor.FromStored(inverted ? ~pixel : pixel).ToArgb32();
             }

@@ -1,15 +1,17 @@
 using System;
 using System.IO;
+using System.Numerics;
 using Korvan.CAD.FileFormats.Png;
 
 namespace Korvan.CAD.Raster.Codecs;
 
 /// <summary>Filters rows of a PNG, and back (ISO/IEC 15948, clause 9).</summary>
-internal sealed class PngFilters(int rowBytes, int pixelBytes)
+internal sealed class PngFilters(PngHeader header)
 {
-    private readonly byte[][] _lines = [new byte[rowBytes + 1], new byte[rowBytes + 1]];
-    private byte[] _row = new byte[rowBytes];
-    private byte[] _above = new byte[rowBytes];
+    private readonly int _pixelBytes = Math.Max(1, header.BitsPerPixel / 8);
+    private readonly byte[][] _lines = [new byte[header.RowBytes + 1], new byte[header.RowBytes + 1]];
+    private byte[] _row = new byte[header.RowBytes];
+    private byte[] _above = new byte[header.RowBytes];
 
     /// <summary>Gets the buffer of the next row.</summary>
     internal Span<byte> Row => _row;
@@ -27,9 +29,12 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
             best = Adaptive();
         }
 
-        (_row, _above) = (_above, _row);
+        Skip();
         return best;
     }
+
+    /// <summary>Makes the row the one above the next.</summary>
+    internal void Skip() => (_row, _above) = (_above, _row);
 
     /// <summary>Reverses the filter of a row.</summary>
     internal static void Undo(PngFilterType filter, Span<byte> row, ReadOnlySpan<byte> above, int pixelBytes)
@@ -74,11 +79,47 @@ internal sealed class PngFilters(int rowBytes, int pixelBytes)
     private void Fill(byte[] line, PngFilterType filter)
     {
         line[0] = (byte)filter;
+        Span<byte> target = line.AsSpan(1);
+        switch (filter)
+        {
+            case PngFilterType.None:
+                _row.CopyTo(target);
+                break;
+            case PngFilterType.Sub:
+                int first = Math.Min(_pixelBytes, _row.Length);
+                _row.AsSpan(0, first).CopyTo(target);
+                Subtract(_row.AsSpan(first), _row, target[first..]);
+                break;
+            case PngFilterType.Up:
+                Subtract(_row, _above, target);
+                break;
+            default:
+                FillPredicted(target, filter);
+                break;
+        }
+    }
+
+    private void FillPredicted(Span<byte> target, PngFilterType filter)
+    {
         for (int i = 0; i < _row.Length; i++)
         {
-            int left = i >= pixelBytes ? _row[i - pixelBytes] : 0;
-            int corner = i >= pixelBytes ? _above[i - pixelBytes] : 0;
-            line[i + 1] = (byte)(_row[i] - Predict(filter, left, _above[i], corner));
+            int left = i >= _pixelBytes ? _row[i - _pixelBytes] : 0;
+            int corner = i >= _pixelBytes ? _above[i - _pixelBytes] : 0;
+            target[i] = (byte)(_row[i] - Predict(filter, left, _above[i], corner));
+        }
+    }
+
+    private static void Subtract(ReadOnlySpan<byte> from, ReadOnlySpan<byte> less, Span<byte> target)
+    {
+        int i = 0;
+        for (; i <= from.Length - Vector<byte>.Count; i += Vector<byte>.Count)
+        {
+            (new Vector<byte>(from[i..]) - new Vector<byte>(less[i..])).CopyTo(target[i..]);
+        }
+
+        for (; i < from.Length; i++)
+        {
+            target[i] = (byte)(from[i] - less[i]);
         }
     }
 

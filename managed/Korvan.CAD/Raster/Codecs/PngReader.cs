@@ -64,7 +64,7 @@ internal static unsafe class PngReader
             var pixels = new PixelGrid(checked((int)state.Width), checked((int)state.Height));
             state.Format = Png.FormatBgra;
             state.Flags |= Png.SixteenBitsAreSrgb; // without a gamma they would be taken for linear light
-            if (Png.Finish(image, null, pixels.Pointer, pixels.Width * 4, null) == 0)
+            if (Png.Finish(image, null, pixels.WritablePointer, pixels.Width * 4, null) == 0)
             {
                 pixels.Dispose();
                 throw Failure(source, state.Text());

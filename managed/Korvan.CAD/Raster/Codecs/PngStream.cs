@@ -24,13 +24,17 @@ internal readonly record struct PngHeader(int Width, int Height, int BitDepth, P
 internal static class PngStream
 {
     private const int IdatSize = 256 * 1024;
+
+    /// <summary>Below this, threads take longer to start than the image takes to compress.</summary>
+    private const long MinBytesInBands = 4L << 20;
     private const double InchesPerMetre = 1 / 0.0254;
     private static readonly uint[] CrcTable = BuildCrcTable();
 
     /// <summary>Gets the start of an iTXt chunk of XMP: its keyword, no compression, no language.</summary>
     internal static ReadOnlySpan<byte> XmpPrefix => "XML:com.adobe.xmp\0\0\0\0\0"u8;
 
-    /// <summary>Writes one row, in the format of the header, into the buffer.</summary>
+    /// <summary>Writes one row, in the format of the header, into the buffer. It is called on several threads, for
+    /// rows in any order.</summary>
     internal delegate void PackRow(int y, Span<byte> row);
 
     internal static void Begin(Stream output, in PngHeader header, double horizontal, double vertical)
@@ -54,10 +58,15 @@ internal static class PngStream
     internal static void WriteRows(Stream output, in PngHeader header, PngFilterType filter, int level, PackRow pack)
     {
         using var chunks = new ChunkStream(output);
-        var compression = new ZLibCompressionOptions { CompressionLevel = level };
-        using (var zlib = new ZLibStream(chunks, compression, leaveOpen: true))
+        if (header.RowBytes * (long)header.Height > MinBytesInBands)
         {
-            var filters = new PngFilters(header.RowBytes, Math.Max(1, header.BitsPerPixel / 8));
+            new PngBands(header, filter, level, pack).Write(chunks);
+        }
+        else
+        {
+            var compression = new ZLibCompressionOptions { CompressionLevel = level };
+            using var zlib = new ZLibStream(chunks, compression, leaveOpen: true);
+            var filters = new PngFilters(header);
             for (int y = 0; y < header.Height; y++)
             {
                 pack(y, filters.Row);

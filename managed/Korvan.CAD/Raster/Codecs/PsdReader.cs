@@ -174,7 +174,7 @@ internal sealed class PsdReader
                     rows.Read(c, y, planes[c]);
                 }
 
-                Combine(planes, palette, pixels.Row(y));
+                Combine(planes, palette, pixels.WritableRow(y));
             }
         }
         catch (FrameworkException) when (_source.Lenient)

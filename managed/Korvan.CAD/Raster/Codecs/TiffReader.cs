@@ -105,7 +105,7 @@ internal static unsafe class TiffReader
     {
         // Asked for the orientation that the file has, libtiff leaves rows and columns as they are.
         int orientation = (int)Tiff.GetNumber(tiff.Handle, (int)TiffTags.Orientation);
-        var raster = (uint*)pixels.Pointer;
+        var raster = (uint*)pixels.WritablePointer;
         int stop = source.Lenient ? 0 : 1;
         bool done = Tiff.ReadRgba(tiff.Handle, (uint)pixels.Width, (uint)pixels.Height, raster, orientation, stop) == 1;
         Unpremultiply(pixels);
@@ -154,7 +154,7 @@ internal static unsafe class TiffReader
     {
         for (int y = 0; y < pixels.Height; y++)
         {
-            foreach (ref int pixel in pixels.Row(y))
+            foreach (ref int pixel in pixels.WritableRow(y))
             {
                 int swapped = (pixel & unchecked((int)0xFF00FF00)) | ((pixel & 255) << 16) | ((pixel >> 16) & 255);
                 pixel = (swapped & OpaqueBlack) == OpaqueBlack ? swapped : BitPacking.Unpremultiply(swapped);

@@ -176,7 +176,7 @@ internal sealed unsafe class TiffSamples
         Span<long> values = stackalloc long[5]; // of the colour, then alpha
         for (int y = 0; y < Math.Min(block.Height, pixels.Height - top); y++)
         {
-            Span<int> to = pixels.Row(top + y)[left..];
+            Span<int> to = pixels.WritableRow(top + y)[left..];
             for (int x = 0; x < Math.Min(block.Width, to.Length); x++)
             {
                 for (int c = 0; c < _colors; c++)

@@ -56,7 +56,7 @@ internal static unsafe class WebPCodec
             using var room = new NativeRoom((long)width * height * (IsLossless(source.Data) ? sizeof(int) : 1));
             var pixels = new PixelGrid(width, height);
             var size = (nuint)(pixels.Count * 4);
-            if (WebP.DecodeBgra(data, (nuint)source.Data.Length, pixels.Pointer, size, width * 4) == null)
+            if (WebP.DecodeBgra(data, (nuint)source.Data.Length, pixels.WritablePointer, size, width * 4) == null)
             {
                 pixels.Dispose();
                 throw new ImageLoadException($"The image of '{source.Name}' is damaged or cut off.");

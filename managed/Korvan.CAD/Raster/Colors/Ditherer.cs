@@ -62,7 +62,7 @@ internal static class Ditherer
     {
         Map(pixels, palette, method, false, (y, indices) =>
         {
-            Span<int> row = pixels.Row(y);
+            Span<int> row = pixels.WritableRow(y);
             for (int x = 0; x < row.Length; x++)
             {
                 row[x] = palette[indices[x]];

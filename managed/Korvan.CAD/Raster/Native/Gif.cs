@@ -35,8 +35,12 @@ internal static unsafe partial class Gif
     [LibraryImport(Library, EntryPoint = "DGifGetImageDesc")]
     internal static partial int GetImage(GifReadHandle gif);
 
-    [LibraryImport(Library, EntryPoint = "DGifGetLine")]
-    internal static partial int GetLine(GifReadHandle gif, byte* line, int length);
+    /// <summary>Returns the first block of compressed pixels, preceded by its length.</summary>
+    [LibraryImport(Library, EntryPoint = "DGifGetCode")]
+    internal static partial int GetCode(GifReadHandle gif, int* bits, byte** block);
+
+    [LibraryImport(Library, EntryPoint = "DGifGetCodeNext")]
+    internal static partial int GetCodeNext(GifReadHandle gif, byte** block);
 
     [LibraryImport(Library, EntryPoint = "DGifGetExtension")]
     internal static partial int GetExtension(GifReadHandle gif, int* code, byte** block);

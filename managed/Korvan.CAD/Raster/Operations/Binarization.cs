@@ -75,7 +75,7 @@ internal static class Binarization
 
             int rows = Math.Min(from.Height, y + half + 1) - Math.Max(0, y - half);
             Levels(from.Row(y), luma);
-            Compare(luma, columns, half, rows, fraction, to.Row(y));
+            Compare(luma, columns, half, rows, fraction, to.WritableRow(y));
         }
 
         return to;

@@ -44,7 +44,7 @@ internal static class ColorAdjustment
         int result = change(0);
         for (int y = 0; y < pixels.Height; y++)
         {
-            foreach (ref int pixel in pixels.Row(y))
+            foreach (ref int pixel in pixels.WritableRow(y))
             {
                 if (pixel != last)
                 {
@@ -82,7 +82,7 @@ internal static class ColorAdjustment
     {
         for (int y = 0; y < pixels.Height; y++)
         {
-            foreach (ref int pixel in pixels.Row(y))
+            foreach (ref int pixel in pixels.WritableRow(y))
             {
                 int warm = (red[(byte)(pixel >> 16)] << 16) | (green[(byte)(pixel >> 8)] << 8);
                 pixel = (pixel & PixelGrid.Opaque) | warm | blue[(byte)pixel];

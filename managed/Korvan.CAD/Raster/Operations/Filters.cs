@@ -58,7 +58,7 @@ internal static class Filters
         Span<double> sums = stackalloc double[4];
         for (int y = 0; y < to.Height; y++)
         {
-            Span<int> row = to.Row(y);
+            Span<int> row = to.WritableRow(y);
             for (int x = 0; x < row.Length; x++)
             {
                 sums.Clear();
@@ -88,7 +88,7 @@ internal static class Filters
 
         for (int y = 0; y < to.Height; y++)
         {
-            Span<int> row = to.Row(y);
+            Span<int> row = to.WritableRow(y);
             for (int x = 0; x < row.Length; x++)
             {
                 int count = 0;
@@ -128,7 +128,7 @@ internal static class Filters
         PixelGrid to = Convolve(from, GaussianWeights(size), GaussianWeights(size));
         for (int y = 0; y < to.Height; y++)
         {
-            Span<int> row = to.Row(y);
+            Span<int> row = to.WritableRow(y);
             ReadOnlySpan<int> old = from.Row(y);
             for (int x = 0; x < row.Length; x++)
             {
@@ -151,7 +151,7 @@ internal static class Filters
         var to = new PixelGrid(from.Width, from.Height);
         for (int y = 0; y < to.Height; y++)
         {
-            Span<int> row = to.Row(y);
+            Span<int> row = to.WritableRow(y);
             for (int x = 0; x < row.Length; x++)
             {
                 int L(int dx, int dy) => PixelGrid.Luma(At(from, x + dx, y + dy));
@@ -171,7 +171,7 @@ internal static class Filters
         Span<double> sums = stackalloc double[4];
         for (int y = 0; y < to.Height; y++)
         {
-            Span<int> row = to.Row(y);
+            Span<int> row = to.WritableRow(y);
             for (int x = 0; x < row.Length; x++)
             {
                 sums.Fill(offset);

@@ -26,7 +26,7 @@ internal static class Resampler
         for (int y = 0; y < height; y++)
         {
             ReadOnlySpan<int> source = from.Row((int)((((2L * y) + 1) * from.Height) / (2L * height)));
-            Span<int> row = to.Row(y);
+            Span<int> row = to.WritableRow(y);
             for (int x = 0; x < width; x++)
             {
                 row[x] = source[(int)((((2L * x) + 1) * from.Width) / (2L * width))];
@@ -44,7 +44,7 @@ internal static class Resampler
         int count = Math.Min(from.Width - first, width - Math.Max(0, left));
         for (int y = Math.Max(0, top); y < Math.Min(height, top + from.Height); y++)
         {
-            from.Row(y - top).Slice(first, count).CopyTo(to.Row(y)[Math.Max(0, left)..]);
+            from.Row(y - top).Slice(first, count).CopyTo(to.WritableRow(y)[Math.Max(0, left)..]);
         }
 
         return to;
@@ -84,7 +84,7 @@ internal static class Resampler
                 }
             }
 
-            Store(sum, to.Row(y));
+            Store(sum, to.WritableRow(y));
         }
 
         return to;

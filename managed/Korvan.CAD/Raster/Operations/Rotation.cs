@@ -23,7 +23,7 @@ internal static class Rotation
         var to = swap ? new PixelGrid(from.Height, from.Width) : new PixelGrid(from.Width, from.Height);
         for (int y = 0; y < to.Height; y++)
         {
-            Span<int> row = to.Row(y);
+            Span<int> row = to.WritableRow(y);
             if (swap)
             {
                 Column(from, quarterTurns == 1 ? y : from.Width - 1 - y, row);
@@ -60,7 +60,7 @@ internal static class Rotation
         var to = new PixelGrid(width, height);
         for (int y = 0; y < height; y++)
         {
-            Span<int> row = to.Row(y);
+            Span<int> row = to.WritableRow(y);
             double dy = y + 0.5 - (height / 2.0);
             for (int x = 0; x < width; x++)
             {

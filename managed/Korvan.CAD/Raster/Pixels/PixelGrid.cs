@@ -14,7 +14,9 @@ internal sealed unsafe class PixelGrid : IDisposable
     internal const long MaxPixels = RasterPage.MaxPixels;
     internal const int Opaque = unchecked((int)0xFF000000);
 
-    private readonly MappedMemory? _mapped;
+    private MappedMemory? _mapped;
+    private PixelBlock? _copy;
+    private bool _isBorrowed;
     private int* _data;
 
     internal PixelGrid(int width, int height)
@@ -36,6 +38,20 @@ internal sealed unsafe class PixelGrid : IDisposable
         (Width, Height) = (width, height);
     }
 
+    private PixelGrid(PixelGrid original)
+    {
+        original.Lifetime.Hold();
+        Lifetime = new Lifetime(() =>
+        {
+            original.Lifetime.Release();
+            _copy?.Dispose();
+        });
+        _mapped = original._mapped;
+        _data = original._data;
+        _isBorrowed = true;
+        (Width, Height) = (original.Width, original.Height);
+    }
+
     /// <summary>Gets what keeps the pixels for work that outlives their owner.</summary>
     internal Lifetime Lifetime { get; }
 
@@ -45,12 +61,23 @@ internal sealed unsafe class PixelGrid : IDisposable
 
     internal long Count => (long)Width * Height;
 
+    /// <summary>Gets the first byte, for reading.</summary>
     internal byte* Pointer
     {
         get
         {
             ObjectDisposedException.ThrowIf(_data == null, this);
             return (byte*)_data;
+        }
+    }
+
+    /// <summary>Gets the first byte of pixels that were not borrowed.</summary>
+    internal byte* WritablePointer
+    {
+        get
+        {
+            Own();
+            return Pointer;
         }
     }
 
@@ -72,7 +99,16 @@ internal sealed unsafe class PixelGrid : IDisposable
     }
 
     /// <summary>Returns a row. Every loop over pixels asks for its rows, so this is where they can be ended.</summary>
-    internal Span<int> Row(int y)
+    internal ReadOnlySpan<int> Row(int y) => RowAt(y);
+
+    /// <summary>Returns a row that may be changed.</summary>
+    internal Span<int> WritableRow(int y)
+    {
+        Own();
+        return RowAt(y);
+    }
+
+    private Span<int> RowAt(int y)
     {
         Budget.Check();
         _mapped?.Touch(Width * (long)sizeof(int));
@@ -81,13 +117,13 @@ internal sealed unsafe class PixelGrid : IDisposable
         return new Span<int>(_data + ((long)y * Width), Width);
     }
 
-    internal Span<byte> Bytes(int y) => MemoryMarshal.AsBytes(Row(y));
+    internal ReadOnlySpan<byte> Bytes(int y) => MemoryMarshal.AsBytes(Row(y));
 
     internal void Fill(int argb)
     {
         for (int y = 0; y < Height; y++)
         {
-            Row(y).Fill(argb);
+            WritableRow(y).Fill(argb);
         }
     }
 
@@ -96,7 +132,7 @@ internal sealed unsafe class PixelGrid : IDisposable
         var copy = new PixelGrid(area.Width, area.Height);
         for (int y = 0; y < area.Height; y++)
         {
-            Row(area.Y + y).Slice(area.X, area.Width).CopyTo(copy.Row(y));
+            Row(area.Y + y).Slice(area.X, area.Width).CopyTo(copy.WritableRow(y));
         }
 
         return copy;
@@ -104,9 +140,19 @@ internal sealed unsafe class PixelGrid : IDisposable
 
     internal PixelGrid Copy() => Copy(new Rectangle(0, 0, Width, Height));
 
+    /// <summary>Returns the pixels for a use in which few need to change: they are copied at the first
+    /// change.</summary>
+    internal PixelGrid CopyOnWrite() => new(this);
+
     /// <summary>Crops without a new allocation.</summary>
     internal void CropInPlace(Rectangle area)
     {
+        if (_isBorrowed)
+        {
+            Own(area);
+            return;
+        }
+
         // Rows move towards the start only, so none is overwritten before it was moved.
         for (int y = 0; y < area.Height; y++)
         {
@@ -120,7 +166,7 @@ internal sealed unsafe class PixelGrid : IDisposable
     {
         for (int y = 0; y < Height; y++)
         {
-            if (!AllHaveBits(Row(y), Opaque))
+            if (!AreOpaque(Row(y)))
             {
                 return false;
             }
@@ -152,13 +198,12 @@ internal sealed unsafe class PixelGrid : IDisposable
     {
         for (int y = 0; y < Height; y++)
         {
-            Span<int> row = Row(y);
-            if (AllHaveBits(row, Opaque))
+            if (AreOpaque(Row(y)))
             {
                 continue;
             }
 
-            foreach (ref int pixel in row)
+            foreach (ref int pixel in WritableRow(y))
             {
                 pixel = Over(pixel, background);
             }
@@ -189,16 +234,41 @@ internal sealed unsafe class PixelGrid : IDisposable
         Lifetime.End();
     }
 
-    private static bool AllHaveBits(ReadOnlySpan<int> row, int bits)
+    private void Own()
+    {
+        if (_isBorrowed)
+        {
+            Own(new Rectangle(0, 0, Width, Height));
+        }
+    }
+
+    private void Own(Rectangle area)
+    {
+        _copy = new PixelBlock((long)area.Width * area.Height);
+        for (int y = 0; y < area.Height; y++)
+        {
+            var target = new Span<int>(_copy.Data + ((long)y * area.Width), area.Width);
+            Row(area.Y + y).Slice(area.X, area.Width).CopyTo(target);
+            _copy.Mapped?.Touch(area.Width * (long)sizeof(int));
+        }
+
+        _mapped = _copy.Mapped;
+        _data = _copy.Data;
+        _isBorrowed = false;
+        (Width, Height) = (area.Width, area.Height);
+    }
+
+    /// <summary>Determines whether all pixels have the highest alpha.</summary>
+    internal static bool AreOpaque(ReadOnlySpan<int> pixels)
     {
         int all = -1;
         int i = 0;
-        if (row.Length >= Vector<int>.Count)
+        if (pixels.Length >= Vector<int>.Count)
         {
             var sum = new Vector<int>(-1);
-            for (; i <= row.Length - Vector<int>.Count; i += Vector<int>.Count)
+            for (; i <= pixels.Length - Vector<int>.Count; i += Vector<int>.Count)
             {
-                sum &= new Vector<int>(row[i..]);
+                sum &= new Vector<int>(pixels[i..]);
             }
 
             for (int k = 0; k < Vector<int>.Count; k++)
@@ -207,11 +277,11 @@ internal sealed unsafe class PixelGrid : IDisposable
             }
         }
 
-        for (; i < row.Length; i++)
+        for (; i < pixels.Length; i++)
         {
-            all &= row[i];
+            all &= pixels[i];
         }
 
-        return (all & bits) == bits;
+        return (all & Opaque) == Opaque;
     }
 }

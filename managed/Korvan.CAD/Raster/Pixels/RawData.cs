@@ -34,7 +34,7 @@ internal static class RawData
         ColorConverters converter = ColorConverters.Create(settings.PixelDataFormat, settings.ColorPalette);
         for (int y = 0; y < area.Height; y++)
         {
-            Span<int> row = pixels.Row(area.Y + y).Slice(area.X, area.Width);
+            Span<int> row = pixels.WritableRow(area.Y + y).Slice(area.X, area.Width);
             converter.Unpack(data.AsSpan(y * settings.LineSize, rowBytes), row);
         }
     }

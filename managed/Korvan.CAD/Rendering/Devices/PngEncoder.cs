@@ -1,7 +1,9 @@
 using System;
 using System.IO;
+using System.Runtime.InteropServices;
 using Korvan.CAD.FileFormats.Png;
 using Korvan.CAD.Raster.Codecs;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Rendering.Devices;
 
@@ -11,7 +13,7 @@ namespace Korvan.CAD.Rendering.Devices;
 /// </summary>
 internal static class PngEncoder
 {
-    /// <summary>One line of pixels: blue first, alpha multiplied in.</summary>
+    /// <summary>Returns a row of pixels: blue first, premultiplied. It is called on several threads.</summary>
     internal delegate ReadOnlySpan<byte> PixelRow(int y);
 
     internal static void Write(RasterPage page, Stream output, int compressionLevel, double pixelsPerInch) =>
@@ -28,19 +30,22 @@ internal static class PngEncoder
         PngStream.End(output);
     }
 
-    /// <summary>From blue first and multiplied by alpha to red first and plain.</summary>
+    /// <summary>Converts premultiplied BGRA to RGB or RGBA.</summary>
     private static void Convert(ReadOnlySpan<byte> from, Span<byte> to, int channels)
     {
-        for (int i = 0, o = 0; i < from.Length; i += 4, o += channels)
+        if (channels == 3)
+        {
+            BitPacking.Rgb(MemoryMarshal.Cast<byte, int>(from), to, channels);
+            return;
+        }
+
+        for (int i = 0; i < from.Length; i += 4)
         {
             int alpha = from[i + 3];
-            to[o] = Plain(from[i + 2], alpha);
-            to[o + 1] = Plain(from[i + 1], alpha);
-            to[o + 2] = Plain(from[i], alpha);
-            if (channels == 4)
-            {
-                to[o + 3] = (byte)alpha;
-            }
+            to[i] = Plain(from[i + 2], alpha);
+            to[i + 1] = Plain(from[i + 1], alpha);
+            to[i + 2] = Plain(from[i], alpha);
+            to[i + 3] = (byte)alpha;
         }
     }
 
@@ -55,13 +60,9 @@ internal static class PngEncoder
     {
         for (int y = 0; y < height; y++)
         {
-            ReadOnlySpan<byte> row = rows(y);
-            for (int i = 3; i < row.Length; i += 4)
+            if (!PixelGrid.AreOpaque(MemoryMarshal.Cast<byte, int>(rows(y))))
             {
-                if (row[i] != 255)
-                {
-                    return false;
-                }
+                return false;
             }
         }
 

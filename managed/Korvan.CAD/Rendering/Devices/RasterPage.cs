@@ -154,7 +154,7 @@ internal sealed unsafe class RasterPage : IDisposable
         var grid = new PixelGrid(_pixels, Width, Height, this);
         for (int y = 0; y < Height; y++)
         {
-            foreach (ref int pixel in grid.Row(y))
+            foreach (ref int pixel in grid.WritableRow(y))
             {
                 pixel = (pixel & PixelGrid.Opaque) == PixelGrid.Opaque ? pixel : BitPacking.Unpremultiply(pixel);
             }

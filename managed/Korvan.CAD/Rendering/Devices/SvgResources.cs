@@ -99,7 +99,7 @@ internal sealed class SvgResources(SvgOptions options)
         var grid = new PixelGrid(image.Width, image.Height);
         for (int y = 0; y < image.Height; y++)
         {
-            Span<int> row = grid.Row(y);
+            Span<int> row = grid.WritableRow(y);
             ReadOnlySpan<byte> source = image.Pixels.AsSpan(y * image.Width * 4, image.Width * 4);
             for (int x = 0; x < row.Length; x++)
             {

@@ -96,7 +96,7 @@ internal sealed record ImagePixels(int Width, int Height, byte[] Pixels)
         var bytes = new byte[checked((int)(pixels.Count * ChannelCount))];
         for (int y = 0; y < pixels.Height; y++)
         {
-            Span<int> row = pixels.Row(y);
+            Span<int> row = pixels.WritableRow(y);
             foreach (ref int pixel in row)
             {
                 int alpha = pixel >>> 24;

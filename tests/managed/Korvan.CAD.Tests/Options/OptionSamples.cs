@@ -108,7 +108,7 @@ internal static class OptionSamples
             {
                 for (int x = 0; x < grid.Width; x++)
                 {
-                    grid.Row(y)[x] = Samples.Rgb(x * 12, y * 15, shade, x > 18 ? 100 : 255);
+                    grid.WritableRow(y)[x] = Samples.Rgb(x * 12, y * 15, shade, x > 18 ? 100 : 255);
                 }
             }
 

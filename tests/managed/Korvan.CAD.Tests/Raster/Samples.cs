@@ -20,7 +20,7 @@ internal static class Samples
         {
             for (int x = 0; x < width; x++)
             {
-                grid.Row(y)[x] = pixel(x, y);
+                grid.WritableRow(y)[x] = pixel(x, y);
             }
         }
 
