@@ -19,7 +19,10 @@ internal static partial class ForkedProcess
 
     /// <summary>Gets whether this process is a fork, which lacks the threads of the runtime.</summary>
     /// <remarks><see cref="Environment.ProcessId"/> is remembered from before the fork.</remarks>
-    internal static bool IsChild => GetProcessId() != _owner;
+    internal static bool IsChild => Id != _owner;
+
+    /// <summary>Gets the number of this process, that of a fork in a fork.</summary>
+    internal static int Id => GetProcessId();
 
     /// <summary>Runs pieces of work in parallel if there are threads for it, otherwise one after the other.</summary>
     /// <param name="count">The number of pieces.</param>
@@ -93,7 +96,7 @@ internal static partial class ForkedProcess
 
     [ModuleInitializer]
     [SuppressMessage("Usage", "CA2255", Justification = "The first use may be in the child: too late to ask.")]
-    internal static void Remember() => _owner = GetProcessId();
+    internal static void Remember() => _owner = Id;
 
     [LibraryImport("libc", EntryPoint = "getpid")]
     private static partial int GetProcessId();

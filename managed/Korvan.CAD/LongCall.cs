@@ -17,9 +17,19 @@ internal static class LongCall
     /// <param name="work">The work.</param>
     /// <param name="discard">Releases a result that nobody waits for.</param>
     /// <param name="used">What the work uses, which is not released before it is done.</param>
-    internal static T Run<T>(Func<T> work, Action<T>? discard, params ReadOnlySpan<Lifetime> used)
+    internal static T Run<T>(Func<T> work, Action<T>? discard, params ReadOnlySpan<Lifetime> used) =>
+        Run(work, discard, isShort: false, used);
+
+    /// <summary>Runs work as above.</summary>
+    /// <param name="work">The work.</param>
+    /// <param name="discard">Releases a result that nobody waits for.</param>
+    /// <param name="isShort">Whether the work takes a few milliseconds at most: it is done here, as a thread would take
+    /// as long to start.</param>
+    /// <param name="used">What the work uses, which is not released before it is done.</param>
+    internal static T Run<T>(
+        Func<T> work, Action<T>? discard, bool isShort, params ReadOnlySpan<Lifetime> used)
     {
-        if (Budget.Current is not { } budget || ForkedProcess.IsChild)
+        if (isShort || Budget.Current is not { } budget || ForkedProcess.IsChild)
         {
             return work();
         }

@@ -69,6 +69,10 @@ internal sealed partial class DrawingList
 
     internal IReadOnlyList<PlacedLink> Links => _links;
 
+    /// <summary>Determines whether a list has fewer items than a number, and no long ones among them.</summary>
+    internal bool IsSmallerThan(int items) =>
+        _itemCount + (_coordCount / CoordsPerItem) < items && _images.Count == 0;
+
     /// <summary>What has been drawn so far, as far as it lies in the clips that hold it.</summary>
     internal Bounds2 Bounds => _bounds;
 

@@ -11,6 +11,9 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>Reads and writes WebP.</summary>
 internal static unsafe class WebPCodec
 {
+    /// <summary>Takes half the time of the default method for 4 percent more bytes.</summary>
+    private const int FastMethod = 2;
+
     internal static void Write(PixelGrid pixels, WebPOptions options, Stream output)
     {
         WebP.Require();
@@ -20,11 +23,20 @@ internal static unsafe class WebPCodec
                 $"A WebP holds at most {WebP.MaxSide} pixels on a side, not {pixels.Width} × {pixels.Height}.");
         }
 
-        output.Write(LongCall.Run(() => Encode(pixels, options.Lossless, options.Quality), null, pixels.Lifetime));
+        bool isSmall = pixels.Count <= PixelGrid.MaxSmall;
+        output.Write(LongCall.Run(
+            () => Encode(pixels, options.Lossless, options.Quality, isSmall), null, isSmall, pixels.Lifetime));
     }
 
-    private static byte[] Encode(PixelGrid pixels, bool lossless, float quality)
+    private static byte[] Encode(PixelGrid pixels, bool lossless, float quality, bool isSmall)
     {
+        // Thumbnails are made by the thousand.
+        if (isSmall && !lossless
+            && WebPEncoder.TryEncode(pixels.Pointer, pixels.Width, pixels.Height, quality, FastMethod) is { } file)
+        {
+            return file;
+        }
+
         int stride = pixels.Width * 4;
         nuint size = lossless
             ? WebP.EncodeLossless(pixels.Pointer, pixels.Width, pixels.Height, stride, out WebPBufferHandle data)

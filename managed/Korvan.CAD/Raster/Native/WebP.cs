@@ -8,7 +8,7 @@ internal static unsafe partial class WebP
     /// <summary>The maximum width and height, 14 bits.</summary>
     internal const int MaxSide = 16383;
 
-    private const string Library = "libwebp.so.7";
+    internal const string Library = "libwebp.so.7";
 
     internal static void Require() => SharedLibrary.Require(Library, "libwebp7");
 

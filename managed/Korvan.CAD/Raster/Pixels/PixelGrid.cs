@@ -12,6 +12,9 @@ internal sealed unsafe class PixelGrid : IDisposable
 {
     internal const int MaxSide = 65_535;
     internal const long MaxPixels = RasterPage.MaxPixels;
+
+    /// <summary>Up to so many pixels, an operation takes about a millisecond.</summary>
+    internal const int MaxSmall = 256 * 256;
     internal const int Opaque = unchecked((int)0xFF000000);
 
     private MappedMemory? _mapped;

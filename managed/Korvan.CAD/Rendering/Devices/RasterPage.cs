@@ -65,8 +65,14 @@ internal sealed unsafe class RasterPage : IDisposable
             throw new RenderException(reason);
         }
 
-        return LongCall.Run(() => Painted(engine, page, bands), static raster => raster.Dispose(), engine.Lifetime);
+        return LongCall.Run(
+            () => Painted(engine, page, bands), static raster => raster.Dispose(), IsShort(page), engine.Lifetime);
     }
+
+    // A thumbnail of a drawing that is small itself.
+    private static bool IsShort(Page page) =>
+        page.Replay is null && page.Overlay is null && page.Width * page.Height <= PixelGrid.MaxSmall
+        && page.List.IsSmallerThan(MinItemsInBands);
 
     private static RasterPage Painted(TextEngine engine, Page page, int? bands)
     {

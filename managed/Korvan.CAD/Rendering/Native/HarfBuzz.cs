@@ -77,11 +77,17 @@ internal static unsafe partial class HarfBuzz
     internal static partial nint Subset(nint face, nint input);
 
     /// <summary>The bytes of a table; none where the font lacks it.</summary>
-    internal static byte[] Table(nint face, string tag)
+    /// <param name="face">The font.</param>
+    /// <param name="tag">The name of the table.</param>
+    /// <param name="most">How many bytes are read at most: those of glyphs and their names are many.</param>
+    internal static byte[] Table(nint face, string tag, int most = int.MaxValue)
     {
         using var blob = new NativeHandle(FaceReferenceTable(face, Tag(tag)), &BlobDestroy);
-        return Bytes(blob);
+        return Bytes(blob, most);
     }
+
+    /// <summary>Whether a font has a table that is not empty.</summary>
+    internal static bool HasTable(nint face, string tag) => Table(face, tag, 1).Length > 0;
 
     /// <summary>The bytes of a whole font file.</summary>
     internal static byte[] File(nint face)
@@ -92,9 +98,9 @@ internal static unsafe partial class HarfBuzz
 
     internal static uint Tag(string tag) => ((uint)tag[0] << 24) | ((uint)tag[1] << 16) | ((uint)tag[2] << 8) | tag[3];
 
-    private static byte[] Bytes(NativeHandle blob)
+    private static byte[] Bytes(NativeHandle blob, int most = int.MaxValue)
     {
         byte* data = BlobGetData(blob.Pointer, out uint length);
-        return data == null ? [] : new ReadOnlySpan<byte>(data, checked((int)length)).ToArray();
+        return data == null ? [] : new ReadOnlySpan<byte>(data, Math.Min(checked((int)length), most)).ToArray();
     }
 }

@@ -38,7 +38,7 @@ internal sealed class PdfFontWriter
         int descendant = _file.New();
         int descriptor = _file.New();
         int texts = _file.New();
-        byte[] subset = Subset(out byte[] locations);
+        byte[] subset = Subset(listGlyphs, out byte[] locations);
         WriteDescriptor(descriptor, subset, listGlyphs ? GlyphList(locations) : null);
         WriteTexts(texts);
         var body = new PdfBuffer();
@@ -54,7 +54,7 @@ internal sealed class PdfFontWriter
         _file.Add(descendant, body.Raw(">>"u8));
     }
 
-    private unsafe byte[] Subset(out byte[] locations)
+    private unsafe byte[] Subset(bool withLocations, out byte[] locations)
     {
         using var input = new NativeHandle(HarfBuzz.SubsetInputCreate(), &HarfBuzz.SubsetInputDestroy);
         nint wanted = HarfBuzz.SubsetInputGlyphs(input.Pointer);
@@ -68,7 +68,7 @@ internal sealed class PdfFontWriter
             throw new RenderException($"The font {_font.Name} is damaged: no subset can be made of it.");
         }
 
-        locations = HarfBuzz.Table(subset.Pointer, "loca");
+        locations = withLocations ? HarfBuzz.Table(subset.Pointer, "loca") : [];
         return _font.IsCompact ? HarfBuzz.Table(subset.Pointer, "CFF ") : HarfBuzz.File(subset.Pointer);
     }
 

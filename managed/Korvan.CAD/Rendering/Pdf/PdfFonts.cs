@@ -29,8 +29,8 @@ internal sealed class PdfFonts(PdfFile file)
         if (!_fonts.TryGetValue(use.Face, out PdfFont? font))
         {
             NativeLibraries.Require(HarfBuzz.SubsetLibrary, HarfBuzz.SubsetPackage);
-            bool isCompact = HarfBuzz.Table(use.Face, "CFF ").Length > 0;
-            bool hasOutlines = isCompact || HarfBuzz.Table(use.Face, "glyf").Length > 0;
+            bool isCompact = HarfBuzz.HasTable(use.Face, "CFF ");
+            bool hasOutlines = isCompact || HarfBuzz.HasTable(use.Face, "glyf");
             uint count = HarfBuzz.FaceGetGlyphCount(use.Face);
             bool usable = hasOutlines && count is > 0 and <= MaxGlyphs && MayBeEmbedded(use.Face)
                 && HarfBuzz.IsVariable(use.Face) == 0;

@@ -115,7 +115,7 @@ internal sealed unsafe partial class GlyphOutlines : IDisposable
         Cairo.NewPath(cr);
         SetScaledFont(cr, Pango.CairoFontGetScaledFont(font));
         GlyphPath(cr, &native, 1);
-        const double em = 1 / TextEngine.EmSize;
+        const double em = 1 / TextShaper.EmSize;
         CairoPaths.Append(cr, new Affine2(em, 0, 0, em, 0, 0), path);
     }
 

@@ -42,7 +42,7 @@ internal sealed record ShapedLine(string Text, ShapedRun[] Runs, double Advance)
     }
 }
 
-/// <summary>A font as text uses it: a face, and what is done to its outlines. It lives as long as its engine.</summary>
+/// <summary>A font as text uses it: a face, and what is done to its outlines. It lives as long as its shaper.</summary>
 internal sealed record FontUse(nint Font, nint Face, string Name, Affine2 Matrix, bool IsEmboldened);
 
 /// <summary>Fonts by the objects that pango has for them, which are kept so that no other gets the place of one.

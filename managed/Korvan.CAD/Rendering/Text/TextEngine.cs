@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using System.Text;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
@@ -15,48 +14,34 @@ namespace Korvan.CAD.Rendering.Text;
 /// </summary>
 internal sealed unsafe class TextEngine : IDisposable
 {
-    /// <summary>The size in device units at which everything is shaped; cairo's matrix brings it to the real
-    /// one.</summary>
-    internal const double EmSize = 256;
+    private const double EmSize = TextShaper.EmSize;
 
     /// <summary>Pango units in an em of what is shaped.</summary>
     internal const double UnitsPerEm = EmSize * Pango.Scale;
 
-    private const int BoldWeight = 700;
-    private const int NormalWeight = 400;
-    private const int ItalicStyle = 2;
     private const int MaxCachedLines = 50_000;
     private const int MaxCachedCharacters = 500_000;
     private const int MaxFonts = 500;
     private const int StepsPerFont = 100;
     private const int CharactersPerStep = 16;
 
-    /// <summary>The characters of one line that are shown; the rest counts as glyphs that are missing.</summary>
-    private const int MaxCharacters = 32_768;
-    private const double DefaultCapRatio = 0.7;
-
     /// <summary>Replacements whose width differs by less are not fitted.</summary>
     private const double SmallestFit = 0.02;
 
-    private readonly List<NativeHandle> _descriptions = [];
+    private TextShaper? _shaper;
+    private readonly List<int> _shaped = [];
     private readonly List<FontSpec> _specs = [];
-    private readonly List<double> _capRatios = [];
     private readonly Dictionary<FontSpec, int> _fonts = new(FontSpec.ByValue);
     private readonly List<Dictionary<string, ShapedLine>> _lines = [];
     private readonly List<FontUse> _faces = [];
     private readonly List<Dictionary<string, StrokeLine?>> _strokes = [];
     private readonly Dictionary<string, string> _replaced = new(StringComparer.OrdinalIgnoreCase);
-    private readonly FontUses _uses = new();
     private readonly StrokeFaces _strokeFaces;
     private readonly GlyphRendering _look;
     private readonly FontFolders? _folders;
     private readonly bool _ownsFolders;
-    private TextLayout? _layout;
     private NativeHandle? _outliner;
     private int _cachedCharacters;
-    private int _currentFont = -1;
-    private string? _currentText;
-    private double _currentSpacing;
 
     /// <summary>An engine. Fonts of other folders than those of the system are taken over, and released with the
     /// engine.</summary>
@@ -78,8 +63,8 @@ internal sealed unsafe class TextEngine : IDisposable
     /// <summary>Gets what keeps the engine for work that outlives its owner.</summary>
     internal Lifetime Lifetime { get; }
 
-    // Made when the first text asks for it: a drawing without text needs no shared library.
-    private nint Layout => (_layout ??= new TextLayout(_look, _folders)).Pointer;
+    // Found when the first text asks for it: a drawing without text needs no shared library.
+    private TextShaper Shaper => _shaper ??= TextShaper.Get(_look, _folders?.Config ?? 0);
 
     /// <summary>Lets the tables of drawings know the fonts that are installed; none where the libraries are
     /// missing.</summary>
@@ -121,13 +106,12 @@ internal sealed unsafe class TextEngine : IDisposable
             }
 
             Budget.Step(StepsPerFont);
-            index = _descriptions.Count;
-            _descriptions.Add(Describe(spec));
+            index = _specs.Count;
+            _shaped.Add(Shaper.Font(_folders?.Resolve(spec.Family) ?? spec.Family, spec.Bold, spec.Italic));
             _lines.Add([]);
             _strokes.Add([]);
             _specs.Add(spec);
             _fonts.Add(spec, index);
-            _capRatios.Add(MeasureCapRatio(index));
             _faces.Add(new FontUse(index, null, 1));
             _faces[index] = UseOf(spec, index);
         }
@@ -222,7 +206,7 @@ internal sealed unsafe class TextEngine : IDisposable
 
     /// <summary>Height of a capital letter as a share of the em: drawings give the first, fonts are scaled by the
     /// second.</summary>
-    internal double CapRatio(int font) => _capRatios[font];
+    internal double CapRatio(int font) => Shaper.CapRatio(_shaped[font]);
 
     /// <summary>How far the pen moves over the text, in ems.</summary>
     internal double Advance(int font, string text, double letterSpacing = 0)
@@ -249,7 +233,7 @@ internal sealed unsafe class TextEngine : IDisposable
         {
             Budget.Step(1 + (text.Length / CharactersPerStep));
             string shown = Shown(text);
-            line = LineReader.Read(Shape(font, shown, letterSpacing), shown, Pango.Scale * EmSize, _uses);
+            line = LineReader.Read(Shape(font, shown, letterSpacing), shown, Pango.Scale * EmSize, Shaper.Uses);
             UnknownGlyphs += line.UnknownGlyphs + text.Length - shown.Length;
             ClearIfFull(known, text);
             known.Add(key, line);
@@ -258,7 +242,8 @@ internal sealed unsafe class TextEngine : IDisposable
         return line;
     }
 
-    private static string Shown(string text) => text.Length <= MaxCharacters ? text : text[..MaxCharacters];
+    private static string Shown(string text) =>
+        text.Length <= TextShaper.MaxCharacters ? text : text[..TextShaper.MaxCharacters];
 
     // Glyphs and strokes take a hundred bytes a character.
     private void ClearIfFull<T>(Dictionary<string, T> known, string text)
@@ -321,10 +306,7 @@ internal sealed unsafe class TextEngine : IDisposable
     private void Release()
     {
         _outliner?.Dispose();
-        _descriptions.ForEach(static description => description.Dispose());
-        _descriptions.Clear();
-        _uses.Dispose();
-        _layout?.Dispose();
+        _shaper?.Release();
         if (_ownsFolders)
         {
             _folders?.Dispose();
@@ -342,69 +324,6 @@ internal sealed unsafe class TextEngine : IDisposable
     /// <summary>How a font is shown: by the outlines of a font, made wider or narrower, or by strokes.</summary>
     private readonly record struct FontUse(int Outline, StrokeFace? Strokes, double Width);
 
-    private NativeHandle Describe(FontSpec spec)
-    {
-        var owner = new NativeHandle(Pango.FontDescriptionNew(), &Pango.FontDescriptionFree);
-        nint description = owner.Pointer;
-        Pango.FontDescriptionSetFamily(description, _folders?.Resolve(spec.Family) ?? spec.Family);
-        Pango.FontDescriptionSetWeight(description, spec.Bold ? BoldWeight : NormalWeight);
-        Pango.FontDescriptionSetStyle(description, spec.Italic ? ItalicStyle : 0);
-        Pango.FontDescriptionSetAbsoluteSize(description, EmSize * Pango.Scale);
-        return owner;
-    }
-
-    private double MeasureCapRatio(int font)
-    {
-        PangoRectangle ink;
-        Pango.LayoutLineGetExtents(Shape(font, "H", 0), &ink, null);
-        double ratio = -ink.Y / (Pango.Scale * EmSize);
-        return ratio is > 0.2 and < 2 ? ratio : DefaultCapRatio;
-    }
-
-    private nint Shape(int font, string text, double letterSpacing)
-    {
-        if (font != _currentFont)
-        {
-            Pango.LayoutSetFontDescription(Layout, _descriptions[font].Pointer);
-            _currentFont = font;
-        }
-
-        if (letterSpacing != _currentSpacing)
-        {
-            SetSpacing(letterSpacing);
-        }
-
-        if (!ReferenceEquals(text, _currentText))
-        {
-            SetText(text);
-        }
-
-        return Pango.LayoutGetLine(Layout, 0);
-    }
-
-    private void SetSpacing(double ems)
-    {
-        using var list = new NativeHandle(Pango.AttrListNew(), &Pango.AttrListUnref);
-        if (ems != 0)
-        {
-            Pango.AttrListInsert(list.Pointer, Pango.AttrLetterSpacingNew((int)Math.Round(ems * EmSize * Pango.Scale)));
-        }
-
-        Pango.LayoutSetAttributes(Layout, list.Pointer);
-        _currentSpacing = ems;
-    }
-
-    private void SetText(string text)
-    {
-        ReadOnlySpan<char> shown = text.AsSpan(0, Math.Min(text.Length, MaxCharacters));
-        int most = Encoding.UTF8.GetMaxByteCount(shown.Length);
-        Span<byte> utf8 = most <= 1024 ? stackalloc byte[most] : new byte[most];
-        int length = Encoding.UTF8.GetBytes(shown, utf8);
-        fixed (byte* bytes = utf8)
-        {
-            Pango.LayoutSetText(Layout, bytes, length);
-        }
-
-        _currentText = text;
-    }
+    private nint Shape(int font, string text, double letterSpacing) =>
+        Shaper.Shape(_shaped[font], text, letterSpacing);
 }

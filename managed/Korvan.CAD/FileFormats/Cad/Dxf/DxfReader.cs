@@ -44,6 +44,10 @@ internal sealed partial class DxfReader
         {
             _options.Report(e);
         }
+        finally
+        {
+            _tags.Release();
+        }
 
         DrawingLinks.Complete(_drawing);
         ModelerSection.Attach(_drawing);

@@ -1,4 +1,5 @@
 using System;
+using System.Threading;
 using Korvan.CAD.Input;
 
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
@@ -7,9 +8,13 @@ namespace Korvan.CAD.FileFormats.Cad.Dxf;
 /// back to.</content>
 internal sealed partial class DxfTagReader
 {
+    // What a reader leaves for the next one: arrays of this size are costly to allocate.
+    private static byte[]? _spare;
+
     // The offset of the block in the file, and that of the first byte that a look ahead needs again.
     private int _base;
     private int? _kept;
+    private bool _ownsBlock;
 
     private int TagOffset => _base + _tagStart;
 
@@ -31,16 +36,30 @@ internal sealed partial class DxfTagReader
         {
             long length = Math.Clamp(2L * _data.Length, SourceWindow.Block, Array.MaxLength);
             Budget.VerifyRoom(length);
-            target = GC.AllocateUninitializedArray<byte>((int)length);
+            target = (length == SourceWindow.Block ? Interlocked.Exchange(ref _spare, null) : null)
+                ?? GC.AllocateUninitializedArray<byte>((int)length);
         }
 
         _data.AsSpan(passed, left).CopyTo(target);
+        _ownsBlock |= target != _data;
         _data = target;
         _base += passed;
         (_position, _start, _tagStart) = (_position - passed, _start - passed, _tagStart - passed);
         int read = _source.ReadMore(_data, left);
         _end = left + read;
         return read > 0;
+    }
+
+    /// <summary>Ends the reading: the current tag has no value any more.</summary>
+    internal void Release()
+    {
+        byte[] block = _data;
+        (_data, _position, _end, _length) = ([], 0, 0, 0);
+        if (_ownsBlock && block.Length == SourceWindow.Block)
+        {
+            _ownsBlock = false;
+            Volatile.Write(ref _spare, block);
+        }
     }
 
     /// <summary>Takes a line that the block does not hold to its end.</summary>

@@ -1,0 +1,216 @@
+using System;
+using System.Collections.Generic;
+using System.Text;
+using Korvan.CAD.Rendering.Native;
+
+namespace Korvan.CAD.Rendering.Text;
+
+/// <summary>
+/// Fonts of pango, and a layout that shapes one line at a time. To find a font takes longer than to draw a page of text,
+/// so shapers with the fonts of the system are kept from one export to the next. A shaper belongs to one thread at a
+/// time.
+/// </summary>
+internal sealed unsafe class TextShaper
+{
+    /// <summary>The size in device units at which everything is shaped; cairo's matrix brings it to the real
+    /// one.</summary>
+    internal const double EmSize = 256;
+
+    /// <summary>The characters of one line that are shown; the rest counts as glyphs that are missing.</summary>
+    internal const int MaxCharacters = 32_768;
+
+    private const double PointsPerInch = 72;
+    private const int BoldWeight = 700;
+    private const int NormalWeight = 400;
+    private const int ItalicStyle = 2;
+    private const int HintMetricsOff = 1;
+    private const double DefaultCapRatio = 0.7;
+    private const int MaxBytesOnStack = 1024;
+
+    /// <summary>A shaper that knows more fonts is not kept.</summary>
+    private const int MaxFontsKept = 200;
+    private const int MaxKept = 8;
+
+    private static readonly Stack<TextShaper> Kept = new();
+    private static int _keeper = ForkedProcess.Id;
+
+    private readonly GlyphRendering _look;
+    private readonly bool _isShared;
+    private readonly Dictionary<(string Families, bool IsBold, bool IsItalic), int> _fonts = [];
+    private readonly List<(NativeHandle Description, double CapRatio)> _descriptions = [];
+    private readonly NativeHandle _fontMap;
+    private readonly NativeHandle _context;
+    private readonly NativeHandle _layout;
+    private int _currentFont = -1;
+    private string? _currentText;
+    private double _currentSpacing;
+
+    private TextShaper(GlyphRendering look, nint config)
+    {
+        (_look, _isShared) = (look, config == 0);
+        _fontMap = new NativeHandle(Pango.CairoFontMapNew(), &Pango.Unref);
+        if (config != 0)
+        {
+            Pango.FcFontMapSetConfig(_fontMap.Pointer, config);
+        }
+
+        _context = new NativeHandle(Pango.FontMapCreateContext(_fontMap.Pointer), &Pango.Unref);
+        Pango.CairoContextSetResolution(_context.Pointer, PointsPerInch);
+        Pango.ContextSetRoundGlyphPositions(_context.Pointer, 0);
+        using var options = new NativeHandle(Cairo.FontOptionsCreate(), &Cairo.FontOptionsDestroy);
+        Cairo.FontOptionsSetHintStyle(options.Pointer, look.Hinting);
+        Cairo.FontOptionsSetHintMetrics(options.Pointer, HintMetricsOff);
+        Cairo.FontOptionsSetAntialias(options.Pointer, look.Antialias);
+        Pango.CairoContextSetFontOptions(_context.Pointer, options.Pointer);
+        _layout = new NativeHandle(Pango.LayoutNew(_context.Pointer), &Pango.Unref);
+        Pango.LayoutSetSingleParagraphMode(_layout.Pointer, 1);
+        Pango.LayoutSetAutoDir(_layout.Pointer, 1);
+    }
+
+    /// <summary>Gets the fonts that lines were shaped with.</summary>
+    internal FontUses Uses { get; } = new();
+
+    /// <summary>Returns a shaper, which the caller has to release.</summary>
+    /// <param name="look">How glyphs are rasterized.</param>
+    /// <param name="config">The fonts, as fontconfig has them; 0 for those of the system.</param>
+    /// <exception cref="DisplayList.RenderException">A shared library is missing.</exception>
+    internal static TextShaper Get(GlyphRendering look, nint config)
+    {
+        NativeLibraries.Require();
+        return (config == 0 ? TakeKept(look) : null) ?? new TextShaper(look, config);
+    }
+
+    /// <summary>Ends the use of the shaper.</summary>
+    internal void Release()
+    {
+        if (!_isShared || !TryKeep())
+        {
+            Dispose();
+        }
+    }
+
+    /// <summary>Returns the number of a font.</summary>
+    /// <param name="families">The families, of which the first one that is there counts.</param>
+    /// <param name="isBold">Whether it is bold.</param>
+    /// <param name="isItalic">Whether it is italic.</param>
+    internal int Font(string families, bool isBold, bool isItalic)
+    {
+        if (!_fonts.TryGetValue((families, isBold, isItalic), out int font))
+        {
+            font = _descriptions.Count;
+            _descriptions.Add((Describe(families, isBold, isItalic), DefaultCapRatio));
+            _descriptions[font] = (_descriptions[font].Description, MeasureCapRatio(font));
+            _fonts.Add((families, isBold, isItalic), font);
+        }
+
+        return font;
+    }
+
+    /// <summary>Returns the height of a capital letter as a share of the em.</summary>
+    internal double CapRatio(int font) => _descriptions[font].CapRatio;
+
+    /// <summary>Returns pango's line of a text, which holds until the next one is shaped.</summary>
+    internal nint Shape(int font, string text, double letterSpacing)
+    {
+        if (font != _currentFont)
+        {
+            Pango.LayoutSetFontDescription(_layout.Pointer, _descriptions[font].Description.Pointer);
+            _currentFont = font;
+        }
+
+        if (letterSpacing != _currentSpacing)
+        {
+            SetSpacing(letterSpacing);
+        }
+
+        if (!ReferenceEquals(text, _currentText))
+        {
+            SetText(text);
+        }
+
+        return Pango.LayoutGetLine(_layout.Pointer, 0);
+    }
+
+    // The threads by which the kept ones look for fonts stay behind at a fork; so do those shapers.
+    private static TextShaper? TakeKept(GlyphRendering look)
+    {
+        lock (Kept)
+        {
+            if (_keeper != ForkedProcess.Id)
+            {
+                Kept.Clear();
+                _keeper = ForkedProcess.Id;
+            }
+
+            return Kept.TryPeek(out TextShaper? last) && last._look == look ? Kept.Pop() : null;
+        }
+    }
+
+    private bool TryKeep()
+    {
+        lock (Kept)
+        {
+            if (_keeper != ForkedProcess.Id || Kept.Count == MaxKept || _fonts.Count > MaxFontsKept)
+            {
+                return false;
+            }
+
+            Kept.Push(this);
+            return true;
+        }
+    }
+
+    private void Dispose()
+    {
+        _descriptions.ForEach(static font => font.Description.Dispose());
+        Uses.Dispose();
+        _layout.Dispose();
+        _context.Dispose();
+        _fontMap.Dispose();
+    }
+
+    private static NativeHandle Describe(string families, bool isBold, bool isItalic)
+    {
+        var owner = new NativeHandle(Pango.FontDescriptionNew(), &Pango.FontDescriptionFree);
+        nint description = owner.Pointer;
+        Pango.FontDescriptionSetFamily(description, families);
+        Pango.FontDescriptionSetWeight(description, isBold ? BoldWeight : NormalWeight);
+        Pango.FontDescriptionSetStyle(description, isItalic ? ItalicStyle : 0);
+        Pango.FontDescriptionSetAbsoluteSize(description, EmSize * Pango.Scale);
+        return owner;
+    }
+
+    private double MeasureCapRatio(int font)
+    {
+        PangoRectangle ink;
+        Pango.LayoutLineGetExtents(Shape(font, "H", 0), &ink, null);
+        double ratio = -ink.Y / (Pango.Scale * EmSize);
+        return ratio is > 0.2 and < 2 ? ratio : DefaultCapRatio;
+    }
+
+    private void SetSpacing(double ems)
+    {
+        using var list = new NativeHandle(Pango.AttrListNew(), &Pango.AttrListUnref);
+        if (ems != 0)
+        {
+            Pango.AttrListInsert(list.Pointer, Pango.AttrLetterSpacingNew((int)Math.Round(ems * EmSize * Pango.Scale)));
+        }
+
+        Pango.LayoutSetAttributes(_layout.Pointer, list.Pointer);
+        _currentSpacing = ems;
+    }
+
+    private void SetText(string text)
+    {
+        ReadOnlySpan<char> shown = text.AsSpan(0, Math.Min(text.Length, MaxCharacters));
+        int most = Encoding.UTF8.GetMaxByteCount(shown.Length);
+        Span<byte> utf8 = most <= MaxBytesOnStack ? stackalloc byte[most] : new byte[most];
+        int length = Encoding.UTF8.GetBytes(shown, utf8);
+        fixed (byte* bytes = utf8)
+        {
+            Pango.LayoutSetText(_layout.Pointer, bytes, length);
+        }
+
+        _currentText = text;
+    }
+}
