@@ -26,7 +26,7 @@ internal sealed class Budget : IDisposable
     /// <summary>The memory that stands for one step, which takes about 5 µs: drawing an entity, a dash, a
     /// glyph.</summary>
     private const int MemoryPerStep = 192;
-    private const long PollInterval = 20; // milliseconds
+    private const long PollInterval = 10; // milliseconds
 
     /// <summary>The memory that a call on another thread is taken to need, where it has no limit itself.</summary>
     private const long MaxOther = 1L << 30;
@@ -239,9 +239,9 @@ internal sealed class Budget : IDisposable
     // What a call before has left would hide what this one takes.
     private static void SettleHeap()
     {
-        const long unsettled = 128L << 20;
+        const long unsettled = 48L << 20;
         long taken = GC.GetTotalMemory(false);
-        if (_hasLeftGarbage || taken > _settled + Math.Max(unsettled, _settled))
+        if (_hasLeftGarbage || taken > _settled + Math.Max(unsettled, _settled / 2))
         {
             _hasLeftGarbage = false;
             GC.Collect();

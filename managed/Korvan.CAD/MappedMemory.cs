@@ -14,11 +14,11 @@ internal sealed unsafe class MappedMemory : IDisposable
     private const long MaxResident = 32L << 20;
 
     private static readonly ConcurrentDictionary<Region, bool> Regions = new();
+    private static long _touched;
 
     private readonly MemoryMappedFile _file;
     private readonly MemoryMappedViewAccessor _view;
     private readonly Region _region;
-    private long _touched;
 
     /// <summary>Maps a new file.</summary>
     /// <param name="length">Its length in bytes.</param>
@@ -59,14 +59,14 @@ internal sealed unsafe class MappedMemory : IDisposable
         }
     }
 
-    /// <summary>Notes a use of bytes. After many, all leave the memory of the process, so that going through the whole
-    /// does not hold the whole.</summary>
-    internal void Touch(long bytes)
+    /// <summary>Notes a use of bytes of any mapped memory. After many, all leave the memory of the process, so that
+    /// going through the whole, or through many small ones, does not hold the whole.</summary>
+    internal static void Touch(long bytes)
     {
         if (Interlocked.Add(ref _touched, bytes) > MaxResident)
         {
             Interlocked.Exchange(ref _touched, 0);
-            _region.Trim();
+            TrimAll();
         }
     }
 

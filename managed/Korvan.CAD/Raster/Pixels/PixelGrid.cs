@@ -114,7 +114,11 @@ internal sealed unsafe class PixelGrid : IDisposable
     private Span<int> RowAt(int y)
     {
         Budget.Check();
-        _mapped?.Touch(Width * (long)sizeof(int));
+        if (_mapped != null)
+        {
+            MappedMemory.Touch(Width * (long)sizeof(int));
+        }
+
         ObjectDisposedException.ThrowIf(_data == null, this);
         ArgumentOutOfRangeException.ThrowIfGreaterThanOrEqual((uint)y, (uint)Height, nameof(y));
         return new Span<int>(_data + ((long)y * Width), Width);
@@ -252,7 +256,10 @@ internal sealed unsafe class PixelGrid : IDisposable
         {
             var target = new Span<int>(_copy.Data + ((long)y * area.Width), area.Width);
             Row(area.Y + y).Slice(area.X, area.Width).CopyTo(target);
-            _copy.Mapped?.Touch(area.Width * (long)sizeof(int));
+            if (_copy.Mapped != null)
+            {
+                MappedMemory.Touch(area.Width * (long)sizeof(int));
+            }
         }
 
         _mapped = _copy.Mapped;

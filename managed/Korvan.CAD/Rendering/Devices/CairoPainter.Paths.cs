@@ -11,6 +11,44 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>How far the sides of a box may be from upright, in pixels.</summary>
     private const double BoxTolerance = 0.05;
 
+    /// <summary>Paths with fewer parts have few edges in any row.</summary>
+    private const int MinVerbsOfDensePath = 512;
+
+    /// <summary>The edges in a row from which on each of them takes the longest to be sorted.</summary>
+    private const double EdgesOfDenseRow = 2048;
+
+    /// <summary>The edges in dense rows that take about as long as one step of the budget.</summary>
+    private const int EdgesPerStep = 16;
+
+    /// <summary>Counts the work of filling a path, or the outline of its stroke.</summary>
+    private void CountWork(in DisplayItem item, int edgesPerSegment)
+    {
+        Budget.Step(1 + (item.VerbCount / VerbsPerStep));
+        if (item.VerbCount < MinVerbsOfDensePath)
+        {
+            return;
+        }
+
+        ReadOnlySpan<double> c = List.CoordsOf(item);
+        int count = CoordCount(item);
+        double edges = 0;
+        double last = RowOf(c, 0);
+        double top = last;
+        double bottom = last;
+        for (int at = 2; at < count; at += 2)
+        {
+            double row = RowOf(c, at);
+            edges += Math.Abs(row - last) * edgesPerSegment;
+            (top, bottom, last) = (Math.Min(top, row), Math.Max(bottom, row), row);
+        }
+
+        double density = edges / Math.Max(1, bottom - top) / EdgesOfDenseRow;
+        Budget.Step((long)(edges / EdgesPerStep * Math.Min(1, density)));
+    }
+
+    private double RowOf(ReadOnlySpan<double> c, int at) => Math.Clamp(
+        (_map.Yx * c[at]) + (_map.Yy * c[at + 1]) + _map.Y0, _rows.First, _rows.End);
+
     /// <summary>Returns whether a path reaches into the rows that are painted.</summary>
     private bool Crosses(in DisplayItem item, double border)
     {

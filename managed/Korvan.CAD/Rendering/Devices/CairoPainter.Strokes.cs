@@ -32,8 +32,8 @@ internal sealed unsafe partial class CairoPainter
             return;
         }
 
+        CountWork(item, 2);
         Trace(item);
-        Budget.Step(1 + (item.VerbCount / VerbsPerStep));
         SetColor(item.Color);
         if (width != _lineWidth)
         {

@@ -86,45 +86,47 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
         _scale = Math.Sqrt(Math.Abs(_map.Determinant));
     }
 
-    /// <summary>Paints rows of a page with its background and what lies over it.</summary>
-    internal static void Paint(nint cr, TextEngine engine, Page page, PixelTarget target)
-    {
-        Paint(cr, engine, page.List, page.Settings, target, page.Replay);
-        if (page.Overlay != null)
-        {
-            Paint(cr, engine, page.Overlay,
-                page.Settings with { ToDevice = Affine2.Identity, PaintBackground = false, Clip = null }, target);
-        }
-    }
+    /// <summary>Begins to paint rows of a page, with its background.</summary>
+    internal static CairoPainter Begin(nint cr, TextEngine engine, Page page, PixelTarget target) =>
+        Begin(cr, engine, page.List, page.Settings, target);
 
-    private static void Paint(
-        nint cr, TextEngine engine, DrawingList list, in PaintSettings settings, PixelTarget target,
-        Action<Action<DrawingList>>? replay = null)
-    {
-        var painter = new CairoPainter(cr, engine, list, settings, target);
-        Cairo.Save(cr);
-        painter.Start();
-        if (replay is null)
-        {
-            painter.DrawItems(list);
-        }
-        else
-        {
-            replay(painter.DrawItems);
-        }
-
-        painter.UseCairo();
-
-        Cairo.Restore(cr);
-        Cairo.Check(Cairo.Status(cr), "drawing a page");
-    }
-
-    private void DrawItems(DrawingList list)
+    /// <summary>Paints the items of a list, which is the one of the page or a part of it.</summary>
+    internal void DrawItems(DrawingList list)
     {
         // The indices of dashes are those of the list.
         _dash = int.MaxValue;
         ClearDash();
         PlayItems(list);
+    }
+
+    /// <summary>Paints what is over the page, and ends.</summary>
+    internal void End(Page page)
+    {
+        End();
+        if (page.Overlay != null)
+        {
+            PaintSettings settings =
+                page.Settings with { ToDevice = Affine2.Identity, PaintBackground = false, Clip = null };
+            CairoPainter overlay = Begin(_cr, _engine, page.Overlay, settings, _target);
+            overlay.DrawItems(page.Overlay);
+            overlay.End();
+        }
+    }
+
+    private static CairoPainter Begin(
+        nint cr, TextEngine engine, DrawingList list, in PaintSettings settings, PixelTarget target)
+    {
+        var painter = new CairoPainter(cr, engine, list, settings, target);
+        Cairo.Save(cr);
+        painter.Start();
+        return painter;
+    }
+
+    private void End()
+    {
+        UseCairo();
+        Cairo.Restore(_cr);
+        Cairo.Check(Cairo.Status(_cr), "drawing a page");
     }
 
     private void Start()
@@ -160,8 +162,8 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
             return;
         }
 
+        CountWork(item, 1);
         Trace(item);
-        Budget.Step(1 + (item.VerbCount / VerbsPerStep));
         Cairo.SetFillRule(_cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
         if (item.Extra >= 0)
         {

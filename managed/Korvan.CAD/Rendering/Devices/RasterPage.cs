@@ -89,60 +89,76 @@ internal sealed unsafe class RasterPage : IDisposable
         }
     }
 
-    // What is drawn in parts is made by one thread, which draws them, too.
     private int BandsFor(Page page) =>
-        page.Replay is not null || page.List.Items.Length < MinItemsInBands || Height < MinRowsInBands
+        page.List.Items.Length < MinItemsInBands || Height < MinRowsInBands
         ? 1
         : Math.Min(Environment.ProcessorCount, MaxBands);
 
-    private void Paint(TextEngine engine, Page page, int bands)
+    private void Paint(TextEngine engine, Page page, int count)
     {
-        var engines = new TextEngine[bands];
-        var failures = new ExceptionDispatchInfo?[bands];
+        var engines = new TextEngine[count];
+        var bands = new RasterBand[count];
         engines[0] = engine;
         try
         {
-            for (int i = 1; i < bands; i++)
+            for (int i = 0; i < count; i++)
             {
-                engines[i] = engine.ForThread();
+                engines[i] ??= engine.ForThread();
+                bands[i] = Band(engines[i], page, new RowRange(
+                    (int)((long)Height * i / count), (int)((long)Height * (i + 1) / count)));
             }
 
-            ForkedProcess.RunPieces(bands, i =>
+            if (page.Replay is null)
             {
-                try
+                Run(bands, band => band.Painter.DrawItems(page.List));
+            }
+            else
+            {
+                // One thread makes the parts, and all draw each of them.
+                page.Replay(part => Run(bands, band =>
                 {
-                    PaintBand(engines[i], page, (int)((long)Height * i / bands), (int)((long)Height * (i + 1) / bands));
-                }
-                catch (Exception e) when (e is RenderException or OutOfMemoryException)
-                {
-                    failures[i] = ExceptionDispatchInfo.Capture(e);
-                }
-            });
+                    band.Engine.AddFontsOf(engine);
+                    band.Painter.DrawItems(part);
+                }));
+            }
+
+            Run(bands, band => band.End(page));
         }
         finally
         {
-            for (int i = 1; i < bands; i++)
+            Array.ForEach(bands, static band => band?.Dispose());
+            for (int i = 1; i < count; i++)
             {
                 engines[i]?.Dispose();
             }
         }
 
-        Array.Find(failures, static failure => failure is not null)?.Throw();
         Cairo.SurfaceMarkDirty(_surface.Pointer);
     }
 
-    private void PaintBand(TextEngine engine, Page page, int top, int bottom)
+    // Of failures of several bands, that of the first one is thrown.
+    private static void Run(RasterBand[] bands, Action<RasterBand> run)
+    {
+        var failures = new ExceptionDispatchInfo?[bands.Length];
+        ForkedProcess.RunPieces(bands.Length, i =>
+        {
+            try
+            {
+                run(bands[i]);
+            }
+            catch (Exception e) when (e is RenderException or OutOfMemoryException)
+            {
+                failures[i] = ExceptionDispatchInfo.Capture(e);
+            }
+        });
+        Array.Find(failures, static failure => failure is not null)?.Throw();
+    }
+
+    private RasterBand Band(TextEngine engine, Page page, RowRange rows)
     {
         int stride = Cairo.ImageSurfaceGetStride(_surface.Pointer);
-        byte* first = Cairo.ImageSurfaceGetData(_surface.Pointer) + ((long)top * stride);
-        nint band = Cairo.ImageSurfaceCreateForData(first, CairoFormat.Argb32, Width, bottom - top, stride);
-        using var surface = new NativeHandle(band, &Cairo.SurfaceDestroy);
-        Cairo.SurfaceSetDeviceOffset(band, 0, -top);
-        using var cr = new NativeHandle(Cairo.Create(band), &Cairo.Destroy);
-        var rows = new RowRange(top, bottom);
-        var target = new PixelTarget(band, rows, new ThinLinePainter(first, stride, Width, rows));
-        CairoPainter.Paint(cr.Pointer, engine, page, target);
-        Cairo.SurfaceFlush(band);
+        byte* first = Cairo.ImageSurfaceGetData(_surface.Pointer) + ((long)rows.First * stride);
+        return new RasterBand(engine, page, rows, first, Width, stride);
     }
 
     /// <summary>The pixels of one line of the picture.</summary>

@@ -87,8 +87,17 @@ internal sealed unsafe class TextEngine : IDisposable
     internal TextEngine ForThread()
     {
         var engine = new TextEngine(_look, _folders, ownsFolders: false, _strokeFaces);
-        _specs.ForEach(spec => engine.Font(spec));
+        engine.AddFontsOf(this);
         return engine;
+    }
+
+    /// <summary>Adds the fonts that the engine that this one was created by has had since then.</summary>
+    internal void AddFontsOf(TextEngine origin)
+    {
+        for (int i = _specs.Count; i < origin._specs.Count; i++)
+        {
+            Font(origin._specs[i]);
+        }
     }
 
     /// <summary>Characters that no installed font could show, over all runs measured or shown.</summary>
