@@ -57,14 +57,15 @@ internal static class BitsText
 
         if (!model.IsPartOfObject && !model.IsAbstract)
         {
-            bool isWhole = model.Bits.All(item => item.Call != "partial");
+            BitItem? partial = model.Bits.FirstOrDefault(item => item.Call == "partial");
+            string isWhole = partial is null ? "true" : partial.Guard.Length > 0 ? $"!({partial.Guard})" : "false";
             text.AppendLine("    internal override bool HasBits => true;");
-            text.AppendLine($"    internal override bool HasAllBits => {(isWhole ? "true" : "false")};");
+            text.AppendLine($"    internal override bool HasAllBits => {isWhole};");
         }
 
         text.AppendLine($"    internal {Modifier(model)}void ExchangeBits({Exchange} fields)");
         text.AppendLine("    {");
-        foreach (BitItem item in model.Bits)
+        foreach (BitItem item in model.Bits.Where(item => item.Call != "partial"))
         {
             text.AppendLine(item.Guard.Length > 0 ? $"        if ({item.Guard})" : "");
             text.AppendLine("        {");
@@ -84,8 +85,6 @@ internal static class BitsText
     {
         switch (item)
         {
-            case { Call: "partial" }:
-                return "";
             case { Call: "base" }:
                 return "base.ExchangeBits(fields);";
             case { Call: "declared" }:

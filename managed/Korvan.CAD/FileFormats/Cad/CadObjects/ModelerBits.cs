@@ -43,10 +43,22 @@ internal static class ModelerBits
     /// <summary>Carries an entity that a surface was made of, as its class and its own fields.</summary>
     internal static (int Class, byte[] Data) ExchangeProfile(BitExchange fields, int type, byte[] data)
     {
-        const int bits = 8;
         type = fields.BitLong(type);
+        return (type, ExchangeProfileData(fields, data));
+    }
+
+    /// <summary>Carries an entity that a solid was made of, or class 0 for none.</summary>
+    internal static (int Class, byte[] Data) ExchangeOptionalProfile(BitExchange fields, int type, byte[] data)
+    {
+        type = fields.BitLong(data.Length == 0 && !fields.IsReading ? 0 : type);
+        return (type, type == 0 ? [] : ExchangeProfileData(fields, data));
+    }
+
+    private static byte[] ExchangeProfileData(BitExchange fields, byte[] data)
+    {
+        const int bits = 8;
         int size = fields.CountLong(data.Length * bits);
-        return size % bits == 0 ? (type, fields.Bytes(data, size / bits))
+        return size % bits == 0 ? fields.Bytes(data, size / bits)
             : throw fields.Fault($"the profile has {size} bits, which are no whole bytes");
     }
 

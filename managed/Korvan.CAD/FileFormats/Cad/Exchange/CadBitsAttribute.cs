@@ -20,7 +20,8 @@ namespace Korvan.CAD.FileFormats.Cad.Exchange;
 /// <item><c>BS = 1</c>: a value that the class does not keep, and what is written.</item>
 /// <item><c>base</c>: the fields of the base class. <c>declared</c>: the fields in the order of their group codes and
 /// in the coding that their types have.</item>
-/// <item><c>partial</c>, at the end: further fields are not stated, so that records are kept as they are.</item>
+/// <item><c>partial</c>, at the end: further fields are not stated, so that records are kept as they are; after a
+/// condition, objects for which it holds cannot be written.</item>
 /// <item><c>ExchangeFaces()</c>: a method of the class that takes the <see cref="BitExchange"/>.</item>
 /// </list>
 /// Before an item there may be releases as years (<c>2007+</c>, <c>-1997</c>, <c>2000-2004</c>) and a condition

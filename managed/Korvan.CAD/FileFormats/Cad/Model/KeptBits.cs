@@ -16,6 +16,9 @@ internal sealed class KeptBits : KeptData
     /// <summary>Gets the graphics that a program stored with the entity.</summary>
     internal byte[] Graphics { get; init; } = [];
 
+    /// <summary>Returns what remains of an object whose record is damaged.</summary>
+    internal KeptBits WithoutRecord() => new() { Release = Release, Graphics = Graphics };
+
     internal override string FormatName => "DWG";
 
     internal override KeptData Copy() => this;

@@ -14,6 +14,16 @@ internal sealed partial class RawFields
     private const string CompoundParameter =
         ActionParameter + "100=AcDbAssocCompoundActionParam|90 BS|90 BS|n90 BL(360 H)|";
 
+    private const string SingleParameter = ActionParameter + "100=AcDbAssocSingleDependencyActionParam|90 BL|330 H|";
+
+    // Arcs of circles and ellipses, and line segments.
+    private const string Curve = "if11=(10 3BD|11 3BD|12 3BD|40 BD|50 BD|51 BD)|"
+        + "if17=(10 3BD|11 3BD|12 3BD|40 BD|41 BD|50 BD|51 BD)|if23=(10 3BD|11 3BD)";
+
+    private const string SurfaceBody = "100=AcDbAssocActionBody|v90 BL|if1-(100=AcDbAssocParamBasedActionBody|90 BL|"
+        + "90 BL|n90 BL(360 H)|90 BL|n90 BL(90 BL|1 T|90 BL|n90 BL(70 V|330 H)|330 H))|100=AcDbAssocSurfaceActionBody|"
+        + "90 BL|330 H|290 B|90 BL|290 B|70 BS|100=AcDbAssocPathBasedSurfaceActionBody|90 BL|";
+
     private const string RenderSettings =
         "100=AcDbRenderSettings|90 BL|1 T|290 B|290 B|290 B|290 B|1 T|1 T|90 BL|";
 
@@ -32,11 +42,18 @@ internal sealed partial class RawFields
         ["ACDBASSOCALIGNEDDIMACTIONBODY"] = new(
             "100=AcDbAssocActionBody|v90 BL|if1-(100=AcDbAssocParamBasedActionBody|90 BL|90 BL|n90 BL(360 H)|90 BL|"
             + "90 BL|90 BL)|if2+(90 BL)|330 H|100=ACDBASSOCALIGNEDDIMACTIONBODY|90 BL|330 H|330 H"),
+        ["ACDBASSOCEDGEACTIONPARAM"] = new(SingleParameter + "100=AcDbAssocEdgeActionParam|90 BL|330 H|v290 B|"
+            + $"if1=(v90 BL|{Curve}|if47=(n90 BL(v90 BL|{Curve})))"),
+        ["ACDBASSOCEXTRUDEDSURFACEACTIONBODY"] = new(SurfaceBody + "100=AcDbAssocExtrudedSurfaceActionBody|90 BL"),
+        ["ACDBASSOCLOFTEDSURFACEACTIONBODY"] = new(SurfaceBody + "100=AcDbAssocLoftedSurfaceActionBody|90 BL"),
+        ["ACDBASSOCPLANESURFACEACTIONBODY"] = new(SurfaceBody + "100=AcDbAssocPlaneSurfaceActionBody|90 BL"),
+        ["ACDBASSOCREVOLVEDSURFACEACTIONBODY"] = new(SurfaceBody + "100=AcDbAssocRevolvedSurfaceActionBody|90 BL|"
+            + "290 B"),
+        ["ACDBASSOCSWEPTSURFACEACTIONBODY"] = new(SurfaceBody + "100=AcDbAssocSweptSurfaceActionBody|90 BL"),
         ["ACDBASSOCOSNAPPOINTREFACTIONPARAM"] = new(
             CompoundParameter + "90 BS|90 BL|330 H|100=ACDBASSOCOSNAPPOINTREFACTIONPARAM|90 BS|90 RC|40 BD"),
         ["ACDBASSOCPATHACTIONPARAM"] = new(CompoundParameter + "100=AcDbAssocPathActionParam|90 BL"),
-        ["ACDBASSOCVERTEXACTIONPARAM"] = new(ActionParameter + "100=AcDbAssocSingleDependencyActionParam|90 BL|330 H|"
-            + "100=AcDbAssocVertexActionParam|90 BL|10 3BD"),
+        ["ACDBASSOCVERTEXACTIONPARAM"] = new(SingleParameter + "100=AcDbAssocVertexActionParam|90 BL|10 3BD"),
         ["ASSOCDIMDEPENDENCYBODY"] = new("100=AcDbAssocDependencyBody|90 BS|100=AcDbImpAssocDimDependencyBodyBase|"
             + "90 BS|1 T|100=AcDbAssocDimDependencyBody|90 BS"),
         ["MENTALRAYRENDERSETTINGS"] = new(RenderSettings + "100=AcDbMentalRayRenderSettings|90 BL|90 BL|90 BL|70 BS|"

@@ -1,6 +1,7 @@
 using System;
 using System.Collections.Generic;
 using System.Globalization;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
@@ -10,7 +11,8 @@ namespace Korvan.CAD.FileFormats.Cad.Model;
 /// code and a coding (<c>40 BD</c>), in the order of text files. <c>100=AcDbText</c> is a tag that text files have
 /// only; <c>2018+ 300 T</c> begins with a release; a field after <c>&gt;</c> stands in databases where <c>&lt;</c> is;
 /// <c>n70 BL(10 3BD)</c> is the number of the fields in parentheses; <c>v90 BS</c> is a version, and fields as in
-/// <c>if1+(90 BL)</c> are there from a version on, as in <c>if1-(90 BL)</c> up to one.
+/// <c>if1+(90 BL)</c> are there from a version on, as in <c>if1-(90 BL)</c> up to one, and as in <c>if1=(90 BL)</c> in
+/// this one only; <c>70 V</c> is the group code of a value, and the value.
 /// </summary>
 internal sealed partial class RawFields
 {
@@ -20,6 +22,9 @@ internal sealed partial class RawFields
 
     /// <summary>Returns the fields of the objects of a name; null where they are not known.</summary>
     internal static RawFields? Of(string name) => Lists.GetValueOrDefault(name);
+
+    /// <summary>Returns the fields of a list.</summary>
+    internal static RawFields Parse(string list) => new(list);
 
     /// <summary>Carries the fields.</summary>
     /// <param name="fields">What carries them.</param>
@@ -63,9 +68,10 @@ internal sealed partial class RawFields
                     return;
                 case FieldKind.FromVersion when _version >= field.Code:
                 case FieldKind.UpToVersion when _version <= field.Code:
+                case FieldKind.OfVersion when _version == field.Code:
                     Carry(field.Items);
                     return;
-                case FieldKind.FromVersion or FieldKind.UpToVersion:
+                case FieldKind.FromVersion or FieldKind.UpToVersion or FieldKind.OfVersion:
                     return;
             }
 
@@ -105,6 +111,7 @@ internal sealed partial class RawFields
         Version,
         FromVersion,
         UpToVersion,
+        OfVersion,
     }
 
     /// <summary>A field of the list.</summary>
@@ -136,7 +143,12 @@ internal sealed partial class RawFields
             string plain = open >= 0 ? text[..open] : text;
             if (plain.StartsWith("if", StringComparison.Ordinal))
             {
-                FieldKind bound = plain[^1] == '+' ? FieldKind.FromVersion : FieldKind.UpToVersion;
+                FieldKind bound = plain[^1] switch
+                {
+                    '+' => FieldKind.FromVersion,
+                    '-' => FieldKind.UpToVersion,
+                    _ => FieldKind.OfVersion,
+                };
                 return new Field(bound, Integer(plain[2..^1]), "", "", 0, items);
             }
 
@@ -172,6 +184,7 @@ internal sealed partial class RawFields
         private readonly Field _field;
         private readonly string[] _given;
         private readonly string _trueColor;
+        private readonly AssocEvaluatedVariant _variant = new();
 
         internal Slot(Field field, List<CadCodeValue> tags, ref int next)
         {
@@ -186,6 +199,10 @@ internal sealed partial class RawFields
 
             bool isTrue = next < tags.Count && tags[next].Attribute == field.Code + TrueColor;
             _trueColor = field.Coding == "CMC" && isTrue ? tags[next++].Value.Trim() : "";
+            if (field.Coding == "V")
+            {
+                TakeVariant(tags, ref next);
+            }
         }
 
         internal List<CadCodeValue> Tags { get; } = [];
@@ -214,6 +231,9 @@ internal sealed partial class RawFields
                     break;
                 case "CMC":
                     CarryColor(fields);
+                    break;
+                case "V":
+                    CarryVariant(fields);
                     break;
                 default:
                     CarryNumbers(fields);
@@ -254,6 +274,42 @@ internal sealed partial class RawFields
             int at = tags.FindIndex(next, tag => tag.Attribute == Marker && tag.Value.Trim() == name);
             next = at < 0 ? next : at + 1;
             return name;
+        }
+
+        private void TakeVariant(List<CadCodeValue> tags, ref int next)
+        {
+            int code = (int)Number(_given[0]);
+            string value = code > 0 ? Take(tags, code, ref next) : "";
+            bool isPoint = code is >= 10 and < 20;
+            _variant.Code = (short)code;
+            (_variant.Text, _variant.Number, _variant.Integer) = (value, Number(value), (int)Number(value));
+            _variant.Point.X = Number(value);
+            _variant.Point.Y = isPoint ? Number(Take(tags, code + 10, ref next)) : 0;
+        }
+
+        private void CarryVariant(BitExchange fields)
+        {
+            _variant.ExchangeBits(fields);
+            int code = _variant.Code;
+            Add(Text(code));
+            switch (code)
+            {
+                case 0:
+                    break;
+                case >= 10 and < 20:
+                    Tags.Add(new CadCodeValue(code, Text(_variant.Point.X)));
+                    Tags.Add(new CadCodeValue(code + 10, Text(_variant.Point.Y)));
+                    break;
+                case (>= 40 and < 60) or (>= 140 and < 150):
+                    Tags.Add(new CadCodeValue(code, Text(_variant.Number)));
+                    break;
+                case < 10 or 91 or (>= 300 and < 370):
+                    Tags.Add(new CadCodeValue(code, _variant.Text));
+                    break;
+                default:
+                    Tags.Add(new CadCodeValue(code, Text(_variant.Integer)));
+                    break;
+            }
         }
 
         private void CarryColor(BitExchange fields)

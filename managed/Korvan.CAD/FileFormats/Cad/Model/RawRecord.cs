@@ -36,6 +36,11 @@ internal static class RawRecord
                 break;
         }
 
+        if (fields.DataRemaining > 0)
+        {
+            throw fields.Fault($"{fields.DataRemaining} bits more than are known");
+        }
+
         if (fields.IsReading)
         {
             result.ForEach(tag => KeptTags.Of(item).Tags.Add(new KeptTag(KeptTag.Verbatim, tag)));

@@ -1,13 +1,20 @@
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.Assoc;
 
 /// <summary>Geometric and dimensional constraints of entities in a plane.</summary>
 [CadSequence]
 [CadObject("ACDBASSOC2DCONSTRAINTGROUP", Subclass = "AcDbAssoc2dConstraintGroup")]
+[CadBits(
+    "base", "BL GroupVersion", "B GroupFlags", "3BD PlaneOrigin", "3BD PlaneXAxis", "3BD PlaneYAxis", "H GroupOwner",
+    "H[BL] GeometryHandles", "ExchangeNodes()", "if HasUnknownNodes: partial")]
 public partial class CadAcDbAssoc2dConstraintGroup : CadAcDbAssocAction
 {
+    // The largest number of a node that there was.
+    private int _maxNumber;
+
     /// <summary>Creates the object with its defaults.</summary>
     public CadAcDbAssoc2dConstraintGroup()
     {
@@ -49,5 +56,26 @@ public partial class CadAcDbAssoc2dConstraintGroup : CadAcDbAssocAction
     /// <summary>Gets the tags of the nodes, whose classes differ.</summary>
     internal List<CadCodeValue> Nodes { get; } = [];
 
+    private bool HasUnknownNodes => ConstraintNodes.Parse(Nodes) is null;
+
     partial void OnExchange(ObjectExchange fields) => fields.Tags(Nodes);
+
+    private void ExchangeNodes(BitExchange fields)
+    {
+        ConstraintNodes nodes = (fields.IsReading ? null : ConstraintNodes.Parse(Nodes)) ?? new ConstraintNodes();
+        _maxNumber = fields.BitLong(System.Math.Max(_maxNumber, nodes.MaxNumber));
+        nodes.Exchange(fields);
+        if (!fields.IsReading)
+        {
+            return;
+        }
+
+        if (fields.DataRemaining > 0)
+        {
+            throw fields.Fault($"{fields.DataRemaining} bits more than are known");
+        }
+
+        NodeCount = nodes.Count;
+        Nodes.AddRange(nodes.ToTags(Owner == 0 ? "0" : HandleText.Format(Owner)));
+    }
 }

@@ -59,7 +59,8 @@ internal sealed class PieceReader(DwgFile file, RecordReader reader, ObjectSet o
         }
     }
 
-    // Others refer to the object by the handle that the map states.
+    // Others refer to the object by the handle that the map states. A record that states another one is not written
+    // back.
     private void VerifyHandle(RecordContent content, in RecordHeader header, int index)
     {
         if (content.Target is { } target && target.Handle != file.Map.Handles[index])
@@ -68,6 +69,7 @@ internal sealed class PieceReader(DwgFile file, RecordReader reader, ObjectSet o
             defects.Add(
                 RecordDefects.Stage.Content, index, target.DxfName, new DwgFault(header.Fields, cause));
             target.Handle = file.Map.Handles[index];
+            target.Kept = (target.Kept as KeptBits)?.WithoutRecord() ?? target.Kept;
         }
     }
 

@@ -32,8 +32,6 @@ public partial class LossTests(ITestOutputHelper output)
     [
         (".*", "^(ACAM|ACG|ACI|ACM|AM_?|AMD|AMG|AMI|CAMS|CSAC|DM|MAPI|TCH_)\\w* \\w+ is missing", NoFields),
         (".*", "^ACAD_PROXY_OBJECT \\w+ is missing", NoFields),
-        (".*", "^ACDBASSOC(2DCONSTRAINTGROUP|\\w+SURFACEACTIONBODY|EDGEACTIONPARAM) \\w+ is missing", NoFields),
-        (".*", "^ACSH_(EXTRUSION|SWEEP)_CLASS \\w+ is missing", NoFields),
         (".*", "^BLOCK \\w+: other entities", NoTarget),
         (AnyDwg, "^(DICTIONARY|XRECORD|ACDBASSOC\\w+) \\w+(: another owner| is missing)", NoTarget),
         (AnyDwg, "^DICTIONARY \\w+: AcDbDictionary (3|350|360) ", NoTarget),
