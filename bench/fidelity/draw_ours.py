@@ -1,4 +1,4 @@
-"""Renders the model space of drawings, on white, in the formats that are named.
+"""Renders the model space of drawings, on white, in the formats that are named; dxf saves the drawings themselves.
 
     build/python bench/fidelity/draw_ours.py SIDE FOLDER png,pdf DRAWING ...
 
@@ -22,6 +22,7 @@ OPTIONS = {
     "emf": imageoptions.EmfOptions,
     "wmf": imageoptions.WmfOptions,
     "html": imageoptions.Html5Options,
+    "dxf": imageoptions.DxfOptions,
 }
 MARGIN = 0.01
 
@@ -49,7 +50,8 @@ def main() -> None:
         image = korvan.cad.Image.load(drawing, load)
         for extension in extensions.split(","):
             options = OPTIONS[extension]()
-            options.vector_rasterization_options = _page(float(side))
+            if extension != "dxf":
+                options.vector_rasterization_options = _page(float(side))
             target = f"{name}.{extension}"
             try:
                 image.save(target, options)

@@ -1,11 +1,11 @@
 """Holds rendered drawings beside what other programs render: `make fidelity`.
 
-Three kinds of tables: drawings beside the drawing add-on of ezdxf, where EZDXF names a checkout of it; drawings as
-other programs read them; our pages as other programs show them. The last two are held beside our own pixels. A figure
-is the share of the foreground that has foreground of the other side within two pixels. Programs that are not installed
+Four kinds of tables: drawings beside the drawing add-on of ezdxf, where EZDXF names a checkout of it; drawings as
+other programs read them; our pages as other programs show them; DWG beside DXF, both by us. The second and the third
+are held beside our own pixels. A figure is the share of the foreground that has foreground of the other side within two pixels. Programs that are not installed
 are named and left out.
 
-    build/python bench/fidelity/run.py [--drawings FOLDER] [--out FOLDER] [--only TEXT] [drawings] [readers] [pages]
+    build/python bench/fidelity/run.py [--drawings FOLDER] [--out FOLDER] [--only TEXT] [TABLE ...]
 """
 
 from __future__ import annotations
@@ -153,6 +153,28 @@ def _pages(drawings: list[Path], out: Path, known: dict[str, dict[str, str]]) ->
     return all(held)
 
 
+def _twins(drawings: list[Path], out: Path, known: dict[str, dict[str, str]], only: str) -> bool:
+    """DWG beside the DXF of the same name, and beside our DXF of it, loaded again."""
+    folder = drawings[0].parent
+    encoded = sorted(path for path in (folder.parent / "dwg").glob("*.dwg") if only in path.name)
+    _ours(encoded, out / "dwg", ["png", "dxf"], {})
+    twins = {path: folder / f"{path.stem}.dxf" for path in encoded if (folder / f"{path.stem}.dxf").exists()}
+    saved = {path: out / "dwg" / f"{path.name}.dxf" for path in encoded}
+    held = []
+    for title, key, pairs in (("the DXF of the same name", "twins", twins), ("our DXF of it, loaded again", "saved", saved)):
+        there = [path for path in pairs if pairs[path].exists()]
+        _ours([pairs[path] for path in there], out / key, ["png"], {})
+        shares = dict(zip(there, _compare([
+            (out / key / f"{pairs[path].name}.png", out / "dwg" / f"{path.name}.png",
+             out / f"dwg-{key}" / f"{path.name}.png") for path in there])))
+        table = Table(f"DWG beside {title}, both by us", ("", "its, in ours", "ours, in its", "below the aim because"))
+        rows = [_add(table, path.name, shares.get(path, "no DXF was saved"), DRAWING_AIM, known[key]) for path in pairs]
+        table.print()
+        print(f"  aim, {DRAWING_AIM:g} % both ways or a known reason: {'held' if all(rows) else 'MISSED'}")
+        held += rows
+    return all(held)
+
+
 def _pages_by(
     viewer: Viewer, drawings: list[Path], out: Path, known: dict[str, dict[str, str]], aim: float,
 ) -> bool:
@@ -178,16 +200,21 @@ def main() -> int:
     parser.add_argument("--drawings", type=Path, default=ROOT.parent / "shared" / "drawings" / "dxf")
     parser.add_argument("--out", type=Path, default=ROOT / "build" / "fidelity")
     parser.add_argument("--only", default="", help="text that the names of the drawings have to contain")
-    parser.add_argument("tables", nargs="*", help="drawings, readers, pages; all by default")
+    parser.add_argument("tables", nargs="*", help="drawings, readers, pages, twins; all by default")
     arguments = parser.parse_args()
     drawings = sorted(path for path in arguments.drawings.glob("*.dxf*") if arguments.only in path.name)
     if not drawings:
         print(f"{arguments.drawings} has no drawings: nothing is compared")
         return 0
     known = tomllib.loads((HERE / "known.toml").read_text(encoding="utf-8"))
-    held = [table(drawings, arguments.out.resolve(), known[name]) for name, table in
-            (("drawings", _drawings), ("readers", _readers), ("pages", _pages))
-            if not arguments.tables or name in arguments.tables]
+    out = arguments.out.resolve()
+    tables = {
+        "drawings": lambda: _drawings(drawings, out, known["drawings"]),
+        "readers": lambda: _readers(drawings, out, known["readers"]),
+        "pages": lambda: _pages(drawings, out, known["pages"]),
+        "twins": lambda: _twins(drawings, out, known["twins"], arguments.only),
+    }
+    held = [table() for name, table in tables.items() if not arguments.tables or name in arguments.tables]
     return 0 if all(held) else 1
 
 

@@ -202,7 +202,8 @@ internal static class TextPainter
     {
         if (line.Horizontal == HorizontalAlign.Middle)
         {
-            return -line.Height / 2;
+            // The middle of capitals with what is below the baseline; "middle" of the verticals is that of capitals.
+            return line.Height * (DescenderPart - 1) / 2;
         }
 
         return line.Vertical switch

@@ -200,7 +200,7 @@ public class PixelTests
     [InlineData(0, 0, 0, 1, 0, 1)] // left on the base line: right of and above the point
     [InlineData(1, 0, -0.5, 0.5, 0, 1)]
     [InlineData(2, 0, -1, 0, 0, 1)]
-    [InlineData(4, 0, -0.5, 0.5, -0.5, 0.5)] // the middle of all
+    [InlineData(4, 0, -0.5, 0.5, -1 / 3.0, 2 / 3.0)] // the middle of all, with what is below the base line
     [InlineData(0, 3, 0, 1, -1, 0)] // top left
     [InlineData(1, 2, -0.5, 0.5, -0.5, 0.5)]
     [InlineData(2, 3, -1, 0, -1, 0)]
