@@ -42,6 +42,35 @@ internal static class FolderFiles
             }
         }
 
+        return FindIgnoringCase(folder, bare);
+    }
+
+    /// <summary>Names come from systems that take upper and lower case as the same.</summary>
+    private static string? FindIgnoringCase(string folder, string name)
+    {
+        const int mostFiles = 10_000;
+        try
+        {
+            int seen = 0;
+            foreach (string path in name.Length > 0 ? Directory.EnumerateFiles(folder) : [])
+            {
+                if (++seen > mostFiles)
+                {
+                    break;
+                }
+
+                if (Path.GetFileName(path).Equals(name, StringComparison.OrdinalIgnoreCase)
+                    && PosixFile.KindOf(path) == PosixFile.Kind.Regular)
+                {
+                    return path;
+                }
+            }
+        }
+        catch (Exception e) when (e is IOException or UnauthorizedAccessException)
+        {
+            return null;
+        }
+
         return null;
     }
 

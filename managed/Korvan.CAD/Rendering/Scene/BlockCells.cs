@@ -28,7 +28,7 @@ internal static class BlockCells
 
     /// <summary>Returns why the cells of a reference cannot be drawn; null if they can.</summary>
     internal static string? Refuse(CadInsertObject insert, BlockInfo block) =>
-        block.Entities.Count > 0 && Columns(insert) * Rows(insert) > MaxCells
+        (block.Entities.Count > 0 || block.IsExternal) && Columns(insert) * Rows(insert) > MaxCells
             ? $"reference that repeats the block \"{block.Name}\" more than {MaxCells} times"
             : null;
 

@@ -38,6 +38,15 @@ internal sealed class PenResolver
         _plots = new PlotColors(style.Background);
     }
 
+    private PenResolver(PenResolver other, SceneTables tables)
+    {
+        (_tables, _style, _list) = (tables, other._style, other._list);
+        (_showWeights, _plots, Styles) = (other._showWeights, other._plots, other.Styles);
+    }
+
+    /// <summary>Returns a resolver for another drawing on the same page.</summary>
+    internal PenResolver For(SceneTables tables) => new(this, tables);
+
     /// <summary>Gets the styles that the page is plotted by; null for none.</summary>
     internal PlotStyleTable? Styles { get; init; }
 

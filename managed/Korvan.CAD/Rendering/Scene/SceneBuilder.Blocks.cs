@@ -25,7 +25,13 @@ internal sealed partial class SceneBuilder
         }
 
         Pen pen = _pens.PenOf(insert, layer, context);
-        if (_tables.Blocks.TryGetValue(insert.Name, out BlockInfo? block) && !block.IsExternal)
+        bool isKnown = _tables.Blocks.TryGetValue(insert.Name, out BlockInfo? block);
+        if (isKnown && block!.IsOverlay && _tables.External.IsNested)
+        {
+            return;
+        }
+
+        if (isKnown && (!block!.IsExternal || _tables.External.Find(block, _tables) is not null))
         {
             DrawCells(insert, block, layer, pen, context);
         }
@@ -62,7 +68,7 @@ internal sealed partial class SceneBuilder
         }
 
         Vec3[]? boundary = _tables.Clips.Find(insert);
-        bool isEmpty = block.Entities.Count == 0 && insert.Attributes.Count == 0;
+        bool isEmpty = block.Entities.Count == 0 && insert.Attributes.Count == 0 && !block.IsExternal;
         foreach ((Vec3 cell, Affine3 map) in isEmpty ? [] : BlockCells.Of(insert, block, context))
         {
             Budget.Step();
@@ -112,10 +118,33 @@ internal sealed partial class SceneBuilder
         }
 
         _deepest = Math.Max(_deepest, context.Depth + 1);
-        if (!TryPlaceSymbol(block, map, layer, pen, context))
+        BlockContext inside = context.Inside(block, map, layer, pen);
+        if (block.IsExternal)
         {
-            DrawSpace(block, context.Inside(block, map, layer, pen));
+            DrawExternal(block, inside);
         }
+        else if (!TryPlaceSymbol(block, map, layer, pen, context))
+        {
+            DrawSpace(block, inside);
+        }
+    }
+
+    /// <summary>Draws the model of another drawing, with its own tables.</summary>
+    private void DrawExternal(BlockInfo block, BlockContext inside)
+    {
+        if (_tables.External.Find(block, _tables) is not { } scene)
+        {
+            return;
+        }
+
+        Func<string, FontSpec> fonts = _canvas.StyleFont;
+        _canvas.StyleFont = name => scene.Tables.Style(name).Font;
+        var builder = new SceneBuilder(this, scene.Tables);
+        builder.DrawSpace(scene.Model, inside);
+        _canvas.StyleFont = fonts;
+        _drawn = builder._drawn;
+        _isPlaceBound |= builder._isPlaceBound;
+        _infinite.AddRange(builder._infinite);
     }
 
     private void DrawDimension(CadDimensionBase dimension, LayerInfo layer, BlockContext context)

@@ -47,6 +47,14 @@ internal sealed partial class SceneBuilder : IGeometrySink
             tables.Settings.Unreadable, name => list.Skip($"header variable {name} without a readable value"));
     }
 
+    /// <summary>A builder for another drawing on the same canvas.</summary>
+    private SceneBuilder(SceneBuilder outer, SceneTables tables)
+    {
+        (_tables, _canvas, _drawn) = (tables, outer._canvas, outer._drawn);
+        _style = outer._style with { HasSymbols = false };
+        _pens = outer._pens.For(tables);
+    }
+
     private DrawingList List => _canvas.List;
 
     /// <summary>The list of the model, in the plane of the view.</summary>

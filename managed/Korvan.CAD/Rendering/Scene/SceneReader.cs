@@ -14,6 +14,9 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <summary>Makes a scene of a drawing: its tables by name, its blocks, and its layouts with their sheets.</summary>
 internal static class SceneReader
 {
+    // Group code 70 of a block.
+    private const int OverlayFlag = 8;
+
     internal static DrawingScene Read(CadDrawing drawing)
     {
         SceneTables tables = ReadTables(drawing);
@@ -50,6 +53,7 @@ internal static class SceneReader
             Shapes = ShapeFiles.Of(drawing),
             Clips = ClipBoundaries.Of(drawing),
             PlotStyles = PlotStyleFiles.Of(drawing),
+            External = new ExternalDrawings(drawing.Folder, isNested: false),
             Dimensions = new DimensionStyles(drawing),
         };
         var styleNames = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
@@ -162,6 +166,8 @@ internal static class SceneReader
         return new BlockInfo(block.Name, origin, block.Entities.ItemsOf())
         {
             IsExternal = block.IsExternalReference,
+            IsOverlay = (block.Flags & OverlayFlag) != 0,
+            ExternalPath = block.XRefPathName,
             DrawOrder = order,
         };
     }

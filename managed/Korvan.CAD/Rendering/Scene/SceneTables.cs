@@ -63,6 +63,12 @@ internal sealed record BlockInfo(string Name, Vec3 Base, IReadOnlyList<CadEntity
 {
     internal bool IsExternal { get; init; }
 
+    /// <summary>Gets whether an external drawing is left out where the drawing with this block is itself one.</summary>
+    internal bool IsOverlay { get; init; }
+
+    /// <summary>Gets the path of an external drawing, as the file states it.</summary>
+    internal string ExternalPath { get; init; } = string.Empty;
+
     /// <summary>Sort keys by entity handle, where the draw order differs from the order in the file.</summary>
     internal IReadOnlyDictionary<ulong, ulong>? DrawOrder { get; init; }
 }
@@ -140,6 +146,9 @@ internal sealed class SceneTables
 
     /// <summary>The symbols of the shape files that the drawing names.</summary>
     internal ShapeFiles Shapes { get; set; } = ShapeFiles.None;
+
+    /// <summary>The drawings that external blocks stand for.</summary>
+    internal ExternalDrawings External { get; set; } = ExternalDrawings.None;
 
     /// <summary>The plot styles that page setups name.</summary>
     internal PlotStyleFiles PlotStyles { get; set; } = PlotStyleFiles.None;

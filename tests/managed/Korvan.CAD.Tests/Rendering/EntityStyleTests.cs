@@ -160,6 +160,13 @@ public class EntityStyleTests
 
         type.ComplexTags[0] = (2, new CadCodeValue(74, "4")); // a shape, which no font has
         Assert.DoesNotContain(DisplayKind.Text, Kinds(Build(drawing)));
+
+        // Strokes of the texts leave the dashes of the line as they are.
+        type.ComplexTags[0] = (2, new CadCodeValue(74, "2"));
+        drawing.Styles[0].PrimaryFontName = "txt.shx";
+        list = Build(drawing);
+        Assert.Equal(60, PathMeasure.Length(PathOf(
+            list, Assert.Single(list.Items.ToArray(), static item => item.Dash >= 0))), 9);
     }
 
     [Theory]

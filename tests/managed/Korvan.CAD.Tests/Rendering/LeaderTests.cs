@@ -4,6 +4,7 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 using Xunit;
@@ -41,6 +42,31 @@ public class LeaderTests
             DoglegLength = 8,
         });
         Assert.Equal(expected, Build(leader).Items.ToArray().Count(item => item.Kind == DisplayKind.Stroke));
+    }
+
+    [Theory]
+    [InlineData(1, 5, 1, 0)]
+    [InlineData(5, 1, 2, 0)] // the last line is underlined, from the end of the landing on
+    [InlineData(5, 5, 2, 40)] // from the right
+    public void Lines_under_the_text_are_those_of_its_side(short left, short right, int expected, double at)
+    {
+        CadMLeader leader = Leader(isFramed: false);
+        (leader.ContextData.LeftAttachment, leader.ContextData.RightAttachment) = (left, right);
+        leader.ContextData.LeaderNodes.Add(new CadMLeaderNode
+        {
+            LastLeaderLinePoint = new Cad3DPoint(at == 0 ? -10 : at, 0, 0),
+            DoglegVector = new Cad3DPoint(at == 0 ? 1 : -1, 0, 0),
+            DoglegLength = 8,
+        });
+        DrawingList list = Build(leader);
+        DisplayItem[] lines = [.. list.Items.ToArray().Where(item => item.Kind == DisplayKind.Stroke)];
+        Assert.Equal(expected, lines.Length);
+        if (expected == 2)
+        {
+            Bounds2 text = Build(Leader(isFramed: false)).Bounds;
+            double far = SceneList.PathOf(list, lines[1]).Current.X;
+            Assert.Equal(at == 0 ? text.MaxX : text.MinX, far, 0.2);
+        }
     }
 
     [Theory]

@@ -7,6 +7,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Scene;
@@ -127,6 +128,22 @@ public class SceneTests
         Assert.Contains("SHOWN", text);
         Assert.DoesNotContain("TAG", text);
         Assert.DoesNotContain("HIDDEN", text);
+    }
+
+    [Theory]
+    [InlineData(0, 3)]
+    [InlineData(1, 0)] // hidden
+    public void Attributes_of_several_lines_show_all_of_them(short flags, int runs)
+    {
+        CadImage drawing = TestPage.Drawing();
+        TestPage.AddBlock(drawing, "B");
+        CadInsertObject insert = TestPage.Insert("B");
+        var lines = new CadMText { Text = "one\\Ptwo\\Pthree", InitialTextHeight = 5 };
+        var attribute = new CadAttrib { DefaultValue = "one", TextHeight = 5, AttFlags = flags };
+        KeptTags.Of(attribute).Embedded = EmbeddedMText.ToTags(lines);
+        insert.Attributes.Add(attribute);
+        drawing.AddEntity(insert);
+        Assert.Equal(runs, SceneList.Kinds(SceneList.Build(drawing)).Count(static kind => kind == DisplayKind.Text));
     }
 
     [Fact]

@@ -148,6 +148,17 @@ public class SheetTests
     }
 
     [Fact]
+    public void Fractions_of_the_first_line_stay_within_the_text_box()
+    {
+        using var engine = new TextEngine();
+        var start = new MTextFormat(FontSpec.Default, 1, 1, 0, 1, default, StackAlign.Baseline, false, false, false,
+            false);
+        MTextLayout layout = MTextLayout.Create(
+            engine, MTextParser.Parse("\\S1/2;", start), new MTextFrame(0, 1, 1, false), 1);
+        Assert.InRange(layout.Runs.Max(run => run.Y) + 1, -0.2, 0.01);
+    }
+
+    [Fact]
     public void Mirrored_text_keeps_its_axes()
     {
         // Seen from below, without a direction of its own: the world's x still leads, and y runs down.

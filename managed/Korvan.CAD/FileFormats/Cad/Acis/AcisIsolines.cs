@@ -5,14 +5,17 @@ using Korvan.CAD.Geometry;
 namespace Korvan.CAD.FileFormats.Cad.Acis;
 
 /// <summary>
-/// Adds lines on cylinders, cones, spheres and tori, which have few edges of their own, as far as they are in the face.
+/// Adds lines on cylinders, cones, spheres, tori and splines, which have few edges of their own, as far as they are in the
+/// face.
 /// Faces with edges that are not on their surface get none.
 /// </summary>
 /// <param name="records">The records of the body.</param>
 /// <param name="endsOf">Returns what an edge points to.</param>
 /// <param name="pointsOf">Returns points along an edge from its start to its end; null for unknown curves.</param>
+/// <param name="splines">The splines of the body.</param>
 internal sealed class AcisIsolines(
-    List<SatRecord> records, Func<SatRecord, AcisEdge?> endsOf, Func<AcisEdge, List<Vec3>?> pointsOf)
+    List<SatRecord> records, Func<SatRecord, AcisEdge?> endsOf, Func<AcisEdge, List<Vec3>?> pointsOf,
+    SatSplines splines)
 {
     /// <summary>The default of the header variable ISOLINES.</summary>
     private const int Count = 4;
@@ -23,13 +26,75 @@ internal sealed class AcisIsolines(
     {
         foreach (SatRecord face in records)
         {
-            if (face.Type == "face" && Find(face, static type => type.EndsWith("-surface", StringComparison.Ordinal))
-                is SatRecord record && AcisSurface.Of(record) is AcisSurface surface
-                && TrimOf(face, surface) is AcisTrim trim)
+            if (face.Type != "face" || Find(face, static type => type.EndsWith("-surface", StringComparison.Ordinal))
+                is not SatRecord record)
+            {
+                continue;
+            }
+
+            if (record.Type == "spline-surface")
+            {
+                AddSplineLines(face, record, wireframe, map);
+            }
+            else if (AcisSurface.Of(record) is AcisSurface surface && TrimOf(face, surface) is AcisTrim trim)
             {
                 AddLines(surface, trim, surface.IsInward != face.HasKeyword(Reversed), wireframe, map);
             }
         }
+    }
+
+    private void AddSplineLines(SatRecord face, SatRecord record, AcisWireframe wireframe, Affine3 map)
+    {
+        if (splines.DefinitionOf(record) is not var (definition, token) || BoundaryOf(face) is not { } edges)
+        {
+            return;
+        }
+
+        bool isFlipped = record.HasKeyword(Reversed) != face.HasKeyword(Reversed);
+        foreach (AcisSplineSurface surface in AcisSplineSurface.Read(definition, token))
+        {
+            if (AcisSplineFace.Lines(surface, edges, Count, isFlipped) is { } lines)
+            {
+                lines.ForEach(line => wireframe.Polylines.Add(Array.ConvertAll(line, map.Point)));
+                return;
+            }
+        }
+    }
+
+    /// <summary>Returns points along the edges of a face; null where one has a curve that is not known. Edges that the
+    /// face has on both sides are no boundary.</summary>
+    private List<List<Vec3>>? BoundaryOf(SatRecord face)
+    {
+        List<(SatRecord Edge, bool IsReversed)> coedges = EdgesOf(face);
+        var uses = new Dictionary<string[], int>();
+        coedges.ForEach(one => uses[one.Edge.Tokens] = uses.GetValueOrDefault(one.Edge.Tokens) + 1);
+        List<List<Vec3>> boundary = [];
+        foreach ((SatRecord record, bool isReversed) in coedges)
+        {
+            if (endsOf(record) is not AcisEdge edge)
+            {
+                return null;
+            }
+
+            if (edge.Curve < 0 || uses[record.Tokens] > 1)
+            {
+                continue;
+            }
+
+            if (pointsOf(edge) is not List<Vec3> points)
+            {
+                return null;
+            }
+
+            if (isReversed)
+            {
+                points.Reverse();
+            }
+
+            boundary.Add(points);
+        }
+
+        return boundary;
     }
 
     private static void AddLines(

@@ -64,7 +64,8 @@ internal sealed class AcisReader
 
         if (hasEdges)
         {
-            new AcisIsolines(reader._records, reader.EndsOf, reader.PointsOf).AddTo(reader._wireframe, reader._map);
+            new AcisIsolines(reader._records, reader.EndsOf, reader.PointsOf, reader._plainSplines)
+                .AddTo(reader._wireframe, reader._map);
         }
         else
         {

@@ -36,27 +36,32 @@ internal sealed class SatSplines
     }
 
     /// <summary>Returns the spline of a curve that has one; null for other definitions.</summary>
-    internal AcisSpline? Of(in SatRecord curve)
+    internal AcisSpline? Of(in SatRecord curve) =>
+        DefinitionOf(curve) is var (record, token) ? Shared(record, token) : null;
+
+    /// <summary>Returns the record and the token where the definition of a curve or surface begins; null for one without
+    /// a definition.</summary>
+    internal (SatRecord Record, int Token)? DefinitionOf(in SatRecord user)
     {
-        int at = curve.Find(Open);
-        if (at < 0 || at + 1 >= curve.Tokens.Length)
+        int at = user.Find(Open);
+        if (at < 0 || at + 1 >= user.Tokens.Length)
         {
             return null;
         }
 
-        if (curve.Tokens[at + 1] != Reference)
+        if (user.Tokens[at + 1] != Reference)
         {
-            return Shared(curve, at);
+            return (user, at);
         }
 
-        double index = curve.Number(at + 2);
+        double index = user.Number(at + 2);
         if (!(index >= 0) || index >= _definitions.Count)
         {
             return null;
         }
 
         (int record, int token) = _definitions[(int)index];
-        return Shared(_records[record], token);
+        return (_records[record], token);
     }
 
     // Any number of edges may point to one curve.
