@@ -6,7 +6,7 @@ import io
 import unittest
 
 from korvan import cad
-from korvan._entity_rows import KINDS, entity_rows
+from korvan._entity_rows import KINDS, entity_bounds, entity_rows
 from korvan.cad.fileformats.cad import CadImage
 
 HEADER = "0\nSECTION\n2\nENTITIES\n"
@@ -66,6 +66,20 @@ class Rows(unittest.TestCase):
                 entity_rows(source, "POINT")
         with self.assertRaisesRegex(RuntimeError, "has to be a drawing, a block or a list"):
             entity_rows(cad.Color.red, "POINT")
+
+    def test_boxes_are_those_of_what_entities_show(self) -> None:
+        block = ("0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n2\nB\n70\n0\n10\n0\n20\n0\n30\n0\n"
+                 "0\nLINE\n8\n0\n10\n0\n20\n0\n11\n4\n21\n2\n0\nENDBLK\n0\nENDSEC\n")
+        entities = ("0\nINSERT\n8\n0\n2\nB\n10\n10\n20\n5\n50\n90\n"
+                    "0\nXLINE\n8\n0\n10\n0\n20\n0\n30\n0\n11\n1\n21\n0\n31\n0\n"
+                    "0\nCIRCLE\n8\n0\n10\n-3\n20\n1\n40\n2\n")
+        text = block + HEADER + entities + END
+        drawing = CadImage._cast_to(cad.Image.load(io.BytesIO(text.encode()))).value
+        table = entity_bounds(drawing, "Model")
+        self.assertEqual((list(table.indices), table.width, list(table.ends)), ([0, 2], 4, [1, 2]))
+        self.assertEqual([round(value, 9) for value in table.values], [8, 5, 10, 9, -5, -1, -1, 3])
+        with self.assertRaisesRegex(RuntimeError, "Nowhere"):
+            entity_bounds(drawing, "Nowhere")
 
     def test_a_kind_without_a_table_is_named_with_those_that_have_one(self) -> None:
         with self.assertRaisesRegex(RuntimeError, "'TEXT' have no table of numbers.*LINE.*SPLINE"):

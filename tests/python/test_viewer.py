@@ -20,7 +20,7 @@ from urllib.parse import urlsplit
 
 from korvan.cad import Image
 from korvan.cad.fileformats.cad import CadImage
-from korvan.cad.fileformats.cad.cadobjects import CadCircle
+from korvan.cad.fileformats.cad.cadobjects import Cad3DPoint, CadCircle, CadLine
 from korvan.cad.imageoptions import CadRasterizationOptions, TiffOptions
 from korvan.commands import main
 from korvan.viewer.entities import entity_table
@@ -82,6 +82,15 @@ class Pages(unittest.TestCase):
             drawing = CadImage._cast_to(image).value
             self.assertAlmostEqual(a * drawing.max_point.x + e, width, delta=width / 100)
             self.assertAlmostEqual(d * drawing.max_point.y + f, 0, delta=width / 20)
+
+    def test_drawings_that_are_much_higher_than_wide_are_shown(self) -> None:
+        drawing = CadImage()
+        line = CadLine()
+        line.second_point = Cad3DPoint(1.0, 100.0, 0.0)
+        drawing.add_entity(line)
+        with tempfile.TemporaryDirectory() as folder:
+            drawing.save(f"{folder}/high.dxf")
+            self.assertEqual([one.message for one in read_contents(f"{folder}/high.dxf").layouts][0], "")
 
     def test_entities_can_be_found_by_their_boxes(self) -> None:
         table = json.loads(gzip.decompress(Page(build_page(SITE)).block("entities-0")))

@@ -11,8 +11,8 @@ namespace Korvan.WrpGen.Interop;
 public static unsafe class EntityRowsHost
 {
     /// <summary>Fills the places of four bytearrays (rows, ends, indices, closed), each a new reference or 0 after an
-    /// error, and of the number of columns. Layers are separated by line breaks; null for all. Of the kind "BOUNDS", the
-    /// boxes of the entities of a layout are collected, whose name is in the place of the layers.</summary>
+    /// error, and of the number of columns. Layers are separated by line breaks; null for all. Of the kind "BOUNDS",
+    /// the boxes of the entities of a layout are collected, whose name is in the place of the layers.</summary>
     [UnmanagedCallersOnly]
     public static int call_Collect(
         nint source, PyStringArg* kind, PyStringArg* layers, nint* arrays, int* width)

@@ -11,15 +11,16 @@ from dataclasses import dataclass, field, replace
 from pathlib import Path
 from typing import TYPE_CHECKING
 
+from korvan.tools.errors import message_of
 from korvan.viewer.entities import entity_table
 
 if TYPE_CHECKING:
     import korvan.cad
     from korvan.cad.fileformats.cad import CadImage
-    from korvan.cad.imageoptions import ImageOptionsBase
+    from korvan.cad.imageoptions import CadRasterizationOptions, ImageOptionsBase
 
 # Coordinates of a document have three decimal places: on a large page they keep what a deep zoom shows.
-_MODEL_WIDTH = 25_400.0
+_MODEL_SIZE = 25_400.0
 _MOST_PAGES = 500
 _MOST_NOTES = 50
 _SHEET = 1  # the number of the viewport that is the sheet itself
@@ -198,22 +199,34 @@ def _all_layers(drawing: CadImage) -> Generator[None, None, None]:
             layer.is_frozen = is_frozen
 
 
+def _page_options(name: str, width: float, height: float) -> CadRasterizationOptions:
+    from korvan.cad.imageoptions import CadRasterizationOptions
+
+    page = CadRasterizationOptions()
+    page.layouts = [name]
+    page.page_width, page.page_height = width, height
+    return page
+
+
 def _render(image: korvan.cad.Image, name: str, unit: str | None, contents: Contents, *, is_sheet: bool) -> Layout:
-    from korvan.cad.imageoptions import CadRasterizationOptions, SvgOptions
+    from korvan.cad.imageoptions import SvgOptions
 
     options = SvgOptions()
     options.text_as_shapes = False
-    if unit is not None:
-        page = CadRasterizationOptions()
-        page.layouts = [name]
-        if not is_sheet:
-            page.page_width = _MODEL_WIDTH
-        options.vector_rasterization_options = page
     target = io.BytesIO()
+    if unit is not None:
+        options.vector_rasterization_options = _page_options(name, 0.0 if is_sheet else _MODEL_SIZE, 0.0)
     try:
-        image.save(target, options)
+        try:
+            image.save(target, options)
+        except RuntimeError:
+            if unit is None or is_sheet:
+                raise
+            target = io.BytesIO()  # a drawing that is so much higher than wide has its size from its height
+            options.vector_rasterization_options = _page_options(name, 0.0, _MODEL_SIZE)
+            image.save(target, options)
     except RuntimeError as error:
-        return Layout(name, b"", message=f"This layout cannot be drawn: {error}")
+        return Layout(name, b"", message=f"This layout cannot be drawn: {message_of(error)}")
     _add_notes(options, contents)
     document = gzip.compress(target.getbuffer(), _FASTEST, mtime=0)
     return Layout(name, document, is_sheet=is_sheet, unit="" if is_sheet else unit or "")

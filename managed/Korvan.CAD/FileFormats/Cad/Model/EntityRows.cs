@@ -102,8 +102,8 @@ internal sealed class EntityRows
         return rows;
     }
 
-    /// <summary>Collects the boxes of the entities of a layout: the lowest X and Y, the highest X and Y. Entities that take
-    /// no space have no row.</summary>
+    /// <summary>Collects the boxes of the entities of a layout: the lowest X and Y, the highest X and Y. Entities that
+    /// take no space have no row.</summary>
     /// <param name="image">The drawing.</param>
     /// <param name="layout">The name of the layout.</param>
     internal static EntityRows BoundsOf(CadImage image, string layout)
