@@ -98,6 +98,7 @@ def targets() -> dict[str, Target]:
     return {extension: target for target in found for extension in target.extensions}
 
 
+@cache
 def _find(extension: str) -> Target | None:
     """The format of an extension. Options that are named like it are asked first: to ask all takes time."""
     for name in dir(imageoptions):

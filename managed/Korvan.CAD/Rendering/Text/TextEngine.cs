@@ -242,7 +242,7 @@ internal sealed unsafe class TextEngine : IDisposable
         {
             Budget.Step(1 + (text.Length / CharactersPerStep));
             string shown = Shown(text);
-            line = LineReader.Read(Shape(font, shown, letterSpacing), shown, Pango.Scale * EmSize, Shaper.Uses);
+            line = Shaper.Line(_shaped[font], shown, letterSpacing);
             UnknownGlyphs += line.UnknownGlyphs + text.Length - shown.Length;
             ClearIfFull(known, text);
             known.Add(key, line);

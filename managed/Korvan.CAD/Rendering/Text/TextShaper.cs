@@ -31,6 +31,9 @@ internal sealed unsafe class TextShaper
     private const int MaxFontsKept = 200;
     private const int MaxKept = 8;
 
+    /// <summary>The characters of the lines that are remembered, which take a hundred bytes each.</summary>
+    private const int MaxCharactersOfLines = 50_000;
+
     private static readonly Stack<TextShaper> Kept = new();
     private static int _keeper = ForkedProcess.Id;
 
@@ -38,9 +41,12 @@ internal sealed unsafe class TextShaper
     private readonly bool _isShared;
     private readonly Dictionary<(string Families, bool IsBold, bool IsItalic), int> _fonts = [];
     private readonly List<(NativeHandle Description, double CapRatio)> _descriptions = [];
+    private readonly Dictionary<(int Font, string Text, double LetterSpacing), ShapedLine> _lines = [];
+    private readonly FontUses _uses = new();
     private readonly NativeHandle _fontMap;
     private readonly NativeHandle _context;
     private readonly NativeHandle _layout;
+    private int _charactersOfLines;
     private int _currentFont = -1;
     private string? _currentText;
     private double _currentSpacing;
@@ -66,9 +72,6 @@ internal sealed unsafe class TextShaper
         Pango.LayoutSetSingleParagraphMode(_layout.Pointer, 1);
         Pango.LayoutSetAutoDir(_layout.Pointer, 1);
     }
-
-    /// <summary>Gets the fonts that lines were shaped with.</summary>
-    internal FontUses Uses { get; } = new();
 
     /// <summary>Returns a shaper, which the caller has to release.</summary>
     /// <param name="look">How glyphs are rasterized.</param>
@@ -108,6 +111,26 @@ internal sealed unsafe class TextShaper
 
     /// <summary>Returns the height of a capital letter as a share of the em.</summary>
     internal double CapRatio(int font) => _descriptions[font].CapRatio;
+
+    /// <summary>Returns the glyphs of a text. Lines are remembered: a page has the texts of the thumbnail that follows
+    /// it.</summary>
+    internal ShapedLine Line(int font, string text, double letterSpacing)
+    {
+        if (!_lines.TryGetValue((font, text, letterSpacing), out ShapedLine? line))
+        {
+            line = LineReader.Read(Shape(font, text, letterSpacing), text, EmSize * Pango.Scale, _uses);
+            _charactersOfLines += text.Length + 1;
+            if (_charactersOfLines > MaxCharactersOfLines)
+            {
+                _lines.Clear();
+                _charactersOfLines = text.Length + 1;
+            }
+
+            _lines.Add((font, text, letterSpacing), line);
+        }
+
+        return line;
+    }
 
     /// <summary>Returns pango's line of a text, which holds until the next one is shaped.</summary>
     internal nint Shape(int font, string text, double letterSpacing)
@@ -163,7 +186,7 @@ internal sealed unsafe class TextShaper
     private void Dispose()
     {
         _descriptions.ForEach(static font => font.Description.Dispose());
-        Uses.Dispose();
+        _uses.Dispose();
         _layout.Dispose();
         _context.Dispose();
         _fontMap.Dispose();

@@ -1,10 +1,12 @@
 using System;
 using System.IO;
+using System.Linq;
 using System.Text;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
+using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.Input;
 using Xunit;
 
@@ -80,6 +82,19 @@ public class SourceBlockTests
             words: true);
         const int lastTag = 6;
         Assert.Equal(binary.Length - lastTag, Failure(binary[..^3]).Defect!.Place.Offset);
+    }
+
+    [Fact]
+    public void The_block_of_a_reader_serves_the_next_one_but_never_an_array_of_the_caller()
+    {
+        string text = DxfText.Drawing(0, "TEXT", 8, "0", 1, new string('v', 2 * SourceWindow.Block));
+        string expected = DxfText.Save(DxfText.Load(text));
+        byte[] own = Encoding.Latin1.GetBytes(Drawing.PadRight(SourceWindow.Block, '\n'));
+        byte[] before = [.. own];
+        new DxfReader(new SourceWindow(own, "own"), new LoadOptions()).Read();
+
+        Assert.All(Enumerable.Range(0, 3), _ => Assert.Equal(expected, DxfText.Save(DxfText.Load(text))));
+        Assert.Equal(before, own);
     }
 
     private static ImageLoadException Failure(byte[] file) =>
