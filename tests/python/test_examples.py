@@ -74,7 +74,7 @@ class Examples(unittest.TestCase):
         (self.out / "examples").symlink_to(EXAMPLES)
         (self.out / "build").mkdir()
         text = (ROOT / page).read_text(encoding="utf-8")
-        done = run("-c", "\n".join(re.findall(r"```python\n(.*?)```", text, re.DOTALL)), cwd=self.out)
+        done = run("-c", "\n".join(re.findall(r"(?<!-->\n)```python\n(.*?)```", text, re.DOTALL)), cwd=self.out)
         self.assertEqual(done.returncode, 0, done.stderr)
         return done.stdout
 
