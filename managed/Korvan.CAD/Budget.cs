@@ -28,6 +28,9 @@ internal sealed class Budget : IDisposable
     private const int MemoryPerStep = 192;
     private const long PollInterval = 10; // milliseconds
 
+    /// <summary>The part of the memory that a collection needs while it moves objects.</summary>
+    private const int CollectionShare = 16;
+
     /// <summary>The memory that a call on another thread is taken to need, where it has no limit itself.</summary>
     private const long MaxOther = 1L << 30;
 
@@ -255,7 +258,8 @@ internal sealed class Budget : IDisposable
     private void VerifyHeap(long more)
     {
         long own = Memory - Interlocked.Read(ref _pixels);
-        long limit = Memory == long.MaxValue ? Memory : own + Interlocked.Read(ref _others);
+        long limit = Memory == long.MaxValue
+            ? Memory : own - (own / CollectionShare) + Interlocked.Read(ref _others);
         if (more <= own && (Taken + more <= limit || Taken + more < _nextCollection))
         {
             return;

@@ -14,6 +14,9 @@ internal sealed class MeshBuilder
     private const int MaxOnStack = 64;
 
     private readonly Mesh _mesh = new();
+    /// <summary>The bytes of a point and of its place in the table.</summary>
+    private const int BytesPerPoint = 64;
+
     private readonly Dictionary<Vec3, int> _places = [];
 
     /// <summary>Gets how many faces were left out because they lie too far out.</summary>
@@ -176,8 +179,14 @@ internal sealed class MeshBuilder
         ref int place = ref CollectionsMarshal.GetValueRefOrAddDefault(_places, point, out bool known);
         if (!known)
         {
-            place = _mesh.Positions.Count;
-            _mesh.Positions.Add(point);
+            List<Vec3> points = _mesh.Positions;
+            if (points.Count == points.Capacity)
+            {
+                Workload.Reserve(2L * points.Capacity * BytesPerPoint);
+            }
+
+            place = points.Count;
+            points.Add(point);
         }
 
         return place;

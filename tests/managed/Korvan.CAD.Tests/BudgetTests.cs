@@ -8,6 +8,7 @@ using Korvan.CAD.Geometry;
 using Korvan.CAD.Input;
 using Korvan.CAD.Raster.Codecs;
 using Korvan.CAD.Raster.Pixels;
+using Korvan.CAD.Scene3D;
 using Xunit;
 
 namespace Korvan.CAD.Tests;
@@ -60,6 +61,21 @@ public sealed class BudgetTests
         other.Join();
         budget.Poll();
         Assert.Equal(1 << 30, held.Length);
+    }
+
+    [Fact]
+    public void Meshes_ask_for_room_before_they_grow()
+    {
+        using Budget budget = Budget.Begin(Small);
+        var mesh = new MeshBuilder();
+        Assert.Throws<LimitMemoryException>(() =>
+        {
+            for (int i = 0; i < 5_000_000; i++)
+            {
+                mesh.Add([new Vec3(i, 0, 0), new Vec3(i, 1, 0), new Vec3(i, 0, 1)]);
+            }
+        });
+        Assert.InRange(budget.Taken, 0, Budget.MinMemory);
     }
 
     [Fact]

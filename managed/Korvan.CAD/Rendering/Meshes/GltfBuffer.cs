@@ -71,6 +71,7 @@ internal sealed class GltfBuffer
             throw new RenderException("The faces take more than 2 GB; write the drawing layer by layer.");
         }
 
+        Budget.VerifyRoom(Length);
         byte[] data = new byte[Length];
         int view = 0;
         foreach (GltfMesh mesh in Meshes)

@@ -41,6 +41,7 @@ internal sealed class GltfWriter
     internal void WriteText(Stream output, bool indented)
     {
         byte[] data = _buffer.Write();
+        Budget.VerifyRoom(data.Length * 8L / 3); // of a string in Base64
         using var json = new Utf8JsonWriter(output, new JsonWriterOptions { Indented = indented });
         WriteJson(json, "data:application/octet-stream;base64," + Convert.ToBase64String(data));
     }

@@ -1,6 +1,10 @@
 using System;
+using System.Collections.Generic;
+using System.Globalization;
 using System.IO;
+using System.Linq;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.Raster.Pixels;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Raster;
@@ -18,6 +22,28 @@ public class CacheTests : IDisposable
     {
         Cache.SetDefaults();
         Directory.Delete(_folder, true);
+    }
+
+    [Fact]
+    public void Many_small_images_on_disk_leave_the_memory_of_the_process()
+    {
+        Cache.CacheFolder = _folder;
+        Cache.CacheType = CacheType.CacheOnDiskOnly;
+        const int count = 100;
+        const int side = 1000;
+        var images = new List<PixelGrid>();
+        for (int i = 0; i < count; i++)
+        {
+            images.Add(new PixelGrid(side, side));
+            images[i].Fill(i);
+        }
+
+        long mapped = long.Parse(File.ReadLines("/proc/self/status").First(static line => line.StartsWith(
+            "RssFile:", StringComparison.Ordinal)).Split(' ', StringSplitOptions.RemoveEmptyEntries)[1],
+            CultureInfo.InvariantCulture) << 10;
+        Assert.True(mapped < count * side * side * sizeof(int) / 2, $"{mapped >> 20} MiB");
+        Assert.Equal(count - 1, images[^1].Row(side - 1)[side - 1]);
+        images.ForEach(static image => image.Dispose());
     }
 
     [Fact]
