@@ -43,8 +43,8 @@ internal sealed class PlotStyleTable
         _byName.TryGetValue(name, out PlotStyle? style) ? style
         : name.Equals(Unchanged, StringComparison.OrdinalIgnoreCase) ? null : _others;
 
-    /// <summary>The tables that CAD programs are installed with. What they do follows from their names, so that drawings
-    /// which come without them are plotted as they were meant.</summary>
+    /// <summary>The tables that CAD programs are installed with. What they do follows from their names, so that
+    /// drawings which come without them are plotted as they were meant.</summary>
     /// <returns>The table; null for other names.</returns>
     internal static PlotStyleTable? Standard(string name)
     {

@@ -51,7 +51,8 @@ internal sealed partial class EmfPlayer
         record.Int32(8), record.Int32(12), record.Int32(16), record.Int32(20), record.Int32(24), record.Int32(28));
 
     private void Arc(in RecordData record, ArcKind kind) => _canvas.Arc(
-        record.Int32(8), record.Int32(12), record.Int32(16), record.Int32(20), record.Point(24), record.Point(32), kind);
+        record.Int32(8), record.Int32(12), record.Int32(16), record.Int32(20), record.Point(24), record.Point(32),
+        kind);
 
     private void Figure(in RecordData record, bool isShort, bool closed, bool areCurves)
     {

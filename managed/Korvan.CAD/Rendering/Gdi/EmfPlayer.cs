@@ -153,11 +153,13 @@ internal sealed partial class EmfPlayer
     {
         double Factor(double over, double under) => under == 0 ? 1 : over / under;
         return new Vec2(
-            extent.X * Factor(record.Int32(8), record.Int32(12)), extent.Y * Factor(record.Int32(16), record.Int32(20)));
+            extent.X * Factor(record.Int32(8), record.Int32(12)),
+            extent.Y * Factor(record.Int32(16), record.Int32(20)));
     }
 
     private static Affine2 Matrix(in RecordData record) => new(
-        record.Single(8), record.Single(12), record.Single(16), record.Single(20), record.Single(24), record.Single(28));
+        record.Single(8), record.Single(12), record.Single(16), record.Single(20), record.Single(24),
+        record.Single(28));
 
     private void ModifyWorld(in RecordData record)
     {

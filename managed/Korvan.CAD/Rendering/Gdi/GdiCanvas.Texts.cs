@@ -54,8 +54,8 @@ internal sealed partial class GdiCanvas
         }
     }
 
-    /// <summary>The map from ems along and above a line of text to the page, and the em in logical units. Characters are
-    /// upright on the device, however the axes of the window run.</summary>
+    /// <summary>The map from ems along and above a line of text to the page, and the em in logical units. Characters
+    /// are upright on the device, however the axes of the window run.</summary>
     private (Affine2 Line, double Em) LineAt(Vec2 at)
     {
         Affine2 map = Map;

@@ -64,7 +64,8 @@ internal sealed partial class GdiCanvas
         }
     }
 
-    /// <summary>Restores a saved state: a negative number counts back from the last one, others from the first.</summary>
+    /// <summary>Restores a saved state: a negative number counts back from the last one, others from the
+    /// first.</summary>
     internal void Restore(int which)
     {
         int steps = which < 0 ? -which : _saved.Count - which + 1;
@@ -101,7 +102,15 @@ internal sealed partial class GdiCanvas
         get
         {
             const int isotropic = 7, anisotropic = 8;
-            double unit = State.MapMode switch { 2 => 0.1, 3 => 0.01, 4 => 0.254, 5 => 0.0254, 6 => 25.4 / 1440, _ => 0 };
+            double unit = State.MapMode switch
+            {
+                2 => 0.1,
+                3 => 0.01,
+                4 => 0.254,
+                5 => 0.0254,
+                6 => 25.4 / 1440,
+                _ => 0,
+            };
             if (unit > 0)
             {
                 return new Vec2(unit / _pixel.X, -unit / _pixel.Y);
@@ -113,7 +122,8 @@ internal sealed partial class GdiCanvas
             }
 
             Vec2 scale = new(
-                Ratio(State.ViewportExtent.X, State.WindowExtent.X), Ratio(State.ViewportExtent.Y, State.WindowExtent.Y));
+                Ratio(State.ViewportExtent.X, State.WindowExtent.X),
+                Ratio(State.ViewportExtent.Y, State.WindowExtent.Y));
             double least = Math.Min(Math.Abs(scale.X), Math.Abs(scale.Y));
             return State.MapMode == isotropic
                 ? new Vec2(Math.CopySign(least, scale.X), Math.CopySign(least, scale.Y)) : scale;

@@ -26,7 +26,8 @@ internal sealed record GdiPen(Rgba Color, double Width = 0, GdiLine Line = GdiLi
     internal double[] Lengths { get; init; } = [];
 }
 
-/// <summary>A brush; no colour for one that paints nothing. Hatches are numbered from 0, solid brushes have -1.</summary>
+/// <summary>A brush; no colour for one that paints nothing. Hatches are numbered from 0, solid brushes have
+/// -1.</summary>
 internal sealed record GdiBrush(Rgba? Color, int Hatch = -1);
 
 internal sealed record GdiFont(FontSpec Face, double Height)

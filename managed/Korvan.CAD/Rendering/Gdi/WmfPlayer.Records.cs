@@ -1,5 +1,4 @@
 using System;
-using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
 

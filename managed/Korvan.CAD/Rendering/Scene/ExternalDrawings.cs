@@ -14,8 +14,8 @@ using Korvan.CAD.Input;
 namespace Korvan.CAD.Rendering.Scene;
 
 /// <summary>
-/// The drawings that a drawing refers to as blocks. Only files in the drawing's own folder, or below it, are opened; each
-/// is read once, when it is drawn first.
+/// The drawings that a drawing refers to as blocks. Only files in the drawing's own folder, or below it, are opened;
+/// each is read once, when it is drawn first.
 /// </summary>
 internal sealed class ExternalDrawings
 {
@@ -25,12 +25,21 @@ internal sealed class ExternalDrawings
     private const string LayerMark = "|";
 
     private readonly string? _folder;
-    private readonly Dictionary<string, DrawingScene?> _scenes = new(StringComparer.OrdinalIgnoreCase);
+    private readonly Dictionary<string, string?> _paths = new(StringComparer.OrdinalIgnoreCase);
+
+    // By path, for all drawings of the host, so that none is read twice. Its layers have the name of the first block.
+    private readonly Dictionary<string, DrawingScene?> _scenes;
 
     /// <summary>Creates the drawings of a folder.</summary>
     /// <param name="folder">The folder of the drawing; null for a drawing without one.</param>
     /// <param name="isNested">Whether the drawing is itself one that another refers to.</param>
-    internal ExternalDrawings(string? folder, bool isNested) => (_folder, IsNested) = (folder, isNested);
+    internal ExternalDrawings(string? folder, bool isNested)
+        : this(folder, isNested, new Dictionary<string, DrawingScene?>(StringComparer.Ordinal))
+    {
+    }
+
+    private ExternalDrawings(string? folder, bool isNested, Dictionary<string, DrawingScene?> scenes) =>
+        (_folder, IsNested, _scenes) = (folder, isNested, scenes);
 
     /// <summary>Gets whether the drawing is itself one that another refers to, which hides its overlays.</summary>
     internal bool IsNested { get; }
@@ -43,10 +52,22 @@ internal sealed class ExternalDrawings
             return null;
         }
 
-        if (!_scenes.TryGetValue(block.Name, out DrawingScene? scene))
+        if (!_paths.TryGetValue(block.Name, out string? path))
         {
-            scene = FolderFiles.Find(_folder, block.ExternalPath) is { } path ? Load(path, block.Name, host) : null;
-            _scenes.Add(block.Name, scene);
+            path = FolderFiles.Find(_folder, block.ExternalPath);
+            _paths.Add(block.Name, path);
+        }
+
+        if (path is null)
+        {
+            return null;
+        }
+
+        string key = Path.GetFullPath(path);
+        if (!_scenes.TryGetValue(key, out DrawingScene? scene))
+        {
+            scene = Load(path, block.Name, host);
+            _scenes.Add(key, scene);
         }
 
         return scene;
@@ -89,7 +110,7 @@ internal sealed class ExternalDrawings
 
     /// <summary>Makes the layers those of the host, whose names begin with that of the block: their state in the host
     /// decides. The scale of line types and what is shown is that of the host, too.</summary>
-    private static void Adopt(SceneTables tables, string block, SceneTables host)
+    private void Adopt(SceneTables tables, string block, SceneTables host)
     {
         foreach ((string name, LayerInfo layer) in new Dictionary<string, LayerInfo>(tables.Layers))
         {
@@ -102,6 +123,6 @@ internal sealed class ExternalDrawings
         }
 
         tables.Settings = host.Settings;
-        tables.External = new ExternalDrawings(tables.External._folder, isNested: true);
+        tables.External = new ExternalDrawings(tables.External._folder, isNested: true, _scenes);
     }
 }

@@ -52,7 +52,8 @@ internal sealed partial class SceneBuilder
     {
         Current outline = _current;
         var color = new DrawingColor(area.ColorId, area.ColorValue);
-        Rgba fill = _pens.ColorOf(color, outline.Layer, outline.Context, outline.Pen.Plot).WithAlpha(outline.Pen.Color.A);
+        Rgba fill = _pens.ColorOf(color, outline.Layer, outline.Context, outline.Pen.Plot)
+            .WithAlpha(outline.Pen.Color.A);
         _current = outline with { Pen = outline.Pen with { Color = fill } };
         ((IGeometrySink)this).Hatch(area, plane);
         _current = outline;

@@ -88,7 +88,8 @@ internal sealed partial class SceneBuilder
             Pen fill = pen;
             fill.Color = window
                 ? _style.Background
-                : _pens.ColorOf(new DrawingColor(text.BackgroundColorId, text.BackgroundColor), layer, context, pen.Plot);
+                : _pens.ColorOf(
+                    new DrawingColor(text.BackgroundColorId, text.BackgroundColor), layer, context, pen.Plot);
             _canvas.Fill(fill, evenOdd: false);
         }
 

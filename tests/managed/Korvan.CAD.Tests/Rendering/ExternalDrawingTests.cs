@@ -65,6 +65,29 @@ public sealed class ExternalDrawingTests : IDisposable
         Assert.Equal(squares, list.Items.Length);
     }
 
+    // Each name leads to the drawing again; all it may take is what one file may.
+    [Fact]
+    public void A_drawing_is_read_once_whatever_its_names_are()
+    {
+        CadImage drawing = TestPage.Drawing([.. Enumerable.Range(0, 5).Select(i => Reference($"N{i}", i))]);
+        for (int i = 0; i < 5; i++)
+        {
+            drawing.BlockEntities.Add(External($"N{i}", "plan.dxf"));
+        }
+
+        Save("plan.dxf", drawing);
+        drawing.Drawing.Folder = _folder;
+        long Taken(CadImage host)
+        {
+            using Budget budget = Budget.Begin(sourceLength: 1);
+            long before = budget.Memory;
+            SceneList.Build(host);
+            return budget.Memory - before;
+        }
+
+        Assert.Equal(Taken(Host(Reference("N0", 0), External("N0", "plan.dxf"))), Taken(drawing));
+    }
+
     [Fact]
     public void Damaged_drawings_are_reported()
     {
@@ -98,7 +121,8 @@ public sealed class ExternalDrawingTests : IDisposable
 
     private void Save(string name, CadImage drawing)
     {
-        ImageOptionsBase options = name.EndsWith(".dwg", StringComparison.Ordinal) ? new DwgOptions() : new DxfOptions();
+        bool isDatabase = name.EndsWith(".dwg", StringComparison.Ordinal);
+        ImageOptionsBase options = isDatabase ? new DwgOptions() : new DxfOptions();
         using FileStream file = File.Create(Path.Combine(_folder, name));
         drawing.Save(file, options);
     }

@@ -37,7 +37,8 @@ public class PlotStyleTests
         CadLine red = Line(1), yellow = Line(2), own = Line(2);
         own.ColorValue = 0x102030;
         TestPage.AddBlock(drawing, "B", Line(0));
-        Array.ForEach<CadEntityBase>([red, yellow, own, TestPage.Insert("B", color: 2)], drawing.PaperSpaceEntities.Add);
+        CadEntityBase[] shown = [red, yellow, own, TestPage.Insert("B", color: 2)];
+        Array.ForEach(shown, drawing.PaperSpaceEntities.Add);
         DrawingList list = Build(drawing, isPaper: true);
         Assert.Equal(
             [AciPalette.Color(1), StyledColor, Rgba.FromRgb(0x102030), StyledColor],
@@ -151,7 +152,8 @@ public class PlotStyleTests
     {
         using var engine = new TextEngine();
         DrawingScene scene = SceneReader.Read(drawing.Drawing);
-        return scene.Build(scene.Layouts.First(layout => layout.IsModel != isPaper), style ?? new RenderStyle(), engine);
+        LayoutInfo page = scene.Layouts.First(layout => layout.IsModel != isPaper);
+        return scene.Build(page, style ?? new RenderStyle(), engine);
     }
 
     private static byte[] Packed(string kind, params (string Name, string Values)[] styles)

@@ -16,7 +16,7 @@ namespace Korvan.CAD.Tests.Rendering;
 /// fill the page.</summary>
 public class WindowsMetafileTests
 {
-    private const int Brush = 39, Pen = 38, Select = 37, NoPen = unchecked((int)0x80000008);
+    private const int Brush = 39, Select = 37, NoPen = unchecked((int)0x80000008);
     private const int Red = 0x0000FF, Blue = 0xFF0000, Green = 0x00FF00;
 
     private static readonly Rgba RedPixel = new(255, 0, 0), BluePixel = new(0, 0, 255), GreenPixel = new(0, 255, 0);

@@ -5,8 +5,8 @@ using Korvan.CAD.Geometry;
 namespace Korvan.CAD.FileFormats.Cad.Acis;
 
 /// <summary>
-/// Adds lines on cylinders, cones, spheres, tori and splines, which have few edges of their own, as far as they are in the
-/// face.
+/// Adds lines on cylinders, cones, spheres, tori and splines, which have few edges of their own, as far as they are in
+/// the face.
 /// Faces with edges that are not on their surface get none.
 /// </summary>
 /// <param name="records">The records of the body.</param>

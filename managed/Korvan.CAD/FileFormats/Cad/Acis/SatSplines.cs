@@ -39,8 +39,8 @@ internal sealed class SatSplines
     internal AcisSpline? Of(in SatRecord curve) =>
         DefinitionOf(curve) is var (record, token) ? Shared(record, token) : null;
 
-    /// <summary>Returns the record and the token where the definition of a curve or surface begins; null for one without
-    /// a definition.</summary>
+    /// <summary>Returns the record and the token where the definition of a curve or surface begins; null for one
+    /// without a definition.</summary>
     internal (SatRecord Record, int Token)? DefinitionOf(in SatRecord user)
     {
         int at = user.Find(Open);

@@ -7,8 +7,8 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cad;
 
-/// <summary>Isolines of a face of splines: a sheet of 4 × 2 that bends up by 1 along X, with four edges or a triangle of
-/// three.</summary>
+/// <summary>Isolines of a face of splines: a sheet of 4 × 2 that bends up by 1 along X, with four edges or a triangle
+/// of three.</summary>
 public class SplineFaceTests
 {
     // Quadratic along X, straight along Y; z is 2·s·(1 - s) with s = x / 4. Weights of one are weights, too.
