@@ -16,7 +16,8 @@ public static class SupportedFileFormats
     {
         return
         [
-            .. Describe(isSupported).SelectMany(static info => info.Extensions).Distinct().Order(StringComparer.Ordinal),
+            .. Describe(isSupported).SelectMany(static info => info.Extensions).Distinct()
+                .Order(StringComparer.Ordinal),
         ];
     }
 

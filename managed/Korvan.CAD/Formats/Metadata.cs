@@ -4,8 +4,8 @@ using System.Reflection;
 
 namespace Korvan.CAD.Formats;
 
-/// <summary>The metadata of the members of <see cref="FileFormat"/>. They are read one by one: a program asks for few of
-/// them, and attributes take long to be read.</summary>
+/// <summary>The metadata of the members of <see cref="FileFormat"/>. They are read one by one: a program asks for few
+/// of them, and attributes take long to be read.</summary>
 internal static class Metadata
 {
     // By number, since generic code over the enumeration would be compiled at its first use.

@@ -7,9 +7,9 @@ using Korvan.CAD.Rendering.Native;
 namespace Korvan.CAD.Rendering.Text;
 
 /// <summary>
-/// Fonts of pango, and a layout that shapes one line at a time. To find a font takes longer than to draw a page of text,
-/// so shapers with the fonts of the system are kept from one export to the next. A shaper belongs to one thread at a
-/// time.
+/// Fonts of pango, and a layout that shapes one line at a time. To find a font takes longer than to draw a page of
+/// text, so shapers with the fonts of the system are kept from one export to the next. A shaper belongs to one thread
+/// at a time.
 /// </summary>
 internal sealed unsafe class TextShaper
 {
