@@ -9,7 +9,7 @@ namespace Korvan.CAD.FileFormats;
 /// <summary>Information about a file format, and its support by the library.</summary>
 public class FileFormatInfo
 {
-    private static readonly Lazy<Dictionary<FileFormat, FileFormatInfo>> Known = new(ReadAll);
+    private static readonly Dictionary<ulong, FileFormatInfo> Known = [];
 
     private readonly FileFormatMetadataAttribute _metadata;
 
@@ -40,7 +40,7 @@ public class FileFormatInfo
     /// <summary>Gets whether files of the format can be written.</summary>
     public bool CanSave => SupportedFileFormats.Output.Contains(Format);
 
-    internal static IEnumerable<FileFormatInfo> All => Known.Value.Values;
+    internal static IEnumerable<FileFormatInfo> All => Metadata.Formats.Select(Get);
 
     /// <summary>Returns information about a format.</summary>
     /// <param name="format">The format.</param>
@@ -49,9 +49,18 @@ public class FileFormatInfo
     /// <see cref="FileFormat.Custom"/>, or not a member of the enum.</exception>
     public static FileFormatInfo Get(FileFormat format)
     {
-        return Known.Value.TryGetValue(format, out FileFormatInfo? info)
-            ? info
-            : throw Verify.OutOfRange(nameof(format), format, "It has to be a format of files.");
+        lock (Known)
+        {
+            if (!Known.TryGetValue((ulong)format, out FileFormatInfo? info))
+            {
+                info = Metadata.Find(format) is { } metadata
+                    ? new FileFormatInfo(format, metadata)
+                    : throw Verify.OutOfRange(nameof(format), format, "It has to be a format of files.");
+                Known.Add((ulong)format, info);
+            }
+
+            return info;
+        }
     }
 
     /// <summary>Returns the formats with a file extension, in the order of their values.</summary>
@@ -66,7 +75,4 @@ public class FileFormatInfo
 
     /// <inheritdoc/>
     public override string ToString() => $"{Name} ({string.Join(", ", _metadata.Extensions)})";
-
-    private static Dictionary<FileFormat, FileFormatInfo> ReadAll() => Metadata.All.OrderBy(static pair => pair.Key)
-        .ToDictionary(static pair => pair.Key, static pair => new FileFormatInfo(pair.Key, pair.Value));
 }

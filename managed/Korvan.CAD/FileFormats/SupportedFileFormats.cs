@@ -1,5 +1,4 @@
 using System;
-using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.Formats;
 
@@ -8,19 +7,17 @@ namespace Korvan.CAD.FileFormats;
 /// <summary>The formats that this build of the library loads and writes.</summary>
 public static class SupportedFileFormats
 {
-    private static readonly Lazy<HashSet<FileFormat>> Loaded = new(static () => [.. FormatRegistry.Readable]);
-    private static readonly Lazy<HashSet<FileFormat>> Written = new(static () => [.. FormatRegistry.Writable]);
-
-    private static FileFormatInfo[] Describe(HashSet<FileFormat> formats)
+    private static FileFormatInfo[] Describe(Func<FileFormat, bool> isSupported)
     {
-        return [.. FileFormatInfo.All.Where(info => formats.Contains(info.Format))];
+        return [.. FileFormatInfo.All.Where(info => isSupported(info.Format))];
     }
 
-    private static string[] ExtensionsOf(HashSet<FileFormat> formats)
+    private static string[] ExtensionsOf(Func<FileFormat, bool> isSupported)
     {
         return
         [
-            .. Describe(formats).SelectMany(static info => info.Extensions).Distinct().Order(StringComparer.Ordinal),
+            .. Describe(isSupported).SelectMany(static info => info.Extensions).Distinct()
+                .Order(StringComparer.Ordinal),
         ];
     }
 
@@ -28,29 +25,29 @@ public static class SupportedFileFormats
     public static class Input
     {
         /// <summary>Gets the formats, in the order of their values.</summary>
-        public static FileFormatInfo[] Formats => Describe(Loaded.Value);
+        public static FileFormatInfo[] Formats => Describe(FormatRegistry.CanRead);
 
         /// <summary>Gets the extensions of files that can be loaded, in alphabetical order.</summary>
-        public static string[] Extensions => ExtensionsOf(Loaded.Value);
+        public static string[] Extensions => ExtensionsOf(FormatRegistry.CanRead);
 
         /// <summary>Returns whether files of a format can be loaded.</summary>
         /// <param name="format">The format.</param>
         /// <returns>Whether files of a format can be loaded.</returns>
-        public static bool Contains(FileFormat format) => Loaded.Value.Contains(format);
+        public static bool Contains(FileFormat format) => FormatRegistry.CanRead(format);
     }
 
     /// <summary>The formats that can be written.</summary>
     public static class Output
     {
         /// <summary>Gets the formats, in the order of their values.</summary>
-        public static FileFormatInfo[] Formats => Describe(Written.Value);
+        public static FileFormatInfo[] Formats => Describe(FormatRegistry.CanWrite);
 
         /// <summary>Gets the extensions of files that can be written, in alphabetical order.</summary>
-        public static string[] Extensions => ExtensionsOf(Written.Value);
+        public static string[] Extensions => ExtensionsOf(FormatRegistry.CanWrite);
 
         /// <summary>Returns whether files of a format can be written.</summary>
         /// <param name="format">The format.</param>
         /// <returns>Whether files of a format can be written.</returns>
-        public static bool Contains(FileFormat format) => Written.Value.Contains(format);
+        public static bool Contains(FileFormat format) => FormatRegistry.CanWrite(format);
     }
 }

@@ -37,10 +37,13 @@ internal sealed class FormatRecord
     internal Func<object, SaveTarget, ImageOptionsBase?> OwnOptions { get; init; } = static (_, _) => null;
 
     /// <summary>Returns whether a format is one of <see cref="Formats"/>.</summary>
-    internal bool Has(FileFormat format)
+    internal bool Has(FileFormat format) => Has(Formats, format);
+
+    /// <summary>Returns whether a format is one of several.</summary>
+    internal static bool Has(FileFormat[] formats, FileFormat format)
     {
         // A loop, since generic code over the enumeration would be compiled when the first file is loaded.
-        foreach (FileFormat own in Formats)
+        foreach (FileFormat own in formats)
         {
             if (own == format)
             {

@@ -48,15 +48,6 @@ internal static class FormatRegistry
     // Programs ask for the same pair again and again; one reference, so that threads never see half of it.
     private static LastChoice? _last;
 
-    /// <summary>Gets the formats that can be read.</summary>
-    internal static IEnumerable<FileFormat> Readable =>
-        All.Where(static record => record.Read is not null).SelectMany(static record => record.Formats);
-
-    /// <summary>Gets the formats that can be written.</summary>
-    internal static IEnumerable<FileFormat> Writable =>
-        All.Where(static record => record.Writers.Length > 0)
-            .SelectMany(static record => record.Written ?? record.Formats);
-
     /// <summary>Gets the names of the formats that can be read, for messages.</summary>
     internal static string ReadableNames => string.Join(", ", All.Where(static record => record.Read is not null)
         .Select(static record => record.Name).Distinct().Order(StringComparer.Ordinal));
@@ -92,7 +83,12 @@ internal static class FormatRegistry
             : $"is of format {Verify.NameOf(format)}, which cannot be read yet");
 
     /// <summary>Returns whether files of a format can be read.</summary>
-    internal static bool CanRead(FileFormat format) => Find(format)?.Read is not null;
+    internal static bool CanRead(FileFormat format) =>
+        Array.Exists(All, record => record.Read is not null && record.Has(format));
+
+    /// <summary>Returns whether files of a format can be written.</summary>
+    internal static bool CanWrite(FileFormat format) => Array.Exists(
+        All, record => record.Writers.Length > 0 && FormatRecord.Has(record.Written ?? record.Formats, format));
 
     /// <summary>Returns the writer of some content with options of a class; <see langword="null"/> if there is
     /// none.</summary>

@@ -4,28 +4,60 @@ using System.Reflection;
 
 namespace Korvan.CAD.Formats;
 
-/// <summary>The metadata of the members of <see cref="FileFormat"/>.</summary>
+/// <summary>The metadata of the members of <see cref="FileFormat"/>. They are read one by one: a program asks for few
+/// of them, and attributes take long to be read.</summary>
 internal static class Metadata
 {
-    private static readonly Lazy<Dictionary<FileFormat, FileFormatMetadataAttribute>> Known = new(ReadAll);
+    // By number, since generic code over the enumeration would be compiled at its first use.
+    private static readonly Dictionary<ulong, FileFormatMetadataAttribute?> Known = [];
 
-    /// <summary>Gets the metadata by format.</summary>
-    internal static IReadOnlyDictionary<FileFormat, FileFormatMetadataAttribute> All => Known.Value;
+    private static readonly Lazy<Dictionary<ulong, FieldInfo>> Members = new(ReadMembers);
 
-    internal static FileFormatMetadataAttribute Of(FileFormat format) => Known.Value[format];
-
-    private static Dictionary<FileFormat, FileFormatMetadataAttribute> ReadAll()
+    /// <summary>Gets the formats that have metadata, in the order of their values.</summary>
+    internal static IEnumerable<FileFormat> Formats
     {
-        Dictionary<FileFormat, FileFormatMetadataAttribute> all = [];
-        foreach (FileFormat format in Enum.GetValues<FileFormat>())
+        get
         {
-            FieldInfo member = typeof(FileFormat).GetField(format.ToString())!;
-            if (member.GetCustomAttribute<FileFormatMetadataAttribute>() is { } metadata)
+            ulong[] values = [.. Members.Value.Keys];
+            Array.Sort(values);
+            foreach (ulong value in values)
             {
-                all.Add(format, metadata);
+                if (Find((FileFormat)value) is not null)
+                {
+                    yield return (FileFormat)value;
+                }
             }
         }
+    }
 
-        return all;
+    /// <summary>Returns the metadata of a format; <see langword="null"/> where it has none.</summary>
+    internal static FileFormatMetadataAttribute? Find(FileFormat format)
+    {
+        lock (Known)
+        {
+            if (!Known.TryGetValue((ulong)format, out FileFormatMetadataAttribute? metadata))
+            {
+                metadata = Members.Value.GetValueOrDefault((ulong)format)
+                    ?.GetCustomAttribute<FileFormatMetadataAttribute>();
+                Known.Add((ulong)format, metadata);
+            }
+
+            return metadata;
+        }
+    }
+
+    /// <summary>Returns the metadata of a format that has some.</summary>
+    internal static FileFormatMetadataAttribute Of(FileFormat format) =>
+        Find(format) ?? throw new ArgumentOutOfRangeException(nameof(format), format, "It has no metadata.");
+
+    private static Dictionary<ulong, FieldInfo> ReadMembers()
+    {
+        Dictionary<ulong, FieldInfo> members = [];
+        foreach (FieldInfo member in typeof(FileFormat).GetFields(BindingFlags.Public | BindingFlags.Static))
+        {
+            members.TryAdd((ulong)member.GetRawConstantValue()!, member);
+        }
+
+        return members;
     }
 }

@@ -1,4 +1,3 @@
-using System.Collections.Concurrent;
 using System.Collections.Generic;
 using System.IO;
 using System.Runtime.InteropServices;
@@ -10,11 +9,6 @@ namespace Korvan.CAD.Rendering.Native;
 internal static unsafe partial class Fontconfig
 {
     internal const string Library = "libfontconfig.so.1";
-
-    private const int MaxKnownFiles = 1000;
-
-    private static readonly ConcurrentDictionary<(string Families, bool IsBold, bool IsItalic), string?>
-        FilesOfSystem = [];
 
     [StructLayout(LayoutKind.Sequential)]
     private struct FontSet
@@ -144,23 +138,6 @@ internal static unsafe partial class Fontconfig
     /// <summary>The file of the font that stands in for the families of a list, or null when there is no
     /// font.</summary>
     internal static string? FileOf(nint config, string families, bool bold, bool italic)
-    {
-        if (config != 0)
-        {
-            return FindFile(config, families, bold, italic);
-        }
-
-        // The fonts of the system stay as they were when the first text was drawn.
-        if (FilesOfSystem.Count >= MaxKnownFiles)
-        {
-            FilesOfSystem.Clear();
-        }
-
-        return FilesOfSystem.GetOrAdd(
-            (families, bold, italic), static font => FindFile(0, font.Families, font.IsBold, font.IsItalic));
-    }
-
-    private static string? FindFile(nint config, string families, bool bold, bool italic)
     {
         const int boldWeight = 200, regularWeight = 80, italicSlant = 100;
         using var owner = new NativeHandle(PatternCreate(), &PatternDestroy);

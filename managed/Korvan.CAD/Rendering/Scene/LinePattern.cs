@@ -1,6 +1,5 @@
 using System;
 using System.Collections.Generic;
-using System.Linq;
 
 namespace Korvan.CAD.Rendering.Scene;
 
@@ -40,7 +39,13 @@ internal sealed class LinePattern
     internal static LinePattern? Create(IReadOnlyList<double> elements, PatternText[]? texts = null)
     {
         var lengths = new List<double>(elements.Count + 2);
-        double dot = DotShare * elements.Sum(Math.Abs);
+        double sum = 0;
+        foreach (double element in elements)
+        {
+            sum += Math.Abs(element);
+        }
+
+        double dot = DotShare * sum;
         foreach (double element in elements)
         {
             if (!double.IsFinite(element) || lengths.Count >= MaxElements - 2)

@@ -1,14 +1,15 @@
 using System;
 using System.Collections.Generic;
 using System.Text;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Rendering.Native;
 
 namespace Korvan.CAD.Rendering.Text;
 
 /// <summary>
-/// Fonts of pango, and a layout that shapes one line at a time. To find a font takes longer than to draw a page of text,
-/// so shapers with the fonts of the system are kept from one export to the next. A shaper belongs to one thread at a
-/// time.
+/// Fonts of pango, and a layout that shapes one line at a time. To find a font takes longer than to draw a page of
+/// text, so shapers with the fonts of the system are kept from one export to the next. A shaper belongs to one thread
+/// at a time.
 /// </summary>
 internal sealed unsafe class TextShaper
 {
@@ -38,10 +39,9 @@ internal sealed unsafe class TextShaper
     private static int _keeper = ForkedProcess.Id;
 
     private readonly GlyphRendering _look;
-    private readonly bool _isShared;
-    private readonly Dictionary<(string Families, bool IsBold, bool IsItalic), int> _fonts = [];
-    private readonly List<(NativeHandle Description, double CapRatio)> _descriptions = [];
-    private readonly Dictionary<(int Font, string Text, double LetterSpacing), ShapedLine> _lines = [];
+    private readonly nint _config;
+    private readonly Dictionary<FontSpec, int> _numbers = new(FontSpec.ByValue);
+    private readonly List<ShaperFont> _fonts = [];
     private readonly FontUses _uses = new();
     private readonly NativeHandle _fontMap;
     private readonly NativeHandle _context;
@@ -53,7 +53,7 @@ internal sealed unsafe class TextShaper
 
     private TextShaper(GlyphRendering look, nint config)
     {
-        (_look, _isShared) = (look, config == 0);
+        (_look, _config) = (look, config);
         _fontMap = new NativeHandle(Pango.CairoFontMapNew(), &Pango.Unref);
         if (config != 0)
         {
@@ -86,7 +86,7 @@ internal sealed unsafe class TextShaper
     /// <summary>Ends the use of the shaper.</summary>
     internal void Release()
     {
-        if (!_isShared || !TryKeep())
+        if (_config != 0 || !TryKeep())
         {
             Dispose();
         }
@@ -98,35 +98,51 @@ internal sealed unsafe class TextShaper
     /// <param name="isItalic">Whether it is italic.</param>
     internal int Font(string families, bool isBold, bool isItalic)
     {
-        if (!_fonts.TryGetValue((families, isBold, isItalic), out int font))
+        var spec = new FontSpec(families, isBold, isItalic);
+        if (!_numbers.TryGetValue(spec, out int font))
         {
-            font = _descriptions.Count;
-            _descriptions.Add((Describe(families, isBold, isItalic), DefaultCapRatio));
-            _descriptions[font] = (_descriptions[font].Description, MeasureCapRatio(font));
-            _fonts.Add((families, isBold, isItalic), font);
+            font = _fonts.Count;
+            _fonts.Add(new ShaperFont(spec, Describe(families, isBold, isItalic)));
+            _fonts[font].CapRatio = MeasureCapRatio(font);
+            _numbers.Add(spec, font);
         }
 
         return font;
     }
 
     /// <summary>Returns the height of a capital letter as a share of the em.</summary>
-    internal double CapRatio(int font) => _descriptions[font].CapRatio;
+    internal double CapRatio(int font) => _fonts[font].CapRatio;
+
+    /// <summary>Returns the file of a font, or null when there is no font at all.</summary>
+    internal string? FileOf(int font)
+    {
+        ShaperFont one = _fonts[font];
+        if (!one.HasFile)
+        {
+            one.File = Fontconfig.FileOf(_config, one.Spec.Family, one.Spec.Bold, one.Spec.Italic);
+            one.HasFile = true;
+        }
+
+        return one.File;
+    }
 
     /// <summary>Returns the glyphs of a text. Lines are remembered: a page has the texts of the thumbnail that follows
     /// it.</summary>
     internal ShapedLine Line(int font, string text, double letterSpacing)
     {
-        if (!_lines.TryGetValue((font, text, letterSpacing), out ShapedLine? line))
+        Dictionary<string, ShapedLine> lines = _fonts[font].Lines;
+        string key = letterSpacing == 0 ? text : $"{letterSpacing:R}\0{text}";
+        if (!lines.TryGetValue(key, out ShapedLine? line))
         {
             line = LineReader.Read(Shape(font, text, letterSpacing), text, EmSize * Pango.Scale, _uses);
             _charactersOfLines += text.Length + 1;
             if (_charactersOfLines > MaxCharactersOfLines)
             {
-                _lines.Clear();
+                _fonts.ForEach(static one => one.Lines.Clear());
                 _charactersOfLines = text.Length + 1;
             }
 
-            _lines.Add((font, text, letterSpacing), line);
+            lines.Add(key, line);
         }
 
         return line;
@@ -137,7 +153,7 @@ internal sealed unsafe class TextShaper
     {
         if (font != _currentFont)
         {
-            Pango.LayoutSetFontDescription(_layout.Pointer, _descriptions[font].Description.Pointer);
+            Pango.LayoutSetFontDescription(_layout.Pointer, _fonts[font].Description.Pointer);
             _currentFont = font;
         }
 
@@ -185,7 +201,7 @@ internal sealed unsafe class TextShaper
 
     private void Dispose()
     {
-        _descriptions.ForEach(static font => font.Description.Dispose());
+        _fonts.ForEach(static font => font.Description.Dispose());
         _uses.Dispose();
         _layout.Dispose();
         _context.Dispose();
@@ -235,5 +251,21 @@ internal sealed unsafe class TextShaper
         }
 
         _currentText = text;
+    }
+
+    /// <summary>A font as pango is asked for it, and what is known of it.</summary>
+    private sealed class ShaperFont(FontSpec spec, NativeHandle description)
+    {
+        internal FontSpec Spec { get; } = spec;
+
+        internal NativeHandle Description { get; } = description;
+
+        internal double CapRatio { get; set; } = DefaultCapRatio;
+
+        internal Dictionary<string, ShapedLine> Lines { get; } = [];
+
+        internal bool HasFile { get; set; }
+
+        internal string? File { get; set; }
     }
 }

@@ -1,7 +1,6 @@
 using System;
 using System.Collections.Generic;
 using System.IO;
-using System.Linq;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
@@ -173,9 +172,19 @@ internal static class FontTable
     private static Dictionary<string, string> ReadInstalledFiles()
     {
         var result = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
-        foreach ((string file, string family) in ListInstalled().OrderBy(f => f.File, StringComparer.Ordinal))
+        List<string> files = [], families = [];
+        foreach ((string file, string family) in ListInstalled())
         {
-            result.TryAdd(Path.GetFileNameWithoutExtension(file), family);
+            files.Add(file);
+            families.Add(family);
+        }
+
+        string[] sorted = [.. families];
+        Array.Sort(files.ToArray(), sorted, StringComparer.Ordinal);
+        files.Sort(StringComparer.Ordinal);
+        for (int i = 0; i < sorted.Length; i++)
+        {
+            result.TryAdd(Path.GetFileNameWithoutExtension(files[i]), sorted[i]);
         }
 
         return result;
