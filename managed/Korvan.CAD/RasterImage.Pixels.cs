@@ -66,7 +66,8 @@ public abstract partial class RasterImage
         VerifyCount(rectangle, pixels.Length);
         for (int y = 0; y < rectangle.Height; y++)
         {
-            pixels.AsSpan(y * rectangle.Width, rectangle.Width).CopyTo(Pixels.WritableRow(rectangle.Y + y)[rectangle.X..]);
+            Span<int> row = Pixels.WritableRow(rectangle.Y + y);
+            pixels.AsSpan(y * rectangle.Width, rectangle.Width).CopyTo(row[rectangle.X..]);
         }
     }
 

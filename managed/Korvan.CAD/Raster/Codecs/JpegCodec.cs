@@ -88,7 +88,8 @@ internal static unsafe class JpegCodec
         var pixels = new PixelGrid(width, height);
         int flags = TurboJpeg.FlagLimitScans | (source.Lenient ? 0 : TurboJpeg.FlagStopOnWarning);
         TurboJpeg.PixelLayout layout = isCmyk ? TurboJpeg.PixelLayout.Cmyk : TurboJpeg.PixelLayout.Bgra;
-        if (TurboJpeg.Decompress(handle, data, (nuint)length, pixels.WritablePointer, width, 0, height, layout, flags) != 0
+        byte* target = pixels.WritablePointer;
+        if (TurboJpeg.Decompress(handle, data, (nuint)length, target, width, 0, height, layout, flags) != 0
             && !source.Lenient)
         {
             pixels.Dispose();

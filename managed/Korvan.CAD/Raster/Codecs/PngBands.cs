@@ -45,7 +45,8 @@ internal sealed class PngBands(PngHeader header, PngFilterType filter, int level
         output.Write(end);
     }
 
-    // All bands but the last end with a flush, which leaves the stream at a byte boundary; the next one continues there.
+    // All bands but the last end with a flush, which leaves the stream at a byte boundary, where the next one
+    // continues.
     private Band Compress(int index)
     {
         int top = index * _rowsPerBand;
