@@ -5,6 +5,7 @@ using System.Linq;
 using System.Text;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Encodings;
+using Korvan.CAD.FileFormats.Cad.Acis;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
@@ -51,6 +52,7 @@ internal static class DwgSaver
         DwgObjectWriter objects = new(written, release, encoding);
         objects.Write();
         DwgContainer.Write(DwgContentBuilder.Build(written, version, objects.Objects, objects.Classes), output);
+        notes.AddRange(ModelerNotes(written, release));
         return [.. notes, .. objects.LeftOut];
     }
 
@@ -61,6 +63,25 @@ internal static class DwgSaver
         DrawingIntegrity.Prepare(drawing, release);
         BookColors.Link(drawing, colors);
         LinkMultilineStyles(drawing);
+    }
+
+    // Data of a modeler are written as they are: what later versions of it added cannot be taken out.
+    private static IEnumerable<string> ModelerNotes(CadDrawing drawing, int release)
+    {
+        int known = release switch
+        {
+            < 2004 => 400,
+            < 2010 => 20800,
+            < 2013 => 21500,
+            < 2018 => 21800,
+            _ => int.MaxValue,
+        };
+        return DrawingWalk.Entities(drawing).OfType<CadObjectWithAcisData>()
+            .Select(static solid => solid.AcisData.Count > 0 ? AcisVersions.Of(solid.AcisData[0])
+                : AcisVersions.Of(solid.DataRecord?.Data))
+            .Where(version => version > known).GroupBy(static version => version)
+            .Select(group => $"{group.Count()} solids or surfaces have data of version {group.Key} of the modeler; "
+                + $"programs of release {release} may know versions up to {known} only");
     }
 
     // Records lead to the style of a multiline, which programs and old text files may know by its name only.

@@ -3,6 +3,7 @@ using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Field;
 using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 
@@ -57,7 +58,7 @@ public partial class CadTableCell
         else
         {
             FieldHandle = NoneAsEmpty(fields.Handle(HandleRole.HardPointer, FieldHandle));
-            StoreOldText(fields);
+            StoreOldText(fields, IsPresent(FieldHandle, fields));
         }
 
         ExchangeOverrides(fields, given, found);
@@ -148,9 +149,13 @@ public partial class CadTableCell
 
     private static string NoneAsEmpty(string handle) => handle == "0" ? "" : handle;
 
-    private void StoreOldText(BitExchange fields)
+    // A field that is not written is no reference, after which readers expect the text.
+    private static bool IsPresent(string handle, BitExchange fields) => fields.IsReading ? handle.Length > 0
+        : HandleText.TryParse(handle, out ulong value) && fields.IsPresent(value);
+
+    private void StoreOldText(BitExchange fields, bool hasField)
     {
-        if (FieldHandle.Length > 0)
+        if (hasField)
         {
             return;
         }

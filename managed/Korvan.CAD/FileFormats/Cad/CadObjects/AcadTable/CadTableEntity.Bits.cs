@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
@@ -35,6 +36,25 @@ public partial class CadTableEntity
     /// tell; null where the table was not read from such a file.</summary>
     internal CadTableContent? Content { get; set; }
 
+    /// <summary>Gets how many rows and columns files get. A table whose numbers state far more cells than it has, or
+    /// less than none, has as many rows as its cells make.</summary>
+    internal (int Rows, int Columns) WrittenSize
+    {
+        get
+        {
+            const int maxMissing = 1 << 16;
+            int columns = Math.Max(NumberOfColumns, 0);
+            int rows = Math.Max(NumberOfRows, 0);
+            if ((long)rows * columns <= Cells.Count + maxMissing && Math.Max(rows, columns) <= maxMissing)
+            {
+                return (rows, columns);
+            }
+
+            columns = Math.Clamp(columns, 0, Cells.Count);
+            return (columns == 0 ? 0 : (Cells.Count + columns - 1) / columns, columns);
+        }
+    }
+
     /// <summary>Gets the parts that the table is broken into.</summary>
     internal TableBreakData Breaks { get; private set; } = new();
 
@@ -55,11 +75,17 @@ public partial class CadTableEntity
         TableStyleHandle = fields.Handle(HandleRole.HardPointer, TableStyleHandle);
         TableFlags = fields.BitShort(TableFlags);
         fields.Point3(HorizontalDirection);
-        NumberOfColumns = fields.CountLong(NumberOfColumns);
-        NumberOfRows = fields.CountLong(NumberOfRows);
-        ExchangeSizes(fields, ColumnWidths, NumberOfColumns);
-        ExchangeSizes(fields, RowHeights, NumberOfRows);
-        long count = (long)NumberOfRows * NumberOfColumns;
+        (int rows, int columns) = WrittenSize;
+        columns = fields.CountLong(columns);
+        rows = fields.CountLong(rows);
+        if (fields.IsReading)
+        {
+            (NumberOfRows, NumberOfColumns) = (rows, columns);
+        }
+
+        ExchangeSizes(fields, ColumnWidths, columns);
+        ExchangeSizes(fields, RowHeights, rows);
+        long count = (long)rows * columns;
         int cells = fields.Verify(count <= int.MaxValue ? (int)count : int.MaxValue);
         for (int i = 0; i < cells; i++)
         {

@@ -40,9 +40,9 @@ internal static class TableConversion
     /// with the cells that are not.</summary>
     internal static CadTableContent ToContent(CadTableEntity table, BitExchange fields)
     {
-        CadTableContent content = table.Content is { } read && read.Rows.Count == table.NumberOfRows
-            && read.Columns.Count == table.NumberOfColumns
-            && read.Rows.All(row => row.Cells.Count == table.NumberOfColumns) ? read : Empty(table);
+        (int rows, int columns) = table.WrittenSize;
+        CadTableContent content = table.Content is { } read && read.Rows.Count == rows && read.Columns.Count == columns
+            && read.Rows.All(row => row.Cells.Count == columns) ? read : Empty(rows, columns);
         content.TableStyleHandle = table.TableStyleHandle.Length > 0 ? table.TableStyleHandle : "0";
         for (int i = 0; i < content.Columns.Count && i < table.ColumnWidths.Count; i++)
         {
@@ -59,7 +59,7 @@ internal static class TableConversion
         {
             if (!table.Cells[i].IsSame(present[i]))
             {
-                Store(content.Rows[i / table.NumberOfColumns].Cells[i % table.NumberOfColumns], table.Cells[i], fields);
+                Store(content.Rows[i / columns].Cells[i % columns], table.Cells[i], fields);
             }
         }
 
@@ -67,23 +67,23 @@ internal static class TableConversion
         return content;
     }
 
-    private static CadTableContent Empty(CadTableEntity table)
+    private static CadTableContent Empty(int rows, int columns)
     {
         CadTableContent content = new();
         SetFormat(content.Format, TableFormat);
-        for (int i = 0; i < table.NumberOfColumns; i++)
+        for (int i = 0; i < columns; i++)
         {
             TableDataColumn column = new();
             SetFormat(column.Format, ColumnFormat);
             content.Columns.Add(column);
         }
 
-        for (int i = 0; i < table.NumberOfRows; i++)
+        for (int i = 0; i < rows; i++)
         {
             TableDataRow row = new() { StyleId = StyleOf(i) };
             SetFormat(row.Format, RowFormat);
             content.Rows.Add(row);
-            for (int j = 0; j < table.NumberOfColumns; j++)
+            for (int j = 0; j < columns; j++)
             {
                 TableDataCell cell = new() { StyleId = StyleOf(i) };
                 SetFormat(cell.Format, CellFormat);
@@ -220,12 +220,13 @@ internal static class TableConversion
     private static void StoreMerged(CadTableEntity table, CadTableContent content)
     {
         content.MergedCells.Clear();
+        int columns = table.WrittenSize.Columns;
         for (int i = 0; i < table.Cells.Count; i++)
         {
             CadTableCell cell = table.Cells[i];
-            if (cell.IsMerged == 0 && (cell.MergedWidth > 1 || cell.MergedHeight > 1) && table.NumberOfColumns > 0)
+            if (cell.IsMerged == 0 && (cell.MergedWidth > 1 || cell.MergedHeight > 1) && columns > 0)
             {
-                (int row, int column) = (i / table.NumberOfColumns, i % table.NumberOfColumns);
+                (int row, int column) = (i / columns, i % columns);
                 content.MergedCells.Add(new FormattedTableCellRange
                 {
                     TopRow = row,

@@ -236,7 +236,8 @@ internal sealed class BitFieldWriter(int release, Encoding encoding, WrittenHand
         return value;
     }
 
-    internal override int Verify(int count) => count;
+    internal override int Verify(int count) =>
+        count >= 0 ? count : throw Fault($"{count} items are announced, which cannot be written");
 
     internal override void ChildCount(bool hasParts)
     {

@@ -3,6 +3,7 @@ using System.Collections.Generic;
 using System.Linq;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
@@ -43,7 +44,8 @@ internal sealed class DwgObjectWriter
     /// <summary>Gets the classes of the file: those of the drawing, and those that its objects need.</summary>
     internal IReadOnlyList<CadClassEntity> Classes => _classes.All;
 
-    /// <summary>Gets what was left out because it is kept in the form of another format or release.</summary>
+    /// <summary>Gets what was left out because it is kept in the form of another format or release, and what is written
+    /// in another way because it contradicts itself.</summary>
     internal List<string> LeftOut { get; } = [];
 
     /// <summary>Writes all objects.</summary>
@@ -51,6 +53,7 @@ internal sealed class DwgObjectWriter
     {
         RemoveUnwritten();
         CountInserts();
+        AddTableSizes();
         foreach (CadDbColor color in _drawing.Objects.OfType<CadDbColor>())
         {
             _colors.TryAdd(color.ColorName, color.Handle);
@@ -85,6 +88,19 @@ internal sealed class DwgObjectWriter
             _handles.Remove(item.Handle);
             string form = item.Kept?.FormatName ?? "another release";
             LeftOut.Add($"{item.DxfName} {HandleText.Format(item.Handle)}: data kept in the form of {form}");
+        }
+    }
+
+    private void AddTableSizes()
+    {
+        foreach (CadTableEntity table in DrawingWalk.Entities(_drawing).OfType<CadTableEntity>())
+        {
+            (int rows, int columns) = table.WrittenSize;
+            if ((rows, columns) != (table.NumberOfRows, table.NumberOfColumns))
+            {
+                LeftOut.Add($"{table.DxfName} {table.ObjectHandle}: {rows} rows and {columns} columns are written "
+                    + $"instead of {table.NumberOfRows} and {table.NumberOfColumns}, for {table.Cells.Count} cells");
+            }
         }
     }
 

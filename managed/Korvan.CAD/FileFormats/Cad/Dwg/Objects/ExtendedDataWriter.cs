@@ -97,7 +97,7 @@ internal static class ExtendedDataWriter
                 WriteHandle(writer, handles.Find(SymbolTable.Layer, tag.Value));
                 break;
             case 4:
-                byte[] bytes = Convert.FromHexString(tag.Value.Trim());
+                byte[] bytes = RecordText.ToBytes(tag.Value);
                 writer.Write((byte)Math.Min(bytes.Length, MaxBytes));
                 writer.Write(bytes.AsSpan(0, Math.Min(bytes.Length, MaxBytes)));
                 break;

@@ -65,7 +65,7 @@ internal static class RecordTagWriter
                 writer.Write(Integer(tag));
                 break;
             case RecordTags.Kind.Binary:
-                byte[] bytes = Convert.FromHexString(tag.Value.Trim());
+                byte[] bytes = RecordText.ToBytes(tag.Value);
                 writer.Write((byte)Math.Min(bytes.Length, MaxBytes));
                 writer.Write(bytes.AsSpan(0, Math.Min(bytes.Length, MaxBytes)));
                 break;

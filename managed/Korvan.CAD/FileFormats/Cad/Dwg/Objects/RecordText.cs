@@ -1,6 +1,8 @@
 using System;
+using System.Buffers;
 using System.Text;
 using Korvan.CAD.Encodings;
+using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 
@@ -46,5 +48,14 @@ internal static class RecordText
         }
 
         return result.ToString();
+    }
+
+    /// <summary>Returns the bytes of a value in hexadecimal.</summary>
+    /// <exception cref="DwgFault">It is something else.</exception>
+    internal static byte[] ToBytes(string value)
+    {
+        byte[] bytes = new byte[value.Length / 2];
+        return Convert.FromHexString(value.AsSpan().Trim(), bytes, out _, out int count) == OperationStatus.Done
+            ? bytes[..count] : throw new DwgFault(0, $"'{value}' is not binary data in hexadecimal");
     }
 }

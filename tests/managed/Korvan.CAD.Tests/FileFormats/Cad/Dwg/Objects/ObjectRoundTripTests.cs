@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.Linq;
 using System.Text;
+using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -68,6 +69,21 @@ public class ObjectRoundTripTests
             again.Objects.OfType<CadDictionaryBase>(),
             dictionary => Assert.All(
                 dictionary.GetObjectHandles(), handle => Assert.Contains(Convert.ToUInt64(handle, 16), present)));
+    }
+
+    [Theory]
+    [MemberData(nameof(Releases))]
+    public void DataThatIsNotHexadecimalIsRefusedByItsObject(CadAcadVersion version)
+    {
+        CadDrawing drawing = new(DrawingSeed.Standard);
+        CadXRecord record = new();
+        record.Data.Add(new CadCodeValue(310, "ABC"));
+        drawing.Objects.Add(record);
+
+        ImageSaveException failure = Assert.Throws<ImageSaveException>(() => WriteAndRead(drawing, version));
+
+        Assert.Contains("XRECORD", failure.Message, StringComparison.Ordinal);
+        Assert.Contains("'ABC' is not binary data", failure.Message, StringComparison.Ordinal);
     }
 
     /// <summary>Text files may have coordinates by themselves, which records have no coding for.</summary>

@@ -5,9 +5,11 @@ using System.Linq;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.Dwg;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.ImageOptions;
 using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cad.Dwg.Objects;
@@ -87,6 +89,25 @@ public class StoredSolidTests
 
         Assert.True(real.AsSpan().IndexOf(SolidSchemas.Data.AsSpan(attributes)) > 0);
         Assert.True(real.AsSpan().IndexOf(SolidSchemas.DataNames.AsSpan(sizeof(int), 11)) > 0);
+    }
+
+    // Data of text and binary form state their version.
+    [DrawingTheory]
+    [InlineData("lwg__example_2018.dwg", CadAcadVersion.AC1015, "version 22300 ")]
+    [InlineData("lwg__example_2018.dwg", CadAcadVersion.AC1032, "")]
+    [InlineData("lwg__example_2004.dwg", CadAcadVersion.AC1015, "version 20800 ")]
+    [InlineData("lwg__example_2000.dwg", CadAcadVersion.AC1015, "")]
+    public void DataThatIsNewerThanTheReleaseIsStated(string name, CadAcadVersion version, string stated)
+    {
+        CadDrawing drawing = RealObjectTests.Load(SharedDrawings.Dwg(name), new LoadOptions());
+
+        IReadOnlyList<string> notes =
+            DwgSaver.Save(drawing, new DwgOptions { Version = version }, new MemoryStream());
+
+        string found = notes.FirstOrDefault(
+            static note => note.Contains("of the modeler;", StringComparison.Ordinal)) ?? "";
+        Assert.Contains(stated, found, StringComparison.Ordinal);
+        Assert.Equal(stated.Length == 0, found.Length == 0);
     }
 
     [DrawingFact]

@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.FileFormats.Cad;
@@ -29,6 +30,32 @@ public class TableTests
         Assert.Equal(table.ColumnWidths, again.ColumnWidths);
         Assert.Equal(table.RowHeights, again.RowHeights);
         Assert.Equal(table.Cells.Select(Shown), again.Cells.Select(Shown));
+    }
+
+    // Numbers that the cells contradict, and a field that is not in the drawing.
+    [Theory]
+    [MemberData(nameof(Releases))]
+    public void ContradictoryTablesCanBeReadAgain(CadAcadVersion version)
+    {
+        foreach ((int rows, int columns, int writtenRows, int writtenColumns) in new[]
+        {
+            (-1, 2, 0, 2), (3, int.MinValue, 3, 0), (int.MaxValue, 2, 3, 2), (3, int.MaxValue, 1, 6), (1, 1, 1, 1),
+            (5, 4, 5, 4),
+        })
+        {
+            CadTableEntity table = Table();
+            (table.NumberOfRows, table.NumberOfColumns) = (rows, columns);
+            table.Cells[5].FieldHandle = "ABCDEF";
+
+            (CadDrawing drawing, IReadOnlyList<string> notes) =
+                ObjectRoundTripTests.WriteAndRead(WithTable(table), version);
+
+            CadTableEntity again = drawing.ModelSpace.Entities.OfType<CadTableEntity>().Single();
+            Assert.Equal((writtenRows, writtenColumns), (again.NumberOfRows, again.NumberOfColumns));
+            Assert.Equal(writtenRows * writtenColumns, again.Cells.Count);
+            Assert.Equal((rows, columns) != (writtenRows, writtenColumns), notes.Any(static note =>
+                note.StartsWith("ACAD_TABLE ", StringComparison.Ordinal)));
+        }
     }
 
     // A table that was read has more than its cells tell; a cell that is changed takes the place of its part of it.
