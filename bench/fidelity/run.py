@@ -2,8 +2,8 @@
 
 Four kinds of tables: drawings beside the drawing add-on of ezdxf, where EZDXF names a checkout of it; drawings as
 other programs read them; our pages as other programs show them; DWG beside DXF, both by us. The second and the third
-are held beside our own pixels. A figure is the share of the foreground that has foreground of the other side within two pixels. Programs that are not installed
-are named and left out.
+are held beside our own pixels. A figure is the share of the foreground that has foreground of the other side within
+two pixels. Programs that are not installed are named and left out.
 
     build/python bench/fidelity/run.py [--drawings FOLDER] [--out FOLDER] [--only TEXT] [TABLE ...]
 """
@@ -161,7 +161,9 @@ def _twins(drawings: list[Path], out: Path, known: dict[str, dict[str, str]], on
     twins = {path: folder / f"{path.stem}.dxf" for path in encoded if (folder / f"{path.stem}.dxf").exists()}
     saved = {path: out / "dwg" / f"{path.name}.dxf" for path in encoded}
     held = []
-    for title, key, pairs in (("the DXF of the same name", "twins", twins), ("our DXF of it, loaded again", "saved", saved)):
+    for title, key, pairs in (
+        ("the DXF of the same name", "twins", twins), ("our DXF of it, loaded again", "saved", saved),
+    ):
         there = [path for path in pairs if pairs[path].exists()]
         _ours([pairs[path] for path in there], out / key, ["png"], {})
         shares = dict(zip(there, _compare([

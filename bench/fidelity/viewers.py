@@ -14,6 +14,7 @@ SYSTEM_PYTHON = "/usr/bin/python3"
 SECONDS = 600
 # LibreCAD asks about drawings that it cannot read, where nobody can answer.
 READER_SECONDS = 20
+SHEET_SCALE = 3
 
 Show = Callable[[list[Path], Path, int], None]
 
@@ -78,6 +79,11 @@ def _office(pages: list[Path], folder: Path, side: int) -> None:
                      _target(page, folder).with_suffix(""))
 
 
+def _office_drawings(pages: list[Path], folder: Path, side: int) -> None:
+    # A drawing takes a part of the sheet.
+    _office(pages, folder, SHEET_SCALE * side)
+
+
 def _chromium(pages: list[Path], folder: Path, side: int) -> None:
     with tempfile.TemporaryDirectory() as profile:
         for page in pages:
@@ -110,5 +116,5 @@ VIEWERS = (
 # These read the drawings themselves.
 READERS = (
     Viewer("LibreCAD", "librecad", "dxf", _librecad, may_refuse=True),
-    Viewer("LibreOffice", "soffice", "dxf", _office),
+    Viewer("LibreOffice", "soffice", "dxf", _office_drawings),
 )

@@ -116,6 +116,8 @@ internal sealed record SceneSettings
 /// <summary>Everything of a drawing that entities refer to by name, ready for lookup.</summary>
 internal sealed class SceneTables
 {
+    private const string StandardStyle = "STANDARD";
+
     internal Dictionary<string, LayerInfo> Layers { get; } = new(StringComparer.OrdinalIgnoreCase);
 
     internal Dictionary<string, LinePattern?> LineTypes { get; } = new(StringComparer.OrdinalIgnoreCase);
@@ -160,7 +162,11 @@ internal sealed class SceneTables
 
     internal LayerInfo Layer(string name) => Layers.TryGetValue(name, out LayerInfo? layer) ? layer : AddLayer(name);
 
-    internal StyleInfo Style(string name) => Styles.TryGetValue(name, out StyleInfo? style) ? style : StyleInfo.Default;
+    /// <summary>The style of a name; texts whose style is not in the drawing have its standard one.</summary>
+    internal StyleInfo Style(string name) =>
+        Styles.TryGetValue(name, out StyleInfo? style) || Styles.TryGetValue(StandardStyle, out style)
+            ? style
+            : StyleInfo.Default;
 
     internal DimStyleInfo DimStyle(string name) =>
         DimStyles.TryGetValue(name, out DimStyleInfo style) ? style : DimStyleInfo.Default;
