@@ -41,7 +41,7 @@ public static unsafe class EntityRowsHost
     {
         if (source is CadImage drawing && kind == "BOUNDS")
         {
-            return EntityRows.BoundsOf(drawing, layers ?? "Model");
+            return EntityRows.BoundsOf(drawing.Drawing, drawing.GetLayoutEntities(layers ?? "Model"));
         }
 
         IEnumerable<CadEntityBase> entities = source switch

@@ -102,15 +102,15 @@ internal sealed class EntityRows
         return rows;
     }
 
-    /// <summary>Collects the boxes of the entities of a layout: the lowest X and Y, the highest X and Y. Entities that
-    /// take no space have no row.</summary>
-    /// <param name="image">The drawing.</param>
-    /// <param name="layout">The name of the layout.</param>
-    internal static EntityRows BoundsOf(CadImage image, string layout)
+    /// <summary>Collects the boxes of entities: the lowest X and Y, the highest X and Y. Entities that take no space
+    /// have no row.</summary>
+    /// <param name="drawing">The drawing.</param>
+    /// <param name="entities">Entities of the drawing.</param>
+    internal static EntityRows BoundsOf(CadDrawing drawing, IEnumerable<CadEntityBase> entities)
     {
         var rows = new EntityRows(4);
         long index = -1;
-        foreach (Extents extents in DrawingExtents.OfEach(image.Drawing, image.GetLayoutEntities(layout), null))
+        foreach (Extents extents in DrawingExtents.OfEach(drawing, entities, null))
         {
             index++;
             if (!extents.IsEmpty)
