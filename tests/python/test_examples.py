@@ -70,7 +70,10 @@ class Examples(unittest.TestCase):
         self.assertEqual(changed.read_text().count("IFCLABEL('not stated')"), 4)
 
     def run_snippets(self, page: str) -> str:
-        """Runs the Python of a page, one block after the other; gives what it prints."""
+        """Runs the Python of a page, one block after the other; gives what it prints.
+
+        A comment before a block, as test_docs.py explains it, tells why it cannot run.
+        """
         (self.out / "examples").symlink_to(EXAMPLES)
         (self.out / "build").mkdir()
         text = (ROOT / page).read_text(encoding="utf-8")

@@ -59,8 +59,7 @@ class Pool:
         self._memory, self._deadline, self._recycle = memory, deadline, max(1, recycle)
         program = Program(partial(import_modules, tuple(imports)), has_main=True)
         self._size = size
-        self._start = partial(Workers, program, size)
-        self._workers = self._start()
+        self._workers = Workers(program, size)
 
     def __enter__(self) -> Self:
         return self
@@ -72,7 +71,6 @@ class Pool:
     def close(self) -> None:
         """Ends the workers; those that are at work are killed."""
         self._workers.close(gently=True)
-        self._workers = self._start()
 
     def map(self, function: Callable[[Task], Result], tasks: Iterable[Task]) -> Generator[Outcome[Task, Result]]:
         """Calls a function for each task; returns the outcomes as they come, not in the order of the tasks.

@@ -263,9 +263,8 @@ class Workers:
         self._leaving: list[Worker] = []
         self._failed_starts = 0
         self._next_watch = 0.0
-        self._selector = selectors.DefaultSelector()
-        if wake is not None:
-            self._selector.register(wake, selectors.EVENT_READ)
+        self._wake = wake
+        self._selector: selectors.DefaultSelector | None = None
 
     def fill(self, count: int) -> None:
         """Starts workers until there are as many, or as there are at most."""
@@ -274,7 +273,7 @@ class Workers:
         for number in islice(numbers, max(0, count - len(self.all))):
             worker = Worker(number, self._program)
             self.all.append(worker)
-            self._selector.register(worker, selectors.EVENT_READ, worker)
+            self._waiting().register(worker, selectors.EVENT_READ, worker)
 
     def free(self) -> list[Worker]:
         return [worker for worker in self.all if worker.is_free()]
@@ -288,7 +287,7 @@ class Workers:
         :param check: Is called after the wait, before the events.
         :raises StartFailed: Workers do not start.
         """
-        found = self._selector.select(seconds)
+        found = self._waiting().select(seconds)
         if check:
             check()
         for key, _ in found:
@@ -308,7 +307,7 @@ class Workers:
         """Ends a worker; gently, it ends by itself when it is idle."""
         if worker not in self.all:
             return
-        self._selector.unregister(worker)
+        self._waiting().unregister(worker)
         self.all.remove(worker)
         if gently:
             worker.leave()
@@ -329,7 +328,17 @@ class Workers:
         for worker in self._leaving:
             worker.end(patience=max(0.0, until - time.monotonic()))
         self._leaving.clear()
-        self._selector.close()
+        if self._selector is not None:
+            self._selector.close()
+            self._selector = None
+
+    def _waiting(self) -> selectors.DefaultSelector:
+        """What is waited for: workers, and what wakes."""
+        if self._selector is None:
+            self._selector = selectors.DefaultSelector()
+            if self._wake is not None:
+                self._selector.register(self._wake, selectors.EVENT_READ)
+        return self._selector
 
     def _count_start(self, event: Event) -> None:
         self._failed_starts = self._failed_starts + 1 if event.end and not event.worker.is_started else 0
@@ -349,7 +358,7 @@ def _preparation() -> dict[str, Any]:
     from multiprocessing import spawn
 
     found: dict[str, Any] = spawn.get_preparation_data("korvan worker")
-    found.pop("authkey", None)  # cannot be pickled, and no worker needs it
+    found["authkey"] = bytes(found["authkey"])  # itself, it is pickled for processes of multiprocessing only
     return found
 
 

@@ -323,7 +323,7 @@ internal sealed unsafe class TextEngine : IDisposable
     }
 
     /// <summary>The file of the font that is used for a face, or null when there is no font at all.</summary>
-    internal string? FileOf(int font) => _shaper.FileOf(_shaped[font]);
+    internal string? FileOf(int font) => Shaper.FileOf(_shaped[font]);
 
     /// <summary>How a font is shown: by the outlines of a font, made wider or narrower, or by strokes.</summary>
     private readonly record struct FontUse(int Outline, StrokeFace? Strokes, double Width);

@@ -102,10 +102,10 @@ internal sealed class EntityRows
         return rows;
     }
 
-    /// <summary>Collects the boxes of the entities of a layout: the lowest X and Y, the highest X and Y. Entities that
-    /// take no space have no row.</summary>
+    /// <summary>Collects the boxes of entities: the lowest X and Y, the highest X and Y. Entities that take no space
+    /// have no row.</summary>
     /// <param name="drawing">The drawing.</param>
-    /// <param name="entities">The entities of the layout.</param>
+    /// <param name="entities">Entities of the drawing.</param>
     internal static EntityRows BoundsOf(CadDrawing drawing, IEnumerable<CadEntityBase> entities)
     {
         var rows = new EntityRows(4);
