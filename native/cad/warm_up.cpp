@@ -16,8 +16,8 @@ void stop_warm_up() { host_slot<void()>(host, stop)(); }
 } // namespace
 
 void start_warm_up() {
-    // Without a place in the list of what ends with the interpreter it could run into the end of the
-    // process.
+    // Without a place in the list of what ends with the interpreter it could run into the end of
+    // the process.
     if (!host_is_not_valid(host) && Py_AtExit(stop_warm_up) == 0) {
         host_slot<void()>(host, start)();
     }

@@ -1,4 +1,4 @@
-"""What happens while a program starts: enum types are made, and the first conversion runs on a thread of the library."""
+"""What happens while a program starts: enum types are made, and the first conversion is prepared on another thread."""
 
 from __future__ import annotations
 

@@ -50,7 +50,8 @@ internal static unsafe partial class WebPEncoder
     }
 
     [LibraryImport(WebP.Library, EntryPoint = "WebPConfigInitInternal")]
-    private static partial int InitializeConfiguration(Configuration* configuration, int preset, float quality, int abi);
+    private static partial int InitializeConfiguration(
+        Configuration* configuration, int preset, float quality, int abi);
 
     [LibraryImport(WebP.Library, EntryPoint = "WebPPictureInitInternal")]
     private static partial int InitializePicture(Picture* picture, int abi);

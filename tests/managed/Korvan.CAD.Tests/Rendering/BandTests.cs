@@ -44,7 +44,7 @@ public class BandTests
         }
 
         list.Stroke(path, new StrokeAttributes
-            { Color = new Rgba(255, 0, 0), LineWeight = 4, WeightInUnits = true, Dash = -1 });
+        { Color = new Rgba(255, 0, 0), LineWeight = 4, WeightInUnits = true, Dash = -1 });
         using var engine = new TextEngine();
         Page page = PdfSample.PageOf(list);
         using Budget budget = Budget.Begin(1000);
