@@ -4,7 +4,6 @@ using System.IO;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Devices;
-using Korvan.CAD.Rendering.Native;
 using Korvan.CAD.Rendering.Text;
 
 namespace Korvan.CAD.Rendering.Pdf;
