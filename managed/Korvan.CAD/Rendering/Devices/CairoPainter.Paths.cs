@@ -18,7 +18,7 @@ internal sealed unsafe partial class CairoPainter
     private const double EdgesOfDenseRow = 2048;
 
     /// <summary>The edges in dense rows that take about as long as one step of the budget.</summary>
-    private const int EdgesPerStep = 16;
+    private const int EdgesPerStep = 48;
 
     /// <summary>Counts the work of filling a path, or the outline of its stroke.</summary>
     private void CountWork(in DisplayItem item, int edgesPerSegment)
