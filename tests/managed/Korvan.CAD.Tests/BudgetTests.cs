@@ -1,13 +1,16 @@
 using System;
 using System.IO;
 using System.Linq;
+using System.Runtime.InteropServices;
 using System.Text;
 using System.Xml;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Input;
 using Korvan.CAD.Raster.Codecs;
+using Korvan.CAD.Raster.Colors;
 using Korvan.CAD.Raster.Pixels;
+using Korvan.CAD.Rendering.Meshes;
 using Korvan.CAD.Scene3D;
 using Xunit;
 
@@ -76,6 +79,26 @@ public sealed class BudgetTests
             }
         });
         Assert.InRange(budget.Taken, 0, Budget.MinMemory);
+    }
+
+    [Fact]
+    public void Buffers_of_gltf_ask_for_room_before_they_are_made()
+    {
+        const int positions = 7_000_000;
+        var mesh = new Mesh();
+        CollectionsMarshal.SetCount(mesh.Positions, positions);
+        CollectionsMarshal.SetCount(mesh.Normals, positions);
+        CollectionsMarshal.SetCount(mesh.TextureCoordinates, positions);
+        var buffer = new GltfBuffer();
+        buffer.PlaceOf(mesh, default);
+        VerifyRefusedWithoutMemory(() => buffer.Write());
+    }
+
+    [Fact]
+    public void Indices_of_pixels_ask_for_room_before_they_are_made()
+    {
+        using var pixels = new PixelGrid(20_000, 20_000);
+        VerifyRefusedWithoutMemory(() => IndexedPixels.Of(pixels, [0, -1], DitheringMethods.None));
     }
 
     [Fact]
@@ -190,4 +213,12 @@ public sealed class BudgetTests
         "57EDF4A22BE3C955AC49DA2E2107B67A")]
     public void Digests_name_the_parts_of_metadata(string text, string digest) =>
         Assert.Equal(digest, Convert.ToHexString(Md5.Digest(Encoding.ASCII.GetBytes(text))));
+
+    private static void VerifyRefusedWithoutMemory(Action action)
+    {
+        using Budget budget = Budget.Begin(Small);
+        long before = GC.GetAllocatedBytesForCurrentThread();
+        Assert.Throws<LimitMemoryException>(action);
+        Assert.InRange(GC.GetAllocatedBytesForCurrentThread() - before, 0, 1 << 20);
+    }
 }

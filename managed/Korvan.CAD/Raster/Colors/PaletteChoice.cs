@@ -36,6 +36,7 @@ internal static class IndexedPixels
 {
     internal static byte[] Of(PixelGrid pixels, int[] palette, DitheringMethods dithering)
     {
+        Budget.VerifyRoom(pixels.Count);
         var all = new byte[pixels.Count];
         Ditherer.Map(pixels, palette, dithering, (y, indices) => indices.CopyTo(all.AsSpan(y * pixels.Width)));
         return all;

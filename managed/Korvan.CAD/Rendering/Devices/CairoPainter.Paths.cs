@@ -17,11 +17,14 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>The edges in a row from which on each of them takes the longest to be sorted.</summary>
     private const double EdgesOfDenseRow = 2048;
 
-    /// <summary>The edges in dense rows that take about as long as one step of the budget.</summary>
-    private const int EdgesPerStep = 48;
+    /// <summary>The edges of fills in dense rows that take about as long as one step of the budget.</summary>
+    private const int FillEdgesPerStep = 36;
+
+    /// <summary>The same for edges of strokes, whose outlines have to be made, too.</summary>
+    private const int StrokeEdgesPerStep = 16;
 
     /// <summary>Counts the work of filling a path, or the outline of its stroke.</summary>
-    private void CountWork(in DisplayItem item, int edgesPerSegment)
+    private void CountWork(in DisplayItem item, int edgesPerSegment, int edgesPerStep)
     {
         Budget.Step(1 + (item.VerbCount / VerbsPerStep));
         if (item.VerbCount < MinVerbsOfDensePath)
@@ -43,7 +46,7 @@ internal sealed unsafe partial class CairoPainter
         }
 
         double density = edges / Math.Max(1, bottom - top) / EdgesOfDenseRow;
-        Budget.Step((long)(edges / EdgesPerStep * Math.Min(1, density)));
+        Budget.Step((long)(edges / edgesPerStep * Math.Min(1, density)));
     }
 
     private double RowOf(ReadOnlySpan<double> c, int at) => Math.Clamp(

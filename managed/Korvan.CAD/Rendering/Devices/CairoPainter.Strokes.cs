@@ -32,7 +32,7 @@ internal sealed unsafe partial class CairoPainter
             return;
         }
 
-        CountWork(item, 2);
+        CountWork(item, 2, StrokeEdgesPerStep);
         Trace(item);
         SetColor(item.Color);
         if (width != _lineWidth)

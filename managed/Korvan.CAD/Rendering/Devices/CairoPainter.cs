@@ -162,7 +162,7 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
             return;
         }
 
-        CountWork(item, 1);
+        CountWork(item, 1, FillEdgesPerStep);
         Trace(item);
         Cairo.SetFillRule(_cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
         if (item.Extra >= 0)

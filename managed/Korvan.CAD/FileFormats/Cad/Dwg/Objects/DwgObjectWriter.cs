@@ -14,6 +14,9 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 /// <summary>Writes all objects of a drawing whose handles and owners are complete.</summary>
 internal sealed class DwgObjectWriter
 {
+    /// <summary>The objects left out that are told one by one; more are counted.</summary>
+    private const int MaxNamed = 1000;
+
     private readonly CadDrawing _drawing;
     private readonly int _release;
     private readonly WrittenHandles _handles;
@@ -78,6 +81,7 @@ internal sealed class DwgObjectWriter
     // References to what is not written lead nowhere, so that it has to be known first.
     private void RemoveUnwritten()
     {
+        long more = 0;
         foreach (CadBaseObject item in DrawingWalk.All(_drawing))
         {
             if (item is CadTableHeader or CadSymbolTableGroupCodes || IsWritten(item))
@@ -85,9 +89,21 @@ internal sealed class DwgObjectWriter
                 continue;
             }
 
+            Budget.Check();
             _handles.Remove(item.Handle);
+            if (LeftOut.Count >= MaxNamed)
+            {
+                more++;
+                continue;
+            }
+
             string form = item.Kept?.FormatName ?? "another release";
             LeftOut.Add($"{item.DxfName} {HandleText.Format(item.Handle)}: data kept in the form of {form}");
+        }
+
+        if (more > 0)
+        {
+            LeftOut.Add($"{more} more objects: data kept in the form of other formats or releases");
         }
     }
 
