@@ -27,24 +27,14 @@ public partial class CadAcadProxyEntity : CadEntityBase
     [CadInt(91, Optional = true)]
     public int ApplicationClassId { get; set; }
 
-    /// <summary>Gets or sets the number of bytes of graphics, which follows from the data. Group code 92.</summary>
-    [CadInt(92, Optional = true)]
-    internal int GraphicsSize
-    {
-        get => GraphicsData.Length;
-        set => _ = value;
-    }
-
-    /// <summary>Gets or sets the graphics. Group code 310.</summary>
-    [CadBinary(310, Optional = true)]
+    /// <summary>Gets or sets the graphics. Group code 310, after their size in bytes: 92, or 160 from release 2010
+    /// on.</summary>
     public byte[] GraphicsData { get; set; } = [];
 
-    /// <summary>Gets or sets the number of bits of data. Group code 93.</summary>
-    [CadInt(93, Optional = true)]
+    /// <summary>Gets or sets the number of bits of data. Group code 93, or 161 from release 2010 on.</summary>
     public int EntitySize { get; set; }
 
     /// <summary>Gets or sets the data of the entity. Group code 310.</summary>
-    [CadBinary(310, Optional = true)]
     public byte[] EntityData { get; set; } = [];
 
     /// <summary>Gets or sets the format of the drawing when the entity became a proxy: the release in the lower 16
@@ -65,22 +55,49 @@ public partial class CadAcadProxyEntity : CadEntityBase
     partial void OnExchange(ObjectExchange fields)
     {
         const int end = 94;
+        ExchangeFormat(fields, true);
+        ExchangeSize(fields, 92, 160, GraphicsData.Length);
+        GraphicsData = ExchangeBytes(fields, GraphicsData);
+        EntitySize = ExchangeSize(fields, 93, 161, EntitySize);
+        EntityData = ExchangeBytes(fields, EntityData);
         ExchangeReferences(fields);
         if (fields.Has(end, 0, References.Count > 0))
         {
             fields.Int32(end, 0);
         }
 
-        if (fields.Has(95, 0, DrawingFormat != 0))
+        ExchangeFormat(fields, fields.IsReading);
+    }
+
+    // Some programs write the format before the sizes, some after the references.
+    private void ExchangeFormat(ObjectExchange fields, bool isHere)
+    {
+        if (fields.Has(95, 0, isHere && DrawingFormat != 0))
         {
             DrawingFormat = fields.Int32(95, DrawingFormat);
         }
 
-        if (fields.Has(70, 0, OriginalFormat != 0))
+        if (fields.Has(70, 0, isHere && OriginalFormat != 0))
         {
             OriginalFormat = fields.Int16(70, OriginalFormat);
         }
     }
+
+    private static int ExchangeSize(ObjectExchange fields, int code, int longCode, int size)
+    {
+        const int withLongSizes = 2010;
+        bool isLong = fields.Release >= withLongSizes;
+        if (fields.Has(code, 0, !isLong && size != 0))
+        {
+            size = fields.Int32(code, size);
+        }
+
+        return fields.Has(longCode, 0, isLong && size != 0)
+            ? (int)Math.Clamp(fields.Int64(longCode, size), 0, int.MaxValue) : size;
+    }
+
+    private static byte[] ExchangeBytes(ObjectExchange fields, byte[] data) =>
+        fields.Has(310, 0, data.Length > 0) ? fields.Binary(310, data) : data;
 
     // References of all kinds come in any order.
     private void ExchangeReferences(ObjectExchange fields)

@@ -7,9 +7,12 @@ using Korvan.CAD.FileFormats.Cad.Model;
 namespace Korvan.CAD.FileFormats.Cad.Dxf;
 
 /// <summary>Writes one object: what all have in common, and through its codec what is its own.</summary>
-internal sealed class DxfObjectWriter(DxfTagWriter writer)
+/// <param name="writer">The file.</param>
+/// <param name="classes">The classes of the drawing, which objects without a class of the library are of.</param>
+internal sealed class DxfObjectWriter(DxfTagWriter writer, IReadOnlyList<CadClassEntity>? classes = null)
 {
     private readonly DxfFieldWriter _fields = new(writer);
+    private readonly ProxyTags _proxies = new(writer, classes ?? []);
 
     /// <summary>Gets what was left out because it is kept in the form of another format.</summary>
     internal List<string> LeftOut { get; } = [];
@@ -33,6 +36,12 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
     internal void Write(CadBaseObject item)
     {
         Budget.Check();
+        if (_proxies.Covers(item))
+        {
+            WriteProxy(item);
+            return;
+        }
+
         if (item.Kept is { } kept and not KeptTags)
         {
             LeftOut.Add($"{item.DxfName} {HandleText.Format(item.Handle)}: data kept in the form of {kept.FormatName}");
@@ -42,9 +51,18 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
             }
         }
 
-        Begin(item);
+        Begin(item, item.DxfName);
         _fields.Begin(item.KeptTags?.Layouts);
         item.Exchange(_fields);
+        WriteRest(item);
+    }
+
+    private void WriteProxy(CadBaseObject item)
+    {
+        Begin(item, ProxyTags.NameOf(item));
+        _fields.Begin(null);
+        item.Exchange(_fields);
+        _proxies.Write(item);
         WriteRest(item);
     }
 
@@ -76,11 +94,11 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer)
         }
     }
 
-    private void Begin(CadBaseObject item)
+    private void Begin(CadBaseObject item, string name)
     {
         writer.Subject = item.Handle == 0 ? item.DxfName : $"{item.DxfName} {HandleText.Format(item.Handle)}";
         writer.BeginObject();
-        writer.Write(0, item.DxfName);
+        writer.Write(0, name);
         WriteIdentity(item);
         if (writer.HasSubclasses)
         {

@@ -29,7 +29,7 @@ internal sealed class DxfSaver
         _version = version;
         int year = DrawingRelease.Year(version);
         _writer = new DxfTagWriter(stream, EncodingOf(drawing, version), year, LayoutOf(drawing, year));
-        _objects = new DxfObjectWriter(_writer);
+        _objects = new DxfObjectWriter(_writer, drawing.ClassEntities.Items);
     }
 
     /// <summary>Writes a drawing. One that was read from a binary file is written as one.</summary>

@@ -13,6 +13,9 @@ internal sealed class KeptBits : KeptData
     /// <summary>Gets how many bits of the record are references, in releases from 2010 on.</summary>
     internal int HandleBits { get; init; }
 
+    /// <summary>Gets what text files have of the record; null where it is empty.</summary>
+    internal Deferred<ProxyContent>? Proxy { get; init; }
+
     /// <summary>Gets the graphics that a program stored with the entity.</summary>
     internal byte[] Graphics { get; init; } = [];
 

@@ -35,6 +35,35 @@ public class KeptDataTests
             System.StringComparison.Ordinal));
     }
 
+    [DrawingFact]
+    public void Entities_of_unknown_classes_stay_with_their_graphics_as_proxies()
+    {
+        CadImage drawing = (CadImage)Image.Load(SharedDrawings.Dwg("lwg__2013_gh109_1.dwg"));
+        using MemoryStream saved = new();
+        drawing.Save(saved, new DxfOptions());
+        CadImage text = DxfText.Load(saved.ToArray());
+        using MemoryStream file = new();
+        text.Save(file, new DwgOptions());
+        file.Position = 0;
+        foreach (CadImage again in new[] { text, (CadImage)Image.Load(file) })
+        {
+            Assert.Equal(drawing.Entities.Count(), again.Entities.Count());
+            int proxies = 0;
+            foreach (CadEntityBase entity in drawing.Entities.Where(static entity => entity is RawEntity))
+            {
+                CadAcadProxyEntity proxy = Assert.IsType<CadAcadProxyEntity>(
+                    again.Entities.Single(other => other.Handle == entity.Handle));
+                Assert.Equal(((Korvan.CAD.FileFormats.Cad.Model.KeptBits)entity.Kept!).Graphics, proxy.GraphicsData);
+                Assert.Equal(entity.DxfName,
+                    again.Drawing.ClassEntities.Items[proxy.ApplicationClassId - 500].DxfRecordName);
+                Assert.Equal((entity.LayerName, entity.Owner), (proxy.LayerName, proxy.Owner));
+                proxies++;
+            }
+
+            Assert.Equal(25, proxies);
+        }
+    }
+
     [Fact]
     public void Data_of_the_format_is_written_without_a_word()
     {

@@ -47,6 +47,12 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
     /// <summary>Gets the bit of the data that is read next.</summary>
     internal long Position => _data.Position;
 
+    /// <summary>Gets the reference that is read next, as a bit.</summary>
+    internal long HandlesPosition => _handles.Position;
+
+    /// <summary>Gets the bit after the data and the strings.</summary>
+    internal long DataEnd { get; private set; }
+
     /// <summary>Begins the data of an object.</summary>
     /// <param name="self">Its handle, which other handles are relative to.</param>
     /// <param name="data">Its data, from its first own field on.</param>
@@ -67,6 +73,7 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
             throw new DwgFault(_data.Position, $"the references begin at bit {start}, outside of the object");
         }
 
+        DataEnd = start;
         _handles = new BitReader(bytes, start, end);
         _data = new BitReader(bytes, _data.Position, start);
         if (release >= UnicodeStrings)

@@ -152,15 +152,20 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
 
         if (isRaw || graphics.Length > 0)
         {
+            byte[] record = isRaw ? data[(int)(header.Start >> 3)..(int)(header.End >> 3)] : [];
             target.Kept = new KeptBits
             {
                 Release = format.Release,
-                Record = isRaw ? data[(int)(header.Start >> 3)..(int)(header.End >> 3)] : [],
+                Record = record,
                 HandleBits = (int)header.HandleBits,
+                Proxy = isRaw ? new StoredProxy(record, PlaceIn(header), target.Handle, format.Release) : null,
                 Graphics = graphics,
             };
         }
     }
+
+    private RecordPlace PlaceIn(in RecordHeader header) => new(
+        _fields.Position - header.Start, _fields.DataEnd - header.Start, _fields.HandlesPosition - header.Start);
 
     // Reads up to the fields that all objects have, which follow the place of the references.
     private void ReadFrame(in RecordHeader header, CadBaseObject? target, out ulong handle, out byte[] graphics)

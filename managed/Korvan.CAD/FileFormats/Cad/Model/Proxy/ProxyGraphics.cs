@@ -47,7 +47,7 @@ internal static partial class ProxyGraphics
     // The length comes first; the bytes that follow it are the graphics, those after other lengths are not.
     private static byte[] DataOf(CadEntityBase entity)
     {
-        if (entity is CadAcadProxyEntity proxy)
+        if (entity is CadAcadProxyEntity { GraphicsData.Length: > 0 } proxy)
         {
             return proxy.GraphicsData;
         }
