@@ -47,7 +47,7 @@ public class KeptDataTests
         file.Position = 0;
         foreach (CadImage again in new[] { text, (CadImage)Image.Load(file) })
         {
-            Assert.Equal(drawing.Entities.Count(), again.Entities.Count());
+            Assert.Equal(drawing.Entities.Count, again.Entities.Count);
             int proxies = 0;
             foreach (CadEntityBase entity in drawing.Entities.Where(static entity => entity is RawEntity))
             {
