@@ -30,6 +30,8 @@ internal sealed class Budget : IDisposable
 
     /// <summary>The part of the memory that a collection needs while it moves objects.</summary>
     private const int CollectionShare = 16;
+    private const long MinUnsettled = 48L << 20;
+    private const long MaxUnsettled = 128L << 20;
 
     /// <summary>The memory that a call on another thread is taken to need, where it has no limit itself.</summary>
     private const long MaxOther = 1L << 30;
@@ -66,7 +68,7 @@ internal sealed class Budget : IDisposable
 
     private Budget(long memory, long maxSteps, int timeout)
     {
-        SettleHeap();
+        SettleHeap(memory);
         _outer = _current;
         _timeout = timeout;
         _deadline = timeout > 0 ? Environment.TickCount64 + timeout : long.MaxValue;
@@ -239,10 +241,11 @@ internal sealed class Budget : IDisposable
         }
     }
 
-    // What a call before has left would hide what this one takes.
-    private static void SettleHeap()
+    // What a call before has left would hide what this one takes. A collection costs as much as a tenth of the first
+    // save of a large drawing, so what is little beside the memory of this call may stay.
+    private static void SettleHeap(long memory)
     {
-        const long unsettled = 48L << 20;
+        long unsettled = Math.Clamp(memory / 4, MinUnsettled, MaxUnsettled);
         long taken = GC.GetTotalMemory(false);
         if (_hasLeftGarbage || taken > _settled + Math.Max(unsettled, _settled / 2))
         {

@@ -28,7 +28,7 @@ internal sealed class PageSource
 
     /// <summary>The same for pixels, which several threads draw where all items are there.</summary>
     private const int MaxStoredForPixels = 262_144;
-    private const int PartSize = 4_096;
+    private const int PartSize = 512;
 
     private readonly VectorScene _scene;
     private readonly ExportOptions _options;
