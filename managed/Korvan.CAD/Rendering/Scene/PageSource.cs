@@ -28,6 +28,9 @@ internal sealed class PageSource
 
     /// <summary>The same for pixels, which several threads draw where all items are there.</summary>
     private const int MaxStoredForPixels = 262_144;
+
+    /// <summary>Items of a part. Its coordinates take 64 KiB, less than what the large object heap begins with, whose
+    /// growth starts collections of the whole drawing.</summary>
     private const int PartSize = 512;
 
     private readonly VectorScene _scene;
