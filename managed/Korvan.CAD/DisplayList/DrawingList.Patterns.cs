@@ -33,6 +33,7 @@ internal sealed partial class DrawingList
         }
 
         _items[index].LineWeight = style.LineWeight;
+        _items[index].Style = style.Style;
         _items[index].Extra = _patterns.Count;
         _patterns.Add(area);
     }

@@ -4,6 +4,7 @@ namespace Korvan.CAD.FileFormats.PlotStyles;
 internal sealed record PlotStyle(string Name)
 {
     internal const int FullIntensity = 100;
+    internal const int LineTypeOfObject = 31;
 
     /// <summary>Gets the colour as 0xRRGGBB; -1 for that of the object.</summary>
     internal int Rgb { get; init; } = -1;
@@ -21,8 +22,32 @@ internal sealed record PlotStyle(string Name)
 
     internal PlotLineJoin Join { get; init; } = PlotLineJoin.OfObject;
 
-    /// <summary>Gets whether lines are continuous, whatever their line type is.</summary>
-    internal bool IsContinuous { get; init; }
+    /// <summary>Gets the number of the line type: 0 for continuous lines.</summary>
+    internal int LineType { get; init; } = LineTypeOfObject;
+
+    /// <summary>Gets how areas are filled.</summary>
+    internal PlotFill Fill { get; init; } = PlotFill.OfObject;
+
+    /// <summary>Gets the scale of fill patterns, and of line types that are in no standard.</summary>
+    internal double PatternScale { get; init; } = 1;
+
+    /// <summary>Gets whether filled areas become lines or dots.</summary>
+    internal bool HasFillPattern => Fill is > PlotFill.Solid and < PlotFill.OfObject;
+}
+
+/// <summary>How filled areas are drawn, by its number in the file.</summary>
+internal enum PlotFill
+{
+    Solid = 64,
+    Checkerboard = 65,
+    Crosshatch = 66,
+    Diamonds = 67,
+    HorizontalBars = 68,
+    SlantLeft = 69,
+    SlantRight = 70,
+    SquareDots = 71,
+    VerticalBars = 72,
+    OfObject = 73,
 }
 
 /// <summary>How open lines end, by its number in the file.</summary>

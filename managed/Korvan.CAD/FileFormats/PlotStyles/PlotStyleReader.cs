@@ -19,9 +19,9 @@ internal static class PlotStyleReader
     private const string Styles = "plot_style";
     private const string Weights = "custom_lineweight_table";
 
-    // Numbers of the line types and colours of objects.
-    private const int ContinuousLine = 0;
     private const int GrayscalePolicy = 2;
+
+    // The colour of objects.
     private const uint ObjectColor = 0xc3ffffff;
     private const uint Rgb = 0xffffff;
 
@@ -41,6 +41,7 @@ internal static class PlotStyleReader
         bool isNamed = data.AsSpan(Signature.Length).StartsWith(NamedKind);
         Dictionary<string, Dictionary<string, string>> sections = Sections(text);
         sections.TryGetValue(Weights, out Dictionary<string, string>? weights);
+        double scale = PatternScale(sections.GetValueOrDefault(""));
         var table = new PlotStyleTable(isNamed);
         foreach ((string path, Dictionary<string, string> values) in sections)
         {
@@ -49,7 +50,7 @@ internal static class PlotStyleReader
                 continue;
             }
 
-            PlotStyle style = Style(values, weights);
+            PlotStyle style = Style(values, weights) with { PatternScale = scale };
             if (isNamed)
             {
                 table.Add(style);
@@ -129,8 +130,19 @@ internal static class PlotStyleReader
             LineWeight = Weight(Int("lineweight", 0), weights),
             End = (PlotLineEnd)Int("end_style", (int)PlotLineEnd.OfObject),
             Join = (PlotLineJoin)Int("join_style", (int)PlotLineJoin.OfObject),
-            IsContinuous = Int("linetype", -1) == ContinuousLine,
+            LineType = Int("linetype", PlotStyle.LineTypeOfObject),
+            Fill = (PlotFill)Int("fill_style", (int)PlotFill.OfObject),
         };
+    }
+
+    // A table states a scale, and whether it holds.
+    private static double PatternScale(Dictionary<string, string>? values)
+    {
+        bool holds = bool.TryParse(values?.GetValueOrDefault("apply_factor"), out bool applies) && applies;
+        return holds
+            && double.TryParse(
+                values!.GetValueOrDefault("scale_factor"), CultureInfo.InvariantCulture, out double scale)
+            && scale is > 1e-3 and < 1e3 ? scale : 1;
     }
 
     // Zero is the weight of the object; others are rows of the table, from one.

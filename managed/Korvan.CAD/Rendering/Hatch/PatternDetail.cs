@@ -101,6 +101,7 @@ internal sealed class PatternDetail
                 {
                     Color = item.Color,
                     LineWeight = item.LineWeight,
+                    Style = item.Style,
                     Dash = -1,
                     Layer = item.Layer,
                 });

@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.FileFormats.PlotStyles;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 using Korvan.CAD.Rendering.Text.Strokes;
@@ -96,7 +97,16 @@ internal sealed class Canvas
         List.Fill(path, color, layer, evenOdd: false);
     }
 
-    internal void Fill(in Pen pen, bool evenOdd) => List.Fill(Path, pen.Color, pen.Layer, evenOdd);
+    internal void Fill(in Pen pen, bool evenOdd)
+    {
+        if (pen.Plot is { HasFillPattern: true } style)
+        {
+            FillPlotted(pen, style);
+            return;
+        }
+
+        List.Fill(Path, pen.Color, pen.Layer, evenOdd);
+    }
 
     /// <summary>Fills loops that are given in their own plane.</summary>
     internal void FillLoops(List<HatchLoop> loops, in HatchPlane plane, in Pen pen, Gradient? gradient)
@@ -108,7 +118,30 @@ internal sealed class Canvas
             path.Close();
         }
 
+        if (gradient is null && pen.Plot is { HasFillPattern: true } style)
+        {
+            FillPlotted(pen, style);
+            return;
+        }
+
         List.Fill(path, pen.Color, pen.Layer, evenOdd: true, gradient);
+    }
+
+    /// <summary>Fills the path by the pattern of a plot style, in units of the paper.</summary>
+    private void FillPlotted(in Pen pen, PlotStyle style)
+    {
+        const double tolerance = 0.05;
+        (List<HatchLine> lines, double width) = PlotPatterns.FillOf(style, pen.PlotUnit);
+        List<Vec2[]> rings = Polygons.Flatten(Path, tolerance * pen.PlotUnit);
+        List.Pattern(
+            Path, new PatternArea(rings, lines, Affine3.Identity, 0),
+            new StrokeAttributes
+            {
+                Color = pen.Color,
+                LineWeight = (float)width,
+                Style = List.StyleIndex(new StrokeStyle(LineCaps.Butt, LineJoins.Miter)),
+                Layer = pen.Layer,
+            });
     }
 
     /// <summary>Draws a pattern in the loops.</summary>

@@ -24,4 +24,7 @@ internal record struct Pen
 
     /// <summary>What the colour, the weight and the ends come from, where the page is plotted by styles.</summary>
     internal PlotStyle? Plot;
+
+    /// <summary>Drawing units in a millimetre of the paper that the page is plotted on.</summary>
+    internal double PlotUnit;
 }

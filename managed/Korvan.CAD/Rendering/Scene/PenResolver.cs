@@ -41,7 +41,7 @@ internal sealed class PenResolver
     private PenResolver(PenResolver other, SceneTables tables)
     {
         (_tables, _style, _list) = (tables, other._style, other._list);
-        (_showWeights, _plots, Styles) = (other._showWeights, other._plots, other.Styles);
+        (_showWeights, _plots, Styles, PlotUnit) = (other._showWeights, other._plots, other.Styles, other.PlotUnit);
     }
 
     /// <summary>Returns a resolver for another drawing on the same page.</summary>
@@ -49,6 +49,9 @@ internal sealed class PenResolver
 
     /// <summary>Gets the styles that the page is plotted by; null for none.</summary>
     internal PlotStyleTable? Styles { get; init; }
+
+    /// <summary>Gets the drawing units in a millimetre of the paper.</summary>
+    internal double PlotUnit { get; init; } = 1;
 
     /// <summary>The layer whose properties hold for the entity.</summary>
     internal LayerInfo LayerOf(CadEntityBase entity, BlockContext context)
@@ -105,7 +108,13 @@ internal sealed class PenResolver
         pen.Plot = Styles.IsNamed ? pen.Plot : StyleOf(color, layer, context);
         pen.Style = _plots.StrokeStyle(pen.Plot) is StrokeStyle stroke ? _list.StyleIndex(stroke) : 0;
         pen.LineWeight = pen.Plot?.LineWeight ?? pen.LineWeight;
-        pen.Pattern = pen.Plot is { IsContinuous: true } ? null : pen.Pattern;
+        pen.PlotUnit = PlotUnit;
+        if (pen.Plot is { LineType: >= 0 and < PlotStyle.LineTypeOfObject } style)
+        {
+            (pen.Pattern, double scale) = PlotPatterns.LineOf(style, pen.LineWeight);
+            pen.PatternScale = scale * PlotUnit;
+        }
+
         return pen;
     }
 

@@ -90,16 +90,22 @@ internal sealed record PlotArea
         return showsNothing ? (this with { UnitsPerMillimetre = null, IsCentered = true }).Placed(content) : sheet;
     }
 
-    private static double? ScaleOf(CadLayout layout)
+    /// <summary>Returns the drawing units in a millimetre of paper; null for a plot that is fitted to its
+    /// paper.</summary>
+    internal static double? ScaleOf(CadPlotSettings layout)
     {
         const short fit = 0;
         bool isStandard = (layout.PlotFlags & CadPlotLayoutFlag.UseStandardScale) != 0;
         bool isLayout = layout.PlotType == CadPlotType.LayoutInformation;
-        double unit = layout.PaperUnits == CadPlotPaperUnits.Inches ? 1 / MillimetresPerInch : 1;
+        double unit = UnitOf(layout);
         double scale = layout.ScaleDenominator / layout.ScaleNumerator;
         bool isUsable = layout.ScaleNumerator > 0 && layout.ScaleDenominator > 0 && double.IsFinite(scale);
         return isStandard && layout.StandardScale == fit && !isLayout ? null : unit * (isUsable ? scale : 1);
     }
+
+    /// <summary>Returns the units of paper in a millimetre.</summary>
+    internal static double UnitOf(CadPlotSettings layout) =>
+        layout.PaperUnits == CadPlotPaperUnits.Inches ? 1 / MillimetresPerInch : 1;
 
     private static Bounds2? PartOf(CadDrawing drawing, CadLayout layout, BlockInfo sheet)
     {

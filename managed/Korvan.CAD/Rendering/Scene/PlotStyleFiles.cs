@@ -16,7 +16,12 @@ namespace Korvan.CAD.Rendering.Scene;
 /// <param name="Table">The table; null where there is no file and the name is no standard one.</param>
 /// <param name="OnScreen">Whether screens show the styles.</param>
 /// <param name="OnPlot">Whether plots have the styles.</param>
-internal sealed record PlotSetup(string Name, PlotStyleTable? Table, bool OnScreen, bool OnPlot);
+internal sealed record PlotSetup(string Name, PlotStyleTable? Table, bool OnScreen, bool OnPlot)
+{
+    /// <summary>Gets the drawing units in a millimetre of paper; those of the paper for a plot that is fitted to
+    /// it.</summary>
+    internal double UnitsPerMillimetre { get; init; } = 1;
+}
 
 /// <summary>The tables of plot styles that page setups name, and the names of styles. Only files in the drawing's own
 /// folder are opened; tables of CAD programs are known without a file.</summary>
@@ -63,7 +68,10 @@ internal sealed class PlotStyleFiles
         string name = layout.CurrentStyleSheet;
         return name.Length == 0 || !(onScreen || onPlot)
             ? null
-            : new PlotSetup(name[(name.AsSpan().LastIndexOfAny('/', '\\') + 1)..], Find(name), onScreen, onPlot);
+            : new PlotSetup(name[(name.AsSpan().LastIndexOfAny('/', '\\') + 1)..], Find(name), onScreen, onPlot)
+            {
+                UnitsPerMillimetre = PlotArea.ScaleOf(layout) ?? PlotArea.UnitOf(layout),
+            };
     }
 
     private PlotStyleTable? Find(string name)

@@ -1,3 +1,4 @@
+using System;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -10,6 +11,7 @@ namespace Korvan.CAD.Rendering.Scene;
 internal sealed partial class SceneBuilder
 {
     private const string ContentOf = "content of ";
+    private const string OnlyPlus = ", whose preview has EMF+ records alone";
     private const string BitmapExtension = ".bmp";
 
     void IGeometrySink.Frame(in ContentFrame frame)
@@ -20,7 +22,8 @@ internal sealed partial class SceneBuilder
             return;
         }
 
-        List.Skip(ContentOf + frame.Source.TypeNameText);
+        string reason = preview is not null && WindowsMetafile.HasOnlyPlusRecords(preview.Data) ? OnlyPlus : "";
+        List.Skip(ContentOf + frame.Source.TypeNameText + reason);
         if (frame.Corners.Length < 2)
         {
             return;
@@ -36,6 +39,14 @@ internal sealed partial class SceneBuilder
         _canvas.Stroke(_current.Pen);
     }
 
+    void IGeometrySink.StartClip(ReadOnlySpan<Vec3> corners)
+    {
+        AddRing(_canvas.NewPath(), corners.ToArray());
+        List.PushClip(_canvas.Path, evenOdd: true);
+    }
+
+    void IGeometrySink.EndClip() => List.PopClip();
+
     void IGeometrySink.Shape(CadShape shape, Vec3 at)
     {
         if ((_tables.Shapes.Find(shape.ShapeName) ?? _canvas.Engine.FindSymbol(shape.ShapeName)) is not { } strokes)
@@ -47,7 +58,7 @@ internal sealed partial class SceneBuilder
         Affine3 map = _current.Context.Map * Affine3.Translation(at) * PlaneOf(shape)
             * Affine3.RotationZ(Angles.Radians(shape.RotationAngle))
             * Affine3.Scaling(shape.Size * shape.ScaleX, shape.Size, 1);
-        double slant = System.Math.Tan(Angles.Radians(shape.ObliqueAngle));
+        double slant = Math.Tan(Angles.Radians(shape.ObliqueAngle));
         PathBuffer path = _canvas.NewPath();
         foreach (Vec2[] stroke in strokes)
         {

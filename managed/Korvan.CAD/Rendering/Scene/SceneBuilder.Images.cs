@@ -28,9 +28,10 @@ internal sealed partial class SceneBuilder
 
     private void DrawWipeout(in ImageFrame frame, CadWipeoutBase wipeout)
     {
-        AddImageOutline(frame, wipeout.ClipBoundaryVertices);
+        AddImageOutline(frame, wipeout.ClipBoundaryVertices, wipeout.ClipMode != 0);
         Pen mask = _current.Pen;
         mask.Color = _style.Background;
+        mask.Plot = null;
         _canvas.Fill(mask, evenOdd: true);
         if (_tables.Settings.WipeoutFrames)
         {
@@ -43,6 +44,7 @@ internal sealed partial class SceneBuilder
         Pen pen = _current.Pen;
         bool clipped = image.ClippingState != 0 && (image.DisplayFlags & UsesClipping) != 0;
         IList<Cad2DPoint> boundary = clipped ? image.ClipBoundaryVertices : [];
+        bool hidesInside = image.ClipMode != 0;
         bool isShown = (image.DisplayFlags & ShowsImage) != 0;
         ImagePixels? pixels = isShown ? _tables.Images.Find(image.ImageDefReference) : null;
         if (pixels == null)
@@ -51,7 +53,7 @@ internal sealed partial class SceneBuilder
         }
         else
         {
-            AddImageOutline(frame, boundary);
+            AddImageOutline(frame, boundary, hidesInside);
             Bounds2 extent = _canvas.Path.Bounds;
             List.PushClip(_canvas.Path, evenOdd: true);
             List.Image(Placed(pixels, frame, image.Fade), pen.Layer, extent);
@@ -60,7 +62,7 @@ internal sealed partial class SceneBuilder
 
         if (_tables.Settings.ImageFrames)
         {
-            AddImageOutline(frame, boundary);
+            AddImageOutline(frame, boundary, hidesInside);
             _canvas.Stroke(pen);
         }
     }
@@ -78,12 +80,19 @@ internal sealed partial class SceneBuilder
 
     /// <summary>
     /// The outline in pixels of the image, whose rows run down: pixel (0, 0) has its corner at -0.5 above the last
-    /// row. Two points are corners of a rectangle, more are a polygon, none the whole image.
+    /// row. Two points are corners of a rectangle, more are a polygon, none the whole image. What a boundary
+    /// hides is a hole in the whole image.
     /// </summary>
-    private void AddImageOutline(in ImageFrame frame, IList<Cad2DPoint> boundary)
+    private void AddImageOutline(in ImageFrame frame, IList<Cad2DPoint> boundary, bool hidesInside)
     {
         var pixels = new Affine3(frame.U, -frame.V, Vec3.UnitZ, frame.Corner + frame.Up);
         var path = new PathPen(_canvas.NewPath(), _current.Context.Map * pixels);
+        Bounds2 whole = Bounds2.Of(0, 0, frame.Size.X, frame.Size.Y);
+        if (hidesInside && boundary.Count > 1)
+        {
+            AddBox(path, whole);
+        }
+
         if (boundary.Count > 2)
         {
             AddPolygon(path, boundary.ConvertAll(p => p.ToVec2() + new Vec2(0.5, 0.5)));
@@ -92,10 +101,12 @@ internal sealed partial class SceneBuilder
 
         Bounds2 box = boundary.Count == 2
             ? Bounds2.Of(boundary[0].X + 0.5, boundary[0].Y + 0.5, boundary[1].X + 0.5, boundary[1].Y + 0.5)
-            : Bounds2.Of(0, 0, frame.Size.X, frame.Size.Y);
-        AddPolygon(
-            path, [new(box.MinX, box.MinY), new(box.MaxX, box.MinY), new(box.MaxX, box.MaxY), new(box.MinX, box.MaxY)]);
+            : whole;
+        AddBox(path, box);
     }
+
+    private static void AddBox(in PathPen path, in Bounds2 box) => AddPolygon(
+        path, [new(box.MinX, box.MinY), new(box.MaxX, box.MinY), new(box.MaxX, box.MaxY), new(box.MinX, box.MaxY)]);
 
     private static void AddPolygon(in PathPen path, List<Vec2> corners)
     {

@@ -7,6 +7,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.AcadTable;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
+using Korvan.CAD.FileFormats.Cad.Model.Tables;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 
@@ -21,6 +22,8 @@ internal sealed partial class SceneBuilder
     // Group code 93 of a leader line.
     private const int OwnSize = 16;
     private const int OwnArrowhead = 32;
+
+    private const string TableBlock = "*T";
 
     void IGeometrySink.MultiLeader(CadMLeader leader)
     {
@@ -226,7 +229,7 @@ internal sealed partial class SceneBuilder
             Rgba color = data.IsBackgroundFillEnabled
                 ? _style.Background
                 : _pens.ColorOf(RawColor.Decode(unchecked((uint)data.BackgroundColor)), layer, context);
-            _canvas.Fill(pen with { Color = color }, evenOdd: false);
+            _canvas.Fill(pen with { Color = color, Plot = null }, evenOdd: false);
         }
 
         if (leader.Style.IsTextFrameEnabled)
@@ -239,16 +242,25 @@ internal sealed partial class SceneBuilder
         TextPainter.Draw(_canvas, layout, map, pen, color => InlineColorOf(color, layer, context));
     }
 
-    /// <summary>A table has its graphics in an anonymous block at its insertion point.</summary>
+    /// <summary>A table has its graphics in an anonymous block at its insertion point; without one it is drawn from its
+    /// cells.</summary>
     void IGeometrySink.Table(CadTableEntity table, in Affine3 map)
     {
-        if (!_tables.Blocks.TryGetValue(table.Name, out BlockInfo? block))
+        (Pen pen, LayerInfo layer, BlockContext context, _) = _current;
+        if (_tables.Blocks.TryGetValue(table.Name, out BlockInfo? block))
         {
-            List.Skip("ACAD_TABLE without a picture");
+            DrawBlock(block, context.Map * map * Affine3.Translation(-block.Base), layer, pen, context);
             return;
         }
 
-        (Pen pen, LayerInfo layer, BlockContext context, _) = _current;
-        DrawBlock(block, context.Map * map * Affine3.Translation(-block.Base), layer, pen, context);
+        List<CadEntityBase> entities = TableGraphics.Create(table, _tables.CellSources);
+        if (entities.Count == 0)
+        {
+            List.Skip("ACAD_TABLE without cells");
+            return;
+        }
+
+        var cells = new BlockInfo(TableBlock + table.ObjectHandle, default, entities);
+        DrawBlock(cells, context.Map * map, layer, pen, context);
     }
 }

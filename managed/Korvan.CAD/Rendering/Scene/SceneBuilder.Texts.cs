@@ -49,9 +49,18 @@ internal sealed partial class SceneBuilder
     {
         (Pen pen, LayerInfo layer, BlockContext context, _) = _current;
         double height = TextLayouts.HeightOf(text, _tables);
-        MTextLayout layout = TextLayouts.LayoutOf(text, _tables, _canvas.Engine);
         Affine3 map = MapOf(plane);
-        DrawBackground(text, layout, height, map, pen, layer, context);
+        if (TextLayouts.IsVertical(text, _tables))
+        {
+            VerticalTextLayout columns = TextLayouts.VerticalOf(text, _tables, _canvas.Engine);
+            DrawBackground(text, columns.Box, height, map, pen, layer, context);
+            TextPainter.Draw(_canvas, columns.Runs, map, pen, color => InlineColorOf(color, layer, context));
+            return;
+        }
+
+        MTextLayout layout = TextLayouts.LayoutOf(text, _tables, _canvas.Engine);
+        (double left, double bottom, double right, double top) = layout.Box;
+        DrawBackground(text, Bounds2.Of(left, bottom, right, top), height, map, pen, layer, context);
         TextPainter.Draw(_canvas, layout, map, pen, color => InlineColorOf(color, layer, context));
     }
 
@@ -63,7 +72,7 @@ internal sealed partial class SceneBuilder
             _current.Pen.Plot);
 
     private void DrawBackground(
-        CadMText text, MTextLayout layout, double height, in Affine3 map, in Pen pen, LayerInfo layer,
+        CadMText text, in Bounds2 box, double height, in Affine3 map, in Pen pen, LayerInfo layer,
         BlockContext context)
     {
         int setting = (int)text.BackgroundFillSetting;
@@ -75,17 +84,11 @@ internal sealed partial class SceneBuilder
         }
 
         double grow = (Math.Clamp(text.FillBoxScale, 1, 5) - 1) * height;
-        (double left, double bottom, double right, double top) = layout.Box;
-        var path = new PathPen(_canvas.NewPath(), map);
-        path.MoveTo(new Vec2(left - grow, bottom - grow));
-        path.LineTo(new Vec2(right + grow, bottom - grow));
-        path.LineTo(new Vec2(right + grow, top + grow));
-        path.LineTo(new Vec2(left - grow, top + grow));
-        path.Close();
+        AddBox(map, box.MinX - grow, box.MinY - grow, box.MaxX + grow, box.MaxY + grow);
         if (filled)
         {
             bool window = (setting & BackgroundOfWindow) != 0;
-            Pen fill = pen;
+            Pen fill = pen with { Plot = null };
             fill.Color = window
                 ? _style.Background
                 : _pens.ColorOf(

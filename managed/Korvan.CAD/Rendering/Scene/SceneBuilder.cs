@@ -37,7 +37,11 @@ internal sealed partial class SceneBuilder : IGeometrySink
         {
             StyleFont = name => tables.Style(name).Font,
         };
-        _pens = new PenResolver(tables, style, _canvas.List, onPaper) { Styles = plot?.Table };
+        _pens = new PenResolver(tables, style, _canvas.List, onPaper) 
+        {
+            Styles = plot?.Table,
+            PlotUnit = plot?.UnitsPerMillimetre ?? 1,
+        };
         if (plot is { Table: null })
         {
             list.Skip("plot style table " + plot.Name + DrawingList.MissingFile);

@@ -6,6 +6,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
+using Korvan.CAD.FileFormats.Cad.Model.Tables;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 
@@ -55,6 +56,7 @@ internal static class SceneReader
             PlotStyles = PlotStyleFiles.Of(drawing),
             External = new ExternalDrawings(drawing.Folder, isNested: false),
             Dimensions = new DimensionStyles(drawing),
+            CellSources = new TableSources(drawing),
         };
         var styleNames = new Dictionary<string, string>(StringComparer.OrdinalIgnoreCase);
         foreach (CadStyleTableObject text in drawing.Styles)

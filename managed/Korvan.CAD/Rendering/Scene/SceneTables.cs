@@ -4,6 +4,7 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
+using Korvan.CAD.FileFormats.Cad.Model.Tables;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;
@@ -142,6 +143,9 @@ internal sealed class SceneTables
 
     /// <summary>The styles of dimensions that have no block.</summary>
     internal DimensionStyles Dimensions { get; set; } = new(new CadDrawing(DrawingSeed.Blank));
+
+    /// <summary>What tables without a block are drawn from.</summary>
+    internal TableSources CellSources { get; set; } = new(new CadDrawing(DrawingSeed.Blank));
 
     /// <summary>The pixels of images, by the handle of their definition.</summary>
     internal ImageFiles Images { get; set; } = ImageFiles.None;

@@ -55,9 +55,32 @@ internal static class TextLayouts
         return MTextLayout.Create(engine, MTextParser.Parse(text.Text, start), frame, height);
     }
 
+    /// <summary>Determines whether the characters of a text are below each other: it says so, or its style does, which
+    /// only fonts of strokes can have.</summary>
+    internal static bool IsVertical(CadMText text, SceneTables tables) => text.DrawingDirection switch
+    {
+        CadDrawingDirection.TopToBottom => true,
+        CadDrawingDirection.ByStyle => tables.Style(text.TextStyleName) is { IsVertical: true, Font.Stroke: not null },
+        _ => false,
+    };
+
+    internal static VerticalTextLayout VerticalOf(CadMText text, SceneTables tables, TextEngine engine)
+    {
+        double height = HeightOf(text, tables);
+        MTextFormat start = StartFormat(tables.Style(text.TextStyleName), height);
+        double spacing = text.LineSpacingFactor is > 0 and < MaxLineSpacing ? text.LineSpacingFactor : 1;
+        var frame = new MTextFrame(text.ReferenceRectangleHeight, (int)text.AttachmentPoint, spacing, false);
+        return VerticalTextLayout.Create(engine, MTextParser.Parse(text.Text, start), frame, height);
+    }
+
     /// <summary>Returns the box of a text in its own plane.</summary>
     internal static Bounds2 BoxOf(CadMText text, SceneTables tables, TextEngine engine)
     {
+        if (IsVertical(text, tables))
+        {
+            return VerticalOf(text, tables, engine).Box;
+        }
+
         (double left, double bottom, double right, double top) = LayoutOf(text, tables, engine).Box;
         return Bounds2.Of(left, bottom, right, top);
     }

@@ -47,8 +47,6 @@ internal readonly record struct SingleLine
 /// <summary>Places single-line and multi-line text on a canvas.</summary>
 internal static class TextPainter
 {
-    /// <summary>The distance of characters below each other, in heights of capitals.</summary>
-    private const double VerticalStep = 1.5;
     private const double BarThickness = 0.06;
     private const double DescenderPart = 1.0 / 3.0;
     private const double SteepestOblique = 85 * Math.PI / 180;
@@ -103,7 +101,7 @@ internal static class TextPainter
             characters.Add(all.GetTextElement());
         }
 
-        double step = line.Height * VerticalStep;
+        double step = line.Height * VerticalTextLayout.Step;
         double length = (step * (characters.Count - 1)) + line.Height;
         double shift = line.Horizontal switch
         {
@@ -129,21 +127,28 @@ internal static class TextPainter
     internal static void Draw(
         Canvas canvas, MTextLayout layout, in Affine3 map, in Pen pen, Func<InlineColor, Rgba> colorOf)
     {
+        Draw(canvas, layout.Runs, map, pen, colorOf);
         Affine2 plane = PlaneMap(map, 0);
-        foreach (PlacedRun run in layout.Runs)
-        {
-            var local = new Affine2(run.Em * run.WidthFactor, 0, run.Em * run.Slant, run.Em, run.X, run.Y);
-            Pen own = pen;
-            own.Color = Color(run.Color, pen, colorOf);
-            canvas.Text(run.Text, run.Font, plane * local, run.LetterSpacing, own);
-        }
-
         foreach (PlacedBar bar in layout.Bars)
         {
             Vec2 from = plane.Point(bar.X0, bar.Y0);
             Vec2 to = plane.Point(bar.X1, bar.Y1);
             double thickness = bar.Thickness * Math.Sqrt(Math.Abs(plane.Determinant));
             canvas.Bar(from, to, thickness, Color(bar.Color, pen, colorOf), pen.Layer);
+        }
+    }
+
+    /// <summary>Draws runs that are placed in a plane.</summary>
+    internal static void Draw(
+        Canvas canvas, IEnumerable<PlacedRun> runs, in Affine3 map, in Pen pen, Func<InlineColor, Rgba> colorOf)
+    {
+        Affine2 plane = PlaneMap(map, 0);
+        foreach (PlacedRun run in runs)
+        {
+            var local = new Affine2(run.Em * run.WidthFactor, 0, run.Em * run.Slant, run.Em, run.X, run.Y);
+            Pen own = pen;
+            own.Color = Color(run.Color, pen, colorOf);
+            canvas.Text(run.Text, run.Font, plane * local, run.LetterSpacing, own);
         }
     }
 

@@ -98,6 +98,20 @@ public sealed class FrameTests : IDisposable
     }
 
     [Fact]
+    public void A_preview_that_only_later_programs_can_draw_is_named()
+    {
+        CadOle2Frame frame = new()
+        {
+            UpperLeftPoint = new Cad3DPoint(1, 4, 0),
+            LowerRightPoint = new Cad3DPoint(6, 2, 0),
+            Data = [7, .. PlusMetafile()],
+        };
+        Assert.Equal(
+            ["content of OLE2FRAME, whose preview has EMF+ records alone"],
+            Build(TestPage.Drawing(frame)).Skipped.Keys);
+    }
+
+    [Fact]
     public void Shapes_are_drawn_from_the_file_that_a_style_names()
     {
         // A square of side 2 with a gap: up 2, right 2 by a displacement, pen up, then down 2 with the pen down.
@@ -195,6 +209,17 @@ public sealed class FrameTests : IDisposable
         byte[] header = new byte[40];
         (header[0], header[4], header[8], header[12], header[14]) = (40, 2, 2, 1, 24);
         return [.. header, 0, 0, 255, 0, 255, 0, 0, 0, 255, 0, 0, 255, 0, 0, 0, 0];
+    }
+
+    // A comment whose identifier announces records for later programs.
+    private static byte[] PlusMetafile()
+    {
+        byte[] comment = new byte[20];
+        (comment[0], comment[4], comment[8]) = (70, 20, 8);
+        Encoding.ASCII.GetBytes("EMF+").CopyTo(comment, 12);
+        byte[] whole = [.. Metafile(), .. comment];
+        whole[48] = (byte)whole.Length;
+        return whole;
     }
 
     private static byte[] Metafile()

@@ -129,6 +129,38 @@ public class PlotStyleTests
         Assert.Equal(0.7f, PlotStyleReader.Read(whole)!.Of(1)!.LineWeight);
     }
 
+    [Fact]
+    public void Line_types_and_fills_of_styles_are_measured_on_the_paper()
+    {
+        const string dashed = "color=-1\n linetype=1\n fill_style=68";
+        const string iso = "color=-1\n linetype=17\n lineweight=18\n fill_style=64";
+        using var folder = new Folder("Office.ctb", Packed("CTBVER1", ("Color_1", dashed), ("Color_2", iso)));
+        CadImage drawing = Drawing("Office.ctb", CadPlotLayoutFlag.PlotPlotStyles);
+        drawing.Drawing.Folder = folder.Path;
+        foreach (CadLayout layout in drawing.Layouts)
+        {
+            (layout.PaperUnits, layout.ScaleNumerator, layout.ScaleDenominator) = (CadPlotPaperUnits.Millimeters, 1, 2);
+        }
+
+        CadLine hidden = Line(1), wide = Line(2);
+        hidden.LineTypeName = "CONTINUOUS";
+        Array.ForEach<CadEntityBase>(
+            [hidden, wide, TestPage.Square(20, 20, 40, 1), TestPage.Square(20, 20, 40, 2)],
+            drawing.PaperSpaceEntities.Add);
+        DrawingList list = SceneList.WithHatchLines(Build(drawing, isPaper: true));
+
+        // Two units of the drawing are a millimetre; dashes of standard lines are 12 line widths long.
+        DisplayItem[] items = list.Items.ToArray();
+        Assert.Equal([8.0, 4.0], list.DashOf(items[0])!.ToArray());
+        Assert.Equal([16.8, 4.2], list.DashOf(items[1])!.ToArray().Select(static n => Math.Round(n, 5)));
+
+        // Bars of half a millimetre, each after a millimetre, in place of the area.
+        Assert.Equal((DisplayKind.Stroke, 0.5f), (items[2].Kind, items[2].LineWeight));
+        Assert.Equal(20 * 40, PathMeasure.Length(SceneList.PathOf(list, items[2])), 41.0);
+        Assert.Equal(LineCaps.Butt, list.StyleOf(items[2])!.Value.Cap);
+        Assert.Equal(DisplayKind.Fill, items[3].Kind);
+    }
+
     private static CadLine Line(short color) => new()
     {
         FirstPoint = new Cad3DPoint(10, 10, 0),

@@ -303,6 +303,22 @@ public class SceneTests
         Assert.Equal(shown ? Red : Rgba.White, picture[30, 30]);
     }
 
+    [Fact]
+    public void Boundaries_of_images_may_hide_what_is_inside_of_them()
+    {
+        var image = new CadWipeout
+        {
+            InsertionPoint = new Cad3DPoint(20, 20, 0),
+            VectorU = new Cad3DPoint(60, 0, 0),
+            VectorV = new Cad3DPoint(0, 60, 0),
+            ImageSize = new Cad2DPoint(1, 1),
+            ClipMode = 1,
+        };
+        image.ClipBoundaryVertices.AddRange([new Cad2DPoint(-0.25, -0.25), new Cad2DPoint(0.25, 0.25)]);
+        using TestPage picture = TestPage.Of(TestPage.Drawing(TestPage.Square(0, 0, 100, 1), image));
+        Assert.Equal((Rgba.White, Red), (picture[25, 25], picture[50, 50]));
+    }
+
     private static int Distance(Rgba a, Rgba b) =>
         System.Math.Abs(a.R - b.R) + System.Math.Abs(a.G - b.G) + System.Math.Abs(a.B - b.B);
 

@@ -29,6 +29,49 @@ public sealed class StrokeTextTests : IDisposable
     public void Dispose() => Directory.Delete(_folder, recursive: true);
 
     [Fact]
+    public void Paragraphs_are_columns_from_right_to_left_where_characters_are_below_each_other()
+    {
+        var text = new CadMText
+        {
+            Text = "AB\\PC",
+            InitialTextHeight = 3,
+            InsertionPoint = new Cad3DPoint(50, 50, 0),
+            DrawingDirection = CadDrawingDirection.TopToBottom,
+        };
+        CadImage drawing = TestPage.Drawing(text);
+        drawing.Styles.Add(new CadStyleTableObject { Name = "STANDARD", PrimaryFontName = "arial.ttf" });
+        (string Text, Vec2 At)[] RunsOf()
+        {
+            DrawingList list = SceneList.Build(drawing);
+            return [.. list.Items.ToArray().Select(item => list.TextOf(item))
+                .Select(static run => (run.Text, run.Matrix.Point(0, 0)))];
+        }
+
+        (string Text, Vec2 At)[] runs = RunsOf();
+        Assert.Equal(["A", "B", "C"], runs.Select(static run => run.Text));
+        Assert.Equal([47.0, 42.5, 47], runs.Select(static run => Math.Round(run.At.Y, 6)));
+        Assert.InRange(runs[0].At.X - runs[2].At.X, 4.8, 5.2);
+        Assert.InRange(runs[1].At.X, 55, 58);
+
+        // Styles that ask for it have to be of a stroke font.
+        text.DrawingDirection = CadDrawingDirection.ByStyle;
+        drawing.Styles[0].Flags = (short)CadFontStyleTableFlag.VerticalText;
+        Assert.Equal(["AB", "C"], RunsOf().Select(static run => run.Text));
+    }
+
+    [Theory]
+    [InlineData("Standard", true)]
+    [InlineData("OTHER", false)]
+    public void Texts_of_a_missing_style_have_the_standard_one(string present, bool isStandard)
+    {
+        CadImage drawing = TestPage.Drawing(new CadText { DefaultValue = "text", TextHeight = 4, StyleType = "GONE" });
+        drawing.Styles.Clear();
+        drawing.Styles.Add(new CadStyleTableObject { Name = present, PrimaryFontName = "txt.shx" });
+        DrawingList list = SceneList.Build(drawing);
+        Assert.Equal(isStandard, list.Items.ToArray().Any(static item => item.Kind == DisplayKind.Stroke));
+    }
+
+    [Fact]
     public void The_face_has_all_letters_of_its_alphabets_and_the_signs_of_drafting()
     {
         IEnumerable<int> wanted = Enumerable.Range(0x20, 95).Concat(Enumerable.Range(0xA0, 224))

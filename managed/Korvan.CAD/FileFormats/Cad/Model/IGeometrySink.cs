@@ -139,6 +139,16 @@ internal interface IGeometrySink
     {
     }
 
+    /// <summary>Shows no more than what is inside of a polygon, until as many ends follow as there were
+    /// starts.</summary>
+    void StartClip(ReadOnlySpan<Vec3> corners)
+    {
+    }
+
+    void EndClip()
+    {
+    }
+
     /// <summary>A dimension, which is drawn by a block of its own.</summary>
     void Dimension(CadDimensionBase dimension)
     {

@@ -66,6 +66,36 @@ public class ProxyGraphicsTests
     }
 
     [Fact]
+    public void Clips_are_in_a_plane_of_their_own_and_end_with_the_graphics()
+    {
+        double[] identity = [1.0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1];
+        double[] shift = [1.0, 0, 0, 10, 0, 1, 0, 20, 0, 0, 1, 0, 0, 0, 0, 1];
+        double[] back = [1.0, 0, 0, -1, 0, 1, 0, -2, 0, 0, 1, 0, 0, 0, 0, 1];
+        byte[] line = Chunk(6, 2, N([0.0, 0, 0, 1, 0, 0]));
+        object[] ends = [0, 0, N([0.0, 0]), 0];
+        Recorder sink = Emit(
+            Chunk(29, shift),
+            Chunk(27, [N([.. Z, 0, 0, 0]), 2, N([0.0, 0, 4, 3]), identity, identity, .. ends]), line,
+            Chunk(27, [N([.. Z, 0, 0, 0]), 3, N([0.0, 0, 4, 0, 0, 3]), back, identity, .. ends]),
+            Chunk(27, [N([.. Z, 0, 0, 0]), 1, N([0.0, 0]), identity, identity, .. ends]), Chunk(28), line, Chunk(28),
+            Chunk(28), Chunk(28),
+            Chunk(27, [N([.. Z, 0, 0, 0]), 2, N([0.0, 0, 1, 1]), identity, identity, .. ends]));
+        Assert.Equal(
+            [
+                "clip 10,20,0 14,20,0 14,23,0 10,23,0", "path 10,20,0 11,20,0", "clip 11,22,0 15,22,0 11,25,0",
+                "path 10,20,0 11,20,0", "end", "end", "clip 10,20,0 11,20,0 11,21,0 10,21,0", "end",
+            ],
+            sink.Shapes);
+
+        byte[] data = Data(
+            Chunk(14, 1), Chunk(20, 1),
+            Chunk(27, [N([.. Z, 0, 0, 0]), 2, N([0.0, 0, 20, 90]), identity, identity, .. ends]),
+            Chunk(7, 4, N([10.0, 10, 0, 40, 10, 0, 40, 40, 0, 10, 40, 0])));
+        using TestPage page = TestPage.Of(TestPage.Drawing(Entity(data)));
+        Assert.Equal((0, 255), (page[15, 25].G, page[25, 25].G));
+    }
+
+    [Fact]
     public void Packed_polylines_have_bulges_and_share_bytes_of_coordinates()
     {
         // Flags 528 (closed, bulges), 2 vertices, 2 bulges: (1, 2), then x of which four bytes differ and the same y.
@@ -205,6 +235,10 @@ public class ProxyGraphicsTests
         }
 
         public void FilledPolygon(ReadOnlySpan<Vec3> corners) => Add("fill", corners);
+
+        public void StartClip(ReadOnlySpan<Vec3> corners) => Add("clip", corners);
+
+        public void EndClip() => Shapes.Add("end");
 
         public void Grid(in PointGrid grid) => Shapes.Add($"grid {grid.Rows}x{grid.Columns}");
 

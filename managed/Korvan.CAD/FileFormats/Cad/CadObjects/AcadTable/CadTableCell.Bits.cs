@@ -39,6 +39,10 @@ public partial class CadTableCell
         CellType, IsMerged, MergedWidth, MergedHeight, Rotation, OverrideFlags, FieldHandle, _text, ValueType,
         ValueUnit);
 
+    /// <summary>Returns the properties that go before those of the table, by their flags.</summary>
+    internal Dictionary<int, StatedValue> StatedProperties() =>
+        StatedValue.Take(CellOverrides, OverrideFlags, [.. _content]);
+
     /// <summary>Carries the cell.</summary>
     internal void ExchangeBits(BitExchange fields)
     {

@@ -58,6 +58,17 @@ public partial class CadTableEntity
     /// <summary>Gets the parts that the table is broken into.</summary>
     internal TableBreakData Breaks { get; private set; } = new();
 
+    /// <summary>Returns the properties that go before those of the style, each set by its flags.</summary>
+    internal TableProperties StatedProperties()
+    {
+        List<CadCodeValue> tags = [.. Overrides];
+        return new TableProperties(
+            StatedValue.Take(TableOverrides, OverrideFlags, tags),
+            StatedValue.Take(BorderColors, BorderColorOverrideFlags, tags),
+            StatedValue.Take(BorderLineWeights, BorderLineWeightOverrideFlags, tags),
+            StatedValue.Take(BorderVisibilities, BorderVisibilityOverrideFlags, tags));
+    }
+
     private static TableOverride[] BorderOverrides(int code, int kind)
     {
         const int rows = 3;
@@ -140,3 +151,9 @@ public partial class CadTableEntity
         }
     }
 }
+
+/// <summary>What a table states of its cells, by the flags of each set: six flags for the borders of titles, then six
+/// for those of headers, then six for those of data.</summary>
+internal sealed record TableProperties(
+    Dictionary<int, StatedValue> Cells, Dictionary<int, StatedValue> BorderColors,
+    Dictionary<int, StatedValue> BorderLineWeights, Dictionary<int, StatedValue> BorderVisibilities);

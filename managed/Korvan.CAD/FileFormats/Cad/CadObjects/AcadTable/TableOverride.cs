@@ -24,6 +24,9 @@ internal readonly record struct TableOverride(int Bit, int Code, int Kind)
     private const int PlainColor = 62;
     private const int TrueColor = 420;
 
+    /// <summary>Gets the group code of the true colour that goes before a colour of the palette.</summary>
+    internal int TrueColorCode => Code - PlainColor + TrueColor;
+
     /// <summary>Carries properties after whether there are any and the flags of those that there are.</summary>
     /// <param name="fields">What carries them.</param>
     /// <param name="list">The properties.</param>
@@ -102,7 +105,7 @@ internal readonly record struct TableOverride(int Bit, int Code, int Kind)
                 found.Add(Tag(Code, 1));
                 break;
             default:
-                ExchangeColor(fields, value, Take(given, Code - PlainColor + TrueColor), found);
+                ExchangeColor(fields, value, Take(given, TrueColorCode), found);
                 break;
         }
     }
@@ -114,7 +117,7 @@ internal readonly record struct TableOverride(int Bit, int Code, int Kind)
         found.Add(Tag(Code, index));
         if (rgb >= 0)
         {
-            found.Add(Tag(Code - PlainColor + TrueColor, rgb));
+            found.Add(Tag(TrueColorCode, rgb));
         }
     }
 }

@@ -89,6 +89,12 @@ internal static partial class ProxyGraphics
             case Chunk.PushTransform or Chunk.PushOtherTransform:
                 Push(state, chunk.Transform());
                 break;
+            case Chunk.PushClip:
+                PushClip(ref chunk, state);
+                break;
+            case Chunk.PopClip:
+                PopClip(state);
+                break;
             case Chunk.PopTransform:
                 _ = state.Transforms.Count > 1 && state.Transforms.TryPop(out _);
                 break;
@@ -105,6 +111,64 @@ internal static partial class ProxyGraphics
         state.Transforms.Push(state.Transforms.Count < MaxTransforms && transform.IsFinite
             ? state.Map * transform
             : state.Map);
+
+    /// <summary>Clips to a polygon, or to a rectangle by its corners, in a plane of its own that is given by what maps
+    /// the drawing to it; a reference that was clipped tells what maps the drawing to its block.</summary>
+    private static void PushClip(ref ChunkReader chunk, State state)
+    {
+        Vec3 normal = chunk.Vector();
+        Vec3 origin = chunk.Vector();
+        int count = chunk.Count(2 * sizeof(double));
+        var points = new Vec2[count];
+        for (int i = 0; i < count; i++)
+        {
+            points[i] = new Vec2(chunk.Double(), chunk.Double());
+        }
+
+        Affine3 toPlane = chunk.Transform();
+        Affine3 toBlock = chunk.Transform();
+        if (count == 2)
+        {
+            (Vec2 a, Vec2 b) = (points[0], points[1]);
+            points = [a, new(b.X, a.Y), b, new(a.X, b.Y)];
+        }
+
+        bool isKnown = points.Length > 2 && !chunk.IsShort && state.Clips < MaxTransforms;
+        Affine3 map = default;
+        if (isKnown && toPlane.IsIdentity)
+        {
+            Affine3 plane = Ocs.ToWorld(normal);
+            map = plane * Affine3.Translation(new Vec3(0, 0, Vec3.Dot(plane.AxisZ, origin)));
+        }
+        else if (isKnown && (isKnown = toPlane.TryInvert(out Affine3 fromPlane)))
+        {
+            map = toBlock * fromPlane;
+        }
+
+        map = state.Map * map;
+        Vec3[] corners = Array.ConvertAll(points, point => map.Point(new Vec3(point.X, point.Y, 0)));
+        if (!isKnown || !Array.TrueForAll(corners, static corner => corner.IsFinite))
+        {
+            state.SkippedClips++;
+            return;
+        }
+
+        state.Clips++;
+        state.Sink.StartClip(corners);
+    }
+
+    private static void PopClip(State state)
+    {
+        if (state.SkippedClips > 0)
+        {
+            state.SkippedClips--;
+        }
+        else if (state.Clips > 0)
+        {
+            state.Clips--;
+            state.Sink.EndClip();
+        }
+    }
 
     // The highest byte tells what the others are.
     private static ShapeTraits WithColor(in ShapeTraits traits, uint value) => (value >> 24) switch

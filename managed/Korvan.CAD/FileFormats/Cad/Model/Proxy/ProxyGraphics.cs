@@ -41,6 +41,12 @@ internal static partial class ProxyGraphics
             at += size;
         }
 
+        // Damaged graphics may end inside of their clips.
+        for (; state.Clips > 0; state.Clips--)
+        {
+            sink.EndClip();
+        }
+
         return state.IsDrawn;
     }
 
@@ -111,6 +117,8 @@ internal static partial class ProxyGraphics
         LineWeight = 23,
         LineTypeScale = 24,
         Thickness = 25,
+        PushClip = 27,
+        PopClip = 28,
         PushTransform = 29,
         PushOtherTransform = 30,
         PopTransform = 31,
@@ -136,6 +144,12 @@ internal static partial class ProxyGraphics
         internal Affine3 Map => Transforms.Peek();
 
         internal bool IsDrawn { get; set; }
+
+        /// <summary>Gets or sets how many clips are open.</summary>
+        internal int Clips { get; set; }
+
+        /// <summary>Gets or sets how many of the clips to come end without having been started.</summary>
+        internal int SkippedClips { get; set; }
 
         internal bool AreTraitsTold { get; set; } = true;
     }
