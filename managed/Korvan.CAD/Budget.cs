@@ -244,6 +244,12 @@ internal sealed class Budget : IDisposable
     {
         const long unsettled = 48L << 20;
         long taken = GC.GetTotalMemory(false);
+        if (_hasLeftGarbage)
+        {
+            // A call that has failed leaves much, and the collector would keep the pages for the next such call.
+            GC.Collect(GC.MaxGeneration, GCCollectionMode.Aggressive);
+        }
+
         if (_hasLeftGarbage || taken > _settled + Math.Max(unsettled, _settled / 2))
         {
             _hasLeftGarbage = false;
@@ -270,7 +276,6 @@ internal sealed class Budget : IDisposable
         _nextCollection = taken + (limit / 8);
         if (taken > limit || more > own)
         {
-            _hasLeftGarbage = true;
             throw End(new LimitMemoryException(
                 $"The file needs more than {Memory >> 20} MiB of memory, the limit for a file of its size; "
                 + $"{Cache.HowToRaise}."));
@@ -281,6 +286,7 @@ internal sealed class Budget : IDisposable
     private Exception End(Exception reason)
     {
         _end = reason;
+        _hasLeftGarbage |= reason is LimitMemoryException;
         Volatile.Write(ref _nextPoll, 0);
         return reason switch
         {
