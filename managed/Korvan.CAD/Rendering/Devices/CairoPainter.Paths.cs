@@ -26,8 +26,11 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>The edges in a row from which on they are not kept in their order.</summary>
     private const double EdgesOfCountedRow = 256;
 
-    /// <summary>The edges of such fills that take about as long as one step of the budget.</summary>
-    private const int CountedEdgesPerStep = 80;
+    /// <summary>The same for rows whose edges are so close to each other that few samples do.</summary>
+    private const double EdgesOfCoarseRow = 1024;
+
+    /// <summary>The crossings of edges and rows of samples that take about as long as one step of the budget.</summary>
+    private const int CrossingsPerStep = 1500;
 
     /// <summary>The pixels of rows with such edges, for each of which all samples are looked at.</summary>
     private const int CountedPixelsPerStep = 64;
@@ -61,12 +64,13 @@ internal sealed unsafe partial class CairoPainter
             return false;
         }
 
-        Budget.Step(1 + (long)((edges / CountedEdgesPerStep) + (rows * width / CountedPixelsPerStep)));
+        int subRows = edges < rows * EdgesOfCoarseRow ? DenseFiller.FineSubRows : DenseFiller.CoarseSubRows;
+        Budget.Step(1 + (long)((edges * subRows / CrossingsPerStep) + (rows * width / CountedPixelsPerStep)));
         UsePixels();
         _denseFiller ??= new DenseFiller(_target.ThinLines, _rows);
         _denseFiller.Fill(
             List.VerbsOf(item), List.CoordsOf(item), _map, _clip.Box, item.EvenOdd, item.Color,
-            DefaultTolerance * _settings.Coarseness);
+            DefaultTolerance * _settings.Coarseness, subRows);
         return true;
     }
 

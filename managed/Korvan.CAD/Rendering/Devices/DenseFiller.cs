@@ -16,22 +16,30 @@ internal sealed class DenseFiller
     /// <summary>The widest page whose cells of a row take little memory.</summary>
     internal const int MaxWidth = 16_384;
 
-    // A pixel is covered by shares of the samples in it.
-    private const int SubRows = 15;
+    /// <summary>The rows of samples in a row of pixels, and as many as do where edges lie close to each
+    /// other.</summary>
+    internal const int FineSubRows = 15;
+    internal const int CoarseSubRows = 5;
+
     private const int SubColumns = 16;
-    private const int Samples = SubRows * SubColumns;
-    private const int MaxCells = 2 << 20;
+
+    /// <summary>The cells of a few rows, which stay in the cache of the processor.</summary>
+    private const int MaxCells = 1 << 19;
     private const int MaxCurveLines = 256;
+    private const int FractionBits = 16;
 
     private readonly ThinLinePainter _pixels;
     private readonly RowRange _rows;
     private readonly List<Edge> _edges = [];
+    private readonly List<Edge> _active = [];
     private short[] _crossings = [];
-    private (int First, int End)[] _spans = [];
     private ushort[] _sums = [];
     private byte[] _coverage = [];
+    private int _subRows;
     private int _left;
     private int _cells;
+    private int _firstCell;
+    private int _endCell;
 
     /// <summary>A filler of rows of a page.</summary>
     /// <param name="pixels">Receives the coverage of pixels.</param>
@@ -46,10 +54,12 @@ internal sealed class DenseFiller
     /// <param name="evenOdd">Whether the even-odd rule holds, not the one of the winding number.</param>
     /// <param name="color">The colour.</param>
     /// <param name="tolerance">How far chords may lie from curves, in pixels.</param>
+    /// <param name="subRows">The rows of samples in a row of pixels.</param>
     internal void Fill(
         ReadOnlySpan<PathVerb> verbs, ReadOnlySpan<double> coords, in Affine2 map, in Bounds2 clip, bool evenOdd,
-        Rgba color, double tolerance)
+        Rgba color, double tolerance, int subRows)
     {
+        _subRows = subRows;
         int top = (int)Math.Max(_rows.First, Math.Round(clip.MinY));
         int bottom = (int)Math.Min(_rows.End, Math.Round(clip.MaxY));
         _left = (int)Math.Max(0, Math.Round(clip.MinX));
@@ -61,16 +71,25 @@ internal sealed class DenseFiller
 
         _cells = (right - _left) * SubColumns;
         _edges.Clear();
+        _active.Clear();
         AddEdges(verbs, coords, map, tolerance, top, bottom);
-        int height = Math.Clamp(MaxCells / (_cells * SubRows), 1, bottom - top);
-        MakeRoom(height * SubRows, right - _left);
+        _edges.Sort(static (a, b) => a.First.CompareTo(b.First));
+        int height = Math.Clamp(MaxCells / (_cells * subRows), 1, bottom - top);
+        MakeRoom(height * subRows, right - _left);
+        int next = 0;
         for (int first = top; first < bottom; first += height)
         {
             int end = Math.Min(first + height, bottom);
-            CountCrossings(first * SubRows, end * SubRows);
-            for (int y = first; y < end; y++)
+            while (next < _edges.Count && _edges[next].First < end * subRows)
             {
-                FillRow(y, (y - first) * SubRows, evenOdd, color);
+                _active.Add(_edges[next++]);
+            }
+
+            (_firstCell, _endCell) = (int.MaxValue, 0);
+            CountCrossings(first * subRows, end * subRows);
+            for (int y = first; y < end && _firstCell <= _endCell; y++)
+            {
+                FillRow(y, (y - first) * subRows, evenOdd, color);
             }
         }
     }
@@ -83,14 +102,11 @@ internal sealed class DenseFiller
             _crossings = new short[cells];
         }
 
-        if (_sums.Length < width || _spans.Length < subRows)
+        if (_sums.Length < width)
         {
             _sums = new ushort[width];
             _coverage = new byte[width];
-            _spans = new (int, int)[subRows];
         }
-
-        Array.Fill(_spans, (int.MaxValue, 0));
     }
 
     private void AddEdges(
@@ -156,15 +172,15 @@ internal sealed class DenseFiller
         }
 
         (Vec2 upper, Vec2 lower) = a.Y <= b.Y ? (a, b) : (b, a);
-        int first = (int)Math.Ceiling((Math.Max(upper.Y, top) * SubRows) - 0.5);
-        int end = (int)Math.Ceiling((Math.Min(lower.Y, bottom) * SubRows) - 0.5);
+        int first = (int)Math.Ceiling((Math.Max(upper.Y, top) * _subRows) - 0.5);
+        int end = (int)Math.Ceiling((Math.Min(lower.Y, bottom) * _subRows) - 0.5);
         if (first >= end)
         {
             return;
         }
 
-        double step = (lower.X - upper.X) / (lower.Y - upper.Y) / SubRows;
-        double x = upper.X + ((first + 0.5 - (upper.Y * SubRows)) * step);
+        double step = (lower.X - upper.X) / (lower.Y - upper.Y) / _subRows;
+        double x = upper.X + ((first + 0.5 - (upper.Y * _subRows)) * step);
 
         // A cell is inside if its middle is.
         _edges.Add(new Edge(
@@ -173,55 +189,65 @@ internal sealed class DenseFiller
 
     private void CountCrossings(int first, int end)
     {
-        foreach (ref readonly Edge edge in CollectionsMarshal.AsSpan(_edges))
+        Span<Edge> active = CollectionsMarshal.AsSpan(_active);
+        int kept = 0;
+        foreach (Edge edge in active)
         {
+            Budget.Check();
             int from = Math.Max(edge.First, first);
             int to = Math.Min(edge.End, end);
-            if (from >= to)
+            double x = edge.X + ((from - edge.First) * edge.Step);
+            Cross(x, edge.Step, to - from, (from - first) * (_cells + 1), edge.Direction);
+            if (edge.End > end)
             {
-                continue;
+                active[kept++] = edge;
+            }
+        }
+
+        _active.RemoveRange(kept, _active.Count - kept);
+    }
+
+    private void Cross(double x, double step, int count, int row, short direction)
+    {
+        double last = x + ((count - 1) * step);
+        double least = Math.Min(x, last);
+        double most = Math.Max(x, last);
+        _firstCell = Math.Min(_firstCell, (int)Math.Clamp(least, 0, _cells));
+        _endCell = Math.Max(_endCell, (int)Math.Clamp(most, 0, _cells));
+        int stride = _cells + 1;
+        if (least < 1 || most > _cells - 1)
+        {
+            for (int i = 0; i < count; i++, row += stride)
+            {
+                _crossings[row + (int)Math.Clamp(x + (i * step), 0, _cells)] += direction;
             }
 
-            Budget.Check();
-            double x = edge.X + ((from - edge.First) * edge.Step);
-            int row = (from - first) * (_cells + 1);
-            for (int s = from; s < to; s++, x += edge.Step, row += _cells + 1)
-            {
-                int cell = (int)Math.Clamp(x, 0, _cells);
-                _crossings[row + cell] += edge.Direction;
-                ref (int First, int End) span = ref _spans[s - first];
-                span.First = Math.Min(span.First, cell);
-                span.End = Math.Max(span.End, cell);
-            }
+            return;
+        }
+
+        long place = (long)(x * (1 << FractionBits));
+        long move = (long)(step * (1 << FractionBits));
+        short[] crossings = _crossings;
+        for (int i = 0; i < count; i++, row += stride, place += move)
+        {
+            crossings[row + (int)(place >> FractionBits)] += direction;
         }
     }
 
     private void FillRow(int y, int firstSubRow, bool evenOdd, Rgba color)
     {
         int mask = evenOdd ? 1 : -1;
-        int least = int.MaxValue;
-        int most = 0;
-        for (int s = firstSubRow; s < firstSubRow + SubRows; s++)
+        for (int s = firstSubRow; s < firstSubRow + _subRows; s++)
         {
-            (int first, int end) = _spans[s];
-            if (first <= end)
-            {
-                _spans[s] = (int.MaxValue, 0);
-                SumCells(_crossings.AsSpan(s * (_cells + 1), _cells + 1), first, end, mask);
-                (least, most) = (Math.Min(least, first), Math.Max(most, end));
-            }
+            SumCells(_crossings.AsSpan(s * (_cells + 1), _cells + 1), mask);
         }
 
-        if (least > most)
-        {
-            return;
-        }
-
-        int left = least / SubColumns;
-        int right = Math.Min((most / SubColumns) + 1, _cells / SubColumns);
+        int samples = _subRows * SubColumns;
+        int left = _firstCell / SubColumns;
+        int right = Math.Min((_endCell / SubColumns) + 1, _cells / SubColumns);
         for (int x = left; x < right; x++)
         {
-            _coverage[x] = (byte)(((_sums[x] * 255) + (Samples / 2)) / Samples);
+            _coverage[x] = (byte)(((_sums[x] * 255) + (samples / 2)) / samples);
             _sums[x] = 0;
         }
 
@@ -231,17 +257,17 @@ internal sealed class DenseFiller
         }
     }
 
-    private void SumCells(Span<short> crossings, int first, int end, int mask)
+    private void SumCells(Span<short> crossings, int mask)
     {
         int winding = 0;
-        for (int cell = first; cell < end; cell++)
+        for (int cell = _firstCell; cell < _endCell; cell++)
         {
             winding += crossings[cell];
             crossings[cell] = 0;
             _sums[cell / SubColumns] += (ushort)((winding & mask) != 0 ? 1 : 0);
         }
 
-        crossings[end] = 0;
+        crossings[_endCell] = 0;
     }
 
     /// <summary>A line between rows of samples.</summary>
