@@ -247,6 +247,12 @@ internal sealed class Budget : IDisposable
     {
         long unsettled = Math.Clamp(memory / 4, MinUnsettled, MaxUnsettled);
         long taken = GC.GetTotalMemory(false);
+        if (_hasLeftGarbage)
+        {
+            // A call that has failed leaves much, and the collector would keep the pages for the next such call.
+            GC.Collect(GC.MaxGeneration, GCCollectionMode.Aggressive);
+        }
+
         if (_hasLeftGarbage || taken > _settled + Math.Max(unsettled, _settled / 2))
         {
             _hasLeftGarbage = false;
@@ -273,7 +279,6 @@ internal sealed class Budget : IDisposable
         _nextCollection = taken + (limit / 8);
         if (taken > limit || more > own)
         {
-            _hasLeftGarbage = true;
             throw End(new LimitMemoryException(
                 $"The file needs more than {Memory >> 20} MiB of memory, the limit for a file of its size; "
                 + $"{Cache.HowToRaise}."));
@@ -284,6 +289,7 @@ internal sealed class Budget : IDisposable
     private Exception End(Exception reason)
     {
         _end = reason;
+        _hasLeftGarbage |= reason is LimitMemoryException;
         Volatile.Write(ref _nextPoll, 0);
         return reason switch
         {

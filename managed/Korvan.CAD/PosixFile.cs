@@ -1,6 +1,7 @@
 using System;
 using System.IO;
 using System.Runtime.InteropServices;
+using System.Threading;
 using Microsoft.Win32.SafeHandles;
 
 namespace Korvan.CAD;
@@ -19,6 +20,10 @@ internal static unsafe partial class PosixFile
     private const int CloseOnExec = 0x80000;
     private const int Unnamed = 0x410000; // O_TMPFILE
     private const int Interrupted = 4; // EINTR
+    private const int NoReader = 6; // ENXIO
+    private const int WouldBlock = 11; // EAGAIN
+    private const int WaitInterval = 10; // milliseconds
+    private const int MaxWaitForReader = 10_000;
     private const uint ReadableByAll = 0x1B6; // 0666, less the process's mask
 
     // struct statx begins in the same way on all architectures.
@@ -104,11 +109,32 @@ internal static unsafe partial class PosixFile
         _ = Lock((int)file.DangerousGetHandle(), exclusively | orNot);
     }
 
-    /// <summary>Opens an existing file for writing: a device, or a FIFO as soon as it has a reader.</summary>
+    /// <summary>Opens an existing file for writing: a device, or a FIFO as soon as it has a reader. That is waited for
+    /// a while, in which the call can be ended.</summary>
     internal static SafeFileHandle OpenToWrite(string path)
     {
-        int file = Open(path, WriteOnly | NoTerminal | CloseOnExec, 0);
-        return file < 0 ? throw Failure(Marshal.GetLastPInvokeError()) : new SafeFileHandle(file, true);
+        long end = Environment.TickCount64 + MaxWaitForReader;
+        while (true)
+        {
+            int file = Open(path, WriteOnly | NonBlocking | NoTerminal | CloseOnExec, 0);
+            if (file >= 0)
+            {
+                return new SafeFileHandle(file, true);
+            }
+
+            int error = Marshal.GetLastPInvokeError();
+            if (error is not (NoReader or Interrupted) || KindOf(path) != Kind.Fifo)
+            {
+                throw Failure(error);
+            }
+
+            if (Environment.TickCount64 > end)
+            {
+                throw new IOException($"nobody has opened the FIFO to read it for {MaxWaitForReader / 1000} seconds");
+            }
+
+            WaitForReader();
+        }
     }
 
     /// <summary>Opens an existing regular file for reading. Nothing else is opened: a FIFO would wait for a writer, a
@@ -169,12 +195,19 @@ internal static unsafe partial class PosixFile
             for (nint written = 0; written < data.Length;)
             {
                 nint count = Write(descriptor, start + written, data.Length - written);
-                if (count < 0 && Marshal.GetLastPInvokeError() is not Interrupted and int error)
+                if (count >= 0)
+                {
+                    written += count;
+                    continue;
+                }
+
+                int error = Marshal.GetLastPInvokeError();
+                if (error is not (Interrupted or WouldBlock))
                 {
                     throw Failure(error);
                 }
 
-                written += Math.Max(count, 0);
+                WaitForReader();
             }
         }
     }
@@ -206,6 +239,12 @@ internal static unsafe partial class PosixFile
     {
         const int notNeeded = 4; // MADV_DONTNEED
         _ = Advise(start, (nuint)length, notNeeded);
+    }
+
+    private static void WaitForReader()
+    {
+        Budget.Current?.Poll();
+        Thread.Sleep(WaitInterval);
     }
 
     private static byte[]? TryEncode(string path)

@@ -59,6 +59,24 @@ class Files(unittest.TestCase):
         self.assertEqual(received[:4], b"\x89PNG")
         self.assertTrue(place.is_socket())
 
+    def test_nobody_waits_for_a_reader_longer_than_the_time_allows(self) -> None:
+        fifo = self.folder / "fifo"
+        os.mkfifo(fifo)
+        options = drawn(PngOptions())
+        options.timeout = 300
+        start = time.monotonic()
+        with self.assertRaisesRegex(RuntimeError, "300 milliseconds"):
+            self.image.save(str(fifo), options)
+        self.assertLess(time.monotonic() - start, 10)
+
+        # A pipe that nobody empties is full after 64 KiB.
+        reader = os.open(fifo, os.O_RDONLY | os.O_NONBLOCK)
+        self.addCleanup(os.close, reader)
+        bitmap = drawn(BmpOptions())
+        bitmap.timeout = 2000
+        with self.assertRaisesRegex(RuntimeError, "2000 milliseconds"):
+            self.image.save(str(fifo), bitmap)
+
     @unittest.skipUnless(os.geteuid() == 0, "only root makes devices")
     def test_devices_are_not_replaced(self) -> None:
         for name, minor in (("null", 3), ("full", 7)):

@@ -18,10 +18,6 @@ internal static unsafe partial class WebP
     [LibraryImport(Library, EntryPoint = "WebPDecodeBGRAInto")]
     internal static partial byte* DecodeBgra(byte* data, nuint size, byte* target, nuint targetSize, int stride);
 
-    [LibraryImport(Library, EntryPoint = "WebPEncodeBGRA")]
-    internal static partial nuint EncodeBgra(
-        byte* pixels, int width, int height, int stride, float quality, out WebPBufferHandle output);
-
     [LibraryImport(Library, EntryPoint = "WebPEncodeLosslessBGRA")]
     internal static partial nuint EncodeLossless(
         byte* pixels, int width, int height, int stride, out WebPBufferHandle output);

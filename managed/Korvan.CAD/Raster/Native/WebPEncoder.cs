@@ -1,5 +1,6 @@
 using System;
 using System.Runtime.InteropServices;
+using Korvan.CAD.Raster.Pixels;
 
 namespace Korvan.CAD.Raster.Native;
 
@@ -15,14 +16,18 @@ internal static unsafe partial class WebPEncoder
             ? NativeLibrary.GetExport(library, "WebPMemoryWrite")
             : throw new DllNotFoundException(WebP.Library));
 
+    /// <summary>Rows that are converted at once, an even number since two share their chroma.</summary>
+    private const int BandRows = 64;
+
+    private const int FormatWithAlpha = 4;
+
     /// <summary>Compresses pixels with loss.</summary>
-    /// <param name="pixels">The pixels: blue, green, red, alpha.</param>
-    /// <param name="width">The width in pixels.</param>
-    /// <param name="height">The height in pixels.</param>
+    /// <param name="pixels">The pixels.</param>
     /// <param name="quality">The quality, 0 to 100.</param>
     /// <param name="method">How long to search: 0, which is fast, to 6, which gives the fewest bytes.</param>
+    /// <param name="savesMemory">Whether to keep nothing between passes, which takes longer.</param>
     /// <returns>The file; null where it could not be made.</returns>
-    internal static byte[]? TryEncode(byte* pixels, int width, int height, float quality, int method)
+    internal static byte[]? TryEncode(PixelGrid pixels, float quality, int method, bool savesMemory)
     {
         Configuration configuration;
         Picture picture;
@@ -32,14 +37,15 @@ internal static unsafe partial class WebPEncoder
         }
 
         configuration.Method = method;
-        (picture.Width, picture.Height) = (width, height);
+        configuration.SavesMemory = savesMemory ? 1 : 0;
+        (picture.Width, picture.Height) = (pixels.Width, pixels.Height);
         Output output;
         InitializeOutput(&output);
         picture.Writer = AppendToOutput.Value;
         picture.Target = &output;
         try
         {
-            bool isDone = Import(&picture, pixels, width * 4) != 0 && Encode(&configuration, &picture) != 0;
+            bool isDone = TryImport(&picture, pixels) && Encode(&configuration, &picture) != 0;
             return isDone ? new ReadOnlySpan<byte>(output.Data, checked((int)output.Size)).ToArray() : null;
         }
         finally
@@ -49,12 +55,87 @@ internal static unsafe partial class WebPEncoder
         }
     }
 
+    // A few rows at a time, so that pixels in a mapped file are not all in memory at once.
+    private static bool TryImport(Picture* picture, PixelGrid pixels)
+    {
+        picture->Format = pixels.IsOpaque() ? 0 : FormatWithAlpha;
+        if (Allocate(picture) == 0)
+        {
+            return false;
+        }
+
+        for (int y = 0; y < pixels.Height; y += BandRows)
+        {
+            Picture band;
+            if (InitializePicture(&band, Abi) == 0)
+            {
+                return false;
+            }
+
+            (band.Width, band.Height) = (pixels.Width, Math.Min(BandRows, pixels.Height - y));
+            try
+            {
+                fixed (int* row = pixels.Row(y))
+                {
+                    if (Import(&band, (byte*)row, pixels.Width * sizeof(int)) == 0)
+                    {
+                        return false;
+                    }
+                }
+
+                MappedMemory.Touch((long)band.Width * band.Height * sizeof(int));
+                CopyBand(&band, picture, y);
+            }
+            finally
+            {
+                FreePicture(&band);
+            }
+        }
+
+        return true;
+    }
+
+    private static void CopyBand(Picture* band, Picture* whole, int y)
+    {
+        int width = band->Width;
+        int half = (width + 1) / 2;
+        int halfRows = (band->Height + 1) / 2;
+        CopyRows(band->Luma, band->LumaStride, whole->Luma, whole->LumaStride, y, width, band->Height);
+        CopyRows(band->BlueChroma, band->ChromaStride, whole->BlueChroma, whole->ChromaStride, y / 2, half, halfRows);
+        CopyRows(band->RedChroma, band->ChromaStride, whole->RedChroma, whole->ChromaStride, y / 2, half, halfRows);
+        for (int row = 0; row < band->Height && whole->Alpha != null; row++)
+        {
+            var target = new Span<byte>(whole->Alpha + ((long)(y + row) * whole->AlphaStride), width);
+            if (band->Alpha == null)
+            {
+                target.Fill(byte.MaxValue);
+            }
+            else
+            {
+                new ReadOnlySpan<byte>(band->Alpha + ((long)row * band->AlphaStride), width).CopyTo(target);
+            }
+        }
+    }
+
+    private static void CopyRows(
+        byte* source, int sourceStride, byte* target, int stride, int first, int width, int rows)
+    {
+        for (int row = 0; row < rows; row++)
+        {
+            new ReadOnlySpan<byte>(source + ((long)row * sourceStride), width).CopyTo(
+                new Span<byte>(target + ((long)(first + row) * stride), width));
+        }
+    }
+
     [LibraryImport(WebP.Library, EntryPoint = "WebPConfigInitInternal")]
     private static partial int InitializeConfiguration(
         Configuration* configuration, int preset, float quality, int abi);
 
     [LibraryImport(WebP.Library, EntryPoint = "WebPPictureInitInternal")]
     private static partial int InitializePicture(Picture* picture, int abi);
+
+    [LibraryImport(WebP.Library, EntryPoint = "WebPPictureAlloc")]
+    private static partial int Allocate(Picture* picture);
 
     [LibraryImport(WebP.Library, EntryPoint = "WebPPictureImportBGRA")]
     private static partial int Import(Picture* picture, byte* pixels, int stride);
@@ -71,22 +152,48 @@ internal static unsafe partial class WebPEncoder
     [LibraryImport(WebP.Library, EntryPoint = "WebPMemoryWriterClear")]
     private static partial void ClearOutput(Output* output);
 
-    [StructLayout(LayoutKind.Sequential, Size = 256)]
+    [StructLayout(LayoutKind.Explicit, Size = 256)]
     private struct Configuration
     {
-        public int IsLossless;
-        public float Quality;
+        [FieldOffset(8)]
         public int Method;
+
+        [FieldOffset(88)]
+        public int SavesMemory;
     }
 
     [StructLayout(LayoutKind.Explicit, Size = 512)]
     private struct Picture
     {
+        [FieldOffset(4)]
+        public int Format;
+
         [FieldOffset(8)]
         public int Width;
 
         [FieldOffset(12)]
         public int Height;
+
+        [FieldOffset(16)]
+        public byte* Luma;
+
+        [FieldOffset(24)]
+        public byte* BlueChroma;
+
+        [FieldOffset(32)]
+        public byte* RedChroma;
+
+        [FieldOffset(40)]
+        public int LumaStride;
+
+        [FieldOffset(44)]
+        public int ChromaStride;
+
+        [FieldOffset(48)]
+        public byte* Alpha;
+
+        [FieldOffset(56)]
+        public int AlphaStride;
 
         [FieldOffset(96)]
         public nint Writer;

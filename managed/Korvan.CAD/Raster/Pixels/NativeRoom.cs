@@ -6,14 +6,14 @@ namespace Korvan.CAD.Raster.Pixels;
 /// <summary>Memory that a native codec takes for pixels: it counts as theirs while the call lasts.</summary>
 internal sealed class NativeRoom : IDisposable
 {
-    private readonly Budget? _budget = Budget.Current;
+    private readonly Budget? _budget;
     private readonly long _bytes;
 
     /// <summary>Books memory.</summary>
     /// <exception cref="LimitMemoryException">The call may not take as much.</exception>
     internal NativeRoom(long bytes)
+        : this(Budget.Current, bytes)
     {
-        _bytes = bytes;
         if (_budget?.TryTakePixels(bytes) == false)
         {
             throw new LimitMemoryException(
@@ -21,6 +21,12 @@ internal sealed class NativeRoom : IDisposable
                     + $"limit for a file of its size; {Cache.HowToRaise}.");
         }
     }
+
+    private NativeRoom(Budget? budget, long bytes) => (_budget, _bytes) = (budget, bytes);
+
+    /// <summary>Books memory if the call may take as much; returns null if not.</summary>
+    internal static NativeRoom? TryTake(long bytes) =>
+        Budget.Current is { } budget && !budget.TryTakePixels(bytes) ? null : new NativeRoom(Budget.Current, bytes);
 
     public void Dispose() => _budget?.ReturnPixels(_bytes);
 }

@@ -23,6 +23,18 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>The same for edges of strokes, whose outlines have to be made, too.</summary>
     private const int StrokeEdgesPerStep = 16;
 
+    /// <summary>The edges in a row from which on they are not kept in their order.</summary>
+    private const double EdgesOfCountedRow = 256;
+
+    /// <summary>The same for rows whose edges are so close to each other that few samples do.</summary>
+    private const double EdgesOfCoarseRow = 1024;
+
+    /// <summary>The crossings of edges and rows of samples that take about as long as one step of the budget.</summary>
+    private const int CrossingsPerStep = 1500;
+
+    /// <summary>The pixels of rows with such edges, for each of which all samples are looked at.</summary>
+    private const int CountedPixelsPerStep = 64;
+
     /// <summary>Counts the work of filling a path, or the outline of its stroke.</summary>
     private void CountWork(in DisplayItem item, int edgesPerSegment, int edgesPerStep)
     {
@@ -32,6 +44,39 @@ internal sealed unsafe partial class CairoPainter
             return;
         }
 
+        double edges = EdgesOf(item, out double rows) * edgesPerSegment;
+        double density = edges / rows / EdgesOfDenseRow;
+        Budget.Step((long)(edges / edgesPerStep * Math.Min(1, density)));
+    }
+
+    /// <summary>Fills a path with many edges in each row.</summary>
+    private bool TryFillDense(in DisplayItem item)
+    {
+        int width = _target.ThinLines.Width;
+        if (item.VerbCount < MinVerbsOfDensePath || !_clip.IsBox || _settings.Sharp || width > DenseFiller.MaxWidth)
+        {
+            return false;
+        }
+
+        double edges = EdgesOf(item, out double rows);
+        if (edges < rows * EdgesOfCountedRow)
+        {
+            return false;
+        }
+
+        int subRows = edges < rows * EdgesOfCoarseRow ? DenseFiller.FineSubRows : DenseFiller.CoarseSubRows;
+        Budget.Step(1 + (long)((edges * subRows / CrossingsPerStep) + (rows * width / CountedPixelsPerStep)));
+        UsePixels();
+        _denseFiller ??= new DenseFiller(_target.ThinLines, _rows);
+        _denseFiller.Fill(
+            List.VerbsOf(item), List.CoordsOf(item), _map, _clip.Box, item.EvenOdd, item.Color,
+            DefaultTolerance * _settings.Coarseness, subRows);
+        return true;
+    }
+
+    /// <summary>Sums up the edges of all rows of a path.</summary>
+    private double EdgesOf(in DisplayItem item, out double rows)
+    {
         ReadOnlySpan<double> c = List.CoordsOf(item);
         int count = CoordCount(item);
         double edges = 0;
@@ -41,12 +86,12 @@ internal sealed unsafe partial class CairoPainter
         for (int at = 2; at < count; at += 2)
         {
             double row = RowOf(c, at);
-            edges += Math.Abs(row - last) * edgesPerSegment;
+            edges += Math.Abs(row - last);
             (top, bottom, last) = (Math.Min(top, row), Math.Max(bottom, row), row);
         }
 
-        double density = edges / Math.Max(1, bottom - top) / EdgesOfDenseRow;
-        Budget.Step((long)(edges / edgesPerStep * Math.Min(1, density)));
+        rows = Math.Max(1, bottom - top);
+        return edges;
     }
 
     private double RowOf(ReadOnlySpan<double> c, int at) => Math.Clamp(

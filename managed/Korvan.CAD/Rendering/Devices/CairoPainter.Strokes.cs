@@ -52,14 +52,19 @@ internal sealed unsafe partial class CairoPainter
     private bool DrawDirectly(
         ReadOnlySpan<PathVerb> verbs, ReadOnlySpan<double> coords, in Affine2 map, double width, Rgba color)
     {
+        UsePixels();
+        return _target.ThinLines.TryStroke(
+            verbs, coords, map, _clip.Box, width, color, DefaultTolerance * _settings.Coarseness);
+    }
+
+    /// <summary>Lets cairo finish what it draws, before pixels are changed without it.</summary>
+    private void UsePixels()
+    {
         if (!_isDirect)
         {
             Cairo.SurfaceFlush(_target.Surface);
             _isDirect = true;
         }
-
-        return _target.ThinLines.TryStroke(
-            verbs, coords, map, _clip.Box, width, color, DefaultTolerance * _settings.Coarseness);
     }
 
     /// <summary>Tells cairo of what was drawn without it, before it draws.</summary>

@@ -67,6 +67,7 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
     private readonly Stack<ClipArea> _clips = new();
     private ClipArea _clip = new(Bounds2.Of(-FarAway, -FarAway, FarAway, FarAway), IsBox: true);
     private bool _isDirect;
+    private DenseFiller? _denseFiller;
     private Rgba _color;
     private bool _hasColor;
     private double _lineWidth = -1;
@@ -158,6 +159,11 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
     protected override void PlayFill(in DisplayItem item)
     {
         if (!Crosses(item, 0))
+        {
+            return;
+        }
+
+        if (item.Extra < 0 && TryFillDense(item))
         {
             return;
         }

@@ -89,8 +89,7 @@ internal sealed unsafe class ThinLinePainter
         _top = Math.Max(_rows.First, Math.Round(clip.MinY)) - _rows.First;
         _bottom = Math.Min(_rows.End, Math.Round(clip.MaxY)) - _rows.First;
         _half = width / 2;
-        _color = color;
-        (_redBlue, _alphaGreen) = (((uint)color.R << 16) | color.B, (Opaque << 16) | (uint)color.G);
+        SetColor(color);
         if (_left < _right && _top < _bottom)
         {
             Walk(verbs, coords, map, tolerance);
@@ -98,6 +97,32 @@ internal sealed unsafe class ThinLinePainter
         }
 
         return true;
+    }
+
+    /// <summary>Puts a colour over pixels of a row.</summary>
+    /// <param name="x">The first pixel.</param>
+    /// <param name="y">The row of the page.</param>
+    /// <param name="coverage">How much of each pixel is covered, up to 255.</param>
+    /// <param name="color">The colour.</param>
+    internal void BlendRow(int x, int y, ReadOnlySpan<byte> coverage, Rgba color)
+    {
+        SetColor(color);
+        uint* pixel = (uint*)(_first + ((long)(y - _rows.First) * _stride)) + x;
+        foreach (byte covered in coverage)
+        {
+            if (covered > 0)
+            {
+                Blend(pixel, covered);
+            }
+
+            pixel++;
+        }
+    }
+
+    private void SetColor(Rgba color)
+    {
+        _color = color;
+        (_redBlue, _alphaGreen) = (((uint)color.R << 16) | color.B, (Opaque << 16) | (uint)color.G);
     }
 
     /// <summary>Returns whether the lines of a path have to be joined before they are drawn: where they are short or

@@ -58,4 +58,59 @@ public class BandTests
             Paint();
         }
     }
+
+    // Clips that are no boxes are left to the general scan converter, so that both draw the same path.
+    [Theory]
+    [InlineData(true, false)]
+    [InlineData(false, false)]
+    [InlineData(false, true)]
+    public void Fills_with_many_edges_in_each_row_look_as_those_of_the_general_scan_converter(bool evenOdd, bool curved)
+    {
+        byte[] Paint(bool isGeneral)
+        {
+            var list = new DrawingList();
+            var path = new PathBuffer();
+            if (isGeneral)
+            {
+                path.MoveTo(new Vec2(-500, -500));
+                path.LineTo(new Vec2(1000, -500));
+                path.LineTo(new Vec2(-500, 1400));
+                path.Close();
+                list.PushClip(path, evenOdd: false);
+                path.Clear();
+            }
+
+            path.MoveTo(new Vec2(20, 20));
+            for (int i = 1; i <= 1500; i++)
+            {
+                Vec2 to = new(20 + ((i * 79.19) % 150), 20 + ((i * 53.7) % 120));
+                if (curved)
+                {
+                    path.CurveTo(new Vec2(40, to.Y), new Vec2(to.X, 90), to);
+                }
+                else
+                {
+                    path.LineTo(to);
+                }
+            }
+
+            list.Fill(path, new Rgba(200, 40, 0, 180), 0, evenOdd);
+            using var engine = new TextEngine();
+            using RasterPage page = RasterPage.Render(engine, PdfSample.PageOf(list));
+            return page.CopyPixels();
+        }
+
+        byte[] dense = Paint(isGeneral: false);
+        byte[] general = Paint(isGeneral: true);
+        Assert.Contains(dense, static value => value is > 0 and < 255);
+        double sum = 0;
+        int worst = 0;
+        for (int i = 0; i < dense.Length; i++)
+        {
+            sum += Math.Abs(dense[i] - general[i]);
+            worst = Math.Max(worst, Math.Abs(dense[i] - general[i]));
+        }
+
+        Assert.True(worst < 40 && sum / dense.Length < 1, $"at most {worst}, {sum / dense.Length:F3} on the average");
+    }
 }

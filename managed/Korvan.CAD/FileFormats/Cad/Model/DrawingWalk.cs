@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
@@ -55,13 +56,16 @@ internal static class DrawingWalk
         }
     }
 
-    /// <summary>Gets the handles of everything that has one.</summary>
-    internal static HashSet<ulong> Handles(CadDrawing drawing)
+    /// <summary>Gets the handles of everything that has one, or of what a condition holds for.</summary>
+    internal static HashSet<ulong> Handles(CadDrawing drawing, Predicate<CadBaseObject>? condition = null)
     {
         HashSet<ulong> handles = [];
         foreach (CadBaseObject item in All(drawing))
         {
-            handles.Add(item.Handle);
+            if (condition is null || condition(item))
+            {
+                handles.Add(item.Handle);
+            }
         }
 
         handles.Remove(0);

@@ -10,17 +10,16 @@ internal static class HandleAllocator
     internal static void Assign(CadDrawing drawing, bool required)
     {
         HashSet<ulong> used = [];
-        List<CadBaseObject> without = [];
         ulong next = 1;
         foreach (CadBaseObject item in DrawingWalk.All(drawing))
         {
-            // An object that took the handle of another gets one of its own.
-            if (item.Handle == 0 || !used.Add(item.Handle))
-            {
-                without.Add(item);
-            }
-
             next = Math.Max(next, item.Handle + 1);
+
+            // An object that took the handle of another gets one of its own.
+            if (item.Handle != 0 && !used.Add(item.Handle))
+            {
+                item.Handle = 0;
+            }
         }
 
         // Old drawings may do without handles; then new objects have none either.
@@ -34,9 +33,12 @@ internal static class HandleAllocator
             next = Math.Max(next, seed);
         }
 
-        foreach (CadBaseObject item in without)
+        foreach (CadBaseObject item in DrawingWalk.All(drawing))
         {
-            item.Handle = required || IsWritten(drawing, item) ? next++ : 0;
+            if (item.Handle == 0 && (required || IsWritten(drawing, item)))
+            {
+                item.Handle = next++;
+            }
         }
 
         drawing.Header.HandSeed = HandleText.Format(next);

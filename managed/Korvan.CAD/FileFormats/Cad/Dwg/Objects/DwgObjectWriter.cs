@@ -35,8 +35,8 @@ internal sealed class DwgObjectWriter
     {
         _drawing = drawing;
         _release = release;
-        _handles = new WrittenHandles(drawing);
         _classes = new WrittenClasses(drawing.ClassEntities.Items);
+        _handles = new WrittenHandles(drawing, IsWritten);
         Objects = new ObjectStore(release);
         _records = new RecordWriter(release, encoding, _handles, Objects);
     }
@@ -54,7 +54,7 @@ internal sealed class DwgObjectWriter
     /// <summary>Writes all objects.</summary>
     internal void Write()
     {
-        RemoveUnwritten();
+        NoteUnwritten();
         CountInserts();
         AddTableSizes();
         foreach (CadDbColor color in _drawing.Objects.OfType<CadDbColor>())
@@ -78,19 +78,17 @@ internal sealed class DwgObjectWriter
         _classes.Complete();
     }
 
-    // References to what is not written lead nowhere, so that it has to be known first.
-    private void RemoveUnwritten()
+    private void NoteUnwritten()
     {
         long more = 0;
         foreach (CadBaseObject item in DrawingWalk.All(_drawing))
         {
-            if (item is CadTableHeader or CadSymbolTableGroupCodes || IsWritten(item))
+            if (IsWritten(item))
             {
                 continue;
             }
 
             Budget.Check();
-            _handles.Remove(item.Handle);
             if (LeftOut.Count >= MaxNamed)
             {
                 more++;
@@ -120,7 +118,8 @@ internal sealed class DwgObjectWriter
         }
     }
 
-    private bool IsWritten(CadBaseObject item) => KeptOf(item) is not null || item is CadInsertObject
+    private bool IsWritten(CadBaseObject item) =>
+        item is CadTableHeader or CadSymbolTableGroupCodes or CadInsertObject || KeptOf(item) is not null
         || (item.HasAllBits && (ObjectTypeTable.NumberOf(item) > 0 || WrittenClasses.IsKnown(item.DxfName)
             || _classes.Has(item.DxfName)));
 

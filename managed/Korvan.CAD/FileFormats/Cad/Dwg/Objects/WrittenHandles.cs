@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -23,9 +24,11 @@ internal sealed class WrittenHandles
     private readonly HashSet<ulong> _present;
 
     /// <summary>Collects the handles of a drawing.</summary>
-    internal WrittenHandles(CadDrawing drawing)
+    /// <param name="drawing">The drawing.</param>
+    /// <param name="isWritten">Whether an object is written: references to others lead nowhere.</param>
+    internal WrittenHandles(CadDrawing drawing, Predicate<CadBaseObject> isWritten)
     {
-        _present = DrawingWalk.Handles(drawing);
+        _present = DrawingWalk.Handles(drawing, isWritten);
         foreach ((SymbolTable table, string name) in Tables)
         {
             Dictionary<string, ulong> records = new(StringComparer.OrdinalIgnoreCase);
@@ -57,9 +60,6 @@ internal sealed class WrittenHandles
             || string.Equals(lineType, "BYBLOCK", StringComparison.OrdinalIgnoreCase);
 
     internal bool IsPresent(ulong handle) => handle != 0 && _present.Contains(handle);
-
-    /// <summary>Notes that an object is not written.</summary>
-    internal void Remove(ulong handle) => _present.Remove(handle);
 
     /// <summary>Returns the handle of a record by its name; 0 for none.</summary>
     internal ulong Find(SymbolTable table, string name) => _records[table].GetValueOrDefault(name);
