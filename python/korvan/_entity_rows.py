@@ -51,6 +51,16 @@ def entity_bounds(drawing: object, layout: str) -> EntityRows:
     return _collect(drawing, "BOUNDS", layout)
 
 
+def entity_digests(source: object, digits: int) -> list[bytes]:
+    """16 bytes for each entity: those of another one that has the same values, but for handles and extended data.
+
+    ``source`` is as of `entity_rows`; ``digits`` are the decimals that numbers are rounded to. Entities with different
+    bytes may still be alike where files state defaults or leave them out.
+    """
+    found = _collect(source, "DIGESTS", str(digits)).values.tobytes()
+    return [found[at : at + 16] for at in range(0, len(found), 16)]
+
+
 def _collect(source: object, kind: str, names: str | None) -> EntityRows:
     from korvan import cad
 

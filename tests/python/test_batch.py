@@ -301,6 +301,17 @@ class Dealing(unittest.TestCase):
             (batch.source / "link.dxf").symlink_to(batch.source / "sub" / "plan.dxf")
             self.assertEqual(self.places(batch, [])[1], [[b"link.dxf", b"sub/plan.dxf"]])
 
+    def test_a_link_that_leads_nowhere_is_told_and_costs_only_itself(self) -> None:
+        with Batch() as batch:
+            batch.script()
+            batch.add(*(f"{number}.dxf" for number in range(5)))
+            for name in ("itself.dxf", "gone.dxf"):
+                (batch.source / name).symlink_to(batch.source / name.replace("gone", "nowhere"))
+            done = batch.run("--json")
+            self.assertEqual((done.returncode, len(batch.results())), (1, 10))
+            self.assertIn("itself.dxf: Too many levels of symbolic links", done.stderr)
+            self.assertIn("gone.dxf: No such file or directory", done.stderr)
+
     def test_results_may_lie_below_the_drawings(self) -> None:
         with Batch() as batch:
             batch.script()

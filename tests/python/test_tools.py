@@ -283,6 +283,18 @@ class Comparing(InFolder):
             new.add_entity(line)
         self.assertEqual([one.change for one in differences(old, new)], ["added"] * 3)
 
+    def test_entities_without_a_class_differ_by_their_data(self) -> None:
+        path = self.out / "odd.dxf"
+
+        def odd(*texts: str) -> CadImage:
+            entities = [f"0\nODD\n5\n{at:X}\n8\n0\n1\n{text}\n" for at, text in enumerate(texts, 256)]
+            path.write_text("0\nSECTION\n2\nENTITIES\n" + "".join(entities) + "0\nENDSEC\n0\nEOF\n")
+            return open_drawing(path, CadImage)
+
+        self.assertEqual([one.name for one in differences(odd("first", "second"), odd("first", "third"))], ["101"])
+        for texts, codes in ((("first", "second"), [401]), (("first", "first"), [401, 306])):
+            self.assertEqual([one.code for one in audit(odd(*texts))], codes, "a fix removes what is there twice")
+
     def test_models_differ_by_elements_and_properties(self) -> None:
         changed = self.out / "changed.ifc"
         changed.write_text(HOUSE.read_text().replace("REI 30", "REI 90").replace("'Wall north W2'", "'Wall N'"))

@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Globalization;
 using System.Runtime.InteropServices;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -12,7 +13,8 @@ public static unsafe class EntityRowsHost
 {
     /// <summary>Fills the places of four bytearrays (rows, ends, indices, closed), each a new reference or 0 after an
     /// error, and of the number of columns. Layers are separated by line breaks; null for all. Of the kind "BOUNDS",
-    /// the boxes of the entities of a layout are collected, whose name is in the place of the layers.</summary>
+    /// the boxes of the entities of a layout are collected, whose name is in the place of the layers. Of the kind
+    /// "DIGESTS", the decimals that numbers are compared by are in their place.</summary>
     [UnmanagedCallersOnly]
     public static int call_Collect(
         nint source, PyStringArg* kind, PyStringArg* layers, nint* arrays, int* width)
@@ -51,7 +53,9 @@ public static unsafe class EntityRowsHost
             IEnumerable<CadEntityBase> list => list,
             _ => throw new ArgumentException("The source of entities has to be a drawing, a block or a list."),
         };
-        return EntityRows.Of(entities, kind, layers?.Split('\n'));
+        return kind == "DIGESTS"
+            ? EntityRows.DigestsOf(entities, int.Parse(layers ?? "6", CultureInfo.InvariantCulture))
+            : EntityRows.Of(entities, kind, layers?.Split('\n'));
     }
 
     private static nint NewArray(ReadOnlySpan<byte> bytes)

@@ -7,6 +7,7 @@ covers few folders, and a file that comes later belongs to exactly one shard.
 from __future__ import annotations
 
 import os
+import stat
 from bisect import bisect_right
 from collections.abc import Callable, Iterator, Sequence
 from dataclasses import dataclass
@@ -94,11 +95,21 @@ class Scanner:
                     if entry.is_dir(follow_symlinks=False):
                         if entry.name != NAME.encode() and not self._is_left_out(entry.path):
                             folders.append(folder + entry.name + b"/")
-                    elif self._wanted.has(entry.name) and entry.is_file():
-                        files.append((entry.name, entry.stat()))
+                    elif self._wanted.has(entry.name) and (status := self._status(entry)) is not None:
+                        files.append((entry.name, status))
         except OSError as failure:
             self.unreadable.append(f"{printable(full)}: {reason(failure)}")
         return list(_name(folder, files)), folders
+
+    def _status(self, entry: os.DirEntry[bytes]) -> os.stat_result | None:
+        """The attributes of a file; a link that leads nowhere costs only itself."""
+        try:
+            status = entry.stat()
+        except OSError as failure:
+            if entry.is_symlink():  # else it was removed meanwhile
+                self.unreadable.append(f"{printable(entry.path)}: {reason(failure)}")
+            return None
+        return status if stat.S_ISREG(status.st_mode) else None
 
     def _is_left_out(self, path: bytes) -> bool:
         return os.path.basename(path) == os.path.basename(self._leave_out) \

@@ -64,9 +64,17 @@ def expand(paths: Iterable[str], extensions: tuple[str, ...] = EXTENSIONS) -> It
         if not os.path.isdir(path):
             yield path
             continue
+        count = 0
         for folder, folders, names in os.walk(path):
             folders.sort()
-            yield from (os.path.join(folder, name) for name in sorted(names) if name.lower().endswith(extensions))
+            for name in sorted(names):
+                file = os.path.join(folder, name)
+                # A link that leads nowhere is an error of that file; a pipe would be waited for.
+                if name.lower().endswith(extensions) and (os.path.isfile(file) or os.path.islink(file)):
+                    count += 1
+                    yield file
+        if not count:
+            yield path  # `each` says that it is empty
 
 
 def each(paths: Sequence[str], work: Callable[[str], Item]) -> Iterator[tuple[str, Item]]:
@@ -75,6 +83,10 @@ def each(paths: Sequence[str], work: Callable[[str], Item]) -> Iterator[tuple[st
 
     progress = Progress(len(paths))
     for path in paths:
+        if os.path.isdir(path):
+            progress.clear()
+            fail(path, "has no such files in it or below")
+            continue
         try:
             done = work(path)
         except (ToolError, RuntimeError, OSError) as failure:

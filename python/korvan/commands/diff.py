@@ -6,7 +6,7 @@ import argparse
 import os
 from typing import TYPE_CHECKING, Any
 
-from korvan.commands.common import add_json, fail, parser_for, print_json, show
+from korvan.commands.common import Usage, add_json, fail, parser_for, print_json, show
 
 if TYPE_CHECKING:
     from korvan.tools.comparison import Difference
@@ -51,11 +51,8 @@ def _print(found: list[Difference], summary: bool) -> None:
 
 def _write_overlay(arguments: argparse.Namespace) -> None:
     from korvan.tools.comparison import overlay
-    from korvan.tools.errors import ToolError
     from korvan.tools.files import write_file
 
-    if os.path.exists(arguments.overlay) and not arguments.force:
-        raise ToolError(f"{arguments.overlay} exists; --force replaces it")
     write_file(arguments.overlay, overlay(arguments.before, arguments.after, width=arguments.width))
 
 
@@ -64,6 +61,11 @@ def run(arguments: argparse.Namespace) -> int:
     from korvan.tools.comparison import differences
     from korvan.tools.errors import ToolError
 
+    if arguments.overlay is not None and os.path.splitext(arguments.overlay)[1].lower() not in ("", ".png"):
+        raise Usage(f"--overlay {arguments.overlay}: the image is a PNG file, so write a name that ends with .png")
+    if arguments.overlay is not None and os.path.isfile(arguments.overlay) and not arguments.force:
+        fail(arguments.overlay, "exists; --force replaces it")
+        return 1
     path = arguments.before
     try:
         with open_drawing(path, tolerant=True) as before:

@@ -52,7 +52,9 @@ def _extents(found: Mapping[str, Any]) -> str:
 
 def lines(found: Mapping[str, Any]) -> list[tuple[str, str]]:
     """Labels and texts for people."""
-    rows = [("format", f"{found['format']} {found.get('release', '')}".strip() + f", {size_text(found['bytes'])}")]
+    release = found.get("release", "")
+    name = release if release.startswith(found["format"]) else f"{found['format']} {release}".strip()  # IFC, IFC4
+    rows = [("format", f"{name}, {size_text(found['bytes'])}")]
     rows += [(key, str(found[key])) for key in ("title", "author", "software") if found.get(key)]
     if "size" in found:
         width, height = found["size"]

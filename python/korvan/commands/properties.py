@@ -42,7 +42,7 @@ def write_csv(rows: Iterable[Mapping[str, object]]) -> None:
         writer.writerows([cell(row.get(column, "")) for column in columns] for row in listed)
 
 
-def _find(path: str, kind: str, wanted: str | None, own: bool) -> list[dict[str, Any]]:
+def _find(path: str, kind: str, wanted: str | None, own: bool, known: set[str]) -> list[dict[str, Any]]:
     from fnmatch import fnmatchcase
 
     from korvan.cad.fileformats.ifc import IfcImage
@@ -53,6 +53,7 @@ def _find(path: str, kind: str, wanted: str | None, own: bool) -> list[dict[str,
         found: list[dict[str, Any]] = []
         for element in elements(model, kind):
             sets = property_sets(element, inherited=not own)
+            known.update(sets)
             if wanted is not None:
                 sets = {name: one for name, one in sets.items() if fnmatchcase(name.casefold(), wanted.casefold())}
             found.append({"entity": element.entity_name, "name": element.get_attribute("Name") or "",
@@ -84,13 +85,18 @@ def run(arguments: argparse.Namespace) -> int:
     paths = list(expand(arguments.files, MODELS))
     rows: list[dict[str, object]] = []
     count = 0
-    work = partial(_find, kind=arguments.type, wanted=arguments.set, own=arguments.own)
+    known: set[str] = set()
+    work = partial(_find, kind=arguments.type, wanted=arguments.set, own=arguments.own, known=known)
     for path, found in each(paths, work):
         count += 1
         if arguments.json:
             print_json({"file": path, "elements": found})
         else:
             rows.extend(_rows(path, found, arguments.wide))
+    if count and arguments.set is not None:
+        from korvan.tools.errors import matching
+
+        matching("property set", [arguments.set], sorted(known))
     if not arguments.json:
         write_csv(rows)
     return 1 if count < len(paths) else 0

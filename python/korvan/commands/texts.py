@@ -6,7 +6,7 @@ import argparse
 import re
 import sys
 from dataclasses import asdict
-from functools import partial
+from fnmatch import fnmatchcase
 from typing import Any
 
 from korvan.commands.common import Usage, add_json, each, expand, parser_for, print_json, show
@@ -34,18 +34,44 @@ def add_parser(subparsers: Any) -> None:
     add_json(parser)
 
 
-def _find(path: str, pattern: re.Pattern[str], layer: str | None, kind: str | None) -> list[Any]:
-    from fnmatch import fnmatchcase
+class _Search:
+    """What is searched, and which layers and types the files have."""
 
-    from korvan.tools import open_drawing, texts
+    def __init__(self, pattern: re.Pattern[str], layer: str | None, kind: str | None) -> None:
+        self.pattern = pattern
+        self.layer = layer
+        self.kind = kind
+        self.layers: set[str] = set()
+        self.kinds: set[str] = set()
 
-    def fits(text: Any) -> bool:
-        return (pattern.search(text.text) is not None
-                and (layer is None or fnmatchcase(text.layer.casefold(), layer.casefold()))
-                and (kind is None or text.kind.casefold() == kind.casefold()))
+    def find(self, path: str) -> list[Any]:
+        from korvan.cad.fileformats.cad import CadImage
+        from korvan.tools import open_drawing, texts
 
-    with open_drawing(path, tolerant=True) as image:
-        return [text for text in texts(image) if fits(text)]
+        found: list[Any] = []
+        with open_drawing(path, tolerant=True) as image:
+            if isinstance(image, CadImage):
+                self.layers.update(image.layers.names)
+            for text in texts(image):
+                self.layers.add(text.layer)
+                self.kinds.add(text.kind)
+                if self._fits(text):
+                    found.append(text)
+        return found
+
+    def _fits(self, text: Any) -> bool:
+        return (self.pattern.search(text.text) is not None
+                and (self.layer is None or fnmatchcase(text.layer.casefold(), self.layer.casefold()))
+                and (self.kind is None or text.kind.casefold() == self.kind.casefold()))
+
+    def check_names(self) -> None:
+        """Refuses a layer or a type that no file has: it is misspelt."""
+        from korvan.tools.errors import matching
+
+        if self.layer is not None:
+            matching("layer", [self.layer], sorted(filter(None, self.layers)))
+        if self.kind is not None:
+            matching("text of type", [self.kind], sorted(self.kinds))
 
 
 def _print(arguments: argparse.Namespace, path: str, found: list[Any], pattern: re.Pattern[str]) -> None:
@@ -74,9 +100,12 @@ def run(arguments: argparse.Namespace) -> int:
     except re.error as failure:
         raise Usage(f"{arguments.pattern!r} is no regular expression: {failure}; -F takes it as it is") from failure
     paths = list(expand(arguments.files))
+    search = _Search(pattern, arguments.layer, arguments.kind)
     count = 0
-    for path, found in each(paths, partial(_find, pattern=pattern, layer=arguments.layer, kind=arguments.kind)):
+    for path, found in each(paths, search.find):
         count += 1
         if found or arguments.count or arguments.json:
             _print(arguments, path, found, pattern)
+    if count:
+        search.check_names()
     return 1 if count < len(paths) else 0

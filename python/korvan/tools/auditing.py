@@ -2,11 +2,13 @@
 
 from __future__ import annotations
 
-import math
+from collections import Counter
 from collections.abc import Callable, Iterator
 from dataclasses import dataclass, replace
+from functools import cache
 from typing import Any
 
+from korvan._entity_rows import entity_digests
 from korvan.cad.fileformats.cad import CadImage
 from korvan.cad.fileformats.cad.cadobjects import CadBlockEntity, CadEntityBase
 from korvan.cad.fileformats.cad.cadtables import CadLayerTable
@@ -33,8 +35,11 @@ CODES = {
 }
 _BY = {"BYLAYER", "BYBLOCK", "CONTINUOUS", ""}
 _FAR = 1e9
+_DIGITS = 6
 # Anonymous blocks, arrowheads, and the spaces of R12, where they are no anonymous blocks.
 _NEVER_REFERENCED = ("*", "_", "$MODEL_SPACE", "$PAPER_SPACE")
+# Blocks of dimensions and tables, which programs make anew.
+_GENERATED = ("*D", "*T")
 _SAME = "STANDARD"
 
 
@@ -65,7 +70,7 @@ class _Audit:
         self.drawing = drawing
         self.fix = fix
         self._found: dict[tuple[int, str, str], Finding] = {}
-        self.layers = {layer.name.casefold() for layer in drawing.layers}
+        self.layers = {layer.name.casefold() for layer in drawing.layers} | {"0"}  # each drawing has it
         self.line_types = {one.name.upper() for one in drawing.line_types} | _BY
         self.styles = {one.name.upper() for one in drawing.styles}
         self.dimension_styles = {one.name.upper() for one in drawing.dimension_styles}
@@ -100,22 +105,27 @@ class _Audit:
                 self.find(402, f"block {name!r} is not used", name)
 
     def check_entities(self, block: CadBlockEntity) -> None:
+        is_generated = block.name.upper().startswith(_GENERATED)
+        digests = [] if is_generated else entity_digests(block, _DIGITS)
+        counts = Counter(digests)
         seen: set[Any] = set()
         removed: list[int] = []
         for at, entity in enumerate(block.entities):
             own = cast(entity)
             self.check_references(own, block.name)
+            if is_generated:
+                continue
             for code, text in _degenerate(own):
                 self.find(code, text, block.name, own, ("removes it", lambda at=at: removed.append(at)))
                 break
             else:
-                fix: tuple[str, Fix] = "removes the second one", lambda at=at: removed.append(at)
-                self.check_duplicate(own, block.name, seen, fix)
+                if counts[digests[at]] > 1:
+                    fix: tuple[str, Fix] = "removes the second one", lambda at=at: removed.append(at)
+                    self.check_duplicate(own, block.name, (digests[at], fingerprint(values(own, _DIGITS))), seen, fix)
         for at in reversed(removed):
             block.entities.pop(at)
 
-    def check_duplicate(self, own: Any, place: str, seen: set[Any], fix: tuple[str, Fix]) -> None:
-        key = fingerprint(values(own))
+    def check_duplicate(self, own: Any, place: str, key: Any, seen: set[Any], fix: tuple[str, Fix]) -> None:
         if key in seen and own.type_name_text != "VIEWPORT":
             self.find(306, f"{own.type_name_text} on {own.layer_name!r} is there twice", place, own,
                       fix)
@@ -129,10 +139,9 @@ class _Audit:
         if own.line_type_name.upper() not in self.line_types:
             self.find(202, f"{kind} has line type {own.line_type_name!r}, which is not there", place, own,
                       ("sets it to that of the layer", lambda: setattr(own, "line_type_name", "BYLAYER")))
-        for member, known, code, what in (("text_style_name", self.styles, 203, "text style"),
-                                          ("style_type", self.styles, 203, "text style"),
-                                          ("dimension_style_name", self.dimension_styles, 204, "dimension style")):
-            name = getattr(own, member, None)
+        for member, code, what in _style_members(type(own)):
+            known = self.dimension_styles if code == 204 else self.styles
+            name = getattr(own, member)
             if isinstance(name, str) and name and name.upper() not in known:
                 fix = ("sets it to STANDARD", lambda one=member: setattr(own, one, _SAME))
                 self.find(code, f"{kind} has {what} {name!r}, which is not there", place, own,
@@ -141,9 +150,8 @@ class _Audit:
             self.used.add(own.name.casefold())
             if own.name.casefold() not in self.blocks:
                 self.find(205, f"a reference names block {own.name!r}, which is not there", place, own)
-        block_name = getattr(own, "block_name", None)
-        if isinstance(block_name, str):
-            self.used.add(block_name.casefold())
+        if hasattr(type(own), "block_name") and isinstance(own.block_name, str):
+            self.used.add(own.block_name.casefold())
 
     def add_layer(self, name: str) -> None:
         if name.casefold() not in self.layers:
@@ -167,20 +175,31 @@ class _Audit:
                 self.find(206, f"block {self.blocks[start].name!r} contains itself", self.blocks[start].name)
 
 
-def _points(own: Any) -> Iterator[Any]:
-    for name in ("first_point", "second_point", "center_point", "insertion_point", "first_alignment"):
-        point = getattr(own, name, None)
-        if point is not None:
-            yield point
+@cache
+def _style_members(kind: type[Any]) -> tuple[tuple[str, int, str], ...]:
+    """The properties of a class that name styles, with the code of a name that is not there."""
+    return tuple(one for one in (("text_style_name", 203, "text style"), ("style_type", 203, "text style"),
+                                 ("dimension_style_name", 204, "dimension style")) if hasattr(kind, one[0]))
+
+
+@cache
+def _point_members(kind: type[Any]) -> tuple[str, ...]:
+    return tuple(name for name in ("first_point", "second_point", "center_point", "insertion_point", "first_alignment")
+                 if hasattr(kind, name))
+
+
+def _is_far(point: Any) -> bool:
+    return not (abs(point.x) <= _FAR and abs(point.y) <= _FAR)  # NaN is far, too
 
 
 def _degenerate(own: Any) -> Iterator[tuple[int, str]]:
     """What is wrong with the geometry of an entity."""
     kind = own.type_name_text
-    if any(not math.isfinite(one) or abs(one) > _FAR for point in _points(own) for one in (point.x, point.y)):
+    points = [getattr(own, name) for name in _point_members(type(own))]
+    if any(point is not None and _is_far(point) for point in points):
         yield 307, f"{kind} has a coordinate that is not finite, or beyond {_FAR:g}"
     if kind == "LINE":
-        a, b = own.first_point, own.second_point
+        a, b = points
         if (a.x, a.y, a.z) == (b.x, b.y, b.z) and not own.thickness:
             yield 301, "LINE has no length"
     elif kind in ("CIRCLE", "ARC") and not own.radius > 0:

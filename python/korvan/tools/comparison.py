@@ -6,18 +6,19 @@ import io
 import os
 import struct
 import zlib
-from collections import defaultdict
+from collections import Counter, defaultdict
 from collections.abc import Callable, Iterable, Iterator, Mapping
 from dataclasses import dataclass, field
 from typing import Any, Literal
 
+from korvan._entity_rows import entity_digests
 from korvan.cad import Image, RasterImage
 from korvan.cad.fileformats.cad import CadDrawTypeMode, CadImage
 from korvan.cad.fileformats.cad.cadobjects import Cad3DPoint, CadEntityBase, CadLine
 from korvan.cad.fileformats.ifc import IfcImage
 from korvan.cad.imageoptions import CadRasterizationOptions, PngOptions
 from korvan.tools.errors import ToolError
-from korvan.tools.opening import open_drawing
+from korvan.tools.opening import cast, describe_kind, open_drawing
 from korvan.tools.properties import property_sets
 from korvan.tools.queries import is_space
 from korvan.tools.plain_values import fingerprint, values
@@ -74,25 +75,48 @@ class _Entity:
     values: dict[str, Any]
 
 
-def _read(entities: Iterable[CadEntityBase], digits: int) -> list[_Entity]:
-    return [_Entity(entity.unique_id, entity.type_name_text, entity.layer_name, values(entity, digits))
-            for entity in entities]
+def _unpaired(before: list[bytes], after: list[bytes]) -> tuple[list[int], list[int]]:
+    """The entities of either side that are not as many on the other one, by their indices."""
+    counts, others = Counter(before), Counter(after)
+    return ([at for at, one in enumerate(before) if counts[one] != others[one]],
+            [at for at, one in enumerate(after) if counts[one] != others[one]])
+
+
+def _read(entities: Any, indices: list[int], digests: list[bytes], digits: int) -> list[_Entity]:
+    found: list[_Entity] = []
+    for at in indices:
+        entity = cast(entities[at])
+        one = _Entity(entity.unique_id, entity.type_name_text, entity.layer_name, values(entity, digits))
+        # Of an entity without a class, and of data of modelers, it is known only whether they are the same.
+        if type(entity) is CadEntityBase or hasattr(entity, "acis_data"):
+            one.values["data"] = digests[at].hex()
+        found.append(one)
+    return found
+
+
+def _space(place: str, before: Any, after: Any, digits: int) -> Iterator[Difference]:
+    """Differences of one layout or block; only what has no counterpart is looked at one by one."""
+    old, new = entity_digests(before, digits), entity_digests(after, digits)
+    first, second = _unpaired(old, new)
+    yield from _entities(place, _read(before, first, old, digits), _read(after, second, new, digits))
 
 
 def _entities(place: str, before: list[_Entity], after: list[_Entity]) -> Iterator[Difference]:
     """Differences of one layout or block. Alike entities are pairs, whatever their handles; then handles decide."""
-    alike: defaultdict[Any, list[_Entity]] = defaultdict(list)
+    alike: defaultdict[Any, dict[str, list[_Entity]]] = defaultdict(dict)
     for one in after:
-        alike[fingerprint(one.values)].append(one)
+        alike[fingerprint(one.values)].setdefault(one.handle, []).append(one)
     left: list[_Entity] = []
     for one in before:
         partners = alike.get(fingerprint(one.values))
         if partners:
-            same = next((at for at, other in enumerate(partners) if other.handle == one.handle), 0)
-            partners.pop(same)
+            same = one.handle if one.handle in partners else next(iter(partners))
+            partners[same].pop()
+            if not partners[same]:
+                del partners[same]
         else:
             left.append(one)
-    rest = [one for ones in alike.values() for one in ones]
+    rest = [one for ones in alike.values() for several in ones.values() for one in several]
     others = {(one.handle, one.kind): one for one in rest if one.handle}
     for one in left:
         other = others.pop((one.handle, one.kind), None)
@@ -128,7 +152,7 @@ def _drawings(before: CadImage, after: CadImage, digits: int) -> Iterator[Differ
         if name not in new or name not in old:
             yield Difference("removed" if name not in new else "added", kind, name)
         else:
-            yield from _entities(name, _read(old[name], digits), _read(new[name], digits))
+            yield from _space(name, old[name], new[name], digits)
 
 
 def _element(element: Any) -> dict[str, Any]:
@@ -168,7 +192,7 @@ def differences(before: Image, after: Image, *, digits: int = 6) -> list[Differe
         return list(_drawings(before, after, digits))
     if isinstance(before, IfcImage) and isinstance(after, IfcImage):
         return list(_models(before, after))
-    raise ToolError(f"a {type(before).__name__} and a {type(after).__name__} are not compared: "
+    raise ToolError(f"{describe_kind(type(before))} and {describe_kind(type(after))} are not compared: "
                     "compare two drawings, or two building models")
 
 

@@ -27,6 +27,7 @@ from korvan.tools.pages import set_page
 from korvan.tools.settings import Settings, parse_color
 
 PLACEHOLDER = "{layout}"
+_OF_DRAWINGS = ("layouts", "layers", "size", "paper", "background", "color_mode")
 _NOT_IN_NAMES = re.compile(r'[\x00-\x1f/\\<>:"|?*]')
 
 
@@ -203,9 +204,13 @@ def _outputs(image: Image, path: Path, target: Target, request: Request, dst: st
     return [(one, [layout]) for one, layout in zip(_file_names(path, layouts), layouts, strict=True)]
 
 
-def _check_content(image: Image, target: Target) -> None:
+def _check_content(image: Image, target: Target, request: Request) -> None:
     """Refuses what content of this kind is not written as, and names what it is written as."""
     if image.can_save(target.options()):
+        given = [name for name in _OF_DRAWINGS if getattr(request, name) is not None]
+        if isinstance(image, RasterImage) and given:
+            raise ToolError(f"{', '.join(given)}: a raster image has no page, layouts or layers; RasterImage.resize "
+                            "changes its size")
         return
     known = ", ".join(sorted(extension for extension, one in targets().items() if image.can_save(one.options())))
     if isinstance(image, IfcImage):
@@ -238,7 +243,7 @@ def converted(src: str | os.PathLike[str], dst: str | os.PathLike[str], request:
         try:
             with _deadline(request.timeout):
                 image = opened.enter_context(load(src, given))
-                _check_content(image, target)
+                _check_content(image, target, request)
                 outputs = _outputs(image, path, target, request, os.fspath(dst))
                 for one, _ in outputs:
                     _check_output(one, request.force)

@@ -80,12 +80,18 @@ def _fonts(wanted: list[str], replaced: dict[str, str]) -> list[dict[str, str | 
     return [{"name": name, "replaced_by": by_key.get(_font_key(name))} for name in names if name]
 
 
+def _release(drawing: CadImage) -> str:
+    """The release; empty where the file states none."""
+    number = int(drawing.version)
+    return RELEASES.get(number, enum_name(drawing.version) if number else "")
+
+
 def _describe_drawing(drawing: CadImage) -> dict[str, Any]:
     summary = drawing.header.summary_info
     counts = Counter(entity.type_name_text for name in drawing.layouts.names
                      for entity in drawing.get_layout_entities(name))
     return {
-        "release": RELEASES.get(int(drawing.version), enum_name(drawing.version)),
+        "release": _release(drawing),
         "title": summary.title, "author": summary.author, "units": enum_name(drawing.unit_type).lower(),
         "extents": _extents(drawing), "layouts": _layouts(drawing), "layers": layers(drawing),
         "blocks": sum(not block.name.startswith("*") for block in drawing.block_entities),

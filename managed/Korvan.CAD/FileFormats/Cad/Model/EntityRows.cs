@@ -126,6 +126,17 @@ internal sealed class EntityRows
         return rows;
     }
 
+    /// <summary>Collects the digests of entities: two columns, to be read as integers of 64 bits.</summary>
+    /// <param name="entities">The entities.</param>
+    /// <param name="digits">The decimals that numbers are compared by.</param>
+    internal static EntityRows DigestsOf(IEnumerable<CadEntityBase> entities, int digits)
+    {
+        var rows = new EntityRows(2);
+        rows._values.AddRange(MemoryMarshal.Cast<ulong, double>(
+            CollectionsMarshal.AsSpan(EntityDigests.Of(entities, digits))));
+        return rows;
+    }
+
     // A file may keep an entity of the name in another class, as polygon meshes are polylines by name.
     private static Func<EntityRows, CadEntityBase, bool> For<T>(Action<EntityRows, T> add)
         where T : CadEntityBase => (rows, entity) =>
