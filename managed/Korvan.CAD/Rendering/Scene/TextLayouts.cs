@@ -42,16 +42,12 @@ internal static class TextLayouts
         double height = HeightOf(text, tables);
         MTextFormat start = StartFormat(tables.Style(text.TextStyleName), height);
         double spacing = text.LineSpacingFactor is > 0 and < MaxLineSpacing ? text.LineSpacingFactor : 1;
-        MTextColumns columns = MTextColumns.Read(text);
         var frame = new MTextFrame(
             text.ReferenceRectangleWidth,
             (int)text.AttachmentPoint,
             spacing,
             text.LineSpacingStyle == CadLineSpacing.Exact,
-            columns.Count,
-            columns.Width,
-            columns.Gutter,
-            columns.Height);
+            MTextColumns.Read(text));
         return MTextLayout.Create(engine, MTextParser.Parse(text.Text, start), frame, height);
     }
 

@@ -5,17 +5,22 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Text;
 
-/// <summary>What the layout of multi-line text starts from; the columns are none when their count is below
-/// two.</summary>
+/// <summary>What the layout of multi-line text starts from.</summary>
 internal readonly record struct MTextFrame(
     double Width,
     int Attachment,
     double LineSpacing,
     bool ExactSpacing,
-    int ColumnCount = 0,
-    double ColumnWidth = 0,
-    double ColumnGutter = 0,
-    double ColumnHeight = 0);
+    TextColumnFrame? Columns = null);
+
+/// <summary>The columns of multi-line text: how many there may be, their width and gap, and the height of each one, of
+/// which the last one serves for those after it; 0 takes all lines.</summary>
+internal sealed record TextColumnFrame(int Count, double Width, double Gutter, IReadOnlyList<double> Heights)
+{
+    /// <summary>Returns the height of a column; 0 if it is the last one or has no limit.</summary>
+    internal double HeightOf(int column) =>
+        column + 1 < Count && Heights.Count > 0 ? Heights[Math.Min(column, Heights.Count - 1)] : 0;
+}
 
 /// <summary>A run at its place: baseline start, em size and slant, in drawing units before the entity's
 /// rotation.</summary>
@@ -69,7 +74,7 @@ internal sealed class MTextLayout
     /// <summary>The box of the text around the attachment point.</summary>
     internal (double Left, double Bottom, double Right, double Top) Box { get; private set; }
 
-    private double WrapWidth => _frame.ColumnCount > 1 ? _frame.ColumnWidth : _frame.Width;
+    private double WrapWidth => _frame.Columns is { Count: > 1 } columns ? columns.Width : _frame.Width;
 
     internal static MTextLayout Create(
         TextEngine engine, IEnumerable<MTextToken> tokens, in MTextFrame frame, double height)
@@ -229,6 +234,7 @@ internal sealed class MTextLayout
         double lowest = 0;
         bool top = true;
         int columns = 1;
+        double gutter = _frame.Columns?.Gutter ?? 0;
         _widest = WrapWidth;
         foreach (Line line in _lines)
         {
@@ -243,11 +249,11 @@ internal sealed class MTextLayout
             double tallest = line.Height > 0 ? line.Height : _height;
             double distance = _frame.ExactSpacing ? _height : Math.Max(tallest, line.Rise * StackShare);
             double advance = BaselineDistance * _frame.LineSpacing * distance;
-            bool columnFull = _frame.ColumnHeight > 0 && columns < _frame.ColumnCount
-                && -(baseline - advance) > _frame.ColumnHeight;
+            double height = _frame.Columns?.HeightOf(columns - 1) ?? 0;
+            bool columnFull = height > 0 && -(baseline - advance) > height;
             if (!top && columnFull)
             {
-                (top, column, columns) = (true, column + _widest + _frame.ColumnGutter, columns + 1);
+                (top, column, columns) = (true, column + _widest + gutter, columns + 1);
             }
 
             double first = _frame.ExactSpacing ? tallest : Math.Max(tallest, line.Rise);
@@ -258,7 +264,7 @@ internal sealed class MTextLayout
             lowest = Math.Min(lowest, baseline);
             if (line.EndsColumn)
             {
-                (top, column, columns) = (true, column + _widest + _frame.ColumnGutter, columns + 1);
+                (top, column, columns) = (true, column + _widest + gutter, columns + 1);
             }
         }
 

@@ -119,20 +119,28 @@ public class SheetTests
     }
 
     [Fact]
-    public void Columns_of_text_come_from_extended_data()
+    public void Columns_of_text_come_from_extended_data_or_an_embedded_object()
     {
         var text = new CadMText();
         var data = new CadXdata("ACAD");
         (int, string)[] tags =
         [
             (1000, "ACAD_MTEXT_COLUMN_INFO_BEGIN"), (1070, "75"), (1070, "2"), (1070, "76"), (1070, "3"), (1070, "48"),
-                (1040, "40"),
-            (1070, "49"), (1040, "5"), (1070, "50"), (1070, "1"), (1040, "100"), (1000, "ACAD_MTEXT_COLUMN_INFO_END"),
+            (1040, "40"), (1070, "49"), (1040, "5"), (1070, "50"), (1070, "2"), (1040, "100"), (1040, "50"),
+            (1000, "ACAD_MTEXT_COLUMN_INFO_END"),
         ];
         data.Data.AddRange(tags.Select(t => new CadCodeValue(t.Item1, t.Item2)));
         text.XdataContainer.XdataEntities.Add(data);
-        Assert.Equal(new MTextColumns(3, 40, 5, 100), MTextColumns.Read(text));
-        Assert.Equal(default, MTextColumns.Read(new CadMText()));
+        TextColumnFrame columns = MTextColumns.Read(text)!;
+        Assert.Equal((3, 40.0, 5.0), (columns.Count, columns.Width, columns.Gutter));
+        Assert.Equal([100.0, 50, 0], Enumerable.Range(0, 3).Select(columns.HeightOf));
+        Assert.Null(MTextColumns.Read(new CadMText()));
+
+        // Of automatic height: no number of columns is stated.
+        var automatic = new CadMText();
+        (int, string)[] embedded = [(41, "30"), (71, "2"), (72, "0"), (44, "20"), (45, "3"), (73, "1")];
+        KeptTags.Of(automatic).Embedded = [.. embedded.Select(t => new CadCodeValue(t.Item1, t.Item2))];
+        Assert.Equal(30, MTextColumns.Read(automatic)!.HeightOf(7));
     }
 
     [Fact]
@@ -141,9 +149,9 @@ public class SheetTests
         using var engine = new TextEngine();
         var start = new MTextFormat(FontSpec.Default, 1, 1, 0, 1, default, StackAlign.Baseline, false, false, false,
             false);
-        var frame = new MTextFrame(0, 1, 1, true, ColumnCount: 2, ColumnWidth: 10, ColumnGutter: 2, ColumnHeight: 4);
-        MTextLayout layout = MTextLayout.Create(engine, MTextParser.Parse("a\\Pb\\Pc\\Pd\\Ne", start), frame, 1);
-        Assert.Equal([0.0, 0, 12, 12, 24], layout.Runs.Select(r => r.X));
+        var frame = new MTextFrame(0, 1, 1, true, new TextColumnFrame(4, 10, 2, [4, 2, 0]));
+        MTextLayout layout = MTextLayout.Create(engine, MTextParser.Parse("a\\Pb\\Pc\\Pd\\Pe\\Pf\\Ng", start), frame, 1);
+        Assert.Equal([0.0, 0, 12, 24, 24, 24, 36], layout.Runs.Select(r => r.X));
         Assert.Equal(layout.Runs.First().Y, layout.Runs.ElementAt(2).Y);
     }
 
