@@ -37,7 +37,7 @@ internal sealed partial class SceneBuilder : IGeometrySink
         {
             StyleFont = name => tables.Style(name).Font,
         };
-        _pens = new PenResolver(tables, style, _canvas.List, onPaper) 
+        _pens = new PenResolver(tables, style, _canvas.List, onPaper)
         {
             Styles = plot?.Table,
             PlotUnit = plot?.UnitsPerMillimetre ?? 1,

@@ -1,4 +1,5 @@
 using System;
+using System.Collections.Generic;
 using System.Linq;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
@@ -150,7 +151,8 @@ public class SheetTests
         var start = new MTextFormat(FontSpec.Default, 1, 1, 0, 1, default, StackAlign.Baseline, false, false, false,
             false);
         var frame = new MTextFrame(0, 1, 1, true, new TextColumnFrame(4, 10, 2, [4, 2, 0]));
-        MTextLayout layout = MTextLayout.Create(engine, MTextParser.Parse("a\\Pb\\Pc\\Pd\\Pe\\Pf\\Ng", start), frame, 1);
+        IEnumerable<MTextToken> tokens = MTextParser.Parse("a\\Pb\\Pc\\Pd\\Pe\\Pf\\Ng", start);
+        MTextLayout layout = MTextLayout.Create(engine, tokens, frame, 1);
         Assert.Equal([0.0, 0, 12, 24, 24, 24, 36], layout.Runs.Select(r => r.X));
         Assert.Equal(layout.Runs.First().Y, layout.Runs.ElementAt(2).Y);
     }
