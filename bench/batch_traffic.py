@@ -1,6 +1,6 @@
 """What batches ask of a shared file system: counted of one batch by strace, then played through for a cluster.
 
-    build/python bench/batch_traffic.py [--files 10000000] [--nodes 1000] [--cores 32] [--cost 0.017]
+    build/python bench/batch_traffic.py [--files 10000000] [--nodes 1000] [--cores 32] [--cost 0.007]
 
 Each worker of the cluster is played file by file. The file system is two queues: of operations on names (open, stat,
 rename, ...), and of bytes.
@@ -197,7 +197,7 @@ def main() -> int:
     parser.add_argument("--files", type=int, default=10_000_000)
     parser.add_argument("--nodes", type=int, default=1000)
     parser.add_argument("--cores", type=int, default=32)
-    parser.add_argument("--cost", type=float, default=0.017,
+    parser.add_argument("--cost", type=float, default=0.007,
                         help="processor seconds of a file, as the measurement `batches` tells")
     parser.add_argument("--measure", action="store_true", help="count anew by strace, and keep the numbers")
     arguments = parser.parse_args()

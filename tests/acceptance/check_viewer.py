@@ -193,6 +193,8 @@ def check_search_and_theme(browser: Browser, folder: Path) -> None:
     expect(count(browser, (21, 23, 28)) > 100_000, "the background is not dark")
     browser.press("f")
     settle(browser)
+    swatch = browser.run("return getComputedStyle(document.querySelector('#layers .swatch')).backgroundColor")
+    expect(swatch == "rgb(232, 234, 238)", f"layer 0 is marked by {swatch} on dark")
     browser.screenshot(RESULTS / "viewer-dark.png")
 
 

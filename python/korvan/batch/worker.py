@@ -8,7 +8,6 @@ from __future__ import annotations
 import base64
 import io
 import os
-import shutil
 import stat
 import time
 from dataclasses import dataclass
@@ -220,6 +219,8 @@ def work(task: dict[str, Any]) -> dict[str, Any]:
     except Exception as failure:  # a fault of ours costs no more than a file
         reply = {"state": "failed", "kind": "fault", "error": f"{type(failure).__name__}: {failure}"}
     if reply["state"] == "failed":
+        import shutil  # it takes longer to import than a small file to convert
+
         _folders.discard(task["scratch"])
         shutil.rmtree(task["scratch"], ignore_errors=True)  # what was begun is not to be moved with the next result
     return {**reply, "seconds": time.perf_counter() - start, **_memory()}

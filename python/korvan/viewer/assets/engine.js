@@ -56,7 +56,8 @@ async function open({ bytes, isImage, isPlotted, settings }) {
   painter.plotted = isPlotted;
   apply(settings);
   const { width, height, matrix, texts } = scene;
-  const layers = scene.layers.map((name, i) => ({ name, color: painter.colorOfLayer(i) }));
+  const layers = scene.layers.map((name, i) => ({
+    name, light: painter.colorOfLayer(i, false), dark: painter.colorOfLayer(i, true) }));
   postMessage({ type: "opened", width, height, matrix, layers, texts, bounds: painter.visibleBounds(),
     count: scene.items.length });
 }

@@ -44,9 +44,9 @@ class Painter {
   }
 
   /** The colour of the first item of a layer, as a sample. */
-  colorOfLayer(layer) {
+  colorOfLayer(layer, dark) {
     const item = this.scene.items.find((found) => found.layer === layer && (found.style?.color ?? found.color));
-    return item === undefined ? null : cssColor(item.style?.color ?? item.color, 1);
+    return item === undefined ? null : cssColor(adaptColor(item.style?.color ?? item.color, dark), 1);
   }
 
   /** Bounds of what is visible; those of the page if nothing is. */

@@ -29,10 +29,12 @@ class Layers {
       }
     }
     $$("layers-section").hidden = this._boxes.size === 0;
-    const colors = new Map(layers.map((layer) => [layer.name, layer.color]));
+    const colors = new Map(layers.map((layer) => [layer.name, layer]));
     for (const [name, { item, swatch }] of this._boxes) {
       item.classList.toggle("empty", !colors.has(name));
-      swatch.style.setProperty("background", colors.get(name) ?? "transparent");
+      for (const theme of ["light", "dark"]) {
+        swatch.style.setProperty(`--${theme}`, colors.get(name)?.[theme] ?? "transparent");
+      }
     }
   }
 
