@@ -103,7 +103,8 @@ def _librecad(pages: list[Path], folder: Path, side: int) -> None:
                      _target(page, folder).with_suffix(""))
 
 
-# LibreOffice shows CGM on a slide, which cuts it off; no other program of Debian shows it.
+# LibreOffice scales a CGM by its content onto a slide, which cuts it off, so that nothing can be held beside it; no
+# other program of Debian shows it.
 VIEWERS = (
     Viewer("poppler", "pdftocairo", "pdf", _poppler),
     Viewer("librsvg", "rsvg-convert", "svg", _rsvg),

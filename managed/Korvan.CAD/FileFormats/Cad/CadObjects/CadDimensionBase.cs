@@ -56,11 +56,12 @@ public abstract partial class CadDimensionBase : CadDimensionBaseR12
     [CadDouble(41, Optional = true)]
     public double LineSpacingFactor { get; set; } = 1;
 
-    /// <summary>Gets or sets the measured length in drawing units, or the angle in radians. Where neither the file nor
-    /// a program states it, it is measured between the points of the dimension. Group code 42.</summary>
+    /// <summary>Gets or sets the measured length in drawing units, or the angle in radians. Files state the length with
+    /// the linear factor of the dimension style. Where neither the file nor a program states it, or it is negative, it
+    /// is measured between the points of the dimension. Group code 42.</summary>
     public double ActualMeasurement
     {
-        get => StoredMeasurement != 0 ? StoredMeasurement : DimensionMeasure.Of(this);
+        get => StoredMeasurement > 0 ? StoredMeasurement : DimensionMeasure.Of(this);
         set => StoredMeasurement = value;
     }
 

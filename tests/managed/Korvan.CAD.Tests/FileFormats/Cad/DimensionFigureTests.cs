@@ -47,6 +47,17 @@ public class DimensionFigureTests
         Assert.Equal(42, stated.ActualMeasurement);
     }
 
+    [Theory]
+    [InlineData(2000)] // as files state it, with the factor
+    [InlineData(-1)] // as they state what was not measured
+    public void Texts_show_the_distance_of_the_points_with_the_factor_of_the_style(double stated)
+    {
+        CadRotatedDimension dimension = Linear(20);
+        dimension.ActualMeasurement = stated;
+        List<CadEntityBase> figure = Figure(dimension, static v => (v.Dimlfac, v.Dimdec) = (100, 0));
+        Assert.Equal("2000", figure.OfType<CadMText>().Single().Text);
+    }
+
     [Fact]
     public void Measurements_of_tilted_dimensions_lie_in_their_plane()
     {

@@ -62,6 +62,20 @@ public class DimensionPlaceTests
         Assert.Equal(above != 0 ? [(2, 5, 18, 5)] : Broken(x), parts);
     }
 
+    [Theory]
+    [InlineData(3, 1, -2, 12, 7)] // above an extension line, which reaches to its end
+    [InlineData(4, 4, 22, 7, 12)]
+    [InlineData(4, 0, 20, 7, 7)] // past the end of the extension line
+    public void Texts_may_run_along_an_extension_line(
+        int justification, int above, double x, double firstEnd, double secondEnd)
+    {
+        List<CadEntityBase> figure = Figure(
+            Level(20), v => (v.Dimjust, v.Dimtad) = ((short)justification, (short)above));
+        CadMText text = figure.OfType<CadMText>().Single();
+        Assert.Equal((x, 10, 1), (R(text.InsertionPoint.X), R(text.InsertionPoint.Y), R(text.TextDirection.Y)));
+        Assert.Equal([(0, 1, 0, firstEnd), (20, 1, 20, secondEnd), (2, 5, 18, 5)], Lines(figure));
+    }
+
     [Fact]
     public void A_factor_scales_every_part()
     {

@@ -11,6 +11,10 @@ internal sealed partial class DimensionGraphics
     private const int LineFollowsText = 0;
     private const int LeaderToText = 1;
 
+    // Ways of $DIMJUST that put the text along an extension line.
+    private const int OverFirst = 3;
+    private const int OverSecond = 4;
+
     private void DrawLinear(CadAlignedDimension dimension)
     {
         Vec2 along = DimensionMeasure.DirectionOf(dimension, _pen);
@@ -23,11 +27,18 @@ internal sealed partial class DimensionGraphics
         (Vec2 a, Vec2 b) = (Foot(p1), Foot(p2));
         along = Vec2.Dot(b - a, along) < 0 ? along * -1 : along;
         var line = new StraightLine(a, along, (b - a).Length);
-        DrawExtension(p1, a, isFirst: true);
-        DrawExtension(p2, b, isFirst: false);
+        bool isOverFirst = HasText && Values.Dimjust == OverFirst;
+        bool isOverSecond = HasText && Values.Dimjust == OverSecond;
+        bool isOver = isOverFirst || isOverSecond;
+        Vec2 over = isOverFirst ? p1 : p2;
+        Vec2 foot = isOverFirst ? a : b;
+        (Label label, Fitting fitting) = isOver
+            ? (LabelOver(over, foot), new Fitting(HaveRoom(line.Length), true))
+            : PlaceLabel(line, Vec2.Dot(on - p1, along.Left));
+        DrawExtension(p1, a, isFirst: true, isOverFirst ? ReachPast(label, over, foot) : 0);
+        DrawExtension(p2, b, isFirst: false, isOverSecond ? ReachPast(label, over, foot) : 0);
         UseLine();
-        (Label label, Fitting fitting) = PlaceLabel(line, Vec2.Dot(on - p1, along.Left));
-        bool isAway = IsAway(label, line);
+        bool isAway = !isOver && IsAway(label, line);
         if (isAway && Values.Dimtmove == LeaderToText)
         {
             label = DrawTextLeader(label, line.At(line.Length / 2));
@@ -40,6 +51,24 @@ internal sealed partial class DimensionGraphics
         }
 
         DrawText(label);
+    }
+
+    /// <summary>Places a text along an extension line, past its end.</summary>
+    private Label LabelOver(Vec2 measured, Vec2 foot)
+    {
+        Vec2 outwards = (foot - measured).Unit();
+        double rotation = RotationOf(outwards, isLevel: false);
+        double half = LabelAt(default, rotation).ReachAlong(outwards);
+        Vec2 lift = Vec2.Polar(rotation).Left * LiftOf(rotation, outwards);
+        return LabelAt(HasPlace ? StoredPlace : foot + (outwards * (ExtensionBeyond + Gap + half)) + lift, rotation);
+    }
+
+    /// <summary>Returns how far an extension line reaches that has a text beside it.</summary>
+    private double ReachPast(in Label label, Vec2 measured, Vec2 foot)
+    {
+        Vec2 outwards = (foot - measured).Unit();
+        double at = Vec2.Dot(label.Middle - foot, outwards);
+        return label.Covers(foot + (outwards * at), Gap) ? 0 : at + label.ReachAlong(outwards);
     }
 
     private bool IsAway(in Label label, in StraightLine line) =>
@@ -69,8 +98,8 @@ internal sealed partial class DimensionGraphics
             { HasTextInside: false } => line.Length + (2 * Arrow) + Gap + half,
             _ => Values.Dimjust switch
             {
-                1 or 3 => end + half,
-                2 or 4 => line.Length - end - half,
+                1 => end + half,
+                2 => line.Length - end - half,
                 _ => line.Length / 2,
             },
         };

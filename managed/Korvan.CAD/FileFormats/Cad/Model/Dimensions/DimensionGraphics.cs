@@ -208,8 +208,8 @@ internal sealed partial class DimensionGraphics
         UseLine();
     }
 
-    /// <summary>Draws an extension line from a measured point to its end of the dimension line.</summary>
-    private void DrawExtension(Vec2 measured, Vec2 end, bool isFirst)
+    /// <summary>Draws an extension line from a measured point to its end of the dimension line and beyond.</summary>
+    private void DrawExtension(Vec2 measured, Vec2 end, bool isFirst, double beyond = 0)
     {
         bool isSuppressed = (isFirst ? Values.Dimse1 : Values.Dimse2) != 0;
         double length = (end - measured).Length;
@@ -226,7 +226,7 @@ internal sealed partial class DimensionGraphics
             start = Math.Max(start, length - (Values.Dimfxl * _style.Scale));
         }
 
-        _pen.Line(measured + (along * start), end + (along * ExtensionBeyond));
+        _pen.Line(measured + (along * start), end + (along * Math.Max(beyond, ExtensionBeyond)));
     }
 
     /// <summary>Draws a line except for what the text covers.</summary>

@@ -46,9 +46,9 @@ internal static class DimensionText
     private static string Composed(CadDimensionBase dimension, DimensionStyle style)
     {
         CadDimensionStyleTable v = style.Values;
-        double value = dimension.ActualMeasurement;
         if (IsAngular(dimension))
         {
+            double value = dimension.ActualMeasurement;
             int decimals = v.Dimadec < 0 ? v.Dimdec : v.Dimadec;
             var angle = new AngleFormat(v.Dimaunit, decimals, v.Dimazin, style.Separator);
             double degree = Math.PI / 180;
@@ -59,9 +59,8 @@ internal static class DimensionText
         LengthFormat tolerance = main with { Decimals = v.Dimtdec, Zeros = v.Dimtzin };
         (string before, string after) = Affixes(v.Dimpost);
         before = before.Length > 0 ? before : SymbolOf(dimension);
-        double factor = FactorOf(dimension, v);
         string text = WithTolerance(
-            Rounded(value * factor, v.Dimrnd), v.Dimtp, v.Dimtm, style,
+            Rounded(LengthOf(dimension, v), v.Dimrnd), v.Dimtp, v.Dimtm, style,
             length => before + main.Format(length) + after, length => tolerance.Format(length) + after);
         return v.Dimalt != 0 ? $"{text} [{InAlternateUnits(dimension, style)}]" : text;
     }
@@ -72,10 +71,17 @@ internal static class DimensionText
         var main = new LengthFormat((LengthUnit)v.Dimaltu, v.Dimaltd, v.Dimaltz, style.Separator, v.Dimfrac);
         LengthFormat tolerance = main with { Decimals = v.Dimalttd, Zeros = v.Dimalttz };
         (string before, string after) = Affixes(v.Dimapost);
-        double factor = v.Dimaltf * FactorOf(dimension, v);
         return WithTolerance(
-            Rounded(dimension.ActualMeasurement * factor, v.Dimaltrnd), v.Dimtp * v.Dimaltf, v.Dimtm * v.Dimaltf, style,
+            Rounded(LengthOf(dimension, v) * v.Dimaltf, v.Dimaltrnd), v.Dimtp * v.Dimaltf, v.Dimtm * v.Dimaltf, style,
             length => before + main.Format(length) + after, length => tolerance.Format(length) + after);
+    }
+
+    /// <summary>Returns the length to show. Files state it with the factor of the style, or as less than nothing before
+    /// it was measured, so that the points of the dimension come first.</summary>
+    private static double LengthOf(CadDimensionBase dimension, CadDimensionStyleTable v)
+    {
+        double measured = DimensionMeasure.Of(dimension);
+        return measured > 0 ? measured * FactorOf(dimension, v) : Math.Max(0, dimension.ActualMeasurement);
     }
 
     // A negative factor is for sheets of paper alone.
