@@ -23,7 +23,9 @@ internal static class AtomicFile
     /// <param name="write">Writes the content.</param>
     /// <param name="avoidName">Whether the file has no name until it is complete, if the file system supports
     /// that.</param>
-    internal static void Write(string filePath, bool overWrite, Action<Stream> write, bool avoidName = true)
+    /// <param name="timeout">How long the reader of a pipe may take, in milliseconds; 0 for no limit.</param>
+    internal static void Write(
+        string filePath, bool overWrite, Action<Stream> write, bool avoidName = true, int timeout = 0)
     {
         Verify.NotEmpty(filePath);
         UndecodableFileName.RefuseAsTarget(filePath);
@@ -41,11 +43,11 @@ internal static class AtomicFile
 
         if (DescriptorOf(target) is { } descriptor)
         {
-            WriteInto(filePath, write, data => PosixFile.Write(descriptor, data));
+            WriteInto(filePath, timeout, write, data => PosixFile.Write(descriptor, data));
         }
         else if (kind is not (PosixFile.Kind.Absent or PosixFile.Kind.Regular))
         {
-            WriteInto(filePath, write, data => WriteSpecial(target, kind, data));
+            WriteInto(filePath, timeout, write, data => WriteSpecial(target, kind, data));
         }
         else
         {
@@ -70,10 +72,11 @@ internal static class AtomicFile
     }
 
     // The output is complete before its first byte is written to where it cannot be undone.
-    private static void WriteInto(string filePath, Action<Stream> write, SpanAction put)
+    private static void WriteInto(string filePath, int timeout, Action<Stream> write, SpanAction put)
     {
         using MemoryStream output = new();
         write(output);
+        using Budget budget = Budget.Begin(null, timeout);
         try
         {
             put(output.GetBuffer().AsSpan(0, (int)output.Length));

@@ -200,7 +200,7 @@ public abstract partial class Image : DataStreamSupporter
         VerifyNotDisposed();
         Verify.NotNull(options);
         VerifyCanSave(options);
-        AtomicFile.Write(filePath, true, stream => Export(options, stream));
+        AtomicFile.Write(filePath, true, stream => Export(options, stream), timeout: options.Timeout);
     }
 
     /// <summary>Writes the image to a stream in the format of the options.</summary>

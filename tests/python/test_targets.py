@@ -16,7 +16,14 @@ from pathlib import Path
 
 from drawings import EXAMPLES
 from korvan import cad
-from korvan.cad.imageoptions import CadRasterizationOptions, ImageOptionsBase, PdfOptions, PngOptions, SvgOptions
+from korvan.cad.imageoptions import (
+    BmpOptions,
+    CadRasterizationOptions,
+    ImageOptionsBase,
+    PdfOptions,
+    PngOptions,
+    SvgOptions,
+)
 
 PLAN = str(EXAMPLES / "floor_plan.dxf")
 CONTENT = Path(PLAN).read_bytes()
