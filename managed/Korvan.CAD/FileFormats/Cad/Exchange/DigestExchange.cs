@@ -5,8 +5,8 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 
 namespace Korvan.CAD.FileFormats.Cad.Exchange;
 
-/// <summary>Makes 128 bits of the fields of objects: the same for objects that are alike but for their identity. Handles
-/// are left out; so are the names that programs give to the layouts of entities and to the blocks of
+/// <summary>Makes 128 bits of the fields of objects: the same for objects that are alike but for their identity.
+/// Handles are left out; so are the names that programs give to the layouts of entities and to the blocks of
 /// dimensions.</summary>
 /// <param name="digits">The decimals that numbers are rounded to.</param>
 internal sealed class DigestExchange(int digits) : ObjectExchange

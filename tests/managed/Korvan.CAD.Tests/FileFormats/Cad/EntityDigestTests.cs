@@ -44,7 +44,8 @@ public class EntityDigestTests
         [
             new CadLine { Thickness = 1 }, new CadLine { ColorId = 1 }, new CadLine { LayerName = "1" },
             new CadLine { FirstPoint = new Cad3DPoint(1, 0, 0) }, new CadLine { FirstPoint = new Cad3DPoint(0, 1, 0) },
-            new CadLine { SecondPoint = new Cad3DPoint(1, 0, 0) }, new CadLine { SecondPoint = new Cad3DPoint(0, 0, 1) },
+            new CadLine { SecondPoint = new Cad3DPoint(1, 0, 0) },
+            new CadLine { SecondPoint = new Cad3DPoint(0, 0, 1) },
             new CadLine { ColorName = "1" }, new CadLine { LinetypeScale = 2 }, new CadRay(), new CadXLine(),
             new CadRegion(), new CadRegion { DataRecord = CadAcdsRecord.Holding([1]) },
             new CadRegion { DataRecord = CadAcdsRecord.Holding([2]) },
