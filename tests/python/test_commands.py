@@ -113,6 +113,7 @@ class Converting(Commands):
             (["properties", HOUSE, "--set", "Pset_WalCommon"], "'Pset_WallCommon'"),
             (["properties", HOUSE, "--type", "IfcWal"], "'IfcWall'"),
             (["info", self.out], "no such files"),
+            (["view", self.out, "-o", self.out / "a.html"], "is a folder"),
             (["convert", image, "-o", self.out / "b.jpg", "--size", "50x"], "size: a raster image has no page"),
             (["diff", PLAN, image], "a drawing .* and a raster image .* are not compared"),
             (["diff", PLAN, HOUSE, "--overlay", image], "exists; --force"),
@@ -175,6 +176,10 @@ class Converting(Commands):
             out, err = done.communicate(timeout=300)
         self.assertEqual((done.returncode, err), (0, ""))
         self.assertIn("\udcff.pdf", out)
+        for command in (("view", source, "-o", self.out / "v.html"), ("info", source), ("layers", source),
+                        ("texts", "", source), ("blocks", source), ("audit", source), ("diff", source, source)):
+            self.good(*command)
+        self.assertIn("<title>a\ufffd.dxf", (self.out / "v.html").read_text("utf-8"))
 
     @needs_shared
     def test_ctrl_c_ends_it_and_leaves_no_half_file(self) -> None:
@@ -289,7 +294,7 @@ class Inspecting(Commands):
         out = self.good("audit", source, "--summary")
         for code in ("203: 63", "301: 18", "306: 22"):
             self.assertIn(code, out)
-        self.good("audit", source, "--fix", "-o", target)
+        self.assertIn(f"; written to {target}", self.good("audit", source, "--fix", "-o", target))
         left = json.loads(self.good("audit", target, "--json"))["findings"]
         self.assertEqual([one["code"] for one in left], [401])
         self.assertEqual(self.korvan("audit", target, "--exit-code")[0], 1)

@@ -487,6 +487,11 @@ class Editing(InFolder):
                  for dimension in dimensions]
         self.assertEqual(shown, ["50.0000", "30.0000 m", "R25.0000", "Ø50.0000"])
         self.assertEqual(audit(found), [one for one in audit(found) if one.code == 401])
+        plan = open_drawing(PLAN, CadImage)
+        names = list(plan.dimension_styles.names)
+        for current, used in ((names[-1], names[-1]), ("GONE", names[0])):
+            plan.header.current_dim_style = current
+            self.assertEqual(add_linear_dimension(plan, (0, 0), (3, 4), (0, 6)).style_name, used)
 
     def test_measures(self) -> None:
         drawing = CadImage()

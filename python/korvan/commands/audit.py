@@ -44,10 +44,14 @@ def add_parser(subparsers: Any) -> None:
     add_json(parser)
 
 
+def _place(path: str, out: str) -> str:
+    return os.path.join(out, os.path.basename(path)) if out.endswith("/") or os.path.isdir(out) else out
+
+
 def _target(path: str, out: str, force: bool) -> str:
     from korvan.tools.errors import ToolError
 
-    target = os.path.join(out, os.path.basename(path)) if out.endswith("/") or os.path.isdir(out) else out
+    target = _place(path, out)
     if os.path.exists(target) and not force:
         raise ToolError(f"{target} exists; --force replaces it")
     return target
@@ -71,14 +75,15 @@ def _audit(path: str, out: str | None, force: bool) -> list[Any]:
         return found
 
 
-def _print(path: str, found: list[Any], summary: bool) -> None:
+def _print(path: str, found: list[Any], target: str, summary: bool) -> None:
     from korvan.tools.auditing import CODES
     from korvan.tools.printing import one_line
 
     fixed = sum(one.count for one in found if one.is_fixed)
     count = sum(one.count for one in found)
     corrected = f", {fixed} corrected" if fixed else ""
-    show(f"{one_line(path)}: {count} finding{'' if count == 1 else 's'}{corrected}")
+    written = f"; written to {one_line(target)}" if target else ""
+    show(f"{one_line(path)}: {count} finding{'' if count == 1 else 's'}{corrected}{written}")
     if summary:
         counts: Counter[int] = Counter()
         for one in found:
@@ -110,5 +115,5 @@ def run(arguments: argparse.Namespace) -> int:
             rows: list[object] = [vars(one) for one in found]
             print_json({"file": path, "findings": rows})
         else:
-            _print(path, found, arguments.summary)
+            _print(path, found, _place(path, arguments.out) if arguments.fix else "", arguments.summary)
     return 1 if count < len(paths) or (stay and arguments.exit_code) else 0

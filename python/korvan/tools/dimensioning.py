@@ -115,10 +115,15 @@ class _Figure:
         return place
 
 
-def _style(drawing: CadImage, name: str) -> CadDimensionStyleTable:
+def _style(drawing: CadImage, name: str | None) -> CadDimensionStyleTable:
+    """The style of a name; without one the current style, or the first one."""
+    known = list(drawing.dimension_styles.names)
+    if name is None:
+        name = drawing.header.current_dim_style
+        name = name if drawing.dimension_styles.find(name) is not None else next(iter(known), "Standard")
     found = drawing.dimension_styles.find(name)
     if found is None:
-        raise unknown("dimension style", name, list(drawing.dimension_styles.names))
+        raise unknown("dimension style", name, known)
     return found
 
 
@@ -137,7 +142,7 @@ def _finish(drawing: CadImage, dimension: CadDimensionBase, figure: _Figure, mid
 
 def add_linear_dimension(
     drawing: CadImage, start: Point, end: Point, through: Point, *, angle: float | None = None,
-    style: str = "Standard", text: str = "", layer: str = "0"
+    style: str | None = None, text: str = "", layer: str = "0"
 ) -> CadAlignedDimension:
     """Adds a dimension of the distance of two points to model space.
 
@@ -145,7 +150,7 @@ def add_linear_dimension(
     :param end: The second point.
     :param through: A point of the dimension line.
     :param angle: The direction of the dimension line in degrees, 0 for horizontal; by default that of the points.
-    :param style: The name of the dimension style.
+    :param style: The name of the dimension style; by default the current one of the drawing.
     :param text: A text instead of the measurement; ``<>`` in it is replaced by the measurement.
     :param layer: The name of the layer.
     :raises ToolError: There is no such style.
@@ -184,7 +189,7 @@ def add_linear_dimension(
 
 
 def add_radius_dimension(
-    drawing: CadImage, centre: Point, point: Point, *, style: str = "Standard", text: str = "", layer: str = "0"
+    drawing: CadImage, centre: Point, point: Point, *, style: str | None = None, text: str = "", layer: str = "0"
 ) -> CadRadialDimension:
     """Adds a dimension of a radius to model space.
 
@@ -201,7 +206,7 @@ def add_radius_dimension(
 
 
 def add_diameter_dimension(
-    drawing: CadImage, centre: Point, point: Point, *, style: str = "Standard", text: str = "", layer: str = "0"
+    drawing: CadImage, centre: Point, point: Point, *, style: str | None = None, text: str = "", layer: str = "0"
 ) -> CadDiametricDimension:
     """Adds a dimension of a diameter to model space.
 

@@ -123,18 +123,19 @@ def read_contents(source: str | os.PathLike[str], layouts: Sequence[str] | None 
 
     path = Path(source)
     if not path.is_file():
-        raise ViewerError("there is no such file")
+        raise ViewerError("is a folder: a page shows one file" if os.path.isdir(path) else "there is no such file")
+    name = os.fsencode(path.name).decode("utf-8", "replace")  # a page has no bytes that are no UTF-8
     with Image.load(str(path)) as image:
         if drawing := CadImage._cast_to(image):
-            return _read_drawing(path.name, image, drawing.value, layouts)
+            return _read_drawing(name, image, drawing.value, layouts)
         if layouts:
             raise ViewerError("only drawings have layouts to select")
         if RasterImage._cast_to(image) or not image.can_save(SvgOptions()):
             if not image.can_save(PngOptions()):
                 raise ViewerError(_why_no_view(image))
-            return Contents(path.name, list(_read_pages(image)))
-        contents = Contents(path.name, [])
-        contents.layouts.append(_render(image, path.stem, None, contents, is_sheet=True))
+            return Contents(name, list(_read_pages(image)))
+        contents = Contents(name, [])
+        contents.layouts.append(_render(image, os.path.splitext(name)[0], None, contents, is_sheet=True))
         return contents
 
 
