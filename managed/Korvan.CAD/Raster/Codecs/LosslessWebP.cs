@@ -6,9 +6,9 @@ using Korvan.CAD.Raster.Pixels;
 namespace Korvan.CAD.Raster.Codecs;
 
 /// <summary>
-/// Writes lossless WebP (RFC 9649, section 3) row by row, for images that libwebp would need too much memory for. Pixels
-/// are predicted from their neighbours, tile by tile; equal ones in a row, and rows like the ones above, are stored as
-/// runs. Two passes over the image: one counts symbols, one writes them.
+/// Writes lossless WebP (RFC 9649, section 3) row by row, for images that libwebp would need too much memory for.
+/// Pixels are predicted from their neighbours, tile by tile; equal ones in a row, and rows like the ones above, are
+/// stored as runs. Two passes over the image: one counts symbols, one writes them.
 /// </summary>
 internal sealed class LosslessWebP
 {
