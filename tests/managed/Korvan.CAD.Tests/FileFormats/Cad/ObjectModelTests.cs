@@ -24,7 +24,7 @@ public class ObjectModelTests
     /// <summary>Objects of programs and of renderers that the model has no classes for.</summary>
     private static readonly string[] WithoutClass =
     [
-        "ACAD_PROXY_OBJECT", "ACDBASSOCALIGNEDDIMACTIONBODY", "ACDBASSOCOSNAPPOINTREFACTIONPARAM",
+        "ACDBASSOCALIGNEDDIMACTIONBODY", "ACDBASSOCOSNAPPOINTREFACTIONPARAM",
         "ACDBASSOCVERTEXACTIONPARAM", "ACDBDETAILVIEWSTYLE", "ACDBPLACEHOLDER",
         "MENTALRAYRENDERSETTINGS", "RAPIDRTRENDERSETTINGS", "SCALE", "SORTENTSTABLE",
     ];
