@@ -129,6 +129,11 @@ internal static class CodecWriter
             text.AppendLine($"            if ({part.Name}.ReadField(code, reader)) {{ return true; }}");
         }
 
+        if (model.Properties.All(property => property.IsPart))
+        {
+            return;
+        }
+
         text.AppendLine("            switch (code)");
         text.AppendLine("            {");
         foreach (CadProperty property in model.Properties)

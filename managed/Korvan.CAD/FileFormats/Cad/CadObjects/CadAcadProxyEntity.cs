@@ -54,98 +54,24 @@ public partial class CadAcadProxyEntity : CadEntityBase
 
     partial void OnExchange(ObjectExchange fields)
     {
-        const int end = 94;
-        ExchangeFormat(fields, true);
-        ExchangeSize(fields, 92, 160, GraphicsData.Length);
-        GraphicsData = ExchangeBytes(fields, GraphicsData);
-        EntitySize = ExchangeSize(fields, 93, 161, EntitySize);
-        EntityData = ExchangeBytes(fields, EntityData);
-        ExchangeReferences(fields);
-        if (fields.Has(end, 0, References.Count > 0))
-        {
-            fields.Int32(end, 0);
-        }
-
-        ExchangeFormat(fields, fields.IsReading);
+        (DrawingFormat, OriginalFormat) = ProxyFields.ExchangeFormat(fields, true, DrawingFormat, OriginalFormat);
+        ProxyFields.ExchangeSize(fields, 92, 160, GraphicsData.Length);
+        GraphicsData = ProxyFields.ExchangeBytes(fields, GraphicsData);
+        EntitySize = ProxyFields.ExchangeSize(fields, 93, 161, EntitySize);
+        EntityData = ProxyFields.ExchangeBytes(fields, EntityData);
+        ProxyFields.ExchangeReferences(fields, References);
+        (DrawingFormat, OriginalFormat) =
+            ProxyFields.ExchangeFormat(fields, fields.IsReading, DrawingFormat, OriginalFormat);
     }
 
-    // Some programs write the format before the sizes, some after the references.
-    private void ExchangeFormat(ObjectExchange fields, bool isHere)
-    {
-        if (fields.Has(95, 0, isHere && DrawingFormat != 0))
-        {
-            DrawingFormat = fields.Int32(95, DrawingFormat);
-        }
-
-        if (fields.Has(70, 0, isHere && OriginalFormat != 0))
-        {
-            OriginalFormat = fields.Int16(70, OriginalFormat);
-        }
-    }
-
-    private static int ExchangeSize(ObjectExchange fields, int code, int longCode, int size)
-    {
-        const int withLongSizes = 2010;
-        bool isLong = fields.Release >= withLongSizes;
-        if (fields.Has(code, 0, !isLong && size != 0))
-        {
-            size = fields.Int32(code, size);
-        }
-
-        return fields.Has(longCode, 0, isLong && size != 0)
-            ? (int)Math.Clamp(fields.Int64(longCode, size), 0, int.MaxValue) : size;
-    }
-
-    private static byte[] ExchangeBytes(ObjectExchange fields, byte[] data) =>
-        fields.Has(310, 0, data.Length > 0) ? fields.Binary(310, data) : data;
-
-    // References of all kinds come in any order.
-    private void ExchangeReferences(ObjectExchange fields)
-    {
-        int present = References.Count;
-        for (int i = 0; CodeOfNext(fields, i, present) is { } code and > 0; i++)
-        {
-            if (fields.IsReading)
-            {
-                References.Add(new CadCodeValue(code, "0"));
-            }
-
-            References[i].Value = fields.Handle(code, RoleOf(code), References[i].Value);
-        }
-    }
-
-    private int CodeOfNext(ObjectExchange fields, int index, int present)
-    {
-        ReadOnlySpan<int> codes = [330, 340, 350, 360];
-        foreach (int code in codes)
-        {
-            if (fields.HasItem(code, index < present && References[index].Attribute == code))
-            {
-                return code;
-            }
-        }
-
-        return 0;
-    }
-
-    private static HandleRole RoleOf(int code) => code switch
-    {
-        330 => HandleRole.SoftPointer,
-        350 => HandleRole.SoftOwner,
-        360 => HandleRole.HardOwner,
-        _ => HandleRole.HardPointer,
-    };
-
-    private void ExchangeFormat(BitExchange fields)
-    {
-        int release = fields.BitLong(DrawingFormat & 0xFFFF);
-        DrawingFormat = (release & 0xFFFF) | (fields.BitLong(DrawingFormat >> 16) << 16);
-    }
+    private void ExchangeFormat(BitExchange fields) =>
+        DrawingFormat = ProxyFields.ExchangeFormat(fields, DrawingFormat);
 
     private void ExchangeEntity(BitExchange fields)
     {
-        EntityData = fields.Rest(EntityData);
-        EntitySize = fields.IsReading ? EntityData.Length * 8 : EntitySize;
+        int bits = EntitySize;
+        EntityData = fields.Rest(EntityData, ref bits);
+        EntitySize = bits;
         fields.RestOfHandles(References);
     }
 }

@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.Exchange;
@@ -8,13 +9,13 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadSequence]
 [CadObject("GEODATA", Subclass = "AcDbGeoData")]
 [CadBits(
-    "BL Version", "H HostBlockHandle", "BS CoordinateType", "2010+ 3BD DesignPoint", "2010+ 3BD ReferencePoint",
+    "ExchangeVersion()", "H HostBlockHandle", "BS CoordinateType", "2010+ 3BD DesignPoint", "2010+ 3BD ReferencePoint",
     "2010+ BD HorizontalUnitScale", "2010+ BL HorizontalUnits", "2010+ BD VerticalUnitScale",
     "2010+ BL VerticalUnits", "2010+ 3BD UpDirection", "2010+ 2RD NorthDirection", "2010+ BL ScaleEstimationMethod",
     "2010+ BD UserScaleFactor", "2010+ B DoSeaLevelCorrection", "2010+ BD SeaLevelElevation",
     "2010+ BD CoordinateProjectionRadius", "2010+ T CoordinateSystemDefinition", "2010+ T GeoRssTag",
     "-2007 ExchangeEarly()", "T ObservationFromTag", "T ObservationToTag", "T ObservationCoverageTag",
-    "ExchangeMesh()")]
+    "ExchangeMesh()", "-2007 ExchangeCivil()")]
 public partial class CadGeoData : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -138,6 +139,13 @@ public partial class CadGeoData : CadObjectBase
         }
     }
 
+    // Files before release 2010 have the first form, whatever the version of the object was.
+    private void ExchangeVersion(BitExchange fields)
+    {
+        int version = fields.BitLong(fields.Release < 2010 ? 1 : Version);
+        Version = fields.IsReading ? version : Version;
+    }
+
     // The form of the first release that had such data; its other fields are not kept.
     private void ExchangeEarly(BitExchange fields)
     {
@@ -153,6 +161,31 @@ public partial class CadGeoData : CadObjectBase
         HorizontalUnitScale = fields.BitDouble(HorizontalUnitScale);
         fields.Text("");
         fields.Text("");
+    }
+
+    private void ExchangeCivil(BitExchange fields)
+    {
+        fields.Bit(true);
+        fields.Bit(false);
+        for (int i = 0; i < 2; i++)
+        {
+            fields.RawDouble(ReferencePoint.Y);
+            fields.RawDouble(ReferencePoint.X);
+        }
+
+        fields.BitLong(0);
+        fields.BitLong(0);
+        fields.RawPoint2(new Cad2DPoint());
+        fields.RawPoint2(new Cad2DPoint());
+        fields.Bit(false);
+        double north = Math.Atan2(NorthDirection.X, NorthDirection.Y);
+        fields.BitDouble(north * 180 / Math.PI);
+        fields.BitDouble(north);
+        ScaleEstimationMethod = fields.BitLong(ScaleEstimationMethod);
+        UserScaleFactor = fields.BitDouble(UserScaleFactor);
+        DoSeaLevelCorrection = fields.Bit(DoSeaLevelCorrection);
+        SeaLevelElevation = fields.BitDouble(SeaLevelElevation);
+        CoordinateProjectionRadius = fields.BitDouble(CoordinateProjectionRadius);
     }
 
     private void ExchangeMesh(BitExchange fields)

@@ -1,3 +1,4 @@
+using System;
 using System.Collections.Generic;
 using Korvan.CAD.FileFormats.Cad.Acis;
 using Korvan.CAD.FileFormats.Cad.Exchange;
@@ -7,6 +8,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A solid whose geometry is a text of the solid modeler.</summary>
 public abstract partial class CadObjectWithAcisData : CadEntityBase
 {
+    private const int Since = 2013;
+
     internal CadObjectWithAcisData()
     {
     }
@@ -23,6 +26,10 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
 
     /// <summary>Gets or sets the binary data of a surface before it was trimmed; empty for none.</summary>
     internal byte[] UntrimmedData { get; set; } = [];
+
+    /// <summary>Gets or sets the identifier of the state of the data, from release 2013 on; null for none. Group codes
+    /// 290 and 2.</summary>
+    internal Guid? Revision { get; set; }
 
     /// <summary>Gets whether the object has data of the modeler in any form.</summary>
     internal bool HasModelerData => AcisData.Count > 0 || DataRecord is { Data.Length: > 0 };
@@ -48,6 +55,12 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
             case 70 when reader.Subclass is null or "AcDbModelerGeometry":
                 ModelerFormatVersion = reader.GetShort();
                 return true;
+            case 290 when reader.Subclass is "AcDbModelerGeometry":
+                Revision = reader.GetShort() != 0 ? Revision ?? Guid.Empty : null;
+                return true;
+            case 2 when reader.Subclass is "AcDbModelerGeometry":
+                Revision = RevisionFrom(reader.GetString());
+                return true;
             default:
                 return false;
         }
@@ -55,6 +68,7 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
 
     internal void ExchangeAcis(ObjectExchange fields)
     {
+        ExchangeRevision(fields);
         List<string> lines = fields.Modeler switch
         {
             ModelerForm.Text => GetTextData(),
@@ -70,6 +84,26 @@ public abstract partial class CadObjectWithAcisData : CadEntityBase
         }
 
         fields.Lines(lines);
+    }
+
+    private Guid? RevisionFrom(string text) =>
+        Revision is not null && Guid.TryParse(text, out Guid id) ? id : Revision;
+
+    private void ExchangeRevision(ObjectExchange fields)
+    {
+        const int flag = 290;
+        const int identifier = 2;
+        if (fields.Has(flag, Since, Revision is not null))
+        {
+            bool isStated = fields.Bool(flag, Revision is not null);
+            Revision = isStated ? Revision ?? Guid.Empty : null;
+        }
+
+        if (fields.Has(identifier, Since, Revision is not null))
+        {
+            string text = fields.Text(identifier, Revision?.ToString("B") ?? "");
+            Revision = fields.IsReading ? RevisionFrom(text) : Revision;
+        }
     }
 
     /// <summary>Carries the data of the modeler as drawing databases have it.</summary>

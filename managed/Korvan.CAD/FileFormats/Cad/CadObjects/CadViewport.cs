@@ -9,12 +9,14 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
     "3BD CenterPoint", "BD Width", "BD Height", "2000+ 3BD ViewTarget", "2000+ 3BD ViewDirection",
     "2000+ BD ViewTwistAngle", "2000+ BD ViewHeight", "2000+ BD LensLength", "2000+ BD FrontClipPlaneZ",
     "2000+ BD BackClipPlaneZ", "2000+ BD SnapAngle", "2000+ 2RD ViewCenter", "2000+ 2RD SnapBase",
-    "2000+ 2RD SnapSpacing", "2000+ 2RD GridSpacing", "2000+ BS CircleZoomPercent", "2007+ BS = 5",
+    "2000+ 2RD SnapSpacing", "2000+ 2RD GridSpacing", "2000+ BS CircleZoomPercent", "2007+ BS MajorGridLines",
     "2000+ H[BL] FrozenLayers", "2000+ BL StatusFlags", "2000+ T PlotStyleSheet", "2000+ RC RenderMode",
     "2000+ B UcsIconAtOrigin", "2000+ B UcsPerViewport", "2000+ 3BD UcsOrigin", "2000+ 3BD UcsXAxis",
-    "2000+ 3BD UcsYAxis", "2000+ BD", "2000+ BS", "2004+ BS", "2007+ B = true", "2007+ RC = 1", "2007+ BD",
-    "2007+ BD", "2007+ CMC = 250", "-1997 H", "2000+ H ClippingBoundaryHandle", "2000-2000 H", "2000+ H", "2000+ H",
-    "2007+ H", "2007+ H", "2007+ H", "2007+ H")]
+    "2000+ 3BD UcsYAxis", "2000+ BD UcsElevation", "2000+ BS UcsOrthographicType", "2004+ BS ShadePlotMode",
+    "2007+ B UsesDefaultLights", "2007+ RC DefaultLighting", "2007+ BD Brightness", "2007+ BD Contrast",
+    "2007+ CMC AmbientColorId AmbientColorValue AmbientColorName", "-1997 H", "2000+ H ClippingBoundaryHandle",
+    "2000-2000 H", "2000+ H NamedUcsHandle", "2000+ H BaseUcsHandle", "2007+ H BackgroundHandle",
+    "2007+ H VisualStyleHandle", "2007+ H ShadePlotHandle", "2007+ H SunHandle")]
 public partial class CadViewport : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -138,6 +140,75 @@ public partial class CadViewport : CadEntityBase
     /// <summary>Gets or sets the Y axis of the coordinate system. Group codes 112, 122, 132.</summary>
     [Cad3DPoint(112, Since = 2000)]
     public Cad3DPoint UcsYAxis { get; set; } = new(0, 1, 0);
+
+    /// <summary>Gets or sets the kind of an orthographic coordinate system. Group code 79.</summary>
+    [CadShort(79, Optional = true, Since = 2000)]
+    internal short UcsOrthographicType { get; set; }
+
+    /// <summary>Gets or sets the elevation of the coordinate system. Group code 146.</summary>
+    [CadDouble(146, Optional = true, Since = 2000)]
+    internal double UcsElevation { get; set; }
+
+    /// <summary>Gets or sets the handle of the named coordinate system. Group code 345.</summary>
+    [CadHandle(345, Optional = true, Since = 2000)]
+    internal string NamedUcsHandle { get; set; } = "";
+
+    /// <summary>Gets or sets the handle of the base of an orthographic coordinate system. Group code 346.</summary>
+    [CadHandle(346, Optional = true, Since = 2000)]
+    internal string BaseUcsHandle { get; set; } = "";
+
+    /// <summary>Gets or sets how many lines of the grid there are from one major line to the next. Group code
+    /// 61.</summary>
+    [CadShort(61, Optional = true, Since = 2007)]
+    internal short MajorGridLines { get; set; } = 5;
+
+    /// <summary>Gets or sets the handle of the background. Group code 332.</summary>
+    [CadHandle(332, Optional = true, Since = 2007)]
+    internal string BackgroundHandle { get; set; } = "";
+
+    /// <summary>Gets or sets how the view is plotted. Group code 170.</summary>
+    [CadShort(170, Optional = true, Since = 2004)]
+    internal short ShadePlotMode { get; set; }
+
+    /// <summary>Gets or sets the handle of what the view is plotted as. Group code 333.</summary>
+    [CadHandle(333, Optional = true, Since = 2007)]
+    internal string ShadePlotHandle { get; set; } = "";
+
+    /// <summary>Gets or sets the handle of the visual style. Group code 348.</summary>
+    [CadHandle(348, Optional = true, Since = 2007)]
+    internal string VisualStyleHandle { get; set; } = "";
+
+    /// <summary>Gets or sets whether the default lights are on. Group code 292.</summary>
+    [CadBool(292, Optional = true, Since = 2007)]
+    internal bool UsesDefaultLights { get; set; } = true;
+
+    /// <summary>Gets or sets the kind of the default lights. Group code 282.</summary>
+    [CadShort(282, Optional = true, Since = 2007)]
+    internal short DefaultLighting { get; set; } = 1;
+
+    /// <summary>Gets or sets the brightness. Group code 141.</summary>
+    [CadDouble(141, Optional = true, Since = 2007)]
+    internal double Brightness { get; set; }
+
+    /// <summary>Gets or sets the contrast. Group code 142.</summary>
+    [CadDouble(142, Optional = true, Since = 2007)]
+    internal double Contrast { get; set; }
+
+    /// <summary>Gets or sets the index of the ambient colour. Group code 63.</summary>
+    [CadColor(63, Optional = true, Since = 2007)]
+    internal short AmbientColorId { get; set; } = 250;
+
+    /// <summary>Gets or sets the RGB value of the ambient colour, -1 for none. Group code 421.</summary>
+    [CadInt(421, Optional = true, Since = 2007)]
+    internal int AmbientColorValue { get; set; } = -1;
+
+    /// <summary>Gets or sets the name of the ambient colour. Group code 431.</summary>
+    [CadString(431, Optional = true, Since = 2007)]
+    internal string AmbientColorName { get; set; } = "";
+
+    /// <summary>Gets or sets the handle of the sun. Group code 361.</summary>
+    [CadHandle(361, Optional = true, Since = 2007)]
+    internal string SunHandle { get; set; } = "";
 
     partial void OnReadField(int code, FieldReader reader, ref bool taken)
     {

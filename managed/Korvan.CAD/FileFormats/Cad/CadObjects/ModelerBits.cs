@@ -1,4 +1,5 @@
 using System;
+using System.Buffers.Binary;
 using System.Linq;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.Exchange;
@@ -96,13 +97,23 @@ internal static class ModelerBits
 
         if (fields.Release >= 2013)
         {
-            fields.Bit(false);
-            fields.BitLong(0);
-            fields.BitShort(0);
-            fields.BitShort(0);
-            fields.Bytes(new byte[sizeof(long)], sizeof(long));
-            fields.BitLong(0);
+            ExchangeRevision(solid, fields);
         }
+    }
+
+    private static void ExchangeRevision(CadObjectWithAcisData solid, BitExchange fields)
+    {
+        const int rest = 8;
+        Span<byte> parts = stackalloc byte[16];
+        (solid.Revision ?? Guid.Empty).TryWriteBytes(parts);
+        bool hasRevision = fields.Bit(solid.Revision is not null);
+        int major = fields.BitLong(BinaryPrimitives.ReadInt32LittleEndian(parts));
+        short middle = (short)fields.BitShort(BinaryPrimitives.ReadInt16LittleEndian(parts[4..]));
+        short minor = (short)fields.BitShort(BinaryPrimitives.ReadInt16LittleEndian(parts[6..]));
+        byte[] end = fields.Bytes(parts[rest..].ToArray(), rest);
+        fields.BitLong(0);
+        solid.Revision = !fields.IsReading ? solid.Revision
+            : hasRevision ? new Guid(major, middle, minor, end) : null;
     }
 
     private static void ReadText(CadObjectWithAcisData solid, BitExchange fields)
@@ -113,7 +124,8 @@ internal static class ModelerBits
             text.Append(Encoding.Latin1.GetString(fields.Bytes([], size)));
         }
 
-        string[] lines = text.ToString().Replace("\r", "").Split('\n');
+        // Text files have a blank after each caret, databases have none.
+        string[] lines = text.ToString().Replace("\r", "").Replace("^", "^ ").Split('\n');
         solid.AcisData.AddRange(lines[^1].Length == 0 ? lines[..^1] : lines);
     }
 

@@ -7,14 +7,15 @@ namespace Korvan.CAD.FileFormats.Cad.CadTables;
 [CadObject("VIEW", Subclass = "AcDbViewTableRecord")]
 [CadBits(
     "ExchangeRecord()", "BD ViewHeight", "BD ViewWidth", "2RD ViewCenter", "3BD TargetPoint", "3BD ViewDirection",
-    "BD TwistAngle", "BD LensLength", "BD FrontClippingPlane", "BD BackClippingPlane", "ExchangeMode()", "2000+ RC",
-    "2007+ B = true", "2007+ RC = 1", "2007+ BD", "2007+ BD", "2007+ CMC = 250", "ExchangeFlag()",
-    "2000+ ExchangeUcs()", "2007+ B", "2007+ H", "2007+ H", "2007+ H", "2000+ if _hasUcs: H", "2000+ if _hasUcs: H",
-    "2007+ H")]
+    "BD TwistAngle", "BD LensLength", "BD FrontClippingPlane", "BD BackClippingPlane", "ExchangeMode()",
+    "2000+ RC RenderMode", "2007+ B UsesDefaultLights", "2007+ RC DefaultLighting", "2007+ BD Brightness",
+    "2007+ BD Contrast", "2007+ CMC AmbientColorId AmbientColorValue AmbientColorName", "ExchangeFlag()",
+    "2000+ B HasUcs", "2000+ if HasUcs: 3BD UcsOrigin", "2000+ if HasUcs: 3BD UcsXAxis",
+    "2000+ if HasUcs: 3BD UcsYAxis", "2000+ if HasUcs: BD UcsElevation", "2000+ if HasUcs: BS UcsOrthographicType",
+    "2007+ B IsCameraPlotted", "2007+ H BackgroundHandle", "2007+ H VisualStyleHandle", "2007+ H SunHandle",
+    "2000+ if HasUcs: H BaseUcsHandle", "2000+ if HasUcs: H NamedUcsHandle", "2007+ H LiveSectionHandle")]
 public partial class CadViewTableObject : CadSymbolTableGroupCodes
 {
-    private bool _hasUcs;
-
     /// <summary>Creates the object with its defaults.</summary>
     public CadViewTableObject()
     {
@@ -61,6 +62,90 @@ public partial class CadViewTableObject : CadSymbolTableGroupCodes
     [CadShort(71)]
     public short ViewMode { get; set; }
 
+    /// <summary>Gets or sets how the view is rendered. Group code 281.</summary>
+    [CadShort(281, Optional = true, Since = 2000)]
+    internal short RenderMode { get; set; }
+
+    /// <summary>Gets or sets whether the view has a coordinate system. Group code 72.</summary>
+    [CadBool(72, Optional = true, Since = 2000)]
+    internal bool HasUcs { get; set; }
+
+    /// <summary>Gets or sets whether the camera is plotted. Group code 73.</summary>
+    [CadBool(73, Optional = true, Since = 2007)]
+    internal bool IsCameraPlotted { get; set; }
+
+    /// <summary>Gets or sets the origin of the coordinate system. Group codes 110, 120, 130.</summary>
+    [Cad3DPoint(110, Optional = true, Since = 2000)]
+    internal Cad3DPoint UcsOrigin { get; set; } = new();
+
+    /// <summary>Gets or sets the X axis of the coordinate system. Group codes 111, 121, 131.</summary>
+    [Cad3DPoint(111, Optional = true, Since = 2000)]
+    internal Cad3DPoint UcsXAxis { get; set; } = new(1, 0, 0);
+
+    /// <summary>Gets or sets the Y axis of the coordinate system. Group codes 112, 122, 132.</summary>
+    [Cad3DPoint(112, Optional = true, Since = 2000)]
+    internal Cad3DPoint UcsYAxis { get; set; } = new(0, 1, 0);
+
+    /// <summary>Gets or sets the kind of an orthographic coordinate system. Group code 79.</summary>
+    [CadShort(79, Optional = true, Since = 2000)]
+    internal short UcsOrthographicType { get; set; }
+
+    /// <summary>Gets or sets the elevation of the coordinate system. Group code 146.</summary>
+    [CadDouble(146, Optional = true, Since = 2000)]
+    internal double UcsElevation { get; set; }
+
+    /// <summary>Gets or sets the handle of the named coordinate system. Group code 345.</summary>
+    [CadHandle(345, Optional = true, Since = 2000)]
+    internal string NamedUcsHandle { get; set; } = "";
+
+    /// <summary>Gets or sets the handle of the base of an orthographic coordinate system. Group code 346.</summary>
+    [CadHandle(346, Optional = true, Since = 2000)]
+    internal string BaseUcsHandle { get; set; } = "";
+
+    /// <summary>Gets or sets the handle of the background. Group code 332.</summary>
+    [CadHandle(332, Optional = true, Since = 2007)]
+    internal string BackgroundHandle { get; set; } = "";
+
+    /// <summary>Gets or sets the handle of the visual style. Group code 348.</summary>
+    [CadHandle(348, Optional = true, Since = 2007)]
+    internal string VisualStyleHandle { get; set; } = "";
+
+    /// <summary>Gets or sets whether the default lights are on. Group code 292.</summary>
+    [CadBool(292, Optional = true, Since = 2007)]
+    internal bool UsesDefaultLights { get; set; } = true;
+
+    /// <summary>Gets or sets the kind of the default lights. Group code 282.</summary>
+    [CadShort(282, Optional = true, Since = 2007)]
+    internal short DefaultLighting { get; set; } = 1;
+
+    /// <summary>Gets or sets the brightness. Group code 141.</summary>
+    [CadDouble(141, Optional = true, Since = 2007)]
+    internal double Brightness { get; set; }
+
+    /// <summary>Gets or sets the contrast. Group code 142.</summary>
+    [CadDouble(142, Optional = true, Since = 2007)]
+    internal double Contrast { get; set; }
+
+    /// <summary>Gets or sets the index of the ambient colour. Group code 63.</summary>
+    [CadColor(63, Optional = true, Since = 2007)]
+    internal short AmbientColorId { get; set; } = 250;
+
+    /// <summary>Gets or sets the RGB value of the ambient colour, -1 for none. Group code 421.</summary>
+    [CadInt(421, Optional = true, Since = 2007)]
+    internal int AmbientColorValue { get; set; } = -1;
+
+    /// <summary>Gets or sets the name of the ambient colour. Group code 431.</summary>
+    [CadString(431, Optional = true, Since = 2007)]
+    internal string AmbientColorName { get; set; } = "";
+
+    /// <summary>Gets or sets the handle of the sun. Group code 361.</summary>
+    [CadHandle(361, Optional = true, Since = 2007)]
+    internal string SunHandle { get; set; } = "";
+
+    /// <summary>Gets or sets the handle of the live section. Group code 334.</summary>
+    [CadHandle(334, Optional = true, Since = 2007)]
+    internal string LiveSectionHandle { get; set; } = "";
+
     // The bit of perspective and so on; front clipping at the eye is stored as its opposite.
     private void ExchangeMode(BitExchange fields)
     {
@@ -74,18 +159,4 @@ public partial class CadViewTableObject : CadSymbolTableGroupCodes
 
     private void ExchangeFlag(BitExchange fields) =>
         Flags = (short)((Flags & ~1) | (fields.Bit((Flags & 1) != 0) ? 1 : 0));
-
-    // The coordinate system of the view is not kept.
-    private void ExchangeUcs(BitExchange fields)
-    {
-        _hasUcs = fields.Bit(false);
-        if (_hasUcs)
-        {
-            fields.Point3(new Cad3DPoint());
-            fields.Point3(new Cad3DPoint());
-            fields.Point3(new Cad3DPoint());
-            fields.BitDouble(0);
-            fields.BitShort(0);
-        }
-    }
 }

@@ -85,7 +85,8 @@ internal static class DwgContentBuilder
             Classes = default,
             Objects = objects,
             SecondHeaderHandles = HeaderReferences.ForSecondHeader(values),
-            PreviewImage = drawing.ThumbnailImage,
+            PreviewImage = release >= ModelerSection.Since
+                ? PreviewBitmap.ToPng(drawing.ThumbnailImage) : drawing.ThumbnailImage,
             SummaryInfo = hasProperties ? SummaryInfoSection.Write(summary, text) : [],
             AppInfo = hasProperties ? WriteProgram() : [],
             RevHistory = hasProperties ? MinorSections.WriteRevHistory(properties.RevHistory, release) : [],

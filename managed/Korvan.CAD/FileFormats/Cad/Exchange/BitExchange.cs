@@ -128,8 +128,8 @@ internal abstract partial class BitExchange
     /// <summary>Gets whether fields follow that some programs leave out at the end of an object.</summary>
     internal bool HasMore => !IsReading || DataRemaining > 0;
 
-    /// <summary>Carries all bits of the data stream that are left.</summary>
-    internal abstract byte[] Rest(byte[] value);
+    /// <summary>Carries all bits of the data stream that are left, and how many they are.</summary>
+    internal abstract byte[] Rest(byte[] value, ref int bits);
 
     /// <summary>Carries bytes up to the end of one of several strings.</summary>
     internal abstract byte[] BytesUpTo(byte[] value, params byte[][] ends);

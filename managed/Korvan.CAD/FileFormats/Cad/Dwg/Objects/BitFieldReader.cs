@@ -204,11 +204,11 @@ internal sealed class BitFieldReader(int release, Encoding encoding, RecordNames
 
     internal override Exception Fault(string cause) => new DwgFault(_data.Position, cause);
 
-    internal override byte[] Rest(byte[] value)
+    internal override byte[] Rest(byte[] value, ref int bits)
     {
-        long bits = _data.Remaining;
+        bits = (int)_data.Remaining;
         byte[] bytes = new byte[(bits + 7) >> 3];
-        _data.Bytes(bytes.AsSpan(0, (int)(bits >> 3)));
+        _data.Bytes(bytes.AsSpan(0, bits >> 3));
         for (int i = 0; i < (bits & 7); i++)
         {
             bytes[^1] |= (byte)(_data.Bit() ? 0x80 >> i : 0);

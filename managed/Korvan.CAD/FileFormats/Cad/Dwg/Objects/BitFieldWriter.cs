@@ -280,9 +280,10 @@ internal sealed class BitFieldWriter(int release, Encoding encoding, WrittenHand
 
     internal override Exception Fault(string cause) => new ImageSaveException($"{Subject}: {cause}.");
 
-    internal override byte[] Rest(byte[] value)
+    internal override byte[] Rest(byte[] value, ref int bits)
     {
-        Data.Raw(value);
+        // Text files may state another number of bits than they have.
+        Data.Bits(value, (bits + 7L) >> 3 == value.Length ? bits : value.Length * 8L);
         return value;
     }
 

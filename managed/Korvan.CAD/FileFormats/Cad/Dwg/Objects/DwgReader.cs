@@ -68,6 +68,7 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
     {
         // How many bits records may have together: a damaged map may have each overlap many others.
         long budget = (long)MaxOverlap * file.Objects.Length * 8;
+        long[]? starts = null;
         List<int> records = [];
         List<int> controls = [];
         for (int i = 0; i < states.Length; i++)
@@ -76,7 +77,8 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
             {
                 RecordHeader header = reader.ReadHeader(file.Map.Offsets[i]);
                 budget -= header.End - header.Start;
-                if (budget < 0)
+                if (budget < 0
+                    && IsOverlapping(starts ??= SortedOffsets(), file.Map.Offsets[i], header.End >> 3))
                 {
                     throw new DwgFault(header.Start, "it overlaps other objects, which have all bytes of the file");
                 }
@@ -101,6 +103,22 @@ internal sealed class DwgReader(DwgFile file, CadDrawing drawing)
 
         _pieces.End();
         return (records, controls);
+    }
+
+    private long[] SortedOffsets()
+    {
+        long[] offsets = [.. file.Map.Offsets];
+        Array.Sort(offsets);
+        return offsets;
+    }
+
+    // A record that is alone up to where the next one starts has its own bytes, whatever damaged ones state.
+    private static bool IsOverlapping(long[] starts, long offset, long end)
+    {
+        int index = Array.BinarySearch(starts, offset);
+        bool isShared = (index > 0 && starts[index - 1] == offset)
+            || (index + 1 < starts.Length && starts[index + 1] == offset);
+        return isShared || (index + 1 < starts.Length && starts[index + 1] < end);
     }
 
     private RecordState ReadName(RecordReader reader, int index)

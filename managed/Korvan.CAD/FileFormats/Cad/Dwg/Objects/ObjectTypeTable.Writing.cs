@@ -93,6 +93,7 @@ internal static partial class ObjectTypeTable
         CadVbaProject => 81,
         CadLayout => 82,
         CadAcadProxyEntity => 0x1F2,
+        CadAcadProxyObject => 0x1F3,
         _ => item.DxfName == "ACDBPLACEHOLDER" ? 80 : 0,
     };
 }

@@ -65,7 +65,6 @@ internal static partial class ObjectTypeTable
         71 => "VX_TABLE_RECORD",
         75 => "DUMMY",
         76 => "LONG_TRANSACTION",
-        0x1F3 => "ACAD_PROXY_OBJECT",
         _ => $"DWG_TYPE_{type}",
     };
 
@@ -140,6 +139,7 @@ internal static partial class ObjectTypeTable
         81 => new CadVbaProject(),
         82 => new CadLayout(),
         0x1F2 => new CadAcadProxyEntity(),
+        0x1F3 => new CadAcadProxyObject(),
         _ => null,
     };
 }

@@ -127,6 +127,32 @@ public class DrawingDamageTests
         }
     }
 
+    // What damaged sizes add up to is not taken from the objects after them.
+    [Theory]
+    [MemberData(nameof(Versions))]
+    public void Damaged_sizes_cost_no_objects_but_their_own(CadAcadVersion version)
+    {
+        const int damaged = 8;
+        const int length = 8;
+        LoadOptions options = new() { IgnoreErrors = true };
+        DwgFile file = MadeFiles.Open(new Content(version).Build(), options);
+        byte[] objects = [.. new byte[damaged * length], .. file.Objects];
+        for (int at = 0; at < damaged * length; at += length)
+        {
+            // The size of all that follows, fifteen bits every two bytes.
+            int size = objects.Length - at - length;
+            BitConverter.TryWriteBytes(objects.AsSpan(at), (ushort)(0x8000 | (size & 0x7FFF)));
+            BitConverter.TryWriteBytes(objects.AsSpan(at + 2), (ushort)(size >> 15));
+        }
+
+        file.Objects = objects;
+        file.Map = new ObjectMap(file.Map.Handles, [.. file.Map.Offsets.Select(
+            static (offset, index) => index < damaged ? index * length : offset + (damaged * length))]);
+        CadDrawing drawing = new(DrawingSeed.Blank);
+        new DwgReader(file, drawing).Read();
+        Assert.Equal(20, Points(drawing).Count());
+    }
+
     // Both maps are right for a reader that asks for one object at a time.
     [Theory]
     [MemberData(nameof(Versions))]

@@ -95,9 +95,12 @@ internal sealed class PagedWriter
         _sections.Add(new SectionInfo(id, section.Name, data.Length, pageSize, section.IsCompressed, false, pages));
     }
 
-    // Programs read the preview by its address, so that it is in one page, whatever its size.
-    private static int PageSizeOf(string section, int length) =>
-        section == SummaryName ? SummaryPage : (length + SmallPage - 1) & -SmallPage;
+    // Programs read the preview and the summary by their addresses, so that they are in one page, whatever their size.
+    private static int PageSizeOf(string section, int length)
+    {
+        int size = (length + SmallPage - 1) & -SmallPage;
+        return section == SummaryName ? Math.Max(SummaryPage, size) : size;
+    }
 
     private void WritePage(int id, ReadOnlySpan<byte> stored, int start)
     {

@@ -31,8 +31,8 @@ public partial class LossTests(ITestOutputHelper output)
     private static readonly (string Format, string What, string Reason)[] Exceptions =
     [
         (".*", "^(ACAM|ACG|ACI|ACM|AM_?|AMD|AMG|AMI|CAMS|CSAC|DM|MAPI|TCH_)\\w* \\w+ is missing", NoFields),
-        ("DXF", "^\\w+ \\w+ is a CadAcadProxyEntity, not a RawEntity", "text files have its bits as a proxy"),
-        (".*", "^ACAD_PROXY_OBJECT \\w+ is missing", NoFields),
+        ("DXF", "^\\w+ \\w+ is a CadAcadProxy(Entity|Object), not a Raw(Entity|Object)",
+            "text files have its bits as a proxy"),
         (".*", "^BLOCK \\w+: other entities", NoTarget),
         (AnyDwg, "^(DICTIONARY|XRECORD|ACDBASSOC\\w+) \\w+(: another owner| is missing)", NoTarget),
         (AnyDwg, "^DICTIONARY \\w+: AcDbDictionary (3|350|360) ", NoTarget),
@@ -51,6 +51,9 @@ public partial class LossTests(ITestOutputHelper output)
         (Before2007, "^(DIMSTYLE|BLOCK_RECORD|MATERIAL|GEODATA|TABLECONTENT|FIELD|MTEXT) \\w+: ", Newer),
         (Before2007, "^ATT(DEF|RIB) \\w+: AcDbAttribute(Definition)? 280 ", Newer),
         (Before2007, "^(ACAD_TABLE|ARC_DIMENSION|HELIX|MESH|MULTILEADER|\\w+SURFACE) \\w+ is (a |missing)", Newer),
+        (Before2007, "^(VPORT|VIEW|VIEWPORT) \\w+: \\w+ (292|348|361|421) ", Newer),
+        (Before2007, "^3DSOLID \\w+: AcDb3dSolid 350 ", Newer),
+        (Before2013, "^(3DSOLID|REGION|BODY) \\w+: AcDbModelerGeometry (2|290) ", Newer),
         (Before2007, "^(LIGHT|PDFUNDERLAY) \\w+ is missing", Newer),
         (Before2013, "^(MULTILEADER|MLEADERSTYLE) \\w+: \\w+ (295|298) ", Newer),
         (".*", "^(3DSOLID|REGION|BODY|\\w+SURFACE) \\w+: AcDbModelerGeometry (1|70) ", "text or binary data"),
