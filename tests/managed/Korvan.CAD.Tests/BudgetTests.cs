@@ -16,7 +16,9 @@ using Xunit;
 
 namespace Korvan.CAD.Tests;
 
-/// <summary>What one file may take, and that all who work for a call end with it.</summary>
+/// <summary>What one file may take, and that all who work for a call end with it. The heap is that of the process, so
+/// these tests run alone: a drawing that another test loads meanwhile would be refused for what they hold.</summary>
+[Collection("whole process")]
 public sealed class BudgetTests
 {
     private const int Small = 1000;

@@ -9,7 +9,7 @@ using Xunit;
 
 namespace Korvan.CAD.Tests.Raster;
 
-/// <summary>The settings are global to the process, so these tests run alone.</summary>
+/// <summary>Tests of what is global to the process: settings and memory. They run alone.</summary>
 [CollectionDefinition("whole process", DisableParallelization = true)]
 public class WholeProcess;
 
