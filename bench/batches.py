@@ -53,42 +53,44 @@ def make_folder(folder: Path, count: int) -> None:
         target.write_bytes(mark + source.read_bytes())
 
 
-def convert(source: Path, cores: list[int], *options: str) -> Run:
+def convert(source: Path, out: Path, cores: list[int], *options: str) -> Run:
     """Converts the drawings of a folder by the processors that are named."""
-    with tempfile.TemporaryDirectory() as out:
-        command = [sys.executable, "-c", PROGRAM, json.dumps(cores), str(source), "-o", out, "--to", "pdf", *options]
-        lines = subprocess.run(command, check=True, capture_output=True, text=True).stdout.splitlines()
-        summary, used = map(json.loads, lines[-2:])
-        if not summary["success"]:
-            raise RuntimeError(f"the batch failed: {summary}")
-        return Run(summary["seconds"], used["own"], used["workers"], used["peak"], used["worker_peak"])
+    command = [sys.executable, "-c", PROGRAM, json.dumps(cores), str(source), "-o", str(out), "--to", "pdf", *options]
+    lines = subprocess.run(command, check=True, capture_output=True, text=True).stdout.splitlines()
+    summary, used = map(json.loads, lines[-2:])
+    if not summary["success"]:
+        raise RuntimeError(f"the batch failed: {summary}")
+    return Run(summary["seconds"], used["own"], used["workers"], used["peak"], used["worker_peak"])
 
 
 def run(_modules: Path) -> None:
     """Prints the tables."""
-    for files, rounds in SIZES.items():
-        _measure(files, rounds)
+    # All results stay to the end: ext4 looks for inodes that were not freed in the last minutes, so that files are
+    # made several times slower after many were deleted.
+    with tempfile.TemporaryDirectory() as folder:
+        for files, rounds in SIZES.items():
+            (Path(folder) / str(files)).mkdir()
+            _measure(Path(folder) / str(files), files, rounds)
 
 
-def _measure(files: int, rounds: int) -> None:
+def _measure(folder: Path, files: int, rounds: int) -> None:
     cores = sorted(os.sched_getaffinity(0))
     table = Table(f"{files} drawings to PDF by korvan batch",
                   ("by", "time", "files/s", "processor a file", "of it the main process", "main process", "a worker"))
-    with tempfile.TemporaryDirectory() as folder:
-        source = Path(folder)
-        make_folder(source, files)
-        for name, options in (("with thumbnails", ()), ("without", ("--no-thumbnails",))):
-            best: dict[int, Run] = {}
-            for _ in range(rounds):
-                for count in (1, 2):
-                    found = convert(source, cores[:count], *options)
-                    best[count] = min(found, best.get(count, found), key=lambda run: run.seconds)
-            for count, one in best.items():
-                table.add(f"{count} of {len(cores)} cores, {name}", duration(one.seconds),
-                          f"{files / one.seconds:.0f}", duration((one.own + one.workers) / files),
-                          duration(one.own / files), f"{one.peak / MEBIBYTE:.0f} MiB",
-                          f"{one.worker_peak / MEBIBYTE:.0f} MiB")
-            gain = best[1].seconds / best[2].seconds
-            table.add(f"two cores for one, {name}", f"{gain:.2f} x", f"aim {AIM:g} x: "
-                      + ("held" if gain >= AIM else "MISSED"), "", "", "", "")
+    source = folder / "source"
+    make_folder(source, files)
+    for name, options in (("with thumbnails", ()), ("without", ("--no-thumbnails",))):
+        best: dict[int, Run] = {}
+        for number in range(rounds):
+            for count in (1, 2):
+                found = convert(source, folder / f"{name} {count} {number}", cores[:count], *options)
+                best[count] = min(found, best.get(count, found), key=lambda run: run.seconds)
+        for count, one in best.items():
+            table.add(f"{count} of {len(cores)} cores, {name}", duration(one.seconds),
+                      f"{files / one.seconds:.0f}", duration((one.own + one.workers) / files),
+                      duration(one.own / files), f"{one.peak / MEBIBYTE:.0f} MiB",
+                      f"{one.worker_peak / MEBIBYTE:.0f} MiB")
+        gain = best[1].seconds / best[2].seconds
+        table.add(f"two cores for one, {name}", f"{gain:.2f} x", f"aim {AIM:g} x: "
+                  + ("held" if gain >= AIM else "MISSED"), "", "", "", "")
     table.print()

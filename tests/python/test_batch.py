@@ -198,7 +198,7 @@ class Trouble(unittest.TestCase):
     def test_an_interrupted_batch_stops_at_once_and_leaves_no_half_file(self) -> None:
         with Batch() as batch:
             batch.script()
-            batch.add("slow.dxf", "slower.dxf")
+            batch.add("slow.dxf", "slower.dxf", "third.dxf")
             process = batch.start("--jobs", "2")
             while not (batch.runs_of("slow.dxf") and batch.runs_of("slower.dxf")):
                 time.sleep(0.02)
@@ -212,6 +212,8 @@ class Trouble(unittest.TestCase):
             self.assertEqual(set(batch.states().values()), {"pending"})
             self.assertEqual({row["interruptions"] for row in batch.rows().values()}, {0})
             self.assertFalse(BatchFolder(batch.out).scratch(0).exists())
+            # No worker was given the third, so what comes into its place meanwhile is not of this batch.
+            self.assertEqual((batch.rows()[b"third.dxf"]["ours"], batch.runs_of("third.dxf")), (0, 0))
 
 
 class Engines(unittest.TestCase):

@@ -197,11 +197,14 @@ class Journal:
             change.execute("UPDATE files SET state = 'pending', crashes = crashes + 1, alone = 1, error = ? "
                            "WHERE path = ?", (error, work.path))
 
-    def give_back(self, works: Iterable[Work]) -> None:
-        """Makes pending what was begun and is not finished, by no fault of the files."""
+    def give_back(self, works: Iterable[Work], unsent: Iterable[Work] = ()) -> None:
+        """Makes pending what was begun and is not finished, by no fault of the files; no worker was given the
+        unsent."""
         with Transaction(self._connection) as change:
             change.executemany("UPDATE files SET state = 'pending' WHERE path = ?",
                                [(work.path,) for work in works])
+            change.executemany("UPDATE files SET state = 'pending', ours = ? WHERE path = ?",
+                               [(work.ours, work.path) for work in unsent])
 
     def summary(self) -> Summary:
         return _summary(self._connection)

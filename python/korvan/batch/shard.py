@@ -53,6 +53,7 @@ class ShardRun:
         self._source = os.fsencode(settings.source)
         self._waiting: deque[Work] = deque()
         self._alone: deque[Work] = deque()
+        self._noted: deque[Work] = deque()
         self._given_back: list[Work] = []
         self._finished: list[tuple[Work, Outcome]] = []
         self._converted = 0
@@ -86,15 +87,16 @@ class ShardRun:
 
     def _work_off(self, journal: Journal) -> None:
         try:
-            while self._waiting or self._alone or self._finished or self._pool.busy():
+            while self._waiting or self._alone or self._noted or self._finished or self._pool.busy():
+                self._send_noted()
                 begun = self._assign()
                 if self._finished or begun:
-                    journal.step(self._finished, [work for _, work in begun])
+                    journal.step(self._finished, begun)
+                self._noted.extend(begun)
                 for work, outcome in self._finished:
                     self._on_outcome(work, outcome)
                 self._finished = []
-                for worker, work in begun:
-                    self._send(worker, work)
+                self._send_noted()
                 if self._pool.busy() or self._waiting or self._alone:
                     for event in self._pool.events():
                         self._handle(event, journal)
@@ -105,24 +107,30 @@ class ShardRun:
             self._folder.clear_scratch(self._shard)
             try:
                 journal.step(self._finished, [])
-                journal.give_back(self._given_back)
+                journal.give_back(self._given_back, self._noted)
             except BatchError:
                 pass  # a full disk: the next run finds them as interrupted
 
-    def _assign(self) -> list[tuple[Worker, Work]]:
-        """Files for the workers that are ready. When none is left, those that wait to be alone."""
-        begun: list[tuple[Worker, Work]] = []
+    def _assign(self) -> list[Work]:
+        """Files for the workers that are ready, and one for each of the others, which is not to wait for the journal
+        when it is ready. When none is left, one of those that wait to be alone."""
+        begun: list[Work] = []
         if self._waiting:
-            self._pool.fill(len(self._waiting) + len(self._pool.busy()))
-            for worker in self._pool.ready():
-                if work := self._next(self._waiting):
-                    begun.append((worker, work))
-        elif self._alone and not self._pool.busy():
+            self._pool.fill(len(self._waiting) + len(self._noted) + len(self._pool.busy()))
+            count = len(self._pool.ready()) + self._pool.jobs - len(self._noted)
+            while len(begun) < count and (work := self._next(self._waiting)):
+                begun.append(work)
+        elif self._alone and not self._noted and not self._pool.busy():
             self._pool.renew()
-            ready = self._pool.ready()
-            if ready and (work := self._next(self._alone)):
-                begun.append((ready[0], work))
+            if self._pool.ready() and (work := self._next(self._alone)):
+                begun.append(work)
         return begun
+
+    def _send_noted(self) -> None:
+        """Gives files to the workers that are ready. The journal has them, so that a result is known to be ours."""
+        if self._noted:
+            for worker in self._pool.ready()[:len(self._noted)]:
+                self._send(worker, self._noted.popleft())
 
     def _next(self, works: deque[Work]) -> Work | None:
         """The next file whose place of the result is free, or ours."""
