@@ -26,7 +26,7 @@ internal sealed class CgmDocument : MetafilePlayer
     private const int MaxPoints = 16_000;
 
     private readonly CgmOptions _options;
-    private readonly MemoryStream _content = new();
+    private readonly ContentBlocks _content = new();
     private readonly Action<Command> _put;
     private readonly long _bodyStart;
     private readonly List<string> _fonts = [];
@@ -58,8 +58,7 @@ internal sealed class CgmDocument : MetafilePlayer
         document._put(new EndPicture());
         document._put(new EndMetafile());
         document.WriteHead(document.NewWriter(output));
-        document._content.Position = document._bodyStart;
-        document._content.CopyTo(output);
+        document._content.WriteTo(output, document._bodyStart);
     }
 
     protected override void Line(PathBuffer path, Rgba color, double width, StrokeStyle style)

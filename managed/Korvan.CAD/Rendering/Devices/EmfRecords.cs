@@ -49,7 +49,7 @@ internal sealed class EmfRecords
     private const int FontRecordLength = 332;
     private const int FaceLength = 32;
 
-    private readonly MemoryStream _content = new();
+    private readonly ContentBlocks _content = new();
     private readonly byte[] _word = new byte[4];
     private int _count = 1;
 
@@ -170,7 +170,7 @@ internal sealed class EmfRecords
             title.Length / 2, HeaderLength, 0, width, height, Math.Max(1, width / 100), Math.Max(1, height / 100), 0, 0,
                 0, width * 10, height * 10]);
         output.Write(header);
-        output.Write(_content.GetBuffer(), HeaderLength, (int)_content.Length - HeaderLength);
+        _content.WriteTo(output, HeaderLength);
     }
 
     private static void WriteHeader(byte[] header, ReadOnlySpan<int> values)

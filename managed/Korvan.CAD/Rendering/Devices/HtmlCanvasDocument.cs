@@ -53,9 +53,9 @@ internal sealed class HtmlCanvasDocument : PagePlayer
     private static readonly StrokeStyle NoStyle = new((LineCaps)(-1), default);
 
     private readonly Html5Options _options;
-    private readonly StringBuilder _calls = new();
+    private readonly ContentBlocks _content = new();
+    private readonly MarkupWriter _calls;
     private readonly StringBuilder _pictures = new();
-    private readonly StringBuilder _data = new();
     private readonly Stack<StrokeStyle> _saved = new();
     private int _pictureCount;
     private StrokeStyle _style = NoStyle;
@@ -64,6 +64,7 @@ internal sealed class HtmlCanvasDocument : PagePlayer
         : base(engine, page, page.Notes)
     {
         _options = options;
+        _calls = new MarkupWriter(_content);
     }
 
     internal static void Write(Stream output, TextEngine engine, Page page, Html5Options options)
@@ -77,8 +78,8 @@ internal sealed class HtmlCanvasDocument : PagePlayer
 
         var document = new HtmlCanvasDocument(engine, page, options);
         document.Play();
-        using var writer = new StreamWriter(output, new UTF8Encoding(false), 64 * 1024, leaveOpen: true);
-        document.Write(writer);
+        document._calls.Flush();
+        document.Write(output);
     }
 
     protected override void Stroke(PathBuffer path, in DeviceStroke stroke)
@@ -86,24 +87,39 @@ internal sealed class HtmlCanvasDocument : PagePlayer
         if (_style != stroke.Style)
         {
             _style = stroke.Style;
-            _calls.Append($"l(\"{_style.CapKeyword}\",\"{_style.JoinKeyword}\",{N(_style.MiterLimit)});\n");
+            Call($"l(\"{_style.CapKeyword}\",\"{_style.JoinKeyword}\",{N(_style.MiterLimit)});\n");
         }
 
-        string dash = stroke.Dash is null ? "[]" : $"[{string.Join(',', Array.ConvertAll(stroke.Dash, N))}]";
-        _calls.Append(
-            $"s(\"{Data(path)}\",\"{Css(stroke.Color)}\",{N(stroke.Width)},{dash},{N(stroke.DashOffset)});\n");
+        BeginCall("s("u8, path);
+        WriteColor(stroke.Color);
+        _calls.Raw((byte)',');
+        _calls.Number(stroke.Width);
+        _calls.Raw(",["u8);
+        for (int i = 0; i < stroke.Dash?.Length; i++)
+        {
+            _calls.Raw(i == 0 ? default : ","u8);
+            _calls.Number(stroke.Dash[i]);
+        }
+
+        _calls.Raw("],"u8);
+        _calls.Number(stroke.DashOffset);
+        _calls.Raw(");\n"u8);
     }
 
-    protected override void Fill(PathBuffer path, Rgba color, bool evenOdd) =>
-        _calls.Append($"f(\"{Data(path)}\",\"{Css(color)}\",\"{Rule(evenOdd)}\");\n");
+    protected override void Fill(PathBuffer path, Rgba color, bool evenOdd)
+    {
+        BeginCall("f("u8, path);
+        WriteColor(color);
+        Call($",\"{Rule(evenOdd)}\");\n");
+    }
 
     protected override void FillGradient(PathBuffer path, Gradient gradient, in Affine2 matrix, bool evenOdd)
     {
         string stops = string.Join(',',
             Array.ConvertAll(gradient.Stops, stop => $"[{N(stop.Offset)},\"{Css(stop.Color)}\"]"));
-        _calls.Append(
-            $"q(\"{Data(path)}\",{Matrix(matrix)},\"{Rule(evenOdd)}\",{(gradient.Radial ? "true" : "false")},");
-        _calls.Append($"{N(gradient.FocusX)},{N(gradient.FocusY)},[{stops}]);\n");
+        BeginCall("q("u8, path);
+        Call($"{Matrix(matrix)},\"{Rule(evenOdd)}\",{(gradient.Radial ? "true" : "false")},");
+        Call($"{N(gradient.FocusX)},{N(gradient.FocusY)},[{stops}]);\n");
     }
 
     protected override void Text(in TextRun run, in Affine2 matrix, Rgba color)
@@ -121,7 +137,7 @@ internal sealed class HtmlCanvasDocument : PagePlayer
             Array.ConvertAll(font.Family.Split(','), name => $"'{name.Trim().Replace("'", string.Empty)}'"));
         string traits = (font.Italic ? "italic " : "") + (font.Bold ? "bold " : "");
         double width = Engine.Advance(run.Font, run.Text, run.LetterSpacing) * FontSize;
-        _calls.Append(
+        Call(
             $"t({Quoted(run.Text)},{Matrix(letters)},{Quoted($"{traits}{FontSize}px {family}")},"
             + $"{N(width)},\"{Css(color)}\");\n");
     }
@@ -132,7 +148,7 @@ internal sealed class HtmlCanvasDocument : PagePlayer
         PngEncoder.Write(image.Width, image.Height, y =>
             image.Pixels.AsSpan(y * image.Width * 4, image.Width * 4), png, 6, 96);
         _pictures.Append($"\"data:image/png;base64,{Convert.ToBase64String(png.GetBuffer(), 0, (int)png.Length)}\",\n");
-        _calls.Append(
+        Call(
             $"i({_pictureCount++},{Matrix(matrix * new Affine2(1, 0, 0, -1, 0, 1))},{N(image.Opacity)},"
             + $"{(image.Sharp ? "false" : "true")});\n");
     }
@@ -140,13 +156,14 @@ internal sealed class HtmlCanvasDocument : PagePlayer
     protected override void PushClip(PathBuffer path, bool evenOdd)
     {
         _saved.Push(_style);
-        _calls.Append($"c(\"{Data(path)}\",\"{Rule(evenOdd)}\");\n");
+        BeginCall("c("u8, path);
+        Call($"\"{Rule(evenOdd)}\");\n");
     }
 
     protected override void PopClip()
     {
         _style = _saved.Pop();
-        _calls.Append("r();\n");
+        _calls.Raw("r();\n"u8);
     }
 
     private static string N(double value) => Math.Round(value, 3).ToString("0.###", CultureInfo.InvariantCulture);
@@ -166,9 +183,12 @@ internal sealed class HtmlCanvasDocument : PagePlayer
     /// <summary>The default encoder escapes markup, so that no text ends the script.</summary>
     private static string Quoted(string text) => $"\"{JavaScriptEncoder.Default.Encode(text)}\"";
 
-    private void Write(StreamWriter writer)
+    private void Call(string text) => _calls.Text(text);
+
+    private void Write(Stream output)
     {
         string title = HtmlEncoder.Default.Encode(Name);
+        using var writer = new StreamWriter(output, new UTF8Encoding(false), 64 * 1024, leaveOpen: true);
         writer.Write(_options.FullHtmlPage
             ? $"<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\"/>\n<title>{title}</title>\n</head>\n<body>\n"
             : "");
@@ -183,26 +203,51 @@ internal sealed class HtmlCanvasDocument : PagePlayer
             "].map(async source => { const picture = new Image(); picture.src = source; await picture.decode(); "
                 + "return picture; }));\n");
         writer.Write(Functions);
-        writer.Write(_calls);
+        writer.Flush();
+        _content.WriteTo(output);
         writer.Write("})();\n</script>\n");
         writer.Write(_options.FullHtmlPage ? "</body>\n</html>\n" : "");
     }
 
-    private StringBuilder Data(PathBuffer path)
+    /// <summary>Writes the begin of a call whose first argument is a path, up to the next one.</summary>
+    private void BeginCall(ReadOnlySpan<byte> begin, PathBuffer path)
     {
-        _data.Clear();
+        _calls.Raw(begin);
+        _calls.Raw((byte)'"');
         ReadOnlySpan<double> c = path.Coords;
         int at = 0;
         foreach (PathVerb verb in path.Verbs)
         {
             int numbers = verb switch { PathVerb.Curve => 6, PathVerb.Close => 0, _ => 2 };
-            _data.Append(verb switch { PathVerb.Move => 'M', PathVerb.Line => 'L', PathVerb.Curve => 'C', _ => 'Z' });
+            _calls.Raw((byte)(verb switch
+            {
+                PathVerb.Move => 'M',
+                PathVerb.Line => 'L',
+                PathVerb.Curve => 'C',
+                _ => 'Z',
+            }));
             for (int i = 0; i < numbers; i++, at++)
             {
-                _data.Append(i == 0 ? "" : " ").Append(N(c[at]));
+                _calls.Raw(i == 0 ? default : " "u8);
+                _calls.Number(c[at]);
             }
         }
 
-        return _data;
+        _calls.Raw("\","u8);
+    }
+
+    private void WriteColor(Rgba color)
+    {
+        _calls.Raw((byte)'"');
+        if (color.A == byte.MaxValue)
+        {
+            _calls.Color(color);
+        }
+        else
+        {
+            _calls.Text(Css(color));
+        }
+
+        _calls.Raw((byte)'"');
     }
 }

@@ -67,7 +67,15 @@ internal abstract class PagePlayer : ItemPlayer
             PushClip(_path, evenOdd: false);
         }
 
-        PlayItems(_page.List);
+        if (_page.Replay is null)
+        {
+            PlayItems(_page.List);
+        }
+        else
+        {
+            _page.Replay(PlayItems);
+        }
+
         if (Settings.Clip is not null)
         {
             PopClip();

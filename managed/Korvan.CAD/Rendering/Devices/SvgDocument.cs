@@ -75,17 +75,18 @@ internal sealed partial class SvgDocument
             _writer.Raw("/>\n"u8);
         }
 
-        WriteContent();
+        WriteContent(page);
         if (page.Overlay is not null)
         {
-            (_list, _map) = (page.Overlay, Affine2.Identity);
-            WriteItems();
+            _map = Affine2.Identity;
+            WriteItems(page.Overlay);
+            EnterLayer(-1);
         }
 
         _writer.Raw("</svg>\n"u8);
     }
 
-    private void WriteContent()
+    private void WriteContent(Page page)
     {
         if (_settings.Clip is Bounds2 clip)
         {
@@ -105,14 +106,23 @@ internal sealed partial class SvgDocument
         _writer.Raw(_settings.Sharp ? " shape-rendering=\"crispEdges\""u8 : default);
         _writer.Raw(_settings.Clip is null ? ">\n"u8 : " clip-path=\"url(#page)\">\n"u8);
         WriteSymbols();
-        WriteItems();
+        if (page.Replay is null)
+        {
+            WriteItems(page.List);
+        }
+        else
+        {
+            page.Replay(WriteItems);
+        }
+
+        EnterLayer(-1);
         _writer.Raw("</g>\n"u8);
     }
 
-    private void WriteItems()
+    private void WriteItems(DrawingList list)
     {
-        WriteRuns(_list.Items);
-        EnterLayer(-1);
+        _list = list;
+        WriteRuns(list.Items);
     }
 
     private void WriteRuns(ReadOnlySpan<DisplayItem> rest)

@@ -41,7 +41,7 @@ internal sealed class WmfRecords
 
     private static readonly Encoding Letters = DwgCodePage.Get(1252);
 
-    private readonly MemoryStream _content = new Content();
+    private readonly ContentBlocks _content = new();
     private readonly byte[] _word = new byte[2];
     private long _longest;
 
@@ -123,8 +123,7 @@ internal sealed class WmfRecords
         BinaryPrimitives.WriteInt16LittleEndian(meta[10..], (short)handles);
         BinaryPrimitives.WriteInt32LittleEndian(meta[12..], (int)_longest);
         output.Write(head);
-        _content.Position = 0;
-        _content.CopyTo(output);
+        _content.WriteTo(output);
     }
 
     private static void Place(byte[] head, short width, short height, short unitsPerInch)
@@ -162,20 +161,6 @@ internal sealed class WmfRecords
         foreach (short value in values)
         {
             Put(value);
-        }
-    }
-
-    /// <summary>Asks for room before it grows, as it doubles.</summary>
-    private sealed class Content : MemoryStream
-    {
-        public override int Capacity
-        {
-            get => base.Capacity;
-            set
-            {
-                Workload.Reserve(value);
-                base.Capacity = value;
-            }
         }
     }
 }

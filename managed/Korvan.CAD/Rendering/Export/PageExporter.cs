@@ -1,6 +1,7 @@
 using System;
 using System.IO;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.ImageOptions.SvgOptionsParameters;
 using Korvan.CAD.Rendering.Devices;
 using Korvan.CAD.Rendering.Pdf;
 using Korvan.CAD.Rendering.Scene;
@@ -37,6 +38,7 @@ internal static class PageExporter
         using TextEngine engine = context.NewEngine();
         var pages = new PageSource(scene, context, engine, DeviceKind.UserUnits, UserUnitsPerInch)
         {
+            InParts = options.TextAsShapes || options.FontStoreType == FontStoreType.Installed, // no fonts come first
             HasSymbols = true,
         };
         SvgDocument.Write(output, engine, pages.SinglePage(), options);
@@ -45,7 +47,10 @@ internal static class PageExporter
     internal static void WriteHtml(VectorScene scene, Html5Options options, ExportContext context, Stream output)
     {
         using TextEngine engine = context.NewEngine();
-        var pages = new PageSource(scene, context, engine, DeviceKind.UserUnits, UserUnitsPerInch);
+        var pages = new PageSource(scene, context, engine, DeviceKind.UserUnits, UserUnitsPerInch)
+        {
+            InParts = true,
+        };
         HtmlCanvasDocument.Write(output, engine, pages.SinglePage(), options);
     }
 
@@ -55,7 +60,10 @@ internal static class PageExporter
         Action<Stream, TextEngine, Page, T> write)
     {
         using TextEngine engine = context.NewEngine();
-        var pages = new PageSource(scene, context, engine, DeviceKind.Points, PointsPerInch);
+        var pages = new PageSource(scene, context, engine, DeviceKind.Points, PointsPerInch)
+        {
+            InParts = true,
+        };
         write(output, engine, pages.SinglePage(), options);
     }
 

@@ -115,11 +115,7 @@ internal sealed class PageSource
         Verify(place);
         PaintSettings settings = Settings(place, sheet?.Visible);
         Bounds2? visible = Visible(place, settings);
-        if (!list.IsPartial)
-        {
-            PatternDetail.Resolve(list, settings, visible);
-        }
-
+        PatternDetail.Resolve(list, settings, visible); // also what is there of a partial one: its symbols are whole
         void Resolved(DrawingList part, Action<DrawingList> drain)
         {
             PatternDetail.Resolve(part, settings, visible);

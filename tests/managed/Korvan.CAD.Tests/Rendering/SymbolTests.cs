@@ -121,7 +121,15 @@ public sealed class SymbolTests : IDisposable
             [.. Enumerable.Range(0, many).Select(i => Place(20 * (i % 300), 20 * (i / 300), i % 360, 1))]);
         Assert.Equal(
             many - 1, PdfSample.Count(PdfSample.Plain(WritePdf(drawing, hasSymbols: true)), @"cm/X\d+ Do"));
+        drawing.BlockEntities["VALVE"].Entities.RemoveAll(entity => entity.LayerName == "pipes");
+        string[] uses = UsesOf(WriteSvg(drawing, hasSymbols: true));
+        Assert.True(uses.Length >= many - 1);
+        Assert.Equal(UsesOf(WriteSvg(drawing, hasSymbols: true, inParts: false)), uses);
     }
+
+    /// <summary>The symbols and their uses in a file, in order.</summary>
+    private static string[] UsesOf(string file) =>
+        [.. File.ReadLines(file).Where(static line => line.Contains("symbol-", StringComparison.Ordinal))];
 
     private const int Repeats = 12;
 
@@ -204,23 +212,24 @@ public sealed class SymbolTests : IDisposable
         return PdfSample.ToFile(PdfSample.Write(_engine, pages.Pages()));
     }
 
-    private string WriteSvg(CadImage drawing, bool hasSymbols)
+    private string WriteSvg(CadImage drawing, bool hasSymbols, bool inParts = true)
     {
         var options = new SvgOptions { VectorRasterizationOptions = Page() };
         string file = Tools.TempFile(".svg");
         using FileStream output = File.Create(file);
-        SvgDocument.Write(
-            output, _engine, Pages(drawing, options, DeviceKind.UserUnits, hasSymbols).SinglePage(), options);
+        PageSource pages = Pages(drawing, options, DeviceKind.UserUnits, hasSymbols, inParts);
+        SvgDocument.Write(output, _engine, pages.SinglePage(), options);
         return file;
     }
 
     private static CadRasterizationOptions Page() =>
         new() { PageWidth = 800, PageHeight = 500, VisibilityMode = VisibilityMode.AsPrint };
 
-    private PageSource Pages(CadImage drawing, ImageOptionsBase options, DeviceKind device, bool hasSymbols) =>
+    private PageSource Pages(
+        CadImage drawing, ImageOptionsBase options, DeviceKind device, bool hasSymbols, bool inParts = true) =>
         new(SceneReader.Read(drawing.Drawing), new ExportContext(options, new LoadOptions()), _engine, device, 72)
         {
-            InParts = device == DeviceKind.Points,
+            InParts = inParts,
             HasSymbols = hasSymbols,
         };
 }
