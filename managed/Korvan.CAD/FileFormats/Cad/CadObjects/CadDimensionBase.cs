@@ -13,6 +13,12 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
     "2007+ B", "2RD InsertionPoint", "H StyleName", "H BlockName")]
 public abstract partial class CadDimensionBase : CadDimensionBaseR12
 {
+    /// <summary>The kind that files state of dimensions of a radius with a jog.</summary>
+    internal const short JoggedType = 9;
+
+    private const int Kinds = 15;
+    private const int PlainKinds = 7;
+
     internal CadDimensionBase()
     {
     }
@@ -74,7 +80,8 @@ public abstract partial class CadDimensionBase : CadDimensionBaseR12
     public override string GraphicsBlockName => BlockName;
 
     /// <summary>Gets the kind of the dimension without its flags.</summary>
-    public CadDimensionType DimensionType => (CadDimensionType)(TypeOfDimension & 7);
+    public CadDimensionType DimensionType => (TypeOfDimension & Kinds) == JoggedType ? CadDimensionType.Radius
+        : (CadDimensionType)(TypeOfDimension & PlainKinds);
 
     /// <summary>Gets or sets the measurement as it is in the file; 0 for none.</summary>
     [CadDouble(42, Optional = true)]

@@ -1,4 +1,3 @@
-using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -28,6 +27,6 @@ public partial class CadJoggedDimension : CadDimensionBase
     /// <summary>Creates the object with its defaults.</summary>
     public CadJoggedDimension()
     {
-        TypeOfDimension = (short)CadDimensionType.Radius;
+        TypeOfDimension = JoggedType;
     }
 }

@@ -6,6 +6,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 /// <summary>A link of an object to a row of a database; the key of the row is in its extended data.</summary>
 [CadSequence]
 [CadObject("OBJECT_PTR", Subclass = "CAseDLPNTableRecord")]
+[CadBits("if HasData: partial")]
 public partial class CadObjectPtr : CadObjectBase
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -19,6 +20,9 @@ public partial class CadObjectPtr : CadObjectBase
 
     /// <summary>Gets the tags of the link.</summary>
     internal List<CadCodeValue> Data { get; } = [];
+
+    // Drawing databases have no fields of the link, but its extended data.
+    private bool HasData => Data.Count > 0;
 
     partial void OnExchange(ObjectExchange fields) => fields.Tags(Data);
 }

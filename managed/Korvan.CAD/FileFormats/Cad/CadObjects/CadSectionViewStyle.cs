@@ -66,7 +66,7 @@ public partial class CadSectionViewStyle : CadObjectBase
     public string IdentifierStyleHandle { get; set; } = "0";
 
     /// <summary>Gets or sets the index of the colour of identifiers. Group code 62.</summary>
-    [CadColor(62, Optional = true, Since = 2004)]
+    [CadColor(62, Since = 2004)]
     public short IdentifierColorId { get; set; } = 256;
 
     /// <summary>Gets or sets the colour of identifiers as 0xRRGGBB; -1 for none. Group code 420.</summary>
@@ -88,7 +88,7 @@ public partial class CadSectionViewStyle : CadObjectBase
     public string ArrowEndSymbolHandle { get; set; } = "0";
 
     /// <summary>Gets or sets the index of the colour of arrows. Group code 62.</summary>
-    [CadColor(62, Optional = true, Since = 2004)]
+    [CadColor(62, Since = 2004)]
     public short ArrowColorId { get; set; } = 256;
 
     /// <summary>Gets or sets the colour of arrows as 0xRRGGBB; -1 for none. Group code 420.</summary>
@@ -132,7 +132,7 @@ public partial class CadSectionViewStyle : CadObjectBase
     public int PlaneLineWeight { get; set; } = 25;
 
     /// <summary>Gets or sets the index of the colour of cutting planes. Group code 62.</summary>
-    [CadColor(62, Optional = true, Since = 2004)]
+    [CadColor(62, Since = 2004)]
     public short PlaneColorId { get; set; } = 256;
 
     /// <summary>Gets or sets the colour of cutting planes as 0xRRGGBB; -1 for none. Group code 420.</summary>
@@ -148,7 +148,7 @@ public partial class CadSectionViewStyle : CadObjectBase
     public int BendLineWeight { get; set; } = 50;
 
     /// <summary>Gets or sets the index of the colour of ends and bends. Group code 62.</summary>
-    [CadColor(62, Optional = true, Since = 2004)]
+    [CadColor(62, Since = 2004)]
     public short BendColorId { get; set; } = 256;
 
     /// <summary>Gets or sets the colour of ends and bends as 0xRRGGBB; -1 for none. Group code 420.</summary>
@@ -176,7 +176,7 @@ public partial class CadSectionViewStyle : CadObjectBase
     public string LabelStyleHandle { get; set; } = "0";
 
     /// <summary>Gets or sets the index of the colour of labels. Group code 62.</summary>
-    [CadColor(62, Optional = true, Since = 2004)]
+    [CadColor(62, Since = 2004)]
     public short LabelColorId { get; set; } = 256;
 
     /// <summary>Gets or sets the colour of labels as 0xRRGGBB; -1 for none. Group code 420.</summary>
@@ -208,7 +208,7 @@ public partial class CadSectionViewStyle : CadObjectBase
     internal short FifthGroup { get; set; } = 4;
 
     /// <summary>Gets or sets the index of the colour of hatches. Group code 62.</summary>
-    [CadColor(62, Optional = true, Since = 2004)]
+    [CadColor(62, Since = 2004)]
     public short HatchColorId { get; set; } = 256;
 
     /// <summary>Gets or sets the colour of hatches as 0xRRGGBB; -1 for none. Group code 420.</summary>
@@ -217,7 +217,7 @@ public partial class CadSectionViewStyle : CadObjectBase
 
     /// <summary>Gets or sets the index of the colour of the background of hatches; 257 for none. Group code
     /// 62.</summary>
-    [CadColor(62, Optional = true, Since = 2004)]
+    [CadColor(62, Since = 2004)]
     public short HatchBackgroundColorId { get; set; } = 257;
 
     /// <summary>Gets or sets the colour of the background of hatches as 0xRRGGBB; -1 for none. Group code

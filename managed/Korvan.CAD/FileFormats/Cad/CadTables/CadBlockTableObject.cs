@@ -32,6 +32,10 @@ public partial class CadBlockTableObject : CadSymbolTableGroupCodes
     [CadShort(281, Optional = true, Since = 2007)]
     public short Scalability { get; set; }
 
+    /// <summary>Gets or sets the preview image of the block. Group code 310.</summary>
+    [CadBinary(310, Optional = true, Since = 2000)]
+    internal byte[] Preview { get; set; } = [];
+
     /// <inheritdoc/>
     internal override void ExchangeNameAndFlags(ObjectExchange fields) => ExchangeName(fields);
 
@@ -41,7 +45,9 @@ public partial class CadBlockTableObject : CadSymbolTableGroupCodes
     private void ExchangeDefinition(BitExchange fields)
     {
         BlockDefinition block = Definition ??= new BlockDefinition();
+        block.Preview = Preview;
         block.ExchangeBits(fields);
+        Preview = block.Preview;
     }
 
     private void ExchangeParts(BitExchange fields) => Definition!.ExchangeParts(fields, this);

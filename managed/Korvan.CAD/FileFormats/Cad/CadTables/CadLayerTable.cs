@@ -10,7 +10,7 @@ namespace Korvan.CAD.FileFormats.Cad.CadTables;
 [CadObject("LAYER", Subclass = "AcDbLayerTableRecord")]
 [CadBits(
     "ExchangeRecord()", "ExchangeState()", "ExchangeColor()", "2000+ H PlotStyleHandle", "2007+ H MaterialHandle",
-    "H LineTypeName", "2013+ H")]
+    "H LineTypeName", "2013+ ExchangeVisualStyle()")]
 public partial class CadLayerTable : CadSymbolTableGroupCodes
 {
     private const int LastColor = 255;
@@ -86,6 +86,10 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
     [CadHandle(347, Optional = true, Since = 2007)]
     public string MaterialHandle { get; set; } = "";
 
+    /// <summary>Gets or sets the handle of the visual style in hexadecimal. Group code 348.</summary>
+    [CadHandle(348, Optional = true, Since = 2013)]
+    internal string VisualStyleHandle { get; set; } = "";
+
     /// <summary>Gets or sets the index of the colour as it is in the file, whatever it is.</summary>
     [CadColor(62)]
     internal short StoredColor { get; set; } = 7;
@@ -117,6 +121,10 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
         get => PlotFlag != 0;
         set => PlotFlag = (short)(value ? 1 : 0);
     }
+
+    // Text files state that there is none.
+    private void ExchangeVisualStyle(BitExchange fields) => VisualStyleHandle =
+        fields.Handle(HandleRole.HardPointer, VisualStyleHandle.Length > 0 ? VisualStyleHandle : "0");
 
     // The kinds that files have since release 2000: frozen, on, frozen in new viewports, locked, plotted, line weight.
     private void ExchangeState(BitExchange fields)

@@ -33,7 +33,7 @@ internal static class DwgContainer
             CadAcadVersion.AC1021 => EncodedContainer.Read(source),
             _ => throw new ImageLoadException($"'{name}' is of release {version}, whose container cannot be read."),
         };
-        if (source.IsTolerant && (file.Map.Count == 0 || file.Map.IsDamaged))
+        if (source.IsTolerant && (file.Map.Count == 0 || file.Map.IsDamaged || !ObjectWalk.IsWhole(file)))
         {
             file.Map = ObjectWalk.Complete(file, file.Release <= LastPlain ? FirstPlainObject : FirstObject);
         }

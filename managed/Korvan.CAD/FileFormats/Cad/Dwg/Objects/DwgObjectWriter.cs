@@ -196,7 +196,7 @@ internal sealed class DwgObjectWriter
         ChildHandles parts = new() { Begin = block.Handle, End = block.End.Handle };
         List<CadEntityBase> entities = [.. block.Entities.Where(entity => _handles.IsPresent(entity.Handle))];
         parts.Owned.AddRange(entities.Select(static entity => entity.Handle));
-        record.Definition = DefinitionOf(block, record.Definition);
+        record.Definition = DefinitionOf(block);
         _records.Write(ObjectTypeTable.NumberOf(record), record, frame, parts);
         WritePart(block, record.Handle);
         for (int i = 0; i < entities.Count; i++)
@@ -210,14 +210,13 @@ internal sealed class DwgObjectWriter
         WritePart(block.End, record.Handle);
     }
 
-    private BlockDefinition DefinitionOf(CadBlockEntity block, BlockDefinition? before)
+    private BlockDefinition DefinitionOf(CadBlockEntity block)
     {
         BlockDefinition definition = new()
         {
             Flags = block.Flags,
             Path = block.XRefPathName,
             Description = block.Description,
-            Preview = before?.Preview ?? [],
         };
         (definition.BasePoint.X, definition.BasePoint.Y, definition.BasePoint.Z) =
             (block.BasePoint.X, block.BasePoint.Y, block.BasePoint.Z);

@@ -43,6 +43,7 @@ internal sealed class WrittenClasses
         ["DGNDEFINITION"] = ("AcDbDgnDefinition", 1153),
         ["SCALE"] = ("AcDbScale", 1153),
         ["SORTENTSTABLE"] = ("AcDbSortentsTable", 0),
+        ["OBJECT_PTR"] = ("CAseDLPNTableRecord", 1),
         ["IDBUFFER"] = ("AcDbIdBuffer", 0),
         ["ACAD_TABLE"] = ("AcDbTable", 1025),
         ["TABLESTYLE"] = ("AcDbTableStyle", 4095),

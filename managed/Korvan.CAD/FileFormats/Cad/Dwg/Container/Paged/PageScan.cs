@@ -91,17 +91,6 @@ internal static class PageScan
             return null;
         }
 
-        ReadOnlySpan<byte> start = page;
-        return start.StartsWith(Sentinels.Header) ? "AcDb:Header"
-            : start.StartsWith(Sentinels.Classes) ? "AcDb:Classes"
-            : start.StartsWith((ReadOnlySpan<byte>)[0xCA, 0x0D, 0, 0]) ? "AcDb:AcDbObjects"
-            : IsObjectMap(start) ? ObjectMap.Section : null;
-    }
-
-    private static bool IsObjectMap(ReadOnlySpan<byte> page)
-    {
-        int size = (page[0] << 8) | page[1];
-        return size is > 2 and < 0x1000
-            && Crc16.Compute(Crc16.Seed, page[..size]) == ((page[size] << 8) | page[size + 1]);
+        return PageNames.NameOf(page);
     }
 }

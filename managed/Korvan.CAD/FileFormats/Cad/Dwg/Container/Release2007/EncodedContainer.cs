@@ -34,6 +34,11 @@ internal static class EncodedContainer
             }
         }
 
+        if (source.IsTolerant && file.Objects.Length == 0)
+        {
+            PageGuess.Complete(file, pages.Values);
+        }
+
         NamedSections.VerifyComplete(file);
         return file;
     }

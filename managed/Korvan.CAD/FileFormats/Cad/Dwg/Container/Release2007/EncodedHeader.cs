@@ -24,6 +24,7 @@ internal sealed class EncodedHeader
     internal const int FirstPage = 0x480;
 
     private const int Start = 0x80;
+    private const int CopyFromEnd = 0x400; // the file ends with a copy
     private const int Blocks = 3;
     private const int Size = 0x110;
     private const int DataOffset = 0x20;
@@ -51,42 +52,44 @@ internal sealed class EncodedHeader
                 "the file ends within its header");
         }
 
-        byte[] decoded = new byte[Blocks * ReedSolomon.System.DataLength];
-        if (!ReedSolomon.System.DecodeInterleaved(source.Data.AsSpan(Start), Blocks, decoded))
+        byte[] fields = new byte[Size];
+        if (Decode(source.Data.AsSpan(Start), fields) is { } fault)
         {
-            source.Report(LoadDefectCode.WrongChecksum, Section, Start,
-                "the file header has more wrong bytes than its code can correct");
+            source.Report(fault.Code, Section, Start, fault.Cause);
+            byte[] copy = new byte[Size];
+            bool isWhole = Decode(source.Data.AsSpan(source.Data.Length - CopyFromEnd), copy) is null;
+            fields = isWhole ? copy : fields;
         }
 
-        byte[] header = Decompress(source, decoded);
-        ulong stated = BitConverter.ToUInt64(header, CheckOffset);
-        header.AsSpan(CheckOffset).Clear();
-        if (stated != Crc64.Compute(Crc64.HeaderSeedOf(0, Size), header))
-        {
-            source.Report(LoadDefectCode.WrongChecksum, Section, Start,
-                "the file header has another checksum than it states");
-        }
-
-        return FromFields(header);
+        return FromFields(fields);
     }
 
-    private static byte[] Decompress(DwgSource source, ReadOnlySpan<byte> decoded)
+    // Returns what is wrong; null if nothing is.
+    private static (LoadDefectCode Code, string Cause)? Decode(ReadOnlySpan<byte> encoded, byte[] fields)
     {
-        RawReader fields = new(decoded);
-        fields.Seek(0x18);
-        int length = fields.Int32();
+        byte[] decoded = new byte[Blocks * ReedSolomon.System.DataLength];
+        bool isValid = ReedSolomon.System.DecodeInterleaved(encoded, Blocks, decoded);
+        bool isUnpacked = Unpack(decoded, fields);
+        ulong stated = BitConverter.ToUInt64(fields, CheckOffset);
+        fields.AsSpan(CheckOffset).Clear();
+        return !isValid
+            ? (LoadDefectCode.WrongChecksum, "the file header has more wrong bytes than its code can correct")
+            : !isUnpacked ? (LoadDefectCode.InvalidCompression, "the file header cannot be decompressed")
+            : stated != Crc64.Compute(Crc64.HeaderSeedOf(0, Size), fields)
+            ? (LoadDefectCode.WrongChecksum, "the file header has another checksum than it states") : null;
+    }
+
+    private static bool Unpack(ReadOnlySpan<byte> decoded, Span<byte> fields)
+    {
+        RawReader start = new(decoded);
+        start.Seek(0x18);
+        int length = start.Int32();
         ReadOnlySpan<byte> data = decoded[DataOffset..];
-        byte[] header = new byte[Size];
         bool isCompressed = length > 0;
         long stored = Math.Abs((long)length);
-        if (stored > data.Length || (isCompressed
-            ? PermutedLz77.Decompress(data[..(int)stored], header) != Size
-            : !data[..(int)stored].TryCopyTo(header)))
-        {
-            source.Report(LoadDefectCode.InvalidCompression, Section, Start, "the file header cannot be decompressed");
-        }
-
-        return header;
+        return stored <= data.Length && (isCompressed
+            ? PermutedLz77.Decompress(data[..(int)stored], fields) == Size
+            : data[..(int)stored].TryCopyTo(fields));
     }
 
     private static EncodedHeader FromFields(byte[] header)

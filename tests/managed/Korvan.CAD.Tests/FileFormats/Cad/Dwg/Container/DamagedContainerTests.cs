@@ -146,6 +146,43 @@ public class DamagedContainerTests
         Assert.Throws<ImageLoadException>(() => DwgSamples.Open(data, "a", new LoadOptions()));
     }
 
+    // The file header of release 2007 has a copy at the end of the file, where the section map is, too.
+    [DrawingTheory]
+    [InlineData("lwg__2007_Line.dwg")]
+    [InlineData("lwg__example_2007.dwg")]
+    public void Objects_of_release_2007_are_found_without_the_header_or_the_end(string name)
+    {
+        byte[] data = DwgSamples.Bytes(name);
+        DwgFile intact = DwgSamples.Open(data, "a", new LoadOptions());
+        byte[] damaged = [.. data];
+        damaged.AsSpan(0x80, 0x400).Fill(0x55);
+        DwgFile file = DwgSamples.Open(damaged, "a", new LoadOptions { IgnoreErrors = true });
+        Assert.Equal(intact.Objects, file.Objects);
+        Assert.Equal(intact.Map.Handles, file.Map.Handles);
+
+        file = DwgSamples.Open(data[..^0x2000], "a", new LoadOptions { IgnoreErrors = true });
+        int found = file.Map.Handles.Intersect(intact.Map.Handles).Count();
+        Assert.True(found > 0.9 * intact.Map.Count, $"{found} of {intact.Map.Count} objects");
+    }
+
+    // Bytes too many or too few move what is after them.
+    [DrawingTheory]
+    [InlineData("lwg__r14_v.dwg", 1)]
+    [InlineData("lwg__example_2000.dwg", 1)]
+    [InlineData("lwg__example_2000.dwg", -1)]
+    public void Objects_that_were_moved_are_found(string name, int by)
+    {
+        byte[] data = DwgSamples.Bytes(name);
+        DwgFile intact = DwgSamples.Open(data, "a", new LoadOptions());
+        int middle = data.Length / 2;
+        byte[] moved = by > 0 ? [.. data[..middle], .. new byte[by], .. data[middle..]]
+            : [.. data[..middle], .. data[(middle - by)..]];
+        DwgFile file = DwgSamples.Open(moved, "a", new LoadOptions { IgnoreErrors = true });
+        int found = Enumerable.Range(0, intact.Map.Count).Count(i => file.Map.Find(intact.Map.Handles[i])
+            is >= 0 and var at && (at == intact.Map.Offsets[i] || at == intact.Map.Offsets[i] + by));
+        Assert.True(found > 0.98 * intact.Map.Count, $"{found} of {intact.Map.Count} objects");
+    }
+
     [Theory]
     [InlineData(16)]
     [InlineData(4)]

@@ -52,6 +52,7 @@ public partial class LossTests(ITestOutputHelper output)
         (Before2007, "^ATT(DEF|RIB) \\w+: AcDbAttribute(Definition)? 280 ", Newer),
         (Before2007, "^(ACAD_TABLE|ARC_DIMENSION|HELIX|MESH|MULTILEADER|\\w+SURFACE) \\w+ is (a |missing)", Newer),
         (Before2007, "^(VPORT|VIEW|VIEWPORT) \\w+: \\w+ (292|348|361|421) ", Newer),
+        (Before2013, "^LAYER \\w+: AcDbLayerTableRecord 348 ", Newer),
         (Before2007, "^3DSOLID \\w+: AcDb3dSolid 350 ", Newer),
         (Before2013, "^(3DSOLID|REGION|BODY) \\w+: AcDbModelerGeometry (2|290) ", Newer),
         (Before2007, "^(LIGHT|PDFUNDERLAY) \\w+ is missing", Newer),

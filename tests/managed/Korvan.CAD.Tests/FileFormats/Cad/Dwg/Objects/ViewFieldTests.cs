@@ -62,6 +62,34 @@ public class ViewFieldTests
     }
 
     [Theory]
+    [InlineData(CadAcadVersion.AC1015)]
+    [InlineData(CadAcadVersion.AC1032)]
+    public void Records_jogged_dimensions_and_links_keep_what_their_class_tells(CadAcadVersion version)
+    {
+        CadDrawing drawing = Draw(
+            DxfText.Tags(0, "SECTION", 2, "TABLES", 0, "TABLE", 2, "LAYER", 70, 1, 0, "LAYER", 5, "A1",
+                100, "AcDbSymbolTableRecord", 100, "AcDbLayerTableRecord", 2, "Walls", 70, 0, 62, 3, 348, "A6",
+                0, "ENDTAB", 0, "TABLE", 2, "BLOCK_RECORD", 70, 1, 0, "BLOCK_RECORD", 5, "A2",
+                100, "AcDbSymbolTableRecord", 100, "AcDbBlockTableRecord", 2, "Door", 310, "28000000", 310, "20FF",
+                0, "ENDTAB", 0, "ENDSEC", 0, "SECTION", 2, "BLOCKS", 0, "BLOCK", 5, "A7", 100, "AcDbEntity", 8, "0",
+                100, "AcDbBlockBegin", 2, "Door", 70, 0, 0, "ENDBLK", 5, "A8", 100, "AcDbEntity", 8, "0", 0, "ENDSEC")
+            + DxfText.Entities(0, "LARGE_RADIAL_DIMENSION", 5, "A3", 100, "AcDbEntity", 8, "0",
+                100, "AcDbDimension", 70, 169, 100, "AcDbRadialDimensionLarge", 40, 0.5)
+            + DxfText.Tags(0, "SECTION", 2, "OBJECTS", 0, "OBJECT_PTR", 5, "A4", 100, "CAseDLPNTableRecord",
+                0, "XRECORD", 5, "A6", 100, "AcDbXrecord", 0, "ENDSEC"));
+
+        CadDrawing again = ObjectRoundTripTests.WriteAndRead(drawing, version).Item1;
+
+        Assert.Equal("A6", version >= CadAcadVersion.AC1027
+            ? again.Layers.Items.First(static one => one.Name == "Walls").VisualStyleHandle : "A6");
+        Assert.Equal("2800000020FF", Convert.ToHexString(
+            again.BlockRecords.Items.First(static one => one.Name == "Door").Preview));
+        CadJoggedDimension dimension = Assert.IsType<CadJoggedDimension>(again.Entities[0]);
+        Assert.Equal((169, CadDimensionType.Radius), (dimension.TypeOfDimension, dimension.DimensionType));
+        Assert.Contains(again.Objects, static one => one is CadObjectPtr);
+    }
+
+    [Theory]
     [InlineData(CadAcadVersion.AC1024)]
     [InlineData(CadAcadVersion.AC1032)]
     public void Solids_keep_history_and_revision(CadAcadVersion version)
