@@ -49,7 +49,7 @@ internal sealed class EmfRecords
     private const int FontRecordLength = 332;
     private const int FaceLength = 32;
 
-    private readonly MemoryStream _content = new();
+    private readonly MemoryStream _content = new BoundedMemoryStream();
     private readonly byte[] _word = new byte[4];
     private int _count = 1;
 

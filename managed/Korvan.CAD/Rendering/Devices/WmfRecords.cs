@@ -41,7 +41,7 @@ internal sealed class WmfRecords
 
     private static readonly Encoding Letters = DwgCodePage.Get(1252);
 
-    private readonly MemoryStream _content = new Content();
+    private readonly MemoryStream _content = new BoundedMemoryStream();
     private readonly byte[] _word = new byte[2];
     private long _longest;
 
@@ -162,20 +162,6 @@ internal sealed class WmfRecords
         foreach (short value in values)
         {
             Put(value);
-        }
-    }
-
-    /// <summary>Asks for room before it grows, as it doubles.</summary>
-    private sealed class Content : MemoryStream
-    {
-        public override int Capacity
-        {
-            get => base.Capacity;
-            set
-            {
-                Workload.Reserve(value);
-                base.Capacity = value;
-            }
         }
     }
 }
