@@ -4,8 +4,8 @@ using System.Buffers.Binary;
 namespace Korvan.CAD.Raster.Codecs;
 
 /// <summary>
-/// How a JPEG 2000 codestream is divided: tiles, precincts, code blocks and layers. The decoder takes memory for each of
-/// them, and a file of some bytes can ask for millions.
+/// How a JPEG 2000 codestream is divided: tiles, precincts, code blocks and layers. The decoder takes memory for each
+/// of them, and a file of some bytes can ask for millions.
 /// </summary>
 internal sealed class Jpeg2000Structure
 {
