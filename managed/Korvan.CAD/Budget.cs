@@ -87,6 +87,9 @@ internal sealed class Budget : IDisposable
     /// <summary>Gets the managed memory that the call has taken so far, in bytes.</summary>
     internal long Taken => GC.GetTotalMemory(false) - _heapAtStart;
 
+    /// <summary>Gets the memory that pixels of the call take now, in bytes.</summary>
+    internal long PixelMemory => Interlocked.Read(ref _pixels);
+
     /// <summary>Begins a call; disposing the result ends it.</summary>
     /// <param name="sourceLength">The length of the file in bytes; null for content that is not from a file, which has
     /// no limits of memory and steps.</param>

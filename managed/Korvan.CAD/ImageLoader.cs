@@ -99,7 +99,7 @@ internal static class ImageLoader
         image.LoadOptions = options;
         image.SourceFormat = format;
         image.SourceLength = source.Length;
-        image.LoadedMemory = budget.Taken;
+        image.LoadedMemory = budget.Taken + budget.PixelMemory;
         return image;
     }
 

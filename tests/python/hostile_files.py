@@ -71,6 +71,16 @@ def progressive_jpeg(side: int, comments: int) -> bytes:
             + b"\xff\xd9")
 
 
+def jpeg2000(side: int, tile: int, block: int) -> bytes:
+    """An image of empty tiles; a code block has 2 to the power of a number of samples on a side."""
+    size = struct.pack(">HHIIIIIIIIH", 47, 0, side, side, 0, 0, tile, tile, 0, 0, 3) + b"\7\1\1" * 3
+    style = struct.pack(">HBBHBBBBBB", 12, 0, 0, 1, 0, 5, block - 2, block - 2, 0, 1)
+    steps = struct.pack(">HB", 19, 0x40) + b"\x40" * 16
+    count = (-(-side // tile)) ** 2
+    tiles = b"".join(b"\xff\x90" + struct.pack(">HHIBB", 10, i, 14, 0, 1) + b"\xff\x93" for i in range(count))
+    return b"\xff\x4f\xff\x51" + size + b"\xff\x52" + style + b"\xff\x5c" + steps + tiles + bytes(1000) + b"\xff\xd9"
+
+
 def tiff(side: int, samples: int, block: int | None = None) -> bytes:
     """An image of 8-bit samples that are zero, in one strip, or in one tile that is larger than the image."""
     stored = block or side
@@ -116,6 +126,15 @@ def far_dashes(count: int) -> bytes:
     ).encode()
 
 
+def clipped_lines(count: int, triangles: int) -> bytes:
+    """Lines inside a region of many triangles."""
+    return (
+        "BEGMF 'x';\nMFVERSION 2;\nVDCTYPE INTEGER;\nBEGPIC 'p';\nVDCEXT (0, 0) (999, 999);\nBEGPICBODY;\n"
+        "BEGPROTREGION 1;\n" + "POLYGON (0,0) (9,9) (9,0);\n" * triangles + "ENDPROTREGION;\nPROTREGION 1 2;\n"
+        + "LINE (0,0) (999,999);\n" * count + "ENDPIC;\nENDMF;\n"
+    ).encode()
+
+
 def giant_text(length: int) -> bytes:
     return (
         "BEGMF 'x';\nMFVERSION 1;\nVDCTYPE INTEGER;\nINTEGERPREC -2147483648 2147483647;\nBEGPIC 'p';\n"
@@ -157,6 +176,10 @@ def line(x: float = 0, y: float = 0, u: float = 100, v: float = 100, layer: str 
     return f"0\nLINE\n8\n{layer}\n10\n{x}\n20\n{y}\n11\n{u}\n21\n{v}\n"
 
 
+def face() -> str:
+    return "0\n3DFACE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n0\n12\n9\n22\n9\n13\n0\n23\n9\n"
+
+
 def text(content: str, layer: str = "0") -> str:
     return f"0\nTEXT\n8\n{layer}\n10\n0\n20\n40\n40\n5\n1\n{content}\n"
 
@@ -178,6 +201,12 @@ def hatch(loops: list[str], *lines: str, style: int = 0) -> str:
         "0\nHATCH\n8\n0\n10\n0\n20\n0\n30\n0\n210\n0\n220\n0\n230\n1\n2\nX\n70\n0\n71\n0\n"
         f"91\n{len(loops)}\n{''.join(loops)}{pattern}"
     )
+
+
+def shaded(stops: str = "463\n0\n421\n255\n463\n1\n421\n65535\n") -> str:
+    """A square that is filled with a gradient between colours."""
+    plain = hatch([square(0, 0, 1000)]).replace("2\nX\n70\n0", "2\nSOLID\n70\n1")
+    return f"{plain}450\n1\n451\n0\n460\n0.5\n461\n0\n452\n0\n462\n1\n453\n2\n{stops}470\nSPHERICAL\n"
 
 
 def hatch_line(angle: float, offset: float, *dashes: float) -> str:

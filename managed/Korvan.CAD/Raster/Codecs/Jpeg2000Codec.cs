@@ -13,8 +13,9 @@ namespace Korvan.CAD.Raster.Codecs;
 /// <summary>Reads and writes JPEG 2000, as a JP2 file and as a bare codestream.</summary>
 internal static unsafe class Jpeg2000Codec
 {
-    /// <summary>Samples up to which an image is one tile; the library takes up to eight bytes for each.</summary>
+    /// <summary>Samples up to which an image is one tile, if there is room for it.</summary>
     private const long MaxWholeSamples = 16_000_000;
+    private const int BytesOfWholeSample = 8;
     private const int TileSide = 1024;
     private const int MaxResolutions = 6;
 
@@ -41,7 +42,9 @@ internal static unsafe class Jpeg2000Codec
         bool alpha = !pixels.IsOpaque();
         int colors = gray ? 1 : 3;
         int count = colors + (alpha ? 1 : 0);
-        bool hasTiles = pixels.Count * count > MaxWholeSamples;
+        long samples = pixels.Count * count;
+        using NativeRoom? whole = samples > MaxWholeSamples ? null : NativeRoom.TryTake(samples * BytesOfWholeSample);
+        bool hasTiles = whole is null;
         using OpenJpegImageHandle image = Planes(pixels, colors, alpha, hasTiles);
         OpenJpeg.EncoderParameters parameters;
         OpenJpeg.SetDefaults(&parameters);
@@ -96,6 +99,7 @@ internal static unsafe class Jpeg2000Codec
         bool ready = OpenJpeg.SetupDecoder(codec, parameters) != 0
             && OpenJpeg.SetStrict(codec, source.Lenient ? 0 : 1) != 0;
         Verify(ready, source, bridge);
+        using var structure = new NativeRoom(Jpeg2000Structure.DecoderBytes(data, bare));
         bool read = OpenJpeg.ReadHeader(stream, codec, out OpenJpegImageHandle opened) != 0;
         using OpenJpegImageHandle image = opened;
         Verify(read, source, bridge);

@@ -35,6 +35,9 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>The pixels of rows with such edges, for each of which all samples are looked at.</summary>
     private const int CountedPixelsPerStep = 64;
 
+    /// <summary>The pixels of a gradient that take about as long as one step of the budget.</summary>
+    private const int GradientPixelsPerStep = 500;
+
     /// <summary>Counts the work of filling a path, or the outline of its stroke.</summary>
     private void CountWork(in DisplayItem item, int edgesPerSegment, int edgesPerStep)
     {
@@ -47,6 +50,23 @@ internal sealed unsafe partial class CairoPainter
         double edges = EdgesOf(item, out double rows) * edgesPerSegment;
         double density = edges / rows / EdgesOfDenseRow;
         Budget.Step((long)(edges / edgesPerStep * Math.Min(1, density)));
+    }
+
+    /// <summary>Counts the pixels of the box around a gradient, each of which has a colour of its own.</summary>
+    private void CountGradient(in DisplayItem item)
+    {
+        Bounds2 box = Bounds2.Empty;
+        ReadOnlySpan<double> c = List.CoordsOf(item);
+        int count = CoordCount(item);
+        for (int at = 0; at < count; at += 2)
+        {
+            Vec2 point = _map.Point(c[at], c[at + 1]);
+            box.Add(point.X, point.Y);
+        }
+
+        Bounds2 page = Bounds2.Of(0, _rows.First, _target.ThinLines.Width, _rows.End);
+        Bounds2 shown = box.Clip(_clip.Box).Clip(page);
+        Budget.Step((long)(Math.Max(0, shown.Width) * Math.Max(0, shown.Height) / GradientPixelsPerStep));
     }
 
     /// <summary>Fills a path with many edges in each row.</summary>

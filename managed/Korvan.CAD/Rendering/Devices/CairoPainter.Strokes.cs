@@ -70,6 +70,11 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>Tells cairo of what was drawn without it, before it draws.</summary>
     private void UseCairo()
     {
+        if (_clip.Steps > 0)
+        {
+            Budget.Step(_clip.Steps);
+        }
+
         if (_isDirect)
         {
             Cairo.SurfaceMarkDirty(_target.Surface);

@@ -14,7 +14,7 @@ internal readonly record struct RowRange(int First, int End);
 internal readonly record struct PixelTarget(nint Surface, RowRange Rows, ThinLinePainter ThinLines);
 
 /// <summary>What clips leave of the page: the box in pixels, and whether it is all that they leave.</summary>
-internal readonly record struct ClipArea(Bounds2 Box, bool IsBox);
+internal readonly record struct ClipArea(Bounds2 Box, bool IsBox, int Steps = 0);
 
 /// <summary>
 /// Plays a list on a cairo context. Coordinates are mapped here, in double precision: cairo keeps 24.8 fixed point,
@@ -173,6 +173,7 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
         Cairo.SetFillRule(_cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
         if (item.Extra >= 0)
         {
+            CountGradient(item);
             FillGradient(List.GradientOf(item));
             return;
         }
@@ -338,7 +339,8 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
         UseCairo();
         _clips.Push(_clip);
         Bounds2 box = BoxOf(item, out bool isBox);
-        _clip = new ClipArea(box.Clip(_clip.Box), _clip.IsBox && isBox);
+        int steps = isBox ? 0 : item.VerbCount / FillEdgesPerStep;
+        _clip = new ClipArea(box.Clip(_clip.Box), _clip.IsBox && isBox, _clip.Steps + steps);
         Cairo.Save(_cr);
         Trace(item);
         Cairo.SetFillRule(_cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);

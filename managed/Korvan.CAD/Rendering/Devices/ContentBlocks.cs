@@ -41,7 +41,7 @@ internal sealed class ContentBlocks : Stream
         {
             if (_used == BlockSize)
             {
-                Budget.Check();
+                Budget.VerifyRoom(2 * BlockSize); // less is not looked at
                 _blocks.Add(GC.AllocateUninitializedArray<byte>(BlockSize));
                 _used = 0;
             }

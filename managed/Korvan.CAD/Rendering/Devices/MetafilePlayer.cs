@@ -9,6 +9,9 @@ namespace Korvan.CAD.Rendering.Devices;
 /// transparency.</summary>
 internal abstract class MetafilePlayer : PagePlayer
 {
+    /// <summary>The pixels that take about as long as one step of the budget.</summary>
+    private const int PixelsPerStep = 1000;
+
     private readonly PathBuffer _dashes = new();
     private readonly double _tolerance;
 
@@ -53,6 +56,7 @@ internal abstract class MetafilePlayer : PagePlayer
     {
         Rgba paper = Settings.Background;
         int stride = ((image.Width * 3) + 3) / 4 * 4;
+        Budget.Step(image.Width * (long)image.Height / PixelsPerStep);
         byte[] rows = new byte[(long)stride * image.Height];
         for (int y = 0; y < image.Height; y++)
         {

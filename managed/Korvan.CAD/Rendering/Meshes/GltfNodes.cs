@@ -34,6 +34,7 @@ internal sealed class GltfNodes(GltfBuffer buffer)
     {
         foreach (Node node in nodes)
         {
+            Budget.Check();
             Affine3 toParent = Affine3.Translation(-parentOrigin) * node.Transform;
             if (node.Mesh is not null)
             {

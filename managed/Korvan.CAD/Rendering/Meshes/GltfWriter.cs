@@ -23,6 +23,8 @@ internal sealed class GltfWriter
     private const uint BinaryChunk = 0x004E4942;
     private const double MillimetresPerMetre = 1000;
 
+    private const int FlushedBytes = 1 << 16;
+
     private readonly GltfBuffer _buffer = new();
     private readonly List<GltfNode> _nodes;
     private readonly Dictionary<Material, int> _materials = [];
@@ -49,7 +51,7 @@ internal sealed class GltfWriter
     internal void WriteBinary(Stream output)
     {
         byte[] data = _buffer.Write();
-        using var text = new MemoryStream();
+        using var text = new BoundedMemoryStream();
         using (var json = new Utf8JsonWriter(text))
         {
             WriteJson(json, null);
@@ -125,6 +127,10 @@ internal sealed class GltfWriter
             json.WriteStartObject();
             write(item);
             json.WriteEndObject();
+            if (json.BytesPending > FlushedBytes)
+            {
+                json.Flush(); // the writer gathers everything that it is not asked for
+            }
         }
 
         json.WriteEndArray();
