@@ -94,6 +94,11 @@ class Bombs(unittest.TestCase):
             ("formats.dxf", hostile.drawing(hostile.mtext("\\La\\la" * 80_000)), pages, {"done"}),
             ("unended.dxf", hostile.drawing(hostile.mtext("\\f\\S\\;" * 100_000)), pages, {"done"}),
             ("recursive.dxf", hostile.drawing(hostile.mtext("\\p" + "x" * 900_000 + ";a")), pages, {"done"}),
+            ("paragraphs.dxf", hostile.drawing(
+                hostile.insert("A", more="70\n700\n71\n700\n44\n10\n45\n10\n"),
+                hostile.block("A", hostile.mtext("some {\\fArial|b1;words}\\P that wrap " * 10, 30))
+            ), ("PngOptions",), NOT_SAVED),
+            ("marks.dxf", hostile.drawing(hostile.mtext("a\\U+0301" * 60_000)), ("EmfOptions", "WmfOptions"), {"done"}),
             ("gaps.dxf", hostile.drawing(hostile.hatch(
                 [hostile.square(0, 0, 1e4)], *(hostile.hatch_line(angle, 20, -0.02) for angle in range(40))
             )), pages, {"done"}),

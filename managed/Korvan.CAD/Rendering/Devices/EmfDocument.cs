@@ -239,11 +239,12 @@ internal sealed class EmfDocument : MetafilePlayer
     private int[] Advances(in TextRun run, double height)
     {
         var widths = new int[run.Text.Length];
+        double[] ends = EndsOf(run);
         int before = 0;
         for (int i = 0, next; i < widths.Length; i = next)
         {
             next = i + LengthAt(run.Text, i);
-            int until = Round(StartOf(run, next) * height);
+            int until = Round(ends[i] * height);
             widths[i] = until - before;
             before = until;
         }

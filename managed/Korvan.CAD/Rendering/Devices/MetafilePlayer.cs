@@ -12,6 +12,9 @@ internal abstract class MetafilePlayer : PagePlayer
     /// <summary>The pixels that take about as long as one step of the budget.</summary>
     private const int PixelsPerStep = 1000;
 
+    /// <summary>Characters that are measured together: what is measured for each grows with them.</summary>
+    private const int LongestPiece = 64;
+
     private readonly PathBuffer _dashes = new();
     private readonly double _tolerance;
 
@@ -75,8 +78,31 @@ internal abstract class MetafilePlayer : PagePlayer
         return rows;
     }
 
+    /// <summary>Where each character ends, in ems, by its index in the text; the second half of a pair has
+    /// none.</summary>
+    protected double[] EndsOf(in TextRun run)
+    {
+        double[] ends = new double[run.Text.Length];
+        double before = 0;
+        for (int start = 0, length; start < ends.Length; start += length)
+        {
+            length = Math.Min(LongestPiece, ends.Length - start);
+            length -= length == LongestPiece && char.IsHighSurrogate(run.Text[start + length - 1]) ? 1 : 0;
+            TextRun piece = run with { Text = run.Text.Substring(start, length) };
+            for (int i = 0, next; i < length; i = next)
+            {
+                next = i + LengthAt(piece.Text, i);
+                ends[start + i] = before + StartOf(piece, next);
+            }
+
+            before += Engine.Advance(run.Font, piece.Text, run.LetterSpacing);
+        }
+
+        return ends;
+    }
+
     /// <summary>Where a character starts, in ems. What is kerned is the advance of the one before.</summary>
-    protected double StartOf(in TextRun run, int at)
+    private double StartOf(in TextRun run, int at)
     {
         int end = at + LengthAt(run.Text, at);
         double until = Engine.Advance(run.Font, run.Text[..end], run.LetterSpacing);

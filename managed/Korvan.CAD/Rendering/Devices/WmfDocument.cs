@@ -230,11 +230,12 @@ internal sealed class WmfDocument : MetafilePlayer
     private short[] Advances(in TextRun run, double size)
     {
         var widths = new short[run.Text.Length];
+        double[] ends = EndsOf(run);
         double before = 0;
         for (int i = 0, next; i < widths.Length; i = next)
         {
             next = i + LengthAt(run.Text, i);
-            double until = Math.Round(StartOf(run, next) * size);
+            double until = Math.Round(ends[i] * size);
             widths[i] = Round(until - before);
             before = until;
         }

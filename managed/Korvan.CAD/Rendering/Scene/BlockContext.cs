@@ -20,7 +20,7 @@ internal sealed record BlockContext
     /// <summary>The reference's own pen, for everything that is "by block".</summary>
     internal Pen ByBlock { get; init; }
 
-    /// <summary>Set inside of a viewport: layers frozen there.</summary>
+    /// <summary>Set inside of a viewport: layers frozen or changed there.</summary>
     internal ViewportScope? Viewport { get; init; }
 
     /// <summary>What the entities of a block inherit that is drawn from here.</summary>
@@ -50,4 +50,8 @@ internal sealed record BlockContext
 }
 
 /// <summary>What a viewport changes for the model that it shows.</summary>
-internal sealed record ViewportScope(System.Collections.Generic.IReadOnlySet<string> FrozenLayers, double PatternScale);
+internal sealed record ViewportScope(System.Collections.Generic.IReadOnlySet<string> FrozenLayers, double PatternScale)
+{
+    /// <summary>Gets the layers that have properties of their own there, by name; null for none.</summary>
+    internal System.Collections.Generic.IReadOnlyDictionary<string, LayerInfo>? Layers { get; init; }
+}

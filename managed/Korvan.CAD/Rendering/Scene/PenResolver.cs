@@ -24,7 +24,9 @@ internal sealed class PenResolver
     private readonly DrawingList _list;
     private readonly bool _showWeights;
     private readonly PlotColors _plots;
+    private readonly bool _isExternal;
     private string? _lastLayerName;
+    private ViewportScope? _lastViewport;
     private LayerInfo? _lastLayer;
 
     /// <summary>A resolver; sheets of paper and plots show line weights, the model only where the screen
@@ -41,6 +43,7 @@ internal sealed class PenResolver
     private PenResolver(PenResolver other, SceneTables tables)
     {
         (_tables, _style, _list) = (tables, other._style, other._list);
+        _isExternal = true; // names of its layers have nothing to do with those of the sheet
         (_showWeights, _plots, Styles, PlotUnit) = (other._showWeights, other._plots, other.Styles, other.PlotUnit);
     }
 
@@ -62,10 +65,15 @@ internal sealed class PenResolver
             return context.Layer;
         }
 
-        if (!ReferenceEquals(name, _lastLayerName))
+        if (!ReferenceEquals(name, _lastLayerName) || !ReferenceEquals(context.Viewport, _lastViewport))
         {
             _lastLayer = _tables.Layer(name);
-            _lastLayerName = name;
+            if (!_isExternal && context.Viewport?.Layers?.TryGetValue(name, out LayerInfo? changed) == true)
+            {
+                _lastLayer = changed;
+            }
+
+            (_lastLayerName, _lastViewport) = (name, context.Viewport);
         }
 
         return _lastLayer!;

@@ -49,7 +49,10 @@ internal sealed partial class SceneBuilder
         Affine3 map = ViewTransform.Viewport(
             view.Target, view.Direction, view.Twist, view.Center, view.Height, center, viewport.Height);
         var scope = new ViewportScope(
-            FrozenNames(viewport, view), _tables.Settings.PaperLinetypeScale ? 1 : viewport.Height / view.Height);
+            FrozenNames(viewport, view), _tables.Settings.PaperLinetypeScale ? 1 : viewport.Height / view.Height)
+        {
+            Layers = _tables.ViewportLayers.In(viewport),
+        };
         AddViewportOutline(viewport, sheet, context);
         List.PushClip(_canvas.Path, evenOdd: true);
         DrawSpace(model, new BlockContext { Map = map, Viewport = scope });

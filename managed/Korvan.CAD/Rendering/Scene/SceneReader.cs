@@ -53,6 +53,7 @@ internal static class SceneReader
             Images = ImageFiles.Of(drawing),
             Shapes = ShapeFiles.Of(drawing),
             Clips = ClipBoundaries.Of(drawing),
+            ViewportLayers = ViewportLayers.Of(drawing),
             PlotStyles = PlotStyleFiles.Of(drawing),
             External = new ExternalDrawings(drawing.Folder, isNested: false),
             Dimensions = new DimensionStyles(drawing),

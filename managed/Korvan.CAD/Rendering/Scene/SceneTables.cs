@@ -162,6 +162,9 @@ internal sealed class SceneTables
     /// <summary>What block references are clipped to.</summary>
     internal ClipBoundaries Clips { get; set; } = ClipBoundaries.None;
 
+    /// <summary>What viewports change of layers.</summary>
+    internal ViewportLayers ViewportLayers { get; set; } = ViewportLayers.None;
+
     internal SceneSettings Settings { get; set; } = new();
 
     internal LayerInfo Layer(string name) => Layers.TryGetValue(name, out LayerInfo? layer) ? layer : AddLayer(name);

@@ -11,6 +11,9 @@ internal static class TextLayouts
 {
     private const double MaxLineSpacing = 100;
 
+    /// <summary>Characters that take as long as a step of work to be laid out and placed.</summary>
+    private const int CharactersPerStep = 32;
+
     internal static SingleLine LineOf(in TextLine text, SceneTables tables)
     {
         StyleInfo style = tables.Style(text.StyleName);
@@ -39,6 +42,7 @@ internal static class TextLayouts
 
     internal static MTextLayout LayoutOf(CadMText text, SceneTables tables, TextEngine engine)
     {
+        Budget.Step(text.Text.Length / CharactersPerStep); // again for each reference of a block
         double height = HeightOf(text, tables);
         MTextFormat start = StartFormat(tables.Style(text.TextStyleName), height);
         double spacing = text.LineSpacingFactor is > 0 and < MaxLineSpacing ? text.LineSpacingFactor : 1;
@@ -62,6 +66,7 @@ internal static class TextLayouts
 
     internal static VerticalTextLayout VerticalOf(CadMText text, SceneTables tables, TextEngine engine)
     {
+        Budget.Step(text.Text.Length / CharactersPerStep);
         double height = HeightOf(text, tables);
         MTextFormat start = StartFormat(tables.Style(text.TextStyleName), height);
         double spacing = text.LineSpacingFactor is > 0 and < MaxLineSpacing ? text.LineSpacingFactor : 1;

@@ -5,6 +5,7 @@ using Korvan.CAD.DisplayList;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.Geometry;
@@ -84,6 +85,47 @@ public class SheetTests
         DrawingList list = BuildSheet(drawing);
         DisplayItem stroke = list.Items.ToArray().First(i => i.Dash >= 0);
         Assert.Equal(expected, list.DashOf(stroke)[0]);
+    }
+
+    [Fact]
+    public void Layers_have_properties_of_their_own_in_a_viewport()
+    {
+        CadImage drawing = TestPage.Drawing(new CadLine { SecondPoint = new Cad3DPoint(9, 0, 0), LayerName = "walls" });
+        TestPage.AddLayer(drawing, "walls", 3);
+        var type = new CadLineTypeTableObject { Name = "D", ObjectHandle = "D0" };
+        type.Pattern.AddRange([2, -1]);
+        drawing.LineTypes.Add(type);
+        for (short id = 2; id < 4; id++)
+        {
+            drawing.PaperSpaceEntities.Add(
+                new CadViewport { ViewportId = id, Width = 40, Height = 40, ViewHeight = 40, ObjectHandle = $"F{id}" });
+        }
+
+        var extension = new CadDictionary();
+        drawing.Objects.Add(extension);
+        extension.ObjectHandle = "E0";
+        foreach ((string kind, int code, string value) in ((string, int, string)[])[
+            ("COLOR", 420, "-1023410170"), ("LINETYPE", 343, type.ObjectHandle), ("LINEWT", 91, "100"),
+            ("ALPHA", 440, "33554560")])
+        {
+            var record = new CadXRecord();
+            drawing.Objects.Add(record);
+            record.ObjectHandle = $"E{drawing.Objects.Count:X4}";
+            foreach ((int at, string text) in ((int, string)[])[(335, "F9"), (code, "1"), (335, "F3"), (code, value)])
+            {
+                record.Data.Add(new CadCodeValue(at, text));
+            }
+
+            extension.Set($"ADSK_XREC_LAYER_{kind}_OVR", record.ObjectHandle);
+        }
+
+        var group = new CadApplicationCodes(CadApplicationCodesContainerValues.ExtensionDictionary);
+        group.Codes.Add(new CadCodeValue(360, extension.ObjectHandle));
+        drawing.Layers["walls"].ApplicationCodesContainer.ApplicationCodes.Add(group);
+        DisplayItem[] lines = [.. BuildSheet(drawing).Items.ToArray().Where(static one => one.VerbCount == 2)];
+        Assert.Equal([new Rgba(0, 255, 0), new Rgba(255, 0, 255, 128)], lines.Select(static one => one.Color));
+        Assert.Equal([false, true], lines.Select(static one => one.Dash >= 0));
+        Assert.Equal([0.25f, 1], lines.Select(static one => one.LineWeight));
     }
 
     [Fact]
