@@ -23,6 +23,10 @@ internal sealed class DenseFiller
 
     private const int SubColumns = 16;
 
+    /// <summary>The cells for each crossing of a row from which on a search for the next one is faster than a
+    /// walk.</summary>
+    private const int CellsOfCrossing = 8;
+
     /// <summary>The cells of a few rows, which stay in the cache of the processor.</summary>
     private const int MaxCells = 1 << 19;
     private const int MaxCurveLines = 256;
@@ -40,6 +44,7 @@ internal sealed class DenseFiller
     private int _cells;
     private int _firstCell;
     private int _endCell;
+    private bool _isSparse;
 
     /// <summary>A filler of rows of a page.</summary>
     /// <param name="pixels">Receives the coverage of pixels.</param>
@@ -86,6 +91,7 @@ internal sealed class DenseFiller
             }
 
             (_firstCell, _endCell) = (int.MaxValue, 0);
+            _isSparse = _active.Count < _cells / CellsOfCrossing;
             CountCrossings(first * subRows, end * subRows);
             for (int y = first; y < end && _firstCell <= _endCell; y++)
             {
@@ -239,7 +245,15 @@ internal sealed class DenseFiller
         int mask = evenOdd ? 1 : -1;
         for (int s = firstSubRow; s < firstSubRow + _subRows; s++)
         {
-            SumCells(_crossings.AsSpan(s * (_cells + 1), _cells + 1), mask);
+            Span<short> crossings = _crossings.AsSpan(s * (_cells + 1), _cells + 1);
+            if (_isSparse)
+            {
+                SumRuns(crossings, mask);
+            }
+            else
+            {
+                SumCells(crossings, mask);
+            }
         }
 
         int samples = _subRows * SubColumns;
@@ -268,6 +282,54 @@ internal sealed class DenseFiller
         }
 
         crossings[_endCell] = 0;
+    }
+
+    /// <summary>The same for rows whose crossings are far from each other.</summary>
+    private void SumRuns(Span<short> crossings, int mask)
+    {
+        int winding = 0;
+        for (int from = _firstCell, at = from; ; at = from + 1)
+        {
+            int gap = crossings[at.._endCell].IndexOfAnyExcept((short)0);
+            int next = gap < 0 ? _endCell : at + gap;
+            if ((winding & mask) != 0)
+            {
+                AddRun(from, next);
+            }
+
+            if (gap < 0)
+            {
+                break;
+            }
+
+            winding += crossings[next];
+            crossings[next] = 0;
+            from = next;
+        }
+
+        crossings[_endCell] = 0;
+    }
+
+    private void AddRun(int from, int to)
+    {
+        int first = from / SubColumns;
+        int last = to / SubColumns;
+        if (first == last)
+        {
+            _sums[first] += (ushort)(to - from);
+            return;
+        }
+
+        _sums[first] += (ushort)(SubColumns - (from % SubColumns));
+        foreach (ref ushort sum in _sums.AsSpan(first + 1, last - first - 1))
+        {
+            sum += SubColumns;
+        }
+
+        if (to % SubColumns != 0)
+        {
+            _sums[last] += (ushort)(to % SubColumns);
+        }
     }
 
     /// <summary>A line between rows of samples.</summary>
