@@ -10,7 +10,7 @@ function(korvan_managed_sources out)
   foreach(folder ${ARGN})
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS
       "${folder}/*.cs" "${folder}/*.csproj" "${folder}/*.props" "${folder}/*.targets"
-      "${folder}/*.pyi")
+      "${folder}/*.pyi" "${folder}/*.txt" "${folder}/*.dxf")
     list(APPEND all ${sources})
   endforeach()
   list(APPEND all "${CMAKE_SOURCE_DIR}/Directory.Build.props" "${CMAKE_SOURCE_DIR}/global.json")
