@@ -18,6 +18,8 @@ internal static unsafe class Jpeg2000Codec
     private const int BytesOfWholeSample = 8;
     private const int TileSide = 1024;
     private const int MaxResolutions = 6;
+    private const int MinSamplesOfThreads = 250_000;
+    private const int MaxThreads = 8;
 
     internal static void Write(PixelGrid pixels, Jpeg2000Options options, Stream output)
     {
@@ -63,7 +65,8 @@ internal static unsafe class Jpeg2000Codec
         using (OpenJpegStreamHandle stream = OpenStream(bridge, input: false))
         {
             OpenJpeg.SetErrorHandler(codec, &OnError, bridge.Closure);
-            done = OpenJpeg.SetupEncoder(codec, &parameters, image) != 0 && OpenJpeg.Start(codec, image, stream) != 0
+            done = OpenJpeg.SetupEncoder(codec, &parameters, image) != 0 && UseThreads(codec, samples)
+                && OpenJpeg.Start(codec, image, stream) != 0
                 && (hasTiles ? WriteTiles(codec, stream, pixels, colors, count) : OpenJpeg.Encode(codec, stream) != 0)
                 && OpenJpeg.End(codec, stream) != 0;
         }
@@ -105,7 +108,8 @@ internal static unsafe class Jpeg2000Codec
         Verify(read, source, bridge);
         VerifySize(image.Header, source, data.Length);
         using var room = new NativeRoom(SampleBytes(image.Header));
-        bool whole = OpenJpeg.Decode(codec, stream, image) != 0 && OpenJpeg.EndDecompress(codec, stream) != 0;
+        bool whole = UseThreads(codec, SampleBytes(image.Header) / sizeof(int))
+            && OpenJpeg.Decode(codec, stream, image) != 0 && OpenJpeg.EndDecompress(codec, stream) != 0;
         Verify(whole, source, bridge);
         return Jpeg2000Planes.ToPixels(image.Header, source, out bitsPerPixel);
     }
@@ -139,6 +143,14 @@ internal static unsafe class Jpeg2000Codec
 
     private static long SampleBytes(in OpenJpeg.ImageHeader image) =>
         ((long)image.X1 - image.X0) * ((long)image.Y1 - image.Y0) * image.ComponentCount * sizeof(int);
+
+    // Blocks of samples are coded on their own, by as many threads as there are processors. A forked child has none of
+    // the runtime's that could take over a message of theirs.
+    private static bool UseThreads(OpenJpegCodecHandle codec, long samples)
+    {
+        int count = ForkedProcess.IsChild || samples < MinSamplesOfThreads ? 1 : Environment.ProcessorCount;
+        return count == 1 || OpenJpeg.SetThreads(codec, Math.Min(count, MaxThreads)) != 0;
+    }
 
     private static int Resolutions(int side)
     {

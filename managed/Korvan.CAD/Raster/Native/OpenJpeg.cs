@@ -42,6 +42,9 @@ internal static unsafe partial class OpenJpeg
     [LibraryImport(Library, EntryPoint = "opj_setup_decoder")]
     internal static partial int SetupDecoder(OpenJpegCodecHandle codec, byte* parameters);
 
+    [LibraryImport(Library, EntryPoint = "opj_codec_set_threads")]
+    internal static partial int SetThreads(OpenJpegCodecHandle codec, int count);
+
     [LibraryImport(Library, EntryPoint = "opj_decoder_set_strict_mode")]
     internal static partial int SetStrict(OpenJpegCodecHandle codec, int strict);
 

@@ -4,6 +4,7 @@ using System.Linq;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.PaletteHelper;
+using Korvan.CAD.Raster.Colors;
 using Korvan.CAD.Tests.Rendering;
 using Xunit;
 
@@ -199,6 +200,26 @@ public class PixelTests
             2, ColorPalette.FromColors([Color.Transparent, Color.White, Color.Black])
             .GetNearestColorIndex(Color.FromArgb(30, 20, 10)));
         Assert.Throws<ArgumentException>(() => new ColorPalette(Array.Empty<int>()));
+    }
+
+    [Theory]
+    [InlineData(ColorCompareMethod.Euclidean)]
+    [InlineData(ColorCompareMethod.Weighted)]
+    [InlineData(ColorCompareMethod.Luminance)]
+    public void Nearest_colours_are_the_first_of_the_least_distance(ColorCompareMethod method)
+    {
+        var random = new Random(7);
+        int Next() => random.Next(6) == 0 ? random.Next(1 << 24) : random.Next() | random.Next(2) << 31;
+        foreach (int size in (int[])[1, 7, 8, 61, 256])
+        {
+            int[] entries = [.. Enumerable.Range(0, size).Select(_ => Next())];
+            var palette = new ColorPalette(entries) { CompareMethod = method };
+            foreach (int color in Enumerable.Range(0, 500).Select(i => i % 9 == 0 ? entries[i % size] : Next()))
+            {
+                long[] distances = Array.ConvertAll(entries, entry => PaletteLookup.Distance(color, entry, method));
+                Assert.Equal(Array.IndexOf(distances, distances.Min()), palette.GetNearestColorIndex(color));
+            }
+        }
     }
 
     [Fact]
