@@ -222,7 +222,7 @@ internal static class BitsText
         if (coding == "B")
         {
             return isBool ? $"{name} = fields.Bit({name})"
-                : $"{name} = ({cast})(fields.Bit((int){name} != 0) ? 1 : 0)";
+                : $"{name} = ({cast})fields.Flag((int){name})";
         }
 
         if (Integers.TryGetValue(coding, out string integer))

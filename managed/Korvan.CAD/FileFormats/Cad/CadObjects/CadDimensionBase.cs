@@ -92,8 +92,7 @@ public abstract partial class CadDimensionBase : CadDimensionBaseR12
     {
         const int ownBlock = 32;
         const int userPosition = 128;
-        double elevation = fields.BitDouble(MiddleOfTextPoint.Z);
-        (MiddleOfTextPoint.Z, InsertionPoint.Z) = (elevation, elevation);
+        fields.Elevation(MiddleOfTextPoint, InsertionPoint);
         int flags = ((TypeOfDimension & userPosition) == 0 ? 1 : 0) | ((TypeOfDimension & ownBlock) != 0 ? 2 : 0);
         flags = fields.RawByte(flags);
         TypeOfDimension = (short)((TypeOfDimension & ~(ownBlock | userPosition))

@@ -33,11 +33,10 @@ public partial class CadSolid : CadExtrudedEntityBase
     // One elevation for all corners.
     private void ExchangeCorners(BitExchange fields)
     {
-        double elevation = fields.BitDouble(FirstPoint.Z);
+        fields.Elevation(FirstPoint, SecondPoint, ThirdPoint, FourthPoint);
         foreach (Cad3DPoint corner in (Cad3DPoint[])[FirstPoint, SecondPoint, ThirdPoint, FourthPoint])
         {
             fields.RawPoint2(corner);
-            corner.Z = elevation;
         }
     }
 }

@@ -109,11 +109,10 @@ public partial class CadText : CadExtrudedEntityBase
             return;
         }
 
-        double elevation = fields.BitDouble(FirstAlignment.Z);
+        fields.Elevation(FirstAlignment, SecondAlignment);
         fields.RawPoint2(FirstAlignment);
         fields.RawPoint2(SecondAlignment);
         fields.Point3(ExtrusionDirection);
-        (FirstAlignment.Z, SecondAlignment.Z) = (elevation, elevation);
         Thickness = fields.BitDouble(Thickness);
         ObliqueAngle = fields.Angle(ObliqueAngle);
         TextRotation = fields.Angle(TextRotation);
@@ -131,12 +130,12 @@ public partial class CadText : CadExtrudedEntityBase
         int left = fields.RawByte(DefaultFields());
         double elevation = (left & 1) == 0 ? fields.RawDouble(FirstAlignment.Z) : 0;
         fields.RawPoint2(FirstAlignment);
-        FirstAlignment.Z = elevation;
+        fields.SetElevation(elevation, FirstAlignment);
         if ((left & 2) == 0)
         {
             SecondAlignment.X = fields.DoubleAfter(SecondAlignment.X, FirstAlignment.X);
             SecondAlignment.Y = fields.DoubleAfter(SecondAlignment.Y, FirstAlignment.Y);
-            SecondAlignment.Z = elevation;
+            fields.SetElevation(elevation, SecondAlignment);
         }
 
         fields.Extrusion(ExtrusionDirection);

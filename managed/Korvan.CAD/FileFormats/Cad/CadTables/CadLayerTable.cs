@@ -124,7 +124,7 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
 
     // Text files state that there is none.
     private void ExchangeVisualStyle(BitExchange fields) => VisualStyleHandle =
-        fields.Handle(HandleRole.HardPointer, VisualStyleHandle.Length > 0 ? VisualStyleHandle : "0");
+        fields.Handle(HandleRole.HardPointer, fields.IsReading ? "0" : VisualStyleHandle);
 
     // The kinds that files have since release 2000: frozen, on, frozen in new viewports, locked, plotted, line weight.
     private void ExchangeState(BitExchange fields)
@@ -141,6 +141,11 @@ public partial class CadLayerTable : CadSymbolTableGroupCodes
         int state = (IsFrozen ? 1 : 0) | (IsOn ? 0 : OffState) | ((Flags & FrozenInNew) << 1) | (IsLocked ? 8 : 0)
             | (IsPlottable ? PlottedState : 0) | (LineWeights.ToNumber(LineWeight) << WeightShift);
         state = fields.BitShort(state);
+        if (!fields.IsReading)
+        {
+            return;
+        }
+
         TakeState((state & 1) != 0, (state & OffState) == 0, (state & 4) != 0, (state & 8) != 0);
         PlotFlag = (short)((state & PlottedState) != 0 ? 1 : 0);
         LineWeight = LineWeights.ToLineWeight((state >> WeightShift) & LineWeights.Mask);

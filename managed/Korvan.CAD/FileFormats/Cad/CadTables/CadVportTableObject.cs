@@ -217,7 +217,7 @@ public partial class CadVportTableObject : CadSymbolTableGroupCodes
     private void ExchangeWidth(BitExchange fields)
     {
         double width = fields.BitDouble(ViewHeight * ViewAspectRatio);
-        ViewAspectRatio = ViewHeight == 0 ? ViewAspectRatio : width / ViewHeight;
+        ViewAspectRatio = !fields.IsReading || ViewHeight == 0 ? ViewAspectRatio : width / ViewHeight;
     }
 
     private void ExchangeFollow(BitExchange fields) =>

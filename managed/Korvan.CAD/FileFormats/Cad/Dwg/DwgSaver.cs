@@ -8,7 +8,6 @@ using Korvan.CAD.Encodings;
 using Korvan.CAD.FileFormats.Cad.Acis;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
-using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
@@ -62,7 +61,6 @@ internal static class DwgSaver
         List<CadDbColor> colors = BookColors.AddMissing(drawing, release);
         DrawingIntegrity.Prepare(drawing, release);
         BookColors.Link(drawing, colors);
-        LinkMultilineStyles(drawing);
     }
 
     // Data of a modeler are written as they are: what later versions of it added cannot be taken out.
@@ -82,20 +80,6 @@ internal static class DwgSaver
             .Where(version => version > known).GroupBy(static version => version)
             .Select(group => $"{group.Count()} solids or surfaces have data of version {group.Key} of the modeler; "
                 + $"programs of release {release} may know versions up to {known} only");
-    }
-
-    // Records lead to the style of a multiline, which programs and old text files may know by its name only.
-    private static void LinkMultilineStyles(CadDrawing drawing)
-    {
-        List<CadMLineStyleObject> styles = [.. drawing.Objects.OfType<CadMLineStyleObject>()];
-        foreach (CadMultiLine line in DrawingWalk.Entities(drawing).OfType<CadMultiLine>())
-        {
-            bool isLinked = HandleText.TryParse(line.StyleHandle, out ulong handle)
-                && styles.Exists(style => style.Handle == handle);
-            CadMLineStyleObject? named = isLinked ? null : styles.Find(style =>
-                string.Equals(style.StyleName, line.StyleName, StringComparison.OrdinalIgnoreCase));
-            line.StyleHandle = named?.ObjectHandle ?? line.StyleHandle;
-        }
     }
 
     // Drawings of a release that is not written become those of the next one.

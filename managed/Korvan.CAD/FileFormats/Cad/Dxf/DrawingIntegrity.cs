@@ -5,6 +5,7 @@ using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Dictionary;
+using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model;
@@ -45,7 +46,28 @@ internal static class DrawingIntegrity
             LinkDictionary(drawing, layouts);
             LinkLayouts(drawing);
             SetOwners(drawing);
+            LinkMultilineStyles(drawing);
             RemoveDanglingEntries(drawing);
+        }
+    }
+
+    // Files lead to the style of a multiline, which programs and old text files may know by its name only.
+    private static void LinkMultilineStyles(CadDrawing drawing)
+    {
+        HashSet<ulong> handles = [];
+        Dictionary<string, string> named = new(StringComparer.OrdinalIgnoreCase);
+        foreach (CadMLineStyleObject style in drawing.Objects.OfType<CadMLineStyleObject>())
+        {
+            handles.Add(style.Handle);
+            named.TryAdd(style.StyleName, style.ObjectHandle);
+        }
+
+        foreach (CadMultiLine line in DrawingWalk.Entities(drawing).OfType<CadMultiLine>())
+        {
+            if (!HandleText.TryParse(line.StyleHandle, out ulong handle) || !handles.Contains(handle))
+            {
+                line.StyleHandle = named.GetValueOrDefault(line.StyleName, line.StyleHandle);
+            }
         }
     }
 

@@ -12,12 +12,41 @@ internal abstract partial class BitExchange
     private const double DegreesPerRadian = 180 / Math.PI;
 
     /// <summary>Carries an angle: degrees in the object, radians in the file.</summary>
-    internal double Angle(double degrees) => IsReading
-        ? ToDegrees(BitDouble(0)) : ToDegrees(BitDouble(degrees / DegreesPerRadian));
+    internal double Angle(double degrees)
+    {
+        double radians = BitDouble(degrees / DegreesPerRadian);
+        return IsReading ? ToDegrees(radians) : degrees;
+    }
 
     /// <summary>Carries an angle of eight bytes.</summary>
-    internal double RawAngle(double degrees) => IsReading
-        ? ToDegrees(RawDouble(0)) : ToDegrees(RawDouble(degrees / DegreesPerRadian));
+    internal double RawAngle(double degrees)
+    {
+        double radians = RawDouble(degrees / DegreesPerRadian);
+        return IsReading ? ToDegrees(radians) : degrees;
+    }
+
+    /// <summary>Carries a number that is a flag (B).</summary>
+    internal int Flag(int value)
+    {
+        bool isSet = Bit(value != 0);
+        return IsReading ? (isSet ? 1 : 0) : value;
+    }
+
+    /// <summary>Carries the elevation of points that have one together (BD).</summary>
+    internal void Elevation(params ReadOnlySpan<Cad3DPoint> points)
+    {
+        double elevation = BitDouble(points[0].Z);
+        SetElevation(elevation, points);
+    }
+
+    /// <summary>Gives points their elevation, where they are read.</summary>
+    internal void SetElevation(double elevation, params ReadOnlySpan<Cad3DPoint> points)
+    {
+        foreach (Cad3DPoint point in IsReading ? points : [])
+        {
+            point.Z = elevation;
+        }
+    }
 
     /// <summary>Carries a thickness (BT).</summary>
     internal double Thickness(double value) =>
@@ -177,11 +206,12 @@ internal abstract partial class BitExchange
         }
     }
 
-    // Whole degrees stay whole.
+    // Whole degrees stay whole: what the conversions of both directions add is taken off, and no more.
     private static double ToDegrees(double radians)
     {
+        const double roundingError = 2e-15;
         double degrees = radians * DegreesPerRadian;
         double rounded = Math.Round(degrees, 10);
-        return Math.Abs(degrees - rounded) < 1e-12 * Math.Abs(degrees) ? rounded : degrees;
+        return Math.Abs(degrees - rounded) < roundingError * Math.Abs(degrees) ? rounded : degrees;
     }
 }

@@ -50,8 +50,8 @@ public partial class CadTableCell
         List<CadCodeValue> found = [];
         CellType = (short)fields.BitShort(CellType);
         CellFlags = (short)fields.RawByte(CellFlags);
-        IsMerged = (short)(fields.Bit(IsMerged != 0) ? 1 : 0);
-        AutoFit = (short)(fields.Bit(AutoFit != 0) ? 1 : 0);
+        IsMerged = (short)fields.Flag(IsMerged);
+        AutoFit = (short)fields.Flag(AutoFit);
         MergedWidth = (short)fields.BitLong(MergedWidth);
         MergedHeight = (short)fields.BitLong(MergedHeight);
         Rotation = fields.BitDouble(Rotation);

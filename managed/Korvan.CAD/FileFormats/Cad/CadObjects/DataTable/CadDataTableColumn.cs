@@ -110,7 +110,7 @@ public class CadDataTableColumn
                 Run(fields, Integers, rows, static (to, value) => to.BitLong(value));
                 break;
             case BooleanType:
-                Run(fields, Integers, rows, static (to, value) => to.Bit(value != 0) ? 1 : 0);
+                Run(fields, Integers, rows, static (to, value) => to.Flag(value));
                 break;
             case NumberType:
                 Run(fields, Numbers, rows, static (to, value) => to.BitDouble(value));

@@ -21,8 +21,8 @@ internal static class HatchBits
         hatch.ElevationPoint.Z = fields.BitDouble(hatch.ElevationPoint.Z);
         fields.Point3(hatch.ExtrusionDirection);
         hatch.PatternName = fields.Text(hatch.PatternName);
-        hatch.SolidFillFlag = (short)(fields.Bit(hatch.SolidFillFlag != 0) ? 1 : 0);
-        hatch.AssociativityFlag = (short)(fields.Bit(hatch.AssociativityFlag != 0) ? 1 : 0);
+        hatch.SolidFillFlag = (short)fields.Flag(hatch.SolidFillFlag);
+        hatch.AssociativityFlag = (short)fields.Flag(hatch.AssociativityFlag);
         int paths = fields.CountLong(hatch.BoundaryPaths.Count);
         bool hasDerived = false;
         for (int i = 0; i < paths; i++)
@@ -102,7 +102,7 @@ internal static class HatchBits
     {
         hatch.PatternAngle = fields.Angle(hatch.PatternAngle);
         hatch.PatternScale = fields.BitDouble(hatch.PatternScale);
-        hatch.DoubleFlag = (short)(fields.Bit(hatch.DoubleFlag != 0) ? 1 : 0);
+        hatch.DoubleFlag = (short)fields.Flag(hatch.DoubleFlag);
         int count = fields.CountShort(hatch.PatternDefinitions.Count);
         for (int i = 0; i < count; i++)
         {

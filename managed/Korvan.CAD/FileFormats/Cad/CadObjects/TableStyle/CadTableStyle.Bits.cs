@@ -38,9 +38,11 @@ public partial class CadTableStyle
             StoreStyles(fields);
         }
 
-        Version = (short)fields.RawByte(Version == -1 ? 0 : Version);
+        int version = fields.RawByte(Version == -1 ? 0 : Version);
+        Version = fields.IsReading ? (short)version : Version;
         StyleName = fields.Text(StyleName);
-        FlowDirection = (short)(fields.BitLong(FlowDirection) & 1);
+        int direction = fields.BitLong(FlowDirection);
+        FlowDirection = fields.IsReading ? (short)(direction & 1) : FlowDirection;
         Flags = (short)fields.BitLong(Flags);
         fields.Handle(HandleRole.HardOwner, 0);
         Whole.ExchangeBits(fields);

@@ -1,7 +1,9 @@
 using System;
 using System.Collections.Generic;
 using System.Globalization;
+using System.IO;
 using System.Linq;
+using System.Text;
 using System.Text.RegularExpressions;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Hatch;
@@ -10,6 +12,8 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Cad;
+using Korvan.CAD.CadExceptions;
+using Korvan.CAD.ImageOptions;
 using Xunit;
 using Xunit.Abstractions;
 
@@ -101,6 +105,67 @@ public partial class PropertyLossTests(ITestOutputHelper output)
         }
 
         Assert.Empty(unknown.Take(20));
+    }
+
+    /// <summary>A drawing that was saved as DWG is the one that it was, whatever the release cannot hold.</summary>
+    [Theory]
+    [InlineData(CadAcadVersion.AC1015)]
+    [InlineData(CadAcadVersion.AC1024)]
+    [InlineData(CadAcadVersion.AC1032)]
+    public void Saving_changes_nothing(CadAcadVersion version)
+    {
+        List<string> changed = [];
+        foreach (object[] type in PropertyRoundTripTests.Entities.Concat(PropertyRoundTripTests.Objects)
+            .Concat(PropertyRoundTripTests.Records))
+        {
+            changed.AddRange(Changes((Type)type[0], version, isFilled: false));
+            changed.AddRange(Changes((Type)type[0], version, isFilled: true));
+        }
+
+        changed.ForEach(output.WriteLine);
+        Assert.Empty(changed);
+    }
+
+    private static IEnumerable<string> Changes(Type type, CadAcadVersion version, bool isFilled)
+    {
+        CadBaseObject item = (CadBaseObject)Activator.CreateInstance(type)!;
+        if (isFilled)
+        {
+            PropertyRoundTripTests.Fill(item);
+            Limit(item);
+            if (item is CadEntityBase entity)
+            {
+                entity.ColorName = ""; // an object is added for it
+            }
+        }
+
+        using CadImage image = new();
+        AddTo(image, item);
+        DxfOptions text = new() { Version = DxfOutputVersion.R2018 };
+        string[] before, after;
+        try
+        {
+            // What has no handle yet gets one.
+            Save(image, text);
+            before = Save(image, text).Split('\n');
+            Save(image, new DwgOptions { Version = version });
+            after = Save(image, text).Split('\n');
+        }
+        catch (ImageSaveException)
+        {
+            return [];
+        }
+
+        return before.Zip(after).Where(static pair => pair.First != pair.Second).Take(4)
+            .Select(pair => $"{type.Name}: {pair.First.Trim()} is now {pair.Second.Trim()}")
+            .Concat(before.Length == after.Length ? [] : [$"{type.Name} has other groups"]);
+    }
+
+    private static string Save(CadImage image, ImageOptionsBase options)
+    {
+        using MemoryStream stream = new();
+        image.Save(stream, options);
+        return Encoding.Latin1.GetString(stream.ToArray());
     }
 
     private static List<string> Losses(Type type, CadAcadVersion version)
