@@ -82,16 +82,26 @@ def jpeg2000(side: int, tile: int, block: int) -> bytes:
 
 
 def tiff(side: int, samples: int, block: int | None = None) -> bytes:
-    """An image of 8-bit samples that are zero, in one strip, or in one tile that is larger than the image."""
+    """An image of 8-bit samples that are zero, in one strip, or in tiles that share their data."""
     stored = block or side
+    count = (-(-side // stored)) ** 2
     packer = zlib.compressobj(9)
     row = bytes(stored * samples)
     data = b"".join(packer.compress(row) for _ in range(stored)) + packer.flush()
     tags = [(256, side), (257, side), (258, 8), (259, 8), (262, 2 if samples == 3 else 1), (277, samples)]
-    tags += ([(322, stored), (323, stored), (324, 8), (325, len(data))] if block
-             else [(273, 8), (278, side), (279, len(data))])
-    entries = b"".join(struct.pack("<HHII", tag, 4, 1, value) for tag, value in sorted(tags))
-    return b"II*\0" + struct.pack("<I", 8 + len(data)) + data + struct.pack("<H", len(tags)) + entries + bytes(4)
+    lists = b""
+    if count > 1:
+        places = 8 + len(data)
+        lists = struct.pack("<I", 8) * count + struct.pack("<I", len(data)) * count
+        tags += [(322, stored), (323, stored), (324, places), (325, places + 4 * count)]
+    else:
+        tags += ([(322, stored), (323, stored), (324, 8), (325, len(data))] if block
+                 else [(273, 8), (278, side), (279, len(data))])
+    entries = b"".join(
+        struct.pack("<HHII", tag, 4, count if tag in (324, 325) else 1, value) for tag, value in sorted(tags)
+    )
+    return (b"II*\0" + struct.pack("<I", 8 + len(data) + len(lists)) + data + lists + struct.pack("<H", len(tags))
+            + entries + bytes(4))
 
 
 def bmp_of_one_run(side: int) -> bytes:
@@ -255,6 +265,21 @@ def block(name: str, entities: str) -> str:
 
 def insert(name: str, x: float = 0, more: str = "") -> str:
     return f"0\nINSERT\n8\n0\n2\n{name}\n10\n{x}\n20\n0\n{more}"
+
+
+def clipped_inserts(count: int, corners: int) -> bytes:
+    """References to a block that share a clip whose sides cross each other."""
+    places = "".join(f"10\n{i * 7919 % 1000}\n20\n{i * 104729 % 1000}\n" for i in range(corners))
+    matrix = "40\n1\n40\n0\n40\n0\n40\n0\n40\n0\n40\n1\n40\n0\n40\n0\n40\n0\n40\n0\n40\n1\n40\n0\n"
+    objects = (
+        "0\nDICTIONARY\n5\nD1\n100\nAcDbDictionary\n3\nACAD_FILTER\n360\nD2\n"
+        "0\nDICTIONARY\n5\nD2\n100\nAcDbDictionary\n3\nSPATIAL\n360\nD3\n"
+        f"0\nSPATIAL_FILTER\n5\nD3\n100\nAcDbFilter\n100\nAcDbSpatialFilter\n70\n{corners}\n{places}"
+        "210\n0\n220\n0\n230\n1\n11\n0\n21\n0\n31\n0\n71\n1\n72\n0\n73\n0\n" + matrix * 2
+    )
+    extension = "102\n{ACAD_XDICTIONARY\n360\nD1\n102\n}\n"
+    lines = "".join(line(i * 7919 % 1000, i * 31 % 1000, i * 104729 % 1000, 1000) for i in range(200))
+    return drawing(insert("A", more=extension) * count, block("A", lines), objects)
 
 
 def doubling_blocks(depth: int) -> bytes:

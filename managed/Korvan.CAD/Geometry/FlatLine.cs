@@ -1,5 +1,6 @@
 using System;
 using System.Collections.Generic;
+using System.Runtime.CompilerServices;
 
 namespace Korvan.CAD.Geometry;
 
@@ -49,6 +50,12 @@ internal readonly record struct FlatLine(Vec2[] Points, bool Closed)
         (Vec2 p0, Vec2 p1, Vec2 p2, Vec2 p3) = (
             points[^1], new Vec2(c[0], c[1]), new Vec2(c[2], c[3]), new Vec2(c[4], c[5]));
         int pieces = Cubic.PieceCount(p0, p1, p2, p3, tolerance);
+        if (points.Count + pieces > points.Capacity)
+        {
+            // It doubles, and what it was before is garbage from then on.
+            Workload.Reserve(points.Capacity * 3L * Unsafe.SizeOf<Vec2>());
+        }
+
         for (int i = 1; i <= pieces; i++)
         {
             points.Add(Cubic.At(p0, p1, p2, p3, (double)i / pieces));
@@ -64,6 +71,7 @@ internal readonly record struct FlatLine(Vec2[] Points, bool Closed)
                 points.Add(points[0]);
             }
 
+            Workload.Reserve((long)points.Count * Unsafe.SizeOf<Vec2>());
             lines.Add(new FlatLine([.. points], closed));
         }
 

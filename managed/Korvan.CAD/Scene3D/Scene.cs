@@ -13,8 +13,7 @@ internal enum UpAxis
 
 /// <summary>
 /// Meshes in space, whatever format they come from and go to. Nodes may share children and meshes: that is how
-/// instances
-/// are kept.
+/// instances are kept.
 /// </summary>
 internal sealed class Scene
 {
@@ -49,12 +48,15 @@ internal sealed class Scene
 /// <summary>A place in a scene with its own coordinates.</summary>
 internal sealed class Node
 {
+    // Children are set as a whole, and most of many nodes have none or share them.
+    private static readonly List<Node> None = [];
+
     internal string Name { get; init; } = "";
 
     /// <summary>Gets the map from the coordinates of the node to those of its parent.</summary>
     internal Affine3 Transform { get; init; } = Affine3.Identity;
 
-    internal List<Node> Children { get; init; } = [];
+    internal List<Node> Children { get; init; } = None;
 
     internal Mesh? Mesh { get; init; }
 

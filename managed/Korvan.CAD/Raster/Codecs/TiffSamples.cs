@@ -42,6 +42,7 @@ internal sealed unsafe class TiffSamples
     private readonly bool _premultiplied;
     private readonly long _maxValue;
     private int[] _palette = [];
+    private int[] _levels = [];
 
     internal TiffSamples(TiffHandle tiff)
     {
@@ -69,12 +70,16 @@ internal sealed unsafe class TiffSamples
         && _bits is 1 or 2 or 4 or 8 or 16 or 32 && _bits <= _maxBits && Number(TiffTags.SampleFormat) != Floats
         && Number(TiffTags.Compression) != (uint)TiffCompressions.OldJpeg
         && (_kind != TiffPhotometrics.Separated || Number(TiffTags.InkSet) == InkSetCmyk)
-        && (_alphaSample >= 0 || _bits == 32 || HasSmallTiles || HasLargeStrips
+        && (_alphaSample >= 0 || _bits == 32 || HasSmallTiles || HasLargeTiles || HasLargeStrips
             || (_bits == 16 && _kind is not (TiffPhotometrics.Rgb or TiffPhotometrics.Palette)));
 
     // libtiff's conversion compares the size of its buffer with that of an uncompressed tile, and rejects smaller ones.
     private bool HasSmallTiles => _tiled && Number(TiffTags.Compression) == (uint)TiffCompressions.None
         && Tiff.TileRowSize(_tiff) * (long)Number(TiffTags.TileLength) < MinBuffer;
+
+    // The pixels of a row of tiles are changed together where each of them has its rows far from each other.
+    private bool HasLargeTiles => _tiled && Tiff.TileSize(_tiff) > RowsTogether
+        && Number(TiffTags.Compression) != (uint)TiffCompressions.Jpeg;
 
     // Rows of several planes are far from each other, and a JPEG has rows of blocks.
     private bool HasLargeStrips => !_tiled && !_planar && Tiff.StripSize(_tiff) > MaxStrip
@@ -85,6 +90,7 @@ internal sealed unsafe class TiffSamples
     internal bool Read(PixelGrid pixels, bool lenient)
     {
         _palette = _kind == TiffPhotometrics.Palette ? Tiff.Palette(_tiff, 1 << _bits) : [];
+        _levels = Levels();
         int width = _tiled ? (int)Number(TiffTags.TileWidth) : pixels.Width;
         int height = _tiled
             ? (int)Number(TiffTags.TileLength) : (int)Math.Min(Number(TiffTags.RowsPerStrip), (uint)pixels.Height);
@@ -173,6 +179,12 @@ internal sealed unsafe class TiffSamples
 
     private void Convert(Block block, PixelGrid pixels, int left, int top)
     {
+        if (_levels.Length > 0)
+        {
+            LookUp(block, pixels, left, top);
+            return;
+        }
+
         Span<long> values = stackalloc long[5]; // of the colour, then alpha
         for (int y = 0; y < Math.Min(block.Height, pixels.Height - top); y++)
         {
@@ -186,6 +198,38 @@ internal sealed unsafe class TiffSamples
 
                 values[4] = _alphaSample < 0 ? _maxValue : Value(block, x, y, _alphaSample);
                 to[x] = Pixel(values);
+            }
+        }
+    }
+
+    /// <summary>The pixels of all values, where there are few.</summary>
+    private int[] Levels()
+    {
+        if (_bits > 8 || _samples > 1)
+        {
+            return [];
+        }
+
+        var levels = new int[1 << _bits];
+        Span<long> values = [0, 0, 0, 0, _maxValue];
+        for (int i = 0; i < levels.Length; i++)
+        {
+            values[0] = i;
+            levels[i] = Pixel(values);
+        }
+
+        return levels;
+    }
+
+    private void LookUp(Block block, PixelGrid pixels, int left, int top)
+    {
+        for (int y = 0; y < Math.Min(block.Height, pixels.Height - top); y++)
+        {
+            Span<int> to = pixels.WritableRow(top + y)[left..];
+            ReadOnlySpan<byte> row = block.Planes[0].AsSpan(y * block.RowBytes, block.RowBytes);
+            for (int x = 0; x < Math.Min(block.Width, to.Length); x++)
+            {
+                to[x] = _levels[_bits == 8 ? row[x] : BitPacking.Value(row, x, _bits)];
             }
         }
     }

@@ -55,17 +55,8 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>Counts the pixels of the box around a gradient, each of which has a colour of its own.</summary>
     private void CountGradient(in DisplayItem item)
     {
-        Bounds2 box = Bounds2.Empty;
-        ReadOnlySpan<double> c = List.CoordsOf(item);
-        int count = CoordCount(item);
-        for (int at = 0; at < count; at += 2)
-        {
-            Vec2 point = _map.Point(c[at], c[at + 1]);
-            box.Add(point.X, point.Y);
-        }
-
         Bounds2 page = Bounds2.Of(0, _rows.First, _target.ThinLines.Width, _rows.End);
-        Bounds2 shown = box.Clip(_clip.Box).Clip(page);
+        Bounds2 shown = AroundPath(item).Clip(_clip.Box).Clip(page);
         Budget.Step((long)(Math.Max(0, shown.Width) * Math.Max(0, shown.Height) / GradientPixelsPerStep));
     }
 
@@ -84,8 +75,8 @@ internal sealed unsafe partial class CairoPainter
             return false;
         }
 
-        int subRows = edges < rows * EdgesOfCoarseRow ? DenseFiller.FineSubRows : DenseFiller.CoarseSubRows;
-        Budget.Step(1 + (long)((edges * subRows / CrossingsPerStep) + (rows * width / CountedPixelsPerStep)));
+        int subRows = SubRowsOf(edges, rows);
+        CountDense(edges, rows, subRows, width);
         UsePixels();
         _denseFiller ??= new DenseFiller(_target.ThinLines, _rows);
         _denseFiller.Fill(
@@ -93,6 +84,12 @@ internal sealed unsafe partial class CairoPainter
             DefaultTolerance * _settings.Coarseness, subRows);
         return true;
     }
+
+    private static int SubRowsOf(double edges, double rows) =>
+        edges < rows * EdgesOfCoarseRow ? DenseFiller.FineSubRows : DenseFiller.CoarseSubRows;
+
+    private static void CountDense(double edges, double rows, int subRows, int width) =>
+        Budget.Step(1 + (long)((edges * subRows / CrossingsPerStep) + (rows * width / CountedPixelsPerStep)));
 
     /// <summary>Sums up the edges of all rows of a path.</summary>
     private double EdgesOf(in DisplayItem item, out double rows)

@@ -13,8 +13,9 @@ internal readonly record struct RowRange(int First, int End);
 /// <summary>The pixels that are painted: as a surface of cairo, and for thin lines directly.</summary>
 internal readonly record struct PixelTarget(nint Surface, RowRange Rows, ThinLinePainter ThinLines);
 
-/// <summary>What clips leave of the page: the box in pixels, and whether it is all that they leave.</summary>
-internal readonly record struct ClipArea(Bounds2 Box, bool IsBox, int Steps = 0);
+/// <summary>What clips leave of the page: the box in pixels, and whether it is all that has to be minded while what
+/// they limit is drawn.</summary>
+internal readonly record struct ClipArea(Bounds2 Box, bool IsBox, int Steps = 0, MaskedPixels? Mask = null);
 
 /// <summary>
 /// Plays a list on a cairo context. Coordinates are mapped here, in double precision: cairo keeps 24.8 fixed point,
@@ -332,27 +333,6 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
         Cairo.PaintWithAlpha(_cr, image.Opacity);
         Cairo.Restore(_cr);
         _hasColor = false;
-    }
-
-    protected override void BeginClip(in DisplayItem item)
-    {
-        UseCairo();
-        _clips.Push(_clip);
-        Bounds2 box = BoxOf(item, out bool isBox);
-        int steps = isBox ? 0 : item.VerbCount / FillEdgesPerStep;
-        _clip = new ClipArea(box.Clip(_clip.Box), _clip.IsBox && isBox, _clip.Steps + steps);
-        Cairo.Save(_cr);
-        Trace(item);
-        Cairo.SetFillRule(_cr, item.EvenOdd ? CairoFillRule.EvenOdd : CairoFillRule.Winding);
-        Cairo.Clip(_cr);
-    }
-
-    protected override void EndClip()
-    {
-        UseCairo();
-        Cairo.Restore(_cr);
-        ForgetState();
-        _clip = _clips.Pop();
     }
 
     private static bool IsNear(double x, double y) => Math.Abs(x) < FarAway && Math.Abs(y) < FarAway;

@@ -25,6 +25,9 @@ internal sealed class CgmDocument : MetafilePlayer
     private const double MillimetresPerPoint = 25.4 / 72;
     private const int MaxPoints = 16_000;
 
+    /// <summary>What a point of an area takes in memory, until it is written.</summary>
+    private const int BytesOfPoint = 60;
+
     private readonly CgmOptions _options;
     private readonly ContentBlocks _content = new();
     private readonly Action<Command> _put;
@@ -102,7 +105,11 @@ internal sealed class CgmDocument : MetafilePlayer
             _fill = color;
         }
 
+        int all = rings.Sum(static ring => ring.Points.Length);
+        Budget.VerifyRoom((long)all * BytesOfPoint);
         var set = new PolygonSet();
+        set.Points.Capacity = all;
+        set.Flags.Capacity = all;
         foreach (FlatLine ring in rings)
         {
             int count = ring.Closed ? ring.Points.Length - 1 : ring.Points.Length;

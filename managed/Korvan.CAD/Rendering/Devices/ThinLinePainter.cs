@@ -63,6 +63,9 @@ internal sealed unsafe class ThinLinePainter
 
     private int Height => _rows.End - _rows.First;
 
+    /// <summary>Returns the pixels of a row of the page.</summary>
+    internal Span<int> Row(int y) => new(_first + ((long)(y - _rows.First) * _stride), _width);
+
     /// <summary>Draws a path.</summary>
     /// <param name="verbs">The verbs of the path.</param>
     /// <param name="coords">Its coordinates.</param>

@@ -109,6 +109,72 @@ public class DeviceTests
         Assert.Equal(Blue, At(page, 65, 65));
     }
 
+    [Theory]
+    [InlineData(false)]
+    [InlineData(true)]
+    public void Clips_of_many_edges_leave_what_their_paths_would_fill(bool evenOdd)
+    {
+        // The sides of a star, in small parts; the star around its middle is twice inside.
+        PathBuffer Star(double x, double y)
+        {
+            var path = new PathBuffer();
+            for (int i = 0; i < 200; i++)
+            {
+                (double from, double to) = (i / 40 * 0.8 * Math.PI, ((i / 40) + 1) * 0.8 * Math.PI);
+                Vec2 a = new(x + (30 * Math.Cos(from)), y + (30 * Math.Sin(from)));
+                Vec2 b = new(x + (30 * Math.Cos(to)), y + (30 * Math.Sin(to)));
+                Vec2 point = a + ((b - a) * (i % 40 / 40.0));
+                if (i == 0)
+                {
+                    path.MoveTo(point);
+                }
+                else
+                {
+                    path.LineTo(point);
+                }
+            }
+
+            path.Close();
+            return path;
+        }
+
+        byte[] Paint(bool isClipped)
+        {
+            var list = new DrawingList();
+            list.Fill(Box(10, 10, 60, 90), Blue, 0, evenOdd: false);
+            foreach (double x in new[] { 40.3, 62.8 })
+            {
+                if (!isClipped)
+                {
+                    list.Fill(Star(x, 50), Red, 0, evenOdd);
+                    continue;
+                }
+
+                list.PushClip(Star(x, 50), evenOdd);
+                list.PushClip(Star(x, 50.0000001), evenOdd);
+                list.Fill(Box(0, 0, 100, 45), Red, 0, evenOdd: false);
+                list.Stroke(Box(-10, 45, 110, 110), new StrokeAttributes
+                { Color = Red, LineWeight = 200, WeightInUnits = true, Dash = -1 });
+                list.PopClip();
+                list.PopClip();
+            }
+
+            using RasterPage page = Render(list);
+            return page.CopyPixels();
+        }
+
+        byte[] filled = Paint(isClipped: false);
+        byte[] clipped = Paint(isClipped: true);
+        double difference = 0;
+        for (int i = 0; i < filled.Length; i++)
+        {
+            difference += Math.Abs(filled[i] - clipped[i]);
+        }
+
+        // At the edge, each of two clips leaves a part.
+        Assert.True(difference / filled.Length < 1, $"{difference / filled.Length} on average");
+    }
+
     [Fact]
     public void Gradients_run_from_one_colour_to_the_other()
     {
