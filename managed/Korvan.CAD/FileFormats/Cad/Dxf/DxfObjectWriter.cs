@@ -42,7 +42,7 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer, IReadOnlyList<CadClas
             return;
         }
 
-        if (item.Kept is { } kept and not KeptTags)
+        if (item.Kept is { } kept and not (KeptTags or KeptBits { Record.Length: 0 }))
         {
             LeftOut.Add($"{item.DxfName} {HandleText.Format(item.Handle)}: data kept in the form of {kept.FormatName}");
             if (item is RawEntity or RawObject)
