@@ -14,6 +14,7 @@ using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Dxf.Releases;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.FileFormats.Shx;
 using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg;
@@ -63,6 +64,7 @@ internal static class DwgSaver
         DrawingIntegrity.Prepare(drawing, release);
         BookColors.Link(drawing, colors);
         LinkMultilineStyles(drawing);
+        ShapeFiles.AddNumbers(drawing);
     }
 
     // Data of a modeler are written as they are: what later versions of it added cannot be taken out.

@@ -51,6 +51,12 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer, IReadOnlyList<CadClas
             }
         }
 
+        if (item is CadShape { ShapeName.Length: 0, ShapeNumber: not 0 and var number })
+        {
+            LeftOut.Add($"{item.DxfName} {HandleText.Format(item.Handle)}: its name, which the shape file of the "
+                + $"number {number} tells; the file is not in the folder of the drawing");
+        }
+
         Begin(item, item.DxfName);
         _fields.Begin(item.KeptTags?.Layouts);
         item.Exchange(_fields);

@@ -41,7 +41,8 @@ internal static class ViewportXdata
         foreach (CadCodeValue tag in xdata.Data)
         {
             Collect(tag, numbers, points, modes);
-            if (tag.Attribute == 1003 && drawing.Layers.Find(tag.Value) is { Handle: not 0 } layer)
+            if (tag.Attribute == 1003 && drawing.Layers.Find(tag.Value) is { Handle: not 0 } layer
+                && !viewport.FrozenLayers.Contains(layer.ObjectHandle))
             {
                 viewport.FrozenLayers.Add(layer.ObjectHandle);
             }
