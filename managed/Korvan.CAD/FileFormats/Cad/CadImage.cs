@@ -8,6 +8,7 @@ using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.FileFormats.Shx;
 using Korvan.CAD.Formats;
 using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Input;
@@ -224,6 +225,7 @@ public partial class CadImage : Image, IDrawingContent
         {
             base.FilePath = value;
             _drawing.Folder = value is null ? null : FolderFiles.FolderOf(value);
+            ShapeFiles.AddNames(_drawing);
         }
     }
 

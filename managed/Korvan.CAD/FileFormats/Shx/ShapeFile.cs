@@ -48,6 +48,23 @@ internal sealed class ShapeFile
     internal List<Vec2[]>? Find(string name) =>
         _numbers.TryGetValue(name, out int number) ? Draw(number)?.Strokes : null;
 
+    /// <summary>Returns the number of a symbol; null where there is no such shape.</summary>
+    internal int? NumberOf(string name) => _numbers.TryGetValue(name, out int number) ? number : null;
+
+    /// <summary>Returns the name of a symbol; empty where there is no such shape.</summary>
+    internal string NameOf(int number)
+    {
+        foreach ((string name, int known) in _numbers)
+        {
+            if (known == number)
+            {
+                return name;
+            }
+        }
+
+        return "";
+    }
+
     /// <summary>Returns the strokes of a shape and where the pen is after it, in units of the file; null where there is
     /// no such shape.</summary>
     internal ShapeStrokes? Draw(int number) =>

@@ -7,6 +7,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 using Korvan.CAD.FileFormats.Cad.Model.Tables;
+using Korvan.CAD.FileFormats.Shx;
 using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Text;
 

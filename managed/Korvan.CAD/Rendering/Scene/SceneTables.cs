@@ -5,6 +5,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 using Korvan.CAD.FileFormats.Cad.Model.Tables;
+using Korvan.CAD.FileFormats.Shx;
 using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Scene;

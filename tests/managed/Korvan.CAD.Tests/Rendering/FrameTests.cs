@@ -10,6 +10,7 @@ using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadTables;
 using Korvan.CAD.FileFormats.Shx;
 using Korvan.CAD.Geometry;
+using Korvan.CAD.ImageOptions;
 using Korvan.CAD.Rendering.Scene;
 using Korvan.CAD.Rendering.Text;
 using Xunit;
@@ -128,6 +129,28 @@ public sealed class FrameTests : IDisposable
         Assert.Empty(list.Skipped);
         AssertBox(Build(Drawing(new CadShape { ShapeName = "TWICE", RotationAngle = 90 })), -4, 0, 0, 4);
         Assert.Equal(1, Build(Drawing(new CadShape { ShapeName = "OTHER" })).Skipped["SHAPE whose file is not there"]);
+    }
+
+    [Fact]
+    public void Shapes_have_a_number_in_databases_and_a_name_in_text_files()
+    {
+        string file = Path.Combine(_folder, "marks.shx");
+        string path = Path.Combine(_folder, "marks.dwg");
+        File.WriteAllBytes(file, ShapeFileOf(("GATE", [0x24, 0]), ("TWICE", [4, 2, 7, 130, 0])));
+        CadImage drawing = Drawing(new CadShape { ShapeName = "twice" });
+        drawing.Styles.Add(new CadStyleTableObject { Flags = 1, PrimaryFontName = "others" });
+        drawing.Save(path, new DwgOptions());
+        using (CadImage named = (CadImage)Image.Load(path))
+        {
+            Assert.Equal("TWICE", Assert.IsType<CadShape>(named.Entities[0]).ShapeName);
+            Assert.Empty(Build(named).Skipped);
+        }
+
+        File.Delete(file);
+        using CadImage numbered = (CadImage)Image.Load(path);
+        DxfOptions options = new();
+        numbered.Save(Path.Combine(_folder, "marks.dxf"), options);
+        Assert.Contains(options.RenderResult!.Failures, static one => one.Message.Contains("131"));
     }
 
     [Theory]

@@ -10,8 +10,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
     "B", "BS AnnotationType", "BS PathType", "3BD[BL] Coordinates", "ExchangePlane()",
     "2010+ BD", "-1997 BD", "BD TextHeight",
     "BD TextWidth", "B HookLineDirection", "B ArrowheadFlag", "-1997 BS", "-1997 BD", "-1997 B", "-1997 B",
-    "-1997 BS", "-1997 BS ColorToUse", "-1997 B", "-1997 B", "2000+ BS", "2000+ B", "2000+ B", "H AnnotationHandle",
-    "H DimensionStyleName")]
+    "-1997 BS", "-1997 BS ColorToUse", "-1997 B HookLineFlag", "-1997 B", "2000+ BS", "2000+ B HookLineFlag", "2000+ B",
+    "H AnnotationHandle", "H DimensionStyleName")]
 public partial class CadLeader : CadEntityBase
 {
     /// <summary>Creates the object with its defaults.</summary>

@@ -2,13 +2,14 @@ using System.Text;
 using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
 /// <summary>A text of several lines with formatting codes.</summary>
 [CadObject("MTEXT", Subclass = "AcDbMText")]
 [CadBits(
-    "3BD InsertionPoint", "3BD ExtrusionDirection", "3BD TextDirection", "BD ReferenceRectangleWidth",
+    "3BD InsertionPoint", "3BD ExtrusionDirection", "ExchangeDirection()", "BD ReferenceRectangleWidth",
     "2007+ BD ReferenceRectangleHeight", "BD InitialTextHeight", "BS AttachmentPoint", "BS DrawingDirection", "BD",
     "BD", "T Text", "H TextStyleName", "2000+ BS LineSpacingStyle", "2000+ BD LineSpacingFactor", "2000+ B",
     "2004+ BL BackgroundFillSetting", "2004+ ExchangeBackground()", "2018+ ExchangeColumns()")]
@@ -125,6 +126,21 @@ public partial class CadMText : CadEntityBase
         }
     }
 
+    // Databases have no angle.
+    private void ExchangeDirection(BitExchange fields) =>
+        fields.Point3(fields.IsReading ? TextDirection : StatedDirection());
+
+    private Cad3DPoint StatedDirection()
+    {
+        if (TextDirection.ToVec3() != default)
+        {
+            return TextDirection;
+        }
+
+        Vec3 direction = EntityGeometry.PlaneOf(this).AxisX;
+        return new Cad3DPoint(direction.X, direction.Y, direction.Z);
+    }
+
     // Text files have the columns in an embedded object. What precedes them is that of the text again.
     private void ExchangeColumns(BitExchange fields)
     {
@@ -139,7 +155,7 @@ public partial class CadMText : CadEntityBase
         fields.Bit(true);
         fields.Handle(HandleRole.HardPointer, 0);
         fields.BitLong((int)AttachmentPoint);
-        fields.Point3(fields.IsReading ? new Cad3DPoint() : TextDirection);
+        fields.Point3(fields.IsReading ? new Cad3DPoint() : StatedDirection());
         fields.Point3(fields.IsReading ? new Cad3DPoint() : InsertionPoint);
         fields.BitDouble(ReferenceRectangleWidth);
         fields.BitDouble(ReferenceRectangleHeight);

@@ -1,4 +1,5 @@
 using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -44,5 +45,20 @@ public partial class CadShape : CadExtrudedEntityBase
     /// <summary>Gets or sets the name of the style of its file in drawing databases.</summary>
     internal string StyleName { get; set; } = "";
 
-    private void ExchangeStyle(BitExchange fields) => StyleName = fields.Name(SymbolTable.Style, StyleName);
+    /// <summary>Gets or sets the handle of that style, as styles of files mostly have no names.</summary>
+    internal string StyleHandle { get; set; } = "0";
+
+    private void ExchangeStyle(BitExchange fields)
+    {
+        if (fields.IsReading)
+        {
+            StyleHandle = fields.Handle(HandleRole.HardPointer, StyleHandle);
+            StyleName = fields.FindName(StyleHandle) ?? StyleName;
+            return;
+        }
+
+        bool isPresent = HandleText.TryParse(StyleHandle, out ulong handle) && fields.IsPresent(handle);
+        fields.Handle(
+            HandleRole.HardPointer, isPresent ? StyleHandle : fields.FindHandle(SymbolTable.Style, StyleName));
+    }
 }

@@ -102,8 +102,8 @@ public partial class CadViewport : CadEntityBase
     /// 331.</summary>
     public List<string> FrozenLayers { get; } = [];
 
-    /// <summary>Gets or sets bits: 1 perspective, 2 front and 4 back clipping, 512 UCS icon at the origin, 16384
-    /// locked, 65536 clipped by a shape, 131072 off. Group code 90.</summary>
+    /// <summary>Gets or sets bits: 1 perspective, 2 front and 4 back clipping, 64 UCS icon at the origin, 512
+    /// grid, 16384 locked, 65536 clipped by a shape, 131072 off. Group code 90.</summary>
     [CadInt(90, Since = 2000)]
     public int StatusFlags { get; set; } = 32864;
 

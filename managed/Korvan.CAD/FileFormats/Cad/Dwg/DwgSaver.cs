@@ -13,6 +13,7 @@ using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Korvan.CAD.FileFormats.Cad.Dxf.Releases;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.FileFormats.Shx;
 using Korvan.CAD.ImageOptions;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg;
@@ -61,6 +62,7 @@ internal static class DwgSaver
         List<CadDbColor> colors = BookColors.AddMissing(drawing, release);
         DrawingIntegrity.Prepare(drawing, release);
         BookColors.Link(drawing, colors);
+        ShapeFiles.AddNumbers(drawing);
     }
 
     // Data of a modeler are written as they are: what later versions of it added cannot be taken out.

@@ -46,6 +46,10 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
     {
         _layout = null;
         writer.WriteKept(target, name);
+        if (name == "AcDbEntity" && writer.HasSubclasses)
+        {
+            writer.WriteGraphics(target);
+        }
     }
 
     internal override bool Includes(int since, bool isSet) => isSet && writer.Release >= since;

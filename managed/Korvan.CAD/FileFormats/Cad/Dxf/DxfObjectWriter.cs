@@ -42,13 +42,19 @@ internal sealed class DxfObjectWriter(DxfTagWriter writer, IReadOnlyList<CadClas
             return;
         }
 
-        if (item.Kept is { } kept and not KeptTags)
+        if (item.Kept is { } kept and not (KeptTags or KeptBits { Record.Length: 0 }))
         {
             LeftOut.Add($"{item.DxfName} {HandleText.Format(item.Handle)}: data kept in the form of {kept.FormatName}");
             if (item is RawEntity or RawObject)
             {
                 return;
             }
+        }
+
+        if (item is CadShape { ShapeName.Length: 0, ShapeNumber: not 0 and var number })
+        {
+            LeftOut.Add($"{item.DxfName} {HandleText.Format(item.Handle)}: its name, which the shape file of the "
+                + $"number {number} tells; the file is not in the folder of the drawing");
         }
 
         Begin(item, item.DxfName);

@@ -193,6 +193,19 @@ internal sealed partial class DxfTagWriter(
         }
     }
 
+    /// <summary>Writes the graphics that a drawing database has stored with an entity.</summary>
+    internal void WriteGraphics(CadBaseObject source)
+    {
+        const int withLongSizes = 2010;
+        if (source.Kept is not KeptBits { Record.Length: 0, Graphics: { Length: > 0 } graphics })
+        {
+            return;
+        }
+
+        Write(Release >= withLongSizes ? 160 : 92, graphics.Length);
+        Write(310, graphics);
+    }
+
     /// <summary>Forgets which markers the object before had.</summary>
     internal void BeginObject() => _keptFor.Clear();
 

@@ -26,7 +26,14 @@ internal static class DrawingLinks
         }
 
         AddMissingLayouts(drawing);
-        drawing.PaperSpace.Entities.ForEach(ViewportXdata.Apply);
+        ViewportXdata.Apply(drawing, drawing.PaperSpace);
+        foreach (CadBlockEntity block in drawing.BlockEntities)
+        {
+            if (BlockNames.IsAnyPaperSpace(block.Name) && !ReferenceEquals(block, drawing.PaperSpace))
+            {
+                ViewportXdata.Apply(drawing, block);
+            }
+        }
     }
 
     /// <summary>Finds the block that holds the entities of a layout.</summary>

@@ -1,6 +1,7 @@
 using System.Collections.Generic;
 using System.Globalization;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
+using Korvan.CAD.FileFormats.Cad.CadTables;
 
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
@@ -9,24 +10,48 @@ internal static class ViewportXdata
 {
     private const string Application = "ACAD";
     private const string Marker = "MVIEW";
+    private const int View = 31;
+    private const int Icon = 32 | 64;
+    private const int FastZoom = 128;
+    private const int Snap = 256;
+    private const int Grid = 512;
+    private const int Isometric = 1024;
+    private const int HidePlot = 2048;
+    private const int Pair = 4096;
+    private const int Pairs = 3;
+    private const int Modes = View | Icon | FastZoom | Snap | Grid | Isometric | HidePlot | (Pairs * Pair);
 
-    internal static void Apply(CadEntityBase entity)
+    /// <summary>Takes the views of the viewports of a sheet out of their extended data.</summary>
+    internal static void Apply(CadDrawing drawing, CadBlockEntity sheet)
     {
-        if (entity is not CadViewport viewport || ViewOf(viewport) is not { } xdata)
+        foreach (CadEntityBase entity in sheet.Entities)
         {
-            return;
+            if (entity is CadViewport viewport && ViewOf(viewport) is { } xdata)
+            {
+                Apply(drawing, viewport, xdata);
+            }
         }
+    }
 
+    private static void Apply(CadDrawing drawing, CadViewport viewport, CadXdata xdata)
+    {
         List<double> numbers = [];
         List<Cad3DPoint> points = [];
+        List<int> modes = [];
         foreach (CadCodeValue tag in xdata.Data)
         {
-            Collect(tag, numbers, points);
+            Collect(tag, numbers, points, modes);
+            if (tag.Attribute == 1003 && drawing.Layers.Find(tag.Value) is { Handle: not 0 } layer
+                && !viewport.FrozenLayers.Contains(layer.ObjectHandle))
+            {
+                viewport.FrozenLayers.Add(layer.ObjectHandle);
+            }
         }
 
         if (points.Count >= 2 && numbers.Count >= 7)
         {
             SetView(viewport, numbers, points);
+            SetModes(viewport, numbers, modes);
         }
     }
 
@@ -40,7 +65,7 @@ internal static class ViewportXdata
     }
 
     /// <summary>Puts the fields into extended data, for releases that do not have them.</summary>
-    internal static void Store(CadEntityBase entity)
+    internal static void Store(CadDrawing drawing, CadEntityBase entity)
     {
         if (entity is not CadViewport viewport)
         {
@@ -63,13 +88,21 @@ internal static class ViewportXdata
             Add(xdata, 1040, Text(number));
         }
 
-        foreach (int number in new[] { 0, viewport.CircleZoomPercent, 1, 0, 0, 0, 0, 0 })
+        foreach (int number in ModesOf(viewport))
         {
             Add(xdata, 1070, number.ToString(CultureInfo.InvariantCulture));
         }
 
         AddGrid(xdata, viewport);
         Add(xdata, 1002, "{");
+        foreach (CadLayerTable layer in drawing.Layers)
+        {
+            if (viewport.FrozenLayers.Contains(layer.ObjectHandle))
+            {
+                Add(xdata, 1003, layer.Name);
+            }
+        }
+
         Add(xdata, 1002, "}");
         Add(xdata, 1002, "}");
         viewport.XdataContainer.XdataEntities.Add(xdata);
@@ -86,7 +119,36 @@ internal static class ViewportXdata
             Add(xdata, 1040, Text(number));
         }
 
-        Add(xdata, 1070, "0");
+        Add(xdata, 1070, (viewport.StatusFlags & HidePlot) != 0 ? "1" : "0");
+    }
+
+    // In the order of the extended data: view, circles, fast zoom, icon, snap, grid, style of the snap, its plane.
+    private static int[] ModesOf(CadViewport viewport)
+    {
+        int flags = viewport.StatusFlags;
+        return
+        [
+            flags & View, viewport.CircleZoomPercent, (flags & FastZoom) / FastZoom, (flags & Icon) / 32,
+            (flags & Snap) / Snap, (flags & Grid) / Grid, (flags & Isometric) / Isometric, flags / Pair & Pairs,
+        ];
+    }
+
+    // The first mode is the version of the extended data, the last one follows the grid.
+    private static void SetModes(CadViewport viewport, List<double> numbers, List<int> modes)
+    {
+        if (modes.Count < 10 || numbers.Count < 14)
+        {
+            return;
+        }
+
+        viewport.CircleZoomPercent = (short)modes[2];
+        viewport.SnapAngle = numbers[7];
+        viewport.SnapBase = new Cad2DPoint(numbers[8], numbers[9]);
+        viewport.SnapSpacing = new Cad2DPoint(numbers[10], numbers[11]);
+        viewport.GridSpacing = new Cad2DPoint(numbers[12], numbers[13]);
+        viewport.StatusFlags = (viewport.StatusFlags & ~Modes) | (modes[1] & View) | ((modes[4] * 32) & Icon)
+            | (modes[3] != 0 ? FastZoom : 0) | (modes[5] != 0 ? Snap : 0) | (modes[6] != 0 ? Grid : 0)
+            | (modes[7] != 0 ? Isometric : 0) | ((modes[8] & Pairs) * Pair) | (modes[9] != 0 ? HidePlot : 0);
     }
 
     private static CadXdata? ViewOf(CadViewport viewport) =>
@@ -106,9 +168,9 @@ internal static class ViewportXdata
 
     private static string Text(double value) => value.ToString("R", CultureInfo.InvariantCulture);
 
-    private static void Collect(CadCodeValue tag, List<double> numbers, List<Cad3DPoint> points)
+    private static void Collect(CadCodeValue tag, List<double> numbers, List<Cad3DPoint> points, List<int> modes)
     {
-        if (tag.Attribute is not (1010 or 1020 or 1030 or 1040)
+        if (tag.Attribute is not (1010 or 1020 or 1030 or 1040 or 1070)
             || !double.TryParse(tag.Value, NumberStyles.Float, CultureInfo.InvariantCulture, out double value)
             || !double.IsFinite(value))
         {
@@ -128,6 +190,9 @@ internal static class ViewportXdata
                 break;
             case 1040:
                 numbers.Add(value);
+                break;
+            case 1070:
+                modes.Add((int)value);
                 break;
         }
     }

@@ -189,8 +189,7 @@ public abstract partial class CadDictionaryBase : CadObjectBase, ICadObjectConta
         {
             if (fields.IsReading)
             {
-                _names.Add(fields.Text(""));
-                _handles.Add(fields.Handle(role, 0));
+                AddEntry(fields.Text(""), fields.Handle(role, 0));
                 continue;
             }
 
@@ -199,6 +198,16 @@ public abstract partial class CadDictionaryBase : CadObjectBase, ICadObjectConta
         }
 
         HandleCode = fields.IsReading && HardOwnerFlag != 0 ? HardOwnerCode : HandleCode;
+    }
+
+    // What was removed from a dictionary may leave an entry without name and object.
+    private void AddEntry(string name, ulong handle)
+    {
+        if (name.Length > 0 || handle != 0)
+        {
+            _names.Add(name);
+            _handles.Add(handle);
+        }
     }
 
     private int IndexOf(string name)

@@ -6,7 +6,8 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects.Field;
 /// unit, its format and the string that shows it.</summary>
 [CadSequence]
 [CadBits(
-    "2007+ BL Flags", "BL ValueType", "ExchangeValue()", "2007+ BL Unit", "2007+ T Format", "2007+ T FormattedText")]
+    "2007+ ExchangeFlags()", "BL ValueType", "ExchangeValue()", "2007+ BL Unit", "2007+ T Format",
+    "2007+ T FormattedText")]
 public partial class CadFieldData
 {
     /// <summary>Creates the object with its defaults.</summary>
@@ -43,6 +44,7 @@ public partial class CadFieldData
     private const int SpacePointType = 32;
     private const int ObjectType = 64;
     private const int GeneralFlag = 512;
+    private const int NoValue = 1;
 
     /// <summary>Gets or sets the value as a string. Group codes 1, 2.</summary>
     public string Text { get; set; } = "";
@@ -108,11 +110,17 @@ public partial class CadFieldData
         }
     }
 
+    // Releases without flags tell by the type that there is no value.
+    private void ExchangeFlags(BitExchange fields)
+    {
+        const int unset = 2;
+        Flags = fields.BitLong(!fields.IsReading && ValueType == 0 ? Flags | NoValue | unset : Flags);
+    }
+
     // A value of some flags is none.
     private void ExchangeValue(BitExchange fields)
     {
-        const int noValue = 1;
-        if (fields.Release >= 2007 && (Flags & noValue) != 0)
+        if (fields.Release >= 2007 && ((Flags & NoValue) != 0 || (ValueType == 0 && !fields.IsReading)))
         {
             return;
         }

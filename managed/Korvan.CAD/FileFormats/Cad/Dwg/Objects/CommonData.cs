@@ -17,6 +17,8 @@ internal static class CommonData
     private const int HasColorObject = 0x4000;
     private const int HasRgb = 0x8000;
     private const int RgbMask = 0xFFFFFF;
+    private const int VisualStyle = 348;
+    private const string Marker = "AcDbEntity";
 
     /// <summary>Carries what an object has that is no entity.</summary>
     internal static void ExchangeObject(BitExchange fields, ObjectFrame frame)
@@ -143,8 +145,8 @@ internal static class CommonData
 
         if (fields.Release >= 2010)
         {
-            kinds.VisualStyles = (fields.Bit(false) ? 1 : 0) + (fields.Bit(false) ? 1 : 0)
-                + (fields.Bit(false) ? 1 : 0);
+            kinds.HasVisualStyle = fields.Bit(!fields.IsReading && VisualStyleOf(entity) != "0");
+            kinds.OtherStyles = (fields.Bit(false) ? 1 : 0) + (fields.Bit(false) ? 1 : 0);
         }
 
         return kinds;
@@ -173,11 +175,25 @@ internal static class CommonData
             entity.PlotStyle = fields.Handle(HandleRole.HardPointer, entity.PlotStyle);
         }
 
-        for (int i = 0; i < kinds.VisualStyles; i++)
+        if (kinds.HasVisualStyle)
+        {
+            string style = fields.Handle(HandleRole.HardPointer, fields.IsReading ? "0" : VisualStyleOf(entity));
+            if (fields.IsReading)
+            {
+                KeptTags.Of(entity).Tags.Add(new KeptTag(Marker, new CadCodeValue(VisualStyle, style)));
+            }
+        }
+
+        for (int i = 0; i < kinds.OtherStyles; i++)
         {
             fields.Handle(HandleRole.HardPointer, 0);
         }
     }
+
+    // No entity has a property for it, as programs set it for single viewports only.
+    private static string VisualStyleOf(CadEntityBase entity) =>
+        entity.KeptTags?.Tags.Find(static tag => tag.Subclass == Marker && tag.Value.Attribute == VisualStyle)
+            .Value?.Value.Trim() ?? "0";
 
     private static void ExchangeNeighbours(BitExchange fields, ObjectFrame frame)
     {
@@ -218,6 +234,7 @@ internal static class CommonData
         internal int LineType;
         internal int PlotStyle;
         internal int Material;
-        internal int VisualStyles;
+        internal bool HasVisualStyle;
+        internal int OtherStyles;
     }
 }

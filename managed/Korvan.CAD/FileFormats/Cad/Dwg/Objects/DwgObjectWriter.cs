@@ -57,6 +57,7 @@ internal sealed class DwgObjectWriter
         NoteUnwritten();
         CountInserts();
         AddTableSizes();
+        AddShapes();
         foreach (CadDbColor color in _drawing.Objects.OfType<CadDbColor>())
         {
             _colors.TryAdd(color.ColorName, color.Handle);
@@ -114,6 +115,18 @@ internal sealed class DwgObjectWriter
             {
                 LeftOut.Add($"{table.DxfName} {table.ObjectHandle}: {rows} rows and {columns} columns are written "
                     + $"instead of {table.NumberOfRows} and {table.NumberOfColumns}, for {table.Cells.Count} cells");
+            }
+        }
+    }
+
+    private void AddShapes()
+    {
+        foreach (CadShape shape in DrawingWalk.Entities(_drawing).OfType<CadShape>())
+        {
+            if (shape.ShapeNumber == 0)
+            {
+                LeftOut.Add($"{shape.DxfName} {shape.ObjectHandle}: its number, which the shape file of "
+                    + $"'{shape.ShapeName}' tells; the file is not in the folder of the drawing");
             }
         }
     }

@@ -16,6 +16,7 @@ internal static partial class ObjectTypeTable
 {
     internal const int BlockControl = 48;
     internal const int LineTypeControl = 56;
+    internal const int DimensionStyleControl = 68;
     internal const int FirstClass = 500;
 
     /// <summary>Creates an object of a type; null for a type that no class interprets.</summary>

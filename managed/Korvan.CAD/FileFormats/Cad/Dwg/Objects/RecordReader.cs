@@ -1,4 +1,5 @@
 using System.Collections.Generic;
+using System.Globalization;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Wipeout;
 using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
@@ -73,12 +74,15 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
         AddGroups(target);
         target.Handle = handle;
         int count = _fields.CountLong(0);
+        int listed = header.Type == ObjectTypeTable.DimensionStyleControl && format.Release >= StatedSize
+            ? _fields.RawByte(0) : 0;
         SymbolTableHandles table = new();
         while (_fields.HandlesRemaining >= 8 && count-- > 0)
         {
             table.Records.Add(_fields.NextHandle());
         }
 
+        KeepList(target, listed);
         if (header.Type is ObjectTypeTable.BlockControl or ObjectTypeTable.LineTypeControl
             && _fields.HandlesRemaining >= 16)
         {
@@ -87,6 +91,23 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
         }
 
         return table;
+    }
+
+    // As text files have it, after a marker of its own.
+    private void KeepList(CadBaseObject table, int count)
+    {
+        const string marker = "AcDbDimStyleTable";
+        if (count == 0)
+        {
+            return;
+        }
+
+        List<KeptTag> tags = KeptTags.Of(table).Tags;
+        tags.Add(new KeptTag(marker, new CadCodeValue(71, count.ToString(CultureInfo.InvariantCulture))));
+        while (_fields.HandlesRemaining >= 8 && count-- > 0)
+        {
+            tags.Add(new KeptTag(marker, new CadCodeValue(340, HandleText.Format(_fields.NextHandle()))));
+        }
     }
 
     /// <summary>Reads an object.</summary>

@@ -1,3 +1,4 @@
+using System.Collections.Generic;
 using System.Text;
 using Korvan.CAD.CadExceptions;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
@@ -5,6 +6,7 @@ using Korvan.CAD.FileFormats.Cad.Dwg.Bits;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Exchange;
 using Korvan.CAD.FileFormats.Cad.Model;
+using ProxyGraphics = Korvan.CAD.FileFormats.Cad.Model.Proxy.ProxyGraphics;
 
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 
@@ -18,6 +20,7 @@ internal sealed class RecordWriter(int release, Encoding encoding, WrittenHandle
     private const int ExtendedTypes = 2010;
     private const int UnicodeStrings = 2007;
     private const int SizeBits = 32;
+    private const string DimensionStyles = "AcDbDimStyleTable";
     private const int LongStrings = 0x8000;
 
     private readonly BitFieldWriter _fields = new(release, encoding, handles);
@@ -46,17 +49,18 @@ internal sealed class RecordWriter(int release, Encoding encoding, WrittenHandle
     /// <param name="table">The references to its records.</param>
     internal void WriteControl(int type, CadBaseObject header, SymbolTableHandles table)
     {
-        const int dimensionStyles = 68;
         ObjectFrame frame = new();
         Begin(header, frame);
         CommonData.ExchangeObject(_fields, frame);
         _fields.BitLong(table.Records.Count);
-        if (type == dimensionStyles)
+        List<ulong> listed = type == ObjectTypeTable.DimensionStyleControl ? ListedHandles(header) : [];
+        if (type == ObjectTypeTable.DimensionStyleControl)
         {
-            _fields.RawByte(0);
+            _fields.RawByte(listed.Count);
         }
 
         table.Records.ForEach(record => _fields.Handle(HandleRole.SoftOwner, record));
+        listed.ForEach(record => _fields.Handle(HandleRole.HardPointer, record));
         if (type is ObjectTypeTable.BlockControl or ObjectTypeTable.LineTypeControl)
         {
             _fields.Handle(HandleRole.HardOwner, table.First);
@@ -64,6 +68,23 @@ internal sealed class RecordWriter(int release, Encoding encoding, WrittenHandle
         }
 
         End(type, header.Handle);
+    }
+
+    // Text files have the list of the table of dimension styles after a marker of its own.
+    private List<ulong> ListedHandles(CadBaseObject header)
+    {
+        List<ulong> listed = [];
+        foreach (KeptTag tag in header.KeptTags?.Tags ?? [])
+        {
+            if (tag.Subclass == DimensionStyles && tag.Value.Attribute == 340
+                && HandleText.TryParse(tag.Value.Value.Trim(), out ulong handle) && handles.IsPresent(handle)
+                && listed.Count < byte.MaxValue)
+            {
+                listed.Add(handle);
+            }
+        }
+
+        return listed;
     }
 
     /// <summary>Returns the number of the type of a kept record.</summary>
@@ -156,8 +177,7 @@ internal sealed class RecordWriter(int release, Encoding encoding, WrittenHandle
 
     private void WriteGraphics(CadEntityBase entity)
     {
-        byte[] graphics = entity is CadAcadProxyEntity proxy ? proxy.GraphicsData
-            : entity.Kept is KeptBits kept ? kept.Graphics : [];
+        byte[] graphics = ProxyGraphics.DataOf(entity);
         _fields.Data.Bit(graphics.Length > 0);
         if (graphics.Length == 0)
         {

@@ -24,7 +24,7 @@ internal static class PlainRelease
 
         foreach (CadEntityBase entity in DrawingWalk.Entities(drawing))
         {
-            ViewportXdata.Store(entity);
+            ViewportXdata.Store(drawing, entity);
         }
 
         RemoveObjects(drawing, changes);

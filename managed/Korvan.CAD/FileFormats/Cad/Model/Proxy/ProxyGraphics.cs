@@ -16,6 +16,7 @@ internal static partial class ProxyGraphics
     private const int ShortLength = 92;
     private const int LongLength = 160;
     private const int Bytes = 310;
+    private const string Marker = "AcDbEntity";
 
     /// <summary>Gives the stored graphics of an entity to a sink. False for an entity that has none.</summary>
     internal static bool Emit(CadEntityBase entity, IGeometrySink sink)
@@ -51,7 +52,8 @@ internal static partial class ProxyGraphics
     }
 
     // The length comes first; the bytes that follow it are the graphics, those after other lengths are not.
-    private static byte[] DataOf(CadEntityBase entity)
+    /// <summary>Returns the stored graphics of an entity.</summary>
+    internal static byte[] DataOf(CadEntityBase entity)
     {
         if (entity is CadAcadProxyEntity { GraphicsData.Length: > 0 } proxy)
         {
@@ -73,6 +75,11 @@ internal static partial class ProxyGraphics
         foreach (KeptTag tag in kept.Tags)
         {
             CadCodeValue value = tag.Value;
+            if (tag.Subclass is not (Marker or KeptTag.Verbatim))
+            {
+                continue;
+            }
+
             if (value.Attribute is ShortLength or LongLength && bytes.Count == 0)
             {
                 isGraphics = true;

@@ -25,12 +25,13 @@ internal static class EncodedContainer
             CodePage = plain.CodePage,
             Encoding = source.EncodingOf(plain.CodePage),
         };
-        Dictionary<long, long> pages = EncodedMaps.ReadPages(source, header);
-        foreach (EncodedSection section in EncodedMaps.ReadSections(source, header, pages))
+        MovedPages moved = new(source, header);
+        Dictionary<long, long> pages = EncodedMaps.ReadPages(source, header, moved.Distance);
+        foreach (EncodedSection section in EncodedMaps.ReadSections(source, header, pages, moved.Distance))
         {
             if (!section.IsEncrypted || !plain.IsEncrypted)
             {
-                NamedSections.Store(file, section.Name, () => ReadSection(source, section, pages, header.CrcSeed));
+                NamedSections.Store(file, section.Name, () => ReadSection(source, section, pages, header.CrcSeed, moved));
             }
         }
 
@@ -44,7 +45,7 @@ internal static class EncodedContainer
     }
 
     private static byte[] ReadSection(
-        DwgSource source, EncodedSection section, Dictionary<long, long> pages, ulong seed)
+        DwgSource source, EncodedSection section, Dictionary<long, long> pages, ulong seed, MovedPages moved)
     {
         long size = SizeOf(source, section);
         Budget.Step(size / BytesPerStep);
@@ -56,7 +57,7 @@ internal static class EncodedContainer
         {
             (EncodedPage page, long address) = located[i];
             Budget.Step(1 + ((Math.Max(page.Size, 0) + Math.Max(page.Stored, 0)) / BytesPerStep));
-            faults[i] = ReadPage(source.Data, section, page, address, seed, target);
+            faults[i] = ReadPage(source.Data, section, page, address, seed, target, moved);
         });
         foreach (PageFault? fault in faults)
         {
@@ -112,7 +113,8 @@ internal static class EncodedContainer
     }
 
     private static PageFault? ReadPage(
-        byte[] data, EncodedSection section, in EncodedPage page, long address, ulong seed, byte[] target)
+        byte[] data, EncodedSection section, in EncodedPage page, long address, ulong seed, byte[] target,
+        MovedPages moved)
     {
         if (page.Start < 0 || page.Size < 0 || page.Start > target.Length || page.Size > target.Length - page.Start)
         {
@@ -120,7 +122,8 @@ internal static class EncodedContainer
                 + $"at byte {page.Start} of a section of {target.Length} bytes");
         }
 
-        return EncodedPages.ReadData(
-            data, address, section, page, seed, target.AsSpan((int)page.Start, (int)page.Size));
+        Span<byte> place = target.AsSpan((int)page.Start, (int)page.Size);
+        PageFault? fault = EncodedPages.ReadData(data, address, section, page, seed, place);
+        return fault is null || moved.Distance == 0 ? fault : moved.Read(fault, section, page, place);
     }
 }

@@ -44,6 +44,9 @@ internal sealed class EncodedHeader
 
     internal ulong CrcSeed { get; private init; }
 
+    /// <summary>Gets the number of bytes that the file states.</summary>
+    internal long FileSize { get; private init; }
+
     internal static EncodedHeader Read(DwgSource source)
     {
         if (source.Data.Length < FirstPage)
@@ -106,6 +109,7 @@ internal sealed class EncodedHeader
             SectionMap = sections,
             SectionMapCopy = sections with { Address = At(0xB8) },
             CrcSeed = (ulong)At(0xF0),
+            FileSize = At(0x08),
         };
     }
 }

@@ -18,10 +18,13 @@ internal static class EncodedMaps
     private const int Interleaved = 4;
 
     /// <summary>Reads the addresses of pages by their numbers.</summary>
-    internal static Dictionary<long, long> ReadPages(DwgSource source, EncodedHeader header)
+    /// <param name="source">The file.</param>
+    /// <param name="header">Its header.</param>
+    /// <param name="moved">By how many bytes a map may have moved.</param>
+    internal static Dictionary<long, long> ReadPages(DwgSource source, EncodedHeader header, int moved)
     {
         Dictionary<long, long> pages = [];
-        if (ReadEither(source, header.PageMap, header.PageMapCopy, header.CrcSeed, PageSection) is not { } map)
+        if (ReadEither(source, header.PageMap, header.PageMapCopy, header.CrcSeed, PageSection, moved) is not { } map)
         {
             return pages;
         }
@@ -47,14 +50,18 @@ internal static class EncodedMaps
     }
 
     /// <summary>Reads the map of sections.</summary>
+    /// <param name="source">The file.</param>
+    /// <param name="header">Its header.</param>
+    /// <param name="pages">The addresses of pages.</param>
+    /// <param name="moved">By how many bytes a map may have moved.</param>
     internal static List<EncodedSection> ReadSections(
-        DwgSource source, EncodedHeader header, Dictionary<long, long> pages)
+        DwgSource source, EncodedHeader header, Dictionary<long, long> pages, int moved)
     {
         List<EncodedSection> sections = [];
         long address = pages.GetValueOrDefault(header.SectionMap.Address, -1);
         long copy = pages.GetValueOrDefault(header.SectionMapCopy.Address, -1);
         if (ReadEither(source, header.SectionMap with { Address = address },
-            header.SectionMapCopy with { Address = copy }, header.CrcSeed, SectionSection) is not { } map)
+            header.SectionMapCopy with { Address = copy }, header.CrcSeed, SectionSection, moved) is not { } map)
         {
             return sections;
         }
@@ -75,11 +82,24 @@ internal static class EncodedMaps
 
     // Each map has a copy, which is used where defects do not end the load.
     private static byte[]? ReadEither(
-        DwgSource source, in SystemPageInfo page, in SystemPageInfo copy, ulong seed, string name)
+        DwgSource source, in SystemPageInfo page, in SystemPageInfo copy, ulong seed, string name, int moved)
     {
-        int defects = source.Options.Errors.Count;
-        byte[]? map = EncodedPages.ReadSystem(source, page, seed, name);
-        return source.Options.Errors.Count == defects ? map : EncodedPages.ReadSystem(source, copy, seed, name) ?? map;
+        SystemPageInfo[] places = moved == 0 ? [page, copy]
+            : [page, copy, page with { Address = page.Address + moved }, copy with { Address = copy.Address + moved }];
+        byte[]? first = null;
+        foreach (SystemPageInfo place in places)
+        {
+            int defects = source.Options.Errors.Count;
+            byte[]? map = EncodedPages.ReadSystem(source, place, seed, name);
+            if (source.Options.Errors.Count == defects)
+            {
+                return map;
+            }
+
+            first ??= map;
+        }
+
+        return first;
     }
 
     private static EncodedSection ReadSection(ref RawReader fields)

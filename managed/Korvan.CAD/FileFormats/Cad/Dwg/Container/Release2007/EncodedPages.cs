@@ -84,7 +84,7 @@ internal static class EncodedPages
         byte[] data, long address, EncodedSection section, in EncodedPage page, ulong seed, Span<byte> target)
     {
         ReedSolomon code = ReedSolomon.Data;
-        long blocks = (Aligned(page.Stored) + code.DataLength - 1) / code.DataLength;
+        long blocks = page.Stored < 0 || page.Stored > data.Length ? 0 : BlocksOf(page);
         long length = section.IsInterleaved ? blocks * ReedSolomon.BlockLength : page.Stored;
         if (page.Stored < 0 || page.Stored > data.Length || address < EncodedHeader.FirstPage
             || address + length > data.Length)
@@ -112,6 +112,10 @@ internal static class EncodedPages
         return isWhole ? null : new PageFault(
             LoadDefectCode.InvalidCompression, address, $"page {page.Number} cannot be decompressed");
     }
+
+    /// <summary>Returns the number of blocks of a page of a section.</summary>
+    internal static int BlocksOf(in EncodedPage page) =>
+        (int)((Aligned(page.Stored) + ReedSolomon.Data.DataLength - 1) / ReedSolomon.Data.DataLength);
 
     /// <summary>Returns the checksum of a page as the section map states it.</summary>
     internal static uint ChecksumOf(ReadOnlySpan<byte> page)
