@@ -114,7 +114,8 @@ public partial class CadFieldData
     private void ExchangeFlags(BitExchange fields)
     {
         const int unset = 2;
-        Flags = fields.BitLong(!fields.IsReading && ValueType == 0 ? Flags | NoValue | unset : Flags);
+        int flags = fields.BitLong(!fields.IsReading && ValueType == 0 ? Flags | NoValue | unset : Flags);
+        Flags = fields.IsReading ? flags : Flags;
     }
 
     // A value of some flags is none.
