@@ -205,7 +205,7 @@ internal sealed partial class SceneBuilder
     {
         StyleInfo used = _tables.StylesByHandle.TryGetValue(HandleOf(data.TextStyleHandle), out StyleInfo? style)
             ? style
-            : StyleInfo.Default;
+            : StyleInfo.Outlined;
         height = data.TextHeight > 0 ? data.TextHeight : _tables.Settings.TextSize;
         double spacing = data.LineSpacingFactor is > 0 and < 100 ? data.LineSpacingFactor : 1;
         var frame = new MTextFrame(data.TextWidth, Math.Clamp((int)data.TextAttachment, 1, 3), spacing, false);

@@ -42,7 +42,11 @@ internal sealed record LayerInfo(string Name)
 internal sealed record StyleInfo(
     FontSpec Font, double FixedHeight, double WidthFactor, double ObliqueDegrees, bool IsToleranceFont)
 {
-    internal static readonly StyleInfo Default = new(FontSpec.Default, 0, 1, 0, false);
+    /// <summary>The standard style of drawings without one, which a save adds to them.</summary>
+    internal static readonly StyleInfo Default = new(FontTable.FromFile("txt"), 0, 1, 0, false);
+
+    /// <summary>What texts that name no style have.</summary>
+    internal static readonly StyleInfo Outlined = new(FontSpec.Default, 0, 1, 0, false);
 
     /// <summary>Gets whether characters are below each other.</summary>
     internal bool IsVertical { get; init; }

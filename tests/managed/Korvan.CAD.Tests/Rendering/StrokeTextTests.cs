@@ -60,15 +60,16 @@ public sealed class StrokeTextTests : IDisposable
     }
 
     [Theory]
-    [InlineData("Standard", true)]
-    [InlineData("OTHER", false)]
-    public void Texts_of_a_missing_style_have_the_standard_one(string present, bool isStandard)
+    [InlineData("Standard", "arial.ttf", false)]
+    [InlineData("Standard", "txt.shx", true)]
+    [InlineData("OTHER", "arial.ttf", true)]
+    public void Texts_of_a_missing_style_have_the_standard_one(string present, string font, bool isStroked)
     {
         CadImage drawing = TestPage.Drawing(new CadText { DefaultValue = "text", TextHeight = 4, StyleType = "GONE" });
         drawing.Styles.Clear();
-        drawing.Styles.Add(new CadStyleTableObject { Name = present, PrimaryFontName = "txt.shx" });
+        drawing.Styles.Add(new CadStyleTableObject { Name = present, PrimaryFontName = font });
         DrawingList list = SceneList.Build(drawing);
-        Assert.Equal(isStandard, list.Items.ToArray().Any(static item => item.Kind == DisplayKind.Stroke));
+        Assert.Equal(isStroked, list.Items.ToArray().Any(static item => item.Kind == DisplayKind.Stroke));
     }
 
     [Fact]

@@ -8,7 +8,6 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Header;
 internal static class HeaderFlags
 {
     private const int ByLayer = -1;
-    private const int HidesLineWeights = 0x200;
     private const int ForbidsEditing = 0x400;
 
     // The variable, its group code, its lowest bit, its mask, and whether the bits state the opposite.
@@ -37,7 +36,6 @@ internal static class HeaderFlags
     internal static int FromHeader(CadHeader header)
     {
         int flags = LineWeights.ToNumber((short)header.GetDouble("$CELWEIGHT", ByLayer));
-        flags |= header.Contains("$LWDISPLAY") ? 0 : HidesLineWeights;
         foreach ((string name, _, int shift, int mask, int inverted) in Fields)
         {
             if (header.Contains(name))
