@@ -75,6 +75,7 @@ internal sealed class ShapeFiles
         foreach (CadShape shape in DrawingWalk.Entities(drawing).OfType<CadShape>())
         {
             files ??= Of(drawing);
+            shape.StyleHandle = StyleOf(drawing, shape)?.ObjectHandle ?? "0";
             foreach ((CadStyleTableObject style, ShapeFile file) in shape.ShapeName.Length > 0 ? files.Files : [])
             {
                 if (file.NumberOf(shape.ShapeName) is { } number)
@@ -84,6 +85,16 @@ internal sealed class ShapeFiles
                 }
             }
         }
+    }
+
+    // The one that it refers to, which copies in other drawings do not have, or the only one of a file.
+    private static CadStyleTableObject? StyleOf(CadDrawing drawing, CadShape shape)
+    {
+        List<CadStyleTableObject> styles = drawing.Styles.Items.FindAll(
+            static one => (one.StyleFlags & CadFontStyleTableFlag.Shape) != 0);
+        return styles.Find(one => one.ObjectHandle == shape.StyleHandle)
+            ?? styles.Find(one => shape.StyleName.Length > 0 && one.Name == shape.StyleName)
+            ?? (styles.Count == 1 ? styles[0] : null);
     }
 
     /// <summary>Returns the strokes of a symbol; null where no file has it.</summary>
