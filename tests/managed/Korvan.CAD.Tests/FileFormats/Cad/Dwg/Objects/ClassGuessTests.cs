@@ -30,7 +30,8 @@ public class ClassGuessTests
         {
             if (!found[i].DxfRecordName.StartsWith("DWG_TYPE_", StringComparison.Ordinal))
             {
-                Assert.Equal((stated[i].DxfRecordName, stated[i].IsEntity), (found[i].DxfRecordName, found[i].IsEntity));
+                Assert.Equal(
+                    (stated[i].DxfRecordName, stated[i].IsEntity), (found[i].DxfRecordName, found[i].IsEntity));
                 names.Add(found[i].DxfRecordName);
             }
         }
