@@ -225,7 +225,10 @@ public partial class CadImage : Image, IDrawingContent
         {
             base.FilePath = value;
             _drawing.Folder = value is null ? null : FolderFiles.FolderOf(value);
-            ShapeFiles.AddNames(_drawing);
+            if (this is DwgImage)
+            {
+                ShapeFiles.AddNames(_drawing);
+            }
         }
     }
 

@@ -53,19 +53,30 @@ internal sealed class ShapeFiles
     /// <summary>Names the symbols that drawing databases know by their numbers only.</summary>
     internal static void AddNames(CadDrawing drawing)
     {
-        ShapeFiles files = Of(drawing);
-        if (files._paths.Count == 0)
+        List<CadShape> shapes = Unnamed(drawing);
+        if (shapes.Count > 0)
         {
-            return;
+            ShapeFiles files = Of(drawing);
+            shapes.ForEach(shape => shape.ShapeName = files.NameOf(shape));
         }
+    }
 
-        foreach (CadShape shape in DrawingWalk.Entities(drawing).OfType<CadShape>())
+    // The folder is looked through only for drawings that have such symbols.
+    private static List<CadShape> Unnamed(CadDrawing drawing)
+    {
+        List<CadShape> shapes = [];
+        foreach (CadBlockEntity block in drawing.BlockEntities)
         {
-            if (shape.ShapeName.Length == 0 && shape.ShapeNumber != 0)
+            foreach (CadEntityBase entity in block.Entities)
             {
-                shape.ShapeName = files.NameOf(shape);
+                if (entity is CadShape { ShapeName.Length: 0, ShapeNumber: not 0 } shape)
+                {
+                    shapes.Add(shape);
+                }
             }
         }
+
+        return shapes;
     }
 
     /// <summary>Numbers the symbols of a drawing whose handles are complete, for drawing databases.</summary>
@@ -75,6 +86,7 @@ internal sealed class ShapeFiles
         foreach (CadShape shape in DrawingWalk.Entities(drawing).OfType<CadShape>())
         {
             files ??= Of(drawing);
+            shape.StyleHandle = StyleOf(drawing, shape)?.ObjectHandle ?? "0";
             foreach ((CadStyleTableObject style, ShapeFile file) in shape.ShapeName.Length > 0 ? files.Files : [])
             {
                 if (file.NumberOf(shape.ShapeName) is { } number)
@@ -84,6 +96,16 @@ internal sealed class ShapeFiles
                 }
             }
         }
+    }
+
+    // The one that it refers to, which copies in other drawings do not have, or the only one of a file.
+    private static CadStyleTableObject? StyleOf(CadDrawing drawing, CadShape shape)
+    {
+        List<CadStyleTableObject> styles = drawing.Styles.Items.FindAll(
+            static one => (one.StyleFlags & CadFontStyleTableFlag.Shape) != 0);
+        return styles.Find(one => one.ObjectHandle == shape.StyleHandle)
+            ?? styles.Find(one => shape.StyleName.Length > 0 && one.Name == shape.StyleName)
+            ?? (styles.Count == 1 ? styles[0] : null);
     }
 
     /// <summary>Returns the strokes of a symbol; null where no file has it.</summary>

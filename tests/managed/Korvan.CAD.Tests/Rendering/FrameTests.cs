@@ -151,6 +151,11 @@ public sealed class FrameTests : IDisposable
         DxfOptions options = new();
         numbered.Save(Path.Combine(_folder, "marks.dxf"), options);
         Assert.Contains(options.RenderResult!.Failures, static one => one.Message.Contains("131"));
+
+        // A release whose conversion takes a copy of the drawing.
+        numbered.Save(path, new DwgOptions { Version = CadAcadVersion.AC1015 });
+        using CadImage older = (CadImage)Image.Load(path);
+        Assert.Equal(131, Assert.IsType<CadShape>(older.Entities[0]).ShapeNumber);
     }
 
     [Theory]

@@ -48,6 +48,17 @@ public partial class CadShape : CadExtrudedEntityBase
     /// <summary>Gets or sets the handle of that style, as styles of files mostly have no names.</summary>
     internal string StyleHandle { get; set; } = "0";
 
+    // No text file has what databases know of the shape; copies of it do.
+    partial void OnExchange(ObjectExchange fields)
+    {
+        if (fields is MemoryExchange)
+        {
+            ShapeNumber = fields.Int32(0, ShapeNumber);
+            StyleName = fields.Text(0, StyleName);
+            StyleHandle = fields.Text(0, StyleHandle);
+        }
+    }
+
     private void ExchangeStyle(BitExchange fields)
     {
         if (fields.IsReading)

@@ -37,7 +37,13 @@ internal static class DwgLoader
         drawing.Header.Set("$ACADMAINTVER", code, file.MaintenanceVersion.ToString(CultureInfo.InvariantCulture));
         drawing.Header.CodePage = CodePageIndex.NameOf(file.CodePage);
         HeaderValues header = ReadHeader(file);
-        ReadClasses(file).ForEach(drawing.ClassEntities.Add);
+        List<CadClassEntity> classes = ReadClasses(file);
+        if (classes.Count == 0 && file.Source.IsTolerant)
+        {
+            classes = ClassGuess.Find(file);
+        }
+
+        classes.ForEach(drawing.ClassEntities.Add);
         new DwgReader(file, drawing).Read();
         Dictionary<ulong, string> names = NamesOf(drawing);
         HeaderVariableCodec.ToHeader(header, file.Release, drawing.Header, handle => names.GetValueOrDefault(handle));

@@ -153,7 +153,7 @@ internal static class DrawingCopy
     private static T Copy<T>(T item, T copy)
         where T : CadBaseObject
     {
-        MemoryExchange fields = new($"{item.DxfName} {item.ObjectHandle}");
+        MemoryExchange fields = new(item.Handle == 0 ? item.DxfName : $"{item.DxfName} {item.ObjectHandle}");
         item.Exchange(fields);
         fields.Rewind();
         copy.Exchange(fields);

@@ -27,6 +27,9 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
     /// <summary>Gets how many bits of data the class of the last object left over.</summary>
     internal long DataRemaining => _fields.DataRemaining;
 
+    /// <summary>Gets how many bits of references the class of the last object left over.</summary>
+    internal long HandlesRemaining => _fields.HandlesRemaining;
+
     /// <summary>Reads where a record is and of what type.</summary>
     internal RecordHeader ReadHeader(long offset)
     {
@@ -242,6 +245,9 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
         return made is { HasBits: true } ? made
             : item.IsEntity ? new RawEntity(item.DxfRecordName) : new RawObject(item.DxfRecordName);
     }
+
+    /// <summary>Determines whether objects of a class are drawn.</summary>
+    internal static bool IsEntity(string name) => CreateEntity(name) is not null;
 
     private static CadBaseObject Unknown(int type, string name) =>
         ObjectTypeTable.Create(type) is CadEntityBase entity ? new RawEntity(entity.DxfName)

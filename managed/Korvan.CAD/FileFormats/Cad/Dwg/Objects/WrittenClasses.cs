@@ -177,16 +177,22 @@ internal sealed class WrittenClasses
         return FirstNumber + _classes.Count - 1;
     }
 
-    private void Add(string recordName, bool isEntity)
+    /// <summary>Gets the names of the classes that can be stated.</summary>
+    internal static IReadOnlyCollection<string> Names => Known.Keys;
+
+    /// <summary>Returns what files state of a class.</summary>
+    internal static CadClassEntity Describe(string recordName, bool isEntity)
     {
         (string name, int flags) = Known.GetValueOrDefault(recordName, (recordName, 0));
-        _classes.Add(new CadClassEntity
+        return new CadClassEntity
         {
             DxfRecordName = recordName,
             ClassName = name,
             ApplicationName = Library,
             ProxyFlags = flags,
             IsEntity = isEntity,
-        });
+        };
     }
+
+    private void Add(string recordName, bool isEntity) => _classes.Add(Describe(recordName, isEntity));
 }

@@ -31,7 +31,8 @@ internal static class EncodedContainer
         {
             if (!section.IsEncrypted || !plain.IsEncrypted)
             {
-                NamedSections.Store(file, section.Name, () => ReadSection(source, section, pages, header.CrcSeed, moved));
+                NamedSections.Store(
+                    file, section.Name, () => ReadSection(source, section, pages, header.CrcSeed, moved));
             }
         }
 

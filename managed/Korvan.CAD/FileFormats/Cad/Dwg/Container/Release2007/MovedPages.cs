@@ -5,7 +5,7 @@ using Korvan.CAD.Input;
 namespace Korvan.CAD.FileFormats.Cad.Dwg.Container.Release2007;
 
 /// <summary>Reads pages of a file of release 2007 that has lost some bytes or got some too many, so that pages are not
-/// where the map states: they are before the damage or moved by it, and one has it within. Of that one the bytes are put
+/// where the map states: they are before the damage or moved by it, and one has it within. Of that one bytes are put
 /// right where its code then corrects the others.</summary>
 /// <param name="source">The file.</param>
 /// <param name="header">Its header, which states how long it was.</param>

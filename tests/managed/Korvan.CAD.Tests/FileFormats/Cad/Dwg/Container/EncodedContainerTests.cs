@@ -195,6 +195,30 @@ public class EncodedContainerTests
         }
     }
 
+    // Before, within and behind pages, and within the header.
+    [DrawingTheory]
+    [InlineData(0x90, -1)]
+    [InlineData(0x700, 1)]
+    [InlineData(0x4000, -2)]
+    [InlineData(0x9000, 3)]
+    [InlineData(0x10000, -1)]
+    public void Pages_are_found_where_lost_or_added_bytes_have_moved_them(int at, int count)
+    {
+        byte[] data = DwgSamples.Bytes("lwg__2007_Line.dwg");
+        LoadOptions strict = new();
+        DwgFile whole = DwgSamples.Open(data, "whole", strict);
+        byte[] damaged = count < 0 ? [.. data[..at], .. data[(at - count)..]]
+            : [.. data[..at], .. Enumerable.Repeat((byte)0x5A, count), .. data[at..]];
+        LoadOptions options = new() { IgnoreErrors = true };
+
+        DwgFile found = DwgSamples.Open(damaged, "damaged", options);
+
+        Assert.Equal(whole.Objects, found.Objects);
+        Assert.Equal(whole.Map.Count, found.Map.Count);
+        Assert.NotEmpty(options.Errors);
+        Assert.Throws<ImageLoadException>(() => DwgSamples.Open(damaged, "damaged", new LoadOptions()));
+    }
+
     [Fact]
     public void Encrypted_sections_are_left_out_where_the_file_states_encryption()
     {

@@ -56,7 +56,8 @@ public class SharedFieldTests
             DxfText.Tags(0, "SECTION", 2, "TABLES", 0, "TABLE", 2, "DIMSTYLE", 5, "A1", 100, "AcDbSymbolTable", 70, 1,
                 100, "AcDbDimStyleTable", 71, 1, 340, "A2", 0, "DIMSTYLE", 105, "A2", 100, "AcDbSymbolTableRecord",
                 100, "AcDbDimStyleTableRecord", 2, "Fine", 70, 0, 0, "ENDTAB", 0, "ENDSEC")
-            + DxfText.Entities(0, "POINT", 5, "A3", 100, "AcDbEntity", 8, "0", 348, "A4", 100, "AcDbPoint", 10, 1, 20, 2)
+            + DxfText.Entities(
+                0, "POINT", 5, "A3", 100, "AcDbEntity", 8, "0", 348, "A4", 100, "AcDbPoint", 10, 1, 20, 2)
             + DxfText.Tags(0, "SECTION", 2, "OBJECTS", 0, "XRECORD", 5, "A4", 100, "AcDbXrecord", 70, 1, 0, "ENDSEC"));
 
         CadDrawing again = ObjectRoundTripTests.WriteAndRead(drawing, version).Item1;
