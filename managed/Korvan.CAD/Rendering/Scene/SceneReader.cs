@@ -5,6 +5,7 @@ using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.MLineStyleObject;
 using Korvan.CAD.FileFormats.Cad.CadTables;
+using Korvan.CAD.FileFormats.Cad.Model;
 using Korvan.CAD.FileFormats.Cad.Model.Dimensions;
 using Korvan.CAD.FileFormats.Cad.Model.Tables;
 using Korvan.CAD.FileFormats.Shx;
@@ -178,12 +179,14 @@ internal static class SceneReader
 
     private static List<LayoutInfo> Layouts(CadDrawing drawing, SceneTables tables, BlockInfo model, BlockInfo paper)
     {
-        var names = drawing.BlockRecords.Items.ToLookup(
-            r => r.ObjectHandle, r => r.Name, StringComparer.OrdinalIgnoreCase);
+        // Old drawings have no handles, and their layouts lead nowhere.
+        var names = drawing.BlockRecords.Items.Where(static r => r.Handle != 0)
+            .ToLookup(static r => r.Handle, static r => r.Name);
         var layouts = new List<LayoutInfo>();
         foreach (CadLayout layout in drawing.Layouts)
         {
-            string? block = names[layout.BlockTableRecordHandle].FirstOrDefault();
+            string? block = HandleText.TryParse(layout.BlockTableRecordHandle, out ulong handle)
+                ? names[handle].FirstOrDefault() : null;
             bool isModel = string.Equals(layout.LayoutName, DrawingScene.ModelName, StringComparison.OrdinalIgnoreCase)
                 || string.Equals(block, model.Name, StringComparison.OrdinalIgnoreCase);
             BlockInfo content = isModel ? model : block != null

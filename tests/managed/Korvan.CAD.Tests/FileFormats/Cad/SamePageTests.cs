@@ -2,6 +2,8 @@ using System;
 using System.Collections.Generic;
 using System.IO;
 using System.Linq;
+using System.Text;
+using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.ImageOptions;
 using Xunit;
 
@@ -48,9 +50,17 @@ public class SamePageTests
 
     private static string Page(Image image)
     {
-        using MemoryStream stream = new();
-        image.Save(stream, new SvgOptions { VectorRasterizationOptions = new CadRasterizationOptions() });
-        stream.Position = 0;
-        return new StreamReader(stream).ReadToEnd();
+        StringBuilder pages = new();
+        string? sheet = ((CadImage)image).Layouts.Names.FirstOrDefault(static name => name != "Model");
+        foreach (string? layout in new[] { null, sheet }.Distinct())
+        {
+            CadRasterizationOptions page = new();
+            page.Layouts = layout is null ? page.Layouts : [layout];
+            using MemoryStream stream = new();
+            image.Save(stream, new SvgOptions { VectorRasterizationOptions = page });
+            pages.Append(Encoding.UTF8.GetString(stream.ToArray()));
+        }
+
+        return pages.ToString();
     }
 }
