@@ -145,6 +145,15 @@ def clipped_lines(count: int, triangles: int) -> bytes:
     ).encode()
 
 
+def wide_dashes(corners: int) -> bytes:
+    """A polygon with a dashed edge that is nearly as wide as the page."""
+    points = " ".join(f"({i * 7919 % 1000},{i * 104729 % 1000})" for i in range(corners))
+    return (
+        "BEGMF 'x';\nMFVERSION 4;\nVDCTYPE INTEGER;\nBEGPIC 'p';\nVDCEXT (0, 0) (1000, 1000);\nBEGPICBODY;\n"
+        f"EDGEVIS ON;\nEDGEWIDTH 900;\nEDGETYPE 3;\nPOLYGON {points};\nENDPIC;\nENDMF;\n"
+    ).encode()
+
+
 def giant_text(length: int) -> bytes:
     return (
         "BEGMF 'x';\nMFVERSION 1;\nVDCTYPE INTEGER;\nINTEGERPREC -2147483648 2147483647;\nBEGPIC 'p';\n"

@@ -11,6 +11,12 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>Dashes shorter than this in device units are drawn as a continuous line.</summary>
     private const double ShortestPeriod = 0.75;
 
+    /// <summary>What the outline of a dash takes in memory until it is filled.</summary>
+    private const int BytesOfDash = 400;
+
+    /// <summary>The width of a dash, in pixels, that takes twice as long as one without width.</summary>
+    private const double WideDash = 50;
+
     protected override void PlayStroke(in DisplayItem item)
     {
         if (item.TextHeight > 0 && _skipsStrokes)
@@ -33,6 +39,11 @@ internal sealed unsafe partial class CairoPainter
         }
 
         CountWork(item, 2, StrokeEdgesPerStep);
+        if (isDashed)
+        {
+            CountDashes(item, width);
+        }
+
         Trace(item);
         SetColor(item.Color);
         if (width != _lineWidth)
@@ -80,6 +91,21 @@ internal sealed unsafe partial class CairoPainter
             Cairo.SurfaceMarkDirty(_target.Surface);
             _isDirect = false;
         }
+    }
+
+    /// <summary>Counts the dashes of a path, whose outlines are filled as one.</summary>
+    private void CountDashes(in DisplayItem item, double width)
+    {
+        ReadOnlySpan<double> c = List.CoordsOf(item);
+        double length = 0;
+        for (int at = 2, count = CoordCount(item); at < count; at += 2)
+        {
+            length += new Vec2(c[at] - c[at - 2], c[at + 1] - c[at - 1]).Length;
+        }
+
+        double dashes = Math.Min(length * _scale / Period(item) * List.DashOf(item).Length, int.MaxValue);
+        Budget.Step((long)(dashes * (1 + (width / WideDash))));
+        Budget.VerifyRoom((long)dashes * BytesOfDash);
     }
 
     private double Period(in DisplayItem item)

@@ -45,8 +45,8 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
     /// <summary>The parts of a path that take about as long as one step of the budget.</summary>
     private const int VerbsPerStep = 8;
 
-    /// <summary>The steps for an image that covers the page.</summary>
-    private const int StepsPerPage = 500;
+    /// <summary>The pixels of an image, as it shows, that take about as long as one step of the budget.</summary>
+    private const int ImagePixelsPerStep = 250;
 
     private static readonly Dictionary<InterpolationMode, CairoFilter> Filters = new()
     {
@@ -290,8 +290,9 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
 
         double shownWidth = new Vec2(place.Xx, place.Yx).Length;
         double shownHeight = new Vec2(place.Xy, place.Yy).Length;
-        double share = Math.Min(1, shownWidth * shownHeight / ((double)_target.ThinLines.Width * _rows.End));
-        Budget.Step(1 + (long)(share * StepsPerPage));
+        Bounds2 shown = _clip.Box.Clip(Bounds2.Of(0, _rows.First, _target.ThinLines.Width, _rows.End));
+        double area = Math.Min(shownWidth * shownHeight, Math.Max(0, shown.Width) * Math.Max(0, shown.Height));
+        Budget.Step(1 + (long)(area / ImagePixelsPerStep));
         bool isNearest = _settings.Interpolation == InterpolationMode.NearestNeighbor;
         (int width, int height, byte[] pixels) = isNearest
             ? (image.Width, image.Height, image.Pixels)

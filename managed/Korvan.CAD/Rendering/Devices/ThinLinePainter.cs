@@ -16,8 +16,8 @@ internal sealed unsafe class ThinLinePainter
     /// <summary>The largest band that has a second plane for the coverage of a path.</summary>
     private const long MaxPlane = 64_000_000;
     private const int MaxCurveLines = 4_096;
-    private const int PixelsPerLine = 16; // what takes as long as one line of no length
-    private const int PixelsPerStep = 512;
+    private const int PixelsPerLine = 8; // what takes as long as one line of no length
+    private const int PixelsPerStep = 256;
     private const int Opaque = 255;
     private const uint Channels = 0x00ff_00ff;
 
