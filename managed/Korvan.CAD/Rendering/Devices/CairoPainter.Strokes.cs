@@ -93,17 +93,23 @@ internal sealed unsafe partial class CairoPainter
         }
     }
 
-    /// <summary>Counts the dashes of a path, whose outlines are filled as one.</summary>
+    /// <summary>Counts the dashes of a path that can show, whose outlines are filled as one.</summary>
     private void CountDashes(in DisplayItem item, double width)
     {
+        Bounds2 page = Bounds2.Of(
+            -width, _rows.First - width, _target.ThinLines.Width + width, _rows.End + width);
         ReadOnlySpan<double> c = List.CoordsOf(item);
         double length = 0;
         for (int at = 2, count = CoordCount(item); at < count; at += 2)
         {
-            length += new Vec2(c[at] - c[at - 2], c[at + 1] - c[at - 1]).Length;
+            Map(_map, c, at - 2, out double fromX, out double fromY);
+            Map(_map, c, at, out double toX, out double toY);
+            double x = Math.Min(Math.Max(fromX, toX), page.MaxX) - Math.Max(Math.Min(fromX, toX), page.MinX);
+            double y = Math.Min(Math.Max(fromY, toY), page.MaxY) - Math.Max(Math.Min(fromY, toY), page.MinY);
+            length += x >= 0 && y >= 0 ? new Vec2(x, y).Length : 0;
         }
 
-        double dashes = Math.Min(length * _scale / Period(item) * List.DashOf(item).Length, int.MaxValue);
+        double dashes = Math.Min(length / Period(item) * List.DashOf(item).Length, int.MaxValue);
         Budget.Step((long)(dashes * (1 + (width / WideDash))));
         Budget.VerifyRoom((long)dashes * BytesOfDash);
     }

@@ -133,11 +133,17 @@ internal sealed class DwgObjectWriter
 
     private bool IsWritten(CadBaseObject item) =>
         item is CadTableHeader or CadSymbolTableGroupCodes or CadInsertObject || KeptOf(item) is not null
+        || ProxiedOf(item) is not null
         || (item.HasAllBits && (ObjectTypeTable.NumberOf(item) > 0 || WrittenClasses.IsKnown(item.DxfName)
             || _classes.Has(item.DxfName)));
 
     private KeptBits? KeptOf(CadBaseObject item) =>
         !item.HasAllBits && item.Kept is KeptBits { Record.Length: > 0 } kept && kept.Release == _release ? kept : null;
+
+    // The bits of another release are those of a proxy, which states the release.
+    private StoredProxy? ProxiedOf(CadBaseObject item) =>
+        item is (RawEntity or RawObject) && item.Kept is KeptBits { Proxy: StoredProxy proxy } kept
+            && kept.Release != _release && _classes.Has(item.DxfName) ? proxy : null;
 
     private void CountInserts()
     {
@@ -300,6 +306,13 @@ internal sealed class DwgObjectWriter
         if (item is CadEntityBase { ColorName.Length: > 0 } entity)
         {
             frame.Color = _colors.GetValueOrDefault(entity.ColorName);
+        }
+
+        if (ProxiedOf(item) is { } stored)
+        {
+            CadBaseObject proxy = stored.Create().ToProxy(_classes.NumberOf(item), item is CadEntityBase);
+            _records.Write(ObjectTypeTable.NumberOf(proxy), item, frame, parts, proxy);
+            return;
         }
 
         int type = ObjectTypeTable.NumberOf(item);

@@ -30,12 +30,14 @@ internal sealed class RecordWriter(int release, Encoding encoding, WrittenHandle
     /// <param name="item">The object.</param>
     /// <param name="frame">Its place among the others.</param>
     /// <param name="parts">Its parts.</param>
+    /// <param name="proxy">What is written instead of its own fields; null for these.</param>
     /// <exception cref="ImageSaveException">A value does not fit its field.</exception>
-    internal void Write(int type, CadBaseObject item, ObjectFrame frame, ChildHandles? parts)
+    internal void Write(
+        int type, CadBaseObject item, ObjectFrame frame, ChildHandles? parts, CadBaseObject? proxy = null)
     {
         try
         {
-            WriteFields(type, item, frame, parts);
+            WriteFields(type, item, frame, parts, proxy);
         }
         catch (DwgFault fault)
         {
@@ -121,7 +123,8 @@ internal sealed class RecordWriter(int release, Encoding encoding, WrittenHandle
         store.Add(handle, record.Bytes, kept.HandleBits);
     }
 
-    private void WriteFields(int type, CadBaseObject item, ObjectFrame frame, ChildHandles? parts)
+    private void WriteFields(
+        int type, CadBaseObject item, ObjectFrame frame, ChildHandles? parts, CadBaseObject? proxy)
     {
         Begin(item, frame);
         _fields.Parts = parts ?? new ChildHandles();
@@ -137,7 +140,7 @@ internal sealed class RecordWriter(int release, Encoding encoding, WrittenHandle
             CommonData.ExchangeObject(_fields, frame);
         }
 
-        item.ExchangeBits(_fields);
+        (proxy ?? item).ExchangeBits(_fields);
         End(type, item.Handle);
     }
 

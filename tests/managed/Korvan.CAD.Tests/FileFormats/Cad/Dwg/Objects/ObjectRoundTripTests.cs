@@ -15,6 +15,7 @@ using Korvan.CAD.FileFormats.Cad.Dwg;
 using Korvan.CAD.FileFormats.Cad.Dwg.Container;
 using Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.FileFormats.Cad.Model.Proxy;
 using Xunit;
 
 namespace Korvan.CAD.Tests.FileFormats.Cad.Dwg.Objects;
@@ -57,13 +58,24 @@ public class ObjectRoundTripTests
     }
 
     [DrawingFact]
-    public void ObjectsOfAnotherReleaseThatCannotBeWrittenAreStatedAndNotReferredTo()
+    public void ObjectsOfAnotherReleaseAreProxiesWithTheirGraphics()
     {
         CadDrawing drawing = RealObjectTests.Load(SharedDrawings.Dwg("lwg__2013_gh109_1.dwg"), new LoadOptions());
 
         (CadDrawing again, IReadOnlyList<string> leftOut) = WriteAndRead(drawing, CadAcadVersion.AC1018);
 
-        Assert.Contains(leftOut, static line => line.StartsWith("TCH_DBCONFIG ", StringComparison.Ordinal));
+        Assert.Empty(leftOut);
+        CadEntityBase[] kept = [.. DrawingWalk.Entities(drawing).Where(static one => one is RawEntity)];
+        Assert.True(kept.Length > 20, $"only {kept.Length}");
+        Dictionary<ulong, CadAcadProxyEntity> proxies =
+            DrawingWalk.Entities(again).OfType<CadAcadProxyEntity>().ToDictionary(static one => one.Handle);
+        Assert.All(kept, entity =>
+        {
+            CadAcadProxyEntity proxy = proxies[entity.Handle];
+            Assert.Equal(entity.LayerName, proxy.LayerName);
+            Assert.Equal(ProxyGraphics.DataOf(entity), proxy.GraphicsData);
+            Assert.Equal(31, proxy.DrawingFormat & 0xFFFF);
+        });
         HashSet<ulong> present = DrawingWalk.Handles(again);
         Assert.All(
             again.Objects.OfType<CadDictionaryBase>(),
