@@ -11,8 +11,8 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Objects;
 /// its objects, those of others do not.</summary>
 internal static class ClassGuess
 {
-    private const int MostClasses = 1000;
-    private const int MostSamples = 8;
+    private const int MaxClasses = 1000;
+    private const int MaxSamples = 8;
     private const int Padding = 8; // references end at a byte
     private const string Image = "IMAGE";
 
@@ -32,7 +32,7 @@ internal static class ClassGuess
     {
         CadClassEntity tried = new();
         RecordFormat format = new(file.Release, file.Encoding, new RecordNames());
-        RecordReader reader = new(file.Objects, format, [.. Enumerable.Repeat(tried, MostClasses)]);
+        RecordReader reader = new(file.Objects, format, [.. Enumerable.Repeat(tried, MaxClasses)]);
         SortedDictionary<int, List<RecordHeader>> samples = SamplesOf(file, reader);
         List<CadClassEntity> classes = [];
         foreach ((int number, List<RecordHeader> records) in samples)
@@ -64,7 +64,7 @@ internal static class ClassGuess
                 RecordHeader header = reader.ReadHeader(file.Map.Offsets[i]);
                 int number = header.Type - ObjectTypeTable.FirstClass;
                 bool isWhole = file.HasRightChecksum(file.Map.Offsets[i], header.End >> 3);
-                if (number is >= 0 and < MostClasses && isWhole)
+                if (number is >= 0 and < MaxClasses && isWhole)
                 {
                     samples.TryAdd(number, []);
                     samples[number].Add(header);
@@ -79,7 +79,7 @@ internal static class ClassGuess
         foreach (List<RecordHeader> records in samples.Values)
         {
             records.Sort(static (one, other) => (other.End - other.Start).CompareTo(one.End - one.Start));
-            records.RemoveRange(Math.Min(records.Count, MostSamples), Math.Max(records.Count - MostSamples, 0));
+            records.RemoveRange(Math.Min(records.Count, MaxSamples), Math.Max(records.Count - MaxSamples, 0));
         }
 
         return samples;

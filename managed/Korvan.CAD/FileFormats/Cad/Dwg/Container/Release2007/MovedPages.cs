@@ -11,8 +11,8 @@ namespace Korvan.CAD.FileFormats.Cad.Dwg.Container.Release2007;
 /// <param name="header">Its header, which states how long it was.</param>
 internal sealed class MovedPages(DwgSource source, EncodedHeader header)
 {
-    private const int MostMoved = 64;
-    private const int MostAttempts = 1024;
+    private const int MaxMoved = 64;
+    private const int MaxAttempts = 1024;
     private const int BytesPerStep = 256;
 
     private int _attempts;
@@ -20,7 +20,7 @@ internal sealed class MovedPages(DwgSource source, EncodedHeader header)
     /// <summary>Gets by how many bytes what follows the damage has moved; 0 for a whole file and where defects end the
     /// load.</summary>
     internal int Distance { get; } =
-        source.IsTolerant && Math.Abs(source.Data.Length - header.FileSize) <= MostMoved
+        source.IsTolerant && Math.Abs(source.Data.Length - header.FileSize) <= MaxMoved
             ? (int)(source.Data.Length - header.FileSize) : 0;
 
     /// <summary>Reads a page that is damaged where the map states.</summary>
@@ -58,7 +58,7 @@ internal sealed class MovedPages(DwgSource source, EncodedHeader header)
         int step = Math.Max(1, blocks * ReedSolomon.Data.Parity / 2);
         ReadOnlySpan<byte> stored = source.Data.AsSpan((int)address, length + Distance);
         byte[] attempt = new byte[EncodedHeader.FirstPage + length];
-        for (int at = 0; at < length && Interlocked.Increment(ref _attempts) < MostAttempts; at += step)
+        for (int at = 0; at < length && Interlocked.Increment(ref _attempts) < MaxAttempts; at += step)
         {
             Budget.Step(1 + (length / BytesPerStep));
             Realign(stored, at, attempt.AsSpan(EncodedHeader.FirstPage));
