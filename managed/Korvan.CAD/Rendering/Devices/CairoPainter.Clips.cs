@@ -67,6 +67,7 @@ internal sealed unsafe partial class CairoPainter
 
     private void EndMask(MaskedPixels masked)
     {
+        using PixelBlock before = masked.Before;
         UsePixels();
         PixelBox box = masked.Mask.Box;
         Budget.Step(1 + (box.Area / ClipMask.PixelsPerStep));
@@ -74,8 +75,6 @@ internal sealed unsafe partial class CairoPainter
         {
             masked.Mask.Restore(row, RowOf(masked, row), BeforeOf(masked, row));
         }
-
-        masked.Before.Dispose();
     }
 
     private Span<int> RowOf(MaskedPixels masked, int row) =>

@@ -17,7 +17,7 @@ internal sealed unsafe class ClipMask
     /// <summary>The pixels that are mixed in about the time of one step of the budget.</summary>
     internal const int PixelsPerStep = 3_000;
 
-    /// <summary>As many are there in an opaque byte.</summary>
+    /// <summary>The coverage of a pixel that is covered whole.</summary>
     private const int Opaque = 255;
     private const uint Channels = 0x00ff_00ff;
 

@@ -31,12 +31,6 @@ public partial class CadSolid : CadExtrudedEntityBase
     public Cad3DPoint FourthPoint { get; set; } = new();
 
     // One elevation for all corners.
-    private void ExchangeCorners(BitExchange fields)
-    {
-        fields.Elevation(FirstPoint, SecondPoint, ThirdPoint, FourthPoint);
-        foreach (Cad3DPoint corner in (Cad3DPoint[])[FirstPoint, SecondPoint, ThirdPoint, FourthPoint])
-        {
-            fields.RawPoint2(corner);
-        }
-    }
+    private void ExchangeCorners(BitExchange fields) =>
+        fields.FlatPoints(FirstPoint, SecondPoint, ThirdPoint, FourthPoint);
 }

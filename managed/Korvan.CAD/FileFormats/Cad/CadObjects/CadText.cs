@@ -109,9 +109,7 @@ public partial class CadText : CadExtrudedEntityBase
             return;
         }
 
-        fields.Elevation(FirstAlignment, SecondAlignment);
-        fields.RawPoint2(FirstAlignment);
-        fields.RawPoint2(SecondAlignment);
+        fields.FlatPoints(FirstAlignment, SecondAlignment);
         fields.Point3(ExtrusionDirection);
         Thickness = fields.BitDouble(Thickness);
         ObliqueAngle = fields.Angle(ObliqueAngle);

@@ -15,12 +15,6 @@ public partial class CadTrace : CadExtrudedEntityBase
     }
 
     // One elevation for all corners.
-    private void ExchangeCorners(BitExchange fields)
-    {
-        fields.Elevation(FirstPoint, SecondPoint, ThirdPoint, FourthPoint);
-        foreach (Cad3DPoint corner in (Cad3DPoint[])[FirstPoint, SecondPoint, ThirdPoint, FourthPoint])
-        {
-            fields.RawPoint2(corner);
-        }
-    }
+    private void ExchangeCorners(BitExchange fields) =>
+        fields.FlatPoints(FirstPoint, SecondPoint, ThirdPoint, FourthPoint);
 }

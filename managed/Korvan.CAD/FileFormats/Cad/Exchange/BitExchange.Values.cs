@@ -39,6 +39,16 @@ internal abstract partial class BitExchange
         SetElevation(elevation, points);
     }
 
+    /// <summary>Carries points of one plane: their elevation (BD), and of each X and Y (2RD).</summary>
+    internal void FlatPoints(params ReadOnlySpan<Cad3DPoint> points)
+    {
+        Elevation(points);
+        foreach (Cad3DPoint point in points)
+        {
+            RawPoint2(point);
+        }
+    }
+
     /// <summary>Gives points their elevation, where they are read.</summary>
     internal void SetElevation(double elevation, params ReadOnlySpan<Cad3DPoint> points)
     {
