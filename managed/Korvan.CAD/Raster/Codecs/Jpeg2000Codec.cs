@@ -65,8 +65,9 @@ internal static unsafe class Jpeg2000Codec
         using (OpenJpegStreamHandle stream = OpenStream(bridge, input: false))
         {
             OpenJpeg.SetErrorHandler(codec, &OnError, bridge.Closure);
-            done = OpenJpeg.SetupEncoder(codec, &parameters, image) != 0 && UseThreads(codec, samples)
-                && OpenJpeg.Start(codec, image, stream) != 0
+            done = OpenJpeg.SetupEncoder(codec, &parameters, image) != 0;
+            UseThreads(codec, samples);
+            done = done && OpenJpeg.Start(codec, image, stream) != 0
                 && (hasTiles ? WriteTiles(codec, stream, pixels, colors, count) : OpenJpeg.Encode(codec, stream) != 0)
                 && OpenJpeg.End(codec, stream) != 0;
         }
@@ -108,8 +109,7 @@ internal static unsafe class Jpeg2000Codec
         Verify(read, source, bridge);
         VerifySize(image.Header, source, data.Length);
         using var room = new NativeRoom(SampleBytes(image.Header));
-        bool whole = UseThreads(codec, SampleBytes(image.Header) / sizeof(int))
-            && OpenJpeg.Decode(codec, stream, image) != 0 && OpenJpeg.EndDecompress(codec, stream) != 0;
+        bool whole = OpenJpeg.Decode(codec, stream, image) != 0 && OpenJpeg.EndDecompress(codec, stream) != 0;
         Verify(whole, source, bridge);
         return Jpeg2000Planes.ToPixels(image.Header, source, out bitsPerPixel);
     }
@@ -146,10 +146,13 @@ internal static unsafe class Jpeg2000Codec
 
     // Blocks of samples are coded on their own, by as many threads as there are processors. A forked child has none of
     // the runtime's that could take over a message of theirs.
-    private static bool UseThreads(OpenJpegCodecHandle codec, long samples)
+    private static void UseThreads(OpenJpegCodecHandle codec, long samples)
     {
-        int count = ForkedProcess.IsChild || samples < MinSamplesOfThreads ? 1 : Environment.ProcessorCount;
-        return count == 1 || OpenJpeg.SetThreads(codec, Math.Min(count, MaxThreads)) != 0;
+        if (samples >= MinSamplesOfThreads && !ForkedProcess.IsChild && Environment.ProcessorCount > 1)
+        {
+            // Where there can be none, the codec does without.
+            _ = OpenJpeg.SetThreads(codec, Math.Min(Environment.ProcessorCount, MaxThreads));
+        }
     }
 
     private static int Resolutions(int side)

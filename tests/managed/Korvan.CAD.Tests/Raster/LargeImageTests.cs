@@ -16,6 +16,17 @@ public class LargeImageTests
     private const int Width = 1301;
     private const int Height = 1103;
 
+    [Fact]
+    public void Jpeg_2000_that_several_threads_write_holds_every_pixel()
+    {
+        var random = new Random(5);
+        using var image = Samples.Of(Width, Height, (_, y) => y < 900 ? -1 : random.Next() | PixelGrid.Opaque);
+        string file = Samples.Save(image, new Jpeg2000Options(), ".jp2");
+        using var again = (RasterImage)Image.Load(file);
+        var all = new Rectangle(0, 0, Width, Height);
+        Assert.Equal(image.LoadArgb32Pixels(all), again.LoadArgb32Pixels(all));
+    }
+
     [Theory]
     [InlineData(PngFilterType.None, 0, 255)]
     [InlineData(PngFilterType.Sub, 1, 255)]
