@@ -70,6 +70,11 @@ internal static class CodecWriter
 
     private static void WriteReading(CadClass model, StringBuilder text)
     {
+        if (model.Subclass is not (null or "AcDbEntity"))
+        {
+            text.AppendLine($"    internal override string OwnSubclass => \"{model.Subclass}\";");
+        }
+
         text.AppendLine($"    internal override bool ReadField(int code, {Reader} reader)");
         text.AppendLine("    {");
         string guard = model.Subclass is null or "AcDbEntity" ? "true" : $"reader.InSubclass(\"{model.Subclass}\")";

@@ -92,6 +92,10 @@ public abstract partial class CadBaseObject : IKeyedObject
     /// not say, so that this holds for all.</summary>
     internal virtual bool HasSubclass(string? name) => true;
 
+    /// <summary>Gets the marker of the subclass that the class itself declares, empty where it has none or takes its
+    /// fields in order.</summary>
+    internal virtual string OwnSubclass => "";
+
     /// <summary>Gets whether files have the fields in the order of their declaration.</summary>
     internal virtual bool HasOrderedFields => false;
 

@@ -16,6 +16,8 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
 {
     // The markers of the current object so far: a second one begins no fields of its class.
     private readonly HashSet<string> _entered = [];
+    // Whether the marker of the class itself was there, or is known to come.
+    private bool _hasOwn;
 
     internal CadEntityBase ReadEntity(string name) => ReadEntity(Create(name));
 
@@ -40,6 +42,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
     {
         Budget.Check();
         _entered.Clear();
+        _hasOwn = false;
         tags.EnterSubclass(null);
         tags.CurrentHandle = 0;
         while (tags.Next())
@@ -50,14 +53,34 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
                 break;
             }
 
-            if (!ReadCommon(code, target) && !target.ReadField(code, tags))
+            if (!ReadCommon(code, target) && !target.ReadField(code, tags) && !ReadUnmarked(code, target))
             {
-                Keep(target, tags.Subclass);
+                Keep(target, tags.Subclass == FieldReader.AnySubclass ? target.OwnSubclass : tags.Subclass);
             }
         }
 
         tags.CurrentHandle = 0;
         tags.Unread();
+    }
+
+    // Some programs leave out the marker of an entity's own subclass, or write another one.
+    private bool ReadUnmarked(int code, CadBaseObject target)
+    {
+        string own = target.OwnSubclass;
+        if (target is not CadEntityBase || own.Length == 0 || _hasOwn
+            || tags.Subclass is null or KeptTag.Verbatim or FieldReader.AnySubclass)
+        {
+            return false;
+        }
+
+        _hasOwn = tags.HasMarker(own);
+        if (_hasOwn)
+        {
+            return false;
+        }
+
+        tags.EnterSubclass(FieldReader.AnySubclass);
+        return target.ReadField(code, tags);
     }
 
     private void Keep(CadBaseObject target, string? subclass)
@@ -118,7 +141,9 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
             return;
         }
 
-        tags.EnterSubclass(name == CadInsertObject.GridMarker ? CadInsertObject.SingleMarker : name);
+        name = name == CadInsertObject.GridMarker ? CadInsertObject.SingleMarker : name;
+        _hasOwn |= name == target.OwnSubclass;
+        tags.EnterSubclass(name);
     }
 
     private void ReadVerbatim(CadBaseObject target)
@@ -225,7 +250,7 @@ internal sealed class DxfObjectReader(DxfTagReader tags)
         "POLYLINE" => CreatePolyline(tags.Peek(70) ?? 0),
         "VERTEX" => new Cad2DVertex(),
         "MLEADER" => new CadMLeader(),
-        "WIPEOUT" => tags.HasMarker("AcDbRasterImage"u8) ? new CadWipeoutRasterImage() : new CadWipeout(),
+        "WIPEOUT" => tags.HasMarker("AcDbRasterImage") ? new CadWipeoutRasterImage() : new CadWipeout(),
         "DIMENSION" => CreateDimension(tags.Peek(70) ?? 0),
         _ => ObjectTypes.CreateEntity(name) ?? new RawEntity(name),
     };

@@ -219,7 +219,7 @@ internal sealed partial class DxfReader
         }
 
         string release = _drawing.Header.AcadVersion.ToString();
-        string page = _drawing.Header.CodePage;
+        string page = "";
         string variable = "";
         _tags.LookAhead(() =>
         {
@@ -229,8 +229,11 @@ internal sealed partial class DxfReader
             page = variable == "$DWGCODEPAGE" ? text : page;
             return true;
         });
-        Encoding stated = DwgCodePage.Get(page.StartsWith('$') || page.Length == 0 ? DwgCodePage.DefaultName : page);
-        bool unicode = DrawingRelease.Parse(release) >= CadAcadVersion.AC1021;
+        bool isStated = page.Length > 0 && !page.StartsWith('$');
+        Encoding stated = DwgCodePage.Get(isStated ? page : DwgCodePage.DefaultName);
+
+        // Programs that state no code page write the default one or UTF-8; hardly a text is both.
+        bool unicode = DrawingRelease.Parse(release) >= CadAcadVersion.AC1021 || !isStated;
         _tags.Encoding = unicode ? new UTF8Encoding(false) : stated;
         _tags.Fallback = stated;
     }

@@ -15,7 +15,7 @@ internal sealed partial class DxfTagReader
     private readonly (int Length, string Text)[] _pool = new (int, string)[PoolSize];
     private readonly byte[] _pooled = new byte[PoolSize * LongestPooled];
 
-    private Encoding _encoding = DwgCodePage.Get(DwgCodePage.DefaultName);
+    private Encoding _encoding = new UTF8Encoding(false);
 
     /// <summary>Gets or sets the encoding of texts that are not plain ASCII.</summary>
     internal Encoding Encoding
@@ -30,7 +30,7 @@ internal sealed partial class DxfTagReader
     }
 
     /// <summary>Gets or sets the encoding of texts in a drawing of UTF-8 that are not UTF-8.</summary>
-    internal Encoding Fallback { get; set; } = Encoding.Latin1;
+    internal Encoding Fallback { get; set; } = DwgCodePage.Get(DwgCodePage.DefaultName);
 
     /// <summary>Gets or sets how sequences for single characters are read.</summary>
     internal TextEscapes Escapes { get; set; } = TextEscapes.Standard;

@@ -101,12 +101,11 @@ internal sealed partial class DxfTagReader : FieldReader
     }
 
     /// <summary>Determines whether the rest of the current object has the marker of a subclass.</summary>
-    internal bool HasMarker(ReadOnlySpan<byte> name)
+    internal bool HasMarker(string name)
     {
         const int marker = 100;
         bool found = false;
-        string text = System.Text.Encoding.ASCII.GetString(name);
-        LookAhead(() => !(found = Code == marker && GetName() == text));
+        LookAhead(() => !(found = Code == marker && GetName() == name));
         return found;
     }
 

@@ -8,6 +8,9 @@ namespace Korvan.CAD.FileFormats.Cad.Exchange;
 /// </summary>
 internal abstract class FieldReader
 {
+    /// <summary>The subclass of fields of which no marker tells whose they are.</summary>
+    internal const string AnySubclass = "?";
+
     /// <summary>Gets the group code of the current field.</summary>
     internal int Code { get; private protected set; }
 
@@ -15,7 +18,8 @@ internal abstract class FieldReader
     internal string? Subclass { get; private set; }
 
     /// <summary>Determines whether the current field belongs to a subclass; old files have no markers.</summary>
-    internal bool InSubclass(string name) => Subclass is null || Subclass == name;
+    internal bool InSubclass(string name) =>
+        Subclass is null || Subclass == name || ReferenceEquals(Subclass, AnySubclass);
 
     /// <summary>Gets or sets whether the fields of the current subclass were read as a sequence.</summary>
     internal bool HasReadSequence { get; set; }

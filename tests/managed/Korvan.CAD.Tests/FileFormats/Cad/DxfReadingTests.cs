@@ -4,6 +4,7 @@ using System.Text;
 using Korvan.CAD.FileFormats.Cad;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.Polylines;
+using Korvan.CAD.FileFormats.Cad.CadObjects.Vertices;
 using Korvan.CAD.FileFormats.Cad.Dxf;
 using Xunit;
 
@@ -20,6 +21,8 @@ public class DxfReadingTests
         { "AC1015", "ANSI_932", [0x8A, 0xBF], "漢" },
         { "AC1015", "DOS850", [0x8E], "Ä" },
         { "AC1015", "nonsense", [0xC4], "Ä" },
+        { "AC1009", "", [0xC4], "Ä" },
+        { "AC1009", "", [0xC3, 0x84, .. " "u8, 0xE6, 0xBC, 0xA2], "Ä 漢" },
         { "AC1021", "ANSI_1252", [0xE6, 0xBC, 0xA2], "漢" },
         { "AC1032", "ANSI_1251", [0xC4, 0xD6], "ДЦ" }, // claims UTF-8 but is not
         { "AC1015", "ANSI_1252", [.. "\\U+6F22!"u8], "漢!" },
@@ -47,6 +50,26 @@ public class DxfReadingTests
             + DxfText.Tags(0, "EOF"));
         DxfImage image = DxfText.Load(bytes, new LoadOptions { SpecifiedEncoding = CodePages.Cyrillic });
         Assert.Equal("Д", ((CadText)image.Entities[0]).DefaultValue);
+    }
+
+    [Theory]
+    [InlineData("AcDbEntity")]
+    [InlineData("AcDbCurve")]
+    public void Fields_whose_marker_is_missing_or_another_one_are_read(string marker)
+    {
+        DxfImage image = DxfText.Load(DxfText.Drawing(
+            0, "CIRCLE", 5, "A", 100, "AcDbEntity", 8, "L", 100, marker, 10, 3, 20, 4, 40, 5, 347, "B",
+            0, "CIRCLE", 5, "C", 100, "AcDbEntity", 8, "L", 100, marker, 40, 6, 100, "AcDbCircle", 40, 5,
+            0, "POLYLINE", 5, "D", 100, "AcDbEntity", 8, "0", 100, "AcDb3dPolyline", 70, 64, 71, 1, 72, 1,
+            0, "VERTEX", 100, "AcDbVertex", 100, "AcDb3dPolylineVertex", 10, 1, 20, 2, 30, 3, 70, 192,
+            0, "VERTEX", 100, "AcDbVertex", 100, "AcDb3dPolylineVertex", 70, 128, 71, 1, 72, 2, 73, 3,
+            0, "SEQEND"));
+        CadCircle circle = (CadCircle)DxfText.Reload(image).Entities[0];
+        Assert.True(circle.CenterPoint.Is(3, 4, 0) && circle.Radius == 5 && circle.LayerName == "L");
+        Assert.Equal(5, ((CadCircle)image.Entities[1]).Radius);
+        CadPolyFaceMesh mesh = (CadPolyFaceMesh)DxfText.Reload(image).Entities[2];
+        Assert.True(((CadVertexPolyFaceMesh)mesh.Vertices[0]).LocationPoint.Is(1, 2, 3));
+        Assert.Equal(3, ((CadFaceRecord)mesh.Vertices[1]).VertexIndex3);
     }
 
     [Theory]
