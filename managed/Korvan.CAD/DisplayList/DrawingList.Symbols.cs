@@ -194,9 +194,12 @@ internal sealed partial class DrawingList
             (Affine2 map, double width, double height) = item.Kind == DisplayKind.Text
                 ? (run.Matrix, run.Advance, run.CapHeight)
                 : (_images[item.Extra].Matrix, 1, 1);
+            var box = Bounds2.Of(0, 0, width, height);
+            box.Add(run.Ink);
             for (int corner = 0; corner < 4; corner++)
             {
-                corners.Add(map.Point((corner & 1) * width, (corner >> 1) * height));
+                corners.Add(map.Point(
+                    (corner & 1) == 0 ? box.MinX : box.MaxX, (corner >> 1) == 0 ? box.MinY : box.MaxY));
             }
 
             return;

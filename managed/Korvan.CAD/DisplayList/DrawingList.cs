@@ -202,6 +202,16 @@ internal sealed partial class DrawingList
         }
     }
 
+    /// <summary>Determines whether nothing changes by a box and what is near it: the extents hold both.</summary>
+    internal bool Holds(in Bounds2 box, double reach) =>
+        _definitions != this && _openLinks == 0 && _bounds.Contains(new Bounds2
+        {
+            MinX = box.MinX - reach,
+            MinY = box.MinY - reach,
+            MaxX = box.MaxX + reach,
+            MaxY = box.MaxY + reach,
+        });
+
     internal void Text(in TextRun run, Rgba color, int layer, in Bounds2 extent)
     {
         if (!extent.IsFinite || !AddBounds(extent))

@@ -189,8 +189,12 @@ internal sealed class Canvas
         if (strokes is null)
         {
             double width = Engine.WidthOf(font);
-            var run = new TextRun(text, outline, Wider(matrix, width), letterSpacing / width);
-            List.Text(run with { Advance = advance / width, CapHeight = cap }, pen.Color, pen.Layer, box);
+            var run = new TextRun(text, outline, Wider(matrix, width), letterSpacing / width)
+            {
+                Advance = advance / width,
+                CapHeight = cap,
+            };
+            PutOutlines(run, pen, box);
             return;
         }
 
@@ -217,6 +221,29 @@ internal sealed class Canvas
             Layer = pen.Layer,
             TextHeight = (float)(cap * Math.Sqrt(Math.Abs(matrix.Determinant))),
         });
+    }
+
+    // Outlines are measured only where they may reach past everything else.
+    private void PutOutlines(in TextRun run, in Pen pen, in Bounds2 box)
+    {
+        const double farthest = 2;
+        Affine2 ems = run.Matrix;
+        double reach = farthest * (Math.Abs(ems.Xx) + Math.Abs(ems.Xy) + Math.Abs(ems.Yx) + Math.Abs(ems.Yy));
+        if (!box.IsFinite || List.Holds(box, reach))
+        {
+            List.Text(run, pen.Color, pen.Layer, box);
+            return;
+        }
+
+        Bounds2 ink = Engine.InkOf(run);
+        Bounds2 all = box;
+        for (int corner = 0; corner < 4 && !ink.IsEmpty; corner++)
+        {
+            Vec2 p = ems.Point((corner & 1) == 0 ? ink.MinX : ink.MaxX, (corner >> 1) == 0 ? ink.MinY : ink.MaxY);
+            all.Add(p.X, p.Y);
+        }
+
+        List.Text(run with { Ink = ink }, pen.Color, pen.Layer, all);
     }
 
     private static Affine2 Wider(in Affine2 matrix, double factor) => matrix * new Affine2(factor, 0, 0, 1, 0, 0);

@@ -37,7 +37,23 @@ internal sealed class TextMeasurer : ITextMeasurer
         return canvas.List.Bounds;
     }
 
-    public Bounds2 Measure(CadMText text) => TextLayouts.BoxOf(text, _tables, _engine);
+    public Bounds2 Measure(CadMText text)
+    {
+        if (TextLayouts.IsVertical(text, _tables))
+        {
+            return BoxOf(text);
+        }
+
+        MTextLayout layout = TextLayouts.LayoutOf(text, _tables, _engine);
+        var canvas = new Canvas(new DrawingList(), _engine);
+        TextPainter.Draw(canvas, layout.Runs, Affine3.Identity, default, static _ => default);
+        (double left, double bottom, double right, double top) = layout.Box;
+        var box = Bounds2.Of(left, bottom, right, top);
+        box.Add(canvas.List.Bounds);
+        return box;
+    }
+
+    public Bounds2 BoxOf(CadMText text) => TextLayouts.BoxOf(text, _tables, _engine);
 
     public void Dispose() => _engine.Dispose();
 }

@@ -23,6 +23,9 @@ internal sealed record ShapedRun(FontUse Font, ShapedGlyph[] Glyphs)
 /// <summary>A run of text as glyphs.</summary>
 internal sealed record ShapedLine(string Text, ShapedRun[] Runs, double Advance)
 {
+    /// <summary>Gets or sets the box of the outlines in ems, y up from the baseline; null where nobody asked.</summary>
+    internal Bounds2? Ink { get; set; }
+
     /// <summary>Gets the number of glyphs that no font has.</summary>
     internal int UnknownGlyphs
     {

@@ -233,6 +233,13 @@ internal sealed unsafe class TextEngine : IDisposable
     /// <summary>The glyphs of a run.</summary>
     internal ShapedLine Line(in TextRun run) => Line(run.Font, run.Text, run.LetterSpacing);
 
+    /// <summary>The box of the outlines of a run, in its ems, y up from the baseline.</summary>
+    internal Bounds2 InkOf(in TextRun run)
+    {
+        ShapedLine line = Line(run);
+        return line.Ink ??= Shaper.InkOf(_shaped[run.Font], line.Text, run.LetterSpacing);
+    }
+
     private ShapedLine Line(int font, string text, double letterSpacing)
     {
         Budget.Check();

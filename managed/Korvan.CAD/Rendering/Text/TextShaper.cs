@@ -2,6 +2,7 @@ using System;
 using System.Collections.Generic;
 using System.Text;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Rendering.Native;
 
 namespace Korvan.CAD.Rendering.Text;
@@ -146,6 +147,17 @@ internal sealed unsafe class TextShaper
         }
 
         return line;
+    }
+
+    /// <summary>Returns the box of the outlines of a text, in ems, y up from the baseline.</summary>
+    internal Bounds2 InkOf(int font, string text, double letterSpacing)
+    {
+        PangoRectangle ink;
+        Pango.LayoutLineGetExtents(Shape(font, text, letterSpacing), &ink, null);
+        const double em = Pango.Scale * EmSize;
+        return ink.Width > 0 && ink.Height > 0
+            ? Bounds2.Of(ink.X / em, -ink.Y / em, (ink.X + (double)ink.Width) / em, -(ink.Y + (double)ink.Height) / em)
+            : Bounds2.Empty;
     }
 
     /// <summary>Returns pango's line of a text, which holds until the next one is shaped.</summary>

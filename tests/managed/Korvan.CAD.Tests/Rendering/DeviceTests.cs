@@ -229,10 +229,10 @@ public class DeviceTests
         using var engine = new TextEngine();
         var list = new DrawingList();
         int font = engine.Font(FontSpec.Default);
-        double width = engine.Advance(font, "text") * 10 / engine.CapRatio(font);
+        double width = engine.Advance(font, "HIH") * 10 / engine.CapRatio(font);
         var line = new SingleLine
         {
-            Text = "text",
+            Text = "HIH",
             Font = FontSpec.Default,
             First = new Vec3(10, 50, 0),
             Second = new Vec3((HorizontalAlign)align == HorizontalAlign.Fit ? 90 : 10, 50, 0),

@@ -140,7 +140,7 @@ public class LeaderTests
         var leader = new CadMLeader();
         leader.Style.IsTextFrameEnabled = isFramed;
         leader.ContextData.HasText = true;
-        leader.ContextData.Text = "Abg";
+        leader.ContextData.Text = "AHE";
         leader.ContextData.LandingGap = 3;
         return leader;
     }

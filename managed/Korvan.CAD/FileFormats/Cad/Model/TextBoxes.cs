@@ -12,6 +12,9 @@ internal interface ITextMeasurer : IDisposable
     Bounds2 Measure(in TextLine text);
 
     Bounds2 Measure(CadMText text);
+
+    /// <summary>Returns the box of the lines of a text, whichever letters it has.</summary>
+    Bounds2 BoxOf(CadMText text);
 }
 
 /// <summary>
@@ -78,7 +81,7 @@ internal sealed class TextBoxes(Func<ITextMeasurer?>? createMeasurer) : IDisposa
     }
 
     /// <summary>Returns the box of a text in its own plane.</summary>
-    internal Bounds2 BoxOf(CadMText text) => Measurer?.Measure(text) ?? Approximate(text);
+    internal Bounds2 BoxOf(CadMText text) => Measurer?.BoxOf(text) ?? Approximate(text);
 
     /// <summary>Adds those of the noted texts to a box that may reach past what it holds by now.</summary>
     internal void Finish(Extents extents)

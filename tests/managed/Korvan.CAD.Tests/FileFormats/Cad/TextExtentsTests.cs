@@ -4,6 +4,9 @@ using Korvan.CAD.FileFormats.Cad.CadConsts;
 using Korvan.CAD.FileFormats.Cad.CadObjects;
 using Korvan.CAD.FileFormats.Cad.CadObjects.AttEntities;
 using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
+using Korvan.CAD.Rendering.Scene;
+using Korvan.CAD.Rendering.Text;
 using Korvan.CAD.Tests.Rendering;
 using Xunit;
 
@@ -14,21 +17,43 @@ public class TextExtentsTests
     [Fact]
     public void A_text_takes_the_room_of_its_characters()
     {
-        CadImage drawing = TestPage.Drawing(Text("Hello world", 10));
+        CadImage drawing = TestPage.Drawing(Text("HILL HILL HILL", 10));
         Assert.InRange(drawing.MaxPoint.X, 50, 110);
         Assert.Equal((0, 0, 10), (drawing.MinPoint.X, drawing.MinPoint.Y, Math.Round(drawing.MaxPoint.Y, 6)));
 
-        CadText upwards = Text("Hello world", 10);
+        CadText upwards = Text("HILL HILL HILL", 10);
         upwards.TextRotation = 90;
         CadImage rotated = TestPage.Drawing(upwards);
         Assert.Equal(drawing.MaxPoint.X, rotated.MaxPoint.Y, 6);
         Assert.Equal(-10, rotated.MinPoint.X, 6);
 
-        CadText centred = Text("Hello world", 10);
+        CadText centred = Text("HILL HILL HILL", 10);
         (centred.HorizontalAlignment, centred.SecondAlignment) = (1, new Cad3DPoint(200, 5, 0));
         CadImage aligned = TestPage.Drawing(centred);
         Assert.Equal(200, (aligned.MinPoint.X + aligned.MaxPoint.X) / 2, 6);
         Assert.Equal(drawing.MaxPoint.X, aligned.MaxPoint.X - aligned.MinPoint.X, 6);
+    }
+
+    [Fact]
+    public void Accents_and_what_is_below_the_baseline_count()
+    {
+        CadText line = Text("\u00C1g", 10);
+        var paragraph = new CadMText
+        {
+            Text = line.DefaultValue,
+            InitialTextHeight = 10,
+            AttachmentPoint = CadAttachmentPoint.BottomLeft,
+        };
+        foreach (CadEntityBase text in (CadEntityBase[])[line, paragraph])
+        {
+            CadImage drawing = TestPage.Drawing(text);
+            Assert.InRange(drawing.MaxPoint.Y - drawing.MinPoint.Y, 13, 20);
+            using var engine = new TextEngine();
+            DrawingScene scene = SceneReader.Read(drawing.Drawing);
+            Bounds2 page = scene.Build(scene.Choose([])[0], new RenderStyle(), engine).Bounds;
+            Assert.Equal(page.MinY, drawing.MinPoint.Y, 6);
+            Assert.Equal(page.MaxY, drawing.MaxPoint.Y, 6);
+        }
     }
 
     [Fact]
