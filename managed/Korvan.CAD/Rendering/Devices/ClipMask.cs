@@ -58,7 +58,8 @@ internal sealed unsafe class ClipMask
         var white = new Rgba(Opaque, Opaque, Opaque, Opaque);
         using var block = new Raster.Pixels.PixelBlock(box.Area);
         byte* origin = (byte*)(block.Data - box.Left);
-        var painter = new ThinLinePainter(origin, box.Width * sizeof(int), box.Right, rows);
+        var painter = new ThinLinePainter(
+            new PixelRows((nint)origin, box.Right, int.MaxValue, box.Width * sizeof(int)), rows);
         new DenseFiller(painter, rows).Fill(verbs, coords, map, bounds, evenOdd, white, tolerance, subRows);
         for (int i = 0; i < mask._coverage.Length; i++)
         {

@@ -14,18 +14,16 @@ internal sealed unsafe class RasterBand : IDisposable
     /// <param name="engine">The engine of the band.</param>
     /// <param name="page">The page.</param>
     /// <param name="rows">The rows.</param>
-    /// <param name="first">The first of their bytes.</param>
-    /// <param name="width">The pixels in a row.</param>
-    /// <param name="stride">The bytes in a row.</param>
-    internal RasterBand(TextEngine engine, Page page, RowRange rows, byte* first, int width, int stride)
+    /// <param name="pixels">Their pixels.</param>
+    internal RasterBand(TextEngine engine, Page page, RowRange rows, PixelRows pixels)
     {
         Engine = engine;
-        nint surface =
-            Cairo.ImageSurfaceCreateForData(first, CairoFormat.Argb32, width, rows.End - rows.First, stride);
+        nint surface = Cairo.ImageSurfaceCreateForData(
+            (byte*)pixels.First, CairoFormat.Argb32, pixels.Width, rows.End - rows.First, pixels.Stride);
         _surface = new NativeHandle(surface, &Cairo.SurfaceDestroy);
         Cairo.SurfaceSetDeviceOffset(surface, 0, -rows.First);
         _cr = new NativeHandle(Cairo.Create(surface), &Cairo.Destroy);
-        var target = new PixelTarget(surface, rows, new ThinLinePainter(first, stride, width, rows));
+        var target = new PixelTarget(surface, rows, new ThinLinePainter(pixels, rows));
         Painter = CairoPainter.Begin(_cr.Pointer, engine, page, target);
     }
 

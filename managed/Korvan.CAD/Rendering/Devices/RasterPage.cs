@@ -158,7 +158,7 @@ internal sealed unsafe class RasterPage : IDisposable
     {
         int stride = Cairo.ImageSurfaceGetStride(_surface.Pointer);
         byte* first = Cairo.ImageSurfaceGetData(_surface.Pointer) + ((long)rows.First * stride);
-        return new RasterBand(engine, page, rows, first, Width, stride);
+        return new RasterBand(engine, page, rows, new PixelRows((nint)first, Width, Height, stride));
     }
 
     /// <summary>The pixels of one line of the picture.</summary>

@@ -4,6 +4,13 @@ using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.Rendering.Devices;
 
+/// <summary>The pixels of some rows of a page.</summary>
+/// <param name="First">The first one; four bytes each, blue first, alpha multiplied in.</param>
+/// <param name="Width">The pixels of a row.</param>
+/// <param name="PageHeight">All rows of the page.</param>
+/// <param name="Stride">The bytes of a row.</param>
+internal readonly record struct PixelRows(nint First, int Width, int PageHeight, int Stride);
+
 /// <summary>
 /// Draws thin continuous lines straight into pixels, antialiased by the area that a line covers of each pixel. General
 /// strokers outline a path first, which costs many times as much where the outline is a pixel wide.
@@ -30,6 +37,7 @@ internal sealed unsafe class ThinLinePainter
     private readonly byte* _first;
     private readonly int _stride;
     private readonly int _width;
+    private readonly int _pageHeight;
     private readonly RowRange _rows;
     private byte[] _plane = [];
     private int[] _touched = new int[256];
@@ -46,15 +54,14 @@ internal sealed unsafe class ThinLinePainter
     private uint _alphaGreen;
 
     /// <summary>A painter of rows of a page.</summary>
-    /// <param name="first">The first pixel of the first row; four bytes each, blue first, alpha multiplied in.</param>
-    /// <param name="stride">The bytes of a row.</param>
-    /// <param name="width">The pixels of a row.</param>
+    /// <param name="pixels">The pixels of the rows.</param>
     /// <param name="rows">The rows of the page.</param>
-    internal ThinLinePainter(byte* first, int stride, int width, RowRange rows)
+    internal ThinLinePainter(in PixelRows pixels, RowRange rows)
     {
-        _first = first;
-        _stride = stride;
-        _width = width;
+        _first = (byte*)pixels.First;
+        _stride = pixels.Stride;
+        _width = pixels.Width;
+        _pageHeight = pixels.PageHeight;
         _rows = rows;
     }
 
@@ -264,7 +271,9 @@ internal sealed unsafe class ThinLinePainter
 
     private void Line(Vec2 a, Vec2 b)
     {
-        (a, b) = (new Vec2(a.X, a.Y - _rows.First), new Vec2(b.X, b.Y - _rows.First));
+        (double ax, double bx) = Inside(a.X, b.X, _width);
+        (double ay, double by) = Inside(a.Y, b.Y, _pageHeight);
+        (a, b) = (new Vec2(ax, ay - _rows.First), new Vec2(bx, by - _rows.First));
         double dx = b.X - a.X;
         double dy = b.Y - a.Y;
         if (!double.IsFinite(dx + dy))
@@ -281,6 +290,17 @@ internal sealed unsafe class ThinLinePainter
         {
             Span(a.Y, a.X, b.Y, b.X, _top, _bottom, _left, _right, isSteep: true);
         }
+    }
+
+    /// <summary>A line along a border of the page, as frames are, would lose half of its width: it is moved inside.
+    /// </summary>
+    private (double From, double To) Inside(double from, double to, double end)
+    {
+        const double outside = 0.01;
+        (double least, double most) = from < to ? (from, to) : (to, from);
+        return most < _half && least > -outside ? (_half, _half)
+            : least > end - _half && most < end + outside ? (end - _half, end - _half)
+            : (from, to);
     }
 
     /// <summary>Goes along the axis on which the line is longer; the other one is the axis across.</summary>

@@ -93,6 +93,19 @@ public class ThinLineTests
     }
 
     [Fact]
+    public void Frames_along_the_border_of_the_page_have_their_whole_width()
+    {
+        var list = new DrawingList();
+        list.Stroke(Rectangle(0, 0, Side, Side), new StrokeAttributes { Color = Rgba.Black, Dash = -1 });
+        foreach (int bands in (int[])[1, 5])
+        {
+            byte[] pixels = Render(list, bands);
+            int dark = Array.FindAll(pixels, static value => value < 64).Length;
+            Assert.Equal((4 * Side) - 4, dark);
+        }
+    }
+
+    [Fact]
     public void Bands_make_the_same_page()
     {
         var list = new DrawingList();
