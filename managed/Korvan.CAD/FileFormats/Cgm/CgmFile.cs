@@ -135,6 +135,10 @@ public sealed class CgmFile
             whole.Insert(0, new VdcType { Value = VdcType.Type.Real });
         }
 
+        // The version comes first: metafiles are known by the descriptor after their begin.
+        MetafileVersion version = whole.OfType<MetafileVersion>().FirstOrDefault() ?? new MetafileVersion();
+        whole.Remove(version);
+        whole.Insert(0, version);
         whole.Insert(0, Commands.OfType<BeginMetafile>().FirstOrDefault() ?? new BeginMetafile());
         whole.Add(new EndMetafile());
         Action<Command> write = WriterOf(stream, format, name);

@@ -45,6 +45,14 @@ internal static class DwgLoader
 
         classes.ForEach(drawing.ClassEntities.Add);
         new DwgReader(file, drawing).Read();
+        foreach (CadEntityBase entity in DrawingWalk.Entities(drawing))
+        {
+            if (entity is RawEntity { Kept: KeptBits kept })
+            {
+                kept.Fields = EntityDigests.OfFields(entity);
+            }
+        }
+
         Dictionary<ulong, string> names = NamesOf(drawing);
         HeaderVariableCodec.ToHeader(header, file.Release, drawing.Header, handle => names.GetValueOrDefault(handle));
         CompleteTimes(drawing.Header);

@@ -28,6 +28,16 @@ internal static class EntityDigests
         return found;
     }
 
+    /// <summary>Returns a number for the fields of an entity, without its handle and what no class interprets.</summary>
+    internal static ulong OfFields(CadEntityBase entity)
+    {
+        const int exact = 15;
+        DigestExchange digest = new(exact);
+        digest.Restart();
+        entity.Exchange(digest);
+        return digest.Value.Low;
+    }
+
     private static void AddTree(DigestExchange digest, CadEntityBase entity)
     {
         Add(digest, entity);

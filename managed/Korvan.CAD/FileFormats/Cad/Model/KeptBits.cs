@@ -1,3 +1,5 @@
+using Korvan.CAD.FileFormats.Cad.CadObjects;
+
 namespace Korvan.CAD.FileFormats.Cad.Model;
 
 /// <summary>What a drawing database (DWG) has of an object that no class interprets.</summary>
@@ -10,6 +12,12 @@ internal sealed class KeptBits : KeptData
     /// interprets it.</summary>
     internal byte[] Record { get; init; } = [];
 
+    /// <summary>Gets the handle that the record states.</summary>
+    internal ulong Handle { get; init; }
+
+    /// <summary>Gets or sets the number of the fields of the entity as the record states them.</summary>
+    internal ulong Fields { get; set; }
+
     /// <summary>Gets how many bits of the record are references, in releases from 2010 on.</summary>
     internal int HandleBits { get; init; }
 
@@ -21,6 +29,10 @@ internal sealed class KeptBits : KeptData
 
     /// <summary>Returns what remains of an object whose record is damaged.</summary>
     internal KeptBits WithoutRecord() => new() { Release = Release, Graphics = Graphics };
+
+    /// <summary>Determines whether the record states what the object has now.</summary>
+    internal bool IsOf(CadBaseObject item) => Handle == item.Handle
+        && (item is not CadEntityBase entity || Fields == EntityDigests.OfFields(entity));
 
     internal override string FormatName => "DWG";
 

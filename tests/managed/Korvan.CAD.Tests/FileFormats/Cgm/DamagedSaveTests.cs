@@ -18,6 +18,7 @@ public sealed class DamagedSaveTests
     [Theory]
     [InlineData("BEGMF;\nMFVERSION 1;\n" + Page + "ENDMF;\n", CgmFileFormat.ClearText, 0)] // without a name
     [InlineData("BEGMF 'x';\nMFVERSION 1;\nLINETYPE;\n" + Page, CgmFileFormat.ClearText, 0)] // without an end
+    [InlineData("BEGMF 'x';\nMFVERSION;\n" + Page + "ENDMF;\n", CgmFileFormat.Binary, 0)] // without a version
     [InlineData("BEGMF 'x';\nLINETYPE;\nALIEN 1;\n" + Page + "ENDMF;\n", CgmFileFormat.Binary, 1)] // no binary element
     public void What_is_whole_is_written_and_the_rest_is_listed(string text, CgmFileFormat encoding, int leftOut)
     {
@@ -26,6 +27,8 @@ public sealed class DamagedSaveTests
         using var saved = new MemoryStream();
         image.Save(saved, options);
         Assert.Equal(leftOut, options.RenderResult!.Failures.Length);
+        saved.Position = 0;
+        Assert.IsType<CgmImage>(Image.Load(saved, "again.cgm", new LoadOptions()));
         saved.Position = 0;
         CgmFile again = CgmFile.Load(saved);
         Assert.DoesNotContain(again.Messages, static one => one.Severity == Severity.Error);

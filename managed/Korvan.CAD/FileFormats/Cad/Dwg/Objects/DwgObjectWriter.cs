@@ -138,12 +138,14 @@ internal sealed class DwgObjectWriter
             || _classes.Has(item.DxfName)));
 
     private KeptBits? KeptOf(CadBaseObject item) =>
-        !item.HasAllBits && item.Kept is KeptBits { Record.Length: > 0 } kept && kept.Release == _release ? kept : null;
+        !item.HasAllBits && item.Kept is KeptBits { Record.Length: > 0 } kept && kept.Release == _release
+            && (kept.Proxy is null || kept.IsOf(item)) ? kept : null;
 
-    // The bits of another release are those of a proxy, which states the release.
+    // The bits of another release are those of a proxy, which states the release; so are those that state another
+    // handle, as copies have it, or another layer.
     private StoredProxy? ProxiedOf(CadBaseObject item) =>
         item is (RawEntity or RawObject) && item.Kept is KeptBits { Proxy: StoredProxy proxy } kept
-            && kept.Release != _release && _classes.Has(item.DxfName) ? proxy : null;
+            && (kept.Release != _release || !kept.IsOf(item)) && _classes.Has(item.DxfName) ? proxy : null;
 
     private void CountInserts()
     {

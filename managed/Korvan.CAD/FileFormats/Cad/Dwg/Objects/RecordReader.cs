@@ -180,6 +180,7 @@ internal sealed class RecordReader(byte[] data, RecordFormat format, IReadOnlyLi
             target.Kept = new KeptBits
             {
                 Release = format.Release,
+                Handle = target.Handle,
                 Record = record,
                 HandleBits = (int)header.HandleBits,
                 Proxy = isRaw ? new StoredProxy(record, PlaceIn(header), target.Handle, format.Release) : null,

@@ -83,6 +83,23 @@ public class ObjectRoundTripTests
                 dictionary.GetObjectHandles(), handle => Assert.Contains(Convert.ToUInt64(handle, 16), present)));
     }
 
+    [DrawingFact]
+    public void CopiesAndChangedEntitiesOfUnknownClassesAreProxies()
+    {
+        CadDrawing drawing = RealObjectTests.Load(SharedDrawings.Dwg("lwg__2013_gh109_1.dwg"), new LoadOptions());
+        RawEntity[] kept = [.. drawing.Entities.OfType<RawEntity>()];
+        kept[1].LayerName = "MOVED";
+        drawing.Entities.Add(kept[2].Clone());
+
+        (CadDrawing again, IReadOnlyList<string> leftOut) = WriteAndRead(drawing, CadAcadVersion.AC1027);
+
+        Assert.Empty(leftOut);
+        Assert.Equal(kept.Length - 1, again.Entities.OfType<RawEntity>().Count());
+        CadAcadProxyEntity[] proxies = [.. again.Entities.OfType<CadAcadProxyEntity>()];
+        Assert.Equal(["MOVED", kept[2].LayerName], proxies.Select(static one => one.LayerName));
+        Assert.All(proxies, static one => Assert.NotEmpty(one.GraphicsData));
+    }
+
     [Theory]
     [MemberData(nameof(Releases))]
     public void DataThatIsNotHexadecimalIsRefusedByItsObject(CadAcadVersion version)
