@@ -109,18 +109,39 @@ public static class Cache
             bool fits = _memoryLimit == 0 || _memoryUsed + bytes <= _memoryLimit;
             bool onDisk = CacheType == CacheType.CacheOnDiskOnly
                 || (CacheType == CacheType.Auto && !(fits && fitsFile));
-            if (onDisk ? _diskLimit != 0 && _diskUsed + bytes > _diskLimit : !fits)
+            if (onDisk ? IsDiskFull(bytes) : !fits)
             {
-                string place = onDisk ? $"on disk would pass Cache.{nameof(MaxDiskSpaceForCache)}"
-                    : $"in memory would pass Cache.{nameof(MaxMemoryForCache)}";
-                throw new LimitMemoryException(
-                    $"{bytes} bytes for pixels {place} ({(onDisk ? _diskLimit : _memoryLimit)} bytes,"
-                    + $" {(onDisk ? _diskUsed : _memoryUsed)} of them taken); dispose images or raise the limit.");
+                throw NoRoom(bytes, "pixels", onDisk);
             }
 
             Add(bytes, onDisk);
             return onDisk;
         }
+    }
+
+    /// <summary>Reserves room on disk for output.</summary>
+    internal static void BookOnDisk(long bytes)
+    {
+        lock (Gate)
+        {
+            if (IsDiskFull(bytes))
+            {
+                throw NoRoom(bytes, "output", onDisk: true);
+            }
+
+            Add(bytes, onDisk: true);
+        }
+    }
+
+    private static bool IsDiskFull(long bytes) => _diskLimit != 0 && _diskUsed + bytes > _diskLimit;
+
+    private static LimitMemoryException NoRoom(long bytes, string content, bool onDisk)
+    {
+        string place = onDisk ? $"on disk would pass Cache.{nameof(MaxDiskSpaceForCache)}"
+            : $"in memory would pass Cache.{nameof(MaxMemoryForCache)}";
+        return new LimitMemoryException(
+            $"{bytes} bytes for {content} {place} ({(onDisk ? _diskLimit : _memoryLimit)} bytes,"
+            + $" {(onDisk ? _diskUsed : _memoryUsed)} of them taken); dispose images or raise the limit.");
     }
 
     internal static void Release(long bytes, bool onDisk)

@@ -80,7 +80,8 @@ internal sealed unsafe class MappedMemory : IDisposable
         _file.Dispose();
     }
 
-    private static FileStream OpenUnnamed()
+    /// <summary>Opens a new file of the cache folder, which has no name any more.</summary>
+    internal static FileStream OpenUnnamed()
     {
         string path = Path.Combine(Cache.CacheFolder, $"korvan-{Guid.NewGuid():N}.pixels");
         var options = new FileStreamOptions

@@ -79,14 +79,13 @@ internal sealed class Jpeg2000Structure
     private void Read(ReadOnlySpan<byte> stream)
     {
         int at = 2;
-        int tile = 0;
         long next = 0;
         while (at + 4 <= stream.Length)
         {
             ushort marker = BinaryPrimitives.ReadUInt16BigEndian(stream[at..]);
             if (marker == StartOfData)
             {
-                if (next <= tile || next >= stream.Length)
+                if (next <= at || next >= stream.Length)
                 {
                     return;
                 }
@@ -104,7 +103,6 @@ internal sealed class Jpeg2000Structure
             ReadOnlySpan<byte> body = stream.Slice(at + 4, length - 2);
             if (marker == StartOfTile && body.Length >= 8)
             {
-                tile = at;
                 next = at + (long)BinaryPrimitives.ReadUInt32BigEndian(body[2..]);
             }
 

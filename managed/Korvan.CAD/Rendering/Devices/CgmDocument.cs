@@ -62,6 +62,7 @@ internal sealed class CgmDocument : MetafilePlayer
         document._put(new EndMetafile());
         document.WriteHead(document.NewWriter(output));
         document._content.WriteTo(output, document._bodyStart);
+        document._content.Dispose();
     }
 
     protected override void Line(PathBuffer path, Rgba color, double width, StrokeStyle style)

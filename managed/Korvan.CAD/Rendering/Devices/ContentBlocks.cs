@@ -6,13 +6,18 @@ namespace Korvan.CAD.Rendering.Devices;
 
 /// <summary>
 /// Holds what follows a head that is known last. Blocks are not moved when there are more, so that content takes no
-/// more memory than it is long.
+/// more memory than it is long; where memory gets short, they go to a file of the cache.
 /// </summary>
 internal sealed class ContentBlocks : Stream
 {
     private const int BlockSize = 1 << 20;
 
+    /// <summary>The blocks that stay in memory.</summary>
+    private const int MinBlocks = 8;
+
     private readonly List<byte[]> _blocks = [];
+    private readonly Stack<byte[]> _free = new();
+    private readonly CacheFile _file = new();
     private int _used = BlockSize;
 
     /// <inheritdoc/>
@@ -25,7 +30,7 @@ internal sealed class ContentBlocks : Stream
     public override bool CanWrite => true;
 
     /// <inheritdoc/>
-    public override long Length => ((long)_blocks.Count * BlockSize) - (BlockSize - _used);
+    public override long Length => _file.Length + ((long)_blocks.Count * BlockSize) - (BlockSize - _used);
 
     /// <inheritdoc/>
     public override long Position
@@ -41,9 +46,7 @@ internal sealed class ContentBlocks : Stream
         {
             if (_used == BlockSize)
             {
-                Budget.VerifyRoom(2 * BlockSize); // less is not looked at
-                _blocks.Add(GC.AllocateUninitializedArray<byte>(BlockSize));
-                _used = 0;
+                AddBlock();
             }
 
             int count = Math.Min(buffer.Length, BlockSize - _used);
@@ -64,7 +67,9 @@ internal sealed class ContentBlocks : Stream
     /// <param name="start">How many bytes at the begin are left out.</param>
     internal void WriteTo(Stream output, long start = 0)
     {
-        long left = Length - start;
+        _file.WriteTo(output, start);
+        start = Math.Max(0, start - _file.Length);
+        long left = Length - _file.Length - start;
         for (int i = (int)(start / BlockSize); i < _blocks.Count && left > 0; i++)
         {
             int from = (int)Math.Max(0, start - ((long)i * BlockSize));
@@ -72,6 +77,45 @@ internal sealed class ContentBlocks : Stream
             output.Write(_blocks[i], from, count);
             left -= count;
         }
+    }
+
+    private void AddBlock()
+    {
+        byte[]? free = _free.TryPop(out byte[]? block) ? block
+            : _blocks.Count >= MinBlocks && IsMemoryShort() ? MoveBlocks()
+            : null;
+        if (free is null)
+        {
+            Budget.VerifyRoom(2 * BlockSize); // less is not looked at
+            free = GC.AllocateUninitializedArray<byte>(BlockSize);
+        }
+
+        _blocks.Add(free);
+        _used = 0;
+    }
+
+    private static bool IsMemoryShort() => Budget.Current is { } budget && budget.Taken > budget.Memory / 4;
+
+    // Returns a block that is free then; none where the cache is in memory.
+    private byte[]? MoveBlocks()
+    {
+        if (Cache.CacheType == CacheType.CacheInMemoryOnly)
+        {
+            return null;
+        }
+
+        _blocks.ForEach(block => _file.Append(block));
+        _free.Clear();
+        _blocks[..MinBlocks].ForEach(_free.Push);
+        _blocks.Clear();
+        return _free.Pop();
+    }
+
+    /// <inheritdoc/>
+    protected override void Dispose(bool disposing)
+    {
+        _file.Dispose();
+        base.Dispose(disposing);
     }
 
     /// <inheritdoc/>

@@ -171,6 +171,7 @@ internal sealed class EmfRecords
                 0, width * 10, height * 10]);
         output.Write(header);
         _content.WriteTo(output, HeaderLength);
+        _content.Dispose();
     }
 
     private static void WriteHeader(byte[] header, ReadOnlySpan<int> values)

@@ -1,4 +1,5 @@
 using System;
+using System.Buffers.Text;
 using System.Collections.Generic;
 using System.Globalization;
 using System.IO;
@@ -55,9 +56,9 @@ internal sealed class HtmlCanvasDocument : PagePlayer
     private readonly Html5Options _options;
     private readonly ContentBlocks _content = new();
     private readonly MarkupWriter _calls;
-    private readonly StringBuilder _pictures = new();
+    private readonly ContentBlocks _pictures = new();
+    private readonly Dictionary<PlacedImage, int> _pictureNumbers = new(new SamePixels());
     private readonly Stack<StrokeStyle> _saved = new();
-    private int _pictureCount;
     private StrokeStyle _style = NoStyle;
 
     private HtmlCanvasDocument(TextEngine engine, Page page, Html5Options options)
@@ -144,13 +145,28 @@ internal sealed class HtmlCanvasDocument : PagePlayer
 
     protected override void Image(PlacedImage image, in Affine2 matrix)
     {
+        if (!_pictureNumbers.TryGetValue(image, out int number))
+        {
+            number = _pictureNumbers.Count;
+            _pictureNumbers.Add(image, number);
+            Define(image);
+        }
+
+        Call(
+            $"i({number},{Matrix(matrix * new Affine2(1, 0, 0, -1, 0, 1))},{N(image.Opacity)},"
+            + $"{(image.Sharp ? "false" : "true")});\n");
+    }
+
+    private void Define(PlacedImage image)
+    {
         using var png = new MemoryStream();
         PngEncoder.Write(image.Width, image.Height, y =>
             image.Pixels.AsSpan(y * image.Width * 4, image.Width * 4), png, 6, 96);
-        _pictures.Append($"\"data:image/png;base64,{Convert.ToBase64String(png.GetBuffer(), 0, (int)png.Length)}\",\n");
-        Call(
-            $"i({_pictureCount++},{Matrix(matrix * new Affine2(1, 0, 0, -1, 0, 1))},{N(image.Opacity)},"
-            + $"{(image.Sharp ? "false" : "true")});\n");
+        Span<byte> text = new byte[Base64.GetMaxEncodedToUtf8Length((int)png.Length)];
+        Base64.EncodeToUtf8(png.GetBuffer().AsSpan(0, (int)png.Length), text, out _, out int length);
+        _pictures.Write("\"data:image/png;base64,"u8);
+        _pictures.Write(text[..length]);
+        _pictures.Write("\",\n"u8);
     }
 
     protected override void PushClip(PathBuffer path, bool evenOdd)
@@ -198,13 +214,16 @@ internal sealed class HtmlCanvasDocument : PagePlayer
         writer.Write("<script>\n(async () => {\n");
         writer.Write($"const g = document.getElementById(\"{_options.CanvasTagId}\").getContext(\"2d\");\n");
         writer.Write("const pictures = await Promise.all([\n");
-        writer.Write(_pictures);
+        writer.Flush();
+        _pictures.WriteTo(output);
+        _pictures.Dispose();
         writer.Write(
             "].map(async source => { const picture = new Image(); picture.src = source; await picture.decode(); "
                 + "return picture; }));\n");
         writer.Write(Functions);
         writer.Flush();
         _content.WriteTo(output);
+        _content.Dispose();
         writer.Write("})();\n</script>\n");
         writer.Write(_options.FullHtmlPage ? "</body>\n</html>\n" : "");
     }

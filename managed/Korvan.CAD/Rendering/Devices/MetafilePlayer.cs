@@ -10,7 +10,7 @@ namespace Korvan.CAD.Rendering.Devices;
 internal abstract class MetafilePlayer : PagePlayer
 {
     /// <summary>The pixels that take about as long as one step of the budget.</summary>
-    private const int PixelsPerStep = 1000;
+    private const int PixelsPerStep = 400;
 
     /// <summary>Characters that are measured together: what is measured for each grows with them.</summary>
     private const int LongestPiece = 64;
@@ -61,6 +61,7 @@ internal abstract class MetafilePlayer : PagePlayer
         int stride = ((image.Width * 3) + 3) / 4 * 4;
         Budget.Step(image.Width * (long)image.Height / PixelsPerStep);
         byte[] rows = new byte[(long)stride * image.Height];
+        bool isOpaque = image.Opacity == 1;
         for (int y = 0; y < image.Height; y++)
         {
             Span<byte> row = rows.AsSpan((image.Height - 1 - y) * stride, image.Width * 3);
@@ -68,6 +69,12 @@ internal abstract class MetafilePlayer : PagePlayer
             for (int x = 0; x < image.Width; x++)
             {
                 ReadOnlySpan<byte> pixel = source.Slice(x * 4, 4);
+                if (isOpaque && pixel[3] == byte.MaxValue)
+                {
+                    pixel[..3].CopyTo(row[(x * 3)..]);
+                    continue;
+                }
+
                 double rest = 1 - (pixel[3] / 255.0 * image.Opacity);
                 row[x * 3] = Over(pixel[0], paper.B, image.Opacity, rest);
                 row[(x * 3) + 1] = Over(pixel[1], paper.G, image.Opacity, rest);

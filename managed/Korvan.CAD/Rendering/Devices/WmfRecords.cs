@@ -124,6 +124,7 @@ internal sealed class WmfRecords
         BinaryPrimitives.WriteInt32LittleEndian(meta[12..], (int)_longest);
         output.Write(head);
         _content.WriteTo(output);
+        _content.Dispose();
     }
 
     private static void Place(byte[] head, short width, short height, short unitsPerInch)

@@ -11,6 +11,7 @@ using Korvan.CAD.FileFormats.Jpeg;
 using Korvan.CAD.FileFormats.Psd;
 using Korvan.CAD.FileFormats.Tiff.Enums;
 using Korvan.CAD.ImageOptions;
+using Korvan.CAD.Raster.Codecs;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Raster;
@@ -45,6 +46,16 @@ public class DamageTests
     ];
 
     public static IEnumerable<object[]> Names => Kinds.Select(kind => new object[] { kind.Name });
+
+    [Theory]
+    [InlineData(12)] // ends where the data begins
+    [InlineData(4)] // within its own header
+    [InlineData(0)] // up to the end of the file
+    public void Tiles_of_JPEG_2000_may_state_any_length(byte length)
+    {
+        byte[] stream = [0xFF, 0x4F, 0xFF, 0x90, 0, 10, 0, 0, 0, 0, 0, length, 0, 1, 0xFF, 0x93, 0xFF, 0xD9];
+        Assert.Equal(0, Jpeg2000Structure.DecoderBytes(stream, bare: true));
+    }
 
     [Theory]
     [MemberData(nameof(Names))]
