@@ -108,8 +108,8 @@ internal readonly record struct TextRun(string Text, int Font, Affine2 Matrix, d
     /// <summary>Gets the height of the capitals, in ems; 0 where it was not measured.</summary>
     internal double CapHeight { get; init; }
 
-    /// <summary>Gets the box of the outlines in ems where it may be needed: letters reach below the baseline, and accents
-    /// above the capitals.</summary>
+    /// <summary>Gets the box of the outlines in ems where it may be needed: letters reach below the baseline, and
+    /// accents above the capitals.</summary>
     internal Bounds2 Ink { get; init; }
 
     /// <summary>Gets whether the run is there to be searched and copied alone: strokes after it show it.</summary>

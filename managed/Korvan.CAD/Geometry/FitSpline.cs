@@ -28,7 +28,61 @@ internal static class FitSpline
         DrawPieces(pen, p, Slopes(p, startTangent, endTangent), 0, p.Count - 1);
     }
 
+    /// <summary>Returns the knots and control points of the curve as a clamped cubic B-spline; none where there are no
+    /// two points.</summary>
+    internal static (List<double> Knots, List<Vec3> Points) ControlsOf(
+        IReadOnlyList<Vec3> fitPoints, Vec3? startTangent, Vec3? endTangent, bool closed)
+    {
+        List<Vec3> p = Distinct(fitPoints, closed);
+        if (p.Count < 2)
+        {
+            return ([], []);
+        }
+
+        if (closed && p.Count > 2)
+        {
+            (List<Vec3> ring, int first) = Unrolled(p);
+            return ControlsOf(ring, Slopes(ring, null, null), first, first + p.Count);
+        }
+
+        return ControlsOf(p, Slopes(p, startTangent, endTangent), 0, p.Count - 1);
+    }
+
+    // The parameters of a control point are three knots in turn; within a piece, two of them are its ends.
+    private static (List<double> Knots, List<Vec3> Points) ControlsOf(List<Vec3> p, Vec3[] slopes, int first, int last)
+    {
+        List<double> knots = [0, 0, 0, 0];
+        List<Vec3> points = [p[first]];
+        double before = 0;
+        for (int i = first; i < last; i++)
+        {
+            double length = (p[i + 1] - p[i]).Length;
+            Vec3 near = p[i] + (slopes[i] * (length / 3));
+            Vec3 far = p[i + 1] - (slopes[i + 1] * (length / 3));
+            double outside = before / length;
+            points.Add((near * (1 + outside)) - (far * outside));
+            if (i + 1 == last)
+            {
+                points.Add(far);
+            }
+
+            knots.Add(knots[^1] + length);
+            before = length;
+        }
+
+        points.Add(p[last]);
+        knots.AddRange([knots[^1], knots[^1], knots[^1]]);
+        return (knots, points);
+    }
+
     private static void DrawClosed(in PathPen pen, List<Vec3> ring)
+    {
+        (List<Vec3> extended, int first) = Unrolled(ring);
+        DrawPieces(pen, extended, Slopes(extended, null, null), first, first + ring.Count);
+        pen.Close();
+    }
+
+    private static (List<Vec3> Points, int First) Unrolled(List<Vec3> ring)
     {
         int n = ring.Count;
         int wrap = Math.Min(n, 8);
@@ -38,8 +92,7 @@ internal static class FitSpline
             extended.Add(ring[((i % n) + n) % n]);
         }
 
-        DrawPieces(pen, extended, Slopes(extended, null, null), wrap, wrap + n);
-        pen.Close();
+        return (extended, wrap);
     }
 
     private static void DrawPieces(in PathPen pen, List<Vec3> p, Vec3[] slopes, int first, int last)

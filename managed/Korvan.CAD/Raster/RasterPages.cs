@@ -55,6 +55,10 @@ internal sealed record RasterPageData(
 /// <summary>Selects the pages of options.</summary>
 internal static class PageChoice
 {
+    /// <summary>The pixels of further pages that take about as long as one step of the budget: those of an empty one
+    /// are not free.</summary>
+    private const int PixelsPerStep = 700;
+
     internal static int Single(IRasterPages pages, FileFormat format)
     {
         if (pages.Titles.Count != 1)
@@ -103,6 +107,11 @@ internal static class PageChoice
     internal static RasterPageData Render(IRasterPages pages, int index, MultiPageOptions? options)
     {
         RasterPageData page = pages.Render(index);
+        if (index > 0)
+        {
+            Budget.Step(page.Pixels.Count / PixelsPerStep);
+        }
+
         if (options == null || options.ExportArea.IsEmpty)
         {
             return page;

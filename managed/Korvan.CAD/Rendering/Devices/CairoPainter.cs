@@ -69,6 +69,7 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
     private ClipArea _clip = new(Bounds2.Of(-FarAway, -FarAway, FarAway, FarAway), IsBox: true);
     private bool _isDirect;
     private DenseFiller? _denseFiller;
+    private readonly GlyphUses _glyphs = new();
     private Rgba _color;
     private bool _hasColor;
     private double _lineWidth = -1;
@@ -236,6 +237,10 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
 
         UseCairo();
         SetColor(item.Color);
+
+        // The text may have to be shaped as well.
+        using GlyphCache.Scope scope = GlyphCache.Use(
+            2 * _glyphs.Add(run.Font, _engine.KeyOf(run.Font), toDevice, run.Text));
         Cairo.Save(_cr);
 
         // The run's y runs up, pango's down.

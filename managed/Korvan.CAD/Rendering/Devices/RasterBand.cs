@@ -22,7 +22,7 @@ internal sealed unsafe class RasterBand : IDisposable
             (byte*)pixels.First, CairoFormat.Argb32, pixels.Width, rows.End - rows.First, pixels.Stride);
         _surface = new NativeHandle(surface, &Cairo.SurfaceDestroy);
         Cairo.SurfaceSetDeviceOffset(surface, 0, -rows.First);
-        _cr = new NativeHandle(Cairo.Create(surface), &Cairo.Destroy);
+        _cr = new NativeHandle(Cairo.Create(surface), &GlyphCache.Destroy);
         var target = new PixelTarget(surface, rows, new ThinLinePainter(pixels, rows));
         Painter = CairoPainter.Begin(_cr.Pointer, engine, page, target);
     }

@@ -33,7 +33,7 @@ internal sealed unsafe partial class GlyphOutlines : IDisposable
         _engine = engine;
         nint recording = Cairo.RecordingSurfaceCreate(Cairo.ContentColorAlpha, null);
         using var surface = new NativeHandle(recording, &Cairo.SurfaceDestroy);
-        _context = new NativeHandle(Cairo.Create(surface.Pointer), &Cairo.Destroy);
+        _context = new NativeHandle(Cairo.Create(surface.Pointer), &GlyphCache.Destroy);
     }
 
     /// <summary>Returns the glyphs of a run that show something. Outlines that are new are added to a list.</summary>
@@ -112,6 +112,7 @@ internal sealed unsafe partial class GlyphOutlines : IDisposable
     {
         var native = new CairoGlyph { Index = glyph };
         nint cr = _context.Pointer;
+        using GlyphCache.Scope scope = GlyphCache.Use(0);
         Cairo.NewPath(cr);
         SetScaledFont(cr, Pango.CairoFontGetScaledFont(font));
         GlyphPath(cr, &native, 1);

@@ -59,7 +59,7 @@ internal sealed unsafe class FontUses : System.IDisposable
     {
         if (!_uses.TryGetValue(font, out FontUse? use))
         {
-            _fonts.Add(new NativeHandle(Pango.Reference(font), &Pango.Unref));
+            _fonts.Add(new NativeHandle(Pango.Reference(font), &GlyphCache.Unref));
             nint pattern = Pango.FcFontGetPattern(font);
             nint face = HarfBuzz.FontGetFace(Pango.FontGetHarfBuzz(font));
             use = new FontUse(font, face, Fontconfig.NameOf(pattern) ?? "Font", Fontconfig.MatrixOf(pattern),

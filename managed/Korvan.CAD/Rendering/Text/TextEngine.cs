@@ -233,6 +233,9 @@ internal sealed unsafe class TextEngine : IDisposable
     /// <summary>The glyphs of a run.</summary>
     internal ShapedLine Line(in TextRun run) => Line(run.Font, run.Text, run.LetterSpacing);
 
+    /// <summary>Returns what a font is for all threads.</summary>
+    internal FontFaceKey KeyOf(int font) => Shaper.KeyOf(_shaped[font]);
+
     /// <summary>The box of the outlines of a run, in its ems, y up from the baseline.</summary>
     internal Bounds2 InkOf(in TextRun run)
     {
@@ -301,13 +304,14 @@ internal sealed unsafe class TextEngine : IDisposable
     /// <summary>Adds the outlines of a run; the matrix maps its ems, y up from the baseline.</summary>
     internal void AddOutline(in TextRun run, in Affine2 matrix, PathBuffer target)
     {
+        using GlyphCache.Scope scope = GlyphCache.Use(Shaper.NewParts(_shaped[run.Font], run.Text));
         nint line = Shape(run.Font, run.Text, run.LetterSpacing);
         if (_outliner is null)
         {
             // A bounded surface would lose the glyphs beyond its bounds, even from a path.
             nint recording = Cairo.RecordingSurfaceCreate(Cairo.ContentColorAlpha, null);
             using var surface = new NativeHandle(recording, &Cairo.SurfaceDestroy);
-            _outliner = new NativeHandle(Cairo.Create(surface.Pointer), &Cairo.Destroy);
+            _outliner = new NativeHandle(Cairo.Create(surface.Pointer), &GlyphCache.Destroy);
         }
 
         nint outliner = _outliner.Pointer;

@@ -44,6 +44,7 @@ internal sealed unsafe class TextShaper
     private readonly Dictionary<FontSpec, int> _numbers = new(FontSpec.ByValue);
     private readonly List<ShaperFont> _fonts = [];
     private readonly FontUses _uses = new();
+    private readonly GlyphUses _glyphs = new();
     private readonly NativeHandle _fontMap;
     private readonly NativeHandle _context;
     private readonly NativeHandle _layout;
@@ -55,13 +56,13 @@ internal sealed unsafe class TextShaper
     private TextShaper(GlyphRendering look, nint config)
     {
         (_look, _config) = (look, config);
-        _fontMap = new NativeHandle(Pango.CairoFontMapNew(), &Pango.Unref);
+        _fontMap = new NativeHandle(Pango.CairoFontMapNew(), &GlyphCache.Unref);
         if (config != 0)
         {
             Pango.FcFontMapSetConfig(_fontMap.Pointer, config);
         }
 
-        _context = new NativeHandle(Pango.FontMapCreateContext(_fontMap.Pointer), &Pango.Unref);
+        _context = new NativeHandle(Pango.FontMapCreateContext(_fontMap.Pointer), &GlyphCache.Unref);
         Pango.CairoContextSetResolution(_context.Pointer, PointsPerInch);
         Pango.ContextSetRoundGlyphPositions(_context.Pointer, 0);
         using var options = new NativeHandle(Cairo.FontOptionsCreate(), &Cairo.FontOptionsDestroy);
@@ -69,7 +70,7 @@ internal sealed unsafe class TextShaper
         Cairo.FontOptionsSetHintMetrics(options.Pointer, HintMetricsOff);
         Cairo.FontOptionsSetAntialias(options.Pointer, look.Antialias);
         Pango.CairoContextSetFontOptions(_context.Pointer, options.Pointer);
-        _layout = new NativeHandle(Pango.LayoutNew(_context.Pointer), &Pango.Unref);
+        _layout = new NativeHandle(Pango.LayoutNew(_context.Pointer), &GlyphCache.Unref);
         Pango.LayoutSetSingleParagraphMode(_layout.Pointer, 1);
         Pango.LayoutSetAutoDir(_layout.Pointer, 1);
     }
@@ -135,6 +136,7 @@ internal sealed unsafe class TextShaper
         string key = letterSpacing == 0 ? text : $"{letterSpacing:R}\0{text}";
         if (!lines.TryGetValue(key, out ShapedLine? line))
         {
+            using GlyphCache.Scope scope = GlyphCache.Use(NewParts(font, text));
             line = LineReader.Read(Shape(font, text, letterSpacing), text, EmSize * Pango.Scale, _uses);
             _charactersOfLines += text.Length + 1;
             if (_charactersOfLines > MaxCharactersOfLines)
@@ -149,10 +151,21 @@ internal sealed unsafe class TextShaper
         return line;
     }
 
+    /// <summary>Returns what the cache of glyphs may take more by a text, in parts of pages.</summary>
+    internal long NewParts(int font, string text) => _glyphs.Add(font, KeyOf(font), Affine2.Identity, text);
+
+    /// <summary>Returns what a font is for all threads.</summary>
+    internal FontFaceKey KeyOf(int font)
+    {
+        FontSpec spec = _fonts[font].Spec;
+        return new FontFaceKey(spec.Family, spec.Bold, spec.Italic, _config);
+    }
+
     /// <summary>Returns the box of the outlines of a text, in ems, y up from the baseline.</summary>
     internal Bounds2 InkOf(int font, string text, double letterSpacing)
     {
         PangoRectangle ink;
+        using GlyphCache.Scope scope = GlyphCache.Use(NewParts(font, text));
         Pango.LayoutLineGetExtents(Shape(font, text, letterSpacing), &ink, null);
         const double em = Pango.Scale * EmSize;
         return ink.Width > 0 && ink.Height > 0
@@ -163,6 +176,7 @@ internal sealed unsafe class TextShaper
     /// <summary>Returns pango's line of a text, which holds until the next one is shaped.</summary>
     internal nint Shape(int font, string text, double letterSpacing)
     {
+        using GlyphCache.Scope scope = GlyphCache.Use(NewParts(font, text));
         if (font != _currentFont)
         {
             Pango.LayoutSetFontDescription(_layout.Pointer, _fonts[font].Description.Pointer);
@@ -234,6 +248,7 @@ internal sealed unsafe class TextShaper
     private double MeasureCapRatio(int font)
     {
         PangoRectangle ink;
+        using GlyphCache.Scope scope = GlyphCache.Use(NewParts(font, "H"));
         Pango.LayoutLineGetExtents(Shape(font, "H", 0), &ink, null);
         double ratio = -ink.Y / (Pango.Scale * EmSize);
         return ratio is > 0.2 and < 2 ? ratio : DefaultCapRatio;

@@ -1,6 +1,9 @@
+using System;
 using System.Collections.Generic;
 using Korvan.CAD.Collections;
 using Korvan.CAD.FileFormats.Cad.Exchange;
+using Korvan.CAD.FileFormats.Cad.Model;
+using Korvan.CAD.Geometry;
 
 namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 
@@ -9,6 +12,13 @@ namespace Korvan.CAD.FileFormats.Cad.CadObjects;
 [CadBits("ExchangeSpline()")]
 public partial class CadSpline : CadEntityBase
 {
+    private const int FitDegree = 3;
+
+    // What records of fit points do not state.
+    private const short PlanarFromFit = 0x428;
+    private const double KnotOfFit = 1e-9;
+    private const double PointOfFit = 1e-10;
+
     /// <summary>Creates the object with its defaults.</summary>
     public CadSpline()
     {
@@ -102,15 +112,22 @@ public partial class CadSpline : CadEntityBase
 
         Flag = fields.Int16(70, Flag);
         Degree = fields.Int16(71, Degree);
-        int knots = fields.Count(72, KnotValues.Count);
-        int controlPoints = fields.Count(73, ControlPoints.Count);
+        (List<double> knotValues, IList<Cad3DPoint> points) = (KnotValues, ControlPoints);
+        if (fields.HasWholeSplines && ControlPoints.Count == 0 && Degree == FitDegree)
+        {
+            (knotValues, List<Vec3> derived) = DeriveControlPoints();
+            points = derived.ConvertAll(static point => new Cad3DPoint(point.X, point.Y, point.Z));
+        }
+
+        int knots = fields.Count(72, knotValues.Count);
+        int controlPoints = fields.Count(73, points.Count);
         int fitPoints = fields.Count(74, FitPoints.Count);
         KnotTolerance = fields.Double(42, KnotTolerance);
         ControlPointTolerance = fields.Double(43, ControlPointTolerance);
         ExchangeFit(fields, fitPoints);
-        fields.Items(40, KnotValues, knots);
+        fields.Items(40, knotValues, knots);
         fields.Items(41, Weights, fields.Count(0, Weights.Count));
-        fields.Points(10, ControlPoints, controlPoints);
+        fields.Points(10, points, controlPoints);
         fields.Points(11, FitPoints, fitPoints);
     }
 
@@ -138,19 +155,29 @@ public partial class CadSpline : CadEntityBase
         const int onlyFitPoints = 2;
         const int closedSince2013 = 4;
         const int customKnots = 15;
-        bool isFit = ControlPoints.Count == 0 && FitPoints.Count > 0;
+        bool isFit = !fields.IsReading && FitPoints.Count > 0 && (ControlPoints.Count == 0 || FollowsFitPoints());
+        bool isClosedFit = false;
+        if (isFit && IsClosed && fields.Release < 2013 && ControlPoints.Count == 0)
+        {
+            // Older records of fit points do not say that the curve is closed.
+            WithControlPoints().ExchangeSpline(fields);
+            return;
+        }
+
         int scenario = fields.BitLong(isFit ? onlyFitPoints : controlPoints);
         if (fields.Release >= 2013)
         {
             int flags = fields.BitLong(isFit ? 1 | (IsClosed ? closedSince2013 : 0) : 0);
             int knots = fields.BitLong(isFit ? 0 : customKnots);
             scenario = fields.IsReading && (flags & 1) != 0 && knots != customKnots ? onlyFitPoints : scenario;
+            isClosedFit = (flags & closedSince2013) != 0;
         }
 
         Degree = (short)fields.BitLong(Degree);
         if (scenario == onlyFitPoints)
         {
             ExchangeFitPoints(fields);
+            Flag |= (short)(fields.IsReading && isClosedFit ? 1 : 0);
         }
         else
         {
@@ -160,12 +187,52 @@ public partial class CadSpline : CadEntityBase
 
     private void ExchangeFitPoints(BitExchange fields)
     {
-        const int planarFromFit = 0x408;
         FitTolerance = fields.BitDouble(FitTolerance);
         fields.Point3(StartTangent);
         fields.Point3(EndTangent);
         fields.Points3(FitPoints, fields.CountLong(FitPoints.Count));
-        Flag = fields.IsReading ? (short)planarFromFit : Flag;
+        if (fields.IsReading)
+        {
+            (Flag, KnotTolerance, ControlPointTolerance) = (PlanarFromFit, KnotOfFit, PointOfFit);
+        }
+    }
+
+    private CadSpline WithControlPoints()
+    {
+        (List<double> knots, List<Vec3> points) = DeriveControlPoints();
+        CadSpline spline = new() { Flag = Flag, Degree = FitDegree };
+        spline.KnotValues.AddRange(knots);
+        points.ForEach(point => spline.ControlPoints.Add(new Cad3DPoint(point.X, point.Y, point.Z)));
+        return spline;
+    }
+
+    private (List<double> Knots, List<Vec3> Points) DeriveControlPoints() => FitSpline.ControlsOf(
+        FitPoints.ConvertAll(static point => point.ToVec3()), StartTangent.ToVec3(), EndTangent.ToVec3(), IsClosed);
+
+    // Records have either; those that follow from the others are not lost.
+    private bool FollowsFitPoints()
+    {
+        const double tolerance = 1e-7;
+        bool isUsual = (Flag, KnotTolerance, ControlPointTolerance) == (PlanarFromFit, KnotOfFit, PointOfFit);
+        if (!isUsual || Degree != FitDegree || Weights.Count > 0 || FitPoints.Count + 2 != ControlPoints.Count)
+        {
+            return false;
+        }
+
+        (List<double> knots, List<Vec3> points) = DeriveControlPoints();
+        double room = knots.Count > 0 ? knots[^1] * tolerance : 0;
+        bool follows = knots.Count == KnotValues.Count && points.Count == ControlPoints.Count;
+        for (int i = 0; follows && i < points.Count; i++)
+        {
+            follows = (points[i] - ControlPoints[i].ToVec3()).Length <= room;
+        }
+
+        for (int i = 0; follows && i < knots.Count; i++)
+        {
+            follows = Math.Abs(knots[i] - KnotValues[i]) <= room;
+        }
+
+        return follows;
     }
 
     private void ExchangeControlPoints(BitExchange fields)

@@ -17,6 +17,8 @@ internal sealed class DxfFieldWriter(DxfTagWriter writer) : ObjectExchange
 
     internal override bool IsReading => false;
 
+    internal override bool HasWholeSplines => true;
+
     internal override ModelerForm Modeler =>
         writer.Release < ModelerSection.Since ? ModelerForm.Text : ModelerForm.Separate;
 

@@ -18,6 +18,9 @@ internal abstract partial class ObjectExchange
     /// <summary>Gets the form in which the format has the data of solids.</summary>
     internal virtual ModelerForm Modeler => ModelerForm.Unchanged;
 
+    /// <summary>Gets whether a spline through fit points has to state its control points, too.</summary>
+    internal virtual bool HasWholeSplines => false;
+
     /// <summary>Begins the fields of a subclass.</summary>
     internal abstract void BeginSubclass(string name);
 

@@ -28,7 +28,8 @@ internal static class EntityDigests
         return found;
     }
 
-    /// <summary>Returns a number for the fields of an entity, without its handle and what no class interprets.</summary>
+    /// <summary>Returns a number for the fields of an entity, without its handle and what no class interprets.
+    /// </summary>
     internal static ulong OfFields(CadEntityBase entity)
     {
         const int exact = 15;

@@ -58,7 +58,10 @@ public partial class LossTests(ITestOutputHelper output)
         (Before2007, "^(LIGHT|PDFUNDERLAY) \\w+ is missing", Newer),
         (Before2013, "^(MULTILEADER|MLEADERSTYLE) \\w+: \\w+ (295|298) ", Newer),
         (".*", "^(3DSOLID|REGION|BODY|\\w+SURFACE) \\w+: AcDbModelerGeometry (1|70) ", "text or binary data"),
+        (Before2013, "^SPLINE \\w+: AcDbSpline ([1-3][0-3]|40|4[2-4]|7[0234]) ",
+            "closed curves have control points before 2013"),
         (Before2018, "^ACDB(SECTION|DETAIL)VIEWSTYLE \\w+: AcDbModelDocViewStyle (300|90) ", Newer),
+        ("DXF", "^SPLINE \\w+: AcDbSpline (72|73|40|10|20|30) ", "control points that follow from fit points"),
         ("DXF", "^XRECORD \\w+: (AcDbXrecord 10\\d\\d|the extended data) ", "text files take it for extended data"),
     ];
 
