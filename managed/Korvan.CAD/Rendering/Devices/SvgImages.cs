@@ -1,4 +1,3 @@
-using System;
 using System.Collections.Generic;
 using Korvan.CAD.DisplayList;
 using Korvan.CAD.Geometry;
