@@ -7,11 +7,14 @@ namespace Korvan.CAD.Geometry;
 /// <summary>A subpath as points; the first stands again at the end of one that is closed.</summary>
 internal readonly record struct FlatLine(Vec2[] Points, bool Closed)
 {
+    private const long CheckedBytes = 2 << 20;
+
     /// <summary>Flattens the curves of a path within the tolerance.</summary>
     internal static List<FlatLine> Of(PathBuffer path, double tolerance)
     {
         var lines = new List<FlatLine>();
         var points = new List<Vec2>();
+        long taken = 0;
         ReadOnlySpan<double> c = path.Coords;
         int at = 0;
         foreach (PathVerb verb in path.Verbs)
@@ -19,7 +22,7 @@ internal readonly record struct FlatLine(Vec2[] Points, bool Closed)
             switch (verb)
             {
                 case PathVerb.Move:
-                    Finish(lines, points, closed: false);
+                    Finish(lines, points, closed: false, ref taken);
                     points.Add(new Vec2(c[at], c[at + 1]));
                     at += 2;
                     break;
@@ -33,7 +36,7 @@ internal readonly record struct FlatLine(Vec2[] Points, bool Closed)
                     break;
                 default:
                     Vec2 start = points.Count > 0 ? points[0] : default;
-                    Finish(lines, points, closed: true);
+                    Finish(lines, points, closed: true, ref taken);
 
                     // What follows a closed subpath without a move begins where that began.
                     points.Add(start);
@@ -41,7 +44,7 @@ internal readonly record struct FlatLine(Vec2[] Points, bool Closed)
             }
         }
 
-        Finish(lines, points, closed: false);
+        Finish(lines, points, closed: false, ref taken);
         return lines;
     }
 
@@ -62,7 +65,7 @@ internal readonly record struct FlatLine(Vec2[] Points, bool Closed)
         }
     }
 
-    private static void Finish(List<FlatLine> lines, List<Vec2> points, bool closed)
+    private static void Finish(List<FlatLine> lines, List<Vec2> points, bool closed, ref long taken)
     {
         if (points.Count > 1)
         {
@@ -71,7 +74,14 @@ internal readonly record struct FlatLine(Vec2[] Points, bool Closed)
                 points.Add(points[0]);
             }
 
-            Workload.Reserve((long)points.Count * Unsafe.SizeOf<Vec2>());
+            // Memory is looked at for amounts that count; many small subpaths are one.
+            taken += (long)points.Count * Unsafe.SizeOf<Vec2>();
+            if (taken > CheckedBytes)
+            {
+                Workload.Reserve(taken);
+                taken = 0;
+            }
+
             lines.Add(new FlatLine([.. points], closed));
         }
 

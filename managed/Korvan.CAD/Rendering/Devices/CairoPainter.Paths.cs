@@ -20,6 +20,9 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>The edges of fills in dense rows that take about as long as one step of the budget.</summary>
     private const int FillEdgesPerStep = 36;
 
+    /// <summary>The rows of pixels that edges cross in about the time of one step, where they are few in a row.</summary>
+    private const double EdgeRowsPerStep = 120;
+
     /// <summary>The same for edges of strokes, whose outlines have to be made, too.</summary>
     private const int StrokeEdgesPerStep = 16;
 
@@ -41,13 +44,13 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>Counts the work of filling a path, or the outline of its stroke.</summary>
     private void CountWork(in DisplayItem item, int edgesPerSegment, int edgesPerStep)
     {
-        Budget.Step(1 + (item.VerbCount / VerbsPerStep));
+        double edges = EdgesOf(item, out double rows) * edgesPerSegment;
+        Budget.Step(1 + (item.VerbCount / VerbsPerStep) + (long)(edges / EdgeRowsPerStep));
         if (item.VerbCount < MinVerbsOfDensePath)
         {
             return;
         }
 
-        double edges = EdgesOf(item, out double rows) * edgesPerSegment;
         double density = edges / rows / EdgesOfDenseRow;
         Budget.Step((long)(edges / edgesPerStep * Math.Min(1, density)));
     }

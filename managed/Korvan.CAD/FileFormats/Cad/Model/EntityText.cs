@@ -33,8 +33,8 @@ internal static class EntityText
         CadLwPolyline line => $" with {Count(line.Coordinates.Count, "vertex", "vertices")}",
         CadPolylineBase line => $" with {Count(line.Vertices.Count, "vertex", "vertices")}",
         CadVertexBase vertex => $" at {vertex.LocationPoint}",
-        CadSpline spline =>
-            $" with {Count(Math.Max(spline.ControlPoints.Count, spline.FitPoints.Count), "point", "points")}",
+        CadSpline { FitPoints.Count: > 0 } spline => $" with {Count(spline.FitPoints.Count, "point", "points")}",
+        CadSpline spline => $" with {Count(spline.ControlPoints.Count, "point", "points")}",
         CadHatch hatch => $" of {hatch.PatternName} with {Count(hatch.BoundaryPaths.Count, "boundary", "boundaries")}",
         CadLeader leader => $" with {Count(leader.Coordinates.Count, "vertex", "vertices")}",
         CadMultiLine line => $" with {Count(line.Vertices.Count, "vertex", "vertices")}",
