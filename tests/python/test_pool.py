@@ -3,7 +3,10 @@
 from __future__ import annotations
 
 import os
+import pickle
+import select
 import signal
+import socket
 import subprocess
 import sys
 import tempfile
@@ -13,6 +16,7 @@ import unittest
 from pathlib import Path
 
 from korvan.tools import Pool, ToolError
+from korvan.tools.worker import pack
 
 from pool_tasks import work
 
@@ -68,6 +72,18 @@ class Pools(unittest.TestCase):
             found = sorted((outcome.task, outcome.status) for outcome in outcomes)
             thread.join(60)
         self.assertEqual(found, [("a", "done"), ("b", "done"), ("c", "done")])
+
+    def test_a_worker_whose_last_answer_nobody_reads_ends_quietly(self) -> None:
+        ours, theirs = socket.socketpair()
+        run = f"from korvan.tools.worker import main; main({theirs.fileno()}, 0)"
+        here = {**os.environ, "PYTHONPATH": os.pathsep.join(sys.path)}
+        with subprocess.Popen([sys.executable, "-c", run], pass_fds=[theirs.fileno()], stderr=subprocess.PIPE,
+                              env=here) as process:
+            theirs.close()
+            ours.sendall(pack((None, pickle.dumps(os.getpid))))
+            self.assertTrue(select.select([ours], [], [], 60)[0])
+            ours.close()
+            self.assertEqual((process.communicate(timeout=60)[1], process.returncode), (b"", 0))
 
     def test_leaving_the_loop_ends_what_runs(self) -> None:
         with Pool(2, imports=()) as pool:

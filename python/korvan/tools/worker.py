@@ -27,8 +27,11 @@ def pack(message: object) -> bytes:
 
 def _read(stream: BinaryIO) -> bytes | None:
     """The next message, still pickled; ``None`` when the other side has ended."""
-    length = stream.read(LENGTH)
-    content = stream.read(int.from_bytes(length, "little"))
+    try:
+        length = stream.read(LENGTH)
+        content = stream.read(int.from_bytes(length, "little"))
+    except ConnectionResetError:  # it ended before it read the last answer
+        return None
     return content if len(length) == LENGTH and content else None
 
 
