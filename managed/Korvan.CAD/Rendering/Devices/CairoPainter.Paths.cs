@@ -20,7 +20,7 @@ internal sealed unsafe partial class CairoPainter
     /// <summary>The edges of fills in dense rows that take about as long as one step of the budget.</summary>
     private const int FillEdgesPerStep = 36;
 
-    /// <summary>The rows of pixels that edges cross in about the time of one step, where they are few in a row.</summary>
+    /// <summary>Rows of pixels that edges cross in about the time of one step, where few are in a row.</summary>
     private const double EdgeRowsPerStep = 120;
 
     /// <summary>The same for edges of strokes, whose outlines have to be made, too.</summary>
