@@ -98,6 +98,13 @@ class Kills(unittest.TestCase):
             wait_for_end(workers)
             self.assertEqual(batch.states(), {"slow.dxf": "running"})
 
+    def test_the_last_worker_dies_while_the_last_file_waits_for_it(self) -> None:
+        with Batch() as batch:
+            batch.script()
+            batch.add("1 crash.dxf", "2.dxf")
+            self.assertEqual(batch.summary("--jobs", "1")["done"], 2)
+            self.assertEqual(batch.runs_of("1 crash.dxf"), 2)
+
     def test_workers_are_killed_again_and_again(self) -> None:
         process = self.batch.start("--jobs", "2", "--no-thumbnails")
         for kill in range(KILLS):

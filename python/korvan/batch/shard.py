@@ -97,7 +97,7 @@ class ShardRun:
                     self._on_outcome(work, outcome)
                 self._finished = []
                 self._send_noted()
-                if self._pool.busy() or self._waiting or self._alone:
+                if self._pool.busy() or self._waiting or self._alone or self._noted:
                     for event in self._pool.events():
                         self._handle(event, journal)
                 self._on_tick()
@@ -115,8 +115,9 @@ class ShardRun:
         """Files for the workers that are ready, and one for each of the others, which is not to wait for the journal
         when it is ready. When none is left, one of those that wait to be alone."""
         begun: list[Work] = []
-        if self._waiting:
+        if self._waiting or self._noted:
             self._pool.fill(len(self._waiting) + len(self._noted) + len(self._pool.busy()))
+        if self._waiting:
             count = len(self._pool.ready()) + self._pool.jobs - len(self._noted)
             while len(begun) < count and (work := self._next(self._waiting)):
                 begun.append(work)

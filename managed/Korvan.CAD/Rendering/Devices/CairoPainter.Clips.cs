@@ -11,6 +11,18 @@ internal sealed unsafe partial class CairoPainter
 {
     private ClipMask? _lastMask;
 
+    /// <summary>Frees the pixels under masks that have not ended, as a page was refused.</summary>
+    public void Dispose()
+    {
+        _clip.Mask?.Before.Dispose();
+        while (_clips.TryPop(out ClipArea clip))
+        {
+            clip.Mask?.Before.Dispose();
+        }
+
+        _clip = default;
+    }
+
     protected override void BeginClip(in DisplayItem item)
     {
         UseCairo();

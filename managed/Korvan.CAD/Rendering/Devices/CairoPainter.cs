@@ -21,7 +21,7 @@ internal readonly record struct ClipArea(Bounds2 Box, bool IsBox, int Steps = 0,
 /// Plays a list on a cairo context. Coordinates are mapped here, in double precision: cairo keeps 24.8 fixed point,
 /// and drawings lie at map coordinates of seven digits.
 /// </summary>
-internal sealed unsafe partial class CairoPainter : ItemPlayer
+internal sealed unsafe partial class CairoPainter : ItemPlayer, IDisposable
 {
     /// <summary>Far outside of any page; keeps coordinates inside cairo's fixed point range.</summary>
     private const double FarAway = 4_000_000;
@@ -110,7 +110,7 @@ internal sealed unsafe partial class CairoPainter : ItemPlayer
         {
             PaintSettings settings =
                 page.Settings with { ToDevice = Affine2.Identity, PaintBackground = false, Clip = null };
-            CairoPainter overlay = Begin(_cr, _engine, page.Overlay, settings, _target);
+            using CairoPainter overlay = Begin(_cr, _engine, page.Overlay, settings, _target);
             overlay.DrawItems(page.Overlay);
             overlay.End();
         }

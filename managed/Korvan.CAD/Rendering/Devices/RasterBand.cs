@@ -43,6 +43,7 @@ internal sealed unsafe class RasterBand : IDisposable
     /// <inheritdoc/>
     public void Dispose()
     {
+        Painter.Dispose();
         _cr.Dispose();
         _surface.Dispose();
     }
