@@ -4,7 +4,12 @@ using System.Globalization;
 using System.IO;
 using System.Linq;
 using Korvan.CAD.CadExceptions;
+using Korvan.CAD.DisplayList;
+using Korvan.CAD.Geometry;
 using Korvan.CAD.Raster.Pixels;
+using Korvan.CAD.Rendering.Devices;
+using Korvan.CAD.Rendering.Text;
+using Korvan.CAD.Tests.Rendering;
 using Xunit;
 
 namespace Korvan.CAD.Tests.Raster;
@@ -96,5 +101,34 @@ public class CacheTests : IDisposable
             Assert.Equal((30, 40, corner), (image.Width, image.Height, image.GetArgb32Pixel(0, 0)));
             Assert.Equal(exact, Cache.AllocatedMemoryBytesCount < before);
         }
+    }
+
+    [Fact]
+    public void A_page_that_is_refused_under_a_mask_keeps_no_pixels()
+    {
+        var circle = new PathBuffer();
+        var zigzag = new PathBuffer();
+        circle.MoveTo(new Vec2(170, 90));
+        zigzag.MoveTo(new Vec2(0, 0));
+        for (int i = 1; i < 60_000; i++)
+        {
+            zigzag.LineTo(new Vec2((i * 79.19) % 300, (i & 1) * 200));
+            if (i < 200)
+            {
+                (double sin, double cos) = Math.SinCos(i * Math.PI / 100);
+                circle.LineTo(new Vec2(90 + (80 * cos), 90 + (80 * sin)));
+            }
+        }
+
+        var list = new DrawingList();
+        list.PushClip(circle, evenOdd: false);
+        list.Stroke(zigzag, new StrokeAttributes
+        { Color = new Rgba(255, 0, 0), LineWeight = 4, WeightInUnits = true, Dash = -1 });
+        list.PopClip();
+        using var engine = new TextEngine();
+        using Budget budget = Budget.Begin(1000);
+        long before = Cache.AllocatedMemoryBytesCount;
+        Assert.Throws<LimitMemoryException>(() => RasterPage.Render(engine, PdfSample.PageOf(list)).Dispose());
+        Assert.Equal(before, Cache.AllocatedMemoryBytesCount);
     }
 }
